@@ -1,0 +1,58 @@
+# Settings that every target of the project shares, and the layer check.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+option(TALLYMERE_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
+if(TALLYMERE_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+add_library(tallymere_options INTERFACE)
+target_include_directories(tallymere_options INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_definitions(tallymere_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+    TALLYMERE_VERSION="${PROJECT_VERSION}")
+target_compile_options(tallymere_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wno-sign-conversion
+    -Werror)
+
+# Precompiled headers, one set for code without widgets and one for screens.
+set(TALLYMERE_CORE_PCH <algorithm> <functional> <memory> <optional> <vector>
+    <QDate> <QDateTime> <QHash> <QList> <QObject> <QString> <QStringList>)
+set(TALLYMERE_SCREEN_PCH ${TALLYMERE_CORE_PCH} <QAction> <QDialog> <QLineEdit> <QPushButton> <QTableView>
+    <QWidget>)
+
+# A wrong include stops the build: the script knows which room may include which.
+add_custom_target(layers ALL
+    COMMAND ${CMAKE_COMMAND} -DROOT=${CMAKE_SOURCE_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/CheckLayers.cmake
+    COMMENT "Checking that the includes between the rooms point one way" VERBATIM)
+
+# tallymere_room(NAME [SCREENS] SOURCES ... LINK ...): one static library of the project.
+function(tallymere_room name)
+    cmake_parse_arguments(ROOM "SCREENS" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${ROOM_SOURCES})
+    target_link_libraries(${name} PUBLIC tallymere_options ${ROOM_LINK})
+    add_dependencies(${name} layers)
+    if(ROOM_SCREENS)
+        target_precompile_headers(${name} PRIVATE ${TALLYMERE_SCREEN_PCH})
+    else()
+        target_precompile_headers(${name} PRIVATE ${TALLYMERE_CORE_PCH})
+    endif()
+endfunction()

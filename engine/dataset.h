@@ -1,0 +1,147 @@
+#pragma once
+
+#include "engine/field.h"
+#include "engine/value.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <deque>
+#include <memory>
+#include <vector>
+
+namespace Engine {
+
+class Database;
+
+using Row = std::vector<Value>; // in the order of the fields; calculated fields hold null here
+
+enum class LocateOption { None = 0, CaseInsensitive = 1, PartialKey = 2 };
+Q_DECLARE_FLAGS(LocateOptions, LocateOption)
+Q_DECLARE_OPERATORS_FOR_FLAGS(LocateOptions)
+
+// An ordered set of rows with a current record: the common base of Table and Query.
+//
+// The set is held as ordered keys; rows are fetched in windows around what is asked for. Opening costs nothing
+// until a row or the count is asked for; a million rows open, scroll and find without being read. Rows are
+// counted from 0. The set is a snapshot of keys: rows that others add appear at refresh(), rows that others have
+// deleted read as nulls until then.
+class DataSet : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~DataSet() override;
+
+    Database &database() const { return m_database; }
+
+    virtual void open() = 0;
+    virtual void close() = 0;
+    bool isOpen() const { return m_open; }
+
+    // --- fields -------------------------------------------------------------------------------------------------
+    // Data fields are known once the set is open. Lookup and calculated fields are added before that.
+    int fieldCount() const { return static_cast<int>(m_fields.size()); }
+    int fieldIndex(QStringView name) const; // -1 when there is none
+    const Field &field(int index) const { return m_fields[static_cast<size_t>(index)]; }
+    Field &field(QStringView name); // to set label, format, validate, changed; throws NoSuchField
+    const Field &field(QStringView name) const;
+    void addLookup(const QString &name, FieldType type, int size, Lookup lookup);
+    void addCalculated(const QString &name, FieldType type, int size, std::function<Value(const DataSet &)> rule);
+
+    // --- the current record ---------------------------------------------------------------------------------------
+    // Of an empty set every value is null.
+    virtual Value value(int field) const;
+    Value value(QStringView name) const { return value(requireField(name)); }
+    QString text(QStringView name) const { return value(name).toText(); }
+    int integer(QStringView name) const { return value(name).toInt(); }
+    double number(QStringView name) const { return value(name).toDouble(); }
+    Money money(QStringView name) const { return value(name).toMoney(); }
+    bool boolean(QStringView name) const { return value(name).toBool(); }
+    QDate date(QStringView name) const { return value(name).toDate(); }
+    QString displayText(QStringView name) const;
+
+    // --- moving ---------------------------------------------------------------------------------------------------
+    bool isEmpty() const { return recordCount() == 0; }
+    int recordCount() const; // reads the keys
+    int recordIndex() const { return m_index; } // of the current record; -1 when the set is empty
+    bool atEnd() const { return m_atEnd; } // next() went past the last record, or the set is empty
+    bool atBegin() const { return m_atBegin; }
+    void first();
+    void last();
+    void next();
+    void prior();
+    void moveTo(int index); // clamped to the set
+
+    // The row at an index without moving, for lists. Reads the window around it if it is not in hand.
+    const Row &rowAt(int index) const;
+    Value valueAt(int index, int field) const; // as rowAt, with calculated fields as well
+    // The key of a row, to find it again after a refresh. Empty for an empty set.
+    QList<qint64> keyAt(int index) const;
+    QList<qint64> currentKey() const;
+    bool moveToKey(const QList<qint64> &key); // false, and no move, when the set does not hold it
+    // The first rows of the set before the keys are read, so that a list can paint at once.
+    std::vector<Row> firstRows(int count) const;
+
+    // --- finding and restricting ------------------------------------------------------------------------------------
+    // Moves to the first row in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values;
+    // PartialKey lets the last text begin with its value. Reads no more than that row's window and the keys; on
+    // failure the record stays.
+    bool locate(const QString &fields, const QList<Value> &values, LocateOptions options = LocateOption::None);
+
+    // A condition over data fields, in force while filtered is set:
+    //   (WarehouseID = 2) AND (Posted <> true) OR NOT (Name LIKE 'A%')
+    // with = <> < > <= >=, LIKE, IS [NOT] NULL, + - * /, AND, OR, NOT, parentheses, numbers, 'texts' (two quotes for
+    // one), true, false, null and dates as 'YYYY-MM-DD'. An empty Boolean fails "= false" and passes "<> true". It is
+    // parsed, never pasted: a bad one throws BadExpression saying where, and the old filter stays.
+    void setFilter(const QString &expression);
+    const QString &filter() const { return m_filter; }
+    void setFiltered(bool on);
+    bool isFiltered() const { return m_filtered; }
+
+    // Reads the set anew and stays on the current row; when that is gone, on the one that took its place.
+    virtual void refresh();
+
+Q_SIGNALS:
+    void opened();
+    void closed();
+    void listChanged(); // keys are new: count and order may differ
+    void rowChanged(int index); // the values of one row of the list are new
+    void currentChanged(); // another record is current, or the current one has new values as a whole
+    void fieldChanged(int field); // one value of the current record is new
+    void stateChanged();
+
+protected:
+    explicit DataSet(Database &database);
+
+    // Statement fragments of the set, given by the subclasses. The parts are joined by the base.
+    struct Scope
+    {
+        QString source; // what stands after FROM; rows are referred to as "t"
+        QStringList keyColumns; // whole-number columns that tell rows apart
+        QStringList conditions; // joined by AND
+        QList<Value> parameters; // of the source and the conditions, in order
+        QString order; // complete terms; must end with the key so that order is total
+    };
+    virtual Scope scope() const = 0;
+
+    int requireField(QStringView name) const; // throws NoSuchField
+    void requireOpen() const; // throws WrongState
+    virtual void beforeMove(); // Table: posts or drops an edit in progress
+    void invalidateKeys(); // list is read again when needed
+    void emitListChanged();
+
+    struct Private;
+    std::unique_ptr<Private> d;
+
+    Database &m_database;
+    std::deque<Field> m_fields; // references stay valid when fields are added
+    bool m_open = false;
+    mutable int m_index = -1;
+    bool m_atEnd = true;
+    bool m_atBegin = true;
+    QString m_filter;
+    bool m_filtered = false;
+};
+
+} // namespace Engine

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <exception>
+
+namespace Engine {
+
+// Codes of EngineError. 9729 is relied upon by name in the screens' "already exists" messages.
+enum class ErrorCode {
+    General = 10000, // anything without a code of its own; the text carries the store's words
+    KeyViolation = 9729, // the row, or a number that must be unique, exists already
+    BadValue = 9730, // a value does not fit its field
+    RequiredField = 9732, // part of a primary key is empty
+    BadExpression = 9733, // a filter expression or statement that cannot be read
+    WrongState = 9734, // the call does not fit the table's state: a programming error
+    NoSuchTable = 10024,
+    NoSuchField = 10038,
+    RecordLocked = 10241, // another user is editing the row
+    TableLocked = 10242, // another user holds the whole table
+    TableInUse = 10243, // an exclusive open found the table open, or an open found it held exclusively
+    RecordGone = 10244, // the row was deleted by another user
+    Busy = 10245, // the store is writing for someone else and did not get free in time
+    CannotOpen = 11001, // folder, file or server that cannot be reached
+    NotADatabase = 11002,
+    Corrupt = 11003,
+    DiskFull = 11004,
+    ReadOnly = 11005,
+    ConnectionLost = 11006,
+    AccessDenied = 11007,
+};
+
+// The one error of the engine layer. text() is meant for the user: it names the table, file or server and says
+// what to do; driverText() holds the store's own words for the trace.
+class EngineError : public std::exception
+{
+public:
+    EngineError(ErrorCode code, QString text, QString driverText = {})
+        : m_code(code), m_text(std::move(text)), m_driverText(std::move(driverText)), m_what(m_text.toUtf8())
+    {
+    }
+
+    ErrorCode code() const { return m_code; }
+    const QString &text() const { return m_text; }
+    const QString &driverText() const { return m_driverText; }
+    const char *what() const noexcept override { return m_what.constData(); }
+
+private:
+    ErrorCode m_code;
+    QString m_text;
+    QString m_driverText;
+    QByteArray m_what;
+};
+
+} // namespace Engine

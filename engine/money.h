@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QtGlobal>
+#include <compare>
+
+namespace Engine {
+
+// A currency amount with four decimals, kept as a count of 0.0001. All sums of money are done in this type.
+//
+// The stores keep money as a floating value, so there is a conversion at each border. It rounds to the nearest
+// 0.0001, ties to even, judged on the exact binary value (0.00005 as a double lies above the tie and rounds up).
+class Money
+{
+public:
+    constexpr Money() = default;
+
+    // Throws std::range_error for a value that is not finite or beyond +-922,337,203,685,477.
+    static Money fromDouble(double value) { return fromLongDouble(value); }
+    static Money fromLongDouble(long double value);
+    static constexpr Money fromTenThousandths(qint64 count)
+    {
+        Money money;
+        money.m_count = count;
+        return money;
+    }
+
+    constexpr qint64 tenThousandths() const { return m_count; }
+    constexpr double toDouble() const { return static_cast<double>(m_count) / 10000.0; }
+    constexpr long double toLongDouble() const { return static_cast<long double>(m_count) / 10000.0L; }
+
+    constexpr Money operator-() const { return fromTenThousandths(-m_count); }
+    friend constexpr Money operator+(Money a, Money b) { return fromTenThousandths(a.m_count + b.m_count); }
+    friend constexpr Money operator-(Money a, Money b) { return fromTenThousandths(a.m_count - b.m_count); }
+    constexpr auto operator<=>(const Money &) const = default;
+
+private:
+    qint64 m_count = 0;
+};
+
+} // namespace Engine
