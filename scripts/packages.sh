@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing: packages.sh build|test
+# Asks for root rights only when something is missing.
+set -euo pipefail
+
+build=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools libqt6opengl6-dev
+    libsqlite3-dev libpq-dev fonts-dejavu-core)
+test=(postgresql-15 sqlite3 xvfb xauth openbox xdotool libgtest-dev libgmock-dev libbenchmark-dev clang-format)
+
+case "${1:-}" in
+build) wanted=("${build[@]}") ;;
+test) wanted=("${build[@]}" "${test[@]}") ;;
+*)
+    echo "usage: packages.sh build|test" >&2
+    exit 2
+    ;;
+esac
+
+missing=()
+for package in "${wanted[@]}"; do
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)" = installed ] || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+echo "Installing: ${missing[*]}"
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+        echo "These packages are missing and need root rights to install: ${missing[*]}" >&2
+        exit 1
+    }
+    as_root=(sudo)
+fi
+
+# The tests start a PostgreSQL of their own, so the package need not make and start a cluster.
+if [[ " ${missing[*]} " == *" postgresql-15 "* ]] && [ ! -e /etc/postgresql-common/createcluster.conf ]; then
+    "${as_root[@]}" mkdir -p /etc/postgresql-common
+    echo 'create_main_cluster = false' | "${as_root[@]}" tee /etc/postgresql-common/createcluster.conf >/dev/null
+fi
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends \
+    -o Dpkg::Options::=--force-confold "${missing[@]}"
