@@ -1,0 +1,144 @@
+#pragma once
+
+#include "engine/table.h"
+#include "frame/shared/prompts.h"
+
+#include <functional>
+#include <QCoreApplication>
+
+namespace Tallymere {
+
+// What tells one kind of document from another, as data.
+struct DocumentKind {
+    QString headerTable; // "IReceipt"
+    QString lineTable; // "IRecDet"
+    QString keyField; // of both: "ReceiptID"
+    QString numberField; // the number users see, which must be unique; empty where the key is shown
+    QString dateField; // "ReceiptDate"
+    QString postedRefusal; // shown when a posted document is about to be edited
+    QString numberTaken; // raised when the number or the key exists already
+    QString nothingEntered; // raised when a document without lines is saved
+    QString locationGone; // raised when the location is no longer there
+    QString lineBreak; // stands between a line message and its advice
+};
+
+// Entering one document, a header and its lines: the rules between the two tables and the screen.
+//
+// The screen binds its widgets to header() and lines() and calls save() or cancel(); everything else happens in the
+// tables' own events, so that a table edited from a script obeys the same rules. A refused step raises RuleError
+// with the message to show and, as its column, the field of header() or lines() that the cursor goes to (LineGrid
+// for the grid as a whole); SilentAbort means that the user has seen a message already.
+//
+// Lines are written as they are completed. The first change of a visit keeps a copy of all lines, from which
+// cancel() brings them back. Numbers are taken when a document is created and are not given back.
+class DocumentEntry {
+    Q_DECLARE_TR_FUNCTIONS(Tallymere::DocumentEntry)
+
+public:
+    // The column of an error that concerns the lines as a whole.
+    static constexpr QLatin1StringView LineGrid{"Lines"};
+
+    virtual ~DocumentEntry();
+    DocumentEntry(const DocumentEntry &) = delete;
+    DocumentEntry &operator=(const DocumentEntry &) = delete;
+
+    // Today, for the defaults of a new document. Tests set it.
+    std::function<QDate()> today;
+
+    // Opens both tables. Labels and formats of their fields are known afterwards.
+    void open();
+    void close();
+
+    void newDocument(); // inserts a header with its numbers and defaults
+    bool openDocument(int key); // false when there is no such document
+
+    const DocumentKind &kind() const { return m_kind; }
+    Engine::Table &header() { return m_header; }
+    Engine::Table &lines() { return m_lines; }
+    const Engine::Table &header() const { return m_header; }
+    const Engine::Table &lines() const { return m_lines; }
+    int key() const { return m_header.integer(m_kind.keyField); }
+    bool isPosted() const { return m_header.boolean(u"Posted"); }
+
+    // Saves what is being edited: header and line, after their checks. Raises RuleError, with both left in edit,
+    // when one of them refuses.
+    void save();
+    // Drops the changes of this visit. Lines are as they were when it began, with their former numbers.
+    void cancel();
+
+    // What closing the screen by other means than OK and Cancel has to do.
+    enum class Closing { Free, Drop, Ask }; // just close; cancel() without asking; ask, then save() or cancel()
+    Closing closing() const;
+
+    bool wasSaved() const { return m_wasSaved; } // the header was saved at least once in this visit
+
+    virtual QString caption() const = 0;
+
+    // --- lines
+    // ------------------------------------------------------------------------------------------------------ The
+    // column of the line grid that the user is in, by field name. A new item is judged by it: typed as a number
+    // ("ItemNo") or picked by its description ("ItemDescription").
+    void setLineColumn(const QString &field) { m_lineColumn = field; }
+    // Puts the item into the current line, putting that into edit.
+    void chooseItem(int itemId);
+    // The same by a typed item number; an empty text clears the item. Raises when there is no such item.
+    void chooseItemByNumber(const QString &itemNo);
+    void newLine(); // appends a line
+    void removeLine(); // deletes the current line; a line being entered is dropped
+
+protected:
+    DocumentEntry(Engine::Database &database, Prompts &prompts, DocumentKind kind);
+
+    Engine::Database &database() const { return m_header.database(); }
+    Prompts &prompts() const { return m_prompts; }
+
+    // --- what the kinds of documents do differently
+    // ------------------------------------------------------------------
+    virtual void configureFields(); // labels, formats and checks of fields, once the tables are open
+    virtual void assignNumbers() = 0; // key and number of a new header
+    virtual void presetHeader() { } // further defaults of a new header
+    virtual void checkComplete() { } // before everything else when the header is saved
+    virtual void checkReferences() = 0; // after the period: what the header names, and that there are lines
+    virtual void checkLine() = 0; // before a line gets its number and is written
+
+    // --- pieces for those
+    // -------------------------------------------------------------------------------------------
+    void requireHeaderField(const QString &field) const; // raises "Field '...' must have a value"
+    void requireLineField(const QString &field, const QString &column) const;
+    void requireItem() const; // the line has an item, and it exists
+    void requireLocation() const;
+    void requireLines() const;
+    [[noreturn]] void refuseLine(const QString &message, const QString &column) const; // with the advice to undo
+    bool exists(const QString &table, const QString &keyField, const Engine::Value &key) const;
+
+private:
+    void hookHeader();
+    void hookLines();
+    void unhookLines();
+
+    void newHeader();
+    void refusePosted();
+    void headerEdited();
+    void checkHeader();
+    void checkPeriod();
+    void checkRequired() const;
+
+    void beginLineChange();
+    void numberLine();
+    void validateItem(const Engine::Value &itemId) const;
+    void keepLines();
+    void restoreLines();
+
+    const DocumentKind m_kind;
+    Prompts &m_prompts;
+    Engine::Table m_header;
+    Engine::Table m_lines;
+
+    int m_nextSeq = 1;
+    bool m_wasSaved = false;
+    bool m_linesKept = false;
+    std::vector<Engine::Row> m_keptLines;
+    QString m_lineColumn;
+};
+
+} // namespace Tallymere

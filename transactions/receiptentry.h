@@ -1,0 +1,33 @@
+#pragma once
+
+#include "transactions/documententry.h"
+
+namespace Tallymere {
+
+// Entering one receipt of goods: IReceipt and IRecDet.
+class ReceiptEntry final : public DocumentEntry {
+    Q_DECLARE_TR_FUNCTIONS(Tallymere::ReceiptEntry)
+
+public:
+    ReceiptEntry(Engine::Database &database, Prompts &prompts);
+
+    static DocumentKind receiptKind();
+
+    // The vendor by a typed number; an empty text clears the vendor. Does nothing when it is the current vendor's
+    // number. Raises, with the vendor as it was, when the number is unknown or its vendor suspended.
+    void chooseVendorByNumber(const QString &vendorNo);
+
+    QString caption() const override;
+
+protected:
+    void configureFields() override;
+    void assignNumbers() override;
+    void checkComplete() override;
+    void checkReferences() override;
+    void checkLine() override;
+
+private:
+    void validateVendor(const Engine::Value &vendorId) const;
+};
+
+} // namespace Tallymere
