@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace Tallymere {
+
+// The brand of a payment card: "enRoute", "Switch", "Solo" and "Discover" by length and prefix alone, "MASTERCARD",
+// "VISA", "AMEX" and "Diners Club" when the check digit is right too. Empty for any other number. Blanks are left
+// out of account.
+QString validateCC(const QString &number);
+
+} // namespace Tallymere

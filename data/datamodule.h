@@ -1,0 +1,94 @@
+#pragma once
+
+#include "engine/database.h"
+#include "engine/session.h"
+#include "engine/table.h"
+#include "frame/shared/prompts.h"
+#include "frame/shared/settingsstore.h"
+
+#include <functional>
+#include <memory>
+#include <QDate>
+#include <QString>
+
+namespace Tallymere {
+
+// What a caller may decide instead of the user's settings. All of it is optional.
+struct DataModuleOptions {
+    QString dataFolder; // this folder in file-server mode
+    QString server; // this address in client/server mode
+    bool createDatabase = false; // makes the file, or the database on the server, when it is missing
+    QString currentUser;
+    std::function<void(std::chrono::milliseconds)> waitFor; // how lock retries pause; see Engine::Session
+    std::function<QDate()> today; // for the first fiscal year; empty: the system's clock
+    std::function<void(Engine::Database &)> prepareHost; // runs once connected, before any table is looked for
+    std::function<void()> prepareReportPrinting; // the last step; whatever it throws is ignored
+};
+
+// The connection to the host's database, and the tables that are shared by all screens.
+//
+// Constructing it connects, brings every inventory table up to its layout, refreshes the organization from the
+// host's configuration and seeds the first location, bank and currency. A second start with nothing to change
+// writes nothing. Throws EngineError when the database cannot be reached, when a table that must change is in use,
+// and when the database is not one of the host (table "Config" is missing: nothing has been created then).
+class TDataModuleTallymere {
+public:
+    TDataModuleTallymere(SettingsStore &settings, Prompts &prompts, DataModuleOptions options = {});
+    ~TDataModuleTallymere();
+    TDataModuleTallymere(const TDataModuleTallymere &) = delete;
+    TDataModuleTallymere &operator=(const TDataModuleTallymere &) = delete;
+
+    Engine::Session &sessionTallymere() { return m_session; }
+    Engine::Database &databaseTallymere() { return m_database; }
+    // For temporary tables, in the system's temporary folder; connects, and makes its file, at the first use.
+    Engine::Session &sessionTempTallymere() { return m_tempSession; }
+    Engine::Database &databaseTempTallymere() { return m_tempDatabase; }
+
+    Engine::Table &memTableInvReportParameters() { return m_reportParameters; } // open
+
+    Engine::Table &tableConfig() { return m_config; } // the host's configuration; open
+    Engine::Table &tblCompany() { return m_company; } // open on its one row; refresh after writing to it elsewhere
+    Engine::Table &tableIHist() { return m_hist; } // open
+    Engine::Table &tableIBalance() { return m_balance; } // open
+    // Opened by those who use them.
+    Engine::Table &tableWarehouse() { return m_warehouse; }
+    Engine::Table &tableItemCtl() { return m_itemCtl; }
+    Engine::Table &tableCustCtl() { return m_custCtl; } // the host's
+    Engine::Table &tableHistory() { return m_history; } // the host's
+
+    const QString &cMode() const { return m_mode; } // "C" for client/server; anything else is file server
+    const QString &currentUser() const { return m_currentUser; }
+    void setCurrentUser(const QString &user);
+
+private:
+    void start();
+    void startSession(Engine::Session &session);
+    void beforeConnect(Engine::Database &database);
+    void openReportParameters();
+    void requireHost();
+    void prepareReportPrinting();
+
+    SettingsStore &m_settings;
+    Prompts &m_prompts;
+    DataModuleOptions m_options;
+    QString m_mode;
+    QString m_currentUser;
+
+    Engine::Session m_session;
+    Engine::Database m_database;
+    Engine::Session m_tempSession;
+    Engine::Database m_tempDatabase;
+    std::unique_ptr<Engine::Database> m_memory;
+
+    Engine::Table m_reportParameters;
+    Engine::Table m_config;
+    Engine::Table m_company;
+    Engine::Table m_hist;
+    Engine::Table m_balance;
+    Engine::Table m_warehouse;
+    Engine::Table m_itemCtl;
+    Engine::Table m_custCtl;
+    Engine::Table m_history;
+};
+
+} // namespace Tallymere

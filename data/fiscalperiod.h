@@ -1,0 +1,51 @@
+#pragma once
+
+#include "engine/dataset.h"
+#include "frame/shared/prompts.h"
+
+#include <QDate>
+#include <QString>
+
+// The fiscal calendar of the organization, and the rules by which documents take and check their period.
+
+namespace Tallymere {
+
+struct Period {
+    int year = 0; // four digits
+    int number = 0; // 1 to 12
+
+    int key() const { return year * 100 + number; } // as periods are compared
+    friend bool operator==(const Period &, const Period &) = default;
+};
+
+// What the Company row says about periods. Empty fields are 0 and mean: not set.
+struct FiscalSettings {
+    int fiscalYear = 0;
+    Period defaultPeriod; // its two halves are set independently
+    Period warnFrom, warnTo; // an upper bound with key 0 is open
+    Period errorFrom, errorTo;
+
+    static FiscalSettings of(const Engine::DataSet &company);
+};
+
+// For a new document: each half from the default period when that is above zero, else from today.
+Period defaultPeriod(const FiscalSettings &settings, QDate today);
+
+enum class PeriodVerdict {
+    Fine,
+    NoFiscalYear, // the organization has not been set up
+    BeforeFiscalYear,
+    NotAllowed, // outside the error range
+    NotExpected, // outside the warn range: the user may insist
+};
+
+PeriodVerdict judgePeriod(const FiscalSettings &settings, const Period &period);
+
+// What is said to the user; empty for Fine.
+QString periodMessage(PeriodVerdict verdict);
+
+// Before a document is saved: throws RuleError with the column for a period that is refused; asks about one that is
+// not expected, and throws SilentAbort with the column when the answer is Cancel.
+void requirePeriod(const FiscalSettings &settings, const Period &period, Prompts &prompts, const QString &column);
+
+} // namespace Tallymere

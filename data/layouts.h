@@ -1,0 +1,48 @@
+#pragma once
+
+#include "engine/layout.h"
+
+#include <QList>
+
+// The layouts of the inventory tables, as data. The names of tables and fields are the ones stored statements,
+// lists and reports use.
+
+namespace Tallymere::Layouts {
+
+const Engine::TableLayout &item();
+const Engine::TableLayout &itemCtl(); // counters: one row, no key
+const Engine::TableLayout &itemType();
+const Engine::TableLayout &company(); // one row, CompanyNo 1
+const Engine::TableLayout &tax();
+const Engine::TableLayout &salesman();
+const Engine::TableLayout &iAdjDet();
+const Engine::TableLayout &iAdjust();
+const Engine::TableLayout &iHist();
+const Engine::TableLayout &iRecDet();
+const Engine::TableLayout &iReceipt();
+const Engine::TableLayout &iBalance();
+const Engine::TableLayout &warehse(); // the locations
+const Engine::TableLayout &vendor();
+const Engine::TableLayout &vBalance();
+const Engine::TableLayout &vContact();
+const Engine::TableLayout &vendCtl(); // counters: one row, no key
+const Engine::TableLayout &iUsage();
+const Engine::TableLayout &iUsageDet();
+const Engine::TableLayout &arInvCtl(); // counters: one row, no key
+const Engine::TableLayout &bank();
+const Engine::TableLayout &currency();
+const Engine::TableLayout &glAccnt();
+
+// The host's table of usage lines: described here, never created or altered.
+const Engine::TableLayout &usage();
+
+// The one row of parameters that reports print in their headings, in the in-memory database.
+const Engine::TableLayout &reportParameters();
+
+// The 23 tables that belong to the inventory system, in the order in which they are brought up to date.
+const QList<const Engine::TableLayout *> &applied();
+
+// By table name, without regard to case; nullptr when it is none of applied().
+const Engine::TableLayout *find(QStringView table);
+
+} // namespace Tallymere::Layouts

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "engine/database.h"
+#include "engine/session.h"
+#include "frame/shared/prompts.h"
+#include "frame/shared/settingsstore.h"
+
+// Where the tables are and how they are reached, decided from the settings. Both run just before the engine
+// connects, and read the settings anew.
+
+namespace Tallymere {
+
+// Only the exact letter counts; anything else is file-server mode.
+inline constexpr QLatin1StringView clientServerMode{"C"};
+inline constexpr QLatin1StringView fileServerMode{"F"};
+
+// Sets private directory, type, address, link and account of the main session. Returns the mode as stored.
+QString sessionTallymereStartup(Engine::Session &session, const SettingsStore &settings);
+
+// The account that the module uses on every server.
+void useServerAccount(Engine::Session &session);
+
+// Sets directory and remote name of the main database. A location that is missing or does not exist gives an error
+// box and nothing more: the engine's own failure to open is what ends the start. Returns the mode as stored.
+QString databaseTallymereBeforeConnect(Engine::Database &database, const SettingsStore &settings, Prompts &prompts);
+
+} // namespace Tallymere

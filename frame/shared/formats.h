@@ -1,0 +1,52 @@
+#pragma once
+
+#include "engine/field.h"
+#include "engine/money.h"
+#include "frame/shared/regionalsettings.h"
+
+#include <QString>
+
+// How fields are shown, edited and read: the makers that every screen, list and import uses. In all of them an
+// empty text is a null and a null is an empty text; text that cannot be read throws RuleError.
+
+namespace Tallymere {
+
+// Shown "#,###,##0.00#;(#,###,##0.00#)", edited "0.00#". The column goes into the errors.
+Engine::FieldFormat currencyFormat(const RegionalSettings &settings = RegionalSettings::system(),
+                                   const QString &column = {});
+
+// Shown and edited with the shortest digits that read back the same.
+Engine::FieldFormat quantityFormat(const RegionalSettings &settings = RegionalSettings::system(),
+                                   const QString &column = {});
+
+// Shown "dd mmm yy", edited as a short date with a two-digit year, read by date2000. A text without any digit (an
+// empty mask) is a null.
+Engine::FieldFormat dateFormat(const RegionalSettings &settings = RegionalSettings::system(),
+                               const QString &column = {});
+
+// Shown in full, edited as its last two digits. 50 to 99 are read as 1950 to 1999, 0 to 49 as 2000 to 2049; any
+// other number is refused with the message.
+Engine::FieldFormat twoDigitYearFormat(const QString &message, const QString &column = {});
+
+// A number from 1 to 12. The label is what the message calls the field.
+Engine::FieldFormat periodNumberFormat(const QString &label, const QString &column = {});
+
+// The year that two typed digits stand for (0 to 99), by the rule above.
+int yearOfTwoDigits(int digits);
+
+// "1,234.50", "(0.125)": two decimals always, more as far as they are needed, up to the given number; beyond it
+// half is rounded away from zero. A value that rounds to zero has no parentheses.
+QString currencyText(Engine::Money value, const RegionalSettings &settings = RegionalSettings::system(),
+                     int mostDecimals = 3);
+
+// The same without grouping and with a minus sign, for editing.
+QString currencyEditText(Engine::Money value, const RegionalSettings &settings = RegionalSettings::system(),
+                         int mostDecimals = 3);
+
+// "24 Nov 26"; an empty text for an invalid date.
+QString dateText(QDate date, const RegionalSettings &settings = RegionalSettings::system());
+
+// The calculated field Periodppyyyy: "3/2004".
+QString periodText(int period, int year);
+
+} // namespace Tallymere

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QChar>
+#include <QDate>
+#include <QLocale>
+#include <QString>
+
+namespace Tallymere {
+
+// How the user writes dates and numbers. A plain value: screens take it from the system, tests spell it out.
+struct RegionalSettings {
+    QString shortDateFormat = QStringLiteral("M/d/yyyy"); // its first letter decides the order of the parts
+    QChar dateSeparator = u'/';
+    QChar decimalPoint = u'.';
+    QChar groupSeparator = u',';
+    QLocale locale = QLocale::c(); // names of months
+
+    // The user's own. Where the system's short date spells months out or has no separator, the date part of the
+    // defaults above stands in.
+    static RegionalSettings system();
+
+    // Reads a short date: three numbers in the order of the short date format, joined by the separator. A year of
+    // one or two digits is one of the 1900s. Invalid when the text is no date.
+    QDate readDate(const QString &text) const;
+    // The date in the order and with the separator of readDate(): day and month in two digits, the year in the
+    // given number of digits (2 or 4).
+    QString shortDate(QDate date, int yearDigits) const;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "frame/shared/regionalsettings.h"
+
+#include <QString>
+
+// Numbers typed by people. Blanks around a number do not matter; what is no number, or is too large for its type,
+// throws RuleError with the text in question and the column given.
+
+namespace Tallymere {
+
+// A whole number of 32 bits: "'12x' is not a valid integer value".
+int integerFromText(const QString &text, const QString &column = {});
+
+// A decimal number with the user's decimal point and, in complete groups of three digits, the group separator. No
+// exponents, nothing infinite: "'1,5' is not a valid number".
+double numberFromText(const QString &text, const RegionalSettings &settings = RegionalSettings::system(),
+                      const QString &column = {});
+
+} // namespace Tallymere
