@@ -1,0 +1,81 @@
+#include "engine/database.h"
+
+#include "engine/error.h"
+#include "engine/session.h"
+#include "engine/sqliteconnection.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("Engine", text); }
+
+std::unique_ptr<Connection> openLocal(const Database &database)
+{
+    const QString &folder = database.directory;
+    if (folder.isEmpty())
+        throw EngineError(ErrorCode::CannotOpen,
+                          tr("No database folder has been set. Choose the folder in the settings."));
+    if (!QFileInfo(folder).isDir())
+        throw EngineError(
+            ErrorCode::CannotOpen,
+            tr("The database folder %1 does not exist or cannot be reached. Check the settings and the "
+               "network.")
+                .arg(folder));
+    const QString fileName = database.name() + ".sqlite"_L1;
+    const QString path = folder + u'/' + fileName;
+    if (!database.createIfMissing && !QFileInfo::exists(path))
+        throw EngineError(
+            ErrorCode::CannotOpen,
+            tr("There is no database %1 in %2. Check the folder in the settings, or make the database "
+               "with \"tallymere init\".")
+                .arg(fileName, folder));
+    const auto missing =
+        database.createIfMissing ? SqliteConnection::Missing::Create : SqliteConnection::Missing::Fail;
+    return std::make_unique<SqliteConnection>(path, missing, database.session().applicationUser);
+}
+
+} // namespace
+
+Database::Database(Session &session, QString name)
+    : m_session(session)
+    , m_name(std::move(name))
+{
+}
+
+Database::~Database() = default;
+
+std::unique_ptr<Database> Database::inMemory(Session &session)
+{
+    auto database = std::make_unique<Database>(session, u"Memory"_s);
+    database->m_inMemory = true;
+    return database;
+}
+
+Connection &Database::connection()
+{
+    if (m_connection)
+        return *m_connection;
+    if (m_inMemory) {
+        m_connection = SqliteConnection::inMemory();
+        return *m_connection;
+    }
+    m_session.start();
+    if (onBeforeConnect)
+        onBeforeConnect(*this);
+    m_connection = openLocal(*this);
+    return *m_connection;
+}
+
+void Database::close() { m_connection.reset(); }
+
+bool Database::tableExists(const QString &table) { return connection().describe(table).has_value(); }
+
+QStringList Database::tableNames() { return connection().tableNames(); }
+
+} // namespace Engine

@@ -1,0 +1,137 @@
+#include "engine/platform.h"
+
+#include "engine/error.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <pwd.h>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+namespace Engine {
+
+namespace {
+
+// File systems of other computers, by the numbers that statfs() gives them.
+constexpr unsigned long remoteFileSystems[] = {
+    0x6969, // NFS
+    0x517B, // SMB
+    0xFF534D42, // CIFS
+    0xFE534D42, // SMB2
+    0x65735546, // FUSE: whatever stands behind it
+    0x01021997, // 9P
+    0x5346414F, // AFS
+    0x00C36400, // Ceph
+};
+
+int lock(int handle, int command, struct flock &range)
+{
+    int result = 0;
+    do {
+        result = fcntl(handle, command, &range);
+    } while (result != 0 && errno == EINTR);
+    return result;
+}
+
+struct flock rangeOf(int type, qint64 from, qint64 count)
+{
+    struct flock range = {};
+    range.l_type = static_cast<short>(type);
+    range.l_whence = SEEK_SET;
+    range.l_start = from;
+    range.l_len = count;
+    return range;
+}
+
+[[noreturn]] void throwLockFailure(const QString &path)
+{
+    const QString words = QString::fromLocal8Bit(std::strerror(errno));
+    throw EngineError(
+        ErrorCode::General,
+        QCoreApplication::translate("Engine", "The lock file %1 cannot be used (%2).").arg(path, words), words);
+}
+
+} // namespace
+
+bool isLocalFileSystem(const QString &path)
+{
+    struct statfs info = {};
+    if (statfs(QFile::encodeName(QFileInfo(path).path()).constData(), &info) != 0)
+        return false;
+    const auto type = static_cast<unsigned long>(info.f_type) & 0xFFFFFFFFUL;
+    for (const unsigned long remote : remoteFileSystems) {
+        if (type == remote)
+            return false;
+    }
+    return true;
+}
+
+QString systemUserName()
+{
+    const passwd *entry = getpwuid(geteuid());
+    return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(geteuid());
+}
+
+RangeLockFile::RangeLockFile(const QString &path)
+    : m_path(path)
+{
+    // Never deleted or replaced: the locks are on the file itself, not on its name. Everyone who may write in the
+    // folder may lock, so the mode is left to the umask.
+    m_handle = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (m_handle >= 0)
+        return;
+    const QString words = QString::fromLocal8Bit(std::strerror(errno));
+    const bool denied = errno == EACCES || errno == EROFS || errno == EPERM;
+    throw EngineError(
+        denied ? ErrorCode::ReadOnly : ErrorCode::CannotOpen,
+        QCoreApplication::translate("Engine",
+                                    "The lock file %1 cannot be written (%2). Check the permissions of "
+                                    "the file and of its folder.")
+            .arg(path, words),
+        words);
+}
+
+RangeLockFile::~RangeLockFile() { ::close(m_handle); }
+
+bool RangeLockFile::tryLock(qint64 from, qint64 count, Mode mode)
+{
+    struct flock range = rangeOf(mode == Mode::Shared ? F_RDLCK : F_WRLCK, from, count);
+    if (lock(m_handle, F_OFD_SETLK, range) == 0)
+        return true;
+    if (errno != EAGAIN && errno != EACCES)
+        throwLockFailure(m_path);
+    return false;
+}
+
+void RangeLockFile::unlock(qint64 from, qint64 count)
+{
+    struct flock range = rangeOf(F_UNLCK, from, count);
+    lock(m_handle, F_OFD_SETLK, range);
+}
+
+bool RangeLockFile::isLockedByOthers(qint64 from, qint64 count) const
+{
+    struct flock range = rangeOf(F_WRLCK, from, count);
+    return lock(m_handle, F_OFD_GETLK, range) == 0 && range.l_type != F_UNLCK;
+}
+
+QByteArray RangeLockFile::read(qint64 from, qint64 count) const
+{
+    QByteArray bytes(count, '\0');
+    const ssize_t got = ::pread(m_handle, bytes.data(), static_cast<size_t>(count), from);
+    bytes.resize(got > 0 ? got : 0);
+    return bytes;
+}
+
+void RangeLockFile::write(qint64 from, const QByteArray &bytes)
+{
+    // Only names for messages stand there, so a failure is nobody's concern.
+    const ssize_t written = ::pwrite(m_handle, bytes.constData(), static_cast<size_t>(bytes.size()), from);
+    Q_UNUSED(written);
+}
+
+} // namespace Engine

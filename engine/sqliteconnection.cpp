@@ -1,0 +1,103 @@
+#include "engine/sqliteconnection.h"
+
+#include "engine/filelocks.h"
+#include "engine/platform.h"
+#include "engine/sqliteerror.h"
+#include "engine/sqlitestatement.h"
+
+#include <QFileInfo>
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+constexpr int busyMilliseconds = 5000;
+
+QString lockFilePath(const QString &databasePath)
+{
+    const QFileInfo file(databasePath);
+    return file.path() + u'/' + file.completeBaseName() + ".lck"_L1;
+}
+
+} // namespace
+
+SqliteConnection::SqliteConnection(const QString &path, Missing missing, const QString &user)
+    : m_path(path)
+{
+    try {
+        open(SQLITE_OPEN_READWRITE | (missing == Missing::Create ? SQLITE_OPEN_CREATE : 0));
+        configure();
+        m_locks = std::make_unique<FileLocks>(lockFilePath(path), user);
+    } catch (...) {
+        sqlite3_close_v2(m_db);
+        throw;
+    }
+}
+
+std::unique_ptr<SqliteConnection> SqliteConnection::inMemory()
+{
+    std::unique_ptr<SqliteConnection> connection(new SqliteConnection);
+    connection->m_path = u":memory:"_s;
+    connection->open(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY);
+    connection->m_locks = std::make_unique<FileLocks>(QString(), QString());
+    return connection;
+}
+
+SqliteConnection::~SqliteConnection()
+{
+    clearStatementCache();
+    m_locks.reset();
+    sqlite3_close_v2(m_db); // statements still held elsewhere keep it alive until they go
+}
+
+void SqliteConnection::open(int flags)
+{
+    const int resultCode =
+        sqlite3_open_v2(m_path.toUtf8().constData(), &m_db, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    if (resultCode != SQLITE_OK)
+        throw sqliteError(m_db, resultCode, m_path);
+    sqlite3_extended_result_codes(m_db, 1);
+    sqlite3_busy_timeout(m_db, busyMilliseconds);
+    execute(u"PRAGMA cache_size = -65536; PRAGMA temp_store = MEMORY;"_s);
+}
+
+void SqliteConnection::configure()
+{
+    if (sqlite3_db_readonly(m_db, "main") == 1) // SQLite opens a write-protected file for reading, unasked
+        throw sqliteError(nullptr, SQLITE_READONLY, m_path);
+    // Write-ahead logging needs memory shared between the writers, which network folders do not give.
+    const QString journal = isLocalFileSystem(m_path) ? u"WAL"_s : u"DELETE"_s;
+    execute("PRAGMA journal_mode = "_L1 + journal + ';'_L1);
+    execute(u"PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 4000;"_s);
+}
+
+void SqliteConnection::execute(const QString &script)
+{
+    const int resultCode = sqlite3_exec(m_db, script.toUtf8().constData(), nullptr, nullptr, nullptr);
+    if (resultCode != SQLITE_OK)
+        throw sqliteError(m_db, resultCode, m_path);
+}
+
+void SqliteConnection::begin() { prepare(u"BEGIN IMMEDIATE"_s)->execute(); }
+
+void SqliteConnection::commit() { prepare(u"COMMIT"_s)->execute(); }
+
+void SqliteConnection::rollback() noexcept
+{
+    if (inTransaction())
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+bool SqliteConnection::inTransaction() const { return sqlite3_get_autocommit(m_db) == 0; }
+
+qint64 SqliteConnection::lastInsertId() { return sqlite3_last_insert_rowid(m_db); }
+
+std::unique_ptr<Statement> SqliteConnection::createStatement(const QString &sql)
+{
+    return std::make_unique<SqliteStatement>(m_db, sql, m_path);
+}
+
+} // namespace Engine

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "engine/driver.h"
+#include "engine/sqlitedialect.h"
+
+struct sqlite3;
+
+namespace Engine {
+
+// A database file, with the lock file beside it. SQLite's own locks last for one transaction; those of records and
+// tables stand in the lock file.
+class SqliteConnection final : public Connection {
+public:
+    enum class Missing { Fail, Create };
+
+    // The user is shown to others as the owner of the locks.
+    SqliteConnection(const QString &path, Missing missing, const QString &user);
+    static std::unique_ptr<SqliteConnection> inMemory();
+    ~SqliteConnection() override;
+
+    const Dialect &dialect() const override { return m_dialect; }
+    QString location() const override { return m_path; }
+    void execute(const QString &script) override;
+    void drain() override { }
+    void begin() override;
+    void commit() override;
+    void rollback() noexcept override;
+    bool inTransaction() const override;
+    std::optional<TableLayout> describe(const QString &table) override;
+    QStringList tableNames() override;
+    qint64 lastInsertId() override;
+    LockManager &locks() override { return *m_locks; }
+
+    sqlite3 *handle() const { return m_db; }
+
+protected:
+    std::unique_ptr<Statement> createStatement(const QString &sql) override;
+
+private:
+    SqliteConnection() = default;
+    void open(int flags);
+    void configure();
+    QString spelling(const QString &table); // as stored, null when there is no such table
+
+    SqliteDialect m_dialect;
+    QString m_path;
+    sqlite3 *m_db = nullptr;
+    std::unique_ptr<LockManager> m_locks;
+};
+
+} // namespace Engine

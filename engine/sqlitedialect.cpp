@@ -1,0 +1,168 @@
+#include "engine/sqlitedialect.h"
+
+#include "engine/indexnames.h"
+#include "engine/reservedwords.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+const FieldDef *autoIncrement(const TableLayout &layout)
+{
+    for (const FieldDef &field : layout.fields) {
+        if (field.type == FieldType::AutoInc)
+            return &field;
+    }
+    return nullptr;
+}
+
+bool isWholeNumber(FieldType type) { return type == FieldType::Integer || type == FieldType::AutoInc; }
+
+// The field that becomes SQLite's own row number: the auto-increment field wherever it stands, or else the only
+// field of a primary key.
+QString rowNumberField(const TableLayout &layout)
+{
+    if (const FieldDef *field = autoIncrement(layout))
+        return field->name;
+    const IndexDef *primary = layout.primary();
+    if (!primary || primary->options.testFlag(IndexOption::Descending))
+        return {};
+    const QStringList names = primary->fieldNames();
+    const FieldDef *field = names.size() == 1 ? layout.field(names.first()) : nullptr;
+    return field && isWholeNumber(field->type) ? field->name : QString();
+}
+
+bool isPrimaryOver(const TableLayout &layout, const QString &field)
+{
+    return layout.primary() && layout.primary()->fields.compare(field, Qt::CaseInsensitive) == 0
+        && !layout.primary()->options.testFlag(IndexOption::Descending);
+}
+
+} // namespace
+
+QString SqliteDialect::name(const QString &identifier) const { return quotedIfReserved(identifier); }
+
+QString SqliteDialect::columnType(const FieldDef &field) const
+{
+    switch (field.type) {
+    case FieldType::Integer:
+    case FieldType::AutoInc:
+        return u"INTEGER"_s;
+    case FieldType::SmallInt:
+        return u"SMALLINT"_s;
+    case FieldType::Float:
+        return u"DOUBLE"_s;
+    case FieldType::Money:
+        return u"MONEY REAL"_s; // plain MONEY would store 5.0 as a whole number
+    case FieldType::Boolean:
+        return u"BOOLEAN"_s;
+    case FieldType::Date:
+        return u"DATE"_s;
+    case FieldType::DateTime:
+        return u"DATETIME"_s;
+    case FieldType::Text:
+        return u"VARCHAR(%1)"_s.arg(field.size);
+    case FieldType::Memo:
+        break;
+    }
+    return u"TEXT"_s;
+}
+
+FieldDef SqliteDialect::fieldType(const QString &declared)
+{
+    const QString type = declared.toUpper();
+    const qsizetype paren = type.indexOf(u'(');
+    const QString word = (paren < 0 ? type : type.left(paren)).trimmed();
+    const int size = paren < 0 ? 0 : type.mid(paren + 1, type.indexOf(u')', paren) - paren - 1).toInt();
+    if (word == "SMALLINT"_L1)
+        return {{}, FieldType::SmallInt, 0};
+    if (word == "BOOLEAN"_L1)
+        return {{}, FieldType::Boolean, 0};
+    if (word == "DATE"_L1)
+        return {{}, FieldType::Date, 0};
+    if (word == "DATETIME"_L1 || word == "TIMESTAMP"_L1)
+        return {{}, FieldType::DateTime, 0};
+    if (word.startsWith("MONEY"_L1))
+        return {{}, FieldType::Money, 0};
+    if (word.contains("INT"_L1))
+        return {{}, FieldType::Integer, 0};
+    if (word.contains("CHAR"_L1) && size > 0)
+        return {{}, FieldType::Text, size};
+    if (word.contains("CHAR"_L1) || word.contains("TEXT"_L1) || word.contains("CLOB"_L1))
+        return {{}, FieldType::Memo, 0};
+    return {{}, FieldType::Float, 0};
+}
+
+QString SqliteDialect::storedIndexName(const QString &table, const IndexDef &index)
+{
+    return prefixedIndexName(table, index);
+}
+
+QString SqliteDialect::keyClause(const TableLayout &layout, const IndexDef &index) const
+{
+    QStringList terms;
+    for (const QString &fieldName : index.fieldNames()) {
+        const FieldDef *field = layout.field(fieldName);
+        QString term = name(field ? field->name : fieldName);
+        const bool text = field && (field->type == FieldType::Text || field->type == FieldType::Memo);
+        if (text && index.options.testFlag(IndexOption::CaseInsensitive))
+            term += " COLLATE NOCASE"_L1;
+        if (index.options.testFlag(IndexOption::Descending))
+            term += " DESC"_L1;
+        terms << term;
+    }
+    return u'(' + terms.join(", "_L1) + u')';
+}
+
+QStringList SqliteDialect::createTable(const TableLayout &layout) const
+{
+    const QString rowNumber = rowNumberField(layout);
+    QStringList lines;
+    for (const FieldDef &field : layout.fields) {
+        QString line = name(field.name) + u' ' + columnType(field);
+        if (field.name == rowNumber)
+            line += field.type == FieldType::AutoInc ? " PRIMARY KEY AUTOINCREMENT"_L1 : " PRIMARY KEY"_L1;
+        lines << line;
+    }
+    QLatin1StringView tail(")");
+    if (rowNumber.isEmpty() && layout.primary()) {
+        // The rows stand in the key's own tree: half the writing for the balance and detail tables.
+        lines << "PRIMARY KEY "_L1 + keyClause(layout, *layout.primary());
+        tail = ") WITHOUT ROWID"_L1;
+    }
+    return QStringList(u"CREATE TABLE %1 (\n    %2\n"_s.arg(name(layout.name), lines.join(",\n    "_L1)) + tail)
+        + createIndexes(layout);
+}
+
+QStringList SqliteDialect::createIndexes(const TableLayout &layout) const
+{
+    const QString rowNumber = rowNumberField(layout);
+    QStringList statements;
+    for (const IndexDef &index : layout.indexes) {
+        const bool primary = index.options.testFlag(IndexOption::Primary);
+        if (primary && (rowNumber.isEmpty() || isPrimaryOver(layout, rowNumber)))
+            continue; // the table itself
+        statements << u"CREATE %1 %2 ON %3 %4"_s.arg(primary ? u"UNIQUE INDEX"_s : u"INDEX"_s,
+                                                     quoted(storedIndexName(layout.name, index)), name(layout.name),
+                                                     keyClause(layout, index));
+    }
+    return statements;
+}
+
+QString SqliteDialect::foldCase(const QString &column) const { return column + " COLLATE NOCASE"_L1; }
+
+QString SqliteDialect::orderTerm(const QString &column, bool caseInsensitive, bool descending) const
+{
+    return (caseInsensitive ? foldCase(column) : column) + (descending ? " DESC"_L1 : ""_L1);
+}
+
+QString SqliteDialect::rowIdentity() const { return u"rowid"_s; }
+
+QString SqliteDialect::inNumberList(const QString &column) const
+{
+    return column + " IN (SELECT value FROM json_each(?))"_L1;
+}
+
+} // namespace Engine

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "engine/dialect.h"
+
+namespace Engine {
+
+class SqliteDialect final : public Dialect {
+public:
+    QString name(const QString &identifier) const override;
+    QString columnType(const FieldDef &field) const override;
+    QStringList createTable(const TableLayout &layout) const override;
+    QStringList createIndexes(const TableLayout &layout) const override;
+    QString foldCase(const QString &column) const override;
+    QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
+    QString rowIdentity() const override;
+    QString inNumberList(const QString &column) const override;
+
+    // The type and size that a declared column type stands for; the name is left empty.
+    static FieldDef fieldType(const QString &declared);
+    // The name of an index in the file, where names of indexes are unique over all tables.
+    static QString storedIndexName(const QString &table, const IndexDef &index);
+
+private:
+    QString keyClause(const TableLayout &layout, const IndexDef &index) const;
+};
+
+} // namespace Engine

@@ -1,0 +1,156 @@
+#include "engine/sqlitestatement.h"
+
+#include "engine/sqlitedialect.h"
+#include "engine/sqliteerror.h"
+#include "engine/storedtext.h"
+
+#include <sqlite3.h>
+
+namespace Engine {
+
+SqliteStatement::SqliteStatement(sqlite3 *db, const QString &sql, const QString &path)
+    : m_db(db)
+    , m_path(path)
+{
+    const QByteArray text = sql.toUtf8();
+    check(sqlite3_prepare_v3(m_db, text.constData(), static_cast<int>(text.size() + 1), SQLITE_PREPARE_PERSISTENT,
+                             &m_statement, nullptr));
+}
+
+SqliteStatement::~SqliteStatement() { sqlite3_finalize(m_statement); }
+
+void SqliteStatement::check(int resultCode)
+{
+    if (resultCode != SQLITE_OK)
+        throw sqliteError(m_db, resultCode, m_path);
+}
+
+void SqliteStatement::requireIdle()
+{
+    if (m_running)
+        SqliteStatement::reset();
+}
+
+void SqliteStatement::bindNull(int parameter)
+{
+    requireIdle();
+    check(sqlite3_bind_null(m_statement, parameter + 1));
+}
+
+void SqliteStatement::bindInt(int parameter, qint64 value)
+{
+    requireIdle();
+    check(sqlite3_bind_int64(m_statement, parameter + 1, value));
+}
+
+void SqliteStatement::bindDouble(int parameter, double value)
+{
+    requireIdle();
+    check(sqlite3_bind_double(m_statement, parameter + 1, value));
+}
+
+void SqliteStatement::bindBool(int parameter, bool value) { bindInt(parameter, value ? 1 : 0); }
+
+void SqliteStatement::bindText(int parameter, const QString &value)
+{
+    requireIdle();
+    const QByteArray text = value.toUtf8();
+    check(sqlite3_bind_text(m_statement, parameter + 1, text.constData(), static_cast<int>(text.size()),
+                            SQLITE_TRANSIENT));
+}
+
+bool SqliteStatement::next()
+{
+    m_running = true;
+    const int resultCode = sqlite3_step(m_statement);
+    m_onRow = resultCode == SQLITE_ROW;
+    if (m_onRow)
+        return true;
+    if (resultCode != SQLITE_DONE) {
+        const EngineError error = sqliteError(m_db, resultCode, m_path);
+        SqliteStatement::reset();
+        throw error;
+    }
+    SqliteStatement::reset();
+    return false;
+}
+
+qint64 SqliteStatement::execute()
+{
+    requireIdle();
+    const qint64 before = sqlite3_total_changes64(m_db);
+    while (next()) { }
+    return sqlite3_total_changes64(m_db) - before;
+}
+
+void SqliteStatement::reset()
+{
+    sqlite3_reset(m_statement); // repeats the code of the last step, which has been reported
+    m_running = false;
+    m_onRow = false;
+}
+
+int SqliteStatement::columnCount() const { return sqlite3_column_count(m_statement); }
+
+QString SqliteStatement::columnName(int column) const
+{
+    return QString::fromUtf8(sqlite3_column_name(m_statement, column));
+}
+
+bool SqliteStatement::isNull(int column) const { return sqlite3_column_type(m_statement, column) == SQLITE_NULL; }
+
+qint64 SqliteStatement::intAt(int column) const { return sqlite3_column_int64(m_statement, column); }
+
+double SqliteStatement::doubleAt(int column) const { return sqlite3_column_double(m_statement, column); }
+
+QString SqliteStatement::textAt(int column) const
+{
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(m_statement, column));
+    return QString::fromUtf8(text, sqlite3_column_bytes(m_statement, column));
+}
+
+Value SqliteStatement::valueAt(int column, FieldType type) const
+{
+    if (isNull(column))
+        return {};
+    switch (type) {
+    case FieldType::Integer:
+    case FieldType::SmallInt:
+    case FieldType::AutoInc:
+        return intAt(column);
+    case FieldType::Float:
+    case FieldType::Money:
+        return doubleAt(column);
+    case FieldType::Boolean:
+        return intAt(column) != 0;
+    case FieldType::Date:
+        return dateFromStored(textAt(column));
+    case FieldType::DateTime:
+        return dateTimeFromStored(textAt(column));
+    case FieldType::Text:
+    case FieldType::Memo:
+        break;
+    }
+    return textAt(column);
+}
+
+FieldType SqliteStatement::columnType(int column) const
+{
+    if (const char *declared = sqlite3_column_decltype(m_statement, column)) {
+        const FieldType type = SqliteDialect::fieldType(QString::fromUtf8(declared)).type;
+        return type == FieldType::Money ? FieldType::Float : type;
+    }
+    // An expression has the type of its value. A null is most likely a sum of nothing.
+    if (!m_onRow)
+        return FieldType::Float;
+    switch (sqlite3_column_type(m_statement, column)) {
+    case SQLITE_INTEGER:
+        return FieldType::Integer;
+    case SQLITE_TEXT:
+        return FieldType::Memo;
+    default:
+        return FieldType::Float;
+    }
+}
+
+} // namespace Engine

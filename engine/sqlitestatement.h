@@ -1,0 +1,48 @@
+#pragma once
+
+#include "engine/driver.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace Engine {
+
+class SqliteStatement final : public Statement {
+public:
+    SqliteStatement(sqlite3 *db, const QString &sql, const QString &path);
+    ~SqliteStatement() override;
+    SqliteStatement(const SqliteStatement &) = delete;
+    SqliteStatement &operator=(const SqliteStatement &) = delete;
+
+    void bindNull(int parameter) override;
+    void bindInt(int parameter, qint64 value) override;
+    void bindDouble(int parameter, double value) override;
+    void bindBool(int parameter, bool value) override;
+    void bindText(int parameter, const QString &value) override;
+
+    bool next() override;
+    qint64 execute() override;
+    void send() override { execute(); }
+    void reset() override;
+
+    int columnCount() const override;
+    QString columnName(int column) const override;
+    bool isNull(int column) const override;
+    qint64 intAt(int column) const override;
+    double doubleAt(int column) const override;
+    QString textAt(int column) const override;
+    Value valueAt(int column, FieldType type) const override;
+    FieldType columnType(int column) const override;
+
+private:
+    void requireIdle(); // SQLite takes bindings only between executions
+    void check(int resultCode);
+
+    sqlite3 *m_db;
+    sqlite3_stmt *m_statement = nullptr;
+    QString m_path;
+    bool m_running = false;
+    bool m_onRow = false;
+};
+
+} // namespace Engine

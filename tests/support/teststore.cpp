@@ -1,0 +1,83 @@
+#include "tests/support/teststore.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// libpq takes the port from the environment, as it does in real use.
+void pointToTestServer()
+{
+    const QString folder = qEnvironmentVariable("TALLYMERE_TEST_POSTGRES");
+    if (folder.isEmpty())
+        throw std::runtime_error(
+            "Set TALLYMERE_TEST_POSTGRES to the folder given to tests/support/postgres.sh start.");
+    QFile file(folder + "/port"_L1);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("The test server is not running: there is no file \"port\" in "
+                                 + folder.toStdString());
+    qputenv("PGPORT", file.readAll().trimmed());
+}
+
+QString freshName()
+{
+    static int count = 0;
+    return u"test_%1_%2"_s.arg(QCoreApplication::applicationPid()).arg(++count);
+}
+
+} // namespace
+
+TestUser::TestUser(const QString &user, const QString &databaseName)
+    : session(u"Test"_s)
+    , database(session, databaseName)
+{
+    session.applicationUser = user;
+}
+
+TestStore::TestStore(Store store)
+    : m_store(store)
+{
+    if (store == Store::Remote) {
+        pointToTestServer();
+        m_remoteName = freshName();
+    }
+    m_user = anotherUser(u"maria"_s);
+    m_user->database.createIfMissing = true;
+    m_user->database.connection();
+    m_user->database.createIfMissing = false;
+}
+
+TestStore::~TestStore()
+{
+    m_user.reset();
+    if (m_store == Store::Local)
+        return;
+    TestUser keeper(u"keeper"_s, u"postgres"_s);
+    keeper.session.type = Engine::SessionType::Remote;
+    keeper.session.remoteAddress = u"127.0.0.1"_s;
+    keeper.session.remoteUser = keeper.session.remotePassword = u"zorvadin"_s;
+    try {
+        keeper.database.connection().execute("DROP DATABASE IF EXISTS "_L1 + m_remoteName + " WITH (FORCE)"_L1);
+    } catch (const std::exception &error) {
+        qWarning("The test's database stays behind: %s", error.what());
+    }
+}
+
+std::unique_ptr<TestUser> TestStore::anotherUser(const QString &user)
+{
+    auto other = std::make_unique<TestUser>(user, u"Corvane"_s);
+    if (m_store == Store::Local) {
+        other->database.directory = m_folder.path();
+        return other;
+    }
+    other->session.type = Engine::SessionType::Remote;
+    other->session.remoteAddress = u"127.0.0.1"_s;
+    other->session.remoteUser = other->session.remotePassword = u"zorvadin"_s;
+    other->database.remoteName = m_remoteName;
+    return other;
+}
+
+void TestStore::execute(const QString &script) { database().connection().execute(script); }

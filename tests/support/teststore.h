@@ -1,0 +1,45 @@
+#pragma once
+
+#include "engine/database.h"
+#include "engine/session.h"
+
+#include <memory>
+#include <QTemporaryDir>
+
+enum class Store { Local, Remote };
+
+inline const char *storeName(Store store) { return store == Store::Local ? "Local" : "Remote"; }
+
+// Another user of a test's database: a session and a connection of its own.
+struct TestUser {
+    Engine::Session session;
+    Engine::Database database;
+
+    TestUser(const QString &user, const QString &databaseName);
+};
+
+// A fresh, empty database for one test, in a folder or on the test server; gone with the object.
+// The server is the one whose folder TALLYMERE_TEST_POSTGRES names (see postgres.sh); without it a remote store
+// throws std::runtime_error.
+class TestStore {
+public:
+    explicit TestStore(Store store);
+    ~TestStore();
+    TestStore(const TestStore &) = delete;
+    TestStore &operator=(const TestStore &) = delete;
+
+    Store store() const { return m_store; }
+    Engine::Session &session() { return m_user->session; }
+    Engine::Database &database() { return m_user->database; }
+    std::unique_ptr<TestUser> anotherUser(const QString &user = QStringLiteral("anna"));
+
+    QString directory() const { return m_folder.path(); } // of a local store's database
+    QString remoteName() const { return m_remoteName; } // of a remote store's database
+    void execute(const QString &script); // SQL text as it stands
+
+private:
+    Store m_store;
+    QTemporaryDir m_folder;
+    QString m_remoteName;
+    std::unique_ptr<TestUser> m_user;
+};
