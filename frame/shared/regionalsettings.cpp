@@ -1,0 +1,91 @@
+#include "frame/shared/regionalsettings.h"
+
+#include <array>
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+// The letters of the parts in the order of the format: "dMy", "Mdy", "yMd".
+QString partOrder(const QString &format)
+{
+    if (format.startsWith(u'd', Qt::CaseInsensitive))
+        return u"dMy"_s;
+    if (format.startsWith(u'y', Qt::CaseInsensitive))
+        return u"yMd"_s;
+    return u"Mdy"_s;
+}
+
+QChar separatorOf(const QString &format)
+{
+    for (const QChar c : format) {
+        if (!c.isLetter())
+            return c;
+    }
+    return {};
+}
+
+// Plain digits only: QString::toInt would let signs pass.
+int digits(const QString &part)
+{
+    const QString trimmed = part.trimmed();
+    if (trimmed.isEmpty() || trimmed.size() > 4)
+        return -1;
+    for (const QChar c : trimmed) {
+        if (c < u'0' || c > u'9')
+            return -1;
+    }
+    return trimmed.toInt();
+}
+
+} // namespace
+
+RegionalSettings RegionalSettings::system()
+{
+    RegionalSettings settings;
+    settings.locale = QLocale::system();
+    if (const QString point = settings.locale.decimalPoint(); !point.isEmpty())
+        settings.decimalPoint = point.front();
+    if (const QString group = settings.locale.groupSeparator(); !group.isEmpty())
+        settings.groupSeparator = group.front();
+
+    const QString format = settings.locale.dateFormat(QLocale::ShortFormat);
+    const QChar separator = separatorOf(format);
+    if (separator.isNull() || separator.isSpace() || format.contains("MMM"_L1))
+        return settings;
+    settings.shortDateFormat = format;
+    settings.dateSeparator = separator;
+    return settings;
+}
+
+QDate RegionalSettings::readDate(const QString &text) const
+{
+    const QStringList parts = text.trimmed().split(dateSeparator);
+    if (parts.size() != 3)
+        return {};
+
+    const QString order = partOrder(shortDateFormat);
+    const qsizetype yearAt = order.indexOf(u'y');
+    int year = digits(parts[yearAt]);
+    if (year >= 0 && parts[yearAt].trimmed().size() <= 2)
+        year += 1900;
+    return QDate(year, digits(parts[order.indexOf(u'M')]), digits(parts[order.indexOf(u'd')]));
+}
+
+QString RegionalSettings::shortDate(QDate date, int yearDigits) const
+{
+    if (!date.isValid())
+        return {};
+    QStringList parts;
+    for (const QChar part : partOrder(shortDateFormat)) {
+        const int number = part == u'd' ? date.day() : part == u'M' ? date.month() : date.year();
+        const QString padded = u"%1"_s.arg(number, part == u'y' ? 4 : 2, 10, '0'_L1);
+        parts << (part == u'y' ? padded.right(yearDigits) : padded);
+    }
+    return parts.join(dateSeparator);
+}
+
+} // namespace Tallymere

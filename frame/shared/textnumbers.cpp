@@ -1,0 +1,50 @@
+#include "frame/shared/textnumbers.h"
+
+#include "frame/shared/ruleerror.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+[[noreturn]] void refuse(const char *message, const QString &text, const QString &column)
+{
+    throw RuleError(QCoreApplication::translate("Numbers", message).arg(text), column);
+}
+
+QRegularExpression numberPattern(const RegionalSettings &settings)
+{
+    const QString group = QRegularExpression::escape(settings.groupSeparator);
+    const QString point = QRegularExpression::escape(settings.decimalPoint);
+    return QRegularExpression(
+        u"^[+-]?(?=.*[0-9])([0-9]{1,3}(?:%1[0-9]{3})+|[0-9]*)(?:%2[0-9]*)?$"_s.arg(group, point));
+}
+
+} // namespace
+
+int integerFromText(const QString &text, const QString &column)
+{
+    bool ok = false;
+    const int number = text.trimmed().toInt(&ok);
+    if (!ok)
+        refuse(QT_TRANSLATE_NOOP("Numbers", "'%1' is not a valid integer value"), text.trimmed(), column);
+    return number;
+}
+
+double numberFromText(const QString &text, const RegionalSettings &settings, const QString &column)
+{
+    QString plain = text.trimmed();
+    bool ok = numberPattern(settings).match(plain).hasMatch();
+    plain.remove(settings.groupSeparator);
+    plain.replace(settings.decimalPoint, u'.');
+    const double number = ok ? plain.toDouble(&ok) : 0;
+    if (!ok)
+        refuse(QT_TRANSLATE_NOOP("Numbers", "'%1' is not a valid number"), text.trimmed(), column);
+    return number;
+}
+
+} // namespace Tallymere

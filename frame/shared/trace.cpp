@@ -1,0 +1,7 @@
+#include "frame/shared/trace.h"
+
+namespace Tallymere {
+
+Q_LOGGING_CATEGORY(trace, "tallymere.trace", QtInfoMsg)
+
+} // namespace Tallymere
