@@ -1,3 +1,5 @@
+cmake_minimum_required(VERSION 3.25)
+
 # Which room may include which. A room may always include itself. Called as cmake -DROOT=... -P.
 #
 # Rules and screens of one entity stand in one room; that rules include no screen is seen to by the linking
@@ -14,7 +16,7 @@ set(allowed_master engine frame/shared data controls)
 set(allowed_transactions engine frame/shared data master controls)
 set(allowed_reports engine frame/shared data master transactions controls printing)
 set(allowed_frame engine frame/shared data master transactions reports controls plgint)
-set(allowed_host plgint host/tables engine)
+set(allowed_host plgint host/tables engine frame/shared)
 set(allowed_cli engine frame/shared data host/tables master transactions reports)
 
 set(rooms plgint engine data host/tables frame/shared master transactions reports printing controls frame
