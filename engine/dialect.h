@@ -7,24 +7,33 @@
 namespace Engine {
 
 // What differs between the stores in the text of statements; one implementation for each.
-class Dialect
-{
+class Dialect {
 public:
     virtual ~Dialect() = default;
 
     // The name as it is written in a statement: as it stands, or quoted when the store reserves it ("User").
     virtual QString name(const QString &identifier) const = 0;
     virtual QString columnType(const FieldDef &field) const = 0;
-    // Statements that create the table and its indexes.
+    // Statements that create the table without its indexes, and those that create the indexes. (Where the rows
+    // stand in the order of the primary key, that one is part of the table.)
     virtual QStringList createTable(const TableLayout &layout) const = 0;
     virtual QStringList createIndexes(const TableLayout &layout) const = 0;
+    virtual QString dropIndex(const QString &table, const IndexDef &index) const = 0;
 
-    // The text column compared without regard to ASCII letter case, usable by a case-insensitive index.
+    // The column's value as a value of another field; null where it does not convert, text cut to the new size.
+    virtual QString converted(const QString &column, FieldType from, const FieldDef &to) const = 0;
+    // Statements that let the auto-increment field of a copied table go on where the old table's stood.
+    virtual QStringList continueAutoIncrement(const QString &oldTable, const QString &newTable,
+                                              const QString &field) const = 0;
+
+    // The text column compared without regard to ASCII letter case, usable by a case-insensitive index. Both sides
+    // of a comparison are folded: foldCase("Name") + " = " + foldCase("?").
     virtual QString foldCase(const QString &column) const = 0;
     // One term of ORDER BY. Nulls come before everything in ascending order and after it in descending order, in
     // both stores.
     virtual QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const = 0;
-    // The name of the column that tells rows of a table without primary key apart.
+    // A whole number that tells the rows of a table without primary key apart: an expression over the row at hand.
+    // It may change whenever the row is written.
     virtual QString rowIdentity() const = 0;
     // Condition that the column equals one of the whole numbers of a text parameter such as "[1,2,3]".
     virtual QString inNumberList(const QString &column) const = 0;

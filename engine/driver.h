@@ -3,10 +3,10 @@
 #include "engine/layout.h"
 #include "engine/value.h"
 
-#include <QByteArray>
-#include <QString>
 #include <memory>
 #include <optional>
+#include <QByteArray>
+#include <QString>
 
 // The driver interface: one connection to a store and its prepared statements. Two implementations of the same
 // shape, SQLite and PostgreSQL. Parameters are written "?" in both; everything else that differs between the stores
@@ -18,8 +18,7 @@ class Dialect;
 class LockManager;
 
 // A prepared statement with typed parameters and columns, both counted from 0.
-class Statement
-{
+class Statement {
 public:
     virtual ~Statement() = default;
 
@@ -34,9 +33,9 @@ public:
     virtual bool next() = 0;
     // Executes to the end and returns the number of rows changed.
     virtual qint64 execute() = 0;
-    // Executes without waiting for the answer, where the store can do that. Order is kept; the answer, and with it a
-    // failure, comes at the latest with Connection::drain() or with the next statement that is waited for. A failed
-    // statement makes those sent after it fail as well, up to the drain. Inside a transaction only.
+    // Executes without waiting for the answer, where the store can do that. Order is kept; the answer, and with it
+    // a failure, comes at the latest with Connection::drain() or with the next statement that is waited for. A
+    // failed statement makes those sent after it fail as well, up to the drain. Inside a transaction only.
     virtual void send() = 0;
     // Ends the execution and frees its locks and rows; bindings stay. Done as well when the pointer is let go.
     virtual void reset() = 0;
@@ -59,15 +58,13 @@ protected:
 };
 
 // Hands a statement back to its connection's cache instead of destroying it.
-struct StatementReturn
-{
+struct StatementReturn {
     void operator()(Statement *statement) const;
 };
 using StatementPtr = std::unique_ptr<Statement, StatementReturn>;
 
 // One connection to a store. Not thread-safe: use on the thread that opened it.
-class Connection
-{
+class Connection {
 public:
     virtual ~Connection();
 
@@ -75,8 +72,8 @@ public:
     // What messages call the store: the file's path, or the server's address and database.
     virtual QString location() const = 0;
 
-    // A statement ready to be bound. Prepared once for each text and kept; while one is in use, a second request for
-    // the same text gets a statement of its own.
+    // A statement ready to be bound. Prepared once for each text and kept; while one is in use, a second request
+    // for the same text gets a statement of its own.
     StatementPtr prepare(const QString &sql);
     // Runs statements without parameters, several separated by semicolons if need be.
     virtual void execute(const QString &script) = 0;
@@ -93,6 +90,12 @@ public:
     // What the store holds. A missing table gives nullopt. Indexes that the engine did not make are left out.
     virtual std::optional<TableLayout> describe(const QString &table) = 0;
     virtual QStringList tableNames() = 0;
+
+    // Verifies a table and mends it as Database::repairTable says; returns the rows lost. Nobody else has it open.
+    virtual qint64 repair(const TableLayout &table) = 0;
+
+    // Drops the statements kept, after a table has changed its shape.
+    void forgetStatements() { clearStatementCache(); }
 
     // The value that the last insert of this connection gave to an auto-increment field.
     virtual qint64 lastInsertId() = 0;
@@ -114,8 +117,7 @@ protected:
 };
 
 // A transaction that is rolled back unless committed. Within an open one it does nothing but join it.
-class Transaction
-{
+class Transaction {
 public:
     explicit Transaction(Connection &connection);
     ~Transaction();

@@ -28,6 +28,7 @@ public:
     bool inTransaction() const override;
     std::optional<TableLayout> describe(const QString &table) override;
     QStringList tableNames() override;
+    qint64 repair(const TableLayout &table) override;
     qint64 lastInsertId() override;
     LockManager &locks() override { return *m_locks; }
 

@@ -1,5 +1,6 @@
 #include "engine/sqlitedialect.h"
 
+#include "engine/conversion.h"
 #include "engine/indexnames.h"
 #include "engine/reservedwords.h"
 
@@ -39,6 +40,29 @@ bool isPrimaryOver(const TableLayout &layout, const QString &field)
     return layout.primary() && layout.primary()->fields.compare(field, Qt::CaseInsensitive) == 0
         && !layout.primary()->options.testFlag(IndexOption::Descending);
 }
+
+QString textLiteral(QString text) { return u'\'' + text.replace(u'\'', "''"_L1) + u'\''; }
+
+// SQLite has no test for numbers and dates: a date is one that comes back unchanged from being understood.
+constexpr ConversionTexts conversions{
+    .wholeNumber = "CAST(%1 AS INTEGER)",
+    .floating = "CAST(%1 AS REAL)",
+    .textIsNumber = "(trim(%1) GLOB '*[0-9]*' AND trim(%1) NOT GLOB '*[^0-9.-]*' AND trim(%1) NOT GLOB '?*-*' "
+                    "AND trim(%1) NOT GLOB '*.*.*')",
+    .textToNumber = "CAST(trim(%1) AS REAL)",
+    .booleanToNumber = "%1",
+    .textToBoolean = "CASE WHEN lower(trim(%1)) IN ('true', 't', 'yes', 'y', '1') THEN 1 "
+                     "WHEN lower(trim(%1)) IN ('false', 'f', 'no', 'n', '0') THEN 0 END",
+    .numberToText = "CASE WHEN %1 = CAST(%1 AS INTEGER) THEN CAST(CAST(%1 AS INTEGER) AS TEXT) "
+                    "ELSE CAST(%1 AS TEXT) END",
+    .textToDate = "CASE WHEN date(substr(%1, 1, 10), '+0 days') = substr(%1, 1, 10) THEN substr(%1, 1, 10) END",
+    .textToDateTime = "CASE WHEN datetime(%1, '+0 days') = %1 THEN %1 "
+                      "WHEN date(%1, '+0 days') = %1 THEN %1 || ' 00:00:00' END",
+    .dateToText = "%1",
+    .dateTimeToText = "%1",
+    .dateToDateTime = "%1 || ' 00:00:00'",
+    .dateTimeToDate = "substr(%1, 1, 10)",
+};
 
 } // namespace
 
@@ -95,11 +119,6 @@ FieldDef SqliteDialect::fieldType(const QString &declared)
     return {{}, FieldType::Float, 0};
 }
 
-QString SqliteDialect::storedIndexName(const QString &table, const IndexDef &index)
-{
-    return prefixedIndexName(table, index);
-}
-
 QString SqliteDialect::keyClause(const TableLayout &layout, const IndexDef &index) const
 {
     QStringList terms;
@@ -132,8 +151,7 @@ QStringList SqliteDialect::createTable(const TableLayout &layout) const
         lines << "PRIMARY KEY "_L1 + keyClause(layout, *layout.primary());
         tail = ") WITHOUT ROWID"_L1;
     }
-    return QStringList(u"CREATE TABLE %1 (\n    %2\n"_s.arg(name(layout.name), lines.join(",\n    "_L1)) + tail)
-        + createIndexes(layout);
+    return {u"CREATE TABLE %1 (\n    %2\n%3"_s.arg(name(layout.name), lines.join(",\n    "_L1), tail)};
 }
 
 QStringList SqliteDialect::createIndexes(const TableLayout &layout) const
@@ -145,10 +163,33 @@ QStringList SqliteDialect::createIndexes(const TableLayout &layout) const
         if (primary && (rowNumber.isEmpty() || isPrimaryOver(layout, rowNumber)))
             continue; // the table itself
         statements << u"CREATE %1 %2 ON %3 %4"_s.arg(primary ? u"UNIQUE INDEX"_s : u"INDEX"_s,
-                                                     quoted(storedIndexName(layout.name, index)), name(layout.name),
-                                                     keyClause(layout, index));
+                                                     quoted(prefixedIndexName(layout.name, index)),
+                                                     name(layout.name), keyClause(layout, index));
     }
     return statements;
+}
+
+QString SqliteDialect::dropIndex(const QString &table, const IndexDef &index) const
+{
+    return "DROP INDEX "_L1 + quoted(prefixedIndexName(table, index));
+}
+
+QString SqliteDialect::converted(const QString &column, FieldType from, const FieldDef &to) const
+{
+    return convertedColumn(conversions, column, from, to);
+}
+
+QStringList SqliteDialect::continueAutoIncrement(const QString &oldTable, const QString &newTable,
+                                                 const QString &) const
+{
+    // SQLite takes no names as parameters here; they come from layouts and are quoted as texts.
+    const QString oldName = textLiteral(oldTable);
+    const QString newName = textLiteral(newTable);
+    return {u"INSERT INTO sqlite_sequence (name, seq) SELECT %1, 0 WHERE NOT EXISTS "
+            "(SELECT 1 FROM sqlite_sequence WHERE name = %1)"_s.arg(newName),
+            u"UPDATE sqlite_sequence SET seq = max(seq, coalesce((SELECT seq FROM sqlite_sequence WHERE name = "
+            u"%1), 0)) "
+            "WHERE name = %2"_s.arg(oldName, newName)};
 }
 
 QString SqliteDialect::foldCase(const QString &column) const { return column + " COLLATE NOCASE"_L1; }

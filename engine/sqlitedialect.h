@@ -10,6 +10,10 @@ public:
     QString columnType(const FieldDef &field) const override;
     QStringList createTable(const TableLayout &layout) const override;
     QStringList createIndexes(const TableLayout &layout) const override;
+    QString dropIndex(const QString &table, const IndexDef &index) const override;
+    QString converted(const QString &column, FieldType from, const FieldDef &to) const override;
+    QStringList continueAutoIncrement(const QString &oldTable, const QString &newTable,
+                                      const QString &field) const override;
     QString foldCase(const QString &column) const override;
     QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
     QString rowIdentity() const override;
@@ -17,8 +21,6 @@ public:
 
     // The type and size that a declared column type stands for; the name is left empty.
     static FieldDef fieldType(const QString &declared);
-    // The name of an index in the file, where names of indexes are unique over all tables.
-    static QString storedIndexName(const QString &table, const IndexDef &index);
 
 private:
     QString keyClause(const TableLayout &layout, const IndexDef &index) const;
