@@ -17,6 +17,7 @@ namespace Tallymere {
 struct DataModuleOptions {
     QString dataFolder; // this folder in file-server mode
     QString server; // this address in client/server mode
+    QString serverDatabase; // the database's name there; empty: "Corvane"
     bool createDatabase = false; // makes the file, or the database on the server, when it is missing
     QString currentUser;
     std::function<void(std::chrono::milliseconds)> waitFor; // how lock retries pause; see Engine::Session

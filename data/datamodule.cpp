@@ -1,0 +1,155 @@
+#include "data/datamodule.h"
+
+#include "data/layouts.h"
+#include "data/seeds.h"
+#include "engine/error.h"
+#include "frame/shared/connectiondecision.h"
+#include "frame/shared/trace.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QHash>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TDataModuleTallymere::TDataModuleTallymere(SettingsStore &settings, Prompts &prompts, DataModuleOptions options)
+    : m_settings(settings)
+    , m_prompts(prompts)
+    , m_options(std::move(options))
+    , m_session(u"SessionTallymere"_s)
+    , m_database(m_session, databaseName)
+    , m_tempSession(u"SessionTempTallymere"_s)
+    , m_tempDatabase(m_tempSession, u"TempTallymere-%1"_s.arg(QCoreApplication::applicationPid()))
+    , m_memory(Engine::Database::inMemory(m_tempSession))
+    , m_reportParameters(*m_memory, Layouts::reportParameters().name)
+    , m_config(m_database, u"Config"_s)
+    , m_company(m_database, Layouts::company().name)
+    , m_hist(m_database, Layouts::iHist().name)
+    , m_balance(m_database, Layouts::iBalance().name)
+    , m_warehouse(m_database, Layouts::warehse().name)
+    , m_itemCtl(m_database, Layouts::itemCtl().name)
+    , m_custCtl(m_database, u"CustCtl"_s)
+    , m_history(m_database, u"History"_s)
+{
+    m_session.onStartup = [this](Engine::Session &session) { startSession(session); };
+    m_session.waitFor = m_options.waitFor;
+    m_database.onBeforeConnect = [this](Engine::Database &database) { beforeConnect(database); };
+    m_database.createIfMissing = m_options.createDatabase;
+    m_tempSession.onStartup = [this](Engine::Session &session) {
+        qCDebug(trace) << "Opening SessionTempCorvaneAR...";
+        session.privateDirectory = m_session.privateDirectory;
+    };
+    m_tempDatabase.createIfMissing = true;
+    m_tempDatabase.onBeforeConnect = [this](Engine::Database &database) {
+        qCDebug(trace) << "Setting DatabaseTempTallymere directory...";
+        database.directory = m_tempSession.privateDirectory;
+    };
+    setCurrentUser(m_options.currentUser);
+    start();
+}
+
+TDataModuleTallymere::~TDataModuleTallymere()
+{
+    m_reportParameters.close();
+    if (m_tempDatabase.isOpen()) {
+        m_tempDatabase.close();
+        const QString stem = QDir(m_tempDatabase.directory).filePath(m_tempDatabase.name());
+        QFile::remove(stem + u".sqlite"_s);
+        QFile::remove(stem + u".lck"_s);
+    }
+}
+
+void TDataModuleTallymere::setCurrentUser(const QString &user)
+{
+    m_currentUser = user;
+    m_session.applicationUser = user;
+}
+
+void TDataModuleTallymere::startSession(Engine::Session &session)
+{
+    m_mode = sessionTallymereStartup(session, m_settings);
+    if (!m_options.dataFolder.isEmpty()) {
+        session.type = Engine::SessionType::Local;
+    } else if (!m_options.server.isEmpty()) {
+        session.type = Engine::SessionType::Remote;
+        session.remoteAddress = m_options.server;
+        useServerAccount(session);
+    }
+}
+
+void TDataModuleTallymere::beforeConnect(Engine::Database &database)
+{
+    if (!m_options.dataFolder.isEmpty()) {
+        m_mode = fileServerMode;
+        database.directory = m_options.dataFolder;
+    } else if (!m_options.server.isEmpty()) {
+        m_mode = clientServerMode;
+        database.remoteName = m_options.serverDatabase.isEmpty() ? QString(databaseName) : m_options.serverDatabase;
+    } else {
+        m_mode = databaseTallymereBeforeConnect(database, m_settings, m_prompts);
+    }
+}
+
+void TDataModuleTallymere::openReportParameters()
+{
+    if (!m_memory->tableExists(m_reportParameters.name()))
+        m_memory->createTable(Layouts::reportParameters());
+    m_reportParameters.open();
+}
+
+// Without it this is a database of something else, and the inventory's tables have no business there.
+void TDataModuleTallymere::requireHost()
+{
+    if (m_database.tableExists(m_config.name()))
+        return;
+    throw Engine::EngineError(
+        Engine::ErrorCode::NoSuchTable,
+        QCoreApplication::translate("DataModule",
+                                    "The table \"%1\" of the host application is missing in %2. Open the company "
+                                    "in the host application once, or choose another database.")
+            .arg(m_config.name(), m_database.connection().location()));
+}
+
+void TDataModuleTallymere::start()
+{
+    const QDate today = m_options.today ? m_options.today() : QDate::currentDate();
+    const QHash<QString, std::function<void()>> seeds{
+        {u"Company"_s, [&] { Seeds::refreshOrganization(m_database, m_config, today); }},
+        {u"ARInvCtl"_s, [&] { Seeds::firstLocation(m_database); }},
+        {u"Bank"_s, [&] { Seeds::firstBank(m_database); }},
+        {u"Currency"_s, [&] { Seeds::firstCurrency(m_database, m_config); }},
+    };
+
+    openReportParameters();
+    if (m_options.prepareHost)
+        m_options.prepareHost(m_database);
+    requireHost();
+    m_config.open();
+    for (const Engine::TableLayout *layout : Layouts::applied()) {
+        m_database.createOrUpdateTable(*layout);
+        if (const auto seed = seeds.find(layout->name); seed != seeds.end())
+            seed.value()();
+    }
+    m_company.open();
+    m_hist.open();
+    m_balance.open();
+    prepareReportPrinting();
+}
+
+void TDataModuleTallymere::prepareReportPrinting()
+{
+    qCDebug(trace) << "DataModuleTallymere.QuickReportA4";
+    if (!m_options.prepareReportPrinting)
+        return;
+    try {
+        m_options.prepareReportPrinting();
+    } catch (const std::exception &error) {
+        // A start must not depend on printers; printing itself reports what is wrong with them.
+        qCDebug(trace) << "No printer could be prepared:" << error.what();
+    }
+}
+
+} // namespace Tallymere

@@ -1,0 +1,85 @@
+#include "data/fiscalperiod.h"
+
+#include "frame/shared/ruleerror.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+Period periodOf(const Engine::DataSet &company, QLatin1StringView stem)
+{
+    return {company.integer(QString(stem + "YYYY"_L1)), company.integer(QString(stem + "PP"_L1))};
+}
+
+bool outside(const Period &period, const Period &from, const Period &to)
+{
+    return period.key() < from.key() || (to.key() > 0 && period.key() > to.key());
+}
+
+} // namespace
+
+FiscalSettings FiscalSettings::of(const Engine::DataSet &company)
+{
+    return {
+        .fiscalYear = company.integer(u"FiscalYear"),
+        .defaultPeriod = periodOf(company, "DefaultPeriod"_L1),
+        .warnFrom = periodOf(company, "WPeriodFrom"_L1),
+        .warnTo = periodOf(company, "WPeriodTo"_L1),
+        .errorFrom = periodOf(company, "EPeriodFrom"_L1),
+        .errorTo = periodOf(company, "EPeriodTo"_L1),
+    };
+}
+
+Period defaultPeriod(const FiscalSettings &settings, QDate today)
+{
+    const Period &preset = settings.defaultPeriod;
+    return {preset.year > 0 ? preset.year : today.year(), preset.number > 0 ? preset.number : today.month()};
+}
+
+PeriodVerdict judgePeriod(const FiscalSettings &settings, const Period &period)
+{
+    if (settings.fiscalYear == 0)
+        return PeriodVerdict::NoFiscalYear;
+    if (period.year < settings.fiscalYear)
+        return PeriodVerdict::BeforeFiscalYear;
+    if (outside(period, settings.errorFrom, settings.errorTo))
+        return PeriodVerdict::NotAllowed;
+    if (outside(period, settings.warnFrom, settings.warnTo))
+        return PeriodVerdict::NotExpected;
+    return PeriodVerdict::Fine;
+}
+
+QString periodMessage(PeriodVerdict verdict)
+{
+    const auto tr = [](const char *text) { return QCoreApplication::translate("Periods", text); };
+    switch (verdict) {
+    case PeriodVerdict::Fine:
+        break;
+    case PeriodVerdict::NoFiscalYear:
+        return tr("Current fiscal year is not yet defined...\nSee \"Your Company\"");
+    case PeriodVerdict::BeforeFiscalYear:
+        return tr("GL Period is prior to current fiscal year \nas defined by \"Your Company\"");
+    case PeriodVerdict::NotAllowed:
+        return tr("GL Period is not within allowed range \nas defined by \"Your Company\"");
+    case PeriodVerdict::NotExpected:
+        return tr("GL Period is not within expected range \nas defined by \"Your Company\".");
+    }
+    return {};
+}
+
+void requirePeriod(const FiscalSettings &settings, const Period &period, Prompts &prompts, const QString &column)
+{
+    const PeriodVerdict verdict = judgePeriod(settings, period);
+    if (verdict == PeriodVerdict::Fine)
+        return;
+    if (verdict != PeriodVerdict::NotExpected)
+        throw RuleError(periodMessage(verdict), column);
+    if (!prompts.confirm(QCoreApplication::translate("Periods", "Warning"), periodMessage(verdict)))
+        throw SilentAbort(column);
+}
+
+} // namespace Tallymere

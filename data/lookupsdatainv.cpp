@@ -1,0 +1,107 @@
+#include "data/lookupsdatainv.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+using Engine::DataSet;
+using Engine::FieldType;
+using Engine::Table;
+using Engine::Value;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr int addressSize = 100;
+
+QString joinFilled(const QStringList &parts, const QString &separator)
+{
+    QStringList filled;
+    for (const QString &part : parts) {
+        if (const QString trimmed = part.trimmed(); !trimmed.isEmpty())
+            filled << trimmed;
+    }
+    return filled.join(separator);
+}
+
+// "Springfield IL 62701"
+QString place(const DataSet &row, const QString &prefix)
+{
+    return joinFilled({row.text(QString(prefix + "City"_L1)), row.text(QString(prefix + "StateProv"_L1)),
+                       row.text(QString(prefix + "ZipCode"_L1))},
+                      u" "_s);
+}
+
+// "12 Mill Lane, Unit 4, Springfield IL 62701, USA". The prefix tells one address of a row from another. Cut to the
+// field it is shown in.
+QString addressLine(const DataSet &row, const QString &prefix)
+{
+    return joinFilled({row.text(QString(prefix + "AddressLine1"_L1)), row.text(QString(prefix + "AddressLine2"_L1)),
+                       place(row, prefix), row.text(QString(prefix + "Country"_L1))},
+                      u", "_s)
+        .left(addressSize);
+}
+
+Value fullName(const DataSet &row)
+{
+    const QString first = row.text(u"FirstName");
+    const QString last = row.text(u"LastName");
+    return first.isEmpty() || last.isEmpty() ? first + last : first + u' ' + last;
+}
+
+} // namespace
+
+TdmLookUpsInv::TdmLookUpsInv(Engine::Database &database)
+    : m_tax(database, u"Tax"_s)
+    , m_salesman(database, u"Salesman"_s)
+    , m_cusType(database, u"CusType"_s)
+    , m_currency(database, u"Currency"_s)
+    , m_item(database, u"Item"_s)
+    , m_customer(database, u"Customer"_s)
+    , m_glAccnt(database, u"GLAccnt"_s)
+    , m_vendor(database, u"Vendor"_s)
+    , m_bank(database, u"Bank"_s)
+    , m_itemType(database, u"ItemType"_s)
+    , m_warehse(database, u"Warehse"_s)
+    , m_logo(database, u"Logo"_s)
+{
+    m_tax.setIndex(u"TaxName1"_s);
+    m_salesman.setIndex(u"FullName"_s);
+    m_cusType.setIndex(u"TypeName1"_s);
+    m_currency.setIndex(u"CurrencyName1"_s);
+    m_item.setIndex(u"ItemDescription1"_s);
+    m_customer.setIndex(u"CustomerName1"_s);
+    m_glAccnt.setIndex(u"AccountName1"_s);
+    m_vendor.setIndex(u"VendorName1"_s);
+    m_bank.setIndex(u"BankName1"_s);
+    m_itemType.setIndex(u"TypeName1"_s);
+    m_warehse.setIndex(u"WarehouseName1"_s);
+    describeCalculatedFields();
+
+    m_item.open();
+    m_itemType.open();
+}
+
+void TdmLookUpsInv::describeCalculatedFields()
+{
+    m_salesman.addCalculated(u"FullName"_s, FieldType::Text, 60, fullName);
+    m_glAccnt.addCalculated(u"AccountName30"_s, FieldType::Text, 50,
+                            [](const DataSet &row) { return row.value(u"AccountName"); });
+    m_customer.addCalculated(u"Address"_s, FieldType::Text, addressSize,
+                             [](const DataSet &row) { return Value(addressLine(row, {})); });
+    m_customer.addCalculated(u"ShipToAddress"_s, FieldType::Text, addressSize,
+                             [](const DataSet &row) { return Value(addressLine(row, u"ShipTo"_s)); });
+    m_vendor.addCalculated(u"Address"_s, FieldType::Text, addressSize,
+                           [](const DataSet &row) { return Value(addressLine(row, {})); });
+    m_vendor.addCalculated(u"CityStateZip"_s, FieldType::Text, 67,
+                           [](const DataSet &row) { return Value(place(row, {})); });
+}
+
+Table &TdmLookUpsInv::opened(Table &table)
+{
+    if (!table.isOpen())
+        table.open();
+    return table;
+}
+
+} // namespace Tallymere

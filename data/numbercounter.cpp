@@ -1,0 +1,87 @@
+#include "data/numbercounter.h"
+
+#include "engine/error.h"
+#include "engine/session.h"
+
+#include <thread>
+
+using Engine::EngineError;
+using Engine::ErrorCode;
+using Engine::Table;
+
+namespace Tallymere {
+
+namespace {
+
+void waitFor(const Engine::Session &session, std::chrono::milliseconds pause)
+{
+    if (pause.count() <= 0)
+        return;
+    if (session.waitFor)
+        session.waitFor(pause);
+    else
+        std::this_thread::sleep_for(pause);
+}
+
+void openExclusively(Table &counters, CounterRetry retry)
+{
+    counters.exclusive = true;
+    for (int attempt = 1;; ++attempt) {
+        try {
+            counters.open();
+            return;
+        } catch (const EngineError &error) {
+            if (error.code() != ErrorCode::TableInUse || attempt >= retry.attempts)
+                throw;
+        }
+        waitFor(counters.database().session(), retry.pause);
+    }
+}
+
+void save(Table &counters)
+{
+    if (counters.isEditing())
+        counters.post();
+    counters.flush();
+    counters.close();
+}
+
+} // namespace
+
+qint64 CounterRow::take(QStringView field)
+{
+    const qint64 number = value(field);
+    set(field, number + 1);
+    return number;
+}
+
+void CounterRow::restartOutside(QStringView field, qint64 lowest, qint64 highest, qint64 restart)
+{
+    if (const qint64 number = value(field); number < lowest || number > highest)
+        set(field, restart);
+}
+
+void CounterRow::restartWhenZero(QStringView field, qint64 restart)
+{
+    if (value(field) == 0)
+        set(field, restart);
+}
+
+void takeNumbers(Engine::Database &database, const QString &table, const std::function<void(CounterRow &)> &rule,
+                 CounterRetry retry)
+{
+    Table counters(database, table);
+    openExclusively(counters, retry);
+    counters.edit();
+    CounterRow row(counters);
+    try {
+        rule(row);
+    } catch (...) {
+        // What has been taken may be in use already, so it must not be handed out again.
+        save(counters);
+        throw;
+    }
+    save(counters);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,121 @@
+#include "data/seeds.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QStringView>
+
+using namespace Qt::StringLiterals;
+using Engine::Table;
+using Engine::Value;
+
+namespace Tallymere::Seeds {
+
+namespace {
+
+struct Assignment {
+    QString field;
+    Value value;
+};
+
+// The text's first characters, as many as the field holds; a character outside the basic plane is never split.
+QString fitted(const Table &table, const QString &field, const QString &text)
+{
+    const QList<uint> characters = text.toUcs4();
+    const int size = table.field(field).size;
+    if (size <= 0 || characters.size() <= size)
+        return text;
+    return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()), size);
+}
+
+bool isEmpty(const Value &value) { return value.isNull() || value == Value(u""_s); }
+
+// An unset text of the host leaves a field that is empty as it is: null and "" are the same to everyone.
+bool differs(const Value &stored, const Value &wanted)
+{
+    return !(stored == wanted || (isEmpty(stored) && isEmpty(wanted)));
+}
+
+QList<Assignment> organizationOf(const Table &company, const Table &config)
+{
+    const auto host = [&](const char16_t *field) { return config.text(QStringView(field)); };
+    const auto text = [&](const QString &field, const QString &value) {
+        return Assignment{field, Value(fitted(company, field, value))};
+    };
+    return {
+        {u"CompanyNo"_s, 1},
+        text(u"CompanyName"_s, host(u"Organizatn")),
+        text(u"AddressLine1"_s, host(u"Org_Addr")),
+        text(u"AddressLine2"_s, host(u"Org_City") + u' ' + host(u"Org_State") + u' ' + host(u"Org_ZIP")),
+        text(u"Phone"_s, host(u"Org_Phone")),
+    };
+}
+
+QList<Assignment> organizationDefaults(QDate today)
+{
+    return {
+        {u"FiscalYear"_s, today.year()},       {u"DefaultCurrencyID"_s, 1},  {u"DefaultNetDays"_s, 30},
+        {u"ClientInvoiceLineItems"_s, "S"_L1}, {u"InvoiceFormat"_s, "S"_L1},
+    };
+}
+
+void addFirstRow(Engine::Database &database, const QString &name, const QList<Assignment> &row)
+{
+    Table table(database, name);
+    table.open();
+    if (!table.isEmpty())
+        return;
+    table.append();
+    for (const Assignment &assignment : row)
+        table.set(assignment.field, assignment.value);
+    table.post();
+}
+
+} // namespace
+
+void refreshOrganization(Engine::Database &database, const Table &config, QDate today)
+{
+    Table company(database, u"Company"_s);
+    company.open();
+
+    QList<Assignment> changes;
+    for (const Assignment &wanted : organizationOf(company, config)) {
+        if (differs(company.value(wanted.field), wanted.value))
+            changes << wanted;
+    }
+    for (const Assignment &initial : organizationDefaults(today)) {
+        if (isEmpty(company.value(initial.field)))
+            changes << initial;
+    }
+    if (changes.isEmpty())
+        return;
+
+    company.edit(); // of an empty table: its first row
+    for (const Assignment &change : changes)
+        company.set(change.field, change.value);
+    company.post();
+}
+
+void firstLocation(Engine::Database &database)
+{
+    addFirstRow(database, u"Warehse"_s, {{u"WarehouseID"_s, 1}, {u"WarehouseName"_s, "Office"_L1}});
+}
+
+void firstBank(Engine::Database &database)
+{
+    addFirstRow(database, u"Bank"_s,
+                {{u"BankID"_s, 1}, {u"BankName"_s, "Meal Preparation Account"_L1}, {u"CurrencyID"_s, 1}});
+}
+
+void firstCurrency(Engine::Database &database, const Table &config)
+{
+    static const QHash<QString, QString> names{
+        {u"USA"_s, u"US $"_s},
+        {u"CAN"_s, u"Canadian $"_s},
+        {u"UK "_s, u"Pounds"_s},
+    };
+    const QString name = names.value(config.text(u"Postal_Format"), u"Home Currency"_s);
+    addFirstRow(database, u"Currency"_s,
+                {{u"CurrencyID"_s, 1}, {u"CurrencyName"_s, name}, {u"ExchangeRate"_s, 1.0}});
+}
+
+} // namespace Tallymere::Seeds

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "engine/database.h"
+#include "engine/table.h"
+
+#include <QDate>
+
+// First rows of the inventory tables, taken from the host's configuration where it knows better. Each opens what it
+// needs, writes only what differs from what is there, and closes it again.
+
+namespace Tallymere::Seeds {
+
+// Name, first two address lines and phone follow the host's Config row; other fields are filled where they are
+// empty.
+void refreshOrganization(Engine::Database &database, const Engine::Table &config, QDate today);
+void firstLocation(Engine::Database &database);
+void firstBank(Engine::Database &database);
+// Named by the host's postal format; "Home Currency" for a format that is not known.
+void firstCurrency(Engine::Database &database, const Engine::Table &config);
+
+} // namespace Tallymere::Seeds

@@ -1,0 +1,213 @@
+#include "data/utilsinv.h"
+
+#include "engine/error.h"
+#include "frame/shared/ruleerror.h"
+#include "frame/shared/textnumbers.h"
+#include "frame/shared/trace.h"
+
+#include <QCoreApplication>
+#include <QRandomGenerator>
+#include <QScopeGuard>
+#include <QStringList>
+#include <QVersionNumber>
+
+using namespace Qt::StringLiterals;
+using Engine::EngineError;
+using Engine::ErrorCode;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("Utilities", text); }
+
+QString unexpectedError(const EngineError &error)
+{
+    return tr("Unknown or unexpected database engine error #%1").arg(static_cast<int>(error.code())) + u'\n'
+        + error.text();
+}
+
+[[noreturn]] void refuseOpening(const Engine::Table &table, const EngineError &error)
+{
+    if (error.code() == ErrorCode::TableInUse)
+        throw EngineError(error.code(),
+                          tr("%1 table. Another user has the table open in exclusive mode.").arg(table.name()),
+                          error.text());
+    throw EngineError(error.code(), table.name() + u": "_s + unexpectedError(error), error.driverText());
+}
+
+void openOrRefuse(Engine::Table &table)
+{
+    try {
+        table.open();
+    } catch (const EngineError &error) {
+        refuseOpening(table, error);
+    }
+}
+
+bool lockedForEdit(Engine::Table &counter)
+{
+    constexpr int attempts = 100;
+    constexpr int mostRounds = 20;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        try {
+            counter.edit();
+            return true;
+        } catch (const EngineError &) {
+            qCDebug(trace) << "in the unique ID EDBEngineError exception block";
+        }
+        for (int rounds = QRandomGenerator::global()->bounded(mostRounds); rounds > 0; --rounds)
+            QCoreApplication::processEvents();
+    }
+    return false;
+}
+
+QString cutBefore(const QString &piece, QChar marker)
+{
+    const qsizetype at = piece.size() > 1 ? piece.indexOf(marker) : -1;
+    return at < 0 ? piece : piece.left(at).trimmed();
+}
+
+QString formSetting(const QString &section) { return u"Forms/"_s + section; }
+
+} // namespace
+
+int getUniqueID(Engine::Table &counter, const QString &field)
+{
+    qCDebug(trace) << "Entering GetUniqueID";
+    openTable(counter);
+    const auto closing = qScopeGuard([&] {
+        counter.close();
+        qCDebug(trace) << "Exiting GetUniqueID";
+    });
+
+    if (!lockedForEdit(counter)) {
+        qCDebug(trace) << "The ID record could not be locked!";
+        throw RuleError(tr("Cannot get next unique number. (btGetUniqueNumber)"));
+    }
+    qCDebug(trace) << "LastNumberTbl is in Edit Mode" << field << counter.integer(field);
+    const int number = counter.integer(field) + 1;
+    counter.set(field, number);
+    counter.post();
+    counter.flush();
+    return number;
+}
+
+bool openTable(Engine::Table &table)
+{
+    try {
+        table.open();
+    } catch (const EngineError &error) {
+        if (error.code() != ErrorCode::Corrupt)
+            refuseOpening(table, error);
+        qCDebug(trace) << "tbl.RepairTable" << table.name();
+        table.database().repairTable(table.name());
+        openOrRefuse(table);
+    }
+    return true;
+}
+
+bool openQuery(Engine::Query &query)
+{
+    try {
+        query.open();
+    } catch (const EngineError &error) {
+        throw EngineError(error.code(), u"Query: "_s + unexpectedError(error), error.driverText());
+    }
+    return true;
+}
+
+QString getSQLString(Engine::Query &query, const QString &name)
+{
+    qCDebug(trace) << "About to open QueryGetSQLStatement..." << name;
+    query.close();
+    query.setParameter(u"Query_Name", name);
+    query.open();
+    const QString statement = query.text(u"Query_Lines");
+    query.close();
+    return statement;
+}
+
+bool isRecordLocked(const Engine::Table &) { return false; }
+
+QString extractIDFromString(const QString &text)
+{
+    const QString piece = text.mid(text.indexOf(u'[') + 1, 4).trimmed();
+    return cutBefore(cutBefore(piece, u'~'), u']');
+}
+
+QString before(const QString &marker, const QString &text)
+{
+    const qsizetype at = marker.isEmpty() ? -1 : text.indexOf(marker);
+    return at < 0 ? text : text.left(at);
+}
+
+QString getDecimalPortionAsString(const QString &number)
+{
+    const qsizetype point = number.indexOf(u'.');
+    return point < 0 ? QString() : number.mid(point, 4).trimmed();
+}
+
+QString getIntegerPortionAsString(const QString &number)
+{
+    return QString::number(getIntegerPortionOfStringAsInteger(number));
+}
+
+int getIntegerPortionOfStringAsInteger(const QString &number) { return before(u"."_s, number).trimmed().toInt(); }
+
+double strToFloatDef(const QString &text, double) { return numberFromText(text); }
+
+quint32 checkListGetBitField(const QList<bool> &checks)
+{
+    quint32 bits = 0;
+    for (qsizetype i = 0; i < checks.size(); ++i) {
+        if (checks[i])
+            bits |= 1u << (i % 32);
+    }
+    return bits;
+}
+
+void checkListSetChecks(QList<bool> &checks, quint32 bits)
+{
+    for (qsizetype i = 0; i < checks.size(); ++i)
+        checks[i] = (bits >> (i % 32) & 1u) != 0;
+}
+
+BuildInfo getBuildInfo()
+{
+    const QVersionNumber version = QVersionNumber::fromString(QCoreApplication::applicationVersion());
+    const auto part = [&](int index) { return static_cast<quint16>(version.segmentAt(index)); };
+    return {part(0), part(1), part(2), part(3)};
+}
+
+QString strBuildInfo()
+{
+    const BuildInfo info = getBuildInfo();
+    return QVersionNumber({info.major, info.minor, info.release, info.build}).toString();
+}
+
+void saveFormPos(SettingsStore &settings, const QRect &geometry, const QString &section, const QString &key)
+{
+    const QString text =
+        u"%1 %2 %3 %4"_s.arg(geometry.x()).arg(geometry.y()).arg(geometry.width()).arg(geometry.height());
+    settings.write(formSetting(section), key, text);
+}
+
+std::optional<QRect> setFormPos(const SettingsStore &settings, const QString &section, const QString &key)
+{
+    qCDebug(trace) << "Entering SetFormPos...";
+    const QStringList parts = settings.read(formSetting(section), key).split(u' ');
+    QList<int> numbers;
+    bool ok = parts.size() == 4;
+    for (const QString &part : parts) {
+        bool isNumber = false;
+        numbers << part.toInt(&isNumber);
+        ok = ok && isNumber;
+    }
+    qCDebug(trace) << "Exiting SetFormPos";
+    if (!ok || numbers[2] <= 0 || numbers[3] <= 0)
+        return std::nullopt;
+    return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
+}
+
+} // namespace Tallymere
