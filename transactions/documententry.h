@@ -19,7 +19,7 @@ struct DocumentKind {
     QString numberTaken; // raised when the number or the key exists already
     QString nothingEntered; // raised when a document without lines is saved
     QString locationGone; // raised when the location is no longer there
-    QString lineBreak; // stands between a line message and its advice
+    QStringList requiredFields; // of the header, beside what is checked on its own
 };
 
 // Entering one document, a header and its lines: the rules between the two tables and the screen.
@@ -100,34 +100,38 @@ protected:
     virtual void checkComplete() { } // before everything else when the header is saved
     virtual void checkReferences() = 0; // after the period: what the header names, and that there are lines
     virtual void checkLine() = 0; // before a line gets its number and is written
+    virtual void restoreLine(const Engine::Row &kept); // fills the new line from the copy
 
     // --- pieces for those
     // -------------------------------------------------------------------------------------------
-    void requireHeaderField(const QString &field) const; // raises "Field '...' must have a value"
+    void requireHeaderField(const QString &field, const QString &column) const; // "Field '...' must have a value"
     void requireLineField(const QString &field, const QString &column) const;
     void requireItem() const; // the line has an item, and it exists
     void requireLocation() const;
     void requireLines() const;
     [[noreturn]] void refuseLine(const QString &message, const QString &column) const; // with the advice to undo
     bool exists(const QString &table, const QString &keyField, const Engine::Value &key) const;
+    // A choice of the user: puts the header into edit if need be.
+    void chooseInHeader(const QString &field, const Engine::Value &value);
 
 private:
     void hookHeader();
     void hookLines();
-    void unhookLines();
 
     void newHeader();
-    void refusePosted();
+    void refusePosted() const;
     void headerEdited();
+    void numberLinesFrom(const Engine::Value &last);
+    void setFiscalDefaults();
     void checkHeader();
     void checkPeriod();
-    void checkRequired() const;
 
     void beginLineChange();
     void numberLine();
     void validateItem(const Engine::Value &itemId) const;
     void keepLines();
     void restoreLines();
+    void beginVisit();
 
     const DocumentKind m_kind;
     Prompts &m_prompts;

@@ -17,6 +17,7 @@ public:
 
     // The documents with "Periodppyyyy" ("3/2004") and "WarehouseName".
     Engine::Table &table() { return m_table; }
+    const Engine::Table &table() const { return m_table; }
     void open() { m_table.open(); }
 
     int currentKey() const { return m_table.integer(m_kind.keyField); } // 0 when the list is empty

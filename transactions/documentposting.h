@@ -1,23 +1,18 @@
 #pragma once
 
+#include "data/transtypes.h"
 #include "engine/database.h"
-#include "engine/money.h"
 #include "engine/value.h"
 #include "frame/shared/prompts.h"
 
 #include <functional>
-#include <memory>
 #include <QCoreApplication>
 #include <vector>
 
-namespace Engine {
-class Table;
-}
-
 namespace Tallymere {
 
-class StockBook;
 class HistoryWriter;
+class StockBook;
 class Writes;
 
 // A table that a posting run holds for itself, and what is said when another user has it.
@@ -30,19 +25,22 @@ struct PostingLock {
 struct PostingKind {
     QString headerTable; // "IReceipt"
     QString lineTable; // "IRecDet"
-    QString keyField; // of both
-    QString source; // what follows FROM for the headers; the header table is called I
-    QString headerColumns; // of the source: year, period, date, location, then those of the kind
-    QString lineColumns; // ItemID, quantity, then those of the kind
+    QString keyField; // of both, and of the history rows
+    // What follows FROM for the unposted documents, complete with its WHERE; the header table is called I.
+    QString unposted;
+    // Of I: year, period, date, location, then columns of the kind's own, which readHeader() takes up.
+    QString headerColumns;
+    QString lineColumns; // ItemID, quantity, then those of the kind's own, for readLine()
+    TransType transType = TransType::Adjust;
     QList<PostingLock> locks; // in the order they are taken
     QString entryOpen; // raised while the entry screen is open
 };
 
-// One document with what posting needs of it.
+// One line, with what posting needs of it.
 struct PostingLine {
     Engine::Value item;
-    double quantity = 0;
-    Engine::Money unitCost; // as entered
+    double quantity = 0; // as entered
+    double unitCost = 0; // as entered
 };
 
 struct PostingDocument {
@@ -53,7 +51,14 @@ struct PostingDocument {
     Engine::Value warehouse;
     QString description; // of its history rows
     double exchangeRate = 0; // of the vendor's currency; 0 where there is none
-    std::vector<PostingLine> lines;
+    std::vector<PostingLine> lines; // in the order of their numbers
+};
+
+// What a line is posted to.
+struct PostingBooks {
+    StockBook &stock;
+    HistoryWriter &history;
+    Writes &writes;
 };
 
 // Posts every unposted document of one kind: marks it posted, then writes history and balance line by line.
@@ -64,7 +69,7 @@ struct PostingDocument {
 //
 // Failure of the store: an EngineError. Documents before it stay posted; the one in hand stays marked, with what
 // was written before the failing statement. The end of the process or of the machine leaves whole documents only,
-// at most the last quarter of a second unposted. Use on the thread that opened the database.
+// at most the last quarter of a second of them unposted. Use on the thread that opened the database.
 class DocumentPosting {
     Q_DECLARE_TR_FUNCTIONS(Tallymere::DocumentPosting)
 
@@ -80,37 +85,30 @@ public:
     std::function<bool()> isEntryOpen;
 
     // True when the run took place; false when there was nothing to post. Raises RuleError while the entry screen
-    // is open. A table held by another user is asked about with Prompts::retry; the answer Cancel raises the lock's
-    // EngineError, with nothing written and no table held.
+    // is open, and for an amount that is out of range. A table held by another user is asked about with
+    // Prompts::retry; the answer Cancel raises the lock's EngineError, with nothing written and no table held.
     bool run(Prompts &prompts, Progress &progress);
 
 protected:
     DocumentPosting(Engine::Database &database, PostingKind kind);
-    // Takes down the unposted documents. Called by the constructors of the kinds.
-    void takeSnapshot();
 
-    Engine::Database &database() const { return m_database; }
-    StockBook &stock() const { return *m_stock; }
-    HistoryWriter &history() const { return *m_history; }
-
-    // Fills in what is the kind's own; the columns after the common ones, in the kind's order.
+    // Fill in what is the kind's own, from its own columns, the first of which is given.
     virtual void readHeader(const Engine::Statement &row, int column, PostingDocument &document) const = 0;
     virtual void readLine(const Engine::Statement &row, int column, PostingLine &line) const = 0;
-    virtual void postLine(const PostingDocument &document, const PostingLine &line, Writes &writes) = 0;
+    virtual void postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books) const = 0;
 
 private:
     class Locks;
+
     void postAll(Progress &progress);
-    std::vector<PostingDocument> readBatch(size_t begin, size_t end) const;
+    std::vector<PostingDocument> readBatch(const QString &keys) const;
+    std::vector<PostingDocument> readHeaders(const QString &keys) const;
     void readLines(std::vector<PostingDocument> &documents, const QString &keys) const;
-    void prefetchStock(const std::vector<PostingDocument> &documents);
-    void postDocument(const PostingDocument &document, Writes &writes);
+    void postDocument(const PostingDocument &document, Engine::Statement &mark, PostingBooks books) const;
 
     Engine::Database &m_database;
     const PostingKind m_kind;
     std::vector<qint64> m_keys;
-    std::unique_ptr<StockBook> m_stock;
-    std::unique_ptr<HistoryWriter> m_history;
 };
 
 } // namespace Tallymere

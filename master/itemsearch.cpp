@@ -1,0 +1,76 @@
+#include "master/itemsearch.h"
+
+#include "engine/query.h"
+#include "frame/shared/ruleerror.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+ItemSearch::ItemSearch(Engine::Database &database)
+    : m_items(database, u"Item"_s)
+{
+    m_items.setIndex(u"ITEMNO"_s);
+    m_items.addLookup(u"TypeName"_s, Engine::FieldType::Text, 40,
+                      {u"ItemTypeID"_s, u"ItemType"_s, u"ItemTypeID"_s, u"TypeName"_s});
+}
+
+void ItemSearch::open()
+{
+    if (!m_items.isOpen())
+        m_items.open();
+}
+
+void ItemSearch::reset()
+{
+    setItemType(0);
+    m_items.setIndex(u"ITEMNO"_s);
+}
+
+void ItemSearch::setItemId(int itemId)
+{
+    if (!m_items.moveToKey({itemId}))
+        m_items.first();
+}
+
+bool ItemSearch::typeItemNo(const QString &text) { return type(u"ITEMNO"_s, u"ItemNo"_s, text); }
+
+bool ItemSearch::typeDescription(const QString &text)
+{
+    return type(u"ITEMDESCRIPTION1"_s, u"ItemDescription"_s, text);
+}
+
+bool ItemSearch::type(const QString &index, const QString &field, const QString &text)
+{
+    if (m_items.index() != index)
+        m_items.setIndex(index);
+    return m_items.locate(field, {text}, Engine::LocateOption::PartialKey);
+}
+
+void ItemSearch::setItemType(int itemTypeId)
+{
+    if (itemTypeId > 0)
+        m_items.setFilter(u"ItemTypeID = %1"_s.arg(itemTypeId));
+    m_items.setFiltered(itemTypeId > 0);
+}
+
+int itemIdByNumber(Engine::Database &database, const QString &itemNo)
+{
+    const Engine::Value id = Engine::singleValue(
+        database, u"SELECT ItemID FROM Item WHERE ItemNo = ? ORDER BY ItemID LIMIT 1"_s, {itemNo});
+    if (id.isNull())
+        throw RuleError(QCoreApplication::translate("Tallymere::ItemSearch", "Item no. '%1' not found").arg(itemNo),
+                        u"ItemNo"_s);
+    return id.toInt();
+}
+
+void moveToItem(Engine::DataSet &list, int itemId, const QString &itemText)
+{
+    if (!list.locate(u"ItemID"_s, {itemId}))
+        throw RuleError(QCoreApplication::translate("Tallymere::ItemSearch", "'%1' not found").arg(itemText),
+                        u"ItemID"_s);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,379 @@
+#include "transactions/documententry.h"
+
+#include "data/fiscalperiod.h"
+#include "engine/database.h"
+#include "engine/error.h"
+#include "engine/query.h"
+#include "frame/shared/formats.h"
+#include "frame/shared/ruleerror.h"
+
+#include <QScopeGuard>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using Engine::ErrorCode;
+using Engine::FieldType;
+using Engine::Value;
+
+namespace Tallymere {
+
+DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, DocumentKind kind)
+    : today(&QDate::currentDate)
+    , m_kind(std::move(kind))
+    , m_prompts(prompts)
+    , m_header(database, m_kind.headerTable)
+    , m_lines(database, m_kind.lineTable)
+{
+    m_header.uniqueFields = QStringList(m_kind.numberField);
+    m_header.uniqueFields.removeAll(QString());
+    m_lines.addLookup(u"ItemNo"_s, FieldType::Text, 20, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
+    m_lines.addLookup(u"ItemDescription"_s, FieldType::Text, 40,
+                      {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemDescription"_s});
+    m_lines.setIndex(m_kind.keyField + ";Seq"_L1);
+    m_lines.setMaster(&m_header, m_kind.keyField);
+    hookHeader();
+    hookLines();
+}
+
+DocumentEntry::~DocumentEntry() = default;
+
+void DocumentEntry::open()
+{
+    m_header.open();
+    m_lines.open();
+    configureFields();
+}
+
+void DocumentEntry::close()
+{
+    m_lines.close();
+    m_header.close();
+}
+
+void DocumentEntry::configureFields()
+{
+    Engine::Field &year = m_header.field(u"GLYear");
+    year.label = tr("Year of Period");
+    year.format = twoDigitYearFormat(tr("Period invalid...\nEnter year as 2 digits"), u"GLYear"_s);
+
+    Engine::Field &period = m_header.field(u"GLPeriod");
+    period.label = tr("Period");
+    period.format = periodNumberFormat(period.label, u"GLPeriod"_s);
+    period.validate = [parse = period.format.parse](const Value &value) { parse(value.toText()); };
+
+    Engine::Field &date = m_header.field(m_kind.dateField);
+    date.label = tr("Date");
+    date.format = dateFormat(RegionalSettings::system(), m_kind.dateField);
+
+    m_header.field(u"WarehouseID").label = tr("Warehouse");
+    m_lines.field(u"ItemID").label = tr("Item no.");
+    m_lines.field(u"ItemID").validate = [this](const Value &itemId) { validateItem(itemId); };
+}
+
+void DocumentEntry::newDocument()
+{
+    beginVisit();
+    m_header.append();
+}
+
+bool DocumentEntry::openDocument(int key)
+{
+    beginVisit();
+    return m_header.findKey({key});
+}
+
+void DocumentEntry::beginVisit()
+{
+    m_wasSaved = false;
+    m_linesKept = false;
+    m_keptLines.clear();
+}
+
+// --- header
+// ---------------------------------------------------------------------------------------------------------
+
+void DocumentEntry::hookHeader()
+{
+    m_header.events.beforeInsert = [this] { m_nextSeq = 1; };
+    m_header.events.newRecord = [this] { newHeader(); };
+    m_header.events.beforeEdit = [this] { refusePosted(); };
+    m_header.events.afterEdit = [this] { headerEdited(); };
+    m_header.events.beforePost = [this] { checkHeader(); };
+    m_header.events.afterPost = [this] { m_wasSaved = true; };
+}
+
+void DocumentEntry::newHeader()
+{
+    assignNumbers();
+    m_header.setDefault(m_kind.dateField, today());
+    m_header.setDefault(u"Posted", false);
+    setFiscalDefaults();
+    presetHeader();
+}
+
+namespace {
+
+FiscalSettings fiscalSettings(Engine::Database &database)
+{
+    Engine::Table company(database, u"Company"_s);
+    company.readOnly = true;
+    company.open();
+    return FiscalSettings::of(company);
+}
+
+} // namespace
+
+void DocumentEntry::setFiscalDefaults()
+{
+    const Period period = defaultPeriod(fiscalSettings(database()), today());
+    m_header.setDefault(u"GLPeriod", period.number);
+    m_header.setDefault(u"GLYear", period.year);
+}
+
+void DocumentEntry::refusePosted() const
+{
+    if (!isPosted())
+        return;
+    m_prompts.inform(m_kind.postedRefusal);
+    throw SilentAbort();
+}
+
+void DocumentEntry::headerEdited()
+{
+    // The edit has read the document anew: another user may have posted it since it was shown.
+    if (isPosted()) {
+        m_header.cancel();
+        refusePosted();
+    }
+    numberLinesFrom(Engine::singleValue(
+        database(), u"SELECT max(Seq) FROM %1 WHERE %2 = ?"_s.arg(m_kind.lineTable, m_kind.keyField), {key()}));
+}
+
+void DocumentEntry::numberLinesFrom(const Value &last) { m_nextSeq = last.toInt() + 1; }
+
+void DocumentEntry::checkHeader()
+{
+    if (isPosted())
+        return;
+    checkComplete();
+    m_lines.checkBrowseMode();
+    checkPeriod();
+    checkReferences();
+    for (const QString &field : m_kind.requiredFields)
+        requireHeaderField(field, field);
+}
+
+void DocumentEntry::checkPeriod()
+{
+    requirePeriod(fiscalSettings(database()), {m_header.integer(u"GLYear"), m_header.integer(u"GLPeriod")},
+                  m_prompts, u"GLPeriod"_s);
+}
+
+void DocumentEntry::requireHeaderField(const QString &field, const QString &column) const
+{
+    if (m_header.text(field).isEmpty())
+        throw RuleError(tr("Field '%1' must have a value").arg(m_header.field(field).label), column);
+}
+
+void DocumentEntry::requireLocation() const
+{
+    if (!exists(u"Warehse"_s, u"WarehouseID"_s, m_header.value(u"WarehouseID")))
+        throw RuleError(m_kind.locationGone, u"WarehouseID"_s);
+}
+
+void DocumentEntry::requireLines() const
+{
+    if (m_lines.isEmpty())
+        throw RuleError(m_kind.nothingEntered, LineGrid);
+}
+
+bool DocumentEntry::exists(const QString &table, const QString &keyField, const Value &key) const
+{
+    if (key.isNull())
+        return false;
+    return !Engine::singleValue(database(), u"SELECT %2 FROM %1 WHERE %2 = ?"_s.arg(table, keyField), {key})
+                .isNull();
+}
+
+void DocumentEntry::chooseInHeader(const QString &field, const Value &value)
+{
+    if (!m_header.isEditing())
+        m_header.edit();
+    m_header.set(field, value);
+}
+
+// --- lines
+// ----------------------------------------------------------------------------------------------------------
+
+void DocumentEntry::hookLines()
+{
+    m_lines.events.newRecord = [this] { m_lines.setDefault(m_kind.keyField, key()); };
+    m_lines.events.beforeInsert = [this] { beginLineChange(); };
+    m_lines.events.beforeEdit = [this] { beginLineChange(); };
+    m_lines.events.beforeRemove = [this] { beginLineChange(); };
+    m_lines.events.beforePost = [this] {
+        checkLine();
+        numberLine();
+    };
+}
+
+void DocumentEntry::beginLineChange()
+{
+    if (!m_header.isEditing())
+        m_header.edit();
+    keepLines();
+}
+
+void DocumentEntry::keepLines()
+{
+    if (m_linesKept)
+        return;
+    m_keptLines.clear();
+    for (int i = 0; i < m_lines.recordCount(); ++i)
+        m_keptLines.push_back(m_lines.rowAt(i));
+    m_linesKept = true;
+}
+
+void DocumentEntry::numberLine()
+{
+    if (m_lines.value(u"Seq").isNull())
+        m_lines.set(u"Seq", m_nextSeq++);
+}
+
+void DocumentEntry::validateItem(const Value &itemId) const
+{
+    const bool typed = m_lineColumn == "ItemNo"_L1;
+    const bool picked = m_lineColumn == "ItemDescription"_L1;
+    if (itemId.toInt() == 0 || !(typed || picked))
+        return;
+    Engine::Table item(database(), u"Item"_s);
+    item.open();
+    const bool found = item.findKey({itemId});
+    if (typed && !found)
+        throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), u"ItemNo"_s);
+    if (!found || !item.boolean(u"Suspended"))
+        return;
+    if (typed)
+        throw RuleError(tr("Item has been suspended"), u"ItemNo"_s);
+    throw RuleError(tr("Item '%1: %2' has been suspended").arg(item.text(u"ItemNo"), item.text(u"ItemDescription")),
+                    u"ItemNo"_s);
+}
+
+void DocumentEntry::refuseLine(const QString &message, const QString &column) const
+{
+    throw RuleError(tr("%1...\nMake changes or press Esc to undo").arg(message), column);
+}
+
+void DocumentEntry::requireLineField(const QString &field, const QString &column) const
+{
+    if (m_lines.value(field).isNull())
+        refuseLine(tr("Field '%1' must have a value").arg(m_lines.field(field).label), column);
+}
+
+void DocumentEntry::requireItem() const
+{
+    requireLineField(u"ItemID"_s, u"ItemNo"_s);
+    if (!exists(u"Item"_s, u"ItemID"_s, m_lines.value(u"ItemID")))
+        refuseLine(tr("Item not found"), u"ItemNo"_s);
+}
+
+void DocumentEntry::chooseItem(int itemId)
+{
+    if (!m_lines.isEditing())
+        m_lines.edit();
+    m_lines.set(u"ItemID", itemId);
+}
+
+void DocumentEntry::chooseItemByNumber(const QString &itemNo)
+{
+    setLineColumn(u"ItemNo"_s);
+    if (!m_lines.isEditing())
+        m_lines.edit();
+    if (itemNo.isEmpty()) {
+        m_lines.set(u"ItemID", {});
+        return;
+    }
+    Engine::Table item(database(), u"Item"_s);
+    item.setIndex(u"ITEMNO"_s);
+    item.open();
+    if (!item.findKey({itemNo}))
+        throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), u"ItemNo"_s);
+    m_lines.set(u"ItemID", item.value(u"ItemID"));
+}
+
+void DocumentEntry::newLine() { m_lines.append(); }
+
+void DocumentEntry::removeLine()
+{
+    if (m_lines.state() == Engine::TableState::Insert)
+        m_lines.cancel();
+    else if (!m_lines.isEmpty())
+        m_lines.remove();
+}
+
+// --- end of the visit
+// -----------------------------------------------------------------------------------------------
+
+void DocumentEntry::save()
+{
+    try {
+        if (m_header.isEditing())
+            m_header.post();
+    } catch (const Engine::EngineError &error) {
+        if (error.code() != ErrorCode::KeyViolation)
+            throw;
+        throw RuleError(m_kind.numberTaken, m_kind.numberField.isEmpty() ? m_kind.keyField : m_kind.numberField);
+    }
+    if (m_lines.isEditing())
+        m_lines.post();
+    m_header.flush();
+    m_lines.flush();
+}
+
+void DocumentEntry::cancel()
+{
+    if (!m_header.isEditing())
+        return;
+    if (m_lines.isEditing())
+        m_lines.cancel();
+    if (m_linesKept)
+        restoreLines();
+    m_header.cancel();
+}
+
+void DocumentEntry::restoreLines()
+{
+    const Engine::Table::Events checks = std::exchange(m_lines.events, {});
+    const auto hookAgain = qScopeGuard([&] { m_lines.events = checks; });
+
+    Engine::Transaction transaction(database().connection());
+    m_lines.removeAll();
+    for (const Engine::Row &kept : std::as_const(m_keptLines)) {
+        if (kept[static_cast<size_t>(m_lines.fieldIndex(u"Seq"))].toInt() == 0)
+            continue;
+        m_lines.append();
+        restoreLine(kept);
+        m_lines.post();
+    }
+    transaction.commit();
+    m_lines.flush();
+}
+
+void DocumentEntry::restoreLine(const Engine::Row &kept)
+{
+    for (int i = 0; i < m_lines.fieldCount(); ++i)
+        if (m_lines.field(i).kind == Engine::FieldKind::Data)
+            m_lines.setDefault(m_lines.field(i).name, kept[static_cast<size_t>(i)]);
+}
+
+DocumentEntry::Closing DocumentEntry::closing() const
+{
+    if (!m_header.isEditing() && !m_lines.isEditing())
+        return Closing::Free;
+    const bool touched = m_header.isModified() || m_lines.isModified() || !m_lines.isEmpty();
+    if (m_header.state() == Engine::TableState::Insert && !touched)
+        return Closing::Drop;
+    return Closing::Ask;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,206 @@
+#include "transactions/documentposting.h"
+
+#include "engine/dialect.h"
+#include "engine/error.h"
+#include "engine/session.h"
+#include "engine/table.h"
+#include "frame/shared/ruleerror.h"
+#include "transactions/groupedwrites.h"
+#include "transactions/historywriter.h"
+#include "transactions/stockbook.h"
+
+#include <QScopeGuard>
+#include <span>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+using Engine::ErrorCode;
+using Engine::FieldType;
+
+namespace Tallymere {
+
+namespace {
+
+// Documents read ahead with one statement each for headers, lines and stock. A server answers a whole batch in the
+// time of a few answers.
+constexpr size_t BatchSize = 64;
+
+std::vector<qint64> itemsOf(std::span<const PostingDocument> documents)
+{
+    std::vector<qint64> items;
+    for (const PostingDocument &document : documents)
+        for (const PostingLine &line : document.lines)
+            if (!line.item.isNull())
+                items.push_back(line.item.toInt64());
+    return items;
+}
+
+} // namespace
+
+// The tables of a run, held from the construction on. Letting go frees them in the order they were taken.
+class DocumentPosting::Locks {
+public:
+    Locks(Engine::Database &database, const QList<PostingLock> &locks, Prompts &prompts)
+    {
+        for (const PostingLock &lock : locks)
+            take(database, lock, prompts);
+    }
+    ~Locks()
+    {
+        for (const auto &table : m_tables) {
+            try {
+                table->unlockTable();
+            } catch (const Engine::EngineError &) {
+                // A connection that is gone has let go of its locks.
+            }
+        }
+    }
+    Locks(const Locks &) = delete;
+    Locks &operator=(const Locks &) = delete;
+
+private:
+    void take(Engine::Database &database, const PostingLock &lock, Prompts &prompts)
+    {
+        auto table = std::make_unique<Engine::Table>(database, lock.table);
+        while (!tryTake(*table, lock, prompts)) { }
+        m_tables.push_back(std::move(table));
+    }
+
+    static bool tryTake(Engine::Table &table, const PostingLock &lock, Prompts &prompts)
+    {
+        try {
+            table.open();
+            table.lockTable();
+            return true;
+        } catch (const Engine::EngineError &error) {
+            const bool held = error.code() == ErrorCode::TableLocked || error.code() == ErrorCode::TableInUse;
+            if (!held || !prompts.retry(lock.refusal))
+                throw;
+        }
+        table.close();
+        return false;
+    }
+
+    std::vector<std::unique_ptr<Engine::Table>> m_tables;
+};
+
+DocumentPosting::DocumentPosting(Engine::Database &database, PostingKind kind)
+    : m_database(database)
+    , m_kind(std::move(kind))
+{
+    const Engine::StatementPtr unposted = m_database.connection().prepare(
+        u"SELECT I.%1 FROM %2 ORDER BY I.%1"_s.arg(m_kind.keyField, m_kind.unposted));
+    while (unposted->next())
+        m_keys.push_back(unposted->intAt(0));
+}
+
+DocumentPosting::~DocumentPosting() = default;
+
+bool DocumentPosting::run(Prompts &prompts, Progress &progress)
+{
+    if (m_keys.empty())
+        return false;
+    if (isEntryOpen && isEntryOpen())
+        throw RuleError(m_kind.entryOpen);
+
+    const Locks locks(m_database, m_kind.locks, prompts);
+    progress.start(count());
+    const auto finished = qScopeGuard([&progress] { progress.finish(); });
+    postAll(progress);
+    return true;
+}
+
+void DocumentPosting::postAll(Progress &progress)
+{
+    Engine::Connection &connection = m_database.connection();
+    const bool fileStore = m_database.session().type == Engine::SessionType::Local;
+    const BulkWriting bulk(connection, fileStore);
+    StockBook stock(connection);
+    HistoryWriter history(connection, m_kind.keyField, m_kind.transType);
+    const Engine::StatementPtr mark =
+        connection.prepare(u"UPDATE %1 SET Posted = true WHERE %2 = ?"_s.arg(m_kind.headerTable, m_kind.keyField));
+    GroupedWrites writes(connection, fileStore ? GroupedWrites::Sending::Waiting : GroupedWrites::Sending::Ahead,
+                         [&stock] { stock.forget(); });
+
+    for (size_t begin = 0; begin < m_keys.size(); begin += BatchSize) {
+        const size_t end = std::min(begin + BatchSize, m_keys.size());
+        writes.settle();
+        std::vector<PostingDocument> documents = readBatch(numberList({&m_keys[begin], end - begin}));
+        stock.require(itemsOf(documents));
+        for (PostingDocument &each : documents) {
+            const auto document = std::make_shared<const PostingDocument>(std::move(each));
+            writes.apply([this, document, &stock, &history, &mark](Writes &sink) {
+                postDocument(*document, *mark, {stock, history, sink});
+            });
+            progress.step();
+        }
+        for (size_t leftOut = documents.size(); leftOut < end - begin; ++leftOut)
+            progress.step();
+    }
+    writes.finish();
+}
+
+std::vector<PostingDocument> DocumentPosting::readBatch(const QString &keys) const
+{
+    std::vector<PostingDocument> documents = readHeaders(keys);
+    readLines(documents, keys);
+    return documents;
+}
+
+std::vector<PostingDocument> DocumentPosting::readHeaders(const QString &keys) const
+{
+    Engine::Connection &connection = m_database.connection();
+    const QString key = u"I."_s + m_kind.keyField;
+    const Engine::StatementPtr headers = connection.prepare(u"SELECT %1, %2 FROM %3 AND %4 ORDER BY %1"_s.arg(
+        key, m_kind.headerColumns, m_kind.unposted, connection.dialect().inNumberList(key)));
+    headers->bindText(0, keys);
+    std::vector<PostingDocument> documents;
+    while (headers->next()) {
+        PostingDocument &document = documents.emplace_back();
+        document.key = headers->intAt(0);
+        document.year = headers->valueAt(1, FieldType::SmallInt);
+        document.period = headers->valueAt(2, FieldType::SmallInt);
+        document.date = headers->valueAt(3, FieldType::Date);
+        document.warehouse = headers->valueAt(4, FieldType::Integer);
+        readHeader(*headers, 5, document);
+    }
+    return documents;
+}
+
+void DocumentPosting::readLines(std::vector<PostingDocument> &documents, const QString &keys) const
+{
+    Engine::Connection &connection = m_database.connection();
+    const Engine::StatementPtr rows = connection.prepare(u"SELECT %1, %2 FROM %3 WHERE %4 ORDER BY %1, Seq"_s.arg(
+        m_kind.keyField, m_kind.lineColumns, m_kind.lineTable, connection.dialect().inNumberList(m_kind.keyField)));
+    rows->bindText(0, keys);
+    // Both come in the order of the key; documents that are left out have lines, too.
+    auto document = documents.begin();
+    while (rows->next()) {
+        const qint64 key = rows->intAt(0);
+        while (document != documents.end() && document->key < key)
+            ++document;
+        if (document == documents.end() || document->key != key)
+            continue;
+        PostingLine &line = document->lines.emplace_back();
+        line.item = rows->valueAt(1, FieldType::Integer);
+        line.quantity = rows->doubleAt(2);
+        readLine(*rows, 3, line);
+    }
+}
+
+void DocumentPosting::postDocument(const PostingDocument &document, Engine::Statement &mark,
+                                   PostingBooks books) const
+{
+    // Known already, unless the document is applied once more after a failure.
+    books.stock.require(itemsOf({&document, 1}));
+    mark.bindInt(0, document.key);
+    books.writes.send(mark);
+    try {
+        for (const PostingLine &line : document.lines)
+            postLine(document, line, books);
+    } catch (const std::range_error &) {
+        throw RuleError(tr("\"%1\" has an amount that is too large.").arg(document.description));
+    }
+}
+
+} // namespace Tallymere

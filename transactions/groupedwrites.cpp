@@ -1,0 +1,171 @@
+#include "transactions/groupedwrites.h"
+
+#include "engine/error.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+// A group must not last longer than a quarter of a second; the rest is for its last document and the commit.
+constexpr std::chrono::milliseconds GroupTime{200};
+
+} // namespace
+
+GroupedWrites::GroupedWrites(Engine::Connection &connection, Sending sending, std::function<void()> forgetReads)
+    : m_connection(connection)
+    , m_sending(sending)
+    , m_forgetReads(std::move(forgetReads))
+{
+}
+
+GroupedWrites::~GroupedWrites() { keepApplied(); }
+
+void GroupedWrites::apply(Document document)
+{
+    guarded([&] {
+        begin();
+        if (m_sending == Sending::Ahead)
+            m_group.push_back(document);
+        document(*this);
+        if (std::chrono::steady_clock::now() - m_begun >= GroupTime)
+            commit();
+    });
+}
+
+void GroupedWrites::settle()
+{
+    if (m_connection.inTransaction())
+        guarded([this] { m_connection.drain(); });
+}
+
+void GroupedWrites::finish()
+{
+    if (m_connection.inTransaction())
+        guarded([this] { commit(); });
+}
+
+void GroupedWrites::guarded(const std::function<void()> &step)
+{
+    try {
+        step();
+    } catch (const Engine::EngineError &error) {
+        // What a lost connection had not committed is gone, and the locks with it.
+        if (m_sending == Sending::Waiting || error.code() == Engine::ErrorCode::ConnectionLost) {
+            keepApplied();
+            throw;
+        }
+        replay();
+    } catch (...) {
+        if (m_sending == Sending::Waiting) {
+            keepApplied();
+            throw;
+        }
+        replay();
+    }
+}
+
+void GroupedWrites::replay()
+{
+    m_connection.rollback();
+    m_forgetReads();
+    const std::vector<Document> documents = std::exchange(m_group, {});
+    m_replaying = true;
+    try {
+        m_connection.begin();
+        for (const Document &document : documents)
+            document(*this);
+        m_connection.commit();
+    } catch (...) {
+        m_replaying = false;
+        keepApplied();
+        throw;
+    }
+    m_replaying = false; // whatever it was has passed
+}
+
+void GroupedWrites::send(Engine::Statement &statement)
+{
+    if (m_replaying)
+        sendGuarded(statement);
+    else
+        statement.send();
+}
+
+void GroupedWrites::sendGuarded(Engine::Statement &statement)
+{
+    m_connection.execute(u"SAVEPOINT one_write"_s);
+    try {
+        statement.execute();
+    } catch (const Engine::EngineError &error) {
+        if (error.code() != Engine::ErrorCode::ConnectionLost)
+            m_connection.execute(u"ROLLBACK TO SAVEPOINT one_write"_s);
+        throw;
+    }
+    m_connection.execute(u"RELEASE SAVEPOINT one_write"_s);
+}
+
+void GroupedWrites::begin()
+{
+    if (m_connection.inTransaction())
+        return;
+    m_connection.begin();
+    m_begun = std::chrono::steady_clock::now();
+}
+
+void GroupedWrites::commit()
+{
+    m_connection.drain();
+    m_connection.commit();
+    m_group.clear();
+}
+
+void GroupedWrites::keepApplied() noexcept
+{
+    // A store that has rolled back by itself has left the last committed group.
+    if (!m_connection.inTransaction())
+        return;
+    try {
+        m_connection.drain();
+        m_connection.commit();
+    } catch (...) {
+        // The failure that led here is the one to be told.
+        m_connection.rollback();
+    }
+}
+
+namespace {
+
+QString setting(Engine::Connection &connection, const QString &name)
+{
+    const Engine::StatementPtr statement = connection.prepare(u"PRAGMA "_s + name);
+    return statement->next() ? u"PRAGMA %1 = %2;"_s.arg(name, statement->textAt(0)) : QString();
+}
+
+} // namespace
+
+BulkWriting::BulkWriting(Engine::Connection &connection, bool fileStore)
+    : m_connection(connection)
+{
+    if (!fileStore)
+        return;
+    m_restore = setting(connection, u"cache_size"_s) + setting(connection, u"wal_autocheckpoint"_s);
+    // The history's indexes are written all over: what does not fit the cache is written several times.
+    connection.execute(u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 16000"_s);
+}
+
+BulkWriting::~BulkWriting()
+{
+    if (m_restore.isEmpty())
+        return;
+    try {
+        m_connection.execute(m_restore);
+    } catch (const Engine::EngineError &) {
+        // Settings of this connection only; the run's own outcome matters more.
+    }
+}
+
+} // namespace Tallymere

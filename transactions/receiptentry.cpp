@@ -1,0 +1,125 @@
+#include "transactions/receiptentry.h"
+
+#include "data/numbercounter.h"
+#include "frame/shared/formats.h"
+#include "frame/shared/ruleerror.h"
+
+using namespace Qt::StringLiterals;
+using Engine::FieldType;
+using Engine::Value;
+
+namespace Tallymere {
+
+ReceiptEntry::ReceiptEntry(Engine::Database &database, Prompts &prompts)
+    : DocumentEntry(database, prompts, receiptKind())
+{
+    header().addLookup(u"VendorNo"_s, FieldType::Text, 10,
+                       {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorNo"_s});
+}
+
+DocumentKind ReceiptEntry::receiptKind()
+{
+    return {
+        .headerTable = u"IReceipt"_s,
+        .lineTable = u"IRecDet"_s,
+        .keyField = u"ReceiptID"_s,
+        .numberField = u"ReceiptNo"_s,
+        .dateField = u"ReceiptDate"_s,
+        .postedRefusal = tr("Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you must "
+                            "\"reverse\" it (enter it again with the opposite amount)."),
+        .numberTaken = tr("Receipt no. already exists"),
+        .nothingEntered = tr("Quantities have not been entered"),
+        .locationGone = tr("Warehouse no longer exists"),
+        .requiredFields = {u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s, u"WarehouseID"_s},
+    };
+}
+
+void ReceiptEntry::configureFields()
+{
+    DocumentEntry::configureFields();
+    header().field(u"ReceiptNo").label = tr("Receipt no.");
+    header().field(u"VendorID").label = tr("Vendor");
+    header().field(u"VendorID").validate = [this](const Value &vendorId) { validateVendor(vendorId); };
+
+    Engine::Field &quantity = lines().field(u"QtyReceived");
+    quantity.label = tr("Quantity");
+    quantity.format = quantityFormat(RegionalSettings::system(), u"QtyReceived"_s);
+    Engine::Field &cost = lines().field(u"UnitCost");
+    cost.label = tr("Unit Cost");
+    cost.format = currencyFormat(RegionalSettings::system(), u"UnitCost"_s);
+}
+
+void ReceiptEntry::assignNumbers()
+{
+    constexpr qint64 LowestNumber = 1001;
+    constexpr qint64 HighestNumber = 10'000'000;
+    qint64 id = 0;
+    qint64 number = 0;
+    takeNumbers(database(), u"ItemCtl"_s, [&](CounterRow &counters) {
+        id = counters.take(u"NextInvReceiptID");
+        counters.restartOutside(u"NextInvReceiptNo", LowestNumber, HighestNumber, LowestNumber);
+        number = counters.take(u"NextInvReceiptNo");
+    });
+    header().setDefault(u"ReceiptID", id);
+    header().setDefault(u"ReceiptNo", QString::number(number));
+}
+
+QString ReceiptEntry::caption() const
+{
+    const bool unnamed = header().text(u"ReceiptNo").isEmpty() || header().value(u"VendorID").isNull();
+    if (header().state() == Engine::TableState::Insert && unnamed)
+        return tr("New Inventory Receipt");
+    return tr("Receipt %1").arg(header().text(u"ReceiptNo"));
+}
+
+void ReceiptEntry::chooseVendorByNumber(const QString &vendorNo)
+{
+    if (vendorNo == header().text(u"VendorNo"))
+        return;
+    if (vendorNo.isEmpty()) {
+        chooseInHeader(u"VendorID"_s, {});
+        return;
+    }
+    Engine::Table vendor(database(), u"Vendor"_s);
+    vendor.setIndex(u"VENDORNO"_s);
+    vendor.open();
+    if (!vendor.findKey({vendorNo}))
+        throw RuleError(tr("Vendor no. '%1' not found").arg(vendorNo), u"VendorNo"_s);
+    if (vendor.boolean(u"Suspended"))
+        throw RuleError(tr("Vendor no. '%1' has been suspended").arg(vendorNo), u"VendorNo"_s);
+    chooseInHeader(u"VendorID"_s, vendor.value(u"VendorID"));
+}
+
+void ReceiptEntry::validateVendor(const Value &vendorId) const
+{
+    if (vendorId.isNull())
+        return;
+    Engine::Table vendor(database(), u"Vendor"_s);
+    vendor.open();
+    if (vendor.findKey({vendorId}) && vendor.boolean(u"Suspended"))
+        throw RuleError(
+            tr("Vendor '%1: %2' has been suspended").arg(vendor.text(u"VendorNo"), vendor.text(u"VendorName")),
+            u"VendorID"_s);
+}
+
+void ReceiptEntry::checkComplete() { requireHeaderField(u"VendorID"_s, u"VendorNo"_s); }
+
+void ReceiptEntry::checkReferences()
+{
+    if (!exists(u"Vendor"_s, u"VendorID"_s, header().value(u"VendorID")))
+        throw RuleError(tr("Vendor no longer exists"), u"VendorNo"_s);
+    requireLocation();
+    requireLines();
+}
+
+void ReceiptEntry::checkLine()
+{
+    requireLineField(u"QtyReceived"_s, u"QtyReceived"_s);
+    requireItem();
+    requireLineField(u"UnitCost"_s, u"UnitCost"_s);
+    if (lines().money(u"UnitCost") < Engine::Money())
+        refuseLine(tr("Field '%1' must not be less than zero").arg(lines().field(u"UnitCost").label),
+                   u"UnitCost"_s);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,71 @@
+#include "transactions/receiptposting.h"
+
+#include "transactions/historywriter.h"
+#include "transactions/receiptcost.h"
+#include "transactions/stockbook.h"
+
+using namespace Qt::StringLiterals;
+using Engine::Money;
+
+namespace Tallymere {
+
+ReceiptPosting::ReceiptPosting(Engine::Database &database)
+    : DocumentPosting(database, receiptPostingKind())
+{
+}
+
+PostingKind ReceiptPosting::receiptPostingKind()
+{
+    return {
+        .headerTable = u"IReceipt"_s,
+        .lineTable = u"IRecDet"_s,
+        .keyField = u"ReceiptID"_s,
+        .unposted = u"IReceipt I INNER JOIN Vendor V ON I.VendorID = V.VendorID "
+                    "LEFT OUTER JOIN Currency C ON V.CurrencyID = C.CurrencyID WHERE I.Posted = false"_s,
+        .headerColumns =
+            u"I.GLYear, I.GLPeriod, I.ReceiptDate, I.WarehouseID, I.ReceiptNo, I.PurchaseOrderNo, C.ExchangeRate"_s,
+        .lineColumns = u"ItemID, QtyReceived, UnitCost"_s,
+        .transType = TransType::PoReceipt,
+        .locks =
+            {
+                {u"IReceipt"_s, tr("Unable to lock Receipts table... this table is being updated by another job.")},
+                {u"IBalance"_s,
+                 tr("Unable to lock Item Balance table... this table is being updated by another job.")},
+                {u"Item"_s, tr("Unable to lock Item table... this table is being updated by another job.")},
+            },
+        .entryOpen = tr("A conflicting program is running...\nPlease close 'Inventory Receipt' form"),
+    };
+}
+
+QString ReceiptPosting::countText() const { return tr("%1 receipt(s) to be posted").arg(count()); }
+
+void ReceiptPosting::readHeader(const Engine::Statement &row, int column, PostingDocument &document) const
+{
+    const QString order = row.textAt(column + 1);
+    document.description = u"Receipt: "_s + row.textAt(column);
+    if (!order.isEmpty())
+        document.description += u"   PO: "_s + order;
+    document.exchangeRate = row.doubleAt(column + 2);
+}
+
+void ReceiptPosting::readLine(const Engine::Statement &row, int column, PostingLine &line) const
+{
+    line.unitCost = row.doubleAt(column);
+}
+
+void ReceiptPosting::postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books) const
+{
+    const Money cost = lineCost(Money::fromDouble(line.unitCost), document.exchangeRate);
+    books.history.append(document, line.item, line.quantity, cost, books.writes);
+
+    if (!line.item.isNull()) {
+        const qint64 item = line.item.toInt64();
+        if (const auto average = books.stock.averageCost(item))
+            if (const auto after = averageAfterReceipt({*average, books.stock.onHand(item)}, line.quantity, cost))
+                books.stock.setAverageCost(item, *after, books.writes);
+    }
+
+    books.stock.addToBalance(line.item, document.warehouse, line.quantity, books.writes);
+}
+
+} // namespace Tallymere

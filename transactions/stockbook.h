@@ -1,0 +1,61 @@
+#pragma once
+
+#include "engine/driver.h"
+#include "engine/money.h"
+
+#include <optional>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+namespace Tallymere {
+
+class Writes;
+
+// Quantities on hand and average costs during a posting run. Each is read once; every change is written at once.
+// Right only while the run holds the tables for itself. Grows with the items and locations that are touched, not
+// with the lines.
+class StockBook {
+public:
+    explicit StockBook(Engine::Connection &connection);
+
+    // Reads those of the items that are not known yet.
+    void require(const std::vector<qint64> &items);
+    void forget(); // reads everything anew when required again
+
+    // The following need the item to have been required.
+    double onHand(qint64 item) const; // over all locations
+    // Nothing when there is no such item. Throws std::range_error for a cost beyond the range of money.
+    std::optional<Engine::Money> averageCost(qint64 item) const;
+    void setAverageCost(qint64 item, Engine::Money cost, Writes &writes);
+    // Adds to the balance of an item at a location, making it if it is missing. Nulls are written as they are, for
+    // the store to refuse.
+    void addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity, Writes &writes);
+
+private:
+    struct Balance {
+        qint64 warehouse;
+        double onHand;
+    };
+    struct Item {
+        std::optional<double> average;
+        std::vector<Balance> balances; // in the order of the locations, in which they are summed up
+    };
+
+    void readCosts(const QString &items);
+    void readBalances(const QString &items);
+    Balance *findBalance(const Engine::Value &item, const Engine::Value &warehouse);
+    void insertBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity, Writes &writes);
+
+    std::unordered_map<qint64, Item> m_items;
+    Engine::StatementPtr m_readCosts;
+    Engine::StatementPtr m_readBalances;
+    Engine::StatementPtr m_updateCost;
+    Engine::StatementPtr m_updateBalance;
+    Engine::StatementPtr m_insertBalance;
+};
+
+// Numbers as the text that Dialect::inNumberList takes.
+QString numberList(std::span<const qint64> numbers);
+
+} // namespace Tallymere
