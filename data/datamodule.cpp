@@ -3,6 +3,7 @@
 #include "data/layouts.h"
 #include "data/seeds.h"
 #include "engine/error.h"
+#include "engine/locks.h"
 #include "frame/shared/connectiondecision.h"
 #include "frame/shared/trace.h"
 
@@ -14,6 +15,39 @@
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
+
+namespace {
+
+// Two users who start for the first time at the same moment would both make the tables. The second waits for the
+// first, a few seconds at most: a start that hangs must not keep everybody else out.
+class StartLock {
+public:
+    explicit StartLock(Engine::Database &database)
+        : m_locks(database.connection().locks())
+    {
+        for (int attempt = 0; attempt < mostAttempts && !m_held; ++attempt) {
+            if (attempt > 0)
+                database.session().pause();
+            m_held = m_locks.tryLockTable(m_name);
+        }
+    }
+    ~StartLock()
+    {
+        if (m_held)
+            m_locks.unlockTable(m_name);
+    }
+    StartLock(const StartLock &) = delete;
+    StartLock &operator=(const StartLock &) = delete;
+
+private:
+    static constexpr int mostAttempts = 100;
+
+    Engine::LockManager &m_locks;
+    const QString m_name = u"(start)"_s; // no table can have this name
+    bool m_held = false;
+};
+
+} // namespace
 
 TDataModuleTallymere::TDataModuleTallymere(SettingsStore &settings, Prompts &prompts, DataModuleOptions options)
     : m_settings(settings)
@@ -124,6 +158,7 @@ void TDataModuleTallymere::start()
     };
 
     openReportParameters();
+    const StartLock lock(m_database);
     if (m_options.prepareHost)
         m_options.prepareHost(m_database);
     requireHost();

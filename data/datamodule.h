@@ -15,15 +15,15 @@ namespace Tallymere {
 
 // What a caller may decide instead of the user's settings. All of it is optional.
 struct DataModuleOptions {
-    QString dataFolder; // this folder in file-server mode
-    QString server; // this address in client/server mode
-    QString serverDatabase; // the database's name there; empty: "Corvane"
+    QString dataFolder{}; // this folder in file-server mode
+    QString server{}; // this address in client/server mode
+    QString serverDatabase{}; // the database's name there; empty: "Corvane"
     bool createDatabase = false; // makes the file, or the database on the server, when it is missing
-    QString currentUser;
-    std::function<void(std::chrono::milliseconds)> waitFor; // how lock retries pause; see Engine::Session
-    std::function<QDate()> today; // for the first fiscal year; empty: the system's clock
-    std::function<void(Engine::Database &)> prepareHost; // runs once connected, before any table is looked for
-    std::function<void()> prepareReportPrinting; // the last step; whatever it throws is ignored
+    QString currentUser{};
+    std::function<void(std::chrono::milliseconds)> waitFor{}; // how lock retries pause; see Engine::Session
+    std::function<QDate()> today{}; // for the first fiscal year; empty: the system's clock
+    std::function<void(Engine::Database &)> prepareHost{}; // runs once connected, before any table is looked for
+    std::function<void()> prepareReportPrinting{}; // the last step; whatever it throws is ignored
 };
 
 // The connection to the host's database, and the tables that are shared by all screens.

@@ -123,7 +123,7 @@ QString getSQLString(Engine::Query &query, const QString &name)
     query.close();
     query.setParameter(u"Query_Name", name);
     query.open();
-    const QString statement = query.text(u"Query_Lines");
+    const QString statement = query.value(u"Query_Lines").toText();
     query.close();
     return statement;
 }

@@ -1,0 +1,133 @@
+#include "frame/shared/calchelpers.h"
+
+#include "frame/shared/ruleerror.h"
+#include "tests/data/printers.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+RegionalSettings regional(const QString &format)
+{
+    RegionalSettings settings;
+    settings.shortDateFormat = format;
+    return settings;
+}
+
+} // namespace
+
+TEST(RoundIt, GoesHalfAwayFromZeroAfterNoiseIsTakenOut)
+{
+    const std::pair<long double, long double> cases[] = {
+        {0.0L, 0},
+        {0.5L, 1},
+        {-0.5L, -1},
+        {2.5L, 3},
+        {-2.5L, -3},
+        {2.49999L, 2},
+        {-2.49999L, -2},
+        {2.4999999996L, 3},
+        {-2.4999999996L, -3},
+        {1.4999994L, 1},
+        {1.49999996L, 2},
+        {1.49999994L, 1},
+        {0.3L, 0},
+        {-0.3L, 0},
+        {123456789.5L, 123456790},
+        // A product of doubles that falls short of the half it stands for.
+        {1.005L * 100, 101},
+        {static_cast<long double>(1.115) * 100, 112},
+        // Too large for the first stage: taken as it is.
+        {1e12L + 0.5L, 1e12L + 1},
+        {-5e15L, -5e15L},
+        {1e300L, 1e300L},
+    };
+    for (const auto &[value, expected] : cases)
+        EXPECT_EQ(roundIt(value), expected) << static_cast<double>(value);
+}
+
+TEST(ToCents, KeepsMoneyExact)
+{
+    const std::pair<long double, qint64> cases[] = {
+        {1.005L, 10100},        {-1.005L, -10100}, {0.0049L, 0},
+        {0.004999999996L, 100}, {19.999L, 200000}, {3 * 0.1L, 3000},
+    };
+    for (const auto &[value, expected] : cases)
+        EXPECT_EQ(toCents(value).tenThousandths(), expected) << static_cast<double>(value);
+}
+
+TEST(Date2000, SettlesTheCentury)
+{
+    struct Case {
+        QString text;
+        QDate expected;
+    };
+    const Case cases[] = {
+        {u"3/7/04"_s, {2004, 3, 7}},    {u"3/7/49"_s, {2049, 3, 7}},       {u"3/7/50"_s, {1950, 3, 7}},
+        {u"3/7/1949"_s, {2049, 3, 7}},  {u"3/7/1900"_s, {2000, 3, 7}},     {u"3/7/1899"_s, {1899, 3, 7}},
+        {u"3/7/2050"_s, {2050, 3, 7}},  {u"3/7/2051"_s, {1951, 3, 7}},     {u"3/7/2099"_s, {1999, 3, 7}},
+        {u"02/29/00"_s, {2000, 2, 29}}, {u" 12/31/99 "_s, {1999, 12, 31}}, {u"2/29/04"_s, {2004, 2, 29}},
+    };
+    for (const Case &c : cases)
+        EXPECT_EQ(date2000(c.text, regional(u"M/d/yyyy"_s)), c.expected) << c.text.toStdString();
+}
+
+TEST(Date2000, FollowsTheOrderAndSeparatorOfTheUser)
+{
+    RegionalSettings dotted = regional(u"dd.MM.yyyy"_s);
+    dotted.dateSeparator = u'.';
+    RegionalSettings yearFirst = regional(u"yyyy-MM-dd"_s);
+    yearFirst.dateSeparator = u'-';
+
+    EXPECT_EQ(date2000(u"7.3.04"_s, dotted), QDate(2004, 3, 7));
+    EXPECT_EQ(date2000(u"29.02.00"_s, dotted), QDate(2000, 2, 29));
+    EXPECT_EQ(date2000(u"04-03-07"_s, yearFirst), QDate(2004, 3, 7));
+    EXPECT_EQ(dotted.shortDate({2004, 3, 7}, 2), u"07.03.04"_s);
+    EXPECT_EQ(yearFirst.shortDate({2004, 3, 7}, 4), u"2004-03-07"_s);
+}
+
+TEST(Date2000, RefusesWhatIsNoDate)
+{
+    for (const auto &text : {u""_s, u"13/1/04"_s, u"2/30/04"_s, u"1/2"_s, u"1/2/3/4"_s, u"a/b/c"_s, u"-1/2/04"_s,
+                             u"29/02/00"_s, u"2/29/2100"_s, u"1.2.04"_s, u"1//04"_s})
+        EXPECT_THROW(date2000(text, regional(u"M/d/yyyy"_s)), RuleError) << text.toStdString();
+}
+
+TEST(Words, SplitJoinAndReplace)
+{
+    EXPECT_EQ(stringToWords(u"a,,b"_s, u","_s), (QStringList{u"a"_s, u""_s, u"b"_s}));
+    EXPECT_EQ(stringToWords(u""_s, u","_s), QStringList{u""_s});
+    EXPECT_EQ(stringToWords(u"a--b---"_s, u"--"_s), (QStringList{u"a"_s, u"b"_s, u"-"_s}));
+
+    QString text = u" tail"_s;
+    wordsToString({u"a"_s, u"b"_s}, u", "_s, text);
+    EXPECT_EQ(text, u"a, b tail"_s);
+
+    struct Case {
+        QString text, from, to, expected;
+    };
+    const Case cases[] = {{u"a-b-c"_s, u"-"_s, u", "_s, u"a, b, c"_s},
+                          {u"aaa"_s, u"aa"_s, u"b"_s, u"ba"_s},
+                          {u"abc"_s, u""_s, u"x"_s, u"abc"_s},
+                          {u"aa"_s, u"a"_s, u"aa"_s, u"aaaa"_s}};
+    for (const Case &c : cases) {
+        QString changed = c.text;
+        replaceToken(changed, c.from, c.to);
+        EXPECT_EQ(changed, c.expected);
+    }
+}
+
+TEST(ServiceID, IsReadFromThreeCharactersInBrackets)
+{
+    const std::pair<QString, int> cases[] = {
+        {u"Lunch [12]"_s, 12}, {u"Soup [7]"_s, 7},  {u"Soup [ 7 ]"_s, 7}, {u"Soup"_s, 0},   {u"[x]"_s, 0},
+        {u"[1234]"_s, 123},    {u"42 beans"_s, 42}, {u""_s, 0},           {u"Soup ["_s, 0}, {u"[] 5"_s, 0},
+    };
+    for (const auto &[text, expected] : cases)
+        EXPECT_EQ(extractServiceID(text), expected) << text.toStdString();
+    EXPECT_THROW(extractServiceID(u"[1a]"_s), RuleError);
+}

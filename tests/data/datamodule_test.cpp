@@ -1,0 +1,326 @@
+#include "data/datamodule.h"
+
+#include "data/layouts.h"
+#include "engine/error.h"
+#include "engine/locks.h"
+#include "engine/query.h"
+#include "host/tables/hosttables.h"
+#include "tests/data/printers.h"
+#include "tests/data/recordingprompts.h"
+#include "tests/support/teststore.h"
+
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::EngineError;
+using Engine::ErrorCode;
+using Engine::Table;
+using Engine::Value;
+
+class DataModule : public testing::TestWithParam<Store> {
+protected:
+    DataModule()
+        : store(GetParam())
+    {
+    }
+
+    void makeHost(const QString &postalFormat = u"USA"_s)
+    {
+        HostTables::createHostTables(store.database(), u"Riverside Meals"_s, postalFormat);
+    }
+
+    std::unique_ptr<TDataModuleTallymere> start(DataModuleOptions options = {})
+    {
+        if (GetParam() == Store::Local)
+            options.dataFolder = store.directory();
+        else
+            options.server = u"127.0.0.1"_s, options.serverDatabase = store.remoteName();
+        options.today = [] { return QDate(2026, 11, 24); };
+        return std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
+    }
+
+    ErrorCode startFailure(QString *text = nullptr)
+    {
+        try {
+            start();
+        } catch (const EngineError &error) {
+            if (text)
+                *text = error.text();
+            return error.code();
+        }
+        ADD_FAILURE() << "the start went through";
+        return ErrorCode::General;
+    }
+
+    // Changes the one row of a table, as a user or the host does.
+    void change(const QString &name, const QList<std::pair<QString, Value>> &values)
+    {
+        Table table(store.database(), name);
+        table.open();
+        table.edit();
+        for (const auto &[field, value] : values)
+            table.set(field, value);
+        table.post();
+    }
+
+    Value stored(const QString &sql) { return Engine::singleValue(store.database(), sql); }
+
+    TestStore store;
+    MemorySettings settings;
+    RecordingPrompts prompts;
+};
+
+TEST_P(DataModule, FirstStartMakesEveryTableAndSeedsFourRows)
+{
+    makeHost();
+    const QStringList hostTables = store.database().tableNames();
+    const auto dataModule = start();
+
+    EXPECT_EQ(store.database().tableNames().size(), hostTables.size() + 23);
+    for (const Engine::TableLayout *layout : Layouts::applied())
+        EXPECT_FALSE(store.database().differs(*layout)) << layout->name.toStdString();
+    for (const Engine::TableLayout &layout : HostTables::layouts())
+        EXPECT_FALSE(store.database().differs(layout)) << layout.name.toStdString();
+
+    const Table &company = dataModule->tblCompany();
+    EXPECT_EQ(company.recordCount(), 1);
+    EXPECT_EQ(company.integer(u"CompanyNo"), 1);
+    EXPECT_EQ(company.text(u"CompanyName"), u"Riverside Meals"_s);
+    EXPECT_EQ(company.integer(u"FiscalYear"), 2026);
+    EXPECT_EQ(company.integer(u"DefaultCurrencyID"), 1);
+    EXPECT_EQ(company.integer(u"DefaultNetDays"), 30);
+    EXPECT_EQ(company.text(u"ClientInvoiceLineItems") + company.text(u"InvoiceFormat"), u"SS"_s);
+    EXPECT_TRUE(company.value(u"DefaultPeriodPP").isNull());
+
+    EXPECT_EQ(stored(u"SELECT WarehouseName FROM Warehse WHERE WarehouseID = 1"_s).toText(), u"Office"_s);
+    EXPECT_EQ(stored(u"SELECT BankName FROM Bank WHERE BankID = 1 AND CurrencyID = 1"_s).toText(),
+              u"Meal Preparation Account"_s);
+    EXPECT_EQ(stored(u"SELECT ExchangeRate FROM Currency WHERE CurrencyID = 1"_s).toDouble(), 1.0);
+    for (const Engine::TableLayout *layout : Layouts::applied()) {
+        const bool seeded =
+            QStringList{u"Company"_s, u"Warehse"_s, u"Bank"_s, u"Currency"_s}.contains(layout->name);
+        EXPECT_EQ(stored(u"SELECT count(*) FROM "_s + layout->name).toInt(), seeded ? 1 : 0);
+    }
+    EXPECT_EQ(dataModule->cMode(), GetParam() == Store::Local ? u"F"_s : u"C"_s);
+    EXPECT_TRUE(dataModule->tableIHist().isOpen() && dataModule->tableIBalance().isOpen());
+    EXPECT_TRUE(prompts.said.isEmpty());
+}
+
+TEST_P(DataModule, PostalFormatNamesTheFirstCurrency)
+{
+    const std::pair<QString, QString> cases[] = {{u"USA"_s, u"US $"_s},
+                                                 {u"CAN"_s, u"Canadian $"_s},
+                                                 {u"UK "_s, u"Pounds"_s},
+                                                 {u"DEU"_s, u"Home Currency"_s},
+                                                 {u""_s, u"Home Currency"_s}};
+    makeHost();
+    for (const auto &[format, name] : cases) {
+        change(u"Config"_s, {{u"Postal_Format"_s, format}});
+        start();
+        EXPECT_EQ(stored(u"SELECT CurrencyName FROM Currency"_s).toText(), name) << format.toStdString();
+        store.execute(u"DELETE FROM Currency"_s);
+    }
+}
+
+TEST_P(DataModule, LaterStartsFollowTheHostAndKeepTheUsersSettings)
+{
+    makeHost();
+    start();
+    change(u"Company"_s,
+           {{u"FiscalYear"_s, 2004},
+            {u"DefaultNetDays"_s, 0},
+            {u"InvoiceFormat"_s, "I"_L1},
+            {u"AddressLine1"_s, "typed here"_L1},
+            {u"AddressLine3"_s, "back door"_L1},
+            {u"DefaultCurrencyID"_s, Value()}});
+    change(u"Warehse"_s, {{u"WarehouseName"_s, "Kitchen"_L1}});
+    change(u"Config"_s,
+           {{u"Organizatn"_s, QString(39, u'n') + u"🥕🥕"_s},
+            {u"Org_Addr"_s, "1 Quay"_L1},
+            {u"Org_City"_s, "Leeds"_L1},
+            {u"Org_ZIP"_s, "LS1"_L1},
+            {u"Org_Phone"_s, "0113-496-0000 extension 12345"_L1}});
+
+    const auto dataModule = start();
+    const Table &company = dataModule->tblCompany();
+    EXPECT_EQ(company.text(u"CompanyName"), QString(39, u'n') + u"🥕"_s) << "cut to the field, whole characters";
+    EXPECT_EQ(company.text(u"AddressLine1"), u"1 Quay"_s);
+    EXPECT_EQ(company.text(u"AddressLine2"), u"Leeds  LS1"_s);
+    EXPECT_EQ(company.text(u"Phone"), u"0113-496-0000 extens"_s);
+    EXPECT_EQ(company.integer(u"FiscalYear"), 2004);
+    EXPECT_EQ(company.value(u"DefaultNetDays"), Value(0));
+    EXPECT_EQ(company.text(u"InvoiceFormat"), u"I"_s);
+    EXPECT_EQ(company.text(u"AddressLine3"), u"back door"_s);
+    EXPECT_EQ(company.integer(u"DefaultCurrencyID"), 1);
+    EXPECT_EQ(stored(u"SELECT WarehouseName FROM Warehse"_s).toText(), u"Kitchen"_s);
+}
+
+// Writing nothing shows in that locks of others are not in the way.
+TEST_P(DataModule, StartWithNothingToChangeNeedsNoLock)
+{
+    makeHost();
+    start();
+    const auto other = store.anotherUser();
+    Table company(other->database, u"Company"_s);
+    company.open();
+    company.edit();
+    Table items(other->database, u"Item"_s);
+    items.exclusive = true;
+    items.open();
+    Table warehouses(other->database, u"Warehse"_s);
+    warehouses.open();
+    warehouses.lockTable();
+
+    EXPECT_NO_THROW(start());
+}
+
+TEST_P(DataModule, TablesOfAnOlderLayoutAreBroughtUpToDateWithTheirRows)
+{
+    makeHost();
+    Engine::TableLayout oldVendor{u"Vendor"_s,
+                                  {{u"VendorID"_s, Engine::FieldType::Integer},
+                                   {u"VendorName"_s, Engine::FieldType::Text, 60},
+                                   {u"Obsolete"_s, Engine::FieldType::Text, 5}},
+                                  {{{}, u"VendorID"_s, Engine::IndexOption::Primary}}};
+    store.database().createTable(oldVendor);
+    Engine::TableLayout oldHistory = Layouts::iHist();
+    oldHistory.indexes.removeLast();
+    oldHistory.fields.removeLast();
+    oldHistory.indexes.removeIf([](const Engine::IndexDef &index) { return index.fields.contains(u"UsageID"_s); });
+    store.database().createTable(oldHistory);
+    store.execute(
+        u"INSERT INTO Vendor (VendorID, VendorName, Obsolete) VALUES (7, '%1', 'x')"_s.arg(QString(50, u'v')));
+    store.execute(u"INSERT INTO IHist (ItemID, Quantity) VALUES (5, 2.5)"_s);
+
+    start();
+    for (const Engine::TableLayout *layout : Layouts::applied())
+        EXPECT_FALSE(store.database().differs(*layout)) << layout->name.toStdString();
+    EXPECT_EQ(stored(u"SELECT VendorName FROM Vendor WHERE VendorID = 7"_s).toText(), QString(40, u'v'));
+    EXPECT_EQ(stored(u"SELECT Quantity FROM IHist WHERE ItemID = 5 AND UsageID IS NULL"_s).toDouble(), 2.5);
+}
+
+TEST_P(DataModule, TableInUseThatMustChangeStopsTheStart)
+{
+    makeHost();
+    Engine::TableLayout oldTax = Layouts::tax();
+    oldTax.fields.removeLast();
+    oldTax.indexes.removeLast();
+    store.database().createTable(oldTax);
+    const auto other = store.anotherUser();
+    Table tax(other->database, u"Tax"_s);
+    tax.open();
+
+    QString text;
+    EXPECT_EQ(startFailure(&text), ErrorCode::TableInUse);
+    EXPECT_TRUE(text.contains(u"Tax"_s)) << text.toStdString();
+    EXPECT_TRUE(store.database().differs(Layouts::tax()));
+
+    tax.close();
+    start();
+    EXPECT_FALSE(store.database().differs(Layouts::tax()));
+}
+
+TEST_P(DataModule, DatabaseWithoutHostIsLeftAlone)
+{
+    QString text;
+    EXPECT_EQ(startFailure(&text), ErrorCode::NoSuchTable);
+    EXPECT_TRUE(text.startsWith(u"The table \"Config\" of the host application is missing in "_s))
+        << text.toStdString();
+    EXPECT_TRUE(store.database().tableNames().isEmpty());
+
+    makeHost();
+    store.execute(u"DELETE FROM Config"_s);
+    EXPECT_NO_THROW(start()) << "a host without its row has no name yet";
+}
+
+TEST_P(DataModule, TwoFirstStartsAtTheSameTimeBothSucceed)
+{
+    makeHost();
+    const auto other = store.anotherUser();
+    Engine::LockManager &locks = other->database.connection().locks();
+    ASSERT_TRUE(locks.tryLockTable(u"(start)"_s)) << "as another user's start does";
+    int pauses = 0;
+    start({.waitFor = [&](std::chrono::milliseconds) {
+        EXPECT_FALSE(store.database().tableExists(u"Item"_s));
+        if (++pauses == 2)
+            locks.unlockTable(u"(start)"_s);
+    }});
+    EXPECT_EQ(pauses, 2);
+    EXPECT_TRUE(locks.tryLockTable(u"(start)"_s)) << "free again";
+}
+
+TEST_P(DataModule, ParametersAndTemporaryTablesStayOutOfTheDatabase)
+{
+    makeHost();
+    auto dataModule = start({.prepareReportPrinting = [] { throw std::runtime_error("no printer"); }});
+    const QStringList tables = store.database().tableNames();
+
+    Table &parameters = dataModule->memTableInvReportParameters();
+    parameters.append();
+    parameters.set(u"Delivery_Date", QDate(2026, 11, 24));
+    parameters.set(u"Routes", QString(250, u'r'));
+    parameters.post();
+    EXPECT_EQ(parameters.recordCount(), 1);
+    EXPECT_EQ(parameters.date(u"Delivery_Date"), QDate(2026, 11, 24));
+
+    Engine::Database &temporary = dataModule->databaseTempTallymere();
+    temporary.createTable(Layouts::itemCtl());
+    EXPECT_TRUE(temporary.tableExists(u"ItemCtl"_s));
+    EXPECT_EQ(QDir(temporary.directory), QDir(dataModule->sessionTallymere().privateDirectory));
+    const QString file = QDir(temporary.directory).filePath(temporary.name() + u".sqlite"_s);
+    EXPECT_TRUE(QFile::exists(file));
+
+    EXPECT_EQ(store.database().tableNames(), tables);
+    dataModule.reset();
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST_P(DataModule, HostTablesThatAreThereStayAsTheyAre)
+{
+    makeHost();
+    change(u"Config"_s, {{u"Org_City"_s, "Leeds"_L1}});
+    store.execute(u"DROP TABLE CusType"_s);
+    HostTables::createHostTables(store.database(), u"Somebody Else"_s, u"CAN"_s);
+    EXPECT_EQ(stored(u"SELECT Organizatn FROM Config WHERE Org_City = 'Leeds'"_s).toText(), u"Riverside Meals"_s);
+    EXPECT_EQ(stored(u"SELECT count(*) FROM Config"_s).toInt(), 1);
+    EXPECT_TRUE(store.database().tableExists(u"CusType"_s));
+}
+
+INSTANTIATE_TEST_SUITE_P(Stores, DataModule, testing::Values(Store::Local, Store::Remote), caseName);
+
+TEST(DataModuleLocation, MissingFolderIsSaidAndThenFailsInTheEngine)
+{
+    struct Case {
+        QString alias, said;
+    };
+    const Case cases[] = {{u""_s, u"has not been defined"_s}, {u"/no/such/folder"_s, u"/no/such/folder"_s}};
+    for (const Case &c : cases) {
+        MemorySettings settings;
+        settings.write(u"Alias"_s, databaseName, c.alias);
+        RecordingPrompts prompts;
+        try {
+            TDataModuleTallymere dataModule(settings, prompts);
+            FAIL() << "opened";
+        } catch (const EngineError &error) {
+            EXPECT_EQ(error.code(), ErrorCode::CannotOpen) << error.what();
+        }
+        ASSERT_EQ(prompts.said.size(), 1);
+        EXPECT_TRUE(prompts.said.first().contains(c.said));
+    }
+}
+
+TEST(DataModuleLocation, SettingsLeadToTheDatabase)
+{
+    TestStore store(Store::Local);
+    HostTables::createHostTables(store.database(), u"Riverside Meals"_s, u"USA"_s);
+    MemorySettings settings;
+    settings.write(u"Alias"_s, spacedDatabaseName, store.directory());
+    RecordingPrompts prompts;
+    TDataModuleTallymere dataModule(settings, prompts, {.currentUser = u"anna"_s});
+    EXPECT_EQ(dataModule.tblCompany().text(u"CompanyName"), u"Riverside Meals"_s);
+    EXPECT_EQ(dataModule.currentUser(), u"anna"_s);
+    EXPECT_TRUE(prompts.said.isEmpty());
+}

@@ -1,0 +1,93 @@
+#include "frame/shared/connectiondecision.h"
+#include "frame/shared/settingsstore.h"
+#include "tests/data/printers.h"
+#include "tests/data/recordingprompts.h"
+
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+TEST(SystemSettings, AreKeptForTheUserUnderTheDocumentedNames)
+{
+    const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+    ASSERT_FALSE(folder.isEmpty()) << "a test must not touch the user's own settings";
+    QDir(folder).removeRecursively();
+
+    SystemSettings settings;
+    EXPECT_EQ(getRegString(settings, u"Mode"_s, u"Corvane"_s), u""_s);
+    ASSERT_TRUE(setRegString(settings, u"Server IP"_s, u"10.0.0.7"_s));
+    ASSERT_TRUE(setRegString(settings, u"Alias"_s, u"/data/Küche; a, b=\"c\""_s));
+    ASSERT_TRUE(settings.write(u"Alias"_s, u"Cor Vane"_s, u"/spaced"_s));
+
+    const SystemSettings another;
+    EXPECT_EQ(getRegString(another, u"Server IP"_s, u"Corvane"_s), u"10.0.0.7"_s);
+    EXPECT_EQ(dbisamAlias(another, u"Corvane"_s), u"/data/Küche; a, b=\"c\""_s);
+    EXPECT_EQ(dbisamAlias(another, u"Cor Vane"_s), u"/spaced"_s);
+    EXPECT_TRUE(QFile::exists(folder + u"/DBIsam.conf"_s));
+}
+
+TEST(SystemSettings, WritingIntoAnImpossiblePlaceIsReported)
+{
+    const QString file = qEnvironmentVariable("XDG_CONFIG_HOME") + u"/DBIsam.conf"_s;
+    QFile::remove(file);
+    ASSERT_TRUE(QDir().mkpath(file)) << "a folder in the place of the file";
+    SystemSettings settings;
+    EXPECT_FALSE(setRegString(settings, u"Mode"_s, u"C"_s));
+    EXPECT_EQ(getRegString(settings, u"Mode"_s, u"Corvane"_s), u""_s);
+    QDir().rmdir(file);
+}
+
+TEST(Connection, OnlyTheExactLetterMeansClientServer)
+{
+    for (const auto &mode : {u""_s, u"F"_s, u"c"_s, u"Client"_s, u"C"_s}) {
+        MemorySettings settings;
+        setRegString(settings, u"Mode"_s, mode);
+        setRegString(settings, u"Server IP"_s, u"10.0.0.7"_s);
+        setRegString(settings, u"Connection"_s, u"Internet"_s);
+        Engine::Session session(u"Main"_s);
+        EXPECT_EQ(sessionTallymereStartup(session, settings), mode);
+        const bool remote = session.type == Engine::SessionType::Remote;
+        EXPECT_EQ(remote, mode == u"C"_s) << mode.toStdString();
+        EXPECT_EQ(session.remoteAddress, remote ? u"10.0.0.7"_s : u""_s);
+        EXPECT_EQ(session.remoteLink == Engine::LinkType::Internet, remote);
+        EXPECT_EQ(session.remoteUser, remote ? u"zorvadin"_s : u""_s);
+        EXPECT_FALSE(session.privateDirectory.isEmpty());
+    }
+}
+
+TEST(Connection, DatabaseIsLookedForUnderBothNames)
+{
+    QTemporaryDir folder;
+    const QString notDefined = u"The Corvane database has not been defined. The application can not continue. "
+                               "Corvane will now terminate..."_s;
+    struct Case {
+        QString mode, alias, spacedAlias, expected, said;
+    };
+    const Case cases[] = {
+        {u"F"_s, folder.path(), u"/elsewhere"_s, folder.path(), {}},
+        {u"F"_s, {}, folder.path(), folder.path(), {}},
+        {u"F"_s, {}, {}, {}, notDefined},
+        {u"F"_s, u"/no/such"_s, folder.path(), u"/no/such"_s,
+         u"The Corvane database:\n/no/such\ndoes not appear to be valid. Corvane will now terminate..."_s},
+        {u"C"_s, u"/on/server"_s, {}, u"/on/server"_s, {}},
+        {u"C"_s, {}, u"/spaced"_s, u"/spaced"_s, {}},
+        {u"C"_s, {}, {}, {}, notDefined},
+    };
+    for (const Case &c : cases) {
+        MemorySettings settings;
+        settings.write(u"Mode"_s, databaseName, c.mode);
+        settings.write(u"Alias"_s, databaseName, c.alias);
+        settings.write(u"Alias"_s, spacedDatabaseName, c.spacedAlias);
+        Engine::Session session(u"Main"_s);
+        Engine::Database database(session, databaseName);
+        RecordingPrompts prompts;
+        EXPECT_EQ(databaseTallymereBeforeConnect(database, settings, prompts), c.mode);
+        EXPECT_EQ(database.directory, c.expected);
+        EXPECT_EQ(database.remoteName, c.mode == u"C"_s ? u"Corvane"_s : u""_s);
+        EXPECT_EQ(prompts.said.join(u'|'), c.said);
+    }
+}

@@ -1,0 +1,205 @@
+#include "data/utilsinv.h"
+
+#include "data/cardnumbers.h"
+#include "data/layouts.h"
+#include "engine/error.h"
+#include "frame/shared/ruleerror.h"
+#include "tests/data/printers.h"
+#include "tests/support/teststore.h"
+
+#include <gtest/gtest.h>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::EngineError;
+using Engine::ErrorCode;
+
+TEST(Texts, KeysInBrackets)
+{
+    const std::pair<QString, QString> cases[] = {
+        {u"Bread [15~2]"_s, u"15"_s},
+        {u"Bread [7]"_s, u"7"_s},
+        {u"Bread"_s, u"Brea"_s},
+        {u"[ 9 ~1]"_s, u"9"_s},
+        {u"[12345]"_s, u"1234"_s},
+        {u"[]"_s, u""_s},
+        {u"[~"_s, u"~"_s},
+        {u"]"_s, u"]"_s},
+        {u""_s, u""_s},
+        {u"[1]~x"_s, u"1"_s},
+    };
+    for (const auto &[text, expected] : cases)
+        EXPECT_EQ(extractIDFromString(text), expected) << text.toStdString();
+}
+
+TEST(Texts, NumbersInParts)
+{
+    EXPECT_EQ(before(u"::"_s, u"a::b::c"_s), u"a"_s);
+    EXPECT_EQ(before(u"-"_s, u"abc"_s), u"abc"_s);
+    EXPECT_EQ(before(u""_s, u"abc"_s), u"abc"_s);
+    EXPECT_EQ(getDecimalPortionAsString(u"3.14159"_s), u".141"_s);
+    EXPECT_EQ(getDecimalPortionAsString(u"3.5 "_s), u".5"_s);
+    EXPECT_EQ(getDecimalPortionAsString(u"3"_s), u""_s);
+    const std::pair<QString, int> cases[] = {
+        {u"42.9"_s, 42}, {u"-7"_s, -7}, {u".5"_s, 0}, {u"x.5"_s, 0}, {u"99999999999.1"_s, 0}};
+    for (const auto &[text, expected] : cases) {
+        EXPECT_EQ(getIntegerPortionOfStringAsInteger(text), expected);
+        EXPECT_EQ(getIntegerPortionAsString(text), QString::number(expected));
+    }
+    EXPECT_THROW(strToFloatDef(u"abc"_s, 1.0), RuleError) << "the default is not used";
+}
+
+TEST(CheckLists, BitsWrapAt32)
+{
+    QList<bool> checks(35, false);
+    checks[0] = checks[31] = checks[34] = true;
+    EXPECT_EQ(checkListGetBitField(checks), 0x80000005u);
+    checkListSetChecks(checks, 0x80000002u);
+    for (int i = 0; i < checks.size(); ++i)
+        EXPECT_EQ(checks[i], i == 1 || i == 31 || i == 33) << i;
+}
+
+TEST(CardNumbers, BrandsAreToldApart)
+{
+    const std::pair<QString, QString> cases[] = {
+        {u"4111 1111 1111 1111"_s, u"VISA"_s},
+        {u"4222222222222"_s, u"VISA"_s},
+        {u"5500000000000004"_s, u"MASTERCARD"_s},
+        {u"2223000048400011"_s, u"MASTERCARD"_s},
+        {u"340000000000009"_s, u"AMEX"_s},
+        {u"30000000000004"_s, u"Diners Club"_s},
+        {u"6011000000000000"_s, u"Discover"_s},
+        {u"201400000000000"_s, u"enRoute"_s},
+        {u"6700000000000000"_s, u"Solo"_s},
+        {u"670000000000000000"_s, u"Switch"_s},
+        {u"4111111111111112"_s, u""_s},
+        {u"4111-1111-1111-1111"_s, u""_s},
+        {u"411111111111"_s, u""_s},
+        {u"9111111111111111"_s, u""_s},
+    };
+    for (const auto &[number, brand] : cases)
+        EXPECT_EQ(validateCC(number), brand) << number.toStdString();
+}
+
+TEST(FormPositions, ComeBackOrNotAtAll)
+{
+    MemorySettings settings;
+    saveFormPos(settings, QRect(-20, 30, 640, 480), u"frmItems"_s, u"Main"_s);
+    EXPECT_EQ(setFormPos(settings, u"frmItems"_s, u"Main"_s), QRect(-20, 30, 640, 480));
+    EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, u"Other"_s));
+    for (const auto &damaged : {u"1 2 3"_s, u"1 2 3 x"_s, u"1 2 0 5"_s}) {
+        settings.write(u"Forms/frmItems"_s, u"Main"_s, damaged);
+        EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, u"Main"_s)) << damaged.toStdString();
+    }
+}
+
+TEST(BuildInfoTest, ReadsTheProgramsVersion)
+{
+    const QString before = QCoreApplication::applicationVersion();
+    QCoreApplication::setApplicationVersion(u"3.1.12"_s);
+    EXPECT_EQ(strBuildInfo(), u"3.1.12.0"_s);
+    EXPECT_EQ(getBuildInfo().release, 12);
+    QCoreApplication::setApplicationVersion(before);
+}
+
+class Tables : public testing::TestWithParam<Store> {
+protected:
+    Tables()
+        : store(GetParam())
+    {
+        store.session().lockAttempts = 1;
+    }
+
+    TestStore store;
+};
+
+TEST_P(Tables, UniqueNumbersAreTheLastOneHandedOutPlusOne)
+{
+    store.database().createTable(Layouts::vendCtl());
+    Engine::Table counter(store.database(), u"VendCtl"_s);
+    EXPECT_EQ(getUniqueID(counter, u"NextVendorID"_s), 1) << "an empty table";
+    store.execute(u"UPDATE VendCtl SET NextVendorNo = 41"_s);
+    EXPECT_EQ(getUniqueID(counter, u"NextVendorNo"_s), 42);
+    EXPECT_EQ(getUniqueID(counter, u"NextVendorNo"_s), 43);
+    EXPECT_FALSE(counter.isOpen());
+}
+
+TEST_P(Tables, UniqueNumbersWaitForARowThatIsLocked)
+{
+    store.database().createTable(Layouts::vendCtl());
+    store.execute(u"INSERT INTO VendCtl VALUES (41, 41)"_s);
+    const auto other = store.anotherUser();
+    Engine::Table held(other->database, u"VendCtl"_s);
+    held.open();
+    held.edit();
+
+    int pauses = 0;
+    store.session().lockAttempts = 2; // each edit pauses once
+    store.session().waitFor = [&](std::chrono::milliseconds) {
+        if (++pauses == 3)
+            held.cancel();
+    };
+    Engine::Table counter(store.database(), u"VendCtl"_s);
+    EXPECT_EQ(getUniqueID(counter, u"NextVendorNo"_s), 42);
+
+    held.edit();
+    pauses = 10;
+    try {
+        getUniqueID(counter, u"NextVendorNo"_s);
+        FAIL() << "a number was taken from a locked row";
+    } catch (const RuleError &error) {
+        EXPECT_EQ(error.message(), u"Cannot get next unique number. (btGetUniqueNumber)"_s);
+    }
+    EXPECT_EQ(pauses, 110);
+    EXPECT_FALSE(counter.isOpen());
+}
+
+TEST_P(Tables, OpeningFailsWithTheTablesName)
+{
+    store.database().createTable(Layouts::tax());
+    const auto other = store.anotherUser();
+    Engine::Table held(other->database, u"Tax"_s);
+    held.exclusive = true;
+    held.open();
+
+    Engine::Table tax(store.database(), u"Tax"_s);
+    try {
+        openTable(tax);
+        FAIL() << "opened";
+    } catch (const EngineError &error) {
+        EXPECT_EQ(error.code(), ErrorCode::TableInUse);
+        EXPECT_EQ(error.text(), u"Tax table. Another user has the table open in exclusive mode."_s);
+    }
+    held.close();
+    EXPECT_TRUE(openTable(tax));
+
+    Engine::Table missing(store.database(), u"Nowhere"_s);
+    try {
+        openTable(missing);
+        FAIL() << "opened";
+    } catch (const EngineError &error) {
+        EXPECT_TRUE(error.text().startsWith(u"Nowhere: Unknown or unexpected database engine error #10024"_s))
+            << error.what();
+    }
+    Engine::Query query(store.database(), u"SELECT * FROM Nowhere"_s);
+    try {
+        openQuery(query);
+        FAIL() << "opened";
+    } catch (const EngineError &error) {
+        EXPECT_TRUE(error.text().startsWith(u"Query: Unknown or unexpected database engine error #"_s))
+            << error.what();
+    }
+}
+
+TEST_P(Tables, StoredStatementsAreFoundByName)
+{
+    store.execute(u"CREATE TABLE Stored (Query_Name VARCHAR(20), Query_Lines TEXT)"_s);
+    store.execute(u"INSERT INTO Stored VALUES ('one', 'SELECT 1'), ('two', 'SELECT 2')"_s);
+    Engine::Query query(store.database(), u"SELECT Query_Lines FROM Stored WHERE Query_Name = :Query_Name"_s);
+    EXPECT_EQ(getSQLString(query, u"two"_s), u"SELECT 2"_s);
+    EXPECT_EQ(getSQLString(query, u"one"_s), u"SELECT 1"_s);
+    EXPECT_EQ(getSQLString(query, u"it's"_s), u""_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(Stores, Tables, testing::Values(Store::Local, Store::Remote), caseName);
