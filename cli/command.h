@@ -1,0 +1,51 @@
+#pragma once
+
+#include "cli/arguments.h"
+#include "cli/console.h"
+#include "data/datamodule.h"
+#include "frame/shared/settingsstore.h"
+
+#include <functional>
+#include <memory>
+#include <QList>
+#include <QString>
+
+namespace Tallymere {
+
+// What a command has at hand while it runs.
+struct CommandContext {
+    Console &console;
+    ConsolePrompts &prompts;
+    SettingsStore &settings;
+    const Arguments &arguments; // words() without the command itself
+
+    // Opens the database that the options or the user's settings name. The caller may set what the options leave
+    // open.
+    std::unique_ptr<TDataModuleTallymere> openData(DataModuleOptions options = {}) const;
+};
+
+struct Command {
+    QString name;
+    QString words; // of the synopsis: "KIND FILE.csv"
+    QString summary;
+    QString details; // more for its own --help
+    QList<OptionSpec> options; // besides the ones that all commands take
+    int fewestWords = 0;
+    int mostWords = 0;
+    std::function<void(CommandContext &)> run; // failures are exceptions
+};
+
+// Every command, in the order of --help.
+const QList<Command> &commands();
+const Command *findCommand(const QString &name);
+const QList<OptionSpec> &commonOptions();
+
+Command initCommand();
+Command sampleCommand();
+Command importCommand();
+Command postCommand();
+Command totalsCommand();
+Command historyCommand();
+Command listCommand();
+
+} // namespace Tallymere

@@ -1,0 +1,103 @@
+#include "cli/console.h"
+
+#include "cli/terminal.h"
+
+#include <cstdio>
+#include <QCoreApplication>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr qint64 quietMilliseconds = 1000;
+constexpr qint64 pictureMilliseconds = 200;
+constexpr int retryPauseMilliseconds = 100;
+
+} // namespace
+
+Console::Console()
+    : m_showsProgress(Terminal::isErrorTerminal())
+{
+    if (!m_output.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered)
+        || !m_error.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
+        m_showsProgress = false;
+}
+
+void Console::print(const QString &text) { m_output.write((text + u'\n').toUtf8()); }
+
+void Console::complain(const QString &text) { m_error.write((text + u'\n').toUtf8()); }
+
+void Console::error(const QString &text) { complain("tallymere: "_L1 + onOneLine(text)); }
+
+void Console::status(const QString &text) { m_error.write(("\r\033[K"_L1 + text).toUtf8()); }
+
+QString onOneLine(QString text)
+{
+    text.replace(u'\r', u'\n');
+    QStringList lines = text.split(u'\n', Qt::SkipEmptyParts);
+    for (QString &line : lines)
+        line = line.trimmed();
+    return lines.join(u' ');
+}
+
+void ConsolePrompts::inform(const QString &text) { m_console.error(text); }
+
+void ConsolePrompts::warn(const QString &text) { m_console.error(text); }
+
+void ConsolePrompts::error(const QString &text) { m_console.error(text); }
+
+bool ConsolePrompts::confirm(const QString &title, const QString &text)
+{
+    m_console.error(title + ": "_L1 + text);
+    return answerYes;
+}
+
+Answer ConsolePrompts::yesNoCancel(const QString &text)
+{
+    m_console.error(text);
+    return answerYes ? Answer::Yes : Answer::Cancel;
+}
+
+bool ConsolePrompts::retry(const QString &text)
+{
+    if (!m_retrying.isValid())
+        m_retrying.start();
+    if (m_retrying.hasExpired(retryFor.count())) {
+        m_console.error(text);
+        return false;
+    }
+    QThread::msleep(retryPauseMilliseconds);
+    return true;
+}
+
+void ConsoleProgress::start(int steps)
+{
+    m_steps = steps;
+    m_done = 0;
+    m_lastShown = 0;
+    m_since.start();
+}
+
+void ConsoleProgress::step()
+{
+    ++m_done;
+    if (!m_console.showsProgress() || !m_since.hasExpired(quietMilliseconds))
+        return;
+    if (m_shown && m_since.elapsed() - m_lastShown < pictureMilliseconds)
+        return;
+    m_lastShown = m_since.elapsed();
+    m_shown = true;
+    m_console.status(u"%1: %2 / %3"_s.arg(m_what).arg(m_done).arg(m_steps));
+}
+
+void ConsoleProgress::finish()
+{
+    if (m_shown)
+        m_console.status({});
+    m_shown = false;
+}
+
+} // namespace Tallymere

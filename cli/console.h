@@ -1,0 +1,78 @@
+#pragma once
+
+#include "frame/shared/prompts.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QString>
+
+namespace Tallymere {
+
+// Standard output and standard error of the program.
+class Console {
+public:
+    Console();
+
+    QIODevice &output() { return m_output; }
+    void print(const QString &text); // a line on standard output
+    void complain(const QString &text); // a line on standard error as it stands
+    void error(const QString &text); // "tallymere: ..." on standard error, line breaks being blanks there
+    void status(const QString &text); // replaces the last line of a terminal
+    bool showsProgress() const { return m_showsProgress; }
+
+private:
+    QFile m_output;
+    QFile m_error;
+    bool m_showsProgress;
+};
+
+QString onOneLine(QString text); // line breaks and the blanks around them become one blank
+
+// How rules talk to the user of a command. Questions get their default answer, which refuses, unless the user has
+// said yes beforehand. A refused lock is retried for the time given.
+class ConsolePrompts final : public Prompts {
+public:
+    explicit ConsolePrompts(Console &console)
+        : m_console(console)
+    {
+    }
+
+    bool answerYes = false;
+    std::chrono::milliseconds retryFor{0};
+
+    void inform(const QString &text) override;
+    void warn(const QString &text) override;
+    void error(const QString &text) override;
+    bool confirm(const QString &title, const QString &text) override;
+    Answer yesNoCancel(const QString &text) override;
+    bool retry(const QString &text) override;
+
+private:
+    Console &m_console;
+    QElapsedTimer m_retrying;
+};
+
+// Progress of long work on a terminal; nothing is shown in the first second.
+class ConsoleProgress final : public Progress {
+public:
+    ConsoleProgress(Console &console, QString what)
+        : m_console(console)
+        , m_what(std::move(what))
+    {
+    }
+
+    void start(int steps) override;
+    void step() override;
+    void finish() override;
+
+private:
+    Console &m_console;
+    QString m_what; // "Posting"
+    int m_steps = 0;
+    int m_done = 0;
+    bool m_shown = false;
+    QElapsedTimer m_since;
+    qint64 m_lastShown = 0;
+};
+
+} // namespace Tallymere

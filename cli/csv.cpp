@@ -1,0 +1,164 @@
+#include "cli/csv.h"
+
+#include "frame/shared/ruleerror.h"
+
+#include <QCoreApplication>
+#include <QIODevice>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr qsizetype blockSize = 64 * 1024;
+
+QString tr(const char *text) { return QCoreApplication::translate("Csv", text); }
+
+} // namespace
+
+CsvReader::CsvReader(QIODevice &device)
+    : m_device(device)
+{
+}
+
+bool CsvReader::next()
+{
+    m_fields.clear();
+    while (readLine()) {
+        if (m_text.isEmpty())
+            continue;
+        m_recordLine = m_line;
+        readRecord();
+        return true;
+    }
+    return false;
+}
+
+// A line as the file has it. UTF-8 never hides a line end inside a character, so each line can be judged alone.
+bool CsvReader::readLine()
+{
+    m_text = m_device.readLine();
+    if (m_text.isEmpty()) {
+        if (!m_device.atEnd())
+            throw CsvError(m_line + 1, m_device.errorString());
+        return false;
+    }
+    ++m_line;
+    m_position = 0;
+    m_lineEnded = m_text.endsWith('\n');
+    if (m_lineEnded)
+        m_text.chop(1);
+    if (m_text.endsWith('\r'))
+        m_text.chop(1);
+    if (m_line == 1 && m_text.startsWith("\xEF\xBB\xBF"))
+        m_text.remove(0, 3);
+    if (!m_text.isValidUtf8())
+        throw CsvError(m_line, tr("The text is not UTF-8. Save the file in UTF-8 and try again."));
+    if (m_text.contains('\0'))
+        throw CsvError(m_line, tr("There is a zero byte in the text. This is no CSV file in UTF-8."));
+    return true;
+}
+
+void CsvReader::readRecord()
+{
+    for (;;) {
+        if (m_position < m_text.size() && m_text[m_position] == '"')
+            readQuotedField();
+        else
+            readPlainField();
+        if (m_position >= m_text.size())
+            return;
+        ++m_position; // the comma
+    }
+}
+
+void CsvReader::readPlainField()
+{
+    qsizetype end = m_text.indexOf(',', m_position);
+    if (end < 0)
+        end = m_text.size();
+    const QByteArray field = m_text.mid(m_position, end - m_position);
+    if (field.contains('"'))
+        throw CsvError(m_line, tr("There is a quote inside a field that does not begin with one."));
+    appendField(field);
+    m_position = end;
+}
+
+void CsvReader::readQuotedField()
+{
+    const int opened = m_line;
+    QByteArray field;
+    ++m_position;
+    for (;;) {
+        const qsizetype quote = m_text.indexOf('"', m_position);
+        if (quote < 0) {
+            field += m_text.mid(m_position);
+            field += '\n';
+            if (!m_lineEnded || !readLine())
+                throw CsvError(opened, tr("The quote that opens on this line never closes."));
+            continue;
+        }
+        field += m_text.mid(m_position, quote - m_position);
+        m_position = quote + 1;
+        if (m_position >= m_text.size() || m_text[m_position] == ',')
+            break;
+        if (m_text[m_position] != '"')
+            throw CsvError(m_line, tr("There is text after a closing quote."));
+        field += '"';
+        ++m_position;
+    }
+    appendField(field);
+}
+
+void CsvReader::appendField(const QByteArray &bytes) { m_fields.append(QString::fromUtf8(bytes)); }
+
+CsvWriter::CsvWriter(QIODevice &device)
+    : m_device(device)
+{
+    m_block.reserve(blockSize + 4096);
+}
+
+CsvWriter::~CsvWriter() = default;
+
+void CsvWriter::field(const QString &text)
+{
+    if (m_fieldsInRecord++ > 0)
+        m_block += ',';
+    QByteArray bytes = text.toUtf8();
+    if (bytes.contains('"') || bytes.contains(',') || bytes.contains('\n') || bytes.contains('\r')) {
+        bytes.replace("\"", "\"\"");
+        m_block += '"' + bytes + '"';
+        return;
+    }
+    m_block += bytes;
+}
+
+void CsvWriter::endRecord()
+{
+    // A record of one empty field would be an empty line, which readers pass over.
+    if (m_fieldsInRecord == 1 && m_block.size() == m_recordStart)
+        m_block += "\"\"";
+    m_block += "\r\n";
+    m_fieldsInRecord = 0;
+    if (m_block.size() >= blockSize)
+        flush();
+    m_recordStart = m_block.size();
+}
+
+void CsvWriter::record(const QStringList &fields)
+{
+    for (const QString &text : fields)
+        field(text);
+    endRecord();
+}
+
+void CsvWriter::flush()
+{
+    if (m_device.write(m_block) != m_block.size())
+        throw RuleError(tr("The output could not be written: %1").arg(m_device.errorString()));
+    m_block.clear();
+    m_recordStart = 0;
+}
+
+} // namespace Tallymere

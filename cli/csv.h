@@ -1,0 +1,81 @@
+#pragma once
+
+#include <exception>
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+class QIODevice;
+
+namespace Tallymere {
+
+// What makes a file no CSV: wrong encoding, a quote that never closes. Reading cannot go on after it.
+class CsvError : public std::exception {
+public:
+    CsvError(int line, QString message)
+        : m_line(line)
+        , m_message(std::move(message))
+        , m_what(m_message.toUtf8())
+    {
+    }
+
+    int line() const { return m_line; }
+    const QString &message() const { return m_message; }
+    const char *what() const noexcept override { return m_what.constData(); }
+
+private:
+    int m_line;
+    QString m_message;
+    QByteArray m_what;
+};
+
+// Reads comma-separated records (RFC 4180) in UTF-8, with or without byte order mark, one at a time. Lines end with
+// CR LF or LF; lines without any character are passed over.
+class CsvReader {
+public:
+    explicit CsvReader(QIODevice &device); // open for reading; not taken over
+
+    // The next record; false after the last one. Throws CsvError.
+    bool next();
+
+    const QStringList &fields() const { return m_fields; }
+    int line() const { return m_recordLine; } // the line on which the record begins, from 1
+
+private:
+    bool readLine();
+    void readRecord();
+    void readQuotedField();
+    void readPlainField();
+    void appendField(const QByteArray &bytes);
+
+    QIODevice &m_device;
+    QByteArray m_text; // the line in hand, without its end
+    bool m_lineEnded = false; // it had an end
+    qsizetype m_position = 0;
+    int m_line = 0;
+    int m_recordLine = 0;
+    QStringList m_fields;
+};
+
+// Writes records. Text is quoted where it must be; what is written goes to the device in larger blocks.
+class CsvWriter {
+public:
+    explicit CsvWriter(QIODevice &device);
+    ~CsvWriter(); // what flush() has not written is lost
+    CsvWriter(const CsvWriter &) = delete;
+    CsvWriter &operator=(const CsvWriter &) = delete;
+
+    void field(const QString &text);
+    void endRecord();
+    void record(const QStringList &fields);
+    // Hands everything to the device. Throws RuleError when that fails, as endRecord() may.
+    void flush();
+
+private:
+    QIODevice &m_device;
+    QByteArray m_block;
+    int m_fieldsInRecord = 0;
+    qsizetype m_recordStart = 0;
+};
+
+} // namespace Tallymere

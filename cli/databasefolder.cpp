@@ -1,0 +1,60 @@
+#include "cli/databasefolder.h"
+
+#include "cli/terminal.h"
+#include "engine/error.h"
+#include "frame/shared/connectiondecision.h"
+#include "host/tables/hosttables.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("DatabaseFolder", text); }
+
+// The folder of a database in files; empty when the database is on a server, or nowhere yet.
+QString folderOf(const CommandContext &context)
+{
+    if (context.arguments.has(u"data"_s))
+        return QDir(context.arguments.value(u"data"_s)).absolutePath();
+    if (context.arguments.has(u"server"_s))
+        return {};
+    if (getRegString(context.settings, u"Mode"_s, databaseName) == clientServerMode)
+        return {};
+    const QString folder = dbisamAlias(context.settings, databaseName);
+    return folder.isEmpty() ? dbisamAlias(context.settings, spacedDatabaseName) : folder;
+}
+
+void makeFolder(const QString &folder)
+{
+    if (folder.isEmpty() || QFileInfo(folder).isDir())
+        return;
+    if (!QDir().mkpath(folder)) {
+        throw Engine::EngineError(
+            Engine::ErrorCode::CannotOpen,
+            tr("The folder %1 could not be made: %2").arg(folder, Terminal::lastSystemError()));
+    }
+}
+
+} // namespace
+
+std::unique_ptr<TDataModuleTallymere> openNewDatabase(const CommandContext &context, const QString &organization,
+                                                      QString postalFormat)
+{
+    makeFolder(folderOf(context));
+    // Two-letter formats are kept with a blank after them, as the host writes them.
+    postalFormat = postalFormat.leftJustified(3);
+    DataModuleOptions options;
+    options.createDatabase = true;
+    options.prepareHost = [organization, postalFormat](Engine::Database &database) {
+        HostTables::createHostTables(database, organization, postalFormat);
+    };
+    return context.openData(std::move(options));
+}
+
+} // namespace Tallymere

@@ -1,0 +1,56 @@
+#include "cli/help.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr int nameWidth = 26;
+
+QString tr(const char *text) { return QCoreApplication::translate("Help", text); }
+
+QString optionLines(const QList<OptionSpec> &options)
+{
+    QString lines;
+    for (const OptionSpec &option : options) {
+        const QString name = "--"_L1 + option.name + (option.value.isEmpty() ? QString() : u' ' + option.value);
+        lines += "  "_L1 + name.leftJustified(nameWidth) + option.text + u'\n';
+    }
+    return lines;
+}
+
+} // namespace
+
+QString versionText() { return u"tallymere " TALLYMERE_VERSION ""_s; }
+
+QString helpText()
+{
+    QString text =
+        tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] COMMAND [ARGUMENTS]\n\n"
+           "Inventory without a display. Without --data or --server your settings say where the data are.\n"
+           "\nCommands:\n");
+    for (const Command &command : commands()) {
+        const QString synopsis = command.words.isEmpty() ? command.name : command.name + u' ' + command.words;
+        text += "  "_L1 + synopsis.leftJustified(nameWidth) + command.summary + u'\n';
+    }
+    text += tr("\nOptions:\n") + optionLines(commonOptions());
+    text +=
+        tr("\nExit status: 0 done, 1 refused (a rule, bad input, a lock), 2 wrong usage, 3 the database failed.\n"
+           "'tallymere COMMAND --help' tells more about a command.");
+    return text;
+}
+
+QString helpText(const Command &command)
+{
+    QString text = tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] %1 %2 [OPTIONS]\n\n%3.\n")
+                       .arg(command.name, command.words, command.summary);
+    if (!command.details.isEmpty())
+        text += u'\n' + command.details + u'\n';
+    text += tr("\nOptions:\n") + optionLines(command.options + commonOptions());
+    return text.trimmed();
+}
+
+} // namespace Tallymere

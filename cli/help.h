@@ -1,0 +1,11 @@
+#pragma once
+
+#include "cli/command.h"
+
+namespace Tallymere {
+
+QString versionText();
+QString helpText(); // of the program
+QString helpText(const Command &command);
+
+} // namespace Tallymere

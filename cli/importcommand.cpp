@@ -1,0 +1,83 @@
+#include "cli/command.h"
+#include "cli/importer.h"
+#include "frame/shared/ruleerror.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr size_t mostErrorsShown = 100;
+
+QString tr(const char *text) { return QCoreApplication::translate("ImportCommand", text); }
+
+QString kindNames()
+{
+    QStringList names;
+    for (const ImportKind &kind : importKinds())
+        names.append(kind.name);
+    return names.join(", "_L1);
+}
+
+const ImportKind &requireKind(const QString &name)
+{
+    if (const ImportKind *kind = findImportKind(name))
+        return *kind;
+    const QStringList coming = {u"taxes"_s, u"banks"_s, u"usage"_s, u"adjustments"_s};
+    if (coming.contains(name))
+        throw UsageError(tr("'import %1' is not available yet").arg(name));
+    throw UsageError(tr("'import' knows no '%1', but: %2").arg(name, kindNames()));
+}
+
+[[noreturn]] void reportErrors(Console &console, const QString &fileName, const ImportErrors &errors)
+{
+    const std::vector<ImportErrors::Error> all = errors.inFileOrder();
+    for (size_t i = 0; i < std::min(all.size(), mostErrorsShown); ++i)
+        console.complain(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), onOneLine(all[i].message)));
+    if (all.size() > mostErrorsShown)
+        console.complain(tr("%1: %2 more errors").arg(fileName).arg(all.size() - mostErrorsShown));
+    throw RuleError(tr("Nothing was imported."));
+}
+
+void runImport(CommandContext &context)
+{
+    const ImportKind &kind = requireKind(context.arguments.words().at(1));
+    const QString fileName = context.arguments.words().at(2);
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        throw RuleError(tr("The file %1 could not be read: %2").arg(fileName, file.errorString()));
+
+    const auto data = context.openData();
+    ConsoleProgress progress(context.console, tr("Importing"));
+    const ImportResult result =
+        importFile(data->databaseTallymere(), file, kind, context.arguments.has(u"yes"_s), progress);
+    if (!result.errors.isEmpty())
+        reportErrors(context.console, fileName, result.errors);
+    context.console.print(tr("%1 %2 imported").arg(result.documents).arg(kind.name));
+}
+
+} // namespace
+
+Command importCommand()
+{
+    Command command;
+    command.name = u"import"_s;
+    command.words = u"KIND FILE.csv"_s;
+    command.fewestWords = command.mostWords = 2;
+    command.summary = tr("brings in a CSV file, all of it or nothing");
+    command.details =
+        tr("KIND: %1\n\nThe header row holds field names. A number or name may stand for a key: ItemNo, VendorNo,\n"
+           "WarehouseName, TypeName, CurrencyName. The rows of a document are those with the same document\n"
+           "columns, one after the other. Numbers, dates and periods left empty are assigned.\n"
+           "Rows are refused by the rules of the screens, each as FILE:LINE: message.")
+            .arg(kindNames());
+    command.options = {{u"yes"_s, {}, tr("answers yes where a screen would ask")}};
+    command.run = runImport;
+    return command;
+}
+
+} // namespace Tallymere

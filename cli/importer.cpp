@@ -1,0 +1,84 @@
+#include "cli/importer.h"
+
+#include "cli/importanswers.h"
+#include "cli/importfile.h"
+#include "engine/driver.h"
+#include "engine/error.h"
+#include "engine/session.h"
+#include "engine/table.h"
+
+namespace Tallymere {
+
+namespace {
+
+// Whole-table locks, tried as often as record locks are.
+class TableLocks {
+public:
+    TableLocks(Engine::Database &database, const QStringList &names)
+    {
+        for (const QString &name : names) {
+            auto table = std::make_unique<Engine::Table>(database, name);
+            table->open();
+            lock(*table);
+            m_tables.push_back(std::move(table));
+        }
+    }
+    ~TableLocks()
+    {
+        for (const auto &table : m_tables)
+            table->unlockTable();
+    }
+    TableLocks(const TableLocks &) = delete;
+    TableLocks &operator=(const TableLocks &) = delete;
+
+private:
+    static void lock(Engine::Table &table)
+    {
+        const Engine::Session &session = table.database().session();
+        for (int attempt = 1;; ++attempt) {
+            try {
+                table.lockTable();
+                return;
+            } catch (const Engine::EngineError &error) {
+                if (error.code() != Engine::ErrorCode::TableLocked || attempt >= session.lockAttempts)
+                    throw;
+                session.pause();
+            }
+        }
+    }
+
+    std::vector<std::unique_ptr<Engine::Table>> m_tables;
+};
+
+void addAll(std::vector<ImportDocument> &documents, ImportTarget &target, ImportErrors &errors, Progress &progress)
+{
+    progress.start(static_cast<int>(documents.size()));
+    for (ImportDocument &document : documents) {
+        target.add(document, errors);
+        progress.step();
+    }
+    progress.finish();
+}
+
+} // namespace
+
+ImportResult importFile(Engine::Database &database, QIODevice &file, const ImportKind &kind, bool answerYes,
+                        Progress &progress)
+{
+    ImportResult result;
+    std::vector<ImportDocument> documents = readImportFile(file, kind, result.errors);
+    result.documents = static_cast<int>(documents.size());
+    if (documents.empty())
+        return result;
+
+    const TableLocks locks(database, kind.lockedTables);
+    ImportAnswers answers(answerYes);
+    const std::unique_ptr<ImportTarget> target = kind.makeTarget(database, answers);
+    Engine::Transaction transaction(database.connection());
+    addAll(documents, *target, result.errors, progress);
+    if (result.errors.isEmpty())
+        transaction.commit();
+    return result;
+}
+
+} // namespace Tallymere

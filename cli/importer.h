@@ -1,0 +1,22 @@
+#pragma once
+
+#include "cli/importkind.h"
+#include "frame/shared/prompts.h"
+
+class QIODevice;
+
+namespace Tallymere {
+
+struct ImportResult {
+    int documents = 0;
+    ImportErrors errors; // when there are any, nothing was written
+};
+
+// Brings a file in, all or nothing: everything is checked by the rules of the entry screens and written in one
+// transaction while nobody else can write to the tables. Questions of the rules are answered with yes or, by
+// default, with the answer that refuses the row. Throws EngineError when a table stays locked by another user, or
+// when the store fails; nothing is written then either.
+ImportResult importFile(Engine::Database &database, QIODevice &file, const ImportKind &kind, bool answerYes,
+                        Progress &progress);
+
+} // namespace Tallymere

@@ -1,0 +1,198 @@
+#include "cli/importfile.h"
+
+#include "cli/csv.h"
+#include "cli/importvalue.h"
+#include "frame/shared/ruleerror.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+using Header = std::vector<const ImportColumn *>;
+
+QString tr(const char *text) { return QCoreApplication::translate("ImportFile", text); }
+
+class HeaderReader {
+public:
+    HeaderReader(const ImportKind &kind, ImportErrors &errors, int line)
+        : m_kind(kind)
+        , m_errors(errors)
+        , m_line(line)
+    {
+    }
+
+    // Empty when something is wrong.
+    Header read(const QStringList &names)
+    {
+        for (const QString &name : names)
+            add(name.trimmed());
+        requireColumns();
+        return m_faulty ? Header() : m_header;
+    }
+
+private:
+    void fault(const QString &message)
+    {
+        m_faulty = true;
+        m_errors.add(m_line, message);
+    }
+
+    void add(const QString &name)
+    {
+        const ImportColumn *column = find(name);
+        if (!column) {
+            const bool refused = m_kind.refusedColumns.contains(name, Qt::CaseInsensitive);
+            return fault(refused ? tr("The column '%1' is set by the system and cannot be imported.").arg(name)
+                                 : tr("There is no column '%1' in %2.").arg(name, m_kind.name));
+        }
+        for (const ImportColumn *earlier : m_header) {
+            if (earlier == column)
+                return fault(tr("The column '%1' is there twice.").arg(name));
+            if (earlier->target == column->target)
+                return fault(tr("The columns '%1' and '%2' say the same thing; leave one out.")
+                                 .arg(earlier->field, column->field));
+        }
+        m_header.push_back(column);
+    }
+
+    const ImportColumn *find(const QString &name) const
+    {
+        for (const ImportColumn &column : m_kind.columns) {
+            if (column.field.compare(name, Qt::CaseInsensitive) == 0)
+                return &column;
+        }
+        return nullptr;
+    }
+
+    void requireColumns()
+    {
+        QStringList seen;
+        for (const ImportColumn &column : m_kind.columns) {
+            if (!column.required || seen.contains(column.target))
+                continue;
+            seen.append(column.target);
+            const bool there = std::any_of(m_header.begin(), m_header.end(), [&](const ImportColumn *given) {
+                return given->target == column.target;
+            });
+            if (!there)
+                fault(tr("The column %1 is missing.").arg(choices(column.target)));
+        }
+    }
+
+    // "'VendorID' or 'VendorNo'"
+    QString choices(const QString &target) const
+    {
+        QStringList names;
+        for (const ImportColumn &column : m_kind.columns) {
+            if (column.target == target)
+                names.append(u'\'' + column.field + u'\'');
+        }
+        return names.join(tr(" or "));
+    }
+
+    const ImportKind &m_kind;
+    ImportErrors &m_errors;
+    int m_line;
+    Header m_header;
+    bool m_faulty = false;
+};
+
+class RowReader {
+public:
+    RowReader(const Header &header, bool hasLines, ImportErrors &errors)
+        : m_header(header)
+        , m_hasLines(hasLines)
+        , m_errors(errors)
+    {
+    }
+
+    void add(int line, const QStringList &fields)
+    {
+        if (fields.size() != static_cast<qsizetype>(m_header.size())) {
+            return m_errors.add(line,
+                                tr("The row has %1 fields, the header has %2.")
+                                    .arg(fields.size())
+                                    .arg(static_cast<qsizetype>(m_header.size())));
+        }
+        ImportRow row = readRow(line, fields);
+        const QStringList documentFields = fieldsOfDocument(fields);
+        if (m_hasLines && !m_documents.empty() && documentFields == m_documentFields)
+            m_documents.back().push_back(std::move(row));
+        else
+            m_documents.push_back({std::move(row)});
+        m_documentFields = documentFields;
+    }
+
+    std::vector<ImportDocument> takeDocuments() { return std::move(m_documents); }
+
+private:
+    ImportRow readRow(int line, const QStringList &fields)
+    {
+        ImportRow row;
+        row.line = line;
+        for (size_t i = 0; i < m_header.size(); ++i) {
+            try {
+                row.cells.push_back({m_header[i], importValue(*m_header[i], fields[static_cast<qsizetype>(i)])});
+            } catch (const RuleError &error) {
+                m_errors.add(line, error.message());
+                row.isBad = true;
+            }
+        }
+        return row;
+    }
+
+    QStringList fieldsOfDocument(const QStringList &fields) const
+    {
+        QStringList document;
+        for (size_t i = 0; i < m_header.size(); ++i) {
+            if (m_header[i]->level == ImportColumn::Level::Document)
+                document.append(fields[static_cast<qsizetype>(i)]);
+        }
+        return document;
+    }
+
+    const Header &m_header;
+    const bool m_hasLines;
+    ImportErrors &m_errors;
+    std::vector<ImportDocument> m_documents;
+    QStringList m_documentFields; // of the last row
+};
+
+std::vector<ImportDocument> readRows(CsvReader &reader, const ImportKind &kind, ImportErrors &errors)
+{
+    if (!reader.next()) {
+        errors.add(1, tr("The file is empty."));
+        return {};
+    }
+    const Header header = HeaderReader(kind, errors, reader.line()).read(reader.fields());
+    if (header.empty())
+        return {};
+    RowReader rows(header, kind.hasLines(), errors);
+    try {
+        while (reader.next())
+            rows.add(reader.line(), reader.fields());
+    } catch (const CsvError &error) {
+        errors.add(error.line(), error.message());
+    }
+    return rows.takeDocuments();
+}
+
+} // namespace
+
+std::vector<ImportDocument> readImportFile(QIODevice &file, const ImportKind &kind, ImportErrors &errors)
+{
+    CsvReader reader(file);
+    try {
+        return readRows(reader, kind, errors);
+    } catch (const CsvError &error) {
+        errors.add(error.line(), error.message());
+        return {};
+    }
+}
+
+} // namespace Tallymere

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "cli/importkind.h"
+
+class QIODevice;
+
+namespace Tallymere {
+
+// Reads a whole file of a kind: header, rows with their values, rows gathered to documents. What is wrong with a
+// row is added to the errors, and the row is kept as far as it can be read, so that its document can be judged
+// further. After a fault in the header, or one that ends reading, what was read before it is returned.
+std::vector<ImportDocument> readImportFile(QIODevice &file, const ImportKind &kind, ImportErrors &errors);
+
+} // namespace Tallymere

@@ -1,0 +1,140 @@
+#include "cli/importvalue.h"
+
+#include "frame/shared/formats.h"
+#include "frame/shared/ruleerror.h"
+
+#include <cmath>
+#include <limits>
+#include <QCoreApplication>
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+using Engine::FieldType;
+using Engine::Value;
+
+constexpr double largestMoney = 922'337'203'685'477.0;
+
+QString tr(const char *text) { return QCoreApplication::translate("ImportValue", text); }
+
+[[noreturn]] void refuse(const ImportColumn &column, const QString &text, const QString &why)
+{
+    throw RuleError(u"%1 '%2' %3"_s.arg(column.field, text, why), column.field);
+}
+
+bool looksLikeNumber(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar c) { return (c >= u'0' && c <= u'9') || u"+-.eE"_s.contains(c); });
+}
+
+double realNumber(const ImportColumn &column, const QString &text)
+{
+    bool ok = false;
+    const double number = looksLikeNumber(text) ? QLocale::c().toDouble(text, &ok) : 0;
+    // A number too large for a double comes back as infinity, one too small as not ok.
+    if (std::isinf(number) || (column.type == FieldType::Money && std::abs(number) > largestMoney))
+        refuse(column, text, tr("is out of range"));
+    if (!ok)
+        refuse(column, text, tr("is not a number"));
+    return number;
+}
+
+qint64 wholeNumber(const ImportColumn &column, const QString &text)
+{
+    const double number = realNumber(column, text);
+    if (number != std::trunc(number))
+        refuse(column, text, tr("is not a whole number"));
+    const bool small = column.type == FieldType::SmallInt;
+    const double lowest = small ? std::numeric_limits<qint16>::min() : std::numeric_limits<qint32>::min();
+    const double highest = small ? std::numeric_limits<qint16>::max() : std::numeric_limits<qint32>::max();
+    if (number < lowest || number > highest)
+        refuse(column, text, tr("is out of range"));
+    const auto whole = static_cast<qint64>(number);
+    const bool limited = column.lowest != 0 || column.highest != 0;
+    if (limited && (whole < column.lowest || whole > column.highest)) {
+        refuse(column, text,
+               tr("is not within %1 to %2").arg(QString::number(column.lowest), QString::number(column.highest)));
+    }
+    return whole;
+}
+
+Value year(const ImportColumn &column, const QString &text)
+{
+    const qint64 number = wholeNumber(column, text);
+    if (number >= 1900 && number <= 9999)
+        return number;
+    if (number < 0 || number > 99)
+        refuse(column, text, tr("is not a year of two or four digits"));
+    return yearOfTwoDigits(static_cast<int>(number));
+}
+
+Value period(const ImportColumn &column, const QString &text)
+{
+    const qint64 number = wholeNumber(column, text);
+    if (number < 1 || number > 12)
+        refuse(column, text, tr("is not within %1 to %2").arg(u"1"_s, u"12"_s));
+    return number;
+}
+
+Value date(const ImportColumn &column, const QString &text)
+{
+    const QDate date = text.size() == 10 ? QDate::fromString(text, u"yyyy-MM-dd"_s) : QDate();
+    if (!date.isValid())
+        refuse(column, text, tr("is not a date (YYYY-MM-DD)"));
+    return date;
+}
+
+Value boolean(const ImportColumn &column, const QString &text)
+{
+    if (text.compare("true"_L1, Qt::CaseInsensitive) == 0)
+        return true;
+    if (text.compare("false"_L1, Qt::CaseInsensitive) == 0)
+        return false;
+    refuse(column, text, tr("is neither true nor false"));
+}
+
+Value textValue(const ImportColumn &column, const QString &text)
+{
+    if (column.type == FieldType::Text && text.toUcs4().size() > column.size) {
+        const QString start = text.size() > 60 ? text.left(57) + "..."_L1 : text;
+        refuse(column, start, tr("is longer than %1 characters").arg(column.size));
+    }
+    return text;
+}
+
+} // namespace
+
+Value importValue(const ImportColumn &column, const QString &text)
+{
+    if (text.isEmpty())
+        return {};
+    if (column.format == ImportColumn::Format::Year)
+        return year(column, text);
+    if (column.format == ImportColumn::Format::Period)
+        return period(column, text);
+    switch (column.type) {
+    case FieldType::Integer:
+    case FieldType::SmallInt:
+    case FieldType::AutoInc:
+        return wholeNumber(column, text);
+    case FieldType::Float:
+    case FieldType::Money:
+        return realNumber(column, text);
+    case FieldType::Boolean:
+        return boolean(column, text);
+    case FieldType::Date:
+    case FieldType::DateTime:
+        return date(column, text);
+    case FieldType::Text:
+    case FieldType::Memo:
+        break;
+    }
+    return textValue(column, text);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,36 @@
+#include "cli/keynames.h"
+
+#include "engine/query.h"
+#include "frame/shared/ruleerror.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+Engine::Value KeyNames::key(const NameLookup &lookup, const QString &name)
+{
+    const QString known = lookup.table + u'\n' + name;
+    const auto found = m_known.constFind(known);
+    if (found != m_known.constEnd())
+        return *found;
+    return *m_known.insert(known, read(lookup, name));
+}
+
+Engine::Value KeyNames::read(const NameLookup &lookup, const QString &name) const
+{
+    // Table and fields are the program's own words; the name goes in as a parameter.
+    const QString rows = u" FROM %1 WHERE %2 = ?"_s.arg(lookup.table, lookup.nameField);
+    const auto count = Engine::singleValue(m_database, "SELECT count(*)"_L1 + rows, {name});
+    if (count.toInt64() == 0)
+        throw RuleError(lookup.notFound.arg(name), lookup.nameField);
+    if (count.toInt64() > 1) {
+        throw RuleError(QCoreApplication::translate("KeyNames", "%1 '%2' is there more than once; give %3 instead")
+                            .arg(lookup.nameField, name, lookup.keyField),
+                        lookup.nameField);
+    }
+    return Engine::singleValue(m_database, "SELECT %1"_L1.arg(lookup.keyField) + rows, {name});
+}
+
+} // namespace Tallymere

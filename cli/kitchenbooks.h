@@ -1,0 +1,54 @@
+#pragma once
+
+#include "cli/bulkinsert.h"
+#include "engine/database.h"
+#include "engine/money.h"
+
+#include <QDate>
+#include <QString>
+
+namespace Tallymere {
+
+// A posted document of the large kitchen, line by line.
+struct KitchenDocument {
+    QDate date;
+    qint64 warehouse = 0;
+    qint64 vendor = 0; // receipts only
+};
+
+struct KitchenLine {
+    qint64 item = 0;
+    double quantity = 0;
+    Engine::Money entered; // the unit cost as entered, in the vendor's currency
+    Engine::Money cost; // the unit cost in the home currency
+};
+
+// Writes documents with their history rows, as entering and posting would have left them. Numbers run on from the
+// database's counters, which are set by finish(). Within the caller's transaction.
+class KitchenBooks {
+public:
+    explicit KitchenBooks(Engine::Database &database);
+
+    void addReceipt(const KitchenDocument &document, const std::vector<KitchenLine> &lines, bool posted = true);
+    void addUsage(const KitchenDocument &document, const std::vector<KitchenLine> &lines);
+    void addAdjustment(const KitchenDocument &document, const std::vector<KitchenLine> &lines);
+    void finish();
+
+private:
+    void readCounters();
+    void writeCounters();
+
+    Engine::Database &m_database;
+    BulkInsert m_receipts;
+    BulkInsert m_receiptLines;
+    BulkInsert m_usages;
+    BulkInsert m_usageLines;
+    BulkInsert m_adjustments;
+    BulkInsert m_adjustmentLines;
+    BulkInsert m_history;
+    qint64 m_receiptId = 0, m_receiptNo = 0;
+    qint64 m_usageId = 0, m_usageNo = 0;
+    qint64 m_adjustmentId = 0;
+};
+
+} // namespace Tallymere

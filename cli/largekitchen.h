@@ -1,0 +1,60 @@
+#pragma once
+
+#include "cli/chance.h"
+#include "cli/kitchenbooks.h"
+#include "frame/shared/prompts.h"
+
+#include <array>
+#include <vector>
+
+namespace Tallymere {
+
+// Three years of a large kitchen: 5,000 items, 10 locations, 1,000,000 history rows of posted receipts, usage and
+// adjustments with their documents, and some receipts that wait for posting. Balances and average costs are what
+// posting the documents one after the other gives. The same seed gives the same rows.
+//
+// Goes on from a database that holds the sample's master data. One transaction.
+class LargeKitchen {
+public:
+    LargeKitchen(Engine::Database &database, std::uint64_t seed);
+
+    void fill(Progress &progress);
+
+private:
+    static constexpr int itemCount = 5000;
+    static constexpr int locationCount = 10;
+    static constexpr int historyRows = 1'000'000;
+    static constexpr int linesPerDocument = 20;
+    static constexpr int unpostedReceipts = 25;
+
+    struct Item {
+        qint64 key = 0;
+        Engine::Money basePrice;
+        Engine::Money average;
+        double onHand = 0; // over all locations
+        std::array<double, locationCount> balances{};
+        std::array<bool, locationCount> hasBalance{};
+    };
+    struct Vendor {
+        qint64 key = 0;
+        double exchangeRate = 0;
+    };
+
+    void readMasters();
+    void keepBooks(Progress &progress);
+    void addDocument(KitchenBooks &books, int number, int lineCount);
+    void addUnposted(KitchenBooks &books);
+    std::vector<KitchenLine> receive(KitchenDocument &document, int location, int lineCount, double growth);
+    std::vector<KitchenLine> use(int location, int lineCount);
+    std::vector<KitchenLine> adjust(int location, int lineCount);
+    Item *itemInStock(int location);
+    void writeStock();
+
+    Engine::Database &m_database;
+    Chance m_chance;
+    std::vector<Item> m_items;
+    std::vector<Vendor> m_vendors;
+    std::vector<qint64> m_locations;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,12 @@
+#include "cli/program.h"
+
+#include <QCoreApplication>
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    Tallymere::Console console;
+    Tallymere::SystemSettings settings;
+    const QStringList words = QCoreApplication::arguments().mid(1);
+    return static_cast<int>(Tallymere::runProgram(words, console, settings));
+}

@@ -1,0 +1,76 @@
+#include "cli/masterimport.h"
+
+#include "engine/error.h"
+#include "engine/query.h"
+#include "frame/shared/ruleerror.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+MasterImport::MasterImport(std::unique_ptr<MasterRecord> record)
+    : m_record(std::move(record))
+    , m_names(m_record->table().database())
+{
+    m_record->open();
+}
+
+void MasterImport::add(ImportDocument &document, ImportErrors &errors)
+{
+    const ImportRow &row = document.front();
+    if (row.isBad)
+        return; // a value is missing that the checks would ask for
+    try {
+        addRow(row);
+    } catch (const RuleError &error) {
+        errors.add(row.line, error.message());
+        m_record->cancel();
+    } catch (const Engine::EngineError &error) {
+        if (error.code() != Engine::ErrorCode::BadValue)
+            throw;
+        errors.add(row.line, error.text());
+        m_record->cancel();
+    }
+}
+
+void MasterImport::addRow(const ImportRow &row)
+{
+    beginRecord(row);
+    for (const ImportCell &cell : row.cells)
+        setField(cell);
+    m_record->save();
+}
+
+// A number from the counter may have been given to a record by hand; then the next one is taken.
+void MasterImport::beginRecord(const ImportRow &row)
+{
+    const QString numberField = m_record->kind().numberField;
+    const ImportCell *given = numberField.isEmpty() ? nullptr : row.cell(numberField);
+    if (given && !given->value.isNull())
+        return m_record->newRecord(given->value.toText());
+
+    m_record->newRecord();
+    if (numberField.isEmpty())
+        return;
+    const QString sql = u"SELECT count(*) FROM %1 WHERE %2 = ?"_s.arg(m_record->kind().table, numberField);
+    Engine::Database &database = m_record->table().database();
+    while (Engine::singleValue(database, sql, {m_record->table().value(numberField)}).toInt64() > 0) {
+        m_record->cancel();
+        m_record->newRecord();
+    }
+}
+
+void MasterImport::setField(const ImportCell &cell)
+{
+    if (cell.value.isNull())
+        return;
+    const ImportColumn &column = *cell.column;
+    if (column.lookup)
+        m_record->table().set(column.target, m_names.key(*column.lookup, cell.value.toText()));
+    else if (column.type == Engine::FieldType::Text || column.type == Engine::FieldType::Memo)
+        m_record->table().setText(column.target, cell.value.toText());
+    else
+        m_record->table().set(column.target, cell.value);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "cli/importkind.h"
+#include "cli/keynames.h"
+#include "master/masterrecord.h"
+
+namespace Tallymere {
+
+// Writes rows as records of a master table.
+class MasterImport final : public ImportTarget {
+public:
+    explicit MasterImport(std::unique_ptr<MasterRecord> record);
+
+    void add(ImportDocument &document, ImportErrors &errors) override;
+
+private:
+    void addRow(const ImportRow &row);
+    void beginRecord(const ImportRow &row);
+    void setField(const ImportCell &cell);
+
+    std::unique_ptr<MasterRecord> m_record;
+    KeyNames m_names;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "cli/console.h"
+#include "frame/shared/settingsstore.h"
+
+#include <QStringList>
+
+namespace Tallymere {
+
+enum class ExitStatus {
+    Done = 0,
+    Refused = 1, // by a rule, by bad input or by a lock
+    WrongUsage = 2,
+    EngineFailed = 3, // the database could not be opened, or failed
+};
+
+// Runs the command line (without the program's name) and reports failures on standard error.
+ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore &settings);
+
+} // namespace Tallymere

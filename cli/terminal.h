@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace Tallymere::Terminal {
+
+bool isErrorTerminal(); // standard error goes to a person's terminal
+QString loginName(); // of the account that runs the program; empty when it has none
+QString lastSystemError(); // why the last call of the operating system failed, in its words
+
+} // namespace Tallymere::Terminal

@@ -1,0 +1,179 @@
+#include "cli/command.h"
+#include "cli/csvlist.h"
+#include "data/layouts.h"
+#include "data/transtypes.h"
+#include "engine/table.h"
+#include "frame/shared/formats.h"
+#include "transactions/totalsview.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("ViewCommands", text); }
+
+OptionSpec csvOption() { return {u"csv"_s, {}, tr("writes CSV, which is what is written anyway")}; }
+
+OptionSpec filterOption()
+{
+    return {u"filter"_s, tr("EXPR"), tr("only the rows that meet a condition: \"(WarehouseID = 2)\"")};
+}
+
+QStringList fieldNames(const Engine::TableLayout &layout)
+{
+    QStringList names;
+    for (const Engine::FieldDef &field : layout.fields)
+        names.append(field.name);
+    return names;
+}
+
+TotalsView::Sort totalsSort(const QString &name)
+{
+    if (name == "item"_L1)
+        return TotalsView::Sort::ItemNo;
+    if (name == "description"_L1)
+        return TotalsView::Sort::Description;
+    throw UsageError(tr("option '--sort' takes item or description, not '%1'").arg(name));
+}
+
+void runTotals(CommandContext &context)
+{
+    const TotalsView::Sort sort = totalsSort(context.arguments.value(u"sort"_s, u"item"_s));
+    const auto data = context.openData();
+    TotalsView view(data->databaseTallymere());
+    view.setSort(sort);
+    view.open();
+    filterBy(view.query(), context.arguments.value(u"filter"_s));
+    writeCsvList(
+        view.query(),
+        {u"ItemID"_s, u"WarehouseID"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s, u"QtyOnHand"_s},
+        context.console.output());
+}
+
+// The history with the names that its rows stand for.
+void describeHistory(Engine::Table &history)
+{
+    using Engine::FieldType;
+    history.addCalculated(u"Periodppyyyy"_s, FieldType::Text, 8, [](const Engine::DataSet &row) {
+        return Engine::Value(periodText(row.integer(u"GLPeriod"), row.integer(u"GLYear")));
+    });
+    history.addLookup(u"ItemNo"_s, FieldType::Text, 20, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
+    history.addLookup(u"ItemDescription"_s, FieldType::Text, 40,
+                      {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemDescription"_s});
+    history.addLookup(u"WarehouseName"_s, FieldType::Text, 50,
+                      {u"WarehouseID"_s, u"Warehse"_s, u"WarehouseID"_s, u"WarehouseName"_s});
+    history.addCalculated(u"TransTypeName"_s, FieldType::Text, 12, [](const Engine::DataSet &row) {
+        return Engine::Value(transTypeText(row.integer(u"TransType")));
+    });
+}
+
+void runHistory(CommandContext &context)
+{
+    const auto data = context.openData();
+    Engine::Table history(data->databaseTallymere(), u"IHist"_s);
+    history.readOnly = true;
+    history.setIndex(u"PERIODDATEDESC"_s);
+    describeHistory(history);
+    history.open();
+    filterBy(history, context.arguments.value(u"filter"_s));
+    writeCsvList(history,
+                 fieldNames(Layouts::iHist())
+                     + QStringList{u"Periodppyyyy"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s,
+                                   u"TransTypeName"_s},
+                 context.console.output());
+}
+
+struct ListKind {
+    QString name;
+    const Engine::TableLayout &layout;
+    QString index; // the order of the list on its screen
+};
+
+const QList<ListKind> &listKinds()
+{
+    static const QList<ListKind> kinds = {
+        {u"types"_s, Layouts::itemType(), u"TYPENAME1"_s},
+        {u"items"_s, Layouts::item(), u"ITEMNO"_s},
+        {u"locations"_s, Layouts::warehse(), u"WAREHOUSENAME1"_s},
+        {u"vendors"_s, Layouts::vendor(), u"VENDORNAME1"_s},
+        {u"contacts"_s, Layouts::vContact(), u"VENDORIDFULLNAME"_s},
+        {u"taxes"_s, Layouts::tax(), u"TAXNAME1"_s},
+        {u"currencies"_s, Layouts::currency(), u"CURRENCYNAME1"_s},
+        {u"banks"_s, Layouts::bank(), u"BANKNAME1"_s},
+        {u"receipts"_s, Layouts::iReceipt(), u"PERIODDATEDESC"_s},
+        {u"usage"_s, Layouts::iUsage(), u"INVENTORYDATEUSAGENODESC"_s},
+        {u"adjustments"_s, Layouts::iAdjust(), u"PERIODDATEDESC"_s},
+    };
+    return kinds;
+}
+
+QString listKindNames()
+{
+    QStringList names;
+    for (const ListKind &kind : listKinds())
+        names.append(kind.name);
+    return names.join(", "_L1);
+}
+
+const ListKind &requireListKind(const QString &name)
+{
+    for (const ListKind &kind : listKinds()) {
+        if (kind.name == name)
+            return kind;
+    }
+    throw UsageError(tr("'list' knows no '%1', but: %2").arg(name, listKindNames()));
+}
+
+void runList(CommandContext &context)
+{
+    const ListKind &kind = requireListKind(context.arguments.words().at(1));
+    const auto data = context.openData();
+    Engine::Table table(data->databaseTallymere(), kind.layout.name);
+    table.readOnly = true;
+    table.setIndex(kind.index);
+    table.open();
+    filterBy(table, context.arguments.value(u"filter"_s));
+    writeCsvList(table, fieldNames(kind.layout), context.console.output());
+}
+
+} // namespace
+
+Command totalsCommand()
+{
+    Command command;
+    command.name = u"totals"_s;
+    command.summary = tr("the quantity on hand of every item at every location, as CSV");
+    command.options = {
+        csvOption(), filterOption(), {u"sort"_s, tr("ORDER"), tr("item (by number, the default) or description")}};
+    command.run = runTotals;
+    return command;
+}
+
+Command historyCommand()
+{
+    Command command;
+    command.name = u"history"_s;
+    command.summary = tr("every movement of stock, latest period first, as CSV");
+    command.options = {csvOption(), filterOption()};
+    command.run = runHistory;
+    return command;
+}
+
+Command listCommand()
+{
+    Command command;
+    command.name = u"list"_s;
+    command.words = u"KIND"_s;
+    command.fewestWords = command.mostWords = 1;
+    command.summary = tr("a list of master records or documents as CSV, all fields");
+    command.details = tr("KIND: %1").arg(listKindNames());
+    command.options = {csvOption(), filterOption()};
+    command.run = runList;
+    return command;
+}
+
+} // namespace Tallymere

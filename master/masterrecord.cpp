@@ -1,0 +1,135 @@
+#include "master/masterrecord.h"
+
+#include "data/numbercounter.h"
+#include "engine/error.h"
+#include "engine/query.h"
+#include "frame/shared/ruleerror.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr qint64 firstNumber = 1001;
+constexpr qint64 lastNumber = 10'000'000;
+constexpr qint64 firstKey = 10'000;
+
+} // namespace
+
+MasterRecord::MasterRecord(Engine::Database &database, MasterKind kind)
+    : m_kind(std::move(kind))
+    , m_table(database, m_kind.table)
+{
+    if (!m_kind.numberField.isEmpty())
+        m_table.uniqueFields = {m_kind.numberField};
+    m_table.events.newRecord = [this] {
+        assignIdentity();
+        for (const MasterKind::Default &preset : m_kind.defaults)
+            m_table.setDefault(preset.field, preset.value);
+        presetNew();
+    };
+    m_table.events.beforePost = [this] { checkAll(); };
+}
+
+MasterRecord::~MasterRecord() = default;
+
+void MasterRecord::open()
+{
+    m_table.open();
+    configureFields();
+}
+
+void MasterRecord::newRecord(const QString &number)
+{
+    m_givenNumber = number;
+    m_table.insert();
+}
+
+bool MasterRecord::openRecord(int key)
+{
+    m_table.setIndex({});
+    return m_table.findKey({key});
+}
+
+void MasterRecord::save()
+{
+    if (!m_table.isEditing())
+        return;
+    try {
+        m_table.post();
+    } catch (const Engine::EngineError &error) {
+        if (error.code() != Engine::ErrorCode::KeyViolation || m_kind.taken.isEmpty())
+            throw;
+        throw RuleError(m_kind.taken, m_kind.numberField);
+    }
+    m_table.flush();
+}
+
+void MasterRecord::cancel()
+{
+    if (m_table.isEditing())
+        m_table.cancel();
+}
+
+// A control table that stays out of reach leaves the record without a number; the check before saving asks for one.
+void MasterRecord::assignIdentity()
+{
+    if (m_kind.counterTable.isEmpty())
+        return;
+    try {
+        takeNumbers(database(), m_kind.counterTable, [this](CounterRow &counters) {
+            if (m_givenNumber.isEmpty()) {
+                counters.restartOutside(m_kind.numberCounter, firstNumber, lastNumber, firstNumber);
+                m_table.setDefault(m_kind.numberField, QString::number(counters.take(m_kind.numberCounter)));
+            } else {
+                m_table.setDefault(m_kind.numberField, m_givenNumber);
+            }
+            counters.restartWhenZero(m_kind.keyCounter, firstKey);
+            m_table.setDefault(m_kind.keyField, counters.take(m_kind.keyCounter));
+        });
+    } catch (const Engine::EngineError &error) {
+        if (error.code() != Engine::ErrorCode::TableInUse)
+            throw;
+    }
+}
+
+// Without counter the key is found when the record is written, so that two users who enter at the same time are
+// told apart by the key violation at the latest.
+void MasterRecord::assignHighestKey()
+{
+    const QString highest = u"SELECT max(%1) FROM %2"_s.arg(m_kind.keyField, m_kind.table);
+    m_table.set(m_kind.keyField, Engine::singleValue(database(), highest).toInt64() + 1);
+}
+
+void MasterRecord::checkAll()
+{
+    for (const MasterKind::Required &required : m_kind.required) {
+        if (isEmpty(required.field))
+            throw RuleError(required.message, required.field);
+    }
+    check();
+    for (const MasterKind::Reference &reference : m_kind.references)
+        requireReference(reference);
+
+    const bool countsKeys = m_kind.counterTable.isEmpty() && !m_kind.keyByEngine;
+    if (countsKeys && m_table.state() == Engine::TableState::Insert)
+        assignHighestKey();
+}
+
+bool MasterRecord::isEmpty(const QString &field) const
+{
+    const Engine::Value value = m_table.value(field);
+    if (std::holds_alternative<QString>(value.storage()))
+        return value.toText().isEmpty();
+    return value.isNull() || (!std::holds_alternative<bool>(value.storage()) && value.toDouble() == 0);
+}
+
+void MasterRecord::requireReference(const MasterKind::Reference &reference) const
+{
+    const QString sql = u"SELECT count(*) FROM %1 WHERE %2 = ?"_s.arg(reference.table, reference.field);
+    if (Engine::singleValue(database(), sql, {m_table.value(reference.field)}).toInt64() == 0)
+        throw RuleError(reference.message, reference.field);
+}
+
+} // namespace Tallymere
