@@ -1,6 +1,9 @@
 #include "engine/database.h"
 
 #include "engine/error.h"
+#include "engine/postgresconnection.h"
+#include "engine/postgreserror.h"
+#include "engine/postgreslocks.h"
 #include "engine/session.h"
 #include "engine/sqliteconnection.h"
 
@@ -40,6 +43,32 @@ std::unique_ptr<Connection> openLocal(const Database &database)
     return std::make_unique<SqliteConnection>(path, missing, database.session().applicationUser);
 }
 
+PostgresTarget targetOf(const Database &database)
+{
+    const Session &session = database.session();
+    PostgresTarget target;
+    target.host = session.remoteAddress;
+    target.database = (database.remoteName.isEmpty() ? database.name() : database.remoteName).toLower();
+    target.user = session.remoteUser;
+    target.password = session.remotePassword;
+    target.requireTls = session.remoteLink == LinkType::Internet;
+    target.applicationName = PostgresLocks::applicationName(session.applicationUser);
+    return target;
+}
+
+std::unique_ptr<Connection> openRemote(const Database &database)
+{
+    const PostgresTarget target = targetOf(database);
+    try {
+        return std::make_unique<PostgresConnection>(target);
+    } catch (const EngineError &error) {
+        if (!database.createIfMissing || !isMissingDatabase(error))
+            throw;
+    }
+    createRemoteDatabase(target);
+    return std::make_unique<PostgresConnection>(target);
+}
+
 } // namespace
 
 Database::Database(Session &session, QString name)
@@ -68,7 +97,7 @@ Connection &Database::connection()
     m_session.start();
     if (onBeforeConnect)
         onBeforeConnect(*this);
-    m_connection = openLocal(*this);
+    m_connection = m_session.type == SessionType::Local ? openLocal(*this) : openRemote(*this);
     return *m_connection;
 }
 

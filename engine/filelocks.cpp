@@ -51,16 +51,6 @@ qint64 recordByte(const QString &table, const QList<qint64> &key)
 
 } // namespace
 
-QString LockOwner::description() const
-{
-    QString text = user.isEmpty() ? QCoreApplication::translate("Engine", "another user") : user;
-    if (!host.isEmpty())
-        text = QCoreApplication::translate("Engine", "%1 on %2").arg(text, host);
-    if (processId > 0)
-        text = QCoreApplication::translate("Engine", "%1 (process %2)").arg(text).arg(processId);
-    return text;
-}
-
 FileLocks::FileLocks(const QString &path, const QString &user)
     : m_file(path.isEmpty() ? nullptr : std::make_unique<RangeLockFile>(path))
     , m_user(user.isEmpty() && m_file ? systemUserName() : user)
@@ -80,130 +70,42 @@ void FileLocks::freeRange(qint64 from, qint64 count)
         m_file->unlock(from, count);
 }
 
-FileLocks::Held *FileLocks::held(const QString &table)
+bool FileLocks::changeOpen(const QString &table, OpenMode, OpenMode to)
 {
-    const auto found = m_held.find(table.toLower());
-    return found == m_held.end() ? nullptr : &found->second;
-}
-
-void FileLocks::forgetIfFree(const QString &table)
-{
-    const auto found = m_held.find(table.toLower());
-    if (found != m_held.end() && found->second.isFree())
-        m_held.erase(found);
-}
-
-bool FileLocks::tryOpenShared(const QString &table)
-{
-    Held &own = m_held[table.toLower()];
-    const bool covered = own.shared > 0 || own.exclusive > 0;
-    if (!covered && !tryRange(openByte(table.toLower()), 1, RangeLockFile::Mode::Shared)) {
-        forgetIfFree(table);
-        return false;
+    if (to == OpenMode::None) {
+        freeRange(openByte(table), 1);
+        return true;
     }
-    ++own.shared;
-    return true;
+    return tryRange(openByte(table), 1,
+                    to == OpenMode::Shared ? RangeLockFile::Mode::Shared : RangeLockFile::Mode::Exclusive);
 }
 
-void FileLocks::closeShared(const QString &table)
+qint64 FileLocks::placeOf(const QString &table, const QList<qint64> &key) const { return recordByte(table, key); }
+
+bool FileLocks::acquireRecord(const QString &, qint64 place, bool tableHeld)
 {
-    Held *own = held(table);
-    if (!own || own->shared == 0)
-        return;
-    if (--own->shared == 0 && own->exclusive == 0)
-        freeRange(openByte(table.toLower()), 1);
-    forgetIfFree(table);
+    return tableHeld || tryRange(place, 1, RangeLockFile::Mode::Exclusive);
 }
 
-bool FileLocks::tryOpenExclusive(const QString &table)
+void FileLocks::releaseRecord(const QString &, qint64 place, bool tableHeld)
 {
-    Held &own = m_held[table.toLower()];
-    if (own.exclusive == 0 && !tryRange(openByte(table.toLower()), 1, RangeLockFile::Mode::Exclusive)) {
-        forgetIfFree(table);
-        return false;
-    }
-    ++own.exclusive;
-    return true;
+    if (!tableHeld) // else the byte belongs to the table lock
+        freeRange(place, 1);
 }
 
-void FileLocks::closeExclusive(const QString &table)
+bool FileLocks::acquireTable(const QString &table)
 {
-    Held *own = held(table);
-    if (!own || own->exclusive == 0)
-        return;
-    if (--own->exclusive == 0) {
-        if (own->shared > 0)
-            tryRange(openByte(table.toLower()), 1, RangeLockFile::Mode::Shared);
-        else
-            freeRange(openByte(table.toLower()), 1);
-    }
-    forgetIfFree(table);
+    return tryRange(firstRecordByte(table), stretch - 1, RangeLockFile::Mode::Exclusive);
 }
 
-bool FileLocks::tryLockRecord(const QString &table, const QList<qint64> &key)
+void FileLocks::releaseTable(const QString &table, const std::set<qint64> &records)
 {
-    const qint64 byte = recordByte(table.toLower(), key);
-    Held &own = m_held[table.toLower()];
-    const bool taken =
-        own.records.contains(byte) || (own.table == 0 && !tryRange(byte, 1, RangeLockFile::Mode::Exclusive));
-    if (taken) {
-        forgetIfFree(table);
-        return false;
-    }
-    own.records.insert(byte);
-    if (own.table == 0 && own.records.size() == 1)
-        writeNote();
-    return true;
-}
-
-void FileLocks::unlockRecord(const QString &table, const QList<qint64> &key)
-{
-    Held *own = held(table);
-    const qint64 byte = recordByte(table.toLower(), key);
-    if (!own || own->records.erase(byte) == 0)
-        return;
-    if (own->table == 0) // else the byte belongs to the table lock
-        freeRange(byte, 1);
-    const bool last = !own->hasLocks();
-    forgetIfFree(table);
-    if (last)
-        writeNote();
-}
-
-bool FileLocks::tryLockTable(const QString &table)
-{
-    Held &own = m_held[table.toLower()];
-    if (own.table == 0
-        && !tryRange(firstRecordByte(table.toLower()), stretch - 1, RangeLockFile::Mode::Exclusive)) {
-        forgetIfFree(table);
-        return false;
-    }
-    if (++own.table == 1)
-        writeNote();
-    return true;
-}
-
-void FileLocks::unlockTable(const QString &table)
-{
-    Held *own = held(table);
-    if (!own || own->table == 0 || --own->table > 0)
-        return;
-    // All bytes but those of records that are still being edited.
-    const qint64 end = openByte(table.toLower()) + stretch;
-    qint64 from = firstRecordByte(table.toLower());
-    for (const qint64 byte : own->records) {
+    qint64 from = firstRecordByte(table);
+    for (const qint64 byte : records) {
         freeRange(from, byte - from);
         from = byte + 1;
     }
-    freeRange(from, end - from);
-    forgetIfFree(table);
-    writeNote();
-}
-
-bool FileLocks::holdsTable(const QString &table) const
-{
-    const auto found = m_held.find(table.toLower());
-    return found != m_held.end() && found->second.table > 0;
+    freeRange(from, openByte(table) + stretch - from);
 }
 
 void FileLocks::takeNote()
@@ -214,7 +116,7 @@ void FileLocks::takeNote()
     }
 }
 
-void FileLocks::writeNote()
+void FileLocks::changed()
 {
     if (!m_file)
         return;
@@ -223,9 +125,9 @@ void FileLocks::writeNote()
     if (m_note < 0)
         return; // more users than notes: their locks hold, only their names stay unknown
     QStringList parts{m_user, QSysInfo::machineHostName(), QString::number(QCoreApplication::applicationPid())};
-    for (const auto &[table, own] : m_held) {
-        if (own.hasLocks())
-            parts << (own.table > 0 ? "*"_L1 : ""_L1) + table;
+    for (const auto &[table, held] : everything()) {
+        if (held.keepsOthersFromWriting())
+            parts << (held.table > 0 ? "*"_L1 : ""_L1) + table;
     }
     QByteArray bytes = parts.join(u'\t').toUtf8().left(noteSize - 1) + '\n';
     m_file->write(qint64(m_note) * noteSize, bytes.leftJustified(noteSize, ' '));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <QString>
 #include <QtGlobal>
 
@@ -11,6 +12,9 @@ namespace Engine {
 bool isLocalFileSystem(const QString &path);
 
 QString systemUserName();
+
+// Waits until the socket can be read, or written; false when the time has passed.
+bool waitForSocket(int socket, bool forWriting, std::chrono::milliseconds time);
 
 // A file for locks on ranges of bytes. The locks belong to this object alone, whatever else the process has open,
 // and go with it or with the process. Ranges may lie far beyond the end of the file.

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <poll.h>
 #include <pwd.h>
 #include <QCoreApplication>
 #include <QFile>
@@ -74,6 +75,16 @@ QString systemUserName()
 {
     const passwd *entry = getpwuid(geteuid());
     return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(geteuid());
+}
+
+bool waitForSocket(int socket, bool forWriting, std::chrono::milliseconds time)
+{
+    struct pollfd state = {socket, static_cast<short>(forWriting ? POLLOUT : POLLIN), 0};
+    int result = 0;
+    do {
+        result = poll(&state, 1, static_cast<int>(time.count()));
+    } while (result < 0 && errno == EINTR);
+    return result > 0;
 }
 
 RangeLockFile::RangeLockFile(const QString &path)

@@ -52,6 +52,12 @@ QString quoted(const QString &identifier)
     return u'"' + inner.replace(u'"', QLatin1StringView("\"\"")) + u'"';
 }
 
+QString textLiteral(const QString &text)
+{
+    QString inner = text;
+    return u'\'' + inner.replace(u'\'', QLatin1StringView("''")) + u'\'';
+}
+
 QString quotedIfReserved(const QString &identifier)
 {
     return isPlainWord(identifier) && !reserved().contains(identifier.toLower()) ? identifier : quoted(identifier);

@@ -10,4 +10,6 @@ QString quoted(const QString &identifier); // "User", with quotes inside doubled
 // stores, so that texts written for one read the same for the other.
 QString quotedIfReserved(const QString &identifier);
 
+QString textLiteral(const QString &text); // 'text', with quotes inside doubled
+
 } // namespace Engine

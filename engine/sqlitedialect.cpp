@@ -41,8 +41,6 @@ bool isPrimaryOver(const TableLayout &layout, const QString &field)
         && !layout.primary()->options.testFlag(IndexOption::Descending);
 }
 
-QString textLiteral(QString text) { return u'\'' + text.replace(u'\'', "''"_L1) + u'\''; }
-
 // SQLite has no test for numbers and dates: a date is one that comes back unchanged from being understood.
 constexpr ConversionTexts conversions{
     .wholeNumber = "CAST(%1 AS INTEGER)",
@@ -204,6 +202,25 @@ QString SqliteDialect::rowIdentity() const { return u"rowid"_s; }
 QString SqliteDialect::inNumberList(const QString &column) const
 {
     return column + " IN (SELECT value FROM json_each(?))"_L1;
+}
+
+// LIKE would ignore the case of letters, GLOB does not.
+QString SqliteDialect::like(const QString &column) const { return column + " GLOB ?"_L1; }
+
+QString SqliteDialect::likePattern(const QString &pattern) const
+{
+    QString glob;
+    for (const QChar c : pattern) {
+        if (c == u'%')
+            glob += u'*';
+        else if (c == u'_')
+            glob += u'?';
+        else if (c == u'*' || c == u'?' || c == u'[')
+            glob += u'[' + QString(c) + u']';
+        else
+            glob += c;
+    }
+    return glob;
 }
 
 } // namespace Engine

@@ -18,6 +18,8 @@ public:
     QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
     QString rowIdentity() const override;
     QString inNumberList(const QString &column) const override;
+    QString like(const QString &column) const override;
+    QString likePattern(const QString &pattern) const override;
 
     // The type and size that a declared column type stands for; the name is left empty.
     static FieldDef fieldType(const QString &declared);

@@ -1,0 +1,134 @@
+#include "engine/countedlocks.h"
+
+#include <QCoreApplication>
+
+namespace Engine {
+
+QString LockOwner::description() const
+{
+    QString text = user.isEmpty() ? QCoreApplication::translate("Engine", "another user") : user;
+    if (!host.isEmpty())
+        text = QCoreApplication::translate("Engine", "%1 on %2").arg(text, host);
+    if (processId > 0)
+        text = QCoreApplication::translate("Engine", "%1 (process %2)").arg(text).arg(processId);
+    return text;
+}
+
+CountedLocks::Held *CountedLocks::find(const QString &name)
+{
+    const auto found = m_held.find(name);
+    return found == m_held.end() ? nullptr : &found->second;
+}
+
+void CountedLocks::settle(const QString &name)
+{
+    const Held *held = find(name);
+    if (held && held->isFree())
+        m_held.erase(name);
+}
+
+bool CountedLocks::tryOpenShared(const QString &table)
+{
+    const QString name = table.toLower();
+    const Held *held = find(name);
+    const bool covered = held && (held->shared > 0 || held->exclusive > 0);
+    if (!covered && !changeOpen(name, OpenMode::None, OpenMode::Shared))
+        return false;
+    ++m_held[name].shared;
+    return true;
+}
+
+void CountedLocks::closeShared(const QString &table)
+{
+    const QString name = table.toLower();
+    Held *held = find(name);
+    if (!held || held->shared == 0)
+        return;
+    if (--held->shared == 0 && held->exclusive == 0)
+        changeOpen(name, OpenMode::Shared, OpenMode::None);
+    settle(name);
+}
+
+bool CountedLocks::tryOpenExclusive(const QString &table)
+{
+    const QString name = table.toLower();
+    const Held *held = find(name);
+    const OpenMode before = held && held->shared > 0 ? OpenMode::Shared : OpenMode::None;
+    const bool covered = held && held->exclusive > 0;
+    if (!covered && !changeOpen(name, before, OpenMode::Exclusive))
+        return false;
+    ++m_held[name].exclusive;
+    return true;
+}
+
+void CountedLocks::closeExclusive(const QString &table)
+{
+    const QString name = table.toLower();
+    Held *held = find(name);
+    if (!held || held->exclusive == 0)
+        return;
+    if (--held->exclusive == 0)
+        changeOpen(name, OpenMode::Exclusive, held->shared > 0 ? OpenMode::Shared : OpenMode::None);
+    settle(name);
+}
+
+bool CountedLocks::tryLockRecord(const QString &table, const QList<qint64> &key)
+{
+    const QString name = table.toLower();
+    const qint64 place = placeOf(name, key);
+    const Held *held = find(name);
+    if (held && held->records.contains(place))
+        return false;
+    if (!acquireRecord(name, place, held && held->table > 0))
+        return false;
+    Held &now = m_held[name];
+    now.records.insert(place);
+    if (now.table == 0 && now.records.size() == 1)
+        changed();
+    return true;
+}
+
+void CountedLocks::unlockRecord(const QString &table, const QList<qint64> &key)
+{
+    const QString name = table.toLower();
+    const qint64 place = placeOf(name, key);
+    Held *held = find(name);
+    if (!held || held->records.erase(place) == 0)
+        return;
+    releaseRecord(name, place, held->table > 0);
+    const bool last = !held->keepsOthersFromWriting();
+    settle(name);
+    if (last)
+        changed();
+}
+
+bool CountedLocks::tryLockTable(const QString &table)
+{
+    const QString name = table.toLower();
+    const Held *held = find(name);
+    const bool covered = held && held->table > 0;
+    if (!covered && !acquireTable(name))
+        return false;
+    if (++m_held[name].table == 1)
+        changed();
+    return true;
+}
+
+void CountedLocks::unlockTable(const QString &table)
+{
+    const QString name = table.toLower();
+    Held *held = find(name);
+    if (!held || held->table == 0 || --held->table > 0)
+        return;
+    releaseTable(name, held->records);
+    settle(name);
+    changed();
+}
+
+bool CountedLocks::holdsTable(const QString &table) const
+{
+    const auto found = m_held.find(table.toLower());
+    return found != m_held.end() && found->second.table > 0;
+}
+
+} // namespace Engine

@@ -1,0 +1,161 @@
+#include "engine/platform.h"
+#include "engine/postgreserror.h"
+#include "engine/postgreslink.h"
+#include "engine/reservedwords.h"
+
+#include <chrono>
+#include <libpq-fe.h>
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+constexpr std::chrono::seconds connectTimeout{10};
+
+// The words and values of PQconnectStartParams, kept for the time of the call.
+class Parameters {
+public:
+    void add(const char *keyword, const QString &value)
+    {
+        m_keywords.push_back(keyword);
+        m_texts.push_back(value.toUtf8());
+    }
+    pg_conn *start()
+    {
+        std::vector<const char *> values;
+        for (const QByteArray &text : m_texts)
+            values.push_back(text.constData());
+        values.push_back(nullptr);
+        m_keywords.push_back(nullptr);
+        return PQconnectStartParams(m_keywords.data(), values.data(), 0);
+    }
+
+private:
+    std::vector<const char *> m_keywords;
+    std::vector<QByteArray> m_texts;
+};
+
+bool isSet(const char *variable) { return !qEnvironmentVariableIsEmpty(variable); }
+
+Parameters parametersOf(const PostgresTarget &target)
+{
+    Parameters parameters;
+    parameters.add("host", target.host);
+    parameters.add("dbname", target.database);
+    if (!isSet("PGUSER"))
+        parameters.add("user", target.user);
+    // A password given here would silence the password file, so it goes only with the account given here.
+    if (!isSet("PGUSER") && !isSet("PGPASSWORD") && !isSet("PGPASSFILE"))
+        parameters.add("password", target.password);
+    const QString chosenMode = qEnvironmentVariable("PGSSLMODE");
+    const bool strict = QStringList{u"require"_s, u"verify-ca"_s, u"verify-full"_s}.contains(chosenMode);
+    if (target.requireTls && !strict)
+        parameters.add("sslmode", u"require"_s);
+    else if (!target.requireTls && chosenMode.isEmpty())
+        parameters.add("sslmode", u"prefer"_s);
+    parameters.add("client_encoding", u"UTF8"_s);
+    parameters.add("application_name", target.applicationName);
+    parameters.add("keepalives_idle", u"30"_s);
+    parameters.add("tcp_user_timeout", u"20000"_s);
+    return parameters;
+}
+
+void ignoreNotice(void *, const PGresult *) { }
+
+// Waits for the server without trusting every address of it to answer in time.
+bool awaitConnection(pg_conn *handle)
+{
+    const auto deadline = std::chrono::steady_clock::now() + connectTimeout;
+    PostgresPollingStatusType state = PGRES_POLLING_WRITING;
+    while (state == PGRES_POLLING_READING || state == PGRES_POLLING_WRITING) {
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left.count() <= 0 || !waitForSocket(PQsocket(handle), state == PGRES_POLLING_WRITING, left))
+            return false;
+        state = PQconnectPoll(handle);
+    }
+    return state == PGRES_POLLING_OK;
+}
+
+// "FATAL:  28P01: password authentication failed ..." among the lines of a verbose message.
+EngineError connectError(pg_conn *handle, const PostgresTarget &target)
+{
+    const QString message = QString::fromUtf8(PQerrorMessage(handle)).trimmed();
+    static const QRegularExpression pattern(u"[A-Z]+:\\s+([0-9A-Z]{5}):\\s*([^\\n]*)"_s);
+    QRegularExpressionMatch match;
+    QRegularExpressionMatchIterator matches = pattern.globalMatch(message);
+    while (matches.hasNext())
+        match = matches.next();
+    if (match.hasMatch())
+        return postgresError(match.captured(1).toLatin1(), match.captured(2), {}, target.location());
+    const QString reason = message.isEmpty()
+        ? QCoreApplication::translate("Engine", "no answer within %n second(s)", nullptr,
+                                      static_cast<int>(connectTimeout.count()))
+        : message.section(u'\n', 0, 0);
+    return EngineError(
+        ErrorCode::CannotOpen,
+        QCoreApplication::translate("Engine",
+                                    "The %1 cannot be reached (%2). Check the address in the settings, "
+                                    "the network, and that the server runs.")
+            .arg(target.location(), reason),
+        message);
+}
+
+// From the first byte of the connection on, so that libpq gives the codes of failures too.
+pg_conn *opened(const PostgresTarget &target)
+{
+    if (target.host.isEmpty())
+        throw EngineError(
+            ErrorCode::CannotOpen,
+            QCoreApplication::translate("Engine", "No server address has been set. Enter it in the settings."));
+    pg_conn *handle = parametersOf(target).start();
+    if (handle)
+        PQsetErrorVerbosity(handle, PQERRORS_VERBOSE);
+    if (handle && PQstatus(handle) != CONNECTION_BAD && awaitConnection(handle)) {
+        PQsetErrorVerbosity(handle, PQERRORS_DEFAULT);
+        PQsetNoticeReceiver(handle, ignoreNotice, nullptr);
+        return handle;
+    }
+    const EngineError error = connectError(handle, target);
+    PQfinish(handle);
+    throw error;
+}
+
+} // namespace
+
+QString PostgresTarget::location() const
+{
+    return QCoreApplication::translate("Engine", "database \"%1\" on the server %2").arg(database, host);
+}
+
+void PostgresLink::connect()
+{
+    PQfinish(m_handle);
+    m_handle = nullptr;
+    m_handle = opened(m_target);
+    ++m_generation;
+    m_stale.clear();
+    m_pending = 0;
+    m_reader = nullptr;
+    m_failure.reset();
+    run("SET datestyle = ISO; SET standard_conforming_strings = on; SET search_path = public");
+    // Lets the server see a killed client while it works for it, so that its locks go at once. Not every system
+    // that PostgreSQL runs on can do that.
+    PQclear(PQexec(m_handle, "SET client_connection_check_interval = '1s'"));
+}
+
+void createRemoteDatabase(const PostgresTarget &target)
+{
+    PostgresTarget maintenance = target;
+    maintenance.database = u"postgres"_s;
+    PostgresLink link(maintenance);
+    const QString statement =
+        u"CREATE DATABASE %1 ENCODING 'UTF8' LC_COLLATE 'C' LC_CTYPE 'C' TEMPLATE template0"_s;
+    link.run(statement.arg(quoted(target.database)).toUtf8());
+}
+
+} // namespace Engine

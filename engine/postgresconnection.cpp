@@ -1,0 +1,62 @@
+#include "engine/postgresconnection.h"
+
+#include "engine/postgreslocks.h"
+#include "engine/postgresstatement.h"
+
+#include <libpq-fe.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+PostgresConnection::PostgresConnection(const PostgresTarget &target)
+    : m_link(std::make_shared<PostgresLink>(target))
+    , m_locks(std::make_unique<PostgresLocks>(*this))
+{
+    m_link->mayReconnect = [this] { return m_locks->mayReconnect(); };
+    m_link->reconnected = [this] { m_locks->reacquireOpen(); };
+}
+
+PostgresConnection::~PostgresConnection()
+{
+    m_link->mayReconnect = [] { return false; }; // statements that live on do not connect again
+    clearStatementCache();
+}
+
+void PostgresConnection::execute(const QString &script)
+{
+    m_link->prepareFor(nullptr);
+    m_link->leavePipeline();
+    m_link->run(script.toUtf8());
+}
+
+void PostgresConnection::drain() { m_link->leavePipeline(); }
+
+void PostgresConnection::commit()
+{
+    m_link->commit();
+    m_locks->releaseDeferred();
+}
+
+void PostgresConnection::rollback() noexcept
+{
+    m_link->rollback();
+    m_locks->releaseDeferred();
+}
+
+qint64 PostgresConnection::lastInsertId()
+{
+    const StatementPtr statement = prepare(u"SELECT lastval()"_s);
+    return statement->next() ? statement->intAt(0) : 0;
+}
+
+LockManager &PostgresConnection::locks() { return *m_locks; }
+
+bool PostgresConnection::isLost() const { return PQstatus(m_link->handle()) == CONNECTION_BAD; }
+
+std::unique_ptr<Statement> PostgresConnection::createStatement(const QString &sql)
+{
+    return std::make_unique<PostgresStatement>(m_link, sql);
+}
+
+} // namespace Engine

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "engine/driver.h"
+#include "engine/postgresdialect.h"
+#include "engine/postgreslink.h"
+
+namespace Engine {
+
+class PostgresLocks;
+
+// A database of a server. Record and table locks are advisory locks of the same connection.
+class PostgresConnection final : public Connection {
+public:
+    explicit PostgresConnection(const PostgresTarget &target); // connects
+    ~PostgresConnection() override;
+
+    const Dialect &dialect() const override { return m_dialect; }
+    QString location() const override { return m_link->location(); }
+    void execute(const QString &script) override;
+    void drain() override;
+    void begin() override { m_link->begin(); }
+    void commit() override;
+    void rollback() noexcept override;
+    bool inTransaction() const override { return m_link->inTransaction(); }
+    std::optional<TableLayout> describe(const QString &table) override;
+    QStringList tableNames() override;
+    qint64 repair(const TableLayout &table) override;
+    qint64 lastInsertId() override;
+    LockManager &locks() override;
+
+    bool isTransactionFailed() const { return m_link->isTransactionFailed(); }
+    bool isLost() const;
+
+protected:
+    std::unique_ptr<Statement> createStatement(const QString &sql) override;
+
+private:
+    PostgresDialect m_dialect;
+    std::shared_ptr<PostgresLink> m_link; // shared with statements that outlive the connection
+    std::unique_ptr<PostgresLocks> m_locks;
+};
+
+} // namespace Engine

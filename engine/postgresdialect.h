@@ -1,0 +1,30 @@
+#pragma once
+
+#include "engine/dialect.h"
+
+namespace Engine {
+
+class PostgresDialect final : public Dialect {
+public:
+    QString name(const QString &identifier) const override;
+    QString columnType(const FieldDef &field) const override;
+    QStringList createTable(const TableLayout &layout) const override;
+    QStringList createIndexes(const TableLayout &layout) const override;
+    QString dropIndex(const QString &table, const IndexDef &index) const override;
+    QString converted(const QString &column, FieldType from, const FieldDef &to) const override;
+    QStringList continueAutoIncrement(const QString &oldTable, const QString &newTable,
+                                      const QString &field) const override;
+    QString foldCase(const QString &column) const override;
+    QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
+    QString rowIdentity() const override;
+    QString inNumberList(const QString &column) const override;
+
+    // The server knows names in lower case and one type for money and floats. The comment of a column keeps the
+    // spelling, and the comment of a money column ends so.
+    static constexpr QLatin1StringView moneyMark{" (money)"};
+
+private:
+    QString keyClause(const TableLayout &layout, const IndexDef &index) const;
+};
+
+} // namespace Engine

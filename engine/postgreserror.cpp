@@ -1,0 +1,92 @@
+#include "engine/postgreserror.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+struct Mapping {
+    const char *sqlState; // whole codes first, then the two characters of a class
+    ErrorCode code;
+    const char *text; // %1 the server and database, %2 what the server says
+};
+
+const char *const keyText = QT_TRANSLATE_NOOP("Engine", "The record exists already (%2).");
+const char *const valueText = QT_TRANSLATE_NOOP("Engine", "A value does not fit its field (%2).");
+const char *const brokenText =
+    QT_TRANSLATE_NOOP("Engine", "The %1 is damaged. Have the table repaired, or restore the last backup. (%2)");
+const char *const busyText =
+    QT_TRANSLATE_NOOP("Engine", "The %1 is being written by another user. Try again in a moment.");
+const char *const accessText =
+    QT_TRANSLATE_NOOP("Engine", "The %1 refuses access: %2. Check the account and its rights.");
+const char *const unreachableText = QT_TRANSLATE_NOOP("Engine", "The %1 cannot be opened: %2.");
+
+const Mapping mappings[] = {
+    {"23505", ErrorCode::KeyViolation, keyText},
+    {"23502", ErrorCode::RequiredField, QT_TRANSLATE_NOOP("Engine", "A key field is empty (%2).")},
+    {"23", ErrorCode::BadValue, QT_TRANSLATE_NOOP("Engine", "A value is not allowed (%2).")},
+    {"22", ErrorCode::BadValue, valueText},
+    {"42P01", ErrorCode::NoSuchTable, QT_TRANSLATE_NOOP("Engine", "There is no such table (%2).")},
+    {"42703", ErrorCode::NoSuchField, QT_TRANSLATE_NOOP("Engine", "There is no such field (%2).")},
+    {"42501", ErrorCode::AccessDenied, accessText},
+    {"28", ErrorCode::AccessDenied, accessText},
+    {"3D000", ErrorCode::CannotOpen,
+     QT_TRANSLATE_NOOP("Engine",
+                       "There is no %1. Check the settings, or make the database with \"tallymere init\".")},
+    {"55P03", ErrorCode::Busy, busyText},
+    {"40", ErrorCode::Busy, busyText},
+    {"25006", ErrorCode::ReadOnly, QT_TRANSLATE_NOOP("Engine", "The %1 can only be read at the moment (%2).")},
+    {"53100", ErrorCode::DiskFull,
+     QT_TRANSLATE_NOOP("Engine", "The disk of the %1 is full. The changes were undone. Make room and try again.")},
+    {"53", ErrorCode::CannotOpen,
+     QT_TRANSLATE_NOOP("Engine", "The %1 has no room for more users or locks: %2. Try again later.")},
+    {"57P03", ErrorCode::CannotOpen, unreachableText},
+    {"XX001", ErrorCode::Corrupt, brokenText},
+    {"XX002", ErrorCode::Corrupt, brokenText},
+};
+
+const Mapping *mappingOf(const QByteArray &sqlState)
+{
+    for (const Mapping &mapping : mappings) {
+        if (sqlState.startsWith(mapping.sqlState))
+            return &mapping;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+EngineError postgresError(const QByteArray &sqlState, const QString &words, const QString &detail,
+                          const QString &location)
+{
+    const QString driverText =
+        u"PostgreSQL %1: %2 %3"_s.arg(QString::fromLatin1(sqlState), words, detail).trimmed();
+    if (sqlState.startsWith("57P01") || sqlState.startsWith("57P02"))
+        return connectionLost(location, driverText);
+    const Mapping *mapping = mappingOf(sqlState);
+    if (!mapping)
+        return EngineError(ErrorCode::General,
+                           QCoreApplication::translate("Engine", "The %1 reports: %2").arg(location, words),
+                           driverText);
+    QString text = QCoreApplication::translate("Engine", mapping->text);
+    text.replace("%1"_L1, location).replace("%2"_L1, detail.isEmpty() ? words : detail);
+    return EngineError(mapping->code, text, driverText);
+}
+
+bool isMissingDatabase(const EngineError &error) { return error.driverText().startsWith("PostgreSQL 3D000"_L1); }
+
+EngineError connectionLost(const QString &location, const QString &words)
+{
+    return EngineError(
+        ErrorCode::ConnectionLost,
+        QCoreApplication::translate("Engine",
+                                    "The connection to the %1 was lost. Nothing that was saved is lost; "
+                                    "check the network and repeat the last step.")
+            .arg(location),
+        words);
+}
+
+} // namespace Engine

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "engine/error.h"
+
+#include <QByteArray>
+
+namespace Engine {
+
+// The error that the server reports with an SQLSTATE, in the engine's terms. The words are the server's own, the
+// detail names the key of a violation.
+EngineError postgresError(const QByteArray &sqlState, const QString &words, const QString &detail,
+                          const QString &location);
+
+// Whether connecting failed because the server has no database of the name.
+bool isMissingDatabase(const EngineError &error);
+
+EngineError connectionLost(const QString &location, const QString &words);
+
+} // namespace Engine

@@ -1,0 +1,223 @@
+#include "engine/postgreslink.h"
+
+#include "engine/postgreserror.h"
+
+#include <libpq-fe.h>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+// Commands under way before the server is asked to answer, and before answers are read. The latter bounds what
+// waits in the buffers, so that neither side ever waits for the other with its own buffer full.
+constexpr int flushEvery = 32;
+constexpr int mostPending = 256;
+constexpr int staleLimit = 50;
+
+QString field(const PGresult *result, int code) { return QString::fromUtf8(PQresultErrorField(result, code)); }
+
+} // namespace
+
+void ClearResult::operator()(pg_result *result) const { PQclear(result); }
+
+PostgresLink::PostgresLink(PostgresTarget target)
+    : m_target(std::move(target))
+{
+    connect();
+}
+
+PostgresLink::~PostgresLink() { PQfinish(m_handle); }
+
+// --- one command at a time ---------------------------------------------------------------------------------------
+
+void PostgresLink::prepareFor(RowReader *reader)
+{
+    if (m_reader && m_reader != reader)
+        m_reader->readAhead();
+    if (m_lostInTransaction)
+        throw connectionLost(location(), u"lost within a transaction"_s);
+    if (PQstatus(m_handle) != CONNECTION_BAD) {
+        dropStaleStatements();
+        return;
+    }
+    if (mayReconnect && !mayReconnect())
+        throw connectionLost(location(), u"not connected again while locks were held"_s);
+    connect();
+    if (reconnected)
+        reconnected();
+}
+
+void PostgresLink::dropStaleStatements()
+{
+    if (m_stale.size() < staleLimit || isPipelining() || isTransactionFailed())
+        return;
+    QByteArray script;
+    for (const QByteArray &name : std::as_const(m_stale))
+        script += "DEALLOCATE " + name + ';';
+    m_stale.clear();
+    run(script);
+}
+
+ResultPtr PostgresLink::run(const QByteArray &script) { return checked(PQexec(m_handle, script.constData())); }
+
+ResultPtr PostgresLink::checked(pg_result *result)
+{
+    ResultPtr owned(result);
+    const ExecStatusType status = PQresultStatus(result);
+    if (!result || status == PGRES_FATAL_ERROR || status == PGRES_BAD_RESPONSE || status == PGRES_PIPELINE_ABORTED)
+        fail(result);
+    return owned;
+}
+
+void PostgresLink::fail(const pg_result *result) { throw errorOf(result); }
+
+EngineError PostgresLink::errorOf(const pg_result *result)
+{
+    if (PQstatus(m_handle) == CONNECTION_BAD) {
+        noteLoss();
+        return connectionLost(location(), QString::fromUtf8(PQerrorMessage(m_handle)).trimmed());
+    }
+    if (PQresultStatus(result) == PGRES_PIPELINE_ABORTED)
+        return EngineError(ErrorCode::General,
+                           QCoreApplication::translate("Engine", "An earlier step of the same change has failed."));
+    const QByteArray sqlState(PQresultErrorField(result, PG_DIAG_SQLSTATE));
+    const QString words =
+        result ? field(result, PG_DIAG_MESSAGE_PRIMARY) : QString::fromUtf8(PQerrorMessage(m_handle)).trimmed();
+    return postgresError(sqlState, words, field(result, PG_DIAG_MESSAGE_DETAIL), location());
+}
+
+void PostgresLink::noteLoss()
+{
+    m_lostInTransaction = m_lostInTransaction || m_inTransaction;
+    m_inTransaction = false;
+    m_pending = 0;
+    m_reader = nullptr;
+}
+
+// --- pipeline
+// -------------------------------------------------------------------------------------------------------
+
+bool PostgresLink::isPipelining() const { return PQpipelineStatus(m_handle) != PQ_PIPELINE_OFF; }
+
+void PostgresLink::enterPipeline()
+{
+    if (!isPipelining() && PQenterPipelineMode(m_handle) != 1)
+        fail(nullptr);
+}
+
+void PostgresLink::countSent()
+{
+    ++m_pending;
+    if (m_pending % flushEvery == 0 && (PQsendFlushRequest(m_handle) != 1 || PQflush(m_handle) < 0))
+        fail(nullptr);
+    if (m_pending < mostPending)
+        return;
+    collect(mostPending / 2, nullptr);
+    if (m_failure)
+        leavePipeline(); // throws it
+}
+
+// Reads the answers of the oldest commands, and keeps the first failure.
+void PostgresLink::collect(int commands, ResultPtr *last)
+{
+    for (; commands > 0 && m_pending > 0; --commands) {
+        while (pg_result *result = PQgetResult(m_handle)) {
+            ResultPtr owned(result);
+            const ExecStatusType status = PQresultStatus(result);
+            const bool failed = status == PGRES_FATAL_ERROR || status == PGRES_PIPELINE_ABORTED;
+            if (failed && !m_failure)
+                m_failure = errorOf(result);
+            if (PQstatus(m_handle) == CONNECTION_BAD)
+                return;
+            if (last)
+                *last = std::move(owned);
+        }
+        --m_pending;
+    }
+}
+
+ResultPtr PostgresLink::finishSent()
+{
+    ResultPtr last;
+    if (PQpipelineSync(m_handle) != 1)
+        fail(nullptr);
+    collect(m_pending, &last);
+    if (PQstatus(m_handle) != CONNECTION_BAD)
+        PQclear(PQgetResult(m_handle)); // the synchronization itself
+    m_pending = 0;
+    if (!m_failure)
+        return last;
+    const EngineError failure = *m_failure;
+    m_failure.reset();
+    ++m_generation; // statements prepared behind the failure do not exist
+    throw failure;
+}
+
+void PostgresLink::leavePipeline()
+{
+    if (!isPipelining())
+        return;
+    try {
+        finishSent();
+    } catch (const EngineError &) {
+        PQexitPipelineMode(m_handle);
+        throw;
+    }
+    PQexitPipelineMode(m_handle);
+}
+
+void PostgresLink::abandonPipeline() noexcept
+{
+    try {
+        leavePipeline();
+    } catch (const EngineError &) {
+        // the transaction that these commands belonged to is being given up
+    }
+}
+
+// --- transaction
+// ----------------------------------------------------------------------------------------------------
+
+void PostgresLink::begin()
+{
+    prepareFor(nullptr);
+    leavePipeline();
+    run("BEGIN");
+    m_inTransaction = true;
+}
+
+void PostgresLink::commit()
+{
+    prepareFor(nullptr);
+    leavePipeline();
+    const ResultPtr result = run("COMMIT");
+    m_inTransaction = false;
+    if (qstrcmp(PQcmdStatus(result.get()), "ROLLBACK") == 0)
+        throw EngineError(ErrorCode::General,
+                          QCoreApplication::translate("Engine",
+                                                      "An earlier step of the same change has failed; the "
+                                                      "changes were undone."));
+}
+
+void PostgresLink::rollback() noexcept
+{
+    m_lostInTransaction = false;
+    if (!m_inTransaction)
+        return;
+    try {
+        if (m_reader)
+            m_reader->readAhead();
+    } catch (const EngineError &) {
+        m_reader = nullptr;
+    }
+    abandonPipeline();
+    PQclear(PQexec(m_handle, "ROLLBACK"));
+    m_inTransaction = false;
+}
+
+bool PostgresLink::isTransactionFailed() const { return PQtransactionStatus(m_handle) == PQTRANS_INERROR; }
+
+} // namespace Engine

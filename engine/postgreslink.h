@@ -1,0 +1,113 @@
+#pragma once
+
+#include "engine/error.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+struct pg_conn;
+struct pg_result;
+
+namespace Engine {
+
+struct ClearResult {
+    void operator()(pg_result *result) const;
+};
+using ResultPtr = std::unique_ptr<pg_result, ClearResult>;
+
+// Where a remote database is and how it is reached. What libpq's own environment variables say (PGPORT, PGUSER,
+// PGPASSWORD, PGPASSFILE, PGSSLROOTCERT ...) comes before the account given here.
+struct PostgresTarget {
+    QString host;
+    QString database;
+    QString user;
+    QString password;
+    bool requireTls = false;
+    QString applicationName;
+
+    QString location() const; // for messages: "database corvane on the server 10.0.0.5"
+};
+
+// A statement that takes its rows from the wire one by one, and can take the rest into memory when the wire is
+// needed for something else.
+class RowReader {
+public:
+    virtual ~RowReader() = default;
+    virtual void readAhead() = 0;
+};
+
+// The wire: connecting, and what goes over it in which order. Commands are either waited for one by one, or sent
+// one after the other (pipelined) with their answers collected later.
+class PostgresLink {
+public:
+    explicit PostgresLink(PostgresTarget target); // connects
+    ~PostgresLink();
+    PostgresLink(const PostgresLink &) = delete;
+    PostgresLink &operator=(const PostgresLink &) = delete;
+
+    pg_conn *handle() const { return m_handle; }
+    QString location() const { return m_target.location(); }
+    // Grows whenever the statements prepared before are gone.
+    int generation() const { return m_generation; }
+
+    // Before a lost connection is made anew: false when that would lose something, such as locks.
+    std::function<bool()> mayReconnect;
+    std::function<void()> reconnected;
+
+    // Makes the wire free for a command of this reader (or nobody's): others read ahead, a lost connection is made
+    // anew outside of transactions.
+    void prepareFor(RowReader *reader);
+    void setReader(RowReader *reader) { m_reader = reader; }
+    RowReader *reader() const { return m_reader; }
+
+    // Runs a script to its end, not pipelined; throws its failure.
+    ResultPtr run(const QByteArray &script);
+    // The result, or the error that it carries.
+    ResultPtr checked(pg_result *result);
+    [[noreturn]] void fail(const pg_result *result); // also when the command could not even be sent
+    EngineError errorOf(const pg_result *result);
+
+    QByteArray newStatementName() { return "s" + QByteArray::number(++m_statementCount); }
+    void forgetStatement(const QByteArray &name) { m_stale.append(name); }
+
+    // --- pipeline ---
+    void enterPipeline();
+    bool isPipelining() const;
+    void countSent(); // one more command is under way; reads answers when there are many
+    ResultPtr finishSent(); // waits for all of them; the last one's result; throws the first failure
+    void leavePipeline(); // waits, and throws as finishSent
+    void abandonPipeline() noexcept; // waits and ignores failures
+
+    // --- transaction ---
+    bool inTransaction() const { return m_inTransaction; }
+    void begin();
+    void commit();
+    void rollback() noexcept;
+    bool isTransactionFailed() const;
+
+private:
+    void connect();
+    void collect(int commands, ResultPtr *last);
+    void noteLoss();
+    void dropStaleStatements();
+
+    PostgresTarget m_target;
+    pg_conn *m_handle = nullptr;
+    int m_generation = 0;
+    int m_statementCount = 0;
+    QList<QByteArray> m_stale;
+    RowReader *m_reader = nullptr;
+    int m_pending = 0;
+    std::optional<EngineError> m_failure;
+    bool m_inTransaction = false;
+    bool m_lostInTransaction = false;
+};
+
+// Makes the database on the server; the account needs the right to.
+void createRemoteDatabase(const PostgresTarget &target);
+
+} // namespace Engine

@@ -1,0 +1,154 @@
+#include "engine/postgreslocks.h"
+
+#include "engine/error.h"
+#include "engine/platform.h"
+#include "engine/postgresconnection.h"
+
+#include <limits>
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QSysInfo>
+#include <QtEndian>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+const QString lockAlone = u"SELECT pg_try_advisory_lock(?, ?)"_s;
+const QString lockShared = u"SELECT pg_try_advisory_lock_shared(?, ?)"_s;
+const QString unlockAlone = u"SELECT pg_advisory_unlock(?, ?)"_s;
+const QString unlockShared = u"SELECT pg_advisory_unlock_shared(?, ?)"_s;
+// Both or none, in one round trip: the share of the table lock, then the record. Parameters: the table's number
+// twice around the record's two, as each "?" is a parameter of its own.
+const QString lockRecord = u"SELECT CASE WHEN NOT pg_try_advisory_lock_shared(?, 0) THEN false "
+                           "WHEN pg_try_advisory_lock(?, ?) THEN true "
+                           "ELSE pg_advisory_unlock_shared(?, 0) AND false END"_s;
+const QString unlockRecordText = u"SELECT pg_advisory_unlock(?, ?), pg_advisory_unlock_shared(?, 0)"_s;
+
+qint64 hashOf(const QByteArray &bytes)
+{
+    const QByteArray digest = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+    return qFromBigEndian<qint32>(digest.constData());
+}
+
+qint64 openNumber(const QString &table) { return hashOf("open " + table.toUtf8()); }
+qint64 tableNumber(const QString &table) { return hashOf("table " + table.toUtf8()); }
+qint64 recordNumber(const QString &table) { return hashOf("record " + table.toUtf8()); }
+
+} // namespace
+
+QString PostgresLocks::applicationName(const QString &user)
+{
+    const QString name = user.isEmpty() ? systemUserName() : user;
+    return u"%1@%2/%3"_s.arg(name.left(25), QSysInfo::machineHostName().left(25))
+        .arg(QCoreApplication::applicationPid());
+}
+
+bool PostgresLocks::ask(const QString &sql, const QList<qint64> &numbers)
+{
+    const StatementPtr statement = m_connection.prepare(sql);
+    for (qsizetype i = 0; i < numbers.size(); ++i)
+        statement->bindInt(static_cast<int>(i), numbers[i]);
+    return statement->next() && statement->intAt(0) == 1;
+}
+
+void PostgresLocks::release(const QString &sql, const QList<qint64> &numbers) noexcept
+{
+    if (m_connection.isLost())
+        return; // the locks went with the session
+    if (m_connection.isTransactionFailed()) {
+        m_deferred.append({sql, numbers});
+        return;
+    }
+    try {
+        ask(sql, numbers);
+    } catch (const EngineError &) {
+        if (!m_connection.isLost())
+            m_deferred.append({sql, numbers});
+    }
+}
+
+void PostgresLocks::releaseDeferred() noexcept
+{
+    const QList<Deferred> deferred = std::move(m_deferred);
+    m_deferred.clear();
+    for (const Deferred &entry : deferred)
+        release(entry.sql, entry.numbers);
+}
+
+bool PostgresLocks::mayReconnect() const
+{
+    return std::none_of(everything().begin(), everything().end(), [](const auto &entry) {
+        return entry.second.keepsOthersFromWriting() || entry.second.exclusive > 0;
+    });
+}
+
+void PostgresLocks::reacquireOpen()
+{
+    m_deferred.clear();
+    for (const auto &[table, held] : everything()) {
+        if (held.shared > 0)
+            ask(lockShared, {openNumber(table), 0});
+    }
+}
+
+bool PostgresLocks::changeOpen(const QString &table, OpenMode from, OpenMode to)
+{
+    const QList<qint64> numbers{openNumber(table), 0};
+    if (to != OpenMode::None && !ask(to == OpenMode::Shared ? lockShared : lockAlone, numbers))
+        return false;
+    if (from != OpenMode::None)
+        release(from == OpenMode::Shared ? unlockShared : unlockAlone, numbers);
+    return true;
+}
+
+qint64 PostgresLocks::placeOf(const QString &, const QList<qint64> &key) const
+{
+    constexpr qint64 least = std::numeric_limits<qint32>::min();
+    constexpr qint64 most = std::numeric_limits<qint32>::max();
+    if (key.size() == 1 && key.first() >= least && key.first() <= most)
+        return key.first();
+    return hashOf(QByteArray(reinterpret_cast<const char *>(key.constData()),
+                             key.size() * static_cast<qsizetype>(sizeof(qint64))));
+}
+
+bool PostgresLocks::acquireRecord(const QString &table, qint64 place, bool)
+{
+    return ask(lockRecord, {tableNumber(table), recordNumber(table), place, tableNumber(table)});
+}
+
+void PostgresLocks::releaseRecord(const QString &table, qint64 place, bool)
+{
+    release(unlockRecordText, {recordNumber(table), place, tableNumber(table)});
+}
+
+bool PostgresLocks::acquireTable(const QString &table) { return ask(lockAlone, {tableNumber(table), 0}); }
+
+void PostgresLocks::releaseTable(const QString &table, const std::set<qint64> &)
+{
+    release(unlockAlone, {tableNumber(table), 0});
+}
+
+std::optional<LockOwner> PostgresLocks::ownerOf(const QString &table)
+{
+    const StatementPtr statement = m_connection.prepare(
+        u"SELECT a.application_name, coalesce(host(a.client_addr), '') FROM pg_locks l JOIN pg_stat_activity a "
+        u"USING "
+        "(pid) WHERE l.locktype = 'advisory' AND l.granted AND l.pid <> pg_backend_pid() AND l.objsubid = 2 "
+        "AND l.database = (SELECT oid FROM pg_database WHERE datname = current_database()) "
+        "AND l.classid = CAST(CAST(? AS bigint) & 4294967295 AS oid) AND l.objid = 0 "
+        "ORDER BY l.mode = 'ExclusiveLock' DESC LIMIT 1"_s);
+    statement->bindInt(0, tableNumber(table.toLower()));
+    if (!statement->next())
+        return std::nullopt;
+    const QString name = statement->textAt(0);
+    const qsizetype at = name.lastIndexOf(u'@');
+    const qsizetype slash = name.lastIndexOf(u'/');
+    if (at < 0 || slash < at)
+        return LockOwner{name, statement->textAt(1), 0};
+    return LockOwner{name.left(at), name.mid(at + 1, slash - at - 1), name.mid(slash + 1).toLongLong()};
+}
+
+} // namespace Engine

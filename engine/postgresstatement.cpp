@@ -1,0 +1,379 @@
+#include "engine/postgresstatement.h"
+
+#include "engine/storedtext.h"
+
+#include <charconv>
+#include <libpq-fe.h>
+#include <QCoreApplication>
+
+namespace Engine {
+
+namespace {
+
+constexpr qint64 planAgainFactor = 4;
+
+// The server's numbers of its types.
+enum TypeId : unsigned {
+    boolId = 16,
+    int8Id = 20,
+    int2Id = 21,
+    int4Id = 23,
+    textId = 25,
+    float4Id = 700,
+    float8Id = 701,
+    varcharId = 1043,
+    dateId = 1082,
+    timestampId = 1114,
+    timestampTzId = 1184,
+    numericId = 1700
+};
+
+// The end of what begins at a position where parameters do not count: a text, a quoted name, a comment.
+qsizetype skipped(const QByteArray &sql, qsizetype at)
+{
+    const char c = sql[at];
+    const char following = at + 1 < sql.size() ? sql[at + 1] : '\0';
+    qsizetype end = -1;
+    if (c == '\'' || c == '"')
+        end = sql.indexOf(c, at + 1) + 1;
+    else if (c == '-' && following == '-')
+        end = sql.indexOf('\n', at);
+    else if (c == '/' && following == '*')
+        end = sql.indexOf("*/", at + 2) + 2;
+    else
+        return at;
+    return end > at ? end : sql.size();
+}
+
+} // namespace
+
+QByteArray PostgresStatement::numberedParameters(const QByteArray &sql, int *count)
+{
+    QByteArray text;
+    *count = 0;
+    for (qsizetype at = 0; at < sql.size();) {
+        const qsizetype end = skipped(sql, at);
+        if (end > at) {
+            text += sql.mid(at, end - at);
+            at = end;
+            continue;
+        }
+        if (sql[at] == '?')
+            text += '$' + QByteArray::number(++*count);
+        else
+            text += sql[at];
+        ++at;
+    }
+    return text;
+}
+
+PostgresStatement::PostgresStatement(std::shared_ptr<PostgresLink> link, const QString &sql)
+    : m_link(std::move(link))
+{
+    int count = 0;
+    m_sql = numberedParameters(sql.toUtf8(), &count);
+    m_values.resize(static_cast<size_t>(count));
+    m_nulls.assign(static_cast<size_t>(count), 1);
+}
+
+PostgresStatement::~PostgresStatement()
+{
+    try {
+        PostgresStatement::reset();
+    } catch (const EngineError &) {
+        // the wire is gone, and the statement with it
+    }
+    if (m_generation == m_link->generation())
+        m_link->forgetStatement(m_name);
+}
+
+// --- binding
+// ----------------------------------------------------------------------------------------------------------
+
+void PostgresStatement::bindRaw(int parameter, QByteArray text)
+{
+    if (m_running)
+        PostgresStatement::reset();
+    m_values.at(static_cast<size_t>(parameter)) = std::move(text);
+    m_nulls[static_cast<size_t>(parameter)] = 0;
+}
+
+void PostgresStatement::bindNull(int parameter)
+{
+    bindRaw(parameter, {});
+    m_nulls[static_cast<size_t>(parameter)] = 1;
+}
+
+void PostgresStatement::bindInt(int parameter, qint64 value) { bindRaw(parameter, QByteArray::number(value)); }
+
+void PostgresStatement::bindDouble(int parameter, double value)
+{
+    char digits[32];
+    const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    bindRaw(parameter, QByteArray(digits, end - digits));
+}
+
+void PostgresStatement::bindBool(int parameter, bool value) { bindRaw(parameter, value ? "true" : "false"); }
+
+void PostgresStatement::bindText(int parameter, const QString &value)
+{
+    if (value.contains(QChar::Null))
+        throw EngineError(ErrorCode::BadValue,
+                          QCoreApplication::translate("Engine", "A text holds a character that cannot be stored."));
+    bindRaw(parameter, value.toUtf8());
+}
+
+// --- executing
+// --------------------------------------------------------------------------------------------------------
+
+void PostgresStatement::prepare()
+{
+    const bool known = m_generation == m_link->generation();
+    if (known && ++m_executions < m_planAgainAt)
+        return;
+    if (known) {
+        m_planAgainAt *= planAgainFactor;
+        m_link->forgetStatement(m_name);
+    }
+    m_generation = -1;
+    m_shape.reset();
+    m_name = m_link->newStatementName();
+    pg_conn *handle = m_link->handle();
+    if (m_link->isPipelining()) {
+        if (PQsendPrepare(handle, m_name.constData(), m_sql.constData(), 0, nullptr) != 1)
+            m_link->fail(nullptr);
+        m_link->countSent();
+    } else {
+        m_link->checked(PQprepare(handle, m_name.constData(), m_sql.constData(), 0, nullptr));
+    }
+    m_generation = m_link->generation();
+}
+
+void PostgresStatement::dispatch()
+{
+    std::vector<const char *> values(m_values.size());
+    for (size_t i = 0; i < values.size(); ++i)
+        values[i] = m_nulls[i] != 0 ? nullptr : m_values[i].constData();
+    const int sent = PQsendQueryPrepared(m_link->handle(), m_name.constData(), static_cast<int>(values.size()),
+                                         values.data(), nullptr, nullptr, 0);
+    if (sent != 1)
+        m_link->fail(nullptr);
+}
+
+void PostgresStatement::start()
+{
+    PostgresStatement::reset();
+    m_link->prepareFor(this);
+    prepare();
+    dispatch();
+    m_running = true;
+    m_row = -1;
+    if (m_link->isPipelining()) {
+        m_link->countSent();
+        m_result = m_link->finishSent();
+        return;
+    }
+    PQsetSingleRowMode(m_link->handle());
+    m_link->setReader(this);
+}
+
+bool PostgresStatement::fetch()
+{
+    if (!m_ahead.empty()) {
+        m_result = std::move(m_ahead.front());
+        m_ahead.pop_front();
+        return true;
+    }
+    if (m_link->reader() != this)
+        return false;
+    pg_result *result = PQgetResult(m_link->handle());
+    if (!result) {
+        m_link->setReader(nullptr);
+        return false;
+    }
+    const ExecStatusType status = PQresultStatus(result);
+    if (status == PGRES_SINGLE_TUPLE || status == PGRES_TUPLES_OK || status == PGRES_COMMAND_OK
+        || status == PGRES_EMPTY_QUERY) {
+        m_result.reset(result);
+        return true;
+    }
+    const ResultPtr failed(result);
+    const EngineError error = m_link->errorOf(result);
+    if (m_link->reader() == this) {
+        while (pg_result *rest = PQgetResult(m_link->handle()))
+            PQclear(rest);
+        m_link->setReader(nullptr);
+    }
+    m_generation = -1; // whatever was wrong, it is planned anew
+    PostgresStatement::reset();
+    throw error;
+}
+
+bool PostgresStatement::next()
+{
+    if (!m_running)
+        start();
+    for (;;) {
+        if (m_result && ++m_row < PQntuples(m_result.get()))
+            return true;
+        if (!fetch())
+            break;
+        m_row = -1;
+    }
+    if (m_result)
+        m_shape = std::move(m_result);
+    PostgresStatement::reset();
+    return false;
+}
+
+qint64 PostgresStatement::execute()
+{
+    PostgresStatement::reset();
+    while (next()) { }
+    return m_shape ? QByteArray(PQcmdTuples(m_shape.get())).toLongLong() : 0;
+}
+
+void PostgresStatement::send()
+{
+    PostgresStatement::reset();
+    m_link->prepareFor(this);
+    m_link->enterPipeline();
+    prepare();
+    dispatch();
+    m_link->countSent();
+}
+
+void PostgresStatement::readAhead()
+{
+    ResultPtr current = std::move(m_result);
+    std::deque<ResultPtr> rows;
+    while (m_link->reader() == this && fetch())
+        rows.push_back(std::move(m_result));
+    m_ahead = std::move(rows);
+    m_result = std::move(current);
+}
+
+void PostgresStatement::reset()
+{
+    m_running = false;
+    m_row = -1;
+    m_result.reset();
+    m_ahead.clear();
+    if (m_link->reader() != this)
+        return;
+    while (pg_result *rest = PQgetResult(m_link->handle()))
+        PQclear(rest);
+    m_link->setReader(nullptr);
+}
+
+// --- columns
+// ----------------------------------------------------------------------------------------------------------
+
+const pg_result *PostgresStatement::shape() const
+{
+    if (m_result)
+        return m_result.get();
+    if (!m_shape || PQnfields(m_shape.get()) == 0) {
+        auto *self = const_cast<PostgresStatement *>(this);
+        m_link->prepareFor(nullptr);
+        m_link->leavePipeline();
+        self->prepare();
+        m_shape = m_link->checked(PQdescribePrepared(m_link->handle(), m_name.constData()));
+    }
+    return m_shape.get();
+}
+
+int PostgresStatement::columnCount() const { return PQnfields(shape()); }
+
+QString PostgresStatement::columnName(int column) const { return QString::fromUtf8(PQfname(shape(), column)); }
+
+FieldType PostgresStatement::columnType(int column) const
+{
+    switch (PQftype(shape(), column)) {
+    case boolId:
+        return FieldType::Boolean;
+    case int2Id:
+        return FieldType::SmallInt;
+    case int4Id:
+    case int8Id:
+        return FieldType::Integer;
+    case float4Id:
+    case float8Id:
+    case numericId:
+        return FieldType::Float;
+    case dateId:
+        return FieldType::Date;
+    case timestampId:
+    case timestampTzId:
+        return FieldType::DateTime;
+    case varcharId:
+        return FieldType::Text;
+    default:
+        return FieldType::Memo;
+    }
+}
+
+std::string_view PostgresStatement::cell(int column) const
+{
+    if (!m_result || m_row < 0)
+        return {};
+    return {PQgetvalue(m_result.get(), m_row, column),
+            static_cast<size_t>(PQgetlength(m_result.get(), m_row, column))};
+}
+
+bool PostgresStatement::isNull(int column) const
+{
+    return !m_result || m_row < 0 || PQgetisnull(m_result.get(), m_row, column) != 0;
+}
+
+qint64 PostgresStatement::intAt(int column) const
+{
+    const std::string_view text = cell(column);
+    if (text == "t" && PQftype(m_result.get(), column) == boolId)
+        return 1;
+    qint64 value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool whole = error == std::errc() && end == text.data() + text.size();
+    return whole ? value : static_cast<qint64>(doubleAt(column));
+}
+
+double PostgresStatement::doubleAt(int column) const
+{
+    const std::string_view text = cell(column);
+    double value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+QString PostgresStatement::textAt(int column) const
+{
+    const std::string_view text = cell(column);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+Value PostgresStatement::valueAt(int column, FieldType type) const
+{
+    if (isNull(column))
+        return {};
+    switch (type) {
+    case FieldType::Integer:
+    case FieldType::SmallInt:
+    case FieldType::AutoInc:
+        return intAt(column);
+    case FieldType::Float:
+    case FieldType::Money:
+        return doubleAt(column);
+    case FieldType::Boolean:
+        return intAt(column) != 0;
+    case FieldType::Date:
+        return dateFromStored(textAt(column));
+    case FieldType::DateTime:
+        return dateTimeFromStored(textAt(column));
+    case FieldType::Text:
+    case FieldType::Memo:
+        break;
+    }
+    return textAt(column);
+}
+
+} // namespace Engine

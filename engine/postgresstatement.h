@@ -1,0 +1,70 @@
+#pragma once
+
+#include "engine/driver.h"
+#include "engine/postgreslink.h"
+
+#include <deque>
+#include <string_view>
+#include <vector>
+
+namespace Engine {
+
+// A statement that is prepared on the server at its first use, and again from time to time: the server keeps a plan
+// made when a table was empty, and does not notice by itself that the table has grown.
+class PostgresStatement final : public Statement, private RowReader {
+public:
+    PostgresStatement(std::shared_ptr<PostgresLink> link, const QString &sql);
+    ~PostgresStatement() override;
+    PostgresStatement(const PostgresStatement &) = delete;
+    PostgresStatement &operator=(const PostgresStatement &) = delete;
+
+    void bindNull(int parameter) override;
+    void bindInt(int parameter, qint64 value) override;
+    void bindDouble(int parameter, double value) override;
+    void bindBool(int parameter, bool value) override;
+    void bindText(int parameter, const QString &value) override;
+
+    bool next() override;
+    qint64 execute() override;
+    void send() override;
+    void reset() override;
+
+    int columnCount() const override;
+    QString columnName(int column) const override;
+    bool isNull(int column) const override;
+    qint64 intAt(int column) const override;
+    double doubleAt(int column) const override;
+    QString textAt(int column) const override;
+    Value valueAt(int column, FieldType type) const override;
+    FieldType columnType(int column) const override;
+
+    // "?" becomes "$1", "$2" ..., except in texts, quoted names and comments. Gives the number of parameters.
+    static QByteArray numberedParameters(const QByteArray &sql, int *count);
+
+private:
+    void prepare();
+    void dispatch(); // hands the execution to libpq
+    void start();
+    bool fetch(); // the next row off the wire
+    void readAhead() override;
+    void bindRaw(int parameter, QByteArray text);
+    std::string_view cell(int column) const;
+    const pg_result *shape() const; // a result that knows the columns
+
+    std::shared_ptr<PostgresLink> m_link;
+    QByteArray m_sql;
+    QByteArray m_name;
+    int m_generation = -1; // of the link, when this was prepared
+    qint64 m_executions = 0;
+    qint64 m_planAgainAt = 32;
+    std::vector<QByteArray> m_values;
+    std::vector<char> m_nulls;
+
+    bool m_running = false;
+    ResultPtr m_result; // holds the current row
+    int m_row = -1;
+    std::deque<ResultPtr> m_ahead; // results read ahead of the current one
+    mutable ResultPtr m_shape;
+};
+
+} // namespace Engine
