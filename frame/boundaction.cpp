@@ -1,0 +1,51 @@
+#include "frame/boundaction.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCoreApplication>
+
+namespace Tallymere {
+
+namespace {
+
+QString unavailable(const QString &hint)
+{
+    if (hint.isEmpty())
+        return QCoreApplication::translate("Commands", "Not available in this version");
+    return QCoreApplication::translate("Commands", "%1 (not available in this version)").arg(hint);
+}
+
+// QAction makes a tool tip of its text when it has none; that would only repeat the caption.
+QString hintOf(const QAbstractButton &button) { return button.toolTip(); }
+QString hintOf(const QAction &item) { return item.statusTip(); }
+
+template <typename Control> void bind(Control &control, QAction &action)
+{
+    if (control.text().isEmpty())
+        control.setText(action.text());
+    const QString hint = hintOf(control);
+    auto follow = [&control, &action, hint] {
+        const QString shown = action.isEnabled() ? hint : unavailable(hint);
+        control.setEnabled(action.isEnabled());
+        control.setToolTip(shown);
+        control.setStatusTip(shown);
+    };
+    follow();
+    QObject::connect(&action, &QAction::enabledChanged, &control, follow);
+}
+
+} // namespace
+
+void bindToAction(QAbstractButton &button, QAction &action)
+{
+    bind(button, action);
+    QObject::connect(&button, &QAbstractButton::clicked, &action, &QAction::trigger);
+}
+
+void bindToAction(QAction &menuItem, QAction &action)
+{
+    bind(menuItem, action);
+    QObject::connect(&menuItem, &QAction::triggered, &action, &QAction::trigger);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "frame/commands.h"
+
+#include <functional>
+#include <QString>
+
+class QWidget;
+
+namespace Tallymere {
+
+class ScreenRegistry;
+struct ScreenContext;
+struct ScreenKind;
+
+// Carries out the commands of the main window: every screen is opened by the same few steps, told apart by the
+// command's data. Errors of a screen come out as they are; the caller shows them.
+class CommandRunner {
+public:
+    // The registry and the parent outlive the runner.
+    CommandRunner(const ScreenRegistry &screens, QWidget *parent)
+        : m_screens(screens)
+        , m_parent(parent)
+    {
+    }
+
+    // Whether there is a screen to open, with what the command needs of it.
+    bool canRun(const Command &command) const;
+    // Checks the rights and opens the screen; does nothing when the rights are refused.
+    void run(const Command &command, ScreenContext &context) const;
+    // Finds the open screen of the name or makes it, shows it and brings it to the front. Null when there is no
+    // such screen.
+    QWidget *open(const QString &screenName, ScreenContext &context) const;
+
+private:
+    struct Found {
+        QWidget *screen;
+        bool wasOpen;
+    };
+    Found findOrCreate(const QString &name, const ScreenKind &kind, ScreenContext &context) const;
+    void showScreen(const Command &command, const ScreenKind &kind, ScreenContext &context) const;
+
+    const ScreenRegistry &m_screens;
+    QWidget *m_parent;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QLatin1StringView>
+#include <span>
+
+namespace Tallymere {
+
+// How a command opens its screen.
+enum class Opening {
+    ListPattern, // refreshed if open, filter off, shown with all records
+    Show, // created if absent, shown
+    ShowAgain, // as Show; a visible screen runs its show handler again
+    ShowModal,
+    ShowModalOnce, // created anew, shown modally, freed
+    Post, // created if absent and not shown; its post command runs
+    None, // nothing to open
+};
+
+// One action of the main window as data. The rights key and name are what SecurityCheck is asked; an empty key asks
+// nothing.
+struct Command {
+    QLatin1StringView action;
+    const char *caption; // for tr() in the context "Commands"
+    QLatin1StringView rightsKey = {};
+    QLatin1StringView rightsName = {};
+    QLatin1StringView screen = {}; // component name
+    Opening opening = Opening::None;
+    bool refreshOpenScreen = true; // list pattern only
+    bool restore = true; // a minimised screen comes back to normal
+    bool hourglass = true;
+    bool firstRecord = false; // moves to the first record before showing
+};
+
+std::span<const Command> commands();
+
+} // namespace Tallymere

@@ -1,0 +1,340 @@
+#include "frame/frmtallymeresystem.h"
+
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "data/lookupsdatainv.h"
+#include "frame/aboutform.h"
+#include "frame/boundaction.h"
+#include "frame/hostinifile.h"
+#include "frame/screenregistry.h"
+#include "frame/shared/ruleerror.h"
+#include "frame/templatereport.h"
+#include "frame/tracescope.h"
+#include "ui_frmtallymeresystem.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QPrinterInfo>
+#include <QProgressBar>
+#include <QScreen>
+#include <QStatusTipEvent>
+#include <QTimer>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+// Pauses between lock attempts without freezing the window, and without letting the user start something else.
+void waitAlive(std::chrono::milliseconds pause)
+{
+    QEventLoop loop;
+    QTimer::singleShot(pause, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
+
+TFormTallymereSystem::TFormTallymereSystem(const FrameServices &services, QWidget *parent)
+    : QMainWindow(parent, Qt::Window)
+    , m_services(services)
+    , m_guard(services.prompts)
+    , m_runner(services.screens, this)
+    , m_ui(std::make_unique<Ui::TFormTallymereSystem>())
+    , m_actionList(new QObject(this))
+{
+    const TraceScope scope("TFormTallymereSystem.FormCreate");
+    m_ui->setupUi(this);
+    setObjectName(u"FormTallymereSystem"_s);
+    FontFactor = fontFactor(this);
+    createActions();
+    bindControls();
+    createStatusBar();
+    scaleSizes();
+    move(0, 0);
+    nameSampleCompany(QCoreApplication::applicationDirPath());
+    FormTallymereSystem = this;
+}
+
+TFormTallymereSystem::~TFormTallymereSystem()
+{
+    // Screens hold tables of the data modules, so they go first, whatever they still have to save.
+    qDeleteAll(screens());
+    delete m_menuItem;
+    if (FormTallymereSystem == this)
+        FormTallymereSystem = nullptr;
+}
+
+void TFormTallymereSystem::init(QWidget *parent)
+{
+    disconnect(m_parentGone);
+    m_parent = parent;
+    m_host.reset();
+    m_host = InterfaceRef<IHostInterface>::of(parent);
+    if (parent)
+        m_parentGone = connect(parent, &QObject::destroyed, this, [this] { m_host.abandon(); });
+}
+
+void TFormTallymereSystem::setMenu(QMenu *&menu)
+{
+    const TraceScope scope("TFormTallymereSystem.SetMenu");
+    delete m_menuItem; // a host that moves the item to another menu
+    m_menuItem = new QAction(tr("Tallymere"), menu);
+    connect(m_menuItem, &QAction::triggered, this, &TFormTallymereSystem::formTallymereSystemShowModal);
+    menu->addAction(m_menuItem);
+}
+
+void TFormTallymereSystem::prepareMenuDate(const QDateTime &) { }
+
+bool TFormTallymereSystem::getIsModuleInstalled(const QString &moduleName) { return moduleName == "ARSystem"_L1; }
+
+void TFormTallymereSystem::formTallymereSystemShowModal()
+{
+    const TraceScope scope("TFormTallymereSystem.FormTallymereSystemShowModal");
+    qCDebug(trace) << "Sender" << sender() << "Self" << this << "Application" << qApp;
+    if (!m_guard.run([this] { prepareOpening(); }))
+        return;
+    qCDebug(trace, "About to show FormTallymereSystem modally...");
+    showModal();
+}
+
+void TFormTallymereSystem::prepareOpening()
+{
+    const WaitCursor hourglass;
+    qCDebug(trace, "About to create the DataModuleTallymere...");
+    if (!m_dataModule) {
+        DataModuleOptions options;
+        options.waitFor = waitAlive;
+        options.prepareReportPrinting = [] { QPrinterInfo::defaultPrinter(); };
+        m_dataModule = std::make_unique<TDataModuleTallymere>(m_services.settings, m_services.prompts, options);
+    }
+    if (!m_lookups)
+        m_lookups = std::make_unique<TdmLookUpsInv>(m_dataModule->databaseTallymere());
+    if (!m_context)
+        fillContext();
+    m_helpFile = u"HX1.hlp"_s;
+
+    if (!m_host)
+        throw RuleError(tr("The inventory system does not know who is working. The host application has opened it "
+                           "without a window that names its user."));
+    QString user;
+    m_host->getCurrentUser(user);
+    m_dataModule->setCurrentUser(user);
+    m_leftPane->setText(user);
+}
+
+void TFormTallymereSystem::fillContext()
+{
+    m_context.reset(new ScreenContext{
+        .data = *m_dataModule,
+        .lookups = *m_lookups,
+        .prompts = m_services.prompts,
+        .printerDefined = [this] { return printerDefined(); },
+        .securityCheck = [this](const QString &key, const QString &name) { return securityCheck(key, name); },
+        .openScreen = [this](const QString &name) { return m_runner.open(name, *m_context); },
+        .hasScreen = [this](const QString &name) { return m_services.screens.contains(name); },
+        .showHelp = {},
+    });
+}
+
+void TFormTallymereSystem::showModal()
+{
+    if (m_modalLoop) {
+        raise();
+        activateWindow();
+        return;
+    }
+    setWindowModality(Qt::ApplicationModal);
+    QEventLoop loop;
+    m_modalLoop = &loop;
+    const QPointer<TFormTallymereSystem> alive(this);
+    show();
+    activateWindow();
+    loop.exec();
+    if (alive)
+        m_modalLoop = nullptr;
+}
+
+bool TFormTallymereSystem::securityCheck(const QString &, const QString &) { return true; }
+
+bool TFormTallymereSystem::securityLogin() { return true; }
+
+bool TFormTallymereSystem::securityAccessible() { return true; }
+
+bool TFormTallymereSystem::connectToDatabase(const QString &, const QString &) { return true; }
+
+bool TFormTallymereSystem::copyFiles(const QString &, const QString &) { return true; }
+
+bool TFormTallymereSystem::printerDefined()
+{
+    const TraceScope scope("TFormTallymereSystem.PrinterDefined");
+    const bool result = !QPrinterInfo::defaultPrinter().printerName().isEmpty();
+    qCDebug(trace) << "result" << result;
+    return result;
+}
+
+void TFormTallymereSystem::printReport(TemplateReport &report, bool showPrintDialog)
+{
+    const QString file = report.templateFile();
+    if (!QFileInfo(file).isFile()) {
+        m_services.prompts.error(tr("The requested report template file:\n%1\ncould not be found.").arg(file));
+        return;
+    }
+    report.loadTemplate();
+    report.setShowPrintDialog(showPrintDialog);
+    qCDebug(trace, "Show Print Dialog setting in PrintReport routine...");
+    qCDebug(trace).noquote() << report.name() + ".ShowPrintDialog"_L1 << showPrintDialog;
+    qCDebug(trace, "About to Print the report...");
+    report.print();
+    qCDebug(trace, "Print command just sent!");
+}
+
+void TFormTallymereSystem::databaseOptionsEnabled(bool enable)
+{
+    constexpr qsizetype databaseOptions = 6;
+    const QList<QAction *> entries = m_ui->MainMenu1->actions().constFirst()->menu()->actions();
+    for (QAction *entry : entries.first(qMin(databaseOptions, entries.size())))
+        entry->setEnabled(enable);
+    const auto buttons = findChildren<QToolButton *>();
+    for (QToolButton *button : buttons)
+        button->setEnabled(enable);
+}
+
+void TFormTallymereSystem::createActions()
+{
+    m_actionList->setObjectName(u"ActionList1"_s);
+    for (const Command &command : commands()) {
+        auto *action = new QAction(QCoreApplication::translate("Commands", command.caption), m_actionList);
+        action->setObjectName(command.action);
+        action->setEnabled(m_runner.canRun(command));
+        connect(action, &QAction::triggered, this, [this, &command] {
+            m_guard.run([&] {
+                if (m_context)
+                    m_runner.run(command, *m_context);
+            });
+        });
+    }
+}
+
+void TFormTallymereSystem::bindControls()
+{
+    // Buttons and menu items name their action in the layout.
+    const auto bindAll = [this](const auto &controls) {
+        for (auto *control : controls) {
+            const QString name = control->property("action").toString();
+            if (auto *action = m_actionList->findChild<QAction *>(name); action && !name.isEmpty())
+                bindToAction(*control, *action);
+        }
+    };
+    bindAll(m_ui->centralwidget->findChildren<QPushButton *>());
+    bindAll(findChildren<QAction *>(Qt::FindDirectChildrenOnly));
+    const auto menus = findChildren<QMenu *>();
+    for (QMenu *menu : menus)
+        menu->setToolTipsVisible(true);
+
+    connect(m_ui->BitBtnClose, &QPushButton::clicked, this, &QWidget::close);
+    connect(m_ui->Exit1, &QAction::triggered, this, &TFormTallymereSystem::exit1Click);
+    connect(m_ui->About1, &QAction::triggered, this, &TFormTallymereSystem::about1Click);
+}
+
+void TFormTallymereSystem::createStatusBar()
+{
+    m_leftPane = new QLabel(this);
+    m_leftPane->setObjectName(u"RzStatusPane2"_s);
+    m_leftPane->setAccessibleName(tr("User"));
+    m_hintPane = new QLabel(this);
+    m_hintPane->setObjectName(u"RzStatusPane1"_s);
+    m_hintPane->setAccessibleName(tr("Hint"));
+    // Long names and hints are cut; they must not widen the window.
+    m_hintPane->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto *progress = new QProgressBar(this);
+    progress->setObjectName(u"RzProgressBar1"_s);
+    progress->setAccessibleName(tr("Progress"));
+    progress->setTextVisible(false);
+    progress->setFixedWidth(scaled(this, 90));
+    progress->setValue(0);
+    m_ui->RzStatusBar1->addWidget(m_leftPane);
+    m_ui->RzStatusBar1->addWidget(m_hintPane, 1);
+    m_ui->RzStatusBar1->addPermanentWidget(progress);
+}
+
+void TFormTallymereSystem::scaleSizes()
+{
+    const auto buttons = m_ui->centralwidget->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
+        button->setMinimumSize(scaled(this, button->minimumWidth()), scaled(this, button->minimumHeight()));
+    resize(scaled(this, width()), scaled(this, height()));
+}
+
+QList<QWidget *> TFormTallymereSystem::screens() const
+{
+    QList<QWidget *> windows = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    windows.removeIf([](const QWidget *child) { return !child->isWindow() || qobject_cast<const QMenu *>(child); });
+    return windows;
+}
+
+bool TFormTallymereSystem::closeScreens()
+{
+    const QList<QWidget *> windows = screens();
+    for (const QPointer<QWidget> screen : windows) {
+        // A hidden one (made for its post command only) has nothing to ask.
+        if (screen && screen->isVisible() && !screen->close())
+            return false;
+    }
+    // Only when all have agreed; those that free themselves when they are closed have gone or will go.
+    for (QWidget *screen : screens())
+        screen->deleteLater();
+    return true;
+}
+
+void TFormTallymereSystem::closeEvent(QCloseEvent *event) { event->setAccepted(closeScreens()); }
+
+void TFormTallymereSystem::hideEvent(QHideEvent *event)
+{
+    QMainWindow::hideEvent(event);
+    if (m_modalLoop && !event->spontaneous()) // not when it is minimised
+        m_modalLoop->quit();
+}
+
+void TFormTallymereSystem::showEvent(QShowEvent *event)
+{
+    const TraceScope scope("TFormTallymereSystem.FormShow");
+    QMainWindow::showEvent(event);
+    if (!event->spontaneous())
+        move(screen()->availableGeometry().center() - rect().center());
+}
+
+void TFormTallymereSystem::keyPressEvent(QKeyEvent *event)
+{
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        button->click();
+    else
+        QMainWindow::keyPressEvent(event);
+}
+
+bool TFormTallymereSystem::event(QEvent *event)
+{
+    if (event->type() != QEvent::StatusTip)
+        return QMainWindow::event(event);
+    m_hintPane->setText(static_cast<QStatusTipEvent *>(event)->tip());
+    return true;
+}
+
+void TFormTallymereSystem::exit1Click() { m_ui->BitBtnClose->click(); }
+
+void TFormTallymereSystem::about1Click()
+{
+    TFormAboutTallymereSystem about(this);
+    about.exec();
+}
+
+} // namespace Tallymere

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "controls/guard.h"
+#include "controls/screencontext.h"
+#include "frame/commandrunner.h"
+#include "frame/globals.h"
+#include "plgint/plgint.h"
+
+#include <memory>
+#include <QMainWindow>
+#include <QPointer>
+
+class QEventLoop;
+class QLabel;
+class QProgressBar;
+
+namespace Tallymere {
+
+namespace Ui {
+class TFormTallymereSystem;
+}
+
+class ScreenRegistry;
+class SettingsStore;
+class TemplateReport;
+
+// What the main form is given by the module; all of it outlives the form.
+struct FrameServices {
+    SettingsStore &settings;
+    Prompts &prompts;
+    const ScreenRegistry &screens;
+};
+
+// The hub of the inventory system, and the module's side of the link with the host. The host makes it once, hidden;
+// the menu item that it adds to the host's menu opens the system: the data modules are made at the first opening
+// and stay, the window is shown modally each time.
+class TFormTallymereSystem final : public QMainWindow, public IPlugIn {
+    Q_OBJECT
+
+public:
+    explicit TFormTallymereSystem(const FrameServices &services, QWidget *parent = nullptr);
+    ~TFormTallymereSystem() override;
+
+    // IPlugIn
+    int addRef() override { return ++m_references; }
+    int release() override { return --m_references; }
+    void init(QWidget *parent) override;
+    void setMenu(QMenu *&menu) override;
+    void prepareMenuDate(const QDateTime &date) override;
+    bool getIsModuleInstalled(const QString &moduleName) override;
+
+    // Opens the system and returns when its window is closed. Whatever keeps it from opening is shown in the
+    // standard error box.
+    void formTallymereSystemShowModal();
+
+    // User rights. This system grants them all.
+    bool securityCheck(const QString &key, const QString &name);
+    bool securityLogin();
+    bool securityAccessible();
+    // For hosts that expect them; both do nothing and succeed.
+    bool connectToDatabase(const QString &first, const QString &second);
+    bool copyFiles(const QString &source, const QString &destination);
+
+    // Whether the system has a current printer.
+    bool printerDefined();
+    // Prints a report from its template file. A file that is not there is named in the standard error box.
+    void printReport(TemplateReport &report, bool showPrintDialog);
+    // Enables or disables the first six entries of the first menu and every tool button.
+    void databaseOptionsEnabled(bool enable);
+
+    const Guard &guard() const { return m_guard; }
+    TDataModuleTallymere *dataModule() const { return m_dataModule.get(); } // null before the first opening
+    const QString &helpFile() const { return m_helpFile; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void createActions();
+    void bindControls();
+    void createStatusBar();
+    void scaleSizes();
+    void prepareOpening();
+    void fillContext();
+    void showModal();
+    bool closeScreens(); // false when one of them stays open
+    QList<QWidget *> screens() const;
+    void exit1Click();
+    void about1Click();
+
+    FrameServices m_services;
+    Guard m_guard;
+    CommandRunner m_runner;
+    std::unique_ptr<Ui::TFormTallymereSystem> m_ui;
+    QObject *m_actionList;
+    QLabel *m_leftPane = nullptr;
+    QLabel *m_hintPane = nullptr;
+
+    QPointer<QWidget> m_parent; // the host's window
+    InterfaceRef<IHostInterface> m_host;
+    QMetaObject::Connection m_parentGone;
+    QPointer<QAction> m_menuItem; // in the host's menu
+    int m_references = 0;
+
+    std::unique_ptr<TDataModuleTallymere> m_dataModule;
+    std::unique_ptr<TdmLookUpsInv> m_lookups;
+    std::unique_ptr<ScreenContext> m_context;
+    QString m_helpFile;
+    QEventLoop *m_modalLoop = nullptr;
+};
+
+} // namespace Tallymere

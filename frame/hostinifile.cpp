@@ -1,0 +1,19 @@
+#include "frame/hostinifile.h"
+
+#include "frame/shared/initfile.h"
+#include "frame/shared/trace.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+void nameSampleCompany(const QString &executableFolder)
+{
+    const InitFile file(executableFolder + "/HX1.ini"_L1);
+    if (!file.value(u"Companies", u"Sample Data").isEmpty())
+        return;
+    if (!file.setValue(u"Companies"_s, u"Sample Data"_s, executableFolder + "/Data"_L1))
+        qCDebug(trace) << "HX1.ini in" << executableFolder << "cannot be written";
+}
+
+} // namespace Tallymere

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "frame/shared/prompts.h"
+
+#include <functional>
+#include <memory>
+#include <QDialog>
+
+namespace Tallymere {
+
+namespace Ui {
+class TFormRegistryEditor;
+}
+
+class SettingsStore;
+
+// Edits where the database is and how it is reached. Nothing is checked when it is saved: the settings say what a
+// later start finds or does not find.
+class TFormRegistryEditor final : public QDialog {
+    Q_OBJECT
+
+public:
+    // Asks for a folder, beginning at the given one; an empty answer means that none was chosen.
+    using FolderChooser = std::function<QString(QWidget *parent, const QString &current)>;
+
+    TFormRegistryEditor(SettingsStore &settings, Prompts &prompts, QWidget *parent = nullptr,
+                        FolderChooser chooser = {});
+    ~TFormRegistryEditor() override;
+
+    // Shows what is stored; done each time the screen is shown.
+    void formShow();
+    void actionModeChange();
+    void actionOK(); // saves all four settings and closes
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void chooseFolder();
+    bool clientServerChosen() const;
+    void save(const QString &setting, const QString &value);
+
+    SettingsStore &m_settings;
+    Prompts &m_prompts;
+    FolderChooser m_chooser;
+    std::unique_ptr<Ui::TFormRegistryEditor> m_ui;
+};
+
+} // namespace Tallymere

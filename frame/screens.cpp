@@ -1,0 +1,48 @@
+#include "frame/screenregistry.h"
+
+#include "controls/listscreen.h"
+#include "controls/screencontext.h"
+#include "transactions/invreceiptsform.h"
+#include "transactions/invtotalsform.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+template <typename Screen> QWidget *make(ScreenContext &context, QWidget *parent)
+{
+    return new Screen(context, parent);
+}
+
+template <typename Screen> ScreenKind listScreen()
+{
+    const auto list = [](QWidget &screen) -> Screen & { return static_cast<Screen &>(screen); };
+    return {.create = make<Screen>,
+            .refresh = [list](QWidget &screen) { list(screen).refreshList(); },
+            .resetFilter = [list](QWidget &screen) { list(screen).resetFilter(); },
+            .showHandler = [list](QWidget &screen) { list(screen).showAgain(); },
+            .firstRecord = {},
+            .post = {}};
+}
+
+// A list of documents, which also posts them.
+template <typename Screen> ScreenKind documentList()
+{
+    ScreenKind kind = listScreen<Screen>();
+    kind.post = [](QWidget &screen) { static_cast<Screen &>(screen).mnuPostClick(); };
+    return kind;
+}
+
+} // namespace
+
+ScreenRegistry productScreens()
+{
+    ScreenRegistry screens;
+    screens.add(u"frmInvReceipts"_s, documentList<TfrmInvReceipts>());
+    screens.add(u"frmInvTotals"_s, listScreen<TfrmInvTotals>());
+    return screens;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,84 @@
+#include "host/company.h"
+
+#include "engine/database.h"
+#include "engine/error.h"
+#include "engine/session.h"
+#include "engine/table.h"
+#include "frame/shared/connectiondecision.h"
+#include "frame/shared/initfile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+// The start page tells what is wrong; boxes on the way would say it twice.
+class NoPrompts final : public Prompts {
+public:
+    void inform(const QString &) override { }
+    void warn(const QString &) override { }
+    void error(const QString &) override { }
+    bool confirm(const QString &, const QString &) override { return false; }
+    Answer yesNoCancel(const QString &) override { return Answer::Cancel; }
+    bool retry(const QString &) override { return false; }
+};
+
+QString folderOf(const SettingsStore &settings)
+{
+    const QString folder = dbisamAlias(settings, databaseName);
+    return folder.isEmpty() ? dbisamAlias(settings, spacedDatabaseName) : folder;
+}
+
+QString organization(const SettingsStore &settings)
+{
+    NoPrompts prompts;
+    Engine::Session session(u"SessionHost"_s);
+    session.onStartup = [&](Engine::Session &starting) { sessionTallymereStartup(starting, settings); };
+    Engine::Database database(session, databaseName);
+    database.onBeforeConnect = [&](Engine::Database &connecting) {
+        databaseTallymereBeforeConnect(connecting, settings, prompts);
+    };
+    Engine::Table config(database, u"Config"_s);
+    config.open();
+    return config.isEmpty() ? QString() : config.value(u"Organizatn").toText();
+}
+
+} // namespace
+
+Company readCompany(const SettingsStore &settings)
+{
+    Company company;
+    const bool remote = getRegString(settings, u"Mode"_s, databaseName) == clientServerMode;
+    const QString server = getRegString(settings, u"Server IP"_s, databaseName);
+    company.location = remote ? QCoreApplication::translate("Company", "Server %1").arg(server)
+                              : QDir::toNativeSeparators(folderOf(settings));
+    company.defined = !(remote ? server : folderOf(settings)).isEmpty();
+    if (!company.defined)
+        return company;
+    try {
+        company.name = organization(settings);
+    } catch (const Engine::EngineError &error) {
+        company.problem = error.text();
+    }
+    return company;
+}
+
+bool useCompanyFolder(SettingsStore &settings, const QString &folder)
+{
+    return setRegString(settings, u"Mode"_s, fileServerMode)
+        && setRegString(settings, u"Alias"_s, QDir(folder).absolutePath());
+}
+
+QString sampleCompanyFolder(const QString &executableFolder)
+{
+    const QString folder = InitFile(executableFolder + "/HX1.ini"_L1).value(u"Companies", u"Sample Data");
+    const bool there = !folder.isEmpty() && QFileInfo(folder + "/Corvane.sqlite"_L1).isFile();
+    return there ? folder : QString();
+}
+
+} // namespace Tallymere

@@ -1,0 +1,66 @@
+#include "host/hostoptions.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("HostOptions", text); }
+
+} // namespace
+
+HostOptions readOptions(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Corvane client billing, with the inventory module."));
+    const QCommandLineOption help(u"help"_s, tr("Shows this text."));
+    const QCommandLineOption version(u"version"_s, tr("Shows the version."));
+    const QCommandLineOption module(u"module"_s, tr("Loads the inventory module from this file."), u"PATH"_s);
+    const QCommandLineOption user(u"user"_s, tr("Works as this user instead of the login name."), u"NAME"_s);
+    const QCommandLineOption data(u"data"_s, tr("Uses the company database in this folder from now on."),
+                                  u"FOLDER"_s);
+    const QCommandLineOption open(u"open"_s, tr("Opens the inventory at once."));
+    parser.addOptions({help, version, module, user, data, open});
+
+    HostOptions options;
+    const auto stop = [&options](HostOptions::Outcome outcome, const QString &message) {
+        options.outcome = outcome;
+        options.message = message;
+        return options;
+    };
+    if (!parser.parse(arguments))
+        return stop(HostOptions::Outcome::Refuse, parser.errorText());
+    if (parser.isSet(help))
+        return stop(HostOptions::Outcome::Inform, parser.helpText().trimmed());
+    if (parser.isSet(version))
+        return stop(HostOptions::Outcome::Inform, u"tallymere-host %1"_s.arg(QLatin1StringView(TALLYMERE_VERSION)));
+    if (!parser.positionalArguments().isEmpty())
+        return stop(HostOptions::Outcome::Refuse,
+                    tr("Unknown argument: %1").arg(parser.positionalArguments().constFirst()));
+
+    options.module = parser.value(module);
+    options.user = parser.isSet(user) ? parser.value(user) : loginName();
+    options.data = parser.value(data);
+    options.open = parser.isSet(open);
+    if (parser.isSet(data) && !QFileInfo(options.data).isDir())
+        return stop(HostOptions::Outcome::Refuse, tr("There is no folder %1.").arg(options.data));
+    return options;
+}
+
+QString loginName()
+{
+    for (const char *variable : {"USER", "LOGNAME", "USERNAME"}) {
+        const QString name = qEnvironmentVariable(variable);
+        if (!name.isEmpty())
+            return name;
+    }
+    return QDir::home().dirName();
+}
+
+} // namespace Tallymere

@@ -1,0 +1,96 @@
+#include "host/hostwindow.h"
+
+#include "host/aboutbox.h"
+#include "host/company.h"
+#include "ui_hostwindow.h"
+
+#include <QDialog>
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+HostWindow::HostWindow(SettingsStore &settings, QString user, QString moduleFile, QWidget *parent)
+    : QMainWindow(parent)
+    , m_settings(settings)
+    , m_user(std::move(user))
+    , m_moduleFile(std::move(moduleFile))
+    , m_ui(std::make_unique<Ui::HostWindow>())
+{
+    m_ui->setupUi(this);
+    m_ui->labelUser->setText(m_user);
+
+    connect(m_ui->actionDataOptions, &QAction::triggered, this, &HostWindow::editDataOptions);
+    connect(m_ui->actionReloadModule, &QAction::triggered, this, &HostWindow::loadModule);
+    connect(m_ui->actionUnloadModule, &QAction::triggered, this, &HostWindow::unloadModule);
+    connect(m_ui->actionExit, &QAction::triggered, this, &QWidget::close);
+    connect(m_ui->actionAbout, &QAction::triggered, this, [this] { AboutBox(this).exec(); });
+    connect(m_ui->buttonUseSample, &QPushButton::clicked, this, &HostWindow::useSampleCompany);
+
+    loadModule();
+    showCompany();
+}
+
+HostWindow::~HostWindow() { m_loader.unload(); }
+
+void HostWindow::loadModule() { showModule(m_loader.load(m_moduleFile, this, m_ui->menuInventory)); }
+
+void HostWindow::unloadModule()
+{
+    m_loader.unload();
+    showModule(tr("Unloaded."));
+}
+
+void HostWindow::openModule()
+{
+    const QList<QAction *> items = m_ui->menuInventory->actions();
+    if (!items.isEmpty())
+        items.constFirst()->trigger();
+}
+
+void HostWindow::showCompany()
+{
+    const Company company = readCompany(m_settings);
+    const QString name = company.name.isEmpty() ? tr("No company") : company.name;
+    m_ui->labelCompany->setText(name);
+    setWindowTitle(company.name.isEmpty() ? u"Corvane"_s : tr("Corvane - %1").arg(company.name));
+    m_ui->labelDatabase->setText(company.defined ? company.location : tr("Not set. Choose File, Data Options..."));
+    m_ui->labelProblem->setText(company.problem);
+    m_ui->labelProblem->setVisible(!company.problem.isEmpty());
+
+    const QString sample = sampleCompanyFolder(QCoreApplication::applicationDirPath());
+    m_ui->panelSample->setVisible(!company.defined && !sample.isEmpty());
+    m_ui->labelSample->setText(tr("A sample company is in %1.").arg(sample));
+}
+
+void HostWindow::showModule(const QString &problem)
+{
+    const bool loaded = m_loader.isLoaded();
+    m_ui->labelModule->setText(loaded ? tr("Loaded. Choose Inventory, Tallymere.") : problem);
+    m_ui->menuInventory->setEnabled(loaded);
+    m_ui->actionDataOptions->setEnabled(loaded);
+    m_ui->actionUnloadModule->setEnabled(loaded);
+    m_ui->actionReloadModule->setText(loaded ? tr("&Reload Module") : tr("&Load Module"));
+}
+
+void HostWindow::editDataOptions()
+{
+    const std::unique_ptr<QWidget> form(m_loader.createForm(u"TFormRegistryEditor"_s, this));
+    auto *dialog = qobject_cast<QDialog *>(form.get());
+    if (!dialog || dialog->exec() != QDialog::Accepted)
+        return;
+    // A module that is open keeps the database it began with.
+    loadModule();
+    showCompany();
+}
+
+void HostWindow::useSampleCompany()
+{
+    if (!useCompanyFolder(m_settings, sampleCompanyFolder(QCoreApplication::applicationDirPath())))
+        m_ui->labelSample->setText(tr("The settings cannot be written."));
+    else
+        showCompany();
+}
+
+} // namespace Tallymere

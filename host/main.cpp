@@ -1,0 +1,46 @@
+#include "frame/shared/settingsstore.h"
+#include "host/company.h"
+#include "host/hostoptions.h"
+#include "host/hostwindow.h"
+
+#include <cstdio>
+#include <QApplication>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+int say(FILE *stream, const QString &text, int status)
+{
+    std::fputs(qPrintable(text + u'\n'), stream);
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // The options come first: --help needs no display.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const HostOptions options = readOptions(arguments);
+    if (options.outcome == HostOptions::Outcome::Inform)
+        return say(stdout, options.message, 0);
+    if (options.outcome == HostOptions::Outcome::Refuse)
+        return say(stderr, options.message, 2);
+
+    QApplication application(argc, argv);
+    QApplication::setApplicationDisplayName(u"Corvane"_s);
+    SystemSettings settings;
+    if (!options.data.isEmpty() && !useCompanyFolder(settings, options.data))
+        return say(stderr, keyErrorText(), 1);
+
+    HostWindow window(settings, options.user, moduleFile(options.module, QCoreApplication::applicationDirPath()));
+    window.show();
+    if (options.open)
+        QTimer::singleShot(0, &window, &HostWindow::openModule);
+    return QApplication::exec();
+}
