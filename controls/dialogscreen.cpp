@@ -1,0 +1,35 @@
+#include "controls/dialogscreen.h"
+
+#include <QLineEdit>
+#include <QShowEvent>
+
+namespace Tallymere {
+
+DialogScreen::DialogScreen(ScreenContext &context, QWidget *parent)
+    : QDialog(parent)
+    , m_context(context)
+    , m_guard(context.prompts, [this](const QString &column) { focusColumn(column); })
+{
+    setModal(true);
+}
+
+QWidget *DialogScreen::widgetOfColumn(const QString &) const { return nullptr; }
+
+void DialogScreen::focusColumn(const QString &column)
+{
+    QWidget *widget = widgetOfColumn(column);
+    if (!widget)
+        return;
+    widget->setFocus();
+    if (auto *edit = qobject_cast<QLineEdit *>(widget))
+        edit->selectAll();
+}
+
+void DialogScreen::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        m_guard.run([this] { showStep(); });
+}
+
+} // namespace Tallymere

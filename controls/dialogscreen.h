@@ -1,0 +1,34 @@
+#pragma once
+
+#include "controls/guard.h"
+#include "controls/screencontext.h"
+
+#include <QDialog>
+
+namespace Tallymere {
+
+// A small modal dialog: search, find, filter, posting. Enter presses the default button, Escape cancels.
+class DialogScreen : public QDialog {
+    Q_OBJECT
+
+public:
+    const Guard &guard() const { return m_guard; }
+
+protected:
+    DialogScreen(ScreenContext &context, QWidget *parent);
+
+    ScreenContext &context() const { return m_context; }
+    // Where a refused column's message puts the cursor; the widget's text is selected.
+    virtual QWidget *widgetOfColumn(const QString &column) const;
+
+    void showEvent(QShowEvent *event) override;
+    virtual void showStep() { } // each time the dialog opens
+
+private:
+    void focusColumn(const QString &column);
+
+    ScreenContext &m_context;
+    Guard m_guard;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,152 @@
+#include "controls/entryscreen.h"
+
+#include "controls/screenmetrics.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr auto bottomPanel = "RzPanelBottom"_L1;
+} // namespace
+
+EntryScreen::EntryScreen(ScreenContext &context, QWidget *parent)
+    : QDialog(parent, Qt::Window)
+    , m_context(context)
+    , m_guard(context.prompts, [this](const QString &column) { focusColumn(column); })
+    , m_binder(this, m_guard)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void EntryScreen::buildScreen()
+{
+    const QList<QPushButton *> buttons = findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
+        button->setAutoDefault(false); // Enter moves on, so no button may take it
+    if (auto *ok = findChild<QPushButton *>(u"btnOK"_s))
+        connect(ok, &QPushButton::clicked, this, &EntryScreen::btnOKClick);
+    if (auto *cancel = findChild<QPushButton *>(u"btnCancel"_s)) {
+        cancel->setProperty("keepsEntry", true);
+        connect(cancel, &QPushButton::clicked, this, &EntryScreen::btnCancelClick);
+    }
+    if (auto *panel = findChild<QWidget *>(bottomPanel))
+        panel->installEventFilter(this);
+    showCaption();
+}
+
+bool EntryScreen::focusColumn(const QString &column)
+{
+    QWidget *widget = m_binder.widgetFor(column);
+    if (!widget)
+        return false;
+    widget->setFocus();
+    return true;
+}
+
+// --- saving and closing
+// ------------------------------------------------------------------------------------------------
+
+void EntryScreen::saveAndReport()
+{
+    m_binder.commit();
+    saveChanges();
+    if (const int key = savedKey(); key != 0)
+        Q_EMIT saved(key);
+}
+
+void EntryScreen::btnOKClick()
+{
+    if (m_guard.run([this] { saveAndReport(); }))
+        leave();
+}
+
+void EntryScreen::btnCancelClick()
+{
+    const bool dropped = m_guard.run([this] {
+        const WaitCursor hourglass;
+        dropChanges();
+    });
+    if (dropped)
+        leave();
+}
+
+void EntryScreen::leave()
+{
+    m_settled = true;
+    close();
+}
+
+bool EntryScreen::settleChanges()
+{
+    const Pending found = m_binder.hasEntry() ? Pending::Changes : pending();
+    if (found == Pending::Nothing)
+        return true;
+    const Answer answer = found == Pending::Untouched
+        ? Answer::No
+        : m_context.prompts.yesNoCancel(tr("Do you want to save changes?"));
+    switch (answer) {
+    case Answer::Yes:
+        return m_guard.run([this] { saveAndReport(); });
+    case Answer::No:
+        return m_guard.run([this] { dropChanges(); });
+    case Answer::Cancel:
+        break;
+    }
+    return false;
+}
+
+void EntryScreen::closeEvent(QCloseEvent *event)
+{
+    if (m_settled || settleChanges()) {
+        m_settled = true;
+        event->accept();
+    } else {
+        event->ignore();
+    }
+}
+
+void EntryScreen::reject() { close(); }
+
+// --- keys and sizes
+// ------------------------------------------------------------------------------------------------------
+
+void EntryScreen::keyPressEvent(QKeyEvent *event)
+{
+    if (takeKey(event))
+        return;
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && !(event->modifiers() & ~Qt::KeypadModifier)) {
+        if (auto *button = qobject_cast<QAbstractButton *>(focusWidget()); qobject_cast<QPushButton *>(button))
+            button->click();
+        else
+            focusNextChild();
+        return;
+    }
+    if (event->key() == Qt::Key_Escape && m_binder.revert(focusWidget()))
+        return;
+    QDialog::keyPressEvent(event);
+}
+
+void EntryScreen::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous() && !m_firstSize.isValid())
+        m_firstSize = size();
+}
+
+bool EntryScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonDblClick && watched->objectName() == bottomPanel
+        && m_firstSize.isValid())
+        resize(m_firstSize);
+    return QDialog::eventFilter(watched, event);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "controls/fieldbinder.h"
+#include "controls/guard.h"
+#include "controls/screencontext.h"
+
+#include <QDialog>
+
+namespace Tallymere {
+
+// A window in which one record or document is entered. Not modal; it is freed when it is closed.
+//
+// Enter moves on as Tab does. Escape takes back what is being typed, else it closes. Closing with changes asks
+// whether they shall be saved; a new record that nobody has touched is dropped silently.
+class EntryScreen : public QDialog {
+    Q_OBJECT
+
+public:
+    const Guard &guard() const { return m_guard; }
+
+    void btnOKClick(); // saves and closes; stays open when the saving is refused
+    void btnCancelClick(); // drops the changes and closes
+
+Q_SIGNALS:
+    void saved(int key); // the record has been written; the list that opened the screen moves there
+
+protected:
+    EntryScreen(ScreenContext &context, QWidget *parent);
+
+    enum class Pending { Nothing, Untouched, Changes };
+
+    // --- what the kinds of screens give
+    // -----------------------------------------------------------------------------
+    virtual Pending pending() const = 0; // what closing would lose
+    virtual void saveChanges() = 0; // throws what refuses
+    virtual void dropChanges() = 0;
+    virtual int savedKey() const = 0; // 0 when nothing has been written in this visit
+    virtual QString caption() const = 0;
+    // Brings the cursor to what shows the column; the base knows the bound widgets.
+    virtual bool focusColumn(const QString &column);
+    // What a key means on this screen before anything else; true when it was used.
+    virtual bool takeKey(QKeyEvent *) { return false; }
+
+    // Connects OK and Cancel. Called once, after the form has been set up and its fields are bound.
+    void buildScreen();
+    void showCaption() { setWindowTitle(caption()); }
+
+    ScreenContext &context() const { return m_context; }
+    FieldBinder &binder() { return m_binder; }
+    const FieldBinder &binder() const { return m_binder; }
+
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void reject() override;
+
+private:
+    void leave(); // closes without a question
+    bool settleChanges(); // asks if need be; false: the screen stays
+    void saveAndReport();
+
+    ScreenContext &m_context;
+    Guard m_guard;
+    FieldBinder m_binder;
+    QSize m_firstSize;
+    bool m_settled = false;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,176 @@
+#include "controls/fieldbinder.h"
+
+#include "controls/fieldbinding.h"
+#include "engine/error.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QVariant>
+#include <QWidget>
+
+namespace Tallymere {
+
+namespace {
+
+constexpr auto fieldProperty = "dataField";
+constexpr auto sourceProperty = "dataSource";
+constexpr auto keepsEntryProperty = "keepsEntry";
+
+} // namespace
+
+FieldBinder::FieldBinder(QWidget *form, const Guard &guard)
+    : m_form(form)
+    , m_guard(guard)
+{
+}
+
+FieldBinder::~FieldBinder() = default;
+
+void FieldBinder::bind(Engine::Table &table, const QString &source)
+{
+    const FieldBinding::Reports reports{[this](FieldBinding &binding) { startEdit(binding); },
+                                        [this](FieldBinding &binding) { leave(binding); }};
+    const QList<QWidget *> widgets = m_form->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const QString name = widget->property(fieldProperty).toString();
+        if (name.isEmpty() || widget->property(sourceProperty).toString() != source)
+            continue;
+        const int number = table.fieldIndex(name);
+        auto binding = number < 0 ? nullptr : FieldBinding::make(widget, table, number, reports);
+        if (!binding)
+            throw Engine::EngineError(
+                Engine::ErrorCode::NoSuchField,
+                tr("%1 cannot show field %2 of table %3.").arg(widget->objectName(), name, table.name()));
+        widget->installEventFilter(this);
+        binding->setReadOnly(m_readOnly);
+        binding->show();
+        m_bindings.push_back(std::move(binding));
+    }
+    watch(table);
+}
+
+void FieldBinder::watch(Engine::Table &table)
+{
+    connect(&table, &Engine::DataSet::fieldChanged, this, &FieldBinder::refresh);
+    connect(&table, &Engine::DataSet::currentChanged, this, &FieldBinder::refresh);
+    connect(&table, &Engine::DataSet::closed, this, &FieldBinder::refresh);
+}
+
+void FieldBinder::setEntryRule(const QString &field, std::function<void(const QString &)> rule)
+{
+    if (FieldBinding *binding = bindingOf(widgetFor(field)))
+        binding->setEntryRule(std::move(rule));
+}
+
+QWidget *FieldBinder::widgetFor(const QString &column) const
+{
+    for (const auto &binding : m_bindings) {
+        if (binding->field().name.compare(column, Qt::CaseInsensitive) == 0)
+            return binding->widget();
+    }
+    return nullptr;
+}
+
+FieldBinding *FieldBinder::bindingOf(const QObject *widget) const
+{
+    for (const auto &binding : m_bindings) {
+        if (binding->widget() == widget)
+            return binding.get();
+    }
+    return nullptr;
+}
+
+void FieldBinder::commit()
+{
+    for (const auto &binding : m_bindings)
+        binding->commit();
+}
+
+bool FieldBinder::hasEntry() const
+{
+    return std::any_of(m_bindings.begin(), m_bindings.end(),
+                       [](const auto &binding) { return binding->hasEntry(); });
+}
+
+bool FieldBinder::revert(QWidget *widget)
+{
+    FieldBinding *binding = bindingOf(widget);
+    if (!binding || !binding->hasEntry())
+        return false;
+    binding->show();
+    return true;
+}
+
+void FieldBinder::setReadOnly(bool readOnly)
+{
+    m_readOnly = readOnly;
+    for (const auto &binding : m_bindings)
+        binding->setReadOnly(readOnly);
+}
+
+void FieldBinder::refresh()
+{
+    for (const auto &binding : m_bindings) {
+        if (!binding->hasEntry())
+            binding->show();
+    }
+}
+
+// The first key typed locks the record; when that is refused, the widget shows what it showed.
+void FieldBinder::startEdit(FieldBinding &binding)
+{
+    if (binding.table().isEditing())
+        return;
+    const std::exception_ptr failure = Guard::attempt([&] { binding.table().edit(); });
+    if (!failure)
+        return;
+    binding.show();
+    reportLater(failure);
+}
+
+// The box opens once the event that led to it is over.
+void FieldBinder::reportLater(const std::exception_ptr &failure)
+{
+    QMetaObject::invokeMethod(
+        this, [this, failure] { m_guard.report(failure); }, Qt::QueuedConnection);
+}
+
+// The cursor comes back first, then the box opens.
+void FieldBinder::leave(FieldBinding &binding)
+{
+    const std::exception_ptr failure = Guard::attempt([&] { binding.commit(); });
+    if (!failure)
+        return;
+    QWidget *widget = binding.widget();
+    QMetaObject::invokeMethod(
+        this,
+        [this, widget, failure] {
+            widget->setFocus();
+            m_guard.report(failure);
+            // A choice is refused as a whole; a typed text stays to be mended.
+            if (!widget->inherits("QLineEdit"))
+                revert(widget);
+        },
+        Qt::QueuedConnection);
+}
+
+bool FieldBinder::eventFilter(QObject *watched, QEvent *event)
+{
+    FieldBinding *binding = bindingOf(watched);
+    if (!binding)
+        return false;
+    if (event->type() == QEvent::FocusIn) {
+        binding->setActive(true);
+    } else if (event->type() == QEvent::FocusOut) {
+        const auto reason = static_cast<QFocusEvent *>(event)->reason();
+        const QWidget *next = QApplication::focusWidget();
+        const bool stays = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
+        if (stays || (next && next->property(keepsEntryProperty).toBool()))
+            return false;
+        leave(*binding);
+        binding->setActive(false);
+    }
+    return false;
+}
+
+} // namespace Tallymere

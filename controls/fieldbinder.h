@@ -1,0 +1,61 @@
+#pragma once
+
+#include "controls/guard.h"
+#include "engine/table.h"
+
+#include <memory>
+#include <QObject>
+#include <vector>
+
+class QWidget;
+
+namespace Tallymere {
+
+class FieldBinding;
+
+// Ties the widgets of a form to the fields of tables.
+//
+// A widget names its field in the dynamic property "dataField", and its table in "dataSource" where the form has
+// several. Line edits, lookup boxes, check boxes, plain text edits and labels can be tied. What the user enters
+// puts the table into edit at once and is handed over on leaving the widget; a refusal is shown and the cursor
+// stays. A line edit with the dynamic property "editMask" has that input mask while it has the cursor. Leaving
+// towards a widget with the dynamic property "keepsEntry" (a Cancel button) hands nothing over.
+class FieldBinder : public QObject {
+    Q_OBJECT
+
+public:
+    FieldBinder(QWidget *form, const Guard &guard);
+    ~FieldBinder() override;
+
+    // Ties all widgets of the form whose table is the source. The table must be open; a field that it does not have
+    // throws NoSuchField, so that a misspelt form shows at once.
+    void bind(Engine::Table &table, const QString &source = {});
+
+    // What is typed into the line edit of a field goes to the rule instead of the field: for a looked-up number
+    // that stands for a key.
+    void setEntryRule(const QString &field, std::function<void(const QString &text)> rule);
+
+    QWidget *widgetFor(const QString &column) const; // nullptr when no widget shows it
+    // Hands over what has been entered and not handed over yet; throws what refuses it.
+    void commit();
+    bool hasEntry() const; // something was entered that commit() would hand over
+    // Puts the field's value back into the widget; false when nothing had been entered there.
+    bool revert(QWidget *widget);
+    void setReadOnly(bool readOnly);
+    void refresh(); // shows the tables' values, except where an entry waits
+
+private:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void leave(FieldBinding &binding);
+    void startEdit(FieldBinding &binding);
+    void reportLater(const std::exception_ptr &failure);
+    void watch(Engine::Table &table);
+    FieldBinding *bindingOf(const QObject *widget) const;
+
+    QWidget *m_form;
+    const Guard &m_guard;
+    std::vector<std::unique_ptr<FieldBinding>> m_bindings;
+    bool m_readOnly = false;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,241 @@
+#include "controls/fieldbinding.h"
+
+#include "controls/lookupcombobox.h"
+#include "frame/shared/regionalsettings.h"
+
+#include <algorithm>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QVariant>
+
+namespace Tallymere {
+
+using Engine::Value;
+
+FieldBinding::FieldBinding(QWidget *widget, Engine::Table &table, int field, Reports reports)
+    : m_widget(widget)
+    , m_table(table)
+    , m_field(field)
+    , m_reports(std::move(reports))
+{
+}
+
+FieldBinding::~FieldBinding() = default;
+
+const Engine::Field &FieldBinding::field() const { return std::as_const(m_table).Engine::DataSet::field(m_field); }
+
+Value FieldBinding::value() const { return m_table.isOpen() ? m_table.value(m_field) : Value(); }
+
+void FieldBinding::show()
+{
+    m_entered = false;
+    display();
+}
+
+void FieldBinding::commit()
+{
+    settle();
+    if (!m_entered)
+        return;
+    if (!m_table.isEditing())
+        m_table.edit();
+    store();
+    show();
+}
+
+void FieldBinding::storeText(const QString &text)
+{
+    if (m_rule)
+        m_rule(text);
+    else
+        m_table.setText(field().name, text);
+}
+
+void FieldBinding::setActive(bool) { }
+
+void FieldBinding::entered()
+{
+    m_entered = true;
+    m_reports.begun(*this);
+}
+
+namespace {
+
+// A mask is written with "/" between the parts of a date; the user's own separator takes its place.
+QString userMask(QString mask) { return mask.replace(u'/', RegionalSettings::system().dateSeparator); }
+
+// Shows the display text, and the edit text while it has the cursor.
+class LineEditBinding final : public FieldBinding {
+public:
+    LineEditBinding(QLineEdit *edit, Engine::Table &table, int number, Reports reports)
+        : FieldBinding(edit, table, number, std::move(reports))
+        , m_edit(edit)
+        , m_mask(userMask(edit->property("editMask").toString()))
+    {
+        if (field().type == Engine::FieldType::Text && edit->maxLength() > field().size)
+            edit->setMaxLength(field().size);
+        QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { entered(); });
+    }
+
+    void setReadOnly(bool readOnly) override { m_edit->setReadOnly(readOnly); }
+
+    void setActive(bool active) override
+    {
+        m_active = active && !m_edit->isReadOnly();
+        if (hasEntry())
+            return;
+        m_edit->setInputMask(m_active ? m_mask : QString());
+        show();
+        if (m_active)
+            m_edit->selectAll();
+    }
+
+private:
+    void display() override
+    {
+        const QString text = m_active ? field().editText(value()) : field().displayText(value());
+        if (m_edit->text() != text)
+            m_edit->setText(text);
+        if (!m_active)
+            m_edit->setCursorPosition(0);
+    }
+
+    void store() override { storeText(typedText()); }
+
+    // A mask with nothing typed leaves its separators, which are no entry.
+    QString typedText() const
+    {
+        const QString text = m_edit->text();
+        const bool blank = !m_mask.isEmpty()
+            && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); });
+        return blank ? QString() : text;
+    }
+
+    QLineEdit *m_edit;
+    QString m_mask;
+    bool m_active = false;
+};
+
+class LookupBinding final : public FieldBinding {
+public:
+    LookupBinding(LookupComboBox *box, Engine::Table &table, int number, Reports reports)
+        : FieldBinding(box, table, number, std::move(reports))
+        , m_box(box)
+    {
+        QObject::connect(box, &LookupComboBox::chosen, box, [this] {
+            entered();
+            if (hasEntry() && !m_settling)
+                completed();
+        });
+    }
+
+    void setReadOnly(bool readOnly) override { m_box->setReadOnly(readOnly); }
+
+private:
+    void display() override { m_box->setChosenId(value().toInt()); }
+
+    void settle() override
+    {
+        m_settling = true;
+        m_box->settle();
+        m_settling = false;
+    }
+
+    void store() override
+    {
+        const int id = m_box->chosenId();
+        table().set(field().name, id == 0 ? Value() : Value(id));
+    }
+
+    LookupComboBox *m_box;
+    bool m_settling = false;
+};
+
+class CheckBinding final : public FieldBinding {
+public:
+    CheckBinding(QCheckBox *box, Engine::Table &table, int number, Reports reports)
+        : FieldBinding(box, table, number, std::move(reports))
+        , m_box(box)
+    {
+        QObject::connect(box, &QCheckBox::clicked, box, [this] {
+            entered();
+            if (hasEntry())
+                completed();
+        });
+    }
+
+    void setReadOnly(bool readOnly) override { m_box->setDisabled(readOnly); }
+
+private:
+    void display() override { m_box->setChecked(value().toBool()); }
+    void store() override { table().set(field().name, Value(m_box->isChecked())); }
+
+    QCheckBox *m_box;
+};
+
+class MemoBinding final : public FieldBinding {
+public:
+    MemoBinding(QPlainTextEdit *edit, Engine::Table &table, int number, Reports reports)
+        : FieldBinding(edit, table, number, std::move(reports))
+        , m_edit(edit)
+    {
+        QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [this] { entered(); });
+    }
+
+    void setReadOnly(bool readOnly) override { m_edit->setReadOnly(readOnly); }
+
+private:
+    void display() override
+    {
+        const QSignalBlocker blocker(m_edit);
+        m_edit->setPlainText(value().toText());
+    }
+
+    void store() override
+    {
+        const QString text = m_edit->toPlainText();
+        table().set(field().name, text.isEmpty() ? Value() : Value(text));
+    }
+
+    QPlainTextEdit *m_edit;
+};
+
+class LabelBinding final : public FieldBinding {
+public:
+    LabelBinding(QLabel *label, Engine::Table &table, int number, Reports reports)
+        : FieldBinding(label, table, number, std::move(reports))
+        , m_label(label)
+    {
+        label->setTextFormat(Qt::PlainText);
+    }
+
+    void setReadOnly(bool) override { }
+
+private:
+    void display() override { m_label->setText(field().displayText(value())); }
+    void store() override { }
+
+    QLabel *m_label;
+};
+
+} // namespace
+
+std::unique_ptr<FieldBinding> FieldBinding::make(QWidget *widget, Engine::Table &table, int number, Reports reports)
+{
+    if (auto *edit = qobject_cast<QLineEdit *>(widget))
+        return std::make_unique<LineEditBinding>(edit, table, number, std::move(reports));
+    if (auto *lookup = qobject_cast<LookupComboBox *>(widget))
+        return std::make_unique<LookupBinding>(lookup, table, number, std::move(reports));
+    if (auto *check = qobject_cast<QCheckBox *>(widget))
+        return std::make_unique<CheckBinding>(check, table, number, std::move(reports));
+    if (auto *memo = qobject_cast<QPlainTextEdit *>(widget))
+        return std::make_unique<MemoBinding>(memo, table, number, std::move(reports));
+    if (auto *label = qobject_cast<QLabel *>(widget))
+        return std::make_unique<LabelBinding>(label, table, number, std::move(reports));
+    return nullptr;
+}
+
+} // namespace Tallymere

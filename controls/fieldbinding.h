@@ -1,0 +1,57 @@
+#pragma once
+
+#include "engine/table.h"
+
+#include <functional>
+#include <memory>
+
+class QWidget;
+
+namespace Tallymere {
+
+// One widget tied to one field.
+class FieldBinding {
+public:
+    // What a binding reports to the form: that the user has begun an entry, and that one is complete.
+    struct Reports {
+        std::function<void(FieldBinding &)> begun;
+        std::function<void(FieldBinding &)> complete;
+    };
+
+    // The binding for the widget's kind; null for a widget that cannot show a field.
+    static std::unique_ptr<FieldBinding> make(QWidget *widget, Engine::Table &table, int field, Reports reports);
+
+    virtual ~FieldBinding();
+
+    QWidget *widget() const { return m_widget; }
+    Engine::Table &table() const { return m_table; }
+    const Engine::Field &field() const;
+    void setEntryRule(std::function<void(const QString &text)> rule) { m_rule = std::move(rule); }
+    bool hasEntry() const { return m_entered; }
+
+    void show(); // the field's value; drops an entry
+    void commit(); // hands an entry to the table; throws what refuses it, and the entry stays
+    virtual void setReadOnly(bool readOnly) = 0;
+    virtual void setActive(bool active); // the cursor comes and goes
+
+protected:
+    FieldBinding(QWidget *widget, Engine::Table &table, int field, Reports reports);
+
+    virtual void settle() { } // a choice that is still open becomes an entry
+    virtual void display() = 0;
+    virtual void store() = 0;
+    Engine::Value value() const;
+    void entered(); // the user has changed the widget
+    void completed() { m_reports.complete(*this); }
+    void storeText(const QString &text); // through the entry rule, or the field's own parsing
+
+private:
+    QWidget *m_widget;
+    Engine::Table &m_table;
+    int m_field;
+    Reports m_reports;
+    std::function<void(const QString &text)> m_rule;
+    bool m_entered = false;
+};
+
+} // namespace Tallymere

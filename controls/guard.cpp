@@ -1,0 +1,59 @@
+#include "controls/guard.h"
+
+#include "engine/error.h"
+#include "frame/shared/ruleerror.h"
+
+#include <QLoggingCategory>
+
+namespace Tallymere {
+
+Q_LOGGING_CATEGORY(screens, "tallymere.screens", QtWarningMsg)
+
+Guard::Guard(Prompts &prompts, std::function<void(const QString &)> focusColumn)
+    : m_prompts(prompts)
+    , m_focusColumn(std::move(focusColumn))
+{
+}
+
+bool Guard::run(const std::function<void()> &handler) const
+{
+    const std::exception_ptr failure = attempt(handler);
+    if (failure)
+        report(failure);
+    return !failure;
+}
+
+std::exception_ptr Guard::attempt(const std::function<void()> &handler)
+{
+    try {
+        handler();
+        return {};
+    } catch (...) {
+        return std::current_exception();
+    }
+}
+
+void Guard::report(const std::exception_ptr &failure) const
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (const RuleError &error) {
+        focus(error.column());
+        m_prompts.error(error.message());
+    } catch (const SilentAbort &abort) {
+        focus(abort.column());
+    } catch (const Engine::EngineError &error) {
+        qCDebug(screens) << "engine error" << static_cast<int>(error.code()) << error.driverText();
+        m_prompts.error(error.text());
+    } catch (const std::exception &error) {
+        m_prompts.error(QString::fromUtf8(error.what()));
+    }
+}
+
+void Guard::focus(const QString &column) const
+{
+    if (m_focusColumn && !column.isEmpty())
+        m_focusColumn(column);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "frame/shared/prompts.h"
+
+#include <exception>
+#include <functional>
+#include <QObject>
+#include <QString>
+
+namespace Tallymere {
+
+// The one place where what stops a handler is shown. A refusal by a rule moves the focus to the widget of the
+// refused column and shows its message in the standard error box; a silent stop moves the focus only; an error of
+// the engine is shown as it stands. Nothing gets past it into the event loop.
+class Guard {
+public:
+    // The second argument moves the focus to what shows a column; without it the focus stays.
+    explicit Guard(Prompts &prompts, std::function<void(const QString &column)> focusColumn = {});
+
+    Prompts &prompts() const { return m_prompts; }
+
+    // Runs a handler; true when it ran to its end.
+    bool run(const std::function<void()> &handler) const;
+
+    // The two halves of run(), for handlers inside an event that must not open a box: null when it ran to its end.
+    static std::exception_ptr attempt(const std::function<void()> &handler);
+    void report(const std::exception_ptr &failure) const;
+
+private:
+    void focus(const QString &column) const;
+
+    Prompts &m_prompts;
+    std::function<void(const QString &column)> m_focusColumn;
+};
+
+// Connects a signal to a handler without arguments that runs under the receiver's guard().
+template <typename Sender, typename Signal, typename Receiver, typename Handler>
+QMetaObject::Connection connectGuarded(const Sender *sender, Signal signal, Receiver *receiver, Handler handler)
+{
+    return QObject::connect(sender, signal, receiver, [receiver, handler] {
+        receiver->guard().run([&] { std::invoke(handler, receiver); });
+    });
+}
+
+} // namespace Tallymere

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "controls/datagrid.h"
+#include "controls/guard.h"
+#include "controls/linemodel.h"
+
+class QLineEdit;
+
+namespace Tallymere {
+
+// What a line grid asks of the document that it shows. Each may throw to refuse.
+struct LineActions {
+    std::function<void()> begin; // before an editor opens: the current line goes into edit
+    std::function<void()> append;
+    std::function<void()> remove;
+    // The text typed into a column of the current line, by the column's field.
+    std::function<void(const QString &field, const QString &text)> enter;
+    std::function<void(const QString &field)> columnSelected;
+    // Opens the search of a column that has one; the columns are named in searchColumns.
+    std::function<void(const QString &field)> search;
+    QStringList searchColumns;
+    // The full text that a typed beginning stands for; empty when there is none or the column does not complete.
+    std::function<QString(const QString &field, const QString &typed)> complete;
+};
+
+// The lines of a document, edited in place.
+//
+// Enter goes to the next column, from the last one to the next line, and appends one after the last. Page Down
+// appends, Ctrl+Insert and Ctrl+Delete append and delete, Ctrl+Enter searches. Leaving a row writes it; when that
+// is refused the cursor stays. Escape drops first the text being typed, then the changes of the row.
+class LineGrid : public DataGrid {
+    Q_OBJECT
+
+public:
+    explicit LineGrid(QWidget *parent = nullptr);
+
+    void setLines(Engine::Table &lines, const QList<GridColumn> &columns, LineActions actions, const Guard &guard);
+    // Lines can neither be appended nor deleted nor searched; what an edit says is up to the document.
+    void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
+    bool isReadOnly() const { return m_readOnly; }
+
+    // Hands the text being typed to the document; throws what refuses it, and the editor stays open.
+    void commitEntry();
+    bool hasEntry() const { return m_editor != nullptr; }
+    void dropEntry(); // without a word
+
+    bool showColumn(const QString &field); // goes to it in the current line; false when no column shows the field
+    void enterAtFirstLine(); // focus, first line and column; appends when there are none
+    void appendLine();
+    void removeLine();
+    void nextCell();
+    void search(); // in the current column, where it has one
+
+protected:
+    using DataGrid::edit;
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+
+private:
+    friend class LineDelegate;
+
+    QWidget *openEditor(QWidget *parent, const QModelIndex &index);
+    bool editorKey(QKeyEvent *event);
+    void editorLeft(Qt::FocusReason reason);
+    void editorGone() { m_editor = nullptr; }
+    bool finishEntry(); // commits and closes; false, with the editor open, when refused
+    void closeEntry();
+    void reopen(const QModelIndex &index, const QString &text, const std::exception_ptr &failure);
+    void completeEntry(const QString &typed);
+
+    bool moveToRow(int row);
+    void takeCursor();
+    void selectCell(int row, int column);
+    QString currentField() const;
+    bool searches(const QString &field) const
+    {
+        return m_actions.search && m_actions.searchColumns.contains(field);
+    }
+
+    Engine::Table *m_lines = nullptr;
+    LineModel *m_model = nullptr;
+    LineActions m_actions;
+    const Guard *m_guard = nullptr;
+    QLineEdit *m_editor = nullptr;
+    QPersistentModelIndex m_edited;
+    QString m_offered; // what the editor began with
+    bool m_readOnly = false;
+    bool m_reporting = false; // a refusal is being shown: the focus may come and go
+    bool m_deleting = false; // the last key took text away: no completion
+};
+
+} // namespace Tallymere

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "controls/tablemodel.h"
+#include "engine/table.h"
+
+#include <functional>
+#include <QItemSelectionModel>
+
+namespace Tallymere {
+
+// The lines of a table with the one that is being edited or entered. A line being entered is the last row.
+class LineModel final : public TableModel {
+    Q_OBJECT
+
+public:
+    LineModel(Engine::Table &lines, const QList<GridColumn> &columns, QObject *parent = nullptr);
+
+    int currentRow() const; // of the table's current record; -1 when there is none
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+private:
+    Engine::Value cellValue(int row, int field) const override;
+    int dataRows() const override;
+
+    Engine::Table &m_lines;
+};
+
+// A selection that asks before the cursor leaves its row, and stays where it is when that is refused.
+class LineSelection final : public QItemSelectionModel {
+    Q_OBJECT
+
+public:
+    // Brings the table to a row; false when it stays on its own.
+    using Mover = std::function<bool(int row)>;
+
+    LineSelection(QAbstractItemModel *model, Mover mover, QObject *parent);
+
+public Q_SLOTS:
+    void setCurrentIndex(const QModelIndex &index, QItemSelectionModel::SelectionFlags command) override;
+    void select(const QModelIndex &index, QItemSelectionModel::SelectionFlags command) override;
+    void select(const QItemSelection &selection, QItemSelectionModel::SelectionFlags command) override;
+
+private:
+    Mover m_mover;
+    bool m_moving = false;
+};
+
+} // namespace Tallymere

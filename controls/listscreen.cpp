@@ -1,0 +1,217 @@
+#include "controls/listscreen.h"
+
+#include "controls/screenmetrics.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr int firstRows = 12; // that the screen shows when it opens
+constexpr auto filterCommand = "mnuFilter"_L1;
+} // namespace
+
+ListScreen::ListScreen(ScreenContext &context, QWidget *parent)
+    : QMainWindow(parent)
+    , m_context(context)
+    , m_guard(context.prompts)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
+                       std::function<void()> defaultCommand)
+{
+    m_data = &set;
+    m_caption = description.caption;
+    setObjectName(description.name);
+
+    auto *body = new QWidget(this);
+    auto *layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_topPanel = new QFrame(body);
+    m_topPanel->setObjectName(u"RzPanelTop"_s);
+    m_topPanel->installEventFilter(this);
+    m_buttons = new QHBoxLayout(m_topPanel);
+    m_buttons->addStretch();
+    m_grid = new ListGrid(body);
+    m_grid->setObjectName(u"DBGrid1"_s);
+    m_grid->setAccessibleName(description.caption);
+    m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
+    layout->addWidget(m_topPanel);
+    layout->addWidget(m_grid, 1);
+    setCentralWidget(body);
+    setContextMenuPolicy(Qt::NoContextMenu);
+
+    for (const ListMenu &menu : description.menus)
+        addMenu(menu);
+    m_grid->setDataSet(set, description.columns);
+    connect(m_grid, &ListGrid::chosen, this, [this, defaultCommand] { runCommand(defaultCommand); });
+    m_grid->setFocus();
+    showFilterMark();
+}
+
+// --- commands
+// --------------------------------------------------------------------------------------------------------
+
+void ListScreen::addMenu(const ListMenu &menu)
+{
+    QMenu *shown = menuBar()->addMenu(menu.caption);
+    shown->setToolTipsVisible(true);
+    for (const ListCommand &command : menu.commands) {
+        if (command.separatorBefore)
+            shown->addSeparator();
+        if (!command.choices.isEmpty()) {
+            addChoices(shown, command);
+            continue;
+        }
+        QAction *action = addCommand(shown, command);
+        addButton(command, action);
+        addPopup(command, action);
+    }
+}
+
+void ListScreen::addChoices(QMenu *menu, const ListCommand &command)
+{
+    QMenu *choices = menu->addMenu(command.caption);
+    choices->menuAction()->setObjectName(command.name);
+    auto *group = new QActionGroup(this);
+    for (const ListCommand &choice : command.choices) {
+        QAction *action = addCommand(choices, choice);
+        action->setCheckable(true);
+        action->setChecked(group->actions().isEmpty());
+        group->addAction(action);
+    }
+}
+
+QAction *ListScreen::addCommand(QMenu *menu, const ListCommand &command)
+{
+    QAction *action = menu->addAction(command.caption);
+    action->setObjectName(command.name);
+    action->setShortcut(command.shortcut);
+    action->setCheckable(command.checkable);
+    action->setEnabled(command.run != nullptr);
+    if (!command.run)
+        action->setToolTip(tr("Not available yet"));
+    connect(action, &QAction::triggered, this, [this, run = command.run] { runCommand(run); });
+    return action;
+}
+
+void ListScreen::addButton(const ListCommand &command, QAction *action)
+{
+    if (command.button.isEmpty())
+        return;
+    auto *button = new QPushButton(command.buttonCaption, m_topPanel);
+    button->setObjectName(command.button);
+    button->setEnabled(action->isEnabled());
+    connect(button, &QPushButton::clicked, action, &QAction::trigger);
+    m_buttons->insertWidget(m_buttons->count() - 1, button);
+}
+
+void ListScreen::addPopup(const ListCommand &command, QAction *action)
+{
+    if (command.popupCaption.isEmpty())
+        return;
+    auto *entry = new QAction(command.popupCaption, m_grid);
+    entry->setEnabled(action->isEnabled());
+    connect(entry, &QAction::triggered, action, &QAction::trigger);
+    m_grid->addAction(entry);
+}
+
+void ListScreen::runCommand(const std::function<void()> &run)
+{
+    if (run)
+        m_guard.run(run);
+    // A checkable entry has toggled itself; what counts is whether the filter is on.
+    showFilterMark();
+}
+
+QAction *ListScreen::command(const QString &name) const { return findChild<QAction *>(name); }
+
+// --- the list
+// ----------------------------------------------------------------------------------------------------------
+
+void ListScreen::refreshList()
+{
+    const WaitCursor hourglass;
+    m_data->refresh();
+}
+
+bool ListScreen::moveToKey(int key) { return m_data->moveToKey({key}); }
+
+void ListScreen::applyFilter(const QString &expression)
+{
+    if (!expression.isEmpty())
+        m_data->setFilter(expression);
+    m_data->setFiltered(!expression.isEmpty());
+    showFilterMark();
+}
+
+void ListScreen::resetFilter()
+{
+    clearFilterDialog();
+    applyFilter({});
+}
+
+void ListScreen::showFilterMark()
+{
+    const bool filtered = m_data->isFiltered();
+    setWindowTitle(filtered ? tr("%1 (Filtered)").arg(m_caption) : m_caption);
+    if (QAction *filter = command(filterCommand))
+        filter->setChecked(filtered);
+}
+
+// --- the window
+// ----------------------------------------------------------------------------------------------------------
+
+void ListScreen::showAgain()
+{
+    if (isMinimized())
+        showNormal();
+    if (isVisible())
+        showStep();
+    show();
+    raise();
+    activateWindow();
+}
+
+void ListScreen::showStep() { showFilterMark(); }
+
+void ListScreen::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (event->spontaneous())
+        return;
+    if (!m_firstSize.isValid())
+        sizeForRows();
+    m_guard.run([this] { showStep(); });
+}
+
+void ListScreen::sizeForRows()
+{
+    const int width = std::max(m_grid->fullWidth(), m_topPanel->sizeHint().width());
+    const int height =
+        menuBar()->sizeHint().height() + m_topPanel->sizeHint().height() + m_grid->heightForRows(firstRows);
+    m_firstSize = QSize(width, height);
+    resize(m_firstSize);
+}
+
+bool ListScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_topPanel && event->type() == QEvent::MouseButtonDblClick && m_firstSize.isValid())
+        resize(m_firstSize);
+    return QMainWindow::eventFilter(watched, event);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "controls/datagrid.h"
+#include "controls/guard.h"
+#include "controls/screencontext.h"
+
+#include <QKeySequence>
+#include <QMainWindow>
+
+class QAction;
+class QFrame;
+class QHBoxLayout;
+
+namespace Tallymere {
+
+// One command of a list screen: an entry of a menu, and where wanted a button and an entry of the pop-up menu.
+struct ListCommand {
+    QString name; // component name of the menu's entry: "mnuFilter"
+    QString caption;
+    std::function<void()> run = {}; // empty: not available, shown disabled
+    QKeySequence shortcut = {};
+    QString button = {}; // component name of the button; empty: none
+    QString buttonCaption = {};
+    QString popupCaption = {}; // empty: not in the pop-up menu
+    bool checkable = false;
+    bool separatorBefore = false;
+    QList<ListCommand> choices = {}; // a sub-menu of entries of which one is checked
+};
+
+struct ListMenu {
+    QString caption;
+    QList<ListCommand> commands;
+};
+
+struct ListDescription {
+    QString name; // component name of the screen
+    QString caption;
+    QList<GridColumn> columns;
+    QList<ListMenu> menus;
+};
+
+// A window that shows a data set as a list, with commands on its rows. Not modal; it is freed when it is closed.
+//
+// The screens give a description, the data set and what the commands do; the base owns layout, sizes, the filter
+// mark in caption and menu, refreshing and moving.
+class ListScreen : public QMainWindow {
+    Q_OBJECT
+
+public:
+    const Guard &guard() const { return m_guard; }
+    Engine::DataSet &dataSet() const { return *m_data; }
+
+    // Reads the list anew; the cursor stays on its row.
+    void refreshList();
+    // Every record shows again: the filter is off, its command unchecked, and a filter dialog that has been opened
+    // is cleared.
+    void resetFilter();
+    // Brings the screen back: restored when minimised, its show step run when it was visible, in front.
+    void showAgain();
+    // Moves to a row by its key; false when the list does not show it.
+    bool moveToKey(int key);
+    // Switches the filter on, or off with an empty expression.
+    void applyFilter(const QString &expression);
+
+    QAction *command(const QString &name) const; // by component name; nullptr when there is none
+
+protected:
+    ListScreen(ScreenContext &context, QWidget *parent);
+
+    // Called once by the constructor of a screen, after its data set is open.
+    void build(const ListDescription &description, Engine::DataSet &set, std::function<void()> defaultCommand);
+
+    ScreenContext &context() const { return m_context; }
+    ListGrid *grid() const { return m_grid; }
+
+    virtual void showStep(); // each time the screen is shown: caption
+    virtual void clearFilterDialog() { } // clears the fields of the filter dialog, if there is one
+
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void addMenu(const ListMenu &menu);
+    QAction *addCommand(QMenu *menu, const ListCommand &command);
+    void addChoices(QMenu *menu, const ListCommand &command);
+    void addButton(const ListCommand &command, QAction *action);
+    void addPopup(const ListCommand &command, QAction *action);
+    void runCommand(const std::function<void()> &run);
+    void showFilterMark();
+    void sizeForRows();
+
+    ScreenContext &m_context;
+    Guard m_guard;
+    Engine::DataSet *m_data = nullptr;
+    QString m_caption;
+    ListGrid *m_grid = nullptr;
+    QFrame *m_topPanel = nullptr;
+    QHBoxLayout *m_buttons = nullptr;
+    QSize m_firstSize;
+};
+
+} // namespace Tallymere

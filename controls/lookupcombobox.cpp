@@ -1,0 +1,187 @@
+#include "controls/lookupcombobox.h"
+
+#include "controls/screenmetrics.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QTableView>
+
+namespace Tallymere {
+
+namespace {
+
+// Letters typed within this time belong to one search text.
+constexpr int typingPause = 1500;
+constexpr int visibleRows = 12;
+
+QTableView *makeListView(QWidget *parent)
+{
+    auto *view = new QTableView(parent);
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setSelectionMode(QAbstractItemView::SingleSelection);
+    view->setShowGrid(false);
+    view->setTabKeyNavigation(false);
+    view->horizontalHeader()->hide();
+    view->horizontalHeader()->setStretchLastSection(true);
+    view->verticalHeader()->hide();
+    view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + 4);
+    return view;
+}
+
+} // namespace
+
+LookupComboBox::LookupComboBox(QWidget *parent)
+    : QComboBox(parent)
+{
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(12);
+    setMaxVisibleItems(visibleRows);
+    connect(this, &QComboBox::activated, this, &LookupComboBox::takePicked);
+}
+
+void LookupComboBox::setList(Engine::DataSet &list, const QString &keyField, const QList<GridColumn> &columns)
+{
+    if (!list.isOpen())
+        list.open();
+    m_keyField = keyField;
+    m_list = new TableModel(list, columns, this);
+    setModel(m_list);
+    QTableView *view = makeListView(this);
+    setView(view);
+    int width = 0;
+    for (int i = 0; i < columns.size(); ++i) {
+        view->setColumnWidth(i, scaled(this, columns[i].width));
+        width += view->columnWidth(i);
+    }
+    view->setMinimumWidth(width + scaled(this, 24));
+    showChosen();
+}
+
+void LookupComboBox::setChosenId(int id)
+{
+    if (id == m_id && !m_pending)
+        return;
+    m_id = id;
+    m_pending = false;
+    showChosen();
+}
+
+void LookupComboBox::settle()
+{
+    if (m_pending)
+        choose(idAt(currentIndex()));
+}
+
+void LookupComboBox::showPopup()
+{
+    if (!m_list || m_readOnly)
+        return;
+    m_list->dataSet().refresh();
+    showChosen();
+    QComboBox::showPopup();
+}
+
+void LookupComboBox::choose(int id)
+{
+    m_pending = false;
+    m_typed.clear();
+    if (id == m_id)
+        return;
+    m_id = id;
+    showChosen();
+    Q_EMIT chosen(id);
+}
+
+void LookupComboBox::takePicked(int row)
+{
+    if (m_inKeys)
+        m_pending = idAt(row) != m_id;
+    else
+        choose(idAt(row));
+}
+
+void LookupComboBox::showChosen() { setCurrentIndex(rowOf(m_id)); }
+
+int LookupComboBox::rowOf(int id) const
+{
+    if (!m_list || id == 0)
+        return -1;
+    Engine::DataSet &list = m_list->dataSet();
+    if (list.integer(m_keyField) == id || list.locate(m_keyField, {Engine::Value(id)}))
+        return list.recordIndex();
+    return -1;
+}
+
+int LookupComboBox::idAt(int row) const
+{
+    if (!m_list || row < 0)
+        return 0;
+    return m_list->dataSet().valueAt(row, m_list->dataSet().fieldIndex(m_keyField)).toInt();
+}
+
+void LookupComboBox::typed(const QString &text)
+{
+    if (!m_sinceTyped.isValid() || m_sinceTyped.elapsed() > typingPause)
+        m_typed.clear();
+    m_sinceTyped.start();
+    const QString wanted = m_typed + text;
+    Engine::DataSet &list = m_list->dataSet();
+    const Engine::LocateOptions options =
+        Engine::LocateOptions(Engine::LocateOption::PartialKey) | Engine::LocateOption::CaseInsensitive;
+    if (!list.locate(m_list->columns().front().field, {Engine::Value(wanted)}, options)) {
+        QApplication::beep();
+        return;
+    }
+    m_typed = wanted;
+    setCurrentIndex(list.recordIndex());
+    m_pending = idAt(currentIndex()) != m_id;
+}
+
+void LookupComboBox::keyPressEvent(QKeyEvent *event)
+{
+    const bool opens = event->key() == Qt::Key_F4
+        || (event->modifiers().testFlag(Qt::AltModifier) && event->key() == Qt::Key_Down);
+    const bool ends = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (m_readOnly || !m_list) {
+        event->ignore();
+    } else if (opens) {
+        QComboBox::keyPressEvent(event);
+    } else if (ends) {
+        settle();
+        event->ignore();
+    } else if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
+        choose(0);
+    } else if (event->key() == Qt::Key_Escape && m_pending) {
+        m_pending = false;
+        showChosen();
+    } else if (!event->text().isEmpty() && event->text().front().isPrint()
+               && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+        typed(event->text());
+    } else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+        m_inKeys = true;
+        QComboBox::keyPressEvent(event);
+        m_inKeys = false;
+    } else {
+        event->ignore();
+    }
+}
+
+void LookupComboBox::mousePressEvent(QMouseEvent *event)
+{
+    if (!m_readOnly)
+        QComboBox::mousePressEvent(event);
+}
+
+// A turn of the wheel over a form must not change what it holds.
+void LookupComboBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
+
+void LookupComboBox::focusOutEvent(QFocusEvent *event)
+{
+    if (event->reason() != Qt::PopupFocusReason)
+        settle();
+    QComboBox::focusOutEvent(event);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "controls/tablemodel.h"
+
+#include <QComboBox>
+#include <QElapsedTimer>
+
+namespace Tallymere {
+
+// A drop-down list of another table's rows, which stands for the key of the chosen row.
+//
+// Typing letters moves to the first row that begins with them, the arrow keys to the rows beside it; the choice is
+// made on leaving the box, with Enter, or at once by picking from the open list. Delete clears it, Escape goes back
+// to the last choice. The list is read again each time it is dropped down.
+class LookupComboBox : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit LookupComboBox(QWidget *parent = nullptr);
+
+    // The rows in the list's own order; keyField is a whole-number field of it. The first column stands in the
+    // closed box, all of them in the open list. The list must outlive the box and is opened if need be.
+    void setList(Engine::DataSet &list, const QString &keyField, const QList<GridColumn> &columns);
+
+    int chosenId() const { return m_id; } // 0: nothing chosen
+    void setChosenId(int id); // shows nothing when the list does not hold it; no signal
+    bool isPending() const { return m_pending; } // moved by keys, not chosen yet
+    void settle(); // makes the pending row the choice
+    void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
+
+    void showPopup() override;
+
+Q_SIGNALS:
+    void chosen(int id); // the user has made a choice, or cleared it
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void choose(int id);
+    void takePicked(int row);
+    void showChosen();
+    void typed(const QString &text);
+    int rowOf(int id) const;
+    int idAt(int row) const;
+
+    TableModel *m_list = nullptr;
+    QString m_keyField;
+    int m_id = 0;
+    bool m_pending = false;
+    bool m_readOnly = false;
+    bool m_inKeys = false;
+    QString m_typed;
+    QElapsedTimer m_sinceTyped;
+};
+
+} // namespace Tallymere

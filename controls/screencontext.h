@@ -1,0 +1,41 @@
+#pragma once
+
+#include "frame/shared/prompts.h"
+
+#include <functional>
+
+class QString;
+class QWidget;
+
+namespace Tallymere {
+
+class TDataModuleTallymere;
+class TdmLookUpsInv;
+
+// What a screen needs from the system around it. The main window fills one and hands it to every screen; it
+// outlives them all.
+struct ScreenContext {
+    TDataModuleTallymere &data;
+    TdmLookUpsInv &lookups;
+    Prompts &prompts;
+
+    // Whether a default printer exists. Empty: none.
+    std::function<bool()> printerDefined;
+    // The user-rights check, by the command's key and name. False: the command is abandoned silently.
+    std::function<bool(const QString &key, const QString &name)> securityCheck;
+    // Finds a screen by its component name or creates it, shows it and returns it; nullptr for a screen that the
+    // system does not have.
+    std::function<QWidget *(const QString &screenName)> openScreen;
+    // Whether openScreen knows the screen. Commands that lead to one that is not there are disabled.
+    std::function<bool(const QString &screenName)> hasScreen;
+    // Opens the help at a screen's topic, named by the screen. Empty: no help, and the command is disabled.
+    std::function<void(const QString &screenName)> showHelp;
+
+    bool allows(const QString &key, const QString &name) const
+    {
+        return !securityCheck || securityCheck(key, name);
+    }
+    bool knows(const QString &screenName) const { return hasScreen && openScreen && hasScreen(screenName); }
+};
+
+} // namespace Tallymere

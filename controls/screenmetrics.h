@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QApplication>
+#include <QSize>
+
+class QWidget;
+
+namespace Tallymere {
+
+// Screen pixels per inch / 96: what sizes given in design pixels are scaled by.
+double fontFactor(const QWidget *widget);
+// A design size in the widget's pixels.
+int scaled(const QWidget *widget, int pixels);
+
+// The open window with the component name, or nullptr.
+QWidget *findScreen(const QString &name);
+template <typename Screen> Screen *findScreen(const QString &name)
+{
+    return qobject_cast<Screen *>(findScreen(name));
+}
+
+// The hourglass for as long as it lives.
+class WaitCursor {
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor &) = delete;
+    WaitCursor &operator=(const WaitCursor &) = delete;
+};
+
+} // namespace Tallymere

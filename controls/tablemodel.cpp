@@ -1,0 +1,113 @@
+#include "controls/tablemodel.h"
+
+namespace Tallymere {
+
+using Engine::DataSet;
+using Engine::FieldType;
+
+TableModel::TableModel(DataSet &data, QList<GridColumn> columns, QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_data(data)
+    , m_columns(std::move(columns))
+{
+    connect(&m_data, &DataSet::opened, this, &TableModel::takeList);
+    connect(&m_data, &DataSet::closed, this, &TableModel::takeList);
+    connect(&m_data, &DataSet::listChanged, this, &TableModel::takeList);
+    connect(&m_data, &DataSet::rowChanged, this, &TableModel::updateRow);
+    m_rows = m_data.isOpen() ? m_data.recordCount() : 0;
+}
+
+int TableModel::columnOf(const QString &field) const
+{
+    for (int i = 0; i < m_columns.size(); ++i) {
+        if (m_columns[i].shows(field))
+            return i;
+    }
+    return -1;
+}
+
+int TableModel::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : m_rows; }
+
+int TableModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+}
+
+QVariant TableModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || !m_data.isOpen())
+        return {};
+    const GridColumn &column = m_columns[index.column()];
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
+        return {};
+    const int number = m_data.fieldIndex(column.field);
+    if (number < 0)
+        return {};
+    const Engine::Field &field = m_data.field(number);
+    const Engine::Value value = cellValue(index.row(), number);
+    if (role == Qt::EditRole)
+        return field.editText(value);
+    if (field.type == FieldType::Boolean && !field.format.display)
+        return value.toBool() ? tr("Yes") : tr("No");
+    return field.displayText(value);
+}
+
+QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= m_columns.size())
+        return {};
+    if (role == Qt::DisplayRole)
+        return m_columns[section].title;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(m_columns[section].alignment | Qt::AlignVCenter);
+    return {};
+}
+
+QModelIndexList TableModel::match(const QModelIndex &start, int role, const QVariant &value, int hits,
+                                  Qt::MatchFlags flags) const
+{
+    if (!start.isValid() || !m_data.isOpen() || !flags.testFlag(Qt::MatchStartsWith) || hits != 1)
+        return QAbstractTableModel::match(start, role, value, hits, flags);
+    const int before = m_data.recordIndex();
+    const bool found = m_data.locate(m_columns[start.column()].field, {Engine::Value(value.toString())},
+                                     Engine::LocateOptions(Engine::LocateOption::PartialKey)
+                                         | Engine::LocateOption::CaseInsensitive);
+    if (!found)
+        return {};
+    const int row = m_data.recordIndex();
+    if (before >= 0)
+        m_data.moveTo(before);
+    return {index(row, start.column())};
+}
+
+Engine::Value TableModel::cellValue(int row, int field) const { return m_data.valueAt(row, field); }
+
+int TableModel::dataRows() const { return m_data.isOpen() ? m_data.recordCount() : 0; }
+
+// Rows come and go at the end and all that stay are repainted: where in the order a change was does not matter to
+// a view that shows row numbers, and the cursor keeps its place until the data set says where it belongs.
+void TableModel::takeList()
+{
+    const int rows = dataRows();
+    if (rows > m_rows) {
+        beginInsertRows({}, m_rows, rows - 1);
+        m_rows = rows;
+        endInsertRows();
+    } else if (rows < m_rows) {
+        beginRemoveRows({}, rows, m_rows - 1);
+        m_rows = rows;
+        endRemoveRows();
+    }
+    if (m_rows > 0)
+        Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, columnCount() - 1));
+}
+
+void TableModel::updateRow(int row)
+{
+    if (row >= 0 && row < m_rows)
+        Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
+} // namespace Tallymere

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "engine/dataset.h"
+
+#include <QAbstractTableModel>
+#include <QList>
+
+namespace Tallymere {
+
+// One column of a list or a line grid.
+struct GridColumn {
+    QString field; // what it shows
+    QString title;
+    int width = 80; // design pixels
+    Qt::Alignment alignment = Qt::AlignLeft;
+    // Line grids: the field that an entry changes, where that is not the one shown (a looked-up name). Messages
+    // that name either field lead to the column.
+    QString dataField = {};
+
+    bool shows(const QString &name) const
+    {
+        return field.compare(name, Qt::CaseInsensitive) == 0 || dataField.compare(name, Qt::CaseInsensitive) == 0;
+    }
+};
+
+// Shows a data set to views. Rows are read in the windows that the data set keeps, never all of them.
+class TableModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    TableModel(Engine::DataSet &data, QList<GridColumn> columns, QObject *parent = nullptr);
+
+    Engine::DataSet &dataSet() const { return m_data; }
+    const QList<GridColumn> &columns() const { return m_columns; }
+    int columnOf(const QString &field) const; // -1 when no column shows it
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    // Typed search in views: the first row whose column begins with the text, found by the data set.
+    QModelIndexList match(const QModelIndex &start, int role, const QVariant &value, int hits,
+                          Qt::MatchFlags flags) const override;
+
+protected:
+    // A row beyond the data set's, or the value in hand of a row that is being edited.
+    virtual Engine::Value cellValue(int row, int field) const;
+    virtual int dataRows() const;
+    void takeList(); // the data set's list is new
+    void updateRow(int row);
+
+private:
+    Engine::DataSet &m_data;
+    QList<GridColumn> m_columns;
+    int m_rows = 0;
+};
+
+} // namespace Tallymere

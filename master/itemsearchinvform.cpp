@@ -1,0 +1,110 @@
+#include "master/itemsearchinvform.h"
+
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "data/lookupsdatainv.h"
+#include "ui_itemsearchinvform.h"
+
+#include <QKeyEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
+    : DialogScreen(context, parent)
+    , m_ui(std::make_unique<Ui::TfrmItemSearchInv>())
+    , m_search(context.data.databaseTallymere())
+{
+    m_ui->setupUi(this);
+    resize(scaled(this, 580), scaled(this, 420));
+    m_search.open();
+    m_ui->DBGrid1->setDataSet(m_search.items(),
+                              {{u"ItemNo"_s, tr("Item no."), 110},
+                               {u"ItemDescription"_s, tr("Description"), 290},
+                               {u"TypeName"_s, tr("Item Type"), 120}});
+    m_ui->cboItemType->setList(context.lookups.tblItemType(), u"ItemTypeID"_s,
+                               {{u"TypeName"_s, tr("Item Type"), 180}});
+
+    connect(m_ui->editFindItemNo, &QLineEdit::textEdited, this, &TfrmItemSearchInv::typeItemNo);
+    connect(m_ui->editFindItemDescription, &QLineEdit::textEdited, this, &TfrmItemSearchInv::typeDescription);
+    connect(m_ui->cboItemType, &LookupComboBox::chosen, this,
+            [this](int type) { guard().run([&] { m_search.setItemType(type); }); });
+    connect(m_ui->DBGrid1, &ListGrid::chosen, this, &QDialog::accept);
+    connect(m_ui->btnOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    m_ui->editFindItemNo->installEventFilter(this);
+    m_ui->editFindItemDescription->installEventFilter(this);
+}
+
+TfrmItemSearchInv::~TfrmItemSearchInv() = default;
+
+TfrmItemSearchInv &TfrmItemSearchInv::instance(ScreenContext &context, QWidget *window)
+{
+    const QString name = u"frmItemSearch"_s;
+    if (auto *kept = findScreen<TfrmItemSearchInv>(name))
+        return *kept;
+    auto *screen = new TfrmItemSearchInv(context, window);
+    screen->setObjectName(name);
+    return *screen;
+}
+
+void TfrmItemSearchInv::SetItemID(int itemId)
+{
+    m_search.open();
+    m_search.reset();
+    m_search.setItemId(itemId);
+}
+
+int TfrmItemSearchInv::GetItemID() const { return m_search.itemId(); }
+
+void TfrmItemSearchInv::showStep()
+{
+    const int itemId = m_search.itemId();
+    m_ui->cboItemType->setChosenId(0);
+    m_search.reset();
+    m_search.setItemId(itemId);
+    m_ui->editFindItemNo->clear();
+    m_ui->editFindItemDescription->clear();
+    m_ui->editFindItemNo->setFocus();
+}
+
+// Taking a character away moves nothing.
+void TfrmItemSearchInv::typeItemNo(const QString &text)
+{
+    if (text.size() > std::exchange(m_typedLength, static_cast<int>(text.size())))
+        guard().run([&] { beepUnless(m_search.typeItemNo(text)); });
+}
+
+void TfrmItemSearchInv::typeDescription(const QString &text)
+{
+    if (text.size() > std::exchange(m_typedLength, static_cast<int>(text.size())))
+        guard().run([&] { beepUnless(m_search.typeDescription(text)); });
+}
+
+void TfrmItemSearchInv::beepUnless(bool found) const
+{
+    if (!found)
+        QApplication::beep();
+}
+
+// From a search box the arrow keys move in the list.
+bool TfrmItemSearchInv::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn)
+        m_typedLength = static_cast<int>(qobject_cast<QLineEdit *>(watched)->text().size());
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    switch (static_cast<QKeyEvent *>(event)->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        QCoreApplication::sendEvent(m_ui->DBGrid1, event);
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace Tallymere

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controls/dialogscreen.h"
+#include "master/itemsearch.h"
+
+class QLineEdit;
+namespace Ui {
+class TfrmItemSearchInv;
+}
+
+namespace Tallymere {
+
+// "Item": chooses an item for a line. One instance is kept and used again.
+class TfrmItemSearchInv final : public DialogScreen {
+    Q_OBJECT
+
+public:
+    TfrmItemSearchInv(ScreenContext &context, QWidget *parent);
+    ~TfrmItemSearchInv() override;
+
+    // The kept instance, named "frmItemSearch"; made, as a child of the window, when there is none.
+    static TfrmItemSearchInv &instance(ScreenContext &context, QWidget *window);
+
+    void SetItemID(int itemId); // the item to begin on; an unknown one begins on the first
+    int GetItemID() const; // the item under the cursor, to be read after OK
+
+protected:
+    void showStep() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void typeItemNo(const QString &text);
+    void typeDescription(const QString &text);
+    void beepUnless(bool found) const;
+
+    std::unique_ptr<Ui::TfrmItemSearchInv> m_ui;
+    ItemSearch m_search;
+    int m_typedLength = 0;
+};
+
+} // namespace Tallymere

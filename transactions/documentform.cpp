@@ -1,0 +1,199 @@
+#include "transactions/documentform.h"
+
+#include "controls/linegrid.h"
+#include "data/lookupsdatainv.h"
+#include "frame/shared/ruleerror.h"
+#include "master/itemsearchinvform.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+using Engine::LocateOption;
+using Engine::LocateOptions;
+
+namespace Tallymere {
+
+namespace {
+constexpr QStringView numberColumn = u"ItemNo";
+constexpr QStringView descriptionColumn = u"ItemDescription";
+} // namespace
+
+DocumentScreen::DocumentScreen(ScreenContext &context, std::unique_ptr<DocumentEntry> entry, QWidget *parent)
+    : EntryScreen(context, parent)
+    , m_entry(std::move(entry))
+{
+    m_entry->open();
+}
+
+DocumentScreen::~DocumentScreen() = default;
+
+void DocumentScreen::buildDocument(const QList<GridColumn> &columns)
+{
+    m_grid = findChild<LineGrid *>(u"DBGrid1"_s);
+    m_posted = findChild<QLabel *>(u"lblPosted"_s);
+    binder().bind(m_entry->header());
+    m_grid->setLines(m_entry->lines(), columns,
+                     {.begin = [this] { beginLine(); },
+                      .append = [this] { m_entry->newLine(); },
+                      .remove = [this] { m_entry->removeLine(); },
+                      .enter = [this](const QString &field, const QString &text) { enterCell(field, text); },
+                      .columnSelected = [this](const QString &field) { m_entry->setLineColumn(field); },
+                      .search = [this](const QString &) { searchItem(); },
+                      .searchColumns = {numberColumn.toString()},
+                      .complete = [this](const QString &field,
+                                         const QString &typed) { return completeDescription(field, typed); }},
+                     guard());
+    m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert)),
+            &QAction::triggered, m_grid, &LineGrid::appendLine);
+    connect(addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete)),
+            &QAction::triggered, m_grid, &LineGrid::removeLine);
+    connect(&m_entry->header(), &Engine::DataSet::fieldChanged, this, &DocumentScreen::showHeader);
+    connect(&m_entry->header(), &Engine::DataSet::currentChanged, this, &DocumentScreen::showHeader);
+    connect(&m_entry->header(), &Engine::DataSet::stateChanged, this, &DocumentScreen::showHeader);
+    buildScreen();
+}
+
+QAction *DocumentScreen::addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut)
+{
+    auto *action = new QAction(caption, m_grid);
+    action->setObjectName(name);
+    action->setShortcut(shortcut);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_grid->addAction(action);
+    m_popup.append(action);
+    return action;
+}
+
+void DocumentScreen::newDocument()
+{
+    m_entry->newDocument();
+    showHeader();
+}
+
+bool DocumentScreen::openDocument(int key)
+{
+    const bool found = m_entry->openDocument(key);
+    showHeader();
+    return found;
+}
+
+void DocumentScreen::showHeader()
+{
+    const bool posted = m_entry->isPosted();
+    m_posted->setVisible(posted);
+    m_grid->setReadOnly(posted);
+    for (QAction *action : std::as_const(m_popup))
+        action->setEnabled(!posted);
+    showCaption();
+}
+
+// --- lines
+// -----------------------------------------------------------------------------------------------------------
+
+void DocumentScreen::beginLine()
+{
+    if (!m_entry->lines().isEditing())
+        m_entry->lines().edit();
+}
+
+void DocumentScreen::enterCell(const QString &field, const QString &text)
+{
+    beginLine();
+    if (field == numberColumn)
+        m_entry->chooseItemByNumber(text.trimmed());
+    else if (field == descriptionColumn)
+        chooseItemByDescription(text.trimmed());
+    else
+        m_entry->lines().setText(field, text);
+}
+
+void DocumentScreen::chooseItemByDescription(const QString &text)
+{
+    if (text.isEmpty()) {
+        m_entry->chooseItemByNumber({});
+        return;
+    }
+    Engine::Table &items = context().lookups.tblItem();
+    if (!items.locate(descriptionColumn.toString(), {text}, LocateOption::CaseInsensitive))
+        throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"),
+                        descriptionColumn.toString());
+    m_entry->setLineColumn(descriptionColumn.toString());
+    m_entry->chooseItem(items.integer(u"ItemID"));
+}
+
+QString DocumentScreen::completeDescription(const QString &field, const QString &typed) const
+{
+    if (field != descriptionColumn)
+        return {};
+    Engine::Table &items = context().lookups.tblItem();
+    const LocateOptions options = LocateOptions(LocateOption::CaseInsensitive) | LocateOption::PartialKey;
+    return items.locate(descriptionColumn.toString(), {typed}, options) ? items.text(descriptionColumn) : QString();
+}
+
+void DocumentScreen::searchItem()
+{
+    TfrmItemSearchInv &search = TfrmItemSearchInv::instance(context(), parentWidget());
+    search.SetItemID(m_entry->lines().integer(u"ItemID"));
+    if (search.exec() != QDialog::Accepted || search.GetItemID() == 0)
+        return;
+    m_entry->setLineColumn(numberColumn.toString());
+    m_entry->chooseItem(search.GetItemID());
+}
+
+// --- saving, closing, keys
+// -------------------------------------------------------------------------------------------
+
+EntryScreen::Pending DocumentScreen::pending() const
+{
+    if (m_grid->hasEntry())
+        return Pending::Changes;
+    switch (m_entry->closing()) {
+    case DocumentEntry::Closing::Free:
+        return Pending::Nothing;
+    case DocumentEntry::Closing::Drop:
+        return Pending::Untouched;
+    case DocumentEntry::Closing::Ask:
+        break;
+    }
+    return Pending::Changes;
+}
+
+void DocumentScreen::saveChanges()
+{
+    m_grid->commitEntry();
+    m_entry->save();
+}
+
+void DocumentScreen::dropChanges()
+{
+    m_grid->dropEntry();
+    m_entry->cancel();
+}
+
+int DocumentScreen::savedKey() const { return m_entry->wasSaved() ? m_entry->key() : 0; }
+
+QString DocumentScreen::caption() const { return m_entry->caption(); }
+
+bool DocumentScreen::focusColumn(const QString &column)
+{
+    if (EntryScreen::focusColumn(column))
+        return true;
+    if (column == DocumentEntry::LineGrid) {
+        m_grid->setFocus();
+        return true;
+    }
+    return m_grid->showColumn(column);
+}
+
+bool DocumentScreen::takeKey(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_PageDown)
+        return false;
+    m_grid->enterAtFirstLine();
+    return true;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "controls/entryscreen.h"
+#include "controls/tablemodel.h"
+#include "transactions/documententry.h"
+
+class QAction;
+class QLabel;
+
+namespace Tallymere {
+
+class LineGrid;
+
+// The screen of one document: header fields over a grid of lines. The rules are DocumentEntry's; the screens of the
+// kinds give the form and what is special in their header.
+class DocumentScreen : public EntryScreen
+{
+    Q_OBJECT
+
+public:
+    ~DocumentScreen() override;
+
+    void newDocument(); // throws when no number can be taken
+    // False when there is no such document any more.
+    bool openDocument(int key);
+
+protected:
+    DocumentScreen(ScreenContext &context, std::unique_ptr<DocumentEntry> entry, QWidget *parent);
+
+    // Called once by the constructor of a screen, after its form has been set up: binds the header's widgets and
+    // the grid "DBGrid1", which shows the columns, and the label "lblPosted".
+    void buildDocument(const QList<GridColumn> &columns);
+
+    DocumentEntry &entry() const { return *m_entry; }
+    LineGrid *grid() const { return m_grid; }
+
+    virtual void showHeader(); // the header has changed: caption, "POSTED"
+
+    Pending pending() const override;
+    void saveChanges() override;
+    void dropChanges() override;
+    int savedKey() const override;
+    QString caption() const override;
+    bool focusColumn(const QString &column) override;
+    bool takeKey(QKeyEvent *event) override;
+
+private:
+    QAction *addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut);
+    void beginLine();
+    void enterCell(const QString &field, const QString &text);
+    void chooseItemByDescription(const QString &text);
+    void searchItem();
+    QString completeDescription(const QString &field, const QString &typed) const;
+
+    std::unique_ptr<DocumentEntry> m_entry;
+    LineGrid *m_grid = nullptr;
+    QLabel *m_posted = nullptr;
+    QList<QAction *> m_popup;
+};
+
+} // namespace Tallymere

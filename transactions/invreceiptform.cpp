@@ -1,0 +1,77 @@
+#include "transactions/invreceiptform.h"
+
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "data/lookupsdatainv.h"
+#include "transactions/receiptentry.h"
+#include "ui_invreceiptform.h"
+
+#include <QKeyEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr auto vendorsScreen = "frmVendors"_L1;
+constexpr auto locationsScreen = "frmWarehousesInv"_L1;
+} // namespace
+
+TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
+    : DocumentScreen(context, std::make_unique<ReceiptEntry>(context.data.databaseTallymere(), context.prompts),
+                     parent)
+    , m_ui(std::make_unique<Ui::TfrmInvReceipt>())
+{
+    m_ui->setupUi(this);
+    resize(scaled(this, 720), scaled(this, 460));
+    m_ui->cboVendor->setList(context.lookups.tblVendor(), u"VendorID"_s,
+                             {{u"VendorName"_s, tr("Vendor"), 220}, {u"VendorNo"_s, tr("Vendor no."), 80}});
+    m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), u"WarehouseID"_s,
+                                {{u"WarehouseName"_s, tr("Warehouse"), 200}});
+    buildDocument({{u"QtyReceived"_s, tr("Quantity"), 100, Qt::AlignRight},
+                   {u"ItemNo"_s, tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
+                   {u"ItemDescription"_s, tr("Description"), 330},
+                   {u"UnitCost"_s, tr("Unit Cost"), 110, Qt::AlignRight}});
+    binder().setEntryRule(u"VendorNo"_s,
+                          [this](const QString &text) { receipt().chooseVendorByNumber(text.trimmed()); });
+
+    m_ui->btnVendor->setEnabled(context.knows(vendorsScreen));
+    m_ui->btnWarehouse->setEnabled(context.knows(locationsScreen));
+    connectGuarded(m_ui->btnVendor, &QToolButton::clicked, this, &TfrmInvReceipt::btnVendorClick);
+    connectGuarded(m_ui->btnWarehouse, &QToolButton::clicked, this, &TfrmInvReceipt::btnWarehouseClick);
+}
+
+TfrmInvReceipt::~TfrmInvReceipt() = default;
+
+ReceiptEntry &TfrmInvReceipt::receipt() const { return static_cast<ReceiptEntry &>(entry()); }
+
+void TfrmInvReceipt::btnVendorClick()
+{
+    if (context().allows(u"Vendors"_s, u"Vendors"_s))
+        context().openScreen(vendorsScreen);
+}
+
+void TfrmInvReceipt::btnWarehouseClick()
+{
+    if (context().allows(u"Warehouses"_s, u"Warehouses"_s))
+        context().openScreen(locationsScreen);
+}
+
+void TfrmInvReceipt::showHeader()
+{
+    DocumentScreen::showHeader();
+    m_ui->editVendorNo->setReadOnly(entry().isPosted());
+}
+
+// With a vendor number typed, the list of vendors is passed over.
+bool TfrmInvReceipt::takeKey(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && focusWidget() == m_ui->editVendorNo && !m_ui->editVendorNo->text().isEmpty()) {
+        m_ui->cboWarehouse->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+    return DocumentScreen::takeKey(event);
+}
+
+} // namespace Tallymere

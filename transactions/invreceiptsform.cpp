@@ -1,0 +1,160 @@
+#include "transactions/invreceiptsform.h"
+
+#include "data/datamodule.h"
+#include "frame/shared/formats.h"
+#include "transactions/documentfilterform.h"
+#include "transactions/documentpostform.h"
+#include "transactions/invreceiptform.h"
+#include "transactions/invreceiptsfindform.h"
+
+#include <QCloseEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TfrmInvReceipts::TfrmInvReceipts(ScreenContext &context, QWidget *parent)
+    : ListScreen(context, parent)
+    , m_list(context.data.databaseTallymere())
+{
+    m_list.open();
+    m_list.table().field(u"ReceiptDate").format = dateFormat();
+    build(description(), m_list.table(), [this] { btnEditClick(); });
+}
+
+TfrmInvReceipts::~TfrmInvReceipts() = default;
+
+ListDescription TfrmInvReceipts::description()
+{
+    const auto runs = [this](void (TfrmInvReceipts::*step)()) { return [this, step] { (this->*step)(); }; };
+    std::function<void()> help;
+    if (context().showHelp)
+        help = [this] { context().showHelp(objectName()); };
+    return {
+        .name = u"frmInvReceipts"_s,
+        .caption = tr("Inventory Receipts"),
+        .columns = {{u"Periodppyyyy"_s, tr("Period"), 70},
+                    {u"ReceiptDate"_s, tr("Date"), 85},
+                    {u"ReceiptNo"_s, tr("Receipt no."), 90},
+                    {u"PurchaseOrderNo"_s, tr("PO"), 90},
+                    {u"VendorName"_s, tr("Vendor"), 210},
+                    {u"WarehouseName"_s, tr("Location"), 170},
+                    {u"Posted"_s, tr("Posted"), 60}},
+        .menus = {{tr("&File"),
+                   {{.name = u"mnuPrint"_s, .caption = tr("&Print...")},
+                    {.name = u"mnuExit"_s,
+                     .caption = tr("E&xit"),
+                     .run = [this] { close(); },
+                     .separatorBefore = true}}},
+                  {tr("&Records"),
+                   {{.name = u"mnuNew"_s,
+                     .caption = tr("&New"),
+                     .run = runs(&TfrmInvReceipts::btnNewClick),
+                     .button = u"btnNew"_s,
+                     .buttonCaption = tr("&New"),
+                     .popupCaption = tr("New")},
+                    {.name = u"mnuEdit"_s,
+                     .caption = tr("&Edit"),
+                     .run = runs(&TfrmInvReceipts::btnEditClick),
+                     .button = u"btnEdit"_s,
+                     .buttonCaption = tr("&Edit"),
+                     .popupCaption = tr("Edit")},
+                    {.name = u"mnuDelete"_s,
+                     .caption = tr("&Delete"),
+                     .run = runs(&TfrmInvReceipts::btnDeleteClick),
+                     .button = u"btnDelete"_s,
+                     .buttonCaption = tr("&Delete"),
+                     .popupCaption = tr("Delete")},
+                    {.name = u"mnuFind"_s,
+                     .caption = tr("&Find..."),
+                     .run = runs(&TfrmInvReceipts::btnFindClick),
+                     .shortcut = QKeySequence(Qt::CTRL | Qt::Key_F),
+                     .button = u"btnFind"_s,
+                     .buttonCaption = tr("F&ind"),
+                     .separatorBefore = true},
+                    {.name = u"mnuPost"_s,
+                     .caption = tr("&Post..."),
+                     .run = runs(&TfrmInvReceipts::mnuPostClick),
+                     .separatorBefore = true}}},
+                  {tr("&View"),
+                   {{.name = u"mnuFilter"_s,
+                     .caption = tr("&Filter..."),
+                     .run = runs(&TfrmInvReceipts::btnFilterClick),
+                     .button = u"btnFilter"_s,
+                     .buttonCaption = tr("Fil&ter"),
+                     .checkable = true},
+                    {.name = u"mnuRefresh"_s,
+                     .caption = tr("&Refresh"),
+                     .run = [this] { refreshList(); },
+                     .shortcut = QKeySequence(Qt::Key_F5)}}},
+                  {tr("&Help"), {{.name = u"mnuHelp"_s, .caption = tr("Inventory Receipts &Help"), .run = help}}}},
+    };
+}
+
+TfrmInvReceipt *TfrmInvReceipts::makeReceipt()
+{
+    auto *screen = new TfrmInvReceipt(context(), parentWidget());
+    connect(screen, &TfrmInvReceipt::saved, this, [this](int key) {
+        refreshList();
+        moveToKey(key);
+    });
+    return screen;
+}
+
+void TfrmInvReceipts::btnNewClick()
+{
+    std::unique_ptr<TfrmInvReceipt> screen(makeReceipt());
+    screen->newDocument();
+    screen.release()->show();
+}
+
+void TfrmInvReceipts::btnEditClick()
+{
+    const int key = m_list.currentKey();
+    if (key == 0) {
+        btnNewClick();
+        return;
+    }
+    std::unique_ptr<TfrmInvReceipt> screen(makeReceipt());
+    if (screen->openDocument(key))
+        screen.release()->show();
+    else
+        refreshList(); // another user has deleted it
+}
+
+void TfrmInvReceipts::btnDeleteClick() { m_list.remove(context().prompts); }
+
+void TfrmInvReceipts::btnFilterClick()
+{
+    if (!m_filter)
+        m_filter = new TfrmInvReceiptsFilter(context(), this);
+    if (m_filter->exec() == QDialog::Accepted)
+        applyFilter(m_filter->filter().expression());
+}
+
+void TfrmInvReceipts::btnFindClick() { TfrmInvReceiptsFind(context(), m_list, this).exec(); }
+
+void TfrmInvReceipts::mnuPostClick()
+{
+    TfrmInvReceiptsPost dialog(context(), isVisible() ? this : parentWidget());
+    if (dialog.exec() == QDialog::Accepted)
+        refreshList();
+}
+
+void TfrmInvReceipts::clearFilterDialog()
+{
+    if (m_filter)
+        m_filter->btnResetClick();
+}
+
+void TfrmInvReceipts::closeEvent(QCloseEvent *event)
+{
+    guard().run([this] {
+        TfrmInvReceiptsPost dialog(context(), this);
+        if (dialog.count() > 0 && dialog.exec() == QDialog::Accepted)
+            refreshList();
+    });
+    event->accept();
+}
+
+} // namespace Tallymere

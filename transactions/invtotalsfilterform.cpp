@@ -1,0 +1,47 @@
+#include "transactions/invtotalsfilterform.h"
+
+#include "data/lookupsdatainv.h"
+#include "master/itempairform.h"
+#include "ui_invtotalsfilterform.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent)
+    : DialogScreen(context, parent)
+    , m_ui(std::make_unique<Ui::TfrmInvTotalsFilter>())
+{
+    m_ui->setupUi(this);
+    m_item = new ItemPair(m_ui->editItem, m_ui->cboItem, context.lookups.tblItem(), guard());
+    m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), u"WarehouseID"_s,
+                                {{u"WarehouseName"_s, tr("Location"), 240}});
+    connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &TfrmInvTotalsFilter::btnOKClick);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connectGuarded(m_ui->btnReset, &QPushButton::clicked, this, &TfrmInvTotalsFilter::btnResetClick);
+}
+
+TfrmInvTotalsFilter::~TfrmInvTotalsFilter() = default;
+
+int TfrmInvTotalsFilter::itemId() const { return m_item->itemId(); }
+
+int TfrmInvTotalsFilter::warehouseId() const { return m_ui->cboWarehouse->chosenId(); }
+
+void TfrmInvTotalsFilter::btnOKClick()
+{
+    m_item->settle();
+    m_ui->cboWarehouse->settle();
+    accept();
+}
+
+void TfrmInvTotalsFilter::btnResetClick()
+{
+    m_item->choose(0);
+    m_ui->cboWarehouse->setChosenId(0);
+}
+
+void TfrmInvTotalsFilter::showStep() { m_ui->editItem->setFocus(); }
+
+QWidget *TfrmInvTotalsFilter::widgetOfColumn(const QString &) const { return m_ui->editItem; }
+
+} // namespace Tallymere

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "controls/dialogscreen.h"
+
+namespace Ui {
+class TfrmInvTotalsFilter;
+}
+
+namespace Tallymere {
+
+class ItemPair;
+
+// "Inventory Totals Filter": an item, by number or from the list, and a location. Made once for its screen.
+class TfrmInvTotalsFilter final : public DialogScreen
+{
+    Q_OBJECT
+
+public:
+    TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent);
+    ~TfrmInvTotalsFilter() override;
+
+    // The choices, each 0 when not made. Known after OK.
+    int itemId() const;
+    int warehouseId() const;
+
+    void btnOKClick();
+    void btnResetClick();
+
+protected:
+    void showStep() override;
+    QWidget *widgetOfColumn(const QString &column) const override;
+
+private:
+    std::unique_ptr<Ui::TfrmInvTotalsFilter> m_ui;
+    ItemPair *m_item;
+};
+
+} // namespace Tallymere

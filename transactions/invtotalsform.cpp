@@ -1,0 +1,105 @@
+#include "transactions/invtotalsform.h"
+
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "frame/shared/formats.h"
+#include "master/itemsfindform.h"
+#include "transactions/invtotalsfilterform.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
+    : ListScreen(context, parent)
+    , m_view(context.data.databaseTallymere())
+{
+    m_view.open();
+    m_view.query().field(u"QtyOnHand").format = quantityFormat();
+    build(description(), m_view.query(), {});
+}
+
+TfrmInvTotals::~TfrmInvTotals() = default;
+
+ListDescription TfrmInvTotals::description()
+{
+    const auto runs = [this](void (TfrmInvTotals::*step)()) { return [this, step] { (this->*step)(); }; };
+    const auto sorts = [this](TotalsView::Sort sort) { return [this, sort] { sortBy(sort); }; };
+    std::function<void()> help;
+    if (context().showHelp)
+        help = [this] { context().showHelp(objectName()); };
+    return {
+        .name = u"frmInvTotals"_s,
+        .caption = tr("Inventory Totals"),
+        .columns = {{u"ItemNo"_s, tr("Item no."), 110},
+                    {u"ItemDescription"_s, tr("Description"), 290},
+                    {u"WarehouseName"_s, tr("Location"), 190},
+                    {u"QtyOnHand"_s, tr("Quantity On Hand"), 130, Qt::AlignRight}},
+        .menus = {{tr("&File"),
+                   {{.name = u"mnuPrint"_s, .caption = tr("&Print...")},
+                    {.name = u"mnuExit"_s,
+                     .caption = tr("E&xit"),
+                     .run = [this] { close(); },
+                     .separatorBefore = true}}},
+                  {tr("&Records"),
+                   {{.name = u"mnuFind"_s,
+                     .caption = tr("&Find..."),
+                     .run = runs(&TfrmInvTotals::btnFindClick),
+                     .shortcut = QKeySequence(Qt::CTRL | Qt::Key_F),
+                     .button = u"btnFind"_s,
+                     .buttonCaption = tr("F&ind")}}},
+                  {tr("&View"),
+                   {{.name = u"mnuFilter"_s,
+                     .caption = tr("&Filter..."),
+                     .run = runs(&TfrmInvTotals::btnFilterClick),
+                     .button = u"btnFilter"_s,
+                     .buttonCaption = tr("Fil&ter"),
+                     .checkable = true},
+                    {.name = u"mnuSortBy"_s,
+                     .caption = tr("&Sort by"),
+                     .choices = {{.name = u"mnuSortItemNo"_s,
+                                  .caption = tr("&Item no."),
+                                  .run = sorts(TotalsView::Sort::ItemNo)},
+                                 {.name = u"mnuSortDescription"_s,
+                                  .caption = tr("&Description"),
+                                  .run = sorts(TotalsView::Sort::Description)}}},
+                    {.name = u"mnuHistory"_s, .caption = tr("&History")},
+                    {.name = u"mnuRefresh"_s,
+                     .caption = tr("&Refresh"),
+                     .run = [this] { refreshList(); },
+                     .shortcut = QKeySequence(Qt::Key_F5)}}},
+                  {tr("&Help"), {{.name = u"mnuHelp"_s, .caption = tr("Inventory Totals &Help"), .run = help}}}},
+    };
+}
+
+void TfrmInvTotals::sortBy(TotalsView::Sort sort)
+{
+    const WaitCursor hourglass;
+    m_view.setSort(sort);
+}
+
+void TfrmInvTotals::btnFilterClick()
+{
+    if (!m_filter)
+        m_filter = new TfrmInvTotalsFilter(context(), this);
+    if (m_filter->exec() != QDialog::Accepted)
+        return;
+    applyFilter(TotalsView::filterExpression(m_filter->itemId(), m_filter->warehouseId()));
+    showStep();
+}
+
+void TfrmInvTotals::btnFindClick() { TfrmItemsFind(context(), m_view.query(), this).exec(); }
+
+void TfrmInvTotals::clearFilterDialog()
+{
+    if (m_filter)
+        m_filter->btnResetClick();
+}
+
+void TfrmInvTotals::showStep()
+{
+    m_view.query().first();
+    ListScreen::showStep();
+}
+
+} // namespace Tallymere
