@@ -10,7 +10,8 @@ namespace Tallymere {
 namespace {
 
 // Leading digits from..to, of the same length, on numbers of one of the lengths.
-struct Brand {
+struct Brand
+{
     QLatin1StringView name;
     QList<qsizetype> lengths;
     int from = 0;

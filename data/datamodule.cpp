@@ -20,7 +20,8 @@ namespace {
 
 // Two users who start for the first time at the same moment would both make the tables. The second waits for the
 // first, a few seconds at most: a start that hangs must not keep everybody else out.
-class StartLock {
+class StartLock
+{
 public:
     explicit StartLock(Engine::Database &database)
         : m_locks(database.connection().locks())

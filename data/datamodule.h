@@ -14,7 +14,8 @@
 namespace Tallymere {
 
 // What a caller may decide instead of the user's settings. All of it is optional.
-struct DataModuleOptions {
+struct DataModuleOptions
+{
     QString dataFolder{}; // this folder in file-server mode
     QString server{}; // this address in client/server mode
     QString serverDatabase{}; // the database's name there; empty: "Corvane"
@@ -32,7 +33,8 @@ struct DataModuleOptions {
 // host's configuration and seeds the first location, bank and currency. A second start with nothing to change
 // writes nothing. Throws EngineError when the database cannot be reached, when a table that must change is in use,
 // and when the database is not one of the host (table "Config" is missing: nothing has been created then).
-class TDataModuleTallymere {
+class TDataModuleTallymere
+{
 public:
     TDataModuleTallymere(SettingsStore &settings, Prompts &prompts, DataModuleOptions options = {});
     ~TDataModuleTallymere();

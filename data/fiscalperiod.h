@@ -10,7 +10,8 @@
 
 namespace Tallymere {
 
-struct Period {
+struct Period
+{
     int year = 0; // four digits
     int number = 0; // 1 to 12
 
@@ -19,7 +20,8 @@ struct Period {
 };
 
 // What the Company row says about periods. Empty fields are 0 and mean: not set.
-struct FiscalSettings {
+struct FiscalSettings
+{
     int fiscalYear = 0;
     Period defaultPeriod; // its two halves are set independently
     Period warnFrom, warnTo; // an upper bound with key 0 is open

@@ -8,7 +8,8 @@ namespace Tallymere {
 // One table for each list that screens offer in drop-down fields, in the order the user sees. tblItem and
 // tblItemType are open from the beginning; every other table is opened by the first call of its function, so that a
 // host table that is missing fails where it is needed and nowhere else.
-class TdmLookUpsInv {
+class TdmLookUpsInv
+{
 public:
     explicit TdmLookUpsInv(Engine::Database &database);
 

@@ -10,7 +10,8 @@
 namespace Tallymere {
 
 // The row of a control table while numbers are taken from it. An empty counter reads as 0.
-class CounterRow {
+class CounterRow
+{
 public:
     explicit CounterRow(Engine::Table &table)
         : m_table(table)
@@ -31,7 +32,8 @@ private:
 };
 
 // How often, and with what pause, a control table is tried that another user holds.
-struct CounterRetry {
+struct CounterRetry
+{
     int attempts = 150;
     std::chrono::milliseconds pause{10};
 };

@@ -12,7 +12,8 @@ namespace Tallymere::Seeds {
 
 namespace {
 
-struct Assignment {
+struct Assignment
+{
     QString field;
     Value value;
 };

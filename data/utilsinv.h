@@ -59,7 +59,8 @@ void checkListSetChecks(QList<bool> &checks, quint32 bits);
 // --- program and screens
 // ----------------------------------------------------------------------------------------------
 
-struct BuildInfo {
+struct BuildInfo
+{
     quint16 major = 0, minor = 0, release = 0, build = 0;
 };
 BuildInfo getBuildInfo(); // of the running program; missing parts are 0

@@ -19,7 +19,8 @@ namespace Tallymere {
 namespace {
 
 // The digits of an amount, without a sign: whole part, and from two to mostDecimals decimals.
-struct Digits {
+struct Digits
+{
     QString whole;
     QString decimals;
     bool zero = false;

@@ -7,7 +7,8 @@ namespace Tallymere {
 enum class Answer { Yes, No, Cancel };
 
 // How rules talk to the user: boxes on a screen, standard error on the command line, a script in a test.
-class Prompts {
+class Prompts
+{
 public:
     virtual ~Prompts() = default;
 
@@ -22,7 +23,8 @@ public:
 };
 
 // How long work shows that it goes on. A screen keeps itself alive in step().
-class Progress {
+class Progress
+{
 public:
     virtual ~Progress() = default;
 

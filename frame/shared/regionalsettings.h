@@ -8,7 +8,8 @@
 namespace Tallymere {
 
 // How the user writes dates and numbers. A plain value: screens take it from the system, tests spell it out.
-struct RegionalSettings {
+struct RegionalSettings
+{
     QString shortDateFormat = QStringLiteral("M/d/yyyy"); // its first letter decides the order of the parts
     QChar dateSeparator = u'/';
     QChar decimalPoint = u'.';

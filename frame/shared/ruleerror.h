@@ -7,7 +7,8 @@ namespace Tallymere {
 
 // A rule refused what the user wanted. The message is shown in the standard error box as it stands; the column, if
 // any, names the field that the screen puts the cursor on.
-class RuleError : public std::exception {
+class RuleError : public std::exception
+{
 public:
     explicit RuleError(QString message, QString column = {})
         : m_message(std::move(message))
@@ -28,7 +29,8 @@ private:
 
 // Ends what is going on without a further message: the user has answered No or Cancel, or has seen the message
 // already. The column, if any, is where the cursor goes.
-class SilentAbort : public std::exception {
+class SilentAbort : public std::exception
+{
 public:
     explicit SilentAbort(QString column = {})
         : m_column(std::move(column))

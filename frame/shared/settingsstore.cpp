@@ -33,6 +33,8 @@ QString SystemSettings::read(const QString &setting, const QString &valueName) c
 bool SystemSettings::write(const QString &setting, const QString &valueName, const QString &value)
 {
     return withSettings([&](QSettings &settings) {
+        if (!settings.isWritable()) // what is set all the same would be read back until the program ends
+            return false;
         settings.setValue(path(setting, valueName), value);
         settings.sync();
         return settings.status() == QSettings::NoError;

@@ -13,7 +13,8 @@ inline constexpr QLatin1StringView spacedDatabaseName{"Cor Vane"};
 // The settings that are kept for the user and shared with the host: below "\Software\DBIsam\" each setting ("Mode",
 // "Alias", "Server IP", "Connection") is a key of its own, and holds one value for each database by the database's
 // name. Nothing is cached: what another program wrote is read at the next call.
-class SettingsStore {
+class SettingsStore
+{
 public:
     virtual ~SettingsStore() = default;
 
@@ -24,14 +25,16 @@ public:
 };
 
 // The registry on Windows; elsewhere the file DBIsam.conf in the user's configuration folder.
-class SystemSettings final : public SettingsStore {
+class SystemSettings final : public SettingsStore
+{
 public:
     QString read(const QString &setting, const QString &valueName) const override;
     bool write(const QString &setting, const QString &valueName, const QString &value) override;
 };
 
 // Settings that live with the object.
-class MemorySettings final : public SettingsStore {
+class MemorySettings final : public SettingsStore
+{
 public:
     QString read(const QString &setting, const QString &valueName) const override;
     bool write(const QString &setting, const QString &valueName, const QString &value) override;

@@ -62,7 +62,8 @@ TEST(ToCents, KeepsMoneyExact)
 
 TEST(Date2000, SettlesTheCentury)
 {
-    struct Case {
+    struct Case
+    {
         QString text;
         QDate expected;
     };
@@ -107,7 +108,8 @@ TEST(Words, SplitJoinAndReplace)
     wordsToString({u"a"_s, u"b"_s}, u", "_s, text);
     EXPECT_EQ(text, u"a, b tail"_s);
 
-    struct Case {
+    struct Case
+    {
         QString text, from, to, expected;
     };
     const Case cases[] = {{u"a-b-c"_s, u"-"_s, u", "_s, u"a, b, c"_s},

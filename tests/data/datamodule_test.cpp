@@ -20,7 +20,8 @@ using Engine::ErrorCode;
 using Engine::Table;
 using Engine::Value;
 
-class DataModule : public testing::TestWithParam<Store> {
+class DataModule : public testing::TestWithParam<Store>
+{
 protected:
     DataModule()
         : store(GetParam())
@@ -293,7 +294,8 @@ INSTANTIATE_TEST_SUITE_P(Stores, DataModule, testing::Values(Store::Local, Store
 
 TEST(DataModuleLocation, MissingFolderIsSaidAndThenFailsInTheEngine)
 {
-    struct Case {
+    struct Case
+    {
         QString alias, said;
     };
     const Case cases[] = {{u""_s, u"has not been defined"_s}, {u"/no/such/folder"_s, u"/no/such/folder"_s}};

@@ -31,7 +31,8 @@ TEST(FiscalPeriod, RangesAreJudgedInOrder)
     FiscalSettings open = set;
     open.errorTo = open.warnTo = {};
 
-    struct Case {
+    struct Case
+    {
         FiscalSettings settings;
         Period period;
         PeriodVerdict expected;

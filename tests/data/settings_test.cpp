@@ -11,13 +11,26 @@
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
-TEST(SystemSettings, AreKeptForTheUserUnderTheDocumentedNames)
+// In a settings folder of the test's own.
+class SystemSettingsTest : public testing::Test
 {
-    const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
-    ASSERT_FALSE(folder.isEmpty()) << "a test must not touch the user's own settings";
-    QDir(folder).removeRecursively();
+protected:
+    void SetUp() override
+    {
+        folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+        if (folder.isEmpty())
+            GTEST_SKIP() << "XDG_CONFIG_HOME is not set, and the user's own settings must not be touched";
+        file = folder + u"/DBIsam.conf"_s;
+        QFile::remove(file);
+    }
 
+    QString folder;
+    QString file;
     SystemSettings settings;
+};
+
+TEST_F(SystemSettingsTest, AreKeptForTheUserUnderTheDocumentedNames)
+{
     EXPECT_EQ(getRegString(settings, u"Mode"_s, u"Corvane"_s), u""_s);
     ASSERT_TRUE(setRegString(settings, u"Server IP"_s, u"10.0.0.7"_s));
     ASSERT_TRUE(setRegString(settings, u"Alias"_s, u"/data/Küche; a, b=\"c\""_s));
@@ -27,15 +40,12 @@ TEST(SystemSettings, AreKeptForTheUserUnderTheDocumentedNames)
     EXPECT_EQ(getRegString(another, u"Server IP"_s, u"Corvane"_s), u"10.0.0.7"_s);
     EXPECT_EQ(dbisamAlias(another, u"Corvane"_s), u"/data/Küche; a, b=\"c\""_s);
     EXPECT_EQ(dbisamAlias(another, u"Cor Vane"_s), u"/spaced"_s);
-    EXPECT_TRUE(QFile::exists(folder + u"/DBIsam.conf"_s));
+    EXPECT_TRUE(QFile::exists(file));
 }
 
-TEST(SystemSettings, WritingIntoAnImpossiblePlaceIsReported)
+TEST_F(SystemSettingsTest, WritingIntoAnImpossiblePlaceIsReported)
 {
-    const QString file = qEnvironmentVariable("XDG_CONFIG_HOME") + u"/DBIsam.conf"_s;
-    QFile::remove(file);
     ASSERT_TRUE(QDir().mkpath(file)) << "a folder in the place of the file";
-    SystemSettings settings;
     EXPECT_FALSE(setRegString(settings, u"Mode"_s, u"C"_s));
     EXPECT_EQ(getRegString(settings, u"Mode"_s, u"Corvane"_s), u""_s);
     QDir().rmdir(file);
@@ -64,7 +74,8 @@ TEST(Connection, DatabaseIsLookedForUnderBothNames)
     QTemporaryDir folder;
     const QString notDefined = u"The Corvane database has not been defined. The application can not continue. "
                                "Corvane will now terminate..."_s;
-    struct Case {
+    struct Case
+    {
         QString mode, alias, spacedAlias, expected, said;
     };
     const Case cases[] = {

@@ -23,7 +23,7 @@ TEST(Texts, KeysInBrackets)
         {u"Bread"_s, u"Brea"_s},
         {u"[ 9 ~1]"_s, u"9"_s},
         {u"[12345]"_s, u"1234"_s},
-        {u"[]"_s, u""_s},
+        {u"[]"_s, u"]"_s},
         {u"[~"_s, u"~"_s},
         {u"]"_s, u"]"_s},
         {u""_s, u""_s},
@@ -103,7 +103,8 @@ TEST(BuildInfoTest, ReadsTheProgramsVersion)
     QCoreApplication::setApplicationVersion(before);
 }
 
-class Tables : public testing::TestWithParam<Store> {
+class Tables : public testing::TestWithParam<Store>
+{
 protected:
     Tables()
         : store(GetParam())
