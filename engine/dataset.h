@@ -3,16 +3,17 @@
 #include "engine/field.h"
 #include "engine/value.h"
 
+#include <deque>
+#include <memory>
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <deque>
-#include <memory>
 #include <vector>
 
 namespace Engine {
 
 class Database;
+struct SetScope;
 
 using Row = std::vector<Value>; // in the order of the fields; calculated fields hold null here
 
@@ -44,13 +45,15 @@ public:
     int fieldCount() const { return static_cast<int>(m_fields.size()); }
     int fieldIndex(QStringView name) const; // -1 when there is none
     const Field &field(int index) const { return m_fields[static_cast<size_t>(index)]; }
+    Field &field(int index) { return m_fields[static_cast<size_t>(index)]; }
     Field &field(QStringView name); // to set label, format, validate, changed; throws NoSuchField
     const Field &field(QStringView name) const;
     void addLookup(const QString &name, FieldType type, int size, Lookup lookup);
     void addCalculated(const QString &name, FieldType type, int size, std::function<Value(const DataSet &)> rule);
 
-    // --- the current record ---------------------------------------------------------------------------------------
-    // Of an empty set every value is null.
+    // --- the current record
+    // --------------------------------------------------------------------------------------- Of an empty set every
+    // value is null.
     virtual Value value(int field) const;
     Value value(QStringView name) const { return value(requireField(name)); }
     QString text(QStringView name) const { return value(name).toText(); }
@@ -61,12 +64,13 @@ public:
     QDate date(QStringView name) const { return value(name).toDate(); }
     QString displayText(QStringView name) const;
 
-    // --- moving ---------------------------------------------------------------------------------------------------
-    bool isEmpty() const { return recordCount() == 0; }
+    // --- moving
+    // ---------------------------------------------------------------------------------------------------
+    bool isEmpty() const; // reads no more than the first row
     int recordCount() const; // reads the keys
-    int recordIndex() const { return m_index; } // of the current record; -1 when the set is empty
-    bool atEnd() const { return m_atEnd; } // next() went past the last record, or the set is empty
-    bool atBegin() const { return m_atBegin; }
+    int recordIndex() const; // of the current record; -1 when the set is empty. May have to read the keys
+    bool atEnd() const; // next() went past the last record, or the set is empty
+    bool atBegin() const; // likewise for prior(); also after first()
     void first();
     void last();
     void next();
@@ -83,17 +87,17 @@ public:
     // The first rows of the set before the keys are read, so that a list can paint at once.
     std::vector<Row> firstRows(int count) const;
 
-    // --- finding and restricting ------------------------------------------------------------------------------------
-    // Moves to the first row in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values;
-    // PartialKey lets the last text begin with its value. Reads no more than that row's window and the keys; on
-    // failure the record stays.
+    // --- finding and restricting
+    // ------------------------------------------------------------------------------------ Moves to the first row
+    // in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values; PartialKey lets the last
+    // text begin with its value. Reads no more than that row's window and the keys; on failure the record stays.
     bool locate(const QString &fields, const QList<Value> &values, LocateOptions options = LocateOption::None);
 
     // A condition over data fields, in force while filtered is set:
     //   (WarehouseID = 2) AND (Posted <> true) OR NOT (Name LIKE 'A%')
-    // with = <> < > <= >=, LIKE, IS [NOT] NULL, + - * /, AND, OR, NOT, parentheses, numbers, 'texts' (two quotes for
-    // one), true, false, null and dates as 'YYYY-MM-DD'. An empty Boolean fails "= false" and passes "<> true". It is
-    // parsed, never pasted: a bad one throws BadExpression saying where, and the old filter stays.
+    // with = <> < > <= >=, LIKE, IS [NOT] NULL, + - * /, AND, OR, NOT, parentheses, numbers, 'texts' (two quotes
+    // for one), true, false, null and dates as 'YYYY-MM-DD'. An empty Boolean fails "= false" and passes "<> true".
+    // It is parsed, never pasted: a bad one throws BadExpression saying where, and the old filter stays.
     void setFilter(const QString &expression);
     const QString &filter() const { return m_filter; }
     void setFiltered(bool on);
@@ -114,34 +118,38 @@ Q_SIGNALS:
 protected:
     explicit DataSet(Database &database);
 
-    // Statement fragments of the set, given by the subclasses. The parts are joined by the base.
-    struct Scope
-    {
-        QString source; // what stands after FROM; rows are referred to as "t"
-        QStringList keyColumns; // whole-number columns that tell rows apart
-        QStringList conditions; // joined by AND
-        QList<Value> parameters; // of the source and the conditions, in order
-        QString order; // complete terms; must end with the key so that order is total
-    };
-    virtual Scope scope() const = 0;
+    // What the set consists of, given by the subclasses; the base adds the filter.
+    virtual SetScope scope() const = 0;
 
     int requireField(QStringView name) const; // throws NoSuchField
     void requireOpen() const; // throws WrongState
     virtual void beforeMove(); // Table: posts or drops an edit in progress
-    void invalidateKeys(); // list is read again when needed
-    void emitListChanged();
+    virtual void scrolled() { } // another record became current
+    virtual void settle() { } // Table: the same for a detail whose master is about to move
+    // The list is read again when it is needed. The record stays current, or the first becomes current.
+    enum class Place { Keep, First };
+    void invalidate(Place place);
+    void emitListChanged(); // with currentChanged, for a set that is new as a whole
+    Value lookedUp(const Field &field, const Value &key) const;
+    // locate() over the given fields.
+    bool moveToFirstMatch(const QStringList &fields, const QList<Value> &values, LocateOptions options);
+    // Brings the data fields up to the given ones. Fields that stay keep their labels, rules and references.
+    void setDataFields(const std::vector<Field> &fields);
 
     struct Private;
+    friend class DataSetReader;
     std::unique_ptr<Private> d;
 
     Database &m_database;
     std::deque<Field> m_fields; // references stay valid when fields are added
     bool m_open = false;
-    mutable int m_index = -1;
-    bool m_atEnd = true;
-    bool m_atBegin = true;
     QString m_filter;
     bool m_filtered = false;
+
+private:
+    void addField(Field field);
+    bool matches(const Row &row, const QStringList &fields, const QList<Value> &values,
+                 LocateOptions options) const;
 };
 
 } // namespace Engine

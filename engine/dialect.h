@@ -37,6 +37,14 @@ public:
     virtual QString rowIdentity() const = 0;
     // Condition that the column equals one of the whole numbers of a text parameter such as "[1,2,3]".
     virtual QString inNumberList(const QString &column) const = 0;
+
+    // Condition that the text matches the pattern of a parameter, case-sensitively and without an escape character.
+    // The parameter is made by likePattern from a pattern with % and _.
+    virtual QString like(const QString &column) const { return column + QStringLiteral(" LIKE ? ESCAPE ''"); }
+    virtual QString likePattern(const QString &pattern) const { return pattern; }
+    // Statement that waits until no other transaction holds the whole number of its parameter, and holds it to the
+    // end of this one. Empty where write transactions exclude each other anyway.
+    virtual QString transactionLock() const { return {}; }
 };
 
 } // namespace Engine

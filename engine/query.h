@@ -9,9 +9,9 @@ namespace Engine {
 // A statement with named parameters (":ReceiptID").
 //
 // As a list: set keyFields and orderBy, and the result is browsed like a table, with ordered keys and windows of
-// rows, filters and locate. Without keyFields the whole result is read when it is opened, as it is at that moment.
-class Query : public DataSet
-{
+// rows, filters and locate. Without keyFields the whole result is read when it is opened, as it is at that moment;
+// it can be walked and searched, but has no filter and no lookup fields.
+class Query : public DataSet {
     Q_OBJECT
 
 public:
@@ -27,22 +27,33 @@ public:
     void setParameter(QStringView name, const Value &value); // taken at the next open or execute
     // For a list: result columns of whole numbers that tell rows apart, "ItemID;WarehouseID".
     void setKeyFields(const QString &fields);
-    // For a list: result columns, "ItemNo;WarehouseName"; the key is added as the last order. Reopens an open query.
+    // For a list: result columns, "ItemNo;WarehouseName"; the key is added as the last order. Reopens an open
+    // query.
     void setOrderBy(const QString &fields);
 
     void open() override;
     void close() override;
+    void refresh() override;
     qint64 execute(); // for statements without a result; returns the rows changed
 
 protected:
-    Scope scope() const override;
+    SetScope scope() const override;
 
 private:
+    struct Text; // the statement as it is prepared
+
+    const Text &text() const;
+    QList<Value> parameters() const;
+    std::vector<Field> listFields() const;
+    std::vector<Field> readAll();
+
+    mutable std::unique_ptr<Text> m_text;
     QString m_sql;
     QString m_remoteSql;
     QString m_keyFields;
     QString m_orderBy;
-    QHash<QString, Value> m_parameters;
+    QHash<QString, Value> m_parameters; // by name in lower case
+    QList<Value> m_values; // of the open query, in the order of the statement
 };
 
 // The value of the first column of the first row, or null. For "SELECT max(...)" and the like; statements may hold

@@ -5,6 +5,8 @@
 
 namespace Engine {
 
+struct SqlCondition;
+
 enum class TableState { Inactive, Browse, Edit, Insert };
 
 // A table opened on an index, with a current record that can be edited, inserted and deleted.
@@ -12,8 +14,7 @@ enum class TableState { Inactive, Browse, Edit, Insert };
 // An edit locks the record at once, for this connection alone; others get RecordLocked after the session's
 // attempts. post() is one transaction and durable when it returns. A record that is read, found by key or inserted
 // costs no reading of the list.
-class Table : public DataSet
-{
+class Table : public DataSet {
     Q_OBJECT
 
 public:
@@ -23,8 +24,9 @@ public:
     const QString &name() const { return m_name; }
     const TableLayout &layout() const { return m_layout; } // as stored, known once open
 
-    // --- opening ---------------------------------------------------------------------------------------------------
-    // The order: an index by name or by its field list; empty is the primary order. May be changed while open; the
+    // --- opening
+    // --------------------------------------------------------------------------------------------------- The
+    // order: an index by name or by its field list; empty is the primary order. May be changed while open; the
     // record stays current.
     void setIndex(const QString &nameOrFields);
     const QString &index() const { return m_index; }
@@ -33,14 +35,17 @@ public:
     void open() override;
     void close() override; // drops an edit in progress
 
-    // --- whole-table lock --------------------------------------------------------------------------------------------
-    // Keeps others from writing, not from reading. Fails at once with TableLocked, naming the holder if known.
+    // --- whole-table lock
+    // -------------------------------------------------------------------------------------------- Keeps others
+    // from writing, not from reading. Fails at once with TableLocked, naming the holder if known.
     void lockTable();
     void unlockTable();
 
-    // --- range and link ------------------------------------------------------------------------------------------------
-    // Restricts the set to rows whose leading fields of the current order lie between the bounds, both included.
-    // Fewer values than fields compare only those given.
+    // --- range and link
+    // ------------------------------------------------------------------------------------------------ Restricts
+    // the set to rows whose leading fields of the current order lie between the bounds, both included. Fewer values
+    // than fields compare only those given. In a descending order the bounds may be given either way round. A new
+    // order ends the range.
     void setRange(const QList<Value> &from, const QList<Value> &to);
     void cancelRange();
     // Restricts the set to the rows whose field of each name equals the master's field of the same name (or
@@ -50,7 +55,8 @@ public:
     // Moves to the row whose leading index fields equal the values, by one key look-up.
     bool findKey(const QList<Value> &values);
 
-    // --- editing ----------------------------------------------------------------------------------------------------------
+    // --- editing
+    // ----------------------------------------------------------------------------------------------------------
     TableState state() const { return m_state; }
     bool isEditing() const { return m_state == TableState::Edit || m_state == TableState::Insert; }
     bool isModified() const { return m_modified; } // a field was set by set() since edit or insert
@@ -82,9 +88,9 @@ public:
     // Fields whose value no other row may hold, checked in post()'s own transaction. Null and "" are free.
     QStringList uniqueFields;
 
-    // --- events: each may throw to stop what is about to happen -----------------------------------------------------
-    struct Events
-    {
+    // --- events: each may throw to stop what is about to happen
+    // -----------------------------------------------------
+    struct Events {
         std::function<void()> beforeOpen, afterOpen, beforeClose;
         std::function<void()> newRecord; // the new record exists and takes defaults
         std::function<void()> beforeInsert, beforeEdit, afterEdit;
@@ -98,11 +104,41 @@ public:
     void refresh() override; // an edit in progress is ended first
 
 protected:
-    Scope scope() const override;
+    SetScope scope() const override;
     void beforeMove() override;
+    void scrolled() override;
+    void settle() override { checkBrowseMode(); }
 
 private:
-    struct Edit;
+    struct Restriction; // range and link
+    struct Edit; // the record being edited
+
+    const IndexDef *order() const; // of the index in force; nullptr for a table without primary key
+    QStringList keyFields() const; // the primary key when it is whole numbers, else empty
+    QList<qint64> keyOf(const Row &row) const;
+    QList<qint64> lockKey(const Row &row) const;
+    SqlCondition linkCondition() const;
+    SqlCondition rangeCondition() const;
+    bool decidesPlace(int field) const; // a new value may move the row in the list, or out of it
+    void masterMoved();
+    QList<Value> linkValues() const;
+    void restrictionChanged();
+
+    void requireWritable() const;
+    void readForEdit();
+    void setValue(int field, const Value &value);
+    void fieldIsNew(int field);
+    void requirePrimaryKey() const;
+    void requireUnique(int field) const;
+    void write();
+    void insertRow();
+    void updateRow();
+    void finishEdit();
+    void showInserted(Row row);
+    void showUpdated(Row row, bool placeMayDiffer);
+    void removeRow(const QList<qint64> &key);
+
+    std::unique_ptr<Restriction> m_restriction;
     std::unique_ptr<Edit> m_edit;
 
     QString m_name;
@@ -110,6 +146,7 @@ private:
     QString m_index;
     TableState m_state = TableState::Inactive;
     bool m_modified = false;
+    bool m_tableLocked = false;
 };
 
 } // namespace Engine

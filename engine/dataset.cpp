@@ -1,0 +1,326 @@
+#include "engine/dataset.h"
+
+#include "engine/database.h"
+#include "engine/datasetprivate.h"
+#include "engine/dialect.h"
+#include "engine/error.h"
+
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+using Current = DataSetReader::Current;
+
+DataSet::DataSet(Database &database)
+    : d(std::make_unique<Private>())
+    , m_database(database)
+{
+}
+DataSet::~DataSet() = default;
+
+void DataSet::requireOpen() const
+{
+    if (!m_open)
+        throw EngineError(ErrorCode::WrongState, QCoreApplication::translate("Engine", "The table is not open."));
+}
+
+// --- moving ----------------------------------------------------------------------------------------------------
+
+bool DataSet::isEmpty() const
+{
+    if (!m_open)
+        return true;
+    if (d->keysRead)
+        return d->keys.count() == 0;
+    DataSetReader(*this).resolve();
+    return d->current == Current::Empty;
+}
+
+int DataSet::recordCount() const
+{
+    if (!m_open)
+        return 0;
+    DataSetReader(*this).readKeys();
+    return d->keys.count();
+}
+
+int DataSet::recordIndex() const { return m_open ? DataSetReader(*this).index() : -1; }
+bool DataSet::atEnd() const { return !m_open || d->atEnd || isEmpty(); }
+bool DataSet::atBegin() const { return !m_open || d->atBegin || isEmpty(); }
+
+void DataSet::beforeMove()
+{
+    for (DataSet *detail : std::as_const(d->details))
+        detail->settle();
+}
+
+void DataSet::first()
+{
+    requireOpen();
+    beforeMove();
+    if (d->keysRead) {
+        moveTo(0);
+        d->atBegin = true;
+        return;
+    }
+    const bool moves = d->current != Current::Unread && d->index != 0;
+    if (moves)
+        d->holdNothing(Current::Unread);
+    d->atBegin = true;
+    d->atEnd = false;
+    if (!moves)
+        return;
+    Q_EMIT currentChanged();
+    scrolled();
+}
+
+void DataSet::last()
+{
+    requireOpen();
+    moveTo(recordCount() - 1);
+}
+
+void DataSet::next()
+{
+    requireOpen();
+    beforeMove();
+    const int index = recordIndex();
+    if (index + 1 < recordCount())
+        return moveTo(index + 1);
+    d->atEnd = true;
+    d->atBegin = false;
+}
+
+void DataSet::prior()
+{
+    requireOpen();
+    beforeMove();
+    const int index = recordIndex();
+    if (index > 0)
+        return moveTo(index - 1);
+    d->atBegin = true;
+    d->atEnd = false;
+}
+
+void DataSet::moveTo(int index)
+{
+    requireOpen();
+    beforeMove();
+    const int count = recordCount();
+    if (count == 0)
+        return;
+    const int target = std::clamp(index, 0, count - 1);
+    d->atEnd = false;
+    d->atBegin = false;
+    if (DataSetReader(*this).index() == target)
+        return;
+    d->hold(d->keys.at(target), std::nullopt);
+    d->index = target;
+    Q_EMIT currentChanged();
+    scrolled();
+}
+
+const Row &DataSet::rowAt(int index) const
+{
+    requireOpen();
+    return DataSetReader(*this).rowAt(index);
+}
+
+Value DataSet::valueAt(int index, int fieldNumber) const
+{
+    const Row &row = rowAt(index);
+    const Field &wanted = field(fieldNumber);
+    if (wanted.kind != FieldKind::Calculated)
+        return row[static_cast<size_t>(fieldNumber)];
+    const QScopedValueRollback guard(d->rowInHand, &row);
+    return wanted.calculate(*this);
+}
+
+QList<qint64> DataSet::keyAt(int index) const
+{
+    requireOpen();
+    DataSetReader(*this).readKeys();
+    return index >= 0 && index < d->keys.count() ? d->keys.at(index) : Key();
+}
+
+QList<qint64> DataSet::currentKey() const
+{
+    if (!m_open)
+        return {};
+    DataSetReader(*this).resolve();
+    return d->key;
+}
+
+bool DataSet::moveToKey(const QList<qint64> &key)
+{
+    requireOpen();
+    if (key.isEmpty())
+        return false;
+    const DataSetReader reader(*this);
+    reader.resolve();
+    if (d->current == Current::Known && d->key == key)
+        return true;
+    if (d->keysRead || d->inMemory) {
+        reader.readKeys();
+        const int index = d->keys.find(key);
+        if (index >= 0)
+            moveTo(index);
+        return index >= 0;
+    }
+    if (!reader.source().holds(key))
+        return false;
+    beforeMove();
+    d->hold(key, std::nullopt);
+    Q_EMIT currentChanged();
+    scrolled();
+    return true;
+}
+
+std::vector<Row> DataSet::firstRows(int count) const
+{
+    requireOpen();
+    const DataSetReader reader(*this);
+    if (!d->keysRead && !d->inMemory)
+        return reader.source().firstRows(count);
+    std::vector<Row> rows;
+    for (int i = 0; i < std::min(count, recordCount()); ++i)
+        rows.push_back(reader.rowAt(i));
+    return rows;
+}
+
+// --- finding and restricting -----------------------------------------------------------------------------------
+
+bool DataSet::locate(const QString &fields, const QList<Value> &values, LocateOptions options)
+{
+    requireOpen();
+    return moveToFirstMatch(fields.split(u';', Qt::SkipEmptyParts), values, options);
+}
+
+namespace {
+
+bool sameText(const Value &value, const Value &wanted, bool partial, bool caseInsensitive)
+{
+    const QString text = caseInsensitive ? foldedAscii(value.toText()) : value.toText();
+    const QString other = caseInsensitive ? foldedAscii(wanted.toText()) : wanted.toText();
+    return partial ? text.startsWith(other) : text == other;
+}
+
+} // namespace
+
+bool DataSet::matches(const Row &row, const QStringList &fields, const QList<Value> &values,
+                      LocateOptions options) const
+{
+    for (qsizetype i = 0; i < std::min(fields.size(), values.size()); ++i) {
+        const int index = requireField(fields[i]);
+        const Value &value = row[static_cast<size_t>(index)];
+        const bool text = field(index).type == FieldType::Text || field(index).type == FieldType::Memo;
+        const bool partial = text && options.testFlag(LocateOption::PartialKey) && i + 1 == fields.size();
+        const bool same = text
+            ? sameText(value, values[i], partial, options.testFlag(LocateOption::CaseInsensitive))
+            : value == values[i].as(field(index).type);
+        if (!same)
+            return false;
+    }
+    return true;
+}
+
+bool DataSet::moveToFirstMatch(const QStringList &fields, const QList<Value> &values, LocateOptions options)
+{
+    beforeMove();
+    try {
+        if (d->inMemory) {
+            const auto found = std::find_if(d->memory.begin(), d->memory.end(),
+                                            [&](const Row &row) { return matches(row, fields, values, options); });
+            if (found == d->memory.end())
+                return false;
+            moveTo(static_cast<int>(found - d->memory.begin()));
+            return true;
+        }
+        RowSource &source = DataSetReader(*this).source();
+        auto found = source.first(source.match(fields, values, options));
+        if (!found)
+            return false;
+        const bool moves = d->current != Current::Known || d->key != found->key;
+        const int index = moves ? -1 : d->index;
+        d->hold(std::move(found->key), std::move(found->row));
+        d->index = index;
+        if (!moves)
+            return true;
+    } catch (const EngineError &error) {
+        if (error.code() == ErrorCode::BadValue)
+            return false; // no row can hold what does not fit the field
+        throw;
+    }
+    Q_EMIT currentChanged();
+    scrolled();
+    return true;
+}
+
+void DataSet::setFilter(const QString &expression)
+{
+    if (expression == m_filter)
+        return;
+    FilterExpression parsed(expression);
+    if (m_open) {
+        beforeMove();
+        parsed.condition(m_database.connection().dialect(),
+                         [this](QStringView name) { return DataSetReader::filterColumn(*this, name); });
+    }
+    m_filter = expression;
+    if (!m_open || !m_filtered)
+        return;
+    invalidate(Place::First);
+    emitListChanged();
+}
+
+void DataSet::setFiltered(bool on)
+{
+    if (on == m_filtered)
+        return;
+    if (on && d->inMemory)
+        throw EngineError(ErrorCode::WrongState,
+                          QCoreApplication::translate("Engine", "A query without key fields cannot be filtered."));
+    if (m_open)
+        beforeMove();
+    m_filtered = on;
+    if (!m_open)
+        return;
+    invalidate(Place::First);
+    emitListChanged();
+}
+
+void DataSet::refresh()
+{
+    requireOpen();
+    beforeMove();
+    invalidate(Place::Keep);
+    emitListChanged();
+}
+
+void DataSet::invalidate(Place place)
+{
+    if (d->index >= 0)
+        d->formerIndex = d->index;
+    d->source.reset();
+    d->forgetRead();
+    if (place == Place::First || d->current != Current::Known) {
+        d->holdNothing(Current::Unread);
+        d->formerIndex = 0;
+        return;
+    }
+    d->index = -1;
+    d->verify = true;
+    d->atEnd = false;
+    d->atBegin = false;
+}
+
+void DataSet::emitListChanged()
+{
+    Q_EMIT listChanged();
+    Q_EMIT currentChanged();
+}
+
+} // namespace Engine

@@ -1,0 +1,56 @@
+#include "engine/field.h"
+
+#include "engine/error.h"
+
+#include <QCoreApplication>
+
+namespace Engine {
+
+namespace {
+
+// Characters as a reader counts them, not UTF-16 units.
+qsizetype characterCount(const QString &text)
+{
+    qsizetype count = 0;
+    for (const QChar unit : text)
+        count += unit.isLowSurrogate() ? 0 : 1;
+    return count;
+}
+
+} // namespace
+
+QString Field::displayText(const Value &value) const
+{
+    return format.display ? format.display(value) : value.toText();
+}
+
+QString Field::editText(const Value &value) const { return format.edit ? format.edit(value) : displayText(value); }
+
+Value Field::parse(const QString &text) const
+{
+    if (format.parse)
+        return format.parse(text);
+    return text.isEmpty() ? Value() : fit(text);
+}
+
+QString Field::caption() const { return label.isEmpty() ? name : label; }
+
+Value Field::fit(const Value &value) const
+{
+    Value fitted;
+    try {
+        fitted = value.as(type);
+    } catch (const EngineError &error) {
+        throw EngineError(error.code(),
+                          QCoreApplication::translate("Engine", "%1: %2").arg(caption(), error.text()));
+    }
+    if (type != FieldType::Text || size <= 0 || fitted.isNull())
+        return fitted;
+    if (characterCount(fitted.toText()) <= size)
+        return fitted;
+    throw EngineError(ErrorCode::BadValue,
+                      QCoreApplication::translate("Engine", "%1: \"%2\" is longer than the %3 characters that fit.")
+                          .arg(caption(), fitted.toText(), QString::number(size)));
+}
+
+} // namespace Engine

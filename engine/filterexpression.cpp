@@ -1,0 +1,267 @@
+#include "engine/filterexpression.h"
+
+#include "engine/dialect.h"
+#include "engine/filterlexer.h"
+#include "engine/filternode.h"
+
+#include <cmath>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+using Node = FilterExpression::Node;
+
+// What a part of an expression is, for deciding what may stand beside it.
+enum class Sort { Number, Text, Boolean, Date, DateTime, Null };
+
+struct Part {
+    SqlCondition sql;
+    Sort sort = Sort::Null;
+    FieldType type = FieldType::Float; // of a field
+};
+
+class Translator {
+public:
+    Translator(const QString &expression, const Dialect &dialect, const FilterExpression::Columns &columns)
+        : m_expression(expression)
+        , m_dialect(dialect)
+        , m_columns(columns)
+    {
+    }
+
+    // The node as a condition. It is never "unknown" where it is the operand of NOT.
+    SqlCondition condition(const Node &node) const
+    {
+        switch (node.kind) {
+        case Node::Kind::Or:
+            return chain(node, " OR "_L1);
+        case Node::Kind::And:
+            return chain(node, " AND "_L1);
+        case Node::Kind::Not:
+            return wrapped("NOT COALESCE("_L1, condition(*node.parts[0]), ", 1=0)"_L1);
+        case Node::Kind::Compare:
+            return comparison(node);
+        case Node::Kind::Like:
+            return like(node);
+        case Node::Kind::IsNull:
+            return wrapped({}, operand(*node.parts[0]).sql, " IS NULL"_L1);
+        case Node::Kind::Boolean:
+            return {node.value.toBool() ? u"1=1"_s : u"1=0"_s, {}};
+        case Node::Kind::Field:
+            return booleanField(node);
+        default:
+            refuse(node, QCoreApplication::translate("Engine", "a condition was expected."));
+        }
+    }
+
+private:
+    [[noreturn]] void refuse(const Node &node, const QString &why) const
+    {
+        refuseFilter(m_expression, node.position, why);
+    }
+
+    [[noreturn]] void refuseKinds(const Node &node) const
+    {
+        refuse(node, QCoreApplication::translate("Engine", "these two do not compare with each other."));
+    }
+
+    static SqlCondition wrapped(QLatin1StringView before, const SqlCondition &inside, QLatin1StringView after)
+    {
+        return {before + inside.text + after, inside.parameters};
+    }
+
+    static SqlCondition joined(const SqlCondition &left, const QString &between, const SqlCondition &right)
+    {
+        return {left.text + between + right.text, left.parameters + right.parameters};
+    }
+
+    SqlCondition chain(const Node &node, QLatin1StringView between) const
+    {
+        SqlCondition all = condition(*node.parts[0]);
+        for (size_t i = 1; i < node.parts.size(); ++i)
+            all = joined(all, between, condition(*node.parts[i]));
+        return wrapped("("_L1, all, ")"_L1);
+    }
+
+    SqlCondition booleanField(const Node &node) const
+    {
+        const Part field = operand(node);
+        if (field.sort != Sort::Boolean)
+            refuse(node, QCoreApplication::translate("Engine", "%1 is no condition by itself.").arg(node.text));
+        return {field.sql.text + " = ?"_L1, {true}};
+    }
+
+    Part field(const Node &node) const
+    {
+        const auto column = m_columns(node.text);
+        if (!column)
+            refuse(node, QCoreApplication::translate("Engine", "there is no field \"%1\".").arg(node.text));
+        Part part{{column->sql, {}}, Sort::Number, column->type};
+        switch (column->type) {
+        case FieldType::Text:
+        case FieldType::Memo:
+            part.sort = Sort::Text;
+            break;
+        case FieldType::Boolean:
+            part.sort = Sort::Boolean;
+            break;
+        case FieldType::Date:
+            part.sort = Sort::Date;
+            break;
+        case FieldType::DateTime:
+            part.sort = Sort::DateTime;
+            break;
+        default:
+            break;
+        }
+        return part;
+    }
+
+    static SqlCondition number(double value)
+    {
+        const bool whole = std::floor(value) == value && std::fabs(value) < 9e15;
+        if (whole)
+            return {u"CAST(? AS BIGINT)"_s, {static_cast<qint64>(value)}};
+        return {u"CAST(? AS DOUBLE PRECISION)"_s, {value}};
+    }
+
+    Part operand(const Node &node) const
+    {
+        switch (node.kind) {
+        case Node::Kind::Field:
+            return field(node);
+        case Node::Kind::Number:
+            return {number(node.value.toDouble()), Sort::Number};
+        case Node::Kind::Text:
+            return {{u"CAST(? AS TEXT)"_s, {node.text}}, Sort::Text};
+        case Node::Kind::Boolean:
+            return {{u"?"_s, {node.value}}, Sort::Boolean};
+        case Node::Kind::Null:
+            return {{u"NULL"_s, {}}, Sort::Null};
+        case Node::Kind::Arithmetic:
+            return {arithmetic(node), Sort::Number};
+        case Node::Kind::Negate:
+            return {wrapped("(-"_L1, arithmeticOperand(*node.parts[0]), ")"_L1), Sort::Number};
+        default:
+            refuse(node, QCoreApplication::translate("Engine", "a value was expected, not a condition."));
+        }
+    }
+
+    // Whole numbers of the stores would overflow and would divide without a remainder.
+    SqlCondition arithmeticOperand(const Node &node) const
+    {
+        const Part part = operand(node);
+        if (part.sort != Sort::Number)
+            refuse(node, QCoreApplication::translate("Engine", "a number was expected."));
+        return wrapped("CAST("_L1, part.sql, " AS DOUBLE PRECISION)"_L1);
+    }
+
+    SqlCondition arithmetic(const Node &node) const
+    {
+        const SqlCondition left = arithmeticOperand(*node.parts[0]);
+        SqlCondition right = arithmeticOperand(*node.parts[1]);
+        if (node.text == "/"_L1)
+            right = wrapped("NULLIF("_L1, right, ", 0)"_L1);
+        return wrapped("("_L1, joined(left, u' ' + node.text + u' ', right), ")"_L1);
+    }
+
+    // A constant beside a field of another sort becomes the field's sort where it can be read so.
+    Part adapted(const Node &node, const Part &part, const Part &beside) const
+    {
+        const bool toDate = beside.sort == Sort::Date || beside.sort == Sort::DateTime;
+        if (node.kind == Node::Kind::Text && toDate) {
+            const bool dateOnly = beside.sort == Sort::Date;
+            const QDateTime moment = Value(node.text).toDateTime();
+            if (!moment.isValid())
+                refuse(node, QCoreApplication::translate("Engine", "'%1' is no date (YYYY-MM-DD).").arg(node.text));
+            const Value value = dateOnly ? Value(moment.date()) : Value(moment);
+            return {{u"?"_s, {value}}, beside.sort};
+        }
+        if (node.kind == Node::Kind::Number && beside.sort == Sort::Boolean)
+            return {{u"?"_s, {node.value.toBool()}}, Sort::Boolean};
+        if (node.kind == Node::Kind::Boolean && beside.sort == Sort::Number)
+            return {number(node.value.toDouble()), Sort::Number};
+        return part;
+    }
+
+    SqlCondition nullComparison(const Node &node, const Part &tested) const
+    {
+        if (node.text == "="_L1)
+            return wrapped({}, tested.sql, " IS NULL"_L1);
+        if (node.text == "<>"_L1)
+            return wrapped({}, tested.sql, " IS NOT NULL"_L1);
+        refuse(node, QCoreApplication::translate("Engine", "null compares with = and <> only."));
+    }
+
+    SqlCondition comparison(const Node &node) const
+    {
+        const Node &leftNode = *node.parts[0];
+        const Node &rightNode = *node.parts[1];
+        const Part leftRead = operand(leftNode);
+        const Part rightRead = operand(rightNode);
+        if (rightRead.sort == Sort::Null)
+            return nullComparison(node, leftRead);
+        if (leftRead.sort == Sort::Null)
+            return nullComparison(node, rightRead);
+        const Part left = adapted(leftNode, leftRead, rightRead);
+        const Part right = adapted(rightNode, rightRead, leftRead);
+        if (left.sort != right.sort)
+            refuseKinds(node);
+        const SqlCondition compared = joined(left.sql, u' ' + node.text + u' ', right.sql);
+        if (node.text == "<>"_L1)
+            return wrapped("COALESCE("_L1, compared, ", 1=1)"_L1);
+        return compared;
+    }
+
+    SqlCondition like(const Node &node) const
+    {
+        const Part tested = operand(*node.parts[0]);
+        if (tested.sort != Sort::Text)
+            refuse(*node.parts[0], QCoreApplication::translate("Engine", "LIKE needs a text field."));
+        return {m_dialect.like(tested.sql.text),
+                tested.sql.parameters + QList<Value>{m_dialect.likePattern(node.parts[1]->text)}};
+    }
+
+    const QString &m_expression;
+    const Dialect &m_dialect;
+    const FilterExpression::Columns &m_columns;
+};
+
+} // namespace
+
+FilterExpression::FilterExpression(const QString &expression)
+    : m_text(expression)
+    , m_root(parseFilter(expression))
+{
+}
+FilterExpression::FilterExpression(FilterExpression &&) noexcept = default;
+FilterExpression &FilterExpression::operator=(FilterExpression &&) noexcept = default;
+FilterExpression::~FilterExpression() = default;
+
+SqlCondition FilterExpression::condition(const Dialect &dialect, const Columns &columns) const
+{
+    if (!m_root)
+        return {};
+    SqlCondition condition = Translator(m_text, dialect, columns).condition(*m_root);
+    condition.text = u'(' + condition.text + u')';
+    return condition;
+}
+
+SqlCondition filterCondition(const QString &expression, const TableLayout &layout, const Dialect &dialect,
+                             const QString &alias)
+{
+    const QString prefix = alias.isEmpty() ? QString() : alias + u'.';
+    return FilterExpression(expression)
+        .condition(dialect, [&](QStringView name) -> std::optional<FilterExpression::Column> {
+            const FieldDef *field = layout.field(name);
+            if (!field)
+                return std::nullopt;
+            return FilterExpression::Column{prefix + dialect.name(field->name), field->type};
+        });
+}
+
+} // namespace Engine

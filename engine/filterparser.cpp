@@ -1,0 +1,228 @@
+#include "engine/filterlexer.h"
+#include "engine/filternode.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+using Node = FilterExpression::Node;
+using NodePtr = std::unique_ptr<Node>;
+using Kind = FilterToken::Kind;
+
+// Recursive descent. Binding from loose to tight: OR, AND, NOT, comparison, + and -, * and /, sign.
+class Parser {
+public:
+    explicit Parser(const QString &expression)
+        : m_expression(expression)
+        , m_tokens(filterTokens(expression))
+    {
+    }
+
+    NodePtr run()
+    {
+        if (current().kind == Kind::End)
+            return nullptr;
+        NodePtr root = disjunction();
+        if (current().kind != Kind::End)
+            unexpected(QCoreApplication::translate("Engine", "AND, OR or the end"));
+        return root;
+    }
+
+private:
+    // Each level of nesting takes several calls; what nobody would write must not use up the stack.
+    static constexpr int deepest = 200;
+    struct Depth {
+        explicit Depth(Parser &parser)
+            : m_parser(parser)
+        {
+            if (++m_parser.m_depth > deepest) {
+                refuseFilter(m_parser.m_expression, m_parser.current().position,
+                             QCoreApplication::translate("Engine", "too many levels of parentheses."));
+            }
+        }
+        ~Depth() { --m_parser.m_depth; }
+        Parser &m_parser;
+    };
+
+    const FilterToken &current() const { return m_tokens[m_at]; }
+    FilterToken take() { return m_tokens[m_at++]; }
+
+    [[noreturn]] void unexpected(const QString &wanted) const
+    {
+        const FilterToken &token = current();
+        const QString found =
+            token.kind == Kind::End ? QCoreApplication::translate("Engine", "the end") : u'"' + token.text + u'"';
+        refuseFilter(
+            m_expression, token.position,
+            QCoreApplication::translate("Engine", "%1 was expected, but %2 was found.").arg(wanted, found));
+    }
+
+    static NodePtr node(Node::Kind kind, const FilterToken &token)
+    {
+        auto made = std::make_unique<Node>();
+        made->kind = kind;
+        made->text = token.text;
+        made->position = token.position;
+        return made;
+    }
+
+    NodePtr chain(Node::Kind kind, QLatin1StringView word, NodePtr (Parser::*part)())
+    {
+        NodePtr first = (this->*part)();
+        if (!current().isWord(word))
+            return first;
+        NodePtr all = node(kind, current());
+        all->parts.push_back(std::move(first));
+        while (current().isWord(word)) {
+            take();
+            all->parts.push_back((this->*part)());
+        }
+        return all;
+    }
+
+    NodePtr disjunction() { return chain(Node::Kind::Or, "OR"_L1, &Parser::conjunction); }
+    NodePtr conjunction() { return chain(Node::Kind::And, "AND"_L1, &Parser::negation); }
+
+    NodePtr negation()
+    {
+        if (!current().isWord("NOT"_L1))
+            return comparison();
+        const Depth depth(*this);
+        NodePtr made = node(Node::Kind::Not, take());
+        made->parts.push_back(negation());
+        return made;
+    }
+
+    bool atComparison() const
+    {
+        static const QStringList operators{u"="_s, u"<>"_s, u"<"_s, u">"_s, u"<="_s, u">="_s};
+        return current().kind == Kind::Symbol && operators.contains(current().text);
+    }
+
+    NodePtr comparison()
+    {
+        NodePtr left = sum();
+        if (atComparison()) {
+            NodePtr made = node(Node::Kind::Compare, take());
+            made->parts.push_back(std::move(left));
+            made->parts.push_back(sum());
+            return made;
+        }
+        if (current().isWord("IS"_L1))
+            return nullTest(std::move(left));
+        if (current().isWord("LIKE"_L1))
+            return like(std::move(left));
+        if (current().isWord("NOT"_L1) && m_tokens[m_at + 1].isWord("LIKE"_L1)) {
+            NodePtr made = node(Node::Kind::Not, take());
+            made->parts.push_back(like(std::move(left)));
+            return made;
+        }
+        return left;
+    }
+
+    NodePtr nullTest(NodePtr operand)
+    {
+        NodePtr test = node(Node::Kind::IsNull, take());
+        test->parts.push_back(std::move(operand));
+        NodePtr negated;
+        if (current().isWord("NOT"_L1))
+            negated = node(Node::Kind::Not, take());
+        if (!current().isWord("NULL"_L1))
+            unexpected(u"NULL"_s);
+        take();
+        if (!negated)
+            return test;
+        negated->parts.push_back(std::move(test));
+        return negated;
+    }
+
+    NodePtr like(NodePtr operand)
+    {
+        NodePtr made = node(Node::Kind::Like, take());
+        if (current().kind != Kind::Text)
+            unexpected(QCoreApplication::translate("Engine", "a text in quotes"));
+        made->parts.push_back(std::move(operand));
+        made->parts.push_back(node(Node::Kind::Text, take()));
+        return made;
+    }
+
+    NodePtr arithmetic(QLatin1StringView one, QLatin1StringView other, NodePtr (Parser::*part)())
+    {
+        NodePtr left = (this->*part)();
+        while (current().isSymbol(one) || current().isSymbol(other)) {
+            NodePtr made = node(Node::Kind::Arithmetic, take());
+            made->parts.push_back(std::move(left));
+            made->parts.push_back((this->*part)());
+            left = std::move(made);
+        }
+        return left;
+    }
+
+    NodePtr sum() { return arithmetic("+"_L1, "-"_L1, &Parser::product); }
+    NodePtr product() { return arithmetic("*"_L1, "/"_L1, &Parser::sign); }
+
+    NodePtr sign()
+    {
+        if (!current().isSymbol("-"_L1))
+            return primary();
+        const Depth depth(*this);
+        const FilterToken minus = take();
+        NodePtr operand = sign();
+        if (operand->kind == Node::Kind::Number) {
+            operand->value = -operand->value.toDouble();
+            return operand;
+        }
+        NodePtr made = node(Node::Kind::Negate, minus);
+        made->parts.push_back(std::move(operand));
+        return made;
+    }
+
+    NodePtr parentheses()
+    {
+        const Depth depth(*this);
+        take();
+        NodePtr inside = disjunction();
+        if (!current().isSymbol(")"_L1))
+            unexpected(u"\")\""_s);
+        take();
+        return inside;
+    }
+
+    NodePtr primary()
+    {
+        if (current().isSymbol("("_L1))
+            return parentheses();
+        if (current().kind == Kind::Name)
+            return node(Node::Kind::Field, take());
+        if (current().kind == Kind::Text)
+            return node(Node::Kind::Text, take());
+        if (current().kind == Kind::Number) {
+            NodePtr made = node(Node::Kind::Number, take());
+            made->value = made->text.toDouble();
+            return made;
+        }
+        if (current().isWord("NULL"_L1))
+            return node(Node::Kind::Null, take());
+        if (current().isWord("TRUE"_L1) || current().isWord("FALSE"_L1)) {
+            NodePtr made = node(Node::Kind::Boolean, take());
+            made->value = made->text == "TRUE"_L1;
+            return made;
+        }
+        unexpected(QCoreApplication::translate("Engine", "a field or a value"));
+    }
+
+    const QString &m_expression;
+    QList<FilterToken> m_tokens;
+    qsizetype m_at = 0;
+    int m_depth = 0;
+};
+
+} // namespace
+
+std::unique_ptr<FilterExpression::Node> parseFilter(const QString &expression) { return Parser(expression).run(); }
+
+} // namespace Engine

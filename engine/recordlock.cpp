@@ -1,0 +1,66 @@
+#include "engine/recordlock.h"
+
+#include "engine/error.h"
+
+#include <QCoreApplication>
+#include <QRandomGenerator>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+QString lockHolder(LockManager &locks, const QString &table)
+{
+    const auto owner = locks.ownerOf(table);
+    const QString description = owner ? owner->description() : QString();
+    return description.isEmpty() ? QString() : " ("_L1 + description + u')';
+}
+
+RecordLock::RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key)
+    : m_locks(connection.locks())
+    , m_table(std::move(table))
+    , m_key(std::move(key))
+{
+    if (m_locks.holdsTable(m_table))
+        return;
+    for (int attempt = 1;; ++attempt) {
+        m_held = m_locks.tryLockRecord(m_table, m_key);
+        if (m_held)
+            return;
+        if (attempt >= session.lockAttempts)
+            refuse();
+        session.pause();
+    }
+}
+
+RecordLock::~RecordLock()
+{
+    if (m_held)
+        m_locks.unlockRecord(m_table, m_key);
+}
+
+QList<qint64> RecordLock::anyKey()
+{
+    const auto bits = QRandomGenerator::global()->generate64() >> 2;
+    return {-static_cast<qint64>(bits) - 1};
+}
+
+void RecordLock::refuse()
+{
+    const QList<qint64> probe = anyKey();
+    const QString holder = lockHolder(m_locks, m_table);
+    if (m_locks.tryLockRecord(m_table, probe)) {
+        m_locks.unlockRecord(m_table, probe);
+        throw EngineError(
+            ErrorCode::RecordLocked,
+            QCoreApplication::translate(
+                "Engine", "This record of table '%1' is being edited by another user%2. Try again in a moment.")
+                .arg(m_table, holder));
+    }
+    throw EngineError(
+        ErrorCode::TableLocked,
+        QCoreApplication::translate("Engine", "Table '%1' is locked by another user%2. Try again in a moment.")
+            .arg(m_table, holder));
+}
+
+} // namespace Engine

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "engine/driver.h"
+#include "engine/locks.h"
+#include "engine/session.h"
+
+namespace Engine {
+
+// A lock on one record for the life of the object. Waits for it as the session says, then throws RecordLocked or
+// TableLocked naming the table and the holder. Nothing to do for a connection that holds the whole table.
+class RecordLock {
+public:
+    RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key);
+    ~RecordLock();
+    RecordLock(const RecordLock &) = delete;
+    RecordLock &operator=(const RecordLock &) = delete;
+
+    // A key that no record has. Locking it tells whether records may be written at all.
+    static QList<qint64> anyKey();
+
+private:
+    [[noreturn]] void refuse();
+
+    LockManager &m_locks;
+    QString m_table;
+    QList<qint64> m_key;
+    bool m_held = false;
+};
+
+// " (anna on kitchen-2)" or nothing, for messages about the table's locks.
+QString lockHolder(LockManager &locks, const QString &table);
+
+} // namespace Engine

@@ -1,0 +1,437 @@
+// Opening, order, range and link of a table.
+
+#include "engine/table.h"
+
+#include "engine/database.h"
+#include "engine/datasetprivate.h"
+#include "engine/dialect.h"
+#include "engine/error.h"
+#include "engine/tableprivate.h"
+
+#include <algorithm>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+bool isWholeNumber(FieldType type)
+{
+    return type == FieldType::Integer || type == FieldType::SmallInt || type == FieldType::AutoInc;
+}
+
+bool isText(FieldType type) { return type == FieldType::Text || type == FieldType::Memo; }
+
+std::vector<Field> dataFields(const TableLayout &layout)
+{
+    std::vector<Field> fields;
+    for (const FieldDef &definition : layout.fields) {
+        Field field;
+        field.name = definition.name;
+        field.type = definition.type;
+        field.size = definition.size;
+        fields.push_back(std::move(field));
+    }
+    return fields;
+}
+
+// Text fields whose only index over the text is case-insensitive.
+QStringList foldedFields(const TableLayout &layout)
+{
+    QStringList folded;
+    QStringList plain;
+    for (const IndexDef &index : layout.indexes) {
+        const QString first = index.fieldNames().value(0);
+        const FieldDef *field = layout.field(first);
+        if (field && isText(field->type))
+            (index.options.testFlag(IndexOption::CaseInsensitive) ? folded : plain) << first;
+    }
+    for (const QString &name : std::as_const(plain))
+        folded.removeAll(name);
+    return folded;
+}
+
+// The columns of an index as conditions compare them.
+QList<SqlColumn> columnsOf(const TableLayout &layout, const IndexDef &index, const Dialect &dialect)
+{
+    QList<SqlColumn> columns;
+    for (const QString &name : index.fieldNames()) {
+        const FieldDef *field = layout.field(name);
+        const bool folded = field && isText(field->type) && index.options.testFlag(IndexOption::CaseInsensitive);
+        columns << SqlColumn{"t."_L1 + dialect.name(field ? field->name : name), folded};
+    }
+    return columns;
+}
+
+// The values as the types of the index's fields; more than there are fields is an error of the caller.
+QList<Value> fittedTo(const TableLayout &layout, const IndexDef &index, const QList<Value> &values)
+{
+    const QStringList names = index.fieldNames();
+    if (values.size() > names.size()) {
+        throw EngineError(ErrorCode::WrongState,
+                          QCoreApplication::translate("Engine", "The order of table '%1' has only %2 fields.")
+                              .arg(layout.name, QString::number(names.size())));
+    }
+    QList<Value> fitted;
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        const FieldDef *field = layout.field(names[i]);
+        fitted << (field ? values[i].as(field->type) : values[i]);
+    }
+    return fitted;
+}
+
+bool comesBefore(const QList<Value> &one, const QList<Value> &other)
+{
+    for (qsizetype i = 0; i < std::min(one.size(), other.size()); ++i) {
+        if (one[i] != other[i])
+            return one[i].storage() < other[i].storage();
+    }
+    return other.size() < one.size();
+}
+
+} // namespace
+
+Table::Table(Database &database, QString name)
+    : DataSet(database)
+    , m_restriction(std::make_unique<Restriction>())
+    , m_name(std::move(name))
+{
+}
+
+Table::~Table()
+{
+    setMaster(nullptr, {});
+    events = {};
+    try {
+        close();
+    } catch (const EngineError &) {
+        // The connection is gone, and the locks with it.
+    }
+}
+
+// --- opening ---------------------------------------------------------------------------------------------------
+
+void Table::open()
+{
+    if (m_open)
+        return;
+    if (events.beforeOpen)
+        events.beforeOpen();
+    Connection &connection = m_database.connection();
+    LockManager &locks = connection.locks();
+    const bool free = exclusive ? locks.tryOpenExclusive(m_name) : locks.tryOpenShared(m_name);
+    if (!free) {
+        const QString text = exclusive
+            ? QCoreApplication::translate("Engine", "Table '%1' is in use by another user%2.")
+            : QCoreApplication::translate("Engine", "Another user%2 has table '%1' open in exclusive mode.");
+        throw EngineError(ErrorCode::TableInUse, text.arg(m_name, lockHolder(locks, m_name)));
+    }
+    try {
+        auto stored = connection.describe(m_name);
+        if (!stored) {
+            throw EngineError(ErrorCode::NoSuchTable,
+                              QCoreApplication::translate("Engine", "There is no table '%1' in %2.")
+                                  .arg(m_name, connection.location()));
+        }
+        m_layout = std::move(*stored);
+        setDataFields(dataFields(m_layout));
+        order();
+        m_restriction->linkValues = linkValues();
+        invalidate(Place::First);
+        m_open = true;
+        if (m_filtered)
+            DataSetReader(*this).source(); // a filter that does not fit the table shows now
+    } catch (...) {
+        m_open = false;
+        exclusive ? locks.closeExclusive(m_name) : locks.closeShared(m_name);
+        throw;
+    }
+    m_state = TableState::Browse;
+    Q_EMIT opened();
+    emitListChanged();
+    Q_EMIT stateChanged();
+    if (events.afterOpen)
+        events.afterOpen();
+}
+
+void Table::close()
+{
+    if (!m_open)
+        return;
+    if (events.beforeClose)
+        events.beforeClose();
+    m_edit.reset();
+    m_modified = false;
+    m_state = TableState::Inactive;
+    m_open = false;
+    invalidate(Place::First);
+    LockManager &locks = m_database.connection().locks();
+    if (m_tableLocked)
+        locks.unlockTable(m_name);
+    m_tableLocked = false;
+    exclusive ? locks.closeExclusive(m_name) : locks.closeShared(m_name);
+    Q_EMIT closed();
+    Q_EMIT stateChanged();
+}
+
+void Table::lockTable()
+{
+    requireOpen();
+    if (m_tableLocked)
+        return;
+    LockManager &locks = m_database.connection().locks();
+    if (!locks.tryLockTable(m_name)) {
+        throw EngineError(ErrorCode::TableLocked,
+                          QCoreApplication::translate("Engine", "Table '%1' is locked by another user%2.")
+                              .arg(m_name, lockHolder(locks, m_name)));
+    }
+    m_tableLocked = true;
+}
+
+void Table::unlockTable()
+{
+    if (!m_tableLocked)
+        return;
+    m_tableLocked = false;
+    m_database.connection().locks().unlockTable(m_name);
+}
+
+// --- order -----------------------------------------------------------------------------------------------------
+
+const IndexDef *Table::order() const
+{
+    if (const IndexDef *index = m_layout.index(m_index))
+        return index;
+    if (m_index.isEmpty())
+        return nullptr;
+    if (const IndexDef *index = m_layout.indexOnFields(m_index))
+        return index;
+    throw EngineError(
+        ErrorCode::WrongState,
+        QCoreApplication::translate("Engine", "Table '%1' has no index \"%2\".").arg(m_name, m_index));
+}
+
+void Table::setIndex(const QString &nameOrFields)
+{
+    if (nameOrFields == m_index)
+        return;
+    if (m_open)
+        beforeMove();
+    const QString before = std::exchange(m_index, nameOrFields);
+    if (!m_open)
+        return;
+    try {
+        order();
+    } catch (...) {
+        m_index = before;
+        throw;
+    }
+    m_restriction->ranged = false;
+    invalidate(Place::Keep);
+    emitListChanged();
+}
+
+QStringList Table::keyFields() const
+{
+    const QStringList names = m_layout.primaryFields();
+    const bool usable = !names.isEmpty() && names.size() <= 4
+        && std::all_of(names.begin(), names.end(), [this](const QString &name) {
+               const FieldDef *field = m_layout.field(name);
+               return field && isWholeNumber(field->type);
+           });
+    return usable ? names : QStringList();
+}
+
+SetScope Table::scope() const
+{
+    const Dialect &dialect = m_database.connection().dialect();
+    SetScope scope;
+    scope.source = dialect.name(m_layout.name) + " t"_L1;
+    const QStringList keys = keyFields();
+    for (const QString &key : keys)
+        scope.keyColumns << "t."_L1 + dialect.name(key);
+    if (keys.isEmpty())
+        scope.keyColumns << dialect.rowIdentity();
+
+    QStringList terms;
+    QStringList ordered;
+    if (const IndexDef *index = order()) {
+        for (const SqlColumn &column : columnsOf(m_layout, *index, dialect)) {
+            terms << dialect.orderTerm(column.sql, column.caseInsensitive,
+                                       index->options.testFlag(IndexOption::Descending));
+            ordered << column.sql;
+        }
+    }
+    for (const QString &key : std::as_const(scope.keyColumns)) {
+        if (!ordered.contains(key, Qt::CaseInsensitive))
+            terms << dialect.orderTerm(key, false, false);
+    }
+    scope.order = terms.join(", "_L1);
+    scope.condition = linkCondition();
+    scope.condition += rangeCondition();
+    scope.foldedFields = foldedFields(m_layout);
+    return scope;
+}
+
+// --- range and link --------------------------------------------------------------------------------------------
+
+void Table::setRange(const QList<Value> &from, const QList<Value> &to)
+{
+    requireOpen();
+    const IndexDef *index = order();
+    if (!index) {
+        throw EngineError(ErrorCode::WrongState,
+                          QCoreApplication::translate("Engine", "Table '%1' has no order.").arg(m_name));
+    }
+    QList<Value> low = fittedTo(m_layout, *index, from);
+    QList<Value> high = fittedTo(m_layout, *index, to);
+    if (index->options.testFlag(IndexOption::Descending) && !comesBefore(low, high))
+        low.swap(high);
+    if (m_restriction->ranged && m_restriction->from == low && m_restriction->to == high)
+        return;
+    beforeMove();
+    m_restriction->from = low;
+    m_restriction->to = high;
+    m_restriction->ranged = true;
+    restrictionChanged();
+}
+
+void Table::cancelRange()
+{
+    if (!m_restriction->ranged)
+        return;
+    if (m_open)
+        beforeMove();
+    m_restriction->ranged = false;
+    restrictionChanged();
+}
+
+void Table::restrictionChanged()
+{
+    if (!m_open)
+        return;
+    invalidate(Place::First);
+    emitListChanged();
+    scrolled();
+}
+
+SqlCondition Table::rangeCondition() const
+{
+    if (!m_restriction->ranged)
+        return {};
+    const Dialect &dialect = m_database.connection().dialect();
+    return between(dialect, columnsOf(m_layout, *order(), dialect), m_restriction->from, m_restriction->to);
+}
+
+void Table::setMaster(DataSet *master, const QString &fields)
+{
+    Restriction &restriction = *m_restriction;
+    for (const QMetaObject::Connection &connection : std::as_const(restriction.connections))
+        disconnect(connection);
+    restriction.connections.clear();
+    if (restriction.master)
+        Private::of(*restriction.master).details.removeAll(this);
+    restriction.master = master;
+    restriction.links.clear();
+    for (const QString &part : fields.split(u';', Qt::SkipEmptyParts)) {
+        const qsizetype sign = part.indexOf(u'=');
+        restriction.links << Restriction::Link{part.left(sign).trimmed(), part.mid(sign + 1).trimmed()};
+    }
+    if (master) {
+        Private::of(*master).details << this;
+        const auto follow = [this] { masterMoved(); };
+        restriction.connections = {connect(master, &DataSet::currentChanged, this, follow),
+                                   connect(master, &DataSet::closed, this, follow),
+                                   connect(master, &DataSet::fieldChanged, this, follow),
+                                   connect(master, &QObject::destroyed, this, follow)};
+    }
+    if (!m_open)
+        return;
+    beforeMove();
+    restriction.linkValues = linkValues();
+    restrictionChanged();
+}
+
+QList<Value> Table::linkValues() const
+{
+    const DataSet *master = m_restriction->master;
+    QList<Value> values;
+    for (const Restriction::Link &link : std::as_const(m_restriction->links))
+        values << (master && master->isOpen() ? master->value(link.master) : Value());
+    return values;
+}
+
+void Table::masterMoved()
+{
+    if (!m_open)
+        return;
+    QList<Value> values = linkValues();
+    if (values == m_restriction->linkValues)
+        return;
+    if (isEditing())
+        cancel();
+    m_restriction->linkValues = std::move(values);
+    restrictionChanged();
+}
+
+SqlCondition Table::linkCondition() const
+{
+    const Dialect &dialect = m_database.connection().dialect();
+    SqlCondition condition;
+    for (qsizetype i = 0; i < m_restriction->links.size(); ++i) {
+        const Field &linked = field(m_restriction->links[i].detail);
+        const Value &value = m_restriction->linkValues[i];
+        if (value.isNull())
+            return never();
+        condition += equals(dialect, {"t."_L1 + dialect.name(linked.name), false}, value.as(linked.type));
+    }
+    return condition;
+}
+
+bool Table::findKey(const QList<Value> &values)
+{
+    requireOpen();
+    const IndexDef *index = order();
+    if (!index) {
+        throw EngineError(ErrorCode::WrongState,
+                          QCoreApplication::translate("Engine", "Table '%1' has no order.").arg(m_name));
+    }
+    const bool folded = index->options.testFlag(IndexOption::CaseInsensitive);
+    return moveToFirstMatch(index->fieldNames().mid(0, values.size()), values,
+                            folded ? LocateOption::CaseInsensitive : LocateOption::None);
+}
+
+bool Table::decidesPlace(int fieldNumber) const
+{
+    const QString &name = field(fieldNumber).name;
+    const IndexDef *index = order();
+    if (m_filtered || (index && index->fieldNames().contains(name, Qt::CaseInsensitive)))
+        return true;
+    if (m_layout.primaryFields().contains(name, Qt::CaseInsensitive))
+        return true;
+    return std::any_of(
+        m_restriction->links.begin(), m_restriction->links.end(),
+        [&](const Restriction::Link &link) { return link.detail.compare(name, Qt::CaseInsensitive) == 0; });
+}
+
+void Table::scrolled()
+{
+    if (events.afterScroll)
+        events.afterScroll();
+}
+
+void Table::beforeMove()
+{
+    checkBrowseMode();
+    DataSet::beforeMove();
+}
+
+void Table::refresh()
+{
+    checkBrowseMode();
+    DataSet::refresh();
+}
+
+} // namespace Engine

@@ -1,0 +1,302 @@
+// Editing and inserting records of a table: the record in hand.
+
+#include "engine/database.h"
+#include "engine/datasetprivate.h"
+#include "engine/error.h"
+#include "engine/tableprivate.h"
+
+#include <algorithm>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+void call(const std::function<void()> &event)
+{
+    if (event)
+        event();
+}
+
+} // namespace
+
+// --- beginning and ending an edit ------------------------------------------------------------------------------
+
+void Table::requireWritable() const
+{
+    requireOpen();
+    if (readOnly) {
+        throw EngineError(
+            ErrorCode::ReadOnly,
+            QCoreApplication::translate("Engine", "Table '%1' was opened for reading only.").arg(m_name));
+    }
+}
+
+Key Table::keyOf(const Row &row) const
+{
+    Key key;
+    for (const QString &name : keyFields())
+        key << row[static_cast<size_t>(requireField(name))].toInt64();
+    return key;
+}
+
+Key Table::lockKey(const Row &row) const
+{
+    if (const Key key = keyOf(row); !key.isEmpty())
+        return key;
+    QStringList texts;
+    for (const QString &name : m_layout.primaryFields())
+        texts << row[static_cast<size_t>(requireField(name))].toText();
+    return {texts.isEmpty() ? 0 : stableNumber(texts.join(QChar(0)))};
+}
+
+void Table::edit()
+{
+    if (isEditing())
+        return;
+    requireWritable();
+    if (isEmpty())
+        return insert();
+    call(events.beforeEdit);
+    readForEdit();
+    m_state = TableState::Edit;
+    m_modified = false;
+    Q_EMIT stateChanged();
+    call(events.afterEdit);
+}
+
+// Locks the current record and reads it afresh, so that nothing another user saved is lost.
+void Table::readForEdit()
+{
+    const DataSetReader reader(*this);
+    const Row shown = reader.currentRow();
+    auto edit = std::make_unique<Edit>();
+    edit->lock.emplace(m_database.connection(), m_database.session(), m_name, lockKey(shown));
+    if (keyFields().isEmpty()) {
+        // The identity of such a row may be new since it was read.
+        reader.index();
+        invalidate(Place::Keep);
+        reader.index();
+    }
+    edit->key = currentKey();
+    auto stored = edit->key.isEmpty() ? std::nullopt : reader.source().row(edit->key);
+    if (!stored) {
+        throw EngineError(
+            ErrorCode::RecordGone,
+            QCoreApplication::translate("Engine", "This record of table '%1' was deleted by another user.")
+                .arg(m_name));
+    }
+    edit->values = *stored;
+    edit->original = *stored;
+    m_edit = std::move(edit);
+    if (*stored == shown)
+        return;
+    if (Row *listed = d->index >= 0 ? d->windows.row(d->index) : nullptr)
+        *listed = *stored;
+    d->row = std::move(*stored);
+    if (d->index >= 0)
+        Q_EMIT rowChanged(d->index);
+    Q_EMIT currentChanged();
+}
+
+void Table::insert()
+{
+    requireWritable();
+    beforeMove();
+    call(events.beforeInsert);
+    m_edit = std::make_unique<Edit>();
+    m_edit->values = d->nullRow;
+    m_edit->original = d->nullRow;
+    m_state = TableState::Insert;
+    m_modified = false;
+    const QList<Value> linked = linkValues();
+    for (qsizetype i = 0; i < linked.size(); ++i)
+        setDefault(m_restriction->links[i].detail, linked[i]);
+    try {
+        call(events.newRecord);
+    } catch (...) {
+        m_edit.reset();
+        m_state = TableState::Browse;
+        throw;
+    }
+    m_modified = false;
+    Q_EMIT stateChanged();
+    Q_EMIT currentChanged();
+    scrolled();
+}
+
+void Table::append() { insert(); }
+
+void Table::cancel()
+{
+    if (!isEditing())
+        return;
+    call(events.beforeCancel);
+    const bool wasInsert = m_state == TableState::Insert;
+    finishEdit();
+    Q_EMIT stateChanged();
+    Q_EMIT currentChanged();
+    call(events.afterCancel);
+    if (wasInsert)
+        scrolled();
+}
+
+void Table::finishEdit()
+{
+    m_edit.reset();
+    m_modified = false;
+    m_state = TableState::Browse;
+}
+
+void Table::checkBrowseMode()
+{
+    if (!isEditing())
+        return;
+    if (m_modified)
+        return post();
+    cancel();
+}
+
+void Table::flush()
+{
+    requireOpen();
+    Connection &connection = m_database.connection();
+    if (connection.inTransaction())
+        connection.drain();
+}
+
+// --- values ----------------------------------------------------------------------------------------------------
+
+Value Table::value(int fieldNumber) const
+{
+    const bool buffered = isEditing() && !d->rowInHand && field(fieldNumber).kind != FieldKind::Calculated;
+    return buffered ? m_edit->values[static_cast<size_t>(fieldNumber)] : DataSet::value(fieldNumber);
+}
+
+Value Table::oldValue(QStringView name) const
+{
+    const int index = requireField(name);
+    return isEditing() ? m_edit->original[static_cast<size_t>(index)] : value(index);
+}
+
+void Table::set(QStringView name, const Value &value) { set(requireField(name), value); }
+
+void Table::set(int fieldNumber, const Value &value)
+{
+    if (!isEditing()) {
+        throw EngineError(ErrorCode::WrongState,
+                          QCoreApplication::translate("Engine", "Table '%1' is not being edited.").arg(m_name));
+    }
+    Field &changing = m_fields[static_cast<size_t>(fieldNumber)];
+    if (changing.kind != FieldKind::Data) {
+        throw EngineError(
+            ErrorCode::WrongState,
+            QCoreApplication::translate("Engine", "%1 follows from other fields.").arg(changing.caption()));
+    }
+    const Value fitted = changing.fit(value);
+    if (fitted == m_edit->values[static_cast<size_t>(fieldNumber)])
+        return;
+    if (changing.validate)
+        changing.validate(fitted);
+    m_modified = true;
+    setValue(fieldNumber, fitted);
+}
+
+void Table::setText(QStringView name, const QString &text) { set(name, field(name).parse(text)); }
+
+void Table::setDefault(QStringView name, const Value &value)
+{
+    const int index = requireField(name);
+    if (!isEditing() || field(index).kind != FieldKind::Data) {
+        throw EngineError(ErrorCode::WrongState,
+                          QCoreApplication::translate("Engine", "Table '%1' is not being edited.").arg(m_name));
+    }
+    const Value fitted = field(index).fit(value);
+    if (fitted != m_edit->values[static_cast<size_t>(index)])
+        setValue(index, fitted);
+}
+
+void Table::setValue(int fieldNumber, const Value &value)
+{
+    m_edit->values[static_cast<size_t>(fieldNumber)] = value;
+    QList<int> followers;
+    for (int i = 0; i < fieldCount(); ++i) {
+        const Field &other = field(i);
+        if (other.kind == FieldKind::Lookup
+            && other.lookup.keyField.compare(field(fieldNumber).name, Qt::CaseInsensitive) == 0) {
+            m_edit->values[static_cast<size_t>(i)] = lookedUp(other, value);
+            followers << i;
+        }
+        if (other.kind == FieldKind::Calculated)
+            followers << i;
+    }
+    Q_EMIT fieldChanged(fieldNumber);
+    for (const int follower : std::as_const(followers))
+        Q_EMIT fieldChanged(follower);
+    call(field(fieldNumber).changed);
+}
+
+// --- writing ---------------------------------------------------------------------------------------------------
+
+void Table::post()
+{
+    if (!isEditing()) {
+        throw EngineError(ErrorCode::WrongState,
+                          QCoreApplication::translate("Engine", "Table '%1' is not being edited.").arg(m_name));
+    }
+    call(events.beforePost);
+    requirePrimaryKey();
+    write();
+    const bool wasInsert = m_state == TableState::Insert;
+    bool placeMayDiffer = wasInsert;
+    for (int i = 0; i < fieldCount() && !placeMayDiffer; ++i) {
+        const auto at = static_cast<size_t>(i);
+        placeMayDiffer = m_edit->values[at] != m_edit->original[at] && decidesPlace(i);
+    }
+    Row row = std::move(m_edit->values);
+    finishEdit();
+    if (wasInsert)
+        showInserted(std::move(row));
+    else
+        showUpdated(std::move(row), placeMayDiffer);
+    call(events.afterPost);
+}
+
+void Table::showInserted(Row row)
+{
+    const Key key = keyOf(row);
+    invalidate(Place::First);
+    if (!key.isEmpty()) {
+        d->hold(key, std::move(row));
+    } else if (const int count = recordCount(); count > 0) {
+        // Without a primary key the new row is the last in the natural order.
+        d->hold(d->keys.at(count - 1), std::move(row));
+    }
+    Q_EMIT stateChanged();
+    emitListChanged();
+}
+
+void Table::showUpdated(Row row, bool placeMayDiffer)
+{
+    Q_EMIT stateChanged();
+    if (placeMayDiffer || keyFields().isEmpty()) {
+        const Key key = keyOf(row);
+        invalidate(Place::Keep);
+        if (!key.isEmpty()) {
+            const int formerIndex = d->formerIndex;
+            d->hold(key, std::move(row));
+            d->formerIndex = formerIndex;
+        }
+        emitListChanged();
+        return;
+    }
+    if (Row *listed = d->index >= 0 ? d->windows.row(d->index) : nullptr)
+        *listed = row;
+    d->row = std::move(row);
+    if (d->keysRead)
+        Q_EMIT rowChanged(recordIndex());
+}
+
+} // namespace Engine

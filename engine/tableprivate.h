@@ -1,0 +1,38 @@
+#pragma once
+
+#include "engine/recordlock.h"
+#include "engine/rowsource.h"
+#include "engine/table.h"
+
+#include <optional>
+#include <QPointer>
+
+namespace Engine {
+
+// A number for a text, the same on every machine: for locks on something that has a name only.
+qint64 stableNumber(const QString &text);
+
+struct Table::Restriction {
+    struct Link {
+        QString detail;
+        QString master;
+    };
+
+    bool ranged = false;
+    QList<Value> from;
+    QList<Value> to;
+
+    QPointer<DataSet> master;
+    QList<Link> links;
+    QList<Value> linkValues; // those that the list was read for
+    QList<QMetaObject::Connection> connections;
+};
+
+struct Table::Edit {
+    Row values;
+    Row original; // as read; of a new record the values it began with
+    Key key; // of the stored row; empty for a new record
+    std::optional<RecordLock> lock;
+};
+
+} // namespace Engine

@@ -1,0 +1,249 @@
+// What a table writes: inserts, updates and deletes, each in a transaction and under its lock.
+
+#include "engine/database.h"
+#include "engine/datasetprivate.h"
+#include "engine/dialect.h"
+#include "engine/error.h"
+#include "engine/tableprivate.h"
+
+#include <list>
+#include <QCoreApplication>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+constexpr int lockedOneByOne = 256; // rows; a larger removal takes the whole table
+
+} // namespace
+
+// FNV-1a.
+qint64 stableNumber(const QString &text)
+{
+    quint64 hash = 14695981039346656037ULL;
+    for (const char byte : text.toUtf8())
+        hash = (hash ^ static_cast<unsigned char>(byte)) * 1099511628211ULL;
+    return static_cast<qint64>(hash);
+}
+
+void Table::requirePrimaryKey() const
+{
+    for (const QString &name : m_layout.primaryFields()) {
+        const int index = requireField(name);
+        const bool given = field(index).type == FieldType::AutoInc && m_state == TableState::Insert;
+        if (given || !m_edit->values[static_cast<size_t>(index)].toText().isEmpty())
+            continue;
+        throw EngineError(ErrorCode::RequiredField,
+                          QCoreApplication::translate("Engine",
+                                                      "%1 must have a value before a record of table '%2' "
+                                                      "can be saved.")
+                              .arg(field(index).caption(), m_name));
+    }
+}
+
+void Table::write()
+{
+    Connection &connection = m_database.connection();
+    std::optional<RecordLock> writing; // a new record has no key yet that others could lock
+    if (m_state == TableState::Insert)
+        writing.emplace(connection, m_database.session(), m_name, RecordLock::anyKey());
+    Transaction transaction(connection);
+    for (const QString &name : std::as_const(uniqueFields))
+        requireUnique(requireField(name));
+    try {
+        m_state == TableState::Insert ? insertRow() : updateRow();
+    } catch (const EngineError &error) {
+        if (error.code() != ErrorCode::KeyViolation)
+            throw;
+        throw EngineError(
+            error.code(),
+            QCoreApplication::translate("Engine", "Table '%1' already has a record with this key.").arg(m_name),
+            error.driverText());
+    }
+    transaction.commit();
+}
+
+void Table::requireUnique(int fieldNumber) const
+{
+    const Value &value = m_edit->values[static_cast<size_t>(fieldNumber)];
+    if (value.toText().isEmpty() || value == m_edit->original[static_cast<size_t>(fieldNumber)])
+        return;
+    Connection &connection = m_database.connection();
+    const Dialect &dialect = connection.dialect();
+    if (const QString lock = dialect.transactionLock(); !lock.isEmpty()) {
+        const StatementPtr statement = connection.prepare(lock);
+        statement->bind(0, stableNumber((m_name + u'.' + field(fieldNumber).name).toLower()));
+        while (statement->next()) { }
+    }
+    SqlCondition condition = equals(dialect, {"t."_L1 + dialect.name(field(fieldNumber).name), false}, value);
+    const QStringList keyColumns = scope().keyColumns;
+    SqlCondition itself;
+    for (qsizetype i = 0; i < m_edit->key.size(); ++i)
+        itself += {keyColumns[i] + " = ?"_L1, {m_edit->key[i]}};
+    if (!itself.isEmpty())
+        condition += {"NOT ("_L1 + itself.text + u')', itself.parameters};
+    const StatementPtr statement = connection.prepare("SELECT 1 FROM "_L1 + dialect.name(m_layout.name)
+                                                      + " t WHERE "_L1 + condition.text + " LIMIT 1"_L1);
+    bindAll(*statement, condition.parameters);
+    if (!statement->next())
+        return;
+    throw EngineError(ErrorCode::KeyViolation,
+                      QCoreApplication::translate("Engine", "%1 \"%2\" already exists in table '%3'.")
+                          .arg(field(fieldNumber).caption(), value.toText(), m_name));
+}
+
+void Table::insertRow()
+{
+    Connection &connection = m_database.connection();
+    QStringList columns;
+    QStringList places;
+    QList<Value> values;
+    int counted = -1; // the field that the store numbers
+    for (int i = 0; i < fieldCount(); ++i) {
+        const Value &value = m_edit->values[static_cast<size_t>(i)];
+        if (field(i).kind != FieldKind::Data)
+            continue;
+        if (field(i).type == FieldType::AutoInc && value.isNull()) {
+            counted = i;
+            continue;
+        }
+        columns << connection.dialect().name(field(i).name);
+        places << u"?"_s;
+        values << value;
+    }
+    const StatementPtr statement = connection.prepare(u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(
+        connection.dialect().name(m_layout.name), columns.join(", "_L1), places.join(", "_L1)));
+    bindAll(*statement, values);
+    statement->execute();
+    if (counted >= 0)
+        m_edit->values[static_cast<size_t>(counted)] = connection.lastInsertId();
+}
+
+void Table::updateRow()
+{
+    Connection &connection = m_database.connection();
+    QStringList changes;
+    QList<Value> values;
+    for (int i = 0; i < fieldCount(); ++i) {
+        const auto at = static_cast<size_t>(i);
+        if (field(i).kind != FieldKind::Data || m_edit->values[at] == m_edit->original[at])
+            continue;
+        changes << connection.dialect().name(field(i).name) + " = ?"_L1;
+        values << m_edit->values[at];
+    }
+    if (changes.isEmpty())
+        return;
+    QStringList conditions;
+    const QStringList keyColumns = scope().keyColumns;
+    for (qsizetype i = 0; i < m_edit->key.size(); ++i) {
+        conditions << keyColumns[i] + " = ?"_L1;
+        values << m_edit->key[i];
+    }
+    const StatementPtr statement = connection.prepare(u"UPDATE %1 AS t SET %2 WHERE %3"_s.arg(
+        connection.dialect().name(m_layout.name), changes.join(", "_L1), conditions.join(" AND "_L1)));
+    bindAll(*statement, values);
+    if (statement->execute() > 0)
+        return;
+    throw EngineError(
+        ErrorCode::RecordGone,
+        QCoreApplication::translate("Engine", "This record of table '%1' was deleted by another user.")
+            .arg(m_name));
+}
+
+// --- deleting --------------------------------------------------------------------------------------------------
+
+void Table::remove()
+{
+    requireWritable();
+    const bool unsaved = m_state == TableState::Insert;
+    if (isEditing())
+        cancel();
+    if (unsaved)
+        return;
+    if (isEmpty()) {
+        throw EngineError(ErrorCode::WrongState,
+                          QCoreApplication::translate("Engine", "Table '%1' has no record to delete.").arg(m_name));
+    }
+    if (events.beforeRemove)
+        events.beforeRemove();
+    const bool first = d->index == 0 && !d->keysRead;
+    const int index = first ? 0 : recordIndex();
+    {
+        const RecordLock lock(m_database.connection(), m_database.session(), m_name,
+                              lockKey(DataSetReader(*this).currentRow()));
+        removeRow(d->key);
+    }
+    d->windows.clear();
+    if (first) {
+        d->holdNothing(Private::Current::Unread);
+    } else {
+        d->keys.removeAt(index);
+        const int next = std::min(index, d->keys.count() - 1);
+        if (next < 0) {
+            d->holdNothing(Private::Current::Empty);
+        } else {
+            d->hold(d->keys.at(next), std::nullopt);
+            d->index = next;
+        }
+    }
+    emitListChanged();
+    if (events.afterRemove)
+        events.afterRemove();
+    scrolled();
+}
+
+// A row that another user has deleted meanwhile is as wanted.
+void Table::removeRow(const Key &key)
+{
+    Connection &connection = m_database.connection();
+    QStringList conditions;
+    for (const QString &column : scope().keyColumns)
+        conditions << column + " = ?"_L1;
+    Transaction transaction(connection);
+    const StatementPtr statement = connection.prepare(u"DELETE FROM %1 AS t WHERE %2"_s.arg(
+        connection.dialect().name(m_layout.name), conditions.join(" AND "_L1)));
+    for (qsizetype i = 0; i < key.size(); ++i)
+        statement->bind(static_cast<int>(i), key[i]);
+    statement->execute();
+    transaction.commit();
+}
+
+// All rows of a small set are locked one by one, so that only an edit of one of them stands in the way.
+void Table::removeAll()
+{
+    requireWritable();
+    checkBrowseMode();
+    const DataSetReader reader(*this);
+    reader.readKeys();
+    if (d->keys.count() == 0)
+        return;
+    Connection &connection = m_database.connection();
+    std::list<RecordLock> locks;
+    const bool few = d->keys.count() <= lockedOneByOne;
+    const bool lockWhole = !few && !m_tableLocked;
+    if (lockWhole)
+        lockTable();
+    const auto release = qScopeGuard([&] {
+        if (lockWhole)
+            unlockTable();
+    });
+    for (int i = 0; few && i < d->keys.count(); ++i)
+        locks.emplace_back(connection, m_database.session(), m_name, lockKey(reader.rowAt(i)));
+    const SqlCondition condition = reader.source().condition();
+    QString sql = u"DELETE FROM %1 AS t"_s.arg(connection.dialect().name(m_layout.name));
+    if (!condition.isEmpty())
+        sql += " WHERE "_L1 + condition.text;
+    Transaction transaction(connection);
+    const StatementPtr statement = connection.prepare(sql);
+    bindAll(*statement, condition.parameters);
+    statement->execute();
+    transaction.commit();
+    invalidate(Place::First);
+    emitListChanged();
+    scrolled();
+}
+
+} // namespace Engine

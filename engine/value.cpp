@@ -1,0 +1,234 @@
+#include "engine/value.h"
+
+#include "engine/error.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+[[noreturn]] void refuse(const Value &value, const char *expected)
+{
+    throw EngineError(ErrorCode::BadValue,
+                      QCoreApplication::translate("Engine", "\"%1\" is not %2.")
+                          .arg(value.toText(), QCoreApplication::translate("Engine", expected)));
+}
+
+qint64 truncated(double number)
+{
+    constexpr double limit = 9223372036854775807.0;
+    if (std::isnan(number))
+        return 0;
+    if (number >= limit)
+        return std::numeric_limits<qint64>::max();
+    if (number <= -limit)
+        return std::numeric_limits<qint64>::min();
+    return static_cast<qint64>(number);
+}
+
+QString numberText(double number)
+{
+    if (number == 0)
+        return u"0"_s;
+    const double size = std::fabs(number);
+    const bool plain = size >= 1e-6 && size < 1e15;
+    std::array<char, 64> buffer{};
+    const auto end = plain ? std::to_chars(buffer.begin(), buffer.end(), number, std::chars_format::fixed)
+                           : std::to_chars(buffer.begin(), buffer.end(), number);
+    return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
+}
+
+QDateTime parseDateTime(const QString &text)
+{
+    QDateTime moment = QDateTime::fromString(text, u"yyyy-MM-dd HH:mm:ss"_s);
+    if (!moment.isValid())
+        moment = QDateTime::fromString(text, Qt::ISODate);
+    if (!moment.isValid()) {
+        const QDate day = QDate::fromString(text, Qt::ISODate);
+        if (day.isValid())
+            moment = QDateTime(day, QTime(0, 0));
+    }
+    return moment;
+}
+
+Value asWhole(const Value &value, qint64 least, qint64 greatest)
+{
+    const auto *number = std::get_if<double>(&value.storage());
+    if (number && !std::isfinite(*number))
+        refuse(value, QT_TRANSLATE_NOOP("Engine", "a whole number"));
+    if (std::holds_alternative<QDate>(value.storage()) || std::holds_alternative<QDateTime>(value.storage()))
+        refuse(value, QT_TRANSLATE_NOOP("Engine", "a whole number"));
+    if (const auto *text = std::get_if<QString>(&value.storage())) {
+        bool ok = false;
+        text->trimmed().toLongLong(&ok);
+        if (!ok)
+            refuse(value, QT_TRANSLATE_NOOP("Engine", "a whole number"));
+    }
+    const qint64 whole = value.toInt64();
+    if (whole < least || whole > greatest) {
+        throw EngineError(ErrorCode::BadValue,
+                          QCoreApplication::translate("Engine", "%1 is not between %2 and %3.")
+                              .arg(value.toText(), QString::number(least), QString::number(greatest)));
+    }
+    return whole;
+}
+
+Value asFloat(const Value &value)
+{
+    if (std::holds_alternative<QDate>(value.storage()) || std::holds_alternative<QDateTime>(value.storage()))
+        refuse(value, QT_TRANSLATE_NOOP("Engine", "a number"));
+    if (const auto *text = std::get_if<QString>(&value.storage())) {
+        bool ok = false;
+        text->trimmed().toDouble(&ok);
+        if (!ok)
+            refuse(value, QT_TRANSLATE_NOOP("Engine", "a number"));
+    }
+    const double number = value.toDouble();
+    if (!std::isfinite(number))
+        refuse(value, QT_TRANSLATE_NOOP("Engine", "a number"));
+    return number;
+}
+
+Value asBoolean(const Value &value)
+{
+    const auto *text = std::get_if<QString>(&value.storage());
+    if (!text) {
+        if (std::holds_alternative<QDate>(value.storage()) || std::holds_alternative<QDateTime>(value.storage()))
+            refuse(value, QT_TRANSLATE_NOOP("Engine", "true or false"));
+        return value.toBool();
+    }
+    const QString word = text->trimmed().toLower();
+    if (word == "true"_L1 || word == "1"_L1)
+        return true;
+    if (word == "false"_L1 || word == "0"_L1)
+        return false;
+    refuse(value, QT_TRANSLATE_NOOP("Engine", "true or false"));
+}
+
+Value asDate(const Value &value)
+{
+    const QDate day = value.toDate();
+    if (!day.isValid())
+        refuse(value, QT_TRANSLATE_NOOP("Engine", "a date (YYYY-MM-DD)"));
+    return day;
+}
+
+Value asDateTime(const Value &value)
+{
+    const QDateTime moment = value.toDateTime();
+    if (!moment.isValid())
+        refuse(value, QT_TRANSLATE_NOOP("Engine", "a date and time (YYYY-MM-DD HH:MM:SS)"));
+    return moment;
+}
+
+} // namespace
+
+bool Value::toBool() const
+{
+    if (const auto *value = std::get_if<bool>(&m_storage))
+        return *value;
+    if (const auto *text = std::get_if<QString>(&m_storage))
+        return text->trimmed().compare("true"_L1, Qt::CaseInsensitive) == 0 || toInt64() != 0;
+    return toDouble() != 0;
+}
+
+qint64 Value::toInt64() const
+{
+    if (const auto *whole = std::get_if<qint64>(&m_storage))
+        return *whole;
+    if (const auto *number = std::get_if<double>(&m_storage))
+        return truncated(*number);
+    if (const auto *flag = std::get_if<bool>(&m_storage))
+        return *flag ? 1 : 0;
+    if (const auto *text = std::get_if<QString>(&m_storage))
+        return text->trimmed().toLongLong();
+    return 0;
+}
+
+double Value::toDouble() const
+{
+    if (const auto *number = std::get_if<double>(&m_storage))
+        return *number;
+    if (const auto *text = std::get_if<QString>(&m_storage))
+        return text->trimmed().toDouble();
+    return static_cast<double>(toInt64());
+}
+
+QDate Value::toDate() const
+{
+    if (const auto *day = std::get_if<QDate>(&m_storage))
+        return *day;
+    if (const auto *moment = std::get_if<QDateTime>(&m_storage))
+        return moment->date();
+    if (const auto *text = std::get_if<QString>(&m_storage))
+        return parseDateTime(text->trimmed()).date();
+    return {};
+}
+
+QDateTime Value::toDateTime() const
+{
+    if (const auto *moment = std::get_if<QDateTime>(&m_storage))
+        return *moment;
+    if (const auto *day = std::get_if<QDate>(&m_storage))
+        return QDateTime(*day, QTime(0, 0));
+    if (const auto *text = std::get_if<QString>(&m_storage))
+        return parseDateTime(text->trimmed());
+    return {};
+}
+
+QString Value::toText() const
+{
+    if (const auto *text = std::get_if<QString>(&m_storage))
+        return *text;
+    if (const auto *whole = std::get_if<qint64>(&m_storage))
+        return QString::number(*whole);
+    if (const auto *number = std::get_if<double>(&m_storage))
+        return numberText(*number);
+    if (const auto *flag = std::get_if<bool>(&m_storage))
+        return *flag ? u"true"_s : u"false"_s;
+    if (const auto *day = std::get_if<QDate>(&m_storage))
+        return day->toString(Qt::ISODate);
+    if (const auto *moment = std::get_if<QDateTime>(&m_storage))
+        return moment->toString(u"yyyy-MM-dd HH:mm:ss"_s);
+    return {};
+}
+
+Value Value::as(FieldType type) const
+{
+    const bool toText = type == FieldType::Text || type == FieldType::Memo;
+    if (isNull())
+        return {};
+    if (toText)
+        return this->toText();
+    if (const auto *text = std::get_if<QString>(&m_storage); text && text->trimmed().isEmpty())
+        return {};
+    switch (type) {
+    case FieldType::Integer:
+    case FieldType::AutoInc:
+        return asWhole(*this, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max());
+    case FieldType::SmallInt:
+        return asWhole(*this, std::numeric_limits<qint16>::min(), std::numeric_limits<qint16>::max());
+    case FieldType::Float:
+    case FieldType::Money:
+        return asFloat(*this);
+    case FieldType::Boolean:
+        return asBoolean(*this);
+    case FieldType::Date:
+        return asDate(*this);
+    case FieldType::DateTime:
+        return asDateTime(*this);
+    case FieldType::Text:
+    case FieldType::Memo:
+        break;
+    }
+    return *this;
+}
+
+} // namespace Engine

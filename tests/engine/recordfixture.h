@@ -1,0 +1,52 @@
+#pragma once
+
+#include "engine/dialect.h"
+#include "engine/driver.h"
+#include "engine/error.h"
+#include "engine/query.h"
+#include "engine/table.h"
+#include "tests/support/teststore.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+// A small store of vendors, a control row and documents with lines, fresh for each test, in both stores.
+class RecordTest : public testing::TestWithParam<Store>
+{
+protected:
+    RecordTest()
+        : store(GetParam())
+    {
+        store.session().lockAttempts = 2;
+        store.session().lockPause = std::chrono::milliseconds(1);
+        for (const Engine::TableLayout &layout : {vendor(), control(), document(), line()})
+            database().createTable(layout);
+    }
+
+    Engine::Database &database() { return store.database(); }
+
+    static Engine::TableLayout vendor();
+    static Engine::TableLayout control();
+    static Engine::TableLayout document(); // numbered by the store
+    static Engine::TableLayout line();
+
+    // Vendors 1 Corner, 2 apple, 3 Bell, 4 (no name), 5 Äpfel; the even ones suspended, 3 neither.
+    void addVendors();
+    // Documents 1 to 3, of 1, 2 and 3 lines; seq from 1, quantity = document * 10 + seq.
+    void addDocuments();
+    QString names(Engine::DataSet &set, const QString &field); // of all rows, joined by blanks
+
+    TestStore store;
+};
+
+// The code of the error that the call ends with, or nothing.
+template <typename Call> std::optional<Engine::ErrorCode> errorOf(Call call)
+{
+    try {
+        call();
+    } catch (const Engine::EngineError &error) {
+        return error.code();
+    }
+    return std::nullopt;
+}

@@ -1,0 +1,300 @@
+// Reading, finding and restricting a table.
+
+#include "tests/engine/recordfixture.h"
+
+using namespace Engine;
+using namespace Qt::StringLiterals;
+
+INSTANTIATE_TEST_SUITE_P(Stores, RecordTest, testing::Values(Store::Local, Store::Remote),
+                         [](const auto &param) { return storeName(param.param); });
+
+TEST_P(RecordTest, FollowsTheOrderOfAnIndexAndKeepsTheRecordWhenItChanges)
+{
+    addVendors();
+    Table table(database(), u"Vendor"_s);
+    table.open();
+    struct Case
+    {
+        QString index;
+        QString ids;
+    };
+    const Case cases[] = {{u""_s, u"1 2 3 4 5"_s},
+                          {u"VENDORNO"_s, u"1 2 3 4 5"_s},
+                          {u"VendorName1"_s, u"4 2 3 1 5"_s}, // nulls first, capitals like small letters
+                          {u"VendorName"_s, u"4 2 3 1 5"_s}, // by its field list
+                          {u"SINCE"_s, u"4 2 1 5 3"_s}}; // descending, nulls last
+    for (const Case &c : cases) {
+        table.setIndex(c.index);
+        EXPECT_EQ(names(table, u"VendorID"_s), c.ids) << c.index.toStdString();
+    }
+    ASSERT_TRUE(table.locate(u"VendorID"_s, {3}));
+    table.setIndex(u"VENDORNAME1"_s);
+    EXPECT_EQ(table.text(u"VendorName"), u"Bell"_s);
+    EXPECT_EQ(table.recordIndex(), 2);
+    EXPECT_EQ(errorOf([&] { table.setIndex(u"NOSUCH"_s); }), ErrorCode::WrongState);
+    EXPECT_EQ(table.recordIndex(), 2);
+}
+
+TEST_P(RecordTest, MovesWithinItsBoundsAndSaysSo)
+{
+    Table table(database(), u"Vendor"_s);
+    table.open();
+    EXPECT_TRUE(table.atEnd() && table.atBegin() && table.isEmpty());
+    EXPECT_TRUE(table.value(u"VendorName").isNull());
+    EXPECT_EQ(table.recordIndex(), -1);
+    table.first();
+    table.last();
+    table.close();
+
+    addVendors();
+    table.open();
+    EXPECT_FALSE(table.atEnd());
+    EXPECT_TRUE(table.atBegin());
+    table.prior();
+    EXPECT_TRUE(table.atBegin());
+    EXPECT_EQ(table.recordIndex(), 0);
+    table.last();
+    EXPECT_EQ(table.integer(u"VendorID"), 5);
+    EXPECT_FALSE(table.atEnd());
+    table.next();
+    EXPECT_TRUE(table.atEnd());
+    EXPECT_EQ(table.integer(u"VendorID"), 5);
+    table.moveTo(99);
+    EXPECT_EQ(table.recordIndex(), 4);
+    EXPECT_FALSE(table.atEnd());
+    EXPECT_TRUE(table.moveToKey({2}));
+    EXPECT_EQ(table.recordIndex(), 1);
+    EXPECT_FALSE(table.moveToKey({77}));
+    EXPECT_EQ(table.recordIndex(), 1);
+}
+
+TEST_P(RecordTest, LocatesTheFirstMatchInTheOrderOrStays)
+{
+    addVendors();
+    Table table(database(), u"Vendor"_s);
+    table.setIndex(u"VENDORNAME1"_s);
+    table.open();
+    struct Case
+    {
+        QString fields;
+        QList<Value> values;
+        LocateOptions options;
+        int id; // 0: not found
+    };
+    const LocateOptions folded = LocateOption::CaseInsensitive;
+    const LocateOptions partial = LocateOption::PartialKey;
+    const Case cases[] = {
+        {u"VendorName"_s, {u"Bell"_s}, LocateOption::None, 3},
+        {u"VendorName"_s, {u"bell"_s}, LocateOption::None, 0},
+        {u"VendorName"_s, {u"bELL"_s}, folded, 3},
+        {u"VendorName"_s, {u"Co"_s}, partial, 1},
+        {u"VendorName"_s, {u"co"_s}, partial, 0},
+        {u"VendorName"_s, {u"AP"_s}, folded | partial, 2},
+        {u"VendorName"_s, {u"Ä"_s}, partial, 5},
+        {u"VendorName"_s, {u"applesauce"_s}, partial, 0},
+        {u"VendorName"_s, {Value()}, LocateOption::None, 4},
+        {u"Suspended"_s, {true}, LocateOption::None, 4}, // first in the order of names
+        {u"Suspended;VendorNo"_s, {true, u"1002"_s}, LocateOption::None, 2},
+        {u"Balance"_s, {Money::fromDouble(-3.25)}, partial, 3},
+        {u"Since"_s, {QDate(2003, 5, 1)}, LocateOption::None, 1},
+        {u"Days"_s, {100000}, LocateOption::None, 0}, // fits no such field
+        {u"VendorName"_s, {u"x' OR 'a'='a"_s}, LocateOption::None, 0},
+    };
+    for (const Case &c : cases) {
+        table.first();
+        const int before = table.integer(u"VendorID");
+        EXPECT_EQ(table.locate(c.fields, c.values, c.options), c.id != 0) << c.values[0].toText().toStdString();
+        EXPECT_EQ(table.integer(u"VendorID"), c.id ? c.id : before) << c.values[0].toText().toStdString();
+    }
+    EXPECT_EQ(errorOf([&] { table.locate(u"NoSuch"_s, {1}); }), ErrorCode::NoSuchField);
+}
+
+TEST_P(RecordTest, FindsAKeyOfTheOrderInForce)
+{
+    addVendors();
+    addDocuments();
+    Table table(database(), u"Line"_s);
+    table.open();
+    EXPECT_TRUE(table.findKey({3, 2}));
+    EXPECT_EQ(table.number(u"Quantity"), 32);
+    EXPECT_EQ(table.recordIndex(), 4);
+    EXPECT_TRUE(table.findKey({2}));
+    EXPECT_EQ(table.number(u"Quantity"), 21);
+    EXPECT_FALSE(table.findKey({2, 9}));
+    EXPECT_EQ(table.number(u"Quantity"), 21);
+
+    Table vendors(database(), u"Vendor"_s);
+    vendors.setIndex(u"VENDORNAME1"_s);
+    vendors.open();
+    EXPECT_TRUE(vendors.findKey({u"BELL"_s}));
+    EXPECT_EQ(vendors.text(u"VendorName"), u"Bell"_s);
+}
+
+TEST_P(RecordTest, RangesIncludeBothBoundsOfTheOrder)
+{
+    addVendors();
+    addDocuments();
+    Table lines(database(), u"Line"_s);
+    lines.open();
+    struct Case
+    {
+        QList<Value> from;
+        QList<Value> to;
+        QString quantities;
+    };
+    const Case cases[] = {
+        {{2}, {2}, u"21 22"_s},
+        {{2, 2}, {3, 1}, u"22 31"_s},
+        {{2, 2}, {2}, u"22"_s},
+        {{2}, {3, 2}, u"21 22 31 32"_s},
+        {{3, 2}, {3, 3}, u"32 33"_s},
+        {{4}, {9}, u""_s},
+        {{3}, {2}, u""_s},
+    };
+    for (const Case &c : cases) {
+        lines.setRange(c.from, c.to);
+        EXPECT_EQ(names(lines, u"Quantity"_s), c.quantities);
+    }
+    lines.cancelRange();
+    EXPECT_EQ(lines.recordCount(), 6);
+    EXPECT_EQ(errorOf([&] { lines.setRange({1, 2, 3}, {1, 2, 3}); }), ErrorCode::WrongState);
+
+    Table vendors(database(), u"Vendor"_s);
+    vendors.setIndex(u"VENDORNAME1"_s);
+    vendors.open();
+    vendors.setRange({u"A"_s}, {u"BELL"_s});
+    EXPECT_EQ(names(vendors, u"VendorID"_s), u"2 3"_s);
+    vendors.setRange({Value()}, {u"B"_s}); // an empty name comes before all others
+    EXPECT_EQ(names(vendors, u"VendorID"_s), u"4 2"_s);
+    vendors.setIndex(u"SINCE"_s);
+    EXPECT_EQ(vendors.recordCount(), 5) << "a new order ends the range";
+    for (const bool turned : {false, true}) {
+        const QList<Value> early{QDate(2003, 1, 1)};
+        const QList<Value> late{QDate(2004, 1, 1)};
+        turned ? vendors.setRange(late, early) : vendors.setRange(early, late);
+        EXPECT_EQ(names(vendors, u"VendorID"_s), u"4 2 1"_s);
+    }
+}
+
+TEST_P(RecordTest, DetailsFollowTheirMaster)
+{
+    addDocuments();
+    Table documents(database(), u"Document"_s);
+    Table lines(database(), u"Line"_s);
+    lines.setMaster(&documents, u"DocumentID"_s);
+    lines.open();
+    EXPECT_TRUE(lines.isEmpty()) << "the master is closed";
+    documents.open();
+    EXPECT_EQ(names(lines, u"Quantity"_s), u"11"_s);
+    documents.last();
+    EXPECT_EQ(names(lines, u"Quantity"_s), u"31 32 33"_s);
+
+    lines.append();
+    EXPECT_EQ(lines.integer(u"DocumentID"), 3);
+    lines.set(u"Seq", 4);
+    documents.prior(); // the line is saved before its document goes out of sight
+    EXPECT_EQ(names(lines, u"Quantity"_s), u"21 22"_s);
+    documents.next();
+    EXPECT_EQ(lines.recordCount(), 4);
+
+    lines.append();
+    lines.set(u"Seq", 4); // taken: the document must not move
+    EXPECT_EQ(errorOf([&] { documents.first(); }), ErrorCode::KeyViolation);
+    EXPECT_EQ(documents.integer(u"DocumentID"), 3);
+    lines.cancel();
+    documents.close();
+    EXPECT_TRUE(lines.isEmpty());
+}
+
+TEST_P(RecordTest, LookupsAndCalculatedFieldsComeWithTheRow)
+{
+    addVendors();
+    addDocuments();
+    Table documents(database(), u"Document"_s);
+    documents.addLookup(u"VendorName"_s, FieldType::Text, 20,
+                        {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorName"_s});
+    documents.addCalculated(u"Title"_s, FieldType::Text, 40, [](const DataSet &set) {
+        return Value(set.text(u"DocumentID") + u':' + set.text(u"VendorName"));
+    });
+    documents.open();
+    EXPECT_EQ(documents.field(0).name.toLower(), u"documentid"_s);
+    EXPECT_EQ(names(documents, u"Title"_s), u"1:Corner 2:apple 3:Bell"_s);
+    documents.first();
+    const int title = documents.fieldIndex(u"title");
+    EXPECT_EQ(documents.valueAt(2, title).toText(), u"3:Bell"_s);
+    EXPECT_TRUE(documents.locate(u"VendorName"_s, {u"apple"_s}));
+
+    documents.edit();
+    documents.set(u"VendorID", 5);
+    EXPECT_EQ(documents.text(u"Title"), u"2:Äpfel"_s);
+    EXPECT_EQ(documents.valueAt(0, title).toText(), u"1:Corner"_s) << "other rows do not see the edit";
+    documents.set(u"VendorID", Value());
+    EXPECT_EQ(documents.text(u"Title"), u"2:"_s);
+    EXPECT_EQ(errorOf([&] { documents.set(u"VendorName", u"x"_s); }), ErrorCode::WrongState);
+    documents.cancel();
+    EXPECT_EQ(documents.text(u"Title"), u"2:apple"_s);
+}
+
+TEST_P(RecordTest, RefreshStaysOnTheRowOrOnWhatTookItsPlace)
+{
+    addVendors();
+    const auto other = store.anotherUser();
+    Table mine(database(), u"Vendor"_s);
+    Table theirs(other->database, u"Vendor"_s);
+    mine.open();
+    theirs.open();
+    mine.moveTo(2);
+    ASSERT_TRUE(theirs.findKey({1}));
+    theirs.remove();
+    mine.refresh();
+    EXPECT_EQ(mine.integer(u"VendorID"), 3);
+    EXPECT_EQ(mine.recordIndex(), 1);
+    ASSERT_TRUE(theirs.findKey({3}));
+    theirs.remove();
+    EXPECT_EQ(mine.recordCount(), 4) << "a snapshot until then";
+    mine.refresh();
+    EXPECT_EQ(mine.integer(u"VendorID"), 4);
+    EXPECT_EQ(mine.recordIndex(), 1);
+    theirs.removeAll();
+    mine.refresh();
+    EXPECT_TRUE(mine.isEmpty());
+    EXPECT_TRUE(mine.atEnd());
+    EXPECT_TRUE(mine.value(u"VendorID").isNull());
+}
+
+TEST_P(RecordTest, ReadsWindowsOfALongList)
+{
+    store.execute(store.store() == Store::Local
+                      ? u"WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i+1 FROM n WHERE i<10000) "
+                        "INSERT INTO Line (DocumentID, Seq, Quantity) SELECT i/100, i%100, i FROM n"_s
+                      : u"INSERT INTO Line (DocumentID, Seq, Quantity) "
+                        "SELECT i/100, i%100, i FROM generate_series(1,10000) i"_s);
+    Table table(database(), u"Line"_s);
+    table.open();
+    EXPECT_EQ(table.firstRows(3).size(), 3U);
+    EXPECT_EQ(table.recordCount(), 10000);
+    for (const int index : {0, 9999, 255, 256, 5000, 0, 4321})
+        EXPECT_EQ(table.rowAt(index)[2].toInt(), index + 1);
+    for (int index = 9999; index >= 0; index -= 250) // more windows than are kept
+        EXPECT_EQ(table.rowAt(index)[2].toInt(), index + 1);
+    table.last();
+    EXPECT_EQ(table.number(u"Quantity"), 10000);
+}
+
+TEST_P(RecordTest, AskingForTheFirstRowOrAKeyDoesNotReadTheList)
+{
+    addVendors();
+    Table table(database(), u"Vendor"_s);
+    table.open();
+    EXPECT_EQ(table.integer(u"VendorID"), 1);
+    ASSERT_TRUE(table.findKey({4}));
+    // Had the list been read, a row added now would not be in it.
+    const auto other = store.anotherUser();
+    Table theirs(other->database, u"Vendor"_s);
+    theirs.open();
+    theirs.append();
+    theirs.set(u"VendorID", 6);
+    theirs.post();
+    EXPECT_EQ(table.recordCount(), 6);
+    EXPECT_EQ(table.recordIndex(), 3);
+}

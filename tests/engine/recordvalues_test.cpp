@@ -1,0 +1,139 @@
+// Values, money and layouts: what needs no store.
+
+#include "engine/error.h"
+#include "engine/layout.h"
+#include "engine/money.h"
+#include "engine/namedparameters.h"
+#include "engine/value.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+using namespace Engine;
+using namespace Qt::StringLiterals;
+
+TEST(MoneyTest, ConvertsToTheNearestTenThousandthJudgedOnTheExactValue)
+{
+    struct Case
+    {
+        long double value;
+        qint64 count;
+    };
+    const Case cases[] = {
+        {0.0L, 0},        {12.34, 123400},   {0.00005, 1}, // the double lies above the tie
+        {0.00015, 1}, // and this one below it
+        {8.00005, 80000}, // below the tie
+        {1.00005, 10001}, {3.0L / 65536, 0}, // 0.4578 of a unit
+        {0.03125, 312}, // 312.5 exactly: to even
+        {0.09375, 938}, // 937.5 exactly: to even
+        {-0.03125, -312}, {-0.09375, -938},  {-0.00005, -1}, {922337203685477.0L, 9223372036854770000},
+    };
+    for (const Case &c : cases)
+        EXPECT_EQ(Money::fromLongDouble(c.value).tenThousandths(), c.count) << static_cast<double>(c.value);
+}
+
+TEST(MoneyTest, RefusesWhatIsNoAmount)
+{
+    const double cases[] = {std::nan(""), std::numeric_limits<double>::infinity(), 1e16, -1e16};
+    for (const double value : cases)
+        EXPECT_THROW(Money::fromDouble(value), std::range_error) << value;
+}
+
+TEST(ValueTest, ReadsNullAsNothing)
+{
+    const Value null;
+    EXPECT_EQ(null.toInt(), 0);
+    EXPECT_EQ(null.toDouble(), 0);
+    EXPECT_EQ(null.toMoney(), Money());
+    EXPECT_EQ(null.toText(), u""_s);
+    EXPECT_FALSE(null.toBool());
+    EXPECT_FALSE(null.toDate().isValid());
+    EXPECT_TRUE(null.as(FieldType::Integer).isNull());
+    EXPECT_TRUE(Value(QDate()).isNull());
+}
+
+TEST(ValueTest, WritesNumbersWithTheDigitsThatReadBackTheSame)
+{
+    struct Case
+    {
+        double number;
+        QString text;
+    };
+    const Case cases[] = {{0.1, u"0.1"_s},
+                          {1000000, u"1000000"_s},
+                          {-2.5, u"-2.5"_s},
+                          {1.0 / 3, u"0.3333333333333333"_s},
+                          {-0.0, u"0"_s},
+                          {1e20, u"1e+20"_s},
+                          {123456789.25, u"123456789.25"_s}};
+    for (const Case &c : cases) {
+        EXPECT_EQ(Value(c.number).toText(), c.text);
+        EXPECT_EQ(Value(c.text).toDouble(), c.number);
+    }
+}
+
+TEST(ValueTest, ConvertsToTheTypeOfAField)
+{
+    const QDate day(2004, 2, 29);
+    struct Case
+    {
+        Value from;
+        FieldType type;
+        Value to;
+    };
+    const Case cases[] = {
+        {u"42"_s, FieldType::Integer, 42},
+        {2.9, FieldType::Integer, 2},
+        {true, FieldType::SmallInt, 1},
+        {7, FieldType::Float, 7.0},
+        {u" 2.5 "_s, FieldType::Money, 2.5},
+        {1, FieldType::Boolean, true},
+        {u"FALSE"_s, FieldType::Boolean, false},
+        {u"2004-02-29"_s, FieldType::Date, day},
+        {day, FieldType::DateTime, QDateTime(day, QTime(0, 0))},
+        {u"2004-02-29 10:11:12"_s, FieldType::DateTime, QDateTime(day, QTime(10, 11, 12))},
+        {12, FieldType::Text, u"12"_s},
+        {u" "_s, FieldType::Date, Value()},
+    };
+    for (const Case &c : cases)
+        EXPECT_EQ(c.from.as(c.type), c.to) << c.from.toText().toStdString();
+}
+
+TEST(ValueTest, RefusesWhatDoesNotFitTheType)
+{
+    struct Case
+    {
+        Value value;
+        FieldType type;
+    };
+    const Case cases[] = {
+        {u"abc"_s, FieldType::Integer},
+        {40000, FieldType::SmallInt},
+        {qint64(3000000000), FieldType::Integer},
+        {u"1,5"_s, FieldType::Float},
+        {std::numeric_limits<double>::infinity(), FieldType::Money},
+        {std::nan(""), FieldType::Integer},
+        {u"2004-02-30"_s, FieldType::Date},
+        {QDate(2004, 1, 1), FieldType::Integer},
+        {u"maybe"_s, FieldType::Boolean},
+    };
+    for (const Case &c : cases) {
+        try {
+            static_cast<void>(c.value.as(c.type));
+            ADD_FAILURE() << c.value.toText().toStdString();
+        } catch (const EngineError &error) {
+            EXPECT_EQ(error.code(), ErrorCode::BadValue);
+        }
+    }
+}
+
+TEST(NamedParametersTest, BecomePlacesOutsideOfTextsCastsAndComments)
+{
+    const PositionalSql read = positional(
+        u"SELECT ':No', \"a:b\", x::text -- :Not\n FROM t WHERE a = :First AND b > :second_2 /* :no */ OR :First"_s);
+    EXPECT_EQ(read.sql, u"SELECT ':No', \"a:b\", x::text -- :Not\n FROM t WHERE a = ? AND b > ? /* :no */ OR ?"_s);
+    EXPECT_EQ(read.names, (QStringList{u"First"_s, u"second_2"_s, u"First"_s}));
+    EXPECT_EQ(positional(u"SELECT 'it''s' || :a"_s).sql, u"SELECT 'it''s' || ?"_s);
+}
