@@ -4,6 +4,17 @@
 
 namespace Tallymere {
 
+namespace {
+
+// Calculated values are not part of the row that was read.
+Engine::Value valueOf(const Engine::DataSet &rows, int index, const Engine::Row &row, int field)
+{
+    const bool calculated = rows.field(field).kind == Engine::FieldKind::Calculated;
+    return calculated ? rows.valueAt(index, field) : row[static_cast<size_t>(field)];
+}
+
+} // namespace
+
 void writeCsvList(const Engine::DataSet &rows, const QStringList &columns, QIODevice &output)
 {
     std::vector<int> fields;
@@ -13,9 +24,10 @@ void writeCsvList(const Engine::DataSet &rows, const QStringList &columns, QIODe
     CsvWriter writer(output);
     writer.record(columns);
     const int count = rows.recordCount();
-    for (int row = 0; row < count; ++row) {
+    for (int index = 0; index < count; ++index) {
+        const Engine::Row &row = rows.rowAt(index);
         for (const int field : fields)
-            writer.field(rows.valueAt(row, field).toText());
+            writer.field(valueOf(rows, index, row, field).toText());
         writer.endRecord();
     }
     writer.flush();

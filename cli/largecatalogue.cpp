@@ -13,7 +13,8 @@ namespace Tallymere {
 namespace {
 
 // A family of products: each base in each make in each pack.
-struct ProductFamily {
+struct ProductFamily
+{
     QString type;
     QString numberPrefix;
     QStringList bases;
@@ -53,35 +54,36 @@ const std::vector<ProductFamily> &families()
          u"DR"_s,
          {u"Rice"_s, u"Barley"_s, u"Lentils"_s, u"Chickpeas"_s, u"Black beans"_s, u"Navy beans"_s, u"Penne"_s,
           u"Fusilli"_s, u"Rigatoni"_s, u"Oats"_s, u"Bulgur"_s, u"Millet"_s, u"Semolina"_s, u"Rye flour"_s},
-         {u"white"_s, u"brown"_s, u"organic"_s, u"quick cooking"_s, u"gluten free"_s, u"enriched"_s},
+         {u"white"_s, u"brown"_s, u"organic"_s, u"quick"_s, u"gluten free"_s, u"enriched"_s},
          packs},
         {u"Dairy & Eggs"_s,
          u"YG"_s,
          {u"Milk"_s, u"Yogurt"_s, u"Kefir"_s, u"Cheddar"_s, u"Gouda"_s, u"Swiss cheese"_s, u"Feta"_s, u"Ricotta"_s,
           u"Quark"_s, u"Custard"_s},
-         {u"plain"_s, u"light"_s, u"lactose free"_s, u"organic"_s, u"low salt"_s},
+         {u"plain"_s, u"light"_s, u"no lactose"_s, u"organic"_s, u"low salt"_s},
          {u"250 g cup"_s, u"500 g cup"_s, u"1 kg tub"_s, u"2 kg pail"_s, u"5 kg pail"_s}},
         {u"Frozen Meals"_s,
          u"MS"_s,
          {u"Beef stew"_s, u"Chicken curry"_s, u"Turkey dinner"_s, u"Pork roast"_s, u"Fish pie"_s, u"Lasagna"_s,
-          u"Meat loaf"_s, u"Stuffed peppers"_s, u"Chili"_s, u"Goulash"_s, u"Ratatouille"_s, u"Macaroni & cheese"_s},
-         {u"regular"_s, u"diabetic"_s, u"renal"_s, u"low sodium"_s, u"minced"_s, u"pureed"_s},
-         {u"single"_s, u"6 pack"_s, u"12 pack"_s, u"family tray"_s, u"half size"_s}},
+          u"Meat loaf"_s, u"Stuffed peppers"_s, u"Chili"_s, u"Goulash"_s, u"Ratatouille"_s, u"Macaroni"_s},
+         {u"regular"_s, u"diabetic"_s, u"renal"_s, u"low salt"_s, u"minced"_s, u"pureed"_s},
+         {u"single"_s, u"6 pack"_s, u"12 pack"_s, u"family"_s, u"half size"_s}},
         {u"Frozen Soups"_s,
          u"SS"_s,
          {u"Minestrone"_s, u"Pea soup"_s, u"Chicken soup"_s, u"Beef barley"_s, u"Tomato soup"_s, u"Leek soup"_s},
-         {u"regular"_s, u"low sodium"_s, u"pureed"_s, u"vegan"_s},
+         {u"regular"_s, u"low salt"_s, u"pureed"_s, u"vegan"_s},
          {u"250 ml cup"_s, u"1 kg pouch"_s, u"2 kg pouch"_s, u"4 kg pouch"_s}},
         {u"Packaging"_s,
          u"KG"_s,
          {u"Meal tray"_s, u"Soup cup"_s, u"Lid"_s, u"Dessert cup"_s, u"Paper bag"_s, u"Label"_s, u"Carton"_s},
-         {u"small"_s, u"medium"_s, u"large"_s, u"compostable"_s, u"clear"_s, u"printed"_s},
+         {u"small"_s, u"medium"_s, u"large"_s, u"paper"_s, u"clear"_s, u"printed"_s},
          {u"pack of 50"_s, u"case of 100"_s, u"case of 250"_s, u"case of 500"_s, u"case of 1000"_s}},
     };
     return all;
 }
 
-struct Product {
+struct Product
+{
     QString type;
     QString number;
     QString description;
@@ -89,7 +91,8 @@ struct Product {
 
 // The products one after the other, a family at a time in turn, as often as needed: the second time as another
 // grade.
-class Products {
+class Products
+{
 public:
     Product next()
     {
@@ -102,7 +105,7 @@ public:
         const qsizetype grade = inFamily / (family.packs.size() * family.makes.size() * family.bases.size());
         QString description = u"%1, %2, %3"_s.arg(family.bases[base], family.makes[make], family.packs[pack]);
         if (grade > 0)
-            description += u", grade %1"_s.arg(QChar(static_cast<char16_t>(u'A' + grade)));
+            description += u" (%1)"_s.arg(QChar(static_cast<char16_t>(u'A' + grade)));
         return {family.type, family.numberPrefix + QString::number(10000 + inFamily), description};
     }
 
