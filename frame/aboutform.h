@@ -9,7 +9,8 @@ namespace Ui {
 class TFormAboutTallymereSystem;
 }
 
-class TFormAboutTallymereSystem final : public QDialog {
+class TFormAboutTallymereSystem final : public QDialog
+{
     Q_OBJECT
 
 public:

@@ -15,7 +15,8 @@ struct ScreenKind;
 
 // Carries out the commands of the main window: every screen is opened by the same few steps, told apart by the
 // command's data. Errors of a screen come out as they are; the caller shows them.
-class CommandRunner {
+class CommandRunner
+{
 public:
     // The registry and the parent outlive the runner.
     CommandRunner(const ScreenRegistry &screens, QWidget *parent)
@@ -33,7 +34,8 @@ public:
     QWidget *open(const QString &screenName, ScreenContext &context) const;
 
 private:
-    struct Found {
+    struct Found
+    {
         QWidget *screen;
         bool wasOpen;
     };

@@ -18,7 +18,8 @@ enum class Opening {
 
 // One action of the main window as data. The rights key and name are what SecurityCheck is asked; an empty key asks
 // nothing.
-struct Command {
+struct Command
+{
     QLatin1StringView action;
     const char *caption; // for tr() in the context "Commands"
     QLatin1StringView rightsKey = {};

@@ -25,7 +25,8 @@ class SettingsStore;
 class TemplateReport;
 
 // What the main form is given by the module; all of it outlives the form.
-struct FrameServices {
+struct FrameServices
+{
     SettingsStore &settings;
     Prompts &prompts;
     const ScreenRegistry &screens;
@@ -34,7 +35,8 @@ struct FrameServices {
 // The hub of the inventory system, and the module's side of the link with the host. The host makes it once, hidden;
 // the menu item that it adds to the host's menu opens the system: the data modules are made at the first opening
 // and stay, the window is shown modally each time.
-class TFormTallymereSystem final : public QMainWindow, public IPlugIn {
+class TFormTallymereSystem final : public QMainWindow, public IPlugIn
+{
     Q_OBJECT
 
 public:

@@ -16,7 +16,8 @@ class SettingsStore;
 
 // Edits where the database is and how it is reached. Nothing is checked when it is saved: the settings say what a
 // later start finds or does not find.
-class TFormRegistryEditor final : public QDialog {
+class TFormRegistryEditor final : public QDialog
+{
     Q_OBJECT
 
 public:

@@ -12,7 +12,8 @@ class TFormMessageInventorySystem;
 }
 
 // Shows the progress of a long save. It has no buttons: a save is not interrupted.
-class TFormMessageInventorySystem final : public QWidget, public Progress {
+class TFormMessageInventorySystem final : public QWidget, public Progress
+{
     Q_OBJECT
 
 public:

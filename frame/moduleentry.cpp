@@ -20,7 +20,8 @@ namespace {
 int starts = 0;
 
 // What lives as long as the module is started.
-struct Unit {
+struct Unit
+{
     SystemSettings settings;
     MessageBoxes prompts;
     ScreenRegistry screens = productScreens();

@@ -12,7 +12,8 @@ struct ScreenContext;
 
 // How the main window handles one kind of screen. What a screen does not have stays empty; a command whose screen
 // lacks what the command needs is disabled.
-struct ScreenKind {
+struct ScreenKind
+{
     std::function<QWidget *(ScreenContext &, QWidget *parent)> create;
     std::function<void(QWidget &)> refresh; // reads the main table (or query) again
     // Empties the filter dialog if it is open, unchecks mnuFilter and shows all records.
@@ -23,7 +24,8 @@ struct ScreenKind {
 };
 
 // The screens that exist, by component name ("frmInvReceipts").
-class ScreenRegistry {
+class ScreenRegistry
+{
 public:
     void add(const QString &name, ScreenKind kind) { m_kinds.insert(name, std::move(kind)); }
     // Null when there is no such screen.

@@ -5,7 +5,8 @@
 namespace Tallymere {
 
 // A report whose layout stands in a template file.
-class TemplateReport {
+class TemplateReport
+{
 public:
     virtual ~TemplateReport() = default;
 

@@ -5,7 +5,8 @@
 namespace Tallymere {
 
 // Traces entry to and exit from a routine.
-class TraceScope {
+class TraceScope
+{
 public:
     explicit TraceScope(const char *routine)
         : m_routine(routine)

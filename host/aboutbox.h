@@ -4,7 +4,8 @@
 
 namespace Tallymere {
 
-class AboutBox final : public QDialog {
+class AboutBox final : public QDialog
+{
     Q_OBJECT
 
 public:

@@ -18,7 +18,8 @@ namespace Tallymere {
 namespace {
 
 // The start page tells what is wrong; boxes on the way would say it twice.
-class NoPrompts final : public Prompts {
+class NoPrompts final : public Prompts
+{
 public:
     void inform(const QString &) override { }
     void warn(const QString &) override { }

@@ -7,7 +7,8 @@ namespace Tallymere {
 class SettingsStore;
 
 // The company whose database the settings name.
-struct Company {
+struct Company
+{
     QString name; // of the organization; empty when there is none
     QString location; // folder or server, for people
     QString problem; // why the database cannot be used; empty when it can

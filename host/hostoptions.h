@@ -5,7 +5,8 @@
 
 namespace Tallymere {
 
-struct HostOptions {
+struct HostOptions
+{
     QString module; // the module's file; empty: where it is installed
     QString user;
     QString data; // folder to use from now on; empty: as set

@@ -15,7 +15,8 @@ class HostWindow;
 class SettingsStore;
 
 // The main window of the reference host: who works with which company, and the menu with the inventory module.
-class HostWindow final : public QMainWindow, public IHostInterface {
+class HostWindow final : public QMainWindow, public IHostInterface
+{
     Q_OBJECT
 
 public:

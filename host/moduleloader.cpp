@@ -5,7 +5,6 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QLibrary>
-#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

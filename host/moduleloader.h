@@ -7,10 +7,10 @@
 #include <QPointer>
 #include <QString>
 #include <QStringList>
+#include <QWidget>
 
 class QLibrary;
 class QMenu;
-class QWidget;
 
 namespace Tallymere {
 
@@ -19,7 +19,8 @@ namespace Tallymere {
 QString moduleFile(const QString &given, const QString &executableFolder);
 
 // Loads the inventory module at run time and links it with the host's window.
-class ModuleLoader {
+class ModuleLoader
+{
     Q_DECLARE_TR_FUNCTIONS(ModuleLoader)
 
 public:

@@ -12,7 +12,8 @@ namespace Tallymere {
 
 // The form classes that loaded modules offer, by class name. One registry for the whole process.
 // Use on the user-interface thread only.
-class PLGINT_EXPORT ClassRegistry {
+class PLGINT_EXPORT ClassRegistry
+{
 public:
     // Makes a form of the class. The parent owns it; without a parent the caller does.
     using Factory = QWidget *(*)(QWidget *parent);

@@ -13,7 +13,8 @@ class QWidget;
 namespace Tallymere {
 
 // The identity of an interface.
-struct Guid {
+struct Guid
+{
     quint32 data1 = 0;
     quint16 data2 = 0;
     quint16 data3 = 0;
@@ -31,7 +32,8 @@ struct Guid {
 //
 // queryInterface has a body in every interface (it answers for the interface's own identity), which also pins the
 // type information to this library, so that the cross cast works between binaries that hide their symbols.
-class PLGINT_EXPORT IInterface {
+class PLGINT_EXPORT IInterface
+{
 public:
     // Sets *out to the interface of the given identity, adds a reference and returns true; otherwise sets *out to
     // null and returns false.
@@ -49,7 +51,8 @@ protected:
 };
 
 // How a host drives a module. Implemented by the module's main form.
-class PLGINT_EXPORT IPlugIn : public IInterface {
+class PLGINT_EXPORT IPlugIn : public IInterface
+{
 public:
     static constexpr Guid id{0x9C4CD2EC, 0x5B8B, 0x4395, {0xAB, 0x5F, 0x3C, 0x1E, 0xF7, 0xB7, 0x88, 0x18}};
 
@@ -68,7 +71,8 @@ protected:
 };
 
 // What a module may ask of its host. Implemented by the window that the host passes to IPlugIn::init.
-class PLGINT_EXPORT IHostInterface : public IInterface {
+class PLGINT_EXPORT IHostInterface : public IInterface
+{
 public:
     static constexpr Guid id{0xD0CC89C2, 0x461D, 0x49FE, {0xB7, 0x19, 0xC3, 0x43, 0xC1, 0xAC, 0x94, 0x30}};
 
@@ -82,7 +86,8 @@ protected:
 };
 
 // A counted reference to an interface of another binary.
-template <typename Interface> class InterfaceRef {
+template <typename Interface> class InterfaceRef
+{
 public:
     InterfaceRef() = default;
     InterfaceRef(const InterfaceRef &) = delete;

@@ -1,0 +1,88 @@
+#include "frame/hostinifile.h"
+#include "frame/shared/initfile.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class InitFileTest : public testing::Test
+{
+protected:
+    void write(const QByteArray &text)
+    {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    QByteArray read() const
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QString path() const { return m_folder.filePath(u"HX1.ini"_s); }
+    QString folder() const { return m_folder.path(); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(InitFileTest, ReadsValuesAsOtherProgramsWriteThem)
+{
+    write("; settings of the host\r\n"
+          "DialerPort=com9\r\n"
+          "[ General ]\r\n"
+          "dialerport = com2 \r\n"
+          "\r\n"
+          "[Companies]\r\n"
+          "Sample Data=\"C:\\Corvane\\Data = old\"\r\n"
+          "Sample Data=second\r\n");
+    const InitFile file(path());
+    EXPECT_EQ(file.value(u"general", u"DialerPort"), u"com2"_s);
+    EXPECT_EQ(file.value(u"Companies", u"sample data"), u"C:\\Corvane\\Data = old"_s);
+    EXPECT_EQ(file.value(u"Companies", u"DialerPort"), QString());
+    EXPECT_EQ(file.entries(u"Companies").size(), 2);
+}
+
+TEST_F(InitFileTest, WritingKeepsEveryOtherLine)
+{
+    struct Case
+    {
+        const char *name;
+        QByteArray before;
+        QByteArray after;
+    };
+    const Case cases[] = {
+        {"no file", "", "[Companies]\nSample Data=x\n"},
+        {"other section only", "[General]\nDialerPort=com2\n",
+         "[General]\nDialerPort=com2\n[Companies]\nSample Data=x\n"},
+        {"section without the value", "[companies]\nOther=y\n[General]\nSample Data=z\n",
+         "[companies]\nSample Data=x\nOther=y\n[General]\nSample Data=z\n"},
+        {"value there", "; note\n[Companies]\nsample data=old\nOther=y\n",
+         "; note\n[Companies]\nSample Data=x\nOther=y\n"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        QFile::remove(path());
+        if (!c.before.isEmpty())
+            write(c.before);
+        ASSERT_TRUE(InitFile(path()).setValue(u"Companies"_s, u"Sample Data"_s, u"x"_s));
+        EXPECT_EQ(read(), c.after);
+    }
+    EXPECT_FALSE(InitFile(folder() + "/none/HX1.ini"_L1).setValue(u"a"_s, u"b"_s, u"c"_s));
+}
+
+TEST_F(InitFileTest, SampleCompanyIsNamedOnlyWhereNoneIs)
+{
+    nameSampleCompany(folder());
+    EXPECT_EQ(InitFile(path()).value(u"Companies", u"Sample Data"), folder() + "/Data"_L1);
+
+    write("[Companies]\nSample Data=/srv/kitchen\n");
+    nameSampleCompany(folder());
+    EXPECT_EQ(read(), "[Companies]\nSample Data=/srv/kitchen\n");
+}

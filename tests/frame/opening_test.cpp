@@ -1,0 +1,215 @@
+#include "frame/frmtallymeresystem.h"
+#include "frame/screenregistry.h"
+#include "tests/frame/testcompany.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QStatusTipEvent>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class HostStub final : public QWidget, public IHostInterface
+{
+public:
+    int addRef() override { return ++references; }
+    int release() override { return --references; }
+    void getCurrentUser(QString &name) override { name = user; }
+
+    QString user = u"maria"_s;
+    int references = 0;
+};
+
+// A screen that may refuse to be closed.
+class StubbornScreen final : public QWidget
+{
+public:
+    using QWidget::QWidget;
+    bool stubborn = false;
+
+protected:
+    void closeEvent(QCloseEvent *event) override { event->setAccepted(!stubborn); }
+};
+
+class OpeningTest : public testing::Test
+{
+protected:
+    ~OpeningTest() override { EXPECT_EQ(QApplication::overrideCursor(), nullptr); }
+
+    // Opens by the host's menu item, does something while the window is open and closes it. False when it did not
+    // open.
+    bool open(const std::function<void()> &meanwhile = [] {})
+    {
+        bool opened = false;
+        QTimer::singleShot(0, &form, [&] {
+            opened = form.isVisible();
+            if (!opened)
+                return;
+            meanwhile();
+            form.findChild<QPushButton *>(u"BitBtnClose"_s)->click();
+        });
+        menu.actions().constFirst()->trigger();
+        QCoreApplication::processEvents();
+        return opened;
+    }
+    void link(QWidget *window)
+    {
+        QMenu *reference = &menu;
+        form.init(window);
+        form.setMenu(reference);
+    }
+
+    ScreenRegistry oneScreen()
+    {
+        ScreenRegistry registry;
+        const auto create = [this](ScreenContext &, QWidget *parent) {
+            screen = new StubbornScreen(parent, Qt::Window);
+            screen->setObjectName(u"frmInvTotals"_s);
+            return screen.data();
+        };
+        registry.add(
+            u"frmInvTotals"_s,
+            {.create = create, .refresh = {}, .resetFilter = {}, .showHandler = {}, .firstRecord = {}, .post = {}});
+        return registry;
+    }
+
+    TestCompany company;
+    QPointer<StubbornScreen> screen;
+    ScreenRegistry screens = oneScreen();
+    HostStub host;
+    QMenu menu;
+    TFormTallymereSystem form{FrameServices{company.settings, company.prompts, screens}};
+};
+
+} // namespace
+
+TEST_F(OpeningTest, HostsMenuItemOpensTheSystemAgainAndAgain)
+{
+    link(&host);
+    ASSERT_EQ(menu.actions().size(), 1);
+    EXPECT_EQ(menu.actions().constFirst()->text(), u"Tallymere"_s);
+
+    EXPECT_TRUE(open([this] { EXPECT_EQ(QApplication::activeModalWidget(), &form); }));
+    TDataModuleTallymere *const first = form.dataModule();
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->currentUser(), u"maria"_s);
+    EXPECT_EQ(form.helpFile(), u"HX1.hlp"_s);
+
+    host.user = u"anna"_s;
+    EXPECT_TRUE(open());
+    EXPECT_EQ(form.dataModule(), first);
+    EXPECT_EQ(first->currentUser(), u"anna"_s);
+    EXPECT_EQ(company.prompts.said, QStringList());
+}
+
+TEST_F(OpeningTest, WithoutAHostAnErrorIsShownAndNothingOpens)
+{
+    QWidget plain;
+    for (QWidget *window : {static_cast<QWidget *>(nullptr), &plain}) {
+        link(window);
+        company.prompts.said.clear();
+        EXPECT_FALSE(open());
+        EXPECT_EQ(company.prompts.said.size(), 1);
+        EXPECT_TRUE(company.prompts.said.value(0).contains(u"user"_s)) << qPrintable(company.prompts.said.value(0));
+    }
+    EXPECT_EQ(menu.actions().size(), 1) << "the item has moved, not doubled";
+}
+
+TEST_F(OpeningTest, HostReferencesAreBalanced)
+{
+    HostStub other;
+    form.init(&host);
+    EXPECT_EQ(host.references, 1);
+    form.init(&other);
+    EXPECT_EQ(host.references, 0);
+    EXPECT_EQ(other.references, 1);
+    form.init(nullptr);
+    EXPECT_EQ(other.references, 0);
+    {
+        HostStub gone;
+        form.init(&gone);
+    }
+    form.init(&host); // does not touch the one that is gone
+    EXPECT_EQ(host.references, 1);
+}
+
+TEST_F(OpeningTest, MissingDatabaseIsShownAndTheNextOpeningTriesAgain)
+{
+    link(&host);
+    setRegString(company.settings, u"Alias"_s, u"/nowhere/kitchen"_s);
+    EXPECT_FALSE(open());
+    ASSERT_EQ(company.prompts.said.size(), 2); // the warning about the folder, then the engine's own words
+    EXPECT_TRUE(company.prompts.said[0].startsWith(u"The Corvane database:\n/nowhere/kitchen\n"_s));
+    EXPECT_EQ(form.dataModule(), nullptr);
+
+    setRegString(company.settings, u"Alias"_s, company.folder());
+    EXPECT_TRUE(open());
+}
+
+TEST_F(OpeningTest, ClosingFreesTheScreensUnlessOneStays)
+{
+    link(&host);
+    EXPECT_TRUE(open([this] {
+        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
+        ASSERT_NE(screen, nullptr);
+        EXPECT_TRUE(screen->isVisible());
+        screen->stubborn = true;
+        form.findChild<QPushButton *>(u"BitBtnClose"_s)->click();
+        EXPECT_TRUE(form.isVisible());
+        screen->stubborn = false;
+    }));
+    EXPECT_FALSE(form.isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(screen, nullptr);
+}
+
+TEST_F(OpeningTest, WhileItIsOpenItsScreensAreUsableAndTheHostIsNot)
+{
+    int pressed = 0;
+    const auto addButton = [&](QWidget &window) {
+        auto *button = new QPushButton(&window);
+        button->resize(window.size());
+        button->show();
+        QObject::connect(button, &QPushButton::clicked, &form, [&pressed] { ++pressed; });
+    };
+    // By the window, so that it takes the way of the user's clicks.
+    const auto click = [](QWidget &window) {
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, window.rect().center());
+    };
+    link(&host);
+    host.show();
+    addButton(host);
+    click(host);
+    EXPECT_EQ(pressed, 1);
+    EXPECT_TRUE(open([&] {
+        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
+        addButton(*screen);
+        click(*screen);
+        EXPECT_EQ(pressed, 2);
+        click(host);
+        EXPECT_EQ(pressed, 2);
+    }));
+}
+
+TEST_F(OpeningTest, EnterPressesTheFocusedButtonAndHintsGoToTheStatusBar)
+{
+    link(&host);
+    EXPECT_TRUE(open([this] {
+        auto *close = form.findChild<QPushButton *>(u"BitBtnClose"_s);
+        close->setFocus();
+        QStatusTipEvent tip(u"Enter inventory receipts"_s);
+        QCoreApplication::sendEvent(&form, &tip);
+        EXPECT_EQ(form.findChild<QLabel *>(u"RzStatusPane1"_s)->text(), u"Enter inventory receipts"_s);
+        QTest::keyClick(close, Qt::Key_Return);
+        EXPECT_FALSE(form.isVisible());
+    }));
+}

@@ -1,0 +1,58 @@
+#include "frame/shared/initfile.h"
+#include "frame/shared/settingsstore.h"
+#include "host/company.h"
+#include "tests/host/privatesettings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+TEST(HostCompany, IsReadFromTheFolderInTheSettings)
+{
+    const QTemporaryDir folder;
+    makeCompany(folder.path(), u"Harvest Table Kitchens"_s);
+    MemorySettings settings;
+    EXPECT_FALSE(readCompany(settings).defined);
+
+    ASSERT_TRUE(useCompanyFolder(settings, folder.path()));
+    const Company company = readCompany(settings);
+    EXPECT_TRUE(company.defined);
+    EXPECT_EQ(company.name, u"Harvest Table Kitchens"_s);
+    EXPECT_EQ(company.problem, QString());
+}
+
+TEST(HostCompany, AFolderUnderTheSpacedNameIsFound)
+{
+    const QTemporaryDir folder;
+    makeCompany(folder.path(), u"Old Kitchen"_s);
+    MemorySettings settings;
+    settings.write(u"Alias"_s, u"Cor Vane"_s, folder.path());
+    EXPECT_EQ(readCompany(settings).name, u"Old Kitchen"_s);
+}
+
+TEST(HostCompany, WhatIsWrongIsTold)
+{
+    const QTemporaryDir folder;
+    for (const QString &wrong : {folder.path(), folder.path() + "/none"_L1}) {
+        MemorySettings settings;
+        useCompanyFolder(settings, wrong);
+        const Company company = readCompany(settings);
+        EXPECT_TRUE(company.defined);
+        EXPECT_TRUE(company.problem.contains(folder.path())) << qPrintable(company.problem);
+    }
+}
+
+TEST(HostCompany, SampleIsOfferedOnlyWhenItIsThere)
+{
+    const QTemporaryDir folder;
+    const InitFile file(folder.filePath(u"HX1.ini"_s));
+    EXPECT_EQ(sampleCompanyFolder(folder.path()), QString());
+    ASSERT_TRUE(file.setValue(u"Companies"_s, u"Sample Data"_s, folder.filePath(u"Data"_s)));
+    EXPECT_EQ(sampleCompanyFolder(folder.path()), QString());
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"Data"_s));
+    makeCompany(folder.filePath(u"Data"_s), u"Sample"_s);
+    EXPECT_EQ(sampleCompanyFolder(folder.path()), folder.filePath(u"Data"_s));
+}

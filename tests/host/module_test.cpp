@@ -1,0 +1,203 @@
+#include "frame/shared/settingsstore.h"
+#include "host/company.h"
+#include "host/hostwindow.h"
+#include "host/moduleloader.h"
+#include "plgint/classregistry.h"
+#include "tests/host/privatesettings.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLibrary>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+const QString moduleUnderTest = QStringLiteral(MODULE_FILE);
+
+QWidget *mainForm()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->objectName() == "FormTallymereSystem"_L1)
+            return window;
+    }
+    return nullptr;
+}
+
+// Does something with the modal window that comes up, once.
+void onceModal(std::function<void(QWidget &)> action)
+{
+    auto *timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action = std::move(action)] {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (!modal)
+            return;
+        timer->deleteLater();
+        timer->stop();
+        action(*modal);
+    });
+    timer->start(5);
+}
+
+// The text of the box that comes up, which is accepted.
+void answerBox(QString &text)
+{
+    onceModal([&text](QWidget &modal) {
+        if (auto *box = qobject_cast<QMessageBox *>(&modal))
+            text = box->text();
+        modal.close();
+    });
+}
+
+class ModuleTest : public testing::Test
+{
+protected:
+    ModuleTest()
+    {
+        makeCompany(m_folder.path(), u"Harvest Table Kitchens"_s);
+        useCompanyFolder(settings, m_folder.path());
+    }
+    QMenu &inventoryMenu(HostWindow &window) { return *window.findChild<QMenu *>(u"menuInventory"_s); }
+
+    SystemSettings settings;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+// A window that offers nothing, as a host that was built wrongly.
+class PlainWindow final : public QWidget
+{
+};
+
+} // namespace
+
+TEST_F(ModuleTest, StartedTwiceItIsRegisteredOnce)
+{
+    QLibrary library(moduleUnderTest);
+    ASSERT_TRUE(library.load()) << qPrintable(library.errorString());
+    const auto start = reinterpret_cast<void (*)()>(library.resolve("module_init"));
+    const auto stop = reinterpret_cast<void (*)()>(library.resolve("module_done"));
+    ASSERT_TRUE(start && stop);
+    const auto count = [] { return ClassRegistry::instance().classNames().count(u"TFormTallymereSystem"_s); };
+    start();
+    start();
+    EXPECT_EQ(count(), 1);
+    EXPECT_FALSE(ClassRegistry::instance().registerClass(u"TFormTallymereSystem"_s,
+                                                         [](QWidget *) -> QWidget * { return nullptr; }));
+    stop();
+    EXPECT_EQ(count(), 1);
+    auto *databaseNameSlot = reinterpret_cast<QString *>(library.resolve("strDatabaseName"));
+    ASSERT_NE(databaseNameSlot, nullptr);
+    *databaseNameSlot = u"Corvane"_s;
+    stop();
+    EXPECT_EQ(count(), 0);
+    EXPECT_EQ(*databaseNameSlot, QString());
+    stop(); // once too often
+    start();
+    EXPECT_EQ(count(), 1);
+    stop();
+    EXPECT_EQ(count(), 0);
+}
+
+TEST_F(ModuleTest, ExportsItsGlobals)
+{
+    HostWindow window(settings, u"maria"_s, moduleUnderTest);
+    QLibrary library(moduleUnderTest);
+    ASSERT_TRUE(library.load());
+    auto *const form = reinterpret_cast<QWidget **>(library.resolve("FormTallymereSystem"));
+    const auto *factor = reinterpret_cast<double *>(library.resolve("FontFactor"));
+    ASSERT_TRUE(form && factor && library.resolve("SecurityActive"));
+    ASSERT_NE(mainForm(), nullptr);
+    EXPECT_DOUBLE_EQ(*factor, mainForm()->logicalDpiX() / 96.0);
+    EXPECT_NE(*form, nullptr);
+    window.unloadModule();
+    EXPECT_EQ(*form, nullptr);
+}
+
+TEST_F(ModuleTest, HostDrivesItByItsInterface)
+{
+    HostWindow window(settings, u"maria"_s, moduleUnderTest);
+    ASSERT_EQ(inventoryMenu(window).actions().size(), 1);
+    EXPECT_EQ(inventoryMenu(window).actions().constFirst()->text(), u"Tallymere"_s);
+
+    auto plugIn = InterfaceRef<IPlugIn>::of(mainForm());
+    ASSERT_TRUE(plugIn);
+    EXPECT_TRUE(plugIn->getIsModuleInstalled(u"ARSystem"_s));
+    EXPECT_FALSE(plugIn->getIsModuleInstalled(u"ARSystem "_s));
+    EXPECT_FALSE(InterfaceRef<IHostInterface>::of(mainForm()));
+}
+
+TEST_F(ModuleTest, OpensFromTheMenuBeforeAndAfterAReload)
+{
+    HostWindow window(settings, u"maria"_s, moduleUnderTest);
+    EXPECT_EQ(window.findChild<QLabel *>(u"labelCompany"_s)->text(), u"Harvest Table Kitchens"_s);
+    for (int round = 0; round < 3; ++round) {
+        QString user;
+        onceModal([&user](QWidget &modal) {
+            if (auto *pane = modal.findChild<QLabel *>(u"RzStatusPane2"_s))
+                user = pane->text();
+            modal.close();
+        });
+        window.openModule();
+        EXPECT_EQ(user, u"maria"_s);
+        window.loadModule();
+        ASSERT_EQ(inventoryMenu(window).actions().size(), 1);
+    }
+    window.unloadModule();
+    EXPECT_TRUE(inventoryMenu(window).actions().isEmpty());
+    EXPECT_EQ(mainForm(), nullptr);
+    EXPECT_EQ(ClassRegistry::instance().classNames(), QStringList());
+    window.openModule(); // nothing to open
+}
+
+TEST_F(ModuleTest, OpeningForAWindowThatIsNoHostShowsTheErrorBox)
+{
+    PlainWindow window;
+    QMenu menu;
+    ModuleLoader loader;
+    ASSERT_EQ(loader.load(moduleUnderTest, &window, &menu), QString());
+    QString text;
+    answerBox(text);
+    menu.actions().constFirst()->trigger();
+    EXPECT_TRUE(text.contains(u"user"_s)) << qPrintable(text);
+    EXPECT_FALSE(mainForm()->isVisible());
+}
+
+TEST_F(ModuleTest, DataOptionsOfTheModuleAreTheHosts)
+{
+    const QTemporaryDir other;
+    makeCompany(other.path(), u"Second Kitchen"_s);
+    HostWindow window(settings, u"maria"_s, moduleUnderTest);
+    onceModal([&](QWidget &modal) {
+        EXPECT_EQ(modal.objectName(), u"FormRegistryEditor"_s);
+        modal.findChild<QLineEdit *>(u"RzButtonEditDataPath"_s)->setText(other.path());
+        modal.findChild<QPushButton *>(u"BitBtnOK"_s)->click();
+    });
+    window.findChild<QAction *>(u"actionDataOptions"_s)->trigger();
+    EXPECT_EQ(window.findChild<QLabel *>(u"labelCompany"_s)->text(), u"Second Kitchen"_s);
+    EXPECT_EQ(inventoryMenu(window).actions().size(), 1);
+}
+
+TEST_F(ModuleTest, WhatCannotBeLoadedIsNamed)
+{
+    const QString noModule = QCoreApplication::applicationDirPath() + "/../lib/libtallymere_plgint.so"_L1;
+    for (const QString &file : {u"/nowhere/plgTallymere.so"_s, noModule, QCoreApplication::applicationFilePath()}) {
+        HostWindow window(settings, u"maria"_s, file);
+        const QString text = window.findChild<QLabel *>(u"labelModule"_s)->text();
+        EXPECT_TRUE(text.contains(QFileInfo(file).fileName())) << qPrintable(text);
+        EXPECT_FALSE(inventoryMenu(window).isEnabled());
+        EXPECT_TRUE(inventoryMenu(window).actions().isEmpty());
+        EXPECT_EQ(ClassRegistry::instance().classNames(), QStringList());
+    }
+}

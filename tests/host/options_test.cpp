@@ -1,0 +1,62 @@
+#include "host/hostoptions.h"
+#include "host/moduleloader.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+TEST(HostOptions, AreReadAndRefused)
+{
+    const QTemporaryDir folder;
+    const HostOptions good = readOptions(
+        {u"host"_s, u"--module"_s, u"m.so"_s, u"--user=anna"_s, u"--data"_s, folder.path(), u"--open"_s});
+    EXPECT_EQ(good.outcome, HostOptions::Outcome::Start);
+    EXPECT_EQ(good.module, u"m.so"_s);
+    EXPECT_EQ(good.user, u"anna"_s);
+    EXPECT_EQ(good.data, folder.path());
+    EXPECT_TRUE(good.open);
+
+    const HostOptions plain = readOptions({u"host"_s});
+    EXPECT_EQ(plain.outcome, HostOptions::Outcome::Start);
+    EXPECT_FALSE(plain.user.isEmpty());
+    EXPECT_FALSE(plain.open);
+
+    for (const QStringList &wrong : {QStringList{u"--data"_s, u"/nowhere/kitchen"_s}, QStringList{u"--data"_s},
+                                     QStringList{u"--bogus"_s}, QStringList{u"file"_s}}) {
+        const HostOptions refused = readOptions(QStringList{u"host"_s} + wrong);
+        EXPECT_EQ(refused.outcome, HostOptions::Outcome::Refuse) << qPrintable(wrong.join(u' '));
+        EXPECT_FALSE(refused.message.isEmpty());
+    }
+}
+
+TEST(HostOptions, ModuleIsGivenOrNamedOrInstalled)
+{
+    qunsetenv("TALLYMERE_MODULE");
+    EXPECT_TRUE(moduleFile({}, u"/opt/bin"_s).startsWith(u"/opt/bin/"_s));
+    qputenv("TALLYMERE_MODULE", "/named.so");
+    EXPECT_EQ(moduleFile({}, u"/opt/bin"_s), u"/named.so"_s);
+    EXPECT_EQ(moduleFile(u"/given.so"_s, u"/opt/bin"_s), u"/given.so"_s);
+    qunsetenv("TALLYMERE_MODULE");
+}
+
+TEST(HostOptions, ProgramAnswersWithoutADisplay)
+{
+    struct Case
+    {
+        QString argument;
+        int status;
+    };
+    for (const Case &c : {Case{u"--help"_s, 0}, Case{u"--version"_s, 0}, Case{u"--bogus"_s, 2}}) {
+        QProcess host;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"none"_s);
+        host.setProcessEnvironment(environment);
+        host.start(QStringLiteral(HOST_PROGRAM), {c.argument});
+        ASSERT_TRUE(host.waitForFinished());
+        EXPECT_EQ(host.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(host.exitCode(), c.status);
+        EXPECT_FALSE((host.readAllStandardOutput() + host.readAllStandardError()).isEmpty());
+    }
+}
