@@ -128,6 +128,18 @@ QString getSQLString(Engine::Query &query, const QString &name)
     return statement;
 }
 
+void tables(const QString &action, const QList<Engine::Table *> &owned)
+{
+    for (Engine::Table *table : owned) {
+        if (action == "O"_L1 && !table->isOpen())
+            table->open();
+        else if (action == "R"_L1 && table->isOpen())
+            table->refresh();
+        else if (action == "C"_L1)
+            table->close();
+    }
+}
+
 bool isRecordLocked(const Engine::Table &) { return false; }
 
 QString extractIDFromString(const QString &text)

@@ -31,6 +31,10 @@ bool openQuery(Engine::Query &query);
 // name. Empty when there is none.
 QString getSQLString(Engine::Query &query, const QString &name);
 
+// "O" opens, "R" refreshes and "C" closes the tables that a screen or data module owns; any other letter does nothing.
+// A closed table has nothing to refresh and is passed over.
+void tables(const QString &action, const QList<Engine::Table *> &owned);
+
 // Edits find out about locks when they begin; there is nothing to ask beforehand.
 bool isRecordLocked(const Engine::Table &table);
 

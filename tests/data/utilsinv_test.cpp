@@ -193,6 +193,30 @@ TEST_P(Tables, OpeningFailsWithTheTablesName)
     }
 }
 
+TEST_P(Tables, OwnedTablesFollowTheActionLetter)
+{
+    store.database().createTable(Layouts::tax());
+    store.database().createTable(Layouts::bank());
+    Engine::Table tax(store.database(), u"Tax"_s);
+    Engine::Table bank(store.database(), u"Bank"_s);
+    const QList<Engine::Table *> owned{&tax, &bank};
+    tax.open();
+    EXPECT_EQ(tax.recordCount(), 0);
+    const auto other = store.anotherUser();
+    other->database.connection().execute(u"INSERT INTO Tax (TaxID) VALUES (1)"_s);
+
+    tables(u"R"_s, owned);
+    EXPECT_EQ(tax.recordCount(), 1);
+    EXPECT_FALSE(bank.isOpen());
+    tables(u"O"_s, owned);
+    EXPECT_TRUE(tax.isOpen() && bank.isOpen());
+    tables(u"o"_s, owned);
+    tables(u"X"_s, owned);
+    EXPECT_TRUE(tax.isOpen() && bank.isOpen());
+    tables(u"C"_s, owned);
+    EXPECT_FALSE(tax.isOpen() || bank.isOpen());
+}
+
 TEST_P(Tables, StoredStatementsAreFoundByName)
 {
     store.execute(u"CREATE TABLE Stored (Query_Name VARCHAR(20), Query_Lines TEXT)"_s);
