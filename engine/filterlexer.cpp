@@ -11,9 +11,11 @@ namespace Engine {
 
 void refuseFilter(const QString &expression, qsizetype position, const QString &why)
 {
+    constexpr qsizetype shown = 200;
+    const QString quoted = expression.size() > shown ? expression.left(shown) + u"..."_s : expression;
     throw EngineError(ErrorCode::BadExpression,
                       QCoreApplication::translate("Engine", "The expression %1 cannot be used. Position %2: %3")
-                          .arg(expression, QString::number(position), why));
+                          .arg(quoted, QString::number(position), why));
 }
 
 namespace {

@@ -55,7 +55,7 @@ void Query::setOrderBy(const QString &fields)
 }
 
 // The statement's text for the store in hand, with its parameters in order.
-const Query::Text &Query::text() const
+const Query::Text &Query::prepared() const
 {
     if (!m_text) {
         m_database.session().start();
@@ -70,7 +70,7 @@ const Query::Text &Query::text() const
 QList<Value> Query::parameters() const
 {
     QList<Value> values;
-    for (const QString &name : text().positional.names) {
+    for (const QString &name : prepared().positional.names) {
         const auto value = m_parameters.constFind(name.toLower());
         if (value == m_parameters.constEnd()) {
             throw EngineError(
@@ -131,7 +131,7 @@ void Query::refresh()
 qint64 Query::execute()
 {
     const QList<Value> values = parameters();
-    const StatementPtr statement = m_database.connection().prepare(text().positional.sql);
+    const StatementPtr statement = m_database.connection().prepare(prepared().positional.sql);
     bindAll(*statement, values);
     return statement->execute();
 }
@@ -152,7 +152,7 @@ Field columnField(const Statement &statement, int column)
 std::vector<Field> Query::listFields() const
 {
     const StatementPtr statement =
-        m_database.connection().prepare("SELECT t.* FROM ("_L1 + text().positional.sql + ") t LIMIT 1"_L1);
+        m_database.connection().prepare("SELECT t.* FROM ("_L1 + prepared().positional.sql + ") t LIMIT 1"_L1);
     bindAll(*statement, m_values);
     statement->next();
     std::vector<Field> fields;
@@ -164,7 +164,7 @@ std::vector<Field> Query::listFields() const
 // Reads the whole result. The type of a computed column shows in its first value that is not null.
 std::vector<Field> Query::readAll()
 {
-    const StatementPtr statement = m_database.connection().prepare(text().positional.sql);
+    const StatementPtr statement = m_database.connection().prepare(prepared().positional.sql);
     bindAll(*statement, m_values);
     std::vector<Field> fields;
     std::vector<bool> seen;
@@ -195,7 +195,7 @@ SetScope Query::scope() const
 {
     const Dialect &dialect = m_database.connection().dialect();
     SetScope scope;
-    scope.source = u'(' + text().positional.sql + ") t"_L1;
+    scope.source = u'(' + prepared().positional.sql + ") t"_L1;
     scope.sourceParameters = m_values;
     const auto column = [&](const QString &name) { return "t."_L1 + dialect.name(field(name.trimmed()).name); };
     for (const QString &name : m_keyFields.split(u';', Qt::SkipEmptyParts))

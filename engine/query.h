@@ -42,7 +42,7 @@ protected:
 private:
     struct Text; // the statement as it is prepared
 
-    const Text &text() const;
+    const Text &prepared() const;
     QList<Value> parameters() const;
     std::vector<Field> listFields() const;
     std::vector<Field> readAll();

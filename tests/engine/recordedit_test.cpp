@@ -1,0 +1,395 @@
+// Editing, inserting and deleting: what is written, what is refused, and what stays in hand then.
+
+#include "tests/engine/recordfixture.h"
+
+#include <array>
+#include <atomic>
+#include <latch>
+#include <stdexcept>
+#include <thread>
+
+using namespace Engine;
+using namespace Qt::StringLiterals;
+
+TEST_P(RecordTest, PostsWhatWasSetAndNothingElse)
+{
+    addVendors();
+    const auto other = store.anotherUser();
+    Table table(database(), u"Vendor"_s);
+    table.open();
+    ASSERT_TRUE(table.findKey({3}));
+    table.edit();
+    EXPECT_FALSE(table.isModified());
+    table.set(u"VendorName", u"Bell"_s);
+    EXPECT_FALSE(table.isModified()) << "the value it has";
+    table.set(u"Discount", 0.1);
+    table.set(u"Notes", u"tab\tquote'\"; --\nÄ𝄞"_s);
+    table.setText(u"Since", u"2004-02-29"_s);
+    table.setText(u"Suspended", u""_s);
+    EXPECT_TRUE(table.isModified());
+    EXPECT_TRUE(table.oldValue(u"Discount").isNull());
+    // A column that the edit does not touch is not written back.
+    store.execute(u"UPDATE Vendor SET Days = 30 WHERE VendorID = 3"_s);
+    table.post();
+    EXPECT_EQ(table.state(), TableState::Browse);
+
+    Table theirs(other->database, u"Vendor"_s);
+    theirs.open();
+    ASSERT_TRUE(theirs.findKey({3}));
+    EXPECT_EQ(theirs.number(u"Discount"), 0.1);
+    EXPECT_EQ(theirs.text(u"Notes"), u"tab\tquote'\"; --\nÄ𝄞"_s);
+    EXPECT_EQ(theirs.date(u"Since"), QDate(2004, 2, 29));
+    EXPECT_EQ(theirs.integer(u"Days"), 30);
+    EXPECT_TRUE(theirs.value(u"Suspended").isNull());
+}
+
+TEST_P(RecordTest, ANewRecordTakesDefaultsNumberAndPlace)
+{
+    addVendors();
+    Table documents(database(), u"Document"_s);
+    documents.setIndex(u"VENDORID"_s);
+    documents.open();
+    documents.events.newRecord = [&] { documents.setDefault(u"Posted", false); };
+    for (const int vendor : {3, 1, 2}) {
+        documents.append();
+        EXPECT_EQ(documents.state(), TableState::Insert);
+        EXPECT_FALSE(documents.isModified());
+        EXPECT_FALSE(documents.value(u"Posted").isNull());
+        documents.set(u"VendorID", vendor);
+        documents.post();
+        EXPECT_GT(documents.integer(u"DocumentID"), 0);
+        EXPECT_EQ(documents.integer(u"VendorID"), vendor);
+    }
+    EXPECT_EQ(documents.recordIndex(), 1) << "where the order puts it";
+    EXPECT_EQ(names(documents, u"VendorID"_s), u"1 2 3"_s);
+
+    documents.moveTo(1);
+    documents.insert();
+    documents.cancel();
+    EXPECT_EQ(documents.integer(u"VendorID"), 2) << "back on the record before";
+    documents.insert();
+    documents.next(); // untouched: dropped
+    EXPECT_EQ(documents.recordCount(), 3);
+    documents.insert();
+    documents.set(u"VendorID", 9);
+    documents.first(); // touched: saved
+    EXPECT_EQ(names(documents, u"VendorID"_s), u"1 2 3 9"_s);
+}
+
+TEST_P(RecordTest, AControlTableHoldsItsOneRow)
+{
+    Table control(database(), u"VendCtl"_s);
+    control.open();
+    control.edit(); // of an empty table: a new row
+    EXPECT_EQ(control.state(), TableState::Insert);
+    control.set(u"NextID", 1);
+    control.post();
+    for (int next = 2; next <= 4; ++next) {
+        control.edit();
+        EXPECT_EQ(control.state(), TableState::Edit);
+        control.set(u"NextID", next);
+        control.post();
+        EXPECT_EQ(control.integer(u"NextID"), next);
+    }
+    const auto other = store.anotherUser();
+    other->session.lockAttempts = 1;
+    Table theirs(other->database, u"VendCtl"_s);
+    theirs.open();
+    EXPECT_EQ(theirs.recordCount(), 1);
+    EXPECT_EQ(theirs.integer(u"NextID"), 4);
+    control.edit();
+    EXPECT_EQ(errorOf([&] { theirs.edit(); }), ErrorCode::RecordLocked);
+    control.set(u"NextID", 5);
+    control.post();
+    theirs.edit();
+    EXPECT_EQ(theirs.integer(u"NextID"), 5) << "read afresh";
+}
+
+TEST_P(RecordTest, RefusesValuesThatDoNotFitAndNamesTheField)
+{
+    addVendors();
+    Table table(database(), u"Vendor"_s);
+    table.open();
+    table.field(u"VendorName").label = u"Vendor name"_s;
+    table.edit();
+    const QString before = table.text(u"VendorName");
+    struct Case
+    {
+        QString field;
+        Value value;
+        QString named;
+    };
+    const Case cases[] = {
+        {u"VendorName"_s, QString(21, u'x'), u"Vendor name"_s},
+        {u"Days"_s, 40000, u"Days"_s},
+        {u"Since"_s, u"yesterday"_s, u"Since"_s},
+        {u"Balance"_s, u"1.2.3"_s, u"Balance"_s},
+    };
+    for (const Case &c : cases) {
+        try {
+            table.set(c.field, c.value);
+            ADD_FAILURE() << c.field.toStdString();
+        } catch (const EngineError &error) {
+            EXPECT_EQ(error.code(), ErrorCode::BadValue);
+            EXPECT_TRUE(error.text().contains(c.named, Qt::CaseInsensitive)) << error.what();
+        }
+    }
+    EXPECT_EQ(table.text(u"VendorName"), before);
+    table.set(u"VendorName", QString::fromUcs4(U"𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞𝄞")); // twenty characters, forty units
+    table.post();
+
+    table.field(u"Days").validate = [](const Value &value) {
+        if (value.toInt() > 90)
+            throw std::runtime_error("too late");
+    };
+    table.edit();
+    table.set(u"Days", 90);
+    EXPECT_THROW(table.set(u"Days", 91), std::runtime_error);
+    EXPECT_EQ(table.integer(u"Days"), 90);
+}
+
+TEST_P(RecordTest, AFailedPostKeepsTheRecordInEdit)
+{
+    addVendors();
+    Table table(database(), u"Vendor"_s);
+    table.uniqueFields = {u"VendorNo"_s};
+    table.open();
+    table.append();
+    EXPECT_EQ(errorOf([&] { table.post(); }), ErrorCode::RequiredField);
+    table.set(u"VendorID", 3);
+    table.set(u"VendorNo", u"1009"_s);
+    EXPECT_EQ(errorOf([&] { table.post(); }), ErrorCode::KeyViolation);
+    EXPECT_EQ(table.state(), TableState::Insert);
+    table.set(u"VendorID", 6);
+    table.set(u"VendorNo", u"1001"_s);
+    EXPECT_EQ(errorOf([&] { table.post(); }), ErrorCode::KeyViolation) << "the number is vendor 1's";
+    EXPECT_EQ(table.text(u"VendorNo"), u"1001"_s);
+    table.events.beforePost = [] { throw std::runtime_error("no"); };
+    EXPECT_THROW(table.post(), std::runtime_error);
+    table.events.beforePost = {};
+    table.set(u"VendorNo", u""_s); // free for everybody
+    table.post();
+    EXPECT_EQ(table.recordCount(), 6);
+
+    table.edit();
+    table.set(u"VendorNo", u"1006"_s);
+    table.post();
+    table.edit();
+    table.set(u"Days", 1); // its own number does not stand in its way
+    table.post();
+    table.edit();
+    table.set(u"VendorID", 2);
+    EXPECT_EQ(errorOf([&] { table.post(); }), ErrorCode::KeyViolation);
+    table.set(u"VendorID", 7);
+    table.post();
+    EXPECT_EQ(table.integer(u"VendorID"), 7);
+    EXPECT_EQ(names(table, u"VendorID"_s), u"1 2 3 4 5 7"_s);
+}
+
+TEST_P(RecordTest, OfTwoThatSaveOneNumberAtOnceOneIsRefused)
+{
+    constexpr int users = 4;
+    constexpr int rounds = 5;
+    for (int round = 0; round < rounds; ++round) {
+        std::latch start(users);
+        std::atomic<int> saved = 0;
+        std::atomic<int> refused = 0;
+        std::vector<std::thread> threads;
+        for (int user = 0; user < users; ++user) {
+            threads.emplace_back([&, user] {
+                const auto me = store.anotherUser(u"user%1"_s.arg(user));
+                Table table(me->database, u"Vendor"_s);
+                table.uniqueFields = {u"VendorNo"_s};
+                table.open();
+                table.append();
+                table.set(u"VendorID", 100 + round * users + user);
+                table.set(u"VendorNo", u"R%1"_s.arg(round));
+                start.arrive_and_wait();
+                const auto error = errorOf([&] { table.post(); });
+                ++(error ? refused : saved);
+                EXPECT_TRUE(!error || error == ErrorCode::KeyViolation);
+                table.cancel();
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        EXPECT_EQ(saved, 1);
+        EXPECT_EQ(refused, users - 1);
+    }
+}
+
+TEST_P(RecordTest, OnlyOneUserEditsARecord)
+{
+    addVendors();
+    const auto other = store.anotherUser();
+    other->session.lockAttempts = 3;
+    int waits = 0;
+    other->session.waitFor = [&](std::chrono::milliseconds) { ++waits; };
+    Table mine(database(), u"Vendor"_s);
+    Table second(database(), u"Vendor"_s); // of the same connection
+    Table theirs(other->database, u"Vendor"_s);
+    for (Table *table : {&mine, &second, &theirs})
+        table->open();
+    mine.edit();
+    EXPECT_EQ(errorOf([&] { theirs.edit(); }), ErrorCode::RecordLocked);
+    EXPECT_EQ(waits, 2);
+    EXPECT_EQ(errorOf([&] { second.edit(); }), ErrorCode::RecordLocked);
+    EXPECT_EQ(errorOf([&] { theirs.remove(); }), ErrorCode::RecordLocked);
+    EXPECT_EQ(errorOf([&] { theirs.lockTable(); }), ErrorCode::TableLocked);
+    theirs.next();
+    theirs.edit(); // another record
+    theirs.cancel();
+    mine.cancel();
+    theirs.first();
+    theirs.edit();
+    theirs.set(u"VendorName", u"Changed"_s);
+    theirs.post();
+    mine.edit();
+    EXPECT_EQ(mine.text(u"VendorName"), u"Changed"_s) << "read afresh under the lock";
+    mine.cancel();
+
+    theirs.lockTable();
+    EXPECT_EQ(errorOf([&] { mine.edit(); }), ErrorCode::TableLocked);
+    mine.append();
+    mine.set(u"VendorID", 50);
+    EXPECT_EQ(errorOf([&] { mine.post(); }), ErrorCode::TableLocked);
+    mine.cancel();
+    EXPECT_EQ(errorOf([&] { mine.removeAll(); }), ErrorCode::TableLocked);
+    EXPECT_EQ(mine.recordCount(), 5);
+    theirs.edit(); // its own lock does not stand in its way
+    theirs.set(u"Days", 1);
+    theirs.post();
+    theirs.unlockTable();
+    mine.edit();
+}
+
+TEST_P(RecordTest, SaysThatARecordWasDeletedMeanwhile)
+{
+    addVendors();
+    Table table(database(), u"Vendor"_s);
+    table.open();
+    table.moveTo(2);
+    store.execute(u"DELETE FROM Vendor WHERE VendorID = 3"_s);
+    EXPECT_EQ(errorOf([&] { table.edit(); }), ErrorCode::RecordGone);
+    EXPECT_EQ(table.state(), TableState::Browse);
+    table.moveTo(0);
+    table.edit();
+    table.set(u"Days", 9);
+    store.execute(u"DELETE FROM Vendor WHERE VendorID = 1"_s);
+    EXPECT_EQ(errorOf([&] { table.post(); }), ErrorCode::RecordGone);
+    EXPECT_TRUE(table.isEditing());
+    table.cancel();
+}
+
+TEST_P(RecordTest, OpensAsOthersAllow)
+{
+    const auto other = store.anotherUser();
+    Table mine(database(), u"Vendor"_s);
+    Table theirs(other->database, u"Vendor"_s);
+    mine.open();
+    theirs.exclusive = true;
+    EXPECT_EQ(errorOf([&] { theirs.open(); }), ErrorCode::TableInUse);
+    EXPECT_FALSE(theirs.isOpen());
+    mine.close();
+    theirs.open();
+    EXPECT_EQ(errorOf([&] { mine.open(); }), ErrorCode::TableInUse);
+    theirs.append();
+    theirs.set(u"VendorID", 1);
+    theirs.post();
+    theirs.close();
+    mine.readOnly = true;
+    mine.open();
+    for (const auto &call : std::initializer_list<std::function<void()>>{
+             [&] { mine.edit(); }, [&] { mine.append(); }, [&] { mine.remove(); }, [&] { mine.removeAll(); }})
+        EXPECT_EQ(errorOf(call), ErrorCode::ReadOnly);
+    EXPECT_EQ(errorOf([&] { mine.set(u"Days", 1); }), ErrorCode::WrongState);
+    Table missing(database(), u"NoSuch"_s);
+    EXPECT_EQ(errorOf([&] { missing.open(); }), ErrorCode::NoSuchTable);
+}
+
+TEST_P(RecordTest, DeletesTheRecordOrTheRowsOfTheSet)
+{
+    addDocuments();
+    Table lines(database(), u"Line"_s);
+    lines.open();
+    lines.findKey({3, 2});
+    lines.remove();
+    EXPECT_EQ(lines.number(u"Quantity"), 33);
+    lines.remove(); // the last: the one before becomes current
+    EXPECT_EQ(lines.number(u"Quantity"), 31);
+    lines.append();
+    lines.remove(); // a new record is dropped, nothing else
+    EXPECT_EQ(names(lines, u"Quantity"_s), u"11 21 22 31"_s);
+    lines.setRange({2}, {2});
+    while (!lines.isEmpty())
+        lines.remove();
+    EXPECT_EQ(errorOf([&] { lines.remove(); }), ErrorCode::WrongState);
+    lines.setRange({3}, {9});
+    lines.removeAll();
+    EXPECT_TRUE(lines.isEmpty());
+    lines.cancelRange();
+    EXPECT_EQ(names(lines, u"Quantity"_s), u"11"_s);
+    lines.setFilter(u"Quantity = 12"_s);
+    lines.setFiltered(true);
+    lines.removeAll();
+    lines.setFiltered(false);
+    EXPECT_EQ(lines.recordCount(), 1);
+}
+
+TEST_P(RecordTest, JoinsATransactionThatIsOpen)
+{
+    addVendors();
+    Table table(database(), u"Vendor"_s);
+    table.open();
+    {
+        Transaction transaction(database().connection());
+        table.edit();
+        table.set(u"Days", 77);
+        table.post();
+        table.last();
+        table.remove();
+    }
+    table.refresh();
+    EXPECT_EQ(table.recordCount(), 5);
+    table.first();
+    EXPECT_TRUE(table.value(u"Days").isNull()) << "rolled back with the transaction";
+}
+
+TEST_P(RecordTest, SignalsSayWhatIsNewOnce)
+{
+    addVendors();
+    Table table(database(), u"Vendor"_s);
+    table.open();
+    table.recordCount();
+    std::array<int, 6> seen{}; // list, row, current, field, state, scrolls
+    QObject::connect(&table, &DataSet::listChanged, [&] { ++seen[0]; });
+    QObject::connect(&table, &DataSet::rowChanged, [&] { ++seen[1]; });
+    QObject::connect(&table, &DataSet::currentChanged, [&] { ++seen[2]; });
+    QObject::connect(&table, &DataSet::fieldChanged, [&] { ++seen[3]; });
+    QObject::connect(&table, &DataSet::stateChanged, [&] { ++seen[4]; });
+    table.events.afterScroll = [&] { ++seen[5]; };
+    const auto counts = [&] { return std::exchange(seen, {}); };
+    using Counts = std::array<int, 6>;
+    table.next();
+    EXPECT_EQ(counts(), (Counts{0, 0, 1, 0, 0, 1}));
+    table.moveTo(1);
+    table.refresh();
+    EXPECT_EQ(counts(), (Counts{1, 0, 1, 0, 0, 0}));
+    table.recordCount();
+    table.recordIndex();
+    table.edit();
+    EXPECT_EQ(counts(), (Counts{0, 0, 0, 0, 1, 0}));
+    table.set(u"Days", 3);
+    table.set(u"Days", 3);
+    EXPECT_EQ(counts(), (Counts{0, 0, 0, 1, 0, 0}));
+    table.post();
+    EXPECT_EQ(counts(), (Counts{0, 1, 0, 0, 1, 0}));
+    EXPECT_EQ(table.rowAt(1)[7].toInt(), 3) << "the list shows what was saved";
+    table.edit();
+    table.cancel();
+    EXPECT_EQ(counts(), (Counts{0, 0, 1, 0, 2, 0}));
+    table.last();
+    counts();
+    table.next();
+    EXPECT_EQ(counts(), (Counts{0, 0, 0, 0, 0, 0}));
+}

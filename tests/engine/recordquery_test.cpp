@@ -1,0 +1,95 @@
+// Queries: as lists, read as a whole, and executed.
+
+#include "tests/engine/recordfixture.h"
+
+using namespace Engine;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto linesOfVendor =
+    "SELECT Line.DocumentID, Line.Seq, Line.Quantity, Vendor.VendorName, Vendor.VendorNo "
+    "FROM Line JOIN Document ON Document.DocumentID = Line.DocumentID "
+    "JOIN Vendor ON Vendor.VendorID = Document.VendorID WHERE Line.Quantity > :Least";
+
+} // namespace
+
+TEST_P(RecordTest, AQueryIsBrowsedLikeATable)
+{
+    addVendors();
+    addDocuments();
+    Query query(database(), QString::fromLatin1(linesOfVendor));
+    query.setKeyFields(u"DocumentID;Seq"_s);
+    query.setOrderBy(u"VendorName"_s);
+    EXPECT_EQ(errorOf([&] { query.open(); }), ErrorCode::WrongState) << "the parameter has no value";
+    query.setParameter(u"least", 11);
+    query.open();
+    EXPECT_EQ(names(query, u"Quantity"_s), u"31 32 33 21 22"_s);
+    EXPECT_TRUE(query.locate(u"Quantity"_s, {22}));
+    query.setOrderBy(u"VendorNo;Quantity"_s);
+    EXPECT_EQ(query.number(u"Quantity"), 22) << "the record stays current";
+    EXPECT_EQ(names(query, u"Quantity"_s), u"21 22 31 32 33"_s);
+    query.setFilter(u"(DocumentID = 3) AND (VendorName LIKE 'B%')"_s);
+    query.setFiltered(true);
+    EXPECT_EQ(names(query, u"Quantity"_s), u"31 32 33"_s);
+    EXPECT_EQ(errorOf([&] { query.setFilter(u"Nothing = 1"_s); }), ErrorCode::BadExpression);
+    query.moveTo(1);
+    const QList<qint64> key = query.currentKey();
+    EXPECT_EQ(key, (QList<qint64>{3, 2}));
+    store.execute(u"DELETE FROM Line WHERE Quantity = 31"_s);
+    query.refresh();
+    EXPECT_EQ(query.currentKey(), key);
+    EXPECT_EQ(query.recordIndex(), 0);
+    EXPECT_TRUE(query.moveToKey({3, 3}));
+    query.close();
+    query.setParameter(u"Least", 32);
+    query.open();
+    EXPECT_EQ(names(query, u"Quantity"_s), u"33"_s);
+}
+
+TEST_P(RecordTest, AQueryWithoutKeyIsReadAsItIsWhenOpened)
+{
+    addVendors();
+    Query query(database(),
+                u"SELECT VendorName, count(*) AS Number, max(Balance) AS Most FROM Vendor "
+                "GROUP BY VendorName ORDER BY max(Balance) DESC"_s);
+    query.addCalculated(u"Twice"_s, FieldType::Float, 0,
+                        [](const DataSet &set) { return set.number(u"Most") * 2; });
+    query.open();
+    store.execute(u"DELETE FROM Vendor"_s);
+    EXPECT_EQ(names(query, u"Most"_s), u"100 10.5 7 0 -3.25"_s);
+    query.first();
+    EXPECT_EQ(query.integer(u"Number"), 1);
+    EXPECT_EQ(query.number(u"Twice"), 200);
+    EXPECT_TRUE(
+        query.locate(u"VendorName"_s, {u"bel"_s}, LocateOption::CaseInsensitive | LocateOption::PartialKey));
+    EXPECT_EQ(query.recordIndex(), 4);
+    EXPECT_EQ(query.valueAt(1, query.fieldIndex(u"Twice")).toDouble(), 21);
+    EXPECT_FALSE(query.locate(u"VendorName"_s, {u"bell"_s}));
+    EXPECT_EQ(errorOf([&] { query.setFiltered(true); }), ErrorCode::WrongState);
+    query.refresh();
+    EXPECT_TRUE(query.isEmpty());
+}
+
+TEST_P(RecordTest, StatementsWithParametersAreExecuted)
+{
+    addVendors();
+    Query update(database());
+    update.setSql(
+        u"UPDATE Vendor SET VendorName = :Name, Notes = ':Name' WHERE VendorID = :ID OR VendorNo = :No;"_s);
+    update.setParameter(u"Name", u"it's"_s);
+    update.setParameter(u"ID", 1);
+    update.setParameter(u"No", u"1003"_s);
+    EXPECT_EQ(update.execute(), 2);
+    EXPECT_EQ(
+        singleValue(database(), u"SELECT max(VendorID) FROM Vendor WHERE VendorName = ?"_s, {u"it's"_s}).toInt(),
+        3);
+    EXPECT_EQ(singleValue(database(), u"SELECT Notes FROM Vendor WHERE VendorID = 1"_s).toText(), u":Name"_s);
+    EXPECT_TRUE(singleValue(database(), u"SELECT max(NextID) FROM VendCtl"_s).isNull());
+    EXPECT_TRUE(singleValue(database(), u"SELECT NextID FROM VendCtl"_s).isNull());
+
+    Query variants(database());
+    variants.setSql(u"SELECT 'file' AS Place"_s, u"SELECT 'server' AS Place"_s);
+    variants.open();
+    EXPECT_EQ(variants.text(u"Place"), store.store() == Store::Local ? u"file"_s : u"server"_s);
+}
