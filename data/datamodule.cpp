@@ -19,7 +19,7 @@ namespace Tallymere {
 namespace {
 
 // Two users who start for the first time at the same moment would both make the tables. The second waits for the
-// first, a few seconds at most: a start that hangs must not keep everybody else out.
+// first, for ten seconds at most: a start that hangs must not keep everybody else out.
 class StartLock
 {
 public:

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QStringView>
+#include <string>
 
 using namespace Qt::StringLiterals;
 using Engine::Table;
@@ -21,11 +22,11 @@ struct Assignment
 // The text's first characters, as many as the field holds; a character outside the basic plane is never split.
 QString fitted(const Table &table, const QString &field, const QString &text)
 {
-    const QList<uint> characters = text.toUcs4();
+    const std::u32string characters = text.toStdU32String();
     const int size = table.field(field).size;
-    if (size <= 0 || characters.size() <= size)
+    if (size <= 0 || characters.size() <= static_cast<size_t>(size))
         return text;
-    return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()), size);
+    return QString::fromStdU32String(characters.substr(0, static_cast<size_t>(size)));
 }
 
 bool isEmpty(const Value &value) { return value.isNull() || value == Value(u""_s); }
