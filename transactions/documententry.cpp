@@ -35,7 +35,13 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, Docum
     hookLines();
 }
 
-DocumentEntry::~DocumentEntry() = default;
+DocumentEntry::~DocumentEntry()
+{
+    // What is still being edited is dropped; the checks of the kind are gone already.
+    m_lines.events = {};
+    m_header.events = {};
+    close();
+}
 
 void DocumentEntry::open()
 {
@@ -70,9 +76,10 @@ void DocumentEntry::configureFields()
     m_lines.field(u"ItemID").validate = [this](const Value &itemId) { validateItem(itemId); };
 }
 
-void DocumentEntry::newDocument()
+void DocumentEntry::newDocument(const QString &number)
 {
     beginVisit();
+    m_givenNumber = number;
     m_header.append();
 }
 

@@ -9,7 +9,8 @@
 namespace Tallymere {
 
 // What tells one kind of document from another, as data.
-struct DocumentKind {
+struct DocumentKind
+{
     QString headerTable; // "IReceipt"
     QString lineTable; // "IRecDet"
     QString keyField; // of both: "ReceiptID"
@@ -31,7 +32,8 @@ struct DocumentKind {
 //
 // Lines are written as they are completed. The first change of a visit keeps a copy of all lines, from which
 // cancel() brings them back. Numbers are taken when a document is created and are not given back.
-class DocumentEntry {
+class DocumentEntry
+{
     Q_DECLARE_TR_FUNCTIONS(Tallymere::DocumentEntry)
 
 public:
@@ -49,7 +51,9 @@ public:
     void open();
     void close();
 
-    void newDocument(); // inserts a header with its numbers and defaults
+    // Inserts a header with its numbers and defaults. A number that is given stands as it is and leaves the counter
+    // of the numbers alone.
+    void newDocument(const QString &number = {});
     bool openDocument(int key); // false when there is no such document
 
     const DocumentKind &kind() const { return m_kind; }
@@ -88,6 +92,8 @@ public:
 
 protected:
     DocumentEntry(Engine::Database &database, Prompts &prompts, DocumentKind kind);
+
+    const QString &givenNumber() const { return m_givenNumber; } // of the new header; empty: from the counter
 
     Engine::Database &database() const { return m_header.database(); }
     Prompts &prompts() const { return m_prompts; }
@@ -143,6 +149,7 @@ private:
     bool m_linesKept = false;
     std::vector<Engine::Row> m_keptLines;
     QString m_lineColumn;
+    QString m_givenNumber;
 };
 
 } // namespace Tallymere

@@ -5,7 +5,8 @@
 namespace Tallymere {
 
 // The choices of a document list's filter dialog.
-struct DocumentFilter {
+struct DocumentFilter
+{
     enum class Posted { All, Yes, No };
 
     int warehouseId = 0; // 0: every location

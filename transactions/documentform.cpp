@@ -27,7 +27,11 @@ DocumentScreen::DocumentScreen(ScreenContext &context, std::unique_ptr<DocumentE
     m_entry->open();
 }
 
-DocumentScreen::~DocumentScreen() = default;
+DocumentScreen::~DocumentScreen()
+{
+    // The tables close with the entry and would call for a caption that is no more.
+    m_entry->header().disconnect(this);
+}
 
 void DocumentScreen::buildDocument(const QList<GridColumn> &columns)
 {
@@ -90,8 +94,7 @@ void DocumentScreen::showHeader()
     showCaption();
 }
 
-// --- lines
-// -----------------------------------------------------------------------------------------------------------
+// --- lines ------------------------------------------------------------------------------------------------------
 
 void DocumentScreen::beginLine()
 {
@@ -143,8 +146,7 @@ void DocumentScreen::searchItem()
     m_entry->chooseItem(search.GetItemID());
 }
 
-// --- saving, closing, keys
-// -------------------------------------------------------------------------------------------
+// --- saving, closing, keys --------------------------------------------------------------------------------------
 
 EntryScreen::Pending DocumentScreen::pending() const
 {

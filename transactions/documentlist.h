@@ -9,7 +9,8 @@
 namespace Tallymere {
 
 // The rules of a list of documents: its table with the names that it shows, and deleting.
-class DocumentList {
+class DocumentList
+{
 public:
     virtual ~DocumentList() = default;
     DocumentList(const DocumentList &) = delete;

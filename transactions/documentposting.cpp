@@ -38,7 +38,8 @@ std::vector<qint64> itemsOf(std::span<const PostingDocument> documents)
 } // namespace
 
 // The tables of a run, held from the construction on. Letting go frees them in the order they were taken.
-class DocumentPosting::Locks {
+class DocumentPosting::Locks
+{
 public:
     Locks(Engine::Database &database, const QList<PostingLock> &locks, Prompts &prompts)
     {

@@ -16,13 +16,15 @@ class StockBook;
 class Writes;
 
 // A table that a posting run holds for itself, and what is said when another user has it.
-struct PostingLock {
+struct PostingLock
+{
     QString table;
     QString refusal;
 };
 
 // What tells the posting of one kind of document from another, as data.
-struct PostingKind {
+struct PostingKind
+{
     QString headerTable; // "IReceipt"
     QString lineTable; // "IRecDet"
     QString keyField; // of both, and of the history rows
@@ -37,13 +39,15 @@ struct PostingKind {
 };
 
 // One line, with what posting needs of it.
-struct PostingLine {
+struct PostingLine
+{
     Engine::Value item;
     double quantity = 0; // as entered
     double unitCost = 0; // as entered
 };
 
-struct PostingDocument {
+struct PostingDocument
+{
     qint64 key = 0;
     Engine::Value year;
     Engine::Value period;
@@ -55,7 +59,8 @@ struct PostingDocument {
 };
 
 // What a line is posted to.
-struct PostingBooks {
+struct PostingBooks
+{
     StockBook &stock;
     HistoryWriter &history;
     Writes &writes;
@@ -70,7 +75,8 @@ struct PostingBooks {
 // Failure of the store: an EngineError. Documents before it stay posted; the one in hand stays marked, with what
 // was written before the failing statement. The end of the process or of the machine leaves whole documents only,
 // at most the last quarter of a second of them unposted. Use on the thread that opened the database.
-class DocumentPosting {
+class DocumentPosting
+{
     Q_DECLARE_TR_FUNCTIONS(Tallymere::DocumentPosting)
 
 public:

@@ -9,7 +9,8 @@
 namespace Tallymere {
 
 // Where the statements that change something go while a document is being posted.
-class Writes {
+class Writes
+{
 public:
     virtual ~Writes() = default;
     // Executes the statement as bound, in the order of the calls. A failure may come later.
@@ -24,7 +25,8 @@ public:
 // without waiting for their answers, and a failed one spoils its transaction: there the group is rolled back and
 // its documents are applied once more, statement by statement, up to the one that fails. Applying must therefore
 // depend on nothing but the store and what forgetReads drops.
-class GroupedWrites final : private Writes {
+class GroupedWrites final : private Writes
+{
 public:
     using Document = std::function<void(Writes &)>;
 
@@ -59,7 +61,8 @@ private:
 
 // While it lives, the file store has room for many writes: a larger cache and rarer checkpoints. Nothing on a
 // server.
-class BulkWriting {
+class BulkWriting
+{
 public:
     BulkWriting(Engine::Connection &connection, bool fileStore);
     ~BulkWriting();

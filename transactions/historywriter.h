@@ -12,7 +12,8 @@ class Writes;
 struct PostingDocument;
 
 // Appends rows to the transaction history for one kind of document.
-class HistoryWriter {
+class HistoryWriter
+{
 public:
     // The key field names the document in its history rows: "ReceiptID".
     HistoryWriter(Engine::Connection &connection, const QString &keyField, TransType transType);

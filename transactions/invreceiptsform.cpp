@@ -40,6 +40,11 @@ ListDescription TfrmInvReceipts::description()
                     {u"VendorName"_s, tr("Vendor"), 210},
                     {u"WarehouseName"_s, tr("Location"), 170},
                     {u"Posted"_s, tr("Posted"), 60}},
+        .buttons = {{u"btnNew"_s, tr("&New"), u"mnuNew"_s},
+                    {u"btnEdit"_s, tr("&Edit"), u"mnuEdit"_s},
+                    {u"btnDelete"_s, tr("&Delete"), u"mnuDelete"_s},
+                    {u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s},
+                    {u"btnFind"_s, tr("F&ind"), u"mnuFind"_s}},
         .menus = {{tr("&File"),
                    {{.name = u"mnuPrint"_s, .caption = tr("&Print...")},
                     {.name = u"mnuExit"_s,
@@ -50,27 +55,19 @@ ListDescription TfrmInvReceipts::description()
                    {{.name = u"mnuNew"_s,
                      .caption = tr("&New"),
                      .run = runs(&TfrmInvReceipts::btnNewClick),
-                     .button = u"btnNew"_s,
-                     .buttonCaption = tr("&New"),
                      .popupCaption = tr("New")},
                     {.name = u"mnuEdit"_s,
                      .caption = tr("&Edit"),
                      .run = runs(&TfrmInvReceipts::btnEditClick),
-                     .button = u"btnEdit"_s,
-                     .buttonCaption = tr("&Edit"),
                      .popupCaption = tr("Edit")},
                     {.name = u"mnuDelete"_s,
                      .caption = tr("&Delete"),
                      .run = runs(&TfrmInvReceipts::btnDeleteClick),
-                     .button = u"btnDelete"_s,
-                     .buttonCaption = tr("&Delete"),
                      .popupCaption = tr("Delete")},
                     {.name = u"mnuFind"_s,
                      .caption = tr("&Find..."),
                      .run = runs(&TfrmInvReceipts::btnFindClick),
                      .shortcut = QKeySequence(Qt::CTRL | Qt::Key_F),
-                     .button = u"btnFind"_s,
-                     .buttonCaption = tr("F&ind"),
                      .separatorBefore = true},
                     {.name = u"mnuPost"_s,
                      .caption = tr("&Post..."),
@@ -80,8 +77,6 @@ ListDescription TfrmInvReceipts::description()
                    {{.name = u"mnuFilter"_s,
                      .caption = tr("&Filter..."),
                      .run = runs(&TfrmInvReceipts::btnFilterClick),
-                     .button = u"btnFilter"_s,
-                     .buttonCaption = tr("Fil&ter"),
                      .checkable = true},
                     {.name = u"mnuRefresh"_s,
                      .caption = tr("&Refresh"),
@@ -97,6 +92,11 @@ TfrmInvReceipt *TfrmInvReceipts::makeReceipt()
     connect(screen, &TfrmInvReceipt::saved, this, [this](int key) {
         refreshList();
         moveToKey(key);
+    });
+    // Work goes on in the list, not in the main window that both belong to.
+    connect(screen, &QObject::destroyed, this, [this] {
+        if (isVisible())
+            activateWindow();
     });
     return screen;
 }

@@ -9,7 +9,8 @@ namespace Tallymere {
 // The arithmetic of receiving goods. Pure: no store. Costs and values have four decimals, quantities are in stock
 // units. An amount beyond the range of Money throws std::range_error.
 
-struct ItemCost {
+struct ItemCost
+{
     Engine::Money average; // weighted average cost of a unit
     double onHand = 0; // over all locations
 };

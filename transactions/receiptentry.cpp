@@ -57,11 +57,13 @@ void ReceiptEntry::assignNumbers()
     qint64 number = 0;
     takeNumbers(database(), u"ItemCtl"_s, [&](CounterRow &counters) {
         id = counters.take(u"NextInvReceiptID");
+        if (!givenNumber().isEmpty())
+            return;
         counters.restartOutside(u"NextInvReceiptNo", LowestNumber, HighestNumber, LowestNumber);
         number = counters.take(u"NextInvReceiptNo");
     });
     header().setDefault(u"ReceiptID", id);
-    header().setDefault(u"ReceiptNo", QString::number(number));
+    header().setDefault(u"ReceiptNo", givenNumber().isEmpty() ? QString::number(number) : givenNumber());
 }
 
 QString ReceiptEntry::caption() const

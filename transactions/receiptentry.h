@@ -5,7 +5,8 @@
 namespace Tallymere {
 
 // Entering one receipt of goods: IReceipt and IRecDet.
-class ReceiptEntry final : public DocumentEntry {
+class ReceiptEntry final : public DocumentEntry
+{
     Q_DECLARE_TR_FUNCTIONS(Tallymere::ReceiptEntry)
 
 public:

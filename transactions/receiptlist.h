@@ -5,7 +5,8 @@
 namespace Tallymere {
 
 // The list of all receipts, latest period and date first.
-class ReceiptList final : public DocumentList {
+class ReceiptList final : public DocumentList
+{
     Q_DECLARE_TR_FUNCTIONS(Tallymere::ReceiptList)
 
 public:

@@ -6,7 +6,8 @@ namespace Tallymere {
 
 // Posts every unposted receipt whose vendor exists: history, balances, weighted average cost. Costs in the vendor's
 // currency are converted to the home currency.
-class ReceiptPosting final : public DocumentPosting {
+class ReceiptPosting final : public DocumentPosting
+{
     Q_DECLARE_TR_FUNCTIONS(Tallymere::ReceiptPosting)
 
 public:

@@ -15,7 +15,8 @@ class Writes;
 // Quantities on hand and average costs during a posting run. Each is read once; every change is written at once.
 // Right only while the run holds the tables for itself. Grows with the items and locations that are touched, not
 // with the lines.
-class StockBook {
+class StockBook
+{
 public:
     explicit StockBook(Engine::Connection &connection);
 
@@ -33,11 +34,13 @@ public:
     void addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity, Writes &writes);
 
 private:
-    struct Balance {
+    struct Balance
+    {
         qint64 warehouse;
         double onHand;
     };
-    struct Item {
+    struct Item
+    {
         std::optional<double> average;
         std::vector<Balance> balances; // in the order of the locations, in which they are summed up
     };

@@ -8,7 +8,8 @@ namespace Tallymere {
 
 // The quantity on hand of every item at every location. A balance whose item or location has been removed shows
 // with empty names.
-class TotalsView {
+class TotalsView
+{
 public:
     enum class Sort { ItemNo, Description };
 

@@ -1,0 +1,116 @@
+// Lists over a history of a million rows: how long they take to open against reading their ordered keys by a raw
+// statement, to find a row, to show the last one and to jump. Usage: bench_lists [local|remote] [ROUNDS]
+
+#include "bench/benchdata.h"
+#include "engine/query.h"
+#include "engine/table.h"
+#include "transactions/totalsview.h"
+
+#include <cstdio>
+#include <QCoreApplication>
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int HistoryRows = 1'000'000;
+volatile double sink = 0; // what is read must be read
+
+double readKeys(Engine::Database &database, const QString &sql)
+{
+    return seconds([&] {
+        const Engine::StatementPtr keys = database.connection().prepare(sql);
+        std::vector<qint64> read;
+        while (keys->next())
+            for (int i = 0; i < keys->columnCount(); ++i)
+                read.push_back(keys->intAt(i));
+        sink = sink + static_cast<double>(read.size());
+    });
+}
+
+void readRow(const Engine::DataSet &list, int index) { sink = sink + list.rowAt(index).front().toDouble(); }
+
+struct Times
+{
+    std::vector<double> keys, firstRows, open, last, jump, find;
+
+    void print(Store store, const char *what) const
+    {
+        std::printf("%-6s %-8s: keys by a raw statement %6.1f ms, open to the first window %6.1f ms (%.2f), "
+                    "first rows alone %.1f ms, last row %.1f ms, jump %.2f ms, find %.1f ms\n",
+                    storeName(store), what, 1000 * median(keys), 1000 * median(open), median(open) / median(keys),
+                    1000 * median(firstRows), 1000 * median(last), 1000 * median(jump), 1000 * median(find));
+        std::fflush(stdout);
+    }
+};
+
+void measureList(Engine::DataSet &list, const std::function<void()> &find, Times &times)
+{
+    constexpr int Jumps = 50;
+    list.open();
+    times.firstRows.push_back(seconds([&] { sink = sink + static_cast<double>(list.firstRows(40).size()); }));
+    times.open.push_back(seconds([&] { readRow(list, 0); }));
+    times.last.push_back(seconds([&] { readRow(list, list.recordCount() - 1); }));
+    std::mt19937 random(3);
+    times.jump.push_back(seconds([&] {
+                             for (int i = 0; i < Jumps; ++i)
+                                 readRow(list,
+                                         static_cast<int>(random() % static_cast<unsigned>(list.recordCount())));
+                         })
+                         / Jumps);
+    times.find.push_back(seconds(find));
+    list.close();
+}
+
+void measureHistory(Engine::Database &database, Times &times)
+{
+    times.keys.push_back(
+        readKeys(database,
+                 u"SELECT IHistID FROM IHist ORDER BY GLYear DESC, GLPeriod DESC, TransDate DESC, IHistID DESC"_s));
+    Engine::Table table(database, u"IHist"_s);
+    table.setIndex(u"PERIODDATEDESC"_s);
+    table.addLookup(u"ItemNo"_s, Engine::FieldType::Text, 20, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
+    measureList(
+        table, [&table] { table.locate(u"ReceiptID"_s, {HistoryRows / 3}); }, times);
+}
+
+void measureTotals(Engine::Database &database, Times &times)
+{
+    times.keys.push_back(readKeys(database,
+                                  u"SELECT B.ItemID, B.WarehouseID FROM IBalance B "
+                                  "LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID "
+                                  "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID "
+                                  "ORDER BY I.ItemNo, W.WarehouseName, B.ItemID, B.WarehouseID"_s));
+    Tallymere::TotalsView view(database);
+    measureList(
+        view.query(), [&view] { view.query().locate(u"ItemID"_s, {4321}); }, times);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QString only = QCoreApplication::arguments().value(1);
+    const int rounds = std::max(1, QCoreApplication::arguments().value(2, u"5"_s).toInt());
+    for (const Store store : {Store::Local, Store::Remote}) {
+        if (!only.isEmpty() && only != QString::fromLatin1(storeName(store)).toLower())
+            continue;
+        BenchData::Size size;
+        size.history = HistoryRows;
+        const BenchData data(store, size);
+        const auto copy = data.copy();
+        Times history, totals;
+        resetPeakMemory();
+        const double before = currentMemory();
+        for (int round = 0; round < rounds; ++round) {
+            measureHistory(copy->database(), history);
+            measureTotals(copy->database(), totals);
+        }
+        history.print(store, "history");
+        totals.print(store, "totals");
+        std::printf("%-6s memory +%.0f MB\n", storeName(store), peakMemory() - before);
+    }
+    return 0;
+}

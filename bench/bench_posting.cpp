@@ -1,0 +1,113 @@
+// Posting of 100,000 receipt lines against the same row changes by raw prepared statements: in the file store one
+// transaction with the same cache, on the server statement by statement with a transaction for each document.
+// Prints the ratio of the medians. Usage: bench_posting [local|remote] [ROUNDS]
+
+#include "bench/benchdata.h"
+#include "bench/rawposting.h"
+#include "engine/query.h"
+#include "transactions/receiptposting.h"
+
+#include <cstdio>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Quiet final : public Tallymere::Prompts, public Tallymere::Progress
+{
+public:
+    void inform(const QString &) override { }
+    void warn(const QString &) override { }
+    void error(const QString &) override { }
+    bool confirm(const QString &, const QString &) override { return false; }
+    Tallymere::Answer yesNoCancel(const QString &) override { return Tallymere::Answer::Cancel; }
+    bool retry(const QString &) override { return false; }
+    void start(int) override { }
+    void step() override { }
+    void finish() override { }
+};
+
+// Sums that differ when any line was posted otherwise.
+QString result(Engine::Database &database)
+{
+    const auto one = [&database](const QString &sql) { return Engine::singleValue(database, sql).toText(); };
+    return one(u"SELECT count(*) FROM IHist"_s) + u' ' + one(u"SELECT sum(Quantity * UnitCost) FROM IHist"_s) + u' '
+        + one(u"SELECT sum(QtyOnHand * ItemID * WarehouseID) FROM IBalance"_s) + u' '
+        + one(u"SELECT round(sum(WgtAvgCost * ItemID) * 100) FROM Item"_s) + u' '
+        + one(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s);
+}
+
+struct Run
+{
+    double time = 0;
+    double memory = 0; // MB above what the process had before
+    QString result;
+};
+
+Run ours(const BenchData &data)
+{
+    const auto copy = data.copy();
+    copy->database().connection();
+    Quiet quiet;
+    Run run;
+    resetPeakMemory();
+    const double before = currentMemory();
+    run.time = seconds([&] { Tallymere::ReceiptPosting(copy->database()).run(quiet, quiet); });
+    run.memory = peakMemory() - before;
+    run.result = result(copy->database());
+    return run;
+}
+
+Run raw(Store store, const BenchData &data)
+{
+    const auto copy = data.copy();
+    Run run;
+    run.time = seconds(
+        [&] { store == Store::Local ? postRawSqlite(copy->location()) : postRawPostgres(copy->location()); });
+    run.result = result(copy->database());
+    return run;
+}
+
+void compare(Store store, int history, int rounds)
+{
+    BenchData::Size size;
+    size.receipts = 5'000;
+    size.history = history;
+    const BenchData data(store, size);
+    const int lines = size.receipts * size.linesEach;
+    std::vector<double> ourTimes, rawTimes;
+    double memory = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const Run theirs = raw(store, data);
+        const Run mine = ours(data);
+        ourTimes.push_back(mine.time);
+        rawTimes.push_back(theirs.time);
+        memory = std::max(memory, mine.memory);
+        if (mine.result != theirs.result)
+            std::printf("  DIFFERENT RESULTS\n  ours %s\n  raw  %s\n", qPrintable(mine.result),
+                        qPrintable(theirs.result));
+    }
+    const double our = median(ourTimes);
+    const double their = median(rawTimes);
+    std::printf("%-6s history %9d: ours %6.2f s (%7.0f lines/s), raw %6.2f s (%7.0f lines/s), ours/raw %.2f, "
+                "memory +%.0f MB\n",
+                storeName(store), history, our, lines / our, their, lines / their, our / their, memory);
+    std::fflush(stdout);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QString only = QCoreApplication::arguments().value(1);
+    const int rounds = std::max(1, QCoreApplication::arguments().value(2, u"3"_s).toInt());
+    for (const Store store : {Store::Local, Store::Remote}) {
+        if (!only.isEmpty() && only != QString::fromLatin1(storeName(store)).toLower())
+            continue;
+        for (const int history : {0, 1'000'000})
+            compare(store, history, rounds);
+    }
+    return 0;
+}

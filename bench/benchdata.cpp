@@ -1,0 +1,168 @@
+#include "bench/benchdata.h"
+
+#include "data/layouts.h"
+
+#include <chrono>
+#include <QCoreApplication>
+#include <QFile>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<TestUser> user(Store store, const QString &place)
+{
+    auto user = std::make_unique<TestUser>(u"bench"_s, u"Corvane"_s);
+    user->database.createIfMissing = true;
+    if (store == Store::Local) {
+        user->database.directory = place;
+        return user;
+    }
+    user->session.type = Engine::SessionType::Remote;
+    user->session.remoteAddress = u"127.0.0.1"_s;
+    user->session.remoteUser = user->session.remotePassword = u"zorvadin"_s;
+    user->database.remoteName = place;
+    return user;
+}
+
+void onServer(const QString &statement)
+{
+    user(Store::Remote, u"postgres"_s)->database.connection().execute(statement);
+}
+
+QString freshName()
+{
+    static int count = 0;
+    return u"bench_%1_%2"_s.arg(QCoreApplication::applicationPid()).arg(++count);
+}
+
+void pointToTestServer()
+{
+    QFile port(qEnvironmentVariable("TALLYMERE_TEST_POSTGRES") + "/port"_L1);
+    if (!port.open(QIODevice::ReadOnly))
+        throw std::runtime_error("Start a server: tests/support/postgres.sh start FOLDER, and set "
+                                 "TALLYMERE_TEST_POSTGRES to that folder.");
+    qputenv("PGPORT", port.readAll().trimmed());
+}
+
+} // namespace
+
+BenchData::BenchData(Store store, const Size &size)
+    : m_store(store)
+{
+    if (store == Store::Remote)
+        pointToTestServer();
+    m_source = store == Store::Local ? m_folder.path() : freshName();
+    const auto maker = user(store, m_source);
+    fill(maker->database, size);
+    maker->database.connection().execute(u"ANALYZE"_s);
+    maker->database.close();
+}
+
+BenchData::~BenchData()
+{
+    if (m_store == Store::Remote)
+        onServer(u"DROP DATABASE "_s + m_source);
+}
+
+void BenchData::fill(Engine::Database &database, const Size &size)
+{
+    for (const Engine::TableLayout *layout : Tallymere::Layouts::applied())
+        database.createTable(*layout);
+    Engine::Connection &connection = database.connection();
+    const auto insert = [&connection](const QString &into, const QString &values, int count) {
+        connection.execute(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %3) "
+                           "INSERT INTO %1 SELECT %2 FROM n WHERE i <= %3"_s.arg(into, values)
+                               .arg(count));
+    };
+    // Numbers that look random and repeat: multiples of a prime, taken modulo the range.
+    const QString item = u"((i % 100003) * 7919) % %1 + 1"_s.arg(size.items);
+    const QString location = u"((i % 100003) * 6151) % %1 + 1"_s.arg(size.locations);
+    connection.begin();
+    insert(u"Item (ItemID, ItemNo, ItemDescription, ItemTypeID, WgtAvgCost)"_s,
+           u"i, 'I' || i, 'Item ' || (i * 7919 % 10007), i % 6 + 1, 0"_s, size.items);
+    insert(u"Warehse (WarehouseID, WarehouseName)"_s, u"i, 'Location ' || i"_s, size.locations);
+    insert(u"Currency (CurrencyID, CurrencyName, ExchangeRate)"_s, u"i, 'Currency ' || i, 1.25 - 0.25 * i"_s, 2);
+    insert(u"Vendor (VendorID, VendorNo, VendorName, CurrencyID)"_s, u"i, 'V' || i, 'Vendor ' || i, i % 2 + 1"_s,
+           50);
+    insert(
+        u"IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, Posted)"_s,
+        u"i, '' || (1000 + i), 2026, i % 12 + 1, '2026-03-14', i % 50 + 1, i % %1 + 1, false"_s.arg(size.locations),
+        size.receipts);
+    insert(u"IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost)"_s,
+           u"(i - 1) / %1 + 1, (i - 1) % %1 + 1, %2, i % 9 + 1, 1 + i % 500 * 0.01"_s.arg(size.linesEach).arg(item),
+           size.receipts * size.linesEach);
+    insert(u"IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
+           "TransDescription, ReceiptID)"_s,
+           u"%1, %2, 2025, i % 12 + 1, 3, '2025-03-14', i % 9 + 1, 1 + i % 500 * 0.01, 'Receipt: ' || i, i"_s.arg(
+               item, location),
+           size.history);
+    connection.execute(u"INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) "
+                       "SELECT ItemID, WarehouseID, sum(Quantity) FROM IHist GROUP BY ItemID, WarehouseID"_s);
+    connection.execute(u"UPDATE Item SET WgtAvgCost = 2.5 WHERE ItemID IN (SELECT ItemID FROM IBalance)"_s);
+    connection.commit();
+}
+
+BenchData::Copy::Copy(Store store, const QString &source)
+    : m_store(store)
+    , m_name(store == Store::Local ? m_folder.path() : freshName())
+{
+    if (store == Store::Local)
+        QFile::copy(source + "/Corvane.sqlite"_L1, m_folder.filePath(u"Corvane.sqlite"_s));
+    else
+        onServer(u"CREATE DATABASE %1 TEMPLATE %2"_s.arg(m_name, source));
+    m_user = user(store, m_name);
+}
+
+BenchData::Copy::~Copy()
+{
+    m_user.reset();
+    if (m_store == Store::Remote)
+        onServer(u"DROP DATABASE %1 WITH (FORCE)"_s.arg(m_name));
+}
+
+QString BenchData::Copy::location() const
+{
+    if (m_store == Store::Local)
+        return m_folder.filePath(u"Corvane.sqlite"_s);
+    return u"host=127.0.0.1 user=zorvadin password=zorvadin dbname="_s + m_name;
+}
+
+namespace {
+
+double statusLine(const QByteArray &name)
+{
+    QFile status(u"/proc/self/status"_s);
+    if (status.open(QIODevice::ReadOnly))
+        for (const QByteArray &line : status.readAll().split('\n'))
+            if (line.startsWith(name))
+                return line.simplified().split(' ').value(1).toDouble() / 1024;
+    return 0;
+}
+
+} // namespace
+
+double peakMemory() { return statusLine("VmHWM:"); }
+
+double currentMemory() { return statusLine("VmRSS:"); }
+
+void resetPeakMemory()
+{
+    QFile clear(u"/proc/self/clear_refs"_s);
+    if (clear.open(QIODevice::WriteOnly))
+        clear.write("5");
+}
+
+double seconds(const std::function<void()> &work)
+{
+    const auto begun = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begun).count();
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}

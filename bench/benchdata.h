@@ -1,0 +1,59 @@
+#pragma once
+
+#include "tests/support/teststore.h"
+
+#include <memory>
+#include <QString>
+#include <QTemporaryDir>
+
+// Databases of a given size to measure on, each made once and copied for every run. The same size gives the same
+// rows.
+class BenchData
+{
+public:
+    struct Size
+    {
+        int items = 5'000;
+        int locations = 10;
+        int receipts = 0; // unposted
+        int linesEach = 20;
+        int history = 0; // rows posted earlier
+    };
+
+    BenchData(Store store, const Size &size);
+    ~BenchData();
+
+    // A copy of its own, gone with the object.
+    class Copy
+    {
+    public:
+        Copy(Store store, const QString &source);
+        ~Copy();
+        Engine::Database &database() { return m_user->database; }
+        // What the raw statements connect to: the file's path, or a conninfo string.
+        QString location() const;
+        void close() { m_user->database.close(); }
+
+    private:
+        Store m_store;
+        QTemporaryDir m_folder;
+        QString m_name;
+        std::unique_ptr<TestUser> m_user;
+    };
+    std::unique_ptr<Copy> copy() const { return std::make_unique<Copy>(m_store, m_source); }
+
+private:
+    void fill(Engine::Database &database, const Size &size);
+
+    Store m_store;
+    QTemporaryDir m_folder;
+    QString m_source; // folder or database name
+};
+
+// The process's peak memory in MB, and starting to watch it anew.
+double peakMemory();
+double currentMemory();
+void resetPeakMemory();
+
+double seconds(const std::function<void()> &work);
+double median(std::vector<double> values);

@@ -1,0 +1,283 @@
+#include "bench/rawposting.h"
+
+#include "transactions/receiptcost.h"
+
+#include <cstdlib>
+#include <libpq-fe.h>
+#include <optional>
+#include <sqlite3.h>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+using Engine::Money;
+
+namespace {
+
+constexpr const char *unposted =
+    "SELECT I.ReceiptID, I.ReceiptNo, I.GLYear, I.GLPeriod, I.ReceiptDate, I.WarehouseID, C.ExchangeRate "
+    "FROM IReceipt I INNER JOIN Vendor V ON I.VendorID = V.VendorID "
+    "LEFT OUTER JOIN Currency C ON V.CurrencyID = C.CurrencyID WHERE I.Posted = false ORDER BY I.ReceiptID";
+
+// One statement of either store: texts in, texts out would distort SQLite, so each store has its own binding.
+struct Step
+{
+    const char *text;
+};
+constexpr Step mark{"UPDATE IReceipt SET Posted = true WHERE ReceiptID = $1"};
+constexpr Step lines{"SELECT ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = $1 ORDER BY Seq"};
+constexpr Step history{"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, "
+                       "UnitCost, TransDescription, ReceiptID) VALUES ($1, $2, $3, $4, 3, $5, $6, $7, $8, $9)"};
+constexpr Step sum{"SELECT sum(QtyOnHand) FROM IBalance WHERE ItemID = $1"};
+constexpr Step cost{"SELECT WgtAvgCost FROM Item WHERE ItemID = $1"};
+constexpr Step setCost{"UPDATE Item SET WgtAvgCost = $1 WHERE ItemID = $2"};
+constexpr Step balance{"SELECT QtyOnHand FROM IBalance WHERE ItemID = $1 AND WarehouseID = $2"};
+constexpr Step setBalance{"UPDATE IBalance SET QtyOnHand = $1 WHERE ItemID = $2 AND WarehouseID = $3"};
+constexpr Step addBalance{"INSERT INTO IBalance (QtyOnHand, ItemID, WarehouseID) VALUES ($1, $2, $3)"};
+
+struct Receipt
+{
+    long long id;
+    std::string number;
+    int year, period;
+    std::string date;
+    int warehouse;
+    double rate;
+};
+struct Line
+{
+    int item;
+    double quantity, unitCost;
+};
+
+// --- SQLite
+// ---------------------------------------------------------------------------------------------------------
+
+class SqliteRun
+{
+public:
+    explicit SqliteRun(const QString &file)
+    {
+        check(sqlite3_open(file.toUtf8().constData(), &m_db));
+        run("PRAGMA cache_size = -262144; PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 16000");
+        for (const Step *step :
+             {&mark, &lines, &history, &sum, &cost, &setCost, &balance, &setBalance, &addBalance})
+            m_statements.emplace_back(step->text, prepare(step->text));
+    }
+    ~SqliteRun()
+    {
+        for (const auto &statement : m_statements)
+            sqlite3_finalize(statement.second);
+        sqlite3_close(m_db);
+    }
+
+    void post()
+    {
+        run("BEGIN IMMEDIATE");
+        for (const Receipt &receipt : receipts())
+            postReceipt(receipt);
+        run("COMMIT");
+    }
+
+private:
+    void check(int code)
+    {
+        if (code != SQLITE_OK && code != SQLITE_DONE && code != SQLITE_ROW)
+            throw std::runtime_error(sqlite3_errmsg(m_db));
+    }
+    void run(const char *text) { check(sqlite3_exec(m_db, text, nullptr, nullptr, nullptr)); }
+    sqlite3_stmt *prepare(const char *text)
+    {
+        sqlite3_stmt *statement = nullptr;
+        check(sqlite3_prepare_v2(m_db, text, -1, &statement, nullptr));
+        return statement;
+    }
+    sqlite3_stmt *statement(const Step &step)
+    {
+        for (const auto &[text, statement] : m_statements)
+            if (text == step.text) {
+                sqlite3_reset(statement);
+                return statement;
+            }
+        return nullptr;
+    }
+    void execute(sqlite3_stmt *statement) { check(sqlite3_step(statement)); }
+    std::optional<double> single(sqlite3_stmt *statement)
+    {
+        if (sqlite3_step(statement) != SQLITE_ROW)
+            return std::nullopt;
+        return sqlite3_column_double(statement, 0);
+    }
+
+    static std::string text(sqlite3_stmt *row, int column)
+    {
+        return reinterpret_cast<const char *>(sqlite3_column_text(row, column));
+    }
+    std::vector<Receipt> receipts()
+    {
+        std::vector<Receipt> all;
+        sqlite3_stmt *row = prepare(unposted);
+        while (sqlite3_step(row) == SQLITE_ROW)
+            all.push_back({sqlite3_column_int64(row, 0), text(row, 1), sqlite3_column_int(row, 2),
+                           sqlite3_column_int(row, 3), text(row, 4), sqlite3_column_int(row, 5),
+                           sqlite3_column_double(row, 6)});
+        sqlite3_finalize(row);
+        return all;
+    }
+
+    void postReceipt(const Receipt &receipt)
+    {
+        sqlite3_stmt *marking = statement(mark);
+        sqlite3_bind_int64(marking, 1, receipt.id);
+        execute(marking);
+        sqlite3_stmt *row = statement(lines);
+        sqlite3_bind_int64(row, 1, receipt.id);
+        while (sqlite3_step(row) == SQLITE_ROW)
+            postLine(receipt,
+                     {sqlite3_column_int(row, 0), sqlite3_column_double(row, 1), sqlite3_column_double(row, 2)});
+    }
+
+    void postLine(const Receipt &receipt, const Line &line)
+    {
+        const Money unit = Tallymere::lineCost(Money::fromDouble(line.unitCost), receipt.rate);
+        const std::string description = "Receipt: " + receipt.number;
+        sqlite3_stmt *insert = statement(history);
+        sqlite3_bind_int(insert, 1, line.item);
+        sqlite3_bind_int(insert, 2, receipt.warehouse);
+        sqlite3_bind_int(insert, 3, receipt.year);
+        sqlite3_bind_int(insert, 4, receipt.period);
+        sqlite3_bind_text(insert, 5, receipt.date.c_str(), -1, SQLITE_TRANSIENT);
+        sqlite3_bind_double(insert, 6, line.quantity);
+        sqlite3_bind_double(insert, 7, unit.toDouble());
+        sqlite3_bind_text(insert, 8, description.c_str(), -1, SQLITE_TRANSIENT);
+        sqlite3_bind_int64(insert, 9, receipt.id);
+        execute(insert);
+
+        sqlite3_stmt *total = statement(sum);
+        sqlite3_bind_int(total, 1, line.item);
+        const double onHand = single(total).value_or(0);
+        sqlite3_stmt *average = statement(cost);
+        sqlite3_bind_int(average, 1, line.item);
+        if (const auto before = single(average))
+            if (const auto after =
+                    Tallymere::averageAfterReceipt({Money::fromDouble(*before), onHand}, line.quantity, unit)) {
+                sqlite3_stmt *update = statement(setCost);
+                sqlite3_bind_double(update, 1, after->toDouble());
+                sqlite3_bind_int(update, 2, line.item);
+                execute(update);
+            }
+
+        sqlite3_stmt *old = statement(balance);
+        sqlite3_bind_int(old, 1, line.item);
+        sqlite3_bind_int(old, 2, receipt.warehouse);
+        const auto held = single(old);
+        sqlite3_reset(old);
+        sqlite3_stmt *write = statement(held ? setBalance : addBalance);
+        sqlite3_bind_double(write, 1, held.value_or(0) + line.quantity);
+        sqlite3_bind_int(write, 2, line.item);
+        sqlite3_bind_int(write, 3, receipt.warehouse);
+        execute(write);
+    }
+
+    sqlite3 *m_db = nullptr;
+    std::vector<std::pair<const char *, sqlite3_stmt *>> m_statements;
+};
+
+// --- PostgreSQL
+// -----------------------------------------------------------------------------------------------------
+
+class PostgresRun
+{
+public:
+    explicit PostgresRun(const QString &conninfo)
+        : m_link(PQconnectdb(conninfo.toUtf8().constData()))
+    {
+        for (const Step *step :
+             {&mark, &lines, &history, &sum, &cost, &setCost, &balance, &setBalance, &addBalance})
+            PQclear(checked(PQprepare(m_link, step->text, step->text, 0, nullptr)));
+    }
+    ~PostgresRun() { PQfinish(m_link); }
+
+    void post()
+    {
+        PGresult *rows = checked(PQexec(m_link, unposted));
+        std::vector<Receipt> receipts;
+        for (int i = 0; i < PQntuples(rows); ++i)
+            receipts.push_back({std::atoll(PQgetvalue(rows, i, 0)), PQgetvalue(rows, i, 1),
+                                std::atoi(PQgetvalue(rows, i, 2)), std::atoi(PQgetvalue(rows, i, 3)),
+                                PQgetvalue(rows, i, 4), std::atoi(PQgetvalue(rows, i, 5)),
+                                std::atof(PQgetvalue(rows, i, 6))});
+        PQclear(rows);
+        for (const Receipt &receipt : receipts) {
+            PQclear(checked(PQexec(m_link, "BEGIN")));
+            postReceipt(receipt);
+            PQclear(checked(PQexec(m_link, "COMMIT")));
+        }
+    }
+
+private:
+    PGresult *checked(PGresult *result)
+    {
+        const ExecStatusType status = PQresultStatus(result);
+        if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK)
+            throw std::runtime_error(PQresultErrorMessage(result));
+        return result;
+    }
+    PGresult *ask(const Step &step, const std::vector<std::string> &parameters)
+    {
+        std::vector<const char *> values;
+        for (const std::string &parameter : parameters)
+            values.push_back(parameter.c_str());
+        return checked(
+            PQexecPrepared(m_link, step.text, static_cast<int>(values.size()), values.data(), nullptr, nullptr, 0));
+    }
+    void tell(const Step &step, const std::vector<std::string> &parameters) { PQclear(ask(step, parameters)); }
+    std::optional<double> single(const Step &step, const std::vector<std::string> &parameters)
+    {
+        PGresult *rows = ask(step, parameters);
+        std::optional<double> value;
+        if (PQntuples(rows) > 0)
+            value = std::atof(PQgetvalue(rows, 0, 0));
+        PQclear(rows);
+        return value;
+    }
+    static std::string number(double value) { return QByteArray::number(value, 'g', 17).toStdString(); }
+
+    void postReceipt(const Receipt &receipt)
+    {
+        const std::string id = std::to_string(receipt.id);
+        tell(mark, {id});
+        PGresult *rows = ask(lines, {id});
+        for (int i = 0; i < PQntuples(rows); ++i)
+            postLine(receipt,
+                     {std::atoi(PQgetvalue(rows, i, 0)), std::atof(PQgetvalue(rows, i, 1)),
+                      std::atof(PQgetvalue(rows, i, 2))});
+        PQclear(rows);
+    }
+
+    void postLine(const Receipt &receipt, const Line &line)
+    {
+        const Money unit = Tallymere::lineCost(Money::fromDouble(line.unitCost), receipt.rate);
+        const std::string item = std::to_string(line.item);
+        const std::string warehouse = std::to_string(receipt.warehouse);
+        tell(history,
+             {item, warehouse, std::to_string(receipt.year), std::to_string(receipt.period), receipt.date,
+              number(line.quantity), number(unit.toDouble()), "Receipt: " + receipt.number,
+              std::to_string(receipt.id)});
+        const double onHand = single(sum, {item}).value_or(0);
+        if (const auto before = single(cost, {item}))
+            if (const auto after =
+                    Tallymere::averageAfterReceipt({Money::fromDouble(*before), onHand}, line.quantity, unit))
+                tell(setCost, {number(after->toDouble()), item});
+        const auto held = single(balance, {item, warehouse});
+        tell(held ? setBalance : addBalance, {number(held.value_or(0) + line.quantity), item, warehouse});
+    }
+
+    PGconn *m_link;
+};
+
+} // namespace
+
+void postRawSqlite(const QString &file) { SqliteRun(file).post(); }
+
+void postRawPostgres(const QString &conninfo) { PostgresRun(conninfo).post(); }

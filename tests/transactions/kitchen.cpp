@@ -1,0 +1,101 @@
+#include "tests/transactions/kitchen.h"
+
+#include "data/layouts.h"
+#include "engine/query.h"
+
+using namespace Qt::StringLiterals;
+using Engine::Value;
+
+Kitchen::Kitchen(Store store)
+    : TestStore(store)
+{
+    for (const Engine::TableLayout *layout : Tallymere::Layouts::applied())
+        database().createTable(*layout);
+    execute(uR"(
+        INSERT INTO Company (CompanyNo, FiscalYear, DefaultPeriodYYYY, DefaultPeriodPP) VALUES (1, 2026, 2026, 3);
+        INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (1, 'Office'), (2, 'Freezer');
+        INSERT INTO Currency (CurrencyID, CurrencyName, ExchangeRate)
+            VALUES (1, 'Home', 1), (2, 'Far', 0.75), (3, 'New', NULL);
+        INSERT INTO Vendor (VendorID, VendorNo, VendorName, CurrencyID, Suspended)
+            VALUES (1, 'V1', 'First', 1, false), (2, 'V2', 'Second', 2, NULL), (3, 'V3', 'Third', 3, false),
+                   (4, 'V4', 'Fourth', 1, true), (5, 'V5', 'Fifth', NULL, false);
+        INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (1, 'Food'), (2, 'Goods');
+        INSERT INTO Item (ItemID, ItemNo, ItemDescription, ItemTypeID, Suspended)
+            VALUES (1, 'A10', 'Apples', 1, false), (2, 'A11', 'Bread', 1, NULL), (3, 'B1', 'apricots', 2, false),
+                   (4, 'X9', 'Yeast', 2, true);
+    )"_s);
+}
+
+void Kitchen::addReceipt(int id, int vendor, int warehouse, const QList<Line> &lines, const QString &order)
+{
+    execute(
+        u"INSERT INTO IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, PurchaseOrderNo, VendorID, "
+        "WarehouseID, Posted) VALUES (%1, '%2', 2026, 3, '2026-03-14', '%5', %3, %4, false)"_s.arg(id)
+            .arg(1000 + id)
+            .arg(vendor)
+            .arg(warehouse)
+            .arg(order));
+    int seq = 0;
+    for (const Line &line : lines)
+        execute(u"INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (%1, %2, %3, %4, %5)"_s
+                    .arg(id)
+                    .arg(++seq)
+                    .arg(line.item)
+                    .arg(line.quantity)
+                    .arg(line.unitCost));
+}
+
+void Kitchen::setStock(int item, int warehouse, double onHand, double averageCost)
+{
+    execute(u"INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (%1, %2, %3); "
+            "UPDATE Item SET WgtAvgCost = %4 WHERE ItemID = %1"_s.arg(item)
+                .arg(warehouse)
+                .arg(onHand)
+                .arg(averageCost));
+}
+
+Value Kitchen::value(const QString &sql) { return Engine::singleValue(database(), sql); }
+
+double Kitchen::onHand(int item, int warehouse)
+{
+    return number(
+        u"SELECT QtyOnHand FROM IBalance WHERE ItemID = %1 AND WarehouseID = %2"_s.arg(item).arg(warehouse));
+}
+
+double Kitchen::averageCost(int item)
+{
+    return number(u"SELECT WgtAvgCost FROM Item WHERE ItemID = %1"_s.arg(item));
+}
+
+QStringList Kitchen::rows(const QString &sql)
+{
+    const Engine::StatementPtr statement = database().connection().prepare(sql);
+    QStringList rows;
+    while (statement->next()) {
+        QStringList values;
+        for (int i = 0; i < statement->columnCount(); ++i)
+            values.append(statement->valueAt(i, statement->columnType(i)).toText());
+        rows.append(values.join(u'|'));
+    }
+    return rows;
+}
+
+bool ScriptedPrompts::confirm(const QString &title, const QString &text)
+{
+    said.append(title + ": "_L1 + text);
+    return ok;
+}
+
+Tallymere::Answer ScriptedPrompts::yesNoCancel(const QString &text)
+{
+    said.append(text);
+    return answer;
+}
+
+bool ScriptedPrompts::retry(const QString &text)
+{
+    said.append(text);
+    if (onRetry)
+        onRetry();
+    return retries-- > 0;
+}

@@ -1,0 +1,150 @@
+#include "engine/error.h"
+#include "engine/locks.h"
+#include "frame/shared/ruleerror.h"
+#include "tests/transactions/kitchen.h"
+#include "transactions/receiptposting.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::EngineError;
+
+namespace {
+
+// Three receipts of three lines each, all of item 1 at location 1 with quantities 1, 2, 4, 8 ... so that the
+// balance tells which lines have been applied. The second receipt's second line (quantity 16) is the one that
+// fails.
+class FailingPosting : public testing::TestWithParam<Store>
+{
+protected:
+    FailingPosting()
+    {
+        for (int id = 1; id <= 3; ++id) {
+            QList<Kitchen::Line> lines;
+            for (int i = 0; i < 3; ++i)
+                lines.append({1, static_cast<double>(1 << ((id - 1) * 3 + i)), 1.00});
+            kitchen.addReceipt(id, 1, 1, lines);
+        }
+    }
+
+    // The store raises an error before the write for which the condition over NEW holds.
+    void failOn(const QString &event, const QString &table, const QString &condition)
+    {
+        if (GetParam() == Store::Local)
+            kitchen.execute(u"CREATE TRIGGER broken BEFORE %1 ON %2 WHEN %3 BEGIN SELECT RAISE(ABORT, 'no luck'); "
+                            "END"_s.arg(event, table, condition));
+        else
+            kitchen.execute(u"CREATE FUNCTION fail() RETURNS trigger LANGUAGE plpgsql AS "
+                            "$$ BEGIN RAISE EXCEPTION 'no luck'; END $$; "
+                            "CREATE TRIGGER broken BEFORE %1 ON %2 FOR EACH ROW WHEN (%3) "
+                            "EXECUTE FUNCTION fail()"_s.arg(event, table, condition));
+    }
+    void mend(const QString &table)
+    {
+        if (GetParam() == Store::Local)
+            kitchen.execute(u"DROP TRIGGER broken"_s);
+        else
+            kitchen.execute(u"DROP TRIGGER broken ON %1; DROP FUNCTION fail"_s.arg(table));
+    }
+
+    void post()
+    {
+        ScriptedPrompts prompts;
+        CountedProgress progress;
+        ReceiptPosting(kitchen.database()).run(prompts, progress);
+    }
+    QString posted()
+    {
+        return kitchen.rows(u"SELECT ReceiptID FROM IReceipt WHERE Posted = true ORDER BY 1"_s).join(u',');
+    }
+    QString history() { return kitchen.rows(u"SELECT Quantity FROM IHist ORDER BY IHistID"_s).join(u','); }
+    void expectNoLocks()
+    {
+        const auto other = kitchen.anotherUser();
+        for (const QString &table : {u"IReceipt"_s, u"IBalance"_s, u"Item"_s})
+            EXPECT_TRUE(other->database.connection().locks().tryLockTable(table)) << table.toStdString();
+    }
+
+    Kitchen kitchen{GetParam()};
+};
+INSTANTIATE_TEST_SUITE_P(Stores, FailingPosting, bothStores, nameOfStore);
+
+struct FailureCase
+{
+    const char *name;
+    QString event;
+    QString table;
+    QString condition;
+    QString posted; // afterwards
+    QString history;
+    double onHand;
+};
+
+TEST_P(FailingPosting, KeepsWhatWasWrittenBeforeTheFailingStatement)
+{
+    const QList<FailureCase> cases = {
+        {"marking", u"UPDATE"_s, u"IReceipt"_s, u"NEW.ReceiptID = 2"_s, u"1"_s, u"1,2,4"_s, 7},
+        {"history", u"INSERT"_s, u"IHist"_s, u"NEW.Quantity = 16"_s, u"1,2"_s, u"1,2,4,8"_s, 15},
+        {"balance", u"UPDATE"_s, u"IBalance"_s, u"NEW.QtyOnHand = 31"_s, u"1,2"_s, u"1,2,4,8,16"_s, 15},
+        {"first balance", u"INSERT"_s, u"IBalance"_s, u"NEW.QtyOnHand = 1"_s, u"1"_s, u"1"_s, 0},
+    };
+    for (const FailureCase &c : cases) {
+        SCOPED_TRACE(c.name);
+        kitchen.execute(u"DELETE FROM IBalance; DELETE FROM IHist; UPDATE IReceipt SET Posted = false"_s);
+        failOn(c.event, c.table, c.condition);
+
+        EXPECT_THROW(post(), EngineError);
+
+        EXPECT_EQ(posted(), c.posted);
+        EXPECT_EQ(history(), c.history);
+        EXPECT_EQ(kitchen.onHand(1, 1), c.onHand);
+        EXPECT_FALSE(kitchen.database().connection().inTransaction());
+        expectNoLocks();
+        mend(c.table);
+    }
+}
+
+TEST_P(FailingPosting, ASecondRunPostsTheRest)
+{
+    failOn(u"INSERT"_s, u"IHist"_s, u"NEW.Quantity = 16"_s);
+    EXPECT_THROW(post(), EngineError);
+    mend(u"IHist"_s);
+
+    post();
+
+    EXPECT_EQ(posted(), u"1,2,3");
+    EXPECT_EQ(history(), u"1,2,4,8,64,128,256"); // 16 and 32 are lost: their receipt counts as posted
+    EXPECT_EQ(kitchen.onHand(1, 1), 1 + 2 + 4 + 8 + 64 + 128 + 256);
+}
+
+TEST_P(FailingPosting, OverflowOfAnAmountStopsAtItsLine)
+{
+    kitchen.execute(u"UPDATE IRecDet SET UnitCost = 1e18 WHERE ReceiptID = 2 AND Seq = 3"_s);
+    try {
+        post();
+        FAIL() << "it ran";
+    } catch (const RuleError &error) {
+        EXPECT_EQ(error.message(), u"\"Receipt: 1002\" has an amount that is too large.");
+    }
+    EXPECT_EQ(posted(), u"1,2");
+    EXPECT_EQ(history(), u"1,2,4,8,16");
+    EXPECT_EQ(kitchen.onHand(1, 1), 31);
+    expectNoLocks();
+}
+
+// The file store undoes a whole transaction by itself when the disk is full: the last group is the state.
+TEST(FailingPostingLocal, AStoreThatRollsBackLeavesWholeDocuments)
+{
+    Kitchen kitchen(Store::Local);
+    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}, {1, 2, 1}});
+    kitchen.execute(u"CREATE TRIGGER broken BEFORE INSERT ON IHist WHEN NEW.Quantity = 2 "
+                    "BEGIN SELECT RAISE(ROLLBACK, 'no luck'); END"_s);
+    ScriptedPrompts prompts;
+    CountedProgress progress;
+    EXPECT_THROW(ReceiptPosting(kitchen.database()).run(prompts, progress), EngineError);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), 0);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s), 0);
+}
+
+} // namespace

@@ -1,0 +1,116 @@
+#include "engine/locks.h"
+#include "tests/transactions/otheruser.h"
+#include "transactions/receiptposting.h"
+
+#include <gtest/gtest.h>
+#include <QSet>
+#include <QThread>
+#include <random>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class Processes : public testing::TestWithParam<Store>
+{
+};
+INSTANTIATE_TEST_SUITE_P(Stores, Processes, bothStores, nameOfStore);
+
+// The file store is the quicker one: it must not be done before it is killed.
+int receipts(Store store) { return store == Store::Local ? 6000 : 1500; }
+constexpr int LinesEach = 10;
+
+void addManyReceipts(Kitchen &kitchen)
+{
+    std::mt19937 random(7);
+    const auto upTo = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
+    Engine::Connection &connection = kitchen.database().connection();
+    connection.begin();
+    for (int id = 1; id <= receipts(kitchen.store()); ++id) {
+        QList<Kitchen::Line> lines;
+        for (int i = 0; i < LinesEach; ++i)
+            lines.append({1 + upTo(3), 1.0 + upTo(9), 0.01 * (1 + upTo(500))});
+        kitchen.addReceipt(id, 1 + upTo(2), 1 + upTo(2), lines);
+    }
+    connection.commit();
+}
+
+QStringList stock(Kitchen &kitchen)
+{
+    return kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s)
+        + kitchen.rows(u"SELECT ItemID, WgtAvgCost FROM Item ORDER BY 1"_s);
+}
+
+// Every receipt has all of its lines in the history or none, as its flag says, and the balances say the same.
+void expectWholeDocuments(Kitchen &kitchen)
+{
+    EXPECT_EQ(
+        kitchen.rows(u"SELECT I.ReceiptID FROM IReceipt I WHERE (SELECT count(*) FROM IHist H WHERE "
+                     "H.ReceiptID = I.ReceiptID) <> CASE WHEN I.Posted = true THEN %1 ELSE 0 END"_s.arg(LinesEach)),
+        QStringList());
+    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, WarehouseID, sum(Quantity) FROM IHist GROUP BY 1, 2 ORDER BY 1, 2"_s),
+              kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s));
+}
+
+void expectNoLocks(Kitchen &kitchen)
+{
+    Engine::LockManager &locks = kitchen.database().connection().locks();
+    for (const QString &table : {u"IReceipt"_s, u"IBalance"_s, u"Item"_s}) {
+        bool free = false;
+        // The server notices within a second that its client is gone.
+        for (int attempt = 0; attempt < 50 && !free; ++attempt) {
+            free = locks.tryLockTable(table);
+            if (!free)
+                QThread::msleep(100);
+        }
+        EXPECT_TRUE(free) << table.toStdString();
+        locks.unlockTable(table);
+    }
+}
+
+TEST_P(Processes, KillingAPosterLeavesWholeDocumentsAndNothingIsLostOrDoubled)
+{
+    Kitchen kitchen(GetParam());
+    addManyReceipts(kitchen);
+    Kitchen undisturbed(GetParam());
+    addManyReceipts(undisturbed);
+    ScriptedPrompts prompts;
+    CountedProgress progress;
+    ASSERT_TRUE(ReceiptPosting(undisturbed.database()).run(prompts, progress));
+
+    std::mt19937 random(11);
+    int interrupted = 0;
+    for (int round = 0; round < 6; ++round) {
+        OtherUser poster(kitchen, {u"post"_s});
+        QThread::msleep(100 + random() % 500);
+        poster.kill();
+        expectNoLocks(kitchen);
+        expectWholeDocuments(kitchen);
+        const double posted = kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s);
+        interrupted += posted < receipts(GetParam()) ? 1 : 0;
+    }
+    EXPECT_GT(interrupted, 0);
+
+    OtherUser poster(kitchen, {u"post"_s});
+    EXPECT_TRUE(poster.finish());
+
+    expectWholeDocuments(kitchen);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), receipts(GetParam()) * LinesEach);
+    EXPECT_EQ(stock(kitchen), stock(undisturbed));
+}
+
+TEST_P(Processes, TwoUsersNeverGetTheSameNumber)
+{
+    constexpr int Each = 40;
+    Kitchen kitchen(GetParam());
+    OtherUser anna(kitchen, {u"number"_s, QString::number(Each)});
+    OtherUser bert(kitchen, {u"number"_s, QString::number(Each)});
+    ASSERT_TRUE(anna.finish() && bert.finish());
+    const QStringList numbers = anna.output() + bert.output();
+    EXPECT_EQ(numbers.size(), 2 * Each);
+    EXPECT_EQ(QSet<QString>(numbers.begin(), numbers.end()).size(), 2 * Each);
+    EXPECT_EQ(kitchen.number(u"SELECT NextInvReceiptNo FROM ItemCtl"_s), 1001 + 2 * Each);
+}
+
+} // namespace

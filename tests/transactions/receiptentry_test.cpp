@@ -1,0 +1,382 @@
+#include "transactions/receiptentry.h"
+
+#include "engine/error.h"
+#include "frame/shared/ruleerror.h"
+#include "tests/transactions/kitchen.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::EngineError;
+using Engine::ErrorCode;
+using Engine::TableState;
+using Engine::Value;
+
+namespace {
+
+// "message -> column" of the rule that refuses, or an empty text.
+QString refusal(const std::function<void()> &step)
+{
+    try {
+        step();
+    } catch (const RuleError &error) {
+        return error.message() + " -> "_L1 + error.column();
+    } catch (const SilentAbort &abort) {
+        return "silent -> "_L1 + abort.column();
+    }
+    return {};
+}
+
+class Entry : public testing::TestWithParam<Store>
+{
+protected:
+    Entry()
+        : entry(kitchen.database(), prompts)
+    {
+        entry.today = [] { return QDate(2026, 8, 9); };
+        entry.open();
+    }
+
+    void company(const QString &assignments) { kitchen.execute(u"UPDATE Company SET "_s + assignments); }
+    // A new receipt, complete but for what the test spoils.
+    void newReceipt()
+    {
+        entry.newDocument();
+        entry.chooseVendorByNumber(u"V1"_s);
+        entry.header().set(u"WarehouseID", 2);
+        addLine(1, 5, 3.25);
+    }
+    void addLine(int item, double quantity, double cost)
+    {
+        entry.newLine();
+        entry.lines().set(u"QtyReceived", quantity);
+        entry.chooseItem(item);
+        entry.lines().set(u"UnitCost", cost);
+        entry.lines().post();
+    }
+    QStringList storedLines(int receipt)
+    {
+        return kitchen.rows(
+            u"SELECT Seq, ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = %1 ORDER BY Seq"_s.arg(
+                receipt));
+    }
+
+    Kitchen kitchen{GetParam()};
+    ScriptedPrompts prompts;
+    ReceiptEntry entry;
+};
+INSTANTIATE_TEST_SUITE_P(Stores, Entry, bothStores, nameOfStore);
+
+TEST_P(Entry, ANewReceiptIsNumberedDatedAndSaved)
+{
+    kitchen.execute(u"INSERT INTO ItemCtl (NextInvReceiptID, NextInvReceiptNo) VALUES (41, 5000)"_s);
+    entry.newDocument();
+    EXPECT_EQ(entry.caption(), u"New Inventory Receipt");
+    entry.cancel();
+    newReceipt();
+    EXPECT_EQ(entry.caption(), u"Receipt 5001");
+    addLine(2, -1, 0);
+    entry.save();
+
+    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, "
+                           "CASE WHEN Posted = false THEN 'open' END FROM IReceipt"_s),
+              QStringList(u"42|5001|2026|3|2026-08-09|1|2|open"_s));
+    EXPECT_EQ(storedLines(42), (QStringList{u"1|1|5|3.25"_s, u"2|2|-1|0"_s}));
+    EXPECT_EQ(kitchen.rows(u"SELECT NextInvReceiptID, NextInvReceiptNo FROM ItemCtl"_s), QStringList(u"43|5002"_s));
+    EXPECT_TRUE(entry.wasSaved());
+    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Free);
+}
+
+TEST_P(Entry, NumbersRestartOutsideTheirRange)
+{
+    const QList<std::pair<QString, QString>> counters = {
+        {u"NULL"_s, u"1001"_s},         {u"0"_s, u"1001"_s},        {u"1000"_s, u"1001"_s}, {u"1001"_s, u"1001"_s},
+        {u"10000000"_s, u"10000000"_s}, {u"10000001"_s, u"1001"_s},
+    };
+    for (const auto &[counter, number] : counters) {
+        kitchen.execute(u"DELETE FROM ItemCtl; INSERT INTO ItemCtl (NextInvReceiptID, NextInvReceiptNo) "
+                        "VALUES (NULL, %1)"_s.arg(counter));
+        entry.newDocument();
+        EXPECT_EQ(entry.header().text(u"ReceiptNo"), number);
+        EXPECT_EQ(kitchen.value(u"SELECT NextInvReceiptNo FROM ItemCtl"_s), Value(number.toInt() + 1));
+        entry.cancel();
+    }
+}
+
+TEST_P(Entry, PeriodComesFromTheOrganizationOrTheCalendar)
+{
+    company(u"DefaultPeriodYYYY = NULL, DefaultPeriodPP = 0"_s);
+    entry.newDocument();
+    EXPECT_EQ(entry.header().integer(u"GLYear"), 2026);
+    EXPECT_EQ(entry.header().integer(u"GLPeriod"), 8);
+}
+
+struct HeaderCase
+{
+    const char *name;
+    QString company; // settings that are changed
+    std::function<void(Entry &, ReceiptEntry &, Kitchen &)> spoil;
+    QString refusal;
+    bool asks = false;
+};
+
+TEST_P(Entry, HeaderChecksSpeakInTheirOrder)
+{
+    const auto none = [](Entry &, ReceiptEntry &, Kitchen &) {};
+    const auto set = [](const QString &field, const Value &value) {
+        return [=](Entry &, ReceiptEntry &e, Kitchen &) { e.header().set(field, value); };
+    };
+    const QString notAllowed =
+        u"GL Period is not within allowed range \nas defined by \"Your Company\" -> GLPeriod"_s;
+    const QString askedAndCancelled = u"silent -> GLPeriod"_s;
+    const QList<HeaderCase> cases = {
+        {"no vendor", u"FiscalYear = 0"_s, set(u"VendorID"_s, {}),
+         u"Field 'Vendor' must have a value -> VendorNo"_s},
+        {"no fiscal year", u"FiscalYear = NULL"_s, none,
+         u"Current fiscal year is not yet defined...\nSee \"Your Company\" -> GLPeriod"_s},
+        {"before the fiscal year", u"EPeriodToYYYY = 2020"_s, set(u"GLYear"_s, 2025),
+         u"GL Period is prior to current fiscal year \nas defined by \"Your Company\" -> GLPeriod"_s},
+        {"no year",
+         {},
+         set(u"GLYear"_s, {}),
+         u"GL Period is prior to current fiscal year \nas defined by \"Your Company\" -> GLPeriod"_s},
+        {"below the allowed range", u"EPeriodFromYYYY = 2026, EPeriodFromPP = 4"_s, none, notAllowed},
+        {"above the allowed range", u"EPeriodToYYYY = 2026, EPeriodToPP = 2"_s, none, notAllowed},
+        {"at the end of the allowed range", u"EPeriodToYYYY = 2026, EPeriodToPP = 3"_s, none, {}},
+        {"an open end", u"EPeriodFromYYYY = 2026, EPeriodFromPP = 1, EPeriodToYYYY = 0"_s, none, {}},
+        {"below the expected range", u"WPeriodFromYYYY = 2026, WPeriodFromPP = 4"_s, none, askedAndCancelled, true},
+        {"above the expected range", u"WPeriodToYYYY = 2026, WPeriodToPP = 2"_s, none, askedAndCancelled, true},
+        {"vendor gone",
+         {},
+         [](Entry &, ReceiptEntry &, Kitchen &k) { k.execute(u"DELETE FROM Vendor WHERE VendorID = 1"_s); },
+         u"Vendor no longer exists -> VendorNo"_s},
+        {"location gone", {}, set(u"WarehouseID"_s, 77), u"Warehouse no longer exists -> WarehouseID"_s},
+        {"no location", {}, set(u"WarehouseID"_s, {}), u"Warehouse no longer exists -> WarehouseID"_s},
+        {"no lines",
+         {},
+         [](Entry &, ReceiptEntry &e, Kitchen &) { e.removeLine(); },
+         u"Quantities have not been entered -> Lines"_s},
+        {"no number", {}, set(u"ReceiptNo"_s, {}), u"Field 'Receipt no.' must have a value -> ReceiptNo"_s},
+        {"no date", {}, set(u"ReceiptDate"_s, {}), u"Field 'Date' must have a value -> ReceiptDate"_s},
+        {"no period", {}, set(u"GLPeriod"_s, {}), u"Field 'Period' must have a value -> GLPeriod"_s},
+    };
+    prompts.ok = false;
+    for (const HeaderCase &c : cases) {
+        SCOPED_TRACE(c.name);
+        company(u"FiscalYear = 2026, EPeriodFromYYYY = NULL, EPeriodFromPP = NULL, EPeriodToYYYY = NULL, "
+                "EPeriodToPP = NULL, WPeriodFromYYYY = NULL, WPeriodFromPP = NULL, WPeriodToYYYY = NULL, "
+                "WPeriodToPP = NULL"_s);
+        newReceipt();
+        if (!c.company.isEmpty())
+            company(c.company);
+        c.spoil(*this, entry, kitchen);
+        prompts.said.clear();
+
+        EXPECT_EQ(refusal([&] { entry.save(); }), c.refusal);
+        EXPECT_EQ(entry.header().state() == TableState::Insert, !c.refusal.isEmpty());
+        EXPECT_EQ(prompts.said,
+                  c.asks ? QStringList(u"Warning: GL Period is not within expected range \nas defined by "
+                                       "\"Your Company\"."_s)
+                         : QStringList());
+        entry.cancel();
+        kitchen.execute(
+            u"DELETE FROM Vendor WHERE VendorID = 1; INSERT INTO Vendor (VendorID, VendorNo, VendorName) "
+            "VALUES (1, 'V1', 'First')"_s);
+    }
+}
+
+TEST_P(Entry, AnUnexpectedPeriodIsSavedWhenTheUserInsists)
+{
+    company(u"WPeriodFromYYYY = 2026, WPeriodFromPP = 4"_s);
+    newReceipt();
+    EXPECT_EQ(refusal([&] { entry.save(); }), QString());
+    EXPECT_EQ(entry.header().state(), TableState::Browse);
+}
+
+TEST_P(Entry, LineChecksSpeakInTheirOrder)
+{
+    const QString undo = u"...\nMake changes or press Esc to undo -> "_s;
+    struct LineCase
+    {
+        const char *name;
+        Value quantity, item, cost;
+        QString refusal;
+    };
+    const QList<LineCase> cases = {
+        {"nothing", {}, {}, {}, u"Field 'Quantity' must have a value"_s + undo + u"QtyReceived"_s},
+        {"no item", 1.0, {}, {}, u"Field 'Item no.' must have a value"_s + undo + u"ItemNo"_s},
+        {"item gone", 1.0, 99, {}, u"Item not found"_s + undo + u"ItemNo"_s},
+        {"no cost", 1.0, 1, {}, u"Field 'Unit Cost' must have a value"_s + undo + u"UnitCost"_s},
+        {"cost below zero", 1.0, 1, -0.01, u"Field 'Unit Cost' must not be less than zero"_s + undo + u"UnitCost"_s},
+        {"all zero", 0.0, 1, 0.0, {}},
+        {"a return", -2.0, 1, 1.0, {}},
+    };
+    for (const LineCase &c : cases) {
+        SCOPED_TRACE(c.name);
+        entry.newDocument();
+        entry.newLine();
+        entry.lines().set(u"QtyReceived", c.quantity);
+        entry.lines().set(u"ItemID", c.item);
+        entry.lines().set(u"UnitCost", c.cost);
+        EXPECT_EQ(refusal([&] { entry.lines().post(); }), c.refusal);
+        EXPECT_EQ(entry.lines().isEditing(), !c.refusal.isEmpty());
+        entry.cancel();
+    }
+}
+
+TEST_P(Entry, ItemsAreJudgedByTheColumnTheyComeFrom)
+{
+    const auto choose = [&](const QString &column, int item) {
+        return refusal([&] {
+            entry.setLineColumn(column);
+            entry.chooseItem(item);
+        });
+    };
+    entry.newDocument();
+    entry.newLine();
+    EXPECT_EQ(choose(u"ItemNo"_s, 99), u"Item not found...\nPress Esc or enter a different item no -> ItemNo");
+    EXPECT_EQ(choose(u"ItemNo"_s, 4), u"Item has been suspended -> ItemNo");
+    EXPECT_EQ(choose(u"ItemDescription"_s, 4), u"Item 'X9: Yeast' has been suspended -> ItemNo");
+    EXPECT_TRUE(entry.lines().value(u"ItemID").isNull());
+    EXPECT_EQ(choose(u"ItemNo"_s, 2), QString());
+    EXPECT_EQ(choose(u"QtyReceived"_s, 4), QString());
+    EXPECT_EQ(refusal([&] { entry.chooseItemByNumber(u"nope"_s); }),
+              u"Item not found...\nPress Esc or enter a different item no -> ItemNo");
+    entry.chooseItemByNumber(u"B1"_s);
+    EXPECT_EQ(entry.lines().text(u"ItemDescription"), u"apricots");
+}
+
+TEST_P(Entry, VendorsAreChosenByNumberOrFromTheList)
+{
+    entry.newDocument();
+    EXPECT_EQ(refusal([&] { entry.chooseVendorByNumber(u"V9"_s); }), u"Vendor no. 'V9' not found -> VendorNo");
+    EXPECT_EQ(refusal([&] { entry.chooseVendorByNumber(u"V4"_s); }),
+              u"Vendor no. 'V4' has been suspended -> VendorNo");
+    EXPECT_EQ(refusal([&] { entry.header().set(u"VendorID", 4); }),
+              u"Vendor 'V4: Fourth' has been suspended -> VendorID");
+    EXPECT_TRUE(entry.header().value(u"VendorID").isNull());
+    entry.chooseVendorByNumber(u"V2"_s);
+    EXPECT_EQ(entry.header().integer(u"VendorID"), 2);
+    EXPECT_EQ(entry.header().text(u"VendorNo"), u"V2");
+    entry.chooseVendorByNumber({});
+    EXPECT_TRUE(entry.header().value(u"VendorID").isNull());
+}
+
+TEST_P(Entry, TypedPeriodsAreRead)
+{
+    entry.newDocument();
+    entry.header().setText(u"GLYear", u"49"_s);
+    EXPECT_EQ(entry.header().integer(u"GLYear"), 2049);
+    entry.header().setText(u"GLYear", u"50"_s);
+    EXPECT_EQ(entry.header().integer(u"GLYear"), 1950);
+    EXPECT_EQ(refusal([&] { entry.header().setText(u"GLYear", u"100"_s); }),
+              u"Period invalid...\nEnter year as 2 digits -> GLYear");
+    EXPECT_NE(refusal([&] { entry.header().set(u"GLPeriod", 13); }), QString());
+    EXPECT_EQ(entry.header().integer(u"GLPeriod"), 3);
+}
+
+TEST_P(Entry, CancelBringsTheLinesBack)
+{
+    kitchen.addReceipt(5, 1, 1, {{1, 1, 1.5}, {2, 2, 2}, {3, 3, 3}});
+    kitchen.execute(u"DELETE FROM IRecDet WHERE ReceiptID = 5 AND Seq = 2"_s);
+    const QStringList before = storedLines(5);
+    ASSERT_TRUE(entry.openDocument(5));
+
+    entry.lines().edit();
+    entry.lines().set(u"QtyReceived", 9.0);
+    entry.lines().post();
+    addLine(2, 7, 7);
+    EXPECT_EQ(storedLines(5), (QStringList{u"1|1|9|1.5"_s, u"3|3|3|3"_s, u"4|2|7|7"_s}));
+    entry.lines().first();
+    entry.removeLine();
+    entry.newLine(); // left in the middle
+    entry.header().set(u"PurchaseOrderNo", u"late"_s);
+    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Ask);
+
+    entry.cancel();
+
+    EXPECT_EQ(storedLines(5), before);
+    EXPECT_EQ(kitchen.text(u"SELECT PurchaseOrderNo FROM IReceipt"_s), QString());
+    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Free);
+    // The next visit takes its copy anew.
+    ASSERT_TRUE(entry.openDocument(5));
+    addLine(2, 7, 7);
+    entry.save();
+    EXPECT_EQ(storedLines(5), before + QStringList(u"4|2|7|7"_s));
+}
+
+TEST_P(Entry, CancellingANewReceiptLeavesNothing)
+{
+    newReceipt();
+    entry.cancel();
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt"_s), 0);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IRecDet"_s), 0);
+    entry.newDocument();
+    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Drop);
+}
+
+TEST_P(Entry, ALineStillInEditIsSavedWithTheHeader)
+{
+    newReceipt();
+    entry.newLine();
+    entry.lines().set(u"QtyReceived", 2.0);
+    EXPECT_EQ(refusal([&] { entry.save(); }),
+              u"Field 'Item no.' must have a value...\nMake changes or press Esc to undo -> ItemNo");
+    entry.chooseItem(2);
+    entry.lines().set(u"UnitCost", 4.0);
+    entry.save();
+    EXPECT_EQ(storedLines(entry.key()).size(), 2);
+}
+
+TEST_P(Entry, ATakenNumberIsRefused)
+{
+    kitchen.addReceipt(900, 1, 1, {{1, 1, 1}}); // number 1900
+    newReceipt();
+    entry.header().set(u"ReceiptNo", u"1900"_s);
+    EXPECT_EQ(refusal([&] { entry.save(); }), u"Receipt no. already exists -> ReceiptNo");
+    EXPECT_EQ(entry.header().state(), TableState::Insert);
+    entry.header().set(u"ReceiptNo", u"1901"_s);
+    EXPECT_EQ(refusal([&] { entry.save(); }), QString());
+}
+
+TEST_P(Entry, PostedReceiptsAreNotChanged)
+{
+    const QString text = u"Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you must "
+                         "\"reverse\" it (enter it again with the opposite amount)."_s;
+    kitchen.addReceipt(5, 1, 1, {{1, 1, 1}});
+    ASSERT_TRUE(entry.openDocument(5));
+    EXPECT_FALSE(entry.isPosted());
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s); // by another user, unseen so far
+    EXPECT_EQ(refusal([&] { entry.lines().edit(); }), u"silent -> ");
+    EXPECT_EQ(refusal([&] { entry.newLine(); }), u"silent -> ");
+    EXPECT_EQ(refusal([&] { entry.removeLine(); }), u"silent -> ");
+    EXPECT_EQ(refusal([&] { entry.header().edit(); }), u"silent -> ");
+    EXPECT_EQ(prompts.said, (QStringList{text, text, text, text}));
+    EXPECT_EQ(storedLines(5), QStringList(u"1|1|1|1"_s));
+    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Free);
+}
+
+TEST_P(Entry, AReceiptBeingEditedIsLockedForOthers)
+{
+    kitchen.session().lockAttempts = 1;
+    kitchen.addReceipt(5, 1, 1, {{1, 1, 1}});
+    const auto other = kitchen.anotherUser();
+    other->session.lockAttempts = 2;
+    other->session.lockPause = std::chrono::milliseconds(1);
+    ReceiptEntry theirs(other->database, prompts);
+    theirs.open();
+    ASSERT_TRUE(theirs.openDocument(5));
+    ASSERT_TRUE(entry.openDocument(5));
+    entry.header().edit();
+    try {
+        theirs.newLine();
+        FAIL() << "both edit";
+    } catch (const EngineError &error) {
+        EXPECT_EQ(error.code(), ErrorCode::RecordLocked);
+    }
+    entry.cancel();
+    theirs.newLine();
+}
+
+} // namespace

@@ -1,0 +1,153 @@
+#include "transactions/receiptlist.h"
+
+#include "engine/error.h"
+#include "frame/shared/ruleerror.h"
+#include "tests/transactions/kitchen.h"
+#include "transactions/documentfilter.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class List : public testing::TestWithParam<Store>
+{
+protected:
+    List()
+        : list(kitchen.database())
+    {
+        list.open();
+    }
+
+    int receipts() { return static_cast<int>(kitchen.number(u"SELECT count(*) FROM IReceipt"_s)); }
+    int lines() { return static_cast<int>(kitchen.number(u"SELECT count(*) FROM IRecDet"_s)); }
+
+    Kitchen kitchen{GetParam()};
+    ScriptedPrompts prompts;
+    ReceiptList list;
+};
+INSTANTIATE_TEST_SUITE_P(Stores, List, bothStores, nameOfStore);
+
+TEST_P(List, ShowsTheLatestFirstWithItsNames)
+{
+    kitchen.addReceipt(1, 1, 1, {});
+    kitchen.addReceipt(2, 2, 2, {});
+    kitchen.execute(u"UPDATE IReceipt SET GLPeriod = 4 WHERE ReceiptID = 2"_s);
+    list.table().refresh();
+    list.table().first();
+    EXPECT_EQ(list.currentKey(), 2);
+    EXPECT_EQ(list.table().text(u"Periodppyyyy"), u"4/2026");
+    EXPECT_EQ(list.table().text(u"VendorName"), u"Second");
+    EXPECT_EQ(list.table().text(u"WarehouseName"), u"Freezer");
+}
+
+TEST_P(List, DeletesAReceiptWithItsLinesAfterAsking)
+{
+    list.remove(prompts); // of nothing
+    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}, {2, 1, 1}});
+    kitchen.addReceipt(2, 1, 1, {{1, 1, 1}});
+    list.table().refresh();
+    ASSERT_TRUE(list.moveTo(1));
+    prompts.ok = false;
+    EXPECT_THROW(list.remove(prompts), SilentAbort);
+    EXPECT_EQ(lines(), 3);
+
+    prompts.ok = true;
+    list.remove(prompts);
+
+    EXPECT_EQ(prompts.said,
+              (QStringList{u"Confirm: Delete receipt '1001'?"_s, u"Confirm: Delete receipt '1001'?"_s}));
+    EXPECT_EQ(receipts(), 1);
+    EXPECT_EQ(lines(), 1);
+    EXPECT_EQ(list.currentKey(), 2);
+}
+
+TEST_P(List, RefusesToDeleteAPostedReceipt)
+{
+    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});
+    list.table().refresh();
+    list.table().first();
+    EXPECT_FALSE(list.table().boolean(u"Posted"));
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s); // by another user, unseen so far
+    for (int again = 0; again < 2; ++again) {
+        try {
+            list.remove(prompts);
+            FAIL() << "deleted";
+        } catch (const RuleError &error) {
+            EXPECT_EQ(error.message(), u"Unable to delete receipt '1001'...\nIt has already been posted");
+        }
+    }
+    EXPECT_EQ(receipts(), 1);
+    EXPECT_EQ(lines(), 1);
+}
+
+TEST_P(List, LeavesAReceiptThatSomebodyIsEditing)
+{
+    kitchen.session().lockAttempts = 1;
+    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});
+    list.table().refresh();
+    list.table().first();
+    const auto other = kitchen.anotherUser();
+    Engine::Table theirs(other->database, u"IReceipt"_s);
+    theirs.open();
+    ASSERT_TRUE(theirs.findKey({1}));
+    theirs.edit();
+    EXPECT_THROW(list.remove(prompts), Engine::EngineError);
+    EXPECT_EQ(receipts(), 1);
+    EXPECT_EQ(lines(), 1);
+}
+
+TEST_P(List, FindsByNumber)
+{
+    kitchen.addReceipt(1, 1, 1, {});
+    kitchen.addReceipt(2, 1, 1, {});
+    list.table().refresh();
+    list.find(u"1002"_s);
+    EXPECT_EQ(list.currentKey(), 2);
+    list.find({});
+    EXPECT_EQ(list.currentKey(), 2);
+    try {
+        list.find(u"100"_s);
+        FAIL() << "found";
+    } catch (const RuleError &error) {
+        EXPECT_EQ(error.message(), u"Receipt '100' not found");
+    }
+    EXPECT_EQ(list.currentKey(), 2);
+}
+
+TEST_P(List, FilterExpressionsSelectWhatTheySay)
+{
+    kitchen.addReceipt(1, 1, 1, {});
+    kitchen.addReceipt(2, 1, 2, {});
+    kitchen.addReceipt(3, 1, 2, {});
+    kitchen.addReceipt(4, 1, 2, {});
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true WHERE ReceiptID = 3; "
+                    "UPDATE IReceipt SET Posted = NULL WHERE ReceiptID = 4"_s);
+    using Posted = DocumentFilter::Posted;
+    struct Case
+    {
+        DocumentFilter filter;
+        QString notPosted;
+        QString expression;
+        int rows;
+    };
+    const QString strict = u"(Posted = false)"_s;
+    const QList<Case> cases = {
+        {{0, Posted::All}, strict, {}, 4},
+        {{2, Posted::All}, strict, u"(WarehouseID = 2)"_s, 3},
+        {{0, Posted::Yes}, strict, u"(Posted = true)"_s, 1},
+        {{0, Posted::No}, strict, u"(Posted = false)"_s, 2},
+        {{2, Posted::No}, strict, u"(WarehouseID = 2) AND (Posted = false)"_s, 1},
+        {{2, Posted::No}, u"(Posted <> true)"_s, u"(WarehouseID = 2) AND (Posted <> true)"_s, 2},
+    };
+    for (const Case &c : cases) {
+        EXPECT_EQ(c.filter.expression(c.notPosted), c.expression);
+        list.table().setFilter(c.expression);
+        list.table().setFiltered(!c.filter.isEmpty());
+        EXPECT_EQ(list.table().recordCount(), c.rows) << c.expression.toStdString();
+    }
+}
+
+} // namespace

@@ -1,0 +1,212 @@
+#include "transactions/receiptposting.h"
+
+#include "engine/error.h"
+#include "engine/locks.h"
+#include "engine/table.h"
+#include "frame/shared/ruleerror.h"
+#include "tests/transactions/kitchen.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::EngineError;
+using Engine::ErrorCode;
+
+namespace {
+
+class Posting : public testing::TestWithParam<Store>
+{
+protected:
+    Kitchen kitchen{GetParam()};
+    ScriptedPrompts prompts;
+    CountedProgress progress;
+
+    bool post() { return ReceiptPosting(kitchen.database()).run(prompts, progress); }
+    QStringList posted()
+    {
+        return kitchen.rows(u"SELECT ReceiptID FROM IReceipt WHERE Posted = true ORDER BY 1"_s);
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Stores, Posting, bothStores, nameOfStore);
+
+TEST_P(Posting, WritesHistoryBalanceAndAverageOfTheWorkedExample)
+{
+    kitchen.setStock(1, 1, 6, 2.00);
+    kitchen.setStock(1, 2, 4, 2.00);
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.00}}, u"PO-77"_s);
+    ReceiptPosting posting(kitchen.database());
+    EXPECT_EQ(posting.countText(), u"1 receipt(s) to be posted");
+
+    EXPECT_TRUE(posting.run(prompts, progress));
+
+    EXPECT_EQ(
+        kitchen.rows(u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
+                     "TransDescription, ReceiptID, AdjustmentID, ARInvoiceID, UsageID FROM IHist"_s),
+        QStringList(u"1|2|2026|3|3|2026-03-14|5|3|Receipt: 1007   PO: PO-77|7|||"_s));
+    EXPECT_EQ(kitchen.onHand(1, 1), 6);
+    EXPECT_EQ(kitchen.onHand(1, 2), 9);
+    EXPECT_EQ(kitchen.averageCost(1), 2.33);
+    EXPECT_EQ(posted(), QStringList(u"7"_s));
+    EXPECT_EQ(progress.steps, 1);
+    EXPECT_TRUE(progress.finished);
+}
+
+struct LineCase
+{
+    const char *name;
+    int vendor;
+    double onHand; // of item 1 at location 1; none when NaN
+    double average;
+    Kitchen::Line line;
+    double historyCost;
+    double averageAfter;
+    double onHandAfter;
+};
+
+constexpr double None = std::numeric_limits<double>::quiet_NaN();
+
+const LineCase lineCases[] = {
+    {"no balance anywhere", 1, None, 9, {1, 4, 1.236}, 1.236, 1.24, 4},
+    {"negative stock", 1, -5, 4.00, {1, 10, 2.00}, 2, 4.00, 5},
+    {"down to zero", 1, -10, 4.00, {1, 10, 2.00}, 2, 4.00, 0},
+    {"no cost on no stock", 1, None, 9, {1, 3, 0}, 0, 9, 3},
+    {"a return", 1, 10, 2.00, {1, -4, 2.00}, 2, 2.00, 6},
+    {"a far vendor's currency", 2, None, 0, {1, 2, 1.2345}, 0.93, 0.93, 2},
+    {"a currency without rate", 3, None, 0, {1, 2, 1.2345}, 1.2345, 1.23, 2},
+    {"a vendor without currency", 5, None, 0, {1, 2, 1.2345}, 1.2345, 1.23, 2},
+    {"an item that is gone", 1, None, 9, {99, 2, 1}, 1, 9, 0},
+};
+
+TEST_P(Posting, PostsEachKindOfLine)
+{
+    for (const LineCase &c : lineCases) {
+        SCOPED_TRACE(c.name);
+        kitchen.execute(u"DELETE FROM IBalance; DELETE FROM IHist; DELETE FROM IReceipt; DELETE FROM IRecDet"_s);
+        kitchen.execute(u"UPDATE Item SET WgtAvgCost = %1 WHERE ItemID = 1"_s.arg(c.average));
+        if (!std::isnan(c.onHand))
+            kitchen.setStock(1, 1, c.onHand, c.average);
+        kitchen.addReceipt(1, c.vendor, 1, {c.line});
+
+        post();
+
+        EXPECT_EQ(kitchen.number(u"SELECT UnitCost FROM IHist"_s), c.historyCost);
+        EXPECT_EQ(kitchen.text(u"SELECT TransDescription FROM IHist"_s), u"Receipt: 1001");
+        EXPECT_EQ(kitchen.averageCost(1), c.averageAfter);
+        EXPECT_EQ(kitchen.onHand(1, 1), c.onHandAfter);
+    }
+}
+
+TEST_P(Posting, LaterLinesSeeWhatEarlierOnesLeft)
+{
+    kitchen.addReceipt(1, 1, 1, {{1, 10, 1.00}, {1, 10, 2.00}, {2, 1, 5.00}});
+    kitchen.addReceipt(2, 1, 2, {{1, 20, 3.00}});
+
+    post();
+
+    EXPECT_EQ(kitchen.averageCost(1), 2.25); // 1.00, then 1.50 over 20, then over 40
+    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s),
+              (QStringList{u"1|1|20"_s, u"1|2|20"_s, u"2|1|1"_s}));
+    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID, ItemID, Quantity FROM IHist ORDER BY IHistID"_s),
+              (QStringList{u"1|1|10"_s, u"1|1|10"_s, u"1|2|1"_s, u"2|1|20"_s}));
+}
+
+TEST_P(Posting, TakesTheUnpostedOnesWhoseVendorExists)
+{
+    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});
+    kitchen.addReceipt(2, 77, 1, {{1, 1, 1}}); // no such vendor
+    kitchen.addReceipt(3, 1, 1, {{1, 1, 1}});
+    kitchen.addReceipt(4, 1, 1, {{1, 1, 1}});
+    kitchen.addReceipt(5, 1, 1, {}); // no lines
+    kitchen.execute(u"UPDATE IReceipt SET Posted = NULL WHERE ReceiptID = 3; "
+                    "UPDATE IReceipt SET Posted = true WHERE ReceiptID = 4"_s);
+
+    EXPECT_EQ(ReceiptPosting(kitchen.database()).count(), 2);
+    EXPECT_TRUE(post());
+
+    EXPECT_EQ(posted(), (QStringList{u"1"_s, u"4"_s, u"5"_s}));
+    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID FROM IHist"_s), QStringList(u"1"_s));
+    EXPECT_FALSE(post()); // nothing left
+}
+
+TEST_P(Posting, LeavesOutWhatOthersHavePostedOrDeletedMeanwhile)
+{
+    for (int id = 1; id <= 3; ++id)
+        kitchen.addReceipt(id, 1, 1, {{1, id * 1.0, 1}});
+    ReceiptPosting posting(kitchen.database());
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true WHERE ReceiptID = 1; "
+                    "DELETE FROM IReceipt WHERE ReceiptID = 2; DELETE FROM IRecDet WHERE ReceiptID = 2"_s);
+
+    EXPECT_TRUE(posting.run(prompts, progress));
+
+    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID FROM IHist"_s), QStringList(u"3"_s));
+    EXPECT_EQ(progress.steps, 3);
+}
+
+TEST_P(Posting, RefusesWhileTheEntryScreenIsOpen)
+{
+    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});
+    ReceiptPosting posting(kitchen.database());
+    posting.isEntryOpen = [] { return true; };
+    try {
+        posting.run(prompts, progress);
+        FAIL() << "it ran";
+    } catch (const RuleError &error) {
+        EXPECT_EQ(error.message(), u"A conflicting program is running...\nPlease close 'Inventory Receipt' form");
+    }
+    EXPECT_TRUE(posted().isEmpty());
+}
+
+// Each table of the run held by another user: asked about, tried again, and given up without a trace.
+TEST_P(Posting, AsksAboutTablesThatAnotherUserHolds)
+{
+    const QList<std::pair<QString, QString>> tables = {
+        {u"IReceipt"_s, u"Unable to lock Receipts table... this table is being updated by another job."_s},
+        {u"IBalance"_s, u"Unable to lock Item Balance table... this table is being updated by another job."_s},
+        {u"Item"_s, u"Unable to lock Item table... this table is being updated by another job."_s},
+    };
+    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});
+    const auto other = kitchen.anotherUser();
+    Engine::LockManager &theirs = other->database.connection().locks();
+    for (const auto &[table, text] : tables) {
+        SCOPED_TRACE(table.toStdString());
+        ASSERT_TRUE(theirs.tryLockTable(table));
+        prompts.said.clear();
+        prompts.retries = 1;
+        try {
+            post();
+            ADD_FAILURE() << "it ran";
+        } catch (const EngineError &error) {
+            EXPECT_EQ(error.code(), ErrorCode::TableLocked);
+        }
+        EXPECT_EQ(prompts.said, (QStringList{text, text}));
+        EXPECT_TRUE(posted().isEmpty());
+        theirs.unlockTable(table);
+        for (const auto &free : tables) {
+            EXPECT_TRUE(theirs.tryLockTable(free.first)) << free.first.toStdString();
+            theirs.unlockTable(free.first);
+        }
+    }
+    ASSERT_TRUE(theirs.tryLockTable(u"IBalance"_s));
+    prompts.retries = 1;
+    prompts.onRetry = [&] { theirs.unlockTable(u"IBalance"_s); };
+    EXPECT_TRUE(post());
+    EXPECT_EQ(posted(), QStringList(u"1"_s));
+}
+
+// A receipt that another user is entering keeps its record locked, and with it the table.
+TEST_P(Posting, WaitsForAReceiptBeingEdited)
+{
+    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});
+    const auto other = kitchen.anotherUser();
+    Engine::Table theirs(other->database, u"IReceipt"_s);
+    theirs.open();
+    ASSERT_TRUE(theirs.findKey({1}));
+    theirs.edit();
+    EXPECT_THROW(post(), EngineError);
+    EXPECT_TRUE(posted().isEmpty());
+    theirs.cancel();
+    EXPECT_TRUE(post());
+}
+
+} // namespace
