@@ -8,10 +8,12 @@ namespace Tallymere {
 
 namespace {
 
+QString unavailable() { return QCoreApplication::translate("Commands", "Not available in this version"); }
+
 QString unavailable(const QString &hint)
 {
     if (hint.isEmpty())
-        return QCoreApplication::translate("Commands", "Not available in this version");
+        return unavailable();
     return QCoreApplication::translate("Commands", "%1 (not available in this version)").arg(hint);
 }
 
@@ -25,10 +27,10 @@ template <typename Control> void bind(Control &control, QAction &action)
         control.setText(action.text());
     const QString hint = hintOf(control);
     auto follow = [&control, &action, hint] {
-        const QString shown = action.isEnabled() ? hint : unavailable(hint);
-        control.setEnabled(action.isEnabled());
-        control.setToolTip(shown);
-        control.setStatusTip(shown);
+        const bool enabled = action.isEnabled();
+        control.setEnabled(enabled);
+        control.setToolTip(enabled ? hint : unavailable(hint));
+        control.setStatusTip(enabled ? hint : unavailable()); // there is less room
     };
     follow();
     QObject::connect(&action, &QAction::enabledChanged, &control, follow);

@@ -128,7 +128,15 @@ void TFormTallymereSystem::prepareOpening()
     QString user;
     m_host->getCurrentUser(user);
     m_dataModule->setCurrentUser(user);
-    m_leftPane->setText(user);
+    showUser(user);
+}
+
+// The pane's text is cut rather than letting a long name push the hints out.
+void TFormTallymereSystem::showUser(const QString &user)
+{
+    constexpr int paneWidth = 110;
+    m_leftPane->setText(m_leftPane->fontMetrics().elidedText(user, Qt::ElideRight, scaled(this, paneWidth)));
+    m_leftPane->setToolTip(user);
 }
 
 void TFormTallymereSystem::fillContext()

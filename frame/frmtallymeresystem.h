@@ -88,6 +88,7 @@ private:
     void scaleSizes();
     void prepareOpening();
     void fillContext();
+    void showUser(const QString &user);
     void showModal();
     bool closeScreens(); // false when one of them stays open
     QList<QWidget *> screens() const;

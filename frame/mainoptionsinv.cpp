@@ -49,6 +49,7 @@ TFormRegistryEditor::TFormRegistryEditor(SettingsStore &settings, Prompts &promp
     connect(m_ui->buttonChooseFolder, &QPushButton::clicked, this, &TFormRegistryEditor::chooseFolder);
     connect(m_ui->BitBtnOK, &QPushButton::clicked, this, &TFormRegistryEditor::actionOK);
     connect(m_ui->BitBtnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    m_ui->buttonChooseFolder->setFixedWidth(scaled(this, 32));
     m_ui->ButtonDeleteSettings->hide();
 }
 

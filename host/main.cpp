@@ -33,7 +33,7 @@ int main(int argc, char *argv[])
         return say(stderr, options.message, 2);
 
     QApplication application(argc, argv);
-    QApplication::setApplicationDisplayName(u"Corvane"_s);
+    QApplication::setApplicationName(u"Corvane"_s); // a display name would be added to every window title
     SystemSettings settings;
     if (!options.data.isEmpty() && !useCompanyFolder(settings, options.data))
         return say(stderr, keyErrorText(), 1);
