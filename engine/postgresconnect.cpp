@@ -17,7 +17,8 @@ namespace {
 constexpr std::chrono::seconds connectTimeout{10};
 
 // The words and values of PQconnectStartParams, kept for the time of the call.
-class Parameters {
+class Parameters
+{
 public:
     void add(const char *keyword, const QString &value)
     {
@@ -137,6 +138,7 @@ void PostgresLink::connect()
     PQfinish(m_handle);
     m_handle = nullptr;
     m_handle = opened(m_target);
+    m_lost = false;
     ++m_generation;
     m_stale.clear();
     m_pending = 0;

@@ -3,8 +3,6 @@
 #include "engine/postgreslocks.h"
 #include "engine/postgresstatement.h"
 
-#include <libpq-fe.h>
-
 using namespace Qt::StringLiterals;
 
 namespace Engine {
@@ -52,7 +50,7 @@ qint64 PostgresConnection::lastInsertId()
 
 LockManager &PostgresConnection::locks() { return *m_locks; }
 
-bool PostgresConnection::isLost() const { return PQstatus(m_link->handle()) == CONNECTION_BAD; }
+bool PostgresConnection::isLost() const { return m_link->isLost(); }
 
 std::unique_ptr<Statement> PostgresConnection::createStatement(const QString &sql)
 {

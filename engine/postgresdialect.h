@@ -4,7 +4,8 @@
 
 namespace Engine {
 
-class PostgresDialect final : public Dialect {
+class PostgresDialect final : public Dialect
+{
 public:
     QString name(const QString &identifier) const override;
     QString columnType(const FieldDef &field) const override;
@@ -18,6 +19,7 @@ public:
     QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
     QString rowIdentity() const override;
     QString inNumberList(const QString &column) const override;
+    QString transactionLock() const override { return QStringLiteral("SELECT pg_advisory_xact_lock(?)"); }
 
     // The server knows names in lower case and one type for money and floats. The comment of a column keeps the
     // spelling, and the comment of a money column ends so.

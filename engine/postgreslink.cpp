@@ -17,6 +17,13 @@ constexpr int flushEvery = 32;
 constexpr int mostPending = 256;
 constexpr int staleLimit = 50;
 
+// The server's last words to a session that it ends; the connection itself breaks a moment later.
+bool endsSession(const PGresult *result)
+{
+    const QByteArray severity(PQresultErrorField(result, PG_DIAG_SEVERITY_NONLOCALIZED));
+    return severity == "FATAL" || severity == "PANIC";
+}
+
 QString field(const PGresult *result, int code) { return QString::fromUtf8(PQresultErrorField(result, code)); }
 
 } // namespace
@@ -39,7 +46,7 @@ void PostgresLink::prepareFor(RowReader *reader)
         m_reader->readAhead();
     if (m_lostInTransaction)
         throw connectionLost(location(), u"lost within a transaction"_s);
-    if (PQstatus(m_handle) != CONNECTION_BAD) {
+    if (!isLost()) {
         dropStaleStatements();
         return;
     }
@@ -76,7 +83,7 @@ void PostgresLink::fail(const pg_result *result) { throw errorOf(result); }
 
 EngineError PostgresLink::errorOf(const pg_result *result)
 {
-    if (PQstatus(m_handle) == CONNECTION_BAD) {
+    if (isLost() || endsSession(result)) {
         noteLoss();
         return connectionLost(location(), QString::fromUtf8(PQerrorMessage(m_handle)).trimmed());
     }
@@ -89,8 +96,11 @@ EngineError PostgresLink::errorOf(const pg_result *result)
     return postgresError(sqlState, words, field(result, PG_DIAG_MESSAGE_DETAIL), location());
 }
 
+bool PostgresLink::isLost() const { return m_lost || PQstatus(m_handle) == CONNECTION_BAD; }
+
 void PostgresLink::noteLoss()
 {
+    m_lost = true;
     m_lostInTransaction = m_lostInTransaction || m_inTransaction;
     m_inTransaction = false;
     m_pending = 0;
@@ -100,7 +110,7 @@ void PostgresLink::noteLoss()
 // --- pipeline
 // -------------------------------------------------------------------------------------------------------
 
-bool PostgresLink::isPipelining() const { return PQpipelineStatus(m_handle) != PQ_PIPELINE_OFF; }
+bool PostgresLink::isPipelining() const { return !isLost() && PQpipelineStatus(m_handle) != PQ_PIPELINE_OFF; }
 
 void PostgresLink::enterPipeline()
 {
@@ -130,7 +140,7 @@ void PostgresLink::collect(int commands, ResultPtr *last)
             const bool failed = status == PGRES_FATAL_ERROR || status == PGRES_PIPELINE_ABORTED;
             if (failed && !m_failure)
                 m_failure = errorOf(result);
-            if (PQstatus(m_handle) == CONNECTION_BAD)
+            if (isLost())
                 return;
             if (last)
                 *last = std::move(owned);
@@ -145,7 +155,7 @@ ResultPtr PostgresLink::finishSent()
     if (PQpipelineSync(m_handle) != 1)
         fail(nullptr);
     collect(m_pending, &last);
-    if (PQstatus(m_handle) != CONNECTION_BAD)
+    if (!isLost())
         PQclear(PQgetResult(m_handle)); // the synchronization itself
     m_pending = 0;
     if (!m_failure)
@@ -205,8 +215,10 @@ void PostgresLink::commit()
 void PostgresLink::rollback() noexcept
 {
     m_lostInTransaction = false;
-    if (!m_inTransaction)
+    if (!m_inTransaction || isLost()) {
+        m_inTransaction = false;
         return;
+    }
     try {
         if (m_reader)
             m_reader->readAhead();

@@ -14,14 +14,16 @@ struct pg_result;
 
 namespace Engine {
 
-struct ClearResult {
+struct ClearResult
+{
     void operator()(pg_result *result) const;
 };
 using ResultPtr = std::unique_ptr<pg_result, ClearResult>;
 
 // Where a remote database is and how it is reached. What libpq's own environment variables say (PGPORT, PGUSER,
 // PGPASSWORD, PGPASSFILE, PGSSLROOTCERT ...) comes before the account given here.
-struct PostgresTarget {
+struct PostgresTarget
+{
     QString host;
     QString database;
     QString user;
@@ -34,7 +36,8 @@ struct PostgresTarget {
 
 // A statement that takes its rows from the wire one by one, and can take the rest into memory when the wire is
 // needed for something else.
-class RowReader {
+class RowReader
+{
 public:
     virtual ~RowReader() = default;
     virtual void readAhead() = 0;
@@ -42,7 +45,8 @@ public:
 
 // The wire: connecting, and what goes over it in which order. Commands are either waited for one by one, or sent
 // one after the other (pipelined) with their answers collected later.
-class PostgresLink {
+class PostgresLink
+{
 public:
     explicit PostgresLink(PostgresTarget target); // connects
     ~PostgresLink();
@@ -51,6 +55,7 @@ public:
 
     pg_conn *handle() const { return m_handle; }
     QString location() const { return m_target.location(); }
+    bool isLost() const; // until it is made anew
     // Grows whenever the statements prepared before are gone.
     int generation() const { return m_generation; }
 
@@ -104,6 +109,7 @@ private:
     int m_pending = 0;
     std::optional<EngineError> m_failure;
     bool m_inTransaction = false;
+    bool m_lost = false;
     bool m_lostInTransaction = false;
 };
 

@@ -24,7 +24,7 @@ const QString unlockShared = u"SELECT pg_advisory_unlock_shared(?, ?)"_s;
 // twice around the record's two, as each "?" is a parameter of its own.
 const QString lockRecord = u"SELECT CASE WHEN NOT pg_try_advisory_lock_shared(?, 0) THEN false "
                            "WHEN pg_try_advisory_lock(?, ?) THEN true "
-                           "ELSE pg_advisory_unlock_shared(?, 0) AND false END"_s;
+                           "ELSE NOT pg_advisory_unlock_shared(?, 0) END"_s;
 const QString unlockRecordText = u"SELECT pg_advisory_unlock(?, ?), pg_advisory_unlock_shared(?, 0)"_s;
 
 qint64 hashOf(const QByteArray &bytes)

@@ -9,7 +9,8 @@ namespace Engine {
 
 namespace {
 
-struct Mapping {
+struct Mapping
+{
     int resultCode; // extended codes first, then the primary codes that stand for all others of their kind
     ErrorCode code;
     const char *text; // %1 the file, %2 what SQLite says
@@ -66,6 +67,14 @@ bool isWriteFailure(int resultCode, sqlite3 *db)
     return resultCode == SQLITE_IOERR_WRITE && db && sqlite3_system_errno(db) == ENOSPC;
 }
 
+// Beside a write-ahead log, a file that cannot be written cannot be opened either, and SQLite tells only the latter.
+bool isWriteProtected(int resultCode, const QString &path)
+{
+    const QFileInfo file(path);
+    return (resultCode & 0xff) == SQLITE_CANTOPEN && file.isFile()
+        && (!file.isWritable() || !QFileInfo(file.path()).isWritable());
+}
+
 QString fileText(const QString &path)
 {
     const QFileInfo file(path);
@@ -80,6 +89,8 @@ EngineError sqliteError(sqlite3 *db, int resultCode, const QString &path)
 {
     if (isWriteFailure(resultCode, db))
         resultCode = SQLITE_FULL;
+    if (isWriteProtected(resultCode, path))
+        resultCode = SQLITE_READONLY;
     const QString words = QString::fromUtf8(db ? sqlite3_errmsg(db) : sqlite3_errstr(resultCode));
     const QString driverText = QStringLiteral("SQLite %1: %2").arg(resultCode).arg(words);
     if (words.startsWith(QLatin1StringView("no such table: ")))

@@ -37,13 +37,20 @@ TestUser::TestUser(const QString &user, const QString &databaseName)
     session.applicationUser = user;
 }
 
+void TestUser::useTestServer(const QString &remoteName)
+{
+    pointToTestServer();
+    session.type = Engine::SessionType::Remote;
+    session.remoteAddress = u"127.0.0.1"_s;
+    session.remoteUser = session.remotePassword = u"zorvadin"_s;
+    database.remoteName = remoteName;
+}
+
 TestStore::TestStore(Store store)
     : m_store(store)
 {
-    if (store == Store::Remote) {
-        pointToTestServer();
+    if (store == Store::Remote)
         m_remoteName = freshName();
-    }
     m_user = anotherUser(u"maria"_s);
     m_user->database.createIfMissing = true;
     m_user->database.connection();
@@ -56,9 +63,7 @@ TestStore::~TestStore()
     if (m_store == Store::Local)
         return;
     TestUser keeper(u"keeper"_s, u"postgres"_s);
-    keeper.session.type = Engine::SessionType::Remote;
-    keeper.session.remoteAddress = u"127.0.0.1"_s;
-    keeper.session.remoteUser = keeper.session.remotePassword = u"zorvadin"_s;
+    keeper.useTestServer(u"postgres"_s);
     try {
         keeper.database.connection().execute("DROP DATABASE IF EXISTS "_L1 + m_remoteName + " WITH (FORCE)"_L1);
     } catch (const std::exception &error) {
@@ -69,14 +74,10 @@ TestStore::~TestStore()
 std::unique_ptr<TestUser> TestStore::anotherUser(const QString &user)
 {
     auto other = std::make_unique<TestUser>(user, u"Corvane"_s);
-    if (m_store == Store::Local) {
+    if (m_store == Store::Local)
         other->database.directory = m_folder.path();
-        return other;
-    }
-    other->session.type = Engine::SessionType::Remote;
-    other->session.remoteAddress = u"127.0.0.1"_s;
-    other->session.remoteUser = other->session.remotePassword = u"zorvadin"_s;
-    other->database.remoteName = m_remoteName;
+    else
+        other->useTestServer(m_remoteName);
     return other;
 }
 

@@ -11,17 +11,20 @@ enum class Store { Local, Remote };
 inline const char *storeName(Store store) { return store == Store::Local ? "Local" : "Remote"; }
 
 // Another user of a test's database: a session and a connection of its own.
-struct TestUser {
+struct TestUser
+{
     Engine::Session session;
     Engine::Database database;
 
     TestUser(const QString &user, const QString &databaseName);
+    void useTestServer(const QString &remoteName);
 };
 
 // A fresh, empty database for one test, in a folder or on the test server; gone with the object.
 // The server is the one whose folder TALLYMERE_TEST_POSTGRES names (see postgres.sh); without it a remote store
 // throws std::runtime_error.
-class TestStore {
+class TestStore
+{
 public:
     explicit TestStore(Store store);
     ~TestStore();

@@ -1,0 +1,53 @@
+#include "engine/error.h"
+#include "engine/locks.h"
+#include "tests/support/teststore.h"
+
+#include <iostream>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+using namespace Engine;
+
+// Another user of a test's database: lock_holder local FOLDER | remote NAME. Obeys the lines of standard input
+// ("record Item 5", "table Item", "open Item", "alone Item", "sql TEXT") with "yes" or "no" each.
+
+namespace {
+
+bool obey(Connection &connection, const QStringList &words)
+{
+    LockManager &locks = connection.locks();
+    const QString &order = words.first();
+    if (order == "record"_L1)
+        return locks.tryLockRecord(words[1], {words[2].toLongLong()});
+    if (order == "table"_L1)
+        return locks.tryLockTable(words[1]);
+    if (order == "open"_L1)
+        return locks.tryOpenShared(words[1]);
+    if (order == "alone"_L1)
+        return locks.tryOpenExclusive(words[1]);
+    connection.execute(words.mid(1).join(u' '));
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    TestUser user(u"anna"_s, u"Corvane"_s);
+    if (arguments[1] == "local"_L1)
+        user.database.directory = arguments[2];
+    else
+        user.useTestServer(arguments[2]);
+    try {
+        for (std::string line; std::getline(std::cin, line);) {
+            const QStringList words = QString::fromStdString(line).split(u' ');
+            std::cout << (obey(user.database.connection(), words) ? "yes" : "no") << std::endl;
+        }
+    } catch (const EngineError &error) {
+        std::cout << error.what() << std::endl;
+        return 1;
+    }
+    return 0;
+}

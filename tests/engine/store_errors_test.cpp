@@ -1,0 +1,256 @@
+#include "engine/locks.h"
+#include "engine/platform.h"
+#include "tests/engine/storetest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+using namespace Engine;
+
+namespace {
+
+bool shell(const QString &command) { return QProcess::execute(u"/bin/sh"_s, {u"-c"_s, command}) == 0; }
+
+// A small file system of its own, for what only a real one does.
+class SmallDisk
+{
+public:
+    SmallDisk() { m_mounted = shell(u"mount -t tmpfs -o size=1m tallymere-test '%1'"_s.arg(path())); }
+    ~SmallDisk()
+    {
+        if (m_mounted)
+            shell(u"umount '%1'"_s.arg(path()));
+    }
+    bool isMounted() const { return m_mounted; }
+    bool makeReadOnly() const { return shell(u"mount -o remount,ro '%1'"_s.arg(path())); }
+    QString path() const { return m_folder.path(); }
+
+private:
+    QTemporaryDir m_folder;
+    bool m_mounted = false;
+};
+
+struct LocalUser : TestUser
+{
+    explicit LocalUser(const QString &folder)
+        : TestUser(u"maria"_s, u"Corvane"_s)
+    {
+        database.directory = folder;
+    }
+    void make()
+    {
+        database.createIfMissing = true;
+        database.connection();
+    }
+};
+
+} // namespace
+
+TEST(LocalFailures, WhatCannotBeOpenedIsNamed)
+{
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkdir(u"text"_s);
+    QDir(folder.path()).mkdir(u"asfolder"_s);
+    QDir(folder.path()).mkpath(u"asfolder/Corvane.sqlite"_s);
+    QFile text(folder.filePath(u"text/Corvane.sqlite"_s));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write(QByteArray(5000, 'x'));
+    text.close();
+    const struct
+    {
+        QString directory;
+        ErrorCode code;
+        QString named;
+    } cases[] = {
+        {QString(), ErrorCode::CannotOpen, u"No database folder"_s},
+        {folder.filePath(u"missing"_s), ErrorCode::CannotOpen, folder.filePath(u"missing"_s)},
+        {folder.path(), ErrorCode::CannotOpen, u"tallymere init"_s},
+        {folder.filePath(u"asfolder"_s), ErrorCode::CannotOpen, u"Corvane.sqlite in "_s + folder.path()},
+        {folder.filePath(u"text"_s), ErrorCode::NotADatabase, u"Corvane.sqlite in "_s + folder.path()},
+    };
+    for (const auto &c : cases) {
+        LocalUser user(c.directory);
+        QString message;
+        EXPECT_EQ(codeOf([&] { user.database.connection(); }, &message), c.code) << message.toStdString();
+        EXPECT_TRUE(message.contains(c.named)) << message.toStdString();
+        EXPECT_FALSE(user.database.isOpen());
+    }
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"Corvane.sqlite"_s))) << "asking made no file";
+}
+
+TEST(LocalFailures, AFullDiskUndoesTheTransactionAndSaysSo)
+{
+    const SmallDisk disk;
+    if (!disk.isMounted())
+        GTEST_SKIP() << "needs the right to mount";
+    LocalUser user(disk.path());
+    user.make();
+    Connection &connection = user.database.connection();
+    connection.execute(u"CREATE TABLE T (a INTEGER PRIMARY KEY, b TEXT); INSERT INTO T VALUES (1, 'kept')"_s);
+    const auto fill = [&] {
+        Transaction transaction(connection);
+        const StatementPtr insert = connection.prepare(u"INSERT INTO T (b) VALUES (?)"_s);
+        insert->bindText(0, QString(10000, u'x'));
+        for (int i = 0; i < 1000; ++i)
+            insert->execute();
+        transaction.commit();
+    };
+    connection.execute(u"PRAGMA cache_size = 10"_s); // writes before the commit
+    QString message;
+    EXPECT_EQ(codeOf(fill, &message), ErrorCode::DiskFull) << message.toStdString();
+    EXPECT_TRUE(message.contains(disk.path()));
+    EXPECT_FALSE(connection.inTransaction());
+    const StatementPtr count = connection.prepare(u"SELECT count(*), min(b) FROM T"_s);
+    ASSERT_TRUE(count->next());
+    EXPECT_EQ(count->intAt(0), 1);
+    EXPECT_EQ(count->textAt(1), u"kept"_s);
+}
+
+TEST(LocalFailures, AFolderThatCannotBeWrittenIsRefused)
+{
+    const SmallDisk disk;
+    if (!disk.isMounted())
+        GTEST_SKIP() << "needs the right to mount";
+    LocalUser(disk.path()).make();
+    ASSERT_TRUE(disk.makeReadOnly());
+    LocalUser user(disk.path());
+    QString message;
+    EXPECT_EQ(codeOf([&] { user.database.connection(); }, &message), ErrorCode::ReadOnly) << message.toStdString();
+    EXPECT_TRUE(message.contains(disk.path())) << message.toStdString();
+}
+
+TEST(LocalFailures, AWriterWhoDoesNotGetFreeIsReportedAsBusy)
+{
+    TestStore store(Store::Local);
+    store.execute(u"CREATE TABLE T (a INTEGER)"_s);
+    const auto other = store.anotherUser();
+    Transaction transaction(store.database().connection());
+    Connection &waiting = other->database.connection();
+    waiting.execute(u"PRAGMA busy_timeout = 200"_s);
+    EXPECT_EQ(codeOf([&] { waiting.begin(); }), ErrorCode::Busy);
+    EXPECT_FALSE(waiting.inTransaction());
+    waiting.execute(u"SELECT * FROM T"_s); // reading goes on
+}
+
+TEST(LocalFailures, TheJournalFitsTheFileSystem)
+{
+    TestStore store(Store::Local);
+    const bool local = isLocalFileSystem(store.directory());
+    const StatementPtr mode = store.database().connection().prepare(u"PRAGMA journal_mode"_s);
+    ASSERT_TRUE(mode->next());
+    EXPECT_EQ(mode->textAt(0), local ? u"wal"_s : u"delete"_s);
+    EXPECT_TRUE(isLocalFileSystem(u"/proc/version"_s));
+}
+
+// --- server --------------------------------------------------------------------------------------------------------
+
+TEST(RemoteFailures, WhatCannotBeReachedIsNamed)
+{
+    const TestStore store(Store::Remote); // sets the port
+    const struct
+    {
+        QString address;
+        QString database;
+        QString password;
+        LinkType link;
+        ErrorCode code;
+        QString named;
+    } cases[] = {
+        {u""_s, u"postgres"_s, u"zorvadin"_s, LinkType::Lan, ErrorCode::CannotOpen, u"No server address"_s},
+        {u"127.0.0.2"_s, u"postgres"_s, u"zorvadin"_s, LinkType::Lan, ErrorCode::CannotOpen, u"127.0.0.2"_s},
+        {u"127.0.0.1"_s, u"nowhere"_s, u"zorvadin"_s, LinkType::Lan, ErrorCode::CannotOpen, u"nowhere"_s},
+        {u"127.0.0.1"_s, u"postgres"_s, u"wrong"_s, LinkType::Lan, ErrorCode::AccessDenied, u"127.0.0.1"_s},
+        {u"127.0.0.1"_s, u"postgres"_s, u"zorvadin"_s, LinkType::Internet, ErrorCode::CannotOpen, u"SSL"_s},
+    };
+    for (const auto &c : cases) {
+        TestUser user(u"maria"_s, u"Corvane"_s);
+        user.useTestServer(c.database);
+        user.session.remoteAddress = c.address;
+        user.session.remotePassword = c.password;
+        user.session.remoteLink = c.link;
+        QString message;
+        EXPECT_EQ(codeOf([&] { user.database.connection(); }, &message), c.code) << message.toStdString();
+        EXPECT_TRUE(message.contains(c.named)) << message.toStdString();
+    }
+}
+
+namespace {
+
+class ConnectionLostTest : public testing::Test
+{
+protected:
+    TestStore store{Store::Remote};
+    Connection &connection = store.database().connection();
+
+    void SetUp() override { store.execute(u"CREATE TABLE T (a integer)"_s); }
+    void cut()
+    {
+        const auto other = store.anotherUser(u"keeper"_s);
+        other->database.connection().execute(
+            u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = "
+            "current_database() AND pid <> pg_backend_pid()"_s);
+    }
+    qint64 count()
+    {
+        const StatementPtr statement = connection.prepare(u"SELECT count(*) FROM T"_s);
+        return statement->next() ? statement->intAt(0) : -1;
+    }
+};
+
+} // namespace
+
+TEST_F(ConnectionLostTest, TheNextUseConnectsAgain)
+{
+    EXPECT_EQ(count(), 0);
+    ASSERT_TRUE(connection.locks().tryOpenShared(u"T"_s));
+    cut();
+    QString message;
+    EXPECT_EQ(codeOf([&] { count(); }, &message), ErrorCode::ConnectionLost);
+    EXPECT_TRUE(message.contains(u"127.0.0.1"_s));
+    EXPECT_EQ(count(), 0) << "with the statement prepared before";
+    const auto other = store.anotherUser();
+    EXPECT_FALSE(other->database.connection().locks().tryOpenExclusive(u"T"_s)) << "the table is open as before";
+}
+
+TEST_F(ConnectionLostTest, NothingIsWrittenOutsideTheLostTransaction)
+{
+    for (const bool pipelined : {false, true}) {
+        Transaction transaction(connection);
+        store.execute(u"INSERT INTO T VALUES (1)"_s);
+        if (pipelined)
+            connection.prepare(u"INSERT INTO T VALUES (2)"_s)->send();
+        cut();
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_EQ(codeOf([&] { store.execute(u"INSERT INTO T VALUES (3)"_s); }), ErrorCode::ConnectionLost);
+            EXPECT_FALSE(connection.inTransaction());
+        }
+        EXPECT_NE(codeOf([&] { transaction.commit(); }), ErrorCode::KeyViolation);
+    }
+    EXPECT_EQ(count(), 0);
+}
+
+TEST_F(ConnectionLostTest, LostRecordLocksAreNotBelievedIn)
+{
+    ASSERT_TRUE(connection.locks().tryLockRecord(u"T"_s, {1}));
+    cut();
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(codeOf([&] { count(); }), ErrorCode::ConnectionLost);
+    connection.locks().unlockRecord(u"T"_s, {1});
+    EXPECT_EQ(count(), 0);
+    EXPECT_TRUE(connection.locks().tryLockRecord(u"T"_s, {1}));
+}
+
+TEST_F(ConnectionLostTest, ReadingStopsWithAnError)
+{
+    store.execute(u"INSERT INTO T SELECT generate_series(1, 300000)"_s);
+    const StatementPtr rows = connection.prepare(u"SELECT a FROM T"_s);
+    ASSERT_TRUE(rows->next());
+    cut();
+    EXPECT_EQ(codeOf([&] {
+                  while (rows->next()) { }
+              }),
+              ErrorCode::ConnectionLost);
+    EXPECT_EQ(count(), 300000);
+}

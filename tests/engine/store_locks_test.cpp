@@ -1,0 +1,236 @@
+#include "engine/locks.h"
+#include "tests/engine/storetest.h"
+
+#include <chrono>
+#include <QCoreApplication>
+#include <QProcess>
+#include <QSysInfo>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using namespace Engine;
+
+namespace {
+
+// Another user's program.
+class OtherProgram
+{
+public:
+    explicit OtherProgram(const TestStore &store)
+    {
+        const bool local = store.store() == Store::Local;
+        m_process.start(QCoreApplication::applicationDirPath() + "/engine_lock_holder"_L1,
+                        {local ? u"local"_s : u"remote"_s, local ? store.directory() : store.remoteName()});
+    }
+    ~OtherProgram() { kill(); }
+
+    QString ask(const QString &order)
+    {
+        tell(order);
+        if (!m_process.canReadLine())
+            m_process.waitForReadyRead(10000);
+        return QString::fromUtf8(m_process.readLine()).trimmed();
+    }
+    void tell(const QString &order)
+    {
+        m_process.write((order + u'\n').toUtf8());
+        m_process.waitForBytesWritten(10000);
+    }
+    void kill()
+    {
+        m_process.kill();
+        m_process.waitForFinished(10000);
+    }
+    qint64 id() const { return m_process.processId(); }
+
+private:
+    QProcess m_process;
+};
+
+// The server notices a death within a second or so; the file system at once.
+template <typename Call> bool soon(Call call)
+{
+    for (int i = 0; i < 50; ++i) {
+        if (call())
+            return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    }
+    return false;
+}
+
+class LocksTest : public StoreTest
+{
+protected:
+    LockManager &mine = connection.locks();
+    std::unique_ptr<TestUser> annasUser = store.anotherUser();
+    LockManager &annas = annasUser->database.connection().locks();
+};
+
+} // namespace
+
+TEST_P(LocksTest, WhatTwoUsersMayHoldAtTheSameTime)
+{
+    using Take = bool (*)(LockManager &);
+    using Free = void (*)(LockManager &);
+    const struct Kind
+    {
+        const char *name;
+        Take take;
+        Free free;
+    } kinds[] = {
+        {"open", [](LockManager &l) { return l.tryOpenShared(u"Item"_s); },
+         [](LockManager &l) { l.closeShared(u"Item"_s); }},
+        {"alone", [](LockManager &l) { return l.tryOpenExclusive(u"item"_s); },
+         [](LockManager &l) { l.closeExclusive(u"Item"_s); }},
+        {"record", [](LockManager &l) { return l.tryLockRecord(u"Item"_s, {5}); },
+         [](LockManager &l) { l.unlockRecord(u"ITEM"_s, {5}); }},
+        {"another record", [](LockManager &l) { return l.tryLockRecord(u"Item"_s, {6}); },
+         [](LockManager &l) { l.unlockRecord(u"Item"_s, {6}); }},
+        {"table", [](LockManager &l) { return l.tryLockTable(u"Item"_s); },
+         [](LockManager &l) { l.unlockTable(u"Item"_s); }},
+        {"another table", [](LockManager &l) { return l.tryLockTable(u"Tax"_s) && l.tryOpenExclusive(u"Tax"_s); },
+         [](LockManager &l) {
+             l.unlockTable(u"Tax"_s);
+             l.closeExclusive(u"Tax"_s);
+         }},
+    };
+    // Rows: what I hold; columns: what she asks for.
+    const char *const allowed[] = {
+        "101111", // open
+        "001111", // alone
+        "110101", // record
+        "111001", // another record
+        "110001", // table
+        "111110", // another table
+    };
+    for (size_t i = 0; i < std::size(kinds); ++i) {
+        for (size_t j = 0; j < std::size(kinds); ++j) {
+            SCOPED_TRACE(std::string(kinds[i].name) + " against " + kinds[j].name);
+            ASSERT_TRUE(kinds[i].take(mine));
+            const bool got = kinds[j].take(annas);
+            EXPECT_EQ(got, allowed[i][j] == '1');
+            if (got)
+                kinds[j].free(annas);
+            // Oneself is never in the way, but for the one record.
+            const bool again = kinds[j].take(mine);
+            EXPECT_EQ(again, !(i == j && QLatin1StringView(kinds[i].name).contains("record"_L1)));
+            if (again)
+                kinds[j].free(mine);
+            kinds[i].free(mine);
+            EXPECT_TRUE(kinds[j].take(annas)) << "everything was given back";
+            kinds[j].free(annas);
+        }
+    }
+}
+
+TEST_P(LocksTest, RecordsStayLockedWhenTheTableLockAboveThemGoes)
+{
+    ASSERT_TRUE(mine.tryLockRecord(u"Item"_s, {1}));
+    ASSERT_TRUE(mine.tryLockTable(u"Item"_s));
+    ASSERT_TRUE(mine.tryLockRecord(u"Item"_s, {2}));
+    ASSERT_TRUE(mine.tryLockTable(u"Item"_s));
+    mine.unlockTable(u"Item"_s);
+    EXPECT_TRUE(mine.holdsTable(u"Item"_s)) << "it was taken twice";
+    EXPECT_FALSE(annas.tryLockRecord(u"Item"_s, {3}));
+    mine.unlockTable(u"Item"_s);
+    EXPECT_FALSE(annas.tryLockRecord(u"Item"_s, {1}));
+    EXPECT_FALSE(annas.tryLockRecord(u"Item"_s, {2}));
+    EXPECT_TRUE(annas.tryLockRecord(u"Item"_s, {3}));
+    mine.unlockRecord(u"Item"_s, {1});
+    mine.unlockRecord(u"Item"_s, {2});
+    EXPECT_TRUE(annas.tryLockTable(u"Item"_s));
+    EXPECT_FALSE(mine.tryLockRecord(u"Item"_s, {1}));
+}
+
+TEST_P(LocksTest, KeysOfSeveralFieldsAreRecordsOfTheirOwn)
+{
+    ASSERT_TRUE(mine.tryLockRecord(u"IBalance"_s, {1, 2}));
+    EXPECT_FALSE(annas.tryLockRecord(u"IBalance"_s, {1, 2}));
+    EXPECT_TRUE(annas.tryLockRecord(u"IBalance"_s, {2, 1}));
+    EXPECT_TRUE(annas.tryLockRecord(u"ItemCtl"_s, {0}));
+    EXPECT_TRUE(annas.tryLockRecord(u"IBalance"_s, {-1, 0}));
+}
+
+TEST_P(LocksTest, ClosingOneOfTwoOpenTablesKeepsTheOther)
+{
+    ASSERT_TRUE(mine.tryOpenShared(u"Item"_s));
+    ASSERT_TRUE(mine.tryOpenShared(u"Item"_s));
+    ASSERT_TRUE(mine.tryOpenExclusive(u"Item"_s));
+    mine.closeExclusive(u"Item"_s);
+    EXPECT_TRUE(annas.tryOpenShared(u"Item"_s));
+    annas.closeShared(u"Item"_s);
+    mine.closeShared(u"Item"_s);
+    EXPECT_FALSE(annas.tryOpenExclusive(u"Item"_s));
+    mine.closeShared(u"Item"_s);
+    EXPECT_TRUE(annas.tryOpenExclusive(u"Item"_s));
+}
+
+TEST_P(LocksTest, TheHolderIsNamed)
+{
+    EXPECT_FALSE(mine.ownerOf(u"Item"_s));
+    ASSERT_TRUE(annas.tryLockRecord(u"Item"_s, {5}));
+    ASSERT_TRUE(annas.tryLockTable(u"Tax"_s));
+    EXPECT_FALSE(annas.ownerOf(u"Item"_s)) << "oneself is not another user";
+    EXPECT_FALSE(mine.ownerOf(u"Vendor"_s));
+    for (const QString &table : {u"Item"_s, u"Tax"_s}) {
+        const std::optional<LockOwner> owner = mine.ownerOf(table);
+        ASSERT_TRUE(owner) << table.toStdString();
+        EXPECT_EQ(owner->user, u"anna"_s);
+        EXPECT_EQ(owner->processId, QCoreApplication::applicationPid());
+        EXPECT_TRUE(QSysInfo::machineHostName().startsWith(owner->host));
+    }
+    annas.unlockRecord(u"Item"_s, {5});
+    EXPECT_FALSE(mine.ownerOf(u"Item"_s));
+    EXPECT_TRUE(mine.ownerOf(u"Tax"_s));
+}
+
+TEST_P(LocksTest, AKilledProgramLeavesNoLockBehind)
+{
+    OtherProgram other(store);
+    ASSERT_EQ(other.ask(u"open Item"_s), u"yes"_s);
+    ASSERT_EQ(other.ask(u"record Item 5"_s), u"yes"_s);
+    ASSERT_EQ(other.ask(u"table Tax"_s), u"yes"_s);
+    EXPECT_FALSE(mine.tryLockRecord(u"Item"_s, {5}));
+    EXPECT_FALSE(mine.tryLockTable(u"Item"_s));
+    EXPECT_FALSE(mine.tryLockRecord(u"Tax"_s, {1}));
+    EXPECT_FALSE(mine.tryOpenExclusive(u"Item"_s));
+    const std::optional<LockOwner> owner = mine.ownerOf(u"Tax"_s);
+    ASSERT_TRUE(owner);
+    EXPECT_EQ(owner->processId, other.id());
+    other.kill();
+    EXPECT_TRUE(soon([&] { return mine.tryLockRecord(u"Item"_s, {5}); }));
+    EXPECT_TRUE(soon([&] { return mine.tryLockTable(u"Tax"_s); }));
+    EXPECT_TRUE(soon([&] { return mine.tryOpenExclusive(u"Item"_s); }));
+}
+
+TEST_P(LocksTest, AProgramKilledWithinATransactionLeavesNothingBehind)
+{
+    store.execute(u"CREATE TABLE T (a integer)"_s);
+    OtherProgram other(store);
+    ASSERT_EQ(other.ask(u"table T"_s), u"yes"_s);
+    ASSERT_EQ(other.ask(GetParam() == Store::Local ? u"sql BEGIN IMMEDIATE"_s : u"sql BEGIN"_s), u"yes"_s);
+    ASSERT_EQ(other.ask(u"sql INSERT INTO T VALUES (1)"_s), u"yes"_s);
+    if (GetParam() == Store::Remote)
+        other.tell(u"sql SELECT pg_sleep(30)"_s); // the server is busy for a client that is gone
+    other.kill();
+    EXPECT_TRUE(soon([&] { return mine.tryLockTable(u"T"_s); }));
+    Transaction transaction(connection);
+    EXPECT_EQ(one(u"SELECT count(*) FROM T"_s), u"0"_s);
+    store.execute(u"INSERT INTO T VALUES (2)"_s);
+    transaction.commit();
+}
+
+TEST_P(LocksTest, LocksSurviveARollbackAndAreGivenBackAfterAFailure)
+{
+    store.execute(u"CREATE TABLE T (a integer)"_s);
+    connection.begin();
+    ASSERT_TRUE(mine.tryLockRecord(u"T"_s, {1}));
+    ASSERT_TRUE(mine.tryLockRecord(u"T"_s, {2}));
+    EXPECT_NE(codeOf([&] { store.execute(u"INSERT INTO Nowhere VALUES (1)"_s); }), ErrorCode::WrongState);
+    mine.unlockRecord(u"T"_s, {2}); // in a transaction that has failed
+    connection.rollback();
+    EXPECT_FALSE(annas.tryLockRecord(u"T"_s, {1}));
+    EXPECT_TRUE(annas.tryLockRecord(u"T"_s, {2}));
+}
+
+ON_BOTH_STORES(LocksTest);

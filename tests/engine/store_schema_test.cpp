@@ -1,0 +1,229 @@
+#include "engine/locks.h"
+#include "tests/engine/storetest.h"
+
+using namespace Qt::StringLiterals;
+using namespace Engine;
+
+namespace {
+
+class SchemaTest : public StoreTest
+{
+};
+
+const IndexDef primaryOver(const QString &fields, IndexOptions more = IndexOption::None)
+{
+    return {QString(), fields, IndexOption::Primary | more};
+}
+
+QList<TableLayout> layouts()
+{
+    return {
+        {u"Vendor"_s,
+         {{u"VendorID"_s, FieldType::Integer},
+          {u"VendorName"_s, FieldType::Text, 40},
+          {u"Notes"_s, FieldType::Memo},
+          {u"DiscPC"_s, FieldType::Float},
+          {u"Owing"_s, FieldType::Money},
+          {u"NetDays"_s, FieldType::SmallInt},
+          {u"Since"_s, FieldType::Date},
+          {u"Changed"_s, FieldType::DateTime},
+          {u"User"_s, FieldType::Text, 8},
+          {u"Suspended"_s, FieldType::Boolean}},
+         {primaryOver(u"VendorID"_s),
+          {u"VENDORNAME1"_s, u"VendorName"_s, IndexOption::CaseInsensitive},
+          {u"USER"_s, u"User;VendorName"_s, IndexOption::CaseInsensitive},
+          {u"BYDAY"_s, u"Since;VendorID"_s, IndexOption::Descending},
+          {u"MIXED"_s, u"NetDays;VendorName"_s, IndexOption::CaseInsensitive | IndexOption::Descending},
+          {u"OWING"_s, u"Owing"_s, IndexOption::None}}},
+        {u"IHist"_s,
+         {{u"IHistID"_s, FieldType::AutoInc}, {u"ItemID"_s, FieldType::Integer}},
+         {primaryOver(u"IHistID"_s), {u"ITEMID"_s, u"ItemID"_s, IndexOption::None}}},
+        {u"IBalance"_s,
+         {{u"ItemID"_s, FieldType::Integer}, {u"WarehouseID"_s, FieldType::Integer}, {u"Qty"_s, FieldType::Float}},
+         {primaryOver(u"ItemID;WarehouseID"_s), {u"ITEMID"_s, u"ItemID"_s, IndexOption::None}}},
+        {u"VContact"_s,
+         {{u"VendorID"_s, FieldType::Integer},
+          {u"ContactID"_s, FieldType::AutoInc},
+          {u"LastName"_s, FieldType::Text, 30}},
+         {primaryOver(u"VendorID;ContactID"_s),
+          {u"FULLNAME"_s, u"VendorID;LastName"_s, IndexOption::CaseInsensitive}}},
+        {u"Config"_s, {{u"Code"_s, FieldType::Text, 5}, {u"Text"_s, FieldType::Memo}}, {primaryOver(u"Code"_s)}},
+        {u"Latest"_s,
+         {{u"Day"_s, FieldType::Date}, {u"No"_s, FieldType::Integer}},
+         {primaryOver(u"Day;No"_s, IndexOption::Descending)}},
+        {u"ItemCtl"_s, {{u"NextItemNo"_s, FieldType::Integer}}, {}},
+    };
+}
+
+TableLayout items()
+{
+    return {u"Item"_s,
+            {{u"ItemID"_s, FieldType::AutoInc}, {u"Name"_s, FieldType::Text, 10}},
+            {primaryOver(u"ItemID"_s), {u"NAME1"_s, u"Name"_s, IndexOption::CaseInsensitive}}};
+}
+
+} // namespace
+
+TEST_P(SchemaTest, EveryLayoutIsReadBackAsItWasMade)
+{
+    for (const TableLayout &layout : layouts()) {
+        SCOPED_TRACE(layout.name.toStdString());
+        EXPECT_TRUE(database.differs(layout));
+        database.createTable(layout);
+        const std::optional<TableLayout> stored = connection.describe(layout.name.toUpper());
+        ASSERT_TRUE(stored);
+        EXPECT_EQ(stored->name, layout.name);
+        EXPECT_EQ(stored->fields, layout.fields);
+        EXPECT_EQ(stored->indexes, layout.indexes);
+        EXPECT_FALSE(database.differs(layout));
+    }
+    QStringList names = database.tableNames();
+    EXPECT_EQ(names.size(), layouts().size()) << names.join(u' ').toStdString();
+    database.dropTable(u"Vendor"_s);
+    EXPECT_FALSE(database.tableExists(u"Vendor"_s));
+    EXPECT_EQ(codeOf([&] { database.dropTable(u"Vendor"_s); }), ErrorCode::NoSuchTable);
+}
+
+TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
+{
+    const struct
+    {
+        FieldDef from;
+        QStringView stored; // the value as SQL
+        FieldDef to;
+        QStringView expected; // as text; "-" for null
+    } cases[] = {
+        {{u"F"_s, FieldType::Text, 20}, u"'A long name'", {u"F"_s, FieldType::Text, 6}, u"A long"},
+        {{u"F"_s, FieldType::Text, 20}, u"'Ünïcödé'", {u"F"_s, FieldType::Text, 3}, u"Ünï"},
+        {{u"F"_s, FieldType::Text, 20}, u"' 42'", {u"F"_s, FieldType::Integer}, u"42"},
+        {{u"F"_s, FieldType::Text, 20}, u"'-1.75'", {u"F"_s, FieldType::Money}, u"-1.75"},
+        {{u"F"_s, FieldType::Text, 20}, u"'42 pcs'", {u"F"_s, FieldType::Integer}, u"-"},
+        {{u"F"_s, FieldType::Text, 20}, u"''", {u"F"_s, FieldType::Float}, u"-"},
+        {{u"F"_s, FieldType::Text, 20}, u"'99999999999'", {u"F"_s, FieldType::Integer}, u"-"},
+        {{u"F"_s, FieldType::Text, 20}, u"'2024-02-29'", {u"F"_s, FieldType::Date}, u"2024-02-29"},
+        {{u"F"_s, FieldType::Text, 20}, u"'2023-02-29'", {u"F"_s, FieldType::Date}, u"-"},
+        {{u"F"_s, FieldType::Text, 20}, u"'soon'", {u"F"_s, FieldType::Date}, u"-"},
+        {{u"F"_s, FieldType::Text, 20}, u"'2024-02-29'", {u"F"_s, FieldType::DateTime}, u"2024-02-29 00:00:00"},
+        {{u"F"_s, FieldType::Text, 20}, u"'Yes'", {u"F"_s, FieldType::Boolean}, u"true"},
+        {{u"F"_s, FieldType::Text, 20}, u"'maybe'", {u"F"_s, FieldType::Boolean}, u"-"},
+        {{u"F"_s, FieldType::Integer}, u"40000", {u"F"_s, FieldType::SmallInt}, u"-"},
+        {{u"F"_s, FieldType::Integer}, u"-7", {u"F"_s, FieldType::SmallInt}, u"-7"},
+        {{u"F"_s, FieldType::Integer}, u"7", {u"F"_s, FieldType::Float}, u"7"},
+        {{u"F"_s, FieldType::Float}, u"-2.9", {u"F"_s, FieldType::Integer}, u"-2"},
+        {{u"F"_s, FieldType::Float}, u"1e12", {u"F"_s, FieldType::Integer}, u"-"},
+        {{u"F"_s, FieldType::Float}, u"3", {u"F"_s, FieldType::Text, 10}, u"3"},
+        {{u"F"_s, FieldType::Integer}, u"2", {u"F"_s, FieldType::Boolean}, u"true"},
+        {{u"F"_s, FieldType::Date}, u"'2024-02-29'", {u"F"_s, FieldType::DateTime}, u"2024-02-29 00:00:00"},
+        {{u"F"_s, FieldType::DateTime}, u"'2024-02-29 10:11:12'", {u"F"_s, FieldType::Date}, u"2024-02-29"},
+        {{u"F"_s, FieldType::DateTime},
+         u"'2024-02-29 10:11:12'",
+         {u"F"_s, FieldType::Memo},
+         u"2024-02-29 10:11:12"},
+        {{u"F"_s, FieldType::Date}, u"'2024-02-29'", {u"F"_s, FieldType::Integer}, u"-"},
+        {{u"F"_s, FieldType::Integer}, u"NULL", {u"F"_s, FieldType::Text, 5}, u"-"},
+    };
+    int number = 0;
+    for (const auto &c : cases) {
+        SCOPED_TRACE(++number);
+        TableLayout layout{u"T"_s, {{u"Gone"_s, FieldType::Integer}, {u"ID"_s, FieldType::Integer}, c.from}, {}};
+        database.createTable(layout);
+        store.execute(u"INSERT INTO T VALUES (1, 2, %1)"_s.arg(c.stored.toString()));
+        layout.fields = {c.to, {u"ID"_s, FieldType::Integer}, {u"Added"_s, FieldType::Text, 5}};
+        layout.indexes = {primaryOver(u"ID"_s), {u"F"_s, u"F"_s, IndexOption::Descending}};
+        database.restructureTable(layout);
+        EXPECT_FALSE(database.differs(layout));
+        StatementPtr row = connection.prepare(u"SELECT F, ID, Added FROM T"_s);
+        ASSERT_TRUE(row->next());
+        const Value value = row->valueAt(0, c.to.type);
+        const QString text = value.isNull()   ? u"-"_s
+            : c.to.type == FieldType::Boolean ? (row->intAt(0) != 0 ? u"true"_s : u"false"_s)
+            : c.to.type == FieldType::Float   ? QString::number(row->doubleAt(0))
+                                              : row->textAt(0);
+        EXPECT_EQ(text, c.expected.toString());
+        EXPECT_EQ(row->intAt(1), 2);
+        EXPECT_TRUE(row->isNull(2));
+        row.reset();
+        database.dropTable(u"T"_s);
+    }
+}
+
+TEST_P(SchemaTest, IndexesAloneAreReplacedWithoutTouchingRows)
+{
+    TableLayout layout = items();
+    database.createTable(layout);
+    store.execute(u"INSERT INTO Item (Name) VALUES ('a')"_s);
+    layout.indexes[1].options = IndexOption::Descending;
+    layout.indexes.append({u"BOTH"_s, u"Name;ItemID"_s, IndexOption::None});
+    EXPECT_TRUE(database.differs(layout));
+    database.createOrUpdateTable(layout);
+    EXPECT_FALSE(database.differs(layout));
+    EXPECT_EQ(one(u"SELECT Name FROM Item"_s), u"a"_s);
+}
+
+TEST_P(SchemaTest, AutoIncrementNeverGivesANumberTwice)
+{
+    TableLayout layout = items();
+    database.createTable(layout);
+    store.execute(u"INSERT INTO Item (Name) VALUES ('a'), ('b'), ('c')"_s);
+    EXPECT_EQ(connection.lastInsertId(), 3);
+    store.execute(u"DELETE FROM Item WHERE Name = 'c'"_s);
+    layout.fields.append({u"More"_s, FieldType::Integer});
+    database.restructureTable(layout);
+    const StatementPtr insert = connection.prepare(u"INSERT INTO Item (Name) VALUES (?)"_s);
+    insert->bindText(0, u"d"_s);
+    insert->execute();
+    EXPECT_EQ(connection.lastInsertId(), 4);
+    EXPECT_EQ(one(u"SELECT ItemID FROM Item WHERE Name = 'd'"_s), u"4"_s);
+}
+
+TEST_P(SchemaTest, ARestructuringThatFailsChangesNothing)
+{
+    TableLayout layout{u"T"_s, {{u"ID"_s, FieldType::Integer}, {u"Name"_s, FieldType::Text, 10}}, {}};
+    database.createTable(layout);
+    store.execute(u"INSERT INTO T VALUES (1, 'one'), (1, 'again')"_s);
+    const TableLayout before = *connection.describe(u"T"_s);
+    layout.fields[1].size = 3;
+    layout.indexes = {primaryOver(u"ID"_s)};
+    EXPECT_EQ(codeOf([&] { database.restructureTable(layout); }), ErrorCode::KeyViolation);
+    EXPECT_EQ(connection.describe(u"T"_s)->fields, before.fields);
+    EXPECT_EQ(one(u"SELECT count(*) FROM T WHERE Name = 'again'"_s), u"1"_s);
+}
+
+TEST_P(SchemaTest, OneRowIsEnsuredOnce)
+{
+    const TableLayout layout = layouts().last();
+    for (int i = 0; i < 2; ++i) {
+        database.createOrUpdateTable(layout, Database::EnsureOneRow::Yes);
+        EXPECT_EQ(one(u"SELECT count(*) FROM ItemCtl"_s), u"1"_s);
+    }
+    EXPECT_EQ(one(u"SELECT NextItemNo FROM ItemCtl"_s), u"-"_s);
+}
+
+TEST_P(SchemaTest, ATableThatOthersHaveOpenIsNotChanged)
+{
+    TableLayout layout = items();
+    database.createTable(layout);
+    auto other = store.anotherUser();
+    ASSERT_TRUE(other->database.connection().locks().tryOpenShared(u"Item"_s));
+    layout.fields[1].size = 20;
+    QString message;
+    EXPECT_EQ(codeOf([&] { database.restructureTable(layout); }, &message), ErrorCode::TableInUse);
+    EXPECT_TRUE(message.contains(u"Item"_s));
+    EXPECT_EQ(codeOf([&] { database.repairTable(u"Item"_s); }), ErrorCode::TableInUse);
+    EXPECT_EQ(codeOf([&] { database.dropTable(u"Item"_s); }), ErrorCode::TableInUse);
+    other->database.connection().locks().closeShared(u"Item"_s);
+    database.restructureTable(layout);
+    EXPECT_FALSE(database.differs(layout));
+}
+
+ON_BOTH_STORES(SchemaTest);
+
+TEST(InMemory, TablesLiveAsLongAsTheDatabase)
+{
+    Session session(u"Test"_s);
+    const auto memory = Database::inMemory(session);
+    memory->createTable(items());
+    EXPECT_FALSE(memory->differs(items()));
+    const auto another = Database::inMemory(session);
+    EXPECT_FALSE(another->tableExists(u"Item"_s));
+}

@@ -1,0 +1,252 @@
+#include "tests/engine/storetest.h"
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+using namespace Engine;
+
+namespace {
+
+TableLayout everyType()
+{
+    return {u"Sample"_s,
+            {{u"SampleID"_s, FieldType::Integer},
+             {u"Small"_s, FieldType::SmallInt},
+             {u"Quantity"_s, FieldType::Float},
+             {u"Cost"_s, FieldType::Money},
+             {u"Posted"_s, FieldType::Boolean},
+             {u"Day"_s, FieldType::Date},
+             {u"Moment"_s, FieldType::DateTime},
+             {u"Name"_s, FieldType::Text, 20},
+             {u"User"_s, FieldType::Text, 10},
+             {u"Notes"_s, FieldType::Memo}},
+            {{QString(), u"SampleID"_s, IndexOption::Primary}}};
+}
+
+class StatementTest : public StoreTest
+{
+protected:
+    void SetUp() override { database.createTable(everyType()); }
+
+    void insert(qint64 key, const QString &name)
+    {
+        const StatementPtr statement = connection.prepare(u"INSERT INTO Sample (SampleID, Name) VALUES (?, ?)"_s);
+        statement->bindInt(0, key);
+        statement->bindText(1, name);
+        statement->execute();
+    }
+    void send(qint64 key)
+    {
+        const StatementPtr statement =
+            connection.prepare(u"INSERT INTO Sample (SampleID, Name) VALUES (?, 'sent')"_s);
+        statement->bindInt(0, key);
+        statement->send();
+    }
+};
+
+} // namespace
+
+TEST_P(StatementTest, ValuesComeBackAsTheyWere)
+{
+    const QList<QList<Value>> rows{
+        {1, -32768, 0.1, Money::fromTenThousandths(12345678), true, QDate(2024, 2, 29),
+         QDateTime(QDate(2024, 2, 29), QTime(23, 59, 58)), u"Grüße 'quoted' 😀"_s, u"maria"_s, u"two\nlines"_s},
+        {2, 32767, -1e300, 5.0, false, QDate(1, 1, 1), QDateTime(QDate(1999, 12, 31), QTime(0, 0)), u""_s, u"?"_s,
+         u""_s},
+        {3, 0, std::numeric_limits<double>::denorm_min(), 1e15, Value(), Value(), Value(), Value(), Value(),
+         Value()},
+        {std::numeric_limits<qint32>::min(), Value(), 0.30000000000000004, Value(), Value(), Value(), Value(),
+         Value(), Value(), Value()},
+    };
+    const StatementPtr insert = connection.prepare(u"INSERT INTO Sample VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"_s);
+    for (const QList<Value> &row : rows) {
+        for (int i = 0; i < row.size(); ++i)
+            insert->bind(i, row[i]);
+        ASSERT_EQ(insert->execute(), 1);
+    }
+    const StatementPtr read = connection.prepare(u"SELECT * FROM Sample WHERE SampleID = ?"_s);
+    const QList<FieldDef> fields = everyType().fields;
+    for (const QList<Value> &row : rows) {
+        read->bind(0, row[0]);
+        ASSERT_TRUE(read->next());
+        for (int i = 0; i < row.size(); ++i)
+            EXPECT_EQ(read->valueAt(i, fields[i].type), row[i]) << fields[i].name.toStdString();
+        EXPECT_FALSE(read->next());
+    }
+    if (GetParam() == Store::Local) {
+        // What the sqlite3 shell shows.
+        EXPECT_EQ(
+            one(u"SELECT typeof(Cost) || ' ' || Cost || ' ' || typeof(Posted) || ' ' || typeof(Day) || ' ' || "
+                "Moment FROM Sample WHERE SampleID = 2"_s),
+            u"real 5.0 integer text 1999-12-31 00:00:00"_s);
+    }
+}
+
+TEST_P(StatementTest, QuestionMarksInTextsAndCommentsAreNoParameters)
+{
+    const StatementPtr statement =
+        connection.prepare(u"SELECT '?', '''?', \"User\" FROM Sample -- ?\n WHERE /* ? */ SampleID = ?"_s);
+    if (GetParam() == Store::Remote)
+        EXPECT_EQ(codeOf([&] { statement->next(); }), ErrorCode::NoSuchField); // names in quotes keep their case
+    else
+        EXPECT_FALSE(statement->next());
+    const StatementPtr plain =
+        connection.prepare("SELECT '?' || Name FROM Sample -- it's\n WHERE SampleID = ? AND "_L1
+                           + connection.dialect().name(u"User"_s) + " IS NULL"_L1);
+    insert(7, u"x"_s);
+    plain->bindInt(0, 7);
+    ASSERT_TRUE(plain->next());
+    EXPECT_EQ(plain->textAt(0), u"?x"_s);
+}
+
+TEST_P(StatementTest, AStatementInUseIsNotHandedOutTwice)
+{
+    for (int key = 1; key <= 3; ++key)
+        insert(key, QString::number(key));
+    const QString sql = u"SELECT SampleID FROM Sample ORDER BY SampleID"_s;
+    QStringList seen;
+    const StatementPtr outer = connection.prepare(sql);
+    while (outer->next()) {
+        // Others read and write between the rows, with the same text and with another.
+        const StatementPtr inner = connection.prepare(sql);
+        ASSERT_TRUE(inner->next());
+        seen << outer->textAt(0) + inner->textAt(0);
+        insert(100 + outer->intAt(0), u"later"_s);
+        if (seen.size() == 3)
+            break;
+    }
+    EXPECT_EQ(seen, (QStringList{u"11"_s, u"21"_s, u"31"_s}));
+    StatementPtr again = connection.prepare(sql);
+    const Statement *address = again.get();
+    again.reset();
+    EXPECT_EQ(connection.prepare(sql).get(), address) << "a free statement is used again";
+}
+
+TEST_P(StatementTest, AStatementMayOutliveItsConnection)
+{
+    auto other = store.anotherUser();
+    StatementPtr statement = other->database.connection().prepare(u"SELECT count(*) FROM Sample"_s);
+    ASSERT_TRUE(statement->next());
+    other.reset();
+    statement.reset();
+    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"0"_s);
+}
+
+TEST_P(StatementTest, FailuresHaveTheEnginesCodes)
+{
+    insert(1, u"first"_s);
+    const struct
+    {
+        QStringView sql;
+        ErrorCode code;
+    } cases[] = {
+        {u"INSERT INTO Sample (SampleID) VALUES (1)", ErrorCode::KeyViolation},
+        {u"SELECT * FROM Missing", ErrorCode::NoSuchTable},
+        {u"SELECT Missing FROM Sample", ErrorCode::NoSuchField},
+        {u"SELEC", ErrorCode::General},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(codeOf([&] { connection.prepare(c.sql.toString())->execute(); }), c.code)
+            << c.sql.toString().toStdString();
+    }
+    EXPECT_EQ(one(u"SELECT Name FROM Sample WHERE SampleID = 1"_s), u"first"_s);
+}
+
+TEST_P(StatementTest, ATransactionIsUndoneUnlessCommitted)
+{
+    {
+        Transaction transaction(connection);
+        insert(1, u"undone"_s);
+        Transaction joined(connection);
+        joined.commit(); // the outer one decides
+    }
+    EXPECT_FALSE(connection.inTransaction());
+    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"0"_s);
+    {
+        Transaction transaction(connection);
+        insert(1, u"kept"_s);
+        transaction.commit();
+    }
+    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"1"_s);
+}
+
+TEST_P(StatementTest, SentStatementsKeepTheirOrderAndAreSeenByTheNextQuestion)
+{
+    Transaction transaction(connection);
+    for (int key = 1; key <= 2000; ++key)
+        send(key);
+    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"2000"_s);
+    connection.prepare(u"UPDATE Sample SET Name = 'changed' WHERE SampleID = 2000"_s)->send();
+    EXPECT_EQ(connection.prepare(u"DELETE FROM Sample WHERE Name = 'changed'"_s)->execute(), 1);
+    send(2000);
+    transaction.commit();
+    EXPECT_EQ(one(u"SELECT max(SampleID) FROM Sample WHERE Name = 'sent'"_s), u"2000"_s);
+}
+
+TEST_P(StatementTest, AFailureAmongSentStatementsIsReportedAndUndoesTheTransaction)
+{
+    insert(50, u"in the way"_s);
+    for (const bool byQuestion : {false, true}) {
+        Transaction transaction(connection);
+        const ErrorCode code = codeOf([&] {
+            for (int key = 1; key <= 500; ++key)
+                send(key);
+            if (byQuestion)
+                one(u"SELECT count(*) FROM Sample"_s);
+            else
+                connection.drain();
+        });
+        EXPECT_EQ(code, ErrorCode::KeyViolation);
+    }
+    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"1"_s);
+    insert(1, u"works again"_s);
+    {
+        Transaction transaction(connection);
+        send(2);
+        transaction.commit();
+    }
+    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"3"_s);
+}
+
+TEST_P(StatementTest, ResultsTellTheirTypesEvenWhenEmpty)
+{
+    const StatementPtr statement = connection.prepare(u"SELECT Small, Quantity, Day, Name, Posted FROM Sample"_s);
+    EXPECT_EQ(statement->columnCount(), 5);
+    EXPECT_EQ(statement->columnName(2).toLower(), u"day"_s);
+    const QList<FieldType> types{FieldType::SmallInt, FieldType::Float, FieldType::Date, FieldType::Text,
+                                 FieldType::Boolean};
+    for (int i = 0; i < types.size(); ++i)
+        EXPECT_EQ(statement->columnType(i), types[i]) << i;
+    EXPECT_FALSE(statement->next());
+    EXPECT_EQ(statement->columnCount(), 5);
+}
+
+TEST_P(StatementTest, OrderAndListsOfNumbersAreTheSameInBothStores)
+{
+    const QStringList names{u"b"_s, u"B"_s, u"a"_s, u"Ä"_s, u"_"_s, u"é"_s};
+    for (int i = 0; i < names.size(); ++i)
+        insert(i, names[i]);
+    store.execute(u"INSERT INTO Sample (SampleID) VALUES (99)"_s);
+    const Dialect &dialect = connection.dialect();
+    const auto keys = [&](bool folded, bool descending) {
+        QStringList result;
+        const StatementPtr statement =
+            connection.prepare("SELECT SampleID FROM Sample ORDER BY "_L1
+                               + dialect.orderTerm(u"Name"_s, folded, descending) + ", SampleID"_L1);
+        while (statement->next())
+            result << statement->textAt(0);
+        return result.join(u' ');
+    };
+    EXPECT_EQ(keys(false, false), u"99 1 4 2 0 3 5"_s);
+    EXPECT_EQ(keys(true, false), u"99 4 2 0 1 3 5"_s);
+    EXPECT_EQ(keys(true, true), u"5 3 0 1 2 4 99"_s);
+
+    const StatementPtr some = connection.prepare(u"SELECT count(*) FROM Sample WHERE %1 AND %2 = %3"_s.arg(
+        dialect.inNumberList(u"SampleID"_s), dialect.foldCase(u"Name"_s), dialect.foldCase(u"?"_s)));
+    some->bindText(0, u"[0,1,2,77]"_s);
+    some->bindText(1, u"B"_s);
+    ASSERT_TRUE(some->next());
+    EXPECT_EQ(some->intAt(0), 2);
+}
+
+ON_BOTH_STORES(StatementTest);
