@@ -291,8 +291,11 @@ QList<QWidget *> TFormTallymereSystem::screens() const
 
 bool TFormTallymereSystem::closeScreens()
 {
-    const QList<QWidget *> windows = screens();
-    for (const QPointer<QWidget> screen : windows) {
+    // The youngest first: what is being entered before the list that it was opened from.
+    QList<QPointer<QWidget>> windows;
+    for (QWidget *screen : screens())
+        windows.prepend(screen);
+    for (const QPointer<QWidget> &screen : windows) {
         // A hidden one (made for its post command only) has nothing to ask.
         if (screen && screen->isVisible() && !screen->close())
             return false;
