@@ -130,6 +130,8 @@ Value asDateTime(const Value &value)
 
 } // namespace
 
+Value::Value(Value &&other) noexcept = default;
+
 bool Value::toBool() const
 {
     if (const auto *value = std::get_if<bool>(&m_storage))

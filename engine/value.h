@@ -20,6 +20,11 @@ public:
     using Storage = std::variant<std::monostate, bool, qint64, double, QString, QDate, QDateTime>;
 
     Value() = default;
+    Value(const Value &) = default;
+    Value(Value &&other) noexcept; // not inline: g++ 12 would warn of the alternatives that are not held
+    Value &operator=(const Value &) = default;
+    Value &operator=(Value &&) = default;
+    ~Value() = default;
     Value(bool value) : m_storage(value) {}
     Value(int value) : m_storage(static_cast<qint64>(value)) {}
     Value(qint64 value) : m_storage(value) {}
