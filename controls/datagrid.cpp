@@ -75,7 +75,10 @@ void ListGrid::takeCursor()
     if (row < 0 || row >= tableModel()->rowCount() || row == currentIndex().row())
         return;
     m_moving = true;
-    setCurrentIndex(tableModel()->index(row, 0));
+    const QModelIndex index = tableModel()->index(row, 0);
+    if (!viewport()->rect().contains(visualRect(index).topLeft()))
+        scrollTo(index, PositionAtCenter);
+    setCurrentIndex(index);
     m_moving = false;
 }
 

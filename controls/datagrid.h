@@ -7,7 +7,8 @@
 namespace Tallymere {
 
 // The look that lists and line grids share: rows of one fixed height, column widths scaled to the screen.
-class DataGrid : public QTableView {
+class DataGrid : public QTableView
+{
     Q_OBJECT
 
 public:
@@ -27,7 +28,8 @@ private:
 
 // A list to choose from: whole rows, and the data set's current record under the cursor. Enter and double click
 // choose the row.
-class ListGrid : public DataGrid {
+class ListGrid : public DataGrid
+{
     Q_OBJECT
 
 public:

@@ -1,5 +1,7 @@
 #include "controls/dialogscreen.h"
 
+#include "controls/screenmetrics.h"
+
 #include <QLineEdit>
 #include <QShowEvent>
 
@@ -23,6 +25,13 @@ void DialogScreen::focusColumn(const QString &column)
     widget->setFocus();
     if (auto *edit = qobject_cast<QLineEdit *>(widget))
         edit->selectAll();
+}
+
+bool DialogScreen::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish && !std::exchange(m_scaled, true))
+        scaleForm(this);
+    return QDialog::event(event);
 }
 
 void DialogScreen::showEvent(QShowEvent *event)

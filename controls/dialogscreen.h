@@ -8,7 +8,8 @@
 namespace Tallymere {
 
 // A small modal dialog: search, find, filter, posting. Enter presses the default button, Escape cancels.
-class DialogScreen : public QDialog {
+class DialogScreen : public QDialog
+{
     Q_OBJECT
 
 public:
@@ -21,6 +22,7 @@ protected:
     // Where a refused column's message puts the cursor; the widget's text is selected.
     virtual QWidget *widgetOfColumn(const QString &column) const;
 
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     virtual void showStep() { } // each time the dialog opens
 
@@ -29,6 +31,7 @@ private:
 
     ScreenContext &m_context;
     Guard m_guard;
+    bool m_scaled = false;
 };
 
 } // namespace Tallymere

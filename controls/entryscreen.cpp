@@ -50,8 +50,7 @@ bool EntryScreen::focusColumn(const QString &column)
     return true;
 }
 
-// --- saving and closing
-// ------------------------------------------------------------------------------------------------
+// --- saving and closing -----------------------------------------------------------------------------------------
 
 void EntryScreen::saveAndReport()
 {
@@ -114,8 +113,7 @@ void EntryScreen::closeEvent(QCloseEvent *event)
 
 void EntryScreen::reject() { close(); }
 
-// --- keys and sizes
-// ------------------------------------------------------------------------------------------------------
+// --- keys and sizes ---------------------------------------------------------------------------------------------
 
 void EntryScreen::keyPressEvent(QKeyEvent *event)
 {
@@ -132,6 +130,13 @@ void EntryScreen::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape && m_binder.revert(focusWidget()))
         return;
     QDialog::keyPressEvent(event);
+}
+
+bool EntryScreen::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish && !std::exchange(m_scaled, true))
+        scaleForm(this);
+    return QDialog::event(event);
 }
 
 void EntryScreen::showEvent(QShowEvent *event)

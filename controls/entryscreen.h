@@ -12,7 +12,8 @@ namespace Tallymere {
 //
 // Enter moves on as Tab does. Escape takes back what is being typed, else it closes. Closing with changes asks
 // whether they shall be saved; a new record that nobody has touched is dropped silently.
-class EntryScreen : public QDialog {
+class EntryScreen : public QDialog
+{
     Q_OBJECT
 
 public:
@@ -29,8 +30,7 @@ protected:
 
     enum class Pending { Nothing, Untouched, Changes };
 
-    // --- what the kinds of screens give
-    // -----------------------------------------------------------------------------
+    // --- what the kinds of screens give -------------------------------------------------------------------------
     virtual Pending pending() const = 0; // what closing would lose
     virtual void saveChanges() = 0; // throws what refuses
     virtual void dropChanges() = 0;
@@ -51,6 +51,7 @@ protected:
 
     void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void reject() override;
@@ -62,6 +63,7 @@ private:
 
     ScreenContext &m_context;
     Guard m_guard;
+    bool m_scaled = false;
     FieldBinder m_binder;
     QSize m_firstSize;
     bool m_settled = false;

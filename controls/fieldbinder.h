@@ -20,7 +20,8 @@ class FieldBinding;
 // puts the table into edit at once and is handed over on leaving the widget; a refusal is shown and the cursor
 // stays. A line edit with the dynamic property "editMask" has that input mask while it has the cursor. Leaving
 // towards a widget with the dynamic property "keepsEntry" (a Cancel button) hands nothing over.
-class FieldBinder : public QObject {
+class FieldBinder : public QObject
+{
     Q_OBJECT
 
 public:

@@ -68,7 +68,8 @@ namespace {
 QString userMask(QString mask) { return mask.replace(u'/', RegionalSettings::system().dateSeparator); }
 
 // Shows the display text, and the edit text while it has the cursor.
-class LineEditBinding final : public FieldBinding {
+class LineEditBinding final : public FieldBinding
+{
 public:
     LineEditBinding(QLineEdit *edit, Engine::Table &table, int number, Reports reports)
         : FieldBinding(edit, table, number, std::move(reports))
@@ -119,7 +120,8 @@ private:
     bool m_active = false;
 };
 
-class LookupBinding final : public FieldBinding {
+class LookupBinding final : public FieldBinding
+{
 public:
     LookupBinding(LookupComboBox *box, Engine::Table &table, int number, Reports reports)
         : FieldBinding(box, table, number, std::move(reports))
@@ -154,7 +156,8 @@ private:
     bool m_settling = false;
 };
 
-class CheckBinding final : public FieldBinding {
+class CheckBinding final : public FieldBinding
+{
 public:
     CheckBinding(QCheckBox *box, Engine::Table &table, int number, Reports reports)
         : FieldBinding(box, table, number, std::move(reports))
@@ -176,7 +179,8 @@ private:
     QCheckBox *m_box;
 };
 
-class MemoBinding final : public FieldBinding {
+class MemoBinding final : public FieldBinding
+{
 public:
     MemoBinding(QPlainTextEdit *edit, Engine::Table &table, int number, Reports reports)
         : FieldBinding(edit, table, number, std::move(reports))
@@ -203,7 +207,8 @@ private:
     QPlainTextEdit *m_edit;
 };
 
-class LabelBinding final : public FieldBinding {
+class LabelBinding final : public FieldBinding
+{
 public:
     LabelBinding(QLabel *label, Engine::Table &table, int number, Reports reports)
         : FieldBinding(label, table, number, std::move(reports))

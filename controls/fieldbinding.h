@@ -10,10 +10,12 @@ class QWidget;
 namespace Tallymere {
 
 // One widget tied to one field.
-class FieldBinding {
+class FieldBinding
+{
 public:
     // What a binding reports to the form: that the user has begun an entry, and that one is complete.
-    struct Reports {
+    struct Reports
+    {
         std::function<void(FieldBinding &)> begun;
         std::function<void(FieldBinding &)> complete;
     };

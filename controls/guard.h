@@ -12,7 +12,8 @@ namespace Tallymere {
 // The one place where what stops a handler is shown. A refusal by a rule moves the focus to the widget of the
 // refused column and shows its message in the standard error box; a silent stop moves the focus only; an error of
 // the engine is shown as it stands. Nothing gets past it into the event loop.
-class Guard {
+class Guard
+{
 public:
     // The second argument moves the focus to what shows a column; without it the focus stays.
     explicit Guard(Prompts &prompts, std::function<void(const QString &column)> focusColumn = {});

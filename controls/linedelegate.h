@@ -8,7 +8,8 @@ class LineGrid;
 
 // The editor of a line grid's cells. Keys and the loss of the focus go to the grid, which alone decides when an
 // entry is handed over.
-class LineDelegate final : public QStyledItemDelegate {
+class LineDelegate final : public QStyledItemDelegate
+{
     Q_OBJECT
 
 public:

@@ -70,8 +70,7 @@ void LineGrid::setLines(Engine::Table &lines, const QList<GridColumn> &columns, 
     takeCursor();
 }
 
-// --- the cursor
-// ----------------------------------------------------------------------------------------------------
+// --- the cursor -------------------------------------------------------------------------------------------------
 
 bool LineGrid::moveToRow(int row)
 {
@@ -161,8 +160,16 @@ void LineGrid::search()
     setFocus();
 }
 
-// --- the entry in hand
-// -----------------------------------------------------------------------------------------------
+// The first key locks the document; when that is refused, no editor opens.
+bool LineGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const bool opens = index.isValid() && !m_editor && editTriggers().testFlag(trigger);
+    if (opens && m_actions.begin && !m_guard->run(m_actions.begin))
+        return false;
+    return DataGrid::edit(index, trigger, event);
+}
+
+// --- the entry in hand ------------------------------------------------------------------------------------------
 
 QWidget *LineGrid::openEditor(QWidget *parent, const QModelIndex &index)
 {
@@ -306,8 +313,7 @@ bool LineGrid::editorKey(QKeyEvent *event)
     }
 }
 
-// --- keys outside the editor
-// -------------------------------------------------------------------------------------------
+// --- keys outside the editor ------------------------------------------------------------------------------------
 
 void LineGrid::keyPressEvent(QKeyEvent *event)
 {

@@ -9,7 +9,8 @@ class QLineEdit;
 namespace Tallymere {
 
 // What a line grid asks of the document that it shows. Each may throw to refuse.
-struct LineActions {
+struct LineActions
+{
     std::function<void()> begin; // before an editor opens: the current line goes into edit
     std::function<void()> append;
     std::function<void()> remove;
@@ -28,7 +29,8 @@ struct LineActions {
 // Enter goes to the next column, from the last one to the next line, and appends one after the last. Page Down
 // appends, Ctrl+Insert and Ctrl+Delete append and delete, Ctrl+Enter searches. Leaving a row writes it; when that
 // is refused the cursor stays. Escape drops first the text being typed, then the changes of the row.
-class LineGrid : public DataGrid {
+class LineGrid : public DataGrid
+{
     Q_OBJECT
 
 public:

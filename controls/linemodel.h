@@ -9,7 +9,8 @@
 namespace Tallymere {
 
 // The lines of a table with the one that is being edited or entered. A line being entered is the last row.
-class LineModel final : public TableModel {
+class LineModel final : public TableModel
+{
     Q_OBJECT
 
 public:
@@ -26,7 +27,8 @@ private:
 };
 
 // A selection that asks before the cursor leaves its row, and stays where it is when that is refused.
-class LineSelection final : public QItemSelectionModel {
+class LineSelection final : public QItemSelectionModel
+{
     Q_OBJECT
 
 public:

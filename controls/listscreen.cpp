@@ -56,14 +56,15 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
 
     for (const ListMenu &menu : description.menus)
         addMenu(menu);
+    for (const ListButton &button : description.buttons)
+        addButton(button);
     m_grid->setDataSet(set, description.columns);
     connect(m_grid, &ListGrid::chosen, this, [this, defaultCommand] { runCommand(defaultCommand); });
     m_grid->setFocus();
     showFilterMark();
 }
 
-// --- commands
-// --------------------------------------------------------------------------------------------------------
+// --- commands ---------------------------------------------------------------------------------------------------
 
 void ListScreen::addMenu(const ListMenu &menu)
 {
@@ -77,7 +78,6 @@ void ListScreen::addMenu(const ListMenu &menu)
             continue;
         }
         QAction *action = addCommand(shown, command);
-        addButton(command, action);
         addPopup(command, action);
     }
 }
@@ -108,15 +108,14 @@ QAction *ListScreen::addCommand(QMenu *menu, const ListCommand &command)
     return action;
 }
 
-void ListScreen::addButton(const ListCommand &command, QAction *action)
+void ListScreen::addButton(const ListButton &button)
 {
-    if (command.button.isEmpty())
-        return;
-    auto *button = new QPushButton(command.buttonCaption, m_topPanel);
-    button->setObjectName(command.button);
-    button->setEnabled(action->isEnabled());
-    connect(button, &QPushButton::clicked, action, &QAction::trigger);
-    m_buttons->insertWidget(m_buttons->count() - 1, button);
+    QAction *action = command(button.command);
+    auto *shown = new QPushButton(button.caption, m_topPanel);
+    shown->setObjectName(button.name);
+    shown->setEnabled(action->isEnabled());
+    connect(shown, &QPushButton::clicked, action, &QAction::trigger);
+    m_buttons->insertWidget(m_buttons->count() - 1, shown);
 }
 
 void ListScreen::addPopup(const ListCommand &command, QAction *action)
@@ -139,8 +138,7 @@ void ListScreen::runCommand(const std::function<void()> &run)
 
 QAction *ListScreen::command(const QString &name) const { return findChild<QAction *>(name); }
 
-// --- the list
-// ----------------------------------------------------------------------------------------------------------
+// --- the list ---------------------------------------------------------------------------------------------------
 
 void ListScreen::refreshList()
 {
@@ -172,8 +170,7 @@ void ListScreen::showFilterMark()
         filter->setChecked(filtered);
 }
 
-// --- the window
-// ----------------------------------------------------------------------------------------------------------
+// --- the window -------------------------------------------------------------------------------------------------
 
 void ListScreen::showAgain()
 {

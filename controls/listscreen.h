@@ -13,29 +13,39 @@ class QHBoxLayout;
 
 namespace Tallymere {
 
-// One command of a list screen: an entry of a menu, and where wanted a button and an entry of the pop-up menu.
-struct ListCommand {
+// One command of a list screen: an entry of a menu, and where wanted of the pop-up menu.
+struct ListCommand
+{
     QString name; // component name of the menu's entry: "mnuFilter"
     QString caption;
     std::function<void()> run = {}; // empty: not available, shown disabled
     QKeySequence shortcut = {};
-    QString button = {}; // component name of the button; empty: none
-    QString buttonCaption = {};
     QString popupCaption = {}; // empty: not in the pop-up menu
     bool checkable = false;
     bool separatorBefore = false;
     QList<ListCommand> choices = {}; // a sub-menu of entries of which one is checked
 };
 
-struct ListMenu {
+struct ListMenu
+{
     QString caption;
     QList<ListCommand> commands;
 };
 
-struct ListDescription {
+// A button that does what a command does.
+struct ListButton
+{
+    QString name;
+    QString caption;
+    QString command;
+};
+
+struct ListDescription
+{
     QString name; // component name of the screen
     QString caption;
     QList<GridColumn> columns;
+    QList<ListButton> buttons; // from left to right
     QList<ListMenu> menus;
 };
 
@@ -43,7 +53,8 @@ struct ListDescription {
 //
 // The screens give a description, the data set and what the commands do; the base owns layout, sizes, the filter
 // mark in caption and menu, refreshing and moving.
-class ListScreen : public QMainWindow {
+class ListScreen : public QMainWindow
+{
     Q_OBJECT
 
 public:
@@ -83,7 +94,7 @@ private:
     void addMenu(const ListMenu &menu);
     QAction *addCommand(QMenu *menu, const ListCommand &command);
     void addChoices(QMenu *menu, const ListCommand &command);
-    void addButton(const ListCommand &command, QAction *action);
+    void addButton(const ListButton &button);
     void addPopup(const ListCommand &command, QAction *action);
     void runCommand(const std::function<void()> &run);
     void showFilterMark();

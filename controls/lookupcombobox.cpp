@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QTableView>
 
+using namespace Qt::StringLiterals;
+
 namespace Tallymere {
 
 namespace {
@@ -38,6 +40,7 @@ LookupComboBox::LookupComboBox(QWidget *parent)
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(12);
     setMaxVisibleItems(visibleRows);
+    setStyleSheet(u"QComboBox { combobox-popup: 0; }"_s); // a list that scrolls, in every style
     connect(this, &QComboBox::activated, this, &LookupComboBox::takePicked);
 }
 

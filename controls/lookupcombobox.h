@@ -12,7 +12,8 @@ namespace Tallymere {
 // Typing letters moves to the first row that begins with them, the arrow keys to the rows beside it; the choice is
 // made on leaving the box, with Enter, or at once by picking from the open list. Delete clears it, Escape goes back
 // to the last choice. The list is read again each time it is dropped down.
-class LookupComboBox : public QComboBox {
+class LookupComboBox : public QComboBox
+{
     Q_OBJECT
 
 public:

@@ -13,9 +13,9 @@ namespace {
 QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, const QString &text,
                                 QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset)
 {
-    QWidget *parent = QApplication::activeModalWidget();
+    QWidget *parent = QApplication::activeWindow();
     if (!parent)
-        parent = QApplication::activeWindow();
+        parent = QApplication::activeModalWidget();
     QMessageBox box(icon, title, text, buttons, parent);
     box.setObjectName(u"messageBox"_s);
     box.setTextFormat(Qt::PlainText);

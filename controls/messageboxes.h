@@ -5,7 +5,8 @@
 namespace Tallymere {
 
 // Prompts in message boxes over the window that is in use. Texts are shown as plain text.
-class MessageBoxes final : public Prompts {
+class MessageBoxes final : public Prompts
+{
 public:
     void inform(const QString &text) override;
     void warn(const QString &text) override;

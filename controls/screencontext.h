@@ -14,7 +14,8 @@ class TdmLookUpsInv;
 
 // What a screen needs from the system around it. The main window fills one and hands it to every screen; it
 // outlives them all.
-struct ScreenContext {
+struct ScreenContext
+{
     TDataModuleTallymere &data;
     TdmLookUpsInv &lookups;
     Prompts &prompts;

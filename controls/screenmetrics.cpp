@@ -12,6 +12,17 @@ double fontFactor(const QWidget *widget) { return widget->logicalDpiX() / design
 
 int scaled(const QWidget *widget, int pixels) { return qRound(pixels * fontFactor(widget)); }
 
+void scaleForm(QWidget *form)
+{
+    const QList<QWidget *> widgets = form->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->minimumWidth() > 0)
+            widget->setMinimumWidth(scaled(form, widget->minimumWidth()));
+        if (widget->maximumWidth() < QWIDGETSIZE_MAX)
+            widget->setMaximumWidth(scaled(form, widget->maximumWidth()));
+    }
+}
+
 QWidget *findScreen(const QString &name)
 {
     const QWidgetList windows = QApplication::topLevelWidgets();

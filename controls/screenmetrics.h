@@ -12,6 +12,9 @@ double fontFactor(const QWidget *widget);
 // A design size in the widget's pixels.
 int scaled(const QWidget *widget, int pixels);
 
+// Scales the widths that a form gives its widgets in design pixels. Once for each form, before it is shown.
+void scaleForm(QWidget *form);
+
 // The open window with the component name, or nullptr.
 QWidget *findScreen(const QString &name);
 template <typename Screen> Screen *findScreen(const QString &name)
@@ -20,7 +23,8 @@ template <typename Screen> Screen *findScreen(const QString &name)
 }
 
 // The hourglass for as long as it lives.
-class WaitCursor {
+class WaitCursor
+{
 public:
     WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
     ~WaitCursor() { QApplication::restoreOverrideCursor(); }

@@ -8,7 +8,8 @@
 namespace Tallymere {
 
 // One column of a list or a line grid.
-struct GridColumn {
+struct GridColumn
+{
     QString field; // what it shows
     QString title;
     int width = 80; // design pixels
@@ -24,7 +25,8 @@ struct GridColumn {
 };
 
 // Shows a data set to views. Rows are read in the windows that the data set keeps, never all of them.
-class TableModel : public QAbstractTableModel {
+class TableModel : public QAbstractTableModel
+{
     Q_OBJECT
 
 public:

@@ -17,7 +17,8 @@ class LookupComboBox;
 // Choosing an item by its number or from a list of descriptions: two widgets that follow each other, as find and
 // filter dialogs have them. Leaving the number box looks the number up; an unknown one is shown and keeps the
 // cursor.
-class ItemPair final : public QObject {
+class ItemPair final : public QObject
+{
     Q_OBJECT
 
 public:

@@ -39,14 +39,20 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
 
 TfrmItemSearchInv::~TfrmItemSearchInv() = default;
 
-TfrmItemSearchInv &TfrmItemSearchInv::instance(ScreenContext &context, QWidget *window)
+int TfrmItemSearchInv::choose(ScreenContext &context, QWidget *window, int itemId)
 {
     const QString name = u"frmItemSearch"_s;
-    if (auto *kept = findScreen<TfrmItemSearchInv>(name))
-        return *kept;
-    auto *screen = new TfrmItemSearchInv(context, window);
-    screen->setObjectName(name);
-    return *screen;
+    auto *search = findScreen<TfrmItemSearchInv>(name);
+    if (!search) {
+        search = new TfrmItemSearchInv(context, window->parentWidget());
+        search->setObjectName(name);
+    }
+    // While it is open it belongs to the window, so that this is what comes back to the front.
+    search->setParent(window, search->windowFlags());
+    search->SetItemID(itemId);
+    const bool accepted = search->exec() == QDialog::Accepted;
+    search->setParent(window->parentWidget(), search->windowFlags());
+    return accepted ? search->GetItemID() : 0;
 }
 
 void TfrmItemSearchInv::SetItemID(int itemId)

@@ -11,15 +11,17 @@ class TfrmItemSearchInv;
 namespace Tallymere {
 
 // "Item": chooses an item for a line. One instance is kept and used again.
-class TfrmItemSearchInv final : public DialogScreen {
+class TfrmItemSearchInv final : public DialogScreen
+{
     Q_OBJECT
 
 public:
     TfrmItemSearchInv(ScreenContext &context, QWidget *parent);
     ~TfrmItemSearchInv() override;
 
-    // The kept instance, named "frmItemSearch"; made, as a child of the window, when there is none.
-    static TfrmItemSearchInv &instance(ScreenContext &context, QWidget *window);
+    // Shows the kept instance, named "frmItemSearch", over a window, beginning on an item. The chosen item, or 0. The
+    // instance is made at the first use and stays a child of the window's parent.
+    static int choose(ScreenContext &context, QWidget *window, int itemId);
 
     void SetItemID(int itemId); // the item to begin on; an unknown one begins on the first
     int GetItemID() const; // the item under the cursor, to be read after OK

@@ -14,7 +14,8 @@ namespace Tallymere {
 class ItemPair;
 
 // "Find Item": moves a list that has items to one of them.
-class TfrmItemsFind final : public DialogScreen {
+class TfrmItemsFind final : public DialogScreen
+{
     Q_OBJECT
 
 public:

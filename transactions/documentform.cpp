@@ -138,12 +138,11 @@ QString DocumentScreen::completeDescription(const QString &field, const QString 
 
 void DocumentScreen::searchItem()
 {
-    TfrmItemSearchInv &search = TfrmItemSearchInv::instance(context(), parentWidget());
-    search.SetItemID(m_entry->lines().integer(u"ItemID"));
-    if (search.exec() != QDialog::Accepted || search.GetItemID() == 0)
+    const int itemId = TfrmItemSearchInv::choose(context(), this, m_entry->lines().integer(u"ItemID"));
+    if (itemId == 0)
         return;
     m_entry->setLineColumn(numberColumn.toString());
-    m_entry->chooseItem(search.GetItemID());
+    m_entry->chooseItem(itemId);
 }
 
 // --- saving, closing, keys --------------------------------------------------------------------------------------

@@ -23,14 +23,14 @@ TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
     , m_ui(std::make_unique<Ui::TfrmInvReceipt>())
 {
     m_ui->setupUi(this);
-    resize(scaled(this, 720), scaled(this, 460));
+    resize(scaled(this, 780), scaled(this, 460));
     m_ui->cboVendor->setList(context.lookups.tblVendor(), u"VendorID"_s,
                              {{u"VendorName"_s, tr("Vendor"), 220}, {u"VendorNo"_s, tr("Vendor no."), 80}});
     m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), u"WarehouseID"_s,
                                 {{u"WarehouseName"_s, tr("Warehouse"), 200}});
     buildDocument({{u"QtyReceived"_s, tr("Quantity"), 100, Qt::AlignRight},
                    {u"ItemNo"_s, tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
-                   {u"ItemDescription"_s, tr("Description"), 330},
+                   {u"ItemDescription"_s, tr("Description"), 400},
                    {u"UnitCost"_s, tr("Unit Cost"), 110, Qt::AlignRight}});
     binder().setEntryRule(u"VendorNo"_s,
                           [this](const QString &text) { receipt().chooseVendorByNumber(text.trimmed()); });
