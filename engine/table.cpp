@@ -1,4 +1,4 @@
-// Opening, order, range and link of a table.
+// Opening and order of a table.
 
 #include "engine/table.h"
 
@@ -51,44 +51,6 @@ QStringList foldedFields(const TableLayout &layout)
     for (const QString &name : std::as_const(plain))
         folded.removeAll(name);
     return folded;
-}
-
-// The columns of an index as conditions compare them.
-QList<SqlColumn> columnsOf(const TableLayout &layout, const IndexDef &index, const Dialect &dialect)
-{
-    QList<SqlColumn> columns;
-    for (const QString &name : index.fieldNames()) {
-        const FieldDef *field = layout.field(name);
-        const bool folded = field && isText(field->type) && index.options.testFlag(IndexOption::CaseInsensitive);
-        columns << SqlColumn{"t."_L1 + dialect.name(field ? field->name : name), folded};
-    }
-    return columns;
-}
-
-// The values as the types of the index's fields; more than there are fields is an error of the caller.
-QList<Value> fittedTo(const TableLayout &layout, const IndexDef &index, const QList<Value> &values)
-{
-    const QStringList names = index.fieldNames();
-    if (values.size() > names.size()) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "The order of table '%1' has only %2 fields.")
-                              .arg(layout.name, QString::number(names.size())));
-    }
-    QList<Value> fitted;
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        const FieldDef *field = layout.field(names[i]);
-        fitted << (field ? values[i].as(field->type) : values[i]);
-    }
-    return fitted;
-}
-
-bool comesBefore(const QList<Value> &one, const QList<Value> &other)
-{
-    for (qsizetype i = 0; i < std::min(one.size(), other.size()); ++i) {
-        if (one[i] != other[i])
-            return one[i].storage() < other[i].storage();
-    }
-    return other.size() < one.size();
 }
 
 } // namespace
@@ -258,7 +220,7 @@ SetScope Table::scope() const
     QStringList terms;
     QStringList ordered;
     if (const IndexDef *index = order()) {
-        for (const SqlColumn &column : columnsOf(m_layout, *index, dialect)) {
+        for (const SqlColumn &column : indexColumns(m_layout, *index, dialect)) {
             terms << dialect.orderTerm(column.sql, column.caseInsensitive,
                                        index->options.testFlag(IndexOption::Descending));
             ordered << column.sql;
@@ -273,121 +235,6 @@ SetScope Table::scope() const
     scope.condition += rangeCondition();
     scope.foldedFields = foldedFields(m_layout);
     return scope;
-}
-
-// --- range and link --------------------------------------------------------------------------------------------
-
-void Table::setRange(const QList<Value> &from, const QList<Value> &to)
-{
-    requireOpen();
-    const IndexDef *index = order();
-    if (!index) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "Table '%1' has no order.").arg(m_name));
-    }
-    QList<Value> low = fittedTo(m_layout, *index, from);
-    QList<Value> high = fittedTo(m_layout, *index, to);
-    if (index->options.testFlag(IndexOption::Descending) && !comesBefore(low, high))
-        low.swap(high);
-    if (m_restriction->ranged && m_restriction->from == low && m_restriction->to == high)
-        return;
-    beforeMove();
-    m_restriction->from = low;
-    m_restriction->to = high;
-    m_restriction->ranged = true;
-    restrictionChanged();
-}
-
-void Table::cancelRange()
-{
-    if (!m_restriction->ranged)
-        return;
-    if (m_open)
-        beforeMove();
-    m_restriction->ranged = false;
-    restrictionChanged();
-}
-
-void Table::restrictionChanged()
-{
-    if (!m_open)
-        return;
-    invalidate(Place::First);
-    emitListChanged();
-    scrolled();
-}
-
-SqlCondition Table::rangeCondition() const
-{
-    if (!m_restriction->ranged)
-        return {};
-    const Dialect &dialect = m_database.connection().dialect();
-    return between(dialect, columnsOf(m_layout, *order(), dialect), m_restriction->from, m_restriction->to);
-}
-
-void Table::setMaster(DataSet *master, const QString &fields)
-{
-    Restriction &restriction = *m_restriction;
-    for (const QMetaObject::Connection &connection : std::as_const(restriction.connections))
-        disconnect(connection);
-    restriction.connections.clear();
-    if (restriction.master)
-        Private::of(*restriction.master).details.removeAll(this);
-    restriction.master = master;
-    restriction.links.clear();
-    for (const QString &part : fields.split(u';', Qt::SkipEmptyParts)) {
-        const qsizetype sign = part.indexOf(u'=');
-        restriction.links << Restriction::Link{part.left(sign).trimmed(), part.mid(sign + 1).trimmed()};
-    }
-    if (master) {
-        Private::of(*master).details << this;
-        const auto follow = [this] { masterMoved(); };
-        restriction.connections = {connect(master, &DataSet::currentChanged, this, follow),
-                                   connect(master, &DataSet::closed, this, follow),
-                                   connect(master, &DataSet::fieldChanged, this, follow),
-                                   connect(master, &QObject::destroyed, this, follow)};
-    }
-    if (!m_open)
-        return;
-    beforeMove();
-    restriction.linkValues = linkValues();
-    restrictionChanged();
-}
-
-QList<Value> Table::linkValues() const
-{
-    const DataSet *master = m_restriction->master;
-    QList<Value> values;
-    for (const Restriction::Link &link : std::as_const(m_restriction->links))
-        values << (master && master->isOpen() ? master->value(link.master) : Value());
-    return values;
-}
-
-void Table::masterMoved()
-{
-    if (!m_open)
-        return;
-    QList<Value> values = linkValues();
-    if (values == m_restriction->linkValues)
-        return;
-    if (isEditing())
-        cancel();
-    m_restriction->linkValues = std::move(values);
-    restrictionChanged();
-}
-
-SqlCondition Table::linkCondition() const
-{
-    const Dialect &dialect = m_database.connection().dialect();
-    SqlCondition condition;
-    for (qsizetype i = 0; i < m_restriction->links.size(); ++i) {
-        const Field &linked = field(m_restriction->links[i].detail);
-        const Value &value = m_restriction->linkValues[i];
-        if (value.isNull())
-            return never();
-        condition += equals(dialect, {"t."_L1 + dialect.name(linked.name), false}, value.as(linked.type));
-    }
-    return condition;
 }
 
 bool Table::findKey(const QList<Value> &values)

@@ -12,8 +12,13 @@ namespace Engine {
 // A number for a text, the same on every machine: for locks on something that has a name only.
 qint64 stableNumber(const QString &text);
 
-struct Table::Restriction {
-    struct Link {
+// The columns of an index, called "t", as conditions compare them.
+QList<SqlColumn> indexColumns(const TableLayout &layout, const IndexDef &index, const Dialect &dialect);
+
+struct Table::Restriction
+{
+    struct Link
+    {
         QString detail;
         QString master;
     };
@@ -28,7 +33,8 @@ struct Table::Restriction {
     QList<QMetaObject::Connection> connections;
 };
 
-struct Table::Edit {
+struct Table::Edit
+{
     Row values;
     Row original; // as read; of a new record the values it began with
     Key key; // of the stored row; empty for a new record
