@@ -21,8 +21,8 @@ constexpr int retryPauseMilliseconds = 100;
 Console::Console()
     : m_showsProgress(Terminal::isErrorTerminal())
 {
-    if (!m_output.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered)
-        || !m_error.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
+    if (!m_output.open(fileno(stdout), QIODevice::WriteOnly | QIODevice::Unbuffered)
+        || !m_error.open(fileno(stderr), QIODevice::WriteOnly | QIODevice::Unbuffered))
         m_showsProgress = false;
 }
 

@@ -12,7 +12,8 @@ namespace Tallymere {
 namespace {
 
 // Whole-table locks, tried as often as record locks are.
-class TableLocks {
+class TableLocks
+{
 public:
     TableLocks(Engine::Database &database, const QStringList &names)
     {

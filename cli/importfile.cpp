@@ -17,7 +17,8 @@ using Header = std::vector<const ImportColumn *>;
 
 QString tr(const char *text) { return QCoreApplication::translate("ImportFile", text); }
 
-class HeaderReader {
+class HeaderReader
+{
 public:
     HeaderReader(const ImportKind &kind, ImportErrors &errors, int line)
         : m_kind(kind)
@@ -102,7 +103,8 @@ private:
     bool m_faulty = false;
 };
 
-class RowReader {
+class RowReader
+{
 public:
     RowReader(const Header &header, bool hasLines, ImportErrors &errors)
         : m_header(header)
@@ -115,9 +117,9 @@ public:
     {
         if (fields.size() != static_cast<qsizetype>(m_header.size())) {
             return m_errors.add(line,
-                                tr("The row has %1 fields, the header has %2.")
-                                    .arg(fields.size())
-                                    .arg(static_cast<qsizetype>(m_header.size())));
+                                tr("The header has %1 field(s), this row %2.")
+                                    .arg(static_cast<qsizetype>(m_header.size()))
+                                    .arg(fields.size()));
         }
         ImportRow row = readRow(line, fields);
         const QStringList documentFields = fieldsOfDocument(fields);

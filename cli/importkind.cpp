@@ -122,6 +122,8 @@ ImportKind vendorsKind()
     addColumns(kind, Layouts::vendor(), {u"VendorID"_s});
     addName(kind, u"CurrencyID"_s, Layouts::currency(), u"CurrencyName"_s, tr("Currency '%1' not found"));
     require(kind, {u"VendorName"_s});
+    // An address may be typed longer than what is kept of it.
+    column(kind, u"WebPage").type = Engine::FieldType::Memo;
     writeBy<VendorRecord>(kind);
     return kind;
 }

@@ -34,6 +34,9 @@ bool looksLikeNumber(const QString &text)
 
 double realNumber(const ImportColumn &column, const QString &text)
 {
+    static const QStringList infinities = {u"inf"_s, u"infinity"_s};
+    if (infinities.contains(text.mid(text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0), Qt::CaseInsensitive))
+        refuse(column, text, tr("is infinite"));
     bool ok = false;
     const double number = looksLikeNumber(text) ? QLocale::c().toDouble(text, &ok) : 0;
     // A number too large for a double comes back as infinity, one too small as not ok.
@@ -123,8 +126,9 @@ Value importValue(const ImportColumn &column, const QString &text)
     case FieldType::AutoInc:
         return wholeNumber(column, text);
     case FieldType::Float:
-    case FieldType::Money:
         return realNumber(column, text);
+    case FieldType::Money:
+        return Engine::Money::fromDouble(realNumber(column, text));
     case FieldType::Boolean:
         return boolean(column, text);
     case FieldType::Date:

@@ -87,7 +87,8 @@ void runHistory(CommandContext &context)
                  context.console.output());
 }
 
-struct ListKind {
+struct ListKind
+{
     QString name;
     const Engine::TableLayout &layout;
     QString index; // the order of the list on its screen

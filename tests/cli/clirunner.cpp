@@ -1,0 +1,170 @@
+#include "tests/cli/clirunner.h"
+
+#include "cli/csv.h"
+
+#include <gtest/gtest.h>
+#include <ostream>
+#include <QBuffer>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int patience = 120'000;
+
+void pointToTestServer()
+{
+    QFile file(qEnvironmentVariable("TALLYMERE_TEST_POSTGRES") + "/port"_L1);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("The test server is not running; see tests/support/postgres.sh.");
+    qputenv("PGPORT", file.readAll().trimmed());
+}
+
+} // namespace
+
+QList<QStringList> CliResult::rows() const
+{
+    QByteArray bytes = output.toUtf8();
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    Tallymere::CsvReader reader(buffer);
+    QList<QStringList> rows;
+    while (reader.next())
+        rows.append(reader.fields());
+    return rows;
+}
+
+std::ostream &operator<<(std::ostream &stream, const CliResult &result)
+{
+    return stream << "status " << result.status << "\n"
+                  << result.output.toStdString() << "\n"
+                  << result.errors.toStdString();
+}
+
+CliRunner::CliRunner(Store store)
+    : m_store(store)
+{
+    if (store == Store::Remote) {
+        pointToTestServer();
+        dropRemote();
+    }
+}
+
+CliRunner::~CliRunner()
+{
+    if (m_store == Store::Remote)
+        dropRemote();
+}
+
+void CliRunner::dropRemote()
+{
+    TestUser keeper(u"keeper"_s, u"postgres"_s);
+    keeper.session.type = Engine::SessionType::Remote;
+    keeper.session.remoteAddress = u"127.0.0.1"_s;
+    keeper.session.remoteUser = keeper.session.remotePassword = u"zorvadin"_s;
+    keeper.database.connection().execute(u"DROP DATABASE IF EXISTS corvane WITH (FORCE)"_s);
+}
+
+std::unique_ptr<TestUser> CliRunner::anotherUser() const
+{
+    auto other = std::make_unique<TestUser>(u"anna"_s, u"Corvane"_s);
+    if (m_store == Store::Local) {
+        other->database.directory = m_folder.path();
+        return other;
+    }
+    other->session.type = Engine::SessionType::Remote;
+    other->session.remoteAddress = u"127.0.0.1"_s;
+    other->session.remoteUser = other->session.remotePassword = u"zorvadin"_s;
+    return other;
+}
+
+std::unique_ptr<QProcess> CliRunner::start(const QStringList &words)
+{
+    auto process = std::make_unique<QProcess>();
+    process->setWorkingDirectory(m_work.path());
+    const QStringList place = m_store == Store::Local ? QStringList{u"--data"_s, m_folder.path()}
+                                                      : QStringList{u"--server"_s, u"127.0.0.1"_s};
+    process->start(QStringLiteral(TALLYMERE_PROGRAM), place + words);
+    return process;
+}
+
+CliResult CliRunner::finish(QProcess &process)
+{
+    CliResult result;
+    if (process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit)
+        result.status = process.exitCode();
+    result.output = QString::fromUtf8(process.readAllStandardOutput());
+    result.errors = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+CliResult CliRunner::run(const QStringList &words) { return finish(*start(words)); }
+
+CliResult CliRunner::runBare(const QStringList &words, const QStringList &environment)
+{
+    QProcess process;
+    process.setWorkingDirectory(m_work.path());
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (const QString &variable : environment)
+        variables.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
+    process.setProcessEnvironment(variables);
+    process.start(QStringLiteral(TALLYMERE_PROGRAM), words);
+    return finish(process);
+}
+
+QString CliRunner::writeFile(const QString &name, const QByteArray &content)
+{
+    QFile file(m_work.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        throw std::runtime_error("The test's file could not be written.");
+    return name;
+}
+
+CliResult CliRunner::import(const QString &kind, const QByteArray &csv)
+{
+    return run({u"import"_s, kind, writeFile(u"in.csv"_s, csv)});
+}
+
+QList<QHash<QString, QString>> CliRunner::list(const QStringList &words)
+{
+    const CliResult result = run(words);
+    EXPECT_EQ(result.status, 0) << result;
+    QList<QStringList> rows = result.rows();
+    if (rows.isEmpty())
+        return {};
+    const QStringList names = rows.takeFirst();
+    QList<QHash<QString, QString>> records;
+    for (const QStringList &row : rows) {
+        QHash<QString, QString> record;
+        for (qsizetype i = 0; i < names.size(); ++i)
+            record.insert(names[i], row.value(i));
+        records.append(record);
+    }
+    return records;
+}
+
+QStringList CliRunner::column(const QStringList &words, const QString &field)
+{
+    QStringList values;
+    for (const auto &record : list(words))
+        values.append(record.value(field));
+    return values;
+}
+
+void makeSmallCompany(CliRunner &cli)
+{
+    ASSERT_EQ(cli.run({u"init"_s}).status, 0);
+    ASSERT_EQ(cli.import(u"currencies"_s, "CurrencyName,ExchangeRate\nEuro,1.5\n").status, 0);
+    ASSERT_EQ(cli.import(u"types"_s, "TypeName,Inventory\nProduce,true\n").status, 0);
+    ASSERT_EQ(cli.import(u"items"_s,
+                         "ItemNo,ItemDescription,TypeName,Suspended\n"
+                         "A1,Apples,Produce,\nB2,\"Beans, dried\",Produce,false\nC3,Old,Produce,true\n")
+                  .status,
+              0);
+    ASSERT_EQ(cli.import(u"vendors"_s,
+                         "VendorNo,VendorName,CurrencyName,Suspended\n"
+                         "V1,Home,,\nV2,Abroad,Euro,\nV3,Closed,,true\n")
+                  .status,
+              0);
+}

@@ -1,0 +1,92 @@
+#include "engine/table.h"
+#include "tests/cli/clirunner.h"
+
+#include <gtest/gtest.h>
+#include <QSet>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Concurrency : public testing::TestWithParam<Store>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Cli, Concurrency, testing::Values(Store::Local, Store::Remote),
+                         [](const auto &one) { return std::string(storeName(one.param)); });
+
+QByteArray items(const QByteArray &name, int count)
+{
+    QByteArray csv = "ItemDescription,TypeName\n";
+    for (int i = 0; i < count; ++i)
+        csv += name + ' ' + QByteArray::number(i) + ",Produce\n";
+    return csv;
+}
+
+const QByteArray receipts = "VendorNo,WarehouseName,ItemNo,QtyReceived,UnitCost\nV1,Office,A1,1,1\n";
+
+TEST_P(Concurrency, TwoImportsAtATimeComeInWholeOrAreRefused)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    constexpr int count = 300;
+    cli.writeFile(u"one.csv"_s, items("One", count));
+    cli.writeFile(u"two.csv"_s, items("Two", count));
+    const auto one = cli.start({u"import"_s, u"items"_s, u"one.csv"_s});
+    const auto two = cli.start({u"import"_s, u"items"_s, u"two.csv"_s});
+    qsizetype expected = 3;
+    for (QProcess *process : {one.get(), two.get()}) {
+        const CliResult result = CliRunner::finish(*process);
+        if (result.status == 0)
+            expected += count;
+        else
+            EXPECT_EQ(result.status, 1) << result;
+    }
+    EXPECT_GE(expected, 3 + count);
+    const QStringList numbers = cli.column({u"list"_s, u"items"_s}, u"ItemNo"_s);
+    EXPECT_EQ(numbers.size(), expected);
+    EXPECT_EQ(QSet<QString>(numbers.begin(), numbers.end()).size(), expected) << "a number was given twice";
+}
+
+TEST_P(Concurrency, ATableHeldByAnotherUserRefusesImportAndPosting)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    ASSERT_EQ(cli.import(u"receipts"_s, receipts).status, 0);
+    const auto anna = cli.anotherUser();
+    Engine::Table table(anna->database, u"IReceipt"_s);
+    table.open();
+    table.lockTable();
+
+    const CliResult import = cli.import(u"receipts"_s, receipts);
+    EXPECT_EQ(import.status, 1) << import;
+    EXPECT_TRUE(import.errors.contains("IReceipt"_L1)) << import;
+    const CliResult post = cli.run({u"post"_s, u"receipts"_s});
+    EXPECT_EQ(post.status, 1);
+    EXPECT_EQ(post.errorLines().value(0),
+              u"tallymere: Unable to lock Receipts table... this table is being updated by another job."_s);
+
+    const auto patient = cli.start({u"post"_s, u"receipts"_s, u"--retry"_s, u"60"_s});
+    EXPECT_FALSE(patient->waitForFinished(700)) << "it did not wait for the lock";
+    table.unlockTable();
+    EXPECT_EQ(CliRunner::finish(*patient).status, 0);
+    EXPECT_EQ(cli.list({u"history"_s}).size(), 1);
+}
+
+TEST_P(Concurrency, AKilledImportLeavesNothing)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    cli.writeFile(u"long.csv"_s, items("Long", 200'000));
+    const auto import = cli.start({u"import"_s, u"items"_s, u"long.csv"_s});
+    ASSERT_TRUE(import->waitForStarted());
+    QThread::msleep(1500);
+    ASSERT_EQ(import->state(), QProcess::Running);
+    import->kill();
+    import->waitForFinished();
+    EXPECT_EQ(cli.list({u"list"_s, u"items"_s}).size(), 3);
+    EXPECT_EQ(cli.import(u"items"_s, items("After", 1)).status, 0);
+}
+
+} // namespace

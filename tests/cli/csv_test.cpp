@@ -1,0 +1,118 @@
+#include "cli/csv.h"
+#include "frame/shared/ruleerror.h"
+
+#include <gtest/gtest.h>
+#include <QBuffer>
+
+using namespace Qt::StringLiterals;
+using Tallymere::CsvError;
+using Tallymere::CsvReader;
+using Tallymere::CsvWriter;
+
+namespace {
+
+// "line: field|field" for each record, and what ended the reading.
+QStringList read(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    CsvReader reader(buffer);
+    QStringList records;
+    try {
+        while (reader.next())
+            records.append(QString::number(reader.line()) + ": "_L1 + reader.fields().join(u'|'));
+    } catch (const CsvError &error) {
+        records.append(u"%1! %2"_s.arg(error.line()).arg(error.message()));
+    }
+    return records;
+}
+
+struct ReadCase
+{
+    const char *name;
+    QByteArray bytes;
+    QStringList records;
+};
+
+void PrintTo(const ReadCase &one, std::ostream *stream) { *stream << one.name; }
+
+class CsvReading : public testing::TestWithParam<ReadCase>
+{
+};
+
+TEST_P(CsvReading, GivesTheRecordsWithTheirLines)
+{
+    EXPECT_EQ(read(GetParam().bytes), GetParam().records) << read(GetParam().bytes).join(u'\n').toStdString();
+}
+
+const ReadCase readCases[] = {
+    {"Nothing", "", {}},
+    {"OnlyLineEnds", "\n\r\n\n", {}},
+    {"LineEnds", "a,b\r\nc,d\ne,f", {u"1: a|b"_s, u"2: c|d"_s, u"3: e|f"_s}},
+    {"EmptyFields", ",\n,,x,\n", {u"1: |"_s, u"2: ||x|"_s}},
+    {"BlanksStay", " a , b\n", {u"1:  a | b"_s}},
+    {"ByteOrderMark", "\xEF\xBB\xBFItemNo,x\n", {u"1: ItemNo|x"_s}},
+    {"Utf8",
+     "K\xC3\xBC"
+     "che,\xE2\x82\xAC\n",
+     {u"1: Küche|€"_s}},
+    {"Quotes", "\"a,b\",\"say \"\"no\"\"\",\"\"\n", {u"1: a,b|say \"no\"|"_s}},
+    {"LineBreakInQuotes", "\"a\r\nb\",c\nd,e\n", {u"1: a\nb|c"_s, u"3: d|e"_s}},
+    {"EmptyLinesBetween", "a\n\nb\n", {u"1: a"_s, u"3: b"_s}},
+    {"QuoteNeverClosed", "a\n\"b\nc,d\n", {u"1: a"_s, u"2! The quote that opens on this line never closes."_s}},
+    {"QuoteNeverClosedAtTheEnd", "\"b", {u"1! The quote that opens on this line never closes."_s}},
+    {"QuoteInPlainField",
+     "a\nb\"c\n",
+     {u"1: a"_s, u"2! There is a quote inside a field that does not begin with one."_s}},
+    {"TextAfterQuote", "\"a\"b,c\n", {u"1! There is text after a closing quote."_s}},
+    {"Latin1", "a\nCaf\xE9\n", {u"1: a"_s, u"2! The text is not UTF-8. Save the file in UTF-8 and try again."_s}},
+    {"Utf16",
+     QByteArray("\xFF\xFE"
+                "a\0,\0",
+                6),
+     {u"1! The text is not UTF-8. Save the file in UTF-8 and try again."_s}},
+    {"ZeroByte",
+     QByteArray("a\0b\n", 4),
+     {u"1! There is a zero byte in the text. This is no CSV file in UTF-8."_s}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Csv, CsvReading, testing::ValuesIn(readCases),
+                         [](const auto &one) { return std::string(one.param.name); });
+
+TEST(CsvWriting, WhatIsWrittenReadsBackTheSame)
+{
+    const QList<QStringList> records = {
+        {u"a"_s, u"b,c"_s, u"say \"no\""_s},
+        {QString(), QString(), QString()},
+        {QString()},
+        {u"line\nbreak"_s, u" blanks "_s, u"Küche €"_s},
+        {u"x"_s.repeated(100'000)},
+    };
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    CsvWriter writer(buffer);
+    for (const QStringList &record : records)
+        writer.record(record);
+    writer.flush();
+
+    buffer.close();
+    buffer.open(QIODevice::ReadOnly);
+    CsvReader reader(buffer);
+    for (const QStringList &record : records) {
+        ASSERT_TRUE(reader.next());
+        EXPECT_EQ(reader.fields(), record);
+    }
+    EXPECT_FALSE(reader.next());
+}
+
+TEST(CsvWriting, EndsLinesAsTheStandardSays)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    CsvWriter writer(buffer);
+    writer.record({u"a"_s, u"b"_s});
+    writer.flush();
+    EXPECT_EQ(buffer.data(), QByteArray("a,b\r\n"));
+}
+
+} // namespace

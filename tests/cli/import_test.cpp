@@ -1,0 +1,208 @@
+#include "tests/cli/clirunner.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray receiptHeader = "ReceiptNo,ReceiptDate,GLYear,GLPeriod,VendorNo,WarehouseName,ItemNo,QtyReceived,"
+                                 "UnitCost\n";
+
+class Import : public testing::TestWithParam<Store>
+{
+protected:
+    // The lists that an import could have changed.
+    static QString everything(CliRunner &cli)
+    {
+        QString all;
+        for (const QString &kind :
+             {u"types"_s, u"items"_s, u"locations"_s, u"vendors"_s, u"contacts"_s, u"currencies"_s, u"receipts"_s})
+            all += cli.run({u"list"_s, kind}).output;
+        return all;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Cli, Import, testing::Values(Store::Local, Store::Remote),
+                         [](const auto &one) { return std::string(storeName(one.param)); });
+
+struct BadFile
+{
+    QString kind;
+    QByteArray bytes;
+    QStringList messages; // without "in.csv:"
+};
+
+const BadFile badFiles[] = {
+    // the file as such
+    {u"types"_s, "", {u"1: The file is empty."_s}},
+    {u"types"_s, "TypeName\nCaf\xE9\n", {u"2: The text is not UTF-8. Save the file in UTF-8 and try again."_s}},
+    {u"types"_s, "TypeName\nGood\n\"Bad\n", {u"3: The quote that opens on this line never closes."_s}},
+    {u"types"_s, "TypeName,Inventory\nGood\n", {u"2: The header has 2 field(s), this row 1."_s}},
+    // columns
+    {u"types"_s, "Colour,TypeName\nred,A\n", {u"1: There is no column 'Colour' in types."_s}},
+    {u"types"_s, "TypeName,typename\nA,A\n", {u"1: The column 'typename' is there twice."_s}},
+    {u"types"_s, "Inventory\ntrue\n", {u"1: The column 'TypeName' is missing."_s}},
+    {u"items"_s,
+     "ItemID,ItemDescription,TypeName\n1,A,Produce\n",
+     {u"1: The column 'ItemID' is set by the system and cannot be imported."_s}},
+    {u"items"_s,
+     "ItemDescription,TypeName,ItemTypeID\nA,Produce,1\n",
+     {u"1: The columns 'TypeName' and 'ItemTypeID' say the same thing; leave one out."_s}},
+    {u"receipts"_s,
+     "VendorNo,Posted\nV1,true\n",
+     {u"1: The column 'Posted' is set by the system and cannot be imported."_s,
+      u"1: The column 'WarehouseID' or 'WarehouseName' is missing."_s,
+      u"1: The column 'ItemID' or 'ItemNo' is missing."_s, u"1: The column 'QtyReceived' is missing."_s,
+      u"1: The column 'UnitCost' is missing."_s}},
+    // values
+    {u"items"_s,
+     "ItemDescription,TypeName,StandardCost,Suspended\n"
+     "A,Produce,1x,\nB,Produce,inf,\nC,Produce,1e999,\nD,Produce,1e15,\nE,Produce,,yes\n"
+     "12345678901234567890123456789012345678901,Produce,,\n",
+     {u"2: StandardCost '1x' is not a number"_s, u"3: StandardCost 'inf' is infinite"_s,
+      u"4: StandardCost '1e999' is out of range"_s, u"5: StandardCost '1e15' is out of range"_s,
+      u"6: Suspended 'yes' is neither true nor false"_s,
+      u"7: ItemDescription '12345678901234567890123456789012345678901' is longer than 40 characters"_s}},
+    {u"types"_s,
+     "TypeName,CostingMethod\nA,3\nB,1.5\nC,40000\n",
+     {u"2: CostingMethod '3' is not within 1 to 2"_s, u"3: CostingMethod '1.5' is not a whole number"_s,
+      u"4: CostingMethod '40000' is out of range"_s}},
+    // the rules of the screens
+    {u"types"_s, "TypeName\nGood\n\"\"\n", {u"3: Field 'Type Name' must have a value"_s}},
+    {u"items"_s,
+     "ItemNo,ItemDescription,TypeName\nA1,Again,Produce\nN1,New,Produce\nN1,Twice,Produce\nN2,,Produce\n"
+     "N3,New,Dairy\nN4,New,\n",
+     {u"2: Item no. already exists"_s, u"4: Item no. already exists"_s,
+      u"5: Field 'Description' must have a value"_s, u"6: Item type 'Dairy' not found"_s,
+      u"7: Field 'Item Type' must have a value"_s}},
+    {u"items"_s, "ItemDescription,ItemTypeID\nA,77\n", {u"2: Item Type no longer exists"_s}},
+    {u"locations"_s, "WarehouseName\nGood\n\"\"\n", {u"3: Field 'Location Name' must have a value"_s}},
+    {u"currencies"_s, "CurrencyName,ExchangeRate\n,1\n", {u"2: Field 'Currency Name' must have a value"_s}},
+    {u"vendors"_s,
+     "VendorNo,VendorName,CurrencyName\nV1,Again,\nX1,,\nX2,Far,Yen\n",
+     {u"2: Vendor no. already exists"_s, u"3: Field 'Vendor Name' must have a value"_s,
+      u"4: Currency 'Yen' not found"_s}},
+    {u"contacts"_s,
+     "VendorNo,FirstName\nV1,\nV9,Ann\n",
+     {u"2: Field 'Contact Name' must have a value"_s, u"3: Vendor no. 'V9' not found"_s}},
+    {u"receipts"_s,
+     receiptHeader
+         + "R1,,,,V1,Office,A1,,1\nR2,,,,V1,Office,,1,1\nR3,,,,V1,Office,Z9,1,1\nR4,,,,V1,Office,C3,1,1\n"
+           "R5,,,,V1,Office,A1,1,\nR6,,,,V1,Office,A1,1,-0.01\nR7,,,,V9,Office,A1,1,1\nR8,,,,V3,Office,A1,1,1\n"
+           "R9,,,,,Office,A1,1,1\nR10,,,,V1,Attic,A1,1,1\nR11,,1999,1,V1,Office,A1,1,1\n"
+           "R12,2026-02-30,,13,V1,Office,A1,1,1\nR13,,,,V1,Office,A1,1,1\nR14,,,,V1,Office,A1,1,1\n"
+           "R13,,,,V1,Office,B2,1,1\n",
+     {u"2: Field 'Quantity' must have a value... Make changes or press Esc to undo"_s,
+      u"3: Field 'Item no.' must have a value... Make changes or press Esc to undo"_s,
+      u"4: Item not found... Press Esc or enter a different item no"_s, u"5: Item has been suspended"_s,
+      u"6: Field 'Unit Cost' must have a value... Make changes or press Esc to undo"_s,
+      u"7: Field 'Unit Cost' must not be less than zero... Make changes or press Esc to undo"_s,
+      u"8: Vendor no. 'V9' not found"_s, u"9: Vendor no. 'V3' has been suspended"_s,
+      u"10: Field 'Vendor' must have a value"_s, u"11: Location 'Attic' not found"_s,
+      u"12: GL Period is prior to current fiscal year as defined by \"Your Company\""_s,
+      u"13: ReceiptDate '2026-02-30' is not a date (YYYY-MM-DD)"_s, u"13: GLPeriod '13' is not within 1 to 12"_s,
+      u"16: Receipt no. already exists"_s}},
+};
+
+TEST_P(Import, ABadFileIsToldRowByRowAndNothingOfItIsWritten)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    const QString before = everything(cli);
+    for (const BadFile &file : badFiles) {
+        SCOPED_TRACE(file.kind.toStdString() + ": " + file.bytes.left(200).toStdString());
+        QStringList expected;
+        for (const QString &message : file.messages)
+            expected.append("in.csv:"_L1 + message);
+        expected.append(u"tallymere: Nothing was imported."_s);
+
+        const CliResult result = cli.import(file.kind, file.bytes);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.errorLines(), expected) << result;
+        EXPECT_EQ(result.output, QString());
+    }
+    EXPECT_EQ(everything(cli), before);
+}
+
+TEST_P(Import, AfterAHundredErrorsOnlyTheirNumberIsTold)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    const CliResult result = cli.import(u"types"_s, "TypeName,Inventory\n" + QByteArray("A,x\n").repeated(130));
+    EXPECT_EQ(result.status, 1);
+    ASSERT_EQ(result.errorLines().size(), 102);
+    EXPECT_EQ(result.errorLines()[99], u"in.csv:101: Inventory 'x' is neither true nor false"_s);
+    EXPECT_EQ(result.errorLines()[100], u"in.csv: 30 more errors"_s);
+}
+
+TEST_P(Import, AHeaderWithoutRowsIsNothingToDo)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    EXPECT_EQ(cli.import(u"items"_s, "ItemDescription,TypeName\r\n").status, 0);
+}
+
+TEST_P(Import, NumbersLeftEmptyAreAssignedAndGivenOnesLeaveTheCounterAlone)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    ASSERT_EQ(cli.import(u"items"_s,
+                         "ItemNo,ItemDescription,TypeName\n1002,Given,Produce\n,First,Produce\n"
+                         ",Second,Produce\n")
+                  .status,
+              0);
+    EXPECT_EQ(cli.column({u"list"_s, u"items"_s, u"--filter"_s, u"(ItemDescription = 'First')"_s}, u"ItemNo"_s),
+              QStringList{u"1001"_s});
+    // 1002 was taken by hand.
+    EXPECT_EQ(cli.column({u"list"_s, u"items"_s, u"--filter"_s, u"(ItemDescription = 'Second')"_s}, u"ItemNo"_s),
+              QStringList{u"1003"_s});
+
+    const QByteArray rows = "1001,,,,V1,Office,A1,1,1\n,,,,V1,Office,A1,1,1\n";
+    ASSERT_EQ(cli.import(u"receipts"_s, receiptHeader + rows).status, 0);
+    const QStringList numbers = cli.column({u"list"_s, u"receipts"_s}, u"ReceiptNo"_s);
+    EXPECT_EQ(QSet<QString>(numbers.begin(), numbers.end()), (QSet<QString>{u"1001"_s, u"1002"_s}));
+}
+
+TEST_P(Import, FieldsAreTakenOverAsTheScreensDo)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    ASSERT_EQ(cli.import(u"vendors"_s,
+                         "VendorNo,VendorName,WebPage,ZipCode\n"
+                         "W1,Web,http://abcdefghijklmnopqrstuvwxyz,n7l 2a4\n")
+                  .status,
+              0);
+    const auto vendor = cli.list({u"list"_s, u"vendors"_s, u"--filter"_s, u"(VendorNo = 'W1')"_s}).value(0);
+    EXPECT_EQ(vendor[u"WebPage"_s], u"abcdefghijklmnopqrstuv"_s);
+    EXPECT_EQ(vendor[u"ZipCode"_s], u"N7L 2A4"_s);
+    EXPECT_EQ(vendor[u"CurrencyID"_s], u"1"_s); // the organization's
+    EXPECT_EQ(vendor[u"Suspended"_s], u"false"_s);
+
+    const QByteArray rows = "R1,2026-03-05,27,4,V1,Office,A1,0.1,1.23456\n";
+    ASSERT_EQ(cli.import(u"receipts"_s, receiptHeader + rows).status, 0);
+    const auto receipt = cli.list({u"list"_s, u"receipts"_s}).value(0);
+    EXPECT_EQ(receipt[u"GLYear"_s], u"2027"_s);
+    EXPECT_EQ(receipt[u"GLPeriod"_s], u"4"_s);
+    EXPECT_EQ(receipt[u"ReceiptDate"_s], u"2026-03-05"_s);
+    EXPECT_EQ(receipt[u"Posted"_s], u"false"_s);
+    ASSERT_EQ(cli.run({u"post"_s, u"receipts"_s}).status, 0);
+    const auto row = cli.list({u"history"_s}).value(0);
+    EXPECT_EQ(row[u"Quantity"_s], u"0.1"_s);
+    EXPECT_EQ(row[u"UnitCost"_s], u"1.2346"_s);
+}
+
+TEST_P(Import, APeriodThatIsNotExpectedNeedsAYes)
+{
+    CliRunner cli(GetParam());
+    ASSERT_EQ(cli.run({u"sample"_s}).status, 0); // expects periods 11 and 12
+    const QByteArray rows = receiptHeader + "R1,,2026,3,1001,Central Kitchen,BK1000,1,1\n";
+    const CliResult refused = cli.import(u"receipts"_s, rows);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.errorLines().value(0),
+              u"in.csv:2: GL Period is not within expected range as defined by \"Your Company\"."_s);
+    EXPECT_EQ(cli.run({u"import"_s, u"receipts"_s, u"in.csv"_s, u"--yes"_s}).status, 0);
+    EXPECT_EQ(cli.list({u"list"_s, u"receipts"_s, u"--filter"_s, u"(ReceiptNo = 'R1')"_s}).size(), 1);
+}
+
+} // namespace

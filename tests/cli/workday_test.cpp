@@ -1,0 +1,105 @@
+#include "tests/cli/clirunner.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Workday : public testing::TestWithParam<Store>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Cli, Workday, testing::Values(Store::Local, Store::Remote),
+                         [](const auto &one) { return std::string(storeName(one.param)); });
+
+TEST_P(Workday, FromAnEmptyFolderToTotals)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    ASSERT_EQ(cli.import(u"locations"_s, "WarehouseName\nCold Room\n").status, 0);
+    const CliResult imported = cli.import(u"receipts"_s,
+                                          "VendorNo,WarehouseName,PurchaseOrderNo,ReceiptDate,GLYear,GLPeriod,"
+                                          "ItemNo,QtyReceived,UnitCost\n"
+                                          "V1,Office,P1,2026-11-02,2026,11,A1,10,2\n"
+                                          "V1,Office,P1,2026-11-02,2026,11,B2,4,1.005\n"
+                                          "V2,Cold Room,,2026-11-03,2026,11,A1,5,2\n");
+    EXPECT_EQ(imported.output, u"2 receipts imported\n"_s) << imported;
+    EXPECT_EQ(cli.run({u"totals"_s}).rows().size(), 1); // nothing is in stock before posting
+
+    const CliResult posted = cli.run({u"post"_s, u"receipts"_s});
+    EXPECT_EQ(posted.status, 0) << posted;
+    EXPECT_EQ(posted.output, u"2 receipt(s) posted\n"_s);
+    EXPECT_EQ(cli.run({u"post"_s, u"receipts"_s}).output, u"0 receipt(s) to be posted\n"_s);
+
+    const QList<QStringList> totals = {
+        {u"ItemID"_s, u"WarehouseID"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s, u"QtyOnHand"_s},
+        {u"10000"_s, u"2"_s, u"A1"_s, u"Apples"_s, u"Cold Room"_s, u"5"_s},
+        {u"10000"_s, u"1"_s, u"A1"_s, u"Apples"_s, u"Office"_s, u"10"_s},
+        {u"10001"_s, u"1"_s, u"B2"_s, u"Beans, dried"_s, u"Office"_s, u"4"_s},
+    };
+    EXPECT_EQ(cli.run({u"totals"_s, u"--csv"_s}).rows(), totals);
+    EXPECT_EQ(cli.column({u"totals"_s, u"--filter"_s, u"(WarehouseID = 2)"_s}, u"QtyOnHand"_s),
+              QStringList{u"5"_s});
+    // 10 at 2.00, then 5 at 2.00 euros of 1.50: 35.00 for 15.
+    EXPECT_EQ(cli.column({u"list"_s, u"items"_s, u"--filter"_s, u"(ItemNo = 'A1')"_s}, u"WgtAvgCost"_s),
+              QStringList{u"2.33"_s});
+
+    const auto history = cli.list({u"history"_s, u"--filter"_s, u"(ItemID = 10000)"_s});
+    ASSERT_EQ(history.size(), 2);
+    EXPECT_EQ(history[0][u"Periodppyyyy"_s], u"11/2026"_s);
+    EXPECT_EQ(history[0][u"WarehouseName"_s], u"Cold Room"_s);
+    EXPECT_EQ(history[0][u"UnitCost"_s], u"3"_s);
+    EXPECT_EQ(history[0][u"TransTypeName"_s], u"PO Receipt"_s);
+    EXPECT_EQ(history[0][u"AdjustmentID"_s], QString());
+    EXPECT_EQ(history[1][u"TransDescription"_s], u"Receipt: 1001   PO: P1"_s);
+}
+
+TEST_P(Workday, InitLeavesRowsAsTheyAre)
+{
+    CliRunner cli(GetParam());
+    ASSERT_EQ(cli.run({u"init"_s, u"--postal-format"_s, u"UK"_s}).status, 0);
+    EXPECT_EQ(cli.column({u"list"_s, u"currencies"_s}, u"CurrencyName"_s), QStringList{u"Pounds"_s});
+    ASSERT_EQ(cli.import(u"locations"_s, "WarehouseName\nCold Room\n").status, 0);
+    ASSERT_EQ(cli.run({u"init"_s, u"--postal-format"_s, u"CAN"_s}).status, 0);
+    EXPECT_EQ(cli.column({u"list"_s, u"currencies"_s}, u"CurrencyName"_s), QStringList{u"Pounds"_s});
+    EXPECT_EQ(cli.column({u"list"_s, u"locations"_s}, u"WarehouseName"_s),
+              (QStringList{u"Cold Room"_s, u"Office"_s}));
+}
+
+TEST_P(Workday, TheSampleKitchenAddsUpAndGoesIntoANewDatabaseOnly)
+{
+    CliRunner cli(GetParam());
+    const CliResult sample = cli.run({u"sample"_s});
+    ASSERT_EQ(sample.status, 0) << sample;
+    EXPECT_GE(cli.list({u"list"_s, u"items"_s}).size(), 150);
+    EXPECT_GT(cli.list({u"list"_s, u"receipts"_s, u"--filter"_s, u"(Posted = false)"_s}).size(), 0);
+
+    QHash<QString, double> moved;
+    for (const auto &row : cli.list({u"history"_s}))
+        moved[row[u"ItemID"_s] + u'/' + row[u"WarehouseID"_s]] += row[u"Quantity"_s].toDouble();
+    const auto totals = cli.list({u"totals"_s});
+    EXPECT_EQ(totals.size(), moved.size());
+    for (const auto &row : totals) {
+        EXPECT_NEAR(row[u"QtyOnHand"_s].toDouble(), moved[row[u"ItemID"_s] + u'/' + row[u"WarehouseID"_s]], 1e-9)
+            << row[u"ItemNo"_s].toStdString();
+    }
+
+    const CliResult again = cli.run({u"sample"_s});
+    EXPECT_EQ(again.status, 1);
+    EXPECT_TRUE(again.errors.contains("the table Item holds rows already"_L1)) << again;
+}
+
+TEST_P(Workday, AFilterThatCannotBeReadIsRefused)
+{
+    CliRunner cli(GetParam());
+    ASSERT_EQ(cli.run({u"init"_s}).status, 0);
+    for (const QStringList &words : {QStringList{u"totals"_s}, {u"history"_s}, {u"list"_s, u"items"_s}}) {
+        const CliResult result = cli.run(words + QStringList{u"--filter"_s, u"Colour = 1"_s});
+        EXPECT_EQ(result.status, 1) << result;
+        EXPECT_TRUE(result.errors.contains("Colour"_L1)) << result;
+        EXPECT_EQ(result.output, QString());
+    }
+}
+
+} // namespace
