@@ -37,7 +37,9 @@ HostOptions readOptions(const QStringList &arguments)
     if (!parser.parse(arguments))
         return stop(HostOptions::Outcome::Refuse, parser.errorText());
     if (parser.isSet(help))
-        return stop(HostOptions::Outcome::Inform, parser.helpText().trimmed());
+        // The parser takes the program's name from an application object, which there is not yet.
+        return stop(HostOptions::Outcome::Inform,
+                    parser.helpText().trimmed().replace("<executable_name>"_L1, "tallymere-host"_L1));
     if (parser.isSet(version))
         return stop(HostOptions::Outcome::Inform, u"tallymere-host %1"_s.arg(QLatin1StringView(TALLYMERE_VERSION)));
     if (!parser.positionalArguments().isEmpty())
