@@ -7,7 +7,8 @@
 namespace Engine {
 
 // What differs between the stores in the text of statements; one implementation for each.
-class Dialect {
+class Dialect
+{
 public:
     virtual ~Dialect() = default;
 
@@ -18,6 +19,7 @@ public:
     // stand in the order of the primary key, that one is part of the table.)
     virtual QStringList createTable(const TableLayout &layout) const = 0;
     virtual QStringList createIndexes(const TableLayout &layout) const = 0;
+    virtual QStringList renameTable(const QString &from, const QString &to) const = 0;
     virtual QString dropIndex(const QString &table, const IndexDef &index) const = 0;
 
     // The column's value as a value of another field; null where it does not convert, text cut to the new size.

@@ -9,7 +9,8 @@ namespace Engine {
 class PostgresLocks;
 
 // A database of a server. Record and table locks are advisory locks of the same connection.
-class PostgresConnection final : public Connection {
+class PostgresConnection final : public Connection
+{
 public:
     explicit PostgresConnection(const PostgresTarget &target); // connects
     ~PostgresConnection() override;

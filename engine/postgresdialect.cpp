@@ -74,12 +74,17 @@ QString PostgresDialect::columnType(const FieldDef &field) const
     return u"text COLLATE \"C\""_s;
 }
 
+QString PostgresDialect::tableComment(const QString &table) const
+{
+    return u"COMMENT ON TABLE %1 IS %2"_s.arg(name(table), textLiteral(table));
+}
+
 QStringList PostgresDialect::createTable(const TableLayout &layout) const
 {
     const QStringList key = layout.primaryFields();
     const QString table = name(layout.name);
     QStringList lines;
-    QStringList comments{u"COMMENT ON TABLE %1 IS %2"_s.arg(table, textLiteral(layout.name))};
+    QStringList comments{tableComment(layout.name)};
     for (const FieldDef &field : layout.fields) {
         const bool required = key.contains(field.name, Qt::CaseInsensitive) && field.type != FieldType::AutoInc;
         lines << name(field.name) + u' ' + columnType(field) + (required ? " NOT NULL"_L1 : ""_L1);
@@ -111,6 +116,11 @@ QStringList PostgresDialect::createIndexes(const TableLayout &layout) const
                                                      name(layout.name), keyClause(layout, index));
     }
     return statements;
+}
+
+QStringList PostgresDialect::renameTable(const QString &from, const QString &to) const
+{
+    return {u"ALTER TABLE %1 RENAME TO %2"_s.arg(name(from), name(to)), tableComment(to)};
 }
 
 QString PostgresDialect::dropIndex(const QString &table, const IndexDef &index) const

@@ -11,6 +11,7 @@ public:
     QString columnType(const FieldDef &field) const override;
     QStringList createTable(const TableLayout &layout) const override;
     QStringList createIndexes(const TableLayout &layout) const override;
+    QStringList renameTable(const QString &from, const QString &to) const override;
     QString dropIndex(const QString &table, const IndexDef &index) const override;
     QString converted(const QString &column, FieldType from, const FieldDef &to) const override;
     QStringList continueAutoIncrement(const QString &oldTable, const QString &newTable,
@@ -26,6 +27,7 @@ public:
     static constexpr QLatin1StringView moneyMark{" (money)"};
 
 private:
+    QString tableComment(const QString &table) const;
     QString keyClause(const TableLayout &layout, const IndexDef &index) const;
 };
 

@@ -8,7 +8,8 @@ namespace Engine {
 
 namespace {
 
-struct Mapping {
+struct Mapping
+{
     const char *sqlState; // whole codes first, then the two characters of a class
     ErrorCode code;
     const char *text; // %1 the server and database, %2 what the server says

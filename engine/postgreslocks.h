@@ -11,7 +11,8 @@ class PostgresConnection;
 
 // Advisory locks of the connection's own session. For each table there are three numbers made of its name: one for
 // being open, one for the table lock, which whoever locks a record shares, and one for the records.
-class PostgresLocks final : public CountedLocks {
+class PostgresLocks final : public CountedLocks
+{
 public:
     explicit PostgresLocks(PostgresConnection &connection)
         : m_connection(connection)
@@ -42,7 +43,8 @@ private:
     bool ask(const QString &sql, const QList<qint64> &numbers);
     void release(const QString &sql, const QList<qint64> &numbers) noexcept;
 
-    struct Deferred {
+    struct Deferred
+    {
         QString sql;
         QList<qint64> numbers;
     };

@@ -44,7 +44,8 @@ bool samePrimary(const TableLayout &a, const TableLayout &b)
 }
 
 // The table held alone for as long as the object lives.
-class ExclusiveOpen {
+class ExclusiveOpen
+{
 public:
     ExclusiveOpen(Connection &store, const QString &table)
         : m_locks(store.locks())
@@ -122,7 +123,7 @@ void rebuild(Connection &store, const TableLayout &stored, const TableLayout &la
             runAll(store, dialect.continueAutoIncrement(stored.name, copy.name, field.name));
     }
     store.execute("DROP TABLE "_L1 + dialect.name(stored.name));
-    store.execute(u"ALTER TABLE %1 RENAME TO %2"_s.arg(dialect.name(copy.name), dialect.name(layout.name)));
+    runAll(store, dialect.renameTable(copy.name, layout.name));
     runAll(store, dialect.createIndexes(layout));
 }
 

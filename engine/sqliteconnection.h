@@ -9,7 +9,8 @@ namespace Engine {
 
 // A database file, with the lock file beside it. SQLite's own locks last for one transaction; those of records and
 // tables stand in the lock file.
-class SqliteConnection final : public Connection {
+class SqliteConnection final : public Connection
+{
 public:
     enum class Missing { Fail, Create };
 
@@ -41,6 +42,7 @@ private:
     SqliteConnection() = default;
     void open(int flags);
     void configure();
+    qint64 salvage(const TableLayout &table, const QString &copy); // the rows lost
     QString spelling(const QString &table); // as stored, null when there is no such table
 
     SqliteDialect m_dialect;

@@ -167,6 +167,11 @@ QStringList SqliteDialect::createIndexes(const TableLayout &layout) const
     return statements;
 }
 
+QStringList SqliteDialect::renameTable(const QString &from, const QString &to) const
+{
+    return {u"ALTER TABLE %1 RENAME TO %2"_s.arg(name(from), name(to))};
+}
+
 QString SqliteDialect::dropIndex(const QString &table, const IndexDef &index) const
 {
     return "DROP INDEX "_L1 + quoted(prefixedIndexName(table, index));

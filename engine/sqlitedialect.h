@@ -4,12 +4,14 @@
 
 namespace Engine {
 
-class SqliteDialect final : public Dialect {
+class SqliteDialect final : public Dialect
+{
 public:
     QString name(const QString &identifier) const override;
     QString columnType(const FieldDef &field) const override;
     QStringList createTable(const TableLayout &layout) const override;
     QStringList createIndexes(const TableLayout &layout) const override;
+    QStringList renameTable(const QString &from, const QString &to) const override;
     QString dropIndex(const QString &table, const IndexDef &index) const override;
     QString converted(const QString &column, FieldType from, const FieldDef &to) const override;
     QStringList continueAutoIncrement(const QString &oldTable, const QString &newTable,

@@ -132,6 +132,7 @@ TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
         layout.indexes = {primaryOver(u"ID"_s), {u"F"_s, u"F"_s, IndexOption::Descending}};
         database.restructureTable(layout);
         EXPECT_FALSE(database.differs(layout));
+        EXPECT_EQ(connection.describe(u"T"_s)->name, u"T"_s);
         StatementPtr row = connection.prepare(u"SELECT F, ID, Added FROM T"_s);
         ASSERT_TRUE(row->next());
         const Value value = row->valueAt(0, c.to.type);
