@@ -9,7 +9,8 @@
 namespace Tallymere {
 
 // The command line does not make sense: exit status 2.
-class UsageError : public std::exception {
+class UsageError : public std::exception
+{
 public:
     explicit UsageError(QString message)
         : m_message(std::move(message))
@@ -25,7 +26,8 @@ private:
     QByteArray m_what;
 };
 
-struct OptionSpec {
+struct OptionSpec
+{
     QString name; // "data", given as --data
     QString value; // what stands after it: "FOLDER"; empty for a switch
     QString text; // for --help
@@ -33,7 +35,8 @@ struct OptionSpec {
 
 // What stands on the command line: options ("--name value" or "--name=value", switches "--name") and the words
 // between them. "--" ends the options.
-class Arguments {
+class Arguments
+{
 public:
     // Throws UsageError for an option that is unknown, given twice, or without its value.
     Arguments(const QStringList &words, const QList<OptionSpec> &options);

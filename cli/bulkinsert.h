@@ -11,7 +11,8 @@ namespace Tallymere {
 // Inserts many rows of one table, several with each statement, without waiting for the answers. Within a
 // transaction of the caller; a failure shows at the latest at the caller's Connection::drain(). For rows that are
 // known to be right: nothing is checked.
-class BulkInsert {
+class BulkInsert
+{
 public:
     BulkInsert(Engine::Connection &connection, QString table, QStringList columns);
 

@@ -5,7 +5,8 @@
 namespace Tallymere {
 
 // A stream of numbers that depends on nothing but its seed (SplitMix64).
-class Chance {
+class Chance
+{
 public:
     explicit Chance(std::uint64_t seed)
         : m_state(seed)

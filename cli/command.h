@@ -13,7 +13,8 @@
 namespace Tallymere {
 
 // What a command has at hand while it runs.
-struct CommandContext {
+struct CommandContext
+{
     Console &console;
     ConsolePrompts &prompts;
     SettingsStore &settings;
@@ -24,7 +25,8 @@ struct CommandContext {
     std::unique_ptr<TDataModuleTallymere> openData(DataModuleOptions options = {}) const;
 };
 
-struct Command {
+struct Command
+{
     QString name;
     QString words; // of the synopsis: "KIND FILE.csv"
     QString summary;

@@ -9,7 +9,8 @@
 namespace Tallymere {
 
 // Standard output and standard error of the program.
-class Console {
+class Console
+{
 public:
     Console();
 
@@ -30,7 +31,8 @@ QString onOneLine(QString text); // line breaks and the blanks around them becom
 
 // How rules talk to the user of a command. Questions get their default answer, which refuses, unless the user has
 // said yes beforehand. A refused lock is retried for the time given.
-class ConsolePrompts final : public Prompts {
+class ConsolePrompts final : public Prompts
+{
 public:
     explicit ConsolePrompts(Console &console)
         : m_console(console)
@@ -53,7 +55,8 @@ private:
 };
 
 // Progress of long work on a terminal; nothing is shown in the first second.
-class ConsoleProgress final : public Progress {
+class ConsoleProgress final : public Progress
+{
 public:
     ConsoleProgress(Console &console, QString what)
         : m_console(console)

@@ -10,7 +10,8 @@ class QIODevice;
 namespace Tallymere {
 
 // What makes a file no CSV: wrong encoding, a quote that never closes. Reading cannot go on after it.
-class CsvError : public std::exception {
+class CsvError : public std::exception
+{
 public:
     CsvError(int line, QString message)
         : m_line(line)
@@ -31,7 +32,8 @@ private:
 
 // Reads comma-separated records (RFC 4180) in UTF-8, with or without byte order mark, one at a time. Lines end with
 // CR LF or LF; lines without any character are passed over.
-class CsvReader {
+class CsvReader
+{
 public:
     explicit CsvReader(QIODevice &device); // open for reading; not taken over
 
@@ -58,7 +60,8 @@ private:
 };
 
 // Writes records. Text is quoted where it must be; what is written goes to the device in larger blocks.
-class CsvWriter {
+class CsvWriter
+{
 public:
     explicit CsvWriter(QIODevice &device);
     ~CsvWriter(); // what flush() has not written is lost

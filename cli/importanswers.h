@@ -6,7 +6,8 @@ namespace Tallymere {
 
 // Answers the questions of the entry rules while a file comes in: with their default, which refuses, or with yes.
 // The last text is kept, because it is the reason when a row is refused without a message of its own.
-class ImportAnswers final : public Prompts {
+class ImportAnswers final : public Prompts
+{
 public:
     explicit ImportAnswers(bool yes)
         : m_yes(yes)

@@ -7,7 +7,8 @@ class QIODevice;
 
 namespace Tallymere {
 
-struct ImportResult {
+struct ImportResult
+{
     int documents = 0;
     ImportErrors errors; // when there are any, nothing was written
 };

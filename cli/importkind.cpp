@@ -153,6 +153,29 @@ ImportKind currenciesKind()
     return kind;
 }
 
+ImportKind taxesKind()
+{
+    ImportKind kind;
+    kind.name = u"taxes"_s;
+    kind.lockedTables = {u"Tax"_s};
+    addColumns(kind, Layouts::tax(), {u"TaxID"_s, u"TaxGLAccountID"_s});
+    require(kind, {u"TaxName"_s, u"TaxCode"_s, u"TaxDescription"_s, u"Rate"_s});
+    writeBy(kind, MasterKinds::tax());
+    return kind;
+}
+
+ImportKind banksKind()
+{
+    ImportKind kind;
+    kind.name = u"banks"_s;
+    kind.lockedTables = {u"Bank"_s};
+    addColumns(kind, Layouts::bank(), {u"BankID"_s, u"BankGLAccountID"_s});
+    addName(kind, u"CurrencyID"_s, Layouts::currency(), u"CurrencyName"_s, tr("Currency '%1' not found"));
+    require(kind, {u"BankName"_s, u"CurrencyID"_s});
+    writeBy(kind, MasterKinds::bank());
+    return kind;
+}
+
 ImportKind receiptsKind()
 {
     ImportKind kind;
@@ -183,8 +206,9 @@ bool ImportKind::hasLines() const
 
 const QList<ImportKind> &importKinds()
 {
-    static const QList<ImportKind> kinds = {typesKind(),    itemsKind(),      locationsKind(), vendorsKind(),
-                                            contactsKind(), currenciesKind(), receiptsKind()};
+    static const QList<ImportKind> kinds = {typesKind(),      itemsKind(),    locationsKind(),
+                                            vendorsKind(),    contactsKind(), taxesKind(),
+                                            currenciesKind(), banksKind(),    receiptsKind()};
     return kinds;
 }
 

@@ -16,7 +16,8 @@ class ImportAnswers;
 class ImportTarget;
 
 // Where a number or name is looked up that stands for a key: "TypeName" for ItemTypeID.
-struct NameLookup {
+struct NameLookup
+{
     QString table; // "ItemType"
     QString nameField; // "TypeName"
     QString keyField; // "ItemTypeID"
@@ -24,7 +25,8 @@ struct NameLookup {
 };
 
 // One column that a file of a kind may have.
-struct ImportColumn {
+struct ImportColumn
+{
     enum class Level { Document, Line };
     enum class Format { Plain, Year, Period }; // years of two digits or in full; periods from 1 to 12
 
@@ -40,7 +42,8 @@ struct ImportColumn {
 };
 
 // What tells the import of one kind of file from another, as data.
-struct ImportKind {
+struct ImportKind
+{
     QString name; // "items"
     QList<ImportColumn> columns;
     QStringList refusedColumns; // fields that exist and that only the system sets
@@ -54,12 +57,14 @@ const QList<ImportKind> &importKinds();
 const ImportKind *findImportKind(const QString &name);
 
 // A value of a row with the column that it stands in.
-struct ImportCell {
+struct ImportCell
+{
     const ImportColumn *column = nullptr;
     Engine::Value value; // null for an empty field; the text itself in columns with a lookup
 };
 
-struct ImportRow {
+struct ImportRow
+{
     int line = 0; // of the file
     std::vector<ImportCell> cells;
     bool isBad = false; // has been reported; what it would have brought is missing
@@ -70,9 +75,11 @@ struct ImportRow {
 using ImportDocument = std::vector<ImportRow>; // one row, or the rows of a document with lines
 
 // Rows refused so far.
-class ImportErrors {
+class ImportErrors
+{
 public:
-    struct Error {
+    struct Error
+    {
         int line;
         QString message;
     };
@@ -86,7 +93,8 @@ private:
 };
 
 // Writes the documents of one kind, by the rules of its entry screen, within the caller's transaction.
-class ImportTarget {
+class ImportTarget
+{
 public:
     virtual ~ImportTarget() = default;
     // What is refused is added to the errors; the database is rolled back then. Throws EngineError.

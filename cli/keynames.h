@@ -7,7 +7,8 @@
 namespace Tallymere {
 
 // Finds keys by the names and numbers that stand for them. What was found once is remembered.
-class KeyNames {
+class KeyNames
+{
 public:
     explicit KeyNames(Engine::Database &database)
         : m_database(database)

@@ -10,13 +10,15 @@
 namespace Tallymere {
 
 // A posted document of the large kitchen, line by line.
-struct KitchenDocument {
+struct KitchenDocument
+{
     QDate date;
     qint64 warehouse = 0;
     qint64 vendor = 0; // receipts only
 };
 
-struct KitchenLine {
+struct KitchenLine
+{
     qint64 item = 0;
     double quantity = 0;
     Engine::Money entered; // the unit cost as entered, in the vendor's currency
@@ -25,7 +27,8 @@ struct KitchenLine {
 
 // Writes documents with their history rows, as entering and posting would have left them. Numbers run on from the
 // database's counters, which are set by finish(). Within the caller's transaction.
-class KitchenBooks {
+class KitchenBooks
+{
 public:
     explicit KitchenBooks(Engine::Database &database);
 

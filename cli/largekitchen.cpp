@@ -22,8 +22,9 @@ constexpr int triesForStock = 50;
 
 } // namespace
 
-LargeKitchen::LargeKitchen(Engine::Database &database, std::uint64_t seed)
+LargeKitchen::LargeKitchen(Engine::Database &database, std::uint64_t seed, Size size)
     : m_database(database)
+    , m_size(size)
     , m_chance(seed)
 {
 }
@@ -33,7 +34,7 @@ void LargeKitchen::fill(Progress &progress)
     Engine::Connection &connection = m_database.connection();
     const BulkWriting room(connection, m_database.session().type == Engine::SessionType::Local);
     Engine::Transaction transaction(connection);
-    fillCatalogue(m_database, itemCount, m_chance);
+    fillCatalogue(m_database, m_size.items, m_chance);
     fillLocations(m_database, locationCount);
     readMasters();
     keepBooks(progress);
@@ -68,9 +69,8 @@ void LargeKitchen::readMasters()
 void LargeKitchen::keepBooks(Progress &progress)
 {
     KitchenBooks books(m_database);
-    constexpr int documents = historyRows / linesPerDocument;
-    progress.start(documents);
-    for (int number = 0; number < documents; ++number) {
+    progress.start(documents());
+    for (int number = 0; number < documents(); ++number) {
         addDocument(books, number, linesPerDocument);
         progress.step();
     }
@@ -81,17 +81,16 @@ void LargeKitchen::keepBooks(Progress &progress)
 
 void LargeKitchen::addDocument(KitchenBooks &books, int number, int lineCount)
 {
-    constexpr int documents = historyRows / linesPerDocument;
     const qint64 days = firstDay.daysTo(lastDay);
     KitchenDocument document;
-    document.date = firstDay.addDays(days * number / documents);
+    document.date = firstDay.addDays(days * number / documents());
     const int location = m_chance.below(locationCount);
     document.warehouse = m_locations[static_cast<size_t>(location)];
 
-    const bool filling = number < documents * fillingPercent / 100;
+    const bool filling = number < documents() * fillingPercent / 100;
     const int kind = m_chance.below(100);
     if (filling || kind < receiptPercent) {
-        const double growth = 1.0 + 0.15 * number / documents;
+        const double growth = 1.0 + 0.15 * number / documents();
         books.addReceipt(document, receive(document, location, lineCount, growth));
     } else if (kind < receiptPercent + adjustmentPercent) {
         books.addAdjustment(document, adjust(location, lineCount));

@@ -14,20 +14,26 @@ namespace Tallymere {
 // posting the documents one after the other gives. The same seed gives the same rows.
 //
 // Goes on from a database that holds the sample's master data. One transaction.
-class LargeKitchen {
+class LargeKitchen
+{
 public:
-    LargeKitchen(Engine::Database &database, std::uint64_t seed);
+    struct Size
+    {
+        int items = 5000; // with those of the sample's catalogue
+        int historyRows = 1'000'000;
+    };
+
+    LargeKitchen(Engine::Database &database, std::uint64_t seed, Size size);
 
     void fill(Progress &progress);
 
 private:
-    static constexpr int itemCount = 5000;
     static constexpr int locationCount = 10;
-    static constexpr int historyRows = 1'000'000;
     static constexpr int linesPerDocument = 20;
     static constexpr int unpostedReceipts = 25;
 
-    struct Item {
+    struct Item
+    {
         qint64 key = 0;
         Engine::Money basePrice;
         Engine::Money average;
@@ -35,13 +41,15 @@ private:
         std::array<double, locationCount> balances{};
         std::array<bool, locationCount> hasBalance{};
     };
-    struct Vendor {
+    struct Vendor
+    {
         qint64 key = 0;
         double exchangeRate = 0;
     };
 
     void readMasters();
     void keepBooks(Progress &progress);
+    int documents() const { return m_size.historyRows / linesPerDocument; }
     void addDocument(KitchenBooks &books, int number, int lineCount);
     void addUnposted(KitchenBooks &books);
     std::vector<KitchenLine> receive(KitchenDocument &document, int location, int lineCount, double growth);
@@ -51,6 +59,7 @@ private:
     void writeStock();
 
     Engine::Database &m_database;
+    const Size m_size;
     Chance m_chance;
     std::vector<Item> m_items;
     std::vector<Vendor> m_vendors;

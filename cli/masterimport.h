@@ -7,7 +7,8 @@
 namespace Tallymere {
 
 // Writes rows as records of a master table.
-class MasterImport final : public ImportTarget {
+class MasterImport final : public ImportTarget
+{
 public:
     explicit MasterImport(std::unique_ptr<MasterRecord> record);
 

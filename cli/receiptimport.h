@@ -8,7 +8,8 @@
 namespace Tallymere {
 
 // Writes the rows of a document as an unposted receipt.
-class ReceiptImport final : public ImportTarget {
+class ReceiptImport final : public ImportTarget
+{
 public:
     ReceiptImport(Engine::Database &database, ImportAnswers &answers);
 

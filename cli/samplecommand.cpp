@@ -57,7 +57,7 @@ void runSample(CommandContext &context)
     ConsoleProgress progress(context.console, tr("Filling"));
     bringInSampleMasters(*data, progress);
     if (large)
-        LargeKitchen(data->databaseTallymere(), static_cast<quint64>(seed)).fill(progress);
+        LargeKitchen(data->databaseTallymere(), static_cast<quint64>(seed), {}).fill(progress);
     else
         bringInSampleReceipts(*data, context.prompts, progress);
     const auto rows = Engine::singleValue(data->databaseTallymere(), u"SELECT count(*) FROM IHist"_s);

@@ -81,6 +81,32 @@ MasterKind MasterKinds::vendorContact()
     return kind;
 }
 
+// A rate of 0 counts as missing.
+MasterKind MasterKinds::tax()
+{
+    MasterKind kind;
+    kind.table = u"Tax"_s;
+    kind.keyField = u"TaxID"_s;
+    kind.required = {{u"TaxName"_s, tr("Field 'Tax Name' must have a value")},
+                     {u"TaxCode"_s, tr("Field 'Code' must have a value")},
+                     {u"TaxDescription"_s, tr("Field 'Description' must have a value")},
+                     {u"Rate"_s, tr("Field 'Rate' must have a value")}};
+    kind.taken = tr("Tax already exists");
+    return kind;
+}
+
+MasterKind MasterKinds::bank()
+{
+    MasterKind kind;
+    kind.table = u"Bank"_s;
+    kind.keyField = u"BankID"_s;
+    kind.required = {{u"BankName"_s, tr("Field 'Bank Name' must have a value")},
+                     {u"CurrencyID"_s, tr("Field 'Currency' must have a value")}};
+    kind.references = {{u"CurrencyID"_s, u"Currency"_s, tr("Currency no longer exists")}};
+    kind.taken = tr("Bank already exists");
+    return kind;
+}
+
 MasterKind MasterKinds::currency()
 {
     MasterKind kind;

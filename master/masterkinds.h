@@ -13,11 +13,14 @@ MasterKind itemType();
 MasterKind location();
 MasterKind vendor();
 MasterKind vendorContact();
+MasterKind tax();
 MasterKind currency();
+MasterKind bank();
 
 } // namespace MasterKinds
 
-class ItemRecord final : public MasterRecord {
+class ItemRecord final : public MasterRecord
+{
     Q_DECLARE_TR_FUNCTIONS(Tallymere::ItemRecord)
 
 public:
@@ -27,7 +30,8 @@ protected:
     void check() override; // tax codes are up to three letters
 };
 
-class VendorRecord final : public MasterRecord {
+class VendorRecord final : public MasterRecord
+{
 public:
     explicit VendorRecord(Engine::Database &database);
 
@@ -39,7 +43,8 @@ protected:
     void presetNew() override; // the organization's currency
 };
 
-class VendorContactRecord final : public MasterRecord {
+class VendorContactRecord final : public MasterRecord
+{
     Q_DECLARE_TR_FUNCTIONS(Tallymere::VendorContactRecord)
 
 public:

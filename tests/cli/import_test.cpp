@@ -16,8 +16,8 @@ protected:
     static QString everything(CliRunner &cli)
     {
         QString all;
-        for (const QString &kind :
-             {u"types"_s, u"items"_s, u"locations"_s, u"vendors"_s, u"contacts"_s, u"currencies"_s, u"receipts"_s})
+        for (const QString &kind : {u"types"_s, u"items"_s, u"locations"_s, u"vendors"_s, u"contacts"_s,
+                                    u"currencies"_s, u"receipts"_s, u"taxes"_s, u"banks"_s})
             all += cli.run({u"list"_s, kind}).output;
         return all;
     }

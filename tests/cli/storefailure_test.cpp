@@ -116,7 +116,9 @@ TEST(StoreFailure, OnAFullDiskNothingOfAnImportStays)
     if (!disk.isThere())
         GTEST_SKIP() << "mounting needs root";
     CliRunner cli(Store::Local);
-    const auto run = [&](const QStringList &words) { return cli.runBare(QStringList{u"--data"_s, disk.folder()} + words); };
+    const auto run = [&](const QStringList &words) {
+        return cli.runBare(QStringList{u"--data"_s, disk.folder()} + words);
+    };
     ASSERT_EQ(run({u"init"_s}).status, 0);
     ASSERT_EQ(run({u"import"_s, u"types"_s, cli.writeFile(u"types.csv"_s, "TypeName\nProduce\n")}).status, 0);
 
