@@ -28,6 +28,10 @@ public:
     virtual QStringList continueAutoIncrement(const QString &oldTable, const QString &newTable,
                                               const QString &field) const = 0;
 
+    // Statement that lets the auto-increment field go on above the number of its parameter, which a row has brought
+    // along. Empty where the store sees to that itself.
+    virtual QString passAutoIncrement(const QString &, const QString &) const { return {}; }
+
     // The text column compared without regard to ASCII letter case, usable by a case-insensitive index. Both sides
     // of a comparison are folded: foldCase("Name") + " = " + foldCase("?").
     virtual QString foldCase(const QString &column) const = 0;

@@ -147,6 +147,13 @@ QStringList PostgresDialect::continueAutoIncrement(const QString &oldTable, cons
         sequence.arg(textLiteral(name(newTable)), columnText), last, highest)};
 }
 
+QString PostgresDialect::passAutoIncrement(const QString &table, const QString &field) const
+{
+    return u"SELECT setval(s, n) FROM (SELECT CAST(pg_get_serial_sequence(%1, %2) AS regclass) AS s, "
+           "CAST(? AS bigint) AS n) AS given WHERE n > coalesce(pg_sequence_last_value(s), 0)"_s.arg(
+               textLiteral(name(table)), textLiteral(field.toLower()));
+}
+
 QString PostgresDialect::foldCase(const QString &column) const { return u"lower(%1 COLLATE \"C\")"_s.arg(column); }
 
 QString PostgresDialect::orderTerm(const QString &column, bool caseInsensitive, bool descending) const

@@ -16,6 +16,7 @@ public:
     QString converted(const QString &column, FieldType from, const FieldDef &to) const override;
     QStringList continueAutoIncrement(const QString &oldTable, const QString &newTable,
                                       const QString &field) const override;
+    QString passAutoIncrement(const QString &table, const QString &field) const override;
     QString foldCase(const QString &column) const override;
     QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
     QString rowIdentity() const override;

@@ -95,6 +95,17 @@ void Table::requireUnique(int fieldNumber) const
                           .arg(field(fieldNumber).caption(), value.toText(), m_name));
 }
 
+static void passAutoIncrement(Connection &connection, const QString &table, const QString &field,
+                              const Value &number)
+{
+    const QString sql = connection.dialect().passAutoIncrement(table, field);
+    if (sql.isEmpty())
+        return;
+    const StatementPtr statement = connection.prepare(sql);
+    statement->bind(0, number);
+    statement->execute();
+}
+
 void Table::insertRow()
 {
     Connection &connection = m_database.connection();
@@ -102,6 +113,7 @@ void Table::insertRow()
     QStringList places;
     QList<Value> values;
     int counted = -1; // the field that the store numbers
+    int brought = -1; // the same field, when the row has its number already
     for (int i = 0; i < fieldCount(); ++i) {
         const Value &value = m_edit->values[static_cast<size_t>(i)];
         if (field(i).kind != FieldKind::Data)
@@ -110,6 +122,8 @@ void Table::insertRow()
             counted = i;
             continue;
         }
+        if (field(i).type == FieldType::AutoInc)
+            brought = i;
         columns << connection.dialect().name(field(i).name);
         places << u"?"_s;
         values << value;
@@ -120,6 +134,9 @@ void Table::insertRow()
     statement->execute();
     if (counted >= 0)
         m_edit->values[static_cast<size_t>(counted)] = connection.lastInsertId();
+    else if (brought >= 0)
+        passAutoIncrement(connection, m_layout.name, field(brought).name,
+                          m_edit->values[static_cast<size_t>(brought)]);
 }
 
 void Table::updateRow()

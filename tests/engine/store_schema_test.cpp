@@ -1,4 +1,5 @@
 #include "engine/locks.h"
+#include "engine/table.h"
 #include "tests/engine/storetest.h"
 
 using namespace Qt::StringLiterals;
@@ -175,6 +176,17 @@ TEST_P(SchemaTest, AutoIncrementNeverGivesANumberTwice)
     insert->execute();
     EXPECT_EQ(connection.lastInsertId(), 4);
     EXPECT_EQ(one(u"SELECT ItemID FROM Item WHERE Name = 'd'"_s), u"4"_s);
+
+    Table table(database, u"Item"_s);
+    table.open();
+    for (const int brought : {50, 20}) {
+        table.append();
+        table.set(u"ItemID", brought);
+        table.post();
+    }
+    table.append();
+    table.post();
+    EXPECT_EQ(table.integer(u"ItemID"), 51);
 }
 
 TEST_P(SchemaTest, ARestructuringThatFailsChangesNothing)
