@@ -46,22 +46,37 @@ void requireDollars(Engine::Database &database)
                             .arg(home));
 }
 
+void fillSmall(TDataModuleTallymere &data, Prompts &prompts, Progress &progress)
+{
+    bringInSampleMasters(data, progress);
+    bringInSampleReceipts(data, prompts, progress);
+}
+
+// All or nothing: it takes a while, and half a kitchen could not be filled up later.
+void fillLarge(TDataModuleTallymere &data, quint64 seed, Progress &progress)
+{
+    Engine::Transaction transaction(data.databaseTallymere().connection());
+    bringInSampleMasters(data, progress);
+    LargeKitchen(data.databaseTallymere(), seed, {}).fill(progress);
+    transaction.commit();
+}
+
 void runSample(CommandContext &context)
 {
     const bool large = isLarge(context.arguments.value(u"size"_s, u"small"_s));
     const qint64 seed = context.arguments.number(u"seed"_s, usualSeed);
-    const auto data = openNewDatabase(context, tr("Lakeside Meals"), u"USA"_s);
-    requireEmpty(data->databaseTallymere());
-    requireDollars(data->databaseTallymere());
+    const auto opened = openNewDatabase(context, tr("Lakeside Meals"), u"USA"_s);
+    TDataModuleTallymere &data = *opened;
+    requireEmpty(data.databaseTallymere());
+    requireDollars(data.databaseTallymere());
 
     ConsoleProgress progress(context.console, tr("Filling"));
-    bringInSampleMasters(*data, progress);
     if (large)
-        LargeKitchen(data->databaseTallymere(), static_cast<quint64>(seed), {}).fill(progress);
+        fillLarge(data, static_cast<quint64>(seed), progress);
     else
-        bringInSampleReceipts(*data, context.prompts, progress);
-    const auto rows = Engine::singleValue(data->databaseTallymere(), u"SELECT count(*) FROM IHist"_s);
-    const auto items = Engine::singleValue(data->databaseTallymere(), u"SELECT count(*) FROM Item"_s);
+        fillSmall(data, context.prompts, progress);
+    const auto rows = Engine::singleValue(data.databaseTallymere(), u"SELECT count(*) FROM IHist"_s);
+    const auto items = Engine::singleValue(data.databaseTallymere(), u"SELECT count(*) FROM Item"_s);
     context.console.print(
         tr("The sample kitchen is ready: %1 items, %2 history rows.").arg(items.toText(), rows.toText()));
 }

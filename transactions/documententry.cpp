@@ -253,17 +253,17 @@ void DocumentEntry::validateItem(const Value &itemId) const
     const bool picked = m_lineColumn == "ItemDescription"_L1;
     if (itemId.toInt() == 0 || !(typed || picked))
         return;
-    Engine::Table item(database(), u"Item"_s);
-    item.open();
-    const bool found = item.findKey({itemId});
+    const Engine::StatementPtr item =
+        database().connection().prepare(u"SELECT ItemNo, ItemDescription, Suspended FROM Item WHERE ItemID = ?"_s);
+    item->bind(0, itemId);
+    const bool found = item->next();
     if (typed && !found)
         throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), u"ItemNo"_s);
-    if (!found || !item.boolean(u"Suspended"))
+    if (!found || !item->valueAt(2, FieldType::Boolean).toBool())
         return;
     if (typed)
         throw RuleError(tr("Item has been suspended"), u"ItemNo"_s);
-    throw RuleError(tr("Item '%1: %2' has been suspended").arg(item.text(u"ItemNo"), item.text(u"ItemDescription")),
-                    u"ItemNo"_s);
+    throw RuleError(tr("Item '%1: %2' has been suspended").arg(item->textAt(0), item->textAt(1)), u"ItemNo"_s);
 }
 
 void DocumentEntry::refuseLine(const QString &message, const QString &column) const
@@ -300,12 +300,11 @@ void DocumentEntry::chooseItemByNumber(const QString &itemNo)
         m_lines.set(u"ItemID", {});
         return;
     }
-    Engine::Table item(database(), u"Item"_s);
-    item.setIndex(u"ITEMNO"_s);
-    item.open();
-    if (!item.findKey({itemNo}))
+    const Value itemId =
+        Engine::singleValue(database(), u"SELECT ItemID FROM Item WHERE ItemNo = ? ORDER BY ItemID"_s, {itemNo});
+    if (itemId.isNull())
         throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), u"ItemNo"_s);
-    m_lines.set(u"ItemID", item.value(u"ItemID"));
+    m_lines.set(u"ItemID", itemId);
 }
 
 void DocumentEntry::newLine() { m_lines.append(); }
