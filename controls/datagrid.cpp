@@ -54,12 +54,13 @@ int DataGrid::heightForRows(int rows) const
         + 2 * frameWidth();
 }
 
-void ListGrid::setDataSet(Engine::DataSet &set, const QList<GridColumn> &columns)
+void ListGrid::setDataSet(Engine::DataSet &set, const QList<GridColumn> &columns, const Guard &guard)
 {
     m_data = &set;
+    m_guard = &guard;
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    showModel(new TableModel(set, columns, this));
+    showModel(new TableModel(set, columns, guard, this));
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this, &ListGrid::giveCursor);
     // The model hears of a new list first; with its rows there, the cursor goes to the current one.
     connect(&set, &Engine::DataSet::currentChanged, this, &ListGrid::takeCursor);
@@ -87,7 +88,7 @@ void ListGrid::giveCursor(const QModelIndex &current)
     if (m_moving || !current.isValid())
         return;
     m_moving = true;
-    m_data->moveTo(current.row());
+    m_guard->run([&] { m_data->moveTo(current.row()); });
     m_moving = false;
 }
 

@@ -35,7 +35,7 @@ class ListGrid : public DataGrid
 public:
     using DataGrid::DataGrid;
 
-    void setDataSet(Engine::DataSet &set, const QList<GridColumn> &columns);
+    void setDataSet(Engine::DataSet &set, const QList<GridColumn> &columns, const Guard &guard);
 
 Q_SIGNALS:
     void chosen();
@@ -50,6 +50,7 @@ private:
     void giveCursor(const QModelIndex &current); // the user has moved
 
     Engine::DataSet *m_data = nullptr;
+    const Guard *m_guard = nullptr;
     bool m_moving = false;
 };
 

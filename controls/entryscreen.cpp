@@ -56,8 +56,8 @@ void EntryScreen::saveAndReport()
 {
     m_binder.commit();
     saveChanges();
-    if (const int key = savedKey(); key != 0)
-        Q_EMIT saved(key);
+    if (const std::optional<int> key = savedKey())
+        Q_EMIT saved(*key);
 }
 
 void EntryScreen::btnOKClick()
@@ -103,7 +103,10 @@ bool EntryScreen::settleChanges()
 
 void EntryScreen::closeEvent(QCloseEvent *event)
 {
-    if (m_settled || settleChanges()) {
+    bool closes = m_settled;
+    if (!closes)
+        m_guard.run([&] { closes = settleChanges(); });
+    if (closes) {
         m_settled = true;
         event->accept();
     } else {

@@ -4,6 +4,7 @@
 #include "controls/guard.h"
 #include "controls/screencontext.h"
 
+#include <optional>
 #include <QDialog>
 
 namespace Tallymere {
@@ -34,7 +35,7 @@ protected:
     virtual Pending pending() const = 0; // what closing would lose
     virtual void saveChanges() = 0; // throws what refuses
     virtual void dropChanges() = 0;
-    virtual int savedKey() const = 0; // 0 when nothing has been written in this visit
+    virtual std::optional<int> savedKey() const = 0; // nothing when nothing has been written in this visit
     virtual QString caption() const = 0;
     // Brings the cursor to what shows the column; the base knows the bound widgets.
     virtual bool focusColumn(const QString &column);

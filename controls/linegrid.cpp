@@ -56,7 +56,7 @@ void LineGrid::setLines(Engine::Table &lines, const QList<GridColumn> &columns, 
     m_lines = &lines;
     m_actions = std::move(actions);
     m_guard = &guard;
-    m_model = new LineModel(lines, columns, this);
+    m_model = new LineModel(lines, columns, guard, this);
     showModel(m_model);
     delete selectionModel();
     setSelectionModel(new LineSelection(
@@ -330,7 +330,7 @@ void LineGrid::keyPressEvent(QKeyEvent *event)
     }
     if (event->key() == Qt::Key_Escape) {
         if (m_lines->isEditing())
-            m_lines->cancel();
+            m_guard->run([this] { m_lines->cancel(); });
         else
             event->ignore();
         return;

@@ -4,8 +4,8 @@ namespace Tallymere {
 
 using Engine::TableState;
 
-LineModel::LineModel(Engine::Table &lines, const QList<GridColumn> &columns, QObject *parent)
-    : TableModel(lines, columns, parent)
+LineModel::LineModel(Engine::Table &lines, const QList<GridColumn> &columns, const Guard &guard, QObject *parent)
+    : TableModel(lines, columns, guard, parent)
     , m_lines(lines)
 {
     connect(&lines, &Engine::DataSet::stateChanged, this, &LineModel::takeList);

@@ -14,7 +14,7 @@ class LineModel final : public TableModel
     Q_OBJECT
 
 public:
-    LineModel(Engine::Table &lines, const QList<GridColumn> &columns, QObject *parent = nullptr);
+    LineModel(Engine::Table &lines, const QList<GridColumn> &columns, const Guard &guard, QObject *parent);
 
     int currentRow() const; // of the table's current record; -1 when there is none
     Qt::ItemFlags flags(const QModelIndex &index) const override;

@@ -58,7 +58,7 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
         addMenu(menu);
     for (const ListButton &button : description.buttons)
         addButton(button);
-    m_grid->setDataSet(set, description.columns);
+    m_grid->setDataSet(set, description.columns, m_guard);
     connect(m_grid, &ListGrid::chosen, this, [this, defaultCommand] { runCommand(defaultCommand); });
     m_grid->setFocus();
     showFilterMark();

@@ -44,12 +44,14 @@ LookupComboBox::LookupComboBox(QWidget *parent)
     connect(this, &QComboBox::activated, this, &LookupComboBox::takePicked);
 }
 
-void LookupComboBox::setList(Engine::DataSet &list, const QString &keyField, const QList<GridColumn> &columns)
+void LookupComboBox::setList(Engine::DataSet &list, const QString &keyField, const QList<GridColumn> &columns,
+                             const Guard &guard)
 {
     if (!list.isOpen())
         list.open();
     m_keyField = keyField;
-    m_list = new TableModel(list, columns, this);
+    m_guard = &guard;
+    m_list = new TableModel(list, columns, guard, this);
     setModel(m_list);
     QTableView *view = makeListView(this);
     setView(view);
@@ -81,9 +83,12 @@ void LookupComboBox::showPopup()
 {
     if (!m_list || m_readOnly)
         return;
-    m_list->dataSet().refresh();
-    showChosen();
-    QComboBox::showPopup();
+    const bool read = m_guard->run([this] {
+        m_list->dataSet().refresh();
+        showChosen();
+    });
+    if (read)
+        QComboBox::showPopup();
 }
 
 void LookupComboBox::choose(int id)
@@ -161,7 +166,7 @@ void LookupComboBox::keyPressEvent(QKeyEvent *event)
         showChosen();
     } else if (!event->text().isEmpty() && event->text().front().isPrint()
                && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
-        typed(event->text());
+        m_guard->run([&] { typed(event->text()); });
     } else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
         m_inKeys = true;
         QComboBox::keyPressEvent(event);

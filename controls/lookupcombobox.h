@@ -21,7 +21,8 @@ public:
 
     // The rows in the list's own order; keyField is a whole-number field of it. The first column stands in the
     // closed box, all of them in the open list. The list must outlive the box and is opened if need be.
-    void setList(Engine::DataSet &list, const QString &keyField, const QList<GridColumn> &columns);
+    void setList(Engine::DataSet &list, const QString &keyField, const QList<GridColumn> &columns,
+                 const Guard &guard);
 
     int chosenId() const { return m_id; } // 0: nothing chosen
     void setChosenId(int id); // shows nothing when the list does not hold it; no signal
@@ -49,6 +50,7 @@ private:
     int idAt(int row) const;
 
     TableModel *m_list = nullptr;
+    const Guard *m_guard = nullptr;
     QString m_keyField;
     int m_id = 0;
     bool m_pending = false;

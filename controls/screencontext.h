@@ -21,16 +21,16 @@ struct ScreenContext
     Prompts &prompts;
 
     // Whether a default printer exists. Empty: none.
-    std::function<bool()> printerDefined;
+    std::function<bool()> printerDefined = {};
     // The user-rights check, by the command's key and name. False: the command is abandoned silently.
-    std::function<bool(const QString &key, const QString &name)> securityCheck;
+    std::function<bool(const QString &key, const QString &name)> securityCheck = {};
     // Finds a screen by its component name or creates it, shows it and returns it; nullptr for a screen that the
     // system does not have.
-    std::function<QWidget *(const QString &screenName)> openScreen;
+    std::function<QWidget *(const QString &screenName)> openScreen = {};
     // Whether openScreen knows the screen. Commands that lead to one that is not there are disabled.
-    std::function<bool(const QString &screenName)> hasScreen;
+    std::function<bool(const QString &screenName)> hasScreen = {};
     // Opens the help at a screen's topic, named by the screen. Empty: no help, and the command is disabled.
-    std::function<void(const QString &screenName)> showHelp;
+    std::function<void(const QString &screenName)> showHelp = {};
 
     bool allows(const QString &key, const QString &name) const
     {

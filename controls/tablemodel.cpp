@@ -5,9 +5,10 @@ namespace Tallymere {
 using Engine::DataSet;
 using Engine::FieldType;
 
-TableModel::TableModel(DataSet &data, QList<GridColumn> columns, QObject *parent)
+TableModel::TableModel(DataSet &set, QList<GridColumn> columns, const Guard &guard, QObject *parent)
     : QAbstractTableModel(parent)
-    , m_data(data)
+    , m_guard(guard)
+    , m_data(set)
     , m_columns(std::move(columns))
 {
     connect(&m_data, &DataSet::opened, this, &TableModel::takeList);
@@ -42,16 +43,34 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
     if (role != Qt::DisplayRole && role != Qt::EditRole)
         return {};
-    const int number = m_data.fieldIndex(column.field);
+    QString text;
+    attempt([&] { text = cellText(index, role); });
+    return text;
+}
+
+QString TableModel::cellText(const QModelIndex &index, int role) const
+{
+    const int number = m_data.fieldIndex(m_columns[index.column()].field);
     if (number < 0)
         return {};
-    const Engine::Field &field = m_data.field(number);
+    const Engine::Field &field = std::as_const(m_data).field(number);
     const Engine::Value value = cellValue(index.row(), number);
     if (role == Qt::EditRole)
         return field.editText(value);
     if (field.type == FieldType::Boolean && !field.format.display)
         return value.toBool() ? tr("Yes") : tr("No");
     return field.displayText(value);
+}
+
+bool TableModel::attempt(const std::function<void()> &reading) const
+{
+    const std::exception_ptr failure = Guard::attempt(reading);
+    if (!failure)
+        return true;
+    if (!std::exchange(m_failed, true))
+        QMetaObject::invokeMethod(
+            const_cast<TableModel *>(this), [this, failure] { m_guard.report(failure); }, Qt::QueuedConnection);
+    return false;
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -70,16 +89,24 @@ QModelIndexList TableModel::match(const QModelIndex &start, int role, const QVar
 {
     if (!start.isValid() || !m_data.isOpen() || !flags.testFlag(Qt::MatchStartsWith) || hits != 1)
         return QAbstractTableModel::match(start, role, value, hits, flags);
+    int row = -1;
+    attempt([&] { row = rowStartingWith(m_columns[start.column()].field, value.toString()); });
+    return row < 0 ? QModelIndexList() : QModelIndexList{index(row, start.column())};
+}
+
+int TableModel::rowStartingWith(const QString &field, const QString &text) const
+{
+    if (std::as_const(m_data).field(field).kind == Engine::FieldKind::Calculated)
+        return -1; // not known to the store
     const int before = m_data.recordIndex();
-    const bool found = m_data.locate(m_columns[start.column()].field, {Engine::Value(value.toString())},
-                                     Engine::LocateOptions(Engine::LocateOption::PartialKey)
-                                         | Engine::LocateOption::CaseInsensitive);
-    if (!found)
-        return {};
+    const Engine::LocateOptions options =
+        Engine::LocateOptions(Engine::LocateOption::PartialKey) | Engine::LocateOption::CaseInsensitive;
+    if (!m_data.locate(field, {Engine::Value(text)}, options))
+        return -1;
     const int row = m_data.recordIndex();
     if (before >= 0)
         m_data.moveTo(before);
-    return {index(row, start.column())};
+    return row;
 }
 
 Engine::Value TableModel::cellValue(int row, int field) const { return m_data.valueAt(row, field); }
@@ -90,7 +117,9 @@ int TableModel::dataRows() const { return m_data.isOpen() ? m_data.recordCount()
 // a view that shows row numbers, and the cursor keeps its place until the data set says where it belongs.
 void TableModel::takeList()
 {
-    const int rows = dataRows();
+    m_failed = false;
+    int rows = 0;
+    attempt([&] { rows = dataRows(); });
     if (rows > m_rows) {
         beginInsertRows({}, m_rows, rows - 1);
         m_rows = rows;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/guard.h"
 #include "engine/dataset.h"
 
 #include <QAbstractTableModel>
@@ -25,12 +26,15 @@ struct GridColumn
 };
 
 // Shows a data set to views. Rows are read in the windows that the data set keeps, never all of them.
+//
+// Views read in the middle of painting, where nothing may be thrown: a failure of the store shows as empty cells and
+// is reported by the guard afterwards, once until the list is read again.
 class TableModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    TableModel(Engine::DataSet &data, QList<GridColumn> columns, QObject *parent = nullptr);
+    TableModel(Engine::DataSet &set, QList<GridColumn> columns, const Guard &guard, QObject *parent = nullptr);
 
     Engine::DataSet &dataSet() const { return m_data; }
     const QList<GridColumn> &columns() const { return m_columns; }
@@ -52,6 +56,12 @@ protected:
     void updateRow(int row);
 
 private:
+    QString cellText(const QModelIndex &index, int role) const;
+    int rowStartingWith(const QString &field, const QString &text) const; // -1 when there is none
+    bool attempt(const std::function<void()> &reading) const; // false, and a report to come, when it failed
+
+    const Guard &m_guard;
+    mutable bool m_failed = false;
     Engine::DataSet &m_data;
     QList<GridColumn> m_columns;
     int m_rows = 0;

@@ -20,7 +20,7 @@ ItemPair::ItemPair(QLineEdit *number, LookupComboBox *list, Engine::Table &items
     , m_guard(guard)
 {
     m_list->setList(items, u"ItemID"_s,
-                    {{u"ItemDescription"_s, tr("Description"), 260}, {u"ItemNo"_s, tr("Item no."), 90}});
+                    {{u"ItemDescription"_s, tr("Description"), 260}, {u"ItemNo"_s, tr("Item no."), 90}}, guard);
     m_number->setMaxLength(items.field(u"ItemNo"_s).size);
     m_number->installEventFilter(this);
     connect(m_list, &LookupComboBox::chosen, this, &ItemPair::choose);

@@ -22,9 +22,10 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
     m_ui->DBGrid1->setDataSet(m_search.items(),
                               {{u"ItemNo"_s, tr("Item no."), 110},
                                {u"ItemDescription"_s, tr("Description"), 290},
-                               {u"TypeName"_s, tr("Item Type"), 120}});
+                               {u"TypeName"_s, tr("Item Type"), 120}},
+                              guard());
     m_ui->cboItemType->setList(context.lookups.tblItemType(), u"ItemTypeID"_s,
-                               {{u"TypeName"_s, tr("Item Type"), 180}});
+                               {{u"TypeName"_s, tr("Item Type"), 180}}, guard());
 
     connect(m_ui->editFindItemNo, &QLineEdit::textEdited, this, &TfrmItemSearchInv::typeItemNo);
     connect(m_ui->editFindItemDescription, &QLineEdit::textEdited, this, &TfrmItemSearchInv::typeDescription);
@@ -52,6 +53,7 @@ int TfrmItemSearchInv::choose(ScreenContext &context, QWidget *window, int itemI
     search->SetItemID(itemId);
     const bool accepted = search->exec() == QDialog::Accepted;
     search->setParent(window->parentWidget(), search->windowFlags());
+    window->activateWindow();
     return accepted ? search->GetItemID() : 0;
 }
 

@@ -16,7 +16,7 @@ DocumentFilterScreen::DocumentFilterScreen(ScreenContext &context, const QString
     m_ui->setupUi(this);
     setWindowTitle(caption);
     m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), u"WarehouseID"_s,
-                                {{u"WarehouseName"_s, tr("Location"), 240}});
+                                {{u"WarehouseName"_s, tr("Location"), 240}}, guard());
     connect(m_ui->btnOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
     connectGuarded(m_ui->btnReset, &QPushButton::clicked, this, &DocumentFilterScreen::btnResetClick);

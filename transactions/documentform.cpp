@@ -174,7 +174,10 @@ void DocumentScreen::dropChanges()
     m_entry->cancel();
 }
 
-int DocumentScreen::savedKey() const { return m_entry->wasSaved() ? m_entry->key() : 0; }
+std::optional<int> DocumentScreen::savedKey() const
+{
+    return m_entry->wasSaved() ? std::optional(m_entry->key()) : std::nullopt;
+}
 
 QString DocumentScreen::caption() const { return m_entry->caption(); }
 

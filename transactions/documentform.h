@@ -39,7 +39,7 @@ protected:
     Pending pending() const override;
     void saveChanges() override;
     void dropChanges() override;
-    int savedKey() const override;
+    std::optional<int> savedKey() const override;
     QString caption() const override;
     bool focusColumn(const QString &column) override;
     bool takeKey(QKeyEvent *event) override;

@@ -25,9 +25,10 @@ TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
     m_ui->setupUi(this);
     resize(scaled(this, 780), scaled(this, 460));
     m_ui->cboVendor->setList(context.lookups.tblVendor(), u"VendorID"_s,
-                             {{u"VendorName"_s, tr("Vendor"), 220}, {u"VendorNo"_s, tr("Vendor no."), 80}});
+                             {{u"VendorName"_s, tr("Vendor"), 220}, {u"VendorNo"_s, tr("Vendor no."), 80}},
+                             guard());
     m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), u"WarehouseID"_s,
-                                {{u"WarehouseName"_s, tr("Warehouse"), 200}});
+                                {{u"WarehouseName"_s, tr("Warehouse"), 200}}, guard());
     buildDocument({{u"QtyReceived"_s, tr("Quantity"), 100, Qt::AlignRight},
                    {u"ItemNo"_s, tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
                    {u"ItemDescription"_s, tr("Description"), 400},

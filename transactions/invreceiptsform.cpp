@@ -110,13 +110,12 @@ void TfrmInvReceipts::btnNewClick()
 
 void TfrmInvReceipts::btnEditClick()
 {
-    const int key = m_list.currentKey();
-    if (key == 0) {
+    if (m_list.table().isEmpty()) {
         btnNewClick();
         return;
     }
     std::unique_ptr<TfrmInvReceipt> screen(makeReceipt());
-    if (screen->openDocument(key))
+    if (screen->openDocument(m_list.currentKey()))
         screen.release()->show();
     else
         refreshList(); // another user has deleted it

@@ -15,7 +15,7 @@ TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent
     m_ui->setupUi(this);
     m_item = new ItemPair(m_ui->editItem, m_ui->cboItem, context.lookups.tblItem(), guard());
     m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), u"WarehouseID"_s,
-                                {{u"WarehouseName"_s, tr("Location"), 240}});
+                                {{u"WarehouseName"_s, tr("Location"), 240}}, guard());
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &TfrmInvTotalsFilter::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
     connectGuarded(m_ui->btnReset, &QPushButton::clicked, this, &TfrmInvTotalsFilter::btnResetClick);

@@ -1,0 +1,162 @@
+#include "controls/fieldbinder.h"
+#include "engine/error.h"
+#include "engine/query.h"
+#include "frame/shared/formats.h"
+#include "frame/shared/ruleerror.h"
+#include "tests/support/screendriver.h"
+#include "tests/support/spokenprompts.h"
+#include "tests/support/teststore.h"
+
+#include <gtest/gtest.h>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::FieldType;
+
+namespace {
+
+const Engine::TableLayout meals{u"Meal"_s,
+                                {{u"MealID"_s, FieldType::Integer},
+                                 {u"Name"_s, FieldType::Text, 8},
+                                 {u"Cost"_s, FieldType::Money},
+                                 {u"Served"_s, FieldType::Date},
+                                 {u"Hot"_s, FieldType::Boolean}},
+                                {{{}, u"MealID"_s, Engine::IndexOption::Primary}}};
+
+class FieldBinderTest : public testing::Test
+{
+protected:
+    FieldBinderTest()
+    {
+        store.database().createTable(meals);
+        store.execute(u"INSERT INTO Meal (MealID, Name, Cost, Served) VALUES (1, 'Soup', 2.5, '2026-03-14')"_s);
+        table.emplace(store.database(), u"Meal"_s);
+        table->open();
+        table->field(u"Cost").format = currencyFormat({});
+        table->field(u"Served").format = dateFormat({});
+        table->field(u"Name").validate = [](const Engine::Value &name) {
+            if (name.toText() == "Stone"_L1)
+                throw RuleError(u"Nobody eats that"_s, u"Name"_s);
+        };
+        auto *layout = new QVBoxLayout(&form);
+        for (const auto &[name, field] : {std::pair(u"editName"_s, u"Name"_s), std::pair(u"editCost"_s, u"Cost"_s),
+                                          std::pair(u"editServed"_s, u"Served"_s)})
+            layout->addWidget(bound(new QLineEdit, name, field));
+        child<QLineEdit>(form, "editServed")->setProperty("editMask", u"00/00/99;_"_s);
+        layout->addWidget(bound(new QCheckBox, u"chkHot"_s, u"Hot"_s));
+        cancel = new QPushButton(u"Cancel"_s);
+        cancel->setProperty("keepsEntry", true);
+        layout->addWidget(cancel);
+        binder.bind(*table);
+        showActive(form);
+        child<QLineEdit>(form, "editName")->setFocus();
+    }
+
+    template <typename Widget> static Widget *bound(Widget *widget, const QString &name, const QString &field)
+    {
+        widget->setObjectName(name);
+        widget->setProperty("dataField", field);
+        return widget;
+    }
+
+    QString shown(const char *name) { return child<QLineEdit>(form, name)->text(); }
+
+    TestStore store{Store::Local};
+    std::optional<Engine::Table> table;
+    SpokenPrompts prompts;
+    QWidget form;
+    QPushButton *cancel = nullptr;
+    Guard guard{prompts};
+    FieldBinder binder{&form, guard};
+};
+
+} // namespace
+
+TEST_F(FieldBinderTest, showsDisplayTextAndEditTextUnderTheCursor)
+{
+    EXPECT_EQ(shown("editCost"), u"2.50"_s);
+    EXPECT_EQ(shown("editServed"), u"14 Mar 26"_s);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(shown("editServed"), u"03/14/26"_s);
+    type("120149");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(shown("editServed"), u"01 Dec 49"_s);
+    EXPECT_EQ(table->date(u"Served"), QDate(2049, 12, 1));
+}
+
+TEST_F(FieldBinderTest, firstKeyPutsTheTableIntoEditAndLeavingHandsTheEntryOver)
+{
+    EXPECT_FALSE(table->isEditing());
+    type("Long porridge");
+    EXPECT_TRUE(table->isEditing());
+    EXPECT_EQ(shown("editName"), u"Long por"_s) << "no longer than the field";
+    EXPECT_EQ(table->text(u"Name"), u"Soup"_s);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(table->text(u"Name"), u"Long por"_s);
+    EXPECT_EQ(focusName(), u"editCost"_s);
+    child<QCheckBox>(form, "chkHot")->setFocus();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(table->boolean(u"Hot"));
+}
+
+TEST_F(FieldBinderTest, refusedEntryIsShownAndKeepsTheCursor)
+{
+    const struct
+    {
+        const char *widget, *typed, *message;
+    } refusals[] = {
+        {"editName", "Stone", "error: Nobody eats that"},
+        {"editCost", "two", ""},
+        {"editServed", "139926", ""},
+    };
+    for (const auto &refusal : refusals) {
+        child<QLineEdit>(form, refusal.widget)->setFocus();
+        type(refusal.typed);
+        press(Qt::Key_Tab);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return focusName() == QLatin1StringView(refusal.widget); }, 1000));
+        ASSERT_EQ(prompts.said.size(), 1) << refusal.widget;
+        EXPECT_TRUE(prompts.take().first().startsWith(QLatin1StringView(refusal.message)));
+        EXPECT_THROW(binder.commit(), RuleError);
+        EXPECT_TRUE(binder.revert(QApplication::focusWidget()));
+        EXPECT_FALSE(binder.hasEntry());
+    }
+    EXPECT_EQ(table->text(u"Name"), u"Soup"_s);
+    EXPECT_EQ(table->money(u"Cost"), Engine::Money::fromDouble(2.5));
+}
+
+TEST_F(FieldBinderTest, leavingTowardsCancelHandsNothingOver)
+{
+    type("Stone");
+    QTest::mouseClick(cancel, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(prompts.said, QStringList());
+    EXPECT_EQ(QApplication::focusWidget(), cancel);
+}
+
+TEST_F(FieldBinderTest, recordHeldByAnotherUserKeepsItsTextAndSaysSo)
+{
+    const auto other = store.anotherUser();
+    Engine::Table held(other->database, u"Meal"_s);
+    held.open();
+    held.edit();
+    store.session().lockAttempts = 1;
+    type("X");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shown("editName"), u"Soup"_s);
+    EXPECT_TRUE(prompts.last().startsWith("error: "_L1)) << prompts.last().toStdString();
+    EXPECT_FALSE(table->isEditing());
+}
+
+TEST_F(FieldBinderTest, formWithAFieldThatTheTableLacksIsRefused)
+{
+    QWidget wrong;
+    auto *edit = bound(new QLineEdit(&wrong), u"editX"_s, u"Nmae"_s);
+    Q_UNUSED(edit)
+    FieldBinder other(&wrong, guard);
+    EXPECT_THROW(other.bind(*table), Engine::EngineError);
+}

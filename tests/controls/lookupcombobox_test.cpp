@@ -1,0 +1,103 @@
+#include "controls/lookupcombobox.h"
+#include "engine/table.h"
+#include "tests/support/screendriver.h"
+#include "tests/support/spokenprompts.h"
+#include "tests/support/teststore.h"
+
+#include <gtest/gtest.h>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::FieldType;
+
+namespace {
+
+const Engine::TableLayout places{u"Place"_s,
+                                 {{u"PlaceID"_s, FieldType::Integer}, {u"Name"_s, FieldType::Text, 20}},
+                                 {{{}, u"PlaceID"_s, Engine::IndexOption::Primary},
+                                  {u"NAME1"_s, u"Name"_s, Engine::IndexOption::CaseInsensitive}}};
+
+class LookupComboBoxTest : public testing::Test
+{
+protected:
+    LookupComboBoxTest()
+    {
+        store.database().createTable(places);
+        store.execute(u"INSERT INTO Place (PlaceID, Name) VALUES (1, 'Freezer'), (2, 'attic'), (3, 'Fridge'), "
+                      "(4, 'Cellar')"_s);
+        list.emplace(store.database(), u"Place"_s);
+        list->setIndex(u"NAME1"_s);
+        auto *layout = new QVBoxLayout(&form);
+        box = new LookupComboBox;
+        other = new QLineEdit;
+        layout->addWidget(box);
+        layout->addWidget(other);
+        box->setList(*list, u"PlaceID"_s, {{u"Name"_s, u"Name"_s, 150}}, guard);
+        showActive(form);
+        box->setFocus();
+    }
+
+    SpokenPrompts prompts;
+    Guard guard{prompts};
+    TestStore store{Store::Local};
+    std::optional<Engine::Table> list;
+    QWidget form;
+    LookupComboBox *box = nullptr;
+    QLineEdit *other = nullptr;
+};
+
+} // namespace
+
+TEST_F(LookupComboBoxTest, listsInTheOrderOfTheTableAndShowsTheKeysRow)
+{
+    EXPECT_EQ(box->count(), 4);
+    EXPECT_EQ(box->itemText(0), u"attic"_s);
+    box->setChosenId(3);
+    EXPECT_EQ(box->currentText(), u"Fridge"_s);
+    box->setChosenId(77);
+    EXPECT_EQ(box->currentText(), QString()) << "a key that the list does not hold";
+}
+
+TEST_F(LookupComboBoxTest, typedLettersMoveAndLeavingChooses)
+{
+    QSignalSpy chosen(box, &LookupComboBox::chosen);
+    type("fr");
+    EXPECT_EQ(box->currentText(), u"Freezer"_s);
+    type("i");
+    EXPECT_EQ(box->currentText(), u"Fridge"_s);
+    type("x");
+    EXPECT_EQ(box->currentText(), u"Fridge"_s) << "no such row: stays";
+    EXPECT_EQ(chosen.size(), 0);
+    other->setFocus();
+    ASSERT_EQ(chosen.size(), 1);
+    EXPECT_EQ(chosen.first().first().toInt(), 3);
+    EXPECT_EQ(box->chosenId(), 3);
+}
+
+TEST_F(LookupComboBoxTest, escapeGoesBackAndDeleteClears)
+{
+    box->setChosenId(1);
+    QSignalSpy chosen(box, &LookupComboBox::chosen);
+    press(Qt::Key_Down);
+    EXPECT_EQ(box->currentText(), u"Fridge"_s);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(box->currentText(), u"Freezer"_s);
+    EXPECT_EQ(chosen.size(), 0);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(box->chosenId(), 0);
+    EXPECT_EQ(box->currentText(), QString());
+    ASSERT_EQ(chosen.size(), 1);
+}
+
+TEST_F(LookupComboBoxTest, openListShowsWhatOthersHaveAdded)
+{
+    box->setChosenId(4);
+    store.execute(u"INSERT INTO Place (PlaceID, Name) VALUES (9, 'Barn')"_s);
+    box->showPopup();
+    EXPECT_EQ(box->count(), 5);
+    EXPECT_EQ(box->currentText(), u"Cellar"_s);
+    box->hidePopup();
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QKeySequence>
+#include <QTest>
+#include <QTimer>
+
+// Helpers for driving real widgets.
+
+template <typename Widget> Widget *child(const QWidget &window, const char *name)
+{
+    auto *found = window.findChild<Widget *>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+
+// Shows a window and waits until it has the focus.
+inline void showActive(QWidget &window)
+{
+    window.show();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+// Keys go to whatever has the focus, as from a keyboard.
+inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QWidget *target = QApplication::focusWidget();
+    ASSERT_NE(target, nullptr);
+    QTest::keyClick(target, key, modifiers);
+    QCoreApplication::processEvents();
+}
+
+inline void type(const char *text)
+{
+    QWidget *target = QApplication::focusWidget();
+    ASSERT_NE(target, nullptr);
+    for (const char *c = text; *c; ++c)
+        QTest::keyClick(QApplication::focusWidget(), *c);
+    QCoreApplication::processEvents();
+}
+
+inline QString focusName()
+{
+    return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
+}
+
+// Runs the action, which opens a modal dialog, and the step on that dialog once it is there. The dialog is rejected
+// afterwards if the step has left it open. False when no dialog came.
+template <typename Dialog>
+bool whileOpen(const std::function<void()> &action, const std::function<void(Dialog &)> &step)
+{
+    bool came = false;
+    QTimer::singleShot(0, qApp, [&] {
+        auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        came = true;
+        EXPECT_TRUE(QTest::qWaitFor([dialog] { return QApplication::activeWindow() == dialog; }));
+        step(*dialog);
+        if (dialog->isVisible())
+            dialog->reject();
+    });
+    action();
+    return came;
+}

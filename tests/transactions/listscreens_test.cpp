@@ -1,0 +1,274 @@
+#include "controls/lookupcombobox.h"
+#include "controls/screenmetrics.h"
+#include "master/itemsfindform.h"
+#include "tests/transactions/screentest.h"
+#include "transactions/documentfilterform.h"
+#include "transactions/documentpostform.h"
+#include "transactions/invreceiptform.h"
+#include "transactions/invreceiptsfindform.h"
+#include "transactions/invreceiptsform.h"
+#include "transactions/invtotalsfilterform.h"
+#include "transactions/invtotalsform.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class ListScreensTest : public ScreenTest
+{
+protected:
+    template <typename Screen> Screen &open()
+    {
+        auto *screen = new Screen(*context, mainWindow.get());
+        list = screen;
+        grid = child<QTableView>(*screen, "DBGrid1");
+        showActive(*screen);
+        return *screen;
+    }
+
+    void addReceipts()
+    {
+        kitchen.addReceipt(1, 1, 1, {{1, 5, 3.0}}, u"PO-1"_s);
+        kitchen.addReceipt(2, 2, 2, {{2, 4, 1.0}});
+        kitchen.addReceipt(3, 1, 2, {{1, 1, 3.0}});
+        kitchen.execute(u"UPDATE IReceipt SET Posted = true WHERE ReceiptID = 2"_s);
+    }
+
+    QStringList row(int number)
+    {
+        QStringList cells;
+        for (int column = 0; column < grid->model()->columnCount(); ++column)
+            cells << grid->model()->index(number, column).data().toString();
+        return cells;
+    }
+    int rows() { return grid->model()->rowCount(); }
+    void click(const char *button) { QTest::mouseClick(child<QPushButton>(*list, button), Qt::LeftButton); }
+
+    QPointer<ListScreen> list;
+    QTableView *grid = nullptr;
+};
+
+} // namespace
+
+TEST_F(ListScreensTest, receiptsAreListedLatestFirstWithTheirNames)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    EXPECT_EQ(list->windowTitle(), u"Inventory Receipts"_s);
+    ASSERT_EQ(rows(), 3);
+    EXPECT_EQ(row(0),
+              (QStringList{u"3/2026"_s, u"14 Mar 26"_s, u"1003"_s, QString(), u"First"_s, u"Freezer"_s, u"No"_s}));
+    EXPECT_EQ(row(1).last(), u"Yes"_s);
+    // What leads to nothing yet cannot be chosen.
+    EXPECT_FALSE(list->command(u"mnuPrint"_s)->isEnabled());
+}
+
+TEST_F(ListScreensTest, receiptFilterShowsInCaptionAndMenuUntilItIsReset)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    const auto filter = [&] { list->command(u"mnuFilter"_s)->trigger(); };
+    EXPECT_TRUE(whileOpen<TfrmInvReceiptsFilter>(filter, [](TfrmInvReceiptsFilter &) {}));
+    EXPECT_FALSE(list->command(u"mnuFilter"_s)->isChecked()) << "cancelled";
+    EXPECT_TRUE(whileOpen<TfrmInvReceiptsFilter>(filter, [](TfrmInvReceiptsFilter &dialog) {
+        EXPECT_EQ(focusName(), u"cboWarehouse"_s);
+        type("f");
+        child<QRadioButton>(dialog, "optPostedNo")->click();
+        press(Qt::Key_Return);
+    }));
+    EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted = false)"_s);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(list->windowTitle(), u"Inventory Receipts (Filtered)"_s);
+    EXPECT_TRUE(list->command(u"mnuFilter"_s)->isChecked());
+
+    list->resetFilter();
+    EXPECT_EQ(rows(), 3);
+    EXPECT_EQ(list->windowTitle(), u"Inventory Receipts"_s);
+    EXPECT_FALSE(list->command(u"mnuFilter"_s)->isChecked());
+    EXPECT_TRUE(whileOpen<TfrmInvReceiptsFilter>(filter, [](TfrmInvReceiptsFilter &dialog) {
+        EXPECT_EQ(child<LookupComboBox>(dialog, "cboWarehouse")->chosenId(), 0);
+        EXPECT_TRUE(child<QRadioButton>(dialog, "optPostedAll")->isChecked());
+    }));
+}
+
+TEST_F(ListScreensTest, deletingAsksAndRefusesWhatIsPosted)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    prompts.ok = false;
+    click("btnDelete");
+    EXPECT_EQ(prompts.take().value(0).section(u": "_s, 1), u"Delete receipt '1003'?"_s);
+    EXPECT_EQ(rows(), 3);
+    prompts.ok = true;
+    click("btnDelete");
+    EXPECT_EQ(rows(), 2);
+    prompts.said.clear();
+    click("btnDelete"); // the one that took its place is posted
+    EXPECT_EQ(prompts.last(), u"error: Unable to delete receipt '1002'...\nIt has already been posted"_s);
+    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID FROM IRecDet ORDER BY ReceiptID"_s), (QStringList{u"1"_s, u"2"_s}));
+}
+
+TEST_F(ListScreensTest, findMovesToTheNumberOrSelectsWhatWasTyped)
+{
+    addReceipts();
+    auto &screen = open<TfrmInvReceipts>();
+    EXPECT_TRUE(whileOpen<TfrmInvReceiptsFind>([&] { screen.command(u"mnuFind"_s)->trigger(); },
+                                               [&](TfrmInvReceiptsFind &dialog) {
+                                                   type("77");
+                                                   press(Qt::Key_Return);
+                                                   EXPECT_EQ(prompts.take(),
+                                                             QStringList(u"error: Receipt '77' not found"_s));
+                                                   EXPECT_TRUE(dialog.isVisible());
+                                                   type("1001"); // replaces the selected text
+                                                   press(Qt::Key_Return);
+                                                   EXPECT_FALSE(dialog.isVisible());
+                                               }));
+    EXPECT_EQ(grid->currentIndex().row(), 2);
+}
+
+TEST_F(ListScreensTest, editOpensTheRowAndSavingComesBackToIt)
+{
+    open<TfrmInvReceipts>();
+    click("btnEdit"); // nothing to edit: a new one
+    auto *receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+    ASSERT_NE(receipt, nullptr);
+    EXPECT_EQ(receipt->windowTitle(), u"New Inventory Receipt"_s);
+    receipt->btnCancelClick();
+    settle();
+
+    addReceipts();
+    list->refreshList();
+    grid->setFocus();
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+    ASSERT_NE(receipt, nullptr);
+    EXPECT_EQ(receipt->windowTitle(), u"Receipt 1001"_s);
+    showActive(*receipt);
+    child<QLineEdit>(*receipt, "editReceiptNo")->setFocus();
+    type("1009"); // now the first of its date
+    receipt->btnOKClick();
+    settle();
+    EXPECT_EQ(prompts.said, QStringList());
+    EXPECT_EQ(row(0).at(2), u"1009"_s);
+    EXPECT_EQ(grid->currentIndex().row(), 0);
+
+    kitchen.addReceipt(0, 1, 1, {{1, 5, 3.0}}); // the key that a fresh counter begins with
+    list->refreshList();
+    EXPECT_TRUE(list->moveToKey(0));
+    click("btnEdit");
+    receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+    ASSERT_NE(receipt, nullptr);
+    EXPECT_EQ(receipt->windowTitle(), u"Receipt 1000"_s);
+    receipt->close();
+    settle();
+}
+
+TEST_F(ListScreensTest, closingOffersToPostWhatIsPending)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    EXPECT_TRUE(whileOpen<TfrmInvReceiptsPost>([&] { list->close(); },
+                                               [](TfrmInvReceiptsPost &) { press(Qt::Key_Return); }));
+    settle();
+    EXPECT_FALSE(list);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s), 3);
+    EXPECT_EQ(kitchen.onHand(1, 1), 5);
+
+    open<TfrmInvReceipts>();
+    EXPECT_FALSE(whileOpen<TfrmInvReceiptsPost>(
+        [&] {
+            list->close();
+            QCoreApplication::processEvents();
+        },
+        [](TfrmInvReceiptsPost &) {}))
+        << "nothing is pending";
+    settle();
+    EXPECT_FALSE(list);
+}
+
+TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    click("btnNew");
+    const auto post = [&] { list->command(u"mnuPost"_s)->trigger(); };
+    EXPECT_TRUE(whileOpen<TfrmInvReceiptsPost>(post, [&](TfrmInvReceiptsPost &dialog) {
+        dialog.btnOKClick();
+        EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    }));
+    EXPECT_EQ(prompts.take(),
+              QStringList(u"error: A conflicting program is running...\nPlease close 'Inventory Receipt' form"_s));
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), 0);
+    findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s)->btnCancelClick();
+    settle();
+}
+
+TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
+{
+    kitchen.setStock(1, 1, 10, 2);
+    kitchen.setStock(1, 2, 2.5, 2);
+    kitchen.setStock(2, 1, -3, 2);
+    kitchen.setStock(3, 2, 7, 2);
+    kitchen.execute(
+        u"INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (99, 1, 4)"_s); // its item is gone
+    auto &totals = open<TfrmInvTotals>();
+    ASSERT_EQ(rows(), 5);
+    EXPECT_EQ(row(0), (QStringList{QString(), QString(), u"Office"_s, u"4"_s}));
+    EXPECT_EQ(row(1), (QStringList{u"A10"_s, u"Apples"_s, u"Freezer"_s, u"2.5"_s}));
+    EXPECT_FALSE(totals.command(u"mnuHistory"_s)->isEnabled());
+
+    totals.command(u"mnuSortDescription"_s)->trigger();
+    EXPECT_TRUE(totals.command(u"mnuSortDescription"_s)->isChecked());
+    EXPECT_EQ(row(4).at(1), u"apricots"_s);
+
+    EXPECT_TRUE(whileOpen<TfrmItemsFind>([&] { totals.btnFindClick(); },
+                                         [&](TfrmItemsFind &) {
+                                             type("B1");
+                                             press(Qt::Key_Return);
+                                         }));
+    EXPECT_EQ(grid->currentIndex().row(), 4);
+    kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8 WHERE ItemID = 3"_s);
+    totals.refreshList();
+    EXPECT_EQ(row(4).last(), u"8"_s);
+    EXPECT_EQ(grid->currentIndex().row(), 4) << "the cursor stays";
+
+    EXPECT_TRUE(whileOpen<TfrmInvTotalsFilter>(
+        [&] { totals.btnFilterClick(); },
+        [&](TfrmInvTotalsFilter &dialog) {
+            type("NO");
+            press(Qt::Key_Return);
+            EXPECT_EQ(prompts.take(), QStringList(u"error: Item no. 'NO' not found"_s));
+            EXPECT_TRUE(dialog.isVisible());
+            type("A10");
+            press(Qt::Key_Tab);
+            EXPECT_EQ(child<LookupComboBox>(dialog, "cboItem")->currentText(), u"Apples"_s);
+            child<LookupComboBox>(dialog, "cboWarehouse")->setFocus();
+            type("off");
+            press(Qt::Key_Return);
+        }));
+    EXPECT_EQ(totals.dataSet().filter(), u"(ItemID = 1) AND (WarehouseID = 1)"_s);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(totals.windowTitle(), u"Inventory Totals (Filtered)"_s);
+
+    EXPECT_TRUE(whileOpen<TfrmItemsFind>(
+        [&] { totals.btnFindClick(); },
+        [&](TfrmItemsFind &dialog) {
+            type("B1");
+            press(Qt::Key_Return);
+            EXPECT_EQ(prompts.take(), QStringList(u"error: 'apricots' not found"_s)) << "filtered out";
+            EXPECT_TRUE(dialog.isVisible());
+        }));
+    totals.resetFilter();
+    EXPECT_EQ(rows(), 5);
+    EXPECT_EQ(totals.windowTitle(), u"Inventory Totals"_s);
+}

@@ -1,0 +1,377 @@
+#include "controls/linegrid.h"
+#include "controls/lookupcombobox.h"
+#include "controls/screenmetrics.h"
+#include "master/itemsearchinvform.h"
+#include "tests/transactions/screentest.h"
+#include "transactions/documentpostform.h"
+#include "transactions/invreceiptform.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class ReceiptScreenTest : public ScreenTest
+{
+protected:
+    TfrmInvReceipt &open(int key = 0)
+    {
+        screen = new TfrmInvReceipt(*context, mainWindow.get());
+        if (key == 0)
+            screen->newDocument();
+        else
+            EXPECT_TRUE(screen->openDocument(key));
+        grid = child<LineGrid>(*screen, "DBGrid1");
+        showActive(*screen);
+        return *screen;
+    }
+
+    // "QtyReceived" of row 0 and so on, as the grid shows it.
+    QString cell(int row, int column) { return grid->model()->index(row, column).data().toString(); }
+    QString cursor() { return u"%1,%2"_s.arg(grid->currentIndex().row()).arg(grid->currentIndex().column()); }
+    QStringList lines(int key)
+    {
+        return kitchen.rows(
+            u"SELECT Seq, ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = %1 ORDER BY Seq"_s.arg(key));
+    }
+
+    // Vendor 1, location 2, and one line, with the keyboard.
+    void fillIn()
+    {
+        child<QLineEdit>(*screen, "editVendorNo")->setFocus();
+        type("V1");
+        press(Qt::Key_Return);
+        type("f");
+        press(Qt::Key_PageDown);
+        type("5");
+        press(Qt::Key_Return);
+        type("A10");
+        press(Qt::Key_Return);
+        press(Qt::Key_Return);
+        type("3");
+    }
+
+    void pressOK() { QTest::mouseClick(child<QPushButton>(*screen, "btnOK"), Qt::LeftButton); }
+
+    QPointer<TfrmInvReceipt> screen;
+    LineGrid *grid = nullptr;
+};
+
+} // namespace
+
+TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
+{
+    open();
+    EXPECT_EQ(screen->windowTitle(), u"New Inventory Receipt"_s);
+    EXPECT_EQ(focusName(), u"editVendorNo"_s);
+    QSignalSpy saved(screen, &EntryScreen::saved);
+    fillIn();
+    press(Qt::Key_Return); // appends the second line
+    EXPECT_EQ(cursor(), u"1,0"_s);
+    type("2");
+    press(Qt::Key_Return);
+    press(Qt::Key_Return); // past the number, to the description
+    type("Br"); // completed to "Bread"
+    press(Qt::Key_Return);
+    type("1.25");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !screen; })) << "closed and freed";
+    EXPECT_EQ(prompts.said, QStringList());
+    ASSERT_EQ(saved.size(), 1);
+    const int key = saved.first().first().toInt();
+    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptNo, VendorID, WarehouseID, GLYear, GLPeriod FROM IReceipt"_s),
+              QStringList(u"1001|1|2|2026|3"_s));
+    EXPECT_EQ(lines(key), (QStringList{u"1|1|5|3"_s, u"2|2|2|1.25"_s}));
+
+    TfrmInvReceiptsPost dialog(*context, mainWindow.get());
+    EXPECT_EQ(child<QLabel>(dialog, "lblRecordCount")->text(), u"1 receipt(s) to be posted"_s);
+    showActive(dialog);
+    press(Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(kitchen.onHand(1, 2), 5);
+    EXPECT_EQ(kitchen.averageCost(2), 1.25);
+}
+
+TEST_F(ReceiptScreenTest, refusedLineKeepsTheCursorOnItsRowAndColumn)
+{
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}, {2, 4, 1.0}});
+    open(7);
+    grid->setFocus();
+    press(Qt::Key_Insert, Qt::ControlModifier);
+    ASSERT_EQ(cursor(), u"2,0"_s);
+    type("9");
+    press(Qt::Key_Return);
+    const QString item = u"error: Field 'Item no.' must have a value...\nMake changes or press Esc to undo"_s;
+    press(Qt::Key_Up);
+    EXPECT_EQ(prompts.take(), QStringList(item));
+    EXPECT_EQ(cursor(), u"2,1"_s);
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(grid->model()->index(0, 3)).center());
+    EXPECT_EQ(prompts.take(), QStringList(item));
+    EXPECT_EQ(cursor(), u"2,1"_s);
+    EXPECT_EQ(cell(2, 0), u"9"_s);
+
+    type("NOPE");
+    press(Qt::Key_Return);
+    EXPECT_EQ(prompts.take(), QStringList(u"error: Item not found...\nPress Esc or enter a different item no"_s));
+    EXPECT_TRUE(grid->hasEntry()) << "stays to be mended";
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(grid->hasEntry());
+    type("X9");
+    press(Qt::Key_Return);
+    EXPECT_EQ(prompts.take(), QStringList(u"error: Item has been suspended"_s));
+    press(Qt::Key_Escape);
+
+    press(Qt::Key_Escape); // undoes the row
+    EXPECT_EQ(grid->model()->rowCount(), 2);
+    EXPECT_EQ(lines(7).size(), 2);
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_F(ReceiptScreenTest, entryLeftByMouseIsRefusedWithoutLosingIt)
+{
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}, {2, 4, 1.0}});
+    open(7);
+    grid->setFocus();
+    press(Qt::Key_Return);
+    type("NOPE");
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(grid->model()->index(1, 0)).center());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(prompts.take().size(), 1);
+    EXPECT_EQ(cursor(), u"0,1"_s);
+    ASSERT_TRUE(grid->hasEntry());
+    EXPECT_EQ(child<QLineEdit>(*grid, "editCell")->text(), u"NOPE"_s);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(cell(0, 1), u"A10"_s);
+}
+
+TEST_F(ReceiptScreenTest, refusalOfTheHeaderMovesTheFocusToItsField)
+{
+    const struct
+    {
+        const char *name;
+        std::function<void()> damage; // to a receipt that is complete
+        QString message, focus;
+    } cases[] = {
+        {"vendor",
+         [&] {
+             child<LookupComboBox>(*screen, "cboVendor")->setFocus();
+             press(Qt::Key_Delete);
+         },
+         u"error: Field 'Vendor' must have a value"_s, u"editVendorNo"_s},
+        {"period",
+         [&] {
+             child<QLineEdit>(*screen, "editGLYear")->setFocus();
+             type("25");
+         },
+         u"error: GL Period is prior to current fiscal year \nas defined by \"Your Company\""_s, u"editGLPeriod"_s},
+        {"location",
+         [&] {
+             kitchen.execute(u"DELETE FROM Warehse WHERE WarehouseID = 2"_s);
+             child<QLineEdit>(*screen, "editPurchaseOrderNo")->setFocus();
+             type("1");
+         },
+         u"error: Warehouse no longer exists"_s, u"cboWarehouse"_s},
+        {"number",
+         [&] {
+             kitchen.addReceipt(9, 1, 1, {});
+             child<QLineEdit>(*screen, "editReceiptNo")->setFocus();
+             type("1009");
+         },
+         u"error: Receipt no. already exists"_s, u"editReceiptNo"_s},
+        {"lines",
+         [&] {
+             grid->setFocus();
+             press(Qt::Key_Delete, Qt::ControlModifier);
+         },
+         u"error: Quantities have not been entered"_s, u"DBGrid1"_s},
+    };
+    int key = 20;
+    for (const auto &refusal : cases) {
+        kitchen.execute(u"DELETE FROM Warehse WHERE WarehouseID = 2; "
+                        "INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (2, 'Freezer')"_s);
+        kitchen.addReceipt(++key, 1, 2, {{1, 5, 3.0}});
+        open(key);
+        refusal.damage();
+        pressOK();
+        EXPECT_EQ(prompts.take(), QStringList(refusal.message)) << refusal.name;
+        EXPECT_EQ(focusName(), refusal.focus) << refusal.name;
+        ASSERT_TRUE(screen && screen->isVisible()) << refusal.name;
+        screen->btnCancelClick();
+        settle();
+        EXPECT_EQ(lines(key), QStringList(u"1|1|5|3"_s)) << refusal.name;
+    }
+}
+
+TEST_F(ReceiptScreenTest, vendorNumberIsLookedUpOnLeavingAndEscapeRestoresIt)
+{
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    open(7);
+    auto *vendorNo = child<QLineEdit>(*screen, "editVendorNo");
+    auto *vendor = child<LookupComboBox>(*screen, "cboVendor");
+    EXPECT_EQ(vendorNo->text(), u"V1"_s);
+    vendorNo->setFocus();
+    const struct
+    {
+        const char *typed;
+        QString message;
+    } refused[] = {{"V77", u"error: Vendor no. 'V77' not found"_s},
+                   {"V4", u"error: Vendor no. 'V4' has been suspended"_s}};
+    for (const auto &number : refused) {
+        vendorNo->selectAll();
+        type(number.typed);
+        press(Qt::Key_Tab);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(prompts.take(), QStringList(number.message));
+        EXPECT_EQ(focusName(), u"editVendorNo"_s);
+        press(Qt::Key_Escape);
+        EXPECT_EQ(vendorNo->text(), u"V1"_s);
+    }
+    vendorNo->selectAll();
+    type("V2");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(vendor->currentText(), u"Second"_s);
+    // A suspended vendor cannot be picked from the list either; the box goes back.
+    type("Fourth");
+    press(Qt::Key_Tab);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(prompts.take(), QStringList(u"error: Vendor 'V4: Fourth' has been suspended"_s));
+    EXPECT_EQ(vendor->currentText(), u"Second"_s);
+    EXPECT_EQ(vendorNo->text(), u"V2"_s);
+}
+
+TEST_F(ReceiptScreenTest, closingAsksOnlyWhenThereIsSomethingToSave)
+{
+    open();
+    screen->close();
+    settle();
+    EXPECT_FALSE(screen) << "an untouched new receipt goes silently";
+    EXPECT_EQ(prompts.said, QStringList());
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt"_s), 0);
+
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    open(7).close();
+    settle();
+    EXPECT_FALSE(screen) << "looked at only";
+    EXPECT_EQ(prompts.said, QStringList());
+
+    const QStringList question{u"Do you want to save changes?"_s};
+    const auto changeCost = [&](const char *cost) {
+        open(7);
+        grid->setFocus();
+        for (int i = 0; i < 3; ++i)
+            press(Qt::Key_Return);
+        type(cost);
+    };
+    changeCost("8");
+    prompts.answer = Answer::Cancel;
+    screen->close();
+    settle();
+    ASSERT_TRUE(screen && screen->isVisible());
+    EXPECT_EQ(prompts.take(), question);
+    prompts.answer = Answer::No;
+    screen->close();
+    settle();
+    EXPECT_FALSE(screen);
+    EXPECT_EQ(prompts.take(), question);
+    EXPECT_EQ(lines(7), QStringList(u"1|1|5|3"_s));
+
+    changeCost("8");
+    prompts.answer = Answer::Yes;
+    screen->close();
+    settle();
+    EXPECT_FALSE(screen);
+    EXPECT_EQ(lines(7), QStringList(u"1|1|5|8"_s));
+}
+
+TEST_F(ReceiptScreenTest, cancelBringsTheLinesBack)
+{
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}, {2, 4, 1.0}, {3, 1, 1.0}});
+    const QStringList before = lines(7);
+    open(7);
+    grid->setFocus();
+    type("6");
+    press(Qt::Key_Down); // written
+    press(Qt::Key_Delete, Qt::ControlModifier);
+    EXPECT_EQ(grid->model()->rowCount(), 2);
+    press(Qt::Key_PageDown);
+    type("1");
+    press(Qt::Key_Return);
+    type("B1");
+    EXPECT_NE(lines(7), before);
+    QTest::mouseClick(child<QPushButton>(*screen, "btnCancel"), Qt::LeftButton);
+    settle();
+    EXPECT_FALSE(screen);
+    EXPECT_EQ(prompts.said, QStringList());
+    EXPECT_EQ(lines(7), before);
+}
+
+TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
+{
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s);
+    open(7);
+    EXPECT_TRUE(child<QLabel>(*screen, "lblPosted")->isVisible());
+    EXPECT_TRUE(child<QLineEdit>(*screen, "editVendorNo")->isReadOnly());
+    EXPECT_FALSE(child<QAction>(*screen, "mnuNewLine")->isEnabled());
+    auto *order = child<QLineEdit>(*screen, "editPurchaseOrderNo");
+    order->setFocus();
+    type("Z");
+    EXPECT_TRUE(prompts.take().value(0).startsWith("inform: Posted receipts cannot be changed...\n\n"_L1));
+    EXPECT_EQ(order->text(), QString());
+    grid->setFocus();
+    type("9");
+    EXPECT_EQ(prompts.take().size(), 1);
+    EXPECT_FALSE(grid->hasEntry());
+    for (int i = 0; i < 6; ++i)
+        press(Qt::Key_Return);
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(grid->model()->rowCount(), 1);
+    press(Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(screen);
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
+{
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    open(7);
+    grid->setFocus();
+    press(Qt::Key_Return);
+    const auto search = [&] { press(Qt::Key_Return, Qt::ControlModifier); };
+    EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(search, [&](TfrmItemSearchInv &dialog) {
+        EXPECT_EQ(dialog.GetItemID(), 1);
+        EXPECT_EQ(focusName(), u"editFindItemNo"_s);
+        type("A11");
+        EXPECT_EQ(dialog.GetItemID(), 2);
+        type("7"); // no such number: stays
+        EXPECT_EQ(dialog.GetItemID(), 2);
+        press(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    }));
+    EXPECT_EQ(cell(0, 2), u"Bread"_s);
+    QWidget *kept = findScreen(u"frmItemSearch"_s);
+    EXPECT_NE(kept, nullptr);
+    EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(search, [&](TfrmItemSearchInv &dialog) {
+        EXPECT_EQ(&dialog, kept);
+        EXPECT_EQ(child<QLineEdit>(dialog, "editFindItemNo")->text(), QString());
+        child<LookupComboBox>(dialog, "cboItemType")->setFocus();
+        type("Goods");
+        child<QLineEdit>(dialog, "editFindItemDescription")->setFocus();
+        EXPECT_EQ(child<ListGrid>(dialog, "DBGrid1")->model()->rowCount(), 2);
+        type("ap");
+        EXPECT_EQ(dialog.GetItemID(), 3);
+        press(Qt::Key_Escape);
+    }));
+    EXPECT_EQ(cell(0, 2), u"Bread"_s) << "cancelled";
+    pressOK();
+    settle();
+    EXPECT_EQ(lines(7), QStringList(u"1|2|5|3"_s));
+}
