@@ -52,13 +52,13 @@ void ConsolePrompts::error(const QString &text) { m_console.error(text); }
 bool ConsolePrompts::confirm(const QString &title, const QString &text)
 {
     m_console.error(title + ": "_L1 + text);
-    return answerYes;
+    return false;
 }
 
 Answer ConsolePrompts::yesNoCancel(const QString &text)
 {
     m_console.error(text);
-    return answerYes ? Answer::Yes : Answer::Cancel;
+    return Answer::Cancel;
 }
 
 bool ConsolePrompts::retry(const QString &text)

@@ -29,8 +29,8 @@ private:
 
 QString onOneLine(QString text); // line breaks and the blanks around them become one blank
 
-// How rules talk to the user of a command. Questions get their default answer, which refuses, unless the user has
-// said yes beforehand. A refused lock is retried for the time given.
+// How rules talk to the user of a command. Questions get their default answer, which refuses. A refused lock is
+// retried for the time given.
 class ConsolePrompts final : public Prompts
 {
 public:
@@ -39,7 +39,6 @@ public:
     {
     }
 
-    bool answerYes = false;
     std::chrono::milliseconds retryFor{0};
 
     void inform(const QString &text) override;

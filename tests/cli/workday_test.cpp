@@ -1,6 +1,8 @@
 #include "tests/cli/clirunner.h"
 
 #include <gtest/gtest.h>
+#include <QFile>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -65,6 +67,25 @@ TEST_P(Workday, InitLeavesRowsAsTheyAre)
     EXPECT_EQ(cli.column({u"list"_s, u"currencies"_s}, u"CurrencyName"_s), QStringList{u"Pounds"_s});
     EXPECT_EQ(cli.column({u"list"_s, u"locations"_s}, u"WarehouseName"_s),
               (QStringList{u"Cold Room"_s, u"Office"_s}));
+}
+
+TEST_P(Workday, WithoutAPlaceTheUsersSettingsDecide)
+{
+    CliRunner cli(GetParam());
+    QTemporaryDir settings;
+    QFile file(settings.filePath(u"DBIsam.conf"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const QByteArray alias = "[Alias]\nCorvane=" + (cli.folder() + "/kitchen"_L1).toUtf8() + '\n';
+    const bool local = GetParam() == Store::Local;
+    file.write(alias + (local ? "[Mode]\nCorvane=F\n" : "[Mode]\nCorvane=C\n[Server%20IP]\nCorvane=127.0.0.1\n"));
+    file.close();
+
+    const QStringList environment = {"XDG_CONFIG_HOME="_L1 + settings.path()};
+    const CliResult init = cli.runBare({u"init"_s}, environment);
+    ASSERT_EQ(init.status, 0) << init;
+    EXPECT_EQ(QFile::exists(cli.folder() + "/kitchen/Corvane.sqlite"_L1), local);
+    const CliResult list = cli.runBare({u"list"_s, u"locations"_s}, environment);
+    EXPECT_EQ(list.rows().value(1), (QStringList{u"1"_s, u"Office"_s, QString()}));
 }
 
 TEST_P(Workday, TheSampleKitchenAddsUpAndGoesIntoANewDatabaseOnly)
