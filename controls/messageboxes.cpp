@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -10,13 +11,19 @@ namespace Tallymere {
 
 namespace {
 
+// Between two boxes no window is active for a moment; the second comes over the same window as the first.
+QWidget *windowInUse()
+{
+    static QPointer<QWidget> last;
+    if (QWidget *active = QApplication::activeWindow())
+        last = active;
+    return last && last->isVisible() ? last.data() : QApplication::activeModalWidget();
+}
+
 QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, const QString &text,
                                 QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset)
 {
-    QWidget *parent = QApplication::activeWindow();
-    if (!parent)
-        parent = QApplication::activeModalWidget();
-    QMessageBox box(icon, title, text, buttons, parent);
+    QMessageBox box(icon, title, text, buttons, windowInUse());
     box.setObjectName(u"messageBox"_s);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);

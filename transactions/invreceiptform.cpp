@@ -23,7 +23,7 @@ TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
     , m_ui(std::make_unique<Ui::TfrmInvReceipt>())
 {
     m_ui->setupUi(this);
-    resize(scaled(this, 780), scaled(this, 460));
+    resize(scaled(this, 840), scaled(this, 470));
     m_ui->cboVendor->setList(context.lookups.tblVendor(), u"VendorID"_s,
                              {{u"VendorName"_s, tr("Vendor"), 220}, {u"VendorNo"_s, tr("Vendor no."), 80}},
                              guard());
@@ -31,7 +31,7 @@ TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
                                 {{u"WarehouseName"_s, tr("Warehouse"), 200}}, guard());
     buildDocument({{u"QtyReceived"_s, tr("Quantity"), 100, Qt::AlignRight},
                    {u"ItemNo"_s, tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
-                   {u"ItemDescription"_s, tr("Description"), 400},
+                   {u"ItemDescription"_s, tr("Description"), 450},
                    {u"UnitCost"_s, tr("Unit Cost"), 110, Qt::AlignRight}});
     binder().setEntryRule(u"VendorNo"_s,
                           [this](const QString &text) { receipt().chooseVendorByNumber(text.trimmed()); });
