@@ -12,14 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int patience = 120'000;
-
-void pointToTestServer()
-{
-    QFile file(qEnvironmentVariable("TALLYMERE_TEST_POSTGRES") + "/port"_L1);
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("The test server is not running; see tests/support/postgres.sh.");
-    qputenv("PGPORT", file.readAll().trimmed());
-}
+const auto serverDatabase = u"corvane"_s; // the one the program knows
 
 } // namespace
 
@@ -45,37 +38,28 @@ std::ostream &operator<<(std::ostream &stream, const CliResult &result)
 CliRunner::CliRunner(Store store)
     : m_store(store)
 {
-    if (store == Store::Remote) {
-        pointToTestServer();
-        dropRemote();
-    }
+    if (store == Store::Remote)
+        dropTestDatabase(serverDatabase);
 }
 
 CliRunner::~CliRunner()
 {
-    if (m_store == Store::Remote)
-        dropRemote();
-}
-
-void CliRunner::dropRemote()
-{
-    TestUser keeper(u"keeper"_s, u"postgres"_s);
-    keeper.session.type = Engine::SessionType::Remote;
-    keeper.session.remoteAddress = u"127.0.0.1"_s;
-    keeper.session.remoteUser = keeper.session.remotePassword = u"zorvadin"_s;
-    keeper.database.connection().execute(u"DROP DATABASE IF EXISTS corvane WITH (FORCE)"_s);
+    if (m_store == Store::Local)
+        return;
+    try {
+        dropTestDatabase(serverDatabase);
+    } catch (const std::exception &error) {
+        qWarning("The test's database stays behind: %s", error.what());
+    }
 }
 
 std::unique_ptr<TestUser> CliRunner::anotherUser() const
 {
     auto other = std::make_unique<TestUser>(u"anna"_s, u"Corvane"_s);
-    if (m_store == Store::Local) {
+    if (m_store == Store::Local)
         other->database.directory = m_folder.path();
-        return other;
-    }
-    other->session.type = Engine::SessionType::Remote;
-    other->session.remoteAddress = u"127.0.0.1"_s;
-    other->session.remoteUser = other->session.remotePassword = u"zorvadin"_s;
+    else
+        other->useTestServer(serverDatabase);
     return other;
 }
 

@@ -46,8 +46,6 @@ public:
     QStringList column(const QStringList &words, const QString &field);
 
 private:
-    void dropRemote();
-
     Store m_store;
     QTemporaryDir m_folder;
     QTemporaryDir m_work;

@@ -46,6 +46,20 @@ void TestUser::useTestServer(const QString &remoteName)
     database.remoteName = remoteName;
 }
 
+void dropTestDatabase(const QString &name)
+{
+    TestUser keeper(u"keeper"_s, u"postgres"_s);
+    keeper.useTestServer(u"postgres"_s);
+    const QString drop = "DROP DATABASE IF EXISTS "_L1 + name;
+    try {
+        keeper.database.connection().execute(drop);
+        return;
+    } catch (const std::exception &) {
+        // somebody is still connected; FORCE alone would not do, as the server's own vacuum may be among them
+    }
+    keeper.database.connection().execute(drop + " WITH (FORCE)"_L1);
+}
+
 TestStore::TestStore(Store store)
     : m_store(store)
 {
@@ -62,17 +76,8 @@ TestStore::~TestStore()
     m_user.reset();
     if (m_store == Store::Local)
         return;
-    TestUser keeper(u"keeper"_s, u"postgres"_s);
-    keeper.useTestServer(u"postgres"_s);
-    const QString drop = "DROP DATABASE IF EXISTS "_L1 + m_remoteName;
     try {
-        keeper.database.connection().execute(drop);
-        return;
-    } catch (const std::exception &) {
-        // somebody is still connected; FORCE alone would not do, as the server's own vacuum may be among them
-    }
-    try {
-        keeper.database.connection().execute(drop + " WITH (FORCE)"_L1);
+        dropTestDatabase(m_remoteName);
     } catch (const std::exception &error) {
         qWarning("The test's database stays behind: %s", error.what());
     }

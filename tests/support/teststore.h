@@ -20,6 +20,9 @@ struct TestUser
     void useTestServer(const QString &remoteName);
 };
 
+// Drops a database of the test server, if it is there. Throws EngineError when somebody keeps it open for good.
+void dropTestDatabase(const QString &name);
+
 // A fresh, empty database for one test, in a folder or on the test server; gone with the object.
 // The server is the one whose folder TALLYMERE_TEST_POSTGRES names (see postgres.sh); without it a remote store
 // throws std::runtime_error.
