@@ -173,6 +173,23 @@ TEST_F(ListScreensTest, editOpensTheRowAndSavingComesBackToIt)
     settle();
 }
 
+TEST_F(ListScreensTest, failureOfTheStoreIsShownAndTheListComesBack)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    kitchen.execute(u"ALTER TABLE IReceipt RENAME TO Away"_s);
+    list->command(u"mnuRefresh"_s)->trigger();
+    grid->setFocus();
+    press(Qt::Key_End);
+    EXPECT_TRUE(prompts.take().value(0).startsWith("error: "_L1));
+    EXPECT_EQ(rows(), 0);
+    kitchen.execute(u"ALTER TABLE Away RENAME TO IReceipt"_s);
+    list->command(u"mnuRefresh"_s)->trigger();
+    EXPECT_EQ(rows(), 3);
+    EXPECT_EQ(row(0).at(2), u"1003"_s);
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
 TEST_F(ListScreensTest, closingOffersToPostWhatIsPending)
 {
     addReceipts();
