@@ -157,7 +157,12 @@ void createRemoteDatabase(const PostgresTarget &target)
     PostgresLink link(maintenance);
     const QString statement =
         u"CREATE DATABASE %1 ENCODING 'UTF8' LC_COLLATE 'C' LC_CTYPE 'C' TEMPLATE template0"_s;
-    link.run(statement.arg(quoted(target.database)).toUtf8());
+    try {
+        link.run(statement.arg(quoted(target.database)).toUtf8());
+    } catch (const EngineError &error) {
+        if (!isExistingDatabase(error))
+            throw;
+    }
 }
 
 } // namespace Engine

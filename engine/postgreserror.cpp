@@ -79,6 +79,11 @@ EngineError postgresError(const QByteArray &sqlState, const QString &words, cons
 
 bool isMissingDatabase(const EngineError &error) { return error.driverText().startsWith("PostgreSQL 3D000"_L1); }
 
+bool isExistingDatabase(const EngineError &error)
+{
+    return error.driverText().startsWith("PostgreSQL 42P04"_L1) || error.code() == ErrorCode::KeyViolation;
+}
+
 EngineError connectionLost(const QString &location, const QString &words)
 {
     return EngineError(

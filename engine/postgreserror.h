@@ -13,6 +13,9 @@ EngineError postgresError(const QByteArray &sqlState, const QString &words, cons
 
 // Whether connecting failed because the server has no database of the name.
 bool isMissingDatabase(const EngineError &error);
+// Whether creating a database failed because somebody else has just created it: depending on the moment, the server
+// finds the database or stumbles over its name in the catalog.
+bool isExistingDatabase(const EngineError &error);
 
 EngineError connectionLost(const QString &location, const QString &words);
 

@@ -2,9 +2,12 @@
 #include "engine/platform.h"
 #include "tests/engine/storetest.h"
 
+#include <atomic>
+#include <latch>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace Engine;
@@ -145,6 +148,34 @@ TEST(LocalFailures, TheJournalFitsTheFileSystem)
 }
 
 // --- server --------------------------------------------------------------------------------------------------------
+
+TEST(RemoteFailures, SeveralWhoMakeTheDatabaseAtOnceAllGetIt)
+{
+    TestStore store(Store::Remote);
+    const QString name = store.remoteName() + u"_race"_s;
+    constexpr int users = 4;
+    std::latch start(users);
+    std::atomic<int> connected = 0;
+    std::vector<std::thread> threads;
+    for (int user = 0; user < users; ++user) {
+        threads.emplace_back([&] {
+            TestUser me(u"maria"_s, name);
+            me.useTestServer(name);
+            me.database.createIfMissing = true;
+            start.arrive_and_wait();
+            try {
+                me.database.connection();
+                ++connected;
+            } catch (const EngineError &error) {
+                ADD_FAILURE() << error.what();
+            }
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    EXPECT_EQ(connected, users);
+    store.execute(u"DROP DATABASE %1 WITH (FORCE)"_s.arg(name));
+}
 
 TEST(RemoteFailures, WhatCannotBeReachedIsNamed)
 {
