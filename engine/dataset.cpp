@@ -216,7 +216,7 @@ bool DataSet::matches(const Row &row, const QStringList &fields, const QList<Val
     for (qsizetype i = 0; i < std::min(fields.size(), values.size()); ++i) {
         const int index = requireField(fields[i]);
         const Value &value = row[static_cast<size_t>(index)];
-        const bool text = field(index).type == FieldType::Text || field(index).type == FieldType::Memo;
+        const bool text = isText(field(index).type);
         const bool partial = text && options.testFlag(LocateOption::PartialKey) && i + 1 == fields.size();
         const bool same = text
             ? sameText(value, values[i], partial, options.testFlag(LocateOption::CaseInsensitive))
@@ -263,11 +263,10 @@ void DataSet::setFilter(const QString &expression)
 {
     if (expression == m_filter)
         return;
-    FilterExpression parsed(expression);
+    const FilterExpression parsed(expression);
     if (m_open) {
         beforeMove();
-        parsed.condition(m_database.connection().dialect(),
-                         [this](QStringView name) { return DataSetReader::filterColumn(*this, name); });
+        DataSetReader(*this).condition(parsed);
     }
     m_filter = expression;
     if (!m_open || !m_filtered)
@@ -285,6 +284,9 @@ void DataSet::setFiltered(bool on)
                           QCoreApplication::translate("Engine", "A query without key fields cannot be filtered."));
     if (m_open)
         beforeMove();
+    if (m_open && on)
+        DataSetReader(*this).condition(
+            FilterExpression(m_filter)); // it may have been set before the fields were known
     m_filtered = on;
     if (!m_open)
         return;

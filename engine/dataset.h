@@ -103,7 +103,8 @@ public:
     void setFiltered(bool on);
     bool isFiltered() const { return m_filtered; }
 
-    // Reads the set anew and stays on the current row; when that is gone, on the one that took its place.
+    // Reads the set anew and stays on the current row; when that is gone, on the one that took its place. An edit in
+    // progress is ended first.
     virtual void refresh();
 
 Q_SIGNALS:

@@ -11,7 +11,8 @@ namespace Engine {
 //
 // The current record is held in one of three ways. Unread: it is the first, which nobody has asked for yet. By key:
 // its key, and mostly its row, are in hand, while its index is not known because the list was not read. By index.
-struct DataSet::Private {
+struct DataSet::Private
+{
     enum class Current { Unread, Empty, Known };
 
     std::optional<RowSource> source; // of the scope in force
@@ -68,7 +69,8 @@ struct DataSet::Private {
 };
 
 // The reading behind DataSet's functions; all of it may happen within a const call.
-class DataSetReader {
+class DataSetReader
+{
 public:
     using Current = DataSet::Private::Current;
 
@@ -78,8 +80,8 @@ public:
     {
     }
 
-    // The field of a name as a filter expression sees it.
-    static std::optional<FilterExpression::Column> filterColumn(const DataSet &set, QStringView name);
+    // The condition of an expression over the data fields. Throws BadExpression when it does not fit them.
+    SqlCondition condition(const FilterExpression &filter) const;
     RowSource &source() const;
     void readKeys() const;
     void resolve() const; // makes the current record known, or the set known to be empty

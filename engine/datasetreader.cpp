@@ -8,29 +8,26 @@ namespace Engine {
 
 using Current = DataSetReader::Current;
 
-std::optional<FilterExpression::Column> DataSetReader::filterColumn(const DataSet &set, QStringView name)
+SqlCondition DataSetReader::condition(const FilterExpression &filter) const
 {
-    const int index = set.fieldIndex(name);
-    if (index < 0 || set.field(index).kind != FieldKind::Data)
-        return std::nullopt;
-    const Field &field = set.field(index);
-    const QString column = set.m_database.connection().dialect().name(field.name);
-    return FilterExpression::Column{QStringLiteral("t.") + column, field.type};
+    const Dialect &dialect = m_set.m_database.connection().dialect();
+    return filter.condition(dialect, [&](QStringView name) -> std::optional<FilterExpression::Column> {
+        const int index = m_set.fieldIndex(name);
+        if (index < 0 || m_set.field(index).kind != FieldKind::Data)
+            return std::nullopt;
+        const Field &field = m_set.field(index);
+        return FilterExpression::Column{QStringLiteral("t.") + dialect.name(field.name), field.type};
+    });
 }
 
 RowSource &DataSetReader::source() const
 {
     if (d.source)
         return *d.source;
-    Connection &connection = m_set.m_database.connection();
     SetScope scope = m_set.scope();
-    if (m_set.m_filtered) {
-        scope.condition +=
-            FilterExpression(m_set.m_filter).condition(connection.dialect(), [this](QStringView name) {
-                return filterColumn(m_set, name);
-            });
-    }
-    d.source.emplace(connection, std::move(scope), m_set.m_fields);
+    if (m_set.m_filtered)
+        scope.condition += condition(FilterExpression(m_set.m_filter));
+    d.source.emplace(m_set.m_database.connection(), std::move(scope), m_set.m_fields);
     return *d.source;
 }
 
@@ -89,6 +86,8 @@ void DataSetReader::stayOrTakePlace() const
     const int place = std::min(d.formerIndex, count - 1);
     d.hold(d.keys.at(place), std::nullopt);
     d.index = place;
+    // Who shows the record must learn of it, but not while it is reading.
+    QMetaObject::invokeMethod(const_cast<DataSet *>(&m_set), &DataSet::currentChanged, Qt::QueuedConnection);
 }
 
 int DataSetReader::index() const

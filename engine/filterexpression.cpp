@@ -18,13 +18,15 @@ using Node = FilterExpression::Node;
 // What a part of an expression is, for deciding what may stand beside it.
 enum class Sort { Number, Text, Boolean, Date, DateTime, Null };
 
-struct Part {
+struct Part
+{
     SqlCondition sql;
     Sort sort = Sort::Null;
     FieldType type = FieldType::Float; // of a field
 };
 
-class Translator {
+class Translator
+{
 public:
     Translator(const QString &expression, const Dialect &dialect, const FilterExpression::Columns &columns)
         : m_expression(expression)
@@ -33,7 +35,7 @@ public:
     {
     }
 
-    // The node as a condition. It is never "unknown" where it is the operand of NOT.
+    // The node as a condition. "Unknown", of a comparison with an empty field, counts as false everywhere.
     SqlCondition condition(const Node &node) const
     {
         switch (node.kind) {
@@ -42,7 +44,7 @@ public:
         case Node::Kind::And:
             return chain(node, " AND "_L1);
         case Node::Kind::Not:
-            return wrapped("NOT COALESCE("_L1, condition(*node.parts[0]), ", 1=0)"_L1);
+            return wrapped("("_L1, condition(*node.parts[0]), ") IS NOT TRUE"_L1);
         case Node::Kind::Compare:
             return comparison(node);
         case Node::Kind::Like:
@@ -157,7 +159,8 @@ private:
         const Part part = operand(node);
         if (part.sort != Sort::Number)
             refuse(node, QCoreApplication::translate("Engine", "a number was expected."));
-        return wrapped("CAST("_L1, part.sql, " AS DOUBLE PRECISION)"_L1);
+        const bool floating = node.kind == Node::Kind::Arithmetic || node.kind == Node::Kind::Negate;
+        return floating ? part.sql : wrapped("CAST("_L1, part.sql, " AS DOUBLE PRECISION)"_L1);
     }
 
     SqlCondition arithmetic(const Node &node) const
@@ -211,10 +214,9 @@ private:
         const Part right = adapted(rightNode, rightRead, leftRead);
         if (left.sort != right.sort)
             refuseKinds(node);
-        const SqlCondition compared = joined(left.sql, u' ' + node.text + u' ', right.sql);
         if (node.text == "<>"_L1)
-            return wrapped("COALESCE("_L1, compared, ", 1=1)"_L1);
-        return compared;
+            return wrapped("("_L1, joined(left.sql, u" = "_s, right.sql), ") IS NOT TRUE"_L1);
+        return joined(left.sql, u' ' + node.text + u' ', right.sql);
     }
 
     SqlCondition like(const Node &node) const
@@ -249,19 +251,6 @@ SqlCondition FilterExpression::condition(const Dialect &dialect, const Columns &
     SqlCondition condition = Translator(m_text, dialect, columns).condition(*m_root);
     condition.text = u'(' + condition.text + u')';
     return condition;
-}
-
-SqlCondition filterCondition(const QString &expression, const TableLayout &layout, const Dialect &dialect,
-                             const QString &alias)
-{
-    const QString prefix = alias.isEmpty() ? QString() : alias + u'.';
-    return FilterExpression(expression)
-        .condition(dialect, [&](QStringView name) -> std::optional<FilterExpression::Column> {
-            const FieldDef *field = layout.field(name);
-            if (!field)
-                return std::nullopt;
-            return FilterExpression::Column{prefix + dialect.name(field->name), field->type};
-        });
 }
 
 } // namespace Engine

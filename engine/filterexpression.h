@@ -1,6 +1,5 @@
 #pragma once
 
-#include "engine/layout.h"
 #include "engine/sqlcondition.h"
 
 #include <functional>
@@ -16,9 +15,11 @@ class Dialect;
 // Comparisons answer true or false, never "unknown": one with an empty field is false, except "<>", which is the
 // opposite of "=". NOT is the opposite of what it stands before. Arithmetic is done in floating point; a division
 // by zero is empty.
-class FilterExpression {
+class FilterExpression
+{
 public:
-    struct Column {
+    struct Column
+    {
         QString sql; // how the field stands in the statement
         FieldType type = FieldType::Integer;
     };
@@ -40,10 +41,5 @@ private:
     QString m_text;
     std::unique_ptr<Node> m_root;
 };
-
-// The condition of an expression over the fields of a table that the statement calls by the alias ("t"; empty: by
-// no name). Throws BadExpression.
-SqlCondition filterCondition(const QString &expression, const TableLayout &layout, const Dialect &dialect,
-                             const QString &alias = QStringLiteral("t"));
 
 } // namespace Engine

@@ -20,7 +20,8 @@ void refuseFilter(const QString &expression, qsizetype position, const QString &
 
 namespace {
 
-class Lexer {
+class Lexer
+{
 public:
     explicit Lexer(const QString &text)
         : m_text(text)

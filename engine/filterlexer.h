@@ -6,7 +6,8 @@
 namespace Engine {
 
 // The words of a filter expression.
-struct FilterToken {
+struct FilterToken
+{
     enum class Kind { End, Number, Text, Name, Symbol, Word };
     Kind kind = Kind::End;
     QString text; // of Text without its quotes; of Word (AND, OR, NOT, LIKE, IS, NULL, TRUE, FALSE) in capitals

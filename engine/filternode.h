@@ -7,7 +7,8 @@
 namespace Engine {
 
 // One operation of a filter expression, or one field or constant.
-struct FilterExpression::Node {
+struct FilterExpression::Node
+{
     enum class Kind { Or, And, Not, Compare, Like, IsNull, Arithmetic, Negate, Field, Number, Text, Boolean, Null };
 
     Kind kind = Kind::Null;

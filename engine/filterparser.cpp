@@ -14,7 +14,8 @@ using NodePtr = std::unique_ptr<Node>;
 using Kind = FilterToken::Kind;
 
 // Recursive descent. Binding from loose to tight: OR, AND, NOT, comparison, + and -, * and /, sign.
-class Parser {
+class Parser
+{
 public:
     explicit Parser(const QString &expression)
         : m_expression(expression)
@@ -33,15 +34,17 @@ public:
     }
 
 private:
-    // Each level of nesting takes several calls; what nobody would write must not use up the stack.
-    static constexpr int deepest = 200;
-    struct Depth {
+    // What nobody would write must use up neither the stack here nor the stores' own: SQLite reads a hundred things
+    // that wait for their end, and a chain of a thousand.
+    static constexpr int deepest = 20;
+    static constexpr int longest = 500;
+    struct Depth
+    {
         explicit Depth(Parser &parser)
             : m_parser(parser)
         {
             if (++m_parser.m_depth > deepest) {
-                refuseFilter(m_parser.m_expression, m_parser.current().position,
-                             QCoreApplication::translate("Engine", "too many levels of parentheses."));
+                m_parser.refuseDepth();
             }
         }
         ~Depth() { --m_parser.m_depth; }
@@ -50,6 +53,12 @@ private:
 
     const FilterToken &current() const { return m_tokens[m_at]; }
     FilterToken take() { return m_tokens[m_at++]; }
+
+    [[noreturn]] void refuseDepth() const
+    {
+        refuseFilter(m_expression, current().position,
+                     QCoreApplication::translate("Engine", "too many levels of parentheses or operations."));
+    }
 
     [[noreturn]] void unexpected(const QString &wanted) const
     {
@@ -78,6 +87,9 @@ private:
         NodePtr all = node(kind, current());
         all->parts.push_back(std::move(first));
         while (current().isWord(word)) {
+            if (all->parts.size() == longest)
+                refuseFilter(m_expression, current().position,
+                             QCoreApplication::translate("Engine", "too many conditions."));
             take();
             all->parts.push_back((this->*part)());
         }
@@ -153,7 +165,9 @@ private:
     NodePtr arithmetic(QLatin1StringView one, QLatin1StringView other, NodePtr (Parser::*part)())
     {
         NodePtr left = (this->*part)();
-        while (current().isSymbol(one) || current().isSymbol(other)) {
+        for (int operations = 0; current().isSymbol(one) || current().isSymbol(other); ++operations) {
+            if (operations == deepest)
+                refuseDepth();
             NodePtr made = node(Node::Kind::Arithmetic, take());
             made->parts.push_back(std::move(left));
             made->parts.push_back((this->*part)());

@@ -1,5 +1,7 @@
 #include "engine/layout.h"
 
+#include <algorithm>
+
 namespace Engine {
 
 int TableLayout::fieldIndex(QStringView field) const
@@ -30,6 +32,16 @@ QStringList TableLayout::primaryFields() const
 {
     const IndexDef *index = primary();
     return index ? index->fieldNames() : QStringList{};
+}
+
+QStringList TableLayout::numberKey() const
+{
+    const QStringList names = primaryFields();
+    const bool numbers = std::all_of(names.begin(), names.end(), [this](const QString &fieldName) {
+        const FieldDef *definition = field(fieldName);
+        return definition && isWholeNumber(definition->type);
+    });
+    return numbers ? names : QStringList();
 }
 
 const IndexDef *TableLayout::index(QStringView indexName) const

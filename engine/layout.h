@@ -49,6 +49,8 @@ struct TableLayout
     const FieldDef *field(QStringView field) const; // nullptr when there is none
     const IndexDef *primary() const; // nullptr for a control table
     QStringList primaryFields() const; // empty for a control table
+    // The primary fields when all of them are whole numbers, else empty: what rows are told apart by in memory.
+    QStringList numberKey() const;
     const IndexDef *index(QStringView indexName) const; // by name, without regard to case; "" is the primary index
     const IndexDef *indexOnFields(QStringView fields) const; // by its field list, such as "ReceiptID;Seq"
 };

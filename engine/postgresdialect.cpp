@@ -35,11 +35,6 @@ constexpr ConversionTexts conversions{
     .dateTimeToDate = "CAST(%1 AS date)",
 };
 
-bool isText(const FieldDef *field)
-{
-    return field && (field->type == FieldType::Text || field->type == FieldType::Memo);
-}
-
 } // namespace
 
 QString PostgresDialect::name(const QString &identifier) const
@@ -98,7 +93,8 @@ QString PostgresDialect::keyClause(const TableLayout &layout, const IndexDef &in
 {
     QStringList terms;
     for (const QString &fieldName : index.fieldNames()) {
-        const bool fold = index.options.testFlag(IndexOption::CaseInsensitive) && isText(layout.field(fieldName));
+        const FieldDef *field = layout.field(fieldName);
+        const bool fold = field && isText(field->type) && index.options.testFlag(IndexOption::CaseInsensitive);
         terms << orderTerm(name(fieldName), fold, index.options.testFlag(IndexOption::Descending));
     }
     return u'(' + terms.join(", "_L1) + u')';

@@ -7,13 +7,15 @@
 #include "engine/namedparameters.h"
 #include "engine/session.h"
 
+#include <algorithm>
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
 namespace Engine {
 
-struct Query::Text {
+struct Query::Text
+{
     PositionalSql positional;
 };
 
@@ -169,13 +171,15 @@ std::vector<Field> Query::readAll()
     std::vector<Field> fields;
     std::vector<bool> seen;
     std::vector<Row> rows;
+    const auto others = static_cast<size_t>(std::count_if(
+        m_fields.begin(), m_fields.end(), [](const Field &field) { return field.kind != FieldKind::Data; }));
     bool more = statement->next();
     for (int column = 0; column < statement->columnCount(); ++column) {
         fields.push_back(columnField(*statement, column));
         seen.push_back(more && !statement->isNull(column));
     }
     for (; more; more = statement->next()) {
-        Row row(m_fields.size() > fields.size() ? m_fields.size() : fields.size());
+        Row row(fields.size() + others);
         for (size_t i = 0; i < fields.size(); ++i) {
             const int column = static_cast<int>(i);
             if (statement->isNull(column))

@@ -29,8 +29,6 @@ QString numberList(const std::vector<qint64> &numbers)
     return text + u']';
 }
 
-bool isText(const Field &field) { return field.type == FieldType::Text || field.type == FieldType::Memo; }
-
 const Field *fieldNamed(const std::deque<Field> &fields, QStringView name)
 {
     for (const Field &field : fields) {
@@ -200,12 +198,12 @@ Value RowSource::lookedUp(const Field &field, const Value &key) const
 SqlCondition RowSource::matchOne(const Field &field, const Value &value, bool partial, bool caseInsensitive) const
 {
     const Dialect &dialect = m_connection.dialect();
-    const SqlColumn column{columnOf(field), caseInsensitive && isText(field)};
+    const SqlColumn column{columnOf(field), caseInsensitive && isText(field.type)};
     const Value fitting = value.as(field.type);
-    const bool hasFoldedIndex =
-        isText(field) && !column.caseInsensitive && m_scope.foldedFields.contains(field.name, Qt::CaseInsensitive);
+    const bool hasFoldedIndex = isText(field.type) && !column.caseInsensitive
+        && m_scope.foldedFields.contains(field.name, Qt::CaseInsensitive);
     const SqlColumn folded{column.sql, true};
-    if (partial && isText(field)) {
+    if (partial && isText(field.type)) {
         SqlCondition condition = beginsWith(dialect, column, fitting.toText());
         if (hasFoldedIndex)
             condition += beginsWith(dialect, folded, fitting.toText());

@@ -19,8 +19,6 @@ const FieldDef *autoIncrement(const TableLayout &layout)
     return nullptr;
 }
 
-bool isWholeNumber(FieldType type) { return type == FieldType::Integer || type == FieldType::AutoInc; }
-
 // The field that becomes SQLite's own row number: the auto-increment field wherever it stands, or else the only
 // field of a primary key.
 QString rowNumberField(const TableLayout &layout)
@@ -32,7 +30,7 @@ QString rowNumberField(const TableLayout &layout)
         return {};
     const QStringList names = primary->fieldNames();
     const FieldDef *field = names.size() == 1 ? layout.field(names.first()) : nullptr;
-    return field && isWholeNumber(field->type) ? field->name : QString();
+    return field && field->type == FieldType::Integer ? field->name : QString();
 }
 
 bool isPrimaryOver(const TableLayout &layout, const QString &field)
@@ -123,8 +121,7 @@ QString SqliteDialect::keyClause(const TableLayout &layout, const IndexDef &inde
     for (const QString &fieldName : index.fieldNames()) {
         const FieldDef *field = layout.field(fieldName);
         QString term = name(field ? field->name : fieldName);
-        const bool text = field && (field->type == FieldType::Text || field->type == FieldType::Memo);
-        if (text && index.options.testFlag(IndexOption::CaseInsensitive))
+        if (field && isText(field->type) && index.options.testFlag(IndexOption::CaseInsensitive))
             term += " COLLATE NOCASE"_L1;
         if (index.options.testFlag(IndexOption::Descending))
             term += " DESC"_L1;
@@ -145,9 +142,11 @@ QStringList SqliteDialect::createTable(const TableLayout &layout) const
     }
     QLatin1StringView tail(")");
     if (rowNumber.isEmpty() && layout.primary()) {
-        // The rows stand in the key's own tree: half the writing for the balance and detail tables.
         lines << "PRIMARY KEY "_L1 + keyClause(layout, *layout.primary());
-        tail = ") WITHOUT ROWID"_L1;
+        // The rows stand in the key's own tree: half the writing for the balance and detail tables. Others are told
+        // apart by their row number.
+        if (!layout.numberKey().isEmpty())
+            tail = ") WITHOUT ROWID"_L1;
     }
     return {u"CREATE TABLE %1 (\n    %2\n%3"_s.arg(name(layout.name), lines.join(",\n    "_L1), tail)};
 }

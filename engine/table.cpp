@@ -17,13 +17,6 @@ namespace Engine {
 
 namespace {
 
-bool isWholeNumber(FieldType type)
-{
-    return type == FieldType::Integer || type == FieldType::SmallInt || type == FieldType::AutoInc;
-}
-
-bool isText(FieldType type) { return type == FieldType::Text || type == FieldType::Memo; }
-
 std::vector<Field> dataFields(const TableLayout &layout)
 {
     std::vector<Field> fields;
@@ -182,8 +175,10 @@ void Table::setIndex(const QString &nameOrFields)
     if (m_open)
         beforeMove();
     const QString before = std::exchange(m_index, nameOrFields);
-    if (!m_open)
+    if (!m_open) {
+        m_restriction->ranged = false;
         return;
+    }
     try {
         order();
     } catch (...) {
@@ -195,23 +190,12 @@ void Table::setIndex(const QString &nameOrFields)
     emitListChanged();
 }
 
-QStringList Table::keyFields() const
-{
-    const QStringList names = m_layout.primaryFields();
-    const bool usable = !names.isEmpty() && names.size() <= 4
-        && std::all_of(names.begin(), names.end(), [this](const QString &name) {
-               const FieldDef *field = m_layout.field(name);
-               return field && isWholeNumber(field->type);
-           });
-    return usable ? names : QStringList();
-}
-
 SetScope Table::scope() const
 {
     const Dialect &dialect = m_database.connection().dialect();
     SetScope scope;
     scope.source = dialect.name(m_layout.name) + " t"_L1;
-    const QStringList keys = keyFields();
+    const QStringList keys = m_layout.numberKey();
     for (const QString &key : keys)
         scope.keyColumns << "t."_L1 + dialect.name(key);
     if (keys.isEmpty())
@@ -273,12 +257,6 @@ void Table::beforeMove()
 {
     checkBrowseMode();
     DataSet::beforeMove();
-}
-
-void Table::refresh()
-{
-    checkBrowseMode();
-    DataSet::refresh();
 }
 
 } // namespace Engine

@@ -14,7 +14,8 @@ enum class TableState { Inactive, Browse, Edit, Insert };
 // An edit locks the record at once, for this connection alone; others get RecordLocked after the session's
 // attempts. post() is one transaction and durable when it returns. A record that is read, found by key or inserted
 // costs no reading of the list.
-class Table : public DataSet {
+class Table : public DataSet
+{
     Q_OBJECT
 
 public:
@@ -90,7 +91,8 @@ public:
 
     // --- events: each may throw to stop what is about to happen
     // -----------------------------------------------------
-    struct Events {
+    struct Events
+    {
         std::function<void()> beforeOpen, afterOpen, beforeClose;
         std::function<void()> newRecord; // the new record exists and takes defaults
         std::function<void()> beforeInsert, beforeEdit, afterEdit;
@@ -100,8 +102,6 @@ public:
         std::function<void()> afterScroll; // another record became current
     };
     Events events;
-
-    void refresh() override; // an edit in progress is ended first
 
 protected:
     SetScope scope() const override;
@@ -114,8 +114,9 @@ private:
     struct Edit; // the record being edited
 
     const IndexDef *order() const; // of the index in force; nullptr for a table without primary key
-    QStringList keyFields() const; // the primary key when it is whole numbers, else empty
-    QList<qint64> keyOf(const Row &row) const;
+    QList<qint64> keyOf(const Row &row) const; // empty without a key of whole numbers
+    std::optional<QList<qint64>> storedKey(const Row &row) const;
+    bool findAgain(const Row &shown);
     QList<qint64> lockKey(const Row &row) const;
     SqlCondition linkCondition() const;
     SqlCondition rangeCondition() const;
@@ -136,7 +137,9 @@ private:
     void finishEdit();
     void showInserted(Row row);
     void showUpdated(Row row, bool placeMayDiffer);
+    void removeCurrent();
     void removeRow(const QList<qint64> &key);
+    void dropFromList(int index);
 
     std::unique_ptr<Restriction> m_restriction;
     std::unique_ptr<Edit> m_edit;

@@ -37,7 +37,7 @@ void Table::requireWritable() const
 Key Table::keyOf(const Row &row) const
 {
     Key key;
-    for (const QString &name : keyFields())
+    for (const QString &name : m_layout.numberKey())
         key << row[static_cast<size_t>(requireField(name))].toInt64();
     return key;
 }
@@ -50,6 +50,46 @@ Key Table::lockKey(const Row &row) const
     for (const QString &name : m_layout.primaryFields())
         texts << row[static_cast<size_t>(requireField(name))].toText();
     return {texts.isEmpty() ? 0 : stableNumber(texts.join(QChar(0)))};
+}
+
+// Where a row of these values stands in the set. A row without a key of whole numbers gets another identity
+// whenever it is written, but its primary key, if it has one, finds it again.
+std::optional<Key> Table::storedKey(const Row &row) const
+{
+    if (const Key key = keyOf(row); !key.isEmpty())
+        return key;
+    const QStringList names = m_layout.primaryFields();
+    if (names.isEmpty())
+        return std::nullopt;
+    QList<Value> values;
+    for (const QString &name : names)
+        values << row[static_cast<size_t>(requireField(name))];
+    const RowSource &source = DataSetReader(*this).source();
+    const auto found = source.first(source.match(names, values, LocateOption::None));
+    return found ? std::optional(found->key) : std::nullopt;
+}
+
+// Makes sure that the current record is still the row that was shown, before it is changed; false when that one is
+// gone.
+bool Table::findAgain(const Row &shown)
+{
+    if (!m_layout.numberKey().isEmpty())
+        return true;
+    if (m_layout.primaryFields().isEmpty()) {
+        // Nothing tells such rows apart but their place.
+        const DataSetReader reader(*this);
+        reader.index();
+        invalidate(Place::Keep);
+        reader.index();
+        return true;
+    }
+    const auto key = storedKey(shown);
+    if (key && *key != d->key) {
+        invalidate(Place::Keep);
+        d->hold(*key, std::nullopt);
+        emitListChanged();
+    }
+    return key.has_value();
 }
 
 void Table::edit()
@@ -74,14 +114,9 @@ void Table::readForEdit()
     const Row shown = reader.currentRow();
     auto edit = std::make_unique<Edit>();
     edit->lock.emplace(m_database.connection(), m_database.session(), m_name, lockKey(shown));
-    if (keyFields().isEmpty()) {
-        // The identity of such a row may be new since it was read.
-        reader.index();
-        invalidate(Place::Keep);
-        reader.index();
-    }
+    const bool found = findAgain(shown);
     edit->key = currentKey();
-    auto stored = edit->key.isEmpty() ? std::nullopt : reader.source().row(edit->key);
+    auto stored = found && !edit->key.isEmpty() ? reader.source().row(edit->key) : std::nullopt;
     if (!stored) {
         throw EngineError(
             ErrorCode::RecordGone,
@@ -266,11 +301,10 @@ void Table::post()
 
 void Table::showInserted(Row row)
 {
-    const Key key = keyOf(row);
     invalidate(Place::First);
-    if (!key.isEmpty()) {
-        d->hold(key, std::move(row));
-    } else if (const int count = recordCount(); count > 0) {
+    if (const auto key = storedKey(row)) {
+        d->hold(*key, std::move(row));
+    } else if (const int count = m_layout.primary() ? 0 : recordCount(); count > 0) {
         // Without a primary key the new row is the last in the natural order.
         d->hold(d->keys.at(count - 1), std::move(row));
     }
@@ -281,14 +315,10 @@ void Table::showInserted(Row row)
 void Table::showUpdated(Row row, bool placeMayDiffer)
 {
     Q_EMIT stateChanged();
-    if (placeMayDiffer || keyFields().isEmpty()) {
-        const Key key = keyOf(row);
+    if (placeMayDiffer || m_layout.numberKey().isEmpty()) {
         invalidate(Place::Keep);
-        if (!key.isEmpty()) {
-            const int formerIndex = d->formerIndex;
-            d->hold(key, std::move(row));
-            d->formerIndex = formerIndex;
-        }
+        if (const auto key = storedKey(row))
+            d->hold(*key, std::move(row));
         emitListChanged();
         return;
     }

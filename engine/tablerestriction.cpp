@@ -48,8 +48,7 @@ QList<SqlColumn> indexColumns(const TableLayout &layout, const IndexDef &index, 
     QList<SqlColumn> columns;
     for (const QString &name : index.fieldNames()) {
         const FieldDef *field = layout.field(name);
-        const bool folded = field && (field->type == FieldType::Text || field->type == FieldType::Memo)
-            && index.options.testFlag(IndexOption::CaseInsensitive);
+        const bool folded = field && isText(field->type) && index.options.testFlag(IndexOption::CaseInsensitive);
         columns << SqlColumn{"t."_L1 + dialect.name(field ? field->name : name), folded};
     }
     return columns;

@@ -186,26 +186,7 @@ void Table::remove()
     }
     if (events.beforeRemove)
         events.beforeRemove();
-    const bool first = d->index == 0 && !d->keysRead;
-    const int index = first ? 0 : recordIndex();
-    {
-        const RecordLock lock(m_database.connection(), m_database.session(), m_name,
-                              lockKey(DataSetReader(*this).currentRow()));
-        removeRow(d->key);
-    }
-    d->windows.clear();
-    if (first) {
-        d->holdNothing(Private::Current::Unread);
-    } else {
-        d->keys.removeAt(index);
-        const int next = std::min(index, d->keys.count() - 1);
-        if (next < 0) {
-            d->holdNothing(Private::Current::Empty);
-        } else {
-            d->hold(d->keys.at(next), std::nullopt);
-            d->index = next;
-        }
-    }
+    removeCurrent();
     emitListChanged();
     if (events.afterRemove)
         events.afterRemove();
@@ -213,6 +194,33 @@ void Table::remove()
 }
 
 // A row that another user has deleted meanwhile is as wanted.
+void Table::removeCurrent()
+{
+    const Row shown = DataSetReader(*this).currentRow();
+    const RecordLock lock(m_database.connection(), m_database.session(), m_name, lockKey(shown));
+    const bool found = findAgain(shown);
+    const Key key = d->key;
+    const bool first = d->index == 0 && !d->keysRead;
+    const int index = first ? 0 : recordIndex();
+    if (d->key != key)
+        return; // reading the list has put the next record in the place of one that is gone
+    if (found)
+        removeRow(key);
+    d->windows.clear();
+    first ? d->holdNothing(Private::Current::Unread) : dropFromList(index);
+}
+
+// The next record, or else the last, becomes current.
+void Table::dropFromList(int index)
+{
+    d->keys.removeAt(index);
+    const int next = std::min(index, d->keys.count() - 1);
+    if (next < 0)
+        return d->holdNothing(Private::Current::Empty);
+    d->hold(d->keys.at(next), std::nullopt);
+    d->index = next;
+}
+
 void Table::removeRow(const Key &key)
 {
     Connection &connection = m_database.connection();

@@ -112,10 +112,13 @@ Value asBoolean(const Value &value)
     refuse(value, QT_TRANSLATE_NOOP("Engine", "true or false"));
 }
 
+// The stores write a year in four digits.
+bool isStorable(QDate day) { return day.isValid() && day.year() >= 1 && day.year() <= 9999; }
+
 Value asDate(const Value &value)
 {
     const QDate day = value.toDate();
-    if (!day.isValid())
+    if (!isStorable(day))
         refuse(value, QT_TRANSLATE_NOOP("Engine", "a date (YYYY-MM-DD)"));
     return day;
 }
@@ -123,9 +126,21 @@ Value asDate(const Value &value)
 Value asDateTime(const Value &value)
 {
     const QDateTime moment = value.toDateTime();
-    if (!moment.isValid())
+    if (!moment.isValid() || !isStorable(moment.date()))
         refuse(value, QT_TRANSLATE_NOOP("Engine", "a date and time (YYYY-MM-DD HH:MM:SS)"));
     return moment;
+}
+
+Value asText(const Value &value)
+{
+    const QString text = value.toText();
+    if (text.contains(QChar(u'\0')) || !text.isValidUtf16()) {
+        throw EngineError(
+            ErrorCode::BadValue,
+            QCoreApplication::translate("Engine", "The text \"%1\" holds a character that cannot be stored.")
+                .arg(QString::fromUtf8(text.toUtf8()).remove(QChar(u'\0'))));
+    }
+    return text;
 }
 
 } // namespace
@@ -204,11 +219,10 @@ QString Value::toText() const
 
 Value Value::as(FieldType type) const
 {
-    const bool toText = type == FieldType::Text || type == FieldType::Memo;
     if (isNull())
         return {};
-    if (toText)
-        return this->toText();
+    if (isText(type))
+        return asText(*this);
     if (const auto *text = std::get_if<QString>(&m_storage); text && text->trimmed().isEmpty())
         return {};
     switch (type) {

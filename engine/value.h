@@ -12,6 +12,12 @@ namespace Engine {
 // What a field can hold. Money is a floating value in the stores; AutoInc is given by the store on insert.
 enum class FieldType { Integer, SmallInt, AutoInc, Float, Money, Boolean, Date, DateTime, Text, Memo };
 
+constexpr bool isWholeNumber(FieldType type)
+{
+    return type == FieldType::Integer || type == FieldType::SmallInt || type == FieldType::AutoInc;
+}
+constexpr bool isText(FieldType type) { return type == FieldType::Text || type == FieldType::Memo; }
+
 // One value of a field, which may be null. Reading a null as a number gives 0, as text "", as a Boolean false and
 // as a date an invalid date; no reader ever throws for a null.
 class Value
@@ -25,13 +31,34 @@ public:
     Value &operator=(const Value &) = default;
     Value &operator=(Value &&) = default;
     ~Value() = default;
-    Value(bool value) : m_storage(value) {}
-    Value(int value) : m_storage(static_cast<qint64>(value)) {}
-    Value(qint64 value) : m_storage(value) {}
-    Value(double value) : m_storage(value) {}
-    Value(Money value) : m_storage(value.toDouble()) {}
-    Value(QString value) : m_storage(std::move(value)) {}
-    Value(QLatin1StringView value) : m_storage(QString(value)) {}
+    Value(bool value)
+        : m_storage(value)
+    {
+    }
+    Value(int value)
+        : m_storage(static_cast<qint64>(value))
+    {
+    }
+    Value(qint64 value)
+        : m_storage(value)
+    {
+    }
+    Value(double value)
+        : m_storage(value)
+    {
+    }
+    Value(Money value)
+        : m_storage(value.toDouble())
+    {
+    }
+    Value(QString value)
+        : m_storage(std::move(value))
+    {
+    }
+    Value(QLatin1StringView value)
+        : m_storage(QString(value))
+    {
+    }
     Value(const char *) = delete;
     Value(QDate value)
     {
@@ -59,7 +86,8 @@ public:
     QString toText() const;
 
     // The value as the given type: numbers widen and narrow, text is parsed. What does not fit the type (text that
-    // is no number, 40000 for SmallInt, infinity) throws EngineError with code BadValue.
+    // is no number, 40000 for SmallInt, infinity, a year beyond 9999, a text with U+0000) throws EngineError with
+    // code BadValue.
     Value as(FieldType type) const;
 
     friend bool operator==(const Value &, const Value &) = default;

@@ -123,6 +123,10 @@ TEST_P(RecordTest, RefusesValuesThatDoNotFitAndNamesTheField)
         {u"VendorName"_s, QString(21, u'x'), u"Vendor name"_s},
         {u"Days"_s, 40000, u"Days"_s},
         {u"Since"_s, u"yesterday"_s, u"Since"_s},
+        {u"Since"_s, QDate(10000, 1, 1), u"Since"_s},
+        {u"Since"_s, QDate(-1, 1, 1), u"Since"_s},
+        {u"Notes"_s, QString(u"a"_s + QChar(u'\0')), u"Notes"_s},
+        {u"Notes"_s, QString(u"a"_s + QChar(0xD834)), u"Notes"_s}, // half a character
         {u"Balance"_s, u"1.2.3"_s, u"Balance"_s},
     };
     for (const Case &c : cases) {
@@ -146,6 +150,61 @@ TEST_P(RecordTest, RefusesValuesThatDoNotFitAndNamesTheField)
     table.set(u"Days", 90);
     EXPECT_THROW(table.set(u"Days", 91), std::runtime_error);
     EXPECT_EQ(table.integer(u"Days"), 90);
+}
+
+TEST_P(RecordTest, RemovingARecordThatIsGoneTakesNoOtherInstead)
+{
+    addVendors();
+    for (const bool listRead : {false, true}) {
+        const int vendor = listRead ? 4 : 3;
+        Table table(database(), u"Vendor"_s);
+        table.open();
+        ASSERT_TRUE(table.findKey({vendor}));
+        if (listRead) {
+            EXPECT_EQ(table.recordIndex(), 2);
+        }
+        store.execute(u"DELETE FROM Vendor WHERE VendorID = %1"_s.arg(vendor));
+        table.remove();
+        EXPECT_EQ(names(table, u"VendorID"_s), listRead ? u"1 2 5"_s : u"1 2 4 5"_s);
+    }
+}
+
+// Such rows have no identity that stays: it is their key that finds them again.
+TEST_P(RecordTest, RowsWithAKeyOfTextAreBrowsedAndChangedByTheirKey)
+{
+    database().createTable({u"Code"_s,
+                            {{u"Code"_s, FieldType::Text, 10}, {u"Name"_s, FieldType::Text, 20}},
+                            {{{}, u"Code"_s, IndexOption::Primary}}});
+    Table table(database(), u"Code"_s);
+    table.open();
+    for (const QString &code : {u"b"_s, u"d"_s, u"a"_s}) {
+        table.append();
+        table.set(u"Code", code);
+        table.post();
+        table.edit(); // what has just been added
+        table.set(u"Name", code.toUpper());
+        table.post();
+    }
+    EXPECT_EQ(names(table, u"Name"_s), u"A B D"_s);
+
+    ASSERT_TRUE(table.locate(u"Code"_s, {u"b"_s}));
+    EXPECT_EQ(table.recordIndex(), 1);
+    store.execute(u"UPDATE Code SET Name = 'theirs' WHERE Code = 'b'; INSERT INTO Code (Code) VALUES ('A')"_s);
+    table.edit();
+    EXPECT_EQ(table.text(u"Name"), u"theirs"_s) << "not the row that has come to stand in its place";
+    table.set(u"Code", u"z"_s);
+    table.post();
+    EXPECT_EQ(table.text(u"Code"), u"z"_s);
+    EXPECT_EQ(names(table, u"Name"_s), u"- A D theirs"_s);
+
+    ASSERT_TRUE(table.locate(u"Code"_s, {u"d"_s}));
+    store.execute(u"DELETE FROM Code WHERE Code = 'd'"_s);
+    EXPECT_EQ(errorOf([&] { table.edit(); }), ErrorCode::RecordGone);
+    table.remove();
+    EXPECT_EQ(names(table, u"Code"_s), u"A a z"_s);
+    table.first();
+    table.remove();
+    EXPECT_EQ(names(table, u"Code"_s), u"a z"_s);
 }
 
 TEST_P(RecordTest, AFailedPostKeepsTheRecordInEdit)

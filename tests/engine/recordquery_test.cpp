@@ -61,6 +61,7 @@ TEST_P(RecordTest, AQueryWithoutKeyIsReadAsItIsWhenOpened)
     query.first();
     EXPECT_EQ(query.integer(u"Number"), 1);
     EXPECT_EQ(query.number(u"Twice"), 200);
+    EXPECT_EQ(query.rowAt(0).size(), 4u) << "a place for the calculated field too";
     EXPECT_TRUE(
         query.locate(u"VendorName"_s, {u"bel"_s}, LocateOption::CaseInsensitive | LocateOption::PartialKey));
     EXPECT_EQ(query.recordIndex(), 4);

@@ -158,6 +158,11 @@ TEST_P(RecordTest, RangesIncludeBothBoundsOfTheOrder)
     lines.cancelRange();
     EXPECT_EQ(lines.recordCount(), 6);
     EXPECT_EQ(errorOf([&] { lines.setRange({1, 2, 3}, {1, 2, 3}); }), ErrorCode::WrongState);
+    lines.setRange({2, 1}, {2, 2});
+    lines.close();
+    lines.setIndex(u"DOCUMENTID"_s); // a new order ends the range, also of a closed table
+    lines.open();
+    EXPECT_EQ(lines.recordCount(), 6);
 
     Table vendors(database(), u"Vendor"_s);
     vendors.setIndex(u"VENDORNAME1"_s);
