@@ -67,9 +67,10 @@ std::unique_ptr<QProcess> CliRunner::start(const QStringList &words)
 {
     auto process = std::make_unique<QProcess>();
     process->setWorkingDirectory(m_work.path());
-    const QStringList place = m_store == Store::Local ? QStringList{u"--data"_s, m_folder.path()}
-                                                      : QStringList{u"--server"_s, u"127.0.0.1"_s};
-    process->start(QStringLiteral(TALLYMERE_PROGRAM), place + words);
+    const bool local = m_store == Store::Local;
+    QStringList arguments(local ? u"--data"_s : u"--server"_s);
+    arguments << (local ? m_folder.path() : u"127.0.0.1"_s) << words;
+    process->start(QStringLiteral(TALLYMERE_PROGRAM), arguments);
     return process;
 }
 
