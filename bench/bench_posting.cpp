@@ -8,6 +8,7 @@
 #include "transactions/receiptposting.h"
 
 #include <cstdio>
+#include <malloc.h>
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -32,7 +33,8 @@ public:
 QString result(Engine::Database &database)
 {
     const auto one = [&database](const QString &sql) { return Engine::singleValue(database, sql).toText(); };
-    return one(u"SELECT count(*) FROM IHist"_s) + u' ' + one(u"SELECT sum(Quantity * UnitCost) FROM IHist"_s) + u' '
+    return one(u"SELECT count(*) FROM IHist"_s) + u' '
+        + one(u"SELECT round(sum(Quantity * UnitCost) * 100) FROM IHist"_s) + u' '
         + one(u"SELECT sum(QtyOnHand * ItemID * WarehouseID) FROM IBalance"_s) + u' '
         + one(u"SELECT round(sum(WgtAvgCost * ItemID) * 100) FROM Item"_s) + u' '
         + one(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s);
@@ -40,30 +42,31 @@ QString result(Engine::Database &database)
 
 struct Run
 {
-    double time = 0;
+    Cost cost;
     double memory = 0; // MB above what the process had before
     QString result;
 };
 
-Run ours(const BenchData &data)
+Run postOurs(const BenchData &data)
 {
     const auto copy = data.copy();
     copy->database().connection();
     Quiet quiet;
     Run run;
+    malloc_trim(0); // what earlier runs have freed would hide what this one takes
     resetPeakMemory();
     const double before = currentMemory();
-    run.time = seconds([&] { Tallymere::ReceiptPosting(copy->database()).run(quiet, quiet); });
+    run.cost = costOf([&] { Tallymere::ReceiptPosting(copy->database()).run(quiet, quiet); });
     run.memory = peakMemory() - before;
     run.result = result(copy->database());
     return run;
 }
 
-Run raw(Store store, const BenchData &data)
+Run postRaw(Store store, const BenchData &data)
 {
     const auto copy = data.copy();
     Run run;
-    run.time = seconds(
+    run.cost = costOf(
         [&] { store == Store::Local ? postRawSqlite(copy->location()) : postRawPostgres(copy->location()); });
     run.result = result(copy->database());
     return run;
@@ -76,23 +79,30 @@ void compare(Store store, int history, int rounds)
     size.history = history;
     const BenchData data(store, size);
     const int lines = size.receipts * size.linesEach;
-    std::vector<double> ourTimes, rawTimes;
+    std::vector<Cost> ours, raws;
     double memory = 0;
     for (int round = 0; round < rounds; ++round) {
-        const Run theirs = raw(store, data);
-        const Run mine = ours(data);
-        ourTimes.push_back(mine.time);
-        rawTimes.push_back(theirs.time);
+        const Run theirs = postRaw(store, data);
+        const Run mine = postOurs(data);
+        ours.push_back(mine.cost);
+        raws.push_back(theirs.cost);
         memory = std::max(memory, mine.memory);
         if (mine.result != theirs.result)
             std::printf("  DIFFERENT RESULTS\n  ours %s\n  raw  %s\n", qPrintable(mine.result),
                         qPrintable(theirs.result));
     }
-    const double our = median(ourTimes);
-    const double their = median(rawTimes);
-    std::printf("%-6s history %9d: ours %6.2f s (%7.0f lines/s), raw %6.2f s (%7.0f lines/s), ours/raw %.2f, "
-                "memory +%.0f MB\n",
-                storeName(store), history, our, lines / our, their, lines / their, our / their, memory);
+    const auto middle = [](const std::vector<Cost> &costs, double Cost::*part) {
+        std::vector<double> values;
+        for (const Cost &cost : costs)
+            values.push_back(cost.*part);
+        return median(values);
+    };
+    const double our = middle(ours, &Cost::wall);
+    const double raw = middle(raws, &Cost::wall);
+    std::printf("%-6s history %9d: ours %6.2f s (%6.0f lines/s, processor %5.2f s), raw %6.2f s (%6.0f lines/s, "
+                "processor %5.2f s), ours/raw %.2f, memory +%.0f MB\n",
+                storeName(store), history, our, lines / our, middle(ours, &Cost::processor), raw, lines / raw,
+                middle(raws, &Cost::processor), our / raw, memory);
     std::fflush(stdout);
 }
 

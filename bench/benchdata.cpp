@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <stdexcept>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -152,6 +153,27 @@ void resetPeakMemory()
     QFile clear(u"/proc/self/clear_refs"_s);
     if (clear.open(QIODevice::WriteOnly))
         clear.write("5");
+}
+
+namespace {
+
+double processorSeconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    const auto inSeconds = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
+    };
+    return inSeconds(usage.ru_utime) + inSeconds(usage.ru_stime);
+}
+
+} // namespace
+
+Cost costOf(const std::function<void()> &work)
+{
+    const double before = processorSeconds();
+    const double wall = seconds(work);
+    return {wall, processorSeconds() - before};
 }
 
 double seconds(const std::function<void()> &work)

@@ -55,5 +55,11 @@ double peakMemory();
 double currentMemory();
 void resetPeakMemory();
 
+struct Cost
+{
+    double wall = 0; // seconds
+    double processor = 0; // seconds of this process, user and system: steadier on a busy machine
+};
+Cost costOf(const std::function<void()> &work);
 double seconds(const std::function<void()> &work);
 double median(std::vector<double> values);

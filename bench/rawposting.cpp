@@ -59,7 +59,7 @@ public:
     explicit SqliteRun(const QString &file)
     {
         check(sqlite3_open(file.toUtf8().constData(), &m_db));
-        run("PRAGMA cache_size = -262144; PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 16000");
+        run("PRAGMA cache_size = -262144; PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 64000");
         for (const Step *step :
              {&mark, &lines, &history, &sum, &cost, &setCost, &balance, &setBalance, &addBalance})
             m_statements.emplace_back(step->text, prepare(step->text));

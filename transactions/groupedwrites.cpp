@@ -10,8 +10,8 @@ namespace Tallymere {
 
 namespace {
 
-// A group must not last longer than a quarter of a second; the rest is for its last document and the commit.
-constexpr std::chrono::milliseconds GroupTime{200};
+// A group must not last longer than a quarter of a second; the rest is for its last document.
+constexpr std::chrono::milliseconds GroupTime{240};
 
 } // namespace
 
@@ -153,8 +153,9 @@ BulkWriting::BulkWriting(Engine::Connection &connection, bool fileStore)
     if (!fileStore)
         return;
     m_restore = setting(connection, u"cache_size"_s) + setting(connection, u"wal_autocheckpoint"_s);
-    // The history's indexes are written all over: what does not fit the cache is written several times.
-    connection.execute(u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 16000"_s);
+    // The history's indexes are written all over, and each group writes many of the same pages again: what does not
+    // fit the cache, or is copied back after every group, costs as much as the posting itself.
+    connection.execute(u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s);
 }
 
 BulkWriting::~BulkWriting()

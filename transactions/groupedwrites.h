@@ -17,8 +17,8 @@ public:
     virtual void send(Engine::Statement &statement) = 0;
 };
 
-// Commits the writes of a posting run in groups. A group ends on a document boundary and lasts about a fifth of a
-// second, so a crash leaves whole documents only.
+// Commits the writes of a posting run in groups. A group ends on a document boundary and lasts at most a quarter
+// of a second, so a crash leaves whole documents only.
 //
 // A failure keeps what was written before the failing statement, documents and the part of the last one, and then
 // raises it. A file store executes a statement at once and undoes no other with it. A server gets statements

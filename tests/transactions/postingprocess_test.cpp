@@ -46,8 +46,9 @@ QStringList stock(Kitchen &kitchen)
 void expectWholeDocuments(Kitchen &kitchen)
 {
     EXPECT_EQ(
-        kitchen.rows(u"SELECT I.ReceiptID FROM IReceipt I WHERE (SELECT count(*) FROM IHist H WHERE "
-                     "H.ReceiptID = I.ReceiptID) <> CASE WHEN I.Posted = true THEN %1 ELSE 0 END"_s.arg(LinesEach)),
+        kitchen.rows(u"SELECT I.ReceiptID FROM IReceipt I LEFT OUTER JOIN (SELECT ReceiptID, count(*) AS Lines "
+                     "FROM IHist GROUP BY ReceiptID) H ON I.ReceiptID = H.ReceiptID "
+                     "WHERE coalesce(Lines, 0) <> CASE WHEN I.Posted = true THEN %1 ELSE 0 END"_s.arg(LinesEach)),
         QStringList());
     EXPECT_EQ(kitchen.rows(u"SELECT ItemID, WarehouseID, sum(Quantity) FROM IHist GROUP BY 1, 2 ORDER BY 1, 2"_s),
               kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s));
