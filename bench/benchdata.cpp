@@ -79,7 +79,7 @@ void BenchData::fill(Engine::Database &database, const Size &size)
     };
     // Numbers that look random and repeat: multiples of a prime, taken modulo the range.
     const QString item = u"((i % 100003) * 7919) % %1 + 1"_s.arg(size.items);
-    const QString location = u"((i % 100003) * 6151) % %1 + 1"_s.arg(size.locations);
+    const QString location = u"(i / 11) % %1 + 1"_s.arg(size.locations);
     connection.begin();
     insert(u"Item (ItemID, ItemNo, ItemDescription, ItemTypeID, WgtAvgCost)"_s,
            u"i, 'I' || i, 'Item ' || (i * 7919 % 10007), i % 6 + 1, 0"_s, size.items);

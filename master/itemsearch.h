@@ -7,7 +7,8 @@
 namespace Tallymere {
 
 // The rules of the item search: items in the order of what is being typed, narrowed to one type if wanted.
-class ItemSearch {
+class ItemSearch
+{
 public:
     explicit ItemSearch(Engine::Database &database);
 
