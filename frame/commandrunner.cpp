@@ -33,14 +33,11 @@ void bringToFront(QWidget &screen)
     screen.activateWindow();
 }
 
+// Modal screens are dialogs.
 void showModal(QWidget &screen)
 {
-    if (auto *dialog = qobject_cast<QDialog *>(&screen)) {
+    if (auto *dialog = qobject_cast<QDialog *>(&screen))
         dialog->exec();
-        return;
-    }
-    screen.setWindowModality(Qt::ApplicationModal);
-    bringToFront(screen);
 }
 
 } // namespace

@@ -69,6 +69,11 @@ TFormTallymereSystem::~TFormTallymereSystem()
     // Screens hold tables of the data modules, so they go first, whatever they still have to save.
     qDeleteAll(screens());
     delete m_menuItem;
+    if (m_modalLoop)
+        m_modalLoop->quit();
+    // A host window that is taking this form with it is only a widget any more, and cannot be released.
+    if (!dynamic_cast<const IHostInterface *>(m_parent.data()))
+        m_host.abandon();
     if (FormTallymereSystem == this)
         FormTallymereSystem = nullptr;
 }

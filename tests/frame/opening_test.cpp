@@ -21,12 +21,21 @@ namespace {
 class HostStub final : public QWidget, public IHostInterface
 {
 public:
+    ~HostStub() override { m_ended = true; }
+
     int addRef() override { return ++references; }
-    int release() override { return --references; }
+    int release() override
+    {
+        EXPECT_FALSE(m_ended) << "it is destroyed already";
+        return --references;
+    }
     void getCurrentUser(QString &name) override { name = user; }
 
     QString user = u"maria"_s;
     int references = 0;
+
+private:
+    bool m_ended = false;
 };
 
 // A screen that may refuse to be closed.
@@ -140,6 +149,22 @@ TEST_F(OpeningTest, HostReferencesAreBalanced)
     }
     form.init(&host); // does not touch the one that is gone
     EXPECT_EQ(host.references, 1);
+}
+
+// A host that ends without unloading its module.
+TEST_F(OpeningTest, HostMayTakeTheFormWithIt)
+{
+    auto *gone = new HostStub;
+    auto *child = new TFormTallymereSystem(FrameServices{company.settings, company.prompts, screens}, gone);
+    child->init(gone);
+    QMenu *reference = &menu;
+    child->setMenu(reference);
+    QTimer::singleShot(0, child, [child, gone] {
+        EXPECT_TRUE(child->isVisible());
+        delete gone;
+    });
+    menu.actions().constFirst()->trigger(); // returns
+    EXPECT_TRUE(menu.actions().isEmpty());
 }
 
 TEST_F(OpeningTest, MissingDatabaseIsShownAndTheNextOpeningTriesAgain)
