@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -18,6 +19,7 @@ namespace Tallymere {
 
 namespace {
 constexpr int firstRows = 12; // that the screen shows when it opens
+constexpr int openerStep = 28; // by which it stands away from the window it was opened from
 constexpr auto filterCommand = "mnuFilter"_L1;
 } // namespace
 
@@ -190,8 +192,10 @@ void ListScreen::showEvent(QShowEvent *event)
     QMainWindow::showEvent(event);
     if (event->spontaneous())
         return;
-    if (!m_firstSize.isValid())
+    if (!m_firstSize.isValid()) {
         sizeForRows();
+        placeByOpener();
+    }
     m_guard.run([this] { showStep(); });
 }
 
@@ -200,8 +204,36 @@ void ListScreen::sizeForRows()
     const int width = std::max(m_grid->fullWidth(), m_topPanel->sizeHint().width());
     const int height =
         menuBar()->sizeHint().height() + m_topPanel->sizeHint().height() + m_grid->heightForRows(firstRows);
-    m_firstSize = QSize(width, height);
+    m_firstSize =
+        QSize(width, height).boundedTo(screen()->availableGeometry().marginsRemoved(frameOfOpener()).size());
     resize(m_firstSize);
+}
+
+// The frame is that of the opener as well: a window that has not been shown has none yet.
+QMargins ListScreen::frameOfOpener() const
+{
+    if (!parentWidget())
+        return {};
+    const QRect outer = parentWidget()->window()->frameGeometry();
+    const QRect inner = parentWidget()->window()->geometry();
+    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+            outer.bottom() - inner.bottom()};
+}
+
+// A little below and to the right of the window that it was opened from, so that both can be reached, and wholly on
+// the screen. Window managers would put it where it hides least, however far away that is.
+void ListScreen::placeByOpener()
+{
+    if (!parentWidget())
+        return;
+    const QRect available = screen()->availableGeometry();
+    const QSize whole = QRect(QPoint(), size()).marginsAdded(frameOfOpener()).size();
+    const int step = scaled(this, openerStep);
+    QRect place(parentWidget()->window()->frameGeometry().topLeft() + QPoint(step, step), whole);
+    place.moveRight(std::min(place.right(), available.right()));
+    place.moveBottom(std::min(place.bottom(), available.bottom()));
+    place.moveTo(std::max(place.left(), available.left()), std::max(place.top(), available.top()));
+    move(place.topLeft());
 }
 
 bool ListScreen::eventFilter(QObject *watched, QEvent *event)

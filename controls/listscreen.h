@@ -99,6 +99,8 @@ private:
     void runCommand(const std::function<void()> &run);
     void showFilterMark();
     void sizeForRows();
+    QMargins frameOfOpener() const;
+    void placeByOpener();
 
     ScreenContext &m_context;
     Guard m_guard;

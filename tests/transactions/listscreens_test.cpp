@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTableView>
 
 using namespace Qt::StringLiterals;
@@ -69,6 +70,23 @@ TEST_F(ListScreensTest, receiptsAreListedLatestFirstWithTheirNames)
     EXPECT_EQ(row(1).last(), u"Yes"_s);
     // What leads to nothing yet cannot be chosen.
     EXPECT_FALSE(list->command(u"mnuPrint"_s)->isEnabled());
+}
+
+TEST_F(ListScreensTest, listsOpenByTheMainWindowAndWhollyOnTheScreen)
+{
+    const QRect available = mainWindow->screen()->availableGeometry();
+    for (const QPoint &corner : {available.topLeft(), available.bottomRight()}) {
+        mainWindow->move(corner);
+        list = new TfrmInvReceipts(*context, mainWindow.get());
+        list->show();
+        EXPECT_TRUE(available.contains(list->frameGeometry()));
+        list->hide();
+        const QPoint moved = available.center();
+        list->move(moved);
+        list->show();
+        EXPECT_EQ(list->pos(), moved) << "it stays where the user has put it";
+        delete list;
+    }
 }
 
 TEST_F(ListScreensTest, receiptFilterShowsInCaptionAndMenuUntilItIsReset)
