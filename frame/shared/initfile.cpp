@@ -2,7 +2,7 @@
 
 #include <QFile>
 #include <QSaveFile>
-#include <QStringList>
+#include <QStringDecoder>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +31,38 @@ InitFile::Entry entryOf(QStringView line)
     return {line.left(equals).trimmed().toString(), value.toString()};
 }
 
+// Old programs write in a code page of eight bits; what is not UTF-8 is read as the commonest of them.
+QString textOf(const QByteArray &line)
+{
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    const QString text = utf8(line);
+    return (utf8.hasError() ? QString::fromLatin1(line) : text).trimmed();
+}
+
+// Where a section begins and where its value stands; -1 when there is none.
+struct Place
+{
+    qsizetype header = -1;
+    qsizetype entry = -1;
+};
+
+Place placeOf(const QList<QByteArray> &lines, QStringView section, QStringView name)
+{
+    Place place;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QString line = textOf(lines[i]);
+        if (place.header >= 0 && isHeader(line))
+            break;
+        if (place.header < 0 && isHeaderOf(line, section))
+            place.header = i;
+        if (place.header >= 0 && same(entryOf(line).name, name)) {
+            place.entry = i;
+            break;
+        }
+    }
+    return place;
+}
+
 } // namespace
 
 QString InitFile::value(QStringView section, QStringView name) const
@@ -47,9 +79,9 @@ QList<InitFile::Entry> InitFile::entries(QStringView section) const
 {
     QList<Entry> found;
     bool inside = false;
-    const QStringList all = lines();
-    for (const QString &text : all) {
-        const QStringView line = QStringView(text).trimmed();
+    const QList<QByteArray> all = lines();
+    for (const QByteArray &bytes : all) {
+        const QString line = textOf(bytes);
         if (isHeader(line))
             inside = isHeaderOf(line, section);
         else if (Entry entry = entryOf(line); inside && !entry.name.isEmpty())
@@ -60,41 +92,28 @@ QList<InitFile::Entry> InitFile::entries(QStringView section) const
 
 bool InitFile::setValue(const QString &section, const QString &name, const QString &value) const
 {
-    QStringList all = lines();
-    const QString text = name + u'=' + value;
-    qsizetype header = -1;
-    qsizetype at = -1;
-    for (qsizetype i = 0; i < all.size() && at < 0; ++i) {
-        const QStringView line = QStringView(all[i]).trimmed();
-        if (header >= 0 && isHeader(line))
-            break;
-        if (header < 0 && isHeaderOf(line, section))
-            header = i;
-        else if (header >= 0 && same(entryOf(line).name, name))
-            at = i;
-    }
-    if (at >= 0)
-        all[at] = text;
-    else if (header >= 0)
-        all.insert(header + 1, text);
+    QList<QByteArray> all = lines();
+    const QByteArray end = !all.isEmpty() && all.first().endsWith('\r') ? "\r" : "";
+    const QByteArray line = (name + u'=' + value).toUtf8() + end;
+    const Place place = placeOf(all, section, name);
+    if (place.entry >= 0)
+        all[place.entry] = line;
+    else if (place.header >= 0)
+        all.insert(place.header + 1, line);
     else
-        all << u"[%1]"_s.arg(section) << text;
+        all << u"[%1]"_s.arg(section).toUtf8() + end << line;
 
     QSaveFile file(m_path);
-    return file.open(QIODevice::WriteOnly) && file.write((all.join(u'\n') + u'\n').toUtf8()) >= 0 && file.commit();
+    return file.open(QIODevice::WriteOnly) && file.write(all.join('\n') + '\n') >= 0 && file.commit();
 }
 
-QStringList InitFile::lines() const
+QList<QByteArray> InitFile::lines() const
 {
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    QStringList all = QString::fromUtf8(file.readAll()).split(u'\n');
-    for (QString &line : all) {
-        if (line.endsWith(u'\r'))
-            line.chop(1);
-    }
-    while (!all.isEmpty() && all.last().isEmpty())
+    QList<QByteArray> all = file.readAll().split('\n');
+    if (all.last().isEmpty())
         all.removeLast();
     return all;
 }

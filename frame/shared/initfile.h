@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
-#include <QStringList>
 #include <QStringView>
 
 namespace Tallymere {
@@ -27,11 +27,11 @@ public:
     QString value(QStringView section, QStringView name) const;
     // The values of a section in the order of the file.
     QList<Entry> entries(QStringView section) const;
-    // Writes one value and keeps every other line of the file as it is. False when the file cannot be written.
+    // Writes one value and keeps every other line of the file to the byte. False when the file cannot be written.
     bool setValue(const QString &section, const QString &name, const QString &value) const;
 
 private:
-    QStringList lines() const;
+    QList<QByteArray> lines() const; // each with the carriage return that it may end with
 
     QString m_path;
 };

@@ -41,12 +41,16 @@ TEST_F(InitFileTest, ReadsValuesAsOtherProgramsWriteThem)
           "\r\n"
           "[Companies]\r\n"
           "Sample Data=\"C:\\Corvane\\Data = old\"\r\n"
-          "Sample Data=second\r\n");
+          "Sample Data=second\r\n"
+          "K\xFC"
+          "che=Gr\xFC"
+          "n\r\n");
     const InitFile file(path());
     EXPECT_EQ(file.value(u"general", u"DialerPort"), u"com2"_s);
     EXPECT_EQ(file.value(u"Companies", u"sample data"), u"C:\\Corvane\\Data = old"_s);
     EXPECT_EQ(file.value(u"Companies", u"DialerPort"), QString());
-    EXPECT_EQ(file.entries(u"Companies").size(), 2);
+    EXPECT_EQ(file.entries(u"Companies").size(), 3);
+    EXPECT_EQ(file.value(u"Companies", u"küche"), u"Grün"_s);
 }
 
 TEST_F(InitFileTest, WritingKeepsEveryOtherLine)
@@ -65,6 +69,11 @@ TEST_F(InitFileTest, WritingKeepsEveryOtherLine)
          "[companies]\nSample Data=x\nOther=y\n[General]\nSample Data=z\n"},
         {"value there", "; note\n[Companies]\nsample data=old\nOther=y\n",
          "; note\n[Companies]\nSample Data=x\nOther=y\n"},
+        {"line ends and letters of old Windows programs",
+         "; K\xFC"
+         "che\r\n\r\n[Companies]\r\nSample Data=old\r\n",
+         "; K\xFC"
+         "che\r\n\r\n[Companies]\r\nSample Data=x\r\n"},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
