@@ -167,34 +167,6 @@ const TableLayout &glAccnt()
     return layout;
 }
 
-const TableLayout &salesman()
-{
-    static const TableLayout layout{
-        u"Salesman"_s,
-        {
-            {u"SalesmanID"_s, Integer},
-            {u"LastName"_s, Text, 30},
-            {u"FirstName"_s, Text, 30},
-            {u"JobTitle"_s, Text, 40},
-            {u"BusinessPhone"_s, Text, 20},
-            {u"BusinessPhoneExt"_s, Text, 10},
-            {u"BusinessPhone2"_s, Text, 20},
-            {u"BusinessPhone2Ext"_s, Text, 10},
-            {u"HomePhone"_s, Text, 20},
-            {u"Fax"_s, Text, 20},
-            {u"Cellular"_s, Text, 20},
-            {u"Pager"_s, Text, 20},
-            {u"EMail"_s, Text, 40},
-            {u"Notes"_s, Memo},
-        },
-        {
-            {{}, u"SalesmanID"_s, Primary},
-            {u"FULLNAME"_s, u"LastName;FirstName"_s, CaseInsensitive},
-        },
-    };
-    return layout;
-}
-
 const TableLayout &company()
 {
     static const TableLayout layout{

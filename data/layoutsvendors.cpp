@@ -4,9 +4,34 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere::Layouts {
 
+using Engine::FieldDef;
 using Engine::TableLayout;
 using enum Engine::FieldType;
 using enum Engine::IndexOption;
+
+namespace {
+
+// What is kept of a vendor's contact and of a salesman.
+QList<FieldDef> personFields()
+{
+    return {
+        {u"LastName"_s, Text, 30},
+        {u"FirstName"_s, Text, 30},
+        {u"JobTitle"_s, Text, 40},
+        {u"BusinessPhone"_s, Text, 20},
+        {u"BusinessPhoneExt"_s, Text, 10},
+        {u"BusinessPhone2"_s, Text, 20},
+        {u"BusinessPhone2Ext"_s, Text, 10},
+        {u"HomePhone"_s, Text, 20},
+        {u"Fax"_s, Text, 20},
+        {u"Cellular"_s, Text, 20},
+        {u"Pager"_s, Text, 20},
+        {u"EMail"_s, Text, 40},
+        {u"Notes"_s, Memo},
+    };
+}
+
+} // namespace
 
 const TableLayout &vendor()
 {
@@ -51,27 +76,24 @@ const TableLayout &vContact()
 {
     static const TableLayout layout{
         u"VContact"_s,
-        {
-            {u"VendorID"_s, Integer},
-            {u"ContactID"_s, AutoInc},
-            {u"LastName"_s, Text, 30},
-            {u"FirstName"_s, Text, 30},
-            {u"JobTitle"_s, Text, 40},
-            {u"BusinessPhone"_s, Text, 20},
-            {u"BusinessPhoneExt"_s, Text, 10},
-            {u"BusinessPhone2"_s, Text, 20},
-            {u"BusinessPhone2Ext"_s, Text, 10},
-            {u"HomePhone"_s, Text, 20},
-            {u"Fax"_s, Text, 20},
-            {u"Cellular"_s, Text, 20},
-            {u"Pager"_s, Text, 20},
-            {u"EMail"_s, Text, 40},
-            {u"Notes"_s, Memo},
-        },
+        QList<FieldDef>{{u"VendorID"_s, Integer}, {u"ContactID"_s, AutoInc}} + personFields(),
         {
             {{}, u"VendorID;ContactID"_s, Primary},
             {u"FULLNAME"_s, u"LastName;FirstName"_s, CaseInsensitive},
             {u"VENDORIDFULLNAME"_s, u"VendorID;LastName;FirstName"_s, CaseInsensitive},
+        },
+    };
+    return layout;
+}
+
+const TableLayout &salesman()
+{
+    static const TableLayout layout{
+        u"Salesman"_s,
+        QList<FieldDef>{{u"SalesmanID"_s, Integer}} + personFields(),
+        {
+            {{}, u"SalesmanID"_s, Primary},
+            {u"FULLNAME"_s, u"LastName;FirstName"_s, CaseInsensitive},
         },
     };
     return layout;

@@ -1,5 +1,7 @@
 #include "data/lookupsdatainv.h"
 
+#include "engine/textsize.h"
+
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -36,10 +38,11 @@ QString place(const DataSet &row, const QString &prefix)
 // field it is shown in.
 QString addressLine(const DataSet &row, const QString &prefix)
 {
-    return joinFilled({row.text(QString(prefix + "AddressLine1"_L1)), row.text(QString(prefix + "AddressLine2"_L1)),
-                       place(row, prefix), row.text(QString(prefix + "Country"_L1))},
-                      u", "_s)
-        .left(addressSize);
+    const QString line =
+        joinFilled({row.text(QString(prefix + "AddressLine1"_L1)), row.text(QString(prefix + "AddressLine2"_L1)),
+                    place(row, prefix), row.text(QString(prefix + "Country"_L1))},
+                   u", "_s);
+    return Engine::firstCharacters(line, addressSize);
 }
 
 Value fullName(const DataSet &row)

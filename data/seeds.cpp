@@ -1,9 +1,10 @@
 #include "data/seeds.h"
 
+#include "engine/textsize.h"
+
 #include <QCoreApplication>
 #include <QHash>
 #include <QStringView>
-#include <string>
 
 using namespace Qt::StringLiterals;
 using Engine::Table;
@@ -19,16 +20,6 @@ struct Assignment
     Value value;
 };
 
-// The text's first characters, as many as the field holds; a character outside the basic plane is never split.
-QString fitted(const Table &table, const QString &field, const QString &text)
-{
-    const std::u32string characters = text.toStdU32String();
-    const int size = table.field(field).size;
-    if (size <= 0 || characters.size() <= static_cast<size_t>(size))
-        return text;
-    return QString::fromStdU32String(characters.substr(0, static_cast<size_t>(size)));
-}
-
 bool isEmpty(const Value &value) { return value.isNull() || value == Value(u""_s); }
 
 // An unset text of the host leaves a field that is empty as it is: null and "" are the same to everyone.
@@ -41,7 +32,7 @@ QList<Assignment> organizationOf(const Table &company, const Table &config)
 {
     const auto host = [&](const char16_t *field) { return config.text(QStringView(field)); };
     const auto text = [&](const QString &field, const QString &value) {
-        return Assignment{field, Value(fitted(company, field, value))};
+        return Assignment{field, Value(Engine::firstCharacters(value, company.field(field).size))};
     };
     return {
         {u"CompanyNo"_s, 1},

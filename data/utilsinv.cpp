@@ -85,12 +85,12 @@ int getUniqueID(Engine::Table &counter, const QString &field)
         qCDebug(trace) << "The ID record could not be locked!";
         throw RuleError(tr("Cannot get next unique number. (btGetUniqueNumber)"));
     }
-    qCDebug(trace) << "LastNumberTbl is in Edit Mode" << field << counter.integer(field);
-    const int number = counter.integer(field) + 1;
-    counter.set(field, number);
+    const qint64 last = counter.value(field).toInt64();
+    qCDebug(trace) << "LastNumberTbl is in Edit Mode" << field << last;
+    counter.set(field, last + 1);
     counter.post();
     counter.flush();
-    return number;
+    return counter.integer(field);
 }
 
 bool openTable(Engine::Table &table)

@@ -14,8 +14,7 @@
 
 namespace Tallymere {
 
-// --- tables and queries
-// -------------------------------------------------------------------------------------------
+// --- tables and queries -----------------------------------------------------------------------------------------
 
 // The next number of a one-row counter table whose field holds the last number handed out: locks the row, adds one,
 // saves. Tries 100 times with short random breaks in which pending events are processed, then throws RuleError.
@@ -38,8 +37,7 @@ void tables(const QString &action, const QList<Engine::Table *> &owned);
 // Edits find out about locks when they begin; there is nothing to ask beforehand.
 bool isRecordLocked(const Engine::Table &table);
 
-// --- texts
-// ----------------------------------------------------------------------------------------------------------
+// --- texts ------------------------------------------------------------------------------------------------------
 
 // The key in square brackets: "15" of "Bread [15~2]". Reads four characters after the first "[", or the first four
 // when there is none, and cuts at "~" and "]".
@@ -53,15 +51,13 @@ int getIntegerPortionOfStringAsInteger(const QString &number);
 // The default is not used: a text that is no number is an error.
 double strToFloatDef(const QString &text, double unused);
 
-// --- check lists
-// ------------------------------------------------------------------------------------------------------
+// --- check lists ------------------------------------------------------------------------------------------------
 
 // Bit i is set when entry i is checked; entries from 32 on share the bits of i modulo 32.
 quint32 checkListGetBitField(const QList<bool> &checks);
 void checkListSetChecks(QList<bool> &checks, quint32 bits);
 
-// --- program and screens
-// ----------------------------------------------------------------------------------------------
+// --- program and screens ----------------------------------------------------------------------------------------
 
 struct BuildInfo
 {

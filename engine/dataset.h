@@ -51,9 +51,8 @@ public:
     void addLookup(const QString &name, FieldType type, int size, Lookup lookup);
     void addCalculated(const QString &name, FieldType type, int size, std::function<Value(const DataSet &)> rule);
 
-    // --- the current record
-    // --------------------------------------------------------------------------------------- Of an empty set every
-    // value is null.
+    // --- the current record -------------------------------------------------------------------------------------
+    // Of an empty set every value is null.
     virtual Value value(int field) const;
     Value value(QStringView name) const { return value(requireField(name)); }
     QString text(QStringView name) const { return value(name).toText(); }
@@ -64,8 +63,7 @@ public:
     QDate date(QStringView name) const { return value(name).toDate(); }
     QString displayText(QStringView name) const;
 
-    // --- moving
-    // ---------------------------------------------------------------------------------------------------
+    // --- moving -------------------------------------------------------------------------------------------------
     bool isEmpty() const; // reads no more than the first row
     int recordCount() const; // reads the keys
     int recordIndex() const; // of the current record; -1 when the set is empty. May have to read the keys
@@ -87,10 +85,9 @@ public:
     // The first rows of the set before the keys are read, so that a list can paint at once.
     std::vector<Row> firstRows(int count) const;
 
-    // --- finding and restricting
-    // ------------------------------------------------------------------------------------ Moves to the first row
-    // in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values; PartialKey lets the last
-    // text begin with its value. Reads no more than that row's window and the keys; on failure the record stays.
+    // --- finding and restricting --------------------------------------------------------------------------------
+    // Moves to the first row in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values;
+    // PartialKey lets the last text begin with its value. Reads that row alone; on failure the record stays.
     bool locate(const QString &fields, const QList<Value> &values, LocateOptions options = LocateOption::None);
 
     // A condition over data fields, in force while filtered is set:

@@ -1,23 +1,11 @@
 #include "engine/field.h"
 
 #include "engine/error.h"
+#include "engine/textsize.h"
 
 #include <QCoreApplication>
 
 namespace Engine {
-
-namespace {
-
-// Characters as a reader counts them, not UTF-16 units.
-qsizetype characterCount(const QString &text)
-{
-    qsizetype count = 0;
-    for (const QChar unit : text)
-        count += unit.isLowSurrogate() ? 0 : 1;
-    return count;
-}
-
-} // namespace
 
 QString Field::displayText(const Value &value) const
 {

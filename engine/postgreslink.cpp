@@ -107,8 +107,7 @@ void PostgresLink::noteLoss()
     m_reader = nullptr;
 }
 
-// --- pipeline
-// -------------------------------------------------------------------------------------------------------
+// --- pipeline ---------------------------------------------------------------------------------------------------
 
 bool PostgresLink::isPipelining() const { return !isLost() && PQpipelineStatus(m_handle) != PQ_PIPELINE_OFF; }
 
@@ -188,8 +187,7 @@ void PostgresLink::abandonPipeline() noexcept
     }
 }
 
-// --- transaction
-// ----------------------------------------------------------------------------------------------------
+// --- transaction ------------------------------------------------------------------------------------------------
 
 void PostgresLink::begin()
 {

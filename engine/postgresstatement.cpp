@@ -87,8 +87,7 @@ PostgresStatement::~PostgresStatement()
         m_link->forgetStatement(m_name);
 }
 
-// --- binding
-// ----------------------------------------------------------------------------------------------------------
+// --- binding ----------------------------------------------------------------------------------------------------
 
 void PostgresStatement::bindRaw(int parameter, QByteArray text)
 {
@@ -123,8 +122,7 @@ void PostgresStatement::bindText(int parameter, const QString &value)
     bindRaw(parameter, value.toUtf8());
 }
 
-// --- executing
-// --------------------------------------------------------------------------------------------------------
+// --- executing --------------------------------------------------------------------------------------------------
 
 void PostgresStatement::prepare()
 {
@@ -266,8 +264,7 @@ void PostgresStatement::reset()
     m_link->setReader(nullptr);
 }
 
-// --- columns
-// ----------------------------------------------------------------------------------------------------------
+// --- columns ----------------------------------------------------------------------------------------------------
 
 const pg_result *PostgresStatement::shape() const
 {

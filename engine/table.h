@@ -25,9 +25,8 @@ public:
     const QString &name() const { return m_name; }
     const TableLayout &layout() const { return m_layout; } // as stored, known once open
 
-    // --- opening
-    // --------------------------------------------------------------------------------------------------- The
-    // order: an index by name or by its field list; empty is the primary order. May be changed while open; the
+    // --- opening ------------------------------------------------------------------------------------------------
+    // The order: an index by name or by its field list; empty is the primary order. May be changed while open; the
     // record stays current.
     void setIndex(const QString &nameOrFields);
     const QString &index() const { return m_index; }
@@ -36,17 +35,15 @@ public:
     void open() override;
     void close() override; // drops an edit in progress
 
-    // --- whole-table lock
-    // -------------------------------------------------------------------------------------------- Keeps others
-    // from writing, not from reading. Fails at once with TableLocked, naming the holder if known.
+    // --- whole-table lock ---------------------------------------------------------------------------------------
+    // Keeps others from writing, not from reading. Fails at once with TableLocked, naming the holder if known.
     void lockTable();
     void unlockTable();
 
-    // --- range and link
-    // ------------------------------------------------------------------------------------------------ Restricts
-    // the set to rows whose leading fields of the current order lie between the bounds, both included. Fewer values
-    // than fields compare only those given. In a descending order the bounds may be given either way round. A new
-    // order ends the range.
+    // --- range and link -----------------------------------------------------------------------------------------
+    // Restricts the set to rows whose leading fields of the current order lie between the bounds, both included.
+    // Fewer values than fields compare only those given. In a descending order the bounds may be given either way
+    // round. A new order ends the range.
     void setRange(const QList<Value> &from, const QList<Value> &to);
     void cancelRange();
     // Restricts the set to the rows whose field of each name equals the master's field of the same name (or
@@ -56,8 +53,7 @@ public:
     // Moves to the row whose leading index fields equal the values, by one key look-up.
     bool findKey(const QList<Value> &values);
 
-    // --- editing
-    // ----------------------------------------------------------------------------------------------------------
+    // --- editing ------------------------------------------------------------------------------------------------
     TableState state() const { return m_state; }
     bool isEditing() const { return m_state == TableState::Edit || m_state == TableState::Insert; }
     bool isModified() const { return m_modified; } // a field was set by set() since edit or insert
@@ -89,8 +85,7 @@ public:
     // Fields whose value no other row may hold, checked in post()'s own transaction. Null and "" are free.
     QStringList uniqueFields;
 
-    // --- events: each may throw to stop what is about to happen
-    // -----------------------------------------------------
+    // --- events: each may throw to stop what is about to happen -------------------------------------------------
     struct Events
     {
         std::function<void()> beforeOpen, afterOpen, beforeClose;

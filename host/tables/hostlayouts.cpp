@@ -134,8 +134,7 @@ TableLayout relationships()
     };
 }
 
-// --- meals and their places
-// ---------------------------------------------------------------------------------------
+// --- meals and their places -------------------------------------------------------------------------------------
 
 TableLayout locatns()
 {
@@ -208,8 +207,7 @@ TableLayout mealCrdt()
     };
 }
 
-// --- accounting
-// ----------------------------------------------------------------------------------------------------
+// --- accounting -------------------------------------------------------------------------------------------------
 
 // Documents of customers and vendors: a key, the partner, a number, a date, an amount, and what else is given.
 TableLayout document(const QString &name, const QString &key, const QString &partner, const QList<FieldDef> &others)

@@ -123,6 +123,8 @@ TEST_P(Tables, UniqueNumbersAreTheLastOneHandedOutPlusOne)
     store.execute(u"UPDATE VendCtl SET NextVendorNo = 41"_s);
     EXPECT_EQ(getUniqueID(counter, u"NextVendorNo"_s), 42);
     EXPECT_EQ(getUniqueID(counter, u"NextVendorNo"_s), 43);
+    store.execute(u"UPDATE VendCtl SET NextVendorNo = 2147483647"_s);
+    EXPECT_THROW(getUniqueID(counter, u"NextVendorNo"_s), EngineError) << "there is no number after the last";
     EXPECT_FALSE(counter.isOpen());
 }
 
