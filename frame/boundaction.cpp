@@ -17,15 +17,11 @@ QString unavailable(const QString &hint)
     return QCoreApplication::translate("Commands", "%1 (not available in this version)").arg(hint);
 }
 
-// QAction makes a tool tip of its text when it has none; that would only repeat the caption.
-QString hintOf(const QAbstractButton &button) { return button.toolTip(); }
-QString hintOf(const QAction &item) { return item.statusTip(); }
-
 template <typename Control> void bind(Control &control, QAction &action)
 {
     if (control.text().isEmpty())
         control.setText(action.text());
-    const QString hint = hintOf(control);
+    const QString hint = action.statusTip();
     auto follow = [&control, &action, hint] {
         const bool enabled = action.isEnabled();
         control.setEnabled(enabled);

@@ -21,7 +21,8 @@ enum class Opening {
 struct Command
 {
     QLatin1StringView action;
-    const char *caption; // for tr() in the context "Commands"
+    const char *caption; // for tr() in the context "Commands", as is the hint
+    const char *hint = nullptr;
     QLatin1StringView rightsKey = {};
     QLatin1StringView rightsName = {};
     QLatin1StringView screen = {}; // component name

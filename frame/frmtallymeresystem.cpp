@@ -227,6 +227,7 @@ void TFormTallymereSystem::createActions()
     for (const Command &command : commands()) {
         auto *action = new QAction(QCoreApplication::translate("Commands", command.caption), m_actionList);
         action->setObjectName(command.action);
+        action->setStatusTip(QCoreApplication::translate("Commands", command.hint));
         action->setEnabled(m_runner.canRun(command));
         connect(action, &QAction::triggered, this, [this, &command] {
             m_guard.run([&] {

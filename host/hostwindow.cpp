@@ -22,19 +22,24 @@ HostWindow::HostWindow(SettingsStore &settings, QString user, QString moduleFile
     m_ui->labelUser->setText(m_user);
 
     connect(m_ui->actionDataOptions, &QAction::triggered, this, &HostWindow::editDataOptions);
-    connect(m_ui->actionReloadModule, &QAction::triggered, this, &HostWindow::loadModule);
+    connect(m_ui->actionReloadModule, &QAction::triggered, this, &HostWindow::reload);
     connect(m_ui->actionUnloadModule, &QAction::triggered, this, &HostWindow::unloadModule);
     connect(m_ui->actionExit, &QAction::triggered, this, &QWidget::close);
     connect(m_ui->actionAbout, &QAction::triggered, this, [this] { AboutBox(this).exec(); });
     connect(m_ui->buttonUseSample, &QPushButton::clicked, this, &HostWindow::useSampleCompany);
 
-    loadModule();
-    showCompany();
+    reload();
 }
 
 HostWindow::~HostWindow() { m_loader.unload(); }
 
 void HostWindow::loadModule() { showModule(m_loader.load(m_moduleFile, this, m_ui->menuInventory)); }
+
+void HostWindow::reload()
+{
+    loadModule();
+    showCompany();
+}
 
 void HostWindow::unloadModule()
 {
@@ -81,8 +86,7 @@ void HostWindow::editDataOptions()
     if (!dialog || dialog->exec() != QDialog::Accepted)
         return;
     // A module that is open keeps the database it began with.
-    loadModule();
-    showCompany();
+    reload();
 }
 
 void HostWindow::useSampleCompany()

@@ -35,6 +35,7 @@ public:
     void openModule();
 
 private:
+    void reload();
     void showCompany();
     void showModule(const QString &problem);
     void editDataOptions();

@@ -123,6 +123,7 @@ TEST_F(MainFormTest, CommandsAreEnabledAsScreensExist)
     const auto *receive = form().findChild<QPushButton *>(u"ButtonReceiveGoods"_s);
     EXPECT_TRUE(receive->isEnabled());
     EXPECT_EQ(receive->toolTip(), u"Enter inventory receipts"_s);
+    EXPECT_EQ(form().findChild<QAction *>(u"mnuReceiveInventory"_s)->statusTip(), receive->statusTip());
     const auto *post = form().findChild<QPushButton *>(u"ButtonPostReceipts"_s);
     EXPECT_FALSE(post->isEnabled());
     EXPECT_TRUE(post->toolTip().contains(u"not available"_s)) << qPrintable(post->toolTip());
