@@ -57,13 +57,13 @@ Table::Table(Database &database, QString name)
 
 Table::~Table()
 {
-    setMaster(nullptr, {});
     events = {};
     try {
-        close();
+        close(); // first, so that an edit in progress is dropped and not posted as a moving master would have it
     } catch (const EngineError &) {
         // The connection is gone, and the locks with it.
     }
+    setMaster(nullptr, {});
 }
 
 // --- opening ---------------------------------------------------------------------------------------------------

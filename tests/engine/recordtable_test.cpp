@@ -211,6 +211,23 @@ TEST_P(RecordTest, DetailsFollowTheirMaster)
     EXPECT_TRUE(lines.isEmpty());
 }
 
+TEST_P(RecordTest, AnEditThatIsStillOpenGoesWithItsTable)
+{
+    addDocuments();
+    Table documents(database(), u"Document"_s);
+    documents.open();
+    {
+        Table lines(database(), u"Line"_s);
+        lines.setMaster(&documents, u"DocumentID"_s);
+        lines.open();
+        lines.edit();
+        lines.set(u"Quantity", 99);
+    }
+    Table lines(database(), u"Line"_s);
+    lines.open();
+    EXPECT_EQ(lines.number(u"Quantity"), 11) << "nobody asked for it to be saved";
+}
+
 TEST_P(RecordTest, LookupsAndCalculatedFieldsComeWithTheRow)
 {
     addVendors();
