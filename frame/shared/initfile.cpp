@@ -1,6 +1,7 @@
 #include "frame/shared/initfile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QStringDecoder>
 
@@ -92,6 +93,8 @@ QList<InitFile::Entry> InitFile::entries(QStringView section) const
 
 bool InitFile::setValue(const QString &section, const QString &name, const QString &value) const
 {
+    if (const QFileInfo there(m_path); there.exists() && !there.isReadable())
+        return false; // what cannot be read would be lost
     QList<QByteArray> all = lines();
     const QByteArray end = !all.isEmpty() && all.first().endsWith('\r') ? "\r" : "";
     const QByteArray line = (name + u'=' + value).toUtf8() + end;
