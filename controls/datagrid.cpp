@@ -3,7 +3,9 @@
 #include "controls/screenmetrics.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QToolTip>
 
 namespace Tallymere {
 
@@ -54,13 +56,26 @@ int DataGrid::heightForRows(int rows) const
         + 2 * frameWidth();
 }
 
+bool DataGrid::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTableView::viewportEvent(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString text = index.data().toString();
+    const int space = columnWidth(index.column()) - 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    const bool cut = fontMetrics().horizontalAdvance(text) > space;
+    QToolTip::showText(help->globalPos(), cut ? text.toHtmlEscaped() : QString(), this, visualRect(index));
+    return true;
+}
+
 void ListGrid::setDataSet(Engine::DataSet &set, const QList<GridColumn> &columns, const Guard &guard)
 {
     m_data = &set;
     m_guard = &guard;
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    showModel(new TableModel(set, columns, guard, this));
+    showModel(new TableModel(set, columns, guard, this, TableModel::Reading::FirstPageFirst));
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this, &ListGrid::giveCursor);
     // The model hears of a new list first; with its rows there, the cursor goes to the current one.
     connect(&set, &Engine::DataSet::currentChanged, this, &ListGrid::takeCursor);
@@ -73,6 +88,8 @@ void ListGrid::takeCursor()
     if (m_moving || !m_data->isOpen())
         return;
     const int row = m_data->recordIndex();
+    if (row >= tableModel()->rowCount())
+        tableModel()->readRest();
     if (row < 0 || row >= tableModel()->rowCount() || row == currentIndex().row())
         return;
     m_moving = true;
@@ -92,6 +109,13 @@ void ListGrid::giveCursor(const QModelIndex &current)
     m_moving = false;
 }
 
+void ListGrid::paintEvent(QPaintEvent *event)
+{
+    DataGrid::paintEvent(event);
+    if (tableModel()->isPartial())
+        QMetaObject::invokeMethod(tableModel(), &TableModel::readRest, Qt::QueuedConnection);
+}
+
 void ListGrid::showEvent(QShowEvent *event)
 {
     DataGrid::showEvent(event);
@@ -100,6 +124,7 @@ void ListGrid::showEvent(QShowEvent *event)
 
 void ListGrid::keyPressEvent(QKeyEvent *event)
 {
+    tableModel()->readRest();
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
     if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
         Q_EMIT chosen();

@@ -21,6 +21,7 @@ public:
 
 protected:
     void showModel(TableModel *model); // takes widths from the model's columns
+    bool viewportEvent(QEvent *event) override; // a text that is cut shows whole beside the mouse
 
 private:
     TableModel *m_model = nullptr;
@@ -43,6 +44,7 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

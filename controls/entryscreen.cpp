@@ -145,8 +145,10 @@ bool EntryScreen::event(QEvent *event)
 void EntryScreen::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    if (!event->spontaneous() && !m_firstSize.isValid())
-        m_firstSize = size();
+    if (event->spontaneous() || m_firstSize.isValid())
+        return;
+    fitToScreen(this);
+    m_firstSize = size();
 }
 
 bool EntryScreen::eventFilter(QObject *watched, QEvent *event)

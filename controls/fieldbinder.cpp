@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFocusEvent>
+#include <QLineEdit>
 #include <QVariant>
 #include <QWidget>
 
@@ -15,6 +16,13 @@ namespace {
 constexpr auto fieldProperty = "dataField";
 constexpr auto sourceProperty = "dataSource";
 constexpr auto keepsEntryProperty = "keepsEntry";
+
+// The next key replaces what stands there.
+void selectText(QWidget *widget)
+{
+    if (auto *edit = qobject_cast<QLineEdit *>(widget))
+        edit->selectAll();
+}
 
 } // namespace
 
@@ -98,6 +106,7 @@ bool FieldBinder::revert(QWidget *widget)
     if (!binding || !binding->hasEntry())
         return false;
     binding->show();
+    selectText(widget);
     return true;
 }
 
@@ -147,8 +156,10 @@ void FieldBinder::leave(FieldBinding &binding)
         [this, widget, failure] {
             widget->setFocus();
             m_guard.report(failure);
-            // A choice is refused as a whole; a typed text stays to be mended.
-            if (!widget->inherits("QLineEdit"))
+            // A choice is refused as a whole; a typed text stays to be mended or typed over.
+            if (widget->inherits("QLineEdit"))
+                selectText(widget);
+            else
                 revert(widget);
         },
         Qt::QueuedConnection);

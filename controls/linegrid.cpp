@@ -233,8 +233,10 @@ bool LineGrid::finishEntry()
     m_reporting = true;
     m_guard->report(failure);
     m_reporting = false;
-    if (m_editor)
+    if (m_editor) {
         m_editor->setFocus();
+        m_editor->selectAll();
+    }
     return false;
 }
 
@@ -269,8 +271,10 @@ void LineGrid::reopen(const QModelIndex &index, const QString &text, const std::
         return;
     setCurrentIndex(index);
     DataGrid::edit(index);
-    if (m_editor)
+    if (m_editor) {
         m_editor->setText(text);
+        m_editor->selectAll();
+    }
 }
 
 bool LineGrid::editorKey(QKeyEvent *event)

@@ -20,7 +20,7 @@ namespace Tallymere {
 namespace {
 constexpr int firstRows = 12; // that the screen shows when it opens
 constexpr int openerStep = 28; // by which it stands away from the window it was opened from
-constexpr auto filterCommand = "mnuFilter"_L1;
+constexpr auto filterName = "mnuFilter"_L1;
 } // namespace
 
 ListScreen::ListScreen(ScreenContext &context, QWidget *parent)
@@ -138,6 +138,42 @@ void ListScreen::runCommand(const std::function<void()> &run)
     showFilterMark();
 }
 
+ListMenu ListScreen::fileMenu(std::function<void()> print)
+{
+    return {tr("&File"),
+            {{.name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = std::move(print)},
+             {.name = u"mnuExit"_s, .caption = tr("E&xit"), .run = [this] { close(); }, .separatorBefore = true}}};
+}
+
+ListCommand ListScreen::findCommand(std::function<void()> run) const
+{
+    return {.name = u"mnuFind"_s,
+            .caption = tr("&Find..."),
+            .run = std::move(run),
+            .shortcut = QKeySequence(Qt::CTRL | Qt::Key_F)};
+}
+
+ListCommand ListScreen::filterCommand(std::function<void()> run) const
+{
+    return {.name = filterName, .caption = tr("&Filter..."), .run = std::move(run), .checkable = true};
+}
+
+ListCommand ListScreen::refreshCommand()
+{
+    return {.name = u"mnuRefresh"_s,
+            .caption = tr("&Refresh"),
+            .run = [this] { refreshList(); },
+            .shortcut = QKeySequence(Qt::Key_F5)};
+}
+
+ListMenu ListScreen::helpMenu(const QString &caption) const
+{
+    std::function<void()> help;
+    if (m_context.showHelp)
+        help = [this] { m_context.showHelp(objectName()); };
+    return {tr("&Help"), {{.name = u"mnuHelp"_s, .caption = caption, .run = std::move(help)}}};
+}
+
 QAction *ListScreen::command(const QString &name) const { return findChild<QAction *>(name); }
 
 // --- the list ---------------------------------------------------------------------------------------------------
@@ -168,7 +204,7 @@ void ListScreen::showFilterMark()
 {
     const bool filtered = m_data->isFiltered();
     setWindowTitle(filtered ? tr("%1 (Filtered)").arg(m_caption) : m_caption);
-    if (QAction *filter = command(filterCommand))
+    if (QAction *filter = command(filterName))
         filter->setChecked(filtered);
 }
 

@@ -45,8 +45,8 @@ struct ListDescription
     QString name; // component name of the screen
     QString caption;
     QList<GridColumn> columns;
-    QList<ListButton> buttons; // from left to right
-    QList<ListMenu> menus;
+    QList<ListButton> buttons = {}; // from left to right
+    QList<ListMenu> menus = {};
 };
 
 // A window that shows a data set as a list, with commands on its rows. Not modal; it is freed when it is closed.
@@ -83,6 +83,13 @@ protected:
 
     ScreenContext &context() const { return m_context; }
     ListGrid *grid() const { return m_grid; }
+
+    // The commands and menus that lists have alike, with their usual names, captions and keys.
+    ListMenu fileMenu(std::function<void()> print = {}); // print, exit
+    ListCommand findCommand(std::function<void()> run) const;
+    ListCommand filterCommand(std::function<void()> run) const;
+    ListCommand refreshCommand();
+    ListMenu helpMenu(const QString &caption) const; // leads to the screen's topic, where there is help
 
     virtual void showStep(); // each time the screen is shown: caption
     virtual void clearFilterDialog() { } // clears the fields of the filter dialog, if there is one

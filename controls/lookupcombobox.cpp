@@ -23,6 +23,7 @@ QTableView *makeListView(QWidget *parent)
     view->setSelectionBehavior(QAbstractItemView::SelectRows);
     view->setSelectionMode(QAbstractItemView::SingleSelection);
     view->setShowGrid(false);
+    view->setWordWrap(false);
     view->setTabKeyNavigation(false);
     view->horizontalHeader()->hide();
     view->horizontalHeader()->setStretchLastSection(true);

@@ -1,5 +1,6 @@
 #include "controls/screenmetrics.h"
 
+#include <QScreen>
 #include <QWidget>
 
 namespace Tallymere {
@@ -22,6 +23,8 @@ void scaleForm(QWidget *form)
             widget->setMaximumWidth(scaled(form, widget->maximumWidth()));
     }
 }
+
+void fitToScreen(QWidget *window) { window->resize(window->size().boundedTo(window->screen()->availableSize())); }
 
 QWidget *findScreen(const QString &name)
 {

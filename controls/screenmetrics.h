@@ -15,6 +15,9 @@ int scaled(const QWidget *widget, int pixels);
 // Scales the widths that a form gives its widgets in design pixels. Once for each form, before it is shown.
 void scaleForm(QWidget *form);
 
+// Makes a window that is larger than its screen as small as that; its own least size is kept.
+void fitToScreen(QWidget *window);
+
 // The open window with the component name, or nullptr.
 QWidget *findScreen(const QString &name);
 template <typename Screen> Screen *findScreen(const QString &name)

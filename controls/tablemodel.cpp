@@ -5,17 +5,23 @@ namespace Tallymere {
 using Engine::DataSet;
 using Engine::FieldType;
 
-TableModel::TableModel(DataSet &set, QList<GridColumn> columns, const Guard &guard, QObject *parent)
+namespace {
+constexpr int firstPage = 64; // rows: more than a window shows when it opens
+} // namespace
+
+TableModel::TableModel(DataSet &set, QList<GridColumn> columns, const Guard &guard, QObject *parent,
+                       Reading reading)
     : QAbstractTableModel(parent)
     , m_guard(guard)
     , m_data(set)
     , m_columns(std::move(columns))
+    , m_reading(reading)
 {
     connect(&m_data, &DataSet::opened, this, &TableModel::takeList);
     connect(&m_data, &DataSet::closed, this, &TableModel::takeList);
     connect(&m_data, &DataSet::listChanged, this, &TableModel::takeList);
     connect(&m_data, &DataSet::rowChanged, this, &TableModel::updateRow);
-    m_rows = m_data.isOpen() ? m_data.recordCount() : 0;
+    takeList();
 }
 
 int TableModel::columnOf(const QString &field) const
@@ -109,7 +115,10 @@ int TableModel::rowStartingWith(const QString &field, const QString &text) const
     return row;
 }
 
-Engine::Value TableModel::cellValue(int row, int field) const { return m_data.valueAt(row, field); }
+Engine::Value TableModel::cellValue(int row, int field) const
+{
+    return m_partial ? m_data.valueIn(m_firstPage.at(static_cast<size_t>(row)), field) : m_data.valueAt(row, field);
+}
 
 int TableModel::dataRows() const { return m_data.isOpen() ? m_data.recordCount() : 0; }
 
@@ -118,8 +127,34 @@ int TableModel::dataRows() const { return m_data.isOpen() ? m_data.recordCount()
 void TableModel::takeList()
 {
     m_failed = false;
+    m_partial = false;
+    m_firstPage.clear();
+    if (m_reading == Reading::FirstPageFirst && m_rows == 0 && m_data.isOpen()) {
+        readFirstPage();
+        return;
+    }
     int rows = 0;
     attempt([&] { rows = dataRows(); });
+    showRows(rows);
+}
+
+void TableModel::readFirstPage()
+{
+    attempt([&] { m_firstPage = m_data.firstRows(firstPage); });
+    m_partial = m_firstPage.size() == firstPage;
+    showRows(static_cast<int>(m_firstPage.size()));
+    if (!m_partial)
+        m_firstPage.clear();
+}
+
+void TableModel::readRest()
+{
+    if (m_partial)
+        takeList();
+}
+
+void TableModel::showRows(int rows)
+{
     if (rows > m_rows) {
         beginInsertRows({}, m_rows, rows - 1);
         m_rows = rows;
@@ -135,6 +170,7 @@ void TableModel::takeList()
 
 void TableModel::updateRow(int row)
 {
+    readRest();
     if (row >= 0 && row < m_rows)
         Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
 }

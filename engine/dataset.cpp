@@ -129,9 +129,10 @@ const Row &DataSet::rowAt(int index) const
     return DataSetReader(*this).rowAt(index);
 }
 
-Value DataSet::valueAt(int index, int fieldNumber) const
+Value DataSet::valueAt(int index, int fieldNumber) const { return valueIn(rowAt(index), fieldNumber); }
+
+Value DataSet::valueIn(const Row &row, int fieldNumber) const
 {
-    const Row &row = rowAt(index);
     const Field &wanted = field(fieldNumber);
     if (wanted.kind != FieldKind::Calculated)
         return row[static_cast<size_t>(fieldNumber)];

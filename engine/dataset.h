@@ -78,6 +78,7 @@ public:
     // The row at an index without moving, for lists. Reads the window around it if it is not in hand.
     const Row &rowAt(int index) const;
     Value valueAt(int index, int field) const; // as rowAt, with calculated fields as well
+    Value valueIn(const Row &row, int field) const; // of a row of the set that is in hand, calculated fields too
     // The key of a row, to find it again after a refresh. Empty for an empty set.
     QList<qint64> keyAt(int index) const;
     QList<qint64> currentKey() const;

@@ -46,17 +46,9 @@ TfrmInvReceipt::~TfrmInvReceipt() = default;
 
 ReceiptEntry &TfrmInvReceipt::receipt() const { return static_cast<ReceiptEntry &>(entry()); }
 
-void TfrmInvReceipt::btnVendorClick()
-{
-    if (context().allows(u"Vendors"_s, u"Vendors"_s))
-        context().openScreen(vendorsScreen);
-}
+void TfrmInvReceipt::btnVendorClick() { showList(vendorsScreen, u"Vendors"_s, u"VendorID"_s); }
 
-void TfrmInvReceipt::btnWarehouseClick()
-{
-    if (context().allows(u"Warehouses"_s, u"Warehouses"_s))
-        context().openScreen(locationsScreen);
-}
+void TfrmInvReceipt::btnWarehouseClick() { showList(locationsScreen, u"Warehouses"_s, u"WarehouseID"_s); }
 
 void TfrmInvReceipt::showHeader()
 {

@@ -27,9 +27,6 @@ TfrmInvReceipts::~TfrmInvReceipts() = default;
 ListDescription TfrmInvReceipts::description()
 {
     const auto runs = [this](void (TfrmInvReceipts::*step)()) { return [this, step] { (this->*step)(); }; };
-    std::function<void()> help;
-    if (context().showHelp)
-        help = [this] { context().showHelp(objectName()); };
     return {
         .name = u"frmInvReceipts"_s,
         .caption = tr("Inventory Receipts"),
@@ -45,12 +42,7 @@ ListDescription TfrmInvReceipts::description()
                     {u"btnDelete"_s, tr("&Delete"), u"mnuDelete"_s},
                     {u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s},
                     {u"btnFind"_s, tr("F&ind"), u"mnuFind"_s}},
-        .menus = {{tr("&File"),
-                   {{.name = u"mnuPrint"_s, .caption = tr("&Print...")},
-                    {.name = u"mnuExit"_s,
-                     .caption = tr("E&xit"),
-                     .run = [this] { close(); },
-                     .separatorBefore = true}}},
+        .menus = {fileMenu(),
                   {tr("&Records"),
                    {{.name = u"mnuNew"_s,
                      .caption = tr("&New"),
@@ -64,25 +56,13 @@ ListDescription TfrmInvReceipts::description()
                      .caption = tr("&Delete"),
                      .run = runs(&TfrmInvReceipts::btnDeleteClick),
                      .popupCaption = tr("Delete")},
-                    {.name = u"mnuFind"_s,
-                     .caption = tr("&Find..."),
-                     .run = runs(&TfrmInvReceipts::btnFindClick),
-                     .shortcut = QKeySequence(Qt::CTRL | Qt::Key_F),
-                     .separatorBefore = true},
+                    findCommand(runs(&TfrmInvReceipts::btnFindClick)),
                     {.name = u"mnuPost"_s,
                      .caption = tr("&Post..."),
                      .run = runs(&TfrmInvReceipts::mnuPostClick),
                      .separatorBefore = true}}},
-                  {tr("&View"),
-                   {{.name = u"mnuFilter"_s,
-                     .caption = tr("&Filter..."),
-                     .run = runs(&TfrmInvReceipts::btnFilterClick),
-                     .checkable = true},
-                    {.name = u"mnuRefresh"_s,
-                     .caption = tr("&Refresh"),
-                     .run = [this] { refreshList(); },
-                     .shortcut = QKeySequence(Qt::Key_F5)}}},
-                  {tr("&Help"), {{.name = u"mnuHelp"_s, .caption = tr("Inventory Receipts &Help"), .run = help}}}},
+                  {tr("&View"), {filterCommand(runs(&TfrmInvReceipts::btnFilterClick)), refreshCommand()}},
+                  helpMenu(tr("Inventory Receipts &Help"))},
     };
 }
 

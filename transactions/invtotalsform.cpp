@@ -25,9 +25,6 @@ ListDescription TfrmInvTotals::description()
 {
     const auto runs = [this](void (TfrmInvTotals::*step)()) { return [this, step] { (this->*step)(); }; };
     const auto sorts = [this](TotalsView::Sort sort) { return [this, sort] { sortBy(sort); }; };
-    std::function<void()> help;
-    if (context().showHelp)
-        help = [this] { context().showHelp(objectName()); };
     return {
         .name = u"frmInvTotals"_s,
         .caption = tr("Inventory Totals"),
@@ -36,22 +33,10 @@ ListDescription TfrmInvTotals::description()
                     {u"WarehouseName"_s, tr("Location"), 190},
                     {u"QtyOnHand"_s, tr("Quantity On Hand"), 130, Qt::AlignRight}},
         .buttons = {{u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s}, {u"btnFind"_s, tr("F&ind"), u"mnuFind"_s}},
-        .menus = {{tr("&File"),
-                   {{.name = u"mnuPrint"_s, .caption = tr("&Print...")},
-                    {.name = u"mnuExit"_s,
-                     .caption = tr("E&xit"),
-                     .run = [this] { close(); },
-                     .separatorBefore = true}}},
-                  {tr("&Records"),
-                   {{.name = u"mnuFind"_s,
-                     .caption = tr("&Find..."),
-                     .run = runs(&TfrmInvTotals::btnFindClick),
-                     .shortcut = QKeySequence(Qt::CTRL | Qt::Key_F)}}},
+        .menus = {fileMenu(),
+                  {tr("&Records"), {findCommand(runs(&TfrmInvTotals::btnFindClick))}},
                   {tr("&View"),
-                   {{.name = u"mnuFilter"_s,
-                     .caption = tr("&Filter..."),
-                     .run = runs(&TfrmInvTotals::btnFilterClick),
-                     .checkable = true},
+                   {filterCommand(runs(&TfrmInvTotals::btnFilterClick)),
                     {.name = u"mnuSortBy"_s,
                      .caption = tr("&Sort by"),
                      .choices = {{.name = u"mnuSortItemNo"_s,
@@ -61,11 +46,8 @@ ListDescription TfrmInvTotals::description()
                                   .caption = tr("&Description"),
                                   .run = sorts(TotalsView::Sort::Description)}}},
                     {.name = u"mnuHistory"_s, .caption = tr("&History")},
-                    {.name = u"mnuRefresh"_s,
-                     .caption = tr("&Refresh"),
-                     .run = [this] { refreshList(); },
-                     .shortcut = QKeySequence(Qt::Key_F5)}}},
-                  {tr("&Help"), {{.name = u"mnuHelp"_s, .caption = tr("Inventory Totals &Help"), .run = help}}}},
+                    refreshCommand()}},
+                  helpMenu(tr("Inventory Totals &Help"))},
     };
 }
 

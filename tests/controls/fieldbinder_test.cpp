@@ -122,7 +122,10 @@ TEST_F(FieldBinderTest, refusedEntryIsShownAndKeepsTheCursor)
         ASSERT_EQ(prompts.said.size(), 1) << refusal.widget;
         EXPECT_TRUE(prompts.take().first().startsWith(QLatin1StringView(refusal.message)));
         EXPECT_THROW(binder.commit(), RuleError);
-        EXPECT_TRUE(binder.revert(QApplication::focusWidget()));
+        auto *edit = child<QLineEdit>(form, refusal.widget);
+        EXPECT_EQ(edit->selectedText(), edit->text()) << "the next key types over it";
+        EXPECT_TRUE(binder.revert(edit));
+        EXPECT_EQ(edit->selectedText(), edit->text());
         EXPECT_FALSE(binder.hasEntry());
     }
     EXPECT_EQ(table->text(u"Name"), u"Soup"_s);
