@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace Tallymere {
@@ -65,7 +66,8 @@ bool DataGrid::viewportEvent(QEvent *event)
     const QString text = index.data().toString();
     const int space = columnWidth(index.column()) - 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
     const bool cut = fontMetrics().horizontalAdvance(text) > space;
-    QToolTip::showText(help->globalPos(), cut ? text.toHtmlEscaped() : QString(), this, visualRect(index));
+    QToolTip::showText(help->globalPos(), cut ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNoWrap) : QString(),
+                       this, visualRect(index));
     return true;
 }
 

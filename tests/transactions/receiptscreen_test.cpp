@@ -1,5 +1,4 @@
 #include "controls/linegrid.h"
-#include "controls/listscreen.h"
 #include "controls/lookupcombobox.h"
 #include "controls/screenmetrics.h"
 #include "master/itemsearchinvform.h"
@@ -13,7 +12,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -376,49 +374,4 @@ TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
     pressOK();
     settle();
     EXPECT_EQ(lines(7), QStringList(u"1|2|5|3"_s));
-}
-
-namespace {
-
-class LocationList final : public ListScreen
-{
-public:
-    LocationList(ScreenContext &screens, QWidget *parent)
-        : ListScreen(screens, parent)
-        , m_table(screens.data.databaseTallymere(), u"Warehse"_s)
-    {
-        m_table.open();
-        build({.name = u"frmWarehousesInv"_s,
-               .caption = u"Locations"_s,
-               .columns = {{u"WarehouseName"_s, u"Location"_s}}},
-              m_table, {});
-    }
-
-private:
-    Engine::Table m_table;
-};
-
-} // namespace
-
-TEST_F(ReceiptScreenTest, locationButtonOpensTheListOnTheReceiptsLocation)
-{
-    auto *list = new LocationList(*context, mainWindow.get());
-    bool allowed = false;
-    context->hasScreen = [](const QString &name) { return name == "frmWarehousesInv"_L1; };
-    context->openScreen = [list](const QString &) { return list; };
-    context->securityCheck = [&](const QString &key, const QString &) { return allowed && key == "Warehouses"_L1; };
-    kitchen.addReceipt(1, 1, 2, {{1, 5, 3.0}});
-    open(1);
-    list->applyFilter(u"(WarehouseID = 1)"_s);
-    const auto click = [this] { child<QToolButton>(*screen, "btnWarehouse")->click(); };
-    click();
-    EXPECT_TRUE(list->dataSet().isFiltered()) << "the rights do not allow it";
-    allowed = true;
-    click();
-    EXPECT_FALSE(list->dataSet().isFiltered());
-    EXPECT_EQ(list->dataSet().integer(u"WarehouseID"), 2);
-    screen->newDocument();
-    click();
-    EXPECT_EQ(list->dataSet().integer(u"WarehouseID"), 1) << "no location yet: the first";
-    EXPECT_FALSE(child<QToolButton>(*screen, "btnVendor")->isEnabled()) << "a list that is not there";
 }
