@@ -2,6 +2,7 @@
 
 #include "cli/importanswers.h"
 #include "cli/importfile.h"
+#include "data/numbercounter.h"
 #include "engine/driver.h"
 #include "engine/error.h"
 #include "engine/session.h"
@@ -51,11 +52,27 @@ private:
     std::vector<std::unique_ptr<Engine::Table>> m_tables;
 };
 
+// False when the store has refused the document, after which nothing else can be tried: a server has given up the
+// transaction. It happens when a counter is behind its table.
+bool addOne(ImportDocument &document, ImportTarget &target, ImportErrors &errors)
+{
+    try {
+        target.add(document, errors);
+        return true;
+    } catch (const Engine::EngineError &error) {
+        if (error.code() != Engine::ErrorCode::KeyViolation && error.code() != Engine::ErrorCode::BadValue)
+            throw;
+        errors.add(document.front().line, error.text());
+        return false;
+    }
+}
+
 void addAll(std::vector<ImportDocument> &documents, ImportTarget &target, ImportErrors &errors, Progress &progress)
 {
     progress.start(static_cast<int>(documents.size()));
     for (ImportDocument &document : documents) {
-        target.add(document, errors);
+        if (!addOne(document, target, errors))
+            break;
         progress.step();
     }
     progress.finish();
@@ -74,11 +91,14 @@ ImportResult importFile(Engine::Database &database, QIODevice &file, const Impor
 
     const TableLocks locks(database, kind.lockedTables);
     ImportAnswers answers(answerYes);
-    const std::unique_ptr<ImportTarget> target = kind.makeTarget(database, answers);
+    HeldCounters counters(database);
+    const std::unique_ptr<ImportTarget> target = kind.makeTarget({database, answers, counters});
     Engine::Transaction transaction(database.connection());
     addAll(documents, *target, result.errors, progress);
-    if (result.errors.isEmpty())
-        transaction.commit();
+    if (!result.errors.isEmpty())
+        return result;
+    counters.save();
+    transaction.commit();
     return result;
 }
 

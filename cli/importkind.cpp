@@ -64,15 +64,15 @@ void require(ImportKind &kind, const QStringList &targets)
 
 template <typename Record> void writeBy(ImportKind &kind)
 {
-    kind.makeTarget = [](Engine::Database &database, ImportAnswers &) {
-        return std::make_unique<MasterImport>(std::make_unique<Record>(database));
+    kind.makeTarget = [](const ImportRun &run) {
+        return std::make_unique<MasterImport>(run, std::make_unique<Record>(run.database));
     };
 }
 
 void writeBy(ImportKind &kind, const MasterKind &master)
 {
-    kind.makeTarget = [master](Engine::Database &database, ImportAnswers &) {
-        return std::make_unique<MasterImport>(std::make_unique<MasterRecord>(database, master));
+    kind.makeTarget = [master](const ImportRun &run) {
+        return std::make_unique<MasterImport>(run, std::make_unique<MasterRecord>(run.database, master));
     };
 }
 
@@ -190,9 +190,7 @@ ImportKind receiptsKind()
     require(kind, {u"VendorID"_s, u"WarehouseID"_s, u"ItemID"_s, u"QtyReceived"_s, u"UnitCost"_s});
     column(kind, u"GLYear").format = ImportColumn::Format::Year;
     column(kind, u"GLPeriod").format = ImportColumn::Format::Period;
-    kind.makeTarget = [](Engine::Database &database, ImportAnswers &answers) {
-        return std::make_unique<ReceiptImport>(database, answers);
-    };
+    kind.makeTarget = [](const ImportRun &run) { return std::make_unique<ReceiptImport>(run); };
     return kind;
 }
 

@@ -12,8 +12,17 @@
 
 namespace Tallymere {
 
+class HeldCounters;
 class ImportAnswers;
 class ImportTarget;
+
+// What an import works with from its first row to its last.
+struct ImportRun
+{
+    Engine::Database &database;
+    ImportAnswers &answers;
+    HeldCounters &counters;
+};
 
 // Where a number or name is looked up that stands for a key: "TypeName" for ItemTypeID.
 struct NameLookup
@@ -48,7 +57,7 @@ struct ImportKind
     QList<ImportColumn> columns;
     QStringList refusedColumns; // fields that exist and that only the system sets
     QStringList lockedTables; // nobody else writes to them meanwhile; in the order they are locked
-    std::function<std::unique_ptr<ImportTarget>(Engine::Database &, ImportAnswers &)> makeTarget;
+    std::function<std::unique_ptr<ImportTarget>(const ImportRun &)> makeTarget;
 
     bool hasLines() const;
 };

@@ -8,10 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-MasterImport::MasterImport(std::unique_ptr<MasterRecord> record)
+MasterImport::MasterImport(const ImportRun &run, std::unique_ptr<MasterRecord> record)
     : m_record(std::move(record))
-    , m_names(m_record->table().database())
+    , m_names(run.database)
 {
+    m_record->numbers = heldNumbers(run.counters);
     m_record->open();
 }
 

@@ -10,7 +10,7 @@ namespace Tallymere {
 class MasterImport final : public ImportTarget
 {
 public:
-    explicit MasterImport(std::unique_ptr<MasterRecord> record);
+    MasterImport(const ImportRun &run, std::unique_ptr<MasterRecord> record);
 
     void add(ImportDocument &document, ImportErrors &errors) override;
 

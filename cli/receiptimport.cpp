@@ -8,11 +8,12 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-ReceiptImport::ReceiptImport(Engine::Database &database, ImportAnswers &answers)
-    : m_answers(answers)
-    , m_entry(database, answers)
-    , m_names(database)
+ReceiptImport::ReceiptImport(const ImportRun &run)
+    : m_answers(run.answers)
+    , m_entry(run.database, run.answers)
+    , m_names(run.database)
 {
+    m_entry.numbers = heldNumbers(run.counters);
     m_entry.open();
 }
 

@@ -11,7 +11,7 @@ namespace Tallymere {
 class ReceiptImport final : public ImportTarget
 {
 public:
-    ReceiptImport(Engine::Database &database, ImportAnswers &answers);
+    explicit ReceiptImport(const ImportRun &run);
 
     void add(ImportDocument &document, ImportErrors &errors) override;
 

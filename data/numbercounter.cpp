@@ -67,8 +67,7 @@ void CounterRow::restartWhenZero(QStringView field, qint64 restart)
         set(field, restart);
 }
 
-void takeNumbers(Engine::Database &database, const QString &table, const std::function<void(CounterRow &)> &rule,
-                 CounterRetry retry)
+void takeNumbers(Engine::Database &database, const QString &table, const CounterRule &rule, CounterRetry retry)
 {
     Table counters(database, table);
     openExclusively(counters, retry);
@@ -82,6 +81,41 @@ void takeNumbers(Engine::Database &database, const QString &table, const std::fu
         throw;
     }
     save(counters);
+}
+
+NumberSource numbersAtOnce(Engine::Database &database)
+{
+    return [&database](const QString &table, const CounterRule &rule) { takeNumbers(database, table, rule); };
+}
+
+void HeldCounters::take(const QString &table, const CounterRule &rule)
+{
+    CounterRow row(opened(table));
+    rule(row);
+}
+
+Engine::Table &HeldCounters::opened(const QString &table)
+{
+    for (const auto &held : m_tables) {
+        if (held->name() == table)
+            return *held;
+    }
+    auto counters = std::make_unique<Table>(m_database, table);
+    openExclusively(*counters, {});
+    counters->edit();
+    return *m_tables.emplace_back(std::move(counters));
+}
+
+void HeldCounters::save()
+{
+    for (const auto &held : m_tables)
+        Tallymere::save(*held);
+    m_tables.clear();
+}
+
+NumberSource heldNumbers(HeldCounters &counters)
+{
+    return [&counters](const QString &table, const CounterRule &rule) { counters.take(table, rule); };
 }
 
 } // namespace Tallymere

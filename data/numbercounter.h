@@ -5,7 +5,9 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <QString>
+#include <vector>
 
 namespace Tallymere {
 
@@ -31,6 +33,8 @@ private:
     Engine::Table &m_table;
 };
 
+using CounterRule = std::function<void(CounterRow &)>;
+
 // How often, and with what pause, a control table is tried that another user holds.
 struct CounterRetry
 {
@@ -50,7 +54,35 @@ struct CounterRetry
 //
 // Throws EngineError with TableInUse when all attempts found the table held by another user, and any other
 // EngineError at once.
-void takeNumbers(Engine::Database &database, const QString &table, const std::function<void(CounterRow &)> &rule,
+void takeNumbers(Engine::Database &database, const QString &table, const CounterRule &rule,
                  CounterRetry retry = {});
+
+// Where the entry of records gets its numbers: a control table and the rule that takes from it.
+using NumberSource = std::function<void(const QString &table, const CounterRule &rule)>;
+NumberSource numbersAtOnce(Engine::Database &database); // takeNumbers() for each record
+
+// Control tables kept in hand while many records are made in one transaction: each is opened once, by the first
+// take(), and written once, by save(). Otherwise a server keeps every version of the row until the transaction
+// ends and looks through all of them for each number. What is not saved is dropped.
+class HeldCounters
+{
+public:
+    explicit HeldCounters(Engine::Database &database)
+        : m_database(database)
+    {
+    }
+
+    // Throws as takeNumbers() does.
+    void take(const QString &table, const CounterRule &rule);
+    void save();
+
+private:
+    Engine::Table &opened(const QString &table);
+
+    Engine::Database &m_database;
+    std::vector<std::unique_ptr<Engine::Table>> m_tables;
+};
+
+NumberSource heldNumbers(HeldCounters &counters);
 
 } // namespace Tallymere

@@ -1,6 +1,5 @@
 #include "master/masterrecord.h"
 
-#include "data/numbercounter.h"
 #include "engine/error.h"
 #include "engine/query.h"
 #include "frame/shared/ruleerror.h"
@@ -18,7 +17,8 @@ constexpr qint64 firstKey = 10'000;
 } // namespace
 
 MasterRecord::MasterRecord(Engine::Database &database, MasterKind kind)
-    : m_kind(std::move(kind))
+    : numbers(numbersAtOnce(database))
+    , m_kind(std::move(kind))
     , m_table(database, m_kind.table)
 {
     if (!m_kind.numberField.isEmpty())
@@ -78,7 +78,7 @@ void MasterRecord::assignIdentity()
     if (m_kind.counterTable.isEmpty())
         return;
     try {
-        takeNumbers(database(), m_kind.counterTable, [this](CounterRow &counters) {
+        numbers(m_kind.counterTable, [this](CounterRow &counters) {
             if (m_givenNumber.isEmpty()) {
                 counters.restartOutside(m_kind.numberCounter, firstNumber, lastNumber, firstNumber);
                 m_table.setDefault(m_kind.numberField, QString::number(counters.take(m_kind.numberCounter)));

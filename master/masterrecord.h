@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/numbercounter.h"
 #include "engine/table.h"
 
 #include <QCoreApplication>
@@ -10,17 +11,21 @@ namespace Tallymere {
 
 // What tells the rules of one master table from another, as data. Checks run in the order given; a number that is 0
 // counts as empty.
-struct MasterKind {
-    struct Required {
+struct MasterKind
+{
+    struct Required
+    {
         QString field;
         QString message; // "Field 'Item no.' must have a value"
     };
-    struct Reference { // the row that the field names must still be there
+    struct Reference
+    { // the row that the field names must still be there
         QString field;
         QString table; // its key field has the same name
         QString message; // "Item Type no longer exists"
     };
-    struct Default {
+    struct Default
+    {
         QString field;
         Engine::Value value;
     };
@@ -41,7 +46,8 @@ struct MasterKind {
 // Entering one record of a master table: identity of a new record, defaults, checks and saving. The rules hang on
 // the table's own events, so that whatever edits it obeys them. A refused save raises RuleError, its column being
 // the field to put right, and leaves the record in edit.
-class MasterRecord {
+class MasterRecord
+{
     Q_DECLARE_TR_FUNCTIONS(Tallymere::MasterRecord)
 
 public:
@@ -49,6 +55,9 @@ public:
     virtual ~MasterRecord();
     MasterRecord(const MasterRecord &) = delete;
     MasterRecord &operator=(const MasterRecord &) = delete;
+
+    // Where numbers and counted keys come from; at once from their counters unless set.
+    NumberSource numbers;
 
     void open();
 

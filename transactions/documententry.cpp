@@ -19,6 +19,7 @@ namespace Tallymere {
 
 DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, DocumentKind kind)
     : today(&QDate::currentDate)
+    , numbers(numbersAtOnce(database))
     , m_kind(std::move(kind))
     , m_prompts(prompts)
     , m_header(database, m_kind.headerTable)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/numbercounter.h"
 #include "engine/table.h"
 #include "frame/shared/prompts.h"
 
@@ -46,6 +47,8 @@ public:
 
     // Today, for the defaults of a new document. Tests set it.
     std::function<QDate()> today;
+    // Where the numbers of a new document come from; at once from their counters unless set.
+    NumberSource numbers;
 
     // Opens both tables. Labels and formats of their fields are known afterwards.
     void open();

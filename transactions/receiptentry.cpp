@@ -1,6 +1,5 @@
 #include "transactions/receiptentry.h"
 
-#include "data/numbercounter.h"
 #include "frame/shared/formats.h"
 #include "frame/shared/ruleerror.h"
 
@@ -55,7 +54,7 @@ void ReceiptEntry::assignNumbers()
     constexpr qint64 HighestNumber = 10'000'000;
     qint64 id = 0;
     qint64 number = 0;
-    takeNumbers(database(), u"ItemCtl"_s, [&](CounterRow &counters) {
+    numbers(u"ItemCtl"_s, [&](CounterRow &counters) {
         id = counters.take(u"NextInvReceiptID");
         if (!givenNumber().isEmpty())
             return;

@@ -70,6 +70,28 @@ TEST_P(NumberCounter, NumbersTakenBeforeAFailureAreUsedUp)
     EXPECT_EQ(stored(u"NextInvReceiptID"_s), 2) << "the table was closed again";
 }
 
+TEST_P(NumberCounter, HeldCountersAreWrittenOnceOrNotAtAll)
+{
+    const auto takeTwo = [](const NumberSource &numbers) {
+        QList<qint64> taken;
+        for (int i = 0; i < 2; ++i)
+            numbers(u"ItemCtl"_s, [&](CounterRow &row) { taken << row.take(u"NextInvReceiptID"); });
+        return taken;
+    };
+    {
+        HeldCounters dropped(store.database());
+        EXPECT_EQ(takeTwo(heldNumbers(dropped)), (QList<qint64>{0, 1}));
+    }
+    EXPECT_EQ(stored(u"NextInvReceiptID"_s), 0);
+
+    HeldCounters kept(store.database());
+    EXPECT_EQ(takeTwo(heldNumbers(kept)), (QList<qint64>{0, 1}));
+    EXPECT_EQ(stored(u"NextInvReceiptID"_s), 0);
+    kept.save();
+    EXPECT_EQ(stored(u"NextInvReceiptID"_s), 2);
+    EXPECT_EQ(takeTwo(numbersAtOnce(store.database())), (QList<qint64>{2, 3})) << "the table was closed again";
+}
+
 TEST_P(NumberCounter, TableHeldByAnotherUserIsTriedAndReported)
 {
     const auto other = store.anotherUser();

@@ -46,10 +46,10 @@ TEST_P(List, ShowsTheLatestFirstWithItsNames)
 TEST_P(List, DeletesAReceiptWithItsLinesAfterAsking)
 {
     list.remove(prompts); // of nothing
-    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}, {2, 1, 1}});
+    kitchen.addReceipt(0, 1, 1, {{1, 1, 1}, {2, 1, 1}}); // the first key of a new database
     kitchen.addReceipt(2, 1, 1, {{1, 1, 1}});
     list.table().refresh();
-    ASSERT_TRUE(list.moveTo(1));
+    ASSERT_TRUE(list.moveTo(0));
     prompts.ok = false;
     EXPECT_THROW(list.remove(prompts), SilentAbort);
     EXPECT_EQ(lines(), 3);
@@ -58,7 +58,7 @@ TEST_P(List, DeletesAReceiptWithItsLinesAfterAsking)
     list.remove(prompts);
 
     EXPECT_EQ(prompts.said,
-              (QStringList{u"Confirm: Delete receipt '1001'?"_s, u"Confirm: Delete receipt '1001'?"_s}));
+              (QStringList{u"Confirm: Delete receipt '1000'?"_s, u"Confirm: Delete receipt '1000'?"_s}));
     EXPECT_EQ(receipts(), 1);
     EXPECT_EQ(lines(), 1);
     EXPECT_EQ(list.currentKey(), 2);
