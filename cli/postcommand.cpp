@@ -11,6 +11,8 @@ namespace Tallymere {
 
 namespace {
 
+constexpr qint64 longestRetry = 10 * 365 * 24 * 3600; // more seconds would not fit into milliseconds
+
 QString tr(const char *text) { return QCoreApplication::translate("PostCommand", text); }
 
 void requireKind(const QString &kind)
@@ -24,12 +26,13 @@ void requireKind(const QString &kind)
 void runPost(CommandContext &context)
 {
     requireKind(context.arguments.words().at(1));
-    context.prompts.retryFor = std::chrono::seconds(context.arguments.number(u"retry"_s, 0));
+    context.prompts.retryFor =
+        std::chrono::seconds(std::min(context.arguments.number(u"retry"_s, 0), longestRetry));
     const auto data = context.openData();
     ReceiptPosting posting(data->databaseTallymere());
     ConsoleProgress progress(context.console, tr("Posting"));
     const bool posted = posting.run(context.prompts, progress);
-    context.console.print(posted ? tr("%1 receipt(s) posted").arg(posting.count()) : posting.countText());
+    context.console.print(posted ? tr("%1 receipt(s) posted").arg(posting.posted()) : posting.countText());
 }
 
 } // namespace

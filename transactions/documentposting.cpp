@@ -133,6 +133,7 @@ void DocumentPosting::postAll(Progress &progress)
             writes.apply([this, document, &stock, &history, &mark](Writes &sink) {
                 postDocument(*document, *mark, {stock, history, sink});
             });
+            ++m_posted;
             progress.step();
         }
         for (size_t leftOut = documents.size(); leftOut < end - begin; ++leftOut)

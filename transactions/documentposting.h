@@ -86,12 +86,13 @@ public:
 
     int count() const { return static_cast<int>(m_keys.size()); } // documents to be posted
     virtual QString countText() const = 0; // "3 receipt(s) to be posted"
+    int posted() const { return m_posted; } // by run(); another user may have been ahead with some
 
     // Whether the entry screen of this kind is open; set by whoever knows screens.
     std::function<bool()> isEntryOpen;
 
     // True when the run took place; false when there was nothing to post. Raises RuleError while the entry screen
-    // is open, and for an amount that is out of range. A table held by another user is asked about with
+    // is open, and for an amount or a quantity on hand that is out of range. A table held by another user is asked about with
     // Prompts::retry; the answer Cancel raises the lock's EngineError, with nothing written and no table held.
     bool run(Prompts &prompts, Progress &progress);
 
@@ -115,6 +116,7 @@ private:
     Engine::Database &m_database;
     const PostingKind m_kind;
     std::vector<qint64> m_keys;
+    int m_posted = 0;
 };
 
 } // namespace Tallymere

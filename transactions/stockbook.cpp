@@ -3,6 +3,9 @@
 #include "engine/dialect.h"
 #include "transactions/groupedwrites.h"
 
+#include <cmath>
+#include <stdexcept>
+
 using namespace Qt::StringLiterals;
 using Engine::Money;
 
@@ -95,6 +98,8 @@ void StockBook::addToBalance(const Engine::Value &item, const Engine::Value &war
         return;
     }
     const double onHand = balance->onHand + quantity;
+    if (!std::isfinite(onHand))
+        throw std::range_error("a quantity on hand is out of range");
     m_updateBalance->bindDouble(0, onHand);
     m_updateBalance->bindInt(1, item.toInt64());
     m_updateBalance->bindInt(2, warehouse.toInt64());

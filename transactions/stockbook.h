@@ -30,7 +30,8 @@ public:
     std::optional<Engine::Money> averageCost(qint64 item) const;
     void setAverageCost(qint64 item, Engine::Money cost, Writes &writes);
     // Adds to the balance of an item at a location, making it if it is missing. Nulls are written as they are, for
-    // the store to refuse.
+    // the store to refuse. Throws std::range_error when the balance would become infinite, as no movement brings it
+    // back from there.
     void addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity, Writes &writes);
 
 private:

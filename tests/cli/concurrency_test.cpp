@@ -74,6 +74,26 @@ TEST_P(Concurrency, ATableHeldByAnotherUserRefusesImportAndPosting)
     EXPECT_EQ(cli.list({u"history"_s}).size(), 1);
 }
 
+TEST_P(Concurrency, EachOfTwoPostersTellsWhatItPostedItself)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    ASSERT_EQ(cli.import(u"receipts"_s, receipts + "V2,Office,A1,2,1\nV1,Office,B2,3,1\n").status, 0);
+    const auto anna = cli.anotherUser();
+    Engine::Table table(anna->database, u"IReceipt"_s);
+    table.open();
+    table.lockTable();
+    const auto one = cli.start({u"post"_s, u"receipts"_s, u"--retry"_s, u"60"_s});
+    const auto two = cli.start({u"post"_s, u"receipts"_s, u"--retry"_s, u"60"_s});
+    EXPECT_FALSE(one->waitForFinished(1000));
+    EXPECT_FALSE(two->waitForFinished(1));
+    table.unlockTable();
+    QStringList outputs{CliRunner::finish(*one).output, CliRunner::finish(*two).output};
+    outputs.sort();
+    EXPECT_EQ(outputs, (QStringList{u"0 receipt(s) posted\n"_s, u"3 receipt(s) posted\n"_s}));
+    EXPECT_EQ(cli.list({u"history"_s}).size(), 3);
+}
+
 TEST_P(Concurrency, AKilledImportLeavesNothing)
 {
     CliRunner cli(GetParam());

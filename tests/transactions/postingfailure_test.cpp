@@ -133,6 +133,15 @@ TEST_P(FailingPosting, OverflowOfAnAmountStopsAtItsLine)
     expectNoLocks();
 }
 
+TEST_P(FailingPosting, ABalanceNeverBecomesInfinite)
+{
+    kitchen.execute(u"UPDATE IRecDet SET QtyReceived = 1e308, UnitCost = 0 WHERE ReceiptID = 2"_s);
+    EXPECT_THROW(post(), RuleError);
+    EXPECT_EQ(posted(), u"1,2");
+    EXPECT_EQ(kitchen.onHand(1, 1), 1e308);
+    expectNoLocks();
+}
+
 // The file store undoes a whole transaction by itself when the disk is full: the last group is the state.
 TEST(FailingPostingLocal, AStoreThatRollsBackLeavesWholeDocuments)
 {

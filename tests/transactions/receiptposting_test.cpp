@@ -140,6 +140,7 @@ TEST_P(Posting, LeavesOutWhatOthersHavePostedOrDeletedMeanwhile)
     EXPECT_TRUE(posting.run(prompts, progress));
 
     EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID FROM IHist"_s), QStringList(u"3"_s));
+    EXPECT_EQ(posting.posted(), 1);
     EXPECT_EQ(progress.steps, 3);
 }
 
