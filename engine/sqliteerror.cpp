@@ -19,6 +19,8 @@ struct Mapping
 const char *const keyText = QT_TRANSLATE_NOOP("Engine", "The record exists already (%2).");
 const char *const brokenText =
     QT_TRANSLATE_NOOP("Engine", "%1 is damaged. Have the table repaired, or restore the last backup.");
+const char *const fullText =
+    QT_TRANSLATE_NOOP("Engine", "The disk of %1 is full. The changes were undone. Make room and try again.");
 const char *const readOnlyText =
     QT_TRANSLATE_NOOP("Engine", "%1 cannot be written. Check the permissions of the file and of its folder.");
 
@@ -35,8 +37,8 @@ const Mapping mappings[] = {
      QT_TRANSLATE_NOOP("Engine", "%1 is being written by another user. Try again in a moment.")},
     {SQLITE_LOCKED, ErrorCode::Busy,
      QT_TRANSLATE_NOOP("Engine", "%1 is in use by this program at the moment. Try again. (%2)")},
-    {SQLITE_FULL, ErrorCode::DiskFull,
-     QT_TRANSLATE_NOOP("Engine", "The disk of %1 is full. The changes were undone. Make room and try again.")},
+    {SQLITE_FULL, ErrorCode::DiskFull, fullText},
+    {SQLITE_IOERR_SHMSIZE, ErrorCode::DiskFull, fullText}, // no room for the index of the write-ahead log
     {SQLITE_IOERR_CORRUPTFS, ErrorCode::Corrupt, brokenText},
     {SQLITE_IOERR, ErrorCode::General,
      QT_TRANSLATE_NOOP("Engine", "%1 could not be read or written (%2). Check the disk or the network folder.")},
