@@ -36,7 +36,12 @@ void Console::status(const QString &text) { m_error.write(("\r\033[K"_L1 + text)
 
 QString onOneLine(QString text)
 {
-    text.replace(u'\r', u'\n');
+    for (QChar &character : text) {
+        if (character == u'\r')
+            character = u'\n';
+        else if (character.category() == QChar::Other_Control && !character.isSpace())
+            character = QChar::ReplacementCharacter;
+    }
     QStringList lines = text.split(u'\n', Qt::SkipEmptyParts);
     for (QString &line : lines)
         line = line.trimmed();

@@ -27,7 +27,8 @@ private:
     bool m_showsProgress;
 };
 
-QString onOneLine(QString text); // line breaks and the blanks around them become one blank
+// Line breaks and the blanks around them become one blank; what a terminal could take for a command is covered.
+QString onOneLine(QString text);
 
 // How rules talk to the user of a command. Questions get their default answer, which refuses. A refused lock is
 // retried for the time given.

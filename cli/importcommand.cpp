@@ -37,7 +37,7 @@ const ImportKind &requireKind(const QString &name)
 {
     const std::vector<ImportErrors::Error> all = errors.inFileOrder();
     for (size_t i = 0; i < std::min(all.size(), mostErrorsShown); ++i)
-        console.complain(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), onOneLine(all[i].message)));
+        console.complain(onOneLine(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), all[i].message)));
     if (all.size() > mostErrorsShown)
         console.complain(tr("%1: %2 more errors").arg(fileName).arg(all.size() - mostErrorsShown));
     throw RuleError(tr("Nothing was imported."));

@@ -49,7 +49,7 @@ private:
         if (!column) {
             const bool refused = m_kind.refusedColumns.contains(name, Qt::CaseInsensitive);
             return fault(refused ? tr("The column '%1' is set by the system and cannot be imported.").arg(name)
-                                 : tr("There is no column '%1' in %2.").arg(name, m_kind.name));
+                                 : tr("There is no column '%1' in %2.").arg(shortened(name), m_kind.name));
         }
         for (const ImportColumn *earlier : m_header) {
             if (earlier == column)

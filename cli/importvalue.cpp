@@ -7,6 +7,7 @@
 #include <limits>
 #include <QCoreApplication>
 #include <QLocale>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -23,13 +24,14 @@ QString tr(const char *text) { return QCoreApplication::translate("ImportValue",
 
 [[noreturn]] void refuse(const ImportColumn &column, const QString &text, const QString &why)
 {
-    throw RuleError(u"%1 '%2' %3"_s.arg(column.field, text, why), column.field);
+    throw RuleError(u"%1 '%2' %3"_s.arg(column.field, shortened(text), why), column.field);
 }
 
 bool looksLikeNumber(const QString &text)
 {
-    return std::all_of(text.begin(), text.end(),
-                       [](QChar c) { return (c >= u'0' && c <= u'9') || u"+-.eE"_s.contains(c); });
+    static const QRegularExpression shape(
+        QRegularExpression::anchoredPattern(u"[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?"_s));
+    return shape.match(text).hasMatch();
 }
 
 double realNumber(const ImportColumn &column, const QString &text)
@@ -37,13 +39,12 @@ double realNumber(const ImportColumn &column, const QString &text)
     static const QStringList infinities = {u"inf"_s, u"infinity"_s};
     if (infinities.contains(text.mid(text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0), Qt::CaseInsensitive))
         refuse(column, text, tr("is infinite"));
-    bool ok = false;
-    const double number = looksLikeNumber(text) ? QLocale::c().toDouble(text, &ok) : 0;
-    // A number too large for a double comes back as infinity, one too small as not ok.
-    if (std::isinf(number) || (column.type == FieldType::Money && std::abs(number) > largestMoney))
-        refuse(column, text, tr("is out of range"));
-    if (!ok)
+    if (!looksLikeNumber(text))
         refuse(column, text, tr("is not a number"));
+    bool ok = false; // false for a number too large or too small for a double
+    const double number = QLocale::c().toDouble(text, &ok);
+    if (!ok || (column.type == FieldType::Money && std::abs(number) > largestMoney))
+        refuse(column, text, tr("is out of range"));
     return number;
 }
 
@@ -103,14 +104,19 @@ Value boolean(const ImportColumn &column, const QString &text)
 
 Value textValue(const ImportColumn &column, const QString &text)
 {
-    if (column.type == FieldType::Text && text.toUcs4().size() > column.size) {
-        const QString start = text.size() > 60 ? text.left(57) + "..."_L1 : text;
-        refuse(column, start, tr("is longer than %1 characters").arg(column.size));
-    }
+    if (column.type == FieldType::Text && text.toUcs4().size() > column.size)
+        refuse(column, text, tr("is longer than %1 characters").arg(column.size));
     return text;
 }
 
 } // namespace
+
+QString shortened(const QString &text)
+{
+    constexpr qsizetype most = 60;
+    const QString mark = u"..."_s;
+    return text.size() > most ? text.left(most - mark.size()) + mark : text;
+}
 
 Value importValue(const ImportColumn &column, const QString &text)
 {

@@ -3,7 +3,6 @@
 #include "cli/csv.h"
 #include "cli/importer.h"
 #include "frame/shared/ruleerror.h"
-#include "transactions/receiptposting.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -69,11 +68,9 @@ void bringInSampleMasters(TDataModuleTallymere &data, Progress &progress)
         bringIn(data, kind, kind, progress);
 }
 
-void bringInSampleReceipts(TDataModuleTallymere &data, Prompts &prompts, Progress &progress)
+void bringInSampleReceipts(TDataModuleTallymere &data, const QString &name, Progress &progress)
 {
-    bringIn(data, u"receipts"_s, u"receipts"_s, progress);
-    ReceiptPosting(data.databaseTallymere()).run(prompts, progress);
-    bringIn(data, u"receipts"_s, u"receipts-unposted"_s, progress);
+    bringIn(data, u"receipts"_s, name, progress);
 }
 
 } // namespace Tallymere

@@ -9,7 +9,7 @@ namespace Tallymere {
 
 // Organization, item types, locations, currencies, vendors with their contacts, and the catalogue of items.
 void bringInSampleMasters(TDataModuleTallymere &data, Progress &progress);
-// A year of receipts, posted, and the last days' receipts, unposted.
-void bringInSampleReceipts(TDataModuleTallymere &data, Prompts &prompts, Progress &progress);
+// Receipts of a file: "receipts", a year of them that are to be posted, or "receipts-unposted", the last days'.
+void bringInSampleReceipts(TDataModuleTallymere &data, const QString &name, Progress &progress);
 
 } // namespace Tallymere

@@ -41,6 +41,9 @@ const BadFile badFiles[] = {
     {u"types"_s, "TypeName,Inventory\nGood\n", {u"2: The header has 2 field(s), this row 1."_s}},
     // columns
     {u"types"_s, "Colour,TypeName\nred,A\n", {u"1: There is no column 'Colour' in types."_s}},
+    {u"types"_s,
+     "TypeName," + QByteArray(500, 'c') + "\nA,B\n",
+     {u"1: There is no column '"_s + QString(57, u'c') + u"...' in types."_s}},
     {u"types"_s, "TypeName,typename\nA,A\n", {u"1: The column 'typename' is there twice."_s}},
     {u"types"_s, "Inventory\ntrue\n", {u"1: The column 'TypeName' is missing."_s}},
     {u"items"_s,
@@ -59,11 +62,12 @@ const BadFile badFiles[] = {
     {u"items"_s,
      "ItemDescription,TypeName,StandardCost,Suspended\n"
      "A,Produce,1x,\nB,Produce,inf,\nC,Produce,1e999,\nD,Produce,1e15,\nE,Produce,,yes\n"
-     "12345678901234567890123456789012345678901,Produce,,\n",
+     "12345678901234567890123456789012345678901,Produce,,\nG,Produce,1e-400,\nH,Produce,\x1B[2J,\n",
      {u"2: StandardCost '1x' is not a number"_s, u"3: StandardCost 'inf' is infinite"_s,
       u"4: StandardCost '1e999' is out of range"_s, u"5: StandardCost '1e15' is out of range"_s,
       u"6: Suspended 'yes' is neither true nor false"_s,
-      u"7: ItemDescription '12345678901234567890123456789012345678901' is longer than 40 characters"_s}},
+      u"7: ItemDescription '12345678901234567890123456789012345678901' is longer than 40 characters"_s,
+      u"8: StandardCost '1e-400' is out of range"_s, u"9: StandardCost '\uFFFD[2J' is not a number"_s}},
     {u"types"_s,
      "TypeName,CostingMethod\nA,3\nB,1.5\nC,40000\n",
      {u"2: CostingMethod '3' is not within 1 to 2"_s, u"3: CostingMethod '1.5' is not a whole number"_s,
@@ -123,6 +127,20 @@ TEST_P(Import, ABadFileIsToldRowByRowAndNothingOfItIsWritten)
         EXPECT_EQ(result.output, QString());
     }
     EXPECT_EQ(everything(cli), before);
+}
+
+TEST_P(Import, AKeyThatIsTakenAlreadyIsToldForItsRow)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    const QByteArray row = "R1,,,,V1,Office,A1,1,1\n";
+    ASSERT_EQ(cli.import(u"receipts"_s, receiptHeader + row).status, 0);
+    // As after a backup of the control table alone.
+    cli.anotherUser()->database.connection().execute(u"UPDATE ItemCtl SET NextInvReceiptID = 0"_s);
+    const CliResult result = cli.import(u"receipts"_s, receiptHeader + "R2,,,,V1,Office,A1,1,1\n" + row);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.errorLines().value(0).startsWith("in.csv:2: "_L1)) << result;
+    EXPECT_EQ(cli.column({u"list"_s, u"receipts"_s}, u"ReceiptNo"_s), QStringList{u"R1"_s});
 }
 
 TEST_P(Import, AfterAHundredErrorsOnlyTheirNumberIsTold)

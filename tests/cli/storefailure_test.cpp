@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
+#include <QStorageInfo>
 #include <sys/mount.h>
 
 using namespace Qt::StringLiterals;
@@ -130,6 +131,30 @@ TEST(StoreFailure, OnAFullDiskNothingOfAnImportStays)
     cli.writeFile(u"few.csv"_s, largeItemFile(3).toUtf8());
     EXPECT_EQ(run({u"import"_s, u"items"_s, u"few.csv"_s}).status, 0);
     EXPECT_EQ(run({u"list"_s, u"items"_s}).rows().size(), 4);
+}
+
+TEST(StoreFailure, AKitchenThatFindsTheDiskFullFitsInOnceThereIsRoom)
+{
+    SmallDisk disk("size=6m");
+    if (!disk.isThere())
+        GTEST_SKIP() << "mounting needs root";
+    CliRunner cli(Store::Local);
+    const auto run = [&](const QString &word) { return cli.runBare({u"--data"_s, disk.folder(), word}); };
+    ASSERT_EQ(run(u"init"_s).status, 0);
+    QFile ballast(disk.folder() + "/ballast"_L1);
+    ASSERT_TRUE(ballast.open(QIODevice::WriteOnly));
+    for (const int kibibytes : {160, 40, 0}) { // what is left for the kitchen
+        ballast.resize(0);
+        ballast.seek(0);
+        ballast.write(QByteArray(QStorageInfo(disk.folder()).bytesAvailable() - kibibytes * 1024, 'x'));
+        ballast.flush();
+        const CliResult result = run(u"sample"_s);
+        EXPECT_EQ(result.status, 3);
+        EXPECT_TRUE(result.errors.contains("is full"_L1)) << result;
+    }
+    ballast.remove();
+    const CliResult result = run(u"sample"_s);
+    EXPECT_EQ(result.status, 0) << result;
 }
 
 TEST(StoreFailure, OutputThatCannotBeWrittenIsNoSuccess)
