@@ -5,7 +5,8 @@
 namespace Engine {
 
 // The pieces that differ between the stores when a column is turned into another type. Each takes an expression.
-struct ConversionTexts {
+struct ConversionTexts
+{
     const char *wholeNumber; // of a number: its part before the point
     const char *floating; // of a whole number
     const char *textIsNumber; // condition: the text is a decimal number

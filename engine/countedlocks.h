@@ -10,7 +10,8 @@ namespace Engine {
 // What both stores' locks have in common: the counts of what this connection holds, so that it never conflicts with
 // itself. The store is asked only for the first of a kind and told only of the last. Tables are named in lower case
 // below this level, records by a number made of their key.
-class CountedLocks : public LockManager {
+class CountedLocks : public LockManager
+{
 public:
     bool tryOpenShared(const QString &table) final;
     void closeShared(const QString &table) final;
@@ -23,7 +24,8 @@ public:
     bool holdsTable(const QString &table) const final;
 
 protected:
-    struct Held {
+    struct Held
+    {
         int shared = 0;
         int exclusive = 0;
         int table = 0;

@@ -2,9 +2,9 @@
 
 #include "engine/driver.h"
 
-#include <QString>
 #include <functional>
 #include <memory>
+#include <QString>
 
 namespace Engine {
 

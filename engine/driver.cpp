@@ -33,7 +33,8 @@ void Statement::bind(int parameter, const Value &value)
 }
 
 // Idle statements by their text, and the statements in use, which outlive the connection if their holder does.
-struct Connection::Cache {
+struct Connection::Cache
+{
     static constexpr int capacity = 300;
 
     QHash<QString, std::vector<Statement *>> idle;

@@ -18,7 +18,8 @@ class Dialect;
 class LockManager;
 
 // A prepared statement with typed parameters and columns, both counted from 0.
-class Statement {
+class Statement
+{
 public:
     virtual ~Statement() = default;
 
@@ -58,13 +59,15 @@ protected:
 };
 
 // Hands a statement back to its connection's cache instead of destroying it.
-struct StatementReturn {
+struct StatementReturn
+{
     void operator()(Statement *statement) const;
 };
 using StatementPtr = std::unique_ptr<Statement, StatementReturn>;
 
 // One connection to a store. Not thread-safe: use on the thread that opened it.
-class Connection {
+class Connection
+{
 public:
     virtual ~Connection();
 
@@ -117,7 +120,8 @@ protected:
 };
 
 // A transaction that is rolled back unless committed. Within an open one it does nothing but join it.
-class Transaction {
+class Transaction
+{
 public:
     explicit Transaction(Connection &connection);
     ~Transaction();

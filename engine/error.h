@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <exception>
+#include <QString>
 
 namespace Engine {
 
@@ -35,7 +35,10 @@ class EngineError : public std::exception
 {
 public:
     EngineError(ErrorCode code, QString text, QString driverText = {})
-        : m_code(code), m_text(std::move(text)), m_driverText(std::move(driverText)), m_what(m_text.toUtf8())
+        : m_code(code)
+        , m_text(std::move(text))
+        , m_driverText(std::move(driverText))
+        , m_what(m_text.toUtf8())
     {
     }
 

@@ -12,7 +12,8 @@ class DataSet;
 enum class FieldKind { Data, Lookup, Calculated };
 
 // How a field's value becomes text and back; set by rules, used by every editor, grid and import alike.
-struct FieldFormat {
+struct FieldFormat
+{
     std::function<QString(const Value &)> display; // as shown; empty: Value::toText()
     std::function<QString(const Value &)> edit; // as offered for editing; empty: like display
     // The text typed by a user; throws to refuse it. Empty: Value(text).as(type), an empty text being null.
@@ -21,14 +22,16 @@ struct FieldFormat {
 
 // A lookup field shows a field of the row of another table whose key equals a field of this row. It is read
 // together with the row, so it never costs a statement of its own in a list.
-struct Lookup {
+struct Lookup
+{
     QString keyField; // of this table: "VendorID"
     QString table; // "Vendor"
     QString tableKey; // "VendorID"
     QString resultField; // "VendorName"
 };
 
-struct Field {
+struct Field
+{
     QString name;
     FieldType type = FieldType::Integer;
     int size = 0; // characters, for Text

@@ -12,7 +12,8 @@ namespace Engine {
 //
 // The file itself holds one note for each connection, saying whose it is and in which tables it has locks. A note
 // counts only while its connection holds the byte that goes with it.
-class FileLocks final : public CountedLocks {
+class FileLocks final : public CountedLocks
+{
 public:
     FileLocks(const QString &path, const QString &user); // an empty path: of a database that nobody else can open
     ~FileLocks() override;

@@ -10,7 +10,8 @@ namespace Engine {
 using Key = QList<qint64>;
 
 // The ordered keys of a set, packed: a million rows with a key of one number take eight megabytes.
-class KeyList {
+class KeyList
+{
 public:
     explicit KeyList(int width = 1)
         : m_width(static_cast<size_t>(width))

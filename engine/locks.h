@@ -1,9 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <QList>
 #include <QString>
 #include <QtGlobal>
-#include <optional>
 
 namespace Engine {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QtGlobal>
 #include <compare>
+#include <QtGlobal>
 
 namespace Engine {
 

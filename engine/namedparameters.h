@@ -6,7 +6,8 @@
 namespace Engine {
 
 // A statement whose named parameters (":ReceiptID") have become "?".
-struct PositionalSql {
+struct PositionalSql
+{
     QString sql;
     QStringList names; // one for each "?", in order; a name may come several times
 };

@@ -18,7 +18,8 @@ bool waitForSocket(int socket, bool forWriting, std::chrono::milliseconds time);
 
 // A file for locks on ranges of bytes. The locks belong to this object alone, whatever else the process has open,
 // and go with it or with the process. Ranges may lie far beyond the end of the file.
-class RangeLockFile {
+class RangeLockFile
+{
 public:
     explicit RangeLockFile(const QString &path); // throws CannotOpen or ReadOnly
     ~RangeLockFile();

@@ -11,7 +11,8 @@ namespace Engine {
 // As a list: set keyFields and orderBy, and the result is browsed like a table, with ordered keys and windows of
 // rows, filters and locate. Without keyFields the whole result is read when it is opened, as it is at that moment;
 // it can be walked and searched, but has no filter and no lookup fields.
-class Query : public DataSet {
+class Query : public DataSet
+{
     Q_OBJECT
 
 public:

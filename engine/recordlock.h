@@ -8,7 +8,8 @@ namespace Engine {
 
 // A lock on one record for the life of the object. Waits for it as the session says, then throws RecordLocked or
 // TableLocked naming the table and the holder. Nothing to do for a connection that holds the whole table.
-class RecordLock {
+class RecordLock
+{
 public:
     RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key);
     ~RecordLock();

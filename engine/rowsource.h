@@ -11,7 +11,8 @@
 namespace Engine {
 
 // What a set consists of, as fragments of a statement. Rows are referred to as "t".
-struct SetScope {
+struct SetScope
+{
     QString source; // what stands after FROM: "Vendor t"
     QList<Value> sourceParameters;
     QStringList keyColumns; // whole-number expressions that tell rows apart
@@ -22,12 +23,14 @@ struct SetScope {
 };
 
 // Reads keys and rows of one set. Holds no row itself.
-class RowSource {
+class RowSource
+{
 public:
     // The scope's fields: data fields are columns, lookups subselects, calculated fields are left null.
     RowSource(Connection &connection, SetScope scope, const std::deque<Field> &fields);
 
-    struct Found {
+    struct Found
+    {
         Key key;
         Row row;
     };

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
 #include <chrono>
 #include <functional>
+#include <QString>
 
 namespace Engine {
 
@@ -14,7 +14,10 @@ enum class LinkType { Lan, Internet };
 class Session
 {
 public:
-    explicit Session(QString name) : m_name(std::move(name)) {}
+    explicit Session(QString name)
+        : m_name(std::move(name))
+    {
+    }
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 

@@ -11,7 +11,8 @@ namespace Engine {
 
 namespace {
 
-struct Side {
+struct Side
+{
     QString sql;
     Value value;
 };

@@ -12,7 +12,8 @@ class Dialect;
 class Statement;
 
 // A condition as it stands in a statement, with the values of its "?" in order. An empty text is no condition.
-struct SqlCondition {
+struct SqlCondition
+{
     QString text;
     QList<Value> parameters;
 
@@ -24,7 +25,8 @@ struct SqlCondition {
 SqlCondition never(); // no row meets it
 
 // A column of a condition, with how its text compares.
-struct SqlColumn {
+struct SqlColumn
+{
     QString sql; // complete: "t.VendorName"
     bool caseInsensitive = false; // for text: as a case-insensitive index sorts it
 };

@@ -12,7 +12,8 @@ namespace Engine {
 
 namespace {
 
-struct Column {
+struct Column
+{
     FieldDef field;
     int keyPosition = 0; // from 1; 0 when it is not part of the declared key
 };

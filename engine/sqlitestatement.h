@@ -7,7 +7,8 @@ struct sqlite3_stmt;
 
 namespace Engine {
 
-class SqliteStatement final : public Statement {
+class SqliteStatement final : public Statement
+{
 public:
     SqliteStatement(sqlite3 *db, const QString &sql, const QString &path);
     ~SqliteStatement() override;

@@ -7,7 +7,8 @@
 namespace Engine {
 
 // The windows of rows that were looked at last. Memory follows these, not the length of the set.
-class WindowCache {
+class WindowCache
+{
 public:
     static constexpr int rowsPerWindow = 256;
 
@@ -22,7 +23,8 @@ public:
 
 private:
     static constexpr size_t capacity = 16;
-    struct Window {
+    struct Window
+    {
         int start = 0;
         std::vector<Row> rows;
     };

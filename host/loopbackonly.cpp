@@ -6,7 +6,8 @@
 #include <netinet/in.h>
 #include <sys/socket.h>
 
-extern "C" __attribute__((visibility("default"))) int bind(int descriptor, const sockaddr *address, socklen_t length)
+extern "C" __attribute__((visibility("default"))) int bind(int descriptor, const sockaddr *address,
+                                                           socklen_t length)
 {
     static const auto systemBind = reinterpret_cast<decltype(&bind)>(dlsym(RTLD_NEXT, "bind"));
     if (address->sa_family == AF_INET && length >= sizeof(sockaddr_in)) {

@@ -81,9 +81,8 @@ public:
 
     virtual QString caption() const = 0;
 
-    // --- lines
-    // ------------------------------------------------------------------------------------------------------ The
-    // column of the line grid that the user is in, by field name. A new item is judged by it: typed as a number
+    // --- lines -------------------------------------------------------------------------------------------------
+    // The column of the line grid that the user is in, by field name. A new item is judged by it: typed as a number
     // ("ItemNo") or picked by its description ("ItemDescription").
     void setLineColumn(const QString &field) { m_lineColumn = field; }
     // Puts the item into the current line, putting that into edit.
@@ -101,8 +100,7 @@ protected:
     Engine::Database &database() const { return m_header.database(); }
     Prompts &prompts() const { return m_prompts; }
 
-    // --- what the kinds of documents do differently
-    // ------------------------------------------------------------------
+    // --- what the kinds of documents do differently ----------------------------------------------------------
     virtual void configureFields(); // labels, formats and checks of fields, once the tables are open
     virtual void assignNumbers() = 0; // key and number of a new header
     virtual void presetHeader() { } // further defaults of a new header
@@ -111,8 +109,7 @@ protected:
     virtual void checkLine() = 0; // before a line gets its number and is written
     virtual void restoreLine(const Engine::Row &kept); // fills the new line from the copy
 
-    // --- pieces for those
-    // -------------------------------------------------------------------------------------------
+    // --- pieces for those ------------------------------------------------------------------------------------
     void requireHeaderField(const QString &field, const QString &column) const; // "Field '...' must have a value"
     void requireLineField(const QString &field, const QString &column) const;
     void requireItem() const; // the line has an item, and it exists

@@ -208,7 +208,8 @@ TEST_P(Entry, LineChecksSpeakInTheirOrder)
         {"no item", 1.0, {}, {}, u"Field 'Item no.' must have a value"_s + undo + u"ItemNo"_s},
         {"item gone", 1.0, 99, {}, u"Item not found"_s + undo + u"ItemNo"_s},
         {"no cost", 1.0, 1, {}, u"Field 'Unit Cost' must have a value"_s + undo + u"UnitCost"_s},
-        {"cost below zero", 1.0, 1, -0.01, u"Field 'Unit Cost' must not be less than zero"_s + undo + u"UnitCost"_s},
+        {"cost below zero", 1.0, 1, -0.01,
+         u"Field 'Unit Cost' must not be less than zero"_s + undo + u"UnitCost"_s},
         {"all zero", 0.0, 1, 0.0, {}},
         {"a return", -2.0, 1, 1.0, {}},
     };

@@ -17,9 +17,9 @@ protected:
         Engine::DataSet &balances = view.query();
         QStringList rows;
         for (balances.first(); !balances.atEnd(); balances.next())
-            rows.append(QStringList{balances.text(u"ItemNo"), balances.text(u"WarehouseName"),
-                                    balances.text(u"QtyOnHand")}
-                            .join(u'/'));
+            rows.append(
+                QStringList{balances.text(u"ItemNo"), balances.text(u"WarehouseName"), balances.text(u"QtyOnHand")}
+                    .join(u'/'));
         return rows;
     }
 
