@@ -11,7 +11,7 @@ namespace Tallymere {
 
 namespace {
 
-constexpr qsizetype blockSize = 64 * 1024;
+constexpr qsizetype blockSize = qsizetype(64) * 1024;
 
 QString tr(const char *text) { return QCoreApplication::translate("Csv", text); }
 

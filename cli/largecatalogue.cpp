@@ -6,7 +6,6 @@
 #include "master/masterkinds.h"
 
 using namespace Qt::StringLiterals;
-using Engine::Value;
 
 namespace Tallymere {
 

@@ -11,7 +11,7 @@ namespace Tallymere {
 
 namespace {
 
-constexpr qint64 longestRetry = 10 * 365 * 24 * 3600; // more seconds would not fit into milliseconds
+constexpr qint64 longestRetry = qint64(10) * 365 * 24 * 3600; // more seconds would not fit into milliseconds
 
 QString tr(const char *text) { return QCoreApplication::translate("PostCommand", text); }
 

@@ -70,7 +70,7 @@ QString validateCC(const QString &number)
     if (!allDigits || digits.size() < 13)
         return {};
 
-    if (const QString brand = brandOf(digits, uncheckedBrands()); !brand.isEmpty())
+    if (QString brand = brandOf(digits, uncheckedBrands()); !brand.isEmpty())
         return brand;
     return checkDigitIsRight(digits) ? brandOf(digits, checkedBrands()) : QString();
 }

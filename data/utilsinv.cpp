@@ -123,7 +123,7 @@ QString getSQLString(Engine::Query &query, const QString &name)
     query.close();
     query.setParameter(u"Query_Name", name);
     query.open();
-    const QString statement = query.value(u"Query_Lines").toText();
+    QString statement = query.value(u"Query_Lines").toText();
     query.close();
     return statement;
 }

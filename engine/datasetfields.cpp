@@ -82,8 +82,7 @@ void DataSet::setDataFields(const std::vector<Field> &fields)
     } else {
         // Data fields stand in front. A deque grows at its front without moving the fields it has.
         m_fields.erase(std::remove_if(m_fields.begin(), m_fields.end(), isData), m_fields.end());
-        for (auto field = fields.rbegin(); field != fields.rend(); ++field)
-            m_fields.push_front(*field);
+        m_fields.insert(m_fields.begin(), fields.begin(), fields.end());
     }
     d->nullRow = Row(m_fields.size());
 }

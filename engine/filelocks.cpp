@@ -139,7 +139,7 @@ std::optional<LockOwner> FileLocks::ownerOf(const QString &table)
     if (!m_file || !m_file->isLockedByOthers(firstRecordByte(name), stretch - 1))
         return std::nullopt;
     const QByteArray notes = m_file->read(0, qint64(noteCount) * noteSize);
-    for (int note = 0; note * noteSize < notes.size(); ++note) {
+    for (qint64 note = 0; note * noteSize < notes.size(); ++note) {
         if (note == m_note)
             continue;
         const QStringList parts = QString::fromUtf8(notes.mid(note * noteSize, noteSize)).trimmed().split(u'\t');

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <QtGlobal> // first: moc cannot read what <compare> brings along otherwise
+
 #include <compare>
-#include <QtGlobal>
 
 namespace Engine {
 
