@@ -26,6 +26,12 @@ Console::Console()
         m_showsProgress = false;
 }
 
+QIODevice &Console::longOutput()
+{
+    m_showsProgress = m_showsProgress && !Terminal::isOutputTerminal();
+    return m_output;
+}
+
 void Console::print(const QString &text) { m_output.write((text + u'\n').toUtf8()); }
 
 void Console::complain(const QString &text) { m_error.write((text + u'\n').toUtf8()); }
@@ -54,9 +60,9 @@ void ConsolePrompts::warn(const QString &text) { m_console.error(text); }
 
 void ConsolePrompts::error(const QString &text) { m_console.error(text); }
 
-bool ConsolePrompts::confirm(const QString &title, const QString &text)
+bool ConsolePrompts::confirm(Question question, const QString &text)
 {
-    m_console.error(title + ": "_L1 + text);
+    m_console.error(caption(question) + ": "_L1 + text);
     return false;
 }
 

@@ -14,7 +14,8 @@ class Console
 public:
     Console();
 
-    QIODevice &output() { return m_output; }
+    // For long output. No progress is shown from then on where people see the output itself.
+    QIODevice &longOutput();
     void print(const QString &text); // a line on standard output
     void complain(const QString &text); // a line on standard error as it stands
     void error(const QString &text); // "tallymere: ..." on standard error, line breaks being blanks there
@@ -45,7 +46,7 @@ public:
     void inform(const QString &text) override;
     void warn(const QString &text) override;
     void error(const QString &text) override;
-    bool confirm(const QString &title, const QString &text) override;
+    bool confirm(Question question, const QString &text) override;
     Answer yesNoCancel(const QString &text) override;
     bool retry(const QString &text) override;
 
@@ -64,9 +65,13 @@ public:
     {
     }
 
+    ~ConsoleProgress() override { finish(); } // what is told after a failure begins on a line of its own
+    ConsoleProgress(const ConsoleProgress &) = delete;
+    ConsoleProgress &operator=(const ConsoleProgress &) = delete;
+
     void start(int steps) override;
     void step() override;
-    void finish() override;
+    void finish() final;
 
 private:
     Console &m_console;

@@ -15,7 +15,7 @@ Engine::Value valueOf(const Engine::DataSet &rows, int index, const Engine::Row 
 
 } // namespace
 
-void writeCsvList(const Engine::DataSet &rows, const QStringList &columns, QIODevice &output)
+void writeCsvList(const Engine::DataSet &rows, const QStringList &columns, QIODevice &output, Progress &progress)
 {
     std::vector<int> fields;
     for (const QString &column : columns)
@@ -24,13 +24,16 @@ void writeCsvList(const Engine::DataSet &rows, const QStringList &columns, QIODe
     CsvWriter writer(output);
     writer.record(columns);
     const int count = rows.recordCount();
+    progress.start(count);
     for (int index = 0; index < count; ++index) {
         const Engine::Row &row = rows.rowAt(index);
         for (const int field : fields)
             writer.field(valueOf(rows, index, row, field).toText());
         writer.endRecord();
+        progress.step();
     }
     writer.flush();
+    progress.finish();
 }
 
 void filterBy(Engine::DataSet &rows, const QString &expression)

@@ -53,6 +53,7 @@ void fillSmall(TDataModuleTallymere &data, Prompts &prompts, Progress &progress)
 {
     {
         Engine::Transaction transaction(data.databaseTallymere().connection());
+        requireEmpty(data.databaseTallymere());
         bringInSampleMasters(data, progress);
         bringInSampleReceipts(data, u"receipts"_s, progress);
         transaction.commit();
@@ -64,6 +65,7 @@ void fillSmall(TDataModuleTallymere &data, Prompts &prompts, Progress &progress)
 void fillLarge(TDataModuleTallymere &data, quint64 seed, Progress &progress)
 {
     Engine::Transaction transaction(data.databaseTallymere().connection());
+    requireEmpty(data.databaseTallymere());
     bringInSampleMasters(data, progress);
     LargeKitchen(data.databaseTallymere(), seed, {}).fill(progress);
     transaction.commit();
@@ -75,7 +77,6 @@ void runSample(CommandContext &context)
     const qint64 seed = context.arguments.number(u"seed"_s, usualSeed);
     const auto opened = openNewDatabase(context, tr("Lakeside Meals"), u"USA"_s);
     TDataModuleTallymere &data = *opened;
-    requireEmpty(data.databaseTallymere());
     requireDollars(data.databaseTallymere());
 
     ConsoleProgress progress(context.console, tr("Filling"));

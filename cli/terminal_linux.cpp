@@ -9,6 +9,8 @@ namespace Tallymere::Terminal {
 
 bool isErrorTerminal() { return isatty(STDERR_FILENO) == 1; }
 
+bool isOutputTerminal() { return isatty(STDOUT_FILENO) == 1; }
+
 QString loginName()
 {
     const passwd *account = getpwuid(geteuid());

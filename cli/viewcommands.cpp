@@ -31,6 +31,14 @@ QStringList fieldNames(const Engine::TableLayout &layout)
     return names;
 }
 
+// The rows that --filter leaves.
+void writeRows(CommandContext &context, Engine::DataSet &rows, const QStringList &columns)
+{
+    filterBy(rows, context.arguments.value(u"filter"_s));
+    ConsoleProgress progress(context.console, tr("Writing"));
+    writeCsvList(rows, columns, context.console.longOutput(), progress);
+}
+
 TotalsView::Sort totalsSort(const QString &name)
 {
     if (name == "item"_L1)
@@ -47,11 +55,9 @@ void runTotals(CommandContext &context)
     TotalsView view(data->databaseTallymere());
     view.setSort(sort);
     view.open();
-    filterBy(view.query(), context.arguments.value(u"filter"_s));
-    writeCsvList(
-        view.query(),
-        {u"ItemID"_s, u"WarehouseID"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s, u"QtyOnHand"_s},
-        context.console.output());
+    writeRows(
+        context, view.query(),
+        {u"ItemID"_s, u"WarehouseID"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s, u"QtyOnHand"_s});
 }
 
 // The history with the names that its rows stand for.
@@ -79,12 +85,10 @@ void runHistory(CommandContext &context)
     history.setIndex(u"PERIODDATEDESC"_s);
     describeHistory(history);
     history.open();
-    filterBy(history, context.arguments.value(u"filter"_s));
-    writeCsvList(history,
-                 fieldNames(Layouts::iHist())
-                     + QStringList{u"Periodppyyyy"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s,
-                                   u"TransTypeName"_s},
-                 context.console.output());
+    writeRows(context, history,
+              fieldNames(Layouts::iHist())
+                  + QStringList{u"Periodppyyyy"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s,
+                                u"TransTypeName"_s});
 }
 
 struct ListKind
@@ -137,8 +141,7 @@ void runList(CommandContext &context)
     table.readOnly = true;
     table.setIndex(kind.index);
     table.open();
-    filterBy(table, context.arguments.value(u"filter"_s));
-    writeCsvList(table, fieldNames(kind.layout), context.console.output());
+    writeRows(context, table, fieldNames(kind.layout));
 }
 
 } // namespace
