@@ -19,7 +19,7 @@ public:
     void inform(const QString &text) override { m_text = text; }
     void warn(const QString &text) override { m_text = text; }
     void error(const QString &text) override { m_text = text; }
-    bool confirm(const QString &, const QString &text) override
+    bool confirm(Question, const QString &text) override
     {
         m_text = text;
         return m_yes;

@@ -32,7 +32,7 @@ ListScreen::ListScreen(ScreenContext &context, QWidget *parent)
 }
 
 void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
-                       std::function<void()> defaultCommand)
+                       const std::function<void()> &defaultCommand)
 {
     m_data = &set;
     m_caption = description.caption;

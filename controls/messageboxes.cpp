@@ -60,9 +60,10 @@ void MessageBoxes::error(const QString &text)
         QMessageBox::Ok);
 }
 
-bool MessageBoxes::confirm(const QString &title, const QString &text)
+bool MessageBoxes::confirm(Question question, const QString &text)
 {
-    return ask(QMessageBox::Question, title, text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel)
+    const auto icon = question == Question::Warning ? QMessageBox::Warning : QMessageBox::Question;
+    return ask(icon, caption(question), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel)
         == QMessageBox::Ok;
 }
 

@@ -11,7 +11,7 @@ public:
     void inform(const QString &text) override;
     void warn(const QString &text) override;
     void error(const QString &text) override;
-    bool confirm(const QString &title, const QString &text) override;
+    bool confirm(Question question, const QString &text) override;
     Answer yesNoCancel(const QString &text) override;
     bool retry(const QString &text) override;
 };

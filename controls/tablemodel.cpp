@@ -165,7 +165,7 @@ void TableModel::showRows(int rows)
         endRemoveRows();
     }
     if (m_rows > 0)
-        Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, columnCount() - 1));
+        Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, TableModel::columnCount() - 1));
 }
 
 void TableModel::updateRow(int row)

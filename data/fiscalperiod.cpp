@@ -78,7 +78,7 @@ void requirePeriod(const FiscalSettings &settings, const Period &period, Prompts
         return;
     if (verdict != PeriodVerdict::NotExpected)
         throw RuleError(periodMessage(verdict), column);
-    if (!prompts.confirm(QCoreApplication::translate("Periods", "Warning"), periodMessage(verdict)))
+    if (!prompts.confirm(Question::Warning, periodMessage(verdict)))
         throw SilentAbort(column);
 }
 

@@ -158,7 +158,9 @@ std::vector<Field> Query::listFields() const
     bindAll(*statement, m_values);
     statement->next();
     std::vector<Field> fields;
-    for (int column = 0; column < statement->columnCount(); ++column)
+    const int count = statement->columnCount();
+    fields.reserve(static_cast<size_t>(count));
+    for (int column = 0; column < count; ++column)
         fields.push_back(columnField(*statement, column));
     return fields;
 }

@@ -325,8 +325,10 @@ void TFormTallymereSystem::showEvent(QShowEvent *event)
 {
     const TraceScope scope("TFormTallymereSystem.FormShow");
     QMainWindow::showEvent(event);
-    if (!event->spontaneous())
-        move(screen()->availableGeometry().center() - rect().center());
+    if (event->spontaneous())
+        return;
+    move(screen()->availableGeometry().center() - rect().center());
+    m_ui->ButtonReceiveGoods->setFocus(); // not the Close button, which had it when the window was left
 }
 
 void TFormTallymereSystem::keyPressEvent(QKeyEvent *event)

@@ -26,7 +26,7 @@ void DocumentList::remove(Prompts &prompts)
 {
     if (m_table.isEmpty())
         return;
-    if (!prompts.confirm(questionTitle(), deleteQuestion()))
+    if (!prompts.confirm(Question::Confirm, deleteQuestion()))
         throw SilentAbort();
     if (m_table.boolean(u"Posted"))
         throw RuleError(postedRefusal());

@@ -32,7 +32,6 @@ public:
 protected:
     DocumentList(Engine::Database &database, DocumentKind kind, const QString &index);
 
-    virtual QString questionTitle() const = 0;
     virtual QString deleteQuestion() const = 0; // names the current document
     virtual QString postedRefusal() const = 0;
 

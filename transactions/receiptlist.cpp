@@ -21,8 +21,6 @@ void ReceiptList::find(const QString &receiptNo)
     throw RuleError(tr("Receipt '%1' not found").arg(receiptNo), u"ReceiptNo"_s);
 }
 
-QString ReceiptList::questionTitle() const { return tr("Confirm"); }
-
 QString ReceiptList::deleteQuestion() const { return tr("Delete receipt '%1'?").arg(table().text(u"ReceiptNo")); }
 
 QString ReceiptList::postedRefusal() const

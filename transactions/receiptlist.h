@@ -18,7 +18,6 @@ public:
 protected:
     QString deleteQuestion() const override;
     QString postedRefusal() const override;
-    QString questionTitle() const override;
 };
 
 } // namespace Tallymere

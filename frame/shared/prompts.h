@@ -6,6 +6,11 @@ namespace Tallymere {
 
 enum class Answer { Yes, No, Cancel };
 
+// What a question with OK and Cancel is about: something the user wants, or something that he is warned of.
+enum class Question { Confirm, Warning };
+
+QString caption(Question question); // of its box: "Confirm", "Warning"
+
 // How rules talk to the user: boxes on a screen, standard error on the command line, a script in a test.
 class Prompts
 {
@@ -15,8 +20,8 @@ public:
     virtual void inform(const QString &text) = 0;
     virtual void warn(const QString &text) = 0;
     virtual void error(const QString &text) = 0;
-    // OK or Cancel, Cancel being the default; true for OK. The title is the box's caption.
-    virtual bool confirm(const QString &title, const QString &text) = 0;
+    // OK or Cancel, Cancel being the default; true for OK.
+    virtual bool confirm(Question question, const QString &text) = 0;
     virtual Answer yesNoCancel(const QString &text) = 0;
     // An error with Retry and Cancel; true for Retry.
     virtual bool retry(const QString &text) = 0;

@@ -19,7 +19,7 @@ public:
     void inform(const QString &) override { }
     void warn(const QString &) override { }
     void error(const QString &) override { }
-    bool confirm(const QString &, const QString &) override { return false; }
+    bool confirm(Tallymere::Question, const QString &) override { return false; }
     Tallymere::Answer yesNoCancel(const QString &) override { return Tallymere::Answer::Cancel; }
     bool retry(const QString &) override { return false; }
 };

@@ -11,9 +11,9 @@ public:
     void inform(const QString &text) override { said << text; }
     void warn(const QString &text) override { said << text; }
     void error(const QString &text) override { said << text; }
-    bool confirm(const QString &title, const QString &text) override
+    bool confirm(Tallymere::Question question, const QString &text) override
     {
-        said << title + QStringLiteral(": ") + text;
+        said << caption(question) + QStringLiteral(": ") + text;
         return confirmed;
     }
     Tallymere::Answer yesNoCancel(const QString &text) override

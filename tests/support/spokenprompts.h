@@ -15,9 +15,9 @@ public:
     void inform(const QString &text) override { said << QStringLiteral("inform: ") + text; }
     void warn(const QString &text) override { said << QStringLiteral("warn: ") + text; }
     void error(const QString &text) override { said << QStringLiteral("error: ") + text; }
-    bool confirm(const QString &title, const QString &text) override
+    bool confirm(Tallymere::Question question, const QString &text) override
     {
-        said << title + QStringLiteral(": ") + text;
+        said << caption(question) + QStringLiteral(": ") + text;
         return ok;
     }
     Tallymere::Answer yesNoCancel(const QString &text) override

@@ -80,9 +80,9 @@ QStringList Kitchen::rows(const QString &sql)
     return rows;
 }
 
-bool ScriptedPrompts::confirm(const QString &title, const QString &text)
+bool ScriptedPrompts::confirm(Tallymere::Question question, const QString &text)
 {
-    said.append(title + ": "_L1 + text);
+    said.append(caption(question) + ": "_L1 + text);
     return ok;
 }
 

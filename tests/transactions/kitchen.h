@@ -49,7 +49,7 @@ public:
     void inform(const QString &text) override { said.append(text); }
     void warn(const QString &text) override { said.append(text); }
     void error(const QString &text) override { said.append(text); }
-    bool confirm(const QString &title, const QString &text) override;
+    bool confirm(Tallymere::Question question, const QString &text) override;
     Tallymere::Answer yesNoCancel(const QString &text) override;
     bool retry(const QString &text) override;
 };
