@@ -1,4 +1,5 @@
 #include "cli/command.h"
+#include "cli/named.h"
 #include "cli/terminal.h"
 
 #include <QCoreApplication>
@@ -42,13 +43,6 @@ const QList<Command> &commands()
     return all;
 }
 
-const Command *findCommand(const QString &name)
-{
-    for (const Command &command : commands()) {
-        if (command.name == name)
-            return &command;
-    }
-    return nullptr;
-}
+const Command *findCommand(const QString &name) { return findNamed(commands(), name); }
 
 } // namespace Tallymere

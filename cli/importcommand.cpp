@@ -1,5 +1,6 @@
 #include "cli/command.h"
 #include "cli/importer.h"
+#include "cli/named.h"
 #include "frame/shared/ruleerror.h"
 
 #include <QCoreApplication>
@@ -15,14 +16,6 @@ constexpr size_t mostErrorsShown = 100;
 
 QString tr(const char *text) { return QCoreApplication::translate("ImportCommand", text); }
 
-QString kindNames()
-{
-    QStringList names;
-    for (const ImportKind &kind : importKinds())
-        names.append(kind.name);
-    return names.join(", "_L1);
-}
-
 const ImportKind &requireKind(const QString &name)
 {
     if (const ImportKind *kind = findImportKind(name))
@@ -30,7 +23,7 @@ const ImportKind &requireKind(const QString &name)
     const QStringList coming = {u"usage"_s, u"adjustments"_s};
     if (coming.contains(name))
         throw UsageError(tr("'import %1' is not available yet").arg(name));
-    throw UsageError(tr("'import' knows no '%1', but: %2").arg(name, kindNames()));
+    throw UsageError(tr("'import' knows no '%1', but: %2").arg(name, namesOf(importKinds())));
 }
 
 [[noreturn]] void reportErrors(Console &console, const QString &fileName, const ImportErrors &errors)
@@ -74,7 +67,7 @@ Command importCommand()
            "WarehouseName, TypeName, CurrencyName. The rows of a document are those with the same document\n"
            "columns, one after the other. Numbers, dates and periods left empty are assigned.\n"
            "Rows are refused by the rules of the screens, each as FILE:LINE: message.")
-            .arg(kindNames());
+            .arg(namesOf(importKinds()));
     command.options = {{u"yes"_s, {}, tr("answers yes where a screen would ask")}};
     command.run = runImport;
     return command;

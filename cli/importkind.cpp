@@ -1,6 +1,7 @@
 #include "cli/importkind.h"
 
 #include "cli/masterimport.h"
+#include "cli/named.h"
 #include "cli/receiptimport.h"
 #include "data/layouts.h"
 #include "master/masterkinds.h"
@@ -210,14 +211,7 @@ const QList<ImportKind> &importKinds()
     return kinds;
 }
 
-const ImportKind *findImportKind(const QString &name)
-{
-    for (const ImportKind &kind : importKinds()) {
-        if (kind.name == name)
-            return &kind;
-    }
-    return nullptr;
-}
+const ImportKind *findImportKind(const QString &name) { return findNamed(importKinds(), name); }
 
 const ImportCell *ImportRow::cell(QStringView target) const
 {

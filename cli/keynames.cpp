@@ -33,4 +33,10 @@ Engine::Value KeyNames::read(const NameLookup &lookup, const QString &name) cons
     return Engine::singleValue(m_database, "SELECT %1"_L1.arg(lookup.keyField) + rows, {name});
 }
 
+bool isNumberTaken(const Engine::Table &table, const QString &numberField)
+{
+    const QString sql = u"SELECT count(*) FROM %1 WHERE %2 = ?"_s.arg(table.name(), numberField);
+    return Engine::singleValue(table.database(), sql, {table.value(numberField)}).toInt64() > 0;
+}
+
 } // namespace Tallymere

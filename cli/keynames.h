@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/importkind.h"
+#include "engine/table.h"
 
 #include <QHash>
 
@@ -24,5 +25,8 @@ private:
     Engine::Database &m_database;
     QHash<QString, Engine::Value> m_known; // by table and name
 };
+
+// A number that a counter gave to the new record in hand may have been given to another one by hand.
+bool isNumberTaken(const Engine::Table &table, const QString &numberField);
 
 } // namespace Tallymere

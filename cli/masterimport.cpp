@@ -1,7 +1,6 @@
 #include "cli/masterimport.h"
 
 #include "engine/error.h"
-#include "engine/query.h"
 #include "frame/shared/ruleerror.h"
 
 using namespace Qt::StringLiterals;
@@ -42,7 +41,6 @@ void MasterImport::addRow(const ImportRow &row)
     m_record->save();
 }
 
-// A number from the counter may have been given to a record by hand; then the next one is taken.
 void MasterImport::beginRecord(const ImportRow &row)
 {
     const QString numberField = m_record->kind().numberField;
@@ -53,9 +51,7 @@ void MasterImport::beginRecord(const ImportRow &row)
     m_record->newRecord();
     if (numberField.isEmpty())
         return;
-    const QString sql = u"SELECT count(*) FROM %1 WHERE %2 = ?"_s.arg(m_record->kind().table, numberField);
-    Engine::Database &database = m_record->table().database();
-    while (Engine::singleValue(database, sql, {m_record->table().value(numberField)}).toInt64() > 0) {
+    while (isNumberTaken(m_record->table(), numberField)) {
         m_record->cancel();
         m_record->newRecord();
     }

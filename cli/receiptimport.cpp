@@ -1,7 +1,6 @@
 #include "cli/receiptimport.h"
 
 #include "engine/error.h"
-#include "engine/query.h"
 #include "frame/shared/ruleerror.h"
 
 using namespace Qt::StringLiterals;
@@ -52,16 +51,13 @@ void ReceiptImport::add(ImportDocument &document, ImportErrors &errors)
         m_entry.cancel();
 }
 
-// A number from the counter may have been given to a receipt by hand; then the next one is taken.
 void ReceiptImport::beginReceipt(const ImportRow &row)
 {
     const ImportCell *given = row.cell(u"ReceiptNo");
     if (given && !given->value.isNull())
         return m_entry.newDocument(given->value.toText());
     m_entry.newDocument();
-    const QString sql = u"SELECT count(*) FROM IReceipt WHERE ReceiptNo = ?"_s;
-    Engine::Database &database = m_entry.header().database();
-    while (Engine::singleValue(database, sql, {m_entry.header().value(u"ReceiptNo")}).toInt64() > 0) {
+    while (isNumberTaken(m_entry.header(), m_entry.kind().numberField)) {
         m_entry.cancel();
         m_entry.newDocument();
     }

@@ -1,5 +1,6 @@
 #include "cli/command.h"
 #include "cli/csvlist.h"
+#include "cli/named.h"
 #include "data/layouts.h"
 #include "data/transtypes.h"
 #include "engine/table.h"
@@ -116,21 +117,11 @@ const QList<ListKind> &listKinds()
     return kinds;
 }
 
-QString listKindNames()
-{
-    QStringList names;
-    for (const ListKind &kind : listKinds())
-        names.append(kind.name);
-    return names.join(", "_L1);
-}
-
 const ListKind &requireListKind(const QString &name)
 {
-    for (const ListKind &kind : listKinds()) {
-        if (kind.name == name)
-            return kind;
-    }
-    throw UsageError(tr("'list' knows no '%1', but: %2").arg(name, listKindNames()));
+    if (const ListKind *kind = findNamed(listKinds(), name))
+        return *kind;
+    throw UsageError(tr("'list' knows no '%1', but: %2").arg(name, namesOf(listKinds())));
 }
 
 void runList(CommandContext &context)
@@ -174,7 +165,7 @@ Command listCommand()
     command.words = u"KIND"_s;
     command.fewestWords = command.mostWords = 1;
     command.summary = tr("a list of master records or documents as CSV, all fields");
-    command.details = tr("KIND: %1").arg(listKindNames());
+    command.details = tr("KIND: %1").arg(namesOf(listKinds()));
     command.options = {csvOption(), filterOption()};
     command.run = runList;
     return command;
