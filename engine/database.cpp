@@ -30,6 +30,10 @@ std::unique_ptr<Connection> openLocal(const Database &database)
             tr("The database folder %1 does not exist or cannot be reached. Check the settings and the "
                "network.")
                 .arg(folder));
+    if (!QFileInfo(folder).isExecutable())
+        throw EngineError(
+            ErrorCode::AccessDenied,
+            tr("You have no right to enter the database folder %1. Ask its owner for access.").arg(folder));
     const QString fileName = database.name() + ".sqlite"_L1;
     const QString path = folder + u'/' + fileName;
     if (!database.createIfMissing && !QFileInfo::exists(path))
