@@ -1,13 +1,12 @@
 #include "data/datamodule.h"
 
 #include "data/layouts.h"
-#include "engine/error.h"
 #include "engine/locks.h"
 #include "engine/query.h"
 #include "host/tables/hosttables.h"
-#include "tests/data/printers.h"
-#include "tests/data/recordingprompts.h"
-#include "tests/support/teststore.h"
+#include "tests/support/bothstores.h"
+#include "tests/support/failures.h"
+#include "tests/support/spokenprompts.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
@@ -15,7 +14,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
-using Engine::EngineError;
 using Engine::ErrorCode;
 using Engine::Table;
 using Engine::Value;
@@ -43,19 +41,6 @@ protected:
         return std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
     }
 
-    ErrorCode startFailure(QString *text = nullptr)
-    {
-        try {
-            start();
-        } catch (const EngineError &error) {
-            if (text)
-                *text = error.text();
-            return error.code();
-        }
-        ADD_FAILURE() << "the start went through";
-        return ErrorCode::General;
-    }
-
     // Changes the one row of a table, as a user or the host does.
     void change(const QString &name, const QList<std::pair<QString, Value>> &values)
     {
@@ -71,7 +56,7 @@ protected:
 
     TestStore store;
     MemorySettings settings;
-    RecordingPrompts prompts;
+    SpokenPrompts prompts;
 };
 
 TEST_P(DataModule, FirstStartMakesEveryTableAndSeedsFourRows)
@@ -215,7 +200,7 @@ TEST_P(DataModule, TableInUseThatMustChangeStopsTheStart)
     tax.open();
 
     QString text;
-    EXPECT_EQ(startFailure(&text), ErrorCode::TableInUse);
+    EXPECT_EQ(errorOf([&] { start(); }, &text), ErrorCode::TableInUse);
     EXPECT_TRUE(text.contains(u"Tax"_s)) << text.toStdString();
     EXPECT_TRUE(store.database().differs(Layouts::tax()));
 
@@ -227,7 +212,7 @@ TEST_P(DataModule, TableInUseThatMustChangeStopsTheStart)
 TEST_P(DataModule, DatabaseWithoutHostIsLeftAlone)
 {
     QString text;
-    EXPECT_EQ(startFailure(&text), ErrorCode::NoSuchTable);
+    EXPECT_EQ(errorOf([&] { start(); }, &text), ErrorCode::NoSuchTable);
     EXPECT_TRUE(text.startsWith(u"The table \"Config\" of the host application is missing in "_s))
         << text.toStdString();
     EXPECT_TRUE(store.database().tableNames().isEmpty());
@@ -279,50 +264,4 @@ TEST_P(DataModule, ParametersAndTemporaryTablesStayOutOfTheDatabase)
     EXPECT_FALSE(QFile::exists(file));
 }
 
-TEST_P(DataModule, HostTablesThatAreThereStayAsTheyAre)
-{
-    makeHost();
-    change(u"Config"_s, {{u"Org_City"_s, "Leeds"_L1}});
-    store.execute(u"DROP TABLE CusType"_s);
-    HostTables::createHostTables(store.database(), u"Somebody Else"_s, u"CAN"_s);
-    EXPECT_EQ(stored(u"SELECT Organizatn FROM Config WHERE Org_City = 'Leeds'"_s).toText(), u"Riverside Meals"_s);
-    EXPECT_EQ(stored(u"SELECT count(*) FROM Config"_s).toInt(), 1);
-    EXPECT_TRUE(store.database().tableExists(u"CusType"_s));
-}
-
-INSTANTIATE_TEST_SUITE_P(Stores, DataModule, testing::Values(Store::Local, Store::Remote), caseName);
-
-TEST(DataModuleLocation, MissingFolderIsSaidAndThenFailsInTheEngine)
-{
-    struct Case
-    {
-        QString alias, said;
-    };
-    const Case cases[] = {{u""_s, u"has not been defined"_s}, {u"/no/such/folder"_s, u"/no/such/folder"_s}};
-    for (const Case &c : cases) {
-        MemorySettings settings;
-        settings.write(u"Alias"_s, databaseName, c.alias);
-        RecordingPrompts prompts;
-        try {
-            TDataModuleTallymere dataModule(settings, prompts);
-            FAIL() << "opened";
-        } catch (const EngineError &error) {
-            EXPECT_EQ(error.code(), ErrorCode::CannotOpen) << error.what();
-        }
-        ASSERT_EQ(prompts.said.size(), 1);
-        EXPECT_TRUE(prompts.said.first().contains(c.said));
-    }
-}
-
-TEST(DataModuleLocation, SettingsLeadToTheDatabase)
-{
-    TestStore store(Store::Local);
-    HostTables::createHostTables(store.database(), u"Riverside Meals"_s, u"USA"_s);
-    MemorySettings settings;
-    settings.write(u"Alias"_s, spacedDatabaseName, store.directory());
-    RecordingPrompts prompts;
-    TDataModuleTallymere dataModule(settings, prompts, {.currentUser = u"anna"_s});
-    EXPECT_EQ(dataModule.tblCompany().text(u"CompanyName"), u"Riverside Meals"_s);
-    EXPECT_EQ(dataModule.currentUser(), u"anna"_s);
-    EXPECT_TRUE(prompts.said.isEmpty());
-}
+ON_BOTH_STORES(DataModule);

@@ -1,8 +1,8 @@
 #include "frame/shared/formats.h"
 
-#include "frame/shared/ruleerror.h"
 #include "frame/shared/textnumbers.h"
-#include "tests/data/printers.h"
+#include "tests/support/bothstores.h"
+#include "tests/support/failures.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -18,24 +18,14 @@ namespace {
 // The message with which a text is refused; empty when it is taken.
 QString refusal(const FieldFormat &format, const QString &text)
 {
-    try {
-        format.parse(text);
-    } catch (const RuleError &error) {
-        return error.message();
-    }
-    return {};
+    return refusalOf([&] { format.parse(text); }).section(u" -> "_s, 0, 0);
 }
 
 } // namespace
 
 TEST(CurrencyFormat, ShowsAndEditsByItsPatterns)
 {
-    struct Case
-    {
-        qint64 tenThousandths;
-        QString shown, edited;
-    };
-    const Case cases[] = {
+    const std::tuple<qint64, QString, QString> cases[] = {
         {0, u"0.00"_s, u"0.00"_s},
         {5, u"0.001"_s, u"0.001"_s}, // 0.0005
         {4, u"0.00"_s, u"0.00"_s},
@@ -48,10 +38,10 @@ TEST(CurrencyFormat, ShowsAndEditsByItsPatterns)
         {10000000, u"1,000.00"_s, u"1000.00"_s},
     };
     const FieldFormat format = currencyFormat(RegionalSettings());
-    for (const Case &c : cases) {
-        const Value value(Money::fromTenThousandths(c.tenThousandths));
-        EXPECT_EQ(format.display(value), c.shown);
-        EXPECT_EQ(format.edit(value), c.edited);
+    for (const auto &[tenThousandths, shown, edited] : cases) {
+        const Value value(Money::fromTenThousandths(tenThousandths));
+        EXPECT_EQ(format.display(value), shown);
+        EXPECT_EQ(format.edit(value), edited);
     }
     EXPECT_EQ(format.display(Value()), u""_s);
     EXPECT_EQ(format.display(Value(1e20)), Value(1e20).toText()) << "damaged data shows";
@@ -73,11 +63,7 @@ TEST(CurrencyFormat, ReadsWhatPeopleType)
                              u"(5)"_s, u"5 $"_s, u"٣"_s})
         EXPECT_EQ(refusal(format, text), u"'%1' is not a valid number"_s.arg(text));
     EXPECT_EQ(refusal(format, u"999999999999999999"_s), u"'999999999999999999' is too large"_s);
-    try {
-        format.parse(u"x"_s);
-    } catch (const RuleError &error) {
-        EXPECT_EQ(error.column(), u"UnitCost"_s);
-    }
+    EXPECT_EQ(refusalOf([&] { format.parse(u"x"_s); }), u"'x' is not a valid number -> UnitCost"_s);
 }
 
 TEST(Numbers, FollowTheUsersSeparators)

@@ -3,8 +3,7 @@
 #include "data/layouts.h"
 #include "engine/error.h"
 #include "host/tables/hosttables.h"
-#include "tests/data/printers.h"
-#include "tests/support/teststore.h"
+#include "tests/support/bothstores.h"
 
 #include <gtest/gtest.h>
 
@@ -73,4 +72,4 @@ TEST_P(Lookups, CalculatedFieldsLeaveOutWhatIsMissing)
     EXPECT_EQ(lookups.tblCustomer().text(u"ShipToAddress"), u"3 Quay, Leeds"_s);
 }
 
-INSTANTIATE_TEST_SUITE_P(Stores, Lookups, testing::Values(Store::Local, Store::Remote), caseName);
+ON_BOTH_STORES(Lookups);

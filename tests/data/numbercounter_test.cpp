@@ -1,14 +1,11 @@
 #include "data/numbercounter.h"
 
 #include "data/layouts.h"
-#include "engine/error.h"
 #include "engine/query.h"
-#include "tests/data/printers.h"
-#include "tests/support/teststore.h"
+#include "tests/support/bothstores.h"
+#include "tests/support/failures.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -32,23 +29,21 @@ protected:
 
 TEST_P(NumberCounter, EmptyTableGetsItsRowAndCountersRestart)
 {
-    struct Case
-    {
-        qint64 before, number;
-    };
-    for (const Case c : {Case{0, 1001}, {1000, 1001}, {1001, 1001}, {10'000'000, 10'000'000}, {10'000'001, 1001}}) {
+    const std::pair<qint64, qint64> cases[] = {
+        {0, 1001}, {1000, 1001}, {1001, 1001}, {10'000'000, 10'000'000}, {10'000'001, 1001}};
+    for (const auto &[before, expected] : cases) {
         qint64 id = -1;
         qint64 number = -1;
         takeNumbers(store.database(), u"ItemCtl"_s, [&](CounterRow &row) {
-            if (c.before != 0)
-                row.set(u"NextInvReceiptNo", c.before);
+            if (before != 0)
+                row.set(u"NextInvReceiptNo", before);
             row.restartWhenZero(u"NextItemID", 10000);
             id = row.take(u"NextItemID");
             row.restartOutside(u"NextInvReceiptNo", 1001, 10'000'000, 1001);
             number = row.take(u"NextInvReceiptNo");
         });
-        EXPECT_EQ(number, c.number);
-        EXPECT_EQ(stored(u"NextInvReceiptNo"_s), c.number + 1);
+        EXPECT_EQ(number, expected);
+        EXPECT_EQ(stored(u"NextInvReceiptNo"_s), expected + 1);
         EXPECT_EQ(stored(u"NextItemID"_s), id + 1);
     }
     EXPECT_EQ(stored(u"NextItemID"_s), 10005);
@@ -110,41 +105,12 @@ TEST_P(NumberCounter, TableHeldByAnotherUserIsTriedAndReported)
 
     held.open();
     pauses = 10;
-    try {
-        takeNumbers(store.database(), u"ItemCtl"_s, [](CounterRow &) {}, {.attempts = 5});
-        FAIL() << "taken although another user has the table open";
-    } catch (const Engine::EngineError &error) {
-        EXPECT_EQ(error.code(), Engine::ErrorCode::TableInUse);
-        EXPECT_TRUE(error.text().contains(u"ItemCtl"_s)) << error.what();
-    }
+    QString text;
+    EXPECT_EQ(
+        errorOf([&] { takeNumbers(store.database(), u"ItemCtl"_s, [](CounterRow &) {}, {.attempts = 5}); }, &text),
+        Engine::ErrorCode::TableInUse);
+    EXPECT_TRUE(text.contains(u"ItemCtl"_s)) << text.toStdString();
     EXPECT_EQ(pauses, 14);
 }
 
-TEST_P(NumberCounter, ProcessesNeverGetTheSameNumber)
-{
-    constexpr int processes = 3;
-    constexpr int each = 60;
-    const bool local = GetParam() == Store::Local;
-    std::vector<std::unique_ptr<QProcess>> takers;
-    for (int i = 0; i < processes; ++i) {
-        takers.push_back(std::make_unique<QProcess>());
-        takers.back()->start(QStringLiteral(COUNTER_TAKER),
-                             {local ? store.directory() : u"127.0.0.1"_s, local ? QString() : store.remoteName(),
-                              QString::number(each)});
-    }
-
-    QList<int> numbers;
-    for (const auto &taker : takers) {
-        ASSERT_TRUE(taker->waitForFinished(60'000));
-        const QString output = QString::fromUtf8(taker->readAllStandardOutput());
-        ASSERT_EQ(taker->exitCode(), 0) << output.toStdString();
-        for (const QString &line : output.split(u'\n', Qt::SkipEmptyParts))
-            numbers << line.toInt();
-    }
-    std::sort(numbers.begin(), numbers.end());
-    ASSERT_EQ(numbers.size(), processes * each);
-    for (int i = 0; i < numbers.size(); ++i)
-        ASSERT_EQ(numbers[i], 1001 + i);
-}
-
-INSTANTIATE_TEST_SUITE_P(Stores, NumberCounter, testing::Values(Store::Local, Store::Remote), caseName);
+ON_BOTH_STORES(NumberCounter);

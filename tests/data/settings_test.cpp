@@ -1,7 +1,7 @@
 #include "frame/shared/connectiondecision.h"
 #include "frame/shared/settingsstore.h"
-#include "tests/data/printers.h"
-#include "tests/data/recordingprompts.h"
+#include "tests/support/bothstores.h"
+#include "tests/support/spokenprompts.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
@@ -72,8 +72,9 @@ TEST(Connection, OnlyTheExactLetterMeansClientServer)
 TEST(Connection, DatabaseIsLookedForUnderBothNames)
 {
     QTemporaryDir folder;
-    const QString notDefined = u"The Corvane database has not been defined. The application can not continue. "
-                               "Corvane will now terminate..."_s;
+    const QString notDefined =
+        u"error: The Corvane database has not been defined. The application can not continue. "
+        "Corvane will now terminate..."_s;
     struct Case
     {
         QString mode, alias, spacedAlias, expected, said;
@@ -83,7 +84,7 @@ TEST(Connection, DatabaseIsLookedForUnderBothNames)
         {u"F"_s, {}, folder.path(), folder.path(), {}},
         {u"F"_s, {}, {}, {}, notDefined},
         {u"F"_s, u"/no/such"_s, folder.path(), u"/no/such"_s,
-         u"The Corvane database:\n/no/such\ndoes not appear to be valid. Corvane will now terminate..."_s},
+         u"error: The Corvane database:\n/no/such\ndoes not appear to be valid. Corvane will now terminate..."_s},
         {u"C"_s, u"/on/server"_s, {}, u"/on/server"_s, {}},
         {u"C"_s, {}, u"/spaced"_s, u"/spaced"_s, {}},
         {u"C"_s, {}, {}, {}, notDefined},
@@ -95,7 +96,7 @@ TEST(Connection, DatabaseIsLookedForUnderBothNames)
         settings.write(u"Alias"_s, spacedDatabaseName, c.spacedAlias);
         Engine::Session session(u"Main"_s);
         Engine::Database database(session, databaseName);
-        RecordingPrompts prompts;
+        SpokenPrompts prompts;
         EXPECT_EQ(databaseTallymereBeforeConnect(database, settings, prompts), c.mode);
         EXPECT_EQ(database.directory, c.expected);
         EXPECT_EQ(database.remoteName, c.mode == u"C"_s ? u"Corvane"_s : u""_s);

@@ -34,12 +34,7 @@ bool obey(Connection &connection, const QStringList &words)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    TestUser user(u"anna"_s, u"Corvane"_s);
-    if (arguments[1] == "local"_L1)
-        user.database.directory = arguments[2];
-    else
-        user.useTestServer(arguments[2]);
+    TestUser user(QCoreApplication::arguments().mid(1));
     try {
         for (std::string line; std::getline(std::cin, line);) {
             const QStringList words = QString::fromStdString(line).split(u' ');

@@ -48,51 +48,17 @@ TableLayout RecordTest::line()
 
 void RecordTest::addVendors()
 {
-    const struct
-    {
-        QString name;
-        Value suspended;
-        QDate since;
-        double balance;
-    } rows[] = {{u"Corner"_s, false, QDate(2003, 5, 1), 10.5},
-                {u"apple"_s, true, QDate(2004, 1, 1), 0},
-                {u"Bell"_s, Value(), QDate(), -3.25},
-                {QString(), true, QDate(2004, 1, 1), 100},
-                {u"Äpfel"_s, false, QDate(2001, 12, 31), 7}};
-    Table table(database(), u"Vendor"_s);
-    table.open();
-    int id = 0;
-    for (const auto &row : rows) {
-        table.append();
-        table.set(u"VendorID", ++id);
-        table.set(u"VendorNo", QString::number(1000 + id));
-        if (!row.name.isNull())
-            table.set(u"VendorName", row.name);
-        table.set(u"Suspended", row.suspended);
-        table.set(u"Since", row.since);
-        table.set(u"Balance", row.balance);
-        table.post();
-    }
+    store.execute(u"INSERT INTO Vendor (VendorID, VendorNo, VendorName, Suspended, Since, Balance) VALUES "
+                  "(1, '1001', 'Corner', false, '2003-05-01', 10.5), (2, '1002', 'apple', true, '2004-01-01', 0), "
+                  "(3, '1003', 'Bell', NULL, NULL, -3.25), (4, '1004', NULL, true, '2004-01-01', 100), "
+                  "(5, '1005', 'Äpfel', false, '2001-12-31', 7)"_s);
 }
 
 void RecordTest::addDocuments()
 {
-    Table documents(database(), u"Document"_s);
-    Table lines(database(), u"Line"_s);
-    documents.open();
-    lines.open();
-    for (int document = 1; document <= 3; ++document) {
-        documents.append();
-        documents.set(u"VendorID", document);
-        documents.post();
-        for (int seq = 1; seq <= document; ++seq) {
-            lines.append();
-            lines.set(u"DocumentID", document);
-            lines.set(u"Seq", seq);
-            lines.set(u"Quantity", document * 10 + seq);
-            lines.post();
-        }
-    }
+    store.execute(u"INSERT INTO Document (VendorID) VALUES (1), (2), (3); "
+                  "INSERT INTO Line (DocumentID, Seq, Quantity) VALUES "
+                  "(1, 1, 11), (2, 1, 21), (2, 2, 22), (3, 1, 31), (3, 2, 32), (3, 3, 33)"_s);
 }
 
 QString RecordTest::names(DataSet &set, const QString &field)

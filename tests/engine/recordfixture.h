@@ -2,14 +2,10 @@
 
 #include "engine/dialect.h"
 #include "engine/driver.h"
-#include "engine/error.h"
 #include "engine/query.h"
 #include "engine/table.h"
-#include "tests/support/teststore.h"
-
-#include <gtest/gtest.h>
-
-#include <optional>
+#include "tests/support/bothstores.h"
+#include "tests/support/failures.h"
 
 // A small store of vendors, a control row and documents with lines, fresh for each test, in both stores.
 class RecordTest : public testing::TestWithParam<Store>
@@ -39,14 +35,3 @@ protected:
 
     TestStore store;
 };
-
-// The code of the error that the call ends with, or nothing.
-template <typename Call> std::optional<Engine::ErrorCode> errorOf(Call call)
-{
-    try {
-        call();
-    } catch (const Engine::EngineError &error) {
-        return error.code();
-    }
-    return std::nullopt;
-}

@@ -100,7 +100,7 @@ TEST(Repair, RowsOfSoundPagesAreKept)
         const Damage damage = pageOf(store.database().connection(), layout.name);
         ASSERT_GT(damage.rows, 1);
         overwrite(store, damage);
-        EXPECT_EQ(codeOf([&] { count(store, layout); }), ErrorCode::Corrupt);
+        EXPECT_EQ(errorOf([&] { count(store, layout); }), ErrorCode::Corrupt);
         EXPECT_EQ(store.database().repairTable(layout.name), damage.rows);
         EXPECT_EQ(count(store, layout), rowCount - damage.rows);
         EXPECT_EQ(check(store), u"ok"_s);
@@ -131,6 +131,6 @@ TEST(Repair, ASoundTableStaysAsItIs)
         fill(store, paired());
         EXPECT_EQ(store.database().repairTable(u"IBalance"_s), 0);
         EXPECT_EQ(count(store, paired()), rowCount);
-        EXPECT_EQ(codeOf([&] { store.database().repairTable(u"Missing"_s); }), ErrorCode::NoSuchTable);
+        EXPECT_EQ(errorOf([&] { store.database().repairTable(u"Missing"_s); }), ErrorCode::NoSuchTable);
     }
 }

@@ -36,12 +36,6 @@ QList<TableLayout> layouts()
           {u"BYDAY"_s, u"Since;VendorID"_s, IndexOption::Descending},
           {u"MIXED"_s, u"NetDays;VendorName"_s, IndexOption::CaseInsensitive | IndexOption::Descending},
           {u"OWING"_s, u"Owing"_s, IndexOption::None}}},
-        {u"IHist"_s,
-         {{u"IHistID"_s, FieldType::AutoInc}, {u"ItemID"_s, FieldType::Integer}},
-         {primaryOver(u"IHistID"_s), {u"ITEMID"_s, u"ItemID"_s, IndexOption::None}}},
-        {u"IBalance"_s,
-         {{u"ItemID"_s, FieldType::Integer}, {u"WarehouseID"_s, FieldType::Integer}, {u"Qty"_s, FieldType::Float}},
-         {primaryOver(u"ItemID;WarehouseID"_s), {u"ITEMID"_s, u"ItemID"_s, IndexOption::None}}},
         {u"VContact"_s,
          {{u"VendorID"_s, FieldType::Integer},
           {u"ContactID"_s, FieldType::AutoInc},
@@ -82,7 +76,7 @@ TEST_P(SchemaTest, EveryLayoutIsReadBackAsItWasMade)
     EXPECT_EQ(names.size(), layouts().size()) << names.join(u' ').toStdString();
     database.dropTable(u"Vendor"_s);
     EXPECT_FALSE(database.tableExists(u"Vendor"_s));
-    EXPECT_EQ(codeOf([&] { database.dropTable(u"Vendor"_s); }), ErrorCode::NoSuchTable);
+    EXPECT_EQ(errorOf([&] { database.dropTable(u"Vendor"_s); }), ErrorCode::NoSuchTable);
 }
 
 TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
@@ -103,23 +97,14 @@ TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
         {{u"F"_s, FieldType::Text, 20}, u"'99999999999'", {u"F"_s, FieldType::Integer}, u"-"},
         {{u"F"_s, FieldType::Text, 20}, u"'2024-02-29'", {u"F"_s, FieldType::Date}, u"2024-02-29"},
         {{u"F"_s, FieldType::Text, 20}, u"'2023-02-29'", {u"F"_s, FieldType::Date}, u"-"},
-        {{u"F"_s, FieldType::Text, 20}, u"'soon'", {u"F"_s, FieldType::Date}, u"-"},
         {{u"F"_s, FieldType::Text, 20}, u"'2024-02-29'", {u"F"_s, FieldType::DateTime}, u"2024-02-29 00:00:00"},
         {{u"F"_s, FieldType::Text, 20}, u"'Yes'", {u"F"_s, FieldType::Boolean}, u"true"},
         {{u"F"_s, FieldType::Text, 20}, u"'maybe'", {u"F"_s, FieldType::Boolean}, u"-"},
         {{u"F"_s, FieldType::Integer}, u"40000", {u"F"_s, FieldType::SmallInt}, u"-"},
-        {{u"F"_s, FieldType::Integer}, u"-7", {u"F"_s, FieldType::SmallInt}, u"-7"},
-        {{u"F"_s, FieldType::Integer}, u"7", {u"F"_s, FieldType::Float}, u"7"},
         {{u"F"_s, FieldType::Float}, u"-2.9", {u"F"_s, FieldType::Integer}, u"-2"},
         {{u"F"_s, FieldType::Float}, u"1e12", {u"F"_s, FieldType::Integer}, u"-"},
-        {{u"F"_s, FieldType::Float}, u"3", {u"F"_s, FieldType::Text, 10}, u"3"},
         {{u"F"_s, FieldType::Integer}, u"2", {u"F"_s, FieldType::Boolean}, u"true"},
-        {{u"F"_s, FieldType::Date}, u"'2024-02-29'", {u"F"_s, FieldType::DateTime}, u"2024-02-29 00:00:00"},
         {{u"F"_s, FieldType::DateTime}, u"'2024-02-29 10:11:12'", {u"F"_s, FieldType::Date}, u"2024-02-29"},
-        {{u"F"_s, FieldType::DateTime},
-         u"'2024-02-29 10:11:12'",
-         {u"F"_s, FieldType::Memo},
-         u"2024-02-29 10:11:12"},
         {{u"F"_s, FieldType::Date}, u"'2024-02-29'", {u"F"_s, FieldType::Integer}, u"-"},
         {{u"F"_s, FieldType::Integer}, u"NULL", {u"F"_s, FieldType::Text, 5}, u"-"},
     };
@@ -197,7 +182,7 @@ TEST_P(SchemaTest, ARestructuringThatFailsChangesNothing)
     const TableLayout before = *connection.describe(u"T"_s);
     layout.fields[1].size = 3;
     layout.indexes = {primaryOver(u"ID"_s)};
-    EXPECT_EQ(codeOf([&] { database.restructureTable(layout); }), ErrorCode::KeyViolation);
+    EXPECT_EQ(errorOf([&] { database.restructureTable(layout); }), ErrorCode::KeyViolation);
     EXPECT_EQ(connection.describe(u"T"_s)->fields, before.fields);
     EXPECT_EQ(one(u"SELECT count(*) FROM T WHERE Name = 'again'"_s), u"1"_s);
 }
@@ -220,10 +205,10 @@ TEST_P(SchemaTest, ATableThatOthersHaveOpenIsNotChanged)
     ASSERT_TRUE(other->database.connection().locks().tryOpenShared(u"Item"_s));
     layout.fields[1].size = 20;
     QString message;
-    EXPECT_EQ(codeOf([&] { database.restructureTable(layout); }, &message), ErrorCode::TableInUse);
+    EXPECT_EQ(errorOf([&] { database.restructureTable(layout); }, &message), ErrorCode::TableInUse);
     EXPECT_TRUE(message.contains(u"Item"_s));
-    EXPECT_EQ(codeOf([&] { database.repairTable(u"Item"_s); }), ErrorCode::TableInUse);
-    EXPECT_EQ(codeOf([&] { database.dropTable(u"Item"_s); }), ErrorCode::TableInUse);
+    EXPECT_EQ(errorOf([&] { database.repairTable(u"Item"_s); }), ErrorCode::TableInUse);
+    EXPECT_EQ(errorOf([&] { database.dropTable(u"Item"_s); }), ErrorCode::TableInUse);
     other->database.connection().locks().closeShared(u"Item"_s);
     database.restructureTable(layout);
     EXPECT_FALSE(database.differs(layout));

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "engine/dialect.h"
-#include "engine/error.h"
-#include "tests/support/teststore.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/bothstores.h"
+#include "tests/support/failures.h"
 
 // A case that runs on both stores.
 class StoreTest : public testing::TestWithParam<Store>
@@ -23,22 +21,3 @@ protected:
         return statement->isNull(0) ? QStringLiteral("-") : statement->textAt(0);
     }
 };
-
-#define ON_BOTH_STORES(suite)                                                                                      \
-    INSTANTIATE_TEST_SUITE_P(, suite, testing::Values(Store::Local, Store::Remote),                                \
-                             [](const auto &param) { return storeName(param.param); })
-
-// The code of the EngineError that the call throws; General - 1 when it throws none.
-template <typename Call> Engine::ErrorCode codeOf(Call call, QString *text = nullptr)
-{
-    try {
-        call();
-    } catch (const Engine::EngineError &error) {
-        if (text)
-            *text = error.text();
-        return error.code();
-    }
-    return static_cast<Engine::ErrorCode>(static_cast<int>(Engine::ErrorCode::General) - 1);
-}
-
-inline void PrintTo(const QString &text, std::ostream *stream) { *stream << '"' << text.toStdString() << '"'; }

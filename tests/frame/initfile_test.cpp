@@ -55,13 +55,7 @@ TEST_F(InitFileTest, ReadsValuesAsOtherProgramsWriteThem)
 
 TEST_F(InitFileTest, WritingKeepsEveryOtherLine)
 {
-    struct Case
-    {
-        const char *name;
-        QByteArray before;
-        QByteArray after;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, QByteArray, QByteArray> cases[] = {
         {"no file", "", "[Companies]\nSample Data=x\n"},
         {"other section only", "[General]\nDialerPort=com2\n",
          "[General]\nDialerPort=com2\n[Companies]\nSample Data=x\n"},
@@ -75,13 +69,13 @@ TEST_F(InitFileTest, WritingKeepsEveryOtherLine)
          "; K\xFC"
          "che\r\n\r\n[Companies]\r\nSample Data=x\r\n"},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto &[name, before, after] : cases) {
+        SCOPED_TRACE(name);
         QFile::remove(path());
-        if (!c.before.isEmpty())
-            write(c.before);
+        if (!before.isEmpty())
+            write(before);
         ASSERT_TRUE(InitFile(path()).setValue(u"Companies"_s, u"Sample Data"_s, u"x"_s));
-        EXPECT_EQ(read(), c.after);
+        EXPECT_EQ(read(), after);
     }
     EXPECT_FALSE(InitFile(folder() + "/none/HX1.ini"_L1).setValue(u"a"_s, u"b"_s, u"c"_s));
 }

@@ -1,5 +1,4 @@
 #include "frame/frmtallymeresystem.h"
-#include "frame/screenregistry.h"
 #include "tests/frame/testcompany.h"
 
 #include <QAction>
@@ -85,9 +84,7 @@ protected:
             screen->setObjectName(u"frmInvTotals"_s);
             return screen.data();
         };
-        registry.add(
-            u"frmInvTotals"_s,
-            {.create = create, .refresh = {}, .resetFilter = {}, .showHandler = {}, .firstRecord = {}, .post = {}});
+        registry.add(u"frmInvTotals"_s, plainScreen(create));
         return registry;
     }
 
@@ -125,10 +122,10 @@ TEST_F(OpeningTest, WithoutAHostAnErrorIsShownAndNothingOpens)
     QWidget plain;
     for (QWidget *window : {static_cast<QWidget *>(nullptr), &plain}) {
         link(window);
-        company.prompts.said.clear();
         EXPECT_FALSE(open());
-        EXPECT_EQ(company.prompts.said.size(), 1);
-        EXPECT_TRUE(company.prompts.said.value(0).contains(u"user"_s)) << qPrintable(company.prompts.said.value(0));
+        const QStringList said = company.prompts.take();
+        EXPECT_EQ(said.size(), 1);
+        EXPECT_TRUE(said.value(0).contains(u"user"_s)) << qPrintable(said.value(0));
     }
     EXPECT_EQ(menu.actions().size(), 1) << "the item has moved, not doubled";
 }
@@ -173,7 +170,7 @@ TEST_F(OpeningTest, MissingDatabaseIsShownAndTheNextOpeningTriesAgain)
     setRegString(company.settings, u"Alias"_s, u"/nowhere/kitchen"_s);
     EXPECT_FALSE(open());
     ASSERT_EQ(company.prompts.said.size(), 2); // the warning about the folder, then the engine's own words
-    EXPECT_TRUE(company.prompts.said[0].startsWith(u"The Corvane database:\n/nowhere/kitchen\n"_s));
+    EXPECT_TRUE(company.prompts.said[0].startsWith(u"error: The Corvane database:\n/nowhere/kitchen\n"_s));
     EXPECT_EQ(form.dataModule(), nullptr);
 
     setRegString(company.settings, u"Alias"_s, company.folder());

@@ -19,13 +19,6 @@ TestCompany::TestCompany()
 TestContext::TestContext()
     : data(company.settings, company.prompts)
     , lookups(data.databaseTallymere())
-    , context{.data = data,
-              .lookups = lookups,
-              .prompts = company.prompts,
-              .printerDefined = {},
-              .securityCheck = {},
-              .openScreen = {},
-              .hasScreen = {},
-              .showHelp = {}}
+    , context{.data = data, .lookups = lookups, .prompts = company.prompts}
 {
 }

@@ -3,10 +3,12 @@
 #include "controls/screencontext.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
+#include "frame/screenregistry.h"
 #include "frame/shared/settingsstore.h"
-#include "tests/data/recordingprompts.h"
+#include "tests/support/spokenprompts.h"
 
 #include <QTemporaryDir>
+#include <QWidget>
 
 // A company as the host keeps it, in a folder of its own, with settings that point there.
 class TestCompany
@@ -17,7 +19,7 @@ public:
     QString folder() const { return m_folder.path(); }
 
     Tallymere::MemorySettings settings;
-    RecordingPrompts prompts;
+    SpokenPrompts prompts;
 
 private:
     QTemporaryDir m_folder;
@@ -34,3 +36,14 @@ public:
     Tallymere::TdmLookUpsInv lookups;
     Tallymere::ScreenContext context;
 };
+
+// A screen that can be made and nothing more.
+inline Tallymere::ScreenKind plainScreen(std::function<QWidget *(Tallymere::ScreenContext &, QWidget *)> create =
+                                             [](Tallymere::ScreenContext &, QWidget *parent) {
+                                                 return new QWidget(parent, Qt::Window);
+                                             })
+{
+    Tallymere::ScreenKind kind;
+    kind.create = std::move(create);
+    return kind;
+}

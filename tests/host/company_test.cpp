@@ -24,15 +24,6 @@ TEST(HostCompany, IsReadFromTheFolderInTheSettings)
     EXPECT_EQ(company.problem, QString());
 }
 
-TEST(HostCompany, AFolderUnderTheSpacedNameIsFound)
-{
-    const QTemporaryDir folder;
-    makeCompany(folder.path(), u"Old Kitchen"_s);
-    MemorySettings settings;
-    settings.write(u"Alias"_s, u"Cor Vane"_s, folder.path());
-    EXPECT_EQ(readCompany(settings).name, u"Old Kitchen"_s);
-}
-
 TEST(HostCompany, WhatIsWrongIsTold)
 {
     const QTemporaryDir folder;

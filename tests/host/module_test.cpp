@@ -1,7 +1,6 @@
 #include "frame/shared/settingsstore.h"
 #include "host/company.h"
 #include "host/hostwindow.h"
-#include "host/moduleloader.h"
 #include "plgint/classregistry.h"
 #include "tests/host/privatesettings.h"
 
@@ -12,7 +11,6 @@
 #include <QLibrary>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -49,16 +47,6 @@ void onceModal(std::function<void(QWidget &)> action)
     timer->start(5);
 }
 
-// The text of the box that comes up, which is accepted.
-void answerBox(QString &text)
-{
-    onceModal([&text](QWidget &modal) {
-        if (auto *box = qobject_cast<QMessageBox *>(&modal))
-            text = box->text();
-        modal.close();
-    });
-}
-
 class ModuleTest : public testing::Test
 {
 protected:
@@ -73,11 +61,6 @@ protected:
 
 private:
     QTemporaryDir m_folder;
-};
-
-// A window that offers nothing, as a host that was built wrongly.
-class PlainWindow final : public QWidget
-{
 };
 
 } // namespace
@@ -159,19 +142,6 @@ TEST_F(ModuleTest, OpensFromTheMenuBeforeAndAfterAReload)
     EXPECT_EQ(mainForm(), nullptr);
     EXPECT_EQ(ClassRegistry::instance().classNames(), QStringList());
     window.openModule(); // nothing to open
-}
-
-TEST_F(ModuleTest, OpeningForAWindowThatIsNoHostShowsTheErrorBox)
-{
-    PlainWindow window;
-    QMenu menu;
-    ModuleLoader loader;
-    ASSERT_EQ(loader.load(moduleUnderTest, &window, &menu), QString());
-    QString text;
-    answerBox(text);
-    menu.actions().constFirst()->trigger();
-    EXPECT_TRUE(text.contains(u"user"_s)) << qPrintable(text);
-    EXPECT_FALSE(mainForm()->isVisible());
 }
 
 TEST_F(ModuleTest, DataOptionsOfTheModuleAreTheHosts)

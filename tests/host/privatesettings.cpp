@@ -16,18 +16,14 @@ class PrivateSettings final : public testing::Environment
 {
 public:
     void SetUp() override { qputenv("XDG_CONFIG_HOME", m_folder.path().toLocal8Bit()); }
-    QString path() const { return m_folder.path(); }
 
 private:
     QTemporaryDir m_folder;
 };
 
-PrivateSettings *const environment =
-    static_cast<PrivateSettings *>(testing::AddGlobalTestEnvironment(new PrivateSettings));
+[[maybe_unused]] testing::Environment *const environment = testing::AddGlobalTestEnvironment(new PrivateSettings);
 
 } // namespace
-
-QString privateSettingsFolder() { return environment->path(); }
 
 void makeCompany(const QString &folder, const QString &organization)
 {

@@ -2,7 +2,9 @@
 
 #include "frame/shared/prompts.h"
 
+#include <functional>
 #include <QStringList>
+#include <utility>
 
 // Keeps what was said, with its kind, and answers as told.
 class SpokenPrompts final : public Tallymere::Prompts
@@ -11,6 +13,8 @@ public:
     QStringList said;
     bool ok = true; // to confirm()
     Tallymere::Answer answer = Tallymere::Answer::Cancel; // to yesNoCancel()
+    int retries = 0; // how often retry() is answered with Retry
+    std::function<void()> onRetry;
 
     void inform(const QString &text) override { said << QStringLiteral("inform: ") + text; }
     void warn(const QString &text) override { said << QStringLiteral("warn: ") + text; }
@@ -28,9 +32,22 @@ public:
     bool retry(const QString &text) override
     {
         said << text;
-        return false;
+        if (onRetry)
+            onRetry();
+        return retries-- > 0;
     }
 
     QString last() const { return said.isEmpty() ? QString() : said.last(); }
     QStringList take() { return std::exchange(said, {}); }
+};
+
+class CountedProgress final : public Tallymere::Progress
+{
+public:
+    int steps = 0;
+    bool finished = false;
+
+    void start(int) override { }
+    void step() override { ++steps; }
+    void finish() override { finished = true; }
 };

@@ -37,6 +37,15 @@ TestUser::TestUser(const QString &user, const QString &databaseName)
     session.applicationUser = user;
 }
 
+TestUser::TestUser(const QStringList &place)
+    : TestUser(u"anna"_s, u"Corvane"_s)
+{
+    if (place.value(0) == "local"_L1)
+        database.directory = place.value(1);
+    else
+        useTestServer(place.value(1));
+}
+
 void TestUser::useTestServer(const QString &remoteName)
 {
     pointToTestServer();
@@ -93,4 +102,22 @@ std::unique_ptr<TestUser> TestStore::anotherUser(const QString &user)
     return other;
 }
 
+QStringList TestStore::place() const
+{
+    return m_store == Store::Local ? QStringList{u"local"_s, directory()} : QStringList{u"remote"_s, remoteName()};
+}
+
 void TestStore::execute(const QString &script) { database().connection().execute(script); }
+
+QStringList TestStore::rows(const QString &sql)
+{
+    const Engine::StatementPtr statement = database().connection().prepare(sql);
+    QStringList rows;
+    while (statement->next()) {
+        QStringList values;
+        for (int i = 0; i < statement->columnCount(); ++i)
+            values.append(statement->valueAt(i, statement->columnType(i)).toText());
+        rows.append(values.join(u'|'));
+    }
+    return rows;
+}

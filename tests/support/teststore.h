@@ -4,6 +4,7 @@
 #include "engine/session.h"
 
 #include <memory>
+#include <QStringList>
 #include <QTemporaryDir>
 
 enum class Store { Local, Remote };
@@ -17,6 +18,8 @@ struct TestUser
     Engine::Database database;
 
     TestUser(const QString &user, const QString &databaseName);
+    explicit TestUser(
+        const QStringList &place); // "anna" in another program, which was started with place() of a store
     void useTestServer(const QString &remoteName);
 };
 
@@ -39,9 +42,12 @@ public:
     Engine::Database &database() { return m_user->database; }
     std::unique_ptr<TestUser> anotherUser(const QString &user = QStringLiteral("anna"));
 
+    QStringList place() const; // two words of a command line that lead another program to the database
     QString directory() const { return m_folder.path(); } // of a local store's database
     QString remoteName() const { return m_remoteName; } // of a remote store's database
     void execute(const QString &script); // SQL text as it stands
+    // All rows of a statement, one text each: "1|2.5|abc", nulls empty.
+    QStringList rows(const QString &sql);
 
 private:
     Store m_store;

@@ -1,6 +1,6 @@
 #include "master/itemsearch.h"
 
-#include "frame/shared/ruleerror.h"
+#include "tests/support/failures.h"
 #include "tests/transactions/kitchen.h"
 
 #include <gtest/gtest.h>
@@ -23,28 +23,21 @@ protected:
     Kitchen kitchen{GetParam()};
     ItemSearch search;
 };
-INSTANTIATE_TEST_SUITE_P(Stores, Search, bothStores, nameOfStore);
+ON_BOTH_STORES(Search);
 
 TEST_P(Search, FollowsWhatIsTyped)
 {
-    struct Step
-    {
-        bool byNumber;
-        QString typed;
-        bool found;
-        QString at;
-    };
-    const QList<Step> steps = {
+    const QList<std::tuple<bool, QString, bool, QString>> steps = {
         {true, u"X"_s, true, u"X9"_s},    {true, u"A"_s, true, u"A10"_s},    {true, u"A1"_s, true, u"A10"_s},
         {true, u"A11"_s, true, u"A11"_s}, {true, u"A12"_s, false, u"A11"_s}, {true, u"b"_s, false, u"A11"_s},
         {false, u"A"_s, true, u"A10"_s},  {false, u"a"_s, true, u"B1"_s},    {false, u"apr"_s, true, u"B1"_s},
         {false, u"%"_s, false, u"B1"_s},  {true, u"A"_s, true, u"A10"_s},
     };
     search.items().first();
-    for (const Step &step : steps) {
-        const bool found = step.byNumber ? search.typeItemNo(step.typed) : search.typeDescription(step.typed);
-        EXPECT_EQ(found, step.found) << step.typed.toStdString();
-        EXPECT_EQ(current(), step.at) << step.typed.toStdString();
+    for (const auto &[byNumber, typed, found, at] : steps) {
+        EXPECT_EQ(byNumber ? search.typeItemNo(typed) : search.typeDescription(typed), found)
+            << typed.toStdString();
+        EXPECT_EQ(current(), at) << typed.toStdString();
     }
 }
 
@@ -72,12 +65,8 @@ TEST_P(Search, NarrowsToAType)
 TEST_P(Search, LooksItemsUpByNumber)
 {
     EXPECT_EQ(itemIdByNumber(kitchen.database(), u"A11"_s), 2);
-    try {
-        itemIdByNumber(kitchen.database(), u"a11"_s);
-        FAIL() << "found";
-    } catch (const RuleError &error) {
-        EXPECT_EQ(error.message(), u"Item no. 'a11' not found");
-    }
+    EXPECT_EQ(refusalOf([&] { itemIdByNumber(kitchen.database(), u"a11"_s); }),
+              u"Item no. 'a11' not found -> ItemNo");
     moveToItem(search.items(), 2, u"Bread"_s);
     EXPECT_EQ(current(), u"A11");
     search.setItemType(2);

@@ -1,7 +1,10 @@
 #include "tests/transactions/kitchen.h"
 
 #include "data/layouts.h"
+#include "engine/locks.h"
 #include "engine/query.h"
+
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 using Engine::Value;
@@ -67,35 +70,23 @@ double Kitchen::averageCost(int item)
     return number(u"SELECT WgtAvgCost FROM Item WHERE ItemID = %1"_s.arg(item));
 }
 
-QStringList Kitchen::rows(const QString &sql)
+QStringList Kitchen::lines(int receipt)
 {
-    const Engine::StatementPtr statement = database().connection().prepare(sql);
-    QStringList rows;
-    while (statement->next()) {
-        QStringList values;
-        for (int i = 0; i < statement->columnCount(); ++i)
-            values.append(statement->valueAt(i, statement->columnType(i)).toText());
-        rows.append(values.join(u'|'));
+    return rows(
+        u"SELECT Seq, ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = %1 ORDER BY Seq"_s.arg(receipt));
+}
+
+void Kitchen::expectNoLocks()
+{
+    const auto other = anotherUser();
+    for (const QString &table : {u"IReceipt"_s, u"IBalance"_s, u"Item"_s}) {
+        bool free = false;
+        // The server notices within a second that a client is gone.
+        for (int attempt = 0; attempt < 50 && !free; ++attempt) {
+            free = other->database.connection().locks().tryLockTable(table);
+            if (!free)
+                QThread::msleep(100);
+        }
+        EXPECT_TRUE(free) << table.toStdString();
     }
-    return rows;
-}
-
-bool ScriptedPrompts::confirm(Tallymere::Question question, const QString &text)
-{
-    said.append(caption(question) + ": "_L1 + text);
-    return ok;
-}
-
-Tallymere::Answer ScriptedPrompts::yesNoCancel(const QString &text)
-{
-    said.append(text);
-    return answer;
-}
-
-bool ScriptedPrompts::retry(const QString &text)
-{
-    said.append(text);
-    if (onRetry)
-        onRetry();
-    return retries-- > 0;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/shared/prompts.h"
-#include "tests/support/teststore.h"
+#include "tests/support/bothstores.h"
+#include "tests/support/spokenprompts.h"
 
 #include <QStringList>
 
@@ -27,44 +27,12 @@ public:
     void addReceipt(int id, int vendor, int warehouse, const QList<Line> &lines, const QString &order = {});
     void setStock(int item, int warehouse, double onHand, double averageCost);
 
+    QStringList lines(int receipt); // as rows() of number, item, quantity and cost
+    void expectNoLocks(); // of the tables that posting locks, by then or soon
+
     Engine::Value value(const QString &sql);
     double number(const QString &sql) { return value(sql).toDouble(); }
     QString text(const QString &sql) { return value(sql).toText(); }
     double onHand(int item, int warehouse);
     double averageCost(int item);
-    // All rows of a statement, one text each: "1|2.5|abc", nulls empty.
-    QStringList rows(const QString &sql);
 };
-
-// Answers as told, and remembers what was said.
-class ScriptedPrompts final : public Tallymere::Prompts
-{
-public:
-    QStringList said;
-    bool ok = true; // to confirm()
-    Tallymere::Answer answer = Tallymere::Answer::Yes;
-    int retries = 0; // how often retry() is answered with Retry
-    std::function<void()> onRetry;
-
-    void inform(const QString &text) override { said.append(text); }
-    void warn(const QString &text) override { said.append(text); }
-    void error(const QString &text) override { said.append(text); }
-    bool confirm(Tallymere::Question question, const QString &text) override;
-    Tallymere::Answer yesNoCancel(const QString &text) override;
-    bool retry(const QString &text) override;
-};
-
-class CountedProgress final : public Tallymere::Progress
-{
-public:
-    int expected = 0;
-    int steps = 0;
-    bool finished = false;
-
-    void start(int count) override { expected = count; }
-    void step() override { ++steps; }
-    void finish() override { finished = true; }
-};
-
-inline const auto bothStores = testing::Values(Store::Local, Store::Remote);
-inline std::string nameOfStore(const testing::TestParamInfo<Store> &info) { return storeName(info.param); }

@@ -15,7 +15,7 @@ constexpr int Patience = 120'000; // milliseconds
 
 void takeNumbers(Engine::Database &database, int count)
 {
-    ScriptedPrompts prompts;
+    SpokenPrompts prompts;
     ReceiptEntry entry(database, prompts);
     entry.open();
     for (int i = 0; i < count; ++i) {
@@ -27,7 +27,7 @@ void takeNumbers(Engine::Database &database, int count)
 
 void post(Engine::Database &database)
 {
-    ScriptedPrompts prompts;
+    SpokenPrompts prompts;
     CountedProgress progress;
     ReceiptPosting(database).run(prompts, progress);
 }
@@ -36,12 +36,8 @@ void post(Engine::Database &database)
 
 OtherUser::OtherUser(const TestStore &store, const QStringList &task)
 {
-    const bool local = store.store() == Store::Local;
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.start(QCoreApplication::applicationFilePath(),
-                    QStringList{u"--other-user"_s, local ? u"local"_s : u"remote"_s,
-                                local ? store.directory() : store.remoteName()}
-                        + task);
+    m_process.start(QCoreApplication::applicationFilePath(), QStringList(u"--other-user"_s) + store.place() + task);
     EXPECT_TRUE(m_process.waitForStarted(Patience));
 }
 
@@ -68,15 +64,7 @@ int playOtherUser(const QStringList &arguments)
 {
     if (arguments.value(1) != "--other-user"_L1)
         return -1;
-    TestUser user(u"anna"_s, u"Corvane"_s);
-    if (arguments.value(2) == "local"_L1) {
-        user.database.directory = arguments.value(3);
-    } else {
-        user.session.type = Engine::SessionType::Remote;
-        user.session.remoteAddress = u"127.0.0.1"_s;
-        user.session.remoteUser = user.session.remotePassword = u"zorvadin"_s;
-        user.database.remoteName = arguments.value(3);
-    }
+    TestUser user(arguments.mid(2));
     try {
         if (arguments.value(4) == "post"_L1)
             post(user.database);

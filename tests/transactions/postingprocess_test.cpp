@@ -1,4 +1,3 @@
-#include "engine/locks.h"
 #include "tests/transactions/otheruser.h"
 #include "transactions/receiptposting.h"
 
@@ -15,7 +14,7 @@ namespace {
 class Processes : public testing::TestWithParam<Store>
 {
 };
-INSTANTIATE_TEST_SUITE_P(Stores, Processes, bothStores, nameOfStore);
+ON_BOTH_STORES(Processes);
 
 // The file store is the quicker one: it must not be done before it is killed.
 int receipts(Store store) { return store == Store::Local ? 6000 : 1500; }
@@ -54,29 +53,13 @@ void expectWholeDocuments(Kitchen &kitchen)
               kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s));
 }
 
-void expectNoLocks(Kitchen &kitchen)
-{
-    Engine::LockManager &locks = kitchen.database().connection().locks();
-    for (const QString &table : {u"IReceipt"_s, u"IBalance"_s, u"Item"_s}) {
-        bool free = false;
-        // The server notices within a second that its client is gone.
-        for (int attempt = 0; attempt < 50 && !free; ++attempt) {
-            free = locks.tryLockTable(table);
-            if (!free)
-                QThread::msleep(100);
-        }
-        EXPECT_TRUE(free) << table.toStdString();
-        locks.unlockTable(table);
-    }
-}
-
 TEST_P(Processes, KillingAPosterLeavesWholeDocumentsAndNothingIsLostOrDoubled)
 {
     Kitchen kitchen(GetParam());
     addManyReceipts(kitchen);
     Kitchen undisturbed(GetParam());
     addManyReceipts(undisturbed);
-    ScriptedPrompts prompts;
+    SpokenPrompts prompts;
     CountedProgress progress;
     ASSERT_TRUE(ReceiptPosting(undisturbed.database()).run(prompts, progress));
 
@@ -86,7 +69,7 @@ TEST_P(Processes, KillingAPosterLeavesWholeDocumentsAndNothingIsLostOrDoubled)
         OtherUser poster(kitchen, {u"post"_s});
         QThread::msleep(100 + random() % 500);
         poster.kill();
-        expectNoLocks(kitchen);
+        kitchen.expectNoLocks();
         expectWholeDocuments(kitchen);
         const double posted = kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s);
         interrupted += posted < receipts(GetParam()) ? 1 : 0;
@@ -101,17 +84,20 @@ TEST_P(Processes, KillingAPosterLeavesWholeDocumentsAndNothingIsLostOrDoubled)
     EXPECT_EQ(stock(kitchen), stock(undisturbed));
 }
 
-TEST_P(Processes, TwoUsersNeverGetTheSameNumber)
+TEST_P(Processes, UsersNeverGetTheSameNumber)
 {
     constexpr int Each = 40;
     Kitchen kitchen(GetParam());
-    OtherUser anna(kitchen, {u"number"_s, QString::number(Each)});
-    OtherUser bert(kitchen, {u"number"_s, QString::number(Each)});
-    ASSERT_TRUE(anna.finish() && bert.finish());
-    const QStringList numbers = anna.output() + bert.output();
-    EXPECT_EQ(numbers.size(), 2 * Each);
-    EXPECT_EQ(QSet<QString>(numbers.begin(), numbers.end()).size(), 2 * Each);
-    EXPECT_EQ(kitchen.number(u"SELECT NextInvReceiptNo FROM ItemCtl"_s), 1001 + 2 * Each);
+    const QStringList task{u"number"_s, QString::number(Each)};
+    OtherUser users[] = {{kitchen, task}, {kitchen, task}, {kitchen, task}};
+    QStringList numbers;
+    for (OtherUser &user : users) {
+        ASSERT_TRUE(user.finish());
+        numbers += user.output();
+    }
+    EXPECT_EQ(numbers.size(), 3 * Each);
+    EXPECT_EQ(QSet<QString>(numbers.begin(), numbers.end()).size(), 3 * Each);
+    EXPECT_EQ(kitchen.number(u"SELECT NextInvReceiptNo FROM ItemCtl"_s), 1001 + 3 * Each);
 }
 
 } // namespace

@@ -36,12 +36,6 @@ protected:
     // "QtyReceived" of row 0 and so on, as the grid shows it.
     QString cell(int row, int column) { return grid->model()->index(row, column).data().toString(); }
     QString cursor() { return u"%1,%2"_s.arg(grid->currentIndex().row()).arg(grid->currentIndex().column()); }
-    QStringList lines(int key)
-    {
-        return kitchen.rows(
-            u"SELECT Seq, ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = %1 ORDER BY Seq"_s.arg(key));
-    }
-
     // Vendor 1, location 2, and one line, with the keyboard.
     void fillIn()
     {
@@ -88,7 +82,7 @@ TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
     const int key = saved.first().first().toInt();
     EXPECT_EQ(kitchen.rows(u"SELECT ReceiptNo, VendorID, WarehouseID, GLYear, GLPeriod FROM IReceipt"_s),
               QStringList(u"1001|1|2|2026|3"_s));
-    EXPECT_EQ(lines(key), (QStringList{u"1|1|5|3"_s, u"2|2|2|1.25"_s}));
+    EXPECT_EQ(kitchen.lines(key), (QStringList{u"1|1|5|3"_s, u"2|2|2|1.25"_s}));
 
     TfrmInvReceiptsPost dialog(*context, mainWindow.get());
     EXPECT_EQ(child<QLabel>(dialog, "lblRecordCount")->text(), u"1 receipt(s) to be posted"_s);
@@ -130,7 +124,7 @@ TEST_F(ReceiptScreenTest, refusedLineKeepsTheCursorOnItsRowAndColumn)
 
     press(Qt::Key_Escape); // undoes the row
     EXPECT_EQ(grid->model()->rowCount(), 2);
-    EXPECT_EQ(lines(7).size(), 2);
+    EXPECT_EQ(kitchen.lines(7).size(), 2);
     EXPECT_EQ(prompts.said, QStringList());
 }
 
@@ -165,19 +159,6 @@ TEST_F(ReceiptScreenTest, refusalOfTheHeaderMovesTheFocusToItsField)
              press(Qt::Key_Delete);
          },
          u"error: Field 'Vendor' must have a value"_s, u"editVendorNo"_s},
-        {"period",
-         [&] {
-             child<QLineEdit>(*screen, "editGLYear")->setFocus();
-             type("25");
-         },
-         u"error: GL Period is prior to current fiscal year \nas defined by \"Your Company\""_s, u"editGLPeriod"_s},
-        {"location",
-         [&] {
-             kitchen.execute(u"DELETE FROM Warehse WHERE WarehouseID = 2"_s);
-             child<QLineEdit>(*screen, "editPurchaseOrderNo")->setFocus();
-             type("1");
-         },
-         u"error: Warehouse no longer exists"_s, u"cboWarehouse"_s},
         {"number",
          [&] {
              kitchen.addReceipt(9, 1, 1, {});
@@ -194,8 +175,6 @@ TEST_F(ReceiptScreenTest, refusalOfTheHeaderMovesTheFocusToItsField)
     };
     int key = 20;
     for (const auto &refusal : cases) {
-        kitchen.execute(u"DELETE FROM Warehse WHERE WarehouseID = 2; "
-                        "INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (2, 'Freezer')"_s);
         kitchen.addReceipt(++key, 1, 2, {{1, 5, 3.0}});
         open(key);
         refusal.damage();
@@ -205,7 +184,7 @@ TEST_F(ReceiptScreenTest, refusalOfTheHeaderMovesTheFocusToItsField)
         ASSERT_TRUE(screen && screen->isVisible()) << refusal.name;
         screen->btnCancelClick();
         settle();
-        EXPECT_EQ(lines(key), QStringList(u"1|1|5|3"_s)) << refusal.name;
+        EXPECT_EQ(kitchen.lines(key), QStringList(u"1|1|5|3"_s)) << refusal.name;
     }
 }
 
@@ -280,36 +259,14 @@ TEST_F(ReceiptScreenTest, closingAsksOnlyWhenThereIsSomethingToSave)
     settle();
     EXPECT_FALSE(screen);
     EXPECT_EQ(prompts.take(), question);
-    EXPECT_EQ(lines(7), QStringList(u"1|1|5|3"_s));
+    EXPECT_EQ(kitchen.lines(7), QStringList(u"1|1|5|3"_s));
 
     changeCost("8");
     prompts.answer = Answer::Yes;
     screen->close();
     settle();
     EXPECT_FALSE(screen);
-    EXPECT_EQ(lines(7), QStringList(u"1|1|5|8"_s));
-}
-
-TEST_F(ReceiptScreenTest, cancelBringsTheLinesBack)
-{
-    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}, {2, 4, 1.0}, {3, 1, 1.0}});
-    const QStringList before = lines(7);
-    open(7);
-    grid->setFocus();
-    type("6");
-    press(Qt::Key_Down); // written
-    press(Qt::Key_Delete, Qt::ControlModifier);
-    EXPECT_EQ(grid->model()->rowCount(), 2);
-    press(Qt::Key_PageDown);
-    type("1");
-    press(Qt::Key_Return);
-    type("B1");
-    EXPECT_NE(lines(7), before);
-    QTest::mouseClick(child<QPushButton>(*screen, "btnCancel"), Qt::LeftButton);
-    settle();
-    EXPECT_FALSE(screen);
-    EXPECT_EQ(prompts.said, QStringList());
-    EXPECT_EQ(lines(7), before);
+    EXPECT_EQ(kitchen.lines(7), QStringList(u"1|1|5|8"_s));
 }
 
 TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
@@ -373,5 +330,5 @@ TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
     EXPECT_EQ(cell(0, 2), u"Bread"_s) << "cancelled";
     pressOK();
     settle();
-    EXPECT_EQ(lines(7), QStringList(u"1|2|5|3"_s));
+    EXPECT_EQ(kitchen.lines(7), QStringList(u"1|2|5|3"_s));
 }

@@ -25,7 +25,7 @@ protected:
 
     Kitchen kitchen{GetParam()};
 };
-INSTANTIATE_TEST_SUITE_P(Stores, Totals, bothStores, nameOfStore);
+ON_BOTH_STORES(Totals);
 
 TEST_P(Totals, ShowsEveryBalanceInTheChosenOrder)
 {
@@ -37,13 +37,11 @@ TEST_P(Totals, ShowsEveryBalanceInTheChosenOrder)
     kitchen.setStock(2, 77, 6, 0); // no such location
     TotalsView view(kitchen.database());
     view.open();
-    EXPECT_EQ(shown(view),
-              (QStringList{u"/Office/5"_s, u"A10/Freezer/4"_s, u"A10/Office/1.5"_s, u"A11//6"_s, u"A11/Office/2"_s,
-                           u"B1/Office/3"_s}));
+    const QStringList all{u"/Office/5"_s, u"A10/Freezer/4"_s, u"A10/Office/1.5"_s,
+                          u"A11//6"_s,    u"A11/Office/2"_s,  u"B1/Office/3"_s};
+    EXPECT_EQ(shown(view), all);
     view.setSort(TotalsView::Sort::Description);
-    EXPECT_EQ(shown(view),
-              (QStringList{u"/Office/5"_s, u"A10/Freezer/4"_s, u"A10/Office/1.5"_s, u"A11//6"_s, u"A11/Office/2"_s,
-                           u"B1/Office/3"_s}));
+    EXPECT_EQ(shown(view), all);
     kitchen.execute(u"UPDATE Item SET ItemDescription = 'Aardvark' WHERE ItemID = 3"_s);
     view.query().refresh();
     EXPECT_EQ(shown(view).at(1), u"B1/Office/3");
@@ -51,14 +49,6 @@ TEST_P(Totals, ShowsEveryBalanceInTheChosenOrder)
     view.query().setFilter(TotalsView::filterExpression(2, 1));
     view.query().setFiltered(true);
     EXPECT_EQ(shown(view), QStringList(u"A11/Office/2"_s));
-}
-
-TEST(TotalsFilter, NamesWhatIsChosen)
-{
-    EXPECT_EQ(TotalsView::filterExpression(0, 0), QString());
-    EXPECT_EQ(TotalsView::filterExpression(12, 0), u"(ItemID = 12)");
-    EXPECT_EQ(TotalsView::filterExpression(0, 3), u"(WarehouseID = 3)");
-    EXPECT_EQ(TotalsView::filterExpression(12, 3), u"(ItemID = 12) AND (WarehouseID = 3)");
 }
 
 } // namespace

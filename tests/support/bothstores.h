@@ -11,4 +11,7 @@
 inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
 inline void PrintTo(const QDate &date, std::ostream *out) { *out << date.toString(Qt::ISODate).toStdString(); }
 
-inline std::string caseName(const testing::TestParamInfo<Store> &parameter) { return storeName(parameter.param); }
+// Makes the cases of a suite run on both stores.
+#define ON_BOTH_STORES(suite)                                                                                      \
+    INSTANTIATE_TEST_SUITE_P(, suite, testing::Values(Store::Local, Store::Remote),                                \
+                             [](const auto &one) { return storeName(one.param); })
