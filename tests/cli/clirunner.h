@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/teststore.h"
+#include "tests/support/bothstores.h"
 
 #include <memory>
 #include <QByteArray>

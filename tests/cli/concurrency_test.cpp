@@ -13,8 +13,7 @@ class Concurrency : public testing::TestWithParam<Store>
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Cli, Concurrency, testing::Values(Store::Local, Store::Remote),
-                         [](const auto &one) { return std::string(storeName(one.param)); });
+ON_BOTH_STORES(Concurrency);
 
 QByteArray items(const QByteArray &name, int count)
 {

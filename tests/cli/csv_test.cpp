@@ -34,33 +34,16 @@ struct ReadCase
     QStringList records;
 };
 
-void PrintTo(const ReadCase &one, std::ostream *stream) { *stream << one.name; }
-
-class CsvReading : public testing::TestWithParam<ReadCase>
-{
-};
-
-TEST_P(CsvReading, GivesTheRecordsWithTheirLines)
-{
-    EXPECT_EQ(read(GetParam().bytes), GetParam().records) << read(GetParam().bytes).join(u'\n').toStdString();
-}
-
 const ReadCase readCases[] = {
     {"Nothing", "", {}},
-    {"OnlyLineEnds", "\n\r\n\n", {}},
     {"LineEnds", "a,b\r\nc,d\ne,f", {u"1: a|b"_s, u"2: c|d"_s, u"3: e|f"_s}},
     {"EmptyFields", ",\n,,x,\n", {u"1: |"_s, u"2: ||x|"_s}},
     {"BlanksStay", " a , b\n", {u"1:  a | b"_s}},
     {"ByteOrderMark", "\xEF\xBB\xBFItemNo,x\n", {u"1: ItemNo|x"_s}},
-    {"Utf8",
-     "K\xC3\xBC"
-     "che,\xE2\x82\xAC\n",
-     {u"1: Küche|€"_s}},
     {"Quotes", "\"a,b\",\"say \"\"no\"\"\",\"\"\n", {u"1: a,b|say \"no\"|"_s}},
     {"LineBreakInQuotes", "\"a\r\nb\",c\nd,e\n", {u"1: a\nb|c"_s, u"3: d|e"_s}},
     {"EmptyLinesBetween", "a\n\nb\n", {u"1: a"_s, u"3: b"_s}},
     {"QuoteNeverClosed", "a\n\"b\nc,d\n", {u"1: a"_s, u"2! The quote that opens on this line never closes."_s}},
-    {"QuoteNeverClosedAtTheEnd", "\"b", {u"1! The quote that opens on this line never closes."_s}},
     {"QuoteInPlainField",
      "a\nb\"c\n",
      {u"1: a"_s, u"2! There is a quote inside a field that does not begin with one."_s}},
@@ -76,8 +59,11 @@ const ReadCase readCases[] = {
      {u"1! There is a zero byte in the text. This is no CSV file in UTF-8."_s}},
 };
 
-INSTANTIATE_TEST_SUITE_P(Csv, CsvReading, testing::ValuesIn(readCases),
-                         [](const auto &one) { return std::string(one.param.name); });
+TEST(CsvReading, GivesTheRecordsWithTheirLines)
+{
+    for (const ReadCase &c : readCases)
+        EXPECT_EQ(read(c.bytes), c.records) << c.name << '\n' << read(c.bytes).join(u'\n').toStdString();
+}
 
 TEST(CsvWriting, WhatIsWrittenReadsBackTheSame)
 {
@@ -95,6 +81,7 @@ TEST(CsvWriting, WhatIsWrittenReadsBackTheSame)
         writer.record(record);
     writer.flush();
 
+    EXPECT_TRUE(buffer.data().startsWith("a,\"b,c\",\"say \"\"no\"\"\"\r\n"));
     buffer.close();
     buffer.open(QIODevice::ReadOnly);
     CsvReader reader(buffer);
@@ -103,16 +90,6 @@ TEST(CsvWriting, WhatIsWrittenReadsBackTheSame)
         EXPECT_EQ(reader.fields(), record);
     }
     EXPECT_FALSE(reader.next());
-}
-
-TEST(CsvWriting, EndsLinesAsTheStandardSays)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    CsvWriter writer(buffer);
-    writer.record({u"a"_s, u"b"_s});
-    writer.flush();
-    EXPECT_EQ(buffer.data(), QByteArray("a,b\r\n"));
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 #include "tests/cli/clirunner.h"
+#include "tests/support/smalldisk.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
 #include <QStorageInfo>
-#include <sys/mount.h>
 
 using namespace Qt::StringLiterals;
 
@@ -18,51 +18,27 @@ QString largeItemFile(int count)
     return text;
 }
 
-// A file system of its own on a folder; needs root.
-class SmallDisk
-{
-public:
-    explicit SmallDisk(const char *options)
-        : m_mounted(mount("tmpfs", m_folder.path().toLocal8Bit().constData(), "tmpfs", 0, options) == 0)
-    {
-    }
-    ~SmallDisk()
-    {
-        if (m_mounted)
-            umount(path().constData());
-    }
-    SmallDisk(const SmallDisk &) = delete;
-    SmallDisk &operator=(const SmallDisk &) = delete;
-
-    bool isThere() const { return m_mounted; }
-    QString folder() const { return m_folder.path(); }
-    QByteArray path() const { return m_folder.path().toLocal8Bit(); }
-    void makeReadOnly()
-    {
-        m_mounted = mount("tmpfs", path().constData(), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr) == 0 && m_mounted;
-    }
-
-private:
-    QTemporaryDir m_folder;
-    bool m_mounted;
-};
-
-TEST(StoreFailure, AFolderThatIsMissingIsNamed)
+TEST(StoreFailure, ADatabaseThatCannotBeOpenedIsNamed)
 {
     CliRunner cli(Store::Local);
-    const CliResult result = cli.runBare({u"--data"_s, u"/nowhere/kitchen"_s, u"totals"_s});
-    EXPECT_EQ(result.status, 3);
-    EXPECT_TRUE(result.errors.contains("/nowhere/kitchen"_L1)) << result;
+    const struct
+    {
+        QStringList place;
+        QStringList environment;
+        QString named;
+    } cases[] = {
+        {{u"--data"_s, u"/nowhere/kitchen"_s}, {}, u"/nowhere/kitchen"_s},
+        {{u"--data"_s, cli.folder()}, {}, u"tallymere init"_s},
+        {{u"--server"_s, u"127.0.0.1"_s}, {u"PGPORT=1"_s}, u"127.0.0.1"_s},
+        {{}, {u"XDG_CONFIG_HOME=/nowhere"_s}, u"The Corvane database has not been defined."_s},
+    };
+    for (const auto &c : cases) {
+        const CliResult result = cli.runBare(c.place + QStringList(u"totals"_s), c.environment);
+        EXPECT_EQ(result.status, 3);
+        EXPECT_TRUE(result.errors.contains(c.named)) << result;
+    }
     EXPECT_FALSE(QDir(u"/nowhere"_s).exists());
-}
-
-TEST(StoreFailure, AFolderWithoutDatabaseIsNotFilledByReading)
-{
-    CliRunner cli(Store::Local);
-    const CliResult result = cli.run({u"totals"_s});
-    EXPECT_EQ(result.status, 3);
-    EXPECT_TRUE(result.errors.contains("tallymere init"_L1)) << result;
-    EXPECT_FALSE(QFile::exists(cli.folder() + "/Corvane.sqlite"_L1));
+    EXPECT_FALSE(QFile::exists(cli.folder() + "/Corvane.sqlite"_L1)) << "reading fills no folder";
 }
 
 TEST(StoreFailure, AFileThatIsNoDatabaseStaysAsItIs)
@@ -82,43 +58,14 @@ TEST(StoreFailure, AFileThatIsNoDatabaseStaysAsItIs)
     EXPECT_EQ(file.readAll(), letter);
 }
 
-TEST(StoreFailure, AServerThatRefusesIsNamed)
-{
-    CliRunner cli(Store::Local);
-    const CliResult result = cli.runBare({u"--server"_s, u"127.0.0.1"_s, u"totals"_s}, {u"PGPORT=1"_s});
-    EXPECT_EQ(result.status, 3);
-    EXPECT_TRUE(result.errors.contains("127.0.0.1"_L1)) << result;
-}
-
-TEST(StoreFailure, WithoutSettingsTheUserIsToldToMakeThem)
-{
-    CliRunner cli(Store::Local);
-    const CliResult result = cli.runBare({u"totals"_s}, {u"XDG_CONFIG_HOME=/nowhere"_s});
-    EXPECT_EQ(result.status, 3);
-    EXPECT_TRUE(result.errors.contains("The Corvane database has not been defined."_L1)) << result;
-}
-
-TEST(StoreFailure, AReadOnlyFolderIsToldAsSuch)
-{
-    SmallDisk disk("size=20m");
-    if (!disk.isThere())
-        GTEST_SKIP() << "mounting needs root";
-    CliRunner cli(Store::Local);
-    ASSERT_EQ(cli.runBare({u"--data"_s, disk.folder(), u"init"_s}).status, 0);
-    disk.makeReadOnly();
-    const CliResult result = cli.runBare({u"--data"_s, disk.folder(), u"totals"_s});
-    EXPECT_EQ(result.status, 3);
-    EXPECT_TRUE(result.errors.contains(disk.folder())) << result;
-}
-
 TEST(StoreFailure, OnAFullDiskNothingOfAnImportStays)
 {
     SmallDisk disk("size=1600k");
-    if (!disk.isThere())
+    if (!disk.isMounted())
         GTEST_SKIP() << "mounting needs root";
     CliRunner cli(Store::Local);
     const auto run = [&](const QStringList &words) {
-        return cli.runBare(QStringList{u"--data"_s, disk.folder()} + words);
+        return cli.runBare(QStringList{u"--data"_s, disk.path()} + words);
     };
     ASSERT_EQ(run({u"init"_s}).status, 0);
     ASSERT_EQ(run({u"import"_s, u"types"_s, cli.writeFile(u"types.csv"_s, "TypeName\nProduce\n")}).status, 0);
@@ -136,17 +83,17 @@ TEST(StoreFailure, OnAFullDiskNothingOfAnImportStays)
 TEST(StoreFailure, AKitchenThatFindsTheDiskFullFitsInOnceThereIsRoom)
 {
     SmallDisk disk("size=6m");
-    if (!disk.isThere())
+    if (!disk.isMounted())
         GTEST_SKIP() << "mounting needs root";
     CliRunner cli(Store::Local);
-    const auto run = [&](const QString &word) { return cli.runBare({u"--data"_s, disk.folder(), word}); };
+    const auto run = [&](const QString &word) { return cli.runBare({u"--data"_s, disk.path(), word}); };
     ASSERT_EQ(run(u"init"_s).status, 0);
-    QFile ballast(disk.folder() + "/ballast"_L1);
+    QFile ballast(disk.path() + "/ballast"_L1);
     ASSERT_TRUE(ballast.open(QIODevice::WriteOnly));
     for (const int kibibytes : {160, 40, 0}) { // what is left for the kitchen
         ballast.resize(0);
         ballast.seek(0);
-        ballast.write(QByteArray(QStorageInfo(disk.folder()).bytesAvailable() - kibibytes * 1024, 'x'));
+        ballast.write(QByteArray(QStorageInfo(disk.path()).bytesAvailable() - kibibytes * 1024, 'x'));
         ballast.flush();
         const CliResult result = run(u"sample"_s);
         EXPECT_EQ(result.status, 3);

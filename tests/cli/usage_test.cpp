@@ -6,48 +6,32 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct UsageCase
-{
-    const char *name;
-    QStringList words;
-    QString message;
+const std::pair<QStringList, QString> usageCases[] = {
+    {{}, u"which command?"_s},
+    {{u"tidy"_s}, u"unknown command 'tidy'"_s},
+    {{u"totals"_s, u"--frob"_s}, u"unknown option '--frob'"_s},
+    {{u"totals"_s, u"--sort"_s}, u"option '--sort' needs a value: ORDER"_s},
+    {{u"totals"_s, u"--sort=up"_s}, u"option '--sort' takes item or description, not 'up'"_s},
+    {{u"totals"_s, u"--csv=1"_s}, u"option '--csv' takes no value"_s},
+    {{u"totals"_s, u"--filter"_s, u"a"_s, u"--filter"_s, u"b"_s}, u"option '--filter' is given twice"_s},
+    {{u"import"_s, u"items"_s}, u"'import' needs more: KIND FILE.csv"_s},
+    {{u"totals"_s, u"x"_s}, u"'totals' does not know what to do with 'x'"_s},
+    {{u"--data"_s, u"a"_s, u"--server"_s, u"b"_s, u"totals"_s}, u"--data and --server exclude each other"_s},
+    {{u"--data="_s, u"totals"_s}, u"option '--data' needs a value"_s},
+    {{u"sample"_s, u"--seed=-1"_s}, u"option '--seed' needs a whole number of 0 or more, not '-1'"_s},
+    {{u"sample"_s, u"--size=huge"_s}, u"option '--size' takes small or large, not 'huge'"_s},
 };
 
-void PrintTo(const UsageCase &one, std::ostream *stream) { *stream << one.name; }
-
-class WrongUsage : public testing::TestWithParam<UsageCase>
-{
-};
-
-TEST_P(WrongUsage, IsToldWithStatusTwo)
+TEST(WrongUsage, IsToldWithStatusTwo)
 {
     CliRunner cli(Store::Local);
-    const CliResult result = cli.runBare(GetParam().words);
-    EXPECT_EQ(result.status, 2) << result;
-    EXPECT_EQ(result.errorLines().value(0), u"tallymere: "_s + GetParam().message);
-    EXPECT_EQ(result.output, QString());
+    for (const auto &[words, message] : usageCases) {
+        const CliResult result = cli.runBare(words);
+        EXPECT_EQ(result.status, 2) << result;
+        EXPECT_EQ(result.errorLines().value(0), u"tallymere: "_s + message);
+        EXPECT_EQ(result.output, QString());
+    }
 }
-
-const UsageCase usageCases[] = {
-    {"NoCommand", {}, u"which command?"_s},
-    {"UnknownCommand", {u"tidy"_s}, u"unknown command 'tidy'"_s},
-    {"UnknownOption", {u"totals"_s, u"--frob"_s}, u"unknown option '--frob'"_s},
-    {"ValueMissing", {u"totals"_s, u"--sort"_s}, u"option '--sort' needs a value: ORDER"_s},
-    {"BadSort", {u"totals"_s, u"--sort=up"_s}, u"option '--sort' takes item or description, not 'up'"_s},
-    {"SwitchWithValue", {u"totals"_s, u"--csv=1"_s}, u"option '--csv' takes no value"_s},
-    {"Twice", {u"totals"_s, u"--filter"_s, u"a"_s, u"--filter"_s, u"b"_s}, u"option '--filter' is given twice"_s},
-    {"TooFewWords", {u"import"_s, u"items"_s}, u"'import' needs more: KIND FILE.csv"_s},
-    {"TooManyWords", {u"totals"_s, u"x"_s}, u"'totals' does not know what to do with 'x'"_s},
-    {"TwoPlaces",
-     {u"--data"_s, u"a"_s, u"--server"_s, u"b"_s, u"totals"_s},
-     u"--data and --server exclude each other"_s},
-    {"EmptyFolder", {u"--data="_s, u"totals"_s}, u"option '--data' needs a value"_s},
-    {"BadSeed", {u"sample"_s, u"--seed=-1"_s}, u"option '--seed' needs a whole number of 0 or more, not '-1'"_s},
-    {"BadSize", {u"sample"_s, u"--size=huge"_s}, u"option '--size' takes small or large, not 'huge'"_s},
-};
-
-INSTANTIATE_TEST_SUITE_P(Cli, WrongUsage, testing::ValuesIn(usageCases),
-                         [](const auto &one) { return std::string(one.param.name); });
 
 TEST(Help, IsThereForTheProgramAndForEachCommandThatItNames)
 {

@@ -12,8 +12,7 @@ class Workday : public testing::TestWithParam<Store>
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Cli, Workday, testing::Values(Store::Local, Store::Remote),
-                         [](const auto &one) { return std::string(storeName(one.param)); });
+ON_BOTH_STORES(Workday);
 
 TEST_P(Workday, FromAnEmptyFolderToTotals)
 {
