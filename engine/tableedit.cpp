@@ -111,7 +111,7 @@ void Table::edit()
 void Table::readForEdit()
 {
     const DataSetReader reader(*this);
-    const Row shown = reader.currentRow();
+    const Row shown = reader.currentRow(); // NOLINT(performance-unnecessary-copy-initialization): it is read anew
     auto edit = std::make_unique<Edit>();
     edit->lock.emplace(m_database.connection(), m_database.session(), m_name, lockKey(shown));
     const bool found = findAgain(shown);

@@ -27,7 +27,7 @@ struct ScreenKind
 class ScreenRegistry
 {
 public:
-    void add(const QString &name, ScreenKind kind) { m_kinds.insert(name, std::move(kind)); }
+    void add(const QString &name, const ScreenKind &kind) { m_kinds.insert(name, kind); }
     // Null when there is no such screen.
     const ScreenKind *find(const QString &name) const;
     bool contains(const QString &name) const { return m_kinds.contains(name); }
