@@ -1,5 +1,4 @@
 #include "cli/csv.h"
-#include "frame/shared/ruleerror.h"
 
 #include <gtest/gtest.h>
 #include <QBuffer>

@@ -177,9 +177,6 @@ TEST_P(Tables, OwnedTablesFollowTheActionLetter)
     EXPECT_FALSE(bank.isOpen());
     tables(u"O"_s, owned);
     EXPECT_TRUE(tax.isOpen() && bank.isOpen());
-    tables(u"o"_s, owned);
-    tables(u"X"_s, owned);
-    EXPECT_TRUE(tax.isOpen() && bank.isOpen());
     tables(u"C"_s, owned);
     EXPECT_FALSE(tax.isOpen() || bank.isOpen());
 }

@@ -1,4 +1,3 @@
-#include "engine/locks.h"
 #include "tests/engine/storetest.h"
 
 #include <QFile>

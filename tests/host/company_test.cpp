@@ -4,7 +4,6 @@
 #include "tests/host/privatesettings.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;

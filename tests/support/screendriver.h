@@ -3,8 +3,6 @@
 #include <functional>
 #include <QApplication>
 #include <QDialog>
-#include <QElapsedTimer>
-#include <QKeySequence>
 #include <QTest>
 #include <QTimer>
 

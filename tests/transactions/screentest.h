@@ -8,7 +8,7 @@
 #include "tests/transactions/kitchen.h"
 
 #include <gtest/gtest.h>
-#include <QMainWindow>
+#include <QWidget>
 
 // The screens over the test kitchen, as the main window sets them up. Windows are closed without a question when
 // the test is over.
