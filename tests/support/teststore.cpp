@@ -104,7 +104,9 @@ std::unique_ptr<TestUser> TestStore::anotherUser(const QString &user)
 
 QStringList TestStore::place() const
 {
-    return m_store == Store::Local ? QStringList{u"local"_s, directory()} : QStringList{u"remote"_s, remoteName()};
+    if (m_store == Store::Local)
+        return {u"local"_s, directory()};
+    return {u"remote"_s, remoteName()};
 }
 
 void TestStore::execute(const QString &script) { database().connection().execute(script); }
