@@ -79,7 +79,8 @@ protected:
     ListScreen(ScreenContext &context, QWidget *parent);
 
     // Called once by the constructor of a screen, after its data set is open.
-    void build(const ListDescription &description, Engine::DataSet &set, const std::function<void()> &defaultCommand);
+    void build(const ListDescription &description, Engine::DataSet &set,
+               const std::function<void()> &defaultCommand);
 
     ScreenContext &context() const { return m_context; }
     ListGrid *grid() const { return m_grid; }
