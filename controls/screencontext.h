@@ -9,6 +9,7 @@ class QWidget;
 
 namespace Tallymere {
 
+class SettingsStore;
 class TDataModuleTallymere;
 class TdmLookUpsInv;
 
@@ -29,6 +30,15 @@ struct ScreenContext
     std::function<QWidget *(const QString &screenName)> openScreen = {};
     // Whether openScreen knows the screen. Commands that lead to one that is not there are disabled.
     std::function<bool(const QString &screenName)> hasScreen = {};
+    // Makes a further instance of a screen even if one is open, shows it and returns it.
+    std::function<QWidget *(const QString &screenName)> openAnotherScreen = {};
+    // Runs a command of the main window, by its action's name ("ActionSynchronizeLocations"). Empty: there is no
+    // main window, and commands of screens that stand for one are disabled.
+    std::function<void(const QString &action)> runAction = {};
+    // Opens a document or an address ("mailto:...", "http://...") with the desktop's program for it.
+    std::function<void(const QString &address)> openObject = {};
+    // Where windows keep their places and grids their column widths. Null: nothing is remembered.
+    SettingsStore *settings = nullptr;
     // Opens the help at a screen's topic, named by the screen. Empty: no help, and the command is disabled.
     std::function<void(const QString &screenName)> showHelp = {};
 
