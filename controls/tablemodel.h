@@ -2,28 +2,12 @@
 
 #include "controls/guard.h"
 #include "engine/dataset.h"
+#include "frame/shared/gridcolumn.h"
 
 #include <QAbstractTableModel>
 #include <QList>
 
 namespace Tallymere {
-
-// One column of a list or a line grid.
-struct GridColumn
-{
-    QString field; // what it shows
-    QString title;
-    int width = 80; // design pixels
-    Qt::Alignment alignment = Qt::AlignLeft;
-    // Line grids: the field that an entry changes, where that is not the one shown (a looked-up name). Messages
-    // that name either field lead to the column.
-    QString dataField = {};
-
-    bool shows(const QString &name) const
-    {
-        return field.compare(name, Qt::CaseInsensitive) == 0 || dataField.compare(name, Qt::CaseInsensitive) == 0;
-    }
-};
 
 // Shows a data set to views. Rows are read in the windows that the data set keeps, never all of them. A model that
 // reads the first page first has only that many rows when its set has been opened; the view that has painted them

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <Qt>
+
+namespace Tallymere {
+
+// One column of a list or a line grid.
+struct GridColumn
+{
+    QString field; // what it shows
+    QString title;
+    int width = 80; // design pixels
+    Qt::Alignment alignment = Qt::AlignLeft;
+    // Line grids: the field that an entry changes, where that is not the one shown (a looked-up name). Messages
+    // that name either field lead to the column.
+    QString dataField = {};
+
+    bool shows(const QString &name) const
+    {
+        return field.compare(name, Qt::CaseInsensitive) == 0 || dataField.compare(name, Qt::CaseInsensitive) == 0;
+    }
+};
+
+} // namespace Tallymere
