@@ -1,8 +1,7 @@
 #include "cli/largekitchen.h"
 
 #include "cli/largecatalogue.h"
-#include "engine/session.h"
-#include "transactions/groupedwrites.h"
+#include "engine/groupedwrites.h"
 #include "transactions/receiptcost.h"
 
 using namespace Qt::StringLiterals;
@@ -32,7 +31,7 @@ LargeKitchen::LargeKitchen(Engine::Database &database, std::uint64_t seed, Size 
 void LargeKitchen::fill(Progress &progress)
 {
     Engine::Connection &connection = m_database.connection();
-    const BulkWriting room(connection, m_database.session().type == Engine::SessionType::Local);
+    const Engine::BulkWriting room(m_database);
     Engine::Transaction transaction(connection);
     fillCatalogue(m_database, m_size.items, m_chance);
     fillLocations(m_database, locationCount);

@@ -2,10 +2,9 @@
 
 #include "engine/dialect.h"
 #include "engine/error.h"
-#include "engine/session.h"
+#include "engine/groupedwrites.h"
 #include "engine/table.h"
 #include "frame/shared/ruleerror.h"
-#include "transactions/groupedwrites.h"
 #include "transactions/historywriter.h"
 #include "transactions/stockbook.h"
 
@@ -114,14 +113,12 @@ bool DocumentPosting::run(Prompts &prompts, Progress &progress)
 void DocumentPosting::postAll(Progress &progress)
 {
     Engine::Connection &connection = m_database.connection();
-    const bool fileStore = m_database.session().type == Engine::SessionType::Local;
-    const BulkWriting bulk(connection, fileStore);
+    const Engine::BulkWriting bulk(m_database);
     StockBook stock(connection);
     HistoryWriter history(connection, m_kind.keyField, m_kind.transType);
     const Engine::StatementPtr mark =
         connection.prepare(u"UPDATE %1 SET Posted = true WHERE %2 = ?"_s.arg(m_kind.headerTable, m_kind.keyField));
-    GroupedWrites writes(connection, fileStore ? GroupedWrites::Sending::Waiting : GroupedWrites::Sending::Ahead,
-                         [&stock] { stock.forget(); });
+    Engine::GroupedWrites writes(m_database, [&stock] { stock.forget(); });
 
     for (size_t begin = 0; begin < m_keys.size(); begin += BatchSize) {
         const size_t end = std::min(begin + BatchSize, m_keys.size());
@@ -130,7 +127,7 @@ void DocumentPosting::postAll(Progress &progress)
         stock.require(itemsOf(documents));
         for (PostingDocument &each : documents) {
             const auto document = std::make_shared<const PostingDocument>(std::move(each));
-            writes.apply([this, document, &stock, &history, &mark](Writes &sink) {
+            writes.apply([this, document, &stock, &history, &mark](Engine::Writes &sink) {
                 postDocument(*document, *mark, {stock, history, sink});
             });
             ++m_posted;

@@ -9,11 +9,14 @@
 #include <QCoreApplication>
 #include <vector>
 
+namespace Engine {
+class Writes;
+}
+
 namespace Tallymere {
 
 class HistoryWriter;
 class StockBook;
-class Writes;
 
 // A table that a posting run holds for itself, and what is said when another user has it.
 struct PostingLock
@@ -63,7 +66,7 @@ struct PostingBooks
 {
     StockBook &stock;
     HistoryWriter &history;
-    Writes &writes;
+    Engine::Writes &writes;
 };
 
 // Posts every unposted document of one kind: marks it posted, then writes history and balance line by line.

@@ -1,7 +1,7 @@
 #include "transactions/historywriter.h"
 
+#include "engine/groupedwrites.h"
 #include "transactions/documentposting.h"
-#include "transactions/groupedwrites.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ HistoryWriter::HistoryWriter(Engine::Connection &connection, const QString &keyF
 }
 
 void HistoryWriter::append(const PostingDocument &document, const Engine::Value &item, double quantity,
-                           std::optional<Engine::Money> unitCost, Writes &writes)
+                           std::optional<Engine::Money> unitCost, Engine::Writes &writes)
 {
     m_insert->bind(0, item);
     m_insert->bind(1, document.warehouse);

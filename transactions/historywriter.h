@@ -6,9 +6,12 @@
 
 #include <optional>
 
+namespace Engine {
+class Writes;
+}
+
 namespace Tallymere {
 
-class Writes;
 struct PostingDocument;
 
 // Appends rows to the transaction history for one kind of document.
@@ -20,7 +23,7 @@ public:
 
     // Quantity in stock units with the sign as entered; a cost is left empty where the kind carries none.
     void append(const PostingDocument &document, const Engine::Value &item, double quantity,
-                std::optional<Engine::Money> unitCost, Writes &writes);
+                std::optional<Engine::Money> unitCost, Engine::Writes &writes);
 
 private:
     Engine::StatementPtr m_insert;

@@ -1,7 +1,7 @@
 #include "transactions/stockbook.h"
 
 #include "engine/dialect.h"
-#include "transactions/groupedwrites.h"
+#include "engine/groupedwrites.h"
 
 #include <cmath>
 #include <stdexcept>
@@ -81,7 +81,7 @@ std::optional<Money> StockBook::averageCost(qint64 item) const
     return average ? std::optional(Money::fromDouble(*average)) : std::nullopt;
 }
 
-void StockBook::setAverageCost(qint64 item, Money cost, Writes &writes)
+void StockBook::setAverageCost(qint64 item, Money cost, Engine::Writes &writes)
 {
     m_updateCost->bindDouble(0, cost.toDouble());
     m_updateCost->bindInt(1, item);
@@ -90,7 +90,7 @@ void StockBook::setAverageCost(qint64 item, Money cost, Writes &writes)
 }
 
 void StockBook::addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity,
-                             Writes &writes)
+                             Engine::Writes &writes)
 {
     Balance *balance = findBalance(item, warehouse);
     if (balance == nullptr) {
@@ -119,7 +119,7 @@ StockBook::Balance *StockBook::findBalance(const Engine::Value &item, const Engi
 }
 
 void StockBook::insertBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity,
-                              Writes &writes)
+                              Engine::Writes &writes)
 {
     m_insertBalance->bindDouble(0, quantity);
     m_insertBalance->bind(1, item);

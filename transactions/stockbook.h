@@ -8,9 +8,11 @@
 #include <unordered_map>
 #include <vector>
 
-namespace Tallymere {
-
+namespace Engine {
 class Writes;
+}
+
+namespace Tallymere {
 
 // Quantities on hand and average costs during a posting run. Each is read once; every change is written at once.
 // Right only while the run holds the tables for itself. Grows with the items and locations that are touched, not
@@ -28,11 +30,12 @@ public:
     double onHand(qint64 item) const; // over all locations
     // Nothing when there is no such item. Throws std::range_error for a cost beyond the range of money.
     std::optional<Engine::Money> averageCost(qint64 item) const;
-    void setAverageCost(qint64 item, Engine::Money cost, Writes &writes);
+    void setAverageCost(qint64 item, Engine::Money cost, Engine::Writes &writes);
     // Adds to the balance of an item at a location, making it if it is missing. Nulls are written as they are, for
     // the store to refuse. Throws std::range_error when the balance would become infinite, as no movement brings it
     // back from there.
-    void addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity, Writes &writes);
+    void addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity,
+                      Engine::Writes &writes);
 
 private:
     struct Balance
@@ -49,7 +52,8 @@ private:
     void readCosts(const QString &items);
     void readBalances(const QString &items);
     Balance *findBalance(const Engine::Value &item, const Engine::Value &warehouse);
-    void insertBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity, Writes &writes);
+    void insertBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity,
+                       Engine::Writes &writes);
 
     std::unordered_map<qint64, Item> m_items;
     Engine::StatementPtr m_readCosts;

@@ -1,36 +1,39 @@
-#include "transactions/groupedwrites.h"
+#include "engine/groupedwrites.h"
 
 #include "engine/error.h"
+#include "engine/session.h"
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Engine {
 
 namespace {
 
-// A group must not last longer than a quarter of a second; the rest is for its last document.
+// A group must not last longer than a quarter of a second; the rest is for its last step.
 constexpr std::chrono::milliseconds GroupTime{240};
+
+bool isFileStore(const Database &database) { return database.session().type == SessionType::Local; }
 
 } // namespace
 
-GroupedWrites::GroupedWrites(Engine::Connection &connection, Sending sending, std::function<void()> forgetReads)
-    : m_connection(connection)
-    , m_sending(sending)
+GroupedWrites::GroupedWrites(Database &database, std::function<void()> forgetReads)
+    : m_connection(database.connection())
+    , m_sending(isFileStore(database) ? Sending::Waiting : Sending::Ahead)
     , m_forgetReads(std::move(forgetReads))
 {
 }
 
 GroupedWrites::~GroupedWrites() { keepApplied(); }
 
-void GroupedWrites::apply(Document document)
+void GroupedWrites::apply(Step step)
 {
     guarded([&] {
         begin();
         if (m_sending == Sending::Ahead)
-            m_group.push_back(document);
-        document(*this);
+            m_group.push_back(step);
+        step(*this);
         if (std::chrono::steady_clock::now() - m_begun >= GroupTime)
             commit();
     });
@@ -52,9 +55,9 @@ void GroupedWrites::guarded(const std::function<void()> &step)
 {
     try {
         step();
-    } catch (const Engine::EngineError &error) {
+    } catch (const EngineError &error) {
         // What a lost connection had not committed is gone, and the locks with it.
-        if (m_sending == Sending::Waiting || error.code() == Engine::ErrorCode::ConnectionLost) {
+        if (m_sending == Sending::Waiting || error.code() == ErrorCode::ConnectionLost) {
             keepApplied();
             throw;
         }
@@ -71,13 +74,14 @@ void GroupedWrites::guarded(const std::function<void()> &step)
 void GroupedWrites::replay()
 {
     m_connection.rollback();
-    m_forgetReads();
-    const std::vector<Document> documents = std::exchange(m_group, {});
+    if (m_forgetReads)
+        m_forgetReads();
+    const std::vector<Step> steps = std::exchange(m_group, {});
     m_replaying = true;
     try {
         m_connection.begin();
-        for (const Document &document : documents)
-            document(*this);
+        for (const Step &step : steps)
+            step(*this);
         m_connection.commit();
     } catch (...) {
         m_replaying = false;
@@ -87,7 +91,7 @@ void GroupedWrites::replay()
     m_replaying = false; // whatever it was has passed
 }
 
-void GroupedWrites::send(Engine::Statement &statement)
+void GroupedWrites::send(Statement &statement)
 {
     if (m_replaying)
         sendGuarded(statement);
@@ -95,13 +99,13 @@ void GroupedWrites::send(Engine::Statement &statement)
         statement.send();
 }
 
-void GroupedWrites::sendGuarded(Engine::Statement &statement)
+void GroupedWrites::sendGuarded(Statement &statement)
 {
     m_connection.execute(u"SAVEPOINT one_write"_s);
     try {
         statement.execute();
-    } catch (const Engine::EngineError &error) {
-        if (error.code() != Engine::ErrorCode::ConnectionLost)
+    } catch (const EngineError &error) {
+        if (error.code() != ErrorCode::ConnectionLost)
             m_connection.execute(u"ROLLBACK TO SAVEPOINT one_write"_s);
         throw;
     }
@@ -139,23 +143,23 @@ void GroupedWrites::keepApplied() noexcept
 
 namespace {
 
-QString setting(Engine::Connection &connection, const QString &name)
+QString setting(Connection &connection, const QString &name)
 {
-    const Engine::StatementPtr statement = connection.prepare(u"PRAGMA "_s + name);
+    const StatementPtr statement = connection.prepare(u"PRAGMA "_s + name);
     return statement->next() ? u"PRAGMA %1 = %2;"_s.arg(name, statement->textAt(0)) : QString();
 }
 
 } // namespace
 
-BulkWriting::BulkWriting(Engine::Connection &connection, bool fileStore)
-    : m_connection(connection)
+BulkWriting::BulkWriting(Database &database)
+    : m_connection(database.connection())
 {
-    if (!fileStore)
+    if (!isFileStore(database))
         return;
-    m_restore = setting(connection, u"cache_size"_s) + setting(connection, u"wal_autocheckpoint"_s);
+    m_restore = setting(m_connection, u"cache_size"_s) + setting(m_connection, u"wal_autocheckpoint"_s);
     // The history's indexes are written all over, and each group writes many of the same pages again: what does not
     // fit the cache, or is copied back after every group, costs as much as the posting itself.
-    connection.execute(u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s);
+    m_connection.execute(u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s);
 }
 
 BulkWriting::~BulkWriting()
@@ -164,9 +168,9 @@ BulkWriting::~BulkWriting()
         return;
     try {
         m_connection.execute(m_restore);
-    } catch (const Engine::EngineError &) {
+    } catch (const EngineError &) {
         // Settings of this connection only; the run's own outcome matters more.
     }
 }
 
-} // namespace Tallymere
+} // namespace Engine

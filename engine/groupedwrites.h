@@ -1,0 +1,77 @@
+#pragma once
+
+#include "engine/database.h"
+
+#include <chrono>
+#include <functional>
+#include <vector>
+
+namespace Engine {
+
+// Where the statements that change something go while one step of a long run is being done.
+class Writes
+{
+public:
+    virtual ~Writes() = default;
+    // Executes the statement as bound, in the order of the calls. A failure may come later.
+    virtual void send(Statement &statement) = 0;
+};
+
+// Commits the writes of a long run in groups. A step of the run is what belongs together: a document with its lines,
+// a row. A group ends between two steps and lasts at most a quarter of a second, so a crash leaves whole steps only.
+//
+// A failure keeps what was written before the failing statement, steps and the part of the last one, and then raises
+// it. A file store executes a statement at once and undoes no other with it. A server gets statements without waiting
+// for their answers, as pays there, and a failed one spoils its transaction: the group is rolled back and its steps
+// are done once more, statement by statement, up to the one that fails. A step must therefore depend on nothing but
+// the store and what forgetReads drops.
+class GroupedWrites final : private Writes
+{
+public:
+    using Step = std::function<void(Writes &)>;
+
+    explicit GroupedWrites(Database &database, std::function<void()> forgetReads = {});
+    ~GroupedWrites() override; // keeps what was applied, if finish() was not reached
+    GroupedWrites(const GroupedWrites &) = delete;
+    GroupedWrites &operator=(const GroupedWrites &) = delete;
+
+    void apply(Step step);
+    void settle(); // everything applied has reached the store; before reading from it
+    void finish(); // commits what is open
+
+private:
+    // Ahead: statements are sent without waiting for the answer to the one before.
+    enum class Sending { Waiting, Ahead };
+
+    void send(Statement &statement) override;
+    void sendGuarded(Statement &statement);
+    void begin();
+    void commit();
+    void keepApplied() noexcept;
+    void guarded(const std::function<void()> &step);
+    void replay();
+
+    Connection &m_connection;
+    const Sending m_sending;
+    const std::function<void()> m_forgetReads;
+    std::vector<Step> m_group; // applied since the last commit; kept when sending ahead
+    bool m_replaying = false;
+    std::chrono::steady_clock::time_point m_begun;
+};
+
+// While it lives, the file store has room for many writes: a larger cache and rarer checkpoints. Nothing on a
+// server.
+class BulkWriting
+{
+public:
+    explicit BulkWriting(Database &database);
+    ~BulkWriting();
+    BulkWriting(const BulkWriting &) = delete;
+    BulkWriting &operator=(const BulkWriting &) = delete;
+
+private:
+    Connection &m_connection;
+    QString m_restore;
+};
+
+} // namespace Engine
