@@ -1,5 +1,6 @@
 #include "frame/frmtallymeresystem.h"
 
+#include "controls/openobject.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
@@ -154,6 +155,7 @@ void TFormTallymereSystem::fillContext()
         .securityCheck = [this](const QString &key, const QString &name) { return securityCheck(key, name); },
         .openScreen = [this](const QString &name) { return m_runner.open(name, *m_context); },
         .hasScreen = [this](const QString &name) { return m_services.screens.contains(name); },
+        .openObject = openObject,
         .showHelp = {},
     });
 }

@@ -9,7 +9,7 @@ namespace Tallymere {
 
 void nameSampleCompany(const QString &executableFolder)
 {
-    const InitFile file(executableFolder + "/HX1.ini"_L1);
+    const InitFile file(hostInitFile(executableFolder));
     if (!file.value(u"Companies", u"Sample Data").isEmpty())
         return;
     if (!file.setValue(u"Companies"_s, u"Sample Data"_s, executableFolder + "/Data"_L1))

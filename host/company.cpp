@@ -77,7 +77,7 @@ bool useCompanyFolder(SettingsStore &settings, const QString &folder)
 
 QString sampleCompanyFolder(const QString &executableFolder)
 {
-    const QString folder = InitFile(executableFolder + "/HX1.ini"_L1).value(u"Companies", u"Sample Data");
+    const QString folder = InitFile(hostInitFile(executableFolder)).value(u"Companies", u"Sample Data");
     const bool there = !folder.isEmpty() && QFileInfo(folder + "/Corvane.sqlite"_L1).isFile();
     return there ? folder : QString();
 }

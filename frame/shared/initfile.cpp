@@ -121,4 +121,6 @@ QList<QByteArray> InitFile::lines() const
     return all;
 }
 
+QString hostInitFile(const QString &executableFolder) { return executableFolder + "/HX1.ini"_L1; }
+
 } // namespace Tallymere

@@ -36,4 +36,7 @@ private:
     QString m_path;
 };
 
+// The host's file, "HX1.ini" in the folder of its executable.
+QString hostInitFile(const QString &executableFolder);
+
 } // namespace Tallymere

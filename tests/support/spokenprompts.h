@@ -15,8 +15,14 @@ public:
     Tallymere::Answer answer = Tallymere::Answer::Cancel; // to yesNoCancel()
     int retries = 0; // how often retry() is answered with Retry
     std::function<void()> onRetry;
+    std::function<void()> onInform;
 
-    void inform(const QString &text) override { said << QStringLiteral("inform: ") + text; }
+    void inform(const QString &text) override
+    {
+        said << QStringLiteral("inform: ") + text;
+        if (onInform)
+            onInform();
+    }
     void warn(const QString &text) override { said << QStringLiteral("warn: ") + text; }
     void error(const QString &text) override { said << QStringLiteral("error: ") + text; }
     bool confirm(Tallymere::Question question, const QString &text) override

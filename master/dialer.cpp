@@ -1,0 +1,84 @@
+#include "master/dialer.h"
+
+#include "frame/shared/initfile.h"
+#include "frame/shared/prompts.h"
+#include "frame/shared/ruleerror.h"
+#include "master/modemport.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr QStringView section = u"General";
+constexpr QStringView key = u"DialerPort";
+constexpr QStringView portSection = u"Ports";
+
+QString settingOf(int port) { return u"com%1"_s.arg(port); }
+QString nameOf(int port) { return u"COM%1"_s.arg(port); }
+
+} // namespace
+
+Dialer::Dialer(QString initFile)
+    : m_initFile(std::move(initFile))
+{
+}
+
+int Dialer::port() const
+{
+    const QString setting = InitFile(m_initFile).value(section, key);
+    if (setting.isEmpty())
+        return 1;
+    for (int port = 1; port <= ports; ++port) {
+        if (setting == settingOf(port))
+            return port;
+    }
+    return 0;
+}
+
+void Dialer::setPort(int port) const
+{
+    if (!InitFile(m_initFile).setValue(section.toString(), key.toString(), settingOf(port)))
+        throw RuleError(tr("The port cannot be saved: %1 cannot be written.").arg(m_initFile));
+}
+
+QString Dialer::deviceOf(int port) const
+{
+    const QString named = InitFile(m_initFile).value(portSection, nameOf(port));
+    return named.isEmpty() ? ModemPort::usualDevice(port) : named;
+}
+
+QString Dialer::dialableNumber(const QString &text)
+{
+    // Modems pass over the marks that people write into numbers; a comma is a pause.
+    static const QRegularExpression number(u"\\(?[0-9+*#][0-9+*#() .,/-]*"_s);
+    return number.match(text).captured().trimmed();
+}
+
+void Dialer::dial(const QString &number, Prompts &prompts, const std::function<void()> &dialed) const
+{
+    if (number.trimmed().isEmpty())
+        return;
+    const QString digits = dialableNumber(number);
+    if (digits.isEmpty())
+        throw RuleError(tr("Unable to dial number."));
+
+    const int chosen = port();
+    if (chosen == 0)
+        throw RuleError(tr("Unable to open %1").arg("COM"_L1) + u'\n'
+                        + tr("No port is chosen. Choose one under Setup."));
+    ModemPort modem(deviceOf(chosen));
+    if (!modem.open())
+        throw RuleError(tr("Unable to open %1").arg(nameOf(chosen)) + u'\n'
+                        + u"%1: %2"_s.arg(deviceOf(chosen), modem.problem()));
+    if (!modem.send("ATDT" + digits.toLatin1() + "\r\n"))
+        throw RuleError(tr("Unable to dial number."));
+    dialed();
+    prompts.inform(tr("Pick up the phone.\nClick OK after dialing has completed."));
+    modem.send("ATH\r\n");
+}
+
+} // namespace Tallymere

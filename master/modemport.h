@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+#include <QString>
+
+class QSerialPort;
+
+namespace Tallymere {
+
+// A modem on a serial line, opened for writing: the one place that knows the platform's serial devices.
+class ModemPort
+{
+public:
+    // Takes a device by its name or path: "COM1", "ttyUSB0", "/dev/ttyS0".
+    explicit ModemPort(const QString &device);
+    ~ModemPort(); // closes the line
+    ModemPort(const ModemPort &) = delete;
+    ModemPort &operator=(const ModemPort &) = delete;
+
+    // What this platform calls the ports COM1, COM2, ...
+    static QString usualDevice(int port);
+
+    bool open();
+    // True when the modem has been sent all of it. Waits for that, but not for ever.
+    bool send(const QByteArray &command);
+    QString problem() const; // why the last step failed, in the system's words
+
+private:
+    std::unique_ptr<QSerialPort> m_line;
+};
+
+} // namespace Tallymere

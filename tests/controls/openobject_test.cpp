@@ -1,0 +1,57 @@
+#include "controls/openobject.h"
+#include "tests/support/failures.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QTemporaryFile>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// Stands for the desktop's programs.
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop() { QDesktopServices::setUrlHandler(u"mailto"_s, this, "open"); }
+    ~Desktop() override { QDesktopServices::unsetUrlHandler(u"mailto"_s); }
+
+    Q_INVOKABLE void open(const QUrl &url) { opened << url; }
+
+    QList<QUrl> opened;
+};
+
+} // namespace
+
+TEST(OpenObjectTest, takesWhateverStandsInAnAddressAsTheAddress)
+{
+    const QList<std::pair<QString, QByteArray>> cases = {
+        {u"mailto:mary@example.com"_s, "mailto:mary@example.com"},
+        {u"mailto:o'neil+50%@example.com?bcc=x@y.z&body=1#2"_s,
+         "mailto:o'neil+50%25@example.com%3Fbcc=x@y.z&body=1%232"},
+        {u"mailto: \"J\u00f6rg\" <j@example.com> "_s, "mailto:%22J%C3%B6rg%22%20%3Cj@example.com%3E"},
+        {u"http://example.com/price list?year=5%"_s, "http://example.com/price%20list?year=5%25"},
+        {u"http://b\u00fccher.example"_s, "http://xn--bcher-kva.example"},
+    };
+    for (const auto &[object, url] : cases)
+        EXPECT_EQ(urlOf(object).toEncoded(), url) << qPrintable(object);
+
+    QTemporaryFile file(QDir::tempPath() + u"/100% #1 XXXXXX.pdf"_s);
+    ASSERT_TRUE(file.open());
+    EXPECT_EQ(urlOf(file.fileName()).toLocalFile(), file.fileName());
+}
+
+TEST(OpenObjectTest, handsOverToTheDesktopOrSaysThatItCannot)
+{
+    Desktop desktop;
+    openObject(u"mailto:mary@example.com"_s);
+    EXPECT_EQ(desktop.opened, QList{QUrl(u"mailto:mary@example.com"_s)});
+    for (const QString &object : {u"http://not a host/"_s, u"no such file.pdf"_s, u"unheardof:1"_s, QString()})
+        EXPECT_EQ(refusalOf([&] { openObject(object); }),
+                  u"'%1' cannot be opened: this computer has no program for it. -> "_s.arg(object));
+}
+
+#include "openobject_test.moc"

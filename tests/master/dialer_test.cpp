@@ -1,0 +1,226 @@
+#include "frame/shared/initfile.h"
+#include "master/dialer.h"
+#include "master/dialerinvform.h"
+#include "master/dialersetupinvform.h"
+#include "tests/support/failures.h"
+#include "tests/transactions/screentest.h"
+
+#include <fcntl.h>
+#include <pty.h>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// The far end of a serial line: what a modem on it would hear.
+class Modem
+{
+public:
+    Modem()
+    {
+        char name[64] = {};
+        EXPECT_EQ(::openpty(&m_end, &m_line, name, nullptr, nullptr), 0);
+        ::fcntl(m_end, F_SETFL, O_NONBLOCK);
+        device = QString::fromLocal8Bit(name);
+    }
+    ~Modem() { unplug(); }
+
+    QByteArray heard()
+    {
+        char bytes[256];
+        const auto count = ::read(m_end, bytes, sizeof bytes);
+        return {bytes, std::max<qsizetype>(count, 0)};
+    }
+    // The line is full and takes no more.
+    void stall()
+    {
+        ::fcntl(m_line, F_SETFL, O_NONBLOCK);
+        while (::write(m_line, "AT", 2) > 0) { }
+    }
+    void unplug()
+    {
+        for (int *end : {&m_end, &m_line})
+            ::close(std::exchange(*end, -1));
+    }
+
+    QString device;
+
+private:
+    int m_end = -1;
+    int m_line = -1;
+};
+
+class DialerTest : public ScreenTest
+{
+protected:
+    void writeFile(const QString &text)
+    {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text.toUtf8());
+    }
+    void connectModem() { writeFile(u"[Ports]\nCOM1=%1\n"_s.arg(modem.device)); }
+    QString path() const { return m_folder.filePath(u"HX1.ini"_s); }
+    QString refusal(const QString &number)
+    {
+        return refusalOf([&] { dialer.dial(number, prompts, [] { FAIL() << "dialed"; }); });
+    }
+    QRadioButton *choice(const TfrmDialerSetupInv &setup, int port)
+    {
+        return child<QRadioButton>(setup, qPrintable(u"optCOM%1"_s.arg(port)));
+    }
+
+    Modem modem;
+
+private:
+    QTemporaryDir m_folder;
+
+protected:
+    const Dialer dialer{path()};
+};
+
+} // namespace
+
+TEST_F(DialerTest, dialsThenTellsTheUserThenHangsUp)
+{
+    connectModem();
+    QByteArray atDialing;
+    QByteArray atTelling;
+    prompts.onInform = [&] { atTelling = modem.heard(); };
+    dialer.dial(u"(030) 555-1234"_s, prompts, [&] { atDialing = modem.heard(); });
+    EXPECT_EQ(atDialing, "ATDT(030) 555-1234\r\n");
+    EXPECT_EQ(prompts.take(), QStringList{u"inform: Pick up the phone.\nClick OK after dialing has completed."_s});
+    EXPECT_EQ(atTelling, "") << "not hung up before the user says so";
+    EXPECT_EQ(modem.heard(), "ATH\r\n");
+}
+
+TEST_F(DialerTest, sendsNothingThatIsNoNumber)
+{
+    const QList<std::pair<QString, QString>> cases = {
+        {u"555-1234"_s, u"555-1234"_s},
+        {u" +49 (30) 555/12.34 "_s, u"+49 (30) 555/12.34"_s},
+        {u"9,555*1234#"_s, u"9,555*1234#"_s},
+        {u"555-1234 ext. 12"_s, u"555-1234"_s},
+        {u"Tel. 555-1234"_s, u"555-1234"_s},
+        {u"555-1234;+++ATH0"_s, u"555-1234"_s},
+        {u"555-1234\r\nATDT900"_s, u"555-1234"_s},
+        {u"555\u2028\u0661234"_s, u"555"_s},
+        {u"ask (Mary)"_s, {}},
+        {u"\r\n"_s, {}},
+    };
+    for (const auto &[typed, sent] : cases)
+        EXPECT_EQ(Dialer::dialableNumber(typed), sent) << qPrintable(typed);
+}
+
+TEST_F(DialerTest, saysWhyItCannotDial)
+{
+    EXPECT_EQ(refusal(u"ask Mary"_s), u"Unable to dial number. -> "_s);
+    EXPECT_EQ(refusal(u"  "_s), QString()) << "no number: nothing happens";
+
+    writeFile(u"[General]\nDialerPort=com3\n[Ports]\nCOM3=/dev/none\n"_s);
+    EXPECT_TRUE(refusal(u"555"_s).startsWith("Unable to open COM3\n/dev/none: "_L1));
+    for (const char *unknown : {"com5", "com", "lpt1", "COM2"}) {
+        writeFile(u"[General]\nDialerPort="_s + QLatin1StringView(unknown));
+        EXPECT_EQ(dialer.port(), 0) << unknown;
+        EXPECT_EQ(refusal(u"555"_s), u"Unable to open COM\nNo port is chosen. Choose one under Setup. -> "_s);
+    }
+    connectModem();
+    modem.stall();
+    EXPECT_EQ(refusal(u"555"_s), u"Unable to dial number. -> "_s);
+    modem.unplug();
+    EXPECT_TRUE(refusal(u"555"_s).startsWith("Unable to open COM1\n/dev/"_L1));
+}
+
+TEST_F(DialerTest, setupShowsAndKeepsThePort)
+{
+    const QByteArray rest = "[Companies]\r\nSample Data=C:\\HX1\\Data\r\n";
+    writeFile(QString::fromLatin1(rest));
+    {
+        TfrmDialerSetupInv setup(*context, dialer, mainWindow.get());
+        showActive(setup);
+        EXPECT_TRUE(choice(setup, 1)->isChecked()) << "no port named yet";
+        choice(setup, 1)->setFocus();
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        press(Qt::Key_Escape);
+        EXPECT_EQ(dialer.port(), 1) << "cancelled";
+    }
+    {
+        TfrmDialerSetupInv setup(*context, dialer, mainWindow.get());
+        showActive(setup);
+        choice(setup, 1)->setFocus();
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        press(Qt::Key_Return);
+        EXPECT_FALSE(setup.isVisible());
+    }
+    EXPECT_EQ(InitFile(path()).value(u"General", u"DialerPort"), u"com3"_s);
+    QFile file(path());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().startsWith(rest)) << "the rest of the file is as it was";
+
+    writeFile(u"[General]\nDialerPort=com7\n"_s);
+    TfrmDialerSetupInv setup(*context, dialer, mainWindow.get());
+    for (int port = 1; port <= 4; ++port)
+        EXPECT_FALSE(choice(setup, port)->isChecked());
+    child<QPushButton>(setup, "btnOK")->click();
+    EXPECT_EQ(InitFile(path()).value(u"General", u"DialerPort"), u"com7"_s) << "nothing was chosen";
+}
+
+TEST_F(DialerTest, setupThatCannotBeSavedStaysOpen)
+{
+    const Dialer lost(u"/proc/none/HX1.ini"_s);
+    TfrmDialerSetupInv setup(*context, lost, mainWindow.get());
+    showActive(setup);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(setup.isVisible());
+    EXPECT_EQ(prompts.take(),
+              QStringList{u"error: The port cannot be saved: /proc/none/HX1.ini cannot be written."_s});
+}
+
+TEST_F(DialerTest, screenDialsAndFreesItself)
+{
+    connectModem();
+    QPointer<TfrmDialerInv> screen =
+        new TfrmDialerInv(*context, u"O'Neil & <b>Sons</b>, 10 %1"_s, u"555-1234"_s, dialer, mainWindow.get());
+    bool hidden = false;
+    prompts.onInform = [&] { hidden = !screen->isVisible(); };
+    EXPECT_TRUE(whileOpen<TfrmDialerInv>([&] { screen->exec(); },
+                                         [&](TfrmDialerInv &dialog) {
+                                             EXPECT_EQ(child<QLabel>(dialog, "Label1")->text(),
+                                                       u"Phone 'O'Neil & <b>Sons</b>, 10 %1'\nat 555-1234"_s);
+                                             press(Qt::Key_Return);
+                                         }));
+    EXPECT_EQ(modem.heard(), "ATDT555-1234\r\nATH\r\n");
+    EXPECT_TRUE(hidden) << "while the user dials on";
+    settle();
+    EXPECT_TRUE(screen.isNull());
+}
+
+TEST_F(DialerTest, screenStaysAfterAFailureSoThatThePortCanBeSetUp)
+{
+    writeFile(u"[Ports]\nCOM1=/dev/none\nCOM2=%1\n"_s.arg(modem.device));
+    auto *screen = new TfrmDialerInv(*context, u"Mary"_s, u"555-1234"_s, dialer, mainWindow.get());
+    EXPECT_TRUE(whileOpen<TfrmDialerInv>(
+        [&] { screen->exec(); },
+        [&](TfrmDialerInv &dialog) {
+            press(Qt::Key_Return);
+            EXPECT_TRUE(dialog.isVisible());
+            EXPECT_TRUE(prompts.last().startsWith("error: Unable to open COM1"_L1));
+            EXPECT_TRUE(whileOpen<TfrmDialerSetupInv>([&] { child<QPushButton>(dialog, "btnSetup")->click(); },
+                                                      [&](TfrmDialerSetupInv &setup) {
+                                                          choice(setup, 2)->click();
+                                                          press(Qt::Key_Return);
+                                                      }));
+            child<QPushButton>(dialog, "btnOK")->click();
+            EXPECT_FALSE(dialog.isVisible());
+        }));
+    EXPECT_EQ(modem.heard(), "ATDT555-1234\r\nATH\r\n");
+}
