@@ -62,6 +62,11 @@ void MessageBoxes::error(const QString &text)
 
 bool MessageBoxes::confirm(Question question, const QString &text)
 {
+    if (question == Question::YesNo) {
+        return ask(QMessageBox::Question, caption(question), text, QMessageBox::Yes | QMessageBox::No,
+                   QMessageBox::Yes)
+            == QMessageBox::Yes;
+    }
     const auto icon = question == Question::Warning ? QMessageBox::Warning : QMessageBox::Question;
     return ask(icon, caption(question), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel)
         == QMessageBox::Ok;

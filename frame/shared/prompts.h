@@ -6,8 +6,9 @@ namespace Tallymere {
 
 enum class Answer { Yes, No, Cancel };
 
-// What a question with OK and Cancel is about: something the user wants, or something that he is warned of.
-enum class Question { Confirm, Warning };
+// How a question is put: about something that the user wants or is warned of, with OK and Cancel; or about what he may
+// as well leave undone, with Yes and No.
+enum class Question { Confirm, Warning, YesNo };
 
 QString caption(Question question); // of its box: "Confirm", "Warning"
 
@@ -20,7 +21,7 @@ public:
     virtual void inform(const QString &text) = 0;
     virtual void warn(const QString &text) = 0;
     virtual void error(const QString &text) = 0;
-    // OK or Cancel, Cancel being the default; true for OK.
+    // True for OK and for Yes. Of OK and Cancel the default is Cancel.
     virtual bool confirm(Question question, const QString &text) = 0;
     virtual Answer yesNoCancel(const QString &text) = 0;
     // An error with Retry and Cancel; true for Retry.
