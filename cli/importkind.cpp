@@ -63,117 +63,36 @@ void require(ImportKind &kind, const QStringList &targets)
     }
 }
 
-template <typename Record> void writeBy(ImportKind &kind)
+// Whether a new record has a value there even if the file gives none.
+bool isPreset(const MasterKind &master, const QString &field)
 {
-    kind.makeTarget = [](const ImportRun &run) {
-        return std::make_unique<MasterImport>(run, std::make_unique<Record>(run.database));
-    };
+    return field == master.numberField || master.presetFields.contains(field)
+        || std::any_of(master.defaults.begin(), master.defaults.end(),
+                       [&](const MasterKind::Default &preset) { return preset.field == field; });
 }
 
-void writeBy(ImportKind &kind, const MasterKind &master)
-{
-    kind.makeTarget = [master](const ImportRun &run) {
-        return std::make_unique<MasterImport>(run, std::make_unique<MasterRecord>(run.database, master));
-    };
-}
-
-ImportKind typesKind()
+// The files of a master table, from its description.
+ImportKind masterKind(const MasterKind &master)
 {
     ImportKind kind;
-    kind.name = u"types"_s;
-    kind.lockedTables = {u"ItemType"_s};
-    addColumns(kind, Layouts::itemType(), {u"ItemTypeID"_s});
-    require(kind, {u"TypeName"_s});
-    column(kind, u"CostingMethod").lowest = 1;
-    column(kind, u"CostingMethod").highest = 2;
-    writeBy(kind, MasterKinds::itemType());
-    return kind;
-}
-
-ImportKind itemsKind()
-{
-    ImportKind kind;
-    kind.name = u"items"_s;
-    kind.lockedTables = {u"Item"_s, u"ItemCtl"_s};
-    addColumns(
-        kind, Layouts::item(),
-        {u"ItemID"_s, u"SalesGLAccountID"_s, u"COGSGLAccountID"_s, u"InventoryGLAccountID"_s, u"UnitPrice"_s});
-    addName(kind, u"ItemTypeID"_s, Layouts::itemType(), u"TypeName"_s, tr("Item type '%1' not found"));
-    require(kind, {u"ItemDescription"_s, u"ItemTypeID"_s});
-    writeBy<ItemRecord>(kind);
-    return kind;
-}
-
-ImportKind locationsKind()
-{
-    ImportKind kind;
-    kind.name = u"locations"_s;
-    kind.lockedTables = {u"Warehse"_s};
-    addColumns(kind, Layouts::warehse(), {u"WarehouseID"_s, u"Location_ID"_s});
-    require(kind, {u"WarehouseName"_s});
-    writeBy(kind, MasterKinds::location());
-    return kind;
-}
-
-ImportKind vendorsKind()
-{
-    ImportKind kind;
-    kind.name = u"vendors"_s;
-    kind.lockedTables = {u"Vendor"_s, u"VendCtl"_s};
-    addColumns(kind, Layouts::vendor(), {u"VendorID"_s});
-    addName(kind, u"CurrencyID"_s, Layouts::currency(), u"CurrencyName"_s, tr("Currency '%1' not found"));
-    require(kind, {u"VendorName"_s});
-    // An address may be typed longer than what is kept of it.
-    column(kind, u"WebPage").type = Engine::FieldType::Memo;
-    writeBy<VendorRecord>(kind);
-    return kind;
-}
-
-ImportKind contactsKind()
-{
-    ImportKind kind;
-    kind.name = u"contacts"_s;
-    kind.lockedTables = {u"VContact"_s};
-    addColumns(kind, Layouts::vContact(), {u"ContactID"_s});
-    addName(kind, u"VendorID"_s, Layouts::vendor(), u"VendorNo"_s, tr("Vendor no. '%1' not found"));
-    require(kind, {u"VendorID"_s});
-    writeBy<VendorContactRecord>(kind);
-    return kind;
-}
-
-ImportKind currenciesKind()
-{
-    ImportKind kind;
-    kind.name = u"currencies"_s;
-    kind.lockedTables = {u"Currency"_s};
-    addColumns(kind, Layouts::currency(),
-               {u"CurrencyID"_s, u"GainLossExchangeGLAccntID"_s, u"APGLAccountID"_s, u"APDiscGLAccountID"_s,
-                u"ARGLAccountID"_s, u"ARDiscGLAccountID"_s, u"DfltWriteOffGLAccountID"_s});
-    require(kind, {u"CurrencyName"_s});
-    writeBy(kind, MasterKinds::currency());
-    return kind;
-}
-
-ImportKind taxesKind()
-{
-    ImportKind kind;
-    kind.name = u"taxes"_s;
-    kind.lockedTables = {u"Tax"_s};
-    addColumns(kind, Layouts::tax(), {u"TaxID"_s, u"TaxGLAccountID"_s});
-    require(kind, {u"TaxName"_s, u"TaxCode"_s, u"TaxDescription"_s, u"Rate"_s});
-    writeBy(kind, MasterKinds::tax());
-    return kind;
-}
-
-ImportKind banksKind()
-{
-    ImportKind kind;
-    kind.name = u"banks"_s;
-    kind.lockedTables = {u"Bank"_s};
-    addColumns(kind, Layouts::bank(), {u"BankID"_s, u"BankGLAccountID"_s});
-    addName(kind, u"CurrencyID"_s, Layouts::currency(), u"CurrencyName"_s, tr("Currency '%1' not found"));
-    require(kind, {u"BankName"_s, u"CurrencyID"_s});
-    writeBy(kind, MasterKinds::bank());
+    kind.name = master.name;
+    kind.lockedTables = {master.table};
+    if (!master.counterTable.isEmpty())
+        kind.lockedTables.append(master.counterTable);
+    addColumns(kind, *Layouts::find(master.table), master.systemFields);
+    for (const MasterKind::Reference &reference : master.references)
+        addName(kind, reference.field, *Layouts::find(reference.table), reference.nameField, reference.notFound);
+    for (const MasterKind::Required &required : master.required) {
+        if (!isPreset(master, required.field))
+            require(kind, {required.field});
+    }
+    for (const MasterKind::Limits &limits : master.limits) {
+        column(kind, limits.field).lowest = limits.lowest;
+        column(kind, limits.field).highest = limits.highest;
+    }
+    for (const QString &field : master.longTexts)
+        column(kind, field).type = Engine::FieldType::Memo;
+    kind.makeTarget = [&master](const ImportRun &run) { return std::make_unique<MasterImport>(run, master); };
     return kind;
 }
 
@@ -205,9 +124,13 @@ bool ImportKind::hasLines() const
 
 const QList<ImportKind> &importKinds()
 {
-    static const QList<ImportKind> kinds = {typesKind(),      itemsKind(),    locationsKind(),
-                                            vendorsKind(),    contactsKind(), taxesKind(),
-                                            currenciesKind(), banksKind(),    receiptsKind()};
+    static const QList<ImportKind> kinds = [] {
+        QList<ImportKind> all;
+        for (const MasterKind *master : MasterKinds::all())
+            all.append(masterKind(*master));
+        all.append(receiptsKind());
+        return all;
+    }();
     return kinds;
 }
 

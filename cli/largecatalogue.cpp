@@ -4,6 +4,7 @@
 #include "data/numbercounter.h"
 #include "engine/query.h"
 #include "master/masterkinds.h"
+#include "master/masterrecord.h"
 
 using namespace Qt::StringLiterals;
 

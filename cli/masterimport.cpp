@@ -7,12 +7,12 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-MasterImport::MasterImport(const ImportRun &run, std::unique_ptr<MasterRecord> record)
-    : m_record(std::move(record))
+MasterImport::MasterImport(const ImportRun &run, const MasterKind &kind)
+    : m_record(run.database, kind)
     , m_names(run.database)
 {
-    m_record->numbers = heldNumbers(run.counters);
-    m_record->open();
+    m_record.numbers = heldNumbers(run.counters);
+    m_record.open();
 }
 
 void MasterImport::add(ImportDocument &document, ImportErrors &errors)
@@ -24,12 +24,12 @@ void MasterImport::add(ImportDocument &document, ImportErrors &errors)
         addRow(row);
     } catch (const RuleError &error) {
         errors.add(row.line, error.message());
-        m_record->cancel();
+        m_record.cancel();
     } catch (const Engine::EngineError &error) {
         if (error.code() != Engine::ErrorCode::BadValue)
             throw;
         errors.add(row.line, error.text());
-        m_record->cancel();
+        m_record.cancel();
     }
 }
 
@@ -38,22 +38,22 @@ void MasterImport::addRow(const ImportRow &row)
     beginRecord(row);
     for (const ImportCell &cell : row.cells)
         setField(cell);
-    m_record->save();
+    m_record.save();
 }
 
 void MasterImport::beginRecord(const ImportRow &row)
 {
-    const QString numberField = m_record->kind().numberField;
+    const QString numberField = m_record.kind().numberField;
     const ImportCell *given = numberField.isEmpty() ? nullptr : row.cell(numberField);
     if (given && !given->value.isNull())
-        return m_record->newRecord(given->value.toText());
+        return m_record.newRecord(given->value.toText());
 
-    m_record->newRecord();
+    m_record.newRecord();
     if (numberField.isEmpty())
         return;
-    while (isNumberTaken(m_record->table(), numberField)) {
-        m_record->cancel();
-        m_record->newRecord();
+    while (isNumberTaken(m_record.table(), numberField)) {
+        m_record.cancel();
+        m_record.newRecord();
     }
 }
 
@@ -63,11 +63,11 @@ void MasterImport::setField(const ImportCell &cell)
         return;
     const ImportColumn &column = *cell.column;
     if (column.lookup)
-        m_record->table().set(column.target, m_names.key(*column.lookup, cell.value.toText()));
+        m_record.table().set(column.target, m_names.key(*column.lookup, cell.value.toText()));
     else if (column.type == Engine::FieldType::Text || column.type == Engine::FieldType::Memo)
-        m_record->table().setText(column.target, cell.value.toText());
+        m_record.table().setText(column.target, cell.value.toText());
     else
-        m_record->table().set(column.target, cell.value);
+        m_record.table().set(column.target, cell.value);
 }
 
 } // namespace Tallymere

@@ -10,7 +10,7 @@ namespace Tallymere {
 class MasterImport final : public ImportTarget
 {
 public:
-    MasterImport(const ImportRun &run, std::unique_ptr<MasterRecord> record);
+    MasterImport(const ImportRun &run, const MasterKind &kind);
 
     void add(ImportDocument &document, ImportErrors &errors) override;
 
@@ -19,7 +19,7 @@ private:
     void beginRecord(const ImportRow &row);
     void setField(const ImportCell &cell);
 
-    std::unique_ptr<MasterRecord> m_record;
+    MasterRecord m_record;
     KeyNames m_names;
 };
 

@@ -5,6 +5,7 @@
 #include "data/transtypes.h"
 #include "engine/table.h"
 #include "frame/shared/formats.h"
+#include "master/masterkinds.h"
 #include "transactions/totalsview.h"
 
 #include <QCoreApplication>
@@ -95,25 +96,21 @@ void runHistory(CommandContext &context)
 struct ListKind
 {
     QString name;
-    const Engine::TableLayout &layout;
+    const Engine::TableLayout *layout;
     QString index; // the order of the list on its screen
 };
 
 const QList<ListKind> &listKinds()
 {
-    static const QList<ListKind> kinds = {
-        {u"types"_s, Layouts::itemType(), u"TYPENAME1"_s},
-        {u"items"_s, Layouts::item(), u"ITEMNO"_s},
-        {u"locations"_s, Layouts::warehse(), u"WAREHOUSENAME1"_s},
-        {u"vendors"_s, Layouts::vendor(), u"VENDORNAME1"_s},
-        {u"contacts"_s, Layouts::vContact(), u"VENDORIDFULLNAME"_s},
-        {u"taxes"_s, Layouts::tax(), u"TAXNAME1"_s},
-        {u"currencies"_s, Layouts::currency(), u"CURRENCYNAME1"_s},
-        {u"banks"_s, Layouts::bank(), u"BANKNAME1"_s},
-        {u"receipts"_s, Layouts::iReceipt(), u"PERIODDATEDESC"_s},
-        {u"usage"_s, Layouts::iUsage(), u"INVENTORYDATEUSAGENODESC"_s},
-        {u"adjustments"_s, Layouts::iAdjust(), u"PERIODDATEDESC"_s},
-    };
+    static const QList<ListKind> kinds = [] {
+        QList<ListKind> all;
+        for (const MasterKind *master : MasterKinds::all())
+            all.append({master->name, Layouts::find(master->table), master->orders.constFirst().index});
+        all.append({{u"receipts"_s, &Layouts::iReceipt(), u"PERIODDATEDESC"_s},
+                    {u"usage"_s, &Layouts::iUsage(), u"INVENTORYDATEUSAGENODESC"_s},
+                    {u"adjustments"_s, &Layouts::iAdjust(), u"PERIODDATEDESC"_s}});
+        return all;
+    }();
     return kinds;
 }
 
@@ -128,11 +125,11 @@ void runList(CommandContext &context)
 {
     const ListKind &kind = requireListKind(context.arguments.words().at(1));
     const auto data = context.openData();
-    Engine::Table table(data->databaseTallymere(), kind.layout.name);
+    Engine::Table table(data->databaseTallymere(), kind.layout->name);
     table.readOnly = true;
     table.setIndex(kind.index);
     table.open();
-    writeRows(context, table, fieldNames(kind.layout));
+    writeRows(context, table, fieldNames(*kind.layout));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "controls/entryscreen.h"
 
+#include "controls/listbuttons.h"
 #include "controls/screenmetrics.h"
 
 #include <QAbstractButton>
@@ -7,13 +8,26 @@
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabWidget>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
+
 constexpr auto bottomPanel = "RzPanelBottom"_L1;
+
+// Turns to the page of a tabbed form that the widget is on.
+void showPageOf(QWidget *widget)
+{
+    for (QWidget *page = widget; page->parentWidget(); page = page->parentWidget()) {
+        auto *pages = qobject_cast<QTabWidget *>(page->parentWidget()->parentWidget()); // past their stack
+        if (pages)
+            pages->setCurrentWidget(page);
+    }
+}
+
 } // namespace
 
 EntryScreen::EntryScreen(ScreenContext &context, QWidget *parent)
@@ -36,6 +50,7 @@ void EntryScreen::buildScreen()
         cancel->setProperty("keepsEntry", true);
         connect(cancel, &QPushButton::clicked, this, &EntryScreen::btnCancelClick);
     }
+    connectListButtons(*this, m_context, m_guard, [this](const QString &field) { return m_binder.keyIn(field); });
     if (auto *panel = findChild<QWidget *>(bottomPanel))
         panel->installEventFilter(this);
     showCaption();
@@ -46,6 +61,7 @@ bool EntryScreen::focusColumn(const QString &column)
     QWidget *widget = m_binder.widgetFor(column);
     if (!widget)
         return false;
+    showPageOf(widget);
     widget->setFocus();
     return true;
 }
@@ -147,6 +163,7 @@ void EntryScreen::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
     if (event->spontaneous() || m_firstSize.isValid())
         return;
+    firstShown();
     fitToScreen(this);
     m_firstSize = size();
 }

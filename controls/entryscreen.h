@@ -42,7 +42,9 @@ protected:
     // What a key means on this screen before anything else; true when it was used.
     virtual bool takeKey(QKeyEvent *) { return false; }
 
-    // Connects OK and Cancel. Called once, after the form has been set up and its fields are bound.
+    virtual void firstShown() { } // when the screen is shown for the first time
+
+    // Connects OK, Cancel and the buttons that lead to lists. Called once, after the form has been set up and its fields are bound.
     void buildScreen();
     void showCaption() { setWindowTitle(caption()); }
 

@@ -70,6 +70,8 @@ void FieldBinder::setEntryRule(const QString &field, std::function<void(const QS
         binding->setEntryRule(std::move(rule));
 }
 
+QWidget *FieldBinder::firstWidget() const { return m_bindings.empty() ? nullptr : m_bindings.front()->widget(); }
+
 QWidget *FieldBinder::widgetFor(const QString &column) const
 {
     for (const auto &binding : m_bindings) {
@@ -77,6 +79,12 @@ QWidget *FieldBinder::widgetFor(const QString &column) const
             return binding->widget();
     }
     return nullptr;
+}
+
+int FieldBinder::keyIn(const QString &field) const
+{
+    const FieldBinding *binding = bindingOf(widgetFor(field));
+    return binding ? binding->table().integer(field) : 0;
 }
 
 FieldBinding *FieldBinder::bindingOf(const QObject *widget) const

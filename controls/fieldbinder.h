@@ -16,7 +16,8 @@ class FieldBinding;
 // Ties the widgets of a form to the fields of tables.
 //
 // A widget names its field in the dynamic property "dataField", and its table in "dataSource" where the form has
-// several. Line edits, lookup boxes, check boxes, plain text edits and labels can be tied. What the user enters
+// several. Line edits, lookup boxes, check boxes, groups of radio
+// buttons, plain text edits and labels can be tied. What the user enters
 // puts the table into edit at once and is handed over on leaving the widget; a refusal is shown and the cursor
 // stays. A line edit with the dynamic property "editMask" has that input mask while it has the cursor. Leaving
 // towards a widget with the dynamic property "keepsEntry" (a Cancel button) hands nothing over.
@@ -36,7 +37,9 @@ public:
     // that stands for a key.
     void setEntryRule(const QString &field, std::function<void(const QString &text)> rule);
 
+    QWidget *firstWidget() const; // of the form, among the bound ones; nullptr when there is none
     QWidget *widgetFor(const QString &column) const; // nullptr when no widget shows it
+    int keyIn(const QString &field) const; // the number in a bound field of the current record; 0 for none
     // Hands over what has been entered and not handed over yet; throws what refuses it.
     void commit();
     bool hasEntry() const; // something was entered that commit() would hand over

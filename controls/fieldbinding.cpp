@@ -5,9 +5,11 @@
 
 #include <algorithm>
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QSignalBlocker>
 #include <QVariant>
 
@@ -179,6 +181,54 @@ private:
     QCheckBox *m_box;
 };
 
+// A group of radio buttons, each with the number that it stands for in the dynamic property "value".
+class RadioBinding final : public FieldBinding
+{
+public:
+    RadioBinding(QGroupBox *group, Engine::Table &table, int number, Reports reports)
+        : FieldBinding(group, table, number, std::move(reports))
+        , m_buttons(group->findChildren<QRadioButton *>())
+    {
+        for (QRadioButton *button : m_buttons) {
+            QObject::connect(button, &QRadioButton::clicked, button, [this] {
+                entered();
+                if (hasEntry())
+                    completed();
+            });
+        }
+    }
+
+    void setReadOnly(bool readOnly) override
+    {
+        for (QRadioButton *button : m_buttons)
+            button->setDisabled(readOnly);
+    }
+
+private:
+    static int numberOf(const QRadioButton *button) { return button->property("value").toInt(); }
+
+    // No button is checked for a value that none stands for.
+    void display() override
+    {
+        for (QRadioButton *button : m_buttons) {
+            button->setAutoExclusive(false);
+            button->setChecked(!value().isNull() && numberOf(button) == value().toInt());
+        }
+        for (QRadioButton *button : m_buttons)
+            button->setAutoExclusive(true);
+    }
+
+    void store() override
+    {
+        for (const QRadioButton *button : m_buttons) {
+            if (button->isChecked())
+                table().set(field().name, Value(numberOf(button)));
+        }
+    }
+
+    const QList<QRadioButton *> m_buttons;
+};
+
 class MemoBinding final : public FieldBinding
 {
 public:
@@ -238,6 +288,8 @@ std::unique_ptr<FieldBinding> FieldBinding::make(QWidget *widget, Engine::Table 
         return std::make_unique<CheckBinding>(check, table, number, std::move(reports));
     if (auto *memo = qobject_cast<QPlainTextEdit *>(widget))
         return std::make_unique<MemoBinding>(memo, table, number, std::move(reports));
+    if (auto *group = qobject_cast<QGroupBox *>(widget))
+        return std::make_unique<RadioBinding>(group, table, number, std::move(reports));
     if (auto *label = qobject_cast<QLabel *>(widget))
         return std::make_unique<LabelBinding>(label, table, number, std::move(reports));
     return nullptr;

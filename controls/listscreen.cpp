@@ -138,11 +138,16 @@ void ListScreen::runCommand(const std::function<void()> &run)
     showFilterMark();
 }
 
-ListMenu ListScreen::fileMenu(std::function<void()> print)
+ListMenu ListScreen::fileMenu(Printing printing, std::function<void()> print)
 {
-    return {tr("&File"),
-            {{.name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = std::move(print)},
-             {.name = u"mnuExit"_s, .caption = tr("E&xit"), .run = [this] { close(); }, .separatorBefore = true}}};
+    ListMenu menu{tr("&File"), {}};
+    if (printing == Printing::Offered)
+        menu.commands << ListCommand{.name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = std::move(print)};
+    menu.commands << ListCommand{.name = u"mnuExit"_s,
+                                 .caption = tr("E&xit"),
+                                 .run = [this] { close(); },
+                                 .separatorBefore = !menu.commands.isEmpty()};
+    return menu;
 }
 
 ListCommand ListScreen::findCommand(std::function<void()> run) const

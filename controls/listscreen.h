@@ -86,7 +86,8 @@ protected:
     ListGrid *grid() const { return m_grid; }
 
     // The commands and menus that lists have alike, with their usual names, captions and keys.
-    ListMenu fileMenu(std::function<void()> print = {}); // print, exit
+    enum class Printing { Offered, Never }; // a list without a report has no command for it
+    ListMenu fileMenu(Printing printing = Printing::Offered, std::function<void()> print = {}); // print, exit
     ListCommand findCommand(std::function<void()> run) const;
     ListCommand filterCommand(std::function<void()> run) const;
     ListCommand refreshCommand();

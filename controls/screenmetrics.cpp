@@ -26,6 +26,15 @@ void scaleForm(QWidget *form)
 
 void fitToScreen(QWidget *window) { window->resize(window->size().boundedTo(window->screen()->availableSize())); }
 
+void bringToFront(QWidget &window)
+{
+    if (window.isMinimized())
+        window.showNormal();
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 QWidget *findScreen(const QString &name)
 {
     const QWidgetList windows = QApplication::topLevelWidgets();

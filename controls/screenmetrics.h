@@ -18,6 +18,9 @@ void scaleForm(QWidget *form);
 // Makes a window that is larger than its screen as small as that; its own least size is kept.
 void fitToScreen(QWidget *window);
 
+// Shows a window, not minimised, in front of the others and active.
+void bringToFront(QWidget &window);
+
 // The open window with the component name, or nullptr.
 QWidget *findScreen(const QString &name);
 template <typename Screen> Screen *findScreen(const QString &name)

@@ -1,5 +1,6 @@
 #include "data/lookupsdatainv.h"
 
+#include "data/personname.h"
 #include "engine/textsize.h"
 
 #include <QStringList>
@@ -43,13 +44,6 @@ QString addressLine(const DataSet &row, const QString &prefix)
                     place(row, prefix), row.text(QString(prefix + "Country"_L1))},
                    u", "_s);
     return Engine::firstCharacters(line, addressSize);
-}
-
-Value fullName(const DataSet &row)
-{
-    const QString first = row.text(u"FirstName");
-    const QString last = row.text(u"LastName");
-    return first.isEmpty() || last.isEmpty() ? first + last : first + u' ' + last;
 }
 
 } // namespace
@@ -98,6 +92,16 @@ void TdmLookUpsInv::describeCalculatedFields()
                            [](const DataSet &row) { return Value(addressLine(row, {})); });
     m_vendor.addCalculated(u"CityStateZip"_s, FieldType::Text, 67,
                            [](const DataSet &row) { return Value(place(row, {})); });
+}
+
+LookupList TdmLookUpsInv::list(QStringView table)
+{
+    if (table == u"Currency")
+        return {tblCurrency(), u"CurrencyID"_s, u"CurrencyName"_s, tr("Currency")};
+    if (table == u"ItemType")
+        return {tblItemType(), u"ItemTypeID"_s, u"TypeName"_s, tr("Item Type")};
+    Q_ASSERT(table == u"Warehse");
+    return {tblWarehse(), u"WarehouseID"_s, u"WarehouseName"_s, tr("Location")};
 }
 
 Table &TdmLookUpsInv::opened(Table &table)

@@ -3,13 +3,26 @@
 #include "engine/database.h"
 #include "engine/table.h"
 
+#include <QCoreApplication>
+
 namespace Tallymere {
+
+// A list of a drop-down field: the rows of a table by name, each standing for its key.
+struct LookupList
+{
+    Engine::Table &table;
+    QString keyField;
+    QString nameField;
+    QString title; // of the open list
+};
 
 // One table for each list that screens offer in drop-down fields, in the order the user sees. tblItem and
 // tblItemType are open from the beginning; every other table is opened by the first call of its function, so that a
 // host table that is missing fails where it is needed and nowhere else.
 class TdmLookUpsInv
 {
+    Q_DECLARE_TR_FUNCTIONS(Tallymere::TdmLookUpsInv)
+
 public:
     explicit TdmLookUpsInv(Engine::Database &database);
 
@@ -25,6 +38,9 @@ public:
     Engine::Table &tblItemType() { return opened(m_itemType); }
     Engine::Table &tblWarehse() { return opened(m_warehse); }
     Engine::Table &tblLogo() { return opened(m_logo); } // the host's
+
+    // The lists that fields of records choose from, by their table: "Currency", "ItemType", "Warehse". Opened.
+    LookupList list(QStringView table);
 
 private:
     static Engine::Table &opened(Engine::Table &table);

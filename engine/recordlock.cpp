@@ -16,7 +16,8 @@ QString lockHolder(LockManager &locks, const QString &table)
     return description.isEmpty() ? QString() : " ("_L1 + description + u')';
 }
 
-RecordLock::RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key)
+RecordLock::RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key,
+                       const QString &record)
     : m_locks(connection.locks())
     , m_table(std::move(table))
     , m_key(std::move(key))
@@ -28,7 +29,7 @@ RecordLock::RecordLock(Connection &connection, const Session &session, QString t
         if (m_held)
             return;
         if (attempt >= session.lockAttempts)
-            refuse();
+            refuse(record);
         session.pause();
     }
 }
@@ -45,7 +46,7 @@ QList<qint64> RecordLock::anyKey()
     return {-static_cast<qint64>(bits) - 1};
 }
 
-void RecordLock::refuse()
+void RecordLock::refuse(const QString &record)
 {
     const QList<qint64> probe = anyKey();
     const QString holder = lockHolder(m_locks, m_table);
@@ -53,9 +54,8 @@ void RecordLock::refuse()
         m_locks.unlockRecord(m_table, probe);
         throw EngineError(
             ErrorCode::RecordLocked,
-            QCoreApplication::translate(
-                "Engine", "This record of table '%1' is being edited by another user%2. Try again in a moment.")
-                .arg(m_table, holder));
+            QCoreApplication::translate("Engine", "%1 is being edited by another user%2. Try again in a moment.")
+                .arg(record, holder));
     }
     throw EngineError(
         ErrorCode::TableLocked,

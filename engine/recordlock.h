@@ -6,12 +6,14 @@
 
 namespace Engine {
 
-// A lock on one record for the life of the object. Waits for it as the session says, then throws RecordLocked or
-// TableLocked naming the table and the holder. Nothing to do for a connection that holds the whole table.
+// A lock on one record for the life of the object. Waits for it as the session says, then throws RecordLocked with
+// what the record is called, or TableLocked with the table, and the holder. Nothing to do for a connection that holds
+// the whole table.
 class RecordLock
 {
 public:
-    RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key);
+    RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key,
+               const QString &record);
     ~RecordLock();
     RecordLock(const RecordLock &) = delete;
     RecordLock &operator=(const RecordLock &) = delete;
@@ -20,7 +22,7 @@ public:
     static QList<qint64> anyKey();
 
 private:
-    [[noreturn]] void refuse();
+    [[noreturn]] void refuse(const QString &record);
 
     LockManager &m_locks;
     QString m_table;

@@ -34,6 +34,7 @@ public:
     bool readOnly = false; // edit, insert and remove throw ReadOnly
     void open() override;
     void close() override; // drops an edit in progress
+    QList<OrderedField> orderedFields() const override; // of the index; known once open
 
     // --- whole-table lock ---------------------------------------------------------------------------------------
     // Keeps others from writing, not from reading. Fails at once with TableLocked, naming the holder if known.
@@ -84,6 +85,8 @@ public:
 
     // Fields whose value no other row may hold, checked in post()'s own transaction. Null and "" are free.
     QStringList uniqueFields;
+    // What messages about locks call the current record ("1001: Flour"). Empty: they name the table.
+    std::function<QString()> recordName;
 
     // --- events: each may throw to stop what is about to happen -------------------------------------------------
     struct Events
@@ -120,6 +123,7 @@ private:
     QList<Value> linkValues() const;
     void restrictionChanged();
 
+    QString recordText() const;
     void requireWritable() const;
     void readForEdit();
     void setValue(int field, const Value &value);

@@ -107,21 +107,27 @@ void Table::edit()
     call(events.afterEdit);
 }
 
+QString Table::recordText() const
+{
+    const QString name = recordName ? recordName() : QString();
+    return name.isEmpty() ? QCoreApplication::translate("Engine", "This record of table '%1'").arg(m_name)
+                          : u'\'' + name + u'\'';
+}
+
 // Locks the current record and reads it afresh, so that nothing another user saved is lost.
 void Table::readForEdit()
 {
     const DataSetReader reader(*this);
     const Row shown = reader.currentRow(); // NOLINT(performance-unnecessary-copy-initialization): it is read anew
     auto edit = std::make_unique<Edit>();
-    edit->lock.emplace(m_database.connection(), m_database.session(), m_name, lockKey(shown));
+    edit->lock.emplace(m_database.connection(), m_database.session(), m_name, lockKey(shown), recordText());
     const bool found = findAgain(shown);
     edit->key = currentKey();
     auto stored = found && !edit->key.isEmpty() ? reader.source().row(edit->key) : std::nullopt;
     if (!stored) {
         throw EngineError(
             ErrorCode::RecordGone,
-            QCoreApplication::translate("Engine", "This record of table '%1' was deleted by another user.")
-                .arg(m_name));
+            QCoreApplication::translate("Engine", "%1 was deleted by another user.").arg(recordText()));
     }
     edit->values = *stored;
     edit->original = *stored;

@@ -49,7 +49,7 @@ void Table::write()
     Connection &connection = m_database.connection();
     std::optional<RecordLock> writing; // a new record has no key yet that others could lock
     if (m_state == TableState::Insert)
-        writing.emplace(connection, m_database.session(), m_name, RecordLock::anyKey());
+        writing.emplace(connection, m_database.session(), m_name, RecordLock::anyKey(), recordText());
     Transaction transaction(connection);
     for (const QString &name : std::as_const(uniqueFields))
         requireUnique(requireField(name));
@@ -164,10 +164,8 @@ void Table::updateRow()
     bindAll(*statement, values);
     if (statement->execute() > 0)
         return;
-    throw EngineError(
-        ErrorCode::RecordGone,
-        QCoreApplication::translate("Engine", "This record of table '%1' was deleted by another user.")
-            .arg(m_name));
+    throw EngineError(ErrorCode::RecordGone,
+                      QCoreApplication::translate("Engine", "%1 was deleted by another user.").arg(recordText()));
 }
 
 // --- deleting --------------------------------------------------------------------------------------------------
@@ -197,7 +195,7 @@ void Table::remove()
 void Table::removeCurrent()
 {
     const Row shown = DataSetReader(*this).currentRow();
-    const RecordLock lock(m_database.connection(), m_database.session(), m_name, lockKey(shown));
+    const RecordLock lock(m_database.connection(), m_database.session(), m_name, lockKey(shown), recordText());
     const bool found = findAgain(shown);
     const Key key = d->key;
     const bool first = d->index == 0 && !d->keysRead;
@@ -256,7 +254,8 @@ void Table::removeAll()
             unlockTable();
     });
     for (int i = 0; few && i < d->keys.count(); ++i)
-        locks.emplace_back(connection, m_database.session(), m_name, lockKey(reader.rowAt(i)));
+        locks.emplace_back(connection, m_database.session(), m_name, lockKey(reader.rowAt(i)),
+                           QCoreApplication::translate("Engine", "A record of table '%1'").arg(m_name));
     const SqlCondition condition = reader.source().condition();
     QString sql = u"DELETE FROM %1 AS t"_s.arg(connection.dialect().name(m_layout.name));
     if (!condition.isEmpty())

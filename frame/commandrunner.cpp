@@ -26,13 +26,6 @@ void restore(QWidget &screen)
         screen.showNormal();
 }
 
-void bringToFront(QWidget &screen)
-{
-    screen.show();
-    screen.raise();
-    screen.activateWindow();
-}
-
 // Modal screens are dialogs.
 void showModal(QWidget &screen)
 {

@@ -2,6 +2,9 @@
 
 #include "controls/listscreen.h"
 #include "controls/screencontext.h"
+#include "master/masterkind.h"
+#include "master/masterlistform.h"
+#include "master/masterscreensform.h"
 #include "transactions/invreceiptsform.h"
 #include "transactions/invtotalsform.h"
 
@@ -16,10 +19,10 @@ template <typename Screen> QWidget *make(ScreenContext &context, QWidget *parent
     return new Screen(context, parent);
 }
 
-template <typename Screen> ScreenKind listScreen()
+template <typename Screen> ScreenKind listScreen(const decltype(ScreenKind::create) &create)
 {
     const auto list = [](QWidget &screen) -> Screen & { return static_cast<Screen &>(screen); };
-    return {.create = make<Screen>,
+    return {.create = create,
             .refresh = [list](QWidget &screen) { list(screen).refreshList(); },
             .resetFilter = [list](QWidget &screen) { list(screen).resetFilter(); },
             .showHandler = [list](QWidget &screen) { list(screen).showAgain(); },
@@ -30,8 +33,15 @@ template <typename Screen> ScreenKind listScreen()
 // A list of documents, which also posts them.
 template <typename Screen> ScreenKind documentList()
 {
-    ScreenKind kind = listScreen<Screen>();
+    ScreenKind kind = listScreen<Screen>(make<Screen>);
     kind.post = [](QWidget &screen) { static_cast<Screen &>(screen).mnuPostClick(); };
+    return kind;
+}
+
+ScreenKind masterList(const MasterScreen &screen)
+{
+    ScreenKind kind = listScreen<ListScreen>(screen.make);
+    kind.firstRecord = [](QWidget &list) { static_cast<ListScreen &>(list).dataSet().first(); };
     return kind;
 }
 
@@ -40,8 +50,10 @@ template <typename Screen> ScreenKind documentList()
 ScreenRegistry productScreens()
 {
     ScreenRegistry screens;
+    for (const MasterScreen &screen : masterScreens())
+        screens.add(screen.kind.listScreen, masterList(screen));
     screens.add(u"frmInvReceipts"_s, documentList<TfrmInvReceipts>());
-    screens.add(u"frmInvTotals"_s, listScreen<TfrmInvTotals>());
+    screens.add(u"frmInvTotals"_s, listScreen<TfrmInvTotals>(make<TfrmInvTotals>));
     return screens;
 }
 

@@ -16,9 +16,9 @@ constexpr qint64 firstKey = 10'000;
 
 } // namespace
 
-MasterRecord::MasterRecord(Engine::Database &database, MasterKind kind)
+MasterRecord::MasterRecord(Engine::Database &database, const MasterKind &kind)
     : numbers(numbersAtOnce(database))
-    , m_kind(std::move(kind))
+    , m_kind(kind)
     , m_table(database, m_kind.table)
 {
     if (!m_kind.numberField.isEmpty())
@@ -27,17 +27,20 @@ MasterRecord::MasterRecord(Engine::Database &database, MasterKind kind)
         assignIdentity();
         for (const MasterKind::Default &preset : m_kind.defaults)
             m_table.setDefault(preset.field, preset.value);
-        presetNew();
+        if (m_kind.preset)
+            m_kind.preset(m_table);
     };
     m_table.events.beforePost = [this] { checkAll(); };
+    m_table.recordName = [this] { return m_kind.recordName(m_table); };
+    if (m_kind.addFields)
+        m_kind.addFields(m_table);
 }
-
-MasterRecord::~MasterRecord() = default;
 
 void MasterRecord::open()
 {
     m_table.open();
-    configureFields();
+    if (m_kind.formatFields)
+        m_kind.formatFields(m_table);
 }
 
 void MasterRecord::newRecord(const QString &number)
@@ -49,7 +52,14 @@ void MasterRecord::newRecord(const QString &number)
 bool MasterRecord::openRecord(int key)
 {
     m_table.setIndex({});
-    return m_table.findKey({key});
+    return m_table.locate(m_kind.keyField, {key});
+}
+
+QString MasterRecord::captionFor(const QString &name) const
+{
+    if (!name.isEmpty())
+        return name;
+    return isNew() ? m_kind.newCaption : m_kind.caption;
 }
 
 void MasterRecord::save()
@@ -108,7 +118,8 @@ void MasterRecord::checkAll()
         if (isEmpty(required.field))
             throw RuleError(required.message, required.field);
     }
-    check();
+    if (m_kind.check)
+        m_kind.check(m_table);
     for (const MasterKind::Reference &reference : m_kind.references)
         requireReference(reference);
 
@@ -129,7 +140,7 @@ void MasterRecord::requireReference(const MasterKind::Reference &reference) cons
 {
     const QString sql = u"SELECT count(*) FROM %1 WHERE %2 = ?"_s.arg(reference.table, reference.field);
     if (Engine::singleValue(database(), sql, {m_table.value(reference.field)}).toInt64() == 0)
-        throw RuleError(reference.message, reference.field);
+        throw RuleError(reference.gone, reference.field);
 }
 
 } // namespace Tallymere

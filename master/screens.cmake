@@ -1,9 +1,17 @@
 # The screens of the room.
 tallymere_room(tallymere_master_screens SCREENS
     SOURCES
+        banksinvform.cpp banksinvform.h bankinvform.ui
+        currencyinvform.ui
         dialerinvform.cpp dialerinvform.h dialerinvform.ui
         dialersetupinvform.cpp dialersetupinvform.h dialersetupinvform.ui
+        itemtypeinvform.cpp itemtypeinvform.h itemtypeinvform.ui
         itempairform.cpp itempairform.h
         itemsearchinvform.cpp itemsearchinvform.h itemsearchinvform.ui
         itemsfindform.cpp itemsfindform.h itemsfindform.ui
+        masterlistform.cpp masterlistform.h
+        masterrecordform.cpp masterrecordform.h
+        masterscreensform.cpp masterscreensform.h
+        taxinvform.ui
+        warehousesinvform.cpp warehousesinvform.h warehouseinvform.ui
     LINK tallymere_master tallymere_controls Qt6::Widgets)

@@ -1,7 +1,6 @@
 #include "transactions/documentform.h"
 
 #include "controls/linegrid.h"
-#include "controls/listscreen.h"
 #include "data/lookupsdatainv.h"
 #include "frame/shared/ruleerror.h"
 #include "master/itemsearchinvform.h"
@@ -93,18 +92,6 @@ void DocumentScreen::showHeader()
     for (QAction *action : std::as_const(m_popup))
         action->setEnabled(!posted);
     showCaption();
-}
-
-void DocumentScreen::showList(const QString &screen, const QString &rights, const QString &field)
-{
-    if (!context().allows(rights, rights))
-        return;
-    auto *list = qobject_cast<ListScreen *>(context().openScreen(screen));
-    if (!list)
-        return;
-    list->resetFilter();
-    if (!list->moveToKey(m_entry->header().integer(field)))
-        list->dataSet().first();
 }
 
 // --- lines ------------------------------------------------------------------------------------------------------

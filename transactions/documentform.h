@@ -34,10 +34,6 @@ protected:
     DocumentEntry &entry() const { return *m_entry; }
     LineGrid *grid() const { return m_grid; }
 
-    // Opens a list screen when the user's rights allow it, unfiltered and on the row that a header field names, or
-    // on its first row.
-    void showList(const QString &screen, const QString &rights, const QString &field);
-
     virtual void showHeader(); // the header has changed: caption, "POSTED"
 
     Pending pending() const override;

@@ -12,11 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-namespace {
-constexpr auto vendorsScreen = "frmVendors"_L1;
-constexpr auto locationsScreen = "frmWarehousesInv"_L1;
-} // namespace
-
 TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
     : DocumentScreen(context, std::make_unique<ReceiptEntry>(context.data.databaseTallymere(), context.prompts),
                      parent)
@@ -35,20 +30,11 @@ TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
                    {u"UnitCost"_s, tr("Unit Cost"), 110, Qt::AlignRight}});
     binder().setEntryRule(u"VendorNo"_s,
                           [this](const QString &text) { receipt().chooseVendorByNumber(text.trimmed()); });
-
-    m_ui->btnVendor->setEnabled(context.knows(vendorsScreen));
-    m_ui->btnWarehouse->setEnabled(context.knows(locationsScreen));
-    connectGuarded(m_ui->btnVendor, &QToolButton::clicked, this, &TfrmInvReceipt::btnVendorClick);
-    connectGuarded(m_ui->btnWarehouse, &QToolButton::clicked, this, &TfrmInvReceipt::btnWarehouseClick);
 }
 
 TfrmInvReceipt::~TfrmInvReceipt() = default;
 
 ReceiptEntry &TfrmInvReceipt::receipt() const { return static_cast<ReceiptEntry &>(entry()); }
-
-void TfrmInvReceipt::btnVendorClick() { showList(vendorsScreen, u"Vendors"_s, u"VendorID"_s); }
-
-void TfrmInvReceipt::btnWarehouseClick() { showList(locationsScreen, u"Warehouses"_s, u"WarehouseID"_s); }
 
 void TfrmInvReceipt::showHeader()
 {

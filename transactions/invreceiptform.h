@@ -19,8 +19,6 @@ public:
     TfrmInvReceipt(ScreenContext &context, QWidget *parent);
     ~TfrmInvReceipt() override;
 
-    void btnVendorClick();
-    void btnWarehouseClick();
 
 protected:
     void showHeader() override;

@@ -1,0 +1,21 @@
+#include "controls/lookuplists.h"
+
+#include "controls/lookupcombobox.h"
+#include "data/lookupsdatainv.h"
+
+namespace Tallymere {
+
+void setLookupLists(const QWidget &form, TdmLookUpsInv &lookups, const Guard &guard)
+{
+    constexpr int nameWidth = 220;
+    const auto boxes = form.findChildren<LookupComboBox *>();
+    for (LookupComboBox *box : boxes) {
+        const QString name = box->property("lookupList").toString();
+        if (name.isEmpty())
+            continue;
+        const LookupList list = lookups.list(name);
+        box->setList(list.table, list.keyField, {{list.nameField, list.title, nameWidth}}, guard);
+    }
+}
+
+} // namespace Tallymere

@@ -1,0 +1,53 @@
+#include "master/masterkinds.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Banks", text); }
+
+MasterKind describe()
+{
+    MasterKind kind;
+    kind.name = u"banks"_s;
+    kind.table = u"Bank"_s;
+    kind.keyField = u"BankID"_s;
+    kind.nameFields = {u"BankName"_s};
+    kind.addFields = [](Engine::Table &table) {
+        table.addLookup(u"CurrencyName"_s, Engine::FieldType::Text, 20,
+                        {u"CurrencyID"_s, u"Currency"_s, u"CurrencyID"_s, u"CurrencyName"_s});
+    };
+
+    kind.screen = u"frmBankInv"_s;
+    kind.caption = tr("Bank");
+    kind.newCaption = tr("New Bank");
+    kind.required = {{u"BankName"_s, tr("Field 'Bank Name' must have a value")},
+                     {u"CurrencyID"_s, tr("Field 'Currency' must have a value")}};
+    kind.references = {{u"CurrencyID"_s, u"Currency"_s, u"CurrencyName"_s, tr("Currency no longer exists"),
+                        tr("Currency '%1' not found")}};
+    kind.taken = tr("Bank already exists");
+
+    kind.listScreen = u"frmBanksInv"_s;
+    kind.listCaption = tr("Banks");
+    kind.columns = {{u"BankName"_s, tr("Name"), 260}, {u"CurrencyName"_s, tr("Currency"), 150}};
+    kind.orders = {{u"BankName1"_s}};
+    kind.refusals = {{u"APCheq"_s, {u"BankID"_s}, tr("AP cheque(s) exist for this bank")},
+                     {u"ARPmt"_s, {u"BankID"_s}, tr("AR payment(s) exist for this bank")}};
+
+    kind.systemFields = {u"BankID"_s, u"BankGLAccountID"_s};
+    return kind;
+}
+
+} // namespace
+
+const MasterKind &MasterKinds::bank()
+{
+    static const MasterKind kind = describe();
+    return kind;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,75 @@
+#include "master/masterkinds.h"
+
+#include "frame/shared/formats.h"
+#include "frame/shared/ruleerror.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Items", text); }
+
+void requireTaxLetters(const Engine::Table &item)
+{
+    const QString codes = item.text(u"TaxCodes");
+    const bool letters = std::all_of(codes.begin(), codes.end(), [](QChar code) { return code.isLetter(); });
+    if (!letters)
+        throw RuleError(tr("Tax Codes must be letters, one for each tax"), u"TaxCodes"_s);
+}
+
+MasterKind describe()
+{
+    MasterKind kind;
+    kind.name = u"items"_s;
+    kind.table = u"Item"_s;
+    kind.keyField = u"ItemID"_s;
+    kind.numberField = u"ItemNo"_s;
+    kind.counterTable = u"ItemCtl"_s;
+    kind.numberCounter = u"NextItemNo"_s;
+    kind.keyCounter = u"NextItemID"_s;
+    kind.nameFields = {u"ItemNo"_s, u"ItemDescription"_s};
+    kind.formatFields = [](Engine::Table &table) {
+        for (const QString &field : {u"UnitPrice"_s, u"WgtAvgCost"_s, u"StandardCost"_s})
+            table.field(field).format = currencyFormat(RegionalSettings::system(), field);
+    };
+
+    kind.screen = u"frmItemInv"_s;
+    kind.caption = tr("Item");
+    kind.newCaption = tr("New Item");
+    kind.defaults = {{u"Suspended"_s, false}};
+    kind.required = {{u"ItemNo"_s, tr("Field 'Item no.' must have a value")},
+                     {u"ItemDescription"_s, tr("Field 'Description' must have a value")},
+                     {u"ItemTypeID"_s, tr("Field 'Item Type' must have a value")}};
+    kind.check = requireTaxLetters;
+    kind.references = {{u"ItemTypeID"_s, u"ItemType"_s, u"TypeName"_s, tr("Item Type no longer exists"),
+                        tr("Item type '%1' not found")}};
+    kind.taken = tr("Item no. already exists");
+
+    kind.listScreen = u"frmItemsInv"_s;
+    kind.listCaption = tr("Items");
+    kind.columns = {{u"ItemNo"_s, tr("Item no."), 110},
+                    {u"ItemDescription"_s, tr("Description"), 300},
+                    {u"UnitPrice"_s, tr("Unit Price"), 110, Qt::AlignRight}};
+    kind.orders = {{u"ItemNo"_s, tr("&Item no."), u"mnuSortItemNo"_s},
+                   {u"ItemDescription1"_s, tr("&Description"), u"mnuSortDescription"_s}};
+    kind.prints = true;
+    // Nothing keeps an item from being deleted, not even its movements.
+
+    kind.systemFields = {u"ItemID"_s, u"SalesGLAccountID"_s, u"COGSGLAccountID"_s, u"InventoryGLAccountID"_s,
+                         u"UnitPrice"_s};
+    return kind;
+}
+
+} // namespace
+
+const MasterKind &MasterKinds::item()
+{
+    static const MasterKind kind = describe();
+    return kind;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,20 @@
+#include "master/itemtypeinvform.h"
+
+#include "ui_itemtypeinvform.h"
+
+namespace Tallymere {
+
+TfrmItemTypeInv::TfrmItemTypeInv(ScreenContext &context, QWidget *parent)
+    : MasterRecordScreen(context, MasterKinds::itemType(), parent)
+    , m_ui(std::make_unique<Ui::TfrmItemTypeInv>())
+{
+    m_ui->setupUi(this);
+    buildRecord();
+    connect(m_ui->chkInventory, &QCheckBox::clicked, m_ui->radioCostingMethod, &QWidget::setEnabled);
+}
+
+TfrmItemTypeInv::~TfrmItemTypeInv() = default;
+
+void TfrmItemTypeInv::showRecord() { m_ui->radioCostingMethod->setEnabled(record().table().boolean(u"Inventory")); }
+
+} // namespace Tallymere

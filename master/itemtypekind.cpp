@@ -1,0 +1,50 @@
+#include "master/masterkinds.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("Tallymere::ItemTypes", text); }
+
+MasterKind describe()
+{
+    MasterKind kind;
+    kind.name = u"types"_s;
+    kind.table = u"ItemType"_s;
+    kind.keyField = u"ItemTypeID"_s;
+    kind.nameFields = {u"TypeName"_s};
+
+    kind.screen = u"frmItemTypeInv"_s;
+    kind.caption = tr("Item Type");
+    kind.newCaption = tr("New Item Type");
+    kind.defaults = {{u"Inventory"_s, false}, {u"CostingMethod"_s, 1}};
+    kind.required = {{u"TypeName"_s, tr("Field 'Type Name' must have a value")}};
+    kind.taken = tr("Item Type already exists");
+
+    kind.listScreen = u"frmItemTypesInv"_s;
+    kind.listCaption = tr("Item Types");
+    kind.columns = {{u"TypeName"_s, tr("Name"), 320}};
+    kind.orders = {{u"TypeName1"_s}};
+    kind.prints = true;
+    kind.systemKeys = 6;
+    kind.systemRecord = tr("System-defined Item Types can't be deleted!");
+    kind.refusals = {{u"Item"_s, {u"ItemTypeID"_s}, tr("Item(s) exist for this item type")}};
+
+    kind.systemFields = {u"ItemTypeID"_s};
+    kind.limits = {{u"CostingMethod"_s, 1, 2}};
+    return kind;
+}
+
+} // namespace
+
+const MasterKind &MasterKinds::itemType()
+{
+    static const MasterKind kind = describe();
+    return kind;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "engine/table.h"
+#include "frame/shared/gridcolumn.h"
+
+#include <functional>
+#include <QList>
+#include <QString>
+
+namespace Tallymere {
+
+// All that tells one master table from another: the rules of its records, its list, its import. The record and list
+// rules, the screens, and the commands "import" and "list" work from it. What is empty does not apply.
+struct MasterKind
+{
+    struct Required
+    {
+        QString field;
+        QString message; // "Field 'Item no.' must have a value"
+    };
+    struct Reference
+    { // the field is the key of a row of another table
+        QString field;
+        QString table; // its key field has the same name
+        QString nameField; // may stand for the key in a file: "TypeName"
+        QString gone; // raised when the row is not there any more: "Item Type no longer exists"
+        QString notFound; // of a name in a file: "Item type '%1' not found"
+    };
+    struct Default
+    {
+        QString field;
+        Engine::Value value;
+    };
+    struct Limits
+    { // of a whole number in a file
+        QString field;
+        qint64 lowest;
+        qint64 highest;
+    };
+    struct Order
+    {
+        QString index; // "ItemDescription1"
+        QString caption = {}; // of the menu that sorts by it; empty where there is one order only
+        QString command = {}; // that menu's component name: "mnuSortDescription"
+    };
+    struct Refusal
+    { // rows that keep a record from being deleted
+        QString table;
+        QStringList fields; // any of which holds the record's key
+        QString reason; // "Item(s) exist for this item type"
+    };
+
+    QString name; // on the command line: "types"
+
+    // --- the table ----------------------------------------------------------------------------------------------
+    QString table; // "Item"
+    QString keyField; // "ItemID"; taken from a counter or, without one, the highest key plus 1
+    QString numberField; // the number that users see and that must be unique
+    QString counterTable; // "ItemCtl"; empty where keys are not counted
+    QString numberCounter; // "NextItemNo": from 1001 to 10,000,000, then again from 1001
+    QString keyCounter; // "NextItemID": from 10000 on
+    bool keyByEngine = false; // the key is an auto-increment field
+    // The fields that name a record to the user, joined by ": " ("1001: Flour"). The last one is the caption of its
+    // screen.
+    QStringList nameFields;
+    std::function<void(Engine::Table &)> addFields; // looked-up and calculated ones, before the table is opened
+    std::function<void(Engine::Table &)> formatFields; // labels, formats and parsing, once it is open
+
+    // --- a record -----------------------------------------------------------------------------------------------
+    QString screen; // its component name: "frmItemInv"
+    QString caption; // "Item"
+    QString newCaption; // "New Item"
+    QList<Default> defaults;
+    std::function<void(Engine::Table &)> preset; // defaults that have to be found out, of these fields:
+    QStringList presetFields;
+    // The checks before saving, in this order. A number that is 0 counts as empty.
+    QList<Required> required;
+    std::function<void(const Engine::Table &)> check;
+    QList<Reference> references;
+    QString taken; // raised when the number or the key exists already
+
+    // --- its list -----------------------------------------------------------------------------------------------
+    QString listScreen; // "frmItemsInv"
+    QString listCaption; // "Items"
+    QList<GridColumn> columns;
+    QList<Order> orders; // the first one is in force at the start
+    bool prints = false; // there is a report of the list
+    // Deleting: records up to a key belong to the system; the others are asked for and then refused by the first
+    // refusal that applies.
+    int systemKeys = 0;
+    QString systemRecord; // "System-defined Item Types can't be deleted!"
+    QString undeletable; // "Unable to delete '%1'..."; empty: just that
+    QList<Refusal> refusals;
+    QStringList ownedTables; // whose rows with the record's key go with it
+
+    // --- its files ----------------------------------------------------------------------------------------------
+    QStringList systemFields; // that a file may not give: the key, and what no screen sets
+    QList<Limits> limits;
+    QStringList longTexts; // fields that may be given longer than what is kept of them
+
+    QString recordName(const Engine::DataSet &row) const; // "1001: Flour"
+};
+
+} // namespace Tallymere

@@ -1,0 +1,162 @@
+#include "master/masterlistform.h"
+
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "engine/error.h"
+#include "frame/shared/ruleerror.h"
+#include "master/masterrecordform.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+MasterListScreen::MasterListScreen(ScreenContext &context, const MasterKind &kind, MakeRecord makeRecord,
+                                   QWidget *parent)
+    : ListScreen(context, parent)
+    , m_list(context.data.databaseTallymere(), kind)
+    , m_makeRecord(std::move(makeRecord))
+{
+    m_list.open();
+}
+
+void MasterListScreen::buildList(const std::function<void(ListDescription &)> &add)
+{
+    ListDescription described = description();
+    if (add)
+        add(described);
+    build(described, m_list.table(), [this] { btnEditClick(); });
+}
+
+ListDescription MasterListScreen::description()
+{
+    const MasterKind &kind = m_list.kind();
+    return {.name = kind.listScreen,
+            .caption = kind.listCaption,
+            .columns = kind.columns,
+            .buttons = {{u"btnNew"_s, tr("&New"), u"mnuNew"_s},
+                        {u"btnEdit"_s, tr("&Edit"), u"mnuEdit"_s},
+                        {u"btnDelete"_s, tr("&Delete"), u"mnuDelete"_s}},
+            .menus = {fileMenu(kind.prints ? Printing::Offered : Printing::Never),
+                      {tr("&Records"), recordCommands()},
+                      {tr("&View"), viewCommands()},
+                      helpMenu(tr("%1 &Help").arg(kind.listCaption))}};
+}
+
+QList<ListCommand> MasterListScreen::recordCommands()
+{
+    return {
+        {.name = u"mnuNew"_s, .caption = tr("&New"), .run = [this] { btnNewClick(); }, .popupCaption = tr("New")},
+        {.name = u"mnuEdit"_s,
+         .caption = tr("&Edit"),
+         .run = [this] { btnEditClick(); },
+         .popupCaption = tr("Edit")},
+        {.name = u"mnuDelete"_s,
+         .caption = tr("&Delete"),
+         .run = [this] { btnDeleteClick(); },
+         .popupCaption = tr("Delete")}};
+}
+
+QList<ListCommand> MasterListScreen::viewCommands()
+{
+    QList<ListCommand> commands;
+    if (m_list.kind().orders.size() > 1) {
+        ListCommand sort{.name = u"mnuSortBy"_s, .caption = tr("&Sort by")};
+        for (const MasterKind::Order &order : m_list.kind().orders) {
+            sort.choices.append({.name = order.command, .caption = order.caption, .run = [this, &order] {
+                                     const WaitCursor hourglass;
+                                     m_list.setOrder(order);
+                                 }});
+        }
+        commands.append(sort);
+    }
+    commands.append(refreshCommand());
+    return commands;
+}
+
+std::function<void()> MasterListScreen::mainWindowAction(const QString &action)
+{
+    if (!context().runAction)
+        return {};
+    return [this, action] {
+        context().runAction(action);
+        refreshList();
+    };
+}
+
+ListMenu &MasterListScreen::menu(ListDescription &description, const QString &caption)
+{
+    const auto found = std::find_if(description.menus.begin(), description.menus.end(),
+                                    [&](const ListMenu &menu) { return menu.caption == caption; });
+    Q_ASSERT(found != description.menus.end());
+    return *found;
+}
+
+// --- records ----------------------------------------------------------------------------------------------------
+
+MasterRecordScreen *MasterListScreen::makeRecord()
+{
+    MasterRecordScreen *screen = m_makeRecord(context(), parentWidget());
+    connect(screen, &MasterRecordScreen::saved, this, [this](int key) {
+        refreshList();
+        m_list.moveTo(key);
+    });
+    // Work goes on in the list, not in the main window that both belong to.
+    connect(screen, &QObject::destroyed, this, [this] {
+        if (isVisible())
+            activateWindow();
+    });
+    m_records.removeIf([](const QPointer<MasterRecordScreen> &record) { return !record; });
+    m_records.append(screen);
+    return screen;
+}
+
+MasterRecordScreen *MasterListScreen::openScreenOf(int key) const
+{
+    for (const QPointer<MasterRecordScreen> &record : m_records) {
+        if (record && record->isVisible() && !record->isNew() && record->key() == key)
+            return record;
+    }
+    return nullptr;
+}
+
+void MasterListScreen::btnNewClick()
+{
+    std::unique_ptr<MasterRecordScreen> screen(makeRecord());
+    screen->newRecord();
+    screen.release()->show();
+}
+
+void MasterListScreen::btnEditClick()
+{
+    const Engine::Table &table = m_list.table();
+    if (table.isEmpty()) {
+        btnNewClick();
+        return;
+    }
+    if (MasterRecordScreen *open = openScreenOf(m_list.currentKey())) {
+        bringToFront(*open);
+        return;
+    }
+    const WaitCursor hourglass;
+    std::unique_ptr<MasterRecordScreen> screen(makeRecord());
+    if (screen->openRecord(m_list.currentKey())) {
+        screen.release()->show();
+        return;
+    }
+    const QString name = m_list.kind().recordName(table);
+    refreshList();
+    throw RuleError(tr("'%1' was deleted by another user.").arg(name));
+}
+
+void MasterListScreen::btnDeleteClick()
+{
+    try {
+        m_list.remove(context().prompts);
+    } catch (const Engine::EngineError &error) {
+        if (error.code() == Engine::ErrorCode::RecordGone)
+            refreshList();
+        throw;
+    }
+}
+
+} // namespace Tallymere

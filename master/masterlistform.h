@@ -1,0 +1,67 @@
+#pragma once
+
+#include "controls/listscreen.h"
+#include "master/masterlist.h"
+
+#include <QPointer>
+
+namespace Tallymere {
+
+class MasterRecordScreen;
+
+// The list of a master table: new, edit, delete, and what its kind describes.
+//
+// A list without anything of its own is MasterListOf<kind, record screen>; others derive and call buildList() with
+// what they add.
+class MasterListScreen : public ListScreen
+{
+    Q_OBJECT
+
+public:
+    using MakeRecord = std::function<MasterRecordScreen *(ScreenContext &, QWidget *parent)>;
+    template <typename Record> static MakeRecord makes()
+    {
+        return [](ScreenContext &context, QWidget *parent) { return new Record(context, parent); };
+    }
+
+    void btnNewClick();
+    void btnEditClick(); // a record whose screen is open comes to the front
+    void btnDeleteClick();
+
+protected:
+    MasterListScreen(ScreenContext &context, const MasterKind &kind, MakeRecord makeRecord, QWidget *parent);
+
+    // Called once by the constructor of a screen. The description may be added to before the list is built from it.
+    void buildList(const std::function<void(ListDescription &)> &add = {});
+    // What a command does that stands for one of the main window; nothing, and so disabled, without main window.
+    // The list shows the changes afterwards.
+    std::function<void()> mainWindowAction(const QString &action);
+    // The menu of a description by its caption, to add commands to.
+    static ListMenu &menu(ListDescription &description, const QString &caption);
+
+    MasterList &list() { return m_list; }
+    // A screen for a record that this list opens; it moves the list when it saves.
+    MasterRecordScreen *makeRecord();
+
+private:
+    ListDescription description();
+    QList<ListCommand> recordCommands();
+    QList<ListCommand> viewCommands();
+    MasterRecordScreen *openScreenOf(int key) const;
+
+    MasterList m_list;
+    MakeRecord m_makeRecord;
+    QList<QPointer<MasterRecordScreen>> m_records;
+};
+
+template <const MasterKind &(*kind)(), typename Record> class MasterListOf final : public MasterListScreen
+{
+public:
+    MasterListOf(ScreenContext &context, QWidget *parent)
+        : MasterListScreen(context, kind(), makes<Record>(), parent)
+    {
+        buildList();
+    }
+};
+
+} // namespace Tallymere

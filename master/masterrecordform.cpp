@@ -1,0 +1,93 @@
+#include "master/masterrecordform.h"
+
+#include "controls/lookuplists.h"
+#include "data/datamodule.h"
+
+#include <QLineEdit>
+#include <QTabWidget>
+
+namespace Tallymere {
+
+MasterRecordScreen::MasterRecordScreen(ScreenContext &context, const MasterKind &kind, QWidget *parent)
+    : EntryScreen(context, parent)
+    , m_record(context.data.databaseTallymere(), kind)
+{
+    m_record.open();
+}
+
+MasterRecordScreen::~MasterRecordScreen()
+{
+    // The table closes with the record and would call for a caption that is no more.
+    m_record.table().disconnect(this);
+}
+
+void MasterRecordScreen::buildRecord()
+{
+    setObjectName(m_record.kind().screen);
+    setLookupLists(*this, context().lookups, guard());
+    binder().bind(m_record.table());
+    connect(&m_record.table(), &Engine::DataSet::fieldChanged, this, &MasterRecordScreen::recordChanged);
+    connect(&m_record.table(), &Engine::DataSet::currentChanged, this, &MasterRecordScreen::recordChanged);
+    connect(&m_record.table(), &Engine::DataSet::stateChanged, this, &MasterRecordScreen::recordChanged);
+    followName();
+    buildScreen();
+}
+
+void MasterRecordScreen::followName()
+{
+    const QString nameField = m_record.kind().nameFields.constLast();
+    if (auto *edit = qobject_cast<QLineEdit *>(binder().widgetFor(nameField)))
+        connect(edit, &QLineEdit::textEdited, this,
+                [this](const QString &name) { setWindowTitle(m_record.captionFor(name)); });
+}
+
+void MasterRecordScreen::recordChanged()
+{
+    showCaption();
+    showRecord();
+}
+
+void MasterRecordScreen::newRecord()
+{
+    m_record.newRecord();
+    recordChanged();
+}
+
+bool MasterRecordScreen::openRecord(int key)
+{
+    const bool found = m_record.openRecord(key);
+    recordChanged();
+    return found;
+}
+
+void MasterRecordScreen::firstShown()
+{
+    if (auto *pages = findChild<QTabWidget *>())
+        pages->setCurrentIndex(0);
+    if (QWidget *first = binder().firstWidget())
+        first->setFocus();
+}
+
+EntryScreen::Pending MasterRecordScreen::pending() const
+{
+    if (!m_record.table().isEditing())
+        return Pending::Nothing;
+    return m_record.table().isModified() ? Pending::Changes : Pending::Untouched;
+}
+
+void MasterRecordScreen::saveChanges()
+{
+    if (!m_record.table().isEditing())
+        return;
+    m_record.save();
+    m_saved = true;
+}
+
+void MasterRecordScreen::dropChanges() { m_record.cancel(); }
+
+std::optional<int> MasterRecordScreen::savedKey() const
+{
+    return m_saved ? std::optional(m_record.key()) : std::nullopt;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "controls/entryscreen.h"
+#include "master/masterrecord.h"
+
+class QTabWidget;
+
+namespace Tallymere {
+
+// The screen of one record of a master table. The form names the fields; the rules are those of the kind.
+//
+// A screen without anything of its own is MasterForm<kind, form>; others derive, set up their form and call
+// buildRecord().
+class MasterRecordScreen : public EntryScreen
+{
+    Q_OBJECT
+
+public:
+    ~MasterRecordScreen() override;
+
+    void newRecord();
+    bool openRecord(int key); // false when there is no such record any more
+    int key() const { return m_record.key(); }
+    bool isNew() const { return m_record.isNew(); }
+
+protected:
+    MasterRecordScreen(ScreenContext &context, const MasterKind &kind, QWidget *parent); // the record is open
+
+    // Called once by the constructor of a screen, after its form has been set up: fills the lookup boxes, binds the
+    // fields and connects the buttons.
+    void buildRecord();
+
+    MasterRecord &record() { return m_record; }
+    const MasterRecord &record() const { return m_record; }
+
+    virtual void showRecord() { } // the record, or one of its values, is new
+    void firstShown() override;
+
+    Pending pending() const override;
+    void saveChanges() override;
+    void dropChanges() override;
+    std::optional<int> savedKey() const override;
+    QString caption() const override { return m_record.caption(); }
+
+private:
+    void recordChanged();
+    void followName(); // the caption, while the name is typed
+
+    MasterRecord m_record;
+    bool m_saved = false;
+};
+
+template <const MasterKind &(*kind)(), typename Form> class MasterForm final : public MasterRecordScreen
+{
+public:
+    MasterForm(ScreenContext &context, QWidget *parent)
+        : MasterRecordScreen(context, kind(), parent)
+    {
+        Form form;
+        form.setupUi(this);
+        buildRecord();
+    }
+};
+
+} // namespace Tallymere

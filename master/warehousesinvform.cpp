@@ -1,0 +1,27 @@
+#include "master/warehousesinvform.h"
+
+#include "master/masterkinds.h"
+#include "master/masterrecordform.h"
+#include "ui_warehouseinvform.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+using TfrmWarehouseInv = MasterForm<MasterKinds::location, Ui::TfrmWarehouseInv>;
+} // namespace
+
+TfrmWarehousesInv::TfrmWarehousesInv(ScreenContext &context, QWidget *parent)
+    : MasterListScreen(context, MasterKinds::location(), makes<TfrmWarehouseInv>(), parent)
+{
+    buildList([this](ListDescription &list) {
+        menu(list, tr("&Records"))
+            .commands.append({.name = u"mnuSynchronizeLocations"_s,
+                              .caption = tr("&Synchronize Locations"),
+                              .run = mainWindowAction(u"ActionSynchronizeLocations"_s),
+                              .separatorBefore = true});
+    });
+}
+
+} // namespace Tallymere
