@@ -1,30 +1,13 @@
 #include "transactions/documentfilter.h"
 
-#include <QStringList>
-
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-QString joinConditions(const QStringList &conditions)
+QString documentFilter(const ListFilter &filter, const QString &notPosted)
 {
-    QStringList given = conditions;
-    given.removeAll(QString());
-    return given.join(" AND "_L1);
-}
-
-QString DocumentFilter::expression(const QString &notPosted) const
-{
-    const QString location = warehouseId > 0 ? u"(WarehouseID = %1)"_s.arg(warehouseId) : QString();
-    switch (posted) {
-    case Posted::All:
-        return location;
-    case Posted::Yes:
-        return joinConditions({location, u"(Posted = true)"_s});
-    case Posted::No:
-        return joinConditions({location, notPosted});
-    }
-    return location;
+    return joinConditions({keyCondition(u"WarehouseID"_s, filter.key),
+                           markCondition(filter.marked, u"(Posted = true)"_s, notPosted)});
 }
 
 } // namespace Tallymere

@@ -1,33 +1,16 @@
 #pragma once
 
-#include "controls/dialogscreen.h"
-#include "transactions/documentfilter.h"
-
-namespace Ui {
-class DocumentFilterScreen;
-}
+#include "controls/filterdialog.h"
 
 namespace Tallymere {
 
-// The filter dialog of a document list: a location, and whether documents are posted. It is made once for its list
-// and keeps its choices; OK accepts them, and the list takes the expression from filter().
-class DocumentFilterScreen : public DialogScreen
+// The filter dialog of a document list: a location, and whether documents are posted.
+class DocumentFilterScreen : public FilterDialog
 {
     Q_OBJECT
 
-public:
-    ~DocumentFilterScreen() override;
-
-    DocumentFilter filter() const;
-    void btnResetClick(); // no location, and all documents
-
 protected:
     DocumentFilterScreen(ScreenContext &context, const QString &name, const QString &caption, QWidget *parent);
-
-    void showStep() override;
-
-private:
-    std::unique_ptr<Ui::DocumentFilterScreen> m_ui;
 };
 
 // "Inventory Receipts Filter"

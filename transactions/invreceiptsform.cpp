@@ -2,6 +2,7 @@
 
 #include "data/datamodule.h"
 #include "frame/shared/formats.h"
+#include "transactions/documentfilter.h"
 #include "transactions/documentfilterform.h"
 #include "transactions/documentpostform.h"
 #include "transactions/invreceiptform.h"
@@ -108,7 +109,7 @@ void TfrmInvReceipts::btnFilterClick()
     if (!m_filter)
         m_filter = new TfrmInvReceiptsFilter(context(), this);
     if (m_filter->exec() == QDialog::Accepted)
-        applyFilter(m_filter->filter().expression());
+        applyFilter(documentFilter(m_filter->filter()));
 }
 
 void TfrmInvReceipts::btnFindClick() { TfrmInvReceiptsFind(context(), m_list, this).exec(); }

@@ -1,7 +1,7 @@
 # The screens of the room.
 tallymere_room(tallymere_transactions_screens SCREENS
     SOURCES
-        documentfilterform.cpp documentfilterform.h documentfilterform.ui
+        documentfilterform.cpp documentfilterform.h
         documentform.cpp documentform.h
         documentpostform.cpp documentpostform.h documentpostform.ui
         invreceiptform.cpp invreceiptform.h invreceiptform.ui

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Tallymere {
+
+// The choices of the filter dialogs that narrow a list to the rows that refer to one record and to those with or
+// without a mark ("posted", "suspended").
+struct ListFilter
+{
+    enum class Marked { All, Yes, No };
+
+    int key = 0; // of the record; 0: any
+    Marked marked = Marked::All;
+};
+
+// The parts of filter expressions; empty for what does not narrow the list.
+QString keyCondition(const QString &field, int key); // "(CurrencyID = 3)"
+// Kinds of rows word "not marked" differently: "(Posted = false)" leaves out rows whose mark is empty,
+// "(Posted <> true)" shows them.
+QString markCondition(ListFilter::Marked marked, const QString &yes, const QString &no);
+// Filter conditions, the empty ones left out, joined by " AND ".
+QString joinConditions(const QStringList &conditions);
+
+} // namespace Tallymere
