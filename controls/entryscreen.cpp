@@ -2,6 +2,7 @@
 
 #include "controls/listbuttons.h"
 #include "controls/screenmetrics.h"
+#include "controls/wordwrapmenu.h"
 
 #include <QAbstractButton>
 #include <QCloseEvent>
@@ -51,6 +52,7 @@ void EntryScreen::buildScreen()
         connect(cancel, &QPushButton::clicked, this, &EntryScreen::btnCancelClick);
     }
     connectListButtons(*this, m_context, m_guard, [this](const QString &field) { return m_binder.keyIn(field); });
+    connectWordWrapMenus(*this);
     if (auto *panel = findChild<QWidget *>(bottomPanel))
         panel->installEventFilter(this);
     showCaption();

@@ -44,7 +44,8 @@ protected:
 
     virtual void firstShown() { } // when the screen is shown for the first time
 
-    // Connects OK, Cancel and the buttons that lead to lists. Called once, after the form has been set up and its fields are bound.
+    // Connects OK, Cancel, the buttons that lead to lists and the menus of notes. Called once, after the form has
+    // been set up and its fields are bound.
     void buildScreen();
     void showCaption() { setWindowTitle(caption()); }
 
