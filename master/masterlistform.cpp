@@ -91,6 +91,13 @@ ListMenu &MasterListScreen::menu(ListDescription &description, const QString &ca
     return *found;
 }
 
+void MasterListScreen::showStep()
+{
+    refreshList();
+    m_list.table().first();
+    ListScreen::showStep();
+}
+
 // --- records ----------------------------------------------------------------------------------------------------
 
 MasterRecordScreen *MasterListScreen::makeRecord()

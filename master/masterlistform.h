@@ -40,6 +40,7 @@ protected:
     static ListMenu &menu(ListDescription &description, const QString &caption);
 
     MasterList &list() { return m_list; }
+    void showStep() override; // read anew, on the first row
     // A screen for a record that this list opens; it moves the list when it saves.
     MasterRecordScreen *makeRecord();
 

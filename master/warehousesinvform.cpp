@@ -18,7 +18,7 @@ TfrmWarehousesInv::TfrmWarehousesInv(ScreenContext &context, QWidget *parent)
     buildList([this](ListDescription &list) {
         menu(list, tr("&Records"))
             .commands.append({.name = u"mnuSynchronizeLocations"_s,
-                              .caption = tr("&Synchronize Locations"),
+                              .caption = tr("Synchronize Locations"),
                               .run = mainWindowAction(u"ActionSynchronizeLocations"_s),
                               .separatorBefore = true});
     });
