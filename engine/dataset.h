@@ -21,6 +21,15 @@ enum class LocateOption { None = 0, CaseInsensitive = 1, PartialKey = 2 };
 Q_DECLARE_FLAGS(LocateOptions, LocateOption)
 Q_DECLARE_OPERATORS_FOR_FLAGS(LocateOptions)
 
+// A field of a set's order.
+struct OrderedField
+{
+    QString name;
+    bool caseInsensitive = false; // for text: letter case does not count
+
+    LocateOptions options() const { return caseInsensitive ? LocateOption::CaseInsensitive : LocateOption::None; }
+};
+
 // An ordered set of rows with a current record: the common base of Table and Query.
 //
 // The set is held as ordered keys; rows are fetched in windows around what is asked for. Opening costs nothing
@@ -90,6 +99,9 @@ public:
     // Moves to the first row in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values;
     // PartialKey lets the last text begin with its value. Reads that row alone; on failure the record stays.
     bool locate(const QString &fields, const QList<Value> &values, LocateOptions options = LocateOption::None);
+    // The fields that the set is ordered by, one after the other; empty for a set without an order of its own. A text
+    // is found by its beginning with one key look-up when it is compared as said here.
+    virtual QList<OrderedField> orderedFields() const = 0;
 
     // A condition over data fields, in force while filtered is set:
     //   (WarehouseID = 2) AND (Posted <> true) OR NOT (Name LIKE 'A%')

@@ -56,6 +56,21 @@ void Query::setOrderBy(const QString &fields)
     emitListChanged();
 }
 
+void Query::setFoldedFields(const QString &fields)
+{
+    close();
+    m_foldedFields = fields;
+}
+
+QList<OrderedField> Query::orderedFields() const
+{
+    const QStringList folded = m_foldedFields.split(u';', Qt::SkipEmptyParts);
+    QList<OrderedField> fields;
+    for (const QString &name : m_orderBy.split(u';', Qt::SkipEmptyParts))
+        fields.append({name, folded.contains(name, Qt::CaseInsensitive)});
+    return fields;
+}
+
 // The statement's text for the store in hand, with its parameters in order.
 const Query::Text &Query::prepared() const
 {
@@ -217,6 +232,7 @@ SetScope Query::scope() const
     for (const QString &term : std::as_const(columns))
         terms << dialect.orderTerm(term, false, false);
     scope.order = terms.join(", "_L1);
+    scope.foldedFields = m_foldedFields.split(u';', Qt::SkipEmptyParts);
     return scope;
 }
 

@@ -31,6 +31,10 @@ public:
     // For a list: result columns, "ItemNo;WarehouseName"; the key is added as the last order. Reopens an open
     // query.
     void setOrderBy(const QString &fields);
+    QList<OrderedField> orderedFields() const override; // as given to setOrderBy
+    // For a list: result columns of text that the stored table has a case-insensitive index over and no other. They
+    // are searched through it.
+    void setFoldedFields(const QString &fields);
 
     void open() override;
     void close() override;
@@ -53,6 +57,7 @@ private:
     QString m_remoteSql;
     QString m_keyFields;
     QString m_orderBy;
+    QString m_foldedFields;
     QHash<QString, Value> m_parameters; // by name in lower case
     QList<Value> m_values; // of the open query, in the order of the statement
 };

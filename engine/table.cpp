@@ -168,6 +168,17 @@ const IndexDef *Table::order() const
         QCoreApplication::translate("Engine", "Table '%1' has no index \"%2\".").arg(m_name, m_index));
 }
 
+QList<OrderedField> Table::orderedFields() const
+{
+    QList<OrderedField> fields;
+    if (const IndexDef *index = order()) {
+        const bool folded = index->options.testFlag(IndexOption::CaseInsensitive);
+        for (const QString &name : index->fieldNames())
+            fields.append({name, folded});
+    }
+    return fields;
+}
+
 void Table::setIndex(const QString &nameOrFields)
 {
     if (nameOrFields == m_index)

@@ -14,6 +14,7 @@ TotalsView::TotalsView(Engine::Database &database)
               "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID"_s)
 {
     m_query.setKeyFields(u"ItemID;WarehouseID"_s);
+    m_query.setFoldedFields(u"ItemDescription;WarehouseName"_s);
     setSort(Sort::ItemNo);
 }
 
