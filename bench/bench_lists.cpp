@@ -1,7 +1,10 @@
-// Lists over a history of a million rows: how long they take to open against reading their ordered keys by a raw
-// statement, to find a row, to show the last one and to jump. Usage: bench_lists [local|remote] [ROUNDS]
+// Lists over a history of a million rows, and over a hundred thousand items and vendors: how long they take to open
+// against reading their ordered keys by a raw statement, to find a row, to show the last one and to jump; those of
+// items and vendors also to sort anew, to filter and to find by the typed beginning of the ordered column.
+// Usage: bench_lists [local|remote] [ROUNDS]
 
 #include "bench/benchdata.h"
+#include "engine/dialect.h"
 #include "engine/query.h"
 #include "engine/table.h"
 #include "transactions/totalsview.h"
@@ -15,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int HistoryRows = 1'000'000;
+constexpr int MasterRows = 100'000;
 volatile double sink = 0; // what is read must be read
 
 double readKeys(Engine::Database &database, const QString &sql)
@@ -87,6 +91,109 @@ void measureTotals(Engine::Database &database, Times &times)
         view.query(), [&view] { view.query().locate(u"ItemID"_s, {4321}); }, times);
 }
 
+// --- master lists -----------------------------------------------------------------------------------------------
+
+struct MasterBench
+{
+    const char *what;
+    QString table;
+    QString key;
+    QString column; // of the first order
+    bool folded; // it does not count letter case
+    QString order, otherOrder;
+    QString filter, rawFilter; // which about half of the rows pass
+    QStringList beginnings; // of texts of the first order, some of which no row has
+};
+
+const QList<MasterBench> masterLists = {
+    {"items",
+     u"Item"_s,
+     u"ItemID"_s,
+     u"ItemNo"_s,
+     false,
+     u"ITEMNO"_s,
+     u"ITEMDESCRIPTION1"_s,
+     u"(ItemTypeID > 3) AND (Suspended <> true)"_s,
+     u"ItemTypeID > 3 AND Suspended IS NOT TRUE"_s,
+     {u"I"_s, u"I7"_s, u"I77"_s, u"I777"_s, u"I7777"_s, u"I99999"_s, u"J"_s}},
+    {"vendors",
+     u"Vendor"_s,
+     u"VendorID"_s,
+     u"VendorName"_s,
+     true,
+     u"VENDORNAME1"_s,
+     u"VENDORNO"_s,
+     u"(CurrencyID = 2) AND (Suspended <> true)"_s,
+     u"CurrencyID = 2 AND Suspended IS NOT TRUE"_s,
+     {u"v"_s, u"vendor 7"_s, u"vendor 77"_s, u"vendor 777"_s, u"vendor 99999"_s, u"w"_s}},
+};
+
+struct MasterTimes
+{
+    std::vector<double> keys, open, sort, filteredKeys, filter, find, show;
+
+    void print(Store store, const char *what) const
+    {
+        const auto ratio = [this](const std::vector<double> &times) { return median(times) / median(keys); };
+        std::printf("%-6s %-8s: keys by a raw statement %6.1f ms, open to the first window %6.1f ms (%.2f), other "
+                    "order %6.1f ms (%.2f), find a beginning %.3f ms (%.4f), show it %.2f ms (%.3f)\n",
+                    storeName(store), what, 1000 * median(keys), 1000 * median(open), ratio(open),
+                    1000 * median(sort), ratio(sort), 1000 * median(find), ratio(find), 1000 * median(show),
+                    ratio(show));
+        std::printf("%-6s %-8s: filtered keys by a raw statement %6.1f ms, filter %6.1f ms (%.2f)\n",
+                    storeName(store), what, 1000 * median(filteredKeys), 1000 * median(filter),
+                    median(filter) / median(filteredKeys));
+        std::fflush(stdout);
+    }
+};
+
+void measureFinding(Engine::Table &list, const MasterBench &bench, MasterTimes &times)
+{
+    const Engine::OrderedField first = list.orderedFields().constFirst();
+    for (const QString &beginning : bench.beginnings) {
+        times.find.push_back(seconds(
+            [&] { list.locate(first.name, {beginning}, first.options() | Engine::LocateOption::PartialKey); }));
+        times.show.push_back(seconds([&] { readRow(list, list.recordIndex()); }));
+    }
+}
+
+void measureMaster(Engine::Database &database, const MasterBench &bench, MasterTimes &times)
+{
+    const QString order = database.connection().dialect().orderTerm(bench.column, bench.folded, false);
+    const QString keys = u"SELECT %1 FROM %2 %4 ORDER BY %3, %1"_s.arg(bench.key, bench.table, order);
+    times.keys.push_back(readKeys(database, keys.arg(QString())));
+    times.filteredKeys.push_back(readKeys(database, keys.arg("WHERE "_L1 + bench.rawFilter)));
+    Engine::Table list(database, bench.table);
+    list.setIndex(bench.order);
+    list.open();
+    times.open.push_back(seconds([&] { readRow(list, 0); }));
+    measureFinding(list, bench, times);
+    times.sort.push_back(seconds([&] {
+        list.setIndex(bench.otherOrder);
+        readRow(list, 0);
+    }));
+    list.setIndex(bench.order);
+    list.setFilter(bench.filter);
+    times.filter.push_back(seconds([&] {
+        list.setFiltered(true);
+        readRow(list, 0);
+    }));
+}
+
+void measureMasters(Store store, int rounds)
+{
+    BenchData::Size size;
+    size.items = size.vendors = MasterRows;
+    const BenchData data(store, size);
+    const auto copy = data.copy();
+    for (const MasterBench &bench : masterLists) {
+        MasterTimes times;
+        for (int round = 0; round < rounds; ++round)
+            measureMaster(copy->database(), bench, times);
+        times.print(store, bench.what);
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -111,6 +218,7 @@ int main(int argc, char **argv)
         history.print(store, "history");
         totals.print(store, "totals");
         std::printf("%-6s memory +%.0f MB\n", storeName(store), peakMemory() - before);
+        measureMasters(store, rounds);
     }
     return 0;
 }

@@ -85,11 +85,12 @@ void BenchData::fill(Engine::Database &database, const Size &size)
            u"i, 'I' || i, 'Item ' || (i * 7919 % 10007), i % 6 + 1, 0"_s, size.items);
     insert(u"Warehse (WarehouseID, WarehouseName)"_s, u"i, 'Location ' || i"_s, size.locations);
     insert(u"Currency (CurrencyID, CurrencyName, ExchangeRate)"_s, u"i, 'Currency ' || i, 1.25 - 0.25 * i"_s, 2);
-    insert(u"Vendor (VendorID, VendorNo, VendorName, CurrencyID)"_s, u"i, 'V' || i, 'Vendor ' || i, i % 2 + 1"_s,
-           50);
+    insert(u"Vendor (VendorID, VendorNo, VendorName, CurrencyID)"_s,
+           u"i, 'V' || i, 'Vendor ' || (i * 7919 % 100003), i % 2 + 1"_s, size.vendors);
     insert(
         u"IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, Posted)"_s,
-        u"i, '' || (1000 + i), 2026, i % 12 + 1, '2026-03-14', i % 50 + 1, i % %1 + 1, false"_s.arg(size.locations),
+        u"i, '' || (1000 + i), 2026, i % 12 + 1, '2026-03-14', i % %2 + 1, i % %1 + 1, false"_s.arg(size.locations)
+            .arg(size.vendors),
         size.receipts);
     insert(u"IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost)"_s,
            u"(i - 1) / %1 + 1, (i - 1) % %1 + 1, %2, i % 9 + 1, 1 + i % 500 * 0.01"_s.arg(size.linesEach).arg(item),

@@ -15,6 +15,7 @@ public:
     {
         int items = 5'000;
         int locations = 10;
+        int vendors = 50;
         int receipts = 0; // unposted
         int linesEach = 20;
         int history = 0; // rows posted earlier
