@@ -1,7 +1,5 @@
 #include "cli/csv.h"
 
-#include "frame/shared/ruleerror.h"
-
 #include <QCoreApplication>
 #include <QIODevice>
 
@@ -10,8 +8,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 namespace {
-
-constexpr qsizetype blockSize = qsizetype(64) * 1024;
 
 QString tr(const char *text) { return QCoreApplication::translate("Csv", text); }
 
@@ -112,53 +108,5 @@ void CsvReader::readQuotedField()
 }
 
 void CsvReader::appendField(const QByteArray &bytes) { m_fields.append(QString::fromUtf8(bytes)); }
-
-CsvWriter::CsvWriter(QIODevice &device)
-    : m_device(device)
-{
-    m_block.reserve(blockSize + 4096);
-}
-
-CsvWriter::~CsvWriter() = default;
-
-void CsvWriter::field(const QString &text)
-{
-    if (m_fieldsInRecord++ > 0)
-        m_block += ',';
-    QByteArray bytes = text.toUtf8();
-    if (bytes.contains('"') || bytes.contains(',') || bytes.contains('\n') || bytes.contains('\r')) {
-        bytes.replace("\"", "\"\"");
-        m_block += '"' + bytes + '"';
-        return;
-    }
-    m_block += bytes;
-}
-
-void CsvWriter::endRecord()
-{
-    // A record of one empty field would be an empty line, which readers pass over.
-    if (m_fieldsInRecord == 1 && m_block.size() == m_recordStart)
-        m_block += "\"\"";
-    m_block += "\r\n";
-    m_fieldsInRecord = 0;
-    if (m_block.size() >= blockSize)
-        flush();
-    m_recordStart = m_block.size();
-}
-
-void CsvWriter::record(const QStringList &fields)
-{
-    for (const QString &text : fields)
-        field(text);
-    endRecord();
-}
-
-void CsvWriter::flush()
-{
-    if (m_device.write(m_block) != m_block.size())
-        throw RuleError(tr("The output could not be written: %1").arg(m_device.errorString()));
-    m_block.clear();
-    m_recordStart = 0;
-}
 
 } // namespace Tallymere

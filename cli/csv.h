@@ -59,26 +59,4 @@ private:
     QStringList m_fields;
 };
 
-// Writes records. Text is quoted where it must be; what is written goes to the device in larger blocks.
-class CsvWriter
-{
-public:
-    explicit CsvWriter(QIODevice &device);
-    ~CsvWriter(); // what flush() has not written is lost
-    CsvWriter(const CsvWriter &) = delete;
-    CsvWriter &operator=(const CsvWriter &) = delete;
-
-    void field(const QString &text);
-    void endRecord();
-    void record(const QStringList &fields);
-    // Hands everything to the device. Throws RuleError when that fails, as endRecord() may.
-    void flush();
-
-private:
-    QIODevice &m_device;
-    QByteArray m_block;
-    int m_fieldsInRecord = 0;
-    qsizetype m_recordStart = 0;
-};
-
 } // namespace Tallymere

@@ -1,4 +1,5 @@
 #include "cli/csv.h"
+#include "frame/shared/csvwriter.h"
 
 #include <gtest/gtest.h>
 #include <QBuffer>

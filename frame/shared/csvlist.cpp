@@ -1,0 +1,63 @@
+#include "frame/shared/csvlist.h"
+
+#include "frame/shared/csvwriter.h"
+#include "frame/shared/ruleerror.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QSaveFile>
+
+namespace Tallymere {
+
+void writeCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, QIODevice &output,
+                  Progress &progress)
+{
+    CsvWriter writer(output);
+    std::vector<int> fields;
+    for (const GridColumn &column : columns) {
+        fields.push_back(rows.fieldIndex(column.field));
+        writer.field(column.title);
+    }
+    writer.endRecord();
+
+    const int count = rows.recordCount();
+    progress.start(count);
+    for (int index = 0; index < count; ++index) {
+        const Engine::Row &row = rows.rowAt(index);
+        for (const int field : fields)
+            writer.field(rows.valueIn(row, field).toText());
+        writer.endRecord();
+        progress.step();
+    }
+    writer.flush();
+    progress.finish();
+}
+
+void writeCsvList(const Engine::DataSet &rows, const QStringList &fields, QIODevice &output, Progress &progress)
+{
+    QList<GridColumn> columns;
+    for (const QString &field : fields)
+        columns.append({field, field});
+    writeCsvList(rows, columns, output, progress);
+}
+
+void saveCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, const QString &fileName,
+                 Progress &progress)
+{
+    QSaveFile file(fileName);
+    const auto refuse = [&] {
+        throw RuleError(QCoreApplication::translate("Csv", "Unable to save '%1'...\n%2")
+                            .arg(QDir::toNativeSeparators(fileName), file.errorString()));
+    };
+    if (!file.open(QIODevice::WriteOnly))
+        refuse();
+    try {
+        writeCsvList(rows, columns, file, progress);
+    } catch (const RuleError &) {
+        refuse();
+    }
+    if (!file.commit())
+        refuse();
+}
+
+} // namespace Tallymere

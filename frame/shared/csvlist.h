@@ -1,0 +1,30 @@
+#pragma once
+
+#include "engine/dataset.h"
+#include "frame/shared/gridcolumn.h"
+#include "frame/shared/prompts.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class QIODevice;
+
+namespace Tallymere {
+
+// Lists as CSV: values as they are stored, not as they are shown (dates YYYY-MM-DD, a decimal point, true and false),
+// every row of the set as filtered and in its order. Rows are read in windows, so that memory follows the keys of the
+// set and not its rows. The set is open.
+
+// The columns under their titles. Throws RuleError when the device takes no more, EngineError when the store fails.
+void writeCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, QIODevice &output,
+                  Progress &progress);
+// The same with the names of fields, which are the titles as well.
+void writeCsvList(const Engine::DataSet &rows, const QStringList &fields, QIODevice &output, Progress &progress);
+
+// Writes a file. Until it is complete, and when writing fails, what the file held before stays; RuleError names the
+// file.
+void saveCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, const QString &fileName,
+                 Progress &progress);
+
+} // namespace Tallymere
