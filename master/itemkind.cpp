@@ -48,6 +48,7 @@ MasterKind describe()
     kind.references = {{u"ItemTypeID"_s, u"ItemType"_s, u"TypeName"_s, tr("Item Type no longer exists"),
                         tr("Item type '%1' not found")}};
     kind.taken = tr("Item no. already exists");
+    kind.notFound = tr("Item no. '%1' not found");
 
     kind.listScreen = u"frmItemsInv"_s;
     kind.listCaption = tr("Items");

@@ -1,10 +1,5 @@
 #include "master/itemsearch.h"
 
-#include "engine/query.h"
-#include "frame/shared/ruleerror.h"
-
-#include <QCoreApplication>
-
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
@@ -54,23 +49,6 @@ void ItemSearch::setItemType(int itemTypeId)
     if (itemTypeId > 0)
         m_items.setFilter(u"ItemTypeID = %1"_s.arg(itemTypeId));
     m_items.setFiltered(itemTypeId > 0);
-}
-
-int itemIdByNumber(Engine::Database &database, const QString &itemNo)
-{
-    const Engine::Value id = Engine::singleValue(
-        database, u"SELECT ItemID FROM Item WHERE ItemNo = ? ORDER BY ItemID LIMIT 1"_s, {itemNo});
-    if (id.isNull())
-        throw RuleError(QCoreApplication::translate("Tallymere::ItemSearch", "Item no. '%1' not found").arg(itemNo),
-                        u"ItemNo"_s);
-    return id.toInt();
-}
-
-void moveToItem(Engine::DataSet &list, int itemId, const QString &itemText)
-{
-    if (!list.locate(u"ItemID"_s, {itemId}))
-        throw RuleError(QCoreApplication::translate("Tallymere::ItemSearch", "'%1' not found").arg(itemText),
-                        u"ItemID"_s);
 }
 
 } // namespace Tallymere

@@ -34,11 +34,4 @@ private:
     Engine::Table m_items;
 };
 
-// Finding one item by its number, as the find and filter dialogs do when the number box is left.
-
-// The ItemID; raises RuleError "Item no. '...' not found", with column "ItemNo", when there is none.
-int itemIdByNumber(Engine::Database &database, const QString &itemNo);
-// Moves a list to the item. Raises "'text' not found" when the list does not show it.
-void moveToItem(Engine::DataSet &list, int itemId, const QString &itemText);
-
 } // namespace Tallymere

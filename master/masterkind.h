@@ -78,6 +78,7 @@ struct MasterKind
     std::function<void(const Engine::Table &)> check;
     QList<Reference> references;
     QString taken; // raised when the number or the key exists already
+    QString notFound; // raised for a number that no record has: "Item no. '%1' not found"
 
     // --- its list -----------------------------------------------------------------------------------------------
     QString listScreen; // "frmItemsInv"

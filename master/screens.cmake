@@ -6,12 +6,13 @@ tallymere_room(tallymere_master_screens SCREENS
         dialerinvform.cpp dialerinvform.h dialerinvform.ui
         dialersetupinvform.cpp dialersetupinvform.h dialersetupinvform.ui
         itemtypeinvform.cpp itemtypeinvform.h itemtypeinvform.ui
-        itempairform.cpp itempairform.h
         itemsearchinvform.cpp itemsearchinvform.h itemsearchinvform.ui
-        itemsfindform.cpp itemsfindform.h itemsfindform.ui
+        itemsfindform.cpp itemsfindform.h
         masterlistform.cpp masterlistform.h
         masterrecordform.cpp masterrecordform.h
         masterscreensform.cpp masterscreensform.h
+        recordfindform.cpp recordfindform.h recordfindform.ui
+        recordpairform.cpp recordpairform.h
         taxinvform.ui
         warehousesinvform.cpp warehousesinvform.h warehouseinvform.ui
     LINK tallymere_master tallymere_controls Qt6::Widgets)

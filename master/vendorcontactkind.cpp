@@ -36,8 +36,8 @@ MasterKind describe()
     kind.newCaption = tr("New Contact");
     kind.required = {{u"VendorID"_s, tr("Field 'Vendor' must have a value")}};
     kind.check = requireName;
-    kind.references = {{u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s, tr("Vendor no longer exists"),
-                        tr("Vendor no. '%1' not found")}};
+    kind.references = {
+        {u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s, tr("Vendor no longer exists"), MasterKinds::vendor().notFound}};
 
     kind.columns = {{u"LastName"_s, tr("Last Name"), 130},
                     {u"FirstName"_s, tr("First Name"), 120},

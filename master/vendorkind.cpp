@@ -62,6 +62,7 @@ MasterKind describe()
     kind.references = {{u"CurrencyID"_s, u"Currency"_s, u"CurrencyName"_s, tr("Currency no longer exists"),
                         tr("Currency '%1' not found")}};
     kind.taken = tr("Vendor no. already exists");
+    kind.notFound = tr("Vendor no. '%1' not found");
 
     kind.listScreen = u"frmVendors"_s;
     kind.listCaption = tr("Vendors");

@@ -1,7 +1,8 @@
 #include "transactions/invtotalsfilterform.h"
 
 #include "data/lookupsdatainv.h"
-#include "master/itempairform.h"
+#include "master/masterkinds.h"
+#include "master/recordpairform.h"
 #include "ui_invtotalsfilterform.h"
 
 using namespace Qt::StringLiterals;
@@ -13,7 +14,7 @@ TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent
     , m_ui(std::make_unique<Ui::TfrmInvTotalsFilter>())
 {
     m_ui->setupUi(this);
-    m_item = new ItemPair(m_ui->editItem, m_ui->cboItem, context.lookups.tblItem(), guard());
+    m_item = new RecordPair(m_ui->editItem, m_ui->cboItem, MasterKinds::item(), context.lookups.tblItem(), guard());
     m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), u"WarehouseID"_s,
                                 {{u"WarehouseName"_s, tr("Location"), 240}}, guard());
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &TfrmInvTotalsFilter::btnOKClick);
@@ -23,7 +24,7 @@ TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent
 
 TfrmInvTotalsFilter::~TfrmInvTotalsFilter() = default;
 
-int TfrmInvTotalsFilter::itemId() const { return m_item->itemId(); }
+int TfrmInvTotalsFilter::itemId() const { return m_item->key(); }
 
 int TfrmInvTotalsFilter::warehouseId() const { return m_ui->cboWarehouse->chosenId(); }
 

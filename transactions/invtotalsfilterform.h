@@ -8,7 +8,7 @@ class TfrmInvTotalsFilter;
 
 namespace Tallymere {
 
-class ItemPair;
+class RecordPair;
 
 // "Inventory Totals Filter": an item, by number or from the list, and a location. Made once for its screen.
 class TfrmInvTotalsFilter final : public DialogScreen
@@ -32,7 +32,7 @@ protected:
 
 private:
     std::unique_ptr<Ui::TfrmInvTotalsFilter> m_ui;
-    ItemPair *m_item;
+    RecordPair *m_item;
 };
 
 } // namespace Tallymere

@@ -1,4 +1,6 @@
 #include "master/itemsearch.h"
+#include "master/masterkinds.h"
+#include "master/recordnumber.h"
 
 #include "tests/support/failures.h"
 #include "tests/transactions/kitchen.h"
@@ -64,13 +66,13 @@ TEST_P(Search, NarrowsToAType)
 
 TEST_P(Search, LooksItemsUpByNumber)
 {
-    EXPECT_EQ(itemIdByNumber(kitchen.database(), u"A11"_s), 2);
-    EXPECT_EQ(refusalOf([&] { itemIdByNumber(kitchen.database(), u"a11"_s); }),
+    EXPECT_EQ(keyByNumber(kitchen.database(), MasterKinds::item(), u"A11"_s), 2);
+    EXPECT_EQ(refusalOf([&] { keyByNumber(kitchen.database(), MasterKinds::item(), u"a11"_s); }),
               u"Item no. 'a11' not found -> ItemNo");
-    moveToItem(search.items(), 2, u"Bread"_s);
+    moveToRecord(search.items(), MasterKinds::item(), 2, u"Bread"_s);
     EXPECT_EQ(current(), u"A11");
     search.setItemType(2);
-    EXPECT_THROW(moveToItem(search.items(), 2, u"Bread"_s), RuleError);
+    EXPECT_THROW(moveToRecord(search.items(), MasterKinds::item(), 2, u"Bread"_s), RuleError);
 }
 
 } // namespace

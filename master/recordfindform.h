@@ -1,0 +1,54 @@
+#pragma once
+
+#include "controls/dialogscreen.h"
+
+namespace Engine {
+class DataSet;
+class Table;
+} // namespace Engine
+namespace Ui {
+class RecordFindScreen;
+}
+
+namespace Tallymere {
+
+class RecordPair;
+struct MasterKind;
+
+// How the find dialog of one kind of records differs from those of the others.
+struct FindDialogKind
+{
+    QString name; // component name: "frmItemsFind"
+    QString caption; // "Find Item"
+    QString numberBox; // "editItem"
+    QString numberLabel; // "Item &no.:"
+    QString nameBox; // "cboItem"
+    QString nameLabel; // "&Description:"
+};
+
+// Moves a list to one record, which the user names by its number or chooses by its name.
+class RecordFindScreen : public DialogScreen
+{
+    Q_OBJECT
+
+public:
+    ~RecordFindScreen() override;
+
+    void btnOKClick();
+
+protected:
+    // The records in the order in which they are chosen. The list, which may be one of rows that refer to the
+    // records, must outlive the dialog's showing.
+    RecordFindScreen(ScreenContext &context, const FindDialogKind &dialog, const MasterKind &kind,
+                     Engine::Table &records, Engine::DataSet &list, QWidget *parent);
+
+    QWidget *widgetOfColumn(const QString &column) const override;
+
+private:
+    std::unique_ptr<Ui::RecordFindScreen> m_ui;
+    const MasterKind &m_kind;
+    Engine::DataSet &m_list;
+    RecordPair *m_record;
+};
+
+} // namespace Tallymere
