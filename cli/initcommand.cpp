@@ -29,7 +29,7 @@ Command initCommand()
     command.summary = tr("makes the folder, the database and its tables where they are missing");
     command.details =
         tr("Rows that are there stay as they are. The first currency follows the postal format: USA, CAN\n"
-           "or UK; any other gives \"Home Currency\".");
+           "or UK; any other gives the currency of your locale.");
     command.options = {{u"organization"_s, tr("NAME"), tr("the organization's name in a new database")},
                        {u"postal-format"_s, tr("FMT"), tr("USA (the default), CAN, UK or another")}};
     command.run = runInit;

@@ -28,12 +28,20 @@ const QList<Brand> &uncheckedBrands()
     return brands;
 }
 
+// The prefixes and lengths that the card companies publish.
 const QList<Brand> &checkedBrands()
 {
+    static const QList<qsizetype> dinersLengths{14, 15, 16, 17, 18, 19};
     static const QList<Brand> brands{
-        {"MASTERCARD"_L1, {16}, 51, 55},    {"MASTERCARD"_L1, {16}, 2221, 2720}, {"VISA"_L1, {13, 16, 19}, 4, 4},
-        {"AMEX"_L1, {15}, 34, 34},          {"AMEX"_L1, {15}, 37, 37},           {"Diners Club"_L1, {14}, 300, 305},
-        {"Diners Club"_L1, {14}, 309, 309}, {"Diners Club"_L1, {14}, 36, 36},    {"Diners Club"_L1, {14}, 38, 39},
+        {"MASTERCARD"_L1, {16}, 51, 55},
+        {"MASTERCARD"_L1, {16}, 2221, 2720},
+        {"VISA"_L1, {13, 16, 19}, 4, 4},
+        {"AMEX"_L1, {15}, 34, 34},
+        {"AMEX"_L1, {15}, 37, 37},
+        {"Diners Club"_L1, dinersLengths, 300, 305},
+        {"Diners Club"_L1, dinersLengths, 3095, 3095},
+        {"Diners Club"_L1, dinersLengths, 36, 36},
+        {"Diners Club"_L1, dinersLengths, 38, 39},
     };
     return brands;
 }

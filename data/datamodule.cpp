@@ -155,7 +155,7 @@ void TDataModuleTallymere::start()
         {u"Company"_s, [&] { Seeds::refreshOrganization(m_database, m_config, today); }},
         {u"ARInvCtl"_s, [&] { Seeds::firstLocation(m_database); }},
         {u"Bank"_s, [&] { Seeds::firstBank(m_database); }},
-        {u"Currency"_s, [&] { Seeds::firstCurrency(m_database, m_config); }},
+        {u"Currency"_s, [&] { Seeds::firstCurrency(m_database, m_config, m_options.locale); }},
     };
 
     openReportParameters();

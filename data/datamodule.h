@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <QDate>
+#include <QLocale>
 #include <QString>
 
 namespace Tallymere {
@@ -23,6 +24,7 @@ struct DataModuleOptions
     QString currentUser{};
     std::function<void(std::chrono::milliseconds)> waitFor{}; // how lock retries pause; see Engine::Session
     std::function<QDate()> today{}; // for the first fiscal year; empty: the system's clock
+    QLocale locale = QLocale::system(); // names the first currency where the host's configuration does not
     std::function<void(Engine::Database &)> prepareHost{}; // runs once connected, before any table is looked for
     std::function<void()> prepareReportPrinting{}; // the last step; whatever it throws is ignored
 };

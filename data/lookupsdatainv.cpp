@@ -28,22 +28,20 @@ QString joinFilled(const QStringList &parts, const QString &separator)
 }
 
 // "Springfield IL 62701"
-QString place(const DataSet &row, const QString &prefix)
+QString place(const DataSet &row)
 {
-    return joinFilled({row.text(QString(prefix + "City"_L1)), row.text(QString(prefix + "StateProv"_L1)),
-                       row.text(QString(prefix + "ZipCode"_L1))},
-                      u" "_s);
+    return joinFilled({row.text(u"City"), row.text(u"StateProv"), row.text(u"ZipCode")}, u" "_s);
 }
 
-// "12 Mill Lane, Unit 4, Springfield IL 62701, USA". The prefix tells one address of a row from another. Cut to the
+// "12 Mill Lane, Unit 4, Springfield, IL, 62701, USA". The prefix tells one address of a row from another. Cut to the
 // field it is shown in.
 QString addressLine(const DataSet &row, const QString &prefix)
 {
-    const QString line =
-        joinFilled({row.text(QString(prefix + "AddressLine1"_L1)), row.text(QString(prefix + "AddressLine2"_L1)),
-                    place(row, prefix), row.text(QString(prefix + "Country"_L1))},
-                   u", "_s);
-    return Engine::firstCharacters(line, addressSize);
+    QStringList parts;
+    for (const auto part :
+         {"AddressLine1"_L1, "AddressLine2"_L1, "City"_L1, "StateProv"_L1, "ZipCode"_L1, "Country"_L1})
+        parts << row.text(QString(prefix + part));
+    return Engine::firstCharacters(joinFilled(parts, u", "_s), addressSize);
 }
 
 } // namespace
@@ -91,7 +89,7 @@ void TdmLookUpsInv::describeCalculatedFields()
     m_vendor.addCalculated(u"Address"_s, FieldType::Text, addressSize,
                            [](const DataSet &row) { return Value(addressLine(row, {})); });
     m_vendor.addCalculated(u"CityStateZip"_s, FieldType::Text, 67,
-                           [](const DataSet &row) { return Value(place(row, {})); });
+                           [](const DataSet &row) { return Value(place(row)); });
 }
 
 LookupList TdmLookUpsInv::list(QStringView table)

@@ -51,6 +51,12 @@ QList<Assignment> organizationDefaults(QDate today)
     };
 }
 
+QString currencyOf(const QLocale &locale)
+{
+    const QString code = locale.currencySymbol(QLocale::CurrencyIsoCode);
+    return code.isEmpty() ? u"Local $"_s : code;
+}
+
 void addFirstRow(Engine::Database &database, const QString &name, const QList<Assignment> &row)
 {
     Table table(database, name);
@@ -99,14 +105,14 @@ void firstBank(Engine::Database &database)
                 {{u"BankID"_s, 1}, {u"BankName"_s, "Meal Preparation Account"_L1}, {u"CurrencyID"_s, 1}});
 }
 
-void firstCurrency(Engine::Database &database, const Table &config)
+void firstCurrency(Engine::Database &database, const Table &config, const QLocale &locale)
 {
     static const QHash<QString, QString> names{
         {u"USA"_s, u"US $"_s},
         {u"CAN"_s, u"Canadian $"_s},
         {u"UK "_s, u"Pounds"_s},
     };
-    const QString name = names.value(config.text(u"Postal_Format"), u"Home Currency"_s);
+    const QString name = names.value(config.text(u"Postal_Format"), currencyOf(locale));
     addFirstRow(database, u"Currency"_s,
                 {{u"CurrencyID"_s, 1}, {u"CurrencyName"_s, name}, {u"ExchangeRate"_s, 1.0}});
 }

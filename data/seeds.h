@@ -4,6 +4,7 @@
 #include "engine/table.h"
 
 #include <QDate>
+#include <QLocale>
 
 // First rows of the inventory tables, taken from the host's configuration where it knows better. Each opens what it
 // needs, writes only what differs from what is there, and closes it again.
@@ -15,7 +16,8 @@ namespace Tallymere::Seeds {
 void refreshOrganization(Engine::Database &database, const Engine::Table &config, QDate today);
 void firstLocation(Engine::Database &database);
 void firstBank(Engine::Database &database);
-// Named by the host's postal format; "Home Currency" for a format that is not known.
-void firstCurrency(Engine::Database &database, const Engine::Table &config);
+// Named by the host's postal format; for a format that is not known by the currency code of the locale ("EUR"), or
+// "Local $" where that has none.
+void firstCurrency(Engine::Database &database, const Engine::Table &config, const QLocale &locale);
 
 } // namespace Tallymere::Seeds

@@ -97,15 +97,20 @@ TEST_P(DataModule, FirstStartMakesEveryTableAndSeedsFourRows)
 
 TEST_P(DataModule, PostalFormatNamesTheFirstCurrency)
 {
-    const std::pair<QString, QString> cases[] = {{u"USA"_s, u"US $"_s},
-                                                 {u"CAN"_s, u"Canadian $"_s},
-                                                 {u"UK "_s, u"Pounds"_s},
-                                                 {u"DEU"_s, u"Home Currency"_s},
-                                                 {u""_s, u"Home Currency"_s}};
+    const QLocale germany(QLocale::German, QLocale::Germany);
+    struct
+    {
+        QString format;
+        QLocale locale;
+        QString name;
+    } const cases[] = {{u"USA"_s, germany, u"US $"_s},     {u"CAN"_s, germany, u"Canadian $"_s},
+                       {u"UK "_s, germany, u"Pounds"_s},   {u"DEU"_s, germany, u"EUR"_s},
+                       {u"UK"_s, germany, u"EUR"_s},       {u"usa"_s, QLocale(u"en_AU"_s), u"AUD"_s},
+                       {u""_s, QLocale::c(), u"Local $"_s}};
     makeHost();
-    for (const auto &[format, name] : cases) {
+    for (const auto &[format, locale, name] : cases) {
         change(u"Config"_s, {{u"Postal_Format"_s, format}});
-        start();
+        start({.locale = locale});
         EXPECT_EQ(stored(u"SELECT CurrencyName FROM Currency"_s).toText(), name) << format.toStdString();
         store.execute(u"DELETE FROM Currency"_s);
     }

@@ -51,8 +51,8 @@ TEST_P(Lookups, CalculatedFieldsLeaveOutWhatIsMissing)
                   "NULL), (3, 'Cedar', '')"_s);
     store.execute(u"INSERT INTO GLAccnt (GLAccountID, AccountName) VALUES (1, 'Food in stock')"_s);
     store.execute(u"INSERT INTO Vendor (VendorID, VendorName, AddressLine1, City, StateProv, ZipCode, Country) "
-                  "VALUES (1, 'Acme', '12 Mill Lane', 'Springfield', 'IL', '62701', 'USA'), "
-                  "(2, 'Beta', NULL, NULL, NULL, NULL, NULL)"_s);
+                  "VALUES (1, 'Acme', ' 12 Mill Lane', 'Springfield', 'IL', '62701', 'USA'), "
+                  "(2, 'Beta', NULL, NULL, ' ', NULL, '')"_s);
     store.execute(u"INSERT INTO Customer (CustomerID, CustomerName, AddressLine1, ShipToAddressLine1, ShipToCity) "
                   "VALUES (1, 'Home', '%1', '3 Quay', 'Leeds')"_s.arg(QString(35, u'a')));
 
@@ -64,7 +64,7 @@ TEST_P(Lookups, CalculatedFieldsLeaveOutWhatIsMissing)
     EXPECT_EQ(lookups.tblGLAccnt().text(u"AccountName30"), u"Food in stock"_s);
 
     Engine::Table &vendors = lookups.tblVendor();
-    EXPECT_EQ(vendors.text(u"Address"), u"12 Mill Lane, Springfield IL 62701, USA"_s);
+    EXPECT_EQ(vendors.text(u"Address"), u"12 Mill Lane, Springfield, IL, 62701, USA"_s);
     EXPECT_EQ(vendors.text(u"CityStateZip"), u"Springfield IL 62701"_s);
     vendors.next();
     EXPECT_EQ(vendors.text(u"Address"), u""_s);

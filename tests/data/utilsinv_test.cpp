@@ -55,22 +55,27 @@ TEST(CheckLists, BitsWrapAt32)
 
 TEST(CardNumbers, BrandsAreToldApart)
 {
-    const std::pair<QString, QString> cases[] = {{u"4111 1111 1111 1111"_s, u"VISA"_s},
-                                                 {u"4222222222222"_s, u"VISA"_s},
-                                                 {u"5500000000000004"_s, u"MASTERCARD"_s},
-                                                 {u"2223000048400011"_s, u"MASTERCARD"_s},
-                                                 {u"340000000000009"_s, u"AMEX"_s},
-                                                 {u"30000000000004"_s, u"Diners Club"_s},
-                                                 {u"6011000000000000"_s, u"Discover"_s},
-                                                 {u"201400000000000"_s, u"enRoute"_s},
-                                                 {u"6700000000000000"_s, u"Solo"_s},
-                                                 {u"670000000000000000"_s, u"Switch"_s},
-                                                 {u"4111111111111112"_s, u""_s},
-                                                 {u"4111-1111-1111-1111"_s, u""_s},
-                                                 {u"411111111111"_s, u""_s},
-                                                 {u"9111111111111111"_s, u""_s}};
-    for (const auto &[number, brand] : cases)
-        EXPECT_EQ(validateCC(number), brand) << number.toStdString();
+    const std::pair<QString, QStringList> cases[] = {
+        {u"VISA"_s, {u"4111 1111 1111 1111"_s, u"4222222222222"_s, u"4000000000000000006"_s}},
+        {u"MASTERCARD"_s,
+         {u"5100000000000008"_s, u"5500000000000004"_s, u"2221000000000009"_s, u"2720000000000005"_s}},
+        {u"AMEX"_s, {u"340000000000009"_s, u"370000000000002"_s}},
+        {u"Diners Club"_s,
+         {u"30000000000004"_s, u"30500000000003"_s, u"30950000000000"_s, u"3095000000000000"_s, u"36000000000008"_s,
+          u"3600000000000000004"_s, u"3800000000000006"_s, u"39000000000005"_s}},
+        {u"Discover"_s, {u"6011000000000000"_s}},
+        {u"enRoute"_s, {u"201400000000000"_s, u"214900000000000"_s}},
+        {u"Solo"_s, {u"6700000000000000"_s}},
+        {u"Switch"_s, {u"670000000000000000"_s}},
+        {u""_s, // the check digits are right as long as nothing else is said
+         {u"40000000000002"_s, u"2220000000000000"_s, u"2721000000000004"_s, u"5000000000000009"_s,
+          u"5600000000000003"_s, u"350000000000006"_s, u"30600000000001"_s, u"30940000000001"_s, u"3600000000004"_s,
+          u"39000000000000000005"_s, u"4111111111111112"_s /* wrong */, u"340000000000008"_s /* wrong */,
+          u"4111-1111-1111-1111"_s, u"411111111111"_s, u"9111111111111111"_s}}};
+    for (const auto &[brand, numbers] : cases) {
+        for (const QString &number : numbers)
+            EXPECT_EQ(validateCC(number), brand) << number.toStdString();
+    }
 }
 
 TEST(FormPositions, ComeBackOrNotAtAll)
