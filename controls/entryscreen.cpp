@@ -148,8 +148,10 @@ void EntryScreen::keyPressEvent(QKeyEvent *event)
             focusNextChild();
         return;
     }
-    if (event->key() == Qt::Key_Escape && m_binder.revert(focusWidget()))
+    if (event->key() == Qt::Key_Escape && m_binder.revert(focusWidget())) {
+        showCaption(); // it may have followed what was typed
         return;
+    }
     QDialog::keyPressEvent(event);
 }
 

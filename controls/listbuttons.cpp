@@ -10,18 +10,45 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-void showListAt(ScreenContext &context, const ListJump &jump, int key)
+namespace {
+
+bool isAllowed(const ScreenContext &context, const ListJump &jump)
 {
-    if (!context.allows(jump.rights.section(u'/', 0, 0), jump.rights.section(u'/', -1)))
-        return;
-    const WaitCursor hourglass;
+    return context.allows(jump.rights.section(u'/', 0, 0), jump.rights.section(u'/', -1));
+}
+
+// The list, open and unfiltered; nullptr when the system does not have it.
+ListScreen *openList(const ScreenContext &context, const ListJump &jump)
+{
     auto *list = qobject_cast<ListScreen *>(jump.another ? context.openAnotherScreen(jump.screen)
                                                          : context.openScreen(jump.screen));
+    if (list)
+        list->resetFilter();
+    return list;
+}
+
+} // namespace
+
+void showListAt(ScreenContext &context, const ListJump &jump, int key)
+{
+    if (!isAllowed(context, jump))
+        return;
+    const WaitCursor hourglass;
+    ListScreen *list = openList(context, jump);
+    if (list && !list->moveToKey(key))
+        list->dataSet().first();
+}
+
+void showListFiltered(ScreenContext &context, const ListJump &jump, const QString &expression)
+{
+    if (!isAllowed(context, jump))
+        return;
+    const WaitCursor hourglass;
+    ListScreen *list = openList(context, jump);
     if (!list)
         return;
-    list->resetFilter();
-    if (!list->moveToKey(key))
-        list->dataSet().first();
+    list->applyFilter(expression);
+    list->refreshList();
 }
 
 void connectListButtons(QWidget &form, ScreenContext &context, const Guard &guard,

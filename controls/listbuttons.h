@@ -27,5 +27,7 @@ struct ListJump
     bool another = false;
 };
 void showListAt(ScreenContext &context, const ListJump &jump, int key);
+// Opens a list, read anew, with nothing but the filter expression in force.
+void showListFiltered(ScreenContext &context, const ListJump &jump, const QString &expression);
 
 } // namespace Tallymere

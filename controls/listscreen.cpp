@@ -73,7 +73,7 @@ void ListScreen::addMenu(const ListMenu &menu)
     QMenu *shown = menuBar()->addMenu(menu.caption);
     shown->setToolTipsVisible(true);
     for (const ListCommand &command : menu.commands) {
-        if (command.separatorBefore)
+        if (command.separatorBefore && !command.hidden)
             shown->addSeparator();
         if (!command.choices.isEmpty()) {
             addChoices(shown, command);
@@ -99,7 +99,9 @@ void ListScreen::addChoices(QMenu *menu, const ListCommand &command)
 
 QAction *ListScreen::addCommand(QMenu *menu, const ListCommand &command)
 {
-    QAction *action = menu->addAction(command.caption);
+    auto *action = new QAction(command.caption, menu);
+    if (!command.hidden)
+        menu->addAction(action);
     action->setObjectName(command.name);
     action->setShortcut(command.shortcut);
     action->setCheckable(command.checkable);

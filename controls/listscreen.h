@@ -23,6 +23,7 @@ struct ListCommand
     QString popupCaption = {}; // empty: not in the pop-up menu
     bool checkable = false;
     bool separatorBefore = false;
+    bool hidden = false; // not in the menu; its button and the pop-up menu lead to it
     QList<ListCommand> choices = {}; // a sub-menu of entries of which one is checked
 };
 
