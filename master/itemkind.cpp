@@ -41,6 +41,9 @@ MasterKind describe()
     kind.caption = tr("Item");
     kind.newCaption = tr("New Item");
     kind.defaults = {{u"Suspended"_s, false}};
+    // Costs, suspension and accounts are the original's own.
+    kind.copiedFields = {u"ItemDescription"_s, u"TaxCodes"_s, u"UnitPrice"_s, u"Notes"_s, u"ItemTypeID"_s};
+    kind.copyCaption = tr("New (copied) Item");
     kind.required = {{u"ItemNo"_s, tr("Field 'Item no.' must have a value")},
                      {u"ItemDescription"_s, tr("Field 'Description' must have a value")},
                      {u"ItemTypeID"_s, tr("Field 'Item Type' must have a value")}};
@@ -58,6 +61,8 @@ MasterKind describe()
     kind.orders = {{u"ItemNo"_s, tr("&Item no."), u"mnuSortItemNo"_s},
                    {u"ItemDescription1"_s, tr("&Description"), u"mnuSortDescription"_s}};
     kind.prints = true;
+    kind.filterField = u"ItemTypeID"_s;
+    kind.notSuspended = u"(Suspended = false)"_s;
     // Nothing keeps an item from being deleted, not even its movements.
 
     kind.systemFields = {u"ItemID"_s, u"SalesGLAccountID"_s, u"COGSGLAccountID"_s, u"InventoryGLAccountID"_s,

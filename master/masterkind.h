@@ -2,6 +2,7 @@
 
 #include "engine/table.h"
 #include "frame/shared/gridcolumn.h"
+#include "frame/shared/listfilter.h"
 
 #include <functional>
 #include <QList>
@@ -73,6 +74,8 @@ struct MasterKind
     QList<Default> defaults;
     std::function<void(Engine::Table &)> preset; // defaults that have to be found out, of these fields:
     QStringList presetFields;
+    QStringList copiedFields; // what a copy takes over from its original
+    QString copyCaption; // "New (copied) Item"
     // The checks before saving, in this order. A number that is 0 counts as empty.
     QList<Required> required;
     std::function<void(const Engine::Table &)> check;
@@ -86,6 +89,9 @@ struct MasterKind
     QList<GridColumn> columns;
     QList<Order> orders; // the first one is in force at the start
     bool prints = false; // there is a report of the list
+    // What its filter dialog narrows it to: the rows that refer to one record, and those that are suspended or not.
+    QString filterField; // "CurrencyID"
+    QString notSuspended; // "(Suspended <> true)" shows rows that do not say, "(Suspended = false)" leaves them out
     // Deleting: records up to a key belong to the system; the others are asked for and then refused by the first
     // refusal that applies.
     int systemKeys = 0;
@@ -100,6 +106,7 @@ struct MasterKind
     QStringList longTexts; // fields that may be given longer than what is kept of them
 
     QString recordName(const Engine::DataSet &row) const; // "1001: Flour"
+    QString filterExpression(const ListFilter &filter) const; // empty: everything is shown
 };
 
 } // namespace Tallymere

@@ -10,6 +10,12 @@ QString MasterKind::recordName(const Engine::DataSet &row) const
     return parts.join(u": ");
 }
 
+QString MasterKind::filterExpression(const ListFilter &filter) const
+{
+    return joinConditions({keyCondition(filterField, filter.key),
+                           markCondition(filter.marked, QStringLiteral("(Suspended = true)"), notSuspended)});
+}
+
 const QList<const MasterKind *> &MasterKinds::all()
 {
     static const QList<const MasterKind *> kinds = {&itemType(),      &item(), &location(), &vendor(),

@@ -46,7 +46,7 @@ void MasterList::remove(Prompts &prompts)
 
 void MasterList::requireRemovable(Prompts &prompts) const
 {
-    if (currentKey() <= m_kind.systemKeys) {
+    if (m_kind.systemKeys > 0 && currentKey() <= m_kind.systemKeys) {
         prompts.warn(m_kind.systemRecord);
         throw SilentAbort();
     }

@@ -14,17 +14,28 @@ constexpr qint64 firstNumber = 1001;
 constexpr qint64 lastNumber = 10'000'000;
 constexpr qint64 firstKey = 10'000;
 
+NumberSource numbersIfInReach(Engine::Database &database)
+{
+    return [&database](const QString &table, const CounterRule &rule) {
+        try {
+            takeNumbers(database, table, rule);
+        } catch (const Engine::EngineError &) {
+            // the record stays without
+        }
+    };
+}
+
 } // namespace
 
 MasterRecord::MasterRecord(Engine::Database &database, const MasterKind &kind)
-    : numbers(numbersAtOnce(database))
+    : numbers(numbersIfInReach(database))
     , m_kind(kind)
     , m_table(database, m_kind.table)
 {
     if (!m_kind.numberField.isEmpty())
         m_table.uniqueFields = {m_kind.numberField};
     m_table.events.newRecord = [this] {
-        assignIdentity();
+        assignIdentity(numbers);
         for (const MasterKind::Default &preset : m_kind.defaults)
             m_table.setDefault(preset.field, preset.value);
         if (m_kind.preset)
@@ -46,13 +57,29 @@ void MasterRecord::open()
 void MasterRecord::newRecord(const QString &number)
 {
     m_givenNumber = number;
+    m_isCopy = false;
     m_table.insert();
+}
+
+void MasterRecord::newCopy(const Engine::DataSet &original)
+{
+    newRecord();
+    for (const QString &field : m_kind.copiedFields)
+        m_table.setDefault(field, original.value(field));
+    m_isCopy = true;
 }
 
 bool MasterRecord::openRecord(int key)
 {
     m_table.setIndex({});
     return m_table.locate(m_kind.keyField, {key});
+}
+
+QString MasterRecord::caption() const
+{
+    if (m_isCopy && isNew() && !m_table.isModified())
+        return m_kind.copyCaption;
+    return captionFor(m_table.text(m_kind.nameFields.constLast()));
 }
 
 QString MasterRecord::captionFor(const QString &name) const
@@ -82,25 +109,32 @@ void MasterRecord::cancel()
         m_table.cancel();
 }
 
-// A control table that stays out of reach leaves the record without a number; the check before saving asks for one.
-void MasterRecord::assignIdentity()
+void MasterRecord::assignIdentity(const NumberSource &source)
 {
     if (m_kind.counterTable.isEmpty())
         return;
-    try {
-        numbers(m_kind.counterTable, [this](CounterRow &counters) {
-            if (m_givenNumber.isEmpty()) {
-                counters.restartOutside(m_kind.numberCounter, firstNumber, lastNumber, firstNumber);
-                m_table.setDefault(m_kind.numberField, QString::number(counters.take(m_kind.numberCounter)));
-            } else {
-                m_table.setDefault(m_kind.numberField, m_givenNumber);
-            }
-            counters.restartWhenZero(m_kind.keyCounter, firstKey);
-            m_table.setDefault(m_kind.keyField, counters.take(m_kind.keyCounter));
-        });
-    } catch (const Engine::EngineError &error) {
-        if (error.code() != Engine::ErrorCode::TableInUse)
-            throw;
+    source(m_kind.counterTable, [this](CounterRow &counters) {
+        if (m_givenNumber.isEmpty()) {
+            counters.restartOutside(m_kind.numberCounter, firstNumber, lastNumber, firstNumber);
+            m_table.setDefault(m_kind.numberField, QString::number(counters.take(m_kind.numberCounter)));
+        } else {
+            m_table.setDefault(m_kind.numberField, m_givenNumber);
+        }
+        counters.restartWhenZero(m_kind.keyCounter, firstKey);
+        m_table.setDefault(m_kind.keyField, counters.take(m_kind.keyCounter));
+    });
+}
+
+// For a record that is about to be written and has none yet.
+void MasterRecord::assignKey()
+{
+    if (m_kind.keyByEngine || !isNew())
+        return;
+    if (m_kind.counterTable.isEmpty()) {
+        assignHighestKey();
+    } else if (m_table.value(m_kind.keyField).isNull()) {
+        m_givenNumber = m_table.text(m_kind.numberField);
+        assignIdentity(numbersAtOnce(database()));
     }
 }
 
@@ -122,10 +156,7 @@ void MasterRecord::checkAll()
         m_kind.check(m_table);
     for (const MasterKind::Reference &reference : m_kind.references)
         requireReference(reference);
-
-    const bool countsKeys = m_kind.counterTable.isEmpty() && !m_kind.keyByEngine;
-    if (countsKeys && m_table.state() == Engine::TableState::Insert)
-        assignHighestKey();
+    assignKey();
 }
 
 bool MasterRecord::isEmpty(const QString &field) const

@@ -16,7 +16,9 @@ public:
     MasterRecord(const MasterRecord &) = delete;
     MasterRecord &operator=(const MasterRecord &) = delete;
 
-    // Where numbers and counted keys come from; at once from their counters unless set.
+    // Where numbers and counted keys come from. Unless set, at once from their counters, and a control table that
+    // stays out of reach leaves a new record without: the check before saving asks for the number, and saving tries
+    // again for the key.
     NumberSource numbers;
 
     void open();
@@ -24,6 +26,8 @@ public:
     // Inserts a record with its identity and defaults. A number that is given stands as it is and leaves the number
     // counter alone. Numbers from the counter are used up, also when the record is dropped.
     void newRecord(const QString &number = {});
+    // The same with the values of another record, as far as copies take them over. Not modified by that.
+    void newCopy(const Engine::DataSet &original);
     bool openRecord(int key); // false when there is none
 
     const MasterKind &kind() const { return m_kind; }
@@ -31,9 +35,9 @@ public:
     const Engine::Table &table() const { return m_table; }
     int key() const { return m_table.integer(m_kind.keyField); }
     bool isNew() const { return m_table.state() == Engine::TableState::Insert; }
-    // What its screen is called: the record's name, or what a new record without one is called.
-    QString caption() const { return captionFor(m_table.text(m_kind.nameFields.constLast())); }
-    QString captionFor(const QString &name) const;
+    // What its screen is called: the record's name, or what a new record without one, or an untouched copy is called.
+    QString caption() const;
+    QString captionFor(const QString &name) const; // the name being typed
 
     // Saves what is being edited, and does nothing otherwise.
     void save();
@@ -41,7 +45,8 @@ public:
 
 private:
     Engine::Database &database() const { return m_table.database(); }
-    void assignIdentity();
+    void assignIdentity(const NumberSource &source);
+    void assignKey();
     void assignHighestKey();
     void checkAll();
     bool isEmpty(const QString &field) const;
@@ -50,6 +55,7 @@ private:
     const MasterKind &m_kind;
     Engine::Table m_table;
     QString m_givenNumber;
+    bool m_isCopy = false;
 };
 
 } // namespace Tallymere

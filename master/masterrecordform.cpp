@@ -53,6 +53,12 @@ void MasterRecordScreen::newRecord()
     recordChanged();
 }
 
+void MasterRecordScreen::newCopy(const Engine::DataSet &original)
+{
+    m_record.newCopy(original);
+    recordChanged();
+}
+
 bool MasterRecordScreen::openRecord(int key)
 {
     const bool found = m_record.openRecord(key);

@@ -19,6 +19,7 @@ public:
     ~MasterRecordScreen() override;
 
     void newRecord();
+    void newCopy(const Engine::DataSet &original); // a row of the list
     bool openRecord(int key); // false when there is no such record any more
     int key() const { return m_record.key(); }
     bool isNew() const { return m_record.isNew(); }
