@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/datagrid.h"
 #include "controls/guard.h"
+#include "controls/listgrid.h"
 #include "controls/screencontext.h"
 
 #include <QKeySequence>

@@ -56,16 +56,29 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
 
 QString TableModel::cellText(const QModelIndex &index, int role) const
 {
-    const int number = m_data.fieldIndex(m_columns[index.column()].field);
+    if (role == Qt::DisplayRole)
+        return shownText(index.row(), index.column());
+    const int number = m_fields[static_cast<size_t>(index.column())];
+    return number < 0 ? QString() : std::as_const(m_data).field(number).editText(cellValue(index.row(), number));
+}
+
+QString TableModel::shownText(int row, int column) const
+{
+    const int number = m_fields[static_cast<size_t>(column)];
     if (number < 0)
         return {};
     const Engine::Field &field = std::as_const(m_data).field(number);
-    const Engine::Value value = cellValue(index.row(), number);
-    if (role == Qt::EditRole)
-        return field.editText(value);
+    const Engine::Value value = cellValue(row, number);
     if (field.type == FieldType::Boolean && !field.format.display)
         return value.toBool() ? tr("Yes") : tr("No");
     return field.displayText(value);
+}
+
+void TableModel::findFields()
+{
+    m_fields.clear();
+    for (const GridColumn &column : m_columns)
+        m_fields.push_back(m_data.fieldIndex(column.field));
 }
 
 bool TableModel::attempt(const std::function<void()> &reading) const
@@ -126,6 +139,7 @@ int TableModel::dataRows() const { return m_data.isOpen() ? m_data.recordCount()
 // a view that shows row numbers, and the cursor keeps its place until the data set says where it belongs.
 void TableModel::takeList()
 {
+    findFields();
     m_failed = false;
     m_partial = false;
     m_firstPage.clear();

@@ -29,6 +29,9 @@ public:
     const QList<GridColumn> &columns() const { return m_columns; }
     int columnOf(const QString &field) const; // -1 when no column shows it
     bool isPartial() const { return m_partial; } // only the first page is there
+    bool hasFailed() const { return m_failed; } // something could not be read since the list was read
+    // A cell as it is shown. Throws what the store raises.
+    QString shownText(int row, int column) const;
     void readRest(); // nothing to do when all rows are there
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -48,6 +51,7 @@ protected:
 
 private:
     QString cellText(const QModelIndex &index, int role) const;
+    void findFields();
     int rowStartingWith(const QString &field, const QString &text) const; // -1 when there is none
     bool attempt(const std::function<void()> &reading) const; // false, and a report to come, when it failed
     void readFirstPage();
@@ -57,6 +61,7 @@ private:
     mutable bool m_failed = false;
     Engine::DataSet &m_data;
     QList<GridColumn> m_columns;
+    std::vector<int> m_fields; // the numbers of the columns' fields, -1 for one that the set does not have
     const Reading m_reading;
     std::vector<Engine::Row> m_firstPage; // while it is partial
     bool m_partial = false;

@@ -1,10 +1,8 @@
-#include "controls/datagrid.h"
+#include "controls/listgrid.h"
 #include "engine/table.h"
+#include "tests/support/bothstores.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
-#include "tests/support/teststore.h"
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -14,36 +12,75 @@ namespace {
 
 constexpr int dishes = 200;
 
-const Engine::TableLayout layout{u"Dish"_s,
-                                 {{u"DishID"_s, FieldType::Integer}, {u"Name"_s, FieldType::Text, 20}},
-                                 {{{}, u"DishID"_s, Engine::IndexOption::Primary}}};
+const Engine::TableLayout layout{
+    u"Dish"_s,
+    {{u"DishID"_s, FieldType::Integer}, {u"DishNo"_s, FieldType::Text, 10}, {u"Name"_s, FieldType::Text, 20}},
+    {{{}, u"DishID"_s, Engine::IndexOption::Primary},
+     {u"DISHNO"_s, u"DishNo"_s},
+     {u"NAME1"_s, u"Name"_s, Engine::IndexOption::CaseInsensitive}}};
 
-class ListGridTest : public testing::Test
+// Dish 1 to 200, numbered D0001 and so on.
+class ListGridTest : public testing::TestWithParam<Store>
 {
 protected:
-    ListGridTest()
+    explicit ListGridTest(Store kind = Store::Local)
+        : store(kind)
     {
         store.database().createTable(layout);
         QStringList rows;
         for (int id = 1; id <= dishes; ++id)
-            rows << u"(%1, 'Dish %1')"_s.arg(id);
-        store.execute(u"INSERT INTO Dish (DishID, Name) VALUES "_s + rows.join(u", "_s));
+            rows << u"(%1, 'D%2', 'Dish %1')"_s.arg(id).arg(id, 4, 10, '0'_L1);
+        store.execute(u"INSERT INTO Dish (DishID, DishNo, Name) VALUES "_s + rows.join(u", "_s));
         table.emplace(store.database(), u"Dish"_s);
         table->addCalculated(u"Twice"_s, FieldType::Integer, 0, [](const Engine::DataSet &dish) {
             return Engine::Value(2 * dish.integer(u"DishID"));
         });
         table->open();
-        grid.setDataSet(*table, {{u"Name"_s, u"Name"_s}, {u"Twice"_s, u"Twice"_s}}, guard);
+        grid.allowSelection();
+        grid.resize(400, 400);
+        grid.setDataSet(*table, {{u"Name"_s, u"Name"_s}, {u"Twice"_s, u"Twice"_s}, {u"DishNo"_s, u"No."_s}}, guard);
     }
 
     int rows() const { return grid.model()->rowCount(); }
     QString cell(int row, int column) const { return grid.model()->index(row, column).data().toString(); }
+    void showAll()
+    {
+        showActive(grid);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return rows() == dishes; }));
+    }
+    // "2-5 9": the rows that are selected, and after a colon the one under the cursor.
+    QString selected() const
+    {
+        QStringList ranges;
+        for (const RowRange &range : grid.selectedRows())
+            ranges << (range.count() == 1 ? QString::number(range.first)
+                                          : u"%1-%2"_s.arg(range.first).arg(range.last));
+        return ranges.join(u' ') + u": "_s + QString::number(grid.currentIndex().row());
+    }
+    void click(int row, Qt::KeyboardModifiers modifiers = {})
+    {
+        const QPoint place = grid.visualRect(grid.model()->index(row, 0)).center();
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, modifiers, place);
+    }
 
     SpokenPrompts prompts;
     Guard guard{prompts};
-    TestStore store{Store::Local};
+    TestStore store;
     std::optional<Engine::Table> table;
     ListGrid grid;
+};
+
+class ListSearchTest : public ListGridTest
+{
+protected:
+    ListSearchTest()
+        : ListGridTest(GetParam())
+    {
+        QApplication::setKeyboardInputInterval(10'000);
+    }
+    ~ListSearchTest() override { QApplication::setKeyboardInputInterval(-1); }
+
+    QString name() const { return table->text(u"Name"); }
 };
 
 } // namespace
@@ -56,8 +93,7 @@ TEST_F(ListGridTest, firstPageIsThereBeforeTheListIsRead)
     EXPECT_EQ(cell(30, 0), u"Dish 31"_s);
     EXPECT_EQ(cell(30, 1), u"62"_s) << "what is calculated too";
     EXPECT_EQ(grid.currentIndex().row(), 0);
-    showActive(grid);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rows() == dishes; }));
+    showAll();
     EXPECT_EQ(cell(dishes - 1, 1), u"400"_s);
     EXPECT_EQ(grid.currentIndex().row(), 0);
 }
@@ -75,4 +111,112 @@ TEST_F(ListGridTest, keysReachTheLastRowAtOnce)
     QTest::keyClick(&grid, Qt::Key_End);
     EXPECT_EQ(grid.currentIndex().row(), dishes - 1);
     EXPECT_EQ(table->integer(u"DishID"), dishes);
+}
+
+TEST_F(ListGridTest, manyRowsAreSelectedWhileTheRecordIsOne)
+{
+    showAll();
+    const std::tuple<const char *, std::function<void()>, QString> steps[] = {
+        {"click", [&] { click(3); }, u"3: 3"_s},
+        {"with shift", [&] { click(5, Qt::ShiftModifier); }, u"3-5: 5"_s},
+        {"with control", [&] { click(8, Qt::ControlModifier); }, u"3-5 8: 8"_s},
+        {"beside the rows",
+         [&] {
+             QTest::mouseClick(&grid, Qt::LeftButton, {}, {399, 399});
+         },
+         u"3-5 8: 8"_s},
+        {"arrow", [&] { press(Qt::Key_Down); }, u"9: 9"_s},
+        {"the record moves by itself", [&] { table->moveToKey({101}); }, u"100: 100"_s},
+        {"from there", [&] { press(Qt::Key_Down, Qt::ShiftModifier); }, u"100-101: 101"_s},
+        {"to the end", [&] { press(Qt::Key_End, Qt::ShiftModifier); }, u"100-199: 199"_s},
+        {"far jump", [&] { press(Qt::Key_Home, Qt::ControlModifier); }, u"0: 0"_s},
+        {"all", [&] { press(Qt::Key_A, Qt::ControlModifier); }, u"0-199: 0"_s},
+        {"read anew", [&] { table->refresh(); }, u"0: 0"_s},
+    };
+    for (const auto &[what, step, expected] : steps) {
+        step();
+        EXPECT_EQ(selected(), expected) << what;
+        EXPECT_EQ(table->recordIndex(), grid.currentIndex().row()) << what;
+    }
+}
+
+TEST_P(ListSearchTest, typedBeginningIsFoundInTheOrderedColumn)
+{
+    store.execute(u"INSERT INTO Dish (DishID, DishNo, Name) VALUES (900, 'x1', 'Crème brûlée'), "
+                  "(901, 'x2', 'crêpe'), (902, 'x3', '50% \"off\" [a]''s'), (903, 'x4', '🍜 soup')"_s);
+    table->setIndex(u"NAME1"_s);
+    table->refresh();
+    showActive(grid);
+    const struct
+    {
+        QString typed;
+        QString name;
+        bool found;
+    } cases[] = {
+        {u"dish 1"_s, u"Dish 1"_s, true},
+        {u"DISH 19"_s, u"Dish 19"_s, true},
+        {u"cr"_s, u"Crème brûlée"_s, true},
+        {u"crê"_s, u"crêpe"_s, true},
+        {u"50% \"off\" [a]'"_s, u"50% \"off\" [a]'s"_s, true},
+        {u"🍜"_s, u"🍜 soup"_s, true},
+        {u"dish 7x"_s, u"Dish 7"_s, false}, // stays on what the last letter that fitted had found
+    };
+    for (const auto &c : cases) {
+        grid.search()->end();
+        table->first();
+        for (const char32_t letter : c.typed.toStdU32String())
+            QTest::sendKeyEvent(QTest::Click, &grid, Qt::Key_unknown, QString::fromUcs4(&letter, 1),
+                                Qt::NoModifier);
+        EXPECT_EQ(name(), c.name) << c.typed.toStdString();
+        EXPECT_EQ(grid.search()->text(), c.typed);
+        EXPECT_EQ(grid.search()->isFound(), c.found) << c.typed.toStdString();
+        EXPECT_EQ(grid.currentIndex().row(), table->recordIndex());
+    }
+    table->setIndex(u"DISHNO"_s);
+    EXPECT_EQ(grid.search()->text(), QString()) << "another order, another search";
+    type("d015");
+    EXPECT_EQ(name(), u"Dish 150"_s) << "numbers are found without the shift key";
+}
+
+ON_BOTH_STORES(ListSearchTest);
+
+TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
+{
+    table->setIndex(u"NAME1"_s);
+    QApplication::setKeyboardInputInterval(10'000);
+    showAll();
+    type("dish 17");
+    EXPECT_EQ(table->integer(u"DishID"), 17);
+    type("9");
+    EXPECT_EQ(table->integer(u"DishID"), 179);
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(grid.search()->text(), u"dish 1"_s);
+    EXPECT_EQ(table->integer(u"DishID"), 1);
+    grid.search()->end();
+
+    const std::tuple<const char *, std::function<void()>> ends[] = {
+        {"escape", [] { press(Qt::Key_Escape); }},
+        {"arrow", [] { press(Qt::Key_Down); }},
+        {"mouse", [&] { click(4); }},
+        {"focus", [&] { grid.clearFocus(); }},
+    };
+    for (const auto &[what, end] : ends) {
+        grid.setFocus();
+        type("dish 19");
+        EXPECT_EQ(grid.search()->text(), u"dish 19"_s) << what;
+        end();
+        EXPECT_EQ(grid.search()->text(), QString()) << what;
+    }
+    grid.setFocus();
+    QApplication::setKeyboardInputInterval(0);
+    type("x");
+    QTest::qWait(5);
+    type("d");
+    EXPECT_EQ(grid.search()->text(), u"d"_s) << "a pause begins anew";
+    QApplication::setKeyboardInputInterval(-1);
+
+    table->setIndex(QString()); // by key, which is no text and not shown
+    type("d");
+    EXPECT_EQ(grid.search()->text(), QString());
 }
