@@ -68,8 +68,6 @@ QString cutBefore(const QString &piece, QChar marker)
     return at < 0 ? piece : piece.left(at).trimmed();
 }
 
-QString formSetting(const QString &section) { return u"Forms/"_s + section; }
-
 } // namespace
 
 int getUniqueID(Engine::Table &counter, const QString &field)
@@ -197,6 +195,8 @@ QString strBuildInfo()
     const BuildInfo info = getBuildInfo();
     return QVersionNumber({info.major, info.minor, info.release, info.build}).toString();
 }
+
+QString formSetting(const QString &section) { return u"Forms/"_s + section; }
 
 void saveFormPos(SettingsStore &settings, const QRect &geometry, const QString &section, const QString &key)
 {

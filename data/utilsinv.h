@@ -66,6 +66,8 @@ struct BuildInfo
 BuildInfo getBuildInfo(); // of the running program; missing parts are 0
 QString strBuildInfo(); // "1.0.2.1"
 
+// The setting under which a screen, the section, keeps what it remembers.
+QString formSetting(const QString &section);
 void saveFormPos(SettingsStore &settings, const QRect &geometry, const QString &section, const QString &key);
 std::optional<QRect> setFormPos(const SettingsStore &settings, const QString &section, const QString &key);
 
