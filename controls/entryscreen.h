@@ -48,6 +48,7 @@ protected:
     // been set up and its fields are bound.
     void buildScreen();
     void showCaption() { setWindowTitle(caption()); }
+    void saveAndReport(); // what OK does before it closes; throws what refuses
 
     ScreenContext &context() const { return m_context; }
     FieldBinder &binder() { return m_binder; }
@@ -63,7 +64,6 @@ protected:
 private:
     void leave(); // closes without a question
     bool settleChanges(); // asks if need be; false: the screen stays
-    void saveAndReport();
 
     ScreenContext &m_context;
     Guard m_guard;

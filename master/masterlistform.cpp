@@ -2,19 +2,16 @@
 
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
-#include "engine/error.h"
-#include "frame/shared/ruleerror.h"
-#include "master/masterrecordform.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-MasterListScreen::MasterListScreen(ScreenContext &context, const MasterKind &kind, MakeRecord makeRecord,
-                                   QWidget *parent)
+MasterListScreen::MasterListScreen(ScreenContext &context, const MasterKind &kind,
+                                   RecordOpener::MakeRecord makeRecord, QWidget *parent)
     : ListScreen(context, parent)
     , m_list(context.data.databaseTallymere(), kind)
-    , m_makeRecord(std::move(makeRecord))
+    , m_records(new RecordOpener(context, m_list, std::move(makeRecord), this))
 {
     m_list.open();
 }
@@ -100,70 +97,10 @@ void MasterListScreen::showStep()
 
 // --- records ----------------------------------------------------------------------------------------------------
 
-MasterRecordScreen *MasterListScreen::makeRecord()
-{
-    MasterRecordScreen *screen = m_makeRecord(context(), parentWidget());
-    connect(screen, &MasterRecordScreen::saved, this, [this](int key) {
-        refreshList();
-        m_list.moveTo(key);
-    });
-    // Work goes on in the list, not in the main window that both belong to.
-    connect(screen, &QObject::destroyed, this, [this] {
-        if (isVisible())
-            activateWindow();
-    });
-    m_records.removeIf([](const QPointer<MasterRecordScreen> &record) { return !record; });
-    m_records.append(screen);
-    return screen;
-}
+void MasterListScreen::btnNewClick() { m_records->openNew(); }
 
-MasterRecordScreen *MasterListScreen::openScreenOf(int key) const
-{
-    for (const QPointer<MasterRecordScreen> &record : m_records) {
-        if (record && record->isVisible() && !record->isNew() && record->key() == key)
-            return record;
-    }
-    return nullptr;
-}
+void MasterListScreen::btnEditClick() { m_records->openCurrent(); }
 
-void MasterListScreen::btnNewClick()
-{
-    std::unique_ptr<MasterRecordScreen> screen(makeRecord());
-    screen->newRecord();
-    screen.release()->show();
-}
-
-void MasterListScreen::btnEditClick()
-{
-    const Engine::Table &table = m_list.table();
-    if (table.isEmpty()) {
-        btnNewClick();
-        return;
-    }
-    if (MasterRecordScreen *open = openScreenOf(m_list.currentKey())) {
-        bringToFront(*open);
-        return;
-    }
-    const WaitCursor hourglass;
-    std::unique_ptr<MasterRecordScreen> screen(makeRecord());
-    if (screen->openRecord(m_list.currentKey())) {
-        screen.release()->show();
-        return;
-    }
-    const QString name = m_list.kind().recordName(table);
-    refreshList();
-    throw RuleError(tr("'%1' was deleted by another user.").arg(name));
-}
-
-void MasterListScreen::btnDeleteClick()
-{
-    try {
-        m_list.remove(context().prompts);
-    } catch (const Engine::EngineError &error) {
-        if (error.code() == Engine::ErrorCode::RecordGone)
-            refreshList();
-        throw;
-    }
-}
+void MasterListScreen::btnDeleteClick() { m_records->removeCurrent(); }
 
 } // namespace Tallymere

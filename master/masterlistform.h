@@ -2,12 +2,9 @@
 
 #include "controls/listscreen.h"
 #include "master/masterlist.h"
-
-#include <QPointer>
+#include "master/recordopenerform.h"
 
 namespace Tallymere {
-
-class MasterRecordScreen;
 
 // The list of a master table: new, edit, delete, and what its kind describes.
 //
@@ -18,18 +15,15 @@ class MasterListScreen : public ListScreen
     Q_OBJECT
 
 public:
-    using MakeRecord = std::function<MasterRecordScreen *(ScreenContext &, QWidget *parent)>;
-    template <typename Record> static MakeRecord makes()
-    {
-        return [](ScreenContext &context, QWidget *parent) { return new Record(context, parent); };
-    }
+    template <typename Record> static RecordOpener::MakeRecord makes() { return RecordOpener::makes<Record>(); }
 
     void btnNewClick();
     void btnEditClick(); // a record whose screen is open comes to the front
     void btnDeleteClick();
 
 protected:
-    MasterListScreen(ScreenContext &context, const MasterKind &kind, MakeRecord makeRecord, QWidget *parent);
+    MasterListScreen(ScreenContext &context, const MasterKind &kind, RecordOpener::MakeRecord makeRecord,
+                     QWidget *parent);
 
     // Called once by the constructor of a screen. The description may be added to before the list is built from it.
     void buildList(const std::function<void(ListDescription &)> &add = {});
@@ -41,18 +35,14 @@ protected:
 
     MasterList &list() { return m_list; }
     void showStep() override; // read anew, on the first row
-    // A screen for a record that this list opens; it moves the list when it saves.
-    MasterRecordScreen *makeRecord();
 
 private:
     ListDescription description();
     QList<ListCommand> recordCommands();
     QList<ListCommand> viewCommands();
-    MasterRecordScreen *openScreenOf(int key) const;
 
     MasterList m_list;
-    MakeRecord m_makeRecord;
-    QList<QPointer<MasterRecordScreen>> m_records;
+    RecordOpener *m_records;
 };
 
 template <const MasterKind &(*kind)(), typename Record> class MasterListOf final : public MasterListScreen

@@ -5,6 +5,7 @@
 #include "master/masterkinds.h"
 #include "master/masterlistform.h"
 #include "master/masterrecordform.h"
+#include "master/vendorsform.h"
 #include "master/warehousesinvform.h"
 #include "ui_currencyinvform.h"
 #include "ui_taxinvform.h"
@@ -30,7 +31,7 @@ const QList<MasterScreen> &masterScreens()
     static const QList<MasterScreen> screens = {
         {MasterKinds::bank(), make<TfrmBanksInv>},         {MasterKinds::currency(), make<TfrmCurrenciesInv>},
         {MasterKinds::itemType(), make<TfrmItemTypesInv>}, {MasterKinds::location(), make<TfrmWarehousesInv>},
-        {MasterKinds::tax(), make<TfrmTaxesInv>},
+        {MasterKinds::tax(), make<TfrmTaxesInv>},          {MasterKinds::vendor(), make<TfrmVendors>},
     };
     return screens;
 }

@@ -2,6 +2,7 @@
 
 #include "engine/query.h"
 #include "frame/shared/formats.h"
+#include "frame/shared/ruleerror.h"
 #include "master/webpage.h"
 
 #include <QCoreApplication>
@@ -14,8 +15,33 @@ namespace {
 
 QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Vendors", text); }
 
+// An invoice is kept in the currency that its vendor had at the time.
+void refuseCurrencyChange(const Engine::Table &vendor, const Engine::Value &currency)
+{
+    if (vendor.state() == Engine::TableState::Insert || currency == vendor.oldValue(u"CurrencyID"))
+        return;
+    const QString invoices = u"SELECT COUNT(*) FROM APInv WHERE VendorID = ?"_s;
+    if (Engine::singleValue(vendor.database(), invoices, {vendor.value(u"VendorID")}).toInt64() > 0)
+        throw RuleError(tr("Currency cannot be changed... \nInvoice(s) already exist"), u"CurrencyID"_s);
+}
+
+void nameFields(Engine::Table &table)
+{
+    const std::pair<QString, QString> labels[] = {{u"DiscPC"_s, tr("Discount %")},
+                                                  {u"DiscDays"_s, tr("Discount days")},
+                                                  {u"NetDays"_s, tr("Net days")},
+                                                  {u"DelayDays"_s, tr("Default number of days to due date")}};
+    for (const auto &[field, label] : labels)
+        table.field(field).label = label;
+}
+
 void formatFields(Engine::Table &table)
 {
+    nameFields(table);
+    table.field(u"CurrencyID").validate = [&table](const Engine::Value &currency) {
+        refuseCurrencyChange(table, currency);
+    };
+    table.field(u"DiscPC").format = quantityFormat(RegionalSettings::system(), u"DiscPC"_s);
     table.field(u"Balance").format = currencyFormat();
     table.field(u"WebPage").format.parse = [](const QString &typed) {
         return typed.isEmpty() ? Engine::Value() : Engine::Value(webPageAsKept(typed));
@@ -74,6 +100,8 @@ MasterKind describe()
     kind.orders = {{u"VendorName1"_s, tr("&Name"), u"mnuSortName"_s},
                    {u"VendorNo"_s, tr("&Vendor no."), u"mnuSortVendorNo"_s}};
     kind.prints = true;
+    kind.filterField = u"CurrencyID"_s;
+    kind.notSuspended = u"(Suspended <> true)"_s;
     // Receipts keep naming a vendor that has gone.
     kind.ownedTables = {u"VBalance"_s, u"VContact"_s};
 
