@@ -41,6 +41,9 @@ public:
     // A whole number that tells the rows of a table without primary key apart: an expression over the row at hand.
     // It may change whenever the row is written.
     virtual QString rowIdentity() const = 0;
+    // The whole number that a text reads as: an optional sign and digits, with blanks around them. Null for any other
+    // text, and for a number of more than 18 digits.
+    virtual QString wholeNumberOf(const QString &text) const = 0;
     // Condition that the column equals one of the whole numbers of a text parameter such as "[1,2,3]".
     virtual QString inNumberList(const QString &column) const = 0;
 

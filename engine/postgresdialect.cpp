@@ -165,6 +165,12 @@ QString PostgresDialect::rowIdentity() const
            "CAST(split_part(trim('()' FROM CAST(ctid AS text)), ',', 2) AS bigint))"_s;
 }
 
+// A cast alone would fail for "12 eggs".
+QString PostgresDialect::wholeNumberOf(const QString &text) const
+{
+    return u"CASE WHEN %1 ~ '^ *[-+]?0*[0-9]{1,18} *$' THEN CAST(%1 AS bigint) END"_s.arg(text);
+}
+
 QString PostgresDialect::inNumberList(const QString &column) const
 {
     return column + " = ANY (CAST(translate(?, '[]', '{}') AS bigint[]))"_L1;

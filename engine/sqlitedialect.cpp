@@ -203,6 +203,13 @@ QString SqliteDialect::orderTerm(const QString &column, bool caseInsensitive, bo
 
 QString SqliteDialect::rowIdentity() const { return u"rowid"_s; }
 
+// A cast alone would read "12 eggs" as 12.
+QString SqliteDialect::wholeNumberOf(const QString &text) const
+{
+    return u"CASE WHEN trim(%1) GLOB '[-+0-9]*' AND substr(trim(%1), 2) NOT GLOB '*[^0-9]*' AND %1 GLOB '*[0-9]*' "
+           "AND length(ltrim(trim(%1), '-+0')) <= 18 THEN CAST(trim(%1) AS INTEGER) END"_s.arg(text);
+}
+
 QString SqliteDialect::inNumberList(const QString &column) const
 {
     return column + " IN (SELECT value FROM json_each(?))"_L1;

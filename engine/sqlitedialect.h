@@ -19,6 +19,7 @@ public:
     QString foldCase(const QString &column) const override;
     QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
     QString rowIdentity() const override;
+    QString wholeNumberOf(const QString &text) const override;
     QString inNumberList(const QString &column) const override;
     QString like(const QString &column) const override;
     QString likePattern(const QString &pattern) const override;
