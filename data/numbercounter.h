@@ -11,6 +11,9 @@
 
 namespace Tallymere {
 
+// Where keys that are counted begin.
+inline constexpr qint64 firstCountedKey = 10'000;
+
 // The row of a control table while numbers are taken from it. An empty counter reads as 0.
 class CounterRow
 {

@@ -1,0 +1,74 @@
+#include "master/hostsync.h"
+
+#include "engine/error.h"
+#include "engine/groupedwrites.h"
+#include "engine/namedparameters.h"
+#include "engine/textsize.h"
+
+#include <limits>
+#include <QCoreApplication>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+using Engine::EngineError;
+using Engine::ErrorCode;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("HostSync", text); }
+
+void requireKeys(const NewRows &rows)
+{
+    if (rows.firstKey + rows.count - 1 > std::numeric_limits<qint32>::max())
+        throw EngineError(ErrorCode::BadValue,
+                          tr("There are not enough numbers left for %1 new record(s).").arg(rows.count));
+}
+
+void addRow(const NewRows &rows, qint64 row, Engine::Statement &insert, Engine::Writes &writes)
+{
+    try {
+        rows.bind(insert, row);
+        writes.send(insert);
+    } catch (const EngineError &error) {
+        if (error.code() != ErrorCode::KeyViolation && error.code() != ErrorCode::BadValue)
+            throw;
+        throw EngineError(error.code(), u"%1: %2"_s.arg(rows.nameOf(row), error.text()), error.driverText());
+    }
+}
+
+} // namespace
+
+std::unique_ptr<Engine::Table> lockedTable(Engine::Database &database, const QString &table)
+{
+    auto locked = std::make_unique<Engine::Table>(database, table);
+    locked->open();
+    locked->lockTable();
+    return locked;
+}
+
+Engine::Value hostText(const Engine::Statement &row, int column, const Engine::TableLayout &layout,
+                       QStringView field)
+{
+    if (row.isNull(column))
+        return {};
+    return Engine::firstCharacters(row.textAt(column), layout.field(field)->size);
+}
+
+void addRows(Engine::Database &database, const NewRows &rows, Progress &progress)
+{
+    requireKeys(rows);
+    const Engine::BulkWriting room(database);
+    const Engine::StatementPtr insert = database.connection().prepare(Engine::positional(rows.statement).sql);
+    Engine::GroupedWrites writes(database);
+    progress.start(static_cast<int>(rows.count));
+    const auto finished = qScopeGuard([&progress] { progress.finish(); });
+    for (qint64 row = 0; row < rows.count; ++row) {
+        writes.apply([&rows, row, &insert](Engine::Writes &sink) { addRow(rows, row, *insert, sink); });
+        progress.step();
+    }
+    writes.finish();
+}
+
+} // namespace Tallymere

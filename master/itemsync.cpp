@@ -1,0 +1,140 @@
+#include "master/itemsync.h"
+
+#include "data/layouts.h"
+#include "engine/error.h"
+#include "engine/query.h"
+#include "frame/shared/ruleerror.h"
+#include "frame/shared/trace.h"
+#include "master/hoststatements.h"
+
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere::HostStatements;
+using Engine::EngineError;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr QStringView nextItemID = u"NextItemID";
+
+} // namespace
+
+struct ItemSync::HostItem
+{
+    qint64 id;
+    Engine::Value description;
+    Engine::Money price;
+    int type;
+};
+
+HostSyncResult ItemSync::run(Progress &progress)
+{
+    const auto locked = lockedTable(m_database, Layouts::item().name);
+    HostSyncResult result;
+    result.notUpdated = updateLinked(result.updated);
+
+    const std::vector<HostItem> items = readNewItems();
+    const auto count = static_cast<qint64>(items.size());
+    const Keys keys = reserveKeys(count);
+    NewRows rows;
+    rows.statement = queryInsertItem();
+    rows.firstKey = keys.first;
+    rows.count = count;
+    rows.bind = [&](Engine::Statement &insert, qint64 row) {
+        const HostItem &item = items[static_cast<size_t>(row)];
+        insert.bindInt(0, keys.first + row);
+        insert.bindText(1, QString::number(item.id));
+        insert.bind(2, item.description);
+        insert.bindDouble(3, item.price.toDouble());
+        insert.bindInt(4, item.type);
+    };
+    rows.nameOf = [&](qint64 row) {
+        const HostItem &item = items[static_cast<size_t>(row)];
+        return tr("Item %1 \"%2\"").arg(QString::number(item.id), item.description.toText());
+    };
+    addRows(m_database, rows, progress);
+    if (!keys.reserved)
+        raiseCounter(keys.first + count + 1);
+    result.added = count;
+    return result;
+}
+
+// Why it failed, if it did.
+QString ItemSync::updateLinked(qint64 &updated) const
+{
+    Engine::Connection &connection = m_database.connection();
+    try {
+        updated = connection.prepare(queryUpdateItemFromItems(connection.dialect()))->execute();
+    } catch (const EngineError &error) {
+        qCDebug(trace) << "Items keep their values:" << error.text() << error.driverText();
+        return error.text();
+    }
+    return {};
+}
+
+// Of several rows with one ID the first counts.
+std::vector<ItemSync::HostItem> ItemSync::readNewItems() const
+{
+    Engine::Connection &connection = m_database.connection();
+    const Engine::StatementPtr row = connection.prepare(queryGetItemsNotItem(connection.dialect()));
+    std::vector<HostItem> items;
+    while (row->next()) {
+        const qint64 id = row->intAt(0);
+        if (items.empty() || items.back().id != id)
+            items.push_back({id, hostText(*row, 1, Layouts::item(), u"ItemDescription"), priceAt(*row, 2, id),
+                             typeOfNewItem(row->textAt(3))});
+    }
+    return items;
+}
+
+Engine::Money ItemSync::priceAt(const Engine::Statement &row, int column, qint64 item)
+{
+    try {
+        return Engine::Money::fromDouble(row.isNull(column) ? 0 : row.doubleAt(column));
+    } catch (const std::range_error &) {
+        throw RuleError(tr("The price of the host's item %1 is too large.").arg(item));
+    }
+}
+
+ItemSync::Keys ItemSync::reserveKeys(qint64 count) const
+{
+    Keys keys;
+    keys.reserved = changeCounter([&](CounterRow &counters) {
+        counters.restartWhenZero(nextItemID, firstCountedKey);
+        keys.first = counters.value(nextItemID);
+        counters.set(nextItemID, keys.first + count + 1);
+    });
+    if (!keys.reserved)
+        keys.first = firstUnusedKey();
+    return keys;
+}
+
+qint64 ItemSync::firstUnusedKey() const
+{
+    const qint64 counted = Engine::singleValue(m_database, u"SELECT max(NextItemID) FROM ItemCtl"_s).toInt64();
+    const qint64 highest = Engine::singleValue(m_database, u"SELECT max(ItemID) FROM Item"_s).toInt64();
+    return std::max(counted == 0 ? firstCountedKey : counted, highest + 1);
+}
+
+void ItemSync::raiseCounter(qint64 next) const
+{
+    changeCounter([next](CounterRow &counters) {
+        if (counters.value(nextItemID) < next)
+            counters.set(nextItemID, next);
+    });
+}
+
+bool ItemSync::changeCounter(const CounterRule &rule) const
+{
+    try {
+        takeNumbers(m_database, Layouts::itemCtl().name, rule);
+        return true;
+    } catch (const EngineError &error) {
+        qCDebug(trace) << "The item counter stays as it is:" << error.text() << error.driverText();
+        return false;
+    }
+}
+
+} // namespace Tallymere
