@@ -1,4 +1,5 @@
-#include "tests/transactions/otheruser.h"
+#include "tests/support/otheruser.h"
+#include "tests/transactions/kitchen.h"
 #include "transactions/receiptposting.h"
 
 #include <gtest/gtest.h>

@@ -1,37 +1,13 @@
-#include "tests/transactions/otheruser.h"
-
-#include "transactions/receiptentry.h"
-#include "transactions/receiptposting.h"
+#include "tests/support/otheruser.h"
 
 #include <cstdio>
+#include <gtest/gtest.h>
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
-using namespace Tallymere;
 
 namespace {
-
 constexpr int Patience = 120'000; // milliseconds
-
-void takeNumbers(Engine::Database &database, int count)
-{
-    SpokenPrompts prompts;
-    ReceiptEntry entry(database, prompts);
-    entry.open();
-    for (int i = 0; i < count; ++i) {
-        entry.newDocument();
-        std::printf("%d %s\n", entry.key(), qPrintable(entry.header().text(u"ReceiptNo")));
-        entry.cancel();
-    }
-}
-
-void post(Engine::Database &database)
-{
-    SpokenPrompts prompts;
-    CountedProgress progress;
-    ReceiptPosting(database).run(prompts, progress);
-}
-
 } // namespace
 
 OtherUser::OtherUser(const TestStore &store, const QStringList &task)
@@ -60,16 +36,13 @@ QStringList OtherUser::output()
     return QString::fromUtf8(m_process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
 }
 
-int playOtherUser(const QStringList &arguments)
+int playOtherUser(const QStringList &arguments, const OtherUserTasks &tasks)
 {
     if (arguments.value(1) != "--other-user"_L1)
         return -1;
     TestUser user(arguments.mid(2));
     try {
-        if (arguments.value(4) == "post"_L1)
-            post(user.database);
-        else
-            takeNumbers(user.database, arguments.value(5).toInt());
+        tasks.value(arguments.value(4))(user.database, arguments.mid(5));
     } catch (const std::exception &error) {
         std::fprintf(stderr, "other user: %s\n", error.what());
         return 1;

@@ -1,0 +1,35 @@
+#include "master/masterkinds.h"
+#include "master/masterrecord.h"
+#include "tests/support/otheruser.h"
+
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// Begins and drops items, printing their keys and numbers.
+void numberItems(Engine::Database &database, const QStringList &count)
+{
+    MasterRecord item(database, MasterKinds::item());
+    item.open();
+    for (int i = 0; i < count.value(0).toInt(); ++i) {
+        item.newRecord();
+        std::printf("%d %s\n", item.key(), qPrintable(item.table().text(u"ItemNo")));
+        item.cancel();
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (const int status = playOtherUser(QCoreApplication::arguments(), {{u"number"_s, numberItems}}); status >= 0)
+        return status;
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,207 @@
+#include "master/masterlist.h"
+
+#include "host/tables/hosttables.h"
+#include "master/masterkinds.h"
+#include "master/masterrecord.h"
+#include "tests/support/failures.h"
+#include "tests/transactions/kitchen.h"
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::ErrorCode;
+
+namespace {
+
+// A record of each kind that nothing refers to, and what messages call it.
+struct Known
+{
+    const MasterKind &kind;
+    int key;
+    QString name;
+    QString nameField;
+};
+
+const QList<Known> &known()
+{
+    static const QList<Known> records = {
+        {MasterKinds::item(), 2, u"A11: Bread"_s, u"ItemDescription"_s},
+        {MasterKinds::itemType(), 7, u"Dry"_s, u"TypeName"_s},
+        {MasterKinds::location(), 1, u"Office"_s, u"WarehouseName"_s},
+        {MasterKinds::vendor(), 1, u"V1: First"_s, u"VendorName"_s},
+        {MasterKinds::vendorContact(), 9, u"Ann Miller"_s, u"LastName"_s},
+        {MasterKinds::tax(), 7, u"VAT"_s, u"TaxName"_s},
+        {MasterKinds::currency(), 4, u"Old"_s, u"CurrencyName"_s},
+        {MasterKinds::bank(), 7, u"First Bank"_s, u"BankName"_s},
+    };
+    return records;
+}
+
+class Lists : public testing::TestWithParam<Store>
+{
+protected:
+    Lists()
+    {
+        HostTables::createHostTables(database, u"Test Kitchen"_s, u"USA"_s);
+        kitchen.execute(uR"(
+            INSERT INTO Tax (TaxID, TaxName, TaxCode, TaxDescription, Rate) VALUES (7, 'VAT', 'V', 'Value', 20);
+            INSERT INTO Bank (BankID, BankName, CurrencyID) VALUES (7, 'First Bank', 3);
+            INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (7, 'Dry');
+            INSERT INTO Currency (CurrencyID, CurrencyName) VALUES (4, 'Old');
+            INSERT INTO VContact (VendorID, ContactID, FirstName, LastName) VALUES (2, 9, 'Ann', 'Miller');
+        )"_s);
+        kitchen.session().lockAttempts = 1;
+    }
+    // What the user is told of a failure, without who the other one is.
+    static QString toldOf(const std::function<void()> &call)
+    {
+        QString text;
+        if (!errorOf(call, &text))
+            return refusalOf(call);
+        const qsizetype other = text.indexOf(" (anna"_L1);
+        return other < 0 ? text : text.first(other) + text.sliced(text.lastIndexOf(u')') + 1);
+    }
+
+    Kitchen kitchen{GetParam()};
+    Engine::Database &database = kitchen.database();
+    SpokenPrompts prompts;
+};
+ON_BOTH_STORES(Lists);
+
+} // namespace
+
+TEST_P(Lists, RefuseToDeleteWhatIsReferredTo)
+{
+    struct
+    {
+        const MasterKind &kind;
+        int key;
+        QString opening;
+        // What refers to the record, the reason that is given first standing last.
+        QList<std::pair<QString, QString>> referrals;
+    } const cases[] = {
+        {MasterKinds::itemType(),
+         7,
+         u"Unable to delete 'Dry'...\n"_s,
+         {{u"UPDATE Item SET ItemTypeID = 7 WHERE ItemID = 3"_s, u"Item(s) exist for this item type"_s}}},
+        {MasterKinds::location(),
+         2,
+         u"Unable to delete 'Freezer'...\n"_s,
+         {{u"INSERT INTO IAdjust (AdjustmentID, WarehouseID) VALUES (1, 2)"_s,
+           u"Adjustments exist for this location"_s},
+          {u"INSERT INTO IReceipt (ReceiptID, WarehouseID) VALUES (1, 2)"_s, u"Receipts exist for this location"_s},
+          {u"INSERT INTO IHist (IHistID, WarehouseID) VALUES (1, 2)"_s, u"History exists for this location"_s}}},
+        {MasterKinds::tax(),
+         7,
+         u"Unable to delete tax 'VAT'...\n"_s,
+         {{u"INSERT INTO ARInv (InvoiceID, Tax2ID) VALUES (1, 7)"_s, u"Invoice(s) exist for this tax"_s},
+          {u"INSERT INTO ARInv (InvoiceID, Tax1ID) VALUES (2, 7)"_s, u"Invoice(s) exist for this tax"_s},
+          {u"INSERT INTO Customer (CustomerID, Tax2ID) VALUES (1, 7)"_s, u"Customer(s) exist for this tax"_s},
+          {u"INSERT INTO Customer (CustomerID, Tax1ID) VALUES (2, 7)"_s, u"Customer(s) exist for this tax"_s}}},
+        {MasterKinds::currency(),
+         4,
+         u"Unable to delete 'Old'...\n"_s,
+         {{u"INSERT INTO Customer (CustomerID, CurrencyID) VALUES (3, 4)"_s,
+           u"Customer(s) exist for this currency"_s},
+          {u"INSERT INTO Vendor (VendorID, CurrencyID) VALUES (9, 4)"_s, u"Vendor(s) exist for this currency"_s},
+          {u"INSERT INTO Bank (BankID, CurrencyID) VALUES (9, 4)"_s, u"Bank(s) exist for this currency"_s}}},
+        {MasterKinds::bank(),
+         7,
+         u"Unable to delete 'First Bank'...\n"_s,
+         {{u"INSERT INTO ARPmt (PaymentID, BankID) VALUES (1, 7)"_s, u"AR payment(s) exist for this bank"_s},
+          {u"INSERT INTO APCheq (ChequeID, BankID) VALUES (1, 7)"_s, u"AP cheque(s) exist for this bank"_s}}},
+    };
+    for (const auto &one : cases) {
+        MasterList list(database, one.kind);
+        list.open();
+        for (const auto &[referral, reason] : one.referrals) {
+            kitchen.execute(referral);
+            ASSERT_TRUE(list.moveTo(one.key));
+            EXPECT_EQ(refusalOf([&] { list.remove(prompts); }), one.opening + reason + u" -> "_s);
+        }
+        EXPECT_EQ(list.currentKey(), one.key) << "still there";
+    }
+}
+
+TEST_P(Lists, DeleteAfterAskingWithAllThatBelongsToTheRecord)
+{
+    kitchen.execute(uR"(
+        INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (1, 1, 5), (2, 1, 5), (1, 2, 9);
+        INSERT INTO VBalance (VendorID, Balance) VALUES (1, 5), (2, 9);
+        INSERT INTO VContact (VendorID, ContactID, FirstName) VALUES (1, 7, 'Mary'), (1, 8, 'Otto');
+        INSERT INTO IReceipt (ReceiptID, VendorID) VALUES (1, 1);
+        INSERT INTO IUsageDet (UsageID, Seq, ItemID) VALUES (1, 1, 2);
+    )"_s);
+    for (const Known &record : known()) {
+        MasterList list(database, record.kind);
+        list.open();
+        ASSERT_TRUE(list.moveTo(record.key)) << record.name.toStdString();
+        prompts.ok = false;
+        EXPECT_EQ(refusalOf([&] { list.remove(prompts); }), u"silent -> ");
+        EXPECT_EQ(prompts.take(), QStringList(u"Confirm: Delete '"_s + record.name + u"'?"_s));
+        EXPECT_EQ(list.currentKey(), record.key);
+        prompts.ok = true;
+        list.remove(prompts);
+        EXPECT_FALSE(list.moveTo(record.key));
+        prompts.said.clear();
+        if (record.kind.name == "vendors"_L1) {
+            EXPECT_EQ(kitchen.rows(u"SELECT ContactID FROM VContact"_s), QStringList{u"9"_s});
+        }
+    }
+    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, WarehouseID FROM IBalance"_s), QStringList{u"1|2"_s});
+    EXPECT_EQ(kitchen.rows(u"SELECT VendorID FROM VBalance"_s), QStringList{u"2"_s});
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt"_s), 1);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IUsageDet"_s), 1);
+
+    MasterList empty(database, MasterKinds::bank());
+    empty.open();
+    empty.remove(prompts);
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_P(Lists, KeepWhatBelongsToTheSystem)
+{
+    kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (6, 'Other')"_s);
+    MasterList types(database, MasterKinds::itemType());
+    types.open();
+    ASSERT_TRUE(types.moveTo(6));
+    EXPECT_EQ(refusalOf([&] { types.remove(prompts); }), u"silent -> ");
+    EXPECT_EQ(prompts.said, QStringList{u"warn: System-defined Item Types can't be deleted!"_s});
+    EXPECT_TRUE(types.moveTo(6));
+}
+
+TEST_P(Lists, LetOnlyOneUserChangeARecord)
+{
+    const auto anna = kitchen.anotherUser();
+    for (const Known &record : known()) {
+        MasterRecord theirs(anna->database, record.kind);
+        MasterRecord mine(database, record.kind);
+        MasterList list(database, record.kind);
+        theirs.open();
+        mine.open();
+        list.open();
+        ASSERT_TRUE(theirs.openRecord(record.key) && mine.openRecord(record.key) && list.moveTo(record.key));
+
+        theirs.table().edit();
+        const QString busy = u'\'' + record.name + u"' is being edited by another user. Try again in a moment."_s;
+        EXPECT_EQ(toldOf([&] { mine.table().edit(); }), busy);
+        EXPECT_EQ(toldOf([&] { list.remove(prompts); }), busy);
+        EXPECT_TRUE(list.moveTo(record.key));
+
+        theirs.table().set(record.nameField, u"Theirs"_s);
+        theirs.save();
+        mine.table().edit();
+        EXPECT_EQ(mine.table().text(record.nameField), u"Theirs") << "as it is now";
+        mine.cancel();
+
+        MasterList other(anna->database, record.kind);
+        other.open();
+        ASSERT_TRUE(other.moveTo(record.key));
+        SpokenPrompts yes;
+        other.remove(yes);
+        const QString name = record.kind.recordName(mine.table());
+        const QString gone = u'\'' + name + u"' was deleted by another user."_s;
+        EXPECT_EQ(toldOf([&] { mine.table().edit(); }), gone);
+        list.table().refresh();
+        EXPECT_FALSE(list.moveTo(record.key));
+    }
+}

@@ -1,0 +1,323 @@
+#include "master/masterrecord.h"
+
+#include "host/tables/hosttables.h"
+#include "master/masterkinds.h"
+#include "master/masterlist.h"
+#include "master/recordnumber.h"
+#include "tests/support/failures.h"
+#include "tests/support/otheruser.h"
+#include "tests/transactions/kitchen.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::Value;
+
+namespace {
+
+// What a record of a kind needs, in the order in which it is asked for, and what is said then.
+struct Need
+{
+    QString field;
+    Value value;
+    QString refusal;
+};
+
+QList<Need> needs(const MasterKind &kind)
+{
+    static const QHash<QString, QList<Need>> all = {
+        {u"items"_s,
+         {{u"ItemNo"_s, u"N1"_s, u"Field 'Item no.' must have a value"_s},
+          {u"ItemDescription"_s, u"Flour"_s, u"Field 'Description' must have a value"_s},
+          {u"ItemTypeID"_s, 2, u"Field 'Item Type' must have a value"_s}}},
+        {u"types"_s, {{u"TypeName"_s, u"Dry"_s, u"Field 'Type Name' must have a value"_s}}},
+        {u"locations"_s, {{u"WarehouseName"_s, u"Cellar"_s, u"Field 'Location Name' must have a value"_s}}},
+        {u"vendors"_s,
+         {{u"VendorNo"_s, u"N1"_s, u"Field 'Vendor no.' must have a value"_s},
+          {u"VendorName"_s, u"Mill"_s, u"Field 'Vendor Name' must have a value"_s},
+          {u"CurrencyID"_s, 2, u"Field 'Currency' must have a value"_s}}},
+        {u"contacts"_s,
+         {{u"VendorID"_s, 1, u"Field 'Vendor' must have a value"_s},
+          {u"FirstName"_s, u"Mary"_s, u"Field 'Contact Name' must have a value"_s}}},
+        {u"taxes"_s,
+         {{u"TaxName"_s, u"VAT"_s, u"Field 'Tax Name' must have a value"_s},
+          {u"TaxCode"_s, u"V"_s, u"Field 'Code' must have a value"_s},
+          {u"TaxDescription"_s, u"Value"_s, u"Field 'Description' must have a value"_s},
+          {u"Rate"_s, 0.5, u"Field 'Rate' must have a value"_s}}},
+        {u"currencies"_s, {{u"CurrencyName"_s, u"Euro"_s, u"Field 'Currency Name' must have a value"_s}}},
+        {u"banks"_s,
+         {{u"BankName"_s, u"First Bank"_s, u"Field 'Bank Name' must have a value"_s},
+          {u"CurrencyID"_s, 2, u"Field 'Currency' must have a value"_s}}},
+    };
+    return all.value(kind.name);
+}
+
+class Records : public testing::TestWithParam<Store>
+{
+protected:
+    Records() { HostTables::createHostTables(database, u"Test Kitchen"_s, u"USA"_s); }
+
+    // A new record that lacks nothing.
+    static void fill(MasterRecord &record)
+    {
+        record.newRecord();
+        for (const Need &need : needs(record.kind()))
+            record.table().set(need.field, need.value);
+    }
+    static QString refusal(MasterRecord &record)
+    {
+        return refusalOf([&] { record.save(); });
+    }
+    static QStringList filledFields(const Engine::Table &table)
+    {
+        QStringList fields;
+        for (int i = 0; i < table.fieldCount(); ++i) {
+            if (!table.value(i).toText().isEmpty())
+                fields << table.field(i).name + u'=' + table.value(i).toText();
+        }
+        return fields;
+    }
+    QString counters() { return kitchen.rows(u"SELECT NextItemNo, NextItemID FROM ItemCtl"_s).value(0); }
+
+    Kitchen kitchen{GetParam()};
+    Engine::Database &database = kitchen.database();
+};
+ON_BOTH_STORES(Records);
+
+} // namespace
+
+TEST_P(Records, AskForWhatIsMissingOneAfterTheOther)
+{
+    for (const MasterKind *kind : MasterKinds::all()) {
+        MasterRecord record(database, *kind);
+        record.open();
+        fill(record);
+        for (const Need &need : needs(*kind))
+            record.table().set(need.field, Value());
+        for (const Need &need : needs(*kind)) {
+            EXPECT_EQ(refusal(record), need.refusal + u" -> "_s + need.field);
+            EXPECT_TRUE(record.isNew()) << "still to be mended";
+            record.table().set(need.field, need.value);
+        }
+        record.save();
+        EXPECT_TRUE(record.openRecord(record.key()));
+        for (const Need &need : needs(*kind))
+            EXPECT_EQ(record.table().value(need.field), need.value) << need.field.toStdString();
+    }
+}
+
+TEST_P(Records, TellWhatElseIsWrong)
+{
+    MasterRecord item(database, MasterKinds::item());
+    item.open();
+    fill(item);
+    item.table().set(u"TaxCodes", u"P1"_s);
+    EXPECT_EQ(refusal(item), u"Tax Codes must be letters, one for each tax -> TaxCodes");
+    item.table().set(u"TaxCodes", u"PÉg"_s);
+    item.table().set(u"ItemNo", u"A11"_s);
+    EXPECT_EQ(refusal(item), u"Item no. already exists -> ItemNo");
+    item.table().set(u"ItemNo", u"a11"_s); // another number
+    kitchen.execute(u"DELETE FROM ItemType WHERE ItemTypeID = 2"_s);
+    EXPECT_EQ(refusal(item), u"Item Type no longer exists -> ItemTypeID");
+    item.table().set(u"ItemTypeID", 1);
+    EXPECT_EQ(refusal(item), QString());
+    item.table().edit();
+    item.table().set(u"ItemDescription", u"Rye"_s);
+    EXPECT_EQ(refusal(item), QString()) << "its own number is not taken";
+
+    kitchen.execute(u"DELETE FROM Currency WHERE CurrencyID = 2"_s);
+    for (const MasterKind *kind : {&MasterKinds::bank(), &MasterKinds::vendor()}) {
+        MasterRecord record(database, *kind);
+        record.open();
+        fill(record);
+        EXPECT_EQ(refusal(record), u"Currency no longer exists -> CurrencyID");
+    }
+    MasterRecord tax(database, MasterKinds::tax());
+    tax.open();
+    fill(tax);
+    tax.table().set(u"Rate", 0.0);
+    EXPECT_EQ(refusal(tax), u"Field 'Rate' must have a value -> Rate");
+}
+
+TEST_P(Records, BeginWithTheirDefaults)
+{
+    const QHash<QString, QStringList> expected = {
+        {u"items"_s, {u"ItemID=10000"_s, u"ItemNo=1001"_s, u"Suspended=false"_s}},
+        {u"types"_s, {u"Inventory=false"_s, u"CostingMethod=1"_s}},
+        {u"vendors"_s, {u"VendorID=10000"_s, u"VendorNo=1001"_s, u"CurrencyID=3"_s, u"Suspended=false"_s}},
+    };
+    kitchen.execute(u"UPDATE Company SET DefaultCurrencyID = 3"_s);
+    for (const MasterKind *kind : MasterKinds::all()) {
+        MasterRecord record(database, *kind);
+        record.open();
+        record.newRecord();
+        EXPECT_EQ(filledFields(record.table()), expected.value(kind->name)) << kind->name.toStdString();
+        EXPECT_FALSE(record.table().isModified());
+        EXPECT_EQ(record.caption(), kind->newCaption);
+    }
+}
+
+TEST_P(Records, AreCountedOnFromTheHighestKey)
+{
+    kitchen.execute(u"DELETE FROM Warehse; DELETE FROM ItemType; INSERT INTO ItemType (ItemTypeID, TypeName) "
+                    "VALUES (6, 'Other'), (2, 'Lunch')"_s);
+    const std::pair<const MasterKind &, int> cases[] = {
+        {MasterKinds::location(), 1}, {MasterKinds::itemType(), 7}, {MasterKinds::currency(), 4}};
+    for (const auto &[kind, key] : cases) {
+        MasterRecord first(database, kind);
+        MasterRecord second(database, kind);
+        for (MasterRecord *record : {&first, &second}) {
+            record->open();
+            fill(*record);
+        }
+        second.save();
+        first.save();
+        EXPECT_EQ(second.key(), key) << "found when it is written";
+        EXPECT_EQ(first.key(), key + 1);
+    }
+}
+
+TEST_P(Records, UseNumbersUp)
+{
+    struct
+    {
+        QString before; // number and key in the counters
+        QString number;
+        int key;
+        QString after;
+    } const cases[] = {
+        {{}, u"1001"_s, 10'000, u"1002|10001"_s},
+        {u"1000, 1"_s, u"1001"_s, 1, u"1002|2"_s},
+        {u"10000000, 5"_s, u"10000000"_s, 5, u"10000001|6"_s},
+        {u"10000001, NULL"_s, u"1001"_s, 10'000, u"1002|10001"_s},
+        {u"NULL, -7"_s, u"1001"_s, -7, u"1002|-6"_s},
+    };
+    MasterRecord item(database, MasterKinds::item());
+    item.open();
+    for (const auto &one : cases) {
+        kitchen.execute(u"DELETE FROM ItemCtl"_s);
+        if (!one.before.isEmpty())
+            kitchen.execute(u"INSERT INTO ItemCtl (NextItemNo, NextItemID) VALUES (%1)"_s.arg(one.before));
+        item.newRecord();
+        EXPECT_EQ(item.table().text(u"ItemNo"), one.number);
+        EXPECT_EQ(item.key(), one.key);
+        item.cancel();
+        EXPECT_EQ(counters(), one.after) << "also when the record is dropped";
+    }
+    item.newRecord(u"77"_s);
+    EXPECT_EQ(item.table().text(u"ItemNo"), u"77");
+    EXPECT_EQ(counters(), u"1002|-5");
+}
+
+TEST_P(Records, DoWithoutCountersUntilTheyAreSaved)
+{
+    const auto anna = kitchen.anotherUser();
+    Engine::Table held(anna->database, u"ItemCtl"_s);
+    held.exclusive = true;
+    held.open();
+    int pauses = 0;
+    kitchen.session().waitFor = [&](std::chrono::milliseconds) { ++pauses; };
+
+    MasterRecord item(database, MasterKinds::item());
+    item.open();
+    item.newRecord();
+    EXPECT_EQ(pauses, 149);
+    EXPECT_EQ(filledFields(item.table()), QStringList{u"Suspended=false"_s});
+    EXPECT_EQ(refusal(item), u"Field 'Item no.' must have a value -> ItemNo");
+    item.table().set(u"ItemNo", u"77"_s);
+    item.table().set(u"ItemDescription", u"Flour"_s);
+    item.table().set(u"ItemTypeID", 1);
+    QString text;
+    EXPECT_EQ(errorOf([&] { item.save(); }, &text), Engine::ErrorCode::TableInUse);
+    EXPECT_TRUE(text.contains(u"ItemCtl"_s)) << text.toStdString();
+    EXPECT_EQ(item.table().text(u"ItemDescription"), u"Flour") << "nothing typed is lost";
+    held.close();
+    item.save();
+    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, ItemNo FROM Item WHERE ItemNo = '77'"_s), QStringList{u"10000|77"_s});
+}
+
+TEST_P(Records, OfUsersAtTheSameTimeNeverGetTheSameNumber)
+{
+    constexpr int each = 60;
+    const QStringList task{u"number"_s, QString::number(each)};
+    OtherUser users[] = {{kitchen, task}, {kitchen, task}, {kitchen, task}};
+    QSet<QString> keys;
+    QSet<QString> numbers;
+    for (OtherUser &user : users) {
+        ASSERT_TRUE(user.finish());
+        for (const QString &line : user.output()) {
+            keys << line.section(u' ', 0, 0);
+            numbers << line.section(u' ', 1);
+        }
+    }
+    EXPECT_EQ(keys.size(), 3 * each);
+    EXPECT_EQ(numbers.size(), 3 * each);
+    EXPECT_FALSE(numbers.contains(QString()));
+    EXPECT_EQ(counters(), u"%1|%2"_s.arg(1001 + 3 * each).arg(10'000 + 3 * each));
+}
+
+TEST_P(Records, AreCopiedWithoutWhatIsTheirOwn)
+{
+    kitchen.execute(u"UPDATE Item SET TaxCodes = 'PG', UnitPrice = 2.5, WgtAvgCost = 1.5, StandardCost = 1.25, "
+                    "Notes = 'Keep\ncool', SalesGLAccountID = 7 WHERE ItemID = 4"_s);
+    MasterList list(database, MasterKinds::item());
+    list.open();
+    list.moveTo(4);
+    MasterRecord copy(database, MasterKinds::item());
+    copy.open();
+    copy.newCopy(list.table());
+    EXPECT_EQ(filledFields(copy.table()),
+              (QStringList{u"ItemID=10000"_s, u"ItemNo=1001"_s, u"ItemDescription=Yeast"_s, u"TaxCodes=PG"_s,
+                           u"UnitPrice=2.5"_s, u"Suspended=false"_s, u"Notes=Keep\ncool"_s, u"ItemTypeID=2"_s}));
+    EXPECT_EQ(copy.caption(), u"New (copied) Item");
+    EXPECT_FALSE(copy.table().isModified());
+    copy.table().set(u"TaxCodes", u"P"_s);
+    EXPECT_EQ(copy.caption(), u"Yeast");
+    copy.save();
+    EXPECT_EQ(kitchen.rows(u"SELECT ItemNo, UnitPrice FROM Item WHERE ItemDescription = 'Yeast' ORDER BY ItemID"_s),
+              (QStringList{u"X9|2.5"_s, u"1001|2.5"_s}));
+}
+
+// Names are kept, found and told as they were typed.
+TEST_P(Records, KeepNamesAsTyped)
+{
+    const QString names[] = {u"O'Neil's \"50%\""_s, u"[_]; -- DROP"_s, u"Crème brûlée 🍮 ß"_s, u"\\ %1 {&x} ?"_s};
+    kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (6, 'The last of the system')"_s);
+    for (const MasterKind *kind : MasterKinds::all()) {
+        const bool hasFullName = kind->nameFields.constLast() == "FullName"_L1;
+        const QString nameField = hasFullName ? u"FirstName"_s : kind->nameFields.constLast();
+        MasterRecord record(database, *kind);
+        MasterList list(database, *kind);
+        record.open();
+        list.open();
+        for (const QString &name : names) {
+            const QString number = name.first(9);
+            fill(record);
+            record.table().set(nameField, name);
+            if (!kind->numberField.isEmpty())
+                record.table().set(kind->numberField, number);
+            record.save();
+            list.table().refresh();
+            ASSERT_TRUE(list.table().locate(nameField, {name})) << name.toStdString();
+            EXPECT_EQ(list.currentKey(), record.key());
+            EXPECT_EQ(list.table().text(nameField), name);
+            EXPECT_TRUE(list.table().locate(nameField, {name.first(5)}, Engine::LocateOption::PartialKey));
+            EXPECT_EQ(list.currentKey(), record.key());
+            QString quoted = name;
+            list.table().setFilter(u"(%1 = '%2')"_s.arg(nameField, quoted.replace(u'\'', "''"_L1)));
+            list.table().setFiltered(true);
+            EXPECT_EQ(list.table().recordCount(), 1) << list.table().filter().toStdString();
+            list.table().setFiltered(false);
+            if (!kind->numberField.isEmpty()) {
+                EXPECT_EQ(keyByNumber(database, *kind, number), record.key());
+            }
+
+            list.moveTo(record.key());
+            SpokenPrompts prompts;
+            list.remove(prompts);
+            const QString spoken = kind->numberField.isEmpty() ? name : number + u": "_s + name;
+            EXPECT_EQ(prompts.said, QStringList(u"Confirm: Delete '"_s + spoken + u"'?"_s));
+        }
+    }
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "tests/support/teststore.h"
+
+#include <functional>
+#include <QHash>
+#include <QProcess>
+
+// The test program itself in the part of another user: a process of its own on the test's database. The task is the
+// name of one of the program's tasks and its arguments.
+class OtherUser
+{
+public:
+    OtherUser(const TestStore &store, const QStringList &task);
+    ~OtherUser();
+
+    void kill(); // at once, as kill -9 does
+    bool finish(); // waits for a good end
+    QStringList output(); // lines, after finish()
+
+private:
+    QProcess m_process;
+};
+
+using OtherUserTasks = QHash<QString, std::function<void(Engine::Database &, const QStringList &arguments)>>;
+
+// Plays the part when the program was started by OtherUser; the exit status, or -1 when it was not.
+int playOtherUser(const QStringList &arguments, const OtherUserTasks &tasks);
