@@ -58,6 +58,8 @@ Engine::Value hostText(const Engine::Statement &row, int column, const Engine::T
 
 void addRows(Engine::Database &database, const NewRows &rows, Progress &progress)
 {
+    if (rows.count == 0)
+        return;
     requireKeys(rows);
     const Engine::BulkWriting room(database);
     const Engine::StatementPtr insert = database.connection().prepare(Engine::positional(rows.statement).sql);

@@ -1,3 +1,4 @@
+#include "tests/support/brokentable.h"
 #include "tests/support/failures.h"
 #include "tests/transactions/kitchen.h"
 #include "transactions/receiptposting.h"
@@ -24,26 +25,6 @@ protected:
                 lines.append({1, static_cast<double>(1 << ((id - 1) * 3 + i)), 1.00});
             kitchen.addReceipt(id, 1, 1, lines);
         }
-    }
-
-    // The store raises an error before the write for which the condition over NEW holds.
-    void failOn(const QString &event, const QString &table, const QString &condition)
-    {
-        if (GetParam() == Store::Local)
-            kitchen.execute(u"CREATE TRIGGER broken BEFORE %1 ON %2 WHEN %3 BEGIN SELECT RAISE(ABORT, 'no luck'); "
-                            "END"_s.arg(event, table, condition));
-        else
-            kitchen.execute(u"CREATE FUNCTION fail() RETURNS trigger LANGUAGE plpgsql AS "
-                            "$$ BEGIN RAISE EXCEPTION 'no luck'; END $$; "
-                            "CREATE TRIGGER broken BEFORE %1 ON %2 FOR EACH ROW WHEN (%3) "
-                            "EXECUTE FUNCTION fail()"_s.arg(event, table, condition));
-    }
-    void mend(const QString &table)
-    {
-        if (GetParam() == Store::Local)
-            kitchen.execute(u"DROP TRIGGER broken"_s);
-        else
-            kitchen.execute(u"DROP TRIGGER broken ON %1; DROP FUNCTION fail"_s.arg(table));
     }
 
     void post()
@@ -83,7 +64,7 @@ TEST_P(FailingPosting, KeepsWhatWasWrittenBeforeTheFailingStatement)
     for (const FailureCase &c : cases) {
         SCOPED_TRACE(c.name);
         kitchen.execute(u"DELETE FROM IBalance; DELETE FROM IHist; UPDATE IReceipt SET Posted = false"_s);
-        failOn(c.event, c.table, c.condition);
+        const BrokenTable broken(kitchen, c.event, c.table, c.condition);
 
         EXPECT_THROW(post(), EngineError);
 
@@ -92,15 +73,15 @@ TEST_P(FailingPosting, KeepsWhatWasWrittenBeforeTheFailingStatement)
         EXPECT_EQ(kitchen.onHand(1, 1), c.onHand);
         EXPECT_FALSE(kitchen.database().connection().inTransaction());
         kitchen.expectNoLocks();
-        mend(c.table);
     }
 }
 
 TEST_P(FailingPosting, ASecondRunPostsTheRest)
 {
-    failOn(u"INSERT"_s, u"IHist"_s, u"NEW.Quantity = 16"_s);
-    EXPECT_THROW(post(), EngineError);
-    mend(u"IHist"_s);
+    {
+        const BrokenTable broken(kitchen, u"INSERT"_s, u"IHist"_s, u"NEW.Quantity = 16"_s);
+        EXPECT_THROW(post(), EngineError);
+    }
 
     post();
 

@@ -1,0 +1,273 @@
+#include "master/itemsync.h"
+
+#include "engine/table.h"
+#include "tests/master/hostkitchen.h"
+#include "tests/support/brokentable.h"
+#include "tests/support/failures.h"
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::ErrorCode;
+
+namespace {
+
+// Does something before the first row and counts the others.
+class InterruptedProgress final : public Progress
+{
+public:
+    std::function<void()> onStart;
+
+    void start(int) override { onStart(); }
+    void step() override { }
+    void finish() override { }
+};
+
+class ItemSyncTest : public testing::TestWithParam<Store>
+{
+protected:
+    ItemSyncTest()
+    {
+        kitchen.session().waitFor = [](std::chrono::milliseconds) {};
+        kitchen.execute(u"DELETE FROM Item; INSERT INTO ItemCtl (NextItemNo, NextItemID) VALUES (1001, 10)"_s);
+    }
+    HostSyncResult run()
+    {
+        CountedProgress progress;
+        return ItemSync(kitchen.database()).run(progress);
+    }
+    void addHostItem(int id, const QString &name, const QString &price = u"1"_s, const QString &meal = u"'B'"_s)
+    {
+        kitchen.execute(
+            u"INSERT INTO Items (Item_ID, Meal_Item, Billed_Amount, Meal) VALUES (%1, %2, %3, %4)"_s.arg(
+                QString::number(id), name, price, meal));
+    }
+    void addItem(int key, const QString &number)
+    {
+        kitchen.execute(u"INSERT INTO Item (ItemID, ItemNo, ItemDescription, UnitPrice, ItemTypeID, Suspended) "
+                        "VALUES (%1, '%2', 'old', 5, 9, true)"_s.arg(key)
+                            .arg(number));
+    }
+    QString keysAndNumbers() { return kitchen.rows(u"SELECT ItemID, ItemNo FROM Item ORDER BY 1"_s).join(u' '); }
+    QString nextItemID() { return kitchen.text(u"SELECT NextItemID FROM ItemCtl"_s); }
+    QString of(const QString &field, int key)
+    {
+        return kitchen.text(u"SELECT %1 FROM Item WHERE ItemID = %2"_s.arg(field).arg(key));
+    }
+
+    HostKitchen kitchen{GetParam()};
+};
+ON_BOTH_STORES(ItemSyncTest);
+
+TEST_P(ItemSyncTest, NewItemsTakeReservedKeysAndLeaveOneUnused)
+{
+    for (const int id : {30, 4, 17})
+        addHostItem(id, u"'Meal %1'"_s.arg(id), u"2.5"_s);
+    const HostSyncResult result = run();
+    EXPECT_EQ(result.added, 3);
+    EXPECT_EQ(kitchen
+                  .rows(u"SELECT ItemID, ItemNo, ItemDescription, UnitPrice, ItemTypeID, "
+                        "CASE WHEN Suspended THEN 1 ELSE 0 END, WgtAvgCost FROM Item ORDER BY ItemID"_s)
+                  .join(u' '),
+              u"10|4|Meal 4|2.5|1|0| 11|17|Meal 17|2.5|1|0| 12|30|Meal 30|2.5|1|0|");
+    EXPECT_EQ(nextItemID(), u"14");
+    EXPECT_EQ(kitchen.text(u"SELECT NextItemNo FROM ItemCtl"_s), u"1001");
+
+    EXPECT_EQ(run().added, 0);
+    EXPECT_EQ(nextItemID(), u"15") << "the gap is kept also when nothing is new";
+}
+
+TEST_P(ItemSyncTest, ACounterThatHasNotBegunBeginsAtTenThousand)
+{
+    addHostItem(4, u"'Meal'"_s);
+    for (const QString &start : {u"DELETE FROM ItemCtl"_s, u"UPDATE ItemCtl SET NextItemID = NULL"_s,
+                                 u"UPDATE ItemCtl SET NextItemID = 0"_s}) {
+        kitchen.execute(u"DELETE FROM Item; "_s + start);
+        run();
+        EXPECT_EQ(keysAndNumbers(), u"10000|4") << start.toStdString();
+        EXPECT_EQ(nextItemID(), u"10002");
+    }
+}
+
+TEST_P(ItemSyncTest, MealCodesDecideTheTypeAndUnknownOnesChangeIt)
+{
+    const std::tuple<QString, int, int> cases[] = {
+        {u"'B'"_s, 1, 1}, {u"'L'"_s, 2, 2}, {u"'D'"_s, 3, 3}, {u"'MF'"_s, 4, 4}, {u"'SF'"_s, 5, 5},
+        {u"'O'"_s, 6, 6}, {u"'X'"_s, 3, 6}, {u"'b'"_s, 3, 6}, {u"''"_s, 3, 6},   {u"NULL"_s, 3, 6},
+    };
+    int id = 0;
+    for (const auto &[meal, added, updated] : cases)
+        addHostItem(++id, u"'Meal'"_s, u"1"_s, meal);
+    run();
+    const auto expectTypes = [&](auto typeOf) {
+        int key = 9;
+        for (const auto &one : cases)
+            EXPECT_EQ(of(u"ItemTypeID"_s, ++key), QString::number(typeOf(one))) << std::get<0>(one).toStdString();
+    };
+    expectTypes([](const auto &one) { return std::get<1>(one); });
+    EXPECT_EQ(run().updated, 4);
+    expectTypes([](const auto &one) { return std::get<2>(one); });
+
+    kitchen.execute(u"UPDATE Item SET ItemTypeID = 9"_s); // chosen by the user
+    EXPECT_EQ(run().updated, 0);
+    kitchen.execute(u"UPDATE Items SET Billed_Amount = 2"_s);
+    EXPECT_EQ(run().updated, 10);
+    expectTypes([](const auto &one) { return std::get<2>(one); });
+}
+
+TEST_P(ItemSyncTest, NumbersLinkByWhatTheyReadAs)
+{
+    int key = 0;
+    for (const QString &number : {u"123"_s, u"000123"_s, u" 123 "_s, u"A123"_s, u"123.0"_s, u"123 eggs"_s, u""_s,
+                                  u"99999999999999999999"_s, u"4294967419"_s})
+        addItem(++key, number);
+    kitchen.execute(u"INSERT INTO Item (ItemID) VALUES (10)"_s);
+    kitchen.execute(u"UPDATE ItemCtl SET NextItemID = 20"_s);
+    addHostItem(123, u"'new'"_s);
+    addHostItem(5, u"'other'"_s);
+    const HostSyncResult result = run();
+    EXPECT_EQ(result.notUpdated, QString());
+    EXPECT_EQ(result.updated, 3);
+    EXPECT_EQ(result.added, 1);
+    EXPECT_EQ(kitchen.rows(u"SELECT ItemID FROM Item WHERE ItemDescription = 'new' ORDER BY 1"_s).join(u' '),
+              u"1 2 3");
+    EXPECT_EQ(of(u"ItemNo"_s, 2), u"000123");
+    EXPECT_EQ(of(u"ItemNo"_s, 20), u"5");
+    EXPECT_EQ(of(u"Suspended"_s, 1), of(u"Suspended"_s, 4)) << "which is the user's";
+}
+
+TEST_P(ItemSyncTest, OnlyChangedItemsAreUpdated)
+{
+    struct Case
+    {
+        const char *name;
+        QString description, price; // of the item
+        QString hostName, hostPrice;
+        QString after; // description, price, type
+    };
+    const Case cases[] = {
+        {"nothing", u"'Soup'"_s, u"2"_s, u"'Soup'"_s, u"2"_s, u"Soup|2|9"_s},
+        {"name", u"'Soup'"_s, u"2"_s, u"'soup'"_s, u"2"_s, u"soup|2|1"_s},
+        {"price", u"'Soup'"_s, u"2"_s, u"'Soup'"_s, u"2.25"_s, u"Soup|2.25|1"_s},
+        {"no price in the host", u"'Soup'"_s, u"0"_s, u"'Soup'"_s, u"NULL"_s, u"Soup|0|9"_s},
+        {"price gone", u"'Soup'"_s, u"2"_s, u"'Soup'"_s, u"NULL"_s, u"Soup||1"_s},
+        {"no price on either side", u"'Soup'"_s, u"NULL"_s, u"'Soup'"_s, u"NULL"_s, u"Soup||9"_s},
+        {"no name yet", u"NULL"_s, u"2"_s, u"'Soup'"_s, u"2"_s, u"Soup|2|1"_s},
+        {"name gone", u"'Soup'"_s, u"2"_s, u"NULL"_s, u"2"_s, u"|2|1"_s},
+        {"no name on either side", u"NULL"_s, u"2"_s, u"NULL"_s, u"2"_s, u"|2|9"_s},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        kitchen.execute(u"DELETE FROM Item; DELETE FROM Items"_s);
+        addItem(1, u"7"_s);
+        kitchen.execute(u"UPDATE Item SET ItemDescription = %1, UnitPrice = %2"_s.arg(c.description, c.price));
+        addHostItem(7, c.hostName, c.hostPrice);
+        const bool changed = c.after.endsWith(u"|1"_s);
+        EXPECT_EQ(run().updated, changed ? 1 : 0);
+        EXPECT_EQ(kitchen.rows(u"SELECT ItemDescription, UnitPrice, ItemTypeID FROM Item"_s), QStringList(c.after));
+        EXPECT_EQ(run().updated, 0);
+    }
+}
+
+TEST_P(ItemSyncTest, WhatAnotherProgramHasWrittenIsTakenAsFarAsItFits)
+{
+    kitchen.replaceTable(
+        u"Items"_s, u"Item_ID INTEGER, Meal_Item VARCHAR(80), Billed_Amount DOUBLE PRECISION, Meal VARCHAR(10)"_s);
+    const QString emoji = QString::fromUcs4(U"\U0001F35E");
+    addHostItem(1, u'\'' + emoji.repeated(60) + u'\'', u"1.00004"_s, u"'MFX'"_s);
+    addHostItem(2, u"NULL"_s, u"NULL"_s);
+    addHostItem(2, u"'the same again'"_s);
+    kitchen.execute(u"INSERT INTO Items (Meal_Item) VALUES ('without a key')"_s);
+    EXPECT_EQ(run().added, 2);
+    EXPECT_EQ(of(u"ItemDescription"_s, 10), emoji.repeated(40));
+    EXPECT_EQ(of(u"UnitPrice"_s, 10), u"1");
+    EXPECT_EQ(of(u"ItemTypeID"_s, 10), u"3");
+    EXPECT_EQ(of(u"ItemDescription"_s, 11), u"");
+    EXPECT_EQ(of(u"UnitPrice"_s, 11), u"0");
+    EXPECT_EQ(run().added, 0);
+
+    addHostItem(3, u"'Gold'"_s, u"1e300"_s);
+    EXPECT_TRUE(refusalOf([this] { run(); }).contains(u"item 3 "_s));
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Item"_s), 2);
+}
+
+TEST_P(ItemSyncTest, AFailingUpdateIsPassedOver)
+{
+    addItem(1, u"7"_s);
+    addHostItem(7, u"'new'"_s);
+    addHostItem(8, u"'Soup'"_s);
+    {
+        const BrokenTable broken(kitchen, u"UPDATE"_s, u"Item"_s, u"NEW.ItemID = 1"_s);
+        const HostSyncResult result = run();
+        EXPECT_EQ(result.added, 1);
+        EXPECT_TRUE(result.notUpdated.contains(u"no luck"_s)) << result.notUpdated.toStdString();
+    }
+    EXPECT_EQ(keysAndNumbers(), u"1|7 10|8");
+    EXPECT_EQ(of(u"ItemDescription"_s, 1), u"old");
+}
+
+TEST_P(ItemSyncTest, AFailingInsertKeepsTheItemsBeforeIt)
+{
+    for (const int id : {7, 8, 9})
+        addHostItem(id, u"'Meal'"_s);
+    addItem(11, u"X"_s); // the counter is behind its table
+    QString message;
+    EXPECT_EQ(errorOf([this] { run(); }, &message), ErrorCode::KeyViolation);
+    EXPECT_TRUE(message.startsWith(u"Item 8 \"Meal\""_s)) << message.toStdString();
+    EXPECT_EQ(keysAndNumbers(), u"10|7 11|X");
+    EXPECT_EQ(nextItemID(), u"14");
+    run();
+    EXPECT_EQ(keysAndNumbers(), u"10|7 11|X 14|8 15|9");
+}
+
+TEST_P(ItemSyncTest, WithoutAReservationKeysLieAboveAllOthers)
+{
+    addHostItem(7, u"'Meal'"_s);
+    addHostItem(8, u"'Meal'"_s);
+    addItem(50, u"X"_s);
+    const auto anna = kitchen.anotherUser();
+    Engine::Table counters(anna->database, u"ItemCtl"_s);
+    counters.exclusive = true;
+    counters.open();
+    InterruptedProgress progress;
+    progress.onStart = [&] { counters.close(); };
+    ItemSync(kitchen.database()).run(progress);
+    EXPECT_EQ(keysAndNumbers(), u"50|X 51|7 52|8");
+    EXPECT_EQ(nextItemID(), u"54") << "none of them is handed out again";
+}
+
+// As the posting of receipts holds it.
+TEST_P(ItemSyncTest, WhoHoldsTheItemsKeepsEverythingAsItIs)
+{
+    addItem(1, u"7"_s);
+    addHostItem(7, u"'new'"_s);
+    addHostItem(8, u"'Soup'"_s);
+    const auto anna = kitchen.anotherUser();
+    Engine::Table table(anna->database, u"Item"_s);
+    table.open();
+    for (const bool whole : {true, false}) {
+        whole ? table.lockTable() : table.edit();
+        EXPECT_EQ(errorOf([this] { run(); }), ErrorCode::TableLocked);
+        whole ? table.unlockTable() : table.cancel();
+    }
+    EXPECT_EQ(keysAndNumbers(), u"1|7");
+    EXPECT_EQ(of(u"ItemDescription"_s, 1), u"old");
+    EXPECT_EQ(nextItemID(), u"10");
+    EXPECT_EQ(run().added, 1);
+}
+
+// The same user's own screen takes over what it did not change itself.
+TEST_P(ItemSyncTest, AnEditInTheSameProgramKeepsWhatItChanged)
+{
+    addItem(1, u"7"_s);
+    addHostItem(7, u"'new'"_s, u"2"_s);
+    Engine::Table table(kitchen.database(), u"Item"_s);
+    table.open();
+    table.edit();
+    table.set(u"ItemDescription", u"typed"_s);
+    run();
+    table.post();
+    EXPECT_EQ(of(u"ItemDescription"_s, 1), u"typed");
+    EXPECT_EQ(of(u"UnitPrice"_s, 1), u"2");
+}
+
+} // namespace
