@@ -1,6 +1,10 @@
 #include "controls/listscreen.h"
 
+#include "controls/listoutput.h"
+#include "controls/liststatus.h"
 #include "controls/screenmetrics.h"
+#include "controls/windowmemory.h"
+#include "controls/windowplaces.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -11,6 +15,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
+#include <QStatusBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -19,8 +24,8 @@ namespace Tallymere {
 
 namespace {
 constexpr int firstRows = 12; // that the screen shows when it opens
-constexpr int openerStep = 28; // by which it stands away from the window it was opened from
 constexpr auto filterName = "mnuFilter"_L1;
+constexpr auto copyName = "mnuCopyText"_L1;
 } // namespace
 
 ListScreen::ListScreen(ScreenContext &context, QWidget *parent)
@@ -36,6 +41,7 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
 {
     m_data = &set;
     m_caption = description.caption;
+    m_emptyHint = description.emptyHint;
     setObjectName(description.name);
 
     auto *body = new QWidget(this);
@@ -56,11 +62,16 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
     setCentralWidget(body);
     setContextMenuPolicy(Qt::NoContextMenu);
 
+    m_grid->setDataSet(set, description.columns, m_guard);
+    m_grid->allowSelection();
+    m_status = new ListStatus(*m_grid, *statusBar());
+    m_output = new ListOutput(m_context, *this, *m_grid, *m_status);
+    m_memory = new WindowMemory(*this, m_context.settings);
     for (const ListMenu &menu : description.menus)
         addMenu(menu);
     for (const ListButton &button : description.buttons)
         addButton(button);
-    m_grid->setDataSet(set, description.columns, m_guard);
+    finishPopup();
     connect(m_grid, &ListGrid::chosen, this, [this, defaultCommand] { runCommand(defaultCommand); });
     m_grid->setFocus();
     showFilterMark();
@@ -132,6 +143,21 @@ void ListScreen::addPopup(const ListCommand &command, QAction *action)
     m_grid->addAction(entry);
 }
 
+// What every list offers comes after the screen's own entries.
+void ListScreen::finishPopup()
+{
+    QAction *copy = command(copyName);
+    if (!copy)
+        return;
+    copy->setShortcuts(QKeySequence::Copy);
+    if (!m_grid->actions().isEmpty()) {
+        auto *separator = new QAction(m_grid);
+        separator->setSeparator(true);
+        m_grid->addAction(separator);
+    }
+    m_grid->addAction(copy);
+}
+
 void ListScreen::runCommand(const std::function<void()> &run)
 {
     if (run)
@@ -145,10 +171,18 @@ ListMenu ListScreen::fileMenu(Printing printing, std::function<void()> print)
     ListMenu menu{tr("&File"), {}};
     if (printing == Printing::Offered)
         menu.commands << ListCommand{.name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = std::move(print)};
-    menu.commands << ListCommand{.name = u"mnuExit"_s,
+    std::function<void()> save;
+    if (m_context.chooseFileToSave)
+        save = [this] { m_output->saveCsv(m_caption); };
+    menu.commands << ListCommand{.name = u"mnuSaveCsv"_s, .caption = tr("&Save as CSV..."), .run = save}
+                  << ListCommand{.name = copyName,
+                                 .caption = tr("&Copy as Text"),
+                                 .run = [this] { m_output->copyRows(); },
+                                 .separatorBefore = true}
+                  << ListCommand{.name = u"mnuExit"_s,
                                  .caption = tr("E&xit"),
                                  .run = [this] { close(); },
-                                 .separatorBefore = !menu.commands.isEmpty()};
+                                 .separatorBefore = true};
     return menu;
 }
 
@@ -213,6 +247,17 @@ void ListScreen::showFilterMark()
     setWindowTitle(filtered ? tr("%1 (Filtered)").arg(m_caption) : m_caption);
     if (QAction *filter = command(filterName))
         filter->setChecked(filtered);
+    m_grid->setHint(hint());
+}
+
+QString ListScreen::hint() const
+{
+    if (m_data->isFiltered())
+        return tr("No records match the filter.");
+    if (!m_emptyHint.isEmpty())
+        return m_emptyHint;
+    const auto *add = findChild<QPushButton *>(u"btnNew"_s);
+    return add && add->isEnabled() ? tr("No records yet. Press New to add one.") : tr("No records yet.");
 }
 
 // --- the window -------------------------------------------------------------------------------------------------
@@ -237,7 +282,8 @@ void ListScreen::showEvent(QShowEvent *event)
         return;
     if (!m_firstSize.isValid()) {
         sizeForRows();
-        placeByOpener();
+        placeByOpener(*this);
+        m_memory->restore();
     }
     m_guard.run([this] { showStep(); });
 }
@@ -245,44 +291,20 @@ void ListScreen::showEvent(QShowEvent *event)
 void ListScreen::sizeForRows()
 {
     const int width = std::max(m_grid->fullWidth(), m_topPanel->sizeHint().width());
-    const int height =
-        menuBar()->sizeHint().height() + m_topPanel->sizeHint().height() + m_grid->heightForRows(firstRows);
+    const int height = menuBar()->sizeHint().height() + m_topPanel->sizeHint().height()
+        + m_grid->heightForRows(firstRows) + statusBar()->sizeHint().height();
     m_firstSize =
-        QSize(width, height).boundedTo(screen()->availableGeometry().marginsRemoved(frameOfOpener()).size());
+        QSize(width, height).boundedTo(screen()->availableGeometry().marginsRemoved(expectedFrame(*this)).size());
     resize(m_firstSize);
-}
-
-// The frame is that of the opener as well: a window that has not been shown has none yet.
-QMargins ListScreen::frameOfOpener() const
-{
-    if (!parentWidget())
-        return {};
-    const QRect outer = parentWidget()->window()->frameGeometry();
-    const QRect inner = parentWidget()->window()->geometry();
-    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
-            outer.bottom() - inner.bottom()};
-}
-
-// A little below and to the right of the window that it was opened from, so that both can be reached, and wholly on
-// the screen. Window managers would put it where it hides least, however far away that is.
-void ListScreen::placeByOpener()
-{
-    if (!parentWidget())
-        return;
-    const QRect available = screen()->availableGeometry();
-    const QSize whole = QRect(QPoint(), size()).marginsAdded(frameOfOpener()).size();
-    const int step = scaled(this, openerStep);
-    QRect place(parentWidget()->window()->frameGeometry().topLeft() + QPoint(step, step), whole);
-    place.moveRight(std::min(place.right(), available.right()));
-    place.moveBottom(std::min(place.bottom(), available.bottom()));
-    place.moveTo(std::max(place.left(), available.left()), std::max(place.top(), available.top()));
-    move(place.topLeft());
 }
 
 bool ListScreen::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_topPanel && event->type() == QEvent::MouseButtonDblClick && m_firstSize.isValid())
+    if (watched == m_topPanel && event->type() == QEvent::MouseButtonDblClick && m_firstSize.isValid()) {
+        if (isMaximized())
+            showNormal();
         resize(m_firstSize);
+    }
     return QMainWindow::eventFilter(watched, event);
 }
 

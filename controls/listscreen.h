@@ -13,6 +13,10 @@ class QHBoxLayout;
 
 namespace Tallymere {
 
+class ListOutput;
+class ListStatus;
+class WindowMemory;
+
 // One command of a list screen: an entry of a menu, and where wanted of the pop-up menu.
 struct ListCommand
 {
@@ -48,12 +52,14 @@ struct ListDescription
     QList<GridColumn> columns;
     QList<ListButton> buttons = {}; // from left to right
     QList<ListMenu> menus = {};
+    QString emptyHint =
+        {}; // what an empty list shows; without it a text that names the button "New" if there is one
 };
 
 // A window that shows a data set as a list, with commands on its rows. Not modal; it is freed when it is closed.
 //
-// The screens give a description, the data set and what the commands do; the base owns layout, sizes, the filter
-// mark in caption and menu, refreshing and moving.
+// The screens give a description, the data set and what the commands do; the base owns layout, sizes and places, the
+// filter mark in caption and menu, refreshing and moving, the status line, the search by typing, copying and saving.
 class ListScreen : public QMainWindow
 {
     Q_OBJECT
@@ -88,7 +94,8 @@ protected:
 
     // The commands and menus that lists have alike, with their usual names, captions and keys.
     enum class Printing { Offered, Never }; // a list without a report has no command for it
-    ListMenu fileMenu(Printing printing = Printing::Offered, std::function<void()> print = {}); // print, exit
+    // Print, save, copy, exit.
+    ListMenu fileMenu(Printing printing = Printing::Offered, std::function<void()> print = {});
     ListCommand findCommand(std::function<void()> run) const;
     ListCommand filterCommand(std::function<void()> run) const;
     ListCommand refreshCommand();
@@ -107,16 +114,20 @@ private:
     void addButton(const ListButton &button);
     void addPopup(const ListCommand &command, QAction *action);
     void runCommand(const std::function<void()> &run);
+    void finishPopup();
     void showFilterMark();
+    QString hint() const;
     void sizeForRows();
-    QMargins frameOfOpener() const;
-    void placeByOpener();
 
     ScreenContext &m_context;
     Guard m_guard;
     Engine::DataSet *m_data = nullptr;
     QString m_caption;
+    QString m_emptyHint;
     ListGrid *m_grid = nullptr;
+    ListStatus *m_status = nullptr;
+    ListOutput *m_output = nullptr;
+    WindowMemory *m_memory = nullptr;
     QFrame *m_topPanel = nullptr;
     QHBoxLayout *m_buttons = nullptr;
     QSize m_firstSize;

@@ -10,6 +10,7 @@ class QWidget;
 namespace Tallymere {
 
 class SettingsStore;
+struct FileChoice;
 class TDataModuleTallymere;
 class TdmLookUpsInv;
 
@@ -39,6 +40,9 @@ struct ScreenContext
     std::function<void(const QString &address)> openObject = {};
     // Where windows keep their places and grids their column widths. Null: nothing is remembered.
     SettingsStore *settings = nullptr;
+    // Asks the user for a file to write, over a window; empty when he cancels. Without it, commands that save files are
+    // disabled.
+    std::function<QString(QWidget *window, const FileChoice &choice)> chooseFileToSave = {};
     // Opens the help at a screen's topic, named by the screen. Empty: no help, and the command is disabled.
     std::function<void(const QString &screenName)> showHelp = {};
 

@@ -1,5 +1,6 @@
 #include "frame/frmtallymeresystem.h"
 
+#include "controls/filechoice.h"
 #include "controls/openobject.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
@@ -155,7 +156,15 @@ void TFormTallymereSystem::fillContext()
         .securityCheck = [this](const QString &key, const QString &name) { return securityCheck(key, name); },
         .openScreen = [this](const QString &name) { return m_runner.open(name, *m_context); },
         .hasScreen = [this](const QString &name) { return m_services.screens.contains(name); },
+        .openAnotherScreen = [this](const QString &name) { return m_runner.openAnother(name, *m_context); },
+        .runAction =
+            [this](const QString &name) {
+                if (auto *action = m_actionList->findChild<QAction *>(name))
+                    action->trigger();
+            },
         .openObject = openObject,
+        .settings = &m_services.settings,
+        .chooseFileToSave = chooseFileToSave,
         .showHelp = {},
     });
 }
@@ -230,14 +239,19 @@ void TFormTallymereSystem::createActions()
         auto *action = new QAction(QCoreApplication::translate("Commands", command.caption), m_actionList);
         action->setObjectName(command.action);
         action->setStatusTip(QCoreApplication::translate("Commands", command.hint));
-        action->setEnabled(m_runner.canRun(command));
-        connect(action, &QAction::triggered, this, [this, &command] {
-            m_guard.run([&] {
-                if (m_context)
-                    m_runner.run(command, *m_context);
-            });
-        });
+        action->setEnabled(command.job || m_runner.canRun(command));
+        connect(action, &QAction::triggered, this, [this, &command] { m_guard.run([&] { runCommand(command); }); });
     }
+}
+
+void TFormTallymereSystem::runCommand(const Command &command)
+{
+    if (!m_context)
+        return;
+    if (command.job)
+        command.job({*m_context, m_runner, *m_progress});
+    else
+        m_runner.run(command, *m_context);
 }
 
 void TFormTallymereSystem::bindControls()
@@ -271,15 +285,15 @@ void TFormTallymereSystem::createStatusBar()
     m_hintPane->setAccessibleName(tr("Hint"));
     // Long names and hints are cut; they must not widen the window.
     m_hintPane->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto *progress = new QProgressBar(this);
-    progress->setObjectName(u"RzProgressBar1"_s);
-    progress->setAccessibleName(tr("Progress"));
-    progress->setTextVisible(false);
-    progress->setFixedWidth(scaled(this, 90));
-    progress->setValue(0);
+    m_progress = new QProgressBar(this);
+    m_progress->setObjectName(u"RzProgressBar1"_s);
+    m_progress->setAccessibleName(tr("Progress"));
+    m_progress->setTextVisible(false);
+    m_progress->setFixedWidth(scaled(this, 90));
+    m_progress->setValue(0);
     m_ui->RzStatusBar1->addWidget(m_leftPane);
     m_ui->RzStatusBar1->addWidget(m_hintPane, 1);
-    m_ui->RzStatusBar1->addPermanentWidget(progress);
+    m_ui->RzStatusBar1->addPermanentWidget(m_progress);
 }
 
 void TFormTallymereSystem::scaleSizes()

@@ -28,8 +28,6 @@ protected:
                        const QString &caption, const QString &entryScreen, QWidget *parent);
 
 private:
-    class Bar;
-
     std::unique_ptr<DocumentPosting> m_posting;
     std::unique_ptr<Ui::DocumentPostScreen> m_ui;
     bool m_running = false;

@@ -1,0 +1,33 @@
+#include "controls/columnwidths.h"
+
+#include "controls/datagrid.h"
+#include "controls/screenmetrics.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+QString columnWidths(const DataGrid &grid)
+{
+    QStringList widths;
+    const QList<GridColumn> &columns = grid.tableModel()->columns();
+    for (int i = 0; i + 1 < columns.size(); ++i)
+        widths << columns[i].field + u'=' + QString::number(grid.columnWidth(i) / fontFactor(&grid), 'f', 2);
+    return widths.join(u' ');
+}
+
+void setColumnWidths(DataGrid &grid, const QString &text)
+{
+    constexpr double widest = 5000;
+    const QStringList widths = text.split(u' ', Qt::SkipEmptyParts);
+    for (const QString &width : widths) {
+        const int column = grid.tableModel()->columnOf(width.section(u'=', 0, 0));
+        const double pixels = width.section(u'=', 1).toDouble();
+        if (column >= 0 && pixels >= 1 && pixels <= widest)
+            grid.setColumnWidth(column, qRound(pixels * fontFactor(&grid)));
+    }
+}
+
+} // namespace Tallymere

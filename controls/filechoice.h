@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace Tallymere {
+
+// A file that the user shall name.
+struct FileChoice
+{
+    QString title; // of the dialog
+    QString name; // proposed, without folder
+    QString kind; // "CSV files"
+    QString suffix; // "csv", for a name without one
+};
+
+// The system's dialog, over a window. Asks before a file that is there is chosen. Empty when the user has cancelled.
+QString chooseFileToSave(QWidget *window, const FileChoice &choice);
+
+} // namespace Tallymere

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "controls/listgrid.h"
+#include "frame/shared/prompts.h"
+
+#include <QList>
+#include <QString>
+
+namespace Tallymere {
+
+// Rows as spreadsheets paste them: cells as they are shown, separated by tabs, a line for each row. Several rows come
+// under the columns' titles, one alone does not. A cell that holds a tab or a line break, or begins with a quote, is
+// quoted. Throws what the store raises.
+QString rowsAsText(const TableModel &model, const QList<RowRange> &rows, Progress &progress);
+
+} // namespace Tallymere

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "controls/listgrid.h"
+
+class QLabel;
+class QProgressBar;
+class QStatusBar;
+
+namespace Tallymere {
+
+// The status line of a list: on which row of how many the cursor is, how many are selected, and what is being
+// searched for. Nothing is said of the rows before the whole list has been read.
+class ListStatus : public QObject
+{
+    Q_OBJECT
+
+public:
+    ListStatus(ListGrid &grid, QStatusBar &bar);
+
+    QProgressBar *progressBar() const { return m_progress; } // hidden unless long work shows it
+    void say(const QString &text); // for a moment, in place of the rows
+
+private:
+    void showRows();
+    void showSearch();
+    QString rowsText() const;
+
+    ListGrid &m_grid;
+    QStatusBar &m_bar;
+    QLabel *m_rows;
+    QLabel *m_search;
+    QProgressBar *m_progress;
+};
+
+} // namespace Tallymere

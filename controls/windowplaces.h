@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QList>
+#include <QMargins>
+#include <QPoint>
+#include <QRect>
+
+class QWidget;
+
+namespace Tallymere {
+
+// Where windows stand. Rectangles of windows are with their frames.
+
+// The rectangle, wholly on the screens: as it is when they show all of it, else moved onto the one that shows most of
+// it, or the first. What is larger than that screen is cut to its size.
+QRect onScreens(const QRect &window, const QList<QRect> &screens);
+
+// A little below and to the right of the point, as often as something stands there already; from an edge of the
+// screen on again at the opposite one.
+QPoint apartFrom(const QList<QPoint> &taken, QPoint place, int step, const QRect &screen);
+
+// The frame that a window will have: that of the window it was opened from. It has none itself before it is shown.
+QMargins expectedFrame(const QWidget &window);
+
+// A little below and to the right of the window that it was opened from, so that both can be reached, and wholly on
+// the screen. Window managers would put it where it hides least, however far away that is.
+void placeByOpener(QWidget &window);
+
+// Windows of one kind, which have the same component name, do not stand exactly on each other.
+void standApart(QWidget &window);
+
+// Moves and sizes a window so that it has the place, as far as the screens allow it.
+void moveToPlace(QWidget &window, QPoint place, QSize sizeWithoutFrame);
+
+} // namespace Tallymere
