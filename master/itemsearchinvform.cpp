@@ -77,16 +77,15 @@ void TfrmItemSearchInv::showStep()
     m_ui->editFindItemNo->setFocus();
 }
 
-// Taking a character away moves nothing.
 void TfrmItemSearchInv::typeItemNo(const QString &text)
 {
-    if (text.size() > std::exchange(m_typedLength, static_cast<int>(text.size())))
+    if (!std::exchange(m_erases, false))
         guard().run([&] { beepUnless(m_search.typeItemNo(text)); });
 }
 
 void TfrmItemSearchInv::typeDescription(const QString &text)
 {
-    if (text.size() > std::exchange(m_typedLength, static_cast<int>(text.size())))
+    if (!std::exchange(m_erases, false))
         guard().run([&] { beepUnless(m_search.typeDescription(text)); });
 }
 
@@ -96,14 +95,14 @@ void TfrmItemSearchInv::beepUnless(bool found) const
         QApplication::beep();
 }
 
-// From a search box the arrow keys move in the list.
-bool TfrmItemSearchInv::eventFilter(QObject *watched, QEvent *event)
+// From a search box the arrow keys move in the list. Taking characters away moves nothing.
+bool TfrmItemSearchInv::eventFilter(QObject *, QEvent *event)
 {
-    if (event->type() == QEvent::FocusIn)
-        m_typedLength = static_cast<int>(qobject_cast<QLineEdit *>(watched)->text().size());
     if (event->type() != QEvent::KeyPress)
         return false;
-    switch (static_cast<QKeyEvent *>(event)->key()) {
+    const auto *key = static_cast<QKeyEvent *>(event);
+    m_erases = key->key() == Qt::Key_Backspace || key->key() == Qt::Key_Delete || key->matches(QKeySequence::Cut);
+    switch (key->key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_PageUp:

@@ -37,7 +37,7 @@ private:
 
     std::unique_ptr<Ui::TfrmItemSearchInv> m_ui;
     ItemSearch m_search;
-    int m_typedLength = 0;
+    bool m_erases = false; // the key that changes a search box
 };
 
 } // namespace Tallymere

@@ -34,6 +34,7 @@ protected:
     static ListMenu &menu(ListDescription &description, const QString &caption);
 
     MasterList &list() { return m_list; }
+    RecordOpener &records() { return *m_records; }
     void showStep() override; // read anew, on the first row
 
 private:

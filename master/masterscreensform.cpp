@@ -1,6 +1,7 @@
 #include "master/masterscreensform.h"
 
 #include "master/banksinvform.h"
+#include "master/itemsinvform.h"
 #include "master/itemtypeinvform.h"
 #include "master/masterkinds.h"
 #include "master/masterlistform.h"
@@ -32,6 +33,7 @@ const QList<MasterScreen> &masterScreens()
         {MasterKinds::bank(), make<TfrmBanksInv>},         {MasterKinds::currency(), make<TfrmCurrenciesInv>},
         {MasterKinds::itemType(), make<TfrmItemTypesInv>}, {MasterKinds::location(), make<TfrmWarehousesInv>},
         {MasterKinds::tax(), make<TfrmTaxesInv>},          {MasterKinds::vendor(), make<TfrmVendors>},
+        {MasterKinds::item(), make<TfrmItemsInv>},
     };
     return screens;
 }

@@ -72,6 +72,15 @@ void RecordOpener::openCurrent()
     throw RuleError(tr("'%1' was deleted by another user.").arg(name));
 }
 
+void RecordOpener::openCopy()
+{
+    if (m_list.table().isEmpty())
+        return;
+    std::unique_ptr<MasterRecordScreen> screen = make();
+    screen->newCopy(m_list.table());
+    screen.release()->show();
+}
+
 void RecordOpener::removeCurrent()
 {
     try {

@@ -32,6 +32,7 @@ public:
     std::unique_ptr<MasterRecordScreen> make(); // to be filled and shown
     void openNew();
     void openCurrent(); // a record whose screen is open comes to the front; of an empty list a new one
+    void openCopy(); // a new record copied from the current one; of an empty list nothing
     void removeCurrent(); // as MasterList::remove
 
 private:

@@ -6,6 +6,8 @@ tallymere_room(tallymere_master_screens SCREENS
         currencyinvform.ui
         dialerinvform.cpp dialerinvform.h dialerinvform.ui
         dialersetupinvform.cpp dialersetupinvform.h dialersetupinvform.ui
+        iteminvform.cpp iteminvform.h iteminvform.ui
+        itemsinvform.cpp itemsinvform.h
         itemtypeinvform.cpp itemtypeinvform.h itemtypeinvform.ui
         itemsearchinvform.cpp itemsearchinvform.h itemsearchinvform.ui
         itemsfindform.cpp itemsfindform.h

@@ -1,0 +1,37 @@
+#include "master/iteminvform.h"
+
+#include "master/masterkinds.h"
+#include "ui_iteminvform.h"
+
+namespace Tallymere {
+
+TfrmItemInv::TfrmItemInv(ScreenContext &context, QWidget *parent)
+    : MasterRecordScreen(context, MasterKinds::item(), parent)
+    , m_ui(std::make_unique<Ui::TfrmItemInv>())
+{
+    m_ui->setupUi(this);
+    buildRecord();
+    connect(m_ui->chkReadOnly, &QCheckBox::clicked, this, &TfrmItemInv::chkReadOnlyClick);
+}
+
+TfrmItemInv::~TfrmItemInv() = default;
+
+void TfrmItemInv::firstShown()
+{
+    chkReadOnlyClick();
+    MasterRecordScreen::firstShown();
+}
+
+void TfrmItemInv::chkReadOnlyClick()
+{
+    QLineEdit *cost = m_ui->editWgtAvgCost;
+    const bool locked = m_ui->chkReadOnly->isChecked();
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, colours.color(locked ? QPalette::Button : QPalette::Base));
+    cost->setPalette(colours);
+    cost->setReadOnly(locked);
+    if (!locked)
+        cost->setFocus();
+}
+
+} // namespace Tallymere
