@@ -46,6 +46,7 @@ Command initCommand();
 Command sampleCommand();
 Command importCommand();
 Command postCommand();
+Command syncCommand();
 Command totalsCommand();
 Command historyCommand();
 Command listCommand();

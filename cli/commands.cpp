@@ -38,8 +38,8 @@ const QList<OptionSpec> &commonOptions()
 
 const QList<Command> &commands()
 {
-    static const QList<Command> all = {initCommand(),   sampleCommand(),  importCommand(), postCommand(),
-                                       totalsCommand(), historyCommand(), listCommand()};
+    static const QList<Command> all = {initCommand(), sampleCommand(), importCommand(),  postCommand(),
+                                       syncCommand(), totalsCommand(), historyCommand(), listCommand()};
     return all;
 }
 

@@ -18,7 +18,7 @@ QString tr(const char *text) { return QCoreApplication::translate("Program", tex
 // Commands that are known by name so that the user is told so.
 const QStringList &comingCommands()
 {
-    static const QStringList names = {u"count"_s, u"sync"_s, u"report"_s, u"check"_s, u"backup"_s, u"restore"_s};
+    static const QStringList names = {u"count"_s, u"report"_s, u"check"_s, u"backup"_s, u"restore"_s};
     return names;
 }
 

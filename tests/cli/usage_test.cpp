@@ -15,6 +15,7 @@ const std::pair<QStringList, QString> usageCases[] = {
     {{u"totals"_s, u"--csv=1"_s}, u"option '--csv' takes no value"_s},
     {{u"totals"_s, u"--filter"_s, u"a"_s, u"--filter"_s, u"b"_s}, u"option '--filter' is given twice"_s},
     {{u"import"_s, u"items"_s}, u"'import' needs more: KIND FILE.csv"_s},
+    {{u"sync"_s, u"clients"_s}, u"'sync' knows no 'clients', but: locations, items"_s},
     {{u"totals"_s, u"x"_s}, u"'totals' does not know what to do with 'x'"_s},
     {{u"--data"_s, u"a"_s, u"--server"_s, u"b"_s, u"totals"_s}, u"--data and --server exclude each other"_s},
     {{u"--data="_s, u"totals"_s}, u"option '--data' needs a value"_s},
@@ -39,7 +40,7 @@ TEST(Help, IsThereForTheProgramAndForEachCommandThatItNames)
     const CliResult all = cli.runBare({u"--help"_s});
     EXPECT_EQ(all.status, 0);
     for (const QString &command :
-         {u"init"_s, u"sample"_s, u"import"_s, u"post"_s, u"totals"_s, u"history"_s, u"list"_s}) {
+         {u"init"_s, u"sample"_s, u"import"_s, u"post"_s, u"sync"_s, u"totals"_s, u"history"_s, u"list"_s}) {
         EXPECT_TRUE(all.output.contains("\n  "_L1 + command)) << command.toStdString();
         const CliResult one = cli.runBare({command, u"--help"_s});
         EXPECT_EQ(one.status, 0);

@@ -1,0 +1,71 @@
+#include "cli/command.h"
+#include "cli/named.h"
+#include "master/itemsync.h"
+#include "master/locationsync.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("SyncCommand", text); }
+
+template <typename Sync> HostSyncResult synchronize(Engine::Database &database, Progress &progress)
+{
+    return Sync(database).run(progress);
+}
+
+struct SyncKind
+{
+    QString name;
+    HostSyncResult (*run)(Engine::Database &, Progress &);
+    QString outcome; // "%1 location(s) added, %2 renamed"
+};
+
+const QList<SyncKind> &kinds()
+{
+    static const QList<SyncKind> all = {
+        {u"locations"_s, synchronize<LocationSync>, tr("%1 location(s) added, %2 renamed")},
+        {u"items"_s, synchronize<ItemSync>, tr("%1 item(s) added, %2 updated")},
+    };
+    return all;
+}
+
+const SyncKind &requireKind(const QString &name)
+{
+    if (const SyncKind *kind = findNamed(kinds(), name))
+        return *kind;
+    throw UsageError(tr("'sync' knows no '%1', but: %2").arg(name, namesOf(kinds())));
+}
+
+void runSync(CommandContext &context)
+{
+    const SyncKind &kind = requireKind(context.arguments.words().at(1));
+    const auto data = context.openData();
+    ConsoleProgress progress(context.console, tr("Synchronizing"));
+    const HostSyncResult result = kind.run(data->databaseTallymere(), progress);
+    if (!result.notUpdated.isEmpty())
+        context.prompts.warn(tr("What is there already has not been updated: %1").arg(result.notUpdated));
+    context.console.print(kind.outcome.arg(result.added).arg(result.updated));
+}
+
+} // namespace
+
+Command syncCommand()
+{
+    Command command;
+    command.name = u"sync"_s;
+    command.words = u"locations|items"_s;
+    command.fewestWords = command.mostWords = 1;
+    command.summary = tr("brings the host's locations or items over");
+    command.details =
+        tr("Those that are there already take the host's names, prices and item types; new ones are added.\n"
+           "Nothing is deleted. While another user works on the same table nothing is done, with status 1.");
+    command.run = runSync;
+    return command;
+}
+
+} // namespace Tallymere
