@@ -51,6 +51,11 @@ void EntryScreen::buildScreen()
         cancel->setProperty("keepsEntry", true);
         connect(cancel, &QPushButton::clicked, this, &EntryScreen::btnCancelClick);
     }
+    if (auto *help = findChild<QPushButton *>(u"btnHelp"_s)) {
+        help->setProperty("keepsEntry", true);
+        help->setEnabled(bool(m_context.showHelp));
+        connectGuarded(help, &QPushButton::clicked, this, &EntryScreen::btnHelpClick);
+    }
     connectListButtons(*this, m_context, m_guard, [this](const QString &field) { return m_binder.keyIn(field); });
     connectWordWrapMenus(*this);
     if (auto *panel = findChild<QWidget *>(bottomPanel))
@@ -93,6 +98,8 @@ void EntryScreen::btnCancelClick()
     if (dropped)
         leave();
 }
+
+void EntryScreen::btnHelpClick() { m_context.showHelp(objectName()); }
 
 void EntryScreen::leave()
 {

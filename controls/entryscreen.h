@@ -44,8 +44,8 @@ protected:
 
     virtual void firstShown() { } // when the screen is shown for the first time
 
-    // Connects OK, Cancel, the buttons that lead to lists and the menus of notes. Called once, after the form has
-    // been set up and its fields are bound.
+    // Connects OK, Cancel, Help, the buttons that lead to lists and the menus of notes. Called once, after the form
+    // has been set up and its fields are bound.
     void buildScreen();
     void showCaption() { setWindowTitle(caption()); }
     void saveAndReport(); // what OK does before it closes; throws what refuses
@@ -62,6 +62,7 @@ protected:
     void reject() override;
 
 private:
+    void btnHelpClick();
     void leave(); // closes without a question
     bool settleChanges(); // asks if need be; false: the screen stays
 

@@ -4,6 +4,7 @@
 #include "engine/error.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QVariant>
@@ -70,7 +71,15 @@ void FieldBinder::setEntryRule(const QString &field, std::function<void(const QS
         binding->setEntryRule(std::move(rule));
 }
 
-QWidget *FieldBinder::firstWidget() const { return m_bindings.empty() ? nullptr : m_bindings.front()->widget(); }
+// The pages of a tabbed form are not among its children in the order in which the user sees them.
+QWidget *FieldBinder::firstWidget() const
+{
+    for (QWidget *widget = m_form->nextInFocusChain(); widget != m_form; widget = widget->nextInFocusChain()) {
+        if (widget->focusPolicy() & Qt::TabFocus && bindingOf(widget))
+            return widget;
+    }
+    return nullptr;
+}
 
 QWidget *FieldBinder::widgetFor(const QString &column) const
 {
@@ -188,6 +197,9 @@ bool FieldBinder::eventFilter(QObject *watched, QEvent *event)
             return false;
         leave(*binding);
         binding->setActive(false);
+    } else if (event->type() == QEvent::Wheel && qobject_cast<QComboBox *>(watched)) {
+        event->ignore(); // a turn of the wheel over a form must not change what it holds
+        return true;
     }
     return false;
 }

@@ -16,11 +16,11 @@ class FieldBinding;
 // Ties the widgets of a form to the fields of tables.
 //
 // A widget names its field in the dynamic property "dataField", and its table in "dataSource" where the form has
-// several. Line edits, lookup boxes, check boxes, groups of radio
-// buttons, plain text edits and labels can be tied. What the user enters
-// puts the table into edit at once and is handed over on leaving the widget; a refusal is shown and the cursor
-// stays. A line edit with the dynamic property "editMask" has that input mask while it has the cursor. Leaving
-// towards a widget with the dynamic property "keepsEntry" (a Cancel button) hands nothing over.
+// several. Line edits, lookup boxes, drop-down lists of fixed choices (dynamic property "values"), check boxes, groups
+// of radio buttons, plain text edits and labels can be tied. What the user enters puts the table into edit at once and
+// is handed over on leaving the widget; a refusal is shown and the cursor stays. A line edit with the dynamic property
+// "editMask" has that input mask while it has the cursor; one that the form has read-only stays that, in the form's
+// grey. Leaving towards a widget with the dynamic property "keepsEntry" (a Cancel button) hands nothing over.
 class FieldBinder : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ public:
     // that stands for a key.
     void setEntryRule(const QString &field, std::function<void(const QString &text)> rule);
 
-    QWidget *firstWidget() const; // of the form, among the bound ones; nullptr when there is none
+    QWidget *firstWidget() const; // that Tab comes to, among the bound ones; nullptr when there is none
     QWidget *widgetFor(const QString &column) const; // nullptr when no widget shows it
     int keyIn(const QString &field) const; // the number in a bound field of the current record; 0 for none
     // Hands over what has been entered and not handed over yet; throws what refuses it.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -69,6 +70,14 @@ namespace {
 // A mask is written with "/" between the parts of a date; the user's own separator takes its place.
 QString userMask(QString mask) { return mask.replace(u'/', RegionalSettings::system().dateSeparator); }
 
+// What can only be read looks like the form around it.
+void showReadOnly(QLineEdit &edit)
+{
+    QPalette colours = edit.palette();
+    colours.setBrush(QPalette::Base, colours.window());
+    edit.setPalette(colours);
+}
+
 // Shows the display text, and the edit text while it has the cursor.
 class LineEditBinding final : public FieldBinding
 {
@@ -77,13 +86,16 @@ public:
         : FieldBinding(edit, table, number, std::move(reports))
         , m_edit(edit)
         , m_mask(userMask(edit->property("editMask").toString()))
+        , m_alwaysReadOnly(edit->isReadOnly())
     {
+        if (m_alwaysReadOnly)
+            showReadOnly(*edit);
         if (field().type == Engine::FieldType::Text && edit->maxLength() > field().size)
             edit->setMaxLength(field().size);
         QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { entered(); });
     }
 
-    void setReadOnly(bool readOnly) override { m_edit->setReadOnly(readOnly); }
+    void setReadOnly(bool readOnly) override { m_edit->setReadOnly(readOnly || m_alwaysReadOnly); }
 
     void setActive(bool active) override
     {
@@ -119,6 +131,7 @@ private:
 
     QLineEdit *m_edit;
     QString m_mask;
+    bool m_alwaysReadOnly; // by the form, whatever becomes of the record
     bool m_active = false;
 };
 
@@ -156,6 +169,37 @@ private:
 
     LookupComboBox *m_box;
     bool m_settling = false;
+};
+
+// A drop-down list of fixed choices, which stand for the texts in the dynamic property "values".
+class ChoiceBinding final : public FieldBinding
+{
+public:
+    ChoiceBinding(QComboBox *box, Engine::Table &table, int number, Reports reports)
+        : FieldBinding(box, table, number, std::move(reports))
+        , m_box(box)
+        , m_values(box->property("values").toStringList())
+    {
+        QObject::connect(box, &QComboBox::activated, box, [this] {
+            if (chosen() == value())
+                return;
+            entered();
+            if (hasEntry())
+                completed();
+        });
+    }
+
+    void setReadOnly(bool readOnly) override { m_box->setDisabled(readOnly); }
+
+private:
+    Value chosen() const { return Value(m_values.value(m_box->currentIndex())); }
+
+    // Nothing is chosen for a value that no choice stands for.
+    void display() override { m_box->setCurrentIndex(static_cast<int>(m_values.indexOf(value().toText()))); }
+    void store() override { table().set(field().name, chosen()); }
+
+    QComboBox *m_box;
+    const QStringList m_values;
 };
 
 class CheckBinding final : public FieldBinding
@@ -284,6 +328,8 @@ std::unique_ptr<FieldBinding> FieldBinding::make(QWidget *widget, Engine::Table 
         return std::make_unique<LineEditBinding>(edit, table, number, std::move(reports));
     if (auto *lookup = qobject_cast<LookupComboBox *>(widget))
         return std::make_unique<LookupBinding>(lookup, table, number, std::move(reports));
+    if (auto *choice = qobject_cast<QComboBox *>(widget))
+        return std::make_unique<ChoiceBinding>(choice, table, number, std::move(reports));
     if (auto *check = qobject_cast<QCheckBox *>(widget))
         return std::make_unique<CheckBinding>(check, table, number, std::move(reports));
     if (auto *memo = qobject_cast<QPlainTextEdit *>(widget))

@@ -94,6 +94,12 @@ void refreshOrganization(Engine::Database &database, const Table &config, QDate 
     company.post();
 }
 
+void presetOrganization(Table &company, const Table &config)
+{
+    for (const Assignment &host : organizationOf(company, config))
+        company.setDefault(host.field, host.value);
+}
+
 void firstLocation(Engine::Database &database)
 {
     addFirstRow(database, u"Warehse"_s, {{u"WarehouseID"_s, 1}, {u"WarehouseName"_s, "Office"_L1}});

@@ -2,6 +2,7 @@
 
 #include "controls/listscreen.h"
 #include "controls/screencontext.h"
+#include "master/companyform.h"
 #include "master/masterkind.h"
 #include "master/masterlistform.h"
 #include "master/masterscreensform.h"
@@ -45,6 +46,14 @@ ScreenKind masterList(const MasterScreen &screen)
     return kind;
 }
 
+ScreenKind organization()
+{
+    ScreenKind kind;
+    kind.create = make<TfrmCompany>;
+    kind.showHandler = [](QWidget &screen) { static_cast<TfrmCompany &>(screen).showAgain(); };
+    return kind;
+}
+
 } // namespace
 
 ScreenRegistry productScreens()
@@ -52,6 +61,7 @@ ScreenRegistry productScreens()
     ScreenRegistry screens;
     for (const MasterScreen &screen : masterScreens())
         screens.add(screen.kind.listScreen, masterList(screen));
+    screens.add(u"frmCompany"_s, organization());
     screens.add(u"frmInvReceipts"_s, documentList<TfrmInvReceipts>());
     screens.add(u"frmInvTotals"_s, listScreen<TfrmInvTotals>(make<TfrmInvTotals>));
     return screens;

@@ -55,7 +55,7 @@ struct MasterKind
 
     // --- the table ----------------------------------------------------------------------------------------------
     QString table; // "Item"
-    QString keyField; // "ItemID"; taken from a counter or, without one, the highest key plus 1
+    QString keyField; // "ItemID"; taken from a counter, else a default, else the highest key plus 1
     QString numberField; // the number that users see and that must be unique
     QString counterTable; // "ItemCtl"; empty where keys are not counted
     QString numberCounter; // "NextItemNo": from 1001 to 10,000,000, then again from 1001

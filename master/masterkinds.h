@@ -15,7 +15,10 @@ const MasterKind &tax();
 const MasterKind &currency();
 const MasterKind &bank();
 
-// All of them, in the order in which the command line names them.
+// The one record of the organization, which has no list and comes from no file.
+const MasterKind &company();
+
+// All others, in the order in which the command line names them.
 const QList<const MasterKind *> &all();
 
 } // namespace Tallymere::MasterKinds

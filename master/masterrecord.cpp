@@ -4,6 +4,8 @@
 #include "engine/query.h"
 #include "frame/shared/ruleerror.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
@@ -13,6 +15,12 @@ namespace {
 constexpr qint64 firstNumber = 1001;
 constexpr qint64 lastNumber = 10'000'000;
 constexpr qint64 firstKey = 10'000;
+
+bool hasDefault(const MasterKind &kind, const QString &field)
+{
+    return std::any_of(kind.defaults.begin(), kind.defaults.end(),
+                       [&](const MasterKind::Default &preset) { return preset.field == field; });
+}
 
 NumberSource numbersIfInReach(Engine::Database &database)
 {
@@ -131,7 +139,8 @@ void MasterRecord::assignKey()
     if (m_kind.keyByEngine || !isNew())
         return;
     if (m_kind.counterTable.isEmpty()) {
-        assignHighestKey();
+        if (!hasDefault(m_kind, m_kind.keyField))
+            assignHighestKey();
     } else if (m_table.value(m_kind.keyField).isNull()) {
         m_givenNumber = m_table.text(m_kind.numberField);
         assignIdentity(numbersAtOnce(database()));

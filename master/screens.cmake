@@ -3,6 +3,7 @@ tallymere_room(tallymere_master_screens SCREENS
     SOURCES
         addressbuttonsform.cpp addressbuttonsform.h
         banksinvform.cpp banksinvform.h bankinvform.ui
+        companyform.cpp companyform.h companyform.ui
         currencyinvform.ui
         dialerinvform.cpp dialerinvform.h dialerinvform.ui
         dialersetupinvform.cpp dialersetupinvform.h dialersetupinvform.ui

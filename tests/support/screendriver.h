@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <QApplication>
 #include <QDialog>
 #include <QTest>

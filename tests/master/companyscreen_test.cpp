@@ -1,0 +1,212 @@
+#include "controls/lookupcombobox.h"
+#include "data/fiscalperiod.h"
+#include "master/companyform.h"
+#include "tests/transactions/screentest.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class CompanyScreen : public ScreenTest
+{
+protected:
+    void open()
+    {
+        screen = new TfrmCompany(*context, mainWindow.get());
+        showActive(*screen);
+    }
+    void focus(const char *field)
+    {
+        auto *widget = child<QWidget>(*screen, field);
+        auto *pages = child<QTabWidget>(*screen, "PageControl1");
+        for (int i = 0; i < pages->count(); ++i) {
+            if (pages->widget(i)->isAncestorOf(widget))
+                pages->setCurrentIndex(i);
+        }
+        widget->setFocus();
+    }
+    // Types over what stands in a field, and moves on.
+    void enter(const char *field, const char *text)
+    {
+        focus(field);
+        press(Qt::Key_Delete);
+        type(text);
+        press(Qt::Key_Return);
+    }
+    void click(const char *button) { child<QAbstractButton>(*screen, button)->click(); }
+    QString shown(const char *field) { return child<QLineEdit>(*screen, field)->text(); }
+    QString stored(const char16_t *field)
+    {
+        return kitchen.text(u"SELECT %1 FROM Company"_s.arg(QStringView(field)));
+    }
+
+    QPointer<TfrmCompany> screen;
+};
+
+} // namespace
+
+TEST_F(CompanyScreen, ShowsTheHostsNameAndTheUsersCalendar)
+{
+    kitchen.execute(u"UPDATE Company SET Phone = '555', DefaultPeriodPP = 3"_s);
+    open();
+    EXPECT_EQ(screen->windowTitle(), u"Your Organization"_s);
+    EXPECT_EQ(focusName(), u"editCompanyName"_s);
+    EXPECT_EQ(shown("editCompanyName") + shown("editPhone"), u"Test Kitchen555"_s);
+    for (const char *hosts : {"editCompanyName", "editAddressLine1", "editAddressLine2", "editPhone"})
+        EXPECT_TRUE(child<QLineEdit>(*screen, hosts)->isReadOnly()) << hosts;
+    focus("editFiscalYear");
+    EXPECT_EQ(shown("editFiscalYear"), u"26"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(focusName(), u"editDefaultPeriodPP"_s);
+    EXPECT_EQ(shown("editFiscalYear"), u"2026"_s);
+    EXPECT_FALSE(child<QWidget>(*screen, "btnYearEnd")->isVisible());
+    EXPECT_FALSE(child<QWidget>(*screen, "btnHelp")->isEnabled()) << "there is no help";
+    press(Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(screen);
+    EXPECT_TRUE(prompts.said.isEmpty());
+}
+
+TEST_F(CompanyScreen, RefusedEntriesKeepTheCursor)
+{
+    open();
+    enter("editEPeriodToYYYY", "2004");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Error After Period invalid...\nEnter year as 2 digits"_s});
+    EXPECT_EQ(focusName(), u"editEPeriodToYYYY"_s);
+    EXPECT_EQ(shown("editEPeriodToYYYY"), u"2004"_s);
+    type("27");
+    enter("editFiscalYear", "50");
+    EXPECT_EQ(shown("editFiscalYear"), u"1950"_s);
+    focus("memoNotes");
+    click("btnOK");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Fiscal Year must be between 1989 and 2050"_s});
+    EXPECT_EQ(focusName(), u"editFiscalYear"_s) << "on the page that was not in front";
+    EXPECT_EQ(stored(u"FiscalYear"), u"2026"_s);
+    enter("editFiscalYear", "27");
+    click("btnOK");
+    settle();
+    EXPECT_FALSE(screen);
+    EXPECT_TRUE(prompts.said.isEmpty());
+    EXPECT_EQ(stored(u"FiscalYear") + stored(u"EPeriodToYYYY"), u"20272027"_s);
+    EXPECT_EQ(FiscalSettings::of(data->tblCompany()).fiscalYear, 2027) << "what all screens read";
+}
+
+TEST_F(CompanyScreen, DefaultsAreChosenFromLists)
+{
+    kitchen.execute(
+        u"UPDATE Company SET DefaultCurrencyID = 2, ClientInvoiceLineItems = 'S', InvoiceFormat = 'X'"_s);
+    open();
+    focus("wwDBComboBoxClientLineItems");
+    auto *items = child<QComboBox>(*screen, "wwDBComboBoxClientLineItems");
+    EXPECT_EQ(items->currentText(), u"Summarized by item"_s);
+    type("D");
+    EXPECT_EQ(items->currentText(), u"Detailed by delivery date"_s);
+    auto *format = child<QComboBox>(*screen, "wwDBComboBoxInvoiceFormat");
+    EXPECT_EQ(format->currentText(), QString()) << "no choice stands for what is stored";
+    QWheelEvent turn({}, format->mapToGlobal(QPoint()), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(format, &turn);
+    EXPECT_EQ(format->currentText(), QString());
+    focus("cboCurrency");
+    EXPECT_EQ(child<QComboBox>(*screen, "cboCurrency")->currentText(), u"Far"_s);
+    press(Qt::Key_Delete);
+    enter("DBEditDefaultNetDays", "45");
+    click("btnOK");
+    EXPECT_EQ(kitchen.rows(u"SELECT ClientInvoiceLineItems, InvoiceFormat, DefaultCurrencyID, DefaultNetDays "
+                           "FROM Company"_s),
+              QStringList{u"D|X||45"_s});
+}
+
+TEST_F(CompanyScreen, NotesWrapAsTheUserLikes)
+{
+    open();
+    focus("memoNotes");
+    auto *notes = child<QPlainTextEdit>(*screen, "memoNotes");
+    auto *wrap = child<QAction>(*notes, "mnuWordWrap");
+    EXPECT_EQ(notes->actions(), QList<QAction *>{wrap});
+    EXPECT_TRUE(wrap->isChecked());
+    EXPECT_EQ(notes->lineWrapMode(), QPlainTextEdit::WidgetWidth);
+    EXPECT_EQ(notes->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    wrap->trigger();
+    EXPECT_EQ(notes->lineWrapMode(), QPlainTextEdit::NoWrap);
+    EXPECT_EQ(notes->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+    type("two");
+    press(Qt::Key_Return);
+    type("lines");
+    click("btnOK");
+    EXPECT_EQ(stored(u"Notes"), u"two\nlines"_s);
+}
+
+TEST_F(CompanyScreen, AskedForAgainItShowsWhatIsStoredUnlessSomethingIsEntered)
+{
+    open();
+    focus("memoNotes");
+    kitchen.execute(u"UPDATE Company SET TaxNo = 'theirs'"_s);
+    screen->showAgain();
+    EXPECT_EQ(shown("editTaxNo"), u"theirs"_s);
+    EXPECT_EQ(focusName(), u"editCompanyName"_s);
+    enter("editTaxNo", "mine");
+    kitchen.execute(u"UPDATE Company SET TaxNo = 'again'"_s);
+    screen->showAgain();
+    EXPECT_EQ(shown("editTaxNo"), u"mine"_s);
+    EXPECT_EQ(stored(u"TaxNo"), u"again"_s) << "nothing was saved unasked";
+    press(Qt::Key_Escape);
+    EXPECT_EQ(prompts.take(), QStringList{u"Do you want to save changes?"_s});
+    ASSERT_TRUE(screen) << "Cancel";
+    prompts.answer = Answer::No;
+    screen->close();
+    EXPECT_EQ(stored(u"TaxNo"), u"again"_s);
+}
+
+TEST_F(CompanyScreen, AnEmptyTableGetsItsRecordWhenItIsSaved)
+{
+    kitchen.execute(u"DELETE FROM Company"_s);
+    open();
+    screen->close();
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Company"_s), 0) << "untouched";
+    EXPECT_TRUE(prompts.said.isEmpty());
+    open();
+    click("btnOK");
+    EXPECT_EQ(stored(u"CompanyName"), u"Test Kitchen"_s);
+    EXPECT_EQ(data->tblCompany().recordCount(), 1);
+}
+
+TEST_F(CompanyScreen, TheYearEndIsEnteredAndSavedByOk)
+{
+    open();
+    auto *button = child<QToolButton>(*screen, "btnYearEnd");
+    EXPECT_TRUE(button->isEnabled());
+    button->click();
+    EXPECT_TRUE(prompts.said.isEmpty()) << "no year-end screen";
+    screen->yearEndScreen = [] { return true; };
+    focus("memoNotes");
+    button->click();
+    EXPECT_EQ(prompts.take().size(), 1);
+    EXPECT_EQ(shown("editFiscalYear") + shown("editWPeriodToPP"), u"20271"_s);
+    EXPECT_EQ(stored(u"FiscalYear"), u"2026"_s);
+    enter("editFiscalYear", "");
+    EXPECT_FALSE(button->isEnabled());
+    click("btnCancel");
+    EXPECT_EQ(stored(u"FiscalYear"), u"2026"_s);
+}
+
+TEST_F(CompanyScreen, HelpDoesNotAskForTheEntryInHand)
+{
+    QString topic;
+    context->showHelp = [&](const QString &name) { topic = name; };
+    open();
+    focus("editFiscalYear");
+    type("x");
+    focus("btnHelp");
+    click("btnHelp");
+    EXPECT_EQ(topic, u"frmCompany"_s);
+    EXPECT_TRUE(prompts.said.isEmpty());
+}

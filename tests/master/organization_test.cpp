@@ -1,0 +1,233 @@
+#include "master/organization.h"
+
+#include "data/fiscalperiod.h"
+#include "host/tables/hosttables.h"
+#include "master/masterkinds.h"
+#include "master/yearend.h"
+#include "tests/support/failures.h"
+#include "tests/transactions/kitchen.h"
+
+#include <QDate>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+const QString ranges = u"SELECT FiscalYear, DefaultPeriodPP, DefaultPeriodYYYY, WPeriodFromPP, WPeriodFromYYYY, "
+                       "WPeriodToPP, WPeriodToYYYY, EPeriodFromPP, EPeriodFromYYYY, EPeriodToPP, EPeriodToYYYY "
+                       "FROM Company"_s;
+
+class Organization : public testing::TestWithParam<Store>
+{
+protected:
+    Organization()
+    {
+        HostTables::createHostTables(kitchen.database(), u"Riverside Meals"_s, u"USA"_s);
+        kitchen.execute(u"UPDATE Config SET Org_Addr = '12 Mill Lane', Org_City = 'Troy'; "
+                        "UPDATE Company SET CompanyName = 'Riverside Meals'"_s);
+        record.open();
+    }
+
+    Kitchen kitchen{GetParam()};
+    MasterRecord record{kitchen.database(), MasterKinds::company()};
+    Engine::Table &company = record.table();
+};
+
+// The rules of the fields do not depend on the store.
+class OrganizationFields : public Organization
+{
+protected:
+    // What typing a text into a field of the organization says, or else leaves there.
+    QString typed(const QString &field, const QString &text)
+    {
+        company.edit();
+        const QString refusal = refusalOf([&] { company.setText(field, text); });
+        return refusal.isEmpty() ? company.text(field) : refusal;
+    }
+};
+
+} // namespace
+
+TEST_P(OrganizationFields, YearsAreTypedInTwoDigits)
+{
+    const std::pair<QString, QString> subjects[] = {
+        {u"FiscalYear"_s, u"Current Fiscal Year"_s},      {u"DefaultPeriodYYYY"_s, u"Default Period"_s},
+        {u"WPeriodFromYYYY"_s, u"Warn Before Period"_s},  {u"WPeriodToYYYY"_s, u"Warn After Period"_s},
+        {u"EPeriodFromYYYY"_s, u"Error Before Period"_s}, {u"EPeriodToYYYY"_s, u"Error After Period"_s}};
+    for (const auto &[field, subject] : subjects) {
+        const QString refusal = subject + u" invalid...\nEnter year as 2 digits -> "_s + field;
+        const std::pair<QString, QString> cases[] = {
+            {u"0"_s, u"2000"_s},    {u"7"_s, u"2007"_s},
+            {u"49"_s, u"2049"_s},   {u"50"_s, u"1950"_s},
+            {u" 99 "_s, u"1999"_s}, {u""_s, u""_s},
+            {u"2004"_s, refusal},   {u"100"_s, refusal},
+            {u"-1"_s, refusal},     {u"x4"_s, u"'x4' is not a valid integer value -> "_s + field}};
+        for (const auto &[text, expected] : cases)
+            EXPECT_EQ(typed(field, text), expected) << field.toStdString() << " " << text.toStdString();
+        EXPECT_EQ(typed(field, u"26"_s), u"2026"_s);
+        EXPECT_EQ(company.displayText(field), u"2026"_s);
+        EXPECT_EQ(company.field(field).editText(company.value(field)), u"26"_s);
+    }
+    EXPECT_TRUE((typed(u"EPeriodToYYYY"_s, u""_s), company.value(u"EPeriodToYYYY").isNull()));
+}
+
+TEST_P(OrganizationFields, PeriodsGoFrom1To12)
+{
+    for (const auto stem :
+         {"DefaultPeriod"_L1, "WPeriodFrom"_L1, "WPeriodTo"_L1, "EPeriodFrom"_L1, "EPeriodTo"_L1}) {
+        const QString field = stem + "PP"_L1;
+        EXPECT_EQ(typed(field, u"1"_s), u"1"_s);
+        EXPECT_EQ(typed(field, u"12"_s), u"12"_s);
+        for (const auto &outside : {u"0"_s, u"13"_s, u"-3"_s})
+            EXPECT_TRUE(typed(field, outside).endsWith(u"The allowed range is 1 to 12 -> "_s + field));
+        EXPECT_EQ(typed(field, u"1.5"_s), u"'1.5' is not a valid integer value -> "_s + field);
+        EXPECT_NE(refusalOf([&] { company.set(field, 13); }), QString());
+        EXPECT_EQ(company.integer(field), 12) << "what was there before";
+        EXPECT_EQ(typed(field, u""_s), QString());
+    }
+}
+
+TEST_P(OrganizationFields, NothingIsSavedWithoutNameAndFiscalYear)
+{
+    struct
+    {
+        QString name;
+        Engine::Value year;
+        QString refusal;
+    } const cases[] = {
+        {u""_s, 0, u"Field 'Company Name' must have a value -> CompanyName"_s},
+        {u"X"_s, {}, u"Fiscal Year must be between 1989 and 2050 -> FiscalYear"_s},
+        {u"X"_s, 1950, u"Fiscal Year must be between 1989 and 2050 -> FiscalYear"_s},
+        {u"X"_s, 1988, u"Fiscal Year must be between 1989 and 2050 -> FiscalYear"_s},
+        {u"X"_s, 2051, u"Fiscal Year must be between 1989 and 2050 -> FiscalYear"_s},
+        {u"X"_s, 1989, {}},
+        {u"X"_s, 2050, {}},
+    };
+    for (const auto &[name, year, refusal] : cases) {
+        company.edit();
+        company.set(u"CompanyName", name);
+        company.set(u"FiscalYear", year);
+        EXPECT_EQ(refusalOf([&] { record.save(); }), refusal);
+        EXPECT_EQ(company.isEditing(), !refusal.isEmpty());
+    }
+    EXPECT_EQ(kitchen.text(u"SELECT FiscalYear FROM Company"_s), u"2050"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(, OrganizationFields, testing::Values(Store::Local));
+
+TEST_P(Organization, TheFirstRecordIsBegunOnceWithItsDefaults)
+{
+    kitchen.execute(u"DELETE FROM Company"_s);
+    const int before = QDate::currentDate().year();
+    readOrganization(record);
+    readOrganization(record);
+    ASSERT_TRUE(record.isNew());
+    EXPECT_FALSE(company.isModified()) << "nobody has touched it";
+    EXPECT_TRUE(company.integer(u"FiscalYear") == before
+                || company.integer(u"FiscalYear") == QDate::currentDate().year());
+    record.save();
+    EXPECT_EQ(kitchen.rows(u"SELECT CompanyNo, CompanyName, AddressLine1, ARInvoiceStyle, ARInvoiceCopies, "
+                           "ApplicationVersion FROM Company WHERE ARInvoiceAustralia = false"_s),
+              QStringList{u"1|Riverside Meals|12 Mill Lane|0|1|2.55"_s});
+}
+
+TEST_P(Organization, ThereIsNoSecondRecord)
+{
+    kitchen.execute(u"DELETE FROM Company"_s);
+    readOrganization(record);
+    kitchen.execute(u"INSERT INTO Company (CompanyNo, CompanyName) VALUES (1, 'Theirs')"_s);
+    EXPECT_EQ(errorOf([&] { record.save(); }), Engine::ErrorCode::KeyViolation);
+    EXPECT_TRUE(record.isNew()) << "with its values, to be dropped or saved later";
+    EXPECT_EQ(kitchen.rows(u"SELECT CompanyNo, CompanyName FROM Company"_s), QStringList{u"1|Theirs"_s});
+}
+
+TEST_P(Organization, WhatOthersSaveIsReadAgainButNotOverAnEdit)
+{
+    const auto other = kitchen.anotherUser();
+    kitchen.session().lockAttempts = 1;
+    Engine::Table theirs(other->database, u"Company"_s);
+    theirs.open();
+    theirs.edit();
+    QString text;
+    EXPECT_EQ(errorOf([&] { company.edit(); }, &text), Engine::ErrorCode::RecordLocked);
+    EXPECT_TRUE(text.contains(u"Riverside Meals"_s)) << text.toStdString();
+    theirs.set(u"FiscalYear", 2027);
+    theirs.post();
+    readOrganization(record);
+    EXPECT_EQ(company.integer(u"FiscalYear"), 2027);
+
+    company.edit();
+    company.set(u"FiscalYear", 2030);
+    readOrganization(record);
+    EXPECT_TRUE(company.isEditing());
+    EXPECT_EQ(company.integer(u"FiscalYear"), 2030);
+    EXPECT_EQ(kitchen.number(u"SELECT FiscalYear FROM Company"_s), 2027);
+}
+
+// Bounds that are set together with what documents make of them.
+TEST_P(Organization, RangesGuardDocumentsAsTheyAreEntered)
+{
+    company.edit();
+    const std::pair<QString, QString> entries[] = {{u"EPeriodFromPP"_s, u"1"_s}, {u"EPeriodFromYYYY"_s, u"26"_s},
+                                                   {u"EPeriodToPP"_s, u"12"_s},  {u"EPeriodToYYYY"_s, u"26"_s},
+                                                   {u"WPeriodFromPP"_s, u"3"_s}, {u"WPeriodFromYYYY"_s, u"26"_s},
+                                                   {u"WPeriodToPP"_s, u""_s},    {u"WPeriodToYYYY"_s, u""_s}};
+    for (const auto &[field, text] : entries)
+        company.setText(field, text);
+    record.save();
+    const FiscalSettings settings = FiscalSettings::of(company);
+    EXPECT_EQ(judgePeriod(settings, {2026, 2}), PeriodVerdict::NotExpected);
+    EXPECT_EQ(judgePeriod(settings, {2026, 12}), PeriodVerdict::Fine) << "no upper bound to warn of";
+    EXPECT_EQ(judgePeriod(settings, {2027, 1}), PeriodVerdict::NotAllowed);
+}
+
+TEST_P(Organization, TheYearEndMovesEverythingToTheFirstPeriodOfTheNextYear)
+{
+    kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = 0, WPeriodFromPP = 5, WPeriodFromYYYY = 2026, "
+                    "EPeriodToPP = 12, EPeriodToYYYY = 2026"_s);
+    company.refresh();
+    YearEnd yearEnd(company);
+    SpokenPrompts prompts;
+    bool raised = false;
+    company.field(u"EPeriodToPP").changed = [&] { raised = YearEnd::isUnderWay(); };
+
+    EXPECT_EQ(refusalOf([&] { yearEnd.run([] { return false; }, prompts); }), u"silent -> "_s);
+    EXPECT_TRUE(prompts.said.isEmpty()) << "the year-end screen was not closed with OK";
+    prompts.ok = false;
+    EXPECT_EQ(refusalOf([&] { yearEnd.run([] { return true; }, prompts); }), u"silent -> "_s);
+    EXPECT_FALSE(company.isEditing());
+    EXPECT_EQ(
+        prompts.take(),
+        QStringList{u"Confirm: Year End: Permanently close 2026?\n\nGL balances have been carried forward, etc. "
+                    "so you can now print financial statements for 2027.  You can leave 2026 open if there will "
+                    "be more transactions."_s});
+
+    prompts.ok = true;
+    yearEnd.run([] { return true; }, prompts);
+    EXPECT_TRUE(raised);
+    EXPECT_FALSE(YearEnd::isUnderWay());
+    EXPECT_EQ(kitchen.number(u"SELECT FiscalYear FROM Company"_s), 2026) << "saving is the user's";
+    record.save();
+    EXPECT_EQ(kitchen.rows(ranges), QStringList{u"2027|0|2027|1|2027|1|2027|1|2027|1|2027"_s});
+}
+
+TEST_P(Organization, AYearEndThatIsRefusedEndsAllTheSame)
+{
+    const auto other = kitchen.anotherUser();
+    kitchen.session().lockAttempts = 1;
+    Engine::Table theirs(other->database, u"Company"_s);
+    theirs.open();
+    theirs.edit();
+    YearEnd yearEnd(company);
+    SpokenPrompts prompts;
+    EXPECT_EQ(errorOf([&] { yearEnd.run([] { return true; }, prompts); }), Engine::ErrorCode::RecordLocked);
+    EXPECT_FALSE(YearEnd::isUnderWay());
+    EXPECT_TRUE(yearEnd.isPossible());
+    theirs.set(u"FiscalYear", Engine::Value());
+    theirs.post();
+    readOrganization(record);
+    EXPECT_FALSE(yearEnd.isPossible()) << "there is no year to close";
+}
+
+ON_BOTH_STORES(Organization);
