@@ -7,6 +7,7 @@ namespace Tallymere {
 
 namespace {
 constexpr double designPixelsPerInch = 96.0;
+constexpr auto furtherProperty = "furtherScreen";
 } // namespace
 
 double fontFactor(const QWidget *widget) { return widget->logicalDpiX() / designPixelsPerInch; }
@@ -35,11 +36,13 @@ void bringToFront(QWidget &window)
     window.activateWindow();
 }
 
+void markAsFurther(QWidget &window) { window.setProperty(furtherProperty, true); }
+
 QWidget *findScreen(const QString &name)
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        if (window->objectName() == name)
+        if (window->objectName() == name && !window->property(furtherProperty).toBool())
             return window;
     }
     return nullptr;

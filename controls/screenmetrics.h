@@ -21,7 +21,9 @@ void fitToScreen(QWidget *window);
 // Shows a window, not minimised, in front of the others and active.
 void bringToFront(QWidget &window);
 
-// The open window with the component name, or nullptr.
+// The open window with the component name, or nullptr. Where several are open it is the one that commands lead to, not
+// a further one.
+void markAsFurther(QWidget &window);
 QWidget *findScreen(const QString &name);
 template <typename Screen> Screen *findScreen(const QString &name)
 {

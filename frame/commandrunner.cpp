@@ -110,6 +110,27 @@ QWidget *CommandRunner::open(const QString &screenName, ScreenContext &context) 
     return screen;
 }
 
+QWidget *CommandRunner::openAnother(const QString &screenName, ScreenContext &context) const
+{
+    const ScreenKind *kind = m_screens.find(screenName);
+    if (!kind || !kind->create)
+        return nullptr;
+    const bool further = findScreen(screenName) != nullptr;
+    QWidget *screen = kind->create(context, m_parent);
+    if (further)
+        markAsFurther(*screen);
+    bringToFront(*screen);
+    return screen;
+}
+
+void CommandRunner::refresh(const QString &screenName) const
+{
+    const ScreenKind *kind = m_screens.find(screenName);
+    QWidget *screen = findScreen(screenName);
+    if (kind && screen)
+        call(kind->refresh, *screen);
+}
+
 CommandRunner::Found CommandRunner::findOrCreate(const QString &name, const ScreenKind &kind,
                                                  ScreenContext &context) const
 {

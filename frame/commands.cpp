@@ -1,5 +1,7 @@
 #include "frame/commands.h"
 
+#include "frame/synchronization.h"
+
 #include <QtGlobal>
 
 using namespace Qt::StringLiterals;
@@ -135,9 +137,11 @@ constexpr Command table[] = {
      .rightsName = "Inventory History"_L1,
      .screen = "frmInvHistory"_L1,
      .opening = Opening::ListPattern},
-    {.action = "ActionSynchronizeLocations"_L1, .caption = TEXT("Synchronize Locations")},
-    {.action = "ActionSynchronizeItems"_L1, .caption = TEXT("Synchronize Items")},
-    {.action = "ActionSynchronizeClients"_L1, .caption = TEXT("Synchronize Clients")},
+    {.action = "ActionSynchronizeLocations"_L1,
+     .caption = TEXT("Synchronize Locations"),
+     .job = synchronizeLocations},
+    {.action = "ActionSynchronizeItems"_L1, .caption = TEXT("Synchronize Items"), .job = synchronizeItems},
+    {.action = "ActionSynchronizeClients"_L1, .caption = TEXT("Synchronize Clients"), .job = synchronizeClients},
     {.action = "ActionPrintPayments"_L1, .caption = TEXT("Print Payments")},
 };
 

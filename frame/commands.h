@@ -3,7 +3,12 @@
 #include <QLatin1StringView>
 #include <span>
 
+class QProgressBar;
+
 namespace Tallymere {
+
+class CommandRunner;
+struct ScreenContext;
 
 // How a command opens its screen.
 enum class Opening {
@@ -14,6 +19,14 @@ enum class Opening {
     ShowModalOnce, // created anew, shown modally, freed
     Post, // created if absent and not shown; its post command runs
     None, // nothing to open
+};
+
+// What a command that opens no screen works with.
+struct CommandSite
+{
+    ScreenContext &context;
+    const CommandRunner &screens;
+    QProgressBar &progress; // of the status bar
 };
 
 // One action of the main window as data. The rights key and name are what SecurityCheck is asked; an empty key asks
@@ -31,6 +44,7 @@ struct Command
     bool restore = true; // a minimised screen comes back to normal
     bool hourglass = true;
     bool firstRecord = false; // moves to the first record before showing
+    void (*job)(const CommandSite &) = nullptr; // what is done instead of opening a screen
 };
 
 std::span<const Command> commands();

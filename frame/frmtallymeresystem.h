@@ -83,6 +83,7 @@ protected:
 
 private:
     void createActions();
+    void runCommand(const Command &command);
     void bindControls();
     void createStatusBar();
     void scaleSizes();
@@ -102,6 +103,7 @@ private:
     QObject *m_actionList;
     QLabel *m_leftPane = nullptr;
     QLabel *m_hintPane = nullptr;
+    QProgressBar *m_progress = nullptr;
 
     QPointer<QWidget> m_parent; // the host's window
     InterfaceRef<IHostInterface> m_host;

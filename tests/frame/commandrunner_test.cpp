@@ -109,3 +109,18 @@ TEST_F(CommandRunnerTest, OpeningByNameKnowsOnlyScreensThatExist)
     EXPECT_EQ(runner.open(u"frmInvTotals"_s, context.context), opened);
     EXPECT_EQ(runner.open(u"frmBanksInv"_s, context.context), nullptr);
 }
+
+TEST_F(CommandRunnerTest, CommandsGoOnToLeadToTheFirstOfSeveralScreens)
+{
+    const auto name = u"frmInvTotals"_s;
+    addScreen(name);
+    QWidget *first = runner.openAnother(name, context.context);
+    ASSERT_NE(first, nullptr);
+    QWidget *further = runner.openAnother(name, context.context);
+    EXPECT_NE(further, first);
+    EXPECT_TRUE(first->isVisible() && further->isVisible());
+    EXPECT_EQ(runner.open(name, context.context), first);
+    delete first;
+    EXPECT_NE(runner.open(name, context.context), further);
+    EXPECT_EQ(runner.openAnother(u"frmBanksInv"_s, context.context), nullptr);
+}

@@ -79,7 +79,8 @@ protected:
     ScreenRegistry oneScreen()
     {
         ScreenRegistry registry;
-        const auto create = [this](ScreenContext &, QWidget *parent) {
+        const auto create = [this](ScreenContext &given, QWidget *parent) {
+            context = &given;
             screen = new StubbornScreen(parent, Qt::Window);
             screen->setObjectName(u"frmInvTotals"_s);
             return screen.data();
@@ -90,6 +91,7 @@ protected:
 
     TestCompany company;
     QPointer<StubbornScreen> screen;
+    ScreenContext *context = nullptr; // that the screen was given
     ScreenRegistry screens = oneScreen();
     HostStub host;
     QMenu menu;
@@ -234,4 +236,21 @@ TEST_F(OpeningTest, EnterPressesTheFocusedButtonAndHintsGoToTheStatusBar)
         QTest::keyClick(close, Qt::Key_Return);
         EXPECT_FALSE(form.isVisible());
     }));
+}
+
+TEST_F(OpeningTest, AScreenRunsItsCommandsAndOpensFurtherScreens)
+{
+    link(&host);
+    company.prompts.ok = false;
+    EXPECT_TRUE(open([this] {
+        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
+        const QPointer<StubbornScreen> first = screen;
+        context->openAnotherScreen(u"frmInvTotals"_s);
+        EXPECT_NE(screen, first);
+        context->runAction(u"ActionSynchronizeLocations"_s);
+        form.findChild<QAction *>(u"mnuSynchronizeLocations"_s)->trigger();
+        context->runAction(u"ActionPrintPayments"_s); // not available
+    }));
+    EXPECT_EQ(company.prompts.said.size(), 2);
+    EXPECT_TRUE(company.prompts.last().contains(u"Insert any Corvane locations"_s));
 }

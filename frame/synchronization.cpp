@@ -1,0 +1,96 @@
+#include "frame/synchronization.h"
+
+#include "controls/barprogress.h"
+#include "controls/guard.h"
+#include "controls/screencontext.h"
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "data/lookupsdatainv.h"
+#include "data/utilsinv.h"
+#include "frame/commandrunner.h"
+#include "frame/commands.h"
+#include "frame/tracescope.h"
+#include "master/itemsync.h"
+#include "master/locationsync.h"
+
+#include <QCoreApplication>
+#include <QProgressBar>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("Synchronization", text); }
+
+// Empty before the work and when it is over.
+class EmptyAfterwards
+{
+public:
+    explicit EmptyAfterwards(QProgressBar &bar)
+        : m_bar(bar)
+    {
+        empty();
+    }
+    ~EmptyAfterwards() { empty(); }
+    EmptyAfterwards(const EmptyAfterwards &) = delete;
+    EmptyAfterwards &operator=(const EmptyAfterwards &) = delete;
+
+private:
+    void empty()
+    {
+        m_bar.setRange(0, 100);
+        m_bar.setValue(0);
+    }
+
+    QProgressBar &m_bar;
+};
+
+// What has come in, for the lists that show it.
+struct Lists
+{
+    QList<Engine::Table *> lookups;
+    QString screen;
+};
+
+template <typename Sync> void synchronize(const CommandSite &site, const Lists &lists)
+{
+    const EmptyAfterwards bar(site.progress);
+    const WaitCursor hourglass;
+    BarProgress progress(&site.progress);
+    const std::exception_ptr failure =
+        Guard::attempt([&] { Sync(site.context.data.databaseTallymere()).run(progress); });
+    const std::exception_ptr staleLists = Guard::attempt([&] {
+        tables(u"R"_s, lists.lookups);
+        site.screens.refresh(lists.screen);
+    });
+    for (const std::exception_ptr &each : {failure, staleLists}) {
+        if (each)
+            std::rethrow_exception(each);
+    }
+    site.context.prompts.inform(tr("Succesfully completed the synchronization."));
+}
+
+} // namespace
+
+void synchronizeLocations(const CommandSite &site)
+{
+    const TraceScope scope("TFormTallymereSystem.ActionSynchronizeLocationsExecute");
+    const QString question = tr("Insert any Corvane locations into the \nLedgerwick locations table?");
+    if (!site.context.prompts.confirm(Question::YesNo, question))
+        return;
+    synchronize<LocationSync>(
+        site, {{&site.context.lookups.tblWarehse(), &site.context.data.tableWarehouse()}, u"frmWarehousesInv"_s});
+}
+
+void synchronizeItems(const CommandSite &site)
+{
+    const TraceScope scope("TFormTallymereSystem.ActionSynchronizeItemsExecute");
+    synchronize<ItemSync>(site,
+                          {{&site.context.lookups.tblItem(), &site.context.data.tableItemCtl()}, u"frmItemsInv"_s});
+}
+
+void synchronizeClients(const CommandSite &) { }
+
+} // namespace Tallymere

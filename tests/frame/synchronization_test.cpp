@@ -1,0 +1,97 @@
+#include "frame/synchronization.h"
+
+#include "engine/table.h"
+#include "frame/commandrunner.h"
+#include "frame/commands.h"
+#include "tests/frame/testcompany.h"
+#include "tests/support/failures.h"
+
+#include <QApplication>
+#include <QProgressBar>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+const auto question = u"Confirm: Insert any Corvane locations into the \nLedgerwick locations table?"_s;
+const auto done = u"inform: Succesfully completed the synchronization."_s;
+
+class SynchronizationTest : public testing::Test
+{
+protected:
+    SynchronizationTest()
+    {
+        for (const QString &name : {u"frmWarehousesInv"_s, u"frmItemsInv"_s}) {
+            ScreenKind kind = plainScreen();
+            kind.refresh = [this, name](QWidget &) { refreshed << name; };
+            screens.add(name, kind);
+            m_lists.emplace_back().setObjectName(name);
+        }
+        database().connection().execute(
+            u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'North'); "
+            "INSERT INTO Items (Item_ID, Meal_Item, Billed_Amount, Meal) VALUES (5, 'Soup', 1.5, 'L')"_s);
+        context.lookups.tblWarehse().refresh();
+    }
+    ~SynchronizationTest() override
+    {
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the hourglass is still there";
+        EXPECT_EQ(bar.value(), 0);
+        EXPECT_EQ(bar.maximum(), 100);
+    }
+
+    Engine::Database &database() { return context.data.databaseTallymere(); }
+    int count(Engine::Table &table) { return table.recordCount(); }
+
+    TestContext context;
+    SpokenPrompts &prompts = context.company.prompts;
+    ScreenRegistry screens;
+    QStringList refreshed;
+    QProgressBar bar;
+
+private:
+    std::deque<QWidget> m_lists;
+    CommandRunner m_runner{screens, nullptr};
+
+protected:
+    const CommandSite site{context.context, m_runner, bar};
+};
+
+} // namespace
+
+TEST_F(SynchronizationTest, LocationsComeInAfterAYesOnly)
+{
+    prompts.ok = false;
+    synchronizeLocations(site);
+    EXPECT_EQ(prompts.take(), QStringList(question));
+    EXPECT_EQ(count(context.lookups.tblWarehse()), 1);
+    EXPECT_EQ(refreshed, QStringList());
+
+    prompts.ok = true;
+    prompts.onInform = [this] { EXPECT_EQ(bar.value(), bar.maximum()); };
+    synchronizeLocations(site);
+    EXPECT_EQ(prompts.take(), (QStringList{question, done}));
+    EXPECT_EQ(count(context.lookups.tblWarehse()), 2) << "drop-down lists show what has come in";
+    EXPECT_EQ(refreshed, QStringList(u"frmWarehousesInv"_s));
+}
+
+TEST_F(SynchronizationTest, ItemsComeInUnaskedAndAFailureIsRaised)
+{
+    const int before = count(context.lookups.tblItem());
+    {
+        Engine::Session session(u"Anna"_s);
+        Engine::Database other(session, databaseName);
+        other.directory = context.company.folder();
+        Engine::Table table(other, u"Item"_s);
+        table.open();
+        table.lockTable();
+        EXPECT_EQ(errorOf([this] { synchronizeItems(site); }), Engine::ErrorCode::TableLocked);
+        EXPECT_EQ(prompts.take(), QStringList());
+        EXPECT_EQ(bar.value(), 0);
+    }
+    refreshed.clear();
+    synchronizeItems(site);
+    EXPECT_EQ(prompts.take(), QStringList(done));
+    EXPECT_EQ(count(context.lookups.tblItem()), before + 1);
+    EXPECT_EQ(refreshed, QStringList(u"frmItemsInv"_s));
+}
