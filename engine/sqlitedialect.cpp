@@ -203,10 +203,11 @@ QString SqliteDialect::orderTerm(const QString &column, bool caseInsensitive, bo
 
 QString SqliteDialect::rowIdentity() const { return u"rowid"_s; }
 
-// A cast alone would read "12 eggs" as 12.
+// A cast alone would read "12 eggs" as 12. Plain digits, which are the rule, are told first.
 QString SqliteDialect::wholeNumberOf(const QString &text) const
 {
-    return u"CASE WHEN trim(%1) GLOB '[-+0-9]*' AND substr(trim(%1), 2) NOT GLOB '*[^0-9]*' AND %1 GLOB '*[0-9]*' "
+    return u"CASE WHEN %1 NOT GLOB '*[^0-9]*' AND length(%1) BETWEEN 1 AND 18 THEN CAST(%1 AS INTEGER) "
+           "WHEN trim(%1) GLOB '[-+0-9]*' AND substr(trim(%1), 2) NOT GLOB '*[^0-9]*' AND %1 GLOB '*[0-9]*' "
            "AND length(ltrim(trim(%1), '-+0')) <= 18 THEN CAST(trim(%1) AS INTEGER) END"_s.arg(text);
 }
 
