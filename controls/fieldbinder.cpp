@@ -151,6 +151,7 @@ void FieldBinder::startEdit(FieldBinding &binding)
     if (!failure)
         return;
     binding.show();
+    selectText(binding.widget());
     reportLater(failure);
 }
 

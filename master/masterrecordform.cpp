@@ -37,8 +37,10 @@ void MasterRecordScreen::followName()
 {
     const QString nameField = m_record.kind().nameFields.constLast();
     if (auto *edit = qobject_cast<QLineEdit *>(binder().widgetFor(nameField)))
-        connect(edit, &QLineEdit::textEdited, this,
-                [this](const QString &name) { setWindowTitle(m_record.captionFor(name)); });
+        connect(edit, &QLineEdit::textEdited, this, [this, edit] {
+            // What was typed may have been taken back already.
+            setWindowTitle(m_record.captionFor(edit->text()));
+        });
 }
 
 void MasterRecordScreen::recordChanged()

@@ -21,7 +21,8 @@ inline void showActive(QWidget &window)
 {
     window.show();
     window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    // Of windows with the same parent, Qt calls all active when one of them is.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }));
 }
 
 // Keys go to whatever has the focus, as from a keyboard.
@@ -39,6 +40,19 @@ inline void type(const char *text)
     ASSERT_NE(target, nullptr);
     for (const char *c = text; *c; ++c)
         QTest::keyClick(QApplication::focusWidget(), *c);
+    QCoreApplication::processEvents();
+}
+
+// The same for any text: characters that a keyboard may not have come as from an input method.
+inline void type(const QString &text)
+{
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const qsizetype units = text[i].isHighSurrogate() ? 2 : 1;
+        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_unknown, text.mid(i, units),
+                            Qt::NoModifier);
+        i += units - 1;
+    }
     QCoreApplication::processEvents();
 }
 

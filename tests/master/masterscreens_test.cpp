@@ -1,0 +1,277 @@
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "master/masterkinds.h"
+#include "master/masterlistform.h"
+#include "master/masterrecordform.h"
+#include "master/masterscreensform.h"
+#include "tests/transactions/screentest.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTableView>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+const QString strangeName = u"O'N \"5%\" [é;] 🍮"_s;
+
+// A list whose records are entered on one page and consist of a name and little else.
+struct Plain
+{
+    const MasterKind &kind;
+    QString caption; // of the list
+    QString recordCaption; // of a record without name
+    QString newCaption;
+    QString nameRefusal;
+    QString nameBox;
+    std::vector<std::pair<const char *, const char *>> entries; // what else is typed, and where
+    QStringList shown; // the row that comes of it, after its name
+    QString stored;
+};
+
+const std::vector<Plain> &plainLists()
+{
+    static const std::vector<Plain> lists = {
+        {MasterKinds::tax(),
+         u"Taxes"_s,
+         u"Tax"_s,
+         u"New Tax"_s,
+         u"Field 'Tax Name' must have a value"_s,
+         u"editTaxName"_s,
+         {{"editRate", "7.5"}, {"editTaxCode", "PX"}, {"editTaxDescription", "PST"}},
+         {u"7.5"_s, u"P"_s, u"PST"_s},
+         u"SELECT TaxName, TaxID, Rate, TaxCode, TaxDescription FROM Tax -> |1|7.5|P|PST"_s},
+        {MasterKinds::currency(),
+         u"Currencies"_s,
+         u"Currency"_s,
+         u"New Currency"_s,
+         u"Field 'Currency Name' must have a value"_s,
+         u"editCurrencyName"_s,
+         {{"editExchangeRate", "0.8125"}},
+         {u"0.8125"_s},
+         u"SELECT CurrencyName, CurrencyID, ExchangeRate FROM Currency -> |4|0.8125"_s},
+        {MasterKinds::bank(),
+         u"Banks"_s,
+         u"Bank"_s,
+         u"New Bank"_s,
+         u"Field 'Bank Name' must have a value"_s,
+         u"editBankName"_s,
+         {{"cboCurrency", "fa"}},
+         {u"Far"_s},
+         u"SELECT BankName, BankID, CurrencyID FROM Bank -> |2|2"_s},
+        {MasterKinds::itemType(),
+         u"Item Types"_s,
+         u"Item Type"_s,
+         u"New Item Type"_s,
+         u"Field 'Type Name' must have a value"_s,
+         u"editTypeName"_s,
+         {{"chkInventory", " "}, {"radioStandard", " "}},
+         {},
+         u"SELECT TypeName, ItemTypeID, Inventory, CostingMethod FROM ItemType -> |7|true|2"_s},
+        {MasterKinds::location(),
+         u"Locations"_s,
+         u"Location"_s,
+         u"New Location"_s,
+         u"Field 'Location Name' must have a value"_s,
+         u"editWarehouseName"_s,
+         {},
+         {},
+         u"SELECT WarehouseName, WarehouseID FROM Warehse -> |3"_s},
+    };
+    return lists;
+}
+
+class MasterScreens : public ScreenTest
+{
+protected:
+    MasterScreens() { kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (6, 'Other')"_s); }
+
+    void openList(const MasterKind &kind)
+    {
+        const auto found = std::find_if(masterScreens().begin(), masterScreens().end(),
+                                        [&](const MasterScreen &screen) { return &screen.kind == &kind; });
+        ASSERT_NE(found, masterScreens().end());
+        list = found->make(*context, mainWindow.get());
+        grid = child<QTableView>(*list, "DBGrid1");
+        showActive(*list);
+    }
+    // Presses a button by its letter; it goes down visibly before it acts.
+    static void pressButton(Qt::Key letter, const std::function<bool()> &acted)
+    {
+        press(letter, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor(acted));
+    }
+    // The record's screen that the list has opened.
+    void takeRecord(const MasterKind &kind)
+    {
+        record = findScreen<MasterRecordScreen>(kind.screen);
+        ASSERT_TRUE(record);
+        showActive(*record);
+    }
+    void click(QWidget &window, const char *button) { child<QPushButton>(window, button)->click(); }
+    QStringList currentRow()
+    {
+        QStringList cells;
+        for (int column = 0; column < grid->model()->columnCount(); ++column)
+            cells << grid->currentIndex().siblingAtColumn(column).data().toString();
+        return cells;
+    }
+
+    QPointer<MasterListScreen> list;
+    QPointer<MasterRecordScreen> record;
+    QTableView *grid = nullptr;
+};
+
+} // namespace
+
+TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
+{
+    for (const Plain &plain : plainLists()) {
+        SCOPED_TRACE(plain.caption.toStdString());
+        openList(plain.kind);
+        EXPECT_EQ(list->windowTitle(), plain.caption);
+        const int rowsBefore = grid->model()->rowCount();
+
+        // a new record, by the keyboard
+        pressButton(Qt::Key_N, [&] { return findScreen(plain.kind.screen) != nullptr; });
+        takeRecord(plain.kind);
+        EXPECT_EQ(record->windowTitle(), plain.newCaption);
+        EXPECT_EQ(focusName(), plain.nameBox);
+        pressButton(Qt::Key_O, [this] { return !prompts.said.isEmpty(); });
+        EXPECT_EQ(prompts.take(), QStringList(u"error: "_s + plain.nameRefusal));
+        EXPECT_TRUE(record->isVisible());
+        EXPECT_EQ(focusName(), plain.nameBox);
+        type(strangeName);
+        EXPECT_EQ(record->windowTitle(), strangeName) << "while it is typed";
+        press(Qt::Key_Return);
+        for (const auto &[field, text] : plain.entries) {
+            child<QWidget>(*record, field)->setFocus();
+            type(text);
+            press(Qt::Key_Return); // as Tab
+        }
+        pressButton(Qt::Key_O, [this] { return !record; });
+        EXPECT_EQ(prompts.take(), QStringList());
+        EXPECT_EQ(grid->model()->rowCount(), rowsBefore + 1);
+        EXPECT_EQ(currentRow(), QStringList(strangeName) + plain.shown) << "the list stands on it";
+        const QStringList stored = plain.stored.split(u" -> "_s);
+        EXPECT_TRUE(kitchen.rows(stored.first()).contains(strangeName + stored.last()));
+
+        // opened again and left untouched, then changed
+        showActive(*list);
+        press(Qt::Key_Return);
+        takeRecord(plain.kind);
+        EXPECT_EQ(record->windowTitle(), strangeName);
+        press(Qt::Key_Escape);
+        settle();
+        EXPECT_FALSE(record);
+        EXPECT_EQ(prompts.take(), QStringList());
+        showActive(*list);
+        press(Qt::Key_Return);
+        takeRecord(plain.kind);
+        type("Zz");
+        press(Qt::Key_Escape);
+        EXPECT_EQ(record->windowTitle(), strangeName) << "taken back";
+        type("Zz");
+        prompts.answer = Answer::Cancel;
+        record->close();
+        EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s));
+        EXPECT_TRUE(record->isVisible());
+        prompts.answer = Answer::Yes;
+        record->close();
+        settle();
+        EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s));
+        EXPECT_EQ(currentRow(), QStringList(u"Zz"_s) + plain.shown);
+
+        // deleted
+        showActive(*list);
+        pressButton(Qt::Key_D, [this] { return !prompts.said.isEmpty(); });
+        EXPECT_EQ(prompts.take(), QStringList(u"Confirm: Delete 'Zz'?"_s));
+        EXPECT_EQ(grid->model()->rowCount(), rowsBefore);
+        list->close();
+        settle();
+    }
+}
+
+TEST_F(MasterScreens, DropOrKeepWhatIsNew)
+{
+    for (const Plain &plain : plainLists()) {
+        SCOPED_TRACE(plain.caption.toStdString());
+        openList(plain.kind);
+        const int rowsBefore = grid->model()->rowCount();
+        click(*list, "btnNew");
+        takeRecord(plain.kind);
+        record->close();
+        settle();
+        EXPECT_FALSE(record) << "nobody has touched it";
+        EXPECT_EQ(prompts.take(), QStringList());
+
+        click(*list, "btnNew");
+        takeRecord(plain.kind);
+        type("Zz");
+        prompts.answer = Answer::No;
+        record->close();
+        settle();
+        EXPECT_FALSE(record);
+        EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s));
+        list->refreshList();
+        EXPECT_EQ(grid->model()->rowCount(), rowsBefore);
+        list->close();
+        settle();
+    }
+}
+
+// Whatever somebody else does to a record that is shown, the user is told and nothing of it is lost.
+TEST_F(MasterScreens, TellOfOtherUsers)
+{
+    const auto anna = kitchen.anotherUser();
+    MasterRecord theirs(anna->database, MasterKinds::currency());
+    theirs.open();
+    openList(MasterKinds::currency());
+    ASSERT_TRUE(list->moveToKey(2));
+    press(Qt::Key_Return);
+    takeRecord(MasterKinds::currency());
+
+    ASSERT_TRUE(theirs.openRecord(2));
+    theirs.table().edit();
+    type("M");
+    ASSERT_EQ(prompts.said.size(), 1);
+    EXPECT_TRUE(prompts.take().first().startsWith("error: 'Far' is being edited by another user (anna"_L1));
+    EXPECT_EQ(child<QLineEdit>(*record, "editCurrencyName")->text(), u"Far");
+    EXPECT_EQ(record->windowTitle(), u"Far");
+    theirs.table().set(u"ExchangeRate", 0.5);
+    theirs.save();
+
+    type("Mine");
+    click(*record, "btnOK");
+    settle();
+    EXPECT_EQ(kitchen.rows(u"SELECT CurrencyName, ExchangeRate FROM Currency WHERE CurrencyID = 2"_s),
+              QStringList{u"Mine|0.5"_s})
+        << "both changes are kept";
+    EXPECT_EQ(prompts.take(), QStringList());
+
+    showActive(*list);
+    press(Qt::Key_Return);
+    takeRecord(MasterKinds::currency());
+    kitchen.execute(u"DELETE FROM Currency WHERE CurrencyID = 2"_s);
+    type("M");
+    EXPECT_EQ(prompts.take(), QStringList(u"error: 'Mine' was deleted by another user."_s));
+    EXPECT_EQ(child<QLineEdit>(*record, "editCurrencyName")->text(), u"Mine");
+    record->close();
+    settle();
+    EXPECT_FALSE(record);
+
+    showActive(*list);
+    press(Qt::Key_Return);
+    EXPECT_EQ(prompts.take(), QStringList(u"error: 'Mine' was deleted by another user."_s));
+    EXPECT_EQ(grid->model()->rowCount(), 2) << "the list has been read anew";
+    kitchen.execute(u"DELETE FROM Currency WHERE CurrencyID = 1"_s);
+    ASSERT_TRUE(list->moveToKey(1));
+    click(*list, "btnDelete");
+    EXPECT_EQ(prompts.take(),
+              (QStringList{u"Confirm: Delete 'Home'?"_s, u"error: 'Home' was deleted by another user."_s}));
+    EXPECT_EQ(grid->model()->rowCount(), 1);
+}
