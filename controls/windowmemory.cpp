@@ -46,13 +46,13 @@ void WindowMemory::restore()
         }
     }
     standApart(m_window);
-    m_place = place();
+    m_place = m_window.geometry();
 }
 
 void WindowMemory::restorePlace()
 {
     if (const std::optional<QRect> kept = setFormPos(*m_settings, section(), placeKey))
-        moveToPlace(m_window, kept->topLeft(), kept->size() * fontFactor(&m_window));
+        moveToPlace(m_window, QRect(kept->topLeft(), kept->size() * fontFactor(&m_window)));
     m_kept.insert(maximizedKey, m_settings->read(formSetting(section()), maximizedKey));
     if (m_kept[maximizedKey] == yes)
         m_window.setWindowState(m_window.windowState() | Qt::WindowMaximized);
@@ -76,10 +76,10 @@ void WindowMemory::save()
 void WindowMemory::savePlace()
 {
     keep(maximizedKey, m_window.isMaximized() ? QString(yes) : QString());
-    if (m_window.isMaximized() || m_window.isFullScreen() || place() == m_place)
+    if (m_window.isMaximized() || m_window.isFullScreen() || m_window.geometry() == m_place)
         return;
-    m_place = place();
-    saveFormPos(*m_settings, QRect(m_window.pos(), m_window.size() / fontFactor(&m_window)), section(), placeKey);
+    m_place = m_window.geometry();
+    saveFormPos(*m_settings, QRect(m_place.topLeft(), m_place.size() / fontFactor(&m_window)), section(), placeKey);
 }
 
 void WindowMemory::keep(const QString &key, const QString &value)

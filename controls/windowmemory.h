@@ -34,7 +34,6 @@ private:
     void save();
     void savePlace();
     void keep(const QString &key, const QString &value);
-    QRect place() const { return {m_window.pos(), m_window.size()}; }
 
     QWidget &m_window;
     SettingsStore *m_settings;

@@ -24,7 +24,11 @@ QList<QRect> availableScreens()
     return screens;
 }
 
-QSize withFrame(QSize size, const QMargins &frame) { return size.grownBy(frame); }
+void putAt(QWidget &window, const QRect &inside, const QList<QRect> &screens)
+{
+    const QMargins frame = expectedFrame(window);
+    window.setGeometry(onScreens(inside.marginsAdded(frame), screens).marginsRemoved(frame));
+}
 
 } // namespace
 
@@ -75,9 +79,8 @@ void placeByOpener(QWidget &window)
     if (!window.parentWidget())
         return;
     const int step = scaled(&window, diagonalStep);
-    const QRect place(window.parentWidget()->window()->frameGeometry().topLeft() + QPoint(step, step),
-                      withFrame(window.size(), expectedFrame(window)));
-    window.move(onScreens(place, {window.screen()->availableGeometry()}).topLeft());
+    const QPoint opener = window.parentWidget()->window()->geometry().topLeft();
+    putAt(window, QRect(opener + QPoint(step, step), window.size()), {window.screen()->availableGeometry()});
 }
 
 void standApart(QWidget &window)
@@ -86,20 +89,15 @@ void standApart(QWidget &window)
     const QWidgetList others = QApplication::topLevelWidgets();
     for (const QWidget *other : others) {
         if (other != &window && other->isVisible() && other->objectName() == window.objectName())
-            taken.append(other->pos());
+            taken.append(other->geometry().topLeft());
     }
-    const QPoint place =
-        apartFrom(taken, window.pos(), scaled(&window, diagonalStep), window.screen()->availableGeometry());
-    if (place != window.pos())
-        moveToPlace(window, place, window.size());
+    const QPoint stands = window.geometry().topLeft();
+    const QPoint apart =
+        apartFrom(taken, stands, scaled(&window, diagonalStep), window.screen()->availableGeometry());
+    if (apart != stands)
+        moveToPlace(window, QRect(apart, window.size()));
 }
 
-void moveToPlace(QWidget &window, QPoint place, QSize sizeWithoutFrame)
-{
-    const QMargins frame = expectedFrame(window);
-    const QRect outer = onScreens(QRect(place, withFrame(sizeWithoutFrame, frame)), availableScreens());
-    window.resize(outer.size().shrunkBy(frame));
-    window.move(outer.topLeft());
-}
+void moveToPlace(QWidget &window, const QRect &place) { putAt(window, place, availableScreens()); }
 
 } // namespace Tallymere

@@ -9,7 +9,8 @@ class QWidget;
 
 namespace Tallymere {
 
-// Where windows stand. Rectangles of windows are with their frames.
+// Where windows stand. Their own places are those of what is inside the frame, since a window that has not been shown
+// does not know its frame yet, and window managers move what is placed by a frame that they add later.
 
 // The rectangle, wholly on the screens: as it is when they show all of it, else moved onto the one that shows most of
 // it, or the first. What is larger than that screen is cut to its size.
@@ -19,7 +20,7 @@ QRect onScreens(const QRect &window, const QList<QRect> &screens);
 // screen on again at the opposite one.
 QPoint apartFrom(const QList<QPoint> &taken, QPoint place, int step, const QRect &screen);
 
-// The frame that a window will have: that of the window it was opened from. It has none itself before it is shown.
+// The frame that a window will have: that of the window it was opened from.
 QMargins expectedFrame(const QWidget &window);
 
 // A little below and to the right of the window that it was opened from, so that both can be reached, and wholly on
@@ -29,7 +30,7 @@ void placeByOpener(QWidget &window);
 // Windows of one kind, which have the same component name, do not stand exactly on each other.
 void standApart(QWidget &window);
 
-// Moves and sizes a window so that it has the place, as far as the screens allow it.
-void moveToPlace(QWidget &window, QPoint place, QSize sizeWithoutFrame);
+// Gives a window its place, as far as the screens show it with its frame.
+void moveToPlace(QWidget &window, const QRect &place);
 
 } // namespace Tallymere
