@@ -30,8 +30,10 @@ void TfrmItemInv::chkReadOnlyClick()
     colours.setColor(QPalette::Base, colours.color(locked ? QPalette::Button : QPalette::Base));
     cost->setPalette(colours);
     cost->setReadOnly(locked);
-    if (!locked)
-        cost->setFocus();
+    if (locked)
+        return;
+    cost->clearFocus(); // where it was while nothing could be typed
+    cost->setFocus();
 }
 
 } // namespace Tallymere

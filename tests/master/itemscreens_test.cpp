@@ -1,0 +1,418 @@
+#include "controls/lookupcombobox.h"
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "master/iteminvform.h"
+#include "master/itemsearchinvform.h"
+#include "master/itemsfindform.h"
+#include "master/itemsinvform.h"
+#include "master/itemtypeinvform.h"
+#include "tests/transactions/screentest.h"
+#include "transactions/invtotalsform.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QTabWidget>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class ItemScreens : public ScreenTest
+{
+protected:
+    void openList()
+    {
+        list = new TfrmItemsInv(*context, mainWindow.get());
+        grid = child<QTableView>(*list, "DBGrid1");
+        showActive(*list);
+    }
+    void takeItem()
+    {
+        item = findScreen<TfrmItemInv>(u"frmItemInv"_s);
+        ASSERT_TRUE(item);
+        showActive(*item);
+    }
+    void clickList(const char *button) { child<QPushButton>(*list, button)->click(); }
+    void clickItem(const char *button) { child<QPushButton>(*item, button)->click(); }
+    // Types over what stands in a field of the item, and moves on.
+    void enter(const char *field, const char *text)
+    {
+        child<QWidget>(*item, field)->setFocus();
+        press(Qt::Key_Delete);
+        type(text);
+        press(Qt::Key_Return);
+    }
+    QString shown(const char *field) { return child<QLineEdit>(*item, field)->text(); }
+    LookupComboBox *typeBox() { return child<LookupComboBox>(*item, "cboItemType"); }
+    QStringList stored(const QString &number)
+    {
+        return kitchen.rows(u"SELECT ItemID, ItemDescription, TaxCodes, ItemTypeID, UnitPrice, WgtAvgCost, "
+                            "StandardCost, Suspended, Notes FROM Item WHERE ItemNo = '%1'"_s.arg(number));
+    }
+    QStringList numbers()
+    {
+        QStringList found;
+        for (int row = 0; row < grid->model()->rowCount(); ++row)
+            found << grid->model()->index(row, 0).data().toString();
+        return found;
+    }
+    QString currentNumber() { return grid->currentIndex().siblingAtColumn(0).data().toString(); }
+    // Stands for the main window: makes the screen of a name and shows it.
+    template <typename Screen> void offer(const QString &name)
+    {
+        const auto known = context->hasScreen;
+        const auto open = context->openScreen;
+        context->hasScreen = [=](const QString &asked) { return asked == name || (known && known(asked)); };
+        context->openScreen = [=, this](const QString &asked) -> QWidget * {
+            if (asked != name)
+                return open(asked);
+            QWidget *screen = findScreen(name);
+            if (!screen)
+                screen = new Screen(*context, mainWindow.get());
+            bringToFront(*screen);
+            return screen;
+        };
+    }
+
+    QPointer<TfrmItemsInv> list;
+    QPointer<TfrmItemInv> item;
+    QTableView *grid = nullptr;
+};
+
+QStringList captions(const QList<QAction *> &actions)
+{
+    QStringList texts;
+    for (const QAction *action : actions) {
+        if (!action->isSeparator())
+            texts << action->text() + (action->isEnabled() ? QString() : u" (off)"_s);
+    }
+    return texts;
+}
+
+} // namespace
+
+TEST_F(ItemScreens, OfferTheirCommands)
+{
+    offer<TfrmInvTotals>(u"frmInvTotals"_s);
+    openList();
+    const QHash<QString, QStringList> menus = {
+        {u"&File"_s, {u"&Print... (off)"_s, u"E&xit"_s}},
+        {u"&Records"_s, {u"Synchronize Items (off)"_s, u"&Edit"_s, u"&Find..."_s}},
+        {u"&View"_s, {u"&Filter..."_s, u"&Sort by"_s, u"&Totals"_s, u"&History (off)"_s, u"&Refresh"_s}},
+        {u"&Help"_s, {u"Items &Help (off)"_s}},
+    };
+    const QList<QAction *> shownMenus = list->menuBar()->actions();
+    EXPECT_EQ(captions(shownMenus), (QStringList{u"&File"_s, u"&Records"_s, u"&View"_s, u"&Help"_s}));
+    for (const QAction *menu : shownMenus) {
+        for (const QString &entry : menus.value(menu->text()))
+            EXPECT_TRUE(captions(menu->menu()->actions()).contains(entry)) << entry.toStdString();
+        EXPECT_FALSE(captions(menu->menu()->actions()).contains(u"&New"_s));
+    }
+    EXPECT_EQ(captions(grid->actions()).first(6),
+              (QStringList{u"New"_s, u"Edit"_s, u"Delete"_s, u"Copy"_s, u"Totals"_s, u"History (off)"_s}));
+    QStringList buttons;
+    for (const QPushButton *button : list->findChildren<QPushButton *>())
+        buttons << button->objectName() + u' ' + button->text();
+    EXPECT_EQ(buttons,
+              (QStringList{u"btnNew &New"_s, u"btnEdit &Edit"_s, u"btnDelete &Delete"_s, u"btnFilter Fil&ter"_s,
+                           u"btnFind F&ind"_s, u"btnCopy &Copy"_s}));
+
+    EXPECT_TRUE(list->command(u"mnuSortItemNo"_s)->isChecked());
+    EXPECT_EQ(numbers(), (QStringList{u"A10"_s, u"A11"_s, u"B1"_s, u"X9"_s}));
+    list->command(u"mnuSortDescription"_s)->trigger();
+    EXPECT_TRUE(list->command(u"mnuSortDescription"_s)->isChecked());
+    EXPECT_FALSE(list->command(u"mnuSortItemNo"_s)->isChecked());
+    EXPECT_EQ(numbers(), (QStringList{u"A10"_s, u"B1"_s, u"A11"_s, u"X9"_s}));
+}
+
+TEST_F(ItemScreens, NumberCheckAndSaveANewItem)
+{
+    openList();
+    clickList("btnNew");
+    takeItem();
+    EXPECT_EQ(item->windowTitle(), u"New Item");
+    EXPECT_EQ(focusName(), u"editItemNo");
+    EXPECT_EQ(shown("editItemNo"), u"1001");
+
+    child<QTabWidget>(*item, "PageControl1")->setCurrentIndex(1);
+    child<QPlainTextEdit>(*item, "memoNotes")->setFocus();
+    type("Keep");
+    press(Qt::Key_Return);
+    type("cool");
+    clickItem("btnOK");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Description' must have a value"_s});
+    EXPECT_EQ(focusName(), u"editItemDescription") << "on the other page";
+    type(u"Crème 🍮 50%"_s);
+    EXPECT_EQ(item->windowTitle(), u"Crème 🍮 50%");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focusName(), u"chkSuspended");
+    enter("editTaxCodes", "p1G?xY");
+    clickItem("btnOK");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Item Type' must have a value"_s});
+    EXPECT_EQ(focusName(), u"cboItemType");
+    type("go");
+    press(Qt::Key_Return);
+    EXPECT_EQ(typeBox()->currentText(), u"Goods");
+    enter("editStandardCost", "12.5");
+    EXPECT_EQ(shown("editStandardCost"), u"12.50");
+    enter("editItemNo", "A11");
+    clickItem("btnOK");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Item no. already exists"_s});
+    EXPECT_EQ(focusName(), u"editItemNo");
+    EXPECT_TRUE(item->isVisible());
+    kitchen.execute(u"DELETE FROM ItemType WHERE ItemTypeID = 2"_s);
+    type("B10");
+    clickItem("btnOK");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Item Type no longer exists"_s});
+    EXPECT_EQ(focusName(), u"cboItemType");
+    type("fo");
+    clickItem("btnOK");
+    settle();
+    EXPECT_EQ(prompts.take(), QStringList());
+    EXPECT_FALSE(item);
+    EXPECT_EQ(stored(u"B10"_s), QStringList{u"10000|Crème 🍮 50%|pGx|1|||12.5|false|Keep\ncool"_s});
+    EXPECT_EQ(currentNumber(), u"B10");
+}
+
+TEST_F(ItemScreens, UnlockTheAverageCostOnlyOnPurpose)
+{
+    kitchen.execute(u"UPDATE Item SET WgtAvgCost = 2.345, ItemTypeID = 1 WHERE ItemID = 1"_s);
+    openList();
+    press(Qt::Key_Return);
+    takeItem();
+    auto *cost = child<QLineEdit>(*item, "editWgtAvgCost");
+    auto *lock = child<QCheckBox>(*item, "chkReadOnly");
+    const auto colour = [&] { return cost->palette().color(QPalette::Base); };
+    const QColor locked = colour();
+    EXPECT_EQ(locked, item->palette().color(QPalette::Button));
+    cost->setFocus();
+    type("9");
+    EXPECT_EQ(shown("editWgtAvgCost"), u"2.345");
+    lock->click();
+    EXPECT_EQ(focusName(), u"editWgtAvgCost");
+    EXPECT_EQ(colour(), item->palette().color(QPalette::Base));
+    type("3");
+    lock->click();
+    EXPECT_EQ(colour(), locked);
+    clickItem("btnOK");
+    settle();
+    EXPECT_EQ(stored(u"A10"_s), QStringList{u"1|Apples||1||3||false|"_s});
+    EXPECT_EQ(prompts.take(), QStringList());
+}
+
+TEST_F(ItemScreens, ClearTheTypeAndLeadToTheTypes)
+{
+    offer<TfrmItemTypesInv>(u"frmItemTypesInv"_s);
+    QStringList asked;
+    bool allowed = false;
+    context->securityCheck = [&](const QString &key, const QString &name) {
+        asked << key + u'/' + name;
+        return allowed;
+    };
+    openList();
+    ASSERT_TRUE(list->moveToKey(3));
+    press(Qt::Key_Return);
+    takeItem();
+    child<QToolButton>(*item, "btnItemType")->click();
+    EXPECT_EQ(asked, QStringList{u"ItemTypes/Item Types"_s});
+    EXPECT_EQ(findScreen(u"frmItemTypesInv"_s), nullptr);
+    allowed = true;
+    child<QToolButton>(*item, "btnItemType")->click();
+    auto *types = findScreen<ListScreen>(u"frmItemTypesInv"_s);
+    ASSERT_NE(types, nullptr);
+    EXPECT_EQ(types->dataSet().text(u"TypeName"), u"Goods");
+    EXPECT_TRUE(item->isVisible());
+
+    showActive(*item);
+    typeBox()->setFocus();
+    press(Qt::Key_Delete);
+    EXPECT_EQ(typeBox()->currentText(), QString());
+    child<QToolButton>(*item, "btnItemType")->click();
+    EXPECT_EQ(types->dataSet().text(u"TypeName"), u"Food") << "the first";
+    clickItem("btnOK");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Item Type' must have a value"_s});
+    clickItem("btnCancel");
+    settle();
+    EXPECT_EQ(kitchen.number(u"SELECT ItemTypeID FROM Item WHERE ItemID = 3"_s), 2);
+}
+
+TEST_F(ItemScreens, CopyTheCurrentItem)
+{
+    kitchen.execute(u"UPDATE Item SET TaxCodes = 'PG', UnitPrice = 2.5, WgtAvgCost = 1.5, Notes = 'Cool' "
+                    "WHERE ItemID = 4"_s);
+    openList();
+    ASSERT_TRUE(list->moveToKey(4));
+    clickList("btnCopy");
+    takeItem();
+    EXPECT_EQ(item->windowTitle(), u"New (copied) Item");
+    EXPECT_EQ(shown("editItemNo"), u"1001");
+    EXPECT_EQ(shown("editItemDescription"), u"Yeast");
+    EXPECT_FALSE(child<QCheckBox>(*item, "chkSuspended")->isChecked());
+    child<QLineEdit>(*item, "editItemDescription")->setFocus();
+    press(Qt::Key_End);
+    type("!");
+    EXPECT_EQ(item->windowTitle(), u"Yeast!");
+    clickItem("btnOK");
+    settle();
+    EXPECT_EQ(stored(u"1001"_s), QStringList{u"10000|Yeast!|PG|2|2.5|||false|Cool"_s});
+    EXPECT_EQ(currentNumber(), u"1001");
+
+    clickList("btnCopy");
+    takeItem();
+    item->close();
+    settle();
+    EXPECT_FALSE(item) << "nobody has touched it";
+    EXPECT_EQ(prompts.take(), QStringList());
+    kitchen.execute(u"DELETE FROM Item"_s);
+    list->refreshList();
+    clickList("btnCopy");
+    EXPECT_EQ(findScreen(u"frmItemInv"_s), nullptr);
+}
+
+TEST_F(ItemScreens, NarrowTheListAndFindInIt)
+{
+    openList();
+    const auto filter = [this](const std::function<void(TfrmItemsFilter &)> &choose) {
+        EXPECT_TRUE(whileOpen<TfrmItemsFilter>([this] { clickList("btnFilter"); },
+                                               [&](TfrmItemsFilter &dialog) {
+                                                   choose(dialog);
+                                                   press(Qt::Key_Return);
+                                               }));
+    };
+    filter([](TfrmItemsFilter &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Items Filter");
+        dialog.SetItemTypeID(2);
+        EXPECT_EQ(dialog.GetItemTypeID(), 2);
+        child<QRadioButton>(dialog, "optSuspendedNo")->click();
+    });
+    EXPECT_EQ(list->dataSet().filter(), u"(ItemTypeID = 2) AND (Suspended = false)");
+    EXPECT_EQ(list->windowTitle(), u"Items (Filtered)");
+    EXPECT_TRUE(list->command(u"mnuFilter"_s)->isChecked());
+    EXPECT_EQ(numbers(), QStringList{u"B1"_s});
+
+    filter([](TfrmItemsFilter &dialog) {
+        EXPECT_EQ(dialog.GetItemTypeID(), 2) << "as it was left";
+        press(Qt::Key_Delete); // in the box of types
+        child<QRadioButton>(dialog, "optSuspendedYes")->click();
+    });
+    EXPECT_EQ(list->dataSet().filter(), u"(Suspended = true)");
+    EXPECT_TRUE(whileOpen<TfrmItemsFind>([this] { list->command(u"mnuFind"_s)->trigger(); },
+                                         [this](TfrmItemsFind &dialog) {
+                                             type("nix");
+                                             press(Qt::Key_Tab);
+                                             EXPECT_EQ(prompts.take(),
+                                                       QStringList{u"error: Item no. 'nix' not found"_s});
+                                             EXPECT_EQ(focusName(), u"editItem");
+                                             press(Qt::Key_Backspace);
+                                             press(Qt::Key_Backspace);
+                                             press(Qt::Key_Backspace);
+                                             type("A11");
+                                             press(Qt::Key_Return);
+                                             EXPECT_EQ(prompts.take(), QStringList{u"error: 'Bread' not found"_s});
+                                             EXPECT_TRUE(dialog.isVisible()) << "the list does not show it";
+                                         }));
+    filter([](TfrmItemsFilter &dialog) { child<QPushButton>(dialog, "btnReset")->click(); });
+    EXPECT_FALSE(list->dataSet().isFiltered());
+    EXPECT_EQ(list->windowTitle(), u"Items");
+    EXPECT_EQ(numbers().size(), 4);
+    showActive(*list);
+    EXPECT_TRUE(whileOpen<TfrmItemsFind>([this] { press(Qt::Key_F, Qt::ControlModifier); },
+                                         [](TfrmItemsFind &dialog) {
+                                             child<LookupComboBox>(dialog, "cboItem")->setFocus();
+                                             type("br");
+                                             press(Qt::Key_Return);
+                                         }));
+    EXPECT_EQ(currentNumber(), u"A11");
+
+    filter([](TfrmItemsFilter &dialog) { dialog.SetItemTypeID(1); });
+    list->resetFilter(); // as the main window does
+    list->showAgain();
+    EXPECT_EQ(list->windowTitle(), u"Items");
+    EXPECT_EQ(currentNumber(), u"A10");
+    filter([](TfrmItemsFilter &dialog) { EXPECT_EQ(dialog.GetItemTypeID(), 0); });
+    EXPECT_FALSE(list->dataSet().isFiltered());
+}
+
+TEST_F(ItemScreens, LeadToTheStockOfAnItem)
+{
+    offer<TfrmInvTotals>(u"frmInvTotals"_s);
+    QStringList asked;
+    context->securityCheck = [&](const QString &key, const QString &name) {
+        asked << key + u'/' + name;
+        return true;
+    };
+    kitchen.setStock(1, 1, 10, 2);
+    kitchen.setStock(2, 1, 5, 2);
+    openList();
+    ASSERT_TRUE(list->moveToKey(2));
+    list->command(u"mnuTotals"_s)->trigger();
+    EXPECT_EQ(asked, QStringList{u"InvTotals/Inventory Totals"_s});
+    auto *totals = findScreen<TfrmInvTotals>(u"frmInvTotals"_s);
+    ASSERT_NE(totals, nullptr);
+    EXPECT_EQ(totals->dataSet().filter(), u"(ItemID = 2)");
+    EXPECT_EQ(totals->windowTitle(), u"Inventory Totals (Filtered)");
+    EXPECT_EQ(totals->dataSet().recordCount(), 1);
+
+    kitchen.setStock(3, 2, 1, 2);
+    ASSERT_TRUE(list->moveToKey(3));
+    list->command(u"mnuTotals"_s)->trigger();
+    EXPECT_EQ(totals->dataSet().recordCount(), 1) << "as it is now";
+    EXPECT_EQ(totals->dataSet().text(u"WarehouseName"), u"Freezer");
+}
+
+TEST_F(ItemScreens, DeleteAnItemThatHasBeenUsed)
+{
+    kitchen.execute(u"INSERT INTO IUsageDet (UsageID, Seq, ItemID) VALUES (1, 1, 2)"_s);
+    openList();
+    ASSERT_TRUE(list->moveToKey(2));
+    prompts.ok = false;
+    clickList("btnDelete");
+    EXPECT_EQ(numbers().size(), 4);
+    prompts.ok = true;
+    clickList("btnDelete");
+    EXPECT_EQ(prompts.take(), QStringList(2, u"Confirm: Delete 'A11: Bread'?"_s));
+    EXPECT_EQ(numbers(), (QStringList{u"A10"_s, u"B1"_s, u"X9"_s}));
+    EXPECT_EQ(currentNumber(), u"B1");
+}
+
+TEST_F(ItemScreens, SearchForWhatIsTyped)
+{
+    TfrmItemSearchInv search(*context, mainWindow.get());
+    search.SetItemID(3);
+    showActive(search);
+    auto *number = child<QLineEdit>(search, "editFindItemNo");
+    EXPECT_EQ(search.GetItemID(), 3);
+    type("A1");
+    EXPECT_EQ(search.GetItemID(), 1);
+    type("1");
+    EXPECT_EQ(search.GetItemID(), 2);
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(search.GetItemID(), 2) << "taking a character away moves nothing";
+    type("7");
+    EXPECT_EQ(search.GetItemID(), 2) << "no number goes on so";
+    number->selectAll();
+    type("X");
+    EXPECT_EQ(search.GetItemID(), 4) << "typed over";
+    child<QLineEdit>(search, "editFindItemDescription")->setFocus();
+    type("ap");
+    EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
+    child<LookupComboBox>(search, "cboItemType")->setFocus();
+    type("food");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(search.GetItemID(), 1);
+    search.reject();
+    showActive(search);
+    EXPECT_EQ(focusName(), u"editFindItemNo");
+    EXPECT_EQ(number->text(), QString());
+    EXPECT_EQ(child<LookupComboBox>(search, "cboItemType")->chosenId(), 0);
+}
