@@ -3,6 +3,7 @@
 #include "engine/error.h"
 #include "engine/groupedwrites.h"
 #include "engine/namedparameters.h"
+#include "engine/recordlock.h"
 #include "engine/textsize.h"
 
 #include <limits>
@@ -40,11 +41,18 @@ void addRow(const NewRows &rows, qint64 row, Engine::Statement &insert, Engine::
 
 } // namespace
 
-std::unique_ptr<Engine::Table> lockedTable(Engine::Database &database, const QString &table)
+std::unique_ptr<Engine::Table> lockedTable(Engine::Database &database, const QString &table, const QString &refusal)
 {
     auto locked = std::make_unique<Engine::Table>(database, table);
-    locked->open();
-    locked->lockTable();
+    try {
+        locked->open();
+        locked->lockTable();
+    } catch (const EngineError &error) {
+        if (error.code() != ErrorCode::TableLocked && error.code() != ErrorCode::TableInUse)
+            throw;
+        const QString holder = Engine::lockHolder(database.connection().locks(), table);
+        throw EngineError(error.code(), refusal.arg(holder), error.driverText());
+    }
     return locked;
 }
 

@@ -20,8 +20,10 @@ struct HostSyncResult
 };
 
 // The table, with its lock. Others can neither change it nor add to it while the object lives, so nobody's edit is
-// overwritten. Throws TableLocked or TableInUse while another user holds the table or edits one of its records.
-std::unique_ptr<Engine::Table> lockedTable(Engine::Database &database, const QString &table);
+// overwritten. While another user holds the table or edits one of its records: TableLocked or TableInUse with the text
+// of the refusal, where "%1" becomes who that is.
+std::unique_ptr<Engine::Table> lockedTable(Engine::Database &database, const QString &table,
+                                           const QString &refusal);
 
 // A text of the host's row, no longer than the field it goes to; null stays null.
 Engine::Value hostText(const Engine::Statement &row, int column, const Engine::TableLayout &layout,

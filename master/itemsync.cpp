@@ -31,7 +31,10 @@ struct ItemSync::HostItem
 
 HostSyncResult ItemSync::run(Progress &progress)
 {
-    const auto locked = lockedTable(m_database, Layouts::item().name);
+    const auto locked =
+        lockedTable(m_database, Layouts::item().name,
+                    tr("The items are in use by another user%1. Nothing has been changed; try again "
+                       "in a moment."));
     HostSyncResult result;
     result.notUpdated = updateLinked(result.updated);
 

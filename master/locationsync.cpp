@@ -17,7 +17,9 @@ struct LocationSync::Place
 
 HostSyncResult LocationSync::run(Progress &progress)
 {
-    const auto locked = lockedTable(m_database, Layouts::warehse().name);
+    const auto locked = lockedTable(m_database, Layouts::warehse().name,
+                                    tr("The locations are in use by another user%1. Nothing has been changed; try "
+                                       "again in a moment."));
     HostSyncResult result;
     result.updated = m_database.connection().prepare(queryUpdateWarehseFromLocatns())->execute();
 

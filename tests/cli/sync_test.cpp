@@ -49,7 +49,7 @@ TEST_P(Sync, ALockRefusesAndAMissingHostTableIsAFailure)
     table.lockTable();
     const CliResult locked = cli.run({u"sync"_s, u"items"_s});
     EXPECT_EQ(locked.status, 1);
-    EXPECT_TRUE(locked.errors.contains(u"'Item' is locked by another user (anna"_s)) << locked;
+    EXPECT_TRUE(locked.errors.contains(u"The items are in use by another user (anna"_s)) << locked;
     table.close();
 
     anna->database.dropTable(u"Items"_s);
