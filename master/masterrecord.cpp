@@ -14,7 +14,6 @@ namespace {
 
 constexpr qint64 firstNumber = 1001;
 constexpr qint64 lastNumber = 10'000'000;
-constexpr qint64 firstKey = 10'000;
 
 bool hasDefault(const MasterKind &kind, const QString &field)
 {
@@ -128,7 +127,7 @@ void MasterRecord::assignIdentity(const NumberSource &source)
         } else {
             m_table.setDefault(m_kind.numberField, m_givenNumber);
         }
-        counters.restartWhenZero(m_kind.keyCounter, firstKey);
+        counters.restartWhenZero(m_kind.keyCounter, firstCountedKey);
         m_table.setDefault(m_kind.keyField, counters.take(m_kind.keyCounter));
     });
 }
