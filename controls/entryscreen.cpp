@@ -36,6 +36,7 @@ EntryScreen::EntryScreen(ScreenContext &context, QWidget *parent)
     , m_context(context)
     , m_guard(context.prompts, [this](const QString &column) { focusColumn(column); })
     , m_binder(this, m_guard)
+    , m_memory(*this, context.settings)
 {
     setAttribute(Qt::WA_DeleteOnClose);
 }
@@ -177,6 +178,7 @@ void EntryScreen::showEvent(QShowEvent *event)
     firstShown();
     fitToScreen(this);
     m_firstSize = size();
+    m_memory.restore();
 }
 
 bool EntryScreen::eventFilter(QObject *watched, QEvent *event)

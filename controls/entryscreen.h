@@ -3,6 +3,7 @@
 #include "controls/fieldbinder.h"
 #include "controls/guard.h"
 #include "controls/screencontext.h"
+#include "controls/windowmemory.h"
 
 #include <optional>
 #include <QDialog>
@@ -12,7 +13,8 @@ namespace Tallymere {
 // A window in which one record or document is entered. Not modal; it is freed when it is closed.
 //
 // Enter moves on as Tab does. Escape takes back what is being typed, else it closes. Closing with changes asks
-// whether they shall be saved; a new record that nobody has touched is dropped silently.
+// whether they shall be saved; a new record that nobody has touched is dropped silently. Its place, size and the column
+// widths of its grids are remembered.
 class EntryScreen : public QDialog
 {
     Q_OBJECT
@@ -70,6 +72,7 @@ private:
     Guard m_guard;
     bool m_scaled = false;
     FieldBinder m_binder;
+    WindowMemory m_memory;
     QSize m_firstSize;
     bool m_settled = false;
 };

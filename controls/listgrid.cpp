@@ -28,7 +28,11 @@ void ListGrid::setDataSet(Engine::DataSet &set, const QList<GridColumn> &columns
     m_guard = &guard;
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    showModel(new TableModel(set, columns, guard, this, TableModel::Reading::FirstPageFirst));
+    auto *model = new TableModel(set, columns, guard, this, TableModel::Reading::FirstPageFirst);
+    // The view moves its cursor off rows that go. Where it belongs in the new list the data set says afterwards.
+    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { m_moving = true; });
+    showModel(model);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, [this] { m_moving = false; });
     m_search = new ListSearch(*tableModel(), guard, this);
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this, &ListGrid::giveCursor);
     // The model hears of a new list first; with its rows there, the cursor goes to the current one.
@@ -173,22 +177,28 @@ void ListGrid::setHint(const QString &hint)
     viewport()->update();
 }
 
+QString ListGrid::shownHint() const
+{
+    const bool empty = m_data->isOpen() && tableModel()->rowCount() == 0 && !tableModel()->hasFailed();
+    return empty ? m_hint : QString();
+}
+
 void ListGrid::paintEvent(QPaintEvent *event)
 {
     DataGrid::paintEvent(event);
     if (tableModel()->isPartial())
         QMetaObject::invokeMethod(tableModel(), &TableModel::readRest, Qt::QueuedConnection);
-    if (m_data->isOpen() && tableModel()->rowCount() == 0 && !tableModel()->hasFailed())
-        paintHint();
+    if (const QString hint = shownHint(); !hint.isEmpty())
+        paintHint(hint);
 }
 
-void ListGrid::paintHint()
+void ListGrid::paintHint(const QString &hint)
 {
     const int margin = scaled(this, hintMargin);
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, m_hint);
+                     Qt::AlignCenter | Qt::TextWordWrap, hint);
 }
 
 void ListGrid::showEvent(QShowEvent *event)

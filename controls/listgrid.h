@@ -32,6 +32,7 @@ public:
     ListSearch *search() const { return m_search; }
     // What an empty list shows instead of rows.
     void setHint(const QString &hint);
+    QString shownHint() const; // empty while there are rows, or nobody knows
 
     void keyboardSearch(const QString &text) override;
 
@@ -55,7 +56,7 @@ private:
     void takeCursor(); // the data set has moved
     void giveCursor(const QModelIndex &current); // the user has moved
     void dropSelection(); // but for the row of the cursor
-    void paintHint();
+    void paintHint(const QString &hint);
 
     Engine::DataSet *m_data = nullptr;
     const Guard *m_guard = nullptr;

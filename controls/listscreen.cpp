@@ -164,6 +164,9 @@ void ListScreen::runCommand(const std::function<void()> &run)
         m_guard.run(run);
     // A checkable entry has toggled itself; what counts is whether the filter is on.
     showFilterMark();
+    // A menu that is opened again after Escape has closed it keeps the keyboard when it is done.
+    if (menuBar()->hasFocus())
+        m_grid->setFocus();
 }
 
 ListMenu ListScreen::fileMenu(Printing printing, std::function<void()> print)
@@ -252,12 +255,17 @@ void ListScreen::showFilterMark()
 
 QString ListScreen::hint() const
 {
+    const auto offers = [this](const QString &button) {
+        const auto *found = findChild<QPushButton *>(button);
+        return found && found->isEnabled();
+    };
+    if (m_data->isFiltered() && offers(u"btnFilter"_s))
+        return tr("No records match the filter. Press Filter to change it.");
     if (m_data->isFiltered())
         return tr("No records match the filter.");
     if (!m_emptyHint.isEmpty())
         return m_emptyHint;
-    const auto *add = findChild<QPushButton *>(u"btnNew"_s);
-    return add && add->isEnabled() ? tr("No records yet. Press New to add one.") : tr("No records yet.");
+    return offers(u"btnNew"_s) ? tr("No records yet. Press New to add one.") : tr("No records yet.");
 }
 
 // --- the window -------------------------------------------------------------------------------------------------

@@ -21,6 +21,7 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     , m_progress(new QProgressBar(&bar))
 {
     m_rows->setObjectName(u"lblRows"_s);
+    m_rows->setContentsMargins(0, 0, scaled(&bar, 24), 0);
     m_search->setObjectName(u"lblSearch"_s);
     m_search->setTextFormat(Qt::PlainText);
     // What is typed may be long; it must not widen the window.

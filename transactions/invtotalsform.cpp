@@ -48,6 +48,7 @@ ListDescription TfrmInvTotals::description()
                     {.name = u"mnuHistory"_s, .caption = tr("&History")},
                     refreshCommand()}},
                   helpMenu(tr("Inventory Totals &Help"))},
+        .emptyHint = tr("No stock yet. What is received shows here when the receipt has been posted."),
     };
 }
 

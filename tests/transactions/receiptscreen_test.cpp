@@ -1,4 +1,5 @@
 #include "controls/linegrid.h"
+#include "controls/listgrid.h"
 #include "controls/lookupcombobox.h"
 #include "controls/screenmetrics.h"
 #include "master/itemsearchinvform.h"

@@ -1,0 +1,221 @@
+#include "controls/filechoice.h"
+#include "controls/listscreen.h"
+#include "data/utilsinv.h"
+#include "frame/shared/formats.h"
+#include "tests/support/smalldisk.h"
+#include "tests/transactions/screentest.h"
+
+#include <QClipboard>
+#include <QFile>
+#include <QFrame>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class ItemList final : public ListScreen
+{
+public:
+    ItemList(ScreenContext &context, QWidget *parent)
+        : ListScreen(context, parent)
+        , m_items(context.data.databaseTallymere(), u"Item"_s)
+    {
+        m_items.setIndex(u"ITEMNO"_s);
+        m_items.open();
+        m_items.field(u"UnitPrice").format = currencyFormat({});
+        build({.name = u"frmItemList"_s,
+               .caption = u"Items"_s,
+               .columns = {{u"ItemNo"_s, u"Item no."_s, 80},
+                           {u"ItemDescription"_s, u"Description"_s, 200},
+                           {u"UnitPrice"_s, u"Unit Price"_s, 90, Qt::AlignRight},
+                           {u"Suspended"_s, u"Suspended"_s, 60}},
+               .buttons = {{u"btnNew"_s, u"&New"_s, u"mnuNew"_s}},
+               .menus = {fileMenu(),
+                         {u"&Records"_s,
+                          {{.name = u"mnuNew"_s, .caption = u"&New"_s, .run = [] {}, .popupCaption = u"New"_s}}},
+                         {u"&View"_s, {refreshCommand()}}}},
+              m_items, {});
+    }
+
+    ListGrid &list() { return *grid(); }
+
+private:
+    Engine::Table m_items;
+};
+
+class ListScreenTest : public ScreenTest
+{
+protected:
+    ListScreenTest()
+    {
+        kitchen.execute(u"UPDATE Item SET UnitPrice = 1234.5, Suspended = false WHERE ItemID = 1"_s);
+        context->settings = &settings;
+        context->chooseFileToSave = [this](QWidget *, const FileChoice &choice) {
+            proposed = choice.name;
+            return chosen;
+        };
+        mainWindow->resize(300, 200);
+        mainWindow->show();
+    }
+
+    ItemList &open()
+    {
+        auto *screen = new ItemList(*context, mainWindow.get());
+        showActive(*screen);
+        settle();
+        return *screen;
+    }
+    void close(ItemList &screen)
+    {
+        screen.close();
+        settle();
+    }
+    static void refresh(const ItemList &screen) { screen.command(u"mnuRefresh"_s)->trigger(); }
+    static QString status(const ListScreen &screen, const char *label = "lblRows")
+    {
+        return child<QLabel>(screen, label)->text();
+    }
+    static std::string content(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+    }
+
+    QString chosen; // by the user, to save in
+    QString proposed;
+};
+
+} // namespace
+
+TEST_F(ListScreenTest, statusLineAndHintSayWhatThereIs)
+{
+    ItemList &items = open();
+    const std::tuple<const char *, std::function<void()>, QString, QString> steps[] = {
+        {"opened", [] {}, u"1 of 4 rows"_s, {}},
+        {"moved", [] { press(Qt::Key_End); }, u"4 of 4 rows"_s, {}},
+        {"selected", [] { press(Qt::Key_Up, Qt::ShiftModifier); }, u"3 of 4 rows, 2 selected"_s, {}},
+        {"filtered", [&] { items.applyFilter(u"(ItemID < 3)"_s); }, u"1 of 2 rows (filtered)"_s, {}},
+        {"one row", [&] { items.applyFilter(u"(ItemID = 3)"_s); }, u"1 row (filtered)"_s, {}},
+        {"nothing passes", [&] { items.applyFilter(u"(ItemID = 77)"_s); }, u"No rows (filtered)"_s,
+         u"No records match the filter."_s},
+        {"every row again", [&] { items.resetFilter(); }, u"1 of 4 rows"_s, {}},
+        {"nothing there",
+         [&] {
+             kitchen.execute(u"DELETE FROM Item"_s);
+             refresh(items);
+         },
+         u"No rows"_s, u"No records yet. Press New to add one."_s},
+        {"the store fails",
+         [&] {
+             kitchen.execute(u"ALTER TABLE Item RENAME TO Away"_s);
+             refresh(items);
+         },
+         {},
+         {}},
+    };
+    for (const auto &[what, step, rows, hint] : steps) {
+        step();
+        EXPECT_EQ(status(items), rows) << what;
+        EXPECT_EQ(items.list().shownHint(), hint) << what;
+    }
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !prompts.said.isEmpty(); }));
+    kitchen.execute(u"ALTER TABLE Away RENAME TO Item"_s);
+}
+
+TEST_F(ListScreenTest, longListIsCountedAfterItHasBeenPainted)
+{
+    kitchen.execute(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500) "
+                    "INSERT INTO Item (ItemID, ItemNo) SELECT 1000 + i, 'N' || i FROM n"_s);
+    ItemList items(*context, mainWindow.get());
+    items.setAttribute(Qt::WA_DeleteOnClose, false);
+    EXPECT_EQ(status(items), QString());
+    showActive(items);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return status(items) == u"1 of 504 rows"_s; }))
+        << status(items).toStdString();
+}
+
+TEST_F(ListScreenTest, typedSearchIsShown)
+{
+    const ItemList &items = open();
+    type("b1");
+    EXPECT_EQ(status(items, "lblSearch"), u"Search: b1"_s);
+    EXPECT_EQ(status(items), u"3 of 4 rows"_s);
+    type("<b>");
+    EXPECT_EQ(status(items, "lblSearch"), u"Search: b1<b> (not found)"_s);
+    press(Qt::Key_Home);
+    EXPECT_EQ(status(items, "lblSearch"), QString());
+}
+
+TEST_F(ListScreenTest, rowsAreCopiedAsSpreadsheetsPasteThem)
+{
+    kitchen.execute(u"UPDATE Item SET ItemDescription = 'tab\there \"quoted\"' WHERE ItemID = 2"_s);
+    ItemList &items = open();
+    EXPECT_TRUE(items.list().actions().contains(items.command(u"mnuCopyText"_s))) << "in the pop-up menu";
+    const std::tuple<std::function<void()>, QString> cases[] = {
+        {[] {}, u"A10\tApples\t1,234.50\tNo\n"_s},
+        {[] { press(Qt::Key_Down, Qt::ShiftModifier); },
+         u"Item no.\tDescription\tUnit Price\tSuspended\nA10\tApples\t1,234.50\tNo\n"
+         "A11\t\"tab\there \"\"quoted\"\"\"\t\tNo\n"_s},
+    };
+    for (const auto &[select, expected] : cases) {
+        select();
+        press(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), expected);
+    }
+}
+
+TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
+{
+    ItemList &items = open();
+    items.applyFilter(u"(ItemID < 4)"_s);
+    QAction *save = items.command(u"mnuSaveCsv"_s);
+    save->trigger();
+    EXPECT_EQ(proposed, u"Items.csv"_s);
+    EXPECT_EQ(prompts.said, QStringList()) << "cancelled";
+
+    const QTemporaryDir folder;
+    chosen = folder.filePath(u"my items.csv"_s);
+    save->trigger();
+    const std::string saved = "Item no.,Description,Unit Price,Suspended\r\nA10,Apples,1234.5,false\r\n"
+                              "A11,Bread,,\r\nB1,apricots,,false\r\n";
+    EXPECT_EQ(content(chosen), saved);
+
+    kitchen.execute(u"ALTER TABLE Item RENAME TO Away"_s);
+    refresh(items);
+    prompts.take();
+    save->trigger();
+    EXPECT_TRUE(prompts.last().startsWith("error: "_L1));
+    EXPECT_EQ(content(chosen), saved) << "the old file stays";
+    kitchen.execute(u"ALTER TABLE Away RENAME TO Item"_s);
+    refresh(items);
+    prompts.take();
+
+    chosen = folder.filePath(u"nowhere/items.csv"_s);
+    save->trigger();
+    EXPECT_TRUE(prompts.take().value(0).contains(chosen));
+
+    context->chooseFileToSave = {};
+    EXPECT_FALSE(open().command(u"mnuSaveCsv"_s)->isEnabled());
+}
+
+TEST_F(ListScreenTest, fullDiskKeepsTheFileThatWasThere)
+{
+    const SmallDisk disk("size=64k");
+    if (!disk.isMounted())
+        GTEST_SKIP() << "needs the right to mount a small disk";
+    kitchen.execute(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20000) "
+                    "INSERT INTO Item (ItemID, ItemNo) SELECT 1000 + i, 'N' || i FROM n"_s);
+    chosen = disk.path() + "/items.csv"_L1;
+    QFile old(chosen);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+    ItemList &items = open();
+    items.command(u"mnuSaveCsv"_s)->trigger();
+    EXPECT_TRUE(prompts.last().startsWith("error: Unable to save '"_L1 + chosen)) << prompts.last().toStdString();
+    EXPECT_EQ(content(chosen), "old");
+    EXPECT_EQ(QDir(disk.path()).entryList(QDir::Files), QStringList(u"items.csv"_s));
+    close(items);
+}

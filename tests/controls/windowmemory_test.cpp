@@ -1,0 +1,194 @@
+#include "controls/entryscreen.h"
+#include "controls/listscreen.h"
+#include "controls/windowplaces.h"
+#include "data/utilsinv.h"
+#include "engine/table.h"
+#include "tests/transactions/screentest.h"
+
+#include <QFrame>
+#include <QPushButton>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class PlaceList final : public ListScreen
+{
+public:
+    PlaceList(ScreenContext &context, QWidget *parent)
+        : ListScreen(context, parent)
+        , m_places(context.data.databaseTallymere(), u"Warehse"_s)
+    {
+        m_places.open();
+        build({.name = u"frmPlaces"_s,
+               .caption = u"Places"_s,
+               .columns = {{u"WarehouseID"_s, u"No."_s, 60}, {u"WarehouseName"_s, u"Name"_s, 200}}},
+              m_places, {});
+    }
+
+private:
+    Engine::Table m_places;
+};
+
+class Card final : public EntryScreen
+{
+public:
+    Card(ScreenContext &context, QWidget *parent)
+        : EntryScreen(context, parent)
+    {
+        setObjectName(u"frmCard"_s);
+        resize(240, 120);
+        buildScreen();
+    }
+
+private:
+    Pending pending() const override { return Pending::Nothing; }
+    void saveChanges() override { }
+    void dropChanges() override { }
+    std::optional<int> savedKey() const override { return std::nullopt; }
+    QString caption() const override { return u"Card"_s; }
+};
+
+class WindowMemoryTest : public ScreenTest
+{
+protected:
+    WindowMemoryTest()
+    {
+        context->settings = &settings;
+        mainWindow->setGeometry(20, 20, 200, 100);
+        mainWindow->show();
+    }
+
+    template <typename Screen> Screen &open()
+    {
+        auto *screen = new Screen(*context, mainWindow.get());
+        screen->show();
+        return *screen;
+    }
+    template <typename Screen> QRect changed(const QRect &place)
+    {
+        auto &screen = open<Screen>();
+        screen.setGeometry(place);
+        screen.close();
+        settle();
+        auto &again = open<Screen>();
+        const QRect found = again.geometry();
+        again.close();
+        settle();
+        return found;
+    }
+    static QTableView &grid(const PlaceList &list) { return *child<QTableView>(list, "DBGrid1"); }
+    QRect available() const { return mainWindow->screen()->availableGeometry(); }
+};
+
+} // namespace
+
+TEST_F(WindowMemoryTest, windowsComeBackWhereTheUserHasPutThem)
+{
+    const QRect place(60, 70, 420, 310);
+    EXPECT_EQ(changed<PlaceList>(place), place);
+    EXPECT_EQ(changed<Card>(place), place);
+
+    auto &list = open<PlaceList>();
+    grid(list).setColumnWidth(0, 111);
+    QTest::mouseDClick(child<QFrame>(list, "RzPanelTop"), Qt::LeftButton);
+    const QSize first = list.size();
+    EXPECT_NE(first, place.size()) << "twelve rows";
+    list.close();
+    settle();
+    auto &again = open<PlaceList>();
+    EXPECT_EQ(again.size(), first);
+    EXPECT_EQ(grid(again).columnWidth(0), 111);
+    again.showMaximized();
+    again.close();
+    settle();
+    auto &large = open<PlaceList>();
+    EXPECT_TRUE(large.isMaximized());
+    large.showNormal();
+    EXPECT_EQ(large.size(), first);
+}
+
+TEST_F(WindowMemoryTest, whatNobodyHasChangedIsNotWritten)
+{
+    for (int i = 0; i < 2; ++i) {
+        open<PlaceList>().close();
+        open<Card>().close();
+        settle();
+    }
+    EXPECT_FALSE(setFormPos(settings, u"frmPlaces"_s, u"Place"_s));
+    EXPECT_FALSE(setFormPos(settings, u"frmCard"_s, u"Place"_s));
+    EXPECT_EQ(settings.read(formSetting(u"frmPlaces"_s), u"DBGrid1"_s), QString());
+}
+
+TEST_F(WindowMemoryTest, settingsThatCannotBeUsedDoNoHarm)
+{
+    const QString section = formSetting(u"frmPlaces"_s);
+    const struct
+    {
+        const char *what;
+        QString place;
+        QString widths;
+    } cases[] = {
+        {"damaged", u"here"_s, u"= WarehouseID WarehouseID=x WarehouseID=-5 WarehouseID=1e99"_s},
+        {"another layout", u""_s, u"Gone=120 WarehouseName=abc"_s},
+        {"a screen that is gone", u"9000 -4000 400 300"_s, {}},
+        {"larger than the screen", u"-500 -500 90000 90000"_s, {}},
+    };
+    for (const auto &c : cases) {
+        settings.write(section, u"Place"_s, c.place);
+        settings.write(section, u"DBGrid1"_s, c.widths);
+        const auto &list = open<PlaceList>();
+        EXPECT_TRUE(available().contains(list.geometry())) << c.what;
+        EXPECT_EQ(grid(list).columnWidth(0), 60) << c.what;
+        delete &list;
+    }
+    settings.writable = false;
+    changed<PlaceList>(QRect(60, 70, 420, 310));
+    context->settings = nullptr;
+    changed<PlaceList>(QRect(60, 70, 420, 310));
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_F(WindowMemoryTest, secondScreenOfAKindStandsApart)
+{
+    const auto standApart = [this]<typename Screen>(Screen *) {
+        const auto &first = open<Screen>();
+        const auto &second = open<Screen>();
+        const auto &third = open<Screen>();
+        EXPECT_NE(first.pos(), second.pos());
+        EXPECT_NE(third.pos(), first.pos());
+        EXPECT_NE(third.pos(), second.pos());
+        delete &first;
+        delete &second;
+        delete &third;
+    };
+    standApart(static_cast<PlaceList *>(nullptr));
+    standApart(static_cast<Card *>(nullptr));
+    changed<PlaceList>(QRect(60, 70, 420, 310));
+    standApart(static_cast<PlaceList *>(nullptr));
+}
+
+TEST(WindowPlaces, LieOnTheScreensThatThereAre)
+{
+    const QList<QRect> two{{0, 0, 1000, 800}, {1000, 0, 600, 500}};
+    const std::tuple<const char *, QRect, QRect> cases[] = {
+        {"as it is", {10, 20, 300, 200}, {10, 20, 300, 200}},
+        {"across both", {900, 100, 300, 200}, {900, 100, 300, 200}},
+        {"below the smaller one", {1100, 400, 300, 200}, {1100, 300, 300, 200}},
+        {"mostly on the first", {-50, 700, 300, 200}, {0, 600, 300, 200}},
+        {"on none", {5000, -3000, 300, 200}, {700, 0, 300, 200}},
+        {"too large", {1200, 100, 5000, 5000}, {1000, 0, 600, 500}},
+    };
+    for (const auto &[what, place, expected] : cases)
+        EXPECT_EQ(onScreens(place, two), expected) << what;
+}
+
+TEST(WindowPlaces, StepAsideUntilNothingStandsThere)
+{
+    const QRect screen(0, 0, 200, 100);
+    EXPECT_EQ(apartFrom({{5, 5}}, {6, 5}, 20, screen), QPoint(6, 5));
+    EXPECT_EQ(apartFrom({{25, 25}, {5, 5}}, {5, 5}, 20, screen), QPoint(45, 45));
+    EXPECT_EQ(apartFrom({{90, 75}}, {90, 75}, 20, screen), QPoint(110, 0)) << "from the edge on at the top";
+}
