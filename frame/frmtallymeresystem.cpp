@@ -121,6 +121,8 @@ void TFormTallymereSystem::prepareOpening()
         DataModuleOptions options;
         options.waitFor = waitAlive;
         options.prepareReportPrinting = [] { QPrinterInfo::defaultPrinter(); };
+        if (m_host)
+            m_host->getCurrentUser(options.currentUser); // whom the locks of the connection name
         m_dataModule = std::make_unique<TDataModuleTallymere>(m_services.settings, m_services.prompts, options);
     }
     if (!m_lookups)

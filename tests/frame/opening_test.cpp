@@ -1,3 +1,4 @@
+#include "engine/locks.h"
 #include "frame/frmtallymeresystem.h"
 #include "tests/frame/testcompany.h"
 
@@ -117,6 +118,19 @@ TEST_F(OpeningTest, HostsMenuItemOpensTheSystemAgainAndAgain)
     EXPECT_EQ(form.dataModule(), first);
     EXPECT_EQ(first->currentUser(), u"anna"_s);
     EXPECT_EQ(company.prompts.said, QStringList());
+}
+
+TEST_F(OpeningTest, OtherUsersLearnWhoHoldsALock)
+{
+    link(&host);
+    EXPECT_TRUE(open());
+    EXPECT_TRUE(form.dataModule()->databaseTallymere().connection().locks().tryLockTable(u"Item"_s));
+    Engine::Session session(u"Other"_s);
+    Engine::Database other(session, u"Corvane"_s);
+    other.directory = company.folder();
+    const auto owner = other.connection().locks().ownerOf(u"Item"_s);
+    ASSERT_TRUE(owner);
+    EXPECT_TRUE(owner->description().startsWith("maria on "_L1)) << owner->description().toStdString();
 }
 
 TEST_F(OpeningTest, WithoutAHostAnErrorIsShownAndNothingOpens)
