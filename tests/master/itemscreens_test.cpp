@@ -2,7 +2,6 @@
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "master/iteminvform.h"
-#include "master/itemsearchinvform.h"
 #include "master/itemsfindform.h"
 #include "master/itemsinvform.h"
 #include "master/itemtypeinvform.h"
@@ -383,36 +382,4 @@ TEST_F(ItemScreens, DeleteAnItemThatHasBeenUsed)
     EXPECT_EQ(prompts.take(), QStringList(2, u"Confirm: Delete 'A11: Bread'?"_s));
     EXPECT_EQ(numbers(), (QStringList{u"A10"_s, u"B1"_s, u"X9"_s}));
     EXPECT_EQ(currentNumber(), u"B1");
-}
-
-TEST_F(ItemScreens, SearchForWhatIsTyped)
-{
-    TfrmItemSearchInv search(*context, mainWindow.get());
-    search.SetItemID(3);
-    showActive(search);
-    auto *number = child<QLineEdit>(search, "editFindItemNo");
-    EXPECT_EQ(search.GetItemID(), 3);
-    type("A1");
-    EXPECT_EQ(search.GetItemID(), 1);
-    type("1");
-    EXPECT_EQ(search.GetItemID(), 2);
-    press(Qt::Key_Backspace);
-    EXPECT_EQ(search.GetItemID(), 2) << "taking a character away moves nothing";
-    type("7");
-    EXPECT_EQ(search.GetItemID(), 2) << "no number goes on so";
-    number->selectAll();
-    type("X");
-    EXPECT_EQ(search.GetItemID(), 4) << "typed over";
-    child<QLineEdit>(search, "editFindItemDescription")->setFocus();
-    type("ap");
-    EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
-    child<LookupComboBox>(search, "cboItemType")->setFocus();
-    type("food");
-    press(Qt::Key_Tab);
-    EXPECT_EQ(search.GetItemID(), 1);
-    search.reject();
-    showActive(search);
-    EXPECT_EQ(focusName(), u"editFindItemNo");
-    EXPECT_EQ(number->text(), QString());
-    EXPECT_EQ(child<LookupComboBox>(search, "cboItemType")->chosenId(), 0);
 }

@@ -1,0 +1,41 @@
+#include "controls/lookupcombobox.h"
+#include "master/itemsearchinvform.h"
+#include "tests/transactions/screentest.h"
+
+#include <QLineEdit>
+
+using namespace Tallymere;
+
+using ItemSearchScreen = ScreenTest;
+
+TEST_F(ItemSearchScreen, FollowsWhatIsTyped)
+{
+    TfrmItemSearchInv search(*context, mainWindow.get());
+    search.SetItemID(3);
+    showActive(search);
+    auto *number = child<QLineEdit>(search, "editFindItemNo");
+    EXPECT_EQ(search.GetItemID(), 3);
+    type("A1");
+    EXPECT_EQ(search.GetItemID(), 1);
+    type("1");
+    EXPECT_EQ(search.GetItemID(), 2);
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(search.GetItemID(), 2) << "taking a character away moves nothing";
+    type("7");
+    EXPECT_EQ(search.GetItemID(), 2) << "no number goes on so";
+    number->selectAll();
+    type("X");
+    EXPECT_EQ(search.GetItemID(), 4) << "typed over";
+    child<QLineEdit>(search, "editFindItemDescription")->setFocus();
+    type("ap");
+    EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
+    child<LookupComboBox>(search, "cboItemType")->setFocus();
+    type("food");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(search.GetItemID(), 1);
+    search.reject();
+    showActive(search);
+    EXPECT_EQ(focusName(), u"editFindItemNo");
+    EXPECT_EQ(number->text(), QString());
+    EXPECT_EQ(child<LookupComboBox>(search, "cboItemType")->chosenId(), 0);
+}
