@@ -1,0 +1,162 @@
+#include "engine/error.h"
+#include "host/tables/hosttables.h"
+#include "master/masterkinds.h"
+#include "master/masterlist.h"
+#include "master/masterrecord.h"
+#include "tests/support/failures.h"
+#include "tests/transactions/kitchen.h"
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class Vendors : public testing::TestWithParam<Store>
+{
+protected:
+    Vendors()
+    {
+        HostTables::createHostTables(database, u"Test Kitchen"_s, u"USA"_s);
+        vendor.open();
+        list.open();
+    }
+    QString enter(const QString &field, const Engine::Value &value)
+    {
+        if (!vendor.table().isEditing())
+            vendor.table().edit();
+        return refusalOf([&] { vendor.table().set(field, value); });
+    }
+    QString kept(const QString &field, const QString &typed)
+    {
+        vendor.table().edit();
+        vendor.table().setText(field, typed);
+        vendor.save();
+        return vendor.table().value(field).isNull() ? u"null"_s : vendor.table().text(field);
+    }
+
+    Kitchen kitchen{GetParam()};
+    Engine::Database &database = kitchen.database();
+    MasterRecord vendor{database, MasterKinds::vendor()};
+    MasterList list{database, MasterKinds::vendor()};
+};
+ON_BOTH_STORES(Vendors);
+
+} // namespace
+
+TEST_P(Vendors, WithInvoicesKeepTheirCurrency)
+{
+    kitchen.execute(u"INSERT INTO APInv (InvoiceID, VendorID) VALUES (7, 2)"_s);
+    const QString refused = u"Currency cannot be changed... \nInvoice(s) already exist -> CurrencyID"_s;
+    ASSERT_TRUE(vendor.openRecord(2));
+    EXPECT_EQ(enter(u"CurrencyID"_s, 1), refused);
+    EXPECT_EQ(enter(u"CurrencyID"_s, {}), refused);
+    EXPECT_EQ(enter(u"CurrencyID"_s, 2), QString()) << "no change";
+    EXPECT_EQ(vendor.table().integer(u"CurrencyID"), 2);
+    vendor.table().set(u"VendorName", u"Renamed"_s);
+    vendor.save();
+
+    ASSERT_TRUE(vendor.openRecord(1));
+    EXPECT_EQ(enter(u"CurrencyID"_s, 3), QString()) << "no invoices of this one";
+    vendor.cancel();
+    vendor.newRecord();
+    EXPECT_EQ(enter(u"CurrencyID"_s, 3), QString());
+    kitchen.execute(u"INSERT INTO APInv (InvoiceID, VendorID) VALUES (8, %1)"_s.arg(vendor.key()));
+    EXPECT_EQ(enter(u"CurrencyID"_s, 1), QString()) << "new";
+}
+
+TEST_P(Vendors, KeepPagesWithoutTheirBeginningAndCodesInCapitals)
+{
+    ASSERT_TRUE(vendor.openRecord(1));
+    const QList<std::pair<QString, QString>> pages = {
+        {u"http://abcdefghijklmnopqrstuvwxyz"_s, u"abcdefghijklmnopqrstuv"_s},
+        {u"http://a.example"_s, u"a.example"_s},
+        {u"see http://a.example"_s, u"p://a.example"_s}, // the first seven characters, whatever they are
+        {u"www.a.example/100%?x=1;y='2'"_s, u"www.a.example/100%?x=1;y='2'"_s},
+        {u"https://abcdefghijklmno.example"_s.first(30), u"https://abcdefghijklmno.exampl"_s},
+        {QString(), u"null"_s},
+    };
+    for (const auto &[typed, page] : pages)
+        EXPECT_EQ(kept(u"WebPage"_s, typed), page);
+    EXPECT_EQ(kept(u"ZipCode"_s, u"k1a 0b1"_s), u"K1A 0B1");
+}
+
+TEST_P(Vendors, AreListedWithTheirBalances)
+{
+    kitchen.execute(u"INSERT INTO VBalance (VendorID, Balance) VALUES (2, -1234.5), (1, 0)"_s);
+    list.table().refresh();
+    const QList<std::pair<int, QString>> cases = {{1, u"0.00"_s}, {2, u"(1,234.50)"_s}, {3, {}}};
+    for (const auto &[key, balance] : cases) {
+        ASSERT_TRUE(list.moveTo(key));
+        EXPECT_EQ(list.table().displayText(u"Balance"), balance);
+    }
+}
+
+TEST_P(Vendors, AreFilteredByCurrencyAndSuspension)
+{
+    using Marked = ListFilter::Marked;
+    // The second vendor does not say whether it is suspended.
+    const QList<std::tuple<ListFilter, QString, QString>> cases = {
+        {{3, Marked::No}, u"(CurrencyID = 3) AND (Suspended <> true)"_s, u"V3"_s},
+        {{1, Marked::All}, u"(CurrencyID = 1)"_s, u"V1 V4"_s},
+        {{0, Marked::Yes}, u"(Suspended = true)"_s, u"V4"_s},
+        {{0, Marked::No}, u"(Suspended <> true)"_s, u"V1 V2 V3 V5"_s},
+        {{0, Marked::All}, {}, u"V1 V2 V3 V4 V5"_s},
+    };
+    list.setOrder(MasterKinds::vendor().orders[1]);
+    for (const auto &[choice, expression, shown] : cases) {
+        EXPECT_EQ(MasterKinds::vendor().filterExpression(choice), expression);
+        list.table().setFilter(expression);
+        list.table().setFiltered(!expression.isEmpty());
+        QStringList numbers;
+        for (int row = 0; row < list.table().recordCount(); ++row)
+            numbers << list.table().valueAt(row, list.table().fieldIndex(u"VendorNo")).toText();
+        EXPECT_EQ(numbers.join(u' '), shown);
+    }
+    EXPECT_EQ(MasterKinds::item().filterExpression({4, Marked::No}), u"(ItemTypeID = 4) AND (Suspended = false)");
+}
+
+TEST_P(Vendors, ShowTheirContactsByName)
+{
+    kitchen.execute(uR"(INSERT INTO VContact (VendorID, ContactID, FirstName, LastName) VALUES
+        (1, 1, 'Zoe', 'adams'), (1, 2, 'Ann', 'Berg'), (2, 3, 'Bob', 'Adams'), (1, 4, 'Al', 'Adams'),
+        (1, 5, 'Only', NULL), (1, 6, NULL, 'Cole'))"_s);
+    MasterList contacts(database, MasterKinds::vendorContact());
+    contacts.open();
+    contacts.table().setMaster(&vendor.table(), u"VendorID"_s);
+    const auto names = [&] {
+        QStringList all;
+        for (int row = 0; row < contacts.table().recordCount(); ++row)
+            all << contacts.table().valueAt(row, contacts.table().fieldIndex(u"FullName")).toText();
+        return all.join(", "_L1);
+    };
+    ASSERT_TRUE(vendor.openRecord(1));
+    EXPECT_EQ(names(), u"Only, Al Adams, Zoe adams, Ann Berg, Cole");
+    ASSERT_TRUE(contacts.moveTo(2));
+    EXPECT_FALSE(contacts.moveTo(3)) << "another vendor's";
+    ASSERT_TRUE(vendor.openRecord(3));
+    EXPECT_EQ(names(), QString());
+}
+
+TEST_P(Vendors, AreNotDeletedWhileTheirContactIsEdited)
+{
+    kitchen.session().lockAttempts = 1;
+    kitchen.execute(uR"(
+        INSERT INTO VContact (VendorID, ContactID, FirstName) VALUES (1, 7, 'Mary'), (1, 8, 'Otto');
+        INSERT INTO VBalance (VendorID, Balance) VALUES (1, 5);
+    )"_s);
+    const auto anna = kitchen.anotherUser();
+    MasterRecord contact(anna->database, MasterKinds::vendorContact());
+    contact.open();
+    ASSERT_TRUE(contact.openRecord(8));
+    contact.table().edit();
+    contact.table().set(u"LastName", u"Frey"_s);
+
+    ASSERT_TRUE(list.moveTo(1));
+    SpokenPrompts prompts;
+    EXPECT_EQ(errorOf([&] { list.remove(prompts); }), Engine::ErrorCode::RecordLocked);
+    EXPECT_EQ(kitchen.rows(u"SELECT ContactID FROM VContact ORDER BY ContactID"_s), (QStringList{u"7"_s, u"8"_s}));
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM VBalance"_s), 1);
+    contact.save();
+    list.remove(prompts);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM VContact"_s), 0);
+}

@@ -1,0 +1,412 @@
+#include "controls/lookupcombobox.h"
+#include "controls/screenmetrics.h"
+#include "master/dialerinvform.h"
+#include "master/masterkinds.h"
+#include "master/vcontactform.h"
+#include "master/vendorform.h"
+#include "master/vendorsform.h"
+#include "tests/transactions/screentest.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QTabWidget>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class VendorScreensTest : public ScreenTest
+{
+protected:
+    VendorScreensTest()
+    {
+        kitchen.execute(uR"(
+            UPDATE Vendor SET Phone = '555-1234', EMail = 'a&b?@first.example', WebPage = 'first.example'
+                WHERE VendorID = 1;
+            INSERT INTO VBalance (VendorID, Balance) VALUES (2, 1234.5);
+            INSERT INTO VContact (VendorID, ContactID, FirstName, LastName, BusinessPhone, EMail)
+                VALUES (1, 7, 'Mary', 'Cole', '555-7', 'mary@first.example'), (1, 8, 'Otto', 'Berg', NULL, NULL);
+        )"_s);
+        context->openObject = [this](const QString &address) { opened << address; };
+        list = new TfrmVendors(*context, mainWindow.get());
+        grid = child<QTableView>(*list, "DBGrid1");
+        showActive(*list);
+    }
+
+    QStringList shown(int column = 0)
+    {
+        QStringList cells;
+        for (int row = 0; row < grid->model()->rowCount(); ++row)
+            cells << grid->model()->index(row, column).data().toString();
+        return cells;
+    }
+    QString current() { return list->dataSet().text(u"VendorNo"); }
+
+    // The card that the list opens on a vendor; 0 for a new one.
+    TfrmVendor &open(int key = 0)
+    {
+        if (key == 0) {
+            list->btnNewClick();
+        } else {
+            EXPECT_TRUE(list->moveToKey(key));
+            list->btnEditClick();
+        }
+        card = findScreen<TfrmVendor>(u"frmVendor"_s);
+        showActive(*card);
+        return *card;
+    }
+    TfrmVContact *contactCard()
+    {
+        auto *contact = findScreen<TfrmVContact>(u"frmVContact"_s);
+        if (contact)
+            showActive(*contact);
+        return contact;
+    }
+    // Brings the cursor to a field, on whatever page it is.
+    void enter(QWidget &window, const char *field)
+    {
+        showActive(window);
+        auto *widget = child<QWidget>(window, field);
+        auto *pages = child<QTabWidget>(window, "PageControl1");
+        for (int i = 0; i < pages->count(); ++i) {
+            if (pages->widget(i)->isAncestorOf(widget))
+                pages->setCurrentIndex(i);
+        }
+        widget->setFocus();
+    }
+    void fill(QWidget &window, const char *field, const char *text)
+    {
+        enter(window, field);
+        child<QLineEdit>(window, field)->selectAll();
+        type(text);
+    }
+    void click(QWidget &window, const char *button) { child<QAbstractButton>(window, button)->click(); }
+    int page() { return child<QTabWidget>(*card, "PageControl1")->currentIndex(); }
+    QString contacts()
+    {
+        const QAbstractItemModel *model = child<QTableView>(*card, "DBGrid1")->model();
+        QStringList names;
+        for (int row = 0; row < model->rowCount(); ++row)
+            names << model->index(row, 1).data().toString();
+        return names.join(u' ');
+    }
+
+    QStringList opened; // by the desktop
+    QPointer<TfrmVendors> list;
+    QTableView *grid = nullptr;
+    QPointer<TfrmVendor> card;
+};
+
+} // namespace
+
+TEST_F(VendorScreensTest, listIsSortedFilteredAndSearched)
+{
+    EXPECT_EQ(shown(1), (QStringList{u"Fifth"_s, u"First"_s, u"Fourth"_s, u"Second"_s, u"Third"_s}));
+    EXPECT_EQ(shown(4), (QStringList{{}, {}, {}, u"1,234.50"_s, {}}));
+    list->command(u"mnuSortVendorNo"_s)->trigger();
+    EXPECT_EQ(shown(), (QStringList{u"V1"_s, u"V2"_s, u"V3"_s, u"V4"_s, u"V5"_s}));
+    for (const char *nothing : {"mnuInvoices", "mnuCheques", "mnuPrint"})
+        EXPECT_FALSE(list->command(QString::fromLatin1(nothing))->isEnabled()) << nothing;
+
+    const auto filter = [this](const std::function<void(FilterDialog &)> &step) {
+        EXPECT_TRUE(whileOpen<FilterDialog>([this] { click(*list, "btnFilter"); }, step));
+    };
+    filter([](FilterDialog &dialog) {
+        EXPECT_EQ(focusName(), u"cboCurrency"_s);
+        type("Ho");
+        child<QRadioButton>(dialog, "optSuspendedNo")->click();
+        press(Qt::Key_Return);
+    });
+    EXPECT_EQ(shown(), QStringList{u"V1"_s});
+    EXPECT_EQ(list->windowTitle(), u"Vendors (Filtered)"_s);
+    filter([this](FilterDialog &dialog) {
+        EXPECT_EQ(child<LookupComboBox>(dialog, "cboCurrency")->currentText(), u"Home"_s) << "kept";
+        click(dialog, "btnReset");
+        click(dialog, "btnOK");
+    });
+    EXPECT_EQ(shown().size(), 5);
+    EXPECT_EQ(list->windowTitle(), u"Vendors"_s);
+
+    const auto find = [this](const std::function<void(TfrmVendorsFind &)> &step) {
+        showActive(*list);
+        EXPECT_TRUE(whileOpen<TfrmVendorsFind>(
+            [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier); }, step));
+    };
+    find([this](TfrmVendorsFind &dialog) {
+        EXPECT_EQ(focusName(), u"editVendor"_s);
+        type("V7");
+        press(Qt::Key_Tab);
+        EXPECT_EQ(prompts.take(), QStringList{u"error: Vendor no. 'V7' not found"_s});
+        EXPECT_EQ(focusName(), u"editVendor"_s);
+        type("V3");
+        press(Qt::Key_Tab);
+        EXPECT_EQ(child<LookupComboBox>(dialog, "cboVendor")->currentText(), u"Third"_s);
+        kitchen.execute(u"DELETE FROM Vendor WHERE VendorID = 3"_s);
+        list->refreshList();
+        click(dialog, "btnOK");
+        EXPECT_EQ(prompts.take(), QStringList{u"error: 'Third' not found"_s});
+        EXPECT_TRUE(dialog.isVisible());
+        type("V2");
+        press(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(current(), u"V2"_s);
+}
+
+TEST_F(VendorScreensTest, newVendorIsEnteredByKeyboard)
+{
+    kitchen.execute(u"UPDATE Company SET DefaultCurrencyID = NULL"_s);
+    open();
+    EXPECT_EQ(card->windowTitle(), u"New Vendor"_s);
+    EXPECT_EQ(focusName(), u"editVendorNo"_s);
+    press(Qt::Key_Return); // the proposed number stays
+    type("O'Neil & Sons; 100%");
+    EXPECT_EQ(card->windowTitle(), u"O'Neil & Sons; 100%"_s);
+    fill(*card, "editZipCode", "k1a");
+    fill(*card, "editWebPage", "http://oneil.example");
+    press(Qt::Key_O, Qt::AltModifier); // the button goes down visibly before it acts
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !prompts.said.isEmpty(); }));
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Currency' must have a value"_s});
+    EXPECT_EQ(page(), 1) << "where the currency is";
+    EXPECT_EQ(focusName(), u"cboCurrency"_s);
+    type("Fa");
+    press(Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !card; }));
+    EXPECT_EQ(prompts.said, QStringList());
+    EXPECT_EQ(kitchen.rows(u"SELECT VendorID, VendorNo, VendorName, ZipCode, WebPage, CurrencyID, Suspended FROM "
+                           "Vendor WHERE VendorID > 5"_s),
+              QStringList{u"10000|1001|O'Neil & Sons; 100%|K1A|oneil.example|2|false"_s});
+    EXPECT_EQ(current(), u"1001"_s);
+}
+
+TEST_F(VendorScreensTest, whatIsMissingOrTakenBringsTheCursorThere)
+{
+    open(1);
+    const std::tuple<const char *, const char *, QString> cases[] = {
+        {"editVendorNo", "", u"error: Field 'Vendor no.' must have a value"_s},
+        {"editVendorNo", "V2", u"error: Vendor no. already exists"_s},
+        {"editVendorName", "", u"error: Field 'Vendor Name' must have a value"_s},
+    };
+    for (const auto &[field, text, refusal] : cases) {
+        const QString before = child<QLineEdit>(*card, field)->text();
+        fill(*card, field, text);
+        if (!*text)
+            press(Qt::Key_Delete);
+        child<QTabWidget>(*card, "PageControl1")->setCurrentIndex(3);
+        click(*card, "btnOK");
+        EXPECT_EQ(prompts.take(), QStringList{refusal});
+        EXPECT_EQ(page(), 0);
+        EXPECT_EQ(focusName(), QString::fromLatin1(field));
+        fill(*card, field, before.toLatin1());
+    }
+    fill(*card, "editNetDays", "soon");
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(prompts.last().startsWith("error: Net days: "_L1)) << prompts.last().toStdString();
+    EXPECT_EQ(focusName(), u"editNetDays"_s);
+    fill(*card, "editNetDays", "30");
+    fill(*card, "editDiscPC", "2.5");
+    click(*card, "btnOK");
+    EXPECT_EQ(kitchen.rows(u"SELECT VendorNo, VendorName, NetDays, DiscPC FROM Vendor WHERE VendorID = 1"_s),
+              QStringList{u"V1|First|30|2.5"_s});
+}
+
+TEST_F(VendorScreensTest, currencyOfAVendorWithInvoicesSnapsBack)
+{
+    kitchen.execute(u"INSERT INTO APInv (InvoiceID, VendorID) VALUES (1, 1)"_s);
+    open(1);
+    auto *currency = child<LookupComboBox>(*card, "cboCurrency");
+    enter(*card, "cboCurrency");
+    for (const bool clears : {false, true}) {
+        if (clears) {
+            press(Qt::Key_Delete);
+        } else {
+            type("Fa");
+            press(Qt::Key_Tab);
+        }
+        EXPECT_EQ(prompts.take(),
+                  QStringList{u"error: Currency cannot be changed... \nInvoice(s) already exist"_s});
+        EXPECT_EQ(currency->currentText(), u"Home"_s);
+        EXPECT_EQ(focusName(), u"cboCurrency"_s);
+    }
+}
+
+TEST_F(VendorScreensTest, newVendorIsSavedBeforeItsContacts)
+{
+    const QString question = u"New vendor must be saved before entering contacts...\nSave now?"_s;
+    open();
+    fill(*card, "editVendorNo", "V2");
+    fill(*card, "editVendorName", "Mill");
+    enter(*card, "DBGrid1");
+    prompts.ok = false;
+    click(*card, "btnNew");
+    EXPECT_EQ(prompts.said.size(), 1);
+    EXPECT_TRUE(prompts.take().first().endsWith(question));
+    EXPECT_EQ(contactCard(), nullptr);
+
+    prompts.ok = true;
+    enter(*card, "cboCurrency");
+    type("Ho");
+    press(Qt::Key_Return);
+    click(*card, "btnNew");
+    EXPECT_EQ(prompts.take().last(), u"error: Vendor no. already exists"_s);
+    EXPECT_EQ(focusName(), u"editVendorNo"_s);
+    EXPECT_EQ(contactCard(), nullptr);
+    type("V9");
+    click(*card, "btnNew");
+    EXPECT_EQ(prompts.take().size(), 1);
+    EXPECT_EQ(current(), u"V9"_s) << "in the list at once";
+
+    QPointer<TfrmVContact> contact = contactCard();
+    ASSERT_NE(contact, nullptr);
+    EXPECT_EQ(contact->windowTitle(), u"New Contact at Mill"_s);
+    EXPECT_EQ(focusName(), u"editFirstName"_s);
+    fill(*contact, "editBusinessPhone", "555");
+    click(*contact, "btnOK");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Contact Name' must have a value"_s});
+    EXPECT_EQ(focusName(), u"editFirstName"_s);
+    fill(*contact, "editLastName", "Frey");
+    click(*contact, "btnOK");
+    settle();
+    EXPECT_TRUE(contact.isNull());
+    EXPECT_EQ(
+        kitchen.rows(u"SELECT VendorID, FirstName, LastName, BusinessPhone FROM VContact WHERE ContactID > 8"_s),
+        QStringList{u"10000||Frey|555"_s});
+    const QAbstractItemModel *shownContacts = child<QTableView>(*card, "DBGrid1")->model();
+    ASSERT_EQ(shownContacts->rowCount(), 1);
+    EXPECT_EQ(shownContacts->index(0, 0).data().toString(), u"Frey"_s);
+}
+
+TEST_F(VendorScreensTest, contactsAreEditedAndDeletedOnTheCard)
+{
+    open(1);
+    enter(*card, "DBGrid1");
+    EXPECT_EQ(contacts(), u"Otto Mary"_s);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QPointer<TfrmVContact> contact = contactCard();
+    ASSERT_NE(contact, nullptr);
+    EXPECT_EQ(contact->windowTitle(), u"Mary Cole"_s);
+    click(*card, "btnEdit");
+    EXPECT_EQ(findScreen(u"frmVContact"_s), contact) << "its card is open already";
+    fill(*contact, "editLastName", "Ams");
+    prompts.answer = Answer::Cancel;
+    contact->close();
+    EXPECT_TRUE(contact->isVisible());
+    EXPECT_EQ(prompts.take(), QStringList{u"Do you want to save changes?"_s});
+    click(*contact, "btnOK");
+    settle();
+    EXPECT_EQ(contacts(), u"Mary Otto"_s);
+    EXPECT_EQ(child<QTableView>(*card, "DBGrid1")->currentIndex().row(), 0) << "on the contact that was saved";
+
+    prompts.ok = false;
+    click(*card, "btnDelete");
+    EXPECT_EQ(prompts.take(), QStringList{u"Confirm: Delete 'Mary Ams'?"_s});
+    EXPECT_EQ(contacts(), u"Mary Otto"_s);
+    prompts.ok = true;
+    click(*card, "btnDelete");
+    EXPECT_EQ(contacts(), u"Otto"_s);
+    EXPECT_EQ(kitchen.rows(u"SELECT FirstName FROM VContact"_s), QStringList{u"Otto"_s});
+}
+
+TEST_F(VendorScreensTest, contactBeingEnteredOutlivesTheCardOfItsVendor)
+{
+    open(1);
+    enter(*card, "DBGrid1");
+    press(Qt::Key_Return);
+    QPointer<TfrmVContact> contact = contactCard();
+    ASSERT_NE(contact, nullptr);
+    fill(*contact, "editJobTitle", "Baker");
+    click(*card, "btnOK");
+    list->close();
+    settle();
+    EXPECT_TRUE(card.isNull());
+    ASSERT_FALSE(contact.isNull());
+    click(*contact, "btnOK");
+    EXPECT_EQ(kitchen.text(u"SELECT JobTitle FROM VContact WHERE ContactID = 8"_s), u"Baker"_s);
+}
+
+TEST_F(VendorScreensTest, buttonsReachWhatStandsBesideThem)
+{
+    const auto dialed = [this](const std::function<void()> &action) {
+        QString label;
+        EXPECT_TRUE(whileOpen<TfrmDialerInv>(
+            action, [&](TfrmDialerInv &dialer) { label = child<QLabel>(dialer, "Label1")->text(); }));
+        return label;
+    };
+    open(1);
+    EXPECT_EQ(dialed([this] { click(*card, "btnPhone"); }), u"Phone 'First'\nat 555-1234"_s);
+    click(*card, "btnEmail");
+    fill(*card, "editWebPage", "http://new.example/x");
+    click(*card, "btnWebPage"); // as it has just been typed
+    fill(*card, "editWebPage", "https://safe.example");
+    click(*card, "btnWebPage");
+    EXPECT_EQ(opened,
+              (QStringList{u"mailto:a&b?@first.example"_s, u"http://new.example/x"_s, u"https://safe.example"_s}));
+    fill(*card, "editEMail", " ");
+    press(Qt::Key_Backspace);
+    enter(*card, "editPhone");
+    click(*card, "btnEmail");
+    EXPECT_EQ(opened.size(), 3);
+    EXPECT_EQ(focusName(), u"editEMail"_s) << "there is none yet";
+
+    enter(*card, "DBGrid1");
+    const auto popup = [this](const char *item) { return child<QAction>(*card, item); };
+    EXPECT_FALSE(popup("mnuPhone")->isEnabled() || popup("mnuEMail")->isEnabled()) << "Otto has neither";
+    press(Qt::Key_Down);
+    EXPECT_EQ(dialed([&] { popup("mnuPhone")->trigger(); }), u"Phone 'Mary Cole'\nat 555-7"_s);
+    popup("mnuEMail")->trigger();
+    EXPECT_EQ(opened.last(), u"mailto:mary@first.example"_s);
+    popup("mnuEdit")->trigger();
+    TfrmVContact *contact = contactCard();
+    ASSERT_NE(contact, nullptr);
+    fill(*contact, "editPager", "77");
+    EXPECT_EQ(dialed([&] { click(*contact, "btnPager"); }), u"Phone 'Mary Cole'\nat 77"_s);
+
+    context->openObject = {};
+    TfrmVContact without(*context, mainWindow.get());
+    EXPECT_FALSE(child<QToolButton>(without, "btnEmail")->isEnabled()) << "no desktop";
+}
+
+TEST_F(VendorScreensTest, anotherUserIsToldOf)
+{
+    const auto anna = kitchen.anotherUser();
+    MasterRecord theirs(anna->database, MasterKinds::vendor());
+    theirs.open();
+    ASSERT_TRUE(theirs.openRecord(1));
+    theirs.table().edit();
+    theirs.table().set(u"VendorName", u"Theirs"_s);
+
+    open(1);
+    fill(*card, "editCity", "x");
+    EXPECT_TRUE(prompts.last().startsWith("error: 'V1: First' is being edited by another user"_L1))
+        << prompts.last().toStdString();
+    EXPECT_EQ(child<QLineEdit>(*card, "editCity")->text(), QString());
+    theirs.save();
+    fill(*card, "editCity", "Bergen");
+    EXPECT_EQ(child<QLineEdit>(*card, "editVendorName")->text(), u"Theirs"_s) << "as it is now";
+    click(*card, "btnOK");
+    settle();
+    EXPECT_EQ(kitchen.rows(u"SELECT VendorName, City FROM Vendor WHERE VendorID = 1"_s),
+              QStringList{u"Theirs|Bergen"_s});
+    prompts.said.clear();
+
+    open(2);
+    kitchen.execute(u"DELETE FROM Vendor WHERE VendorID = 2"_s);
+    fill(*card, "editCity", "x");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: 'V2: Second' was deleted by another user."_s});
+    click(*card, "btnOK");
+    settle();
+    EXPECT_TRUE(card.isNull());
+
+    click(*list, "btnEdit");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: 'V2: Second' was deleted by another user."_s});
+    EXPECT_FALSE(shown().contains(u"V2"_s));
+}
