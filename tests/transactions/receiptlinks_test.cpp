@@ -1,4 +1,5 @@
 #include "controls/listscreen.h"
+#include "master/vendorsform.h"
 #include "tests/transactions/screentest.h"
 #include "transactions/invreceiptform.h"
 
@@ -53,4 +54,24 @@ TEST_F(ReceiptLinksTest, locationButtonOpensTheListOnTheReceiptsLocation)
     click();
     EXPECT_EQ(list->dataSet().integer(u"WarehouseID"), 1) << "no location yet: the first";
     EXPECT_FALSE(child<QToolButton>(screen, "btnVendor")->isEnabled()) << "a list that is not there";
+}
+
+TEST_F(ReceiptLinksTest, vendorButtonOpensTheVendorsOnTheReceiptsVendor)
+{
+    auto *vendors = new TfrmVendors(*context, mainWindow.get());
+    vendors->applyFilter(u"(Suspended = true)"_s);
+    context->hasScreen = [](const QString &name) { return name == "frmVendors"_L1; };
+    context->openScreen = [vendors](const QString &) {
+        vendors->show();
+        return vendors;
+    };
+    kitchen.addReceipt(1, 3, 2, {{1, 5, 3.0}});
+    TfrmInvReceipt screen(*context, mainWindow.get());
+    ASSERT_TRUE(screen.openDocument(1));
+    child<QToolButton>(screen, "btnVendor")->click();
+    EXPECT_EQ(vendors->windowTitle(), u"Vendors"_s) << "not filtered any more";
+    EXPECT_EQ(vendors->dataSet().text(u"VendorNo"), u"V3"_s);
+    screen.newDocument();
+    child<QToolButton>(screen, "btnVendor")->click();
+    EXPECT_EQ(vendors->dataSet().text(u"VendorName"), u"Fifth"_s) << "no vendor yet: the first by name";
 }
