@@ -1,9 +1,9 @@
 #include "cli/command.h"
-#include "cli/csvlist.h"
 #include "cli/named.h"
 #include "data/layouts.h"
 #include "data/transtypes.h"
 #include "engine/table.h"
+#include "frame/shared/csvlist.h"
 #include "frame/shared/formats.h"
 #include "master/masterkinds.h"
 #include "transactions/totalsview.h"
@@ -33,10 +33,13 @@ QStringList fieldNames(const Engine::TableLayout &layout)
     return names;
 }
 
-// The rows that --filter leaves.
+// The rows that --filter leaves. A bad expression throws EngineError, BadExpression.
 void writeRows(CommandContext &context, Engine::DataSet &rows, const QStringList &columns)
 {
-    filterBy(rows, context.arguments.value(u"filter"_s));
+    if (const QString filter = context.arguments.value(u"filter"_s); !filter.isEmpty()) {
+        rows.setFilter(filter);
+        rows.setFiltered(true);
+    }
     ConsoleProgress progress(context.console, tr("Writing"));
     writeCsvList(rows, columns, context.console.longOutput(), progress);
 }
