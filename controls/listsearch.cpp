@@ -46,9 +46,14 @@ std::optional<OrderedField> ListSearch::column() const
     return std::nullopt;
 }
 
+bool ListSearch::goesOn() const
+{
+    return !m_text.isEmpty() && !m_sinceTyped.hasExpired(QApplication::keyboardInputInterval());
+}
+
 bool ListSearch::takeKey(const QKeyEvent &key)
 {
-    if (m_text.isEmpty() && (key.key() == Qt::Key_Space || !isTyped(key)))
+    if (m_text.isEmpty() && !isTyped(key))
         return false;
     switch (key.key()) {
     case Qt::Key_Escape:
@@ -60,19 +65,18 @@ bool ListSearch::takeKey(const QKeyEvent &key)
     default:
         break;
     }
-    if (!isTyped(key))
+    if (!isTyped(key) || (key.key() == Qt::Key_Space && !goesOn()))
         return false;
     type(key.text());
     return true;
 }
 
+// No text begins with a blank, and the space bar means something else to a list.
 void ListSearch::type(const QString &text)
 {
-    if (text.isEmpty() || !m_model.dataSet().isOpen() || !column())
+    if (!m_model.dataSet().isOpen() || !column() || (!goesOn() && text.trimmed().isEmpty()))
         return;
-    if (!m_text.isEmpty() && m_sinceTyped.hasExpired(QApplication::keyboardInputInterval()))
-        m_text.clear();
-    m_text += text;
+    m_text = goesOn() ? m_text + text : text;
     find();
 }
 

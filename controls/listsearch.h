@@ -35,6 +35,7 @@ Q_SIGNALS:
 
 private:
     std::optional<Engine::OrderedField> column() const;
+    bool goesOn() const; // what is typed now belongs to the text
     bool locate(const Engine::OrderedField &column, const QString &text) const;
     void find();
     void shorten();

@@ -214,6 +214,9 @@ TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
     QTest::qWait(5);
     type("d");
     EXPECT_EQ(grid.search()->text(), u"d"_s) << "a pause begins anew";
+    QTest::qWait(5);
+    press(Qt::Key_Space);
+    EXPECT_EQ(grid.search()->text(), u"d"_s) << "but not with a blank";
     QApplication::setKeyboardInputInterval(-1);
 
     table->setIndex(QString()); // by key, which is no text and not shown

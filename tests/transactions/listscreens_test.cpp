@@ -248,6 +248,9 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
     totals.command(u"mnuSortDescription"_s)->trigger();
     EXPECT_TRUE(totals.command(u"mnuSortDescription"_s)->isChecked());
     EXPECT_EQ(row(4).at(1), u"apricots"_s);
+    grid->setFocus();
+    type("APR"); // searches where it is sorted, by the case-insensitive index of the items
+    EXPECT_EQ(grid->currentIndex().row(), 4);
 
     EXPECT_TRUE(whileOpen<TfrmItemsFind>([&] { totals.btnFindClick(); },
                                          [&](TfrmItemsFind &) {
