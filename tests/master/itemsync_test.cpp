@@ -11,7 +11,7 @@ using Engine::ErrorCode;
 
 namespace {
 
-// Does something before the first row and counts the others.
+// Does something once the keys are reserved and before the first row.
 class InterruptedProgress final : public Progress
 {
 public:
@@ -253,21 +253,6 @@ TEST_P(ItemSyncTest, WhoHoldsTheItemsKeepsEverythingAsItIs)
     EXPECT_EQ(of(u"ItemDescription"_s, 1), u"old");
     EXPECT_EQ(nextItemID(), u"10");
     EXPECT_EQ(run().added, 1);
-}
-
-// The same user's own screen takes over what it did not change itself.
-TEST_P(ItemSyncTest, AnEditInTheSameProgramKeepsWhatItChanged)
-{
-    addItem(1, u"7"_s);
-    addHostItem(7, u"'new'"_s, u"2"_s);
-    Engine::Table table(kitchen.database(), u"Item"_s);
-    table.open();
-    table.edit();
-    table.set(u"ItemDescription", u"typed"_s);
-    run();
-    table.post();
-    EXPECT_EQ(of(u"ItemDescription"_s, 1), u"typed");
-    EXPECT_EQ(of(u"UnitPrice"_s, 1), u"2");
 }
 
 } // namespace
