@@ -115,7 +115,7 @@ void ListGrid::selectionChanged(const QItemSelection &selected, const QItemSelec
                            [](const QItemSelectionRange &range) { return range.height() > many; });
     };
     if (isLarge(selected) || isLarge(deselected))
-        QAbstractItemView::selectionChanged(selected, deselected);
+        QAbstractItemView::selectionChanged(selected, deselected); // NOLINT(bugprone-parent-virtual-call)
     else
         DataGrid::selectionChanged(selected, deselected);
 }
