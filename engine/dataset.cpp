@@ -166,17 +166,16 @@ bool DataSet::moveToKey(const QList<qint64> &key)
         return true;
     if (d->keysRead || d->inMemory) {
         reader.readKeys();
-        const int index = d->keys.find(key);
-        if (index >= 0)
+        if (const int index = d->keys.find(key); index >= 0) {
             moveTo(index);
-        return index >= 0;
+            return true;
+        }
     }
-    if (!reader.source().holds(key))
+    if (d->inMemory || !reader.source().holds(key))
         return false;
     beforeMove();
-    d->hold(key, std::nullopt);
-    Q_EMIT currentChanged();
-    scrolled();
+    const bool isNew = holdFound(key, std::nullopt);
+    announceMove(isNew);
     return true;
 }
 
@@ -231,6 +230,8 @@ bool DataSet::matches(const Row &row, const QStringList &fields, const QList<Val
 bool DataSet::moveToFirstMatch(const QStringList &fields, const QList<Value> &values, LocateOptions options)
 {
     beforeMove();
+    bool moves = false;
+    bool isNew = false;
     try {
         if (d->inMemory) {
             const auto found = std::find_if(d->memory.begin(), d->memory.end(),
@@ -244,20 +245,38 @@ bool DataSet::moveToFirstMatch(const QStringList &fields, const QList<Value> &va
         auto found = source.first(source.match(fields, values, options));
         if (!found)
             return false;
-        const bool moves = d->current != Current::Known || d->key != found->key;
-        const int index = moves ? -1 : d->index;
-        d->hold(std::move(found->key), std::move(found->row));
-        d->index = index;
-        if (!moves)
-            return true;
+        moves = d->current != Current::Known || d->key != found->key;
+        isNew = holdFound(found->key, std::move(found->row));
     } catch (const EngineError &error) {
         if (error.code() == ErrorCode::BadValue)
             return false; // no row can hold what does not fit the field
         throw;
     }
+    if (moves || isNew)
+        announceMove(isNew);
+    return true;
+}
+
+// Makes a row current that the store has found. True when it has come since the keys were read; they are then read
+// again, lest the row has no place among them.
+bool DataSet::holdFound(const QList<qint64> &key, std::optional<Row> row)
+{
+    const int known = d->current == Current::Known && d->key == key ? d->index : -1;
+    const int index = d->keysRead && known < 0 ? d->keys.find(key) : known;
+    const bool isNew = d->keysRead && index < 0;
+    if (isNew)
+        d->forgetRead();
+    d->hold(key, std::move(row));
+    d->index = index;
+    return isNew;
+}
+
+void DataSet::announceMove(bool listIsNew)
+{
+    if (listIsNew)
+        Q_EMIT listChanged();
     Q_EMIT currentChanged();
     scrolled();
-    return true;
 }
 
 void DataSet::setFilter(const QString &expression)

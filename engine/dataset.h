@@ -5,6 +5,7 @@
 
 #include <deque>
 #include <memory>
+#include <optional>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -97,7 +98,8 @@ public:
 
     // --- finding and restricting --------------------------------------------------------------------------------
     // Moves to the first row in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values;
-    // PartialKey lets the last text begin with its value. Reads that row alone; on failure the record stays.
+    // PartialKey lets the last text begin with its value. Reads that row alone; on failure the record stays. A row that
+    // has been added since the list was read is found as well, and the list is new then; so with moveToKey().
     bool locate(const QString &fields, const QList<Value> &values, LocateOptions options = LocateOption::None);
     // The fields that the set is ordered by, one after the other; empty for a set without an order of its own. A text
     // is found by its beginning with one key look-up when it is compared as said here.
@@ -159,6 +161,8 @@ protected:
 
 private:
     void addField(Field field);
+    bool holdFound(const QList<qint64> &key, std::optional<Row> row);
+    void announceMove(bool listIsNew);
     bool matches(const Row &row, const QStringList &fields, const QList<Value> &values,
                  LocateOptions options) const;
 };

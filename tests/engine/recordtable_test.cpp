@@ -100,6 +100,31 @@ TEST_P(RecordTest, LocatesTheFirstMatchInTheOrderOrStays)
     EXPECT_EQ(errorOf([&] { table.locate(u"NoSuch"_s, {1}); }), ErrorCode::NoSuchField);
 }
 
+TEST_P(RecordTest, FindsWhatHasComeSinceTheListWasRead)
+{
+    addVendors();
+    Table table(database(), u"Vendor"_s);
+    table.setIndex(u"VENDORNAME1"_s);
+    table.open();
+    ASSERT_EQ(table.recordCount(), 5);
+    int newLists = 0;
+    QObject::connect(&table, &DataSet::listChanged, [&] { ++newLists; });
+    const auto add = [this](int key, const QString &name) {
+        store.execute(u"INSERT INTO Vendor (VendorID, VendorName) VALUES (%1, '%2')"_s.arg(key).arg(name));
+    };
+    add(6, u"Baker"_s);
+    EXPECT_TRUE(table.locate(u"VendorName"_s, {u"Ba"_s}, LocateOption::PartialKey));
+    EXPECT_EQ(table.recordIndex(), 2);
+    EXPECT_EQ(table.integer(u"VendorID"), 6);
+    EXPECT_EQ(newLists, 1);
+    EXPECT_EQ(table.recordCount(), 6);
+    add(7, u"Aaron"_s);
+    EXPECT_FALSE(table.moveToKey({8}));
+    EXPECT_TRUE(table.moveToKey({7}));
+    EXPECT_EQ(table.recordIndex(), 1);
+    EXPECT_EQ(newLists, 2);
+}
+
 TEST_P(RecordTest, FindsAKeyOfTheOrderInForce)
 {
     addVendors();
