@@ -54,6 +54,11 @@ void LookupComboBox::setList(Engine::DataSet &list, const QString &keyField, con
     m_guard = &guard;
     m_list = new TableModel(list, columns, guard, this);
     setModel(m_list);
+    // Others show the list as well and read it again. Row numbers then stand for other records; once that is done, the
+    // box goes to its own.
+    connect(
+        &list, &Engine::DataSet::listChanged, this, [this] { m_guard->run([this] { showRow(); }); },
+        Qt::QueuedConnection);
     QTableView *view = makeListView(this);
     setView(view);
     int width = 0;
@@ -67,17 +72,16 @@ void LookupComboBox::setList(Engine::DataSet &list, const QString &keyField, con
 
 void LookupComboBox::setChosenId(int id)
 {
-    if (id == m_id && !m_pending)
+    if (id == m_id && !isPending())
         return;
     m_id = id;
-    m_pending = false;
     showChosen();
 }
 
 void LookupComboBox::settle()
 {
-    if (m_pending)
-        choose(idAt(currentIndex()));
+    if (isPending())
+        choose(m_shown);
 }
 
 void LookupComboBox::showPopup()
@@ -86,7 +90,7 @@ void LookupComboBox::showPopup()
         return;
     const bool read = m_guard->run([this] {
         m_list->dataSet().refresh();
-        showChosen();
+        showRow();
     });
     if (read)
         QComboBox::showPopup();
@@ -94,24 +98,29 @@ void LookupComboBox::showPopup()
 
 void LookupComboBox::choose(int id)
 {
-    m_pending = false;
     m_typed.clear();
-    if (id == m_id)
-        return;
+    const bool changes = id != m_id;
     m_id = id;
     showChosen();
-    Q_EMIT chosen(id);
+    if (changes)
+        Q_EMIT chosen(id);
 }
 
 void LookupComboBox::takePicked(int row)
 {
     if (m_inKeys)
-        m_pending = idAt(row) != m_id;
+        m_shown = idAt(row);
     else
         choose(idAt(row));
 }
 
-void LookupComboBox::showChosen() { setCurrentIndex(rowOf(m_id)); }
+void LookupComboBox::showChosen()
+{
+    m_shown = m_id;
+    showRow();
+}
+
+void LookupComboBox::showRow() { setCurrentIndex(rowOf(m_shown)); }
 
 int LookupComboBox::rowOf(int id) const
 {
@@ -144,8 +153,8 @@ void LookupComboBox::typed(const QString &text)
         return;
     }
     m_typed = wanted;
+    m_shown = list.integer(m_keyField);
     setCurrentIndex(list.recordIndex());
-    m_pending = idAt(currentIndex()) != m_id;
 }
 
 void LookupComboBox::keyPressEvent(QKeyEvent *event)
@@ -162,8 +171,7 @@ void LookupComboBox::keyPressEvent(QKeyEvent *event)
         event->ignore();
     } else if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
         choose(0);
-    } else if (event->key() == Qt::Key_Escape && m_pending) {
-        m_pending = false;
+    } else if (event->key() == Qt::Key_Escape && isPending()) {
         showChosen();
     } else if (!event->text().isEmpty() && event->text().front().isPrint()
                && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
@@ -185,6 +193,14 @@ void LookupComboBox::mousePressEvent(QMouseEvent *event)
 
 // A turn of the wheel over a form must not change what it holds.
 void LookupComboBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
+
+// What is typed is looked for among the rows as they are by now. If they cannot be read, dropping the list down tells.
+void LookupComboBox::focusInEvent(QFocusEvent *event)
+{
+    if (m_list && !m_readOnly && !isPending() && event->reason() != Qt::PopupFocusReason)
+        Guard::attempt([this] { m_list->dataSet().refresh(); });
+    QComboBox::focusInEvent(event);
+}
 
 void LookupComboBox::focusOutEvent(QFocusEvent *event)
 {

@@ -11,7 +11,7 @@ namespace Tallymere {
 //
 // Typing letters moves to the first row that begins with them, the arrow keys to the rows beside it; the choice is
 // made on leaving the box, with Enter, or at once by picking from the open list. Delete clears it, Escape goes back
-// to the last choice. The list is read again each time it is dropped down.
+// to the last choice. The list is read again when the cursor comes, and each time it is dropped down.
 class LookupComboBox : public QComboBox
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
 
     int chosenId() const { return m_id; } // 0: nothing chosen
     void setChosenId(int id); // shows nothing when the list does not hold it; no signal
-    bool isPending() const { return m_pending; } // moved by keys, not chosen yet
+    bool isPending() const { return m_shown != m_id; } // moved by keys, not chosen yet
     void settle(); // makes the pending row the choice
     void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
 
@@ -39,12 +39,14 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
     void choose(int id);
     void takePicked(int row);
     void showChosen();
+    void showRow();
     void typed(const QString &text);
     int rowOf(int id) const;
     int idAt(int row) const;
@@ -53,7 +55,7 @@ private:
     const Guard *m_guard = nullptr;
     QString m_keyField;
     int m_id = 0;
-    bool m_pending = false;
+    int m_shown = 0; // the key of the row that the box stands on
     bool m_readOnly = false;
     bool m_inKeys = false;
     QString m_typed;

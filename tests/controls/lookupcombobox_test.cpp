@@ -90,14 +90,46 @@ TEST_F(LookupComboBoxTest, escapeGoesBackAndDeleteClears)
     EXPECT_EQ(box->chosenId(), 0);
     EXPECT_EQ(box->currentText(), QString());
     ASSERT_EQ(chosen.size(), 1);
+    type("c");
+    EXPECT_EQ(box->currentText(), u"Cellar"_s);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(box->currentText(), QString()) << "not chosen yet";
+    other->setFocus();
+    EXPECT_EQ(chosen.size(), 1);
 }
 
-TEST_F(LookupComboBoxTest, openListShowsWhatOthersHaveAdded)
+// Whoever adds a row or reads the shared list again, the box stands on its record and finds what is there by now.
+TEST_F(LookupComboBoxTest, followsWhatOthersChange)
 {
     box->setChosenId(4);
-    store.execute(u"INSERT INTO Place (PlaceID, Name) VALUES (9, 'Barn')"_s);
+    const auto add = [this](int key, const QString &name) {
+        store.execute(u"INSERT INTO Place (PlaceID, Name) VALUES (%1, '%2')"_s.arg(key).arg(name));
+    };
+    add(9, u"Barn"_s);
     box->showPopup();
     EXPECT_EQ(box->count(), 5);
     EXPECT_EQ(box->currentText(), u"Cellar"_s);
     box->hidePopup();
+    showActive(form);
+
+    add(10, u"Boiler room"_s);
+    list->refresh();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(box->currentText(), u"Cellar"_s);
+    add(11, u"Cabin"_s);
+    type("cab");
+    EXPECT_EQ(box->currentText(), u"Cabin"_s);
+    add(12, u"Alcove"_s);
+    list->refresh();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(box->currentText(), u"Cabin"_s);
+    other->setFocus();
+    EXPECT_EQ(box->chosenId(), 11);
+    add(13, u"Attic"_s);
+    box->setChosenId(13);
+    EXPECT_EQ(box->currentText(), u"Attic"_s);
+    store.execute(u"UPDATE Place SET Name = 'Loft' WHERE PlaceID = 13"_s);
+    box->setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(box->currentText(), u"Loft"_s);
 }
