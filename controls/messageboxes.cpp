@@ -11,13 +11,17 @@ namespace Tallymere {
 
 namespace {
 
-// Between two boxes no window is active for a moment; the second comes over the same window as the first.
+// Between two boxes no window is active for a moment; the second comes over the same window as the first. A dialog
+// that has been hidden leaves its place to the window that it was opened from.
 QWidget *windowInUse()
 {
     static QPointer<QWidget> last;
     if (QWidget *active = QApplication::activeWindow())
         last = active;
-    return last && last->isVisible() ? last.data() : QApplication::activeModalWidget();
+    QWidget *window = last;
+    while (window && !window->isVisible())
+        window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
+    return window ? window : QApplication::activeModalWidget();
 }
 
 QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, const QString &text,

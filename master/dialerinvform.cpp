@@ -4,6 +4,9 @@
 #include "master/dialersetupinvform.h"
 #include "ui_dialerinvform.h"
 
+#include <QElapsedTimer>
+#include <QThread>
+
 namespace Tallymere {
 
 TfrmDialerInv::TfrmDialerInv(ScreenContext &context, const QString &name, const QString &number,
@@ -25,7 +28,24 @@ TfrmDialerInv::~TfrmDialerInv() = default;
 
 void TfrmDialerInv::btnOKClick()
 {
-    m_dialer.dial(m_number, context().prompts, [this] { accept(); });
+    m_dialer.dial(m_number, context().prompts, [this] {
+        accept();
+        letOpenerComeBack();
+    });
+}
+
+// A message that is shown before the window manager has gone back to the window that opened the dialer comes over
+// another one.
+void TfrmDialerInv::letOpenerComeBack()
+{
+    constexpr int patience = 300;
+    const QWidget *opener = parentWidget();
+    QElapsedTimer waiting;
+    waiting.start();
+    while (opener && opener->isVisible() && !opener->isActiveWindow() && !waiting.hasExpired(patience)) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QThread::msleep(5);
+    }
 }
 
 void TfrmDialerInv::btnSetupClick() { TfrmDialerSetupInv(context(), m_dialer, this).exec(); }

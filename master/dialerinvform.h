@@ -25,6 +25,8 @@ public:
     void btnSetupClick();
 
 private:
+    void letOpenerComeBack();
+
     std::unique_ptr<Ui::TfrmDialerInv> m_ui;
     const QString m_number;
     const Dialer m_dialer;

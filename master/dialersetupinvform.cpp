@@ -22,6 +22,8 @@ TfrmDialerSetupInv::TfrmDialerSetupInv(ScreenContext &context, const Dialer &dia
 
 TfrmDialerSetupInv::~TfrmDialerSetupInv() = default;
 
+void TfrmDialerSetupInv::showStep() { m_choices.value(m_dialer.port() - 1, m_ui->optCOM1)->setFocus(); }
+
 void TfrmDialerSetupInv::btnOKClick()
 {
     for (int port = 1; port <= Dialer::ports; ++port) {

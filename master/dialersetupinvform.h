@@ -24,6 +24,9 @@ public:
 
     void btnOKClick();
 
+protected:
+    void showStep() override;
+
 private:
     std::unique_ptr<Ui::TfrmDialerSetupInv> m_ui;
     const Dialer m_dialer;

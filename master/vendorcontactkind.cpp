@@ -39,9 +39,9 @@ MasterKind describe()
     kind.references = {
         {u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s, tr("Vendor no longer exists"), MasterKinds::vendor().notFound}};
 
-    kind.columns = {{u"LastName"_s, tr("Last Name"), 130},
+    kind.columns = {{u"LastName"_s, tr("Last Name"), 160},
                     {u"FirstName"_s, tr("First Name"), 120},
-                    {u"JobTitle"_s, tr("Job Title"), 140},
+                    {u"JobTitle"_s, tr("Job Title"), 200},
                     {u"BusinessPhone"_s, tr("Phone"), 120}};
     kind.orders = {{u"VendorIDFullName"_s}};
 

@@ -146,7 +146,6 @@ TEST_F(DialerTest, setupShowsAndKeepsThePort)
         TfrmDialerSetupInv setup(*context, dialer, mainWindow.get());
         showActive(setup);
         EXPECT_TRUE(choice(setup, 1)->isChecked()) << "no port named yet";
-        choice(setup, 1)->setFocus();
         press(Qt::Key_Down);
         press(Qt::Key_Down);
         press(Qt::Key_Escape);
@@ -155,7 +154,6 @@ TEST_F(DialerTest, setupShowsAndKeepsThePort)
     {
         TfrmDialerSetupInv setup(*context, dialer, mainWindow.get());
         showActive(setup);
-        choice(setup, 1)->setFocus();
         press(Qt::Key_Down);
         press(Qt::Key_Down);
         press(Qt::Key_Return);
