@@ -102,6 +102,13 @@ void CountedLocks::unlockRecord(const QString &table, const QList<qint64> &key)
         changed();
 }
 
+bool CountedLocks::holdsRecord(const QString &table, const QList<qint64> &key) const
+{
+    const QString name = table.toLower();
+    const auto found = m_held.find(name);
+    return found != m_held.end() && found->second.records.contains(placeOf(name, key));
+}
+
 bool CountedLocks::tryLockTable(const QString &table)
 {
     const QString name = table.toLower();

@@ -19,6 +19,7 @@ public:
     void closeExclusive(const QString &table) final;
     bool tryLockRecord(const QString &table, const QList<qint64> &key) final;
     void unlockRecord(const QString &table, const QList<qint64> &key) final;
+    bool holdsRecord(const QString &table, const QList<qint64> &key) const final;
     bool tryLockTable(const QString &table) final;
     void unlockTable(const QString &table) final;
     bool holdsTable(const QString &table) const final;

@@ -41,6 +41,7 @@ public:
     // Keys are the row's primary key values; a table without primary key has the one key {0}.
     virtual bool tryLockRecord(const QString &table, const QList<qint64> &key) = 0;
     virtual void unlockRecord(const QString &table, const QList<qint64> &key) = 0;
+    virtual bool holdsRecord(const QString &table, const QList<qint64> &key) const = 0;
 
     virtual bool tryLockTable(const QString &table) = 0;
     virtual void unlockTable(const QString &table) = 0;

@@ -24,6 +24,13 @@ RecordLock::RecordLock(Connection &connection, const Session &session, QString t
 {
     if (m_locks.holdsTable(m_table))
         return;
+    if (m_locks.holdsRecord(m_table, m_key)) {
+        // The user himself; waiting would not help.
+        throw EngineError(
+            ErrorCode::RecordLocked,
+            QCoreApplication::translate("Engine", "%1 is being edited in another window. Finish there first.")
+                .arg(record));
+    }
     for (int attempt = 1;; ++attempt) {
         m_held = m_locks.tryLockRecord(m_table, m_key);
         if (m_held)

@@ -7,8 +7,8 @@
 namespace Engine {
 
 // A lock on one record for the life of the object. Waits for it as the session says, then throws RecordLocked with
-// what the record is called, or TableLocked with the table, and the holder. Nothing to do for a connection that holds
-// the whole table.
+// what the record is called, or TableLocked with the table, and the holder; at once when the connection itself holds
+// the record. Nothing to do for a connection that holds the whole table.
 class RecordLock
 {
 public:

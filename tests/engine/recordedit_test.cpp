@@ -252,7 +252,11 @@ TEST_P(RecordTest, OnlyOneUserEditsARecord)
     mine.edit();
     EXPECT_EQ(errorOf([&] { theirs.edit(); }), ErrorCode::RecordLocked);
     EXPECT_EQ(waits, 2);
-    EXPECT_EQ(errorOf([&] { second.edit(); }), ErrorCode::RecordLocked);
+    QString text;
+    store.session().waitFor = [](std::chrono::milliseconds) { ADD_FAILURE() << "waits for itself"; };
+    EXPECT_EQ(errorOf([&] { second.edit(); }, &text), ErrorCode::RecordLocked);
+    EXPECT_TRUE(text.contains(u"in another window"_s)) << text.toStdString();
+    store.session().waitFor = nullptr;
     EXPECT_EQ(errorOf([&] { theirs.remove(); }), ErrorCode::RecordLocked);
     EXPECT_EQ(errorOf([&] { theirs.lockTable(); }), ErrorCode::TableLocked);
     theirs.next();
