@@ -74,6 +74,9 @@ bool EntryScreen::focusColumn(const QString &column)
     return true;
 }
 
+// "[*]" stands for a mark of changes in a window's title, "[*][*]" for itself.
+void EntryScreen::showCaption(QString text) { setWindowTitle(text.replace("[*]"_L1, "[*][*]"_L1)); }
+
 // --- saving and closing -----------------------------------------------------------------------------------------
 
 void EntryScreen::saveAndReport()

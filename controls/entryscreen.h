@@ -49,7 +49,8 @@ protected:
     // Connects OK, Cancel, Help, the buttons that lead to lists and the menus of notes. Called once, after the form
     // has been set up and its fields are bound.
     void buildScreen();
-    void showCaption() { setWindowTitle(caption()); }
+    void showCaption() { showCaption(caption()); }
+    void showCaption(QString text); // names that users have typed are shown as they are
     void saveAndReport(); // what OK does before it closes; throws what refuses
 
     ScreenContext &context() const { return m_context; }

@@ -39,7 +39,7 @@ void MasterRecordScreen::followName()
     if (auto *edit = qobject_cast<QLineEdit *>(binder().widgetFor(nameField)))
         connect(edit, &QLineEdit::textEdited, this, [this, edit] {
             // What was typed may have been taken back already.
-            setWindowTitle(m_record.captionFor(edit->text()));
+            showCaption(m_record.captionFor(edit->text()));
         });
 }
 

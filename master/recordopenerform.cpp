@@ -83,6 +83,7 @@ void RecordOpener::openCopy()
 
 void RecordOpener::removeCurrent()
 {
+    const int key = m_list.currentKey();
     try {
         m_list.remove(m_context.prompts);
     } catch (const Engine::EngineError &error) {
@@ -90,6 +91,8 @@ void RecordOpener::removeCurrent()
             m_list.table().refresh();
         throw;
     }
+    if (MasterRecordScreen *open = openScreenOf(key))
+        open->close(); // it has no changes, or the record would not have gone
 }
 
 } // namespace Tallymere

@@ -33,7 +33,7 @@ public:
     void openNew();
     void openCurrent(); // a record whose screen is open comes to the front; of an empty list a new one
     void openCopy(); // a new record copied from the current one; of an empty list nothing
-    void removeCurrent(); // as MasterList::remove
+    void removeCurrent(); // as MasterList::remove; the record's screen goes with it
 
 private:
     MasterRecordScreen *openScreenOf(int key) const;

@@ -186,11 +186,16 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
         EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s));
         EXPECT_EQ(currentRow(), QStringList(u"Zz"_s) + plain.shown);
 
-        // deleted
+        // deleted, with its screen
+        showActive(*list);
+        press(Qt::Key_Return);
+        takeRecord(plain.kind);
         showActive(*list);
         pressButton(Qt::Key_D, [this] { return !prompts.said.isEmpty(); });
         EXPECT_EQ(prompts.take(), QStringList(u"Confirm: Delete 'Zz'?"_s));
         EXPECT_EQ(grid->model()->rowCount(), rowsBefore);
+        settle();
+        EXPECT_FALSE(record);
         list->close();
         settle();
     }
@@ -211,7 +216,8 @@ TEST_F(MasterScreens, DropOrKeepWhatIsNew)
 
         click(*list, "btnNew");
         takeRecord(plain.kind);
-        type("Zz");
+        type("Z[*]");
+        EXPECT_EQ(record->windowTitle(), u"Z[*][*]") << "no mark of changes";
         prompts.answer = Answer::No;
         record->close();
         settle();
