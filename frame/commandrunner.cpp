@@ -94,8 +94,6 @@ void CommandRunner::showScreen(const Command &command, const ScreenKind &kind, S
         restore(*found.screen);
     if (command.opening != Opening::Show && found.screen->isVisible())
         call(kind.showHandler, *found.screen);
-    if (command.firstRecord)
-        call(kind.firstRecord, *found.screen);
     bringToFront(*found.screen);
 }
 

@@ -1,8 +1,11 @@
 #include "frame/commands.h"
 
+#include "master/masterkind.h"
+#include "master/masterscreensform.h"
+
 #include "frame/synchronization.h"
 
-#include <QtGlobal>
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -10,145 +13,135 @@ namespace Tallymere {
 
 namespace {
 
-#define TEXT(text) QT_TRANSLATE_NOOP("Commands", text)
+QString tr(const char *text) { return QCoreApplication::translate("Commands", text); }
 
 // "Post Adustments", with its spelling, is the name that the host's users and their notes know.
-constexpr Command table[] = {
-    {.action = "ActionReceiveInventory"_L1,
-     .caption = TEXT("Receive Inventory"),
-     .hint = TEXT("Enter inventory receipts"),
-     .rightsKey = "InvReceipts"_L1,
-     .rightsName = "Inventory Receipts"_L1,
-     .screen = "frmInvReceipts"_L1,
-     .opening = Opening::ListPattern},
-    {.action = "ActionPostReceipts"_L1,
-     .caption = TEXT("Post Receipts"),
-     .hint = TEXT("Post inventory receipts"),
-     .rightsKey = "frmInvReceipts"_L1,
-     .rightsName = "Inventory Receipts"_L1,
-     .screen = "frmInvReceipts"_L1,
-     .opening = Opening::Post},
-    {.action = "ActionEditInventory"_L1,
-     .caption = TEXT("Enter Inventory"),
-     .hint = TEXT("Enter inventory and calculate usage"),
-     .rightsKey = "frmEnterInventory"_L1,
-     .rightsName = "Enter Inventory"_L1,
-     .screen = "FormEnterInventory"_L1,
-     .opening = Opening::Show},
-    {.action = "ActionEditUsage"_L1,
-     .caption = TEXT("Edit Usage"),
-     .hint = TEXT("Edit usage records"),
-     .rightsKey = "frmUsages"_L1,
-     .rightsName = "Inventory Usages"_L1,
-     .screen = "frmUsages"_L1,
-     .opening = Opening::ShowAgain,
-     .hourglass = false},
-    {.action = "ActionPostUsage"_L1,
-     .caption = TEXT("Post Usage"),
-     .rightsKey = "frmUsagesPost"_L1,
-     .rightsName = "Usage Record Posting"_L1,
-     .screen = "frmUsagesPost"_L1,
-     .opening = Opening::ShowModal},
-    {.action = "ActionEnterAdjustments"_L1,
-     .caption = TEXT("Enter Inventory Adjustments"),
-     .hint = TEXT("Enter inventory adjustments"),
-     .rightsKey = "frmInvAdjustments"_L1,
-     .rightsName = "Inventory Adjustments"_L1,
-     .screen = "frmInvAdjustments"_L1,
-     .opening = Opening::ListPattern},
-    {.action = "ActionPostAdustments"_L1,
-     .caption = TEXT("Post Adustments"),
-     .hint = TEXT("Post inventory adjustments"),
-     .rightsKey = "frmInvAdjustments"_L1,
-     .rightsName = "Inventory Adjustments"_L1,
-     .screen = "frmInvAdjustments"_L1,
-     .opening = Opening::Post},
-    {.action = "ActionPrintReports"_L1,
-     .caption = TEXT("Print Reports..."),
-     .hint = TEXT("Print inventory reports"),
-     .rightsKey = "frmInvReports"_L1,
-     .rightsName = "frmInvReports"_L1,
-     .screen = "frmInvReports"_L1,
-     .opening = Opening::Show,
-     .restore = false},
-    {.action = "ActionPrintBlankInventoryForm"_L1,
-     .caption = TEXT("Blank Inventory Form"),
-     .screen = "FormBlankInventoryReportSelection"_L1,
-     .opening = Opening::ShowModalOnce},
-    {.action = "ActionEditItems"_L1,
-     .caption = TEXT("Edit Items"),
-     .rightsKey = "Items"_L1,
-     .rightsName = "Items"_L1,
-     .screen = "frmItemsInv"_L1,
-     .opening = Opening::ListPattern,
-     .refreshOpenScreen = false},
-    {.action = "ActionEditVendors"_L1,
-     .caption = TEXT("Edit Vendors"),
-     .rightsKey = "frmVendors"_L1,
-     .rightsName = "Vendors"_L1,
-     .screen = "frmVendors"_L1,
-     .opening = Opening::Show},
-    {.action = "ActionEditOrganizationSetup"_L1,
-     .caption = TEXT("Edit Organization Setup"),
-     .rightsKey = "YourCompany"_L1,
-     .rightsName = "Your Company"_L1,
-     .screen = "frmCompany"_L1,
-     .opening = Opening::ShowAgain},
-    {.action = "ActionEditBanks"_L1,
-     .caption = TEXT("Edit Banks"),
-     .rightsKey = "Banks"_L1,
-     .rightsName = "Banks"_L1,
-     .screen = "frmBanksInv"_L1,
-     .opening = Opening::ShowAgain},
-    {.action = "ActionEditCurrencies"_L1,
-     .caption = TEXT("Edit Currencies"),
-     .rightsKey = "Currencies"_L1,
-     .rightsName = "Currencies"_L1,
-     .screen = "frmCurrenciesInv"_L1,
-     .opening = Opening::ShowAgain},
-    {.action = "ActionEditItemTypes"_L1,
-     .caption = TEXT("Edit Item Types"),
-     .rightsKey = "ItemTypes"_L1,
-     .rightsName = "Item Types"_L1,
-     .screen = "frmItemTypesInv"_L1,
-     .opening = Opening::ShowAgain,
-     .firstRecord = true},
-    {.action = "ActionEditLocations"_L1,
-     .caption = TEXT("Edit Locations"),
-     .rightsKey = "Warehouses"_L1,
-     .rightsName = "Warehouses"_L1,
-     .screen = "frmWarehousesInv"_L1,
-     .opening = Opening::ShowAgain},
-    {.action = "ActionEditTaxes"_L1,
-     .caption = TEXT("Edit Taxes"),
-     .rightsKey = "Taxes"_L1,
-     .rightsName = "Taxes"_L1,
-     .screen = "frmTaxesInv"_L1,
-     .opening = Opening::ShowAgain},
-    {.action = "ActionViewTotals"_L1,
-     .caption = TEXT("View Totals"),
-     .rightsKey = "InvTotals"_L1,
-     .rightsName = "Inventory Totals"_L1,
-     .screen = "frmInvTotals"_L1,
-     .opening = Opening::ListPattern},
-    {.action = "ActionViewHistory"_L1,
-     .caption = TEXT("View History"),
-     .rightsKey = "InvHistory"_L1,
-     .rightsName = "Inventory History"_L1,
-     .screen = "frmInvHistory"_L1,
-     .opening = Opening::ListPattern},
-    {.action = "ActionSynchronizeLocations"_L1,
-     .caption = TEXT("Synchronize Locations"),
-     .job = synchronizeLocations},
-    {.action = "ActionSynchronizeItems"_L1, .caption = TEXT("Synchronize Items"), .job = synchronizeItems},
-    {.action = "ActionSynchronizeClients"_L1, .caption = TEXT("Synchronize Clients"), .job = synchronizeClients},
-    {.action = "ActionPrintPayments"_L1, .caption = TEXT("Print Payments")},
-};
+QList<Command> ownCommands()
+{
+    return {
+        {.action = u"ActionReceiveInventory"_s,
+         .caption = tr("Receive Inventory"),
+         .hint = tr("Enter inventory receipts"),
+         .rightsKey = u"InvReceipts"_s,
+         .rightsName = u"Inventory Receipts"_s,
+         .screen = u"frmInvReceipts"_s,
+         .opening = Opening::ListPattern},
+        {.action = u"ActionPostReceipts"_s,
+         .caption = tr("Post Receipts"),
+         .hint = tr("Post inventory receipts"),
+         .rightsKey = u"frmInvReceipts"_s,
+         .rightsName = u"Inventory Receipts"_s,
+         .screen = u"frmInvReceipts"_s,
+         .opening = Opening::Post},
+        {.action = u"ActionEditInventory"_s,
+         .caption = tr("Enter Inventory"),
+         .hint = tr("Enter inventory and calculate usage"),
+         .rightsKey = u"frmEnterInventory"_s,
+         .rightsName = u"Enter Inventory"_s,
+         .screen = u"FormEnterInventory"_s,
+         .opening = Opening::Show},
+        {.action = u"ActionEditUsage"_s,
+         .caption = tr("Edit Usage"),
+         .hint = tr("Edit usage records"),
+         .rightsKey = u"frmUsages"_s,
+         .rightsName = u"Inventory Usages"_s,
+         .screen = u"frmUsages"_s,
+         .opening = Opening::ShowAgain,
+         .hourglass = false},
+        {.action = u"ActionPostUsage"_s,
+         .caption = tr("Post Usage"),
+         .rightsKey = u"frmUsagesPost"_s,
+         .rightsName = u"Usage Record Posting"_s,
+         .screen = u"frmUsagesPost"_s,
+         .opening = Opening::ShowModal},
+        {.action = u"ActionEnterAdjustments"_s,
+         .caption = tr("Enter Inventory Adjustments"),
+         .hint = tr("Enter inventory adjustments"),
+         .rightsKey = u"frmInvAdjustments"_s,
+         .rightsName = u"Inventory Adjustments"_s,
+         .screen = u"frmInvAdjustments"_s,
+         .opening = Opening::ListPattern},
+        {.action = u"ActionPostAdustments"_s,
+         .caption = tr("Post Adustments"),
+         .hint = tr("Post inventory adjustments"),
+         .rightsKey = u"frmInvAdjustments"_s,
+         .rightsName = u"Inventory Adjustments"_s,
+         .screen = u"frmInvAdjustments"_s,
+         .opening = Opening::Post},
+        {.action = u"ActionPrintReports"_s,
+         .caption = tr("Print Reports..."),
+         .hint = tr("Print inventory reports"),
+         .rightsKey = u"frmInvReports"_s,
+         .rightsName = u"frmInvReports"_s,
+         .screen = u"frmInvReports"_s,
+         .opening = Opening::Show,
+         .restore = false},
+        {.action = u"ActionPrintBlankInventoryForm"_s,
+         .caption = tr("Blank Inventory Form"),
+         .screen = u"FormBlankInventoryReportSelection"_s,
+         .opening = Opening::ShowModalOnce},
+        {.action = u"ActionEditOrganizationSetup"_s,
+         .caption = tr("Edit Organization Setup"),
+         .rightsKey = u"YourCompany"_s,
+         .rightsName = u"Your Company"_s,
+         .screen = u"frmCompany"_s,
+         .opening = Opening::ShowAgain},
+        {.action = u"ActionViewTotals"_s,
+         .caption = tr("View Totals"),
+         .rightsKey = u"InvTotals"_s,
+         .rightsName = u"Inventory Totals"_s,
+         .screen = u"frmInvTotals"_s,
+         .opening = Opening::ListPattern},
+        {.action = u"ActionViewHistory"_s,
+         .caption = tr("View History"),
+         .rightsKey = u"InvHistory"_s,
+         .rightsName = u"Inventory History"_s,
+         .screen = u"frmInvHistory"_s,
+         .opening = Opening::ListPattern},
+        {.action = u"ActionSynchronizeLocations"_s,
+         .caption = tr("Synchronize Locations"),
+         .job = synchronizeLocations},
+        {.action = u"ActionSynchronizeItems"_s, .caption = tr("Synchronize Items"), .job = synchronizeItems},
+        {.action = u"ActionSynchronizeClients"_s, .caption = tr("Synchronize Clients"), .job = synchronizeClients},
+        {.action = u"ActionPrintPayments"_s, .caption = tr("Print Payments")},
+    };
+}
 
-#undef TEXT
+Opening openingOf(MasterKind::Reopening reopening)
+{
+    switch (reopening) {
+    case MasterKind::Reopening::LiftFilter:
+        return Opening::ListPattern;
+    case MasterKind::Reopening::JustShow:
+        return Opening::Show;
+    case MasterKind::Reopening::ReadAnew:
+        break;
+    }
+    return Opening::ShowAgain;
+}
+
+Command masterCommand(const MasterKind &kind)
+{
+    return {.action = kind.action,
+            .caption = kind.actionCaption,
+            .rightsKey = kind.rights.section(u'/', 0, 0),
+            .rightsName = kind.rights.section(u'/', -1),
+            .screen = kind.listScreen,
+            .opening = openingOf(kind.reopening),
+            .refreshOpenScreen = false};
+}
 
 } // namespace
 
-std::span<const Command> commands() { return table; }
+const QList<Command> &commands()
+{
+    static const QList<Command> all = [] {
+        QList<Command> list = ownCommands();
+        for (const MasterScreen &screen : masterScreens())
+            list.append(masterCommand(screen.kind));
+        return list;
+    }();
+    return all;
+}
 
 } // namespace Tallymere

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QLatin1StringView>
-#include <span>
+#include <QList>
+#include <QString>
 
 class QProgressBar;
 
@@ -33,20 +33,19 @@ struct CommandSite
 // nothing.
 struct Command
 {
-    QLatin1StringView action;
-    const char *caption; // for tr() in the context "Commands", as is the hint
-    const char *hint = nullptr;
-    QLatin1StringView rightsKey = {};
-    QLatin1StringView rightsName = {};
-    QLatin1StringView screen = {}; // component name
+    QString action;
+    QString caption;
+    QString hint = {};
+    QString rightsKey = {};
+    QString rightsName = {};
+    QString screen = {}; // component name
     Opening opening = Opening::None;
     bool refreshOpenScreen = true; // list pattern only
     bool restore = true; // a minimised screen comes back to normal
     bool hourglass = true;
-    bool firstRecord = false; // moves to the first record before showing
     void (*job)(const CommandSite &) = nullptr; // what is done instead of opening a screen
 };
 
-std::span<const Command> commands();
+const QList<Command> &commands();
 
 } // namespace Tallymere

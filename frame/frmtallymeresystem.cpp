@@ -8,6 +8,7 @@
 #include "frame/aboutform.h"
 #include "frame/boundaction.h"
 #include "frame/hostinifile.h"
+#include "frame/mastermenu.h"
 #include "frame/screenregistry.h"
 #include "frame/shared/ruleerror.h"
 #include "frame/templatereport.h"
@@ -58,6 +59,7 @@ TFormTallymereSystem::TFormTallymereSystem(const FrameServices &services, QWidge
     setObjectName(u"FormTallymereSystem"_s);
     FontFactor = fontFactor(this);
     createActions();
+    addMasterEntries(*m_ui->mnuEdit, *m_ui->mnuOther, *this);
     bindControls();
     createStatusBar();
     scaleSizes();
@@ -238,9 +240,9 @@ void TFormTallymereSystem::createActions()
 {
     m_actionList->setObjectName(u"ActionList1"_s);
     for (const Command &command : commands()) {
-        auto *action = new QAction(QCoreApplication::translate("Commands", command.caption), m_actionList);
+        auto *action = new QAction(command.caption, m_actionList);
         action->setObjectName(command.action);
-        action->setStatusTip(QCoreApplication::translate("Commands", command.hint));
+        action->setStatusTip(command.hint);
         action->setEnabled(command.job || m_runner.canRun(command));
         connect(action, &QAction::triggered, this, [this, &command] { m_guard.run([&] { runCommand(command); }); });
     }

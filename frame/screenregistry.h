@@ -19,7 +19,6 @@ struct ScreenKind
     // Empties the filter dialog if it is open, unchecks mnuFilter and shows all records.
     std::function<void(QWidget &)> resetFilter;
     std::function<void(QWidget &)> showHandler; // what a visible screen does when it is asked for again
-    std::function<void(QWidget &)> firstRecord;
     std::function<void(QWidget &)> post; // mnuPostClick
 };
 

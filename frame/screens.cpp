@@ -27,7 +27,6 @@ template <typename Screen> ScreenKind listScreen(const decltype(ScreenKind::crea
             .refresh = [list](QWidget &screen) { list(screen).refreshList(); },
             .resetFilter = [list](QWidget &screen) { list(screen).resetFilter(); },
             .showHandler = [list](QWidget &screen) { list(screen).showAgain(); },
-            .firstRecord = {},
             .post = {}};
 }
 
@@ -36,13 +35,6 @@ template <typename Screen> ScreenKind documentList()
 {
     ScreenKind kind = listScreen<Screen>(make<Screen>);
     kind.post = [](QWidget &screen) { static_cast<Screen &>(screen).mnuPostClick(); };
-    return kind;
-}
-
-ScreenKind masterList(const MasterScreen &screen)
-{
-    ScreenKind kind = listScreen<ListScreen>(screen.make);
-    kind.firstRecord = [](QWidget &list) { static_cast<ListScreen &>(list).dataSet().first(); };
     return kind;
 }
 
@@ -60,7 +52,7 @@ ScreenRegistry productScreens()
 {
     ScreenRegistry screens;
     for (const MasterScreen &screen : masterScreens())
-        screens.add(screen.kind.listScreen, masterList(screen));
+        screens.add(screen.kind.listScreen, listScreen<ListScreen>(screen.make));
     screens.add(u"frmCompany"_s, organization());
     screens.add(u"frmInvReceipts"_s, documentList<TfrmInvReceipts>());
     screens.add(u"frmInvTotals"_s, listScreen<TfrmInvTotals>(make<TfrmInvTotals>));

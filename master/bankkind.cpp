@@ -38,6 +38,10 @@ MasterKind describe()
     kind.refusals = {{u"APCheq"_s, {u"BankID"_s}, tr("AP cheque(s) exist for this bank")},
                      {u"ARPmt"_s, {u"BankID"_s}, tr("AR payment(s) exist for this bank")}};
 
+    kind.action = u"ActionEditBanks"_s;
+    kind.actionCaption = tr("Edit Banks");
+    kind.rights = u"Banks"_s;
+
     kind.systemFields = {u"BankID"_s, u"BankGLAccountID"_s};
     return kind;
 }

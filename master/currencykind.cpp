@@ -36,6 +36,10 @@ MasterKind describe()
                      {u"Vendor"_s, {u"CurrencyID"_s}, tr("Vendor(s) exist for this currency")},
                      {u"Customer"_s, {u"CurrencyID"_s}, tr("Customer(s) exist for this currency")}};
 
+    kind.action = u"ActionEditCurrencies"_s;
+    kind.actionCaption = tr("Edit Currencies");
+    kind.rights = u"Currencies"_s;
+
     kind.systemFields = {
         u"CurrencyID"_s,    u"GainLossExchangeGLAccntID"_s, u"APGLAccountID"_s,          u"APDiscGLAccountID"_s,
         u"ARGLAccountID"_s, u"ARDiscGLAccountID"_s,         u"DfltWriteOffGLAccountID"_s};

@@ -65,6 +65,12 @@ MasterKind describe()
     kind.notSuspended = u"(Suspended = false)"_s;
     // Nothing keeps an item from being deleted, not even its movements.
 
+    kind.action = u"ActionEditItems"_s;
+    kind.actionCaption = tr("Edit Items");
+    kind.rights = u"Items"_s;
+    kind.isMain = true;
+    kind.reopening = MasterKind::Reopening::LiftFilter;
+
     kind.systemFields = {u"ItemID"_s, u"SalesGLAccountID"_s, u"COGSGLAccountID"_s, u"InventoryGLAccountID"_s,
                          u"UnitPrice"_s};
     return kind;

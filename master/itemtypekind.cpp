@@ -34,6 +34,10 @@ MasterKind describe()
     kind.systemRecord = tr("System-defined Item Types can't be deleted!");
     kind.refusals = {{u"Item"_s, {u"ItemTypeID"_s}, tr("Item(s) exist for this item type")}};
 
+    kind.action = u"ActionEditItemTypes"_s;
+    kind.actionCaption = tr("Edit Item Types");
+    kind.rights = u"ItemTypes/Item Types"_s;
+
     kind.systemFields = {u"ItemTypeID"_s};
     kind.limits = {{u"CostingMethod"_s, 1, 2}};
     return kind;

@@ -33,6 +33,10 @@ MasterKind describe()
                      {u"IAdjust"_s, {u"WarehouseID"_s}, tr("Adjustments exist for this location")}};
     kind.ownedTables = {u"IBalance"_s};
 
+    kind.action = u"ActionEditLocations"_s;
+    kind.actionCaption = tr("Edit Locations");
+    kind.rights = u"Warehouses"_s;
+
     kind.systemFields = {u"WarehouseID"_s, u"Location_ID"_s};
     return kind;
 }

@@ -100,6 +100,16 @@ struct MasterKind
     QList<Refusal> refusals;
     QStringList ownedTables; // whose rows with the record's key go with it
 
+    // --- its command in the main window -------------------------------------------------------------------------
+    QString action; // "ActionEditItems"
+    QString actionCaption; // "Edit Items"
+    QString rights; // the key and the name that the user's rights are asked for: "ItemTypes/Item Types"
+    bool isMain = false; // stands in the Edit menu itself, not under "Other"
+    // What happens to a list that is open already: it is shown from its first row, after its filter was lifted or as
+    // it is filtered; or it only comes to the front.
+    enum class Reopening { ReadAnew, LiftFilter, JustShow };
+    Reopening reopening = Reopening::ReadAnew;
+
     // --- its files ----------------------------------------------------------------------------------------------
     QStringList systemFields; // that a file may not give: the key, and what no screen sets
     QList<Limits> limits;

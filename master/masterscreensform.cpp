@@ -30,10 +30,10 @@ template <typename List> MasterListScreen *make(ScreenContext &context, QWidget 
 const QList<MasterScreen> &masterScreens()
 {
     static const QList<MasterScreen> screens = {
+        {MasterKinds::item(), make<TfrmItemsInv>},         {MasterKinds::vendor(), make<TfrmVendors>},
         {MasterKinds::bank(), make<TfrmBanksInv>},         {MasterKinds::currency(), make<TfrmCurrenciesInv>},
         {MasterKinds::itemType(), make<TfrmItemTypesInv>}, {MasterKinds::location(), make<TfrmWarehousesInv>},
-        {MasterKinds::tax(), make<TfrmTaxesInv>},          {MasterKinds::vendor(), make<TfrmVendors>},
-        {MasterKinds::item(), make<TfrmItemsInv>},
+        {MasterKinds::tax(), make<TfrmTaxesInv>},
     };
     return screens;
 }

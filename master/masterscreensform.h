@@ -11,13 +11,14 @@ class MasterListScreen;
 struct MasterKind;
 struct ScreenContext;
 
-// A list of the master data that the main window offers, with the screen that it opens.
+// A list of the master data with its screen.
 struct MasterScreen
 {
     const MasterKind &kind;
     std::function<MasterListScreen *(ScreenContext &, QWidget *parent)> make;
 };
 
+// In the order in which the main window offers them.
 const QList<MasterScreen> &masterScreens();
 
 } // namespace Tallymere

@@ -1,27 +1,27 @@
 # The screens of the room.
+file(GLOB forms CONFIGURE_DEPENDS *.ui)
 tallymere_room(tallymere_master_screens SCREENS
     SOURCES
+        ${forms}
         addressbuttonsform.cpp addressbuttonsform.h
-        banksinvform.cpp banksinvform.h bankinvform.ui
-        companyform.cpp companyform.h companyform.ui
-        currencyinvform.ui
-        dialerinvform.cpp dialerinvform.h dialerinvform.ui
-        dialersetupinvform.cpp dialersetupinvform.h dialersetupinvform.ui
-        iteminvform.cpp iteminvform.h iteminvform.ui
+        banksinvform.cpp banksinvform.h
+        companyform.cpp companyform.h
+        dialerinvform.cpp dialerinvform.h
+        dialersetupinvform.cpp dialersetupinvform.h
+        iteminvform.cpp iteminvform.h
         itemsinvform.cpp itemsinvform.h
-        itemtypeinvform.cpp itemtypeinvform.h itemtypeinvform.ui
-        itemsearchinvform.cpp itemsearchinvform.h itemsearchinvform.ui
+        itemtypeinvform.cpp itemtypeinvform.h
+        itemsearchinvform.cpp itemsearchinvform.h
         itemsfindform.cpp itemsfindform.h
         masterlistform.cpp masterlistform.h
         masterrecordform.cpp masterrecordform.h
         masterscreensform.cpp masterscreensform.h
-        recordfindform.cpp recordfindform.h recordfindform.ui
+        recordfindform.cpp recordfindform.h
         recordopenerform.cpp recordopenerform.h
         recordpairform.cpp recordpairform.h
         searchedlistform.cpp searchedlistform.h
-        taxinvform.ui
-        vcontactform.cpp vcontactform.h vcontactform.ui
-        vendorform.cpp vendorform.h vendorform.ui
+        vcontactform.cpp vcontactform.h
+        vendorform.cpp vendorform.h
         vendorsform.cpp vendorsform.h
-        warehousesinvform.cpp warehousesinvform.h warehouseinvform.ui
+        warehousesinvform.cpp warehousesinvform.h
     LINK tallymere_master tallymere_controls Qt6::Widgets)

@@ -42,6 +42,10 @@ MasterKind describe()
     kind.refusals = {{u"Customer"_s, {u"Tax1ID"_s, u"Tax2ID"_s}, tr("Customer(s) exist for this tax")},
                      {u"ARInv"_s, {u"Tax1ID"_s, u"Tax2ID"_s}, tr("Invoice(s) exist for this tax")}};
 
+    kind.action = u"ActionEditTaxes"_s;
+    kind.actionCaption = tr("Edit Taxes");
+    kind.rights = u"Taxes"_s;
+
     kind.systemFields = {u"TaxID"_s, u"TaxGLAccountID"_s};
     return kind;
 }

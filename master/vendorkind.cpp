@@ -105,6 +105,12 @@ MasterKind describe()
     // Receipts keep naming a vendor that has gone.
     kind.ownedTables = {u"VBalance"_s, u"VContact"_s};
 
+    kind.action = u"ActionEditVendors"_s;
+    kind.actionCaption = tr("Edit Vendors");
+    kind.rights = u"frmVendors/Vendors"_s;
+    kind.isMain = true;
+    kind.reopening = MasterKind::Reopening::JustShow;
+
     kind.systemFields = {u"VendorID"_s};
     kind.longTexts = {u"WebPage"_s};
     return kind;

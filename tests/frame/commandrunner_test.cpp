@@ -43,7 +43,6 @@ protected:
                      .refresh = log(u"refresh"_s),
                      .resetFilter = log(u"reset filter"_s),
                      .showHandler = log(u"show handler"_s),
-                     .firstRecord = log(u"first"_s),
                      .post = log(u"post"_s)});
     }
     QStringList run(QLatin1StringView action)
@@ -74,7 +73,7 @@ TEST_F(CommandRunnerTest, StepsOfACommandTheFirstAndTheSecondTime)
          u"refresh, reset filter, show handler"_s, true},
         {"ActionEditItems"_L1, u"frmItemsInv"_s, u"create, reset filter"_s, u"reset filter, show handler"_s, true},
         {"ActionEditUsage"_L1, u"frmUsages"_s, u"create"_s, u"show handler"_s, true},
-        {"ActionEditItemTypes"_L1, u"frmItemTypesInv"_s, u"create, first"_s, u"show handler, first"_s, true},
+        {"ActionEditItemTypes"_L1, u"frmItemTypesInv"_s, u"create"_s, u"show handler"_s, true},
         {"ActionEditVendors"_L1, u"frmVendors"_s, u"create"_s, {}, true},
         {"ActionPostReceipts"_L1, u"frmInvReceipts"_s, u"create, post"_s, u"post"_s, false},
     };
