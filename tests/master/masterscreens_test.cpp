@@ -42,7 +42,7 @@ const std::vector<Plain> &plainLists()
          u"New Tax"_s,
          u"Field 'Tax Name' must have a value"_s,
          u"editTaxName"_s,
-         {{"editRate", "7.5"}, {"editTaxCode", "PX"}, {"editTaxDescription", "PST"}},
+         {{"editRate", "7.5"}, {"editTaxCode", "7PX"}, {"editTaxDescription", "PST"}},
          {u"7.5"_s, u"P"_s, u"PST"_s},
          u"SELECT TaxName, TaxID, Rate, TaxCode, TaxDescription FROM Tax -> |1|7.5|P|PST"_s},
         {MasterKinds::currency(),
