@@ -30,7 +30,6 @@ public:
 protected:
     void showRecord() override;
     void saveChanges() override;
-    QString caption() const override { return record().kind().caption; }
 
 private:
     std::unique_ptr<Ui::TfrmCompany> m_ui;

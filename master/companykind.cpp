@@ -80,6 +80,7 @@ MasterKind describe()
     kind.screen = u"frmCompany"_s;
     kind.caption = tr("Your Organization");
     kind.newCaption = kind.caption;
+    kind.namesCaption = false;
     kind.defaults = {{u"CompanyNo"_s, 1},
                      {u"ARInvoiceStyle"_s, 0},
                      {u"ARInvoiceAustralia"_s, false},

@@ -61,9 +61,7 @@ struct MasterKind
     QString numberCounter; // "NextItemNo": from 1001 to 10,000,000, then again from 1001
     QString keyCounter; // "NextItemID": from 10000 on
     bool keyByEngine = false; // the key is an auto-increment field
-    // The fields that name a record to the user, joined by ": " ("1001: Flour"). The last one is the caption of its
-    // screen.
-    QStringList nameFields;
+    QStringList nameFields; // that name a record to the user, joined by ": " ("1001: Flour")
     std::function<void(Engine::Table &)> addFields; // looked-up and calculated ones, before the table is opened
     std::function<void(Engine::Table &)> formatFields; // labels, formats and parsing, once it is open
 
@@ -71,6 +69,7 @@ struct MasterKind
     QString screen; // its component name: "frmItemInv"
     QString caption; // "Item"
     QString newCaption; // "New Item"
+    bool namesCaption = true; // the last of nameFields takes the caption's place
     QList<Default> defaults;
     std::function<void(Engine::Table &)> preset; // defaults that have to be found out, of these fields:
     QStringList presetFields;

@@ -91,7 +91,7 @@ QString MasterRecord::caption() const
 
 QString MasterRecord::captionFor(const QString &name) const
 {
-    if (!name.isEmpty())
+    if (m_kind.namesCaption && !name.isEmpty())
         return name;
     return isNew() ? m_kind.newCaption : m_kind.caption;
 }

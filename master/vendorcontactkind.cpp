@@ -34,6 +34,7 @@ MasterKind describe()
     kind.screen = u"frmVContact"_s;
     kind.caption = tr("Vendor Contact");
     kind.newCaption = tr("New Contact");
+    kind.namesCaption = false;
     kind.required = {{u"VendorID"_s, tr("Field 'Vendor' must have a value")}};
     kind.check = requireName;
     kind.references = {

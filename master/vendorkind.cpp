@@ -78,7 +78,8 @@ MasterKind describe()
 
     kind.screen = u"frmVendor"_s;
     kind.caption = tr("Vendor");
-    kind.newCaption = tr("New Vendor");
+    kind.newCaption = kind.caption;
+    kind.namesCaption = false;
     kind.defaults = {{u"Suspended"_s, false}};
     kind.preset = presetCurrency;
     kind.presetFields = {u"CurrencyID"_s};

@@ -165,11 +165,11 @@ TEST_F(VendorScreensTest, newVendorIsEnteredByKeyboard)
 {
     kitchen.execute(u"UPDATE Company SET DefaultCurrencyID = NULL"_s);
     open();
-    EXPECT_EQ(card->windowTitle(), u"New Vendor"_s);
+    EXPECT_EQ(card->windowTitle(), u"Vendor"_s);
     EXPECT_EQ(focusName(), u"editVendorNo"_s);
     press(Qt::Key_Return); // the proposed number stays
     type("O'Neil & Sons; 100%");
-    EXPECT_EQ(card->windowTitle(), u"O'Neil & Sons; 100%"_s);
+    EXPECT_EQ(card->windowTitle(), u"Vendor"_s);
     fill(*card, "editZipCode", "k1a");
     fill(*card, "editWebPage", "http://oneil.example");
     press(Qt::Key_O, Qt::AltModifier); // the button goes down visibly before it acts
@@ -293,7 +293,7 @@ TEST_F(VendorScreensTest, contactsAreEditedAndDeletedOnTheCard)
     press(Qt::Key_Return);
     QPointer<TfrmVContact> contact = contactCard();
     ASSERT_NE(contact, nullptr);
-    EXPECT_EQ(contact->windowTitle(), u"Mary Cole"_s);
+    EXPECT_EQ(contact->windowTitle(), u"Vendor Contact"_s);
     click(*card, "btnEdit");
     EXPECT_EQ(findScreen(u"frmVContact"_s), contact) << "its card is open already";
     fill(*contact, "editLastName", "Ams");
