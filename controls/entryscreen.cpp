@@ -159,7 +159,9 @@ void EntryScreen::keyPressEvent(QKeyEvent *event)
             focusNextChild();
         return;
     }
-    if (event->key() == Qt::Key_Escape && m_binder.revert(focusWidget())) {
+    // Notes are too long to be lost by one key.
+    const bool takesBack = event->key() == Qt::Key_Escape && !qobject_cast<QPlainTextEdit *>(focusWidget());
+    if (takesBack && m_binder.revert(focusWidget())) {
         showCaption(); // it may have followed what was typed
         return;
     }

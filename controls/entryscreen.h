@@ -12,9 +12,9 @@ namespace Tallymere {
 
 // A window in which one record or document is entered. Not modal; it is freed when it is closed.
 //
-// Enter moves on as Tab does. Escape takes back what is being typed, else it closes. Closing with changes asks
-// whether they shall be saved; a new record that nobody has touched is dropped silently. Its place, size and the column
-// widths of its grids are remembered.
+// Enter moves on as Tab does. Escape takes back what is being typed, except in notes, else it closes. Closing with
+// changes asks whether they shall be saved; a new record that nobody has touched is dropped silently. Its place, size
+// and the column widths of its grids are remembered.
 class EntryScreen : public QDialog
 {
     Q_OBJECT

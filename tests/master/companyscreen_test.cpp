@@ -141,6 +141,9 @@ TEST_F(CompanyScreen, NotesWrapAsTheUserLikes)
     type("two");
     press(Qt::Key_Return);
     type("lines");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(prompts.take(), QStringList{u"Do you want to save changes?"_s});
+    EXPECT_EQ(notes->toPlainText(), u"two\nlines"_s);
     click("btnOK");
     EXPECT_EQ(stored(u"Notes"), u"two\nlines"_s);
 }
