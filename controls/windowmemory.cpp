@@ -6,6 +6,7 @@
 #include "controls/windowplaces.h"
 #include "data/utilsinv.h"
 
+#include <algorithm>
 #include <QEvent>
 
 using namespace Qt::StringLiterals;
@@ -16,6 +17,15 @@ namespace {
 constexpr auto placeKey = "Place"_L1;
 constexpr auto maximizedKey = "Maximized"_L1;
 constexpr auto yes = "true"_L1;
+
+// Screens that are scaled by a fraction round places; a pixel is not the user's change.
+bool isSamePlace(const QRect &one, const QRect &other)
+{
+    const QMargins apart(one.left() - other.left(), one.top() - other.top(), one.right() - other.right(),
+                         one.bottom() - other.bottom());
+    const auto [least, most] = std::minmax({apart.left(), apart.top(), apart.right(), apart.bottom()});
+    return least >= -1 && most <= 1;
+}
 } // namespace
 
 WindowMemory::WindowMemory(QWidget &window, SettingsStore *settings)
@@ -76,7 +86,7 @@ void WindowMemory::save()
 void WindowMemory::savePlace()
 {
     keep(maximizedKey, m_window.isMaximized() ? QString(yes) : QString());
-    if (m_window.isMaximized() || m_window.isFullScreen() || m_window.geometry() == m_place)
+    if (m_window.isMaximized() || m_window.isFullScreen() || isSamePlace(m_window.geometry(), m_place))
         return;
     m_place = m_window.geometry();
     saveFormPos(*m_settings, QRect(m_place.topLeft(), m_place.size() / fontFactor(&m_window)), section(), placeKey);
