@@ -12,11 +12,7 @@ ItemSearch::ItemSearch(Engine::Database &database)
                       {u"ItemTypeID"_s, u"ItemType"_s, u"ItemTypeID"_s, u"TypeName"_s});
 }
 
-void ItemSearch::open()
-{
-    if (!m_items.isOpen())
-        m_items.open();
-}
+void ItemSearch::open() { m_items.isOpen() ? m_items.refresh() : m_items.open(); }
 
 void ItemSearch::reset()
 {

@@ -14,7 +14,7 @@ public:
 
     // Items with "TypeName", the name of the item's type.
     Engine::Table &items() { return m_items; }
-    void open(); // when it is not open
+    void open(); // opens them, or reads anew what others have changed
     void reset(); // shows all types, in the order of the item number
 
     // The item under the cursor. An item that does not exist moves to the first.

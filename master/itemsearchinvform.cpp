@@ -36,6 +36,7 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
     m_ui->editFindItemNo->installEventFilter(this);
     m_ui->editFindItemDescription->installEventFilter(this);
+    m_ui->cboItemType->installEventFilter(this);
 }
 
 TfrmItemSearchInv::~TfrmItemSearchInv() = default;
@@ -95,19 +96,34 @@ void TfrmItemSearchInv::beepUnless(bool found) const
         QApplication::beep();
 }
 
-// From a search box the arrow keys move in the list. Taking characters away moves nothing.
-bool TfrmItemSearchInv::eventFilter(QObject *, QEvent *event)
+bool TfrmItemSearchInv::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress)
         return false;
-    const auto *key = static_cast<QKeyEvent *>(event);
-    m_erases = key->key() == Qt::Key_Backspace || key->key() == Qt::Key_Delete || key->matches(QKeySequence::Cut);
-    switch (key->key()) {
+    auto *key = static_cast<QKeyEvent *>(event);
+    return watched == m_ui->cboItemType ? takeTypeKey(*key) : takeSearchKey(*key);
+}
+
+// Enter narrows the list to the type first. Pressing OK with it would choose an item that nobody has seen.
+bool TfrmItemSearchInv::takeTypeKey(const QKeyEvent &key)
+{
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (!enter || !m_ui->cboItemType->isPending())
+        return false;
+    m_ui->cboItemType->settle();
+    return true;
+}
+
+// From a search box the arrow keys move in the list. Taking characters away moves nothing.
+bool TfrmItemSearchInv::takeSearchKey(QKeyEvent &key)
+{
+    m_erases = key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Delete || key.matches(QKeySequence::Cut);
+    switch (key.key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-        QCoreApplication::sendEvent(m_ui->DBGrid1, event);
+        QCoreApplication::sendEvent(m_ui->DBGrid1, &key);
         return true;
     default:
         return false;

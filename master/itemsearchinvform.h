@@ -34,6 +34,8 @@ private:
     void typeItemNo(const QString &text);
     void typeDescription(const QString &text);
     void beepUnless(bool found) const;
+    bool takeTypeKey(const QKeyEvent &key);
+    bool takeSearchKey(QKeyEvent &key);
 
     std::unique_ptr<Ui::TfrmItemSearchInv> m_ui;
     ItemSearch m_search;

@@ -1,9 +1,11 @@
+#include "controls/listgrid.h"
 #include "controls/lookupcombobox.h"
 #include "master/itemsearchinvform.h"
 #include "tests/transactions/screentest.h"
 
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 using ItemSearchScreen = ScreenTest;
@@ -31,10 +33,16 @@ TEST_F(ItemSearchScreen, FollowsWhatIsTyped)
     EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
     child<LookupComboBox>(search, "cboItemType")->setFocus();
     type("food");
-    press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(search.isVisible()) << "nobody has seen the items of the type yet";
     EXPECT_EQ(search.GetItemID(), 1);
-    search.reject();
+    press(Qt::Key_Return);
+    EXPECT_EQ(search.result(), QDialog::Accepted);
+
+    kitchen.execute(u"DELETE FROM Item WHERE ItemID = 2"_s);
+    search.SetItemID(1);
     showActive(search);
+    EXPECT_EQ(child<ListGrid>(search, "DBGrid1")->model()->rowCount(), 3) << "as they are by now";
     EXPECT_EQ(focusName(), u"editFindItemNo");
     EXPECT_EQ(number->text(), QString());
     EXPECT_EQ(child<LookupComboBox>(search, "cboItemType")->chosenId(), 0);
