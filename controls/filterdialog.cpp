@@ -48,12 +48,26 @@ void FilterDialog::btnOKClick()
     accept();
 }
 
-void FilterDialog::btnResetClick()
+void FilterDialog::btnResetClick() { choose({}); }
+
+void FilterDialog::choose(const ListFilter &filter)
 {
-    setKey(0);
-    m_ui->optAll->setChecked(true);
+    setKey(filter.key);
+    m_ui->optYes->setChecked(filter.marked == ListFilter::Marked::Yes);
+    m_ui->optNo->setChecked(filter.marked == ListFilter::Marked::No);
+    m_ui->optAll->setChecked(filter.marked == ListFilter::Marked::All);
 }
 
-void FilterDialog::showStep() { m_ui->cboList->setFocus(); }
+void FilterDialog::showStep()
+{
+    m_inForce = filter();
+    m_ui->cboList->setFocus();
+}
+
+void FilterDialog::reject()
+{
+    choose(m_inForce);
+    DialogScreen::reject();
+}
 
 } // namespace Tallymere

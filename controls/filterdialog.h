@@ -22,7 +22,8 @@ struct FilterDialogKind
 };
 
 // The filter dialog of a list: a record that the rows refer to, and whether they have a mark. It is made once for its
-// list and keeps its choices; OK accepts them, and the list makes its filter expression of them.
+// list and keeps its choices; OK accepts them, and the list makes its filter expression of them. Cancel takes back what
+// has been chosen since it was opened.
 class FilterDialog : public DialogScreen
 {
     Q_OBJECT
@@ -34,14 +35,17 @@ public:
     ListFilter filter() const;
     void setKey(int key);
     void btnResetClick(); // no record, and all rows
+    void reject() override;
 
 protected:
     void showStep() override;
 
 private:
     void btnOKClick();
+    void choose(const ListFilter &filter);
 
     std::unique_ptr<Ui::FilterDialog> m_ui;
+    ListFilter m_inForce; // when it was opened
 };
 
 } // namespace Tallymere

@@ -35,13 +35,26 @@ void TfrmInvTotalsFilter::btnOKClick()
     accept();
 }
 
-void TfrmInvTotalsFilter::btnResetClick()
+void TfrmInvTotalsFilter::btnResetClick() { choose(0, 0); }
+
+void TfrmInvTotalsFilter::choose(int itemId, int warehouseId)
 {
-    m_item->choose(0);
-    m_ui->cboWarehouse->setChosenId(0);
+    m_item->choose(itemId);
+    m_ui->cboWarehouse->setChosenId(warehouseId);
 }
 
-void TfrmInvTotalsFilter::showStep() { m_ui->editItem->setFocus(); }
+void TfrmInvTotalsFilter::showStep()
+{
+    m_itemInForce = itemId();
+    m_warehouseInForce = warehouseId();
+    m_ui->editItem->setFocus();
+}
+
+void TfrmInvTotalsFilter::reject()
+{
+    guard().run([this] { choose(m_itemInForce, m_warehouseInForce); });
+    DialogScreen::reject();
+}
 
 QWidget *TfrmInvTotalsFilter::widgetOfColumn(const QString &) const { return m_ui->editItem; }
 
