@@ -1,12 +1,26 @@
 #include "master/recordopenerform.h"
 
+#include "controls/listscreen.h"
 #include "controls/screencontext.h"
 #include "controls/screenmetrics.h"
 #include "engine/error.h"
 #include "frame/shared/ruleerror.h"
 #include "master/masterrecordform.h"
 
+#include <QApplication>
+#include <QPointer>
+
 namespace Tallymere {
+
+namespace {
+
+void showSaved(ListScreen &list, int key)
+{
+    list.refreshList();
+    list.moveToKey(key);
+}
+
+} // namespace
 
 RecordOpener::RecordOpener(ScreenContext &context, MasterList &list, MakeRecord makeRecord, QWidget *owner)
     : QObject(owner)
@@ -20,24 +34,34 @@ RecordOpener::RecordOpener(ScreenContext &context, MasterList &list, MakeRecord 
 std::unique_ptr<MasterRecordScreen> RecordOpener::make()
 {
     std::unique_ptr<MasterRecordScreen> screen(m_makeRecord(m_context, m_owner->parentWidget()));
-    connect(screen.get(), &MasterRecordScreen::saved, this, [this](int key) {
-        m_list.table().refresh();
-        m_list.moveTo(key);
-    });
+    connect(screen.get(), &MasterRecordScreen::saved, screen.get(),
+            [opener = QPointer(this), listName = m_list.kind().listScreen](int key) {
+                if (opener)
+                    opener->show(key);
+                else if (auto *list = findScreen<ListScreen>(listName))
+                    showSaved(*list, key);
+            });
     // Work goes on in the list, not in the main window that both belong to.
     connect(screen.get(), &QObject::destroyed, this, [this] {
         if (m_owner->isVisible())
             m_owner->activateWindow();
     });
-    m_records.removeIf([](const QPointer<MasterRecordScreen> &record) { return !record; });
-    m_records.append(screen.get());
     return screen;
+}
+
+void RecordOpener::show(int key)
+{
+    m_list.table().refresh();
+    m_list.moveTo(key);
 }
 
 MasterRecordScreen *RecordOpener::openScreenOf(int key) const
 {
-    for (const QPointer<MasterRecordScreen> &record : m_records) {
-        if (record && record->isVisible() && !record->isNew() && record->key() == key)
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *record = qobject_cast<MasterRecordScreen *>(window);
+        if (record && record->objectName() == m_list.kind().screen && record->isVisible() && !record->isNew()
+            && record->key() == key)
             return record;
     }
     return nullptr;

@@ -3,7 +3,6 @@
 #include "master/masterlist.h"
 
 #include <QObject>
-#include <QPointer>
 
 class QWidget;
 
@@ -13,7 +12,7 @@ class MasterRecordScreen;
 struct ScreenContext;
 
 // Opens the screens of the records of a list, and deletes records. A record has one screen; saving in it reads the
-// list anew and moves it to the record.
+// list anew and moves it to the record, also when the list has been closed and opened again meanwhile.
 class RecordOpener final : public QObject
 {
     Q_OBJECT
@@ -36,13 +35,13 @@ public:
     void removeCurrent(); // as MasterList::remove; the record's screen goes with it
 
 private:
+    void show(int key);
     MasterRecordScreen *openScreenOf(int key) const;
 
     ScreenContext &m_context;
     MasterList &m_list;
     MakeRecord m_makeRecord;
     QWidget *m_owner;
-    QList<QPointer<MasterRecordScreen>> m_records;
 };
 
 } // namespace Tallymere

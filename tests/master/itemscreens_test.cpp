@@ -278,6 +278,27 @@ TEST_F(ItemScreens, CopyTheCurrentItem)
     EXPECT_EQ(findScreen(u"frmItemInv"_s), nullptr);
 }
 
+TEST_F(ItemScreens, OutliveTheListThatOpenedThem)
+{
+    openList();
+    ASSERT_TRUE(list->moveToKey(2));
+    press(Qt::Key_Return);
+    takeItem();
+    list->close();
+    settle();
+    openList();
+    ASSERT_TRUE(list->moveToKey(2));
+    clickList("btnEdit");
+    EXPECT_EQ(mainWindow->findChildren<TfrmItemInv *>().size(), 1) << "not a second screen of the item";
+    showActive(*item);
+    enter("editItemDescription", "Rolls");
+    ASSERT_TRUE(list->moveToKey(3));
+    clickItem("btnOK");
+    settle();
+    EXPECT_EQ(currentNumber(), u"A11");
+    EXPECT_EQ(grid->currentIndex().siblingAtColumn(1).data(), u"Rolls"_s);
+}
+
 TEST_F(ItemScreens, NarrowTheListAndFindInIt)
 {
     openList();
@@ -299,8 +320,15 @@ TEST_F(ItemScreens, NarrowTheListAndFindInIt)
     EXPECT_TRUE(list->command(u"mnuFilter"_s)->isChecked());
     EXPECT_EQ(numbers(), QStringList{u"B1"_s});
 
+    EXPECT_TRUE(whileOpen<TfrmItemsFilter>([this] { clickList("btnFilter"); },
+                                           [](TfrmItemsFilter &dialog) {
+                                               dialog.SetItemTypeID(1);
+                                               child<QRadioButton>(dialog, "optSuspendedYes")->click();
+                                               press(Qt::Key_Escape);
+                                           }));
     filter([](TfrmItemsFilter &dialog) {
-        EXPECT_EQ(dialog.GetItemTypeID(), 2) << "as it was left";
+        EXPECT_EQ(dialog.GetItemTypeID(), 2) << "as it was before the last was cancelled";
+        EXPECT_TRUE(child<QRadioButton>(dialog, "optSuspendedNo")->isChecked());
         press(Qt::Key_Delete); // in the box of types
         child<QRadioButton>(dialog, "optSuspendedYes")->click();
     });
