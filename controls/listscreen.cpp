@@ -103,7 +103,7 @@ void ListScreen::addChoices(QMenu *menu, const ListCommand &command)
     for (const ListCommand &choice : command.choices) {
         QAction *action = addCommand(choices, choice);
         action->setCheckable(true);
-        action->setChecked(group->actions().isEmpty());
+        action->setChecked(group->actions().size() == command.firstChoice);
         group->addAction(action);
     }
 }

@@ -29,6 +29,7 @@ struct ListCommand
     bool separatorBefore = false;
     bool hidden = false; // not in the menu; its button and the pop-up menu lead to it
     QList<ListCommand> choices = {}; // a sub-menu of entries of which one is checked
+    int firstChoice = 0; // which of them is at the start
 };
 
 struct ListMenu

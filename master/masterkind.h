@@ -86,7 +86,8 @@ struct MasterKind
     QString listScreen; // "frmItemsInv"
     QString listCaption; // "Items"
     QList<GridColumn> columns;
-    QList<Order> orders; // the first one is in force at the start
+    QList<Order> orders; // as the menu has them
+    int firstOrder = 0; // which of them is in force at the start
     bool prints = false; // there is a report of the list
     // What its filter dialog narrows it to: the rows that refer to one record, and those that are suspended or not.
     QString filterField; // "CurrencyID"

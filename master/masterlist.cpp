@@ -15,7 +15,7 @@ MasterList::MasterList(Engine::Database &database, const MasterKind &kind)
     m_table.recordName = [this] { return m_kind.recordName(m_table); };
     if (m_kind.addFields)
         m_kind.addFields(m_table);
-    setOrder(m_kind.orders.constFirst());
+    setOrder(m_kind.orders.at(m_kind.firstOrder));
 }
 
 void MasterList::open()

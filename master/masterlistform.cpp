@@ -57,7 +57,8 @@ QList<ListCommand> MasterListScreen::viewCommands()
 {
     QList<ListCommand> commands;
     if (m_list.kind().orders.size() > 1) {
-        ListCommand sort{.name = u"mnuSortBy"_s, .caption = tr("&Sort by")};
+        ListCommand sort{
+            .name = u"mnuSortBy"_s, .caption = tr("&Sort by"), .firstChoice = m_list.kind().firstOrder};
         for (const MasterKind::Order &order : m_list.kind().orders) {
             sort.choices.append({.name = order.command, .caption = order.caption, .run = [this, &order] {
                                      const WaitCursor hourglass;

@@ -25,6 +25,12 @@ void refuseCurrencyChange(const Engine::Table &vendor, const Engine::Value &curr
         throw RuleError(tr("Currency cannot be changed... \nInvoice(s) already exist"), u"CurrencyID"_s);
 }
 
+// Invoices may have come in since the currency was chosen.
+void refuseCurrencyChangeAtLast(const Engine::Table &vendor)
+{
+    refuseCurrencyChange(vendor, vendor.value(u"CurrencyID"));
+}
+
 void nameFields(Engine::Table &table)
 {
     const std::pair<QString, QString> labels[] = {{u"DiscPC"_s, tr("Discount %")},
@@ -86,6 +92,7 @@ MasterKind describe()
     kind.required = {{u"VendorNo"_s, tr("Field 'Vendor no.' must have a value")},
                      {u"VendorName"_s, tr("Field 'Vendor Name' must have a value")},
                      {u"CurrencyID"_s, tr("Field 'Currency' must have a value")}};
+    kind.check = refuseCurrencyChangeAtLast;
     kind.references = {{u"CurrencyID"_s, u"Currency"_s, u"CurrencyName"_s, tr("Currency no longer exists"),
                         tr("Currency '%1' not found")}};
     kind.taken = tr("Vendor no. already exists");
@@ -98,8 +105,9 @@ MasterKind describe()
                     {u"Phone"_s, tr("Phone"), 130},
                     {u"Contact"_s, tr("Contact"), 190},
                     {u"Balance"_s, tr("Balance"), 100, Qt::AlignRight}};
-    kind.orders = {{u"VendorName1"_s, tr("&Name"), u"mnuSortName"_s},
-                   {u"VendorNo"_s, tr("&Vendor no."), u"mnuSortVendorNo"_s}};
+    kind.orders = {{u"VendorNo"_s, tr("&Vendor no."), u"mnuSortVendorNo"_s},
+                   {u"VendorName1"_s, tr("&Name"), u"mnuSortName"_s}};
+    kind.firstOrder = 1;
     kind.prints = true;
     kind.filterField = u"CurrencyID"_s;
     kind.notSuspended = u"(Suspended <> true)"_s;

@@ -57,6 +57,8 @@ TEST_P(Vendors, WithInvoicesKeepTheirCurrency)
 
     ASSERT_TRUE(vendor.openRecord(1));
     EXPECT_EQ(enter(u"CurrencyID"_s, 3), QString()) << "no invoices of this one";
+    kitchen.execute(u"INSERT INTO APInv (InvoiceID, VendorID) VALUES (9, 1)"_s);
+    EXPECT_EQ(refusalOf([&] { vendor.save(); }), refused) << "meanwhile there is one";
     vendor.cancel();
     vendor.newRecord();
     EXPECT_EQ(enter(u"CurrencyID"_s, 3), QString());
@@ -102,7 +104,7 @@ TEST_P(Vendors, AreFilteredByCurrencyAndSuspension)
         {{0, Marked::No}, u"(Suspended <> true)"_s, u"V1 V2 V3 V5"_s},
         {{0, Marked::All}, {}, u"V1 V2 V3 V4 V5"_s},
     };
-    list.setOrder(MasterKinds::vendor().orders[1]);
+    list.setOrder(MasterKinds::vendor().orders[0]);
     for (const auto &[choice, expression, shown] : cases) {
         EXPECT_EQ(MasterKinds::vendor().filterExpression(choice), expression);
         list.table().setFilter(expression);
