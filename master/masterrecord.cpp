@@ -156,6 +156,7 @@ void MasterRecord::assignHighestKey()
 
 void MasterRecord::checkAll()
 {
+    trimNumber();
     for (const MasterKind::Required &required : m_kind.required) {
         if (isEmpty(required.field))
             throw RuleError(required.message, required.field);
@@ -167,11 +168,21 @@ void MasterRecord::checkAll()
     assignKey();
 }
 
+// Blanks around a number, as come along with a pasted one, are never typed when it is looked up.
+void MasterRecord::trimNumber()
+{
+    if (m_kind.numberField.isEmpty())
+        return;
+    const QString number = m_table.text(m_kind.numberField);
+    if (number != number.trimmed())
+        m_table.set(m_kind.numberField, number.trimmed());
+}
+
 bool MasterRecord::isEmpty(const QString &field) const
 {
     const Engine::Value value = m_table.value(field);
     if (std::holds_alternative<QString>(value.storage()))
-        return value.toText().isEmpty();
+        return value.toText().trimmed().isEmpty();
     return value.isNull() || (!std::holds_alternative<bool>(value.storage()) && value.toDouble() == 0);
 }
 

@@ -49,6 +49,7 @@ private:
     void assignKey();
     void assignHighestKey();
     void checkAll();
+    void trimNumber();
     bool isEmpty(const QString &field) const;
     void requireReference(const MasterKind::Reference &reference) const;
 

@@ -15,7 +15,7 @@ QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Ve
 
 void requireName(const Engine::Table &contact)
 {
-    if (contact.text(u"FullName").isEmpty())
+    if (contact.text(u"FullName").trimmed().isEmpty())
         throw RuleError(tr("Field 'Contact Name' must have a value"), u"FirstName"_s);
 }
 
