@@ -55,7 +55,12 @@ QString Dialer::dialableNumber(const QString &text)
 {
     // Modems pass over the marks that people write into numbers; a comma is a pause.
     static const QRegularExpression number(u"\\(?[0-9+*#][0-9+*#() .,/-]*"_s);
-    return number.match(text).captured().trimmed();
+    const QRegularExpressionMatch found = number.match(text);
+    const QString digits = found.captured();
+    // "1-800-FLOWERS" would be another number without its letters.
+    if (digits.endsWith(u'-') && text.mid(found.capturedEnd(), 1).isUpper())
+        return {};
+    return digits.trimmed();
 }
 
 void Dialer::dial(const QString &number, Prompts &prompts, const std::function<void()> &dialed) const

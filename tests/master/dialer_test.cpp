@@ -113,6 +113,7 @@ TEST_F(DialerTest, sendsNothingThatIsNoNumber)
         {u"555-1234\r\nATDT900"_s, u"555-1234"_s},
         {u"555\u2028\u0661234"_s, u"555"_s},
         {u"ask (Mary)"_s, {}},
+        {u"1-800-FLOWERS"_s, {}},
         {u"\r\n"_s, {}},
     };
     for (const auto &[typed, sent] : cases)
