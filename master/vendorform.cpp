@@ -39,6 +39,7 @@ void TfrmVendor::buildContacts()
     m_contacts.open();
     m_contacts.table().setMaster(&record().table(), u"VendorID"_s);
     m_ui->DBGrid1->setDataSet(m_contacts.table(), m_contacts.kind().columns, guard());
+    m_ui->DBGrid1->setHint(tr("No contacts yet. Press New to add one."));
     connectGuarded(m_ui->DBGrid1, &ListGrid::chosen, this, &TfrmVendor::btnEditClick);
     connectGuarded(m_ui->btnNew, &QPushButton::clicked, this, &TfrmVendor::btnNewClick);
     connectGuarded(m_ui->btnEdit, &QPushButton::clicked, this, &TfrmVendor::btnEditClick);
