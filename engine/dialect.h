@@ -6,6 +6,8 @@
 
 namespace Engine {
 
+inline constexpr QLatin1StringView largestWholeNumber("9223372036854775807"); // that a store keeps
+
 // What differs between the stores in the text of statements; one implementation for each.
 class Dialect
 {
@@ -42,7 +44,7 @@ public:
     // It may change whenever the row is written.
     virtual QString rowIdentity() const = 0;
     // The whole number that a text reads as: an optional sign and digits, with blanks around them. Null for any other
-    // text, and for a number of more than 18 digits.
+    // text, and for a number beyond largestWholeNumber.
     virtual QString wholeNumberOf(const QString &text) const = 0;
     // Condition that the column equals one of the whole numbers of a text parameter such as "[1,2,3]".
     virtual QString inNumberList(const QString &column) const = 0;

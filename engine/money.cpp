@@ -7,8 +7,6 @@ namespace Engine {
 
 namespace {
 
-constexpr long double largestAmount = 922337203685477.0L;
-
 // The whole number nearest to rounded + residual, ties to even. The residual is what the multiplication lost:
 // without it a value just beside a tie would look like one.
 long double nearestWhole(long double rounded, long double residual)
@@ -26,7 +24,7 @@ long double nearestWhole(long double rounded, long double residual)
 
 Money Money::fromLongDouble(long double value)
 {
-    if (!std::isfinite(value) || std::fabs(value) > largestAmount)
+    if (!std::isfinite(value) || std::fabs(value) > static_cast<long double>(largestAmount))
         throw std::range_error("an amount of money is out of range");
     const long double product = value * 10000.0L;
     const long double residual = std::fma(value, 10000.0L, -product);

@@ -13,9 +13,11 @@ namespace Engine {
 class Money
 {
 public:
+    static constexpr qint64 largestAmount = 922'337'203'685'477;
+
     constexpr Money() = default;
 
-    // Throws std::range_error for a value that is not finite or beyond +-922,337,203,685,477.
+    // Throws std::range_error for a value that is not finite or beyond +-largestAmount.
     static Money fromDouble(double value) { return fromLongDouble(value); }
     static Money fromLongDouble(long double value);
     static constexpr Money fromTenThousandths(qint64 count)

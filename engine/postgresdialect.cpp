@@ -168,8 +168,9 @@ QString PostgresDialect::rowIdentity() const
 // A cast alone would fail for "12 eggs".
 QString PostgresDialect::wholeNumberOf(const QString &text) const
 {
-    return u"CASE WHEN %1 ~ '^ *[-+]?[0-9]+ *$' AND length(trim(ltrim(%1, ' -+0'))) <= 18 "
-           "THEN CAST(%1 AS bigint) END"_s.arg(text);
+    return u"CASE WHEN %1 ~ '^ *[-+]?[0-9]+ *$' THEN "
+           "CASE WHEN CAST(%1 AS numeric) BETWEEN -%2 AND %2 THEN CAST(%1 AS bigint) END END"_s.arg(
+               text, largestWholeNumber);
 }
 
 QString PostgresDialect::inNumberList(const QString &column) const

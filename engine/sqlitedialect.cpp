@@ -208,7 +208,10 @@ QString SqliteDialect::wholeNumberOf(const QString &text) const
 {
     return u"CASE WHEN %1 NOT GLOB '*[^0-9]*' AND length(%1) BETWEEN 1 AND 18 THEN CAST(%1 AS INTEGER) "
            "WHEN trim(%1) GLOB '[-+0-9]*' AND substr(trim(%1), 2) NOT GLOB '*[^0-9]*' AND %1 GLOB '*[0-9]*' "
-           "AND length(ltrim(trim(%1), '-+0')) <= 18 THEN CAST(trim(%1) AS INTEGER) END"_s.arg(text);
+           "AND (length(ltrim(trim(%1), '-+0')) < %2 OR (length(ltrim(trim(%1), '-+0')) = %2 "
+           "AND ltrim(trim(%1), '-+0') <= '%3')) THEN CAST(trim(%1) AS INTEGER) END"_s.arg(text)
+               .arg(largestWholeNumber.size())
+               .arg(largestWholeNumber);
 }
 
 QString SqliteDialect::inNumberList(const QString &column) const

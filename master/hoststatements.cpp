@@ -68,6 +68,12 @@ QString queryInsertLocationIntoWarehouse()
            "values (:WarehouseID, :Location, :Location_ID)"_s;
 }
 
+QString queryItemOfUnusablePrice()
+{
+    return u"select Item_ID from Items where abs(Billed_Amount) > %1 and Item_ID is not null order by Item_ID "
+           "limit 1"_s.arg(Engine::Money::largestAmount);
+}
+
 QString queryUpdateItemFromItems(const Engine::Dialect &dialect)
 {
     return u"Update Item set ItemDescription = %1, UnitPrice = Items.Billed_Amount, ItemTypeID = %2 "

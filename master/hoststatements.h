@@ -21,6 +21,8 @@ QString queryGetLastWarehouseID(); // LastID
 QString querySelectLocatnsNotInWarehse();
 QString queryInsertLocationIntoWarehouse(); // :WarehouseID, :Location, :Location_ID
 
+// A host item whose price is beyond what money can be: Item_ID.
+QString queryItemOfUnusablePrice();
 // Items whose number reads as the ID of a host item take its description, price and type, where description or price
 // differ. (An empty price counts as 0 in that.) So do items of an unknown meal code that still have the type with
 // which they came in.

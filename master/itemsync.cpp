@@ -7,8 +7,6 @@
 #include "frame/shared/trace.h"
 #include "master/hoststatements.h"
 
-#include <stdexcept>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere::HostStatements;
 using Engine::EngineError;
@@ -35,6 +33,7 @@ HostSyncResult ItemSync::run(Progress &progress)
         lockedTable(m_database, Layouts::item().name,
                     tr("The items are in use by another user%1. Nothing has been changed; try again "
                        "in a moment."));
+    requireUsablePrices();
     HostSyncResult result;
     result.notUpdated = updateLinked(result.updated);
 
@@ -64,6 +63,13 @@ HostSyncResult ItemSync::run(Progress &progress)
     return result;
 }
 
+void ItemSync::requireUsablePrices() const
+{
+    const Engine::Value item = Engine::singleValue(m_database, queryItemOfUnusablePrice());
+    if (!item.isNull())
+        throw RuleError(tr("The price of the host's item %1 is too large.").arg(item.toText()));
+}
+
 // Why it failed, if it did.
 QString ItemSync::updateLinked(qint64 &updated) const
 {
@@ -86,19 +92,11 @@ std::vector<ItemSync::HostItem> ItemSync::readNewItems() const
     while (row->next()) {
         const qint64 id = row->intAt(0);
         if (items.empty() || items.back().id != id)
-            items.push_back({id, hostText(*row, 1, Layouts::item(), u"ItemDescription"), priceAt(*row, 2, id),
+            items.push_back({id, hostText(*row, 1, Layouts::item(), u"ItemDescription"),
+                             Engine::Money::fromDouble(row->isNull(2) ? 0 : row->doubleAt(2)),
                              typeOfNewItem(row->textAt(3))});
     }
     return items;
-}
-
-Engine::Money ItemSync::priceAt(const Engine::Statement &row, int column, qint64 item)
-{
-    try {
-        return Engine::Money::fromDouble(row.isNull(column) ? 0 : row.doubleAt(column));
-    } catch (const std::range_error &) {
-        throw RuleError(tr("The price of the host's item %1 is too large.").arg(item));
-    }
 }
 
 ItemSync::Keys ItemSync::reserveKeys(qint64 count) const

@@ -15,7 +15,7 @@ namespace Tallymere {
 // when nothing is new. Where the update or the reservation fails the run goes on: without a reservation the keys lie
 // above every item and the counter, which follows afterwards if it can. Any other failure is an EngineError that ends
 // the run: nothing is written when another user works on the items (or posts receipts); a failing insert keeps the
-// items added before it. RuleError names a host item whose price is out of range, before anything is added.
+// items added before it. RuleError names a host item whose price is out of range, before anything is written.
 class ItemSync
 {
     Q_DECLARE_TR_FUNCTIONS(Tallymere::ItemSync)
@@ -36,9 +36,9 @@ private:
         bool reserved = false;
     };
 
+    void requireUsablePrices() const;
     QString updateLinked(qint64 &updated) const;
     std::vector<HostItem> readNewItems() const;
-    static Engine::Money priceAt(const Engine::Statement &row, int column, qint64 item);
     Keys reserveKeys(qint64 count) const;
     qint64 firstUnusedKey() const;
     void raiseCounter(qint64 next) const;

@@ -171,13 +171,14 @@ TEST_P(ItemSyncTest, OnlyChangedItemsAreUpdated)
 TEST_P(ItemSyncTest, WhatAnotherProgramHasWrittenIsTakenAsFarAsItFits)
 {
     kitchen.replaceTable(
-        u"Items"_s, u"Item_ID INTEGER, Meal_Item VARCHAR(80), Billed_Amount DOUBLE PRECISION, Meal VARCHAR(10)"_s);
+        u"Items"_s, u"Item_ID BIGINT, Meal_Item VARCHAR(80), Billed_Amount DOUBLE PRECISION, Meal VARCHAR(10)"_s);
     const QString emoji = QString::fromUcs4(U"\U0001F35E");
     addHostItem(1, u'\'' + emoji.repeated(60) + u'\'', u"1.00004"_s, u"'MFX'"_s);
     addHostItem(2, u"NULL"_s, u"NULL"_s);
     addHostItem(2, u"'the same again'"_s);
-    kitchen.execute(u"INSERT INTO Items (Meal_Item) VALUES ('without a key')"_s);
-    EXPECT_EQ(run().added, 2);
+    kitchen.execute(u"INSERT INTO Items (Meal_Item) VALUES ('without a key'); "
+                    "INSERT INTO Items (Item_ID) VALUES (9223372036854775807)"_s);
+    EXPECT_EQ(run().added, 3);
     EXPECT_EQ(of(u"ItemDescription"_s, 10), emoji.repeated(40));
     EXPECT_EQ(of(u"UnitPrice"_s, 10), u"1");
     EXPECT_EQ(of(u"ItemTypeID"_s, 10), u"3");
@@ -185,9 +186,14 @@ TEST_P(ItemSyncTest, WhatAnotherProgramHasWrittenIsTakenAsFarAsItFits)
     EXPECT_EQ(of(u"UnitPrice"_s, 11), u"0");
     EXPECT_EQ(run().added, 0);
 
-    addHostItem(3, u"'Gold'"_s, u"1e300"_s);
-    EXPECT_TRUE(refusalOf([this] { run(); }).contains(u"item 3 "_s));
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Item"_s), 2);
+    addHostItem(3, u"'Gold'"_s, u"1"_s);
+    for (const int known : {0, 1}) {
+        kitchen.execute(u"UPDATE Items SET Billed_Amount = 1e300 WHERE Item_ID = 3"_s);
+        EXPECT_TRUE(refusalOf([this] { run(); }).contains(u"item 3 "_s));
+        EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Item WHERE ItemNo = '3' AND UnitPrice = 1"_s), known);
+        kitchen.execute(u"UPDATE Items SET Billed_Amount = 1 WHERE Item_ID = 3"_s);
+        run();
+    }
 }
 
 TEST_P(ItemSyncTest, AFailingUpdateIsPassedOver)
