@@ -55,9 +55,9 @@ void LookupComboBox::setList(Engine::DataSet &list, const QString &keyField, con
     m_list = new TableModel(list, columns, guard, this);
     setModel(m_list);
     // Others show the list as well and read it again. Row numbers then stand for other records; once that is done, the
-    // box goes to its own.
+    // box goes to its own. The model tells of a list that cannot be read.
     connect(
-        &list, &Engine::DataSet::listChanged, this, [this] { m_guard->run([this] { showRow(); }); },
+        &list, &Engine::DataSet::listChanged, this, [this] { Guard::attempt([this] { showRow(); }); },
         Qt::QueuedConnection);
     QTableView *view = makeListView(this);
     setView(view);
@@ -194,10 +194,13 @@ void LookupComboBox::mousePressEvent(QMouseEvent *event)
 // A turn of the wheel over a form must not change what it holds.
 void LookupComboBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
 
-// What is typed is looked for among the rows as they are by now. If they cannot be read, dropping the list down tells.
+// What is typed is looked for among the rows as they are by now. The model tells of a failure; the cursor that comes
+// back when the user has read that must not lead to the next.
 void LookupComboBox::focusInEvent(QFocusEvent *event)
 {
-    if (m_list && !m_readOnly && !isPending() && event->reason() != Qt::PopupFocusReason)
+    const bool comesBack =
+        event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    if (m_list && !m_readOnly && !isPending() && !comesBack)
         Guard::attempt([this] { m_list->dataSet().refresh(); });
     QComboBox::focusInEvent(event);
 }
