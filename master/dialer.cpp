@@ -3,6 +3,7 @@
 #include "frame/shared/initfile.h"
 #include "frame/shared/prompts.h"
 #include "frame/shared/ruleerror.h"
+#include "frame/shared/trace.h"
 #include "master/modemport.h"
 
 #include <QRegularExpression>
@@ -73,12 +74,12 @@ void Dialer::dial(const QString &number, Prompts &prompts, const std::function<v
 
     const int chosen = port();
     if (chosen == 0)
-        throw RuleError(tr("Unable to open %1").arg("COM"_L1) + u'\n'
-                        + tr("No port is chosen. Choose one under Setup."));
+        throw RuleError(tr("Unable to open %1").arg("COM"_L1));
     ModemPort modem(deviceOf(chosen));
-    if (!modem.open())
-        throw RuleError(tr("Unable to open %1").arg(nameOf(chosen)) + u'\n'
-                        + u"%1: %2"_s.arg(deviceOf(chosen), modem.problem()));
+    if (!modem.open()) {
+        qCDebug(trace) << nameOf(chosen) << deviceOf(chosen) << modem.problem();
+        throw RuleError(tr("Unable to open %1").arg(nameOf(chosen)));
+    }
     if (!modem.send("ATDT" + digits.toLatin1() + "\r\n"))
         throw RuleError(tr("Unable to dial number."));
     dialed();

@@ -19,7 +19,6 @@ public:
     TfrmInvReceipt(ScreenContext &context, QWidget *parent);
     ~TfrmInvReceipt() override;
 
-
 protected:
     void showHeader() override;
     bool takeKey(QKeyEvent *event) override;

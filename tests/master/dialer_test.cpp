@@ -126,17 +126,17 @@ TEST_F(DialerTest, saysWhyItCannotDial)
     EXPECT_EQ(refusal(u"  "_s), QString()) << "no number: nothing happens";
 
     writeFile(u"[General]\nDialerPort=com3\n[Ports]\nCOM3=/dev/none\n"_s);
-    EXPECT_TRUE(refusal(u"555"_s).startsWith("Unable to open COM3\n/dev/none: "_L1));
+    EXPECT_EQ(refusal(u"555"_s), u"Unable to open COM3 -> "_s);
     for (const char *unknown : {"com5", "com", "lpt1", "COM2"}) {
         writeFile(u"[General]\nDialerPort="_s + QLatin1StringView(unknown));
         EXPECT_EQ(dialer.port(), 0) << unknown;
-        EXPECT_EQ(refusal(u"555"_s), u"Unable to open COM\nNo port is chosen. Choose one under Setup. -> "_s);
+        EXPECT_EQ(refusal(u"555"_s), u"Unable to open COM -> "_s);
     }
     connectModem();
     modem.stall();
     EXPECT_EQ(refusal(u"555"_s), u"Unable to dial number. -> "_s);
     modem.unplug();
-    EXPECT_TRUE(refusal(u"555"_s).startsWith("Unable to open COM1\n/dev/"_L1));
+    EXPECT_EQ(refusal(u"555"_s), u"Unable to open COM1 -> "_s);
 }
 
 TEST_F(DialerTest, setupShowsAndKeepsThePort)
@@ -207,19 +207,19 @@ TEST_F(DialerTest, screenStaysAfterAFailureSoThatThePortCanBeSetUp)
 {
     writeFile(u"[Ports]\nCOM1=/dev/none\nCOM2=%1\n"_s.arg(modem.device));
     auto *screen = new TfrmDialerInv(*context, u"Mary"_s, u"555-1234"_s, dialer, mainWindow.get());
-    EXPECT_TRUE(whileOpen<TfrmDialerInv>(
-        [&] { screen->exec(); },
-        [&](TfrmDialerInv &dialog) {
-            press(Qt::Key_Return);
-            EXPECT_TRUE(dialog.isVisible());
-            EXPECT_TRUE(prompts.last().startsWith("error: Unable to open COM1"_L1));
-            EXPECT_TRUE(whileOpen<TfrmDialerSetupInv>([&] { child<QPushButton>(dialog, "btnSetup")->click(); },
-                                                      [&](TfrmDialerSetupInv &setup) {
-                                                          choice(setup, 2)->click();
-                                                          press(Qt::Key_Return);
-                                                      }));
-            child<QPushButton>(dialog, "btnOK")->click();
-            EXPECT_FALSE(dialog.isVisible());
-        }));
+    EXPECT_TRUE(whileOpen<TfrmDialerInv>([&] { screen->exec(); },
+                                         [&](TfrmDialerInv &dialog) {
+                                             press(Qt::Key_Return);
+                                             EXPECT_TRUE(dialog.isVisible());
+                                             EXPECT_EQ(prompts.last(), u"error: Unable to open COM1"_s);
+                                             EXPECT_TRUE(whileOpen<TfrmDialerSetupInv>(
+                                                 [&] { child<QPushButton>(dialog, "btnSetup")->click(); },
+                                                 [&](TfrmDialerSetupInv &setup) {
+                                                     choice(setup, 2)->click();
+                                                     press(Qt::Key_Return);
+                                                 }));
+                                             child<QPushButton>(dialog, "btnOK")->click();
+                                             EXPECT_FALSE(dialog.isVisible());
+                                         }));
     EXPECT_EQ(modem.heard(), "ATDT555-1234\r\nATH\r\n");
 }
