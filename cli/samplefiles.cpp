@@ -39,23 +39,38 @@ void bringIn(TDataModuleTallymere &data, const QString &kind, const QString &nam
                         .arg(first.line));
 }
 
-// Fiscal year and periods: the kitchen's year runs from December to November.
-void setOrganization(TDataModuleTallymere &data)
+// The rows of a sample file as they stand, each into the record that the table has been made ready for.
+void takeRows(Engine::Table &table, const QString &name, const std::function<void()> &makeReady)
 {
-    QFile file(samplePath(u"organization"_s));
+    QFile file(samplePath(name));
     openSample(file);
     CsvReader reader(file);
     reader.next();
     const QStringList fields = reader.fields();
-    reader.next();
+    while (reader.next()) {
+        makeReady();
+        for (qsizetype i = 0; i < fields.size(); ++i)
+            table.set(fields[i], Engine::Value(reader.fields().at(i)).as(table.field(fields[i]).type));
+        table.post();
+    }
+}
 
+// Fiscal year and periods: the kitchen's year runs from December to November.
+void setOrganization(TDataModuleTallymere &data)
+{
     Engine::Table company(data.databaseTallymere(), u"Company"_s);
     company.open();
-    company.edit();
-    for (qsizetype i = 0; i < fields.size(); ++i)
-        company.set(fields[i], Engine::Value(reader.fields().at(i)).as(company.field(fields[i]).type));
-    company.post();
+    takeRows(company, u"organization"_s, [&] { company.edit(); });
     data.tblCompany().refresh();
+}
+
+// What the host has to synchronize with. Rows that it has already are its own and stay alone.
+void fillHostTable(Engine::Database &database, const QString &table, const QString &name)
+{
+    Engine::Table rows(database, table);
+    rows.open();
+    if (rows.isEmpty())
+        takeRows(rows, name, [&] { rows.append(); });
 }
 
 } // namespace
@@ -66,6 +81,8 @@ void bringInSampleMasters(TDataModuleTallymere &data, Progress &progress)
     for (const QString &kind :
          {u"types"_s, u"locations"_s, u"currencies"_s, u"vendors"_s, u"contacts"_s, u"items"_s})
         bringIn(data, kind, kind, progress);
+    fillHostTable(data.databaseTallymere(), u"Locatns"_s, u"places"_s);
+    fillHostTable(data.databaseTallymere(), u"Items"_s, u"meals"_s);
 }
 
 void bringInSampleReceipts(TDataModuleTallymere &data, const QString &name, Progress &progress)
