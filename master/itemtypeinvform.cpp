@@ -10,7 +10,9 @@ TfrmItemTypeInv::TfrmItemTypeInv(ScreenContext &context, QWidget *parent)
 {
     m_ui->setupUi(this);
     buildRecord();
-    connect(m_ui->chkInventory, &QCheckBox::clicked, m_ui->radioCostingMethod, &QWidget::setEnabled);
+    // The click may have been taken back already, because another user is editing the type.
+    connect(m_ui->chkInventory, &QCheckBox::clicked, this,
+            [this] { m_ui->radioCostingMethod->setEnabled(m_ui->chkInventory->isChecked()); });
 }
 
 TfrmItemTypeInv::~TfrmItemTypeInv() = default;
