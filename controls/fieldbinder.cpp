@@ -169,9 +169,11 @@ void FieldBinder::leave(FieldBinding &binding)
     if (!failure)
         return;
     QWidget *widget = binding.widget();
+    const QString column = binding.field().name;
     QMetaObject::invokeMethod(
         this,
-        [this, widget, failure] {
+        [this, widget, column, failure] {
+            m_guard.focus(column); // on a page that may be behind others by now
             widget->setFocus();
             m_guard.report(failure);
             // A choice is refused as a whole; a typed text stays to be mended or typed over.

@@ -27,9 +27,10 @@ public:
     static std::exception_ptr attempt(const std::function<void()> &handler);
     void report(const std::exception_ptr &failure) const;
 
-private:
+    // Moves the focus to what shows a column; for an empty name it stays.
     void focus(const QString &column) const;
 
+private:
     Prompts &m_prompts;
     std::function<void(const QString &column)> m_focusColumn;
 };

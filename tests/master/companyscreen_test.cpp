@@ -84,6 +84,13 @@ TEST_F(CompanyScreen, RefusedEntriesKeepTheCursor)
     EXPECT_EQ(focusName(), u"editEPeriodToYYYY"_s);
     EXPECT_EQ(shown("editEPeriodToYYYY"), u"2004"_s);
     type("27");
+    enter("DBEditDefaultNetDays", "abc");
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Net Days: \"abc\" is not a whole number."_s});
+    focus("memoNotes");
+    settle();
+    EXPECT_EQ(prompts.take().size(), 1);
+    EXPECT_EQ(focusName(), u"DBEditDefaultNetDays"_s) << "not hidden behind the notes";
+    press(Qt::Key_Escape);
     enter("editFiscalYear", "50");
     EXPECT_EQ(shown("editFiscalYear"), u"1950"_s);
     focus("memoNotes");
