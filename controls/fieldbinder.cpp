@@ -2,6 +2,7 @@
 
 #include "controls/fieldbinding.h"
 #include "engine/error.h"
+#include "frame/shared/ruleerror.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -107,6 +108,8 @@ FieldBinding *FieldBinder::bindingOf(const QObject *widget) const
 
 void FieldBinder::commit()
 {
+    if (m_refusing)
+        throw SilentAbort();
     for (const auto &binding : m_bindings)
         binding->commit();
 }
@@ -168,6 +171,7 @@ void FieldBinder::leave(FieldBinding &binding)
     const std::exception_ptr failure = Guard::attempt([&] { binding.commit(); });
     if (!failure)
         return;
+    m_refusing = true;
     QWidget *widget = binding.widget();
     const QString column = binding.field().name;
     QMetaObject::invokeMethod(
@@ -176,6 +180,7 @@ void FieldBinder::leave(FieldBinding &binding)
             m_guard.focus(column); // on a page that may be behind others by now
             widget->setFocus();
             m_guard.report(failure);
+            m_refusing = false;
             // A choice is refused as a whole; a typed text stays to be mended or typed over.
             if (widget->inherits("QLineEdit"))
                 selectText(widget);

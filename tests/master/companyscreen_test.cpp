@@ -90,6 +90,9 @@ TEST_F(CompanyScreen, RefusedEntriesKeepTheCursor)
     settle();
     EXPECT_EQ(prompts.take().size(), 1);
     EXPECT_EQ(focusName(), u"DBEditDefaultNetDays"_s) << "not hidden behind the notes";
+    QTest::mouseClick(child<QPushButton>(*screen, "btnOK"), Qt::LeftButton);
+    settle();
+    EXPECT_EQ(prompts.take().size(), 1) << "by leaving, not by OK once more";
     press(Qt::Key_Escape);
     enter("editFiscalYear", "50");
     EXPECT_EQ(shown("editFiscalYear"), u"1950"_s);
