@@ -100,7 +100,7 @@ struct ListKind
 {
     QString name;
     const Engine::TableLayout *layout;
-    QString index; // the order of the list on its screen
+    QString index; // the order in which its screen opens
 };
 
 const QList<ListKind> &listKinds()
@@ -108,7 +108,7 @@ const QList<ListKind> &listKinds()
     static const QList<ListKind> kinds = [] {
         QList<ListKind> all;
         for (const MasterKind *master : MasterKinds::all())
-            all.append({master->name, Layouts::find(master->table), master->orders.constFirst().index});
+            all.append({master->name, Layouts::find(master->table), master->orders.at(master->firstOrder).index});
         all.append({{u"receipts"_s, &Layouts::iReceipt(), u"PERIODDATEDESC"_s},
                     {u"usage"_s, &Layouts::iUsage(), u"INVENTORYDATEUSAGENODESC"_s},
                     {u"adjustments"_s, &Layouts::iAdjust(), u"PERIODDATEDESC"_s}});

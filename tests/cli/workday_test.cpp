@@ -122,4 +122,13 @@ TEST_P(Workday, AFilterThatCannotBeReadIsRefused)
     }
 }
 
+TEST_P(Workday, ListsComeInTheOrderInWhichTheirScreensOpen)
+{
+    CliRunner cli(GetParam());
+    makeSmallCompany(cli);
+    EXPECT_EQ(cli.column({u"list"_s, u"vendors"_s}, u"VendorName"_s),
+              (QStringList{u"Abroad"_s, u"Closed"_s, u"Home"_s}));
+    EXPECT_EQ(cli.column({u"list"_s, u"items"_s}, u"ItemNo"_s), (QStringList{u"A1"_s, u"B2"_s, u"C3"_s}));
+}
+
 } // namespace
