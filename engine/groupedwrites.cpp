@@ -157,8 +157,8 @@ BulkWriting::BulkWriting(Database &database)
     if (!isFileStore(database))
         return;
     m_restore = setting(m_connection, u"cache_size"_s) + setting(m_connection, u"wal_autocheckpoint"_s);
-    // The history's indexes are written all over, and each group writes many of the same pages again: what does not
-    // fit the cache, or is copied back after every group, costs as much as the posting itself.
+    // Indexes are written all over, and each group writes many of the same pages again: what does not fit the cache,
+    // or is copied back after every group, costs as much as the writes themselves.
     m_connection.execute(u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s);
 }
 
