@@ -2,6 +2,7 @@
 
 #include "controls/listscreen.h"
 #include "controls/screenmetrics.h"
+#include "frame/shared/rights.h"
 
 #include <QAbstractButton>
 #include <QVariant>
@@ -14,7 +15,8 @@ namespace {
 
 bool isAllowed(const ScreenContext &context, const ListJump &jump)
 {
-    return context.allows(jump.rights.section(u'/', 0, 0), jump.rights.section(u'/', -1));
+    const Rights rights = rightsOf(jump.rights);
+    return context.allows(rights.key, rights.name);
 }
 
 // The list, open and unfiltered; nullptr when the system does not have it.

@@ -10,9 +10,9 @@ class QWidget;
 namespace Tallymere {
 
 // Connects the buttons of a form that lead to a list screen. They say in dynamic properties where they lead:
-//   opensList   the list's component name ("frmCurrenciesInv")
-//   rights      the key and name that the user's rights are asked for ("ItemTypes/Item Types"; one when both are it)
-//   listField   the field whose value is the key of the row to show ("CurrencyID")
+//   opensList     the list's component name ("frmCurrenciesInv")
+//   rights        what the user's rights are asked for, as rightsOf() takes it ("ItemTypes/Item Types")
+//   listField     the field whose value is the key of the row to show ("CurrencyID")
 //   opensAnother  true: a further list opens even when one is open
 // The list shows all rows and stands on that row, or on its first. A button whose list the system does not have is
 // disabled.

@@ -1,9 +1,9 @@
 #include "frame/commands.h"
 
+#include "frame/shared/rights.h"
+#include "frame/synchronization.h"
 #include "master/masterkind.h"
 #include "master/masterscreensform.h"
-
-#include "frame/synchronization.h"
 
 #include <QCoreApplication>
 
@@ -122,10 +122,11 @@ Opening openingOf(MasterKind::Reopening reopening)
 
 Command masterCommand(const MasterKind &kind)
 {
+    const Rights rights = rightsOf(kind.rights);
     return {.action = kind.action,
             .caption = kind.actionCaption,
-            .rightsKey = kind.rights.section(u'/', 0, 0),
-            .rightsName = kind.rights.section(u'/', -1),
+            .rightsKey = rights.key,
+            .rightsName = rights.name,
             .screen = kind.listScreen,
             .opening = openingOf(kind.reopening),
             .refreshOpenScreen = false};
