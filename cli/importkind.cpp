@@ -6,6 +6,7 @@
 #include "data/layouts.h"
 #include "master/masterkinds.h"
 
+#include <algorithm>
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -66,9 +67,7 @@ void require(ImportKind &kind, const QStringList &targets)
 // Whether a new record has a value there even if the file gives none.
 bool isPreset(const MasterKind &master, const QString &field)
 {
-    return field == master.numberField || master.presetFields.contains(field)
-        || std::any_of(master.defaults.begin(), master.defaults.end(),
-                       [&](const MasterKind::Default &preset) { return preset.field == field; });
+    return field == master.numberField || master.presetFields.contains(field) || master.hasDefault(field);
 }
 
 // The files of a master table, from its description.
@@ -104,9 +103,9 @@ ImportKind receiptsKind()
     addColumns(kind, Layouts::iReceipt(), {u"ReceiptID"_s, u"Posted"_s});
     addColumns(kind, Layouts::iRecDet(), {u"ReceiptID"_s, u"Seq"_s}, Level::Line);
     kind.refusedColumns.removeDuplicates();
-    addName(kind, u"VendorID"_s, Layouts::vendor(), u"VendorNo"_s, tr("Vendor no. '%1' not found"));
+    addName(kind, u"VendorID"_s, Layouts::vendor(), u"VendorNo"_s, MasterKinds::vendor().notFound);
     addName(kind, u"WarehouseID"_s, Layouts::warehse(), u"WarehouseName"_s, tr("Location '%1' not found"));
-    addName(kind, u"ItemID"_s, Layouts::item(), u"ItemNo"_s, tr("Item no. '%1' not found"));
+    addName(kind, u"ItemID"_s, Layouts::item(), u"ItemNo"_s, MasterKinds::item().notFound);
     require(kind, {u"VendorID"_s, u"WarehouseID"_s, u"ItemID"_s, u"QtyReceived"_s, u"UnitCost"_s});
     column(kind, u"GLYear").format = ImportColumn::Format::Year;
     column(kind, u"GLPeriod").format = ImportColumn::Format::Period;

@@ -56,7 +56,7 @@ void connectAddressButtons(QWidget &form, FieldBinder &binder, const MasterRecor
         if (const QString field = button->property("dials").toString(); !field.isEmpty()) {
             connectButton(*button, guard, [=, &form, &record, &context] {
                 const QString number = enteredIn(field);
-                dialPhone(context, record.table().text(record.kind().nameFields.constLast()), number, &form);
+                dialPhone(context, record.table().text(record.kind().nameField()), number, &form);
             });
         }
     }

@@ -69,7 +69,7 @@ struct MasterKind
     QString screen; // its component name: "frmItemInv"
     QString caption; // "Item"
     QString newCaption; // "New Item"
-    bool namesCaption = true; // the last of nameFields takes the caption's place
+    bool namesCaption = true; // the name takes the caption's place
     QList<Default> defaults;
     std::function<void(Engine::Table &)> preset; // defaults that have to be found out, of these fields:
     QStringList presetFields;
@@ -103,7 +103,7 @@ struct MasterKind
     // --- its command in the main window -------------------------------------------------------------------------
     QString action; // "ActionEditItems"
     QString actionCaption; // "Edit Items"
-    QString rights; // the key and the name that the user's rights are asked for: "ItemTypes/Item Types"
+    QString rights; // what the user's rights are asked for, as rightsOf() takes it: "ItemTypes/Item Types"
     bool isMain = false; // stands in the Edit menu itself, not under "Other"
     // What happens to a list that is open already: it is shown from its first row, after its filter was lifted or as
     // it is filtered; or it only comes to the front.
@@ -115,7 +115,9 @@ struct MasterKind
     QList<Limits> limits;
     QStringList longTexts; // fields that may be given longer than what is kept of them
 
+    QString nameField() const { return nameFields.constLast(); } // the name without the number
     QString recordName(const Engine::DataSet &row) const; // "1001: Flour"
+    bool hasDefault(const QString &field) const; // one of the defaults, not a preset one
     QString filterExpression(const ListFilter &filter) const; // empty: everything is shown
 };
 

@@ -1,5 +1,7 @@
 #include "master/masterkinds.h"
 
+#include <algorithm>
+
 namespace Tallymere {
 
 QString MasterKind::recordName(const Engine::DataSet &row) const
@@ -8,6 +10,12 @@ QString MasterKind::recordName(const Engine::DataSet &row) const
     for (const QString &field : nameFields)
         parts << row.text(field);
     return parts.join(u": ");
+}
+
+bool MasterKind::hasDefault(const QString &field) const
+{
+    return std::any_of(defaults.begin(), defaults.end(),
+                       [&](const Default &given) { return given.field == field; });
 }
 
 QString MasterKind::filterExpression(const ListFilter &filter) const

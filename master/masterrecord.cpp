@@ -4,8 +4,6 @@
 #include "engine/query.h"
 #include "frame/shared/ruleerror.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
@@ -14,12 +12,6 @@ namespace {
 
 constexpr qint64 firstNumber = 1001;
 constexpr qint64 lastNumber = 10'000'000;
-
-bool hasDefault(const MasterKind &kind, const QString &field)
-{
-    return std::any_of(kind.defaults.begin(), kind.defaults.end(),
-                       [&](const MasterKind::Default &preset) { return preset.field == field; });
-}
 
 NumberSource numbersIfInReach(Engine::Database &database)
 {
@@ -86,7 +78,7 @@ QString MasterRecord::caption() const
 {
     if (m_isCopy && isNew() && !m_table.isModified())
         return m_kind.copyCaption;
-    return captionFor(m_table.text(m_kind.nameFields.constLast()));
+    return captionFor(m_table.text(m_kind.nameField()));
 }
 
 QString MasterRecord::captionFor(const QString &name) const
@@ -138,7 +130,7 @@ void MasterRecord::assignKey()
     if (m_kind.keyByEngine || !isNew())
         return;
     if (m_kind.counterTable.isEmpty()) {
-        if (!hasDefault(m_kind, m_kind.keyField))
+        if (!m_kind.hasDefault(m_kind.keyField))
             assignHighestKey();
     } else if (m_table.value(m_kind.keyField).isNull()) {
         m_givenNumber = m_table.text(m_kind.numberField);

@@ -35,7 +35,7 @@ void MasterRecordScreen::buildRecord()
 
 void MasterRecordScreen::followName()
 {
-    const QString nameField = m_record.kind().nameFields.constLast();
+    const QString nameField = m_record.kind().nameField();
     if (auto *edit = qobject_cast<QLineEdit *>(binder().widgetFor(nameField)))
         connect(edit, &QLineEdit::textEdited, this, [this, edit] {
             // What was typed may have been taken back already.

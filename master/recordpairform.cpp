@@ -5,6 +5,7 @@
 #include "master/masterkind.h"
 #include "master/recordnumber.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QLineEdit>
@@ -31,7 +32,7 @@ RecordPair::RecordPair(QLineEdit *number, LookupComboBox *list, const MasterKind
     , m_records(records)
     , m_guard(guard)
 {
-    const QString name = kind.nameFields.constLast();
+    const QString name = kind.nameField();
     m_list->setList(records, kind.keyField,
                     {{name, titleOf(kind, name), 260}, {kind.numberField, titleOf(kind, kind.numberField), 90}},
                     guard);

@@ -286,8 +286,8 @@ TEST_P(Records, KeepNamesAsTyped)
     const QString names[] = {u"O'Neil's \"50%\""_s, u"[_]; -- DROP"_s, u"Crème brûlée 🍮 ß"_s, u"\\ %1 {&x} ?"_s};
     kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (6, 'The last of the system')"_s);
     for (const MasterKind *kind : MasterKinds::all()) {
-        const bool hasFullName = kind->nameFields.constLast() == "FullName"_L1;
-        const QString nameField = hasFullName ? u"FirstName"_s : kind->nameFields.constLast();
+        const bool hasFullName = kind->nameField() == "FullName"_L1;
+        const QString nameField = hasFullName ? u"FirstName"_s : kind->nameField();
         MasterRecord record(database, *kind);
         MasterList list(database, *kind);
         record.open();
