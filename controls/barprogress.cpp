@@ -19,6 +19,7 @@ BarProgress::BarProgress(QProgressBar *bar)
 void BarProgress::start(int steps)
 {
     m_started = true;
+    m_done = 0;
     m_bar->setRange(0, steps);
     m_bar->setValue(0);
 }

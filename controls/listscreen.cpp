@@ -43,24 +43,7 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
     m_caption = description.caption;
     m_emptyHint = description.emptyHint;
     setObjectName(description.name);
-
-    auto *body = new QWidget(this);
-    auto *layout = new QVBoxLayout(body);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    m_topPanel = new QFrame(body);
-    m_topPanel->setObjectName(u"RzPanelTop"_s);
-    m_topPanel->installEventFilter(this);
-    m_buttons = new QHBoxLayout(m_topPanel);
-    m_buttons->addStretch();
-    m_grid = new ListGrid(body);
-    m_grid->setObjectName(u"DBGrid1"_s);
-    m_grid->setAccessibleName(description.caption);
-    m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
-    layout->addWidget(m_topPanel);
-    layout->addWidget(m_grid, 1);
-    setCentralWidget(body);
-    setContextMenuPolicy(Qt::NoContextMenu);
+    layOut();
 
     m_grid->setDataSet(set, description.columns, m_guard);
     m_grid->allowSelection();
@@ -75,6 +58,28 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
     connect(m_grid, &ListGrid::chosen, this, [this, defaultCommand] { runCommand(defaultCommand); });
     m_grid->setFocus();
     showFilterMark();
+}
+
+// The buttons over the grid.
+void ListScreen::layOut()
+{
+    auto *body = new QWidget(this);
+    auto *layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_topPanel = new QFrame(body);
+    m_topPanel->setObjectName(u"RzPanelTop"_s);
+    m_topPanel->installEventFilter(this);
+    m_buttons = new QHBoxLayout(m_topPanel);
+    m_buttons->addStretch();
+    m_grid = new ListGrid(body);
+    m_grid->setObjectName(u"DBGrid1"_s);
+    m_grid->setAccessibleName(m_caption);
+    m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
+    layout->addWidget(m_topPanel);
+    layout->addWidget(m_grid, 1);
+    setCentralWidget(body);
+    setContextMenuPolicy(Qt::NoContextMenu);
 }
 
 // --- commands ---------------------------------------------------------------------------------------------------

@@ -4,6 +4,7 @@
 #include "controls/listgrid.h"
 #include "controls/screencontext.h"
 
+#include <functional>
 #include <QKeySequence>
 #include <QMainWindow>
 
@@ -53,8 +54,8 @@ struct ListDescription
     QList<GridColumn> columns;
     QList<ListButton> buttons = {}; // from left to right
     QList<ListMenu> menus = {};
-    QString emptyHint =
-        {}; // what an empty list shows; without it a text that names the button "New" if there is one
+    // What an empty list shows; without it a text that names the button "New" if there is one.
+    QString emptyHint = {};
 };
 
 // A window that shows a data set as a list, with commands on its rows. Not modal; it is freed when it is closed.
@@ -109,6 +110,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void layOut();
     void addMenu(const ListMenu &menu);
     QAction *addCommand(QMenu *menu, const ListCommand &command);
     void addChoices(QMenu *menu, const ListCommand &command);
