@@ -396,18 +396,3 @@ TEST_F(ItemScreens, LeadToTheStockOfAnItem)
     EXPECT_EQ(totals->dataSet().recordCount(), 1) << "as it is now";
     EXPECT_EQ(totals->dataSet().text(u"WarehouseName"), u"Freezer");
 }
-
-TEST_F(ItemScreens, DeleteAnItemThatHasBeenUsed)
-{
-    kitchen.execute(u"INSERT INTO IUsageDet (UsageID, Seq, ItemID) VALUES (1, 1, 2)"_s);
-    openList();
-    ASSERT_TRUE(list->moveToKey(2));
-    prompts.ok = false;
-    clickList("btnDelete");
-    EXPECT_EQ(numbers().size(), 4);
-    prompts.ok = true;
-    clickList("btnDelete");
-    EXPECT_EQ(prompts.take(), QStringList(2, u"Confirm: Delete 'A11: Bread'?"_s));
-    EXPECT_EQ(numbers(), (QStringList{u"A10"_s, u"B1"_s, u"X9"_s}));
-    EXPECT_EQ(currentNumber(), u"B1");
-}
