@@ -40,8 +40,8 @@ public:
     QWidget *firstWidget() const; // that Tab comes to, among the bound ones; nullptr when there is none
     QWidget *widgetFor(const QString &column) const; // nullptr when no widget shows it
     int keyIn(const QString &field) const; // the number in a bound field of the current record; 0 for none
-    // Hands over what has been entered and not handed over yet; throws what refuses it, and SilentAbort while the user is
-    // still to be told of an entry that was refused when he left it for the button that calls this.
+    // Hands over what has been entered and not handed over yet; throws what refuses it, and SilentAbort while the user
+    // is still to be told of an entry that was refused when he left it for the button that calls this.
     void commit();
     bool hasEntry() const; // something was entered that commit() would hand over
     // Puts the field's value back into the widget; false when nothing had been entered there.

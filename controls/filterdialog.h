@@ -3,6 +3,8 @@
 #include "controls/dialogscreen.h"
 #include "frame/shared/listfilter.h"
 
+#include <memory>
+
 namespace Ui {
 class FilterDialog;
 }

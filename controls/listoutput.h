@@ -22,8 +22,8 @@ public:
 
     // The selected rows. Throws what the store raises; the clipboard stays as it was then.
     void copyRows();
-    // The whole list as CSV in a file that the user names, the list's caption being proposed. RuleError when it cannot be
-    // written. There is somebody to ask (ScreenContext::chooseFileToSave).
+    // The whole list as CSV in a file that the user names, the list's caption being proposed. RuleError when it cannot
+    // be written. There is somebody to ask (ScreenContext::chooseFileToSave).
     void saveCsv(const QString &caption);
 
 protected:

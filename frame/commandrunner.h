@@ -32,8 +32,8 @@ public:
     // Finds the open screen of the name or makes it, shows it and brings it to the front. Null when there is no
     // such screen.
     QWidget *open(const QString &screenName, ScreenContext &context) const;
-    // Makes a screen even if one of the name is open, and shows it. Commands go on to lead to the first. Null when there
-    // is no such screen.
+    // Makes a screen even if one of the name is open, and shows it. Commands go on to lead to the first. Null when
+    // there is no such screen.
     QWidget *openAnother(const QString &screenName, ScreenContext &context) const;
     // Reads the list of the screen again if it is open.
     void refresh(const QString &screenName) const;

@@ -26,7 +26,8 @@ public:
     QString deviceOf(int port) const;
 
     // The number in a text, as a modem may be sent it: up to what cannot belong to it, such as a letter, a line break
-    // or the semicolon after which a modem expects another command. Empty when there is none, or when it is spelt in letters.
+    // or the semicolon after which a modem expects another command. Empty when there is none, or when it is spelt in
+    // letters.
     static QString dialableNumber(const QString &text);
 
     // Dials, tells the user to take over, and hangs up when he has. Does nothing when there is no number. Calls

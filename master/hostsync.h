@@ -6,6 +6,7 @@
 #include "frame/shared/prompts.h"
 
 #include <functional>
+#include <memory>
 #include <QString>
 
 // What the synchronizations of locations and of items with the host have in common.

@@ -3,6 +3,7 @@
 #include "frame/shared/formats.h"
 #include "frame/shared/ruleerror.h"
 
+#include <algorithm>
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;

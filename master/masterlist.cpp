@@ -4,6 +4,8 @@
 #include "engine/query.h"
 #include "frame/shared/ruleerror.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {

@@ -3,6 +3,8 @@
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {

@@ -3,8 +3,6 @@
 #include "controls/entryscreen.h"
 #include "master/masterrecord.h"
 
-class QTabWidget;
-
 namespace Tallymere {
 
 // The screen of one record of a master table. The form names the fields; the rules are those of the kind.

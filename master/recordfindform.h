@@ -2,6 +2,8 @@
 
 #include "controls/dialogscreen.h"
 
+#include <memory>
+
 namespace Engine {
 class DataSet;
 class Table;

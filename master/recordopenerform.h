@@ -2,6 +2,8 @@
 
 #include "master/masterlist.h"
 
+#include <functional>
+#include <memory>
 #include <QObject>
 
 class QWidget;

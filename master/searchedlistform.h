@@ -3,6 +3,9 @@
 #include "controls/filterdialog.h"
 #include "master/masterlistform.h"
 
+#include <functional>
+#include <memory>
+
 namespace Tallymere {
 
 // The list of a master table with a filter and a find dialog.

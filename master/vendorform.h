@@ -3,6 +3,9 @@
 #include "master/masterlist.h"
 #include "master/masterrecordform.h"
 
+#include <functional>
+#include <memory>
+
 class QAction;
 
 namespace Ui {

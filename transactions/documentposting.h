@@ -95,8 +95,9 @@ public:
     std::function<bool()> isEntryOpen;
 
     // True when the run took place; false when there was nothing to post. Raises RuleError while the entry screen
-    // is open, and for an amount or a quantity on hand that is out of range. A table held by another user is asked about with
-    // Prompts::retry; the answer Cancel raises the lock's EngineError, with nothing written and no table held.
+    // is open, and for an amount or a quantity on hand that is out of range. A table held by another user is asked
+    // about with Prompts::retry; the answer Cancel raises the lock's EngineError, with nothing written and no table
+    // held.
     bool run(Prompts &prompts, Progress &progress);
 
 protected:
