@@ -277,13 +277,9 @@ QString ListScreen::hint() const
 
 void ListScreen::showAgain()
 {
-    if (isMinimized())
-        showNormal();
     if (isVisible())
         showStep();
-    show();
-    raise();
-    activateWindow();
+    bringToFront(*this);
 }
 
 void ListScreen::showStep() { showFilterMark(); }

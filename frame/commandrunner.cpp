@@ -20,12 +20,6 @@ void call(const std::function<void(QWidget &)> &step, QWidget &screen)
         step(screen);
 }
 
-void restore(QWidget &screen)
-{
-    if (screen.isMinimized())
-        screen.showNormal();
-}
-
 // Modal screens are dialogs.
 void showModal(QWidget &screen)
 {
@@ -61,7 +55,8 @@ void CommandRunner::run(const Command &command, ScreenContext &context) const
     }
     case Opening::ShowModal: {
         QWidget &screen = *findOrCreate(command.screen, kind, context).screen;
-        restore(screen);
+        if (screen.isMinimized())
+            screen.showNormal();
         hourglass.reset();
         showModal(screen);
         return;
@@ -90,8 +85,6 @@ void CommandRunner::showScreen(const Command &command, const ScreenKind &kind, S
             call(kind.refresh, *found.screen);
         call(kind.resetFilter, *found.screen);
     }
-    if (command.restore)
-        restore(*found.screen);
     if (command.opening != Opening::Show && found.screen->isVisible())
         call(kind.showHandler, *found.screen);
     bringToFront(*found.screen);
@@ -103,7 +96,6 @@ QWidget *CommandRunner::open(const QString &screenName, ScreenContext &context) 
     if (!kind || !kind->create)
         return nullptr;
     QWidget *screen = findOrCreate(screenName, *kind, context).screen;
-    restore(*screen);
     bringToFront(*screen);
     return screen;
 }

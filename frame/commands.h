@@ -41,7 +41,6 @@ struct Command
     QString screen = {}; // component name
     Opening opening = Opening::None;
     bool refreshOpenScreen = true; // list pattern only
-    bool restore = true; // a minimised screen comes back to normal
     bool hourglass = true;
     void (*job)(const CommandSite &) = nullptr; // what is done instead of opening a screen
 };
