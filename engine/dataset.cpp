@@ -140,13 +140,6 @@ Value DataSet::valueIn(const Row &row, int fieldNumber) const
     return wanted.calculate(*this);
 }
 
-QList<qint64> DataSet::keyAt(int index) const
-{
-    requireOpen();
-    DataSetReader(*this).readKeys();
-    return index >= 0 && index < d->keys.count() ? d->keys.at(index) : Key();
-}
-
 QList<qint64> DataSet::currentKey() const
 {
     if (!m_open)

@@ -89,8 +89,7 @@ public:
     const Row &rowAt(int index) const;
     Value valueAt(int index, int field) const; // as rowAt, with calculated fields as well
     Value valueIn(const Row &row, int field) const; // of a row of the set that is in hand, calculated fields too
-    // The key of a row, to find it again after a refresh. Empty for an empty set.
-    QList<qint64> keyAt(int index) const;
+    // To find the row again after a refresh. Empty for an empty set.
     QList<qint64> currentKey() const;
     bool moveToKey(const QList<qint64> &key); // false, and no move, when the set does not hold it
     // The first rows of the set before the keys are read, so that a list can paint at once.

@@ -127,7 +127,6 @@ private:
     void requireWritable() const;
     void readForEdit();
     void setValue(int field, const Value &value);
-    void fieldIsNew(int field);
     void requirePrimaryKey() const;
     void requireUnique(int field) const;
     void write();
