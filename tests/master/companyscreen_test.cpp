@@ -179,19 +179,6 @@ TEST_F(CompanyScreen, AskedForAgainItShowsWhatIsStoredUnlessSomethingIsEntered)
     EXPECT_EQ(stored(u"TaxNo"), u"again"_s);
 }
 
-TEST_F(CompanyScreen, AnEmptyTableGetsItsRecordWhenItIsSaved)
-{
-    kitchen.execute(u"DELETE FROM Company"_s);
-    open();
-    screen->close();
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Company"_s), 0) << "untouched";
-    EXPECT_TRUE(prompts.said.isEmpty());
-    open();
-    click("btnOK");
-    EXPECT_EQ(stored(u"CompanyName"), u"Test Kitchen"_s);
-    EXPECT_EQ(data->tblCompany().recordCount(), 1);
-}
-
 TEST_F(CompanyScreen, TheYearEndIsEnteredAndSavedByOk)
 {
     open();

@@ -1,5 +1,6 @@
 #include "controls/listscreen.h"
 #include "master/vendorsform.h"
+#include "master/warehousesinvform.h"
 #include "tests/transactions/screentest.h"
 #include "transactions/invreceiptform.h"
 
@@ -8,70 +9,49 @@
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
-namespace {
-
-class LocationList final : public ListScreen
-{
-public:
-    LocationList(ScreenContext &screens, QWidget *parent)
-        : ListScreen(screens, parent)
-        , m_table(screens.data.databaseTallymere(), u"Warehse"_s)
-    {
-        m_table.open();
-        build({.name = u"frmWarehousesInv"_s,
-               .caption = u"Locations"_s,
-               .columns = {{u"WarehouseName"_s, u"Location"_s}}},
-              m_table, {});
-    }
-
-private:
-    Engine::Table m_table;
-};
-
 using ReceiptLinksTest = ScreenTest;
 
-} // namespace
-
-TEST_F(ReceiptLinksTest, locationButtonOpensTheListOnTheReceiptsLocation)
+// Unfiltered, on the row that the receipt names, or on the first; when the rights allow it.
+TEST_F(ReceiptLinksTest, buttonsOpenTheirListsOnTheReceiptsRecord)
 {
-    auto *list = new LocationList(*context, mainWindow.get());
-    bool allowed = false;
-    context->hasScreen = [](const QString &name) { return name == "frmWarehousesInv"_L1; };
-    context->openScreen = [list](const QString &) { return list; };
-    context->securityCheck = [&](const QString &key, const QString &) { return allowed && key == "Warehouses"_L1; };
-    kitchen.addReceipt(1, 1, 2, {{1, 5, 3.0}});
-    TfrmInvReceipt screen(*context, mainWindow.get());
-    ASSERT_TRUE(screen.openDocument(1));
-    list->applyFilter(u"(WarehouseID = 1)"_s);
-    const auto click = [&] { child<QToolButton>(screen, "btnWarehouse")->click(); };
-    click();
-    EXPECT_TRUE(list->dataSet().isFiltered()) << "the rights do not allow it";
-    allowed = true;
-    click();
-    EXPECT_FALSE(list->dataSet().isFiltered());
-    EXPECT_EQ(list->dataSet().integer(u"WarehouseID"), 2);
-    screen.newDocument();
-    click();
-    EXPECT_EQ(list->dataSet().integer(u"WarehouseID"), 1) << "no location yet: the first";
-    EXPECT_FALSE(child<QToolButton>(screen, "btnVendor")->isEnabled()) << "a list that is not there";
-}
-
-TEST_F(ReceiptLinksTest, vendorButtonOpensTheVendorsOnTheReceiptsVendor)
-{
-    auto *vendors = new TfrmVendors(*context, mainWindow.get());
-    vendors->applyFilter(u"(Suspended = true)"_s);
-    context->hasScreen = [](const QString &name) { return name == "frmVendors"_L1; };
-    context->openScreen = [vendors](const QString &) {
-        vendors->show();
-        return vendors;
+    const QHash<QString, ListScreen *> lists = {
+        {u"frmVendors"_s, new TfrmVendors(*context, mainWindow.get())},
+        {u"frmWarehousesInv"_s, new TfrmWarehousesInv(*context, mainWindow.get())},
     };
+    QString allowed;
+    context->hasScreen = [&](const QString &name) { return lists.contains(name); };
+    context->openScreen = [&](const QString &name) {
+        lists[name]->show();
+        return lists[name];
+    };
+    context->securityCheck = [&](const QString &key, const QString &) { return allowed == key; };
     kitchen.addReceipt(1, 3, 2, {{1, 5, 3.0}});
     TfrmInvReceipt screen(*context, mainWindow.get());
-    ASSERT_TRUE(screen.openDocument(1));
-    child<QToolButton>(screen, "btnVendor")->click();
-    EXPECT_EQ(vendors->windowTitle(), u"Vendors"_s) << "not filtered any more";
-    EXPECT_EQ(vendors->dataSet().text(u"VendorNo"), u"V3"_s);
-    screen.newDocument();
-    child<QToolButton>(screen, "btnVendor")->click();
-    EXPECT_EQ(vendors->dataSet().text(u"VendorName"), u"Fifth"_s) << "no vendor yet: the first by name";
+
+    const std::tuple<const char *, QString, QString, QString, int, int> cases[] = {
+        {"btnVendor", u"frmVendors"_s, u"Vendors"_s, u"VendorID"_s, 3, 5},
+        {"btnWarehouse", u"frmWarehousesInv"_s, u"Warehouses"_s, u"WarehouseID"_s, 2, 2},
+    };
+    for (const auto &[button, name, right, key, named, first] : cases) {
+        SCOPED_TRACE(button);
+        ASSERT_TRUE(screen.openDocument(1));
+        Engine::DataSet &rows = lists[name]->dataSet();
+        lists[name]->applyFilter(u"(%1 = 1)"_s.arg(key));
+        allowed.clear();
+        child<QToolButton>(screen, button)->click();
+        EXPECT_TRUE(rows.isFiltered()) << "the rights do not allow it";
+        allowed = right;
+        child<QToolButton>(screen, button)->click();
+        EXPECT_FALSE(rows.isFiltered());
+        EXPECT_EQ(rows.integer(key), named);
+        screen.newDocument();
+        child<QToolButton>(screen, button)->click();
+        EXPECT_EQ(rows.integer(key), first) << "none yet: the first by name";
+    }
+}
+
+TEST_F(ReceiptLinksTest, buttonOfAListThatIsNotThereIsDisabled)
+{
+    TfrmInvReceipt screen(*context, mainWindow.get());
+    EXPECT_FALSE(child<QToolButton>(screen, "btnVendor")->isEnabled());
 }
