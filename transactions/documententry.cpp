@@ -17,10 +17,10 @@ using Engine::Value;
 
 namespace Tallymere {
 
-DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, DocumentKind kind)
+DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const DocumentKind &kind)
     : today(&QDate::currentDate)
     , numbers(numbersAtOnce(database))
-    , m_kind(std::move(kind))
+    , m_kind(kind)
     , m_prompts(prompts)
     , m_header(database, m_kind.headerTable)
     , m_lines(database, m_kind.lineTable)

@@ -3,26 +3,12 @@
 #include "data/numbercounter.h"
 #include "engine/table.h"
 #include "frame/shared/prompts.h"
+#include "transactions/documentkind.h"
 
 #include <functional>
 #include <QCoreApplication>
 
 namespace Tallymere {
-
-// What tells one kind of document from another, as data.
-struct DocumentKind
-{
-    QString headerTable; // "IReceipt"
-    QString lineTable; // "IRecDet"
-    QString keyField; // of both: "ReceiptID"
-    QString numberField; // the number users see, which must be unique; empty where the key is shown
-    QString dateField; // "ReceiptDate"
-    QString postedRefusal; // shown when a posted document is about to be edited
-    QString numberTaken; // raised when the number or the key exists already
-    QString nothingEntered; // raised when a document without lines is saved
-    QString locationGone; // raised when the location is no longer there
-    QStringList requiredFields; // of the header, beside what is checked on its own
-};
 
 // Entering one document, a header and its lines: the rules between the two tables and the screen.
 //
@@ -93,7 +79,8 @@ public:
     void removeLine(); // deletes the current line; a line being entered is dropped
 
 protected:
-    DocumentEntry(Engine::Database &database, Prompts &prompts, DocumentKind kind);
+    // The kind outlives the object.
+    DocumentEntry(Engine::Database &database, Prompts &prompts, const DocumentKind &kind);
 
     const QString &givenNumber() const { return m_givenNumber; } // of the new header; empty: from the counter
 
@@ -139,7 +126,7 @@ private:
     void restoreLines();
     void beginVisit();
 
-    const DocumentKind m_kind;
+    const DocumentKind &m_kind;
     Prompts &m_prompts;
     Engine::Table m_header;
     Engine::Table m_lines;

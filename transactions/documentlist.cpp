@@ -8,8 +8,8 @@ using Engine::FieldType;
 
 namespace Tallymere {
 
-DocumentList::DocumentList(Engine::Database &database, DocumentKind kind, const QString &index)
-    : m_kind(std::move(kind))
+DocumentList::DocumentList(Engine::Database &database, const DocumentKind &kind, const QString &index)
+    : m_kind(kind)
     , m_table(database, m_kind.headerTable)
 {
     m_table.setIndex(index);

@@ -2,7 +2,7 @@
 
 #include "engine/table.h"
 #include "frame/shared/prompts.h"
-#include "transactions/documententry.h"
+#include "transactions/documentkind.h"
 
 #include <QCoreApplication>
 
@@ -30,7 +30,7 @@ public:
     void remove(Prompts &prompts);
 
 protected:
-    DocumentList(Engine::Database &database, DocumentKind kind, const QString &index);
+    DocumentList(Engine::Database &database, const DocumentKind &kind, const QString &index);
 
     virtual QString deleteQuestion() const = 0; // names the current document
     virtual QString postedRefusal() const = 0;
@@ -38,7 +38,7 @@ protected:
 private:
     void removeWithLines();
 
-    const DocumentKind m_kind;
+    const DocumentKind &m_kind;
     Engine::Table m_table;
 };
 

@@ -2,6 +2,7 @@
 
 #include "frame/shared/formats.h"
 #include "frame/shared/ruleerror.h"
+#include "transactions/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 using Engine::FieldType;
@@ -10,27 +11,10 @@ using Engine::Value;
 namespace Tallymere {
 
 ReceiptEntry::ReceiptEntry(Engine::Database &database, Prompts &prompts)
-    : DocumentEntry(database, prompts, receiptKind())
+    : DocumentEntry(database, prompts, DocumentKinds::receipt())
 {
     header().addLookup(u"VendorNo"_s, FieldType::Text, 10,
                        {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorNo"_s});
-}
-
-DocumentKind ReceiptEntry::receiptKind()
-{
-    return {
-        .headerTable = u"IReceipt"_s,
-        .lineTable = u"IRecDet"_s,
-        .keyField = u"ReceiptID"_s,
-        .numberField = u"ReceiptNo"_s,
-        .dateField = u"ReceiptDate"_s,
-        .postedRefusal = tr("Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you must "
-                            "\"reverse\" it (enter it again with the opposite amount)."),
-        .numberTaken = tr("Receipt no. already exists"),
-        .nothingEntered = tr("Quantities have not been entered"),
-        .locationGone = tr("Warehouse no longer exists"),
-        .requiredFields = {u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s, u"WarehouseID"_s},
-    };
 }
 
 void ReceiptEntry::configureFields()

@@ -12,8 +12,6 @@ class ReceiptEntry final : public DocumentEntry
 public:
     ReceiptEntry(Engine::Database &database, Prompts &prompts);
 
-    static DocumentKind receiptKind();
-
     // The vendor by a typed number; an empty text clears the vendor. Does nothing when it is the current vendor's
     // number. Raises, with the vendor as it was, when the number is unknown or its vendor suspended.
     void chooseVendorByNumber(const QString &vendorNo);

@@ -1,14 +1,14 @@
 #include "transactions/receiptlist.h"
 
 #include "frame/shared/ruleerror.h"
-#include "transactions/receiptentry.h"
+#include "transactions/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 ReceiptList::ReceiptList(Engine::Database &database)
-    : DocumentList(database, ReceiptEntry::receiptKind(), u"PERIODDATEDESC"_s)
+    : DocumentList(database, DocumentKinds::receipt(), u"PERIODDATEDESC"_s)
 {
     table().addLookup(u"VendorName"_s, Engine::FieldType::Text, 40,
                       {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorName"_s});

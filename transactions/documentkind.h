@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Tallymere {
+
+// All that tells one kind of document from another.
+struct DocumentKind
+{
+    // --- the tables ---------------------------------------------------------------------------------------------
+    QString headerTable; // "IReceipt"
+    QString lineTable; // "IRecDet"
+    QString keyField; // of both: "ReceiptID"
+    QString numberField; // the number users see, which must be unique; empty where the key is shown
+    QString dateField; // "ReceiptDate"
+
+    // --- entering a document ------------------------------------------------------------------------------------
+    QString postedRefusal; // shown when a posted document is about to be edited
+    QString numberTaken; // raised when the number or the key exists already
+    QString nothingEntered; // raised when a document without lines is saved
+    QString locationGone; // raised when the location is no longer there
+    QStringList requiredFields; // of the header, beside what is checked on its own
+};
+
+} // namespace Tallymere
