@@ -160,13 +160,17 @@ void LineGrid::search()
     setFocus();
 }
 
-// The first key locks the document; when that is refused, no editor opens.
+// The first key locks the document; when that is refused, no editor opens. The line may stand in another row then, as
+// the lines have been read anew.
 bool LineGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
     const bool opens = index.isValid() && !m_editor && editTriggers().testFlag(trigger);
-    if (opens && m_actions.begin && !m_guard->run(m_actions.begin))
+    if (!opens || !m_actions.begin)
+        return DataGrid::edit(index, trigger, event);
+    const int column = index.column();
+    if (!m_guard->run(m_actions.begin))
         return false;
-    return DataGrid::edit(index, trigger, event);
+    return DataGrid::edit(m_model->index(m_model->currentRow(), column), trigger, event);
 }
 
 // --- the entry in hand ------------------------------------------------------------------------------------------

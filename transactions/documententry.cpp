@@ -93,8 +93,7 @@ bool DocumentEntry::openDocument(int key)
 void DocumentEntry::beginVisit()
 {
     m_wasSaved = false;
-    m_linesKept = false;
-    m_keptLines.clear();
+    m_keptLines.reset();
 }
 
 // --- header --------------------------------------------------------------------------------------------------
@@ -106,7 +105,11 @@ void DocumentEntry::hookHeader()
     m_header.events.beforeEdit = [this] { refusePosted(); };
     m_header.events.afterEdit = [this] { headerEdited(); };
     m_header.events.beforePost = [this] { checkHeader(); };
-    m_header.events.afterPost = [this] { m_wasSaved = true; };
+    m_header.events.afterPost = [this] {
+        m_wasSaved = true;
+        m_keptLines.reset();
+    };
+    m_header.events.afterCancel = [this] { m_keptLines.reset(); };
 }
 
 void DocumentEntry::newHeader()
@@ -214,7 +217,7 @@ void DocumentEntry::chooseInHeader(const QString &field, const Value &value)
 void DocumentEntry::hookLines()
 {
     m_lines.events.newRecord = [this] { m_lines.setDefault(m_kind.keyField, key()); };
-    m_lines.events.beforeInsert = [this] { beginLineChange(); };
+    m_lines.events.beforeInsert = [this] { lockLines(); };
     m_lines.events.beforeEdit = [this] { beginLineChange(); };
     m_lines.events.beforeRemove = [this] { beginLineChange(); };
     m_lines.events.beforePost = [this] {
@@ -223,21 +226,33 @@ void DocumentEntry::hookLines()
     };
 }
 
-void DocumentEntry::beginLineChange()
+// The lines are locked with their header. Only what is read from then on is sure to be what is stored.
+void DocumentEntry::lockLines()
 {
     if (!m_header.isEditing())
         m_header.edit();
-    keepLines();
+    if (m_keptLines)
+        return;
+    m_lines.refresh();
+    std::vector<Engine::Row> stored;
+    for (int i = 0; i < m_lines.recordCount(); ++i)
+        stored.push_back(m_lines.rowAt(i));
+    m_keptLines = std::move(stored);
 }
 
-void DocumentEntry::keepLines()
+// What the user wants done to the line that he sees must not be done to the one that has come into its place. The
+// number alone does not tell them apart: that of a deleted last line is given again.
+void DocumentEntry::beginLineChange()
 {
-    if (m_linesKept)
+    const bool inEdit = m_header.isEditing();
+    const int seq = m_lines.integer(u"Seq");
+    const int item = m_lines.integer(u"ItemID");
+    lockLines();
+    if (m_lines.integer(u"Seq") == seq && m_lines.integer(u"ItemID") == item)
         return;
-    m_keptLines.clear();
-    for (int i = 0; i < m_lines.recordCount(); ++i)
-        m_keptLines.push_back(m_lines.rowAt(i));
-    m_linesKept = true;
+    if (!inEdit)
+        m_header.cancel();
+    throw RuleError(tr("This line was deleted or replaced by another user. The lines are shown anew."), LineGrid);
 }
 
 void DocumentEntry::numberLine()
@@ -340,7 +355,7 @@ void DocumentEntry::cancel()
         return;
     if (m_lines.isEditing())
         m_lines.cancel();
-    if (m_linesKept)
+    if (m_keptLines)
         restoreLines();
     m_header.cancel();
 }
@@ -352,7 +367,7 @@ void DocumentEntry::restoreLines()
 
     Engine::Transaction transaction(database().connection());
     m_lines.removeAll();
-    for (const Engine::Row &kept : std::as_const(m_keptLines)) {
+    for (const Engine::Row &kept : std::as_const(*m_keptLines)) {
         if (kept[static_cast<size_t>(m_lines.fieldIndex(u"Seq"))].toInt() == 0)
             continue;
         m_lines.append();

@@ -6,6 +6,7 @@
 #include "transactions/documentkind.h"
 
 #include <functional>
+#include <optional>
 #include <QCoreApplication>
 
 namespace Tallymere {
@@ -17,8 +18,10 @@ namespace Tallymere {
 // with the message to show and, as its column, the field of header() or lines() that the cursor goes to (LineGrid
 // for the grid as a whole); SilentAbort means that the user has seen a message already.
 //
-// Lines are written as they are completed. The first change of a visit keeps a copy of all lines, from which
-// cancel() brings them back. Numbers are taken when a document is created and are not given back.
+// Lines are written as they are completed. The first change of a visit locks the document, reads its lines anew and
+// keeps a copy of them, from which cancel() brings them back. When another user has deleted the line to be changed,
+// or another one has its number, the change is refused. Numbers are taken when a document is created and are not given
+// back.
 class DocumentEntry
 {
     Q_DECLARE_TR_FUNCTIONS(Tallymere::DocumentEntry)
@@ -119,10 +122,10 @@ private:
     void checkHeader();
     void checkPeriod();
 
+    void lockLines();
     void beginLineChange();
     void numberLine();
     void validateItem(const Engine::Value &itemId) const;
-    void keepLines();
     void restoreLines();
     void beginVisit();
 
@@ -133,8 +136,7 @@ private:
 
     int m_nextSeq = 1;
     bool m_wasSaved = false;
-    bool m_linesKept = false;
-    std::vector<Engine::Row> m_keptLines;
+    std::optional<std::vector<Engine::Row>> m_keptLines; // as stored when the lock was taken; goes with the lock
     QString m_lineColumn;
     QString m_givenNumber;
 };

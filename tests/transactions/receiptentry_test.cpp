@@ -268,6 +268,68 @@ TEST_P(Entry, CancelBringsTheLinesBack)
     EXPECT_EQ(kitchen.lines(0), before + QStringList(u"4|2|7|7"_s));
 }
 
+// Two users have a receipt open; the other one is first to change and save it.
+TEST_P(Entry, LinesThatAnotherUserHasSavedStay)
+{
+    kitchen.addReceipt(7, 1, 1, {{1, 5, 3}, {2, 4, 1}, {3, 2, 2}});
+    const auto other = kitchen.anotherUser();
+    ReceiptEntry theirs(other->database, prompts);
+    theirs.open();
+    const auto open = [&] {
+        ASSERT_TRUE(entry.openDocument(7));
+        ASSERT_TRUE(theirs.openDocument(7));
+        ASSERT_EQ(entry.lines().recordCount(), theirs.lines().recordCount());
+    };
+    const auto set = [](ReceiptEntry &e, int line, QStringView field, const Value &value) {
+        e.lines().moveTo(line);
+        e.lines().edit();
+        e.lines().set(field, value);
+        e.lines().post();
+    };
+    open();
+    set(theirs, 0, u"QtyReceived", 50.0);
+    theirs.lines().last();
+    theirs.removeLine();
+    theirs.newLine();
+    theirs.lines().set(u"QtyReceived", 1.0);
+    theirs.chooseItem(1);
+    theirs.lines().set(u"UnitCost", 9.0);
+    theirs.save();
+    const QStringList saved = kitchen.lines(7);
+    ASSERT_EQ(saved, (QStringList{u"1|1|50|3"_s, u"2|2|4|1"_s, u"4|1|1|9"_s}));
+
+    set(entry, 1, u"QtyReceived", 8.0);
+    EXPECT_EQ(entry.lines().integer(u"Seq"), 2);
+    EXPECT_EQ(entry.lines().valueAt(0, entry.lines().fieldIndex(u"QtyReceived")).toDouble(), 50);
+    entry.cancel();
+    EXPECT_EQ(kitchen.lines(7), saved);
+
+    // What is about to be changed is gone by then, or another line has its number.
+    const QString gone = u"This line was deleted or replaced by another user. The lines are shown anew. -> Lines"_s;
+    const struct
+    {
+        const char *name;
+        std::function<void()> meanwhile;
+    } cases[] = {{"deleted", [&] { theirs.lines().first(), theirs.removeLine(); }},
+                 {"replaced", [&] { set(theirs, 0, u"ItemID", 3); }}};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.name);
+        open();
+        entry.lines().first();
+        ASSERT_FALSE(entry.lines().value(u"ItemID").isNull()) << "looked at";
+        c.meanwhile();
+        theirs.save();
+        const QStringList now = kitchen.lines(7);
+        EXPECT_EQ(refusalOf([&] { entry.removeLine(); }), gone);
+        EXPECT_EQ(kitchen.lines(7), now);
+        EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Free);
+        entry.removeLine();
+        EXPECT_EQ(kitchen.lines(7), now.mid(1));
+        entry.cancel();
+        EXPECT_EQ(kitchen.lines(7), now);
+    }
+}
+
 TEST_P(Entry, ALineStillInEditIsSavedWithTheHeader)
 {
     newReceipt();

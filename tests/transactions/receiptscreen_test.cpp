@@ -129,6 +129,23 @@ TEST_F(ReceiptScreenTest, refusedLineKeepsTheCursorOnItsRowAndColumn)
     EXPECT_EQ(prompts.said, QStringList());
 }
 
+TEST_F(ReceiptScreenTest, keyGoesIntoTheLineThatTheCursorIsOnAlsoWhenAnotherUserHasTakenOneBeforeIt)
+{
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}, {2, 4, 1.0}, {3, 6, 2.0}});
+    open(7);
+    grid->setFocus();
+    press(Qt::Key_Down);
+    kitchen.execute(u"DELETE FROM IRecDet WHERE Seq = 1"_s);
+    type("9");
+    press(Qt::Key_Return);
+    EXPECT_EQ(cursor(), u"0,1"_s);
+    press(Qt::Key_Up);
+    pressOK();
+    settle();
+    EXPECT_EQ(kitchen.lines(7), (QStringList{u"2|2|9|1"_s, u"3|3|6|2"_s}));
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
 TEST_F(ReceiptScreenTest, entryLeftByMouseIsRefusedWithoutLosingIt)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}, {2, 4, 1.0}});
