@@ -1,9 +1,8 @@
 #include "controls/fieldbinding.h"
 
 #include "controls/lookupcombobox.h"
-#include "frame/shared/regionalsettings.h"
+#include "controls/maskedentry.h"
 
-#include <algorithm>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -67,9 +66,6 @@ void FieldBinding::entered()
 
 namespace {
 
-// A mask is written with "/" between the parts of a date; the user's own separator takes its place.
-QString userMask(QString mask) { return mask.replace(u'/', RegionalSettings::system().dateSeparator); }
-
 // What can only be read looks like the form around it.
 void showReadOnly(QLineEdit &edit)
 {
@@ -85,9 +81,10 @@ public:
     LineEditBinding(QLineEdit *edit, Engine::Table &table, int number, Reports reports)
         : FieldBinding(edit, table, number, std::move(reports))
         , m_edit(edit)
-        , m_mask(userMask(edit->property("editMask").toString()))
         , m_alwaysReadOnly(edit->isReadOnly())
     {
+        if (const QString mask = edit->property("editMask").toString(); !mask.isEmpty())
+            m_mask = std::make_unique<MaskedEntry>(edit, mask);
         if (m_alwaysReadOnly)
             showReadOnly(*edit);
         if (field().type == Engine::FieldType::Text && edit->maxLength() > field().size)
@@ -102,7 +99,8 @@ public:
         m_active = active && !m_edit->isReadOnly();
         if (hasEntry())
             return;
-        m_edit->setInputMask(m_active ? m_mask : QString());
+        if (m_mask)
+            m_mask->setActive(m_active);
         show();
         if (m_active)
             m_edit->selectAll();
@@ -118,19 +116,10 @@ private:
             m_edit->setCursorPosition(0);
     }
 
-    void store() override { storeText(typedText()); }
-
-    // A mask with nothing typed leaves its separators, which are no entry.
-    QString typedText() const
-    {
-        const QString text = m_edit->text();
-        const bool blank = !m_mask.isEmpty()
-            && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); });
-        return blank ? QString() : text;
-    }
+    void store() override { storeText(m_mask ? m_mask->typedText() : m_edit->text()); }
 
     QLineEdit *m_edit;
-    QString m_mask;
+    std::unique_ptr<MaskedEntry> m_mask; // null without one
     bool m_alwaysReadOnly; // by the form, whatever becomes of the record
     bool m_active = false;
 };

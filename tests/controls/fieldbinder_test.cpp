@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -47,6 +48,9 @@ protected:
                                           std::pair(u"editServed"_s, u"Served"_s)})
             layout->addWidget(bound(new QLineEdit, name, field));
         child<QLineEdit>(form, "editServed")->setProperty("editMask", u"00/00/99;_"_s);
+        auto *label = new QLabel(u"Ser&ved:"_s);
+        label->setBuddy(child<QLineEdit>(form, "editServed"));
+        layout->addWidget(label);
         layout->addWidget(bound(new QCheckBox, u"chkHot"_s, u"Hot"_s));
         cancel = new QPushButton(u"Cancel"_s);
         cancel->setProperty("keepsEntry", true);
@@ -87,6 +91,54 @@ TEST_F(FieldBinderTest, showsDisplayTextAndEditTextUnderTheCursor)
     press(Qt::Key_Tab);
     EXPECT_EQ(shown("editServed"), u"01 Dec 49"_s);
     EXPECT_EQ(table->date(u"Served"), QDate(2049, 12, 1));
+}
+
+// However the cursor has come, what is typed stands for the whole date that was there, one-digit parts among it.
+TEST_F(FieldBinderTest, typedDateReplacesTheOneThatTheCursorCameTo)
+{
+    auto *served = child<QLineEdit>(form, "editServed");
+    const auto click = [served](int x) {
+        QTest::mouseClick(served, Qt::LeftButton, {}, {x, served->height() / 2});
+    };
+    const struct
+    {
+        const char *way, *from;
+        std::function<void()> come;
+    } arrivals[] = {
+        {"Tab", "editCost", [] { press(Qt::Key_Tab); }},
+        {"Shift+Tab", "chkHot", [] { press(Qt::Key_Backtab, Qt::ShiftModifier); }},
+        {"mnemonic", "editName", [] { press(Qt::Key_V, Qt::AltModifier); }},
+        {"click behind", "editName", [&] { click(served->width() - 5); }},
+        {"click within", "editName", [&] { click(served->fontMetrics().horizontalAdvance(u"03/1"_s)); }},
+        {"second click behind", "editName",
+         [&] {
+             click(20);
+             click(served->width() - 5);
+         }},
+    };
+    const struct
+    {
+        const char *typed;
+        QString date;
+    } dates[] = {{"12/1/26", u"2026-12-01"_s}, {"1/2/26", u"2026-01-02"_s}, {"110327", u"2027-11-03"_s}};
+    for (const auto &arrival : arrivals) {
+        for (const bool empty : {false, true}) {
+            for (const auto &date : dates) {
+                table->edit();
+                table->set(u"Served", empty ? Engine::Value() : Engine::Value(QDate(2026, 11, 25)));
+                table->post();
+                child<QWidget>(form, arrival.from)->setFocus();
+                arrival.come();
+                ASSERT_EQ(focusName(), u"editServed"_s) << arrival.way;
+                type(date.typed);
+                press(Qt::Key_Tab);
+                EXPECT_EQ(table->date(u"Served").toString(Qt::ISODate), date.date)
+                    << arrival.way << ": " << date.typed << (empty ? " into an empty one" : "");
+                table->cancel();
+            }
+        }
+    }
+    EXPECT_EQ(prompts.said, QStringList());
 }
 
 TEST_F(FieldBinderTest, firstKeyPutsTheTableIntoEditAndLeavingHandsTheEntryOver)
