@@ -5,7 +5,8 @@
 #include "bench/benchdata.h"
 #include "bench/rawposting.h"
 #include "engine/query.h"
-#include "transactions/receiptposting.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
 
 #include <cstdio>
 #include <malloc.h>
@@ -56,7 +57,9 @@ Run postOurs(const BenchData &data)
     malloc_trim(0); // what earlier runs have freed would hide what this one takes
     resetPeakMemory();
     const double before = currentMemory();
-    run.cost = costOf([&] { Tallymere::ReceiptPosting(copy->database()).run(quiet, quiet); });
+    run.cost = costOf([&] {
+        Tallymere::DocumentPosting(copy->database(), Tallymere::DocumentKinds::receipt()).run(quiet, quiet);
+    });
     run.memory = peakMemory() - before;
     run.result = result(copy->database());
     return run;

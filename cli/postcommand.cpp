@@ -1,7 +1,8 @@
 #include "cli/command.h"
 #include "engine/error.h"
 #include "frame/shared/ruleerror.h"
-#include "transactions/receiptposting.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
 
 #include <QCoreApplication>
 
@@ -15,24 +16,33 @@ constexpr qint64 longestRetry = qint64(10) * 365 * 24 * 3600; // more seconds wo
 
 QString tr(const char *text) { return QCoreApplication::translate("PostCommand", text); }
 
-void requireKind(const QString &kind)
+QStringList kindNames()
 {
-    if (kind == "usage"_L1 || kind == "adjustments"_L1)
-        throw UsageError(tr("'post %1' is not available yet").arg(kind));
-    if (kind != "receipts"_L1)
-        throw UsageError(tr("'post' knows no '%1', but: receipts").arg(kind));
+    QStringList names;
+    for (const DocumentKind *kind : DocumentKinds::all())
+        names.append(kind->name);
+    return names;
+}
+
+const DocumentKind &requireKind(const QString &name)
+{
+    if (const DocumentKind *kind = DocumentKinds::find(name))
+        return *kind;
+    if (name == "usage"_L1 || name == "adjustments"_L1)
+        throw UsageError(tr("'post %1' is not available yet").arg(name));
+    throw UsageError(tr("'post' knows no '%1', but: %2").arg(name, kindNames().join(u", ")));
 }
 
 void runPost(CommandContext &context)
 {
-    requireKind(context.arguments.words().at(1));
+    const DocumentKind &kind = requireKind(context.arguments.words().at(1));
     context.prompts.retryFor =
         std::chrono::seconds(std::min(context.arguments.number(u"retry"_s, 0), longestRetry));
     const auto data = context.openData();
-    ReceiptPosting posting(data->databaseTallymere());
+    DocumentPosting posting(data->databaseTallymere(), kind);
     ConsoleProgress progress(context.console, tr("Posting"));
     const bool posted = posting.run(context.prompts, progress);
-    context.console.print(posted ? tr("%1 receipt(s) posted").arg(posting.posted()) : posting.countText());
+    context.console.print(posted ? kind.posting.posted.arg(posting.posted()) : posting.countText());
 }
 
 } // namespace
@@ -41,9 +51,9 @@ Command postCommand()
 {
     Command command;
     command.name = u"post"_s;
-    command.words = u"receipts"_s;
+    command.words = kindNames().join(u'|');
     command.fewestWords = command.mostWords = 1;
-    command.summary = tr("posts every unposted receipt");
+    command.summary = tr("posts every unposted document of a kind");
     command.options = {{u"retry"_s, tr("SECONDS"), tr("keeps trying while another user holds a table")}};
     command.run = runPost;
     return command;

@@ -4,7 +4,8 @@
 #include "cli/samplefiles.h"
 #include "engine/query.h"
 #include "frame/shared/ruleerror.h"
-#include "transactions/receiptposting.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
 
 #include <QCoreApplication>
 
@@ -58,7 +59,7 @@ void fillSmall(TDataModuleTallymere &data, Prompts &prompts, Progress &progress)
         bringInSampleReceipts(data, u"receipts"_s, progress);
         transaction.commit();
     }
-    ReceiptPosting(data.databaseTallymere()).run(prompts, progress);
+    DocumentPosting(data.databaseTallymere(), DocumentKinds::receipt()).run(prompts, progress);
     bringInSampleReceipts(data, u"receipts-unposted"_s, progress);
 }
 

@@ -1,17 +1,22 @@
 #pragma once
 
+#include "transactions/postingkind.h"
+
 #include <QString>
 #include <QStringList>
 
 namespace Tallymere {
 
-// All that tells one kind of document from another.
+// All that tells one kind of document from another: the rules of its entry, its list and its posting, the screens and
+// the commands of the command line work from it.
 struct DocumentKind
 {
+    QString name; // on the command line: "receipts"
+
     // --- the tables ---------------------------------------------------------------------------------------------
     QString headerTable; // "IReceipt"
     QString lineTable; // "IRecDet"
-    QString keyField; // of both: "ReceiptID"
+    QString keyField; // of both, and of the history rows: "ReceiptID"
     QString numberField; // the number users see, which must be unique; empty where the key is shown
     QString dateField; // "ReceiptDate"
 
@@ -21,6 +26,13 @@ struct DocumentKind
     QString nothingEntered; // raised when a document without lines is saved
     QString locationGone; // raised when the location is no longer there
     QStringList requiredFields; // of the header, beside what is checked on its own
+
+    // --- its screens, by component name --------------------------------------------------------------------------
+    QString screen; // of one document: "frmInvReceipt"
+    QString postScreen; // "frmInvReceiptsPost"
+    QString postCaption; // "Post Inventory Receipts"
+
+    PostingKind posting;
 };
 
 } // namespace Tallymere

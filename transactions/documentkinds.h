@@ -8,4 +8,8 @@ namespace Tallymere::DocumentKinds {
 
 const DocumentKind &receipt();
 
+// In the order in which the command line names them.
+const QList<const DocumentKind *> &all();
+const DocumentKind *find(const QString &name); // by its name on the command line; null when there is none
+
 } // namespace Tallymere::DocumentKinds

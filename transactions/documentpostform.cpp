@@ -3,26 +3,21 @@
 #include "controls/barprogress.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
-#include "transactions/receiptposting.h"
 #include "ui_documentpostform.h"
-
-using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-DocumentPostScreen::DocumentPostScreen(ScreenContext &context, std::unique_ptr<DocumentPosting> posting,
-                                       const QString &name, const QString &caption, const QString &entryScreen,
-                                       QWidget *parent)
+DocumentPostScreen::DocumentPostScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
     : DialogScreen(context, parent)
-    , m_posting(std::move(posting))
+    , m_posting(context.data.databaseTallymere(), kind)
     , m_ui(std::make_unique<Ui::DocumentPostScreen>())
 {
-    setObjectName(name);
+    setObjectName(kind.postScreen);
     m_ui->setupUi(this);
-    setWindowTitle(caption);
+    setWindowTitle(kind.postCaption);
     setMinimumWidth(scaled(this, 340));
-    m_ui->lblRecordCount->setText(m_posting->countText());
-    m_posting->isEntryOpen = [entryScreen] { return findScreen(entryScreen) != nullptr; };
+    m_ui->lblRecordCount->setText(m_posting.countText());
+    m_posting.isEntryOpen = [&kind] { return findScreen(kind.screen) != nullptr; };
     connect(m_ui->btnOK, &QPushButton::clicked, this, &DocumentPostScreen::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &DocumentPostScreen::reject);
 }
@@ -37,7 +32,7 @@ void DocumentPostScreen::btnOKClick()
     m_running = true;
     const std::exception_ptr failure = Guard::attempt([&] {
         const WaitCursor hourglass;
-        m_posting->run(context().prompts, bar);
+        m_posting.run(context().prompts, bar);
     });
     m_running = false;
     if (failure)
@@ -49,12 +44,6 @@ void DocumentPostScreen::reject()
 {
     if (!m_running)
         QDialog::reject();
-}
-
-TfrmInvReceiptsPost::TfrmInvReceiptsPost(ScreenContext &context, QWidget *parent)
-    : DocumentPostScreen(context, std::make_unique<ReceiptPosting>(context.data.databaseTallymere()),
-                         u"frmInvReceiptsPost"_s, tr("Post Inventory Receipts"), u"frmInvReceipt"_s, parent)
-{
 }
 
 } // namespace Tallymere

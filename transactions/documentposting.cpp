@@ -29,7 +29,7 @@ std::vector<qint64> itemsOf(std::span<const PostingDocument> documents)
     std::vector<qint64> items;
     for (const PostingDocument &document : documents)
         for (const PostingLine &line : document.lines)
-            if (!line.item.isNull())
+            if (line.isPosted && !line.item.isNull())
                 items.push_back(line.item.toInt64());
     return items;
 }
@@ -84,26 +84,24 @@ private:
     std::vector<std::unique_ptr<Engine::Table>> m_tables;
 };
 
-DocumentPosting::DocumentPosting(Engine::Database &database, PostingKind kind)
+DocumentPosting::DocumentPosting(Engine::Database &database, const DocumentKind &kind)
     : m_database(database)
-    , m_kind(std::move(kind))
+    , m_kind(kind)
 {
     const Engine::StatementPtr unposted = m_database.connection().prepare(
-        u"SELECT I.%1 FROM %2 ORDER BY I.%1"_s.arg(m_kind.keyField, m_kind.unposted));
+        u"SELECT I.%1 FROM %2 ORDER BY I.%1"_s.arg(m_kind.keyField, m_kind.posting.unposted));
     while (unposted->next())
         m_keys.push_back(unposted->intAt(0));
 }
-
-DocumentPosting::~DocumentPosting() = default;
 
 bool DocumentPosting::run(Prompts &prompts, Progress &progress)
 {
     if (m_keys.empty())
         return false;
     if (isEntryOpen && isEntryOpen())
-        throw RuleError(m_kind.entryOpen);
+        throw RuleError(m_kind.posting.entryOpen);
 
-    const Locks locks(m_database, m_kind.locks, prompts);
+    const Locks locks(m_database, m_kind.posting.locks, prompts);
     progress.start(count());
     const auto finished = qScopeGuard([&progress] { progress.finish(); });
     postAll(progress);
@@ -115,7 +113,7 @@ void DocumentPosting::postAll(Progress &progress)
     Engine::Connection &connection = m_database.connection();
     const Engine::BulkWriting bulk(m_database);
     StockBook stock(connection);
-    HistoryWriter history(connection, m_kind.keyField, m_kind.transType);
+    HistoryWriter history(connection, m_kind.keyField, m_kind.posting.transType);
     const Engine::StatementPtr mark =
         connection.prepare(u"UPDATE %1 SET Posted = true WHERE %2 = ?"_s.arg(m_kind.headerTable, m_kind.keyField));
     Engine::GroupedWrites writes(m_database, [&stock] { stock.forget(); });
@@ -151,7 +149,7 @@ std::vector<PostingDocument> DocumentPosting::readHeaders(const QString &keys) c
     Engine::Connection &connection = m_database.connection();
     const QString key = u"I."_s + m_kind.keyField;
     const Engine::StatementPtr headers = connection.prepare(u"SELECT %1, %2 FROM %3 AND %4 ORDER BY %1"_s.arg(
-        key, m_kind.headerColumns, m_kind.unposted, connection.dialect().inNumberList(key)));
+        key, m_kind.posting.headerColumns, m_kind.posting.unposted, connection.dialect().inNumberList(key)));
     headers->bindText(0, keys);
     std::vector<PostingDocument> documents;
     while (headers->next()) {
@@ -161,7 +159,8 @@ std::vector<PostingDocument> DocumentPosting::readHeaders(const QString &keys) c
         document.period = headers->valueAt(2, FieldType::SmallInt);
         document.date = headers->valueAt(3, FieldType::Date);
         document.warehouse = headers->valueAt(4, FieldType::Integer);
-        readHeader(*headers, 5, document);
+        if (m_kind.posting.readHeader)
+            m_kind.posting.readHeader(*headers, 5, document);
     }
     return documents;
 }
@@ -169,21 +168,23 @@ std::vector<PostingDocument> DocumentPosting::readHeaders(const QString &keys) c
 void DocumentPosting::readLines(std::vector<PostingDocument> &documents, const QString &keys) const
 {
     Engine::Connection &connection = m_database.connection();
-    const Engine::StatementPtr rows = connection.prepare(u"SELECT %1, %2 FROM %3 WHERE %4 ORDER BY %1, Seq"_s.arg(
-        m_kind.keyField, m_kind.lineColumns, m_kind.lineTable, connection.dialect().inNumberList(m_kind.keyField)));
+    const QString key = u"L."_s + m_kind.keyField;
+    const Engine::StatementPtr rows = connection.prepare(u"SELECT %1, %2 FROM %3 WHERE %4 ORDER BY %1, L.Seq"_s.arg(
+        key, m_kind.posting.lineColumns, m_kind.posting.lines, connection.dialect().inNumberList(key)));
     rows->bindText(0, keys);
     // Both come in the order of the key; documents that are left out have lines, too.
     auto document = documents.begin();
     while (rows->next()) {
-        const qint64 key = rows->intAt(0);
-        while (document != documents.end() && document->key < key)
+        const qint64 owner = rows->intAt(0);
+        while (document != documents.end() && document->key < owner)
             ++document;
-        if (document == documents.end() || document->key != key)
+        if (document == documents.end() || document->key != owner)
             continue;
         PostingLine &line = document->lines.emplace_back();
         line.item = rows->valueAt(1, FieldType::Integer);
         line.quantity = rows->doubleAt(2);
-        readLine(*rows, 3, line);
+        if (m_kind.posting.readLine)
+            m_kind.posting.readLine(*rows, 3, line);
     }
 }
 
@@ -195,8 +196,10 @@ void DocumentPosting::postDocument(const PostingDocument &document, Engine::Stat
     mark.bindInt(0, document.key);
     books.writes.send(mark);
     try {
-        for (const PostingLine &line : document.lines)
-            postLine(document, line, books);
+        for (const PostingLine &line : document.lines) {
+            if (line.isPosted)
+                m_kind.posting.postLine(document, line, books);
+        }
     } catch (const std::range_error &) {
         throw RuleError(tr("\"%1\" has an amount that is too large.").arg(document.description));
     }

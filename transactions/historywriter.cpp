@@ -1,7 +1,7 @@
 #include "transactions/historywriter.h"
 
 #include "engine/groupedwrites.h"
-#include "transactions/documentposting.h"
+#include "transactions/postingkind.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,6 +4,7 @@
 #include "frame/shared/formats.h"
 #include "transactions/documentfilter.h"
 #include "transactions/documentfilterform.h"
+#include "transactions/documentkinds.h"
 #include "transactions/documentpostform.h"
 #include "transactions/invreceiptform.h"
 #include "transactions/invreceiptsfindform.h"
@@ -116,7 +117,7 @@ void TfrmInvReceipts::btnFindClick() { TfrmInvReceiptsFind(context(), m_list, th
 
 void TfrmInvReceipts::mnuPostClick()
 {
-    TfrmInvReceiptsPost dialog(context(), isVisible() ? this : parentWidget());
+    DocumentPostScreen dialog(context(), DocumentKinds::receipt(), isVisible() ? this : parentWidget());
     if (dialog.exec() == QDialog::Accepted)
         refreshList();
 }
@@ -130,8 +131,8 @@ void TfrmInvReceipts::clearFilterDialog()
 void TfrmInvReceipts::closeEvent(QCloseEvent *event)
 {
     guard().run([this] {
-        TfrmInvReceiptsPost dialog(context(), this);
-        if (dialog.count() > 0 && dialog.exec() == QDialog::Accepted)
+        DocumentPostScreen dialog(context(), DocumentKinds::receipt(), this);
+        if (dialog.posting().count() > 0 && dialog.exec() == QDialog::Accepted)
             refreshList();
     });
     event->accept();

@@ -1,5 +1,7 @@
 #include "transactions/documentkinds.h"
 
+#include "transactions/receiptposting.h"
+
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +17,7 @@ QString tr(const char *text) { return QCoreApplication::translate("ReceiptKind",
 const DocumentKind &DocumentKinds::receipt()
 {
     static const DocumentKind kind{
+        .name = u"receipts"_s,
         .headerTable = u"IReceipt"_s,
         .lineTable = u"IRecDet"_s,
         .keyField = u"ReceiptID"_s,
@@ -26,6 +29,10 @@ const DocumentKind &DocumentKinds::receipt()
         .nothingEntered = tr("Quantities have not been entered"),
         .locationGone = tr("Warehouse no longer exists"),
         .requiredFields = {u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s, u"WarehouseID"_s},
+        .screen = u"frmInvReceipt"_s,
+        .postScreen = u"frmInvReceiptsPost"_s,
+        .postCaption = tr("Post Inventory Receipts"),
+        .posting = receiptPosting(),
     };
     return kind;
 }

@@ -1,45 +1,22 @@
 #include "transactions/receiptposting.h"
 
+#include "engine/driver.h"
 #include "transactions/historywriter.h"
 #include "transactions/receiptcost.h"
 #include "transactions/stockbook.h"
+
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 using Engine::Money;
 
 namespace Tallymere {
 
-ReceiptPosting::ReceiptPosting(Engine::Database &database)
-    : DocumentPosting(database, receiptPostingKind())
-{
-}
+namespace {
 
-PostingKind ReceiptPosting::receiptPostingKind()
-{
-    return {
-        .headerTable = u"IReceipt"_s,
-        .lineTable = u"IRecDet"_s,
-        .keyField = u"ReceiptID"_s,
-        .unposted = u"IReceipt I INNER JOIN Vendor V ON I.VendorID = V.VendorID "
-                    "LEFT OUTER JOIN Currency C ON V.CurrencyID = C.CurrencyID WHERE I.Posted = false"_s,
-        .headerColumns =
-            u"I.GLYear, I.GLPeriod, I.ReceiptDate, I.WarehouseID, I.ReceiptNo, I.PurchaseOrderNo, C.ExchangeRate"_s,
-        .lineColumns = u"ItemID, QtyReceived, UnitCost"_s,
-        .transType = TransType::PoReceipt,
-        .locks =
-            {
-                {u"IReceipt"_s, tr("Unable to lock Receipts table... this table is being updated by another job.")},
-                {u"IBalance"_s,
-                 tr("Unable to lock Item Balance table... this table is being updated by another job.")},
-                {u"Item"_s, tr("Unable to lock Item table... this table is being updated by another job.")},
-            },
-        .entryOpen = tr("A conflicting program is running...\nPlease close 'Inventory Receipt' form"),
-    };
-}
+QString tr(const char *text) { return QCoreApplication::translate("ReceiptPosting", text); }
 
-QString ReceiptPosting::countText() const { return tr("%1 receipt(s) to be posted").arg(count()); }
-
-void ReceiptPosting::readHeader(const Engine::Statement &row, int column, PostingDocument &document) const
+void readHeader(const Engine::Statement &row, int column, PostingDocument &document)
 {
     const QString order = row.textAt(column + 1);
     document.description = u"Receipt: "_s + row.textAt(column);
@@ -48,12 +25,9 @@ void ReceiptPosting::readHeader(const Engine::Statement &row, int column, Postin
     document.exchangeRate = row.doubleAt(column + 2);
 }
 
-void ReceiptPosting::readLine(const Engine::Statement &row, int column, PostingLine &line) const
-{
-    line.unitCost = row.doubleAt(column);
-}
+void readLine(const Engine::Statement &row, int column, PostingLine &line) { line.unitCost = row.doubleAt(column); }
 
-void ReceiptPosting::postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books) const
+void postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books)
 {
     const Money cost = lineCost(Money::fromDouble(line.unitCost), document.exchangeRate);
     books.history.append(document, line.item, line.quantity, cost, books.writes);
@@ -66,6 +40,34 @@ void ReceiptPosting::postLine(const PostingDocument &document, const PostingLine
     }
 
     books.stock.addToBalance(line.item, document.warehouse, line.quantity, books.writes);
+}
+
+} // namespace
+
+PostingKind receiptPosting()
+{
+    return {
+        .unposted = u"IReceipt I INNER JOIN Vendor V ON I.VendorID = V.VendorID "
+                    "LEFT OUTER JOIN Currency C ON V.CurrencyID = C.CurrencyID WHERE I.Posted = false"_s,
+        .headerColumns =
+            u"I.GLYear, I.GLPeriod, I.ReceiptDate, I.WarehouseID, I.ReceiptNo, I.PurchaseOrderNo, C.ExchangeRate"_s,
+        .lines = u"IRecDet L"_s,
+        .lineColumns = u"L.ItemID, L.QtyReceived, L.UnitCost"_s,
+        .transType = TransType::PoReceipt,
+        .locks =
+            {
+                {u"IReceipt"_s, tr("Unable to lock Receipts table... this table is being updated by another job.")},
+                {u"IBalance"_s,
+                 tr("Unable to lock Item Balance table... this table is being updated by another job.")},
+                {u"Item"_s, tr("Unable to lock Item table... this table is being updated by another job.")},
+            },
+        .entryOpen = tr("A conflicting program is running...\nPlease close 'Inventory Receipt' form"),
+        .toBePosted = tr("%1 receipt(s) to be posted"),
+        .posted = tr("%1 receipt(s) posted"),
+        .readHeader = readHeader,
+        .readLine = readLine,
+        .postLine = postLine,
+    };
 }
 
 } // namespace Tallymere

@@ -195,20 +195,20 @@ TEST_F(ListScreensTest, closingOffersToPostWhatIsPending)
 {
     addReceipts();
     open<TfrmInvReceipts>();
-    EXPECT_TRUE(whileOpen<TfrmInvReceiptsPost>([&] { list->close(); },
-                                               [](TfrmInvReceiptsPost &) { press(Qt::Key_Return); }));
+    EXPECT_TRUE(
+        whileOpen<DocumentPostScreen>([&] { list->close(); }, [](DocumentPostScreen &) { press(Qt::Key_Return); }));
     settle();
     EXPECT_FALSE(list);
     EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s), 3);
     EXPECT_EQ(kitchen.onHand(1, 1), 5);
 
     open<TfrmInvReceipts>();
-    EXPECT_FALSE(whileOpen<TfrmInvReceiptsPost>(
+    EXPECT_FALSE(whileOpen<DocumentPostScreen>(
         [&] {
             list->close();
             QCoreApplication::processEvents();
         },
-        [](TfrmInvReceiptsPost &) {}))
+        [](DocumentPostScreen &) {}))
         << "nothing is pending";
     settle();
     EXPECT_FALSE(list);
@@ -220,7 +220,7 @@ TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
     open<TfrmInvReceipts>();
     click("btnNew");
     const auto post = [&] { list->command(u"mnuPost"_s)->trigger(); };
-    EXPECT_TRUE(whileOpen<TfrmInvReceiptsPost>(post, [&](TfrmInvReceiptsPost &dialog) {
+    EXPECT_TRUE(whileOpen<DocumentPostScreen>(post, [&](DocumentPostScreen &dialog) {
         dialog.btnOKClick();
         EXPECT_EQ(dialog.result(), QDialog::Rejected);
     }));

@@ -1,7 +1,8 @@
 #include "tests/support/otheruser.h"
 #include "tests/support/spokenprompts.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
 #include "transactions/receiptentry.h"
-#include "transactions/receiptposting.h"
 
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -29,7 +30,7 @@ void post(Engine::Database &database, const QStringList &)
 {
     SpokenPrompts prompts;
     CountedProgress progress;
-    ReceiptPosting(database).run(prompts, progress);
+    DocumentPosting(database, DocumentKinds::receipt()).run(prompts, progress);
 }
 
 } // namespace

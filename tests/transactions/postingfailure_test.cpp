@@ -1,7 +1,8 @@
 #include "tests/support/brokentable.h"
 #include "tests/support/failures.h"
 #include "tests/transactions/kitchen.h"
-#include "transactions/receiptposting.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +32,7 @@ protected:
     {
         SpokenPrompts prompts;
         CountedProgress progress;
-        ReceiptPosting(kitchen.database()).run(prompts, progress);
+        DocumentPosting(kitchen.database(), DocumentKinds::receipt()).run(prompts, progress);
     }
     QString posted()
     {
@@ -118,7 +119,7 @@ TEST(FailingPostingLocal, AStoreThatRollsBackLeavesWholeDocuments)
                     "BEGIN SELECT RAISE(ROLLBACK, 'no luck'); END"_s);
     SpokenPrompts prompts;
     CountedProgress progress;
-    EXPECT_THROW(ReceiptPosting(kitchen.database()).run(prompts, progress), EngineError);
+    EXPECT_THROW(DocumentPosting(kitchen.database(), DocumentKinds::receipt()).run(prompts, progress), EngineError);
     EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), 0);
     EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s), 0);
 }

@@ -1,6 +1,7 @@
 #include "tests/support/otheruser.h"
 #include "tests/transactions/kitchen.h"
-#include "transactions/receiptposting.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
 
 #include <gtest/gtest.h>
 #include <QSet>
@@ -62,7 +63,7 @@ TEST_P(Processes, KillingAPosterLeavesWholeDocumentsAndNothingIsLostOrDoubled)
     addManyReceipts(undisturbed);
     SpokenPrompts prompts;
     CountedProgress progress;
-    ASSERT_TRUE(ReceiptPosting(undisturbed.database()).run(prompts, progress));
+    ASSERT_TRUE(DocumentPosting(undisturbed.database(), DocumentKinds::receipt()).run(prompts, progress));
 
     std::mt19937 random(11);
     int interrupted = 0;

@@ -1,4 +1,5 @@
-#include "transactions/receiptposting.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
 
 #include "engine/locks.h"
 #include "engine/table.h"
@@ -21,7 +22,7 @@ protected:
     SpokenPrompts prompts;
     CountedProgress progress;
 
-    bool post() { return ReceiptPosting(kitchen.database()).run(prompts, progress); }
+    bool post() { return DocumentPosting(kitchen.database(), DocumentKinds::receipt()).run(prompts, progress); }
     QStringList posted()
     {
         return kitchen.rows(u"SELECT ReceiptID FROM IReceipt WHERE Posted = true ORDER BY 1"_s);
@@ -34,7 +35,7 @@ TEST_P(Posting, WritesHistoryBalanceAndAverageOfTheWorkedExample)
     kitchen.setStock(1, 1, 6, 2.00);
     kitchen.setStock(1, 2, 4, 2.00);
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.00}}, u"PO-77"_s);
-    ReceiptPosting posting(kitchen.database());
+    DocumentPosting posting(kitchen.database(), DocumentKinds::receipt());
     EXPECT_EQ(posting.countText(), u"1 receipt(s) to be posted");
 
     EXPECT_TRUE(posting.run(prompts, progress));
@@ -110,6 +111,27 @@ TEST_P(Posting, LaterLinesSeeWhatEarlierOnesLeft)
               (QStringList{u"1|1|10"_s, u"1|1|10"_s, u"1|2|1"_s, u"2|1|20"_s}));
 }
 
+TEST_P(Posting, PassesOverLinesThatTheKindDoesNotPost)
+{
+    DocumentKind food = DocumentKinds::receipt(); // of items of the first type only; a missing item has none
+    food.posting.lines = u"IRecDet L LEFT OUTER JOIN Item T ON L.ItemID = T.ItemID"_s;
+    food.posting.lineColumns += u", T.ItemTypeID"_s;
+    food.posting.readLine = [](const Engine::Statement &row, int column, PostingLine &line) {
+        line.unitCost = row.doubleAt(column);
+        line.isPosted = row.intAt(column + 1) == 1;
+    };
+    kitchen.addReceipt(1, 1, 1, {{3, 5, 1}, {2, 7, 1}, {99, 4, 1}, {1, 6, 1}});
+    kitchen.addReceipt(2, 1, 1, {{3, 5, 1}});
+
+    EXPECT_TRUE(DocumentPosting(kitchen.database(), food).run(prompts, progress));
+
+    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID, ItemID, Quantity FROM IHist ORDER BY IHistID"_s),
+              (QStringList{u"1|2|7"_s, u"1|1|6"_s}));
+    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, QtyOnHand FROM IBalance ORDER BY 1"_s),
+              (QStringList{u"1|6"_s, u"2|7"_s}));
+    EXPECT_EQ(posted(), (QStringList{u"1"_s, u"2"_s}));
+}
+
 TEST_P(Posting, TakesTheUnpostedOnesWhoseVendorExists)
 {
     kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});
@@ -120,7 +142,7 @@ TEST_P(Posting, TakesTheUnpostedOnesWhoseVendorExists)
     kitchen.execute(u"UPDATE IReceipt SET Posted = NULL WHERE ReceiptID = 3; "
                     "UPDATE IReceipt SET Posted = true WHERE ReceiptID = 4"_s);
 
-    EXPECT_EQ(ReceiptPosting(kitchen.database()).count(), 2);
+    EXPECT_EQ(DocumentPosting(kitchen.database(), DocumentKinds::receipt()).count(), 2);
     EXPECT_TRUE(post());
 
     EXPECT_EQ(posted(), (QStringList{u"1"_s, u"4"_s, u"5"_s}));
@@ -132,7 +154,7 @@ TEST_P(Posting, LeavesOutWhatOthersHavePostedOrDeletedMeanwhile)
 {
     for (int id = 1; id <= 3; ++id)
         kitchen.addReceipt(id, 1, 1, {{1, id * 1.0, 1}});
-    ReceiptPosting posting(kitchen.database());
+    DocumentPosting posting(kitchen.database(), DocumentKinds::receipt());
     kitchen.execute(u"UPDATE IReceipt SET Posted = true WHERE ReceiptID = 1; "
                     "DELETE FROM IReceipt WHERE ReceiptID = 2; DELETE FROM IRecDet WHERE ReceiptID = 2"_s);
 

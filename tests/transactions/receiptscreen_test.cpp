@@ -4,6 +4,7 @@
 #include "controls/screenmetrics.h"
 #include "master/itemsearchinvform.h"
 #include "tests/transactions/screentest.h"
+#include "transactions/documentkinds.h"
 #include "transactions/documentpostform.h"
 #include "transactions/invreceiptform.h"
 
@@ -85,7 +86,7 @@ TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
               QStringList(u"1001|1|2|2026|3"_s));
     EXPECT_EQ(kitchen.lines(key), (QStringList{u"1|1|5|3"_s, u"2|2|2|1.25"_s}));
 
-    TfrmInvReceiptsPost dialog(*context, mainWindow.get());
+    DocumentPostScreen dialog(*context, DocumentKinds::receipt(), mainWindow.get());
     EXPECT_EQ(child<QLabel>(dialog, "lblRecordCount")->text(), u"1 receipt(s) to be posted"_s);
     showActive(dialog);
     press(Qt::Key_Return);

@@ -1,0 +1,20 @@
+#include "transactions/documentkinds.h"
+
+#include <algorithm>
+
+namespace Tallymere {
+
+const QList<const DocumentKind *> &DocumentKinds::all()
+{
+    static const QList<const DocumentKind *> kinds = {&receipt()};
+    return kinds;
+}
+
+const DocumentKind *DocumentKinds::find(const QString &name)
+{
+    const auto found =
+        std::find_if(all().begin(), all().end(), [&](const DocumentKind *kind) { return kind->name == name; });
+    return found == all().end() ? nullptr : *found;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "data/transtypes.h"
+#include "engine/value.h"
+
+#include <functional>
+#include <QList>
+#include <QString>
+#include <vector>
+
+namespace Engine {
+class Statement;
+class Writes;
+} // namespace Engine
+
+namespace Tallymere {
+
+class HistoryWriter;
+class StockBook;
+
+// A table that a posting run holds for itself, and what is said when another user has it.
+struct PostingLock
+{
+    QString table;
+    QString refusal;
+};
+
+// One line, with what posting needs of it.
+struct PostingLine
+{
+    Engine::Value item;
+    double quantity = 0; // as entered
+    double unitCost = 0; // as entered
+    bool isPosted = true; // false: it is passed over, and its document marked all the same
+};
+
+struct PostingDocument
+{
+    qint64 key = 0;
+    Engine::Value year;
+    Engine::Value period;
+    Engine::Value date;
+    Engine::Value warehouse;
+    QString description; // of its history rows
+    double exchangeRate = 0; // of the vendor's currency; 0 where there is none
+    std::vector<PostingLine> lines; // in the order of their numbers
+};
+
+// What a line is posted to.
+struct PostingBooks
+{
+    StockBook &stock;
+    HistoryWriter &history;
+    Engine::Writes &writes;
+};
+
+// What tells the posting of one kind of document from another.
+struct PostingKind
+{
+    // What follows FROM for the unposted documents, complete with its WHERE; the header table is called I.
+    QString unposted;
+    // Of I: year, period, date, location, then columns of the kind's own, which readHeader() takes up.
+    QString headerColumns;
+    // What follows FROM for the lines; the line table is called L. What it is joined to must not multiply the lines.
+    QString lines;
+    QString lineColumns; // ItemID, quantity, then those of the kind's own, for readLine()
+    TransType transType = TransType::Adjust;
+    QList<PostingLock> locks; // in the order they are taken
+    QString entryOpen; // raised while the entry screen is open
+    QString toBePosted; // "%1 receipt(s) to be posted"
+    QString posted; // "%1 receipt(s) posted"
+
+    // Fill in what is the kind's own, from its own columns, the first of which is given. Empty: nothing is.
+    std::function<void(const Engine::Statement &row, int column, PostingDocument &)> readHeader;
+    std::function<void(const Engine::Statement &row, int column, PostingLine &)> readLine;
+    std::function<void(const PostingDocument &, const PostingLine &, PostingBooks &)> postLine;
+};
+
+} // namespace Tallymere
