@@ -84,7 +84,14 @@ void EntryScreen::saveAndReport()
     m_binder.commit();
     saveChanges();
     if (const std::optional<int> key = savedKey())
-        Q_EMIT saved(*key);
+        tellSaved(*key);
+}
+
+// The record is stored, whether or not a list can move to it.
+void EntryScreen::tellSaved(int key)
+{
+    if (const std::exception_ptr failure = Guard::attempt([&] { Q_EMIT saved(key); }))
+        Guard::trace(failure);
 }
 
 void EntryScreen::btnOKClick()

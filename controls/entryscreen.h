@@ -26,7 +26,8 @@ public:
     void btnCancelClick(); // drops the changes and closes
 
 Q_SIGNALS:
-    void saved(int key); // the record has been written; the list that opened the screen moves there
+    // The record has been written; the list that opened the screen moves there. What it throws is only traced.
+    void saved(int key);
 
 protected:
     EntryScreen(ScreenContext &context, QWidget *parent);
@@ -65,6 +66,7 @@ protected:
     void reject() override;
 
 private:
+    void tellSaved(int key);
     void btnHelpClick();
     void leave(); // closes without a question
     bool settleChanges(); // asks if need be; false: the screen stays

@@ -43,10 +43,21 @@ void Guard::report(const std::exception_ptr &failure) const
     } catch (const SilentAbort &abort) {
         focus(abort.column());
     } catch (const Engine::EngineError &error) {
-        qCDebug(screens) << "engine error" << static_cast<int>(error.code()) << error.driverText();
+        trace(failure);
         m_prompts.error(error.text());
     } catch (const std::exception &error) {
         m_prompts.error(QString::fromUtf8(error.what()));
+    }
+}
+
+void Guard::trace(const std::exception_ptr &failure)
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (const Engine::EngineError &error) {
+        qCDebug(screens) << "engine error" << static_cast<int>(error.code()) << error.driverText();
+    } catch (const std::exception &error) {
+        qCDebug(screens) << error.what();
     }
 }
 

@@ -26,6 +26,7 @@ public:
     // The two halves of run(), for handlers inside an event that must not open a box: null when it ran to its end.
     static std::exception_ptr attempt(const std::function<void()> &handler);
     void report(const std::exception_ptr &failure) const;
+    static void trace(const std::exception_ptr &failure); // for what the user need not know
 
     // Moves the focus to what shows a column; for an empty name it stays.
     void focus(const QString &column) const;
