@@ -1,6 +1,7 @@
 #include "controls/fieldbinder.h"
 
 #include "controls/fieldbinding.h"
+#include "controls/leaving.h"
 #include "engine/error.h"
 #include "frame/shared/ruleerror.h"
 
@@ -10,6 +11,7 @@
 #include <QLineEdit>
 #include <QVariant>
 #include <QWidget>
+#include <utility>
 
 namespace Tallymere {
 
@@ -17,7 +19,6 @@ namespace {
 
 constexpr auto fieldProperty = "dataField";
 constexpr auto sourceProperty = "dataSource";
-constexpr auto keepsEntryProperty = "keepsEntry";
 
 // The next key replaces what stands there.
 void selectText(QWidget *widget)
@@ -32,6 +33,7 @@ FieldBinder::FieldBinder(QWidget *form, const Guard &guard)
     : m_form(form)
     , m_guard(guard)
 {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { focusMoved(now); });
 }
 
 FieldBinder::~FieldBinder() = default;
@@ -91,8 +93,9 @@ QWidget *FieldBinder::widgetFor(const QString &column) const
     return nullptr;
 }
 
-int FieldBinder::keyIn(const QString &field) const
+int FieldBinder::keyIn(const QString &field)
 {
+    commit();
     const FieldBinding *binding = bindingOf(widgetFor(field));
     return binding ? binding->table().integer(field) : 0;
 }
@@ -161,8 +164,14 @@ void FieldBinder::startEdit(FieldBinding &binding)
 // The box opens once the event that led to it is over.
 void FieldBinder::reportLater(const std::exception_ptr &failure)
 {
+    m_refusing = true;
     QMetaObject::invokeMethod(
-        this, [this, failure] { m_guard.report(failure); }, Qt::QueuedConnection);
+        this,
+        [this, failure] {
+            m_guard.report(failure);
+            m_refusing = false;
+        },
+        Qt::QueuedConnection);
 }
 
 // The cursor comes back first, then the box opens.
@@ -190,6 +199,18 @@ void FieldBinder::leave(FieldBinding &binding)
         Qt::QueuedConnection);
 }
 
+// From the widget that kept an entry the cursor has gone on: back to the entry, or to where it would have been refused.
+void FieldBinder::focusMoved(QWidget *now)
+{
+    if (!m_kept || !now || keepsEntry(now) || !m_form->isAncestorOf(now))
+        return;
+    FieldBinding &kept = *std::exchange(m_kept, nullptr);
+    if (kept.widget() == now)
+        return;
+    leave(kept);
+    kept.setActive(false);
+}
+
 bool FieldBinder::eventFilter(QObject *watched, QEvent *event)
 {
     FieldBinding *binding = bindingOf(watched);
@@ -198,13 +219,12 @@ bool FieldBinder::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::FocusIn) {
         binding->setActive(true);
     } else if (event->type() == QEvent::FocusOut) {
-        const auto reason = static_cast<QFocusEvent *>(event)->reason();
-        const QWidget *next = QApplication::focusWidget();
-        const bool stays = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
-        if (stays || (next && next->property(keepsEntryProperty).toBool()))
-            return false;
-        leave(*binding);
-        binding->setActive(false);
+        if (handsEntryOver(*static_cast<QFocusEvent *>(event))) {
+            leave(*binding);
+            binding->setActive(false);
+        } else if (keepsEntry(QApplication::focusWidget())) {
+            m_kept = binding;
+        }
     } else if (event->type() == QEvent::Wheel && qobject_cast<QComboBox *>(watched)) {
         event->ignore(); // a turn of the wheel over a form must not change what it holds
         return true;

@@ -20,7 +20,8 @@ class FieldBinding;
 // of radio buttons, plain text edits and labels can be tied. What the user enters puts the table into edit at once and
 // is handed over on leaving the widget; a refusal is shown and the cursor stays. A line edit with the dynamic property
 // "editMask" has that input mask while it has the cursor; one that the form has read-only stays that, in the form's
-// grey. Leaving towards a widget with the dynamic property "keepsEntry" (a Cancel button) hands nothing over.
+// grey. Leaving towards a widget that keeps the entry (see leaving.h) hands nothing over yet; that is done when the
+// cursor goes on from there to another one of the form.
 class FieldBinder : public QObject
 {
     Q_OBJECT
@@ -34,14 +35,16 @@ public:
     void bind(Engine::Table &table, const QString &source = {});
 
     // What is typed into the line edit of a field goes to the rule instead of the field: for a looked-up number
-    // that stands for a key.
+    // that stands for a key. The table is left alone until then; the rule puts it into edit.
     void setEntryRule(const QString &field, std::function<void(const QString &text)> rule);
 
     QWidget *firstWidget() const; // that Tab comes to, among the bound ones; nullptr when there is none
     QWidget *widgetFor(const QString &column) const; // nullptr when no widget shows it
-    int keyIn(const QString &field) const; // the number in a bound field of the current record; 0 for none
+    // The number in a bound field of the current record; 0 for none. What has been entered is handed over first, so that
+    // it is the one that the form shows; throws what commit() does.
+    int keyIn(const QString &field);
     // Hands over what has been entered and not handed over yet; throws what refuses it, and SilentAbort while the user
-    // is still to be told of an entry that was refused when he left it for the button that calls this.
+    // is still to be told of an entry that was refused before, as on leaving it for the button that calls this.
     void commit();
     bool hasEntry() const; // something was entered that commit() would hand over
     // Puts the field's value back into the widget; false when nothing had been entered there.
@@ -52,6 +55,7 @@ public:
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void leave(FieldBinding &binding);
+    void focusMoved(QWidget *now);
     void startEdit(FieldBinding &binding);
     void reportLater(const std::exception_ptr &failure);
     void watch(Engine::Table &table);
@@ -61,7 +65,8 @@ private:
     const Guard &m_guard;
     std::vector<std::unique_ptr<FieldBinding>> m_bindings;
     bool m_readOnly = false;
-    bool m_refusing = false; // an entry that was left is refused, and that is being told
+    FieldBinding *m_kept = nullptr; // left towards a widget that keeps the entry
+    bool m_refusing = false; // an entry is refused, and that is being told
 };
 
 } // namespace Tallymere

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QVariant>
 
@@ -42,7 +43,7 @@ void FieldBinding::commit()
     settle();
     if (!m_entered)
         return;
-    if (!m_table.isEditing())
+    if (!m_rule && !m_table.isEditing())
         m_table.edit();
     store();
     show();
@@ -58,10 +59,16 @@ void FieldBinding::storeText(const QString &text)
 
 void FieldBinding::setActive(bool) { }
 
+void FieldBinding::begin()
+{
+    if (!m_rule)
+        m_reports.begun(*this);
+}
+
 void FieldBinding::entered()
 {
-    m_entered = true;
-    m_reports.begun(*this);
+    keep();
+    begin();
 }
 
 namespace {
@@ -131,23 +138,32 @@ public:
         : FieldBinding(box, table, number, std::move(reports))
         , m_box(box)
     {
-        QObject::connect(box, &LookupComboBox::chosen, box, [this] {
-            entered();
-            if (hasEntry() && !m_settling)
-                completed();
-        });
+        QObject::connect(box, &LookupComboBox::moved, box, [this] { begin(); });
+        QObject::connect(box, &LookupComboBox::chosen, box, [this] { chosen(); });
     }
 
     void setReadOnly(bool readOnly) override { m_box->setReadOnly(readOnly); }
 
 private:
     void display() override { m_box->setChosenId(value().toInt()); }
+    bool isPending() const override { return m_box->isPending(); }
 
     void settle() override
     {
-        m_settling = true;
+        const QScopedValueRollback settling(m_settling, true);
         m_box->settle();
-        m_settling = false;
+    }
+
+    // A choice that commit() itself makes is handed over by it.
+    void chosen()
+    {
+        if (m_settling) {
+            keep();
+            return;
+        }
+        entered();
+        if (hasEntry())
+            completed();
     }
 
     void store() override

@@ -29,21 +29,26 @@ public:
     Engine::Table &table() const { return m_table; }
     const Engine::Field &field() const;
     void setEntryRule(std::function<void(const QString &text)> rule) { m_rule = std::move(rule); }
-    bool hasEntry() const { return m_entered; }
+    bool hasEntry() const { return m_entered || isPending(); }
 
     void show(); // the field's value; drops an entry
-    void commit(); // hands an entry to the table; throws what refuses it, and the entry stays
+    // Hands an entry to the table, which it puts into edit if need be; throws what refuses it, and the entry stays. An
+    // entry rule does both itself.
+    void commit();
     virtual void setReadOnly(bool readOnly) = 0;
     virtual void setActive(bool active); // the cursor comes and goes
 
 protected:
     FieldBinding(QWidget *widget, Engine::Table &table, int field, Reports reports);
 
-    virtual void settle() { } // a choice that is still open becomes an entry
+    virtual bool isPending() const { return false; } // the widget shows a choice that has not been made yet
+    virtual void settle() { } // makes it
     virtual void display() = 0;
     virtual void store() = 0;
     Engine::Value value() const;
-    void entered(); // the user has changed the widget
+    void begin(); // the user is about to change the widget
+    void entered(); // he has changed it
+    void keep() { m_entered = true; } // what the widget shows, until it is handed over
     void completed() { m_reports.complete(*this); }
     void storeText(const QString &text); // through the entry rule, or the field's own parsing
 

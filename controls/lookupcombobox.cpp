@@ -1,5 +1,6 @@
 #include "controls/lookupcombobox.h"
 
+#include "controls/leaving.h"
 #include "controls/screenmetrics.h"
 
 #include <QApplication>
@@ -109,9 +110,16 @@ void LookupComboBox::choose(int id)
 void LookupComboBox::takePicked(int row)
 {
     if (m_inKeys)
-        m_shown = idAt(row);
+        moveTo(idAt(row));
     else
         choose(idAt(row));
+}
+
+void LookupComboBox::moveTo(int id)
+{
+    m_shown = id;
+    if (isPending())
+        Q_EMIT moved();
 }
 
 void LookupComboBox::showChosen()
@@ -153,8 +161,8 @@ void LookupComboBox::typed(const QString &text)
         return;
     }
     m_typed = wanted;
-    m_shown = list.integer(m_keyField);
     setCurrentIndex(list.recordIndex());
+    moveTo(list.integer(m_keyField));
 }
 
 void LookupComboBox::keyPressEvent(QKeyEvent *event)
@@ -207,7 +215,7 @@ void LookupComboBox::focusInEvent(QFocusEvent *event)
 
 void LookupComboBox::focusOutEvent(QFocusEvent *event)
 {
-    if (event->reason() != Qt::PopupFocusReason)
+    if (handsEntryOver(*event))
         settle();
     QComboBox::focusOutEvent(event);
 }

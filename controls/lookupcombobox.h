@@ -10,8 +10,8 @@ namespace Tallymere {
 // A drop-down list of another table's rows, which stands for the key of the chosen row.
 //
 // Typing letters moves to the first row that begins with them, the arrow keys to the rows beside it; the choice is
-// made on leaving the box, with Enter, or at once by picking from the open list. Delete clears it, Escape goes back
-// to the last choice. The list is read again when the cursor comes, and each time it is dropped down.
+// made on leaving the box (not towards a widget that keeps the entry, see leaving.h), with Enter, or at once by picking
+// from the open list. Delete clears it, Escape goes back to the last choice. The list is read again when the cursor comes, and each time it is dropped down.
 class LookupComboBox : public QComboBox
 {
     Q_OBJECT
@@ -34,6 +34,7 @@ public:
 
 Q_SIGNALS:
     void chosen(int id); // the user has made a choice, or cleared it
+    void moved(); // a key has brought up another row, which is pending
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -45,6 +46,7 @@ protected:
 private:
     void choose(int id);
     void takePicked(int row);
+    void moveTo(int id);
     void showChosen();
     void showRow();
     void typed(const QString &text);

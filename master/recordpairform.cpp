@@ -1,12 +1,12 @@
 #include "master/recordpairform.h"
 
+#include "controls/leaving.h"
 #include "controls/lookupcombobox.h"
 #include "engine/table.h"
 #include "master/masterkind.h"
 #include "master/recordnumber.h"
 
 #include <algorithm>
-#include <QApplication>
 #include <QFocusEvent>
 #include <QLineEdit>
 
@@ -69,12 +69,7 @@ void RecordPair::lookUp()
 
 bool RecordPair::eventFilter(QObject *, QEvent *event)
 {
-    if (event->type() != QEvent::FocusOut)
-        return false;
-    const auto reason = static_cast<QFocusEvent *>(event)->reason();
-    const QWidget *next = QApplication::focusWidget();
-    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason
-        || (next && next->property("keepsEntry").toBool()))
+    if (event->type() != QEvent::FocusOut || !handsEntryOver(*static_cast<QFocusEvent *>(event)))
         return false;
     const std::exception_ptr failure = Guard::attempt([this] { lookUp(); });
     if (failure) {

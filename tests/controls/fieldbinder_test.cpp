@@ -191,6 +191,16 @@ TEST_F(FieldBinderTest, leavingTowardsCancelHandsNothingOver)
     QCoreApplication::processEvents();
     EXPECT_EQ(prompts.said, QStringList());
     EXPECT_EQ(QApplication::focusWidget(), cancel);
+
+    press(Qt::Key_Backtab, Qt::ShiftModifier); // the next stop after it catches up
+    EXPECT_EQ(prompts.take(), QStringList(u"error: Nobody eats that"_s));
+    EXPECT_EQ(focusName(), u"editName"_s);
+    type("Stew");
+    QTest::mouseClick(cancel, Qt::LeftButton);
+    EXPECT_EQ(table->text(u"Name"), u"Soup"_s);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(table->text(u"Name"), u"Stew"_s);
+    EXPECT_EQ(focusName(), u"chkHot"_s);
 }
 
 TEST_F(FieldBinderTest, recordHeldByAnotherUserKeepsItsTextAndSaysSo)

@@ -1,6 +1,8 @@
 #include "controls/lookupcombobox.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
+#include "engine/error.h"
+#include "engine/table.h"
 #include "master/iteminvform.h"
 #include "master/itemsfindform.h"
 #include "master/itemsinvform.h"
@@ -219,6 +221,97 @@ TEST_F(ItemScreens, ClearTheTypeAndLeadToTheTypes)
     clickItem("btnCancel");
     settle();
     EXPECT_EQ(kitchen.number(u"SELECT ItemTypeID FROM Item WHERE ItemID = 3"_s), 2);
+}
+
+// A row that arrow keys or letters have brought up in a look-up box is a choice like any other, made or not.
+TEST_F(ItemScreens, KeepAChoiceThatIsStillOpen)
+{
+    offer<TfrmItemTypesInv>(u"frmItemTypesInv"_s);
+    const auto choose = [this](const char *letters) {
+        showActive(*list);
+        ASSERT_TRUE(list->moveToKey(1)); // of type "Food"
+        press(Qt::Key_Return);
+        takeItem();
+        typeBox()->setFocus();
+        type(letters);
+    };
+    const auto storedType = [this] { return kitchen.number(u"SELECT ItemTypeID FROM Item WHERE ItemID = 1"_s); };
+    openList();
+    choose("g");
+    child<QToolButton>(*item, "btnItemType")->click();
+    EXPECT_EQ(findScreen<ListScreen>(u"frmItemTypesInv"_s)->dataSet().text(u"TypeName"), u"Goods");
+    clickItem("btnCancel");
+    settle();
+
+    const QStringList question{u"Do you want to save changes?"_s};
+    choose("g");
+    item->close();
+    ASSERT_TRUE(item && item->isVisible());
+    EXPECT_EQ(prompts.take(), question);
+    prompts.answer = Answer::Yes;
+    item->close();
+    settle();
+    EXPECT_FALSE(item);
+    EXPECT_EQ(prompts.take(), question);
+    EXPECT_EQ(storedType(), 2);
+
+    choose("f");
+    press(Qt::Key_Escape);
+    item->close();
+    settle();
+    EXPECT_FALSE(item) << "taken back";
+    choose("f");
+    QTest::mouseClick(child<QPushButton>(*item, "btnCancel"), Qt::LeftButton);
+    settle();
+    EXPECT_EQ(prompts.take(), QStringList());
+    EXPECT_EQ(storedType(), 2);
+}
+
+// Whatever key or click makes the choice, the user is told before anything closes, and the box goes back.
+TEST_F(ItemScreens, RefuseAChoiceOfAnItemThatAnotherUserEdits)
+{
+    const auto anna = kitchen.anotherUser();
+    Engine::Table theirs(anna->database, u"Item"_s);
+    theirs.open();
+    ASSERT_TRUE(theirs.findKey({1}));
+    openList();
+    press(Qt::Key_Return);
+    takeItem();
+    theirs.edit();
+    const std::function<void()> choices[] = {
+        [] { press(Qt::Key_Down); },
+        [] { type("g"); },
+        [] { press(Qt::Key_Delete); },
+        [this] {
+            typeBox()->setCurrentIndex(1);
+            Q_EMIT typeBox()->activated(1); // picked from the open list
+            clickItem("btnOK"); // in the same breath
+        },
+    };
+    for (const auto &choice : choices) {
+        typeBox()->setFocus();
+        choice();
+        QCoreApplication::processEvents();
+        ASSERT_EQ(prompts.said.size(), 1);
+        EXPECT_TRUE(prompts.take().first().contains("is being edited by another user"_L1));
+        EXPECT_EQ(typeBox()->currentText(), u"Food"_s);
+        ASSERT_TRUE(item && item->isVisible());
+    }
+}
+
+TEST_F(ItemScreens, CloseAlthoughTheListCannotFollow)
+{
+    openList();
+    press(Qt::Key_Return);
+    takeItem();
+    QObject::connect(item, &EntryScreen::saved, item,
+                     [] { throw Engine::EngineError(Engine::ErrorCode::ConnectionLost, u"gone"_s); });
+    enter("editItemDescription", "Pears");
+    clickItem("btnOK");
+    settle();
+    EXPECT_FALSE(item);
+    EXPECT_EQ(prompts.take(), QStringList());
+    EXPECT_EQ(kitchen.text(u"SELECT ItemDescription FROM Item WHERE ItemID = 1"_s), u"Pears");
 }
 
 TEST_F(ItemScreens, CopyTheCurrentItem)

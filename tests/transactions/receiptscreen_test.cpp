@@ -244,6 +244,40 @@ TEST_F(ReceiptScreenTest, vendorNumberIsLookedUpOnLeavingAndEscapeRestoresIt)
     EXPECT_EQ(vendorNo->text(), u"V2"_s);
 }
 
+// The receipt is edited when the number is taken over, not while it is typed.
+TEST_F(ReceiptScreenTest, typedVendorNumberTouchesTheReceiptWhenItIsTakenOver)
+{
+    const auto anna = kitchen.anotherUser();
+    Engine::Table theirs(anna->database, u"IReceipt"_s);
+    theirs.open();
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    theirs.refresh();
+    open(7);
+    auto *vendorNo = child<QLineEdit>(*screen, "editVendorNo");
+    type("V2");
+    EXPECT_NO_THROW(theirs.edit()) << "nobody holds it";
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(prompts.take().value(0).startsWith("error: "_L1)) << "held by anna by now";
+    EXPECT_EQ(focusName(), u"editVendorNo"_s);
+    EXPECT_EQ(vendorNo->text(), u"V2"_s);
+    theirs.cancel();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(vendorNo->text(), u"V1"_s);
+    screen->close();
+    settle();
+    EXPECT_FALSE(screen);
+    EXPECT_EQ(prompts.take(), QStringList()) << "nothing has changed";
+
+    open(7);
+    type("V2");
+    screen->close();
+    EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s)) << "what is typed is not lost";
+    pressOK();
+    settle();
+    EXPECT_EQ(prompts.take(), QStringList());
+    EXPECT_EQ(kitchen.number(u"SELECT VendorID FROM IReceipt"_s), 2);
+}
+
 TEST_F(ReceiptScreenTest, closingAsksOnlyWhenThereIsSomethingToSave)
 {
     open();
@@ -301,6 +335,11 @@ TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
     type("Z");
     EXPECT_TRUE(prompts.take().value(0).startsWith("inform: Posted receipts cannot be changed...\n\n"_L1));
     EXPECT_EQ(order->text(), QString());
+    auto *vendor = child<LookupComboBox>(*screen, "cboVendor");
+    vendor->setFocus();
+    press(Qt::Key_Down);
+    EXPECT_EQ(prompts.take().size(), 1);
+    EXPECT_EQ(vendor->currentText(), u"First"_s);
     grid->setFocus();
     type("9");
     EXPECT_EQ(prompts.take().size(), 1);

@@ -1,0 +1,16 @@
+#pragma once
+
+class QFocusEvent;
+class QWidget;
+
+namespace Tallymere {
+
+// Whether a widget leaves what has been entered elsewhere as it is, without handing it over: one with the dynamic
+// property "keepsEntry", such as a Cancel button.
+bool keepsEntry(const QWidget *widget);
+
+// Whether the cursor goes for good with this event, so that what has been entered is handed over: not when it comes
+// back by itself, from a pop-up or another window, and not when it goes to a widget that keeps the entry.
+bool handsEntryOver(const QFocusEvent &focusOut);
+
+} // namespace Tallymere
