@@ -28,7 +28,7 @@ void formatYears(Engine::Table &company)
         {u"EPeriodFromYYYY"_s, tr("Error Before Period invalid...\nEnter year as 2 digits")},
         {u"EPeriodToYYYY"_s, tr("Error After Period invalid...\nEnter year as 2 digits")}};
     for (const auto &[field, message] : messages)
-        company.field(field).format = twoDigitYearFormat(message, field);
+        company.field(field).format = twoDigitYearFormat(message, field, NoNumber::AsNoInteger);
 }
 
 void formatPeriods(Engine::Table &company)

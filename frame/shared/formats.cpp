@@ -152,12 +152,28 @@ FieldFormat dateFormat(const RegionalSettings &settings, const QString &column)
 
 int yearOfTwoDigits(int digits) { return digits >= 50 ? 1900 + digits : 2000 + digits; }
 
-FieldFormat twoDigitYearFormat(const QString &message, const QString &column)
+namespace {
+
+// -1, which is no such year, for a text that is no number.
+int yearFromText(const QString &text, const QString &column, NoNumber noNumber)
+{
+    try {
+        return integerFromText(text, column);
+    } catch (const RuleError &) {
+        if (noNumber == NoNumber::AsNoInteger)
+            throw;
+        return -1;
+    }
+}
+
+} // namespace
+
+FieldFormat twoDigitYearFormat(const QString &message, const QString &column, NoNumber noNumber)
 {
     FieldFormat format;
     format.edit = emptyWhenNull([](const Value &value) { return value.toText().mid(2, 2); });
-    format.parse = nullWhenEmpty([message, column](const QString &text) {
-        const int year = integerFromText(text, column);
+    format.parse = nullWhenEmpty([=](const QString &text) {
+        const int year = yearFromText(text, column, noNumber);
         if (year < 0 || year > 99)
             throw RuleError(message, column);
         return Value(yearOfTwoDigits(year));

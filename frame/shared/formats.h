@@ -24,9 +24,13 @@ Engine::FieldFormat quantityFormat(const RegionalSettings &settings = RegionalSe
 Engine::FieldFormat dateFormat(const RegionalSettings &settings = RegionalSettings::system(),
                                const QString &column = {});
 
+// How a text that is no number is refused: as any other number that does not fit, or by what it is.
+enum class NoNumber { AsWrongNumber, AsNoInteger };
+
 // Shown in full, edited as its last two digits. 50 to 99 are read as 1950 to 1999, 0 to 49 as 2000 to 2049; any
 // other number is refused with the message.
-Engine::FieldFormat twoDigitYearFormat(const QString &message, const QString &column = {});
+Engine::FieldFormat twoDigitYearFormat(const QString &message, const QString &column = {},
+                                       NoNumber noNumber = NoNumber::AsWrongNumber);
 
 // A number from 1 to 12. The label is what the message calls the field.
 Engine::FieldFormat periodNumberFormat(const QString &label, const QString &column = {});

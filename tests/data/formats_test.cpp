@@ -95,15 +95,17 @@ TEST(DateFormat, ShowsMonthNamesAndReadsShortDates)
 
 TEST(TwoDigitYear, ShowsFourAndTakesTwo)
 {
-    const FieldFormat format = twoDigitYearFormat(u"Period invalid...\nEnter year as 2 digits"_s);
+    const QString message = u"Period invalid...\nEnter year as 2 digits"_s;
+    const FieldFormat format = twoDigitYearFormat(message);
     EXPECT_EQ(format.edit(Value(2004)), u"04"_s);
     const std::pair<QString, int> good[] = {{u"0"_s, 2000}, {u"49"_s, 2049}, {u"50"_s, 1950}, {u"99"_s, 1999}};
     for (const auto &[text, year] : good)
         EXPECT_EQ(format.parse(text), Value(year));
     EXPECT_TRUE(format.parse(u""_s).isNull());
-    for (const auto &text : {u"2004"_s, u"100"_s, u"-1"_s})
-        EXPECT_EQ(refusal(format, text), u"Period invalid...\nEnter year as 2 digits"_s);
-    EXPECT_EQ(refusal(format, u"4x"_s), u"'4x' is not a valid integer value"_s);
+    for (const auto &text : {u"2004"_s, u"100"_s, u"-1"_s, u"4x"_s, u"99999999999"_s})
+        EXPECT_EQ(refusal(format, text), message);
+    EXPECT_EQ(refusal(twoDigitYearFormat(message, {}, NoNumber::AsNoInteger), u"4x"_s),
+              u"'4x' is not a valid integer value"_s);
 }
 
 TEST(PeriodNumber, LiesBetweenOneAndTwelve)
