@@ -7,6 +7,7 @@
 #include "frame/shared/formats.h"
 #include "frame/shared/ruleerror.h"
 
+#include <algorithm>
 #include <QScopeGuard>
 #include <utility>
 
@@ -27,6 +28,8 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
 {
     m_header.uniqueFields = QStringList(m_kind.numberField);
     m_header.uniqueFields.removeAll(QString());
+    m_header.recordName = [this] { return m_kind.titleOf(m_header); };
+    m_lines.recordName = [this] { return lineName(); };
     m_lines.addLookup(u"ItemNo"_s, FieldType::Text, 20, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
     m_lines.addLookup(u"ItemDescription"_s, FieldType::Text, 40,
                       {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemDescription"_s});
@@ -155,18 +158,15 @@ void DocumentEntry::headerEdited()
         m_header.cancel();
         refusePosted();
     }
-    numberLinesFrom(Engine::singleValue(
-        database(), u"SELECT max(Seq) FROM %1 WHERE %2 = ?"_s.arg(m_kind.lineTable, m_kind.keyField), {key()}));
+    m_nextSeq = highestSeq() + 1;
 }
-
-void DocumentEntry::numberLinesFrom(const Value &last) { m_nextSeq = last.toInt() + 1; }
 
 void DocumentEntry::checkHeader()
 {
     if (isPosted())
         return;
     checkComplete();
-    m_lines.checkBrowseMode();
+    saveLine();
     checkPeriod();
     checkReferences();
     for (const QString &field : m_kind.requiredFields)
@@ -255,10 +255,30 @@ void DocumentEntry::beginLineChange()
     throw RuleError(tr("This line was deleted or replaced by another user. The lines are shown anew."), LineGrid);
 }
 
+// A new line that has a number already could not be written with it.
 void DocumentEntry::numberLine()
 {
-    if (m_lines.value(u"Seq").isNull())
-        m_lines.set(u"Seq", m_nextSeq++);
+    const bool numbered = !m_lines.value(u"Seq").isNull();
+    if (numbered && m_lines.state() != Engine::TableState::Insert)
+        return;
+    if (numbered)
+        m_nextSeq = std::max(m_nextSeq, highestSeq() + 1);
+    m_lines.set(u"Seq", m_nextSeq++);
+}
+
+int DocumentEntry::highestSeq() const
+{
+    return Engine::singleValue(database(),
+                               u"SELECT max(Seq) FROM %1 WHERE %2 = ?"_s.arg(m_kind.lineTable, m_kind.keyField),
+                               {key()})
+        .toInt();
+}
+
+QString DocumentEntry::lineName() const
+{
+    const QString document = m_kind.titleOf(m_header);
+    const int seq = m_lines.integer(u"Seq");
+    return seq == 0 ? document : tr("%1, line %2").arg(document, QString::number(seq));
 }
 
 void DocumentEntry::validateItem(const Value &itemId) const
@@ -341,12 +361,24 @@ void DocumentEntry::save()
     } catch (const Engine::EngineError &error) {
         if (error.code() != ErrorCode::KeyViolation)
             throw;
-        throw RuleError(m_kind.numberTaken, m_kind.numberField.isEmpty() ? m_kind.keyField : m_kind.numberField);
+        throw RuleError(m_kind.numberTaken, m_kind.shownField());
     }
-    if (m_lines.isEditing())
-        m_lines.post();
+    saveLine();
     m_header.flush();
     m_lines.flush();
+}
+
+// The numbers of lines are no concern of the user; saved again, the line gets another one.
+void DocumentEntry::saveLine()
+{
+    try {
+        m_lines.checkBrowseMode();
+    } catch (const Engine::EngineError &error) {
+        if (error.code() != ErrorCode::KeyViolation)
+            throw;
+        throw RuleError(tr("The line could not be saved because another one was added meanwhile. Try again."),
+                        LineGrid);
+    }
 }
 
 void DocumentEntry::cancel()

@@ -117,7 +117,6 @@ private:
     void newHeader();
     void refusePosted() const;
     void headerEdited();
-    void numberLinesFrom(const Engine::Value &last);
     void setFiscalDefaults();
     void checkHeader();
     void checkPeriod();
@@ -125,6 +124,9 @@ private:
     void lockLines();
     void beginLineChange();
     void numberLine();
+    int highestSeq() const;
+    QString lineName() const;
+    void saveLine();
     void validateItem(const Engine::Value &itemId) const;
     void restoreLines();
     void beginVisit();

@@ -5,6 +5,10 @@
 #include <QString>
 #include <QStringList>
 
+namespace Engine {
+class DataSet;
+}
+
 namespace Tallymere {
 
 // All that tells one kind of document from another: the rules of its entry, its list and its posting, the screens and
@@ -21,6 +25,7 @@ struct DocumentKind
     QString dateField; // "ReceiptDate"
 
     // --- entering a document ------------------------------------------------------------------------------------
+    QString title; // of one, in its caption and in messages: "Receipt %1"
     QString postedRefusal; // shown when a posted document is about to be edited
     QString numberTaken; // raised when the number or the key exists already
     QString nothingEntered; // raised when a document without lines is saved
@@ -33,6 +38,9 @@ struct DocumentKind
     QString postCaption; // "Post Inventory Receipts"
 
     PostingKind posting;
+
+    QString titleOf(const Engine::DataSet &header) const; // "Receipt 1001"
+    const QString &shownField() const { return numberField.isEmpty() ? keyField : numberField; }
 };
 
 } // namespace Tallymere

@@ -13,6 +13,7 @@ DocumentList::DocumentList(Engine::Database &database, const DocumentKind &kind,
     , m_table(database, m_kind.headerTable)
 {
     m_table.setIndex(index);
+    m_table.recordName = [this] { return m_kind.titleOf(m_table); };
     m_table.addCalculated(u"Periodppyyyy"_s, FieldType::Text, 8, [](const Engine::DataSet &row) {
         return Engine::Value(row.text(u"GLPeriod") + u'/' + row.text(u"GLYear"));
     });

@@ -54,7 +54,7 @@ QString ReceiptEntry::caption() const
     const bool unnamed = header().text(u"ReceiptNo").isEmpty() || header().value(u"VendorID").isNull();
     if (header().state() == Engine::TableState::Insert && unnamed)
         return tr("New Inventory Receipt");
-    return tr("Receipt %1").arg(header().text(u"ReceiptNo"));
+    return kind().titleOf(header());
 }
 
 void ReceiptEntry::chooseVendorByNumber(const QString &vendorNo)

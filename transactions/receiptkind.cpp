@@ -23,6 +23,7 @@ const DocumentKind &DocumentKinds::receipt()
         .keyField = u"ReceiptID"_s,
         .numberField = u"ReceiptNo"_s,
         .dateField = u"ReceiptDate"_s,
+        .title = tr("Receipt %1"),
         .postedRefusal = tr("Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you must "
                             "\"reverse\" it (enter it again with the opposite amount)."),
         .numberTaken = tr("Receipt no. already exists"),

@@ -354,6 +354,23 @@ TEST_P(Entry, ATakenNumberIsRefused)
     EXPECT_EQ(refusalOf([&] { entry.save(); }), QString());
 }
 
+TEST_P(Entry, ATakenNumberOfALineIsNotToldAsTheReceiptsAndGivenAnew)
+{
+    newReceipt();
+    addLine(2, 1, 1);
+    entry.newLine();
+    entry.lines().set(u"QtyReceived", 2.0);
+    entry.chooseItem(3);
+    entry.lines().set(u"UnitCost", 4.0);
+    kitchen.execute(
+        u"INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (%1, 3, 1, 9, 9)"_s.arg(
+            entry.key()));
+    EXPECT_EQ(refusalOf([&] { entry.save(); }),
+              u"The line could not be saved because another one was added meanwhile. Try again. -> Lines");
+    entry.save();
+    EXPECT_EQ(kitchen.lines(entry.key()), (QStringList{u"1|1|5|3.25"_s, u"2|2|1|1"_s, u"3|1|9|9"_s, u"4|3|2|4"_s}));
+}
+
 TEST_P(Entry, PostedReceiptsAreNotChanged)
 {
     const QString text =
@@ -384,9 +401,16 @@ TEST_P(Entry, AReceiptBeingEditedIsLockedForOthers)
     ASSERT_TRUE(theirs.openDocument(5));
     ASSERT_TRUE(entry.openDocument(5));
     entry.header().edit();
-    EXPECT_EQ(errorOf([&] { theirs.newLine(); }), ErrorCode::RecordLocked);
+    QString text;
+    EXPECT_EQ(errorOf([&] { theirs.newLine(); }, &text), ErrorCode::RecordLocked);
+    EXPECT_TRUE(text.startsWith("'Receipt 1005' is being edited by another user"_L1)) << text.toStdString();
     entry.cancel();
     theirs.newLine();
+    // Lines are named by their document as well.
+    entry.header().cancel();
+    theirs.cancel();
+    theirs.lines().edit();
+    EXPECT_EQ(errorOf([&] { entry.lines().edit(); }, &text), ErrorCode::RecordLocked);
 }
 
 } // namespace
