@@ -13,7 +13,7 @@ using TfrmBankInv = MasterForm<MasterKinds::bank, Ui::TfrmBankInv>;
 } // namespace
 
 TfrmBanksInv::TfrmBanksInv(ScreenContext &context, QWidget *parent)
-    : MasterListScreen(context, MasterKinds::bank(), makes<TfrmBankInv>(), parent)
+    : MasterListScreen(context, MasterKinds::bank(), RecordScreens::makes<TfrmBankInv>(), parent)
 {
     buildList([](ListDescription &list) {
         menu(list, tr("&View")).commands.prepend({.name = u"mnuBankBook"_s, .caption = tr("&Bank Book")});

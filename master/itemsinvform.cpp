@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 TfrmItemsInv::TfrmItemsInv(ScreenContext &context, QWidget *parent)
-    : SearchedListScreen(context, MasterKinds::item(), makes<TfrmItemInv>(), parent)
+    : SearchedListScreen(context, MasterKinds::item(), RecordScreens::makes<TfrmItemInv>(), parent)
 {
     buildSearched<TfrmItemsFilter, TfrmItemsFind>([this](ListDescription &list) { describe(list); });
 }
@@ -56,7 +56,7 @@ std::function<void()> TfrmItemsInv::jump(const QString &screen, const QString &r
     };
 }
 
-void TfrmItemsInv::btnCopyClick() { records().openCopy(); }
+void TfrmItemsInv::btnCopyClick() { openCopy(); }
 
 TfrmItemsFilter::TfrmItemsFilter(ScreenContext &context, QWidget *parent)
     : FilterDialog(context,

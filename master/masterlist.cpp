@@ -11,39 +11,37 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 MasterList::MasterList(Engine::Database &database, const MasterKind &kind)
-    : m_kind(kind)
-    , m_table(database, kind.table)
+    : RecordList(database, kind.table, kind.keyField)
+    , m_kind(kind)
 {
-    m_table.recordName = [this] { return m_kind.recordName(m_table); };
+    table().recordName = [this] { return m_kind.recordName(table()); };
     if (m_kind.addFields)
-        m_kind.addFields(m_table);
+        m_kind.addFields(table());
     setOrder(m_kind.orders.at(m_kind.firstOrder));
 }
 
 void MasterList::open()
 {
-    m_table.open();
+    table().open();
     if (m_kind.formatFields)
-        m_kind.formatFields(m_table);
+        m_kind.formatFields(table());
 }
-
-bool MasterList::moveTo(int key) { return m_table.locate(m_kind.keyField, {key}); }
 
 void MasterList::remove(Prompts &prompts)
 {
-    if (m_table.isEmpty())
+    if (table().isEmpty())
         return;
     requireRemovable(prompts);
     // Waits for a user who is editing the record, and reads it anew, before others are kept from writing.
-    m_table.edit();
-    m_table.cancel();
+    table().edit();
+    table().cancel();
 
-    Engine::Transaction transaction(m_table.database().connection());
+    Engine::Transaction transaction(table().database().connection());
     refuseIfReferred();
     removeOwned();
-    m_table.remove();
+    table().remove();
     transaction.commit();
-    m_table.flush();
+    table().flush();
 }
 
 void MasterList::requireRemovable(Prompts &prompts) const
@@ -52,7 +50,7 @@ void MasterList::requireRemovable(Prompts &prompts) const
         prompts.warn(m_kind.systemRecord);
         throw SilentAbort();
     }
-    if (!prompts.confirm(Question::Confirm, tr("Delete '%1'?").arg(m_kind.recordName(m_table))))
+    if (!prompts.confirm(Question::Confirm, tr("Delete '%1'?").arg(currentName())))
         throw SilentAbort();
 }
 
@@ -62,7 +60,7 @@ void MasterList::refuseIfReferred() const
         if (!isReferredBy(refusal))
             continue;
         const QString opening = m_kind.undeletable.isEmpty() ? tr("Unable to delete '%1'...") : m_kind.undeletable;
-        throw RuleError(opening.arg(m_kind.recordName(m_table)) + u'\n' + refusal.reason);
+        throw RuleError(opening.arg(currentName()) + u'\n' + refusal.reason);
     }
 }
 
@@ -71,14 +69,14 @@ bool MasterList::isReferredBy(const MasterKind::Refusal &refusal) const
 {
     return std::any_of(refusal.fields.begin(), refusal.fields.end(), [&](const QString &field) {
         const QString sql = u"SELECT 1 FROM %1 WHERE %2 = ? LIMIT 1"_s.arg(refusal.table, field);
-        return !Engine::singleValue(m_table.database(), sql, {currentKey()}).isNull();
+        return !Engine::singleValue(table().database(), sql, {currentKey()}).isNull();
     });
 }
 
 void MasterList::removeOwned() const
 {
     for (const QString &name : m_kind.ownedTables) {
-        Engine::Table rows(m_table.database(), name);
+        Engine::Table rows(table().database(), name);
         rows.open();
         rows.setFilter(u"(%1 = %2)"_s.arg(m_kind.keyField).arg(currentKey()));
         rows.setFiltered(true);

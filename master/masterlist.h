@@ -1,7 +1,6 @@
 #pragma once
 
-#include "engine/table.h"
-#include "frame/shared/prompts.h"
+#include "data/recordlist.h"
 #include "master/masterkind.h"
 
 #include <QCoreApplication>
@@ -9,28 +8,20 @@
 namespace Tallymere {
 
 // The rules of the list of a master table: its order, and deleting.
-class MasterList final
+class MasterList final : public RecordList
 {
     Q_DECLARE_TR_FUNCTIONS(Tallymere::MasterList)
 
 public:
     MasterList(Engine::Database &database, const MasterKind &kind); // the kind outlives the object
-    MasterList(const MasterList &) = delete;
-    MasterList &operator=(const MasterList &) = delete;
 
     void open();
 
     const MasterKind &kind() const { return m_kind; }
-    Engine::Table &table() { return m_table; }
-    const Engine::Table &table() const { return m_table; }
-    int currentKey() const { return m_table.integer(m_kind.keyField); } // 0 when the list is empty
-    bool moveTo(int key); // false, and no move, when the list does not show it
-    void setOrder(const MasterKind::Order &order) { m_table.setIndex(order.index); }
+    void setOrder(const MasterKind::Order &order) { table().setIndex(order.index); }
 
-    // Deletes the current record, and what goes with it, after asking. SilentAbort when the answer is not OK, or
-    // when the record belongs to the system and that has been said. RuleError when something refers to the record;
-    // EngineError when another user is editing it, or has deleted it. Does nothing on an empty list.
-    void remove(Prompts &prompts);
+    // A record of the system is refused, and so is one that something refers to.
+    void remove(Prompts &prompts) override;
 
 private:
     void requireRemovable(Prompts &prompts) const;
@@ -39,7 +30,6 @@ private:
     void removeOwned() const;
 
     const MasterKind &m_kind;
-    Engine::Table m_table;
 };
 
 } // namespace Tallymere

@@ -2,6 +2,7 @@
 
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
+#include "master/masterrecordform.h"
 
 #include <algorithm>
 
@@ -10,10 +11,10 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 MasterListScreen::MasterListScreen(ScreenContext &context, const MasterKind &kind,
-                                   RecordOpener::MakeRecord makeRecord, QWidget *parent)
+                                   const RecordScreens::Make &makeRecord, QWidget *parent)
     : ListScreen(context, parent)
     , m_list(context.data.databaseTallymere(), kind)
-    , m_records(new RecordOpener(context, m_list, std::move(makeRecord), this))
+    , m_records(new ListRecordOpener(context, {kind.screen, kind.listScreen, makeRecord}, m_list, this))
 {
     m_list.open();
 }
@@ -105,5 +106,14 @@ void MasterListScreen::btnNewClick() { m_records->openNew(); }
 void MasterListScreen::btnEditClick() { m_records->openCurrent(); }
 
 void MasterListScreen::btnDeleteClick() { m_records->removeCurrent(); }
+
+void MasterListScreen::openCopy()
+{
+    if (m_list.table().isEmpty())
+        return;
+    std::unique_ptr<RecordScreen> screen = m_records->make();
+    static_cast<MasterRecordScreen &>(*screen).newCopy(m_list.table());
+    screen.release()->show();
+}
 
 } // namespace Tallymere

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/listscreen.h"
+#include "controls/recordopener.h"
 #include "master/masterlist.h"
-#include "master/recordopenerform.h"
 
 namespace Tallymere {
 
@@ -15,14 +15,12 @@ class MasterListScreen : public ListScreen
     Q_OBJECT
 
 public:
-    template <typename Record> static RecordOpener::MakeRecord makes() { return RecordOpener::makes<Record>(); }
-
     void btnNewClick();
     void btnEditClick(); // a record whose screen is open comes to the front
     void btnDeleteClick();
 
 protected:
-    MasterListScreen(ScreenContext &context, const MasterKind &kind, RecordOpener::MakeRecord makeRecord,
+    MasterListScreen(ScreenContext &context, const MasterKind &kind, const RecordScreens::Make &makeRecord,
                      QWidget *parent);
 
     // Called once by the constructor of a screen. The description may be added to before the list is built from it.
@@ -34,7 +32,7 @@ protected:
     static ListMenu &menu(ListDescription &description, const QString &caption);
 
     MasterList &list() { return m_list; }
-    RecordOpener &records() { return *m_records; }
+    void openCopy(); // a new record copied from the current one; of an empty list nothing
     void showStep() override; // read anew, on the first row
 
 private:
@@ -43,14 +41,14 @@ private:
     QList<ListCommand> viewCommands();
 
     MasterList m_list;
-    RecordOpener *m_records;
+    ListRecordOpener *m_records;
 };
 
 template <const MasterKind &(*kind)(), typename Record> class MasterListOf final : public MasterListScreen
 {
 public:
     MasterListOf(ScreenContext &context, QWidget *parent)
-        : MasterListScreen(context, kind(), makes<Record>(), parent)
+        : MasterListScreen(context, kind(), RecordScreens::makes<Record>(), parent)
     {
         buildList();
     }

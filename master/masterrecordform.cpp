@@ -9,7 +9,7 @@
 namespace Tallymere {
 
 MasterRecordScreen::MasterRecordScreen(ScreenContext &context, const MasterKind &kind, QWidget *parent)
-    : EntryScreen(context, parent)
+    : RecordScreen(context, parent)
     , m_record(context.data.databaseTallymere(), kind)
 {
     m_record.open();
@@ -67,6 +67,8 @@ bool MasterRecordScreen::openRecord(int key)
     recordChanged();
     return found;
 }
+
+std::optional<int> MasterRecordScreen::storedKey() const { return isNew() ? std::nullopt : std::optional(key()); }
 
 void MasterRecordScreen::firstShown()
 {

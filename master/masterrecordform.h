@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/entryscreen.h"
+#include "controls/recordscreen.h"
 #include "master/masterrecord.h"
 
 namespace Tallymere {
@@ -9,16 +9,17 @@ namespace Tallymere {
 //
 // A screen without anything of its own is MasterForm<kind, form>; others derive, set up their form and call
 // buildRecord().
-class MasterRecordScreen : public EntryScreen
+class MasterRecordScreen : public RecordScreen
 {
     Q_OBJECT
 
 public:
     ~MasterRecordScreen() override;
 
-    void newRecord();
+    void newRecord() override;
     void newCopy(const Engine::DataSet &original); // a row of the list
-    bool openRecord(int key); // false when there is no such record any more
+    bool openRecord(int key) override;
+    std::optional<int> storedKey() const override;
     int key() const { return m_record.key(); }
     bool isNew() const { return m_record.isNew(); }
 

@@ -17,7 +17,6 @@ tallymere_room(tallymere_master_screens SCREENS
         masterrecordform.cpp masterrecordform.h
         masterscreensform.cpp masterscreensform.h
         recordfindform.cpp recordfindform.h
-        recordopenerform.cpp recordopenerform.h
         recordpairform.cpp recordpairform.h
         searchedlistform.cpp searchedlistform.h
         vcontactform.cpp vcontactform.h

@@ -5,8 +5,8 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 SearchedListScreen::SearchedListScreen(ScreenContext &context, const MasterKind &kind,
-                                       RecordOpener::MakeRecord makeRecord, QWidget *parent)
-    : MasterListScreen(context, kind, std::move(makeRecord), parent)
+                                       const RecordScreens::Make &makeRecord, QWidget *parent)
+    : MasterListScreen(context, kind, makeRecord, parent)
 {
 }
 

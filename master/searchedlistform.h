@@ -18,7 +18,7 @@ public:
     void btnFindClick();
 
 protected:
-    SearchedListScreen(ScreenContext &context, const MasterKind &kind, RecordOpener::MakeRecord makeRecord,
+    SearchedListScreen(ScreenContext &context, const MasterKind &kind, const RecordScreens::Make &makeRecord,
                        QWidget *parent);
 
     // Called once by the constructor of a screen, with its dialogs.

@@ -1,12 +1,12 @@
 #include "master/vendorform.h"
 
 #include "controls/listgrid.h"
+#include "controls/recordopener.h"
 #include "data/datamodule.h"
 #include "frame/shared/ruleerror.h"
 #include "master/addressbuttonsform.h"
 #include "master/dialerinvform.h"
 #include "master/masterkinds.h"
-#include "master/recordopenerform.h"
 #include "master/vcontactform.h"
 #include "ui_vendorform.h"
 
@@ -18,7 +18,9 @@ TfrmVendor::TfrmVendor(ScreenContext &context, QWidget *parent)
     : MasterRecordScreen(context, MasterKinds::vendor(), parent)
     , m_ui(std::make_unique<Ui::TfrmVendor>())
     , m_contacts(context.data.databaseTallymere(), MasterKinds::vendorContact())
-    , m_contactCards(new RecordOpener(context, m_contacts, RecordOpener::makes<TfrmVContact>(), this))
+    , m_contactCards(new ListRecordOpener(
+          context, {m_contacts.kind().screen, m_contacts.kind().listScreen, RecordScreens::makes<TfrmVContact>()},
+          m_contacts, this))
 {
     m_ui->setupUi(this);
     QFont capitals = m_ui->editZipCode->font();

@@ -14,7 +14,7 @@ class TfrmVendor;
 
 namespace Tallymere {
 
-class RecordOpener;
+class ListRecordOpener;
 
 // The card of a vendor, with the vendor's contacts, which have cards of their own.
 class TfrmVendor final : public MasterRecordScreen
@@ -37,7 +37,7 @@ private:
 
     std::unique_ptr<Ui::TfrmVendor> m_ui;
     MasterList m_contacts;
-    RecordOpener *m_contactCards;
+    ListRecordOpener *m_contactCards;
 };
 
 } // namespace Tallymere

@@ -13,7 +13,7 @@ using TfrmWarehouseInv = MasterForm<MasterKinds::location, Ui::TfrmWarehouseInv>
 } // namespace
 
 TfrmWarehousesInv::TfrmWarehousesInv(ScreenContext &context, QWidget *parent)
-    : MasterListScreen(context, MasterKinds::location(), makes<TfrmWarehouseInv>(), parent)
+    : MasterListScreen(context, MasterKinds::location(), RecordScreens::makes<TfrmWarehouseInv>(), parent)
 {
     buildList([this](ListDescription &list) {
         menu(list, tr("&Records"))

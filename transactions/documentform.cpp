@@ -21,7 +21,7 @@ constexpr QStringView descriptionColumn = u"ItemDescription";
 } // namespace
 
 DocumentScreen::DocumentScreen(ScreenContext &context, std::unique_ptr<DocumentEntry> entry, QWidget *parent)
-    : EntryScreen(context, parent)
+    : RecordScreen(context, parent)
     , m_entry(std::move(entry))
 {
     m_entry->open();
@@ -71,17 +71,23 @@ QAction *DocumentScreen::addPopupCommand(const QString &name, const QString &cap
     return action;
 }
 
-void DocumentScreen::newDocument()
+void DocumentScreen::newRecord()
 {
     m_entry->newDocument();
     showHeader();
 }
 
-bool DocumentScreen::openDocument(int key)
+bool DocumentScreen::openRecord(int key)
 {
     const bool found = m_entry->openDocument(key);
     showHeader();
     return found;
+}
+
+std::optional<int> DocumentScreen::storedKey() const
+{
+    const bool isNew = m_entry->header().state() == Engine::TableState::Insert;
+    return isNew ? std::nullopt : std::optional(m_entry->key());
 }
 
 void DocumentScreen::showHeader()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/entryscreen.h"
+#include "controls/recordscreen.h"
 #include "controls/tablemodel.h"
 #include "transactions/documententry.h"
 
@@ -13,16 +13,16 @@ class LineGrid;
 
 // The screen of one document: header fields over a grid of lines. The rules are DocumentEntry's; the screens of the
 // kinds give the form and what is special in their header.
-class DocumentScreen : public EntryScreen
+class DocumentScreen : public RecordScreen
 {
     Q_OBJECT
 
 public:
     ~DocumentScreen() override;
 
-    void newDocument(); // throws when no number can be taken
-    // False when there is no such document any more.
-    bool openDocument(int key);
+    void newRecord() override;
+    bool openRecord(int key) override;
+    std::optional<int> storedKey() const override;
 
 protected:
     DocumentScreen(ScreenContext &context, std::unique_ptr<DocumentEntry> entry, QWidget *parent);

@@ -86,7 +86,7 @@ TfrmInvReceipt *TfrmInvReceipts::makeReceipt()
 void TfrmInvReceipts::btnNewClick()
 {
     std::unique_ptr<TfrmInvReceipt> screen(makeReceipt());
-    screen->newDocument();
+    screen->newRecord();
     screen.release()->show();
 }
 
@@ -97,7 +97,7 @@ void TfrmInvReceipts::btnEditClick()
         return;
     }
     std::unique_ptr<TfrmInvReceipt> screen(makeReceipt());
-    if (screen->openDocument(m_list.currentKey()))
+    if (screen->openRecord(m_list.currentKey()))
         screen.release()->show();
     else
         refreshList(); // another user has deleted it

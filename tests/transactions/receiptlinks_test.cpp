@@ -34,7 +34,7 @@ TEST_F(ReceiptLinksTest, buttonsOpenTheirListsOnTheReceiptsRecord)
     };
     for (const auto &[button, name, right, key, named, first] : cases) {
         SCOPED_TRACE(button);
-        ASSERT_TRUE(screen.openDocument(1));
+        ASSERT_TRUE(screen.openRecord(1));
         Engine::DataSet &rows = lists[name]->dataSet();
         lists[name]->applyFilter(u"(%1 = 1)"_s.arg(key));
         allowed.clear();
@@ -44,7 +44,7 @@ TEST_F(ReceiptLinksTest, buttonsOpenTheirListsOnTheReceiptsRecord)
         child<QToolButton>(screen, button)->click();
         EXPECT_FALSE(rows.isFiltered());
         EXPECT_EQ(rows.integer(key), named);
-        screen.newDocument();
+        screen.newRecord();
         child<QToolButton>(screen, button)->click();
         EXPECT_EQ(rows.integer(key), first) << "none yet: the first by name";
     }

@@ -27,9 +27,9 @@ protected:
     {
         screen = new TfrmInvReceipt(*context, mainWindow.get());
         if (key == 0)
-            screen->newDocument();
+            screen->newRecord();
         else
-            EXPECT_TRUE(screen->openDocument(key));
+            EXPECT_TRUE(screen->openRecord(key));
         grid = child<LineGrid>(*screen, "DBGrid1");
         showActive(*screen);
         return *screen;

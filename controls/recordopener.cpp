@@ -1,0 +1,125 @@
+#include "controls/recordopener.h"
+
+#include "controls/listscreen.h"
+#include "controls/screenmetrics.h"
+#include "data/recordlist.h"
+#include "engine/error.h"
+#include "frame/shared/ruleerror.h"
+
+#include <QApplication>
+#include <QPointer>
+
+namespace Tallymere {
+
+namespace {
+
+void showSaved(const QString &listScreen, int key)
+{
+    if (auto *list = findScreen<ListScreen>(listScreen)) {
+        list->refreshList();
+        list->moveToKey(key);
+    }
+}
+
+} // namespace
+
+RecordOpener::RecordOpener(ScreenContext &context, RecordScreens screens, QWidget *owner)
+    : QObject(owner)
+    , m_context(context)
+    , m_screens(std::move(screens))
+    , m_owner(owner)
+{
+}
+
+std::unique_ptr<RecordScreen> RecordOpener::make()
+{
+    std::unique_ptr<RecordScreen> screen(m_screens.make(m_context, m_owner->parentWidget()));
+    connect(screen.get(), &EntryScreen::saved, screen.get(),
+            [opener = QPointer(this), list = m_screens.list](int key) {
+                if (opener)
+                    opener->follow(key);
+                else
+                    showSaved(list, key);
+            });
+    // Work goes on in the window that the record was opened from, not in the main window that both belong to.
+    connect(screen.get(), &QObject::destroyed, this, [this] {
+        if (m_owner->isVisible())
+            m_owner->activateWindow();
+    });
+    return screen;
+}
+
+void RecordOpener::follow(int key) { showSaved(m_screens.list, key); }
+
+RecordScreen *RecordOpener::openScreenOf(int key) const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *record = qobject_cast<RecordScreen *>(window);
+        if (record && record->objectName() == m_screens.record && record->isVisible() && record->storedKey() == key)
+            return record;
+    }
+    return nullptr;
+}
+
+void RecordOpener::openNew()
+{
+    std::unique_ptr<RecordScreen> screen = make();
+    screen->newRecord();
+    screen.release()->show();
+}
+
+void RecordOpener::open(int key, const QString &name)
+{
+    if (RecordScreen *open = openScreenOf(key)) {
+        bringToFront(*open);
+        return;
+    }
+    const WaitCursor hourglass;
+    std::unique_ptr<RecordScreen> screen = make();
+    if (!screen->openRecord(key))
+        throw RuleError(tr("'%1' was deleted by another user.").arg(name));
+    screen.release()->show();
+}
+
+ListRecordOpener::ListRecordOpener(ScreenContext &context, RecordScreens screens, RecordList &list, QWidget *owner)
+    : RecordOpener(context, std::move(screens), owner)
+    , m_list(list)
+{
+}
+
+void ListRecordOpener::follow(int key)
+{
+    m_list.table().refresh();
+    m_list.moveTo(key);
+}
+
+void ListRecordOpener::openCurrent()
+{
+    if (m_list.table().isEmpty()) {
+        openNew();
+        return;
+    }
+    try {
+        open(m_list.currentKey(), m_list.currentName());
+    } catch (const RuleError &) {
+        m_list.table().refresh();
+        throw;
+    }
+}
+
+void ListRecordOpener::removeCurrent()
+{
+    const int key = m_list.currentKey();
+    try {
+        m_list.remove(context().prompts);
+    } catch (const Engine::EngineError &error) {
+        if (error.code() == Engine::ErrorCode::RecordGone)
+            m_list.table().refresh();
+        throw;
+    }
+    if (RecordScreen *open = openScreenOf(key))
+        open->close(); // it has no changes, or the record would not have gone
+}
+
+} // namespace Tallymere
