@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -11,6 +12,7 @@ namespace Tallymere {
 
 namespace {
 constexpr int rowPadding = 7; // design pixels
+constexpr int hintMargin = 16;
 } // namespace
 
 DataGrid::DataGrid(QWidget *parent)
@@ -68,6 +70,36 @@ bool DataGrid::viewportEvent(QEvent *event)
     QToolTip::showText(help->globalPos(), cut ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNoWrap) : QString(),
                        this, visualRect(index));
     return true;
+}
+
+void DataGrid::setHint(const QString &hint)
+{
+    if (hint == m_hint)
+        return;
+    m_hint = hint;
+    viewport()->update();
+}
+
+QString DataGrid::shownHint() const
+{
+    const bool empty = m_model && m_model->dataSet().isOpen() && m_model->rowCount() == 0 && !m_model->hasFailed();
+    return empty ? m_hint : QString();
+}
+
+void DataGrid::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (const QString hint = shownHint(); !hint.isEmpty())
+        paintHint(hint);
+}
+
+void DataGrid::paintHint(const QString &hint)
+{
+    const int margin = scaled(this, hintMargin);
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, hint);
 }
 
 } // namespace Tallymere

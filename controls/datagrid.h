@@ -19,12 +19,20 @@ public:
     int fullWidth() const;
     int heightForRows(int rows) const;
 
+    // What an empty grid shows instead of rows.
+    void setHint(const QString &hint);
+    virtual QString shownHint() const; // empty while there are rows, or nobody knows
+
 protected:
     void showModel(TableModel *model); // takes widths from the model's columns
     bool viewportEvent(QEvent *event) override; // a text that is cut shows whole beside the mouse
+    void paintEvent(QPaintEvent *event) override;
 
 private:
+    void paintHint(const QString &hint);
+
     TableModel *m_model = nullptr;
+    QString m_hint;
 };
 
 } // namespace Tallymere

@@ -2,12 +2,16 @@
 
 #include "controls/linedelegate.h"
 #include "controls/screenmetrics.h"
+#include "controls/stepbox.h"
+#include "frame/shared/ruleerror.h"
 
 #include <QApplication>
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -51,12 +55,13 @@ LineGrid::LineGrid(QWidget *parent)
 }
 
 void LineGrid::setLines(Engine::Table &lines, const QList<GridColumn> &columns, LineActions actions,
-                        const Guard &guard)
+                        const Guard &guard, const LineOptions &options)
 {
     m_lines = &lines;
     m_actions = std::move(actions);
+    m_options = options;
     m_guard = &guard;
-    m_model = new LineModel(lines, columns, guard, this);
+    m_model = new LineModel(lines, columns, options, guard, this);
     showModel(m_model);
     delete selectionModel();
     setSelectionModel(new LineSelection(
@@ -67,8 +72,18 @@ void LineGrid::setLines(Engine::Table &lines, const QList<GridColumn> &columns, 
     });
     connect(&lines, &Engine::DataSet::currentChanged, this, &LineGrid::takeCursor);
     connect(m_model, &QAbstractItemModel::dataChanged, this, &LineGrid::takeCursor);
+    if (!m_options.fixedLines)
+        setHint(tr("No lines yet. Double-click here or press Page Down to enter the first one."));
     takeCursor();
 }
+
+void LineGrid::setReadOnly(bool readOnly)
+{
+    m_readOnly = readOnly;
+    viewport()->update();
+}
+
+QString LineGrid::shownHint() const { return m_readOnly ? QString() : DataGrid::shownHint(); }
 
 // --- the cursor -------------------------------------------------------------------------------------------------
 
@@ -98,6 +113,7 @@ QString LineGrid::currentField() const
 
 bool LineGrid::showColumn(const QString &field)
 {
+    m_ledByCheck = true;
     const int column = m_model->columnOf(field);
     if (column < 0)
         return false;
@@ -122,7 +138,7 @@ void LineGrid::enterAtFirstLine()
 
 void LineGrid::appendLine()
 {
-    if (m_readOnly || !finishEntry())
+    if (!appends() || !finishEntry())
         return;
     if (m_guard->run(m_actions.append) && m_model->currentRow() >= 0)
         selectCell(m_model->currentRow(), 0);
@@ -130,7 +146,7 @@ void LineGrid::appendLine()
 
 void LineGrid::removeLine()
 {
-    if (m_readOnly)
+    if (!appends())
         return;
     dropEntry();
     m_guard->run(m_actions.remove);
@@ -139,15 +155,48 @@ void LineGrid::removeLine()
 
 void LineGrid::nextCell()
 {
-    const QModelIndex current = currentIndex();
-    if (!current.isValid())
-        appendLine();
-    else if (current.column() + 1 < m_model->columnCount())
-        selectCell(current.row(), current.column() + 1);
-    else if (current.row() + 1 < m_model->rowCount())
-        selectCell(current.row() + 1, 0);
+    const QModelIndex next = m_model->neighbour(currentIndex(), LineModel::Way::Enter);
+    if (currentIndex().isValid() && next.isValid())
+        setCurrentIndex(next);
     else
         appendLine();
+}
+
+// False when the focus is to leave the grid. A new line in which nothing has been entered is dropped then.
+bool LineGrid::moveByTab(bool forward)
+{
+    if (!currentIndex().isValid())
+        return false;
+    const QModelIndex next =
+        m_model->neighbour(currentIndex(), forward ? LineModel::Way::Tab : LineModel::Way::Backtab);
+    if (next.isValid()) {
+        setCurrentIndex(next);
+        return true;
+    }
+    if (forward && appends() && !m_model->isUntouched()) {
+        appendLine();
+        return true;
+    }
+    if (m_model->isUntouched())
+        m_guard->run([this] { m_lines->cancel(); });
+    return false;
+}
+
+// Moves the cursor for the user. What a check does with it meanwhile is not the user's move.
+void LineGrid::moveByHand(const std::function<void()> &move)
+{
+    const int before = currentIndex().column();
+    m_ledByCheck = false;
+    move();
+    searchIfEntered(before);
+}
+
+// The search opens once the event that has moved the cursor is over.
+void LineGrid::searchIfEntered(int before)
+{
+    const bool entered = currentIndex().column() != before && !m_ledByCheck && !m_editor;
+    if (m_options.searchOnEntering && entered && searches(currentField()))
+        QMetaObject::invokeMethod(this, &LineGrid::search, Qt::QueuedConnection);
 }
 
 void LineGrid::search()
@@ -155,16 +204,21 @@ void LineGrid::search()
     const QString field = currentField();
     if (m_readOnly || !searches(field))
         return;
+    const QString typed = typedText();
+    const QPersistentModelIndex cell = currentIndex();
     dropEntry();
-    m_guard->run([&] { m_actions.search(field); });
+    bool chosen = false;
+    m_guard->run([&] { chosen = m_actions.search(field, typed); });
     setFocus();
+    if (!chosen && !typed.isEmpty())
+        reopen(cell, typed);
 }
 
 // The first key locks the document; when that is refused, no editor opens. The line may stand in another row then, as
 // the lines have been read anew.
 bool LineGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
-    const bool opens = index.isValid() && !m_editor && editTriggers().testFlag(trigger);
+    const bool opens = index.flags().testFlag(Qt::ItemIsEditable) && !m_editor && editTriggers().testFlag(trigger);
     if (!opens || !m_actions.begin)
         return DataGrid::edit(index, trigger, event);
     const int column = index.column();
@@ -177,25 +231,45 @@ bool LineGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event
 
 QWidget *LineGrid::openEditor(QWidget *parent, const QModelIndex &index)
 {
-    auto *edit = new QLineEdit(parent);
-    const QString field = m_model->columns()[index.column()].field;
-    edit->setObjectName(u"editCell"_s);
-    edit->setAccessibleName(m_model->columns()[index.column()].title);
-    edit->setFrame(false);
-    edit->setAlignment(m_model->columns()[index.column()].alignment | Qt::AlignVCenter);
+    const GridColumn &column = m_model->columns()[index.column()];
+    m_editorBox = steps(column.field) ? makeStepBox(parent, column.field) : makeEdit(parent, column.field);
+    m_editorBox->setObjectName(u"editCell"_s);
+    m_editorBox->setAccessibleName(column.title);
+    m_editor->setAlignment(column.alignment | Qt::AlignVCenter);
+    m_offered = m_model->data(index, Qt::EditRole).toString();
+    m_editor->setText(m_offered);
+    m_editor->selectAll();
+    connect(m_editor, &QLineEdit::textEdited, this, &LineGrid::completeEntry);
+    m_edited = index;
+    return m_editorBox;
+}
+
+QWidget *LineGrid::makeStepBox(QWidget *parent, const QString &field)
+{
+    auto *box = new StepBox(std::as_const(*m_lines).field(field), m_options.steps[field](), parent);
+    box->setFrame(false);
+    m_editor = box->edit();
+    return box;
+}
+
+QWidget *LineGrid::makeEdit(QWidget *parent, const QString &field)
+{
+    m_editor = new QLineEdit(parent);
+    m_editor->setFrame(false);
     const Engine::Field &shown = std::as_const(*m_lines).field(field);
     if (shown.type == Engine::FieldType::Text && shown.size > 0)
-        edit->setMaxLength(shown.size);
-    m_offered = m_model->data(index, Qt::EditRole).toString();
-    edit->setText(m_offered);
+        m_editor->setMaxLength(shown.size);
     if (searches(field)) {
-        const QToolButton *button = addSearchButton(edit, scaled(this, 22));
+        const QToolButton *button = addSearchButton(m_editor, scaled(this, 22));
         connect(button, &QToolButton::clicked, this, &LineGrid::search, Qt::QueuedConnection);
     }
-    connect(edit, &QLineEdit::textEdited, this, &LineGrid::completeEntry);
-    m_editor = edit;
-    m_edited = index;
-    return edit;
+    return m_editor;
+}
+
+void LineGrid::editorGone()
+{
+    m_editor = nullptr;
+    m_editorBox = nullptr;
 }
 
 void LineGrid::completeEntry(const QString &typed)
@@ -209,21 +283,47 @@ void LineGrid::completeEntry(const QString &typed)
     m_editor->setSelection(static_cast<int>(whole.size()), static_cast<int>(typed.size() - whole.size()));
 }
 
+QString LineGrid::typedText() const
+{
+    return m_editor && m_editor->text() != m_offered ? m_editor->text() : QString();
+}
+
 void LineGrid::commitEntry()
 {
+    if (m_reporting)
+        throw SilentAbort();
     if (!m_editor)
         return;
     const QString text = m_editor->text();
-    if (text != m_offered)
-        m_actions.enter(m_model->columns()[m_edited.column()].field, text);
+    const QString &field = m_model->columns()[m_edited.column()].field;
+    if (text != m_offered) {
+        requireWithin(field, text);
+        m_actions.enter(field, text);
+    }
     closeEntry();
+}
+
+void LineGrid::requireWithin(const QString &field, const QString &text) const
+{
+    if (!steps(field))
+        return;
+    const Engine::Field &shown = std::as_const(*m_lines).field(field);
+    const Engine::Value value = shown.parse(text);
+    const LineSteps limits = m_options.steps[field]();
+    if (value.toDouble() > limits.highest)
+        throw RuleError(tr("'%1' must not be greater than %2").arg(shown.caption(), shown.editText(limits.highest)),
+                        field);
+    if (value.toDouble() < limits.lowest)
+        throw RuleError(tr("'%1' must not be less than %2").arg(shown.caption(), shown.editText(limits.lowest)),
+                        field);
 }
 
 void LineGrid::closeEntry()
 {
     if (!m_editor)
         return;
-    QLineEdit *editor = std::exchange(m_editor, nullptr);
+    QWidget *editor = std::exchange(m_editorBox, nullptr);
+    m_editor = nullptr;
     closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
@@ -234,9 +334,10 @@ bool LineGrid::finishEntry()
     const std::exception_ptr failure = Guard::attempt([this] { commitEntry(); });
     if (!failure)
         return true;
-    m_reporting = true;
-    m_guard->report(failure);
-    m_reporting = false;
+    {
+        const QScopedValueRollback reporting(m_reporting, true);
+        m_guard->report(failure);
+    }
     if (m_editor) {
         m_editor->setFocus();
         m_editor->selectAll();
@@ -254,23 +355,32 @@ void LineGrid::editorLeft(Qt::FocusReason reason)
         return;
     }
     const QString text = m_editor->text();
-    const QModelIndex index = m_edited;
+    const QPersistentModelIndex index = m_edited;
     const std::exception_ptr failure = Guard::attempt([this] { commitEntry(); });
     if (!failure)
-        return;
-    // The box must wait for the end of the event that took the focus away; until then the cursor is held.
+        return leave(reason);
     closeEntry();
+    reportLater(failure, [this, index, text] { reopen(index, text); });
+}
+
+// The box must wait for the end of the event that took the focus away; until then the cursor is held.
+void LineGrid::reportLater(const std::exception_ptr &failure, const std::function<void()> &then)
+{
     m_reporting = true;
     QMetaObject::invokeMethod(
-        this, [this, index = QPersistentModelIndex(index), text, failure] { reopen(index, text, failure); },
+        this,
+        [this, failure, then] {
+            m_guard->report(failure);
+            m_reporting = false;
+            setFocus();
+            if (then)
+                then();
+        },
         Qt::QueuedConnection);
 }
 
-void LineGrid::reopen(const QModelIndex &index, const QString &text, const std::exception_ptr &failure)
+void LineGrid::reopen(const QModelIndex &index, const QString &text)
 {
-    m_guard->report(failure);
-    m_reporting = false;
-    setFocus();
     if (!index.isValid())
         return;
     setCurrentIndex(index);
@@ -281,6 +391,47 @@ void LineGrid::reopen(const QModelIndex &index, const QString &text, const std::
     }
 }
 
+// --- the focus --------------------------------------------------------------------------------------------------
+
+bool LineGrid::isLeft(Qt::FocusReason reason) const
+{
+    const QWidget *next = QApplication::focusWidget();
+    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason && next && next != this
+        && !isAncestorOf(next) && !next->property("keepsEntry").toBool();
+}
+
+void LineGrid::leave(Qt::FocusReason reason)
+{
+    if (!m_options.backToStart || m_reporting || !m_model || m_model->rowCount() == 0 || !isLeft(reason))
+        return;
+    if (const std::exception_ptr failure = Guard::attempt([this] { m_lines->moveTo(0); }))
+        reportLater(failure, {});
+    else
+        selectCell(0, 0);
+}
+
+bool LineGrid::focusNextPrevChild(bool next)
+{
+    bool stays = false;
+    moveByHand([&] { stays = moveByTab(next); });
+    return stays || DataGrid::focusNextPrevChild(next);
+}
+
+void LineGrid::focusInEvent(QFocusEvent *event)
+{
+    DataGrid::focusInEvent(event);
+    if (!currentIndex().isValid() && m_model && m_model->rowCount() > 0)
+        takeCursor();
+}
+
+void LineGrid::focusOutEvent(QFocusEvent *event)
+{
+    DataGrid::focusOutEvent(event);
+    leave(event->reason());
+}
+
+// --- keys in the editor -----------------------------------------------------------------------------------------
+
 bool LineGrid::editorKey(QKeyEvent *event)
 {
     m_deleting = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
@@ -290,7 +441,7 @@ bool LineGrid::editorKey(QKeyEvent *event)
     }
     if (isEnter(event)) {
         if (finishEntry())
-            nextCell();
+            moveByHand([this] { nextCell(); });
         return true;
     }
     switch (event->key()) {
@@ -304,6 +455,9 @@ bool LineGrid::editorKey(QKeyEvent *event)
         return true;
     case Qt::Key_Up:
     case Qt::Key_Down:
+        if (steps(m_model->columns()[m_edited.column()].field))
+            return false;
+        [[fallthrough]];
     case Qt::Key_PageDown:
         if (finishEntry())
             keyPressEvent(event);
@@ -329,10 +483,10 @@ void LineGrid::keyPressEvent(QKeyEvent *event)
         if (hasControl(event))
             search();
         else
-            nextCell();
+            moveByHand([this] { nextCell(); });
         return;
     }
-    if (event->key() == Qt::Key_PageDown && !m_readOnly) {
+    if (event->key() == Qt::Key_PageDown && appends()) {
         appendLine();
         return;
     }
@@ -346,24 +500,36 @@ void LineGrid::keyPressEvent(QKeyEvent *event)
     const bool typing = !event->text().isEmpty() && event->text().front().isPrint() && !hasControl(event);
     if (typing && m_model->rowCount() == 0)
         appendLine();
-    DataGrid::keyPressEvent(event);
+    moveByHand([&] { DataGrid::keyPressEvent(event); });
+}
+
+// The column is entered when the button is let go; a search over a button that is down would not see it go up.
+void LineGrid::mousePressEvent(QMouseEvent *event)
+{
+    m_pressedFrom = currentIndex().column();
+    m_ledByCheck = false;
+    DataGrid::mousePressEvent(event);
+}
+
+void LineGrid::mouseReleaseEvent(QMouseEvent *event)
+{
+    DataGrid::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton)
+        searchIfEntered(std::exchange(m_pressedFrom, currentIndex().column()));
 }
 
 void LineGrid::mouseDoubleClickEvent(QMouseEvent *event)
 {
+    if (event->button() == Qt::LeftButton && m_model->rowCount() == 0) {
+        appendLine();
+        return;
+    }
     const QModelIndex index = indexAt(event->position().toPoint());
     if (index.isValid() && index == currentIndex() && searches(currentField())) {
         search();
         return;
     }
     DataGrid::mouseDoubleClickEvent(event);
-}
-
-void LineGrid::focusInEvent(QFocusEvent *event)
-{
-    DataGrid::focusInEvent(event);
-    if (!currentIndex().isValid() && m_model && m_model->rowCount() > 0)
-        takeCursor();
 }
 
 } // namespace Tallymere

@@ -16,19 +16,22 @@ struct LineActions
     std::function<void()> remove;
     // The text typed into a column of the current line, by the column's field.
     std::function<void(const QString &field, const QString &text)> enter;
-    std::function<void(const QString &field)> columnSelected;
-    // Opens the search of a column that has one; the columns are named in searchColumns.
-    std::function<void(const QString &field)> search;
-    QStringList searchColumns;
+    std::function<void(const QString &field)> columnSelected = {};
+    // Opens the search of a column that has one, on what has been typed so far in the cell, which may be nothing.
+    // False when nothing was chosen: what has been typed is there again. The columns are named in searchColumns.
+    std::function<bool(const QString &field, const QString &typed)> search = {};
+    QStringList searchColumns = {};
     // The full text that a typed beginning stands for; empty when there is none or the column does not complete.
-    std::function<QString(const QString &field, const QString &typed)> complete;
+    std::function<QString(const QString &field, const QString &typed)> complete = {};
 };
 
 // The lines of a document, edited in place.
 //
-// Enter goes to the next column, from the last one to the next line, and appends one after the last. Page Down
-// appends, Ctrl+Insert and Ctrl+Delete append and delete, Ctrl+Enter searches. Leaving a row writes it; when that
-// is refused the cursor stays. Escape drops first the text being typed, then the changes of the row.
+// Enter goes to the next column, from the last one to the next line, and appends one after the last. So does Tab, and
+// Shift+Tab goes back; Shift+Tab leaves the grid from its first cell, Tab from the last one of a new line in which
+// nothing has been entered. Page Down appends, Ctrl+Insert and Ctrl+Delete append and delete, Ctrl+Enter searches. A
+// double click begins the first line. Leaving a row writes it; when that is refused the cursor stays. Escape drops
+// first the text being typed, then the changes of the row.
 class LineGrid : public DataGrid
 {
     Q_OBJECT
@@ -36,12 +39,14 @@ class LineGrid : public DataGrid
 public:
     explicit LineGrid(QWidget *parent = nullptr);
 
-    void setLines(Engine::Table &lines, const QList<GridColumn> &columns, LineActions actions, const Guard &guard);
+    void setLines(Engine::Table &lines, const QList<GridColumn> &columns, LineActions actions, const Guard &guard,
+                  const LineOptions &options = {});
     // Lines can neither be appended nor deleted nor searched; what an edit says is up to the document.
-    void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
+    void setReadOnly(bool readOnly);
     bool isReadOnly() const { return m_readOnly; }
 
     // Hands the text being typed to the document; throws what refuses it, and the editor stays open.
+    // SilentAbort while a refusal is still to be shown.
     void commitEntry();
     bool hasEntry() const { return m_editor != nullptr; }
     void dropEntry(); // without a word
@@ -52,25 +57,43 @@ public:
     void removeLine();
     void nextCell();
     void search(); // in the current column, where it has one
+    QString shownHint() const override;
 
 protected:
     using DataGrid::edit;
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     friend class LineDelegate;
 
     QWidget *openEditor(QWidget *parent, const QModelIndex &index);
+    QWidget *makeStepBox(QWidget *parent, const QString &field);
+    QWidget *makeEdit(QWidget *parent, const QString &field);
     bool editorKey(QKeyEvent *event);
     void editorLeft(Qt::FocusReason reason);
-    void editorGone() { m_editor = nullptr; }
+    void editorGone();
     bool finishEntry(); // commits and closes; false, with the editor open, when refused
     void closeEntry();
-    void reopen(const QModelIndex &index, const QString &text, const std::exception_ptr &failure);
+    void reportLater(const std::exception_ptr &failure, const std::function<void()> &then);
+    void reopen(const QModelIndex &index, const QString &text);
     void completeEntry(const QString &typed);
+    QString typedText() const; // what has been typed in the open editor, if anything
+    void requireWithin(const QString &field, const QString &text) const;
+
+    bool isLeft(Qt::FocusReason reason) const;
+    void leave(Qt::FocusReason reason);
+    bool moveByTab(bool forward);
+    void moveByHand(const std::function<void()> &move);
+    void searchIfEntered(int before);
+    bool appends() const { return !m_readOnly && !m_options.fixedLines; }
+    bool steps(const QString &field) const { return m_options.steps.contains(field); }
 
     bool moveToRow(int row);
     void takeCursor();
@@ -84,13 +107,17 @@ private:
     Engine::Table *m_lines = nullptr;
     LineModel *m_model = nullptr;
     LineActions m_actions;
+    LineOptions m_options;
     const Guard *m_guard = nullptr;
+    QWidget *m_editorBox = nullptr; // the open editor: m_editor, or what holds it
     QLineEdit *m_editor = nullptr;
     QPersistentModelIndex m_edited;
     QString m_offered; // what the editor began with
     bool m_readOnly = false;
     bool m_reporting = false; // a refusal is being shown: the focus may come and go
     bool m_deleting = false; // the last key took text away: no completion
+    bool m_ledByCheck = false; // a refusal has put the cursor where it is
+    int m_pressedFrom = -1; // the column in which the cursor was when the mouse button went down
 };
 
 } // namespace Tallymere

@@ -4,9 +4,11 @@ namespace Tallymere {
 
 using Engine::TableState;
 
-LineModel::LineModel(Engine::Table &lines, const QList<GridColumn> &columns, const Guard &guard, QObject *parent)
+LineModel::LineModel(Engine::Table &lines, const QList<GridColumn> &columns, LineOptions options,
+                     const Guard &guard, QObject *parent)
     : TableModel(lines, columns, guard, parent)
     , m_lines(lines)
+    , m_options(std::move(options))
 {
     connect(&lines, &Engine::DataSet::stateChanged, this, &LineModel::takeList);
     connect(&lines, &Engine::DataSet::fieldChanged, this, [this] { updateRow(currentRow()); });
@@ -20,9 +22,29 @@ int LineModel::currentRow() const
     return m_lines.state() == TableState::Insert ? m_lines.recordCount() : m_lines.recordIndex();
 }
 
+bool LineModel::isUntouched() const { return m_lines.state() == TableState::Insert && !m_lines.isModified(); }
+
 Qt::ItemFlags LineModel::flags(const QModelIndex &index) const
 {
-    return TableModel::flags(index) | Qt::ItemIsEditable;
+    Qt::ItemFlags flags = TableModel::flags(index);
+    flags.setFlag(Qt::ItemIsEditable,
+                  index.isValid() && !m_options.fixed.contains(columns()[index.column()].field));
+    return flags;
+}
+
+bool LineModel::stopsAt(int column, Way way) const
+{
+    return way != Way::Enter || !m_options.passedByEnter.contains(columns()[column].field);
+}
+
+QModelIndex LineModel::neighbour(const QModelIndex &cell, Way way) const
+{
+    const int step = way == Way::Backtab ? -1 : 1;
+    for (int column = cell.column() + step; column >= 0 && column < columnCount(); column += step) {
+        if (stopsAt(column, way))
+            return index(cell.row(), column);
+    }
+    return index(cell.row() + step, way == Way::Backtab ? columnCount() - 1 : 0);
 }
 
 int LineModel::dataRows() const { return TableModel::dataRows() + (m_lines.state() == TableState::Insert ? 1 : 0); }

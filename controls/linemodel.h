@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/lineoptions.h"
 #include "controls/tablemodel.h"
 #include "engine/table.h"
 
@@ -8,22 +9,33 @@
 
 namespace Tallymere {
 
-// The lines of a table with the one that is being edited or entered. A line being entered is the last row.
+// The lines of a table with the one that is being edited or entered. A line being entered is the last row. It knows
+// which cells can be typed into and in which order the keyboard reaches them.
 class LineModel final : public TableModel
 {
     Q_OBJECT
 
 public:
-    LineModel(Engine::Table &lines, const QList<GridColumn> &columns, const Guard &guard, QObject *parent);
+    LineModel(Engine::Table &lines, const QList<GridColumn> &columns, LineOptions options, const Guard &guard,
+              QObject *parent);
 
     int currentRow() const; // of the table's current record; -1 when there is none
+    bool isUntouched() const; // the current record is new, and nothing has been entered in it
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+    // The cell that comes after another: for Enter, and for Tab and Shift+Tab, which pass over none. Not valid
+    // beyond the last cell, or before the first.
+    enum class Way { Enter, Tab, Backtab };
+    QModelIndex neighbour(const QModelIndex &cell, Way way) const;
 
 private:
     Engine::Value cellValue(int row, int field) const override;
     int dataRows() const override;
 
+    bool stopsAt(int column, Way way) const;
+
     Engine::Table &m_lines;
+    const LineOptions m_options;
 };
 
 // A selection that asks before the cursor leaves its row, and stays where it is when that is refused.

@@ -1,17 +1,12 @@
 #include "controls/listgrid.h"
 
-#include "controls/screenmetrics.h"
-
 #include <algorithm>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QPainter>
 
 namespace Tallymere {
 
 namespace {
-constexpr int hintMargin = 16; // design pixels
-
 // Ctrl+Home and Ctrl+End, which go where Home and End go and select as these do.
 bool isFarJump(const QEvent &event)
 {
@@ -169,36 +164,11 @@ void ListGrid::mouseDoubleClickEvent(QMouseEvent *event)
 
 // --- painting ---------------------------------------------------------------------------------------------------
 
-void ListGrid::setHint(const QString &hint)
-{
-    if (hint == m_hint)
-        return;
-    m_hint = hint;
-    viewport()->update();
-}
-
-QString ListGrid::shownHint() const
-{
-    const bool empty = m_data->isOpen() && tableModel()->rowCount() == 0 && !tableModel()->hasFailed();
-    return empty ? m_hint : QString();
-}
-
 void ListGrid::paintEvent(QPaintEvent *event)
 {
     DataGrid::paintEvent(event);
     if (tableModel()->isPartial())
         QMetaObject::invokeMethod(tableModel(), &TableModel::readRest, Qt::QueuedConnection);
-    if (const QString hint = shownHint(); !hint.isEmpty())
-        paintHint(hint);
-}
-
-void ListGrid::paintHint(const QString &hint)
-{
-    const int margin = scaled(this, hintMargin);
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, hint);
 }
 
 void ListGrid::showEvent(QShowEvent *event)

@@ -30,9 +30,6 @@ public:
     QList<RowRange> selectedRows() const;
 
     ListSearch *search() const { return m_search; }
-    // What an empty list shows instead of rows.
-    void setHint(const QString &hint);
-    QString shownHint() const; // empty while there are rows, or nobody knows
 
     void keyboardSearch(const QString &text) override;
 
@@ -56,12 +53,10 @@ private:
     void takeCursor(); // the data set has moved
     void giveCursor(const QModelIndex &current); // the user has moved
     void dropSelection(); // but for the row of the cursor
-    void paintHint(const QString &hint);
 
     Engine::DataSet *m_data = nullptr;
     const Guard *m_guard = nullptr;
     ListSearch *m_search = nullptr;
-    QString m_hint;
     bool m_moving = false;
 };
 

@@ -41,7 +41,7 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
 
 TfrmItemSearchInv::~TfrmItemSearchInv() = default;
 
-int TfrmItemSearchInv::choose(ScreenContext &context, QWidget *window, int itemId)
+int TfrmItemSearchInv::choose(ScreenContext &context, QWidget *window, int itemId, const QString &typed)
 {
     const QString name = u"frmItemSearch"_s;
     auto *search = findScreen<TfrmItemSearchInv>(name);
@@ -52,6 +52,7 @@ int TfrmItemSearchInv::choose(ScreenContext &context, QWidget *window, int itemI
     // While it is open it belongs to the window, so that this is what comes back to the front.
     search->setParent(window, search->windowFlags());
     search->SetItemID(itemId);
+    search->m_typed = typed;
     const bool accepted = search->exec() == QDialog::Accepted;
     search->setParent(window->parentWidget(), search->windowFlags());
     window->activateWindow();
@@ -73,9 +74,12 @@ void TfrmItemSearchInv::showStep()
     m_ui->cboItemType->setChosenId(0);
     m_search.reset();
     m_search.setItemId(itemId);
-    m_ui->editFindItemNo->clear();
+    m_ui->editFindItemNo->setText(m_typed);
     m_ui->editFindItemDescription->clear();
     m_ui->editFindItemNo->setFocus();
+    m_erases = false;
+    if (!m_typed.isEmpty())
+        typeItemNo(m_typed);
 }
 
 void TfrmItemSearchInv::typeItemNo(const QString &text)

@@ -19,9 +19,10 @@ public:
     TfrmItemSearchInv(ScreenContext &context, QWidget *parent);
     ~TfrmItemSearchInv() override;
 
-    // Shows the kept instance, named "frmItemSearch", over a window, beginning on an item. The chosen item, or 0. The
-    // instance is made at the first use and stays a child of the window's parent.
-    static int choose(ScreenContext &context, QWidget *window, int itemId);
+    // Shows the kept instance, named "frmItemSearch", over a window, beginning on an item, or on what a text that was
+    // typed for its number leads to. The chosen item, or 0. The instance is made at the first use and stays a child of
+    // the window's parent.
+    static int choose(ScreenContext &context, QWidget *window, int itemId, const QString &typed = {});
 
     void SetItemID(int itemId); // the item to begin on; an unknown one begins on the first
     int GetItemID() const; // the item under the cursor, to be read after OK
@@ -39,6 +40,7 @@ private:
 
     std::unique_ptr<Ui::TfrmItemSearchInv> m_ui;
     ItemSearch m_search;
+    QString m_typed; // before it opens: the beginning of a number
     bool m_erases = false; // the key that changes a search box
 };
 

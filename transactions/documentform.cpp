@@ -33,7 +33,7 @@ DocumentScreen::~DocumentScreen()
     m_entry->header().disconnect(this);
 }
 
-void DocumentScreen::buildDocument(const QList<GridColumn> &columns)
+void DocumentScreen::buildDocument(const QList<GridColumn> &columns, const LineOptions &options)
 {
     m_grid = findChild<LineGrid *>(u"DBGrid1"_s);
     m_posted = findChild<QLabel *>(u"lblPosted"_s);
@@ -44,11 +44,11 @@ void DocumentScreen::buildDocument(const QList<GridColumn> &columns)
                       .remove = [this] { m_entry->removeLine(); },
                       .enter = [this](const QString &field, const QString &text) { enterCell(field, text); },
                       .columnSelected = [this](const QString &field) { m_entry->setLineColumn(field); },
-                      .search = [this](const QString &) { searchItem(); },
+                      .search = [this](const QString &, const QString &typed) { return searchItem(typed); },
                       .searchColumns = {numberColumn.toString()},
                       .complete = [this](const QString &field,
                                          const QString &typed) { return completeDescription(field, typed); }},
-                     guard());
+                     guard(), options);
     m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert)),
             &QAction::triggered, m_grid, &LineGrid::appendLine);
@@ -142,13 +142,14 @@ QString DocumentScreen::completeDescription(const QString &field, const QString 
     return items.locate(descriptionColumn.toString(), {typed}, options) ? items.text(descriptionColumn) : QString();
 }
 
-void DocumentScreen::searchItem()
+bool DocumentScreen::searchItem(const QString &typed)
 {
-    const int itemId = TfrmItemSearchInv::choose(context(), this, m_entry->lines().integer(u"ItemID"));
+    const int itemId = TfrmItemSearchInv::choose(context(), this, m_entry->lines().integer(u"ItemID"), typed);
     if (itemId == 0)
-        return;
+        return false;
     m_entry->setLineColumn(numberColumn.toString());
     m_entry->chooseItem(itemId);
+    return true;
 }
 
 // --- saving, closing, keys --------------------------------------------------------------------------------------

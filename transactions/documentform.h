@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/lineoptions.h"
 #include "controls/recordscreen.h"
 #include "controls/tablemodel.h"
 #include "transactions/documententry.h"
@@ -29,7 +30,7 @@ protected:
 
     // Called once by the constructor of a screen, after its form has been set up: binds the header's widgets and
     // the grid "DBGrid1", which shows the columns, and the label "lblPosted".
-    void buildDocument(const QList<GridColumn> &columns);
+    void buildDocument(const QList<GridColumn> &columns, const LineOptions &options = {});
 
     DocumentEntry &entry() const { return *m_entry; }
     LineGrid *grid() const { return m_grid; }
@@ -49,7 +50,7 @@ private:
     void beginLine();
     void enterCell(const QString &field, const QString &text);
     void chooseItemByDescription(const QString &text);
-    void searchItem();
+    bool searchItem(const QString &typed); // false: none was chosen
     QString completeDescription(const QString &field, const QString &typed) const;
 
     std::unique_ptr<DocumentEntry> m_entry;

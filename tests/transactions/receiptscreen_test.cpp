@@ -95,6 +95,24 @@ TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
     EXPECT_EQ(kitchen.averageCost(2), 1.25);
 }
 
+TEST_F(ReceiptScreenTest, firstLineIsBegunByDoubleClickAndEnteredByTab)
+{
+    open();
+    QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, grid->viewport()->rect().center());
+    ASSERT_EQ(grid->model()->rowCount(), 1);
+    for (const char *text : {"5", "A10", "", "3"}) {
+        type(text);
+        press(Qt::Key_Tab);
+    }
+    EXPECT_EQ(cursor(), u"1,0"_s);
+    EXPECT_EQ(cell(0, 3), u"3.00"_s);
+    for (int i = 0; i < 5; ++i)
+        press(Qt::Key_Backtab);
+    EXPECT_FALSE(grid->hasFocus()) << "out by the first cell";
+    EXPECT_EQ(grid->model()->rowCount(), 1);
+    screen->btnCancelClick();
+}
+
 TEST_F(ReceiptScreenTest, refusedLineKeepsTheCursorOnItsRowAndColumn)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}, {2, 4, 1.0}});
@@ -386,6 +404,15 @@ TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
         press(Qt::Key_Escape);
     }));
     EXPECT_EQ(cell(0, 2), u"Bread"_s) << "cancelled";
+    type("B");
+    EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(search, [&](TfrmItemSearchInv &dialog) {
+        EXPECT_EQ(child<QLineEdit>(dialog, "editFindItemNo")->text(), u"B"_s) << "what was typed goes on there";
+        EXPECT_EQ(dialog.GetItemID(), 3);
+        type("1");
+        press(Qt::Key_Escape);
+    }));
+    EXPECT_EQ(child<QLineEdit>(*grid, "editCell")->text(), u"B"_s) << "nothing chosen: typing goes on here";
+    press(Qt::Key_Escape);
     pressOK();
     settle();
     EXPECT_EQ(kitchen.lines(7), QStringList(u"1|2|5|3"_s));

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+namespace Tallymere {
+
+// By how much the number in a cell is stepped, and how far it may go, typed or stepped.
+struct LineSteps
+{
+    double step = 1;
+    double lowest = 0;
+    double highest = 0;
+};
+
+// What a line grid does differently from the plain one, in which every column can be typed into, Enter stops at each,
+// and lines come and go. Columns are named by their fields.
+struct LineOptions
+{
+    QStringList passedByEnter = {}; // Tab, arrow keys and mouse reach them
+    QStringList fixed = {}; // cannot be typed into
+    bool searchOnEntering = false; // moving into a column that has a search, by key or mouse, opens it
+    bool backToStart = false; // leaving the grid goes back to its first line and column
+    bool fixedLines = false; // none is appended or deleted
+    // Columns whose editor steps. Asked for the current line, each time an editor opens on it.
+    QHash<QString, std::function<LineSteps()>> steps = {};
+};
+
+} // namespace Tallymere

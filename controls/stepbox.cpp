@@ -1,0 +1,44 @@
+#include "controls/stepbox.h"
+
+#include "controls/guard.h"
+
+#include <algorithm>
+#include <QLineEdit>
+#include <QWheelEvent>
+
+namespace Tallymere {
+
+StepBox::StepBox(const Engine::Field &field, const LineSteps &steps, QWidget *parent)
+    : QAbstractSpinBox(parent)
+    , m_field(field)
+    , m_steps(steps)
+{
+}
+
+std::optional<double> StepBox::number() const
+{
+    Engine::Value value;
+    const bool isNumber = !Guard::attempt([&] { value = m_field.parse(text()); });
+    return isNumber && !value.isNull() ? std::optional(value.toDouble()) : std::nullopt;
+}
+
+void StepBox::stepBy(int count)
+{
+    const double stepped = number().value_or(m_steps.lowest) + count * m_steps.step;
+    const double bounded = std::min(std::max(stepped, m_steps.lowest), m_steps.highest);
+    lineEdit()->setText(m_field.editText(Engine::Value(bounded)));
+    selectAll();
+}
+
+QAbstractSpinBox::StepEnabled StepBox::stepEnabled() const
+{
+    const double at = number().value_or(m_steps.lowest);
+    StepEnabled enabled = StepNone;
+    enabled.setFlag(StepUpEnabled, at < m_steps.highest);
+    enabled.setFlag(StepDownEnabled, at > m_steps.lowest);
+    return enabled;
+}
+
+void StepBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
+
+} // namespace Tallymere

@@ -1,0 +1,319 @@
+#include "controls/linegrid.h"
+#include "engine/query.h"
+#include "engine/table.h"
+#include "frame/shared/formats.h"
+#include "frame/shared/ruleerror.h"
+#include "tests/support/bothstores.h"
+#include "tests/support/screendriver.h"
+#include "tests/support/spokenprompts.h"
+
+#include <QAbstractSpinBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::FieldType;
+
+namespace {
+
+const Engine::TableLayout layout{u"Line"_s,
+                                 {{u"LineID"_s, FieldType::Integer},
+                                  {u"Quantity"_s, FieldType::Float},
+                                  {u"ItemNo"_s, FieldType::Text, 10},
+                                  {u"Cost"_s, FieldType::Float},
+                                  {u"Name"_s, FieldType::Text, 20}},
+                                 {{{}, u"LineID"_s, Engine::IndexOption::Primary}}};
+
+// Two lines between a box and a button: 1, "A", cost 10 and 2, "B", cost 20. A line must have an item.
+class LineGridTest : public testing::Test
+{
+protected:
+    LineGridTest()
+    {
+        store.database().createTable(layout);
+        store.execute(
+            u"INSERT INTO Line (LineID, Quantity, ItemNo, Cost) VALUES (1, 1, 'A', 10), (2, 2, 'B', 20)"_s);
+        lines.open();
+        lines.field(u"Quantity").format = quantityFormat();
+        lines.events.newRecord = [this] {
+            lines.setDefault(u"LineID",
+                             Engine::singleValue(store.database(), u"SELECT count(*) FROM Line"_s).toInt() + 1);
+        };
+        lines.events.beforePost = [this] {
+            if (lines.text(u"ItemNo").isEmpty())
+                throw RuleError(u"No item"_s, u"ItemNo"_s);
+        };
+        box->setObjectName(u"before"_s);
+        button->setObjectName(u"after"_s);
+        grid->setObjectName(u"grid"_s);
+        auto *column = new QVBoxLayout(&window);
+        for (QWidget *widget :
+             {static_cast<QWidget *>(box), static_cast<QWidget *>(grid), static_cast<QWidget *>(button)})
+            column->addWidget(widget);
+        window.resize(500, 300);
+    }
+
+    void show(const LineOptions &options = {})
+    {
+        grid->setLines(lines,
+                       {{u"Quantity"_s, u"Quantity"_s},
+                        {u"ItemNo"_s, u"Item no."_s},
+                        {u"Cost"_s, u"Cost"_s},
+                        {u"Name"_s, u"Name"_s}},
+                       {.begin =
+                            [this] {
+                                if (!lines.isEditing())
+                                    lines.edit();
+                            },
+                        .append = [this] { lines.append(); },
+                        .remove = [this] { lines.remove(); },
+                        .enter = [this](const QString &field, const QString &text) { lines.setText(field, text); },
+                        .search =
+                            [this](const QString &, const QString &typed) {
+                                searched << lines.text(u"ItemNo") + u':' + typed;
+                                if (!found.isEmpty())
+                                    lines.set(u"ItemNo", found);
+                                return !found.isEmpty();
+                            },
+                        .searchColumns = {u"ItemNo"_s}},
+                       guard, options);
+        showActive(window);
+        grid->setFocus();
+    }
+    void keys(const QList<Qt::Key> &pressed)
+    {
+        for (const Qt::Key key : pressed)
+            press(key);
+    }
+    void click(int row, int column)
+    {
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
+                          grid->visualRect(grid->model()->index(row, column)).center());
+        QCoreApplication::processEvents();
+    }
+    // "1,2" in the grid, else the widget that has the focus.
+    QString cursor() const
+    {
+        return grid->hasFocus() || grid->hasEntry()
+            ? u"%1,%2"_s.arg(grid->currentIndex().row()).arg(grid->currentIndex().column())
+            : focusName();
+    }
+    QString entry() const
+    {
+        return grid->hasEntry() ? QApplication::focusWidget()->property("text").toString() : u"-"_s;
+    }
+    int rows() const { return grid->model()->rowCount(); }
+
+    SpokenPrompts prompts;
+    TestStore store{Store::Local};
+    Engine::Table lines{store.database(), u"Line"_s};
+    QWidget window;
+    QLineEdit *box = new QLineEdit;
+    LineGrid *grid = new LineGrid;
+    QPushButton *button = new QPushButton;
+    const Guard guard{prompts, [this](const QString &column) { grid->showColumn(column); }};
+    QStringList searched; // the item of the line and what was typed, each time
+    QString found; // what the search chooses; empty: nothing
+};
+
+} // namespace
+
+TEST_F(LineGridTest, keysGoFromCellToCellAndOut)
+{
+    show({.passedByEnter = {u"Cost"_s}});
+    const std::tuple<const char *, QList<Qt::Key>, QString> steps[] = {
+        {"Enter passes over the cost", {Qt::Key_Return, Qt::Key_Return}, u"0,3"_s},
+        {"to the next line", {Qt::Key_Return}, u"1,0"_s},
+        {"Shift+Tab back to the line before", {Qt::Key_Backtab}, u"0,3"_s},
+        {"and to the cost", {Qt::Key_Backtab}, u"0,2"_s},
+        {"from there Enter goes on", {Qt::Key_Return}, u"0,3"_s},
+        {"Tab through a line", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab}, u"1,3"_s},
+        {"and on to a new one", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab}, u"2,3"_s},
+        {"which is not needed", {Qt::Key_Tab}, u"after"_s},
+        {"back in, where it was", {Qt::Key_Backtab}, u"1,3"_s},
+        {"with text in the cell", {Qt::Key_Z, Qt::Key_Backtab, Qt::Key_Y, Qt::Key_Escape}, u"1,2"_s},
+        {"out by the first cell", {Qt::Key_Backtab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Backtab}, u"before"_s},
+    };
+    for (const auto &[what, pressed, expected] : steps) {
+        keys(pressed);
+        EXPECT_EQ(cursor(), expected) << what;
+    }
+    EXPECT_EQ(rows(), 2);
+    EXPECT_EQ(store.rows(u"SELECT Name FROM Line ORDER BY LineID"_s), (QStringList{QString(), u"z"_s}));
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_F(LineGridTest, gridWithoutLinesSaysHowToBegin)
+{
+    store.execute(u"DELETE FROM Line"_s);
+    lines.refresh();
+    show();
+    EXPECT_EQ(grid->shownHint(), u"No lines yet. Double-click here or press Page Down to enter the first one."_s);
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(cursor(), u"before"_s);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(cursor(), u"after"_s);
+    QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, grid->viewport()->rect().center());
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(grid->shownHint(), QString());
+    press(Qt::Key_Escape);
+    grid->setReadOnly(true);
+    EXPECT_EQ(grid->shownHint(), QString());
+}
+
+TEST_F(LineGridTest, searchBeginsWithWhatIsTyped)
+{
+    show();
+    press(Qt::Key_Return);
+    type("xy");
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(searched, QStringList(u"A:xy"_s));
+    EXPECT_EQ(entry(), u"xy"_s) << "nothing was chosen";
+    found = u"C"_s;
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(entry(), u"-"_s);
+    EXPECT_EQ(lines.text(u"ItemNo"), u"C"_s);
+}
+
+TEST_F(LineGridTest, enteringAColumnByHandOpensItsSearch)
+{
+    show({.searchOnEntering = true});
+    const std::tuple<const char *, std::function<void()>, QStringList> steps[] = {
+        {"Enter", [] { press(Qt::Key_Return); }, {u"A:"_s}},
+        {"down in the column", [] { press(Qt::Key_Down); }, {}},
+        {"click in the column", [&] { click(0, 1); }, {}},
+        {"Shift+Tab and Tab",
+         [&] {
+             keys({Qt::Key_Backtab, Qt::Key_Tab});
+         },
+         {u"A:"_s}},
+        {"arrow",
+         [&] {
+             keys({Qt::Key_Right, Qt::Key_Left});
+         },
+         {u"A:"_s}},
+        {"Enter out of an entry",
+         [&] {
+             press(Qt::Key_Home);
+             type("5");
+             press(Qt::Key_Return);
+         },
+         {u"A:"_s}},
+        {"click",
+         [&] {
+             click(1, 3);
+             click(1, 1);
+         },
+         {u"B:"_s}},
+        {"a check leads there",
+         [&] {
+             press(Qt::Key_Insert, Qt::ControlModifier);
+             grid->appendLine();
+             type("7");
+             keys({Qt::Key_Return, Qt::Key_Right, Qt::Key_Up});
+         },
+         {u":"_s}},
+    };
+    for (const auto &[what, step, expected] : steps) {
+        step();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(searched, expected) << what;
+        searched.clear();
+    }
+    EXPECT_EQ(cursor(), u"2,1"_s);
+    EXPECT_EQ(prompts.take(), QStringList(u"error: No item"_s));
+    press(Qt::Key_Escape);
+}
+
+TEST_F(LineGridTest, leavingGoesBackToTheFirstLineOnceTheLineIsComplete)
+{
+    show({.backToStart = true});
+    keys({Qt::Key_Down, Qt::Key_Right, Qt::Key_Right});
+    box->setFocus();
+    EXPECT_EQ(grid->currentIndex(), grid->model()->index(0, 0));
+    grid->setFocus();
+    press(Qt::Key_PageDown);
+    type("7");
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_THROW(grid->commitEntry(), SilentAbort) << "what the button does waits for the message";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(prompts.take(), QStringList(u"error: No item"_s));
+    EXPECT_EQ(cursor(), u"2,1"_s);
+    type("D");
+    box->setFocus();
+    EXPECT_EQ(lines.recordCount(), 3);
+    EXPECT_EQ(grid->currentIndex(), grid->model()->index(0, 0));
+}
+
+TEST_F(LineGridTest, fixedLinesAndColumnsStay)
+{
+    show({.fixed = {u"ItemNo"_s}, .fixedLines = true});
+    press(Qt::Key_Return);
+    type("Z");
+    press(Qt::Key_F2);
+    EXPECT_EQ(entry(), u"-"_s);
+    press(Qt::Key_Delete, Qt::ControlModifier);
+    press(Qt::Key_Insert, Qt::ControlModifier);
+    keys({Qt::Key_PageDown, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return});
+    EXPECT_EQ(cursor(), u"1,3"_s);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(cursor(), u"after"_s);
+    EXPECT_EQ(rows(), 2);
+    EXPECT_EQ(store.rows(u"SELECT ItemNo FROM Line"_s), (QStringList{u"A"_s, u"B"_s}));
+}
+
+TEST_F(LineGridTest, numbersAreSteppedUpToTheLimitOfTheirRow)
+{
+    show({.fixedLines = true,
+          .steps = {{u"Quantity"_s, [this] { return LineSteps{.highest = lines.value(u"Cost").toDouble()}; }}}});
+    const std::tuple<const char *, std::function<void()>, QString> steps[] = {
+        {"typed", [] { type("8.5"); }, u"8.5"_s},
+        {"up", [] { press(Qt::Key_Up); }, u"9.5"_s},
+        {"to the limit",
+         [&] {
+             keys({Qt::Key_Up, Qt::Key_Up});
+         },
+         u"10"_s},
+        {"down", [] { press(Qt::Key_Down); }, u"9"_s},
+        {"by its button", [] { qobject_cast<QAbstractSpinBox *>(QApplication::focusWidget())->stepDown(); },
+         u"8"_s},
+        {"typed beyond", [] { type("11"); }, u"11"_s},
+        {"is refused", [] { press(Qt::Key_Return); }, u"11"_s},
+        {"below nothing", [] { type("-1"); }, u"-1"_s},
+        {"neither", [] { press(Qt::Key_Return); }, u"-1"_s},
+        {"no number",
+         [&] {
+             type("x");
+             press(Qt::Key_Down);
+         },
+         u"x"_s},
+        {"mended", [&] { type("x"); }, u"xx"_s},
+        {"taken over",
+         [&] {
+             press(Qt::Key_Escape);
+             type("4.25");
+             press(Qt::Key_Tab);
+         },
+         u"-"_s},
+        {"the limit of the next",
+         [&] {
+             click(1, 0);
+             type("11");
+             press(Qt::Key_Up);
+         },
+         u"12"_s},
+        {"and away", [] { press(Qt::Key_Tab); }, u"-"_s},
+    };
+    for (const auto &[what, step, expected] : steps) {
+        step();
+        EXPECT_EQ(entry(), expected) << what;
+    }
+    lines.checkBrowseMode();
+    EXPECT_EQ(prompts.take(),
+              (QStringList{u"error: 'Quantity' must not be greater than 10"_s,
+                           u"error: 'Quantity' must not be less than 0"_s}));
+    EXPECT_EQ(store.rows(u"SELECT Quantity FROM Line ORDER BY LineID"_s), (QStringList{u"4.25"_s, u"12"_s}));
+}
