@@ -14,6 +14,10 @@ namespace Tallymere {
 // Where keys that are counted begin.
 inline constexpr qint64 firstCountedKey = 10'000;
 
+// Between these lie the numbers that users see when a counter gives them.
+inline constexpr qint64 firstNumber = 1001;
+inline constexpr qint64 lastNumber = 10'000'000;
+
 // The row of a control table while numbers are taken from it. An empty counter reads as 0.
 class CounterRow
 {

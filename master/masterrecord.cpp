@@ -10,9 +10,6 @@ namespace Tallymere {
 
 namespace {
 
-constexpr qint64 firstNumber = 1001;
-constexpr qint64 lastNumber = 10'000'000;
-
 NumberSource numbersIfInReach(Engine::Database &database)
 {
     return [&database](const QString &table, const CounterRule &rule) {

@@ -124,6 +124,20 @@ void DocumentEntry::newHeader()
     presetHeader();
 }
 
+void DocumentEntry::assignNumbers()
+{
+    const DocumentKind::Counters &from = m_kind.counters;
+    numbers(from.table, [&](CounterRow &counters) {
+        m_header.setDefault(m_kind.keyField, counters.take(from.key));
+        if (from.number.isEmpty() || !m_givenNumber.isEmpty())
+            return;
+        counters.restartOutside(from.number, firstNumber, lastNumber, from.restart);
+        m_header.setDefault(m_kind.numberField, QString::number(counters.take(from.number)));
+    });
+    if (!m_givenNumber.isEmpty())
+        m_header.setDefault(m_kind.numberField, m_givenNumber);
+}
+
 namespace {
 
 FiscalSettings fiscalSettings(Engine::Database &database)
@@ -217,13 +231,18 @@ void DocumentEntry::chooseInHeader(const QString &field, const Value &value)
 void DocumentEntry::hookLines()
 {
     m_lines.events.newRecord = [this] { m_lines.setDefault(m_kind.keyField, key()); };
-    m_lines.events.beforeInsert = [this] { lockLines(); };
-    m_lines.events.beforeEdit = [this] { beginLineChange(); };
-    m_lines.events.beforeRemove = [this] { beginLineChange(); };
+    m_lines.events.beforeInsert = [this] {
+        lockLines();
+        lineChanging(LineChange::Insert);
+    };
+    m_lines.events.beforeEdit = [this] { beginLineChange(LineChange::Edit); };
+    m_lines.events.beforeRemove = [this] { beginLineChange(LineChange::Remove); };
     m_lines.events.beforePost = [this] {
         checkLine();
         numberLine();
     };
+    m_lines.events.afterPost = [this] { lineSaved(); };
+    m_lines.events.afterRemove = [this] { lineRemoved(); };
 }
 
 // The lines are locked with their header. Only what is read from then on is sure to be what is stored.
@@ -242,14 +261,14 @@ void DocumentEntry::lockLines()
 
 // What the user wants done to the line that he sees must not be done to the one that has come into its place. The
 // number alone does not tell them apart: that of a deleted last line is given again.
-void DocumentEntry::beginLineChange()
+void DocumentEntry::beginLineChange(LineChange change)
 {
     const bool inEdit = m_header.isEditing();
     const int seq = m_lines.integer(u"Seq");
     const int item = m_lines.integer(u"ItemID");
     lockLines();
     if (m_lines.integer(u"Seq") == seq && m_lines.integer(u"ItemID") == item)
-        return;
+        return lineChanging(change);
     if (!inEdit)
         m_header.cancel();
     throw RuleError(tr("This line was deleted or replaced by another user. The lines are shown anew."), LineGrid);
@@ -284,7 +303,7 @@ QString DocumentEntry::lineName() const
 void DocumentEntry::validateItem(const Value &itemId) const
 {
     const bool typed = m_lineColumn == "ItemNo"_L1;
-    const bool picked = m_lineColumn == "ItemDescription"_L1;
+    const bool picked = m_lineColumn == m_kind.pickColumn;
     if (itemId.toInt() == 0 || !(typed || picked))
         return;
     const Engine::StatementPtr item =

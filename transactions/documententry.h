@@ -72,7 +72,7 @@ public:
 
     // --- lines -------------------------------------------------------------------------------------------------
     // The column of the line grid that the user is in, by field name. A new item is judged by it: typed as a number
-    // ("ItemNo") or picked by its description ("ItemDescription").
+    // ("ItemNo") or picked by its description (the kind's pickColumn).
     void setLineColumn(const QString &field) { m_lineColumn = field; }
     // Puts the item into the current line, putting that into edit.
     void chooseItem(int itemId);
@@ -85,18 +85,23 @@ protected:
     // The kind outlives the object.
     DocumentEntry(Engine::Database &database, Prompts &prompts, const DocumentKind &kind);
 
-    const QString &givenNumber() const { return m_givenNumber; } // of the new header; empty: from the counter
-
     Engine::Database &database() const { return m_header.database(); }
     Prompts &prompts() const { return m_prompts; }
 
     // --- what the kinds of documents do differently ----------------------------------------------------------
     virtual void configureFields(); // labels, formats and checks of fields, once the tables are open
-    virtual void assignNumbers() = 0; // key and number of a new header
     virtual void presetHeader() { } // further defaults of a new header
     virtual void checkComplete() { } // before everything else when the header is saved
     virtual void checkReferences() = 0; // after the period: what the header names, and that there are lines
     virtual void checkLine() = 0; // before a line gets its number and is written
+    // Around each change of a line, for what the header keeps about all of them. The header is in edit throughout. At
+    // lineChanging() lines() shows the line as it is stored, of a line to come the one before it. A change may still
+    // be dropped then; lineSaved(), with the line, or lineRemoved(), with the next one, tells that it has happened.
+    // cancel() brings the lines back without these, and the header with them.
+    enum class LineChange { Insert, Edit, Remove };
+    virtual void lineChanging(LineChange) { }
+    virtual void lineSaved() { }
+    virtual void lineRemoved() { }
     virtual void restoreLine(const Engine::Row &kept); // fills the new line from the copy
 
     // --- pieces for those ------------------------------------------------------------------------------------
@@ -115,6 +120,7 @@ private:
     void hookLines();
 
     void newHeader();
+    void assignNumbers();
     void refusePosted() const;
     void headerEdited();
     void setFiscalDefaults();
@@ -122,7 +128,7 @@ private:
     void checkPeriod();
 
     void lockLines();
-    void beginLineChange();
+    void beginLineChange(LineChange change);
     void numberLine();
     int highestSeq() const;
     QString lineName() const;

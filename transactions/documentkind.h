@@ -25,12 +25,22 @@ struct DocumentKind
     QString dateField; // "ReceiptDate"
 
     // --- entering a document ------------------------------------------------------------------------------------
+    // What numbers new documents. A number outside firstNumber to lastNumber is not given; the counter restarts.
+    struct Counters
+    {
+        QString table; // the control table: "ItemCtl"
+        QString key; // its field for the key
+        QString number; // its field for the number; empty where the key is shown
+        qint64 restart = 0;
+    };
+    Counters counters;
     QString title; // of one, in its caption and in messages: "Receipt %1"
     QString postedRefusal; // shown when a posted document is about to be edited
     QString numberTaken; // raised when the number or the key exists already
     QString nothingEntered; // raised when a document without lines is saved
     QString locationGone; // raised when the location is no longer there
     QStringList requiredFields; // of the header, beside what is checked on its own
+    QString pickColumn; // of the lines: an item that comes in while the user is in it was picked by its description
 
     // --- its screens, by component name --------------------------------------------------------------------------
     QString screen; // of one document: "frmInvReceipt"

@@ -32,23 +32,6 @@ void ReceiptEntry::configureFields()
     cost.format = currencyFormat(RegionalSettings::system(), u"UnitCost"_s);
 }
 
-void ReceiptEntry::assignNumbers()
-{
-    constexpr qint64 LowestNumber = 1001;
-    constexpr qint64 HighestNumber = 10'000'000;
-    qint64 id = 0;
-    qint64 number = 0;
-    numbers(u"ItemCtl"_s, [&](CounterRow &counters) {
-        id = counters.take(u"NextInvReceiptID");
-        if (!givenNumber().isEmpty())
-            return;
-        counters.restartOutside(u"NextInvReceiptNo", LowestNumber, HighestNumber, LowestNumber);
-        number = counters.take(u"NextInvReceiptNo");
-    });
-    header().setDefault(u"ReceiptID", id);
-    header().setDefault(u"ReceiptNo", givenNumber().isEmpty() ? QString::number(number) : givenNumber());
-}
-
 QString ReceiptEntry::caption() const
 {
     const bool unnamed = header().text(u"ReceiptNo").isEmpty() || header().value(u"VendorID").isNull();

@@ -20,7 +20,6 @@ public:
 
 protected:
     void configureFields() override;
-    void assignNumbers() override;
     void checkComplete() override;
     void checkReferences() override;
     void checkLine() override;

@@ -1,3 +1,4 @@
+#include "data/numbercounter.h"
 #include "transactions/documentkinds.h"
 
 #include "transactions/receiptposting.h"
@@ -23,6 +24,7 @@ const DocumentKind &DocumentKinds::receipt()
         .keyField = u"ReceiptID"_s,
         .numberField = u"ReceiptNo"_s,
         .dateField = u"ReceiptDate"_s,
+        .counters = {u"ItemCtl"_s, u"NextInvReceiptID"_s, u"NextInvReceiptNo"_s, firstNumber},
         .title = tr("Receipt %1"),
         .postedRefusal = tr("Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you must "
                             "\"reverse\" it (enter it again with the opposite amount)."),
@@ -30,6 +32,7 @@ const DocumentKind &DocumentKinds::receipt()
         .nothingEntered = tr("Quantities have not been entered"),
         .locationGone = tr("Warehouse no longer exists"),
         .requiredFields = {u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s, u"WarehouseID"_s},
+        .pickColumn = u"ItemDescription"_s,
         .screen = u"frmInvReceipt"_s,
         .postScreen = u"frmInvReceiptsPost"_s,
         .postCaption = tr("Post Inventory Receipts"),
