@@ -23,6 +23,11 @@ struct CommandContext
     // Opens the database that the options or the user's settings name. The caller may set what the options leave
     // open.
     std::unique_ptr<TDataModuleTallymere> openData(DataModuleOptions options = {}) const;
+
+    // The option --retry: the time that patiently() and the prompts go on for begins.
+    void beginRetrying() const;
+    // Does the step, and does it again while another user's lock is in the way and the time is not over.
+    void patiently(const std::function<void()> &step) const;
 };
 
 struct Command
@@ -41,6 +46,7 @@ struct Command
 const QList<Command> &commands();
 const Command *findCommand(const QString &name);
 const QList<OptionSpec> &commonOptions();
+OptionSpec retryOption();
 
 Command initCommand();
 Command sampleCommand();

@@ -1,7 +1,10 @@
 #include "cli/command.h"
 #include "cli/named.h"
 #include "cli/terminal.h"
+#include "engine/error.h"
 
+#include <algorithm>
+#include <chrono>
 #include <QCoreApplication>
 #include <QDir>
 
@@ -22,6 +25,40 @@ std::unique_ptr<TDataModuleTallymere> CommandContext::openData(DataModuleOptions
     options.server = arguments.value(u"server"_s);
     options.currentUser = arguments.value(u"user"_s, Terminal::loginName());
     return std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
+}
+
+void CommandContext::beginRetrying() const
+{
+    constexpr qint64 longest = qint64(10) * 365 * 24 * 3600; // more seconds would not fit into milliseconds
+    prompts.retryFor(std::chrono::seconds(std::min(arguments.number(u"retry"_s, 0), longest)));
+}
+
+namespace {
+
+bool isHeldByOthers(Engine::ErrorCode code)
+{
+    using Engine::ErrorCode;
+    return code == ErrorCode::RecordLocked || code == ErrorCode::TableLocked || code == ErrorCode::TableInUse
+        || code == ErrorCode::Busy;
+}
+
+} // namespace
+
+void CommandContext::patiently(const std::function<void()> &step) const
+{
+    for (;;) {
+        try {
+            return step();
+        } catch (const Engine::EngineError &error) {
+            if (!isHeldByOthers(error.code()) || !prompts.mayTryAgain())
+                throw;
+        }
+    }
+}
+
+OptionSpec retryOption()
+{
+    return {u"retry"_s, tr("SECONDS"), tr("keeps trying while another user holds a table")};
 }
 
 const QList<OptionSpec> &commonOptions()

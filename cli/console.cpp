@@ -72,16 +72,22 @@ Answer ConsolePrompts::yesNoCancel(const QString &text)
     return Answer::Cancel;
 }
 
-bool ConsolePrompts::retry(const QString &text)
+void ConsolePrompts::retryFor(std::chrono::milliseconds time) { m_retryUntil.setRemainingTime(time); }
+
+bool ConsolePrompts::mayTryAgain()
 {
-    if (!m_retrying.isValid())
-        m_retrying.start();
-    if (m_retrying.hasExpired(retryFor.count())) {
-        m_console.error(text);
+    if (m_retryUntil.hasExpired())
         return false;
-    }
     QThread::msleep(retryPauseMilliseconds);
     return true;
+}
+
+bool ConsolePrompts::retry(const QString &text)
+{
+    if (mayTryAgain())
+        return true;
+    m_console.error(text);
+    return false;
 }
 
 void ConsoleProgress::start(int steps)

@@ -2,6 +2,8 @@
 
 #include "frame/shared/prompts.h"
 
+#include <chrono>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QString>
@@ -41,7 +43,8 @@ public:
     {
     }
 
-    std::chrono::milliseconds retryFor{0};
+    void retryFor(std::chrono::milliseconds time); // from now on
+    bool mayTryAgain(); // pauses and gives true until then
 
     void inform(const QString &text) override;
     void warn(const QString &text) override;
@@ -52,7 +55,7 @@ public:
 
 private:
     Console &m_console;
-    QElapsedTimer m_retrying;
+    QDeadlineTimer m_retryUntil{0};
 };
 
 // Progress of long work on a terminal; nothing is shown in the first second.

@@ -3,6 +3,7 @@
 #include "cli/named.h"
 #include "frame/shared/ruleerror.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
 
@@ -43,11 +44,22 @@ void runImport(CommandContext &context)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         throw RuleError(tr("The file %1 could not be read: %2").arg(fileName, file.errorString()));
+    QBuffer piped; // what can be read only once is kept for the next try
+    if (file.isSequential()) {
+        piped.setData(file.readAll());
+        piped.open(QIODevice::ReadOnly);
+    }
+    QIODevice &content = file.isSequential() ? static_cast<QIODevice &>(piped) : file;
 
-    const auto data = context.openData();
+    context.beginRetrying();
+    std::unique_ptr<TDataModuleTallymere> data;
+    context.patiently([&] { data = context.openData(); });
     ConsoleProgress progress(context.console, tr("Importing"));
-    const ImportResult result =
-        importFile(data->databaseTallymere(), file, kind, context.arguments.has(u"yes"_s), progress);
+    ImportResult result;
+    context.patiently([&] {
+        content.seek(0);
+        result = importFile(data->databaseTallymere(), content, kind, context.arguments.has(u"yes"_s), progress);
+    });
     if (!result.errors.isEmpty())
         reportErrors(context.console, fileName, result.errors);
     context.console.print(tr("%1 %2 imported").arg(result.documents).arg(kind.name));
@@ -68,7 +80,7 @@ Command importCommand()
            "columns, one after the other. Numbers, dates and periods left empty are assigned.\n"
            "Rows are refused by the rules of the screens, each as FILE:LINE: message.")
             .arg(namesOf(importKinds()));
-    command.options = {{u"yes"_s, {}, tr("answers yes where a screen would ask")}};
+    command.options = {{u"yes"_s, {}, tr("answers yes where a screen would ask")}, retryOption()};
     command.run = runImport;
     return command;
 }

@@ -4,6 +4,7 @@
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 
+#include <optional>
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -11,8 +12,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 namespace {
-
-constexpr qint64 longestRetry = qint64(10) * 365 * 24 * 3600; // more seconds would not fit into milliseconds
 
 QString tr(const char *text) { return QCoreApplication::translate("PostCommand", text); }
 
@@ -36,13 +35,16 @@ const DocumentKind &requireKind(const QString &name)
 void runPost(CommandContext &context)
 {
     const DocumentKind &kind = requireKind(context.arguments.words().at(1));
-    context.prompts.retryFor =
-        std::chrono::seconds(std::min(context.arguments.number(u"retry"_s, 0), longestRetry));
-    const auto data = context.openData();
-    DocumentPosting posting(data->databaseTallymere(), kind);
+    context.beginRetrying();
+    std::unique_ptr<TDataModuleTallymere> data;
+    context.patiently([&] { data = context.openData(); });
+    if (context.arguments.has(u"retry"_s))
+        data->sessionTallymere().lockAttempts = 1; // what is refused is tried again here, as long as was said
+    std::optional<DocumentPosting> posting;
+    context.patiently([&] { posting.emplace(data->databaseTallymere(), kind); });
     ConsoleProgress progress(context.console, tr("Posting"));
-    const bool posted = posting.run(context.prompts, progress);
-    context.console.print(posted ? kind.posting.posted.arg(posting.posted()) : posting.countText());
+    const bool posted = posting->run(context.prompts, progress);
+    context.console.print(posted ? kind.posting.posted.arg(posting->posted()) : posting->countText());
 }
 
 } // namespace
@@ -54,7 +56,7 @@ Command postCommand()
     command.words = kindNames().join(u'|');
     command.fewestWords = command.mostWords = 1;
     command.summary = tr("posts every unposted document of a kind");
-    command.options = {{u"retry"_s, tr("SECONDS"), tr("keeps trying while another user holds a table")}};
+    command.options = {retryOption()};
     command.run = runPost;
     return command;
 }

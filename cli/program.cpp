@@ -97,6 +97,7 @@ bool isRefusal(Engine::ErrorCode code)
     case Engine::ErrorCode::TableLocked:
     case Engine::ErrorCode::TableInUse:
     case Engine::ErrorCode::RecordGone:
+    case Engine::ErrorCode::RecordChanged:
     case Engine::ErrorCode::Busy:
         return true;
     default:

@@ -44,9 +44,12 @@ const SyncKind &requireKind(const QString &name)
 void runSync(CommandContext &context)
 {
     const SyncKind &kind = requireKind(context.arguments.words().at(1));
-    const auto data = context.openData();
+    context.beginRetrying();
+    std::unique_ptr<TDataModuleTallymere> data;
+    context.patiently([&] { data = context.openData(); });
     ConsoleProgress progress(context.console, tr("Synchronizing"));
-    const HostSyncResult result = kind.run(data->databaseTallymere(), progress);
+    HostSyncResult result;
+    context.patiently([&] { result = kind.run(data->databaseTallymere(), progress); });
     if (!result.notUpdated.isEmpty())
         context.prompts.warn(tr("What is there already has not been updated: %1").arg(result.notUpdated));
     context.console.print(kind.outcome.arg(result.added).arg(result.updated));
@@ -63,7 +66,9 @@ Command syncCommand()
     command.summary = tr("brings the host's locations or items over");
     command.details =
         tr("Those that are there already take the host's names, prices and item types; new ones are added.\n"
-           "Nothing is deleted. While another user works on the same table nothing is done, with status 1.");
+           "Nothing is deleted. While another user works on the same table nothing is done, with status 1\n"
+           "unless --retry says for how long to try.");
+    command.options = {retryOption()};
     command.run = runSync;
     return command;
 }

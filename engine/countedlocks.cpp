@@ -1,6 +1,7 @@
 #include "engine/countedlocks.h"
 
 #include <QCoreApplication>
+#include <utility>
 
 namespace Engine {
 
@@ -95,6 +96,7 @@ void CountedLocks::unlockRecord(const QString &table, const QList<qint64> &key)
     Held *held = find(name);
     if (!held || held->records.erase(place) == 0)
         return;
+    held->losable.erase(place);
     releaseRecord(name, place, held->table > 0);
     const bool last = !held->keepsOthersFromWriting();
     settle(name);
@@ -107,6 +109,22 @@ bool CountedLocks::holdsRecord(const QString &table, const QList<qint64> &key) c
     const QString name = table.toLower();
     const auto found = m_held.find(name);
     return found != m_held.end() && found->second.records.contains(placeOf(name, key));
+}
+
+void CountedLocks::mayBeLost(const QString &table, const QList<qint64> &key)
+{
+    const QString name = table.toLower();
+    if (Held *held = find(name))
+        held->losable.insert(placeOf(name, key));
+}
+
+void CountedLocks::loseRecords()
+{
+    for (auto &[table, held] : m_held) {
+        for (const qint64 place : std::exchange(held.losable, {}))
+            held.records.erase(place);
+    }
+    std::erase_if(m_held, [](const auto &entry) { return entry.second.isFree(); });
 }
 
 bool CountedLocks::tryLockTable(const QString &table)

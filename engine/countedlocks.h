@@ -20,6 +20,7 @@ public:
     bool tryLockRecord(const QString &table, const QList<qint64> &key) final;
     void unlockRecord(const QString &table, const QList<qint64> &key) final;
     bool holdsRecord(const QString &table, const QList<qint64> &key) const final;
+    void mayBeLost(const QString &table, const QList<qint64> &key) final;
     bool tryLockTable(const QString &table) final;
     void unlockTable(const QString &table) final;
     bool holdsTable(const QString &table) const final;
@@ -31,11 +32,15 @@ protected:
         int exclusive = 0;
         int table = 0;
         std::set<qint64> records;
+        std::set<qint64> losable; // those of the records that may be lost
 
         bool isFree() const { return shared == 0 && exclusive == 0 && table == 0 && records.empty(); }
         bool keepsOthersFromWriting() const { return table > 0 || !records.empty(); }
+        bool isReliedOn() const { return table > 0 || exclusive > 0 || records.size() > losable.size(); }
     };
     const std::map<QString, Held> &everything() const { return m_held; }
+
+    void loseRecords(); // those that may be lost are not held any more
 
     enum class OpenMode { None, Shared, Exclusive };
     // From one mode to the other; true when that was possible. Going down always is.

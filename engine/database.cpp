@@ -56,6 +56,10 @@ PostgresTarget targetOf(const Database &database)
     target.user = session.remoteUser;
     target.password = session.remotePassword;
     target.requireTls = session.remoteLink == LinkType::Internet;
+    target.lockWait = session.serverLockWait;
+    target.mayTryAgain = [&session](std::chrono::steady_clock::time_point since) {
+        return session.mayTryAgain(since);
+    };
     target.applicationName = PostgresLocks::applicationName(session.applicationUser);
     return target;
 }
@@ -106,6 +110,23 @@ Connection &Database::connection()
 }
 
 void Database::close() { m_connection.reset(); }
+
+void Database::change(const std::function<void()> &step)
+{
+    Connection &store = connection();
+    const bool joins = store.inTransaction();
+    const auto since = std::chrono::steady_clock::now();
+    for (;;) {
+        try {
+            Transaction transaction(store);
+            step();
+            return transaction.commit();
+        } catch (const EngineError &error) {
+            if (error.code() != ErrorCode::Busy || joins || !m_session.mayTryAgain(since))
+                throw;
+        }
+    }
+}
 
 bool Database::tableExists(const QString &table) { return connection().describe(table).has_value(); }
 

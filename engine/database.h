@@ -40,6 +40,10 @@ public:
     Connection &connection();
     void close(); // tables of the database must be closed first; their locks go with the connection
 
+    // Does a step as one transaction, or as part of the one that is open. Where somebody's lock on the server keeps the
+    // step waiting too long it is undone and done again, as often as record locks are tried; then Busy.
+    void change(const std::function<void()> &step);
+
     bool tableExists(const QString &table);
     QStringList tableNames();
 

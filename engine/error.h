@@ -19,6 +19,7 @@ enum class ErrorCode {
     TableLocked = 10242, // another user holds the whole table
     TableInUse = 10243, // an exclusive open found the table open, or an open found it held exclusively
     RecordGone = 10244, // the row was deleted by another user
+    RecordChanged = 10246, // another user has changed the row while it was not locked any more
     Busy = 10245, // the store is writing for someone else and did not get free in time
     CannotOpen = 11001, // folder, file or server that cannot be reached
     NotADatabase = 11002,

@@ -18,10 +18,12 @@ bool isFileStore(const Database &database) { return database.session().type == S
 
 } // namespace
 
-GroupedWrites::GroupedWrites(Database &database, std::function<void()> forgetReads)
+GroupedWrites::GroupedWrites(Database &database, std::function<void()> forgetReads, Retry retry)
     : m_connection(database.connection())
+    , m_session(database.session())
     , m_sending(isFileStore(database) ? Sending::Waiting : Sending::Ahead)
     , m_forgetReads(std::move(forgetReads))
+    , m_retry(std::move(retry))
 {
 }
 
@@ -102,6 +104,27 @@ void GroupedWrites::send(Statement &statement)
 void GroupedWrites::sendGuarded(Statement &statement)
 {
     m_connection.execute(u"SAVEPOINT one_write"_s);
+    auto since = std::chrono::steady_clock::now();
+    for (;;) {
+        try {
+            executeGuarded(statement);
+            break;
+        } catch (const EngineError &error) {
+            if (error.code() != ErrorCode::Busy)
+                throw;
+            if (m_session.mayTryAgain(since))
+                continue;
+            if (!m_retry || !m_retry(error))
+                throw;
+            since = std::chrono::steady_clock::now();
+        }
+    }
+    m_connection.execute(u"RELEASE SAVEPOINT one_write"_s);
+}
+
+// Leaves the transaction usable after a failure.
+void GroupedWrites::executeGuarded(Statement &statement)
+{
     try {
         statement.execute();
     } catch (const EngineError &error) {
@@ -109,7 +132,6 @@ void GroupedWrites::sendGuarded(Statement &statement)
             m_connection.execute(u"ROLLBACK TO SAVEPOINT one_write"_s);
         throw;
     }
-    m_connection.execute(u"RELEASE SAVEPOINT one_write"_s);
 }
 
 void GroupedWrites::begin()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/database.h"
+#include "engine/error.h"
 
 #include <chrono>
 #include <functional>
@@ -30,7 +31,10 @@ class GroupedWrites final : private Writes
 public:
     using Step = std::function<void(Writes &)>;
 
-    explicit GroupedWrites(Database &database, std::function<void()> forgetReads = {});
+    // Asked when somebody's lock on the server has kept a statement from being done for long: true to go on trying.
+    using Retry = std::function<bool(const EngineError &)>;
+
+    explicit GroupedWrites(Database &database, std::function<void()> forgetReads = {}, Retry retry = {});
     ~GroupedWrites() override; // keeps what was applied, if finish() was not reached
     GroupedWrites(const GroupedWrites &) = delete;
     GroupedWrites &operator=(const GroupedWrites &) = delete;
@@ -45,6 +49,7 @@ private:
 
     void send(Statement &statement) override;
     void sendGuarded(Statement &statement);
+    void executeGuarded(Statement &statement);
     void begin();
     void commit();
     void keepApplied() noexcept;
@@ -52,8 +57,10 @@ private:
     void replay();
 
     Connection &m_connection;
+    const Session &m_session;
     const Sending m_sending;
     const std::function<void()> m_forgetReads;
+    const Retry m_retry;
     std::vector<Step> m_group; // applied since the last commit; kept when sending ahead
     bool m_replaying = false;
     std::chrono::steady_clock::time_point m_begun;

@@ -43,6 +43,11 @@ public:
     virtual void unlockRecord(const QString &table, const QList<qint64> &key) = 0;
     virtual bool holdsRecord(const QString &table, const QList<qint64> &key) const = 0;
 
+    // Whoever holds this record finds out by himself when the lock is lost; see RecordLock.
+    virtual void mayBeLost(const QString &table, const QList<qint64> &key) = 0;
+    virtual bool areLost() const { return false; } // all of them, with the connection
+    virtual int losses() const { return 0; } // how often a lost connection was made anew
+
     virtual bool tryLockTable(const QString &table) = 0;
     virtual void unlockTable(const QString &table) = 0;
     virtual bool holdsTable(const QString &table) const = 0;

@@ -15,6 +15,8 @@ QString systemUserName();
 
 // Waits until the socket can be read, or written; false when the time has passed.
 bool waitForSocket(int socket, bool forWriting, std::chrono::milliseconds time);
+// Waits until one of two sockets can be read, or the second one written; false when the time has passed.
+bool waitForEither(int first, int second, bool secondForWriting, std::chrono::milliseconds time);
 
 // A file for locks on ranges of bytes. The locks belong to this object alone, whatever else the process has open,
 // and go with it or with the process. Ranges may lie far beyond the end of the file.

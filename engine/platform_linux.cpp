@@ -77,14 +77,34 @@ QString systemUserName()
     return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(geteuid());
 }
 
-bool waitForSocket(int socket, bool forWriting, std::chrono::milliseconds time)
+namespace {
+
+struct pollfd waitingOn(int socket, bool forWriting)
 {
-    struct pollfd state = {socket, static_cast<short>(forWriting ? POLLOUT : POLLIN), 0};
+    return {socket, static_cast<short>(forWriting ? POLLOUT : POLLIN), 0};
+}
+
+bool waitForAny(struct pollfd *sockets, nfds_t count, std::chrono::milliseconds time)
+{
     int result = 0;
     do {
-        result = poll(&state, 1, static_cast<int>(time.count()));
+        result = poll(sockets, count, static_cast<int>(time.count()));
     } while (result < 0 && errno == EINTR);
     return result > 0;
+}
+
+} // namespace
+
+bool waitForSocket(int socket, bool forWriting, std::chrono::milliseconds time)
+{
+    struct pollfd state = waitingOn(socket, forWriting);
+    return waitForAny(&state, 1, time);
+}
+
+bool waitForEither(int first, int second, bool secondForWriting, std::chrono::milliseconds time)
+{
+    struct pollfd states[] = {waitingOn(first, false), waitingOn(second, secondForWriting)};
+    return waitForAny(states, 2, time);
 }
 
 RangeLockFile::RangeLockFile(const QString &path)

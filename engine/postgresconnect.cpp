@@ -7,6 +7,7 @@
 #include <libpq-fe.h>
 #include <QCoreApplication>
 #include <QRegularExpression>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -113,7 +114,7 @@ pg_conn *opened(const PostgresTarget &target)
         throw EngineError(
             ErrorCode::CannotOpen,
             QCoreApplication::translate("Engine", "No server address has been set. Enter it in the settings."));
-    pg_conn *handle = parametersOf(target).start();
+    pg_conn *handle = beginConnecting(target);
     if (handle)
         PQsetErrorVerbosity(handle, PQERRORS_VERBOSE);
     if (handle && PQstatus(handle) != CONNECTION_BAD && awaitConnection(handle)) {
@@ -133,10 +134,14 @@ QString PostgresTarget::location() const
     return QCoreApplication::translate("Engine", "database \"%1\" on the server %2").arg(database, host);
 }
 
+pg_conn *beginConnecting(const PostgresTarget &target) { return parametersOf(target).start(); }
+
 void PostgresLink::connect()
 {
-    PQfinish(m_handle);
-    m_handle = nullptr;
+    const int former = m_handle ? PQbackendPID(m_handle) : 0;
+    if (m_handle)
+        PQsetnonblocking(m_handle, 1); // so that taking leave does not wait for a machine that is gone
+    PQfinish(std::exchange(m_handle, nullptr));
     m_handle = opened(m_target);
     m_lost = false;
     ++m_generation;
@@ -144,16 +149,28 @@ void PostgresLink::connect()
     m_pending = 0;
     m_reader = nullptr;
     m_failure.reset();
-    run("SET datestyle = ISO; SET standard_conforming_strings = on; SET search_path = public");
+    run("SET datestyle = ISO; SET standard_conforming_strings = on; SET search_path = public; SET lock_timeout = "
+        + QByteArray::number(static_cast<qint64>(m_target.lockWait.count())));
     // Lets the server see a killed client while it works for it, so that its locks go at once. Not every system
     // that PostgreSQL runs on can do that.
     PQclear(PQexec(m_handle, "SET client_connection_check_interval = '1s'"));
+    if (former != 0)
+        endSession(former);
+}
+
+// The server may not have noticed yet that the former connection is gone, and keep its locks for it.
+void PostgresLink::endSession(int processId)
+{
+    run("SELECT pg_terminate_backend(pid, 1000) FROM pg_stat_activity WHERE pid = " + QByteArray::number(processId)
+        + " AND pid <> pg_backend_pid() AND usename = current_user "
+          "AND application_name = current_setting('application_name')");
 }
 
 void createRemoteDatabase(const PostgresTarget &target)
 {
     PostgresTarget maintenance = target;
     maintenance.database = u"postgres"_s;
+    maintenance.lockWait = std::chrono::minutes(1); // the server makes one database at a time
     PostgresLink link(maintenance);
     const QString statement =
         u"CREATE DATABASE %1 ENCODING 'UTF8' LC_COLLATE 'C' LC_CTYPE 'C' TEMPLATE template0"_s;

@@ -12,7 +12,7 @@ PostgresConnection::PostgresConnection(const PostgresTarget &target)
     , m_locks(std::make_unique<PostgresLocks>(*this))
 {
     m_link->mayReconnect = [this] { return m_locks->mayReconnect(); };
-    m_link->reconnected = [this] { m_locks->reacquireOpen(); };
+    m_link->reconnected = [this] { m_locks->reconnected(); };
 }
 
 PostgresConnection::~PostgresConnection()
@@ -23,9 +23,18 @@ PostgresConnection::~PostgresConnection()
 
 void PostgresConnection::execute(const QString &script)
 {
-    m_link->prepareFor(nullptr);
-    m_link->leavePipeline();
-    m_link->run(script.toUtf8());
+    const auto since = std::chrono::steady_clock::now();
+    for (;;) {
+        m_link->prepareFor(nullptr);
+        m_link->leavePipeline();
+        try {
+            m_link->run(script.toUtf8());
+            return;
+        } catch (const EngineError &error) {
+            if (!m_link->mayTryAgain(error, since))
+                throw;
+        }
+    }
 }
 
 void PostgresConnection::drain() { m_link->leavePipeline(); }

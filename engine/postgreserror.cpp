@@ -12,7 +12,7 @@ struct Mapping
 {
     const char *sqlState; // whole codes first, then the two characters of a class
     ErrorCode code;
-    const char *text; // %1 the server and database, %2 what the server says
+    const char *text; // %1 the server and database, %2 what the server says, %3 who is in the way
 };
 
 const char *const keyText = QT_TRANSLATE_NOOP("Engine", "The record exists already (%2).");
@@ -20,7 +20,7 @@ const char *const valueText = QT_TRANSLATE_NOOP("Engine", "A value does not fit 
 const char *const brokenText =
     QT_TRANSLATE_NOOP("Engine", "The %1 is damaged. Have the table repaired, or restore the last backup. (%2)");
 const char *const busyText =
-    QT_TRANSLATE_NOOP("Engine", "The %1 is being written by another user. Try again in a moment.");
+    QT_TRANSLATE_NOOP("Engine", "The %1 is being written by another user%3. Try again in a moment.");
 const char *const accessText =
     QT_TRANSLATE_NOOP("Engine", "The %1 refuses access: %2. Check the account and its rights.");
 const char *const unreachableText = QT_TRANSLATE_NOOP("Engine", "The %1 cannot be opened: %2.");
@@ -61,7 +61,7 @@ const Mapping *mappingOf(const QByteArray &sqlState)
 } // namespace
 
 EngineError postgresError(const QByteArray &sqlState, const QString &words, const QString &detail,
-                          const QString &location)
+                          const QString &location, const QString &holder)
 {
     const QString driverText =
         u"PostgreSQL %1: %2 %3"_s.arg(QString::fromLatin1(sqlState), words, detail).trimmed();
@@ -73,7 +73,7 @@ EngineError postgresError(const QByteArray &sqlState, const QString &words, cons
                            QCoreApplication::translate("Engine", "The %1 reports: %2").arg(location, words),
                            driverText);
     QString text = QCoreApplication::translate("Engine", mapping->text);
-    text.replace("%1"_L1, location).replace("%2"_L1, detail.isEmpty() ? words : detail);
+    text.replace("%1"_L1, location).replace("%3"_L1, holder).replace("%2"_L1, detail.isEmpty() ? words : detail);
     return EngineError(mapping->code, text, driverText);
 }
 

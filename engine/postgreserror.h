@@ -8,8 +8,9 @@ namespace Engine {
 
 // The error that the server reports with an SQLSTATE, in the engine's terms. The words are the server's own, the
 // detail names the key of a violation.
+// Where a lock was in the way, "holder" tells whose: " (anna on kitchen-2)".
 EngineError postgresError(const QByteArray &sqlState, const QString &words, const QString &detail,
-                          const QString &location);
+                          const QString &location, const QString &holder = {});
 
 // Whether connecting failed because the server has no database of the name.
 bool isMissingDatabase(const EngineError &error);

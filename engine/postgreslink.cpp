@@ -1,6 +1,8 @@
 #include "engine/postgreslink.h"
 
+#include "engine/platform.h"
 #include "engine/postgreserror.h"
+#include "engine/postgreswatch.h"
 
 #include <libpq-fe.h>
 #include <QCoreApplication>
@@ -16,6 +18,13 @@ namespace {
 constexpr int flushEvery = 32;
 constexpr int mostPending = 256;
 constexpr int staleLimit = 50;
+
+// How long a server may be silent before it is asked over another connection, how long that may take, and how long
+// an answer may be on its way that the server has given already. A command that takes its time is asked for again.
+constexpr std::chrono::milliseconds silence{150};
+constexpr std::chrono::seconds watchTime{10};
+constexpr std::chrono::seconds answerOnItsWay{10};
+constexpr std::chrono::seconds nextWatch{20};
 
 // The server's last words to a session that it ends; the connection itself breaks a moment later.
 bool endsSession(const PGresult *result)
@@ -44,6 +53,7 @@ void PostgresLink::prepareFor(RowReader *reader)
 {
     if (m_reader && m_reader != reader)
         m_reader->readAhead();
+    m_blocker.reset();
     if (m_lostInTransaction)
         throw connectionLost(location(), u"lost within a transaction"_s);
     if (!isLost()) {
@@ -68,7 +78,68 @@ void PostgresLink::dropStaleStatements()
     run(script);
 }
 
-ResultPtr PostgresLink::run(const QByteArray &script) { return checked(PQexec(m_handle, script.constData())); }
+ResultPtr PostgresLink::run(const QByteArray &script)
+{
+    if (PQsendQuery(m_handle, script.constData()) != 1)
+        fail(nullptr);
+    return finishCommand();
+}
+
+ResultPtr PostgresLink::finishCommand()
+{
+    ResultPtr last;
+    while (pg_result *result = nextResult())
+        last.reset(result);
+    return checked(last.release());
+}
+
+bool PostgresLink::mayTryAgain(const EngineError &error, std::chrono::steady_clock::time_point since) const
+{
+    return error.code() == ErrorCode::Busy && !m_inTransaction && m_target.mayTryAgain
+        && m_target.mayTryAgain(since);
+}
+
+// --- waiting for the server -------------------------------------------------------------------------------------
+
+pg_result *PostgresLink::nextResult()
+{
+    while (PQisBusy(m_handle)) {
+        if (!isAnswered(silence))
+            awaitAnswer();
+        if (PQconsumeInput(m_handle) != 1)
+            break; // the result tells what has happened
+    }
+    return PQgetResult(m_handle);
+}
+
+bool PostgresLink::isAnswered(std::chrono::milliseconds time) const
+{
+    return waitForSocket(PQsocket(m_handle), false, time);
+}
+
+// The machine may be gone, or whoever passes on what it says; then nothing ever comes, not even a failure.
+void PostgresLink::awaitAnswer()
+{
+    using Clock = std::chrono::steady_clock;
+    do {
+        PostgresWatch watch(m_target, PQbackendPID(m_handle));
+        const auto deadline = Clock::now() + watchTime;
+        while (!watch.isOver() && Clock::now() < deadline) {
+            const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+            waitForEither(PQsocket(m_handle), watch.socket(), watch.wantsToWrite(), left);
+            if (isAnswered({}))
+                return;
+            if (waitForSocket(watch.socket(), watch.wantsToWrite(), {}))
+                watch.proceed();
+        }
+        m_blocker = watch.blocker();
+        const bool gone = !watch.isOver() || (watch.isIdle() && !isAnswered(answerOnItsWay));
+        if (gone) {
+            noteLoss();
+            throw connectionLost(location(), u"no answer"_s);
+        }
+    } while (!isAnswered(nextWatch));
+}
 
 ResultPtr PostgresLink::checked(pg_result *result)
 {
@@ -93,7 +164,8 @@ EngineError PostgresLink::errorOf(const pg_result *result)
     const QByteArray sqlState(PQresultErrorField(result, PG_DIAG_SQLSTATE));
     const QString words =
         result ? field(result, PG_DIAG_MESSAGE_PRIMARY) : QString::fromUtf8(PQerrorMessage(m_handle)).trimmed();
-    return postgresError(sqlState, words, field(result, PG_DIAG_MESSAGE_DETAIL), location());
+    const QString holder = m_blocker ? " ("_L1 + m_blocker->description() + u')' : QString();
+    return postgresError(sqlState, words, field(result, PG_DIAG_MESSAGE_DETAIL), location(), holder);
 }
 
 bool PostgresLink::isLost() const { return m_lost || PQstatus(m_handle) == CONNECTION_BAD; }
@@ -133,7 +205,7 @@ void PostgresLink::countSent()
 void PostgresLink::collect(int commands, ResultPtr *last)
 {
     for (; commands > 0 && m_pending > 0; --commands) {
-        while (pg_result *result = PQgetResult(m_handle)) {
+        while (pg_result *result = nextResult()) {
             ResultPtr owned(result);
             const ExecStatusType status = PQresultStatus(result);
             const bool failed = status == PGRES_FATAL_ERROR || status == PGRES_PIPELINE_ABORTED;
@@ -155,7 +227,7 @@ ResultPtr PostgresLink::finishSent()
         fail(nullptr);
     collect(m_pending, &last);
     if (!isLost())
-        PQclear(PQgetResult(m_handle)); // the synchronization itself
+        PQclear(nextResult()); // the synchronization itself
     m_pending = 0;
     if (!m_failure)
         return last;
@@ -224,8 +296,13 @@ void PostgresLink::rollback() noexcept
         m_reader = nullptr;
     }
     abandonPipeline();
-    PQclear(PQexec(m_handle, "ROLLBACK"));
     m_inTransaction = false;
+    try {
+        if (!isLost())
+            run("ROLLBACK");
+    } catch (const EngineError &) {
+        // a connection that is lost has undone it
+    }
 }
 
 bool PostgresLink::isTransactionFailed() const { return PQtransactionStatus(m_handle) == PQTRANS_INERROR; }

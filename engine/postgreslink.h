@@ -1,7 +1,9 @@
 #pragma once
 
 #include "engine/error.h"
+#include "engine/locks.h"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -30,9 +32,15 @@ struct PostgresTarget
     QString password;
     bool requireTls = false;
     QString applicationName;
+    std::chrono::milliseconds lockWait{400}; // how long a statement may wait for somebody's lock
+    // Whether what a lock has refused may be tried again, after a pause; see Session.
+    std::function<bool(std::chrono::steady_clock::time_point since)> mayTryAgain;
 
     QString location() const; // for messages: "database corvane on the server 10.0.0.5"
 };
+
+// Starts to connect, for PQconnectPoll.
+pg_conn *beginConnecting(const PostgresTarget &target);
 
 // A statement that takes its rows from the wire one by one, and can take the rest into memory when the wire is
 // needed for something else.
@@ -71,6 +79,12 @@ public:
 
     // Runs a script to its end, not pipelined; throws its failure.
     ResultPtr run(const QByteArray &script);
+    ResultPtr finishCommand(); // the last result of what has been sent, not pipelined; throws its failure
+    // As PQgetResult, but a server that is silent for long is found out about: one that cannot be reached any more,
+    // or that has lost the session, is a lost connection.
+    pg_result *nextResult();
+    // For what was refused outside of transactions because somebody holds a lock.
+    bool mayTryAgain(const EngineError &error, std::chrono::steady_clock::time_point since) const;
     // The result, or the error that it carries.
     ResultPtr checked(pg_result *result);
     [[noreturn]] void fail(const pg_result *result); // also when the command could not even be sent
@@ -98,6 +112,9 @@ private:
     void connect();
     void collect(int commands, ResultPtr *last);
     void noteLoss();
+    void awaitAnswer();
+    bool isAnswered(std::chrono::milliseconds time) const;
+    void endSession(int processId);
     void dropStaleStatements();
 
     PostgresTarget m_target;
@@ -108,6 +125,7 @@ private:
     RowReader *m_reader = nullptr;
     int m_pending = 0;
     std::optional<EngineError> m_failure;
+    std::optional<LockOwner> m_blocker; // whom the command under way has been waiting for
     bool m_inTransaction = false;
     bool m_lost = false;
     bool m_lostInTransaction = false;

@@ -27,6 +27,20 @@ const QString lockRecord = u"SELECT CASE WHEN NOT pg_try_advisory_lock_shared(?,
                            "ELSE NOT pg_advisory_unlock_shared(?, 0) END"_s;
 const QString unlockRecordText = u"SELECT pg_advisory_unlock(?, ?), pg_advisory_unlock_shared(?, 0)"_s;
 
+// Both kinds of holders of a table, called "a"; with one parameter, the number or the name of the table.
+const QString advisoryHolders =
+    u"FROM pg_locks l JOIN pg_stat_activity a USING (pid) WHERE l.locktype = 'advisory' AND l.granted "
+    "AND l.pid <> pg_backend_pid() AND l.objsubid = 2 "
+    "AND l.database = (SELECT oid FROM pg_database WHERE datname = current_database()) "
+    "AND l.classid = CAST(CAST(? AS bigint) & 4294967295 AS oid) AND l.objid = 0 "
+    "ORDER BY l.mode = 'ExclusiveLock' DESC LIMIT 1"_s;
+const QString foreignWriters =
+    u"FROM pg_locks l JOIN pg_stat_activity a USING (pid) WHERE l.locktype = 'relation' AND l.granted "
+    "AND l.pid <> pg_backend_pid() "
+    "AND l.database = (SELECT oid FROM pg_database WHERE datname = current_database()) "
+    "AND l.relation IN (SELECT oid FROM pg_class WHERE relname = ?) "
+    "AND l.mode NOT IN ('AccessShareLock', 'ShareUpdateExclusiveLock')"_s; // readers and the server's own vacuum
+
 qint64 hashOf(const QByteArray &bytes)
 {
     const QByteArray digest = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
@@ -38,6 +52,18 @@ qint64 tableNumber(const QString &table) { return hashOf("table " + table.toUtf8
 qint64 recordNumber(const QString &table) { return hashOf("record " + table.toUtf8()); }
 
 } // namespace
+
+// "anna@kitchen-2/4711" of this system's own sessions, "postgres (psql)" of others.
+LockOwner sessionOwner(const char *applicationName, const char *role, const char *address)
+{
+    const QString name = QString::fromUtf8(applicationName);
+    const qsizetype at = name.lastIndexOf(u'@');
+    const qsizetype slash = name.lastIndexOf(u'/');
+    if (at >= 0 && slash >= at)
+        return {name.left(at), name.mid(at + 1, slash - at - 1), name.mid(slash + 1).toLongLong()};
+    const QString user = QString::fromUtf8(role);
+    return {name.isEmpty() ? user : u"%1 (%2)"_s.arg(user, name), QString::fromUtf8(address), 0};
+}
 
 QString PostgresLocks::applicationName(const QString &user)
 {
@@ -80,13 +106,16 @@ void PostgresLocks::releaseDeferred() noexcept
 
 bool PostgresLocks::mayReconnect() const
 {
-    return std::none_of(everything().begin(), everything().end(), [](const auto &entry) {
-        return entry.second.keepsOthersFromWriting() || entry.second.exclusive > 0;
-    });
+    return std::none_of(everything().begin(), everything().end(),
+                        [](const auto &entry) { return entry.second.isReliedOn(); });
 }
 
-void PostgresLocks::reacquireOpen()
+bool PostgresLocks::areLost() const { return m_connection.isLost(); }
+
+void PostgresLocks::reconnected()
 {
+    ++m_losses;
+    loseRecords();
     m_deferred.clear();
     for (const auto &[table, held] : everything()) {
         if (held.shared > 0)
@@ -124,31 +153,45 @@ void PostgresLocks::releaseRecord(const QString &table, qint64 place, bool)
     release(unlockRecordText, {recordNumber(table), place, tableNumber(table)});
 }
 
-bool PostgresLocks::acquireTable(const QString &table) { return ask(lockAlone, {tableNumber(table), 0}); }
+bool PostgresLocks::acquireTable(const QString &table)
+{
+    if (!ask(lockAlone, {tableNumber(table), 0}))
+        return false;
+    if (!isWrittenElsewhere(table))
+        return true;
+    release(unlockAlone, {tableNumber(table), 0});
+    return false;
+}
+
+// Not everybody who writes to the database asks these locks, and a long run must not come to a stop in the middle.
+bool PostgresLocks::isWrittenElsewhere(const QString &table)
+{
+    const StatementPtr statement = m_connection.prepare("SELECT EXISTS (SELECT 1 "_L1 + foreignWriters + u')');
+    statement->bindText(0, table);
+    return statement->next() && statement->intAt(0) == 1;
+}
 
 void PostgresLocks::releaseTable(const QString &table, const std::set<qint64> &)
 {
     release(unlockAlone, {tableNumber(table), 0});
 }
 
-std::optional<LockOwner> PostgresLocks::ownerOf(const QString &table)
+std::optional<LockOwner> PostgresLocks::ownerIn(const QString &sql, const Value &parameter)
 {
-    const StatementPtr statement = m_connection.prepare(
-        u"SELECT a.application_name, coalesce(host(a.client_addr), '') FROM pg_locks l JOIN pg_stat_activity a "
-        u"USING "
-        "(pid) WHERE l.locktype = 'advisory' AND l.granted AND l.pid <> pg_backend_pid() AND l.objsubid = 2 "
-        "AND l.database = (SELECT oid FROM pg_database WHERE datname = current_database()) "
-        "AND l.classid = CAST(CAST(? AS bigint) & 4294967295 AS oid) AND l.objid = 0 "
-        "ORDER BY l.mode = 'ExclusiveLock' DESC LIMIT 1"_s);
-    statement->bindInt(0, tableNumber(table.toLower()));
+    const StatementPtr statement =
+        m_connection.prepare("SELECT a.application_name, a.usename, coalesce(host(a.client_addr), '') "_L1 + sql);
+    statement->bind(0, parameter);
     if (!statement->next())
         return std::nullopt;
-    const QString name = statement->textAt(0);
-    const qsizetype at = name.lastIndexOf(u'@');
-    const qsizetype slash = name.lastIndexOf(u'/');
-    if (at < 0 || slash < at)
-        return LockOwner{name, statement->textAt(1), 0};
-    return LockOwner{name.left(at), name.mid(at + 1, slash - at - 1), name.mid(slash + 1).toLongLong()};
+    return sessionOwner(statement->textAt(0).toUtf8().constData(), statement->textAt(1).toUtf8().constData(),
+                        statement->textAt(2).toUtf8().constData());
+}
+
+std::optional<LockOwner> PostgresLocks::ownerOf(const QString &table)
+{
+    if (auto owner = ownerIn(advisoryHolders, tableNumber(table.toLower())))
+        return owner;
+    return ownerIn(foreignWriters + " LIMIT 1"_L1, table.toLower());
 }
 
 } // namespace Engine

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/countedlocks.h"
+#include "engine/value.h"
 
 #include <QByteArray>
 #include <QList>
@@ -8,6 +9,9 @@
 namespace Engine {
 
 class PostgresConnection;
+
+// Who the session of a connection belongs to, by what the server tells of it. Empty texts for what it keeps back.
+LockOwner sessionOwner(const char *applicationName, const char *role, const char *address);
 
 // Advisory locks of the connection's own session. For each table there are three numbers made of its name: one for
 // being open, one for the table lock, which whoever locks a record shares, and one for the records.
@@ -20,11 +24,13 @@ public:
     }
 
     std::optional<LockOwner> ownerOf(const QString &table) override;
+    bool areLost() const override;
+    int losses() const override { return m_losses; }
 
-    // After the connection was lost: false while somebody still believes in a lock that went with it. The shared
-    // locks of open tables are taken again.
+    // After the connection was lost: false while somebody still believes in a lock that went with it. Once it is made
+    // anew, what went with the old one is forgotten, and the shared locks of open tables are taken again.
     bool mayReconnect() const;
-    void reacquireOpen();
+    void reconnected();
     // Gives back what could not be given back within a failed transaction.
     void releaseDeferred() noexcept;
 
@@ -41,6 +47,8 @@ protected:
 
 private:
     bool ask(const QString &sql, const QList<qint64> &numbers);
+    bool isWrittenElsewhere(const QString &table);
+    std::optional<LockOwner> ownerIn(const QString &sql, const Value &parameter);
     void release(const QString &sql, const QList<qint64> &numbers) noexcept;
 
     struct Deferred
@@ -51,6 +59,7 @@ private:
 
     PostgresConnection &m_connection;
     QList<Deferred> m_deferred;
+    int m_losses = 0;
 };
 
 } // namespace Engine

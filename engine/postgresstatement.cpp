@@ -142,7 +142,9 @@ void PostgresStatement::prepare()
             m_link->fail(nullptr);
         m_link->countSent();
     } else {
-        m_link->checked(PQprepare(handle, m_name.constData(), m_sql.constData(), 0, nullptr));
+        if (PQsendPrepare(handle, m_name.constData(), m_sql.constData(), 0, nullptr) != 1)
+            m_link->fail(nullptr);
+        m_link->finishCommand();
     }
     m_generation = m_link->generation();
 }
@@ -160,6 +162,19 @@ void PostgresStatement::dispatch()
 
 void PostgresStatement::start()
 {
+    const auto since = std::chrono::steady_clock::now();
+    for (;;) {
+        try {
+            return startOnce();
+        } catch (const EngineError &error) {
+            if (!m_link->mayTryAgain(error, since))
+                throw;
+        }
+    }
+}
+
+void PostgresStatement::startOnce()
+{
     PostgresStatement::reset();
     m_link->prepareFor(this);
     prepare();
@@ -173,6 +188,7 @@ void PostgresStatement::start()
     }
     PQsetSingleRowMode(m_link->handle());
     m_link->setReader(this);
+    fetch();
 }
 
 bool PostgresStatement::fetch()
@@ -184,7 +200,7 @@ bool PostgresStatement::fetch()
     }
     if (m_link->reader() != this)
         return false;
-    pg_result *result = PQgetResult(m_link->handle());
+    pg_result *result = m_link->nextResult();
     if (!result) {
         m_link->setReader(nullptr);
         return false;
@@ -198,7 +214,7 @@ bool PostgresStatement::fetch()
     const ResultPtr failed(result);
     const EngineError error = m_link->errorOf(result);
     if (m_link->reader() == this) {
-        while (pg_result *rest = PQgetResult(m_link->handle()))
+        while (pg_result *rest = m_link->nextResult())
             PQclear(rest);
         m_link->setReader(nullptr);
     }
@@ -259,7 +275,7 @@ void PostgresStatement::reset()
     m_ahead.clear();
     if (m_link->reader() != this)
         return;
-    while (pg_result *rest = PQgetResult(m_link->handle()))
+    while (pg_result *rest = m_link->nextResult())
         PQclear(rest);
     m_link->setReader(nullptr);
 }
@@ -275,7 +291,9 @@ const pg_result *PostgresStatement::shape() const
         m_link->prepareFor(nullptr);
         m_link->leavePipeline();
         self->prepare();
-        m_shape = m_link->checked(PQdescribePrepared(m_link->handle(), m_name.constData()));
+        if (PQsendDescribePrepared(m_link->handle(), m_name.constData()) != 1)
+            m_link->fail(nullptr);
+        m_shape = m_link->finishCommand();
     }
     return m_shape.get();
 }

@@ -45,7 +45,8 @@ public:
 private:
     void prepare();
     void dispatch(); // hands the execution to libpq
-    void start();
+    void start(); // and tries again while somebody's lock is in the way
+    void startOnce();
     bool fetch(); // the next row off the wire
     void readAhead() override;
     void bindRaw(int parameter, QByteArray text);

@@ -17,7 +17,7 @@ QString lockHolder(LockManager &locks, const QString &table)
 }
 
 RecordLock::RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key,
-                       const QString &record)
+                       const QString &record, Loss loss)
     : m_locks(connection.locks())
     , m_table(std::move(table))
     , m_key(std::move(key))
@@ -34,18 +34,24 @@ RecordLock::RecordLock(Connection &connection, const Session &session, QString t
     for (int attempt = 1;; ++attempt) {
         m_held = m_locks.tryLockRecord(m_table, m_key);
         if (m_held)
-            return;
+            break;
         if (attempt >= session.lockAttempts)
             refuse(record);
         session.pause();
     }
+    m_losses = m_locks.losses();
+    if (loss == Loss::Noticed)
+        m_locks.mayBeLost(m_table, m_key);
 }
 
 RecordLock::~RecordLock()
 {
-    if (m_held)
+    // After a loss the record may be locked again, by another edit.
+    if (m_held && m_losses == m_locks.losses())
         m_locks.unlockRecord(m_table, m_key);
 }
+
+bool RecordLock::isLost() const { return m_held && (m_locks.areLost() || m_losses != m_locks.losses()); }
 
 QList<qint64> RecordLock::anyKey()
 {

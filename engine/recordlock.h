@@ -12,11 +12,17 @@ namespace Engine {
 class RecordLock
 {
 public:
+    // What becomes of a lock whose connection is lost. While one stands that its holder relies on blindly, a server is
+    // not connected to again. Where the loss is noticed, the holder asks isLost() before he relies on it.
+    enum class Loss { Unnoticed, Noticed };
+
     RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key,
-               const QString &record);
+               const QString &record, Loss loss = Loss::Unnoticed);
     ~RecordLock();
     RecordLock(const RecordLock &) = delete;
     RecordLock &operator=(const RecordLock &) = delete;
+
+    bool isLost() const;
 
     // A key that no record has. Locking it tells whether records may be written at all.
     static QList<qint64> anyKey();
@@ -28,6 +34,7 @@ private:
     QString m_table;
     QList<qint64> m_key;
     bool m_held = false;
+    int m_losses = 0; // of the connection, when the lock was taken
 };
 
 // " (anna on kitchen-2)" or nothing, for messages about the table's locks.

@@ -1,5 +1,6 @@
 #include "engine/session.h"
 
+#include <QScopeGuard>
 #include <thread>
 
 namespace Engine {
@@ -15,10 +16,20 @@ void Session::start()
 
 void Session::pause() const
 {
+    const bool within = std::exchange(m_pausing, true);
+    const auto over = qScopeGuard([&] { m_pausing = within; });
     if (waitFor)
         waitFor(lockPause);
     else
         std::this_thread::sleep_for(lockPause);
+}
+
+bool Session::mayTryAgain(std::chrono::steady_clock::time_point since) const
+{
+    if (m_pausing || std::chrono::steady_clock::now() - since >= lockAttempts * lockPause)
+        return false;
+    pause();
+    return true;
 }
 
 } // namespace Engine

@@ -37,15 +37,22 @@ public:
     // Record locks are taken when an edit begins, tried this often with this pause in between.
     int lockAttempts = 15;
     std::chrono::milliseconds lockPause{100};
+    // How long a server lets one statement wait for somebody's lock. What gives up then is tried again with pauses in
+    // between, for as long as record locks are tried, so that a screen never stands still for longer than this.
+    std::chrono::milliseconds serverLockWait{400};
     // Called for each pause instead of sleeping, so that a screen can stay alive. Empty: sleep.
     std::function<void(std::chrono::milliseconds)> waitFor;
 
     void start(); // runs onStartup unless that has been done
     void pause() const; // one lockPause
+    // Pauses and gives true while what was begun then may be tried again. Never within a pause: what a screen does
+    // meanwhile must not wait as well.
+    bool mayTryAgain(std::chrono::steady_clock::time_point since) const;
 
 private:
     QString m_name;
     bool m_started = false;
+    mutable bool m_pausing = false;
 };
 
 } // namespace Engine

@@ -57,6 +57,10 @@ public:
     // --- editing ------------------------------------------------------------------------------------------------
     TableState state() const { return m_state; }
     bool isEditing() const { return m_state == TableState::Edit || m_state == TableState::Insert; }
+    // Takes the record's lock again when it has gone with a lost connection, and gives true when that was so. Throws
+    // RecordLocked when somebody else edits the record now, RecordChanged or RecordGone when somebody has changed it
+    // meanwhile: the edit can only be dropped then. Saving does this by itself.
+    bool holdRecord();
     bool isModified() const { return m_modified; } // a field was set by set() since edit or insert
     // Locks and re-reads the record. On an empty table this is insert(). Throws RecordLocked, RecordGone.
     void edit();
@@ -124,12 +128,14 @@ private:
     void restrictionChanged();
 
     QString recordText() const;
+    std::unique_ptr<class RecordLock> lockForEdit(const Row &row) const;
     void requireWritable() const;
     void readForEdit();
     void setValue(int field, const Value &value);
     void requirePrimaryKey() const;
     void requireUnique(int field) const;
     void write();
+    void writeRow();
     void insertRow();
     void updateRow();
     void finishEdit();

@@ -120,7 +120,7 @@ void Table::readForEdit()
     const DataSetReader reader(*this);
     const Row shown = reader.currentRow(); // NOLINT(performance-unnecessary-copy-initialization): it is read anew
     auto edit = std::make_unique<Edit>();
-    edit->lock.emplace(m_database.connection(), m_database.session(), m_name, lockKey(shown), recordText());
+    edit->lock = lockForEdit(shown);
     const bool found = findAgain(shown);
     edit->key = currentKey();
     auto stored = found && !edit->key.isEmpty() ? reader.source().row(edit->key) : std::nullopt;
@@ -140,6 +140,39 @@ void Table::readForEdit()
     if (d->index >= 0)
         Q_EMIT rowChanged(d->index);
     Q_EMIT currentChanged();
+}
+
+std::unique_ptr<RecordLock> Table::lockForEdit(const Row &row) const
+{
+    return std::make_unique<RecordLock>(m_database.connection(), m_database.session(), m_name, lockKey(row),
+                                        recordText(), RecordLock::Loss::Noticed);
+}
+
+bool Table::holdRecord()
+{
+    if (m_state != TableState::Edit || !m_edit->lock->isLost())
+        return false;
+    m_database.connection().execute(u"SELECT 1"_s); // connects again, and forgets the lock with that
+    auto lock = lockForEdit(m_edit->original);
+    const auto key = storedKey(m_edit->original);
+    const auto stored = key ? DataSetReader(*this).source().row(*key) : std::nullopt;
+    if (!stored) {
+        throw EngineError(
+            ErrorCode::RecordGone,
+            QCoreApplication::translate("Engine", "%1 was deleted by another user.").arg(recordText()));
+    }
+    for (int i = 0; i < fieldCount(); ++i) {
+        const auto at = static_cast<size_t>(i);
+        if (field(i).kind == FieldKind::Data && (*stored)[at] != m_edit->original[at])
+            throw EngineError(ErrorCode::RecordChanged,
+                              QCoreApplication::translate("Engine",
+                                                          "%1 was changed by another user while the connection "
+                                                          "was lost. Cancel, and make your changes again.")
+                                  .arg(recordText()));
+    }
+    m_edit->key = *key;
+    m_edit->lock = std::move(lock);
+    return true;
 }
 
 void Table::insert()

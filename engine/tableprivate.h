@@ -38,7 +38,7 @@ struct Table::Edit
     Row values;
     Row original; // as read; of a new record the values it began with
     Key key; // of the stored row; empty for a new record
-    std::optional<RecordLock> lock;
+    std::unique_ptr<RecordLock> lock;
 };
 
 } // namespace Engine

@@ -50,9 +50,17 @@ void Table::write()
     std::optional<RecordLock> writing; // a new record has no key yet that others could lock
     if (m_state == TableState::Insert)
         writing.emplace(connection, m_database.session(), m_name, RecordLock::anyKey(), recordText());
-    Transaction transaction(connection);
-    for (const QString &name : std::as_const(uniqueFields))
-        requireUnique(requireField(name));
+    else
+        holdRecord();
+    m_database.change([this] {
+        for (const QString &name : std::as_const(uniqueFields))
+            requireUnique(requireField(name));
+        writeRow();
+    });
+}
+
+void Table::writeRow()
+{
     try {
         m_state == TableState::Insert ? insertRow() : updateRow();
     } catch (const EngineError &error) {
@@ -63,7 +71,6 @@ void Table::write()
             QCoreApplication::translate("Engine", "Table '%1' already has a record with this key.").arg(m_name),
             error.driverText());
     }
-    transaction.commit();
 }
 
 void Table::requireUnique(int fieldNumber) const
@@ -225,13 +232,13 @@ void Table::removeRow(const Key &key)
     QStringList conditions;
     for (const QString &column : scope().keyColumns)
         conditions << column + " = ?"_L1;
-    Transaction transaction(connection);
-    const StatementPtr statement = connection.prepare(u"DELETE FROM %1 AS t WHERE %2"_s.arg(
-        connection.dialect().name(m_layout.name), conditions.join(" AND "_L1)));
-    for (qsizetype i = 0; i < key.size(); ++i)
-        statement->bind(static_cast<int>(i), key[i]);
-    statement->execute();
-    transaction.commit();
+    m_database.change([&] {
+        const StatementPtr statement = connection.prepare(u"DELETE FROM %1 AS t WHERE %2"_s.arg(
+            connection.dialect().name(m_layout.name), conditions.join(" AND "_L1)));
+        for (qsizetype i = 0; i < key.size(); ++i)
+            statement->bind(static_cast<int>(i), key[i]);
+        statement->execute();
+    });
 }
 
 // All rows of a small set are locked one by one, so that only an edit of one of them stands in the way.
@@ -260,11 +267,11 @@ void Table::removeAll()
     QString sql = u"DELETE FROM %1 AS t"_s.arg(connection.dialect().name(m_layout.name));
     if (!condition.isEmpty())
         sql += " WHERE "_L1 + condition.text;
-    Transaction transaction(connection);
-    const StatementPtr statement = connection.prepare(sql);
-    bindAll(*statement, condition.parameters);
-    statement->execute();
-    transaction.commit();
+    m_database.change([&] {
+        const StatementPtr statement = connection.prepare(sql);
+        bindAll(*statement, condition.parameters);
+        statement->execute();
+    });
     invalidate(Place::First);
     emitListChanged();
     scrolled();

@@ -73,7 +73,8 @@ private:
             table.lockTable();
             return true;
         } catch (const Engine::EngineError &error) {
-            const bool held = error.code() == ErrorCode::TableLocked || error.code() == ErrorCode::TableInUse;
+            const bool held = error.code() == ErrorCode::TableLocked || error.code() == ErrorCode::TableInUse
+                || error.code() == ErrorCode::Busy;
             if (!held || !prompts.retry(lock.refusal))
                 throw;
         }
@@ -104,11 +105,11 @@ bool DocumentPosting::run(Prompts &prompts, Progress &progress)
     const Locks locks(m_database, m_kind.posting.locks, prompts);
     progress.start(count());
     const auto finished = qScopeGuard([&progress] { progress.finish(); });
-    postAll(progress);
+    postAll(prompts, progress);
     return true;
 }
 
-void DocumentPosting::postAll(Progress &progress)
+void DocumentPosting::postAll(Prompts &prompts, Progress &progress)
 {
     Engine::Connection &connection = m_database.connection();
     const Engine::BulkWriting bulk(m_database);
@@ -116,7 +117,9 @@ void DocumentPosting::postAll(Progress &progress)
     HistoryWriter history(connection, m_kind.keyField, m_kind.posting.transType);
     const Engine::StatementPtr mark =
         connection.prepare(u"UPDATE %1 SET Posted = true WHERE %2 = ?"_s.arg(m_kind.headerTable, m_kind.keyField));
-    Engine::GroupedWrites writes(m_database, [&stock] { stock.forget(); });
+    Engine::GroupedWrites writes(
+        m_database, [&stock] { stock.forget(); },
+        [&prompts](const Engine::EngineError &error) { return prompts.retry(error.text()); });
 
     for (size_t begin = 0; begin < m_keys.size(); begin += BatchSize) {
         const size_t end = std::min(begin + BatchSize, m_keys.size());

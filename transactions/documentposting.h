@@ -44,7 +44,7 @@ public:
 private:
     class Locks;
 
-    void postAll(Progress &progress);
+    void postAll(Prompts &prompts, Progress &progress);
     std::vector<PostingDocument> readBatch(const QString &keys) const;
     std::vector<PostingDocument> readHeaders(const QString &keys) const;
     void readLines(std::vector<PostingDocument> &documents, const QString &keys) const;

@@ -1,3 +1,4 @@
+#include "engine/groupedwrites.h"
 #include "engine/locks.h"
 #include "engine/platform.h"
 #include "tests/engine/storetest.h"
@@ -174,6 +175,62 @@ TEST(RemoteFailures, WhatCannotBeReachedIsNamed)
         EXPECT_EQ(errorOf([&] { user.database.connection(); }, &message), c.code) << message.toStdString();
         EXPECT_TRUE(message.contains(c.named)) << message.toStdString();
     }
+}
+
+TEST(RemoteFailures, SomebodysLockIsWaitedForWithinBoundsAndItsHolderNamed)
+{
+    TestStore store(Store::Remote);
+    store.execute(u"CREATE TABLE T (a integer PRIMARY KEY, b integer); INSERT INTO T VALUES (1, 0)"_s);
+    const auto anna = store.anotherUser(u"anna"_s);
+    Connection &annas = anna->database.connection();
+    const struct
+    {
+        const char *held;
+        std::function<void()> waiting;
+    } cases[] = {
+        {"LOCK TABLE T", [&] { store.rows(u"SELECT b FROM T"_s); }},
+        {"LOCK TABLE T", [&] { store.execute(u"UPDATE T SET b = 2"_s); }},
+        {"UPDATE T SET b = 1",
+         [&] { store.database().change([&] { store.execute(u"UPDATE T SET b = b + 10"_s); }); }},
+        {"UPDATE T SET b = 1",
+         [&] {
+             GroupedWrites writes(store.database());
+             const StatementPtr update = store.database().connection().prepare(u"UPDATE T SET b = b + 10"_s);
+             writes.apply([&](Writes &sink) { sink.send(*update); });
+             writes.finish();
+         }},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.held);
+        annas.execute(u"BEGIN; "_s + QString::fromLatin1(c.held));
+        int pauses = 0;
+        store.session().waitFor = [&](std::chrono::milliseconds) { ++pauses; };
+        QString message;
+        EXPECT_EQ(errorOf(c.waiting, &message), ErrorCode::Busy);
+        EXPECT_TRUE(message.contains(u"anna on"_s)) << message.toStdString();
+        EXPECT_GT(pauses, 1) << "a screen would have stood still";
+        EXPECT_FALSE(store.database().connection().inTransaction());
+
+        store.session().waitFor = [&](std::chrono::milliseconds) { annas.execute(u"ROLLBACK"_s); };
+        EXPECT_FALSE(errorOf(c.waiting));
+        store.session().waitFor = nullptr;
+    }
+    EXPECT_EQ(store.rows(u"SELECT b FROM T"_s), QStringList(u"22"_s)) << "each change once";
+}
+
+TEST(RemoteFailures, ATableThatAStrangerWritesToIsNotLocked)
+{
+    TestStore store(Store::Remote);
+    store.execute(u"CREATE TABLE T (a integer)"_s);
+    const auto anna = store.anotherUser(u"anna"_s);
+    Connection &annas = anna->database.connection();
+    LockManager &locks = store.database().connection().locks();
+    annas.execute(u"BEGIN; INSERT INTO T VALUES (1)"_s);
+    EXPECT_FALSE(locks.tryLockTable(u"T"_s));
+    ASSERT_TRUE(locks.ownerOf(u"T"_s));
+    EXPECT_EQ(locks.ownerOf(u"T"_s)->user, u"anna"_s);
+    annas.execute(u"COMMIT; BEGIN; SELECT * FROM T"_s);
+    EXPECT_TRUE(locks.tryLockTable(u"T"_s)) << "readers are not in the way";
 }
 
 namespace {
