@@ -1,3 +1,4 @@
+#include "engine/driver.h"
 #include "engine/table.h"
 #include "tests/cli/clirunner.h"
 
@@ -71,6 +72,42 @@ TEST_P(Concurrency, ATableHeldByAnotherUserRefusesImportAndPosting)
     table.unlockTable();
     EXPECT_EQ(CliRunner::finish(*patient).status, 0);
     EXPECT_EQ(cli.list({u"history"_s}).size(), 1);
+}
+
+TEST(ConcurrencyOnAServer, AStrangersLockIsWaitedForAsLongAsWasSaid)
+{
+    CliRunner cli(Store::Remote);
+    makeSmallCompany(cli);
+    ASSERT_EQ(cli.import(u"receipts"_s, receipts).status, 0);
+    cli.writeFile(u"more.csv"_s, receipts);
+    const auto anna = cli.anotherUser();
+    Engine::Connection &annas = anna->database.connection();
+    const QStringList post{u"post"_s, u"receipts"_s};
+    const QStringList import{u"import"_s, u"receipts"_s, u"more.csv"_s};
+    const QStringList sync{u"sync"_s, u"items"_s};
+    const struct
+    {
+        QStringList words;
+        const char *held;
+    } cases[] = {
+        {import, "LOCK TABLE IReceipt"},
+        {sync, "LOCK TABLE Item"},
+        {sync, "UPDATE Item SET WgtAvgCost = WgtAvgCost"},
+        {post, "UPDATE Item SET WgtAvgCost = WgtAvgCost"},
+        {post, "LOCK TABLE Vendor"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.words.join(u' ').toStdString() + " against " + c.held);
+        annas.execute("BEGIN; "_L1 + QLatin1StringView(c.held));
+        const CliResult refused = cli.run(c.words + QStringList{u"--retry"_s, u"1"_s});
+        EXPECT_EQ(refused.status, 1) << refused;
+        EXPECT_TRUE(refused.errors.contains("anna on"_L1)) << refused;
+        const auto patient = cli.start(c.words + QStringList{u"--retry"_s, u"600"_s});
+        EXPECT_FALSE(patient->waitForFinished(700)) << "it did not wait for the lock";
+        annas.execute(u"ROLLBACK"_s);
+        EXPECT_EQ(CliRunner::finish(*patient).status, 0);
+    }
+    EXPECT_EQ(cli.list({u"history"_s}).size(), 2);
 }
 
 TEST_P(Concurrency, EachOfTwoPostersTellsWhatItPostedItself)
