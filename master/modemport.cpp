@@ -1,9 +1,11 @@
 #include "master/modemport.h"
 
+#include <QDeadlineTimer>
 #include <QSerialPort>
+#include <QThread>
 
 #ifdef Q_OS_UNIX
-#include <termios.h>
+#include <sys/ioctl.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -12,14 +14,35 @@ namespace Tallymere {
 
 namespace {
 
-// Closing a line drops what it has not sent yet.
-void drain(const QSerialPort &line)
+// Hands all of it to the system, which takes no more than its buffer holds while the modem accepts nothing.
+bool written(QSerialPort &line, const QByteArray &command, const QDeadlineTimer &end)
+{
+    if (line.write(command) != command.size())
+        return false;
+    while (line.bytesToWrite() > 0) {
+        if (!line.waitForBytesWritten(static_cast<int>(end.remainingTime())))
+            return false;
+    }
+    return true;
+}
+
+// What the system has taken is not on the wire yet: a modem that holds the line stops it there. The system's own
+// wait for that knows no end.
+bool wentOut(const QSerialPort &line, const QDeadlineTimer &end)
 {
 #ifdef Q_OS_UNIX
-    ::tcdrain(line.handle());
+    constexpr unsigned long glance = 5;
+    int unsent = 0;
+    while (::ioctl(line.handle(), TIOCOUTQ, &unsent) == 0 && unsent > 0) {
+        if (end.hasExpired())
+            return false;
+        QThread::msleep(glance);
+    }
 #else
     Q_UNUSED(line);
+    Q_UNUSED(end);
 #endif
+    return true;
 }
 
 } // namespace
@@ -44,15 +67,13 @@ bool ModemPort::open() { return m_line->open(QIODevice::WriteOnly); }
 
 bool ModemPort::send(const QByteArray &command)
 {
-    constexpr int patience = 1000;
-    if (m_line->write(command) != command.size())
-        return false;
-    while (m_line->bytesToWrite() > 0) {
-        if (!m_line->waitForBytesWritten(patience))
-            return false;
-    }
-    drain(*m_line);
-    return true;
+    constexpr int patience = 2000; // twice what the slowest modem takes for a long number
+    const QDeadlineTimer end(patience);
+    if (written(*m_line, command, end) && wentOut(*m_line, end))
+        return true;
+    // Or it would go out when nobody wants it any more, and closing the line would wait for it.
+    m_line->clear(QSerialPort::Output);
+    return false;
 }
 
 QString ModemPort::problem() const { return m_line->errorString(); }

@@ -21,7 +21,8 @@ public:
     static QString usualDevice(int port);
 
     bool open();
-    // True when the modem has been sent all of it. Waits for that, but not for ever.
+    // True when all of it is known to have gone out, which it waits for, but not for ever. What has not gone out by
+    // then is dropped.
     bool send(const QByteArray &command);
     QString problem() const; // why the last step failed, in the system's words
 

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTemporaryDir>
+#include <termios.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -38,12 +39,9 @@ public:
         const auto count = ::read(m_end, bytes, sizeof bytes);
         return {bytes, std::max<qsizetype>(count, 0)};
     }
-    // The line is full and takes no more.
-    void stall()
-    {
-        ::fcntl(m_line, F_SETFL, O_NONBLOCK);
-        while (::write(m_line, "AT", 2) > 0) { }
-    }
+    // Flow control: the line takes nothing until it is resumed. One that is merely full drains behind one's back.
+    void stall() { EXPECT_EQ(::tcflow(m_line, TCOOFF), 0); }
+    void resume() { EXPECT_EQ(::tcflow(m_line, TCOON), 0); }
     void unplug()
     {
         for (int *end : {&m_end, &m_line})
@@ -135,6 +133,8 @@ TEST_F(DialerTest, saysWhyItCannotDial)
     connectModem();
     modem.stall();
     EXPECT_EQ(refusal(u"555"_s), u"Unable to dial number. -> "_s);
+    modem.resume();
+    EXPECT_EQ(modem.heard(), "") << "dialed after it was refused";
     modem.unplug();
     EXPECT_EQ(refusal(u"555"_s), u"Unable to open COM1 -> "_s);
 }
