@@ -50,7 +50,7 @@ void formatFields(Engine::Table &company)
 {
     formatYears(company);
     formatPeriods(company);
-    company.field(u"DefaultNetDays").label = tr("Net Days");
+    company.field(u"DefaultNetDays").label = tr("Default Days in which invoice is due");
 }
 
 // Name and address are the host's, in a first record as in every other.

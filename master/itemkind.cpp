@@ -1,9 +1,7 @@
 #include "master/masterkinds.h"
 
 #include "frame/shared/formats.h"
-#include "frame/shared/ruleerror.h"
 
-#include <algorithm>
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -14,12 +12,11 @@ namespace {
 
 QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Items", text); }
 
-void requireTaxLetters(const Engine::Table &item)
+void formatFields(Engine::Table &item)
 {
-    const QString codes = item.text(u"TaxCodes");
-    const bool letters = std::all_of(codes.begin(), codes.end(), [](QChar code) { return code.isLetter(); });
-    if (!letters)
-        throw RuleError(tr("Tax Codes must be letters, one for each tax"), u"TaxCodes"_s);
+    for (const QString &field : {u"UnitPrice"_s, u"WgtAvgCost"_s, u"StandardCost"_s})
+        item.field(field).format = currencyFormat(RegionalSettings::system(), field);
+    item.field(u"TaxCodes").format = lettersFormat(tr("Tax Codes"), u"TaxCodes"_s);
 }
 
 MasterKind describe()
@@ -33,10 +30,7 @@ MasterKind describe()
     kind.numberCounter = u"NextItemNo"_s;
     kind.keyCounter = u"NextItemID"_s;
     kind.nameFields = {u"ItemNo"_s, u"ItemDescription"_s};
-    kind.formatFields = [](Engine::Table &table) {
-        for (const QString &field : {u"UnitPrice"_s, u"WgtAvgCost"_s, u"StandardCost"_s})
-            table.field(field).format = currencyFormat(RegionalSettings::system(), field);
-    };
+    kind.formatFields = formatFields;
 
     kind.screen = u"frmItemInv"_s;
     kind.caption = tr("Item");
@@ -48,7 +42,6 @@ MasterKind describe()
     kind.required = {{u"ItemNo"_s, tr("Field 'Item no.' must have a value")},
                      {u"ItemDescription"_s, tr("Field 'Description' must have a value")},
                      {u"ItemTypeID"_s, tr("Field 'Item Type' must have a value")}};
-    kind.check = requireTaxLetters;
     kind.references = {{u"ItemTypeID"_s, u"ItemType"_s, u"TypeName"_s, tr("Item Type no longer exists"),
                         tr("Item type '%1' not found")}};
     kind.taken = tr("Item no. already exists");

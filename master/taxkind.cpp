@@ -12,6 +12,12 @@ namespace {
 
 QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Taxes", text); }
 
+void formatFields(Engine::Table &tax)
+{
+    tax.field(u"Rate").format = quantityFormat();
+    tax.field(u"TaxCode").format = lettersFormat(tr("Code"), u"TaxCode"_s);
+}
+
 MasterKind describe()
 {
     MasterKind kind;
@@ -19,7 +25,7 @@ MasterKind describe()
     kind.table = u"Tax"_s;
     kind.keyField = u"TaxID"_s;
     kind.nameFields = {u"TaxName"_s};
-    kind.formatFields = [](Engine::Table &table) { table.field(u"Rate").format = quantityFormat(); };
+    kind.formatFields = formatFields;
 
     kind.screen = u"frmTaxInv"_s;
     kind.caption = tr("Tax");

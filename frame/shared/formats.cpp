@@ -196,6 +196,19 @@ FieldFormat periodNumberFormat(const QString &label, const QString &column)
     return format;
 }
 
+FieldFormat lettersFormat(const QString &label, const QString &column)
+{
+    FieldFormat format;
+    format.parse = nullWhenEmpty([label, column](const QString &text) {
+        const QString letters = text.trimmed();
+        if (std::all_of(letters.begin(), letters.end(), [](QChar c) { return c.isLetter(); }))
+            return Value(letters);
+        throw RuleError(QCoreApplication::translate("Letters", "%1 '%2' may hold letters only").arg(label, letters),
+                        column);
+    });
+    return format;
+}
+
 QString periodText(int period, int year) { return u"%1/%2"_s.arg(QString::number(period), QString::number(year)); }
 
 } // namespace Tallymere

@@ -35,6 +35,9 @@ Engine::FieldFormat twoDigitYearFormat(const QString &message, const QString &co
 // A number from 1 to 12. The label is what the message calls the field.
 Engine::FieldFormat periodNumberFormat(const QString &label, const QString &column = {});
 
+// Text of letters only, as its field's mask takes it. What is stored otherwise stays until it is typed over.
+Engine::FieldFormat lettersFormat(const QString &label, const QString &column = {});
+
 // The year that two typed digits stand for (0 to 99), by the rule above.
 int yearOfTwoDigits(int digits);
 

@@ -85,7 +85,8 @@ TEST_F(CompanyScreen, RefusedEntriesKeepTheCursor)
     EXPECT_EQ(shown("editEPeriodToYYYY"), u"2004"_s);
     type("27");
     enter("DBEditDefaultNetDays", "abc");
-    EXPECT_EQ(prompts.take(), QStringList{u"error: Net Days: \"abc\" is not a whole number."_s});
+    EXPECT_EQ(prompts.take(),
+              QStringList{u"error: Default Days in which invoice is due: \"abc\" is not a whole number."_s});
     focus("memoNotes");
     settle();
     EXPECT_EQ(prompts.take().size(), 1);
