@@ -13,6 +13,7 @@
 #include "frame/shared/ruleerror.h"
 #include "frame/templatereport.h"
 #include "frame/tracescope.h"
+#include "master/dialerinvform.h"
 #include "ui_frmtallymeresystem.h"
 
 #include <QAction>
@@ -72,7 +73,8 @@ TFormTallymereSystem::~TFormTallymereSystem()
 {
     // Screens hold tables of the data modules, so they go first, whatever they still have to save.
     qDeleteAll(screens());
-    delete m_menuItem;
+    for (const QPointer<QAction> &item : std::as_const(m_menuItems))
+        delete item;
     if (m_modalLoop)
         m_modalLoop->quit();
     // A host window that is taking this form with it is only a widget any more, and cannot be released.
@@ -95,10 +97,10 @@ void TFormTallymereSystem::init(QWidget *parent)
 void TFormTallymereSystem::setMenu(QMenu *&menu)
 {
     const TraceScope scope("TFormTallymereSystem.SetMenu");
-    delete m_menuItem; // a host that moves the item to another menu
-    m_menuItem = new QAction(tr("Tallymere"), menu);
-    connect(m_menuItem, &QAction::triggered, this, &TFormTallymereSystem::formTallymereSystemShowModal);
-    menu->addAction(m_menuItem);
+    auto *item = new QAction(tr("Tallymere"), menu);
+    connect(item, &QAction::triggered, this, &TFormTallymereSystem::formTallymereSystemShowModal);
+    menu->addAction(item);
+    m_menuItems << item;
 }
 
 void TFormTallymereSystem::prepareMenuDate(const QDateTime &) { }
@@ -131,6 +133,7 @@ void TFormTallymereSystem::prepareOpening()
         m_lookups = std::make_unique<TdmLookUpsInv>(m_dataModule->databaseTallymere());
     if (!m_context)
         fillContext();
+    makeDialer();
     m_helpFile = u"HX1.hlp"_s;
 
     if (!m_host)
@@ -140,6 +143,15 @@ void TFormTallymereSystem::prepareOpening()
     m_host->getCurrentUser(user);
     m_dataModule->setCurrentUser(user);
     showUser(user);
+}
+
+// It frees itself when it has been used, so each opening begins with a new one.
+void TFormTallymereSystem::makeDialer()
+{
+    if (m_dialer && m_dialer->isVisible())
+        return; // somebody is dialing
+    delete m_dialer;
+    m_dialer = new TfrmDialerInv(*m_context, this);
 }
 
 // The pane's text is cut rather than letting a long name push the hints out.
@@ -232,8 +244,10 @@ void TFormTallymereSystem::databaseOptionsEnabled(bool enable)
     for (QAction *entry : entries.first(qMin(databaseOptions, entries.size())))
         entry->setEnabled(enable);
     const auto buttons = findChildren<QToolButton *>();
-    for (QToolButton *button : buttons)
-        button->setEnabled(enable);
+    for (QToolButton *button : buttons) {
+        if (button->window() == this) // not those of its screens
+            button->setEnabled(enable);
+    }
 }
 
 void TFormTallymereSystem::createActions()

@@ -23,6 +23,7 @@ class TFormTallymereSystem;
 class ScreenRegistry;
 class SettingsStore;
 class TemplateReport;
+class TfrmDialerInv;
 
 // What the main form is given by the module; all of it outlives the form.
 struct FrameServices
@@ -67,7 +68,7 @@ public:
     bool printerDefined();
     // Prints a report from its template file. A file that is not there is named in the standard error box.
     void printReport(TemplateReport &report, bool showPrintDialog);
-    // Enables or disables the first six entries of the first menu and every tool button.
+    // Enables or disables the first six entries of the first menu and every tool button of this window.
     void databaseOptionsEnabled(bool enable);
 
     const Guard &guard() const { return m_guard; }
@@ -89,6 +90,7 @@ private:
     void scaleSizes();
     void prepareOpening();
     void fillContext();
+    void makeDialer();
     void showUser(const QString &user);
     void showModal();
     bool closeScreens(); // false when one of them stays open
@@ -108,12 +110,13 @@ private:
     QPointer<QWidget> m_parent; // the host's window
     InterfaceRef<IHostInterface> m_host;
     QMetaObject::Connection m_parentGone;
-    QPointer<QAction> m_menuItem; // in the host's menu
+    QList<QPointer<QAction>> m_menuItems; // in menus of the host
     int m_references = 0;
 
     std::unique_ptr<TDataModuleTallymere> m_dataModule;
     std::unique_ptr<TdmLookUpsInv> m_lookups;
     std::unique_ptr<ScreenContext> m_context;
+    QPointer<TfrmDialerInv> m_dialer; // waiting for the first phone button of this opening
     QString m_helpFile;
     QEventLoop *m_modalLoop = nullptr;
 };

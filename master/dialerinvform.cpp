@@ -1,5 +1,6 @@
 #include "master/dialerinvform.h"
 
+#include "controls/screenmetrics.h"
 #include "frame/shared/initfile.h"
 #include "master/dialersetupinvform.h"
 #include "ui_dialerinvform.h"
@@ -7,24 +8,34 @@
 #include <QElapsedTimer>
 #include <QThread>
 
+using namespace Qt::StringLiterals;
+
 namespace Tallymere {
 
-TfrmDialerInv::TfrmDialerInv(ScreenContext &context, const QString &name, const QString &number,
-                             const Dialer &dialer, QWidget *parent)
+TfrmDialerInv::TfrmDialerInv(ScreenContext &context, const Dialer &dialer, QWidget *parent)
     : DialogScreen(context, parent)
     , m_ui(std::make_unique<Ui::TfrmDialerInv>())
-    , m_number(number)
     , m_dialer(dialer)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     m_ui->setupUi(this);
-    m_ui->Label1->setText(tr("Phone '%1'\nat %2").arg(name, number));
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &TfrmDialerInv::btnOKClick);
     connectGuarded(m_ui->btnSetup, &QPushButton::clicked, this, &TfrmDialerInv::btnSetupClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
+TfrmDialerInv::TfrmDialerInv(ScreenContext &context, QWidget *parent)
+    : TfrmDialerInv(context, Dialer(hostInitFile(QCoreApplication::applicationDirPath())), parent)
+{
+}
+
 TfrmDialerInv::~TfrmDialerInv() = default;
+
+void TfrmDialerInv::setParty(const QString &name, const QString &number)
+{
+    m_ui->Label1->setText(tr("Phone '%1'\nat %2").arg(name, number));
+    m_number = number;
+}
 
 void TfrmDialerInv::btnOKClick()
 {
@@ -50,10 +61,15 @@ void TfrmDialerInv::letOpenerComeBack()
 
 void TfrmDialerInv::btnSetupClick() { TfrmDialerSetupInv(context(), m_dialer, this).exec(); }
 
-void dialPhone(ScreenContext &context, const QString &name, const QString &number, QWidget *parent)
+void dialPhone(ScreenContext &context, const QString &name, const QString &number, QWidget *window)
 {
-    const Dialer dialer(hostInitFile(QCoreApplication::applicationDirPath()));
-    (new TfrmDialerInv(context, name, number, dialer, parent))->exec();
+    auto *dialer = qobject_cast<TfrmDialerInv *>(findScreen(u"frmDialerInv"_s));
+    if (dialer)
+        dialer->setParent(window, dialer->windowFlags());
+    else
+        dialer = new TfrmDialerInv(context, window);
+    dialer->setParty(name, number);
+    dialer->exec();
 }
 
 } // namespace Tallymere

@@ -11,15 +11,19 @@ class TfrmDialerInv;
 
 namespace Tallymere {
 
-// "Dialer": has the modem dial somebody's number. Run it with exec(), after which it frees itself.
+// "Dialer": has the modem dial somebody's number, of whom it is told before it is shown. Run it with exec(), after
+// which it frees itself.
 class TfrmDialerInv final : public DialogScreen
 {
     Q_OBJECT
 
 public:
-    TfrmDialerInv(ScreenContext &context, const QString &name, const QString &number, const Dialer &dialer,
-                  QWidget *parent);
+    TfrmDialerInv(ScreenContext &context, const Dialer &dialer, QWidget *parent);
+    // With the port that the host's settings name.
+    TfrmDialerInv(ScreenContext &context, QWidget *parent);
     ~TfrmDialerInv() override;
+
+    void setParty(const QString &name, const QString &number);
 
     void btnOKClick();
     void btnSetupClick();
@@ -27,12 +31,13 @@ public:
 private:
     void letOpenerComeBack();
 
-    std::unique_ptr<Ui::TfrmDialerInv> m_ui;
-    const QString m_number;
+    std::unique_ptr<::Ui::TfrmDialerInv> m_ui;
+    QString m_number;
     const Dialer m_dialer;
 };
 
-// What the phone buttons of other screens do: shows the dialer for somebody's number, with the host's settings.
-void dialPhone(ScreenContext &context, const QString &name, const QString &number, QWidget *parent);
+// What the phone buttons of other screens do: shows the dialer for somebody's number over their window. It is the one
+// that the system has made when it was opened, or another one once that has been used.
+void dialPhone(ScreenContext &context, const QString &name, const QString &number, QWidget *window);
 
 } // namespace Tallymere

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSet>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -90,9 +91,14 @@ TEST_F(MainFormTest, ProductLacksExactlyTheScreensThatAreNotBuilt)
                            u"ActionPrintBlankInventoryForm"_s, u"ActionViewHistory"_s, u"ActionPrintPayments"_s}));
 }
 
-TEST_F(MainFormTest, DatabaseOptionsTouchTheFirstMenuOnly)
+TEST_F(MainFormTest, DatabaseOptionsTouchTheFirstMenuAndTheWindowsOwnButtons)
 {
+    const QToolButton own(&form());
+    QWidget screen(&form(), Qt::Window);
+    const QToolButton itsButton(&screen);
     form().databaseOptionsEnabled(false);
+    EXPECT_FALSE(own.isEnabled());
+    EXPECT_TRUE(itsButton.isEnabled());
     EXPECT_FALSE(form().findChild<QAction *>(u"Exit1"_s)->isEnabled());
     EXPECT_TRUE(form().findChild<QAction *>(u"About1"_s)->isEnabled());
     form().databaseOptionsEnabled(true);

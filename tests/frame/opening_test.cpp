@@ -1,5 +1,6 @@
 #include "engine/locks.h"
 #include "frame/frmtallymeresystem.h"
+#include "master/dialerinvform.h"
 #include "tests/frame/testcompany.h"
 
 #include <QAction>
@@ -107,14 +108,17 @@ TEST_F(OpeningTest, HostsMenuItemOpensTheSystemAgainAndAgain)
     ASSERT_EQ(menu.actions().size(), 1);
     EXPECT_EQ(menu.actions().constFirst()->text(), u"Tallymere"_s);
 
-    EXPECT_TRUE(open([this] { EXPECT_EQ(QApplication::activeModalWidget(), &form); }));
+    EXPECT_TRUE(open([this] {
+        EXPECT_EQ(QApplication::activeModalWidget(), &form);
+        EXPECT_EQ(form.findChildren<TfrmDialerInv *>().size(), 1);
+    }));
     TDataModuleTallymere *const first = form.dataModule();
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(first->currentUser(), u"maria"_s);
     EXPECT_EQ(form.helpFile(), u"HX1.hlp"_s);
 
     host.user = u"anna"_s;
-    EXPECT_TRUE(open());
+    EXPECT_TRUE(open([this] { EXPECT_EQ(form.findChildren<TfrmDialerInv *>().size(), 1) << "a new one"; }));
     EXPECT_EQ(form.dataModule(), first);
     EXPECT_EQ(first->currentUser(), u"anna"_s);
     EXPECT_EQ(company.prompts.said, QStringList());
@@ -143,7 +147,7 @@ TEST_F(OpeningTest, WithoutAHostAnErrorIsShownAndNothingOpens)
         EXPECT_EQ(said.size(), 1);
         EXPECT_TRUE(said.value(0).contains(u"user"_s)) << qPrintable(said.value(0));
     }
-    EXPECT_EQ(menu.actions().size(), 1) << "the item has moved, not doubled";
+    EXPECT_EQ(menu.actions().size(), 2) << "one for each SetMenu";
 }
 
 TEST_F(OpeningTest, HostReferencesAreBalanced)

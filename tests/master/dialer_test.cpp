@@ -187,8 +187,8 @@ TEST_F(DialerTest, setupThatCannotBeSavedStaysOpen)
 TEST_F(DialerTest, screenDialsAndFreesItself)
 {
     connectModem();
-    QPointer<TfrmDialerInv> screen =
-        new TfrmDialerInv(*context, u"O'Neil & <b>Sons</b>, 10 %1"_s, u"555-1234"_s, dialer, mainWindow.get());
+    QPointer<TfrmDialerInv> screen = new TfrmDialerInv(*context, dialer, mainWindow.get());
+    screen->setParty(u"O'Neil & <b>Sons</b>, 10 %1"_s, u"555-1234"_s);
     bool hidden = false;
     prompts.onInform = [&] { hidden = !screen->isVisible(); };
     EXPECT_TRUE(whileOpen<TfrmDialerInv>([&] { screen->exec(); },
@@ -206,7 +206,8 @@ TEST_F(DialerTest, screenDialsAndFreesItself)
 TEST_F(DialerTest, screenStaysAfterAFailureSoThatThePortCanBeSetUp)
 {
     writeFile(u"[Ports]\nCOM1=/dev/none\nCOM2=%1\n"_s.arg(modem.device));
-    auto *screen = new TfrmDialerInv(*context, u"Mary"_s, u"555-1234"_s, dialer, mainWindow.get());
+    auto *screen = new TfrmDialerInv(*context, dialer, mainWindow.get());
+    screen->setParty(u"Mary"_s, u"555-1234"_s);
     EXPECT_TRUE(whileOpen<TfrmDialerInv>([&] { screen->exec(); },
                                          [&](TfrmDialerInv &dialog) {
                                              press(Qt::Key_Return);
