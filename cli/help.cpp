@@ -1,5 +1,7 @@
 #include "cli/help.h"
 
+#include "data/utilsinv.h"
+
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +26,7 @@ QString optionLines(const QList<OptionSpec> &options)
 
 } // namespace
 
-QString versionText() { return u"tallymere " TALLYMERE_VERSION ""_s; }
+QString versionText() { return "tallymere "_L1 + strBuildInfo(); }
 
 QString helpText()
 {

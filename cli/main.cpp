@@ -5,6 +5,7 @@
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(TALLYMERE_VERSION));
     Tallymere::Console console;
     Tallymere::SystemSettings settings;
     const QStringList words = QCoreApplication::arguments().mid(1);

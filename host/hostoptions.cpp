@@ -41,7 +41,7 @@ HostOptions readOptions(const QStringList &arguments)
         return stop(HostOptions::Outcome::Inform,
                     parser.helpText().trimmed().replace("<executable_name>"_L1, "tallymere-host"_L1));
     if (parser.isSet(version))
-        return stop(HostOptions::Outcome::Inform, u"tallymere-host %1"_s.arg(QLatin1StringView(TALLYMERE_VERSION)));
+        return stop(HostOptions::Outcome::Inform, "tallymere-host "_L1 + QCoreApplication::applicationVersion());
     if (!parser.positionalArguments().isEmpty())
         return stop(HostOptions::Outcome::Refuse,
                     tr("Unknown argument: %1").arg(parser.positionalArguments().constFirst()));

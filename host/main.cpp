@@ -22,6 +22,7 @@ int say(FILE *stream, const QString &text, int status)
 
 int main(int argc, char *argv[])
 {
+    QCoreApplication::setApplicationVersion(QStringLiteral(TALLYMERE_VERSION)); // also for the module
     // The options come first: --help needs no display.
     QStringList arguments;
     for (int i = 0; i < argc; ++i)

@@ -47,8 +47,10 @@ TEST(HostOptions, ProgramAnswersWithoutADisplay)
     {
         QString argument;
         int status;
+        QByteArray said;
     };
-    for (const Case &c : {Case{u"--help"_s, 0}, Case{u"--version"_s, 0}, Case{u"--bogus"_s, 2}}) {
+    for (const Case &c : {Case{u"--help"_s, 0, "--data"}, Case{u"--version"_s, 0, "host " TALLYMERE_VERSION "\n"},
+                          Case{u"--bogus"_s, 2, "bogus"}}) {
         QProcess host;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"QT_QPA_PLATFORM"_s, u"none"_s);
@@ -57,6 +59,7 @@ TEST(HostOptions, ProgramAnswersWithoutADisplay)
         ASSERT_TRUE(host.waitForFinished());
         EXPECT_EQ(host.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(host.exitCode(), c.status);
-        EXPECT_FALSE((host.readAllStandardOutput() + host.readAllStandardError()).isEmpty());
+        const QByteArray said = host.readAllStandardOutput() + host.readAllStandardError();
+        EXPECT_TRUE(said.contains(c.said)) << said.constData();
     }
 }
