@@ -79,6 +79,7 @@ TDataModuleTallymere::TDataModuleTallymere(SettingsStore &settings, Prompts &pro
     };
     m_tempDatabase.createIfMissing = true;
     m_tempDatabase.onBeforeConnect = [this](Engine::Database &database) {
+        qCDebug(trace) << "Setting DataBaseTempCorvaneAR session name...";
         qCDebug(trace) << "Setting DatabaseTempTallymere directory...";
         database.directory = m_tempSession.privateDirectory;
     };
@@ -95,6 +96,12 @@ TDataModuleTallymere::~TDataModuleTallymere()
         QFile::remove(stem + u".sqlite"_s);
         QFile::remove(stem + u".lck"_s);
     }
+}
+
+QList<Engine::Table *> TDataModuleTallymere::ownedTables()
+{
+    return {&m_reportParameters, &m_config,  &m_company, &m_hist,   &m_balance,
+            &m_warehouse,        &m_itemCtl, &m_custCtl, &m_history};
 }
 
 void TDataModuleTallymere::setCurrentUser(const QString &user)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/tableowner.h"
 #include "engine/database.h"
 #include "engine/session.h"
 #include "engine/table.h"
@@ -35,7 +36,7 @@ struct DataModuleOptions
 // host's configuration and seeds the first location, bank and currency. A second start with nothing to change
 // writes nothing. Throws EngineError when the database cannot be reached, when a table that must change is in use,
 // and when the database is not one of the host (table "Config" is missing: nothing has been created then).
-class TDataModuleTallymere
+class TDataModuleTallymere final : public TableOwner
 {
 public:
     TDataModuleTallymere(SettingsStore &settings, Prompts &prompts, DataModuleOptions options = {});
@@ -60,6 +61,8 @@ public:
     Engine::Table &tableItemCtl() { return m_itemCtl; }
     Engine::Table &tableCustCtl() { return m_custCtl; } // the host's
     Engine::Table &tableHistory() { return m_history; } // the host's
+
+    QList<Engine::Table *> ownedTables() override; // all of these
 
     const QString &cMode() const { return m_mode; } // "C" for client/server; anything else is file server
     const QString &currentUser() const { return m_currentUser; }

@@ -77,6 +77,12 @@ TdmLookUpsInv::TdmLookUpsInv(Engine::Database &database)
     m_itemType.open();
 }
 
+QList<Table *> TdmLookUpsInv::ownedTables()
+{
+    return {&m_tax,     &m_salesman, &m_cusType, &m_currency, &m_item,    &m_customer,
+            &m_glAccnt, &m_vendor,   &m_bank,    &m_itemType, &m_warehse, &m_logo};
+}
+
 void TdmLookUpsInv::describeCalculatedFields()
 {
     m_salesman.addCalculated(u"FullName"_s, FieldType::Text, 60, fullName);

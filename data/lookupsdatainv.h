@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/tableowner.h"
 #include "engine/database.h"
 #include "engine/table.h"
 
@@ -19,7 +20,7 @@ struct LookupList
 // One table for each list that screens offer in drop-down fields, in the order the user sees. tblItem and
 // tblItemType are open from the beginning; every other table is opened by the first call of its function, so that a
 // host table that is missing fails where it is needed and nowhere else.
-class TdmLookUpsInv
+class TdmLookUpsInv final : public TableOwner
 {
     Q_DECLARE_TR_FUNCTIONS(Tallymere::TdmLookUpsInv)
 
@@ -38,6 +39,8 @@ public:
     Engine::Table &tblItemType() { return opened(m_itemType); }
     Engine::Table &tblWarehse() { return opened(m_warehse); }
     Engine::Table &tblLogo() { return opened(m_logo); } // the host's
+
+    QList<Engine::Table *> ownedTables() override; // as they are, opened or not
 
     // The lists that fields of records choose from, by their table: "Currency", "ItemType", "Warehse". Opened.
     LookupList list(QStringView table);

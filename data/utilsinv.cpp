@@ -45,13 +45,26 @@ void openOrRefuse(Engine::Table &table)
     }
 }
 
+// A table without a row has nothing to lock, and two users would each give it one: the first row is made under the
+// table's lock.
+void lockRow(Engine::Table &counter)
+{
+    if (counter.isEmpty()) {
+        counter.lockTable();
+        counter.refresh();
+        if (!counter.isEmpty())
+            counter.unlockTable(); // somebody else has made it meanwhile
+    }
+    counter.edit();
+}
+
 bool lockedForEdit(Engine::Table &counter)
 {
     constexpr int attempts = 100;
     constexpr int mostRounds = 20;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         try {
-            counter.edit();
+            lockRow(counter);
             return true;
         } catch (const EngineError &) {
             qCDebug(trace) << "in the unique ID EDBEngineError exception block";
@@ -137,6 +150,14 @@ void tables(const QString &action, const QList<Engine::Table *> &owned)
             table->close();
     }
 }
+
+void tables(const QString &action, QObject &form)
+{
+    if (auto *owner = dynamic_cast<TableOwner *>(&form))
+        tables(action, owner->ownedTables());
+}
+
+void dmTables(const QString &action, TableOwner &dataModule) { tables(action, dataModule.ownedTables()); }
 
 bool isRecordLocked(const Engine::Table &) { return false; }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/tableowner.h"
 #include "engine/database.h"
 #include "engine/query.h"
 #include "engine/table.h"
@@ -7,6 +8,7 @@
 
 #include <optional>
 #include <QList>
+#include <QObject>
 #include <QRect>
 #include <QString>
 
@@ -17,7 +19,7 @@ namespace Tallymere {
 // --- tables and queries -----------------------------------------------------------------------------------------
 
 // The next number of a one-row counter table whose field holds the last number handed out: locks the row, adds one,
-// saves. Tries 100 times with short random breaks in which pending events are processed, then throws RuleError.
+// saves. A table without a row gets one, from 0. Tries 100 times with short random breaks in which pending events are processed, then throws RuleError.
 // Opens and closes the table.
 int getUniqueID(Engine::Table &counter, const QString &field);
 
@@ -30,9 +32,11 @@ bool openQuery(Engine::Query &query);
 // name. Empty when there is none.
 QString getSQLString(Engine::Query &query, const QString &name);
 
-// "O" opens, "R" refreshes and "C" closes the tables that a screen or data module owns; any other letter does nothing.
-// A closed table has nothing to refresh and is passed over.
+// "O" opens, "R" refreshes and "C" closes the tables; any other letter does nothing. A closed table has nothing to
+// refresh and is passed over.
 void tables(const QString &action, const QList<Engine::Table *> &owned);
+void tables(const QString &action, QObject &form); // those of the form; one that owns none is left alone
+void dmTables(const QString &action, TableOwner &dataModule);
 
 // Edits find out about locks when they begin; there is nothing to ask beforehand.
 bool isRecordLocked(const Engine::Table &table);

@@ -115,6 +115,21 @@ TEST_P(Tables, UniqueNumbersAreTheLastOneHandedOutPlusOne)
     EXPECT_FALSE(counter.isOpen());
 }
 
+TEST_P(Tables, TwoUsersDoNotBothMakeTheFirstRow)
+{
+    store.database().createTable(Layouts::vendCtl());
+    const auto other = store.anotherUser();
+    other->session.lockAttempts = 1;
+    Engine::Table theirs(other->database, u"VendCtl"_s);
+    const auto theirNumber = [&] { return getUniqueID(theirs, u"NextVendorNo"_s); };
+    Engine::Table counter(store.database(), u"VendCtl"_s);
+    counter.events.beforeInsert = [&] {
+        EXPECT_EQ(refusalOf(theirNumber), u"Cannot get next unique number. (btGetUniqueNumber) -> "_s);
+    };
+    EXPECT_EQ(getUniqueID(counter, u"NextVendorNo"_s), 1);
+    EXPECT_EQ(theirNumber(), 2);
+}
+
 TEST_P(Tables, UniqueNumbersWaitForARowThatIsLocked)
 {
     store.database().createTable(Layouts::vendCtl());
