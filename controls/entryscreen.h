@@ -4,6 +4,7 @@
 #include "controls/guard.h"
 #include "controls/screencontext.h"
 #include "controls/windowmemory.h"
+#include "data/tableowner.h"
 
 #include <optional>
 #include <QDialog>
@@ -15,12 +16,13 @@ namespace Tallymere {
 // Enter moves on as Tab does. Escape takes back what is being typed, except in notes, else it closes. Closing with
 // changes asks whether they shall be saved; a new record that nobody has touched is dropped silently. Its place, size
 // and the column widths of its grids are remembered.
-class EntryScreen : public QDialog
+class EntryScreen : public QDialog, public TableOwner
 {
     Q_OBJECT
 
 public:
     const Guard &guard() const { return m_guard; }
+    QList<Engine::Table *> ownedTables() override { return m_binder.tables(); }
 
     void btnOKClick(); // saves and closes; stays open when the saving is refused
     void btnCancelClick(); // drops the changes and closes

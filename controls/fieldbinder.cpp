@@ -74,6 +74,16 @@ void FieldBinder::setEntryRule(const QString &field, std::function<void(const QS
         binding->setEntryRule(std::move(rule));
 }
 
+QList<Engine::Table *> FieldBinder::tables() const
+{
+    QList<Engine::Table *> tables;
+    for (const auto &binding : m_bindings) {
+        if (!tables.contains(&binding->table()))
+            tables << &binding->table();
+    }
+    return tables;
+}
+
 // The pages of a tabbed form are not among its children in the order in which the user sees them.
 QWidget *FieldBinder::firstWidget() const
 {

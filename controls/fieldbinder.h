@@ -38,6 +38,8 @@ public:
     // that stands for a key. The table is left alone until then; the rule puts it into edit.
     void setEntryRule(const QString &field, std::function<void(const QString &text)> rule);
 
+    QList<Engine::Table *> tables() const; // those whose fields are bound
+
     QWidget *firstWidget() const; // that Tab comes to, among the bound ones; nullptr when there is none
     QWidget *widgetFor(const QString &column) const; // nullptr when no widget shows it
     // The number in a bound field of the current record; 0 for none. What has been entered is handed over first, so that

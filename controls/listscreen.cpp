@@ -5,6 +5,7 @@
 #include "controls/screenmetrics.h"
 #include "controls/windowmemory.h"
 #include "controls/windowplaces.h"
+#include "engine/table.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -226,6 +227,12 @@ ListMenu ListScreen::helpMenu(const QString &caption) const
 QAction *ListScreen::command(const QString &name) const { return findChild<QAction *>(name); }
 
 // --- the list ---------------------------------------------------------------------------------------------------
+
+QList<Engine::Table *> ListScreen::ownedTables()
+{
+    auto *table = qobject_cast<Engine::Table *>(m_data);
+    return table ? QList<Engine::Table *>{table} : QList<Engine::Table *>{};
+}
 
 void ListScreen::refreshList()
 {

@@ -3,6 +3,7 @@
 #include "controls/guard.h"
 #include "controls/listgrid.h"
 #include "controls/screencontext.h"
+#include "data/tableowner.h"
 
 #include <functional>
 #include <QKeySequence>
@@ -62,13 +63,14 @@ struct ListDescription
 //
 // The screens give a description, the data set and what the commands do; the base owns layout, sizes and places, the
 // filter mark in caption and menu, refreshing and moving, the status line, the search by typing, copying and saving.
-class ListScreen : public QMainWindow
+class ListScreen : public QMainWindow, public TableOwner
 {
     Q_OBJECT
 
 public:
     const Guard &guard() const { return m_guard; }
     Engine::DataSet &dataSet() const { return *m_data; }
+    QList<Engine::Table *> ownedTables() override; // none when it shows a query
 
     // Reads the list anew; the cursor stays on its row.
     void refreshList();
