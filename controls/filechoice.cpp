@@ -1,6 +1,7 @@
 #include "controls/filechoice.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -9,9 +10,9 @@ namespace Tallymere {
 
 QString chooseFileToSave(QWidget *window, const FileChoice &choice)
 {
-    static QString folder; // the one used last, until the program ends
-    if (folder.isEmpty())
-        folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const bool there = !choice.folder.isEmpty() && QFileInfo(choice.folder).isDir();
+    const QString folder =
+        there ? choice.folder : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     QFileDialog dialog(window, choice.title, folder, u"%1 (*.%2)"_s.arg(choice.kind, choice.suffix));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
@@ -19,7 +20,6 @@ QString chooseFileToSave(QWidget *window, const FileChoice &choice)
     dialog.selectFile(choice.name);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    folder = dialog.directory().absolutePath();
     return dialog.selectedFiles().value(0);
 }
 

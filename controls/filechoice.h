@@ -13,6 +13,7 @@ struct FileChoice
     QString name; // proposed, without folder
     QString kind; // "CSV files"
     QString suffix; // "csv", for a name without one
+    QString folder = {}; // where the dialog begins; the user's documents when there is no such folder
 };
 
 // The system's dialog, over a window. Asks before a file that is there is chosen. Empty when the user has cancelled.

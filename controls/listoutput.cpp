@@ -5,11 +5,13 @@
 #include "controls/listcopy.h"
 #include "controls/liststatus.h"
 #include "controls/screenmetrics.h"
+#include "data/utilsinv.h"
 #include "frame/shared/csvlist.h"
 
 #include <QClipboard>
 #include <QDir>
 #include <QEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QProgressBar>
 #include <QScopeGuard>
@@ -17,6 +19,11 @@
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
+
+namespace {
+constexpr auto savingSection = "SaveAsCsv"_L1;
+constexpr auto folderKey = "Folder"_L1;
+} // namespace
 
 ListOutput::ListOutput(ScreenContext &context, QWidget &window, ListGrid &grid, ListStatus &status)
     : QObject(&window)
@@ -39,13 +46,26 @@ void ListOutput::copyRows()
 
 void ListOutput::saveCsv(const QString &caption)
 {
-    const QString file =
-        m_context.chooseFileToSave(&m_window, {tr("Save as CSV"), caption + ".csv"_L1, tr("CSV files"), u"csv"_s});
+    const FileChoice choice{tr("Save as CSV"), caption + ".csv"_L1, tr("CSV files"), u"csv"_s, folder()};
+    const QString file = m_context.chooseFileToSave(&m_window, choice);
     if (file.isEmpty())
         return;
     const TableModel &model = *m_grid.tableModel();
     run([&](Progress &progress) { saveCsvList(model.dataSet(), model.columns(), file, progress); });
+    rememberFolder(file);
     m_status.say(tr("Saved as %1").arg(QDir::toNativeSeparators(file)));
+}
+
+QString ListOutput::folder() const
+{
+    return m_context.settings ? m_context.settings->read(formSetting(savingSection), folderKey) : QString();
+}
+
+void ListOutput::rememberFolder(const QString &file)
+{
+    const QString used = QFileInfo(file).absolutePath();
+    if (m_context.settings && used != folder())
+        m_context.settings->write(formSetting(savingSection), folderKey, used);
 }
 
 void ListOutput::run(const std::function<void(Progress &)> &work)

@@ -22,14 +22,16 @@ public:
 
     // The selected rows. Throws what the store raises; the clipboard stays as it was then.
     void copyRows();
-    // The whole list as CSV in a file that the user names, the list's caption being proposed. RuleError when it cannot
-    // be written. There is somebody to ask (ScreenContext::chooseFileToSave).
+    // The whole list as CSV in a file that the user names, the list's caption being proposed, in the folder of the last
+    // one. RuleError when it cannot be written. There is somebody to ask (ScreenContext::chooseFileToSave).
     void saveCsv(const QString &caption);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    QString folder() const; // of the file that was saved last, from any list
+    void rememberFolder(const QString &file);
     void run(const std::function<void(Progress &)> &work);
 
     ScreenContext &m_context;

@@ -2,6 +2,7 @@
 
 #include "controls/listoutput.h"
 #include "controls/liststatus.h"
+#include "controls/menukeyboard.h"
 #include "controls/screenmetrics.h"
 #include "controls/windowmemory.h"
 #include "controls/windowplaces.h"
@@ -52,10 +53,12 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
     m_output = new ListOutput(m_context, *this, *m_grid, *m_status);
     m_memory = new WindowMemory(*this, m_context.settings);
     for (const ListMenu &menu : description.menus)
-        addMenu(menu);
+        addCommands(menuBar()->addMenu(menu.caption), menu.commands);
+    leaveMenuBarWithMenus(*menuBar());
     for (const ListButton &button : description.buttons)
         addButton(button);
     finishPopup();
+    watchRecord();
     connect(m_grid, &ListGrid::chosen, this, [this, defaultCommand] { runCommand(defaultCommand); });
     m_grid->setFocus();
     showFilterMark();
@@ -85,26 +88,31 @@ void ListScreen::layOut()
 
 // --- commands ---------------------------------------------------------------------------------------------------
 
-void ListScreen::addMenu(const ListMenu &menu)
+void ListScreen::addCommands(QMenu *menu, const QList<ListCommand> &commands)
 {
-    QMenu *shown = menuBar()->addMenu(menu.caption);
-    shown->setToolTipsVisible(true);
-    for (const ListCommand &command : menu.commands) {
+    menu->setToolTipsVisible(true);
+    for (const ListCommand &command : commands) {
         if (command.separatorBefore && !command.hidden)
-            shown->addSeparator();
-        if (!command.choices.isEmpty()) {
-            addChoices(shown, command);
-            continue;
-        }
-        QAction *action = addCommand(shown, command);
-        addPopup(command, action);
+            menu->addSeparator();
+        if (!command.choices.isEmpty())
+            addChoices(menu, command);
+        else if (!command.entries.isEmpty())
+            addCommands(addSubMenu(menu, command), command.entries);
+        else
+            addPopup(command, addCommand(menu, command));
     }
+}
+
+QMenu *ListScreen::addSubMenu(QMenu *menu, const ListCommand &command)
+{
+    QMenu *entries = menu->addMenu(command.caption);
+    entries->menuAction()->setObjectName(command.name);
+    return entries;
 }
 
 void ListScreen::addChoices(QMenu *menu, const ListCommand &command)
 {
-    QMenu *choices = menu->addMenu(command.caption);
-    choices->menuAction()->setObjectName(command.name);
+    QMenu *choices = addSubMenu(menu, command);
     auto *group = new QActionGroup(this);
     for (const ListCommand &choice : command.choices) {
         QAction *action = addCommand(choices, choice);
@@ -125,6 +133,8 @@ QAction *ListScreen::addCommand(QMenu *menu, const ListCommand &command)
     action->setEnabled(command.run != nullptr);
     if (!command.run)
         action->setToolTip(tr("Not available yet"));
+    else if (command.available)
+        m_available.append({action, command.available});
     connect(action, &QAction::triggered, this, [this, run = command.run] { runCommand(run); });
     return action;
 }
@@ -135,7 +145,13 @@ void ListScreen::addButton(const ListButton &button)
     auto *shown = new QPushButton(button.caption, m_topPanel);
     shown->setObjectName(button.name);
     shown->setEnabled(action->isEnabled());
-    connect(shown, &QPushButton::clicked, action, &QAction::trigger);
+    shown->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard to the rows
+    connect(action, &QAction::enabledChanged, shown, &QWidget::setEnabled);
+    connect(shown, &QPushButton::clicked, this, [this, shown, action] {
+        if (!shown->hasFocus())
+            m_grid->setFocus();
+        action->trigger();
+    });
     m_buttons->insertWidget(m_buttons->count() - 1, shown);
 }
 
@@ -145,6 +161,7 @@ void ListScreen::addPopup(const ListCommand &command, QAction *action)
         return;
     auto *entry = new QAction(command.popupCaption, m_grid);
     entry->setEnabled(action->isEnabled());
+    connect(action, &QAction::enabledChanged, entry, &QAction::setEnabled);
     connect(entry, &QAction::triggered, action, &QAction::trigger);
     m_grid->addAction(entry);
 }
@@ -164,15 +181,34 @@ void ListScreen::finishPopup()
     m_grid->addAction(copy);
 }
 
+void ListScreen::watchRecord()
+{
+    connect(m_data, &Engine::DataSet::currentChanged, this, &ListScreen::showAvailable);
+    connect(m_data, &Engine::DataSet::listChanged, this, &ListScreen::showAvailable);
+    connect(m_data, &Engine::DataSet::rowChanged, this, &ListScreen::showAvailable);
+    connect(m_grid->tableModel(), &QAbstractItemModel::rowsInserted, this, &ListScreen::showAvailable);
+    showAvailable();
+}
+
+// A long list that has just been opened is not read for this; its first record is asked when the rest is there. A
+// failure of the store is reported by the rows, which fail to show as well.
+void ListScreen::showAvailable()
+{
+    if (m_grid->tableModel()->isPartial() || !m_data->isOpen())
+        return;
+    for (const auto &[action, isAvailable] : std::as_const(m_available)) {
+        bool available = false;
+        const std::exception_ptr failure = Guard::attempt([&] { available = isAvailable(); });
+        action->setEnabled(available && !failure);
+    }
+}
+
 void ListScreen::runCommand(const std::function<void()> &run)
 {
     if (run)
         m_guard.run(run);
     // A checkable entry has toggled itself; what counts is whether the filter is on.
     showFilterMark();
-    // A menu that is opened again after Escape has closed it keeps the keyboard when it is done.
-    if (menuBar()->hasFocus())
-        m_grid->setFocus();
 }
 
 ListMenu ListScreen::fileMenu(Printing printing, std::function<void()> print)
@@ -242,11 +278,13 @@ void ListScreen::refreshList()
 
 bool ListScreen::moveToKey(int key) { return m_data->moveToKey({key}); }
 
-void ListScreen::applyFilter(const QString &expression)
+void ListScreen::applyFilter(const QString &expression) { switchFilter(!expression.isEmpty(), expression); }
+
+void ListScreen::switchFilter(bool on, const QString &expression)
 {
-    if (!expression.isEmpty())
+    if (on)
         m_data->setFilter(expression);
-    m_data->setFiltered(!expression.isEmpty());
+    m_data->setFiltered(on);
     showFilterMark();
 }
 
@@ -271,9 +309,10 @@ QString ListScreen::hint() const
         const auto *found = findChild<QPushButton *>(button);
         return found && found->isEnabled();
     };
-    if (m_data->isFiltered() && offers(u"btnFilter"_s))
+    const bool narrowed = m_data->isFiltered() && !m_data->filter().isEmpty();
+    if (narrowed && offers(u"btnFilter"_s))
         return tr("No records match the filter. Press Filter to change it.");
-    if (m_data->isFiltered())
+    if (narrowed)
         return tr("No records match the filter.");
     if (!m_emptyHint.isEmpty())
         return m_emptyHint;

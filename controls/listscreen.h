@@ -25,11 +25,14 @@ struct ListCommand
     QString name; // component name of the menu's entry: "mnuFilter"
     QString caption;
     std::function<void()> run = {}; // empty: not available, shown disabled
+    // Whether it can be used on the current record; asked whenever that changes. Empty: always.
+    std::function<bool()> available = {};
     QKeySequence shortcut = {};
     QString popupCaption = {}; // empty: not in the pop-up menu
     bool checkable = false;
     bool separatorBefore = false;
     bool hidden = false; // not in the menu; its button and the pop-up menu lead to it
+    QList<ListCommand> entries = {}; // a sub-menu of commands; it runs nothing itself
     QList<ListCommand> choices = {}; // a sub-menu of entries of which one is checked
     int firstChoice = 0; // which of them is at the start
 };
@@ -83,6 +86,8 @@ public:
     bool moveToKey(int key);
     // Switches the filter on, or off with an empty expression.
     void applyFilter(const QString &expression);
+    // The same for lists whose filter may be on and say nothing: every row shows, marked as filtered.
+    void switchFilter(bool on, const QString &expression);
 
     QAction *command(const QString &name) const; // by component name; nullptr when there is none
 
@@ -113,13 +118,16 @@ protected:
 
 private:
     void layOut();
-    void addMenu(const ListMenu &menu);
+    void addCommands(QMenu *menu, const QList<ListCommand> &commands);
+    static QMenu *addSubMenu(QMenu *menu, const ListCommand &command);
     QAction *addCommand(QMenu *menu, const ListCommand &command);
     void addChoices(QMenu *menu, const ListCommand &command);
     void addButton(const ListButton &button);
     void addPopup(const ListCommand &command, QAction *action);
     void runCommand(const std::function<void()> &run);
     void finishPopup();
+    void watchRecord();
+    void showAvailable();
     void showFilterMark();
     QString hint() const;
     void sizeForRows();
@@ -135,6 +143,7 @@ private:
     WindowMemory *m_memory = nullptr;
     QFrame *m_topPanel = nullptr;
     QHBoxLayout *m_buttons = nullptr;
+    QList<std::pair<QAction *, std::function<bool()>>> m_available; // commands that depend on the current record
     QSize m_firstSize;
 };
 

@@ -86,6 +86,8 @@ void ListStatus::showSearch()
         m_search->clear();
     else if (search.isFound())
         m_search->setText(tr("Search: %1").arg(search.text()));
+    else if (m_grid.tableModel()->dataSet().isFiltered())
+        m_search->setText(tr("Search: %1 (not found in the filtered rows)").arg(search.text()));
     else
         m_search->setText(tr("Search: %1 (not found)").arg(search.text()));
 }

@@ -1,6 +1,7 @@
 #include "frame/frmtallymeresystem.h"
 
 #include "controls/filechoice.h"
+#include "controls/menukeyboard.h"
 #include "controls/openobject.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
@@ -63,6 +64,7 @@ TFormTallymereSystem::TFormTallymereSystem(const FrameServices &services, QWidge
     addMasterEntries(*m_ui->mnuEdit, *m_ui->mnuOther, *this);
     bindControls();
     createStatusBar();
+    leaveMenuBarWithMenus(*m_ui->MainMenu1);
     scaleSizes();
     move(0, 0);
     nameSampleCompany(QCoreApplication::applicationDirPath());

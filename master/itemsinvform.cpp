@@ -62,9 +62,7 @@ TfrmItemsFilter::TfrmItemsFilter(ScreenContext &context, QWidget *parent)
     : FilterDialog(context,
                    {.name = u"frmItemsFilter"_s,
                     .caption = tr("Items Filter"),
-                    .box = u"cboItemType"_s,
-                    .boxLabel = tr("Item &Type:"),
-                    .list = u"ItemType"_s,
+                    .boxes = {{.name = u"cboItemType"_s, .label = tr("Item &Type:"), .list = u"ItemType"_s}},
                     .mark = u"Suspended"_s,
                     .markLabel = tr("Suspended")},
                    parent)

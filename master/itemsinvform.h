@@ -28,7 +28,7 @@ class TfrmItemsFilter final : public FilterDialog
 public:
     TfrmItemsFilter(ScreenContext &context, QWidget *parent);
 
-    void SetItemTypeID(int itemTypeId) { setKey(itemTypeId); }
+    void SetItemTypeID(int itemTypeId) { setKey(QStringLiteral("cboItemType"), itemTypeId); }
     int GetItemTypeID() const { return filter().key; } // 0: none
 };
 

@@ -22,9 +22,7 @@ TfrmVendorsFilter::TfrmVendorsFilter(ScreenContext &context, QWidget *parent)
     : FilterDialog(context,
                    {.name = u"frmVendorsFilter"_s,
                     .caption = tr("Vendors Filter"),
-                    .box = u"cboCurrency"_s,
-                    .boxLabel = tr("C&urrency:"),
-                    .list = u"Currency"_s,
+                    .boxes = {{.name = u"cboCurrency"_s, .label = tr("C&urrency:"), .list = u"Currency"_s}},
                     .mark = u"Suspended"_s,
                     .markLabel = tr("Suspended")},
                    parent)

@@ -9,9 +9,7 @@ DocumentFilterScreen::DocumentFilterScreen(ScreenContext &context, const QString
     : FilterDialog(context,
                    {.name = name,
                     .caption = caption,
-                    .box = u"cboWarehouse"_s,
-                    .boxLabel = tr("&Location:"),
-                    .list = u"Warehse"_s,
+                    .boxes = {{.name = u"cboWarehouse"_s, .label = tr("&Location:"), .list = u"Warehse"_s}},
                     .mark = u"Posted"_s,
                     .markLabel = tr("Posted")},
                    parent)

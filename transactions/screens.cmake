@@ -7,6 +7,6 @@ tallymere_room(tallymere_transactions_screens SCREENS
         invreceiptform.cpp invreceiptform.h invreceiptform.ui
         invreceiptsfindform.cpp invreceiptsfindform.h invreceiptsfindform.ui
         invreceiptsform.cpp invreceiptsform.h
-        invtotalsfilterform.cpp invtotalsfilterform.h invtotalsfilterform.ui
+        invtotalsfilterform.cpp invtotalsfilterform.h
         invtotalsform.cpp invtotalsform.h
     LINK tallymere_transactions tallymere_master_screens tallymere_controls Qt6::Widgets)

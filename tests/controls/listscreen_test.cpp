@@ -1,4 +1,5 @@
 #include "controls/filechoice.h"
+#include "controls/filterdialog.h"
 #include "controls/listscreen.h"
 #include "data/utilsinv.h"
 #include "frame/shared/formats.h"
@@ -6,9 +7,11 @@
 #include "tests/transactions/screentest.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QFile>
 #include <QFrame>
 #include <QLabel>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -25,21 +28,31 @@ public:
         m_items.setIndex(u"ITEMNO"_s);
         m_items.open();
         m_items.field(u"UnitPrice").format = currencyFormat({});
+        const std::function<bool()> inUse = [this] { return !m_items.boolean(u"Suspended"); };
         build({.name = u"frmItemList"_s,
                .caption = u"Items"_s,
                .columns = {{u"ItemNo"_s, u"Item no."_s, 80},
                            {u"ItemDescription"_s, u"Description"_s, 200},
                            {u"UnitPrice"_s, u"Unit Price"_s, 90, Qt::AlignRight},
                            {u"Suspended"_s, u"Suspended"_s, 60}},
-               .buttons = {{u"btnNew"_s, u"&New"_s, u"mnuNew"_s}},
+               .buttons = {{u"btnNew"_s, u"&New"_s, u"mnuNew"_s}, {u"btnDrop"_s, u"&Drop"_s, u"mnuDropSelected"_s}},
                .menus = {fileMenu(),
                          {u"&Records"_s,
-                          {{.name = u"mnuNew"_s, .caption = u"&New"_s, .run = [] {}, .popupCaption = u"New"_s}}},
+                          {{.name = u"mnuNew"_s, .caption = u"&New"_s, .run = [] {}, .popupCaption = u"New"_s},
+                           {.name = u"mnuDrop"_s,
+                            .caption = u"&Drop"_s,
+                            .entries = {{.name = u"mnuDropSelected"_s,
+                                         .caption = u"Selected Item"_s,
+                                         .run = [this] { dropped << m_items.integer(u"ItemID"); },
+                                         .available = inUse,
+                                         .popupCaption = u"Drop"_s},
+                                        {.name = u"mnuDropAll"_s, .caption = u"All"_s, .run = [] {}}}}}},
                          {u"&View"_s, {refreshCommand()}}}},
               m_items, {});
     }
 
     ListGrid &list() { return *grid(); }
+    QList<int> dropped;
 
 private:
     Engine::Table m_items;
@@ -53,7 +66,7 @@ protected:
         kitchen.execute(u"UPDATE Item SET UnitPrice = 1234.5, Suspended = false WHERE ItemID = 1"_s);
         context->settings = &settings;
         context->chooseFileToSave = [this](QWidget *, const FileChoice &choice) {
-            proposed = choice.name;
+            proposed = choice.folder + u'|' + choice.name;
             return chosen;
         };
         mainWindow->resize(300, 200);
@@ -84,7 +97,7 @@ protected:
     }
 
     QString chosen; // by the user, to save in
-    QString proposed;
+    QString proposed; // folder and name
 };
 
 } // namespace
@@ -138,7 +151,7 @@ TEST_F(ListScreenTest, longListIsCountedAfterItHasBeenPainted)
 
 TEST_F(ListScreenTest, typedSearchIsShown)
 {
-    const ItemList &items = open();
+    ItemList &items = open();
     type("b1");
     EXPECT_EQ(status(items, "lblSearch"), u"Search: b1"_s);
     EXPECT_EQ(status(items), u"3 of 4 rows"_s);
@@ -146,6 +159,105 @@ TEST_F(ListScreenTest, typedSearchIsShown)
     EXPECT_EQ(status(items, "lblSearch"), u"Search: b1<b> (not found)"_s);
     press(Qt::Key_Home);
     EXPECT_EQ(status(items, "lblSearch"), QString());
+    items.applyFilter(u"(ItemID < 3)"_s);
+    type("b1");
+    EXPECT_EQ(status(items, "lblSearch"), u"Search: b1 (not found in the filtered rows)"_s);
+}
+
+TEST_F(ListScreenTest, commandsFollowTheRecord)
+{
+    ItemList &items = open();
+    const QAction *drop = items.command(u"mnuDropSelected"_s);
+    const auto *button = child<QPushButton>(items, "btnDrop");
+    const auto popup = [&] {
+        const QList<QAction *> entries = items.list().actions();
+        const auto found = std::find_if(entries.begin(), entries.end(),
+                                        [](const QAction *entry) { return entry->text() == u"Drop"_s; });
+        return found != entries.end() && (*found)->isEnabled();
+    };
+    const std::tuple<const char *, std::function<void()>, bool> steps[] = {
+        {"opened", [] {}, true},
+        {"on the suspended item", [] { press(Qt::Key_End); }, false},
+        {"away from it", [] { press(Qt::Key_Up); }, true},
+        {"changed by somebody",
+         [&] {
+             kitchen.execute(u"UPDATE Item SET Suspended = true WHERE ItemID = 3"_s);
+             refresh(items);
+         },
+         false},
+    };
+    for (const auto &[what, step, expected] : steps) {
+        step();
+        EXPECT_EQ(drop->isEnabled(), expected) << what;
+        EXPECT_EQ(button->isEnabled(), expected) << what;
+        EXPECT_EQ(popup(), expected) << what;
+    }
+    press(Qt::Key_Home);
+    press(Qt::Key_R, Qt::AltModifier);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_D);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    EXPECT_EQ(items.dropped, QList<int>{1}) << "by the keys of menu and sub-menu";
+}
+
+TEST_F(ListScreenTest, filterCanBeOnAndLeaveAllRows)
+{
+    ItemList &items = open();
+    items.applyFilter(u"(ItemID = 2)"_s);
+    items.switchFilter(true, {});
+    EXPECT_EQ(status(items), u"1 of 4 rows (filtered)"_s);
+    EXPECT_EQ(items.windowTitle(), u"Items (Filtered)"_s);
+    items.switchFilter(false, {});
+    EXPECT_EQ(items.windowTitle(), u"Items"_s);
+}
+
+TEST_F(ListScreenTest, filterDialogHasSeveralBoxesThatOthersMayPreset)
+{
+    FilterDialog dialog(*context,
+                        {.name = u"frmFilter"_s,
+                         .caption = u"Filter"_s,
+                         .boxes = {{u"cboPlace"_s, u"&Location:"_s, u"Warehse"_s},
+                                   {u"cboCurrency"_s, u"&Currency:"_s, u"Currency"_s}}},
+                        mainWindow.get());
+    EXPECT_FALSE(dialog.isOn());
+    dialog.setKey(u"cboCurrency"_s, 2);
+    EXPECT_TRUE(dialog.isOn());
+    EXPECT_EQ(dialog.filter().key, 0) << "only the first box narrows the list";
+    showActive(dialog);
+    EXPECT_EQ(focusName(), u"cboPlace"_s);
+    type("f");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focusName(), u"cboCurrency"_s);
+    EXPECT_EQ(child<QComboBox>(dialog, "cboCurrency")->currentText(), u"Far"_s);
+    type("n");
+    press(Qt::Key_Escape);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_EQ(dialog.key(u"cboPlace"_s), 0) << "taken back";
+    EXPECT_EQ(dialog.key(u"cboCurrency"_s), 2) << "preset, not chosen since";
+    showActive(dialog);
+    type("f");
+    press(Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.filter().key, 2);
+    dialog.btnResetClick();
+    EXPECT_FALSE(dialog.isOn());
+}
+
+TEST_F(ListScreenTest, keyboardComesBackToTheRows)
+{
+    const ItemList &items = open();
+    QTest::mouseClick(child<QPushButton>(items, "btnNew"), Qt::LeftButton);
+    EXPECT_EQ(focusName(), u"DBGrid1"_s) << "a click on a button";
+    press(Qt::Key_R, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Right);
+    QCoreApplication::processEvents();
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr) << "on to the next menu";
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(focusName(), u"DBGrid1"_s) << "Escape in a menu";
+    type("b");
+    EXPECT_EQ(status(items), u"3 of 4 rows"_s);
 }
 
 TEST_F(ListScreenTest, rowsAreCopiedAsSpreadsheetsPasteThem)
@@ -172,7 +284,7 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
     items.applyFilter(u"(ItemID < 4)"_s);
     QAction *save = items.command(u"mnuSaveCsv"_s);
     save->trigger();
-    EXPECT_EQ(proposed, u"Items.csv"_s);
+    EXPECT_EQ(proposed, u"|Items.csv"_s);
     EXPECT_EQ(prompts.said, QStringList()) << "cancelled";
 
     const QTemporaryDir folder;
@@ -181,6 +293,10 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
     const std::string saved = "Item no.,Description,Unit Price,Suspended\r\nA10,Apples,1234.5,false\r\n"
                               "A11,Bread,,\r\nB1,apricots,,false\r\n";
     EXPECT_EQ(content(chosen), saved);
+    const QString file = std::exchange(chosen, QString());
+    open().command(u"mnuSaveCsv"_s)->trigger();
+    EXPECT_EQ(proposed, folder.path() + u"|Items.csv"_s) << "the folder is remembered";
+    chosen = file;
 
     kitchen.execute(u"ALTER TABLE Item RENAME TO Away"_s);
     refresh(items);
