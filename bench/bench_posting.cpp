@@ -23,7 +23,7 @@ public:
     void warn(const QString &) override { }
     void error(const QString &) override { }
     bool confirm(Tallymere::Question, const QString &) override { return false; }
-    Tallymere::Answer yesNoCancel(const QString &) override { return Tallymere::Answer::Cancel; }
+    Tallymere::Answer yesNoCancel(const QString &, const QString &) override { return Tallymere::Answer::Cancel; }
     bool retry(const QString &) override { return false; }
     void start(int) override { }
     void step() override { }

@@ -66,9 +66,9 @@ bool ConsolePrompts::confirm(Question question, const QString &text)
     return false;
 }
 
-Answer ConsolePrompts::yesNoCancel(const QString &text)
+Answer ConsolePrompts::yesNoCancel(const QString &text, const QString &title)
 {
-    m_console.error(text);
+    m_console.error(title.isEmpty() ? text : title + ": "_L1 + text);
     return Answer::Cancel;
 }
 

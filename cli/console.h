@@ -50,7 +50,7 @@ public:
     void warn(const QString &text) override;
     void error(const QString &text) override;
     bool confirm(Question question, const QString &text) override;
-    Answer yesNoCancel(const QString &text) override;
+    Answer yesNoCancel(const QString &text, const QString &title) override;
     bool retry(const QString &text) override;
 
 private:

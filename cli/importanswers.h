@@ -24,7 +24,7 @@ public:
         m_text = text;
         return m_yes;
     }
-    Answer yesNoCancel(const QString &text) override
+    Answer yesNoCancel(const QString &text, const QString &) override
     {
         m_text = text;
         return m_yes ? Answer::Yes : Answer::Cancel;

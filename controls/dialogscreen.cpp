@@ -10,7 +10,8 @@ namespace Tallymere {
 DialogScreen::DialogScreen(ScreenContext &context, QWidget *parent)
     : QDialog(parent)
     , m_context(context)
-    , m_guard(context.prompts, [this](const QString &column) { focusColumn(column); })
+    , m_guard(
+          context.prompts, [this](const QString &column) { focusColumn(column); }, this)
 {
     setModal(true);
 }

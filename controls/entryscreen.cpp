@@ -34,7 +34,8 @@ void showPageOf(QWidget *widget)
 EntryScreen::EntryScreen(ScreenContext &context, QWidget *parent)
     : QDialog(parent, Qt::Window)
     , m_context(context)
-    , m_guard(context.prompts, [this](const QString &column) { focusColumn(column); })
+    , m_guard(
+          context.prompts, [this](const QString &column) { focusColumn(column); }, this)
     , m_binder(this, m_guard)
     , m_memory(*this, context.settings)
 {
@@ -123,10 +124,7 @@ bool EntryScreen::settleChanges()
     const Pending found = m_binder.hasEntry() ? Pending::Changes : pending();
     if (found == Pending::Nothing)
         return true;
-    const Answer answer = found == Pending::Untouched
-        ? Answer::No
-        : m_context.prompts.yesNoCancel(tr("Do you want to save changes?"));
-    switch (answer) {
+    switch (found == Pending::Untouched ? Answer::No : askAboutChanges()) {
     case Answer::Yes:
         return m_guard.run([this] { saveAndReport(); });
     case Answer::No:
@@ -135,6 +133,15 @@ bool EntryScreen::settleChanges()
         break;
     }
     return false;
+}
+
+// Closed from another window, it may be one of several that ask.
+Answer EntryScreen::askAboutChanges()
+{
+    if (QApplication::activeWindow() == this)
+        return m_context.prompts.yesNoCancel(closingQuestion());
+    bringToFront(*this);
+    return m_context.prompts.yesNoCancel(closingQuestion() + "\n\n"_L1 + recordName());
 }
 
 void EntryScreen::closeEvent(QCloseEvent *event)
@@ -147,6 +154,7 @@ void EntryScreen::closeEvent(QCloseEvent *event)
         event->accept();
     } else {
         event->ignore();
+        bringToFront(*this);
     }
 }
 

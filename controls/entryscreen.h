@@ -14,7 +14,8 @@ namespace Tallymere {
 // A window in which one record or document is entered. Not modal; it is freed when it is closed.
 //
 // Enter moves on as Tab does. Escape takes back what is being typed, except in notes, else it closes. Closing with
-// changes asks whether they shall be saved; a new record that nobody has touched is dropped silently. Its place, size
+// changes asks whether they shall be saved, in front of the other windows and naming the record when it is closed from
+// one of those; a new record that nobody has touched is dropped silently. Its place, size
 // and the column widths of its grids are remembered.
 class EntryScreen : public QDialog, public TableOwner
 {
@@ -42,6 +43,8 @@ protected:
     virtual void dropChanges() = 0;
     virtual std::optional<int> savedKey() const = 0; // nothing when nothing has been written in this visit
     virtual QString caption() const = 0;
+    virtual QString recordName() const { return caption(); } // among the records that are open
+    virtual QString closingQuestion() const { return tr("Do you want to save changes?"); }
     // Brings the cursor to what shows the column; the base knows the bound widgets.
     virtual bool focusColumn(const QString &column);
     // What a key means on this screen before anything else; true when it was used.
@@ -72,6 +75,7 @@ private:
     void btnHelpClick();
     void leave(); // closes without a question
     bool settleChanges(); // asks if need be; false: the screen stays
+    Answer askAboutChanges();
 
     ScreenContext &m_context;
     Guard m_guard;

@@ -1,5 +1,6 @@
 #include "controls/guard.h"
 
+#include "controls/messageboxes.h"
 #include "engine/error.h"
 #include "frame/shared/ruleerror.h"
 
@@ -9,14 +10,16 @@ namespace Tallymere {
 
 Q_LOGGING_CATEGORY(screens, "tallymere.screens", QtWarningMsg)
 
-Guard::Guard(Prompts &prompts, std::function<void(const QString &)> focusColumn)
+Guard::Guard(Prompts &prompts, std::function<void(const QString &)> focusColumn, QWidget *window)
     : m_prompts(prompts)
     , m_focusColumn(std::move(focusColumn))
+    , m_window(window)
 {
 }
 
 bool Guard::run(const std::function<void()> &handler) const
 {
+    const BoxesOver over(m_window);
     const std::exception_ptr failure = attempt(handler);
     if (failure)
         report(failure);
@@ -35,6 +38,7 @@ std::exception_ptr Guard::attempt(const std::function<void()> &handler)
 
 void Guard::report(const std::exception_ptr &failure) const
 {
+    const BoxesOver over(m_window);
     try {
         std::rethrow_exception(failure);
     } catch (const RuleError &error) {

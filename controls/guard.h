@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QString>
 
+class QWidget;
+
 namespace Tallymere {
 
 // The one place where what stops a handler is shown. A refusal by a rule moves the focus to the widget of the
@@ -15,8 +17,10 @@ namespace Tallymere {
 class Guard
 {
 public:
-    // The second argument moves the focus to what shows a column; without it the focus stays.
-    explicit Guard(Prompts &prompts, std::function<void(const QString &column)> focusColumn = {});
+    // The second argument moves the focus to what shows a column; without it the focus stays. The window is the one
+    // that boxes come over while a handler runs.
+    explicit Guard(Prompts &prompts, std::function<void(const QString &column)> focusColumn = {},
+                   QWidget *window = nullptr);
 
     Prompts &prompts() const { return m_prompts; }
 
@@ -34,6 +38,7 @@ public:
 private:
     Prompts &m_prompts;
     std::function<void(const QString &column)> m_focusColumn;
+    QWidget *m_window;
 };
 
 // Connects a signal to a handler without arguments that runs under the receiver's guard().

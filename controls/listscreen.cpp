@@ -33,7 +33,7 @@ constexpr auto copyName = "mnuCopyText"_L1;
 ListScreen::ListScreen(ScreenContext &context, QWidget *parent)
     : QMainWindow(parent)
     , m_context(context)
-    , m_guard(context.prompts)
+    , m_guard(context.prompts, {}, this)
 {
     setAttribute(Qt::WA_DeleteOnClose);
 }

@@ -11,16 +11,28 @@ namespace Tallymere {
 
 namespace {
 
-// Between two boxes no window is active for a moment; the second comes over the same window as the first. A dialog
-// that has been hidden leaves its place to the window that it was opened from.
-QWidget *windowInUse()
+QPointer<QWidget> &windowConcerned()
 {
-    static QPointer<QWidget> last;
-    if (QWidget *active = QApplication::activeWindow())
-        last = active;
-    QWidget *window = last;
+    static QPointer<QWidget> window;
+    return window;
+}
+
+QWidget *shownFrom(QWidget *window)
+{
     while (window && !window->isVisible())
         window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
+    return window;
+}
+
+// The window for a box.
+QWidget *windowInUse()
+{
+    static QPointer<QWidget> lastActive;
+    if (QWidget *active = QApplication::activeWindow())
+        lastActive = active;
+    if (QWidget *concerned = shownFrom(windowConcerned()))
+        return concerned;
+    QWidget *window = shownFrom(lastActive);
     return window ? window : QApplication::activeModalWidget();
 }
 
@@ -42,25 +54,34 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, co
     return static_cast<QMessageBox::StandardButton>(answer);
 }
 
-QString title(const char *text) { return QCoreApplication::translate("MessageBoxes", text); }
+QString boxTitle(const char *text) { return QCoreApplication::translate("MessageBoxes", text); }
 
 } // namespace
 
+BoxesOver::BoxesOver(QWidget *window)
+    : m_outer(windowConcerned())
+{
+    if (window)
+        windowConcerned() = window;
+}
+
+BoxesOver::~BoxesOver() { windowConcerned() = m_outer; }
+
 void MessageBoxes::inform(const QString &text)
 {
-    ask(QMessageBox::Information, title(QT_TRANSLATE_NOOP("MessageBoxes", "Information")), text, QMessageBox::Ok,
+    ask(QMessageBox::Information, boxTitle(QT_TRANSLATE_NOOP("MessageBoxes", "Information")), text, QMessageBox::Ok,
         QMessageBox::Ok);
 }
 
 void MessageBoxes::warn(const QString &text)
 {
-    ask(QMessageBox::Warning, title(QT_TRANSLATE_NOOP("MessageBoxes", "Warning")), text, QMessageBox::Ok,
+    ask(QMessageBox::Warning, boxTitle(QT_TRANSLATE_NOOP("MessageBoxes", "Warning")), text, QMessageBox::Ok,
         QMessageBox::Ok);
 }
 
 void MessageBoxes::error(const QString &text)
 {
-    ask(QMessageBox::Critical, title(QT_TRANSLATE_NOOP("MessageBoxes", "Error")), text, QMessageBox::Ok,
+    ask(QMessageBox::Critical, boxTitle(QT_TRANSLATE_NOOP("MessageBoxes", "Error")), text, QMessageBox::Ok,
         QMessageBox::Ok);
 }
 
@@ -76,9 +97,9 @@ bool MessageBoxes::confirm(Question question, const QString &text)
         == QMessageBox::Ok;
 }
 
-Answer MessageBoxes::yesNoCancel(const QString &text)
+Answer MessageBoxes::yesNoCancel(const QString &text, const QString &title)
 {
-    switch (ask(QMessageBox::Question, QGuiApplication::applicationDisplayName(), text,
+    switch (ask(QMessageBox::Question, title.isEmpty() ? QGuiApplication::applicationDisplayName() : title, text,
                 QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes)) {
     case QMessageBox::Yes:
         return Answer::Yes;
@@ -91,7 +112,7 @@ Answer MessageBoxes::yesNoCancel(const QString &text)
 
 bool MessageBoxes::retry(const QString &text)
 {
-    return ask(QMessageBox::Critical, title(QT_TRANSLATE_NOOP("MessageBoxes", "Error")), text,
+    return ask(QMessageBox::Critical, boxTitle(QT_TRANSLATE_NOOP("MessageBoxes", "Error")), text,
                QMessageBox::Retry | QMessageBox::Cancel, QMessageBox::Retry)
         == QMessageBox::Retry;
 }

@@ -25,7 +25,7 @@ public:
     void warn(const QString &) override { }
     void error(const QString &) override { }
     bool confirm(Tallymere::Question, const QString &) override { return false; }
-    Answer yesNoCancel(const QString &) override { return Answer::Cancel; }
+    Answer yesNoCancel(const QString &, const QString &) override { return Answer::Cancel; }
     bool retry(const QString &) override { return false; }
 };
 

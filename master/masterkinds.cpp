@@ -9,6 +9,7 @@ QString MasterKind::recordName(const Engine::DataSet &row) const
     QStringList parts;
     for (const QString &field : nameFields)
         parts << row.text(field);
+    parts.removeAll(QString());
     return parts.join(u": ");
 }
 

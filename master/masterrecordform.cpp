@@ -95,6 +95,14 @@ void MasterRecordScreen::saveChanges()
 
 void MasterRecordScreen::dropChanges() { m_record.cancel(); }
 
+QString MasterRecordScreen::recordName() const
+{
+    const MasterKind &kind = m_record.kind();
+    const QString name = kind.recordName(m_record.table());
+    const QString what = isNew() ? kind.newCaption : kind.caption;
+    return name.isEmpty() ? what : tr("%1 '%2'").arg(what, name);
+}
+
 std::optional<int> MasterRecordScreen::savedKey() const
 {
     return m_saved ? std::optional(m_record.key()) : std::nullopt;

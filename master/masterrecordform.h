@@ -41,6 +41,7 @@ protected:
     void dropChanges() override;
     std::optional<int> savedKey() const override;
     QString caption() const override { return m_record.caption(); }
+    QString recordName() const override;
 
 private:
     void recordChanged();

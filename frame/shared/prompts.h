@@ -23,7 +23,8 @@ public:
     virtual void error(const QString &text) = 0;
     // True for OK and for Yes. Of OK and Cancel the default is Cancel.
     virtual bool confirm(Question question, const QString &text) = 0;
-    virtual Answer yesNoCancel(const QString &text) = 0;
+    // Without a title the box has the application's name.
+    virtual Answer yesNoCancel(const QString &text, const QString &title = {}) = 0;
     // An error with Retry and Cancel; true for Retry.
     virtual bool retry(const QString &text) = 0;
 };

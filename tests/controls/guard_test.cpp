@@ -1,13 +1,43 @@
 #include "controls/guard.h"
+#include "controls/messageboxes.h"
 #include "engine/error.h"
 #include "frame/shared/ruleerror.h"
+#include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
 
 #include <gtest/gtest.h>
+#include <QMessageBox>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
+
+// What is told about a window stands over it, whichever window happens to be active.
+TEST(Guard, showsItsBoxesOverItsWindow)
+{
+    QWidget list;
+    QWidget mainWindow;
+    list.show();
+    showActive(mainWindow);
+    MessageBoxes boxes;
+    const Guard guard(boxes, {}, &list);
+    const auto parentOf = [](const std::function<void()> &action) {
+        QWidget *parent = nullptr;
+        EXPECT_TRUE(whileOpen<QMessageBox>(action, [&](QMessageBox &box) { parent = box.parentWidget(); }));
+        return parent;
+    };
+    EXPECT_EQ(parentOf([&] { guard.run([] { throw RuleError(u"No"_s); }); }), &list);
+    EXPECT_EQ(parentOf([&] { guard.run([&] { boxes.inform(u"Well"_s); }); }), &list);
+    EXPECT_EQ(parentOf([&] { boxes.inform(u"Well"_s); }), &mainWindow) << "the one in use";
+    EXPECT_EQ(parentOf([&] {
+                  guard.run([&] {
+                      list.hide();
+                      boxes.inform(u"Well"_s);
+                  });
+              }),
+              &mainWindow)
+        << "it has gone";
+}
 
 TEST(Guard, showsWhatStopsAHandlerAndLetsNothingPast)
 {

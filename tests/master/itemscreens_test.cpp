@@ -299,6 +299,39 @@ TEST_F(ItemScreens, RefuseAChoiceOfAnItemThatAnotherUserEdits)
     }
 }
 
+// The window that everything belongs to closes them one after the other: each comes up, says which it is, and stays
+// where its check has refused.
+TEST_F(ItemScreens, AskInFrontAndByNameWhenClosedFromElsewhere)
+{
+    openList();
+    press(Qt::Key_Return);
+    takeItem();
+    enter("editItemDescription", "Pears");
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    press(Qt::Key_Delete);
+    showActive(*list);
+    prompts.answer = Answer::Yes;
+    item->close();
+    EXPECT_EQ(prompts.take(),
+              (QStringList{u"Do you want to save changes?\n\nItem 'A10: Pears'"_s,
+                           u"error: Field 'Description' must have a value"_s}));
+    ASSERT_TRUE(item && item->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == item; }));
+    EXPECT_EQ(focusName(), u"editItemDescription");
+    item->close();
+    EXPECT_EQ(prompts.take().value(0), u"Do you want to save changes?"_s) << "in front already";
+    clickItem("btnCancel");
+    settle();
+
+    clickList("btnNew");
+    takeItem();
+    enter("editTaxCodes", "P");
+    showActive(*list);
+    prompts.answer = Answer::No;
+    item->close();
+    EXPECT_EQ(prompts.take(), QStringList{u"Do you want to save changes?\n\nNew Item '1001'"_s});
+}
+
 TEST_F(ItemScreens, CloseAlthoughTheListCannotFollow)
 {
     openList();

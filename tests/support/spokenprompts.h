@@ -30,9 +30,9 @@ public:
         said << caption(question) + QStringLiteral(": ") + text;
         return ok;
     }
-    Tallymere::Answer yesNoCancel(const QString &text) override
+    Tallymere::Answer yesNoCancel(const QString &text, const QString &title) override
     {
-        said << text;
+        said << (title.isEmpty() ? text : title + QStringLiteral(": ") + text);
         return answer;
     }
     bool retry(const QString &text) override
