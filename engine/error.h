@@ -28,6 +28,7 @@ enum class ErrorCode {
     ReadOnly = 11005,
     ConnectionLost = 11006,
     AccessDenied = 11007,
+    FileReplaced = 11008, // the open file, or its lock file, is no longer the one that its path leads to
 };
 
 // The one error of the engine layer. text() is meant for the user: it names the table, file or server and says

@@ -1,5 +1,7 @@
 #include "engine/filelocks.h"
 
+#include "engine/error.h"
+
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QStringList>
@@ -19,6 +21,7 @@ constexpr qint64 tableCount = qint64(1) << (62 - stretchBits);
 constexpr qint64 noteLocks = qint64(1) << 62;
 constexpr int noteCount = 512;
 constexpr int noteSize = 512;
+constexpr qint64 memoPlace = qint64(noteCount) * noteSize;
 
 quint64 hashOf(const QByteArray &bytes)
 {
@@ -59,9 +62,26 @@ FileLocks::FileLocks(const QString &path, const QString &user)
 
 FileLocks::~FileLocks() = default;
 
+void FileLocks::requireInPlace() const
+{
+    if (beforeLocking)
+        beforeLocking();
+    if (m_file->isInPlace())
+        return;
+    throw EngineError(
+        ErrorCode::FileReplaced,
+        QCoreApplication::translate("Engine",
+                                    "The lock file %1 has been deleted or replaced while it was in use. "
+                                    "Nothing can be saved any more: close the program and open it anew.")
+            .arg(m_file->path()));
+}
+
 bool FileLocks::tryRange(qint64 from, qint64 count, RangeLockFile::Mode mode)
 {
-    return !m_file || m_file->tryLock(from, count, mode);
+    if (!m_file)
+        return true;
+    requireInPlace();
+    return m_file->tryLock(from, count, mode);
 }
 
 void FileLocks::freeRange(qint64 from, qint64 count)
@@ -70,12 +90,14 @@ void FileLocks::freeRange(qint64 from, qint64 count)
         m_file->unlock(from, count);
 }
 
-bool FileLocks::changeOpen(const QString &table, OpenMode, OpenMode to)
+bool FileLocks::changeOpen(const QString &table, OpenMode from, OpenMode to)
 {
     if (to == OpenMode::None) {
         freeRange(openByte(table), 1);
         return true;
     }
+    if (from == OpenMode::Exclusive) // going down asks nobody
+        return !m_file || m_file->tryLock(openByte(table), 1, RangeLockFile::Mode::Shared);
     return tryRange(openByte(table), 1,
                     to == OpenMode::Shared ? RangeLockFile::Mode::Shared : RangeLockFile::Mode::Exclusive);
 }
@@ -131,6 +153,17 @@ void FileLocks::changed()
     }
     QByteArray bytes = parts.join(u'\t').toUtf8().left(noteSize - 1) + '\n';
     m_file->write(qint64(m_note) * noteSize, bytes.leftJustified(noteSize, ' '));
+}
+
+QString FileLocks::memo() const
+{
+    return m_file ? QString::fromUtf8(m_file->read(memoPlace, noteSize)).trimmed() : QString();
+}
+
+void FileLocks::setMemo(const QString &text)
+{
+    if (m_file)
+        m_file->write(memoPlace, text.toUtf8().left(noteSize - 1).leftJustified(noteSize - 1, ' ') + '\n');
 }
 
 std::optional<LockOwner> FileLocks::ownerOf(const QString &table)

@@ -3,6 +3,7 @@
 #include "engine/countedlocks.h"
 #include "engine/platform.h"
 
+#include <functional>
 #include <memory>
 
 namespace Engine {
@@ -11,7 +12,9 @@ namespace Engine {
 // being open, and one for each possible record; the table lock takes all of the latter at once.
 //
 // The file itself holds one note for each connection, saying whose it is and in which tables it has locks. A note
-// counts only while its connection holds the byte that goes with it.
+// counts only while its connection holds the byte that goes with it. The memo follows the notes.
+//
+// A lock file that was deleted or replaced keeps nobody out any more: the next lock throws FileReplaced.
 class FileLocks final : public CountedLocks
 {
 public:
@@ -19,6 +22,14 @@ public:
     ~FileLocks() override;
 
     std::optional<LockOwner> ownerOf(const QString &table) override;
+
+    // Called before each lock that is taken; refuses by throwing.
+    std::function<void()> beforeLocking;
+
+    // What the users of the database remember about its files, a few words that outlive their programs. Empty when
+    // nothing was written yet.
+    QString memo() const;
+    void setMemo(const QString &text);
 
 protected:
     bool changeOpen(const QString &table, OpenMode from, OpenMode to) override;
@@ -30,6 +41,7 @@ protected:
     void changed() override; // writes the note
 
 private:
+    void requireInPlace() const;
     bool tryRange(qint64 from, qint64 count, RangeLockFile::Mode mode);
     void freeRange(qint64 from, qint64 count);
     void takeNote();

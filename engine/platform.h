@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <QString>
 #include <QtGlobal>
 
@@ -13,6 +14,21 @@ bool isLocalFileSystem(const QString &path);
 
 QString systemUserName();
 
+// Differs between two starts of the computer. Empty when the system does not tell.
+QString systemStart();
+
+// What tells a file from any other, now or later at the same path.
+struct FileIdentity
+{
+    quint64 device = 0;
+    quint64 file = 0;
+    qint64 born = 0; // 0 when the file system does not know; else numbers of deleted files do not come back
+
+    bool operator==(const FileIdentity &) const = default;
+};
+// Of the file that the path leads to, through links; nothing when there is none.
+std::optional<FileIdentity> identityOfFile(const QString &path);
+
 // Waits until the socket can be read, or written; false when the time has passed.
 bool waitForSocket(int socket, bool forWriting, std::chrono::milliseconds time);
 // Waits until one of two sockets can be read, or the second one written; false when the time has passed.
@@ -23,10 +39,14 @@ bool waitForEither(int first, int second, bool secondForWriting, std::chrono::mi
 class RangeLockFile
 {
 public:
-    explicit RangeLockFile(const QString &path); // throws CannotOpen or ReadOnly
+    // Makes the file when there is none. A link is not followed. Throws CannotOpen or ReadOnly.
+    explicit RangeLockFile(const QString &path);
     ~RangeLockFile();
     RangeLockFile(const RangeLockFile &) = delete;
     RangeLockFile &operator=(const RangeLockFile &) = delete;
+
+    const QString &path() const { return m_path; }
+    bool isInPlace() const; // whether the path still leads to this file, where others look for its locks
 
     enum class Mode { Shared, Exclusive };
     // At once; false when somebody else is in the way. A range held already changes its mode.
@@ -40,6 +60,7 @@ public:
 private:
     int m_handle = -1;
     QString m_path;
+    QByteArray m_systemPath;
 };
 
 } // namespace Engine

@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/vfs.h>
 #include <unistd.h>
 
@@ -48,6 +50,17 @@ struct flock rangeOf(int type, qint64 from, qint64 count)
     return range;
 }
 
+std::optional<FileIdentity> identityOf(int folder, const char *path, int flags)
+{
+    struct statx info = {};
+    if (statx(folder, path, flags, STATX_TYPE | STATX_INO | STATX_BTIME, &info) != 0 || !S_ISREG(info.stx_mode))
+        return std::nullopt;
+    const bool tellsBirth = (info.stx_mask & STATX_BTIME) != 0;
+    constexpr qint64 second = 1'000'000'000;
+    return FileIdentity{makedev(info.stx_dev_major, info.stx_dev_minor), info.stx_ino,
+                        tellsBirth ? info.stx_btime.tv_sec * second + info.stx_btime.tv_nsec : 0};
+}
+
 [[noreturn]] void throwLockFailure(const QString &path)
 {
     const QString words = QString::fromLocal8Bit(std::strerror(errno));
@@ -75,6 +88,17 @@ QString systemUserName()
 {
     const passwd *entry = getpwuid(geteuid());
     return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(geteuid());
+}
+
+QString systemStart()
+{
+    QFile file(QStringLiteral("/proc/sys/kernel/random/boot_id"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll().trimmed()) : QString();
+}
+
+std::optional<FileIdentity> identityOfFile(const QString &path)
+{
+    return identityOf(AT_FDCWD, QFile::encodeName(path).constData(), 0);
 }
 
 namespace {
@@ -109,12 +133,22 @@ bool waitForEither(int first, int second, bool secondForWriting, std::chrono::mi
 
 RangeLockFile::RangeLockFile(const QString &path)
     : m_path(path)
+    , m_systemPath(QFile::encodeName(path))
 {
     // Never deleted or replaced: the locks are on the file itself, not on its name. Everyone who may write in the
     // folder may lock, so the mode is left to the umask.
-    m_handle = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (m_handle >= 0)
+    m_handle = ::open(m_systemPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666);
+    if (m_handle >= 0 && isInPlace())
         return;
+    if (m_handle >= 0 || errno == ELOOP) {
+        ::close(m_handle);
+        throw EngineError(
+            ErrorCode::CannotOpen,
+            QCoreApplication::translate("Engine",
+                                        "The lock file %1 is a link, or no file at all. Remove it while "
+                                        "nobody uses the database, and open the program anew.")
+                .arg(path));
+    }
     const QString words = QString::fromLocal8Bit(std::strerror(errno));
     const bool denied = errno == EACCES || errno == EROFS || errno == EPERM;
     throw EngineError(
@@ -127,6 +161,12 @@ RangeLockFile::RangeLockFile(const QString &path)
 }
 
 RangeLockFile::~RangeLockFile() { ::close(m_handle); }
+
+bool RangeLockFile::isInPlace() const
+{
+    const auto own = identityOf(m_handle, "", AT_EMPTY_PATH);
+    return own && own == identityOf(AT_FDCWD, m_systemPath.constData(), AT_SYMLINK_NOFOLLOW);
+}
 
 bool RangeLockFile::tryLock(qint64 from, qint64 count, Mode mode)
 {

@@ -4,6 +4,7 @@
 #include "engine/platform.h"
 #include "engine/sqliteerror.h"
 #include "engine/sqlitestatement.h"
+#include "engine/sqlitewatch.h"
 
 #include <QFileInfo>
 #include <sqlite3.h>
@@ -24,17 +25,24 @@ QString lockFilePath(const QString &databasePath)
 
 } // namespace
 
+SqliteConnection::SqliteConnection() = default;
+
 SqliteConnection::SqliteConnection(const QString &path, Missing missing, const QString &user)
     : m_path(path)
 {
     try {
         open(SQLITE_OPEN_READWRITE | (missing == Missing::Create ? SQLITE_OPEN_CREATE : 0));
+        watch(user);
         configure();
-        m_locks = std::make_unique<FileLocks>(lockFilePath(path), user);
+        m_watch->opened();
     } catch (...) {
         sqlite3_close_v2(m_db);
         throw;
     }
+    m_locks->beforeLocking = [this] {
+        if (!inTransaction()) // which has asked already
+            requireOwnFile();
+    };
 }
 
 std::unique_ptr<SqliteConnection> SqliteConnection::inMemory()
@@ -49,6 +57,9 @@ std::unique_ptr<SqliteConnection> SqliteConnection::inMemory()
 SqliteConnection::~SqliteConnection()
 {
     clearStatementCache();
+    if (m_watch)
+        m_watch->beforeClosing();
+    m_watch.reset();
     m_locks.reset();
     sqlite3_close_v2(m_db); // statements still held elsewhere keep it alive until they go
 }
@@ -61,29 +72,66 @@ void SqliteConnection::open(int flags)
         throw sqliteError(m_db, resultCode, m_path);
     sqlite3_extended_result_codes(m_db, 1);
     sqlite3_busy_timeout(m_db, busyMilliseconds);
-    execute(u"PRAGMA cache_size = -65536; PRAGMA temp_store = MEMORY;"_s);
+}
+
+void SqliteConnection::watch(const QString &user)
+{
+    if (sqlite3_db_readonly(m_db, "main") == 1) // SQLite opens a write-protected file for reading, unasked
+        throw sqliteError(nullptr, SQLITE_READONLY, m_path);
+    if (!SqliteWatch::isDatabase(m_db))
+        throw sqliteError(nullptr, SQLITE_NOTADB, m_path);
+    m_locks = std::make_unique<FileLocks>(lockFilePath(SqliteWatch::realPath(m_db)), user);
+    m_watch = std::make_unique<SqliteWatch>(m_db, m_path, *m_locks);
 }
 
 void SqliteConnection::configure()
 {
-    if (sqlite3_db_readonly(m_db, "main") == 1) // SQLite opens a write-protected file for reading, unasked
-        throw sqliteError(nullptr, SQLITE_READONLY, m_path);
     // Write-ahead logging needs memory shared between the writers, which network folders do not give.
-    const QString journal = isLocalFileSystem(m_path) ? u"WAL"_s : u"DELETE"_s;
+    const QString journal = isLocalFileSystem(SqliteWatch::realPath(m_db)) ? u"WAL"_s : u"DELETE"_s;
+    execute(u"PRAGMA cache_size = -65536; PRAGMA temp_store = MEMORY;"_s);
     execute("PRAGMA journal_mode = "_L1 + journal + ';'_L1);
     execute(u"PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 4000;"_s);
+    execute(u"PRAGMA schema_version"_s); // the first read opens the log
+}
+
+LockManager &SqliteConnection::locks() { return *m_locks; }
+
+void SqliteConnection::requireOwnFile()
+{
+    if (m_watch)
+        m_watch->check();
 }
 
 void SqliteConnection::execute(const QString &script)
 {
+    if (!inTransaction())
+        requireOwnFile();
     const int resultCode = sqlite3_exec(m_db, script.toUtf8().constData(), nullptr, nullptr, nullptr);
     if (resultCode != SQLITE_OK)
         throw sqliteError(m_db, resultCode, m_path);
 }
 
-void SqliteConnection::begin() { prepare(u"BEGIN IMMEDIATE"_s)->execute(); }
+void SqliteConnection::begin()
+{
+    prepare(u"BEGIN IMMEDIATE"_s)->execute();
+    m_changesBefore = sqlite3_total_changes64(m_db);
+}
 
-void SqliteConnection::commit() { prepare(u"COMMIT"_s)->execute(); }
+void SqliteConnection::commit()
+{
+    requireOwnFile();
+    if (m_watch && sqlite3_total_changes64(m_db) != m_changesBefore)
+        stamp();
+    prepare(u"COMMIT"_s)->execute();
+    if (m_watch)
+        m_watch->committed();
+}
+
+void SqliteConnection::stamp()
+{
+    if (const std::optional<int> stamp = m_watch->stampDue())
+        execute(u"PRAGMA user_version = %1"_s.arg(*stamp));
+}
 
 void SqliteConnection::rollback() noexcept
 {

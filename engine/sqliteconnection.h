@@ -7,8 +7,11 @@ struct sqlite3;
 
 namespace Engine {
 
+class FileLocks;
+class SqliteWatch;
+
 // A database file, with the lock file beside it. SQLite's own locks last for one transaction; those of records and
-// tables stand in the lock file.
+// tables stand in the lock file. A file reached through links has its lock file beside itself, as one reached directly.
 class SqliteConnection final : public Connection
 {
 public:
@@ -31,7 +34,10 @@ public:
     QStringList tableNames() override;
     qint64 repair(const TableLayout &table) override;
     qint64 lastInsertId() override;
-    LockManager &locks() override { return *m_locks; }
+    LockManager &locks() override;
+
+    // Before anything is written: throws FileReplaced when that would be lost, or do damage.
+    void requireOwnFile();
 
     sqlite3 *handle() const { return m_db; }
 
@@ -39,16 +45,20 @@ protected:
     std::unique_ptr<Statement> createStatement(const QString &sql) override;
 
 private:
-    SqliteConnection() = default;
+    SqliteConnection(); // for inMemory()
     void open(int flags);
+    void watch(const QString &user);
     void configure();
+    void stamp();
     qint64 salvage(const TableLayout &table, const QString &copy); // the rows lost
     QString spelling(const QString &table); // as stored, null when there is no such table
 
     SqliteDialect m_dialect;
     QString m_path;
     sqlite3 *m_db = nullptr;
-    std::unique_ptr<LockManager> m_locks;
+    std::unique_ptr<FileLocks> m_locks;
+    std::unique_ptr<SqliteWatch> m_watch; // not of a database in memory
+    qint64 m_changesBefore = 0; // the transaction in progress
 };
 
 } // namespace Engine

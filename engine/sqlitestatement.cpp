@@ -1,5 +1,6 @@
 #include "engine/sqlitestatement.h"
 
+#include "engine/sqliteconnection.h"
 #include "engine/sqlitedialect.h"
 #include "engine/sqliteerror.h"
 #include "engine/storedtext.h"
@@ -15,6 +16,7 @@ SqliteStatement::SqliteStatement(sqlite3 *db, const QString &sql, const QString 
     const QByteArray text = sql.toUtf8();
     check(sqlite3_prepare_v3(m_db, text.constData(), static_cast<int>(text.size() + 1), SQLITE_PREPARE_PERSISTENT,
                              &m_statement, nullptr));
+    m_writes = m_statement && sqlite3_stmt_readonly(m_statement) == 0;
 }
 
 SqliteStatement::~SqliteStatement() { sqlite3_finalize(m_statement); }
@@ -23,6 +25,12 @@ void SqliteStatement::check(int resultCode)
 {
     if (resultCode != SQLITE_OK)
         throw sqliteError(m_db, resultCode, m_path);
+}
+
+void SqliteStatement::requireOwnFile() const
+{
+    if (m_writes && m_owner && sqlite3_get_autocommit(m_db) != 0)
+        static_cast<SqliteConnection *>(m_owner)->requireOwnFile();
 }
 
 void SqliteStatement::requireIdle()
@@ -61,6 +69,8 @@ void SqliteStatement::bindText(int parameter, const QString &value)
 
 bool SqliteStatement::next()
 {
+    if (!m_running)
+        requireOwnFile();
     m_running = true;
     const int resultCode = sqlite3_step(m_statement);
     m_onRow = resultCode == SQLITE_ROW;

@@ -37,11 +37,13 @@ public:
 
 private:
     void requireIdle(); // SQLite takes bindings only between executions
+    void requireOwnFile() const; // before a statement that writes by itself, or begins a transaction
     void check(int resultCode);
 
     sqlite3 *m_db;
     sqlite3_stmt *m_statement = nullptr;
     QString m_path;
+    bool m_writes = false;
     bool m_running = false;
     bool m_onRow = false;
 };

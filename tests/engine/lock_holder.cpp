@@ -9,7 +9,8 @@ using namespace Qt::StringLiterals;
 using namespace Engine;
 
 // Another user of a test's database: lock_holder local FOLDER | remote NAME. Obeys the lines of standard input
-// ("record Item 5", "table Item", "open Item", "alone Item", "sql TEXT") with "yes" or "no" each.
+// ("record Item 5", "table Item", "open Item", "alone Item", "sql TEXT") with "yes" or "no" each, and "rows SELECT ..." with
+// the first column.
 
 namespace {
 
@@ -29,6 +30,22 @@ bool obey(Connection &connection, const QStringList &words)
     return true;
 }
 
+std::string firstColumn(Connection &connection, const QString &sql)
+{
+    QStringList values;
+    const StatementPtr row = connection.prepare(sql);
+    while (row->next())
+        values << row->textAt(0);
+    return values.join(u' ').toStdString();
+}
+
+std::string answer(Connection &connection, const QStringList &words)
+{
+    if (words.first() == "rows"_L1)
+        return firstColumn(connection, words.mid(1).join(u' '));
+    return obey(connection, words) ? "yes" : "no";
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -38,7 +55,7 @@ int main(int argc, char **argv)
     try {
         for (std::string line; std::getline(std::cin, line);) {
             const QStringList words = QString::fromStdString(line).split(u' ');
-            std::cout << (obey(user.database.connection(), words) ? "yes" : "no") << std::endl;
+            std::cout << answer(user.database.connection(), words) << std::endl;
         }
     } catch (const EngineError &error) {
         std::cout << error.what() << std::endl;

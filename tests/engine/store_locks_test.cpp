@@ -1,9 +1,8 @@
 #include "engine/locks.h"
+#include "tests/engine/otherprogram.h"
 #include "tests/engine/storetest.h"
 
 #include <chrono>
-#include <QCoreApplication>
-#include <QProcess>
 #include <QSysInfo>
 #include <thread>
 
@@ -11,39 +10,6 @@ using namespace Qt::StringLiterals;
 using namespace Engine;
 
 namespace {
-
-// Another user's program.
-class OtherProgram
-{
-public:
-    explicit OtherProgram(const TestStore &store)
-    {
-        m_process.start(QCoreApplication::applicationDirPath() + "/engine_lock_holder"_L1, store.place());
-    }
-    ~OtherProgram() { kill(); }
-
-    QString ask(const QString &order)
-    {
-        tell(order);
-        if (!m_process.canReadLine())
-            m_process.waitForReadyRead(10000);
-        return QString::fromUtf8(m_process.readLine()).trimmed();
-    }
-    void tell(const QString &order)
-    {
-        m_process.write((order + u'\n').toUtf8());
-        m_process.waitForBytesWritten(10000);
-    }
-    void kill()
-    {
-        m_process.kill();
-        m_process.waitForFinished(10000);
-    }
-    qint64 id() const { return m_process.processId(); }
-
-private:
-    QProcess m_process;
-};
 
 // The server notices a death within a second or so; the file system at once.
 template <typename Call> bool soon(Call call)

@@ -1,0 +1,174 @@
+#include "engine/locks.h"
+#include "tests/engine/otherprogram.h"
+#include "tests/engine/storetest.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+using namespace Engine;
+
+// The files of a local store taken away, replaced or reached by another way while they are in use. Done by programs
+// of their own, as a user does it: a process that closes the database's file loses its locks.
+
+namespace {
+
+struct LocalUser : TestUser
+{
+    explicit LocalUser(const QString &folder)
+        : TestUser(u"maria"_s, u"Corvane"_s)
+    {
+        database.directory = folder;
+    }
+    Connection &connection() { return database.connection(); }
+    void insert(const QString &value)
+    {
+        Transaction transaction(connection());
+        connection().execute(u"INSERT INTO T VALUES ('%1')"_s.arg(value));
+        transaction.commit();
+    }
+};
+
+// What a program that opens the database now finds in it.
+QString contentOf(const QString &folder)
+{
+    return OtherProgram({u"local"_s, folder})
+        .ask(u"rows SELECT a FROM T UNION ALL SELECT integrity_check FROM pragma_integrity_check"_s);
+}
+
+// The database lies in "data". The backup, a file beside it, holds "old" only; "today" stands in the log alone.
+struct Kitchen
+{
+    QTemporaryDir home;
+    QString folder = home.filePath(u"data"_s);
+    LocalUser maria{folder};
+
+    Kitchen()
+    {
+        QDir().mkdir(folder);
+        maria.database.createIfMissing = true;
+        maria.connection().execute(u"CREATE TABLE T (a TEXT)"_s);
+        maria.insert(u"old"_s);
+        maria.database.close();
+        maria.database.createIfMissing = false;
+        shell(u"cp data/Corvane.sqlite backup"_s);
+        maria.insert(u"yesterday"_s);
+        maria.database.close();
+        maria.insert(u"today"_s);
+    }
+
+    void shell(const QString &command) const
+    {
+        EXPECT_EQ(QProcess::execute(u"sh"_s, {u"-c"_s, u"cd \"$0\" && "_s + command, home.path()}), 0);
+    }
+};
+
+const struct Loss
+{
+    const char *name;
+    const char *command;
+    const char *place; // where the database is afterwards
+    const char *content; // what it holds then
+    bool isOfLog = false;
+} losses[] = {
+    {"deleted, and put back from the backup", "rm data/Corvane.sqlite && cp backup data/Corvane.sqlite", "data",
+     "old ok"},
+    {"backup moved over it", "mv backup data/Corvane.sqlite", "data", "old ok"},
+    {"backup copied over it", "cp backup data/Corvane.sqlite", "data", "old ok"},
+    {"folder renamed", "mv data elsewhere", "elsewhere", "old yesterday today ok"},
+    {"log deleted", "rm data/Corvane.sqlite-wal data/Corvane.sqlite-shm", "data", "old yesterday today ok", true},
+};
+
+} // namespace
+
+TEST(LocalFiles, ADatabaseThatIsNoLongerAtItsPlaceTakesNoMoreWrites)
+{
+    for (const Loss &loss : losses) {
+        SCOPED_TRACE(loss.name);
+        Kitchen kitchen;
+        OtherProgram annas({u"local"_s, kitchen.folder});
+        ASSERT_EQ(annas.ask(u"open T"_s), u"yes"_s);
+        kitchen.shell(QString::fromLatin1(loss.command));
+
+        Connection &store = kitchen.maria.connection();
+        QString message;
+        EXPECT_EQ(errorOf([&] { kitchen.maria.insert(u"lost"_s); }, &message), ErrorCode::FileReplaced);
+        EXPECT_TRUE(message.contains(kitchen.folder + "/Corvane.sqlite"_L1)) << message.toStdString();
+        EXPECT_EQ(errorOf([&] { store.locks().tryLockRecord(u"T"_s, {1}); }), ErrorCode::FileReplaced);
+        EXPECT_EQ(errorOf([&] { store.locks().tryLockTable(u"T"_s); }), ErrorCode::FileReplaced);
+        EXPECT_EQ(errorOf([&] { store.prepare(u"DELETE FROM T"_s)->execute(); }), ErrorCode::FileReplaced);
+        EXPECT_EQ(annas.ask(u"sql DELETE FROM T"_s), message);
+        kitchen.maria.database.close();
+        annas.kill();
+        EXPECT_EQ(contentOf(kitchen.home.filePath(QString::fromLatin1(loss.place))),
+                  QString::fromLatin1(loss.content));
+    }
+}
+
+TEST(LocalFiles, TheOldLogTouchesNoReplacement)
+{
+    for (const Loss &loss : losses) {
+        for (const bool opened : {false, true}) { // while the programs that had it open before still run
+            SCOPED_TRACE(std::string(loss.name) + (opened ? ", opened at once" : ""));
+            if (opened && loss.isOfLog)
+                continue; // what it held can be read by nobody who comes later
+            Kitchen kitchen;
+            OtherProgram annas({u"local"_s, kitchen.folder});
+            ASSERT_EQ(annas.ask(u"sql UPDATE T SET a = a"_s), u"yes"_s);
+            kitchen.shell(QString::fromLatin1(loss.command));
+            const QString place = kitchen.home.filePath(QString::fromLatin1(loss.place));
+            if (opened) {
+                EXPECT_EQ(contentOf(place), QString::fromLatin1(loss.content));
+            }
+            annas.kill();
+            kitchen.maria.database.close();
+            EXPECT_EQ(contentOf(place), QString::fromLatin1(loss.content));
+        }
+    }
+}
+
+TEST(LocalFiles, LinksLeadToTheSameLocks)
+{
+    const struct
+    {
+        const char *name;
+        const char *command;
+    } links[] = {
+        {"of the folder", "ln -s data other"},
+        {"of the file", "mkdir other && ln -s ../data/Corvane.sqlite other/Corvane.sqlite"},
+        {"of the file in a linked folder",
+         "mkdir real && ln -s ../data/Corvane.sqlite real/Corvane.sqlite && ln -s real other"},
+    };
+    for (const auto &link : links) {
+        SCOPED_TRACE(link.name);
+        Kitchen kitchen;
+        kitchen.shell(QString::fromLatin1(link.command));
+        OtherProgram annas({u"local"_s, kitchen.home.filePath(u"other"_s)});
+        ASSERT_EQ(annas.ask(u"table T"_s), u"yes"_s);
+        EXPECT_FALSE(kitchen.maria.connection().locks().tryLockTable(u"T"_s));
+        kitchen.shell(u"rm -r other && mkdir other && cp backup other/Corvane.sqlite"_s);
+        EXPECT_TRUE(annas.ask(u"sql DELETE FROM T"_s).contains("other/Corvane.sqlite"_L1))
+            << "it leads elsewhere now";
+        EXPECT_EQ(contentOf(kitchen.folder), u"old yesterday today ok"_s);
+    }
+}
+
+TEST(LocalFiles, ALockFileThatIsNoLongerAtItsPlaceLocksNothing)
+{
+    for (const char *command : {"rm data/Corvane.lck", "touch new && mv new data/Corvane.lck",
+                                "mv data/Corvane.lck elsewhere && ln -s ../elsewhere data/Corvane.lck"}) {
+        SCOPED_TRACE(command);
+        Kitchen kitchen;
+        LockManager &locks = kitchen.maria.connection().locks();
+        ASSERT_TRUE(locks.tryLockRecord(u"T"_s, {1}));
+        kitchen.shell(QString::fromLatin1(command));
+        QString message;
+        EXPECT_EQ(errorOf([&] { locks.tryLockRecord(u"T"_s, {2}); }, &message), ErrorCode::FileReplaced);
+        EXPECT_TRUE(message.contains(kitchen.folder + "/Corvane.lck"_L1)) << message.toStdString();
+        EXPECT_EQ(errorOf([&] { locks.tryOpenExclusive(u"T"_s); }), ErrorCode::FileReplaced);
+        locks.unlockRecord(u"T"_s, {1});
+    }
+    Kitchen kitchen;
+    kitchen.maria.database.close();
+    kitchen.shell(u"rm data/Corvane.lck && touch elsewhere && ln -s ../elsewhere data/Corvane.lck"_s);
+    EXPECT_EQ(errorOf([&] { kitchen.maria.connection(); }), ErrorCode::CannotOpen) << "a link is not followed";
+}
