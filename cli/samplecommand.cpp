@@ -48,19 +48,16 @@ void requireDollars(Engine::Database &database)
                             .arg(home));
 }
 
-// All or nothing, here and below: half a kitchen could not be filled up later. Only posting, which makes groups of
-// its own, comes after it; what it misses, 'post' makes up for.
+// All or nothing, here and below: half a kitchen could not be filled up later.
 void fillSmall(TDataModuleTallymere &data, Prompts &prompts, Progress &progress)
 {
-    {
-        Engine::Transaction transaction(data.databaseTallymere().connection());
-        requireEmpty(data.databaseTallymere());
-        bringInSampleMasters(data, progress);
-        bringInSampleReceipts(data, u"receipts"_s, progress);
-        transaction.commit();
-    }
+    Engine::Transaction transaction(data.databaseTallymere().connection());
+    requireEmpty(data.databaseTallymere());
+    bringInSampleMasters(data, progress);
+    bringInSampleReceipts(data, u"receipts"_s, progress);
     DocumentPosting(data.databaseTallymere(), DocumentKinds::receipt()).run(prompts, progress);
     bringInSampleReceipts(data, u"receipts-unposted"_s, progress);
+    transaction.commit();
 }
 
 void fillLarge(TDataModuleTallymere &data, quint64 seed, Progress &progress)

@@ -22,6 +22,7 @@ GroupedWrites::GroupedWrites(Database &database, std::function<void()> forgetRea
     : m_connection(database.connection())
     , m_session(database.session())
     , m_sending(isFileStore(database) ? Sending::Waiting : Sending::Ahead)
+    , m_joined(m_connection.inTransaction())
     , m_forgetReads(std::move(forgetReads))
     , m_retry(std::move(retry))
 {
@@ -33,10 +34,10 @@ void GroupedWrites::apply(Step step)
 {
     guarded([&] {
         begin();
-        if (m_sending == Sending::Ahead)
+        if (m_sending == Sending::Ahead && !m_joined)
             m_group.push_back(step);
         step(*this);
-        if (std::chrono::steady_clock::now() - m_begun >= GroupTime)
+        if (!m_joined && std::chrono::steady_clock::now() - m_begun >= GroupTime)
             commit();
     });
 }
@@ -55,6 +56,8 @@ void GroupedWrites::finish()
 
 void GroupedWrites::guarded(const std::function<void()> &step)
 {
+    if (m_joined)
+        return step();
     try {
         step();
     } catch (const EngineError &error) {
@@ -145,14 +148,15 @@ void GroupedWrites::begin()
 void GroupedWrites::commit()
 {
     m_connection.drain();
-    m_connection.commit();
+    if (!m_joined)
+        m_connection.commit();
     m_group.clear();
 }
 
 void GroupedWrites::keepApplied() noexcept
 {
     // A store that has rolled back by itself has left the last committed group.
-    if (!m_connection.inTransaction())
+    if (m_joined || !m_connection.inTransaction())
         return;
     try {
         m_connection.drain();

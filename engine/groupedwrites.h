@@ -26,6 +26,8 @@ public:
 // for their answers, as pays there, and a failed one spoils its transaction: the group is rolled back and its steps
 // are done once more, statement by statement, up to the one that fails. A step must therefore depend on nothing but
 // the store and what forgetReads drops.
+//
+// Within a transaction of the caller the writes join that: nothing is committed here, and a failure undoes nothing.
 class GroupedWrites final : private Writes
 {
 public:
@@ -59,6 +61,7 @@ private:
     Connection &m_connection;
     const Session &m_session;
     const Sending m_sending;
+    const bool m_joined; // the caller's transaction
     const std::function<void()> m_forgetReads;
     const Retry m_retry;
     std::vector<Step> m_group; // applied since the last commit; kept when sending ahead
