@@ -106,16 +106,36 @@ int getUniqueID(Engine::Table &counter, const QString &field)
 
 bool openTable(Engine::Table &table)
 {
+    const auto mend = [&table] { repairTable(table.database(), table.name()); };
+    table.onDamage(mend);
     try {
         table.open();
     } catch (const EngineError &error) {
         if (error.code() != ErrorCode::Corrupt)
             refuseOpening(table, error);
-        qCDebug(trace) << "tbl.RepairTable" << table.name();
-        table.database().repairTable(table.name());
+        table.onDamage({});
+        mend();
         openOrRefuse(table);
     }
     return true;
+}
+
+qint64 repairTable(Engine::Database &database, const QString &table)
+{
+    qCDebug(trace) << "tbl.RepairTable" << table;
+    try {
+        const qint64 lost = database.repairTable(table);
+        qCDebug(trace) << lost << "rows lost";
+        return lost;
+    } catch (const EngineError &error) {
+        throw EngineError(
+            error.code(),
+            tr("The table %1 is damaged and could not be repaired: %2\n"
+               "Have everybody close the program and try again. If that does not help, restore the last "
+               "backup.")
+                .arg(table, error.text()),
+            error.driverText());
+    }
 }
 
 bool openQuery(Engine::Query &query)

@@ -23,9 +23,12 @@ namespace Tallymere {
 // Opens and closes the table.
 int getUniqueID(Engine::Table &counter, const QString &field);
 
-// Opens the table and returns true. A damaged table is mended and opened again. Other failures come as EngineError
-// with the engine's code and a text that names the table; one held exclusively by another user says so.
+// Opens the table and returns true. A damaged table is mended with repairTable(), now or when its first read finds the
+// damage, and used again. Other failures come as EngineError with the engine's code and a text that names the table; one
+// held exclusively by another user says so.
 bool openTable(Engine::Table &table);
+// Verifies and mends a table; the rows that were lost. Where that is not possible, the EngineError says what to do.
+qint64 repairTable(Engine::Database &database, const QString &table);
 bool openQuery(Engine::Query &query);
 
 // The stored statement of that name: field Query_Lines of the query's first row, its parameter Query_Name being the

@@ -164,7 +164,7 @@ bool DataSet::moveToKey(const QList<qint64> &key)
             return true;
         }
     }
-    if (d->inMemory || !reader.source().holds(key))
+    if (d->inMemory || !reader.read(&RowSource::holds, key))
         return false;
     beforeMove();
     const bool isNew = holdFound(key, std::nullopt);
@@ -177,12 +177,14 @@ std::vector<Row> DataSet::firstRows(int count) const
     requireOpen();
     const DataSetReader reader(*this);
     if (!d->keysRead && !d->inMemory)
-        return reader.source().firstRows(count);
+        return reader.read(&RowSource::firstRows, count);
     std::vector<Row> rows;
     for (int i = 0; i < std::min(count, recordCount()); ++i)
         rows.push_back(reader.rowAt(i));
     return rows;
 }
+
+void DataSet::onDamage(std::function<void()> mend) { d->mend = std::move(mend); }
 
 // --- finding and restricting -----------------------------------------------------------------------------------
 
@@ -234,8 +236,8 @@ bool DataSet::moveToFirstMatch(const QStringList &fields, const QList<Value> &va
             moveTo(static_cast<int>(found - d->memory.begin()));
             return true;
         }
-        RowSource &source = DataSetReader(*this).source();
-        auto found = source.first(source.match(fields, values, options));
+        const DataSetReader reader(*this);
+        auto found = reader.read(&RowSource::first, reader.source().match(fields, values, options));
         if (!found)
             return false;
         moves = d->current != Current::Known || d->key != found->key;

@@ -68,7 +68,7 @@ public:
     QString text(QStringView name) const { return value(name).toText(); }
     int integer(QStringView name) const { return value(name).toInt(); }
     double number(QStringView name) const { return value(name).toDouble(); }
-    Money money(QStringView name) const { return value(name).toMoney(); }
+    Money money(QStringView name) const; // throws BadValue for an amount beyond the range of money
     bool boolean(QStringView name) const { return value(name).toBool(); }
     QDate date(QStringView name) const { return value(name).toDate(); }
     QString displayText(QStringView name) const;
@@ -113,6 +113,9 @@ public:
     const QString &filter() const { return m_filter; }
     void setFiltered(bool on);
     bool isFiltered() const { return m_filtered; }
+
+    // Called once, when a read finds the store damaged outside a transaction: mends it, and the read is done again.
+    void onDamage(std::function<void()> mend);
 
     // Reads the set anew and stays on the current row; when that is gone, on the one that took its place. An edit in
     // progress is ended first.

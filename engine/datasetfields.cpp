@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <QCoreApplication>
+#include <stdexcept>
 
 namespace Engine {
 
@@ -31,6 +32,18 @@ int DataSet::requireField(QStringView name) const
 
 Field &DataSet::field(QStringView name) { return m_fields[static_cast<size_t>(requireField(name))]; }
 const Field &DataSet::field(QStringView name) const { return m_fields[static_cast<size_t>(requireField(name))]; }
+
+Money DataSet::money(QStringView name) const
+{
+    const Value amount = value(name);
+    try {
+        return amount.toMoney();
+    } catch (const std::range_error &) {
+        throw EngineError(ErrorCode::BadValue,
+                          QCoreApplication::translate("Engine", "%1 holds %2, which is too large for an amount.")
+                              .arg(field(name).caption(), amount.toText()));
+    }
+}
 
 void DataSet::addLookup(const QString &name, FieldType type, int size, Lookup lookup)
 {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "engine/error.h"
 #include "engine/filterexpression.h"
 #include "engine/keylist.h"
 #include "engine/rowsource.h"
 #include "engine/windowcache.h"
+
+#include <functional>
 
 namespace Engine {
 
@@ -16,6 +19,7 @@ struct DataSet::Private
     enum class Current { Unread, Empty, Known };
 
     std::optional<RowSource> source; // of the scope in force
+    std::function<void()> mend;
     KeyList keys;
     bool keysRead = false;
     WindowCache windows;
@@ -83,6 +87,17 @@ public:
     // The condition of an expression over the data fields. Throws BadExpression when it does not fit them.
     SqlCondition condition(const FilterExpression &filter) const;
     RowSource &source() const;
+    // A read of the source: read(&RowSource::keys). Damage is mended, if the set was told how.
+    template <typename Method, typename... Arguments> auto read(Method method, const Arguments &...arguments) const
+    {
+        try {
+            return std::invoke(method, source(), arguments...);
+        } catch (const EngineError &error) {
+            if (!mended(error))
+                throw;
+        }
+        return std::invoke(method, source(), arguments...);
+    }
     void readKeys() const;
     void resolve() const; // makes the current record known, or the set known to be empty
     int index() const; // of the current record, -1 in an empty set
@@ -90,6 +105,7 @@ public:
     const Row &currentRow() const;
 
 private:
+    bool mended(const EngineError &error) const;
     void stayOrTakePlace() const;
 
     const DataSet &m_set;

@@ -31,6 +31,14 @@ RowSource &DataSetReader::source() const
     return *d.source;
 }
 
+bool DataSetReader::mended(const EngineError &error) const
+{
+    if (error.code() != ErrorCode::Corrupt || !d.mend || m_set.m_database.connection().inTransaction())
+        return false;
+    std::exchange(d.mend, {})();
+    return true;
+}
+
 void DataSetReader::readKeys() const
 {
     if (d.keysRead)
@@ -40,7 +48,7 @@ void DataSetReader::readKeys() const
         for (size_t i = 0; i < d.memory.size(); ++i)
             d.keys.append(static_cast<qint64>(i));
     } else {
-        d.keys = source().keys();
+        d.keys = read(&RowSource::keys);
     }
     d.keysRead = true;
     d.windows.clear();
@@ -61,7 +69,7 @@ void DataSetReader::resolve() const
             return d.holdNothing(Current::Empty);
         d.hold(d.keys.at(0), std::nullopt);
     } else {
-        auto found = source().first();
+        auto found = read(&RowSource::first, SqlCondition());
         if (!found)
             return d.holdNothing(Current::Empty);
         d.hold(std::move(found->key), std::move(found->row));
@@ -74,7 +82,7 @@ void DataSetReader::resolve() const
 void DataSetReader::stayOrTakePlace() const
 {
     d.verify = false;
-    if (!d.keysRead && !d.inMemory && source().holds(d.key))
+    if (!d.keysRead && !d.inMemory && read(&RowSource::holds, d.key))
         return;
     readKeys();
     const int count = d.keys.count();
@@ -113,7 +121,7 @@ const Row &DataSetReader::rowAt(int index) const
         return *row;
     const int start = WindowCache::windowStart(index);
     const int count = std::min(WindowCache::rowsPerWindow, d.keys.count() - start);
-    d.windows.insert(index, source().rows(d.keys.slice(start, count)));
+    d.windows.insert(index, read(&RowSource::rows, d.keys.slice(start, count)));
     return *d.windows.row(index);
 }
 
@@ -128,7 +136,7 @@ const Row &DataSetReader::currentRow() const
         return *d.row;
     if (d.index >= 0 && d.keysRead)
         return rowAt(d.index);
-    d.row = source().row(d.key).value_or(d.nullRow);
+    d.row = read(&RowSource::row, d.key).value_or(d.nullRow);
     return *d.row;
 }
 

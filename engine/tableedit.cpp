@@ -64,8 +64,8 @@ std::optional<Key> Table::storedKey(const Row &row) const
     QList<Value> values;
     for (const QString &name : names)
         values << row[static_cast<size_t>(requireField(name))];
-    const RowSource &source = DataSetReader(*this).source();
-    const auto found = source.first(source.match(names, values, LocateOption::None));
+    const DataSetReader reader(*this);
+    const auto found = reader.read(&RowSource::first, reader.source().match(names, values, LocateOption::None));
     return found ? std::optional(found->key) : std::nullopt;
 }
 
@@ -123,7 +123,7 @@ void Table::readForEdit()
     edit->lock = lockForEdit(shown);
     const bool found = findAgain(shown);
     edit->key = currentKey();
-    auto stored = found && !edit->key.isEmpty() ? reader.source().row(edit->key) : std::nullopt;
+    auto stored = found && !edit->key.isEmpty() ? reader.read(&RowSource::row, edit->key) : std::nullopt;
     if (!stored) {
         throw EngineError(
             ErrorCode::RecordGone,

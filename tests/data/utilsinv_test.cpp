@@ -6,6 +6,7 @@
 #include "tests/support/failures.h"
 
 #include <gtest/gtest.h>
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -178,6 +179,41 @@ TEST_P(Tables, OpeningFailsWithTheTablesName)
     Engine::Query query(store.database(), u"SELECT * FROM Nowhere"_s);
     EXPECT_TRUE(errorOf([&] { openQuery(query); }, &text));
     EXPECT_TRUE(text.startsWith(u"Query: Unknown or unexpected database engine error #"_s)) << text.toStdString();
+}
+
+TEST(DamagedTable, IsMendedWhenItsFirstReadFindsTheDamage)
+{
+    TestStore store(Store::Local);
+    store.database().createTable(Layouts::tax());
+    store.execute(
+        u"INSERT INTO Tax (TaxID, TaxName) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+        "WHERE i < 2000) SELECT i, 'Tax number ' || i FROM n"_s);
+    const QStringList page =
+        store
+            .rows(u"SELECT (pageno - 1) * pgsize, ncell, pgsize FROM dbstat WHERE name = 'Tax' "
+                  "AND pagetype = 'leaf' ORDER BY path LIMIT 1 OFFSET 3"_s)
+            .value(0)
+            .split(u'|');
+    ASSERT_EQ(page.size(), 3);
+    store.database().close();
+    QFile file(store.directory() + "/Corvane.sqlite"_L1);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(page[0].toLongLong()));
+    file.write(QByteArray(page[2].toInt(), '\xEE'));
+    file.close();
+
+    const auto other = store.anotherUser();
+    Engine::Table held(other->database, u"Tax"_s);
+    held.open();
+    Engine::Table tax(store.database(), u"Tax"_s);
+    openTable(tax);
+    QString text;
+    EXPECT_EQ(errorOf([&] { tax.recordCount(); }, &text), ErrorCode::TableInUse);
+    EXPECT_TRUE(text.contains("restore the last backup"_L1)) << text.toStdString();
+    held.close();
+    tax.close();
+    openTable(tax);
+    EXPECT_EQ(tax.recordCount(), 2000 - page[1].toInt());
+    EXPECT_EQ(store.rows(u"SELECT integrity_check FROM pragma_integrity_check"_s), QStringList(u"ok"_s));
 }
 
 // A form or a data module, as far as its tables are concerned.

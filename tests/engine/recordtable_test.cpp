@@ -267,6 +267,17 @@ TEST_P(RecordTest, LookupsAndCalculatedFieldsComeWithTheRow)
     EXPECT_EQ(documents.text(u"Title"), u"2:apple"_s);
 }
 
+TEST_P(RecordTest, AnAmountThatNoMoneyHoldsIsToldByItsField)
+{
+    store.execute(u"INSERT INTO Vendor (VendorID, Balance) VALUES (1, 1e300)"_s);
+    Table table(database(), u"Vendor"_s);
+    table.open();
+    table.field(u"Balance").label = u"Open balance"_s;
+    QString text;
+    EXPECT_EQ(errorOf([&] { table.money(u"Balance"); }, &text), ErrorCode::BadValue);
+    EXPECT_TRUE(text.startsWith("Open balance"_L1)) << text.toStdString();
+}
+
 TEST_P(RecordTest, RefreshStaysOnTheRowOrOnWhatTookItsPlace)
 {
     addVendors();
