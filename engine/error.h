@@ -45,6 +45,8 @@ public:
     }
 
     ErrorCode code() const { return m_code; }
+    // Whether the store itself is gone, so that nothing else will work either.
+    bool isStoreLost() const { return m_code == ErrorCode::ConnectionLost || m_code == ErrorCode::FileReplaced; }
     const QString &text() const { return m_text; }
     const QString &driverText() const { return m_driverText; }
     const char *what() const noexcept override { return m_what.constData(); }

@@ -126,6 +126,8 @@ void PostgresLocks::reconnected()
 bool PostgresLocks::changeOpen(const QString &table, OpenMode from, OpenMode to)
 {
     const QList<qint64> numbers{openNumber(table), 0};
+    if (from == OpenMode::Exclusive && m_connection.isLost())
+        return true; // open tables are taken again with the next connection
     if (to != OpenMode::None && !ask(to == OpenMode::Shared ? lockShared : lockAlone, numbers))
         return false;
     if (from != OpenMode::None)

@@ -77,6 +77,8 @@ QString ItemSync::updateLinked(qint64 &updated) const
     try {
         updated = connection.prepare(queryUpdateItemFromItems(connection.dialect()))->execute();
     } catch (const EngineError &error) {
+        if (error.isStoreLost())
+            throw;
         qCDebug(trace) << "Items keep their values:" << error.text() << error.driverText();
         return error.text();
     }
@@ -133,6 +135,8 @@ bool ItemSync::changeCounter(const CounterRule &rule) const
         takeNumbers(m_database, Layouts::itemCtl().name, rule);
         return true;
     } catch (const EngineError &error) {
+        if (error.isStoreLost())
+            throw;
         qCDebug(trace) << "The item counter stays as it is:" << error.text() << error.driverText();
         return false;
     }
