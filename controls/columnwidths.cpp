@@ -13,8 +13,11 @@ QString columnWidths(const DataGrid &grid)
 {
     QStringList widths;
     const QList<GridColumn> &columns = grid.tableModel()->columns();
-    for (int i = 0; i + 1 < columns.size(); ++i)
+    for (int i = 0; i < columns.size(); ++i) {
+        if (i == grid.surplusColumn())
+            continue;
         widths << columns[i].field + u'=' + QString::number(grid.columnWidth(i) / fontFactor(&grid), 'f', 2);
+    }
     return widths.join(u' ');
 }
 
@@ -25,7 +28,7 @@ void setColumnWidths(DataGrid &grid, const QString &text)
     for (const QString &width : widths) {
         const int column = grid.tableModel()->columnOf(width.section(u'=', 0, 0));
         const double pixels = width.section(u'=', 1).toDouble();
-        if (column >= 0 && pixels >= 1 && pixels <= widest)
+        if (column >= 0 && column != grid.surplusColumn() && pixels >= 1 && pixels <= widest)
             grid.setColumnWidth(column, qRound(pixels * fontFactor(&grid)));
     }
 }

@@ -32,7 +32,6 @@ DataGrid::DataGrid(QWidget *parent)
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + scaled(this, rowPadding));
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsMovable(false);
-    horizontalHeader()->setStretchLastSection(true);
 }
 
 void DataGrid::showModel(TableModel *model)
@@ -40,8 +39,16 @@ void DataGrid::showModel(TableModel *model)
     m_model = model;
     setModel(model);
     const QList<GridColumn> &columns = model->columns();
-    for (int i = 0; i < columns.size(); ++i)
+    m_surplusColumn = static_cast<int>(columns.size()) - 1;
+    for (int i = 0; i < columns.size(); ++i) {
         setColumnWidth(i, scaled(this, columns[i].width));
+        if (columns[i].takesSurplus)
+            m_surplusColumn = i;
+    }
+    const bool last = m_surplusColumn + 1 == columns.size();
+    horizontalHeader()->setStretchLastSection(last);
+    if (!last)
+        horizontalHeader()->setSectionResizeMode(m_surplusColumn, QHeaderView::Stretch);
 }
 
 int DataGrid::fullWidth() const

@@ -17,6 +17,7 @@ public:
     TableModel *tableModel() const { return m_model; }
     // The width that shows all columns, with frame and scroll bar.
     int fullWidth() const;
+    int surplusColumn() const { return m_surplusColumn; } // takes the width that the others leave over
     int heightForRows(int rows) const;
 
     // What an empty grid shows instead of rows.
@@ -32,6 +33,7 @@ private:
     void paintHint(const QString &hint);
 
     TableModel *m_model = nullptr;
+    int m_surplusColumn = -1;
     QString m_hint;
 };
 

@@ -353,11 +353,23 @@ void DocumentEntry::chooseItemByNumber(const QString &itemNo)
         m_lines.set(u"ItemID", {});
         return;
     }
-    const Value itemId =
-        Engine::singleValue(database(), u"SELECT ItemID FROM Item WHERE ItemNo = ? ORDER BY ItemID"_s, {itemNo});
+    const Value itemId = itemOfNumber(itemNo);
     if (itemId.isNull())
         throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), u"ItemNo"_s);
     m_lines.set(u"ItemID", itemId);
+}
+
+// As typed, or else without regard to letter case.
+Value DocumentEntry::itemOfNumber(const QString &itemNo) const
+{
+    const Value exact =
+        Engine::singleValue(database(), u"SELECT ItemID FROM Item WHERE ItemNo = ? ORDER BY ItemID"_s, {itemNo});
+    if (!exact.isNull())
+        return exact;
+    Engine::Table items(database(), u"Item"_s);
+    items.open();
+    return items.locate(u"ItemNo"_s, {itemNo}, Engine::LocateOption::CaseInsensitive) ? items.value(u"ItemID")
+                                                                                      : Value();
 }
 
 void DocumentEntry::newLine() { m_lines.append(); }

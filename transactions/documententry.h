@@ -76,7 +76,8 @@ public:
     void setLineColumn(const QString &field) { m_lineColumn = field; }
     // Puts the item into the current line, putting that into edit.
     void chooseItem(int itemId);
-    // The same by a typed item number; an empty text clears the item. Raises when there is no such item.
+    // The same by a typed item number, in which letter case is second to a number found as typed; an empty text clears
+    // the item. Raises when there is no such item.
     void chooseItemByNumber(const QString &itemNo);
     void newLine(); // appends a line
     void removeLine(); // deletes the current line; a line being entered is dropped
@@ -133,6 +134,7 @@ private:
     int highestSeq() const;
     QString lineName() const;
     void saveLine();
+    Engine::Value itemOfNumber(const QString &itemNo) const; // null when there is none
     void validateItem(const Engine::Value &itemId) const;
     void restoreLines();
     void beginVisit();

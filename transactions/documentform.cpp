@@ -33,8 +33,10 @@ DocumentScreen::~DocumentScreen()
     m_entry->header().disconnect(this);
 }
 
-void DocumentScreen::buildDocument(const QList<GridColumn> &columns, const LineOptions &options)
+void DocumentScreen::buildDocument(QList<GridColumn> columns, const LineOptions &options)
 {
+    for (GridColumn &column : columns)
+        column.takesSurplus = column.field == descriptionColumn;
     m_grid = findChild<LineGrid *>(u"DBGrid1"_s);
     m_posted = findChild<QLabel *>(u"lblPosted"_s);
     binder().bind(m_entry->header());

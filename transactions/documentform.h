@@ -30,7 +30,7 @@ protected:
 
     // Called once by the constructor of a screen, after its form has been set up: binds the header's widgets and
     // the grid "DBGrid1", which shows the columns, and the label "lblPosted".
-    void buildDocument(const QList<GridColumn> &columns, const LineOptions &options = {});
+    void buildDocument(QList<GridColumn> columns, const LineOptions &options = {});
 
     DocumentEntry &entry() const { return *m_entry; }
     LineGrid *grid() const { return m_grid; }

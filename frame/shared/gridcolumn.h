@@ -15,6 +15,7 @@ struct GridColumn
     // Line grids: the field that an entry changes, where that is not the one shown (a looked-up name). Messages
     // that name either field lead to the column.
     QString dataField = {};
+    bool takesSurplus = false; // the width that the others leave over; the last column does where none is named
 
     bool shows(const QString &name) const
     {

@@ -220,6 +220,12 @@ TEST_P(Entry, ItemsAreJudgedByTheColumnTheyComeFrom)
               u"Item not found...\nPress Esc or enter a different item no -> ItemNo");
     entry.chooseItemByNumber(u"B1"_s);
     EXPECT_EQ(entry.lines().text(u"ItemDescription"), u"apricots");
+    // Letter case counts only between numbers that differ in nothing else.
+    entry.chooseItemByNumber(u"a11"_s);
+    EXPECT_EQ(entry.lines().text(u"ItemDescription"), u"Bread");
+    kitchen.execute(u"INSERT INTO Item (ItemID, ItemNo, ItemDescription) VALUES (5, 'a11', 'small')"_s);
+    entry.chooseItemByNumber(u"a11"_s);
+    EXPECT_EQ(entry.lines().text(u"ItemDescription"), u"small");
 }
 
 TEST_P(Entry, VendorsAreChosenByNumberOrFromTheList)
@@ -236,6 +242,15 @@ TEST_P(Entry, VendorsAreChosenByNumberOrFromTheList)
     EXPECT_EQ(entry.header().text(u"VendorNo"), u"V2");
     entry.chooseVendorByNumber({});
     EXPECT_TRUE(entry.header().value(u"VendorID").isNull());
+
+    entry.cancel();
+    kitchen.addReceipt(7, 1, 1, {{1, 1, 1}});
+    ASSERT_TRUE(entry.openDocument(7));
+    entry.chooseVendorByNumber(u"V1"_s);
+    EXPECT_NE(refusalOf([&] { entry.chooseVendorByNumber(u"V9"_s); }), QString());
+    EXPECT_FALSE(entry.header().isEditing()) << "nothing to take over";
+    entry.chooseVendorByNumber(u"V2"_s);
+    EXPECT_TRUE(entry.header().isModified());
 }
 
 TEST_P(Entry, CancelBringsTheLinesBack)

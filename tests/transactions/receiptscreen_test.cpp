@@ -2,6 +2,7 @@
 #include "controls/listgrid.h"
 #include "controls/lookupcombobox.h"
 #include "controls/screenmetrics.h"
+#include "data/utilsinv.h"
 #include "master/itemsearchinvform.h"
 #include "tests/transactions/screentest.h"
 #include "transactions/documentkinds.h"
@@ -9,6 +10,7 @@
 #include "transactions/invreceiptform.h"
 
 #include <QAction>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -370,6 +372,21 @@ TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
     settle();
     EXPECT_FALSE(screen);
     EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_F(ReceiptScreenTest, surplusWidthGoesToTheDescription)
+{
+    settings.write(formSetting(u"frmInvReceipt"_s), u"DBGrid1"_s, u"ItemDescription=60 UnitCost=150"_s);
+    context->settings = &settings;
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    open(7);
+    const int description = grid->columnWidth(2);
+    EXPECT_EQ(grid->columnWidth(3), scaled(grid, 150));
+    EXPECT_EQ(grid->horizontalHeader()->length(), grid->viewport()->width());
+    screen->resize(screen->width() + 200, screen->height());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(grid->columnWidth(2), description + 200);
+    EXPECT_EQ(grid->columnWidth(3), scaled(grid, 150));
 }
 
 TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
