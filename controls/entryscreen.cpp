@@ -103,12 +103,11 @@ void EntryScreen::btnOKClick()
 
 void EntryScreen::btnCancelClick()
 {
-    const bool dropped = m_guard.run([this] {
+    m_guard.run([this] {
         const WaitCursor hourglass;
         dropChanges();
     });
-    if (dropped)
-        leave();
+    leave(); // whatever has been told: a store out of reach must not keep the screen open
 }
 
 void EntryScreen::btnHelpClick() { m_context.showHelp(objectName()); }
@@ -128,7 +127,8 @@ bool EntryScreen::settleChanges()
     case Answer::Yes:
         return m_guard.run([this] { saveAndReport(); });
     case Answer::No:
-        return m_guard.run([this] { dropChanges(); });
+        m_guard.run([this] { dropChanges(); });
+        return true;
     case Answer::Cancel:
         break;
     }

@@ -96,6 +96,7 @@ bool DocumentEntry::openDocument(int key)
 void DocumentEntry::beginVisit()
 {
     m_wasSaved = false;
+    m_lockWasLost = false;
     m_keptLines.reset();
 }
 
@@ -110,9 +111,13 @@ void DocumentEntry::hookHeader()
     m_header.events.beforePost = [this] { checkHeader(); };
     m_header.events.afterPost = [this] {
         m_wasSaved = true;
+        m_lockWasLost = false;
         m_keptLines.reset();
     };
-    m_header.events.afterCancel = [this] { m_keptLines.reset(); };
+    m_header.events.afterCancel = [this] {
+        m_lockWasLost = false;
+        m_keptLines.reset();
+    };
 }
 
 void DocumentEntry::newHeader()
@@ -236,13 +241,28 @@ void DocumentEntry::hookLines()
         lineChanging(LineChange::Insert);
     };
     m_lines.events.beforeEdit = [this] { beginLineChange(LineChange::Edit); };
-    m_lines.events.beforeRemove = [this] { beginLineChange(LineChange::Remove); };
+    m_lines.events.beforeRemove = [this] {
+        beginLineChange(LineChange::Remove);
+        m_removedSeq = m_lines.integer(u"Seq");
+        m_keptLines->changing(m_removedSeq, {});
+    };
     m_lines.events.beforePost = [this] {
+        holdDocument();
         checkLine();
         numberLine();
+        if (m_keptLines)
+            m_keptLines->changing(m_lines.integer(u"Seq"), currentLine());
     };
-    m_lines.events.afterPost = [this] { lineSaved(); };
-    m_lines.events.afterRemove = [this] { lineRemoved(); };
+    m_lines.events.afterPost = [this] {
+        if (m_keptLines)
+            m_keptLines->changed(m_lines.integer(u"Seq"), currentLine());
+        lineSaved();
+    };
+    m_lines.events.afterRemove = [this] {
+        if (m_keptLines)
+            m_keptLines->changed(m_removedSeq, {});
+        lineRemoved();
+    };
 }
 
 // The lines are locked with their header. Only what is read from then on is sure to be what is stored.
@@ -250,13 +270,49 @@ void DocumentEntry::lockLines()
 {
     if (!m_header.isEditing())
         m_header.edit();
+    holdDocument();
     if (m_keptLines)
         return;
     m_lines.refresh();
     std::vector<Engine::Row> stored;
     for (int i = 0; i < m_lines.recordCount(); ++i)
         stored.push_back(m_lines.rowAt(i));
-    m_keptLines = std::move(stored);
+    m_keptLines.emplace(m_lines, std::move(stored));
+}
+
+// A lost connection has taken the lock of the header with it, and so of the lines. It is taken again, but whoever has
+// changed the document meanwhile goes first.
+void DocumentEntry::holdDocument()
+{
+    if (m_header.holdRecord())
+        m_lockWasLost = true;
+    if (!m_lockWasLost)
+        return;
+    if (m_keptLines && !m_keptLines->accountsFor(storedLines()))
+        throw RuleError(tr("Another user has changed the lines of this document while the connection was lost. "
+                           "Cancel, and make your changes again."),
+                        LineGrid);
+    m_lockWasLost = false;
+}
+
+std::vector<Engine::Row> DocumentEntry::storedLines() const
+{
+    Engine::Table stored(database(), m_kind.lineTable);
+    stored.setIndex(m_kind.keyField + ";Seq"_L1);
+    stored.open();
+    stored.setRange({key()}, {key()});
+    std::vector<Engine::Row> rows;
+    for (int i = 0; i < stored.recordCount(); ++i)
+        rows.push_back(stored.rowAt(i));
+    return rows;
+}
+
+Engine::Row DocumentEntry::currentLine() const
+{
+    Engine::Row row;
+    for (int i = 0; i < m_lines.fieldCount(); ++i)
+        row.push_back(m_lines.value(i));
+    return row;
 }
 
 // What the user wants done to the line that he sees must not be done to the one that has come into its place. The
@@ -386,6 +442,8 @@ void DocumentEntry::removeLine()
 
 void DocumentEntry::save()
 {
+    if (m_header.isEditing())
+        holdDocument();
     try {
         if (m_header.isEditing())
             m_header.post();
@@ -416,21 +474,73 @@ void DocumentEntry::cancel()
 {
     if (!m_header.isEditing())
         return;
-    if (m_lines.isEditing())
-        m_lines.cancel();
+    try {
+        if (m_lines.isEditing())
+            m_lines.cancel();
+    } catch (const Engine::EngineError &) {
+        // It is dropped. What follows cannot be shown, for want of a connection.
+    }
     if (m_keptLines)
-        restoreLines();
+        takeBackLines();
     m_header.cancel();
+}
+
+// The visit ends, whatever comes of this.
+void DocumentEntry::takeBackLines()
+{
+    bool connectedAgain = false;
+    for (;;) {
+        try {
+            if (isStoredAlready())
+                return m_prompts.warn(tr("The document had been saved before the connection was lost. It stays."));
+            holdDocument();
+            return restoreLines();
+        } catch (const RuleError &) {
+            break; // others have been at the lines
+        } catch (const Engine::EngineError &error) {
+            if (error.code() == ErrorCode::RecordChanged || error.code() == ErrorCode::RecordGone)
+                break;
+            // The first statement after a loss notices it, the next one connects again.
+            if (error.code() == ErrorCode::ConnectionLost && !std::exchange(connectedAgain, true))
+                continue;
+            if (!m_prompts.retry(
+                    tr("Your changes to the lines could not be taken back:\n%1\n\nUnless that is tried "
+                       "again, they stay stored. %2")
+                        .arg(error.text(), m_keptLines->summary())))
+                return;
+        }
+    }
+    m_prompts.warn(
+        tr("Another user has changed, posted or deleted the document while the connection was lost. What "
+           "that user has saved is stored; nothing of it was taken back. Your own changes were: %1")
+            .arg(m_keptLines->summary()));
+}
+
+// The answer to the saving may be all that was lost.
+bool DocumentEntry::isStoredAlready() const
+{
+    return m_header.state() == Engine::TableState::Insert && exists(m_kind.headerTable, m_kind.keyField, key());
 }
 
 void DocumentEntry::restoreLines()
 {
     const Engine::Table::Events checks = std::exchange(m_lines.events, {});
     const auto hookAgain = qScopeGuard([&] { m_lines.events = checks; });
+    m_keptLines->restoring();
+    try {
+        writeKeptLines();
+    } catch (...) {
+        m_lines.cancel();
+        throw;
+    }
+    m_lines.flush();
+}
 
+void DocumentEntry::writeKeptLines()
+{
     Engine::Transaction transaction(database().connection());
     m_lines.removeAll();
-    for (const Engine::Row &kept : std::as_const(*m_keptLines)) {
+    for (const Engine::Row &kept : m_keptLines->rows()) {
         if (kept[static_cast<size_t>(m_lines.fieldIndex(u"Seq"))].toInt() == 0)
             continue;
         m_lines.append();
@@ -438,7 +548,6 @@ void DocumentEntry::restoreLines()
         m_lines.post();
     }
     transaction.commit();
-    m_lines.flush();
 }
 
 void DocumentEntry::restoreLine(const Engine::Row &kept)
@@ -452,10 +561,19 @@ DocumentEntry::Closing DocumentEntry::closing() const
 {
     if (!m_header.isEditing() && !m_lines.isEditing())
         return Closing::Free;
-    const bool touched = m_header.isModified() || m_lines.isModified() || !m_lines.isEmpty();
-    if (m_header.state() == Engine::TableState::Insert && !touched)
-        return Closing::Drop;
-    return Closing::Ask;
+    if (m_header.state() != Engine::TableState::Insert)
+        return Closing::Ask;
+    return m_header.isModified() || m_lines.isModified() || hasLines() ? Closing::Ask : Closing::Drop;
+}
+
+// As far as can be told without a connection.
+bool DocumentEntry::hasLines() const
+{
+    try {
+        return !m_lines.isEmpty();
+    } catch (const Engine::EngineError &) {
+        return m_keptLines.has_value();
+    }
 }
 
 } // namespace Tallymere

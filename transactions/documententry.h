@@ -4,6 +4,7 @@
 #include "engine/table.h"
 #include "frame/shared/prompts.h"
 #include "transactions/documentkind.h"
+#include "transactions/linecopy.h"
 
 #include <functional>
 #include <optional>
@@ -59,7 +60,8 @@ public:
     // Saves what is being edited: header and line, after their checks. Raises RuleError, with both left in edit,
     // when one of them refuses.
     void save();
-    // Drops the changes of this visit. Lines are as they were when it began, with their former numbers.
+    // Drops the changes of this visit and ends it. Lines are as they were when it began, with their former numbers.
+    // Where a lost connection or somebody else stands in the way of that, the user is told what is stored.
     void cancel();
 
     // What closing the screen by other means than OK and Cancel has to do.
@@ -129,14 +131,21 @@ private:
     void checkPeriod();
 
     void lockLines();
+    void holdDocument();
+    std::vector<Engine::Row> storedLines() const;
     void beginLineChange(LineChange change);
+    Engine::Row currentLine() const;
     void numberLine();
     int highestSeq() const;
     QString lineName() const;
     void saveLine();
     Engine::Value itemOfNumber(const QString &itemNo) const; // null when there is none
     void validateItem(const Engine::Value &itemId) const;
+    bool hasLines() const;
+    void takeBackLines();
+    bool isStoredAlready() const;
     void restoreLines();
+    void writeKeptLines();
     void beginVisit();
 
     const DocumentKind &m_kind;
@@ -146,7 +155,9 @@ private:
 
     int m_nextSeq = 1;
     bool m_wasSaved = false;
-    std::optional<std::vector<Engine::Row>> m_keptLines; // as stored when the lock was taken; goes with the lock
+    std::optional<LineCopy> m_keptLines; // as stored when the lock was taken; goes with the lock
+    bool m_lockWasLost = false; // and who has been at the lines meanwhile is not known yet
+    int m_removedSeq = 0; // the line that is being deleted
     QString m_lineColumn;
     QString m_givenNumber;
 };

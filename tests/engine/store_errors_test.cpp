@@ -1,6 +1,7 @@
 #include "engine/groupedwrites.h"
 #include "engine/locks.h"
 #include "engine/platform.h"
+#include "engine/table.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/smalldisk.h"
 
@@ -247,7 +248,7 @@ protected:
         const auto other = store.anotherUser(u"keeper"_s);
         other->database.connection().execute(
             u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = "
-            "current_database() AND pid <> pg_backend_pid()"_s);
+            "current_database() AND application_name LIKE 'maria@%'"_s);
     }
     qint64 count()
     {
@@ -297,6 +298,57 @@ TEST_F(ConnectionLostTest, LostRecordLocksAreNotBelievedIn)
     connection.locks().unlockRecord(u"T"_s, {1});
     EXPECT_EQ(count(), 0);
     EXPECT_TRUE(connection.locks().tryLockRecord(u"T"_s, {1}));
+}
+
+TEST_F(ConnectionLostTest, AnEditIsSavedUnlessSomebodyHasBeenAtTheRecord)
+{
+    store.database().createTable({u"R"_s,
+                                  {{u"ID"_s, FieldType::Integer, 0}, {u"B"_s, FieldType::Integer, 0}},
+                                  {{u""_s, u"ID"_s, IndexOption::Primary}}});
+    store.execute(u"INSERT INTO R VALUES (1, 0), (2, 0)"_s);
+    store.session().lockAttempts = 1;
+    const auto anna = store.anotherUser(u"anna"_s);
+    const auto annas = [&](const char *sql) { anna->database.connection().execute(QString::fromLatin1(sql)); };
+    const auto holds = [&](const QList<qint64> &key) {
+        const bool free = anna->database.connection().locks().tryLockRecord(u"R"_s, key);
+        if (free)
+            anna->database.connection().locks().unlockRecord(u"R"_s, key);
+        return !free;
+    };
+    Table one(store.database(), u"R"_s);
+    Table two(store.database(), u"R"_s);
+    const auto beginBoth = [&] {
+        for (Table *table : {&one, &two}) {
+            table->cancel();
+            table->open();
+        }
+        one.findKey({1});
+        two.findKey({2});
+        one.edit();
+        two.edit();
+        one.set(u"B", one.integer(u"B") + 1);
+        cut();
+        EXPECT_EQ(errorOf([&] { one.post(); }), ErrorCode::ConnectionLost);
+    };
+    beginBoth();
+    one.post(); // also with the other one still in edit
+    EXPECT_FALSE(holds({2}));
+    two.set(u"B", 9);
+    two.post();
+    EXPECT_EQ(store.rows(u"SELECT B FROM R ORDER BY ID"_s), (QStringList{u"1"_s, u"9"_s}));
+
+    beginBoth();
+    annas("UPDATE R SET B = 50 WHERE ID = 1");
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(errorOf([&] { one.post(); }), ErrorCode::RecordChanged);
+    EXPECT_FALSE(holds({1}));
+    beginBoth();
+    ASSERT_TRUE(anna->database.connection().locks().tryLockRecord(u"R"_s, {1}));
+    EXPECT_EQ(errorOf([&] { one.post(); }), ErrorCode::RecordLocked);
+    anna->database.connection().locks().unlockRecord(u"R"_s, {1});
+    annas("DELETE FROM R WHERE ID = 1");
+    EXPECT_EQ(errorOf([&] { one.post(); }), ErrorCode::RecordGone);
+    EXPECT_EQ(store.rows(u"SELECT ID, B FROM R"_s), QStringList(u"2|9"_s));
 }
 
 TEST_F(ConnectionLostTest, ReadingStopsWithAnError)

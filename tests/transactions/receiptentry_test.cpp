@@ -1,5 +1,6 @@
 #include "transactions/receiptentry.h"
 
+#include "engine/locks.h"
 #include "tests/support/failures.h"
 #include "tests/transactions/kitchen.h"
 
@@ -426,6 +427,162 @@ TEST_P(Entry, AReceiptBeingEditedIsLockedForOthers)
     theirs.cancel();
     theirs.lines().edit();
     EXPECT_EQ(errorOf([&] { entry.lines().edit(); }, &text), ErrorCode::RecordLocked);
+}
+
+// On a server a connection can be lost with a document in edit.
+class EntryOnAServer : public testing::Test
+{
+protected:
+    EntryOnAServer()
+    {
+        kitchen.session().lockAttempts = 1;
+        kitchen.addReceipt(7, 1, 1, {{1, 5, 1}, {2, 6, 1}});
+        begin();
+    }
+    void begin()
+    {
+        entry.reset();
+        entry = std::make_unique<ReceiptEntry>(kitchen.database(), prompts);
+        entry->open();
+        ASSERT_TRUE(entry->openDocument(7));
+    }
+    void change(int line, double quantity)
+    {
+        entry->lines().first();
+        for (; line > 1; --line)
+            entry->lines().next();
+        entry->lines().edit();
+        entry->lines().set(u"QtyReceived", quantity);
+        entry->lines().post();
+    }
+    void enterLine()
+    {
+        entry->newLine();
+        entry->lines().set(u"QtyReceived", 3.0);
+        entry->chooseItem(1);
+        entry->lines().set(u"UnitCost", 1.0);
+    }
+    void cut()
+    {
+        anna->database.connection().execute(
+            u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = current_database() AND "
+            "pid <> pg_backend_pid()"_s);
+    }
+    QStringList stored()
+    {
+        const Engine::StatementPtr rows =
+            anna->database.connection().prepare(u"SELECT QtyReceived FROM IRecDet ORDER BY Seq"_s);
+        QStringList lines;
+        while (rows->next())
+            lines << rows->textAt(0);
+        return lines;
+    }
+    bool isFree()
+    {
+        Engine::LockManager &locks = anna->database.connection().locks();
+        const bool free = locks.tryLockTable(u"IReceipt"_s);
+        if (free)
+            locks.unlockTable(u"IReceipt"_s);
+        return free;
+    }
+
+    Kitchen kitchen{Store::Remote};
+    std::unique_ptr<TestUser> anna = kitchen.anotherUser();
+    SpokenPrompts prompts;
+    std::unique_ptr<ReceiptEntry> entry;
+};
+
+TEST_F(EntryOnAServer, CancelBringsTheLinesBackOverANewConnection)
+{
+    const QStringList before{u"5"_s, u"6"_s};
+    for (const bool inEdit : {false, true}) {
+        for (const bool noticed : {false, true}) {
+            SCOPED_TRACE(inEdit);
+            change(1, 50);
+            entry->lines().last();
+            entry->removeLine();
+            if (inEdit)
+                enterLine();
+            cut();
+            if (noticed) {
+                EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
+            }
+            entry->cancel();
+            EXPECT_EQ(stored(), before);
+            EXPECT_EQ(prompts.take(), QStringList());
+            EXPECT_EQ(entry->closing(), DocumentEntry::Closing::Free);
+            EXPECT_TRUE(isFree());
+        }
+    }
+    entry->newDocument();
+    enterLine();
+    entry->lines().post();
+    cut();
+    entry->cancel();
+    EXPECT_EQ(stored(), before) << "the new one's line is gone";
+}
+
+TEST_F(EntryOnAServer, WhatOthersDoMeanwhileIsNotOverwrittenAndTold)
+{
+    const struct
+    {
+        const char *meanwhile;
+        QStringList stays;
+    } cases[] = {
+        {"UPDATE IReceipt SET Posted = true", {u"50"_s, u"6"_s}},
+        {"UPDATE IRecDet SET QtyReceived = 60 WHERE Seq = 2", {u"50"_s, u"60"_s}},
+        {"INSERT INTO IRecDet (ReceiptID, Seq, QtyReceived) VALUES (7, 3, 8)", {u"50"_s, u"6"_s, u"8"_s}},
+        {"DELETE FROM IReceipt", {u"50"_s, u"6"_s}},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.meanwhile);
+        change(1, 50);
+        cut();
+        EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
+        anna->database.connection().execute(QString::fromLatin1(c.meanwhile));
+        QString refusal;
+        EXPECT_TRUE(errorOf([&] { refusal = refusalOf([&] { entry->save(); }); }) || !refusal.isEmpty());
+        entry->cancel();
+        EXPECT_EQ(stored(), c.stays);
+        EXPECT_TRUE(prompts.last().contains(u"Lines changed: 1."_s)) << prompts.last().toStdString();
+        EXPECT_EQ(entry->closing(), DocumentEntry::Closing::Free);
+        anna->database.connection().execute(
+            u"DELETE FROM IRecDet; DELETE FROM IReceipt; INSERT INTO IReceipt (ReceiptID, VendorID, WarehouseID, "
+            "GLYear, GLPeriod) VALUES (7, 1, 1, 2026, 3); INSERT INTO IRecDet (ReceiptID, Seq, ItemID, "
+            "QtyReceived, "
+            "UnitCost) VALUES (7, 1, 1, 5, 1), (7, 2, 2, 6, 1)"_s);
+        begin();
+    }
+    // Somebody is at it now: what has been entered can be taken back once he is through.
+    change(1, 50);
+    cut();
+    Engine::LockManager &locks = anna->database.connection().locks();
+    ASSERT_TRUE(locks.tryLockRecord(u"IReceipt"_s, {7}));
+    prompts.take();
+    prompts.retries = 1;
+    prompts.onRetry = [&] { locks.unlockRecord(u"IReceipt"_s, {7}); };
+    entry->cancel();
+    EXPECT_TRUE(prompts.last().contains(u"is being edited by another user (anna on"_s))
+        << prompts.last().toStdString();
+    EXPECT_EQ(stored(), (QStringList{u"5"_s, u"6"_s}));
+}
+
+TEST_F(EntryOnAServer, OKWorksAgain)
+{
+    entry->header().edit();
+    entry->header().set(u"PurchaseOrderNo", u"P1"_s);
+    cut();
+    EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
+    entry->save();
+    change(1, 50);
+    cut();
+    EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
+    entry->lines().last();
+    entry->removeLine();
+    entry->save();
+    EXPECT_EQ(stored(), QStringList(u"50"_s));
+    EXPECT_EQ(kitchen.text(u"SELECT PurchaseOrderNo FROM IReceipt"_s), u"P1"_s);
+    EXPECT_TRUE(isFree());
 }
 
 } // namespace
