@@ -3,6 +3,7 @@
 #include "engine/postgreslink.h"
 #include "engine/reservedwords.h"
 
+#include <algorithm>
 #include <chrono>
 #include <libpq-fe.h>
 #include <QCoreApplication>
@@ -68,8 +69,8 @@ Parameters parametersOf(const PostgresTarget &target)
 
 void ignoreNotice(void *, const PGresult *) { }
 
-// Waits for the server without trusting every address of it to answer in time.
-bool awaitConnection(pg_conn *handle)
+// Waits for the server without trusting every address of it to answer in time. Tells how far it came before a failure.
+bool awaitConnection(pg_conn *handle, ConnStatusType *stage)
 {
     const auto deadline = std::chrono::steady_clock::now() + connectTimeout;
     PostgresPollingStatusType state = PGRES_POLLING_WRITING;
@@ -78,13 +79,52 @@ bool awaitConnection(pg_conn *handle)
             std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
         if (left.count() <= 0 || !waitForSocket(PQsocket(handle), state == PGRES_POLLING_WRITING, left))
             return false;
+        *stage = PQstatus(handle);
         state = PQconnectPoll(handle);
     }
     return state == PGRES_POLLING_OK;
 }
 
+// Names and numbers of machines, or a folder of sockets. Whole connection strings are not taken for an address: they
+// may hold a password, which would come up in messages.
+bool isAddress(const QString &host)
+{
+    return !host.contains("//"_L1) && std::all_of(host.begin(), host.end(), [](QChar c) {
+        return c.isLetterOrNumber() || u".:-_,/%[]"_s.contains(c);
+    });
+}
+
+// Why connecting failed where the server itself has not told it.
+EngineError unreached(pg_conn *handle, const PostgresTarget &target, ConnStatusType stage, const QString &message)
+{
+    const QString reason = message.isEmpty()
+        ? QCoreApplication::translate("Engine", "no answer within %n second(s)", nullptr,
+                                      static_cast<int>(connectTimeout.count()))
+        : message.section(u'\n', 0, 0);
+    if (handle && PQconnectionNeedsPassword(handle)) {
+        const QString text = QCoreApplication::translate(
+            "Engine",
+            "The %1 asks for the password of the account \"%2\", and none has been given. Enter it in the password "
+            "file of the client library or in PGPASSWORD.");
+        return EngineError(ErrorCode::AccessDenied, text.arg(target.location(), QString::fromUtf8(PQuser(handle))),
+                           message);
+    }
+    if (stage == CONNECTION_SSL_STARTUP && !message.isEmpty()) {
+        const QString text = QCoreApplication::translate(
+            "Engine",
+            "The connection to the %1 must be encrypted, and could not be (%2). Have TLS set up on the server, or "
+            "choose another kind of connection in the settings.");
+        return EngineError(ErrorCode::CannotOpen, text.arg(target.location(), reason), message);
+    }
+    const QString text =
+        QCoreApplication::translate("Engine",
+                                    "The %1 cannot be reached (%2). Check the address in the settings, "
+                                    "the network, and that the server runs.");
+    return EngineError(ErrorCode::CannotOpen, text.arg(target.location(), reason), message);
+}
+
 // "FATAL:  28P01: password authentication failed ..." among the lines of a verbose message.
-EngineError connectError(pg_conn *handle, const PostgresTarget &target)
+EngineError connectError(pg_conn *handle, const PostgresTarget &target, ConnStatusType stage)
 {
     const QString message = QString::fromUtf8(PQerrorMessage(handle)).trimmed();
     static const QRegularExpression pattern(u"[A-Z]+:\\s+([0-9A-Z]{5}):\\s*([^\\n]*)"_s);
@@ -94,17 +134,7 @@ EngineError connectError(pg_conn *handle, const PostgresTarget &target)
         match = matches.next();
     if (match.hasMatch())
         return postgresError(match.captured(1).toLatin1(), match.captured(2), {}, target.location());
-    const QString reason = message.isEmpty()
-        ? QCoreApplication::translate("Engine", "no answer within %n second(s)", nullptr,
-                                      static_cast<int>(connectTimeout.count()))
-        : message.section(u'\n', 0, 0);
-    return EngineError(
-        ErrorCode::CannotOpen,
-        QCoreApplication::translate("Engine",
-                                    "The %1 cannot be reached (%2). Check the address in the settings, "
-                                    "the network, and that the server runs.")
-            .arg(target.location(), reason),
-        message);
+    return unreached(handle, target, stage, message);
 }
 
 // From the first byte of the connection on, so that libpq gives the codes of failures too.
@@ -114,15 +144,22 @@ pg_conn *opened(const PostgresTarget &target)
         throw EngineError(
             ErrorCode::CannotOpen,
             QCoreApplication::translate("Engine", "No server address has been set. Enter it in the settings."));
+    if (!isAddress(target.host))
+        throw EngineError(ErrorCode::CannotOpen,
+                          QCoreApplication::translate(
+                              "Engine",
+                              "What has been set as the server address is no address. Enter the name or the "
+                              "number of the server alone, without account and password."));
     pg_conn *handle = beginConnecting(target);
+    ConnStatusType stage = CONNECTION_STARTED;
     if (handle)
         PQsetErrorVerbosity(handle, PQERRORS_VERBOSE);
-    if (handle && PQstatus(handle) != CONNECTION_BAD && awaitConnection(handle)) {
+    if (handle && PQstatus(handle) != CONNECTION_BAD && awaitConnection(handle, &stage)) {
         PQsetErrorVerbosity(handle, PQERRORS_DEFAULT);
         PQsetNoticeReceiver(handle, ignoreNotice, nullptr);
         return handle;
     }
-    const EngineError error = connectError(handle, target);
+    const EngineError error = connectError(handle, target, stage);
     PQfinish(handle);
     throw error;
 }
