@@ -78,8 +78,12 @@ void TfrmItemSearchInv::showStep()
     m_ui->editFindItemDescription->clear();
     m_ui->editFindItemNo->setFocus();
     m_erases = false;
-    if (!m_typed.isEmpty())
-        typeItemNo(m_typed);
+    if (m_typed.isEmpty())
+        return;
+    typeItemNo(m_typed);
+    // The dialog selects the text when it has shown itself; typing is to go on behind it.
+    QMetaObject::invokeMethod(
+        m_ui->editFindItemNo, [edit = m_ui->editFindItemNo] { edit->end(false); }, Qt::QueuedConnection);
 }
 
 void TfrmItemSearchInv::typeItemNo(const QString &text)

@@ -1,5 +1,6 @@
 #include "master/recordfindform.h"
 
+#include "controls/filternote.h"
 #include "master/recordnumber.h"
 #include "master/recordpairform.h"
 #include "ui_recordfindform.h"
@@ -20,6 +21,8 @@ RecordFindScreen::RecordFindScreen(ScreenContext &context, const FindDialogKind 
     m_ui->lblNumber->setText(dialog.numberLabel);
     m_ui->cboName->setObjectName(dialog.nameBox);
     m_ui->lblName->setText(dialog.nameLabel);
+
+    addFilterNote(*this, list);
 
     m_record = new RecordPair(m_ui->editNumber, m_ui->cboName, kind, records, guard());
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &RecordFindScreen::btnOKClick);

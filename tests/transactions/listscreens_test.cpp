@@ -11,6 +11,7 @@
 #include "transactions/invtotalsform.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -280,6 +281,7 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
     EXPECT_TRUE(whileOpen<TfrmItemsFind>(
         [&] { totals.btnFindClick(); },
         [&](TfrmItemsFind &dialog) {
+            EXPECT_NE(child<QLabel>(dialog, "lblFiltered"), nullptr);
             type("B1");
             press(Qt::Key_Return);
             EXPECT_EQ(prompts.take(), QStringList(u"error: 'apricots' not found"_s)) << "filtered out";

@@ -426,6 +426,7 @@ TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
         EXPECT_EQ(child<QLineEdit>(dialog, "editFindItemNo")->text(), u"B"_s) << "what was typed goes on there";
         EXPECT_EQ(dialog.GetItemID(), 3);
         type("1");
+        EXPECT_EQ(child<QLineEdit>(dialog, "editFindItemNo")->text(), u"B1"_s);
         press(Qt::Key_Escape);
     }));
     EXPECT_EQ(child<QLineEdit>(*grid, "editCell")->text(), u"B"_s) << "nothing chosen: typing goes on here";
