@@ -303,6 +303,8 @@ void ListScreen::showFilterMark()
     m_grid->setHint(hint());
 }
 
+void ListScreen::say(const QString &text) { m_status->say(text); }
+
 QString ListScreen::hint() const
 {
     const auto offers = [this](const QString &button) {

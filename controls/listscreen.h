@@ -110,6 +110,7 @@ protected:
     ListCommand refreshCommand();
     ListMenu helpMenu(const QString &caption) const; // leads to the screen's topic, where there is help
 
+    void say(const QString &text); // in the status line, for a moment
     virtual void showStep(); // each time the screen is shown: caption
     virtual void clearFilterDialog() { } // clears the fields of the filter dialog, if there is one
 

@@ -5,6 +5,14 @@
 
 namespace Tallymere {
 
+// An order that a list can be sorted in.
+struct ListOrder
+{
+    QString index;
+    QString caption = {}; // of the menu that sorts by it; empty where there is one order only
+    QString command = {}; // that menu's component name: "mnuSortDescription"
+};
+
 // The rules of a list of records that are opened and deleted one by one.
 class RecordList
 {

@@ -6,7 +6,9 @@
 #include "master/masterkind.h"
 #include "master/masterlistform.h"
 #include "master/masterscreensform.h"
-#include "transactions/invreceiptsform.h"
+#include "transactions/documentkind.h"
+#include "transactions/documentlistform.h"
+#include "transactions/documentscreensform.h"
 #include "transactions/invtotalsform.h"
 
 using namespace Qt::StringLiterals;
@@ -31,10 +33,10 @@ template <typename Screen> ScreenKind listScreen(const decltype(ScreenKind::crea
 }
 
 // A list of documents, which also posts them.
-template <typename Screen> ScreenKind documentList()
+ScreenKind documentList(const DocumentScreens &screens)
 {
-    ScreenKind kind = listScreen<Screen>(make<Screen>);
-    kind.post = [](QWidget &screen) { static_cast<Screen &>(screen).mnuPostClick(); };
+    ScreenKind kind = listScreen<ListScreen>(screens.makeList);
+    kind.post = [](QWidget &screen) { static_cast<DocumentListScreen &>(screen).mnuPostClick(); };
     return kind;
 }
 
@@ -54,7 +56,8 @@ ScreenRegistry productScreens()
     for (const MasterScreen &screen : masterScreens())
         screens.add(screen.kind.listScreen, listScreen<ListScreen>(screen.make));
     screens.add(u"frmCompany"_s, organization());
-    screens.add(u"frmInvReceipts"_s, documentList<TfrmInvReceipts>());
+    for (const DocumentScreens &screen : documentScreens())
+        screens.add(screen.kind.listScreen, documentList(screen));
     screens.add(u"frmInvTotals"_s, listScreen<TfrmInvTotals>(make<TfrmInvTotals>));
     return screens;
 }

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 TfrmItemsInv::TfrmItemsInv(ScreenContext &context, QWidget *parent)
-    : SearchedListScreen(context, MasterKinds::item(), RecordScreens::makes<TfrmItemInv>(), parent)
+    : MasterListScreen(context, MasterKinds::item(), RecordScreens::makes<TfrmItemInv>(), parent)
 {
     buildSearched<TfrmItemsFilter, TfrmItemsFind>([this](ListDescription &list) { describe(list); });
 }

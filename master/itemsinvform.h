@@ -1,11 +1,11 @@
 #pragma once
 
-#include "master/searchedlistform.h"
+#include "master/masterlistform.h"
 
 namespace Tallymere {
 
 // "Items", which can be copied, lead to their stock and their history, and can be brought in from the host.
-class TfrmItemsInv final : public SearchedListScreen
+class TfrmItemsInv final : public MasterListScreen
 {
     Q_OBJECT
 

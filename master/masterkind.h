@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/recordlist.h"
 #include "engine/table.h"
 #include "frame/shared/gridcolumn.h"
 #include "frame/shared/listfilter.h"
@@ -37,12 +38,6 @@ struct MasterKind
         QString field;
         qint64 lowest;
         qint64 highest;
-    };
-    struct Order
-    {
-        QString index; // "ItemDescription1"
-        QString caption = {}; // of the menu that sorts by it; empty where there is one order only
-        QString command = {}; // that menu's component name: "mnuSortDescription"
     };
     struct Refusal
     { // rows that keep a record from being deleted
@@ -86,7 +81,7 @@ struct MasterKind
     QString listScreen; // "frmItemsInv"
     QString listCaption; // "Items"
     QList<GridColumn> columns;
-    QList<Order> orders; // as the menu has them
+    QList<ListOrder> orders; // as the menu has them
     int firstOrder = 0; // which of them is in force at the start
     bool prints = false; // there is a report of the list
     // What its filter dialog narrows it to: the rows that refer to one record, and those that are suspended or not.

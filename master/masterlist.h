@@ -18,7 +18,7 @@ public:
     void open();
 
     const MasterKind &kind() const { return m_kind; }
-    void setOrder(const MasterKind::Order &order) { table().setIndex(order.index); }
+    void setOrder(const ListOrder &order) { table().setIndex(order.index); }
 
     // A record of the system is refused, and so is one that something refers to.
     void remove(Prompts &prompts) override;

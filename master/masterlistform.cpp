@@ -1,22 +1,17 @@
 #include "master/masterlistform.h"
 
-#include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "master/masterrecordform.h"
-
-#include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 MasterListScreen::MasterListScreen(ScreenContext &context, const MasterKind &kind,
                                    const RecordScreens::Make &makeRecord, QWidget *parent)
-    : ListScreen(context, parent)
+    : RecordListScreen(context, parent)
     , m_list(context.data.databaseTallymere(), kind)
-    , m_records(new ListRecordOpener(context, {kind.screen, kind.listScreen, makeRecord}, m_list, this))
 {
     m_list.open();
+    setRecords(m_list, {kind.screen, kind.listScreen, makeRecord});
 }
 
 void MasterListScreen::buildList(const std::function<void(ListDescription &)> &add)
@@ -33,45 +28,11 @@ ListDescription MasterListScreen::description()
     return {.name = kind.listScreen,
             .caption = kind.listCaption,
             .columns = kind.columns,
-            .buttons = {{u"btnNew"_s, tr("&New"), u"mnuNew"_s},
-                        {u"btnEdit"_s, tr("&Edit"), u"mnuEdit"_s},
-                        {u"btnDelete"_s, tr("&Delete"), u"mnuDelete"_s}},
-            .menus = {fileMenu(kind.prints ? Printing::Offered : Printing::Never),
-                      {tr("&Records"), recordCommands()},
-                      {tr("&View"), viewCommands()},
-                      helpMenu(tr("%1 &Help").arg(kind.listCaption))}};
-}
-
-QList<ListCommand> MasterListScreen::recordCommands()
-{
-    return {
-        {.name = u"mnuNew"_s, .caption = tr("&New"), .run = [this] { btnNewClick(); }, .popupCaption = tr("New")},
-        {.name = u"mnuEdit"_s,
-         .caption = tr("&Edit"),
-         .run = [this] { btnEditClick(); },
-         .popupCaption = tr("Edit")},
-        {.name = u"mnuDelete"_s,
-         .caption = tr("&Delete"),
-         .run = [this] { btnDeleteClick(); },
-         .popupCaption = tr("Delete")}};
-}
-
-QList<ListCommand> MasterListScreen::viewCommands()
-{
-    QList<ListCommand> commands;
-    if (m_list.kind().orders.size() > 1) {
-        ListCommand sort{
-            .name = u"mnuSortBy"_s, .caption = tr("&Sort by"), .firstChoice = m_list.kind().firstOrder};
-        for (const MasterKind::Order &order : m_list.kind().orders) {
-            sort.choices.append({.name = order.command, .caption = order.caption, .run = [this, &order] {
-                                     const WaitCursor hourglass;
-                                     m_list.setOrder(order);
-                                 }});
-        }
-        commands.append(sort);
-    }
-    commands.append(refreshCommand());
-    return commands;
+            .buttons = recordButtons(),
+            .menus = {
+                fileMenu(kind.prints ? Printing::Offered : Printing::Never), recordMenu(),
+                viewMenu(kind.orders, kind.firstOrder, [this](const ListOrder &order) { m_list.setOrder(order); }),
+                helpMenu(tr("%1 &Help").arg(kind.listCaption))}};
 }
 
 std::function<void()> MasterListScreen::mainWindowAction(const QString &action)
@@ -84,14 +45,6 @@ std::function<void()> MasterListScreen::mainWindowAction(const QString &action)
     };
 }
 
-ListMenu &MasterListScreen::menu(ListDescription &description, const QString &caption)
-{
-    const auto found = std::find_if(description.menus.begin(), description.menus.end(),
-                                    [&](const ListMenu &menu) { return menu.caption == caption; });
-    Q_ASSERT(found != description.menus.end());
-    return *found;
-}
-
 void MasterListScreen::showStep()
 {
     refreshList();
@@ -99,19 +52,11 @@ void MasterListScreen::showStep()
     ListScreen::showStep();
 }
 
-// --- records ----------------------------------------------------------------------------------------------------
-
-void MasterListScreen::btnNewClick() { m_records->openNew(); }
-
-void MasterListScreen::btnEditClick() { m_records->openCurrent(); }
-
-void MasterListScreen::btnDeleteClick() { m_records->removeCurrent(); }
-
 void MasterListScreen::openCopy()
 {
     if (m_list.table().isEmpty())
         return;
-    std::unique_ptr<RecordScreen> screen = m_records->make();
+    std::unique_ptr<RecordScreen> screen = records().make();
     static_cast<MasterRecordScreen &>(*screen).newCopy(m_list.table());
     screen.release()->show();
 }

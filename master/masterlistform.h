@@ -1,7 +1,6 @@
 #pragma once
 
-#include "controls/listscreen.h"
-#include "controls/recordopener.h"
+#include "controls/recordlistscreen.h"
 #include "master/masterlist.h"
 
 namespace Tallymere {
@@ -10,14 +9,9 @@ namespace Tallymere {
 //
 // A list without anything of its own is MasterListOf<kind, record screen>; others derive and call buildList() with
 // what they add.
-class MasterListScreen : public ListScreen
+class MasterListScreen : public RecordListScreen
 {
     Q_OBJECT
-
-public:
-    void btnNewClick();
-    void btnEditClick(); // a record whose screen is open comes to the front
-    void btnDeleteClick();
 
 protected:
     MasterListScreen(ScreenContext &context, const MasterKind &kind, const RecordScreens::Make &makeRecord,
@@ -28,8 +22,16 @@ protected:
     // What a command does that stands for one of the main window; nothing, and so disabled, without main window.
     // The list shows the changes afterwards.
     std::function<void()> mainWindowAction(const QString &action);
-    // The menu of a description by its caption, to add commands to.
-    static ListMenu &menu(ListDescription &description, const QString &caption);
+    // The same for a list with a filter and a find dialog.
+    template <typename Filter, typename Find>
+    void buildSearched(const std::function<void(ListDescription &)> &add = {})
+    {
+        setDialogs({.makeFilter = [this] { return new Filter(context(), this); },
+                    .filterExpression =
+                        [this](const ListFilter &filter) { return m_list.kind().filterExpression(filter); },
+                    .makeFind = [this] { return std::make_unique<Find>(context(), dataSet(), this); }});
+        buildList(add);
+    }
 
     MasterList &list() { return m_list; }
     void openCopy(); // a new record copied from the current one; of an empty list nothing
@@ -37,11 +39,8 @@ protected:
 
 private:
     ListDescription description();
-    QList<ListCommand> recordCommands();
-    QList<ListCommand> viewCommands();
 
     MasterList m_list;
-    ListRecordOpener *m_records;
 };
 
 template <const MasterKind &(*kind)(), typename Record> class MasterListOf final : public MasterListScreen

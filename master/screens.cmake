@@ -18,7 +18,6 @@ tallymere_room(tallymere_master_screens SCREENS
         masterscreensform.cpp masterscreensform.h
         recordfindform.cpp recordfindform.h
         recordpairform.cpp recordpairform.h
-        searchedlistform.cpp searchedlistform.h
         vcontactform.cpp vcontactform.h
         vendorform.cpp vendorform.h
         vendorsform.cpp vendorsform.h

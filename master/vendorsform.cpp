@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 TfrmVendors::TfrmVendors(ScreenContext &context, QWidget *parent)
-    : SearchedListScreen(context, MasterKinds::vendor(), RecordScreens::makes<TfrmVendor>(), parent)
+    : MasterListScreen(context, MasterKinds::vendor(), RecordScreens::makes<TfrmVendor>(), parent)
 {
     buildSearched<TfrmVendorsFilter, TfrmVendorsFind>([](ListDescription &list) {
         QList<ListCommand> &view = menu(list, tr("&View")).commands;

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "master/masterlistform.h"
 #include "master/recordfindform.h"
-#include "master/searchedlistform.h"
 
 namespace Tallymere {
 
 // "Vendors". Invoices and cheques are the host's; there is nothing here to open for them yet.
-class TfrmVendors final : public SearchedListScreen
+class TfrmVendors final : public MasterListScreen
 {
     Q_OBJECT
 

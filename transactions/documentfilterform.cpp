@@ -1,23 +1,19 @@
 #include "transactions/documentfilterform.h"
 
+#include "transactions/documentkind.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-DocumentFilterScreen::DocumentFilterScreen(ScreenContext &context, const QString &name, const QString &caption,
-                                           QWidget *parent)
+DocumentFilterScreen::DocumentFilterScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
     : FilterDialog(context,
-                   {.name = name,
-                    .caption = caption,
+                   {.name = kind.filterScreen,
+                    .caption = kind.filterCaption,
                     .boxes = {{.name = u"cboWarehouse"_s, .label = tr("&Location:"), .list = u"Warehse"_s}},
                     .mark = u"Posted"_s,
                     .markLabel = tr("Posted")},
                    parent)
-{
-}
-
-TfrmInvReceiptsFilter::TfrmInvReceiptsFilter(ScreenContext &context, QWidget *parent)
-    : DocumentFilterScreen(context, u"frmInvReceiptsFilter"_s, tr("Inventory Receipts Filter"), parent)
 {
 }
 

@@ -4,22 +4,15 @@
 
 namespace Tallymere {
 
+struct DocumentKind;
+
 // The filter dialog of a document list: a location, and whether documents are posted.
-class DocumentFilterScreen : public FilterDialog
-{
-    Q_OBJECT
-
-protected:
-    DocumentFilterScreen(ScreenContext &context, const QString &name, const QString &caption, QWidget *parent);
-};
-
-// "Inventory Receipts Filter"
-class TfrmInvReceiptsFilter final : public DocumentFilterScreen
+class DocumentFilterScreen final : public FilterDialog
 {
     Q_OBJECT
 
 public:
-    TfrmInvReceiptsFilter(ScreenContext &context, QWidget *parent);
+    DocumentFilterScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent);
 };
 
 } // namespace Tallymere

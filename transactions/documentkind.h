@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/recordlist.h"
+#include "frame/shared/gridcolumn.h"
 #include "transactions/postingkind.h"
 
 #include <QString>
@@ -15,6 +17,23 @@ namespace Tallymere {
 // the commands of the command line work from it.
 struct DocumentKind
 {
+    struct Find
+    { // the dialog that finds a document by the number users see
+        QString screen; // component name: "frmInvReceiptsFind"; empty: there is none
+        QString caption; // "Find Receipt"
+        QString box; // "editReceipt"
+        QString label; // "&Receipt no.:"
+        QString notFound; // "Receipt '%1' not found"
+    };
+    struct Deleting
+    {
+        Question asks = Question::YesNo;
+        QString question; // "Delete receipt '%1'?"
+        QString nameField; // what the question and the refusal call the document: "ReceiptNo"
+        QString posted; // refuses one that has been posted: "Unable to delete receipt '%1'..."
+        QString postedBeforeAsking; // the same before the question; empty: that is asked first
+    };
+
     QString name; // on the command line: "receipts"
 
     // --- the tables ---------------------------------------------------------------------------------------------
@@ -42,8 +61,21 @@ struct DocumentKind
     QStringList requiredFields; // of the header, beside what is checked on its own
     QString pickColumn; // of the lines: an item that comes in while the user is in it was picked by its description
 
-    // --- its screens, by component name --------------------------------------------------------------------------
-    QString screen; // of one document: "frmInvReceipt"
+    QString screen; // component name: "frmInvReceipt"
+
+    // --- its list -----------------------------------------------------------------------------------------------
+    QString listScreen; // "frmInvReceipts"
+    QString listCaption; // "Inventory Receipts"
+    QList<GridColumn> columns;
+    QList<ListOrder> orders; // as the menu has them; the first is in force at the start
+    std::function<void(Engine::Table &)> addListFields; // looked-up ones of its own, before the table is opened
+    QString filterScreen; // "frmInvReceiptsFilter"
+    QString filterCaption; // "Inventory Receipts Filter"
+    QString notPosted; // the filter for them: "(Posted = false)"
+    Find find;
+    Deleting deleting;
+
+    // --- posting ------------------------------------------------------------------------------------------------
     QString postScreen; // "frmInvReceiptsPost"
     QString postCaption; // "Post Inventory Receipts"
 

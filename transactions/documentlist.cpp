@@ -1,6 +1,7 @@
 #include "transactions/documentlist.h"
 
 #include "engine/database.h"
+#include "frame/shared/formats.h"
 #include "frame/shared/ruleerror.h"
 
 using namespace Qt::StringLiterals;
@@ -8,57 +9,83 @@ using Engine::FieldType;
 
 namespace Tallymere {
 
-DocumentList::DocumentList(Engine::Database &database, const DocumentKind &kind, const QString &index)
-    : m_kind(kind)
-    , m_table(database, m_kind.headerTable)
+DocumentList::DocumentList(Engine::Database &database, const DocumentKind &kind)
+    : RecordList(database, kind.headerTable, kind.keyField)
+    , m_kind(kind)
 {
-    m_table.setIndex(index);
-    m_table.recordName = [this] { return m_kind.titleOf(m_table); };
-    m_table.addCalculated(u"Periodppyyyy"_s, FieldType::Text, 8, [](const Engine::DataSet &row) {
+    table().recordName = [this] { return m_kind.titleOf(table()); };
+    setOrder(m_kind.orders.constFirst());
+    table().addCalculated(u"Periodppyyyy"_s, FieldType::Text, 8, [](const Engine::DataSet &row) {
         return Engine::Value(row.text(u"GLPeriod") + u'/' + row.text(u"GLYear"));
     });
-    m_table.addLookup(u"WarehouseName"_s, FieldType::Text, 50,
+    table().addLookup(u"WarehouseName"_s, FieldType::Text, 50,
                       {u"WarehouseID"_s, u"Warehse"_s, u"WarehouseID"_s, u"WarehouseName"_s});
+    if (m_kind.addListFields)
+        m_kind.addListFields(table());
 }
 
-bool DocumentList::moveTo(int key) { return m_table.moveToKey({key}); }
+void DocumentList::open()
+{
+    table().open();
+    table().field(m_kind.dateField).format = dateFormat();
+}
+
+void DocumentList::find(const QString &number)
+{
+    if (number.isEmpty() || table().locate(m_kind.numberField, {number}))
+        return;
+    throw RuleError(m_kind.find.notFound.arg(number), m_kind.numberField);
+}
+
+// --- deleting ---------------------------------------------------------------------------------------------------
+
+QString DocumentList::name() const { return table().text(m_kind.deleting.nameField); }
+
+void DocumentList::refuseIfPosted(const QString &refusal) const
+{
+    if (table().boolean(u"Posted"))
+        throw RuleError(refusal);
+}
 
 void DocumentList::remove(Prompts &prompts)
 {
-    if (m_table.isEmpty())
+    const DocumentKind::Deleting &deleting = m_kind.deleting;
+    if (table().isEmpty())
         return;
-    if (!prompts.confirm(Question::Confirm, deleteQuestion()))
+    if (!deleting.postedBeforeAsking.isEmpty())
+        refuseIfPosted(deleting.postedBeforeAsking);
+    if (!prompts.confirm(deleting.asks, deleting.question.arg(name())))
         throw SilentAbort();
-    if (m_table.boolean(u"Posted"))
-        throw RuleError(postedRefusal());
+    refuseIfPosted(deleting.posted.arg(name()));
     removeWithLines();
-    m_table.flush();
+    table().flush();
 }
 
 void DocumentList::removeWithLines()
 {
     // The lock of the edit keeps others out while the question whether the document may go is still open, and
     // reads the document anew.
-    m_table.edit();
-    const bool posted = m_table.boolean(u"Posted");
-    m_table.cancel();
-    if (posted)
-        throw RuleError(postedRefusal());
+    table().edit();
+    const QString posted = m_kind.deleting.posted.arg(name());
+    const bool isPosted = table().boolean(u"Posted");
+    table().cancel();
+    if (isPosted)
+        throw RuleError(posted);
 
-    Engine::Connection &connection = m_table.database().connection();
+    Engine::Connection &connection = table().database().connection();
     Engine::Transaction transaction(connection);
     // Claims the row within the transaction: it may have been posted since the edit was let go.
     const Engine::StatementPtr claim = connection.prepare(
         u"UPDATE %1 SET %2 = %2 WHERE %2 = ? AND Posted IS NOT TRUE"_s.arg(m_kind.headerTable, m_kind.keyField));
     claim->bindInt(0, currentKey());
     if (claim->execute() == 0)
-        throw RuleError(postedRefusal());
+        throw RuleError(posted);
 
-    Engine::Table lines(m_table.database(), m_kind.lineTable);
+    Engine::Table lines(table().database(), m_kind.lineTable);
     lines.open();
     lines.setRange({currentKey()}, {currentKey()});
     lines.removeAll();
-    m_table.remove();
+    table().remove();
     transaction.commit();
 }
 

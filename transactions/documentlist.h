@@ -1,45 +1,38 @@
 #pragma once
 
-#include "engine/table.h"
-#include "frame/shared/prompts.h"
+#include "data/recordlist.h"
 #include "transactions/documentkind.h"
 
 #include <QCoreApplication>
 
 namespace Tallymere {
 
-// The rules of a list of documents: its table with the names that it shows, and deleting.
-class DocumentList
+// The rules of the list of the documents of one kind: its table with the names that it shows, finding and deleting.
+class DocumentList final : public RecordList
 {
+    Q_DECLARE_TR_FUNCTIONS(Tallymere::DocumentList)
+
 public:
-    virtual ~DocumentList() = default;
-    DocumentList(const DocumentList &) = delete;
-    DocumentList &operator=(const DocumentList &) = delete;
+    DocumentList(Engine::Database &database, const DocumentKind &kind); // the kind outlives the object
 
-    // The documents with "Periodppyyyy" ("3/2004") and "WarehouseName".
-    Engine::Table &table() { return m_table; }
-    const Engine::Table &table() const { return m_table; }
-    void open() { m_table.open(); }
+    // The documents with "Periodppyyyy" ("3/2004"), "WarehouseName" and what the kind adds.
+    void open();
 
-    int currentKey() const { return m_table.integer(m_kind.keyField); } // 0 when the list is empty
-    bool moveTo(int key); // false, and no move, when the list does not show the document
+    const DocumentKind &kind() const { return m_kind; }
+    void setOrder(const ListOrder &order) { table().setIndex(order.index); }
 
-    // Deletes the current document with its lines, after asking. Nothing is deleted when it has been posted, here
-    // or meanwhile by another user (RuleError), or when another user is editing it (EngineError). Anything but OK
-    // ends with SilentAbort. Does nothing on an empty list.
-    void remove(Prompts &prompts);
+    // Moves to the document with the number; raises when the list holds none. An empty text does nothing.
+    void find(const QString &number);
 
-protected:
-    DocumentList(Engine::Database &database, const DocumentKind &kind, const QString &index);
-
-    virtual QString deleteQuestion() const = 0; // names the current document
-    virtual QString postedRefusal() const = 0;
+    // A document is refused that has been posted, here or meanwhile by another user.
+    void remove(Prompts &prompts) override;
 
 private:
+    QString name() const; // as questions name the current document
+    void refuseIfPosted(const QString &refusal) const;
     void removeWithLines();
 
     const DocumentKind &m_kind;
-    Engine::Table m_table;
 };
 
 } // namespace Tallymere

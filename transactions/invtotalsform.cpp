@@ -56,6 +56,7 @@ void TfrmInvTotals::sortBy(TotalsView::Sort sort)
 {
     const WaitCursor hourglass;
     m_view.setSort(sort);
+    m_view.query().first();
 }
 
 void TfrmInvTotals::btnFilterClick()

@@ -69,11 +69,15 @@ struct PostingKind
     QString entryOpen; // raised while the entry screen is open
     QString toBePosted; // "%1 receipt(s) to be posted"
     QString posted; // "%1 receipt(s) posted"
+    QString onePosted; // "1 receipt posted"
+    QString manyPosted; // "%1 receipts posted"
 
     // Fill in what is the kind's own, from its own columns, the first of which is given. Empty: nothing is.
     std::function<void(const Engine::Statement &row, int column, PostingDocument &)> readHeader;
     std::function<void(const Engine::Statement &row, int column, PostingLine &)> readLine;
     std::function<void(const PostingDocument &, const PostingLine &, PostingBooks &)> postLine;
+
+    QString postedText(int count) const { return count == 1 ? onePosted : manyPosted.arg(count); }
 };
 
 } // namespace Tallymere

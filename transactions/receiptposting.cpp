@@ -64,6 +64,8 @@ PostingKind receiptPosting()
         .entryOpen = tr("A conflicting program is running...\nPlease close 'Inventory Receipt' form"),
         .toBePosted = tr("%1 receipt(s) to be posted"),
         .posted = tr("%1 receipt(s) posted"),
+        .onePosted = tr("1 receipt posted"),
+        .manyPosted = tr("%1 receipts posted"),
         .readHeader = readHeader,
         .readLine = readLine,
         .postLine = postLine,

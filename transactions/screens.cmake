@@ -2,10 +2,12 @@
 tallymere_room(tallymere_transactions_screens SCREENS
     SOURCES
         documentfilterform.cpp documentfilterform.h
+        documentfindform.cpp documentfindform.h documentfindform.ui
         documentform.cpp documentform.h
+        documentlistform.cpp documentlistform.h
         documentpostform.cpp documentpostform.h documentpostform.ui
+        documentscreensform.cpp documentscreensform.h
         invreceiptform.cpp invreceiptform.h invreceiptform.ui
-        invreceiptsfindform.cpp invreceiptsfindform.h invreceiptsfindform.ui
         invreceiptsform.cpp invreceiptsform.h
         invtotalsfilterform.cpp invtotalsfilterform.h
         invtotalsform.cpp invtotalsform.h

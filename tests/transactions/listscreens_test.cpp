@@ -1,11 +1,15 @@
 #include "controls/lookupcombobox.h"
+#include "controls/recordopener.h"
 #include "controls/screenmetrics.h"
+#include "frame/shared/ruleerror.h"
 #include "master/itemsfindform.h"
 #include "tests/transactions/screentest.h"
 #include "transactions/documentfilterform.h"
+#include "transactions/documentfindform.h"
+#include "transactions/documentkinds.h"
 #include "transactions/documentpostform.h"
+#include "transactions/documentscreensform.h"
 #include "transactions/invreceiptform.h"
-#include "transactions/invreceiptsfindform.h"
 #include "transactions/invreceiptsform.h"
 #include "transactions/invtotalsfilterform.h"
 #include "transactions/invtotalsform.h"
@@ -17,6 +21,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QStatusBar>
 #include <QTableView>
 
 using namespace Qt::StringLiterals;
@@ -95,9 +100,9 @@ TEST_F(ListScreensTest, receiptFilterShowsInCaptionAndMenuUntilItIsReset)
     addReceipts();
     open<TfrmInvReceipts>();
     const auto filter = [&] { list->command(u"mnuFilter"_s)->trigger(); };
-    EXPECT_TRUE(whileOpen<TfrmInvReceiptsFilter>(filter, [](TfrmInvReceiptsFilter &) {}));
+    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(filter, [](DocumentFilterScreen &) {}));
     EXPECT_FALSE(list->command(u"mnuFilter"_s)->isChecked()) << "cancelled";
-    EXPECT_TRUE(whileOpen<TfrmInvReceiptsFilter>(filter, [](TfrmInvReceiptsFilter &dialog) {
+    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(filter, [](DocumentFilterScreen &dialog) {
         EXPECT_EQ(focusName(), u"cboWarehouse"_s);
         type("f");
         child<QRadioButton>(dialog, "optPostedNo")->click();
@@ -112,7 +117,7 @@ TEST_F(ListScreensTest, receiptFilterShowsInCaptionAndMenuUntilItIsReset)
     EXPECT_EQ(rows(), 3);
     EXPECT_EQ(list->windowTitle(), u"Inventory Receipts"_s);
     EXPECT_FALSE(list->command(u"mnuFilter"_s)->isChecked());
-    EXPECT_TRUE(whileOpen<TfrmInvReceiptsFilter>(filter, [](TfrmInvReceiptsFilter &dialog) {
+    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(filter, [](DocumentFilterScreen &dialog) {
         EXPECT_EQ(child<LookupComboBox>(dialog, "cboWarehouse")->chosenId(), 0);
         EXPECT_TRUE(child<QRadioButton>(dialog, "optPostedAll")->isChecked());
     }));
@@ -122,17 +127,17 @@ TEST_F(ListScreensTest, findMovesToTheNumberOrSelectsWhatWasTyped)
 {
     addReceipts();
     auto &screen = open<TfrmInvReceipts>();
-    EXPECT_TRUE(whileOpen<TfrmInvReceiptsFind>([&] { screen.command(u"mnuFind"_s)->trigger(); },
-                                               [&](TfrmInvReceiptsFind &dialog) {
-                                                   type("77");
-                                                   press(Qt::Key_Return);
-                                                   EXPECT_EQ(prompts.take(),
-                                                             QStringList(u"error: Receipt '77' not found"_s));
-                                                   EXPECT_TRUE(dialog.isVisible());
-                                                   type("1001"); // replaces the selected text
-                                                   press(Qt::Key_Return);
-                                                   EXPECT_FALSE(dialog.isVisible());
-                                               }));
+    EXPECT_TRUE(whileOpen<DocumentFindScreen>([&] { screen.command(u"mnuFind"_s)->trigger(); },
+                                              [&](DocumentFindScreen &dialog) {
+                                                  type("77");
+                                                  press(Qt::Key_Return);
+                                                  EXPECT_EQ(prompts.take(),
+                                                            QStringList(u"error: Receipt '77' not found"_s));
+                                                  EXPECT_TRUE(dialog.isVisible());
+                                                  type("1001"); // replaces the selected text
+                                                  press(Qt::Key_Return);
+                                                  EXPECT_FALSE(dialog.isVisible());
+                                              }));
     EXPECT_EQ(grid->currentIndex().row(), 2);
 }
 
@@ -175,6 +180,73 @@ TEST_F(ListScreensTest, editOpensTheRowAndSavingComesBackToIt)
     settle();
 }
 
+TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    ASSERT_TRUE(list->moveToKey(1));
+    click("btnEdit");
+    QPointer<TfrmInvReceipt> receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+    ASSERT_TRUE(receipt);
+    const auto windows = [] {
+        const QWidgetList all = QApplication::topLevelWidgets();
+        return std::count_if(all.begin(), all.end(),
+                             [](QWidget *window) { return qobject_cast<TfrmInvReceipt *>(window); });
+    };
+    showActive(*list);
+    click("btnEdit");
+    EXPECT_EQ(windows(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return receipt->isActiveWindow(); }));
+
+    auto *history = new QWidget(mainWindow.get(), Qt::Window); // a window with rows of the document, and no list
+    RecordOpener jump(*context, recordScreens(DocumentKinds::receipt()), history);
+    showActive(*history);
+    jump.open(1, u"Receipt 1001"_s);
+    EXPECT_EQ(windows(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return receipt->isActiveWindow(); }));
+    EXPECT_THROW(jump.open(77, u"Receipt 77"_s), RuleError);
+
+    delete list.data();
+    open<TfrmInvReceipts>();
+    showActive(*receipt);
+    child<QLineEdit>(*receipt, "editReceiptNo")->setFocus();
+    type("1009");
+    receipt->btnOKClick();
+    EXPECT_EQ(grid->currentIndex().row(), 0) << "the list that is open now follows";
+    EXPECT_EQ(row(0).at(2), u"1009"_s);
+    settle();
+
+    jump.open(3, u"Receipt 1003"_s);
+    receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+    showActive(*receipt);
+    child<QLineEdit>(*receipt, "editReceiptNo")->setFocus();
+    type("1010");
+    receipt->btnOKClick();
+    EXPECT_EQ(row(grid->currentIndex().row()).at(2), u"1010"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return history->isActiveWindow(); })) << "where work goes on";
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_F(ListScreensTest, aDocumentThatAnotherUserHasDeletedIsToldAndLeavesTheList)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    ASSERT_TRUE(list->moveToKey(1));
+    kitchen.execute(u"DELETE FROM IReceipt WHERE ReceiptID = 1"_s);
+    click("btnEdit");
+    EXPECT_EQ(prompts.take(), QStringList(u"error: 'Receipt 1001' was deleted by another user."_s));
+    EXPECT_EQ(rows(), 2);
+
+    ASSERT_TRUE(list->moveToKey(3));
+    ASSERT_EQ(row(grid->currentIndex().row()).at(2), u"1003"_s);
+    kitchen.execute(u"DELETE FROM IReceipt WHERE ReceiptID = 3"_s);
+    click("btnDelete");
+    EXPECT_EQ(prompts.take(),
+              (QStringList{u"Confirm: Delete receipt '1003'?"_s,
+                           u"error: 'Receipt 1003' was deleted by another user."_s}));
+    EXPECT_EQ(rows(), 1);
+}
+
 TEST_F(ListScreensTest, failureOfTheStoreIsShownAndTheListComesBack)
 {
     addReceipts();
@@ -190,6 +262,20 @@ TEST_F(ListScreensTest, failureOfTheStoreIsShownAndTheListComesBack)
     EXPECT_EQ(rows(), 3);
     EXPECT_EQ(row(0).at(2), u"1003"_s);
     EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_F(ListScreensTest, theListTellsHowManyDocumentsWerePosted)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    const auto post = [&] { list->command(u"mnuPost"_s)->trigger(); };
+    const auto confirm = [](DocumentPostScreen &) { press(Qt::Key_Return); };
+    EXPECT_TRUE(whileOpen<DocumentPostScreen>(post, confirm));
+    EXPECT_EQ(list->statusBar()->currentMessage(), u"2 receipts posted"_s);
+    EXPECT_EQ(row(0).last(), u"Yes"_s);
+    kitchen.addReceipt(4, 1, 1, {{1, 5, 3.0}});
+    EXPECT_TRUE(whileOpen<DocumentPostScreen>(post, confirm));
+    EXPECT_EQ(list->statusBar()->currentMessage(), u"1 receipt posted"_s);
 }
 
 TEST_F(ListScreensTest, closingOffersToPostWhatIsPending)
@@ -246,7 +332,9 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
     EXPECT_EQ(row(1), (QStringList{u"A10"_s, u"Apples"_s, u"Freezer"_s, u"2.5"_s}));
     EXPECT_FALSE(totals.command(u"mnuHistory"_s)->isEnabled());
 
+    grid->setCurrentIndex(grid->model()->index(3, 0));
     totals.command(u"mnuSortDescription"_s)->trigger();
+    EXPECT_EQ(grid->currentIndex().row(), 0);
     EXPECT_TRUE(totals.command(u"mnuSortDescription"_s)->isChecked());
     EXPECT_EQ(row(4).at(1), u"apricots"_s);
     grid->setFocus();

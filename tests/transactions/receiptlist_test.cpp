@@ -1,8 +1,9 @@
-#include "transactions/receiptlist.h"
+#include "transactions/documentlist.h"
 
 #include "tests/support/failures.h"
 #include "tests/transactions/kitchen.h"
 #include "transactions/documentfilter.h"
+#include "transactions/documentkinds.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,7 @@ class List : public testing::TestWithParam<Store>
 {
 protected:
     List()
-        : list(kitchen.database())
+        : list(kitchen.database(), DocumentKinds::receipt())
     {
         list.open();
     }
@@ -25,7 +26,7 @@ protected:
 
     Kitchen kitchen{GetParam()};
     SpokenPrompts prompts;
-    ReceiptList list;
+    DocumentList list;
 };
 ON_BOTH_STORES(List);
 

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "controls/dialogscreen.h"
+
+#include <memory>
+
+namespace Ui {
+class DocumentFindScreen;
+}
+
+namespace Tallymere {
+
+class DocumentList;
+
+// Moves the list of a kind of document to one of them, by the number that users see.
+class DocumentFindScreen final : public DialogScreen
+{
+    Q_OBJECT
+
+public:
+    DocumentFindScreen(ScreenContext &context, DocumentList &list, QWidget *parent);
+    ~DocumentFindScreen() override;
+
+    void btnOKClick();
+
+protected:
+    QWidget *widgetOfColumn(const QString &column) const override;
+
+private:
+    std::unique_ptr<Ui::DocumentFindScreen> m_ui;
+    DocumentList &m_list;
+};
+
+} // namespace Tallymere
