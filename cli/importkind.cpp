@@ -1,10 +1,11 @@
 #include "cli/importkind.h"
 
+#include "cli/documentimport.h"
 #include "cli/masterimport.h"
 #include "cli/named.h"
-#include "cli/receiptimport.h"
 #include "data/layouts.h"
 #include "master/masterkinds.h"
+#include "transactions/documentkinds.h"
 
 #include <algorithm>
 #include <QCoreApplication>
@@ -95,21 +96,25 @@ ImportKind masterKind(const MasterKind &master)
     return kind;
 }
 
-ImportKind receiptsKind()
+// The files of a kind of document, from its description: a row for each line, under the fields of header and line.
+ImportKind documentKind(const DocumentKind &document)
 {
     ImportKind kind;
-    kind.name = u"receipts"_s;
-    kind.lockedTables = {u"IReceipt"_s, u"IRecDet"_s, u"ItemCtl"_s};
-    addColumns(kind, Layouts::iReceipt(), {u"ReceiptID"_s, u"Posted"_s});
-    addColumns(kind, Layouts::iRecDet(), {u"ReceiptID"_s, u"Seq"_s}, Level::Line);
+    kind.name = document.name;
+    kind.lockedTables = {document.headerTable, document.lineTable, document.counters.table};
+    const QStringList system = document.systemFields + QStringList{document.keyField, u"Seq"_s, u"Posted"_s};
+    addColumns(kind, *Layouts::find(document.headerTable), system);
+    addColumns(kind, *Layouts::find(document.lineTable), system, Level::Line);
     kind.refusedColumns.removeDuplicates();
-    addName(kind, u"VendorID"_s, Layouts::vendor(), u"VendorNo"_s, MasterKinds::vendor().notFound);
+    for (const DocumentKind::NumberFor &number : document.numbers)
+        addName(kind, number.field, *Layouts::find(number.table), number.numberField, number.notFound);
     addName(kind, u"WarehouseID"_s, Layouts::warehse(), u"WarehouseName"_s, tr("Location '%1' not found"));
     addName(kind, u"ItemID"_s, Layouts::item(), u"ItemNo"_s, MasterKinds::item().notFound);
-    require(kind, {u"VendorID"_s, u"WarehouseID"_s, u"ItemID"_s, u"QtyReceived"_s, u"UnitCost"_s});
+    require(kind, document.requiredColumns);
+    require(kind, {u"WarehouseID"_s, u"ItemID"_s});
     column(kind, u"GLYear").format = ImportColumn::Format::Year;
     column(kind, u"GLPeriod").format = ImportColumn::Format::Period;
-    kind.makeTarget = [](const ImportRun &run) { return std::make_unique<ReceiptImport>(run); };
+    kind.makeTarget = [&document](const ImportRun &run) { return std::make_unique<DocumentImport>(run, document); };
     return kind;
 }
 
@@ -127,7 +132,8 @@ const QList<ImportKind> &importKinds()
         QList<ImportKind> all;
         for (const MasterKind *master : MasterKinds::all())
             all.append(masterKind(*master));
-        all.append(receiptsKind());
+        for (const DocumentKind *document : DocumentKinds::all())
+            all.append(documentKind(*document));
         return all;
     }();
     return kinds;

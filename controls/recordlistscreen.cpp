@@ -84,7 +84,7 @@ void RecordListScreen::btnFilterClick()
     if (!m_filter)
         m_filter = m_dialogs.makeFilter();
     if (m_filter->exec() == QDialog::Accepted)
-        applyFilter(m_dialogs.filterExpression(m_filter->filter()));
+        switchFilter(m_filter->isOn(), m_dialogs.filterExpression(m_filter->filter()));
 }
 
 void RecordListScreen::btnFindClick() { m_dialogs.makeFind()->exec(); }

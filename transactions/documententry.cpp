@@ -204,6 +204,19 @@ void DocumentEntry::requireHeaderField(const QString &field, const QString &colu
         throw RuleError(tr("Field '%1' must have a value").arg(m_header.field(field).label), column);
 }
 
+QString DocumentEntry::caption() const
+{
+    return m_header.state() == Engine::TableState::Insert ? m_kind.newTitle : m_kind.titleOf(m_header);
+}
+
+bool DocumentEntry::chooseByNumber(const QString &, const QString &) { return false; }
+
+void DocumentEntry::checkReferences()
+{
+    requireLocation();
+    requireLines();
+}
+
 void DocumentEntry::requireLocation() const
 {
     if (!exists(u"Warehse"_s, u"WarehouseID"_s, m_header.value(u"WarehouseID")))
@@ -392,6 +405,8 @@ void DocumentEntry::requireItem() const
     if (!exists(u"Item"_s, u"ItemID"_s, m_lines.value(u"ItemID")))
         refuseLine(tr("Item not found"), u"ItemNo"_s);
 }
+
+void DocumentEntry::checkLine() { requireItem(); }
 
 void DocumentEntry::chooseItem(int itemId)
 {

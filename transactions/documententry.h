@@ -70,7 +70,11 @@ public:
 
     bool wasSaved() const { return m_wasSaved; } // the header was saved at least once in this visit
 
-    virtual QString caption() const = 0;
+    virtual QString caption() const; // the kind's title, of a new document its newTitle
+
+    // Chooses what a key of the header stands for by the number that the user types for it, with the rules for that.
+    // False when the kind has none for the field.
+    virtual bool chooseByNumber(const QString &field, const QString &number);
 
     // --- lines -------------------------------------------------------------------------------------------------
     // The column of the line grid that the user is in, by field name. A new item is judged by it: typed as a number
@@ -95,8 +99,8 @@ protected:
     virtual void configureFields(); // labels, formats and checks of fields, once the tables are open
     virtual void presetHeader() { } // further defaults of a new header
     virtual void checkComplete() { } // before everything else when the header is saved
-    virtual void checkReferences() = 0; // after the period: what the header names, and that there are lines
-    virtual void checkLine() = 0; // before a line gets its number and is written
+    virtual void checkReferences(); // after the period: what the header names, and that there are lines
+    virtual void checkLine(); // before a line gets its number and is written
     // Around each change of a line, for what the header keeps about all of them. The header is in edit throughout. At
     // lineChanging() lines() shows the line as it is stored, of a line to come the one before it. A change may still
     // be dropped then; lineSaved(), with the line, or lineRemoved(), with the next one, tells that it has happened.

@@ -1,6 +1,8 @@
 #include "transactions/documentform.h"
 
 #include "controls/linegrid.h"
+#include "controls/lookuplists.h"
+#include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
 #include "frame/shared/ruleerror.h"
 #include "master/itemsearchinvform.h"
@@ -20,9 +22,9 @@ constexpr QStringView numberColumn = u"ItemNo";
 constexpr QStringView descriptionColumn = u"ItemDescription";
 } // namespace
 
-DocumentScreen::DocumentScreen(ScreenContext &context, std::unique_ptr<DocumentEntry> entry, QWidget *parent)
+DocumentScreen::DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
     : RecordScreen(context, parent)
-    , m_entry(std::move(entry))
+    , m_entry(kind.makeEntry(context.data.databaseTallymere(), context.prompts))
 {
     m_entry->open();
 }
@@ -33,8 +35,10 @@ DocumentScreen::~DocumentScreen()
     m_entry->header().disconnect(this);
 }
 
-void DocumentScreen::buildDocument(QList<GridColumn> columns, const LineOptions &options)
+void DocumentScreen::buildDocument(const LineOptions &options)
 {
+    setLookupLists(*this, context().lookups, guard());
+    QList<GridColumn> columns = m_entry->kind().lineColumns;
     for (GridColumn &column : columns)
         column.takesSurplus = column.field == descriptionColumn;
     m_grid = findChild<LineGrid *>(u"DBGrid1"_s);

@@ -26,11 +26,12 @@ public:
     std::optional<int> storedKey() const override;
 
 protected:
-    DocumentScreen(ScreenContext &context, std::unique_ptr<DocumentEntry> entry, QWidget *parent);
+    DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent);
 
-    // Called once by the constructor of a screen, after its form has been set up: binds the header's widgets and
-    // the grid "DBGrid1", which shows the columns, and the label "lblPosted".
-    void buildDocument(QList<GridColumn> columns, const LineOptions &options = {});
+    // Called once by the constructor of a screen, after its form has been set up: fills the lookup boxes that name
+    // their lists, binds the header's widgets, the grid "DBGrid1", which shows the kind's columns, and the label
+    // "lblPosted".
+    void buildDocument(const LineOptions &options = {});
 
     DocumentEntry &entry() const { return *m_entry; }
     LineGrid *grid() const { return m_grid; }
@@ -57,6 +58,19 @@ private:
     LineGrid *m_grid = nullptr;
     QLabel *m_posted = nullptr;
     QList<QAction *> m_popup;
+};
+
+// The screen of a kind of document without anything of its own: the form names the fields.
+template <const DocumentKind &(*kind)(), typename Form> class DocumentForm final : public DocumentScreen
+{
+public:
+    DocumentForm(ScreenContext &context, QWidget *parent)
+        : DocumentScreen(context, kind(), parent)
+    {
+        Form form;
+        form.setupUi(this);
+        buildDocument();
+    }
 };
 
 } // namespace Tallymere

@@ -4,19 +4,34 @@
 #include "frame/shared/gridcolumn.h"
 #include "transactions/postingkind.h"
 
+#include <functional>
+#include <memory>
 #include <QString>
 #include <QStringList>
 
-namespace Engine {
-class DataSet;
-}
-
 namespace Tallymere {
+
+class DocumentEntry;
 
 // All that tells one kind of document from another: the rules of its entry, its list and its posting, the screens and
 // the commands of the command line work from it.
 struct DocumentKind
 {
+    // What numbers new documents. A number outside firstNumber to lastNumber is not given; the counter restarts.
+    struct Counters
+    {
+        QString table; // the control table: "ItemCtl"
+        QString key; // its field for the key
+        QString number; // its field for the number; empty where the key is shown
+        qint64 restart = 0;
+    };
+    struct NumberFor
+    { // a number or name that may stand for a key of the header in a file
+        QString field; // "VendorID", the key of the other table as well
+        QString table; // "Vendor"
+        QString numberField; // "VendorNo"
+        QString notFound; // "Vendor no. '%1' not found"
+    };
     struct Find
     { // the dialog that finds a document by the number users see
         QString screen; // component name: "frmInvReceiptsFind"; empty: there is none
@@ -44,16 +59,9 @@ struct DocumentKind
     QString dateField; // "ReceiptDate"
 
     // --- entering a document ------------------------------------------------------------------------------------
-    // What numbers new documents. A number outside firstNumber to lastNumber is not given; the counter restarts.
-    struct Counters
-    {
-        QString table; // the control table: "ItemCtl"
-        QString key; // its field for the key
-        QString number; // its field for the number; empty where the key is shown
-        qint64 restart = 0;
-    };
     Counters counters;
     QString title; // of one, in its caption and in messages: "Receipt %1"
+    QString newTitle; // in the caption of a new one: "New Inventory Receipt"
     QString postedRefusal; // shown when a posted document is about to be edited
     QString numberTaken; // raised when the number or the key exists already
     QString nothingEntered; // raised when a document without lines is saved
@@ -62,6 +70,8 @@ struct DocumentKind
     QString pickColumn; // of the lines: an item that comes in while the user is in it was picked by its description
 
     QString screen; // component name: "frmInvReceipt"
+    QList<GridColumn> lineColumns; // of its line grid
+    std::function<std::unique_ptr<DocumentEntry>(Engine::Database &, Prompts &)> makeEntry;
 
     // --- its list -----------------------------------------------------------------------------------------------
     QString listScreen; // "frmInvReceipts"
@@ -80,6 +90,11 @@ struct DocumentKind
     QString postCaption; // "Post Inventory Receipts"
 
     PostingKind posting;
+
+    // --- its files, beside location and item, which all kinds have -----------------------------------------------
+    QStringList systemFields; // that a file may not give, beside the keys and the mark
+    QList<NumberFor> numbers;
+    QStringList requiredColumns;
 
     QString titleOf(const Engine::DataSet &header) const; // "Receipt 1001"
     const QString &shownField() const { return numberField.isEmpty() ? keyField : numberField; }

@@ -1,8 +1,8 @@
 #include "transactions/invreceiptform.h"
 
 #include "controls/screenmetrics.h"
-#include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
+#include "transactions/documentkinds.h"
 #include "transactions/receiptentry.h"
 #include "ui_invreceiptform.h"
 
@@ -13,8 +13,7 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
-    : DocumentScreen(context, std::make_unique<ReceiptEntry>(context.data.databaseTallymere(), context.prompts),
-                     parent)
+    : DocumentScreen(context, DocumentKinds::receipt(), parent)
     , m_ui(std::make_unique<Ui::TfrmInvReceipt>())
 {
     m_ui->setupUi(this);
@@ -24,10 +23,7 @@ TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
                              guard());
     m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), u"WarehouseID"_s,
                                 {{u"WarehouseName"_s, tr("Warehouse"), 200}}, guard());
-    buildDocument({{u"QtyReceived"_s, tr("Quantity"), 100, Qt::AlignRight},
-                   {u"ItemNo"_s, tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
-                   {u"ItemDescription"_s, tr("Description"), 450},
-                   {u"UnitCost"_s, tr("Unit Cost"), 110, Qt::AlignRight}});
+    buildDocument();
     binder().setEntryRule(u"VendorNo"_s,
                           [this](const QString &text) { receipt().chooseVendorByNumber(text.trimmed()); });
 }

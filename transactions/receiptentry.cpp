@@ -36,8 +36,16 @@ QString ReceiptEntry::caption() const
 {
     const bool unnamed = header().text(u"ReceiptNo").isEmpty() || header().value(u"VendorID").isNull();
     if (header().state() == Engine::TableState::Insert && unnamed)
-        return tr("New Inventory Receipt");
+        return kind().newTitle;
     return kind().titleOf(header());
+}
+
+bool ReceiptEntry::chooseByNumber(const QString &field, const QString &number)
+{
+    if (field != "VendorID"_L1)
+        return false;
+    chooseVendorByNumber(number);
+    return true;
 }
 
 void ReceiptEntry::chooseVendorByNumber(const QString &vendorNo)

@@ -16,6 +16,7 @@ public:
     // number. Raises, with the vendor as it was, when the number is unknown or its vendor suspended.
     void chooseVendorByNumber(const QString &vendorNo);
 
+    bool chooseByNumber(const QString &field, const QString &number) override;
     QString caption() const override;
 
 protected:

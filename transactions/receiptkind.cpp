@@ -1,6 +1,6 @@
 #include "data/numbercounter.h"
 #include "transactions/documentkinds.h"
-
+#include "transactions/receiptentry.h"
 #include "transactions/receiptposting.h"
 
 #include <QCoreApplication>
@@ -26,6 +26,7 @@ const DocumentKind &DocumentKinds::receipt()
         .dateField = u"ReceiptDate"_s,
         .counters = {u"ItemCtl"_s, u"NextInvReceiptID"_s, u"NextInvReceiptNo"_s, firstNumber},
         .title = tr("Receipt %1"),
+        .newTitle = tr("New Inventory Receipt"),
         .postedRefusal = tr("Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you must "
                             "\"reverse\" it (enter it again with the opposite amount)."),
         .numberTaken = tr("Receipt no. already exists"),
@@ -34,6 +35,12 @@ const DocumentKind &DocumentKinds::receipt()
         .requiredFields = {u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s, u"WarehouseID"_s},
         .pickColumn = u"ItemDescription"_s,
         .screen = u"frmInvReceipt"_s,
+        .lineColumns = {{u"QtyReceived"_s, tr("Quantity"), 100, Qt::AlignRight},
+                        {u"ItemNo"_s, tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
+                        {u"ItemDescription"_s, tr("Description"), 450},
+                        {u"UnitCost"_s, tr("Unit Cost"), 110, Qt::AlignRight}},
+        .makeEntry = [](Engine::Database &database,
+                        Prompts &prompts) { return std::make_unique<ReceiptEntry>(database, prompts); },
         .listScreen = u"frmInvReceipts"_s,
         .listCaption = tr("Inventory Receipts"),
         .columns = {{u"Periodppyyyy"_s, tr("Period"), 70},
@@ -65,6 +72,9 @@ const DocumentKind &DocumentKinds::receipt()
         .postScreen = u"frmInvReceiptsPost"_s,
         .postCaption = tr("Post Inventory Receipts"),
         .posting = receiptPosting(),
+        .systemFields = {},
+        .numbers = {{u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s, tr("Vendor no. '%1' not found")}},
+        .requiredColumns = {u"VendorID"_s, u"QtyReceived"_s, u"UnitCost"_s},
     };
     return kind;
 }

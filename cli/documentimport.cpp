@@ -1,0 +1,114 @@
+#include "cli/documentimport.h"
+
+#include "engine/error.h"
+#include "frame/shared/ruleerror.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+DocumentImport::DocumentImport(const ImportRun &run, const DocumentKind &kind)
+    : m_answers(run.answers)
+    , m_entry(kind.makeEntry(run.database, run.answers))
+    , m_names(run.database)
+{
+    m_entry->numbers = heldNumbers(run.counters);
+    m_entry->open();
+}
+
+// Runs one step of a document; what refuses it is reported for the row. False when it was refused.
+template <typename Step> bool DocumentImport::tryStep(ImportRow &row, ImportErrors &errors, Step step)
+{
+    try {
+        step();
+        return true;
+    } catch (const RuleError &error) {
+        errors.add(row.line, error.message());
+    } catch (const SilentAbort &) {
+        errors.add(row.line, m_answers.lastText());
+    } catch (const Engine::EngineError &error) {
+        if (error.code() != Engine::ErrorCode::BadValue)
+            throw;
+        errors.add(row.line, error.text());
+    }
+    row.isBad = true;
+    return false;
+}
+
+void DocumentImport::add(ImportDocument &document, ImportErrors &errors)
+{
+    ImportRow &first = document.front();
+    beginDocument(first);
+    tryStep(first, errors, [&] { setHeader(first); });
+    for (ImportRow &row : document) {
+        if (!row.isBad && !tryStep(row, errors, [&] { addLine(row); }) && m_entry->lines().isEditing())
+            m_entry->lines().cancel();
+    }
+    // A document with a bad row would only be told again that something is missing.
+    const bool complete =
+        std::none_of(document.begin(), document.end(), [](const ImportRow &row) { return row.isBad; });
+    if (!complete || !tryStep(first, errors, [&] { m_entry->save(); }))
+        m_entry->cancel();
+}
+
+void DocumentImport::beginDocument(const ImportRow &row)
+{
+    const QString numberField = m_entry->kind().numberField;
+    const ImportCell *given = numberField.isEmpty() ? nullptr : row.cell(numberField);
+    if (given && !given->value.isNull())
+        return m_entry->newDocument(given->value.toText());
+    m_entry->newDocument();
+    while (!numberField.isEmpty() && isNumberTaken(m_entry->header(), numberField)) {
+        m_entry->cancel();
+        m_entry->newDocument();
+    }
+}
+
+std::vector<const ImportCell *> DocumentImport::cellsOf(const Engine::Table &table, const ImportRow &row) const
+{
+    std::vector<const ImportCell *> cells;
+    for (int i = 0; i < table.fieldCount(); ++i) {
+        const QString &field = table.field(i).name;
+        if (const ImportCell *cell = row.cell(field); cell && field != m_entry->kind().numberField)
+            cells.push_back(cell);
+    }
+    return cells;
+}
+
+// What the row leaves empty keeps the default of a new document.
+void DocumentImport::setHeader(const ImportRow &row)
+{
+    for (const ImportCell *cell : cellsOf(m_entry->header(), row)) {
+        const bool isTyped = cell->column->lookup.has_value();
+        if (!isTyped || !m_entry->chooseByNumber(cell->column->target, cell->value.toText()))
+            setField(m_entry->header(), *cell);
+    }
+}
+
+void DocumentImport::addLine(const ImportRow &row)
+{
+    m_entry->newLine();
+    m_entry->setLineColumn(u"ItemNo"_s); // items are judged as those that are typed
+    for (const ImportCell *cell : cellsOf(m_entry->lines(), row)) {
+        if (cell->column->lookup && cell->column->target == "ItemID"_L1)
+            m_entry->chooseItemByNumber(cell->value.toText());
+        else
+            setField(m_entry->lines(), *cell);
+    }
+    m_entry->lines().post();
+}
+
+void DocumentImport::setField(Engine::Table &table, const ImportCell &cell)
+{
+    if (cell.value.isNull())
+        return;
+    const ImportColumn &column = *cell.column;
+    if (column.lookup)
+        table.set(column.target, m_names.key(*column.lookup, cell.value.toText()));
+    else
+        table.set(column.target, cell.value);
+}
+
+} // namespace Tallymere
