@@ -1,13 +1,15 @@
 # The screens of the room.
+file(GLOB forms CONFIGURE_DEPENDS *.ui)
 tallymere_room(tallymere_transactions_screens SCREENS
     SOURCES
+        ${forms}
         documentfilterform.cpp documentfilterform.h
-        documentfindform.cpp documentfindform.h documentfindform.ui
+        documentfindform.cpp documentfindform.h
         documentform.cpp documentform.h
         documentlistform.cpp documentlistform.h
-        documentpostform.cpp documentpostform.h documentpostform.ui
+        documentpostform.cpp documentpostform.h
         documentscreensform.cpp documentscreensform.h
-        invreceiptform.cpp invreceiptform.h invreceiptform.ui
+        invreceiptform.cpp invreceiptform.h
         invreceiptsform.cpp invreceiptsform.h
         invtotalsfilterform.cpp invtotalsfilterform.h
         invtotalsform.cpp invtotalsform.h
