@@ -515,6 +515,9 @@ void DocumentEntry::takeBackLines()
         } catch (const Engine::EngineError &error) {
             if (error.code() == ErrorCode::RecordChanged || error.code() == ErrorCode::RecordGone)
                 break;
+            if (error.code() == ErrorCode::FileReplaced) // trying again does not help
+                return m_prompts.error(tr("%1\n\nYour changes to the lines stay in the file that was in use. %2")
+                                           .arg(error.text(), m_keptLines->summary()));
             // The first statement after a loss notices it, the next one connects again.
             if (error.code() == ErrorCode::ConnectionLost && !std::exchange(connectedAgain, true))
                 continue;

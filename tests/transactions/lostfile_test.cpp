@@ -71,4 +71,6 @@ TEST_F(LostFileTest, ChangedLinesKeepNoWindowOpen)
     expectRefused("btnOK");
     prompts.answer = Answer::No; // to the question about changes
     expectCloses([&] { screen->close(); });
+    ASSERT_EQ(prompts.said.size(), 2);
+    EXPECT_TRUE(prompts.last().startsWith("error: The file "_L1)) << prompts.last().toStdString();
 }
