@@ -78,12 +78,15 @@ void TfrmItemSearchInv::showStep()
     m_ui->editFindItemDescription->clear();
     m_ui->editFindItemNo->setFocus();
     m_erases = false;
-    if (m_typed.isEmpty())
-        return;
-    typeItemNo(m_typed);
-    // The dialog selects the text when it has shown itself; typing is to go on behind it.
-    QMetaObject::invokeMethod(
-        m_ui->editFindItemNo, [edit = m_ui->editFindItemNo] { edit->end(false); }, Qt::QueuedConnection);
+    if (!m_typed.isEmpty())
+        typeItemNo(m_typed);
+}
+
+// A box that gets the cursor selects its text. Typing goes on behind what was typed before, though.
+void TfrmItemSearchInv::continueTyping()
+{
+    if (!std::exchange(m_typed, {}).isEmpty())
+        m_ui->editFindItemNo->end(false);
 }
 
 void TfrmItemSearchInv::typeItemNo(const QString &text)
@@ -106,6 +109,9 @@ void TfrmItemSearchInv::beepUnless(bool found) const
 
 bool TfrmItemSearchInv::eventFilter(QObject *watched, QEvent *event)
 {
+    // By then the dialog has shown itself, and given its box the cursor.
+    if (event->type() == QEvent::Paint || event->type() == QEvent::KeyPress)
+        continueTyping();
     if (event->type() != QEvent::KeyPress)
         return false;
     auto *key = static_cast<QKeyEvent *>(event);

@@ -34,13 +34,14 @@ protected:
 private:
     void typeItemNo(const QString &text);
     void typeDescription(const QString &text);
+    void continueTyping();
     void beepUnless(bool found) const;
     bool takeTypeKey(const QKeyEvent &key);
     bool takeSearchKey(QKeyEvent &key);
 
     std::unique_ptr<Ui::TfrmItemSearchInv> m_ui;
     ItemSearch m_search;
-    QString m_typed; // before it opens: the beginning of a number
+    QString m_typed; // before it opened: the beginning of a number, until typing goes on
     bool m_erases = false; // the key that changes a search box
 };
 
