@@ -26,6 +26,10 @@ constexpr std::chrono::seconds watchTime{10};
 constexpr std::chrono::seconds answerOnItsWay{10};
 constexpr std::chrono::seconds nextWatch{20};
 
+// What counts as a long wait for a connection, and how long none is tried after one that was in vain.
+constexpr std::chrono::seconds longWait{5};
+constexpr std::chrono::seconds pauseAfterVain{3};
+
 // The server's last words to a session that it ends; the connection itself breaks a moment later.
 bool endsSession(const PGresult *result)
 {
@@ -62,9 +66,28 @@ void PostgresLink::prepareFor(RowReader *reader)
     }
     if (mayReconnect && !mayReconnect())
         throw connectionLost(location(), u"not connected again while locks were held"_s);
-    connect();
+    connectAgain();
     if (reconnected)
         reconnected();
+}
+
+// A machine that does not answer is not waited for again by everything that a screen does after it was told.
+void PostgresLink::connectAgain()
+{
+    const auto begun = std::chrono::steady_clock::now();
+    if (m_unanswered && begun - m_unansweredAt < pauseAfterVain)
+        throw EngineError(*m_unanswered);
+    m_unanswered.reset();
+    try {
+        connect();
+    } catch (const EngineError &error) {
+        const auto now = std::chrono::steady_clock::now();
+        if (now - begun >= longWait) {
+            m_unanswered = error;
+            m_unansweredAt = now;
+        }
+        throw;
+    }
 }
 
 void PostgresLink::dropStaleStatements()

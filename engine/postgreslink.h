@@ -110,6 +110,7 @@ public:
 
 private:
     void connect();
+    void connectAgain();
     void collect(int commands, ResultPtr *last);
     void noteLoss();
     void awaitAnswer();
@@ -127,6 +128,8 @@ private:
     std::optional<EngineError> m_failure;
     std::optional<LockOwner> m_blocker; // whom the command under way has been waiting for
     bool m_inTransaction = false;
+    std::optional<EngineError> m_unanswered; // of the last attempt to connect again, which waited in vain
+    std::chrono::steady_clock::time_point m_unansweredAt;
     bool m_lost = false;
     bool m_lostInTransaction = false;
 };

@@ -3,6 +3,7 @@
 #include "data/fiscalperiod.h"
 #include "engine/database.h"
 #include "engine/error.h"
+#include "engine/locks.h"
 #include "engine/query.h"
 #include "frame/shared/formats.h"
 #include "frame/shared/ruleerror.h"
@@ -98,6 +99,7 @@ void DocumentEntry::beginVisit()
     m_wasSaved = false;
     m_lockWasLost = false;
     m_keptLines.reset();
+    m_losses = database().connection().locks().losses();
 }
 
 // --- header --------------------------------------------------------------------------------------------------
@@ -537,7 +539,10 @@ void DocumentEntry::takeBackLines()
 // The answer to the saving may be all that was lost.
 bool DocumentEntry::isStoredAlready() const
 {
-    return m_header.state() == Engine::TableState::Insert && exists(m_kind.headerTable, m_kind.keyField, key());
+    const Engine::LockManager &locks = database().connection().locks();
+    const bool wasLost = locks.areLost() || locks.losses() != m_losses;
+    return wasLost && m_header.state() == Engine::TableState::Insert
+        && exists(m_kind.headerTable, m_kind.keyField, key());
 }
 
 void DocumentEntry::restoreLines()

@@ -161,6 +161,7 @@ private:
     bool m_wasSaved = false;
     std::optional<LineCopy> m_keptLines; // as stored when the lock was taken; goes with the lock
     bool m_lockWasLost = false; // and who has been at the lines meanwhile is not known yet
+    int m_losses = 0; // of the connection, when the visit began
     int m_removedSeq = 0; // the line that is being deleted
     QString m_lineColumn;
     QString m_givenNumber;

@@ -15,14 +15,14 @@
 class ScreenTest : public testing::Test
 {
 protected:
-    ScreenTest();
+    explicit ScreenTest(Store store = Store::Local);
     ~ScreenTest() override;
 
     // Lets windows that have been closed go.
     static void settle();
 
     SpokenPrompts prompts;
-    Kitchen kitchen{Store::Local};
+    Kitchen kitchen;
     Tallymere::MemorySettings settings;
     std::unique_ptr<Tallymere::TDataModuleTallymere> data;
     std::unique_ptr<Tallymere::TdmLookUpsInv> lookups;

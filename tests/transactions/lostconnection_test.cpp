@@ -1,0 +1,191 @@
+// Windows in edit whose server, or whose hold on a record, is gone.
+
+#include "controls/linegrid.h"
+#include "engine/query.h"
+#include "master/itemtypeinvform.h"
+#include "tests/transactions/screentest.h"
+#include "transactions/invreceiptform.h"
+
+#include <QEventLoop>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class LostConnection : public ScreenTest
+{
+protected:
+    LostConnection()
+        : ScreenTest(Store::Remote)
+    {
+        kitchen.addReceipt(7, 1, 1, {{1, 5, 1}, {2, 6, 1}});
+    }
+    ~LostConnection() override
+    {
+        delete screen;
+        settle();
+    }
+
+    template <typename Screen> Screen &open(int key)
+    {
+        auto *opened = new Screen(*context, mainWindow.get());
+        screen = opened;
+        if (key == 0)
+            opened->newRecord();
+        else
+            EXPECT_TRUE(opened->openRecord(key));
+        showActive(*opened);
+        return *opened;
+    }
+    static void enter(const QWidget &window, const char *name, const QString &text)
+    {
+        auto *edit = child<QLineEdit>(window, name);
+        edit->setFocus();
+        edit->selectAll();
+        type(text);
+    }
+    void changeHeader() { enter(*screen, "editPurchaseOrderNo", u"P1"_s); }
+    void changeLine()
+    {
+        auto *grid = child<LineGrid>(*screen, "DBGrid1");
+        grid->setFocus();
+        grid->setCurrentIndex(grid->model()->index(0, 0));
+        type("50");
+        press(Qt::Key_Down); // the line is stored with that
+    }
+    void run(const QString &sql) { keeper->database.connection().execute(sql); }
+    // New connections to the database, allowed from without.
+    void admit(bool allowed)
+    {
+        TestUser outside(u"outside"_s, u"postgres"_s);
+        outside.useTestServer(u"postgres"_s);
+        outside.database.connection().execute(u"ALTER DATABASE %1 ALLOW_CONNECTIONS %2"_s.arg(
+            kitchen.remoteName(), allowed ? u"true"_s : u"false"_s));
+    }
+    // The session ends; with "forGood" the database takes no new one.
+    void cut(bool forGood)
+    {
+        admit(!forGood);
+        run(u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE application_name NOT LIKE 'keeper@%' "
+            "AND datname = current_database()"_s);
+    }
+    QStringList stored()
+    {
+        const Engine::StatementPtr rows =
+            keeper->database.connection().prepare(u"SELECT QtyReceived FROM IRecDet ORDER BY ReceiptID, Seq"_s);
+        QStringList lines;
+        while (rows->next())
+            lines << rows->textAt(0);
+        return lines;
+    }
+    bool isClosed()
+    {
+        return QTest::qWaitFor([&] { return !screen; });
+    }
+    void clickOK() { child<QPushButton>(*screen, "btnOK")->click(); }
+
+    QPointer<EntryScreen> screen;
+    std::unique_ptr<TestUser> keeper = kitchen.anotherUser(u"keeper"_s);
+};
+
+} // namespace
+
+TEST_F(LostConnection, everyWayOutEndsTheScreen)
+{
+    struct Way
+    {
+        const char *name;
+        std::function<void()> go;
+    };
+    const Way ways[] = {
+        {"Cancel", [&] { child<QPushButton>(*screen, "btnCancel")->click(); }},
+        {"closed with No", [&] { screen->close(); }},
+    };
+    struct Work
+    {
+        const char *name;
+        std::function<void()> done;
+        bool withLines;
+    };
+    const Work works[] = {
+        {"header", [&] { open<TfrmInvReceipt>(7), changeHeader(); }, false},
+        {"line", [&] { open<TfrmInvReceipt>(7), changeLine(); }, true},
+        {"new", [&] { enter(open<TfrmInvReceipt>(0), "editVendorNo", u"V1"_s), press(Qt::Key_Return); }, false},
+        {"item type", [&] { enter(open<TfrmItemTypeInv>(1), "editTypeName", u"Groceries"_s); }, false},
+    };
+    prompts.answer = Answer::No;
+    for (const bool forGood : {false, true}) {
+        for (const Way &way : ways) {
+            for (const Work &work : works) {
+                SCOPED_TRACE(std::string(work.name) + ", " + way.name + (forGood ? ", for good" : ""));
+                work.done();
+                cut(forGood);
+                clickOK();
+                ASSERT_TRUE(screen) << "what has been entered stays";
+                EXPECT_TRUE(prompts.last().contains(u"was lost"_s)) << prompts.last().toStdString();
+                prompts.take();
+                way.go();
+                ASSERT_TRUE(isClosed());
+                admit(true);
+                const bool stays = forGood && work.withLines;
+                EXPECT_EQ(stored(), (QStringList{stays ? u"50"_s : u"5"_s, u"6"_s}));
+                EXPECT_EQ(prompts.last().contains(u"Lines changed: 1. Lines added: 0. Lines deleted: 0."_s), stays)
+                    << prompts.last().toStdString();
+                run(u"UPDATE IRecDet SET QtyReceived = 5 WHERE Seq = 1"_s);
+            }
+        }
+    }
+}
+
+TEST_F(LostConnection, okWorksOnceTheConnectionIsBack)
+{
+    const std::function<void()> works[] = {
+        [&] { open<TfrmInvReceipt>(7), changeHeader(), changeLine(); },
+        [&] { enter(open<TfrmItemTypeInv>(1), "editTypeName", u"Groceries"_s); },
+    };
+    for (const auto &work : works) {
+        work();
+        cut(false);
+        clickOK();
+        ASSERT_TRUE(screen);
+        clickOK();
+        ASSERT_TRUE(isClosed()) << prompts.last().toStdString();
+    }
+    EXPECT_EQ(stored(), (QStringList{u"50"_s, u"6"_s}));
+    EXPECT_EQ(
+        Engine::singleValue(keeper->database, u"SELECT TypeName FROM ItemType WHERE ItemTypeID = 1"_s).toText(),
+        u"Groceries"_s);
+}
+
+// Somebody works on the server by other means than this system, and holds a row.
+TEST_F(LostConnection, aWindowLivesWhileSomebodysLockIsWaitedFor)
+{
+    open<TfrmInvReceipt>(7);
+    changeHeader();
+    int ticks = 0;
+    QTimer clock;
+    QObject::connect(&clock, &QTimer::timeout, [&] { ++ticks; });
+    data->sessionTallymere().lockAttempts = 5;
+    data->sessionTallymere().waitFor = [&](std::chrono::milliseconds) {
+        QEventLoop loop;
+        const int before = ticks;
+        QObject::connect(&clock, &QTimer::timeout, &loop, [&] {
+            if (ticks > before)
+                loop.quit();
+        });
+        loop.exec();
+    };
+    run(u"BEGIN; UPDATE IReceipt SET Posted = false"_s);
+    clock.start(0);
+    clickOK();
+    EXPECT_GT(ticks, 0);
+    ASSERT_TRUE(screen);
+    EXPECT_TRUE(prompts.last().contains(u"keeper on"_s)) << prompts.last().toStdString();
+    run(u"ROLLBACK"_s);
+    clickOK();
+    EXPECT_TRUE(isClosed());
+}
