@@ -126,7 +126,9 @@ EngineError unreached(pg_conn *handle, const PostgresTarget &target, ConnStatusT
 // "FATAL:  28P01: password authentication failed ..." among the lines of a verbose message.
 EngineError connectError(pg_conn *handle, const PostgresTarget &target, ConnStatusType stage)
 {
-    const QString message = QString::fromUtf8(PQerrorMessage(handle)).trimmed();
+    QString message = QString::fromUtf8(PQerrorMessage(handle)).trimmed();
+    if (message.endsWith(u':'))
+        message.clear(); // it says with whom, and what has not come about yet
     static const QRegularExpression pattern(u"[A-Z]+:\\s+([0-9A-Z]{5}):\\s*([^\\n]*)"_s);
     QRegularExpressionMatch match;
     QRegularExpressionMatchIterator matches = pattern.globalMatch(message);
