@@ -1,5 +1,6 @@
 #include "transactions/documentfindform.h"
 
+#include "controls/filternote.h"
 #include "transactions/documentlist.h"
 #include "ui_documentfindform.h"
 
@@ -16,6 +17,7 @@ DocumentFindScreen::DocumentFindScreen(ScreenContext &context, DocumentList &lis
     setWindowTitle(find.caption);
     m_ui->lblNumber->setText(find.label);
     m_ui->editNumber->setObjectName(find.box);
+    addFilterNote(*this, list.table());
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &DocumentFindScreen::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }

@@ -139,6 +139,10 @@ TEST_F(ListScreensTest, findMovesToTheNumberOrSelectsWhatWasTyped)
                                                   EXPECT_FALSE(dialog.isVisible());
                                               }));
     EXPECT_EQ(grid->currentIndex().row(), 2);
+    screen.applyFilter(u"(Posted = true)"_s);
+    EXPECT_TRUE(whileOpen<DocumentFindScreen>(
+        [&] { screen.command(u"mnuFind"_s)->trigger(); },
+        [](DocumentFindScreen &dialog) { EXPECT_NE(child<QLabel>(dialog, "lblFiltered"), nullptr); }));
 }
 
 TEST_F(ListScreensTest, editOpensTheRowAndSavingComesBackToIt)
