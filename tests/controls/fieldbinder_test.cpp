@@ -170,7 +170,7 @@ TEST_F(FieldBinderTest, refusedEntryIsShownAndKeepsTheCursor)
         child<QLineEdit>(form, refusal.widget)->setFocus();
         type(refusal.typed);
         press(Qt::Key_Tab);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return focusName() == QLatin1StringView(refusal.widget); }, 1000));
+        EXPECT_TRUE(comesTrue([&] { return focusName() == QLatin1StringView(refusal.widget); }));
         ASSERT_EQ(prompts.said.size(), 1) << refusal.widget;
         EXPECT_TRUE(prompts.take().first().startsWith(QLatin1StringView(refusal.message)));
         EXPECT_THROW(binder.commit(), RuleError);

@@ -46,7 +46,7 @@ protected:
     void showAll()
     {
         showActive(grid);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return rows() == dishes; }));
+        EXPECT_TRUE(comesTrue([this] { return rows() == dishes; }));
     }
     // "2-5 9": the rows that are selected, and after a colon the one under the cursor.
     QString selected() const
@@ -76,9 +76,7 @@ protected:
     ListSearchTest()
         : ListGridTest(GetParam())
     {
-        QApplication::setKeyboardInputInterval(10'000);
     }
-    ~ListSearchTest() override { QApplication::setKeyboardInputInterval(-1); }
 
     QString name() const { return table->text(u"Name"); }
 };
@@ -183,7 +181,6 @@ ON_BOTH_STORES(ListSearchTest);
 TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
 {
     table->setIndex(u"NAME1"_s);
-    QApplication::setKeyboardInputInterval(10'000);
     showAll();
     type("dish 17");
     EXPECT_EQ(table->integer(u"DishID"), 17);
@@ -209,6 +206,7 @@ TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
         EXPECT_EQ(grid.search()->text(), QString()) << what;
     }
     grid.setFocus();
+    const int interval = QApplication::keyboardInputInterval();
     QApplication::setKeyboardInputInterval(0);
     type("x");
     QTest::qWait(5);
@@ -217,7 +215,7 @@ TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
     QTest::qWait(5);
     press(Qt::Key_Space);
     EXPECT_EQ(grid.search()->text(), u"d"_s) << "but not with a blank";
-    QApplication::setKeyboardInputInterval(-1);
+    QApplication::setKeyboardInputInterval(interval);
 
     table->setIndex(QString()); // by key, which is no text and not shown
     type("d");

@@ -133,7 +133,7 @@ TEST_F(ListScreenTest, statusLineAndHintSayWhatThereIs)
         EXPECT_EQ(status(items), rows) << what;
         EXPECT_EQ(items.list().shownHint(), hint) << what;
     }
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !prompts.said.isEmpty(); }));
+    EXPECT_TRUE(comesTrue([this] { return !prompts.said.isEmpty(); }));
     kitchen.execute(u"ALTER TABLE Away RENAME TO Item"_s);
 }
 
@@ -145,8 +145,7 @@ TEST_F(ListScreenTest, longListIsCountedAfterItHasBeenPainted)
     items.setAttribute(Qt::WA_DeleteOnClose, false);
     EXPECT_EQ(status(items), QString());
     showActive(items);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return status(items) == u"1 of 504 rows"_s; }))
-        << status(items).toStdString();
+    EXPECT_TRUE(comesTrue([&] { return status(items) == u"1 of 504 rows"_s; })) << status(items).toStdString();
 }
 
 TEST_F(ListScreenTest, typedSearchIsShown)

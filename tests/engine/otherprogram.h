@@ -23,21 +23,23 @@ public:
     {
         tell(order);
         if (!m_process.canReadLine())
-            m_process.waitForReadyRead(10000);
+            m_process.waitForReadyRead(patience);
         return QString::fromUtf8(m_process.readLine()).trimmed();
     }
     void tell(const QString &order)
     {
         m_process.write((order + u'\n').toUtf8());
-        m_process.waitForBytesWritten(10000);
+        m_process.waitForBytesWritten(patience);
     }
     void kill()
     {
         m_process.kill();
-        m_process.waitForFinished(10000);
+        m_process.waitForFinished(patience);
     }
     qint64 id() const { return m_process.processId(); }
 
 private:
+    static constexpr int patience = 120'000; // milliseconds
+
     QProcess m_process;
 };

@@ -11,13 +11,16 @@ using namespace Engine;
 
 namespace {
 
+constexpr int patience = 120'000; // milliseconds
+
 // The server notices a death within a second or so; the file system at once.
 template <typename Call> bool soon(Call call)
 {
-    for (int i = 0; i < 50; ++i) {
+    constexpr int pause = 100;
+    for (int waited = 0; waited < patience; waited += pause) {
         if (call())
             return true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        std::this_thread::sleep_for(std::chrono::milliseconds(pause));
     }
     return false;
 }

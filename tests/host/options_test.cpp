@@ -56,7 +56,7 @@ TEST(HostOptions, ProgramAnswersWithoutADisplay)
         environment.insert(u"QT_QPA_PLATFORM"_s, u"none"_s);
         host.setProcessEnvironment(environment);
         host.start(QStringLiteral(HOST_PROGRAM), {c.argument});
-        ASSERT_TRUE(host.waitForFinished());
+        ASSERT_TRUE(host.waitForFinished(120'000));
         EXPECT_EQ(host.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(host.exitCode(), c.status);
         const QByteArray said = host.readAllStandardOutput() + host.readAllStandardError();

@@ -316,7 +316,7 @@ TEST_F(ItemScreens, AskInFrontAndByNameWhenClosedFromElsewhere)
               (QStringList{u"Do you want to save changes?\n\nItem 'A10: Pears'"_s,
                            u"error: Field 'Description' must have a value"_s}));
     ASSERT_TRUE(item && item->isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == item; }));
+    EXPECT_TRUE(comesTrue([this] { return QApplication::activeWindow() == item; }));
     EXPECT_EQ(focusName(), u"editItemDescription");
     item->close();
     EXPECT_EQ(prompts.take().value(0), u"Do you want to save changes?"_s) << "in front already";

@@ -15,6 +15,10 @@ namespace {
 void numberItems(Engine::Database &database, const QStringList &count)
 {
     MasterRecord item(database, MasterKinds::item());
+    // Three users at a time would use up the attempts of a busy machine.
+    item.numbers = [&database](const QString &table, const CounterRule &rule) {
+        takeNumbers(database, table, rule, {.attempts = 1'000'000});
+    };
     item.open();
     for (int i = 0; i < count.value(0).toInt(); ++i) {
         item.newRecord();

@@ -103,7 +103,7 @@ protected:
     static void pressButton(Qt::Key letter, const std::function<bool()> &acted)
     {
         press(letter, Qt::AltModifier);
-        EXPECT_TRUE(QTest::qWaitFor(acted));
+        EXPECT_TRUE(comesTrue(acted));
     }
     // The record's screen that the list has opened.
     void takeRecord(const MasterKind &kind)

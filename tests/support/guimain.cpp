@@ -1,12 +1,18 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 
+namespace {
+constexpr int longInterval = 3'600'000; // milliseconds
+} // namespace
+
 // The main() of tests with windows; under the offscreen platform they need no display.
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     // A test that closes the last window goes on.
     QApplication::setQuitOnLastWindowClosed(false);
+    // Keys that belong together stay together when the machine is busy.
+    QApplication::setKeyboardInputInterval(longInterval);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -25,6 +25,16 @@ void OtherUser::kill()
     m_process.waitForFinished(Patience);
 }
 
+bool OtherUser::saysLine()
+{
+    while (!m_process.canReadLine()) {
+        if (!m_process.waitForReadyRead(Patience))
+            return false;
+    }
+    m_process.readLine();
+    return true;
+}
+
 bool OtherUser::finish()
 {
     return m_process.waitForFinished(Patience) && m_process.exitStatus() == QProcess::NormalExit

@@ -15,6 +15,7 @@ public:
     ~OtherUser();
 
     void kill(); // at once, as kill -9 does
+    bool saysLine(); // waits for one; false when it has ended without
     bool finish(); // waits for a good end
     QStringList output(); // lines, after finish()
 

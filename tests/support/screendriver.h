@@ -16,13 +16,20 @@ template <typename Widget> Widget *child(const QWidget &window, const char *name
     return found;
 }
 
+// What must come, however slow the machine is just then.
+template <typename Condition> bool comesTrue(Condition condition)
+{
+    constexpr int patience = 120'000;
+    return QTest::qWaitFor(condition, patience);
+}
+
 // Shows a window and waits until it has the focus.
 inline void showActive(QWidget &window)
 {
     window.show();
     window.activateWindow();
     // Of windows with the same parent, Qt calls all active when one of them is.
-    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }));
+    EXPECT_TRUE(comesTrue([&] { return QApplication::activeWindow() == &window; }));
 }
 
 // Keys go to whatever has the focus, as from a keyboard.
@@ -72,7 +79,7 @@ bool whileOpen(const std::function<void()> &action, const std::function<void(Dia
         if (!dialog)
             return;
         came = true;
-        EXPECT_TRUE(QTest::qWaitFor([dialog] { return QApplication::activeWindow() == dialog; }));
+        EXPECT_TRUE(comesTrue([dialog] { return QApplication::activeWindow() == dialog; }));
         step(*dialog);
         if (dialog->isVisible())
             dialog->reject();

@@ -18,6 +18,10 @@ void numberReceipts(Engine::Database &database, const QStringList &count)
 {
     SpokenPrompts prompts;
     ReceiptEntry entry(database, prompts);
+    // Three users at a time would use up the attempts of a busy machine.
+    entry.numbers = [&database](const QString &table, const CounterRule &rule) {
+        takeNumbers(database, table, rule, {.attempts = 1'000'000});
+    };
     entry.open();
     for (int i = 0; i < count.value(0).toInt(); ++i) {
         entry.newDocument();
@@ -26,10 +30,37 @@ void numberReceipts(Engine::Database &database, const QStringList &count)
     }
 }
 
-void post(Engine::Database &database, const QStringList &)
+// Prints a line when so many documents have been posted, and stops there if it shall wait to be killed.
+class ToldProgress final : public Progress
+{
+public:
+    explicit ToldProgress(const QStringList &arguments)
+        : m_toldAt(arguments.value(0).toInt())
+        , m_waits(arguments.value(1) == "wait"_L1)
+    {
+    }
+    void start(int) override { }
+    void step() override
+    {
+        if (++m_steps != m_toldAt)
+            return;
+        std::puts("here");
+        std::fflush(stdout);
+        if (m_waits)
+            std::getchar();
+    }
+    void finish() override { }
+
+private:
+    int m_toldAt; // 0: never
+    bool m_waits;
+    int m_steps = 0;
+};
+
+void post(Engine::Database &database, const QStringList &arguments)
 {
     SpokenPrompts prompts;
-    CountedProgress progress;
+    ToldProgress progress(arguments);
     DocumentPosting(database, DocumentKinds::receipt()).run(prompts, progress);
 }
 

@@ -80,7 +80,7 @@ TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
     press(Qt::Key_Return);
     type("1.25");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_O, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !screen; })) << "closed and freed";
+    EXPECT_TRUE(comesTrue([&] { return !screen; })) << "closed and freed";
     EXPECT_EQ(prompts.said, QStringList());
     ASSERT_EQ(saved.size(), 1);
     const int key = saved.first().first().toInt();
