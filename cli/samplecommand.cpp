@@ -2,6 +2,7 @@
 #include "cli/databasefolder.h"
 #include "cli/largekitchen.h"
 #include "cli/samplefiles.h"
+#include "data/layouts.h"
 #include "engine/query.h"
 #include "frame/shared/ruleerror.h"
 #include "transactions/documentkinds.h"
@@ -32,8 +33,8 @@ void requireEmpty(Engine::Database &database)
                                 u"IAdjust"_s, u"IUsage"_s,   u"IHist"_s,  u"IBalance"_s};
     for (const QString &table : tables) {
         if (Engine::singleValue(database, u"SELECT count(*) FROM "_s + table).toInt64() > 0)
-            throw RuleError(tr("The sample kitchen goes into a new database only: the table %1 holds rows already.")
-                                .arg(table));
+            throw RuleError(tr("The sample kitchen goes into a new database only: table '%1' holds rows already.")
+                                .arg(Layouts::titleOf(table)));
     }
 }
 

@@ -132,7 +132,7 @@ QAction *ListScreen::addCommand(QMenu *menu, const ListCommand &command)
     action->setCheckable(command.checkable);
     action->setEnabled(command.run != nullptr);
     if (!command.run)
-        action->setToolTip(tr("Not available yet"));
+        action->setToolTip(tr("Not available in this version"));
     else if (command.available)
         m_available.append({action, command.available});
     connect(action, &QAction::triggered, this, [this, run = command.run] { runCommand(run); });

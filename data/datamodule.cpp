@@ -71,6 +71,7 @@ TDataModuleTallymere::TDataModuleTallymere(SettingsStore &settings, Prompts &pro
 {
     m_session.onStartup = [this](Engine::Session &session) { startSession(session); };
     m_session.waitFor = m_options.waitFor;
+    m_session.tableTitle = Layouts::titleOf;
     m_database.onBeforeConnect = [this](Engine::Database &database) { beforeConnect(database); };
     m_database.createIfMissing = m_options.createDatabase;
     m_tempSession.onStartup = [this](Engine::Session &session) {
@@ -150,9 +151,9 @@ void TDataModuleTallymere::requireHost()
     throw Engine::EngineError(
         Engine::ErrorCode::NoSuchTable,
         QCoreApplication::translate("DataModule",
-                                    "The table \"%1\" of the host application is missing in %2. Open the company "
+                                    "The configuration of the host application is missing in %1. Open the company "
                                     "in the host application once, or choose another database.")
-            .arg(m_config.name(), m_database.connection().location()));
+            .arg(m_database.connection().location()));
 }
 
 void TDataModuleTallymere::start()

@@ -45,4 +45,7 @@ const QList<const Engine::TableLayout *> &applied();
 // By table name, without regard to case; nullptr when it is none of applied().
 const Engine::TableLayout *find(QStringView table);
 
+// What messages call a table: "Receipts" for "IReceipt". A name that is unknown stands for itself.
+QString titleOf(const QString &table);
+
 } // namespace Tallymere::Layouts

@@ -37,7 +37,7 @@ Value Field::fit(const Value &value) const
     if (characterCount(fitted.toText()) <= size)
         return fitted;
     throw EngineError(ErrorCode::BadValue,
-                      QCoreApplication::translate("Engine", "%1: \"%2\" is longer than the %3 characters that fit.")
+                      QCoreApplication::translate("Engine", "%1: '%2' is longer than %3 characters")
                           .arg(caption(), fitted.toText(), QString::number(size)));
 }
 

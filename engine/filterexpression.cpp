@@ -180,7 +180,8 @@ private:
             const bool dateOnly = beside.sort == Sort::Date;
             const QDateTime moment = Value(node.text).toDateTime();
             if (!moment.isValid())
-                refuse(node, QCoreApplication::translate("Engine", "'%1' is no date (YYYY-MM-DD).").arg(node.text));
+                refuse(node,
+                       QCoreApplication::translate("Engine", "'%1' is not a date (YYYY-MM-DD).").arg(node.text));
             const Value value = dateOnly ? Value(moment.date()) : Value(moment);
             return {{u"?"_s, {value}}, beside.sort};
         }

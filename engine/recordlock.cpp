@@ -36,7 +36,7 @@ RecordLock::RecordLock(Connection &connection, const Session &session, QString t
         if (m_held)
             break;
         if (attempt >= session.lockAttempts)
-            refuse(record);
+            refuse(record, session.titleOf(m_table));
         session.pause();
     }
     m_losses = m_locks.losses();
@@ -59,7 +59,7 @@ QList<qint64> RecordLock::anyKey()
     return {-static_cast<qint64>(bits) - 1};
 }
 
-void RecordLock::refuse(const QString &record)
+void RecordLock::refuse(const QString &record, const QString &tableTitle)
 {
     const QList<qint64> probe = anyKey();
     const QString holder = lockHolder(m_locks, m_table);
@@ -73,7 +73,7 @@ void RecordLock::refuse(const QString &record)
     throw EngineError(
         ErrorCode::TableLocked,
         QCoreApplication::translate("Engine", "Table '%1' is locked by another user%2. Try again in a moment.")
-            .arg(m_table, holder));
+            .arg(tableTitle, holder));
 }
 
 } // namespace Engine

@@ -28,7 +28,7 @@ public:
     static QList<qint64> anyKey();
 
 private:
-    [[noreturn]] void refuse(const QString &record);
+    [[noreturn]] void refuse(const QString &record, const QString &tableTitle);
 
     LockManager &m_locks;
     QString m_table;

@@ -3,6 +3,7 @@
 #include "engine/error.h"
 #include "engine/locks.h"
 #include "engine/query.h"
+#include "engine/session.h"
 
 #include <QCoreApplication>
 
@@ -47,7 +48,7 @@ bool samePrimary(const TableLayout &a, const TableLayout &b)
 class ExclusiveOpen
 {
 public:
-    ExclusiveOpen(Connection &store, const QString &table)
+    ExclusiveOpen(Connection &store, const QString &table, const QString &title)
         : m_locks(store.locks())
         , m_table(table)
     {
@@ -55,9 +56,8 @@ public:
             return;
         throw EngineError(
             ErrorCode::TableInUse,
-            tr("The table \"%1\" is open elsewhere and cannot be changed now. Have everybody close it "
-               "and try again.")
-                .arg(table));
+            tr("Table '%1' is open elsewhere and cannot be changed now. Have everybody close it and try again.")
+                .arg(title));
     }
     ~ExclusiveOpen() { m_locks.closeExclusive(m_table); }
     ExclusiveOpen(const ExclusiveOpen &) = delete;
@@ -84,7 +84,7 @@ TableLayout requireTable(Connection &store, const QString &table)
 {
     if (std::optional<TableLayout> layout = store.describe(table))
         return *layout;
-    throw EngineError(ErrorCode::NoSuchTable, tr("There is no table \"%1\" in %2.").arg(table, store.location()));
+    throw EngineError(ErrorCode::NoSuchTable, tr("There is no table '%1' in %2.").arg(table, store.location()));
 }
 
 void replaceIndexes(Connection &store, const TableLayout &stored, const TableLayout &layout)
@@ -147,7 +147,7 @@ bool Database::differs(const TableLayout &layout)
 void Database::restructureTable(const TableLayout &layout)
 {
     Connection &store = connection();
-    const ExclusiveOpen alone(store, layout.name);
+    const ExclusiveOpen alone(store, layout.name, m_session.titleOf(layout.name));
     Transaction transaction(store);
     const TableLayout stored = requireTable(store, layout.name);
     if (sameFields(stored, layout) && samePrimary(stored, layout))
@@ -176,7 +176,7 @@ void Database::createOrUpdateTable(const TableLayout &layout, EnsureOneRow ensur
 void Database::dropTable(const QString &table)
 {
     Connection &store = connection();
-    const ExclusiveOpen alone(store, table);
+    const ExclusiveOpen alone(store, table, m_session.titleOf(table));
     requireTable(store, table);
     store.execute("DROP TABLE "_L1 + store.dialect().name(table));
 }
@@ -184,7 +184,7 @@ void Database::dropTable(const QString &table)
 qint64 Database::repairTable(const QString &table)
 {
     Connection &store = connection();
-    const ExclusiveOpen alone(store, table);
+    const ExclusiveOpen alone(store, table, m_session.titleOf(table));
     return store.repair(requireTable(store, table));
 }
 

@@ -34,6 +34,10 @@ public:
     QString remotePassword;
     QString applicationUser; // shown to others as the owner of this session's locks
 
+    // What messages call a table, whose name means nothing to users. Empty: its name.
+    std::function<QString(const QString &table)> tableTitle;
+    QString titleOf(const QString &table) const { return tableTitle ? tableTitle(table) : table; }
+
     // Record locks are taken when an edit begins, tried this often with this pause in between.
     int lockAttempts = 15;
     std::chrono::milliseconds lockPause{100};

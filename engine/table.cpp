@@ -6,6 +6,7 @@
 #include "engine/datasetprivate.h"
 #include "engine/dialect.h"
 #include "engine/error.h"
+#include "engine/session.h"
 #include "engine/tableprivate.h"
 
 #include <algorithm>
@@ -66,6 +67,8 @@ Table::~Table()
     setMaster(nullptr, {});
 }
 
+QString Table::title() const { return m_database.session().titleOf(m_name); }
+
 // --- opening ---------------------------------------------------------------------------------------------------
 
 void Table::open()
@@ -81,14 +84,14 @@ void Table::open()
         const QString text = exclusive
             ? QCoreApplication::translate("Engine", "Table '%1' is in use by another user%2.")
             : QCoreApplication::translate("Engine", "Another user%2 has table '%1' open in exclusive mode.");
-        throw EngineError(ErrorCode::TableInUse, text.arg(m_name, lockHolder(locks, m_name)));
+        throw EngineError(ErrorCode::TableInUse, text.arg(title(), lockHolder(locks, m_name)));
     }
     try {
         auto stored = connection.describe(m_name);
         if (!stored) {
             throw EngineError(ErrorCode::NoSuchTable,
                               QCoreApplication::translate("Engine", "There is no table '%1' in %2.")
-                                  .arg(m_name, connection.location()));
+                                  .arg(title(), connection.location()));
         }
         m_layout = std::move(*stored);
         setDataFields(dataFields(m_layout));
@@ -138,9 +141,10 @@ void Table::lockTable()
         return;
     LockManager &locks = m_database.connection().locks();
     if (!locks.tryLockTable(m_name)) {
-        throw EngineError(ErrorCode::TableLocked,
-                          QCoreApplication::translate("Engine", "Table '%1' is locked by another user%2.")
-                              .arg(m_name, lockHolder(locks, m_name)));
+        throw EngineError(
+            ErrorCode::TableLocked,
+            QCoreApplication::translate("Engine", "Table '%1' is locked by another user%2. Try again in a moment.")
+                .arg(title(), lockHolder(locks, m_name)));
     }
     m_tableLocked = true;
 }

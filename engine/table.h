@@ -23,6 +23,7 @@ public:
     ~Table() override;
 
     const QString &name() const { return m_name; }
+    QString title() const; // what messages call it: "Receipts"
     const TableLayout &layout() const { return m_layout; } // as stored, known once open
 
     // --- opening ------------------------------------------------------------------------------------------------

@@ -110,7 +110,7 @@ void Table::edit()
 QString Table::recordText() const
 {
     const QString name = recordName ? recordName() : QString();
-    return name.isEmpty() ? QCoreApplication::translate("Engine", "This record of table '%1'").arg(m_name)
+    return name.isEmpty() ? QCoreApplication::translate("Engine", "This record of table '%1'").arg(title())
                           : u'\'' + name + u'\'';
 }
 

@@ -36,11 +36,9 @@ void Table::requirePrimaryKey() const
         const bool given = field(index).type == FieldType::AutoInc && m_state == TableState::Insert;
         if (given || !m_edit->values[static_cast<size_t>(index)].toText().isEmpty())
             continue;
-        throw EngineError(ErrorCode::RequiredField,
-                          QCoreApplication::translate("Engine",
-                                                      "%1 must have a value before a record of table '%2' "
-                                                      "can be saved.")
-                              .arg(field(index).caption(), m_name));
+        throw EngineError(
+            ErrorCode::RequiredField,
+            QCoreApplication::translate("Engine", "Field '%1' must have a value").arg(field(index).caption()));
     }
 }
 
@@ -68,7 +66,7 @@ void Table::writeRow()
             throw;
         throw EngineError(
             error.code(),
-            QCoreApplication::translate("Engine", "Table '%1' already has a record with this key.").arg(m_name),
+            QCoreApplication::translate("Engine", "Table '%1' already has a record with this key.").arg(title()),
             error.driverText());
     }
 }
@@ -98,8 +96,8 @@ void Table::requireUnique(int fieldNumber) const
     if (!statement->next())
         return;
     throw EngineError(ErrorCode::KeyViolation,
-                      QCoreApplication::translate("Engine", "%1 \"%2\" already exists in table '%3'.")
-                          .arg(field(fieldNumber).caption(), value.toText(), m_name));
+                      QCoreApplication::translate("Engine", "%1 '%2' already exists in table '%3'.")
+                          .arg(field(fieldNumber).caption(), value.toText(), title()));
 }
 
 static void passAutoIncrement(Connection &connection, const QString &table, const QString &field,
@@ -262,7 +260,7 @@ void Table::removeAll()
     });
     for (int i = 0; few && i < d->keys.count(); ++i)
         locks.emplace_back(connection, m_database.session(), m_name, lockKey(reader.rowAt(i)),
-                           QCoreApplication::translate("Engine", "A record of table '%1'").arg(m_name));
+                           QCoreApplication::translate("Engine", "A record of table '%1'").arg(title()));
     const SqlCondition condition = reader.source().condition();
     QString sql = u"DELETE FROM %1 AS t"_s.arg(connection.dialect().name(m_layout.name));
     if (!condition.isEmpty())

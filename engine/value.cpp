@@ -17,7 +17,7 @@ namespace {
 [[noreturn]] void refuse(const Value &value, const char *expected)
 {
     throw EngineError(ErrorCode::BadValue,
-                      QCoreApplication::translate("Engine", "\"%1\" is not %2.")
+                      QCoreApplication::translate("Engine", "'%1' is not %2")
                           .arg(value.toText(), QCoreApplication::translate("Engine", expected)));
 }
 
@@ -74,7 +74,7 @@ Value asWhole(const Value &value, qint64 least, qint64 greatest)
     const qint64 whole = value.toInt64();
     if (whole < least || whole > greatest) {
         throw EngineError(ErrorCode::BadValue,
-                          QCoreApplication::translate("Engine", "%1 is not between %2 and %3.")
+                          QCoreApplication::translate("Engine", "'%1' is not within %2 to %3")
                               .arg(value.toText(), QString::number(least), QString::number(greatest)));
     }
     return whole;

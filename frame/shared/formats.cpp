@@ -68,7 +68,7 @@ Value moneyFromText(const QString &text, const RegionalSettings &settings, const
     try {
         return Money::fromDouble(numberFromText(text, settings, column));
     } catch (const std::range_error &) {
-        throw RuleError(QCoreApplication::translate("Numbers", "'%1' is too large").arg(text.trimmed()), column);
+        throw RuleError(QCoreApplication::translate("Numbers", "'%1' is out of range").arg(text.trimmed()), column);
     }
 }
 

@@ -31,7 +31,7 @@ int integerFromText(const QString &text, const QString &column)
     bool ok = false;
     const int number = text.trimmed().toInt(&ok);
     if (!ok)
-        refuse(QT_TRANSLATE_NOOP("Numbers", "'%1' is not a valid integer value"), text.trimmed(), column);
+        refuse(QT_TRANSLATE_NOOP("Numbers", "'%1' is not a whole number"), text.trimmed(), column);
     return number;
 }
 
@@ -43,7 +43,7 @@ double numberFromText(const QString &text, const RegionalSettings &settings, con
     plain.replace(settings.decimalPoint, u'.');
     const double number = ok ? plain.toDouble(&ok) : 0;
     if (!ok)
-        refuse(QT_TRANSLATE_NOOP("Numbers", "'%1' is not a valid number"), text.trimmed(), column);
+        refuse(QT_TRANSLATE_NOOP("Numbers", "'%1' is not a number"), text.trimmed(), column);
     return number;
 }
 

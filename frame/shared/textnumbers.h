@@ -9,11 +9,11 @@
 
 namespace Tallymere {
 
-// A whole number of 32 bits: "'12x' is not a valid integer value".
+// A whole number of 32 bits: "'12x' is not a whole number".
 int integerFromText(const QString &text, const QString &column = {});
 
 // A decimal number with the user's decimal point and, in complete groups of three digits, the group separator. No
-// exponents, nothing infinite: "'1,5' is not a valid number".
+// exponents, nothing infinite: "'1,5' is not a number".
 double numberFromText(const QString &text, const RegionalSettings &settings = RegionalSettings::system(),
                       const QString &column = {});
 

@@ -62,7 +62,7 @@ TEST_P(Concurrency, ATableHeldByAnotherUserRefusesImportAndPosting)
 
     const CliResult import = cli.import(u"receipts"_s, receipts);
     EXPECT_EQ(import.status, 1) << import;
-    EXPECT_TRUE(import.errors.contains("IReceipt"_L1)) << import;
+    EXPECT_TRUE(import.errors.contains("Table 'Receipts' is locked"_L1)) << import;
     const CliResult post = cli.run({u"post"_s, u"receipts"_s});
     EXPECT_EQ(post.status, 1);
     EXPECT_EQ(post.errorLines().value(0),

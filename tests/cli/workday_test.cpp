@@ -107,7 +107,7 @@ TEST_P(Workday, TheSampleKitchenAddsUpAndGoesIntoANewDatabaseOnly)
 
     const CliResult again = cli.run({u"sample"_s});
     EXPECT_EQ(again.status, 1);
-    EXPECT_TRUE(again.errors.contains("the table Item holds rows already"_L1)) << again;
+    EXPECT_TRUE(again.errors.contains("table 'Item' holds rows already"_L1)) << again;
 }
 
 TEST_P(Workday, AFilterThatCannotBeReadIsRefused)

@@ -218,7 +218,7 @@ TEST_P(DataModule, DatabaseWithoutHostIsLeftAlone)
 {
     QString text;
     EXPECT_EQ(errorOf([&] { start(); }, &text), ErrorCode::NoSuchTable);
-    EXPECT_TRUE(text.startsWith(u"The table \"Config\" of the host application is missing in "_s))
+    EXPECT_TRUE(text.startsWith(u"The configuration of the host application is missing in "_s))
         << text.toStdString();
     EXPECT_TRUE(store.database().tableNames().isEmpty());
 

@@ -61,9 +61,9 @@ TEST(CurrencyFormat, ReadsWhatPeopleType)
 
     for (const auto &text : {u"1,5"_s, u"1e5"_s, u"inf"_s, u"nan"_s, u"."_s, u"-"_s, u"1.2.3"_s, u"12,34,567"_s,
                              u"(5)"_s, u"5 $"_s, u"٣"_s})
-        EXPECT_EQ(refusal(format, text), u"'%1' is not a valid number"_s.arg(text));
-    EXPECT_EQ(refusal(format, u"999999999999999999"_s), u"'999999999999999999' is too large"_s);
-    EXPECT_EQ(refusalOf([&] { format.parse(u"x"_s); }), u"'x' is not a valid number -> UnitCost"_s);
+        EXPECT_EQ(refusal(format, text), u"'%1' is not a number"_s.arg(text));
+    EXPECT_EQ(refusal(format, u"999999999999999999"_s), u"'999999999999999999' is out of range"_s);
+    EXPECT_EQ(refusalOf([&] { format.parse(u"x"_s); }), u"'x' is not a number -> UnitCost"_s);
 }
 
 TEST(Numbers, FollowTheUsersSeparators)
@@ -105,7 +105,7 @@ TEST(TwoDigitYear, ShowsFourAndTakesTwo)
     for (const auto &text : {u"2004"_s, u"100"_s, u"-1"_s, u"4x"_s, u"99999999999"_s})
         EXPECT_EQ(refusal(format, text), message);
     EXPECT_EQ(refusal(twoDigitYearFormat(message, {}, NoNumber::AsNoInteger), u"4x"_s),
-              u"'4x' is not a valid integer value"_s);
+              u"'4x' is not a whole number"_s);
 }
 
 TEST(PeriodNumber, LiesBetweenOneAndTwelve)

@@ -86,7 +86,7 @@ TEST_F(CompanyScreen, RefusedEntriesKeepTheCursor)
     type("27");
     enter("DBEditDefaultNetDays", "abc");
     EXPECT_EQ(prompts.take(),
-              QStringList{u"error: Default Days in which invoice is due: \"abc\" is not a whole number."_s});
+              QStringList{u"error: Default Days in which invoice is due: 'abc' is not a whole number"_s});
     focus("memoNotes");
     settle();
     EXPECT_EQ(prompts.take().size(), 1);

@@ -62,7 +62,7 @@ TEST_P(OrganizationFields, YearsAreTypedInTwoDigits)
             {u"49"_s, u"2049"_s},   {u"50"_s, u"1950"_s},
             {u" 99 "_s, u"1999"_s}, {u""_s, u""_s},
             {u"2004"_s, refusal},   {u"100"_s, refusal},
-            {u"-1"_s, refusal},     {u"x4"_s, u"'x4' is not a valid integer value -> "_s + field}};
+            {u"-1"_s, refusal},     {u"x4"_s, u"'x4' is not a whole number -> "_s + field}};
         for (const auto &[text, expected] : cases)
             EXPECT_EQ(typed(field, text), expected) << field.toStdString() << " " << text.toStdString();
         EXPECT_EQ(typed(field, u"26"_s), u"2026"_s);
@@ -81,7 +81,7 @@ TEST_P(OrganizationFields, PeriodsGoFrom1To12)
         EXPECT_EQ(typed(field, u"12"_s), u"12"_s);
         for (const auto &outside : {u"0"_s, u"13"_s, u"-3"_s})
             EXPECT_TRUE(typed(field, outside).endsWith(u"The allowed range is 1 to 12 -> "_s + field));
-        EXPECT_EQ(typed(field, u"1.5"_s), u"'1.5' is not a valid integer value -> "_s + field);
+        EXPECT_EQ(typed(field, u"1.5"_s), u"'1.5' is not a whole number -> "_s + field);
         EXPECT_NE(refusalOf([&] { company.set(field, 13); }), QString());
         EXPECT_EQ(company.integer(field), 12) << "what was there before";
         EXPECT_EQ(typed(field, u""_s), QString());
