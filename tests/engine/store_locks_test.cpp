@@ -178,7 +178,7 @@ TEST_P(LocksTest, AProgramKilledWithinATransactionLeavesNothingBehind)
     ASSERT_EQ(other.ask(GetParam() == Store::Local ? u"sql BEGIN IMMEDIATE"_s : u"sql BEGIN"_s), u"yes"_s);
     ASSERT_EQ(other.ask(u"sql INSERT INTO T VALUES (1)"_s), u"yes"_s);
     if (GetParam() == Store::Remote)
-        other.tell(u"sql SELECT pg_sleep(30)"_s); // the server is busy for a client that is gone
+        other.tell(u"sql SELECT pg_sleep(3600)"_s); // the server is busy for a client that is gone
     other.kill();
     EXPECT_TRUE(soon([&] { return mine.tryLockTable(u"T"_s); }));
     Transaction transaction(connection);
