@@ -1,5 +1,6 @@
 #include "controls/dialogscreen.h"
 
+#include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
 
 #include <QLineEdit>
@@ -23,15 +24,17 @@ void DialogScreen::focusColumn(const QString &column)
     QWidget *widget = widgetOfColumn(column);
     if (!widget)
         return;
-    widget->setFocus();
+    putCursorOn(*widget);
     if (auto *edit = qobject_cast<QLineEdit *>(widget))
         edit->selectAll();
 }
 
 bool DialogScreen::event(QEvent *event)
 {
-    if (event->type() == QEvent::Polish && !std::exchange(m_scaled, true))
+    if (event->type() == QEvent::Polish && !std::exchange(m_scaled, true)) {
         scaleForm(this);
+        leadTabToChosen(*this);
+    }
     return QDialog::event(event);
 }
 

@@ -1,15 +1,16 @@
 #include "controls/entryscreen.h"
 
 #include "controls/listbuttons.h"
+#include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
 #include "controls/wordwrapmenu.h"
 
-#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -60,6 +61,7 @@ void EntryScreen::buildScreen()
     }
     connectListButtons(*this, m_context, m_guard, [this](const QString &field) { return m_binder.keyIn(field); });
     connectWordWrapMenus(*this);
+    leadTabToChosen(*this);
     if (auto *panel = findChild<QWidget *>(bottomPanel))
         panel->installEventFilter(this);
     showCaption();
@@ -71,7 +73,7 @@ bool EntryScreen::focusColumn(const QString &column)
     if (!widget)
         return false;
     showPageOf(widget);
-    widget->setFocus();
+    putCursorOn(*widget);
     return true;
 }
 
@@ -162,16 +164,25 @@ void EntryScreen::reject() { close(); }
 
 // --- keys and sizes ---------------------------------------------------------------------------------------------
 
+// From field to field: the small buttons beside them, where Tab stops, would swallow what is typed next.
+void EntryScreen::moveOn()
+{
+    const QWidget *from = focusWidget();
+    do {
+        focusNextChild();
+    } while (qobject_cast<QToolButton *>(focusWidget()) && focusWidget() != from);
+}
+
 void EntryScreen::keyPressEvent(QKeyEvent *event)
 {
     if (takeKey(event))
         return;
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && !(event->modifiers() & ~Qt::KeypadModifier)) {
-        if (auto *button = qobject_cast<QAbstractButton *>(focusWidget()); qobject_cast<QPushButton *>(button))
+        if (auto *button = qobject_cast<QPushButton *>(focusWidget()))
             button->click();
         else
-            focusNextChild();
+            moveOn();
         return;
     }
     // Notes are too long to be lost by one key.

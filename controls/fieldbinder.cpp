@@ -2,6 +2,7 @@
 
 #include "controls/fieldbinding.h"
 #include "controls/leaving.h"
+#include "controls/screenmetrics.h"
 #include "engine/error.h"
 #include "frame/shared/ruleerror.h"
 
@@ -197,7 +198,7 @@ void FieldBinder::leave(FieldBinding &binding)
         this,
         [this, widget, column, failure] {
             m_guard.focus(column); // on a page that may be behind others by now
-            widget->setFocus();
+            putCursorOn(*widget);
             m_guard.report(failure);
             m_refusing = false;
             // A choice is refused as a whole; a typed text stays to be mended or typed over.

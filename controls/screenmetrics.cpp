@@ -36,6 +36,12 @@ void bringToFront(QWidget &window)
     window.activateWindow();
 }
 
+void putCursorOn(QWidget &widget)
+{
+    widget.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    widget.setFocus();
+}
+
 void markAsFurther(QWidget &window) { window.setProperty(furtherProperty, true); }
 
 QWidget *findScreen(const QString &name)

@@ -21,6 +21,10 @@ void fitToScreen(QWidget *window);
 // Shows a window, not minimised, in front of the others and active.
 void bringToFront(QWidget &window);
 
+// Gives a widget the cursor for a message to point at. It is marked although no key has led there: in drop-down lists
+// and buttons styles show the cursor only while the keyboard is in use.
+void putCursorOn(QWidget &widget);
+
 // The open window with the component name, or nullptr. Where several are open it is the one that commands lead to, not
 // a further one.
 void markAsFurther(QWidget &window);

@@ -194,6 +194,14 @@ std::optional<int> DocumentScreen::savedKey() const
 
 QString DocumentScreen::caption() const { return m_entry->caption(); }
 
+// The caption of a new document does not tell it from another one.
+QString DocumentScreen::recordName() const
+{
+    const DocumentKind &kind = m_entry->kind();
+    const QString number = m_entry->header().text(kind.numberField.isEmpty() ? kind.keyField : kind.numberField);
+    return caption().contains(number) ? caption() : tr("%1 '%2'").arg(caption(), number);
+}
+
 bool DocumentScreen::focusColumn(const QString &column)
 {
     if (EntryScreen::focusColumn(column))

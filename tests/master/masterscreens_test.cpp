@@ -7,6 +7,7 @@
 #include "tests/transactions/screentest.h"
 
 #include <QAction>
+#include <QImage>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -199,6 +200,21 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
         list->close();
         settle();
     }
+}
+
+// With the mouse in hand as well.
+TEST_F(MasterScreens, MarkTheBoxThatAMessageIsAbout)
+{
+    openList(MasterKinds::bank());
+    click(*list, "btnNew");
+    takeRecord(MasterKinds::bank());
+    auto *currency = child<QWidget>(*record, "cboCurrency");
+    type("Savings");
+    const QImage before = currency->grab().toImage();
+    QTest::mouseClick(child<QPushButton>(*record, "btnOK"), Qt::LeftButton);
+    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Currency' must have a value"_s});
+    EXPECT_EQ(focusName(), u"cboCurrency"_s);
+    EXPECT_NE(currency->grab().toImage(), before);
 }
 
 TEST_F(MasterScreens, DropOrKeepWhatIsNew)

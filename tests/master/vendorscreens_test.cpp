@@ -122,7 +122,13 @@ TEST_F(VendorScreensTest, listIsSortedFilteredAndSearched)
     filter([](FilterDialog &dialog) {
         EXPECT_EQ(focusName(), u"cboCurrency"_s);
         type("Ho");
-        child<QRadioButton>(dialog, "optSuspendedNo")->click();
+        press(Qt::Key_Tab);
+        EXPECT_EQ(focusName(), u"optSuspendedAll"_s) << "the chosen one";
+        press(Qt::Key_Left);
+        EXPECT_TRUE(child<QRadioButton>(dialog, "optSuspendedNo")->isChecked());
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
+        press(Qt::Key_Tab);
+        EXPECT_EQ(focusName(), u"optSuspendedNo"_s);
         press(Qt::Key_Return);
     });
     EXPECT_EQ(shown(), QStringList{u"V1"_s});

@@ -265,6 +265,32 @@ TEST_F(ReceiptScreenTest, vendorNumberIsLookedUpOnLeavingAndEscapeRestoresIt)
 }
 
 // The receipt is edited when the number is taken over, not while it is typed.
+TEST_F(ReceiptScreenTest, enterGoesFromFieldToFieldAndTabStopsAtButtonsToo)
+{
+    context->hasScreen = [](const QString &) { return true; };
+    context->openScreen = [](const QString &) { return nullptr; };
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    open(7);
+    child<LookupComboBox>(*screen, "cboVendor")->setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focusName(), u"btnVendor"_s);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    press(Qt::Key_Return);
+    EXPECT_EQ(focusName(), u"cboWarehouse"_s);
+    press(Qt::Key_Return);
+    type("PO-9");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focusName(), u"editReceiptNo"_s);
+    press(Qt::Key_Return);
+    type("1/2/26");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focusName(), u"editGLPeriod"_s);
+    pressOK();
+    settle();
+    EXPECT_EQ(kitchen.rows(u"SELECT PurchaseOrderNo, ReceiptDate FROM IReceipt"_s),
+              QStringList(u"PO-9|2026-01-02"_s));
+}
+
 TEST_F(ReceiptScreenTest, typedVendorNumberTouchesTheReceiptWhenItIsTakenOver)
 {
     const auto anna = kitchen.anotherUser();
@@ -292,6 +318,10 @@ TEST_F(ReceiptScreenTest, typedVendorNumberTouchesTheReceiptWhenItIsTakenOver)
     type("V2");
     screen->close();
     EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s)) << "what is typed is not lost";
+    showActive(*mainWindow);
+    screen->close();
+    EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?\n\nReceipt 1007"_s));
+    showActive(*screen);
     pressOK();
     settle();
     EXPECT_EQ(prompts.take(), QStringList());
