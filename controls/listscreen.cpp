@@ -198,7 +198,7 @@ void ListScreen::showAvailable()
         return;
     for (const auto &[action, isAvailable] : std::as_const(m_available)) {
         bool available = false;
-        const std::exception_ptr failure = Guard::attempt([&] { available = isAvailable(); });
+        const std::exception_ptr failure = Guard::attempt([&, &test = isAvailable] { available = test(); });
         action->setEnabled(available && !failure);
     }
 }

@@ -200,14 +200,14 @@ TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
     showActive(*list);
     click("btnEdit");
     EXPECT_EQ(windows(), 1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return receipt->isActiveWindow(); }));
+    EXPECT_TRUE(comesTrue([&] { return receipt->isActiveWindow(); }));
 
     auto *history = new QWidget(mainWindow.get(), Qt::Window); // a window with rows of the document, and no list
     RecordOpener jump(*context, recordScreens(DocumentKinds::receipt()), history);
     showActive(*history);
     jump.open(1, u"Receipt 1001"_s);
     EXPECT_EQ(windows(), 1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return receipt->isActiveWindow(); }));
+    EXPECT_TRUE(comesTrue([&] { return receipt->isActiveWindow(); }));
     EXPECT_THROW(jump.open(77, u"Receipt 77"_s), RuleError);
 
     delete list.data();
@@ -227,7 +227,7 @@ TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
     type("1010");
     receipt->btnOKClick();
     EXPECT_EQ(row(grid->currentIndex().row()).at(2), u"1010"_s);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return history->isActiveWindow(); })) << "where work goes on";
+    EXPECT_TRUE(comesTrue([&] { return history->isActiveWindow(); })) << "where work goes on";
     EXPECT_EQ(prompts.said, QStringList());
 }
 

@@ -84,7 +84,7 @@ protected:
     }
     bool isClosed()
     {
-        return QTest::qWaitFor([&] { return !screen; });
+        return comesTrue([&] { return !screen; });
     }
     void clickOK() { child<QPushButton>(*screen, "btnOK")->click(); }
 

@@ -40,7 +40,7 @@ protected:
     void expectCloses(const std::function<void()> &close)
     {
         close();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !screen; }));
+        EXPECT_TRUE(comesTrue([&] { return !screen; }));
     }
 
     QPointer<TfrmInvReceipt> screen;
