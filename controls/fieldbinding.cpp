@@ -1,5 +1,6 @@
 #include "controls/fieldbinding.h"
 
+#include "controls/comboboxname.h"
 #include "controls/lookupcombobox.h"
 #include "controls/maskedentry.h"
 
@@ -185,6 +186,7 @@ public:
         , m_box(box)
         , m_values(box->property("values").toStringList())
     {
+        keepComboBoxNames();
         QObject::connect(box, &QComboBox::activated, box, [this] {
             if (chosen() == value())
                 return;

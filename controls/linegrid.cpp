@@ -1,5 +1,6 @@
 #include "controls/linegrid.h"
 
+#include "controls/leaving.h"
 #include "controls/linedelegate.h"
 #include "controls/screenmetrics.h"
 #include "controls/stepbox.h"
@@ -345,20 +346,20 @@ bool LineGrid::finishEntry()
     return false;
 }
 
-void LineGrid::editorLeft(Qt::FocusReason reason)
+void LineGrid::editorLeft(const QFocusEvent &event)
 {
-    if (!m_editor || m_reporting || reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason)
+    if (!m_editor || m_reporting)
         return;
-    const QWidget *next = QApplication::focusWidget();
-    if (next && next->property("keepsEntry").toBool()) {
-        dropEntry();
+    if (!handsEntryOver(event)) {
+        if (keepsEntry(QApplication::focusWidget()))
+            dropEntry();
         return;
     }
     const QString text = m_editor->text();
     const QPersistentModelIndex index = m_edited;
     const std::exception_ptr failure = Guard::attempt([this] { commitEntry(); });
     if (!failure)
-        return leave(reason);
+        return leave(event.reason());
     closeEntry();
     reportLater(failure, [this, index, text] { reopen(index, text); });
 }

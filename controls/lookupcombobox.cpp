@@ -1,5 +1,6 @@
 #include "controls/lookupcombobox.h"
 
+#include "controls/comboboxname.h"
 #include "controls/leaving.h"
 #include "controls/screenmetrics.h"
 
@@ -39,6 +40,7 @@ QTableView *makeListView(QWidget *parent)
 LookupComboBox::LookupComboBox(QWidget *parent)
     : QComboBox(parent)
 {
+    keepComboBoxNames();
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(12);
     setMaxVisibleItems(visibleRows);

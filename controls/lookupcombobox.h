@@ -11,7 +11,8 @@ namespace Tallymere {
 //
 // Typing letters moves to the first row that begins with them, the arrow keys to the rows beside it; the choice is
 // made on leaving the box (not towards a widget that keeps the entry, see leaving.h), with Enter, or at once by picking
-// from the open list. Delete clears it, Escape goes back to the last choice. The list is read again when the cursor comes, and each time it is dropped down.
+// from the open list. Delete clears it, Escape goes back to the last choice. The list is read again when the cursor
+// comes, and each time it is dropped down.
 class LookupComboBox : public QComboBox
 {
     Q_OBJECT

@@ -5,6 +5,7 @@
 #include "tests/support/teststore.h"
 
 #include <gtest/gtest.h>
+#include <QAccessible>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -96,6 +97,19 @@ TEST_F(LookupComboBoxTest, escapeGoesBackAndDeleteClears)
     EXPECT_EQ(box->currentText(), QString()) << "not chosen yet";
     other->setFocus();
     EXPECT_EQ(chosen.size(), 1);
+}
+
+TEST_F(LookupComboBoxTest, keepsItsNameForAccessibilityToolsWhateverIsChosen)
+{
+    box->setAccessibleName(u"Location"_s);
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(box);
+    for (const auto &[key, shown] : {std::pair{1, u"Freezer"_s}, {3, u"Fridge"_s}}) {
+        box->setChosenId(key);
+        EXPECT_EQ(accessible->text(QAccessible::Name), u"Location"_s);
+        EXPECT_EQ(accessible->text(QAccessible::Value), shown);
+        ASSERT_NE(accessible->textInterface(), nullptr);
+        EXPECT_EQ(accessible->textInterface()->text(0, accessible->textInterface()->characterCount()), shown);
+    }
 }
 
 // Whoever adds a row or reads the shared list again, the box stands on its record and finds what is there by now.

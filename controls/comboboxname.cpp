@@ -1,0 +1,111 @@
+#include "controls/comboboxname.h"
+
+#include "controls/lookupcombobox.h"
+
+#include <QAbstractItemView>
+#include <QAccessibleWidget>
+#include <QVariant>
+
+namespace Tallymere {
+
+namespace {
+
+// What a closed box shows, for reading only.
+class ComboBoxText final : public QAccessibleTextInterface
+{
+public:
+    explicit ComboBoxText(const QComboBox &box)
+        : m_box(box)
+    {
+    }
+
+    void selection(int, int *start, int *end) const override { *start = *end = 0; }
+    int selectionCount() const override { return 0; }
+    void addSelection(int, int) override { }
+    void removeSelection(int) override { }
+    void setSelection(int, int, int) override { }
+    int cursorPosition() const override { return 0; }
+    void setCursorPosition(int) override { }
+    QString text(int start, int end) const override { return m_box.currentText().mid(start, end - start); }
+    int characterCount() const override { return static_cast<int>(m_box.currentText().size()); }
+    QRect characterRect(int) const override { return {}; }
+    int offsetAtPoint(const QPoint &) const override { return -1; }
+    void scrollToSubstring(int, int) override { }
+    QString attributes(int, int *start, int *end) const override
+    {
+        *start = 0;
+        *end = characterCount();
+        return {};
+    }
+
+private:
+    const QComboBox &m_box;
+};
+
+class NamedComboBox final : public QAccessibleWidget
+{
+public:
+    explicit NamedComboBox(QComboBox *box)
+        : QAccessibleWidget(box, QAccessible::ComboBox)
+        , m_box(*box)
+        , m_text(*box)
+    {
+        QObject::connect(box, &QComboBox::currentTextChanged, box,
+                         [box, last = box->currentText()](const QString &text) mutable {
+                             QAccessibleTextUpdateEvent changed(box, 0, last, text);
+                             QAccessible::updateAccessibility(&changed);
+                             last = text;
+                         });
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_box.currentText() : QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = m_box.view()->isVisible();
+        return state;
+    }
+    QStringList actionNames() const override { return {showMenuAction(), pressAction()}; }
+    void doAction(const QString &name) override
+    {
+        if (name != showMenuAction() && name != pressAction())
+            return;
+        if (m_box.view()->isVisible())
+            m_box.hidePopup();
+        else
+            m_box.showPopup();
+    }
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface *>(&m_text)
+                                                  : QAccessibleWidget::interface_cast(type);
+    }
+
+private:
+    QComboBox &m_box;
+    ComboBoxText m_text;
+};
+
+QAccessibleInterface *makeNamed(const QString &, QObject *object)
+{
+    auto *box = qobject_cast<QComboBox *>(object);
+    const bool ours = qobject_cast<LookupComboBox *>(box) || (box && box->property("dataField").isValid());
+    return ours ? new NamedComboBox(box) : nullptr;
+}
+
+} // namespace
+
+void keepComboBoxNames()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(makeNamed);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+} // namespace Tallymere
