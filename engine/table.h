@@ -5,6 +5,7 @@
 
 namespace Engine {
 
+class EngineError;
 struct SqlCondition;
 
 enum class TableState { Inactive, Browse, Edit, Insert };
@@ -100,6 +101,7 @@ public:
         std::function<void()> newRecord; // the new record exists and takes defaults
         std::function<void()> beforeInsert, beforeEdit, afterEdit;
         std::function<void()> beforePost, afterPost;
+        std::function<void(const EngineError &)> postFailed; // may throw what shall be told instead
         std::function<void()> beforeCancel, afterCancel;
         std::function<void()> beforeRemove, afterRemove;
         std::function<void()> afterScroll; // another record became current

@@ -322,7 +322,13 @@ void Table::post()
     }
     call(events.beforePost);
     requirePrimaryKey();
-    write();
+    try {
+        write();
+    } catch (const EngineError &error) {
+        if (events.postFailed)
+            events.postFailed(error);
+        throw;
+    }
     const bool wasInsert = m_state == TableState::Insert;
     bool placeMayDiffer = wasInsert;
     for (int i = 0; i < fieldCount() && !placeMayDiffer; ++i) {

@@ -116,6 +116,10 @@ void DocumentEntry::hookHeader()
         m_lockWasLost = false;
         m_keptLines.reset();
     };
+    m_header.events.postFailed = [this](const Engine::EngineError &error) {
+        if (error.code() == ErrorCode::KeyViolation)
+            throw RuleError(m_kind.numberTaken, m_kind.shownField());
+    };
     m_header.events.afterCancel = [this] {
         m_lockWasLost = false;
         m_keptLines.reset();
@@ -187,7 +191,7 @@ void DocumentEntry::checkHeader()
     if (isPosted())
         return;
     checkComplete();
-    saveLine();
+    m_lines.checkBrowseMode();
     checkPeriod();
     checkReferences();
     for (const QString &field : m_kind.requiredFields)
@@ -272,6 +276,12 @@ void DocumentEntry::hookLines()
         if (m_keptLines)
             m_keptLines->changed(m_lines.integer(u"Seq"), currentLine());
         lineSaved();
+    };
+    // The numbers of lines are no concern of the user; saved again, the line gets another one.
+    m_lines.events.postFailed = [](const Engine::EngineError &error) {
+        if (error.code() == ErrorCode::KeyViolation)
+            throw RuleError(tr("The line could not be saved because another one was added meanwhile. Try again."),
+                            LineGrid);
     };
     m_lines.events.afterRemove = [this] {
         if (m_keptLines)
@@ -459,32 +469,13 @@ void DocumentEntry::removeLine()
 
 void DocumentEntry::save()
 {
-    if (m_header.isEditing())
+    if (m_header.isEditing()) {
         holdDocument();
-    try {
-        if (m_header.isEditing())
-            m_header.post();
-    } catch (const Engine::EngineError &error) {
-        if (error.code() != ErrorCode::KeyViolation)
-            throw;
-        throw RuleError(m_kind.numberTaken, m_kind.shownField());
+        m_header.post();
     }
-    saveLine();
+    m_lines.checkBrowseMode();
     m_header.flush();
     m_lines.flush();
-}
-
-// The numbers of lines are no concern of the user; saved again, the line gets another one.
-void DocumentEntry::saveLine()
-{
-    try {
-        m_lines.checkBrowseMode();
-    } catch (const Engine::EngineError &error) {
-        if (error.code() != ErrorCode::KeyViolation)
-            throw;
-        throw RuleError(tr("The line could not be saved because another one was added meanwhile. Try again."),
-                        LineGrid);
-    }
 }
 
 void DocumentEntry::cancel()

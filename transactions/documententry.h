@@ -142,7 +142,6 @@ private:
     void numberLine();
     int highestSeq() const;
     QString lineName() const;
-    void saveLine();
     Engine::Value itemOfNumber(const QString &itemNo) const; // null when there is none
     void validateItem(const Engine::Value &itemId) const;
     bool hasLines() const;
