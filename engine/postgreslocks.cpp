@@ -39,7 +39,8 @@ const QString foreignWriters =
     "AND l.pid <> pg_backend_pid() "
     "AND l.database = (SELECT oid FROM pg_database WHERE datname = current_database()) "
     "AND l.relation IN (SELECT oid FROM pg_class WHERE relname = ?) "
-    "AND l.mode NOT IN ('AccessShareLock', 'ShareUpdateExclusiveLock')"_s; // readers and the server's own vacuum
+    // Readers and those who clean up are in nobody's way; the server's own work gives way to whoever waits for it.
+    "AND l.mode NOT IN ('AccessShareLock', 'ShareUpdateExclusiveLock') AND a.backend_type = 'client backend'"_s;
 
 qint64 hashOf(const QByteArray &bytes)
 {
