@@ -13,10 +13,10 @@ namespace Tallymere {
 
 // A window in which one record or document is entered. Not modal; it is freed when it is closed.
 //
-// Enter moves on as Tab does, but passes over the small buttons beside fields. Escape takes back what is being typed, except in notes, else it closes. Closing with
-// changes asks whether they shall be saved, in front of the other windows and naming the record when it is closed from
-// one of those; a new record that nobody has touched is dropped silently. Its place, size
-// and the column widths of its grids are remembered.
+// Enter moves on as Tab does, but passes over the small buttons beside fields. Escape takes back what is being typed,
+// except in notes, else it closes. Closing with changes asks whether they shall be saved, in front of the other windows
+// and naming the record when it is closed from one of those; a new record that nobody has touched is dropped silently.
+// Its place, size and the column widths of its grids are remembered.
 class EntryScreen : public QDialog, public TableOwner
 {
     Q_OBJECT

@@ -42,8 +42,8 @@ public:
 
     QWidget *firstWidget() const; // that Tab comes to, among the bound ones; nullptr when there is none
     QWidget *widgetFor(const QString &column) const; // nullptr when no widget shows it
-    // The number in a bound field of the current record; 0 for none. What has been entered is handed over first, so that
-    // it is the one that the form shows; throws what commit() does.
+    // The number in a bound field of the current record; 0 for none. What has been entered is handed over first, so
+    // that it is the one that the form shows; throws what commit() does.
     int keyIn(const QString &field);
     // Hands over what has been entered and not handed over yet; throws what refuses it, and SilentAbort while the user
     // is still to be told of an entry that was refused before, as on leaving it for the button that calls this.

@@ -9,11 +9,14 @@ namespace Tallymere {
 
 bool keepsEntry(const QWidget *widget) { return widget && widget->property("keepsEntry").toBool(); }
 
+bool comesBack(Qt::FocusReason reason)
+{
+    return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
+}
+
 bool handsEntryOver(const QFocusEvent &focusOut)
 {
-    const bool comesBack =
-        focusOut.reason() == Qt::PopupFocusReason || focusOut.reason() == Qt::ActiveWindowFocusReason;
-    return !comesBack && !keepsEntry(QApplication::focusWidget());
+    return !comesBack(focusOut.reason()) && !keepsEntry(QApplication::focusWidget());
 }
 
 } // namespace Tallymere

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Qt>
+
 class QFocusEvent;
 class QWidget;
 
@@ -9,8 +11,11 @@ namespace Tallymere {
 // property "keepsEntry", such as a Cancel button.
 bool keepsEntry(const QWidget *widget);
 
+// Whether the cursor comes back by itself, from a pop-up or another window.
+bool comesBack(Qt::FocusReason reason);
+
 // Whether the cursor goes for good with this event, so that what has been entered is handed over: not when it comes
-// back by itself, from a pop-up or another window, and not when it goes to a widget that keeps the entry.
+// back by itself, and not when it goes to a widget that keeps the entry.
 bool handsEntryOver(const QFocusEvent &focusOut);
 
 } // namespace Tallymere

@@ -37,7 +37,7 @@ bool LineDelegate::eventFilter(QObject *, QEvent *event)
     case QEvent::KeyPress:
         return m_grid->editorKey(static_cast<QKeyEvent *>(event));
     case QEvent::FocusOut:
-        m_grid->editorLeft(*static_cast<QFocusEvent *>(event));
+        m_grid->editorLeft(static_cast<QFocusEvent *>(event)->reason());
         return false;
     default:
         return false;

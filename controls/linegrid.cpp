@@ -346,20 +346,19 @@ bool LineGrid::finishEntry()
     return false;
 }
 
-void LineGrid::editorLeft(const QFocusEvent &event)
+void LineGrid::editorLeft(Qt::FocusReason reason)
 {
-    if (!m_editor || m_reporting)
+    if (!m_editor || m_reporting || comesBack(reason))
         return;
-    if (!handsEntryOver(event)) {
-        if (keepsEntry(QApplication::focusWidget()))
-            dropEntry();
+    if (keepsEntry(QApplication::focusWidget())) {
+        dropEntry();
         return;
     }
     const QString text = m_editor->text();
     const QPersistentModelIndex index = m_edited;
     const std::exception_ptr failure = Guard::attempt([this] { commitEntry(); });
     if (!failure)
-        return leave(event.reason());
+        return leave(reason);
     closeEntry();
     reportLater(failure, [this, index, text] { reopen(index, text); });
 }
@@ -397,8 +396,7 @@ void LineGrid::reopen(const QModelIndex &index, const QString &text)
 bool LineGrid::isLeft(Qt::FocusReason reason) const
 {
     const QWidget *next = QApplication::focusWidget();
-    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason && next && next != this
-        && !isAncestorOf(next) && !next->property("keepsEntry").toBool();
+    return !comesBack(reason) && next && next != this && !isAncestorOf(next) && !keepsEntry(next);
 }
 
 void LineGrid::leave(Qt::FocusReason reason)

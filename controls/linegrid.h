@@ -77,7 +77,7 @@ private:
     QWidget *makeStepBox(QWidget *parent, const QString &field);
     QWidget *makeEdit(QWidget *parent, const QString &field);
     bool editorKey(QKeyEvent *event);
-    void editorLeft(const QFocusEvent &event);
+    void editorLeft(Qt::FocusReason reason);
     void editorGone();
     bool finishEntry(); // commits and closes; false, with the editor open, when refused
     void closeEntry();

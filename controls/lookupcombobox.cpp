@@ -208,9 +208,7 @@ void LookupComboBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
 // back when the user has read that must not lead to the next.
 void LookupComboBox::focusInEvent(QFocusEvent *event)
 {
-    const bool comesBack =
-        event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
-    if (m_list && !m_readOnly && !isPending() && !comesBack)
+    if (m_list && !m_readOnly && !isPending() && !comesBack(event->reason()))
         Guard::attempt([this] { m_list->dataSet().refresh(); });
     QComboBox::focusInEvent(event);
 }

@@ -13,9 +13,10 @@ namespace Tallymere {
 //
 // New keys are reserved in the item counter before the first item is added, with one more that stays unused, also
 // when nothing is new. Where the update or the reservation fails the run goes on: without a reservation the keys lie
-// above every item and the counter, which follows afterwards if it can; a connection or file that is lost ends it all the same. Any other failure is an EngineError that ends
-// the run: nothing is written when another user works on the items (or posts receipts); a failing insert keeps the
-// items added before it. RuleError names a host item whose price is out of range, before anything is written.
+// above every item and the counter, which follows afterwards if it can; a connection or file that is lost ends it all
+// the same. Any other failure is an EngineError that ends the run: nothing is written when another user works on the
+// items (or posts receipts); a failing insert keeps the items added before it. RuleError names a host item whose price
+// is out of range, before anything is written.
 class ItemSync
 {
     Q_DECLARE_TR_FUNCTIONS(Tallymere::ItemSync)

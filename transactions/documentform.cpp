@@ -197,8 +197,7 @@ QString DocumentScreen::caption() const { return m_entry->caption(); }
 // The caption of a new document does not tell it from another one.
 QString DocumentScreen::recordName() const
 {
-    const DocumentKind &kind = m_entry->kind();
-    const QString number = m_entry->header().text(kind.numberField.isEmpty() ? kind.keyField : kind.numberField);
+    const QString number = m_entry->header().text(m_entry->kind().shownField());
     return caption().contains(number) ? caption() : tr("%1 '%2'").arg(caption(), number);
 }
 

@@ -65,7 +65,8 @@ void DocumentListScreen::post(DocumentPostScreen &dialog)
     if (dialog.exec() != QDialog::Accepted)
         return;
     refreshList();
-    say(m_list.kind().posting.postedText(dialog.posting().posted()));
+    if (!dialog.hasFailed())
+        say(m_list.kind().posting.postedText(dialog.posting().posted()));
 }
 
 } // namespace Tallymere

@@ -1,6 +1,7 @@
 #include "transactions/documentpostform.h"
 
 #include "controls/barprogress.h"
+#include "controls/messageboxes.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "ui_documentpostform.h"
@@ -31,10 +32,12 @@ void DocumentPostScreen::btnOKClick()
     m_ui->btnCancel->setEnabled(false);
     m_running = true;
     const std::exception_ptr failure = Guard::attempt([&] {
+        const BoxesOver over(this);
         const WaitCursor hourglass;
         m_posting.run(context().prompts, bar);
     });
     m_running = false;
+    m_failed = failure != nullptr;
     if (failure)
         guard().report(failure);
     done(bar.hasStarted() ? QDialog::Accepted : QDialog::Rejected);

@@ -22,6 +22,7 @@ public:
     ~DocumentPostScreen() override;
 
     const DocumentPosting &posting() const { return m_posting; }
+    bool hasFailed() const { return m_failed; } // how many were posted is not certain then
     void btnOKClick();
     void reject() override; // not while the run goes on
 
@@ -29,6 +30,7 @@ private:
     DocumentPosting m_posting;
     std::unique_ptr<Ui::DocumentPostScreen> m_ui;
     bool m_running = false;
+    bool m_failed = false;
 };
 
 } // namespace Tallymere
