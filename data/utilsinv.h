@@ -19,8 +19,8 @@ namespace Tallymere {
 // --- tables and queries -----------------------------------------------------------------------------------------
 
 // The next number of a one-row counter table whose field holds the last number handed out: locks the row, adds one,
-// saves. A table without a row gets one, from 0. Tries 100 times with short random breaks in which pending events are processed, then throws RuleError.
-// Opens and closes the table.
+// saves. A table without a row gets one, from 0. Tries 100 times with short random breaks in which pending events are
+// processed, then throws RuleError. Opens and closes the table.
 int getUniqueID(Engine::Table &counter, const QString &field);
 
 // Opens the table and returns true. A damaged table is mended with repairTable(), now or when its first read finds the

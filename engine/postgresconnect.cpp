@@ -193,8 +193,14 @@ void PostgresLink::connect()
     // Lets the server see a killed client while it works for it, so that its locks go at once. Not every system
     // that PostgreSQL runs on can do that.
     PQclear(PQexec(m_handle, "SET client_connection_check_interval = '1s'"));
-    if (former != 0)
+    if (former == 0)
+        return;
+    try {
         endSession(former);
+    } catch (const EngineError &) {
+        if (isLost())
+            throw; // otherwise this connection is good, and whose locks are gone must be told of it
+    }
 }
 
 // The server may not have noticed yet that the former connection is gone, and keep its locks for it.

@@ -4,6 +4,7 @@
 #include "engine/postgreserror.h"
 #include "engine/postgreswatch.h"
 
+#include <algorithm>
 #include <libpq-fe.h>
 #include <QCoreApplication>
 
@@ -148,7 +149,8 @@ void PostgresLink::awaitAnswer()
         PostgresWatch watch(m_target, PQbackendPID(m_handle));
         const auto deadline = Clock::now() + watchTime;
         while (!watch.isOver() && Clock::now() < deadline) {
-            const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+            const auto left = std::max(std::chrono::milliseconds(0), // less would wait for ever
+                                       std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now()));
             waitForEither(PQsocket(m_handle), watch.socket(), watch.wantsToWrite(), left);
             if (isAnswered({}))
                 return;

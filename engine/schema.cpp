@@ -59,7 +59,14 @@ public:
             tr("Table '%1' is open elsewhere and cannot be changed now. Have everybody close it and try again.")
                 .arg(title));
     }
-    ~ExclusiveOpen() { m_locks.closeExclusive(m_table); }
+    ~ExclusiveOpen()
+    {
+        try {
+            m_locks.closeExclusive(m_table);
+        } catch (const EngineError &) {
+            // what is done next tells that the server is gone
+        }
+    }
     ExclusiveOpen(const ExclusiveOpen &) = delete;
     ExclusiveOpen &operator=(const ExclusiveOpen &) = delete;
 

@@ -56,7 +56,7 @@ SqliteWatch::SqliteWatch(sqlite3 *db, const QString &path, FileLocks &locks)
     , m_locks(locks)
 {
     m_memo.file = identityOfFile(m_realPath).value_or(FileIdentity());
-    m_memo.stamp = headerStamp().value_or(0);
+    m_memo.stamp = headerStamp();
     m_memo.start = systemStart();
     m_memo.generation = 1;
     const std::optional<Memo> before = readMemo();
@@ -78,7 +78,7 @@ void SqliteWatch::opened()
         refuse(State::Replaced); // in the very moment of opening
     m_memo.log = identityOfFile(logPath()).value_or(FileIdentity());
     m_logIndex = identityOfFile(logIndexPath()).value_or(FileIdentity());
-    m_memo.stamp = headerStamp().value_or(0);
+    m_memo.stamp = headerStamp();
     std::optional<Memo> written = readMemo();
     if (!written || !written->isOfSameFiles(m_memo) || written->start != m_memo.start) {
         writeMemo();
@@ -104,29 +104,28 @@ void SqliteWatch::writeMemo() const
     m_locks.setMemo(words.join(u' '));
 }
 
-// What stands in the file itself, whatever the log holds besides. Nothing of a file that is too short for a header.
-std::optional<qint64> SqliteWatch::headerStamp() const
+// What stands in the file itself, whatever the log holds besides. A file that is too short for a header, as a new one
+// without a log is up to its first write, is lower than all others.
+qint64 SqliteWatch::headerStamp() const
 {
     qint32 stamp = 0;
-    if (!readFile(m_db, &stamp, sizeof stamp, stampPlace))
-        return std::nullopt;
-    return qFromBigEndian(stamp);
+    return readFile(m_db, &stamp, sizeof stamp, stampPlace) ? qFromBigEndian(stamp) : -1;
 }
 
 bool SqliteWatch::isContentOurs()
 {
-    const std::optional<qint64> stamp = headerStamp();
-    if (!stamp || *stamp < m_memo.stamp)
+    const qint64 stamp = headerStamp();
+    if (stamp < m_memo.stamp)
         return false;
-    m_memo.stamp = *stamp;
+    m_memo.stamp = stamp;
     if (!m_hasMemo)
         return true;
     const std::optional<Memo> written = readMemo();
     if (!written || !written->isOfSameFiles(m_memo))
         return false;
-    if (written->stamp < *stamp)
+    if (written->stamp < stamp)
         writeMemo();
-    return written->stamp <= *stamp || written->stamp <= headerStamp().value_or(0);
+    return written->stamp <= stamp || written->stamp <= headerStamp();
 }
 
 SqliteWatch::State SqliteWatch::state()

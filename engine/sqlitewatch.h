@@ -65,7 +65,7 @@ private:
     QString logIndexPath() const { return m_realPath + QStringLiteral("-shm"); }
     std::optional<Memo> readMemo() const;
     void writeMemo() const;
-    std::optional<qint64> headerStamp() const;
+    qint64 headerStamp() const;
     State state();
     bool isContentOurs();
     void putLogAside(const FileIdentity &log) const;
