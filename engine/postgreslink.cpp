@@ -149,9 +149,9 @@ void PostgresLink::awaitAnswer()
         PostgresWatch watch(m_target, PQbackendPID(m_handle));
         const auto deadline = Clock::now() + watchTime;
         while (!watch.isOver() && Clock::now() < deadline) {
-            const auto left = std::max(std::chrono::milliseconds(0), // less would wait for ever
-                                       std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now()));
-            waitForEither(PQsocket(m_handle), watch.socket(), watch.wantsToWrite(), left);
+            const Clock::duration left = std::max(deadline - Clock::now(), Clock::duration::zero());
+            waitForEither(PQsocket(m_handle), watch.socket(), watch.wantsToWrite(),
+                          std::chrono::duration_cast<std::chrono::milliseconds>(left));
             if (isAnswered({}))
                 return;
             if (waitForSocket(watch.socket(), watch.wantsToWrite(), {}))
