@@ -177,7 +177,6 @@ pg_conn *beginConnecting(const PostgresTarget &target) { return parametersOf(tar
 
 void PostgresLink::connect()
 {
-    const int former = m_handle ? PQbackendPID(m_handle) : 0;
     if (m_handle)
         PQsetnonblocking(m_handle, 1); // so that taking leave does not wait for a machine that is gone
     PQfinish(std::exchange(m_handle, nullptr));
@@ -188,13 +187,13 @@ void PostgresLink::connect()
     m_pending = 0;
     m_reader = nullptr;
     m_failure.reset();
-    run("SET datestyle = ISO; SET standard_conforming_strings = on; SET search_path = public; SET lock_timeout = "
-        + QByteArray::number(static_cast<qint64>(m_target.lockWait.count())));
-    // Lets the server see a killed client while it works for it, so that its locks go at once. Not every system
-    // that PostgreSQL runs on can do that.
-    PQclear(PQexec(m_handle, "SET client_connection_check_interval = '1s'"));
-    if (former == 0)
-        return;
+    const ServerSession former = m_session;
+    try {
+        beginSession();
+    } catch (const EngineError &) {
+        PQfinish(std::exchange(m_handle, nullptr)); // or it would pass for one whose locks have been looked after
+        throw;
+    }
     try {
         endSession(former);
     } catch (const EngineError &) {
@@ -203,12 +202,27 @@ void PostgresLink::connect()
     }
 }
 
-// The server may not have noticed yet that the former connection is gone, and keep its locks for it.
-void PostgresLink::endSession(int processId)
+void PostgresLink::beginSession()
 {
-    run("SELECT pg_terminate_backend(pid, 1000) FROM pg_stat_activity WHERE pid = " + QByteArray::number(processId)
-        + " AND pid <> pg_backend_pid() AND usename = current_user "
-          "AND application_name = current_setting('application_name')");
+    const ResultPtr begun =
+        run("SET datestyle = ISO; SET standard_conforming_strings = on; SET search_path = public; "
+            "SET lock_timeout = "
+            + QByteArray::number(static_cast<qint64>(m_target.lockWait.count()))
+            + "; SELECT backend_start FROM pg_stat_activity WHERE pid = pg_backend_pid()");
+    // Lets the server see a killed client while it works for it, so that its locks go at once. Not every system
+    // that PostgreSQL runs on can do that.
+    PQclear(PQexec(m_handle, "SET client_connection_check_interval = '1s'"));
+    m_session = {PQbackendPID(m_handle), PQgetvalue(begun.get(), 0, 0)};
+}
+
+// The server may not have noticed yet that the former connection is gone, and keep its locks for it. After a new start
+// of the server, its process may be somebody else's.
+void PostgresLink::endSession(const ServerSession &session)
+{
+    if (session.begun.isEmpty())
+        return;
+    run("SELECT pg_terminate_backend(pid, 1000) FROM pg_stat_activity WHERE pid = "
+        + QByteArray::number(session.processId) + " AND backend_start = '" + session.begun + "'");
 }
 
 void createRemoteDatabase(const PostgresTarget &target)

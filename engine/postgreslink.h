@@ -109,17 +109,25 @@ public:
     bool isTransactionFailed() const;
 
 private:
+    struct ServerSession
+    {
+        int processId = 0;
+        QByteArray begun; // process numbers come again
+    };
+
     void connect();
     void connectAgain();
     void collect(int commands, ResultPtr *last);
     void noteLoss();
     void awaitAnswer();
     bool isAnswered(std::chrono::milliseconds time) const;
-    void endSession(int processId);
+    void beginSession();
+    void endSession(const ServerSession &session);
     void dropStaleStatements();
 
     PostgresTarget m_target;
     pg_conn *m_handle = nullptr;
+    ServerSession m_session; // the last one there was
     int m_generation = 0;
     int m_statementCount = 0;
     QList<QByteArray> m_stale;
