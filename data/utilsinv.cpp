@@ -1,6 +1,7 @@
 #include "data/utilsinv.h"
 
 #include "engine/error.h"
+#include "engine/session.h"
 #include "frame/shared/ruleerror.h"
 #include "frame/shared/textnumbers.h"
 #include "frame/shared/trace.h"
@@ -133,7 +134,7 @@ qint64 repairTable(Engine::Database &database, const QString &table)
             tr("The table %1 is damaged and could not be repaired: %2\n"
                "Have everybody close the program and try again. If that does not help, restore the last "
                "backup.")
-                .arg(table, error.text()),
+                .arg(database.session().titleOf(table), error.text()),
             error.driverText());
     }
 }

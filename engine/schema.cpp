@@ -87,11 +87,11 @@ qint64 countRows(Connection &store, const QString &table)
     return statement->next() ? statement->intAt(0) : 0;
 }
 
-TableLayout requireTable(Connection &store, const QString &table)
+TableLayout requireTable(Connection &store, const QString &table, const QString &title)
 {
     if (std::optional<TableLayout> layout = store.describe(table))
         return *layout;
-    throw EngineError(ErrorCode::NoSuchTable, tr("There is no table '%1' in %2.").arg(table, store.location()));
+    throw EngineError(ErrorCode::NoSuchTable, tr("There is no table '%1' in %2.").arg(title, store.location()));
 }
 
 void replaceIndexes(Connection &store, const TableLayout &stored, const TableLayout &layout)
@@ -156,7 +156,7 @@ void Database::restructureTable(const TableLayout &layout)
     Connection &store = connection();
     const ExclusiveOpen alone(store, layout.name, m_session.titleOf(layout.name));
     Transaction transaction(store);
-    const TableLayout stored = requireTable(store, layout.name);
+    const TableLayout stored = requireTable(store, layout.name, m_session.titleOf(layout.name));
     if (sameFields(stored, layout) && samePrimary(stored, layout))
         replaceIndexes(store, stored, layout);
     else
@@ -184,7 +184,7 @@ void Database::dropTable(const QString &table)
 {
     Connection &store = connection();
     const ExclusiveOpen alone(store, table, m_session.titleOf(table));
-    requireTable(store, table);
+    requireTable(store, table, m_session.titleOf(table));
     store.execute("DROP TABLE "_L1 + store.dialect().name(table));
 }
 
@@ -192,7 +192,7 @@ qint64 Database::repairTable(const QString &table)
 {
     Connection &store = connection();
     const ExclusiveOpen alone(store, table, m_session.titleOf(table));
-    return store.repair(requireTable(store, table));
+    return store.repair(requireTable(store, table, m_session.titleOf(table)));
 }
 
 } // namespace Engine

@@ -155,7 +155,7 @@ bool Table::holdRecord()
     m_database.connection().execute(u"SELECT 1"_s); // connects again, and forgets the lock with that
     auto lock = lockForEdit(m_edit->original);
     const auto key = storedKey(m_edit->original);
-    const auto stored = key ? DataSetReader(*this).source().row(*key) : std::nullopt;
+    const auto stored = key ? DataSetReader(*this).read(&RowSource::row, *key) : std::nullopt;
     if (!stored) {
         throw EngineError(
             ErrorCode::RecordGone,
