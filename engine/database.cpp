@@ -113,12 +113,11 @@ void Database::close() { m_connection.reset(); }
 
 void Database::change(const std::function<void()> &step)
 {
-    Connection &store = connection();
-    const bool joins = store.inTransaction();
+    const bool joins = connection().inTransaction();
     const auto since = std::chrono::steady_clock::now();
     for (;;) {
         try {
-            Transaction transaction(store);
+            Transaction transaction(connection()); // the pause before may have closed the former one
             step();
             return transaction.commit();
         } catch (const EngineError &error) {

@@ -120,10 +120,11 @@ void SqliteConnection::begin()
 void SqliteConnection::commit()
 {
     requireOwnFile();
-    if (m_watch && sqlite3_total_changes64(m_db) != m_changesBefore)
+    const bool stamped = m_watch && sqlite3_total_changes64(m_db) != m_changesBefore;
+    if (stamped)
         stamp();
     prepare(u"COMMIT"_s)->execute();
-    if (m_watch)
+    if (stamped)
         m_watch->committed();
 }
 

@@ -3,6 +3,7 @@
 #include "engine/error.h"
 #include "engine/filelocks.h"
 
+#include <algorithm>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -78,7 +79,7 @@ void SqliteWatch::opened()
         refuse(State::Replaced); // in the very moment of opening
     m_memo.log = identityOfFile(logPath()).value_or(FileIdentity());
     m_logIndex = identityOfFile(logIndexPath()).value_or(FileIdentity());
-    m_memo.stamp = headerStamp();
+    m_memo.stamp = std::min<qint64>(headerStamp(), storedStamp()); // the header may be in the middle of a commit
     std::optional<Memo> written = readMemo();
     if (!written || !written->isOfSameFiles(m_memo) || written->start != m_memo.start) {
         writeMemo();
@@ -112,18 +113,35 @@ qint64 SqliteWatch::headerStamp() const
     return readFile(m_db, &stamp, sizeof stamp, stampPlace) ? qFromBigEndian(stamp) : -1;
 }
 
+int SqliteWatch::storedStamp() const
+{
+    sqlite3_stmt *statement = nullptr;
+    if (sqlite3_prepare_v2(m_db, "PRAGMA user_version", -1, &statement, nullptr) != SQLITE_OK)
+        return -1;
+    const int stamp = sqlite3_step(statement) == SQLITE_ROW ? sqlite3_column_int(statement, 0) : -1;
+    sqlite3_finalize(statement);
+    return stamp;
+}
+
+// Without a log a commit writes the header in place and may still be taken back, unless SQLite's lock keeps it out.
+bool SqliteWatch::isHeaderSettled() const
+{
+    return m_memo.log != FileIdentity() || sqlite3_txn_state(m_db, "main") != SQLITE_TXN_NONE;
+}
+
 bool SqliteWatch::isContentOurs()
 {
     const qint64 stamp = headerStamp();
     if (stamp < m_memo.stamp)
         return false;
-    m_memo.stamp = stamp;
+    if (isHeaderSettled())
+        m_memo.stamp = stamp;
     if (!m_hasMemo)
         return true;
     const std::optional<Memo> written = readMemo();
     if (!written || !written->isOfSameFiles(m_memo))
         return false;
-    if (written->stamp < stamp)
+    if (written->stamp < m_memo.stamp)
         writeMemo();
     return written->stamp <= stamp || written->stamp <= headerStamp();
 }
@@ -194,19 +212,19 @@ std::optional<int> SqliteWatch::stampDue()
     m_stampingOver = headerStamp();
     if (m_stampingOver == m_stampedOver)
         return std::nullopt;
-    sqlite3_stmt *statement = nullptr;
-    if (sqlite3_prepare_v2(m_db, "PRAGMA user_version", -1, &statement, nullptr) != SQLITE_OK)
-        return std::nullopt;
-    const int stamp = sqlite3_step(statement) == SQLITE_ROW ? sqlite3_column_int(statement, 0) : 0;
-    sqlite3_finalize(statement);
-    return stamp + 1;
+    m_stamping = storedStamp() + 1;
+    return m_stamping > 0 ? std::optional(m_stamping) : std::nullopt;
 }
 
 void SqliteWatch::committed()
 {
-    if (m_stampingOver)
-        m_stampedOver = m_stampingOver;
-    m_stampingOver.reset();
+    m_stampedOver = m_stampingOver;
+    if (m_memo.log != FileIdentity())
+        return; // the header gets the stamp with the rest of the log
+    m_memo.stamp = std::max<qint64>(m_memo.stamp, m_stamping);
+    const std::optional<Memo> written = m_hasMemo ? readMemo() : std::nullopt;
+    if (written && written->isOfSameFiles(m_memo) && written->stamp < m_memo.stamp)
+        writeMemo();
 }
 
 } // namespace Engine

@@ -38,7 +38,7 @@ public:
 
     // The stamp that the transaction in progress has to write before its commit, if any.
     std::optional<int> stampDue();
-    void committed();
+    void committed(); // a transaction for which that was asked
 
     // The file itself, whatever links lead to it.
     static QString realPath(sqlite3 *db);
@@ -66,6 +66,9 @@ private:
     std::optional<Memo> readMemo() const;
     void writeMemo() const;
     qint64 headerStamp() const;
+    // With what the log holds, and the transaction in progress has written; -1 where it cannot be read.
+    int storedStamp() const;
+    bool isHeaderSettled() const;
     State state();
     bool isContentOurs();
     void putLogAside(const FileIdentity &log) const;
@@ -82,6 +85,7 @@ private:
     State m_lost = State::Ours; // how it was lost for good
     std::optional<qint64> m_stampedOver; // what the file's header said when the stamp was raised last
     std::optional<qint64> m_stampingOver;
+    int m_stamping = 0;
 };
 
 } // namespace Engine

@@ -39,6 +39,15 @@ struct Table::Edit
     Row original; // as read; of a new record the values it began with
     Key key; // of the stored row; empty for a new record
     std::unique_ptr<RecordLock> lock;
+
+    struct Number
+    {
+        int field;
+        Value value;
+    };
+    // Which the store has counted for the record. It goes into the values when it is stored for good: what is undone
+    // and done again gets another.
+    std::optional<Number> number;
 };
 
 } // namespace Engine

@@ -55,6 +55,8 @@ void Table::write()
             requireUnique(requireField(name));
         writeRow();
     });
+    if (m_edit->number)
+        m_edit->values[static_cast<size_t>(m_edit->number->field)] = m_edit->number->value;
 }
 
 void Table::writeRow()
@@ -117,6 +119,7 @@ void Table::insertRow()
     QStringList columns;
     QStringList places;
     QList<Value> values;
+    m_edit->number.reset();
     int counted = -1; // the field that the store numbers
     int brought = -1; // the same field, when the row has its number already
     for (int i = 0; i < fieldCount(); ++i) {
@@ -138,7 +141,7 @@ void Table::insertRow()
     bindAll(*statement, values);
     statement->execute();
     if (counted >= 0)
-        m_edit->values[static_cast<size_t>(counted)] = connection.lastInsertId();
+        m_edit->number = {counted, connection.lastInsertId()};
     else if (brought >= 0)
         passAutoIncrement(connection, m_layout.name, field(brought).name,
                           m_edit->values[static_cast<size_t>(brought)]);
@@ -231,7 +234,7 @@ void Table::removeRow(const Key &key)
     for (const QString &column : scope().keyColumns)
         conditions << column + " = ?"_L1;
     m_database.change([&] {
-        const StatementPtr statement = connection.prepare(u"DELETE FROM %1 AS t WHERE %2"_s.arg(
+        const StatementPtr statement = m_database.connection().prepare(u"DELETE FROM %1 AS t WHERE %2"_s.arg(
             connection.dialect().name(m_layout.name), conditions.join(" AND "_L1)));
         for (qsizetype i = 0; i < key.size(); ++i)
             statement->bind(static_cast<int>(i), key[i]);
@@ -266,7 +269,7 @@ void Table::removeAll()
     if (!condition.isEmpty())
         sql += " WHERE "_L1 + condition.text;
     m_database.change([&] {
-        const StatementPtr statement = connection.prepare(sql);
+        const StatementPtr statement = m_database.connection().prepare(sql);
         bindAll(*statement, condition.parameters);
         statement->execute();
     });

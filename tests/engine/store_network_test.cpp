@@ -1,0 +1,109 @@
+#include "engine/table.h"
+#include "tests/support/failures.h"
+#include "tests/support/teststore.h"
+
+#include <gtest/gtest.h>
+#include <linux/magic.h>
+#include <QFile>
+#include <sqlite3.h>
+#include <sys/syscall.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace Engine;
+
+// A local store in a folder that other machines write to, where SQLite keeps its rollback journal.
+
+static bool everythingIsOnANetwork = false;
+
+constexpr int stampPlace = 60; // in the file's header
+
+// In the C library's place.
+extern "C" int statfs(const char *path, struct statfs *info) noexcept
+{
+    const auto result = static_cast<int>(syscall(SYS_statfs, path, info));
+    if (everythingIsOnANetwork)
+        info->f_type = NFS_SUPER_MAGIC;
+    return result;
+}
+
+namespace {
+
+struct NetworkFolder : testing::Test
+{
+    struct Network
+    {
+        Network() { everythingIsOnANetwork = true; }
+        ~Network() { everythingIsOnANetwork = false; }
+    } network;
+    TestStore store{Store::Local}; // a new database
+    Connection &connection = store.database().connection();
+    sqlite3 *other = nullptr; // another user's
+    QFile file{store.directory() + u'/' + store.database().name() + ".sqlite"_L1};
+
+    void SetUp() override
+    {
+        ASSERT_EQ(store.rows(u"PRAGMA journal_mode"_s), QStringList{u"delete"_s});
+        connection.execute(u"PRAGMA busy_timeout = 0"_s);
+        store.database().createTable({u"Note"_s,
+                                      {{u"Number"_s, FieldType::AutoInc, 0}, {u"Words"_s, FieldType::Text, 20}},
+                                      {{u""_s, u"Number"_s, IndexOption::Primary}}});
+        ASSERT_EQ(sqlite3_open(file.fileName().toUtf8().constData(), &other), SQLITE_OK);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    }
+    void TearDown() override { sqlite3_close(other); }
+    void run(const char *script) { EXPECT_EQ(sqlite3_exec(other, script, nullptr, nullptr, nullptr), SQLITE_OK); }
+    QByteArray contentOfFile() { return file.seek(0) ? file.readAll() : QByteArray(); }
+    void putContent(const QByteArray &content)
+    {
+        EXPECT_TRUE(file.seek(0) && file.write(content) == content.size());
+    }
+    void write(const QString &words)
+    {
+        Transaction transaction(connection);
+        connection.execute(u"INSERT INTO Note (Words) VALUES ('%1')"_s.arg(words));
+        transaction.commit();
+    }
+};
+
+TEST_F(NetworkFolder, WhatAnotherUserTakesBackIsNoReplacement)
+{
+    write(u"one"_s);
+    const QByteArray header = contentOfFile();
+    QByteArray raised = header;
+    raised[stampPlace] = 99;
+    putContent(raised); // as in the middle of a commit
+    connection.execute(u"SELECT 1"_s); // looks at the file
+    putContent(header);
+    write(u"two"_s);
+    EXPECT_EQ(store.rows(u"SELECT Words FROM Note"_s), (QStringList{u"one"_s, u"two"_s}));
+}
+
+// The earlier content put back over the file, with everything in it committed since by one of two users.
+TEST_F(NetworkFolder, AnEarlierContentIsNoticedByBothUsers)
+{
+    const auto anna = store.anotherUser();
+    anna->database.connection();
+    const QByteArray earlier = contentOfFile();
+    write(u"one"_s);
+    putContent(earlier);
+    for (Connection *user : {&connection, &anna->database.connection()})
+        EXPECT_EQ(errorOf([&] { user->execute(u"SELECT 1"_s); }), ErrorCode::FileReplaced);
+}
+
+TEST_F(NetworkFolder, ANumberThatSomebodyElseTookMeanwhileIsCountedAnew)
+{
+    Table notes(store.database(), u"Note"_s);
+    notes.open();
+    notes.append();
+    notes.set(u"Words"_s, u"mine"_s);
+    run("BEGIN; SELECT * FROM Note"); // a reader keeps the commit waiting
+    EXPECT_EQ(errorOf([&] { notes.post(); }), ErrorCode::Busy);
+    run("INSERT INTO Note (Words) VALUES ('theirs'); COMMIT");
+    notes.post();
+    EXPECT_EQ(notes.integer(u"Number"_s), 2);
+    EXPECT_EQ(store.rows(u"SELECT Number, Words FROM Note"_s), (QStringList{u"1|theirs"_s, u"2|mine"_s}));
+}
+
+} // namespace
