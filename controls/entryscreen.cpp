@@ -52,6 +52,7 @@ void EntryScreen::buildScreen()
         connect(ok, &QPushButton::clicked, this, &EntryScreen::btnOKClick);
     if (auto *cancel = findChild<QPushButton *>(u"btnCancel"_s)) {
         cancel->setProperty("keepsEntry", true);
+        cancel->setProperty("dropsEntry", true);
         connect(cancel, &QPushButton::clicked, this, &EntryScreen::btnCancelClick);
     }
     if (auto *help = findChild<QPushButton *>(u"btnHelp"_s)) {

@@ -9,6 +9,8 @@ namespace Tallymere {
 
 bool keepsEntry(const QWidget *widget) { return widget && widget->property("keepsEntry").toBool(); }
 
+bool dropsEntry(const QWidget *widget) { return widget && widget->property("dropsEntry").toBool(); }
+
 bool comesBack(Qt::FocusReason reason)
 {
     return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;

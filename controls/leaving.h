@@ -8,8 +8,12 @@ class QWidget;
 namespace Tallymere {
 
 // Whether a widget leaves what has been entered elsewhere as it is, without handing it over: one with the dynamic
-// property "keepsEntry", such as a Cancel button.
+// property "keepsEntry", such as a Cancel or a Help button.
 bool keepsEntry(const QWidget *widget);
+
+// Whether it is given up there: one with the dynamic property "dropsEntry" as well, such as a Cancel button. For editors
+// that do not stay open while the cursor is elsewhere.
+bool dropsEntry(const QWidget *widget);
 
 // Whether the cursor comes back by itself, from a pop-up or another window.
 bool comesBack(Qt::FocusReason reason);

@@ -350,7 +350,7 @@ void LineGrid::editorLeft(Qt::FocusReason reason)
 {
     if (!m_editor || m_reporting || comesBack(reason))
         return;
-    if (keepsEntry(QApplication::focusWidget())) {
+    if (dropsEntry(QApplication::focusWidget())) {
         dropEntry();
         return;
     }

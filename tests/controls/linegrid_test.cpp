@@ -248,6 +248,21 @@ TEST_F(LineGridTest, leavingGoesBackToTheFirstLineOnceTheLineIsComplete)
     EXPECT_EQ(grid->currentIndex(), grid->model()->index(0, 0));
 }
 
+TEST_F(LineGridTest, helpTakesNothingOfWhatIsTyped)
+{
+    show();
+    button->setProperty("keepsEntry", true);
+    type("7");
+    button->setFocus();
+    EXPECT_EQ(lines.number(u"Quantity"), 7);
+    grid->setFocus();
+    type("x");
+    button->setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(prompts.take().size(), 1);
+    EXPECT_EQ(entry(), u"x"_s) << "to be mended";
+}
+
 TEST_F(LineGridTest, fixedLinesAndColumnsStay)
 {
     show({.fixed = {u"ItemNo"_s}, .fixedLines = true});

@@ -184,6 +184,19 @@ TEST_F(ReceiptScreenTest, entryLeftByMouseIsRefusedWithoutLosingIt)
     EXPECT_EQ(cell(0, 1), u"A10"_s);
 }
 
+TEST_F(ReceiptScreenTest, cancelGivesUpUnjudgedWhatIsTypedInALine)
+{
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    open(7);
+    grid->setFocus();
+    press(Qt::Key_Return);
+    type("NOPE");
+    QTest::mouseClick(child<QPushButton>(*screen, "btnCancel"), Qt::LeftButton);
+    settle();
+    EXPECT_FALSE(screen);
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
 TEST_F(ReceiptScreenTest, refusalOfTheHeaderMovesTheFocusToItsField)
 {
     const struct
