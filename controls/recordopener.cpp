@@ -103,9 +103,16 @@ void ListRecordOpener::openCurrent()
     try {
         open(m_list.currentKey(), m_list.currentName());
     } catch (const RuleError &) {
-        m_list.table().refresh();
+        readAnew();
         throw;
     }
+}
+
+// After a refusal, which must be told even where reading fails as well.
+void ListRecordOpener::readAnew()
+{
+    if (const std::exception_ptr failure = Guard::attempt([this] { m_list.table().refresh(); }))
+        Guard::trace(failure);
 }
 
 void ListRecordOpener::removeCurrent()
@@ -113,13 +120,17 @@ void ListRecordOpener::removeCurrent()
     const int key = m_list.currentKey();
     try {
         m_list.remove(context().prompts);
+    } catch (const RuleError &) {
+        readAnew();
+        throw;
     } catch (const Engine::EngineError &error) {
         if (error.code() == Engine::ErrorCode::RecordGone)
-            m_list.table().refresh();
+            readAnew();
         throw;
     }
+    // It holds no changes, or the record would not have gone; what has only been typed in it goes with the record.
     if (RecordScreen *open = openScreenOf(key))
-        open->close(); // it has no changes, or the record would not have gone
+        open->btnCancelClick();
 }
 
 } // namespace Tallymere

@@ -54,7 +54,7 @@ private:
     QWidget *m_owner;
 };
 
-// Opens and deletes the records of a list. The list is read anew when one turns out to be gone.
+// Opens and deletes the records of a list. The list is read anew when one turns out to be gone, or is refused.
 class ListRecordOpener : public RecordOpener
 {
     Q_OBJECT
@@ -69,6 +69,8 @@ protected:
     void follow(int key) override;
 
 private:
+    void readAnew();
+
     RecordList &m_list;
 };
 

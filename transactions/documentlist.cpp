@@ -41,6 +41,8 @@ void DocumentList::find(const QString &number)
 
 QString DocumentList::name() const { return table().text(m_kind.deleting.nameField); }
 
+QString DocumentList::postedText() const { return m_kind.deleting.posted.arg(name()); }
+
 void DocumentList::refuseIfPosted(const QString &refusal) const
 {
     if (table().boolean(u"Posted"))
@@ -56,22 +58,33 @@ void DocumentList::remove(Prompts &prompts)
         refuseIfPosted(deleting.postedBeforeAsking);
     if (!prompts.confirm(deleting.asks, deleting.question.arg(name())))
         throw SilentAbort();
-    refuseIfPosted(deleting.posted.arg(name()));
+    refuseIfPosted(postedText());
     removeWithLines();
     table().flush();
 }
 
 void DocumentList::removeWithLines()
 {
-    // The lock of the edit keeps others out while the question whether the document may go is still open, and
-    // reads the document anew.
+    refuseAsStored();
+    if (removeUnposted())
+        return;
+    refuseAsStored(); // deleted or posted in between
+    throw RuleError(postedText());
+}
+
+// The lock of the edit keeps others out while the question whether the document may go is still open, and reads the
+// document anew; one that is gone it refuses itself.
+void DocumentList::refuseAsStored()
+{
     table().edit();
-    const QString posted = m_kind.deleting.posted.arg(name());
     const bool isPosted = table().boolean(u"Posted");
     table().cancel();
     if (isPosted)
-        throw RuleError(posted);
+        throw RuleError(postedText());
+}
 
+bool DocumentList::removeUnposted()
+{
     Engine::Connection &connection = table().database().connection();
     Engine::Transaction transaction(connection);
     // Claims the row within the transaction: it may have been posted since the edit was let go.
@@ -79,7 +92,7 @@ void DocumentList::removeWithLines()
         u"UPDATE %1 SET %2 = %2 WHERE %2 = ? AND Posted IS NOT TRUE"_s.arg(m_kind.headerTable, m_kind.keyField));
     claim->bindInt(0, currentKey());
     if (claim->execute() == 0)
-        throw RuleError(posted);
+        return false;
 
     Engine::Table lines(table().database(), m_kind.lineTable);
     lines.open();
@@ -87,6 +100,7 @@ void DocumentList::removeWithLines()
     lines.removeAll();
     table().remove();
     transaction.commit();
+    return true;
 }
 
 } // namespace Tallymere

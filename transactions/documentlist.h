@@ -29,8 +29,11 @@ public:
 
 private:
     QString name() const; // as questions name the current document
+    QString postedText() const;
     void refuseIfPosted(const QString &refusal) const;
+    void refuseAsStored(); // when it is gone or has been posted by now
     void removeWithLines();
+    bool removeUnposted(); // false, and nothing is removed, when it is not there unposted any more
 
     const DocumentKind &m_kind;
 };

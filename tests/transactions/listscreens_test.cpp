@@ -251,6 +251,35 @@ TEST_F(ListScreensTest, aDocumentThatAnotherUserHasDeletedIsToldAndLeavesTheList
     EXPECT_EQ(rows(), 1);
 }
 
+TEST_F(ListScreensTest, aRefusalToDeleteShowsTheListAnew)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    ASSERT_TRUE(list->moveToKey(1));
+    kitchen.execute(
+        u"UPDATE IReceipt SET Posted = true WHERE ReceiptID = 1; DELETE FROM IReceipt WHERE ReceiptID = 3"_s);
+    click("btnDelete");
+    EXPECT_EQ(prompts.take().size(), 2);
+    EXPECT_EQ(rows(), 2);
+}
+
+TEST_F(ListScreensTest, aDeletedReceiptTakesWhatIsOnlyTypedInItsScreenWithIt)
+{
+    addReceipts();
+    open<TfrmInvReceipts>();
+    ASSERT_TRUE(list->moveToKey(1));
+    click("btnEdit");
+    QPointer<TfrmInvReceipt> receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+    showActive(*receipt);
+    child<QLineEdit>(*receipt, "editVendorNo")->setFocus();
+    type("V2");
+    showActive(*list);
+    click("btnDelete");
+    settle();
+    EXPECT_FALSE(receipt);
+    EXPECT_EQ(prompts.said, QStringList(u"Confirm: Delete receipt '1001'?"_s));
+}
+
 TEST_F(ListScreensTest, failureOfTheStoreIsShownAndTheListComesBack)
 {
     addReceipts();

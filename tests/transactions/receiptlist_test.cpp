@@ -65,6 +65,34 @@ TEST_P(List, RefusesToDeleteAPostedReceipt)
     EXPECT_EQ(lines(), 1);
 }
 
+// The moment after the lock of the check has been let go.
+TEST_P(List, TellsDeletedFromPostedInTheLastMoment)
+{
+    for (int id = 1; id <= 2; ++id)
+        kitchen.addReceipt(id, 1, 1, {{1, 1, 1}});
+    list.table().setFilter(DocumentKinds::receipt().notPosted);
+    list.table().setFiltered(true);
+    list.table().refresh();
+    QString sql;
+    QObject::connect(&list.table(), &Engine::DataSet::stateChanged, [&] {
+        if (!list.table().isEditing())
+            kitchen.execute(std::exchange(sql, u"SELECT 1"_s));
+    });
+    ASSERT_TRUE(list.moveTo(1));
+    sql = u"UPDATE IReceipt SET Posted = true WHERE ReceiptID = 1"_s;
+    EXPECT_EQ(refusalOf([&] { list.remove(prompts); }),
+              u"Unable to delete receipt '1001'...\nIt has already been posted -> ");
+    EXPECT_EQ(lines(), 2);
+    ASSERT_TRUE(list.moveTo(2));
+    sql = u"DELETE FROM IReceipt WHERE ReceiptID = 2"_s;
+    try {
+        list.remove(prompts);
+        ADD_FAILURE();
+    } catch (const Engine::EngineError &error) {
+        EXPECT_EQ(error.code(), Engine::ErrorCode::RecordGone);
+    }
+}
+
 TEST_P(List, LeavesAReceiptThatSomebodyIsEditing)
 {
     kitchen.session().lockAttempts = 1;
