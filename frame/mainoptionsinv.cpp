@@ -1,5 +1,6 @@
 #include "frame/mainoptionsinv.h"
 
+#include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
 #include "frame/shared/connectiondecision.h"
 #include "frame/shared/settingsstore.h"
@@ -41,6 +42,7 @@ TFormRegistryEditor::TFormRegistryEditor(SettingsStore &settings, Prompts &promp
 {
     m_ui->setupUi(this);
     resize(scaled(this, width()), scaled(this, height()));
+    leadTabToChosen(*this);
     // Four groups of one to three digits.
     static const QRegularExpression address(uR"(\d{1,3}\.\d{1,3}\.\d{1,3}\.\d{1,3})"_s);
     m_ui->wwDBEditIPAddress->setValidator(new QRegularExpressionValidator(address, this));

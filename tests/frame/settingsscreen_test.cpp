@@ -57,6 +57,10 @@ TEST_F(SettingsScreenTest, ShowsAndSavesWhatIsStored)
         store(u"Server IP"_s, u"10.0.0.7"_s);
         screen.show();
         EXPECT_EQ(child<QRadioButton>(u"radioClientServer"_s)->isChecked(), c.remote);
+        child<QPushButton>(u"BitBtnCancel"_s)->setFocus();
+        QTest::keyClick(child<QPushButton>(u"BitBtnCancel"_s), Qt::Key_Tab);
+        EXPECT_EQ(screen.focusWidget(),
+                  child<QRadioButton>(c.remote ? u"radioClientServer"_s : u"radioFileServer"_s));
         EXPECT_EQ(child<QLabel>(u"LabelDataPath"_s)->text(), c.pathLabel);
         EXPECT_EQ(child<QComboBox>(u"RzComboBoxConnectionType"_s)->currentText(), c.shownLink);
         press(u"BitBtnOK"_s);
