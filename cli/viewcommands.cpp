@@ -6,6 +6,7 @@
 #include "frame/shared/csvlist.h"
 #include "frame/shared/formats.h"
 #include "master/masterkinds.h"
+#include "transactions/documentkinds.h"
 #include "transactions/totalsview.h"
 
 #include <QCoreApplication>
@@ -109,8 +110,9 @@ const QList<ListKind> &listKinds()
         QList<ListKind> all;
         for (const MasterKind *master : MasterKinds::all())
             all.append({master->name, Layouts::find(master->table), master->orders.at(master->firstOrder).index});
-        all.append({{u"receipts"_s, &Layouts::iReceipt(), u"PERIODDATEDESC"_s},
-                    {u"usage"_s, &Layouts::iUsage(), u"INVENTORYDATEUSAGENODESC"_s},
+        for (const DocumentKind *document : DocumentKinds::all())
+            all.append({document->name, Layouts::find(document->headerTable), document->orders.constFirst().index});
+        all.append({{u"usage"_s, &Layouts::iUsage(), u"INVENTORYDATEUSAGENODESC"_s},
                     {u"adjustments"_s, &Layouts::iAdjust(), u"PERIODDATEDESC"_s}});
         return all;
     }();

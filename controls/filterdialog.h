@@ -14,14 +14,6 @@ namespace Tallymere {
 
 class LookupComboBox;
 
-// A box of a filter dialog: a record that the rows refer to.
-struct FilterBox
-{
-    QString name; // component name: "cboCurrency"
-    QString label; // "C&urrency:"
-    QString list; // what is chosen in it, as TdmLookUpsInv::list names it: "Currency"
-};
-
 // How the filter dialog of a list differs from those of the others.
 struct FilterDialogKind
 {

@@ -10,7 +10,7 @@ DocumentFilterScreen::DocumentFilterScreen(ScreenContext &context, const Documen
     : FilterDialog(context,
                    {.name = kind.filterScreen,
                     .caption = kind.filterCaption,
-                    .boxes = {{.name = u"cboWarehouse"_s, .label = tr("&Location:"), .list = u"Warehse"_s}},
+                    .boxes = kind.filterBoxes,
                     .mark = u"Posted"_s,
                     .markLabel = tr("Posted")},
                    parent)

@@ -6,7 +6,7 @@ namespace Tallymere {
 
 struct DocumentKind;
 
-// The filter dialog of a document list: a location, and whether documents are posted.
+// The filter dialog of a document list: the kind's boxes, and whether documents are posted.
 class DocumentFilterScreen final : public FilterDialog
 {
     Q_OBJECT

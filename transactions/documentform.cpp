@@ -2,6 +2,7 @@
 
 #include "controls/linegrid.h"
 #include "controls/lookuplists.h"
+#include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
 #include "frame/shared/ruleerror.h"
@@ -19,7 +20,7 @@ namespace Tallymere {
 
 namespace {
 constexpr QStringView numberColumn = u"ItemNo";
-constexpr QStringView descriptionColumn = u"ItemDescription";
+constexpr QStringView descriptionField = u"ItemDescription"; // of an item, and of a line by lookup
 } // namespace
 
 DocumentScreen::DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
@@ -35,12 +36,16 @@ DocumentScreen::~DocumentScreen()
     m_entry->header().disconnect(this);
 }
 
-void DocumentScreen::buildDocument(const LineOptions &options)
+void DocumentScreen::buildDocument(LineOptions options)
 {
+    resize(scaled(this, 840), scaled(this, 470));
     setLookupLists(*this, context().lookups, guard());
     QList<GridColumn> columns = m_entry->kind().lineColumns;
-    for (GridColumn &column : columns)
-        column.takesSurplus = column.field == descriptionColumn;
+    for (GridColumn &column : columns) {
+        column.takesSurplus = column.field == descriptionField;
+        if (!takesText(column.field))
+            options.fixed << column.field;
+    }
     m_grid = findChild<LineGrid *>(u"DBGrid1"_s);
     m_posted = findChild<QLabel *>(u"lblPosted"_s);
     binder().bind(m_entry->header());
@@ -64,6 +69,18 @@ void DocumentScreen::buildDocument(const LineOptions &options)
     connect(&m_entry->header(), &Engine::DataSet::currentChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::stateChanged, this, &DocumentScreen::showHeader);
     buildScreen();
+}
+
+bool DocumentScreen::picksItem(const QString &column) const
+{
+    return m_entry->kind().picksByText && column == m_entry->kind().pickColumn;
+}
+
+// What is looked up or calculated takes a text only where that chooses the item.
+bool DocumentScreen::takesText(const QString &column) const
+{
+    const bool isStored = std::as_const(*m_entry).lines().field(column).kind == Engine::FieldKind::Data;
+    return isStored || column == numberColumn || picksItem(column);
 }
 
 QAction *DocumentScreen::addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut)
@@ -119,7 +136,7 @@ void DocumentScreen::enterCell(const QString &field, const QString &text)
     beginLine();
     if (field == numberColumn)
         m_entry->chooseItemByNumber(text.trimmed());
-    else if (field == descriptionColumn)
+    else if (picksItem(field))
         chooseItemByDescription(text.trimmed());
     else
         m_entry->lines().setText(field, text);
@@ -131,21 +148,21 @@ void DocumentScreen::chooseItemByDescription(const QString &text)
         m_entry->chooseItemByNumber({});
         return;
     }
+    const QString &column = m_entry->kind().pickColumn;
     Engine::Table &items = context().lookups.tblItem();
-    if (!items.locate(descriptionColumn.toString(), {text}, LocateOption::CaseInsensitive))
-        throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"),
-                        descriptionColumn.toString());
-    m_entry->setLineColumn(descriptionColumn.toString());
+    if (!items.locate(descriptionField.toString(), {text}, LocateOption::CaseInsensitive))
+        throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), column);
+    m_entry->setLineColumn(column);
     m_entry->chooseItem(items.integer(u"ItemID"));
 }
 
 QString DocumentScreen::completeDescription(const QString &field, const QString &typed) const
 {
-    if (field != descriptionColumn)
+    if (!picksItem(field))
         return {};
     Engine::Table &items = context().lookups.tblItem();
     const LocateOptions options = LocateOptions(LocateOption::CaseInsensitive) | LocateOption::PartialKey;
-    return items.locate(descriptionColumn.toString(), {typed}, options) ? items.text(descriptionColumn) : QString();
+    return items.locate(descriptionField.toString(), {typed}, options) ? items.text(descriptionField) : QString();
 }
 
 bool DocumentScreen::searchItem(const QString &typed)

@@ -31,7 +31,7 @@ protected:
     // Called once by the constructor of a screen, after its form has been set up: fills the lookup boxes that name
     // their lists, binds the header's widgets, the grid "DBGrid1", which shows the kind's columns, and the label
     // "lblPosted".
-    void buildDocument(const LineOptions &options = {});
+    void buildDocument(LineOptions options = {});
 
     DocumentEntry &entry() const { return *m_entry; }
     LineGrid *grid() const { return m_grid; }
@@ -49,6 +49,8 @@ protected:
 
 private:
     QAction *addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut);
+    bool picksItem(const QString &column) const; // the item whose description is typed into it
+    bool takesText(const QString &column) const;
     void beginLine();
     void enterCell(const QString &field, const QString &text);
     void chooseItemByDescription(const QString &text);

@@ -2,6 +2,7 @@
 
 #include "data/recordlist.h"
 #include "frame/shared/gridcolumn.h"
+#include "frame/shared/listfilter.h"
 #include "transactions/postingkind.h"
 
 #include <functional>
@@ -68,6 +69,8 @@ struct DocumentKind
     QString locationGone; // raised when the location is no longer there
     QStringList requiredFields; // of the header, beside what is checked on its own
     QString pickColumn; // of the lines: an item that comes in while the user is in it was picked by its description
+    bool picksByText =
+        true; // a description typed into it picks the item; else what is typed is the line's own text
 
     QString screen; // component name: "frmInvReceipt"
     QList<GridColumn> lineColumns; // of its line grid
@@ -81,6 +84,8 @@ struct DocumentKind
     std::function<void(Engine::Table &)> addListFields; // looked-up ones of its own, before the table is opened
     QString filterScreen; // "frmInvReceiptsFilter"
     QString filterCaption; // "Inventory Receipts Filter"
+    // The list is narrowed by the first, the location; a choice in another one only switches the filter on.
+    QList<FilterBox> filterBoxes = {locationBox()};
     QString notPosted; // the filter for them: "(Posted = false)"
     Find find;
     Deleting deleting;
@@ -97,6 +102,7 @@ struct DocumentKind
     QStringList requiredColumns;
 
     QString titleOf(const Engine::DataSet &header) const; // "Receipt 1001"
+    static FilterBox locationBox();
     const QString &shownField() const { return numberField.isEmpty() ? keyField : numberField; }
 };
 

@@ -1,6 +1,5 @@
 #include "transactions/invreceiptform.h"
 
-#include "controls/screenmetrics.h"
 #include "data/lookupsdatainv.h"
 #include "transactions/documentkinds.h"
 #include "transactions/receiptentry.h"
@@ -17,7 +16,6 @@ TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
     , m_ui(std::make_unique<Ui::TfrmInvReceipt>())
 {
     m_ui->setupUi(this);
-    resize(scaled(this, 840), scaled(this, 470));
     m_ui->cboVendor->setList(context.lookups.tblVendor(), u"VendorID"_s,
                              {{u"VendorName"_s, tr("Vendor"), 220}, {u"VendorNo"_s, tr("Vendor no."), 80}},
                              guard());

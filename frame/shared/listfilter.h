@@ -5,6 +5,14 @@
 
 namespace Tallymere {
 
+// A box of a filter dialog: a record that the rows refer to.
+struct FilterBox
+{
+    QString name; // component name: "cboCurrency"
+    QString label; // "C&urrency:"
+    QString list; // what is chosen in it, as TdmLookUpsInv::list names it: "Currency"
+};
+
 // The choices of the filter dialogs that narrow a list to the rows that refer to one record and to those with or
 // without a mark ("posted", "suspended").
 struct ListFilter
