@@ -4,6 +4,7 @@
 #include "frame/shared/ruleerror.h"
 #include "master/itemsfindform.h"
 #include "tests/transactions/screentest.h"
+#include "transactions/documentfilter.h"
 #include "transactions/documentfilterform.h"
 #include "transactions/documentfindform.h"
 #include "transactions/documentkinds.h"
@@ -249,6 +250,19 @@ TEST_F(ListScreensTest, aDocumentThatAnotherUserHasDeletedIsToldAndLeavesTheList
               (QStringList{u"Confirm: Delete receipt '1003'?"_s,
                            u"error: 'Receipt 1003' was deleted by another user."_s}));
     EXPECT_EQ(rows(), 1);
+}
+
+TEST_F(ListScreensTest, aFurtherFilterBoxSwitchesTheFilterOnAndNarrowsNothing)
+{
+    DocumentKind kind = DocumentKinds::receipt();
+    kind.filterBoxes << FilterBox{u"cboCurrency"_s, u"C&urrency:"_s, u"Currency"_s};
+    DocumentFilterScreen dialog(*context, kind, mainWindow.get());
+    EXPECT_FALSE(dialog.isOn());
+    dialog.setKey(u"cboCurrency"_s, 2);
+    EXPECT_TRUE(dialog.isOn());
+    EXPECT_EQ(documentFilter(dialog.filter(), kind.notPosted), QString());
+    dialog.setKey(u"cboWarehouse"_s, 1);
+    EXPECT_EQ(documentFilter(dialog.filter(), kind.notPosted), u"(WarehouseID = 1)"_s);
 }
 
 TEST_F(ListScreensTest, aRefusalToDeleteShowsTheListAnew)
