@@ -83,10 +83,11 @@ void GroupedWrites::replay()
         m_forgetReads();
     const std::vector<Step> steps = std::exchange(m_group, {});
     m_replaying = true;
+    m_asks = m_retry != nullptr;
     try {
         m_connection.begin();
         for (const Step &step : steps)
-            step(*this);
+            replayStep(step);
         m_connection.commit();
     } catch (...) {
         m_replaying = false;
@@ -94,6 +95,29 @@ void GroupedWrites::replay()
         throw;
     }
     m_replaying = false; // whatever it was has passed
+}
+
+// Nothing is held while the question stands: the steps before are committed, and this one is done anew after it. When
+// the answer is no, that leaves the part of it before the lock.
+void GroupedWrites::replayStep(const Step &step)
+{
+    for (;;) {
+        m_connection.execute(u"SAVEPOINT one_step"_s);
+        try {
+            step(*this);
+            m_connection.execute(u"RELEASE SAVEPOINT one_step"_s);
+            return;
+        } catch (const EngineError &error) {
+            if (error.code() != ErrorCode::Busy || !m_asks)
+                throw;
+            m_connection.execute(u"ROLLBACK TO SAVEPOINT one_step"_s);
+            m_connection.commit();
+            m_asks = m_retry(error);
+        }
+        if (m_forgetReads)
+            m_forgetReads();
+        m_connection.begin();
+    }
 }
 
 void GroupedWrites::send(Statement &statement)
@@ -107,19 +131,14 @@ void GroupedWrites::send(Statement &statement)
 void GroupedWrites::sendGuarded(Statement &statement)
 {
     m_connection.execute(u"SAVEPOINT one_write"_s);
-    auto since = std::chrono::steady_clock::now();
+    const auto since = std::chrono::steady_clock::now();
     for (;;) {
         try {
             executeGuarded(statement);
             break;
         } catch (const EngineError &error) {
-            if (error.code() != ErrorCode::Busy)
+            if (error.code() != ErrorCode::Busy || !m_session.mayTryAgain(since))
                 throw;
-            if (m_session.mayTryAgain(since))
-                continue;
-            if (!m_retry || !m_retry(error))
-                throw;
-            since = std::chrono::steady_clock::now();
         }
     }
     m_connection.execute(u"RELEASE SAVEPOINT one_write"_s);

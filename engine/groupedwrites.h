@@ -33,7 +33,8 @@ class GroupedWrites final : private Writes
 public:
     using Step = std::function<void(Writes &)>;
 
-    // Asked when somebody's lock on the server has kept a statement from being done for long: true to go on trying.
+    // Asked, outside of transactions, when somebody's lock on the server has kept a statement from being done for
+    // long: true to go on trying.
     using Retry = std::function<bool(const EngineError &)>;
 
     explicit GroupedWrites(Database &database, std::function<void()> forgetReads = {}, Retry retry = {});
@@ -57,6 +58,7 @@ private:
     void keepApplied() noexcept;
     void guarded(const std::function<void()> &step);
     void replay();
+    void replayStep(const Step &step);
 
     Connection &m_connection;
     const Session &m_session;
@@ -66,6 +68,7 @@ private:
     const Retry m_retry;
     std::vector<Step> m_group; // applied since the last commit; kept when sending ahead
     bool m_replaying = false;
+    bool m_asks = false; // about a lock that is in the way of the replay
     std::chrono::steady_clock::time_point m_begun;
 };
 

@@ -230,6 +230,44 @@ TEST(RemoteFailures, SomebodysLockIsWaitedForWithinBoundsAndItsHolderNamed)
     EXPECT_EQ(store.rows(u"SELECT b FROM T"_s), QStringList(u"22"_s)) << "each change once";
 }
 
+TEST(RemoteFailures, AGroupIsCommittedUpToItsStepBeforeSomebodyIsAskedAboutALock)
+{
+    for (const bool goesOn : {true, false}) {
+        SCOPED_TRACE(goesOn);
+        TestStore store(Store::Remote);
+        store.execute(u"CREATE TABLE T (a integer PRIMARY KEY); INSERT INTO T VALUES (1)"_s);
+        store.session().lockAttempts = 1;
+        const auto anna = store.anotherUser(u"anna"_s);
+        Connection &annas = anna->database.connection();
+        Connection &connection = store.database().connection();
+        annas.execute(u"BEGIN; UPDATE T SET a = a"_s);
+        int asked = 0;
+        GroupedWrites writes(store.database(), {}, [&](const EngineError &) {
+            ++asked;
+            EXPECT_FALSE(connection.inTransaction()) << "others wait as long as the question stands";
+            EXPECT_EQ(store.rows(u"SELECT a FROM T ORDER BY a"_s), (QStringList{u"1"_s, u"10"_s}));
+            if (goesOn)
+                annas.execute(u"ROLLBACK"_s);
+            return goesOn;
+        });
+        const auto step = [&](const QString &first, const QString &second) {
+            writes.apply([=, &connection](Writes &sink) {
+                for (const QString &sql : {first, second})
+                    sink.send(*connection.prepare(sql));
+            });
+        };
+        const auto run = [&] {
+            step(u"INSERT INTO T VALUES (9)"_s, u"UPDATE T SET a = 10 WHERE a = 9"_s);
+            step(u"INSERT INTO T VALUES (20)"_s, u"UPDATE T SET a = 2 WHERE a = 1"_s);
+            writes.finish();
+        };
+        EXPECT_EQ(errorOf(run), goesOn ? std::nullopt : std::optional(ErrorCode::Busy));
+        EXPECT_EQ(asked, 1);
+        const QString held = goesOn ? u"2"_s : u"1"_s;
+        EXPECT_EQ(store.rows(u"SELECT a FROM T ORDER BY a"_s), (QStringList{held, u"10"_s, u"20"_s}));
+    }
+}
+
 TEST(RemoteFailures, ATableThatAStrangerWritesToIsNotLocked)
 {
     TestStore store(Store::Remote);
