@@ -68,9 +68,15 @@ TEST_P(Concurrency, ATableHeldByAnotherUserRefusesImportAndPosting)
     EXPECT_EQ(post.errorLines().value(0),
               u"tallymere: Unable to lock Receipts table... this table is being updated by another job."_s);
 
-    const auto patient = cli.start({u"post"_s, u"receipts"_s, u"--retry"_s, u"60"_s});
-    EXPECT_FALSE(patient->waitForFinished(700)) << "it did not wait for the lock";
+    Engine::Table held(anna->database, u"IBalance"_s);
+    held.open();
+    held.lockTable();
     table.unlockTable();
+    const auto patient = cli.start({u"post"_s, u"receipts"_s, u"--retry"_s, u"600"_s});
+    Engine::LockManager &locks = anna->database.connection().locks();
+    while (!locks.ownerOf(u"IReceipt"_s) && !patient->waitForFinished(1)) { } // which it takes first, and keeps
+    EXPECT_FALSE(patient->waitForFinished(700)) << "it did not wait for the lock";
+    held.unlockTable();
     EXPECT_EQ(CliRunner::finish(*patient).status, 0);
     EXPECT_EQ(cli.list({u"history"_s}).size(), 1);
 }
