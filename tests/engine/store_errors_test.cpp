@@ -296,7 +296,7 @@ protected:
     {
         const auto other = store.anotherUser(u"keeper"_s);
         other->database.connection().execute(
-            u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = "
+            u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity WHERE datname = "
             "current_database() AND application_name LIKE 'maria@%'"_s);
     }
     qint64 count()

@@ -70,8 +70,8 @@ protected:
     void cut(bool forGood)
     {
         admit(!forGood);
-        run(u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE application_name NOT LIKE 'keeper@%' "
-            "AND datname = current_database()"_s);
+        run(u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity "
+            "WHERE application_name NOT LIKE 'keeper@%' AND datname = current_database()"_s);
     }
     QStringList stored()
     {

@@ -464,9 +464,10 @@ protected:
     }
     void cut()
     {
-        anna->database.connection().execute(
-            u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = current_database() AND "
-            "pid <> pg_backend_pid()"_s);
+        // Until the session has ended it holds its locks.
+        const QString end = u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity "
+                            "WHERE datname = current_database() AND pid <> pg_backend_pid()"_s;
+        anna->database.connection().execute(end);
     }
     QStringList stored()
     {
