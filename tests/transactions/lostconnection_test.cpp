@@ -71,7 +71,8 @@ protected:
     {
         admit(!forGood);
         run(u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity "
-            "WHERE application_name NOT LIKE 'keeper@%' AND datname = current_database()"_s);
+            "WHERE application_name NOT LIKE 'keeper@%' AND datname = current_database() "
+            "AND backend_type = 'client backend'"_s);
     }
     QStringList stored()
     {

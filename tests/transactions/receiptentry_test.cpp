@@ -466,7 +466,8 @@ protected:
     {
         // Until the session has ended it holds its locks.
         const QString end = u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity "
-                            "WHERE datname = current_database() AND pid <> pg_backend_pid()"_s;
+                            "WHERE datname = current_database() AND pid <> pg_backend_pid() "
+                            "AND backend_type = 'client backend'"_s;
         anna->database.connection().execute(end);
     }
     QStringList stored()
