@@ -278,7 +278,9 @@ void DocumentEntry::hookLines()
         lineSaved();
     };
     // The numbers of lines are no concern of the user; saved again, the line gets another one.
-    m_lines.events.postFailed = [](const Engine::EngineError &error) {
+    m_lines.events.postFailed = [this](const Engine::EngineError &error) {
+        if (m_keptLines && error.code() != ErrorCode::ConnectionLost)
+            m_keptLines->refused(m_lines.integer(u"Seq"));
         if (error.code() == ErrorCode::KeyViolation)
             throw RuleError(tr("The line could not be saved because another one was added meanwhile. Try again."),
                             LineGrid);
@@ -559,6 +561,7 @@ void DocumentEntry::writeKeptLines()
             continue;
         m_lines.append();
         restoreLine(kept);
+        m_keptLines->restoring(m_lines.integer(u"Seq"), currentLine());
         m_lines.post();
     }
     transaction.commit();

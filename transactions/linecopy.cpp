@@ -28,10 +28,24 @@ void LineCopy::changing(int seq, const State &to)
 
 void LineCopy::changed(int seq, const State &to) { m_possible[seq] = {to}; }
 
+void LineCopy::refused(int seq)
+{
+    std::vector<State> &possible = m_possible[seq];
+    possible.pop_back();
+    if (possible.size() == 1 && !possible.front() && !original(seq))
+        m_possible.erase(seq); // none of this visit's
+}
+
 void LineCopy::restoring()
 {
     for (auto &[seq, possible] : m_possible)
         possible.insert(possible.begin(), original(seq));
+}
+
+void LineCopy::restoring(int seq, const Engine::Row &as)
+{
+    std::vector<State> &possible = m_possible[seq];
+    possible.insert(possible.begin(), as);
 }
 
 LineCopy::State LineCopy::original(int seq) const

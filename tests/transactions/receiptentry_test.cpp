@@ -569,6 +569,18 @@ TEST_F(EntryOnAServer, WhatOthersDoMeanwhileIsNotOverwrittenAndTold)
     EXPECT_EQ(stored(), (QStringList{u"5"_s, u"6"_s}));
 }
 
+TEST_F(EntryOnAServer, TellsALineOnceThatWasRefusedAtFirst)
+{
+    entry->header().edit();
+    enterLine();
+    anna->database.connection().execute(u"INSERT INTO IRecDet (ReceiptID, Seq, QtyReceived) VALUES (7, 3, 8)"_s);
+    EXPECT_FALSE(refusalOf([&] { entry->lines().post(); }).isEmpty());
+    entry->lines().post();
+    cut();
+    entry->cancel(); // the other's line is in the way
+    EXPECT_TRUE(prompts.last().contains(u"Lines added: 1."_s)) << prompts.last().toStdString();
+}
+
 TEST_F(EntryOnAServer, OKWorksAgain)
 {
     entry->header().edit();
