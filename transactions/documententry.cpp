@@ -128,6 +128,7 @@ void DocumentEntry::hookHeader()
 
 void DocumentEntry::newHeader()
 {
+    m_lossesBefore = database().connection().locks().losses();
     assignNumbers();
     m_header.setDefault(m_kind.dateField, today());
     m_header.setDefault(u"Posted", false);
@@ -277,11 +278,12 @@ void DocumentEntry::hookLines()
             m_keptLines->changed(m_lines.integer(u"Seq"), currentLine());
         lineSaved();
     };
-    // The numbers of lines are no concern of the user; saved again, the line gets another one.
+    // The numbers of lines are no concern of the user; saved again, the line gets another one. Within a longer
+    // transaction, as of an import, that would be too late: a server has given it up.
     m_lines.events.postFailed = [this](const Engine::EngineError &error) {
         if (m_keptLines && error.code() != ErrorCode::ConnectionLost)
             m_keptLines->refused(m_lines.integer(u"Seq"));
-        if (error.code() == ErrorCode::KeyViolation)
+        if (error.code() == ErrorCode::KeyViolation && !database().connection().inTransaction())
             throw RuleError(tr("The line could not be saved because another one was added meanwhile. Try again."),
                             LineGrid);
     };
@@ -302,6 +304,7 @@ void DocumentEntry::lockLines()
         return;
     m_lines.refresh();
     std::vector<Engine::Row> stored;
+    stored.reserve(static_cast<size_t>(m_lines.recordCount()));
     for (int i = 0; i < m_lines.recordCount(); ++i)
         stored.push_back(m_lines.rowAt(i));
     m_keptLines.emplace(m_lines, std::move(stored));
@@ -311,6 +314,10 @@ void DocumentEntry::lockLines()
 // changed the document meanwhile goes first.
 void DocumentEntry::holdDocument()
 {
+    if (m_header.state() == Engine::TableState::Insert && wasConnectionLost() && isStoredAlready())
+        throw RuleError(
+            tr("The document had been saved before the connection was lost. Close this screen with Cancel "
+               "and open the document anew."));
     if (m_header.holdRecord())
         m_lockWasLost = true;
     if (!m_lockWasLost)
@@ -322,6 +329,12 @@ void DocumentEntry::holdDocument()
     m_lockWasLost = false;
 }
 
+bool DocumentEntry::wasConnectionLost() const
+{
+    const Engine::LockManager &locks = database().connection().locks();
+    return locks.areLost() || locks.losses() != m_lossesBefore;
+}
+
 std::vector<Engine::Row> DocumentEntry::storedLines() const
 {
     Engine::Table stored(database(), m_kind.lineTable);
@@ -329,6 +342,7 @@ std::vector<Engine::Row> DocumentEntry::storedLines() const
     stored.open();
     stored.setRange({key()}, {key()});
     std::vector<Engine::Row> rows;
+    rows.reserve(static_cast<size_t>(stored.recordCount()));
     for (int i = 0; i < stored.recordCount(); ++i)
         rows.push_back(stored.rowAt(i));
     return rows;
@@ -337,6 +351,7 @@ std::vector<Engine::Row> DocumentEntry::storedLines() const
 Engine::Row DocumentEntry::currentLine() const
 {
     Engine::Row row;
+    row.reserve(static_cast<size_t>(m_lines.fieldCount()));
     for (int i = 0; i < m_lines.fieldCount(); ++i)
         row.push_back(m_lines.value(i));
     return row;

@@ -136,6 +136,7 @@ private:
 
     void lockLines();
     void holdDocument();
+    bool wasConnectionLost() const; // since the new document was begun
     std::vector<Engine::Row> storedLines() const;
     void beginLineChange(LineChange change);
     Engine::Row currentLine() const;
@@ -159,6 +160,7 @@ private:
     int m_nextSeq = 1;
     bool m_wasSaved = false;
     std::optional<LineCopy> m_keptLines; // as stored when the lock was taken; goes with the lock
+    int m_lossesBefore = 0; // of connections, when the new document was begun
     bool m_lockWasLost = false; // and who has been at the lines meanwhile is not known yet
     int m_losses = 0; // of the connection, when the visit began
     int m_removedSeq = 0; // the line that is being deleted

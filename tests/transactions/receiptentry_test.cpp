@@ -581,6 +581,33 @@ TEST_F(EntryOnAServer, TellsALineOnceThatWasRefusedAtFirst)
     EXPECT_TRUE(prompts.last().contains(u"Lines added: 1."_s)) << prompts.last().toStdString();
 }
 
+// The answer to the saving may be all that was lost.
+TEST_F(EntryOnAServer, ANewReceiptThatWasStoredUnnoticedIsToldAsSaved)
+{
+    entry->newDocument();
+    entry->chooseVendorByNumber(u"V1"_s);
+    entry->header().set(u"WarehouseID", 1);
+    enterLine();
+    entry->lines().post();
+    const int key = entry->key();
+    anna->database.connection().execute(
+        u"INSERT INTO IReceipt (ReceiptID, ReceiptNo, Posted) VALUES (%1, '%2', true)"_s.arg(
+            QString::number(key), entry->header().text(u"ReceiptNo")));
+    cut();
+    EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
+    const QString told =
+        u"The document had been saved before the connection was lost. Close this screen with Cancel "
+        "and open the document anew. -> "_s;
+    EXPECT_EQ(refusalOf([&] { entry->save(); }), told);
+    const auto addLine = [&] {
+        enterLine();
+        entry->lines().post();
+    };
+    EXPECT_EQ(refusalOf(addLine), told) << "it is not locked any more";
+    entry->cancel();
+    EXPECT_EQ(stored(), (QStringList{u"5"_s, u"3"_s, u"6"_s})) << "all that was stored stays";
+}
+
 TEST_F(EntryOnAServer, OKWorksAgain)
 {
     entry->header().edit();
