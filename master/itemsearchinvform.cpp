@@ -78,7 +78,8 @@ void TfrmItemSearchInv::showStep()
     m_ui->editFindItemDescription->clear();
     m_ui->editFindItemNo->setFocus();
     m_erases = false;
-    if (!m_typed.isEmpty())
+    m_missed = !m_typed.isEmpty(); // until it is found
+    if (m_missed)
         typeItemNo(m_typed);
 }
 
@@ -91,19 +92,25 @@ void TfrmItemSearchInv::continueTyping()
 
 void TfrmItemSearchInv::typeItemNo(const QString &text)
 {
-    if (!std::exchange(m_erases, false))
-        guard().run([&] { beepUnless(m_search.typeItemNo(text)); });
+    if (std::exchange(m_erases, false))
+        m_missed = m_missed && !m_search.items().text(u"ItemNo").startsWith(text);
+    else
+        guard().run([&] { noteFound(m_search.typeItemNo(text)); });
 }
 
 void TfrmItemSearchInv::typeDescription(const QString &text)
 {
-    if (!std::exchange(m_erases, false))
-        guard().run([&] { beepUnless(m_search.typeDescription(text)); });
+    if (std::exchange(m_erases, false))
+        m_missed = m_missed && !m_search.items().text(u"ItemDescription").startsWith(text);
+    else
+        guard().run([&] { noteFound(m_search.typeDescription(text)); });
 }
 
-void TfrmItemSearchInv::beepUnless(bool found) const
+void TfrmItemSearchInv::noteFound(bool found)
 {
-    if (!found)
+    if (found)
+        m_missed = false;
+    else
         QApplication::beep();
 }
 
@@ -128,7 +135,8 @@ bool TfrmItemSearchInv::takeTypeKey(const QKeyEvent &key)
     return true;
 }
 
-// From a search box the arrow keys move in the list. Taking characters away moves nothing.
+// From a search box the arrow keys move in the list. Taking characters away moves nothing. Enter does not choose a row
+// that the text of the line has not led to.
 bool TfrmItemSearchInv::takeSearchKey(QKeyEvent &key)
 {
     m_erases = key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Delete || key.matches(QKeySequence::Cut);
@@ -137,8 +145,14 @@ bool TfrmItemSearchInv::takeSearchKey(QKeyEvent &key)
     case Qt::Key_Down:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
+        m_missed = false;
         QCoreApplication::sendEvent(m_ui->DBGrid1, &key);
         return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (m_missed)
+            context().prompts.error(tr("Item not found"));
+        return m_missed;
     default:
         return false;
     }

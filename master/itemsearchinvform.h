@@ -35,7 +35,7 @@ private:
     void typeItemNo(const QString &text);
     void typeDescription(const QString &text);
     void continueTyping();
-    void beepUnless(bool found) const;
+    void noteFound(bool found);
     bool takeTypeKey(const QKeyEvent &key);
     bool takeSearchKey(QKeyEvent &key);
 
@@ -43,6 +43,7 @@ private:
     ItemSearch m_search;
     QString m_typed; // before it opened: the beginning of a number, until typing goes on
     bool m_erases = false; // the key that changes a search box
+    bool m_missed = false; // nothing begins with what was typed before it opened
 };
 
 } // namespace Tallymere

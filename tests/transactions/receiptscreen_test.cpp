@@ -464,6 +464,13 @@ TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
         press(Qt::Key_Escape);
     }));
     EXPECT_EQ(cell(0, 2), u"Bread"_s) << "cancelled";
+    type("onion");
+    EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(search, [&](TfrmItemSearchInv &dialog) {
+        press(Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible()) << "no item begins so";
+        EXPECT_EQ(prompts.take(), QStringList(u"error: Item not found"_s));
+    }));
+    press(Qt::Key_Escape);
     type("B");
     EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(search, [&](TfrmItemSearchInv &dialog) {
         EXPECT_EQ(child<QLineEdit>(dialog, "editFindItemNo")->text(), u"B"_s) << "what was typed goes on there";
