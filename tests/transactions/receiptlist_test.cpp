@@ -74,7 +74,8 @@ TEST_P(List, TellsDeletedFromPostedInTheLastMoment)
     list.table().setFiltered(true);
     list.table().refresh();
     QString sql;
-    QObject::connect(&list.table(), &Engine::DataSet::stateChanged, [&] {
+    const QObject scope; // the list outlives the test
+    QObject::connect(&list.table(), &Engine::DataSet::stateChanged, &scope, [&] {
         if (!list.table().isEditing())
             kitchen.execute(std::exchange(sql, u"SELECT 1"_s));
     });
