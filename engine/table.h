@@ -63,6 +63,8 @@ public:
     // RecordLocked when somebody else edits the record now, RecordChanged or RecordGone when somebody has changed it
     // meanwhile: the edit can only be dropped then. Saving does this by itself.
     bool holdRecord();
+    // holdRecord() has found that this edit is stored as it was to be saved last: only the store's answer was lost.
+    bool isStored() const;
     bool isModified() const { return m_modified; } // a field was set by set() since edit or insert
     // Locks and re-reads the record. On an empty table this is insert(). Throws RecordLocked, RecordGone.
     void edit();
@@ -122,6 +124,7 @@ private:
     QList<qint64> keyOf(const Row &row) const; // empty without a key of whole numbers
     std::optional<QList<qint64>> storedKey(const Row &row) const;
     bool findAgain(const Row &shown);
+    bool haveSameData(const Row &a, const Row &b) const;
     QList<qint64> lockKey(const Row &row) const;
     SqlCondition linkCondition() const;
     SqlCondition rangeCondition() const;

@@ -148,6 +148,18 @@ std::unique_ptr<RecordLock> Table::lockForEdit(const Row &row) const
                                         recordText(), RecordLock::Loss::Noticed);
 }
 
+bool Table::haveSameData(const Row &a, const Row &b) const
+{
+    for (int i = 0; i < fieldCount(); ++i) {
+        const auto at = static_cast<size_t>(i);
+        if (field(i).kind == FieldKind::Data && a[at] != b[at])
+            return false;
+    }
+    return true;
+}
+
+bool Table::isStored() const { return m_edit && m_edit->isStored; }
+
 bool Table::holdRecord()
 {
     if (m_state != TableState::Edit || !m_edit->lock->isLost())
@@ -161,15 +173,14 @@ bool Table::holdRecord()
             ErrorCode::RecordGone,
             QCoreApplication::translate("Engine", "%1 was deleted by another user.").arg(recordText()));
     }
-    for (int i = 0; i < fieldCount(); ++i) {
-        const auto at = static_cast<size_t>(i);
-        if (field(i).kind == FieldKind::Data && (*stored)[at] != m_edit->original[at])
-            throw EngineError(ErrorCode::RecordChanged,
-                              QCoreApplication::translate("Engine",
-                                                          "%1 was changed by another user while the connection "
-                                                          "was lost. Cancel, and make your changes again.")
-                                  .arg(recordText()));
-    }
+    m_edit->isStored = m_edit->written && haveSameData(*stored, *m_edit->written);
+    if (!m_edit->isStored && !haveSameData(*stored, m_edit->original))
+        throw EngineError(ErrorCode::RecordChanged,
+                          QCoreApplication::translate("Engine",
+                                                      "%1 was changed by another user while the connection "
+                                                      "was lost. Cancel, and make your changes again.")
+                              .arg(recordText()));
+    m_edit->original = *stored;
     m_edit->key = *key;
     m_edit->lock = std::move(lock);
     return true;

@@ -38,6 +38,9 @@ struct Table::Edit
     Row values;
     Row original; // as read; of a new record the values it began with
     Key key; // of the stored row; empty for a new record
+    std::optional<Row> written; // what saving has tried to write; stored although that failed, if only the answer
+        // of the store was lost
+    bool isStored = false; // that was so
     std::unique_ptr<RecordLock> lock;
 
     struct Number

@@ -50,6 +50,7 @@ void Table::write()
         writing.emplace(connection, m_database.session(), m_name, RecordLock::anyKey(), recordText());
     else
         holdRecord();
+    m_edit->written = m_edit->values;
     m_database.change([this] {
         for (const QString &name : std::as_const(uniqueFields))
             requireUnique(requireField(name));

@@ -517,8 +517,10 @@ void DocumentEntry::takeBackLines()
     for (;;) {
         try {
             if (isStoredAlready())
-                return m_prompts.warn(tr("The document had been saved before the connection was lost. It stays."));
+                return tellStored();
             holdDocument();
+            if (m_header.isStored())
+                return tellStored();
             return restoreLines();
         } catch (const RuleError &) {
             break; // others have been at the lines
@@ -542,6 +544,11 @@ void DocumentEntry::takeBackLines()
         tr("Another user has changed, posted or deleted the document while the connection was lost. What "
            "that user has saved is stored; nothing of it was taken back. Your own changes were: %1")
             .arg(m_keptLines->summary()));
+}
+
+void DocumentEntry::tellStored() const
+{
+    m_prompts.warn(tr("The document had been saved before the connection was lost. It stays."));
 }
 
 // The answer to the saving may be all that was lost.

@@ -148,6 +148,7 @@ private:
     bool hasLines() const;
     void takeBackLines();
     bool isStoredAlready() const;
+    void tellStored() const;
     void restoreLines();
     void writeKeptLines();
     void beginVisit();

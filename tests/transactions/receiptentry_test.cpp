@@ -608,6 +608,35 @@ TEST_F(EntryOnAServer, ANewReceiptThatWasStoredUnnoticedIsToldAsSaved)
     EXPECT_EQ(stored(), (QStringList{u"5"_s, u"3"_s, u"6"_s})) << "all that was stored stays";
 }
 
+TEST_F(EntryOnAServer, AReceiptThatWasStoredUnnoticedIsNobodyElsesChange)
+{
+    for (const bool cancelled : {true, false}) {
+        begin();
+        change(1, cancelled ? 50 : 60);
+        const QString number = cancelled ? u"P1"_s : u"P2"_s;
+        entry->header().set(u"PurchaseOrderNo", number);
+        auto &beforePost = entry->header().events.beforePost;
+        const auto check = beforePost;
+        beforePost = [&] {
+            check();
+            cut();
+            anna->database.connection().execute(u"UPDATE IReceipt SET PurchaseOrderNo = '%1'"_s.arg(number));
+        };
+        EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
+        beforePost = check;
+        if (cancelled)
+            entry->cancel();
+        else
+            entry->save();
+        const QStringList told = prompts.take();
+        EXPECT_EQ(told.contains(u"warn: The document had been saved before the connection was lost. It stays."_s),
+                  cancelled)
+            << told.join(u'\n').toStdString();
+        EXPECT_EQ(stored(), (QStringList{cancelled ? u"50"_s : u"60"_s, u"6"_s}));
+        EXPECT_TRUE(isFree());
+    }
+}
+
 TEST_F(EntryOnAServer, OKWorksAgain)
 {
     entry->header().edit();
