@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/settingsstore.h"
 #include "cli/arguments.h"
 #include "cli/console.h"
 #include "data/datamodule.h"
-#include "frame/shared/settingsstore.h"
 
 #include <functional>
 #include <memory>

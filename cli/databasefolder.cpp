@@ -1,8 +1,8 @@
 #include "cli/databasefolder.h"
 
+#include "base/connectiondecision.h"
 #include "cli/terminal.h"
 #include "engine/error.h"
-#include "frame/shared/connectiondecision.h"
 #include "host/tables/hosttables.h"
 
 #include <QCoreApplication>

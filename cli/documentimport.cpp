@@ -1,7 +1,7 @@
 #include "cli/documentimport.h"
 
+#include "base/ruleerror.h"
 #include "engine/error.h"
-#include "frame/shared/ruleerror.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
+#include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/importer.h"
 #include "cli/named.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

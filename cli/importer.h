@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/prompts.h"
 #include "cli/importkind.h"
-#include "frame/shared/prompts.h"
 
 class QIODevice;
 

@@ -1,8 +1,8 @@
 #include "cli/importfile.h"
 
+#include "base/ruleerror.h"
 #include "cli/csv.h"
 #include "cli/importvalue.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QCoreApplication>
 #include <QSet>

@@ -1,7 +1,7 @@
 #include "cli/importvalue.h"
 
-#include "frame/shared/formats.h"
-#include "frame/shared/ruleerror.h"
+#include "base/formats.h"
+#include "base/ruleerror.h"
 
 #include <cmath>
 #include <limits>

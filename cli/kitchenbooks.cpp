@@ -1,9 +1,9 @@
 #include "cli/kitchenbooks.h"
 
+#include "base/calchelpers.h"
 #include "data/fiscalperiod.h"
 #include "data/numbercounter.h"
 #include "data/transtypes.h"
-#include "frame/shared/calchelpers.h"
 
 using namespace Qt::StringLiterals;
 using Engine::Value;

@@ -1,7 +1,7 @@
 #include "cli/masterimport.h"
 
+#include "base/ruleerror.h"
 #include "engine/error.h"
-#include "frame/shared/ruleerror.h"
 
 using namespace Qt::StringLiterals;
 

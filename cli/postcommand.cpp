@@ -1,6 +1,6 @@
+#include "base/ruleerror.h"
 #include "cli/command.h"
 #include "engine/error.h"
-#include "frame/shared/ruleerror.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 

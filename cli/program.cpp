@@ -1,9 +1,9 @@
 #include "cli/program.h"
 
+#include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/help.h"
 #include "engine/error.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QCoreApplication>
 

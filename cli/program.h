@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/settingsstore.h"
 #include "cli/console.h"
-#include "frame/shared/settingsstore.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 #include "cli/samplefiles.h"
 
+#include "base/ruleerror.h"
 #include "cli/csv.h"
 #include "cli/importer.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QCoreApplication>
 #include <QFile>

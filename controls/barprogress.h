@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/shared/prompts.h"
+#include "base/prompts.h"
 
 #include <QElapsedTimer>
 

@@ -1,10 +1,10 @@
 #include "controls/fieldbinder.h"
 
+#include "base/ruleerror.h"
 #include "controls/fieldbinding.h"
 #include "controls/leaving.h"
 #include "controls/screenmetrics.h"
 #include "engine/error.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/listfilter.h"
 #include "controls/dialogscreen.h"
-#include "frame/shared/listfilter.h"
 
 #include <memory>
 #include <QVariant>

@@ -1,8 +1,8 @@
 #include "controls/guard.h"
 
+#include "base/ruleerror.h"
 #include "controls/messageboxes.h"
 #include "engine/error.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QLoggingCategory>
 

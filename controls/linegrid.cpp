@@ -1,10 +1,10 @@
 #include "controls/linegrid.h"
 
+#include "base/ruleerror.h"
 #include "controls/leaving.h"
 #include "controls/linedelegate.h"
 #include "controls/screenmetrics.h"
 #include "controls/stepbox.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QApplication>
 #include <QFocusEvent>

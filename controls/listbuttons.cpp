@@ -1,8 +1,8 @@
 #include "controls/listbuttons.h"
 
+#include "base/rights.h"
 #include "controls/listscreen.h"
 #include "controls/screenmetrics.h"
-#include "frame/shared/rights.h"
 
 #include <QAbstractButton>
 #include <QVariant>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/prompts.h"
 #include "controls/listgrid.h"
-#include "frame/shared/prompts.h"
 
 #include <QList>
 #include <QString>

@@ -1,12 +1,12 @@
 #include "controls/listoutput.h"
 
+#include "base/csvlist.h"
 #include "controls/barprogress.h"
 #include "controls/filechoice.h"
 #include "controls/listcopy.h"
 #include "controls/liststatus.h"
 #include "controls/screenmetrics.h"
 #include "data/utilsinv.h"
-#include "frame/shared/csvlist.h"
 
 #include <QClipboard>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "controls/maskedentry.h"
 
-#include "frame/shared/regionalsettings.h"
+#include "base/regionalsettings.h"
 
 #include <algorithm>
 #include <QFocusEvent>

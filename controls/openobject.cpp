@@ -1,6 +1,6 @@
 #include "controls/openobject.h"
 
-#include "frame/shared/ruleerror.h"
+#include "base/ruleerror.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

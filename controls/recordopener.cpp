@@ -1,10 +1,10 @@
 #include "controls/recordopener.h"
 
+#include "base/ruleerror.h"
 #include "controls/listscreen.h"
 #include "controls/screenmetrics.h"
 #include "data/recordlist.h"
 #include "engine/error.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QApplication>
 #include <QPointer>

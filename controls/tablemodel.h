@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/gridcolumn.h"
 #include "controls/guard.h"
 #include "engine/dataset.h"
-#include "frame/shared/gridcolumn.h"
 
 #include <QAbstractTableModel>
 #include <QList>

@@ -1,11 +1,11 @@
 #include "data/datamodule.h"
 
+#include "base/connectiondecision.h"
+#include "base/trace.h"
 #include "data/layouts.h"
 #include "data/seeds.h"
 #include "engine/error.h"
 #include "engine/locks.h"
-#include "frame/shared/connectiondecision.h"
-#include "frame/shared/trace.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "base/prompts.h"
+#include "base/settingsstore.h"
 #include "data/tableowner.h"
 #include "engine/database.h"
 #include "engine/session.h"
 #include "engine/table.h"
-#include "frame/shared/prompts.h"
-#include "frame/shared/settingsstore.h"
 
 #include <functional>
 #include <memory>

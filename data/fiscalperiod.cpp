@@ -1,6 +1,6 @@
 #include "data/fiscalperiod.h"
 
-#include "frame/shared/ruleerror.h"
+#include "base/ruleerror.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/prompts.h"
 #include "engine/dataset.h"
-#include "frame/shared/prompts.h"
 
 #include <QDate>
 #include <QString>

@@ -1,10 +1,10 @@
 #include "data/utilsinv.h"
 
+#include "base/ruleerror.h"
+#include "base/textnumbers.h"
+#include "base/trace.h"
 #include "engine/error.h"
 #include "engine/session.h"
-#include "frame/shared/ruleerror.h"
-#include "frame/shared/textnumbers.h"
-#include "frame/shared/trace.h"
 
 #include <QCoreApplication>
 #include <QRandomGenerator>

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/settingsstore.h"
 #include "data/tableowner.h"
 #include "engine/database.h"
 #include "engine/query.h"
 #include "engine/table.h"
-#include "frame/shared/settingsstore.h"
 
 #include <optional>
 #include <QList>

@@ -1,6 +1,6 @@
 #include "frame/commands.h"
 
-#include "frame/shared/rights.h"
+#include "base/rights.h"
 #include "frame/synchronization.h"
 #include "master/masterkind.h"
 #include "master/masterscreensform.h"

@@ -1,5 +1,6 @@
 #include "frame/frmtallymeresystem.h"
 
+#include "base/ruleerror.h"
 #include "controls/filechoice.h"
 #include "controls/menukeyboard.h"
 #include "controls/openobject.h"
@@ -11,7 +12,6 @@
 #include "frame/hostinifile.h"
 #include "frame/mastermenu.h"
 #include "frame/screenregistry.h"
-#include "frame/shared/ruleerror.h"
 #include "frame/templatereport.h"
 #include "frame/tracescope.h"
 #include "master/dialerinvform.h"

@@ -1,7 +1,7 @@
 #include "frame/hostinifile.h"
 
-#include "frame/shared/initfile.h"
-#include "frame/shared/trace.h"
+#include "base/initfile.h"
+#include "base/trace.h"
 
 using namespace Qt::StringLiterals;
 

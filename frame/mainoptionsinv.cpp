@@ -1,9 +1,9 @@
 #include "frame/mainoptionsinv.h"
 
+#include "base/connectiondecision.h"
+#include "base/settingsstore.h"
 #include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
-#include "frame/shared/connectiondecision.h"
-#include "frame/shared/settingsstore.h"
 #include "frame/tracescope.h"
 #include "ui_mainoptionsinv.h"
 

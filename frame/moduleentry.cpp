@@ -1,11 +1,11 @@
 #include "frame/moduleentry.h"
 
+#include "base/settingsstore.h"
 #include "controls/messageboxes.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/globals.h"
 #include "frame/mainoptionsinv.h"
 #include "frame/screenregistry.h"
-#include "frame/shared/settingsstore.h"
 #include "plgint/classregistry.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/shared/trace.h"
+#include "base/trace.h"
 
 namespace Tallymere {
 

@@ -1,11 +1,11 @@
 #include "host/company.h"
 
+#include "base/connectiondecision.h"
+#include "base/initfile.h"
 #include "engine/database.h"
 #include "engine/error.h"
 #include "engine/session.h"
 #include "engine/table.h"
-#include "frame/shared/connectiondecision.h"
-#include "frame/shared/initfile.h"
 
 #include <QCoreApplication>
 #include <QDir>

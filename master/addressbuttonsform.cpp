@@ -1,8 +1,8 @@
 #include "master/addressbuttonsform.h"
 
+#include "base/ruleerror.h"
 #include "controls/fieldbinder.h"
 #include "controls/guard.h"
-#include "frame/shared/ruleerror.h"
 #include "master/dialerinvform.h"
 #include "master/masterrecord.h"
 

@@ -1,8 +1,8 @@
 #include "master/masterkinds.h"
 
+#include "base/formats.h"
+#include "base/ruleerror.h"
 #include "data/seeds.h"
-#include "frame/shared/formats.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QCoreApplication>
 #include <QDate>

@@ -1,6 +1,6 @@
 #include "master/masterkinds.h"
 
-#include "frame/shared/formats.h"
+#include "base/formats.h"
 
 #include <QCoreApplication>
 

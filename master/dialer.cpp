@@ -1,9 +1,9 @@
 #include "master/dialer.h"
 
-#include "frame/shared/initfile.h"
-#include "frame/shared/prompts.h"
-#include "frame/shared/ruleerror.h"
-#include "frame/shared/trace.h"
+#include "base/initfile.h"
+#include "base/prompts.h"
+#include "base/ruleerror.h"
+#include "base/trace.h"
 #include "master/modemport.h"
 
 #include <QRegularExpression>

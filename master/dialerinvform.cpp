@@ -1,7 +1,7 @@
 #include "master/dialerinvform.h"
 
+#include "base/initfile.h"
 #include "controls/screenmetrics.h"
-#include "frame/shared/initfile.h"
 #include "master/dialersetupinvform.h"
 #include "ui_dialerinvform.h"
 

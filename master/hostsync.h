@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/prompts.h"
 #include "engine/database.h"
 #include "engine/driver.h"
 #include "engine/table.h"
-#include "frame/shared/prompts.h"
 
 #include <functional>
 #include <memory>

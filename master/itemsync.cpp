@@ -1,10 +1,10 @@
 #include "master/itemsync.h"
 
+#include "base/ruleerror.h"
+#include "base/trace.h"
 #include "data/layouts.h"
 #include "engine/error.h"
 #include "engine/query.h"
-#include "frame/shared/ruleerror.h"
-#include "frame/shared/trace.h"
 #include "master/hoststatements.h"
 
 using namespace Qt::StringLiterals;

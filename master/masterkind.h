@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/gridcolumn.h"
+#include "base/listfilter.h"
 #include "data/recordlist.h"
 #include "engine/table.h"
-#include "frame/shared/gridcolumn.h"
-#include "frame/shared/listfilter.h"
 
 #include <functional>
 #include <QList>

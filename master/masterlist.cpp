@@ -1,8 +1,8 @@
 #include "master/masterlist.h"
 
+#include "base/ruleerror.h"
 #include "engine/database.h"
 #include "engine/query.h"
-#include "frame/shared/ruleerror.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "master/recordnumber.h"
 
+#include "base/ruleerror.h"
 #include "engine/query.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QCoreApplication>
 

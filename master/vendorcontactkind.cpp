@@ -1,7 +1,7 @@
 #include "master/masterkinds.h"
 
+#include "base/ruleerror.h"
 #include "data/personname.h"
-#include "frame/shared/ruleerror.h"
 
 #include <QCoreApplication>
 

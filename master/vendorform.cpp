@@ -1,9 +1,9 @@
 #include "master/vendorform.h"
 
+#include "base/ruleerror.h"
 #include "controls/listgrid.h"
 #include "controls/recordopener.h"
 #include "data/datamodule.h"
-#include "frame/shared/ruleerror.h"
 #include "master/addressbuttonsform.h"
 #include "master/dialerinvform.h"
 #include "master/masterkinds.h"

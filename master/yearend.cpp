@@ -1,6 +1,6 @@
 #include "master/yearend.h"
 
-#include "frame/shared/ruleerror.h"
+#include "base/ruleerror.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,12 +1,12 @@
 #include "transactions/documententry.h"
 
+#include "base/formats.h"
+#include "base/ruleerror.h"
 #include "data/fiscalperiod.h"
 #include "engine/database.h"
 #include "engine/error.h"
 #include "engine/locks.h"
 #include "engine/query.h"
-#include "frame/shared/formats.h"
-#include "frame/shared/ruleerror.h"
 
 #include <algorithm>
 #include <QScopeGuard>

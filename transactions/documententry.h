@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/prompts.h"
 #include "data/numbercounter.h"
 #include "engine/table.h"
-#include "frame/shared/prompts.h"
 #include "transactions/documentkind.h"
 #include "transactions/linecopy.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/shared/listfilter.h"
+#include "base/listfilter.h"
 
 namespace Tallymere {
 

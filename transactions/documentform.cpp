@@ -1,11 +1,11 @@
 #include "transactions/documentform.h"
 
+#include "base/ruleerror.h"
 #include "controls/linegrid.h"
 #include "controls/lookuplists.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
-#include "frame/shared/ruleerror.h"
 #include "master/itemsearchinvform.h"
 
 #include <QAction>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/gridcolumn.h"
+#include "base/listfilter.h"
 #include "data/recordlist.h"
-#include "frame/shared/gridcolumn.h"
-#include "frame/shared/listfilter.h"
 #include "transactions/postingkind.h"
 
 #include <functional>

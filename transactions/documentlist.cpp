@@ -1,8 +1,8 @@
 #include "transactions/documentlist.h"
 
+#include "base/formats.h"
+#include "base/ruleerror.h"
 #include "engine/database.h"
-#include "frame/shared/formats.h"
-#include "frame/shared/ruleerror.h"
 
 using namespace Qt::StringLiterals;
 using Engine::FieldType;

@@ -1,10 +1,10 @@
 #include "transactions/documentposting.h"
 
+#include "base/ruleerror.h"
 #include "engine/dialect.h"
 #include "engine/error.h"
 #include "engine/groupedwrites.h"
 #include "engine/table.h"
-#include "frame/shared/ruleerror.h"
 #include "transactions/historywriter.h"
 #include "transactions/stockbook.h"
 

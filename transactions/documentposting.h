@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/prompts.h"
 #include "engine/database.h"
-#include "frame/shared/prompts.h"
 #include "transactions/documentkind.h"
 
 #include <functional>

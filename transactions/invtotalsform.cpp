@@ -1,8 +1,8 @@
 #include "transactions/invtotalsform.h"
 
+#include "base/formats.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
-#include "frame/shared/formats.h"
 #include "master/itemsfindform.h"
 #include "transactions/invtotalsfilterform.h"
 

@@ -1,6 +1,6 @@
 #include "transactions/receiptcost.h"
 
-#include "frame/shared/calchelpers.h"
+#include "base/calchelpers.h"
 
 namespace Tallymere {
 

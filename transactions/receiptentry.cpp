@@ -1,7 +1,7 @@
 #include "transactions/receiptentry.h"
 
-#include "frame/shared/formats.h"
-#include "frame/shared/ruleerror.h"
+#include "base/formats.h"
+#include "base/ruleerror.h"
 #include "transactions/documentkinds.h"
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,5 @@
+#include "base/csvwriter.h"
 #include "cli/csv.h"
-#include "frame/shared/csvwriter.h"
 
 #include <gtest/gtest.h>
 #include <QBuffer>

@@ -1,7 +1,7 @@
+#include "base/ruleerror.h"
 #include "controls/guard.h"
 #include "controls/messageboxes.h"
 #include "engine/error.h"
-#include "frame/shared/ruleerror.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
 

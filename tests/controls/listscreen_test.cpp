@@ -1,8 +1,8 @@
+#include "base/formats.h"
 #include "controls/filechoice.h"
 #include "controls/filterdialog.h"
 #include "controls/listscreen.h"
 #include "data/utilsinv.h"
-#include "frame/shared/formats.h"
 #include "tests/support/smalldisk.h"
 #include "tests/transactions/screentest.h"
 

@@ -1,6 +1,6 @@
-#include "frame/shared/calchelpers.h"
+#include "base/calchelpers.h"
 
-#include "frame/shared/ruleerror.h"
+#include "base/ruleerror.h"
 #include "tests/support/bothstores.h"
 
 #include <gtest/gtest.h>

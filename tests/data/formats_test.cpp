@@ -1,6 +1,6 @@
-#include "frame/shared/formats.h"
+#include "base/formats.h"
 
-#include "frame/shared/textnumbers.h"
+#include "base/textnumbers.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 

@@ -1,5 +1,5 @@
-#include "frame/shared/connectiondecision.h"
-#include "frame/shared/settingsstore.h"
+#include "base/connectiondecision.h"
+#include "base/settingsstore.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/spokenprompts.h"
 

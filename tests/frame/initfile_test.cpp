@@ -1,5 +1,5 @@
+#include "base/initfile.h"
 #include "frame/hostinifile.h"
-#include "frame/shared/initfile.h"
 
 #include <QFile>
 #include <QTemporaryDir>

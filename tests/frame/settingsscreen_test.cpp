@@ -1,5 +1,5 @@
+#include "base/settingsstore.h"
 #include "frame/mainoptionsinv.h"
-#include "frame/shared/settingsstore.h"
 #include "tests/support/spokenprompts.h"
 
 #include <QComboBox>

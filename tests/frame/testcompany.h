@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/settingsstore.h"
 #include "controls/screencontext.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
 #include "frame/screenregistry.h"
-#include "frame/shared/settingsstore.h"
 #include "tests/support/spokenprompts.h"
 
 #include <QTemporaryDir>

@@ -1,5 +1,5 @@
-#include "frame/shared/initfile.h"
-#include "frame/shared/settingsstore.h"
+#include "base/initfile.h"
+#include "base/settingsstore.h"
 #include "host/company.h"
 #include "tests/host/privatesettings.h"
 

@@ -1,4 +1,4 @@
-#include "frame/shared/settingsstore.h"
+#include "base/settingsstore.h"
 #include "host/company.h"
 #include "host/hostwindow.h"
 #include "plgint/classregistry.h"

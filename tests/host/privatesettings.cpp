@@ -1,8 +1,8 @@
 #include "tests/host/privatesettings.h"
 
+#include "base/settingsstore.h"
 #include "engine/database.h"
 #include "engine/session.h"
-#include "frame/shared/settingsstore.h"
 #include "host/tables/hosttables.h"
 
 #include <QTemporaryDir>

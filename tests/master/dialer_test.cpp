@@ -1,4 +1,4 @@
-#include "frame/shared/initfile.h"
+#include "base/initfile.h"
 #include "master/dialer.h"
 #include "master/dialerinvform.h"
 #include "master/dialersetupinvform.h"

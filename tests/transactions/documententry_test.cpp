@@ -1,4 +1,4 @@
-#include "frame/shared/ruleerror.h"
+#include "base/ruleerror.h"
 #include "tests/support/failures.h"
 #include "tests/transactions/kitchen.h"
 #include "transactions/documententry.h"

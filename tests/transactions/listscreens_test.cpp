@@ -1,7 +1,7 @@
+#include "base/ruleerror.h"
 #include "controls/lookupcombobox.h"
 #include "controls/recordopener.h"
 #include "controls/screenmetrics.h"
-#include "frame/shared/ruleerror.h"
 #include "master/itemsfindform.h"
 #include "tests/transactions/screentest.h"
 #include "transactions/documentfilter.h"

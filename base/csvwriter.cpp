@@ -1,6 +1,6 @@
-#include "frame/shared/csvwriter.h"
+#include "base/csvwriter.h"
 
-#include "frame/shared/ruleerror.h"
+#include "base/ruleerror.h"
 
 #include <QCoreApplication>
 #include <QIODevice>

@@ -1,4 +1,4 @@
-#include "frame/shared/listfilter.h"
+#include "base/listfilter.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "frame/shared/settingsstore.h"
+#include "base/settingsstore.h"
 
 #include <QCoreApplication>
 #include <QSettings>

@@ -1,4 +1,4 @@
-#include "frame/shared/trace.h"
+#include "base/trace.h"
 
 namespace Tallymere {
 

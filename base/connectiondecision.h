@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/prompts.h"
+#include "base/settingsstore.h"
 #include "engine/database.h"
 #include "engine/session.h"
-#include "frame/shared/prompts.h"
-#include "frame/shared/settingsstore.h"
 
 // Where the tables are and how they are reached, decided from the settings. Both run just before the engine
 // connects, and read the settings anew.

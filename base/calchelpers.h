@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/regionalsettings.h"
 #include "engine/money.h"
-#include "frame/shared/regionalsettings.h"
 
 #include <QDate>
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/shared/regionalsettings.h"
+#include "base/regionalsettings.h"
 
 #include <QString>
 

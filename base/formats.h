@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/regionalsettings.h"
 #include "engine/field.h"
 #include "engine/money.h"
-#include "frame/shared/regionalsettings.h"
 
 #include <QString>
 

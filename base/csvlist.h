@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/gridcolumn.h"
+#include "base/prompts.h"
 #include "engine/dataset.h"
-#include "frame/shared/gridcolumn.h"
-#include "frame/shared/prompts.h"
 
 #include <QList>
 #include <QString>

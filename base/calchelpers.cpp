@@ -1,7 +1,7 @@
-#include "frame/shared/calchelpers.h"
+#include "base/calchelpers.h"
 
-#include "frame/shared/ruleerror.h"
-#include "frame/shared/textnumbers.h"
+#include "base/ruleerror.h"
+#include "base/textnumbers.h"
 
 #include <cmath>
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
-#include "frame/shared/formats.h"
+#include "base/formats.h"
 
-#include "frame/shared/calchelpers.h"
-#include "frame/shared/ruleerror.h"
-#include "frame/shared/textnumbers.h"
+#include "base/calchelpers.h"
+#include "base/ruleerror.h"
+#include "base/textnumbers.h"
 
 #include <algorithm>
 #include <optional>

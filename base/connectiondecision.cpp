@@ -1,6 +1,6 @@
-#include "frame/shared/connectiondecision.h"
+#include "base/connectiondecision.h"
 
-#include "frame/shared/trace.h"
+#include "base/trace.h"
 
 #include <QCoreApplication>
 #include <QDir>

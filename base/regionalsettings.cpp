@@ -1,4 +1,4 @@
-#include "frame/shared/regionalsettings.h"
+#include "base/regionalsettings.h"
 
 #include <array>
 #include <QStringList>

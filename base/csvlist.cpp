@@ -1,7 +1,7 @@
-#include "frame/shared/csvlist.h"
+#include "base/csvlist.h"
 
-#include "frame/shared/csvwriter.h"
-#include "frame/shared/ruleerror.h"
+#include "base/csvwriter.h"
+#include "base/ruleerror.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
-#include "frame/shared/textnumbers.h"
+#include "base/textnumbers.h"
 
-#include "frame/shared/ruleerror.h"
+#include "base/ruleerror.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

@@ -1,4 +1,4 @@
-#include "frame/shared/initfile.h"
+#include "base/initfile.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "frame/shared/prompts.h"
+#include "base/prompts.h"
 
 #include <QCoreApplication>
 
