@@ -1,11 +1,11 @@
 #include "engine/database.h"
 
 #include "engine/error.h"
-#include "engine/postgresconnection.h"
-#include "engine/postgreserror.h"
-#include "engine/postgreslocks.h"
+#include "engine/postgres/connection.h"
+#include "engine/postgres/error.h"
+#include "engine/postgres/locks.h"
 #include "engine/session.h"
-#include "engine/sqliteconnection.h"
+#include "engine/sqlite/connection.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/error.h"
-#include "engine/filterexpression.h"
+#include "engine/filter/filterexpression.h"
 #include "engine/keylist.h"
 #include "engine/rowsource.h"
 #include "engine/windowcache.h"

@@ -1,6 +1,6 @@
 // Filter expressions: which rows they let through, and how bad ones are refused.
 
-#include "engine/filterexpression.h"
+#include "engine/filter/filterexpression.h"
 #include "tests/engine/recordfixture.h"
 
 using namespace Engine;

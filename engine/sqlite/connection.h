@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/driver.h"
-#include "engine/sqlitedialect.h"
+#include "engine/sqlite/dialect.h"
 
 struct sqlite3;
 

@@ -1,6 +1,6 @@
 #include "engine/indexnames.h"
 #include "engine/reservedwords.h"
-#include "engine/sqliteconnection.h"
+#include "engine/sqlite/connection.h"
 
 #include <sqlite3.h>
 

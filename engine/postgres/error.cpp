@@ -1,4 +1,4 @@
-#include "engine/postgreserror.h"
+#include "engine/postgres/error.h"
 
 #include <QCoreApplication>
 

@@ -1,10 +1,10 @@
-#include "engine/sqliteconnection.h"
+#include "engine/sqlite/connection.h"
 
-#include "engine/filelocks.h"
 #include "engine/platform.h"
-#include "engine/sqliteerror.h"
-#include "engine/sqlitestatement.h"
-#include "engine/sqlitewatch.h"
+#include "engine/sqlite/error.h"
+#include "engine/sqlite/locks.h"
+#include "engine/sqlite/statement.h"
+#include "engine/sqlite/watch.h"
 
 #include <QFileInfo>
 #include <sqlite3.h>

@@ -1,8 +1,8 @@
-#include "engine/postgreslink.h"
+#include "engine/postgres/link.h"
 
 #include "engine/platform.h"
-#include "engine/postgreserror.h"
-#include "engine/postgreswatch.h"
+#include "engine/postgres/error.h"
+#include "engine/postgres/watch.h"
 
 #include <algorithm>
 #include <libpq-fe.h>

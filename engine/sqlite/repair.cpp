@@ -1,7 +1,7 @@
 #include "engine/error.h"
 #include "engine/indexnames.h"
 #include "engine/reservedwords.h"
-#include "engine/sqliteconnection.h"
+#include "engine/sqlite/connection.h"
 
 #include <set>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/filterexpression.h"
+#include "engine/filter/filterexpression.h"
 
 #include <vector>
 

@@ -1,8 +1,8 @@
-#include "engine/postgreslocks.h"
+#include "engine/postgres/locks.h"
 
 #include "engine/error.h"
 #include "engine/platform.h"
-#include "engine/postgresconnection.h"
+#include "engine/postgres/connection.h"
 
 #include <limits>
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "engine/postgresdialect.h"
+#include "engine/postgres/dialect.h"
 
 #include "engine/conversion.h"
 #include "engine/indexnames.h"

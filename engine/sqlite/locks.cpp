@@ -1,4 +1,4 @@
-#include "engine/filelocks.h"
+#include "engine/sqlite/locks.h"
 
 #include "engine/error.h"
 

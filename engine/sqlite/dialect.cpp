@@ -1,4 +1,4 @@
-#include "engine/sqlitedialect.h"
+#include "engine/sqlite/dialect.h"
 
 #include "engine/conversion.h"
 #include "engine/indexnames.h"

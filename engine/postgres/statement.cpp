@@ -1,4 +1,4 @@
-#include "engine/postgresstatement.h"
+#include "engine/postgres/statement.h"
 
 #include "engine/storedtext.h"
 

@@ -1,5 +1,5 @@
 #include "engine/error.h"
-#include "engine/postgresconnection.h"
+#include "engine/postgres/connection.h"
 #include "engine/reservedwords.h"
 
 using namespace Qt::StringLiterals;

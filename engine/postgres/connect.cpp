@@ -1,6 +1,6 @@
 #include "engine/platform.h"
-#include "engine/postgreserror.h"
-#include "engine/postgreslink.h"
+#include "engine/postgres/error.h"
+#include "engine/postgres/link.h"
 #include "engine/reservedwords.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
-#include "engine/sqlitestatement.h"
+#include "engine/sqlite/statement.h"
 
-#include "engine/sqliteconnection.h"
-#include "engine/sqlitedialect.h"
-#include "engine/sqliteerror.h"
+#include "engine/sqlite/connection.h"
+#include "engine/sqlite/dialect.h"
+#include "engine/sqlite/error.h"
 #include "engine/storedtext.h"
 
 #include <sqlite3.h>

@@ -1,7 +1,7 @@
-#include "engine/postgresconnection.h"
+#include "engine/postgres/connection.h"
 
-#include "engine/postgreslocks.h"
-#include "engine/postgresstatement.h"
+#include "engine/postgres/locks.h"
+#include "engine/postgres/statement.h"
 
 using namespace Qt::StringLiterals;
 

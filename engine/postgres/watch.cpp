@@ -1,7 +1,7 @@
-#include "engine/postgreswatch.h"
+#include "engine/postgres/watch.h"
 
-#include "engine/postgreslink.h"
-#include "engine/postgreslocks.h"
+#include "engine/postgres/link.h"
+#include "engine/postgres/locks.h"
 
 #include <libpq-fe.h>
 

@@ -1,7 +1,7 @@
-#include "engine/sqlitewatch.h"
+#include "engine/sqlite/watch.h"
 
 #include "engine/error.h"
-#include "engine/filelocks.h"
+#include "engine/sqlite/locks.h"
 
 #include <algorithm>
 #include <QCoreApplication>

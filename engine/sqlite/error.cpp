@@ -1,4 +1,4 @@
-#include "engine/sqliteerror.h"
+#include "engine/sqlite/error.h"
 
 #include <cerrno>
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "engine/filterlexer.h"
+#include "engine/filter/filterlexer.h"
 
 #include "engine/error.h"
 

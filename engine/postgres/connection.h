@@ -1,8 +1,8 @@
 #pragma once
 
 #include "engine/driver.h"
-#include "engine/postgresdialect.h"
-#include "engine/postgreslink.h"
+#include "engine/postgres/dialect.h"
+#include "engine/postgres/link.h"
 
 namespace Engine {
 

@@ -1,8 +1,8 @@
-#include "engine/filterexpression.h"
+#include "engine/filter/filterexpression.h"
 
 #include "engine/dialect.h"
-#include "engine/filterlexer.h"
-#include "engine/filternode.h"
+#include "engine/filter/filterlexer.h"
+#include "engine/filter/filternode.h"
 
 #include <cmath>
 #include <QCoreApplication>

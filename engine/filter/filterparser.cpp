@@ -1,5 +1,5 @@
-#include "engine/filterlexer.h"
-#include "engine/filternode.h"
+#include "engine/filter/filterlexer.h"
+#include "engine/filter/filternode.h"
 
 #include <QCoreApplication>
 

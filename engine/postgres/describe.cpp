@@ -1,5 +1,5 @@
 #include "engine/indexnames.h"
-#include "engine/postgresconnection.h"
+#include "engine/postgres/connection.h"
 
 #include <QRegularExpression>
 
