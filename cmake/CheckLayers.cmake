@@ -1,26 +1,34 @@
 cmake_minimum_required(VERSION 3.25)
 
-# Which room may include which. A room may always include itself. Called as cmake -DROOT=... -P.
-#
-# Rules and screens of one entity stand in one room; that rules include no screen is seen to by the linking
-# (rules are built without QtWidgets) and by the file names: screens end in "form.h".
+# Which room may include which. A room is a folder, and may always include itself; a folder within a room is a part of
+# it, unless it is named here as a room of its own. Called as cmake -DROOT=... -P.
+
+set(rules engine base data) # what a room of rules stands on
 
 set(allowed_plgint "")
 set(allowed_engine "")
 set(allowed_base engine)
 set(allowed_data engine base)
 set(allowed_host/tables engine)
-set(allowed_controls engine base data)
+set(allowed_controls ${rules})
 set(allowed_printing engine base)
-set(allowed_master engine base data controls)
-set(allowed_transactions engine base data master controls)
-set(allowed_reports engine base data master transactions controls printing)
-set(allowed_frame engine base data master transactions reports controls plgint)
+set(allowed_master ${rules})
+set(allowed_master/screens ${rules} controls master)
+set(allowed_transactions ${rules} master)
+set(allowed_transactions/screens ${rules} controls master master/screens transactions)
+set(allowed_reports ${rules} master transactions printing)
+set(allowed_reports/screens ${rules} controls master transactions printing reports)
+set(allowed_frame ${rules} controls master master/screens transactions transactions/screens reports reports/screens
+    plgint)
+set(allowed_import ${rules} master transactions)
 set(allowed_host plgint host/tables engine base)
-set(allowed_cli engine base data host/tables master transactions reports)
+set(allowed_host/sample ${rules} master transactions import)
+set(allowed_cli ${rules} host/tables host/sample master transactions import reports)
 
-set(rooms plgint engine data host/tables base master transactions reports printing controls frame
-    host cli)
+get_cmake_property(variables VARIABLES)
+set(rooms ${variables})
+list(FILTER rooms INCLUDE REGEX "^allowed_")
+list(TRANSFORM rooms REPLACE "^allowed_" "")
 set(failures "")
 
 # room_of(PATH OUT): the innermost room that holds the file.
@@ -46,21 +54,12 @@ endforeach()
 list(REMOVE_DUPLICATES files)
 foreach(file IN LISTS files)
     room_of(${file} room)
-    if(room STREQUAL "")
-        continue()
-    endif()
     file(STRINGS ${ROOT}/${file} includes REGEX "^#include \"")
     foreach(line IN LISTS includes)
         string(REGEX REPLACE "^#include \"([^\"]+)\".*" "\\1" target "${line}")
         room_of(${target} other)
-        if(other STREQUAL "" OR other STREQUAL room)
-            continue()
-        endif()
-        if(NOT other IN_LIST allowed_${room})
+        if(NOT other STREQUAL "" AND NOT other STREQUAL room AND NOT other IN_LIST allowed_${room})
             list(APPEND failures "${file} (room ${room}) may not include ${target} (room ${other})")
-        endif()
-        if(other STREQUAL "controls" AND room MATCHES "^(master|transactions|reports)$" AND NOT file MATCHES "form\\.(h|cpp)$")
-            list(APPEND failures "${file} is no screen and may not include ${target}")
         endif()
     endforeach()
 endforeach()

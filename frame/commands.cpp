@@ -3,7 +3,7 @@
 #include "base/rights.h"
 #include "frame/synchronization.h"
 #include "master/masterkind.h"
-#include "master/masterscreensform.h"
+#include "master/screens/masterscreens.h"
 
 #include <QCoreApplication>
 

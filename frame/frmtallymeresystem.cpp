@@ -14,7 +14,7 @@
 #include "frame/screenregistry.h"
 #include "frame/templatereport.h"
 #include "frame/tracescope.h"
-#include "master/dialerinvform.h"
+#include "master/screens/dialerinv.h"
 #include "ui_frmtallymeresystem.h"
 
 #include <QAction>

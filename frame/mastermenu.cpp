@@ -1,7 +1,7 @@
 #include "frame/mastermenu.h"
 
 #include "master/masterkind.h"
-#include "master/masterscreensform.h"
+#include "master/screens/masterscreens.h"
 
 #include <QMainWindow>
 #include <QMenu>

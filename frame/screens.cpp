@@ -2,14 +2,14 @@
 
 #include "controls/listscreen.h"
 #include "controls/screencontext.h"
-#include "master/companyform.h"
 #include "master/masterkind.h"
-#include "master/masterlistform.h"
-#include "master/masterscreensform.h"
+#include "master/screens/company.h"
+#include "master/screens/masterlistscreen.h"
+#include "master/screens/masterscreens.h"
 #include "transactions/documentkind.h"
-#include "transactions/documentlistform.h"
-#include "transactions/documentscreensform.h"
-#include "transactions/invtotalsform.h"
+#include "transactions/screens/documentlistscreen.h"
+#include "transactions/screens/documentscreens.h"
+#include "transactions/screens/invtotals.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #include "engine/locks.h"
 #include "frame/frmtallymeresystem.h"
-#include "master/dialerinvform.h"
+#include "master/screens/dialerinv.h"
 #include "tests/frame/testcompany.h"
 
 #include <QAction>

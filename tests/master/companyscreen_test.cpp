@@ -1,6 +1,6 @@
 #include "controls/lookupcombobox.h"
 #include "data/fiscalperiod.h"
-#include "master/companyform.h"
+#include "master/screens/company.h"
 #include "tests/transactions/screentest.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 #include "base/initfile.h"
 #include "master/dialer.h"
-#include "master/dialerinvform.h"
-#include "master/dialersetupinvform.h"
+#include "master/screens/dialerinv.h"
+#include "master/screens/dialersetupinv.h"
 #include "tests/support/failures.h"
 #include "tests/transactions/screentest.h"
 

@@ -3,12 +3,12 @@
 #include "data/datamodule.h"
 #include "engine/error.h"
 #include "engine/table.h"
-#include "master/iteminvform.h"
-#include "master/itemsfindform.h"
-#include "master/itemsinvform.h"
-#include "master/itemtypeinvform.h"
+#include "master/screens/iteminv.h"
+#include "master/screens/itemsfind.h"
+#include "master/screens/itemsinv.h"
+#include "master/screens/itemtypeinv.h"
 #include "tests/transactions/screentest.h"
-#include "transactions/invtotalsform.h"
+#include "transactions/screens/invtotals.h"
 
 #include <QAction>
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #include "controls/listgrid.h"
 #include "controls/lookupcombobox.h"
-#include "master/itemsearchinvform.h"
+#include "master/screens/itemsearchinv.h"
 #include "tests/transactions/screentest.h"
 
 #include <QLineEdit>

@@ -1,9 +1,9 @@
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "master/masterkinds.h"
-#include "master/masterlistform.h"
-#include "master/masterrecordform.h"
-#include "master/masterscreensform.h"
+#include "master/screens/masterlistscreen.h"
+#include "master/screens/masterrecordscreen.h"
+#include "master/screens/masterscreens.h"
 #include "tests/transactions/screentest.h"
 
 #include <QAction>

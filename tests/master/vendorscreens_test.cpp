@@ -1,10 +1,10 @@
 #include "controls/lookupcombobox.h"
 #include "controls/screenmetrics.h"
-#include "master/dialerinvform.h"
 #include "master/masterkinds.h"
-#include "master/vcontactform.h"
-#include "master/vendorform.h"
-#include "master/vendorsform.h"
+#include "master/screens/dialerinv.h"
+#include "master/screens/vcontact.h"
+#include "master/screens/vendor.h"
+#include "master/screens/vendors.h"
 #include "tests/transactions/screentest.h"
 
 #include <QAction>

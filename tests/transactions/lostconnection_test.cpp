@@ -2,9 +2,9 @@
 
 #include "controls/linegrid.h"
 #include "engine/query.h"
-#include "master/itemtypeinvform.h"
+#include "master/screens/itemtypeinv.h"
 #include "tests/transactions/screentest.h"
-#include "transactions/invreceiptform.h"
+#include "transactions/screens/invreceipt.h"
 
 #include <QEventLoop>
 #include <QLineEdit>

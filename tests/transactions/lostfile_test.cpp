@@ -1,6 +1,6 @@
 #include "controls/linegrid.h"
 #include "tests/transactions/screentest.h"
-#include "transactions/invreceiptform.h"
+#include "transactions/screens/invreceipt.h"
 
 #include <QLineEdit>
 #include <QPointer>

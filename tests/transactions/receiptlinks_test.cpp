@@ -1,8 +1,8 @@
 #include "controls/listscreen.h"
-#include "master/vendorsform.h"
-#include "master/warehousesinvform.h"
+#include "master/screens/vendors.h"
+#include "master/screens/warehousesinv.h"
 #include "tests/transactions/screentest.h"
-#include "transactions/invreceiptform.h"
+#include "transactions/screens/invreceipt.h"
 
 #include <QToolButton>
 

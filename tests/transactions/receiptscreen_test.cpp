@@ -3,11 +3,11 @@
 #include "controls/lookupcombobox.h"
 #include "controls/screenmetrics.h"
 #include "data/utilsinv.h"
-#include "master/itemsearchinvform.h"
+#include "master/screens/itemsearchinv.h"
 #include "tests/transactions/screentest.h"
 #include "transactions/documentkinds.h"
-#include "transactions/documentpostform.h"
-#include "transactions/invreceiptform.h"
+#include "transactions/screens/documentpostscreen.h"
+#include "transactions/screens/invreceipt.h"
 
 #include <QAction>
 #include <QHeaderView>

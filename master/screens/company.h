@@ -1,0 +1,39 @@
+#pragma once
+
+#include "master/screens/masterrecordscreen.h"
+#include "master/yearend.h"
+
+#include <memory>
+
+namespace Ui {
+class TfrmCompany;
+}
+
+namespace Tallymere {
+
+// "Your Organization": the fiscal calendar, invoice defaults and notes. Name and address are the host's.
+class TfrmCompany final : public MasterRecordScreen
+{
+    Q_OBJECT
+
+public:
+    TfrmCompany(ScreenContext &context, QWidget *parent);
+    ~TfrmCompany() override;
+
+    // What the open screen does when it is asked for again.
+    void showAgain();
+    // Behind a button that this release hides, as it has no year-end screen.
+    void btnYearEndClick();
+    // Runs the year-end screen modally; true when it was closed with OK. Empty: there is none.
+    std::function<bool()> yearEndScreen;
+
+protected:
+    void showRecord() override;
+    void saveChanges() override;
+
+private:
+    std::unique_ptr<Ui::TfrmCompany> m_ui;
+    YearEnd m_yearEnd;
+};
+
+} // namespace Tallymere

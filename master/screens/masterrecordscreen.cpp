@@ -1,0 +1,111 @@
+#include "master/screens/masterrecordscreen.h"
+
+#include "controls/lookuplists.h"
+#include "data/datamodule.h"
+
+#include <QLineEdit>
+#include <QTabWidget>
+
+namespace Tallymere {
+
+MasterRecordScreen::MasterRecordScreen(ScreenContext &context, const MasterKind &kind, QWidget *parent)
+    : RecordScreen(context, parent)
+    , m_record(context.data.databaseTallymere(), kind)
+{
+    m_record.open();
+}
+
+MasterRecordScreen::~MasterRecordScreen()
+{
+    // The table closes with the record and would call for a caption that is no more.
+    m_record.table().disconnect(this);
+}
+
+void MasterRecordScreen::buildRecord()
+{
+    setObjectName(m_record.kind().screen);
+    setLookupLists(*this, context().lookups, guard());
+    binder().bind(m_record.table());
+    connect(&m_record.table(), &Engine::DataSet::fieldChanged, this, &MasterRecordScreen::recordChanged);
+    connect(&m_record.table(), &Engine::DataSet::currentChanged, this, &MasterRecordScreen::recordChanged);
+    connect(&m_record.table(), &Engine::DataSet::stateChanged, this, &MasterRecordScreen::recordChanged);
+    followName();
+    buildScreen();
+}
+
+void MasterRecordScreen::followName()
+{
+    const QString nameField = m_record.kind().nameField();
+    if (auto *edit = qobject_cast<QLineEdit *>(binder().widgetFor(nameField)))
+        connect(edit, &QLineEdit::textEdited, this, [this, edit] {
+            // What was typed may have been taken back already.
+            showCaption(m_record.captionFor(edit->text()));
+        });
+}
+
+void MasterRecordScreen::recordChanged()
+{
+    showCaption();
+    showRecord();
+}
+
+void MasterRecordScreen::newRecord()
+{
+    m_record.newRecord();
+    recordChanged();
+}
+
+void MasterRecordScreen::newCopy(const Engine::DataSet &original)
+{
+    m_record.newCopy(original);
+    recordChanged();
+}
+
+bool MasterRecordScreen::openRecord(int key)
+{
+    const bool found = m_record.openRecord(key);
+    recordChanged();
+    return found;
+}
+
+std::optional<int> MasterRecordScreen::storedKey() const { return isNew() ? std::nullopt : std::optional(key()); }
+
+void MasterRecordScreen::firstShown()
+{
+    if (auto *pages = findChild<QTabWidget *>())
+        pages->setCurrentIndex(0);
+    if (QWidget *first = binder().firstWidget())
+        first->setFocus();
+}
+
+EntryScreen::Pending MasterRecordScreen::pending() const
+{
+    if (!m_record.table().isEditing())
+        return Pending::Nothing;
+    return m_record.table().isModified() ? Pending::Changes : Pending::Untouched;
+}
+
+void MasterRecordScreen::saveChanges()
+{
+    if (!m_record.table().isEditing())
+        return;
+    m_record.save();
+    m_saved = true;
+}
+
+void MasterRecordScreen::dropChanges() { m_record.cancel(); }
+
+QString MasterRecordScreen::recordName() const
+{
+    const MasterKind &kind = m_record.kind();
+    const QString name = kind.recordName(m_record.table());
+    const QString what = isNew() ? kind.newCaption : kind.caption;
+    return name.isEmpty() ? what : tr("%1 '%2'").arg(what, name);
+}
+
+std::optional<int> MasterRecordScreen::savedKey() const
+{
+    return m_saved ? std::optional(m_record.key()) : std::nullopt;
+}
+
+} // namespace Tallymere

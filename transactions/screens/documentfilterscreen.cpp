@@ -1,0 +1,20 @@
+#include "transactions/screens/documentfilterscreen.h"
+
+#include "transactions/documentkind.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+DocumentFilterScreen::DocumentFilterScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
+    : FilterDialog(context,
+                   {.name = kind.filterScreen,
+                    .caption = kind.filterCaption,
+                    .boxes = kind.filterBoxes,
+                    .mark = u"Posted"_s,
+                    .markLabel = tr("Posted")},
+                   parent)
+{
+}
+
+} // namespace Tallymere

@@ -1,0 +1,35 @@
+#include "transactions/screens/documentfindscreen.h"
+
+#include "controls/filternote.h"
+#include "transactions/documentlist.h"
+#include "ui_documentfindscreen.h"
+
+namespace Tallymere {
+
+DocumentFindScreen::DocumentFindScreen(ScreenContext &context, DocumentList &list, QWidget *parent)
+    : DialogScreen(context, parent)
+    , m_ui(std::make_unique<Ui::DocumentFindScreen>())
+    , m_list(list)
+{
+    const DocumentKind::Find &find = list.kind().find;
+    m_ui->setupUi(this);
+    setObjectName(find.screen);
+    setWindowTitle(find.caption);
+    m_ui->lblNumber->setText(find.label);
+    m_ui->editNumber->setObjectName(find.box);
+    addFilterNote(*this, list.table());
+    connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &DocumentFindScreen::btnOKClick);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+DocumentFindScreen::~DocumentFindScreen() = default;
+
+void DocumentFindScreen::btnOKClick()
+{
+    m_list.find(m_ui->editNumber->text().trimmed());
+    accept();
+}
+
+QWidget *DocumentFindScreen::widgetOfColumn(const QString &) const { return m_ui->editNumber; }
+
+} // namespace Tallymere

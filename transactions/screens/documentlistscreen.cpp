@@ -1,0 +1,72 @@
+#include "transactions/screens/documentlistscreen.h"
+
+#include "data/datamodule.h"
+#include "transactions/documentfilter.h"
+#include "transactions/screens/documentfilterscreen.h"
+#include "transactions/screens/documentfindscreen.h"
+#include "transactions/screens/documentpostscreen.h"
+#include "transactions/screens/documentscreens.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+DocumentListScreen::DocumentListScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
+    : RecordListScreen(context, parent)
+    , m_list(context.data.databaseTallymere(), kind)
+{
+    m_list.open();
+    setRecords(m_list, recordScreens(kind));
+    Dialogs dialogs{
+        .makeFilter = [this, &kind] { return new DocumentFilterScreen(this->context(), kind, this); },
+        .filterExpression = [&kind](const ListFilter &filter) { return documentFilter(filter, kind.notPosted); },
+        .makeFind = {}};
+    if (!kind.find.screen.isEmpty())
+        dialogs.makeFind = [this] { return std::make_unique<DocumentFindScreen>(this->context(), m_list, this); };
+    setDialogs(std::move(dialogs));
+}
+
+void DocumentListScreen::buildList(const std::function<void(ListDescription &)> &add)
+{
+    ListDescription described = description();
+    if (add)
+        add(described);
+    build(described, m_list.table(), [this] { btnEditClick(); });
+}
+
+ListDescription DocumentListScreen::description()
+{
+    const DocumentKind &kind = m_list.kind();
+    ListMenu records = recordMenu();
+    records.commands.append({.name = u"mnuPost"_s,
+                             .caption = tr("&Post..."),
+                             .run = [this] { mnuPostClick(); },
+                             .separatorBefore = true});
+    const auto sort = [this](const ListOrder &order) {
+        m_list.setOrder(order);
+        m_list.table().first();
+    };
+    return {.name = kind.listScreen,
+            .caption = kind.listCaption,
+            .columns = kind.columns,
+            .buttons = recordButtons(),
+            .menus = {fileMenu(), records, viewMenu(kind.orders, 0, sort),
+                      helpMenu(tr("%1 &Help").arg(kind.listCaption))}};
+}
+
+void DocumentListScreen::mnuPostClick()
+{
+    DocumentPostScreen dialog(context(), m_list.kind(), isVisible() ? this : parentWidget());
+    post(dialog);
+}
+
+void DocumentListScreen::post(DocumentPostScreen &dialog)
+{
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    refreshList();
+    if (!dialog.hasFailed())
+        say(m_list.kind().posting.postedText(dialog.posting().posted()));
+}
+
+} // namespace Tallymere

@@ -1,0 +1,240 @@
+#include "transactions/screens/documentscreen.h"
+
+#include "base/ruleerror.h"
+#include "controls/linegrid.h"
+#include "controls/lookuplists.h"
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "data/lookupsdatainv.h"
+#include "master/screens/itemsearchinv.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+using Engine::LocateOption;
+using Engine::LocateOptions;
+
+namespace Tallymere {
+
+namespace {
+constexpr QStringView numberColumn = u"ItemNo";
+constexpr QStringView descriptionField = u"ItemDescription"; // of an item, and of a line by lookup
+} // namespace
+
+DocumentScreen::DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
+    : RecordScreen(context, parent)
+    , m_entry(kind.makeEntry(context.data.databaseTallymere(), context.prompts))
+{
+    m_entry->open();
+}
+
+DocumentScreen::~DocumentScreen()
+{
+    // The tables close with the entry and would call for a caption that is no more.
+    m_entry->header().disconnect(this);
+}
+
+void DocumentScreen::buildDocument(LineOptions options)
+{
+    resize(scaled(this, 840), scaled(this, 470));
+    setLookupLists(*this, context().lookups, guard());
+    QList<GridColumn> columns = m_entry->kind().lineColumns;
+    for (GridColumn &column : columns) {
+        column.takesSurplus = column.field == descriptionField;
+        if (!takesText(column.field))
+            options.fixed << column.field;
+    }
+    m_grid = findChild<LineGrid *>(u"DBGrid1"_s);
+    m_posted = findChild<QLabel *>(u"lblPosted"_s);
+    binder().bind(m_entry->header());
+    m_grid->setLines(m_entry->lines(), columns,
+                     {.begin = [this] { beginLine(); },
+                      .append = [this] { m_entry->newLine(); },
+                      .remove = [this] { m_entry->removeLine(); },
+                      .enter = [this](const QString &field, const QString &text) { enterCell(field, text); },
+                      .columnSelected = [this](const QString &field) { m_entry->setLineColumn(field); },
+                      .search = [this](const QString &, const QString &typed) { return searchItem(typed); },
+                      .searchColumns = {numberColumn.toString()},
+                      .complete = [this](const QString &field,
+                                         const QString &typed) { return completeDescription(field, typed); }},
+                     guard(), options);
+    m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert)),
+            &QAction::triggered, m_grid, &LineGrid::appendLine);
+    connect(addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete)),
+            &QAction::triggered, m_grid, &LineGrid::removeLine);
+    connect(&m_entry->header(), &Engine::DataSet::fieldChanged, this, &DocumentScreen::showHeader);
+    connect(&m_entry->header(), &Engine::DataSet::currentChanged, this, &DocumentScreen::showHeader);
+    connect(&m_entry->header(), &Engine::DataSet::stateChanged, this, &DocumentScreen::showHeader);
+    buildScreen();
+}
+
+bool DocumentScreen::picksItem(const QString &column) const
+{
+    return m_entry->kind().picksByText && column == m_entry->kind().pickColumn;
+}
+
+// What is looked up or calculated takes a text only where that chooses the item.
+bool DocumentScreen::takesText(const QString &column) const
+{
+    const bool isStored = std::as_const(*m_entry).lines().field(column).kind == Engine::FieldKind::Data;
+    return isStored || column == numberColumn || picksItem(column);
+}
+
+QAction *DocumentScreen::addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut)
+{
+    auto *action = new QAction(caption, m_grid);
+    action->setObjectName(name);
+    action->setShortcut(shortcut);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_grid->addAction(action);
+    m_popup.append(action);
+    return action;
+}
+
+void DocumentScreen::newRecord()
+{
+    m_entry->newDocument();
+    showHeader();
+}
+
+bool DocumentScreen::openRecord(int key)
+{
+    const bool found = m_entry->openDocument(key);
+    showHeader();
+    return found;
+}
+
+std::optional<int> DocumentScreen::storedKey() const
+{
+    const bool isNew = m_entry->header().state() == Engine::TableState::Insert;
+    return isNew ? std::nullopt : std::optional(m_entry->key());
+}
+
+void DocumentScreen::showHeader()
+{
+    const bool posted = m_entry->isPosted();
+    m_posted->setVisible(posted);
+    m_grid->setReadOnly(posted);
+    for (QAction *action : std::as_const(m_popup))
+        action->setEnabled(!posted);
+    showCaption();
+}
+
+// --- lines ------------------------------------------------------------------------------------------------------
+
+void DocumentScreen::beginLine()
+{
+    if (!m_entry->lines().isEditing())
+        m_entry->lines().edit();
+}
+
+void DocumentScreen::enterCell(const QString &field, const QString &text)
+{
+    beginLine();
+    if (field == numberColumn)
+        m_entry->chooseItemByNumber(text.trimmed());
+    else if (picksItem(field))
+        chooseItemByDescription(text.trimmed());
+    else
+        m_entry->lines().setText(field, text);
+}
+
+void DocumentScreen::chooseItemByDescription(const QString &text)
+{
+    if (text.isEmpty()) {
+        m_entry->chooseItemByNumber({});
+        return;
+    }
+    const QString &column = m_entry->kind().pickColumn;
+    Engine::Table &items = context().lookups.tblItem();
+    if (!items.locate(descriptionField.toString(), {text}, LocateOption::CaseInsensitive))
+        throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), column);
+    m_entry->setLineColumn(column);
+    m_entry->chooseItem(items.integer(u"ItemID"));
+}
+
+QString DocumentScreen::completeDescription(const QString &field, const QString &typed) const
+{
+    if (!picksItem(field))
+        return {};
+    Engine::Table &items = context().lookups.tblItem();
+    const LocateOptions options = LocateOptions(LocateOption::CaseInsensitive) | LocateOption::PartialKey;
+    return items.locate(descriptionField.toString(), {typed}, options) ? items.text(descriptionField) : QString();
+}
+
+bool DocumentScreen::searchItem(const QString &typed)
+{
+    const int itemId = TfrmItemSearchInv::choose(context(), this, m_entry->lines().integer(u"ItemID"), typed);
+    if (itemId == 0)
+        return false;
+    m_entry->setLineColumn(numberColumn.toString());
+    m_entry->chooseItem(itemId);
+    return true;
+}
+
+// --- saving, closing, keys --------------------------------------------------------------------------------------
+
+EntryScreen::Pending DocumentScreen::pending() const
+{
+    if (m_grid->hasEntry())
+        return Pending::Changes;
+    switch (m_entry->closing()) {
+    case DocumentEntry::Closing::Free:
+        return Pending::Nothing;
+    case DocumentEntry::Closing::Drop:
+        return Pending::Untouched;
+    case DocumentEntry::Closing::Ask:
+        break;
+    }
+    return Pending::Changes;
+}
+
+void DocumentScreen::saveChanges()
+{
+    m_grid->commitEntry();
+    m_entry->save();
+}
+
+void DocumentScreen::dropChanges()
+{
+    m_grid->dropEntry();
+    m_entry->cancel();
+}
+
+std::optional<int> DocumentScreen::savedKey() const
+{
+    return m_entry->wasSaved() ? std::optional(m_entry->key()) : std::nullopt;
+}
+
+QString DocumentScreen::caption() const { return m_entry->caption(); }
+
+// The caption of a new document does not tell it from another one.
+QString DocumentScreen::recordName() const
+{
+    const QString number = m_entry->header().text(m_entry->kind().shownField());
+    return caption().contains(number) ? caption() : tr("%1 '%2'").arg(caption(), number);
+}
+
+bool DocumentScreen::focusColumn(const QString &column)
+{
+    if (EntryScreen::focusColumn(column))
+        return true;
+    if (column == DocumentEntry::LineGrid) {
+        m_grid->setFocus();
+        return true;
+    }
+    return m_grid->showColumn(column);
+}
+
+bool DocumentScreen::takeKey(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_PageDown)
+        return false;
+    m_grid->enterAtFirstLine();
+    return true;
+}
+
+} // namespace Tallymere

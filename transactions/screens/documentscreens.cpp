@@ -1,0 +1,37 @@
+#include "transactions/screens/documentscreens.h"
+
+#include "transactions/documentkinds.h"
+#include "transactions/screens/invreceipt.h"
+#include "transactions/screens/invreceipts.h"
+
+#include <algorithm>
+
+namespace Tallymere {
+
+namespace {
+
+template <typename List> DocumentListScreen *makeList(ScreenContext &context, QWidget *parent)
+{
+    return new List(context, parent);
+}
+
+} // namespace
+
+const QList<DocumentScreens> &documentScreens()
+{
+    static const QList<DocumentScreens> screens = {
+        {DocumentKinds::receipt(), RecordScreens::makes<TfrmInvReceipt>(), makeList<TfrmInvReceipts>},
+    };
+    return screens;
+}
+
+RecordScreens recordScreens(const DocumentKind &kind)
+{
+    const QList<DocumentScreens> &all = documentScreens();
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [&](const DocumentScreens &screens) { return &screens.kind == &kind; });
+    Q_ASSERT(found != all.end());
+    return {kind.screen, kind.listScreen, found->makeDocument};
+}
+
+} // namespace Tallymere

@@ -1,0 +1,26 @@
+#include "transactions/screens/invreceipts.h"
+
+#include "transactions/documentkinds.h"
+#include "transactions/screens/documentpostscreen.h"
+
+#include <QCloseEvent>
+
+namespace Tallymere {
+
+TfrmInvReceipts::TfrmInvReceipts(ScreenContext &context, QWidget *parent)
+    : DocumentListScreen(context, DocumentKinds::receipt(), parent)
+{
+    buildList();
+}
+
+void TfrmInvReceipts::closeEvent(QCloseEvent *event)
+{
+    guard().run([this] {
+        DocumentPostScreen dialog(context(), list().kind(), this);
+        if (dialog.posting().count() > 0)
+            post(dialog);
+    });
+    event->accept();
+}
+
+} // namespace Tallymere
