@@ -1,7 +1,7 @@
 #include "cli/importfile.h"
 
+#include "base/csvreader.h"
 #include "base/ruleerror.h"
-#include "cli/csv.h"
 #include "cli/importvalue.h"
 
 #include <QCoreApplication>

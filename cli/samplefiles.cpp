@@ -1,7 +1,7 @@
 #include "cli/samplefiles.h"
 
+#include "base/csvreader.h"
 #include "base/ruleerror.h"
-#include "cli/csv.h"
 #include "cli/importer.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "tests/cli/clirunner.h"
 
-#include "cli/csv.h"
+#include "base/csvreader.h"
 
 #include <gtest/gtest.h>
 #include <ostream>

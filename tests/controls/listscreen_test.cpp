@@ -3,8 +3,8 @@
 #include "controls/filterdialog.h"
 #include "controls/listscreen.h"
 #include "data/utilsinv.h"
+#include "tests/support/screentest.h"
 #include "tests/support/smalldisk.h"
-#include "tests/transactions/screentest.h"
 
 #include <QClipboard>
 #include <QComboBox>

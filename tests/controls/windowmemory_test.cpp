@@ -3,7 +3,7 @@
 #include "controls/windowplaces.h"
 #include "data/utilsinv.h"
 #include "engine/table.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 
 #include <QFrame>
 #include <QPushButton>

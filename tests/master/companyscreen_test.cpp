@@ -1,7 +1,7 @@
 #include "controls/lookupcombobox.h"
 #include "data/fiscalperiod.h"
 #include "master/screens/company.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 
 #include <QAction>
 #include <QLineEdit>

@@ -3,7 +3,7 @@
 #include "master/screens/dialerinv.h"
 #include "master/screens/dialersetupinv.h"
 #include "tests/support/failures.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 
 #include <fcntl.h>
 #include <pty.h>

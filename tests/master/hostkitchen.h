@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/tables/hosttables.h"
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 
 // The kitchen with the host's places and items. Its locations are linked to no place, and its items' numbers are no
 // host items' IDs.

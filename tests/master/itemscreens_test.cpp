@@ -7,7 +7,7 @@
 #include "master/screens/itemsfind.h"
 #include "master/screens/itemsinv.h"
 #include "master/screens/itemtypeinv.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 #include "transactions/screens/invtotals.h"
 
 #include <QAction>

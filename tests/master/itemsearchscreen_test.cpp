@@ -1,7 +1,7 @@
 #include "controls/listgrid.h"
 #include "controls/lookupcombobox.h"
 #include "master/screens/itemsearchinv.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 
 #include <QLineEdit>
 

@@ -5,8 +5,8 @@
 #include "master/masterlist.h"
 #include "master/recordnumber.h"
 #include "tests/support/failures.h"
+#include "tests/support/kitchen.h"
 #include "tests/support/otheruser.h"
-#include "tests/transactions/kitchen.h"
 
 #include <QSet>
 

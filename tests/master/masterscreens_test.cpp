@@ -4,7 +4,7 @@
 #include "master/screens/masterlistscreen.h"
 #include "master/screens/masterrecordscreen.h"
 #include "master/screens/masterscreens.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 
 #include <QAction>
 #include <QImage>

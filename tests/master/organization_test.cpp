@@ -5,7 +5,7 @@
 #include "master/masterkinds.h"
 #include "master/yearend.h"
 #include "tests/support/failures.h"
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 
 #include <QDate>
 

@@ -4,7 +4,7 @@
 #include "master/masterlist.h"
 #include "master/masterrecord.h"
 #include "tests/support/failures.h"
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

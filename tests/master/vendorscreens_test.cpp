@@ -5,7 +5,7 @@
 #include "master/screens/vcontact.h"
 #include "master/screens/vendor.h"
 #include "master/screens/vendors.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 
 #include <QAction>
 #include <QCheckBox>

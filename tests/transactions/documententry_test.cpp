@@ -1,6 +1,6 @@
 #include "base/ruleerror.h"
 #include "tests/support/failures.h"
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 #include "transactions/documententry.h"
 
 #include <gtest/gtest.h>

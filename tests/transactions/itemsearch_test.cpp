@@ -3,7 +3,7 @@
 #include "master/recordnumber.h"
 
 #include "tests/support/failures.h"
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 
 #include <gtest/gtest.h>
 

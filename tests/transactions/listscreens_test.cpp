@@ -3,7 +3,7 @@
 #include "controls/recordopener.h"
 #include "controls/screenmetrics.h"
 #include "master/screens/itemsfind.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 #include "transactions/documentfilter.h"
 #include "transactions/documentkinds.h"
 #include "transactions/screens/documentfilterscreen.h"

@@ -3,7 +3,7 @@
 #include "controls/linegrid.h"
 #include "engine/query.h"
 #include "master/screens/itemtypeinv.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 #include "transactions/screens/invreceipt.h"
 
 #include <QEventLoop>

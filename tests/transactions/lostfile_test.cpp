@@ -1,5 +1,5 @@
 #include "controls/linegrid.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 #include "transactions/screens/invreceipt.h"
 
 #include <QLineEdit>

@@ -1,6 +1,6 @@
 #include "tests/support/brokentable.h"
 #include "tests/support/failures.h"
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 

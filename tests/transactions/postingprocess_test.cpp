@@ -1,5 +1,5 @@
+#include "tests/support/kitchen.h"
 #include "tests/support/otheruser.h"
-#include "tests/transactions/kitchen.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 

@@ -2,7 +2,7 @@
 
 #include "engine/locks.h"
 #include "tests/support/failures.h"
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 
 #include <gtest/gtest.h>
 

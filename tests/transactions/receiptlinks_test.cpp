@@ -1,7 +1,7 @@
 #include "controls/listscreen.h"
 #include "master/screens/vendors.h"
 #include "master/screens/warehousesinv.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 #include "transactions/screens/invreceipt.h"
 
 #include <QToolButton>

@@ -1,7 +1,7 @@
 #include "transactions/documentlist.h"
 
 #include "tests/support/failures.h"
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 #include "transactions/documentfilter.h"
 #include "transactions/documentkinds.h"
 

@@ -4,7 +4,7 @@
 #include "engine/locks.h"
 #include "engine/table.h"
 #include "tests/support/failures.h"
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "controls/screenmetrics.h"
 #include "data/utilsinv.h"
 #include "master/screens/itemsearchinv.h"
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 #include "transactions/documentkinds.h"
 #include "transactions/screens/documentpostscreen.h"
 #include "transactions/screens/invreceipt.h"

@@ -1,6 +1,6 @@
 #include "transactions/totalsview.h"
 
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 
 #include <gtest/gtest.h>
 

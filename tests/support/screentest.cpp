@@ -1,4 +1,4 @@
-#include "tests/transactions/screentest.h"
+#include "tests/support/screentest.h"
 
 #include "host/tables/hosttables.h"
 

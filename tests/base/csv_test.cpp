@@ -1,5 +1,5 @@
+#include "base/csvreader.h"
 #include "base/csvwriter.h"
-#include "cli/csv.h"
 
 #include <gtest/gtest.h>
 #include <QBuffer>

@@ -3,9 +3,9 @@
 #include "controls/screencontext.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
+#include "tests/support/kitchen.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
-#include "tests/transactions/kitchen.h"
 
 #include <gtest/gtest.h>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "cli/csv.h"
+#include "base/csvreader.h"
 
 #include <QCoreApplication>
 #include <QIODevice>

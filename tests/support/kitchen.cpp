@@ -1,4 +1,4 @@
-#include "tests/transactions/kitchen.h"
+#include "tests/support/kitchen.h"
 
 #include "data/layouts.h"
 #include "engine/locks.h"
