@@ -1,5 +1,5 @@
+#include "base/named.h"
 #include "cli/command.h"
-#include "cli/named.h"
 #include "cli/terminal.h"
 #include "engine/error.h"
 

@@ -1,7 +1,7 @@
+#include "base/named.h"
 #include "base/ruleerror.h"
 #include "cli/command.h"
-#include "cli/importer.h"
-#include "cli/named.h"
+#include "import/importer.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

@@ -1,10 +1,10 @@
 #include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/databasefolder.h"
-#include "cli/largekitchen.h"
-#include "cli/samplefiles.h"
 #include "data/layouts.h"
 #include "engine/query.h"
+#include "host/sample/largekitchen.h"
+#include "host/sample/samplefiles.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 

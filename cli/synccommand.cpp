@@ -1,5 +1,5 @@
+#include "base/named.h"
 #include "cli/command.h"
-#include "cli/named.h"
 #include "master/itemsync.h"
 #include "master/locationsync.h"
 

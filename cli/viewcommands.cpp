@@ -1,7 +1,7 @@
 #include "base/csvlist.h"
 #include "base/formats.h"
+#include "base/named.h"
 #include "cli/command.h"
-#include "cli/named.h"
 #include "data/layouts.h"
 #include "data/transtypes.h"
 #include "engine/table.h"

@@ -1,4 +1,4 @@
-#include "cli/masterimport.h"
+#include "import/masterimport.h"
 
 #include "base/ruleerror.h"
 #include "engine/error.h"

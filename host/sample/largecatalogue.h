@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/chance.h"
 #include "engine/database.h"
+#include "host/sample/chance.h"
 
 #include <QString>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "cli/bulkinsert.h"
+#include "host/sample/bulkinsert.h"
 
 #include "engine/dialect.h"
 

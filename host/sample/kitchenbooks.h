@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/bulkinsert.h"
 #include "engine/database.h"
 #include "engine/money.h"
+#include "host/sample/bulkinsert.h"
 
 #include <QDate>
 #include <QString>

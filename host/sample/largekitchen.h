@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "cli/chance.h"
-#include "cli/kitchenbooks.h"
+#include "host/sample/chance.h"
+#include "host/sample/kitchenbooks.h"
 
 #include <array>
 #include <vector>

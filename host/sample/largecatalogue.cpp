@@ -1,8 +1,8 @@
-#include "cli/largecatalogue.h"
+#include "host/sample/largecatalogue.h"
 
-#include "cli/bulkinsert.h"
 #include "data/numbercounter.h"
 #include "engine/query.h"
+#include "host/sample/bulkinsert.h"
 #include "master/masterkinds.h"
 #include "master/masterrecord.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/importanswers.h"
-#include "cli/importkind.h"
-#include "cli/keynames.h"
+#include "import/importanswers.h"
+#include "import/importkind.h"
+#include "import/keynames.h"
 #include "transactions/documententry.h"
 
 #include <memory>

@@ -1,12 +1,12 @@
-#include "cli/importer.h"
+#include "import/importer.h"
 
-#include "cli/importanswers.h"
-#include "cli/importfile.h"
 #include "data/numbercounter.h"
 #include "engine/driver.h"
 #include "engine/error.h"
 #include "engine/session.h"
 #include "engine/table.h"
+#include "import/importanswers.h"
+#include "import/importfile.h"
 
 namespace Tallymere {
 

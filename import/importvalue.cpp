@@ -1,4 +1,4 @@
-#include "cli/importvalue.h"
+#include "import/importvalue.h"
 
 #include "base/formats.h"
 #include "base/ruleerror.h"

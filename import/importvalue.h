@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/importkind.h"
+#include "import/importkind.h"
 
 namespace Tallymere {
 

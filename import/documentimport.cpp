@@ -1,4 +1,4 @@
-#include "cli/documentimport.h"
+#include "import/documentimport.h"
 
 #include "base/ruleerror.h"
 #include "engine/error.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/importkind.h"
 #include "engine/table.h"
+#include "import/importkind.h"
 
 #include <QHash>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/importkind.h"
-#include "cli/keynames.h"
+#include "import/importkind.h"
+#include "import/keynames.h"
 #include "master/masterrecord.h"
 
 namespace Tallymere {

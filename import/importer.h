@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "cli/importkind.h"
+#include "import/importkind.h"
 
 class QIODevice;
 

@@ -1,7 +1,7 @@
-#include "cli/largekitchen.h"
+#include "host/sample/largekitchen.h"
 
-#include "cli/largecatalogue.h"
 #include "engine/groupedwrites.h"
+#include "host/sample/largecatalogue.h"
 #include "transactions/receiptcost.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "cli/keynames.h"
+#include "import/keynames.h"
 
 #include "base/ruleerror.h"
 #include "engine/query.h"

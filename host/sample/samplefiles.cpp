@@ -1,8 +1,8 @@
-#include "cli/samplefiles.h"
+#include "host/sample/samplefiles.h"
 
 #include "base/csvreader.h"
 #include "base/ruleerror.h"
-#include "cli/importer.h"
+#include "import/importer.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,8 +1,8 @@
-#include "cli/importfile.h"
+#include "import/importfile.h"
 
 #include "base/csvreader.h"
 #include "base/ruleerror.h"
-#include "cli/importvalue.h"
+#include "import/importvalue.h"
 
 #include <QCoreApplication>
 #include <QSet>

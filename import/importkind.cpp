@@ -1,9 +1,9 @@
-#include "cli/importkind.h"
+#include "import/importkind.h"
 
-#include "cli/documentimport.h"
-#include "cli/masterimport.h"
-#include "cli/named.h"
+#include "base/named.h"
 #include "data/layouts.h"
+#include "import/documentimport.h"
+#include "import/masterimport.h"
 #include "master/masterkinds.h"
 #include "transactions/documentkinds.h"
 

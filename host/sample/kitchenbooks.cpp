@@ -1,4 +1,4 @@
-#include "cli/kitchenbooks.h"
+#include "host/sample/kitchenbooks.h"
 
 #include "base/calchelpers.h"
 #include "data/fiscalperiod.h"
