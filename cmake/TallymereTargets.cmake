@@ -37,11 +37,25 @@ target_compile_options(tallymere_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wno-sign-conversion
     -Werror)
 
-# Precompiled headers, one set for code without widgets and one for screens.
-set(TALLYMERE_CORE_PCH <algorithm> <functional> <memory> <optional> <vector>
-    <QDate> <QDateTime> <QHash> <QList> <QObject> <QString> <QStringList>)
-set(TALLYMERE_SCREEN_PCH ${TALLYMERE_CORE_PCH} <QAction> <QDialog> <QLineEdit> <QPushButton> <QTableView>
-    <QWidget>)
+# Line numbers for a backtrace, but no variables: the debug build has those.
+set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1 -DNDEBUG")
+
+# Precompiled headers are made once for all rooms without widgets, once for all with, and likewise for the tests of
+# both. tallymere_headers(NAME LINK ... HEADERS ...) makes one; what takes it is compiled with the same options.
+set(core_headers <algorithm> <functional> <memory> <optional> <utility> <vector>
+    <QByteArray> <QCoreApplication> <QDate> <QDateTime> <QHash> <QList> <QObject> <QString> <QStringList>)
+set(screen_headers ${core_headers} <QAction> <QApplication> <QDialog> <QKeyEvent> <QLabel> <QLineEdit> <QPushButton>
+    <QTableView> <QWidget>)
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/headers.cpp CONTENT "// Only its precompiled header counts.\n")
+function(tallymere_headers name)
+    cmake_parse_arguments(PCH "" "" "LINK;HEADERS" ${ARGN})
+    add_library(${name} OBJECT ${CMAKE_BINARY_DIR}/headers.cpp)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+    target_link_libraries(${name} PRIVATE tallymere_options ${PCH_LINK})
+    target_precompile_headers(${name} PRIVATE ${PCH_HEADERS})
+endfunction()
+tallymere_headers(tallymere_core_headers LINK Qt6::Core HEADERS ${core_headers})
+tallymere_headers(tallymere_screen_headers LINK Qt6::Widgets HEADERS ${screen_headers})
 
 # A wrong include stops the build: the script knows which room may include which.
 add_custom_target(layers ALL
@@ -55,8 +69,8 @@ function(tallymere_room name)
     target_link_libraries(${name} PUBLIC tallymere_options ${ROOM_LINK})
     add_dependencies(${name} layers)
     if(ROOM_SCREENS)
-        target_precompile_headers(${name} PRIVATE ${TALLYMERE_SCREEN_PCH})
+        target_precompile_headers(${name} REUSE_FROM tallymere_screen_headers)
     else()
-        target_precompile_headers(${name} PRIVATE ${TALLYMERE_CORE_PCH})
+        target_precompile_headers(${name} REUSE_FROM tallymere_core_headers)
     endif()
 endfunction()
