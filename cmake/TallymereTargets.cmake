@@ -14,11 +14,13 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 
 # The compiler cache takes a call with a precompiled header only when it is told that the macros and times in that do
-# not matter, and when the compiler leaves a mark of the header in what it preprocesses.
+# not matter, and when the compiler leaves a mark of the header in what it preprocesses. Paths count from the source
+# folder, so that another checkout finds what the first has compiled.
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER
-        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}
+        CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
     add_compile_options(-fpch-preprocess)
 endif()
 

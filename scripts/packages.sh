@@ -3,9 +3,8 @@
 # Asks for root rights only when something is missing.
 set -euo pipefail
 
-build=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-serialport-dev qt6-tools-dev qt6-tools-dev-tools
-    libqt6opengl6-dev libsqlite3-dev libpq-dev fonts-dejavu-core)
-test=(postgresql-15 sqlite3 xvfb xauth openbox xdotool libgtest-dev libgmock-dev libbenchmark-dev clang-format)
+build=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev libsqlite3-dev libpq-dev fonts-dejavu-core)
+test=(postgresql-15 libgtest-dev clang-format qt6-l10n-tools)
 
 case "${1:-}" in
 build) wanted=("${build[@]}") ;;
