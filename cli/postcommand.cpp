@@ -27,7 +27,7 @@ const DocumentKind &requireKind(const QString &name)
 {
     if (const DocumentKind *kind = DocumentKinds::find(name))
         return *kind;
-    if (name == "usage"_L1 || name == "adjustments"_L1)
+    if (name == "adjustments"_L1)
         throw UsageError(tr("'post %1' is not available yet").arg(name));
     throw UsageError(tr("'post' knows no '%1', but: %2").arg(name, kindNames().join(u", ")));
 }

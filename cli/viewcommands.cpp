@@ -112,8 +112,7 @@ const QList<ListKind> &listKinds()
             all.append({master->name, Layouts::find(master->table), master->orders.at(master->firstOrder).index});
         for (const DocumentKind *document : DocumentKinds::all())
             all.append({document->name, Layouts::find(document->headerTable), document->orders.constFirst().index});
-        all.append({{u"usage"_s, &Layouts::iUsage(), u"INVENTORYDATEUSAGENODESC"_s},
-                    {u"adjustments"_s, &Layouts::iAdjust(), u"PERIODDATEDESC"_s}});
+        all.append({u"adjustments"_s, &Layouts::iAdjust(), u"PERIODDATEDESC"_s});
         return all;
     }();
     return kinds;

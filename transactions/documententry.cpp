@@ -401,7 +401,8 @@ QString DocumentEntry::lineName() const
 void DocumentEntry::validateItem(const Value &itemId) const
 {
     const bool typed = m_lineColumn == "ItemNo"_L1;
-    const bool picked = m_lineColumn == m_kind.pickColumn;
+    const int column = m_lines.fieldIndex(m_lineColumn);
+    const bool picked = !typed && column >= 0 && m_lines.field(column).type == FieldType::Text;
     if (itemId.toInt() == 0 || !(typed || picked))
         return;
     const Engine::StatementPtr item =

@@ -78,7 +78,7 @@ public:
 
     // --- lines -------------------------------------------------------------------------------------------------
     // The column of the line grid that the user is in, by field name. A new item is judged by it: typed as a number
-    // ("ItemNo") or picked by its description (the kind's pickColumn).
+    // ("ItemNo"), or picked by its description in a column with another text.
     void setLineColumn(const QString &field) { m_lineColumn = field; }
     // Puts the item into the current line, putting that into edit.
     void chooseItem(int itemId);

@@ -68,9 +68,6 @@ struct DocumentKind
     QString nothingEntered; // raised when a document without lines is saved
     QString locationGone; // raised when the location is no longer there
     QStringList requiredFields; // of the header, beside what is checked on its own
-    QString pickColumn; // of the lines: an item that comes in while the user is in it was picked by its description
-    bool picksByText =
-        true; // a description typed into it picks the item; else what is typed is the line's own text
 
     QString screen; // component name: "frmInvReceipt"
     QList<GridColumn> lineColumns; // of its line grid

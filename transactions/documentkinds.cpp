@@ -6,7 +6,7 @@ namespace Tallymere {
 
 const QList<const DocumentKind *> &DocumentKinds::all()
 {
-    static const QList<const DocumentKind *> kinds = {&receipt()};
+    static const QList<const DocumentKind *> kinds = {&receipt(), &usage()};
     return kinds;
 }
 

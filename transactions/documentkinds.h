@@ -7,6 +7,7 @@
 namespace Tallymere::DocumentKinds {
 
 const DocumentKind &receipt();
+const DocumentKind &usage();
 
 // In the order in which the command line names them.
 const QList<const DocumentKind *> &all();

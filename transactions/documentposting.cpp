@@ -185,7 +185,7 @@ void DocumentPosting::readLines(std::vector<PostingDocument> &documents, const Q
             continue;
         PostingLine &line = document->lines.emplace_back();
         line.item = rows->valueAt(1, FieldType::Integer);
-        line.quantity = rows->doubleAt(2);
+        line.quantity = rows->doubleAt(2) + 0.0; // a typed "-0" is 0
         if (m_kind.posting.readLine)
             m_kind.posting.readLine(*rows, 3, line);
     }

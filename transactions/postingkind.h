@@ -4,6 +4,7 @@
 #include "engine/value.h"
 
 #include <functional>
+#include <optional>
 #include <QList>
 #include <QString>
 #include <vector>
@@ -30,7 +31,7 @@ struct PostingLine
 {
     Engine::Value item;
     double quantity = 0; // as entered
-    double unitCost = 0; // as entered
+    std::optional<double> unitCost = {}; // as entered
     bool isPosted = true; // false: it is passed over, and its document marked all the same
 };
 

@@ -33,7 +33,6 @@ const DocumentKind &DocumentKinds::receipt()
         .nothingEntered = tr("Quantities have not been entered"),
         .locationGone = tr("Warehouse no longer exists"),
         .requiredFields = {u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s, u"WarehouseID"_s},
-        .pickColumn = u"ItemDescription"_s,
         .screen = u"frmInvReceipt"_s,
         .lineColumns = {{u"QtyReceived"_s, tr("Quantity"), 100, Qt::AlignRight},
                         {u"ItemNo"_s, tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},

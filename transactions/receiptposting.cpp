@@ -29,7 +29,7 @@ void readLine(const Engine::Statement &row, int column, PostingLine &line) { lin
 
 void postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books)
 {
-    const Money cost = lineCost(Money::fromDouble(line.unitCost), document.exchangeRate);
+    const Money cost = lineCost(Money::fromDouble(line.unitCost.value_or(0)), document.exchangeRate);
     books.history.append(document, line.item, line.quantity, cost, books.writes);
 
     if (!line.item.isNull()) {

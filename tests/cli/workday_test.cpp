@@ -54,6 +54,16 @@ TEST_P(Workday, FromAnEmptyFolderToTotals)
     EXPECT_EQ(history[0][u"TransTypeName"_s], u"PO Receipt"_s);
     EXPECT_EQ(history[0][u"AdjustmentID"_s], QString());
     EXPECT_EQ(history[1][u"TransDescription"_s], u"Receipt: 1001   PO: P1"_s);
+
+    const CliResult used = cli.import(u"usage"_s,
+                                      "UsageNo,WarehouseName,ItemNo,Quantity,UnitCost\n"
+                                      "U1,Office,A1,3,\nU1,Office,B2,0.5,9\n,Cold Room,A1,2,\n");
+    EXPECT_EQ(used.output, u"2 usage imported\n"_s) << used;
+    EXPECT_EQ(cli.column({u"list"_s, u"usage"_s}, u"UsageNo"_s), (QStringList{u"U1"_s, u"10001"_s}));
+    EXPECT_EQ(cli.run({u"post"_s, u"usage"_s}).output, u"2 usage record(s) posted\n"_s);
+    EXPECT_EQ(cli.column({u"totals"_s}, u"QtyOnHand"_s), (QStringList{u"3"_s, u"7"_s, u"3.5"_s}));
+    EXPECT_EQ(cli.column({u"history"_s, u"--filter"_s, u"(TransType = 5)"_s}, u"UnitCost"_s),
+              (QStringList{u"2.33"_s, u"9"_s, u"2.33"_s}));
 }
 
 TEST_P(Workday, InitLeavesRowsAsTheyAre)

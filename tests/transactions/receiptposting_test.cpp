@@ -111,27 +111,6 @@ TEST_P(Posting, LaterLinesSeeWhatEarlierOnesLeft)
               (QStringList{u"1|1|10"_s, u"1|1|10"_s, u"1|2|1"_s, u"2|1|20"_s}));
 }
 
-TEST_P(Posting, PassesOverLinesThatTheKindDoesNotPost)
-{
-    DocumentKind food = DocumentKinds::receipt(); // of items of the first type only; a missing item has none
-    food.posting.lines = u"IRecDet L LEFT OUTER JOIN Item T ON L.ItemID = T.ItemID"_s;
-    food.posting.lineColumns += u", T.ItemTypeID"_s;
-    food.posting.readLine = [](const Engine::Statement &row, int column, PostingLine &line) {
-        line.unitCost = row.doubleAt(column);
-        line.isPosted = row.intAt(column + 1) == 1;
-    };
-    kitchen.addReceipt(1, 1, 1, {{3, 5, 1}, {2, 7, 1}, {99, 4, 1}, {1, 6, 1}});
-    kitchen.addReceipt(2, 1, 1, {{3, 5, 1}});
-
-    EXPECT_TRUE(DocumentPosting(kitchen.database(), food).run(prompts, progress));
-
-    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID, ItemID, Quantity FROM IHist ORDER BY IHistID"_s),
-              (QStringList{u"1|2|7"_s, u"1|1|6"_s}));
-    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, QtyOnHand FROM IBalance ORDER BY 1"_s),
-              (QStringList{u"1|6"_s, u"2|7"_s}));
-    EXPECT_EQ(posted(), (QStringList{u"1"_s, u"2"_s}));
-}
-
 TEST_P(Posting, TakesTheUnpostedOnesWhoseVendorExists)
 {
     kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});

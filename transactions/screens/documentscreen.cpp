@@ -71,16 +71,11 @@ void DocumentScreen::buildDocument(LineOptions options)
     buildScreen();
 }
 
-bool DocumentScreen::picksItem(const QString &column) const
-{
-    return m_entry->kind().picksByText && column == m_entry->kind().pickColumn;
-}
-
 // What is looked up or calculated takes a text only where that chooses the item.
 bool DocumentScreen::takesText(const QString &column) const
 {
     const bool isStored = std::as_const(*m_entry).lines().field(column).kind == Engine::FieldKind::Data;
-    return isStored || column == numberColumn || picksItem(column);
+    return isStored || column == numberColumn || column == descriptionField;
 }
 
 QAction *DocumentScreen::addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut)
@@ -136,7 +131,7 @@ void DocumentScreen::enterCell(const QString &field, const QString &text)
     beginLine();
     if (field == numberColumn)
         m_entry->chooseItemByNumber(text.trimmed());
-    else if (picksItem(field))
+    else if (field == descriptionField)
         chooseItemByDescription(text.trimmed());
     else
         m_entry->lines().setText(field, text);
@@ -148,9 +143,9 @@ void DocumentScreen::chooseItemByDescription(const QString &text)
         m_entry->chooseItemByNumber({});
         return;
     }
-    const QString &column = m_entry->kind().pickColumn;
+    const QString column = descriptionField.toString();
     Engine::Table &items = context().lookups.tblItem();
-    if (!items.locate(descriptionField.toString(), {text}, LocateOption::CaseInsensitive))
+    if (!items.locate(column, {text}, LocateOption::CaseInsensitive))
         throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), column);
     m_entry->setLineColumn(column);
     m_entry->chooseItem(items.integer(u"ItemID"));
@@ -158,7 +153,7 @@ void DocumentScreen::chooseItemByDescription(const QString &text)
 
 QString DocumentScreen::completeDescription(const QString &field, const QString &typed) const
 {
-    if (!picksItem(field))
+    if (field != descriptionField)
         return {};
     Engine::Table &items = context().lookups.tblItem();
     const LocateOptions options = LocateOptions(LocateOption::CaseInsensitive) | LocateOption::PartialKey;

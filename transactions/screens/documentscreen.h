@@ -49,7 +49,6 @@ protected:
 
 private:
     QAction *addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut);
-    bool picksItem(const QString &column) const; // the item whose description is typed into it
     bool takesText(const QString &column) const;
     void beginLine();
     void enterCell(const QString &field, const QString &text);

@@ -1,0 +1,154 @@
+#include "transactions/usageentry.h"
+
+#include "tests/support/failures.h"
+#include "tests/support/kitchen.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// Apples and bread cost their average of 1.25 and 10, apricots their standard cost of 4; yeast is not stocked.
+class UsageDocument : public testing::TestWithParam<Store>
+{
+protected:
+    UsageDocument()
+        : entry(kitchen.database(), prompts)
+    {
+        kitchen.execute(
+            u"UPDATE ItemType SET Inventory = true, CostingMethod = ItemTypeID;"
+            "INSERT INTO ItemType (ItemTypeID, Inventory, CostingMethod) VALUES (3, false, 1), (4, true, 3);"
+            "UPDATE Item SET StandardCost = 4, WgtAvgCost = 1.25;"
+            "UPDATE Item SET WgtAvgCost = 10 WHERE ItemID = 2;"
+            "UPDATE Item SET ItemTypeID = 3 WHERE ItemID = 4"_s);
+        entry.today = [] { return QDate(2026, 8, 9); };
+        entry.open();
+    }
+    void addLine(double quantity, int item)
+    {
+        entry.newLine();
+        entry.lines().set(u"Quantity", quantity);
+        entry.chooseItem(item);
+        entry.lines().post();
+    }
+    void setQuantity(const Engine::Value &quantity)
+    {
+        entry.lines().edit();
+        entry.lines().set(u"Quantity", quantity);
+        entry.lines().post();
+    }
+    QString total() { return entry.header().text(u"InvoiceAmount"); }
+    QStringList stored()
+    {
+        return kitchen.rows(
+            u"SELECT UsageNo, Seq, Quantity, UnitCost, TaxCodes, ItemOvDesc, InvoiceAmount FROM IUsage "
+            "JOIN IUsageDet ON IUsageDet.UsageID = IUsage.UsageID ORDER BY Seq"_s);
+    }
+
+    Kitchen kitchen{GetParam()};
+    SpokenPrompts prompts;
+    UsageEntry entry;
+};
+ON_BOTH_STORES(UsageDocument);
+
+TEST_P(UsageDocument, ANewOneIsNumberedFromTheInvoicesAndTakesTheFirstLocation)
+{
+    const std::pair<int, QString> counters[] = {{0, u"10001"_s},
+                                                {1000, u"10001"_s},
+                                                {1001, u"1001"_s},
+                                                {10'000'000, u"10000000"_s},
+                                                {10'000'001, u"10001"_s}};
+    for (const auto &[next, number] : counters) {
+        kitchen.execute(
+            u"DELETE FROM ARInvCtl; INSERT INTO ARInvCtl (NextInvoiceID, NextInvoiceNo) VALUES (7, %1)"_s.arg(
+                next));
+        entry.newDocument();
+        EXPECT_EQ(entry.caption(), u"Inventory Usage "_s + number);
+        EXPECT_EQ(entry.key(), 7);
+        EXPECT_EQ(entry.header().integer(u"WarehouseID"), 2); // "Freezer" comes before "Office"
+        entry.cancel();
+    }
+    kitchen.execute(u"DELETE FROM Warehse"_s);
+    entry.newDocument();
+    entry.header().set(u"UsageNo", {});
+    EXPECT_EQ(entry.caption(), u"New Inventory Usage");
+    EXPECT_EQ(refusalOf([&] { entry.save(); }), u"No inventory usage has been entered -> Lines");
+    addLine(1, 1);
+    EXPECT_EQ(refusalOf([&] { entry.save(); }), u"Location no longer exists -> WarehouseID");
+}
+
+TEST_P(UsageDocument, TakesTheCostOfItsItemsByTheirCostingMethod)
+{
+    entry.newDocument();
+    entry.newLine();
+    const std::pair<int, QString> costs[] = {{1, u"1.25"_s}, {2, u"10"_s}, {3, u"4"_s}, {4, u"0"_s}, {99, u"0"_s}};
+    for (const auto &[item, cost] : costs) {
+        entry.chooseItem(item);
+        EXPECT_EQ(entry.lines().text(u"UnitCost"), cost) << item;
+    }
+    kitchen.execute(
+        u"UPDATE Item SET ItemTypeID = 4 WHERE ItemID = 1; UPDATE Item SET WgtAvgCost = NULL WHERE ItemID = 2;"
+        "UPDATE Item SET ItemTypeID = 77 WHERE ItemID = 3"_s);
+    for (const int item : {1, 2, 3}) {
+        entry.chooseItem(item);
+        EXPECT_EQ(entry.lines().text(u"UnitCost"), u"0") << item;
+    }
+}
+
+TEST_P(UsageDocument, KeepsATotalOfItsLinesAndBringsThemBackWithoutCosts)
+{
+    entry.newDocument();
+    addLine(2, 1);
+    addLine(4, 2);
+    EXPECT_EQ(total(), u"42.5");
+    entry.lines().first();
+    setQuantity(3.0);
+    EXPECT_EQ(total(), u"43.75");
+    setQuantity({});
+    EXPECT_EQ(total(), u"40");
+    setQuantity(3.0);
+    entry.newLine();
+    entry.removeLine(); // dropped before it was saved
+    entry.lines().last();
+    entry.lines().edit();
+    entry.lines().set(u"Quantity", 90.0);
+    entry.lines().cancel();
+    EXPECT_EQ(total(), u"43.75");
+    entry.lines().edit();
+    entry.lines().set(u"Quantity", 5.0);
+    entry.lines().set(u"UnitCost", 123.45); // the total is at what the item costs, not at this
+    entry.lines().set(u"ItemOvDesc", u"Rye"_s);
+    entry.save(); // with the line still in edit
+    const QStringList saved{u"10001|1|3|1.25|||53.75"_s, u"10001|2|5|123.45||Rye|53.75"_s};
+    EXPECT_EQ(stored(), saved);
+
+    ASSERT_TRUE(entry.openDocument(entry.key()));
+    entry.lines().edit();
+    entry.lines().set(u"Quantity", 90.0);
+    entry.removeLine(); // as it was stored, whatever was being typed
+    EXPECT_EQ(total(), u"3.75");
+    entry.removeLine();
+    EXPECT_TRUE(entry.header().value(u"InvoiceAmount").isNull());
+    entry.cancel();
+    EXPECT_EQ(stored(), (QStringList{u"10001|1|3||1.2||53.75"_s, u"10001|2|5||123|Rye|53.75"_s}));
+}
+
+TEST_P(UsageDocument, RefusesASuspendedItemInEveryColumn)
+{
+    entry.newDocument();
+    entry.newLine();
+    const QString picked = u"Item 'X9: Yeast' has been suspended -> ItemNo"_s;
+    const std::pair<QString, QString> columns[] = {{u"ItemNo"_s, u"Item has been suspended -> ItemNo"_s},
+                                                   {u"ItemOvDesc"_s, picked},
+                                                   {u"ItemDescription"_s, picked},
+                                                   {u"Quantity"_s, {}},
+                                                   {{}, {}}}; // put in by a program
+    for (const auto &[column, refusal] : columns) {
+        entry.setLineColumn(column);
+        EXPECT_EQ(refusalOf([&] { entry.chooseItem(4); }), refusal) << column.toStdString();
+    }
+}
+
+} // namespace

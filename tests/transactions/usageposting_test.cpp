@@ -1,0 +1,127 @@
+#include "tests/support/kitchen.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
+
+#include <gtest/gtest.h>
+#include <map>
+#include <optional>
+#include <random>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// Apples and bread are stocked, apricots are not, the type of yeast is gone.
+class UsagePosting : public testing::TestWithParam<Store>
+{
+protected:
+    UsagePosting()
+    {
+        kitchen.execute(
+            u"UPDATE ItemType SET Inventory = (ItemTypeID = 1); UPDATE Item SET ItemTypeID = 9 WHERE ItemID = 4"_s);
+    }
+    struct Line
+    {
+        int item; // 0: empty
+        QString quantity;
+        QString cost = u"NULL"_s;
+    };
+    void addUsage(int id, int warehouse, const QList<Line> &lines)
+    {
+        QString sql =
+            u"INSERT INTO IUsage (UsageID, UsageNo, GLYear, GLPeriod, InventoryDate, WarehouseID, Posted) "
+            "VALUES (%1, '%2', 2026, 3, '2026-03-14', %3, false);"_s.arg(id)
+                .arg(10'000 + id)
+                .arg(warehouse);
+        int seq = 0;
+        for (const Line &line : lines)
+            sql +=
+                u"INSERT INTO IUsageDet (UsageID, Seq, ItemID, Quantity, UnitCost) VALUES (%1, %2, %3, %4, %5);"_s
+                    .arg(id)
+                    .arg(++seq)
+                    .arg(line.item == 0 ? u"NULL"_s : QString::number(line.item), line.quantity, line.cost);
+        kitchen.execute(sql);
+    }
+    bool post() { return DocumentPosting(kitchen.database(), DocumentKinds::usage()).run(prompts, progress); }
+    QStringList balances()
+    {
+        return kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s);
+    }
+
+    Kitchen kitchen{GetParam()};
+    SpokenPrompts prompts;
+    CountedProgress progress;
+};
+ON_BOTH_STORES(UsagePosting);
+
+TEST_P(UsagePosting, TakesStockedItemsOutOfTheLocationAndLeavesTheirCost)
+{
+    kitchen.setStock(1, 2, 6, 2.00);
+    addUsage(7, 2, {{1, u"4"_s, u"1.2345"_s}, {3, u"5"_s}, {1, u"-1"_s}, {99, u"8"_s}, {4, u"2"_s}, {2, u"3"_s}});
+    addUsage(8, 1, {{3, u"5"_s}}); // nothing of it is stocked
+    addUsage(9, 1, {{1, u"-0.0"_s}, {2, u"NULL"_s}});
+    EXPECT_EQ(DocumentPosting(kitchen.database(), DocumentKinds::usage()).countText(),
+              u"3 usage record(s) to be posted");
+
+    EXPECT_TRUE(post());
+
+    EXPECT_EQ(kitchen.rows(
+                  u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
+                  "TransDescription, ReceiptID, AdjustmentID, ARInvoiceID, UsageID FROM IHist ORDER BY IHistID"_s),
+              (QStringList{u"1|2|2026|3|5|2026-03-14|4|1.2345|Inventory Usage No: 10007||||7"_s,
+                           u"1|2|2026|3|5|2026-03-14|-1||Inventory Usage No: 10007||||7"_s,
+                           u"2|2|2026|3|5|2026-03-14|3||Inventory Usage No: 10007||||7"_s,
+                           u"1|1|2026|3|5|2026-03-14|0||Inventory Usage No: 10009||||9"_s,
+                           u"2|1|2026|3|5|2026-03-14|0||Inventory Usage No: 10009||||9"_s}));
+    EXPECT_EQ(balances(), (QStringList{u"1|1|0"_s, u"1|2|3"_s, u"2|1|0"_s, u"2|2|-3"_s}));
+    EXPECT_EQ(kitchen.averageCost(1), 2.00);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IUsage WHERE Posted = true"_s), 3);
+    EXPECT_FALSE(post());
+}
+
+// The books as a plain program would keep them, over several runs. The seed is told when they differ.
+TEST_P(UsagePosting, AgreesWithAPlainComputationOnRandomDocuments)
+{
+    const unsigned seed = std::random_device()();
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto below = [&random](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
+    std::map<std::pair<int, int>, double> onHand;
+    QStringList history;
+    kitchen.setStock(1, 1, 5.3, 2);
+    onHand[{1, 1}] = 5.3;
+    int document = 0;
+    for (int run = 0; run < 3; ++run) {
+        for (int i = below(90); i >= 0; --i) {
+            const int warehouse = 1 + below(2);
+            QList<Line> lines;
+            ++document;
+            for (int j = below(8); j > 0; --j) {
+                const int item = below(6); // none, stocked or not, without type, gone
+                const double quantity = 0.01 * (below(2001) - 1000);
+                const std::optional<double> cost =
+                    below(3) ? std::optional(0.00005 * below(100'000)) : std::nullopt;
+                lines.append(
+                    {item, QString::number(quantity, 'g', 17), cost ? QString::number(*cost, 'g', 17) : u"NULL"_s});
+                if (item != 1 && item != 2)
+                    continue;
+                onHand[{item, warehouse}] -= quantity;
+                const QString posted = cost ? Engine::Value(Engine::Money::fromDouble(*cost)).toText() : QString();
+                history << u"%1|%2|%3|%4|%5"_s.arg(document).arg(item).arg(warehouse).arg(
+                    Engine::Value(quantity).toText(), posted);
+            }
+            addUsage(document, warehouse, lines);
+        }
+        EXPECT_TRUE(post());
+    }
+    EXPECT_EQ(
+        kitchen.rows(u"SELECT UsageID, ItemID, WarehouseID, Quantity, UnitCost FROM IHist ORDER BY IHistID"_s),
+        history);
+    QStringList expected;
+    for (const auto &[place, quantity] : onHand)
+        expected << u"%1|%2|%3"_s.arg(place.first).arg(place.second).arg(Engine::Value(quantity).toText());
+    EXPECT_EQ(balances(), expected);
+}
+
+} // namespace

@@ -1,0 +1,67 @@
+#include "transactions/usageposting.h"
+
+#include "engine/driver.h"
+#include "transactions/historywriter.h"
+#include "transactions/stockbook.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+using Engine::Money;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("UsagePosting", text); }
+
+void readHeader(const Engine::Statement &row, int column, PostingDocument &document)
+{
+    document.description = u"Inventory Usage No: "_s + row.textAt(column);
+}
+
+void readLine(const Engine::Statement &row, int column, PostingLine &line)
+{
+    if (!row.isNull(column))
+        line.unitCost = row.doubleAt(column);
+    line.isPosted = row.valueAt(column + 1, Engine::FieldType::Boolean).toBool();
+}
+
+void postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books)
+{
+    const auto cost = line.unitCost ? std::optional(Money::fromDouble(*line.unitCost)) : std::nullopt;
+    books.history.append(document, line.item, line.quantity, cost, books.writes);
+    books.stock.addToBalance(line.item, document.warehouse, 0 - line.quantity, books.writes);
+}
+
+} // namespace
+
+PostingKind usagePosting()
+{
+    return {
+        .unposted = u"IUsage I WHERE I.Posted = false"_s,
+        .headerColumns = u"I.GLYear, I.GLPeriod, I.InventoryDate, I.WarehouseID, I.UsageNo"_s,
+        // Only what is stocked is posted; an item that is gone, or whose type is, counts as not.
+        .lines = u"IUsageDet L LEFT OUTER JOIN Item S ON L.ItemID = S.ItemID "
+                 "LEFT OUTER JOIN ItemType T ON S.ItemTypeID = T.ItemTypeID"_s,
+        .lineColumns = u"L.ItemID, L.Quantity, L.UnitCost, T.Inventory"_s,
+        .transType = TransType::Usage,
+        .locks =
+            {
+                {u"IUsage"_s,
+                 tr("Unable to lock Usage Records table... this table is being updated by another job.")},
+                {u"IBalance"_s,
+                 tr("Unable to lock Item Balance table... this table is being updated by another job.")},
+            },
+        .entryOpen = tr("A conflicting program is running...\nPlease close 'Usage Record' form"),
+        .toBePosted = tr("%1 usage record(s) to be posted"),
+        .posted = tr("%1 usage record(s) posted"),
+        .onePosted = tr("1 usage record posted"),
+        .manyPosted = tr("%1 usage records posted"),
+        .readHeader = readHeader,
+        .readLine = readLine,
+        .postLine = postLine,
+    };
+}
+
+} // namespace Tallymere
