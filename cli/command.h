@@ -52,6 +52,7 @@ Command initCommand();
 Command sampleCommand();
 Command importCommand();
 Command postCommand();
+Command countCommand();
 Command syncCommand();
 Command totalsCommand();
 Command historyCommand();

@@ -75,8 +75,9 @@ const QList<OptionSpec> &commonOptions()
 
 const QList<Command> &commands()
 {
-    static const QList<Command> all = {initCommand(), sampleCommand(), importCommand(),  postCommand(),
-                                       syncCommand(), totalsCommand(), historyCommand(), listCommand()};
+    static const QList<Command> all = {initCommand(),   sampleCommand(),  importCommand(),
+                                       postCommand(),   countCommand(),   syncCommand(),
+                                       totalsCommand(), historyCommand(), listCommand()};
     return all;
 }
 

@@ -1,19 +1,16 @@
 #include "base/named.h"
 #include "base/ruleerror.h"
 #include "cli/command.h"
+#include "cli/csvinput.h"
 #include "import/importer.h"
 
-#include <QBuffer>
 #include <QCoreApplication>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
-
-constexpr size_t mostErrorsShown = 100;
 
 QString tr(const char *text) { return QCoreApplication::translate("ImportCommand", text); }
 
@@ -27,29 +24,11 @@ const ImportKind &requireKind(const QString &name)
     throw UsageError(tr("'import' knows no '%1', but: %2").arg(name, namesOf(importKinds())));
 }
 
-[[noreturn]] void reportErrors(Console &console, const QString &fileName, const ImportErrors &errors)
-{
-    const std::vector<ImportErrors::Error> all = errors.inFileOrder();
-    for (size_t i = 0; i < std::min(all.size(), mostErrorsShown); ++i)
-        console.complain(onOneLine(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), all[i].message)));
-    if (all.size() > mostErrorsShown)
-        console.complain(tr("%1: %2 more errors").arg(fileName).arg(all.size() - mostErrorsShown));
-    throw RuleError(tr("Nothing was imported."));
-}
-
 void runImport(CommandContext &context)
 {
     const ImportKind &kind = requireKind(context.arguments.words().at(1));
     const QString fileName = context.arguments.words().at(2);
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        throw RuleError(tr("The file %1 could not be read: %2").arg(fileName, file.errorString()));
-    QBuffer piped; // what can be read only once is kept for the next try
-    if (file.isSequential()) {
-        piped.setData(file.readAll());
-        piped.open(QIODevice::ReadOnly);
-    }
-    QIODevice &content = file.isSequential() ? static_cast<QIODevice &>(piped) : file;
+    const std::unique_ptr<QIODevice> file = openInput(fileName);
 
     context.beginRetrying();
     std::unique_ptr<TDataModuleTallymere> data;
@@ -57,11 +36,13 @@ void runImport(CommandContext &context)
     ConsoleProgress progress(context.console, tr("Importing"));
     ImportResult result;
     context.patiently([&] {
-        content.seek(0);
-        result = importFile(data->databaseTallymere(), content, kind, context.arguments.has(u"yes"_s), progress);
+        file->seek(0);
+        result = importFile(data->databaseTallymere(), *file, kind, context.arguments.has(u"yes"_s), progress);
     });
-    if (!result.errors.isEmpty())
-        reportErrors(context.console, fileName, result.errors);
+    if (!result.errors.isEmpty()) {
+        complainOfRows(context.console, fileName, result.errors);
+        throw RuleError(tr("Nothing was imported."));
+    }
     context.console.print(tr("%1 %2 imported").arg(result.documents).arg(kind.name));
 }
 

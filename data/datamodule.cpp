@@ -158,9 +158,8 @@ void TDataModuleTallymere::requireHost()
 
 void TDataModuleTallymere::start()
 {
-    const QDate today = m_options.today ? m_options.today() : QDate::currentDate();
     const QHash<QString, std::function<void()>> seeds{
-        {u"Company"_s, [&] { Seeds::refreshOrganization(m_database, m_config, today); }},
+        {u"Company"_s, [&] { Seeds::refreshOrganization(m_database, m_config, today()); }},
         {u"ARInvCtl"_s, [&] { Seeds::firstLocation(m_database); }},
         {u"Bank"_s, [&] { Seeds::firstBank(m_database); }},
         {u"Currency"_s, [&] { Seeds::firstCurrency(m_database, m_config, m_options.locale); }},

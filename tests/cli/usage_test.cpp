@@ -39,8 +39,8 @@ TEST(Help, IsThereForTheProgramAndForEachCommandThatItNames)
     CliRunner cli(Store::Local);
     const CliResult all = cli.runBare({u"--help"_s});
     EXPECT_EQ(all.status, 0);
-    for (const QString &command :
-         {u"init"_s, u"sample"_s, u"import"_s, u"post"_s, u"sync"_s, u"totals"_s, u"history"_s, u"list"_s}) {
+    for (const QString &command : {u"init"_s, u"sample"_s, u"import"_s, u"post"_s, u"count"_s, u"sync"_s,
+                                   u"totals"_s, u"history"_s, u"list"_s}) {
         EXPECT_TRUE(all.output.contains("\n  "_L1 + command)) << command.toStdString();
         const CliResult one = cli.runBare({command, u"--help"_s});
         EXPECT_EQ(one.status, 0);

@@ -1,0 +1,44 @@
+#include "cli/csvinput.h"
+
+#include "base/ruleerror.h"
+#include "cli/console.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr size_t mostErrorsShown = 100;
+
+QString tr(const char *text) { return QCoreApplication::translate("ImportCommand", text); }
+
+} // namespace
+
+std::unique_ptr<QIODevice> openInput(const QString &fileName)
+{
+    auto file = std::make_unique<QFile>(fileName);
+    if (!file->open(QIODevice::ReadOnly))
+        throw RuleError(tr("The file %1 could not be read: %2").arg(fileName, file->errorString()));
+    if (!file->isSequential())
+        return file;
+    auto piped = std::make_unique<QBuffer>();
+    piped->setData(file->readAll());
+    piped->open(QIODevice::ReadOnly);
+    return piped;
+}
+
+void complainOfRows(Console &console, const QString &fileName, const ImportErrors &errors)
+{
+    const std::vector<ImportErrors::Error> all = errors.inFileOrder();
+    for (size_t i = 0; i < std::min(all.size(), mostErrorsShown); ++i)
+        console.complain(onOneLine(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), all[i].message)));
+    if (all.size() > mostErrorsShown)
+        console.complain(tr("%1: %2 more errors").arg(fileName).arg(all.size() - mostErrorsShown));
+}
+
+} // namespace Tallymere

@@ -1,0 +1,69 @@
+#include "import/countfile.h"
+
+#include "base/ruleerror.h"
+#include "import/importfile.h"
+#include "transactions/stockcount.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("CountFile", text); }
+
+ImportKind countKind()
+{
+    ImportKind kind;
+    kind.name = tr("a count");
+    for (const auto &[field, type] :
+         {std::pair(u"ItemNo"_s, Engine::FieldType::Text), std::pair(u"Quantity"_s, Engine::FieldType::Float)}) {
+        ImportColumn column;
+        column.field = column.target = field;
+        column.type = type;
+        column.size = 20;
+        column.required = true;
+        kind.columns.append(column);
+    }
+    return kind;
+}
+
+QString valueOf(const ImportRow &row, QStringView target)
+{
+    const ImportCell *cell = row.cell(target);
+    return cell ? cell->value.toText() : QString();
+}
+
+void takeRow(const ImportRow &row, StockCount &count, QDate date)
+{
+    const QString itemNo = valueOf(row, u"ItemNo");
+    if (itemNo.isEmpty() || valueOf(row, u"Quantity").isEmpty())
+        throw RuleError(tr("An item number and a quantity are needed"));
+    const int found = count.list().rowOfNumber(itemNo);
+    if (found < 0)
+        throw RuleError(tr("The item '%1' is not among those that are counted at this location").arg(itemNo));
+    if (count.list().row(found).typed)
+        throw RuleError(tr("The item '%1' has been counted in an earlier row").arg(itemNo));
+    count.count(found, row.cell(u"Quantity")->value.toDouble(), date);
+}
+
+} // namespace
+
+void takeCountFile(QIODevice &file, StockCount &count, QDate date, ImportErrors &errors)
+{
+    const std::vector<ImportDocument> documents = readImportFile(file, countKind(), errors);
+    for (const ImportDocument &document : documents) {
+        const ImportRow &row = document.front();
+        if (row.isBad)
+            continue;
+        try {
+            takeRow(row, count, date);
+        } catch (const RuleError &error) {
+            errors.add(row.line, error.message());
+        }
+    }
+}
+
+} // namespace Tallymere

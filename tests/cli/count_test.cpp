@@ -1,0 +1,95 @@
+#include "tests/cli/clirunner.h"
+
+#include <gtest/gtest.h>
+#include <QDate>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class CountCommand : public testing::TestWithParam<Store>
+{
+protected:
+    CountCommand()
+    {
+        makeSmallCompany(cli);
+        execute("UPDATE ItemType SET Inventory = true, CostingMethod = 2; UPDATE Item SET StandardCost = 2");
+        execute("UPDATE Item SET Suspended = false WHERE Suspended IS NULL");
+        execute("INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) "
+                "SELECT ItemID, WarehouseID, 10 FROM Item, Warehse WHERE ItemNo = 'A1'");
+    }
+    void execute(const char *sql) { cli.anotherUser()->database.connection().execute(QString::fromUtf8(sql)); }
+
+    CliResult count(const QByteArray &csv, const QStringList &more = {})
+    {
+        const QString date = QDate::currentDate().toString(Qt::ISODate);
+        return cli.run(QStringList{u"count"_s, u"--location"_s, u"1"_s, u"--date"_s, date, u"--file"_s,
+                                   cli.writeFile(u"count.csv"_s, csv)}
+                       + more);
+    }
+
+    CliRunner cli{GetParam()};
+};
+ON_BOTH_STORES(CountCommand);
+
+TEST_P(CountCommand, WritesAUsageOfWhatDiffers)
+{
+    const CliResult equal = count("ItemNo,Quantity\nA1,10\n");
+    EXPECT_EQ(equal.status, 0) << equal;
+    EXPECT_EQ(equal.output.trimmed(), u"no usage to be written"_s);
+
+    execute("UPDATE Item SET StandardCost = 0 WHERE ItemNo = 'B2'");
+    const CliResult written = count("Quantity,ItemNo\n7.5,a1\n3,B2\n", {u"--include-zero"_s});
+    EXPECT_EQ(written.status, 0) << written;
+    EXPECT_TRUE(written.output.contains("written, 2 line(s)"_L1)) << written;
+    EXPECT_TRUE(written.errors.contains("Beans, dried, Item ID: "_L1)) << written;
+    const auto usages = cli.list({u"list"_s, u"usage"_s});
+    ASSERT_EQ(usages.size(), 1);
+    EXPECT_EQ(usages[0][u"Posted"_s], u"false"_s);
+    EXPECT_EQ(usages[0][u"InventoryDate"_s], QDate::currentDate().toString(Qt::ISODate));
+
+    const CliResult again = count("ItemNo,Quantity\nA1,1\n");
+    EXPECT_EQ(again.status, 1);
+    EXPECT_TRUE(again.errors.contains("There are unposted transactions for this location."_L1)) << again;
+}
+
+TEST_P(CountCommand, RefusesWhatItCannotTake)
+{
+    const std::pair<QByteArray, QStringList> files[] = {
+        {"ItemNo,Quantity\nA1,-1\nA1,\nB2,2\nC3,1\n,1\nA1,2\nA1,3\nA1,x\n",
+         {u"2: A quantity that has been counted cannot be below zero"_s,
+          u"3: An item number and a quantity are needed"_s,
+          u"4: The item 'B2' is not among those that are counted at this location"_s,
+          u"5: The item 'C3' is not among those that are counted at this location"_s,
+          u"6: An item number and a quantity are needed"_s,
+          u"8: The item 'A1' has been counted in an earlier row"_s, u"9: Quantity 'x' is not a number"_s}},
+        {"ItemNo\nA1\n", {u"1: The column 'Quantity' is missing."_s}},
+    };
+    for (const auto &[csv, messages] : files) {
+        const CliResult result = count(csv);
+        EXPECT_EQ(result.status, 1);
+        QStringList expected;
+        for (const QString &message : messages)
+            expected.append(u"count.csv:"_s + message);
+        EXPECT_EQ(result.errorLines(), expected << u"tallymere: Nothing was counted."_s);
+    }
+
+    const QDate today = QDate::currentDate();
+    const std::tuple<QStringList, int, QString> orders[] = {
+        {{u"--location"_s, u"77"_s, u"--date"_s, today.toString(Qt::ISODate)}, 1, u"There is no location 77"_s},
+        {{u"--location"_s, u"1"_s, u"--date"_s, today.addDays(-366).toString(Qt::ISODate)},
+         1,
+         u"less than 365 days"_s},
+        {{u"--location"_s, u"1"_s, u"--date"_s, today.addDays(5).toString(Qt::ISODate)}, 1, u"cannot be later"_s},
+        {{u"--location"_s, u"1"_s, u"--date"_s, u"14.3.26"_s}, 2, u"needs a date as YYYY-MM-DD"_s},
+        {{u"--date"_s, u"2026-03-14"_s}, 2, u"needs the option '--location'"_s},
+    };
+    for (const auto &[words, status, message] : orders) {
+        const CliResult result = cli.run(QStringList{u"count"_s, u"--file"_s, u"count.csv"_s} + words);
+        EXPECT_EQ(result.status, status) << result;
+        EXPECT_TRUE(result.errors.contains(message)) << result;
+    }
+    EXPECT_EQ(cli.list({u"list"_s, u"usage"_s}).size(), 0);
+}
+
+} // namespace

@@ -1,0 +1,294 @@
+#include "transactions/stockcount.h"
+
+#include "base/ruleerror.h"
+#include "engine/error.h"
+#include "engine/table.h"
+#include "tests/support/kitchen.h"
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// Food by average cost, Goods by standard cost; Apples, Bread and apricots at the Office.
+class CountTest : public testing::TestWithParam<Store>
+{
+protected:
+    CountTest()
+    {
+        kitchen.execute(uR"(
+            UPDATE ItemType SET Inventory = true, CostingMethod = ItemTypeID;
+            UPDATE Item SET Suspended = false WHERE ItemID = 2;
+            UPDATE Item SET StandardCost = 4 WHERE ItemID = 3;
+            INSERT INTO ARInvCtl (NextInvoiceID, NextInvoiceNo) VALUES (2000, 500);
+        )"_s);
+        kitchen.setStock(1, 1, 10, 1.5);
+        kitchen.setStock(2, 1, 5, 0);
+        kitchen.setStock(3, 1, 2.5, 0);
+    }
+
+    // "A10 10" for each row, with " -> 8" behind it where that has been counted.
+    QStringList rows() const
+    {
+        QStringList rows;
+        for (int i = 0; i < count.list().size(); ++i) {
+            const CountRow &row = count.list().row(i);
+            QString text = row.itemNo + u' ' + (row.recorded ? QString::number(*row.recorded) : u"none"_s);
+            if (row.typed)
+                text += u" -> "_s + QString::number(*row.typed);
+            rows.append(text);
+        }
+        return rows;
+    }
+    void enter(const QString &itemNo, double quantity)
+    {
+        count.count(count.list().rowOfNumber(itemNo), quantity, date);
+    }
+    QStringList usages()
+    {
+        return kitchen.rows(
+            u"SELECT UsageID, CustomerID, UsageNo, WarehouseID, Description, InventoryDate, GLYear, "
+            "GLPeriod, Posted, Printed, InvoiceAmount FROM IUsage ORDER BY UsageID"_s);
+    }
+    QStringList usageLines()
+    {
+        return kitchen.rows(
+            u"SELECT UsageID, Seq, Quantity, ItemID, UnitCost FROM IUsageDet ORDER BY UsageID, Seq"_s);
+    }
+    QString counters() { return kitchen.rows(u"SELECT NextInvoiceID, NextInvoiceNo FROM ARInvCtl"_s).value(0); }
+
+    const QDate date{2026, 3, 14};
+    Kitchen kitchen{GetParam()};
+    QTemporaryDir folder;
+    SpokenPrompts prompts;
+    StockCount count{kitchen.database(), prompts, CountDrafts(u"kitchen"_s, u"anna"_s, folder.path())};
+};
+ON_BOTH_STORES(CountTest);
+
+TEST_P(CountTest, ListsWhatIsCountedInTheChosenOrder)
+{
+    kitchen.execute(uR"(
+        INSERT INTO ItemType (ItemTypeID, TypeName, Inventory) VALUES (3, 'food', true), (4, 'Work', false);
+        INSERT INTO Item (ItemID, ItemNo, ItemDescription, ItemTypeID, Suspended, StandardCost)
+            VALUES (5, 'Z1', 'Chairs, Pledge', 2, false, 0), (6, 'Z2', 'Chairs, pledge', 2, false, 9),
+                   (7, 'Z3', 'Hours', 4, false, 0), (8, 'Z4', 'Nuts', 3, false, 1), (9, 'a1', 'Oil', 1, false, 2);
+        INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (9, 2, 3);
+    )"_s);
+    for (int item = 4; item <= 7; ++item)
+        kitchen.setStock(item, 1, 1, 0);
+    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    EXPECT_EQ(rows(), (QStringList{u"A10 10"_s, u"A11 5"_s, u"B1 2.5"_s, u"Z2 1"_s}));
+    count.setZeroCounts(ZeroCounts::Included); // Oil has a balance, elsewhere
+    EXPECT_EQ(rows(), (QStringList{u"A10 10"_s, u"A11 5"_s, u"B1 2.5"_s, u"Z2 1"_s, u"Z4 none"_s}));
+
+    enter(u"z2"_s, 7);
+    const std::pair<CountList::Order, QString> orders[] = {
+        {CountList::Order::Category, u"Apples Bread Nuts apricots Chairs, pledge"_s},
+        {CountList::Order::Item, u"Apples apricots Bread Chairs, pledge Nuts"_s},
+        {CountList::Order::Cost, u"Apples Bread Nuts apricots Chairs, pledge"_s},
+        {CountList::Order::ItemNo, u"Apples Bread apricots Chairs, pledge Nuts"_s}};
+    for (const auto &[order, expected] : orders) {
+        count.sortBy(order);
+        QStringList descriptions;
+        for (int i = 0; i < count.list().size(); ++i)
+            descriptions.append(count.list().row(i).description);
+        EXPECT_EQ(descriptions.join(u' '), expected);
+        EXPECT_EQ(count.list().row(count.list().rowOfItem(6)).typed, 7);
+    }
+}
+
+TEST_P(CountTest, WritesWhatDiffersAsOneUsage)
+{
+    kitchen.execute(u"UPDATE ARInvCtl SET NextInvoiceID = 10000000"_s);
+    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    enter(u"A10"_s, 8);
+    enter(u"A11"_s, 6);
+    enter(u"B1"_s, 2.5);
+    EXPECT_EQ(count.list().totals().counted, 3);
+    EXPECT_EQ(count.list().totals().differing, 2);
+    EXPECT_EQ(count.list().totals().value.toDouble(), -3);
+    const auto usage = count.calculate(date);
+    ASSERT_TRUE(usage);
+    EXPECT_EQ(usage->lines, 2);
+    EXPECT_EQ(usages(), QStringList(u"10000000|-1|500|1|Inventory No: 500|2026-03-14|2026|3|false|false|"_s));
+    EXPECT_EQ(usageLines(), (QStringList{u"10000000|1|2|1|1.5"_s, u"10000000|2|-1|2|0"_s}));
+    EXPECT_EQ(counters(), u"10001|501"_s);
+    EXPECT_EQ(
+        prompts.take(),
+        QStringList(u"warn: Bread, Item ID: 2\r\nhas no Weighted Average Cost.\r\nThe usage will be calculated "
+                    "with a zero cost.\r\nYou should edit the resulting usage record and \r\ncorrect the cost, if "
+                    "necessary."_s));
+    EXPECT_FALSE(count.hasCounts());
+    EXPECT_FALSE(count.draft());
+    EXPECT_FALSE(count.calculate(date)) << "the same usage a second time";
+    EXPECT_EQ(usages().size(), 1);
+}
+
+TEST_P(CountTest, WritesNothingWhereNothingHasBeenUsed)
+{
+    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    EXPECT_FALSE(count.calculate(date));
+    enter(u"A10"_s, 11);
+    EXPECT_FALSE(count.calculate(date));
+    EXPECT_EQ(usages(), QStringList());
+    EXPECT_EQ(counters(), u"2000|500"_s);
+    EXPECT_THROW(enter(u"A10"_s, -1), RuleError);
+    EXPECT_TRUE(count.draft()) << "it has not been calculated";
+}
+
+TEST_P(CountTest, TakesThePeriodAndCostsFromTheBooks)
+{
+    struct Case
+    {
+        int year, period, method;
+        QString written;
+    };
+    // Method 1 the average, 2 the standard cost, any other none.
+    const Case cases[] = {{2025, 0, 2, u"2025|3|0.25"_s}, {0, 7, 1, u"2026|7|1.5"_s}, {0, 0, 3, u"2026|3|0"_s}};
+    kitchen.execute(u"UPDATE Item SET StandardCost = 0.25 WHERE ItemID = 1"_s);
+    for (const Case &one : cases) {
+        kitchen.execute(u"DELETE FROM IUsage; DELETE FROM IUsageDet; UPDATE Company SET DefaultPeriodYYYY = %1, "
+                        "DefaultPeriodPP = %2; UPDATE ItemType SET CostingMethod = %3"_s.arg(one.year)
+                            .arg(one.period)
+                            .arg(one.method));
+        ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+        enter(u"A10"_s, 0);
+        ASSERT_TRUE(count.calculate(date));
+        EXPECT_EQ(kitchen.rows(u"SELECT GLYear, GLPeriod, UnitCost FROM IUsage, IUsageDet"_s),
+                  QStringList(one.written));
+        EXPECT_EQ(prompts.take(), QStringList());
+    }
+}
+
+TEST_P(CountTest, OpensNoLocationWithUnpostedDocuments)
+{
+    const QString documents[] = {
+        u"INSERT INTO IUsage (UsageID, WarehouseID, Posted) VALUES (1, 1, false)"_s,
+        u"INSERT INTO IAdjust (AdjustmentID, WarehouseID, Posted) VALUES (1, 1, false)"_s,
+        u"INSERT INTO IReceipt (ReceiptID, WarehouseID, Posted) VALUES (1, 1, false)"_s,
+    };
+    for (const QString &document : documents) {
+        const QString table = document.section(u' ', 2, 2);
+        kitchen.execute(document);
+        EXPECT_FALSE(count.open(1, ZeroCounts::Excluded)) << table.toStdString();
+        EXPECT_FALSE(count.isOpen());
+        EXPECT_TRUE(
+            prompts.last().startsWith("warn: There are unposted transactions for this location.\r\nYou"_L1));
+        EXPECT_TRUE(count.open(2, ZeroCounts::Excluded));
+        kitchen.execute(u"UPDATE %1 SET Posted = true"_s.arg(table));
+        EXPECT_TRUE(count.open(1, ZeroCounts::Excluded));
+    }
+}
+
+TEST_P(CountTest, DeductsUnpostedUsageInWholeNumbers)
+{
+    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    enter(u"A10"_s, 8.5);
+    ASSERT_TRUE(count.calculate(date));
+    enter(u"A11"_s, 1);
+    count.setZeroCounts(ZeroCounts::Included); // 10 less 1.5, the latter cut to 1
+    EXPECT_EQ(rows(), (QStringList{u"A10 9"_s, u"A11 5"_s, u"B1 2.5"_s}));
+
+    kitchen.execute(u"ALTER TABLE IUsageDet RENAME TO Gone"_s);
+    count.setZeroCounts(ZeroCounts::Excluded);
+    EXPECT_EQ(prompts.last(), u"error: Error encountered while deducting uposted usage"_s);
+    EXPECT_EQ(rows().size(), 3);
+}
+
+TEST_P(CountTest, AsksWhenTheBooksHaveChangedMeanwhile)
+{
+    const QString changes[] = {u"UPDATE IBalance SET QtyOnHand = 12 WHERE ItemID = 2"_s,
+                               u"INSERT INTO IReceipt (ReceiptID, WarehouseID, Posted) VALUES (1, 1, false)"_s};
+    for (const QString &change : changes) {
+        kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s);
+        ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+        enter(u"A10"_s, 9);
+        kitchen.execute(change);
+        prompts.ok = false;
+        EXPECT_THROW(count.calculate(date), SilentAbort);
+        EXPECT_EQ(prompts.take().size(), 1);
+        EXPECT_TRUE(count.hasCounts());
+        EXPECT_EQ(counters(), u"2000|500"_s);
+    }
+    prompts.ok = true;
+    EXPECT_TRUE(count.calculate(date));
+    EXPECT_EQ(usageLines(), QStringList(u"2000|1|1|1|1.5"_s));
+}
+
+TEST_P(CountTest, IsRefusedWhileAnotherUserHoldsTheUsages)
+{
+    kitchen.session().lockAttempts = 1;
+    const auto anna = kitchen.anotherUser();
+    Engine::Table usages(anna->database, u"IUsage"_s);
+    usages.open();
+    usages.lockTable();
+    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    enter(u"A10"_s, 9);
+    EXPECT_THROW(count.calculate(date), Engine::EngineError);
+    EXPECT_EQ(this->usages(), QStringList());
+    EXPECT_TRUE(count.hasCounts());
+    usages.unlockTable();
+    EXPECT_TRUE(count.calculate(date));
+}
+
+TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
+{
+    ASSERT_TRUE(count.open(1, ZeroCounts::Included));
+    enter(u"A10"_s, 0);
+    enter(u"A11"_s, 0.1);
+    enter(u"B1"_s, 1);
+    count.forgetCount(2, date);
+    kitchen.execute(u"UPDATE Item SET Suspended = true WHERE ItemID = 2"_s);
+
+    StockCount later(kitchen.database(), prompts, CountDrafts(u"kitchen"_s, u"anna"_s, folder.path()));
+    ASSERT_EQ(later.locationsWithDraft().size(), 1U);
+    EXPECT_EQ(later.locationsWithDraft().front().name, u"Office"_s);
+    ASSERT_TRUE(later.open(1, ZeroCounts::Excluded));
+    const auto draft = later.draft();
+    ASSERT_TRUE(draft);
+    EXPECT_EQ(draft->date, date);
+    later.resume(*draft);
+    EXPECT_EQ(later.zeroCounts(), ZeroCounts::Included);
+    EXPECT_EQ(later.list().counts(), (ItemQuantities{{1, 0.0}}));
+    EXPECT_EQ(prompts.last(), u"inform: 1 item(s) that have been counted are no longer in the list."_s);
+
+    const StockCount other(kitchen.database(), prompts, CountDrafts(u"kitchen"_s, u"bert"_s, folder.path()));
+    EXPECT_TRUE(other.locationsWithDraft().empty());
+    later.dropDraft();
+    EXPECT_TRUE(later.locationsWithDraft().empty());
+}
+
+TEST(CountDraftFile, ThatCannotBeReadIsNone)
+{
+    const QTemporaryDir folder;
+    const CountDrafts drafts(u"kitchen"_s, u"anna"_s, folder.path());
+    drafts.save(3, {QDateTime::currentDateTime(), QDate(2026, 3, 14), ZeroCounts::Excluded, {{7, 1.5}}});
+    const QString path = folder.path() + u'/' + QDir(folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot)[0];
+    for (const QByteArray &content :
+         {QByteArray("{\"counts\":[[7,"), QByteArray("{\"counts\":[[7,-1],[8,1e999]]}")}) {
+        QFile file(path + u"/location-3.json"_s);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(content);
+        file.close();
+        EXPECT_FALSE(drafts.load(3)) << content.toStdString();
+    }
+    const CountDrafts nowhere(u"kitchen"_s, u"bert"_s, u"/proc/nowhere"_s);
+    EXPECT_THROW(nowhere.save(3, {}), RuleError);
+}
+
+TEST(CountDate, ReachesFromAYearAgoToThreeDaysAhead)
+{
+    const QDate today(2026, 3, 14);
+    EXPECT_FALSE(StockCount::isCountable(today.addDays(-365), today));
+    EXPECT_TRUE(StockCount::isCountable(today.addDays(-364), today));
+    EXPECT_EQ(StockCount::latestDate(today), QDate(2026, 3, 17));
+}
+
+TEST(CountLocationText, HoldsItsKeyBehindAnyName)
+{
+    for (const QString &name : {u"Office"_s, u"Freezer [old]"_s, QString()})
+        EXPECT_EQ(CountLocation::idOf(CountLocation{12, name}.text()), 12);
+    EXPECT_EQ(CountLocation::idOf({}), 0);
+}
+
+} // namespace

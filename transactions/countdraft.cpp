@@ -1,0 +1,105 @@
+#include "transactions/countdraft.h"
+
+#include "base/ruleerror.h"
+
+#include <cmath>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr auto fileEnd = ".json"_L1;
+
+// Databases and users have names of any kind; a folder's is short and plain.
+QString folderName(const QString &database, const QString &user)
+{
+    const QByteArray name = (database + u'\n' + user).toUtf8();
+    return QString::fromLatin1(QCryptographicHash::hash(name, QCryptographicHash::Sha256).toHex().left(32));
+}
+
+QJsonDocument written(const CountDraft &draft)
+{
+    QJsonArray counts;
+    for (auto count = draft.counts.cbegin(); count != draft.counts.cend(); ++count)
+        counts.append(QJsonArray{count.key(), *count});
+    return QJsonDocument(QJsonObject{{u"saved"_s, draft.saved.toString(Qt::ISODate)},
+                                     {u"date"_s, draft.date.toString(Qt::ISODate)},
+                                     {u"zeroCounts"_s, draft.zeroCounts == ZeroCounts::Included},
+                                     {u"counts"_s, counts}});
+}
+
+CountDraft read(const QJsonObject &object)
+{
+    CountDraft draft;
+    draft.saved = QDateTime::fromString(object[u"saved"_s].toString(), Qt::ISODate);
+    draft.date = QDate::fromString(object[u"date"_s].toString(), Qt::ISODate);
+    draft.zeroCounts = object[u"zeroCounts"_s].toBool() ? ZeroCounts::Included : ZeroCounts::Excluded;
+    const QJsonArray counts = object[u"counts"_s].toArray();
+    for (const QJsonValue &count : counts) {
+        const double quantity = count[1].toDouble(-1);
+        if (std::isfinite(quantity) && quantity >= 0)
+            draft.counts.insert(count[0].toInteger(), quantity);
+    }
+    return draft;
+}
+
+} // namespace
+
+CountDrafts::CountDrafts(const QString &database, const QString &user, QString folder)
+    : m_folder(std::move(folder) + u'/' + folderName(database, user))
+{
+}
+
+QString CountDrafts::standardFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + u"/counts"_s;
+}
+
+QString CountDrafts::fileOf(int location) const
+{
+    return m_folder + u"/location-"_s + QString::number(location) + fileEnd;
+}
+
+std::optional<CountDraft> CountDrafts::load(int location) const
+{
+    QFile file(fileOf(location));
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const CountDraft draft = read(QJsonDocument::fromJson(file.readAll()).object());
+    return draft.counts.isEmpty() ? std::nullopt : std::optional(draft);
+}
+
+QList<int> CountDrafts::locations() const
+{
+    QList<int> locations;
+    const QStringList files = QDir(m_folder).entryList({u"location-*"_s + fileEnd}, QDir::Files);
+    for (const QString &file : files)
+        locations.append(file.section(u'-', 1).section(u'.', 0, 0).toInt());
+    return locations;
+}
+
+// Readable by the user alone; complete or not there at all.
+void CountDrafts::save(int location, const CountDraft &draft) const
+{
+    QDir().mkpath(m_folder);
+    QSaveFile file(fileOf(location));
+    const QByteArray text = written(draft).toJson(QJsonDocument::Compact);
+    if (file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
+        && file.write(text) == text.size() && file.commit())
+        return;
+    throw RuleError(QCoreApplication::translate("Count", "What has been counted could not be kept in %1: %2")
+                        .arg(fileOf(location), file.errorString()));
+}
+
+void CountDrafts::drop(int location) const { QFile::remove(fileOf(location)); }
+
+} // namespace Tallymere

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "transactions/countsource.h"
+
+#include <optional>
+#include <QDate>
+#include <QDateTime>
+
+namespace Tallymere {
+
+// What a user has counted at a location and not turned into a usage yet.
+struct CountDraft
+{
+    QDateTime saved;
+    QDate date; // of the inventory
+    ZeroCounts zeroCounts = ZeroCounts::Excluded;
+    ItemQuantities counts;
+};
+
+// The drafts of one user of one database on this machine, a file for each location. They outlive the program, however it
+// ends.
+class CountDrafts
+{
+public:
+    // The folder in which all drafts are kept; where programs keep their data unless given.
+    CountDrafts(const QString &database, const QString &user, QString folder = standardFolder());
+    static QString standardFolder();
+
+    std::optional<CountDraft> load(int location) const; // nothing where there is none that can be read
+    QList<int> locations() const; // that have one
+    void save(int location, const CountDraft &draft) const; // throws RuleError
+    void drop(int location) const;
+
+private:
+    QString fileOf(int location) const;
+
+    QString m_folder;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,195 @@
+#include "transactions/countlist.h"
+
+#include "base/calchelpers.h"
+#include "base/ruleerror.h"
+
+#include <algorithm>
+#include <QCoreApplication>
+#include <tuple>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("Count", text); }
+
+// Bytes that compare as the stores order texts: by code point, letter case second to nothing but folded for ASCII.
+QByteArray sortText(const QString &text, Qt::CaseSensitivity sensitivity)
+{
+    QByteArray bytes = text.toUtf8();
+    if (sensitivity == Qt::CaseSensitive)
+        return bytes;
+    for (char &c : bytes) {
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    }
+    return bytes;
+}
+
+struct SortKey
+{
+    QByteArray text;
+    double number = 0;
+    int place = 0;
+    size_t from = 0;
+
+    bool operator<(const SortKey &other) const
+    {
+        return std::tie(number, text, place) < std::tie(other.number, other.text, other.place);
+    }
+};
+
+SortKey sortKey(const CountRow &row, CountList::Order order)
+{
+    switch (order) {
+    case CountList::Order::Category:
+        return {sortText(row.typeName, Qt::CaseInsensitive)};
+    case CountList::Order::Item:
+        return {sortText(row.description, Qt::CaseInsensitive)};
+    case CountList::Order::Cost:
+        return {{}, row.standardCost.toDouble()};
+    case CountList::Order::ItemNo:
+        break;
+    }
+    return {sortText(row.itemNo, Qt::CaseSensitive)};
+}
+
+} // namespace
+
+CountList::CountList(std::vector<CountRow> rows)
+{
+    m_rows.reserve(rows.size());
+    for (CountRow &row : rows)
+        m_rows.push_back({std::move(row), size()});
+    sortBy(m_order);
+}
+
+int CountList::rowOfItem(qint64 itemId) const
+{
+    const auto found =
+        std::find_if(m_rows.begin(), m_rows.end(), [&](const Placed &one) { return one.row.itemId == itemId; });
+    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+}
+
+int CountList::rowOfNumber(const QString &itemNo) const
+{
+    for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+        const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](const Placed &one) {
+            return one.row.itemNo.compare(itemNo, sensitivity) == 0;
+        });
+        if (found != m_rows.end())
+            return static_cast<int>(found - m_rows.begin());
+    }
+    return -1;
+}
+
+void CountList::sortBy(Order order)
+{
+    m_order = order;
+    std::vector<SortKey> keys;
+    keys.reserve(m_rows.size());
+    for (size_t i = 0; i < m_rows.size(); ++i) {
+        SortKey key = sortKey(m_rows[i].row, order);
+        key.place = m_rows[i].place;
+        key.from = i;
+        keys.push_back(std::move(key));
+    }
+    std::sort(keys.begin(), keys.end());
+    std::vector<Placed> sorted;
+    sorted.reserve(m_rows.size());
+    for (const SortKey &key : keys)
+        sorted.push_back(std::move(m_rows[key.from]));
+    m_rows = std::move(sorted);
+}
+
+void CountList::count(int row, double quantity)
+{
+    if (quantity < 0)
+        throw RuleError(tr("A quantity that has been counted cannot be below zero"), u"Quantity"_s);
+    at(row).typed = quantity + 0.0; // no minus sign at zero
+}
+
+void CountList::forgetCount(int row) { at(row).typed.reset(); }
+
+void CountList::setStandardCost(int row, Engine::Money cost) { at(row).standardCost = cost; }
+
+double CountList::highest(int row) const
+{
+    const double prior = this->row(row).prior();
+    return prior > 0 ? prior : 1;
+}
+
+// Fractions are lost on both sides: books of items that are deducted here are kept in whole numbers.
+void CountList::deduct(const ItemQuantities &unposted)
+{
+    for (Placed &placed : m_rows) {
+        const auto found = unposted.constFind(placed.row.itemId);
+        if (found == unposted.constEnd())
+            continue;
+        const auto left = static_cast<qint64>(placed.row.prior()) - static_cast<qint64>(*found);
+        placed.row.recorded = static_cast<double>(left);
+        placed.row.typed.reset();
+    }
+}
+
+void CountList::acceptCounts()
+{
+    for (Placed &placed : m_rows) {
+        if (placed.row.typed)
+            placed.row.recorded = placed.row.typed;
+        placed.row.typed.reset();
+    }
+}
+
+bool CountList::hasCounts() const
+{
+    return std::any_of(m_rows.begin(), m_rows.end(), [](const Placed &one) { return one.row.typed.has_value(); });
+}
+
+bool CountList::hasUsage() const
+{
+    return std::any_of(m_rows.begin(), m_rows.end(),
+                       [](const Placed &one) { return one.row.prior() > one.row.counted(); });
+}
+
+ItemQuantities CountList::counts() const
+{
+    ItemQuantities counts;
+    for (const Placed &placed : m_rows) {
+        if (placed.row.typed)
+            counts.insert(placed.row.itemId, *placed.row.typed);
+    }
+    return counts;
+}
+
+int CountList::takeCounts(const ItemQuantities &counts)
+{
+    int taken = 0;
+    for (Placed &placed : m_rows) {
+        const auto found = counts.constFind(placed.row.itemId);
+        if (found == counts.constEnd())
+            continue;
+        placed.row.typed = *found;
+        ++taken;
+    }
+    return taken;
+}
+
+CountList::Totals CountList::totals() const
+{
+    constexpr long double largest = Engine::Money::largestAmount;
+    Totals totals;
+    long double value = 0;
+    for (const Placed &placed : m_rows) {
+        const CountRow &row = placed.row;
+        totals.counted += row.typed ? 1 : 0;
+        totals.differing += row.differs() ? 1 : 0;
+        value += static_cast<long double>(row.difference()) * row.unitCost.toLongDouble();
+    }
+    totals.value = toCents(std::clamp(value, -largest, largest));
+    return totals;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "engine/money.h"
+
+#include <optional>
+#include <QHash>
+#include <QString>
+#include <vector>
+
+namespace Tallymere {
+
+// An item in the list of a count.
+struct CountRow
+{
+    qint64 itemId = 0;
+    QString itemNo;
+    QString typeName;
+    QString description;
+    Engine::Money standardCost;
+    Engine::Money unitCost; // by the costing method of the item's type
+    std::optional<double> recorded; // what the books hold; nothing where there is no balance
+    std::optional<double> typed; // what has been counted; nothing while nobody has, which is not 0
+
+    double prior() const { return recorded.value_or(0); }
+    double counted() const { return typed.value_or(prior()); }
+    double difference() const { return counted() - prior(); } // below 0 where something has been used
+    bool differs() const { return counted() != prior(); }
+};
+
+// Counted quantities by item.
+using ItemQuantities = QHash<qint64, double>;
+
+// The items to be counted at one location, with what has been counted so far. Counts stay with their items in every
+// order.
+class CountList
+{
+public:
+    enum class Order { ItemNo, Category, Item, Cost };
+
+    CountList() = default;
+    // Rows that are equal in an order keep the one they are given in.
+    explicit CountList(std::vector<CountRow> rows);
+
+    int size() const { return static_cast<int>(m_rows.size()); }
+    const CountRow &row(int row) const { return m_rows[static_cast<size_t>(row)].row; }
+    int rowOfItem(qint64 itemId) const; // -1 when it is not in the list
+    int
+    rowOfNumber(const QString &itemNo) const; // in another letter case where there is none as typed; -1 for none
+
+    Order order() const { return m_order; }
+    void sortBy(Order order);
+
+    // Takes a count; throws RuleError for one below zero.
+    void count(int row, double quantity);
+    void forgetCount(int row); // nobody has counted it
+    void setStandardCost(int row, Engine::Money cost);
+    // The most that is expected: what is recorded, or 1 where that is nothing.
+    double highest(int row) const;
+
+    // Takes quantities that wait to be posted off what is recorded, in whole numbers, and drops the counts of those
+    // items.
+    void deduct(const ItemQuantities &unposted);
+    void acceptCounts(); // what has been counted is what is recorded from now on
+
+    bool hasCounts() const;
+    bool hasUsage() const; // some row holds less than recorded
+    ItemQuantities counts() const; // of the items that have been counted
+    int takeCounts(const ItemQuantities &counts); // of items that are in the list; how many those are
+
+    struct Totals
+    {
+        int counted = 0;
+        int differing = 0;
+        Engine::Money value; // of the differences; below 0 where something has been used
+    };
+    Totals totals() const;
+
+private:
+    struct Placed
+    {
+        CountRow row;
+        int place = 0; // in the order given at first
+    };
+
+    CountRow &at(int row) { return m_rows[static_cast<size_t>(row)].row; }
+
+    std::vector<Placed> m_rows;
+    Order m_order = Order::ItemNo;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,150 @@
+#include "transactions/countsource.h"
+
+#include "data/utilsinv.h"
+#include "engine/database.h"
+#include "engine/dialect.h"
+
+using namespace Qt::StringLiterals;
+using Engine::Money;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr auto pledged = "%, Pledge"_L1;
+
+ItemCost::Method methodOf(qint64 costingMethod)
+{
+    switch (costingMethod) {
+    case 1:
+        return ItemCost::Method::Average;
+    case 2:
+        return ItemCost::Method::Standard;
+    default:
+        return ItemCost::Method::None;
+    }
+}
+
+// From three columns: costing method, average cost, standard cost.
+ItemCost readCost(const Engine::Statement &row, int column)
+{
+    ItemCost cost{methodOf(row.intAt(column)), Money()};
+    if (cost.method != ItemCost::Method::None)
+        cost.cost = Money::fromDouble(row.doubleAt(column + (cost.method == ItemCost::Method::Average ? 1 : 2)));
+    return cost;
+}
+
+QString listStatement(const Engine::Dialect &dialect, ZeroCounts zeroCounts)
+{
+    const QString location = zeroCounts == ZeroCounts::Included
+        ? u"((IBalance.WarehouseID = ?) OR (IBalance.WarehouseID IS NULL))"_s
+        : u"(IBalance.WarehouseID = ?)"_s;
+    return u"SELECT Item.ItemID, Item.ItemNo, ItemType.TypeName, Item.ItemDescription, IBalance.QtyOnHand, "
+           "ItemType.CostingMethod, Item.WgtAvgCost, Item.StandardCost "
+           "FROM Item JOIN ItemType ON Item.ItemTypeID = ItemType.ItemTypeID "
+           "LEFT OUTER JOIN IBalance ON Item.ItemID = IBalance.ItemID "
+           "WHERE Item.Suspended = false AND ItemType.Inventory = true AND NOT (%1) AND %2 ORDER BY %3, %4"_s.arg(
+               dialect.like(u"Item.ItemDescription"_s), location,
+               dialect.orderTerm(u"ItemType.TypeName"_s, false, false),
+               dialect.orderTerm(u"Item.ItemDescription"_s, true, false));
+}
+
+CountRow readRow(const Engine::Statement &row)
+{
+    CountRow read;
+    read.itemId = row.intAt(0);
+    read.itemNo = row.textAt(1);
+    read.typeName = row.textAt(2);
+    read.description = row.textAt(3);
+    read.unitCost = readCost(row, 5).cost;
+    read.standardCost = Money::fromDouble(row.doubleAt(7));
+    if (!row.isNull(4))
+        read.recorded = row.doubleAt(4) + 0.0; // no minus sign at zero
+    return read;
+}
+
+ItemQuantities quantities(Engine::Database &database, const QString &statement, int location)
+{
+    const Engine::StatementPtr rows = database.connection().prepare(statement);
+    rows->bindInt(0, location);
+    ItemQuantities quantities;
+    while (rows->next())
+        quantities.insert(rows->intAt(0), rows->doubleAt(1));
+    return quantities;
+}
+
+} // namespace
+
+QString CountLocation::text() const { return u"%1          [%2]"_s.arg(name, QString::number(id)); }
+
+// A name may have brackets of its own.
+int CountLocation::idOf(const QString &text)
+{
+    const qsizetype bracket = text.lastIndexOf(u'[');
+    return bracket < 0 ? 0 : extractIDFromString(text.mid(bracket)).toInt();
+}
+
+std::vector<CountLocation> CountSource::locations() const
+{
+    Engine::Connection &connection = m_database.connection();
+    const Engine::StatementPtr rows =
+        connection.prepare(u"SELECT WarehouseName, WarehouseID FROM Warehse ORDER BY %1, WarehouseID"_s.arg(
+            connection.dialect().orderTerm(u"WarehouseName"_s, true, false)));
+    std::vector<CountLocation> locations;
+    while (rows->next())
+        locations.push_back({static_cast<int>(rows->intAt(1)), rows->textAt(0)});
+    return locations;
+}
+
+CountList CountSource::list(int location, ZeroCounts zeroCounts) const
+{
+    Engine::Connection &connection = m_database.connection();
+    const Engine::Dialect &dialect = connection.dialect();
+    const Engine::StatementPtr items = connection.prepare(listStatement(dialect, zeroCounts));
+    items->bindText(0, dialect.likePattern(pledged));
+    items->bindInt(1, location);
+    std::vector<CountRow> rows;
+    while (items->next())
+        rows.push_back(readRow(*items));
+    return CountList(std::move(rows));
+}
+
+QSet<QString> CountSource::unposted(int location) const
+{
+    const Engine::StatementPtr rows = m_database.connection().prepare(
+        u"SELECT 'U' AS Kind, UsageID AS ID FROM IUsage WHERE Posted = false AND WarehouseID = ? "
+        "UNION ALL SELECT 'A', AdjustmentID FROM IAdjust WHERE Posted = false AND WarehouseID = ? "
+        "UNION ALL SELECT 'R', ReceiptID FROM IReceipt WHERE Posted = false AND WarehouseID = ?"_s);
+    for (int parameter = 0; parameter < 3; ++parameter)
+        rows->bindInt(parameter, location);
+    QSet<QString> documents;
+    while (rows->next())
+        documents.insert(rows->textAt(0) + QString::number(rows->intAt(1)));
+    return documents;
+}
+
+ItemQuantities CountSource::unpostedUsage(int location) const
+{
+    return quantities(m_database,
+                      u"SELECT ItemID, sum(Quantity) FROM IUsage JOIN IUsageDet ON IUsage.UsageID = "
+                      "IUsageDet.UsageID WHERE IUsage.Posted = false AND WarehouseID = ? GROUP BY ItemID"_s,
+                      location);
+}
+
+ItemQuantities CountSource::balances(int location) const
+{
+    return quantities(m_database, u"SELECT ItemID, QtyOnHand FROM IBalance WHERE WarehouseID = ?"_s, location);
+}
+
+QHash<qint64, ItemCost> CountSource::costs() const
+{
+    const Engine::StatementPtr rows =
+        m_database.connection().prepare(u"SELECT Item.ItemID, CostingMethod, WgtAvgCost, StandardCost "
+                                        "FROM ItemType JOIN Item ON ItemType.ItemTypeID = Item.ItemTypeID"_s);
+    QHash<qint64, ItemCost> costs;
+    while (rows->next())
+        costs.insert(rows->intAt(0), readCost(*rows, 1));
+    return costs;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "transactions/countlist.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+namespace Engine {
+class Database;
+}
+
+namespace Tallymere {
+
+// A location as a list offers it.
+struct CountLocation
+{
+    int id = 0;
+    QString name;
+
+    QString text() const; // the name, and the key behind it
+    static int idOf(const QString &text); // the key of such a text; 0 when none can be read
+};
+
+enum class ZeroCounts { Excluded, Included }; // items without any balance
+
+// What an item is worth by its type's costing method.
+struct ItemCost
+{
+    enum class Method { Average, Standard, None };
+
+    Method method = Method::None;
+    Engine::Money cost; // 0 where it is missing
+};
+
+// What a count reads from the books.
+class CountSource
+{
+public:
+    explicit CountSource(Engine::Database &database)
+        : m_database(database)
+    {
+    }
+
+    std::vector<CountLocation> locations() const; // by name
+    // The items to be counted at a location: of inventory types, neither suspended nor pledged.
+    CountList list(int location, ZeroCounts zeroCounts) const;
+    // Receipts, adjustments and usages of the location that wait to be posted, each by a name of its own.
+    QSet<QString> unposted(int location) const;
+    ItemQuantities unpostedUsage(int location) const;
+    ItemQuantities balances(int location) const; // as stored now
+    QHash<qint64, ItemCost> costs() const; // of all items
+
+private:
+    Engine::Database &m_database;
+};
+
+} // namespace Tallymere

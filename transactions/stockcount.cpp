@@ -1,0 +1,180 @@
+#include "transactions/stockcount.h"
+
+#include "base/ruleerror.h"
+
+#include <exception>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr int oldestDays = 365;
+constexpr int daysAhead = 3;
+} // namespace
+
+StockCount::StockCount(Engine::Database &database, Prompts &prompts, std::optional<CountDrafts> drafts)
+    : m_database(database)
+    , m_prompts(prompts)
+    , m_source(database)
+    , m_drafts(std::move(drafts))
+{
+}
+
+std::vector<CountLocation> StockCount::locationsWithDraft() const
+{
+    const QList<int> kept = m_drafts ? m_drafts->locations() : QList<int>();
+    std::vector<CountLocation> found;
+    if (kept.isEmpty())
+        return found;
+    for (const CountLocation &location : locations()) {
+        if (kept.contains(location.id))
+            found.push_back(location);
+    }
+    return found;
+}
+
+// --- the list ---------------------------------------------------------------------------------------------------
+
+bool StockCount::open(int location, ZeroCounts zeroCounts)
+{
+    close();
+    if (!m_source.unposted(location).isEmpty()) {
+        m_prompts.warn(
+            tr("There are unposted transactions for this location.\r\nYou cannot enter the inventory for "
+               "this location until all\r\ntransactions involving this location have been posted."));
+        return false;
+    }
+    m_location = location;
+    read(zeroCounts);
+    return true;
+}
+
+void StockCount::close()
+{
+    const CountList::Order order = m_list.order();
+    m_list = CountList();
+    m_list.sortBy(order);
+    m_isOpen = false;
+}
+
+void StockCount::setZeroCounts(ZeroCounts zeroCounts)
+{
+    read(zeroCounts);
+    try {
+        deductUnposted();
+    } catch (const std::exception &) {
+        m_prompts.error(tr("Error encountered while deducting uposted usage"));
+    }
+}
+
+// What is compared with the books later is read before the list: what changes in between shows as changed.
+void StockCount::read(ZeroCounts zeroCounts)
+{
+    const CountList::Order order = m_list.order();
+    m_zeroCounts = zeroCounts;
+    m_unposted = m_source.unposted(m_location);
+    m_balances = m_source.balances(m_location);
+    m_list = m_source.list(m_location, zeroCounts);
+    m_list.sortBy(order);
+    m_isOpen = true;
+}
+
+void StockCount::deductUnposted() { m_list.deduct(m_source.unpostedUsage(m_location)); }
+
+// --- counting ---------------------------------------------------------------------------------------------------
+
+void StockCount::count(int row, double quantity, QDate date)
+{
+    m_list.count(row, quantity);
+    keepDraft(date);
+}
+
+void StockCount::forgetCount(int row, QDate date)
+{
+    m_list.forgetCount(row);
+    keepDraft(date);
+}
+
+void StockCount::keepDraft(QDate date) const
+{
+    if (!m_drafts)
+        return;
+    if (m_list.hasCounts())
+        m_drafts->save(m_location, {QDateTime::currentDateTime(), date, m_zeroCounts, m_list.counts()});
+    else
+        m_drafts->drop(m_location);
+}
+
+std::optional<CountDraft> StockCount::draft() const
+{
+    return m_drafts && m_isOpen ? m_drafts->load(m_location) : std::nullopt;
+}
+
+void StockCount::resume(const CountDraft &draft)
+{
+    if (draft.zeroCounts != m_zeroCounts)
+        read(draft.zeroCounts);
+    const auto missing = draft.counts.size() - m_list.takeCounts(draft.counts);
+    if (missing > 0)
+        m_prompts.inform(
+            tr("%n item(s) that have been counted are no longer in the list.", nullptr, static_cast<int>(missing)));
+}
+
+void StockCount::dropDraft()
+{
+    if (m_drafts)
+        m_drafts->drop(m_location);
+}
+
+// --- the usage --------------------------------------------------------------------------------------------------
+
+bool StockCount::isCountable(QDate date, QDate today) { return date > today.addDays(-oldestDays); }
+
+QDate StockCount::latestDate(QDate today) { return today.addDays(daysAhead); }
+
+std::optional<CalculatedUsage> StockCount::calculate(QDate date)
+{
+    if (m_list.hasUsage())
+        requireUnchangedBooks();
+    const std::optional<CalculatedUsage> usage = calculateUsage(m_database, m_list, m_location, date, m_prompts);
+    if (!usage)
+        return usage;
+    m_list.acceptCounts();
+    dropDraft();
+    m_unposted = m_source.unposted(m_location);
+    return usage;
+}
+
+void StockCount::requireUnchangedBooks() const
+{
+    const auto goOn = tr("The usage is what the list shows as used, whatever has come or gone meanwhile.\n"
+                         "Do you want to calculate it nevertheless?");
+    if (const int changed = changedBalances(); changed > 0) {
+        const QString posted =
+            tr("Transactions have been posted since this list was read: %n item(s) of this location "
+               "have another quantity in the books now.",
+               nullptr, changed);
+        if (!m_prompts.confirm(Question::YesNo, posted + u"\n\n"_s + goOn))
+            throw SilentAbort();
+    }
+    if (!(m_source.unposted(m_location) - m_unposted).isEmpty()) {
+        const QString saved = tr("Somebody has saved transactions for this location since this list was read. They "
+                                 "have not been posted yet.");
+        if (!m_prompts.confirm(Question::YesNo, saved + u"\n\n"_s + goOn))
+            throw SilentAbort();
+    }
+}
+
+int StockCount::changedBalances() const
+{
+    const ItemQuantities now = m_source.balances(m_location);
+    int changed = 0;
+    for (int i = 0; i < m_list.size(); ++i) {
+        const qint64 item = m_list.row(i).itemId;
+        changed += now.value(item) != m_balances.value(item) ? 1 : 0;
+    }
+    return changed;
+}
+
+} // namespace Tallymere

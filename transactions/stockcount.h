@@ -1,0 +1,77 @@
+#pragma once
+
+#include "base/prompts.h"
+#include "transactions/countdraft.h"
+#include "transactions/countsource.h"
+#include "transactions/usagecalculation.h"
+
+#include <QCoreApplication>
+
+namespace Tallymere {
+
+// Counting the stock, one location at a time: its list, what is counted, and the usage document that comes of it. The
+// count itself is not stored in the database. With drafts it is kept on this machine with every change, until it has been
+// calculated or given up.
+class StockCount
+{
+    Q_DECLARE_TR_FUNCTIONS(Tallymere::StockCount)
+
+public:
+    StockCount(Engine::Database &database, Prompts &prompts, std::optional<CountDrafts> drafts = std::nullopt);
+
+    std::vector<CountLocation> locations() const { return m_source.locations(); }
+    std::vector<CountLocation> locationsWithDraft() const;
+
+    // Goes to the list of a location. While documents of the location wait to be posted the user is warned, and no list is
+    // open. What has been counted before is lost, and its draft stays.
+    bool open(int location, ZeroCounts zeroCounts);
+    // The same list with or without items that have no balance, less the usage that waits to be posted.
+    void setZeroCounts(ZeroCounts zeroCounts);
+    void close();
+
+    bool isOpen() const { return m_isOpen; }
+    int location() const { return m_location; }
+    ZeroCounts zeroCounts() const { return m_zeroCounts; }
+    const CountList &list() const { return m_list; }
+    bool hasCounts() const { return m_list.hasCounts(); }
+
+    void sortBy(CountList::Order order) { m_list.sortBy(order); }
+    void setStandardCost(int row, Engine::Money cost) { m_list.setStandardCost(row, cost); }
+    // Each keeps the draft. The count stands even where that throws RuleError, as the draft cannot be written.
+    void count(int row, double quantity, QDate date);
+    void forgetCount(int row, QDate date);
+
+    std::optional<CountDraft> draft() const; // of the open list
+    // Takes its counts; items that are no longer in the list are told.
+    void resume(const CountDraft &draft);
+    void dropDraft();
+
+    // Whether a count of that date can be calculated.
+    static bool isCountable(QDate date, QDate today);
+    static QDate latestDate(QDate today);
+
+    // Writes the usage document; nothing when no item has been used. The user is asked before, when the books have
+    // changed since the list was read; SilentAbort when he would rather not. Afterwards what has been counted is what is
+    // recorded, and the draft is gone.
+    std::optional<CalculatedUsage> calculate(QDate date);
+
+private:
+    void read(ZeroCounts zeroCounts);
+    void deductUnposted();
+    void keepDraft(QDate date) const;
+    void requireUnchangedBooks() const;
+    int changedBalances() const;
+
+    Engine::Database &m_database;
+    Prompts &m_prompts;
+    CountSource m_source;
+    std::optional<CountDrafts> m_drafts;
+    CountList m_list;
+    bool m_isOpen = false;
+    int m_location = 0;
+    ZeroCounts m_zeroCounts = ZeroCounts::Excluded;
+    QSet<QString> m_unposted; // as they were when the list was read
+    ItemQuantities m_balances;
+};
+
+} // namespace Tallymere
