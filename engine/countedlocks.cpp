@@ -1,17 +1,18 @@
 #include "engine/countedlocks.h"
 
-#include <QCoreApplication>
+#include "engine/error.h"
+
 #include <utility>
 
 namespace Engine {
 
 QString LockOwner::description() const
 {
-    QString text = user.isEmpty() ? QCoreApplication::translate("Engine", "another user") : user;
+    QString text = user.isEmpty() ? Texts::tr("another user") : user;
     if (!host.isEmpty())
-        text = QCoreApplication::translate("Engine", "%1 on %2").arg(text, host);
+        text = Texts::tr("%1 on %2").arg(text, host);
     if (processId > 0)
-        text = QCoreApplication::translate("Engine", "%1 (process %2)").arg(text).arg(processId);
+        text = Texts::tr("%1 (process %2)").arg(text).arg(processId);
     return text;
 }
 

@@ -7,7 +7,6 @@
 #include "engine/session.h"
 #include "engine/sqlite/connection.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -16,32 +15,28 @@ namespace Engine {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Engine", text); }
-
 std::unique_ptr<Connection> openLocal(const Database &database)
 {
     const QString &folder = database.directory;
     if (folder.isEmpty())
-        throw EngineError(ErrorCode::CannotOpen,
-                          tr("No database folder has been set. Choose the folder in the settings."));
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("No database folder has been set. Choose the folder in the settings."));
     if (!QFileInfo(folder).isDir())
-        throw EngineError(
-            ErrorCode::CannotOpen,
-            tr("The database folder %1 does not exist or cannot be reached. Check the settings and the "
-               "network.")
-                .arg(folder));
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("The database folder %1 does not exist or cannot be reached. Check the settings and the "
+                        "network.")
+                  .arg(folder));
     if (!QFileInfo(folder).isExecutable())
-        throw EngineError(
+        raise(
             ErrorCode::AccessDenied,
-            tr("You have no right to enter the database folder %1. Ask its owner for access.").arg(folder));
+            Texts::tr("You have no right to enter the database folder %1. Ask its owner for access.").arg(folder));
     const QString fileName = database.name() + ".sqlite"_L1;
     const QString path = folder + u'/' + fileName;
     if (!database.createIfMissing && !QFileInfo::exists(path))
-        throw EngineError(
-            ErrorCode::CannotOpen,
-            tr("There is no database %1 in %2. Check the folder in the settings, or make the database "
-               "with \"tallymere init\".")
-                .arg(fileName, folder));
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("There is no database %1 in %2. Check the folder in the settings, or make the database "
+                        "with \"tallymere init\".")
+                  .arg(fileName, folder));
     const auto missing =
         database.createIfMissing ? SqliteConnection::Missing::Create : SqliteConnection::Missing::Fail;
     return std::make_unique<SqliteConnection>(path, missing, database.session().applicationUser);

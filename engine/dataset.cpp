@@ -5,7 +5,6 @@
 #include "engine/dialect.h"
 #include "engine/error.h"
 
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +23,7 @@ DataSet::~DataSet() = default;
 void DataSet::requireOpen() const
 {
     if (!m_open)
-        throw EngineError(ErrorCode::WrongState, QCoreApplication::translate("Engine", "The table is not open."));
+        raise(ErrorCode::WrongState, Texts::tr("The table is not open."));
 }
 
 // --- moving ----------------------------------------------------------------------------------------------------
@@ -295,8 +294,7 @@ void DataSet::setFiltered(bool on)
     if (on == m_filtered)
         return;
     if (on && d->inMemory)
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "A query without key fields cannot be filtered."));
+        raise(ErrorCode::WrongState, Texts::tr("A query without key fields cannot be filtered."));
     if (m_open)
         beforeMove();
     if (m_open && on)

@@ -6,7 +6,6 @@
 #include "engine/error.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 #include <stdexcept>
 
 namespace Engine {
@@ -24,8 +23,7 @@ int DataSet::requireField(QStringView name) const
 {
     const int index = fieldIndex(name);
     if (index < 0) {
-        throw EngineError(ErrorCode::NoSuchField,
-                          QCoreApplication::translate("Engine", "There is no field \"%1\".").arg(name));
+        raise(ErrorCode::NoSuchField, Texts::tr("There is no field \"%1\".").arg(name));
     }
     return index;
 }
@@ -39,9 +37,9 @@ Money DataSet::money(QStringView name) const
     try {
         return amount.toMoney();
     } catch (const std::range_error &) {
-        throw EngineError(ErrorCode::BadValue,
-                          QCoreApplication::translate("Engine", "%1 holds %2, which is too large for an amount.")
-                              .arg(field(name).caption(), amount.toText()));
+        raise(ErrorCode::BadValue,
+              Texts::tr("%1 holds %2, which is too large for an amount.")
+                  .arg(field(name).caption(), amount.toText()));
     }
 }
 
@@ -71,10 +69,8 @@ void DataSet::addCalculated(const QString &name, FieldType type, int size,
 void DataSet::addField(Field field)
 {
     if (m_open || fieldIndex(field.name) >= 0) {
-        throw EngineError(
-            ErrorCode::WrongState,
-            QCoreApplication::translate("Engine", "The field \"%1\" cannot be added: the table is open or has it.")
-                .arg(field.name));
+        raise(ErrorCode::WrongState,
+              Texts::tr("The field \"%1\" cannot be added: the table is open or has it.").arg(field.name));
     }
     m_fields.push_back(std::move(field));
 }

@@ -4,7 +4,6 @@
 #include "engine/locks.h"
 #include "engine/storedtext.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QSet>
 #include <type_traits>
@@ -130,9 +129,8 @@ Transaction::~Transaction()
 void Transaction::commit()
 {
     if (!m_connection.inTransaction())
-        throw EngineError(ErrorCode::General,
-                          QCoreApplication::translate("Engine", "%1 has undone the changes by itself. Try again.")
-                              .arg(m_connection.location()));
+        raise(ErrorCode::General,
+              Texts::tr("%1 has undone the changes by itself. Try again.").arg(m_connection.location()));
     if (!m_own)
         return;
     m_connection.commit();

@@ -1,9 +1,16 @@
 #pragma once
 
 #include <exception>
+#include <QCoreApplication>
 #include <QString>
 
 namespace Engine {
+
+// The context in which the engine's texts are found: Texts::tr("...").
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Engine)
+};
 
 // Codes of EngineError. 9729 is relied upon by name in the screens' "already exists" messages.
 enum class ErrorCode {
@@ -57,5 +64,10 @@ private:
     QString m_driverText;
     QByteArray m_what;
 };
+
+[[noreturn]] inline void raise(ErrorCode code, const QString &text, const QString &driverText = {})
+{
+    throw EngineError(code, text, driverText);
+}
 
 } // namespace Engine

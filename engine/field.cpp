@@ -3,8 +3,6 @@
 #include "engine/error.h"
 #include "engine/textsize.h"
 
-#include <QCoreApplication>
-
 namespace Engine {
 
 QString Field::displayText(const Value &value) const
@@ -29,16 +27,15 @@ Value Field::fit(const Value &value) const
     try {
         fitted = value.as(type);
     } catch (const EngineError &error) {
-        throw EngineError(error.code(),
-                          QCoreApplication::translate("Engine", "%1: %2").arg(caption(), error.text()));
+        raise(error.code(), Texts::tr("%1: %2").arg(caption(), error.text()));
     }
     if (type != FieldType::Text || size <= 0 || fitted.isNull())
         return fitted;
     if (characterCount(fitted.toText()) <= size)
         return fitted;
-    throw EngineError(ErrorCode::BadValue,
-                      QCoreApplication::translate("Engine", "%1: '%2' is longer than %3 characters")
-                          .arg(caption(), fitted.toText(), QString::number(size)));
+    raise(
+        ErrorCode::BadValue,
+        Texts::tr("%1: '%2' is longer than %3 characters").arg(caption(), fitted.toText(), QString::number(size)));
 }
 
 } // namespace Engine

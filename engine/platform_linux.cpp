@@ -7,7 +7,6 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <pwd.h>
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <sys/stat.h>
@@ -64,9 +63,7 @@ std::optional<FileIdentity> identityOf(int folder, const char *path, int flags)
 [[noreturn]] void throwLockFailure(const QString &path)
 {
     const QString words = QString::fromLocal8Bit(std::strerror(errno));
-    throw EngineError(
-        ErrorCode::General,
-        QCoreApplication::translate("Engine", "The lock file %1 cannot be used (%2).").arg(path, words), words);
+    raise(ErrorCode::General, Texts::tr("The lock file %1 cannot be used (%2).").arg(path, words), words);
 }
 
 } // namespace
@@ -142,22 +139,18 @@ RangeLockFile::RangeLockFile(const QString &path)
         return;
     if (m_handle >= 0 || errno == ELOOP) {
         ::close(m_handle);
-        throw EngineError(
-            ErrorCode::CannotOpen,
-            QCoreApplication::translate("Engine",
-                                        "The lock file %1 is a link, or no file at all. Remove it while "
-                                        "nobody uses the database, and open the program anew.")
-                .arg(path));
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("The lock file %1 is a link, or no file at all. Remove it while "
+                        "nobody uses the database, and open the program anew.")
+                  .arg(path));
     }
     const QString words = QString::fromLocal8Bit(std::strerror(errno));
     const bool denied = errno == EACCES || errno == EROFS || errno == EPERM;
-    throw EngineError(
-        denied ? ErrorCode::ReadOnly : ErrorCode::CannotOpen,
-        QCoreApplication::translate("Engine",
-                                    "The lock file %1 cannot be written (%2). Check the permissions of "
-                                    "the file and of its folder.")
-            .arg(path, words),
-        words);
+    raise(denied ? ErrorCode::ReadOnly : ErrorCode::CannotOpen,
+          Texts::tr("The lock file %1 cannot be written (%2). Check the permissions of "
+                    "the file and of its folder.")
+              .arg(path, words),
+          words);
 }
 
 RangeLockFile::~RangeLockFile() { ::close(m_handle); }

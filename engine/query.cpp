@@ -8,7 +8,6 @@
 #include "engine/session.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -90,9 +89,7 @@ QList<Value> Query::parameters() const
     for (const QString &name : prepared().positional.names) {
         const auto value = m_parameters.constFind(name.toLower());
         if (value == m_parameters.constEnd()) {
-            throw EngineError(
-                ErrorCode::WrongState,
-                QCoreApplication::translate("Engine", "The query's parameter \"%1\" has no value.").arg(name));
+            raise(ErrorCode::WrongState, Texts::tr("The query's parameter \"%1\" has no value.").arg(name));
         }
         values << *value;
     }
@@ -105,8 +102,7 @@ void Query::open()
         return;
     const bool list = !m_keyFields.isEmpty();
     if (!list && m_filtered) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "A query without key fields cannot be filtered."));
+        raise(ErrorCode::WrongState, Texts::tr("A query without key fields cannot be filtered."));
     }
     m_values = parameters();
     invalidate(Place::First);

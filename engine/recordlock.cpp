@@ -2,7 +2,6 @@
 
 #include "engine/error.h"
 
-#include <QCoreApplication>
 #include <QRandomGenerator>
 
 using namespace Qt::StringLiterals;
@@ -26,10 +25,8 @@ RecordLock::RecordLock(Connection &connection, const Session &session, QString t
         return;
     if (m_locks.holdsRecord(m_table, m_key)) {
         // The user himself; waiting would not help.
-        throw EngineError(
-            ErrorCode::RecordLocked,
-            QCoreApplication::translate("Engine", "%1 is being edited in another window. Finish there first.")
-                .arg(record));
+        raise(ErrorCode::RecordLocked,
+              Texts::tr("%1 is being edited in another window. Finish there first.").arg(record));
     }
     for (int attempt = 1;; ++attempt) {
         m_held = m_locks.tryLockRecord(m_table, m_key);
@@ -65,15 +62,11 @@ void RecordLock::refuse(const QString &record, const QString &tableTitle)
     const QString holder = lockHolder(m_locks, m_table);
     if (m_locks.tryLockRecord(m_table, probe)) {
         m_locks.unlockRecord(m_table, probe);
-        throw EngineError(
-            ErrorCode::RecordLocked,
-            QCoreApplication::translate("Engine", "%1 is being edited by another user%2. Try again in a moment.")
-                .arg(record, holder));
+        raise(ErrorCode::RecordLocked,
+              Texts::tr("%1 is being edited by another user%2. Try again in a moment.").arg(record, holder));
     }
-    throw EngineError(
-        ErrorCode::TableLocked,
-        QCoreApplication::translate("Engine", "Table '%1' is locked by another user%2. Try again in a moment.")
-            .arg(tableTitle, holder));
+    raise(ErrorCode::TableLocked,
+          Texts::tr("Table '%1' is locked by another user%2. Try again in a moment.").arg(tableTitle, holder));
 }
 
 } // namespace Engine

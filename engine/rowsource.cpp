@@ -3,7 +3,6 @@
 #include "engine/dialect.h"
 #include "engine/error.h"
 
-#include <QCoreApplication>
 #include <QHash>
 
 using namespace Qt::StringLiterals;
@@ -62,9 +61,7 @@ QString RowSource::columnOf(const Field &field) const
         return "t."_L1 + dialect.name(field.name);
     if (field.kind == FieldKind::Lookup)
         return lookupSelect(dialect, field.lookup, "t."_L1 + dialect.name(field.lookup.keyField));
-    throw EngineError(
-        ErrorCode::NoSuchField,
-        QCoreApplication::translate("Engine", "%1 is calculated and cannot be searched for.").arg(field.caption()));
+    raise(ErrorCode::NoSuchField, Texts::tr("%1 is calculated and cannot be searched for.").arg(field.caption()));
 }
 
 StatementPtr RowSource::select(const QString &columns, const SqlCondition &condition, const QString &tail) const
@@ -222,8 +219,7 @@ SqlCondition RowSource::match(const QStringList &fields, const QList<Value> &val
     for (qsizetype i = 0; i < count; ++i) {
         const Field *field = fieldNamed(m_fields, fields[i]);
         if (!field) {
-            throw EngineError(ErrorCode::NoSuchField,
-                              QCoreApplication::translate("Engine", "There is no field \"%1\".").arg(fields[i]));
+            raise(ErrorCode::NoSuchField, Texts::tr("There is no field \"%1\".").arg(fields[i]));
         }
         const bool partial = options.testFlag(LocateOption::PartialKey) && i + 1 == count;
         condition += matchOne(*field, values[i], partial, options.testFlag(LocateOption::CaseInsensitive));

@@ -5,8 +5,6 @@
 #include "engine/query.h"
 #include "engine/session.h"
 
-#include <QCoreApplication>
-
 using namespace Qt::StringLiterals;
 
 // Bringing the tables of a database to their layouts.
@@ -14,8 +12,6 @@ using namespace Qt::StringLiterals;
 namespace Engine {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Engine", text); }
 
 bool sameName(const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
 
@@ -54,10 +50,10 @@ public:
     {
         if (m_locks.tryOpenExclusive(table))
             return;
-        throw EngineError(
-            ErrorCode::TableInUse,
-            tr("Table '%1' is open elsewhere and cannot be changed now. Have everybody close it and try again.")
-                .arg(title));
+        raise(ErrorCode::TableInUse,
+              Texts::tr(
+                  "Table '%1' is open elsewhere and cannot be changed now. Have everybody close it and try again.")
+                  .arg(title));
     }
     ~ExclusiveOpen()
     {
@@ -91,7 +87,7 @@ TableLayout requireTable(Connection &store, const QString &table, const QString 
 {
     if (std::optional<TableLayout> layout = store.describe(table))
         return *layout;
-    throw EngineError(ErrorCode::NoSuchTable, tr("There is no table '%1' in %2.").arg(title, store.location()));
+    raise(ErrorCode::NoSuchTable, Texts::tr("There is no table '%1' in %2.").arg(title, store.location()));
 }
 
 void replaceIndexes(Connection &store, const TableLayout &stored, const TableLayout &layout)

@@ -10,7 +10,6 @@
 #include "engine/tableprivate.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -81,17 +80,15 @@ void Table::open()
     LockManager &locks = connection.locks();
     const bool free = exclusive ? locks.tryOpenExclusive(m_name) : locks.tryOpenShared(m_name);
     if (!free) {
-        const QString text = exclusive
-            ? QCoreApplication::translate("Engine", "Table '%1' is in use by another user%2.")
-            : QCoreApplication::translate("Engine", "Another user%2 has table '%1' open in exclusive mode.");
-        throw EngineError(ErrorCode::TableInUse, text.arg(title(), lockHolder(locks, m_name)));
+        const QString text = exclusive ? Texts::tr("Table '%1' is in use by another user%2.")
+                                       : Texts::tr("Another user%2 has table '%1' open in exclusive mode.");
+        raise(ErrorCode::TableInUse, text.arg(title(), lockHolder(locks, m_name)));
     }
     try {
         auto stored = connection.describe(m_name);
         if (!stored) {
-            throw EngineError(ErrorCode::NoSuchTable,
-                              QCoreApplication::translate("Engine", "There is no table '%1' in %2.")
-                                  .arg(title(), connection.location()));
+            raise(ErrorCode::NoSuchTable,
+                  Texts::tr("There is no table '%1' in %2.").arg(title(), connection.location()));
         }
         m_layout = std::move(*stored);
         setDataFields(dataFields(m_layout));
@@ -141,10 +138,9 @@ void Table::lockTable()
         return;
     LockManager &locks = m_database.connection().locks();
     if (!locks.tryLockTable(m_name)) {
-        throw EngineError(
-            ErrorCode::TableLocked,
-            QCoreApplication::translate("Engine", "Table '%1' is locked by another user%2. Try again in a moment.")
-                .arg(title(), lockHolder(locks, m_name)));
+        raise(ErrorCode::TableLocked,
+              Texts::tr("Table '%1' is locked by another user%2. Try again in a moment.")
+                  .arg(title(), lockHolder(locks, m_name)));
     }
     m_tableLocked = true;
 }
@@ -167,9 +163,7 @@ const IndexDef *Table::order() const
         return nullptr;
     if (const IndexDef *index = m_layout.indexOnFields(m_index))
         return index;
-    throw EngineError(
-        ErrorCode::WrongState,
-        QCoreApplication::translate("Engine", "Table '%1' has no index \"%2\".").arg(m_name, m_index));
+    raise(ErrorCode::WrongState, Texts::tr("Table '%1' has no index \"%2\".").arg(m_name, m_index));
 }
 
 QList<OrderedField> Table::orderedFields() const
@@ -241,8 +235,7 @@ bool Table::findKey(const QList<Value> &values)
     requireOpen();
     const IndexDef *index = order();
     if (!index) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "Table '%1' has no order.").arg(m_name));
+        raise(ErrorCode::WrongState, Texts::tr("Table '%1' has no order.").arg(m_name));
     }
     const bool folded = index->options.testFlag(IndexOption::CaseInsensitive);
     return moveToFirstMatch(index->fieldNames().mid(0, values.size()), values,

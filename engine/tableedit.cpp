@@ -6,7 +6,6 @@
 #include "engine/tableprivate.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -28,9 +27,7 @@ void Table::requireWritable() const
 {
     requireOpen();
     if (readOnly) {
-        throw EngineError(
-            ErrorCode::ReadOnly,
-            QCoreApplication::translate("Engine", "Table '%1' was opened for reading only.").arg(m_name));
+        raise(ErrorCode::ReadOnly, Texts::tr("Table '%1' was opened for reading only.").arg(m_name));
     }
 }
 
@@ -110,8 +107,7 @@ void Table::edit()
 QString Table::recordText() const
 {
     const QString name = recordName ? recordName() : QString();
-    return name.isEmpty() ? QCoreApplication::translate("Engine", "This record of table '%1'").arg(title())
-                          : u'\'' + name + u'\'';
+    return name.isEmpty() ? Texts::tr("This record of table '%1'").arg(title()) : u'\'' + name + u'\'';
 }
 
 // Locks the current record and reads it afresh, so that nothing another user saved is lost.
@@ -125,9 +121,7 @@ void Table::readForEdit()
     edit->key = currentKey();
     auto stored = found && !edit->key.isEmpty() ? reader.read(&RowSource::row, edit->key) : std::nullopt;
     if (!stored) {
-        throw EngineError(
-            ErrorCode::RecordGone,
-            QCoreApplication::translate("Engine", "%1 was deleted by another user.").arg(recordText()));
+        raise(ErrorCode::RecordGone, Texts::tr("%1 was deleted by another user.").arg(recordText()));
     }
     edit->values = *stored;
     edit->original = *stored;
@@ -169,17 +163,14 @@ bool Table::holdRecord()
     const auto key = storedKey(m_edit->original);
     const auto stored = key ? DataSetReader(*this).read(&RowSource::row, *key) : std::nullopt;
     if (!stored) {
-        throw EngineError(
-            ErrorCode::RecordGone,
-            QCoreApplication::translate("Engine", "%1 was deleted by another user.").arg(recordText()));
+        raise(ErrorCode::RecordGone, Texts::tr("%1 was deleted by another user.").arg(recordText()));
     }
     m_edit->isStored = m_edit->written && haveSameData(*stored, *m_edit->written);
     if (!m_edit->isStored && !haveSameData(*stored, m_edit->original))
-        throw EngineError(ErrorCode::RecordChanged,
-                          QCoreApplication::translate("Engine",
-                                                      "%1 was changed by another user while the connection "
-                                                      "was lost. Cancel, and make your changes again.")
-                              .arg(recordText()));
+        raise(ErrorCode::RecordChanged,
+              Texts::tr("%1 was changed by another user while the connection "
+                        "was lost. Cancel, and make your changes again.")
+                  .arg(recordText()));
     m_edit->original = *stored;
     m_edit->key = *key;
     m_edit->lock = std::move(lock);
@@ -271,14 +262,11 @@ void Table::set(QStringView name, const Value &value) { set(requireField(name), 
 void Table::set(int fieldNumber, const Value &value)
 {
     if (!isEditing()) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "Table '%1' is not being edited.").arg(m_name));
+        raise(ErrorCode::WrongState, Texts::tr("Table '%1' is not being edited.").arg(m_name));
     }
     Field &changing = m_fields[static_cast<size_t>(fieldNumber)];
     if (changing.kind != FieldKind::Data) {
-        throw EngineError(
-            ErrorCode::WrongState,
-            QCoreApplication::translate("Engine", "%1 follows from other fields.").arg(changing.caption()));
+        raise(ErrorCode::WrongState, Texts::tr("%1 follows from other fields.").arg(changing.caption()));
     }
     const Value fitted = changing.fit(value);
     if (fitted == m_edit->values[static_cast<size_t>(fieldNumber)])
@@ -295,8 +283,7 @@ void Table::setDefault(QStringView name, const Value &value)
 {
     const int index = requireField(name);
     if (!isEditing() || field(index).kind != FieldKind::Data) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "Table '%1' is not being edited.").arg(m_name));
+        raise(ErrorCode::WrongState, Texts::tr("Table '%1' is not being edited.").arg(m_name));
     }
     const Value fitted = field(index).fit(value);
     if (fitted != m_edit->values[static_cast<size_t>(index)])
@@ -328,8 +315,7 @@ void Table::setValue(int fieldNumber, const Value &value)
 void Table::post()
 {
     if (!isEditing()) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "Table '%1' is not being edited.").arg(m_name));
+        raise(ErrorCode::WrongState, Texts::tr("Table '%1' is not being edited.").arg(m_name));
     }
     call(events.beforePost);
     requirePrimaryKey();

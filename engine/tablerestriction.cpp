@@ -7,7 +7,6 @@
 #include "engine/tableprivate.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -20,9 +19,9 @@ QList<Value> fittedTo(const TableLayout &layout, const IndexDef &index, const QL
 {
     const QStringList names = index.fieldNames();
     if (values.size() > names.size()) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "The order of table '%1' has only %2 fields.")
-                              .arg(layout.name, QString::number(names.size())));
+        raise(ErrorCode::WrongState,
+              Texts::tr("The order of table '%1' has only %2 fields.")
+                  .arg(layout.name, QString::number(names.size())));
     }
     QList<Value> fitted;
     for (qsizetype i = 0; i < values.size(); ++i) {
@@ -59,8 +58,7 @@ void Table::setRange(const QList<Value> &from, const QList<Value> &to)
     requireOpen();
     const IndexDef *index = order();
     if (!index) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "Table '%1' has no order.").arg(m_name));
+        raise(ErrorCode::WrongState, Texts::tr("Table '%1' has no order.").arg(m_name));
     }
     QList<Value> low = fittedTo(m_layout, *index, from);
     QList<Value> high = fittedTo(m_layout, *index, to);

@@ -7,7 +7,6 @@
 #include "engine/tableprivate.h"
 
 #include <list>
-#include <QCoreApplication>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -36,9 +35,7 @@ void Table::requirePrimaryKey() const
         const bool given = field(index).type == FieldType::AutoInc && m_state == TableState::Insert;
         if (given || !m_edit->values[static_cast<size_t>(index)].toText().isEmpty())
             continue;
-        throw EngineError(
-            ErrorCode::RequiredField,
-            QCoreApplication::translate("Engine", "Field '%1' must have a value").arg(field(index).caption()));
+        raise(ErrorCode::RequiredField, Texts::tr("Field '%1' must have a value").arg(field(index).caption()));
     }
 }
 
@@ -67,10 +64,8 @@ void Table::writeRow()
     } catch (const EngineError &error) {
         if (error.code() != ErrorCode::KeyViolation)
             throw;
-        throw EngineError(
-            error.code(),
-            QCoreApplication::translate("Engine", "Table '%1' already has a record with this key.").arg(title()),
-            error.driverText());
+        raise(error.code(), Texts::tr("Table '%1' already has a record with this key.").arg(title()),
+              error.driverText());
     }
 }
 
@@ -98,9 +93,9 @@ void Table::requireUnique(int fieldNumber) const
     bindAll(*statement, condition.parameters);
     if (!statement->next())
         return;
-    throw EngineError(ErrorCode::KeyViolation,
-                      QCoreApplication::translate("Engine", "%1 '%2' already exists in table '%3'.")
-                          .arg(field(fieldNumber).caption(), value.toText(), title()));
+    raise(ErrorCode::KeyViolation,
+          Texts::tr("%1 '%2' already exists in table '%3'.")
+              .arg(field(fieldNumber).caption(), value.toText(), title()));
 }
 
 static void passAutoIncrement(Connection &connection, const QString &table, const QString &field,
@@ -173,8 +168,7 @@ void Table::updateRow()
     bindAll(*statement, values);
     if (statement->execute() > 0)
         return;
-    throw EngineError(ErrorCode::RecordGone,
-                      QCoreApplication::translate("Engine", "%1 was deleted by another user.").arg(recordText()));
+    raise(ErrorCode::RecordGone, Texts::tr("%1 was deleted by another user.").arg(recordText()));
 }
 
 // --- deleting --------------------------------------------------------------------------------------------------
@@ -188,8 +182,7 @@ void Table::remove()
     if (unsaved)
         return;
     if (isEmpty()) {
-        throw EngineError(ErrorCode::WrongState,
-                          QCoreApplication::translate("Engine", "Table '%1' has no record to delete.").arg(m_name));
+        raise(ErrorCode::WrongState, Texts::tr("Table '%1' has no record to delete.").arg(m_name));
     }
     if (events.beforeRemove)
         events.beforeRemove();
@@ -264,7 +257,7 @@ void Table::removeAll()
     });
     for (int i = 0; few && i < d->keys.count(); ++i)
         locks.emplace_back(connection, m_database.session(), m_name, lockKey(reader.rowAt(i)),
-                           QCoreApplication::translate("Engine", "A record of table '%1'").arg(title()));
+                           Texts::tr("A record of table '%1'").arg(title()));
     const SqlCondition condition = reader.source().condition();
     QString sql = u"DELETE FROM %1 AS t"_s.arg(connection.dialect().name(m_layout.name));
     if (!condition.isEmpty())

@@ -6,7 +6,6 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -16,9 +15,7 @@ namespace {
 
 [[noreturn]] void refuse(const Value &value, const char *expected)
 {
-    throw EngineError(ErrorCode::BadValue,
-                      QCoreApplication::translate("Engine", "'%1' is not %2")
-                          .arg(value.toText(), QCoreApplication::translate("Engine", expected)));
+    raise(ErrorCode::BadValue, Texts::tr("'%1' is not %2").arg(value.toText(), Texts::tr(expected)));
 }
 
 qint64 truncated(double number)
@@ -73,9 +70,9 @@ Value asWhole(const Value &value, qint64 least, qint64 greatest)
     }
     const qint64 whole = value.toInt64();
     if (whole < least || whole > greatest) {
-        throw EngineError(ErrorCode::BadValue,
-                          QCoreApplication::translate("Engine", "'%1' is not within %2 to %3")
-                              .arg(value.toText(), QString::number(least), QString::number(greatest)));
+        raise(ErrorCode::BadValue,
+              Texts::tr("'%1' is not within %2 to %3")
+                  .arg(value.toText(), QString::number(least), QString::number(greatest)));
     }
     return whole;
 }
@@ -135,10 +132,9 @@ Value asText(const Value &value)
 {
     const QString text = value.toText();
     if (text.contains(QChar(u'\0')) || !text.isValidUtf16()) {
-        throw EngineError(
-            ErrorCode::BadValue,
-            QCoreApplication::translate("Engine", "The text \"%1\" holds a character that cannot be stored.")
-                .arg(QString::fromUtf8(text.toUtf8()).remove(QChar(u'\0'))));
+        raise(ErrorCode::BadValue,
+              Texts::tr("The text \"%1\" holds a character that cannot be stored.")
+                  .arg(QString::fromUtf8(text.toUtf8()).remove(QChar(u'\0'))));
     }
     return text;
 }

@@ -1,11 +1,11 @@
 #include "engine/filter/filterexpression.h"
 
 #include "engine/dialect.h"
+#include "engine/error.h"
 #include "engine/filter/filterlexer.h"
 #include "engine/filter/filternode.h"
 
 #include <cmath>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -56,7 +56,7 @@ public:
         case Node::Kind::Field:
             return booleanField(node);
         default:
-            refuse(node, QCoreApplication::translate("Engine", "a condition was expected."));
+            refuse(node, Texts::tr("a condition was expected."));
         }
     }
 
@@ -68,7 +68,7 @@ private:
 
     [[noreturn]] void refuseKinds(const Node &node) const
     {
-        refuse(node, QCoreApplication::translate("Engine", "these two do not compare with each other."));
+        refuse(node, Texts::tr("these two do not compare with each other."));
     }
 
     static SqlCondition wrapped(QLatin1StringView before, const SqlCondition &inside, QLatin1StringView after)
@@ -93,7 +93,7 @@ private:
     {
         const Part field = operand(node);
         if (field.sort != Sort::Boolean)
-            refuse(node, QCoreApplication::translate("Engine", "%1 is no condition by itself.").arg(node.text));
+            refuse(node, Texts::tr("%1 is no condition by itself.").arg(node.text));
         return {field.sql.text + " = ?"_L1, {true}};
     }
 
@@ -101,7 +101,7 @@ private:
     {
         const auto column = m_columns(node.text);
         if (!column)
-            refuse(node, QCoreApplication::translate("Engine", "there is no field \"%1\".").arg(node.text));
+            refuse(node, Texts::tr("there is no field \"%1\".").arg(node.text));
         Part part{{column->sql, {}}, Sort::Number, column->type};
         switch (column->type) {
         case FieldType::Text:
@@ -149,7 +149,7 @@ private:
         case Node::Kind::Negate:
             return {wrapped("(-"_L1, arithmeticOperand(*node.parts[0]), ")"_L1), Sort::Number};
         default:
-            refuse(node, QCoreApplication::translate("Engine", "a value was expected, not a condition."));
+            refuse(node, Texts::tr("a value was expected, not a condition."));
         }
     }
 
@@ -158,7 +158,7 @@ private:
     {
         const Part part = operand(node);
         if (part.sort != Sort::Number)
-            refuse(node, QCoreApplication::translate("Engine", "a number was expected."));
+            refuse(node, Texts::tr("a number was expected."));
         const bool floating = node.kind == Node::Kind::Arithmetic || node.kind == Node::Kind::Negate;
         return floating ? part.sql : wrapped("CAST("_L1, part.sql, " AS DOUBLE PRECISION)"_L1);
     }
@@ -180,8 +180,7 @@ private:
             const bool dateOnly = beside.sort == Sort::Date;
             const QDateTime moment = Value(node.text).toDateTime();
             if (!moment.isValid())
-                refuse(node,
-                       QCoreApplication::translate("Engine", "'%1' is not a date (YYYY-MM-DD).").arg(node.text));
+                refuse(node, Texts::tr("'%1' is not a date (YYYY-MM-DD).").arg(node.text));
             const Value value = dateOnly ? Value(moment.date()) : Value(moment);
             return {{u"?"_s, {value}}, beside.sort};
         }
@@ -198,7 +197,7 @@ private:
             return wrapped({}, tested.sql, " IS NULL"_L1);
         if (node.text == "<>"_L1)
             return wrapped({}, tested.sql, " IS NOT NULL"_L1);
-        refuse(node, QCoreApplication::translate("Engine", "null compares with = and <> only."));
+        refuse(node, Texts::tr("null compares with = and <> only."));
     }
 
     SqlCondition comparison(const Node &node) const
@@ -224,7 +223,7 @@ private:
     {
         const Part tested = operand(*node.parts[0]);
         if (tested.sort != Sort::Text)
-            refuse(*node.parts[0], QCoreApplication::translate("Engine", "LIKE needs a text field."));
+            refuse(*node.parts[0], Texts::tr("LIKE needs a text field."));
         return {m_dialect.like(tested.sql.text),
                 tested.sql.parameters + QList<Value>{m_dialect.likePattern(node.parts[1]->text)}};
     }

@@ -2,7 +2,6 @@
 
 #include "engine/error.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -13,9 +12,9 @@ void refuseFilter(const QString &expression, qsizetype position, const QString &
 {
     constexpr qsizetype shown = 200;
     const QString quoted = expression.size() > shown ? expression.left(shown) + u"..."_s : expression;
-    throw EngineError(ErrorCode::BadExpression,
-                      QCoreApplication::translate("Engine", "The expression %1 cannot be used. Position %2: %3")
-                          .arg(quoted, QString::number(position), why));
+    raise(
+        ErrorCode::BadExpression,
+        Texts::tr("The expression %1 cannot be used. Position %2: %3").arg(quoted, QString::number(position), why));
 }
 
 namespace {
@@ -78,7 +77,7 @@ private:
                 return token(kind, text, start);
             text += quote;
         }
-        refuseFilter(m_text, start + 1, QCoreApplication::translate("Engine", "this quote is not closed."));
+        refuseFilter(m_text, start + 1, Texts::tr("this quote is not closed."));
     }
 
     void skipDigits()
@@ -126,8 +125,7 @@ private:
         }
         const QChar c = m_text[m_at++];
         if (!"=<>+-*/()"_L1.contains(c)) {
-            refuseFilter(m_text, start + 1,
-                         QCoreApplication::translate("Engine", "\"%1\" has no meaning here.").arg(c));
+            refuseFilter(m_text, start + 1, Texts::tr("\"%1\" has no meaning here.").arg(c));
         }
         return token(FilterToken::Kind::Symbol, QString(c), start);
     }

@@ -1,7 +1,6 @@
+#include "engine/error.h"
 #include "engine/filter/filterlexer.h"
 #include "engine/filter/filternode.h"
-
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -29,7 +28,7 @@ public:
             return nullptr;
         NodePtr root = disjunction();
         if (current().kind != Kind::End)
-            unexpected(QCoreApplication::translate("Engine", "AND, OR or the end"));
+            unexpected(Texts::tr("AND, OR or the end"));
         return root;
     }
 
@@ -56,18 +55,15 @@ private:
 
     [[noreturn]] void refuseDepth() const
     {
-        refuseFilter(m_expression, current().position,
-                     QCoreApplication::translate("Engine", "too many levels of parentheses or operations."));
+        refuseFilter(m_expression, current().position, Texts::tr("too many levels of parentheses or operations."));
     }
 
     [[noreturn]] void unexpected(const QString &wanted) const
     {
         const FilterToken &token = current();
-        const QString found =
-            token.kind == Kind::End ? QCoreApplication::translate("Engine", "the end") : u'"' + token.text + u'"';
-        refuseFilter(
-            m_expression, token.position,
-            QCoreApplication::translate("Engine", "%1 was expected, but %2 was found.").arg(wanted, found));
+        const QString found = token.kind == Kind::End ? Texts::tr("the end") : u'"' + token.text + u'"';
+        refuseFilter(m_expression, token.position,
+                     Texts::tr("%1 was expected, but %2 was found.").arg(wanted, found));
     }
 
     static NodePtr node(Node::Kind kind, const FilterToken &token)
@@ -88,8 +84,7 @@ private:
         all->parts.push_back(std::move(first));
         while (current().isWord(word)) {
             if (all->parts.size() == longest)
-                refuseFilter(m_expression, current().position,
-                             QCoreApplication::translate("Engine", "too many conditions."));
+                refuseFilter(m_expression, current().position, Texts::tr("too many conditions."));
             take();
             all->parts.push_back((this->*part)());
         }
@@ -156,7 +151,7 @@ private:
     {
         NodePtr made = node(Node::Kind::Like, take());
         if (current().kind != Kind::Text)
-            unexpected(QCoreApplication::translate("Engine", "a text in quotes"));
+            unexpected(Texts::tr("a text in quotes"));
         made->parts.push_back(std::move(operand));
         made->parts.push_back(node(Node::Kind::Text, take()));
         return made;
@@ -226,7 +221,7 @@ private:
             made->value = made->text == "TRUE"_L1;
             return made;
         }
-        unexpected(QCoreApplication::translate("Engine", "a field or a value"));
+        unexpected(Texts::tr("a field or a value"));
     }
 
     const QString &m_expression;

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <chrono>
 #include <libpq-fe.h>
-#include <QCoreApplication>
 #include <QRegularExpression>
 #include <utility>
 
@@ -98,28 +97,23 @@ bool isAddress(const QString &host)
 EngineError unreached(pg_conn *handle, const PostgresTarget &target, ConnStatusType stage, const QString &message)
 {
     const QString reason = message.isEmpty()
-        ? QCoreApplication::translate("Engine", "no answer within %n second(s)", nullptr,
-                                      static_cast<int>(connectTimeout.count()))
+        ? Texts::tr("no answer within %n second(s)", nullptr, static_cast<int>(connectTimeout.count()))
         : message.section(u'\n', 0, 0);
     if (handle && PQconnectionNeedsPassword(handle)) {
-        const QString text = QCoreApplication::translate(
-            "Engine",
+        const QString text = Texts::tr(
             "The %1 asks for the password of the account \"%2\", and none has been given. Enter it in the password "
             "file of the client library or in PGPASSWORD.");
         return EngineError(ErrorCode::AccessDenied, text.arg(target.location(), QString::fromUtf8(PQuser(handle))),
                            message);
     }
     if (stage == CONNECTION_SSL_STARTUP && !message.isEmpty()) {
-        const QString text = QCoreApplication::translate(
-            "Engine",
+        const QString text = Texts::tr(
             "The connection to the %1 must be encrypted, and could not be (%2). Have TLS set up on the server, or "
             "choose another kind of connection in the settings.");
         return EngineError(ErrorCode::CannotOpen, text.arg(target.location(), reason), message);
     }
-    const QString text =
-        QCoreApplication::translate("Engine",
-                                    "The %1 cannot be reached (%2). Check the address in the settings, "
-                                    "the network, and that the server runs.");
+    const QString text = Texts::tr("The %1 cannot be reached (%2). Check the address in the settings, "
+                                   "the network, and that the server runs.");
     return EngineError(ErrorCode::CannotOpen, text.arg(target.location(), reason), message);
 }
 
@@ -143,15 +137,11 @@ EngineError connectError(pg_conn *handle, const PostgresTarget &target, ConnStat
 pg_conn *opened(const PostgresTarget &target)
 {
     if (target.host.isEmpty())
-        throw EngineError(
-            ErrorCode::CannotOpen,
-            QCoreApplication::translate("Engine", "No server address has been set. Enter it in the settings."));
+        raise(ErrorCode::CannotOpen, Texts::tr("No server address has been set. Enter it in the settings."));
     if (!isAddress(target.host))
-        throw EngineError(ErrorCode::CannotOpen,
-                          QCoreApplication::translate(
-                              "Engine",
-                              "What has been set as the server address is no address. Enter the name or the "
-                              "number of the server alone, without account and password."));
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("What has been set as the server address is no address. Enter the name or the "
+                        "number of the server alone, without account and password."));
     pg_conn *handle = beginConnecting(target);
     ConnStatusType stage = CONNECTION_STARTED;
     if (handle)
@@ -170,7 +160,7 @@ pg_conn *opened(const PostgresTarget &target)
 
 QString PostgresTarget::location() const
 {
-    return QCoreApplication::translate("Engine", "database \"%1\" on the server %2").arg(database, host);
+    return Texts::tr("database \"%1\" on the server %2").arg(database, host);
 }
 
 pg_conn *beginConnecting(const PostgresTarget &target) { return parametersOf(target).start(); }

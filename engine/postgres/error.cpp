@@ -1,7 +1,5 @@
 #include "engine/postgres/error.h"
 
-#include <QCoreApplication>
-
 using namespace Qt::StringLiterals;
 
 namespace Engine {
@@ -69,10 +67,8 @@ EngineError postgresError(const QByteArray &sqlState, const QString &words, cons
         return connectionLost(location, driverText);
     const Mapping *mapping = mappingOf(sqlState);
     if (!mapping)
-        return EngineError(ErrorCode::General,
-                           QCoreApplication::translate("Engine", "The %1 reports: %2").arg(location, words),
-                           driverText);
-    QString text = QCoreApplication::translate("Engine", mapping->text);
+        return EngineError(ErrorCode::General, Texts::tr("The %1 reports: %2").arg(location, words), driverText);
+    QString text = Texts::tr(mapping->text);
     text.replace("%1"_L1, location).replace("%3"_L1, holder).replace("%2"_L1, detail.isEmpty() ? words : detail);
     return EngineError(mapping->code, text, driverText);
 }
@@ -86,13 +82,11 @@ bool isExistingDatabase(const EngineError &error)
 
 EngineError connectionLost(const QString &location, const QString &words)
 {
-    return EngineError(
-        ErrorCode::ConnectionLost,
-        QCoreApplication::translate("Engine",
-                                    "The connection to the %1 was lost. Nothing that was saved is lost; "
-                                    "check the network and repeat the last step.")
-            .arg(location),
-        words);
+    return EngineError(ErrorCode::ConnectionLost,
+                       Texts::tr("The connection to the %1 was lost. Nothing that was saved is lost; "
+                                 "check the network and repeat the last step.")
+                           .arg(location),
+                       words);
 }
 
 } // namespace Engine

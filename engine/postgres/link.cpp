@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <libpq-fe.h>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -184,8 +183,7 @@ EngineError PostgresLink::errorOf(const pg_result *result)
         return connectionLost(location(), QString::fromUtf8(PQerrorMessage(m_handle)).trimmed());
     }
     if (PQresultStatus(result) == PGRES_PIPELINE_ABORTED)
-        return EngineError(ErrorCode::General,
-                           QCoreApplication::translate("Engine", "An earlier step of the same change has failed."));
+        return EngineError(ErrorCode::General, Texts::tr("An earlier step of the same change has failed."));
     const QByteArray sqlState(PQresultErrorField(result, PG_DIAG_SQLSTATE));
     const QString words =
         result ? field(result, PG_DIAG_MESSAGE_PRIMARY) : QString::fromUtf8(PQerrorMessage(m_handle)).trimmed();
@@ -301,10 +299,9 @@ void PostgresLink::commit()
     const ResultPtr result = run("COMMIT");
     m_inTransaction = false;
     if (qstrcmp(PQcmdStatus(result.get()), "ROLLBACK") == 0)
-        throw EngineError(ErrorCode::General,
-                          QCoreApplication::translate("Engine",
-                                                      "An earlier step of the same change has failed; the "
-                                                      "changes were undone."));
+        raise(ErrorCode::General,
+              Texts::tr("An earlier step of the same change has failed; the "
+                        "changes were undone."));
 }
 
 void PostgresLink::rollback() noexcept

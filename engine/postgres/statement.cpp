@@ -4,7 +4,6 @@
 
 #include <charconv>
 #include <libpq-fe.h>
-#include <QCoreApplication>
 
 namespace Engine {
 
@@ -117,8 +116,7 @@ void PostgresStatement::bindBool(int parameter, bool value) { bindRaw(parameter,
 void PostgresStatement::bindText(int parameter, const QString &value)
 {
     if (value.contains(QChar::Null))
-        throw EngineError(ErrorCode::BadValue,
-                          QCoreApplication::translate("Engine", "A text holds a character that cannot be stored."));
+        raise(ErrorCode::BadValue, Texts::tr("A text holds a character that cannot be stored."));
     bindRaw(parameter, value.toUtf8());
 }
 

@@ -1,7 +1,6 @@
 #include "engine/sqlite/error.h"
 
 #include <cerrno>
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <sqlite3.h>
 
@@ -81,8 +80,8 @@ QString fileText(const QString &path)
 {
     const QFileInfo file(path);
     if (path.isEmpty() || path.startsWith(u':'))
-        return QCoreApplication::translate("Engine", "The database in memory");
-    return QCoreApplication::translate("Engine", "%1 in %2").arg(file.fileName(), file.path());
+        return Texts::tr("The database in memory");
+    return Texts::tr("%1 in %2").arg(file.fileName(), file.path());
 }
 
 } // namespace
@@ -96,18 +95,15 @@ EngineError sqliteError(sqlite3 *db, int resultCode, const QString &path)
     const QString words = QString::fromUtf8(db ? sqlite3_errmsg(db) : sqlite3_errstr(resultCode));
     const QString driverText = QStringLiteral("SQLite %1: %2").arg(resultCode).arg(words);
     if (words.startsWith(QLatin1StringView("no such table: ")))
-        return EngineError(
-            ErrorCode::NoSuchTable,
-            QCoreApplication::translate("Engine", "%1 has no table \"%2\".").arg(fileText(path), words.mid(15)),
-            driverText);
+        return EngineError(ErrorCode::NoSuchTable,
+                           Texts::tr("%1 has no table \"%2\".").arg(fileText(path), words.mid(15)), driverText);
     if (words.startsWith(QLatin1StringView("no such column: ")))
-        return EngineError(ErrorCode::NoSuchField,
-                           QCoreApplication::translate("Engine", "There is no field \"%1\".").arg(words.mid(16)),
+        return EngineError(ErrorCode::NoSuchField, Texts::tr("There is no field \"%1\".").arg(words.mid(16)),
                            driverText);
     const Mapping *mapping = mappingOf(resultCode);
     if (!mapping)
         return EngineError(ErrorCode::General, fileText(path) + QLatin1StringView(": ") + words, driverText);
-    QString text = QCoreApplication::translate("Engine", mapping->text);
+    QString text = Texts::tr(mapping->text);
     text.replace(QLatin1StringView("%1"), fileText(path)).replace(QLatin1StringView("%2"), words);
     return EngineError(mapping->code, text, driverText);
 }

@@ -68,12 +68,10 @@ void FileLocks::requireInPlace() const
         beforeLocking();
     if (m_file->isInPlace())
         return;
-    throw EngineError(
-        ErrorCode::FileReplaced,
-        QCoreApplication::translate("Engine",
-                                    "The lock file %1 has been deleted or replaced while it was in use. "
-                                    "Nothing can be saved any more: close the program and open it anew.")
-            .arg(m_file->path()));
+    raise(ErrorCode::FileReplaced,
+          Texts::tr("The lock file %1 has been deleted or replaced while it was in use. "
+                    "Nothing can be saved any more: close the program and open it anew.")
+              .arg(m_file->path()));
 }
 
 bool FileLocks::tryRange(qint64 from, qint64 count, RangeLockFile::Mode mode)

@@ -4,7 +4,6 @@
 #include "engine/sqlite/locks.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
@@ -199,12 +198,11 @@ void SqliteWatch::putLogAside(const FileIdentity &log) const
 void SqliteWatch::refuse(State state) const
 {
     const QString file = state == State::WithoutLog ? logPath() : m_path;
-    throw EngineError(ErrorCode::FileReplaced,
-                      QCoreApplication::translate("Engine",
-                                                  "The file %1 has been deleted, moved or replaced while it was in "
-                                                  "use. Nothing can be saved any more: close the program and open "
-                                                  "it anew.")
-                          .arg(file));
+    raise(ErrorCode::FileReplaced,
+          Texts::tr("The file %1 has been deleted, moved or replaced while it was in "
+                    "use. Nothing can be saved any more: close the program and open "
+                    "it anew.")
+              .arg(file));
 }
 
 std::optional<int> SqliteWatch::stampDue()
