@@ -9,6 +9,14 @@ QString keyCondition(const QString &field, int key)
     return key > 0 ? u"(%1 = %2)"_s.arg(field).arg(key) : QString();
 }
 
+QString keyConditions(const QList<KeyOfField> &keys)
+{
+    QStringList conditions;
+    for (const KeyOfField &of : keys)
+        conditions << keyCondition(of.field, of.key);
+    return joinConditions(conditions);
+}
+
 QString markCondition(ListFilter::Marked marked, const QString &yes, const QString &no)
 {
     switch (marked) {

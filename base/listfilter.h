@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -23,11 +24,19 @@ struct ListFilter
     Marked marked = Marked::All;
 };
 
+// What a field of the rows is to be: "ItemID", 10012.
+struct KeyOfField
+{
+    QString field;
+    int key = 0; // 0: any
+};
+
 // The parts of filter expressions; empty for what does not narrow the list.
 QString keyCondition(const QString &field, int key); // "(CurrencyID = 3)"
 // Kinds of rows word "not marked" differently: "(Posted = false)" leaves out rows whose mark is empty,
 // "(Posted <> true)" shows them.
 QString markCondition(ListFilter::Marked marked, const QString &yes, const QString &no);
+QString keyConditions(const QList<KeyOfField> &keys); // joined as below
 // Filter conditions, the empty ones left out, joined by " AND ".
 QString joinConditions(const QStringList &conditions);
 

@@ -1,12 +1,11 @@
 #include "base/csvlist.h"
-#include "base/formats.h"
 #include "base/named.h"
 #include "cli/command.h"
 #include "data/layouts.h"
-#include "data/transtypes.h"
 #include "engine/table.h"
 #include "master/masterkinds.h"
 #include "transactions/documentkinds.h"
+#include "transactions/historyview.h"
 #include "transactions/totalsview.h"
 
 #include <QCoreApplication>
@@ -66,32 +65,12 @@ void runTotals(CommandContext &context)
         {u"ItemID"_s, u"WarehouseID"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s, u"QtyOnHand"_s});
 }
 
-// The history with the names that its rows stand for.
-void describeHistory(Engine::Table &history)
-{
-    using Engine::FieldType;
-    history.addCalculated(u"Periodppyyyy"_s, FieldType::Text, 8, [](const Engine::DataSet &row) {
-        return Engine::Value(periodText(row.integer(u"GLPeriod"), row.integer(u"GLYear")));
-    });
-    history.addLookup(u"ItemNo"_s, FieldType::Text, 20, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
-    history.addLookup(u"ItemDescription"_s, FieldType::Text, 40,
-                      {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemDescription"_s});
-    history.addLookup(u"WarehouseName"_s, FieldType::Text, 50,
-                      {u"WarehouseID"_s, u"Warehse"_s, u"WarehouseID"_s, u"WarehouseName"_s});
-    history.addCalculated(u"TransTypeName"_s, FieldType::Text, 12, [](const Engine::DataSet &row) {
-        return Engine::Value(transTypeText(row.integer(u"TransType")));
-    });
-}
-
 void runHistory(CommandContext &context)
 {
     const auto data = context.openData();
-    Engine::Table history(data->databaseTallymere(), u"IHist"_s);
-    history.readOnly = true;
-    history.setIndex(u"PERIODDATEDESC"_s);
-    describeHistory(history);
-    history.open();
-    writeRows(context, history,
+    HistoryView view(data->databaseTallymere());
+    view.open();
+    writeRows(context, view.table(),
               fieldNames(Layouts::iHist())
                   + QStringList{u"Periodppyyyy"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s,
                                 u"TransTypeName"_s});

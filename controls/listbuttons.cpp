@@ -41,7 +41,7 @@ void showListAt(ScreenContext &context, const ListJump &jump, int key)
         list->dataSet().first();
 }
 
-void showListFiltered(ScreenContext &context, const ListJump &jump, const QString &expression)
+void showListFiltered(ScreenContext &context, const ListJump &jump, const QList<KeyOfField> &keys)
 {
     if (!isAllowed(context, jump))
         return;
@@ -49,7 +49,7 @@ void showListFiltered(ScreenContext &context, const ListJump &jump, const QStrin
     ListScreen *list = openList(context, jump);
     if (!list)
         return;
-    list->applyFilter(expression);
+    list->filterBy(keys);
     list->refreshList();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/listfilter.h"
 #include "controls/guard.h"
 #include "controls/screencontext.h"
 
@@ -27,7 +28,7 @@ struct ListJump
     bool another = false;
 };
 void showListAt(ScreenContext &context, const ListJump &jump, int key);
-// Opens a list, read anew, with nothing but the filter expression in force.
-void showListFiltered(ScreenContext &context, const ListJump &jump, const QString &expression);
+// Opens a list, read anew, with the rows that refer to these records and no others; see ListScreen::filterBy.
+void showListFiltered(ScreenContext &context, const ListJump &jump, const QList<KeyOfField> &keys);
 
 } // namespace Tallymere

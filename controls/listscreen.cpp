@@ -288,6 +288,13 @@ void ListScreen::switchFilter(bool on, const QString &expression)
     showFilterMark();
 }
 
+void ListScreen::filterBy(const QList<KeyOfField> &keys)
+{
+    clearFilterDialog();
+    presetFilterDialog(keys);
+    applyFilter(keyConditions(keys));
+}
+
 void ListScreen::resetFilter()
 {
     clearFilterDialog();

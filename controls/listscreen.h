@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/listfilter.h"
 #include "controls/guard.h"
 #include "controls/listgrid.h"
 #include "controls/screencontext.h"
@@ -86,6 +87,8 @@ public:
     bool moveToKey(int key);
     // Switches the filter on, or off with an empty expression.
     void applyFilter(const QString &expression);
+    // Narrows the list to the rows that refer to these records, and lets its filter dialog show them. No key of 0.
+    void filterBy(const QList<KeyOfField> &keys);
     // The same for lists whose filter may be on and say nothing: every row shows, marked as filtered.
     void switchFilter(bool on, const QString &expression);
 
@@ -113,6 +116,7 @@ protected:
     void say(const QString &text); // in the status line, for a moment
     virtual void showStep(); // each time the screen is shown: caption
     virtual void clearFilterDialog() { } // clears the fields of the filter dialog, if there is one
+    virtual void presetFilterDialog(const QList<KeyOfField> &) { } // the dialog has been cleared
 
     void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -9,6 +9,7 @@
 #include "transactions/documentkind.h"
 #include "transactions/screens/documentlistscreen.h"
 #include "transactions/screens/documentscreens.h"
+#include "transactions/screens/invhistory.h"
 #include "transactions/screens/invtotals.h"
 
 using namespace Qt::StringLiterals;
@@ -59,6 +60,7 @@ ScreenRegistry productScreens()
     for (const DocumentScreens &screen : documentScreens())
         screens.add(screen.kind.listScreen, documentList(screen));
     screens.add(u"frmInvTotals"_s, listScreen<TfrmInvTotals>(make<TfrmInvTotals>));
+    screens.add(u"frmInvHistory"_s, listScreen<TfrmInvHistory>(make<TfrmInvHistory>));
     return screens;
 }
 

@@ -72,6 +72,7 @@ struct DocumentKind
     QString screen; // component name: "frmInvReceipt"
     QList<GridColumn> lineColumns; // of its line grid
     std::function<std::unique_ptr<DocumentEntry>(Engine::Database &, Prompts &)> makeEntry;
+    bool opensFromHistory = true; // the source of a history row can be looked at
 
     // --- its list -----------------------------------------------------------------------------------------------
     QString listScreen; // "frmInvReceipts"

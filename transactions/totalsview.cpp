@@ -1,6 +1,6 @@
 #include "transactions/totalsview.h"
 
-#include "transactions/documentfilter.h"
+#include "base/listfilter.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,8 +26,7 @@ void TotalsView::setSort(Sort sort)
 
 QString TotalsView::filterExpression(int itemId, int warehouseId)
 {
-    return joinConditions({itemId > 0 ? u"(ItemID = %1)"_s.arg(itemId) : QString(),
-                           warehouseId > 0 ? u"(WarehouseID = %1)"_s.arg(warehouseId) : QString()});
+    return keyConditions({{u"ItemID"_s, itemId}, {u"WarehouseID"_s, warehouseId}});
 }
 
 } // namespace Tallymere

@@ -51,8 +51,7 @@ std::function<void()> TfrmItemsInv::jump(const QString &screen, const QString &r
     return [=, this] {
         if (list().table().isEmpty())
             return;
-        const QString item = keyCondition(list().kind().keyField, list().currentKey());
-        showListFiltered(context(), {screen, rights}, item);
+        showListFiltered(context(), {screen, rights}, {{list().kind().keyField, list().currentKey()}});
     };
 }
 

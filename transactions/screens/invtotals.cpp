@@ -1,6 +1,7 @@
 #include "transactions/screens/invtotals.h"
 
 #include "base/formats.h"
+#include "controls/listbuttons.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "master/screens/itemsfind.h"
@@ -16,7 +17,7 @@ TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
 {
     m_view.open();
     m_view.query().field(u"QtyOnHand").format = quantityFormat();
-    build(description(), m_view.query(), {});
+    build(description(), m_view.query(), [this] { mnuHistoryClick(); });
 }
 
 TfrmInvTotals::~TfrmInvTotals() = default;
@@ -33,21 +34,22 @@ ListDescription TfrmInvTotals::description()
                     {u"WarehouseName"_s, tr("Location"), 190},
                     {u"QtyOnHand"_s, tr("Quantity On Hand"), 130, Qt::AlignRight}},
         .buttons = {{u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s}, {u"btnFind"_s, tr("F&ind"), u"mnuFind"_s}},
-        .menus = {fileMenu(),
-                  {tr("&Records"), {findCommand(runs(&TfrmInvTotals::btnFindClick))}},
-                  {tr("&View"),
-                   {filterCommand(runs(&TfrmInvTotals::btnFilterClick)),
-                    {.name = u"mnuSortBy"_s,
-                     .caption = tr("&Sort by"),
-                     .choices = {{.name = u"mnuSortItemNo"_s,
-                                  .caption = tr("&Item no."),
-                                  .run = sorts(TotalsView::Sort::ItemNo)},
-                                 {.name = u"mnuSortDescription"_s,
-                                  .caption = tr("&Description"),
-                                  .run = sorts(TotalsView::Sort::Description)}}},
-                    {.name = u"mnuHistory"_s, .caption = tr("&History")},
-                    refreshCommand()}},
-                  helpMenu(tr("Inventory Totals &Help"))},
+        .menus =
+            {fileMenu(),
+             {tr("&Records"), {findCommand(runs(&TfrmInvTotals::btnFindClick))}},
+             {tr("&View"),
+              {filterCommand(runs(&TfrmInvTotals::btnFilterClick)),
+               {.name = u"mnuSortBy"_s,
+                .caption = tr("&Sort by"),
+                .choices = {{.name = u"mnuSortItemNo"_s,
+                             .caption = tr("&Item no."),
+                             .run = sorts(TotalsView::Sort::ItemNo)},
+                            {.name = u"mnuSortDescription"_s,
+                             .caption = tr("&Description"),
+                             .run = sorts(TotalsView::Sort::Description)}}},
+               {.name = u"mnuHistory"_s, .caption = tr("&History"), .run = runs(&TfrmInvTotals::mnuHistoryClick)},
+               refreshCommand()}},
+             helpMenu(tr("Inventory Totals &Help"))},
         .emptyHint = tr("No stock yet. What is received shows here when the receipt has been posted."),
     };
 }
@@ -59,17 +61,33 @@ void TfrmInvTotals::sortBy(TotalsView::Sort sort)
     m_view.query().first();
 }
 
-void TfrmInvTotals::btnFilterClick()
+TfrmInvTotalsFilter &TfrmInvTotals::filterDialog()
 {
     if (!m_filter)
         m_filter = new TfrmInvTotalsFilter(context(), this);
-    if (m_filter->exec() != QDialog::Accepted)
+    return *m_filter;
+}
+
+void TfrmInvTotals::btnFilterClick()
+{
+    if (filterDialog().exec() != QDialog::Accepted)
         return;
     applyFilter(TotalsView::filterExpression(m_filter->itemId(), m_filter->warehouseId()));
     showStep();
 }
 
 void TfrmInvTotals::btnFindClick() { TfrmItemsFind(context(), m_view.query(), this).exec(); }
+
+void TfrmInvTotals::mnuHistoryClick()
+{
+    const Engine::Query &row = m_view.query();
+    if (row.isEmpty())
+        return;
+    showListFiltered(context(), {u"frmInvHistory"_s, u"InvHistory/Inventory History"_s},
+                     {{u"ItemID"_s, row.integer(u"ItemID")}, {u"WarehouseID"_s, row.integer(u"WarehouseID")}});
+}
+
+void TfrmInvTotals::presetFilterDialog(const QList<KeyOfField> &keys) { filterDialog().preset(keys); }
 
 void TfrmInvTotals::clearFilterDialog()
 {

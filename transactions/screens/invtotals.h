@@ -20,13 +20,16 @@ public:
 
     void btnFilterClick();
     void btnFindClick();
+    void mnuHistoryClick(); // of the current item at its location
 
 protected:
     void clearFilterDialog() override;
+    void presetFilterDialog(const QList<KeyOfField> &keys) override;
     void showStep() override;
 
 private:
     ListDescription description();
+    TfrmInvTotalsFilter &filterDialog();
     void sortBy(TotalsView::Sort sort);
 
     TotalsView m_view;

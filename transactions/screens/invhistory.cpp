@@ -1,0 +1,87 @@
+#include "transactions/screens/invhistory.h"
+
+#include "controls/recordopener.h"
+#include "data/datamodule.h"
+#include "master/screens/itemsfind.h"
+#include "transactions/documentkind.h"
+#include "transactions/screens/documentscreens.h"
+#include "transactions/screens/invhistoryfilter.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TfrmInvHistory::TfrmInvHistory(ScreenContext &context, QWidget *parent)
+    : ListScreen(context, parent)
+    , m_view(context.data.databaseTallymere())
+{
+    m_view.open();
+    build(description(), m_view.table(), [this] { mnuSourceClick(); });
+}
+
+TfrmInvHistory::~TfrmInvHistory() = default;
+
+ListDescription TfrmInvHistory::description()
+{
+    const auto runs = [this](void (TfrmInvHistory::*step)()) { return [this, step] { (this->*step)(); }; };
+    return {
+        .name = u"frmInvHistory"_s,
+        .caption = tr("Inventory History"),
+        .columns = {{u"Periodppyyyy"_s, tr("Period"), 70},
+                    {u"TransDate"_s, tr("Date"), 85},
+                    {u"ItemNo"_s, tr("Item no."), 100},
+                    {.field = u"ItemDescription"_s, .title = tr("Description"), .width = 210, .takesSurplus = true},
+                    {u"TransType"_s, tr("Type"), 80},
+                    {u"Quantity"_s, tr("Quantity"), 80, Qt::AlignRight},
+                    {u"UnitCost"_s, tr("Unit Cost"), 85, Qt::AlignRight},
+                    {u"WarehouseName"_s, tr("Location"), 140},
+                    {u"TransDescription"_s, tr("Transaction Description"), 200}},
+        .buttons = {{u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s}, {u"btnFind"_s, tr("F&ind"), u"mnuFind"_s}},
+        .menus = {fileMenu(),
+                  {tr("&Records"), {findCommand(runs(&TfrmInvHistory::btnFindClick))}},
+                  {tr("&View"),
+                   {filterCommand(runs(&TfrmInvHistory::btnFilterClick)),
+                    {.name = u"mnuSource"_s,
+                     .caption = tr("&Source"),
+                     .run = runs(&TfrmInvHistory::mnuSourceClick),
+                     .available = [this] { return m_view.source().kind != nullptr; },
+                     .popupCaption = tr("Source")},
+                    refreshCommand()}},
+                  helpMenu(tr("Inventory History &Help"))},
+        .emptyHint = tr("No history yet. Each line of a document shows here when the document has been posted."),
+    };
+}
+
+TfrmInvHistoryFilter &TfrmInvHistory::filterDialog()
+{
+    if (!m_filter)
+        m_filter = new TfrmInvHistoryFilter(context(), this);
+    return *m_filter;
+}
+
+void TfrmInvHistory::btnFilterClick()
+{
+    if (filterDialog().exec() == QDialog::Accepted)
+        applyFilter(HistoryView::filterExpression(m_filter->choices()));
+}
+
+void TfrmInvHistory::btnFindClick() { TfrmItemsFind(context(), m_view.table(), this).exec(); }
+
+void TfrmInvHistory::mnuSourceClick()
+{
+    const HistoryView::Source source = m_view.source();
+    if (!source.kind)
+        return;
+    RecordOpener(context(), recordScreens(*source.kind), this)
+        .open(source.key, m_view.table().text(u"TransDescription"));
+}
+
+void TfrmInvHistory::clearFilterDialog()
+{
+    if (m_filter)
+        m_filter->btnResetClick();
+}
+
+void TfrmInvHistory::presetFilterDialog(const QList<KeyOfField> &keys) { filterDialog().preset(keys); }
+
+} // namespace Tallymere

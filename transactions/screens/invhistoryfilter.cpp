@@ -1,0 +1,72 @@
+#include "transactions/screens/invhistoryfilter.h"
+
+#include "controls/optionalnumber.h"
+#include "data/transtypes.h"
+
+#include <QComboBox>
+#include <QDate>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *parent)
+    : StockFilterDialog(context, {.name = u"frmInvHistoryFilter"_s, .caption = tr("Inventory History Filter")},
+                        parent)
+    , m_type(new QComboBox(this))
+{
+    addTypes();
+    const QDate today = QDate::currentDate();
+    m_year = addNumber(tr("&Year:"),
+                       new OptionalNumber({.number = u"editYear"_s,
+                                           .all = u"chkYearAll"_s,
+                                           .name = tr("Year"),
+                                           .allName = tr("All years"),
+                                           .lowest = 1900,
+                                           .highest = 2200,
+                                           .start = today.year()},
+                                          this));
+    m_period = addNumber(tr("&Period:"),
+                         new OptionalNumber({.number = u"editPeriod"_s,
+                                             .all = u"chkPeriodAll"_s,
+                                             .name = tr("Period"),
+                                             .allName = tr("All periods"),
+                                             .lowest = 1,
+                                             .highest = 12,
+                                             .start = today.month()},
+                                            this));
+}
+
+void TfrmInvHistoryFilter::addTypes()
+{
+    m_type->setObjectName(u"cboTransType"_s);
+    m_type->addItem({});
+    m_type->addItem(tr("Adjustments"), static_cast<int>(TransType::Adjust));
+    m_type->addItem(tr("Usage"), static_cast<int>(TransType::Usage));
+    m_type->addItem(tr("PO Receipts"), static_cast<int>(TransType::PoReceipt));
+    addRow(tr("&Transaction Type:"), m_type);
+    addChoice({.chosen = [this] { return m_type->currentIndex(); },
+               .choose = [this](const QVariant &index) { m_type->setCurrentIndex(index.toInt()); },
+               .none = 0});
+}
+
+OptionalNumber *TfrmInvHistoryFilter::addNumber(const QString &label, OptionalNumber *number)
+{
+    addRow(label, number);
+    addChoice({.chosen = [number] { return number->number(); },
+               .choose = [number](const QVariant &chosen) { number->choose(chosen.toInt()); },
+               .none = 0,
+               .settle = [number] { number->settle(); }});
+    return number;
+}
+
+HistoryView::Filter TfrmInvHistoryFilter::choices() const
+{
+    return {.itemId = itemId(),
+            .warehouseId = warehouseId(),
+            .type = m_type->currentData().toInt(),
+            .year = m_year->number(),
+            .period = m_period->number()};
+}
+
+} // namespace Tallymere
