@@ -10,18 +10,22 @@
 #include "transactions/screens/documentfindscreen.h"
 #include "transactions/screens/documentpostscreen.h"
 #include "transactions/screens/documentscreens.h"
+#include "transactions/screens/invhistory.h"
+#include "transactions/screens/invhistoryfilter.h"
 #include "transactions/screens/invreceipt.h"
 #include "transactions/screens/invreceipts.h"
 #include "transactions/screens/invtotals.h"
 #include "transactions/screens/invtotalsfilter.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QSpinBox>
 #include <QStatusBar>
 #include <QTableView>
 
@@ -425,4 +429,57 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
     totals.resetFilter();
     EXPECT_EQ(rows(), 5);
     EXPECT_EQ(totals.windowTitle(), u"Inventory Totals"_s);
+}
+
+TEST_F(ListScreensTest, historyLeadsFromTotalsToTheDocument)
+{
+    addReceipts();
+    kitchen.setStock(1, 1, 3, 2);
+    kitchen.execute(
+        u"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, ReceiptID, "
+        "TransDescription) VALUES (1, 1, 2026, 3, 3, '2026-03-02', 5, 1, 'Receipt: 1001'), "
+        "(1, 1, 2026, 4, 5, '2026-04-02', 2, NULL, 'Usage'), (2, 2, 2025, 3, 2, '2025-03-02', 1, NULL, 'Sale')"_s);
+    context->hasScreen = [](const QString &name) { return name == "frmInvHistory"_L1; };
+    context->openScreen = [&](const QString &) { return &open<TfrmInvHistory>(); };
+    auto &totals = open<TfrmInvTotals>();
+    press(Qt::Key_Return);
+    ASSERT_NE(list, &totals);
+    auto &history = static_cast<TfrmInvHistory &>(*list);
+    EXPECT_EQ(history.dataSet().filter(), u"(ItemID = 1) AND (WarehouseID = 1)"_s);
+    ASSERT_EQ(rows(), 2);
+    EXPECT_EQ(row(0).mid(0, 5), (QStringList{u"4/2026"_s, u"02 Apr 26"_s, u"A10"_s, u"Apples"_s, u"Usage"_s}));
+
+    history.mnuSourceClick();
+    EXPECT_EQ(QApplication::activeWindow(), &history) << "usage is not opened from here";
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    auto *receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+    ASSERT_NE(receipt, nullptr);
+    EXPECT_EQ(receipt->storedKey(), 1);
+    delete receipt;
+
+    showActive(history);
+    EXPECT_TRUE(whileOpen<TfrmInvHistoryFilter>([&] { history.btnFilterClick(); },
+                                                [&](TfrmInvHistoryFilter &dialog) {
+                                                    EXPECT_EQ(dialog.GetItemID(), 1) << "preset";
+                                                    EXPECT_EQ(dialog.GetWarehouseID(), 1);
+                                                    dialog.btnResetClick();
+                                                    child<QComboBox>(dialog, "cboTransType")->setCurrentIndex(2);
+                                                    child<QWidget>(dialog, "editYear")->setFocus();
+                                                    child<QSpinBox>(dialog, "editYear")->selectAll();
+                                                    type("2026");
+                                                    press(Qt::Key_Return);
+                                                }));
+    EXPECT_EQ(history.dataSet().filter(), u"(TransType = 5) AND (GLYear = 2026)"_s);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_TRUE(
+        whileOpen<TfrmInvHistoryFilter>([&] { history.btnFilterClick(); },
+                                        [&](TfrmInvHistoryFilter &dialog) {
+                                            EXPECT_FALSE(child<QCheckBox>(dialog, "chkYearAll")->isChecked());
+                                            dialog.btnResetClick();
+                                            EXPECT_EQ(child<QSpinBox>(dialog, "editYear")->text(), u"<All>"_s);
+                                            press(Qt::Key_Return);
+                                        }));
+    EXPECT_EQ(history.windowTitle(), u"Inventory History"_s);
+    EXPECT_EQ(rows(), 3);
 }

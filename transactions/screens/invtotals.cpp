@@ -11,6 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
+namespace {
+const auto historyScreen = u"frmInvHistory"_s;
+} // namespace
+
 TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
     : ListScreen(context, parent)
     , m_view(context.data.databaseTallymere())
@@ -26,6 +30,9 @@ ListDescription TfrmInvTotals::description()
 {
     const auto runs = [this](void (TfrmInvTotals::*step)()) { return [this, step] { (this->*step)(); }; };
     const auto sorts = [this](TotalsView::Sort sort) { return [this, sort] { sortBy(sort); }; };
+    std::function<void()> history;
+    if (context().knows(historyScreen))
+        history = runs(&TfrmInvTotals::mnuHistoryClick);
     return {
         .name = u"frmInvTotals"_s,
         .caption = tr("Inventory Totals"),
@@ -34,22 +41,21 @@ ListDescription TfrmInvTotals::description()
                     {u"WarehouseName"_s, tr("Location"), 190},
                     {u"QtyOnHand"_s, tr("Quantity On Hand"), 130, Qt::AlignRight}},
         .buttons = {{u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s}, {u"btnFind"_s, tr("F&ind"), u"mnuFind"_s}},
-        .menus =
-            {fileMenu(),
-             {tr("&Records"), {findCommand(runs(&TfrmInvTotals::btnFindClick))}},
-             {tr("&View"),
-              {filterCommand(runs(&TfrmInvTotals::btnFilterClick)),
-               {.name = u"mnuSortBy"_s,
-                .caption = tr("&Sort by"),
-                .choices = {{.name = u"mnuSortItemNo"_s,
-                             .caption = tr("&Item no."),
-                             .run = sorts(TotalsView::Sort::ItemNo)},
-                            {.name = u"mnuSortDescription"_s,
-                             .caption = tr("&Description"),
-                             .run = sorts(TotalsView::Sort::Description)}}},
-               {.name = u"mnuHistory"_s, .caption = tr("&History"), .run = runs(&TfrmInvTotals::mnuHistoryClick)},
-               refreshCommand()}},
-             helpMenu(tr("Inventory Totals &Help"))},
+        .menus = {fileMenu(),
+                  {tr("&Records"), {findCommand(runs(&TfrmInvTotals::btnFindClick))}},
+                  {tr("&View"),
+                   {filterCommand(runs(&TfrmInvTotals::btnFilterClick)),
+                    {.name = u"mnuSortBy"_s,
+                     .caption = tr("&Sort by"),
+                     .choices = {{.name = u"mnuSortItemNo"_s,
+                                  .caption = tr("&Item no."),
+                                  .run = sorts(TotalsView::Sort::ItemNo)},
+                                 {.name = u"mnuSortDescription"_s,
+                                  .caption = tr("&Description"),
+                                  .run = sorts(TotalsView::Sort::Description)}}},
+                    {.name = u"mnuHistory"_s, .caption = tr("&History"), .run = history},
+                    refreshCommand()}},
+                  helpMenu(tr("Inventory Totals &Help"))},
         .emptyHint = tr("No stock yet. What is received shows here when the receipt has been posted."),
     };
 }
@@ -81,9 +87,9 @@ void TfrmInvTotals::btnFindClick() { TfrmItemsFind(context(), m_view.query(), th
 void TfrmInvTotals::mnuHistoryClick()
 {
     const Engine::Query &row = m_view.query();
-    if (row.isEmpty())
+    if (row.isEmpty() || !context().knows(historyScreen))
         return;
-    showListFiltered(context(), {u"frmInvHistory"_s, u"InvHistory/Inventory History"_s},
+    showListFiltered(context(), {historyScreen, u"InvHistory/Inventory History"_s},
                      {{u"ItemID"_s, row.integer(u"ItemID")}, {u"WarehouseID"_s, row.integer(u"WarehouseID")}});
 }
 
