@@ -80,10 +80,26 @@ void FilterDialog::addMark(const QString &mark, const QString &label)
          .none = static_cast<int>(ListFilter::Marked::All)});
 }
 
+namespace {
+
+// What the Tab key stops at in a row, which may be several widgets.
+QList<QWidget *> stopsOf(QWidget *row)
+{
+    if (!row->focusProxy())
+        return {row};
+    QList<QWidget *> stops = row->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    stops.removeIf([](const QWidget *part) { return !(part->focusPolicy() & Qt::TabFocus); });
+    return stops;
+}
+
+} // namespace
+
 // The rows come after the form's own widgets by themselves.
 void FilterDialog::orderTabs()
 {
-    QList<QWidget *> order = m_rows;
+    QList<QWidget *> order;
+    for (QWidget *row : std::as_const(m_rows))
+        order += stopsOf(row);
     order += {m_ui->optYes, m_ui->optNo, m_ui->optAll, m_ui->btnReset, m_ui->btnOK, m_ui->btnCancel};
     for (int i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);

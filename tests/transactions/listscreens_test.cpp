@@ -465,8 +465,8 @@ TEST_F(ListScreensTest, historyLeadsFromTotalsToTheDocument)
                                                     EXPECT_EQ(dialog.GetWarehouseID(), 1);
                                                     dialog.btnResetClick();
                                                     child<QComboBox>(dialog, "cboTransType")->setCurrentIndex(2);
-                                                    child<QWidget>(dialog, "editYear")->setFocus();
-                                                    child<QSpinBox>(dialog, "editYear")->selectAll();
+                                                    child<QWidget>(dialog, "cboTransType")->setFocus();
+                                                    press(Qt::Key_Tab);
                                                     type("2026");
                                                     press(Qt::Key_Return);
                                                 }));
