@@ -43,6 +43,7 @@ const DocumentKind &DocumentKinds::usage()
                         {u"ExtAmount"_s, tr("Ext Amount"), 100, Qt::AlignRight}},
         .makeEntry = [](Engine::Database &database,
                         Prompts &prompts) { return std::make_unique<UsageEntry>(database, prompts); },
+        .opensFromHistory = false,
         .listScreen = u"frmUsages"_s,
         .listCaption = tr("Inventory Usage"),
         .columns = {{u"InventoryDate"_s, tr("Date"), 90},

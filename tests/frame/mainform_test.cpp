@@ -88,7 +88,7 @@ TEST_F(MainFormTest, ProductLacksExactlyTheScreensThatAreNotBuilt)
     EXPECT_EQ(actions(false),
               (QStringList{u"ActionEditInventory"_s, u"ActionEditUsage"_s, u"ActionPostUsage"_s,
                            u"ActionEnterAdjustments"_s, u"ActionPostAdustments"_s, u"ActionPrintReports"_s,
-                           u"ActionPrintBlankInventoryForm"_s, u"ActionViewHistory"_s, u"ActionPrintPayments"_s}));
+                           u"ActionPrintBlankInventoryForm"_s, u"ActionPrintPayments"_s}));
 }
 
 TEST_F(MainFormTest, DatabaseOptionsTouchTheFirstMenuAndTheWindowsOwnButtons)
