@@ -292,13 +292,7 @@ protected:
     Connection &connection = store.database().connection();
 
     void SetUp() override { store.execute(u"CREATE TABLE T (a integer)"_s); }
-    void cut()
-    {
-        const auto other = store.anotherUser(u"keeper"_s);
-        other->database.connection().execute(
-            u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity WHERE datname = "
-            "current_database() AND application_name LIKE 'maria@%'"_s);
-    }
+    void cut() { store.anotherUser(u"keeper"_s)->endOtherSessions(); }
     qint64 count()
     {
         const StatementPtr statement = connection.prepare(u"SELECT count(*) FROM T"_s);

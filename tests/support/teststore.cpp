@@ -55,6 +55,14 @@ void TestUser::useTestServer(const QString &remoteName)
     database.remoteName = remoteName;
 }
 
+void TestUser::endOtherSessions()
+{
+    // Until a session has ended it holds its locks.
+    database.connection().execute(
+        u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity WHERE datname = "
+        "current_database() AND pid <> pg_backend_pid() AND backend_type = 'client backend'"_s);
+}
+
 void dropTestDatabase(const QString &name)
 {
     TestUser keeper(u"keeper"_s, u"postgres"_s);
@@ -111,9 +119,11 @@ QStringList TestStore::place() const
 
 void TestStore::execute(const QString &script) { database().connection().execute(script); }
 
-QStringList TestStore::rows(const QString &sql)
+QStringList TestStore::rows(const QString &sql) { return rowsOf(database(), sql); }
+
+QStringList rowsOf(Engine::Database &database, const QString &sql)
 {
-    const Engine::StatementPtr statement = database().connection().prepare(sql);
+    const Engine::StatementPtr statement = database.connection().prepare(sql);
     QStringList rows;
     while (statement->next()) {
         QStringList values;

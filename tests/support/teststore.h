@@ -21,7 +21,11 @@ struct TestUser
     explicit TestUser(
         const QStringList &place); // "anna" in another program, which was started with place() of a store
     void useTestServer(const QString &remoteName);
+    void endOtherSessions(); // of the database on the server, as when their connections are lost
 };
+
+// All rows of a statement, one text each: "1|2.5|abc", nulls empty.
+QStringList rowsOf(Engine::Database &database, const QString &sql);
 
 // Drops a database of the test server, if it is there. Throws EngineError when somebody keeps it open for good.
 void dropTestDatabase(const QString &name);
@@ -46,8 +50,7 @@ public:
     QString directory() const { return m_folder.path(); } // of a local store's database
     QString remoteName() const { return m_remoteName; } // of a remote store's database
     void execute(const QString &script); // SQL text as it stands
-    // All rows of a statement, one text each: "1|2.5|abc", nulls empty.
-    QStringList rows(const QString &sql);
+    QStringList rows(const QString &sql); // as rowsOf()
 
 private:
     Store m_store;

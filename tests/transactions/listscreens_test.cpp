@@ -83,55 +83,20 @@ TEST_F(ListScreensTest, receiptsAreListedLatestFirstWithTheirNames)
     EXPECT_FALSE(list->command(u"mnuPrint"_s)->isEnabled());
 }
 
-TEST_F(ListScreensTest, listsOpenByTheMainWindowAndWhollyOnTheScreen)
-{
-    const QRect available = mainWindow->screen()->availableGeometry();
-    for (const QPoint &corner : {available.topLeft(), available.bottomRight()}) {
-        mainWindow->move(corner);
-        list = new TfrmInvReceipts(*context, mainWindow.get());
-        list->show();
-        EXPECT_TRUE(available.contains(list->frameGeometry()));
-        list->hide();
-        const QPoint moved = available.center();
-        list->move(moved);
-        list->show();
-        EXPECT_EQ(list->pos(), moved) << "it stays where the user has put it";
-        delete list;
-    }
-}
-
-TEST_F(ListScreensTest, receiptFilterShowsInCaptionAndMenuUntilItIsReset)
-{
-    addReceipts();
-    open<TfrmInvReceipts>();
-    const auto filter = [&] { list->command(u"mnuFilter"_s)->trigger(); };
-    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(filter, [](DocumentFilterScreen &) {}));
-    EXPECT_FALSE(list->command(u"mnuFilter"_s)->isChecked()) << "cancelled";
-    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(filter, [](DocumentFilterScreen &dialog) {
-        EXPECT_EQ(focusName(), u"cboWarehouse"_s);
-        type("f");
-        child<QRadioButton>(dialog, "optPostedNo")->click();
-        press(Qt::Key_Return);
-    }));
-    EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted = false)"_s);
-    EXPECT_EQ(rows(), 1);
-    EXPECT_EQ(list->windowTitle(), u"Inventory Receipts (Filtered)"_s);
-    EXPECT_TRUE(list->command(u"mnuFilter"_s)->isChecked());
-
-    list->resetFilter();
-    EXPECT_EQ(rows(), 3);
-    EXPECT_EQ(list->windowTitle(), u"Inventory Receipts"_s);
-    EXPECT_FALSE(list->command(u"mnuFilter"_s)->isChecked());
-    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(filter, [](DocumentFilterScreen &dialog) {
-        EXPECT_EQ(child<LookupComboBox>(dialog, "cboWarehouse")->chosenId(), 0);
-        EXPECT_TRUE(child<QRadioButton>(dialog, "optPostedAll")->isChecked());
-    }));
-}
-
-TEST_F(ListScreensTest, findMovesToTheNumberOrSelectsWhatWasTyped)
+TEST_F(ListScreensTest, receiptsAreFilteredAndFound)
 {
     addReceipts();
     auto &screen = open<TfrmInvReceipts>();
+    EXPECT_TRUE(whileOpen<DocumentFilterScreen>([&] { screen.command(u"mnuFilter"_s)->trigger(); },
+                                                [](DocumentFilterScreen &dialog) {
+                                                    type("f"); // in the box of locations
+                                                    child<QRadioButton>(dialog, "optPostedNo")->click();
+                                                    press(Qt::Key_Return);
+                                                }));
+    EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted = false)"_s);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(list->windowTitle(), u"Inventory Receipts (Filtered)"_s);
+    list->resetFilter();
     EXPECT_TRUE(whileOpen<DocumentFindScreen>([&] { screen.command(u"mnuFind"_s)->trigger(); },
                                               [&](DocumentFindScreen &dialog) {
                                                   type("77");
@@ -144,49 +109,23 @@ TEST_F(ListScreensTest, findMovesToTheNumberOrSelectsWhatWasTyped)
                                                   EXPECT_FALSE(dialog.isVisible());
                                               }));
     EXPECT_EQ(grid->currentIndex().row(), 2);
-    screen.applyFilter(u"(Posted = true)"_s);
-    EXPECT_TRUE(whileOpen<DocumentFindScreen>(
-        [&] { screen.command(u"mnuFind"_s)->trigger(); },
-        [](DocumentFindScreen &dialog) { EXPECT_NE(child<QLabel>(dialog, "lblFiltered"), nullptr); }));
 }
 
-TEST_F(ListScreensTest, editOpensTheRowAndSavingComesBackToIt)
+TEST_F(ListScreensTest, editOpensTheRowAlsoOfKeyZeroOrANewOne)
 {
     open<TfrmInvReceipts>();
-    click("btnEdit"); // nothing to edit: a new one
-    auto *receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
-    ASSERT_NE(receipt, nullptr);
-    EXPECT_EQ(receipt->windowTitle(), u"New Inventory Receipt"_s);
-    receipt->btnCancelClick();
-    settle();
-
-    addReceipts();
-    list->refreshList();
-    grid->setFocus();
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
-    receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
-    ASSERT_NE(receipt, nullptr);
-    EXPECT_EQ(receipt->windowTitle(), u"Receipt 1001"_s);
-    showActive(*receipt);
-    child<QLineEdit>(*receipt, "editReceiptNo")->setFocus();
-    type("1009"); // now the first of its date
-    receipt->btnOKClick();
-    settle();
-    EXPECT_EQ(prompts.said, QStringList());
-    EXPECT_EQ(row(0).at(2), u"1009"_s);
-    EXPECT_EQ(grid->currentIndex().row(), 0);
-
+    const auto opened = [&] {
+        click("btnEdit");
+        auto *receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+        const QString title = receipt ? receipt->windowTitle() : QString();
+        delete receipt;
+        return title;
+    };
+    EXPECT_EQ(opened(), u"New Inventory Receipt"_s) << "nothing to edit";
     kitchen.addReceipt(0, 1, 1, {{1, 5, 3.0}}); // the key that a fresh counter begins with
     list->refreshList();
     EXPECT_TRUE(list->moveToKey(0));
-    click("btnEdit");
-    receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
-    ASSERT_NE(receipt, nullptr);
-    EXPECT_EQ(receipt->windowTitle(), u"Receipt 1000"_s);
-    receipt->close();
-    settle();
+    EXPECT_EQ(opened(), u"Receipt 1000"_s);
 }
 
 TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
@@ -236,39 +175,6 @@ TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
     EXPECT_EQ(prompts.said, QStringList());
 }
 
-TEST_F(ListScreensTest, aDocumentThatAnotherUserHasDeletedIsToldAndLeavesTheList)
-{
-    addReceipts();
-    open<TfrmInvReceipts>();
-    ASSERT_TRUE(list->moveToKey(1));
-    kitchen.execute(u"DELETE FROM IReceipt WHERE ReceiptID = 1"_s);
-    click("btnEdit");
-    EXPECT_EQ(prompts.take(), QStringList(u"error: 'Receipt 1001' was deleted by another user."_s));
-    EXPECT_EQ(rows(), 2);
-
-    ASSERT_TRUE(list->moveToKey(3));
-    ASSERT_EQ(row(grid->currentIndex().row()).at(2), u"1003"_s);
-    kitchen.execute(u"DELETE FROM IReceipt WHERE ReceiptID = 3"_s);
-    click("btnDelete");
-    EXPECT_EQ(prompts.take(),
-              (QStringList{u"Confirm: Delete receipt '1003'?"_s,
-                           u"error: 'Receipt 1003' was deleted by another user."_s}));
-    EXPECT_EQ(rows(), 1);
-}
-
-TEST_F(ListScreensTest, aFurtherFilterBoxSwitchesTheFilterOnAndNarrowsNothing)
-{
-    DocumentKind kind = DocumentKinds::receipt();
-    kind.filterBoxes << FilterBox{u"cboCurrency"_s, u"C&urrency:"_s, u"Currency"_s};
-    DocumentFilterScreen dialog(*context, kind, mainWindow.get());
-    EXPECT_FALSE(dialog.isOn());
-    dialog.setKey(u"cboCurrency"_s, 2);
-    EXPECT_TRUE(dialog.isOn());
-    EXPECT_EQ(documentFilter(dialog.filter(), kind.notPosted), QString());
-    dialog.setKey(u"cboWarehouse"_s, 1);
-    EXPECT_EQ(documentFilter(dialog.filter(), kind.notPosted), u"(WarehouseID = 1)"_s);
-}
-
 TEST_F(ListScreensTest, aRefusalToDeleteShowsTheListAnew)
 {
     addReceipts();
@@ -279,40 +185,6 @@ TEST_F(ListScreensTest, aRefusalToDeleteShowsTheListAnew)
     click("btnDelete");
     EXPECT_EQ(prompts.take().size(), 2);
     EXPECT_EQ(rows(), 2);
-}
-
-TEST_F(ListScreensTest, aDeletedReceiptTakesWhatIsOnlyTypedInItsScreenWithIt)
-{
-    addReceipts();
-    open<TfrmInvReceipts>();
-    ASSERT_TRUE(list->moveToKey(1));
-    click("btnEdit");
-    QPointer<TfrmInvReceipt> receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
-    showActive(*receipt);
-    child<QLineEdit>(*receipt, "editVendorNo")->setFocus();
-    type("V2");
-    showActive(*list);
-    click("btnDelete");
-    settle();
-    EXPECT_FALSE(receipt);
-    EXPECT_EQ(prompts.said, QStringList(u"Confirm: Delete receipt '1001'?"_s));
-}
-
-TEST_F(ListScreensTest, failureOfTheStoreIsShownAndTheListComesBack)
-{
-    addReceipts();
-    open<TfrmInvReceipts>();
-    kitchen.execute(u"ALTER TABLE IReceipt RENAME TO Away"_s);
-    list->command(u"mnuRefresh"_s)->trigger();
-    grid->setFocus();
-    press(Qt::Key_End);
-    EXPECT_TRUE(prompts.take().value(0).startsWith("error: "_L1));
-    EXPECT_EQ(rows(), 0);
-    kitchen.execute(u"ALTER TABLE Away RENAME TO IReceipt"_s);
-    list->command(u"mnuRefresh"_s)->trigger();
-    EXPECT_EQ(rows(), 3);
-    EXPECT_EQ(row(0).at(2), u"1003"_s);
-    EXPECT_EQ(prompts.said, QStringList());
 }
 
 TEST_F(ListScreensTest, theListTellsHowManyDocumentsWerePosted)
@@ -332,24 +204,18 @@ TEST_F(ListScreensTest, theListTellsHowManyDocumentsWerePosted)
 TEST_F(ListScreensTest, closingOffersToPostWhatIsPending)
 {
     addReceipts();
-    open<TfrmInvReceipts>();
-    EXPECT_TRUE(
-        whileOpen<DocumentPostScreen>([&] { list->close(); }, [](DocumentPostScreen &) { press(Qt::Key_Return); }));
-    settle();
-    EXPECT_FALSE(list);
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s), 3);
-    EXPECT_EQ(kitchen.onHand(1, 1), 5);
-
-    open<TfrmInvReceipts>();
-    EXPECT_FALSE(whileOpen<DocumentPostScreen>(
-        [&] {
+    for (const bool pending : {true, false}) {
+        open<TfrmInvReceipts>();
+        const auto close = [&] {
             list->close();
             QCoreApplication::processEvents();
-        },
-        [](DocumentPostScreen &) {}))
-        << "nothing is pending";
-    settle();
-    EXPECT_FALSE(list);
+        };
+        EXPECT_EQ(whileOpen<DocumentPostScreen>(close, [](DocumentPostScreen &) { press(Qt::Key_Return); }),
+                  pending);
+        settle();
+        EXPECT_FALSE(list);
+    }
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s), 3);
 }
 
 TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
@@ -375,29 +241,15 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
     kitchen.setStock(1, 2, 2.5, 2);
     kitchen.setStock(2, 1, -3, 2);
     kitchen.setStock(3, 2, 7, 2);
-    kitchen.execute(
-        u"INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (99, 1, 4)"_s); // its item is gone
     auto &totals = open<TfrmInvTotals>();
-    ASSERT_EQ(rows(), 5);
-    EXPECT_EQ(row(0), (QStringList{QString(), QString(), u"Office"_s, u"4"_s}));
-    EXPECT_EQ(row(1), (QStringList{u"A10"_s, u"Apples"_s, u"Freezer"_s, u"2.5"_s}));
-    EXPECT_FALSE(totals.command(u"mnuHistory"_s)->isEnabled());
-
-    grid->setCurrentIndex(grid->model()->index(3, 0));
+    EXPECT_EQ(row(0), (QStringList{u"A10"_s, u"Apples"_s, u"Freezer"_s, u"2.5"_s}));
+    grid->setCurrentIndex(grid->model()->index(2, 0));
     totals.command(u"mnuSortDescription"_s)->trigger();
     EXPECT_EQ(grid->currentIndex().row(), 0);
-    EXPECT_TRUE(totals.command(u"mnuSortDescription"_s)->isChecked());
-    EXPECT_EQ(row(4).at(1), u"apricots"_s);
+    EXPECT_EQ(row(3).at(1), u"apricots"_s);
     grid->setFocus();
     type("APR"); // searches where it is sorted, by the case-insensitive index of the items
-    EXPECT_EQ(grid->currentIndex().row(), 4);
-
-    EXPECT_TRUE(whileOpen<TfrmItemsFind>([&] { totals.btnFindClick(); },
-                                         [&](TfrmItemsFind &) {
-                                             type("B1");
-                                             press(Qt::Key_Return);
-                                         }));
-    EXPECT_EQ(grid->currentIndex().row(), 4);
+    EXPECT_EQ(grid->currentIndex().row(), 3);
 
     EXPECT_TRUE(whileOpen<TfrmInvTotalsFilter>(
         [&] { totals.btnFilterClick(); },
@@ -415,20 +267,13 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
         }));
     EXPECT_EQ(totals.dataSet().filter(), u"(ItemID = 1) AND (WarehouseID = 1)"_s);
     EXPECT_EQ(rows(), 1);
-    EXPECT_EQ(totals.windowTitle(), u"Inventory Totals (Filtered)"_s);
-
     EXPECT_TRUE(whileOpen<TfrmItemsFind>(
         [&] { totals.btnFindClick(); },
-        [&](TfrmItemsFind &dialog) {
-            EXPECT_NE(child<QLabel>(dialog, "lblFiltered"), nullptr);
+        [&](TfrmItemsFind &) {
             type("B1");
             press(Qt::Key_Return);
             EXPECT_EQ(prompts.take(), QStringList(u"error: 'apricots' not found"_s)) << "filtered out";
-            EXPECT_TRUE(dialog.isVisible());
         }));
-    totals.resetFilter();
-    EXPECT_EQ(rows(), 5);
-    EXPECT_EQ(totals.windowTitle(), u"Inventory Totals"_s);
 }
 
 TEST_F(ListScreensTest, historyLeadsFromTotalsToTheDocument)

@@ -2,7 +2,6 @@
 #include "tests/support/spokenprompts.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
-#include "transactions/receiptentry.h"
 
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -12,23 +11,6 @@ using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
-
-// Begins and drops receipts, printing their numbers.
-void numberReceipts(Engine::Database &database, const QStringList &count)
-{
-    SpokenPrompts prompts;
-    ReceiptEntry entry(database, prompts);
-    // Three users at a time would use up the attempts of a busy machine.
-    entry.numbers = [&database](const QString &table, const CounterRule &rule) {
-        takeNumbers(database, table, rule, {.attempts = 1'000'000});
-    };
-    entry.open();
-    for (int i = 0; i < count.value(0).toInt(); ++i) {
-        entry.newDocument();
-        std::printf("%d %s\n", entry.key(), qPrintable(entry.header().text(u"ReceiptNo")));
-        entry.cancel();
-    }
-}
 
 // Prints a line when so many documents have been posted, and stops there if it shall wait to be killed.
 class ToldProgress final : public Progress
@@ -69,8 +51,7 @@ void post(Engine::Database &database, const QStringList &arguments)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const OtherUserTasks tasks{{u"number"_s, numberReceipts}, {u"post"_s, post}};
-    if (const int status = playOtherUser(QCoreApplication::arguments(), tasks); status >= 0)
+    if (const int status = playOtherUser(QCoreApplication::arguments(), {{u"post"_s, post}}); status >= 0)
         return status;
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -4,7 +4,6 @@
 #include "transactions/documentposting.h"
 
 #include <gtest/gtest.h>
-#include <QSet>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -80,22 +79,6 @@ TEST_P(Processes, KillingAPosterLeavesWholeDocumentsAndNothingIsLostOrDoubled)
     expectWholeDocuments(kitchen);
     EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), receipts(GetParam()) * LinesEach);
     EXPECT_EQ(stock(kitchen), stock(undisturbed));
-}
-
-TEST_P(Processes, UsersNeverGetTheSameNumber)
-{
-    constexpr int Each = 40;
-    Kitchen kitchen(GetParam());
-    const QStringList task{u"number"_s, QString::number(Each)};
-    OtherUser users[] = {{kitchen, task}, {kitchen, task}, {kitchen, task}};
-    QStringList numbers;
-    for (OtherUser &user : users) {
-        ASSERT_TRUE(user.finish());
-        numbers += user.output();
-    }
-    EXPECT_EQ(numbers.size(), 3 * Each);
-    EXPECT_EQ(QSet<QString>(numbers.begin(), numbers.end()).size(), 3 * Each);
-    EXPECT_EQ(kitchen.number(u"SELECT NextInvReceiptNo FROM ItemCtl"_s), 1001 + 3 * Each);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "tests/support/kitchen.h"
 
 #include <gtest/gtest.h>
+#include <QProcess>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -346,30 +347,6 @@ TEST_P(Entry, LinesThatAnotherUserHasSavedStay)
     }
 }
 
-TEST_P(Entry, ALineStillInEditIsSavedWithTheHeader)
-{
-    newReceipt();
-    entry.newLine();
-    entry.lines().set(u"QtyReceived", 2.0);
-    EXPECT_EQ(refusalOf([&] { entry.save(); }),
-              u"Field 'Item no.' must have a value...\nMake changes or press Esc to undo -> ItemNo");
-    entry.chooseItem(2);
-    entry.lines().set(u"UnitCost", 4.0);
-    entry.save();
-    EXPECT_EQ(kitchen.lines(entry.key()).size(), 2);
-}
-
-TEST_P(Entry, ATakenNumberIsRefused)
-{
-    kitchen.addReceipt(900, 1, 1, {{1, 1, 1}}); // number 1900
-    newReceipt();
-    entry.header().set(u"ReceiptNo", u"1900"_s);
-    EXPECT_EQ(refusalOf([&] { entry.save(); }), u"Receipt no. already exists -> ReceiptNo");
-    EXPECT_EQ(entry.header().state(), TableState::Insert);
-    entry.header().set(u"ReceiptNo", u"1901"_s);
-    EXPECT_EQ(refusalOf([&] { entry.save(); }), QString());
-}
-
 TEST_P(Entry, ATakenNumberOfALineIsNotToldAsTheReceiptsAndGivenAnew)
 {
     newReceipt();
@@ -429,6 +406,28 @@ TEST_P(Entry, AReceiptBeingEditedIsLockedForOthers)
     EXPECT_EQ(errorOf([&] { entry.lines().edit(); }, &text), ErrorCode::RecordLocked);
 }
 
+// The database is replaced by a copy of itself.
+TEST(EntryInAFolder, CancelEndsTheVisitAndTellsWhatStaysInTheFileThatWasInUse)
+{
+    Kitchen kitchen(Store::Local);
+    kitchen.addReceipt(7, 1, 1, {{1, 5, 1}});
+    SpokenPrompts prompts;
+    ReceiptEntry entry(kitchen.database(), prompts);
+    entry.open();
+    ASSERT_TRUE(entry.openDocument(7));
+    entry.lines().edit();
+    entry.lines().set(u"QtyReceived", 9.0);
+    entry.lines().post();
+    const QString replace = u"cd \"$0\" && cp Corvane.sqlite copy && mv copy Corvane.sqlite"_s;
+    ASSERT_EQ(QProcess::execute(u"sh"_s, {u"-c"_s, replace, kitchen.directory()}), 0);
+    EXPECT_EQ(errorOf([&] { entry.save(); }), ErrorCode::FileReplaced);
+    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Ask);
+    entry.cancel();
+    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Free);
+    EXPECT_TRUE(prompts.last().startsWith("error: The file "_L1)) << prompts.last().toStdString();
+    EXPECT_TRUE(prompts.last().contains(u"Lines changed: 1."_s));
+}
+
 // On a server a connection can be lost with a document in edit.
 class EntryOnAServer : public testing::Test
 {
@@ -462,23 +461,8 @@ protected:
         entry->chooseItem(1);
         entry->lines().set(u"UnitCost", 1.0);
     }
-    void cut()
-    {
-        // Until the session has ended it holds its locks.
-        const QString end = u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity "
-                            "WHERE datname = current_database() AND pid <> pg_backend_pid() "
-                            "AND backend_type = 'client backend'"_s;
-        anna->database.connection().execute(end);
-    }
-    QStringList stored()
-    {
-        const Engine::StatementPtr rows =
-            anna->database.connection().prepare(u"SELECT QtyReceived FROM IRecDet ORDER BY Seq"_s);
-        QStringList lines;
-        while (rows->next())
-            lines << rows->textAt(0);
-        return lines;
-    }
+    void cut() { anna->endOtherSessions(); }
+    QStringList stored() { return rowsOf(anna->database, u"SELECT QtyReceived FROM IRecDet ORDER BY Seq"_s); }
     bool isFree()
     {
         Engine::LockManager &locks = anna->database.connection().locks();
@@ -567,18 +551,6 @@ TEST_F(EntryOnAServer, WhatOthersDoMeanwhileIsNotOverwrittenAndTold)
     EXPECT_TRUE(prompts.last().contains(u"is being edited by another user (anna on"_s))
         << prompts.last().toStdString();
     EXPECT_EQ(stored(), (QStringList{u"5"_s, u"6"_s}));
-}
-
-TEST_F(EntryOnAServer, TellsALineOnceThatWasRefusedAtFirst)
-{
-    entry->header().edit();
-    enterLine();
-    anna->database.connection().execute(u"INSERT INTO IRecDet (ReceiptID, Seq, QtyReceived) VALUES (7, 3, 8)"_s);
-    EXPECT_FALSE(refusalOf([&] { entry->lines().post(); }).isEmpty());
-    entry->lines().post();
-    cut();
-    entry->cancel(); // the other's line is in the way
-    EXPECT_TRUE(prompts.last().contains(u"Lines added: 1."_s)) << prompts.last().toStdString();
 }
 
 // The answer to the saving may be all that was lost.

@@ -94,22 +94,6 @@ TEST_P(List, TellsDeletedFromPostedInTheLastMoment)
     }
 }
 
-TEST_P(List, LeavesAReceiptThatSomebodyIsEditing)
-{
-    kitchen.session().lockAttempts = 1;
-    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});
-    list.table().refresh();
-    list.table().first();
-    const auto other = kitchen.anotherUser();
-    Engine::Table theirs(other->database, u"IReceipt"_s);
-    theirs.open();
-    ASSERT_TRUE(theirs.findKey({1}));
-    theirs.edit();
-    EXPECT_THROW(list.remove(prompts), Engine::EngineError);
-    EXPECT_EQ(receipts(), 1);
-    EXPECT_EQ(lines(), 1);
-}
-
 TEST_P(List, FindsByNumber)
 {
     kitchen.addReceipt(1, 1, 1, {});

@@ -175,19 +175,4 @@ TEST_P(Posting, AsksAboutTablesThatAnotherUserHolds)
     EXPECT_EQ(posted(), QStringList(u"1"_s));
 }
 
-// A receipt that another user is entering keeps its record locked, and with it the table.
-TEST_P(Posting, WaitsForAReceiptBeingEdited)
-{
-    kitchen.addReceipt(1, 1, 1, {{1, 1, 1}});
-    const auto other = kitchen.anotherUser();
-    Engine::Table theirs(other->database, u"IReceipt"_s);
-    theirs.open();
-    ASSERT_TRUE(theirs.findKey({1}));
-    theirs.edit();
-    EXPECT_THROW(post(), EngineError);
-    EXPECT_TRUE(posted().isEmpty());
-    theirs.cancel();
-    EXPECT_TRUE(post());
-}
-
 } // namespace
