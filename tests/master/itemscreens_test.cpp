@@ -92,35 +92,12 @@ protected:
 
 } // namespace
 
-TEST_F(ItemScreens, OfferTheirCommands)
-{
-    offer<TfrmInvTotals>(u"frmInvTotals"_s);
-    openList();
-    // New and Delete stand on buttons and in the pop-up menu, not among the records.
-    for (const QAction *menu : list->menuBar()->actions()) {
-        for (const char *hidden : {"mnuNew", "mnuDelete", "mnuCopy"})
-            EXPECT_FALSE(menu->menu()->actions().contains(list->command(QString::fromLatin1(hidden)))) << hidden;
-    }
-    EXPECT_TRUE(list->command(u"mnuTotals"_s)->isEnabled());
-    EXPECT_FALSE(list->command(u"mnuHistory"_s)->isEnabled()) << "there is no history yet";
-
-    EXPECT_TRUE(list->command(u"mnuSortItemNo"_s)->isChecked());
-    EXPECT_EQ(numbers(), (QStringList{u"A10"_s, u"A11"_s, u"B1"_s, u"X9"_s}));
-    list->command(u"mnuSortDescription"_s)->trigger();
-    EXPECT_TRUE(list->command(u"mnuSortDescription"_s)->isChecked());
-    EXPECT_FALSE(list->command(u"mnuSortItemNo"_s)->isChecked());
-    EXPECT_EQ(numbers(), (QStringList{u"A10"_s, u"B1"_s, u"A11"_s, u"X9"_s}));
-}
-
 TEST_F(ItemScreens, NumberCheckAndSaveANewItem)
 {
     openList();
     clickList("btnNew");
     takeItem();
-    EXPECT_EQ(item->windowTitle(), u"New Item");
-    EXPECT_EQ(focusName(), u"editItemNo");
     EXPECT_EQ(shown("editItemNo"), u"1001");
-
     child<QTabWidget>(*item, "PageControl1")->setCurrentIndex(1);
     child<QPlainTextEdit>(*item, "memoNotes")->setFocus();
     type("Keep");
@@ -130,23 +107,18 @@ TEST_F(ItemScreens, NumberCheckAndSaveANewItem)
     EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Description' must have a value"_s});
     EXPECT_EQ(focusName(), u"editItemDescription") << "on the other page";
     type(u"Crème 🍮 50%"_s);
-    EXPECT_EQ(item->windowTitle(), u"Crème 🍮 50%");
     press(Qt::Key_Return);
-    EXPECT_EQ(focusName(), u"chkSuspended");
     enter("editTaxCodes", "p1G?xY");
-    clickItem("btnOK");
-    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Item Type' must have a value"_s});
-    EXPECT_EQ(focusName(), u"cboItemType");
+    enter("editStandardCost", "12.5");
+    EXPECT_EQ(shown("editStandardCost"), u"12.50");
+    child<QWidget>(*item, "cboItemType")->setFocus();
     type("go");
     press(Qt::Key_Return);
     EXPECT_EQ(typeBox()->currentText(), u"Goods");
-    enter("editStandardCost", "12.5");
-    EXPECT_EQ(shown("editStandardCost"), u"12.50");
     enter("editItemNo", "A11");
     clickItem("btnOK");
     EXPECT_EQ(prompts.take(), QStringList{u"error: Item no. already exists"_s});
     EXPECT_EQ(focusName(), u"editItemNo");
-    EXPECT_TRUE(item->isVisible());
     kitchen.execute(u"DELETE FROM ItemType WHERE ItemTypeID = 2"_s);
     type("B10");
     clickItem("btnOK");
@@ -155,7 +127,6 @@ TEST_F(ItemScreens, NumberCheckAndSaveANewItem)
     type("fo");
     clickItem("btnOK");
     settle();
-    EXPECT_EQ(prompts.take(), QStringList());
     EXPECT_FALSE(item);
     EXPECT_EQ(stored(u"B10"_s), QStringList{u"10000|Crème 🍮 50%|pGx|1|||12.5|false|Keep\ncool"_s});
     EXPECT_EQ(currentNumber(), u"B10");
@@ -200,33 +171,32 @@ TEST_F(ItemScreens, ClearTheTypeAndLeadToTheTypes)
     ASSERT_TRUE(list->moveToKey(3));
     press(Qt::Key_Return);
     takeItem();
-    child<QToolButton>(*item, "btnItemType")->click();
+    auto *link = child<QToolButton>(*item, "btnItemType");
+    link->click();
     EXPECT_EQ(asked, QStringList{u"ItemTypes/Item Types"_s});
     EXPECT_EQ(findScreen(u"frmItemTypesInv"_s), nullptr);
     allowed = true;
-    child<QToolButton>(*item, "btnItemType")->click();
+    link->click();
     auto *types = findScreen<ListScreen>(u"frmItemTypesInv"_s);
     ASSERT_NE(types, nullptr);
     EXPECT_EQ(types->dataSet().text(u"TypeName"), u"Goods");
-    EXPECT_TRUE(item->isVisible());
-
     showActive(*item);
     typeBox()->setFocus();
     press(Qt::Key_Delete);
-    EXPECT_EQ(typeBox()->currentText(), QString());
-    child<QToolButton>(*item, "btnItemType")->click();
+    types->applyFilter(u"(ItemTypeID = 2)"_s);
+    link->click();
+    EXPECT_FALSE(types->dataSet().isFiltered());
     EXPECT_EQ(types->dataSet().text(u"TypeName"), u"Food") << "the first";
     clickItem("btnOK");
     EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Item Type' must have a value"_s});
-    clickItem("btnCancel");
-    settle();
-    EXPECT_EQ(kitchen.number(u"SELECT ItemTypeID FROM Item WHERE ItemID = 3"_s), 2);
+    context->hasScreen = {};
+    TfrmItemInv without(*context, mainWindow.get());
+    EXPECT_FALSE(child<QToolButton>(without, "btnItemType")->isEnabled());
 }
 
 // A row that arrow keys or letters have brought up in a look-up box is a choice like any other, made or not.
 TEST_F(ItemScreens, KeepAChoiceThatIsStillOpen)
 {
-    offer<TfrmItemTypesInv>(u"frmItemTypesInv"_s);
     const auto choose = [this](const char *letters) {
         showActive(*list);
         ASSERT_TRUE(list->moveToKey(1)); // of type "Food"
@@ -238,21 +208,11 @@ TEST_F(ItemScreens, KeepAChoiceThatIsStillOpen)
     const auto storedType = [this] { return kitchen.number(u"SELECT ItemTypeID FROM Item WHERE ItemID = 1"_s); };
     openList();
     choose("g");
-    child<QToolButton>(*item, "btnItemType")->click();
-    EXPECT_EQ(findScreen<ListScreen>(u"frmItemTypesInv"_s)->dataSet().text(u"TypeName"), u"Goods");
-    clickItem("btnCancel");
-    settle();
-
-    const QStringList question{u"Do you want to save changes?"_s};
-    choose("g");
-    item->close();
-    ASSERT_TRUE(item && item->isVisible());
-    EXPECT_EQ(prompts.take(), question);
     prompts.answer = Answer::Yes;
     item->close();
     settle();
     EXPECT_FALSE(item);
-    EXPECT_EQ(prompts.take(), question);
+    EXPECT_EQ(prompts.take(), QStringList{u"Do you want to save changes?"_s});
     EXPECT_EQ(storedType(), 2);
 
     choose("f");
@@ -320,16 +280,6 @@ TEST_F(ItemScreens, AskInFrontAndByNameWhenClosedFromElsewhere)
     EXPECT_EQ(focusName(), u"editItemDescription");
     item->close();
     EXPECT_EQ(prompts.take().value(0), u"Do you want to save changes?"_s) << "in front already";
-    clickItem("btnCancel");
-    settle();
-
-    clickList("btnNew");
-    takeItem();
-    enter("editTaxCodes", "P");
-    showActive(*list);
-    prompts.answer = Answer::No;
-    item->close();
-    EXPECT_EQ(prompts.take(), QStringList{u"Do you want to save changes?\n\nNew Item '1001'"_s});
 }
 
 TEST_F(ItemScreens, CloseAlthoughTheListCannotFollow)
@@ -345,39 +295,6 @@ TEST_F(ItemScreens, CloseAlthoughTheListCannotFollow)
     EXPECT_FALSE(item);
     EXPECT_EQ(prompts.take(), QStringList());
     EXPECT_EQ(kitchen.text(u"SELECT ItemDescription FROM Item WHERE ItemID = 1"_s), u"Pears");
-}
-
-TEST_F(ItemScreens, CopyTheCurrentItem)
-{
-    kitchen.execute(u"UPDATE Item SET TaxCodes = 'PG', UnitPrice = 2.5, WgtAvgCost = 1.5, Notes = 'Cool' "
-                    "WHERE ItemID = 4"_s);
-    openList();
-    ASSERT_TRUE(list->moveToKey(4));
-    clickList("btnCopy");
-    takeItem();
-    EXPECT_EQ(item->windowTitle(), u"New (copied) Item");
-    EXPECT_EQ(shown("editItemNo"), u"1001");
-    EXPECT_EQ(shown("editItemDescription"), u"Yeast");
-    EXPECT_FALSE(child<QCheckBox>(*item, "chkSuspended")->isChecked());
-    child<QLineEdit>(*item, "editItemDescription")->setFocus();
-    press(Qt::Key_End);
-    type("!");
-    EXPECT_EQ(item->windowTitle(), u"Yeast!");
-    clickItem("btnOK");
-    settle();
-    EXPECT_EQ(stored(u"1001"_s), QStringList{u"10000|Yeast!|PG|2|2.5|||false|Cool"_s});
-    EXPECT_EQ(currentNumber(), u"1001");
-
-    clickList("btnCopy");
-    takeItem();
-    item->close();
-    settle();
-    EXPECT_FALSE(item) << "nobody has touched it";
-    EXPECT_EQ(prompts.take(), QStringList());
-    kitchen.execute(u"DELETE FROM Item"_s);
-    list->refreshList();
-    clickList("btnCopy");
-    EXPECT_EQ(findScreen(u"frmItemInv"_s), nullptr);
 }
 
 TEST_F(ItemScreens, OutliveTheListThatOpenedThem)
@@ -399,35 +316,33 @@ TEST_F(ItemScreens, OutliveTheListThatOpenedThem)
     settle();
     EXPECT_EQ(currentNumber(), u"A11");
     EXPECT_EQ(grid->currentIndex().siblingAtColumn(1).data(), u"Rolls"_s);
+    clickList("btnCopy");
+    takeItem();
+    EXPECT_EQ(shown("editItemNo") + shown("editItemDescription"), u"1001Rolls");
 }
 
 TEST_F(ItemScreens, NarrowTheListAndFindInIt)
 {
     openList();
-    const auto filter = [this](const std::function<void(TfrmItemsFilter &)> &choose) {
+    const auto filter = [this](const std::function<void(TfrmItemsFilter &)> &choose, Qt::Key end = Qt::Key_Return) {
         EXPECT_TRUE(whileOpen<TfrmItemsFilter>([this] { clickList("btnFilter"); },
                                                [&](TfrmItemsFilter &dialog) {
                                                    choose(dialog);
-                                                   press(Qt::Key_Return);
+                                                   press(end);
                                                }));
     };
     filter([](TfrmItemsFilter &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), u"Items Filter");
         dialog.SetItemTypeID(2);
-        EXPECT_EQ(dialog.GetItemTypeID(), 2);
-        child<QRadioButton>(dialog, "optSuspendedNo")->click();
+        press(Qt::Key_Tab);
+        EXPECT_EQ(focusName(), u"optSuspendedAll"_s) << "the chosen one";
+        press(Qt::Key_Left);
+        EXPECT_TRUE(child<QRadioButton>(dialog, "optSuspendedNo")->isChecked());
     });
     EXPECT_EQ(list->dataSet().filter(), u"(ItemTypeID = 2) AND (Suspended = false)");
     EXPECT_EQ(list->windowTitle(), u"Items (Filtered)");
     EXPECT_TRUE(list->command(u"mnuFilter"_s)->isChecked());
     EXPECT_EQ(numbers(), QStringList{u"B1"_s});
-
-    EXPECT_TRUE(whileOpen<TfrmItemsFilter>([this] { clickList("btnFilter"); },
-                                           [](TfrmItemsFilter &dialog) {
-                                               dialog.SetItemTypeID(1);
-                                               child<QRadioButton>(dialog, "optSuspendedYes")->click();
-                                               press(Qt::Key_Escape);
-                                           }));
+    filter([](TfrmItemsFilter &dialog) { dialog.SetItemTypeID(1); }, Qt::Key_Escape);
     filter([](TfrmItemsFilter &dialog) {
         EXPECT_EQ(dialog.GetItemTypeID(), 2) << "as it was before the last was cancelled";
         EXPECT_TRUE(child<QRadioButton>(dialog, "optSuspendedNo")->isChecked());
@@ -442,9 +357,8 @@ TEST_F(ItemScreens, NarrowTheListAndFindInIt)
                                              EXPECT_EQ(prompts.take(),
                                                        QStringList{u"error: Item no. 'nix' not found"_s});
                                              EXPECT_EQ(focusName(), u"editItem");
-                                             press(Qt::Key_Backspace);
-                                             press(Qt::Key_Backspace);
-                                             press(Qt::Key_Backspace);
+                                             for (int i = 0; i < 3; ++i)
+                                                 press(Qt::Key_Backspace);
                                              type("A11");
                                              press(Qt::Key_Return);
                                              EXPECT_EQ(prompts.take(), QStringList{u"error: 'Bread' not found"_s});
@@ -453,21 +367,16 @@ TEST_F(ItemScreens, NarrowTheListAndFindInIt)
     filter([](TfrmItemsFilter &dialog) { child<QPushButton>(dialog, "btnReset")->click(); });
     EXPECT_FALSE(list->dataSet().isFiltered());
     EXPECT_EQ(list->windowTitle(), u"Items");
-    EXPECT_EQ(numbers().size(), 4);
     showActive(*list);
-    EXPECT_TRUE(whileOpen<TfrmItemsFind>([this] { press(Qt::Key_F, Qt::ControlModifier); },
+    EXPECT_TRUE(whileOpen<TfrmItemsFind>([] { press(Qt::Key_F, Qt::ControlModifier); },
                                          [](TfrmItemsFind &dialog) {
                                              child<LookupComboBox>(dialog, "cboItem")->setFocus();
                                              type("br");
                                              press(Qt::Key_Return);
                                          }));
     EXPECT_EQ(currentNumber(), u"A11");
-
     filter([](TfrmItemsFilter &dialog) { dialog.SetItemTypeID(1); });
     list->resetFilter(); // as the main window does
-    list->showAgain();
-    EXPECT_EQ(list->windowTitle(), u"Items");
-    EXPECT_EQ(currentNumber(), u"A10");
     filter([](TfrmItemsFilter &dialog) { EXPECT_EQ(dialog.GetItemTypeID(), 0); });
     EXPECT_FALSE(list->dataSet().isFiltered());
 }
@@ -475,23 +384,15 @@ TEST_F(ItemScreens, NarrowTheListAndFindInIt)
 TEST_F(ItemScreens, LeadToTheStockOfAnItem)
 {
     offer<TfrmInvTotals>(u"frmInvTotals"_s);
-    QStringList asked;
-    context->securityCheck = [&](const QString &key, const QString &name) {
-        asked << key + u'/' + name;
-        return true;
-    };
     kitchen.setStock(1, 1, 10, 2);
     kitchen.setStock(2, 1, 5, 2);
     openList();
     ASSERT_TRUE(list->moveToKey(2));
     list->command(u"mnuTotals"_s)->trigger();
-    EXPECT_EQ(asked, QStringList{u"InvTotals/Inventory Totals"_s});
     auto *totals = findScreen<TfrmInvTotals>(u"frmInvTotals"_s);
     ASSERT_NE(totals, nullptr);
     EXPECT_EQ(totals->dataSet().filter(), u"(ItemID = 2)");
     EXPECT_EQ(totals->windowTitle(), u"Inventory Totals (Filtered)");
-    EXPECT_EQ(totals->dataSet().recordCount(), 1);
-
     kitchen.setStock(3, 2, 1, 2);
     ASSERT_TRUE(list->moveToKey(3));
     list->command(u"mnuTotals"_s)->trigger();

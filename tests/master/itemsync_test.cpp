@@ -241,20 +241,6 @@ TEST_P(ItemSyncTest, WithoutAReservationKeysLieAboveAllOthers)
     EXPECT_EQ(nextItemID(), u"54") << "none of them is handed out again";
 }
 
-TEST(ItemSyncOnAServer, AConnectionLostAtTheCounterEndsTheRun)
-{
-    HostKitchen kitchen(Store::Remote);
-    // The first change fails in an ordinary way, the second one with the connection.
-    kitchen.execute(
-        u"CREATE SEQUENCE tries; CREATE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
-        "IF nextval('tries') = 1 THEN RAISE EXCEPTION 'no luck'; END IF; "
-        "PERFORM pg_terminate_backend(pg_backend_pid()); RETURN NEW; END $$; "
-        "INSERT INTO ItemCtl (NextItemID) VALUES (10); CREATE TRIGGER refusing BEFORE UPDATE ON ItemCtl "
-        "FOR EACH ROW EXECUTE FUNCTION refuse()"_s);
-    CountedProgress progress;
-    EXPECT_EQ(errorOf([&] { ItemSync(kitchen.database()).run(progress); }), ErrorCode::ConnectionLost);
-}
-
 // As the posting of receipts holds it.
 TEST_P(ItemSyncTest, WhoHoldsTheItemsKeepsEverythingAsItIs)
 {

@@ -89,42 +89,6 @@ TEST_P(LocationSyncTest, NamesComeAsTheyAreAndFitTheirField)
     EXPECT_EQ(run().updated, 0);
 }
 
-TEST_P(LocationSyncTest, AFailureKeepsTheLocationsBeforeIt)
-{
-    kitchen.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'A'), (8, 'B'), (9, 'C')"_s);
-    {
-        const BrokenTable broken(kitchen, u"INSERT"_s, u"Warehse"_s, u"NEW.Location_ID = 8"_s);
-        EXPECT_TRUE(errorOf([this] { run(); }));
-    }
-    EXPECT_EQ(locations(), u"1|Office| 2|Freezer| 3|A|7");
-    kitchen.execute(u"UPDATE Locatns SET Location = 'Z' WHERE Location_ID = 7"_s);
-    {
-        const BrokenTable broken(kitchen, u"UPDATE"_s, u"Warehse"_s, u"NEW.WarehouseName = 'Z'"_s);
-        EXPECT_TRUE(errorOf([this] { run(); }));
-    }
-    EXPECT_EQ(locations(), u"1|Office| 2|Freezer| 3|A|7");
-    run();
-    EXPECT_EQ(locations(), u"1|Office| 2|Freezer| 3|Z|7 4|B|8 5|C|9");
-}
-
-TEST_P(LocationSyncTest, ItWaitsForNobodyAndOverwritesNobodysEdit)
-{
-    kitchen.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'A'), (8, 'B'); "
-                    "UPDATE Warehse SET Location_ID = 7 WHERE WarehouseID = 2"_s);
-    const auto anna = kitchen.anotherUser();
-    Engine::Table table(anna->database, u"Warehse"_s);
-    table.open();
-    table.edit(); // of the other location
-    QString message;
-    EXPECT_EQ(errorOf([this] { run(); }, &message), ErrorCode::TableLocked);
-    EXPECT_TRUE(message.startsWith(u"The locations are in use by another user (anna"_s)) << message.toStdString();
-    EXPECT_EQ(locations(), u"1|Office| 2|Freezer|7");
-    table.cancel();
-    run();
-    EXPECT_EQ(locations(), u"1|Office| 2|A|7 3|B|8");
-    table.edit(); // nothing is held any more
-}
-
 TEST_P(LocationSyncTest, NumbersThatAreUsedUpAreNoOverflow)
 {
     kitchen.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'A'), (8, 'B'); "
