@@ -12,7 +12,7 @@ namespace Tallymere {
 QString columnWidths(const DataGrid &grid)
 {
     QStringList widths;
-    const QList<GridColumn> &columns = grid.tableModel()->columns();
+    const QList<GridColumn> &columns = grid.columns();
     for (int i = 0; i < columns.size(); ++i) {
         if (i == grid.surplusColumn())
             continue;
@@ -26,7 +26,7 @@ void setColumnWidths(DataGrid &grid, const QString &text)
     constexpr double widest = 5000;
     const QStringList widths = text.split(u' ', Qt::SkipEmptyParts);
     for (const QString &width : widths) {
-        const int column = grid.tableModel()->columnOf(width.section(u'=', 0, 0));
+        const int column = grid.columnOf(width.section(u'=', 0, 0));
         const double pixels = width.section(u'=', 1).toDouble();
         if (column >= 0 && column != grid.surplusColumn() && pixels >= 1 && pixels <= widest)
             grid.setColumnWidth(column, qRound(pixels * fontFactor(&grid)));

@@ -2,6 +2,7 @@
 
 #include "controls/screenmetrics.h"
 
+#include <algorithm>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
@@ -34,11 +35,23 @@ DataGrid::DataGrid(QWidget *parent)
     horizontalHeader()->setSectionsMovable(false);
 }
 
+int DataGrid::columnOf(const QString &field) const
+{
+    const auto found = std::find_if(m_columns.cbegin(), m_columns.cend(),
+                                    [&](const GridColumn &column) { return column.shows(field); });
+    return found == m_columns.cend() ? -1 : static_cast<int>(found - m_columns.cbegin());
+}
+
 void DataGrid::showModel(TableModel *model)
 {
-    m_model = model;
+    m_table = model;
+    showModel(model, model->columns());
+}
+
+void DataGrid::showModel(QAbstractItemModel *model, const QList<GridColumn> &columns)
+{
+    m_columns = columns;
     setModel(model);
-    const QList<GridColumn> &columns = model->columns();
     m_surplusColumn = static_cast<int>(columns.size()) - 1;
     for (int i = 0; i < columns.size(); ++i) {
         setColumnWidth(i, scaled(this, columns[i].width));
@@ -54,9 +67,9 @@ void DataGrid::showModel(TableModel *model)
 int DataGrid::fullWidth() const
 {
     int width = 0;
-    for (const GridColumn &column : m_model->columns())
+    for (const GridColumn &column : m_columns)
         width += scaled(this, column.width);
-    return width + static_cast<int>(m_model->columns().size()) + scaled(this, 16) + 4;
+    return width + static_cast<int>(m_columns.size()) + scaled(this, 16) + 4;
 }
 
 int DataGrid::heightForRows(int rows) const
@@ -89,7 +102,7 @@ void DataGrid::setHint(const QString &hint)
 
 QString DataGrid::shownHint() const
 {
-    const bool empty = m_model && m_model->dataSet().isOpen() && m_model->rowCount() == 0 && !m_model->hasFailed();
+    const bool empty = m_table && m_table->dataSet().isOpen() && m_table->rowCount() == 0 && !m_table->hasFailed();
     return empty ? m_hint : QString();
 }
 

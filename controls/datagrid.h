@@ -14,7 +14,9 @@ class DataGrid : public QTableView
 public:
     explicit DataGrid(QWidget *parent = nullptr);
 
-    TableModel *tableModel() const { return m_model; }
+    TableModel *tableModel() const { return m_table; } // null where it is not a data set that is shown
+    const QList<GridColumn> &columns() const { return m_columns; }
+    int columnOf(const QString &field) const; // -1 when no column shows it
     // The width that shows all columns, with frame and scroll bar.
     int fullWidth() const;
     int surplusColumn() const { return m_surplusColumn; } // takes the width that the others leave over
@@ -25,14 +27,16 @@ public:
     virtual QString shownHint() const; // empty while there are rows, or nobody knows
 
 protected:
-    void showModel(TableModel *model); // takes widths from the model's columns
+    void showModel(TableModel *model);
+    void showModel(QAbstractItemModel *model, const QList<GridColumn> &columns); // with the columns' widths
     bool viewportEvent(QEvent *event) override; // a text that is cut shows whole beside the mouse
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void paintHint(const QString &hint);
 
-    TableModel *m_model = nullptr;
+    TableModel *m_table = nullptr;
+    QList<GridColumn> m_columns;
     int m_surplusColumn = -1;
     QString m_hint;
 };

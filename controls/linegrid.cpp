@@ -2,7 +2,6 @@
 
 #include "base/ruleerror.h"
 #include "controls/leaving.h"
-#include "controls/linedelegate.h"
 #include "controls/screenmetrics.h"
 #include "controls/stepbox.h"
 
@@ -46,13 +45,8 @@ QToolButton *addSearchButton(QLineEdit *edit, int width)
 } // namespace
 
 LineGrid::LineGrid(QWidget *parent)
-    : DataGrid(parent)
+    : EntryGrid(parent)
 {
-    setSelectionBehavior(QAbstractItemView::SelectItems);
-    setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed
-                    | QAbstractItemView::DoubleClicked);
-    setItemDelegate(new LineDelegate(this));
-    setAlternatingRowColors(false);
 }
 
 void LineGrid::setLines(Engine::Table &lines, const QList<GridColumn> &columns, LineActions actions,
@@ -61,7 +55,7 @@ void LineGrid::setLines(Engine::Table &lines, const QList<GridColumn> &columns, 
     m_lines = &lines;
     m_actions = std::move(actions);
     m_options = options;
-    m_guard = &guard;
+    setGuard(guard);
     m_model = new LineModel(lines, columns, options, guard, this);
     showModel(m_model);
     delete selectionModel();
@@ -84,17 +78,17 @@ void LineGrid::setReadOnly(bool readOnly)
     viewport()->update();
 }
 
-QString LineGrid::shownHint() const { return m_readOnly ? QString() : DataGrid::shownHint(); }
+QString LineGrid::shownHint() const { return m_readOnly ? QString() : EntryGrid::shownHint(); }
 
 // --- the cursor -------------------------------------------------------------------------------------------------
 
 bool LineGrid::moveToRow(int row)
 {
-    if (m_reporting)
+    if (isReporting())
         return row == m_model->currentRow();
     if (row == m_model->currentRow())
         return true;
-    return m_guard->run([&] { m_lines->moveTo(row); });
+    return guard().run([&] { m_lines->moveTo(row); });
 }
 
 void LineGrid::takeCursor()
@@ -118,8 +112,8 @@ bool LineGrid::showColumn(const QString &field)
     const int column = m_model->columnOf(field);
     if (column < 0)
         return false;
-    if (m_editor) {
-        m_editor->setFocus();
+    if (editor()) {
+        editor()->setFocus();
         return true;
     }
     setFocus();
@@ -141,7 +135,7 @@ void LineGrid::appendLine()
 {
     if (!appends() || !finishEntry())
         return;
-    if (m_guard->run(m_actions.append) && m_model->currentRow() >= 0)
+    if (guard().run(m_actions.append) && m_model->currentRow() >= 0)
         selectCell(m_model->currentRow(), 0);
 }
 
@@ -150,7 +144,7 @@ void LineGrid::removeLine()
     if (!appends())
         return;
     dropEntry();
-    m_guard->run(m_actions.remove);
+    guard().run(m_actions.remove);
     takeCursor();
 }
 
@@ -179,7 +173,7 @@ bool LineGrid::moveByTab(bool forward)
         return true;
     }
     if (m_model->isUntouched())
-        m_guard->run([this] { m_lines->cancel(); });
+        guard().run([this] { m_lines->cancel(); });
     return false;
 }
 
@@ -195,7 +189,7 @@ void LineGrid::moveByHand(const std::function<void()> &move)
 // The search opens once the event that has moved the cursor is over.
 void LineGrid::searchIfEntered(int before)
 {
-    const bool entered = currentIndex().column() != before && !m_ledByCheck && !m_editor;
+    const bool entered = currentIndex().column() != before && !m_ledByCheck && !editor();
     if (m_options.searchOnEntering && entered && searches(currentField()))
         QMetaObject::invokeMethod(this, &LineGrid::search, Qt::QueuedConnection);
 }
@@ -209,7 +203,7 @@ void LineGrid::search()
     const QPersistentModelIndex cell = currentIndex();
     dropEntry();
     bool chosen = false;
-    m_guard->run([&] { chosen = m_actions.search(field, typed); });
+    guard().run([&] { chosen = m_actions.search(field, typed); });
     setFocus();
     if (!chosen && !typed.isEmpty())
         reopen(cell, typed);
@@ -219,58 +213,53 @@ void LineGrid::search()
 // the lines have been read anew.
 bool LineGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
-    const bool opens = index.flags().testFlag(Qt::ItemIsEditable) && !m_editor && editTriggers().testFlag(trigger);
+    const bool opens = index.flags().testFlag(Qt::ItemIsEditable) && !editor() && editTriggers().testFlag(trigger);
     if (!opens || !m_actions.begin)
-        return DataGrid::edit(index, trigger, event);
+        return EntryGrid::edit(index, trigger, event);
     const int column = index.column();
-    if (!m_guard->run(m_actions.begin))
+    if (!guard().run(m_actions.begin))
         return false;
-    return DataGrid::edit(m_model->index(m_model->currentRow(), column), trigger, event);
+    return EntryGrid::edit(m_model->index(m_model->currentRow(), column), trigger, event);
 }
 
 // --- the entry in hand ------------------------------------------------------------------------------------------
 
-QWidget *LineGrid::openEditor(QWidget *parent, const QModelIndex &index)
+EntryGrid::Editor LineGrid::makeEditor(QWidget *parent, const QModelIndex &cell)
 {
-    const GridColumn &column = m_model->columns()[index.column()];
-    m_editorBox = steps(column.field) ? makeStepBox(parent, column.field) : makeEdit(parent, column.field);
-    m_editorBox->setObjectName(u"editCell"_s);
-    m_editorBox->setAccessibleName(column.title);
-    m_editor->setAlignment(column.alignment | Qt::AlignVCenter);
-    m_offered = m_model->data(index, Qt::EditRole).toString();
-    m_editor->setText(m_offered);
-    m_editor->selectAll();
-    connect(m_editor, &QLineEdit::textEdited, this, &LineGrid::completeEntry);
-    m_edited = index;
-    return m_editorBox;
+    const QString &field = columns()[cell.column()].field;
+    const Editor made = steps(field)
+        ? stepBox(parent, std::as_const(*m_lines).field(field), m_options.steps[field]())
+        : makeLineEdit(parent, field);
+    connect(made.edit, &QLineEdit::textEdited, this, &LineGrid::completeEntry);
+    return made;
 }
 
-QWidget *LineGrid::makeStepBox(QWidget *parent, const QString &field)
+EntryGrid::Editor LineGrid::makeLineEdit(QWidget *parent, const QString &field)
 {
-    auto *box = new StepBox(std::as_const(*m_lines).field(field), m_options.steps[field](), parent);
-    box->setFrame(false);
-    m_editor = box->edit();
-    return box;
-}
-
-QWidget *LineGrid::makeEdit(QWidget *parent, const QString &field)
-{
-    m_editor = new QLineEdit(parent);
-    m_editor->setFrame(false);
+    const Editor made = lineEdit(parent);
     const Engine::Field &shown = std::as_const(*m_lines).field(field);
     if (shown.type == Engine::FieldType::Text && shown.size > 0)
-        m_editor->setMaxLength(shown.size);
+        made.edit->setMaxLength(shown.size);
     if (searches(field)) {
-        const QToolButton *button = addSearchButton(m_editor, scaled(this, 22));
+        const QToolButton *button = addSearchButton(made.edit, scaled(this, 22));
         connect(button, &QToolButton::clicked, this, &LineGrid::search, Qt::QueuedConnection);
     }
-    return m_editor;
+    return made;
 }
 
-void LineGrid::editorGone()
+void LineGrid::takeEntry(const QModelIndex &cell, const QString &text, Entry entry)
 {
-    m_editor = nullptr;
-    m_editorBox = nullptr;
+    if (entry == Entry::Unchanged)
+        return;
+    const QString &field = columns()[cell.column()].field;
+    if (steps(field))
+        requireWithin(m_options.steps[field](), std::as_const(*m_lines).field(field), text);
+    m_actions.enter(field, text);
+}
+
+void LineGrid::entered()
+{
+    moveByHand([this] { nextCell(); });
 }
 
 void LineGrid::completeEntry(const QString &typed)
@@ -280,115 +269,8 @@ void LineGrid::completeEntry(const QString &typed)
     const QString whole = m_actions.complete(currentField(), typed);
     if (whole.size() <= typed.size())
         return;
-    m_editor->setText(whole);
-    m_editor->setSelection(static_cast<int>(whole.size()), static_cast<int>(typed.size() - whole.size()));
-}
-
-QString LineGrid::typedText() const
-{
-    return m_editor && m_editor->text() != m_offered ? m_editor->text() : QString();
-}
-
-void LineGrid::commitEntry()
-{
-    if (m_reporting)
-        throw SilentAbort();
-    if (!m_editor)
-        return;
-    const QString text = m_editor->text();
-    const QString &field = m_model->columns()[m_edited.column()].field;
-    if (text != m_offered) {
-        requireWithin(field, text);
-        m_actions.enter(field, text);
-    }
-    closeEntry();
-}
-
-void LineGrid::requireWithin(const QString &field, const QString &text) const
-{
-    if (!steps(field))
-        return;
-    const Engine::Field &shown = std::as_const(*m_lines).field(field);
-    const Engine::Value value = shown.parse(text);
-    const LineSteps limits = m_options.steps[field]();
-    if (value.toDouble() > limits.highest)
-        throw RuleError(tr("'%1' must not be greater than %2").arg(shown.caption(), shown.editText(limits.highest)),
-                        field);
-    if (value.toDouble() < limits.lowest)
-        throw RuleError(tr("'%1' must not be less than %2").arg(shown.caption(), shown.editText(limits.lowest)),
-                        field);
-}
-
-void LineGrid::closeEntry()
-{
-    if (!m_editor)
-        return;
-    QWidget *editor = std::exchange(m_editorBox, nullptr);
-    m_editor = nullptr;
-    closeEditor(editor, QAbstractItemDelegate::NoHint);
-}
-
-void LineGrid::dropEntry() { closeEntry(); }
-
-bool LineGrid::finishEntry()
-{
-    const std::exception_ptr failure = Guard::attempt([this] { commitEntry(); });
-    if (!failure)
-        return true;
-    {
-        const QScopedValueRollback reporting(m_reporting, true);
-        m_guard->report(failure);
-    }
-    if (m_editor) {
-        m_editor->setFocus();
-        m_editor->selectAll();
-    }
-    return false;
-}
-
-void LineGrid::editorLeft(Qt::FocusReason reason)
-{
-    if (!m_editor || m_reporting || comesBack(reason))
-        return;
-    if (dropsEntry(QApplication::focusWidget())) {
-        dropEntry();
-        return;
-    }
-    const QString text = m_editor->text();
-    const QPersistentModelIndex index = m_edited;
-    const std::exception_ptr failure = Guard::attempt([this] { commitEntry(); });
-    if (!failure)
-        return leave(reason);
-    closeEntry();
-    reportLater(failure, [this, index, text] { reopen(index, text); });
-}
-
-// The box must wait for the end of the event that took the focus away; until then the cursor is held.
-void LineGrid::reportLater(const std::exception_ptr &failure, const std::function<void()> &then)
-{
-    m_reporting = true;
-    QMetaObject::invokeMethod(
-        this,
-        [this, failure, then] {
-            m_guard->report(failure);
-            m_reporting = false;
-            setFocus();
-            if (then)
-                then();
-        },
-        Qt::QueuedConnection);
-}
-
-void LineGrid::reopen(const QModelIndex &index, const QString &text)
-{
-    if (!index.isValid())
-        return;
-    setCurrentIndex(index);
-    DataGrid::edit(index);
-    if (m_editor) {
-        m_editor->setText(text);
-        m_editor->selectAll();
-    }
+    editor()->setText(whole);
+    editor()->setSelection(static_cast<int>(whole.size()), static_cast<int>(typed.size() - whole.size()));
 }
 
 // --- the focus --------------------------------------------------------------------------------------------------
@@ -401,7 +283,7 @@ bool LineGrid::isLeft(Qt::FocusReason reason) const
 
 void LineGrid::leave(Qt::FocusReason reason)
 {
-    if (!m_options.backToStart || m_reporting || !m_model || m_model->rowCount() == 0 || !isLeft(reason))
+    if (!m_options.backToStart || isReporting() || !m_model || m_model->rowCount() == 0 || !isLeft(reason))
         return;
     if (const std::exception_ptr failure = Guard::attempt([this] { m_lines->moveTo(0); }))
         reportLater(failure, {});
@@ -413,19 +295,19 @@ bool LineGrid::focusNextPrevChild(bool next)
 {
     bool stays = false;
     moveByHand([&] { stays = moveByTab(next); });
-    return stays || DataGrid::focusNextPrevChild(next);
+    return stays || EntryGrid::focusNextPrevChild(next);
 }
 
 void LineGrid::focusInEvent(QFocusEvent *event)
 {
-    DataGrid::focusInEvent(event);
+    EntryGrid::focusInEvent(event);
     if (!currentIndex().isValid() && m_model && m_model->rowCount() > 0)
         takeCursor();
 }
 
 void LineGrid::focusOutEvent(QFocusEvent *event)
 {
-    DataGrid::focusOutEvent(event);
+    EntryGrid::focusOutEvent(event);
     leave(event->reason());
 }
 
@@ -438,40 +320,15 @@ bool LineGrid::editorKey(QKeyEvent *event)
         search();
         return true;
     }
-    if (isEnter(event)) {
-        if (finishEntry())
-            moveByHand([this] { nextCell(); });
+    if (event->key() == Qt::Key_Insert && hasControl(event)) {
+        appendLine();
         return true;
     }
-    switch (event->key()) {
-    case Qt::Key_Escape:
-        dropEntry();
+    if (event->key() == Qt::Key_Delete && hasControl(event)) {
+        removeLine();
         return true;
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-        if (finishEntry())
-            focusNextPrevChild(event->key() == Qt::Key_Tab);
-        return true;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        if (steps(m_model->columns()[m_edited.column()].field))
-            return false;
-        [[fallthrough]];
-    case Qt::Key_PageDown:
-        if (finishEntry())
-            keyPressEvent(event);
-        return true;
-    case Qt::Key_Insert:
-        if (hasControl(event))
-            appendLine();
-        return hasControl(event);
-    case Qt::Key_Delete:
-        if (hasControl(event))
-            removeLine();
-        return hasControl(event);
-    default:
-        return false;
     }
+    return EntryGrid::editorKey(event);
 }
 
 // --- keys outside the editor ------------------------------------------------------------------------------------
@@ -491,7 +348,7 @@ void LineGrid::keyPressEvent(QKeyEvent *event)
     }
     if (event->key() == Qt::Key_Escape) {
         if (m_lines->isEditing())
-            m_guard->run([this] { m_lines->cancel(); });
+            guard().run([this] { m_lines->cancel(); });
         else
             event->ignore();
         return;
@@ -499,7 +356,7 @@ void LineGrid::keyPressEvent(QKeyEvent *event)
     const bool typing = !event->text().isEmpty() && event->text().front().isPrint() && !hasControl(event);
     if (typing && m_model->rowCount() == 0)
         appendLine();
-    moveByHand([&] { DataGrid::keyPressEvent(event); });
+    moveByHand([&] { EntryGrid::keyPressEvent(event); });
 }
 
 // The column is entered when the button is let go; a search over a button that is down would not see it go up.
@@ -507,12 +364,12 @@ void LineGrid::mousePressEvent(QMouseEvent *event)
 {
     m_pressedFrom = currentIndex().column();
     m_ledByCheck = false;
-    DataGrid::mousePressEvent(event);
+    EntryGrid::mousePressEvent(event);
 }
 
 void LineGrid::mouseReleaseEvent(QMouseEvent *event)
 {
-    DataGrid::mouseReleaseEvent(event);
+    EntryGrid::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton)
         searchIfEntered(std::exchange(m_pressedFrom, currentIndex().column()));
 }
@@ -528,7 +385,7 @@ void LineGrid::mouseDoubleClickEvent(QMouseEvent *event)
         search();
         return;
     }
-    DataGrid::mouseDoubleClickEvent(event);
+    EntryGrid::mouseDoubleClickEvent(event);
 }
 
 } // namespace Tallymere

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "controls/datagrid.h"
-#include "controls/guard.h"
+#include "controls/entrygrid.h"
 #include "controls/linemodel.h"
-
-class QLineEdit;
 
 namespace Tallymere {
 
@@ -32,7 +29,7 @@ struct LineActions
 // nothing has been entered. Page Down appends, Ctrl+Insert and Ctrl+Delete append and delete, Ctrl+Enter searches. A
 // double click begins the first line. Leaving a row writes it; when that is refused the cursor stays. Escape drops
 // first the text being typed, then the changes of the row.
-class LineGrid : public DataGrid
+class LineGrid : public EntryGrid
 {
     Q_OBJECT
 
@@ -44,12 +41,6 @@ public:
     // Lines can neither be appended nor deleted nor searched; what an edit says is up to the document.
     void setReadOnly(bool readOnly);
     bool isReadOnly() const { return m_readOnly; }
-
-    // Hands the text being typed to the document; throws what refuses it, and the editor stays open.
-    // SilentAbort while a refusal is still to be shown.
-    void commitEntry();
-    bool hasEntry() const { return m_editor != nullptr; }
-    void dropEntry(); // without a word
 
     bool showColumn(const QString &field); // goes to it in the current line; false when no column shows the field
     void enterAtFirstLine(); // focus, first line and column; appends when there are none
@@ -71,21 +62,13 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    friend class LineDelegate;
-
-    QWidget *openEditor(QWidget *parent, const QModelIndex &index);
-    QWidget *makeStepBox(QWidget *parent, const QString &field);
-    QWidget *makeEdit(QWidget *parent, const QString &field);
-    bool editorKey(QKeyEvent *event);
-    void editorLeft(Qt::FocusReason reason);
-    void editorGone();
-    bool finishEntry(); // commits and closes; false, with the editor open, when refused
-    void closeEntry();
-    void reportLater(const std::exception_ptr &failure, const std::function<void()> &then);
-    void reopen(const QModelIndex &index, const QString &text);
+    Editor makeEditor(QWidget *parent, const QModelIndex &cell) override;
+    Editor makeLineEdit(QWidget *parent, const QString &field);
+    void takeEntry(const QModelIndex &cell, const QString &text, Entry entry) override;
+    void entered() override;
+    void entryLeft(Qt::FocusReason reason) override { leave(reason); }
+    bool editorKey(QKeyEvent *event) override;
     void completeEntry(const QString &typed);
-    QString typedText() const; // what has been typed in the open editor, if anything
-    void requireWithin(const QString &field, const QString &text) const;
 
     bool isLeft(Qt::FocusReason reason) const;
     void leave(Qt::FocusReason reason);
@@ -108,13 +91,7 @@ private:
     LineModel *m_model = nullptr;
     LineActions m_actions;
     LineOptions m_options;
-    const Guard *m_guard = nullptr;
-    QWidget *m_editorBox = nullptr; // the open editor: m_editor, or what holds it
-    QLineEdit *m_editor = nullptr;
-    QPersistentModelIndex m_edited;
-    QString m_offered; // what the editor began with
     bool m_readOnly = false;
-    bool m_reporting = false; // a refusal is being shown: the focus may come and go
     bool m_deleting = false; // the last key took text away: no completion
     bool m_ledByCheck = false; // a refusal has put the cursor where it is
     int m_pressedFrom = -1; // the column in which the cursor was when the mouse button went down

@@ -1,5 +1,6 @@
 #include "controls/stepbox.h"
 
+#include "base/ruleerror.h"
 #include "controls/guard.h"
 
 #include <algorithm>
@@ -40,5 +41,18 @@ QAbstractSpinBox::StepEnabled StepBox::stepEnabled() const
 }
 
 void StepBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
+
+void requireWithin(const LineSteps &limits, const Engine::Field &field, const QString &text)
+{
+    const double number = field.parse(text).toDouble();
+    if (number > limits.highest)
+        throw RuleError(
+            StepBox::tr("'%1' must not be greater than %2").arg(field.caption(), field.editText(limits.highest)),
+            field.name);
+    if (number < limits.lowest)
+        throw RuleError(
+            StepBox::tr("'%1' must not be less than %2").arg(field.caption(), field.editText(limits.lowest)),
+            field.name);
+}
 
 } // namespace Tallymere

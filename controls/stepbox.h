@@ -30,4 +30,7 @@ private:
     const LineSteps m_steps;
 };
 
+// Refuses a text that is beyond the limits: throws RuleError with the field.
+void requireWithin(const LineSteps &limits, const Engine::Field &field, const QString &text);
+
 } // namespace Tallymere

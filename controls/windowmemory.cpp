@@ -41,7 +41,8 @@ QString WindowMemory::section() const { return m_window.objectName(); }
 QList<DataGrid *> WindowMemory::grids() const
 {
     QList<DataGrid *> grids = m_window.findChildren<DataGrid *>();
-    grids.removeIf([this](const DataGrid *grid) { return !grid->tableModel() || grid->window() != &m_window; });
+    grids.removeIf(
+        [this](const DataGrid *grid) { return grid->columns().isEmpty() || grid->window() != &m_window; });
     return grids;
 }
 

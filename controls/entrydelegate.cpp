@@ -1,30 +1,30 @@
-#include "controls/linedelegate.h"
+#include "controls/entrydelegate.h"
 
-#include "controls/linegrid.h"
+#include "controls/entrygrid.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
 
 namespace Tallymere {
 
-LineDelegate::LineDelegate(LineGrid *grid)
+EntryDelegate::EntryDelegate(EntryGrid *grid)
     : QStyledItemDelegate(grid)
     , m_grid(grid)
 {
 }
 
-QWidget *LineDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const
+QWidget *EntryDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const
 {
     return m_grid->openEditor(parent, index);
 }
 
-void LineDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
+void EntryDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
 {
     m_grid->editorGone();
     QStyledItemDelegate::destroyEditor(editor, index);
 }
 
-bool LineDelegate::eventFilter(QObject *, QEvent *event)
+bool EntryDelegate::eventFilter(QObject *, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::ShortcutOverride: {

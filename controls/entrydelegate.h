@@ -4,16 +4,16 @@
 
 namespace Tallymere {
 
-class LineGrid;
+class EntryGrid;
 
-// The editor of a line grid's cells. Keys and the loss of the focus go to the grid, which alone decides when an
+// The editor of the cells of a grid. Keys and the loss of the focus go to the grid, which alone decides when an
 // entry is handed over.
-class LineDelegate final : public QStyledItemDelegate
+class EntryDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
-    explicit LineDelegate(LineGrid *grid);
+    explicit EntryDelegate(EntryGrid *grid);
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
@@ -24,7 +24,7 @@ public:
 private:
     bool eventFilter(QObject *editor, QEvent *event) override;
 
-    LineGrid *m_grid;
+    EntryGrid *m_grid;
 };
 
 } // namespace Tallymere
