@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace Engine {
 
-using Current = DataSetReader::Current;
-
 DataSet::DataSet(Database &database)
     : d(std::make_unique<Private>())
     , m_database(database)
@@ -35,7 +33,7 @@ bool DataSet::isEmpty() const
     if (d->keysRead)
         return d->keys.count() == 0;
     DataSetReader(*this).resolve();
-    return d->current == Current::Empty;
+    return d->cursor.isEmpty();
 }
 
 int DataSet::recordCount() const
@@ -47,8 +45,8 @@ int DataSet::recordCount() const
 }
 
 int DataSet::recordIndex() const { return m_open ? DataSetReader(*this).index() : -1; }
-bool DataSet::atEnd() const { return !m_open || d->atEnd || isEmpty(); }
-bool DataSet::atBegin() const { return !m_open || d->atBegin || isEmpty(); }
+bool DataSet::atEnd() const { return !m_open || d->cursor.atEnd() || isEmpty(); }
+bool DataSet::atBegin() const { return !m_open || d->cursor.atBegin() || isEmpty(); }
 
 void DataSet::beforeMove()
 {
@@ -60,20 +58,12 @@ void DataSet::first()
 {
     requireOpen();
     beforeMove();
-    if (d->keysRead) {
+    if (d->keysRead)
         moveTo(0);
-        d->atBegin = true;
-        return;
-    }
-    const bool moves = d->current != Current::Unread && d->index != 0;
-    if (moves)
-        d->holdNothing(Current::Unread);
-    d->atBegin = true;
-    d->atEnd = false;
-    if (!moves)
-        return;
-    Q_EMIT currentChanged();
-    scrolled();
+    if (d->keysRead || d->cursor.isFirst())
+        return d->cursor.pastBegin();
+    d->cursor.toFirst();
+    announceMove();
 }
 
 void DataSet::last()
@@ -89,8 +79,7 @@ void DataSet::next()
     const int index = recordIndex();
     if (index + 1 < recordCount())
         return moveTo(index + 1);
-    d->atEnd = true;
-    d->atBegin = false;
+    d->cursor.pastEnd();
 }
 
 void DataSet::prior()
@@ -100,8 +89,7 @@ void DataSet::prior()
     const int index = recordIndex();
     if (index > 0)
         return moveTo(index - 1);
-    d->atBegin = true;
-    d->atEnd = false;
+    d->cursor.pastBegin();
 }
 
 void DataSet::moveTo(int index)
@@ -112,12 +100,14 @@ void DataSet::moveTo(int index)
     if (count == 0)
         return;
     const int target = std::clamp(index, 0, count - 1);
-    d->atEnd = false;
-    d->atBegin = false;
     if (DataSetReader(*this).index() == target)
-        return;
-    d->hold(d->keys.at(target), std::nullopt);
-    d->index = target;
+        return d->cursor.arrive();
+    d->cursor.to(d->keys.at(target), std::nullopt, target);
+    announceMove();
+}
+
+void DataSet::announceMove()
+{
     Q_EMIT currentChanged();
     scrolled();
 }
@@ -144,30 +134,24 @@ QList<qint64> DataSet::currentKey() const
     if (!m_open)
         return {};
     DataSetReader(*this).resolve();
-    return d->key;
+    return d->cursor.key();
+}
+
+QList<qint64> DataSet::keyAt(int index) const
+{
+    return index >= 0 && index < recordCount() ? d->keys.at(index) : QList<qint64>();
 }
 
 bool DataSet::moveToKey(const QList<qint64> &key)
 {
     requireOpen();
-    if (key.isEmpty())
-        return false;
-    const DataSetReader reader(*this);
-    reader.resolve();
-    if (d->current == Current::Known && d->key == key)
+    DataSetReader(*this).resolve();
+    if (d->cursor.isAt(key))
         return true;
-    if (d->keysRead || d->inMemory) {
-        reader.readKeys();
-        if (const int index = d->keys.find(key); index >= 0) {
-            moveTo(index);
-            return true;
-        }
-    }
-    if (d->inMemory || !reader.read(&RowSource::holds, key))
+    if (!holds(key))
         return false;
     beforeMove();
-    const bool isNew = holdFound(key, std::nullopt);
-    announceMove(isNew);
+    moveToFound(key, std::nullopt);
     return true;
 }
 
@@ -185,12 +169,35 @@ std::vector<Row> DataSet::firstRows(int count) const
 
 void DataSet::onDamage(std::function<void()> mend) { d->mend = std::move(mend); }
 
-// --- finding and restricting -----------------------------------------------------------------------------------
+// --- looking up ------------------------------------------------------------------------------------------------
 
-bool DataSet::locate(const QString &fields, const QList<Value> &values, LocateOptions options)
+static QStringList namesIn(const QString &fields) { return fields.split(u';', Qt::SkipEmptyParts); }
+
+std::optional<FoundRow> DataSet::find(const QString &fields, const QList<Value> &values,
+                                      LocateOptions options) const
 {
     requireOpen();
-    return moveToFirstMatch(fields.split(u';', Qt::SkipEmptyParts), values, options);
+    return findFirst(namesIn(fields), values, options);
+}
+
+Value DataSet::lookUp(const QString &fields, const QList<Value> &values, QStringView result,
+                      LocateOptions options) const
+{
+    const auto found = find(fields, values, options);
+    return found ? found->row[static_cast<size_t>(requireField(result))] : Value();
+}
+
+bool DataSet::holds(const QList<qint64> &key) const
+{
+    requireOpen();
+    return !key.isEmpty() && DataSetReader(*this).holds(key);
+}
+
+int DataSet::indexOf(const QList<qint64> &key) const
+{
+    requireOpen();
+    DataSetReader(*this).readKeys();
+    return d->keys.find(key);
 }
 
 namespace {
@@ -221,56 +228,57 @@ bool DataSet::matches(const Row &row, const QStringList &fields, const QList<Val
     return true;
 }
 
+std::optional<FoundRow> DataSet::findFirst(const QStringList &fields, const QList<Value> &values,
+                                           LocateOptions options) const
+{
+    const DataSetReader reader(*this);
+    try {
+        if (!d->inMemory)
+            return reader.read(&RowSource::first, reader.source().match(fields, values, options));
+        const auto found = std::find_if(d->memory.begin(), d->memory.end(),
+                                        [&](const Row &row) { return matches(row, fields, values, options); });
+        if (found == d->memory.end())
+            return std::nullopt;
+        return FoundRow{{found - d->memory.begin()}, *found};
+    } catch (const EngineError &error) {
+        if (error.code() == ErrorCode::BadValue)
+            return std::nullopt; // no row can hold what does not fit the field
+        throw;
+    }
+}
+
+// --- finding and restricting -----------------------------------------------------------------------------------
+
+bool DataSet::locate(const QString &fields, const QList<Value> &values, LocateOptions options)
+{
+    requireOpen();
+    return moveToFirstMatch(namesIn(fields), values, options);
+}
+
 bool DataSet::moveToFirstMatch(const QStringList &fields, const QList<Value> &values, LocateOptions options)
 {
     beforeMove();
-    bool moves = false;
-    bool isNew = false;
-    try {
-        if (d->inMemory) {
-            const auto found = std::find_if(d->memory.begin(), d->memory.end(),
-                                            [&](const Row &row) { return matches(row, fields, values, options); });
-            if (found == d->memory.end())
-                return false;
-            moveTo(static_cast<int>(found - d->memory.begin()));
-            return true;
-        }
-        const DataSetReader reader(*this);
-        auto found = reader.read(&RowSource::first, reader.source().match(fields, values, options));
-        if (!found)
-            return false;
-        moves = d->current != Current::Known || d->key != found->key;
-        isNew = holdFound(found->key, std::move(found->row));
-    } catch (const EngineError &error) {
-        if (error.code() == ErrorCode::BadValue)
-            return false; // no row can hold what does not fit the field
-        throw;
-    }
-    if (moves || isNew)
-        announceMove(isNew);
+    auto found = findFirst(fields, values, options);
+    if (!found)
+        return false;
+    moveToFound(found->key, std::move(found->row));
     return true;
 }
 
-// Makes a row current that the store has found. True when it has come since the keys were read; they are then read
-// again, lest the row has no place among them.
-bool DataSet::holdFound(const QList<qint64> &key, std::optional<Row> row)
+// When the row has come since the keys were read, they are read again, lest it has no place among them.
+void DataSet::moveToFound(const QList<qint64> &key, std::optional<Row> row)
 {
-    const int known = d->current == Current::Known && d->key == key ? d->index : -1;
+    const bool moves = !d->cursor.isAt(key);
+    const int known = moves ? -1 : d->cursor.index();
     const int index = d->keysRead && known < 0 ? d->keys.find(key) : known;
     const bool isNew = d->keysRead && index < 0;
     if (isNew)
         d->forgetRead();
-    d->hold(key, std::move(row));
-    d->index = index;
-    return isNew;
-}
-
-void DataSet::announceMove(bool listIsNew)
-{
-    if (listIsNew)
+    d->cursor.to(key, std::move(row), index);
+    if (isNew)
         Q_EMIT listChanged();
-    Q_EMIT currentChanged();
-    scrolled();
+    if (isNew || moves)
+        announceMove();
 }
 
 void DataSet::setFilter(const QString &expression)
@@ -317,19 +325,9 @@ void DataSet::refresh()
 
 void DataSet::invalidate(Place place)
 {
-    if (d->index >= 0)
-        d->formerIndex = d->index;
     d->source.reset();
     d->forgetRead();
-    if (place == Place::First || d->current != Current::Known) {
-        d->holdNothing(Current::Unread);
-        d->formerIndex = 0;
-        return;
-    }
-    d->index = -1;
-    d->verify = true;
-    d->atEnd = false;
-    d->atBegin = false;
+    place == Place::Keep ? d->cursor.listChanged() : d->cursor.toFirst();
 }
 
 void DataSet::emitListChanged()

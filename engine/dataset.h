@@ -18,6 +18,12 @@ struct SetScope;
 
 using Row = std::vector<Value>; // in the order of the fields; calculated fields hold null here
 
+struct FoundRow
+{
+    QList<qint64> key;
+    Row row;
+};
+
 enum class LocateOption { None = 0, CaseInsensitive = 1, PartialKey = 2 };
 Q_DECLARE_FLAGS(LocateOptions, LocateOption)
 Q_DECLARE_OPERATORS_FOR_FLAGS(LocateOptions)
@@ -91,14 +97,26 @@ public:
     Value valueIn(const Row &row, int field) const; // of a row of the set that is in hand, calculated fields too
     // To find the row again after a refresh. Empty for an empty set.
     QList<qint64> currentKey() const;
+    QList<qint64> keyAt(int index) const; // empty beyond the set
     bool moveToKey(const QList<qint64> &key); // false, and no move, when the set does not hold it
     // The first rows of the set before the keys are read, so that a list can paint at once.
     std::vector<Row> firstRows(int count) const;
 
+    // --- looking up: nothing moves, nothing is signalled ----------------------------------------------------------
+    // The first row in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values; PartialKey
+    // lets the last text begin with its value. Reads that row alone, as it is stored by now: the list may have been
+    // read before it came.
+    std::optional<FoundRow> find(const QString &fields, const QList<Value> &values,
+                                 LocateOptions options = LocateOption::None) const;
+    // The value of a data or lookup field of that row; null when there is none.
+    Value lookUp(const QString &fields, const QList<Value> &values, QStringView result,
+                 LocateOptions options = LocateOption::None) const;
+    bool holds(const QList<qint64> &key) const; // the set has a row of this key by now
+    int indexOf(const QList<qint64> &key) const; // -1 when the list was read without it. Reads the keys
+
     // --- finding and restricting --------------------------------------------------------------------------------
-    // Moves to the first row in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values;
-    // PartialKey lets the last text begin with its value. Reads that row alone; on failure the record stays. A row that
-    // has been added since the list was read is found as well, and the list is new then; so with moveToKey().
+    // Moves to the row that find() gives; when there is none the record stays. For a row that has been added since the
+    // list was read, that is read again; so with moveToKey().
     bool locate(const QString &fields, const QList<Value> &values, LocateOptions options = LocateOption::None);
     // The fields that the set is ordered by, one after the other; empty for a set without an order of its own. A text
     // is found by its beginning with one key look-up when it is compared as said here.
@@ -146,7 +164,9 @@ protected:
     void invalidate(Place place);
     void emitListChanged(); // with currentChanged, for a set that is new as a whole
     Value lookedUp(const Field &field, const Value &key) const;
-    // locate() over the given fields.
+    // find() and locate() over the given fields.
+    std::optional<FoundRow> findFirst(const QStringList &fields, const QList<Value> &values,
+                                      LocateOptions options) const;
     bool moveToFirstMatch(const QStringList &fields, const QList<Value> &values, LocateOptions options);
     // Brings the data fields up to the given ones. Fields that stay keep their labels, rules and references.
     void setDataFields(const std::vector<Field> &fields);
@@ -163,8 +183,8 @@ protected:
 
 private:
     void addField(Field field);
-    bool holdFound(const QList<qint64> &key, std::optional<Row> row);
-    void announceMove(bool listIsNew);
+    void moveToFound(const QList<qint64> &key, std::optional<Row> row);
+    void announceMove();
     bool matches(const Row &row, const QStringList &fields, const QList<Value> &values,
                  LocateOptions options) const;
 };

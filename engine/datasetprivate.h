@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/cursor.h"
 #include "engine/error.h"
 #include "engine/filter/filterexpression.h"
 #include "engine/keylist.h"
@@ -11,29 +12,17 @@
 namespace Engine {
 
 // Where a set stands: its statements, what of it has been read, and the current record.
-//
-// The current record is held in one of three ways. Unread: it is the first, which nobody has asked for yet. By key:
-// its key, and mostly its row, are in hand, while its index is not known because the list was not read. By index.
 struct DataSet::Private
 {
-    enum class Current { Unread, Empty, Known };
-
     std::optional<RowSource> source; // of the scope in force
     std::function<void()> mend;
     KeyList keys;
     bool keysRead = false;
     WindowCache windows;
-    std::vector<Row> memory; // of a query without key: the whole result
+    std::vector<Row> memory; // of a query without key: the whole result; the key of a row is its index
     bool inMemory = false;
 
-    Current current = Current::Unread;
-    Key key;
-    std::optional<Row> row; // the current one, when it is held by itself
-    int index = -1; // of the current record, when known
-    int formerIndex = 0; // where it stood in the list before
-    bool verify = false; // the list may have lost the current record
-    bool atEnd = false;
-    bool atBegin = true;
+    Cursor cursor;
 
     const Row *rowInHand = nullptr; // while a calculated field of another row is computed
     Row nullRow;
@@ -46,38 +35,22 @@ struct DataSet::Private
         keys = KeyList();
         keysRead = false;
         windows.clear();
-        row.reset();
     }
 
-    void hold(Key newKey, std::optional<Row> newRow)
+    // The current record has these values by now.
+    void takeRow(Row row)
     {
-        current = Current::Known;
-        key = std::move(newKey);
-        row = std::move(newRow);
-        index = -1;
-        verify = false;
-        atEnd = false;
-        atBegin = false;
-    }
-
-    void holdNothing(Current how)
-    {
-        current = how;
-        key.clear();
-        row.reset();
-        index = -1;
-        verify = false;
-        atEnd = false;
-        atBegin = true;
+        if (Row *listed = cursor.index() >= 0 ? windows.row(cursor.index()) : nullptr)
+            *listed = row;
+        cursor.takeRow(std::move(row));
     }
 };
 
-// The reading behind DataSet's functions; all of it may happen within a const call.
+// The reading behind DataSet's functions. All of it may happen within a const call, which then makes known what is
+// current, but moves nothing.
 class DataSetReader
 {
 public:
-    using Current = DataSet::Private::Current;
-
     explicit DataSetReader(const DataSet &set)
         : m_set(set)
         , d(*set.d)
@@ -100,13 +73,14 @@ public:
     }
     void readKeys() const;
     void resolve() const; // makes the current record known, or the set known to be empty
+    bool holds(const Key &key) const;
     int index() const; // of the current record, -1 in an empty set
     const Row &rowAt(int index) const;
     const Row &currentRow() const;
 
 private:
     bool mended(const EngineError &error) const;
-    void stayOrTakePlace() const;
+    void findInKeys() const;
 
     const DataSet &m_set;
     DataSet::Private &d;

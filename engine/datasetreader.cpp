@@ -6,8 +6,6 @@
 
 namespace Engine {
 
-using Current = DataSetReader::Current;
-
 SqlCondition DataSetReader::condition(const FilterExpression &filter) const
 {
     const Dialect &dialect = m_set.m_database.connection().dialect();
@@ -52,62 +50,50 @@ void DataSetReader::readKeys() const
     }
     d.keysRead = true;
     d.windows.clear();
-    if (d.current == Current::Empty && d.keys.count() > 0)
-        d.holdNothing(Current::Unread);
+    if (d.cursor.isEmpty() && d.keys.count() > 0)
+        d.cursor.toFirst();
+}
+
+bool DataSetReader::holds(const Key &key) const
+{
+    if (!d.keysRead && !d.inMemory)
+        return read(&RowSource::holds, key);
+    readKeys();
+    return d.keys.find(key) >= 0 || (!d.inMemory && read(&RowSource::holds, key));
 }
 
 void DataSetReader::resolve() const
 {
-    if (d.current == Current::Known && d.verify)
-        stayOrTakePlace();
-    if (d.current != Current::Unread)
+    if (d.cursor.isSettled())
         return;
-    const bool atBegin = d.atBegin;
-    if (d.keysRead || d.inMemory) {
-        readKeys();
-        if (d.keys.count() == 0)
-            return d.holdNothing(Current::Empty);
-        d.hold(d.keys.at(0), std::nullopt);
+    if (d.keysRead || d.inMemory)
+        return findInKeys();
+    if (d.cursor.isUnread()) {
+        if (auto found = read(&RowSource::first, SqlCondition()))
+            d.cursor.startAt(std::move(found->key), std::move(found->row));
+        else
+            d.cursor.toNothing();
+    } else if (read(&RowSource::holds, d.cursor.key())) {
+        d.cursor.confirm();
     } else {
-        auto found = read(&RowSource::first, SqlCondition());
-        if (!found)
-            return d.holdNothing(Current::Empty);
-        d.hold(std::move(found->key), std::move(found->row));
+        findInKeys();
     }
-    d.index = 0;
-    d.atBegin = atBegin;
 }
 
-// The list may have lost the current record: one look-up tells. If so, what stands in its place becomes current.
-void DataSetReader::stayOrTakePlace() const
+void DataSetReader::findInKeys() const
 {
-    d.verify = false;
-    if (!d.keysRead && !d.inMemory && read(&RowSource::holds, d.key))
-        return;
     readKeys();
-    const int count = d.keys.count();
-    if (count == 0)
-        return d.holdNothing(Current::Empty);
-    d.index = d.keys.find(d.key);
-    if (d.index >= 0)
-        return;
-    const int place = std::min(d.formerIndex, count - 1);
-    d.hold(d.keys.at(place), std::nullopt);
-    d.index = place;
-    // Who shows the record must learn of it, but not while it is reading.
-    QMetaObject::invokeMethod(const_cast<DataSet *>(&m_set), &DataSet::currentChanged, Qt::QueuedConnection);
+    // Who shows the record must learn that another one is in its place, but not while it is reading.
+    if (d.cursor.findIn(d.keys))
+        QMetaObject::invokeMethod(const_cast<DataSet *>(&m_set), &DataSet::currentChanged, Qt::QueuedConnection);
 }
 
 int DataSetReader::index() const
 {
     resolve();
-    if (d.current == Current::Empty)
-        return -1;
-    if (d.index < 0) {
-        readKeys();
-        stayOrTakePlace();
-    }
-    return d.index;
+    if (!d.cursor.isEmpty() && d.cursor.index() < 0)
+        findInKeys();
+    return d.cursor.index();
 }
 
 const Row &DataSetReader::rowAt(int index) const
@@ -130,14 +116,15 @@ const Row &DataSetReader::currentRow() const
     if (d.rowInHand)
         return *d.rowInHand;
     resolve();
-    if (d.current == Current::Empty)
+    const Cursor &cursor = d.cursor;
+    if (cursor.isEmpty())
         return d.nullRow;
-    if (d.row)
-        return *d.row;
-    if (d.index >= 0 && d.keysRead)
-        return rowAt(d.index);
-    d.row = read(&RowSource::row, d.key).value_or(d.nullRow);
-    return *d.row;
+    if (cursor.row())
+        return *cursor.row();
+    if (cursor.index() >= 0 && d.keysRead)
+        return rowAt(cursor.index());
+    d.cursor.takeRow(read(&RowSource::row, cursor.key()).value_or(d.nullRow));
+    return *cursor.row();
 }
 
 } // namespace Engine

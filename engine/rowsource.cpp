@@ -105,7 +105,7 @@ KeyList RowSource::keys() const
     return keys;
 }
 
-std::optional<RowSource::Found> RowSource::first(const SqlCondition &condition) const
+std::optional<FoundRow> RowSource::first(const SqlCondition &condition) const
 {
     SqlCondition all = m_scope.condition;
     all += condition;
@@ -113,7 +113,7 @@ std::optional<RowSource::Found> RowSource::first(const SqlCondition &condition) 
         select(m_columns + ", "_L1 + m_keys, all, " ORDER BY "_L1 + m_scope.order + " LIMIT 1"_L1);
     if (!statement->next())
         return std::nullopt;
-    return Found{readKey(*statement, m_columnCount), readRow(*statement)};
+    return FoundRow{readKey(*statement, m_columnCount), readRow(*statement)};
 }
 
 std::vector<Row> RowSource::firstRows(int count) const

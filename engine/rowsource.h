@@ -29,16 +29,10 @@ public:
     // The scope's fields: data fields are columns, lookups subselects, calculated fields are left null.
     RowSource(Connection &connection, SetScope scope, const std::deque<Field> &fields);
 
-    struct Found
-    {
-        Key key;
-        Row row;
-    };
-
     const SqlCondition &condition() const { return m_scope.condition; }
     KeyList keys() const;
     // The first row in the set's order that meets the condition as well.
-    std::optional<Found> first(const SqlCondition &condition = {}) const;
+    std::optional<FoundRow> first(const SqlCondition &condition = {}) const;
     std::vector<Row> firstRows(int count) const;
     // The row of a key, whether the set's condition lets it in or not.
     std::optional<Row> row(const Key &key) const;

@@ -149,7 +149,6 @@ private:
     void showUpdated(Row row, bool placeMayDiffer);
     void removeCurrent();
     void removeRow(const QList<qint64> &key);
-    void dropFromList(int index);
 
     std::unique_ptr<Restriction> m_restriction;
     std::unique_ptr<Edit> m_edit;

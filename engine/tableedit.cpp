@@ -81,9 +81,9 @@ bool Table::findAgain(const Row &shown)
         return true;
     }
     const auto key = storedKey(shown);
-    if (key && *key != d->key) {
+    if (key && !d->cursor.isAt(*key)) {
         invalidate(Place::Keep);
-        d->hold(*key, std::nullopt);
+        d->cursor.to(*key);
         emitListChanged();
     }
     return key.has_value();
@@ -128,11 +128,9 @@ void Table::readForEdit()
     m_edit = std::move(edit);
     if (*stored == shown)
         return;
-    if (Row *listed = d->index >= 0 ? d->windows.row(d->index) : nullptr)
-        *listed = *stored;
-    d->row = std::move(*stored);
-    if (d->index >= 0)
-        Q_EMIT rowChanged(d->index);
+    d->takeRow(std::move(*stored));
+    if (d->cursor.index() >= 0)
+        Q_EMIT rowChanged(d->cursor.index());
     Q_EMIT currentChanged();
 }
 
@@ -345,10 +343,10 @@ void Table::showInserted(Row row)
 {
     invalidate(Place::First);
     if (const auto key = storedKey(row)) {
-        d->hold(*key, std::move(row));
+        d->cursor.to(*key, std::move(row));
     } else if (const int count = m_layout.primary() ? 0 : recordCount(); count > 0) {
         // Without a primary key the new row is the last in the natural order.
-        d->hold(d->keys.at(count - 1), std::move(row));
+        d->cursor.to(d->keys.at(count - 1), std::move(row));
     }
     Q_EMIT stateChanged();
     emitListChanged();
@@ -360,13 +358,11 @@ void Table::showUpdated(Row row, bool placeMayDiffer)
     if (placeMayDiffer || m_layout.numberKey().isEmpty()) {
         invalidate(Place::Keep);
         if (const auto key = storedKey(row))
-            d->hold(*key, std::move(row));
+            d->cursor.to(*key, std::move(row));
         emitListChanged();
         return;
     }
-    if (Row *listed = d->index >= 0 ? d->windows.row(d->index) : nullptr)
-        *listed = row;
-    d->row = std::move(row);
+    d->takeRow(std::move(row));
     if (d->keysRead)
         Q_EMIT rowChanged(recordIndex());
 }

@@ -199,26 +199,19 @@ void Table::removeCurrent()
     const Row shown = DataSetReader(*this).currentRow();
     const RecordLock lock(m_database.connection(), m_database.session(), m_name, lockKey(shown), recordText());
     const bool found = findAgain(shown);
-    const Key key = d->key;
-    const bool first = d->index == 0 && !d->keysRead;
+    const Key key = d->cursor.key();
+    const bool first = d->cursor.isFirst() && !d->keysRead;
     const int index = first ? 0 : recordIndex();
-    if (d->key != key)
+    if (!d->cursor.isAt(key))
         return; // reading the list has put the next record in the place of one that is gone
     if (found)
         removeRow(key);
     d->windows.clear();
-    first ? d->holdNothing(Private::Current::Unread) : dropFromList(index);
-}
-
-// The next record, or else the last, becomes current.
-void Table::dropFromList(int index)
-{
-    d->keys.removeAt(index);
-    const int next = std::min(index, d->keys.count() - 1);
-    if (next < 0)
-        return d->holdNothing(Private::Current::Empty);
-    d->hold(d->keys.at(next), std::nullopt);
-    d->index = next;
+    if (first)
+        return d->cursor.toFirst();
+    d->keys.removeAt(index); // the next record, or else the last, becomes current
+    d->cursor.listChanged();
+    d->cursor.findIn(d->keys);
 }
 
 void Table::removeRow(const Key &key)
