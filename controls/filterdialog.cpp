@@ -43,7 +43,7 @@ void FilterDialog::addBox(const FilterBox &box)
     auto *shown = new LookupComboBox(this);
     shown->setObjectName(box.name);
     const LookupList list = context().lookups.list(box.list);
-    shown->setList(list.table, list.keyField, {{list.nameField, list.title, listWidth}}, guard());
+    shown->setList(list.table, {{list.nameField, list.title, listWidth}}, guard());
     addRow(box.label, shown);
     m_boxes.append(shown);
     addChoice({.chosen = [shown] { return shown->chosenId(); },

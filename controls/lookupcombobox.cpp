@@ -45,23 +45,19 @@ LookupComboBox::LookupComboBox(QWidget *parent)
     setMinimumContentsLength(12);
     setMaxVisibleItems(visibleRows);
     setStyleSheet(u"QComboBox { combobox-popup: 0; }"_s); // a list that scrolls, in every style
-    connect(this, &QComboBox::activated, this, &LookupComboBox::takePicked);
+    connect(this, &QComboBox::activated, this, [this](int row) { m_guard->run([=, this] { choose(idAt(row)); }); });
 }
 
-void LookupComboBox::setList(Engine::DataSet &list, const QString &keyField, const QList<GridColumn> &columns,
-                             const Guard &guard)
+void LookupComboBox::setList(Engine::DataSet &list, const QList<GridColumn> &columns, const Guard &guard)
 {
     if (!list.isOpen())
         list.open();
-    m_keyField = keyField;
     m_guard = &guard;
     m_list = new TableModel(list, columns, guard, this);
     setModel(m_list);
-    // Others show the list as well and read it again. Row numbers then stand for other records; once that is done, the
-    // box goes to its own. The model tells of a list that cannot be read.
-    connect(
-        &list, &Engine::DataSet::listChanged, this, [this] { Guard::attempt([this] { showRow(); }); },
-        Qt::QueuedConnection);
+    // Others show the list as well and read it again. The rows, which the model has taken over before, then stand for
+    // other records. It also tells of a list that cannot be read.
+    connect(&list, &Engine::DataSet::listChanged, this, [this] { Guard::attempt([this] { showRow(); }); });
     QTableView *view = makeListView(this);
     setView(view);
     int width = 0;
@@ -70,15 +66,15 @@ void LookupComboBox::setList(Engine::DataSet &list, const QString &keyField, con
         width += view->columnWidth(i);
     }
     view->setMinimumWidth(width + scaled(this, 24));
-    showChosen();
+    showRow();
 }
 
 void LookupComboBox::setChosenId(int id)
 {
     if (id == m_id && !isPending())
         return;
-    m_id = id;
-    showChosen();
+    m_id = m_shown = id;
+    showRow();
 }
 
 void LookupComboBox::settle()
@@ -91,43 +87,26 @@ void LookupComboBox::showPopup()
 {
     if (!m_list || m_readOnly)
         return;
-    const bool read = m_guard->run([this] {
-        m_list->dataSet().refresh();
-        showRow();
-    });
-    if (read)
+    if (m_guard->run([this] { m_list->dataSet().refresh(); }) && !m_list->hasFailed())
         QComboBox::showPopup();
 }
 
 void LookupComboBox::choose(int id)
 {
     m_typed.clear();
-    const bool changes = id != m_id;
-    m_id = id;
-    showChosen();
+    const bool changes = std::exchange(m_id, id) != id;
+    m_shown = id;
+    showRow();
     if (changes)
         Q_EMIT chosen(id);
 }
 
-void LookupComboBox::takePicked(int row)
-{
-    if (m_inKeys)
-        moveTo(idAt(row));
-    else
-        choose(idAt(row));
-}
-
-void LookupComboBox::moveTo(int id)
+void LookupComboBox::showPending(int id)
 {
     m_shown = id;
+    showRow();
     if (isPending())
         Q_EMIT moved();
-}
-
-void LookupComboBox::showChosen()
-{
-    m_shown = m_id;
-    showRow();
 }
 
 void LookupComboBox::showRow() { setCurrentIndex(rowOf(m_shown)); }
@@ -137,17 +116,14 @@ int LookupComboBox::rowOf(int id) const
     if (!m_list || id == 0)
         return -1;
     Engine::DataSet &list = m_list->dataSet();
-    if (list.integer(m_keyField) == id || list.locate(m_keyField, {Engine::Value(id)}))
-        return list.recordIndex();
-    return -1;
+    const int row = list.indexOf({id});
+    if (row >= 0 || !list.holds({id}))
+        return row;
+    list.refresh(); // it has come since the list was read
+    return list.indexOf({id});
 }
 
-int LookupComboBox::idAt(int row) const
-{
-    if (!m_list || row < 0)
-        return 0;
-    return m_list->dataSet().valueAt(row, m_list->dataSet().fieldIndex(m_keyField)).toInt();
-}
+int LookupComboBox::idAt(int row) const { return static_cast<int>(m_list->dataSet().keyAt(row).value(0)); }
 
 void LookupComboBox::typed(const QString &text)
 {
@@ -155,16 +131,22 @@ void LookupComboBox::typed(const QString &text)
         m_typed.clear();
     m_sinceTyped.start();
     const QString wanted = m_typed + text;
-    Engine::DataSet &list = m_list->dataSet();
-    const Engine::LocateOptions options =
-        Engine::LocateOptions(Engine::LocateOption::PartialKey) | Engine::LocateOption::CaseInsensitive;
-    if (!list.locate(m_list->columns().front().field, {Engine::Value(wanted)}, options)) {
+    const auto found = m_list->dataSet().find(m_list->columns().front().field, {wanted},
+                                              Engine::LocateOptions(Engine::LocateOption::PartialKey)
+                                                  | Engine::LocateOption::CaseInsensitive);
+    if (!found) {
         QApplication::beep();
         return;
     }
     m_typed = wanted;
-    setCurrentIndex(list.recordIndex());
-    moveTo(list.integer(m_keyField));
+    showPending(static_cast<int>(found->key.first()));
+}
+
+void LookupComboBox::step(int rows)
+{
+    const int row = currentIndex() + rows;
+    if (row >= 0 && row < count())
+        showPending(idAt(row));
 }
 
 void LookupComboBox::keyPressEvent(QKeyEvent *event)
@@ -182,14 +164,12 @@ void LookupComboBox::keyPressEvent(QKeyEvent *event)
     } else if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
         choose(0);
     } else if (event->key() == Qt::Key_Escape && isPending()) {
-        showChosen();
+        setChosenId(m_id);
     } else if (!event->text().isEmpty() && event->text().front().isPrint()
                && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
         m_guard->run([&] { typed(event->text()); });
     } else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
-        m_inKeys = true;
-        QComboBox::keyPressEvent(event);
-        m_inKeys = false;
+        m_guard->run([&] { step(event->key() == Qt::Key_Up ? -1 : 1); });
     } else {
         event->ignore();
     }

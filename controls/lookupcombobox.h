@@ -20,10 +20,10 @@ class LookupComboBox : public QComboBox
 public:
     explicit LookupComboBox(QWidget *parent = nullptr);
 
-    // The rows in the list's own order; keyField is a whole-number field of it. The first column stands in the
-    // closed box, all of them in the open list. The list must outlive the box and is opened if need be.
-    void setList(Engine::DataSet &list, const QString &keyField, const QList<GridColumn> &columns,
-                 const Guard &guard);
+    // The rows in the list's own order; their key is one whole number. The first column stands in the closed box, all
+    // of them in the open list. The list must outlive the box and is opened if need be. Others may share it: the box
+    // has a row of its own and moves nothing in it.
+    void setList(Engine::DataSet &list, const QList<GridColumn> &columns, const Guard &guard);
 
     int chosenId() const { return m_id; } // 0: nothing chosen
     void setChosenId(int id); // shows nothing when the list does not hold it; no signal
@@ -46,21 +46,18 @@ protected:
 
 private:
     void choose(int id);
-    void takePicked(int row);
-    void moveTo(int id);
-    void showChosen();
+    void showPending(int id);
     void showRow();
     void typed(const QString &text);
+    void step(int rows);
     int rowOf(int id) const;
     int idAt(int row) const;
 
     TableModel *m_list = nullptr;
     const Guard *m_guard = nullptr;
-    QString m_keyField;
     int m_id = 0;
     int m_shown = 0; // the key of the row that the box stands on
     bool m_readOnly = false;
-    bool m_inKeys = false;
     QString m_typed;
     QElapsedTimer m_sinceTyped;
 };

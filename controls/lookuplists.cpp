@@ -14,7 +14,7 @@ void setLookupLists(const QWidget &form, TdmLookUpsInv &lookups, const Guard &gu
         if (name.isEmpty())
             continue;
         const LookupList list = lookups.list(name);
-        box->setList(list.table, list.keyField, {{list.nameField, list.title, nameWidth}}, guard);
+        box->setList(list.table, {{list.nameField, list.title, nameWidth}}, guard);
     }
 }
 

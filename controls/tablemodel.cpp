@@ -117,15 +117,10 @@ int TableModel::rowStartingWith(const QString &field, const QString &text) const
 {
     if (std::as_const(m_data).field(field).kind == Engine::FieldKind::Calculated)
         return -1; // not known to the store
-    const int before = m_data.recordIndex();
     const Engine::LocateOptions options =
         Engine::LocateOptions(Engine::LocateOption::PartialKey) | Engine::LocateOption::CaseInsensitive;
-    if (!m_data.locate(field, {Engine::Value(text)}, options))
-        return -1;
-    const int row = m_data.recordIndex();
-    if (before >= 0)
-        m_data.moveTo(before);
-    return row;
+    const auto found = m_data.find(field, {text}, options);
+    return found ? m_data.indexOf(found->key) : -1;
 }
 
 Engine::Value TableModel::cellValue(int row, int field) const

@@ -101,11 +101,11 @@ void TdmLookUpsInv::describeCalculatedFields()
 LookupList TdmLookUpsInv::list(QStringView table)
 {
     if (table == u"Currency")
-        return {tblCurrency(), u"CurrencyID"_s, u"CurrencyName"_s, tr("Currency")};
+        return {tblCurrency(), u"CurrencyName"_s, tr("Currency")};
     if (table == u"ItemType")
-        return {tblItemType(), u"ItemTypeID"_s, u"TypeName"_s, tr("Item Type")};
+        return {tblItemType(), u"TypeName"_s, tr("Item Type")};
     Q_ASSERT(table == u"Warehse");
-    return {tblWarehse(), u"WarehouseID"_s, u"WarehouseName"_s, tr("Location")};
+    return {tblWarehse(), u"WarehouseName"_s, tr("Location")};
 }
 
 Table &TdmLookUpsInv::opened(Table &table)

@@ -12,7 +12,6 @@ namespace Tallymere {
 struct LookupList
 {
     Engine::Table &table;
-    QString keyField;
     QString nameField;
     QString title; // of the open list
 };

@@ -469,8 +469,7 @@ Value DocumentEntry::itemOfNumber(const QString &itemNo) const
         return exact;
     Engine::Table items(database(), u"Item"_s);
     items.open();
-    return items.locate(u"ItemNo"_s, {itemNo}, Engine::LocateOption::CaseInsensitive) ? items.value(u"ItemID")
-                                                                                      : Value();
+    return items.lookUp(u"ItemNo"_s, {itemNo}, u"ItemID", Engine::LocateOption::CaseInsensitive);
 }
 
 void DocumentEntry::newLine() { m_lines.append(); }

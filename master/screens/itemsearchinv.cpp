@@ -24,8 +24,7 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
                                {u"ItemDescription"_s, tr("Description"), 290},
                                {u"TypeName"_s, tr("Item Type"), 120}},
                               guard());
-    m_ui->cboItemType->setList(context.lookups.tblItemType(), u"ItemTypeID"_s,
-                               {{u"TypeName"_s, tr("Item Type"), 180}}, guard());
+    m_ui->cboItemType->setList(context.lookups.tblItemType(), {{u"TypeName"_s, tr("Item Type"), 180}}, guard());
 
     connect(m_ui->editFindItemNo, &QLineEdit::textEdited, this, &TfrmItemSearchInv::typeItemNo);
     connect(m_ui->editFindItemDescription, &QLineEdit::textEdited, this, &TfrmItemSearchInv::typeDescription);

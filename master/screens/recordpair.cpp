@@ -33,7 +33,7 @@ RecordPair::RecordPair(QLineEdit *number, LookupComboBox *list, const MasterKind
     , m_guard(guard)
 {
     const QString name = kind.nameField();
-    m_list->setList(records, kind.keyField,
+    m_list->setList(records,
                     {{name, titleOf(kind, name), 260}, {kind.numberField, titleOf(kind, kind.numberField), 90}},
                     guard);
     m_number->setMaxLength(records.field(kind.numberField).size);
@@ -48,8 +48,8 @@ QString RecordPair::text() const { return m_list->currentText(); }
 void RecordPair::choose(int key)
 {
     m_list->setChosenId(key);
-    const bool shown = key != 0 && m_records.locate(m_kind.keyField, {Engine::Value(key)});
-    m_number->setText(shown ? m_records.text(m_kind.numberField) : QString());
+    const bool any = key != 0;
+    m_number->setText(any ? m_records.lookUp(m_kind.keyField, {key}, m_kind.numberField).toText() : QString());
 }
 
 int RecordPair::settle()

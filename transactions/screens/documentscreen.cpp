@@ -144,20 +144,22 @@ void DocumentScreen::chooseItemByDescription(const QString &text)
         return;
     }
     const QString column = descriptionField.toString();
-    Engine::Table &items = context().lookups.tblItem();
-    if (!items.locate(column, {text}, LocateOption::CaseInsensitive))
+    const auto item = context().lookups.tblItem().find(column, {text}, LocateOption::CaseInsensitive);
+    if (!item)
         throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), column);
     m_entry->setLineColumn(column);
-    m_entry->chooseItem(items.integer(u"ItemID"));
+    m_entry->chooseItem(static_cast<int>(item->key.first()));
 }
 
 QString DocumentScreen::completeDescription(const QString &field, const QString &typed) const
 {
     if (field != descriptionField)
         return {};
-    Engine::Table &items = context().lookups.tblItem();
     const LocateOptions options = LocateOptions(LocateOption::CaseInsensitive) | LocateOption::PartialKey;
-    return items.locate(descriptionField.toString(), {typed}, options) ? items.text(descriptionField) : QString();
+    return context()
+        .lookups.tblItem()
+        .lookUp(descriptionField.toString(), {typed}, descriptionField, options)
+        .toText();
 }
 
 bool DocumentScreen::searchItem(const QString &typed)

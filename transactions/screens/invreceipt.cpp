@@ -16,11 +16,11 @@ TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
     , m_ui(std::make_unique<Ui::TfrmInvReceipt>())
 {
     m_ui->setupUi(this);
-    m_ui->cboVendor->setList(context.lookups.tblVendor(), u"VendorID"_s,
+    m_ui->cboVendor->setList(context.lookups.tblVendor(),
                              {{u"VendorName"_s, tr("Vendor"), 220}, {u"VendorNo"_s, tr("Vendor no."), 80}},
                              guard());
-    m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), u"WarehouseID"_s,
-                                {{u"WarehouseName"_s, tr("Warehouse"), 200}}, guard());
+    m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), {{u"WarehouseName"_s, tr("Warehouse"), 200}},
+                                guard());
     buildDocument();
     binder().setEntryRule(u"VendorNo"_s,
                           [this](const QString &text) { receipt().chooseVendorByNumber(text.trimmed()); });
