@@ -130,8 +130,6 @@ TEST_F(LookupComboBoxTest, followsWhatOthersChangeAndMovesNothing)
     showActive(form);
 
     add(u"Boiler room"_s);
-    list->refresh();
-    EXPECT_EQ(box->currentText(), u"Cellar"_s);
     add(u"Cabin"_s);
     type("cab");
     EXPECT_EQ(box->currentText(), u"Cabin"_s);
