@@ -2,9 +2,9 @@
 
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
+#include "base/texts.h"
 
 #include <cmath>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 using Engine::Money;
@@ -37,7 +37,7 @@ long double withoutNoise(long double value)
 
 [[noreturn]] void refuseDate(const QString &text)
 {
-    throw RuleError(QCoreApplication::translate("Dates", "'%1' is not a valid date").arg(text));
+    throw RuleError(BaseTexts::tr("'%1' is not a valid date").arg(text));
 }
 
 QDate readDate(const QString &text, const RegionalSettings &settings)

@@ -1,8 +1,8 @@
 #include "base/connectiondecision.h"
 
+#include "base/texts.h"
 #include "base/trace.h"
 
-#include <QCoreApplication>
 #include <QDir>
 
 using namespace Qt::StringLiterals;
@@ -11,8 +11,6 @@ namespace Tallymere {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Connection", text); }
-
 QString setting(const SettingsStore &settings, const QString &name)
 {
     return getRegString(settings, name, databaseName);
@@ -20,8 +18,8 @@ QString setting(const SettingsStore &settings, const QString &name)
 
 void warnNotDefined(Prompts &prompts)
 {
-    prompts.error(tr("The Corvane database has not been defined. The application can not continue. "
-                     "Corvane will now terminate..."));
+    prompts.error(BaseTexts::tr("The Corvane database has not been defined. The application can not continue. "
+                                "Corvane will now terminate..."));
 }
 
 void locateFiles(Engine::Database &database, const SettingsStore &settings, Prompts &prompts)
@@ -33,8 +31,9 @@ void locateFiles(Engine::Database &database, const SettingsStore &settings, Prom
     if (database.directory.isEmpty()) {
         warnNotDefined(prompts);
     } else if (!QDir(database.directory).exists()) {
-        prompts.error(tr("The Corvane database:\n%1\ndoes not appear to be valid. Corvane will now terminate...")
-                          .arg(database.directory));
+        prompts.error(
+            BaseTexts::tr("The Corvane database:\n%1\ndoes not appear to be valid. Corvane will now terminate...")
+                .arg(database.directory));
     }
 }
 

@@ -2,8 +2,8 @@
 
 #include "base/csvwriter.h"
 #include "base/ruleerror.h"
+#include "base/texts.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QSaveFile>
 
@@ -46,7 +46,7 @@ void saveCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, 
 {
     QSaveFile file(fileName);
     const auto refuse = [&] {
-        throw RuleError(QCoreApplication::translate("Csv", "Unable to save '%1'...\n%2")
+        throw RuleError(BaseTexts::tr("Unable to save '%1'...\n%2")
                             .arg(QDir::toNativeSeparators(fileName), file.errorString()));
     };
     if (!file.open(QIODevice::WriteOnly))

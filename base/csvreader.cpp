@@ -1,17 +1,12 @@
 #include "base/csvreader.h"
 
-#include <QCoreApplication>
+#include "base/texts.h"
+
 #include <QIODevice>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
-
-namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Csv", text); }
-
-} // namespace
 
 CsvReader::CsvReader(QIODevice &device)
     : m_device(device)
@@ -50,9 +45,9 @@ bool CsvReader::readLine()
     if (m_line == 1 && m_text.startsWith("\xEF\xBB\xBF"))
         m_text.remove(0, 3);
     if (!m_text.isValidUtf8())
-        throw CsvError(m_line, tr("The text is not UTF-8. Save the file in UTF-8 and try again."));
+        throw CsvError(m_line, BaseTexts::tr("The text is not UTF-8. Save the file in UTF-8 and try again."));
     if (m_text.contains('\0'))
-        throw CsvError(m_line, tr("There is a zero byte in the text. This is no CSV file in UTF-8."));
+        throw CsvError(m_line, BaseTexts::tr("There is a zero byte in the text. This is no CSV file in UTF-8."));
     return true;
 }
 
@@ -76,7 +71,7 @@ void CsvReader::readPlainField()
         end = m_text.size();
     const QByteArray field = m_text.mid(m_position, end - m_position);
     if (field.contains('"'))
-        throw CsvError(m_line, tr("There is a quote inside a field that does not begin with one."));
+        throw CsvError(m_line, BaseTexts::tr("There is a quote inside a field that does not begin with one."));
     appendField(field);
     m_position = end;
 }
@@ -92,7 +87,7 @@ void CsvReader::readQuotedField()
             field += m_text.mid(m_position);
             field += '\n';
             if (!m_lineEnded || !readLine())
-                throw CsvError(opened, tr("The quote that opens on this line never closes."));
+                throw CsvError(opened, BaseTexts::tr("The quote that opens on this line never closes."));
             continue;
         }
         field += m_text.mid(m_position, quote - m_position);
@@ -100,7 +95,7 @@ void CsvReader::readQuotedField()
         if (m_position >= m_text.size() || m_text[m_position] == ',')
             break;
         if (m_text[m_position] != '"')
-            throw CsvError(m_line, tr("There is text after a closing quote."));
+            throw CsvError(m_line, BaseTexts::tr("There is text after a closing quote."));
         field += '"';
         ++m_position;
     }

@@ -1,8 +1,8 @@
 #include "base/csvwriter.h"
 
 #include "base/ruleerror.h"
+#include "base/texts.h"
 
-#include <QCoreApplication>
 #include <QIODevice>
 
 namespace Tallymere {
@@ -54,8 +54,7 @@ void CsvWriter::record(const QStringList &fields)
 void CsvWriter::flush()
 {
     if (m_device.write(m_block) != m_block.size())
-        throw RuleError(
-            QCoreApplication::translate("Csv", "The output could not be written: %1").arg(m_device.errorString()));
+        throw RuleError(BaseTexts::tr("The output could not be written: %1").arg(m_device.errorString()));
     m_block.clear();
     m_recordStart = 0;
 }

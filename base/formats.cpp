@@ -3,10 +3,10 @@
 #include "base/calchelpers.h"
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
+#include "base/texts.h"
 
 #include <algorithm>
 #include <optional>
-#include <QCoreApplication>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -68,7 +68,7 @@ Value moneyFromText(const QString &text, const RegionalSettings &settings, const
     try {
         return Money::fromDouble(numberFromText(text, settings, column));
     } catch (const std::range_error &) {
-        throw RuleError(QCoreApplication::translate("Numbers", "'%1' is out of range").arg(text.trimmed()), column);
+        throw RuleError(BaseTexts::tr("'%1' is out of range").arg(text.trimmed()), column);
     }
 }
 
@@ -188,8 +188,7 @@ FieldFormat periodNumberFormat(const QString &label, const QString &column)
         const int number = integerFromText(text, column);
         if (number >= 1 && number <= 12)
             return Value(number);
-        throw RuleError(QCoreApplication::translate(
-                            "Periods", "%1 is not a valid value for field '%2'. The allowed range is 1 to 12")
+        throw RuleError(BaseTexts::tr("%1 is not a valid value for field '%2'. The allowed range is 1 to 12")
                             .arg(QString::number(number), label),
                         column);
     });
@@ -203,8 +202,7 @@ FieldFormat lettersFormat(const QString &label, const QString &column)
         const QString letters = text.trimmed();
         if (std::all_of(letters.begin(), letters.end(), [](QChar c) { return c.isLetter(); }))
             return Value(letters);
-        throw RuleError(QCoreApplication::translate("Letters", "%1 '%2' may hold letters only").arg(label, letters),
-                        column);
+        throw RuleError(BaseTexts::tr("%1 '%2' may hold letters only").arg(label, letters), column);
     });
     return format;
 }

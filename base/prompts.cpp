@@ -1,13 +1,12 @@
 #include "base/prompts.h"
 
-#include <QCoreApplication>
+#include "base/texts.h"
 
 namespace Tallymere {
 
 QString caption(Question question)
 {
-    return question == Question::Warning ? QCoreApplication::translate("Prompts", "Warning")
-                                         : QCoreApplication::translate("Prompts", "Confirm");
+    return question == Question::Warning ? BaseTexts::tr("Warning") : BaseTexts::tr("Confirm");
 }
 
 } // namespace Tallymere

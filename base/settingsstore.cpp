@@ -1,6 +1,7 @@
 #include "base/settingsstore.h"
 
-#include <QCoreApplication>
+#include "base/texts.h"
+
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -63,7 +64,7 @@ bool setRegString(SettingsStore &settings, const QString &setting, const QString
     return settings.write(setting, databaseName, value);
 }
 
-QString keyErrorText() { return QCoreApplication::translate("Settings", "Error in Opening Corvane Key"); }
+QString keyErrorText() { return BaseTexts::tr("Error in Opening Corvane Key"); }
 
 QString dbisamAlias(const SettingsStore &settings, const QString &name) { return settings.read(u"Alias"_s, name); }
 

@@ -1,8 +1,8 @@
 #include "base/textnumbers.h"
 
 #include "base/ruleerror.h"
+#include "base/texts.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -13,7 +13,7 @@ namespace {
 
 [[noreturn]] void refuse(const char *message, const QString &text, const QString &column)
 {
-    throw RuleError(QCoreApplication::translate("Numbers", message).arg(text), column);
+    throw RuleError(BaseTexts::tr(message).arg(text), column);
 }
 
 QRegularExpression numberPattern(const RegionalSettings &settings)
@@ -31,7 +31,7 @@ int integerFromText(const QString &text, const QString &column)
     bool ok = false;
     const int number = text.trimmed().toInt(&ok);
     if (!ok)
-        refuse(QT_TRANSLATE_NOOP("Numbers", "'%1' is not a whole number"), text.trimmed(), column);
+        refuse(QT_TRANSLATE_NOOP("Base", "'%1' is not a whole number"), text.trimmed(), column);
     return number;
 }
 
@@ -43,7 +43,7 @@ double numberFromText(const QString &text, const RegionalSettings &settings, con
     plain.replace(settings.decimalPoint, u'.');
     const double number = ok ? plain.toDouble(&ok) : 0;
     if (!ok)
-        refuse(QT_TRANSLATE_NOOP("Numbers", "'%1' is not a number"), text.trimmed(), column);
+        refuse(QT_TRANSLATE_NOOP("Base", "'%1' is not a number"), text.trimmed(), column);
     return number;
 }
 

@@ -1,22 +1,16 @@
 #include "base/named.h"
 #include "cli/command.h"
 #include "cli/terminal.h"
+#include "cli/texts.h"
 #include "engine/error.h"
 
 #include <algorithm>
 #include <chrono>
-#include <QCoreApplication>
 #include <QDir>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
-
-namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Commands", text); }
-
-} // namespace
 
 std::unique_ptr<TDataModuleTallymere> CommandContext::openData(DataModuleOptions options) const
 {
@@ -58,17 +52,18 @@ void CommandContext::patiently(const std::function<void()> &step) const
 
 OptionSpec retryOption()
 {
-    return {u"retry"_s, tr("SECONDS"), tr("keeps trying while another user holds a table")};
+    return {u"retry"_s, CliTexts::tr("SECONDS"), CliTexts::tr("keeps trying while another user holds a table")};
 }
 
 const QList<OptionSpec> &commonOptions()
 {
     static const QList<OptionSpec> options = {
-        {u"data"_s, tr("FOLDER"), tr("the folder that holds the database")},
-        {u"server"_s, tr("ADDRESS"), tr("the server that holds the database")},
-        {u"user"_s, tr("NAME"), tr("the name others see as the owner of locks (default: the login name)")},
-        {u"help"_s, {}, tr("shows this help")},
-        {u"version"_s, {}, tr("shows the version")},
+        {u"data"_s, CliTexts::tr("FOLDER"), CliTexts::tr("the folder that holds the database")},
+        {u"server"_s, CliTexts::tr("ADDRESS"), CliTexts::tr("the server that holds the database")},
+        {u"user"_s, CliTexts::tr("NAME"),
+         CliTexts::tr("the name others see as the owner of locks (default: the login name)")},
+        {u"help"_s, {}, CliTexts::tr("shows this help")},
+        {u"version"_s, {}, CliTexts::tr("shows the version")},
     };
     return options;
 }

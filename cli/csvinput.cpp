@@ -2,9 +2,9 @@
 
 #include "base/ruleerror.h"
 #include "cli/console.h"
+#include "cli/texts.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -15,15 +15,13 @@ namespace {
 
 constexpr size_t mostErrorsShown = 100;
 
-QString tr(const char *text) { return QCoreApplication::translate("ImportCommand", text); }
-
 } // namespace
 
 std::unique_ptr<QIODevice> openInput(const QString &fileName)
 {
     auto file = std::make_unique<QFile>(fileName);
     if (!file->open(QIODevice::ReadOnly))
-        throw RuleError(tr("The file %1 could not be read: %2").arg(fileName, file->errorString()));
+        throw RuleError(CliTexts::tr("The file %1 could not be read: %2").arg(fileName, file->errorString()));
     if (!file->isSequential())
         return file;
     auto piped = std::make_unique<QBuffer>();
@@ -38,7 +36,7 @@ void complainOfRows(Console &console, const QString &fileName, const ImportError
     for (size_t i = 0; i < std::min(all.size(), mostErrorsShown); ++i)
         console.complain(onOneLine(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), all[i].message)));
     if (all.size() > mostErrorsShown)
-        console.complain(tr("%1: %2 more errors").arg(fileName).arg(all.size() - mostErrorsShown));
+        console.complain(CliTexts::tr("%1: %2 more errors").arg(fileName).arg(all.size() - mostErrorsShown));
 }
 
 } // namespace Tallymere

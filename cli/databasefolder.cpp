@@ -2,10 +2,10 @@
 
 #include "base/connectiondecision.h"
 #include "cli/terminal.h"
+#include "cli/texts.h"
 #include "engine/error.h"
 #include "host/tables/hosttables.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("DatabaseFolder", text); }
 
 // The folder of a database in files; empty when the database is on a server, or nowhere yet.
 QString folderOf(const CommandContext &context)
@@ -37,7 +35,7 @@ void makeFolder(const QString &folder)
     if (!QDir().mkpath(folder)) {
         throw Engine::EngineError(
             Engine::ErrorCode::CannotOpen,
-            tr("The folder %1 could not be made: %2").arg(folder, Terminal::lastSystemError()));
+            CliTexts::tr("The folder %1 could not be made: %2").arg(folder, Terminal::lastSystemError()));
     }
 }
 

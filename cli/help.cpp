@@ -1,8 +1,7 @@
 #include "cli/help.h"
 
+#include "cli/texts.h"
 #include "data/utilsinv.h"
-
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -11,8 +10,6 @@ namespace Tallymere {
 namespace {
 
 constexpr int nameWidth = 26;
-
-QString tr(const char *text) { return QCoreApplication::translate("Help", text); }
 
 QString optionLines(const QList<OptionSpec> &options)
 {
@@ -30,28 +27,29 @@ QString versionText() { return "tallymere "_L1 + strBuildInfo(); }
 
 QString helpText()
 {
-    QString text =
-        tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] COMMAND [ARGUMENTS]\n\n"
-           "Inventory without a display. Without --data or --server your settings say where the data are.\n"
-           "\nCommands:\n");
+    QString text = CliTexts::tr(
+        "Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] COMMAND [ARGUMENTS]\n\n"
+        "Inventory without a display. Without --data or --server your settings say where the data are.\n"
+        "\nCommands:\n");
     for (const Command &command : commands()) {
         const QString synopsis = command.words.isEmpty() ? command.name : command.name + u' ' + command.words;
         text += "  "_L1 + synopsis.leftJustified(nameWidth) + command.summary + u'\n';
     }
-    text += tr("\nOptions:\n") + optionLines(commonOptions());
-    text +=
-        tr("\nExit status: 0 done, 1 refused (a rule, bad input, a lock), 2 wrong usage, 3 the database failed.\n"
-           "'tallymere COMMAND --help' tells more about a command.");
+    text += CliTexts::tr("\nOptions:\n") + optionLines(commonOptions());
+    text += CliTexts::tr(
+        "\nExit status: 0 done, 1 refused (a rule, bad input, a lock), 2 wrong usage, 3 the database failed.\n"
+        "'tallymere COMMAND --help' tells more about a command.");
     return text;
 }
 
 QString helpText(const Command &command)
 {
-    QString text = tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] %1 %2 [OPTIONS]\n\n%3.\n")
-                       .arg(command.name, command.words, command.summary);
+    QString text =
+        CliTexts::tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] %1 %2 [OPTIONS]\n\n%3.\n")
+            .arg(command.name, command.words, command.summary);
     if (!command.details.isEmpty())
         text += u'\n' + command.details + u'\n';
-    text += tr("\nOptions:\n") + optionLines(command.options + commonOptions());
+    text += CliTexts::tr("\nOptions:\n") + optionLines(command.options + commonOptions());
     return text.trimmed();
 }
 

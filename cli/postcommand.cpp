@@ -1,19 +1,17 @@
 #include "base/ruleerror.h"
 #include "cli/command.h"
+#include "cli/texts.h"
 #include "engine/error.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 
 #include <optional>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("PostCommand", text); }
 
 QStringList kindNames()
 {
@@ -28,8 +26,8 @@ const DocumentKind &requireKind(const QString &name)
     if (const DocumentKind *kind = DocumentKinds::find(name))
         return *kind;
     if (name == "adjustments"_L1)
-        throw UsageError(tr("'post %1' is not available yet").arg(name));
-    throw UsageError(tr("'post' knows no '%1', but: %2").arg(name, kindNames().join(u", ")));
+        throw UsageError(CliTexts::tr("'post %1' is not available yet").arg(name));
+    throw UsageError(CliTexts::tr("'post' knows no '%1', but: %2").arg(name, kindNames().join(u", ")));
 }
 
 void runPost(CommandContext &context)
@@ -42,7 +40,7 @@ void runPost(CommandContext &context)
         data->sessionTallymere().lockAttempts = 1; // what is refused is tried again here, as long as was said
     std::optional<DocumentPosting> posting;
     context.patiently([&] { posting.emplace(data->databaseTallymere(), kind); });
-    ConsoleProgress progress(context.console, tr("Posting"));
+    ConsoleProgress progress(context.console, CliTexts::tr("Posting"));
     const bool posted = posting->run(context.prompts, progress);
     context.console.print(posted ? kind.posting.posted.arg(posting->posted()) : posting->countText());
 }
@@ -55,7 +53,7 @@ Command postCommand()
     command.name = u"post"_s;
     command.words = kindNames().join(u'|');
     command.fewestWords = command.mostWords = 1;
-    command.summary = tr("posts every unposted document of a kind");
+    command.summary = CliTexts::tr("posts every unposted document of a kind");
     command.options = {retryOption()};
     command.run = runPost;
     return command;

@@ -3,17 +3,14 @@
 #include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/help.h"
+#include "cli/texts.h"
 #include "engine/error.h"
-
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Program", text); }
 
 // Commands that are known by name so that the user is told so.
 const QStringList &comingCommands()
@@ -42,22 +39,23 @@ const Command &requireCommand(const QString &name)
     if (const Command *command = findCommand(name))
         return *command;
     if (comingCommands().contains(name))
-        throw UsageError(tr("the command '%1' is not available yet").arg(name));
-    throw UsageError(tr("unknown command '%1'").arg(name));
+        throw UsageError(CliTexts::tr("the command '%1' is not available yet").arg(name));
+    throw UsageError(CliTexts::tr("unknown command '%1'").arg(name));
 }
 
 void requireWords(const Command &command, const Arguments &arguments)
 {
     const qsizetype given = arguments.words().size() - 1;
     if (given < command.fewestWords)
-        throw UsageError(tr("'%1' needs more: %2").arg(command.name, command.words));
+        throw UsageError(CliTexts::tr("'%1' needs more: %2").arg(command.name, command.words));
     if (given > command.mostWords)
-        throw UsageError(tr("'%1' does not know what to do with '%2'").arg(command.name, arguments.words().last()));
+        throw UsageError(
+            CliTexts::tr("'%1' does not know what to do with '%2'").arg(command.name, arguments.words().last()));
     if (arguments.has(u"data"_s) && arguments.has(u"server"_s))
-        throw UsageError(tr("--data and --server exclude each other"));
+        throw UsageError(CliTexts::tr("--data and --server exclude each other"));
     for (const QString &option : {u"data"_s, u"server"_s, u"user"_s}) {
         if (arguments.has(option) && arguments.value(option).isEmpty())
-            throw UsageError(tr("option '--%1' needs a value").arg(option));
+            throw UsageError(CliTexts::tr("option '--%1' needs a value").arg(option));
     }
 }
 
@@ -70,7 +68,7 @@ void run(const QStringList &words, Console &console, SettingsStore &settings)
             return console.print(versionText());
         if (arguments.has(u"help"_s))
             return console.print(helpText());
-        throw UsageError(tr("which command?"));
+        throw UsageError(CliTexts::tr("which command?"));
     }
     const Command &command = requireCommand(name);
     const Arguments arguments(words, commonOptions() + command.options);
@@ -114,7 +112,7 @@ ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore 
         return ExitStatus::Done;
     } catch (const UsageError &error) {
         console.error(error.message());
-        console.complain(tr("Try 'tallymere --help'."));
+        console.complain(CliTexts::tr("Try 'tallymere --help'."));
         return ExitStatus::WrongUsage;
     } catch (const RuleError &error) {
         console.error(error.message());

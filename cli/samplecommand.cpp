@@ -1,14 +1,13 @@
 #include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/databasefolder.h"
+#include "cli/texts.h"
 #include "data/layouts.h"
 #include "engine/query.h"
 #include "host/sample/largekitchen.h"
 #include "host/sample/samplefiles.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
-
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -18,12 +17,10 @@ namespace {
 
 constexpr qint64 usualSeed = 1;
 
-QString tr(const char *text) { return QCoreApplication::translate("SampleCommand", text); }
-
 bool isLarge(const QString &size)
 {
     if (size != "small"_L1 && size != "large"_L1)
-        throw UsageError(tr("option '--size' takes small or large, not '%1'").arg(size));
+        throw UsageError(CliTexts::tr("option '--size' takes small or large, not '%1'").arg(size));
     return size == "large"_L1;
 }
 
@@ -33,8 +30,9 @@ void requireEmpty(Engine::Database &database)
                                 u"IAdjust"_s, u"IUsage"_s,   u"IHist"_s,  u"IBalance"_s};
     for (const QString &table : tables) {
         if (Engine::singleValue(database, u"SELECT count(*) FROM "_s + table).toInt64() > 0)
-            throw RuleError(tr("The sample kitchen goes into a new database only: table '%1' holds rows already.")
-                                .arg(Layouts::titleOf(table)));
+            throw RuleError(
+                CliTexts::tr("The sample kitchen goes into a new database only: table '%1' holds rows already.")
+                    .arg(Layouts::titleOf(table)));
     }
 }
 
@@ -44,9 +42,10 @@ void requireDollars(Engine::Database &database)
     const QString home =
         Engine::singleValue(database, u"SELECT CurrencyName FROM Currency ORDER BY CurrencyID"_s).toText();
     if (home != "US $"_L1)
-        throw RuleError(tr("The sample kitchen counts in US $, but the home currency of this database is %1. "
-                           "Make a database with the postal format USA.")
-                            .arg(home));
+        throw RuleError(
+            CliTexts::tr("The sample kitchen counts in US $, but the home currency of this database is %1. "
+                         "Make a database with the postal format USA.")
+                .arg(home));
 }
 
 // All or nothing, here and below: half a kitchen could not be filled up later.
@@ -74,11 +73,11 @@ void runSample(CommandContext &context)
 {
     const bool large = isLarge(context.arguments.value(u"size"_s, u"small"_s));
     const qint64 seed = context.arguments.number(u"seed"_s, usualSeed);
-    const auto opened = openNewDatabase(context, tr("Lakeside Meals"), u"USA"_s);
+    const auto opened = openNewDatabase(context, CliTexts::tr("Lakeside Meals"), u"USA"_s);
     TDataModuleTallymere &data = *opened;
     requireDollars(data.databaseTallymere());
 
-    ConsoleProgress progress(context.console, tr("Filling"));
+    ConsoleProgress progress(context.console, CliTexts::tr("Filling"));
     if (large)
         fillLarge(data, static_cast<quint64>(seed), progress);
     else
@@ -86,7 +85,7 @@ void runSample(CommandContext &context)
     const auto rows = Engine::singleValue(data.databaseTallymere(), u"SELECT count(*) FROM IHist"_s);
     const auto items = Engine::singleValue(data.databaseTallymere(), u"SELECT count(*) FROM Item"_s);
     context.console.print(
-        tr("The sample kitchen is ready: %1 items, %2 history rows.").arg(items.toText(), rows.toText()));
+        CliTexts::tr("The sample kitchen is ready: %1 items, %2 history rows.").arg(items.toText(), rows.toText()));
 }
 
 } // namespace
@@ -95,13 +94,14 @@ Command sampleCommand()
 {
     Command command;
     command.name = u"sample"_s;
-    command.summary = tr("fills a new database with a sample kitchen");
-    command.details =
-        tr("What is missing is made as by 'init'. The small kitchen holds a year of receipts, posted but for the\n"
-           "last days'. The large one holds 5,000 items, 10 locations and 1,000,000 history rows of three years;\n"
-           "the same seed gives the same rows.");
-    command.options = {{u"size"_s, u"small|large"_s, tr("small (the default) or large")},
-                       {u"seed"_s, u"N"_s, tr("what chance of the large kitchen starts from (default 1)")}};
+    command.summary = CliTexts::tr("fills a new database with a sample kitchen");
+    command.details = CliTexts::tr(
+        "What is missing is made as by 'init'. The small kitchen holds a year of receipts, posted but for the\n"
+        "last days'. The large one holds 5,000 items, 10 locations and 1,000,000 history rows of three years;\n"
+        "the same seed gives the same rows.");
+    command.options = {
+        {u"size"_s, u"small|large"_s, CliTexts::tr("small (the default) or large")},
+        {u"seed"_s, u"N"_s, CliTexts::tr("what chance of the large kitchen starts from (default 1)")}};
     command.run = runSample;
     return command;
 }

@@ -1,17 +1,14 @@
 #include "base/named.h"
 #include "cli/command.h"
+#include "cli/texts.h"
 #include "master/itemsync.h"
 #include "master/locationsync.h"
-
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("SyncCommand", text); }
 
 template <typename Sync> HostSyncResult synchronize(Engine::Database &database, Progress &progress)
 {
@@ -28,8 +25,8 @@ struct SyncKind
 const QList<SyncKind> &kinds()
 {
     static const QList<SyncKind> all = {
-        {u"locations"_s, synchronize<LocationSync>, tr("%1 location(s) added, %2 renamed")},
-        {u"items"_s, synchronize<ItemSync>, tr("%1 item(s) added, %2 updated")},
+        {u"locations"_s, synchronize<LocationSync>, CliTexts::tr("%1 location(s) added, %2 renamed")},
+        {u"items"_s, synchronize<ItemSync>, CliTexts::tr("%1 item(s) added, %2 updated")},
     };
     return all;
 }
@@ -38,7 +35,7 @@ const SyncKind &requireKind(const QString &name)
 {
     if (const SyncKind *kind = findNamed(kinds(), name))
         return *kind;
-    throw UsageError(tr("'sync' knows no '%1', but: %2").arg(name, namesOf(kinds())));
+    throw UsageError(CliTexts::tr("'sync' knows no '%1', but: %2").arg(name, namesOf(kinds())));
 }
 
 void runSync(CommandContext &context)
@@ -47,11 +44,11 @@ void runSync(CommandContext &context)
     context.beginRetrying();
     std::unique_ptr<TDataModuleTallymere> data;
     context.patiently([&] { data = context.openData(); });
-    ConsoleProgress progress(context.console, tr("Synchronizing"));
+    ConsoleProgress progress(context.console, CliTexts::tr("Synchronizing"));
     HostSyncResult result;
     context.patiently([&] { result = kind.run(data->databaseTallymere(), progress); });
     if (!result.notUpdated.isEmpty())
-        context.prompts.warn(tr("What is there already has not been updated: %1").arg(result.notUpdated));
+        context.prompts.warn(CliTexts::tr("What is there already has not been updated: %1").arg(result.notUpdated));
     context.console.print(kind.outcome.arg(result.added).arg(result.updated));
 }
 
@@ -63,11 +60,11 @@ Command syncCommand()
     command.name = u"sync"_s;
     command.words = u"locations|items"_s;
     command.fewestWords = command.mostWords = 1;
-    command.summary = tr("brings the host's locations or items over");
-    command.details =
-        tr("Those that are there already take the host's names, prices and item types; new ones are added.\n"
-           "Nothing is deleted. While another user works on the same table nothing is done, with status 1\n"
-           "unless --retry says for how long to try.");
+    command.summary = CliTexts::tr("brings the host's locations or items over");
+    command.details = CliTexts::tr(
+        "Those that are there already take the host's names, prices and item types; new ones are added.\n"
+        "Nothing is deleted. While another user works on the same table nothing is done, with status 1\n"
+        "unless --retry says for how long to try.");
     command.options = {retryOption()};
     command.run = runSync;
     return command;

@@ -1,6 +1,7 @@
 #include "base/csvlist.h"
 #include "base/named.h"
 #include "cli/command.h"
+#include "cli/texts.h"
 #include "data/layouts.h"
 #include "engine/table.h"
 #include "master/masterkinds.h"
@@ -8,21 +9,18 @@
 #include "transactions/historyview.h"
 #include "transactions/totalsview.h"
 
-#include <QCoreApplication>
-
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("ViewCommands", text); }
-
-OptionSpec csvOption() { return {u"csv"_s, {}, tr("writes CSV, which is what is written anyway")}; }
+OptionSpec csvOption() { return {u"csv"_s, {}, CliTexts::tr("writes CSV, which is what is written anyway")}; }
 
 OptionSpec filterOption()
 {
-    return {u"filter"_s, tr("EXPR"), tr("only the rows that meet a condition: \"(WarehouseID = 2)\"")};
+    return {u"filter"_s, CliTexts::tr("EXPR"),
+            CliTexts::tr("only the rows that meet a condition: \"(WarehouseID = 2)\"")};
 }
 
 QStringList fieldNames(const Engine::TableLayout &layout)
@@ -40,7 +38,7 @@ void writeRows(CommandContext &context, Engine::DataSet &rows, const QStringList
         rows.setFilter(filter);
         rows.setFiltered(true);
     }
-    ConsoleProgress progress(context.console, tr("Writing"));
+    ConsoleProgress progress(context.console, CliTexts::tr("Writing"));
     writeCsvList(rows, columns, context.console.longOutput(), progress);
 }
 
@@ -50,7 +48,7 @@ TotalsView::Sort totalsSort(const QString &name)
         return TotalsView::Sort::ItemNo;
     if (name == "description"_L1)
         return TotalsView::Sort::Description;
-    throw UsageError(tr("option '--sort' takes item or description, not '%1'").arg(name));
+    throw UsageError(CliTexts::tr("option '--sort' takes item or description, not '%1'").arg(name));
 }
 
 void runTotals(CommandContext &context)
@@ -101,7 +99,7 @@ const ListKind &requireListKind(const QString &name)
 {
     if (const ListKind *kind = findNamed(listKinds(), name))
         return *kind;
-    throw UsageError(tr("'list' knows no '%1', but: %2").arg(name, namesOf(listKinds())));
+    throw UsageError(CliTexts::tr("'list' knows no '%1', but: %2").arg(name, namesOf(listKinds())));
 }
 
 void runList(CommandContext &context)
@@ -121,9 +119,11 @@ Command totalsCommand()
 {
     Command command;
     command.name = u"totals"_s;
-    command.summary = tr("the quantity on hand of every item at every location, as CSV");
+    command.summary = CliTexts::tr("the quantity on hand of every item at every location, as CSV");
     command.options = {
-        csvOption(), filterOption(), {u"sort"_s, tr("ORDER"), tr("item (by number, the default) or description")}};
+        csvOption(),
+        filterOption(),
+        {u"sort"_s, CliTexts::tr("ORDER"), CliTexts::tr("item (by number, the default) or description")}};
     command.run = runTotals;
     return command;
 }
@@ -132,7 +132,7 @@ Command historyCommand()
 {
     Command command;
     command.name = u"history"_s;
-    command.summary = tr("every movement of stock, latest period first, as CSV");
+    command.summary = CliTexts::tr("every movement of stock, latest period first, as CSV");
     command.options = {csvOption(), filterOption()};
     command.run = runHistory;
     return command;
@@ -144,8 +144,8 @@ Command listCommand()
     command.name = u"list"_s;
     command.words = u"KIND"_s;
     command.fewestWords = command.mostWords = 1;
-    command.summary = tr("a list of master records or documents as CSV, all fields");
-    command.details = tr("KIND: %1").arg(namesOf(listKinds()));
+    command.summary = CliTexts::tr("a list of master records or documents as CSV, all fields");
+    command.details = CliTexts::tr("KIND: %1").arg(namesOf(listKinds()));
     command.options = {csvOption(), filterOption()};
     command.run = runList;
     return command;

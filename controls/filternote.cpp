@@ -1,9 +1,9 @@
 #include "controls/filternote.h"
 
+#include "controls/texts.h"
 #include "engine/dataset.h"
 
 #include <QBoxLayout>
-#include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
 
@@ -16,9 +16,8 @@ void addFilterNote(QDialog &dialog, const Engine::DataSet &list)
     auto *layout = qobject_cast<QBoxLayout *>(dialog.layout());
     if (!layout || !list.isFiltered())
         return;
-    auto *note = new QLabel(QCoreApplication::translate(
-                                "FilterNote", "The list is filtered. Only the rows that it shows are searched."),
-                            &dialog);
+    auto *note =
+        new QLabel(ControlsTexts::tr("The list is filtered. Only the rows that it shows are searched."), &dialog);
     note->setObjectName(u"lblFiltered"_s);
     note->setWordWrap(true);
     layout->insertWidget(0, note);

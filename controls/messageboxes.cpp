@@ -1,7 +1,8 @@
 #include "controls/messageboxes.h"
 
+#include "controls/texts.h"
+
 #include <QApplication>
-#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -54,7 +55,7 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, co
     return static_cast<QMessageBox::StandardButton>(answer);
 }
 
-QString boxTitle(const char *text) { return QCoreApplication::translate("MessageBoxes", text); }
+QString boxTitle(const char *text) { return ControlsTexts::tr(text); }
 
 } // namespace
 
@@ -69,19 +70,19 @@ BoxesOver::~BoxesOver() { windowConcerned() = m_outer; }
 
 void MessageBoxes::inform(const QString &text)
 {
-    ask(QMessageBox::Information, boxTitle(QT_TRANSLATE_NOOP("MessageBoxes", "Information")), text, QMessageBox::Ok,
+    ask(QMessageBox::Information, boxTitle(QT_TRANSLATE_NOOP("Controls", "Information")), text, QMessageBox::Ok,
         QMessageBox::Ok);
 }
 
 void MessageBoxes::warn(const QString &text)
 {
-    ask(QMessageBox::Warning, boxTitle(QT_TRANSLATE_NOOP("MessageBoxes", "Warning")), text, QMessageBox::Ok,
+    ask(QMessageBox::Warning, boxTitle(QT_TRANSLATE_NOOP("Controls", "Warning")), text, QMessageBox::Ok,
         QMessageBox::Ok);
 }
 
 void MessageBoxes::error(const QString &text)
 {
-    ask(QMessageBox::Critical, boxTitle(QT_TRANSLATE_NOOP("MessageBoxes", "Error")), text, QMessageBox::Ok,
+    ask(QMessageBox::Critical, boxTitle(QT_TRANSLATE_NOOP("Controls", "Error")), text, QMessageBox::Ok,
         QMessageBox::Ok);
 }
 
@@ -112,7 +113,7 @@ Answer MessageBoxes::yesNoCancel(const QString &text, const QString &title)
 
 bool MessageBoxes::retry(const QString &text)
 {
-    return ask(QMessageBox::Critical, boxTitle(QT_TRANSLATE_NOOP("MessageBoxes", "Error")), text,
+    return ask(QMessageBox::Critical, boxTitle(QT_TRANSLATE_NOOP("Controls", "Error")), text,
                QMessageBox::Retry | QMessageBox::Cancel, QMessageBox::Retry)
         == QMessageBox::Retry;
 }

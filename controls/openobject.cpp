@@ -1,8 +1,8 @@
 #include "controls/openobject.h"
 
 #include "base/ruleerror.h"
+#include "controls/texts.h"
 
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
 
@@ -30,8 +30,7 @@ void openObject(const QString &object)
     const bool complete = url.isValid() && !url.scheme().isEmpty();
     if (!complete || !QDesktopServices::openUrl(url))
         throw RuleError(
-            QCoreApplication::translate("OpenObject", "'%1' cannot be opened: this computer has no program for it.")
-                .arg(object));
+            ControlsTexts::tr("'%1' cannot be opened: this computer has no program for it.").arg(object));
 }
 
 } // namespace Tallymere

@@ -1,7 +1,8 @@
 #include "controls/wordwrapmenu.h"
 
+#include "controls/texts.h"
+
 #include <QAction>
-#include <QCoreApplication>
 #include <QPlainTextEdit>
 #include <QVariant>
 
@@ -20,7 +21,7 @@ void wrap(QPlainTextEdit &notes, bool wraps)
 
 void addMenu(QPlainTextEdit &notes)
 {
-    auto *item = new QAction(QCoreApplication::translate("WordWrapMenu", "Word Wrap"), &notes);
+    auto *item = new QAction(ControlsTexts::tr("Word Wrap"), &notes);
     item->setObjectName(u"mnuWordWrap"_s);
     item->setCheckable(true);
     item->setChecked(true);

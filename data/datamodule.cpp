@@ -4,6 +4,7 @@
 #include "base/trace.h"
 #include "data/layouts.h"
 #include "data/seeds.h"
+#include "data/texts.h"
 #include "engine/error.h"
 #include "engine/locks.h"
 
@@ -150,9 +151,8 @@ void TDataModuleTallymere::requireHost()
         return;
     throw Engine::EngineError(
         Engine::ErrorCode::NoSuchTable,
-        QCoreApplication::translate("DataModule",
-                                    "The configuration of the host application is missing in %1. Open the company "
-                                    "in the host application once, or choose another database.")
+        DataTexts::tr("The configuration of the host application is missing in %1. Open the company "
+                      "in the host application once, or choose another database.")
             .arg(m_database.connection().location()));
 }
 

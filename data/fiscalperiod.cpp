@@ -1,8 +1,7 @@
 #include "data/fiscalperiod.h"
 
 #include "base/ruleerror.h"
-
-#include <QCoreApplication>
+#include "data/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -55,18 +54,17 @@ PeriodVerdict judgePeriod(const FiscalSettings &settings, const Period &period)
 
 QString periodMessage(PeriodVerdict verdict)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("Periods", text); };
     switch (verdict) {
     case PeriodVerdict::Fine:
         break;
     case PeriodVerdict::NoFiscalYear:
-        return tr("Current fiscal year is not yet defined...\nSee \"Your Company\"");
+        return DataTexts::tr("Current fiscal year is not yet defined...\nSee \"Your Company\"");
     case PeriodVerdict::BeforeFiscalYear:
-        return tr("GL Period is prior to current fiscal year \nas defined by \"Your Company\"");
+        return DataTexts::tr("GL Period is prior to current fiscal year \nas defined by \"Your Company\"");
     case PeriodVerdict::NotAllowed:
-        return tr("GL Period is not within allowed range \nas defined by \"Your Company\"");
+        return DataTexts::tr("GL Period is not within allowed range \nas defined by \"Your Company\"");
     case PeriodVerdict::NotExpected:
-        return tr("GL Period is not within expected range \nas defined by \"Your Company\".");
+        return DataTexts::tr("GL Period is not within expected range \nas defined by \"Your Company\".");
     }
     return {};
 }

@@ -1,6 +1,7 @@
 #include "data/layouts.h"
 
-#include <QCoreApplication>
+#include "data/texts.h"
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -46,33 +47,33 @@ const TableLayout *find(QStringView table)
 QString titleOf(const QString &table)
 {
     static constexpr std::pair<const char *, const char *> titles[] = {
-        {"Item", QT_TRANSLATE_NOOP("Tables", "Item")},
-        {"ItemCtl", QT_TRANSLATE_NOOP("Tables", "Item Numbers")},
-        {"ItemType", QT_TRANSLATE_NOOP("Tables", "Item Types")},
-        {"Company", QT_TRANSLATE_NOOP("Tables", "Your Organization")},
-        {"Tax", QT_TRANSLATE_NOOP("Tables", "Taxes")},
-        {"Salesman", QT_TRANSLATE_NOOP("Tables", "Salespeople")},
-        {"IAdjDet", QT_TRANSLATE_NOOP("Tables", "Adjustment Lines")},
-        {"IAdjust", QT_TRANSLATE_NOOP("Tables", "Adjustments")},
-        {"IHist", QT_TRANSLATE_NOOP("Tables", "Inventory History")},
-        {"IRecDet", QT_TRANSLATE_NOOP("Tables", "Receipt Lines")},
-        {"IReceipt", QT_TRANSLATE_NOOP("Tables", "Receipts")},
-        {"IBalance", QT_TRANSLATE_NOOP("Tables", "Item Balance")},
-        {"Warehse", QT_TRANSLATE_NOOP("Tables", "Locations")},
-        {"Vendor", QT_TRANSLATE_NOOP("Tables", "Vendors")},
-        {"VBalance", QT_TRANSLATE_NOOP("Tables", "Vendor Balances")},
-        {"VContact", QT_TRANSLATE_NOOP("Tables", "Vendor Contacts")},
-        {"VendCtl", QT_TRANSLATE_NOOP("Tables", "Vendor Numbers")},
-        {"IUsage", QT_TRANSLATE_NOOP("Tables", "Usage")},
-        {"IUsageDet", QT_TRANSLATE_NOOP("Tables", "Usage Lines")},
-        {"ARInvCtl", QT_TRANSLATE_NOOP("Tables", "Invoice Numbers")},
-        {"Bank", QT_TRANSLATE_NOOP("Tables", "Banks")},
-        {"Currency", QT_TRANSLATE_NOOP("Tables", "Currencies")},
-        {"GLAccnt", QT_TRANSLATE_NOOP("Tables", "Accounts")},
+        {"Item", QT_TRANSLATE_NOOP("Data", "Item")},
+        {"ItemCtl", QT_TRANSLATE_NOOP("Data", "Item Numbers")},
+        {"ItemType", QT_TRANSLATE_NOOP("Data", "Item Types")},
+        {"Company", QT_TRANSLATE_NOOP("Data", "Your Organization")},
+        {"Tax", QT_TRANSLATE_NOOP("Data", "Taxes")},
+        {"Salesman", QT_TRANSLATE_NOOP("Data", "Salespeople")},
+        {"IAdjDet", QT_TRANSLATE_NOOP("Data", "Adjustment Lines")},
+        {"IAdjust", QT_TRANSLATE_NOOP("Data", "Adjustments")},
+        {"IHist", QT_TRANSLATE_NOOP("Data", "Inventory History")},
+        {"IRecDet", QT_TRANSLATE_NOOP("Data", "Receipt Lines")},
+        {"IReceipt", QT_TRANSLATE_NOOP("Data", "Receipts")},
+        {"IBalance", QT_TRANSLATE_NOOP("Data", "Item Balance")},
+        {"Warehse", QT_TRANSLATE_NOOP("Data", "Locations")},
+        {"Vendor", QT_TRANSLATE_NOOP("Data", "Vendors")},
+        {"VBalance", QT_TRANSLATE_NOOP("Data", "Vendor Balances")},
+        {"VContact", QT_TRANSLATE_NOOP("Data", "Vendor Contacts")},
+        {"VendCtl", QT_TRANSLATE_NOOP("Data", "Vendor Numbers")},
+        {"IUsage", QT_TRANSLATE_NOOP("Data", "Usage")},
+        {"IUsageDet", QT_TRANSLATE_NOOP("Data", "Usage Lines")},
+        {"ARInvCtl", QT_TRANSLATE_NOOP("Data", "Invoice Numbers")},
+        {"Bank", QT_TRANSLATE_NOOP("Data", "Banks")},
+        {"Currency", QT_TRANSLATE_NOOP("Data", "Currencies")},
+        {"GLAccnt", QT_TRANSLATE_NOOP("Data", "Accounts")},
     };
     for (const auto &[name, title] : titles) {
         if (table.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0)
-            return QCoreApplication::translate("Tables", title);
+            return DataTexts::tr(title);
     }
     return table;
 }

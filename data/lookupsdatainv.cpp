@@ -1,6 +1,7 @@
 #include "data/lookupsdatainv.h"
 
 #include "data/personname.h"
+#include "data/texts.h"
 #include "engine/textsize.h"
 
 #include <QStringList>
@@ -101,11 +102,11 @@ void TdmLookUpsInv::describeCalculatedFields()
 LookupList TdmLookUpsInv::list(QStringView table)
 {
     if (table == u"Currency")
-        return {tblCurrency(), u"CurrencyName"_s, tr("Currency")};
+        return {tblCurrency(), u"CurrencyName"_s, DataTexts::tr("Currency")};
     if (table == u"ItemType")
-        return {tblItemType(), u"TypeName"_s, tr("Item Type")};
+        return {tblItemType(), u"TypeName"_s, DataTexts::tr("Item Type")};
     Q_ASSERT(table == u"Warehse");
-    return {tblWarehse(), u"WarehouseName"_s, tr("Location")};
+    return {tblWarehse(), u"WarehouseName"_s, DataTexts::tr("Location")};
 }
 
 Table &TdmLookUpsInv::opened(Table &table)

@@ -4,8 +4,6 @@
 #include "engine/database.h"
 #include "engine/table.h"
 
-#include <QCoreApplication>
-
 namespace Tallymere {
 
 // A list of a drop-down field: the rows of a table by name, each standing for its key.
@@ -21,8 +19,6 @@ struct LookupList
 // host table that is missing fails where it is needed and nowhere else.
 class TdmLookUpsInv final : public TableOwner
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::TdmLookUpsInv)
-
 public:
     explicit TdmLookUpsInv(Engine::Database &database);
 

@@ -1,23 +1,22 @@
 #include "data/transtypes.h"
 
-#include <QCoreApplication>
+#include "data/texts.h"
 
 namespace Tallymere {
 
 QString transTypeText(int code)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("TransType", text); };
     switch (static_cast<TransType>(code)) {
     case TransType::Adjust:
-        return tr("Adjust");
+        return DataTexts::tr("Adjust");
     case TransType::Sale:
-        return tr("Sale");
+        return DataTexts::tr("Sale");
     case TransType::PoReceipt:
-        return tr("PO Receipt");
+        return DataTexts::tr("PO Receipt");
     case TransType::MfgReceipt:
-        return tr("Mfg Receipt");
+        return DataTexts::tr("Mfg Receipt");
     case TransType::Usage:
-        return tr("Usage");
+        return DataTexts::tr("Usage");
     }
     return {};
 }

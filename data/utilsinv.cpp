@@ -3,6 +3,7 @@
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
 #include "base/trace.h"
+#include "data/texts.h"
 #include "engine/error.h"
 #include "engine/session.h"
 
@@ -20,20 +21,19 @@ namespace Tallymere {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Utilities", text); }
-
 QString unexpectedError(const EngineError &error)
 {
-    return tr("Unknown or unexpected database engine error #%1").arg(static_cast<int>(error.code())) + u'\n'
-        + error.text();
+    return DataTexts::tr("Unknown or unexpected database engine error #%1").arg(static_cast<int>(error.code()))
+        + u'\n' + error.text();
 }
 
 [[noreturn]] void refuseOpening(const Engine::Table &table, const EngineError &error)
 {
     if (error.code() == ErrorCode::TableInUse)
-        throw EngineError(error.code(),
-                          tr("%1 table. Another user has the table open in exclusive mode.").arg(table.name()),
-                          error.text());
+        throw EngineError(
+            error.code(),
+            DataTexts::tr("%1 table. Another user has the table open in exclusive mode.").arg(table.name()),
+            error.text());
     throw EngineError(error.code(), table.name() + u": "_s + unexpectedError(error), error.driverText());
 }
 
@@ -95,7 +95,7 @@ int getUniqueID(Engine::Table &counter, const QString &field)
 
     if (!lockedForEdit(counter)) {
         qCDebug(trace) << "The ID record could not be locked!";
-        throw RuleError(tr("Cannot get next unique number. (btGetUniqueNumber)"));
+        throw RuleError(DataTexts::tr("Cannot get next unique number. (btGetUniqueNumber)"));
     }
     const qint64 last = counter.value(field).toInt64();
     qCDebug(trace) << "LastNumberTbl is in Edit Mode" << field << last;
@@ -131,9 +131,9 @@ qint64 repairTable(Engine::Database &database, const QString &table)
     } catch (const EngineError &error) {
         throw EngineError(
             error.code(),
-            tr("The table %1 is damaged and could not be repaired: %2\n"
-               "Have everybody close the program and try again. If that does not help, restore the last "
-               "backup.")
+            DataTexts::tr("The table %1 is damaged and could not be repaired: %2\n"
+                          "Have everybody close the program and try again. If that does not help, restore the last "
+                          "backup.")
                 .arg(database.session().titleOf(table), error.text()),
             error.driverText());
     }

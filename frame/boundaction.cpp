@@ -1,20 +1,21 @@
 #include "frame/boundaction.h"
 
+#include "frame/texts.h"
+
 #include <QAbstractButton>
 #include <QAction>
-#include <QCoreApplication>
 
 namespace Tallymere {
 
 namespace {
 
-QString unavailable() { return QCoreApplication::translate("Commands", "Not available in this version"); }
+QString unavailable() { return FrameTexts::tr("Not available in this version"); }
 
 QString unavailable(const QString &hint)
 {
     if (hint.isEmpty())
         return unavailable();
-    return QCoreApplication::translate("Commands", "%1 (not available in this version)").arg(hint);
+    return FrameTexts::tr("%1 (not available in this version)").arg(hint);
 }
 
 template <typename Control> void bind(Control &control, QAction &action)

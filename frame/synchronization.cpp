@@ -9,11 +9,11 @@
 #include "data/utilsinv.h"
 #include "frame/commandrunner.h"
 #include "frame/commands.h"
+#include "frame/texts.h"
 #include "frame/tracescope.h"
 #include "master/itemsync.h"
 #include "master/locationsync.h"
 
-#include <QCoreApplication>
 #include <QProgressBar>
 
 using namespace Qt::StringLiterals;
@@ -21,8 +21,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Synchronization", text); }
 
 // Empty before the work and when it is over.
 class EmptyAfterwards
@@ -69,7 +67,7 @@ template <typename Sync> void synchronize(const CommandSite &site, const Lists &
         if (each)
             std::rethrow_exception(each);
     }
-    site.context.prompts.inform(tr("Succesfully completed the synchronization."));
+    site.context.prompts.inform(FrameTexts::tr("Succesfully completed the synchronization."));
 }
 
 } // namespace
@@ -77,7 +75,7 @@ template <typename Sync> void synchronize(const CommandSite &site, const Lists &
 void synchronizeLocations(const CommandSite &site)
 {
     const TraceScope scope("TFormTallymereSystem.ActionSynchronizeLocationsExecute");
-    const QString question = tr("Insert any Corvane locations into the \nLedgerwick locations table?");
+    const QString question = FrameTexts::tr("Insert any Corvane locations into the \nLedgerwick locations table?");
     if (!site.context.prompts.confirm(Question::YesNo, question))
         return;
     synchronize<LocationSync>(

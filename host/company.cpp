@@ -6,8 +6,8 @@
 #include "engine/error.h"
 #include "engine/session.h"
 #include "engine/table.h"
+#include "host/texts.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -56,8 +56,8 @@ Company readCompany(const SettingsStore &settings)
     Company company;
     const bool remote = getRegString(settings, u"Mode"_s, databaseName) == clientServerMode;
     const QString server = getRegString(settings, u"Server IP"_s, databaseName);
-    company.location = remote ? QCoreApplication::translate("Company", "Server %1").arg(server)
-                              : QDir::toNativeSeparators(folderOf(settings));
+    company.location =
+        remote ? HostTexts::tr("Server %1").arg(server) : QDir::toNativeSeparators(folderOf(settings));
     company.defined = !(remote ? server : folderOf(settings)).isEmpty();
     if (!company.defined)
         return company;

@@ -1,5 +1,7 @@
 #include "host/hostoptions.h"
 
+#include "host/texts.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
@@ -9,23 +11,19 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("HostOptions", text); }
-
-} // namespace
-
 HostOptions readOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Corvane client billing, with the inventory module."));
-    const QCommandLineOption help(u"help"_s, tr("Shows this text."));
-    const QCommandLineOption version(u"version"_s, tr("Shows the version."));
-    const QCommandLineOption module(u"module"_s, tr("Loads the inventory module from this file."), u"PATH"_s);
-    const QCommandLineOption user(u"user"_s, tr("Works as this user instead of the login name."), u"NAME"_s);
-    const QCommandLineOption data(u"data"_s, tr("Uses the company database in this folder from now on."),
+    parser.setApplicationDescription(HostTexts::tr("Corvane client billing, with the inventory module."));
+    const QCommandLineOption help(u"help"_s, HostTexts::tr("Shows this text."));
+    const QCommandLineOption version(u"version"_s, HostTexts::tr("Shows the version."));
+    const QCommandLineOption module(u"module"_s, HostTexts::tr("Loads the inventory module from this file."),
+                                    u"PATH"_s);
+    const QCommandLineOption user(u"user"_s, HostTexts::tr("Works as this user instead of the login name."),
+                                  u"NAME"_s);
+    const QCommandLineOption data(u"data"_s, HostTexts::tr("Uses the company database in this folder from now on."),
                                   u"FOLDER"_s);
-    const QCommandLineOption open(u"open"_s, tr("Opens the inventory at once."));
+    const QCommandLineOption open(u"open"_s, HostTexts::tr("Opens the inventory at once."));
     parser.addOptions({help, version, module, user, data, open});
 
     HostOptions options;
@@ -44,14 +42,14 @@ HostOptions readOptions(const QStringList &arguments)
         return stop(HostOptions::Outcome::Inform, "tallymere-host "_L1 + QCoreApplication::applicationVersion());
     if (!parser.positionalArguments().isEmpty())
         return stop(HostOptions::Outcome::Refuse,
-                    tr("Unknown argument: %1").arg(parser.positionalArguments().constFirst()));
+                    HostTexts::tr("Unknown argument: %1").arg(parser.positionalArguments().constFirst()));
 
     options.module = parser.value(module);
     options.user = parser.isSet(user) ? parser.value(user) : loginName();
     options.data = parser.value(data);
     options.open = parser.isSet(open);
     if (parser.isSet(data) && !QFileInfo(options.data).isDir())
-        return stop(HostOptions::Outcome::Refuse, tr("There is no folder %1.").arg(options.data));
+        return stop(HostOptions::Outcome::Refuse, HostTexts::tr("There is no folder %1.").arg(options.data));
     return options;
 }
 

@@ -1,5 +1,6 @@
 #include "host/moduleloader.h"
 
+#include "host/texts.h"
 #include "plgint/classregistry.h"
 
 #include <QDateTime>
@@ -33,17 +34,19 @@ QString ModuleLoader::load(const QString &file, QWidget *hostWindow, QMenu *menu
     unload();
     const QFileInfo info(file);
     if (!info.isFile())
-        return tr("The inventory module cannot be loaded: there is no file %1.").arg(info.absoluteFilePath());
+        return HostTexts::tr("The inventory module cannot be loaded: there is no file %1.")
+            .arg(info.absoluteFilePath());
 
     m_library = std::make_unique<QLibrary>(info.absoluteFilePath());
     if (!m_library->load())
-        return tr("The inventory module cannot be loaded: %1").arg(m_library->errorString());
+        return HostTexts::tr("The inventory module cannot be loaded: %1").arg(m_library->errorString());
 
     const auto start = reinterpret_cast<EntryPoint>(m_library->resolve("module_init"));
     const auto done = reinterpret_cast<EntryPoint>(m_library->resolve("module_done"));
     if (!start || !done) {
         unload();
-        return tr("%1 is not an inventory module: it lacks the entry points of one.").arg(info.absoluteFilePath());
+        return HostTexts::tr("%1 is not an inventory module: it lacks the entry points of one.")
+            .arg(info.absoluteFilePath());
     }
     start();
     m_done = done;
@@ -57,10 +60,10 @@ QString ModuleLoader::makeForm(QWidget *hostWindow, QMenu *menu)
 {
     m_form = ClassRegistry::instance().create(u"TFormTallymereSystem"_s, hostWindow);
     if (!m_form)
-        return tr("The module does not offer the form TFormTallymereSystem.");
+        return HostTexts::tr("The module does not offer the form TFormTallymereSystem.");
     m_plugIn = InterfaceRef<IPlugIn>::of(m_form.data());
     if (!m_plugIn)
-        return tr("The form TFormTallymereSystem cannot be driven by this host.");
+        return HostTexts::tr("The form TFormTallymereSystem cannot be driven by this host.");
     m_plugIn->init(hostWindow);
     m_plugIn->setMenu(menu);
     m_plugIn->prepareMenuDate(QDateTime::currentDateTime());

@@ -3,7 +3,6 @@
 #include "plgint/plgint.h"
 
 #include <memory>
-#include <QCoreApplication>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -21,8 +20,6 @@ QString moduleFile(const QString &given, const QString &executableFolder);
 // Loads the inventory module at run time and links it with the host's window.
 class ModuleLoader
 {
-    Q_DECLARE_TR_FUNCTIONS(ModuleLoader)
-
 public:
     ModuleLoader();
     ~ModuleLoader(); // unloads

@@ -2,9 +2,8 @@
 
 #include "base/ruleerror.h"
 #include "import/importfile.h"
+#include "import/texts.h"
 #include "transactions/stockcount.h"
-
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -12,12 +11,10 @@ namespace Tallymere {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("CountFile", text); }
-
 ImportKind countKind()
 {
     ImportKind kind;
-    kind.name = tr("a count");
+    kind.name = ImportTexts::tr("a count");
     for (const auto &[field, type] :
          {std::pair(u"ItemNo"_s, Engine::FieldType::Text), std::pair(u"Quantity"_s, Engine::FieldType::Float)}) {
         ImportColumn column;
@@ -40,12 +37,13 @@ void takeRow(const ImportRow &row, StockCount &count, QDate date)
 {
     const QString itemNo = valueOf(row, u"ItemNo");
     if (itemNo.isEmpty() || valueOf(row, u"Quantity").isEmpty())
-        throw RuleError(tr("An item number and a quantity are needed"));
+        throw RuleError(ImportTexts::tr("An item number and a quantity are needed"));
     const int found = count.list().rowOfNumber(itemNo);
     if (found < 0)
-        throw RuleError(tr("The item '%1' is not among those that are counted at this location").arg(itemNo));
+        throw RuleError(
+            ImportTexts::tr("The item '%1' is not among those that are counted at this location").arg(itemNo));
     if (count.list().row(found).typed)
-        throw RuleError(tr("The item '%1' has been counted in an earlier row").arg(itemNo));
+        throw RuleError(ImportTexts::tr("The item '%1' has been counted in an earlier row").arg(itemNo));
     count.count(found, row.cell(u"Quantity")->value.toDouble(), date);
 }
 

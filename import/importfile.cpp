@@ -3,8 +3,8 @@
 #include "base/csvreader.h"
 #include "base/ruleerror.h"
 #include "import/importvalue.h"
+#include "import/texts.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -14,8 +14,6 @@ namespace Tallymere {
 namespace {
 
 using Header = std::vector<const ImportColumn *>;
-
-QString tr(const char *text) { return QCoreApplication::translate("ImportFile", text); }
 
 class HeaderReader
 {
@@ -48,14 +46,15 @@ private:
         const ImportColumn *column = find(name);
         if (!column) {
             const bool refused = m_kind.refusedColumns.contains(name, Qt::CaseInsensitive);
-            return fault(refused ? tr("The column '%1' is set by the system and cannot be imported.").arg(name)
-                                 : tr("There is no column '%1' in %2.").arg(shortened(name), m_kind.name));
+            return fault(
+                refused ? ImportTexts::tr("The column '%1' is set by the system and cannot be imported.").arg(name)
+                        : ImportTexts::tr("There is no column '%1' in %2.").arg(shortened(name), m_kind.name));
         }
         for (const ImportColumn *earlier : m_header) {
             if (earlier == column)
-                return fault(tr("The column '%1' is there twice.").arg(name));
+                return fault(ImportTexts::tr("The column '%1' is there twice.").arg(name));
             if (earlier->target == column->target)
-                return fault(tr("The columns '%1' and '%2' say the same thing; leave one out.")
+                return fault(ImportTexts::tr("The columns '%1' and '%2' say the same thing; leave one out.")
                                  .arg(earlier->field, column->field));
         }
         m_header.push_back(column);
@@ -81,7 +80,7 @@ private:
                 return given->target == column.target;
             });
             if (!there)
-                fault(tr("The column %1 is missing.").arg(choices(column.target)));
+                fault(ImportTexts::tr("The column %1 is missing.").arg(choices(column.target)));
         }
     }
 
@@ -93,7 +92,7 @@ private:
             if (column.target == target)
                 names.append(u'\'' + column.field + u'\'');
         }
-        return names.join(tr(" or "));
+        return names.join(ImportTexts::tr(" or "));
     }
 
     const ImportKind &m_kind;
@@ -117,7 +116,7 @@ public:
     {
         if (fields.size() != static_cast<qsizetype>(m_header.size())) {
             return m_errors.add(line,
-                                tr("The header has %1 field(s), this row %2.")
+                                ImportTexts::tr("The header has %1 field(s), this row %2.")
                                     .arg(static_cast<qsizetype>(m_header.size()))
                                     .arg(fields.size()));
         }
@@ -168,7 +167,7 @@ private:
 std::vector<ImportDocument> readRows(CsvReader &reader, const ImportKind &kind, ImportErrors &errors)
 {
     if (!reader.next()) {
-        errors.add(1, tr("The file is empty."));
+        errors.add(1, ImportTexts::tr("The file is empty."));
         return {};
     }
     const Header header = HeaderReader(kind, errors, reader.line()).read(reader.fields());

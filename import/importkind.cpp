@@ -4,11 +4,11 @@
 #include "data/layouts.h"
 #include "import/documentimport.h"
 #include "import/masterimport.h"
+#include "import/texts.h"
 #include "master/masterkinds.h"
 #include "transactions/documentkinds.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -17,8 +17,6 @@ namespace Tallymere {
 namespace {
 
 using Level = ImportColumn::Level;
-
-QString tr(const char *text) { return QCoreApplication::translate("ImportKinds", text); }
 
 // Every field of the layout is a column, except those that only the system sets.
 void addColumns(ImportKind &kind, const Engine::TableLayout &layout, const QStringList &refused,
@@ -108,7 +106,8 @@ ImportKind documentKind(const DocumentKind &document)
     kind.refusedColumns.removeDuplicates();
     for (const DocumentKind::NumberFor &number : document.numbers)
         addName(kind, number.field, *Layouts::find(number.table), number.numberField, number.notFound);
-    addName(kind, u"WarehouseID"_s, Layouts::warehse(), u"WarehouseName"_s, tr("Location '%1' not found"));
+    addName(kind, u"WarehouseID"_s, Layouts::warehse(), u"WarehouseName"_s,
+            ImportTexts::tr("Location '%1' not found"));
     addName(kind, u"ItemID"_s, Layouts::item(), u"ItemNo"_s, MasterKinds::item().notFound);
     require(kind, document.requiredColumns);
     require(kind, {u"WarehouseID"_s, u"ItemID"_s});

@@ -2,10 +2,10 @@
 
 #include "base/formats.h"
 #include "base/ruleerror.h"
+#include "import/texts.h"
 
 #include <cmath>
 #include <limits>
-#include <QCoreApplication>
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -19,8 +19,6 @@ using Engine::FieldType;
 using Engine::Value;
 
 constexpr double largestMoney = 922'337'203'685'477.0;
-
-QString tr(const char *text) { return QCoreApplication::translate("ImportValue", text); }
 
 [[noreturn]] void refuse(const ImportColumn &column, const QString &text, const QString &why)
 {
@@ -38,13 +36,13 @@ double realNumber(const ImportColumn &column, const QString &text)
 {
     static const QStringList infinities = {u"inf"_s, u"infinity"_s};
     if (infinities.contains(text.mid(text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0), Qt::CaseInsensitive))
-        refuse(column, text, tr("is infinite"));
+        refuse(column, text, ImportTexts::tr("is infinite"));
     if (!looksLikeNumber(text))
-        refuse(column, text, tr("is not a number"));
+        refuse(column, text, ImportTexts::tr("is not a number"));
     bool ok = false; // false for a number too large or too small for a double
     const double number = QLocale::c().toDouble(text, &ok);
     if (!ok || (column.type == FieldType::Money && std::abs(number) > largestMoney))
-        refuse(column, text, tr("is out of range"));
+        refuse(column, text, ImportTexts::tr("is out of range"));
     return number;
 }
 
@@ -52,17 +50,18 @@ qint64 wholeNumber(const ImportColumn &column, const QString &text)
 {
     const double number = realNumber(column, text);
     if (number != std::trunc(number))
-        refuse(column, text, tr("is not a whole number"));
+        refuse(column, text, ImportTexts::tr("is not a whole number"));
     const bool small = column.type == FieldType::SmallInt;
     const double lowest = small ? std::numeric_limits<qint16>::min() : std::numeric_limits<qint32>::min();
     const double highest = small ? std::numeric_limits<qint16>::max() : std::numeric_limits<qint32>::max();
     if (number < lowest || number > highest)
-        refuse(column, text, tr("is out of range"));
+        refuse(column, text, ImportTexts::tr("is out of range"));
     const auto whole = static_cast<qint64>(number);
     const bool limited = column.lowest != 0 || column.highest != 0;
     if (limited && (whole < column.lowest || whole > column.highest)) {
         refuse(column, text,
-               tr("is not within %1 to %2").arg(QString::number(column.lowest), QString::number(column.highest)));
+               ImportTexts::tr("is not within %1 to %2")
+                   .arg(QString::number(column.lowest), QString::number(column.highest)));
     }
     return whole;
 }
@@ -73,7 +72,7 @@ Value year(const ImportColumn &column, const QString &text)
     if (number >= 1900 && number <= 9999)
         return number;
     if (number < 0 || number > 99)
-        refuse(column, text, tr("is not a year of two or four digits"));
+        refuse(column, text, ImportTexts::tr("is not a year of two or four digits"));
     return yearOfTwoDigits(static_cast<int>(number));
 }
 
@@ -81,7 +80,7 @@ Value period(const ImportColumn &column, const QString &text)
 {
     const qint64 number = wholeNumber(column, text);
     if (number < 1 || number > 12)
-        refuse(column, text, tr("is not within %1 to %2").arg(u"1"_s, u"12"_s));
+        refuse(column, text, ImportTexts::tr("is not within %1 to %2").arg(u"1"_s, u"12"_s));
     return number;
 }
 
@@ -89,7 +88,7 @@ Value date(const ImportColumn &column, const QString &text)
 {
     const QDate date = text.size() == 10 ? QDate::fromString(text, u"yyyy-MM-dd"_s) : QDate();
     if (!date.isValid())
-        refuse(column, text, tr("is not a date (YYYY-MM-DD)"));
+        refuse(column, text, ImportTexts::tr("is not a date (YYYY-MM-DD)"));
     return date;
 }
 
@@ -99,13 +98,13 @@ Value boolean(const ImportColumn &column, const QString &text)
         return true;
     if (text.compare("false"_L1, Qt::CaseInsensitive) == 0)
         return false;
-    refuse(column, text, tr("is neither true nor false"));
+    refuse(column, text, ImportTexts::tr("is neither true nor false"));
 }
 
 Value textValue(const ImportColumn &column, const QString &text)
 {
     if (column.type == FieldType::Text && text.toUcs4().size() > column.size)
-        refuse(column, text, tr("is longer than %1 characters").arg(column.size));
+        refuse(column, text, ImportTexts::tr("is longer than %1 characters").arg(column.size));
     return text;
 }
 

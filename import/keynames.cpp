@@ -2,8 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "engine/query.h"
-
-#include <QCoreApplication>
+#include "import/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +25,7 @@ Engine::Value KeyNames::read(const NameLookup &lookup, const QString &name) cons
     if (count.toInt64() == 0)
         throw RuleError(lookup.notFound.arg(name), lookup.nameField);
     if (count.toInt64() > 1) {
-        throw RuleError(QCoreApplication::translate("KeyNames", "%1 '%2' is there more than once; give %3 instead")
+        throw RuleError(ImportTexts::tr("%1 '%2' is there more than once; give %3 instead")
                             .arg(lookup.nameField, name, lookup.keyField),
                         lookup.nameField);
     }

@@ -1,14 +1,11 @@
 #include "master/masterkinds.h"
-
-#include <QCoreApplication>
+#include "master/texts.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Banks", text); }
 
 MasterKind describe()
 {
@@ -23,23 +20,24 @@ MasterKind describe()
     };
 
     kind.screen = u"frmBankInv"_s;
-    kind.caption = tr("Bank");
-    kind.newCaption = tr("New Bank");
-    kind.required = {{u"BankName"_s, tr("Field 'Bank Name' must have a value")},
-                     {u"CurrencyID"_s, tr("Field 'Currency' must have a value")}};
-    kind.references = {{u"CurrencyID"_s, u"Currency"_s, u"CurrencyName"_s, tr("Currency no longer exists"),
-                        tr("Currency '%1' not found")}};
-    kind.taken = tr("Bank already exists");
+    kind.caption = MasterTexts::tr("Bank");
+    kind.newCaption = MasterTexts::tr("New Bank");
+    kind.required = {{u"BankName"_s, MasterTexts::tr("Field 'Bank Name' must have a value")},
+                     {u"CurrencyID"_s, MasterTexts::tr("Field 'Currency' must have a value")}};
+    kind.references = {{u"CurrencyID"_s, u"Currency"_s, u"CurrencyName"_s,
+                        MasterTexts::tr("Currency no longer exists"), MasterTexts::tr("Currency '%1' not found")}};
+    kind.taken = MasterTexts::tr("Bank already exists");
 
     kind.listScreen = u"frmBanksInv"_s;
-    kind.listCaption = tr("Banks");
-    kind.columns = {{u"BankName"_s, tr("Name"), 260}, {u"CurrencyName"_s, tr("Currency"), 150}};
+    kind.listCaption = MasterTexts::tr("Banks");
+    kind.columns = {{u"BankName"_s, MasterTexts::tr("Name"), 260},
+                    {u"CurrencyName"_s, MasterTexts::tr("Currency"), 150}};
     kind.orders = {{u"BankName1"_s}};
-    kind.refusals = {{u"APCheq"_s, {u"BankID"_s}, tr("AP cheque(s) exist for this bank")},
-                     {u"ARPmt"_s, {u"BankID"_s}, tr("AR payment(s) exist for this bank")}};
+    kind.refusals = {{u"APCheq"_s, {u"BankID"_s}, MasterTexts::tr("AP cheque(s) exist for this bank")},
+                     {u"ARPmt"_s, {u"BankID"_s}, MasterTexts::tr("AR payment(s) exist for this bank")}};
 
     kind.action = u"ActionEditBanks"_s;
-    kind.actionCaption = tr("Edit Banks");
+    kind.actionCaption = MasterTexts::tr("Edit Banks");
     kind.rights = u"Banks"_s;
 
     kind.systemFields = {u"BankID"_s, u"BankGLAccountID"_s};

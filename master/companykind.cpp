@@ -3,8 +3,8 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/seeds.h"
+#include "master/texts.h"
 
-#include <QCoreApplication>
 #include <QDate>
 
 using namespace Qt::StringLiterals;
@@ -16,28 +16,26 @@ namespace {
 constexpr int firstFiscalYear = 1989;
 constexpr int lastFiscalYear = 2050;
 
-QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Company", text); }
-
 void formatYears(Engine::Table &company)
 {
     const std::pair<QString, QString> messages[] = {
-        {u"FiscalYear"_s, tr("Current Fiscal Year invalid...\nEnter year as 2 digits")},
-        {u"DefaultPeriodYYYY"_s, tr("Default Period invalid...\nEnter year as 2 digits")},
-        {u"WPeriodFromYYYY"_s, tr("Warn Before Period invalid...\nEnter year as 2 digits")},
-        {u"WPeriodToYYYY"_s, tr("Warn After Period invalid...\nEnter year as 2 digits")},
-        {u"EPeriodFromYYYY"_s, tr("Error Before Period invalid...\nEnter year as 2 digits")},
-        {u"EPeriodToYYYY"_s, tr("Error After Period invalid...\nEnter year as 2 digits")}};
+        {u"FiscalYear"_s, MasterTexts::tr("Current Fiscal Year invalid...\nEnter year as 2 digits")},
+        {u"DefaultPeriodYYYY"_s, MasterTexts::tr("Default Period invalid...\nEnter year as 2 digits")},
+        {u"WPeriodFromYYYY"_s, MasterTexts::tr("Warn Before Period invalid...\nEnter year as 2 digits")},
+        {u"WPeriodToYYYY"_s, MasterTexts::tr("Warn After Period invalid...\nEnter year as 2 digits")},
+        {u"EPeriodFromYYYY"_s, MasterTexts::tr("Error Before Period invalid...\nEnter year as 2 digits")},
+        {u"EPeriodToYYYY"_s, MasterTexts::tr("Error After Period invalid...\nEnter year as 2 digits")}};
     for (const auto &[field, message] : messages)
         company.field(field).format = twoDigitYearFormat(message, field, NoNumber::AsNoInteger);
 }
 
 void formatPeriods(Engine::Table &company)
 {
-    const std::pair<QString, QString> labels[] = {{u"DefaultPeriodPP"_s, tr("Default Period")},
-                                                  {u"WPeriodFromPP"_s, tr("Warn if before")},
-                                                  {u"WPeriodToPP"_s, tr("Warn if after")},
-                                                  {u"EPeriodFromPP"_s, tr("Error if before")},
-                                                  {u"EPeriodToPP"_s, tr("Error if after")}};
+    const std::pair<QString, QString> labels[] = {{u"DefaultPeriodPP"_s, MasterTexts::tr("Default Period")},
+                                                  {u"WPeriodFromPP"_s, MasterTexts::tr("Warn if before")},
+                                                  {u"WPeriodToPP"_s, MasterTexts::tr("Warn if after")},
+                                                  {u"EPeriodFromPP"_s, MasterTexts::tr("Error if before")},
+                                                  {u"EPeriodToPP"_s, MasterTexts::tr("Error if after")}};
     for (const auto &[name, label] : labels) {
         Engine::Field &field = company.field(name);
         field.format = periodNumberFormat(label, name);
@@ -50,7 +48,7 @@ void formatFields(Engine::Table &company)
 {
     formatYears(company);
     formatPeriods(company);
-    company.field(u"DefaultNetDays").label = tr("Default Days in which invoice is due");
+    company.field(u"DefaultNetDays").label = MasterTexts::tr("Default Days in which invoice is due");
 }
 
 // Name and address are the host's, in a first record as in every other.
@@ -66,7 +64,7 @@ void requireFiscalYear(const Engine::Table &company)
 {
     const int year = company.integer(u"FiscalYear");
     if (year < firstFiscalYear || year > lastFiscalYear)
-        throw RuleError(tr("Fiscal Year must be between 1989 and 2050"), u"FiscalYear"_s);
+        throw RuleError(MasterTexts::tr("Fiscal Year must be between 1989 and 2050"), u"FiscalYear"_s);
 }
 
 MasterKind describe()
@@ -78,7 +76,7 @@ MasterKind describe()
     kind.formatFields = formatFields;
 
     kind.screen = u"frmCompany"_s;
-    kind.caption = tr("Your Organization");
+    kind.caption = MasterTexts::tr("Your Organization");
     kind.newCaption = kind.caption;
     kind.namesCaption = false;
     kind.defaults = {{u"CompanyNo"_s, 1},
@@ -87,7 +85,7 @@ MasterKind describe()
                      {u"ARInvoiceCopies"_s, 1},
                      {u"ApplicationVersion"_s, u"2.55"_s}};
     kind.preset = preset;
-    kind.required = {{u"CompanyName"_s, tr("Field 'Company Name' must have a value")}};
+    kind.required = {{u"CompanyName"_s, MasterTexts::tr("Field 'Company Name' must have a value")}};
     kind.check = requireFiscalYear;
     return kind;
 }

@@ -1,16 +1,13 @@
 #include "master/masterkinds.h"
 
 #include "base/formats.h"
-
-#include <QCoreApplication>
+#include "master/texts.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Currencies", text); }
 
 MasterKind describe()
 {
@@ -22,22 +19,22 @@ MasterKind describe()
     kind.formatFields = [](Engine::Table &table) { table.field(u"ExchangeRate").format = quantityFormat(); };
 
     kind.screen = u"frmCurrencyInv"_s;
-    kind.caption = tr("Currency");
-    kind.newCaption = tr("New Currency");
-    kind.required = {{u"CurrencyName"_s, tr("Field 'Currency Name' must have a value")}};
-    kind.taken = tr("Currency already exists");
+    kind.caption = MasterTexts::tr("Currency");
+    kind.newCaption = MasterTexts::tr("New Currency");
+    kind.required = {{u"CurrencyName"_s, MasterTexts::tr("Field 'Currency Name' must have a value")}};
+    kind.taken = MasterTexts::tr("Currency already exists");
 
     kind.listScreen = u"frmCurrenciesInv"_s;
-    kind.listCaption = tr("Currencies");
-    kind.columns = {{u"CurrencyName"_s, tr("Name"), 200},
-                    {u"ExchangeRate"_s, tr("Exchange Rate"), 120, Qt::AlignRight}};
+    kind.listCaption = MasterTexts::tr("Currencies");
+    kind.columns = {{u"CurrencyName"_s, MasterTexts::tr("Name"), 200},
+                    {u"ExchangeRate"_s, MasterTexts::tr("Exchange Rate"), 120, Qt::AlignRight}};
     kind.orders = {{u"CurrencyName1"_s}};
-    kind.refusals = {{u"Bank"_s, {u"CurrencyID"_s}, tr("Bank(s) exist for this currency")},
-                     {u"Vendor"_s, {u"CurrencyID"_s}, tr("Vendor(s) exist for this currency")},
-                     {u"Customer"_s, {u"CurrencyID"_s}, tr("Customer(s) exist for this currency")}};
+    kind.refusals = {{u"Bank"_s, {u"CurrencyID"_s}, MasterTexts::tr("Bank(s) exist for this currency")},
+                     {u"Vendor"_s, {u"CurrencyID"_s}, MasterTexts::tr("Vendor(s) exist for this currency")},
+                     {u"Customer"_s, {u"CurrencyID"_s}, MasterTexts::tr("Customer(s) exist for this currency")}};
 
     kind.action = u"ActionEditCurrencies"_s;
-    kind.actionCaption = tr("Edit Currencies");
+    kind.actionCaption = MasterTexts::tr("Edit Currencies");
     kind.rights = u"Currencies"_s;
 
     kind.systemFields = {

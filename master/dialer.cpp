@@ -5,6 +5,7 @@
 #include "base/ruleerror.h"
 #include "base/trace.h"
 #include "master/modemport.h"
+#include "master/texts.h"
 
 #include <QRegularExpression>
 
@@ -43,7 +44,7 @@ int Dialer::port() const
 void Dialer::setPort(int port) const
 {
     if (!InitFile(m_initFile).setValue(section.toString(), key.toString(), settingOf(port)))
-        throw RuleError(tr("The port cannot be saved: %1 cannot be written.").arg(m_initFile));
+        throw RuleError(MasterTexts::tr("The port cannot be saved: %1 cannot be written.").arg(m_initFile));
 }
 
 QString Dialer::deviceOf(int port) const
@@ -70,20 +71,20 @@ void Dialer::dial(const QString &number, Prompts &prompts, const std::function<v
         return;
     const QString digits = dialableNumber(number);
     if (digits.isEmpty())
-        throw RuleError(tr("Unable to dial number."));
+        throw RuleError(MasterTexts::tr("Unable to dial number."));
 
     const int chosen = port();
     if (chosen == 0)
-        throw RuleError(tr("Unable to open %1").arg("COM"_L1));
+        throw RuleError(MasterTexts::tr("Unable to open %1").arg("COM"_L1));
     ModemPort modem(deviceOf(chosen));
     if (!modem.open()) {
         qCDebug(trace) << nameOf(chosen) << deviceOf(chosen) << modem.problem();
-        throw RuleError(tr("Unable to open %1").arg(nameOf(chosen)));
+        throw RuleError(MasterTexts::tr("Unable to open %1").arg(nameOf(chosen)));
     }
     if (!modem.send("ATDT" + digits.toLatin1() + "\r\n"))
-        throw RuleError(tr("Unable to dial number."));
+        throw RuleError(MasterTexts::tr("Unable to dial number."));
     dialed();
-    prompts.inform(tr("Pick up the phone.\nClick OK after dialing has completed."));
+    prompts.inform(MasterTexts::tr("Pick up the phone.\nClick OK after dialing has completed."));
     modem.send("ATH\r\n");
 }
 

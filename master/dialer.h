@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <QCoreApplication>
 #include <QString>
 
 namespace Tallymere {
@@ -13,8 +12,6 @@ class Prompts;
 // behind a port ("COM1=/dev/ttyUSB0").
 class Dialer
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::Dialer)
-
 public:
     static constexpr int ports = 4;
 

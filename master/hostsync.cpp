@@ -5,9 +5,9 @@
 #include "engine/namedparameters.h"
 #include "engine/recordlock.h"
 #include "engine/textsize.h"
+#include "master/texts.h"
 
 #include <limits>
-#include <QCoreApplication>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -18,13 +18,12 @@ namespace Tallymere {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("HostSync", text); }
-
 void requireKeys(const NewRows &rows)
 {
     if (rows.firstKey + rows.count - 1 > std::numeric_limits<qint32>::max())
-        throw EngineError(ErrorCode::BadValue,
-                          tr("There are not enough numbers left for %1 new record(s).").arg(rows.count));
+        throw EngineError(
+            ErrorCode::BadValue,
+            MasterTexts::tr("There are not enough numbers left for %1 new record(s).").arg(rows.count));
 }
 
 void addRow(const NewRows &rows, qint64 row, Engine::Statement &insert, Engine::Writes &writes)

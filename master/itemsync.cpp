@@ -6,6 +6,7 @@
 #include "engine/error.h"
 #include "engine/query.h"
 #include "master/hoststatements.h"
+#include "master/texts.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere::HostStatements;
@@ -31,8 +32,8 @@ HostSyncResult ItemSync::run(Progress &progress)
 {
     const auto locked =
         lockedTable(m_database, Layouts::item().name,
-                    tr("The items are in use by another user%1. Nothing has been changed; try again "
-                       "in a moment."));
+                    MasterTexts::tr("The items are in use by another user%1. Nothing has been changed; try again "
+                                    "in a moment."));
     requireUsablePrices();
     HostSyncResult result;
     result.notUpdated = updateLinked(result.updated);
@@ -54,7 +55,7 @@ HostSyncResult ItemSync::run(Progress &progress)
     };
     rows.nameOf = [&](qint64 row) {
         const HostItem &item = items[static_cast<size_t>(row)];
-        return tr("Item %1 \"%2\"").arg(QString::number(item.id), item.description.toText());
+        return MasterTexts::tr("Item %1 \"%2\"").arg(QString::number(item.id), item.description.toText());
     };
     addRows(m_database, rows, progress);
     if (!keys.reserved)
@@ -67,7 +68,7 @@ void ItemSync::requireUsablePrices() const
 {
     const Engine::Value item = Engine::singleValue(m_database, queryItemOfUnusablePrice());
     if (!item.isNull())
-        throw RuleError(tr("The price of the host's item %1 is too large.").arg(item.toText()));
+        throw RuleError(MasterTexts::tr("The price of the host's item %1 is too large.").arg(item.toText()));
 }
 
 // Why it failed, if it did.

@@ -3,8 +3,6 @@
 #include "data/numbercounter.h"
 #include "master/hostsync.h"
 
-#include <QCoreApplication>
-
 namespace Tallymere {
 
 // Brings the host's items ("Items") into the inventory. An item whose number reads as the ID of a host item ("000123"
@@ -19,8 +17,6 @@ namespace Tallymere {
 // is out of range, before anything is written.
 class ItemSync
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::ItemSync)
-
 public:
     explicit ItemSync(Engine::Database &database)
         : m_database(database)

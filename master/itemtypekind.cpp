@@ -1,14 +1,11 @@
 #include "master/masterkinds.h"
-
-#include <QCoreApplication>
+#include "master/texts.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Tallymere::ItemTypes", text); }
 
 MasterKind describe()
 {
@@ -19,23 +16,23 @@ MasterKind describe()
     kind.nameFields = {u"TypeName"_s};
 
     kind.screen = u"frmItemTypeInv"_s;
-    kind.caption = tr("Item Type");
-    kind.newCaption = tr("New Item Type");
+    kind.caption = MasterTexts::tr("Item Type");
+    kind.newCaption = MasterTexts::tr("New Item Type");
     kind.defaults = {{u"Inventory"_s, false}, {u"CostingMethod"_s, 1}};
-    kind.required = {{u"TypeName"_s, tr("Field 'Type Name' must have a value")}};
-    kind.taken = tr("Item Type already exists");
+    kind.required = {{u"TypeName"_s, MasterTexts::tr("Field 'Type Name' must have a value")}};
+    kind.taken = MasterTexts::tr("Item Type already exists");
 
     kind.listScreen = u"frmItemTypesInv"_s;
-    kind.listCaption = tr("Item Types");
-    kind.columns = {{u"TypeName"_s, tr("Name"), 320}};
+    kind.listCaption = MasterTexts::tr("Item Types");
+    kind.columns = {{u"TypeName"_s, MasterTexts::tr("Name"), 320}};
     kind.orders = {{u"TypeName1"_s}};
     kind.prints = true;
     kind.systemKeys = 6;
-    kind.systemRecord = tr("System-defined Item Types can't be deleted!");
-    kind.refusals = {{u"Item"_s, {u"ItemTypeID"_s}, tr("Item(s) exist for this item type")}};
+    kind.systemRecord = MasterTexts::tr("System-defined Item Types can't be deleted!");
+    kind.refusals = {{u"Item"_s, {u"ItemTypeID"_s}, MasterTexts::tr("Item(s) exist for this item type")}};
 
     kind.action = u"ActionEditItemTypes"_s;
-    kind.actionCaption = tr("Edit Item Types");
+    kind.actionCaption = MasterTexts::tr("Edit Item Types");
     kind.rights = u"ItemTypes/Item Types"_s;
 
     kind.systemFields = {u"ItemTypeID"_s};

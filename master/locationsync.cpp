@@ -3,6 +3,7 @@
 #include "data/layouts.h"
 #include "engine/query.h"
 #include "master/hoststatements.h"
+#include "master/texts.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere::HostStatements;
@@ -17,9 +18,10 @@ struct LocationSync::Place
 
 HostSyncResult LocationSync::run(Progress &progress)
 {
-    const auto locked = lockedTable(m_database, Layouts::warehse().name,
-                                    tr("The locations are in use by another user%1. Nothing has been changed; try "
-                                       "again in a moment."));
+    const auto locked =
+        lockedTable(m_database, Layouts::warehse().name,
+                    MasterTexts::tr("The locations are in use by another user%1. Nothing has been changed; try "
+                                    "again in a moment."));
     HostSyncResult result;
     result.updated = m_database.connection().prepare(queryUpdateWarehseFromLocatns())->execute();
 
@@ -35,7 +37,7 @@ HostSyncResult LocationSync::run(Progress &progress)
     };
     rows.nameOf = [&](qint64 row) {
         const Place &place = places[static_cast<size_t>(row)];
-        return tr("Location %1 \"%2\"").arg(QString::number(place.id), place.name.toText());
+        return MasterTexts::tr("Location %1 \"%2\"").arg(QString::number(place.id), place.name.toText());
     };
     addRows(m_database, rows, progress);
     result.added = rows.count;

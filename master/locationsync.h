@@ -2,8 +2,6 @@
 
 #include "master/hostsync.h"
 
-#include <QCoreApplication>
-
 namespace Tallymere {
 
 // Brings the host's places ("Locatns") into the locations. A location that is linked to a place takes its current
@@ -13,8 +11,6 @@ namespace Tallymere {
 // update fails; a failing insert keeps the locations added before it.
 class LocationSync
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::LocationSync)
-
 public:
     explicit LocationSync(Engine::Database &database)
         : m_database(database)

@@ -3,6 +3,7 @@
 #include "base/ruleerror.h"
 #include "engine/database.h"
 #include "engine/query.h"
+#include "master/texts.h"
 
 #include <algorithm>
 
@@ -50,7 +51,7 @@ void MasterList::requireRemovable(Prompts &prompts) const
         prompts.warn(m_kind.systemRecord);
         throw SilentAbort();
     }
-    if (!prompts.confirm(Question::Confirm, tr("Delete '%1'?").arg(currentName())))
+    if (!prompts.confirm(Question::Confirm, MasterTexts::tr("Delete '%1'?").arg(currentName())))
         throw SilentAbort();
 }
 
@@ -59,7 +60,8 @@ void MasterList::refuseIfReferred() const
     for (const MasterKind::Refusal &refusal : m_kind.refusals) {
         if (!isReferredBy(refusal))
             continue;
-        const QString opening = m_kind.undeletable.isEmpty() ? tr("Unable to delete '%1'...") : m_kind.undeletable;
+        const QString opening =
+            m_kind.undeletable.isEmpty() ? MasterTexts::tr("Unable to delete '%1'...") : m_kind.undeletable;
         throw RuleError(opening.arg(currentName()) + u'\n' + refusal.reason);
     }
 }

@@ -3,15 +3,11 @@
 #include "data/recordlist.h"
 #include "master/masterkind.h"
 
-#include <QCoreApplication>
-
 namespace Tallymere {
 
 // The rules of the list of a master table: its order, and deleting.
 class MasterList final : public RecordList
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::MasterList)
-
 public:
     MasterList(Engine::Database &database, const MasterKind &kind); // the kind outlives the object
 

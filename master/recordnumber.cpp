@@ -2,8 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "engine/query.h"
-
-#include <QCoreApplication>
+#include "master/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,8 +21,7 @@ int keyByNumber(Engine::Database &database, const MasterKind &kind, const QStrin
 void moveToRecord(Engine::DataSet &list, const MasterKind &kind, int key, const QString &text)
 {
     if (!list.locate(kind.keyField, {key}))
-        throw RuleError(QCoreApplication::translate("Tallymere::RecordNumber", "'%1' not found").arg(text),
-                        kind.keyField);
+        throw RuleError(MasterTexts::tr("'%1' not found").arg(text), kind.keyField);
 }
 
 } // namespace Tallymere

@@ -2,8 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "data/personname.h"
-
-#include <QCoreApplication>
+#include "master/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,12 +10,10 @@ namespace Tallymere {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Tallymere::VendorContacts", text); }
-
 void requireName(const Engine::Table &contact)
 {
     if (contact.text(u"FullName").trimmed().isEmpty())
-        throw RuleError(tr("Field 'Contact Name' must have a value"), u"FirstName"_s);
+        throw RuleError(MasterTexts::tr("Field 'Contact Name' must have a value"), u"FirstName"_s);
 }
 
 MasterKind describe()
@@ -32,18 +29,18 @@ MasterKind describe()
     };
 
     kind.screen = u"frmVContact"_s;
-    kind.caption = tr("Vendor Contact");
-    kind.newCaption = tr("New Contact");
+    kind.caption = MasterTexts::tr("Vendor Contact");
+    kind.newCaption = MasterTexts::tr("New Contact");
     kind.namesCaption = false;
-    kind.required = {{u"VendorID"_s, tr("Field 'Vendor' must have a value")}};
+    kind.required = {{u"VendorID"_s, MasterTexts::tr("Field 'Vendor' must have a value")}};
     kind.check = requireName;
-    kind.references = {
-        {u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s, tr("Vendor no longer exists"), MasterKinds::vendor().notFound}};
+    kind.references = {{u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s, MasterTexts::tr("Vendor no longer exists"),
+                        MasterKinds::vendor().notFound}};
 
-    kind.columns = {{u"LastName"_s, tr("Last Name"), 160},
-                    {u"FirstName"_s, tr("First Name"), 120},
-                    {u"JobTitle"_s, tr("Job Title"), 200},
-                    {u"BusinessPhone"_s, tr("Phone"), 120}};
+    kind.columns = {{u"LastName"_s, MasterTexts::tr("Last Name"), 160},
+                    {u"FirstName"_s, MasterTexts::tr("First Name"), 120},
+                    {u"JobTitle"_s, MasterTexts::tr("Job Title"), 200},
+                    {u"BusinessPhone"_s, MasterTexts::tr("Phone"), 120}};
     kind.orders = {{u"VendorIDFullName"_s}};
 
     kind.systemFields = {u"ContactID"_s};

@@ -3,17 +3,14 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "engine/query.h"
+#include "master/texts.h"
 #include "master/webpage.h"
-
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Tallymere::Vendors", text); }
 
 // An invoice is kept in the currency that its vendor had at the time.
 void refuseCurrencyChange(const Engine::Table &vendor, const Engine::Value &currency)
@@ -22,7 +19,8 @@ void refuseCurrencyChange(const Engine::Table &vendor, const Engine::Value &curr
         return;
     const QString invoices = u"SELECT COUNT(*) FROM APInv WHERE VendorID = ?"_s;
     if (Engine::singleValue(vendor.database(), invoices, {vendor.value(u"VendorID")}).toInt64() > 0)
-        throw RuleError(tr("Currency cannot be changed... \nInvoice(s) already exist"), u"CurrencyID"_s);
+        throw RuleError(MasterTexts::tr("Currency cannot be changed... \nInvoice(s) already exist"),
+                        u"CurrencyID"_s);
 }
 
 // Invoices may have come in since the currency was chosen.
@@ -33,10 +31,11 @@ void refuseCurrencyChangeAtLast(const Engine::Table &vendor)
 
 void nameFields(Engine::Table &table)
 {
-    const std::pair<QString, QString> labels[] = {{u"DiscPC"_s, tr("Discount %")},
-                                                  {u"DiscDays"_s, tr("Discount days")},
-                                                  {u"NetDays"_s, tr("Net days")},
-                                                  {u"DelayDays"_s, tr("Default number of days to due date")}};
+    const std::pair<QString, QString> labels[] = {
+        {u"DiscPC"_s, MasterTexts::tr("Discount %")},
+        {u"DiscDays"_s, MasterTexts::tr("Discount days")},
+        {u"NetDays"_s, MasterTexts::tr("Net days")},
+        {u"DelayDays"_s, MasterTexts::tr("Default number of days to due date")}};
     for (const auto &[field, label] : labels)
         table.field(field).label = label;
 }
@@ -83,30 +82,30 @@ MasterKind describe()
     kind.formatFields = formatFields;
 
     kind.screen = u"frmVendor"_s;
-    kind.caption = tr("Vendor");
+    kind.caption = MasterTexts::tr("Vendor");
     kind.newCaption = kind.caption;
     kind.namesCaption = false;
     kind.defaults = {{u"Suspended"_s, false}};
     kind.preset = presetCurrency;
     kind.presetFields = {u"CurrencyID"_s};
-    kind.required = {{u"VendorNo"_s, tr("Field 'Vendor no.' must have a value")},
-                     {u"VendorName"_s, tr("Field 'Vendor Name' must have a value")},
-                     {u"CurrencyID"_s, tr("Field 'Currency' must have a value")}};
+    kind.required = {{u"VendorNo"_s, MasterTexts::tr("Field 'Vendor no.' must have a value")},
+                     {u"VendorName"_s, MasterTexts::tr("Field 'Vendor Name' must have a value")},
+                     {u"CurrencyID"_s, MasterTexts::tr("Field 'Currency' must have a value")}};
     kind.check = refuseCurrencyChangeAtLast;
-    kind.references = {{u"CurrencyID"_s, u"Currency"_s, u"CurrencyName"_s, tr("Currency no longer exists"),
-                        tr("Currency '%1' not found")}};
-    kind.taken = tr("Vendor no. already exists");
-    kind.notFound = tr("Vendor no. '%1' not found");
+    kind.references = {{u"CurrencyID"_s, u"Currency"_s, u"CurrencyName"_s,
+                        MasterTexts::tr("Currency no longer exists"), MasterTexts::tr("Currency '%1' not found")}};
+    kind.taken = MasterTexts::tr("Vendor no. already exists");
+    kind.notFound = MasterTexts::tr("Vendor no. '%1' not found");
 
     kind.listScreen = u"frmVendors"_s;
-    kind.listCaption = tr("Vendors");
-    kind.columns = {{u"VendorNo"_s, tr("Vendor no."), 90},
-                    {u"VendorName"_s, tr("Name"), 260},
-                    {u"Phone"_s, tr("Phone"), 130},
-                    {u"Contact"_s, tr("Contact"), 190},
-                    {u"Balance"_s, tr("Balance"), 100, Qt::AlignRight}};
-    kind.orders = {{u"VendorNo"_s, tr("&Vendor no."), u"mnuSortVendorNo"_s},
-                   {u"VendorName1"_s, tr("&Name"), u"mnuSortName"_s}};
+    kind.listCaption = MasterTexts::tr("Vendors");
+    kind.columns = {{u"VendorNo"_s, MasterTexts::tr("Vendor no."), 90},
+                    {u"VendorName"_s, MasterTexts::tr("Name"), 260},
+                    {u"Phone"_s, MasterTexts::tr("Phone"), 130},
+                    {u"Contact"_s, MasterTexts::tr("Contact"), 190},
+                    {u"Balance"_s, MasterTexts::tr("Balance"), 100, Qt::AlignRight}};
+    kind.orders = {{u"VendorNo"_s, MasterTexts::tr("&Vendor no."), u"mnuSortVendorNo"_s},
+                   {u"VendorName1"_s, MasterTexts::tr("&Name"), u"mnuSortName"_s}};
     kind.firstOrder = 1;
     kind.prints = true;
     kind.filterField = u"CurrencyID"_s;
@@ -115,7 +114,7 @@ MasterKind describe()
     kind.ownedTables = {u"VBalance"_s, u"VContact"_s};
 
     kind.action = u"ActionEditVendors"_s;
-    kind.actionCaption = tr("Edit Vendors");
+    kind.actionCaption = MasterTexts::tr("Edit Vendors");
     kind.rights = u"frmVendors/Vendors"_s;
     kind.isMain = true;
     kind.reopening = MasterKind::Reopening::JustShow;

@@ -1,6 +1,7 @@
 #include "master/yearend.h"
 
 #include "base/ruleerror.h"
+#include "master/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,9 +43,10 @@ void YearEnd::run(const std::function<bool()> &yearEndScreen, Prompts &prompts)
 QString YearEnd::question() const
 {
     const int year = m_company.integer(u"FiscalYear");
-    return tr("Year End: Permanently close %1?\n\nGL balances have been carried forward, etc. so you can now print "
-              "financial statements for %2.  You can leave %1 open if there will be more transactions.")
-        .arg(QString::number(year), QString::number(year + 1));
+    const QString text = MasterTexts::tr(
+        "Year End: Permanently close %1?\n\nGL balances have been carried forward, etc. so you can now print "
+        "financial statements for %2.  You can leave %1 open if there will be more transactions.");
+    return text.arg(QString::number(year), QString::number(year + 1));
 }
 
 // The upper bounds, too: each range shrinks to the one period, which the user then widens as the year goes on.

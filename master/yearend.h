@@ -4,15 +4,12 @@
 #include "engine/table.h"
 
 #include <functional>
-#include <QCoreApplication>
 
 namespace Tallymere {
 
 // The step of the organization to its next fiscal year, after the general ledger's year end.
 class YearEnd final
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::YearEnd)
-
 public:
     explicit YearEnd(Engine::Table &company); // open; it outlives the object
 

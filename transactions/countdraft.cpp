@@ -1,6 +1,7 @@
 #include "transactions/countdraft.h"
 
 #include "base/ruleerror.h"
+#include "transactions/texts.h"
 
 #include <cmath>
 #include <QCryptographicHash>
@@ -96,7 +97,7 @@ void CountDrafts::save(int location, const CountDraft &draft) const
     if (file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
         && file.write(text) == text.size() && file.commit())
         return;
-    throw RuleError(QCoreApplication::translate("Count", "What has been counted could not be kept in %1: %2")
+    throw RuleError(TransactionsTexts::tr("What has been counted could not be kept in %1: %2")
                         .arg(fileOf(location), file.errorString()));
 }
 

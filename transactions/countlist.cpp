@@ -2,9 +2,9 @@
 
 #include "base/calchelpers.h"
 #include "base/ruleerror.h"
+#include "transactions/texts.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -12,8 +12,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("Count", text); }
 
 // Bytes that compare as the stores order texts: by code point, letter case second to nothing but folded for ASCII.
 QByteArray sortText(const QString &text, Qt::CaseSensitivity sensitivity)
@@ -107,7 +105,8 @@ void CountList::sortBy(Order order)
 void CountList::count(int row, double quantity)
 {
     if (quantity < 0)
-        throw RuleError(tr("A quantity that has been counted cannot be below zero"), u"Quantity"_s);
+        throw RuleError(TransactionsTexts::tr("A quantity that has been counted cannot be below zero"),
+                        u"Quantity"_s);
     at(row).typed = quantity + 0.0; // no minus sign at zero
 }
 

@@ -7,6 +7,7 @@
 #include "engine/error.h"
 #include "engine/locks.h"
 #include "engine/query.h"
+#include "transactions/texts.h"
 
 #include <algorithm>
 #include <QScopeGuard>
@@ -64,20 +65,21 @@ void DocumentEntry::close()
 void DocumentEntry::configureFields()
 {
     Engine::Field &year = m_header.field(u"GLYear");
-    year.label = tr("Year of Period");
-    year.format = twoDigitYearFormat(tr("Period invalid...\nEnter year as 2 digits"), u"GLYear"_s);
+    year.label = TransactionsTexts::tr("Year of Period");
+    year.format =
+        twoDigitYearFormat(TransactionsTexts::tr("Period invalid...\nEnter year as 2 digits"), u"GLYear"_s);
 
     Engine::Field &period = m_header.field(u"GLPeriod");
-    period.label = tr("Period");
+    period.label = TransactionsTexts::tr("Period");
     period.format = periodNumberFormat(period.label, u"GLPeriod"_s);
     period.validate = [parse = period.format.parse](const Value &value) { parse(value.toText()); };
 
     Engine::Field &date = m_header.field(m_kind.dateField);
-    date.label = tr("Date");
+    date.label = TransactionsTexts::tr("Date");
     date.format = dateFormat(RegionalSettings::system(), m_kind.dateField);
 
-    m_header.field(u"WarehouseID").label = tr("Warehouse");
-    m_lines.field(u"ItemID").label = tr("Item no.");
+    m_header.field(u"WarehouseID").label = TransactionsTexts::tr("Warehouse");
+    m_lines.field(u"ItemID").label = TransactionsTexts::tr("Item no.");
     m_lines.field(u"ItemID").validate = [this](const Value &itemId) { validateItem(itemId); };
 }
 
@@ -208,7 +210,8 @@ void DocumentEntry::checkPeriod()
 void DocumentEntry::requireHeaderField(const QString &field, const QString &column) const
 {
     if (m_header.text(field).isEmpty())
-        throw RuleError(tr("Field '%1' must have a value").arg(m_header.field(field).label), column);
+        throw RuleError(TransactionsTexts::tr("Field '%1' must have a value").arg(m_header.field(field).label),
+                        column);
 }
 
 QString DocumentEntry::caption() const
@@ -284,7 +287,8 @@ void DocumentEntry::hookLines()
         if (m_keptLines && error.code() != ErrorCode::ConnectionLost)
             m_keptLines->refused(m_lines.integer(u"Seq"));
         if (error.code() == ErrorCode::KeyViolation && !database().connection().inTransaction())
-            throw RuleError(tr("The line could not be saved because another one was added meanwhile. Try again."),
+            throw RuleError(TransactionsTexts::tr(
+                                "The line could not be saved because another one was added meanwhile. Try again."),
                             LineGrid);
     };
     m_lines.events.afterRemove = [this] {
@@ -315,16 +319,17 @@ void DocumentEntry::lockLines()
 void DocumentEntry::holdDocument()
 {
     if (m_header.state() == Engine::TableState::Insert && wasConnectionLost() && isStoredAlready())
-        throw RuleError(
-            tr("The document had been saved before the connection was lost. Close this screen with Cancel "
-               "and open the document anew."));
+        throw RuleError(TransactionsTexts::tr(
+            "The document had been saved before the connection was lost. Close this screen with Cancel "
+            "and open the document anew."));
     if (m_header.holdRecord())
         m_lockWasLost = true;
     if (!m_lockWasLost)
         return;
     if (m_keptLines && !m_keptLines->accountsFor(storedLines()))
-        throw RuleError(tr("Another user has changed the lines of this document while the connection was lost. "
-                           "Cancel, and make your changes again."),
+        throw RuleError(TransactionsTexts::tr(
+                            "Another user has changed the lines of this document while the connection was lost. "
+                            "Cancel, and make your changes again."),
                         LineGrid);
     m_lockWasLost = false;
 }
@@ -369,7 +374,9 @@ void DocumentEntry::beginLineChange(LineChange change)
         return lineChanging(change);
     if (!inEdit)
         m_header.cancel();
-    throw RuleError(tr("This line was deleted or replaced by another user. The lines are shown anew."), LineGrid);
+    throw RuleError(
+        TransactionsTexts::tr("This line was deleted or replaced by another user. The lines are shown anew."),
+        LineGrid);
 }
 
 // A new line that has a number already could not be written with it.
@@ -395,7 +402,7 @@ QString DocumentEntry::lineName() const
 {
     const QString document = m_kind.titleOf(m_header);
     const int seq = m_lines.integer(u"Seq");
-    return seq == 0 ? document : tr("%1, line %2").arg(document, QString::number(seq));
+    return seq == 0 ? document : TransactionsTexts::tr("%1, line %2").arg(document, QString::number(seq));
 }
 
 void DocumentEntry::validateItem(const Value &itemId) const
@@ -410,30 +417,32 @@ void DocumentEntry::validateItem(const Value &itemId) const
     item->bind(0, itemId);
     const bool found = item->next();
     if (typed && !found)
-        throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), u"ItemNo"_s);
+        throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"),
+                        u"ItemNo"_s);
     if (!found || !item->valueAt(2, FieldType::Boolean).toBool())
         return;
     if (typed)
-        throw RuleError(tr("Item has been suspended"), u"ItemNo"_s);
-    throw RuleError(tr("Item '%1: %2' has been suspended").arg(item->textAt(0), item->textAt(1)), u"ItemNo"_s);
+        throw RuleError(TransactionsTexts::tr("Item has been suspended"), u"ItemNo"_s);
+    throw RuleError(TransactionsTexts::tr("Item '%1: %2' has been suspended").arg(item->textAt(0), item->textAt(1)),
+                    u"ItemNo"_s);
 }
 
 void DocumentEntry::refuseLine(const QString &message, const QString &column) const
 {
-    throw RuleError(tr("%1...\nMake changes or press Esc to undo").arg(message), column);
+    throw RuleError(TransactionsTexts::tr("%1...\nMake changes or press Esc to undo").arg(message), column);
 }
 
 void DocumentEntry::requireLineField(const QString &field, const QString &column) const
 {
     if (m_lines.value(field).isNull())
-        refuseLine(tr("Field '%1' must have a value").arg(m_lines.field(field).label), column);
+        refuseLine(TransactionsTexts::tr("Field '%1' must have a value").arg(m_lines.field(field).label), column);
 }
 
 void DocumentEntry::requireItem() const
 {
     requireLineField(u"ItemID"_s, u"ItemNo"_s);
     if (!exists(u"Item"_s, u"ItemID"_s, m_lines.value(u"ItemID")))
-        refuseLine(tr("Item not found"), u"ItemNo"_s);
+        refuseLine(TransactionsTexts::tr("Item not found"), u"ItemNo"_s);
 }
 
 void DocumentEntry::checkLine() { requireItem(); }
@@ -456,7 +465,8 @@ void DocumentEntry::chooseItemByNumber(const QString &itemNo)
     }
     const Value itemId = itemOfNumber(itemNo);
     if (itemId.isNull())
-        throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), u"ItemNo"_s);
+        throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"),
+                        u"ItemNo"_s);
     m_lines.set(u"ItemID", itemId);
 }
 
@@ -528,27 +538,30 @@ void DocumentEntry::takeBackLines()
             if (error.code() == ErrorCode::RecordChanged || error.code() == ErrorCode::RecordGone)
                 break;
             if (error.code() == ErrorCode::FileReplaced) // trying again does not help
-                return m_prompts.error(tr("%1\n\nYour changes to the lines stay in the file that was in use. %2")
-                                           .arg(error.text(), m_keptLines->summary()));
+                return m_prompts.error(
+                    TransactionsTexts::tr("%1\n\nYour changes to the lines stay in the file that was in use. %2")
+                        .arg(error.text(), m_keptLines->summary()));
             // The first statement after a loss notices it, the next one connects again.
             if (error.code() == ErrorCode::ConnectionLost && !std::exchange(connectedAgain, true))
                 continue;
             if (!m_prompts.retry(
-                    tr("Your changes to the lines could not be taken back:\n%1\n\nUnless that is tried "
-                       "again, they stay stored. %2")
+                    TransactionsTexts::tr(
+                        "Your changes to the lines could not be taken back:\n%1\n\nUnless that is tried "
+                        "again, they stay stored. %2")
                         .arg(error.text(), m_keptLines->summary())))
                 return;
         }
     }
     m_prompts.warn(
-        tr("Another user has changed, posted or deleted the document while the connection was lost. What "
-           "that user has saved is stored; nothing of it was taken back. Your own changes were: %1")
+        TransactionsTexts::tr(
+            "Another user has changed, posted or deleted the document while the connection was lost. What "
+            "that user has saved is stored; nothing of it was taken back. Your own changes were: %1")
             .arg(m_keptLines->summary()));
 }
 
 void DocumentEntry::tellStored() const
 {
-    m_prompts.warn(tr("The document had been saved before the connection was lost. It stays."));
+    m_prompts.warn(TransactionsTexts::tr("The document had been saved before the connection was lost. It stays."));
 }
 
 // The answer to the saving may be all that was lost.

@@ -8,7 +8,6 @@
 
 #include <functional>
 #include <optional>
-#include <QCoreApplication>
 
 namespace Tallymere {
 
@@ -25,8 +24,6 @@ namespace Tallymere {
 // back.
 class DocumentEntry
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::DocumentEntry)
-
 public:
     // The column of an error that concerns the lines as a whole.
     static constexpr QLatin1StringView LineGrid{"Lines"};

@@ -1,8 +1,7 @@
 #include "transactions/documentkind.h"
 
 #include "engine/dataset.h"
-
-#include <QCoreApplication>
+#include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,9 +11,7 @@ QString DocumentKind::titleOf(const Engine::DataSet &header) const { return titl
 
 FilterBox DocumentKind::locationBox()
 {
-    return {.name = u"cboWarehouse"_s,
-            .label = QCoreApplication::translate("DocumentKind", "&Location:"),
-            .list = u"Warehse"_s};
+    return {.name = u"cboWarehouse"_s, .label = TransactionsTexts::tr("&Location:"), .list = u"Warehse"_s};
 }
 
 } // namespace Tallymere

@@ -3,15 +3,11 @@
 #include "data/recordlist.h"
 #include "transactions/documentkind.h"
 
-#include <QCoreApplication>
-
 namespace Tallymere {
 
 // The rules of the list of the documents of one kind: its table with the names that it shows, finding and deleting.
 class DocumentList final : public RecordList
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::DocumentList)
-
 public:
     DocumentList(Engine::Database &database, const DocumentKind &kind); // the kind outlives the object
 

@@ -7,6 +7,7 @@
 #include "engine/table.h"
 #include "transactions/historywriter.h"
 #include "transactions/stockbook.h"
+#include "transactions/texts.h"
 
 #include <QScopeGuard>
 #include <span>
@@ -204,7 +205,7 @@ void DocumentPosting::postDocument(const PostingDocument &document, Engine::Stat
                 m_kind.posting.postLine(document, line, books);
         }
     } catch (const std::range_error &) {
-        throw RuleError(tr("\"%1\" has an amount that is too large.").arg(document.description));
+        throw RuleError(TransactionsTexts::tr("\"%1\" has an amount that is too large.").arg(document.description));
     }
 }
 

@@ -5,7 +5,6 @@
 #include "transactions/documentkind.h"
 
 #include <functional>
-#include <QCoreApplication>
 #include <vector>
 
 namespace Tallymere {
@@ -21,8 +20,6 @@ namespace Tallymere {
 // at most the last quarter of a second of them unposted. Use on the thread that opened the database.
 class DocumentPosting final
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::DocumentPosting)
-
 public:
     DocumentPosting(Engine::Database &database, const DocumentKind &kind); // the kind outlives the object
     DocumentPosting(const DocumentPosting &) = delete;

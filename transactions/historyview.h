@@ -2,7 +2,6 @@
 
 #include "engine/table.h"
 
-#include <QCoreApplication>
 #include <QString>
 
 namespace Tallymere {
@@ -12,8 +11,6 @@ struct DocumentKind;
 // The posted movements of stock, latest period first, with the names that they stand for.
 class HistoryView
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::HistoryView)
-
 public:
     explicit HistoryView(Engine::Database &database);
 

@@ -1,7 +1,8 @@
 #include "transactions/linecopy.h"
 
+#include "transactions/texts.h"
+
 #include <algorithm>
-#include <QCoreApplication>
 
 namespace Tallymere {
 
@@ -95,7 +96,7 @@ QString LineCopy::summary() const
             continue;
         ++(!before ? added : !now ? deleted : changed);
     }
-    return QCoreApplication::translate("LineCopy", "Lines changed: %1. Lines added: %2. Lines deleted: %3.")
+    return TransactionsTexts::tr("Lines changed: %1. Lines added: %2. Lines deleted: %3.")
         .arg(changed)
         .arg(added)
         .arg(deleted);

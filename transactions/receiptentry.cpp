@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "transactions/documentkinds.h"
+#include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
 using Engine::FieldType;
@@ -20,15 +21,15 @@ ReceiptEntry::ReceiptEntry(Engine::Database &database, Prompts &prompts)
 void ReceiptEntry::configureFields()
 {
     DocumentEntry::configureFields();
-    header().field(u"ReceiptNo").label = tr("Receipt no.");
-    header().field(u"VendorID").label = tr("Vendor");
+    header().field(u"ReceiptNo").label = TransactionsTexts::tr("Receipt no.");
+    header().field(u"VendorID").label = TransactionsTexts::tr("Vendor");
     header().field(u"VendorID").validate = [this](const Value &vendorId) { validateVendor(vendorId); };
 
     Engine::Field &quantity = lines().field(u"QtyReceived");
-    quantity.label = tr("Quantity");
+    quantity.label = TransactionsTexts::tr("Quantity");
     quantity.format = quantityFormat(RegionalSettings::system(), u"QtyReceived"_s);
     Engine::Field &cost = lines().field(u"UnitCost");
-    cost.label = tr("Unit Cost");
+    cost.label = TransactionsTexts::tr("Unit Cost");
     cost.format = currencyFormat(RegionalSettings::system(), u"UnitCost"_s);
 }
 
@@ -60,9 +61,9 @@ void ReceiptEntry::chooseVendorByNumber(const QString &vendorNo)
     vendor.setIndex(u"VENDORNO"_s);
     vendor.open();
     if (!vendor.findKey({vendorNo}))
-        throw RuleError(tr("Vendor no. '%1' not found").arg(vendorNo), u"VendorNo"_s);
+        throw RuleError(TransactionsTexts::tr("Vendor no. '%1' not found").arg(vendorNo), u"VendorNo"_s);
     if (vendor.boolean(u"Suspended"))
-        throw RuleError(tr("Vendor no. '%1' has been suspended").arg(vendorNo), u"VendorNo"_s);
+        throw RuleError(TransactionsTexts::tr("Vendor no. '%1' has been suspended").arg(vendorNo), u"VendorNo"_s);
     chooseInHeader(u"VendorID"_s, vendor.value(u"VendorID"));
 }
 
@@ -73,9 +74,9 @@ void ReceiptEntry::validateVendor(const Value &vendorId) const
     Engine::Table vendor(database(), u"Vendor"_s);
     vendor.open();
     if (vendor.findKey({vendorId}) && vendor.boolean(u"Suspended"))
-        throw RuleError(
-            tr("Vendor '%1: %2' has been suspended").arg(vendor.text(u"VendorNo"), vendor.text(u"VendorName")),
-            u"VendorID"_s);
+        throw RuleError(TransactionsTexts::tr("Vendor '%1: %2' has been suspended")
+                            .arg(vendor.text(u"VendorNo"), vendor.text(u"VendorName")),
+                        u"VendorID"_s);
 }
 
 void ReceiptEntry::checkComplete() { requireHeaderField(u"VendorID"_s, u"VendorNo"_s); }
@@ -83,7 +84,7 @@ void ReceiptEntry::checkComplete() { requireHeaderField(u"VendorID"_s, u"VendorN
 void ReceiptEntry::checkReferences()
 {
     if (!exists(u"Vendor"_s, u"VendorID"_s, header().value(u"VendorID")))
-        throw RuleError(tr("Vendor no longer exists"), u"VendorNo"_s);
+        throw RuleError(TransactionsTexts::tr("Vendor no longer exists"), u"VendorNo"_s);
     requireLocation();
     requireLines();
 }
@@ -94,8 +95,9 @@ void ReceiptEntry::checkLine()
     requireItem();
     requireLineField(u"UnitCost"_s, u"UnitCost"_s);
     if (lines().money(u"UnitCost") < Engine::Money())
-        refuseLine(tr("Field '%1' must not be less than zero").arg(lines().field(u"UnitCost").label),
-                   u"UnitCost"_s);
+        refuseLine(
+            TransactionsTexts::tr("Field '%1' must not be less than zero").arg(lines().field(u"UnitCost").label),
+            u"UnitCost"_s);
 }
 
 } // namespace Tallymere

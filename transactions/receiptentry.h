@@ -7,8 +7,6 @@ namespace Tallymere {
 // Entering one receipt of goods: IReceipt and IRecDet.
 class ReceiptEntry final : public DocumentEntry
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::ReceiptEntry)
-
 public:
     ReceiptEntry(Engine::Database &database, Prompts &prompts);
 

@@ -2,18 +2,11 @@
 #include "transactions/documentkinds.h"
 #include "transactions/receiptentry.h"
 #include "transactions/receiptposting.h"
-
-#include <QCoreApplication>
+#include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
-
-namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("ReceiptKind", text); }
-
-} // namespace
 
 const DocumentKind &DocumentKinds::receipt()
 {
@@ -25,30 +18,31 @@ const DocumentKind &DocumentKinds::receipt()
         .numberField = u"ReceiptNo"_s,
         .dateField = u"ReceiptDate"_s,
         .counters = {u"ItemCtl"_s, u"NextInvReceiptID"_s, u"NextInvReceiptNo"_s, firstNumber},
-        .title = tr("Receipt %1"),
-        .newTitle = tr("New Inventory Receipt"),
-        .postedRefusal = tr("Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you must "
-                            "\"reverse\" it (enter it again with the opposite amount)."),
-        .numberTaken = tr("Receipt no. already exists"),
-        .nothingEntered = tr("Quantities have not been entered"),
-        .locationGone = tr("Warehouse no longer exists"),
+        .title = TransactionsTexts::tr("Receipt %1"),
+        .newTitle = TransactionsTexts::tr("New Inventory Receipt"),
+        .postedRefusal = TransactionsTexts::tr(
+            "Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you must "
+            "\"reverse\" it (enter it again with the opposite amount)."),
+        .numberTaken = TransactionsTexts::tr("Receipt no. already exists"),
+        .nothingEntered = TransactionsTexts::tr("Quantities have not been entered"),
+        .locationGone = TransactionsTexts::tr("Warehouse no longer exists"),
         .requiredFields = {u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s, u"WarehouseID"_s},
         .screen = u"frmInvReceipt"_s,
-        .lineColumns = {{u"QtyReceived"_s, tr("Quantity"), 100, Qt::AlignRight},
-                        {u"ItemNo"_s, tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
-                        {u"ItemDescription"_s, tr("Description"), 450},
-                        {u"UnitCost"_s, tr("Unit Cost"), 110, Qt::AlignRight}},
+        .lineColumns = {{u"QtyReceived"_s, TransactionsTexts::tr("Quantity"), 100, Qt::AlignRight},
+                        {u"ItemNo"_s, TransactionsTexts::tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
+                        {u"ItemDescription"_s, TransactionsTexts::tr("Description"), 450},
+                        {u"UnitCost"_s, TransactionsTexts::tr("Unit Cost"), 110, Qt::AlignRight}},
         .makeEntry = [](Engine::Database &database,
                         Prompts &prompts) { return std::make_unique<ReceiptEntry>(database, prompts); },
         .listScreen = u"frmInvReceipts"_s,
-        .listCaption = tr("Inventory Receipts"),
-        .columns = {{u"Periodppyyyy"_s, tr("Period"), 70},
-                    {u"ReceiptDate"_s, tr("Date"), 85},
-                    {u"ReceiptNo"_s, tr("Receipt no."), 90},
-                    {u"PurchaseOrderNo"_s, tr("PO"), 90},
-                    {u"VendorName"_s, tr("Vendor"), 210},
-                    {u"WarehouseName"_s, tr("Location"), 170},
-                    {u"Posted"_s, tr("Posted"), 60}},
+        .listCaption = TransactionsTexts::tr("Inventory Receipts"),
+        .columns = {{u"Periodppyyyy"_s, TransactionsTexts::tr("Period"), 70},
+                    {u"ReceiptDate"_s, TransactionsTexts::tr("Date"), 85},
+                    {u"ReceiptNo"_s, TransactionsTexts::tr("Receipt no."), 90},
+                    {u"PurchaseOrderNo"_s, TransactionsTexts::tr("PO"), 90},
+                    {u"VendorName"_s, TransactionsTexts::tr("Vendor"), 210},
+                    {u"WarehouseName"_s, TransactionsTexts::tr("Location"), 170},
+                    {u"Posted"_s, TransactionsTexts::tr("Posted"), 60}},
         .orders = {{u"PERIODDATEDESC"_s}},
         .addListFields =
             [](Engine::Table &receipts) {
@@ -56,23 +50,25 @@ const DocumentKind &DocumentKinds::receipt()
                                    {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorName"_s});
             },
         .filterScreen = u"frmInvReceiptsFilter"_s,
-        .filterCaption = tr("Inventory Receipts Filter"),
+        .filterCaption = TransactionsTexts::tr("Inventory Receipts Filter"),
         .notPosted = u"(Posted = false)"_s,
         .find = {.screen = u"frmInvReceiptsFind"_s,
-                 .caption = tr("Find Receipt"),
+                 .caption = TransactionsTexts::tr("Find Receipt"),
                  .box = u"editReceipt"_s,
-                 .label = tr("&Receipt no.:"),
-                 .notFound = tr("Receipt '%1' not found")},
+                 .label = TransactionsTexts::tr("&Receipt no.:"),
+                 .notFound = TransactionsTexts::tr("Receipt '%1' not found")},
         .deleting = {.asks = Question::Confirm,
-                     .question = tr("Delete receipt '%1'?"),
+                     .question = TransactionsTexts::tr("Delete receipt '%1'?"),
                      .nameField = u"ReceiptNo"_s,
-                     .posted = tr("Unable to delete receipt '%1'...\nIt has already been posted"),
+                     .posted =
+                         TransactionsTexts::tr("Unable to delete receipt '%1'...\nIt has already been posted"),
                      .postedBeforeAsking = {}},
         .postScreen = u"frmInvReceiptsPost"_s,
-        .postCaption = tr("Post Inventory Receipts"),
+        .postCaption = TransactionsTexts::tr("Post Inventory Receipts"),
         .posting = receiptPosting(),
         .systemFields = {},
-        .numbers = {{u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s, tr("Vendor no. '%1' not found")}},
+        .numbers = {{u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s,
+                     TransactionsTexts::tr("Vendor no. '%1' not found")}},
         .requiredColumns = {u"VendorID"_s, u"QtyReceived"_s, u"UnitCost"_s},
     };
     return kind;

@@ -4,8 +4,7 @@
 #include "transactions/historywriter.h"
 #include "transactions/receiptcost.h"
 #include "transactions/stockbook.h"
-
-#include <QCoreApplication>
+#include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
 using Engine::Money;
@@ -13,8 +12,6 @@ using Engine::Money;
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("ReceiptPosting", text); }
 
 void readHeader(const Engine::Statement &row, int column, PostingDocument &document)
 {
@@ -56,16 +53,21 @@ PostingKind receiptPosting()
         .transType = TransType::PoReceipt,
         .locks =
             {
-                {u"IReceipt"_s, tr("Unable to lock Receipts table... this table is being updated by another job.")},
+                {u"IReceipt"_s,
+                 TransactionsTexts::tr(
+                     "Unable to lock Receipts table... this table is being updated by another job.")},
                 {u"IBalance"_s,
-                 tr("Unable to lock Item Balance table... this table is being updated by another job.")},
-                {u"Item"_s, tr("Unable to lock Item table... this table is being updated by another job.")},
+                 TransactionsTexts::tr(
+                     "Unable to lock Item Balance table... this table is being updated by another job.")},
+                {u"Item"_s,
+                 TransactionsTexts::tr("Unable to lock Item table... this table is being updated by another job.")},
             },
-        .entryOpen = tr("A conflicting program is running...\nPlease close 'Inventory Receipt' form"),
-        .toBePosted = tr("%1 receipt(s) to be posted"),
-        .posted = tr("%1 receipt(s) posted"),
-        .onePosted = tr("1 receipt posted"),
-        .manyPosted = tr("%1 receipts posted"),
+        .entryOpen =
+            TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Inventory Receipt' form"),
+        .toBePosted = TransactionsTexts::tr("%1 receipt(s) to be posted"),
+        .posted = TransactionsTexts::tr("%1 receipt(s) posted"),
+        .onePosted = TransactionsTexts::tr("1 receipt posted"),
+        .manyPosted = TransactionsTexts::tr("%1 receipts posted"),
         .readHeader = readHeader,
         .readLine = readLine,
         .postLine = postLine,

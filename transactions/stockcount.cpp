@@ -1,6 +1,7 @@
 #include "transactions/stockcount.h"
 
 #include "base/ruleerror.h"
+#include "transactions/texts.h"
 
 #include <exception>
 
@@ -40,9 +41,9 @@ bool StockCount::open(int location, ZeroCounts zeroCounts)
 {
     close();
     if (!m_source.unposted(location).isEmpty()) {
-        m_prompts.warn(
-            tr("There are unposted transactions for this location.\r\nYou cannot enter the inventory for "
-               "this location until all\r\ntransactions involving this location have been posted."));
+        m_prompts.warn(TransactionsTexts::tr(
+            "There are unposted transactions for this location.\r\nYou cannot enter the inventory for "
+            "this location until all\r\ntransactions involving this location have been posted."));
         return false;
     }
     m_location = location;
@@ -64,7 +65,7 @@ void StockCount::setZeroCounts(ZeroCounts zeroCounts)
     try {
         deductUnposted();
     } catch (const std::exception &) {
-        m_prompts.error(tr("Error encountered while deducting uposted usage"));
+        m_prompts.error(TransactionsTexts::tr("Error encountered while deducting uposted usage"));
     }
 }
 
@@ -117,8 +118,8 @@ void StockCount::resume(const CountDraft &draft)
         read(draft.zeroCounts);
     const auto missing = draft.counts.size() - m_list.takeCounts(draft.counts);
     if (missing > 0)
-        m_prompts.inform(
-            tr("%n item(s) that have been counted are no longer in the list.", nullptr, static_cast<int>(missing)));
+        m_prompts.inform(TransactionsTexts::tr("%n item(s) that have been counted are no longer in the list.",
+                                               nullptr, static_cast<int>(missing)));
 }
 
 void StockCount::dropDraft()
@@ -148,19 +149,21 @@ std::optional<CalculatedUsage> StockCount::calculate(QDate date)
 
 void StockCount::requireUnchangedBooks() const
 {
-    const auto goOn = tr("The usage is what the list shows as used, whatever has come or gone meanwhile.\n"
-                         "Do you want to calculate it nevertheless?");
+    const auto goOn =
+        TransactionsTexts::tr("The usage is what the list shows as used, whatever has come or gone meanwhile.\n"
+                              "Do you want to calculate it nevertheless?");
     if (const int changed = changedBalances(); changed > 0) {
-        const QString posted =
-            tr("Transactions have been posted since this list was read: %n item(s) of this location "
-               "have another quantity in the books now.",
-               nullptr, changed);
+        const QString posted = TransactionsTexts::tr(
+            "Transactions have been posted since this list was read: %n item(s) of this location "
+            "have another quantity in the books now.",
+            nullptr, changed);
         if (!m_prompts.confirm(Question::YesNo, posted + u"\n\n"_s + goOn))
             throw SilentAbort();
     }
     if (!(m_source.unposted(m_location) - m_unposted).isEmpty()) {
-        const QString saved = tr("Somebody has saved transactions for this location since this list was read. They "
-                                 "have not been posted yet.");
+        const QString saved = TransactionsTexts::tr(
+            "Somebody has saved transactions for this location since this list was read. They "
+            "have not been posted yet.");
         if (!m_prompts.confirm(Question::YesNo, saved + u"\n\n"_s + goOn))
             throw SilentAbort();
     }

@@ -5,8 +5,6 @@
 #include "transactions/countsource.h"
 #include "transactions/usagecalculation.h"
 
-#include <QCoreApplication>
-
 namespace Tallymere {
 
 // Counting the stock, one location at a time: its list, what is counted, and the usage document that comes of it. The
@@ -14,8 +12,6 @@ namespace Tallymere {
 // calculated or given up.
 class StockCount
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::StockCount)
-
 public:
     StockCount(Engine::Database &database, Prompts &prompts, std::optional<CountDrafts> drafts = std::nullopt);
 

@@ -6,8 +6,7 @@
 #include "engine/recordlock.h"
 #include "engine/table.h"
 #include "transactions/countsource.h"
-
-#include <QCoreApplication>
+#include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
 using Engine::Money;
@@ -17,8 +16,6 @@ namespace Tallymere {
 namespace {
 
 constexpr qint64 noCustomer = -1;
-
-QString tr(const char *text) { return QCoreApplication::translate("Count", text); }
 
 struct UsageLine
 {
@@ -55,11 +52,13 @@ Period periodOf(Engine::Database &database, QDate date)
 
 void warnOfMissingCost(const CountRow &row, ItemCost::Method method, Prompts &prompts)
 {
-    const QString which = method == ItemCost::Method::Average ? tr("has no Weighted Average Cost.")
-                                                              : tr("has no Standard Cost assigned to it.");
-    prompts.warn(tr("%1, Item ID: %2\r\n%3\r\nThe usage will be calculated with a zero cost.\r\n"
-                    "You should edit the resulting usage record and \r\ncorrect the cost, if necessary.")
-                     .arg(row.description, QString::number(row.itemId), which));
+    const QString which = method == ItemCost::Method::Average
+        ? TransactionsTexts::tr("has no Weighted Average Cost.")
+        : TransactionsTexts::tr("has no Standard Cost assigned to it.");
+    prompts.warn(
+        TransactionsTexts::tr("%1, Item ID: %2\r\n%3\r\nThe usage will be calculated with a zero cost.\r\n"
+                              "You should edit the resulting usage record and \r\ncorrect the cost, if necessary.")
+            .arg(row.description, QString::number(row.itemId), which));
 }
 
 std::vector<UsageLine> usageLines(Engine::Database &database, const CountList &list, Prompts &prompts)
@@ -117,7 +116,7 @@ void write(Engine::Database &database, const UsageHeader &header, const std::vec
 {
     Engine::Connection &connection = database.connection();
     const Engine::RecordLock lock(connection, database.session(), u"IUsage"_s, {header.usage.id},
-                                  tr("Usage %1").arg(header.usage.number));
+                                  TransactionsTexts::tr("Usage %1").arg(header.usage.number));
     Engine::GroupedWrites writes(database);
     writes.apply([&](Engine::Writes &step) {
         writeHeader(connection, header, step);

@@ -3,6 +3,7 @@
 #include "base/calchelpers.h"
 #include "base/formats.h"
 #include "transactions/documentkinds.h"
+#include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
 using Engine::FieldType;
@@ -25,10 +26,10 @@ void UsageEntry::configureFields()
     header().field(u"InvoiceAmount").format = currencyFormat();
 
     Engine::Field &quantity = lines().field(u"Quantity");
-    quantity.label = tr("Quantity");
+    quantity.label = TransactionsTexts::tr("Quantity");
     quantity.format = quantityFormat(RegionalSettings::system(), u"Quantity"_s);
     Engine::Field &cost = lines().field(u"UnitCost");
-    cost.label = tr("Unit Cost");
+    cost.label = TransactionsTexts::tr("Unit Cost");
     cost.format = currencyFormat(RegionalSettings::system(), u"UnitCost"_s);
     lines().field(u"ExtAmount").format = currencyFormat();
     lines().field(u"ItemID").changed = [this] {

@@ -9,8 +9,6 @@ namespace Tallymere {
 // its item costs now ("ExtAmount"); a line keeps the cost of the time when its item was chosen.
 class UsageEntry final : public DocumentEntry
 {
-    Q_DECLARE_TR_FUNCTIONS(Tallymere::UsageEntry)
-
 public:
     UsageEntry(Engine::Database &database, Prompts &prompts);
 

@@ -3,8 +3,7 @@
 #include "engine/driver.h"
 #include "transactions/historywriter.h"
 #include "transactions/stockbook.h"
-
-#include <QCoreApplication>
+#include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
 using Engine::Money;
@@ -12,8 +11,6 @@ using Engine::Money;
 namespace Tallymere {
 
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("UsagePosting", text); }
 
 void readHeader(const Engine::Statement &row, int column, PostingDocument &document)
 {
@@ -49,15 +46,17 @@ PostingKind usagePosting()
         .locks =
             {
                 {u"IUsage"_s,
-                 tr("Unable to lock Usage Records table... this table is being updated by another job.")},
+                 TransactionsTexts::tr(
+                     "Unable to lock Usage Records table... this table is being updated by another job.")},
                 {u"IBalance"_s,
-                 tr("Unable to lock Item Balance table... this table is being updated by another job.")},
+                 TransactionsTexts::tr(
+                     "Unable to lock Item Balance table... this table is being updated by another job.")},
             },
-        .entryOpen = tr("A conflicting program is running...\nPlease close 'Usage Record' form"),
-        .toBePosted = tr("%1 usage record(s) to be posted"),
-        .posted = tr("%1 usage record(s) posted"),
-        .onePosted = tr("1 usage record posted"),
-        .manyPosted = tr("%1 usage records posted"),
+        .entryOpen = TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Usage Record' form"),
+        .toBePosted = TransactionsTexts::tr("%1 usage record(s) to be posted"),
+        .posted = TransactionsTexts::tr("%1 usage record(s) posted"),
+        .onePosted = TransactionsTexts::tr("1 usage record posted"),
+        .manyPosted = TransactionsTexts::tr("%1 usage records posted"),
         .readHeader = readHeader,
         .readLine = readLine,
         .postLine = postLine,

@@ -2,9 +2,9 @@
 
 #include "base/csvreader.h"
 #include "base/ruleerror.h"
+#include "host/sample/texts.h"
 #include "import/importer.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -13,14 +13,12 @@ namespace Tallymere {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("SampleFiles", text); }
-
 QString samplePath(const QString &name) { return u":/sample/%1.csv"_s.arg(name); }
 
 void openSample(QFile &file)
 {
     if (!file.open(QIODevice::ReadOnly))
-        throw RuleError(tr("The sample file %1 is missing from the program.").arg(file.fileName()));
+        throw RuleError(SampleTexts::tr("The sample file %1 is missing from the program.").arg(file.fileName()));
 }
 
 void bringIn(TDataModuleTallymere &data, const QString &kind, const QString &name, Progress &progress)
@@ -34,7 +32,7 @@ void bringIn(TDataModuleTallymere &data, const QString &kind, const QString &nam
     if (result.errors.isEmpty())
         return;
     const ImportErrors::Error first = result.errors.inFileOrder().front();
-    throw RuleError(tr("The sample kitchen does not fit into this database: %1 (%2.csv, line %3)")
+    throw RuleError(SampleTexts::tr("The sample kitchen does not fit into this database: %1 (%2.csv, line %3)")
                         .arg(first.message, name)
                         .arg(first.line));
 }
