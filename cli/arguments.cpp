@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 Arguments::Arguments(const QStringList &words, const QList<OptionSpec> &options)
 {
@@ -32,14 +32,14 @@ void Arguments::takeOption(QString name, QStringList &rest, const QList<OptionSp
     const auto known =
         std::find_if(options.begin(), options.end(), [&](const OptionSpec &option) { return option.name == name; });
     if (known == options.end())
-        throw UsageError(CliTexts::tr("unknown option '--%1'").arg(name));
+        throw UsageError(Texts::tr("unknown option '--%1'").arg(name));
     if (m_options.contains(name))
-        throw UsageError(CliTexts::tr("option '--%1' is given twice").arg(name));
+        throw UsageError(Texts::tr("option '--%1' is given twice").arg(name));
     if (known->value.isEmpty() && equals >= 0)
-        throw UsageError(CliTexts::tr("option '--%1' takes no value").arg(name));
+        throw UsageError(Texts::tr("option '--%1' takes no value").arg(name));
     if (!known->value.isEmpty() && equals < 0) {
         if (rest.isEmpty())
-            throw UsageError(CliTexts::tr("option '--%1' needs a value: %2").arg(name, known->value));
+            throw UsageError(Texts::tr("option '--%1' needs a value: %2").arg(name, known->value));
         value = rest.takeFirst();
     }
     m_options.insert(name, value);
@@ -53,8 +53,8 @@ qint64 Arguments::number(const QString &option, qint64 otherwise) const
     const qint64 number = value(option).toLongLong(&ok);
     if (!ok || number < 0)
         throw UsageError(
-            CliTexts::tr("option '--%1' needs a whole number of 0 or more, not '%2'").arg(option, value(option)));
+            Texts::tr("option '--%1' needs a whole number of 0 or more, not '%2'").arg(option, value(option)));
     return number;
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 // The command line does not make sense: exit status 2.
 class UsageError : public std::exception
@@ -57,4 +57,4 @@ private:
     QStringList m_words;
 };
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

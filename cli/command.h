@@ -10,7 +10,7 @@
 #include <QList>
 #include <QString>
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 // What a command has at hand while it runs.
 struct CommandContext
@@ -58,4 +58,4 @@ Command totalsCommand();
 Command historyCommand();
 Command listCommand();
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

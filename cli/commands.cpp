@@ -10,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 std::unique_ptr<TDataModuleTallymere> CommandContext::openData(DataModuleOptions options) const
 {
@@ -52,18 +52,18 @@ void CommandContext::patiently(const std::function<void()> &step) const
 
 OptionSpec retryOption()
 {
-    return {u"retry"_s, CliTexts::tr("SECONDS"), CliTexts::tr("keeps trying while another user holds a table")};
+    return {u"retry"_s, Texts::tr("SECONDS"), Texts::tr("keeps trying while another user holds a table")};
 }
 
 const QList<OptionSpec> &commonOptions()
 {
     static const QList<OptionSpec> options = {
-        {u"data"_s, CliTexts::tr("FOLDER"), CliTexts::tr("the folder that holds the database")},
-        {u"server"_s, CliTexts::tr("ADDRESS"), CliTexts::tr("the server that holds the database")},
-        {u"user"_s, CliTexts::tr("NAME"),
-         CliTexts::tr("the name others see as the owner of locks (default: the login name)")},
-        {u"help"_s, {}, CliTexts::tr("shows this help")},
-        {u"version"_s, {}, CliTexts::tr("shows the version")},
+        {u"data"_s, Texts::tr("FOLDER"), Texts::tr("the folder that holds the database")},
+        {u"server"_s, Texts::tr("ADDRESS"), Texts::tr("the server that holds the database")},
+        {u"user"_s, Texts::tr("NAME"),
+         Texts::tr("the name others see as the owner of locks (default: the login name)")},
+        {u"help"_s, {}, Texts::tr("shows this help")},
+        {u"version"_s, {}, Texts::tr("shows the version")},
     };
     return options;
 }
@@ -78,4 +78,4 @@ const QList<Command> &commands()
 
 const Command *findCommand(const QString &name) { return findNamed(commands(), name); }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
@@ -117,4 +117,4 @@ void ConsoleProgress::finish()
     m_shown = false;
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

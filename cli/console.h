@@ -8,7 +8,7 @@
 #include <QFile>
 #include <QString>
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 // Standard output and standard error of the program.
 class Console
@@ -86,4 +86,4 @@ private:
     qint64 m_lastShown = 0;
 };
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

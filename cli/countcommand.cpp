@@ -9,14 +9,14 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
 QString required(const Arguments &arguments, const QString &option)
 {
     if (!arguments.has(option))
-        throw UsageError(CliTexts::tr("'count' needs the option '--%1'").arg(option));
+        throw UsageError(Texts::tr("'count' needs the option '--%1'").arg(option));
     return arguments.value(option);
 }
 
@@ -25,16 +25,16 @@ QDate dateOf(const Arguments &arguments)
     const QString text = required(arguments, u"date"_s);
     const QDate date = text.size() == 10 ? QDate::fromString(text, u"yyyy-MM-dd"_s) : QDate();
     if (!date.isValid())
-        throw UsageError(CliTexts::tr("option '--date' needs a date as YYYY-MM-DD, not '%1'").arg(text));
+        throw UsageError(Texts::tr("option '--date' needs a date as YYYY-MM-DD, not '%1'").arg(text));
     return date;
 }
 
 void requireDate(QDate date, QDate today)
 {
     if (!StockCount::isCountable(date, today))
-        throw RuleError(CliTexts::tr("The date of a count must lie less than 365 days back"));
+        throw RuleError(Texts::tr("The date of a count must lie less than 365 days back"));
     if (date > StockCount::latestDate(today))
-        throw RuleError(CliTexts::tr("The date of a count cannot be later than %1")
+        throw RuleError(Texts::tr("The date of a count cannot be later than %1")
                             .arg(StockCount::latestDate(today).toString(Qt::ISODate)));
 }
 
@@ -43,7 +43,7 @@ void requireLocation(const StockCount &count, qint64 location)
     const std::vector<CountLocation> locations = count.locations();
     if (std::none_of(locations.begin(), locations.end(),
                      [&](const CountLocation &one) { return one.id == location; }))
-        throw RuleError(CliTexts::tr("There is no location %1").arg(location));
+        throw RuleError(Texts::tr("There is no location %1").arg(location));
 }
 
 struct CountOrder
@@ -70,13 +70,13 @@ std::optional<CalculatedUsage> calculate(CommandContext &context, TDataModuleTal
     requireLocation(count, order.location);
     requireDate(order.date, data.today());
     if (!count.open(static_cast<int>(order.location), order.zeroCounts))
-        throw RuleError(CliTexts::tr("Nothing was counted."));
+        throw RuleError(Texts::tr("Nothing was counted."));
     file.seek(0);
     ImportErrors errors;
     takeCountFile(file, count, order.date, errors);
     if (!errors.isEmpty()) {
         complainOfRows(context.console, order.fileName, errors);
-        throw RuleError(CliTexts::tr("Nothing was counted."));
+        throw RuleError(Texts::tr("Nothing was counted."));
     }
     return count.calculate(order.date);
 }
@@ -90,8 +90,8 @@ void runCount(CommandContext &context)
     context.patiently([&] { data = context.openData(); });
     std::optional<CalculatedUsage> usage;
     context.patiently([&] { usage = calculate(context, *data, order, *file); });
-    context.console.print(usage ? CliTexts::tr("usage %1 written, %2 line(s)").arg(usage->number).arg(usage->lines)
-                                : CliTexts::tr("no usage to be written"));
+    context.console.print(usage ? Texts::tr("usage %1 written, %2 line(s)").arg(usage->number).arg(usage->lines)
+                                : Texts::tr("no usage to be written"));
 }
 
 } // namespace
@@ -100,19 +100,19 @@ Command countCommand()
 {
     Command command;
     command.name = u"count"_s;
-    command.summary = CliTexts::tr("turns a count of the stock at a location into a usage document");
-    command.details = CliTexts::tr(
+    command.summary = Texts::tr("turns a count of the stock at a location into a usage document");
+    command.details = Texts::tr(
         "COUNT.csv holds ItemNo,Quantity. Items that it leaves out keep their recorded quantity. What has been\n"
         "counted above the record becomes a negative usage, but only where something else has been used.\n"
         "While documents of the location wait to be posted nothing is counted.");
     command.options = {
-        {u"location"_s, CliTexts::tr("ID"), CliTexts::tr("where it was counted: WarehouseID of the locations")},
-        {u"date"_s, CliTexts::tr("YYYY-MM-DD"), CliTexts::tr("when")},
-        {u"file"_s, CliTexts::tr("COUNT.csv"), CliTexts::tr("what was counted")},
-        {u"include-zero"_s, {}, CliTexts::tr("items without any balance may be in the file as well")},
+        {u"location"_s, Texts::tr("ID"), Texts::tr("where it was counted: WarehouseID of the locations")},
+        {u"date"_s, Texts::tr("YYYY-MM-DD"), Texts::tr("when")},
+        {u"file"_s, Texts::tr("COUNT.csv"), Texts::tr("what was counted")},
+        {u"include-zero"_s, {}, Texts::tr("items without any balance may be in the file as well")},
         retryOption()};
     command.run = runCount;
     return command;
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

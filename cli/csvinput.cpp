@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
@@ -21,7 +21,7 @@ std::unique_ptr<QIODevice> openInput(const QString &fileName)
 {
     auto file = std::make_unique<QFile>(fileName);
     if (!file->open(QIODevice::ReadOnly))
-        throw RuleError(CliTexts::tr("The file %1 could not be read: %2").arg(fileName, file->errorString()));
+        throw RuleError(Texts::tr("The file %1 could not be read: %2").arg(fileName, file->errorString()));
     if (!file->isSequential())
         return file;
     auto piped = std::make_unique<QBuffer>();
@@ -36,7 +36,7 @@ void complainOfRows(Console &console, const QString &fileName, const ImportError
     for (size_t i = 0; i < std::min(all.size(), mostErrorsShown); ++i)
         console.complain(onOneLine(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), all[i].message)));
     if (all.size() > mostErrorsShown)
-        console.complain(CliTexts::tr("%1: %2 more errors").arg(fileName).arg(all.size() - mostErrorsShown));
+        console.complain(Texts::tr("%1: %2 more errors").arg(fileName).arg(all.size() - mostErrorsShown));
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

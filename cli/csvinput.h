@@ -5,7 +5,7 @@
 #include <memory>
 #include <QIODevice>
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 class Console;
 
@@ -15,4 +15,4 @@ std::unique_ptr<QIODevice> openInput(const QString &fileName);
 // Each as FILE:LINE: message, the first 100 and then a count.
 void complainOfRows(Console &console, const QString &fileName, const ImportErrors &errors);
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
@@ -35,7 +35,7 @@ void makeFolder(const QString &folder)
     if (!QDir().mkpath(folder)) {
         throw Engine::EngineError(
             Engine::ErrorCode::CannotOpen,
-            CliTexts::tr("The folder %1 could not be made: %2").arg(folder, Terminal::lastSystemError()));
+            Texts::tr("The folder %1 could not be made: %2").arg(folder, Terminal::lastSystemError()));
     }
 }
 
@@ -55,4 +55,4 @@ std::unique_ptr<TDataModuleTallymere> openNewDatabase(const CommandContext &cont
     return context.openData(std::move(options));
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

@@ -2,11 +2,11 @@
 
 #include "cli/command.h"
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 // Opens the database of the options or of the user's settings, making what is missing: the folder, the database,
 // the host's tables with their one configuration row, the inventory tables.
 std::unique_ptr<TDataModuleTallymere> openNewDatabase(const CommandContext &context, const QString &organization,
                                                       QString postalFormat);
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

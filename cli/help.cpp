@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
@@ -27,16 +27,16 @@ QString versionText() { return "tallymere "_L1 + strBuildInfo(); }
 
 QString helpText()
 {
-    QString text = CliTexts::tr(
-        "Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] COMMAND [ARGUMENTS]\n\n"
-        "Inventory without a display. Without --data or --server your settings say where the data are.\n"
-        "\nCommands:\n");
+    QString text =
+        Texts::tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] COMMAND [ARGUMENTS]\n\n"
+                  "Inventory without a display. Without --data or --server your settings say where the data are.\n"
+                  "\nCommands:\n");
     for (const Command &command : commands()) {
         const QString synopsis = command.words.isEmpty() ? command.name : command.name + u' ' + command.words;
         text += "  "_L1 + synopsis.leftJustified(nameWidth) + command.summary + u'\n';
     }
-    text += CliTexts::tr("\nOptions:\n") + optionLines(commonOptions());
-    text += CliTexts::tr(
+    text += Texts::tr("\nOptions:\n") + optionLines(commonOptions());
+    text += Texts::tr(
         "\nExit status: 0 done, 1 refused (a rule, bad input, a lock), 2 wrong usage, 3 the database failed.\n"
         "'tallymere COMMAND --help' tells more about a command.");
     return text;
@@ -45,12 +45,12 @@ QString helpText()
 QString helpText(const Command &command)
 {
     QString text =
-        CliTexts::tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] %1 %2 [OPTIONS]\n\n%3.\n")
+        Texts::tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] %1 %2 [OPTIONS]\n\n%3.\n")
             .arg(command.name, command.words, command.summary);
     if (!command.details.isEmpty())
         text += u'\n' + command.details + u'\n';
-    text += CliTexts::tr("\nOptions:\n") + optionLines(command.options + commonOptions());
+    text += Texts::tr("\nOptions:\n") + optionLines(command.options + commonOptions());
     return text.trimmed();
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

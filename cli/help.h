@@ -2,10 +2,10 @@
 
 #include "cli/command.h"
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 QString versionText();
 QString helpText(); // of the program
 QString helpText(const Command &command);
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

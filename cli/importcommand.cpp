@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
@@ -17,8 +17,8 @@ const ImportKind &requireKind(const QString &name)
         return *kind;
     const QStringList coming = {u"adjustments"_s};
     if (coming.contains(name))
-        throw UsageError(CliTexts::tr("'import %1' is not available yet").arg(name));
-    throw UsageError(CliTexts::tr("'import' knows no '%1', but: %2").arg(name, namesOf(importKinds())));
+        throw UsageError(Texts::tr("'import %1' is not available yet").arg(name));
+    throw UsageError(Texts::tr("'import' knows no '%1', but: %2").arg(name, namesOf(importKinds())));
 }
 
 void runImport(CommandContext &context)
@@ -30,7 +30,7 @@ void runImport(CommandContext &context)
     context.beginRetrying();
     std::unique_ptr<TDataModuleTallymere> data;
     context.patiently([&] { data = context.openData(); });
-    ConsoleProgress progress(context.console, CliTexts::tr("Importing"));
+    ConsoleProgress progress(context.console, Texts::tr("Importing"));
     ImportResult result;
     context.patiently([&] {
         file->seek(0);
@@ -38,9 +38,9 @@ void runImport(CommandContext &context)
     });
     if (!result.errors.isEmpty()) {
         complainOfRows(context.console, fileName, result.errors);
-        throw RuleError(CliTexts::tr("Nothing was imported."));
+        throw RuleError(Texts::tr("Nothing was imported."));
     }
-    context.console.print(CliTexts::tr("%1 %2 imported").arg(result.documents).arg(kind.name));
+    context.console.print(Texts::tr("%1 %2 imported").arg(result.documents).arg(kind.name));
 }
 
 } // namespace
@@ -51,18 +51,17 @@ Command importCommand()
     command.name = u"import"_s;
     command.words = u"KIND FILE.csv"_s;
     command.fewestWords = command.mostWords = 2;
-    command.summary = CliTexts::tr("brings in a CSV file, all of it or nothing");
+    command.summary = Texts::tr("brings in a CSV file, all of it or nothing");
     command.details =
-        CliTexts::tr(
-            "KIND: %1\n\nThe header row holds field names. A number or name may stand for a key: ItemNo, "
-            "VendorNo,\n"
-            "WarehouseName, TypeName, CurrencyName. The rows of a document are those with the same document\n"
-            "columns, one after the other. Numbers, dates and periods left empty are assigned.\n"
-            "Rows are refused by the rules of the screens, each as FILE:LINE: message.")
+        Texts::tr("KIND: %1\n\nThe header row holds field names. A number or name may stand for a key: ItemNo, "
+                  "VendorNo,\n"
+                  "WarehouseName, TypeName, CurrencyName. The rows of a document are those with the same document\n"
+                  "columns, one after the other. Numbers, dates and periods left empty are assigned.\n"
+                  "Rows are refused by the rules of the screens, each as FILE:LINE: message.")
             .arg(namesOf(importKinds()));
-    command.options = {{u"yes"_s, {}, CliTexts::tr("answers yes where a screen would ask")}, retryOption()};
+    command.options = {{u"yes"_s, {}, Texts::tr("answers yes where a screen would ask")}, retryOption()};
     command.run = runImport;
     return command;
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

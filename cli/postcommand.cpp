@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
@@ -26,8 +26,8 @@ const DocumentKind &requireKind(const QString &name)
     if (const DocumentKind *kind = DocumentKinds::find(name))
         return *kind;
     if (name == "adjustments"_L1)
-        throw UsageError(CliTexts::tr("'post %1' is not available yet").arg(name));
-    throw UsageError(CliTexts::tr("'post' knows no '%1', but: %2").arg(name, kindNames().join(u", ")));
+        throw UsageError(Texts::tr("'post %1' is not available yet").arg(name));
+    throw UsageError(Texts::tr("'post' knows no '%1', but: %2").arg(name, kindNames().join(u", ")));
 }
 
 void runPost(CommandContext &context)
@@ -40,7 +40,7 @@ void runPost(CommandContext &context)
         data->sessionTallymere().lockAttempts = 1; // what is refused is tried again here, as long as was said
     std::optional<DocumentPosting> posting;
     context.patiently([&] { posting.emplace(data->databaseTallymere(), kind); });
-    ConsoleProgress progress(context.console, CliTexts::tr("Posting"));
+    ConsoleProgress progress(context.console, Texts::tr("Posting"));
     const bool posted = posting->run(context.prompts, progress);
     context.console.print(posted ? kind.posting.posted.arg(posting->posted()) : posting->countText());
 }
@@ -53,10 +53,10 @@ Command postCommand()
     command.name = u"post"_s;
     command.words = kindNames().join(u'|');
     command.fewestWords = command.mostWords = 1;
-    command.summary = CliTexts::tr("posts every unposted document of a kind");
+    command.summary = Texts::tr("posts every unposted document of a kind");
     command.options = {retryOption()};
     command.run = runPost;
     return command;
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
@@ -39,23 +39,23 @@ const Command &requireCommand(const QString &name)
     if (const Command *command = findCommand(name))
         return *command;
     if (comingCommands().contains(name))
-        throw UsageError(CliTexts::tr("the command '%1' is not available yet").arg(name));
-    throw UsageError(CliTexts::tr("unknown command '%1'").arg(name));
+        throw UsageError(Texts::tr("the command '%1' is not available yet").arg(name));
+    throw UsageError(Texts::tr("unknown command '%1'").arg(name));
 }
 
 void requireWords(const Command &command, const Arguments &arguments)
 {
     const qsizetype given = arguments.words().size() - 1;
     if (given < command.fewestWords)
-        throw UsageError(CliTexts::tr("'%1' needs more: %2").arg(command.name, command.words));
+        throw UsageError(Texts::tr("'%1' needs more: %2").arg(command.name, command.words));
     if (given > command.mostWords)
         throw UsageError(
-            CliTexts::tr("'%1' does not know what to do with '%2'").arg(command.name, arguments.words().last()));
+            Texts::tr("'%1' does not know what to do with '%2'").arg(command.name, arguments.words().last()));
     if (arguments.has(u"data"_s) && arguments.has(u"server"_s))
-        throw UsageError(CliTexts::tr("--data and --server exclude each other"));
+        throw UsageError(Texts::tr("--data and --server exclude each other"));
     for (const QString &option : {u"data"_s, u"server"_s, u"user"_s}) {
         if (arguments.has(option) && arguments.value(option).isEmpty())
-            throw UsageError(CliTexts::tr("option '--%1' needs a value").arg(option));
+            throw UsageError(Texts::tr("option '--%1' needs a value").arg(option));
     }
 }
 
@@ -68,7 +68,7 @@ void run(const QStringList &words, Console &console, SettingsStore &settings)
             return console.print(versionText());
         if (arguments.has(u"help"_s))
             return console.print(helpText());
-        throw UsageError(CliTexts::tr("which command?"));
+        throw UsageError(Texts::tr("which command?"));
     }
     const Command &command = requireCommand(name);
     const Arguments arguments(words, commonOptions() + command.options);
@@ -112,7 +112,7 @@ ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore 
         return ExitStatus::Done;
     } catch (const UsageError &error) {
         console.error(error.message());
-        console.complain(CliTexts::tr("Try 'tallymere --help'."));
+        console.complain(Texts::tr("Try 'tallymere --help'."));
         return ExitStatus::WrongUsage;
     } catch (const RuleError &error) {
         console.error(error.message());
@@ -128,4 +128,4 @@ ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore 
     }
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

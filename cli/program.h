@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 enum class ExitStatus {
     Done = 0,
@@ -17,4 +17,4 @@ enum class ExitStatus {
 // Runs the command line (without the program's name) and reports failures on standard error.
 ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore &settings);
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
@@ -20,7 +20,7 @@ constexpr qint64 usualSeed = 1;
 bool isLarge(const QString &size)
 {
     if (size != "small"_L1 && size != "large"_L1)
-        throw UsageError(CliTexts::tr("option '--size' takes small or large, not '%1'").arg(size));
+        throw UsageError(Texts::tr("option '--size' takes small or large, not '%1'").arg(size));
     return size == "large"_L1;
 }
 
@@ -31,7 +31,7 @@ void requireEmpty(Engine::Database &database)
     for (const QString &table : tables) {
         if (Engine::singleValue(database, u"SELECT count(*) FROM "_s + table).toInt64() > 0)
             throw RuleError(
-                CliTexts::tr("The sample kitchen goes into a new database only: table '%1' holds rows already.")
+                Texts::tr("The sample kitchen goes into a new database only: table '%1' holds rows already.")
                     .arg(Layouts::titleOf(table)));
     }
 }
@@ -43,8 +43,8 @@ void requireDollars(Engine::Database &database)
         Engine::singleValue(database, u"SELECT CurrencyName FROM Currency ORDER BY CurrencyID"_s).toText();
     if (home != "US $"_L1)
         throw RuleError(
-            CliTexts::tr("The sample kitchen counts in US $, but the home currency of this database is %1. "
-                         "Make a database with the postal format USA.")
+            Texts::tr("The sample kitchen counts in US $, but the home currency of this database is %1. "
+                      "Make a database with the postal format USA.")
                 .arg(home));
 }
 
@@ -73,11 +73,11 @@ void runSample(CommandContext &context)
 {
     const bool large = isLarge(context.arguments.value(u"size"_s, u"small"_s));
     const qint64 seed = context.arguments.number(u"seed"_s, usualSeed);
-    const auto opened = openNewDatabase(context, CliTexts::tr("Lakeside Meals"), u"USA"_s);
+    const auto opened = openNewDatabase(context, Texts::tr("Lakeside Meals"), u"USA"_s);
     TDataModuleTallymere &data = *opened;
     requireDollars(data.databaseTallymere());
 
-    ConsoleProgress progress(context.console, CliTexts::tr("Filling"));
+    ConsoleProgress progress(context.console, Texts::tr("Filling"));
     if (large)
         fillLarge(data, static_cast<quint64>(seed), progress);
     else
@@ -85,7 +85,7 @@ void runSample(CommandContext &context)
     const auto rows = Engine::singleValue(data.databaseTallymere(), u"SELECT count(*) FROM IHist"_s);
     const auto items = Engine::singleValue(data.databaseTallymere(), u"SELECT count(*) FROM Item"_s);
     context.console.print(
-        CliTexts::tr("The sample kitchen is ready: %1 items, %2 history rows.").arg(items.toText(), rows.toText()));
+        Texts::tr("The sample kitchen is ready: %1 items, %2 history rows.").arg(items.toText(), rows.toText()));
 }
 
 } // namespace
@@ -94,16 +94,15 @@ Command sampleCommand()
 {
     Command command;
     command.name = u"sample"_s;
-    command.summary = CliTexts::tr("fills a new database with a sample kitchen");
-    command.details = CliTexts::tr(
+    command.summary = Texts::tr("fills a new database with a sample kitchen");
+    command.details = Texts::tr(
         "What is missing is made as by 'init'. The small kitchen holds a year of receipts, posted but for the\n"
         "last days'. The large one holds 5,000 items, 10 locations and 1,000,000 history rows of three years;\n"
         "the same seed gives the same rows.");
-    command.options = {
-        {u"size"_s, u"small|large"_s, CliTexts::tr("small (the default) or large")},
-        {u"seed"_s, u"N"_s, CliTexts::tr("what chance of the large kitchen starts from (default 1)")}};
+    command.options = {{u"size"_s, u"small|large"_s, Texts::tr("small (the default) or large")},
+                       {u"seed"_s, u"N"_s, Texts::tr("what chance of the large kitchen starts from (default 1)")}};
     command.run = runSample;
     return command;
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

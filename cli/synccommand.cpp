@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
@@ -25,8 +25,8 @@ struct SyncKind
 const QList<SyncKind> &kinds()
 {
     static const QList<SyncKind> all = {
-        {u"locations"_s, synchronize<LocationSync>, CliTexts::tr("%1 location(s) added, %2 renamed")},
-        {u"items"_s, synchronize<ItemSync>, CliTexts::tr("%1 item(s) added, %2 updated")},
+        {u"locations"_s, synchronize<LocationSync>, Texts::tr("%1 location(s) added, %2 renamed")},
+        {u"items"_s, synchronize<ItemSync>, Texts::tr("%1 item(s) added, %2 updated")},
     };
     return all;
 }
@@ -35,7 +35,7 @@ const SyncKind &requireKind(const QString &name)
 {
     if (const SyncKind *kind = findNamed(kinds(), name))
         return *kind;
-    throw UsageError(CliTexts::tr("'sync' knows no '%1', but: %2").arg(name, namesOf(kinds())));
+    throw UsageError(Texts::tr("'sync' knows no '%1', but: %2").arg(name, namesOf(kinds())));
 }
 
 void runSync(CommandContext &context)
@@ -44,11 +44,11 @@ void runSync(CommandContext &context)
     context.beginRetrying();
     std::unique_ptr<TDataModuleTallymere> data;
     context.patiently([&] { data = context.openData(); });
-    ConsoleProgress progress(context.console, CliTexts::tr("Synchronizing"));
+    ConsoleProgress progress(context.console, Texts::tr("Synchronizing"));
     HostSyncResult result;
     context.patiently([&] { result = kind.run(data->databaseTallymere(), progress); });
     if (!result.notUpdated.isEmpty())
-        context.prompts.warn(CliTexts::tr("What is there already has not been updated: %1").arg(result.notUpdated));
+        context.prompts.warn(Texts::tr("What is there already has not been updated: %1").arg(result.notUpdated));
     context.console.print(kind.outcome.arg(result.added).arg(result.updated));
 }
 
@@ -60,14 +60,14 @@ Command syncCommand()
     command.name = u"sync"_s;
     command.words = u"locations|items"_s;
     command.fewestWords = command.mostWords = 1;
-    command.summary = CliTexts::tr("brings the host's locations or items over");
-    command.details = CliTexts::tr(
-        "Those that are there already take the host's names, prices and item types; new ones are added.\n"
-        "Nothing is deleted. While another user works on the same table nothing is done, with status 1\n"
-        "unless --retry says for how long to try.");
+    command.summary = Texts::tr("brings the host's locations or items over");
+    command.details =
+        Texts::tr("Those that are there already take the host's names, prices and item types; new ones are added.\n"
+                  "Nothing is deleted. While another user works on the same table nothing is done, with status 1\n"
+                  "unless --retry says for how long to try.");
     command.options = {retryOption()};
     command.run = runSync;
     return command;
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

@@ -5,7 +5,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
-namespace Tallymere::Terminal {
+namespace Tallymere::Cli::Terminal {
 
 bool isErrorTerminal() { return isatty(STDERR_FILENO) == 1; }
 
@@ -19,4 +19,4 @@ QString loginName()
 
 QString lastSystemError() { return QString::fromLocal8Bit(std::strerror(errno)); }
 
-} // namespace Tallymere::Terminal
+} // namespace Tallymere::Cli::Terminal

@@ -2,12 +2,12 @@
 
 #include <QCoreApplication>
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
-// The context in which this room's texts are found: CliTexts::tr("...").
-class CliTexts
+// The context in which this room's texts are found: Texts::tr("...").
+class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Cli)
 };
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

@@ -11,16 +11,16 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Tallymere {
+namespace Tallymere::Cli {
 
 namespace {
 
-OptionSpec csvOption() { return {u"csv"_s, {}, CliTexts::tr("writes CSV, which is what is written anyway")}; }
+OptionSpec csvOption() { return {u"csv"_s, {}, Texts::tr("writes CSV, which is what is written anyway")}; }
 
 OptionSpec filterOption()
 {
-    return {u"filter"_s, CliTexts::tr("EXPR"),
-            CliTexts::tr("only the rows that meet a condition: \"(WarehouseID = 2)\"")};
+    return {u"filter"_s, Texts::tr("EXPR"),
+            Texts::tr("only the rows that meet a condition: \"(WarehouseID = 2)\"")};
 }
 
 QStringList fieldNames(const Engine::TableLayout &layout)
@@ -38,22 +38,24 @@ void writeRows(CommandContext &context, Engine::DataSet &rows, const QStringList
         rows.setFilter(filter);
         rows.setFiltered(true);
     }
-    ConsoleProgress progress(context.console, CliTexts::tr("Writing"));
+    ConsoleProgress progress(context.console, Texts::tr("Writing"));
     writeCsvList(rows, columns, context.console.longOutput(), progress);
 }
 
-TotalsView::Sort totalsSort(const QString &name)
+using TotalsSort = TotalsView::Sort;
+
+TotalsSort totalsSort(const QString &name)
 {
     if (name == "item"_L1)
-        return TotalsView::Sort::ItemNo;
+        return TotalsSort::ItemNo;
     if (name == "description"_L1)
-        return TotalsView::Sort::Description;
-    throw UsageError(CliTexts::tr("option '--sort' takes item or description, not '%1'").arg(name));
+        return TotalsSort::Description;
+    throw UsageError(Texts::tr("option '--sort' takes item or description, not '%1'").arg(name));
 }
 
 void runTotals(CommandContext &context)
 {
-    const TotalsView::Sort sort = totalsSort(context.arguments.value(u"sort"_s, u"item"_s));
+    const TotalsSort sort = totalsSort(context.arguments.value(u"sort"_s, u"item"_s));
     const auto data = context.openData();
     TotalsView view(data->databaseTallymere());
     view.setSort(sort);
@@ -99,7 +101,7 @@ const ListKind &requireListKind(const QString &name)
 {
     if (const ListKind *kind = findNamed(listKinds(), name))
         return *kind;
-    throw UsageError(CliTexts::tr("'list' knows no '%1', but: %2").arg(name, namesOf(listKinds())));
+    throw UsageError(Texts::tr("'list' knows no '%1', but: %2").arg(name, namesOf(listKinds())));
 }
 
 void runList(CommandContext &context)
@@ -119,11 +121,10 @@ Command totalsCommand()
 {
     Command command;
     command.name = u"totals"_s;
-    command.summary = CliTexts::tr("the quantity on hand of every item at every location, as CSV");
-    command.options = {
-        csvOption(),
-        filterOption(),
-        {u"sort"_s, CliTexts::tr("ORDER"), CliTexts::tr("item (by number, the default) or description")}};
+    command.summary = Texts::tr("the quantity on hand of every item at every location, as CSV");
+    command.options = {csvOption(),
+                       filterOption(),
+                       {u"sort"_s, Texts::tr("ORDER"), Texts::tr("item (by number, the default) or description")}};
     command.run = runTotals;
     return command;
 }
@@ -132,7 +133,7 @@ Command historyCommand()
 {
     Command command;
     command.name = u"history"_s;
-    command.summary = CliTexts::tr("every movement of stock, latest period first, as CSV");
+    command.summary = Texts::tr("every movement of stock, latest period first, as CSV");
     command.options = {csvOption(), filterOption()};
     command.run = runHistory;
     return command;
@@ -144,11 +145,11 @@ Command listCommand()
     command.name = u"list"_s;
     command.words = u"KIND"_s;
     command.fewestWords = command.mostWords = 1;
-    command.summary = CliTexts::tr("a list of master records or documents as CSV, all fields");
-    command.details = CliTexts::tr("KIND: %1").arg(namesOf(listKinds()));
+    command.summary = Texts::tr("a list of master records or documents as CSV, all fields");
+    command.details = Texts::tr("KIND: %1").arg(namesOf(listKinds()));
     command.options = {csvOption(), filterOption()};
     command.run = runList;
     return command;
 }
 
-} // namespace Tallymere
+} // namespace Tallymere::Cli

@@ -18,7 +18,8 @@ namespace Engine {
 
 namespace {
 
-// File systems of other computers, by the numbers that statfs() gives them.
+// File systems of other computers, by the numbers that statfs() gives them. QStorageInfo names the lower of two that
+// are mounted at the same place: "autofs" where NFS or SMB has been mounted on demand.
 constexpr unsigned long remoteFileSystems[] = {
     0x6969, // NFS
     0x517B, // SMB
