@@ -155,6 +155,7 @@ void EntryScreen::closeEvent(QCloseEvent *event)
     if (closes) {
         m_settled = true;
         event->accept();
+        Q_EMIT closed();
     } else {
         event->ignore();
         bringToFront(*this);

@@ -31,6 +31,7 @@ public:
 Q_SIGNALS:
     // The record has been written; the list that opened the screen moves there. What it throws is only traced.
     void saved(int key);
+    void closed();
 
 protected:
     EntryScreen(ScreenContext &context, QWidget *parent);

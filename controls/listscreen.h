@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/listfilter.h"
+#include "controls/commandscreen.h"
 #include "controls/guard.h"
 #include "controls/listgrid.h"
 #include "controls/screencontext.h"
@@ -67,7 +68,7 @@ struct ListDescription
 //
 // The screens give a description, the data set and what the commands do; the base owns layout, sizes and places, the
 // filter mark in caption and menu, refreshing and moving, the status line, the search by typing, copying and saving.
-class ListScreen : public QMainWindow, public TableOwner
+class ListScreen : public QMainWindow, public TableOwner, public CommandScreen
 {
     Q_OBJECT
 
@@ -77,12 +78,12 @@ public:
     QList<Engine::Table *> ownedTables() override; // none when it shows a query
 
     // Reads the list anew; the cursor stays on its row.
-    void refreshList();
+    void refreshList() override;
     // Every record shows again: the filter is off, its command unchecked, and a filter dialog that has been opened
     // is cleared.
-    void resetFilter();
+    void resetFilter() override;
     // Brings the screen back: restored when minimised, its show step run when it was visible, in front.
-    void showAgain();
+    void showAgain() override;
     // Moves to a row by its key; false when the list does not show it.
     bool moveToKey(int key);
     // Switches the filter on, or off with an empty expression.

@@ -41,8 +41,9 @@ std::unique_ptr<RecordScreen> RecordOpener::make()
                 else
                     showSaved(list, key);
             });
-    // Work goes on in the window that the record was opened from, not in the main window that both belong to.
-    connect(screen.get(), &QObject::destroyed, this, [this] {
+    // Work goes on in the window that the record was opened from, not in the main window that both belong to. At once: by
+    // the time the screen is gone another one may be asking about its changes.
+    connect(screen.get(), &EntryScreen::closed, this, [this] {
         if (m_owner->isVisible())
             m_owner->activateWindow();
     });

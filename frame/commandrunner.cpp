@@ -1,5 +1,6 @@
 #include "frame/commandrunner.h"
 
+#include "controls/commandscreen.h"
 #include "controls/screencontext.h"
 #include "controls/screenmetrics.h"
 #include "frame/screenregistry.h"
@@ -13,11 +14,12 @@ namespace Tallymere {
 
 namespace {
 
-// Screens may lack a step.
-void call(const std::function<void(QWidget &)> &step, QWidget &screen)
+// The screen's part in a command; one that has none in these is shown and nothing more.
+CommandScreen &stepsOf(QWidget &screen)
 {
-    if (step)
-        step(screen);
+    static CommandScreen none;
+    auto *steps = dynamic_cast<CommandScreen *>(&screen);
+    return steps ? *steps : none;
 }
 
 // Modal screens are dialogs.
@@ -32,7 +34,7 @@ void showModal(QWidget &screen)
 bool CommandRunner::canRun(const Command &command) const
 {
     const ScreenKind *kind = m_screens.find(command.screen);
-    return kind && kind->create && (command.opening != Opening::Post || kind->post);
+    return kind && kind->create && (command.opening != Opening::Post || kind->posts);
 }
 
 void CommandRunner::run(const Command &command, ScreenContext &context) const
@@ -64,7 +66,7 @@ void CommandRunner::run(const Command &command, ScreenContext &context) const
     case Opening::Post: {
         QWidget &screen = *findOrCreate(command.screen, kind, context).screen;
         hourglass.reset();
-        kind.post(screen);
+        stepsOf(screen).mnuPostClick();
         return;
     }
     case Opening::ListPattern:
@@ -82,11 +84,11 @@ void CommandRunner::showScreen(const Command &command, const ScreenKind &kind, S
     const Found found = findOrCreate(command.screen, kind, context);
     if (command.opening == Opening::ListPattern) {
         if (found.wasOpen && command.refreshOpenScreen)
-            call(kind.refresh, *found.screen);
-        call(kind.resetFilter, *found.screen);
+            stepsOf(*found.screen).refreshList();
+        stepsOf(*found.screen).resetFilter();
     }
     if (command.opening != Opening::Show && found.screen->isVisible())
-        call(kind.showHandler, *found.screen);
+        stepsOf(*found.screen).showAgain();
     bringToFront(*found.screen);
 }
 
@@ -115,10 +117,8 @@ QWidget *CommandRunner::openAnother(const QString &screenName, ScreenContext &co
 
 void CommandRunner::refresh(const QString &screenName) const
 {
-    const ScreenKind *kind = m_screens.find(screenName);
-    QWidget *screen = findScreen(screenName);
-    if (kind && screen)
-        call(kind->refresh, *screen);
+    if (QWidget *screen = findScreen(screenName))
+        stepsOf(*screen).refreshList();
 }
 
 CommandRunner::Found CommandRunner::findOrCreate(const QString &name, const ScreenKind &kind,

@@ -10,16 +10,12 @@ namespace Tallymere {
 
 struct ScreenContext;
 
-// How the main window handles one kind of screen. What a screen does not have stays empty; a command whose screen
-// lacks what the command needs is disabled.
+// How the main window makes one kind of screen. One that is a CommandScreen takes part in what a command does besides
+// showing it.
 struct ScreenKind
 {
     std::function<QWidget *(ScreenContext &, QWidget *parent)> create;
-    std::function<void(QWidget &)> refresh; // reads the main table (or query) again
-    // Empties the filter dialog if it is open, unchecks mnuFilter and shows all records.
-    std::function<void(QWidget &)> resetFilter;
-    std::function<void(QWidget &)> showHandler; // what a visible screen does when it is asked for again
-    std::function<void(QWidget &)> post; // mnuPostClick
+    bool posts = false; // a CommandScreen that can be told to post
 };
 
 // The screens that exist, by component name ("frmInvReceipts").

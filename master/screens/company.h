@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/commandscreen.h"
 #include "master/screens/masterrecordscreen.h"
 #include "master/yearend.h"
 
@@ -12,7 +13,7 @@ class TfrmCompany;
 namespace Tallymere {
 
 // "Your Organization": the fiscal calendar, invoice defaults and notes. Name and address are the host's.
-class TfrmCompany final : public MasterRecordScreen
+class TfrmCompany final : public MasterRecordScreen, public CommandScreen
 {
     Q_OBJECT
 
@@ -20,8 +21,7 @@ public:
     TfrmCompany(ScreenContext &context, QWidget *parent);
     ~TfrmCompany() override;
 
-    // What the open screen does when it is asked for again.
-    void showAgain();
+    void showAgain() override;
     // Behind a button that this release hides, as it has no year-end screen.
     void btnYearEndClick();
     // Runs the year-end screen modally; true when it was closed with OK. Empty: there is none.

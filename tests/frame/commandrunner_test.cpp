@@ -1,5 +1,6 @@
 #include "frame/commandrunner.h"
 
+#include "controls/commandscreen.h"
 #include "tests/frame/testcompany.h"
 
 #include <QApplication>
@@ -19,6 +20,24 @@ const Command &commandOf(QLatin1StringView action)
     return *found;
 }
 
+class LoggedScreen final : public QWidget, public CommandScreen
+{
+public:
+    LoggedScreen(QStringList &done, QWidget *parent)
+        : QWidget(parent, Qt::Window)
+        , m_done(done)
+    {
+    }
+
+    void refreshList() override { m_done << u"refresh"_s; }
+    void resetFilter() override { m_done << u"reset filter"_s; }
+    void showAgain() override { m_done << u"show handler"_s; }
+    void mnuPostClick() override { m_done << u"post"_s; }
+
+private:
+    QStringList &m_done;
+};
+
 // Commands on screens that write down what is done to them.
 class CommandRunnerTest : public testing::Test
 {
@@ -31,19 +50,13 @@ protected:
 
     void addScreen(const QString &name)
     {
-        const auto log = [this](const QString &step) { return [this, step](QWidget &) { done << step; }; };
-        screens.add(name,
-                    {.create =
-                         [this, name](ScreenContext &, QWidget *parent) {
-                             done << u"create"_s;
-                             auto *screen = new QWidget(parent, Qt::Window);
-                             screen->setObjectName(name);
-                             return screen;
-                         },
-                     .refresh = log(u"refresh"_s),
-                     .resetFilter = log(u"reset filter"_s),
-                     .showHandler = log(u"show handler"_s),
-                     .post = log(u"post"_s)});
+        const auto create = [this, name](ScreenContext &, QWidget *parent) {
+            done << u"create"_s;
+            auto *screen = new LoggedScreen(done, parent);
+            screen->setObjectName(name);
+            return screen;
+        };
+        screens.add(name, {.create = create, .posts = true});
     }
     QStringList run(QLatin1StringView action)
     {

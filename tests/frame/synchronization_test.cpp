@@ -1,5 +1,6 @@
 #include "frame/synchronization.h"
 
+#include "controls/commandscreen.h"
 #include "engine/table.h"
 #include "frame/commandrunner.h"
 #include "frame/commands.h"
@@ -17,16 +18,27 @@ namespace {
 const auto question = u"Confirm: Insert any Corvane locations into the \nLedgerwick locations table?"_s;
 const auto done = u"inform: Succesfully completed the synchronization."_s;
 
+class RefreshedList final : public QWidget, public CommandScreen
+{
+public:
+    explicit RefreshedList(QStringList &refreshed)
+        : m_refreshed(refreshed)
+    {
+    }
+    void refreshList() override { m_refreshed << objectName(); }
+
+private:
+    QStringList &m_refreshed;
+};
+
 class SynchronizationTest : public testing::Test
 {
 protected:
     SynchronizationTest()
     {
         for (const QString &name : {u"frmWarehousesInv"_s, u"frmItemsInv"_s}) {
-            ScreenKind kind = plainScreen();
-            kind.refresh = [this, name](QWidget &) { refreshed << name; };
-            screens.add(name, kind);
-            m_lists.emplace_back().setObjectName(name);
+            screens.add(name, plainScreen());
+            m_lists.emplace_back(refreshed).setObjectName(name);
         }
         database().connection().execute(
             u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'North'); "
@@ -50,7 +62,7 @@ protected:
     QProgressBar bar;
 
 private:
-    std::deque<QWidget> m_lists;
+    std::deque<RefreshedList> m_lists;
     CommandRunner m_runner{screens, nullptr};
 
 protected:

@@ -43,7 +43,5 @@ inline Tallymere::ScreenKind plainScreen(std::function<QWidget *(Tallymere::Scre
                                                  return new QWidget(parent, Qt::Window);
                                              })
 {
-    Tallymere::ScreenKind kind;
-    kind.create = std::move(create);
-    return kind;
+    return {std::move(create)};
 }

@@ -15,7 +15,7 @@ class DocumentListScreen : public RecordListScreen
     Q_OBJECT
 
 public:
-    void mnuPostClick(); // works on a screen that is not shown as well
+    void mnuPostClick() override; // works on a screen that is not shown as well
 
 protected:
     DocumentListScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent);

@@ -1,5 +1,6 @@
 #include "transactions/screens/invreceipt.h"
 
+#include "controls/screenmetrics.h"
 #include "data/lookupsdatainv.h"
 #include "transactions/documentkinds.h"
 #include "transactions/receiptentry.h"
@@ -41,7 +42,7 @@ bool TfrmInvReceipt::takeKey(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && focusWidget() == m_ui->editVendorNo && !m_ui->editVendorNo->text().isEmpty()) {
-        m_ui->cboWarehouse->setFocus(Qt::TabFocusReason);
+        putCursorOn(*m_ui->cboWarehouse);
         return true;
     }
     return DocumentScreen::takeKey(event);
