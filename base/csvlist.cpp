@@ -56,7 +56,7 @@ void saveCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, 
     } catch (const RuleError &) {
         refuse();
     }
-    if (!file.commit())
+    if (!file.flush() || !file.commit()) // which does not tell that the last block was not written whole
         refuse();
 }
 

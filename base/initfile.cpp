@@ -107,7 +107,8 @@ bool InitFile::setValue(const QString &section, const QString &name, const QStri
         all << u"[%1]"_s.arg(section).toUtf8() + end << line;
 
     QSaveFile file(m_path);
-    return file.open(QIODevice::WriteOnly) && file.write(all.join('\n') + '\n') >= 0 && file.commit();
+    return file.open(QIODevice::WriteOnly) && file.write(all.join('\n') + '\n') >= 0 && file.flush()
+        && file.commit(); // which does not tell that the last block was not written whole
 }
 
 QList<QByteArray> InitFile::lines() const

@@ -95,7 +95,8 @@ void CountDrafts::save(int location, const CountDraft &draft) const
     QSaveFile file(fileOf(location));
     const QByteArray text = written(draft).toJson(QJsonDocument::Compact);
     if (file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
-        && file.write(text) == text.size() && file.commit())
+        && file.write(text) == text.size() && file.flush()
+        && file.commit()) // which does not tell that the last block was not written whole
         return;
     throw RuleError(TransactionsTexts::tr("What has been counted could not be kept in %1: %2")
                         .arg(fileOf(location), file.errorString()));

@@ -55,12 +55,21 @@ void TestUser::useTestServer(const QString &remoteName)
     database.remoteName = remoteName;
 }
 
-void TestUser::endOtherSessions()
+// Stands for the engine's own answer (linked with --wrap), so that any folder can be one of another computer.
+extern "C" bool __real__ZN6Engine17isLocalFileSystemERK7QString(const QString &path);
+extern "C" bool __wrap__ZN6Engine17isLocalFileSystemERK7QString(const QString &path)
+{
+    return qEnvironmentVariableIsEmpty("TALLYMERE_TEST_NETWORK")
+        && __real__ZN6Engine17isLocalFileSystemERK7QString(path);
+}
+
+void TestUser::endOtherSessions(const QString &user)
 {
     // Until a session has ended it holds its locks.
     database.connection().execute(
-        u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity WHERE datname = "
-        "current_database() AND pid <> pg_backend_pid() AND backend_type = 'client backend'"_s);
+        u"SELECT pg_terminate_backend(pid, 120000) FROM pg_stat_activity WHERE datname = current_database() "
+        "AND pid <> pg_backend_pid() AND backend_type = 'client backend' AND application_name LIKE '%1@%'"_s.arg(
+            user));
 }
 
 void dropTestDatabase(const QString &name)

@@ -21,7 +21,8 @@ struct TestUser
     explicit TestUser(
         const QStringList &place); // "anna" in another program, which was started with place() of a store
     void useTestServer(const QString &remoteName);
-    void endOtherSessions(); // of the database on the server, as when their connections are lost
+    // Of a user, or of all, on the database of the server: as when their connections are lost.
+    void endOtherSessions(const QString &user = QStringLiteral("%"));
 };
 
 // All rows of a statement, one text each: "1|2.5|abc", nulls empty.
