@@ -1,9 +1,11 @@
 // Editing, inserting and deleting: what is written, what is refused, and what stays in hand then.
 
+#include "engine/locks.h"
 #include "tests/engine/recordfixture.h"
 
 #include <atomic>
 #include <latch>
+#include <QProcess>
 #include <stdexcept>
 #include <thread>
 
@@ -284,6 +286,50 @@ TEST_P(RecordTest, OnlyOneUserEditsARecord)
     theirs.post();
     theirs.unlockTable();
     mine.edit();
+}
+
+// The holder, or what the one who waits stands on himself.
+TEST_P(RecordTest, WhatDiesWhileALockIsWaitedForIsToldAndTheRestWorks)
+{
+    addVendors();
+    Table mine(database(), u"Vendor"_s);
+    mine.open();
+    store.session().lockAttempts = 1200;
+    std::unique_ptr<TestUser> anna;
+    const auto hold = [&] {
+        anna = store.anotherUser();
+        ASSERT_TRUE(anna->database.connection().locks().tryLockRecord(u"Vendor"_s, {1}));
+    };
+    const auto pause = [&](const std::function<void()> &death) {
+        store.session().waitFor = [death](std::chrono::milliseconds time) {
+            death();
+            std::this_thread::sleep_for(time * 10); // the server takes its time to notice
+        };
+    };
+    hold();
+    pause([&] { anna.reset(); });
+    mine.edit();
+    mine.set(u"Days", 9);
+    mine.post();
+
+    hold();
+    const bool local = GetParam() == Store::Local;
+    pause([&] {
+        if (local)
+            QProcess::execute(
+                u"sh"_s,
+                {u"-c"_s, u"cd \"$0\" && cp Corvane.sqlite new && mv new Corvane.sqlite"_s, store.directory()});
+        else
+            anna->endOtherSessions();
+    });
+    EXPECT_EQ(errorOf([&] { mine.edit(); }), local ? ErrorCode::FileReplaced : ErrorCode::ConnectionLost);
+    EXPECT_EQ(mine.state(), TableState::Browse);
+    if (!local) { // whoever reads over a new connection
+        anna.reset();
+        pause([] {});
+        mine.edit();
+        EXPECT_EQ(mine.integer(u"Days"), 9);
+    }
 }
 
 TEST_P(RecordTest, SaysThatARecordWasDeletedMeanwhile)

@@ -3,30 +3,15 @@
 #include "tests/support/teststore.h"
 
 #include <gtest/gtest.h>
-#include <linux/magic.h>
 #include <QFile>
 #include <sqlite3.h>
-#include <sys/syscall.h>
-#include <sys/vfs.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace Engine;
 
 // A local store in a folder that other machines write to, where SQLite keeps its rollback journal.
 
-static bool everythingIsOnANetwork = false;
-
 constexpr int stampPlace = 60; // in the file's header
-
-// In the C library's place.
-extern "C" int statfs(const char *path, struct statfs *info) noexcept
-{
-    const auto result = static_cast<int>(syscall(SYS_statfs, path, info));
-    if (everythingIsOnANetwork)
-        info->f_type = NFS_SUPER_MAGIC;
-    return result;
-}
 
 namespace {
 
@@ -34,8 +19,8 @@ struct NetworkFolder : testing::Test
 {
     struct Network
     {
-        Network() { everythingIsOnANetwork = true; }
-        ~Network() { everythingIsOnANetwork = false; }
+        Network() { qputenv("TALLYMERE_TEST_NETWORK", "1"); }
+        ~Network() { qunsetenv("TALLYMERE_TEST_NETWORK"); }
     } network;
     TestStore store{Store::Local}; // a new database
     Connection &connection = store.database().connection();
