@@ -1,4 +1,3 @@
-#include "engine/table.h"
 #include "tests/cli/clirunner.h"
 
 using namespace Qt::StringLiterals;
@@ -39,24 +38,6 @@ TEST_P(Sync, BringsOverWhatTheHostHas)
               QStringList(u"2"_s));
     host("UPDATE Locatns SET Location = 'N' WHERE Location_ID = 7");
     EXPECT_EQ(run(u"locations"_s), u"0 location(s) added, 1 renamed");
-}
-
-TEST_P(Sync, ALockRefusesAndAMissingHostTableIsAFailure)
-{
-    const auto anna = cli.anotherUser();
-    Engine::Table table(anna->database, u"Item"_s);
-    table.open();
-    table.lockTable();
-    const CliResult locked = cli.run({u"sync"_s, u"items"_s});
-    EXPECT_EQ(locked.status, 1);
-    EXPECT_TRUE(locked.errors.contains(u"The items are in use by another user (anna"_s)) << locked;
-    table.close();
-
-    anna->database.dropTable(u"Items"_s);
-    const CliResult missing = cli.run({u"sync"_s, u"items"_s});
-    EXPECT_EQ(missing.status, 3);
-    EXPECT_TRUE(missing.errors.contains("Items"_L1, Qt::CaseInsensitive)) << missing;
-    EXPECT_EQ(cli.list({u"list"_s, u"items"_s}).size(), 3);
 }
 
 } // namespace

@@ -202,25 +202,3 @@ TEST_F(FieldBinderTest, leavingTowardsCancelHandsNothingOver)
     EXPECT_EQ(table->text(u"Name"), u"Stew"_s);
     EXPECT_EQ(focusName(), u"chkHot"_s);
 }
-
-TEST_F(FieldBinderTest, recordHeldByAnotherUserKeepsItsTextAndSaysSo)
-{
-    const auto other = store.anotherUser();
-    Engine::Table held(other->database, u"Meal"_s);
-    held.open();
-    held.edit();
-    store.session().lockAttempts = 1;
-    type("X");
-    QCoreApplication::processEvents();
-    EXPECT_EQ(shown("editName"), u"Soup"_s);
-    EXPECT_TRUE(prompts.last().startsWith("error: "_L1)) << prompts.last().toStdString();
-    EXPECT_FALSE(table->isEditing());
-}
-
-TEST_F(FieldBinderTest, formWithAFieldThatTheTableLacksIsRefused)
-{
-    QWidget wrong;
-    bound(new QLineEdit(&wrong), u"editX"_s, u"Nmae"_s);
-    FieldBinder other(&wrong, guard);
-    EXPECT_THROW(other.bind(*table), Engine::EngineError);
-}

@@ -292,20 +292,10 @@ TEST_F(LineGridTest, numbersAreSteppedUpToTheLimitOfTheirRow)
              keys({Qt::Key_Up, Qt::Key_Up});
          },
          u"10"_s},
-        {"down", [] { press(Qt::Key_Down); }, u"9"_s},
         {"by its button", [] { qobject_cast<QAbstractSpinBox *>(QApplication::focusWidget())->stepDown(); },
-         u"8"_s},
+         u"9"_s},
         {"typed beyond", [] { type("11"); }, u"11"_s},
         {"is refused", [] { press(Qt::Key_Return); }, u"11"_s},
-        {"below nothing", [] { type("-1"); }, u"-1"_s},
-        {"neither", [] { press(Qt::Key_Return); }, u"-1"_s},
-        {"no number",
-         [&] {
-             type("x");
-             press(Qt::Key_Down);
-         },
-         u"x"_s},
-        {"mended", [&] { type("x"); }, u"xx"_s},
         {"taken over",
          [&] {
              press(Qt::Key_Escape);
@@ -327,8 +317,6 @@ TEST_F(LineGridTest, numbersAreSteppedUpToTheLimitOfTheirRow)
         EXPECT_EQ(entry(), expected) << what;
     }
     lines.checkBrowseMode();
-    EXPECT_EQ(prompts.take(),
-              (QStringList{u"error: 'Quantity' must not be greater than 10"_s,
-                           u"error: 'Quantity' must not be less than 0"_s}));
+    EXPECT_EQ(prompts.take(), QStringList(u"error: 'Quantity' must not be greater than 10"_s));
     EXPECT_EQ(store.rows(u"SELECT Quantity FROM Line ORDER BY LineID"_s), (QStringList{u"4.25"_s, u"12"_s}));
 }

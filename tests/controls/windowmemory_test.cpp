@@ -6,7 +6,6 @@
 #include "tests/support/screentest.h"
 
 #include <QFrame>
-#include <QPushButton>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -151,25 +150,6 @@ TEST_F(WindowMemoryTest, settingsThatCannotBeUsedDoNoHarm)
     context->settings = nullptr;
     changed<PlaceList>(QRect(60, 70, 420, 310));
     EXPECT_EQ(prompts.said, QStringList());
-}
-
-TEST_F(WindowMemoryTest, secondScreenOfAKindStandsApart)
-{
-    const auto standApart = [this]<typename Screen>(Screen *) {
-        const auto &first = open<Screen>();
-        const auto &second = open<Screen>();
-        const auto &third = open<Screen>();
-        EXPECT_NE(first.pos(), second.pos());
-        EXPECT_NE(third.pos(), first.pos());
-        EXPECT_NE(third.pos(), second.pos());
-        delete &first;
-        delete &second;
-        delete &third;
-    };
-    standApart(static_cast<PlaceList *>(nullptr));
-    standApart(static_cast<Card *>(nullptr));
-    changed<PlaceList>(QRect(60, 70, 420, 310));
-    standApart(static_cast<PlaceList *>(nullptr));
 }
 
 TEST(WindowPlaces, LieOnTheScreensThatThereAre)

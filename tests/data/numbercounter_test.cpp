@@ -27,29 +27,6 @@ protected:
     TestStore store;
 };
 
-TEST_P(NumberCounter, EmptyTableGetsItsRowAndCountersRestart)
-{
-    const std::pair<qint64, qint64> cases[] = {
-        {0, 1001}, {1000, 1001}, {1001, 1001}, {10'000'000, 10'000'000}, {10'000'001, 1001}};
-    for (const auto &[before, expected] : cases) {
-        qint64 id = -1;
-        qint64 number = -1;
-        takeNumbers(store.database(), u"ItemCtl"_s, [&](CounterRow &row) {
-            if (before != 0)
-                row.set(u"NextInvReceiptNo", before);
-            row.restartWhenZero(u"NextItemID", 10000);
-            id = row.take(u"NextItemID");
-            row.restartOutside(u"NextInvReceiptNo", 1001, 10'000'000, 1001);
-            number = row.take(u"NextInvReceiptNo");
-        });
-        EXPECT_EQ(number, expected);
-        EXPECT_EQ(stored(u"NextInvReceiptNo"_s), expected + 1);
-        EXPECT_EQ(stored(u"NextItemID"_s), id + 1);
-    }
-    EXPECT_EQ(stored(u"NextItemID"_s), 10005);
-    EXPECT_EQ(stored(u"count(*)"_s), 1);
-}
-
 TEST_P(NumberCounter, NumbersTakenBeforeAFailureAreUsedUp)
 {
     const auto rule = [](CounterRow &row) {

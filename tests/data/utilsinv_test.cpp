@@ -116,21 +116,6 @@ TEST_P(Tables, UniqueNumbersAreTheLastOneHandedOutPlusOne)
     EXPECT_FALSE(counter.isOpen());
 }
 
-TEST_P(Tables, TwoUsersDoNotBothMakeTheFirstRow)
-{
-    store.database().createTable(Layouts::vendCtl());
-    const auto other = store.anotherUser();
-    other->session.lockAttempts = 1;
-    Engine::Table theirs(other->database, u"VendCtl"_s);
-    const auto theirNumber = [&] { return getUniqueID(theirs, u"NextVendorNo"_s); };
-    Engine::Table counter(store.database(), u"VendCtl"_s);
-    counter.events.beforeInsert = [&] {
-        EXPECT_EQ(refusalOf(theirNumber), u"Cannot get next unique number. (btGetUniqueNumber) -> "_s);
-    };
-    EXPECT_EQ(getUniqueID(counter, u"NextVendorNo"_s), 1);
-    EXPECT_EQ(theirNumber(), 2);
-}
-
 TEST_P(Tables, UniqueNumbersWaitForARowThatIsLocked)
 {
     store.database().createTable(Layouts::vendCtl());
@@ -155,30 +140,6 @@ TEST_P(Tables, UniqueNumbersWaitForARowThatIsLocked)
               u"Cannot get next unique number. (btGetUniqueNumber) -> "_s);
     EXPECT_EQ(pauses, 110);
     EXPECT_FALSE(counter.isOpen());
-}
-
-TEST_P(Tables, OpeningFailsWithTheTablesName)
-{
-    store.database().createTable(Layouts::tax());
-    const auto other = store.anotherUser();
-    Engine::Table held(other->database, u"Tax"_s);
-    held.exclusive = true;
-    held.open();
-
-    Engine::Table tax(store.database(), u"Tax"_s);
-    QString text;
-    EXPECT_EQ(errorOf([&] { openTable(tax); }, &text), ErrorCode::TableInUse);
-    EXPECT_EQ(text, u"Tax table. Another user has the table open in exclusive mode."_s);
-    held.close();
-    EXPECT_TRUE(openTable(tax));
-
-    Engine::Table missing(store.database(), u"Nowhere"_s);
-    EXPECT_TRUE(errorOf([&] { openTable(missing); }, &text));
-    EXPECT_TRUE(text.startsWith(u"Nowhere: Unknown or unexpected database engine error #10024"_s))
-        << text.toStdString();
-    Engine::Query query(store.database(), u"SELECT * FROM Nowhere"_s);
-    EXPECT_TRUE(errorOf([&] { openQuery(query); }, &text));
-    EXPECT_TRUE(text.startsWith(u"Query: Unknown or unexpected database engine error #"_s)) << text.toStdString();
 }
 
 TEST(DamagedTable, IsMendedWhenItsFirstReadFindsTheDamage)
@@ -228,38 +189,5 @@ struct TwoTables final : QObject, TableOwner
 
     Engine::Table tax, bank;
 };
-
-TEST_P(Tables, OwnedTablesFollowTheActionLetter)
-{
-    store.database().createTable(Layouts::tax());
-    store.database().createTable(Layouts::bank());
-    TwoTables owner(store.database());
-    Engine::Table &tax = owner.tax;
-    Engine::Table &bank = owner.bank;
-    tax.open();
-    EXPECT_EQ(tax.recordCount(), 0);
-    const auto other = store.anotherUser();
-    other->database.connection().execute(u"INSERT INTO Tax (TaxID) VALUES (1)"_s);
-
-    tables(u"R"_s, owner);
-    EXPECT_EQ(tax.recordCount(), 1);
-    EXPECT_FALSE(bank.isOpen());
-    dmTables(u"O"_s, owner);
-    EXPECT_TRUE(tax.isOpen() && bank.isOpen());
-    tables(u"x"_s, owner);
-    EXPECT_TRUE(tax.isOpen());
-    dmTables(u"C"_s, owner);
-    EXPECT_FALSE(tax.isOpen() || bank.isOpen());
-}
-
-TEST_P(Tables, StoredStatementsAreFoundByName)
-{
-    store.execute(u"CREATE TABLE Stored (Query_Name VARCHAR(20), Query_Lines TEXT)"_s);
-    store.execute(u"INSERT INTO Stored VALUES ('one', 'SELECT 1'), ('two', 'SELECT 2')"_s);
-    Engine::Query query(store.database(), u"SELECT Query_Lines FROM Stored WHERE Query_Name = :Query_Name"_s);
-    EXPECT_EQ(getSQLString(query, u"two"_s), u"SELECT 2"_s);
-    EXPECT_EQ(getSQLString(query, u"one"_s), u"SELECT 1"_s);
-    EXPECT_EQ(getSQLString(query, u"it's"_s), u""_s);
-}
 
 ON_BOTH_STORES(Tables);

@@ -12,22 +12,6 @@ using namespace Engine;
 
 namespace {
 
-struct LocalUser : TestUser
-{
-    explicit LocalUser(const QString &folder)
-        : TestUser(u"maria"_s, u"Corvane"_s)
-    {
-        database.directory = folder;
-    }
-    Connection &connection() { return database.connection(); }
-    void insert(const QString &value)
-    {
-        Transaction transaction(connection());
-        connection().execute(u"INSERT INTO T VALUES ('%1')"_s.arg(value));
-        transaction.commit();
-    }
-};
-
 // What a program that opens the database now finds in it.
 QString contentOf(const QString &folder)
 {
@@ -40,20 +24,27 @@ struct Kitchen
 {
     QTemporaryDir home;
     QString folder = home.filePath(u"data"_s);
-    LocalUser maria{folder};
+    TestUser maria{QStringList{u"local"_s, folder}};
 
     Kitchen()
     {
         QDir().mkdir(folder);
         maria.database.createIfMissing = true;
-        maria.connection().execute(u"CREATE TABLE T (a TEXT)"_s);
-        maria.insert(u"old"_s);
+        maria.database.connection().execute(u"CREATE TABLE T (a TEXT)"_s);
+        insert(u"old"_s);
         maria.database.close();
         maria.database.createIfMissing = false;
         shell(u"cp data/Corvane.sqlite backup"_s);
-        maria.insert(u"yesterday"_s);
+        insert(u"yesterday"_s);
         maria.database.close();
-        maria.insert(u"today"_s);
+        insert(u"today"_s);
+    }
+    Connection &connection() { return maria.database.connection(); }
+    void insert(const QString &value)
+    {
+        Transaction transaction(connection());
+        connection().execute(u"INSERT INTO T VALUES ('%1')"_s.arg(value));
+        transaction.commit();
     }
 
     void shell(const QString &command) const
@@ -89,9 +80,9 @@ TEST(LocalFiles, ADatabaseThatIsNoLongerAtItsPlaceTakesNoMoreWrites)
         ASSERT_EQ(annas.ask(u"open T"_s), u"yes"_s);
         kitchen.shell(QString::fromLatin1(loss.command));
 
-        Connection &store = kitchen.maria.connection();
+        Connection &store = kitchen.connection();
         QString message;
-        EXPECT_EQ(errorOf([&] { kitchen.maria.insert(u"lost"_s); }, &message), ErrorCode::FileReplaced);
+        EXPECT_EQ(errorOf([&] { kitchen.insert(u"lost"_s); }, &message), ErrorCode::FileReplaced);
         EXPECT_TRUE(message.contains(kitchen.folder + "/Corvane.sqlite"_L1)) << message.toStdString();
         EXPECT_EQ(errorOf([&] { store.locks().tryLockRecord(u"T"_s, {1}); }), ErrorCode::FileReplaced);
         EXPECT_EQ(errorOf([&] { store.locks().tryLockTable(u"T"_s); }), ErrorCode::FileReplaced);
@@ -144,7 +135,7 @@ TEST(LocalFiles, LinksLeadToTheSameLocks)
         kitchen.shell(QString::fromLatin1(link.command));
         OtherProgram annas({u"local"_s, kitchen.home.filePath(u"other"_s)});
         ASSERT_EQ(annas.ask(u"table T"_s), u"yes"_s);
-        EXPECT_FALSE(kitchen.maria.connection().locks().tryLockTable(u"T"_s));
+        EXPECT_FALSE(kitchen.connection().locks().tryLockTable(u"T"_s));
         kitchen.shell(u"rm -r other && mkdir other && cp backup other/Corvane.sqlite"_s);
         EXPECT_TRUE(annas.ask(u"sql DELETE FROM T"_s).contains("other/Corvane.sqlite"_L1))
             << "it leads elsewhere now";
@@ -158,7 +149,7 @@ TEST(LocalFiles, ALockFileThatIsNoLongerAtItsPlaceLocksNothing)
                                 "mv data/Corvane.lck elsewhere && ln -s ../elsewhere data/Corvane.lck"}) {
         SCOPED_TRACE(command);
         Kitchen kitchen;
-        LockManager &locks = kitchen.maria.connection().locks();
+        LockManager &locks = kitchen.connection().locks();
         ASSERT_TRUE(locks.tryLockRecord(u"T"_s, {1}));
         kitchen.shell(QString::fromLatin1(command));
         QString message;
@@ -170,5 +161,5 @@ TEST(LocalFiles, ALockFileThatIsNoLongerAtItsPlaceLocksNothing)
     Kitchen kitchen;
     kitchen.maria.database.close();
     kitchen.shell(u"rm data/Corvane.lck && touch elsewhere && ln -s ../elsewhere data/Corvane.lck"_s);
-    EXPECT_EQ(errorOf([&] { kitchen.maria.connection(); }), ErrorCode::CannotOpen) << "a link is not followed";
+    EXPECT_EQ(errorOf([&] { kitchen.connection(); }), ErrorCode::CannotOpen) << "a link is not followed";
 }

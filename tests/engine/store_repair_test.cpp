@@ -112,17 +112,6 @@ TEST(Repair, RowsOfSoundPagesAreKept)
     }
 }
 
-TEST(Repair, ADamagedIndexCostsNoRow)
-{
-    TestStore store(Store::Local);
-    fill(store, numbered());
-    overwrite(store, pageOf(store.database().connection(), u"IHist_ITEMID"_s));
-    EXPECT_NE(check(store), u"ok"_s);
-    EXPECT_EQ(store.database().repairTable(u"IHist"_s), 0);
-    EXPECT_EQ(check(store), u"ok"_s);
-    EXPECT_EQ(count(store, numbered()), rowCount);
-}
-
 TEST(Repair, ASoundTableStaysAsItIs)
 {
     for (const Store kind : {Store::Local, Store::Remote}) {

@@ -134,19 +134,6 @@ TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
     }
 }
 
-TEST_P(SchemaTest, IndexesAloneAreReplacedWithoutTouchingRows)
-{
-    TableLayout layout = items();
-    database.createTable(layout);
-    store.execute(u"INSERT INTO Item (Name) VALUES ('a')"_s);
-    layout.indexes[1].options = IndexOption::Descending;
-    layout.indexes.append({u"BOTH"_s, u"Name;ItemID"_s, IndexOption::None});
-    EXPECT_TRUE(database.differs(layout));
-    database.createOrUpdateTable(layout);
-    EXPECT_FALSE(database.differs(layout));
-    EXPECT_EQ(one(u"SELECT Name FROM Item"_s), u"a"_s);
-}
-
 TEST_P(SchemaTest, AutoIncrementNeverGivesANumberTwice)
 {
     TableLayout layout = items();
@@ -215,36 +202,3 @@ TEST_P(SchemaTest, ATableThatOthersHaveOpenIsNotChanged)
 }
 
 ON_BOTH_STORES(SchemaTest);
-
-TEST(Schema, AServerThatGoesAwayMeanwhileEndsTheChangeAlone)
-{
-    TestStore store(Store::Remote);
-    store.database().createTable(items());
-    Connection &connection = store.database().connection();
-    ASSERT_TRUE(connection.locks().tryOpenShared(u"Item"_s));
-    store.execute(
-        u"INSERT INTO Item (ItemID) VALUES (1); CREATE FUNCTION leave() RETURNS boolean LANGUAGE sql AS "
-        "$$ SELECT pg_terminate_backend(pg_backend_pid()) $$; CREATE POLICY leaving ON Item USING (leave()); "
-        "ALTER TABLE Item ENABLE ROW LEVEL SECURITY, FORCE ROW LEVEL SECURITY"_s); // when a row is read
-    TestUser keeper(u"keeper"_s, u"postgres"_s);
-    keeper.useTestServer(u"postgres"_s);
-    const QString reachable = u"ALTER DATABASE %1 ALLOW_CONNECTIONS "_s.arg(store.remoteName());
-    keeper.database.connection().execute(reachable + "false"_L1);
-    TableLayout layout = items();
-    layout.fields[1].size = 20;
-    EXPECT_EQ(errorOf([&] { store.database().restructureTable(layout); }), ErrorCode::ConnectionLost);
-    keeper.database.connection().execute(reachable + "true"_L1);
-    EXPECT_TRUE(store.database().tableExists(u"Item"_s));
-    EXPECT_FALSE(store.anotherUser()->database.connection().locks().tryOpenExclusive(u"Item"_s))
-        << "open as before";
-}
-
-TEST(InMemory, TablesLiveAsLongAsTheDatabase)
-{
-    Session session(u"Test"_s);
-    const auto memory = Database::inMemory(session);
-    memory->createTable(items());
-    EXPECT_FALSE(memory->differs(items()));
-    const auto another = Database::inMemory(session);
-    EXPECT_FALSE(another->tableExists(u"Item"_s));
-}

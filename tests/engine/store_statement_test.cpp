@@ -230,40 +230,4 @@ TEST_P(StatementTest, OrderAndListsOfNumbersAreTheSameInBothStores)
     EXPECT_EQ(some->intAt(0), 2);
 }
 
-TEST_P(StatementTest, ATextReadsAsAWholeNumberOrAsNone)
-{
-    const std::pair<QString, QString> cases[] = {
-        {u"5"_s, u"5"_s},
-        {u"-5"_s, u"-5"_s},
-        {u"+5"_s, u"5"_s},
-        {u" 000123 "_s, u"123"_s},
-        {u"0"_s, u"0"_s},
-        {u"00000000000000000007"_s, u"7"_s},
-        {u"999999999999999999"_s, u"999999999999999999"_s},
-        {u"99999999999999999999"_s, {}},
-        {u""_s, {}},
-        {u" "_s, {}},
-        {u"-"_s, {}},
-        {u"+-5"_s, {}},
-        {u"5-"_s, {}},
-        {u"5 5"_s, {}},
-        {u"5.0"_s, {}},
-        {u"12 eggs"_s, {}},
-        {u"\t5"_s, {}},
-        {u"１２"_s, {}}, // wide digits
-    };
-    const StatementPtr statement =
-        connection.prepare(u"SELECT %1 FROM (SELECT CAST(? AS VARCHAR(20)) AS Name) AS given"_s.arg(
-            connection.dialect().wholeNumberOf(u"Name"_s)));
-    for (const auto &[text, number] : cases) {
-        statement->bindText(0, text);
-        ASSERT_TRUE(statement->next());
-        EXPECT_EQ(statement->textAt(0), number) << text.toStdString();
-        statement->reset();
-    }
-    statement->bindNull(0);
-    ASSERT_TRUE(statement->next());
-    EXPECT_TRUE(statement->isNull(0));
-}
-
 ON_BOTH_STORES(StatementTest);

@@ -113,15 +113,6 @@ TEST_F(CommandRunnerTest, RefusedRightsDoNothing)
     EXPECT_EQ(asked, (QStringList{u"InvReceipts/Inventory Receipts"_s, u"frmInvReceipts/Inventory Receipts"_s}));
 }
 
-TEST_F(CommandRunnerTest, OpeningByNameKnowsOnlyScreensThatExist)
-{
-    addScreen(u"frmInvTotals"_s);
-    QWidget *opened = runner.open(u"frmInvTotals"_s, context.context);
-    ASSERT_NE(opened, nullptr);
-    EXPECT_EQ(runner.open(u"frmInvTotals"_s, context.context), opened);
-    EXPECT_EQ(runner.open(u"frmBanksInv"_s, context.context), nullptr);
-}
-
 TEST_F(CommandRunnerTest, CommandsGoOnToLeadToTheFirstOfSeveralScreens)
 {
     const auto name = u"frmInvTotals"_s;

@@ -6,7 +6,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSet>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -89,18 +88,4 @@ TEST_F(MainFormTest, ProductLacksExactlyTheScreensThatAreNotBuilt)
               (QStringList{u"ActionEditInventory"_s, u"ActionEditUsage"_s, u"ActionPostUsage"_s,
                            u"ActionEnterAdjustments"_s, u"ActionPostAdustments"_s, u"ActionPrintReports"_s,
                            u"ActionPrintBlankInventoryForm"_s, u"ActionPrintPayments"_s}));
-}
-
-TEST_F(MainFormTest, DatabaseOptionsTouchTheFirstMenuAndTheWindowsOwnButtons)
-{
-    const QToolButton own(&form());
-    QWidget screen(&form(), Qt::Window);
-    const QToolButton itsButton(&screen);
-    form().databaseOptionsEnabled(false);
-    EXPECT_FALSE(own.isEnabled());
-    EXPECT_TRUE(itsButton.isEnabled());
-    EXPECT_FALSE(form().findChild<QAction *>(u"Exit1"_s)->isEnabled());
-    EXPECT_TRUE(form().findChild<QAction *>(u"About1"_s)->isEnabled());
-    form().databaseOptionsEnabled(true);
-    EXPECT_TRUE(form().findChild<QAction *>(u"Exit1"_s)->isEnabled());
 }

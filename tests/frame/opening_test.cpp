@@ -6,10 +6,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QStatusTipEvent>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -124,19 +122,6 @@ TEST_F(OpeningTest, HostsMenuItemOpensTheSystemAgainAndAgain)
     EXPECT_EQ(company.prompts.said, QStringList());
 }
 
-TEST_F(OpeningTest, OtherUsersLearnWhoHoldsALock)
-{
-    link(&host);
-    EXPECT_TRUE(open());
-    EXPECT_TRUE(form.dataModule()->databaseTallymere().connection().locks().tryLockTable(u"Item"_s));
-    Engine::Session session(u"Other"_s);
-    Engine::Database other(session, u"Corvane"_s);
-    other.directory = company.folder();
-    const auto owner = other.connection().locks().ownerOf(u"Item"_s);
-    ASSERT_TRUE(owner);
-    EXPECT_TRUE(owner->description().startsWith("maria on "_L1)) << owner->description().toStdString();
-}
-
 TEST_F(OpeningTest, WithoutAHostAnErrorIsShownAndNothingOpens)
 {
     QWidget plain;
@@ -239,20 +224,6 @@ TEST_F(OpeningTest, WhileItIsOpenItsScreensAreUsableAndTheHostIsNot)
         EXPECT_EQ(pressed, 2);
         click(host);
         EXPECT_EQ(pressed, 2);
-    }));
-}
-
-TEST_F(OpeningTest, EnterPressesTheFocusedButtonAndHintsGoToTheStatusBar)
-{
-    link(&host);
-    EXPECT_TRUE(open([this] {
-        auto *close = form.findChild<QPushButton *>(u"BitBtnClose"_s);
-        close->setFocus();
-        QStatusTipEvent tip(u"Enter inventory receipts"_s);
-        QCoreApplication::sendEvent(&form, &tip);
-        EXPECT_EQ(form.findChild<QLabel *>(u"RzStatusPane1"_s)->text(), u"Enter inventory receipts"_s);
-        QTest::keyClick(close, Qt::Key_Return);
-        EXPECT_FALSE(form.isVisible());
     }));
 }
 

@@ -96,14 +96,6 @@ TEST_F(SettingsScreenTest, FolderChooserBeginsAtThePathAndMayBeCancelled)
     EXPECT_EQ(child<QLineEdit>(u"RzButtonEditDataPath"_s)->text(), u"/srv/new"_s);
 }
 
-TEST_F(SettingsScreenTest, AddressTakesFourGroupsOfDigits)
-{
-    screen.show();
-    auto *address = child<QLineEdit>(u"wwDBEditIPAddress"_s);
-    QTest::keyClicks(address, u"192.1688.host.1.20.5"_s);
-    EXPECT_EQ(address->text(), u"192.168.1.205"_s);
-}
-
 TEST_F(SettingsScreenTest, FailedWriteIsSaid)
 {
     settings.writable = false;

@@ -86,24 +86,3 @@ TEST_F(SynchronizationTest, LocationsComeInAfterAYesOnly)
     EXPECT_EQ(count(context.lookups.tblWarehse()), 2) << "drop-down lists show what has come in";
     EXPECT_EQ(refreshed, QStringList(u"frmWarehousesInv"_s));
 }
-
-TEST_F(SynchronizationTest, ItemsComeInUnaskedAndAFailureIsRaised)
-{
-    const int before = count(context.lookups.tblItem());
-    {
-        Engine::Session session(u"Anna"_s);
-        Engine::Database other(session, databaseName);
-        other.directory = context.company.folder();
-        Engine::Table table(other, u"Item"_s);
-        table.open();
-        table.lockTable();
-        EXPECT_EQ(errorOf([this] { synchronizeItems(site); }), Engine::ErrorCode::TableLocked);
-        EXPECT_EQ(prompts.take(), QStringList());
-        EXPECT_EQ(bar.value(), 0);
-    }
-    refreshed.clear();
-    synchronizeItems(site);
-    EXPECT_EQ(prompts.take(), QStringList(done));
-    EXPECT_EQ(count(context.lookups.tblItem()), before + 1);
-    EXPECT_EQ(refreshed, QStringList(u"frmItemsInv"_s));
-}

@@ -9,20 +9,6 @@
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
-TEST(HostCompany, IsReadFromTheFolderInTheSettings)
-{
-    const QTemporaryDir folder;
-    makeCompany(folder.path(), u"Harvest Table Kitchens"_s);
-    MemorySettings settings;
-    EXPECT_FALSE(readCompany(settings).defined);
-
-    ASSERT_TRUE(useCompanyFolder(settings, folder.path()));
-    const Company company = readCompany(settings);
-    EXPECT_TRUE(company.defined);
-    EXPECT_EQ(company.name, u"Harvest Table Kitchens"_s);
-    EXPECT_EQ(company.problem, QString());
-}
-
 TEST(HostCompany, WhatIsWrongIsTold)
 {
     const QTemporaryDir folder;

@@ -93,21 +93,6 @@ TEST_F(ModuleTest, StartedTwiceItIsRegisteredOnce)
     EXPECT_EQ(count(), 0);
 }
 
-TEST_F(ModuleTest, ExportsItsGlobals)
-{
-    HostWindow window(settings, u"maria"_s, moduleUnderTest);
-    QLibrary library(moduleUnderTest);
-    ASSERT_TRUE(library.load());
-    auto *const form = reinterpret_cast<QWidget **>(library.resolve("FormTallymereSystem"));
-    const auto *factor = reinterpret_cast<double *>(library.resolve("FontFactor"));
-    ASSERT_TRUE(form && factor && library.resolve("SecurityActive"));
-    ASSERT_NE(mainForm(), nullptr);
-    EXPECT_DOUBLE_EQ(*factor, mainForm()->logicalDpiX() / 96.0);
-    EXPECT_NE(*form, nullptr);
-    window.unloadModule();
-    EXPECT_EQ(*form, nullptr);
-}
-
 TEST_F(ModuleTest, HostDrivesItByItsInterface)
 {
     HostWindow window(settings, u"maria"_s, moduleUnderTest);

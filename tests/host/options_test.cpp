@@ -31,16 +31,6 @@ TEST(HostOptions, AreReadAndRefused)
     }
 }
 
-TEST(HostOptions, ModuleIsGivenOrNamedOrInstalled)
-{
-    qunsetenv("TALLYMERE_MODULE");
-    EXPECT_TRUE(moduleFile({}, u"/opt/bin"_s).startsWith(u"/opt/bin/"_s));
-    qputenv("TALLYMERE_MODULE", "/named.so");
-    EXPECT_EQ(moduleFile({}, u"/opt/bin"_s), u"/named.so"_s);
-    EXPECT_EQ(moduleFile(u"/given.so"_s, u"/opt/bin"_s), u"/given.so"_s);
-    qunsetenv("TALLYMERE_MODULE");
-}
-
 TEST(HostOptions, ProgramAnswersWithoutADisplay)
 {
     struct Case

@@ -3,9 +3,7 @@
 #include "master/screens/company.h"
 #include "tests/support/screentest.h"
 
-#include <QAction>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
@@ -127,29 +125,6 @@ TEST_F(CompanyScreen, DefaultsAreChosenFromLists)
     EXPECT_EQ(kitchen.rows(u"SELECT ClientInvoiceLineItems, InvoiceFormat, DefaultCurrencyID, DefaultNetDays "
                            "FROM Company"_s),
               QStringList{u"D|X||45"_s});
-}
-
-TEST_F(CompanyScreen, NotesWrapAsTheUserLikes)
-{
-    open();
-    focus("memoNotes");
-    auto *notes = child<QPlainTextEdit>(*screen, "memoNotes");
-    auto *wrap = child<QAction>(*notes, "mnuWordWrap");
-    EXPECT_EQ(notes->actions(), QList<QAction *>{wrap});
-    EXPECT_TRUE(wrap->isChecked());
-    EXPECT_EQ(notes->lineWrapMode(), QPlainTextEdit::WidgetWidth);
-    EXPECT_EQ(notes->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    wrap->trigger();
-    EXPECT_EQ(notes->lineWrapMode(), QPlainTextEdit::NoWrap);
-    EXPECT_EQ(notes->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
-    type("two");
-    press(Qt::Key_Return);
-    type("lines");
-    press(Qt::Key_Escape);
-    EXPECT_EQ(prompts.take(), QStringList{u"Do you want to save changes?"_s});
-    EXPECT_EQ(notes->toPlainText(), u"two\nlines"_s);
-    click("btnOK");
-    EXPECT_EQ(stored(u"Notes"), u"two\nlines"_s);
 }
 
 TEST_F(CompanyScreen, AskedForAgainItShowsWhatIsStoredUnlessSomethingIsEntered)

@@ -9,7 +9,6 @@
 #include <poll.h>
 #include <pty.h>
 #include <QFile>
-#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTemporaryDir>
@@ -180,43 +179,6 @@ TEST_F(DialerTest, setupShowsAndKeepsThePort)
     QFile file(path());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().startsWith(rest)) << "the rest of the file is as it was";
-
-    writeFile(u"[General]\nDialerPort=com7\n"_s);
-    TfrmDialerSetupInv setup(*context, dialer, mainWindow.get());
-    for (int port = 1; port <= 4; ++port)
-        EXPECT_FALSE(choice(setup, port)->isChecked());
-    child<QPushButton>(setup, "btnOK")->click();
-    EXPECT_EQ(InitFile(path()).value(u"General", u"DialerPort"), u"com7"_s) << "nothing was chosen";
-}
-
-TEST_F(DialerTest, setupThatCannotBeSavedStaysOpen)
-{
-    const Dialer lost(u"/proc/none/HX1.ini"_s);
-    TfrmDialerSetupInv setup(*context, lost, mainWindow.get());
-    showActive(setup);
-    press(Qt::Key_Return);
-    EXPECT_TRUE(setup.isVisible());
-    EXPECT_EQ(prompts.take(),
-              QStringList{u"error: The port cannot be saved: /proc/none/HX1.ini cannot be written."_s});
-}
-
-TEST_F(DialerTest, screenDialsAndFreesItself)
-{
-    connectModem();
-    QPointer<TfrmDialerInv> screen = new TfrmDialerInv(*context, dialer, mainWindow.get());
-    screen->setParty(u"O'Neil & <b>Sons</b>, 10 %1"_s, u"555-1234"_s);
-    bool hidden = false;
-    prompts.onInform = [&] { hidden = !screen->isVisible(); };
-    EXPECT_TRUE(whileOpen<TfrmDialerInv>([&] { screen->exec(); },
-                                         [&](TfrmDialerInv &dialog) {
-                                             EXPECT_EQ(child<QLabel>(dialog, "Label1")->text(),
-                                                       u"Phone 'O'Neil & <b>Sons</b>, 10 %1'\nat 555-1234"_s);
-                                             press(Qt::Key_Return);
-                                         }));
-    EXPECT_EQ(modem.heard(dialed), dialed);
-    EXPECT_TRUE(hidden) << "while the user dials on";
-    settle();
-    EXPECT_TRUE(screen.isNull());
 }
 
 TEST_F(DialerTest, screenStaysAfterAFailureSoThatThePortCanBeSetUp)

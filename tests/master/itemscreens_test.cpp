@@ -13,8 +13,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>

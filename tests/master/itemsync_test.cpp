@@ -106,21 +106,15 @@ TEST_P(ItemSyncTest, MealCodesDecideTheTypeAndUnknownOnesChangeIt)
     expectTypes([](const auto &one) { return std::get<1>(one); });
     EXPECT_EQ(run().updated, 4);
     expectTypes([](const auto &one) { return std::get<2>(one); });
-
-    kitchen.execute(u"UPDATE Item SET ItemTypeID = 9"_s); // chosen by the user
-    EXPECT_EQ(run().updated, 0);
-    kitchen.execute(u"UPDATE Items SET Billed_Amount = 2"_s);
-    EXPECT_EQ(run().updated, 10);
-    expectTypes([](const auto &one) { return std::get<2>(one); });
 }
 
 TEST_P(ItemSyncTest, NumbersLinkByWhatTheyReadAs)
 {
     int key = 0;
     for (const QString &number : {u"123"_s, u"000123"_s, u" 123 "_s, u"A123"_s, u"123.0"_s, u"123 eggs"_s, u""_s,
-                                  u"99999999999999999999"_s, u"4294967419"_s})
+                                  u"99999999999999999999"_s, u"4294967419"_s, u"\t123"_s, u"１２３"_s, u"+-123"_s})
         addItem(++key, number);
-    kitchen.execute(u"INSERT INTO Item (ItemID) VALUES (10)"_s);
+    kitchen.execute(u"INSERT INTO Item (ItemID) VALUES (13)"_s);
     kitchen.execute(u"UPDATE ItemCtl SET NextItemID = 20"_s);
     addHostItem(123, u"'new'"_s);
     addHostItem(5, u"'other'"_s);

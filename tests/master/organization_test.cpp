@@ -121,16 +121,6 @@ TEST_P(Organization, TheFirstRecordIsBegunOnceWithItsDefaults)
               QStringList{u"1|Riverside Meals|12 Mill Lane|0|1|2.55"_s});
 }
 
-TEST_P(Organization, ThereIsNoSecondRecord)
-{
-    kitchen.execute(u"DELETE FROM Company"_s);
-    readOrganization(record);
-    kitchen.execute(u"INSERT INTO Company (CompanyNo, CompanyName) VALUES (1, 'Theirs')"_s);
-    EXPECT_EQ(errorOf([&] { record.save(); }), Engine::ErrorCode::KeyViolation);
-    EXPECT_TRUE(record.isNew()) << "with its values, to be dropped or saved later";
-    EXPECT_EQ(kitchen.rows(u"SELECT CompanyNo, CompanyName FROM Company"_s), QStringList{u"1|Theirs"_s});
-}
-
 TEST_P(Organization, WhatOthersSaveIsReadAgainButNotOverAnEdit)
 {
     const auto other = kitchen.anotherUser();
@@ -182,24 +172,6 @@ TEST_P(Organization, TheYearEndMovesEverythingToTheFirstPeriodOfTheNextYear)
     EXPECT_EQ(kitchen.number(u"SELECT FiscalYear FROM Company"_s), 2026) << "saving is the user's";
     record.save();
     EXPECT_EQ(kitchen.rows(ranges), QStringList{u"2027|0|2027|1|2027|1|2027|1|2027|1|2027"_s});
-}
-
-TEST_P(Organization, AYearEndThatIsRefusedEndsAllTheSame)
-{
-    const auto other = kitchen.anotherUser();
-    kitchen.session().lockAttempts = 1;
-    Engine::Table theirs(other->database, u"Company"_s);
-    theirs.open();
-    theirs.edit();
-    YearEnd yearEnd(company);
-    SpokenPrompts prompts;
-    EXPECT_EQ(errorOf([&] { yearEnd.run([] { return true; }, prompts); }), Engine::ErrorCode::RecordLocked);
-    EXPECT_FALSE(YearEnd::isUnderWay());
-    EXPECT_TRUE(yearEnd.isPossible());
-    theirs.set(u"FiscalYear", Engine::Value());
-    theirs.post();
-    readOrganization(record);
-    EXPECT_FALSE(yearEnd.isPossible()) << "there is no year to close";
 }
 
 ON_BOTH_STORES(Organization);

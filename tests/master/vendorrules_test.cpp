@@ -117,28 +117,6 @@ TEST_P(Vendors, AreFilteredByCurrencyAndSuspension)
     EXPECT_EQ(MasterKinds::item().filterExpression({4, Marked::No}), u"(ItemTypeID = 4) AND (Suspended = false)");
 }
 
-TEST_P(Vendors, ShowTheirContactsByName)
-{
-    kitchen.execute(uR"(INSERT INTO VContact (VendorID, ContactID, FirstName, LastName) VALUES
-        (1, 1, 'Zoe', 'adams'), (1, 2, 'Ann', 'Berg'), (2, 3, 'Bob', 'Adams'), (1, 4, 'Al', 'Adams'),
-        (1, 5, 'Only', NULL), (1, 6, NULL, 'Cole'))"_s);
-    MasterList contacts(database, MasterKinds::vendorContact());
-    contacts.open();
-    contacts.table().setMaster(&vendor.table(), u"VendorID"_s);
-    const auto names = [&] {
-        QStringList all;
-        for (int row = 0; row < contacts.table().recordCount(); ++row)
-            all << contacts.table().valueAt(row, contacts.table().fieldIndex(u"FullName")).toText();
-        return all.join(", "_L1);
-    };
-    ASSERT_TRUE(vendor.openRecord(1));
-    EXPECT_EQ(names(), u"Only, Al Adams, Zoe adams, Ann Berg, Cole");
-    ASSERT_TRUE(contacts.moveTo(2));
-    EXPECT_FALSE(contacts.moveTo(3)) << "another vendor's";
-    ASSERT_TRUE(vendor.openRecord(3));
-    EXPECT_EQ(names(), QString());
-}
-
 TEST_P(Vendors, AreNotDeletedWhileTheirContactIsEdited)
 {
     kitchen.session().lockAttempts = 1;

@@ -1,4 +1,3 @@
-#include "controls/lookupcombobox.h"
 #include "controls/screenmetrics.h"
 #include "master/masterkinds.h"
 #include "master/screens/dialerinv.h"
@@ -8,12 +7,10 @@
 #include "tests/support/screentest.h"
 
 #include <QAction>
-#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTableView>
 #include <QTabWidget>
 #include <QToolButton>
@@ -41,13 +38,6 @@ protected:
         showActive(*list);
     }
 
-    QStringList shown(int column = 0)
-    {
-        QStringList cells;
-        for (int row = 0; row < grid->model()->rowCount(); ++row)
-            cells << grid->model()->index(row, column).data().toString();
-        return cells;
-    }
     QString current() { return list->dataSet().text(u"VendorNo"); }
 
     // The card that the list opens on a vendor; 0 for a new one.
@@ -190,23 +180,6 @@ TEST_F(VendorScreensTest, contactsAreEditedAndDeletedOnTheCard)
     EXPECT_EQ(prompts.take(), QStringList{u"Confirm: Delete 'Mary Ams'?"_s});
     EXPECT_EQ(contacts(), u"Otto"_s);
     EXPECT_EQ(kitchen.rows(u"SELECT FirstName FROM VContact"_s), QStringList{u"Otto"_s});
-}
-
-TEST_F(VendorScreensTest, contactBeingEnteredOutlivesTheCardOfItsVendor)
-{
-    open(1);
-    enter(*card, "DBGrid1");
-    press(Qt::Key_Return);
-    QPointer<TfrmVContact> contact = contactCard();
-    ASSERT_NE(contact, nullptr);
-    fill(*contact, "editJobTitle", "Baker");
-    click(*card, "btnOK");
-    list->close();
-    settle();
-    EXPECT_TRUE(card.isNull());
-    ASSERT_FALSE(contact.isNull());
-    click(*contact, "btnOK");
-    EXPECT_EQ(kitchen.text(u"SELECT JobTitle FROM VContact WHERE ContactID = 8"_s), u"Baker"_s);
 }
 
 TEST_F(VendorScreensTest, buttonsReachWhatStandsBesideThem)

@@ -1,7 +1,6 @@
 #include "controls/linegrid.h"
 #include "controls/listgrid.h"
 #include "controls/lookupcombobox.h"
-#include "controls/screenmetrics.h"
 #include "data/utilsinv.h"
 #include "master/screens/itemsearchinv.h"
 #include "tests/support/screentest.h"
@@ -10,7 +9,6 @@
 #include "transactions/screens/invreceipt.h"
 
 #include <QAction>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
