@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-// Small calculations that all screens and rules share. They keep no state.
+// Small calculations that all screens and rules share, kept whole: some have no caller yet. They keep no state.
 
 namespace Tallymere {
 

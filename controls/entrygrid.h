@@ -43,7 +43,6 @@ protected:
     virtual bool editorKey(QKeyEvent *event); // true when the key has been used
 
     QLineEdit *editor() const { return m_editor; } // null while none is open
-    const QPersistentModelIndex &editedCell() const { return m_edited; }
     QString typedText() const; // what has been typed in the open editor, if anything
     bool finishEntry(); // commits and closes; false, with the editor open, when refused
     void reopen(const QModelIndex &cell, const QString &text);

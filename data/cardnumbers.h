@@ -4,6 +4,8 @@
 
 namespace Tallymere {
 
+// A part of the screens' toolbox (data/utilsinv.h) without a caller yet.
+//
 // The brand of a payment card: "enRoute", "Switch", "Solo" and "Discover" by length and prefix alone, "MASTERCARD",
 // "VISA", "AMEX" and "Diners Club" when the check digit is right too. Empty for any other number. Blanks are left
 // out of account.

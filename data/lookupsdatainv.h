@@ -22,6 +22,7 @@ class TdmLookUpsInv final : public TableOwner
 public:
     explicit TdmLookUpsInv(Engine::Database &database);
 
+    // The whole set that screens and reports look things up in; some wait for theirs.
     Engine::Table &tblTax() { return opened(m_tax); }
     Engine::Table &tblSalesman() { return opened(m_salesman); } // + FullName
     Engine::Table &tblCusType() { return opened(m_cusType); } // the host's

@@ -12,7 +12,7 @@
 #include <QRect>
 #include <QString>
 
-// The screens' toolbox. Texts that are no number throw RuleError.
+// The screens' toolbox, kept whole: some of it has no caller yet. Texts that are no number throw RuleError.
 
 namespace Tallymere {
 
