@@ -2,6 +2,7 @@
 #include "cli/command.h"
 #include "cli/terminal.h"
 #include "cli/texts.h"
+#include "engine/attempts.h"
 #include "engine/error.h"
 
 #include <algorithm>
@@ -27,27 +28,9 @@ void CommandContext::beginRetrying() const
     prompts.retryFor(std::chrono::seconds(std::min(arguments.number(u"retry"_s, 0), longest)));
 }
 
-namespace {
-
-bool isHeldByOthers(Engine::ErrorCode code)
-{
-    using Engine::ErrorCode;
-    return code == ErrorCode::RecordLocked || code == ErrorCode::TableLocked || code == ErrorCode::TableInUse
-        || code == ErrorCode::Busy;
-}
-
-} // namespace
-
 void CommandContext::patiently(const std::function<void()> &step) const
 {
-    for (;;) {
-        try {
-            return step();
-        } catch (const Engine::EngineError &error) {
-            if (!isHeldByOthers(error.code()) || !prompts.mayTryAgain())
-                throw;
-        }
-    }
+    Engine::tryWhileHeld(step, [this](const Engine::EngineError &) { return prompts.mayTryAgain(); });
 }
 
 OptionSpec retryOption()

@@ -6,7 +6,7 @@
 #include "data/seeds.h"
 #include "data/texts.h"
 #include "engine/error.h"
-#include "engine/locks.h"
+#include "engine/tablelocks.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -16,40 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
-
-namespace {
-
-// Two users who start for the first time at the same moment would both make the tables. The second waits for the
-// first, for ten seconds at most: a start that hangs must not keep everybody else out.
-class StartLock
-{
-public:
-    explicit StartLock(Engine::Database &database)
-        : m_locks(database.connection().locks())
-    {
-        for (int attempt = 0; attempt < mostAttempts && !m_held; ++attempt) {
-            if (attempt > 0)
-                database.session().pause();
-            m_held = m_locks.tryLockTable(m_name);
-        }
-    }
-    ~StartLock()
-    {
-        if (m_held)
-            m_locks.unlockTable(m_name);
-    }
-    StartLock(const StartLock &) = delete;
-    StartLock &operator=(const StartLock &) = delete;
-
-private:
-    static constexpr int mostAttempts = 100;
-
-    Engine::LockManager &m_locks;
-    const QString m_name = u"(start)"_s; // no table can have this name
-    bool m_held = false;
-};
-
-} // namespace
 
 TDataModuleTallymere::TDataModuleTallymere(SettingsStore &settings, Prompts &prompts, DataModuleOptions options)
     : m_settings(settings)
@@ -156,6 +122,20 @@ void TDataModuleTallymere::requireHost()
             .arg(m_database.connection().location()));
 }
 
+// Two users who start for the first time at the same moment would both make the tables. The second waits for the
+// first, for ten seconds at most: a start that hangs must not keep everybody else out.
+void TDataModuleTallymere::awaitOtherStart(Engine::TableLocks &locks) const
+{
+    constexpr int mostAttempts = 100;
+    Engine::Attempts attempts(mostAttempts, [this] { m_session.pause(); });
+    try {
+        locks.take(u"(start)"_s, [&](const Engine::EngineError &) { return attempts.again(); }); // no table's name
+    } catch (const Engine::EngineError &error) {
+        if (!error.isHeldByOthers())
+            throw;
+    }
+}
+
 void TDataModuleTallymere::start()
 {
     const QHash<QString, std::function<void()>> seeds{
@@ -166,7 +146,8 @@ void TDataModuleTallymere::start()
     };
 
     openReportParameters();
-    const StartLock lock(m_database);
+    Engine::TableLocks locks(m_database);
+    awaitOtherStart(locks);
     if (m_options.prepareHost)
         m_options.prepareHost(m_database);
     requireHost();

@@ -6,6 +6,7 @@
 #include "engine/database.h"
 #include "engine/session.h"
 #include "engine/table.h"
+#include "engine/tablelocks.h"
 
 #include <functional>
 #include <memory>
@@ -71,6 +72,7 @@ public:
 
 private:
     void start();
+    void awaitOtherStart(Engine::TableLocks &locks) const;
     void startSession(Engine::Session &session);
     void beforeConnect(Engine::Database &database);
     void openReportParameters();

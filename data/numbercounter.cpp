@@ -1,9 +1,8 @@
 #include "data/numbercounter.h"
 
+#include "engine/attempts.h"
 #include "engine/error.h"
 #include "engine/session.h"
-
-#include <thread>
 
 using Engine::EngineError;
 using Engine::ErrorCode;
@@ -13,29 +12,13 @@ namespace Tallymere {
 
 namespace {
 
-void waitFor(const Engine::Session &session, std::chrono::milliseconds pause)
-{
-    if (pause.count() <= 0)
-        return;
-    if (session.waitFor)
-        session.waitFor(pause);
-    else
-        std::this_thread::sleep_for(pause);
-}
-
 void openExclusively(Table &counters, CounterRetry retry)
 {
     counters.exclusive = true;
-    for (int attempt = 1;; ++attempt) {
-        try {
-            counters.open();
-            return;
-        } catch (const EngineError &error) {
-            if (error.code() != ErrorCode::TableInUse || attempt >= retry.attempts)
-                throw;
-        }
-        waitFor(counters.database().session(), retry.pause);
-    }
+    Engine::Attempts attempts(retry.attempts, [&] { counters.database().session().pause(retry.pause); });
+    Engine::tryWhileHeld(
+        [&] { counters.open(); },
+        [&](const EngineError &error) { return error.code() == ErrorCode::TableInUse && attempts.again(); });
 }
 
 void save(Table &counters)

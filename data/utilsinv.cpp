@@ -4,6 +4,7 @@
 #include "base/textnumbers.h"
 #include "base/trace.h"
 #include "data/texts.h"
+#include "engine/attempts.h"
 #include "engine/error.h"
 #include "engine/session.h"
 
@@ -59,20 +60,25 @@ void lockRow(Engine::Table &counter)
     counter.edit();
 }
 
+void processSomeEvents()
+{
+    constexpr int mostRounds = 20;
+    for (int rounds = QRandomGenerator::global()->bounded(mostRounds); rounds > 0; --rounds)
+        QCoreApplication::processEvents();
+}
+
 bool lockedForEdit(Engine::Table &counter)
 {
-    constexpr int attempts = 100;
-    constexpr int mostRounds = 20;
-    for (int attempt = 0; attempt < attempts; ++attempt) {
+    constexpr int mostAttempts = 100;
+    Engine::Attempts attempts(mostAttempts, processSomeEvents);
+    do {
         try {
             lockRow(counter);
             return true;
         } catch (const EngineError &) {
             qCDebug(trace) << "in the unique ID EDBEngineError exception block";
         }
-        for (int rounds = QRandomGenerator::global()->bounded(mostRounds); rounds > 0; --rounds)
-            QCoreApplication::processEvents();
-    }
+    } while (attempts.again());
     return false;
 }
 

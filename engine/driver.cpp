@@ -1,7 +1,7 @@
 #include "engine/driver.h"
 
 #include "engine/error.h"
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "engine/storedtext.h"
 
 #include <QHash>

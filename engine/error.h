@@ -54,6 +54,12 @@ public:
     ErrorCode code() const { return m_code; }
     // Whether the store itself is gone, so that nothing else will work either.
     bool isStoreLost() const { return m_code == ErrorCode::ConnectionLost || m_code == ErrorCode::FileReplaced; }
+    // Whether somebody else's lock was in the way, so that it may go well in a moment.
+    bool isHeldByOthers() const
+    {
+        return m_code == ErrorCode::RecordLocked || m_code == ErrorCode::TableLocked
+            || m_code == ErrorCode::TableInUse || m_code == ErrorCode::Busy;
+    }
     const QString &text() const { return m_text; }
     const QString &driverText() const { return m_driverText; }
     const char *what() const noexcept override { return m_what.constData(); }

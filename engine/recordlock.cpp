@@ -1,19 +1,12 @@
 #include "engine/recordlock.h"
 
+#include "engine/attempts.h"
 #include "engine/error.h"
+#include "engine/tablelocks.h"
 
 #include <QRandomGenerator>
 
-using namespace Qt::StringLiterals;
-
 namespace Engine {
-
-QString lockHolder(LockManager &locks, const QString &table)
-{
-    const auto owner = locks.ownerOf(table);
-    const QString description = owner ? owner->description() : QString();
-    return description.isEmpty() ? QString() : " ("_L1 + description + u')';
-}
 
 RecordLock::RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key,
                        const QString &record, Loss loss)
@@ -28,14 +21,12 @@ RecordLock::RecordLock(Connection &connection, const Session &session, QString t
         raise(ErrorCode::RecordLocked,
               Texts::tr("%1 is being edited in another window. Finish there first.").arg(record));
     }
-    for (int attempt = 1;; ++attempt) {
-        m_held = m_locks.tryLockRecord(m_table, m_key);
-        if (m_held)
-            break;
-        if (attempt >= session.lockAttempts)
+    Attempts attempts(session);
+    while (!m_locks.tryLockRecord(m_table, m_key)) {
+        if (!attempts.again())
             refuse(record, session.titleOf(m_table));
-        session.pause();
     }
+    m_held = true;
     m_losses = m_locks.losses();
     if (loss == Loss::Noticed)
         m_locks.mayBeLost(m_table, m_key);
@@ -59,14 +50,12 @@ QList<qint64> RecordLock::anyKey()
 void RecordLock::refuse(const QString &record, const QString &tableTitle)
 {
     const QList<qint64> probe = anyKey();
-    const QString holder = lockHolder(m_locks, m_table);
-    if (m_locks.tryLockRecord(m_table, probe)) {
-        m_locks.unlockRecord(m_table, probe);
-        raise(ErrorCode::RecordLocked,
-              Texts::tr("%1 is being edited by another user%2. Try again in a moment.").arg(record, holder));
-    }
-    raise(ErrorCode::TableLocked,
-          Texts::tr("Table '%1' is locked by another user%2. Try again in a moment.").arg(tableTitle, holder));
+    if (!m_locks.tryLockRecord(m_table, probe))
+        refuseTable(m_locks, m_table, tableTitle);
+    m_locks.unlockRecord(m_table, probe);
+    raise(ErrorCode::RecordLocked,
+          Texts::tr("%1 is being edited by another user%2. Try again in a moment.")
+              .arg(record, m_locks.holderOf(m_table)));
 }
 
 } // namespace Engine

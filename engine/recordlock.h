@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/driver.h"
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "engine/session.h"
 
 namespace Engine {
@@ -36,8 +36,5 @@ private:
     bool m_held = false;
     int m_losses = 0; // of the connection, when the lock was taken
 };
-
-// " (anna on kitchen-2)" or nothing, for messages about the table's locks.
-QString lockHolder(LockManager &locks, const QString &table);
 
 } // namespace Engine

@@ -1,7 +1,7 @@
 #include "engine/database.h"
 #include "engine/dialect.h"
 #include "engine/error.h"
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "engine/query.h"
 #include "engine/session.h"
 
@@ -55,14 +55,7 @@ public:
                   "Table '%1' is open elsewhere and cannot be changed now. Have everybody close it and try again.")
                   .arg(title));
     }
-    ~ExclusiveOpen()
-    {
-        try {
-            m_locks.closeExclusive(m_table);
-        } catch (const EngineError &) {
-            // what is done next tells that the server is gone
-        }
-    }
+    ~ExclusiveOpen() { m_locks.closeExclusive(m_table); }
     ExclusiveOpen(const ExclusiveOpen &) = delete;
     ExclusiveOpen &operator=(const ExclusiveOpen &) = delete;
 

@@ -14,14 +14,14 @@ void Session::start()
         onStartup(*this);
 }
 
-void Session::pause() const
+void Session::pause(std::chrono::milliseconds time) const
 {
     const bool within = std::exchange(m_pausing, true);
     const auto over = qScopeGuard([&] { m_pausing = within; });
     if (waitFor)
-        waitFor(lockPause);
+        waitFor(time);
     else
-        std::this_thread::sleep_for(lockPause);
+        std::this_thread::sleep_for(time);
 }
 
 bool Session::mayTryAgain(std::chrono::steady_clock::time_point since) const

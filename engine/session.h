@@ -48,7 +48,8 @@ public:
     std::function<void(std::chrono::milliseconds)> waitFor;
 
     void start(); // runs onStartup unless that has been done
-    void pause() const; // one lockPause
+    void pause() const { pause(lockPause); }
+    void pause(std::chrono::milliseconds time) const;
     // Pauses and gives true while what was begun then may be tried again. Never within a pause: what a screen does
     // meanwhile must not wait as well.
     bool mayTryAgain(std::chrono::steady_clock::time_point since) const;

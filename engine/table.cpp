@@ -78,11 +78,11 @@ void Table::open()
         events.beforeOpen();
     Connection &connection = m_database.connection();
     LockManager &locks = connection.locks();
-    const bool free = exclusive ? locks.tryOpenExclusive(m_name) : locks.tryOpenShared(m_name);
-    if (!free) {
-        const QString text = exclusive ? Texts::tr("Table '%1' is in use by another user%2.")
-                                       : Texts::tr("Another user%2 has table '%1' open in exclusive mode.");
-        raise(ErrorCode::TableInUse, text.arg(title(), lockHolder(locks, m_name)));
+    if (!exclusive) {
+        openShared(locks, m_name, title());
+    } else if (!locks.tryOpenExclusive(m_name)) {
+        raise(ErrorCode::TableInUse,
+              Texts::tr("Table '%1' is in use by another user%2.").arg(title(), locks.holderOf(m_name)));
     }
     try {
         auto stored = connection.describe(m_name);
@@ -122,10 +122,8 @@ void Table::close()
     m_state = TableState::Inactive;
     m_open = false;
     invalidate(Place::First);
+    m_lock.reset();
     LockManager &locks = m_database.connection().locks();
-    if (m_tableLocked)
-        locks.unlockTable(m_name);
-    m_tableLocked = false;
     exclusive ? locks.closeExclusive(m_name) : locks.closeShared(m_name);
     Q_EMIT closed();
     Q_EMIT stateChanged();
@@ -134,24 +132,14 @@ void Table::close()
 void Table::lockTable()
 {
     requireOpen();
-    if (m_tableLocked)
+    if (m_lock)
         return;
-    LockManager &locks = m_database.connection().locks();
-    if (!locks.tryLockTable(m_name)) {
-        raise(ErrorCode::TableLocked,
-              Texts::tr("Table '%1' is locked by another user%2. Try again in a moment.")
-                  .arg(title(), lockHolder(locks, m_name)));
-    }
-    m_tableLocked = true;
+    auto lock = std::make_unique<TableLocks>(m_database);
+    lock->take(m_name);
+    m_lock = std::move(lock);
 }
 
-void Table::unlockTable()
-{
-    if (!m_tableLocked)
-        return;
-    m_tableLocked = false;
-    m_database.connection().locks().unlockTable(m_name);
-}
+void Table::unlockTable() { m_lock.reset(); }
 
 // --- order -----------------------------------------------------------------------------------------------------
 

@@ -6,6 +6,7 @@
 namespace Engine {
 
 class EngineError;
+class TableLocks;
 struct SqlCondition;
 
 enum class TableState { Inactive, Browse, Edit, Insert };
@@ -158,7 +159,7 @@ private:
     QString m_index;
     TableState m_state = TableState::Inactive;
     bool m_modified = false;
-    bool m_tableLocked = false;
+    std::unique_ptr<TableLocks> m_lock; // on the whole table
 };
 
 } // namespace Engine

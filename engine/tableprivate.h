@@ -3,6 +3,7 @@
 #include "engine/recordlock.h"
 #include "engine/rowsource.h"
 #include "engine/table.h"
+#include "engine/tablelocks.h"
 
 #include <optional>
 #include <QPointer>

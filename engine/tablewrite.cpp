@@ -241,13 +241,9 @@ void Table::removeAll()
     Connection &connection = m_database.connection();
     std::list<RecordLock> locks;
     const bool few = d->keys.count() <= lockedOneByOne;
-    const bool lockWhole = !few && !m_tableLocked;
-    if (lockWhole)
-        lockTable();
-    const auto release = qScopeGuard([&] {
-        if (lockWhole)
-            unlockTable();
-    });
+    TableLocks whole(m_database);
+    if (!few)
+        whole.take(m_name);
     for (int i = 0; few && i < d->keys.count(); ++i)
         locks.emplace_back(connection, m_database.session(), m_name, lockKey(reader.rowAt(i)),
                            Texts::tr("A record of table '%1'").arg(title()));

@@ -4,53 +4,13 @@
 #include "engine/driver.h"
 #include "engine/error.h"
 #include "engine/session.h"
-#include "engine/table.h"
+#include "engine/tablelocks.h"
 #include "import/importanswers.h"
 #include "import/importfile.h"
 
 namespace Tallymere {
 
 namespace {
-
-// Whole-table locks, tried as often as record locks are.
-class TableLocks
-{
-public:
-    TableLocks(Engine::Database &database, const QStringList &names)
-    {
-        for (const QString &name : names) {
-            auto table = std::make_unique<Engine::Table>(database, name);
-            table->open();
-            lock(*table);
-            m_tables.push_back(std::move(table));
-        }
-    }
-    ~TableLocks()
-    {
-        for (const auto &table : m_tables)
-            table->unlockTable();
-    }
-    TableLocks(const TableLocks &) = delete;
-    TableLocks &operator=(const TableLocks &) = delete;
-
-private:
-    static void lock(Engine::Table &table)
-    {
-        const Engine::Session &session = table.database().session();
-        for (int attempt = 1;; ++attempt) {
-            try {
-                table.lockTable();
-                return;
-            } catch (const Engine::EngineError &error) {
-                if (error.code() != Engine::ErrorCode::TableLocked || attempt >= session.lockAttempts)
-                    throw;
-                session.pause();
-            }
-        }
-    }
-
-    std::vector<std::unique_ptr<Engine::Table>> m_tables;
-};
 
 // False when the store has refused the document, after which nothing else can be tried: a server has given up the
 // transaction. It happens when a counter is behind its table.
@@ -89,7 +49,11 @@ ImportResult importFile(Engine::Database &database, QIODevice &file, const Impor
     if (documents.empty())
         return result;
 
-    const TableLocks locks(database, kind.lockedTables);
+    Engine::TableLocks locks(database);
+    for (const QString &table : kind.lockedTables) {
+        Engine::Attempts attempts(database.session()); // as record locks are tried
+        locks.take(table, [&](const Engine::EngineError &) { return attempts.again(); });
+    }
     ImportAnswers answers(answerYes);
     HeldCounters counters(database);
     const std::unique_ptr<ImportTarget> target = kind.makeTarget({database, answers, counters});

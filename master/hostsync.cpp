@@ -2,8 +2,8 @@
 
 #include "engine/error.h"
 #include "engine/groupedwrites.h"
+#include "engine/lockmanager.h"
 #include "engine/namedparameters.h"
-#include "engine/recordlock.h"
 #include "engine/textsize.h"
 #include "master/texts.h"
 
@@ -40,19 +40,16 @@ void addRow(const NewRows &rows, qint64 row, Engine::Statement &insert, Engine::
 
 } // namespace
 
-std::unique_ptr<Engine::Table> lockedTable(Engine::Database &database, const QString &table, const QString &refusal)
+void takeTable(Engine::TableLocks &locks, Engine::Database &database, const QString &table, const QString &refusal)
 {
-    auto locked = std::make_unique<Engine::Table>(database, table);
     try {
-        locked->open();
-        locked->lockTable();
+        locks.take(table);
     } catch (const EngineError &error) {
-        if (error.code() != ErrorCode::TableLocked && error.code() != ErrorCode::TableInUse)
+        if (!error.isHeldByOthers())
             throw;
-        const QString holder = Engine::lockHolder(database.connection().locks(), table);
+        const QString holder = database.connection().locks().holderOf(table);
         throw EngineError(error.code(), refusal.arg(holder), error.driverText());
     }
-    return locked;
 }
 
 Engine::Value hostText(const Engine::Statement &row, int column, const Engine::TableLayout &layout,

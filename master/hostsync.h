@@ -3,10 +3,9 @@
 #include "base/prompts.h"
 #include "engine/database.h"
 #include "engine/driver.h"
-#include "engine/table.h"
+#include "engine/tablelocks.h"
 
 #include <functional>
-#include <memory>
 #include <QString>
 
 // What the synchronizations of locations and of items with the host have in common.
@@ -20,11 +19,10 @@ struct HostSyncResult
     QString notUpdated; // why the update could not be done, where a run goes on nevertheless
 };
 
-// The table, with its lock. Others can neither change it nor add to it while the object lives, so nobody's edit is
-// overwritten. While another user holds the table or edits one of its records: TableLocked or TableInUse with the text
-// of the refusal, where "%1" becomes who that is.
-std::unique_ptr<Engine::Table> lockedTable(Engine::Database &database, const QString &table,
-                                           const QString &refusal);
+// Takes the table, so that others can neither change it nor add to it and nobody's edit is overwritten. While another
+// user holds the table or edits one of its records: TableLocked or TableInUse with the text of the refusal, where "%1"
+// becomes who that is.
+void takeTable(Engine::TableLocks &locks, Engine::Database &database, const QString &table, const QString &refusal);
 
 // A text of the host's row, no longer than the field it goes to; null stays null.
 Engine::Value hostText(const Engine::Statement &row, int column, const Engine::TableLayout &layout,

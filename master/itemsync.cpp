@@ -30,10 +30,10 @@ struct ItemSync::HostItem
 
 HostSyncResult ItemSync::run(Progress &progress)
 {
-    const auto locked =
-        lockedTable(m_database, Layouts::item().name,
-                    MasterTexts::tr("The items are in use by another user%1. Nothing has been changed; try again "
-                                    "in a moment."));
+    Engine::TableLocks locks(m_database);
+    takeTable(locks, m_database, Layouts::item().name,
+              MasterTexts::tr("The items are in use by another user%1. Nothing has been changed; try again "
+                              "in a moment."));
     requireUsablePrices();
     HostSyncResult result;
     result.notUpdated = updateLinked(result.updated);

@@ -18,10 +18,10 @@ struct LocationSync::Place
 
 HostSyncResult LocationSync::run(Progress &progress)
 {
-    const auto locked =
-        lockedTable(m_database, Layouts::warehse().name,
-                    MasterTexts::tr("The locations are in use by another user%1. Nothing has been changed; try "
-                                    "again in a moment."));
+    Engine::TableLocks locks(m_database);
+    takeTable(locks, m_database, Layouts::warehse().name,
+              MasterTexts::tr("The locations are in use by another user%1. Nothing has been changed; try "
+                              "again in a moment."));
     HostSyncResult result;
     result.updated = m_database.connection().prepare(queryUpdateWarehseFromLocatns())->execute();
 

@@ -5,7 +5,7 @@
 #include "data/fiscalperiod.h"
 #include "engine/database.h"
 #include "engine/error.h"
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "engine/query.h"
 #include "transactions/texts.h"
 

@@ -4,7 +4,7 @@
 #include "engine/dialect.h"
 #include "engine/error.h"
 #include "engine/groupedwrites.h"
-#include "engine/table.h"
+#include "engine/tablelocks.h"
 #include "transactions/historywriter.h"
 #include "transactions/stockbook.h"
 #include "transactions/texts.h"
@@ -14,7 +14,6 @@
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
-using Engine::ErrorCode;
 using Engine::FieldType;
 
 namespace Tallymere {
@@ -37,55 +36,6 @@ std::vector<qint64> itemsOf(std::span<const PostingDocument> documents)
 
 } // namespace
 
-// The tables of a run, held from the construction on. Letting go frees them in the order they were taken.
-class DocumentPosting::Locks
-{
-public:
-    Locks(Engine::Database &database, const QList<PostingLock> &locks, Prompts &prompts)
-    {
-        for (const PostingLock &lock : locks)
-            take(database, lock, prompts);
-    }
-    ~Locks()
-    {
-        for (const auto &table : m_tables) {
-            try {
-                table->unlockTable();
-            } catch (const Engine::EngineError &) {
-                // A connection that is gone has let go of its locks.
-            }
-        }
-    }
-    Locks(const Locks &) = delete;
-    Locks &operator=(const Locks &) = delete;
-
-private:
-    void take(Engine::Database &database, const PostingLock &lock, Prompts &prompts)
-    {
-        auto table = std::make_unique<Engine::Table>(database, lock.table);
-        while (!tryTake(*table, lock, prompts)) { }
-        m_tables.push_back(std::move(table));
-    }
-
-    static bool tryTake(Engine::Table &table, const PostingLock &lock, Prompts &prompts)
-    {
-        try {
-            table.open();
-            table.lockTable();
-            return true;
-        } catch (const Engine::EngineError &error) {
-            const bool held = error.code() == ErrorCode::TableLocked || error.code() == ErrorCode::TableInUse
-                || error.code() == ErrorCode::Busy;
-            if (!held || !prompts.retry(lock.refusal))
-                throw;
-        }
-        table.close();
-        return false;
-    }
-
-    std::vector<std::unique_ptr<Engine::Table>> m_tables;
-};
-
 DocumentPosting::DocumentPosting(Engine::Database &database, const DocumentKind &kind)
     : m_database(database)
     , m_kind(kind)
@@ -103,7 +53,9 @@ bool DocumentPosting::run(Prompts &prompts, Progress &progress)
     if (isEntryOpen && isEntryOpen())
         throw RuleError(m_kind.posting.entryOpen);
 
-    const Locks locks(m_database, m_kind.posting.locks, prompts);
+    Engine::TableLocks locks(m_database);
+    for (const PostingLock &lock : m_kind.posting.locks)
+        locks.take(lock.table, [&](const Engine::EngineError &) { return prompts.retry(lock.refusal); });
     progress.start(count());
     const auto finished = qScopeGuard([&progress] { progress.finish(); });
     postAll(prompts, progress);

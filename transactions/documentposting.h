@@ -39,8 +39,6 @@ public:
     bool run(Prompts &prompts, Progress &progress);
 
 private:
-    class Locks;
-
     void postAll(Prompts &prompts, Progress &progress);
     std::vector<PostingDocument> readBatch(const QString &keys) const;
     std::vector<PostingDocument> readHeaders(const QString &keys) const;

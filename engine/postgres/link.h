@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/error.h"
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 
 #include <chrono>
 #include <functional>

@@ -151,7 +151,7 @@ bool PostgresLocks::acquireRecord(const QString &table, qint64 place, bool)
     return ask(lockRecord, {tableNumber(table), recordNumber(table), place, tableNumber(table)});
 }
 
-void PostgresLocks::releaseRecord(const QString &table, qint64 place, bool)
+void PostgresLocks::releaseRecord(const QString &table, qint64 place, bool) noexcept
 {
     release(unlockRecordText, {recordNumber(table), place, tableNumber(table)});
 }
@@ -174,7 +174,7 @@ bool PostgresLocks::isWrittenElsewhere(const QString &table)
     return statement->next() && statement->intAt(0) == 1;
 }
 
-void PostgresLocks::releaseTable(const QString &table, const std::set<qint64> &)
+void PostgresLocks::releaseTable(const QString &table, const std::set<qint64> &) noexcept
 {
     release(unlockAlone, {tableNumber(table), 0});
 }

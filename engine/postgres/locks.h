@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/countedlocks.h"
+#include "engine/lockmanager.h"
 #include "engine/value.h"
 
 #include <QByteArray>
@@ -15,7 +15,7 @@ LockOwner sessionOwner(const char *applicationName, const char *role, const char
 
 // Advisory locks of the connection's own session. For each table there are three numbers made of its name: one for
 // being open, one for the table lock, which whoever locks a record shares, and one for the records.
-class PostgresLocks final : public CountedLocks
+class PostgresLocks final : public LockManager
 {
 public:
     explicit PostgresLocks(PostgresConnection &connection)
@@ -41,9 +41,9 @@ protected:
     bool changeOpen(const QString &table, OpenMode from, OpenMode to) override;
     qint64 placeOf(const QString &table, const QList<qint64> &key) const override;
     bool acquireRecord(const QString &table, qint64 place, bool tableHeld) override;
-    void releaseRecord(const QString &table, qint64 place, bool tableHeld) override;
+    void releaseRecord(const QString &table, qint64 place, bool tableHeld) noexcept override;
     bool acquireTable(const QString &table) override;
-    void releaseTable(const QString &table, const std::set<qint64> &records) override;
+    void releaseTable(const QString &table, const std::set<qint64> &records) noexcept override;
 
 private:
     bool ask(const QString &sql, const QList<qint64> &numbers);

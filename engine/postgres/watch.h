@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 
 #include <optional>
 

@@ -107,7 +107,7 @@ bool FileLocks::acquireRecord(const QString &, qint64 place, bool tableHeld)
     return tableHeld || tryRange(place, 1, RangeLockFile::Mode::Exclusive);
 }
 
-void FileLocks::releaseRecord(const QString &, qint64 place, bool tableHeld)
+void FileLocks::releaseRecord(const QString &, qint64 place, bool tableHeld) noexcept
 {
     if (!tableHeld) // else the byte belongs to the table lock
         freeRange(place, 1);
@@ -118,7 +118,7 @@ bool FileLocks::acquireTable(const QString &table)
     return tryRange(firstRecordByte(table), stretch - 1, RangeLockFile::Mode::Exclusive);
 }
 
-void FileLocks::releaseTable(const QString &table, const std::set<qint64> &records)
+void FileLocks::releaseTable(const QString &table, const std::set<qint64> &records) noexcept
 {
     qint64 from = firstRecordByte(table);
     for (const qint64 byte : records) {
@@ -128,22 +128,26 @@ void FileLocks::releaseTable(const QString &table, const std::set<qint64> &recor
     freeRange(from, openByte(table) + stretch - from);
 }
 
-void FileLocks::takeNote()
+// More users than notes, or a system that gives no more locks: those on tables hold, only the name stays unknown.
+void FileLocks::takeNote() noexcept
 {
-    for (int note = 0; note < noteCount && m_note < 0; ++note) {
-        if (m_file->tryLock(noteLocks + note, 1, RangeLockFile::Mode::Exclusive))
-            m_note = note;
+    try {
+        for (int note = 0; note < noteCount && m_note < 0; ++note) {
+            if (m_file->tryLock(noteLocks + note, 1, RangeLockFile::Mode::Exclusive))
+                m_note = note;
+        }
+    } catch (const EngineError &) {
     }
 }
 
-void FileLocks::changed()
+void FileLocks::changed() noexcept
 {
     if (!m_file)
         return;
     if (m_note < 0)
         takeNote();
     if (m_note < 0)
-        return; // more users than notes: their locks hold, only their names stay unknown
+        return;
     QStringList parts{m_user, QSysInfo::machineHostName(), QString::number(QCoreApplication::applicationPid())};
     for (const auto &[table, held] : everything()) {
         if (held.keepsOthersFromWriting())

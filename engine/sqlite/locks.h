@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/countedlocks.h"
+#include "engine/lockmanager.h"
 #include "engine/platform.h"
 
 #include <functional>
@@ -15,7 +15,7 @@ namespace Engine {
 // counts only while its connection holds the byte that goes with it. The memo follows the notes.
 //
 // A lock file that was deleted or replaced keeps nobody out any more: the next lock throws FileReplaced.
-class FileLocks final : public CountedLocks
+class FileLocks final : public LockManager
 {
 public:
     FileLocks(const QString &path, const QString &user); // an empty path: of a database that nobody else can open
@@ -35,16 +35,16 @@ protected:
     bool changeOpen(const QString &table, OpenMode from, OpenMode to) override;
     qint64 placeOf(const QString &table, const QList<qint64> &key) const override;
     bool acquireRecord(const QString &table, qint64 place, bool tableHeld) override;
-    void releaseRecord(const QString &table, qint64 place, bool tableHeld) override;
+    void releaseRecord(const QString &table, qint64 place, bool tableHeld) noexcept override;
     bool acquireTable(const QString &table) override;
-    void releaseTable(const QString &table, const std::set<qint64> &records) override;
-    void changed() override; // writes the note
+    void releaseTable(const QString &table, const std::set<qint64> &records) noexcept override;
+    void changed() noexcept override; // writes the note
 
 private:
     void requireInPlace() const;
     bool tryRange(qint64 from, qint64 count, RangeLockFile::Mode mode);
     void freeRange(qint64 from, qint64 count);
-    void takeNote();
+    void takeNote() noexcept;
 
     std::unique_ptr<RangeLockFile> m_file;
     QString m_user;

@@ -1,4 +1,4 @@
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "engine/table.h"
 #include "tests/cli/clirunner.h"
 

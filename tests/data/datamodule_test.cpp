@@ -1,7 +1,7 @@
 #include "data/datamodule.h"
 
 #include "data/layouts.h"
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "engine/query.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"

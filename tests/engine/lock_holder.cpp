@@ -1,5 +1,5 @@
 #include "engine/error.h"
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "tests/support/teststore.h"
 
 #include <iostream>

@@ -1,5 +1,5 @@
 #include "engine/groupedwrites.h"
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "engine/platform.h"
 #include "engine/table.h"
 #include "tests/engine/storetest.h"

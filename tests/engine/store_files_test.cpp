@@ -1,4 +1,4 @@
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "tests/engine/otherprogram.h"
 #include "tests/engine/storetest.h"
 

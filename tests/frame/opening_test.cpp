@@ -1,4 +1,4 @@
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "frame/frmtallymeresystem.h"
 #include "master/screens/dialerinv.h"
 #include "tests/frame/testcompany.h"

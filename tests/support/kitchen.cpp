@@ -1,7 +1,7 @@
 #include "tests/support/kitchen.h"
 
 #include "data/layouts.h"
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "engine/query.h"
 
 #include <QThread>

@@ -1,6 +1,6 @@
 #include "transactions/receiptentry.h"
 
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "tests/support/failures.h"
 #include "tests/support/kitchen.h"
 

@@ -1,7 +1,7 @@
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "engine/table.h"
 #include "tests/support/failures.h"
 #include "tests/support/kitchen.h"

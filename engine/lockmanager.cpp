@@ -1,8 +1,10 @@
-#include "engine/countedlocks.h"
+#include "engine/lockmanager.h"
 
 #include "engine/error.h"
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace Engine {
 
@@ -16,20 +18,29 @@ QString LockOwner::description() const
     return text;
 }
 
-CountedLocks::Held *CountedLocks::find(const QString &name)
+LockManager::Held *LockManager::find(const QString &name)
 {
     const auto found = m_held.find(name);
     return found == m_held.end() ? nullptr : &found->second;
 }
 
-void CountedLocks::settle(const QString &name)
+void LockManager::settle(const QString &name)
 {
     const Held *held = find(name);
     if (held && held->isFree())
         m_held.erase(name);
 }
 
-bool CountedLocks::tryOpenShared(const QString &table)
+void LockManager::goDown(const QString &name, OpenMode from, OpenMode to) noexcept
+{
+    try {
+        changeOpen(name, from, to);
+    } catch (const EngineError &) {
+        // Whatever is done next tells that the store is gone.
+    }
+}
+
+bool LockManager::tryOpenShared(const QString &table)
 {
     const QString name = table.toLower();
     const Held *held = find(name);
@@ -40,18 +51,18 @@ bool CountedLocks::tryOpenShared(const QString &table)
     return true;
 }
 
-void CountedLocks::closeShared(const QString &table)
+void LockManager::closeShared(const QString &table) noexcept
 {
     const QString name = table.toLower();
     Held *held = find(name);
     if (!held || held->shared == 0)
         return;
     if (--held->shared == 0 && held->exclusive == 0)
-        changeOpen(name, OpenMode::Shared, OpenMode::None);
+        goDown(name, OpenMode::Shared, OpenMode::None);
     settle(name);
 }
 
-bool CountedLocks::tryOpenExclusive(const QString &table)
+bool LockManager::tryOpenExclusive(const QString &table)
 {
     const QString name = table.toLower();
     const Held *held = find(name);
@@ -63,18 +74,18 @@ bool CountedLocks::tryOpenExclusive(const QString &table)
     return true;
 }
 
-void CountedLocks::closeExclusive(const QString &table)
+void LockManager::closeExclusive(const QString &table) noexcept
 {
     const QString name = table.toLower();
     Held *held = find(name);
     if (!held || held->exclusive == 0)
         return;
     if (--held->exclusive == 0)
-        changeOpen(name, OpenMode::Exclusive, held->shared > 0 ? OpenMode::Shared : OpenMode::None);
+        goDown(name, OpenMode::Exclusive, held->shared > 0 ? OpenMode::Shared : OpenMode::None);
     settle(name);
 }
 
-bool CountedLocks::tryLockRecord(const QString &table, const QList<qint64> &key)
+bool LockManager::tryLockRecord(const QString &table, const QList<qint64> &key)
 {
     const QString name = table.toLower();
     const qint64 place = placeOf(name, key);
@@ -90,7 +101,7 @@ bool CountedLocks::tryLockRecord(const QString &table, const QList<qint64> &key)
     return true;
 }
 
-void CountedLocks::unlockRecord(const QString &table, const QList<qint64> &key)
+void LockManager::unlockRecord(const QString &table, const QList<qint64> &key) noexcept
 {
     const QString name = table.toLower();
     const qint64 place = placeOf(name, key);
@@ -105,21 +116,21 @@ void CountedLocks::unlockRecord(const QString &table, const QList<qint64> &key)
         changed();
 }
 
-bool CountedLocks::holdsRecord(const QString &table, const QList<qint64> &key) const
+bool LockManager::holdsRecord(const QString &table, const QList<qint64> &key) const
 {
     const QString name = table.toLower();
     const auto found = m_held.find(name);
     return found != m_held.end() && found->second.records.contains(placeOf(name, key));
 }
 
-void CountedLocks::mayBeLost(const QString &table, const QList<qint64> &key)
+void LockManager::mayBeLost(const QString &table, const QList<qint64> &key)
 {
     const QString name = table.toLower();
     if (Held *held = find(name))
         held->losable.insert(placeOf(name, key));
 }
 
-void CountedLocks::loseRecords()
+void LockManager::loseRecords()
 {
     for (auto &[table, held] : m_held) {
         for (const qint64 place : std::exchange(held.losable, {}))
@@ -128,7 +139,7 @@ void CountedLocks::loseRecords()
     std::erase_if(m_held, [](const auto &entry) { return entry.second.isFree(); });
 }
 
-bool CountedLocks::tryLockTable(const QString &table)
+bool LockManager::tryLockTable(const QString &table)
 {
     const QString name = table.toLower();
     const Held *held = find(name);
@@ -140,7 +151,7 @@ bool CountedLocks::tryLockTable(const QString &table)
     return true;
 }
 
-void CountedLocks::unlockTable(const QString &table)
+void LockManager::unlockTable(const QString &table) noexcept
 {
     const QString name = table.toLower();
     Held *held = find(name);
@@ -151,10 +162,16 @@ void CountedLocks::unlockTable(const QString &table)
     changed();
 }
 
-bool CountedLocks::holdsTable(const QString &table) const
+bool LockManager::holdsTable(const QString &table) const
 {
     const auto found = m_held.find(table.toLower());
     return found != m_held.end() && found->second.table > 0;
+}
+
+QString LockManager::holderOf(const QString &table)
+{
+    const auto owner = ownerOf(table);
+    return owner ? u" (%1)"_s.arg(owner->description()) : QString();
 }
 
 } // namespace Engine

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <QList>
+#include <QString>
+#include <QtGlobal>
+#include <set>
+
+namespace Engine {
+
+// Who holds a lock, for messages. Empty texts where the store does not tell.
+struct LockOwner
+{
+    QString user;
+    QString host;
+    qint64 processId = 0;
+
+    QString description() const; // "anna on kitchen-2 (process 4711)"
+};
+
+// The locks of one connection. A connection never conflicts with itself, except that a record can be locked only
+// once; another connection of the same process counts as another user. The end of the process, however it comes,
+// frees its locks.
+//
+// Three kinds, for each table:
+// - open: every open table holds it shared; an exclusive open holds it alone.
+// - record: one holder for each row; held while the row is edited and for the moment of an insert or delete.
+// - table: keeps others from locking records (and so from writing) and from locking the table; reading and opening
+//   go on.
+//
+// All calls return at once: true when the lock is held now. Retrying is the caller's business (Attempts). Opens and
+// table locks are counted: the store is asked only for the first of a kind and told only of the last. Giving back never
+// fails; what a lost connection held has gone with it.
+class LockManager
+{
+public:
+    virtual ~LockManager() = default;
+
+    bool tryOpenShared(const QString &table);
+    void closeShared(const QString &table) noexcept;
+    bool tryOpenExclusive(const QString &table);
+    void closeExclusive(const QString &table) noexcept;
+
+    // Keys are the row's primary key values; a table without primary key has the one key {0}.
+    bool tryLockRecord(const QString &table, const QList<qint64> &key);
+    void unlockRecord(const QString &table, const QList<qint64> &key) noexcept;
+    bool holdsRecord(const QString &table, const QList<qint64> &key) const;
+
+    // Whoever holds this record finds out by himself when the lock is lost; see RecordLock.
+    void mayBeLost(const QString &table, const QList<qint64> &key);
+    virtual bool areLost() const { return false; } // all of them, with the connection
+    virtual int losses() const { return 0; } // how often a lost connection was made anew
+
+    bool tryLockTable(const QString &table);
+    void unlockTable(const QString &table) noexcept;
+    bool holdsTable(const QString &table) const;
+
+    // Who holds the table lock, or else any record of the table; nullopt when nobody does or it cannot be told.
+    virtual std::optional<LockOwner> ownerOf(const QString &table) = 0;
+    QString holderOf(const QString &table); // the same in a message: " (anna on kitchen-2)", or nothing
+
+protected:
+    // Below this level tables are named in lower case, records by a number made of their key.
+    struct Held
+    {
+        int shared = 0;
+        int exclusive = 0;
+        int table = 0;
+        std::set<qint64> records;
+        std::set<qint64> losable; // those of the records that may be lost
+
+        bool isFree() const { return shared == 0 && exclusive == 0 && table == 0 && records.empty(); }
+        bool keepsOthersFromWriting() const { return table > 0 || !records.empty(); }
+        bool isReliedOn() const { return table > 0 || exclusive > 0 || records.size() > losable.size(); }
+    };
+    const std::map<QString, Held> &everything() const { return m_held; }
+
+    void loseRecords(); // those that may be lost are not held any more
+
+    enum class OpenMode { None, Shared, Exclusive };
+    // From one mode to the other; true when that was possible. Going down always is.
+    virtual bool changeOpen(const QString &table, OpenMode from, OpenMode to) = 0;
+    virtual qint64 placeOf(const QString &table, const QList<qint64> &key) const = 0;
+    virtual bool acquireRecord(const QString &table, qint64 place, bool tableHeld) = 0;
+    virtual void releaseRecord(const QString &table, qint64 place, bool tableHeld) noexcept = 0;
+    virtual bool acquireTable(const QString &table) = 0;
+    // The records stay locked.
+    virtual void releaseTable(const QString &table, const std::set<qint64> &records) noexcept = 0;
+    // Called when a table's record and table locks have become different ones.
+    virtual void changed() noexcept { }
+
+private:
+    Held *find(const QString &name);
+    void settle(const QString &name); // forgets a table that nothing is held of
+    void goDown(const QString &name, OpenMode from, OpenMode to) noexcept;
+
+    std::map<QString, Held> m_held;
+};
+
+} // namespace Engine
