@@ -49,6 +49,9 @@ public:
     // Condition that the column equals one of the whole numbers of a text parameter such as "[1,2,3]".
     virtual QString inNumberList(const QString &column) const = 0;
 
+    // Of a statement's texts for a file and for a server, the one for this store.
+    virtual QString variant(const QString &forFile, const QString &forServer) const = 0;
+
     // Condition that the text matches the pattern of a parameter, case-sensitively and without an escape character.
     // The parameter is made by likePattern from a pattern with % and _.
     virtual QString like(const QString &column) const { return column + QStringLiteral(" LIKE ? ESCAPE ''"); }

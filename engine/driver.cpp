@@ -31,6 +31,31 @@ void Statement::bind(int parameter, const Value &value)
         value.storage());
 }
 
+Value Statement::valueAt(int column, FieldType type) const
+{
+    if (isNull(column))
+        return {};
+    switch (type) {
+    case FieldType::Integer:
+    case FieldType::SmallInt:
+    case FieldType::AutoInc:
+        return intAt(column);
+    case FieldType::Float:
+    case FieldType::Money:
+        return doubleAt(column);
+    case FieldType::Boolean:
+        return intAt(column) != 0;
+    case FieldType::Date:
+        return dateFromStored(textAt(column));
+    case FieldType::DateTime:
+        return dateTimeFromStored(textAt(column));
+    case FieldType::Text:
+    case FieldType::Memo:
+        break;
+    }
+    return textAt(column);
+}
+
 // Idle statements by their text, and the statements in use, which outlive the connection if their holder does.
 struct Connection::Cache
 {

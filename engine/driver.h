@@ -47,7 +47,7 @@ public:
     virtual qint64 intAt(int column) const = 0;
     virtual double doubleAt(int column) const = 0;
     virtual QString textAt(int column) const = 0;
-    virtual Value valueAt(int column, FieldType type) const = 0;
+    Value valueAt(int column, FieldType type) const;
     // The type that the store itself gives the column, for queries without a layout. Money reads as Float.
     virtual FieldType columnType(int column) const = 0;
 
@@ -80,6 +80,8 @@ public:
     StatementPtr prepare(const QString &sql);
     // Runs statements without parameters, several separated by semicolons if need be.
     virtual void execute(const QString &script) = 0;
+    // Whether Statement::send() leaves the answer for later, so that a failure may come after other statements.
+    virtual bool sendsAhead() const = 0;
     // Waits for everything sent and reports the first failure.
     virtual void drain() = 0;
 
@@ -96,6 +98,9 @@ public:
 
     // Verifies a table and mends it as Database::repairTable says; returns the rows lost. Nobody else has it open.
     virtual qint64 repair(const TableLayout &table) = 0;
+
+    // Makes room for a long run of writes, or goes back to what suits a screen; see BulkWriting.
+    virtual void setBulk(bool) { }
 
     // Drops the statements kept, after a table has changed its shape.
     void forgetStatements() { clearStatementCache(); }

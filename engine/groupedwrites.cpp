@@ -14,14 +14,11 @@ namespace {
 // A group must not last longer than a quarter of a second; the rest is for its last step.
 constexpr std::chrono::milliseconds GroupTime{240};
 
-bool isFileStore(const Database &database) { return database.session().type == SessionType::Local; }
-
 } // namespace
 
 GroupedWrites::GroupedWrites(Database &database, std::function<void()> forgetReads, Retry retry)
     : m_connection(database.connection())
     , m_session(database.session())
-    , m_sending(isFileStore(database) ? Sending::Waiting : Sending::Ahead)
     , m_joined(m_connection.inTransaction())
     , m_forgetReads(std::move(forgetReads))
     , m_retry(std::move(retry))
@@ -34,7 +31,7 @@ void GroupedWrites::apply(Step step)
 {
     guarded([&] {
         begin();
-        if (m_sending == Sending::Ahead && !m_joined)
+        if (m_connection.sendsAhead() && !m_joined)
             m_group.push_back(step);
         step(*this);
         if (!m_joined && std::chrono::steady_clock::now() - m_begun >= GroupTime)
@@ -62,13 +59,13 @@ void GroupedWrites::guarded(const std::function<void()> &step)
         step();
     } catch (const EngineError &error) {
         // What a lost connection had not committed is gone, and the locks with it.
-        if (m_sending == Sending::Waiting || error.code() == ErrorCode::ConnectionLost) {
+        if (!m_connection.sendsAhead() || error.code() == ErrorCode::ConnectionLost) {
             keepApplied();
             throw;
         }
         replay();
     } catch (...) {
-        if (m_sending == Sending::Waiting) {
+        if (!m_connection.sendsAhead()) {
             keepApplied();
             throw;
         }
@@ -186,33 +183,16 @@ void GroupedWrites::keepApplied() noexcept
     }
 }
 
-namespace {
-
-QString setting(Connection &connection, const QString &name)
-{
-    const StatementPtr statement = connection.prepare(u"PRAGMA "_s + name);
-    return statement->next() ? u"PRAGMA %1 = %2;"_s.arg(name, statement->textAt(0)) : QString();
-}
-
-} // namespace
-
 BulkWriting::BulkWriting(Database &database)
     : m_connection(database.connection())
 {
-    if (!isFileStore(database))
-        return;
-    m_restore = setting(m_connection, u"cache_size"_s) + setting(m_connection, u"wal_autocheckpoint"_s);
-    // Indexes are written all over, and each group writes many of the same pages again: what does not fit the cache,
-    // or is copied back after every group, costs as much as the writes themselves.
-    m_connection.execute(u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s);
+    m_connection.setBulk(true);
 }
 
 BulkWriting::~BulkWriting()
 {
-    if (m_restore.isEmpty())
-        return;
     try {
-        m_connection.execute(m_restore);
+        m_connection.setBulk(false);
     } catch (const EngineError &) {
         // Settings of this connection only; the run's own outcome matters more.
     }

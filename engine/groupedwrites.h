@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/attempts.h"
 #include "engine/database.h"
 #include "engine/error.h"
 
@@ -33,10 +34,8 @@ class GroupedWrites final : private Writes
 public:
     using Step = std::function<void(Writes &)>;
 
-    // Asked, outside of transactions, when somebody's lock on the server has kept a statement from being done for
-    // long: true to go on trying.
-    using Retry = std::function<bool(const EngineError &)>;
-
+    // The rule is asked, outside of transactions, when somebody's lock on the server has kept a statement from being
+    // done for long.
     explicit GroupedWrites(Database &database, std::function<void()> forgetReads = {}, Retry retry = {});
     ~GroupedWrites() override; // keeps what was applied, if finish() was not reached
     GroupedWrites(const GroupedWrites &) = delete;
@@ -47,9 +46,6 @@ public:
     void finish(); // commits what is open
 
 private:
-    // Ahead: statements are sent without waiting for the answer to the one before.
-    enum class Sending { Waiting, Ahead };
-
     void send(Statement &statement) override;
     void sendGuarded(Statement &statement);
     void executeGuarded(Statement &statement);
@@ -62,7 +58,6 @@ private:
 
     Connection &m_connection;
     const Session &m_session;
-    const Sending m_sending;
     const bool m_joined; // the caller's transaction
     const std::function<void()> m_forgetReads;
     const Retry m_retry;
@@ -72,8 +67,7 @@ private:
     std::chrono::steady_clock::time_point m_begun;
 };
 
-// While it lives, the file store has room for many writes: a larger cache and rarer checkpoints. Nothing on a
-// server.
+// While it lives, the store has room for many writes: in a file a larger cache and rarer checkpoints.
 class BulkWriting
 {
 public:
@@ -84,7 +78,6 @@ public:
 
 private:
     Connection &m_connection;
-    QString m_restore;
 };
 
 } // namespace Engine

@@ -8,8 +8,9 @@ namespace {
 
 bool belongsToName(QChar c) { return c.isLetterOrNumber() || c == u'_'; }
 
-// Where the quoted part or comment that begins here ends; the same place when none does.
-qsizetype skipOpaque(const QString &sql, qsizetype at)
+} // namespace
+
+qsizetype afterQuoted(const QString &sql, qsizetype at)
 {
     const QChar c = sql[at];
     qsizetype end = at;
@@ -24,14 +25,12 @@ qsizetype skipOpaque(const QString &sql, qsizetype at)
     return end <= at ? sql.size() : end + 1;
 }
 
-} // namespace
-
 PositionalSql positional(const QString &sql)
 {
     PositionalSql result;
     qsizetype at = 0;
     while (at < sql.size()) {
-        if (const qsizetype after = skipOpaque(sql, at); after > at) {
+        if (const qsizetype after = afterQuoted(sql, at); after > at) {
             result.sql += QStringView(sql).mid(at, after - at);
             at = after;
             continue;

@@ -5,7 +5,6 @@
 #include "engine/dialect.h"
 #include "engine/error.h"
 #include "engine/namedparameters.h"
-#include "engine/session.h"
 
 #include <algorithm>
 
@@ -74,9 +73,9 @@ QList<OrderedField> Query::orderedFields() const
 const Query::Text &Query::prepared() const
 {
     if (!m_text) {
-        m_database.session().start();
-        const bool remote = m_database.session().type == SessionType::Remote && !m_remoteSql.isEmpty();
-        m_text = std::make_unique<Text>(Text{positional((remote ? m_remoteSql : m_sql).trimmed())});
+        const QString sql =
+            m_remoteSql.isEmpty() ? m_sql : m_database.connection().dialect().variant(m_sql, m_remoteSql);
+        m_text = std::make_unique<Text>(Text{positional(sql.trimmed())});
         while (m_text->positional.sql.endsWith(u';'))
             m_text->positional.sql.chop(1);
     }

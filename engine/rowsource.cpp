@@ -17,17 +17,6 @@ QString lookupSelect(const Dialect &dialect, const Lookup &lookup, const QString
         dialect.name(lookup.resultField), dialect.name(lookup.table), dialect.name(lookup.tableKey), key);
 }
 
-QString numberList(const std::vector<qint64> &numbers)
-{
-    QString text = u"["_s;
-    for (const qint64 number : numbers) {
-        if (text.size() > 1)
-            text += u',';
-        text += QString::number(number);
-    }
-    return text + u']';
-}
-
 const Field *fieldNamed(const std::deque<Field> &fields, QStringView name)
 {
     for (const Field &field : fields) {

@@ -137,6 +137,15 @@ SqlCondition between(const Dialect &dialect, const QList<SqlColumn> &columns, co
     return condition;
 }
 
+QString numberList(std::span<const qint64> numbers)
+{
+    QStringList texts;
+    texts.reserve(static_cast<qsizetype>(numbers.size()));
+    for (const qint64 number : numbers)
+        texts.append(QString::number(number));
+    return u'[' + texts.join(u',') + u']';
+}
+
 int bindAll(Statement &statement, const QList<Value> &values, int first)
 {
     for (const Value &value : values)

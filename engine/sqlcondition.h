@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <span>
 
 namespace Engine {
 
@@ -39,6 +40,9 @@ SqlCondition beginsWith(const Dialect &dialect, const SqlColumn &column, const Q
 // shorter than the columns. Nulls come before everything.
 SqlCondition between(const Dialect &dialect, const QList<SqlColumn> &columns, const QList<Value> &low,
                      const QList<Value> &high);
+
+// Numbers as the text that Dialect::inNumberList takes.
+QString numberList(std::span<const qint64> numbers);
 
 // Binds the values from the given parameter on and returns the parameter after the last.
 int bindAll(Statement &statement, const QList<Value> &values, int first = 0);

@@ -3,6 +3,7 @@
 #include "engine/database.h"
 #include "engine/datasetprivate.h"
 #include "engine/error.h"
+#include "engine/stablenumber.h"
 #include "engine/tableprivate.h"
 
 #include <algorithm>
@@ -46,7 +47,7 @@ Key Table::lockKey(const Row &row) const
     QStringList texts;
     for (const QString &name : m_layout.primaryFields())
         texts << row[static_cast<size_t>(requireField(name))].toText();
-    return {texts.isEmpty() ? 0 : stableNumber(texts.join(QChar(0)))};
+    return {texts.isEmpty() ? 0 : static_cast<qint64>(stableNumber(texts.join(QChar(0))))};
 }
 
 // Where a row of these values stands in the set. A row without a key of whole numbers gets another identity

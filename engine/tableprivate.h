@@ -10,9 +10,6 @@
 
 namespace Engine {
 
-// A number for a text, the same on every machine: for locks on something that has a name only.
-qint64 stableNumber(const QString &text);
-
 // The columns of an index, called "t", as conditions compare them.
 QList<SqlColumn> indexColumns(const TableLayout &layout, const IndexDef &index, const Dialect &dialect);
 

@@ -4,6 +4,7 @@
 #include "engine/datasetprivate.h"
 #include "engine/dialect.h"
 #include "engine/error.h"
+#include "engine/stablenumber.h"
 #include "engine/tableprivate.h"
 
 #include <list>
@@ -18,15 +19,6 @@ namespace {
 constexpr int lockedOneByOne = 256; // rows; a larger removal takes the whole table
 
 } // namespace
-
-// FNV-1a.
-qint64 stableNumber(const QString &text)
-{
-    quint64 hash = 14695981039346656037ULL;
-    for (const char byte : text.toUtf8())
-        hash = (hash ^ static_cast<unsigned char>(byte)) * 1099511628211ULL;
-    return static_cast<qint64>(hash);
-}
 
 void Table::requirePrimaryKey() const
 {
@@ -78,7 +70,7 @@ void Table::requireUnique(int fieldNumber) const
     const Dialect &dialect = connection.dialect();
     if (const QString lock = dialect.transactionLock(); !lock.isEmpty()) {
         const StatementPtr statement = connection.prepare(lock);
-        statement->bind(0, stableNumber((m_name + u'.' + field(fieldNumber).name).toLower()));
+        statement->bind(0, static_cast<qint64>(stableNumber((m_name + u'.' + field(fieldNumber).name).toLower())));
         while (statement->next()) { }
     }
     SqlCondition condition = equals(dialect, {"t."_L1 + dialect.name(field(fieldNumber).name), false}, value);

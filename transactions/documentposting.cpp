@@ -4,6 +4,7 @@
 #include "engine/dialect.h"
 #include "engine/error.h"
 #include "engine/groupedwrites.h"
+#include "engine/sqlcondition.h"
 #include "engine/tablelocks.h"
 #include "transactions/historywriter.h"
 #include "transactions/stockbook.h"
@@ -77,7 +78,7 @@ void DocumentPosting::postAll(Prompts &prompts, Progress &progress)
     for (size_t begin = 0; begin < m_keys.size(); begin += BatchSize) {
         const size_t end = std::min(begin + BatchSize, m_keys.size());
         writes.settle();
-        std::vector<PostingDocument> documents = readBatch(numberList({&m_keys[begin], end - begin}));
+        std::vector<PostingDocument> documents = readBatch(Engine::numberList({&m_keys[begin], end - begin}));
         stock.require(itemsOf(documents));
         for (PostingDocument &each : documents) {
             const auto document = std::make_shared<const PostingDocument>(std::move(each));

@@ -2,6 +2,7 @@
 
 #include "engine/dialect.h"
 #include "engine/groupedwrites.h"
+#include "engine/sqlcondition.h"
 
 #include <cmath>
 #include <stdexcept>
@@ -10,15 +11,6 @@ using namespace Qt::StringLiterals;
 using Engine::Money;
 
 namespace Tallymere {
-
-QString numberList(std::span<const qint64> numbers)
-{
-    QStringList texts;
-    texts.reserve(static_cast<qsizetype>(numbers.size()));
-    for (const qint64 number : numbers)
-        texts.append(QString::number(number));
-    return u'[' + texts.join(u',') + u']';
-}
 
 StockBook::StockBook(Engine::Connection &connection)
 {
@@ -42,7 +34,7 @@ void StockBook::require(const std::vector<qint64> &items)
             unknown.push_back(item);
     if (unknown.empty())
         return;
-    const QString list = numberList(unknown);
+    const QString list = Engine::numberList(unknown);
     readCosts(list);
     readBalances(list);
 }

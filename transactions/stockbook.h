@@ -63,7 +63,4 @@ private:
     Engine::StatementPtr m_insertBalance;
 };
 
-// Numbers as the text that Dialect::inNumberList takes.
-QString numberList(std::span<const qint64> numbers);
-
 } // namespace Tallymere

@@ -1,11 +1,35 @@
 #include "engine/postgres/connection.h"
 
+#include "engine/database.h"
+#include "engine/postgres/error.h"
 #include "engine/postgres/locks.h"
 #include "engine/postgres/statement.h"
+#include "engine/session.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Engine {
+
+namespace {
+
+PostgresTarget targetOf(const Database &database)
+{
+    const Session &session = database.session();
+    PostgresTarget target;
+    target.host = session.remoteAddress;
+    target.database = (database.remoteName.isEmpty() ? database.name() : database.remoteName).toLower();
+    target.user = session.remoteUser;
+    target.password = session.remotePassword;
+    target.requireTls = session.remoteLink == LinkType::Internet;
+    target.lockWait = session.serverLockWait;
+    target.mayTryAgain = [&session](std::chrono::steady_clock::time_point since) {
+        return session.mayTryAgain(since);
+    };
+    target.applicationName = PostgresLocks::applicationName(session.applicationUser);
+    return target;
+}
+
+} // namespace
 
 PostgresConnection::PostgresConnection(const PostgresTarget &target)
     : m_link(std::make_shared<PostgresLink>(target))
@@ -64,6 +88,19 @@ bool PostgresConnection::isLost() const { return m_link->isLost(); }
 std::unique_ptr<Statement> PostgresConnection::createStatement(const QString &sql)
 {
     return std::make_unique<PostgresStatement>(m_link, sql);
+}
+
+std::unique_ptr<Connection> openPostgres(const Database &database)
+{
+    const PostgresTarget target = targetOf(database);
+    try {
+        return std::make_unique<PostgresConnection>(target);
+    } catch (const EngineError &error) {
+        if (!database.createIfMissing || !isMissingDatabase(error))
+            throw;
+    }
+    createRemoteDatabase(target);
+    return std::make_unique<PostgresConnection>(target);
 }
 
 } // namespace Engine

@@ -6,6 +6,7 @@
 
 namespace Engine {
 
+class Database;
 class PostgresLocks;
 
 // A database of a server. Record and table locks are advisory locks of the same connection.
@@ -18,6 +19,7 @@ public:
     const Dialect &dialect() const override { return m_dialect; }
     QString location() const override { return m_link->location(); }
     void execute(const QString &script) override;
+    bool sendsAhead() const override { return true; }
     void drain() override;
     void begin() override { m_link->begin(); }
     void commit() override;
@@ -40,5 +42,8 @@ private:
     std::shared_ptr<PostgresLink> m_link; // shared with statements that outlive the connection
     std::unique_ptr<PostgresLocks> m_locks;
 };
+
+// That of a remote session, as the database says.
+std::unique_ptr<Connection> openPostgres(const Database &database);
 
 } // namespace Engine

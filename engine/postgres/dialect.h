@@ -21,6 +21,7 @@ public:
     QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
     QString rowIdentity() const override;
     QString wholeNumberOf(const QString &text) const override;
+    QString variant(const QString &, const QString &forServer) const override { return forServer; }
     QString inNumberList(const QString &column) const override;
     QString transactionLock() const override { return QStringLiteral("SELECT pg_advisory_xact_lock(?)"); }
 

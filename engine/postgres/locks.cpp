@@ -3,12 +3,11 @@
 #include "engine/error.h"
 #include "engine/platform.h"
 #include "engine/postgres/connection.h"
+#include "engine/stablenumber.h"
 
 #include <limits>
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QSysInfo>
-#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
@@ -42,15 +41,16 @@ const QString foreignWriters =
     // Readers and those who clean up are in nobody's way; the server's own work gives way to whoever waits for it.
     "AND l.mode NOT IN ('AccessShareLock', 'ShareUpdateExclusiveLock') AND a.backend_type = 'client backend'"_s;
 
-qint64 hashOf(const QByteArray &bytes)
+// The server's numbers for locks have 32 bits.
+qint64 lockNumber(quint64 number)
 {
-    const QByteArray digest = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
-    return qFromBigEndian<qint32>(digest.constData());
+    constexpr int half = 32;
+    return static_cast<qint32>(number >> half);
 }
 
-qint64 openNumber(const QString &table) { return hashOf("open " + table.toUtf8()); }
-qint64 tableNumber(const QString &table) { return hashOf("table " + table.toUtf8()); }
-qint64 recordNumber(const QString &table) { return hashOf("record " + table.toUtf8()); }
+qint64 openNumber(const QString &table) { return lockNumber(stableNumber("open " + table.toUtf8())); }
+qint64 tableNumber(const QString &table) { return lockNumber(stableNumber("table " + table.toUtf8())); }
+qint64 recordNumber(const QString &table) { return lockNumber(stableNumber("record " + table.toUtf8())); }
 
 } // namespace
 
@@ -142,8 +142,7 @@ qint64 PostgresLocks::placeOf(const QString &, const QList<qint64> &key) const
     constexpr qint64 most = std::numeric_limits<qint32>::max();
     if (key.size() == 1 && key.first() >= least && key.first() <= most)
         return key.first();
-    return hashOf(QByteArray(reinterpret_cast<const char *>(key.constData()),
-                             key.size() * static_cast<qsizetype>(sizeof(qint64))));
+    return lockNumber(stableNumber(key));
 }
 
 bool PostgresLocks::acquireRecord(const QString &table, qint64 place, bool)

@@ -1,6 +1,6 @@
 #include "engine/postgres/statement.h"
 
-#include "engine/storedtext.h"
+#include "engine/namedparameters.h"
 
 #include <charconv>
 #include <libpq-fe.h>
@@ -27,50 +27,32 @@ enum TypeId : unsigned {
     numericId = 1700
 };
 
-// The end of what begins at a position where parameters do not count: a text, a quoted name, a comment.
-qsizetype skipped(const QByteArray &sql, qsizetype at)
-{
-    const char c = sql[at];
-    const char following = at + 1 < sql.size() ? sql[at + 1] : '\0';
-    qsizetype end = -1;
-    if (c == '\'' || c == '"')
-        end = sql.indexOf(c, at + 1) + 1;
-    else if (c == '-' && following == '-')
-        end = sql.indexOf('\n', at);
-    else if (c == '/' && following == '*')
-        end = sql.indexOf("*/", at + 2) + 2;
-    else
-        return at;
-    return end > at ? end : sql.size();
-}
-
 } // namespace
 
-QByteArray PostgresStatement::numberedParameters(const QByteArray &sql, int *count)
+QByteArray PostgresStatement::numberedParameters(const QString &sql, int *count)
 {
-    QByteArray text;
+    QString text;
     *count = 0;
     for (qsizetype at = 0; at < sql.size();) {
-        const qsizetype end = skipped(sql, at);
-        if (end > at) {
-            text += sql.mid(at, end - at);
+        if (const qsizetype end = afterQuoted(sql, at); end > at) {
+            text += QStringView(sql).mid(at, end - at);
             at = end;
             continue;
         }
-        if (sql[at] == '?')
-            text += '$' + QByteArray::number(++*count);
+        if (sql[at] == u'?')
+            text += u'$' + QString::number(++*count);
         else
             text += sql[at];
         ++at;
     }
-    return text;
+    return text.toUtf8();
 }
 
 PostgresStatement::PostgresStatement(std::shared_ptr<PostgresLink> link, const QString &sql)
     : m_link(std::move(link))
 {
     int count = 0;
-    m_sql = numberedParameters(sql.toUtf8(), &count);
+    m_sql = numberedParameters(sql, &count);
     m_values.resize(static_cast<size_t>(count));
     m_nulls.assign(static_cast<size_t>(count), 1);
 }
@@ -362,31 +344,6 @@ QString PostgresStatement::textAt(int column) const
 {
     const std::string_view text = cell(column);
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-Value PostgresStatement::valueAt(int column, FieldType type) const
-{
-    if (isNull(column))
-        return {};
-    switch (type) {
-    case FieldType::Integer:
-    case FieldType::SmallInt:
-    case FieldType::AutoInc:
-        return intAt(column);
-    case FieldType::Float:
-    case FieldType::Money:
-        return doubleAt(column);
-    case FieldType::Boolean:
-        return intAt(column) != 0;
-    case FieldType::Date:
-        return dateFromStored(textAt(column));
-    case FieldType::DateTime:
-        return dateTimeFromStored(textAt(column));
-    case FieldType::Text:
-    case FieldType::Memo:
-        break;
-    }
-    return textAt(column);
 }
 
 } // namespace Engine

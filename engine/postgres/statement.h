@@ -36,11 +36,10 @@ public:
     qint64 intAt(int column) const override;
     double doubleAt(int column) const override;
     QString textAt(int column) const override;
-    Value valueAt(int column, FieldType type) const override;
     FieldType columnType(int column) const override;
 
     // "?" becomes "$1", "$2" ..., except in texts, quoted names and comments. Gives the number of parameters.
-    static QByteArray numberedParameters(const QByteArray &sql, int *count);
+    static QByteArray numberedParameters(const QString &sql, int *count);
 
 private:
     void prepare();

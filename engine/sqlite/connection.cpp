@@ -1,6 +1,9 @@
 #include "engine/sqlite/connection.h"
 
+#include "engine/database.h"
+#include "engine/error.h"
 #include "engine/platform.h"
+#include "engine/session.h"
 #include "engine/sqlite/error.h"
 #include "engine/sqlite/locks.h"
 #include "engine/sqlite/statement.h"
@@ -88,10 +91,19 @@ void SqliteConnection::configure()
 {
     // Write-ahead logging needs memory shared between the writers, which network folders do not give.
     const QString journal = isLocalFileSystem(SqliteWatch::realPath(m_db)) ? u"WAL"_s : u"DELETE"_s;
-    execute(u"PRAGMA cache_size = -65536; PRAGMA temp_store = MEMORY;"_s);
+    execute(u"PRAGMA temp_store = MEMORY"_s);
     execute("PRAGMA journal_mode = "_L1 + journal + ';'_L1);
-    execute(u"PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 4000;"_s);
+    execute(u"PRAGMA synchronous = FULL"_s);
+    setBulk(false);
     execute(u"PRAGMA schema_version"_s); // the first read opens the log
+}
+
+// Indexes are written all over, and each group of a run writes many of the same pages again: what does not fit the
+// cache, or is copied back after every group, costs as much as the writes themselves.
+void SqliteConnection::setBulk(bool bulk)
+{
+    execute(bulk ? u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s
+                 : u"PRAGMA cache_size = -65536; PRAGMA wal_autocheckpoint = 4000"_s);
 }
 
 LockManager &SqliteConnection::locks() { return *m_locks; }
@@ -147,6 +159,33 @@ qint64 SqliteConnection::lastInsertId() { return sqlite3_last_insert_rowid(m_db)
 std::unique_ptr<Statement> SqliteConnection::createStatement(const QString &sql)
 {
     return std::make_unique<SqliteStatement>(m_db, sql, m_path);
+}
+
+std::unique_ptr<Connection> openSqlite(const Database &database)
+{
+    const QString &folder = database.directory;
+    if (folder.isEmpty())
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("No database folder has been set. Choose the folder in the settings."));
+    if (!QFileInfo(folder).isDir())
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("The database folder %1 does not exist or cannot be reached. Check the settings and the "
+                        "network.")
+                  .arg(folder));
+    if (!QFileInfo(folder).isExecutable())
+        raise(
+            ErrorCode::AccessDenied,
+            Texts::tr("You have no right to enter the database folder %1. Ask its owner for access.").arg(folder));
+    const QString fileName = database.name() + ".sqlite"_L1;
+    const QString path = folder + u'/' + fileName;
+    if (!database.createIfMissing && !QFileInfo::exists(path))
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("There is no database %1 in %2. Check the folder in the settings, or make the database "
+                        "with \"tallymere init\".")
+                  .arg(fileName, folder));
+    const auto missing =
+        database.createIfMissing ? SqliteConnection::Missing::Create : SqliteConnection::Missing::Fail;
+    return std::make_unique<SqliteConnection>(path, missing, database.session().applicationUser);
 }
 
 } // namespace Engine

@@ -7,6 +7,7 @@ struct sqlite3;
 
 namespace Engine {
 
+class Database;
 class FileLocks;
 class SqliteWatch;
 
@@ -25,6 +26,7 @@ public:
     const Dialect &dialect() const override { return m_dialect; }
     QString location() const override { return m_path; }
     void execute(const QString &script) override;
+    bool sendsAhead() const override { return false; }
     void drain() override { }
     void begin() override;
     void commit() override;
@@ -34,6 +36,7 @@ public:
     QStringList tableNames() override;
     qint64 repair(const TableLayout &table) override;
     qint64 lastInsertId() override;
+    void setBulk(bool bulk) override;
     LockManager &locks() override;
 
     // Before anything is written: throws FileReplaced when that would be lost, or do damage.
@@ -60,5 +63,8 @@ private:
     std::unique_ptr<SqliteWatch> m_watch; // not of a database in memory
     qint64 m_changesBefore = 0; // the transaction in progress
 };
+
+// That of a local session, as the database says.
+std::unique_ptr<Connection> openSqlite(const Database &database);
 
 } // namespace Engine

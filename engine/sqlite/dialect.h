@@ -20,6 +20,7 @@ public:
     QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
     QString rowIdentity() const override;
     QString wholeNumberOf(const QString &text) const override;
+    QString variant(const QString &forFile, const QString &) const override { return forFile; }
     QString inNumberList(const QString &column) const override;
     QString like(const QString &column) const override;
     QString likePattern(const QString &pattern) const override;

@@ -1,12 +1,11 @@
 #include "engine/sqlite/locks.h"
 
 #include "engine/error.h"
+#include "engine/stablenumber.h"
 
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QStringList>
 #include <QSysInfo>
-#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
@@ -23,15 +22,9 @@ constexpr int noteCount = 512;
 constexpr int noteSize = 512;
 constexpr qint64 memoPlace = qint64(noteCount) * noteSize;
 
-quint64 hashOf(const QByteArray &bytes)
-{
-    const QByteArray digest = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
-    return qFromBigEndian<quint64>(digest.constData());
-}
-
 qint64 openByte(const QString &table)
 {
-    return static_cast<qint64>(hashOf(table.toUtf8()) % static_cast<quint64>(tableCount)) * stretch;
+    return static_cast<qint64>(stableNumber(table) % static_cast<quint64>(tableCount)) * stretch;
 }
 
 qint64 firstRecordByte(const QString &table) { return openByte(table) + 1; }
@@ -45,9 +38,7 @@ qint64 recordByte(const QString &table, const QList<qint64> &key)
     if (key.size() == 1 && key.first() >= -bias && key.first() < bias) {
         place = key.first() + bias;
     } else {
-        const QByteArray bytes(reinterpret_cast<const char *>(key.constData()),
-                               key.size() * static_cast<qsizetype>(sizeof(qint64)));
-        place = singles + static_cast<qint64>(hashOf(bytes) % static_cast<quint64>(stretch - 1 - singles));
+        place = singles + static_cast<qint64>(stableNumber(key) % static_cast<quint64>(stretch - 1 - singles));
     }
     return firstRecordByte(table) + place;
 }

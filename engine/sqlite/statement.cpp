@@ -3,7 +3,6 @@
 #include "engine/sqlite/connection.h"
 #include "engine/sqlite/dialect.h"
 #include "engine/sqlite/error.h"
-#include "engine/storedtext.h"
 
 #include <sqlite3.h>
 
@@ -117,31 +116,6 @@ QString SqliteStatement::textAt(int column) const
 {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(m_statement, column));
     return QString::fromUtf8(text, sqlite3_column_bytes(m_statement, column));
-}
-
-Value SqliteStatement::valueAt(int column, FieldType type) const
-{
-    if (isNull(column))
-        return {};
-    switch (type) {
-    case FieldType::Integer:
-    case FieldType::SmallInt:
-    case FieldType::AutoInc:
-        return intAt(column);
-    case FieldType::Float:
-    case FieldType::Money:
-        return doubleAt(column);
-    case FieldType::Boolean:
-        return intAt(column) != 0;
-    case FieldType::Date:
-        return dateFromStored(textAt(column));
-    case FieldType::DateTime:
-        return dateTimeFromStored(textAt(column));
-    case FieldType::Text:
-    case FieldType::Memo:
-        break;
-    }
-    return textAt(column);
 }
 
 FieldType SqliteStatement::columnType(int column) const

@@ -32,7 +32,6 @@ public:
     qint64 intAt(int column) const override;
     double doubleAt(int column) const override;
     QString textAt(int column) const override;
-    Value valueAt(int column, FieldType type) const override;
     FieldType columnType(int column) const override;
 
 private:
