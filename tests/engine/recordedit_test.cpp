@@ -1,6 +1,6 @@
 // Editing, inserting and deleting: what is written, what is refused, and what stays in hand then.
 
-#include "engine/locks.h"
+#include "engine/lockmanager.h"
 #include "tests/engine/recordfixture.h"
 
 #include <atomic>
