@@ -1,12 +1,14 @@
 #include "frame/screenregistry.h"
 
 #include "controls/screencontext.h"
+#include "controls/screenmetrics.h"
 #include "master/masterkind.h"
 #include "master/screens/company.h"
 #include "master/screens/masterlistscreen.h"
 #include "master/screens/masterscreens.h"
 #include "transactions/documentkind.h"
 #include "transactions/screens/documentlistscreen.h"
+#include "transactions/screens/documentpostscreen.h"
 #include "transactions/screens/documentscreens.h"
 #include "transactions/screens/invhistory.h"
 #include "transactions/screens/invtotals.h"
@@ -22,6 +24,21 @@ template <typename Screen> QWidget *make(ScreenContext &context, QWidget *parent
     return new Screen(context, parent);
 }
 
+// Posting by itself, without the list; that shows the documents anew if it is open.
+ScreenKind postDialog(const DocumentKind &kind)
+{
+    const auto make = [&kind](ScreenContext &context, QWidget *parent) {
+        auto *dialog = new DocumentPostScreen(context, kind, parent);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, &kind] {
+            if (auto *list = findScreen<ListScreen>(kind.listScreen))
+                dialog->guard().run([list] { list->refreshList(); });
+        });
+        return dialog;
+    };
+    return {make};
+}
+
 } // namespace
 
 ScreenRegistry productScreens()
@@ -30,8 +47,10 @@ ScreenRegistry productScreens()
     for (const MasterScreen &screen : masterScreens())
         screens.add(screen.kind.listScreen, {screen.make});
     screens.add(u"frmCompany"_s, {make<TfrmCompany>});
-    for (const DocumentScreens &screen : documentScreens())
+    for (const DocumentScreens &screen : documentScreens()) {
         screens.add(screen.kind.listScreen, {.create = screen.makeList, .posts = true});
+        screens.add(screen.kind.postScreen, postDialog(screen.kind));
+    }
     screens.add(u"frmInvTotals"_s, {make<TfrmInvTotals>});
     screens.add(u"frmInvHistory"_s, {make<TfrmInvHistory>});
     return screens;

@@ -72,6 +72,8 @@ public:
     // Chooses what a key of the header stands for by the number that the user types for it, with the rules for that.
     // False when the kind has none for the field.
     virtual bool chooseByNumber(const QString &field, const QString &number);
+    // A choice of the user: puts the header into edit if need be.
+    void chooseInHeader(const QString &field, const Engine::Value &value);
 
     // --- lines -------------------------------------------------------------------------------------------------
     // The column of the line grid that the user is in, by field name. A new item is judged by it: typed as a number
@@ -116,8 +118,6 @@ protected:
     void requireLines() const;
     [[noreturn]] void refuseLine(const QString &message, const QString &column) const; // with the advice to undo
     bool exists(const QString &table, const QString &keyField, const Engine::Value &key) const;
-    // A choice of the user: puts the header into edit if need be.
-    void chooseInHeader(const QString &field, const Engine::Value &value);
 
 private:
     void hookHeader();

@@ -65,6 +65,7 @@ struct DocumentKind
     QString newTitle; // in the caption of a new one: "New Inventory Receipt"
     QString postedRefusal; // shown when a posted document is about to be edited
     QString numberTaken; // raised when the number or the key exists already
+    QString closingQuestion; // when the screen is closed with changes
     QString nothingEntered; // raised when a document without lines is saved
     QString locationGone; // raised when the location is no longer there
     QStringList requiredFields; // of the header, beside what is checked on its own

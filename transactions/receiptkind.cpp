@@ -24,6 +24,7 @@ const DocumentKind &DocumentKinds::receipt()
             "Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you must "
             "\"reverse\" it (enter it again with the opposite amount)."),
         .numberTaken = TransactionsTexts::tr("Receipt no. already exists"),
+        .closingQuestion = TransactionsTexts::tr("Do you want to save changes?"),
         .nothingEntered = TransactionsTexts::tr("Quantities have not been entered"),
         .locationGone = TransactionsTexts::tr("Warehouse no longer exists"),
         .requiredFields = {u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s, u"WarehouseID"_s},

@@ -29,6 +29,7 @@ const DocumentKind &DocumentKinds::usage()
             "Posted usage records cannot be changed...\n\nTo undo usage after posting, you must "
             "\"reverse\" it (enter it again with the opposite amount)."),
         .numberTaken = TransactionsTexts::tr("Inventory Usage no. already exists"),
+        .closingQuestion = TransactionsTexts::tr("Do you want to save your changes?"),
         .nothingEntered = TransactionsTexts::tr("No inventory usage has been entered"),
         .locationGone = TransactionsTexts::tr("Location no longer exists"),
         .requiredFields = {u"WarehouseID"_s, u"InventoryDate"_s, u"GLPeriod"_s, u"GLYear"_s},

@@ -208,6 +208,8 @@ std::optional<int> DocumentScreen::savedKey() const
 
 QString DocumentScreen::caption() const { return m_entry->caption(); }
 
+QString DocumentScreen::closingQuestion() const { return m_entry->kind().closingQuestion; }
+
 // The caption of a new document does not tell it from another one.
 QString DocumentScreen::recordName() const
 {

@@ -43,6 +43,7 @@ protected:
     void dropChanges() override;
     std::optional<int> savedKey() const override;
     QString caption() const override;
+    QString closingQuestion() const override;
     QString recordName() const override;
     bool focusColumn(const QString &column) override;
     bool takeKey(QKeyEvent *event) override;

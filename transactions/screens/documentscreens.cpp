@@ -3,6 +3,8 @@
 #include "transactions/documentkinds.h"
 #include "transactions/screens/invreceipt.h"
 #include "transactions/screens/invreceipts.h"
+#include "transactions/screens/invusage.h"
+#include "transactions/screens/invusages.h"
 
 #include <algorithm>
 
@@ -21,6 +23,7 @@ const QList<DocumentScreens> &documentScreens()
 {
     static const QList<DocumentScreens> screens = {
         {DocumentKinds::receipt(), RecordScreens::makes<TfrmInvReceipt>(), makeList<TfrmInvReceipts>},
+        {DocumentKinds::usage(), RecordScreens::makes<TfrmUsage>(), makeList<TfrmUsages>},
     };
     return screens;
 }

@@ -1,0 +1,102 @@
+#include "engine/lockmanager.h"
+#include "engine/table.h"
+#include "host/tables/hosttables.h"
+#include "tests/support/failures.h"
+#include "tests/support/kitchen.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentlist.h"
+#include "transactions/usagedeletion.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::ErrorCode;
+
+namespace {
+
+// Usage 1 to 3 of 14 March 2026, of which 3 is posted, and 4 of the day after; a line each.
+class UsageList : public testing::TestWithParam<Store>
+{
+protected:
+    UsageList()
+    {
+        HostTables::createHostTables(kitchen.database(), u"Test Kitchen"_s, u"USA"_s);
+        kitchen.execute(u"INSERT INTO IUsage (UsageID, UsageNo, InventoryDate, Posted) VALUES "
+                        "(1, '11', '2026-03-14', false), (2, '12', '2026-03-14', false), "
+                        "(3, '13', '2026-03-14', true), (4, '14', '2026-03-15', false);"
+                        "INSERT INTO IUsageDet (UsageID, Seq) VALUES (1, 1), (2, 1), (3, 1), (4, 1)"_s);
+    }
+    bool removeOf(int day)
+    {
+        return UsageDeletion(kitchen.database(), QDate(2026, 3, day)).run(prompts, u"anna"_s);
+    }
+    QStringList left()
+    {
+        return kitchen.rows(u"SELECT U.UsageID FROM IUsage U INNER JOIN IUsageDet L ON U.UsageID = L.UsageID "
+                            "ORDER BY 1"_s);
+    }
+    QStringList notes() { return kitchen.rows(uR"(SELECT Event_Date, Event, "user" FROM History)"_s); }
+
+    Kitchen kitchen{GetParam()};
+    SpokenPrompts prompts;
+};
+ON_BOTH_STORES(UsageList);
+
+TEST_P(UsageList, DeletesWhatIsUnpostedOfADateAndLeavesANote)
+{
+    EXPECT_FALSE(removeOf(16));
+    prompts.ok = false;
+    EXPECT_FALSE(removeOf(14));
+    EXPECT_EQ(notes(), QStringList());
+    prompts.ok = true;
+    EXPECT_TRUE(removeOf(14));
+    EXPECT_FALSE(removeOf(14)); // what is left is posted
+
+    const QString question = u"Confirm: Delete the 2 usage(s) with an inventory date of 03/14/2026?\n"
+                             "This action can't be reversed!"_s;
+    const QString none = u"inform: There were no unposted usages with an inventory date of 03/%1/2026"_s;
+    EXPECT_EQ(prompts.said, (QStringList{none.arg(16), question, question, none.arg(14)}));
+    EXPECT_EQ(left(), (QStringList{u"3"_s, u"4"_s}));
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IUsageDet"_s), 2);
+    EXPECT_EQ(notes(), QStringList(u"2026-03-14|Unposted usages with date of 03/14/2026 deleted.|anna"_s));
+}
+
+TEST_P(UsageList, DeletesNothingOfADateWhileOneIsEdited)
+{
+    Engine::Table own(kitchen.database(), u"IUsage"_s);
+    own.open();
+    own.findKey({2});
+    own.edit();
+    EXPECT_EQ(refusalOf([&] { removeOf(14); }),
+              u"A usage record with an inventory date of 03/14/2026 is being edited. Please close its screen. -> ");
+    own.cancel();
+    const auto other = kitchen.anotherUser();
+    Engine::Table theirs(other->database, u"IUsage"_s);
+    theirs.open();
+    theirs.findKey({4}); // of another date
+    theirs.edit();
+    EXPECT_EQ(errorOf([&] { removeOf(14); }), ErrorCode::TableLocked);
+    EXPECT_EQ(prompts.said, QStringList());
+    EXPECT_EQ(left().size(), 4);
+    theirs.cancel();
+    EXPECT_TRUE(removeOf(14));
+    EXPECT_TRUE(other->database.connection().locks().tryLockTable(u"IUsage"_s));
+}
+
+TEST_P(UsageList, RefusesToDeleteAPostedOneBeforeAndAfterAsking)
+{
+    DocumentList list(kitchen.database(), DocumentKinds::usage());
+    list.open();
+    ASSERT_TRUE(list.moveTo(3));
+    EXPECT_EQ(refusalOf([&] { list.remove(prompts); }),
+              u"A usage record that has been Posted \ncan't be deleted! -> ");
+    ASSERT_TRUE(list.moveTo(1));
+    EXPECT_FALSE(list.table().boolean(u"Posted"));
+    kitchen.execute(u"UPDATE IUsage SET Posted = true"_s); // by another user, unseen so far
+    EXPECT_EQ(refusalOf([&] { list.remove(prompts); }),
+              u"Unable to delete usage 11....\nIt has been posted and therefore can't be deleted. -> ");
+    EXPECT_EQ(prompts.said, QStringList(u"Confirm: Delete usage number'11'?"_s));
+}
+
+} // namespace

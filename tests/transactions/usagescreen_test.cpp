@@ -1,0 +1,169 @@
+#include "controls/datedialog.h"
+#include "controls/linegrid.h"
+#include "controls/lookupcombobox.h"
+#include "master/screens/itemsearchinv.h"
+#include "tests/support/screentest.h"
+#include "transactions/screens/documentfilterscreen.h"
+#include "transactions/screens/invusage.h"
+#include "transactions/screens/invusages.h"
+
+#include <QAction>
+#include <QCalendarWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class UsageScreenTest : public ScreenTest
+{
+protected:
+    UsageScreenTest()
+    {
+        kitchen.execute(
+            u"UPDATE ItemType SET Inventory = true, CostingMethod = 1; UPDATE Item SET WgtAvgCost = 2"_s);
+    }
+    void open()
+    {
+        screen = new TfrmUsage(*context, mainWindow.get());
+        screen->newRecord();
+        grid = child<LineGrid>(*screen, "DBGrid1");
+        showActive(*screen);
+    }
+    void openList()
+    {
+        list = new TfrmUsages(*context, mainWindow.get());
+        showActive(*list);
+    }
+    QString cursor() { return u"%1,%2"_s.arg(grid->currentIndex().row()).arg(grid->currentIndex().column()); }
+    // A quantity, which leads to the search when the event is over, and an item by its number there.
+    void enterLine(const char *quantity, const char *itemNo)
+    {
+        bool chosen = false;
+        QTimer answer;
+        QObject::connect(&answer, &QTimer::timeout, &answer, [&] {
+            auto *search = qobject_cast<TfrmItemSearchInv *>(QApplication::activeModalWidget());
+            if (!search || QApplication::activeWindow() != search)
+                return;
+            answer.stop();
+            type(itemNo);
+            press(Qt::Key_Return);
+            chosen = true;
+        });
+        answer.start(0);
+        type(quantity);
+        press(Qt::Key_Return);
+        EXPECT_TRUE(comesTrue([&] { return chosen; }));
+        EXPECT_TRUE(comesTrue([&] { return grid->hasFocus(); }));
+    }
+    QStringList stored()
+    {
+        return kitchen.rows(
+            u"SELECT UsageNo, WarehouseID, InvoiceAmount, Seq, Quantity, ItemID, ItemOvDesc, UnitCost "
+            "FROM IUsage JOIN IUsageDet ON IUsageDet.UsageID = IUsage.UsageID ORDER BY Seq"_s);
+    }
+
+    QPointer<TfrmUsage> screen;
+    QPointer<TfrmUsages> list;
+    LineGrid *grid = nullptr;
+};
+
+} // namespace
+
+TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
+{
+    open();
+    EXPECT_EQ(focusName(), u"editUsageNo"_s);
+    press(Qt::Key_PageDown);
+    enterLine("3", "A10");
+    EXPECT_EQ(cursor(), u"0,1"_s);
+    press(Qt::Key_Return);
+    type("for pie");
+    press(Qt::Key_Return);
+    EXPECT_EQ(cursor(), u"0,3"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(cursor(), u"0,5"_s) << "past the cost";
+    type("9"); // what is calculated takes nothing
+    press(Qt::Key_Return);
+    EXPECT_EQ(cursor(), u"1,0"_s);
+    EXPECT_EQ(child<QLabel>(*screen, "lblInvoiceAmount")->text(), u"6.00"_s);
+    enterLine("2", "A11");
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    type("ap"); // completed to "Apples", whose first letter has another case
+    press(Qt::Key_Tab);
+    EXPECT_EQ(cursor(), u"1,4"_s) << "Tab stops at the cost";
+    child<QLineEdit>(*screen, "editDescription")->setFocus();
+    press(Qt::Key_PageDown);
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(focusName(), u"cboWarehouse"_s);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(child<LookupComboBox>(*screen, "cboWarehouse")->chosenId(), 0);
+    type("O");
+    child<QPushButton>(*screen, "btnOK")->click();
+    EXPECT_TRUE(comesTrue([&] { return !screen; }));
+    EXPECT_EQ(prompts.said, QStringList());
+    EXPECT_EQ(stored(), (QStringList{u"10001|1|10|1|3|1|for pie|2"_s, u"10001|1|10|2|2|1||2"_s}));
+}
+
+TEST_F(UsageScreenTest, leadsBackToTheItemWithoutTheSearchAndAsksInItsOwnWords)
+{
+    open();
+    press(Qt::Key_PageDown);
+    type("3");
+    press(Qt::Key_PageDown); // the line has no item yet
+    EXPECT_EQ(prompts.take(),
+              QStringList(u"error: Field 'Item no.' must have a value...\nMake changes or press Esc to undo"_s));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cursor(), u"0,1"_s);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    screen->close();
+    EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save your changes?"_s));
+    screen->btnCancelClick();
+}
+
+TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
+{
+    kitchen.execute(u"INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, InventoryDate, Posted) VALUES "
+                    "(1, '11', 1, '2026-03-14', true), (2, '12', 2, '2026-03-15', false), "
+                    "(3, '13', 2, '2026-03-15', NULL)"_s);
+    openList();
+    const auto filter = [&](const std::function<void(DocumentFilterScreen &)> &choose) {
+        EXPECT_TRUE(whileOpen<DocumentFilterScreen>([&] { list->command(u"mnuFilter"_s)->trigger(); },
+                                                    [&](DocumentFilterScreen &dialog) {
+                                                        choose(dialog);
+                                                        press(Qt::Key_Return);
+                                                    }));
+    };
+    filter([](DocumentFilterScreen &dialog) { dialog.setKey(u"cboCurrency"_s, 2); });
+    EXPECT_EQ(list->windowTitle(), u"Inventory Usage (Filtered)"_s);
+    EXPECT_EQ(list->dataSet().filter(), QString());
+    EXPECT_EQ(list->dataSet().recordCount(), 3);
+    filter([](DocumentFilterScreen &dialog) {
+        dialog.setKey(u"cboWarehouse"_s, 2);
+        child<QAbstractButton>(dialog, "optPostedNo")->click();
+    });
+    EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted <> true)"_s);
+    EXPECT_EQ(list->dataSet().recordCount(), 2);
+
+    EXPECT_FALSE(list->command(u"mnuPrintSelected"_s)->isEnabled());
+    list->resetFilter();
+    for (const int key : {1, 2}) {
+        ASSERT_TRUE(list->moveToKey(key));
+        for (const QString &command : {u"mnuDelete"_s, u"mnuDeleteDate"_s})
+            EXPECT_EQ(list->command(command)->isEnabled(), key == 2) << command.toStdString();
+    }
+    data->setCurrentUser(u"anna"_s);
+    EXPECT_TRUE(
+        whileOpen<DateDialog>([&] { list->command(u"mnuDeleteDate"_s)->trigger(); },
+                              [](DateDialog &dialog) {
+                                  child<QCalendarWidget>(dialog, "calendar")->setSelectedDate(QDate(2026, 3, 15));
+                                  child<QPushButton>(dialog, "btnOK")->click();
+                              }));
+    EXPECT_EQ(list->dataSet().recordCount(), 2); // one without a mark is neither posted nor not
+    EXPECT_EQ(kitchen.rows(uR"(SELECT "user" FROM History)"_s), QStringList(u"anna"_s));
+}

@@ -1,0 +1,38 @@
+#include "transactions/screens/invusage.h"
+
+#include "controls/datedialog.h"
+#include "controls/linegrid.h"
+#include "transactions/documentkinds.h"
+#include "ui_invusage.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr int rowsAtFirst = 5;
+}
+
+// The location is the header's last field: Shift+Tab leads there from the lines.
+TfrmUsage::TfrmUsage(ScreenContext &context, QWidget *parent)
+    : DocumentScreen(context, DocumentKinds::usage(), parent)
+    , m_ui(std::make_unique<Ui::TfrmUsage>())
+{
+    m_ui->setupUi(this);
+    buildDocument({.passedByEnter = {u"UnitCost"_s}, .searchOnEntering = true, .backToStart = true});
+    connectGuarded(m_ui->btnInventoryDate, &QToolButton::clicked, this, &TfrmUsage::btnInventoryDateClick);
+}
+
+TfrmUsage::~TfrmUsage() = default;
+
+void TfrmUsage::firstShown() { resize(width(), height() - grid()->height() + grid()->heightForRows(rowsAtFirst)); }
+
+void TfrmUsage::btnInventoryDateClick()
+{
+    const QDate preset = entry().header().date(u"InventoryDate");
+    if (const auto date = DateDialog::choose(context(), preset.isValid() ? preset : QDate::currentDate(), this))
+        entry().chooseInHeader(u"InventoryDate"_s, *date);
+    m_ui->editInventoryDate->setFocus();
+}
+
+} // namespace Tallymere

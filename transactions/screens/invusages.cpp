@@ -1,0 +1,69 @@
+#include "transactions/screens/invusages.h"
+
+#include "controls/datedialog.h"
+#include "data/datamodule.h"
+#include "transactions/documentkinds.h"
+#include "transactions/usagedeletion.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+ListCommand &named(QList<ListCommand> &commands, const QString &name)
+{
+    const auto found = std::find_if(commands.begin(), commands.end(),
+                                    [&](const ListCommand &command) { return command.name == name; });
+    Q_ASSERT(found != commands.end());
+    return *found;
+}
+
+} // namespace
+
+TfrmUsages::TfrmUsages(ScreenContext &context, QWidget *parent)
+    : DocumentListScreen(context, DocumentKinds::usage(), parent)
+{
+    buildList([this](ListDescription &description) { addCommands(description); });
+}
+
+void TfrmUsages::addCommands(ListDescription &description)
+{
+    QList<ListCommand> &file = menu(description, tr("&File")).commands;
+    named(file, u"mnuPrint"_s).caption = tr("&Print List...");
+    file.insert(1, {.name = u"mnuPrintSelected"_s, .caption = tr("Print &Selected Usage...")});
+
+    QList<ListCommand> &records = menu(description, tr("&Records")).commands;
+    ListCommand &remove = named(records, u"mnuDelete"_s);
+    remove = deleteMenu(remove);
+    named(records, u"mnuPost"_s).caption = tr("Post...");
+}
+
+ListCommand TfrmUsages::deleteMenu(const ListCommand &selected)
+{
+    const auto isUnposted = [this] { return !list().table().boolean(u"Posted"); };
+    ListCommand one = selected;
+    one.caption = tr("Selected Usage");
+    one.available = isUnposted;
+    return {.name = u"mnuDeletions"_s,
+            .caption = selected.caption,
+            .entries = {one,
+                        {.name = u"mnuDeleteDate"_s,
+                         .caption = tr("Specified Usage Date"),
+                         .run = [this] { mnuDeleteDateClick(); },
+                         .available = isUnposted}}};
+}
+
+void TfrmUsages::mnuDeleteDateClick()
+{
+    const auto date = DateDialog::choose(context(), QDate::currentDate(), this);
+    if (!date)
+        return;
+    UsageDeletion deletion(context().data.databaseTallymere(), *date);
+    if (deletion.run(context().prompts, context().data.currentUser()))
+        refreshList();
+}
+
+} // namespace Tallymere

@@ -1,0 +1,88 @@
+#include "transactions/usagedeletion.h"
+
+#include "base/regionalsettings.h"
+#include "base/ruleerror.h"
+#include "engine/lockmanager.h"
+#include "engine/query.h"
+#include "engine/table.h"
+#include "engine/tablelocks.h"
+#include "transactions/texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+UsageDeletion::UsageDeletion(Engine::Database &database, QDate date)
+    : m_database(database)
+    , m_date(date)
+    , m_dateText(RegionalSettings::system().shortDate(date, 4))
+{
+}
+
+bool UsageDeletion::run(Prompts &prompts, const QString &user)
+{
+    Engine::TableLocks held(m_database);
+    held.take(u"IUsage"_s);
+    const QList<int> keys = unposted();
+    if (keys.isEmpty()) {
+        prompts.inform(
+            TransactionsTexts::tr("There were no unposted usages with an inventory date of %1").arg(m_dateText));
+        return false;
+    }
+    refuseEdited(keys);
+    const QString question = TransactionsTexts::tr(
+        "Delete the %1 usage(s) with an inventory date of %2?\nThis action can't be reversed!");
+    if (!prompts.confirm(Question::YesNo, question.arg(QString::number(keys.size()), m_dateText)))
+        return false;
+    execute(u"DELETE FROM IUsageDet WHERE UsageID IN "
+            "(SELECT UsageID FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false)"_s);
+    execute(u"DELETE FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false"_s);
+    leaveNote(user);
+    return true;
+}
+
+QList<int> UsageDeletion::unposted()
+{
+    Engine::Query query(
+        m_database, u"SELECT UsageID FROM IUsage WHERE InventoryDate = :InventoryDate AND NOT (Posted = true)"_s);
+    query.setParameter(u"InventoryDate", m_date);
+    QList<int> keys;
+    for (query.open(); !query.atEnd(); query.next())
+        keys.append(query.integer(u"UsageID"));
+    return keys;
+}
+
+// The lock of the table keeps others out, but not the screens of one's own.
+void UsageDeletion::refuseEdited(const QList<int> &keys)
+{
+    for (const int key : keys) {
+        if (m_database.connection().locks().holdsRecord(u"IUsage"_s, {key}))
+            throw RuleError(
+                TransactionsTexts::tr(
+                    "A usage record with an inventory date of %1 is being edited. Please close its screen.")
+                    .arg(m_dateText));
+    }
+}
+
+void UsageDeletion::execute(const QString &statement)
+{
+    m_database.change([&] {
+        Engine::Query query(m_database, statement);
+        query.setParameter(u"InventoryDate", m_date);
+        query.execute();
+    });
+}
+
+void UsageDeletion::leaveNote(const QString &user)
+{
+    Engine::Table history(m_database, u"History"_s);
+    history.open();
+    history.append();
+    history.set(u"Tran_Date", QDateTime::currentDateTime());
+    history.set(u"Event_Date", m_date);
+    history.set(u"Event", TransactionsTexts::tr("Unposted usages with date of %1 deleted.").arg(m_dateText));
+    history.set(u"User", user);
+    history.post();
+}
+
+} // namespace Tallymere
