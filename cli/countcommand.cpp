@@ -71,14 +71,15 @@ std::optional<CalculatedUsage> calculate(CommandContext &context, TDataModuleTal
     requireDate(order.date, data.today());
     if (!count.open(static_cast<int>(order.location), order.zeroCounts))
         throw RuleError(Texts::tr("Nothing was counted."));
+    count.setDate(order.date);
     file.seek(0);
     ImportErrors errors;
-    takeCountFile(file, count, order.date, errors);
+    takeCountFile(file, count, errors);
     if (!errors.isEmpty()) {
         complainOfRows(context.console, order.fileName, errors);
         throw RuleError(Texts::tr("Nothing was counted."));
     }
-    return count.calculate(order.date);
+    return count.calculate();
 }
 
 void runCount(CommandContext &context)

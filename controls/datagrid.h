@@ -27,6 +27,7 @@ public:
     virtual QString shownHint() const; // empty while there are rows, or nobody knows
 
 protected:
+    const QString &hint() const { return m_hint; }
     void showModel(TableModel *model);
     void showModel(QAbstractItemModel *model, const QList<GridColumn> &columns); // with the columns' widths
     bool viewportEvent(QEvent *event) override; // a text that is cut shows whole beside the mouse

@@ -46,7 +46,8 @@ QWidget *EntryGrid::openEditor(QWidget *parent, const QModelIndex &cell)
     const Editor made = makeEditor(parent, cell);
     m_editorBox = made.box;
     m_editor = made.edit;
-    m_editorBox->setObjectName(u"editCell"_s);
+    if (m_editorBox->objectName().isEmpty())
+        m_editorBox->setObjectName(u"editCell"_s);
     m_editorBox->setAccessibleName(column.title);
     m_editor->setAlignment(column.alignment | Qt::AlignVCenter);
     m_offered = cell.data(Qt::EditRole).toString();

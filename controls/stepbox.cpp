@@ -14,6 +14,8 @@ StepBox::StepBox(const Engine::Field &field, const LineSteps &steps, QWidget *pa
     , m_field(field)
     , m_steps(steps)
 {
+    setAutoFillBackground(true); // without a frame it paints none, and what is under it would show through
+    setBackgroundRole(QPalette::Base);
 }
 
 std::optional<double> StepBox::number() const

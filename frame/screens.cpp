@@ -10,6 +10,7 @@
 #include "transactions/screens/documentlistscreen.h"
 #include "transactions/screens/documentpostscreen.h"
 #include "transactions/screens/documentscreens.h"
+#include "transactions/screens/enterinventory.h"
 #include "transactions/screens/invhistory.h"
 #include "transactions/screens/invtotals.h"
 
@@ -51,6 +52,7 @@ ScreenRegistry productScreens()
         screens.add(screen.kind.listScreen, {.create = screen.makeList, .posts = true});
         screens.add(screen.kind.postScreen, postDialog(screen.kind));
     }
+    screens.add(u"FormEnterInventory"_s, {make<TFormEnterInventory>});
     screens.add(u"frmInvTotals"_s, {make<TfrmInvTotals>});
     screens.add(u"frmInvHistory"_s, {make<TfrmInvHistory>});
     return screens;

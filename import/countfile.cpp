@@ -33,7 +33,7 @@ QString valueOf(const ImportRow &row, QStringView target)
     return cell ? cell->value.toText() : QString();
 }
 
-void takeRow(const ImportRow &row, StockCount &count, QDate date)
+void takeRow(const ImportRow &row, StockCount &count)
 {
     const QString itemNo = valueOf(row, u"ItemNo");
     if (itemNo.isEmpty() || valueOf(row, u"Quantity").isEmpty())
@@ -44,12 +44,12 @@ void takeRow(const ImportRow &row, StockCount &count, QDate date)
             ImportTexts::tr("The item '%1' is not among those that are counted at this location").arg(itemNo));
     if (count.list().row(found).typed)
         throw RuleError(ImportTexts::tr("The item '%1' has been counted in an earlier row").arg(itemNo));
-    count.count(found, row.cell(u"Quantity")->value.toDouble(), date);
+    count.count(found, row.cell(u"Quantity")->value.toDouble());
 }
 
 } // namespace
 
-void takeCountFile(QIODevice &file, StockCount &count, QDate date, ImportErrors &errors)
+void takeCountFile(QIODevice &file, StockCount &count, ImportErrors &errors)
 {
     const std::vector<ImportDocument> documents = readImportFile(file, countKind(), errors);
     for (const ImportDocument &document : documents) {
@@ -57,7 +57,7 @@ void takeCountFile(QIODevice &file, StockCount &count, QDate date, ImportErrors 
         if (row.isBad)
             continue;
         try {
-            takeRow(row, count, date);
+            takeRow(row, count);
         } catch (const RuleError &error) {
             errors.add(row.line, error.message());
         }

@@ -2,8 +2,6 @@
 
 #include "import/importkind.h"
 
-#include <QDate>
-
 class QIODevice;
 
 namespace Tallymere {
@@ -11,6 +9,6 @@ namespace Tallymere {
 class StockCount;
 
 // Takes a file of counted quantities (ItemNo, Quantity) into an open count, or adds what is wrong with it to the errors.
-void takeCountFile(QIODevice &file, StockCount &count, QDate date, ImportErrors &errors);
+void takeCountFile(QIODevice &file, StockCount &count, ImportErrors &errors);
 
 } // namespace Tallymere

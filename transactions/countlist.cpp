@@ -1,6 +1,7 @@
 #include "transactions/countlist.h"
 
 #include "base/calchelpers.h"
+#include "base/formats.h"
 #include "base/ruleerror.h"
 #include "transactions/texts.h"
 
@@ -26,6 +27,22 @@ QByteArray sortText(const QString &text, Qt::CaseSensitivity sensitivity)
     return bytes;
 }
 
+// As it is shown.
+QString orderedText(const CountRow &row, CountList::Order order)
+{
+    switch (order) {
+    case CountList::Order::Category:
+        return row.typeName;
+    case CountList::Order::Item:
+        return row.description;
+    case CountList::Order::Cost:
+        return currencyText(row.standardCost);
+    case CountList::Order::ItemNo:
+        break;
+    }
+    return row.itemNo;
+}
+
 struct SortKey
 {
     QByteArray text;
@@ -41,17 +58,10 @@ struct SortKey
 
 SortKey sortKey(const CountRow &row, CountList::Order order)
 {
-    switch (order) {
-    case CountList::Order::Category:
-        return {sortText(row.typeName, Qt::CaseInsensitive)};
-    case CountList::Order::Item:
-        return {sortText(row.description, Qt::CaseInsensitive)};
-    case CountList::Order::Cost:
+    if (order == CountList::Order::Cost)
         return {{}, row.standardCost.toDouble()};
-    case CountList::Order::ItemNo:
-        break;
-    }
-    return {sortText(row.itemNo, Qt::CaseSensitive)};
+    return {sortText(orderedText(row, order),
+                     order == CountList::Order::ItemNo ? Qt::CaseSensitive : Qt::CaseInsensitive)};
 }
 
 } // namespace
@@ -81,6 +91,14 @@ int CountList::rowOfNumber(const QString &itemNo) const
             return static_cast<int>(found - m_rows.begin());
     }
     return -1;
+}
+
+int CountList::rowStartingWith(const QString &text) const
+{
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](const Placed &one) {
+        return orderedText(one.row, m_order).startsWith(text, Qt::CaseInsensitive);
+    });
+    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
 }
 
 void CountList::sortBy(Order order)

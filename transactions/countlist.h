@@ -47,6 +47,9 @@ public:
     int
     rowOfNumber(const QString &itemNo) const; // in another letter case where there is none as typed; -1 for none
 
+    // The first row whose text in the column of the order begins so, in any letter case; -1 when there is none.
+    int rowStartingWith(const QString &text) const;
+
     Order order() const { return m_order; }
     void sortBy(Order order);
 

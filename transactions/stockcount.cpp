@@ -85,26 +85,38 @@ void StockCount::deductUnposted() { m_list.deduct(m_source.unpostedUsage(m_locat
 
 // --- counting ---------------------------------------------------------------------------------------------------
 
-void StockCount::count(int row, double quantity, QDate date)
+void StockCount::setDate(QDate date)
+{
+    m_date = date;
+    if (hasCounts())
+        keepDraft();
+}
+
+void StockCount::count(int row, double quantity)
 {
     m_list.count(row, quantity);
-    keepDraft(date);
+    keepDraft();
 }
 
-void StockCount::forgetCount(int row, QDate date)
+void StockCount::forgetCount(int row)
 {
     m_list.forgetCount(row);
-    keepDraft(date);
+    keepDraft();
 }
 
-void StockCount::keepDraft(QDate date) const
+// Counting goes on without a draft.
+void StockCount::keepDraft()
 {
+    m_draftFailure.clear();
     if (!m_drafts)
         return;
-    if (m_list.hasCounts())
-        m_drafts->save(m_location, {QDateTime::currentDateTime(), date, m_zeroCounts, m_list.counts()});
-    else
-        m_drafts->drop(m_location);
+    if (!hasCounts())
+        return dropDraft();
+    try {
+        m_drafts->save(m_location, {QDateTime::currentDateTime(), m_date, m_zeroCounts, m_list.counts()});
+    } catch (const RuleError &error) {
+        m_draftFailure = error.message();
+    }
 }
 
 std::optional<CountDraft> StockCount::draft() const
@@ -134,11 +146,11 @@ bool StockCount::isCountable(QDate date, QDate today) { return date > today.addD
 
 QDate StockCount::latestDate(QDate today) { return today.addDays(daysAhead); }
 
-std::optional<CalculatedUsage> StockCount::calculate(QDate date)
+std::optional<CalculatedUsage> StockCount::calculate()
 {
     if (m_list.hasUsage())
         requireUnchangedBooks();
-    const std::optional<CalculatedUsage> usage = calculateUsage(m_database, m_list, m_location, date, m_prompts);
+    const std::optional<CalculatedUsage> usage = calculateUsage(m_database, m_list, m_location, m_date, m_prompts);
     if (!usage)
         return usage;
     m_list.acceptCounts();

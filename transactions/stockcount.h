@@ -33,9 +33,11 @@ public:
 
     void sortBy(CountList::Order order) { m_list.sortBy(order); }
     void setStandardCost(int row, Engine::Money cost) { m_list.setStandardCost(row, cost); }
-    // Each keeps the draft. The count stands even where that throws RuleError, as the draft cannot be written.
-    void count(int row, double quantity, QDate date);
-    void forgetCount(int row, QDate date);
+    // Each keeps the draft.
+    void setDate(QDate date); // of the inventory
+    void count(int row, double quantity); // throws RuleError for one below zero
+    void forgetCount(int row);
+    const QString &draftFailure() const { return m_draftFailure; } // why the draft could not be written, if so
 
     std::optional<CountDraft> draft() const; // of the open list
     // Takes its counts; items that are no longer in the list are told.
@@ -49,12 +51,12 @@ public:
     // Writes the usage document; nothing when no item has been used. The user is asked before, when the books have
     // changed since the list was read; SilentAbort when he would rather not. Afterwards what has been counted is what is
     // recorded, and the draft is gone.
-    std::optional<CalculatedUsage> calculate(QDate date);
+    std::optional<CalculatedUsage> calculate();
 
 private:
     void read(ZeroCounts zeroCounts);
     void deductUnposted();
-    void keepDraft(QDate date) const;
+    void keepDraft();
     void requireUnchangedBooks() const;
     int changedBalances() const;
 
@@ -65,9 +67,11 @@ private:
     CountList m_list;
     bool m_isOpen = false;
     int m_location = 0;
+    QDate m_date;
     ZeroCounts m_zeroCounts = ZeroCounts::Excluded;
     QSet<QString> m_unposted; // as they were when the list was read
     ItemQuantities m_balances;
+    QString m_draftFailure;
 };
 
 } // namespace Tallymere

@@ -85,6 +85,6 @@ TEST_F(MainFormTest, ProductLacksExactlyTheScreensThatAreNotBuilt)
 {
     screens = productScreens();
     EXPECT_EQ(actions(false),
-              (QStringList{u"ActionEditInventory"_s, u"ActionEnterAdjustments"_s, u"ActionPostAdustments"_s,
-                           u"ActionPrintReports"_s, u"ActionPrintBlankInventoryForm"_s, u"ActionPrintPayments"_s}));
+              (QStringList{u"ActionEnterAdjustments"_s, u"ActionPostAdustments"_s, u"ActionPrintReports"_s,
+                           u"ActionPrintBlankInventoryForm"_s, u"ActionPrintPayments"_s}));
 }

@@ -16,6 +16,7 @@ public:
     int retries = 0; // how often retry() is answered with Retry
     std::function<void()> onRetry;
     std::function<void()> onInform;
+    std::function<void()> onWarn;
 
     void inform(const QString &text) override
     {
@@ -23,7 +24,12 @@ public:
         if (onInform)
             onInform();
     }
-    void warn(const QString &text) override { said << QStringLiteral("warn: ") + text; }
+    void warn(const QString &text) override
+    {
+        said << QStringLiteral("warn: ") + text;
+        if (onWarn)
+            onWarn();
+    }
     void error(const QString &text) override { said << QStringLiteral("error: ") + text; }
     bool confirm(Tallymere::Question question, const QString &text) override
     {

@@ -44,12 +44,13 @@ protected:
     void count()
     {
         StockCount count(kitchen.database(), prompts);
+        count.setDate(date);
         if (!count.open(1 + below(2), ZeroCounts::Excluded))
             return;
         for (int row = 0; row < count.list().size(); ++row)
             if (below(2))
-                count.count(row, 0.25 * below(60), date);
-        count.calculate(date);
+                count.count(row, 0.25 * below(60));
+        count.calculate();
     }
 
     void step()

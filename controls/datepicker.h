@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QDate>
+#include <QLineEdit>
+
+namespace Tallymere {
+
+// A date that is typed in the order of the system's short dates, stepped by the arrow keys, or picked from a calendar that
+// Alt+Down and the button open. Of a year two digits will do: 50 to 99 are read as 1950 to 1999, 0 to 49 as 2000 to 2049.
+// What is typed counts when the field is left or Enter pressed; what is no date, or lies beyond the latest, gives way to the
+// date before.
+class DatePicker final : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit DatePicker(QWidget *parent = nullptr);
+
+    QDate date() const { return m_date; }
+    void setDate(QDate date); // one beyond the latest becomes that
+    void setMaximumDate(QDate latest) { m_latest = latest; }
+
+Q_SIGNALS:
+    void dateChanged();
+    void refused(const QString &message);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void takeText();
+    void showCalendar();
+    void showDate();
+
+    QDate m_date;
+    QDate m_latest;
+};
+
+} // namespace Tallymere

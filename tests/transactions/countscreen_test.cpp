@@ -1,0 +1,220 @@
+#include "controls/datepicker.h"
+#include "tests/support/screentest.h"
+#include "transactions/screens/countgrid.h"
+#include "transactions/screens/enterinventory.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// Apples 10 and Bread 5 of Food, apricots 2.5 of Goods, all at the Office; nothing in the Freezer.
+class CountScreenTest : public ScreenTest
+{
+protected:
+    CountScreenTest()
+    {
+        qputenv("XDG_DATA_HOME", folder.path().toUtf8());
+        kitchen.execute(u"UPDATE ItemType SET Inventory = true, CostingMethod = 1; "
+                        "UPDATE Item SET Suspended = false WHERE ItemID = 2"_s);
+        kitchen.setStock(1, 1, 10, 1.5);
+        kitchen.setStock(2, 1, 5, 2);
+        kitchen.setStock(3, 1, 2.5, 1);
+        open();
+    }
+
+    void open()
+    {
+        screen = new TFormEnterInventory(*context, mainWindow.get());
+        grid = child<CountGrid>(*screen, "wwDBGridInventory");
+        locations = child<QComboBox>(*screen, "RzComboBoxLocation");
+        ok = child<QPushButton>(*screen, "BitBtnOK");
+        showActive(*screen);
+    }
+    void choose(const QString &location)
+    {
+        locations->setCurrentIndex(locations->findText(location, Qt::MatchStartsWith));
+        Q_EMIT locations->activated(locations->currentIndex());
+    }
+    void search(const char *text)
+    {
+        press(Qt::Key_F, Qt::ControlModifier);
+        type(text);
+        press(Qt::Key_Return);
+    }
+    void enter(const char *quantity)
+    {
+        type(quantity);
+        press(Qt::Key_Return);
+    }
+    // Rows as "A10 10 8 -2", what is empty left out; headings as they are.
+    QStringList rows() const
+    {
+        QStringList rows;
+        for (int row = 0; row < grid->model()->rowCount(); ++row) {
+            QStringList cells;
+            for (const int column : {0, 4, 5, 6})
+                cells.append(grid->model()->index(row, column).data().toString());
+            rows.append(cells.join(u' ').simplified());
+        }
+        return rows;
+    }
+    QString cursor() const { return grid->currentIndex().siblingAtColumn(0).data().toString(); }
+    QString status() const { return child<QLabel>(*screen, "lblStatus")->text(); }
+    QStringList usageLines() { return kitchen.rows(u"SELECT ItemID, Quantity FROM IUsageDet ORDER BY Seq"_s); }
+
+    QTemporaryDir folder;
+    QPointer<TFormEnterInventory> screen;
+    CountGrid *grid = nullptr;
+    QComboBox *locations = nullptr;
+    QPushButton *ok = nullptr;
+};
+
+TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
+{
+    EXPECT_FALSE(ok->isEnabled());
+    EXPECT_EQ(locations->itemText(0), u"Freezer          [2]"_s);
+    choose(u"Office"_s);
+    EXPECT_TRUE(ok->isEnabled());
+    search("a11");
+    EXPECT_EQ(cursor(), u"A11"_s);
+    enter("4");
+    EXPECT_EQ(cursor(), u"B1"_s);
+    search("ap"); // the beginning of no number
+    EXPECT_EQ(focusName(), u"wwIncrementalSearch1"_s);
+    grid->horizontalHeader()->sectionClicked(2);
+    search("ap");
+    EXPECT_EQ(cursor(), u"A10"_s); // Apples
+    press(Qt::Key_F2);
+    press(Qt::Key_Return); // taken as it stands
+    EXPECT_EQ(rows(), (QStringList{u"A10 10 10 0"_s, u"B1 2.5 2.5"_s, u"A11 5 4 -1"_s}));
+    EXPECT_EQ(status(), u"2 of 3 counted, 1 differ, value of the difference (2.00)"_s);
+
+    grid->horizontalHeader()->sectionClicked(1);
+    EXPECT_EQ(rows(), (QStringList{u"Food"_s, u"A10 10 10 0"_s, u"A11 5 4 -1"_s, u"Goods"_s, u"B1 2.5 2.5"_s}));
+    grid->horizontalHeader()->sectionClicked(4); // orders nothing
+    EXPECT_EQ(rows().size(), 5);
+    search("A11");
+    press(Qt::Key_Return); // past the heading
+    EXPECT_EQ(cursor(), u"B1"_s);
+    enter("0.5");
+
+    prompts.take();
+    prompts.answer = Answer::Cancel;
+    ok->click();
+    EXPECT_TRUE(usageLines().isEmpty());
+    prompts.answer = Answer::Yes;
+    ok->click();
+    EXPECT_EQ(
+        prompts.last(),
+        u"Confirm: Proceed with calculating the item usage based\r\nupon the quantities that have been entered?"_s);
+    EXPECT_EQ(usageLines(), (QStringList{u"2|1"_s, u"3|2"_s}));
+    EXPECT_TRUE(status().contains("2 line(s)"_L1)) << status().toStdString();
+    EXPECT_FALSE(ok->isEnabled());
+    EXPECT_EQ(rows().last(), u"B1 0.5 0.5"_s);
+    prompts.take();
+    screen->close();
+    EXPECT_TRUE(prompts.said.isEmpty()) << "nothing is left to be kept";
+}
+
+TEST_F(CountScreenTest, RefusesWhatIsNoCount)
+{
+    choose(u"Office"_s);
+    search("B1");
+    for (const char *refused : {"3", "-1", "many"}) {
+        enter(refused);
+        EXPECT_EQ(prompts.take().size(), 1) << refused;
+        EXPECT_TRUE(grid->hasEntry());
+        press(Qt::Key_Escape);
+        EXPECT_EQ(rows().last(), u"B1 2.5 2.5"_s);
+    }
+    type("1");
+    press(Qt::Key_Up);
+    press(Qt::Key_Up); // to the limit, and no further
+    press(Qt::Key_Up);
+    press(Qt::Key_Return);
+    EXPECT_EQ(rows().last(), u"B1 2.5 2.5 0"_s);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(rows().last(), u"B1 2.5 2.5"_s);
+}
+
+TEST_F(CountScreenTest, AsksBeforeCountsAreLost)
+{
+    choose(u"Office"_s);
+    search("A10");
+    enter("8");
+    prompts.ok = false;
+    choose(u"Freezer"_s);
+    EXPECT_EQ(
+        prompts.last(),
+        u"Confirm: If you change Locations the edits you \r\nhave made to the inventory list will be lost.\r\n"
+        "Proceed with changing the Location?"_s);
+    auto *zeroCounts = child<QCheckBox>(*screen, "RzCheckBoxIncludeZeroCountItems");
+    zeroCounts->click();
+    EXPECT_EQ(
+        prompts.last(),
+        u"Confirm: If you change items to be included the edits you \r\nhave made to the inventory list will be "
+        "lost.\r\nProceed with changing the items?"_s);
+    EXPECT_FALSE(zeroCounts->isChecked());
+    EXPECT_TRUE(locations->currentText().startsWith("Office"_L1));
+    EXPECT_EQ(rows().first(), u"A10 10 8 -2"_s);
+
+    prompts.ok = true;
+    zeroCounts->click();
+    EXPECT_EQ(rows().first(), u"A10 10 10"_s);
+    kitchen.execute(u"INSERT INTO IReceipt (ReceiptID, WarehouseID, Posted) VALUES (1, 2, false)"_s);
+    prompts.onWarn = [this] { grid->grab(); }; // as a box lets the window be painted
+    choose(u"Freezer"_s);
+    EXPECT_TRUE(prompts.last().startsWith("warn: There are unposted transactions"_L1));
+    EXPECT_TRUE(rows().isEmpty());
+}
+
+TEST_F(CountScreenTest, OffersWhatHasBeenLeft)
+{
+    choose(u"Office"_s);
+    child<DatePicker>(*screen, "wwDBDateTimePickerInventoryDate")->setDate(data->today().addDays(-2));
+    search("A10");
+    enter("8");
+    delete screen; // as a crash leaves it
+    open();
+    EXPECT_TRUE(grid->shownHint().contains("Office"_L1));
+
+    prompts.answer = Answer::Cancel;
+    choose(u"Office"_s);
+    EXPECT_EQ(locations->currentIndex(), -1);
+    prompts.answer = Answer::Yes;
+    choose(u"Office"_s);
+    EXPECT_EQ(rows().first(), u"A10 10 8 -2"_s);
+    EXPECT_EQ(child<DatePicker>(*screen, "wwDBDateTimePickerInventoryDate")->date(), data->today().addDays(-2));
+
+    screen->close(); // and keeps it
+    settle();
+    open();
+    prompts.answer = Answer::No;
+    choose(u"Office"_s);
+    EXPECT_EQ(rows().first(), u"A10 10 10"_s);
+    prompts.take();
+    choose(u"Office"_s);
+    EXPECT_TRUE(prompts.said.isEmpty());
+}
+
+TEST_F(CountScreenTest, CalculatesNoCountThatIsAYearOld)
+{
+    choose(u"Office"_s);
+    auto *date = child<DatePicker>(*screen, "wwDBDateTimePickerInventoryDate");
+    date->setDate(data->today().addDays(-365));
+    EXPECT_FALSE(ok->isEnabled());
+    date->setDate(data->today().addDays(-364));
+    EXPECT_TRUE(ok->isEnabled());
+    date->setDate(data->today().addDays(4));
+    EXPECT_EQ(date->date(), data->today().addDays(3));
+}
+
+} // namespace

@@ -1,0 +1,203 @@
+#include "transactions/screens/countmodel.h"
+
+#include "base/calchelpers.h"
+#include "base/formats.h"
+
+#include <algorithm>
+#include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr int heading = -1;
+
+QString quantityText(const std::optional<double> &quantity)
+{
+    static const Engine::FieldFormat format = quantityFormat();
+    return quantity ? format.display(Engine::Value(*quantity)) : QString();
+}
+
+// Without the noise that a difference of two floating numbers has.
+double rounded(double difference)
+{
+    constexpr long double scale = 1'000'000;
+    return static_cast<double>(roundIt(difference * scale) / scale);
+}
+
+QColor mixed(const QColor &one, const QColor &other, double share)
+{
+    const auto mix = [share](int a, int b) { return qRound(a + (b - a) * share); };
+    return {mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue())};
+}
+
+QFont bold()
+{
+    QFont font;
+    font.setBold(true);
+    return font;
+}
+
+bool isCountColumn(int column) { return column == CountModel::Quantity || column == CountModel::Difference; }
+
+// What has been counted stands out; what has not shows the recorded quantity faintly.
+QVariant look(const CountRow &row, int column, int role)
+{
+    const QPalette palette = QGuiApplication::palette();
+    if (!isCountColumn(column))
+        return {};
+    if (role == Qt::ForegroundRole && !row.typed)
+        return palette.color(QPalette::PlaceholderText);
+    if (role == Qt::BackgroundRole && row.typed)
+        return mixed(palette.color(QPalette::Base), palette.color(QPalette::Highlight), row.differs() ? 0.3 : 0.12);
+    if (role == Qt::FontRole && row.typed)
+        return bold();
+    return {};
+}
+
+bool isSameCategory(const CountRow &one, const CountRow &other)
+{
+    return one.typeName.compare(other.typeName, Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+QList<GridColumn> CountModel::gridColumns()
+{
+    return {{u"ItemNo"_s, tr("Item No"), 90},
+            {u"TypeName"_s, tr("Category"), 130},
+            {.field = u"ItemDescription"_s, .title = tr("Item"), .width = 230, .takesSurplus = true},
+            {u"StandardCost"_s, tr("Standard Cost"), 100, Qt::AlignRight},
+            {u"QtyOnhand"_s, tr("Prior Quantity"), 105, Qt::AlignRight},
+            {u"Quantity"_s, tr("Current Quantity"), 120, Qt::AlignRight},
+            {u"Difference"_s, tr("Difference"), 90, Qt::AlignRight}};
+}
+
+CountModel::CountModel(const CountList &list, QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_list(list)
+{
+}
+
+void CountModel::listChanged()
+{
+    beginResetModel();
+    m_items.clear();
+    const bool grouped = m_list.order() == CountList::Order::Category;
+    for (int item = 0; item < m_list.size(); ++item) {
+        if (grouped && (item == 0 || !isSameCategory(m_list.row(item - 1), m_list.row(item))))
+            m_items.push_back(heading);
+        m_items.push_back(item);
+    }
+    endResetModel();
+}
+
+void CountModel::rowChanged(int item)
+{
+    const int row = rowOf(item);
+    Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+}
+
+int CountModel::rowOf(int item) const
+{
+    const auto found = std::find(m_items.begin(), m_items.end(), item);
+    return item < 0 || found == m_items.end() ? -1 : static_cast<int>(found - m_items.begin());
+}
+
+std::vector<int> CountModel::headings() const
+{
+    std::vector<int> rows;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (m_items[static_cast<size_t>(row)] == heading)
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+int CountModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_items.size());
+}
+
+int CountModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : ColumnCount; }
+
+QString CountModel::text(const CountRow &row, int column, int role) const
+{
+    switch (column) {
+    case ItemNo:
+        return row.itemNo;
+    case Category:
+        return row.typeName;
+    case Item:
+        return row.description;
+    case StandardCost:
+        return role == Qt::EditRole ? currencyEditText(row.standardCost) : currencyText(row.standardCost);
+    case Prior:
+        return quantityText(row.recorded);
+    case Quantity:
+        return quantityText(row.typed ? row.typed : row.recorded);
+    default:
+        return row.typed ? quantityText(rounded(row.difference())) : QString();
+    }
+}
+
+QVariant CountModel::headingData(int row, int role) const // over all columns
+{
+    const int first = m_items[static_cast<size_t>(row) + 1];
+    switch (role) {
+    case Qt::DisplayRole:
+        return m_list.row(first).typeName;
+    case Qt::FontRole:
+        return bold();
+    case Qt::BackgroundRole:
+        return QGuiApplication::palette().color(QPalette::AlternateBase);
+    case Qt::ForegroundRole: // it is disabled only to be passed over
+        return QGuiApplication::palette().color(QPalette::Text);
+    default:
+        return {};
+    }
+}
+
+QVariant CountModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const int item = itemAt(index.row());
+    if (item == heading)
+        return index.column() == 0 ? headingData(index.row(), role) : QVariant();
+    const CountRow &row = m_list.row(item);
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return text(row, index.column(), role);
+    case Qt::TextAlignmentRole:
+        return QVariant(m_columns[index.column()].alignment | Qt::AlignVCenter);
+    default:
+        return look(row, index.column(), role);
+    }
+}
+
+QVariant CountModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section >= ColumnCount)
+        return {};
+    if (role == Qt::DisplayRole)
+        return m_columns[section].title;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(m_columns[section].alignment | Qt::AlignVCenter);
+    return {};
+}
+
+Qt::ItemFlags CountModel::flags(const QModelIndex &index) const
+{
+    if (itemAt(index.row()) == heading)
+        return Qt::NoItemFlags;
+    const bool editable = index.column() == Quantity || index.column() == StandardCost;
+    return QAbstractTableModel::flags(index) | (editable ? Qt::ItemIsEditable : Qt::NoItemFlags);
+}
+
+} // namespace Tallymere

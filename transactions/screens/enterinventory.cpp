@@ -1,0 +1,370 @@
+#include "transactions/screens/enterinventory.h"
+
+#include "base/formats.h"
+#include "base/ruleerror.h"
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "engine/error.h"
+#include "ui_enterinventory.h"
+
+#include <QKeyEvent>
+#include <QScopeGuard>
+#include <QShortcut>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr int shownRows = 16;
+
+CountDrafts draftsOf(TDataModuleTallymere &data)
+{
+    return CountDrafts(data.databaseTallymere().connection().location(), data.currentUser());
+}
+
+// Nothing has been written then, and it can be tried again.
+bool isLockOfOthers(Engine::ErrorCode code)
+{
+    using Engine::ErrorCode;
+    return code == ErrorCode::RecordLocked || code == ErrorCode::TableLocked || code == ErrorCode::TableInUse;
+}
+
+} // namespace
+
+TFormEnterInventory::TFormEnterInventory(ScreenContext &context, QWidget *parent)
+    : EntryScreen(context, parent)
+    , m_ui(std::make_unique<Ui::TFormEnterInventory>())
+    , m_count(context.data.databaseTallymere(), context.prompts, draftsOf(context.data))
+{
+    m_ui->setupUi(this);
+    m_ui->wwDBDateTimePickerInventoryDate->setDate(context.data.today());
+    m_ui->wwDBDateTimePickerInventoryDate->setMaximumDate(StockCount::latestDate(context.data.today()));
+    m_ui->cboSearchOrder->addItems({tr("Item No"), tr("Category"), tr("Item"), tr("Standard Cost")}); // as Order
+    m_ui->wwDBGridInventory->setList(
+        m_count.list(),
+        {.count = [this](int item, std::optional<double> quantity) { countItem(item, quantity); },
+         .setCost =
+             [this](int item, Engine::Money cost) {
+                 m_count.setStandardCost(item, cost);
+                 m_ui->wwDBGridInventory->itemChanged(item);
+             },
+         .sort = [this](CountList::Order order) { sortBy(order); }},
+        guard());
+    fillLocations();
+    connectControls();
+    dateChosen();
+    buildScreen();
+    showList();
+}
+
+TFormEnterInventory::~TFormEnterInventory() = default;
+
+void TFormEnterInventory::connectControls()
+{
+    connect(m_ui->RzComboBoxLocation, &QComboBox::activated, this,
+            [this](int index) { guard().run([&] { locationChosen(index); }); });
+    m_ui->RzComboBoxLocation->installEventFilter(this);
+    connectGuarded(m_ui->RzCheckBoxIncludeZeroCountItems, &QCheckBox::clicked, this,
+                   &TFormEnterInventory::zeroCountsChosen);
+    connect(m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::dateChanged, this,
+            &TFormEnterInventory::dateChosen);
+    connect(m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::refused, this, &TFormEnterInventory::showStatus);
+    connect(m_ui->cboSearchOrder, &QComboBox::activated, this,
+            [this](int order) { sortBy(static_cast<CountList::Order>(order)); });
+    connect(m_ui->wwIncrementalSearch1, &QLineEdit::textEdited, this, &TFormEnterInventory::searchTyped);
+    connect(m_ui->wwDBGridInventory, &CountGrid::itemShown, this, [this] { showStatus(); });
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        m_ui->wwIncrementalSearch1->setFocus();
+        m_ui->wwIncrementalSearch1->selectAll();
+    });
+    connectGuarded(m_ui->BitBtnOK, &QPushButton::clicked, this, &TFormEnterInventory::bitBtnOKClick);
+    connect(m_ui->BitBtnCancel, &QPushButton::clicked, this, &QWidget::close);
+    connectGuarded(m_ui->ActionCalculateConsumption, &QAction::triggered, this,
+                   &TFormEnterInventory::actionCalculateConsumptionExecute);
+}
+
+void TFormEnterInventory::firstShown()
+{
+    const int rows = m_ui->wwDBGridInventory->heightForRows(shownRows);
+    resize(std::max(m_ui->wwDBGridInventory->fullWidth(), sizeHint().width()),
+           sizeHint().height() - m_ui->wwDBGridInventory->sizeHint().height() + rows);
+}
+
+// --- the location -----------------------------------------------------------------------------------------------
+
+void TFormEnterInventory::fillLocations()
+{
+    for (const CountLocation &location : m_count.locations())
+        m_ui->RzComboBoxLocation->addItem(location.text());
+    m_ui->RzComboBoxLocation->setCurrentIndex(-1);
+}
+
+bool TFormEnterInventory::mayLoseCounts(const QString &question)
+{
+    if (!m_count.hasCounts())
+        return true;
+    if (!context().prompts.confirm(Question::YesNo, question))
+        return false;
+    m_count.dropDraft();
+    return true;
+}
+
+// The grid must not show rows that go while the user is told something.
+void TFormEnterInventory::closeList()
+{
+    m_count.close();
+    m_ui->wwDBGridInventory->listChanged();
+}
+
+void TFormEnterInventory::locationChosen(int index)
+{
+    if (!mayLoseCounts(
+            tr("If you change Locations the edits you \r\nhave made to the inventory list will be lost.\r\n"
+               "Proceed with changing the Location?"))) {
+        m_ui->RzComboBoxLocation->setCurrentIndex(m_chosen);
+        return;
+    }
+    closeList();
+    const auto shown = qScopeGuard([this] { showList(); });
+    openLocation(index);
+}
+
+void TFormEnterInventory::openLocation(int index)
+{
+    {
+        const WaitCursor hourglass;
+        if (!m_count.open(CountLocation::idOf(m_ui->RzComboBoxLocation->itemText(index)), zeroCountsWanted()))
+            return;
+    }
+    m_chosen = index;
+    offerDraft();
+}
+
+void TFormEnterInventory::offerDraft()
+{
+    const std::optional<CountDraft> draft = m_count.draft();
+    if (!draft)
+        return;
+    const QString question =
+        tr("You have counted %n item(s) at this location and not calculated the usage yet (%1).\n"
+           "Do you want to go on with that count? No gives it up.",
+           nullptr, static_cast<int>(draft->counts.size()))
+            .arg(QLocale::system().toString(draft->saved, QLocale::ShortFormat));
+    switch (context().prompts.yesNoCancel(question)) {
+    case Answer::Yes:
+        return resume(*draft);
+    case Answer::No:
+        return m_count.dropDraft();
+    case Answer::Cancel:
+        break;
+    }
+    m_count.close();
+    m_ui->RzComboBoxLocation->setCurrentIndex(-1);
+}
+
+void TFormEnterInventory::resume(const CountDraft &draft)
+{
+    m_count.resume(draft);
+    m_ui->RzCheckBoxIncludeZeroCountItems->setChecked(draft.zeroCounts == ZeroCounts::Included);
+    m_ui->wwDBDateTimePickerInventoryDate->setDate(draft.date);
+}
+
+ZeroCounts TFormEnterInventory::zeroCountsWanted() const
+{
+    return m_ui->RzCheckBoxIncludeZeroCountItems->isChecked() ? ZeroCounts::Included : ZeroCounts::Excluded;
+}
+
+void TFormEnterInventory::zeroCountsChosen()
+{
+    if (!mayLoseCounts(
+            tr("If you change items to be included the edits you \r\nhave made to the inventory list will "
+               "be lost.\r\nProceed with changing the items?"))) {
+        m_ui->RzCheckBoxIncludeZeroCountItems->toggle();
+        return;
+    }
+    if (!m_count.isOpen())
+        return;
+    closeList();
+    const auto shown = qScopeGuard([this] { showList(); });
+    const WaitCursor hourglass;
+    m_count.setZeroCounts(zeroCountsWanted());
+}
+
+// --- order and search -------------------------------------------------------------------------------------------
+
+void TFormEnterInventory::sortBy(CountList::Order order)
+{
+    m_count.sortBy(order);
+    m_ui->cboSearchOrder->setCurrentIndex(static_cast<int>(order));
+    m_ui->wwDBGridInventory->listChanged();
+}
+
+void TFormEnterInventory::searchTyped(const QString &text)
+{
+    m_ui->wwDBGridInventory->showItem(text.isEmpty() ? -1 : m_count.list().rowStartingWith(text));
+}
+
+// An item number leads to its item whatever the order is.
+void TFormEnterInventory::searchEntered()
+{
+    const QString text = m_ui->wwIncrementalSearch1->text().trimmed();
+    m_ui->wwIncrementalSearch1->selectAll();
+    if (text.isEmpty())
+        return m_ui->wwDBGridInventory->setFocus();
+    const int numbered = m_count.list().rowOfNumber(text);
+    const int found = numbered >= 0 ? numbered : m_count.list().rowStartingWith(text);
+    if (found < 0)
+        return showStatus(tr("'%1' is not in the list").arg(text));
+    m_ui->wwDBGridInventory->countItem(found);
+}
+
+bool TFormEnterInventory::takeKey(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || focusWidget() != m_ui->wwIncrementalSearch1)
+        return false;
+    searchEntered();
+    return true;
+}
+
+// The arrow keys would otherwise open one location after the other.
+bool TFormEnterInventory::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->RzComboBoxLocation && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            m_ui->RzComboBoxLocation->showPopup();
+            return true;
+        }
+    }
+    return EntryScreen::eventFilter(watched, event);
+}
+
+bool TFormEnterInventory::focusColumn(const QString &)
+{
+    m_ui->wwDBGridInventory->setFocus();
+    return true;
+}
+
+// --- counting ---------------------------------------------------------------------------------------------------
+
+void TFormEnterInventory::countItem(int item, std::optional<double> quantity)
+{
+    if (quantity)
+        m_count.count(item, *quantity);
+    else
+        m_count.forgetCount(item);
+    m_ui->wwDBGridInventory->itemChanged(item);
+    showReady();
+    showStatus();
+}
+
+void TFormEnterInventory::dateChosen()
+{
+    m_count.setDate(m_ui->wwDBDateTimePickerInventoryDate->date());
+    showReady();
+}
+
+bool TFormEnterInventory::isReady() const
+{
+    return !m_ui->RzComboBoxLocation->currentText().isEmpty()
+        && StockCount::isCountable(m_ui->wwDBDateTimePickerInventoryDate->date(), context().data.today());
+}
+
+void TFormEnterInventory::showReady() { m_ui->BitBtnOK->setEnabled(isReady()); }
+
+void TFormEnterInventory::showList()
+{
+    m_ui->wwDBGridInventory->listChanged();
+    m_ui->wwDBGridInventory->setHint(hintText());
+    showReady();
+    showStatus();
+}
+
+void TFormEnterInventory::showStatus(const QString &said)
+{
+    m_ui->lblStatus->setText(said.isEmpty() ? statusText() : said);
+    m_ui->lblStatus->setToolTip(m_count.draftFailure());
+}
+
+QString TFormEnterInventory::statusText() const
+{
+    if (!m_count.isOpen())
+        return {};
+    const CountList::Totals totals = m_count.list().totals();
+    const QString text = tr("%1 of %2 counted, %3 differ, value of the difference %4")
+                             .arg(QString::number(totals.counted), QString::number(m_count.list().size()),
+                                  QString::number(totals.differing), currencyText(totals.value));
+    return m_count.draftFailure().isEmpty() ? text : text + tr(" - not kept on this machine");
+}
+
+QString TFormEnterInventory::hintText() const
+{
+    if (m_count.isOpen())
+        return tr("There is no stock at this location. \"Include Zero Count Items\" shows what could be there.");
+    if (!m_ui->RzComboBoxLocation->currentText().isEmpty())
+        return tr("This location can be counted when its transactions have been posted.");
+    QStringList kept;
+    for (const CountLocation &location : m_count.locationsWithDraft())
+        kept.append(location.name);
+    const QString choose = tr("Choose the location that is counted.");
+    return kept.isEmpty() ? choose
+                          : choose + u"\n\n"_s + tr("Counted and not calculated yet: %1").arg(kept.join(u", "_s));
+}
+
+// --- the end ----------------------------------------------------------------------------------------------------
+
+void TFormEnterInventory::bitBtnOKClick()
+{
+    m_ui->wwDBGridInventory->commitEntry();
+    switch (context().prompts.yesNoCancel(
+        tr("Proceed with calculating the item usage based\r\nupon the quantities that have been entered?"),
+        Tallymere::caption(Question::Confirm))) {
+    case Answer::Yes:
+        return m_ui->ActionCalculateConsumption->trigger();
+    case Answer::No:
+        close();
+        return;
+    case Answer::Cancel:
+        return;
+    }
+}
+
+// What has been typed since may be calculated as well.
+void TFormEnterInventory::actionCalculateConsumptionExecute()
+{
+    m_ui->BitBtnOK->setEnabled(false);
+    std::optional<CalculatedUsage> usage;
+    try {
+        const WaitCursor hourglass;
+        usage = m_count.calculate();
+    } catch (const SilentAbort &) {
+        showReady();
+        throw;
+    } catch (const Engine::EngineError &error) {
+        m_ui->BitBtnOK->setEnabled(isLockOfOthers(error.code()));
+        throw;
+    }
+    m_ui->wwDBGridInventory->listChanged();
+    showStatus(usage ? tr("Usage %1 has been written, %n line(s). Post it when it has been looked over.", nullptr,
+                          usage->lines)
+                           .arg(usage->number)
+                     : tr("No item holds less than recorded: no usage has been written."));
+}
+
+EntryScreen::Pending TFormEnterInventory::pending() const
+{
+    return m_count.hasCounts() || m_ui->wwDBGridInventory->hasEntry() ? Pending::Changes : Pending::Nothing;
+}
+
+void TFormEnterInventory::saveChanges() { m_ui->wwDBGridInventory->commitEntry(); }
+
+QString TFormEnterInventory::closingQuestion() const
+{
+    return tr("What you have counted has not been calculated.\n"
+              "Do you want to keep it on this machine and go on later?");
+}
+
+} // namespace Tallymere

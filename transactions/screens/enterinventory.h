@@ -1,0 +1,71 @@
+#pragma once
+
+#include "controls/entryscreen.h"
+#include "transactions/stockcount.h"
+
+#include <memory>
+
+namespace Ui {
+class TFormEnterInventory;
+}
+
+namespace Tallymere {
+
+// "Enter Inventory": the stock at a location is counted, and what has been used becomes a usage document.
+//
+// An item number typed or scanned into the search box leads to the item's quantity, and Enter there to the next one. What
+// is counted is kept on this machine until it has been calculated; closing asks whether to keep it.
+class TFormEnterInventory final : public EntryScreen
+{
+    Q_OBJECT
+
+public:
+    TFormEnterInventory(ScreenContext &context, QWidget *parent);
+    ~TFormEnterInventory() override;
+
+    void bitBtnOKClick();
+    void actionCalculateConsumptionExecute();
+
+protected:
+    Pending pending() const override;
+    void saveChanges() override; // they are kept for later
+    void dropChanges() override { m_count.dropDraft(); }
+    std::optional<int> savedKey() const override { return std::nullopt; }
+    QString caption() const override { return tr("Enter Inventory"); }
+    QString closingQuestion() const override;
+    bool focusColumn(const QString &column) override;
+    bool takeKey(QKeyEvent *event) override;
+    void firstShown() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void connectControls();
+    void fillLocations();
+    void closeList();
+    void locationChosen(int index);
+    void openLocation(int index);
+    void offerDraft();
+    void resume(const CountDraft &draft);
+    void zeroCountsChosen();
+    ZeroCounts zeroCountsWanted() const;
+    bool mayLoseCounts(const QString &question);
+
+    void sortBy(CountList::Order order);
+    void searchTyped(const QString &text);
+    void searchEntered();
+
+    void countItem(int item, std::optional<double> quantity);
+    void dateChosen();
+    bool isReady() const;
+    void showReady();
+    void showList();
+    void showStatus(const QString &said = {});
+    QString statusText() const;
+    QString hintText() const;
+
+    const std::unique_ptr<Ui::TFormEnterInventory> m_ui;
+    StockCount m_count;
+    int m_chosen = -1; // the location of the list, by its place in the box
+};
+
+} // namespace Tallymere
