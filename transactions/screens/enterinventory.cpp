@@ -115,7 +115,9 @@ bool TFormEnterInventory::mayLoseCounts(const QString &question)
 void TFormEnterInventory::closeList()
 {
     m_count.close();
+    m_ui->wwDBGridInventory->setHint({});
     m_ui->wwDBGridInventory->listChanged();
+    showStatus();
 }
 
 void TFormEnterInventory::locationChosen(int index)
