@@ -45,7 +45,7 @@ CountDraft read(const QJsonObject &object)
     draft.date = QDate::fromString(object[u"date"_s].toString(), Qt::ISODate);
     draft.zeroCounts = object[u"zeroCounts"_s].toBool() ? ZeroCounts::Included : ZeroCounts::Excluded;
     const QJsonArray counts = object[u"counts"_s].toArray();
-    for (const QJsonValue &count : counts) {
+    for (const auto &count : counts) {
         const double quantity = count[1].toDouble(-1);
         if (std::isfinite(quantity) && quantity >= 0)
             draft.counts.insert(count[0].toInteger(), quantity);
@@ -55,8 +55,8 @@ CountDraft read(const QJsonObject &object)
 
 } // namespace
 
-CountDrafts::CountDrafts(const QString &database, const QString &user, QString folder)
-    : m_folder(std::move(folder) + u'/' + folderName(database, user))
+CountDrafts::CountDrafts(const QString &database, const QString &user, const QString &folder)
+    : m_folder(folder + u'/' + folderName(database, user))
 {
 }
 

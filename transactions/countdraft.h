@@ -23,7 +23,7 @@ class CountDrafts
 {
 public:
     // The folder in which all drafts are kept; where programs keep their data unless given.
-    CountDrafts(const QString &database, const QString &user, QString folder = standardFolder());
+    CountDrafts(const QString &database, const QString &user, const QString &folder = standardFolder());
     static QString standardFolder();
 
     std::optional<CountDraft> load(int location) const; // nothing where there is none that can be read

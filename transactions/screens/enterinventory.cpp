@@ -231,17 +231,15 @@ bool TFormEnterInventory::takeKey(QKeyEvent *event)
     return true;
 }
 
-// The arrow keys would otherwise open one location after the other.
+// The arrow keys and the wheel would open one location after the other.
 bool TFormEnterInventory::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_ui->RzComboBoxLocation && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Up || key == Qt::Key_Down) {
-            m_ui->RzComboBoxLocation->showPopup();
-            return true;
-        }
-    }
-    return EntryScreen::eventFilter(watched, event);
+    if (watched != m_ui->RzComboBoxLocation)
+        return EntryScreen::eventFilter(watched, event);
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    if (key == Qt::Key_Up || key == Qt::Key_Down)
+        m_ui->RzComboBoxLocation->showPopup();
+    return key == Qt::Key_Up || key == Qt::Key_Down || event->type() == QEvent::Wheel;
 }
 
 bool TFormEnterInventory::focusColumn(const QString &)
