@@ -99,7 +99,7 @@ void KitchenBooks::addReceipt(const KitchenDocument &document, const std::vector
     ++m_receiptId;
 }
 
-void KitchenBooks::addUsage(const KitchenDocument &document, const std::vector<KitchenLine> &lines)
+void KitchenBooks::addUsage(const KitchenDocument &document, const std::vector<KitchenLine> &lines, bool posted)
 {
     const Period period = periodOf(document.date);
     const QString number = QString::number(m_usageNo++);
@@ -108,13 +108,14 @@ void KitchenBooks::addUsage(const KitchenDocument &document, const std::vector<K
     int seq = 0;
     for (const KitchenLine &line : lines) {
         m_usageLines.add({m_usageId, ++seq, line.quantity, line.item, line.cost});
-        m_history.add({line.item, document.warehouse, period.year, period.number, typeValue(TransType::Usage),
-                       document.date, line.quantity, line.cost, description, Value(), Value(), m_usageId});
+        if (posted)
+            m_history.add({line.item, document.warehouse, period.year, period.number, typeValue(TransType::Usage),
+                           document.date, line.quantity, line.cost, description, Value(), Value(), m_usageId});
         amount = amount + toCents(static_cast<long double>(line.quantity) * line.cost.toLongDouble());
     }
     m_usages.add({m_usageId++, number, document.warehouse,
                   u"Meals of %1"_s.arg(document.date.toString(Qt::ISODate)), document.date, amount, period.number,
-                  period.year, false, true});
+                  period.year, false, posted});
 }
 
 void KitchenBooks::addAdjustment(const KitchenDocument &document, const std::vector<KitchenLine> &lines)

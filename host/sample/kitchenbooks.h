@@ -9,7 +9,7 @@
 
 namespace Tallymere {
 
-// A posted document of the large kitchen, line by line.
+// A document of the large kitchen, line by line.
 struct KitchenDocument
 {
     QDate date;
@@ -33,7 +33,7 @@ public:
     explicit KitchenBooks(Engine::Database &database);
 
     void addReceipt(const KitchenDocument &document, const std::vector<KitchenLine> &lines, bool posted = true);
-    void addUsage(const KitchenDocument &document, const std::vector<KitchenLine> &lines);
+    void addUsage(const KitchenDocument &document, const std::vector<KitchenLine> &lines, bool posted = true);
     void addAdjustment(const KitchenDocument &document, const std::vector<KitchenLine> &lines);
     void finish();
 

@@ -169,17 +169,18 @@ std::vector<KitchenLine> LargeKitchen::adjust(int location, int lineCount)
     return lines;
 }
 
-// Receipts that have come in but are not posted yet; stock and costs do not know of them.
+// What has come in and gone out but is not posted yet; stock and costs do not know of it.
 void LargeKitchen::addUnposted(KitchenBooks &books)
 {
     const std::vector<Item> posted = m_items;
-    for (int i = 0; i < unpostedReceipts; ++i) {
+    for (int i = 0; i < unpostedOfAKind; ++i) {
         KitchenDocument document;
         document.date = lastDay.addDays(1 + i % 3);
         const int location = m_chance.below(locationCount);
         document.warehouse = m_locations[static_cast<size_t>(location)];
         const std::vector<KitchenLine> lines = receive(document, location, linesPerDocument, 1.15);
         books.addReceipt(document, lines, false);
+        books.addUsage(document, use(location, linesPerDocument), false);
     }
     m_items = posted;
 }

@@ -25,7 +25,7 @@ void bringIn(TDataModuleTallymere &data, const QString &kind, const QString &nam
 {
     QFile file(samplePath(name));
     openSample(file);
-    // The year's receipts lie before the periods that are expected now.
+    // The year's documents lie before the periods that are expected now.
     constexpr bool answerYes = true;
     const ImportResult result =
         importFile(data.databaseTallymere(), file, *findImportKind(kind), answerYes, progress);
@@ -83,9 +83,10 @@ void bringInSampleMasters(TDataModuleTallymere &data, Progress &progress)
     fillHostTable(data.databaseTallymere(), u"Items"_s, u"meals"_s);
 }
 
-void bringInSampleReceipts(TDataModuleTallymere &data, const QString &name, Progress &progress)
+void bringInSampleDocuments(TDataModuleTallymere &data, const QString &kind, SampleDocuments documents,
+                            Progress &progress)
 {
-    bringIn(data, u"receipts"_s, name, progress);
+    bringIn(data, kind, documents == SampleDocuments::Posted ? kind : kind + "-unposted"_L1, progress);
 }
 
 } // namespace Tallymere
