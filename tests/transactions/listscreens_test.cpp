@@ -152,6 +152,8 @@ TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
     EXPECT_TRUE(comesTrue([&] { return receipt->isActiveWindow(); }));
     EXPECT_THROW(jump.open(77, u"Receipt 77"_s), RuleError);
 
+    receipt->close(); // so that there is one to be found
+    settle();
     jump.open(3, u"Receipt 1003"_s);
     receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
     showActive(*receipt);
