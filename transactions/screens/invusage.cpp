@@ -2,6 +2,7 @@
 
 #include "controls/datedialog.h"
 #include "controls/linegrid.h"
+#include "data/datamodule.h"
 #include "transactions/documentkinds.h"
 #include "ui_invusage.h"
 
@@ -30,7 +31,7 @@ void TfrmUsage::firstShown() { resize(width(), height() - grid()->height() + gri
 void TfrmUsage::btnInventoryDateClick()
 {
     const QDate preset = entry().header().date(u"InventoryDate");
-    if (const auto date = DateDialog::choose(context(), preset.isValid() ? preset : QDate::currentDate(), this))
+    if (const auto date = DateDialog::choose(context(), preset.isValid() ? preset : context().data.today(), this))
         entry().chooseInHeader(u"InventoryDate"_s, *date);
     m_ui->editInventoryDate->setFocus();
 }

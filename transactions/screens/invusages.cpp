@@ -58,7 +58,7 @@ ListCommand TfrmUsages::deleteMenu(const ListCommand &selected)
 
 void TfrmUsages::mnuDeleteDateClick()
 {
-    const auto date = DateDialog::choose(context(), QDate::currentDate(), this);
+    const auto date = DateDialog::choose(context(), context().data.today(), this);
     if (!date)
         return;
     UsageDeletion deletion(context().data.databaseTallymere(), *date);
