@@ -1,4 +1,4 @@
-// Posting of 100,000 receipt lines against the same row changes by raw prepared statements: in the file store one
+// Posting of 100,000 lines of receipts, and of usage, against the same row changes by raw prepared statements: in the file store one
 // transaction with the same cache, on the server statement by statement with a transaction for each document.
 // Prints the ratio of the medians. Usage: bench_posting [local|remote] [ROUNDS]
 
@@ -15,6 +15,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int documents = 5'000;
 
 class Quiet final : public Tallymere::Prompts, public Tallymere::Progress
 {
@@ -38,8 +40,15 @@ QString result(Engine::Database &database)
         + one(u"SELECT round(sum(Quantity * UnitCost) * 100) FROM IHist"_s) + u' '
         + one(u"SELECT sum(QtyOnHand * ItemID * WarehouseID) FROM IBalance"_s) + u' '
         + one(u"SELECT round(sum(WgtAvgCost * ItemID) * 100) FROM Item"_s) + u' '
-        + one(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s);
+        + one(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s) + u' '
+        + one(u"SELECT count(*) FROM IUsage WHERE Posted = true"_s);
 }
+
+struct Kind
+{
+    RawDocuments raw;
+    const Tallymere::DocumentKind &ours;
+};
 
 struct Run
 {
@@ -48,7 +57,7 @@ struct Run
     QString result;
 };
 
-Run postOurs(const BenchData &data)
+Run postOurs(const Kind &kind, const BenchData &data)
 {
     const auto copy = data.copy();
     copy->database().connection();
@@ -57,36 +66,36 @@ Run postOurs(const BenchData &data)
     malloc_trim(0); // what earlier runs have freed would hide what this one takes
     resetPeakMemory();
     const double before = currentMemory();
-    run.cost = costOf([&] {
-        Tallymere::DocumentPosting(copy->database(), Tallymere::DocumentKinds::receipt()).run(quiet, quiet);
-    });
+    run.cost = costOf([&] { Tallymere::DocumentPosting(copy->database(), kind.ours).run(quiet, quiet); });
     run.memory = peakMemory() - before;
     run.result = result(copy->database());
     return run;
 }
 
-Run postRaw(Store store, const BenchData &data)
+Run postRaw(const Kind &kind, Store store, const BenchData &data)
 {
     const auto copy = data.copy();
     Run run;
-    run.cost = costOf(
-        [&] { store == Store::Local ? postRawSqlite(copy->location()) : postRawPostgres(copy->location()); });
+    run.cost = costOf([&] {
+        store == Store::Local ? postRawSqlite(kind.raw, copy->location())
+                              : postRawPostgres(kind.raw, copy->location());
+    });
     run.result = result(copy->database());
     return run;
 }
 
-void compare(Store store, int history, int rounds)
+void compare(const Kind &kind, Store store, int history, int rounds)
 {
     BenchData::Size size;
-    size.receipts = 5'000;
+    (kind.raw == RawDocuments::Usage ? size.usages : size.receipts) = documents;
     size.history = history;
     const BenchData data(store, size);
-    const int lines = size.receipts * size.linesEach;
+    const int lines = documents * size.linesEach;
     std::vector<Cost> ours, raws;
     double memory = 0;
     for (int round = 0; round < rounds; ++round) {
-        const Run theirs = postRaw(store, data);
-        const Run mine = postOurs(data);
+        const Run theirs = postRaw(kind, store, data);
+        const Run mine = postOurs(kind, data);
         ours.push_back(mine.cost);
         raws.push_back(theirs.cost);
         memory = std::max(memory, mine.memory);
@@ -102,10 +111,11 @@ void compare(Store store, int history, int rounds)
     };
     const double our = middle(ours, &Cost::wall);
     const double raw = middle(raws, &Cost::wall);
-    std::printf("%-6s history %9d: ours %6.2f s (%6.0f lines/s, processor %5.2f s), raw %6.2f s (%6.0f lines/s, "
-                "processor %5.2f s), ours/raw %.2f, memory +%.0f MB\n",
-                storeName(store), history, our, lines / our, middle(ours, &Cost::processor), raw, lines / raw,
-                middle(raws, &Cost::processor), our / raw, memory);
+    std::printf(
+        "%-8s %-6s history %9d: ours %6.2f s (%6.0f lines/s, processor %5.2f s), raw %6.2f s (%6.0f lines/s, "
+        "processor %5.2f s), ours/raw %.2f, memory +%.0f MB\n",
+        qPrintable(kind.ours.name), storeName(store), history, our, lines / our, middle(ours, &Cost::processor),
+        raw, lines / raw, middle(raws, &Cost::processor), our / raw, memory);
     std::fflush(stdout);
 }
 
@@ -119,8 +129,10 @@ int main(int argc, char **argv)
     for (const Store store : {Store::Local, Store::Remote}) {
         if (!only.isEmpty() && only != QString::fromLatin1(storeName(store)).toLower())
             continue;
-        for (const int history : {0, 1'000'000})
-            compare(store, history, rounds);
+        for (const Kind &kind : {Kind{RawDocuments::Receipts, Tallymere::DocumentKinds::receipt()},
+                                 Kind{RawDocuments::Usage, Tallymere::DocumentKinds::usage()}})
+            for (const int history : {0, 1'000'000})
+                compare(kind, store, history, rounds);
     }
     return 0;
 }

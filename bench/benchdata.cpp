@@ -83,6 +83,7 @@ void BenchData::fill(Engine::Database &database, const Size &size)
     connection.begin();
     insert(u"Item (ItemID, ItemNo, ItemDescription, ItemTypeID, WgtAvgCost)"_s,
            u"i, 'I' || i, 'Item ' || (i * 7919 % 10007), i % 6 + 1, 0"_s, size.items);
+    insert(u"ItemType (ItemTypeID, TypeName, Inventory, CostingMethod)"_s, u"i, 'Type ' || i, true, 1"_s, 6);
     insert(u"Warehse (WarehouseID, WarehouseName)"_s, u"i, 'Location ' || i"_s, size.locations);
     insert(u"Currency (CurrencyID, CurrencyName, ExchangeRate)"_s, u"i, 'Currency ' || i, 1.25 - 0.25 * i"_s, 2);
     insert(u"Vendor (VendorID, VendorNo, VendorName, CurrencyID)"_s,
@@ -95,6 +96,12 @@ void BenchData::fill(Engine::Database &database, const Size &size)
     insert(u"IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost)"_s,
            u"(i - 1) / %1 + 1, (i - 1) % %1 + 1, %2, i % 9 + 1, 1 + i % 500 * 0.01"_s.arg(size.linesEach).arg(item),
            size.receipts * size.linesEach);
+    insert(u"IUsage (UsageID, UsageNo, GLYear, GLPeriod, InventoryDate, WarehouseID, Posted)"_s,
+           u"i, '' || (10000 + i), 2026, i % 12 + 1, '2026-03-14', i % %1 + 1, false"_s.arg(size.locations),
+           size.usages);
+    insert(u"IUsageDet (UsageID, Seq, ItemID, Quantity, UnitCost)"_s,
+           u"(i - 1) / %1 + 1, (i - 1) % %1 + 1, %2, i % 9 + 1, 1 + i % 500 * 0.01"_s.arg(size.linesEach).arg(item),
+           size.usages * size.linesEach);
     insert(u"IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
            "TransDescription, ReceiptID)"_s,
            u"%1, %2, 2025, i % 12 + 1, 3, '2025-03-14', i % 9 + 1, 1 + i % 500 * 0.01, 'Receipt: ' || i, i"_s.arg(

@@ -17,6 +17,7 @@ public:
         int locations = 10;
         int vendors = 50;
         int receipts = 0; // unposted
+        int usages = 0; // likewise
         int linesEach = 20;
         int history = 0; // rows posted earlier
     };

@@ -14,20 +14,43 @@ using Engine::Money;
 
 namespace {
 
-constexpr const char *unposted =
-    "SELECT I.ReceiptID, I.ReceiptNo, I.GLYear, I.GLPeriod, I.ReceiptDate, I.WarehouseID, C.ExchangeRate "
-    "FROM IReceipt I INNER JOIN Vendor V ON I.VendorID = V.VendorID "
-    "LEFT OUTER JOIN Currency C ON V.CurrencyID = C.CurrencyID WHERE I.Posted = false ORDER BY I.ReceiptID";
-
 // One statement of either store: texts in, texts out would distort SQLite, so each store has its own binding.
 struct Step
 {
     const char *text;
 };
-constexpr Step mark{"UPDATE IReceipt SET Posted = true WHERE ReceiptID = $1"};
-constexpr Step lines{"SELECT ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = $1 ORDER BY Seq"};
-constexpr Step history{"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, "
-                       "UnitCost, TransDescription, ReceiptID) VALUES ($1, $2, $3, $4, 3, $5, $6, $7, $8, $9)"};
+// What differs between the kinds of documents.
+struct RawKind
+{
+    const char *unposted;
+    Step mark, lines, history;
+    const char *description;
+    bool averages; // the items' costs follow
+    double direction;
+};
+constexpr RawKind receiptKind{
+    "SELECT I.ReceiptID, I.ReceiptNo, I.GLYear, I.GLPeriod, I.ReceiptDate, I.WarehouseID, C.ExchangeRate "
+    "FROM IReceipt I INNER JOIN Vendor V ON I.VendorID = V.VendorID "
+    "LEFT OUTER JOIN Currency C ON V.CurrencyID = C.CurrencyID WHERE I.Posted = false ORDER BY I.ReceiptID",
+    {"UPDATE IReceipt SET Posted = true WHERE ReceiptID = $1"},
+    {"SELECT ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = $1 ORDER BY Seq"},
+    {"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, "
+     "UnitCost, TransDescription, ReceiptID) VALUES ($1, $2, $3, $4, 3, $5, $6, $7, $8, $9)"},
+    "Receipt: ",
+    true,
+    1};
+constexpr RawKind usageKind{
+    "SELECT UsageID, UsageNo, GLYear, GLPeriod, InventoryDate, WarehouseID, 0 FROM IUsage WHERE Posted = false "
+    "ORDER BY UsageID",
+    {"UPDATE IUsage SET Posted = true WHERE UsageID = $1"},
+    {"SELECT L.ItemID, L.Quantity, L.UnitCost FROM IUsageDet L INNER JOIN Item I ON L.ItemID = I.ItemID "
+     "INNER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID WHERE L.UsageID = $1 AND T.Inventory = true ORDER BY "
+     "Seq"},
+    {"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, "
+     "UnitCost, TransDescription, UsageID) VALUES ($1, $2, $3, $4, 5, $5, $6, $7, $8, $9)"},
+    "Inventory Usage No: ",
+    false,
+    -1};
 constexpr Step sum{"SELECT sum(QtyOnHand) FROM IBalance WHERE ItemID = $1"};
 constexpr Step cost{"SELECT WgtAvgCost FROM Item WHERE ItemID = $1"};
 constexpr Step setCost{"UPDATE Item SET WgtAvgCost = $1 WHERE ItemID = $2"};
@@ -35,7 +58,7 @@ constexpr Step balance{"SELECT QtyOnHand FROM IBalance WHERE ItemID = $1 AND War
 constexpr Step setBalance{"UPDATE IBalance SET QtyOnHand = $1 WHERE ItemID = $2 AND WarehouseID = $3"};
 constexpr Step addBalance{"INSERT INTO IBalance (QtyOnHand, ItemID, WarehouseID) VALUES ($1, $2, $3)"};
 
-struct Receipt
+struct Document
 {
     long long id;
     std::string number;
@@ -56,12 +79,13 @@ struct Line
 class SqliteRun
 {
 public:
-    explicit SqliteRun(const QString &file)
+    SqliteRun(const RawKind &kind, const QString &file)
+        : m_kind(kind)
     {
         check(sqlite3_open(file.toUtf8().constData(), &m_db));
         run("PRAGMA cache_size = -262144; PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 64000");
-        for (const Step *step :
-             {&mark, &lines, &history, &sum, &cost, &setCost, &balance, &setBalance, &addBalance})
+        for (const Step *step : {&m_kind.mark, &m_kind.lines, &m_kind.history, &sum, &cost, &setCost, &balance,
+                                 &setBalance, &addBalance})
             m_statements.emplace_back(step->text, prepare(step->text));
     }
     ~SqliteRun()
@@ -74,8 +98,8 @@ public:
     void post()
     {
         run("BEGIN IMMEDIATE");
-        for (const Receipt &receipt : receipts())
-            postReceipt(receipt);
+        for (const Document &document : documents())
+            postDocument(document);
         run("COMMIT");
     }
 
@@ -113,10 +137,10 @@ private:
     {
         return reinterpret_cast<const char *>(sqlite3_column_text(row, column));
     }
-    std::vector<Receipt> receipts()
+    std::vector<Document> documents()
     {
-        std::vector<Receipt> all;
-        sqlite3_stmt *row = prepare(unposted);
+        std::vector<Document> all;
+        sqlite3_stmt *row = prepare(m_kind.unposted);
         while (sqlite3_step(row) == SQLITE_ROW)
             all.push_back({sqlite3_column_int64(row, 0), text(row, 1), sqlite3_column_int(row, 2),
                            sqlite3_column_int(row, 3), text(row, 4), sqlite3_column_int(row, 5),
@@ -125,40 +149,57 @@ private:
         return all;
     }
 
-    void postReceipt(const Receipt &receipt)
+    void postDocument(const Document &document)
     {
-        sqlite3_stmt *marking = statement(mark);
-        sqlite3_bind_int64(marking, 1, receipt.id);
+        sqlite3_stmt *marking = statement(m_kind.mark);
+        sqlite3_bind_int64(marking, 1, document.id);
         execute(marking);
-        sqlite3_stmt *row = statement(lines);
-        sqlite3_bind_int64(row, 1, receipt.id);
+        sqlite3_stmt *row = statement(m_kind.lines);
+        sqlite3_bind_int64(row, 1, document.id);
         while (sqlite3_step(row) == SQLITE_ROW)
-            postLine(receipt,
+            postLine(document,
                      {sqlite3_column_int(row, 0), sqlite3_column_double(row, 1), sqlite3_column_double(row, 2)});
     }
 
-    void postLine(const Receipt &receipt, const Line &line)
+    void postLine(const Document &document, const Line &line)
     {
-        const Money unit = Tallymere::lineCost(Money::fromDouble(line.unitCost), receipt.rate);
-        const std::string description = "Receipt: " + receipt.number;
-        sqlite3_stmt *insert = statement(history);
+        const Money unit = Tallymere::lineCost(Money::fromDouble(line.unitCost), document.rate);
+        const std::string description = m_kind.description + document.number;
+        sqlite3_stmt *insert = statement(m_kind.history);
         sqlite3_bind_int(insert, 1, line.item);
-        sqlite3_bind_int(insert, 2, receipt.warehouse);
-        sqlite3_bind_int(insert, 3, receipt.year);
-        sqlite3_bind_int(insert, 4, receipt.period);
-        sqlite3_bind_text(insert, 5, receipt.date.c_str(), -1, SQLITE_TRANSIENT);
+        sqlite3_bind_int(insert, 2, document.warehouse);
+        sqlite3_bind_int(insert, 3, document.year);
+        sqlite3_bind_int(insert, 4, document.period);
+        sqlite3_bind_text(insert, 5, document.date.c_str(), -1, SQLITE_TRANSIENT);
         sqlite3_bind_double(insert, 6, line.quantity);
         sqlite3_bind_double(insert, 7, unit.toDouble());
         sqlite3_bind_text(insert, 8, description.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_bind_int64(insert, 9, receipt.id);
+        sqlite3_bind_int64(insert, 9, document.id);
         execute(insert);
 
+        if (m_kind.averages)
+            average(line, unit);
+
+        sqlite3_stmt *old = statement(balance);
+        sqlite3_bind_int(old, 1, line.item);
+        sqlite3_bind_int(old, 2, document.warehouse);
+        const auto held = single(old);
+        sqlite3_reset(old);
+        sqlite3_stmt *write = statement(held ? setBalance : addBalance);
+        sqlite3_bind_double(write, 1, held.value_or(0) + m_kind.direction * line.quantity);
+        sqlite3_bind_int(write, 2, line.item);
+        sqlite3_bind_int(write, 3, document.warehouse);
+        execute(write);
+    }
+
+    void average(const Line &line, Money unit)
+    {
         sqlite3_stmt *total = statement(sum);
         sqlite3_bind_int(total, 1, line.item);
         const double onHand = single(total).value_or(0);
-        sqlite3_stmt *average = statement(cost);
-        sqlite3_bind_int(average, 1, line.item);
-        if (const auto before = single(average))
+        sqlite3_stmt *stored = statement(cost);
+        sqlite3_bind_int(stored, 1, line.item);
+        if (const auto before = single(stored))
             if (const auto after =
                     Tallymere::averageAfterReceipt({Money::fromDouble(*before), onHand}, line.quantity, unit)) {
                 sqlite3_stmt *update = statement(setCost);
@@ -166,19 +207,9 @@ private:
                 sqlite3_bind_int(update, 2, line.item);
                 execute(update);
             }
-
-        sqlite3_stmt *old = statement(balance);
-        sqlite3_bind_int(old, 1, line.item);
-        sqlite3_bind_int(old, 2, receipt.warehouse);
-        const auto held = single(old);
-        sqlite3_reset(old);
-        sqlite3_stmt *write = statement(held ? setBalance : addBalance);
-        sqlite3_bind_double(write, 1, held.value_or(0) + line.quantity);
-        sqlite3_bind_int(write, 2, line.item);
-        sqlite3_bind_int(write, 3, receipt.warehouse);
-        execute(write);
     }
 
+    const RawKind &m_kind;
     sqlite3 *m_db = nullptr;
     std::vector<std::pair<const char *, sqlite3_stmt *>> m_statements;
 };
@@ -189,28 +220,29 @@ private:
 class PostgresRun
 {
 public:
-    explicit PostgresRun(const QString &conninfo)
-        : m_link(PQconnectdb(conninfo.toUtf8().constData()))
+    PostgresRun(const RawKind &kind, const QString &conninfo)
+        : m_kind(kind)
+        , m_link(PQconnectdb(conninfo.toUtf8().constData()))
     {
-        for (const Step *step :
-             {&mark, &lines, &history, &sum, &cost, &setCost, &balance, &setBalance, &addBalance})
+        for (const Step *step : {&m_kind.mark, &m_kind.lines, &m_kind.history, &sum, &cost, &setCost, &balance,
+                                 &setBalance, &addBalance})
             PQclear(checked(PQprepare(m_link, step->text, step->text, 0, nullptr)));
     }
     ~PostgresRun() { PQfinish(m_link); }
 
     void post()
     {
-        PGresult *rows = checked(PQexec(m_link, unposted));
-        std::vector<Receipt> receipts;
+        PGresult *rows = checked(PQexec(m_link, m_kind.unposted));
+        std::vector<Document> documents;
         for (int i = 0; i < PQntuples(rows); ++i)
-            receipts.push_back({std::atoll(PQgetvalue(rows, i, 0)), PQgetvalue(rows, i, 1),
-                                std::atoi(PQgetvalue(rows, i, 2)), std::atoi(PQgetvalue(rows, i, 3)),
-                                PQgetvalue(rows, i, 4), std::atoi(PQgetvalue(rows, i, 5)),
-                                std::atof(PQgetvalue(rows, i, 6))});
+            documents.push_back({std::atoll(PQgetvalue(rows, i, 0)), PQgetvalue(rows, i, 1),
+                                 std::atoi(PQgetvalue(rows, i, 2)), std::atoi(PQgetvalue(rows, i, 3)),
+                                 PQgetvalue(rows, i, 4), std::atoi(PQgetvalue(rows, i, 5)),
+                                 std::atof(PQgetvalue(rows, i, 6))});
         PQclear(rows);
-        for (const Receipt &receipt : receipts) {
+        for (const Document &document : documents) {
             PQclear(checked(PQexec(m_link, "BEGIN")));
-            postReceipt(receipt);
+            postDocument(document);
             PQclear(checked(PQexec(m_link, "COMMIT")));
         }
     }
@@ -243,41 +275,55 @@ private:
     }
     static std::string number(double value) { return QByteArray::number(value, 'g', 17).toStdString(); }
 
-    void postReceipt(const Receipt &receipt)
+    void postDocument(const Document &document)
     {
-        const std::string id = std::to_string(receipt.id);
-        tell(mark, {id});
-        PGresult *rows = ask(lines, {id});
+        const std::string id = std::to_string(document.id);
+        tell(m_kind.mark, {id});
+        PGresult *rows = ask(m_kind.lines, {id});
         for (int i = 0; i < PQntuples(rows); ++i)
-            postLine(receipt,
+            postLine(document,
                      {std::atoi(PQgetvalue(rows, i, 0)), std::atof(PQgetvalue(rows, i, 1)),
                       std::atof(PQgetvalue(rows, i, 2))});
         PQclear(rows);
     }
 
-    void postLine(const Receipt &receipt, const Line &line)
+    void postLine(const Document &document, const Line &line)
     {
-        const Money unit = Tallymere::lineCost(Money::fromDouble(line.unitCost), receipt.rate);
+        const Money unit = Tallymere::lineCost(Money::fromDouble(line.unitCost), document.rate);
         const std::string item = std::to_string(line.item);
-        const std::string warehouse = std::to_string(receipt.warehouse);
-        tell(history,
-             {item, warehouse, std::to_string(receipt.year), std::to_string(receipt.period), receipt.date,
-              number(line.quantity), number(unit.toDouble()), "Receipt: " + receipt.number,
-              std::to_string(receipt.id)});
+        const std::string warehouse = std::to_string(document.warehouse);
+        tell(m_kind.history,
+             {item, warehouse, std::to_string(document.year), std::to_string(document.period), document.date,
+              number(line.quantity), number(unit.toDouble()), m_kind.description + document.number,
+              std::to_string(document.id)});
+        if (m_kind.averages)
+            average(line, unit);
+        const auto held = single(balance, {item, warehouse});
+        tell(held ? setBalance : addBalance,
+             {number(held.value_or(0) + m_kind.direction * line.quantity), item, warehouse});
+    }
+
+    void average(const Line &line, Money unit)
+    {
+        const std::string item = std::to_string(line.item);
         const double onHand = single(sum, {item}).value_or(0);
         if (const auto before = single(cost, {item}))
             if (const auto after =
                     Tallymere::averageAfterReceipt({Money::fromDouble(*before), onHand}, line.quantity, unit))
                 tell(setCost, {number(after->toDouble()), item});
-        const auto held = single(balance, {item, warehouse});
-        tell(held ? setBalance : addBalance, {number(held.value_or(0) + line.quantity), item, warehouse});
     }
 
+    const RawKind &m_kind;
     PGconn *m_link;
 };
 
+const RawKind &kindOf(RawDocuments documents) { return documents == RawDocuments::Usage ? usageKind : receiptKind; }
+
 } // namespace
 
-void postRawSqlite(const QString &file) { SqliteRun(file).post(); }
+void postRawSqlite(RawDocuments documents, const QString &file) { SqliteRun(kindOf(documents), file).post(); }
 
-void postRawPostgres(const QString &conninfo) { PostgresRun(conninfo).post(); }
+void postRawPostgres(RawDocuments documents, const QString &conninfo)
+{
+    PostgresRun(kindOf(documents), conninfo).post();
+}
