@@ -15,9 +15,6 @@ const ImportKind &requireKind(const QString &name)
 {
     if (const ImportKind *kind = findImportKind(name))
         return *kind;
-    const QStringList coming = {u"adjustments"_s};
-    if (coming.contains(name))
-        throw UsageError(Texts::tr("'import %1' is not available yet").arg(name));
     throw UsageError(Texts::tr("'import' knows no '%1', but: %2").arg(name, namesOf(importKinds())));
 }
 

@@ -25,8 +25,6 @@ const DocumentKind &requireKind(const QString &name)
 {
     if (const DocumentKind *kind = DocumentKinds::find(name))
         return *kind;
-    if (name == "adjustments"_L1)
-        throw UsageError(Texts::tr("'post %1' is not available yet").arg(name));
     throw UsageError(Texts::tr("'post' knows no '%1', but: %2").arg(name, kindNames().join(u", ")));
 }
 

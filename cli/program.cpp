@@ -15,7 +15,7 @@ namespace {
 // Commands that are known by name so that the user is told so.
 const QStringList &comingCommands()
 {
-    static const QStringList names = {u"count"_s, u"report"_s, u"check"_s, u"backup"_s, u"restore"_s};
+    static const QStringList names = {u"report"_s, u"check"_s, u"backup"_s, u"restore"_s};
     return names;
 }
 

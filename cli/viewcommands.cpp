@@ -91,7 +91,6 @@ const QList<ListKind> &listKinds()
             all.append({master->name, Layouts::find(master->table), master->orders.at(master->firstOrder).index});
         for (const DocumentKind *document : DocumentKinds::all())
             all.append({document->name, Layouts::find(document->headerTable), document->orders.constFirst().index});
-        all.append({u"adjustments"_s, &Layouts::iAdjust(), u"PERIODDATEDESC"_s});
         return all;
     }();
     return kinds;

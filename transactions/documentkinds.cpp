@@ -6,7 +6,7 @@ namespace Tallymere {
 
 const QList<const DocumentKind *> &DocumentKinds::all()
 {
-    static const QList<const DocumentKind *> kinds = {&receipt(), &usage()};
+    static const QList<const DocumentKind *> kinds = {&receipt(), &usage(), &adjustment()};
     return kinds;
 }
 

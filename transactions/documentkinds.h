@@ -8,6 +8,7 @@ namespace Tallymere::DocumentKinds {
 
 const DocumentKind &receipt();
 const DocumentKind &usage();
+const DocumentKind &adjustment();
 
 // In the order in which the command line names them.
 const QList<const DocumentKind *> &all();

@@ -25,12 +25,17 @@ protected:
     void importDocuments(const DocumentKind &kind)
     {
         const bool receipts = &kind == &DocumentKinds::receipt();
-        QString file =
-            receipts ? u"WarehouseID,VendorNo,ItemNo,QtyReceived,UnitCost\n"_s : u"WarehouseID,ItemNo,Quantity\n"_s;
+        const bool adjusts = &kind == &DocumentKinds::adjustment();
+        QString file = u"WarehouseID,ItemNo,"_s;
+        file += receipts ? u"QtyReceived,UnitCost,VendorNo\n"_s
+                         : u"Quantity"_s + (adjusts ? u",AdjDescription\n"_s : u"\n"_s);
         for (int lines = 1 + below(6); lines > 0; --lines) {
-            file += QString::number(1 + below(2)) + (receipts ? u",V%1,"_s.arg(1 + below(2)) : u","_s);
-            file += QStringList{u"A10"_s, u"A11"_s, u"B1"_s}.at(below(3));
-            file += u",%1"_s.arg(0.25 * (below(80) - 20)) + (receipts ? u",%1\n"_s.arg(0.5 * below(9)) : u"\n"_s);
+            file += u"%1,%2,%3"_s.arg(1 + below(2))
+                        .arg(QStringList{u"A10"_s, u"A11"_s, u"B1"_s}.at(below(3)))
+                        .arg(0.25 * (below(80) - 20));
+            if (receipts)
+                file += u",%1,V%2"_s.arg(0.5 * below(9)).arg(1 + below(2));
+            file += adjusts ? u",Spoiled\n"_s : u"\n"_s;
         }
         QBuffer device;
         device.setData(file.toUtf8());

@@ -1,6 +1,7 @@
 #include "transactions/screens/documentscreens.h"
 
 #include "transactions/documentkinds.h"
+#include "transactions/screens/invadjustment.h"
 #include "transactions/screens/invreceipt.h"
 #include "transactions/screens/invreceipts.h"
 #include "transactions/screens/invusage.h"
@@ -24,6 +25,8 @@ const QList<DocumentScreens> &documentScreens()
     static const QList<DocumentScreens> screens = {
         {DocumentKinds::receipt(), RecordScreens::makes<TfrmInvReceipt>(), makeList<TfrmInvReceipts>},
         {DocumentKinds::usage(), RecordScreens::makes<TfrmUsage>(), makeList<TfrmUsages>},
+        {DocumentKinds::adjustment(), RecordScreens::makes<TfrmInvAdjustment>(),
+         makeList<DocumentListOf<DocumentKinds::adjustment>>},
     };
     return screens;
 }

@@ -1,0 +1,31 @@
+#include "transactions/adjustmententry.h"
+
+#include "base/formats.h"
+#include "transactions/documentkinds.h"
+#include "transactions/texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+AdjustmentEntry::AdjustmentEntry(Engine::Database &database, Prompts &prompts)
+    : DocumentEntry(database, prompts, DocumentKinds::adjustment())
+{
+}
+
+void AdjustmentEntry::configureFields()
+{
+    DocumentEntry::configureFields();
+    header().field(u"AdjDescription").label = TransactionsTexts::tr("Description");
+    Engine::Field &quantity = lines().field(u"Quantity");
+    quantity.label = TransactionsTexts::tr("Quantity");
+    quantity.format = quantityFormat(RegionalSettings::system(), u"Quantity"_s);
+}
+
+void AdjustmentEntry::stepDate(int days)
+{
+    const QDate date = header().date(u"AdjDate");
+    chooseInHeader(u"AdjDate"_s, (date.isValid() ? date : today()).addDays(days));
+}
+
+} // namespace Tallymere

@@ -1,0 +1,56 @@
+#include "transactions/adjustmentposting.h"
+
+#include "engine/driver.h"
+#include "transactions/historywriter.h"
+#include "transactions/stockbook.h"
+#include "transactions/texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+void readHeader(const Engine::Statement &row, int column, PostingDocument &document)
+{
+    document.description = row.textAt(column);
+}
+
+void postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books)
+{
+    books.history.append(document, line.item, line.quantity, std::nullopt, books.writes);
+    books.stock.addToBalance(line.item, document.warehouse, line.quantity, books.writes);
+}
+
+} // namespace
+
+PostingKind adjustmentPosting()
+{
+    return {
+        .unposted = u"IAdjust I WHERE I.Posted = false"_s,
+        .headerColumns = u"I.GLYear, I.GLPeriod, I.AdjDate, I.WarehouseID, I.AdjDescription"_s,
+        .lines = u"IAdjDet L"_s,
+        .lineColumns = u"L.ItemID, L.Quantity"_s,
+        .transType = TransType::Adjust,
+        .locks =
+            {
+                {u"IAdjust"_s,
+                 TransactionsTexts::tr(
+                     "Unable to lock Adjustments table... this table is being updated by another job.")},
+                {u"IBalance"_s,
+                 TransactionsTexts::tr(
+                     "Unable to lock Item Balance table... this table is being updated by another job.")},
+            },
+        .entryOpen =
+            TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Inventory Adjustment' form"),
+        .toBePosted = TransactionsTexts::tr("%1 adjustment(s) to be posted"),
+        .posted = TransactionsTexts::tr("%1 adjustment(s) posted"),
+        .onePosted = TransactionsTexts::tr("1 adjustment posted"),
+        .manyPosted = TransactionsTexts::tr("%1 adjustments posted"),
+        .readHeader = readHeader,
+        .readLine = {},
+        .postLine = postLine,
+    };
+}
+
+} // namespace Tallymere
