@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <libpq-fe.h>
+#include <map>
 #include <optional>
 #include <sqlite3.h>
 #include <stdexcept>
@@ -84,8 +85,7 @@ public:
     {
         check(sqlite3_open(file.toUtf8().constData(), &m_db));
         run("PRAGMA cache_size = -262144; PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 64000");
-        for (const Step *step : {&m_kind.mark, &m_kind.lines, &m_kind.history, &sum, &cost, &setCost, &balance,
-                                 &setBalance, &addBalance})
+        for (const Step *step : {&m_kind.mark, &m_kind.lines, &m_kind.history, &setCost, &setBalance, &addBalance})
             m_statements.emplace_back(step->text, prepare(step->text));
     }
     ~SqliteRun()
@@ -98,6 +98,7 @@ public:
     void post()
     {
         run("BEGIN IMMEDIATE");
+        readBooks();
         for (const Document &document : documents())
             postDocument(document);
         run("COMMIT");
@@ -126,11 +127,19 @@ private:
         return nullptr;
     }
     void execute(sqlite3_stmt *statement) { check(sqlite3_step(statement)); }
-    std::optional<double> single(sqlite3_stmt *statement)
+    // All that a line looks up, so that it costs three statements and no more: history, balance and cost.
+    void readBooks()
     {
-        if (sqlite3_step(statement) != SQLITE_ROW)
-            return std::nullopt;
-        return sqlite3_column_double(statement, 0);
+        sqlite3_stmt *row = prepare("SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance");
+        while (sqlite3_step(row) == SQLITE_ROW) {
+            m_balances[{sqlite3_column_int(row, 0), sqlite3_column_int(row, 1)}] = sqlite3_column_double(row, 2);
+            m_onHand[sqlite3_column_int(row, 0)] += sqlite3_column_double(row, 2);
+        }
+        sqlite3_finalize(row);
+        row = prepare("SELECT ItemID, WgtAvgCost FROM Item");
+        while (sqlite3_step(row) == SQLITE_ROW)
+            m_costs[sqlite3_column_int(row, 0)] = Money::fromDouble(sqlite3_column_double(row, 1));
+        sqlite3_finalize(row);
     }
 
     static std::string text(sqlite3_stmt *row, int column)
@@ -180,13 +189,12 @@ private:
         if (m_kind.averages)
             average(line, unit);
 
-        sqlite3_stmt *old = statement(balance);
-        sqlite3_bind_int(old, 1, line.item);
-        sqlite3_bind_int(old, 2, document.warehouse);
-        const auto held = single(old);
-        sqlite3_reset(old);
-        sqlite3_stmt *write = statement(held ? setBalance : addBalance);
-        sqlite3_bind_double(write, 1, held.value_or(0) + m_kind.direction * line.quantity);
+        const double change = m_kind.direction * line.quantity;
+        const auto [held, isNew] = m_balances.try_emplace({line.item, document.warehouse}, 0);
+        held->second += change;
+        m_onHand[line.item] += change;
+        sqlite3_stmt *write = statement(isNew ? addBalance : setBalance);
+        sqlite3_bind_double(write, 1, held->second);
         sqlite3_bind_int(write, 2, line.item);
         sqlite3_bind_int(write, 3, document.warehouse);
         execute(write);
@@ -194,24 +202,26 @@ private:
 
     void average(const Line &line, Money unit)
     {
-        sqlite3_stmt *total = statement(sum);
-        sqlite3_bind_int(total, 1, line.item);
-        const double onHand = single(total).value_or(0);
-        sqlite3_stmt *stored = statement(cost);
-        sqlite3_bind_int(stored, 1, line.item);
-        if (const auto before = single(stored))
-            if (const auto after =
-                    Tallymere::averageAfterReceipt({Money::fromDouble(*before), onHand}, line.quantity, unit)) {
-                sqlite3_stmt *update = statement(setCost);
-                sqlite3_bind_double(update, 1, after->toDouble());
-                sqlite3_bind_int(update, 2, line.item);
-                execute(update);
-            }
+        const auto before = m_costs.find(line.item);
+        if (before == m_costs.end())
+            return;
+        const auto after =
+            Tallymere::averageAfterReceipt({before->second, m_onHand[line.item]}, line.quantity, unit);
+        if (!after)
+            return;
+        before->second = *after;
+        sqlite3_stmt *update = statement(setCost);
+        sqlite3_bind_double(update, 1, after->toDouble());
+        sqlite3_bind_int(update, 2, line.item);
+        execute(update);
     }
 
     const RawKind &m_kind;
     sqlite3 *m_db = nullptr;
     std::vector<std::pair<const char *, sqlite3_stmt *>> m_statements;
+    std::map<std::pair<int, int>, double> m_balances; // by item and location
+    std::map<int, double> m_onHand; // of an item, everywhere
+    std::map<int, Money> m_costs;
 };
 
 // --- PostgreSQL

@@ -20,7 +20,7 @@ public:
 };
 
 // Commits the writes of a long run in groups. A step of the run is what belongs together: a document with its lines,
-// a row. A group ends between two steps and lasts at most a quarter of a second, so a crash leaves whole steps only.
+// a row. A group ends between two steps and lasts about two seconds at most, so a crash leaves whole steps only.
 //
 // A failure keeps what was written before the failing statement, steps and the part of the last one, and then raises
 // it. A file store executes a statement at once and undoes no other with it. A server gets statements without waiting

@@ -17,7 +17,7 @@ namespace Tallymere {
 //
 // Failure of the store: an EngineError. Documents before it stay posted; the one in hand stays marked, with what
 // was written before the failing statement. The end of the process or of the machine leaves whole documents only,
-// at most the last quarter of a second of them unposted. Use on the thread that opened the database.
+// at most the last two seconds of them unposted. Use on the thread that opened the database.
 class DocumentPosting final
 {
 public:

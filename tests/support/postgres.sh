@@ -75,6 +75,7 @@ unix_socket_directories = ''
 max_connections = 100
 max_locks_per_transaction = 256
 fsync = off
+autovacuum = off
 full_page_writes = off
 EOF
     local port attempt
