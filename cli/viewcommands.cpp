@@ -88,7 +88,8 @@ const QList<ListKind> &listKinds()
     static const QList<ListKind> kinds = [] {
         QList<ListKind> all;
         for (const MasterKind *master : MasterKinds::all())
-            all.append({master->name, Layouts::find(master->table), master->orders.at(master->firstOrder).index});
+            all.append({master->name, Layouts::find(master->table),
+                        master->list.orders.at(master->list.firstOrder).index});
         for (const DocumentKind *document : DocumentKinds::all())
             all.append({document->name, Layouts::find(document->headerTable), document->orders.constFirst().index});
         return all;

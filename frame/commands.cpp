@@ -122,13 +122,13 @@ Opening openingOf(MasterKind::Reopening reopening)
 
 Command masterCommand(const MasterKind &kind)
 {
-    const Rights rights = rightsOf(kind.rights);
-    return {.action = kind.action,
-            .caption = kind.actionCaption,
+    const Rights rights = rightsOf(kind.command.rights);
+    return {.action = kind.command.action,
+            .caption = kind.command.caption,
             .rightsKey = rights.key,
             .rightsName = rights.name,
-            .screen = kind.listScreen,
-            .opening = openingOf(kind.reopening),
+            .screen = kind.list.screen,
+            .opening = openingOf(kind.command.reopening),
             .refreshOpenScreen = false};
 }
 

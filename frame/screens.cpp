@@ -46,7 +46,7 @@ ScreenRegistry productScreens()
 {
     ScreenRegistry screens;
     for (const MasterScreen &screen : masterScreens())
-        screens.add(screen.kind.listScreen, {screen.make});
+        screens.add(screen.kind.list.screen, {screen.make});
     screens.add(u"frmCompany"_s, {make<TfrmCompany>});
     for (const DocumentScreens &screen : documentScreens()) {
         screens.add(screen.kind.listScreen, {.create = screen.makeList, .posts = true});

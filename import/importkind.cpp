@@ -66,7 +66,7 @@ void require(ImportKind &kind, const QStringList &targets)
 // Whether a new record has a value there even if the file gives none.
 bool isPreset(const MasterKind &master, const QString &field)
 {
-    return field == master.numberField || master.presetFields.contains(field) || master.hasDefault(field);
+    return field == master.numberField || master.record.presetFields.contains(field) || master.hasDefault(field);
 }
 
 // The files of a master table, from its description.
@@ -75,20 +75,20 @@ ImportKind masterKind(const MasterKind &master)
     ImportKind kind;
     kind.name = master.name;
     kind.lockedTables = {master.table};
-    if (!master.counterTable.isEmpty())
-        kind.lockedTables.append(master.counterTable);
-    addColumns(kind, *Layouts::find(master.table), master.systemFields);
-    for (const MasterKind::Reference &reference : master.references)
+    if (!master.record.counterTable.isEmpty())
+        kind.lockedTables.append(master.record.counterTable);
+    addColumns(kind, *Layouts::find(master.table), master.files.systemFields);
+    for (const MasterKind::Reference &reference : master.record.references)
         addName(kind, reference.field, *Layouts::find(reference.table), reference.nameField, reference.notFound);
-    for (const MasterKind::Required &required : master.required) {
+    for (const MasterKind::Required &required : master.record.required) {
         if (!isPreset(master, required.field))
             require(kind, {required.field});
     }
-    for (const MasterKind::Limits &limits : master.limits) {
+    for (const MasterKind::Limits &limits : master.files.limits) {
         column(kind, limits.field).lowest = limits.lowest;
         column(kind, limits.field).highest = limits.highest;
     }
-    for (const QString &field : master.longTexts)
+    for (const QString &field : master.files.longTexts)
         column(kind, field).type = Engine::FieldType::Memo;
     kind.makeTarget = [&master](const ImportRun &run) { return std::make_unique<MasterImport>(run, master); };
     return kind;
@@ -108,7 +108,7 @@ ImportKind documentKind(const DocumentKind &document)
         addName(kind, number.field, *Layouts::find(number.table), number.numberField, number.notFound);
     addName(kind, u"WarehouseID"_s, Layouts::warehse(), u"WarehouseName"_s,
             ImportTexts::tr("Location '%1' not found"));
-    addName(kind, u"ItemID"_s, Layouts::item(), u"ItemNo"_s, MasterKinds::item().notFound);
+    addName(kind, u"ItemID"_s, Layouts::item(), u"ItemNo"_s, MasterKinds::item().record.notFound);
     require(kind, document.requiredColumns);
     require(kind, {u"WarehouseID"_s, u"ItemID"_s});
     column(kind, u"GLYear").format = ImportColumn::Format::Year;

@@ -75,18 +75,18 @@ MasterKind describe()
     kind.nameFields = {u"CompanyName"_s};
     kind.formatFields = formatFields;
 
-    kind.screen = u"frmCompany"_s;
-    kind.caption = MasterTexts::tr("Your Organization");
-    kind.newCaption = kind.caption;
-    kind.namesCaption = false;
-    kind.defaults = {{u"CompanyNo"_s, 1},
-                     {u"ARInvoiceStyle"_s, 0},
-                     {u"ARInvoiceAustralia"_s, false},
-                     {u"ARInvoiceCopies"_s, 1},
-                     {u"ApplicationVersion"_s, u"2.55"_s}};
-    kind.preset = preset;
-    kind.required = {{u"CompanyName"_s, MasterTexts::tr("Field 'Company Name' must have a value")}};
-    kind.check = requireFiscalYear;
+    kind.record.screen = u"frmCompany"_s;
+    kind.record.caption = MasterTexts::tr("Your Organization");
+    kind.record.newCaption = kind.record.caption;
+    kind.record.namesCaption = false;
+    kind.record.defaults = {{u"CompanyNo"_s, 1},
+                            {u"ARInvoiceStyle"_s, 0},
+                            {u"ARInvoiceAustralia"_s, false},
+                            {u"ARInvoiceCopies"_s, 1},
+                            {u"ApplicationVersion"_s, u"2.55"_s}};
+    kind.record.preset = preset;
+    kind.record.required = {{u"CompanyName"_s, MasterTexts::tr("Field 'Company Name' must have a value")}};
+    kind.record.check = requireFiscalYear;
     return kind;
 }
 

@@ -23,48 +23,48 @@ MasterKind describe()
     kind.table = u"Item"_s;
     kind.keyField = u"ItemID"_s;
     kind.numberField = u"ItemNo"_s;
-    kind.counterTable = u"ItemCtl"_s;
-    kind.numberCounter = u"NextItemNo"_s;
-    kind.keyCounter = u"NextItemID"_s;
+    kind.record.counterTable = u"ItemCtl"_s;
+    kind.record.numberCounter = u"NextItemNo"_s;
+    kind.record.keyCounter = u"NextItemID"_s;
     kind.nameFields = {u"ItemNo"_s, u"ItemDescription"_s};
     kind.formatFields = formatFields;
 
-    kind.screen = u"frmItemInv"_s;
-    kind.caption = MasterTexts::tr("Item");
-    kind.newCaption = MasterTexts::tr("New Item");
-    kind.defaults = {{u"Suspended"_s, false}};
+    kind.record.screen = u"frmItemInv"_s;
+    kind.record.caption = MasterTexts::tr("Item");
+    kind.record.newCaption = MasterTexts::tr("New Item");
+    kind.record.defaults = {{u"Suspended"_s, false}};
     // Costs, suspension and accounts are the original's own.
-    kind.copiedFields = {u"ItemDescription"_s, u"TaxCodes"_s, u"UnitPrice"_s, u"Notes"_s, u"ItemTypeID"_s};
-    kind.copyCaption = MasterTexts::tr("New (copied) Item");
-    kind.required = {{u"ItemNo"_s, MasterTexts::tr("Field 'Item no.' must have a value")},
-                     {u"ItemDescription"_s, MasterTexts::tr("Field 'Description' must have a value")},
-                     {u"ItemTypeID"_s, MasterTexts::tr("Field 'Item Type' must have a value")}};
-    kind.references = {{u"ItemTypeID"_s, u"ItemType"_s, u"TypeName"_s,
-                        MasterTexts::tr("Item Type no longer exists"),
-                        MasterTexts::tr("Item type '%1' not found")}};
-    kind.taken = MasterTexts::tr("Item no. already exists");
-    kind.notFound = MasterTexts::tr("Item no. '%1' not found");
+    kind.record.copiedFields = {u"ItemDescription"_s, u"TaxCodes"_s, u"UnitPrice"_s, u"Notes"_s, u"ItemTypeID"_s};
+    kind.record.copyCaption = MasterTexts::tr("New (copied) Item");
+    kind.record.required = {{u"ItemNo"_s, MasterTexts::tr("Field 'Item no.' must have a value")},
+                            {u"ItemDescription"_s, MasterTexts::tr("Field 'Description' must have a value")},
+                            {u"ItemTypeID"_s, MasterTexts::tr("Field 'Item Type' must have a value")}};
+    kind.record.references = {{u"ItemTypeID"_s, u"ItemType"_s, u"TypeName"_s,
+                               MasterTexts::tr("Item Type no longer exists"),
+                               MasterTexts::tr("Item type '%1' not found")}};
+    kind.record.taken = MasterTexts::tr("Item no. already exists");
+    kind.record.notFound = MasterTexts::tr("Item no. '%1' not found");
 
-    kind.listScreen = u"frmItemsInv"_s;
-    kind.listCaption = MasterTexts::tr("Items");
-    kind.columns = {{u"ItemNo"_s, MasterTexts::tr("Item no."), 110},
-                    {u"ItemDescription"_s, MasterTexts::tr("Description"), 300},
-                    {u"UnitPrice"_s, MasterTexts::tr("Unit Price"), 110, Qt::AlignRight}};
-    kind.orders = {{u"ItemNo"_s, MasterTexts::tr("&Item no."), u"mnuSortItemNo"_s},
-                   {u"ItemDescription1"_s, MasterTexts::tr("&Description"), u"mnuSortDescription"_s}};
-    kind.prints = true;
-    kind.filterField = u"ItemTypeID"_s;
-    kind.notSuspended = u"(Suspended = false)"_s;
+    kind.list.screen = u"frmItemsInv"_s;
+    kind.list.caption = MasterTexts::tr("Items");
+    kind.list.columns = {{u"ItemNo"_s, MasterTexts::tr("Item no."), 110},
+                         {u"ItemDescription"_s, MasterTexts::tr("Description"), 300},
+                         {u"UnitPrice"_s, MasterTexts::tr("Unit Price"), 110, Qt::AlignRight}};
+    kind.list.orders = {{u"ItemNo"_s, MasterTexts::tr("&Item no."), u"mnuSortItemNo"_s},
+                        {u"ItemDescription1"_s, MasterTexts::tr("&Description"), u"mnuSortDescription"_s}};
+    kind.list.prints = true;
+    kind.list.filterField = u"ItemTypeID"_s;
+    kind.list.notSuspended = u"(Suspended = false)"_s;
     // Nothing keeps an item from being deleted, not even its movements.
 
-    kind.action = u"ActionEditItems"_s;
-    kind.actionCaption = MasterTexts::tr("Edit Items");
-    kind.rights = u"Items"_s;
-    kind.isMain = true;
-    kind.reopening = MasterKind::Reopening::LiftFilter;
+    kind.command.action = u"ActionEditItems"_s;
+    kind.command.caption = MasterTexts::tr("Edit Items");
+    kind.command.rights = u"Items"_s;
+    kind.command.isMain = true;
+    kind.command.reopening = MasterKind::Reopening::LiftFilter;
 
-    kind.systemFields = {u"ItemID"_s, u"SalesGLAccountID"_s, u"COGSGLAccountID"_s, u"InventoryGLAccountID"_s,
-                         u"UnitPrice"_s};
+    kind.files.systemFields = {u"ItemID"_s, u"SalesGLAccountID"_s, u"COGSGLAccountID"_s, u"InventoryGLAccountID"_s,
+                               u"UnitPrice"_s};
     return kind;
 }
 

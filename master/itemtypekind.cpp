@@ -15,28 +15,28 @@ MasterKind describe()
     kind.keyField = u"ItemTypeID"_s;
     kind.nameFields = {u"TypeName"_s};
 
-    kind.screen = u"frmItemTypeInv"_s;
-    kind.caption = MasterTexts::tr("Item Type");
-    kind.newCaption = MasterTexts::tr("New Item Type");
-    kind.defaults = {{u"Inventory"_s, false}, {u"CostingMethod"_s, 1}};
-    kind.required = {{u"TypeName"_s, MasterTexts::tr("Field 'Type Name' must have a value")}};
-    kind.taken = MasterTexts::tr("Item Type already exists");
+    kind.record.screen = u"frmItemTypeInv"_s;
+    kind.record.caption = MasterTexts::tr("Item Type");
+    kind.record.newCaption = MasterTexts::tr("New Item Type");
+    kind.record.defaults = {{u"Inventory"_s, false}, {u"CostingMethod"_s, 1}};
+    kind.record.required = {{u"TypeName"_s, MasterTexts::tr("Field 'Type Name' must have a value")}};
+    kind.record.taken = MasterTexts::tr("Item Type already exists");
 
-    kind.listScreen = u"frmItemTypesInv"_s;
-    kind.listCaption = MasterTexts::tr("Item Types");
-    kind.columns = {{u"TypeName"_s, MasterTexts::tr("Name"), 320}};
-    kind.orders = {{u"TypeName1"_s}};
-    kind.prints = true;
-    kind.systemKeys = 6;
-    kind.systemRecord = MasterTexts::tr("System-defined Item Types can't be deleted!");
-    kind.refusals = {{u"Item"_s, {u"ItemTypeID"_s}, MasterTexts::tr("Item(s) exist for this item type")}};
+    kind.list.screen = u"frmItemTypesInv"_s;
+    kind.list.caption = MasterTexts::tr("Item Types");
+    kind.list.columns = {{u"TypeName"_s, MasterTexts::tr("Name"), 320}};
+    kind.list.orders = {{u"TypeName1"_s}};
+    kind.list.prints = true;
+    kind.list.systemKeys = 6;
+    kind.list.systemRecord = MasterTexts::tr("System-defined Item Types can't be deleted!");
+    kind.list.refusals = {{u"Item"_s, {u"ItemTypeID"_s}, MasterTexts::tr("Item(s) exist for this item type")}};
 
-    kind.action = u"ActionEditItemTypes"_s;
-    kind.actionCaption = MasterTexts::tr("Edit Item Types");
-    kind.rights = u"ItemTypes/Item Types"_s;
+    kind.command.action = u"ActionEditItemTypes"_s;
+    kind.command.caption = MasterTexts::tr("Edit Item Types");
+    kind.command.rights = u"ItemTypes/Item Types"_s;
 
-    kind.systemFields = {u"ItemTypeID"_s};
-    kind.limits = {{u"CostingMethod"_s, 1, 2}};
+    kind.files.systemFields = {u"ItemTypeID"_s};
+    kind.files.limits = {{u"CostingMethod"_s, 1, 2}};
     return kind;
 }
 

@@ -15,26 +15,27 @@ MasterKind describe()
     kind.keyField = u"WarehouseID"_s;
     kind.nameFields = {u"WarehouseName"_s};
 
-    kind.screen = u"frmWarehouseInv"_s;
-    kind.caption = MasterTexts::tr("Location");
-    kind.newCaption = MasterTexts::tr("New Location");
-    kind.required = {{u"WarehouseName"_s, MasterTexts::tr("Field 'Location Name' must have a value")}};
-    kind.taken = MasterTexts::tr("That Location already exists");
+    kind.record.screen = u"frmWarehouseInv"_s;
+    kind.record.caption = MasterTexts::tr("Location");
+    kind.record.newCaption = MasterTexts::tr("New Location");
+    kind.record.required = {{u"WarehouseName"_s, MasterTexts::tr("Field 'Location Name' must have a value")}};
+    kind.record.taken = MasterTexts::tr("That Location already exists");
 
-    kind.listScreen = u"frmWarehousesInv"_s;
-    kind.listCaption = MasterTexts::tr("Locations");
-    kind.columns = {{u"WarehouseName"_s, MasterTexts::tr("Name"), 320}};
-    kind.orders = {{u"WarehouseName1"_s}};
-    kind.refusals = {{u"IHist"_s, {u"WarehouseID"_s}, MasterTexts::tr("History exists for this location")},
-                     {u"IReceipt"_s, {u"WarehouseID"_s}, MasterTexts::tr("Receipts exist for this location")},
-                     {u"IAdjust"_s, {u"WarehouseID"_s}, MasterTexts::tr("Adjustments exist for this location")}};
-    kind.ownedTables = {u"IBalance"_s};
+    kind.list.screen = u"frmWarehousesInv"_s;
+    kind.list.caption = MasterTexts::tr("Locations");
+    kind.list.columns = {{u"WarehouseName"_s, MasterTexts::tr("Name"), 320}};
+    kind.list.orders = {{u"WarehouseName1"_s}};
+    kind.list.refusals = {
+        {u"IHist"_s, {u"WarehouseID"_s}, MasterTexts::tr("History exists for this location")},
+        {u"IReceipt"_s, {u"WarehouseID"_s}, MasterTexts::tr("Receipts exist for this location")},
+        {u"IAdjust"_s, {u"WarehouseID"_s}, MasterTexts::tr("Adjustments exist for this location")}};
+    kind.list.ownedTables = {u"IBalance"_s};
 
-    kind.action = u"ActionEditLocations"_s;
-    kind.actionCaption = MasterTexts::tr("Edit Locations");
-    kind.rights = u"Warehouses"_s;
+    kind.command.action = u"ActionEditLocations"_s;
+    kind.command.caption = MasterTexts::tr("Edit Locations");
+    kind.command.rights = u"Warehouses"_s;
 
-    kind.systemFields = {u"WarehouseID"_s, u"Location_ID"_s};
+    kind.files.systemFields = {u"WarehouseID"_s, u"Location_ID"_s};
     return kind;
 }
 

@@ -46,69 +46,85 @@ struct MasterKind
         QString reason; // "Item(s) exist for this item type"
     };
 
-    QString name; // on the command line: "types"
+    // --- a record -----------------------------------------------------------------------------------------------
+    struct Record
+    {
+        QString counterTable; // "ItemCtl"; empty where keys are not counted
+        QString numberCounter; // "NextItemNo": from 1001 to 10,000,000, then again from 1001
+        QString keyCounter; // "NextItemID": from 10000 on
+        bool keyByEngine = false; // the key is an auto-increment field
+        QString screen; // its component name: "frmItemInv"
+        QString caption; // "Item"
+        QString newCaption; // "New Item"
+        bool namesCaption = true; // the name takes the caption's place
+        QList<Default> defaults;
+        std::function<void(Engine::Table &)> preset; // defaults that have to be found out, of these fields:
+        QStringList presetFields;
+        QStringList copiedFields; // what a copy takes over from its original
+        QString copyCaption; // "New (copied) Item"
+        // The checks before saving, in this order. A number that is 0 counts as empty.
+        QList<Required> required;
+        std::function<void(const Engine::Table &)> check;
+        QList<Reference> references;
+        QString taken; // raised when the number or the key exists already
+        QString notFound; // raised for a number that no record has: "Item no. '%1' not found"
+    };
 
-    // --- the table ----------------------------------------------------------------------------------------------
+    // --- its list -----------------------------------------------------------------------------------------------
+    struct List
+    {
+        QString screen; // "frmItemsInv"
+        QString caption; // "Items"
+        QList<GridColumn> columns;
+        QList<ListOrder> orders; // as the menu has them
+        int firstOrder = 0; // which of them is in force at the start
+        bool prints = false; // there is a report of the list
+        // What its filter dialog narrows it to: the rows that refer to one record, and those that are suspended or not.
+        QString filterField; // "CurrencyID"
+        QString
+            notSuspended; // "(Suspended <> true)" shows rows that do not say, "(Suspended = false)" leaves them out
+        // Deleting: records up to a key belong to the system; the others are asked for and then refused by the first
+        // refusal that applies.
+        int systemKeys = 0;
+        QString systemRecord; // "System-defined Item Types can't be deleted!"
+        QString undeletable; // "Unable to delete '%1'..."; empty: just that
+        QList<Refusal> refusals;
+        QStringList ownedTables; // whose rows with the record's key go with it
+    };
+
+    // --- its command in the main window -------------------------------------------------------------------------
+    // What happens to a list that is open already: it is shown from its first row, after its filter was lifted or as
+    // it is filtered; or it only comes to the front.
+    enum class Reopening { ReadAnew, LiftFilter, JustShow };
+    struct Command
+    {
+        QString action; // "ActionEditItems"
+        QString caption; // "Edit Items"
+        QString rights; // what the user's rights are asked for, as rightsOf() takes it: "ItemTypes/Item Types"
+        bool isMain = false; // stands in the Edit menu itself, not under "Other"
+        Reopening reopening = Reopening::ReadAnew;
+    };
+
+    // --- its files ----------------------------------------------------------------------------------------------
+    struct Files
+    {
+        QStringList systemFields; // that a file may not give: the key, and what no screen sets
+        QList<Limits> limits;
+        QStringList longTexts; // fields that may be given longer than what is kept of them
+    };
+
+    QString name; // on the command line: "types"
     QString table; // "Item"
     QString keyField; // "ItemID"; taken from a counter, else a default, else the highest key plus 1
     QString numberField; // the number that users see and that must be unique
-    QString counterTable; // "ItemCtl"; empty where keys are not counted
-    QString numberCounter; // "NextItemNo": from 1001 to 10,000,000, then again from 1001
-    QString keyCounter; // "NextItemID": from 10000 on
-    bool keyByEngine = false; // the key is an auto-increment field
     QStringList nameFields; // that name a record to the user, joined by ": " ("1001: Flour")
     std::function<void(Engine::Table &)> addFields; // looked-up and calculated ones, before the table is opened
     std::function<void(Engine::Table &)> formatFields; // labels, formats and parsing, once it is open
 
-    // --- a record -----------------------------------------------------------------------------------------------
-    QString screen; // its component name: "frmItemInv"
-    QString caption; // "Item"
-    QString newCaption; // "New Item"
-    bool namesCaption = true; // the name takes the caption's place
-    QList<Default> defaults;
-    std::function<void(Engine::Table &)> preset; // defaults that have to be found out, of these fields:
-    QStringList presetFields;
-    QStringList copiedFields; // what a copy takes over from its original
-    QString copyCaption; // "New (copied) Item"
-    // The checks before saving, in this order. A number that is 0 counts as empty.
-    QList<Required> required;
-    std::function<void(const Engine::Table &)> check;
-    QList<Reference> references;
-    QString taken; // raised when the number or the key exists already
-    QString notFound; // raised for a number that no record has: "Item no. '%1' not found"
-
-    // --- its list -----------------------------------------------------------------------------------------------
-    QString listScreen; // "frmItemsInv"
-    QString listCaption; // "Items"
-    QList<GridColumn> columns;
-    QList<ListOrder> orders; // as the menu has them
-    int firstOrder = 0; // which of them is in force at the start
-    bool prints = false; // there is a report of the list
-    // What its filter dialog narrows it to: the rows that refer to one record, and those that are suspended or not.
-    QString filterField; // "CurrencyID"
-    QString notSuspended; // "(Suspended <> true)" shows rows that do not say, "(Suspended = false)" leaves them out
-    // Deleting: records up to a key belong to the system; the others are asked for and then refused by the first
-    // refusal that applies.
-    int systemKeys = 0;
-    QString systemRecord; // "System-defined Item Types can't be deleted!"
-    QString undeletable; // "Unable to delete '%1'..."; empty: just that
-    QList<Refusal> refusals;
-    QStringList ownedTables; // whose rows with the record's key go with it
-
-    // --- its command in the main window -------------------------------------------------------------------------
-    QString action; // "ActionEditItems"
-    QString actionCaption; // "Edit Items"
-    QString rights; // what the user's rights are asked for, as rightsOf() takes it: "ItemTypes/Item Types"
-    bool isMain = false; // stands in the Edit menu itself, not under "Other"
-    // What happens to a list that is open already: it is shown from its first row, after its filter was lifted or as
-    // it is filtered; or it only comes to the front.
-    enum class Reopening { ReadAnew, LiftFilter, JustShow };
-    Reopening reopening = Reopening::ReadAnew;
-
-    // --- its files ----------------------------------------------------------------------------------------------
-    QStringList systemFields; // that a file may not give: the key, and what no screen sets
-    QList<Limits> limits;
-    QStringList longTexts; // fields that may be given longer than what is kept of them
+    Record record;
+    List list;
+    Command command;
+    Files files;
 
     QString nameField() const { return nameFields.constLast(); } // the name without the number
     QString recordName(const Engine::DataSet &row) const; // "1001: Flour"

@@ -15,14 +15,14 @@ QString MasterKind::recordName(const Engine::DataSet &row) const
 
 bool MasterKind::hasDefault(const QString &field) const
 {
-    return std::any_of(defaults.begin(), defaults.end(),
+    return std::any_of(record.defaults.begin(), record.defaults.end(),
                        [&](const Default &given) { return given.field == field; });
 }
 
 QString MasterKind::filterExpression(const ListFilter &filter) const
 {
-    return joinConditions({keyCondition(filterField, filter.key),
-                           markCondition(filter.marked, QStringLiteral("(Suspended = true)"), notSuspended)});
+    return joinConditions({keyCondition(list.filterField, filter.key),
+                           markCondition(filter.marked, QStringLiteral("(Suspended = true)"), list.notSuspended)});
 }
 
 const QList<const MasterKind *> &MasterKinds::all()

@@ -18,7 +18,7 @@ MasterList::MasterList(Engine::Database &database, const MasterKind &kind)
     table().recordName = [this] { return m_kind.recordName(table()); };
     if (m_kind.addFields)
         m_kind.addFields(table());
-    setOrder(m_kind.orders.at(m_kind.firstOrder));
+    setOrder(m_kind.list.orders.at(m_kind.list.firstOrder));
 }
 
 void MasterList::open()
@@ -47,8 +47,8 @@ void MasterList::remove(Prompts &prompts)
 
 void MasterList::requireRemovable(Prompts &prompts) const
 {
-    if (m_kind.systemKeys > 0 && currentKey() <= m_kind.systemKeys) {
-        prompts.warn(m_kind.systemRecord);
+    if (m_kind.list.systemKeys > 0 && currentKey() <= m_kind.list.systemKeys) {
+        prompts.warn(m_kind.list.systemRecord);
         throw SilentAbort();
     }
     if (!prompts.confirm(Question::Confirm, MasterTexts::tr("Delete '%1'?").arg(currentName())))
@@ -57,11 +57,11 @@ void MasterList::requireRemovable(Prompts &prompts) const
 
 void MasterList::refuseIfReferred() const
 {
-    for (const MasterKind::Refusal &refusal : m_kind.refusals) {
+    for (const MasterKind::Refusal &refusal : m_kind.list.refusals) {
         if (!isReferredBy(refusal))
             continue;
-        const QString opening =
-            m_kind.undeletable.isEmpty() ? MasterTexts::tr("Unable to delete '%1'...") : m_kind.undeletable;
+        const QString opening = m_kind.list.undeletable.isEmpty() ? MasterTexts::tr("Unable to delete '%1'...")
+                                                                  : m_kind.list.undeletable;
         throw RuleError(opening.arg(currentName()) + u'\n' + refusal.reason);
     }
 }
@@ -77,7 +77,7 @@ bool MasterList::isReferredBy(const MasterKind::Refusal &refusal) const
 
 void MasterList::removeOwned() const
 {
-    for (const QString &name : m_kind.ownedTables) {
+    for (const QString &name : m_kind.list.ownedTables) {
         Engine::Table rows(table().database(), name);
         rows.open();
         rows.setFilter(u"(%1 = %2)"_s.arg(m_kind.keyField).arg(currentKey()));

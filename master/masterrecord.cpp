@@ -32,10 +32,10 @@ MasterRecord::MasterRecord(Engine::Database &database, const MasterKind &kind)
         m_table.uniqueFields = {m_kind.numberField};
     m_table.events.newRecord = [this] {
         assignIdentity(numbers);
-        for (const MasterKind::Default &preset : m_kind.defaults)
+        for (const MasterKind::Default &preset : m_kind.record.defaults)
             m_table.setDefault(preset.field, preset.value);
-        if (m_kind.preset)
-            m_kind.preset(m_table);
+        if (m_kind.record.preset)
+            m_kind.record.preset(m_table);
     };
     m_table.events.beforePost = [this] { checkAll(); };
     m_table.recordName = [this] { return m_kind.recordName(m_table); };
@@ -60,7 +60,7 @@ void MasterRecord::newRecord(const QString &number)
 void MasterRecord::newCopy(const Engine::DataSet &original)
 {
     newRecord();
-    for (const QString &field : m_kind.copiedFields)
+    for (const QString &field : m_kind.record.copiedFields)
         m_table.setDefault(field, original.value(field));
     m_isCopy = true;
 }
@@ -74,15 +74,15 @@ bool MasterRecord::openRecord(int key)
 QString MasterRecord::caption() const
 {
     if (m_isCopy && isNew() && !m_table.isModified())
-        return m_kind.copyCaption;
+        return m_kind.record.copyCaption;
     return captionFor(m_table.text(m_kind.nameField()));
 }
 
 QString MasterRecord::captionFor(const QString &name) const
 {
-    if (m_kind.namesCaption && !name.isEmpty())
+    if (m_kind.record.namesCaption && !name.isEmpty())
         return name;
-    return isNew() ? m_kind.newCaption : m_kind.caption;
+    return isNew() ? m_kind.record.newCaption : m_kind.record.caption;
 }
 
 void MasterRecord::save()
@@ -92,9 +92,9 @@ void MasterRecord::save()
     try {
         m_table.post();
     } catch (const Engine::EngineError &error) {
-        if (error.code() != Engine::ErrorCode::KeyViolation || m_kind.taken.isEmpty())
+        if (error.code() != Engine::ErrorCode::KeyViolation || m_kind.record.taken.isEmpty())
             throw;
-        throw RuleError(m_kind.taken, m_kind.numberField);
+        throw RuleError(m_kind.record.taken, m_kind.numberField);
     }
     m_table.flush();
 }
@@ -107,26 +107,26 @@ void MasterRecord::cancel()
 
 void MasterRecord::assignIdentity(const NumberSource &source)
 {
-    if (m_kind.counterTable.isEmpty())
+    if (m_kind.record.counterTable.isEmpty())
         return;
-    source(m_kind.counterTable, [this](CounterRow &counters) {
+    source(m_kind.record.counterTable, [this](CounterRow &counters) {
         if (m_givenNumber.isEmpty()) {
-            counters.restartOutside(m_kind.numberCounter, firstNumber, lastNumber, firstNumber);
-            m_table.setDefault(m_kind.numberField, QString::number(counters.take(m_kind.numberCounter)));
+            counters.restartOutside(m_kind.record.numberCounter, firstNumber, lastNumber, firstNumber);
+            m_table.setDefault(m_kind.numberField, QString::number(counters.take(m_kind.record.numberCounter)));
         } else {
             m_table.setDefault(m_kind.numberField, m_givenNumber);
         }
-        counters.restartWhenZero(m_kind.keyCounter, firstCountedKey);
-        m_table.setDefault(m_kind.keyField, counters.take(m_kind.keyCounter));
+        counters.restartWhenZero(m_kind.record.keyCounter, firstCountedKey);
+        m_table.setDefault(m_kind.keyField, counters.take(m_kind.record.keyCounter));
     });
 }
 
 // For a record that is about to be written and has none yet.
 void MasterRecord::assignKey()
 {
-    if (m_kind.keyByEngine || !isNew())
+    if (m_kind.record.keyByEngine || !isNew())
         return;
-    if (m_kind.counterTable.isEmpty()) {
+    if (m_kind.record.counterTable.isEmpty()) {
         if (!m_kind.hasDefault(m_kind.keyField))
             assignHighestKey();
     } else if (m_table.value(m_kind.keyField).isNull()) {
@@ -146,13 +146,13 @@ void MasterRecord::assignHighestKey()
 void MasterRecord::checkAll()
 {
     trimNumber();
-    for (const MasterKind::Required &required : m_kind.required) {
+    for (const MasterKind::Required &required : m_kind.record.required) {
         if (isEmpty(required.field))
             throw RuleError(required.message, required.field);
     }
-    if (m_kind.check)
-        m_kind.check(m_table);
-    for (const MasterKind::Reference &reference : m_kind.references)
+    if (m_kind.record.check)
+        m_kind.record.check(m_table);
+    for (const MasterKind::Reference &reference : m_kind.record.references)
         requireReference(reference);
     assignKey();
 }

@@ -14,7 +14,7 @@ int keyByNumber(Engine::Database &database, const MasterKind &kind, const QStrin
         u"SELECT %1 FROM %2 WHERE %3 = ? ORDER BY %1 LIMIT 1"_s.arg(kind.keyField, kind.table, kind.numberField);
     const Engine::Value key = Engine::singleValue(database, sql, {number});
     if (key.isNull())
-        throw RuleError(kind.notFound.arg(number), kind.numberField);
+        throw RuleError(kind.record.notFound.arg(number), kind.numberField);
     return key.toInt();
 }
 

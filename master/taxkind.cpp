@@ -24,32 +24,33 @@ MasterKind describe()
     kind.nameFields = {u"TaxName"_s};
     kind.formatFields = formatFields;
 
-    kind.screen = u"frmTaxInv"_s;
-    kind.caption = MasterTexts::tr("Tax");
-    kind.newCaption = MasterTexts::tr("New Tax");
+    kind.record.screen = u"frmTaxInv"_s;
+    kind.record.caption = MasterTexts::tr("Tax");
+    kind.record.newCaption = MasterTexts::tr("New Tax");
     // A rate of 0 counts as missing.
-    kind.required = {{u"TaxName"_s, MasterTexts::tr("Field 'Tax Name' must have a value")},
-                     {u"TaxCode"_s, MasterTexts::tr("Field 'Code' must have a value")},
-                     {u"TaxDescription"_s, MasterTexts::tr("Field 'Description' must have a value")},
-                     {u"Rate"_s, MasterTexts::tr("Field 'Rate' must have a value")}};
-    kind.taken = MasterTexts::tr("Tax already exists");
+    kind.record.required = {{u"TaxName"_s, MasterTexts::tr("Field 'Tax Name' must have a value")},
+                            {u"TaxCode"_s, MasterTexts::tr("Field 'Code' must have a value")},
+                            {u"TaxDescription"_s, MasterTexts::tr("Field 'Description' must have a value")},
+                            {u"Rate"_s, MasterTexts::tr("Field 'Rate' must have a value")}};
+    kind.record.taken = MasterTexts::tr("Tax already exists");
 
-    kind.listScreen = u"frmTaxesInv"_s;
-    kind.listCaption = MasterTexts::tr("Taxes");
-    kind.columns = {{u"TaxName"_s, MasterTexts::tr("Name"), 170},
-                    {u"Rate"_s, MasterTexts::tr("Rate"), 70, Qt::AlignRight},
-                    {u"TaxCode"_s, MasterTexts::tr("Code"), 50},
-                    {u"TaxDescription"_s, MasterTexts::tr("Description"), 190}};
-    kind.orders = {{u"TaxName1"_s}};
-    kind.undeletable = MasterTexts::tr("Unable to delete tax '%1'...");
-    kind.refusals = {{u"Customer"_s, {u"Tax1ID"_s, u"Tax2ID"_s}, MasterTexts::tr("Customer(s) exist for this tax")},
-                     {u"ARInv"_s, {u"Tax1ID"_s, u"Tax2ID"_s}, MasterTexts::tr("Invoice(s) exist for this tax")}};
+    kind.list.screen = u"frmTaxesInv"_s;
+    kind.list.caption = MasterTexts::tr("Taxes");
+    kind.list.columns = {{u"TaxName"_s, MasterTexts::tr("Name"), 170},
+                         {u"Rate"_s, MasterTexts::tr("Rate"), 70, Qt::AlignRight},
+                         {u"TaxCode"_s, MasterTexts::tr("Code"), 50},
+                         {u"TaxDescription"_s, MasterTexts::tr("Description"), 190}};
+    kind.list.orders = {{u"TaxName1"_s}};
+    kind.list.undeletable = MasterTexts::tr("Unable to delete tax '%1'...");
+    kind.list.refusals = {
+        {u"Customer"_s, {u"Tax1ID"_s, u"Tax2ID"_s}, MasterTexts::tr("Customer(s) exist for this tax")},
+        {u"ARInv"_s, {u"Tax1ID"_s, u"Tax2ID"_s}, MasterTexts::tr("Invoice(s) exist for this tax")}};
 
-    kind.action = u"ActionEditTaxes"_s;
-    kind.actionCaption = MasterTexts::tr("Edit Taxes");
-    kind.rights = u"Taxes"_s;
+    kind.command.action = u"ActionEditTaxes"_s;
+    kind.command.caption = MasterTexts::tr("Edit Taxes");
+    kind.command.rights = u"Taxes"_s;
 
-    kind.systemFields = {u"TaxID"_s, u"TaxGLAccountID"_s};
+    kind.files.systemFields = {u"TaxID"_s, u"TaxGLAccountID"_s};
     return kind;
 }
 

@@ -22,28 +22,28 @@ MasterKind describe()
     kind.name = u"contacts"_s;
     kind.table = u"VContact"_s;
     kind.keyField = u"ContactID"_s;
-    kind.keyByEngine = true;
+    kind.record.keyByEngine = true;
     kind.nameFields = {u"FullName"_s};
     kind.addFields = [](Engine::Table &table) {
         table.addCalculated(u"FullName"_s, Engine::FieldType::Text, 60, fullName);
     };
 
-    kind.screen = u"frmVContact"_s;
-    kind.caption = MasterTexts::tr("Vendor Contact");
-    kind.newCaption = MasterTexts::tr("New Contact");
-    kind.namesCaption = false;
-    kind.required = {{u"VendorID"_s, MasterTexts::tr("Field 'Vendor' must have a value")}};
-    kind.check = requireName;
-    kind.references = {{u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s, MasterTexts::tr("Vendor no longer exists"),
-                        MasterKinds::vendor().notFound}};
+    kind.record.screen = u"frmVContact"_s;
+    kind.record.caption = MasterTexts::tr("Vendor Contact");
+    kind.record.newCaption = MasterTexts::tr("New Contact");
+    kind.record.namesCaption = false;
+    kind.record.required = {{u"VendorID"_s, MasterTexts::tr("Field 'Vendor' must have a value")}};
+    kind.record.check = requireName;
+    kind.record.references = {{u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s,
+                               MasterTexts::tr("Vendor no longer exists"), MasterKinds::vendor().record.notFound}};
 
-    kind.columns = {{u"LastName"_s, MasterTexts::tr("Last Name"), 160},
-                    {u"FirstName"_s, MasterTexts::tr("First Name"), 120},
-                    {u"JobTitle"_s, MasterTexts::tr("Job Title"), 200},
-                    {u"BusinessPhone"_s, MasterTexts::tr("Phone"), 120}};
-    kind.orders = {{u"VendorIDFullName"_s}};
+    kind.list.columns = {{u"LastName"_s, MasterTexts::tr("Last Name"), 160},
+                         {u"FirstName"_s, MasterTexts::tr("First Name"), 120},
+                         {u"JobTitle"_s, MasterTexts::tr("Job Title"), 200},
+                         {u"BusinessPhone"_s, MasterTexts::tr("Phone"), 120}};
+    kind.list.orders = {{u"VendorIDFullName"_s}};
 
-    kind.systemFields = {u"ContactID"_s};
+    kind.files.systemFields = {u"ContactID"_s};
     return kind;
 }
 

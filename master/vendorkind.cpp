@@ -71,9 +71,9 @@ MasterKind describe()
     kind.table = u"Vendor"_s;
     kind.keyField = u"VendorID"_s;
     kind.numberField = u"VendorNo"_s;
-    kind.counterTable = u"VendCtl"_s;
-    kind.numberCounter = u"NextVendorNo"_s;
-    kind.keyCounter = u"NextVendorID"_s;
+    kind.record.counterTable = u"VendCtl"_s;
+    kind.record.numberCounter = u"NextVendorNo"_s;
+    kind.record.keyCounter = u"NextVendorID"_s;
     kind.nameFields = {u"VendorNo"_s, u"VendorName"_s};
     kind.addFields = [](Engine::Table &table) {
         table.addLookup(u"Balance"_s, Engine::FieldType::Money, 0,
@@ -81,46 +81,47 @@ MasterKind describe()
     };
     kind.formatFields = formatFields;
 
-    kind.screen = u"frmVendor"_s;
-    kind.caption = MasterTexts::tr("Vendor");
-    kind.newCaption = kind.caption;
-    kind.namesCaption = false;
-    kind.defaults = {{u"Suspended"_s, false}};
-    kind.preset = presetCurrency;
-    kind.presetFields = {u"CurrencyID"_s};
-    kind.required = {{u"VendorNo"_s, MasterTexts::tr("Field 'Vendor no.' must have a value")},
-                     {u"VendorName"_s, MasterTexts::tr("Field 'Vendor Name' must have a value")},
-                     {u"CurrencyID"_s, MasterTexts::tr("Field 'Currency' must have a value")}};
-    kind.check = refuseCurrencyChangeAtLast;
-    kind.references = {{u"CurrencyID"_s, u"Currency"_s, u"CurrencyName"_s,
-                        MasterTexts::tr("Currency no longer exists"), MasterTexts::tr("Currency '%1' not found")}};
-    kind.taken = MasterTexts::tr("Vendor no. already exists");
-    kind.notFound = MasterTexts::tr("Vendor no. '%1' not found");
+    kind.record.screen = u"frmVendor"_s;
+    kind.record.caption = MasterTexts::tr("Vendor");
+    kind.record.newCaption = kind.record.caption;
+    kind.record.namesCaption = false;
+    kind.record.defaults = {{u"Suspended"_s, false}};
+    kind.record.preset = presetCurrency;
+    kind.record.presetFields = {u"CurrencyID"_s};
+    kind.record.required = {{u"VendorNo"_s, MasterTexts::tr("Field 'Vendor no.' must have a value")},
+                            {u"VendorName"_s, MasterTexts::tr("Field 'Vendor Name' must have a value")},
+                            {u"CurrencyID"_s, MasterTexts::tr("Field 'Currency' must have a value")}};
+    kind.record.check = refuseCurrencyChangeAtLast;
+    kind.record.references = {{u"CurrencyID"_s, u"Currency"_s, u"CurrencyName"_s,
+                               MasterTexts::tr("Currency no longer exists"),
+                               MasterTexts::tr("Currency '%1' not found")}};
+    kind.record.taken = MasterTexts::tr("Vendor no. already exists");
+    kind.record.notFound = MasterTexts::tr("Vendor no. '%1' not found");
 
-    kind.listScreen = u"frmVendors"_s;
-    kind.listCaption = MasterTexts::tr("Vendors");
-    kind.columns = {{u"VendorNo"_s, MasterTexts::tr("Vendor no."), 90},
-                    {u"VendorName"_s, MasterTexts::tr("Name"), 260},
-                    {u"Phone"_s, MasterTexts::tr("Phone"), 130},
-                    {u"Contact"_s, MasterTexts::tr("Contact"), 190},
-                    {u"Balance"_s, MasterTexts::tr("Balance"), 100, Qt::AlignRight}};
-    kind.orders = {{u"VendorNo"_s, MasterTexts::tr("&Vendor no."), u"mnuSortVendorNo"_s},
-                   {u"VendorName1"_s, MasterTexts::tr("&Name"), u"mnuSortName"_s}};
-    kind.firstOrder = 1;
-    kind.prints = true;
-    kind.filterField = u"CurrencyID"_s;
-    kind.notSuspended = u"(Suspended <> true)"_s;
+    kind.list.screen = u"frmVendors"_s;
+    kind.list.caption = MasterTexts::tr("Vendors");
+    kind.list.columns = {{u"VendorNo"_s, MasterTexts::tr("Vendor no."), 90},
+                         {u"VendorName"_s, MasterTexts::tr("Name"), 260},
+                         {u"Phone"_s, MasterTexts::tr("Phone"), 130},
+                         {u"Contact"_s, MasterTexts::tr("Contact"), 190},
+                         {u"Balance"_s, MasterTexts::tr("Balance"), 100, Qt::AlignRight}};
+    kind.list.orders = {{u"VendorNo"_s, MasterTexts::tr("&Vendor no."), u"mnuSortVendorNo"_s},
+                        {u"VendorName1"_s, MasterTexts::tr("&Name"), u"mnuSortName"_s}};
+    kind.list.firstOrder = 1;
+    kind.list.prints = true;
+    kind.list.filterField = u"CurrencyID"_s;
+    kind.list.notSuspended = u"(Suspended <> true)"_s;
     // Receipts keep naming a vendor that has gone.
-    kind.ownedTables = {u"VBalance"_s, u"VContact"_s};
+    kind.list.ownedTables = {u"VBalance"_s, u"VContact"_s};
 
-    kind.action = u"ActionEditVendors"_s;
-    kind.actionCaption = MasterTexts::tr("Edit Vendors");
-    kind.rights = u"frmVendors/Vendors"_s;
-    kind.isMain = true;
-    kind.reopening = MasterKind::Reopening::JustShow;
+    kind.command.action = u"ActionEditVendors"_s;
+    kind.command.caption = MasterTexts::tr("Edit Vendors");
+    kind.command.rights = u"frmVendors/Vendors"_s;
+    kind.command.isMain = true;
+    kind.command.reopening = MasterKind::Reopening::JustShow;
 
-    kind.systemFields = {u"VendorID"_s};
-    kind.longTexts = {u"WebPage"_s};
+    kind.files.systemFields = {u"VendorID"_s};
+    kind.files.longTexts = {u"WebPage"_s};
     return kind;
 }
 

@@ -11,7 +11,7 @@ MasterListScreen::MasterListScreen(ScreenContext &context, const MasterKind &kin
     , m_list(context.data.databaseTallymere(), kind)
 {
     m_list.open();
-    setRecords(m_list, {kind.screen, kind.listScreen, makeRecord});
+    setRecords(m_list, {kind.record.screen, kind.list.screen, makeRecord});
 }
 
 void MasterListScreen::buildList(const std::function<void(ListDescription &)> &add)
@@ -25,14 +25,14 @@ void MasterListScreen::buildList(const std::function<void(ListDescription &)> &a
 ListDescription MasterListScreen::description()
 {
     const MasterKind &kind = m_list.kind();
-    return {.name = kind.listScreen,
-            .caption = kind.listCaption,
-            .columns = kind.columns,
+    return {.name = kind.list.screen,
+            .caption = kind.list.caption,
+            .columns = kind.list.columns,
             .buttons = recordButtons(),
-            .menus = {
-                fileMenu(kind.prints ? Printing::Offered : Printing::Never), recordMenu(),
-                viewMenu(kind.orders, kind.firstOrder, [this](const ListOrder &order) { m_list.setOrder(order); }),
-                helpMenu(tr("%1 &Help").arg(kind.listCaption))}};
+            .menus = {fileMenu(kind.list.prints ? Printing::Offered : Printing::Never), recordMenu(),
+                      viewMenu(kind.list.orders, kind.list.firstOrder,
+                               [this](const ListOrder &order) { m_list.setOrder(order); }),
+                      helpMenu(tr("%1 &Help").arg(kind.list.caption))}};
 }
 
 std::function<void()> MasterListScreen::mainWindowAction(const QString &action)

@@ -23,7 +23,7 @@ MasterRecordScreen::~MasterRecordScreen()
 
 void MasterRecordScreen::buildRecord()
 {
-    setObjectName(m_record.kind().screen);
+    setObjectName(m_record.kind().record.screen);
     setLookupLists(*this, context().lookups, guard());
     binder().bind(m_record.table());
     connect(&m_record.table(), &Engine::DataSet::fieldChanged, this, &MasterRecordScreen::recordChanged);
@@ -99,7 +99,7 @@ QString MasterRecordScreen::recordName() const
 {
     const MasterKind &kind = m_record.kind();
     const QString name = kind.recordName(m_record.table());
-    const QString what = isNew() ? kind.newCaption : kind.caption;
+    const QString what = isNew() ? kind.record.newCaption : kind.record.caption;
     return name.isEmpty() ? what : tr("%1 '%2'").arg(what, name);
 }
 

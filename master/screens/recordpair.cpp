@@ -16,9 +16,9 @@ namespace {
 
 QString titleOf(const MasterKind &kind, const QString &field)
 {
-    const auto column = std::find_if(kind.columns.begin(), kind.columns.end(),
+    const auto column = std::find_if(kind.list.columns.begin(), kind.list.columns.end(),
                                      [&](const GridColumn &shown) { return shown.field == field; });
-    return column == kind.columns.end() ? field : column->title;
+    return column == kind.list.columns.end() ? field : column->title;
 }
 
 } // namespace

@@ -19,7 +19,8 @@ TfrmVendor::TfrmVendor(ScreenContext &context, QWidget *parent)
     , m_ui(std::make_unique<Ui::TfrmVendor>())
     , m_contacts(context.data.databaseTallymere(), MasterKinds::vendorContact())
     , m_contactCards(new ListRecordOpener(
-          context, {m_contacts.kind().screen, m_contacts.kind().listScreen, RecordScreens::makes<TfrmVContact>()},
+          context,
+          {m_contacts.kind().record.screen, m_contacts.kind().list.screen, RecordScreens::makes<TfrmVContact>()},
           m_contacts, this))
 {
     m_ui->setupUi(this);
@@ -40,7 +41,7 @@ void TfrmVendor::buildContacts()
 {
     m_contacts.open();
     m_contacts.table().setMaster(&record().table(), u"VendorID"_s);
-    m_ui->DBGrid1->setDataSet(m_contacts.table(), m_contacts.kind().columns, guard());
+    m_ui->DBGrid1->setDataSet(m_contacts.table(), m_contacts.kind().list.columns, guard());
     m_ui->DBGrid1->setHint(tr("No contacts yet. Press New to add one."));
     connectGuarded(m_ui->DBGrid1, &ListGrid::chosen, this, &TfrmVendor::btnEditClick);
     connectGuarded(m_ui->btnNew, &QPushButton::clicked, this, &TfrmVendor::btnNewClick);

@@ -156,7 +156,7 @@ TEST_P(Records, BeginWithTheirDefaults)
         record.newRecord();
         EXPECT_EQ(filledFields(record.table()), expected.value(kind->name)) << kind->name.toStdString();
         EXPECT_FALSE(record.table().isModified());
-        EXPECT_EQ(record.caption(), kind->newCaption);
+        EXPECT_EQ(record.caption(), kind->record.newCaption);
     }
 }
 

@@ -85,7 +85,7 @@ protected:
     // The record's screen that the list has opened.
     void takeRecord(const MasterKind &kind)
     {
-        record = findScreen<MasterRecordScreen>(kind.screen);
+        record = findScreen<MasterRecordScreen>(kind.record.screen);
         ASSERT_TRUE(record);
         showActive(*record);
     }
@@ -113,7 +113,7 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
         const int rowsBefore = grid->model()->rowCount();
 
         // a new record, by the keyboard
-        pressButton(Qt::Key_N, [&] { return findScreen(plain.kind.screen) != nullptr; });
+        pressButton(Qt::Key_N, [&] { return findScreen(plain.kind.record.screen) != nullptr; });
         takeRecord(plain.kind);
         pressButton(Qt::Key_O, [this] { return !prompts.said.isEmpty(); });
         EXPECT_EQ(prompts.take().size(), 1) << "it has no name";

@@ -104,7 +104,7 @@ TEST_P(Vendors, AreFilteredByCurrencyAndSuspension)
         {{0, Marked::No}, u"(Suspended <> true)"_s, u"V1 V2 V3 V5"_s},
         {{0, Marked::All}, {}, u"V1 V2 V3 V4 V5"_s},
     };
-    list.setOrder(MasterKinds::vendor().orders[0]);
+    list.setOrder(MasterKinds::vendor().list.orders[0]);
     for (const auto &[choice, expression, shown] : cases) {
         EXPECT_EQ(MasterKinds::vendor().filterExpression(choice), expression);
         list.table().setFilter(expression);
