@@ -2,47 +2,46 @@
 
 #include "cli/texts.h"
 
+#include <QCommandLineParser>
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere::Cli {
 
-Arguments::Arguments(const QStringList &words, const QList<OptionSpec> &options)
+namespace {
+
+// The parser tells in words of its own what is wrong; these are found out again, to say it as everywhere else.
+[[noreturn]] void refuse(const QCommandLineParser &parser, const QStringList &words,
+                         const QList<OptionSpec> &options)
 {
-    QStringList rest = words;
-    bool optionsOver = false;
-    while (!rest.isEmpty()) {
-        const QString word = rest.takeFirst();
-        if (!optionsOver && word == "--"_L1)
-            optionsOver = true;
-        else if (!optionsOver && word.startsWith("--"_L1))
-            takeOption(word.mid(2), rest, options);
-        else
-            m_words.append(word);
+    if (const QStringList unknown = parser.unknownOptionNames(); !unknown.isEmpty())
+        throw UsageError(Texts::tr("unknown option '--%1'").arg(unknown.first()));
+    for (const OptionSpec &option : options) {
+        const QString given = "--"_L1 + option.name;
+        if (option.value.isEmpty() && !words.filter(QRegularExpression(u'^' + given + u'=')).isEmpty())
+            throw UsageError(Texts::tr("option '%1' takes no value").arg(given));
+        if (!option.value.isEmpty() && words.last() == given)
+            throw UsageError(Texts::tr("option '%1' needs a value: %2").arg(given, option.value));
     }
+    throw UsageError(parser.errorText());
 }
 
-void Arguments::takeOption(QString name, QStringList &rest, const QList<OptionSpec> &options)
+} // namespace
+
+Arguments::Arguments(const QStringList &words, const QList<OptionSpec> &options)
 {
-    QString value;
-    const qsizetype equals = name.indexOf(u'=');
-    if (equals >= 0) {
-        value = name.mid(equals + 1);
-        name.truncate(equals);
+    QCommandLineParser parser;
+    for (const OptionSpec &option : options)
+        parser.addOption({option.name, option.text, option.value});
+    if (!parser.parse(QStringList(u"tallymere"_s) + words))
+        refuse(parser, words, options);
+    for (const QString &name : parser.optionNames()) {
+        if (m_options.contains(name))
+            throw UsageError(Texts::tr("option '--%1' is given twice").arg(name));
+        m_options.insert(name, parser.value(name));
     }
-    const auto known =
-        std::find_if(options.begin(), options.end(), [&](const OptionSpec &option) { return option.name == name; });
-    if (known == options.end())
-        throw UsageError(Texts::tr("unknown option '--%1'").arg(name));
-    if (m_options.contains(name))
-        throw UsageError(Texts::tr("option '--%1' is given twice").arg(name));
-    if (known->value.isEmpty() && equals >= 0)
-        throw UsageError(Texts::tr("option '--%1' takes no value").arg(name));
-    if (!known->value.isEmpty() && equals < 0) {
-        if (rest.isEmpty())
-            throw UsageError(Texts::tr("option '--%1' needs a value: %2").arg(name, known->value));
-        value = rest.takeFirst();
-    }
-    m_options.insert(name, value);
+    m_words = parser.positionalArguments();
 }
 
 qint64 Arguments::number(const QString &option, qint64 otherwise) const

@@ -51,8 +51,6 @@ public:
     const QStringList &words() const { return m_words; }
 
 private:
-    void takeOption(QString name, QStringList &rest, const QList<OptionSpec> &options);
-
     QHash<QString, QString> m_options;
     QStringList m_words;
 };
