@@ -54,7 +54,7 @@ void fillSmall(TDataModuleTallymere &data, Prompts &prompts, Progress &progress)
     Engine::Transaction transaction(data.databaseTallymere().connection());
     requireEmpty(data.databaseTallymere());
     bringInSampleMasters(data, progress);
-    for (const DocumentKind *kind : {&DocumentKinds::receipt(), &DocumentKinds::usage()}) {
+    for (const DocumentKind *kind : DocumentKinds::all()) {
         bringInSampleDocuments(data, kind->name, SampleDocuments::Posted, progress);
         DocumentPosting(data.databaseTallymere(), *kind).run(prompts, progress);
         bringInSampleDocuments(data, kind->name, SampleDocuments::Unposted, progress);
@@ -98,9 +98,10 @@ Command sampleCommand()
     command.name = u"sample"_s;
     command.summary = Texts::tr("fills a new database with a sample kitchen");
     command.details = Texts::tr(
-        "What is missing is made as by 'init'. The small kitchen holds a year of receipts and usage, posted but\n"
-        "for the last days'. The large one holds 5,000 items, 10 locations and 1,000,000 history rows of three\n"
-        "years; the same seed gives the same rows.");
+        "What is missing is made as by 'init'. The small kitchen holds a year of receipts, usage and adjustments,\n"
+        "posted but for the last days'. The large one holds 5,000 items, 10 locations and 1,000,000 history rows "
+        "of\n"
+        "three years; the same seed gives the same rows.");
     command.options = {{u"size"_s, u"small|large"_s, Texts::tr("small (the default) or large")},
                        {u"seed"_s, u"N"_s, Texts::tr("what chance of the large kitchen starts from (default 1)")}};
     command.run = runSample;

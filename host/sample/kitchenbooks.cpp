@@ -118,15 +118,18 @@ void KitchenBooks::addUsage(const KitchenDocument &document, const std::vector<K
                   period.year, false, posted});
 }
 
-void KitchenBooks::addAdjustment(const KitchenDocument &document, const std::vector<KitchenLine> &lines)
+void KitchenBooks::addAdjustment(const KitchenDocument &document, const std::vector<KitchenLine> &lines,
+                                 bool posted)
 {
     const Period period = periodOf(document.date);
     const QString description = u"Spoilage and recounts of %1"_s.arg(document.date.toString(Qt::ISODate));
     m_adjustments.add(
-        {m_adjustmentId, period.year, period.number, document.date, description, document.warehouse, true});
+        {m_adjustmentId, period.year, period.number, document.date, description, document.warehouse, posted});
     int seq = 0;
     for (const KitchenLine &line : lines) {
         m_adjustmentLines.add({m_adjustmentId, ++seq, line.item, line.quantity});
+        if (!posted)
+            continue;
         m_history.add({line.item, document.warehouse, period.year, period.number, typeValue(TransType::Adjust),
                        document.date, line.quantity, Value(), description, Value(), m_adjustmentId, Value()});
     }

@@ -34,7 +34,7 @@ public:
 
     void addReceipt(const KitchenDocument &document, const std::vector<KitchenLine> &lines, bool posted = true);
     void addUsage(const KitchenDocument &document, const std::vector<KitchenLine> &lines, bool posted = true);
-    void addAdjustment(const KitchenDocument &document, const std::vector<KitchenLine> &lines);
+    void addAdjustment(const KitchenDocument &document, const std::vector<KitchenLine> &lines, bool posted = true);
     void finish();
 
 private:

@@ -181,6 +181,8 @@ void LargeKitchen::addUnposted(KitchenBooks &books)
         const std::vector<KitchenLine> lines = receive(document, location, linesPerDocument, 1.15);
         books.addReceipt(document, lines, false);
         books.addUsage(document, use(location, linesPerDocument), false);
+        if (i % 5 == 0)
+            books.addAdjustment(document, adjust(location, 3), false);
     }
     m_items = posted;
 }

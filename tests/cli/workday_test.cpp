@@ -91,7 +91,7 @@ TEST_P(Workday, TheSampleKitchenAddsUpAndGoesIntoANewDatabaseOnly)
     const CliResult sample = cli.run({u"sample"_s});
     ASSERT_EQ(sample.status, 0) << sample;
     EXPECT_GE(cli.list({u"list"_s, u"items"_s}).size(), 150);
-    for (const QString &kind : {u"receipts"_s, u"usage"_s})
+    for (const QString &kind : {u"receipts"_s, u"usage"_s, u"adjustments"_s})
         EXPECT_GT(cli.list({u"list"_s, kind, u"--filter"_s, u"(Posted = false)"_s}).size(), 0);
 
     QHash<QString, double> moved;
