@@ -77,6 +77,46 @@ TEST_P(FailingPosting, KeepsWhatWasWrittenBeforeTheFailingStatement)
     }
 }
 
+TEST_P(FailingPosting, StopsUsageAndAdjustmentsInTheSameOrder)
+{
+    kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s);
+    for (const DocumentKind *kind : {&DocumentKinds::usage(), &DocumentKinds::adjustment()}) {
+        const int sign = kind == &DocumentKinds::usage() ? -1 : 1;
+        for (int id = 1; id <= 3; ++id) {
+            kitchen.execute(u"INSERT INTO %1 (%2, WarehouseID, GLYear, GLPeriod, %3, Posted) "
+                            "VALUES (%4, 1, 2026, 3, '2026-03-14', false)"_s.arg(
+                                kind->headerTable, kind->keyField, kind->dateField, QString::number(id)));
+            for (int i = 0; i < 3; ++i)
+                kitchen.execute(u"INSERT INTO %1 (%2, Seq, ItemID, Quantity) VALUES (%3, %4, 1, %5)"_s.arg(
+                    kind->lineTable, kind->keyField, QString::number(id), QString::number(i + 1),
+                    QString::number(1 << ((id - 1) * 3 + i))));
+        }
+        const QList<FailureCase> cases = {
+            {"marking", u"UPDATE"_s, kind->headerTable, u"NEW.%1 = 2"_s.arg(kind->keyField), u"1"_s, u"1,2,4"_s, 7},
+            {"history", u"INSERT"_s, u"IHist"_s, u"NEW.Quantity = 16"_s, u"1,2"_s, u"1,2,4,8"_s, 15},
+            {"balance", u"UPDATE"_s, u"IBalance"_s, u"NEW.QtyOnHand = %1"_s.arg(31 * sign), u"1,2"_s,
+             u"1,2,4,8,16"_s, 15},
+        };
+        for (const FailureCase &c : cases) {
+            SCOPED_TRACE(kind->name.toStdString() + ' ' + c.name);
+            kitchen.execute(
+                u"DELETE FROM IBalance; DELETE FROM IHist; UPDATE %1 SET Posted = false"_s.arg(kind->headerTable));
+            const BrokenTable broken(kitchen, c.event, c.table, c.condition);
+            SpokenPrompts prompts;
+            CountedProgress progress;
+            EXPECT_THROW(DocumentPosting(kitchen.database(), *kind).run(prompts, progress), EngineError);
+            EXPECT_EQ(kitchen
+                          .rows(u"SELECT %1 FROM %2 WHERE Posted = true ORDER BY 1"_s.arg(kind->keyField,
+                                                                                          kind->headerTable))
+                          .join(u','),
+                      c.posted);
+            EXPECT_EQ(history(), c.history);
+            EXPECT_EQ(kitchen.onHand(1, 1), sign * c.onHand);
+        }
+        kitchen.expectNoLocks();
+    }
+}
+
 TEST_P(FailingPosting, OverflowOfAnAmountStopsAtItsLine)
 {
     kitchen.execute(u"UPDATE IRecDet SET UnitCost = 1e18 WHERE ReceiptID = 2 AND Seq = 3"_s);

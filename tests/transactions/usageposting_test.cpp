@@ -43,12 +43,33 @@ protected:
                     .arg(line.item == 0 ? u"NULL"_s : QString::number(line.item), line.quantity, line.cost);
         kitchen.execute(sql);
     }
+    void addAdjustment(int id, int warehouse, const QList<Line> &lines)
+    {
+        kitchen.execute(
+            u"INSERT INTO IAdjust (AdjustmentID, GLYear, GLPeriod, AdjDate, AdjDescription, WarehouseID, Posted) "
+            "VALUES (%1, 2026, 3, '2026-03-14', 'Spoiled', %2, false)"_s.arg(id)
+                .arg(warehouse));
+        int seq = 0;
+        for (const Line &line : lines)
+            kitchen.execute(
+                u"INSERT INTO IAdjDet (AdjustmentID, Seq, ItemID, Quantity) VALUES (%1, %2, %3, %4)"_s.arg(id)
+                    .arg(++seq)
+                    .arg(line.item)
+                    .arg(line.quantity));
+    }
     bool post() { return DocumentPosting(kitchen.database(), DocumentKinds::usage()).run(prompts, progress); }
     QStringList balances()
     {
         return kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s);
     }
 
+    struct Change
+    {
+        bool adjusts;
+        std::pair<int, int> place;
+        double quantity;
+    };
+    std::vector<Change> pending;
     Kitchen kitchen{GetParam()};
     SpokenPrompts prompts;
     CountedProgress progress;
@@ -80,7 +101,8 @@ TEST_P(UsagePosting, TakesStockedItemsOutOfTheLocationAndLeavesTheirCost)
     EXPECT_FALSE(post());
 }
 
-// The books as a plain program would keep them, over several runs. The seed is told when they differ.
+// The books as a plain program would keep them, over several runs of usage and adjustments. The seed is told when they
+// differ.
 TEST_P(UsagePosting, AgreesWithAPlainComputationOnRandomDocuments)
 {
     const unsigned seed = std::random_device()();
@@ -88,36 +110,48 @@ TEST_P(UsagePosting, AgreesWithAPlainComputationOnRandomDocuments)
     std::mt19937 random(seed);
     const auto below = [&random](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
     std::map<std::pair<int, int>, double> onHand;
-    QStringList history;
+    QStringList used, adjusted;
     kitchen.setStock(1, 1, 5.3, 2);
     onHand[{1, 1}] = 5.3;
     int document = 0;
     for (int run = 0; run < 3; ++run) {
         for (int i = below(90); i >= 0; --i) {
+            const bool adjusts = below(2);
             const int warehouse = 1 + below(2);
             QList<Line> lines;
             ++document;
             for (int j = below(8); j > 0; --j) {
-                const int item = below(6); // none, stocked or not, without type, gone
+                const int item = adjusts ? 1 + below(5) : below(6); // none, stocked or not, without type, gone
                 const double quantity = 0.01 * (below(2001) - 1000);
                 const std::optional<double> cost =
                     below(3) ? std::optional(0.00005 * below(100'000)) : std::nullopt;
                 lines.append(
                     {item, QString::number(quantity, 'g', 17), cost ? QString::number(*cost, 'g', 17) : u"NULL"_s});
-                if (item != 1 && item != 2)
+                if (!adjusts && item != 1 && item != 2)
                     continue;
-                onHand[{item, warehouse}] -= quantity;
-                const QString posted = cost ? Engine::Value(Engine::Money::fromDouble(*cost)).toText() : QString();
-                history << u"%1|%2|%3|%4|%5"_s.arg(document).arg(item).arg(warehouse).arg(
-                    Engine::Value(quantity).toText(), posted);
+                const QString row =
+                    u"%1|%2|%3|%4|"_s.arg(document).arg(item).arg(warehouse).arg(Engine::Value(quantity).toText());
+                (adjusts ? adjusted : used) << row
+                        + (cost && !adjusts ? Engine::Value(Engine::Money::fromDouble(*cost)).toText() : QString());
+                pending.push_back({adjusts, {item, warehouse}, adjusts ? quantity : -quantity});
             }
-            addUsage(document, warehouse, lines);
+            adjusts ? addAdjustment(document, warehouse, lines) : addUsage(document, warehouse, lines);
         }
-        EXPECT_TRUE(post());
+        post();
+        DocumentPosting(kitchen.database(), DocumentKinds::adjustment()).run(prompts, progress);
+        for (const bool adjusts : {false, true})
+            for (const Change &change : pending)
+                if (change.adjusts == adjusts)
+                    onHand[change.place] += change.quantity;
+        pending.clear();
     }
-    EXPECT_EQ(
-        kitchen.rows(u"SELECT UsageID, ItemID, WarehouseID, Quantity, UnitCost FROM IHist ORDER BY IHistID"_s),
-        history);
+    const auto history = [&](const QString &key) {
+        return kitchen.rows(
+            u"SELECT %1, ItemID, WarehouseID, Quantity, UnitCost FROM IHist WHERE %1 > 0 ORDER BY IHistID"_s.arg(
+                key));
+    };
+    EXPECT_EQ(history(u"UsageID"_s), used);
+    EXPECT_EQ(history(u"AdjustmentID"_s), adjusted);
     QStringList expected;
     for (const auto &[place, quantity] : onHand)
         expected << u"%1|%2|%3"_s.arg(place.first).arg(place.second).arg(Engine::Value(quantity).toText());
