@@ -66,7 +66,7 @@ private:
     LookupComboBox *box(const QString &name) const;
     void orderTabs();
 
-    std::unique_ptr<Ui::FilterDialog> m_ui;
+    std::unique_ptr<::Ui::FilterDialog> m_ui;
     QList<QWidget *> m_rows;
     QList<LookupComboBox *> m_boxes;
     QList<Choice> m_choices;

@@ -28,7 +28,7 @@ protected:
     void showStep() override;
 
 private:
-    std::unique_ptr<Ui::TfrmDialerSetupInv> m_ui;
+    std::unique_ptr<::Ui::TfrmDialerSetupInv> m_ui;
     const Dialer m_dialer;
     QList<QRadioButton *> m_choices; // COM1 first
 };

@@ -39,7 +39,7 @@ private:
     bool takeTypeKey(const QKeyEvent &key);
     bool takeSearchKey(QKeyEvent &key);
 
-    std::unique_ptr<Ui::TfrmItemSearchInv> m_ui;
+    std::unique_ptr<::Ui::TfrmItemSearchInv> m_ui;
     ItemSearch m_search;
     QString m_typed; // before it opened: the beginning of a number, until typing goes on
     bool m_erases = false; // the key that changes a search box

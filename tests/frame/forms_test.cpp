@@ -1,0 +1,199 @@
+#include "base/rights.h"
+#include "controls/datedialog.h"
+#include "frame/aboutform.h"
+#include "frame/frmtallymeresystem.h"
+#include "frame/mainoptionsinv.h"
+#include "master/masterkinds.h"
+#include "master/screens/dialerinv.h"
+#include "master/screens/itemsearchinv.h"
+#include "master/screens/masterlistscreen.h"
+#include "master/screens/masterscreens.h"
+#include "master/screens/vcontact.h"
+#include "tests/frame/testcompany.h"
+#include "tests/support/screendriver.h"
+#include "transactions/documentkinds.h"
+
+#include <QAction>
+#include <QDirIterator>
+#include <QLabel>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// A widget of a form as its file describes it.
+struct Described
+{
+    QString type, name;
+    QHash<QString, QString> properties;
+
+    bool is(const QString &types) const { return type.contains(QRegularExpression(u'(' + types + u")$"_s)); }
+    bool isField() const { return is(u"Edit|ComboBox|DatePicker|Grid|CalendarWidget"_s); }
+    bool takesTab() const
+    {
+        const QString policy = properties.value(u"focusPolicy"_s).remove(u"Qt::"_s);
+        return (isField() || is(u"CheckBox|Button"_s)) && policy != "NoFocus"_L1 && policy != "ClickFocus"_L1;
+    }
+};
+
+struct Form
+{
+    explicit Form(const QString &path)
+    {
+        QFile file(path);
+        file.open(QIODevice::ReadOnly);
+        QXmlStreamReader xml(&file);
+        QList<qsizetype> open; // the widgets that are being read, from the outermost on
+        while (xml.readNext() != QXmlStreamReader::Invalid && !xml.atEnd()) {
+            const bool isWidget = xml.name() == "widget"_L1;
+            if (xml.isEndElement() && isWidget)
+                open.removeLast();
+            if (!xml.isStartElement())
+                continue;
+            const QString name = xml.attributes().value("name"_L1).toString();
+            if (isWidget) {
+                open << widgets.size();
+                widgets << Described{xml.attributes().value("class"_L1).toString(), name, {}};
+            } else if (xml.name() == "property"_L1 && !open.isEmpty()) {
+                values[name] << xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
+                widgets[open.last()].properties[name] = values[name].constLast();
+            } else if (xml.name() == "tabstop"_L1) {
+                tabStops << xml.readElementText();
+            }
+        }
+        EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
+    }
+
+    QList<Described> widgets;
+    QHash<QString, QStringList> values; // of each property
+    QStringList tabStops;
+};
+
+void expectFits(const QWidget &widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    const auto *button = qobject_cast<const QAbstractButton *>(&widget);
+    if (!label && !button)
+        return;
+    QSize wanted = widget.sizeHint();
+    if (label && label->wordWrap())
+        wanted = {0, label->heightForWidth(label->width())};
+    if (button) // styles want a button wider than a short text needs
+        wanted.setWidth(std::min(wanted.width(), button->fontMetrics().horizontalAdvance(button->text()) + 8));
+    EXPECT_TRUE(wanted.expandedTo(widget.size()) == widget.size()
+                && widget.parentWidget()->rect().contains(widget.geometry()))
+        << qPrintable(widget.objectName());
+}
+
+class FormsTest : public testing::Test
+{
+protected:
+    void expectExists(const Described &widget, const Form &form)
+    {
+        const auto given = [&](const char *name) { return widget.properties.value(QString::fromLatin1(name)); };
+        if (const QString list = given("opensList"); !list.isEmpty()) {
+            EXPECT_TRUE(screens.contains(list)) << qPrintable(list);
+            QString rights;
+            for (const MasterKind *kind : MasterKinds::all())
+                rights += kind->list.screen == list ? rightsOf(kind->command.rights).name : QString();
+            EXPECT_EQ(rightsOf(given("rights")).name, rights);
+        }
+        const QStringList fields = form.values.value(u"dataField"_s);
+        for (const QString &field : {given("listField"), given("dials"), given("mails"), given("browses")})
+            EXPECT_TRUE(field.isEmpty() || fields.contains(field)) << qPrintable(field);
+        if (const QString lookup = given("lookupList"); !lookup.isEmpty()) {
+            EXPECT_EQ(over.lookups.list(lookup).table.name(), lookup);
+        }
+        if (widget.isField()) {
+            EXPECT_TRUE(form.values.value(u"buddy"_s).contains(widget.name) || !given("accessibleName").isEmpty());
+        }
+    }
+
+    // Every text fits into its widget, on each page of the window.
+    void expectFit(QWidget &window)
+    {
+        SCOPED_TRACE(qPrintable(window.objectName()));
+        window.show();
+        auto *book = window.findChild<QTabWidget *>();
+        for (int page = 0; page < (book ? book->count() : 1); ++page) {
+            if (book)
+                book->setCurrentIndex(page);
+            QCoreApplication::processEvents();
+            for (const QWidget *widget : window.findChildren<QWidget *>()) {
+                if (widget->isVisible() && !widget->objectName().isEmpty())
+                    expectFits(*widget);
+            }
+        }
+        ++shown;
+    }
+
+    TestContext over;
+    const ScreenRegistry screens = productScreens();
+    QWidget mainWindow;
+    int shown = 0;
+};
+
+} // namespace
+
+TEST_F(FormsTest, WhatTheFormsNameExists)
+{
+    for (const char *room : {"controls", "frame", "host", "master", "transactions"}) {
+        QDirIterator files(QStringLiteral(SOURCE_FOLDER "/") + QString::fromLatin1(room), {u"*.ui"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        EXPECT_TRUE(files.hasNext()) << room;
+        while (files.hasNext()) {
+            const Form form(files.next());
+            SCOPED_TRACE(qPrintable(files.fileName()));
+            QStringList stops;
+            for (const Described &widget : form.widgets) {
+                SCOPED_TRACE(qPrintable(widget.name));
+                if (widget.takesTab())
+                    stops << widget.name;
+                expectExists(widget, form);
+            }
+            // Without tab stops of its own a form is gone through as it was laid out.
+            EXPECT_TRUE(
+                form.tabStops.isEmpty()
+                || std::is_permutation(stops.begin(), stops.end(), form.tabStops.begin(), form.tabStops.end()))
+                << qPrintable(form.tabStops.join(u' '));
+        }
+    }
+}
+
+// A screen also refuses to open when a widget names a field that its table does not have.
+TEST_F(FormsTest, NothingIsClipped)
+{
+    QStringList names = {u"frmCompany"_s, u"FormEnterInventory"_s, u"frmInvTotals"_s, u"frmInvHistory"_s};
+    for (const MasterScreen &screen : masterScreens())
+        names << screen.kind.list.screen;
+    for (const DocumentKind *kind : DocumentKinds::all())
+        names << kind->listScreen << kind->postScreen;
+    for (const QString &name : names) {
+        SCOPED_TRACE(qPrintable(name));
+        QWidget *window = screens.find(name)->create(over.context, &mainWindow);
+        expectFit(*window);
+        if (auto *list = qobject_cast<RecordListScreen *>(window)) {
+            list->btnNewClick();
+            expectFit(*static_cast<QWidget *>(mainWindow.children().constLast()));
+        }
+        for (const QString &command : {u"mnuFilter"_s, u"mnuFind"_s}) {
+            if (auto *action = window->findChild<QAction *>(command))
+                whileOpen<QDialog>([&] { action->trigger(); }, [&](QDialog &dialog) { expectFit(dialog); });
+        }
+    }
+    TFormRegistryEditor settings(over.company.settings, over.company.prompts);
+    TFormAboutTallymereSystem about;
+    TFormTallymereSystem system(FrameServices{over.company.settings, over.company.prompts, screens});
+    TfrmVContact contact(over.context, nullptr);
+    TfrmDialerInv dialer(over.context, nullptr);
+    TfrmItemSearchInv search(over.context, nullptr);
+    DateDialog date(over.context, QDate(2026, 3, 31), nullptr);
+    for (QWidget *window : QWidgetList{&settings, &about, &system, &contact, &dialer, &search, &date})
+        expectFit(*window);
+    EXPECT_GT(shown, 40) << "some dialogs did not come";
+}
