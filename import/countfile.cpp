@@ -51,7 +51,8 @@ void takeRow(const ImportRow &row, StockCount &count)
 
 void takeCountFile(QIODevice &file, StockCount &count, ImportErrors &errors)
 {
-    const std::vector<ImportDocument> documents = readImportFile(file, countKind(), errors);
+    const ImportKind kind = countKind(); // the rows point to its columns
+    const std::vector<ImportDocument> documents = readImportFile(file, kind, errors);
     for (const ImportDocument &document : documents) {
         const ImportRow &row = document.front();
         if (row.isBad)
