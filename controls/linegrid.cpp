@@ -295,7 +295,14 @@ bool LineGrid::focusNextPrevChild(bool next)
 {
     bool stays = false;
     moveByHand([&] { stays = moveByTab(next); });
-    return stays || EntryGrid::focusNextPrevChild(next);
+    if (stays)
+        return true;
+    // Back it goes to a field, not to the small button beside it.
+    bool moved = false;
+    do {
+        moved = EntryGrid::focusNextPrevChild(next);
+    } while (moved && !next && qobject_cast<QToolButton *>(window()->focusWidget()));
+    return moved;
 }
 
 void LineGrid::focusInEvent(QFocusEvent *event)

@@ -28,7 +28,10 @@ bool TfrmInvAdjustment::eventFilter(QObject *watched, QEvent *event)
     const int key = static_cast<QKeyEvent *>(event)->key();
     if (key != Qt::Key_Plus && key != Qt::Key_Minus)
         return DocumentScreen::eventFilter(watched, event);
-    guard().run([this, key] { adjustment().stepDate(key == Qt::Key_Plus ? 1 : -1); });
+    guard().run([this, key] {
+        binder().commit(); // a date that is being typed, or has just been cleared, is the one to step from
+        adjustment().stepDate(key == Qt::Key_Plus ? 1 : -1);
+    });
     return true;
 }
 
