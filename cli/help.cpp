@@ -9,7 +9,7 @@ namespace Tallymere::Cli {
 
 namespace {
 
-constexpr int nameWidth = 26;
+constexpr int nameWidth = 33; // the longest command and a space or two
 
 QString optionLines(const QList<OptionSpec> &options)
 {
