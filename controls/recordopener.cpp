@@ -5,6 +5,7 @@
 #include "controls/screenmetrics.h"
 #include "data/recordlist.h"
 #include "engine/error.h"
+#include "engine/recordlock.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -79,7 +80,7 @@ void RecordOpener::open(int key, const QString &name)
     const WaitCursor hourglass;
     std::unique_ptr<RecordScreen> screen = make();
     if (!screen->openRecord(key))
-        throw RuleError(tr("'%1' was deleted by another user.").arg(name));
+        throw RuleError(Engine::recordGoneText(u'\'' + name + u'\''));
     screen.release()->show();
 }
 

@@ -58,4 +58,6 @@ void RecordLock::refuse(const QString &record, const QString &tableTitle)
               .arg(record, m_locks.holderOf(m_table)));
 }
 
+QString recordGoneText(const QString &record) { return Texts::tr("%1 was deleted by another user.").arg(record); }
+
 } // namespace Engine

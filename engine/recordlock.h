@@ -37,4 +37,7 @@ private:
     int m_losses = 0; // of the connection, when the lock was taken
 };
 
+// What is said of a record that was deleted before it could be locked: "'1001: Flour' was deleted by another user."
+QString recordGoneText(const QString &record);
+
 } // namespace Engine

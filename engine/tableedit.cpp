@@ -121,9 +121,8 @@ void Table::readForEdit()
     const bool found = findAgain(shown);
     edit->key = currentKey();
     auto stored = found && !edit->key.isEmpty() ? reader.read(&RowSource::row, edit->key) : std::nullopt;
-    if (!stored) {
-        raise(ErrorCode::RecordGone, Texts::tr("%1 was deleted by another user.").arg(recordText()));
-    }
+    if (!stored)
+        raise(ErrorCode::RecordGone, recordGoneText(recordText()));
     edit->values = *stored;
     edit->original = *stored;
     m_edit = std::move(edit);
@@ -161,9 +160,8 @@ bool Table::holdRecord()
     auto lock = lockForEdit(m_edit->original);
     const auto key = storedKey(m_edit->original);
     const auto stored = key ? DataSetReader(*this).read(&RowSource::row, *key) : std::nullopt;
-    if (!stored) {
-        raise(ErrorCode::RecordGone, Texts::tr("%1 was deleted by another user.").arg(recordText()));
-    }
+    if (!stored)
+        raise(ErrorCode::RecordGone, recordGoneText(recordText()));
     m_edit->isStored = m_edit->written && haveSameData(*stored, *m_edit->written);
     if (!m_edit->isStored && !haveSameData(*stored, m_edit->original))
         raise(ErrorCode::RecordChanged,

@@ -158,9 +158,8 @@ void Table::updateRow()
     const StatementPtr statement = connection.prepare(u"UPDATE %1 AS t SET %2 WHERE %3"_s.arg(
         connection.dialect().name(m_layout.name), changes.join(", "_L1), conditions.join(" AND "_L1)));
     bindAll(*statement, values);
-    if (statement->execute() > 0)
-        return;
-    raise(ErrorCode::RecordGone, Texts::tr("%1 was deleted by another user.").arg(recordText()));
+    if (statement->execute() == 0)
+        raise(ErrorCode::RecordGone, recordGoneText(recordText()));
 }
 
 // --- deleting --------------------------------------------------------------------------------------------------
