@@ -5,13 +5,10 @@
 #include "data/fiscalperiod.h"
 #include "engine/database.h"
 #include "engine/error.h"
-#include "engine/lockmanager.h"
 #include "engine/query.h"
 #include "transactions/texts.h"
 
 #include <algorithm>
-#include <QScopeGuard>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 using Engine::ErrorCode;
@@ -27,6 +24,7 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
     , m_prompts(prompts)
     , m_header(database, m_kind.headerTable)
     , m_lines(database, m_kind.lineTable)
+    , m_visit(m_header, m_lines, m_kind.keyField, prompts)
 {
     m_header.uniqueFields = QStringList(m_kind.numberField);
     m_header.uniqueFields.removeAll(QString());
@@ -85,23 +83,16 @@ void DocumentEntry::configureFields()
 
 void DocumentEntry::newDocument(const QString &number)
 {
-    beginVisit();
+    m_wasSaved = false;
     m_givenNumber = number;
     m_header.append();
 }
 
 bool DocumentEntry::openDocument(int key)
 {
-    beginVisit();
-    return m_header.findKey({key});
-}
-
-void DocumentEntry::beginVisit()
-{
     m_wasSaved = false;
-    m_lockWasLost = false;
-    m_keptLines.reset();
-    m_losses = database().connection().locks().losses();
+    m_visit.begin();
+    return m_header.findKey({key});
 }
 
 // --- header --------------------------------------------------------------------------------------------------
@@ -115,22 +106,18 @@ void DocumentEntry::hookHeader()
     m_header.events.beforePost = [this] { checkHeader(); };
     m_header.events.afterPost = [this] {
         m_wasSaved = true;
-        m_lockWasLost = false;
-        m_keptLines.reset();
+        m_visit.end();
     };
     m_header.events.postFailed = [this](const Engine::EngineError &error) {
         if (error.code() == ErrorCode::KeyViolation)
             throw RuleError(m_kind.numberTaken, m_kind.shownField());
     };
-    m_header.events.afterCancel = [this] {
-        m_lockWasLost = false;
-        m_keptLines.reset();
-    };
+    m_header.events.afterCancel = [this] { m_visit.end(); };
 }
 
 void DocumentEntry::newHeader()
 {
-    m_lossesBefore = database().connection().locks().losses();
+    m_visit.begin();
     assignNumbers();
     m_header.setDefault(m_kind.dateField, today());
     m_header.setDefault(u"Posted", false);
@@ -266,34 +253,29 @@ void DocumentEntry::hookLines()
     m_lines.events.beforeEdit = [this] { beginLineChange(LineChange::Edit); };
     m_lines.events.beforeRemove = [this] {
         beginLineChange(LineChange::Remove);
-        m_removedSeq = m_lines.integer(u"Seq");
-        m_keptLines->changing(m_removedSeq, {});
+        m_visit.removing();
     };
     m_lines.events.beforePost = [this] {
-        holdDocument();
+        m_visit.hold();
         checkLine();
         numberLine();
-        if (m_keptLines)
-            m_keptLines->changing(m_lines.integer(u"Seq"), currentLine());
+        m_visit.writing();
     };
     m_lines.events.afterPost = [this] {
-        if (m_keptLines)
-            m_keptLines->changed(m_lines.integer(u"Seq"), currentLine());
+        m_visit.written();
         lineSaved();
     };
     // The numbers of lines are no concern of the user; saved again, the line gets another one. Within a longer
     // transaction, as of an import, that would be too late: a server has given it up.
     m_lines.events.postFailed = [this](const Engine::EngineError &error) {
-        if (m_keptLines && error.code() != ErrorCode::ConnectionLost)
-            m_keptLines->refused(m_lines.integer(u"Seq"));
+        m_visit.notWritten(error);
         if (error.code() == ErrorCode::KeyViolation && !database().connection().inTransaction())
             throw RuleError(TransactionsTexts::tr(
                                 "The line could not be saved because another one was added meanwhile. Try again."),
                             LineGrid);
     };
     m_lines.events.afterRemove = [this] {
-        if (m_keptLines)
-            m_keptLines->changed(m_removedSeq, {});
+        m_visit.removed();
         lineRemoved();
     };
 }
@@ -303,63 +285,8 @@ void DocumentEntry::lockLines()
 {
     if (!m_header.isEditing())
         m_header.edit();
-    holdDocument();
-    if (m_keptLines)
-        return;
-    m_lines.refresh();
-    std::vector<Engine::Row> stored;
-    stored.reserve(static_cast<size_t>(m_lines.recordCount()));
-    for (int i = 0; i < m_lines.recordCount(); ++i)
-        stored.push_back(m_lines.rowAt(i));
-    m_keptLines.emplace(m_lines, std::move(stored));
-}
-
-// A lost connection has taken the lock of the header with it, and so of the lines. It is taken again, but whoever has
-// changed the document meanwhile goes first.
-void DocumentEntry::holdDocument()
-{
-    if (m_header.state() == Engine::TableState::Insert && wasConnectionLost() && isStoredAlready())
-        throw RuleError(TransactionsTexts::tr(
-            "The document had been saved before the connection was lost. Close this screen with Cancel "
-            "and open the document anew."));
-    if (m_header.holdRecord())
-        m_lockWasLost = true;
-    if (!m_lockWasLost)
-        return;
-    if (m_keptLines && !m_keptLines->accountsFor(storedLines()))
-        throw RuleError(TransactionsTexts::tr(
-                            "Another user has changed the lines of this document while the connection was lost. "
-                            "Cancel, and make your changes again."),
-                        LineGrid);
-    m_lockWasLost = false;
-}
-
-bool DocumentEntry::wasConnectionLost() const
-{
-    const Engine::LockManager &locks = database().connection().locks();
-    return locks.areLost() || locks.losses() != m_lossesBefore;
-}
-
-std::vector<Engine::Row> DocumentEntry::storedLines() const
-{
-    Engine::Table stored(database(), m_kind.lineTable);
-    stored.setIndex(m_kind.keyField + ";Seq"_L1);
-    stored.open();
-    stored.setRange({key()}, {key()});
-    std::vector<Engine::Row> rows;
-    rows.reserve(static_cast<size_t>(stored.recordCount()));
-    for (int i = 0; i < stored.recordCount(); ++i)
-        rows.push_back(stored.rowAt(i));
-    return rows;
-}
-
-Engine::Row DocumentEntry::currentLine() const
-{
-    Engine::Row row;
-    row.reserve(static_cast<size_t>(m_lines.fieldCount()));
-    for (int i = 0; i < m_lines.fieldCount(); ++i)
-        row.push_back(m_lines.value(i));
-    return row;
+    m_visit.hold();
+    m_visit.keepLines();
 }
 
 // What the user wants done to the line that he sees must not be done to the one that has come into its place. The
@@ -497,7 +424,7 @@ void DocumentEntry::removeLine()
 void DocumentEntry::save()
 {
     if (m_header.isEditing()) {
-        holdDocument();
+        m_visit.hold();
         m_header.post();
     }
     m_lines.checkBrowseMode();
@@ -515,91 +442,8 @@ void DocumentEntry::cancel()
     } catch (const Engine::EngineError &) {
         // It is dropped. What follows cannot be shown, for want of a connection.
     }
-    if (m_keptLines)
-        takeBackLines();
+    m_visit.takeBackLines([this](const Engine::Row &kept) { restoreLine(kept); });
     m_header.cancel();
-}
-
-// The visit ends, whatever comes of this.
-void DocumentEntry::takeBackLines()
-{
-    bool connectedAgain = false;
-    for (;;) {
-        try {
-            if (isStoredAlready())
-                return tellStored();
-            holdDocument();
-            if (m_header.isStored())
-                return tellStored();
-            return restoreLines();
-        } catch (const RuleError &) {
-            break; // others have been at the lines
-        } catch (const Engine::EngineError &error) {
-            if (error.code() == ErrorCode::RecordChanged || error.code() == ErrorCode::RecordGone)
-                break;
-            if (error.code() == ErrorCode::FileReplaced) // trying again does not help
-                return m_prompts.error(
-                    TransactionsTexts::tr("%1\n\nYour changes to the lines stay in the file that was in use. %2")
-                        .arg(error.text(), m_keptLines->summary()));
-            // The first statement after a loss notices it, the next one connects again.
-            if (error.code() == ErrorCode::ConnectionLost && !std::exchange(connectedAgain, true))
-                continue;
-            if (!m_prompts.retry(
-                    TransactionsTexts::tr(
-                        "Your changes to the lines could not be taken back:\n%1\n\nUnless that is tried "
-                        "again, they stay stored. %2")
-                        .arg(error.text(), m_keptLines->summary())))
-                return;
-        }
-    }
-    m_prompts.warn(
-        TransactionsTexts::tr(
-            "Another user has changed, posted or deleted the document while the connection was lost. What "
-            "that user has saved is stored; nothing of it was taken back. Your own changes were: %1")
-            .arg(m_keptLines->summary()));
-}
-
-void DocumentEntry::tellStored() const
-{
-    m_prompts.warn(TransactionsTexts::tr("The document had been saved before the connection was lost. It stays."));
-}
-
-// The answer to the saving may be all that was lost.
-bool DocumentEntry::isStoredAlready() const
-{
-    const Engine::LockManager &locks = database().connection().locks();
-    const bool wasLost = locks.areLost() || locks.losses() != m_losses;
-    return wasLost && m_header.state() == Engine::TableState::Insert
-        && exists(m_kind.headerTable, m_kind.keyField, key());
-}
-
-void DocumentEntry::restoreLines()
-{
-    const Engine::Table::Events checks = std::exchange(m_lines.events, {});
-    const auto hookAgain = qScopeGuard([&] { m_lines.events = checks; });
-    m_keptLines->restoring();
-    try {
-        writeKeptLines();
-    } catch (...) {
-        m_lines.cancel();
-        throw;
-    }
-    m_lines.flush();
-}
-
-void DocumentEntry::writeKeptLines()
-{
-    Engine::Transaction transaction(database().connection());
-    m_lines.removeAll();
-    for (const Engine::Row &kept : m_keptLines->rows()) {
-        if (kept[static_cast<size_t>(m_lines.fieldIndex(u"Seq"))].toInt() == 0)
-            continue;
-        m_lines.append();
-        restoreLine(kept);
-        m_keptLines->restoring(m_lines.integer(u"Seq"), currentLine());
-        m_lines.post();
-    }
-    transaction.commit();
 }
 
 void DocumentEntry::restoreLine(const Engine::Row &kept)
@@ -624,7 +468,7 @@ bool DocumentEntry::hasLines() const
     try {
         return !m_lines.isEmpty();
     } catch (const Engine::EngineError &) {
-        return m_keptLines.has_value();
+        return m_visit.hasKept();
     }
 }
 

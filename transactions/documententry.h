@@ -4,10 +4,9 @@
 #include "data/numbercounter.h"
 #include "engine/table.h"
 #include "transactions/documentkind.h"
-#include "transactions/linecopy.h"
+#include "transactions/documentvisit.h"
 
 #include <functional>
-#include <optional>
 
 namespace Tallymere {
 
@@ -26,7 +25,7 @@ class DocumentEntry
 {
 public:
     // The column of an error that concerns the lines as a whole.
-    static constexpr QLatin1StringView LineGrid{"Lines"};
+    static constexpr QLatin1StringView LineGrid = DocumentVisit::LineGrid;
 
     virtual ~DocumentEntry();
     DocumentEntry(const DocumentEntry &) = delete;
@@ -132,36 +131,22 @@ private:
     void checkPeriod();
 
     void lockLines();
-    void holdDocument();
-    bool wasConnectionLost() const; // since the new document was begun
-    std::vector<Engine::Row> storedLines() const;
     void beginLineChange(LineChange change);
-    Engine::Row currentLine() const;
     void numberLine();
     int highestSeq() const;
     QString lineName() const;
     Engine::Value itemOfNumber(const QString &itemNo) const; // null when there is none
     void validateItem(const Engine::Value &itemId) const;
     bool hasLines() const;
-    void takeBackLines();
-    bool isStoredAlready() const;
-    void tellStored() const;
-    void restoreLines();
-    void writeKeptLines();
-    void beginVisit();
 
     const DocumentKind &m_kind;
     Prompts &m_prompts;
     Engine::Table m_header;
     Engine::Table m_lines;
+    DocumentVisit m_visit;
 
     int m_nextSeq = 1;
     bool m_wasSaved = false;
-    std::optional<LineCopy> m_keptLines; // as stored when the lock was taken; goes with the lock
-    int m_lossesBefore = 0; // of connections, when the new document was begun
-    bool m_lockWasLost = false; // and who has been at the lines meanwhile is not known yet
-    int m_losses = 0; // of the connection, when the visit began
-    int m_removedSeq = 0; // the line that is being deleted
     QString m_lineColumn;
     QString m_givenNumber;
 };

@@ -1,0 +1,229 @@
+#include "transactions/documentvisit.h"
+
+#include "base/ruleerror.h"
+#include "engine/database.h"
+#include "engine/error.h"
+#include "engine/lockmanager.h"
+#include "engine/query.h"
+#include "transactions/texts.h"
+
+#include <QScopeGuard>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using Engine::ErrorCode;
+
+namespace Tallymere {
+
+namespace {
+
+std::vector<Engine::Row> rowsOf(const Engine::Table &table)
+{
+    std::vector<Engine::Row> rows;
+    rows.reserve(static_cast<size_t>(table.recordCount()));
+    for (int i = 0; i < table.recordCount(); ++i)
+        rows.push_back(table.rowAt(i));
+    return rows;
+}
+
+} // namespace
+
+DocumentVisit::DocumentVisit(Engine::Table &header, Engine::Table &lines, QString keyField, Prompts &prompts)
+    : m_header(header)
+    , m_lines(lines)
+    , m_keyField(std::move(keyField))
+    , m_prompts(prompts)
+{
+}
+
+void DocumentVisit::begin()
+{
+    end();
+    m_losses = m_header.database().connection().locks().losses();
+}
+
+void DocumentVisit::end()
+{
+    m_lockWasLost = false;
+    m_kept.reset();
+}
+
+// A lost connection has taken the lock of the header with it, and so of the lines. It is taken again, but whoever has
+// changed the document meanwhile goes first.
+void DocumentVisit::hold()
+{
+    if (isStoredAlready())
+        throw RuleError(TransactionsTexts::tr(
+            "The document had been saved before the connection was lost. Close this screen with Cancel "
+            "and open the document anew."));
+    if (m_header.holdRecord())
+        m_lockWasLost = true;
+    if (!m_lockWasLost)
+        return;
+    if (m_kept && !m_kept->accountsFor(storedLines()))
+        throw RuleError(TransactionsTexts::tr(
+                            "Another user has changed the lines of this document while the connection was lost. "
+                            "Cancel, and make your changes again."),
+                        LineGrid);
+    m_lockWasLost = false;
+}
+
+// The answer to the saving may be all that was lost.
+bool DocumentVisit::isStoredAlready() const
+{
+    const Engine::LockManager &locks = m_header.database().connection().locks();
+    const bool wasLost = locks.areLost() || locks.losses() != m_losses;
+    return wasLost && m_header.state() == Engine::TableState::Insert
+        && !Engine::singleValue(m_header.database(),
+                                u"SELECT %2 FROM %1 WHERE %2 = ?"_s.arg(m_header.name(), m_keyField), {key()})
+                .isNull();
+}
+
+std::vector<Engine::Row> DocumentVisit::storedLines() const
+{
+    Engine::Table stored(m_lines.database(), m_lines.name());
+    stored.setIndex(m_keyField + ";Seq"_L1);
+    stored.open();
+    stored.setRange({key()}, {key()});
+    return rowsOf(stored);
+}
+
+void DocumentVisit::keepLines()
+{
+    if (m_kept)
+        return;
+    m_lines.refresh();
+    m_kept.emplace(m_lines, rowsOf(m_lines));
+}
+
+Engine::Row DocumentVisit::currentLine() const
+{
+    Engine::Row row;
+    row.reserve(static_cast<size_t>(m_lines.fieldCount()));
+    for (int i = 0; i < m_lines.fieldCount(); ++i)
+        row.push_back(m_lines.value(i));
+    return row;
+}
+
+void DocumentVisit::writing()
+{
+    if (m_kept)
+        m_kept->changing(m_lines.integer(u"Seq"), currentLine());
+}
+
+void DocumentVisit::written()
+{
+    if (m_kept)
+        m_kept->changed(m_lines.integer(u"Seq"), currentLine());
+}
+
+void DocumentVisit::notWritten(const Engine::EngineError &error)
+{
+    if (m_kept && error.code() != ErrorCode::ConnectionLost)
+        m_kept->refused(m_lines.integer(u"Seq"));
+}
+
+void DocumentVisit::removing()
+{
+    m_removedSeq = m_lines.integer(u"Seq");
+    if (m_kept)
+        m_kept->changing(m_removedSeq, {});
+}
+
+void DocumentVisit::removed()
+{
+    if (m_kept)
+        m_kept->changed(m_removedSeq, {});
+}
+
+// --- taking back -----------------------------------------------------------------------------------------------
+
+void DocumentVisit::takeBackLines(const FillLine &fill)
+{
+    if (!m_kept)
+        return;
+    bool connectedAgain = false;
+    for (;;) {
+        try {
+            return takeBack(fill);
+        } catch (const RuleError &) {
+            return tellOthers();
+        } catch (const Engine::EngineError &error) {
+            if (error.code() == ErrorCode::RecordChanged || error.code() == ErrorCode::RecordGone)
+                return tellOthers();
+            // The first statement after a loss notices it, the next one connects again.
+            if (error.code() == ErrorCode::ConnectionLost && !std::exchange(connectedAgain, true))
+                continue;
+            if (!mayTryAgain(error))
+                return;
+        }
+    }
+}
+
+void DocumentVisit::takeBack(const FillLine &fill)
+{
+    if (isStoredAlready())
+        return tellStored();
+    hold();
+    if (m_header.isStored())
+        return tellStored();
+    restoreLines(fill);
+}
+
+void DocumentVisit::restoreLines(const FillLine &fill)
+{
+    const Engine::Table::Events checks = std::exchange(m_lines.events, {});
+    const auto hookAgain = qScopeGuard([&] { m_lines.events = checks; });
+    m_kept->restoring();
+    try {
+        writeKeptLines(fill);
+    } catch (...) {
+        m_lines.cancel();
+        throw;
+    }
+    m_lines.flush();
+}
+
+void DocumentVisit::writeKeptLines(const FillLine &fill)
+{
+    Engine::Transaction transaction(m_lines.database().connection());
+    m_lines.removeAll();
+    for (const Engine::Row &kept : m_kept->rows()) {
+        if (kept[static_cast<size_t>(m_lines.fieldIndex(u"Seq"))].toInt() == 0)
+            continue;
+        m_lines.append();
+        fill(kept);
+        m_kept->restoring(m_lines.integer(u"Seq"), currentLine());
+        m_lines.post();
+    }
+    transaction.commit();
+}
+
+bool DocumentVisit::mayTryAgain(const Engine::EngineError &error) const
+{
+    if (error.code() == ErrorCode::FileReplaced) { // trying again does not help
+        m_prompts.error(
+            TransactionsTexts::tr("%1\n\nYour changes to the lines stay in the file that was in use. %2")
+                .arg(error.text(), m_kept->summary()));
+        return false;
+    }
+    return m_prompts.retry(TransactionsTexts::tr("Your changes to the lines could not be taken back:\n%1\n\nUnless "
+                                                 "that is tried again, they stay stored. %2")
+                               .arg(error.text(), m_kept->summary()));
+}
+
+void DocumentVisit::tellStored() const
+{
+    m_prompts.warn(TransactionsTexts::tr("The document had been saved before the connection was lost. It stays."));
+}
+
+void DocumentVisit::tellOthers() const
+{
+    m_prompts.warn(
+        TransactionsTexts::tr(
+            "Another user has changed, posted or deleted the document while the connection was lost. What "
+            "that user has saved is stored; nothing of it was taken back. Your own changes were: %1")
+            .arg(m_kept->summary()));
+}
+
+} // namespace Tallymere

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "base/prompts.h"
+#include "engine/table.h"
+#include "transactions/linecopy.h"
+
+#include <functional>
+#include <optional>
+
+namespace Tallymere {
+
+// One visit to a document, from the point of view of its lines: they are kept as they were stored when the first change
+// locked the document, and brought back when the visit is cancelled. Where the connection was lost in between, and with
+// it the lock, nothing of what others have stored is touched, and the user is told what has become of the document.
+//
+// The owner of the two tables calls it from their events. Of the line that a call is about, lines() is at hand.
+class DocumentVisit
+{
+public:
+    // The column of an error that concerns the lines as a whole.
+    static constexpr QLatin1StringView LineGrid{"Lines"};
+
+    using FillLine = std::function<void(const Engine::Row &kept)>;
+
+    // The lines have the key of the header, and are ordered by it and their number.
+    DocumentVisit(Engine::Table &header, Engine::Table &lines, QString keyField, Prompts &prompts);
+
+    void begin(); // from here on losses of the connection count
+    void end(); // the header is stored or dropped: the lock and what is known by it go
+
+    // Makes sure of the lock of a document in edit. Raises RuleError where it was lost meanwhile and others have changed
+    // the lines, or the new document is stored already; EngineError where the header is not as it was.
+    void hold();
+    void keepLines(); // as stored now that the document is locked; the first call of a visit counts
+
+    // Around each write of a line.
+    void writing();
+    void written();
+    void notWritten(const Engine::EngineError &error);
+    void removing();
+    void removed();
+
+    bool hasKept() const { return m_kept.has_value(); }
+    // Stores the lines as they were, with their former numbers, each filled by its kind; without the events of the
+    // lines, whose checks would hinder. Where that cannot be done the user is told, and the visit ends all the same.
+    void takeBackLines(const FillLine &fill);
+
+private:
+    bool isStoredAlready() const;
+    std::vector<Engine::Row> storedLines() const;
+    Engine::Row currentLine() const;
+    int key() const { return m_header.integer(m_keyField); }
+
+    void takeBack(const FillLine &fill);
+    void restoreLines(const FillLine &fill);
+    void writeKeptLines(const FillLine &fill);
+    bool mayTryAgain(const Engine::EngineError &error) const;
+    void tellStored() const;
+    void tellOthers() const;
+
+    Engine::Table &m_header;
+    Engine::Table &m_lines;
+    const QString m_keyField;
+    Prompts &m_prompts;
+
+    std::optional<LineCopy> m_kept; // goes with the lock
+    bool m_lockWasLost = false; // and who has been at the lines meanwhile is not known yet
+    int m_losses = 0; // of the connection, when the visit began
+    int m_removedSeq = 0; // the line that is being deleted
+};
+
+} // namespace Tallymere
