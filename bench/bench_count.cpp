@@ -148,7 +148,7 @@ void measure(const BenchData &data, Store store, Times &times)
     const auto copy = data.copy();
     Engine::Database &database = copy->database();
     stock(database);
-    const std::unique_ptr<Raw> raw = rawAccess(store, copy->location());
+    const std::unique_ptr<Raw> raw = rawAccess(store, rawLocation(copy->place()));
     SpokenPrompts prompts;
     StockCount count(database, prompts);
     count.setDate(QDate(2026, 3, 14));

@@ -1,6 +1,7 @@
 // Posting of 100,000 lines of receipts, and of usage, against the same row changes by raw prepared statements: in the
 // file store three statements a line in one transaction with the same cache and everything else in memory, which is
 // the least that the changes cost; on the server statement by statement with a transaction for each document.
+// Either is a process of its own, measured from start to end: closing a file copies its log back, for both alike.
 // Prints the ratio of the medians. Usage: bench_posting [local|remote] [ROUNDS]
 
 #include "bench/benchdata.h"
@@ -10,8 +11,9 @@
 #include "transactions/documentposting.h"
 
 #include <cstdio>
-#include <malloc.h>
 #include <QCoreApplication>
+#include <QProcess>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -45,12 +47,6 @@ QString result(Engine::Database &database)
         + one(u"SELECT count(*) FROM IUsage WHERE Posted = true"_s);
 }
 
-struct Kind
-{
-    RawDocuments raw;
-    const Tallymere::DocumentKind &ours;
-};
-
 struct Run
 {
     Cost cost;
@@ -58,45 +54,68 @@ struct Run
     QString result;
 };
 
-Run postOurs(const Kind &kind, const BenchData &data)
+double postOurs(const Tallymere::DocumentKind &kind, const QStringList &place)
 {
-    const auto copy = data.copy();
-    copy->database().connection();
+    TestUser user(place);
+    user.database.connection();
     Quiet quiet;
-    Run run;
-    malloc_trim(0); // what earlier runs have freed would hide what this one takes
-    resetPeakMemory();
     const double before = currentMemory();
-    run.cost = costOf([&] { Tallymere::DocumentPosting(copy->database(), kind.ours).run(quiet, quiet); });
-    run.memory = peakMemory() - before;
-    run.result = result(copy->database());
-    return run;
+    Tallymere::DocumentPosting(user.database, kind).run(quiet, quiet);
+    return peakMemory() - before;
 }
 
-Run postRaw(const Kind &kind, Store store, const BenchData &data)
+RawDocuments rawKind(const Tallymere::DocumentKind &kind)
+{
+    return &kind == &Tallymere::DocumentKinds::usage() ? RawDocuments::Usage : RawDocuments::Receipts;
+}
+
+void postRaw(const Tallymere::DocumentKind &kind, const QStringList &place)
+{
+    const auto post = place[0] == "local"_L1 ? postRawSqlite : postRawPostgres;
+    post(rawKind(kind), rawLocation(place));
+}
+
+// In the process that runProcess() starts: "post", whose posting, the kind's name, the place.
+int postOnce(const QStringList &words)
+{
+    const Tallymere::DocumentKind &kind = *Tallymere::DocumentKinds::find(words[2]);
+    if (words[1] == "raw"_L1)
+        postRaw(kind, words.mid(3));
+    else
+        std::printf("%f", postOurs(kind, words.mid(3)));
+    return 0;
+}
+
+Run runProcess(const QString &whose, const Tallymere::DocumentKind &kind, const BenchData &data)
 {
     const auto copy = data.copy();
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     Run run;
     run.cost = costOf([&] {
-        store == Store::Local ? postRawSqlite(kind.raw, copy->location())
-                              : postRawPostgres(kind.raw, copy->location());
+        process.start(QCoreApplication::applicationFilePath(),
+                      QStringList{u"post"_s} << whose << kind.name << copy->place());
+        process.waitForFinished(-1);
     });
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        throw std::runtime_error("A posting has failed.");
+    run.memory = process.readAllStandardOutput().toDouble();
     run.result = result(copy->database());
     return run;
 }
 
-void compare(const Kind &kind, Store store, int history, int rounds)
+void compare(const Tallymere::DocumentKind &kind, Store store, int history, int rounds)
 {
     BenchData::Size size;
-    (kind.raw == RawDocuments::Usage ? size.usages : size.receipts) = documents;
+    (rawKind(kind) == RawDocuments::Usage ? size.usages : size.receipts) = documents;
     size.history = history;
     const BenchData data(store, size);
     const int lines = documents * size.linesEach;
     std::vector<Cost> ours, raws;
     double memory = 0;
     for (int round = 0; round < rounds; ++round) {
-        const Run theirs = postRaw(kind, store, data);
-        const Run mine = postOurs(kind, data);
+        const Run theirs = runProcess(u"raw"_s, kind, data);
+        const Run mine = runProcess(u"ours"_s, kind, data);
         ours.push_back(mine.cost);
         raws.push_back(theirs.cost);
         memory = std::max(memory, mine.memory);
@@ -115,8 +134,8 @@ void compare(const Kind &kind, Store store, int history, int rounds)
     std::printf(
         "%-8s %-6s history %9d: ours %6.2f s (%6.0f lines/s, processor %5.2f s), raw %6.2f s (%6.0f lines/s, "
         "processor %5.2f s), ours/raw %.2f, memory +%.0f MB\n",
-        qPrintable(kind.ours.name), storeName(store), history, our, lines / our, middle(ours, &Cost::processor),
-        raw, lines / raw, middle(raws, &Cost::processor), our / raw, memory);
+        qPrintable(kind.name), storeName(store), history, our, lines / our, middle(ours, &Cost::processor), raw,
+        lines / raw, middle(raws, &Cost::processor), our / raw, memory);
     std::fflush(stdout);
 }
 
@@ -125,15 +144,16 @@ void compare(const Kind &kind, Store store, int history, int rounds)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().value(1) == "post"_L1)
+        return postOnce(QCoreApplication::arguments().mid(1));
     const QString only = QCoreApplication::arguments().value(1);
     const int rounds = std::max(1, QCoreApplication::arguments().value(2, u"3"_s).toInt());
     for (const Store store : {Store::Local, Store::Remote}) {
         if (!only.isEmpty() && only != QString::fromLatin1(storeName(store)).toLower())
             continue;
-        for (const Kind &kind : {Kind{RawDocuments::Receipts, Tallymere::DocumentKinds::receipt()},
-                                 Kind{RawDocuments::Usage, Tallymere::DocumentKinds::usage()}})
+        for (const auto *kind : {&Tallymere::DocumentKinds::receipt(), &Tallymere::DocumentKinds::usage()})
             for (const int history : {0, 1'000'000})
-                compare(kind, store, history, rounds);
+                compare(*kind, store, history, rounds);
     }
     return 0;
 }

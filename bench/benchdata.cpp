@@ -12,24 +12,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::unique_ptr<TestUser> user(Store store, const QString &place)
+std::unique_ptr<TestUser> user(const QStringList &place)
 {
-    auto user = std::make_unique<TestUser>(u"bench"_s, u"Corvane"_s);
+    auto user = std::make_unique<TestUser>(place);
     user->database.createIfMissing = true;
-    if (store == Store::Local) {
-        user->database.directory = place;
-        return user;
-    }
-    user->session.type = Engine::SessionType::Remote;
-    user->session.remoteAddress = u"127.0.0.1"_s;
-    user->session.remoteUser = user->session.remotePassword = u"zorvadin"_s;
-    user->database.remoteName = place;
     return user;
+}
+
+QStringList placeOf(Store store, const QString &name)
+{
+    return {QString::fromLatin1(storeName(store)).toLower(), name};
 }
 
 void onServer(const QString &statement)
 {
-    user(Store::Remote, u"postgres"_s)->database.connection().execute(statement);
+    user(placeOf(Store::Remote, u"postgres"_s))->database.connection().execute(statement);
 }
 
 QString freshName()
@@ -38,24 +35,13 @@ QString freshName()
     return u"bench_%1_%2"_s.arg(QCoreApplication::applicationPid()).arg(++count);
 }
 
-void pointToTestServer()
-{
-    QFile port(qEnvironmentVariable("TALLYMERE_TEST_POSTGRES") + "/port"_L1);
-    if (!port.open(QIODevice::ReadOnly))
-        throw std::runtime_error("Start a server: tests/support/postgres.sh start FOLDER, and set "
-                                 "TALLYMERE_TEST_POSTGRES to that folder.");
-    qputenv("PGPORT", port.readAll().trimmed());
-}
-
 } // namespace
 
 BenchData::BenchData(Store store, const Size &size)
     : m_store(store)
 {
-    if (store == Store::Remote)
-        pointToTestServer();
     m_source = store == Store::Local ? m_folder.path() : freshName();
-    const auto maker = user(store, m_source);
+    const auto maker = user(placeOf(store, m_source));
     fill(maker->database, size);
     maker->database.connection().execute(u"ANALYZE"_s);
     maker->database.close();
@@ -121,7 +107,7 @@ BenchData::Copy::Copy(Store store, const QString &source)
         QFile::copy(source + "/Corvane.sqlite"_L1, m_folder.filePath(u"Corvane.sqlite"_s));
     else
         onServer(u"CREATE DATABASE %1 TEMPLATE %2"_s.arg(m_name, source));
-    m_user = user(store, m_name);
+    m_user = user(place());
 }
 
 BenchData::Copy::~Copy()
@@ -131,11 +117,12 @@ BenchData::Copy::~Copy()
         onServer(u"DROP DATABASE %1 WITH (FORCE)"_s.arg(m_name));
 }
 
-QString BenchData::Copy::location() const
+QStringList BenchData::Copy::place() const { return placeOf(m_store, m_name); }
+
+QString rawLocation(const QStringList &place)
 {
-    if (m_store == Store::Local)
-        return m_folder.filePath(u"Corvane.sqlite"_s);
-    return u"host=127.0.0.1 user=zorvadin password=zorvadin dbname="_s + m_name;
+    return place[0] == "local"_L1 ? place[1] + "/Corvane.sqlite"_L1
+                                  : "host=127.0.0.1 user=zorvadin password=zorvadin dbname="_L1 + place[1];
 }
 
 namespace {
@@ -168,7 +155,7 @@ namespace {
 double processorSeconds()
 {
     rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
+    getrusage(RUSAGE_CHILDREN, &usage);
     const auto inSeconds = [](const timeval &time) {
         return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
     };

@@ -32,9 +32,7 @@ public:
         Copy(Store store, const QString &source);
         ~Copy();
         Engine::Database &database() { return m_user->database; }
-        // What the raw statements connect to: the file's path, or a conninfo string.
-        QString location() const;
-        void close() { m_user->database.close(); }
+        QStringList place() const; // for a TestUser, in this process or another
 
     private:
         Store m_store;
@@ -52,6 +50,9 @@ private:
     QString m_source; // folder or database name
 };
 
+// What raw statements connect to at the place of a copy: the file's path, or a conninfo string.
+QString rawLocation(const QStringList &place);
+
 // The process's peak memory in MB, and starting to watch it anew.
 double peakMemory();
 double currentMemory();
@@ -60,7 +61,7 @@ void resetPeakMemory();
 struct Cost
 {
     double wall = 0; // seconds
-    double processor = 0; // seconds of this process, user and system: steadier on a busy machine
+    double processor = 0; // seconds, user and system, of the processes waited for: steadier on a busy machine
 };
 Cost costOf(const std::function<void()> &work);
 double seconds(const std::function<void()> &work);
