@@ -131,8 +131,7 @@ std::unique_ptr<Raw> rawAccess(Store store, const QString &location)
 void stock(Engine::Database &database)
 {
     database.connection().execute(
-        u"INSERT INTO ItemType (ItemTypeID, TypeName, Inventory, CostingMethod) VALUES (1, 'A', true, 1), "
-        "(2, 'B', true, 2), (3, 'C', true, 1), (4, 'D', true, 1), (5, 'E', true, 1), (6, 'F', true, 1); "
+        u"UPDATE ItemType SET CostingMethod = 2 WHERE ItemTypeID = 2; "
         "UPDATE Item SET Suspended = false, WgtAvgCost = 2.5, StandardCost = 2.5; DELETE FROM IBalance; "
         "INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) "
         "SELECT ItemID, WarehouseID, 10 FROM Item, Warehse; ANALYZE"_s);
