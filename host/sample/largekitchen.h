@@ -10,7 +10,7 @@
 namespace Tallymere {
 
 // Three years of a large kitchen: 5,000 items, 10 locations, 1,000,000 history rows of posted receipts, usage and
-// adjustments with their documents, and some receipts and usage that wait for posting. Balances and average costs are what
+// adjustments with their documents, and some of each kind that wait for posting. Balances and average costs are what
 // posting the documents one after the other gives. The same seed gives the same rows.
 //
 // Goes on from a database that holds the sample's master data. One transaction.
