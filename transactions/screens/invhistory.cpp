@@ -2,7 +2,6 @@
 
 #include "controls/recordopener.h"
 #include "data/datamodule.h"
-#include "master/screens/itemsfind.h"
 #include "transactions/documentkind.h"
 #include "transactions/screens/documentscreens.h"
 #include "transactions/screens/invhistoryfilter.h"
@@ -12,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 TfrmInvHistory::TfrmInvHistory(ScreenContext &context, QWidget *parent)
-    : ListScreen(context, parent)
+    : StockViewScreen(context, parent)
     , m_view(context.data.databaseTallymere())
 {
     m_view.open();
@@ -23,7 +22,6 @@ TfrmInvHistory::~TfrmInvHistory() = default;
 
 ListDescription TfrmInvHistory::description()
 {
-    const auto runs = [this](void (TfrmInvHistory::*step)()) { return [this, step] { (this->*step)(); }; };
     return {
         .name = u"frmInvHistory"_s,
         .caption = tr("Inventory History"),
@@ -36,14 +34,14 @@ ListDescription TfrmInvHistory::description()
                     {u"UnitCost"_s, tr("Unit Cost"), 80, Qt::AlignRight},
                     {u"WarehouseName"_s, tr("Location"), 190},
                     {u"TransDescription"_s, tr("Transaction Description"), 200}},
-        .buttons = {{u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s}, {u"btnFind"_s, tr("F&ind"), u"mnuFind"_s}},
+        .buttons = stockButtons(),
         .menus = {fileMenu(),
-                  {tr("&Records"), {findCommand(runs(&TfrmInvHistory::btnFindClick))}},
+                  stockRecordsMenu(),
                   {tr("&View"),
-                   {filterCommand(runs(&TfrmInvHistory::btnFilterClick)),
+                   {stockFilterCommand(),
                     {.name = u"mnuSource"_s,
                      .caption = tr("&Source"),
-                     .run = runs(&TfrmInvHistory::mnuSourceClick),
+                     .run = [this] { mnuSourceClick(); },
                      .available = [this] { return m_view.source().kind != nullptr; },
                      .popupCaption = tr("Source")},
                     refreshCommand()}},
@@ -52,20 +50,7 @@ ListDescription TfrmInvHistory::description()
     };
 }
 
-TfrmInvHistoryFilter &TfrmInvHistory::filterDialog()
-{
-    if (!m_filter)
-        m_filter = new TfrmInvHistoryFilter(context(), this);
-    return *m_filter;
-}
-
-void TfrmInvHistory::btnFilterClick()
-{
-    if (filterDialog().exec() == QDialog::Accepted)
-        applyFilter(HistoryView::filterExpression(m_filter->choices()));
-}
-
-void TfrmInvHistory::btnFindClick() { TfrmItemsFind(context(), m_view.table(), this).exec(); }
+StockFilterDialog *TfrmInvHistory::makeFilterDialog() { return new TfrmInvHistoryFilter(context(), this); }
 
 void TfrmInvHistory::mnuSourceClick()
 {
@@ -75,13 +60,5 @@ void TfrmInvHistory::mnuSourceClick()
     RecordOpener(context(), recordScreens(*source.kind), this)
         .open(source.key, m_view.table().text(u"TransDescription"));
 }
-
-void TfrmInvHistory::clearFilterDialog()
-{
-    if (m_filter)
-        m_filter->btnResetClick();
-}
-
-void TfrmInvHistory::presetFilterDialog(const QList<KeyOfField> &keys) { filterDialog().preset(keys); }
 
 } // namespace Tallymere

@@ -1,16 +1,12 @@
 #pragma once
 
-#include "controls/listscreen.h"
 #include "transactions/historyview.h"
-
-#include <QPointer>
+#include "transactions/screens/stockviewscreen.h"
 
 namespace Tallymere {
 
-class TfrmInvHistoryFilter;
-
 // "Inventory History": the posted movements of stock, and the way to the documents that made them. Changes no data.
-class TfrmInvHistory final : public ListScreen
+class TfrmInvHistory final : public StockViewScreen
 {
     Q_OBJECT
 
@@ -18,20 +14,15 @@ public:
     TfrmInvHistory(ScreenContext &context, QWidget *parent);
     ~TfrmInvHistory() override;
 
-    void btnFilterClick();
-    void btnFindClick();
     void mnuSourceClick(); // opens the document of the current row, if it has one that can be opened
 
 protected:
-    void clearFilterDialog() override;
-    void presetFilterDialog(const QList<KeyOfField> &keys) override;
+    StockFilterDialog *makeFilterDialog() override;
 
 private:
     ListDescription description();
-    TfrmInvHistoryFilter &filterDialog();
 
     HistoryView m_view;
-    QPointer<TfrmInvHistoryFilter> m_filter;
 };
 
 } // namespace Tallymere

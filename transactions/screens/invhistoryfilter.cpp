@@ -2,6 +2,7 @@
 
 #include "controls/optionalnumber.h"
 #include "data/transtypes.h"
+#include "transactions/historyview.h"
 
 #include <QComboBox>
 #include <QDate>
@@ -60,13 +61,13 @@ OptionalNumber *TfrmInvHistoryFilter::addNumber(const QString &label, OptionalNu
     return number;
 }
 
-HistoryView::Filter TfrmInvHistoryFilter::choices() const
+QString TfrmInvHistoryFilter::expression() const
 {
-    return {.itemId = itemId(),
-            .warehouseId = warehouseId(),
-            .type = m_type->currentData().toInt(),
-            .year = m_year->number(),
-            .period = m_period->number()};
+    return HistoryView::filterExpression({.itemId = itemId(),
+                                          .warehouseId = warehouseId(),
+                                          .type = m_type->currentData().toInt(),
+                                          .year = m_year->number(),
+                                          .period = m_period->number()});
 }
 
 } // namespace Tallymere

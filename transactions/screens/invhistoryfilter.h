@@ -1,6 +1,5 @@
 #pragma once
 
-#include "transactions/historyview.h"
 #include "transactions/screens/stockfilterdialog.h"
 
 class QComboBox;
@@ -17,7 +16,7 @@ class TfrmInvHistoryFilter final : public StockFilterDialog
 public:
     TfrmInvHistoryFilter(ScreenContext &context, QWidget *parent);
 
-    HistoryView::Filter choices() const;
+    QString expression() const override;
 
     void SetItemID(int itemId) { setItemId(itemId); }
     int GetItemID() const { return itemId(); }

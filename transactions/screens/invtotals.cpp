@@ -4,7 +4,6 @@
 #include "controls/listbuttons.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
-#include "master/screens/itemsfind.h"
 #include "transactions/screens/invtotalsfilter.h"
 
 using namespace Qt::StringLiterals;
@@ -16,7 +15,7 @@ const auto historyScreen = u"frmInvHistory"_s;
 } // namespace
 
 TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
-    : ListScreen(context, parent)
+    : StockViewScreen(context, parent)
     , m_view(context.data.databaseTallymere())
 {
     m_view.open();
@@ -28,11 +27,10 @@ TfrmInvTotals::~TfrmInvTotals() = default;
 
 ListDescription TfrmInvTotals::description()
 {
-    const auto runs = [this](void (TfrmInvTotals::*step)()) { return [this, step] { (this->*step)(); }; };
     const auto sorts = [this](TotalsView::Sort sort) { return [this, sort] { sortBy(sort); }; };
     std::function<void()> history;
     if (context().knows(historyScreen))
-        history = runs(&TfrmInvTotals::mnuHistoryClick);
+        history = [this] { mnuHistoryClick(); };
     return {
         .name = u"frmInvTotals"_s,
         .caption = tr("Inventory Totals"),
@@ -40,11 +38,11 @@ ListDescription TfrmInvTotals::description()
                     {u"ItemDescription"_s, tr("Description"), 290},
                     {u"WarehouseName"_s, tr("Location"), 190},
                     {u"QtyOnHand"_s, tr("Quantity On Hand"), 130, Qt::AlignRight}},
-        .buttons = {{u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s}, {u"btnFind"_s, tr("F&ind"), u"mnuFind"_s}},
+        .buttons = stockButtons(),
         .menus = {fileMenu(),
-                  {tr("&Records"), {findCommand(runs(&TfrmInvTotals::btnFindClick))}},
+                  stockRecordsMenu(),
                   {tr("&View"),
-                   {filterCommand(runs(&TfrmInvTotals::btnFilterClick)),
+                   {stockFilterCommand(),
                     {.name = u"mnuSortBy"_s,
                      .caption = tr("&Sort by"),
                      .choices = {{.name = u"mnuSortItemNo"_s,
@@ -67,22 +65,7 @@ void TfrmInvTotals::sortBy(TotalsView::Sort sort)
     m_view.query().first();
 }
 
-TfrmInvTotalsFilter &TfrmInvTotals::filterDialog()
-{
-    if (!m_filter)
-        m_filter = new TfrmInvTotalsFilter(context(), this);
-    return *m_filter;
-}
-
-void TfrmInvTotals::btnFilterClick()
-{
-    if (filterDialog().exec() != QDialog::Accepted)
-        return;
-    applyFilter(TotalsView::filterExpression(m_filter->itemId(), m_filter->warehouseId()));
-    showStep();
-}
-
-void TfrmInvTotals::btnFindClick() { TfrmItemsFind(context(), m_view.query(), this).exec(); }
+StockFilterDialog *TfrmInvTotals::makeFilterDialog() { return new TfrmInvTotalsFilter(context(), this); }
 
 void TfrmInvTotals::mnuHistoryClick()
 {
@@ -93,18 +76,10 @@ void TfrmInvTotals::mnuHistoryClick()
                      {{u"ItemID"_s, row.integer(u"ItemID")}, {u"WarehouseID"_s, row.integer(u"WarehouseID")}});
 }
 
-void TfrmInvTotals::presetFilterDialog(const QList<KeyOfField> &keys) { filterDialog().preset(keys); }
-
-void TfrmInvTotals::clearFilterDialog()
-{
-    if (m_filter)
-        m_filter->btnResetClick();
-}
-
 void TfrmInvTotals::showStep()
 {
     m_view.query().first();
-    ListScreen::showStep();
+    StockViewScreen::showStep();
 }
 
 } // namespace Tallymere

@@ -1,5 +1,7 @@
 #include "transactions/screens/invtotalsfilter.h"
 
+#include "transactions/totalsview.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
@@ -9,5 +11,7 @@ TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent
                         parent)
 {
 }
+
+QString TfrmInvTotalsFilter::expression() const { return TotalsView::filterExpression(itemId(), warehouseId()); }
 
 } // namespace Tallymere

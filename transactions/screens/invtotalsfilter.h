@@ -11,6 +11,8 @@ class TfrmInvTotalsFilter final : public StockFilterDialog
 
 public:
     TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent);
+
+    QString expression() const override;
 };
 
 } // namespace Tallymere

@@ -17,6 +17,7 @@ public:
     void setItemId(int itemId);
     int warehouseId() const;
     void setWarehouseId(int warehouseId);
+    virtual QString expression() const = 0; // of the choices; empty: everything shows
     void preset(const QList<KeyOfField> &keys); // ItemID and WarehouseID; what is not named stays
 
 protected:

@@ -1,0 +1,50 @@
+#include "transactions/screens/stockviewscreen.h"
+
+#include "master/screens/itemsfind.h"
+#include "transactions/screens/stockfilterdialog.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+QList<ListButton> StockViewScreen::stockButtons() const
+{
+    return {{u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s}, {u"btnFind"_s, tr("F&ind"), u"mnuFind"_s}};
+}
+
+ListMenu StockViewScreen::stockRecordsMenu()
+{
+    return {tr("&Records"), {findCommand([this] { btnFindClick(); })}};
+}
+
+ListCommand StockViewScreen::stockFilterCommand()
+{
+    return filterCommand([this] { btnFilterClick(); });
+}
+
+StockFilterDialog &StockViewScreen::filterDialog()
+{
+    if (!m_filter)
+        m_filter = makeFilterDialog();
+    return *m_filter;
+}
+
+void StockViewScreen::btnFilterClick()
+{
+    if (filterDialog().exec() != QDialog::Accepted)
+        return;
+    applyFilter(m_filter->expression());
+    showStep();
+}
+
+void StockViewScreen::btnFindClick() { TfrmItemsFind(context(), dataSet(), this).exec(); }
+
+void StockViewScreen::clearFilterDialog()
+{
+    if (m_filter)
+        m_filter->btnResetClick();
+}
+
+void StockViewScreen::presetFilterDialog(const QList<KeyOfField> &keys) { filterDialog().preset(keys); }
+
+} // namespace Tallymere
