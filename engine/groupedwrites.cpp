@@ -9,14 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace Engine {
 
-namespace {
-
-// A group must not last much longer than two seconds: each one writes the index pages that it has touched to the log
-// again, so fewer are faster, but what a crash undoes grows with it.
-constexpr std::chrono::milliseconds GroupTime{2000};
-
-} // namespace
-
 GroupedWrites::GroupedWrites(Database &database, std::function<void()> forgetReads, Retry retry)
     : m_connection(database.connection())
     , m_session(database.session())
@@ -35,7 +27,7 @@ void GroupedWrites::apply(Step step)
         if (m_connection.sendsAhead() && !m_joined)
             m_group.push_back(step);
         step(*this);
-        if (!m_joined && std::chrono::steady_clock::now() - m_begun >= GroupTime)
+        if (!m_joined && std::chrono::steady_clock::now() - m_begun >= groupTime)
             commit();
     });
 }

@@ -41,6 +41,10 @@ public:
     GroupedWrites(const GroupedWrites &) = delete;
     GroupedWrites &operator=(const GroupedWrites &) = delete;
 
+    // A group must not last much longer than this: each one writes the index pages that it has touched to the log again,
+    // so fewer are faster, but what a crash undoes grows with it.
+    std::chrono::milliseconds groupTime{2000};
+
     void apply(Step step);
     void settle(); // everything applied has reached the store; before reading from it
     void finish(); // commits what is open

@@ -74,6 +74,7 @@ void DocumentPosting::postAll(Prompts &prompts, Progress &progress)
     Engine::GroupedWrites writes(
         m_database, [&stock] { stock.forget(); },
         [&prompts](const Engine::EngineError &error) { return prompts.retry(error.text()); });
+    writes.groupTime = groupTime.value_or(writes.groupTime);
 
     for (size_t begin = 0; begin < m_keys.size(); begin += BatchSize) {
         const size_t end = std::min(begin + BatchSize, m_keys.size());

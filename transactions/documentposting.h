@@ -4,7 +4,9 @@
 #include "engine/database.h"
 #include "transactions/documentkind.h"
 
+#include <chrono>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace Tallymere {
@@ -31,6 +33,7 @@ public:
 
     // Whether the entry screen of this kind is open; set by whoever knows screens.
     std::function<bool()> isEntryOpen;
+    std::optional<std::chrono::milliseconds> groupTime; // of GroupedWrites, for tests that look between two groups
 
     // True when the run took place; false when there was nothing to post. Raises RuleError while the entry screen
     // is open, and for an amount or a quantity on hand that is out of range. A table held by another user is asked

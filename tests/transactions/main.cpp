@@ -43,7 +43,9 @@ void post(Engine::Database &database, const QStringList &arguments)
 {
     SpokenPrompts prompts;
     ToldProgress progress(arguments);
-    DocumentPosting(database, DocumentKinds::receipt()).run(prompts, progress);
+    DocumentPosting posting(database, DocumentKinds::receipt());
+    posting.groupTime = std::chrono::milliseconds(arguments.value(1) == "wait"_L1 ? 0 : 20);
+    posting.run(prompts, progress);
 }
 
 } // namespace

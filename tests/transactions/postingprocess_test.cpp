@@ -40,6 +40,11 @@ QStringList stock(Kitchen &kitchen)
         + kitchen.rows(u"SELECT ItemID, WgtAvgCost FROM Item ORDER BY 1"_s);
 }
 
+double postedReceipts(Kitchen &kitchen)
+{
+    return kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s);
+}
+
 // Every receipt has all of its lines in the history or none, as its flag says, and the balances say the same.
 void expectWholeDocuments(Kitchen &kitchen)
 {
@@ -65,12 +70,16 @@ TEST_P(Processes, KillingAPosterLeavesWholeDocumentsAndNothingIsLostOrDoubled)
     // First between two statements, where the poster waits for it; then wherever it has come to meanwhile.
     std::mt19937 random(11);
     for (const QString &then : {u"wait"_s, u"wait"_s, u"wait"_s, u"go on"_s, u"go on"_s, u"go on"_s}) {
-        const auto steps = 1 + random() % (receipts(GetParam()) / 20);
+        const auto steps = 1 + static_cast<int>(random() % static_cast<unsigned>(receipts(GetParam()) / 20));
+        const double before = postedReceipts(kitchen);
         OtherUser poster(kitchen, {u"post"_s, QString::number(steps), then});
         EXPECT_TRUE(poster.saysLine() || then == "go on"_L1);
         poster.kill();
         kitchen.expectNoLocks();
         expectWholeDocuments(kitchen);
+        if (then == "wait"_L1) { // where each document is a group
+            EXPECT_EQ(postedReceipts(kitchen), before + steps);
+        }
     }
 
     OtherUser poster(kitchen, {u"post"_s});
