@@ -276,6 +276,12 @@ void ListScreen::refreshList()
     m_data->refresh();
 }
 
+void refreshOpenList(const QString &name)
+{
+    if (auto *list = findScreen<ListScreen>(name))
+        list->refreshList();
+}
+
 bool ListScreen::moveToKey(int key) { return m_data->moveToKey({key}); }
 
 void ListScreen::applyFilter(const QString &expression) { switchFilter(!expression.isEmpty(), expression); }

@@ -153,4 +153,7 @@ private:
     QSize m_firstSize;
 };
 
+// Reads the list of that component name anew, if it is open.
+void refreshOpenList(const QString &name);
+
 } // namespace Tallymere

@@ -31,10 +31,8 @@ ScreenKind postDialog(const DocumentKind &kind)
     const auto make = [&kind](ScreenContext &context, QWidget *parent) {
         auto *dialog = new DocumentPostScreen(context, kind, parent);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
-        QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, &kind] {
-            if (auto *list = findScreen<ListScreen>(kind.listScreen))
-                dialog->guard().run([list] { list->refreshList(); });
-        });
+        QObject::connect(dialog, &QDialog::accepted, dialog,
+                         [dialog, &kind] { dialog->guard().run([&kind] { refreshOpenList(kind.listScreen); }); });
         return dialog;
     };
     return {make};

@@ -2,9 +2,11 @@
 
 #include "base/formats.h"
 #include "base/ruleerror.h"
+#include "controls/listscreen.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "engine/error.h"
+#include "transactions/documentkinds.h"
 #include "ui_enterinventory.h"
 
 #include <QKeyEvent>
@@ -22,13 +24,6 @@ constexpr int shownRows = 16;
 CountDrafts draftsOf(TDataModuleTallymere &data)
 {
     return CountDrafts(data.databaseTallymere().connection().location(), data.currentUser());
-}
-
-// Nothing has been written then, and it can be tried again.
-bool isLockOfOthers(Engine::ErrorCode code)
-{
-    using Engine::ErrorCode;
-    return code == ErrorCode::RecordLocked || code == ErrorCode::TableLocked || code == ErrorCode::TableInUse;
 }
 
 } // namespace
@@ -344,10 +339,11 @@ void TFormEnterInventory::actionCalculateConsumptionExecute()
         showReady();
         throw;
     } catch (const Engine::EngineError &error) {
-        m_ui->BitBtnOK->setEnabled(isLockOfOthers(error.code()));
+        m_ui->BitBtnOK->setEnabled(error.isHeldByOthers()); // nothing has been written then
         throw;
     }
     m_ui->wwDBGridInventory->listChanged();
+    refreshOpenList(DocumentKinds::usage().listScreen);
     showStatus(usage ? tr("Usage %1 has been written, %n line(s). Post it when it has been looked over.", nullptr,
                           usage->lines)
                            .arg(usage->number)
