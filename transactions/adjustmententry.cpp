@@ -1,6 +1,5 @@
 #include "transactions/adjustmententry.h"
 
-#include "base/formats.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
 
@@ -17,9 +16,6 @@ void AdjustmentEntry::configureFields()
 {
     DocumentEntry::configureFields();
     header().field(u"AdjDescription").label = TransactionsTexts::tr("Description");
-    Engine::Field &quantity = lines().field(u"Quantity");
-    quantity.label = TransactionsTexts::tr("Quantity");
-    quantity.format = quantityFormat(RegionalSettings::system(), u"Quantity"_s);
 }
 
 void AdjustmentEntry::stepDate(int days)

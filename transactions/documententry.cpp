@@ -79,6 +79,13 @@ void DocumentEntry::configureFields()
     m_header.field(u"WarehouseID").label = TransactionsTexts::tr("Warehouse");
     m_lines.field(u"ItemID").label = TransactionsTexts::tr("Item no.");
     m_lines.field(u"ItemID").validate = [this](const Value &itemId) { validateItem(itemId); };
+    const QString &quantity = m_kind.lineColumns.constFirst().field;
+    m_lines.field(quantity).label = TransactionsTexts::tr("Quantity");
+    m_lines.field(quantity).format = quantityFormat(RegionalSettings::system(), quantity);
+    if (const int cost = m_lines.fieldIndex(u"UnitCost"); cost >= 0) {
+        m_lines.field(cost).label = TransactionsTexts::tr("Unit Cost");
+        m_lines.field(cost).format = currencyFormat(RegionalSettings::system(), u"UnitCost"_s);
+    }
 }
 
 void DocumentEntry::newDocument(const QString &number)

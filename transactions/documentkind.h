@@ -71,7 +71,7 @@ struct DocumentKind
     QStringList requiredFields; // of the header, beside what is checked on its own
 
     QString screen; // component name: "frmInvReceipt"
-    QList<GridColumn> lineColumns; // of its line grid
+    QList<GridColumn> lineColumns; // of its line grid; the quantity comes first
     std::function<std::unique_ptr<DocumentEntry>(Engine::Database &, Prompts &)> makeEntry;
     bool opensFromHistory = true; // the source of a history row can be looked at
 

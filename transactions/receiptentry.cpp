@@ -1,6 +1,5 @@
 #include "transactions/receiptentry.h"
 
-#include "base/formats.h"
 #include "base/ruleerror.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
@@ -24,13 +23,6 @@ void ReceiptEntry::configureFields()
     header().field(u"ReceiptNo").label = TransactionsTexts::tr("Receipt no.");
     header().field(u"VendorID").label = TransactionsTexts::tr("Vendor");
     header().field(u"VendorID").validate = [this](const Value &vendorId) { validateVendor(vendorId); };
-
-    Engine::Field &quantity = lines().field(u"QtyReceived");
-    quantity.label = TransactionsTexts::tr("Quantity");
-    quantity.format = quantityFormat(RegionalSettings::system(), u"QtyReceived"_s);
-    Engine::Field &cost = lines().field(u"UnitCost");
-    cost.label = TransactionsTexts::tr("Unit Cost");
-    cost.format = currencyFormat(RegionalSettings::system(), u"UnitCost"_s);
 }
 
 QString ReceiptEntry::caption() const

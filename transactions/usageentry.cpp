@@ -24,13 +24,6 @@ void UsageEntry::configureFields()
 {
     DocumentEntry::configureFields();
     header().field(u"InvoiceAmount").format = currencyFormat();
-
-    Engine::Field &quantity = lines().field(u"Quantity");
-    quantity.label = TransactionsTexts::tr("Quantity");
-    quantity.format = quantityFormat(RegionalSettings::system(), u"Quantity"_s);
-    Engine::Field &cost = lines().field(u"UnitCost");
-    cost.label = TransactionsTexts::tr("Unit Cost");
-    cost.format = currencyFormat(RegionalSettings::system(), u"UnitCost"_s);
     lines().field(u"ExtAmount").format = currencyFormat();
     lines().field(u"ItemID").changed = [this] {
         lines().set(u"UnitCost", m_costs.readNow(lines().value(u"ItemID")));

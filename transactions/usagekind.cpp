@@ -1,3 +1,4 @@
+#include "data/numbercounter.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
 #include "transactions/usageentry.h"
@@ -6,12 +7,6 @@
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
-
-namespace {
-
-constexpr qint64 restart = 10'001;
-
-} // namespace
 
 const DocumentKind &DocumentKinds::usage()
 {
@@ -22,7 +17,7 @@ const DocumentKind &DocumentKinds::usage()
         .keyField = u"UsageID"_s,
         .numberField = u"UsageNo"_s,
         .dateField = u"InventoryDate"_s,
-        .counters = {u"ARInvCtl"_s, u"NextInvoiceID"_s, u"NextInvoiceNo"_s, restart},
+        .counters = {u"ARInvCtl"_s, u"NextInvoiceID"_s, u"NextInvoiceNo"_s, firstCountedKey + 1},
         .title = TransactionsTexts::tr("Inventory Usage %1"),
         .newTitle = TransactionsTexts::tr("New Inventory Usage"),
         .postedRefusal = TransactionsTexts::tr(
