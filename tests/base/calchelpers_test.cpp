@@ -3,8 +3,6 @@
 #include "base/ruleerror.h"
 #include "tests/support/bothstores.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 

@@ -4,7 +4,6 @@
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 
-#include <gtest/gtest.h>
 #include <limits>
 
 using namespace Qt::StringLiterals;

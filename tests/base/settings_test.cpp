@@ -3,10 +3,8 @@
 #include "tests/support/bothstores.h"
 #include "tests/support/spokenprompts.h"
 
-#include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

@@ -2,7 +2,6 @@
 
 #include "base/csvreader.h"
 
-#include <gtest/gtest.h>
 #include <ostream>
 #include <QBuffer>
 #include <QFile>

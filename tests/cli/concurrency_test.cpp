@@ -2,8 +2,6 @@
 #include "engine/table.h"
 #include "tests/cli/clirunner.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -1,6 +1,5 @@
 #include "tests/cli/clirunner.h"
 
-#include <gtest/gtest.h>
 #include <QDate>
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,5 @@
 #include "tests/cli/clirunner.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -5,8 +5,6 @@
 #include "tests/support/bothstores.h"
 #include "tests/support/spokenprompts.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {

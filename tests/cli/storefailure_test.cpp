@@ -1,7 +1,6 @@
 #include "tests/cli/clirunner.h"
 #include "tests/support/smallfiles.h"
 
-#include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
 

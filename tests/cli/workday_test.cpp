@@ -1,8 +1,6 @@
 #include "tests/cli/clirunner.h"
 
-#include <gtest/gtest.h>
 #include <QFile>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 

@@ -5,7 +5,6 @@
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
 
-#include <gtest/gtest.h>
 #include <QMessageBox>
 #include <stdexcept>
 

@@ -8,8 +8,6 @@
 #include "tests/support/spokenprompts.h"
 
 #include <QAbstractSpinBox>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -153,8 +151,7 @@ TEST_F(LineGridTest, gridWithoutLinesSaysHowToBegin)
     EXPECT_EQ(grid->shownHint(), u"No lines yet. Double-click here or press Page Down to enter the first one."_s);
     press(Qt::Key_Backtab);
     EXPECT_EQ(cursor(), u"before"_s);
-    press(Qt::Key_Tab);
-    press(Qt::Key_Tab);
+    type("<Tab><Tab>");
     EXPECT_EQ(cursor(), u"after"_s);
     QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, grid->viewport()->rect().center());
     EXPECT_EQ(rows(), 1);
@@ -167,9 +164,7 @@ TEST_F(LineGridTest, gridWithoutLinesSaysHowToBegin)
 TEST_F(LineGridTest, searchBeginsWithWhatIsTyped)
 {
     show();
-    press(Qt::Key_Return);
-    type("xy");
-    press(Qt::Key_Return, Qt::ControlModifier);
+    type("<Return>xy<Ctrl+Return>");
     EXPECT_EQ(searched, QStringList(u"A:xy"_s));
     EXPECT_EQ(entry(), u"xy"_s) << "nothing was chosen";
     found = u"C"_s;
@@ -185,23 +180,9 @@ TEST_F(LineGridTest, enteringAColumnByHandOpensItsSearch)
         {"Enter", [] { press(Qt::Key_Return); }, {u"A:"_s}},
         {"down in the column", [] { press(Qt::Key_Down); }, {}},
         {"click in the column", [&] { click(0, 1); }, {}},
-        {"Shift+Tab and Tab",
-         [&] {
-             keys({Qt::Key_Backtab, Qt::Key_Tab});
-         },
-         {u"A:"_s}},
-        {"arrow",
-         [&] {
-             keys({Qt::Key_Right, Qt::Key_Left});
-         },
-         {u"A:"_s}},
-        {"Enter out of an entry",
-         [&] {
-             press(Qt::Key_Home);
-             type("5");
-             press(Qt::Key_Return);
-         },
-         {u"A:"_s}},
+        {"Shift+Tab and Tab", [&] { type("<Backtab><Tab>"); }, {u"A:"_s}},
+        {"arrow", [&] { type("<Right><Left>"); }, {u"A:"_s}},
+        {"Enter out of an entry", [&] { type("<Home>5<Return>"); }, {u"A:"_s}},
         {"click",
          [&] {
              click(1, 3);
@@ -213,7 +194,7 @@ TEST_F(LineGridTest, enteringAColumnByHandOpensItsSearch)
              press(Qt::Key_Insert, Qt::ControlModifier);
              grid->appendLine();
              type("7");
-             keys({Qt::Key_Return, Qt::Key_Right, Qt::Key_Up});
+             type("<Return><Right><Up>");
          },
          {u":"_s}},
     };
@@ -231,12 +212,11 @@ TEST_F(LineGridTest, enteringAColumnByHandOpensItsSearch)
 TEST_F(LineGridTest, leavingGoesBackToTheFirstLineOnceTheLineIsComplete)
 {
     show({.backToStart = true});
-    keys({Qt::Key_Down, Qt::Key_Right, Qt::Key_Right});
+    type("<Down><Right><Right>");
     box->setFocus();
     EXPECT_EQ(grid->currentIndex(), grid->model()->index(0, 0));
     grid->setFocus();
-    press(Qt::Key_PageDown);
-    type("7");
+    type("<PgDown>7");
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_THROW(grid->commitEntry(), SilentAbort) << "what the button does waits for the message";
     QCoreApplication::processEvents();
@@ -266,13 +246,10 @@ TEST_F(LineGridTest, helpTakesNothingOfWhatIsTyped)
 TEST_F(LineGridTest, fixedLinesAndColumnsStay)
 {
     show({.fixed = {u"ItemNo"_s}, .fixedLines = true});
-    press(Qt::Key_Return);
-    type("Z");
-    press(Qt::Key_F2);
+    type("<Return>Z<F2>");
     EXPECT_EQ(entry(), u"-"_s);
-    press(Qt::Key_Delete, Qt::ControlModifier);
-    press(Qt::Key_Insert, Qt::ControlModifier);
-    keys({Qt::Key_PageDown, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return});
+    type("<Ctrl+Del><Ctrl+Ins>");
+    type("<PgDown><Right><Right><Return>");
     EXPECT_EQ(cursor(), u"1,3"_s);
     press(Qt::Key_Tab);
     EXPECT_EQ(cursor(), u"after"_s);
@@ -287,27 +264,16 @@ TEST_F(LineGridTest, numbersAreSteppedUpToTheLimitOfTheirRow)
     const std::tuple<const char *, std::function<void()>, QString> steps[] = {
         {"typed", [] { type("8.5"); }, u"8.5"_s},
         {"up", [] { press(Qt::Key_Up); }, u"9.5"_s},
-        {"to the limit",
-         [&] {
-             keys({Qt::Key_Up, Qt::Key_Up});
-         },
-         u"10"_s},
+        {"to the limit", [&] { type("<Up><Up>"); }, u"10"_s},
         {"by its button", [] { qobject_cast<QAbstractSpinBox *>(QApplication::focusWidget())->stepDown(); },
          u"9"_s},
         {"typed beyond", [] { type("11"); }, u"11"_s},
         {"is refused", [] { press(Qt::Key_Return); }, u"11"_s},
-        {"taken over",
-         [&] {
-             press(Qt::Key_Escape);
-             type("4.25");
-             press(Qt::Key_Tab);
-         },
-         u"-"_s},
+        {"taken over", [&] { type("<Esc>4.25<Tab>"); }, u"-"_s},
         {"the limit of the next",
          [&] {
              click(1, 0);
-             type("11");
-             press(Qt::Key_Up);
+             type("11<Up>");
          },
          u"12"_s},
         {"and away", [] { press(Qt::Key_Tab); }, u"-"_s},

@@ -7,11 +7,8 @@
 #include "tests/support/smallfiles.h"
 
 #include <QClipboard>
-#include <QComboBox>
 #include <QFile>
 #include <QFrame>
-#include <QLabel>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -191,8 +188,7 @@ TEST_F(ListScreenTest, commandsFollowTheRecord)
         EXPECT_EQ(button->isEnabled(), expected) << what;
         EXPECT_EQ(popup(), expected) << what;
     }
-    press(Qt::Key_Home);
-    press(Qt::Key_R, Qt::AltModifier);
+    type("<Home><Alt+R>");
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_D);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
     EXPECT_EQ(items.dropped, QList<int>{1}) << "by the keys of menu and sub-menu";
@@ -212,19 +208,15 @@ TEST_F(ListScreenTest, filterDialogHasSeveralBoxesThatOthersMayPreset)
     EXPECT_EQ(dialog.filter().key, 0) << "only the first box narrows the list";
     showActive(dialog);
     EXPECT_EQ(focusName(), u"cboPlace"_s);
-    type("f");
-    press(Qt::Key_Tab);
+    type("f<Tab>");
     EXPECT_EQ(focusName(), u"cboCurrency"_s);
     EXPECT_EQ(child<QComboBox>(dialog, "cboCurrency")->currentText(), u"Far"_s);
-    type("n");
-    press(Qt::Key_Escape);
-    press(Qt::Key_Escape);
+    type("n<Esc><Esc>");
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_EQ(dialog.key(u"cboPlace"_s), 0) << "taken back";
     EXPECT_EQ(dialog.key(u"cboCurrency"_s), 2) << "preset, not chosen since";
     showActive(dialog);
-    type("f");
-    press(Qt::Key_Return);
+    type("f<Return>");
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(dialog.filter().key, 2);
     dialog.btnResetClick();

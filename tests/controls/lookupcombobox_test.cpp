@@ -4,9 +4,7 @@
 #include "tests/support/spokenprompts.h"
 #include "tests/support/teststore.h"
 
-#include <gtest/gtest.h>
 #include <QAccessible>
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 

@@ -8,7 +8,6 @@
 #include "tests/support/failures.h"
 #include "tests/support/spokenprompts.h"
 
-#include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
 

@@ -5,8 +5,6 @@
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 

@@ -5,7 +5,6 @@
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 
-#include <gtest/gtest.h>
 #include <QFile>
 
 using namespace Qt::StringLiterals;

@@ -13,12 +13,8 @@
 #include "tests/support/screendriver.h"
 #include "transactions/documentkinds.h"
 
-#include <QAction>
 #include <QDirIterator>
-#include <QLabel>
-#include <QPushButton>
 #include <QRegularExpression>
-#include <QTabWidget>
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;

@@ -3,8 +3,6 @@
 #include "master/screens/itemsearchinv.h"
 #include "tests/support/screentest.h"
 
-#include <QLineEdit>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
@@ -32,8 +30,7 @@ TEST_F(ItemSearchScreen, FollowsWhatIsTyped)
     type("ap");
     EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
     child<LookupComboBox>(search, "cboItemType")->setFocus();
-    type("food");
-    press(Qt::Key_Return);
+    type("food<Return>");
     EXPECT_TRUE(search.isVisible()) << "nobody has seen the items of the type yet";
     EXPECT_EQ(search.GetItemID(), 1);
     press(Qt::Key_Return);

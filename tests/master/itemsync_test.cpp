@@ -3,24 +3,12 @@
 #include "engine/table.h"
 #include "tests/master/hostkitchen.h"
 #include "tests/support/brokentable.h"
-#include "tests/support/failures.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 using Engine::ErrorCode;
 
 namespace {
-
-// Does something once the keys are reserved and before the first row.
-class InterruptedProgress final : public Progress
-{
-public:
-    std::function<void()> onStart;
-
-    void start(int) override { onStart(); }
-    void step() override { }
-    void finish() override { }
-};
 
 class ItemSyncTest : public testing::TestWithParam<Store>
 {
@@ -30,11 +18,7 @@ protected:
         kitchen.session().waitFor = [](std::chrono::milliseconds) {};
         kitchen.execute(u"DELETE FROM Item; INSERT INTO ItemCtl (NextItemNo, NextItemID) VALUES (1001, 10)"_s);
     }
-    HostSyncResult run()
-    {
-        CountedProgress progress;
-        return ItemSync(kitchen.database()).run(progress);
-    }
+    HostSyncResult run() { return ItemSync(kitchen.database()).run(progress); }
     void addHostItem(int id, const QString &name, const QString &price = u"1"_s, const QString &meal = u"'B'"_s)
     {
         kitchen.execute(
@@ -55,6 +39,7 @@ protected:
     }
 
     HostKitchen kitchen{GetParam()};
+    CountedProgress progress;
 };
 ON_BOTH_STORES(ItemSyncTest);
 
@@ -131,14 +116,8 @@ TEST_P(ItemSyncTest, NumbersLinkByWhatTheyReadAs)
 
 TEST_P(ItemSyncTest, OnlyChangedItemsAreUpdated)
 {
-    struct Case
-    {
-        const char *name;
-        QString description, price; // of the item
-        QString hostName, hostPrice;
-        QString after; // description, price, type
-    };
-    const Case cases[] = {
+    // Description and price of the item, then of the host's; description, price and type afterwards.
+    const std::tuple<const char *, QString, QString, QString, QString, QString> cases[] = {
         {"nothing", u"'Soup'"_s, u"2"_s, u"'Soup'"_s, u"2"_s, u"Soup|2|9"_s},
         {"name", u"'Soup'"_s, u"2"_s, u"'soup'"_s, u"2"_s, u"soup|2|1"_s},
         {"price", u"'Soup'"_s, u"2"_s, u"'Soup'"_s, u"2.25"_s, u"Soup|2.25|1"_s},
@@ -149,15 +128,15 @@ TEST_P(ItemSyncTest, OnlyChangedItemsAreUpdated)
         {"name gone", u"'Soup'"_s, u"2"_s, u"NULL"_s, u"2"_s, u"|2|1"_s},
         {"no name on either side", u"NULL"_s, u"2"_s, u"NULL"_s, u"2"_s, u"|2|9"_s},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto &[name, description, price, hostName, hostPrice, after] : cases) {
+        SCOPED_TRACE(name);
         kitchen.execute(u"DELETE FROM Item; DELETE FROM Items"_s);
         addItem(1, u"7"_s);
-        kitchen.execute(u"UPDATE Item SET ItemDescription = %1, UnitPrice = %2"_s.arg(c.description, c.price));
-        addHostItem(7, c.hostName, c.hostPrice);
-        const bool changed = c.after.endsWith(u"|1"_s);
+        kitchen.execute(u"UPDATE Item SET ItemDescription = %1, UnitPrice = %2"_s.arg(description, price));
+        addHostItem(7, hostName, hostPrice);
+        const bool changed = after.endsWith(u"|1"_s);
         EXPECT_EQ(run().updated, changed ? 1 : 0);
-        EXPECT_EQ(kitchen.rows(u"SELECT ItemDescription, UnitPrice, ItemTypeID FROM Item"_s), QStringList(c.after));
+        EXPECT_EQ(kitchen.rows(u"SELECT ItemDescription, UnitPrice, ItemTypeID FROM Item"_s), QStringList(after));
         EXPECT_EQ(run().updated, 0);
     }
 }
@@ -228,9 +207,8 @@ TEST_P(ItemSyncTest, WithoutAReservationKeysLieAboveAllOthers)
     Engine::Table counters(anna->database, u"ItemCtl"_s);
     counters.exclusive = true;
     counters.open();
-    InterruptedProgress progress;
-    progress.onStart = [&] { counters.close(); };
-    ItemSync(kitchen.database()).run(progress);
+    progress.onStart = [&] { counters.close(); }; // once the keys are to be reserved, and before the first row
+    run();
     EXPECT_EQ(keysAndNumbers(), u"50|X 51|7 52|8");
     EXPECT_EQ(nextItemID(), u"54") << "none of them is handed out again";
 }

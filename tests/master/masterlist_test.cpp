@@ -3,7 +3,6 @@
 #include "host/tables/hosttables.h"
 #include "master/masterkinds.h"
 #include "master/masterrecord.h"
-#include "tests/support/failures.h"
 #include "tests/support/kitchen.h"
 
 using namespace Qt::StringLiterals;
@@ -36,7 +35,7 @@ const QList<Known> &known()
     return records;
 }
 
-class Lists : public testing::TestWithParam<Store>
+class Lists : public KitchenTest
 {
 protected:
     Lists()
@@ -61,7 +60,6 @@ protected:
         return other < 0 ? text : text.first(other) + text.sliced(text.lastIndexOf(u')') + 1);
     }
 
-    Kitchen kitchen{GetParam()};
     Engine::Database &database = kitchen.database();
     SpokenPrompts prompts;
 };
@@ -69,56 +67,44 @@ ON_BOTH_STORES(Lists);
 
 } // namespace
 
+// The reason that is given first stands last.
 TEST_P(Lists, RefuseToDeleteWhatIsReferredTo)
 {
-    struct
-    {
-        const MasterKind &kind;
-        int key;
-        QString opening;
-        // What refers to the record, the reason that is given first standing last.
-        QList<std::pair<QString, QString>> referrals;
-    } const cases[] = {
-        {MasterKinds::itemType(),
-         7,
-         u"Unable to delete 'Dry'...\n"_s,
-         {{u"UPDATE Item SET ItemTypeID = 7 WHERE ItemID = 3"_s, u"Item(s) exist for this item type"_s}}},
-        {MasterKinds::location(),
-         2,
-         u"Unable to delete 'Freezer'...\n"_s,
-         {{u"INSERT INTO IAdjust (AdjustmentID, WarehouseID) VALUES (1, 2)"_s,
-           u"Adjustments exist for this location"_s},
-          {u"INSERT INTO IReceipt (ReceiptID, WarehouseID) VALUES (1, 2)"_s, u"Receipts exist for this location"_s},
-          {u"INSERT INTO IHist (IHistID, WarehouseID) VALUES (1, 2)"_s, u"History exists for this location"_s}}},
-        {MasterKinds::tax(),
-         7,
-         u"Unable to delete tax 'VAT'...\n"_s,
-         {{u"INSERT INTO ARInv (InvoiceID, Tax2ID) VALUES (1, 7)"_s, u"Invoice(s) exist for this tax"_s},
-          {u"INSERT INTO ARInv (InvoiceID, Tax1ID) VALUES (2, 7)"_s, u"Invoice(s) exist for this tax"_s},
-          {u"INSERT INTO Customer (CustomerID, Tax2ID) VALUES (1, 7)"_s, u"Customer(s) exist for this tax"_s},
-          {u"INSERT INTO Customer (CustomerID, Tax1ID) VALUES (2, 7)"_s, u"Customer(s) exist for this tax"_s}}},
-        {MasterKinds::currency(),
-         4,
-         u"Unable to delete 'Old'...\n"_s,
-         {{u"INSERT INTO Customer (CustomerID, CurrencyID) VALUES (3, 4)"_s,
-           u"Customer(s) exist for this currency"_s},
-          {u"INSERT INTO Vendor (VendorID, CurrencyID) VALUES (9, 4)"_s, u"Vendor(s) exist for this currency"_s},
-          {u"INSERT INTO Bank (BankID, CurrencyID) VALUES (9, 4)"_s, u"Bank(s) exist for this currency"_s}}},
-        {MasterKinds::bank(),
-         7,
-         u"Unable to delete 'First Bank'...\n"_s,
-         {{u"INSERT INTO ARPmt (PaymentID, BankID) VALUES (1, 7)"_s, u"AR payment(s) exist for this bank"_s},
-          {u"INSERT INTO APCheq (ChequeID, BankID) VALUES (1, 7)"_s, u"AP cheque(s) exist for this bank"_s}}},
+    const std::tuple<const MasterKind &, int, QString, QString> referrals[] = {
+        {MasterKinds::itemType(), 7, u"UPDATE Item SET ItemTypeID = 7 WHERE ItemID = 3"_s,
+         u"'Dry'...\nItem(s) exist for this item type"_s},
+        {MasterKinds::location(), 2, u"INSERT INTO IAdjust (AdjustmentID, WarehouseID) VALUES (1, 2)"_s,
+         u"'Freezer'...\nAdjustments exist for this location"_s},
+        {MasterKinds::location(), 2, u"INSERT INTO IReceipt (ReceiptID, WarehouseID) VALUES (1, 2)"_s,
+         u"'Freezer'...\nReceipts exist for this location"_s},
+        {MasterKinds::location(), 2, u"INSERT INTO IHist (IHistID, WarehouseID) VALUES (1, 2)"_s,
+         u"'Freezer'...\nHistory exists for this location"_s},
+        {MasterKinds::tax(), 7, u"INSERT INTO ARInv (InvoiceID, Tax2ID) VALUES (1, 7)"_s,
+         u"tax 'VAT'...\nInvoice(s) exist for this tax"_s},
+        {MasterKinds::tax(), 7, u"UPDATE ARInv SET Tax1ID = 7, Tax2ID = NULL"_s,
+         u"tax 'VAT'...\nInvoice(s) exist for this tax"_s},
+        {MasterKinds::tax(), 7, u"INSERT INTO Customer (CustomerID, Tax2ID) VALUES (1, 7)"_s,
+         u"tax 'VAT'...\nCustomer(s) exist for this tax"_s},
+        {MasterKinds::tax(), 7, u"UPDATE Customer SET Tax1ID = 7, Tax2ID = NULL"_s,
+         u"tax 'VAT'...\nCustomer(s) exist for this tax"_s},
+        {MasterKinds::currency(), 4, u"INSERT INTO Customer (CustomerID, CurrencyID) VALUES (3, 4)"_s,
+         u"'Old'...\nCustomer(s) exist for this currency"_s},
+        {MasterKinds::currency(), 4, u"INSERT INTO Vendor (VendorID, CurrencyID) VALUES (9, 4)"_s,
+         u"'Old'...\nVendor(s) exist for this currency"_s},
+        {MasterKinds::currency(), 4, u"INSERT INTO Bank (BankID, CurrencyID) VALUES (9, 4)"_s,
+         u"'Old'...\nBank(s) exist for this currency"_s},
+        {MasterKinds::bank(), 7, u"INSERT INTO ARPmt (PaymentID, BankID) VALUES (1, 7)"_s,
+         u"'First Bank'...\nAR payment(s) exist for this bank"_s},
+        {MasterKinds::bank(), 7, u"INSERT INTO APCheq (ChequeID, BankID) VALUES (1, 7)"_s,
+         u"'First Bank'...\nAP cheque(s) exist for this bank"_s},
     };
-    for (const auto &one : cases) {
-        MasterList list(database, one.kind);
+    for (const auto &[kind, key, referral, reason] : referrals) {
+        kitchen.execute(referral);
+        MasterList list(database, kind);
         list.open();
-        for (const auto &[referral, reason] : one.referrals) {
-            kitchen.execute(referral);
-            ASSERT_TRUE(list.moveTo(one.key));
-            EXPECT_EQ(refusalOf([&] { list.remove(prompts); }), one.opening + reason + u" -> "_s);
-        }
-        EXPECT_EQ(list.currentKey(), one.key) << "still there";
+        ASSERT_TRUE(list.moveTo(key));
+        EXPECT_EQ(refusalOf([&] { list.remove(prompts); }), u"Unable to delete %1 -> "_s.arg(reason));
+        EXPECT_EQ(list.currentKey(), key) << "still there";
     }
 }
 

@@ -4,7 +4,6 @@
 #include "master/masterkinds.h"
 #include "master/masterlist.h"
 #include "master/recordnumber.h"
-#include "tests/support/failures.h"
 #include "tests/support/kitchen.h"
 #include "tests/support/otheruser.h"
 
@@ -16,44 +15,40 @@ using Engine::Value;
 
 namespace {
 
-// What a record of a kind needs, in the order in which it is asked for, and what is said then.
+// What a record of a kind needs, in the order in which it is asked for, and what it is called then.
 struct Need
 {
     QString field;
     Value value;
-    QString refusal;
+    QString caption;
 };
 
 QList<Need> needs(const MasterKind &kind)
 {
     static const QHash<QString, QList<Need>> all = {
         {u"items"_s,
-         {{u"ItemNo"_s, u"N1"_s, u"Field 'Item no.' must have a value"_s},
-          {u"ItemDescription"_s, u"Flour"_s, u"Field 'Description' must have a value"_s},
-          {u"ItemTypeID"_s, 2, u"Field 'Item Type' must have a value"_s}}},
-        {u"types"_s, {{u"TypeName"_s, u"Dry"_s, u"Field 'Type Name' must have a value"_s}}},
-        {u"locations"_s, {{u"WarehouseName"_s, u"Cellar"_s, u"Field 'Location Name' must have a value"_s}}},
+         {{u"ItemNo"_s, u"N1"_s, u"Item no."_s},
+          {u"ItemDescription"_s, u"Flour"_s, u"Description"_s},
+          {u"ItemTypeID"_s, 2, u"Item Type"_s}}},
+        {u"types"_s, {{u"TypeName"_s, u"Dry"_s, u"Type Name"_s}}},
+        {u"locations"_s, {{u"WarehouseName"_s, u"Cellar"_s, u"Location Name"_s}}},
         {u"vendors"_s,
-         {{u"VendorNo"_s, u"N1"_s, u"Field 'Vendor no.' must have a value"_s},
-          {u"VendorName"_s, u"Mill"_s, u"Field 'Vendor Name' must have a value"_s},
-          {u"CurrencyID"_s, 2, u"Field 'Currency' must have a value"_s}}},
-        {u"contacts"_s,
-         {{u"VendorID"_s, 1, u"Field 'Vendor' must have a value"_s},
-          {u"FirstName"_s, u"Mary"_s, u"Field 'Contact Name' must have a value"_s}}},
+         {{u"VendorNo"_s, u"N1"_s, u"Vendor no."_s},
+          {u"VendorName"_s, u"Mill"_s, u"Vendor Name"_s},
+          {u"CurrencyID"_s, 2, u"Currency"_s}}},
+        {u"contacts"_s, {{u"VendorID"_s, 1, u"Vendor"_s}, {u"FirstName"_s, u"Mary"_s, u"Contact Name"_s}}},
         {u"taxes"_s,
-         {{u"TaxName"_s, u"VAT"_s, u"Field 'Tax Name' must have a value"_s},
-          {u"TaxCode"_s, u"V"_s, u"Field 'Code' must have a value"_s},
-          {u"TaxDescription"_s, u"Value"_s, u"Field 'Description' must have a value"_s},
-          {u"Rate"_s, 0.5, u"Field 'Rate' must have a value"_s}}},
-        {u"currencies"_s, {{u"CurrencyName"_s, u"Euro"_s, u"Field 'Currency Name' must have a value"_s}}},
-        {u"banks"_s,
-         {{u"BankName"_s, u"First Bank"_s, u"Field 'Bank Name' must have a value"_s},
-          {u"CurrencyID"_s, 2, u"Field 'Currency' must have a value"_s}}},
+         {{u"TaxName"_s, u"VAT"_s, u"Tax Name"_s},
+          {u"TaxCode"_s, u"V"_s, u"Code"_s},
+          {u"TaxDescription"_s, u"Value"_s, u"Description"_s},
+          {u"Rate"_s, 0.5, u"Rate"_s}}},
+        {u"currencies"_s, {{u"CurrencyName"_s, u"Euro"_s, u"Currency Name"_s}}},
+        {u"banks"_s, {{u"BankName"_s, u"First Bank"_s, u"Bank Name"_s}, {u"CurrencyID"_s, 2, u"Currency"_s}}},
     };
     return all.value(kind.name);
 }
 
-class Records : public testing::TestWithParam<Store>
+class Records : public KitchenTest
 {
 protected:
     Records() { HostTables::createHostTables(database, u"Test Kitchen"_s, u"USA"_s); }
@@ -80,7 +75,6 @@ protected:
     }
     QString counters() { return kitchen.rows(u"SELECT NextItemNo, NextItemID FROM ItemCtl"_s).value(0); }
 
-    Kitchen kitchen{GetParam()};
     Engine::Database &database = kitchen.database();
 };
 ON_BOTH_STORES(Records);
@@ -97,7 +91,7 @@ TEST_P(Records, AskForWhatIsMissingOneAfterTheOther)
             record.table().set(need.field,
                                Engine::isText(record.table().field(need.field).type) ? Value(u" "_s) : Value());
         for (const Need &need : needs(*kind)) {
-            EXPECT_EQ(refusal(record), need.refusal + u" -> "_s + need.field);
+            EXPECT_EQ(refusal(record), u"Field '%1' must have a value -> %2"_s.arg(need.caption, need.field));
             EXPECT_TRUE(record.isNew()) << "still to be mended";
             record.table().set(need.field, need.value);
         }

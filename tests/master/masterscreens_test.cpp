@@ -1,17 +1,11 @@
 #include "controls/screenmetrics.h"
-#include "data/datamodule.h"
 #include "master/masterkinds.h"
 #include "master/screens/masterlistscreen.h"
 #include "master/screens/masterrecordscreen.h"
 #include "master/screens/masterscreens.h"
 #include "tests/support/screentest.h"
 
-#include <QAction>
 #include <QImage>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTableView>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -146,8 +140,7 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
         showActive(*list);
         press(Qt::Key_Return);
         takeRecord(plain.kind);
-        type("Zz");
-        press(Qt::Key_Escape);
+        type("Zz<Esc>");
         EXPECT_EQ(record->windowTitle(), strangeName) << "taken back";
         type("Zz");
         prompts.answer = Answer::Cancel;

@@ -4,7 +4,6 @@
 #include "host/tables/hosttables.h"
 #include "master/masterkinds.h"
 #include "master/yearend.h"
-#include "tests/support/failures.h"
 #include "tests/support/kitchen.h"
 
 #include <QDate>
@@ -18,7 +17,7 @@ const QString ranges = u"SELECT FiscalYear, DefaultPeriodPP, DefaultPeriodYYYY, 
                        "WPeriodToPP, WPeriodToYYYY, EPeriodFromPP, EPeriodFromYYYY, EPeriodToPP, EPeriodToYYYY "
                        "FROM Company"_s;
 
-class Organization : public testing::TestWithParam<Store>
+class Organization : public KitchenTest
 {
 protected:
     Organization()
@@ -29,7 +28,6 @@ protected:
         record.open();
     }
 
-    Kitchen kitchen{GetParam()};
     MasterRecord record{kitchen.database(), MasterKinds::company()};
     Engine::Table &company = record.table();
 };
@@ -150,7 +148,6 @@ TEST_P(Organization, TheYearEndMovesEverythingToTheFirstPeriodOfTheNextYear)
                     "EPeriodToPP = 12, EPeriodToYYYY = 2026"_s);
     company.refresh();
     YearEnd yearEnd(company);
-    SpokenPrompts prompts;
     bool raised = false;
     company.field(u"EPeriodToPP").changed = [&] { raised = YearEnd::isUnderWay(); };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/bothstores.h"
+#include "tests/support/failures.h"
 #include "tests/support/spokenprompts.h"
 
 #include <QStringList>
@@ -35,4 +36,13 @@ public:
     QString text(const QString &sql) { return value(sql).toText(); }
     double onHand(int item, int warehouse);
     double averageCost(int item);
+};
+
+// A test over it, of what runs on both stores.
+class KitchenTest : public testing::TestWithParam<Store>
+{
+protected:
+    Kitchen kitchen{GetParam()};
+    SpokenPrompts prompts;
+    CountedProgress progress;
 };

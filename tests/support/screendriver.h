@@ -1,13 +1,25 @@
 #pragma once
 
+#include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
+#include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
-// Helpers for driving real widgets.
+// Helpers for driving real widgets, and the widgets that screens are made of.
 
 template <typename Widget> Widget *child(const QWidget &window, const char *name)
 {
@@ -41,16 +53,25 @@ inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     QCoreApplication::processEvents();
 }
 
+// What a keyboard types: letters as they stand, other keys by their names: "A10<Return>3<Shift+Tab>".
 inline void type(const char *text)
 {
-    QWidget *target = QApplication::focusWidget();
-    ASSERT_NE(target, nullptr);
-    for (const char *c = text; *c; ++c)
-        QTest::keyClick(QApplication::focusWidget(), *c);
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    for (const char *c = text; *c; ++c) {
+        const char *end = *c == '<' ? std::strchr(c, '>') : nullptr;
+        if (!end) {
+            QTest::keyClick(QApplication::focusWidget(), *c);
+            continue;
+        }
+        const auto key = QKeySequence::fromString(QString::fromLatin1(c + 1, end - c - 1))[0];
+        ASSERT_NE(key.key(), Qt::Key_unknown) << c;
+        press(key.key(), key.keyboardModifiers());
+        c = end;
+    }
     QCoreApplication::processEvents();
 }
 
-// The same for any text: characters that a keyboard may not have come as from an input method.
+// Any text as it stands: characters that a keyboard may not have come as from an input method.
 inline void type(const QString &text)
 {
     ASSERT_NE(QApplication::focusWidget(), nullptr);

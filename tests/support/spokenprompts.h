@@ -58,8 +58,13 @@ class CountedProgress final : public Tallymere::Progress
 public:
     int steps = 0;
     bool finished = false;
+    std::function<void()> onStart;
 
-    void start(int) override { }
+    void start(int) override
+    {
+        if (onStart)
+            onStart();
+    }
     void step() override { ++steps; }
     void finish() override { finished = true; }
 };

@@ -1,23 +1,14 @@
-#include "tests/support/failures.h"
 #include "tests/support/kitchen.h"
 #include "transactions/adjustmententry.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class Adjustments : public testing::TestWithParam<Store>
-{
-protected:
-    Kitchen kitchen{GetParam()};
-    SpokenPrompts prompts;
-    CountedProgress progress;
-};
+using Adjustments = KitchenTest;
 ON_BOTH_STORES(Adjustments);
 
 TEST_P(Adjustments, AreEnteredCheckedAndPostedWithTheirSign)

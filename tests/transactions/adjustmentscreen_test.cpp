@@ -1,9 +1,6 @@
 #include "tests/support/screentest.h"
 #include "transactions/screens/invadjustment.h"
 
-#include <QLineEdit>
-#include <QToolButton>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
@@ -38,8 +35,7 @@ TEST_F(AdjustmentScreenTest, stepsTheDateThatIsShownAndLeavesTheLinesForTheLocat
         EXPECT_EQ(date->text(), QLocale::c().toString(given.shown, u"dd MMM yy")) << given.typed;
     }
     child<QToolButton>(*screen, "btnWarehouse")->setEnabled(true); // there is no list of locations in these tests
-    press(Qt::Key_PageDown);
-    press(Qt::Key_Backtab);
+    type("<PgDown><Backtab>");
     EXPECT_EQ(focusName(), u"cboWarehouse"_s);
     EXPECT_EQ(prompts.said, QStringList());
 }

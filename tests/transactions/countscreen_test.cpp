@@ -3,12 +3,7 @@
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QPointer>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -92,8 +87,7 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     grid->horizontalHeader()->sectionClicked(2);
     search("ap");
     EXPECT_EQ(cursor(), u"A10"_s); // Apples
-    press(Qt::Key_F2);
-    press(Qt::Key_Return); // taken as it stands
+    type("<F2><Return>"); // taken as it stands
     EXPECT_EQ(rows(), (QStringList{u"A10 10 10 0"_s, u"B1 2.5 2.5"_s, u"A11 5 4 -1"_s}));
     EXPECT_EQ(status(), u"2 of 3 counted, 1 differ, value of the difference (2.00)"_s);
 
@@ -135,11 +129,8 @@ TEST_F(CountScreenTest, RefusesWhatIsNoCount)
         press(Qt::Key_Escape);
         EXPECT_EQ(rows().last(), u"B1 2.5 2.5"_s);
     }
-    type("1");
-    press(Qt::Key_Up);
-    press(Qt::Key_Up); // to the limit, and no further
-    press(Qt::Key_Up);
-    press(Qt::Key_Return);
+    type("1<Up><Up>"); // to the limit, and no further
+    type("<Up><Return>");
     EXPECT_EQ(rows().last(), u"B1 2.5 2.5 0"_s);
     press(Qt::Key_Delete);
     EXPECT_EQ(rows().last(), u"B1 2.5 2.5"_s);

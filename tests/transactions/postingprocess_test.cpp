@@ -3,7 +3,6 @@
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 
-#include <gtest/gtest.h>
 #include <random>
 
 using namespace Qt::StringLiterals;

@@ -3,25 +3,17 @@
 
 #include "engine/lockmanager.h"
 #include "engine/table.h"
-#include "tests/support/failures.h"
 #include "tests/support/kitchen.h"
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
-using Engine::EngineError;
 using Engine::ErrorCode;
 
 namespace {
 
-class Posting : public testing::TestWithParam<Store>
+class Posting : public KitchenTest
 {
 protected:
-    Kitchen kitchen{GetParam()};
-    SpokenPrompts prompts;
-    CountedProgress progress;
-
     bool post() { return DocumentPosting(kitchen.database(), DocumentKinds::receipt()).run(prompts, progress); }
     QStringList posted()
     {

@@ -1,7 +1,5 @@
 #include "transactions/stockcount.h"
 
-#include "base/ruleerror.h"
-#include "engine/error.h"
 #include "engine/table.h"
 #include "tests/support/kitchen.h"
 
@@ -11,7 +9,7 @@ using namespace Tallymere;
 namespace {
 
 // Food by average cost, Goods by standard cost; Apples, Bread and apricots at the Office.
-class CountTest : public testing::TestWithParam<Store>
+class CountTest : public KitchenTest
 {
 protected:
     CountTest()
@@ -56,9 +54,7 @@ protected:
     QString counters() { return kitchen.rows(u"SELECT NextInvoiceID, NextInvoiceNo FROM ARInvCtl"_s).value(0); }
 
     const QDate date{2026, 3, 14};
-    Kitchen kitchen{GetParam()};
     QTemporaryDir folder;
-    SpokenPrompts prompts;
     StockCount count{kitchen.database(), prompts, CountDrafts(u"kitchen"_s, u"anna"_s, folder.path())};
 };
 ON_BOTH_STORES(CountTest);
@@ -272,14 +268,6 @@ TEST(CountDraftFile, ThatCannotBeReadIsNone)
     }
     const CountDrafts nowhere(u"kitchen"_s, u"bert"_s, u"/proc/nowhere"_s);
     EXPECT_THROW(nowhere.save(3, {}), RuleError);
-}
-
-TEST(CountDate, ReachesFromAYearAgoToThreeDaysAhead)
-{
-    const QDate today(2026, 3, 14);
-    EXPECT_FALSE(StockCount::isCountable(today.addDays(-365), today));
-    EXPECT_TRUE(StockCount::isCountable(today.addDays(-364), today));
-    EXPECT_EQ(StockCount::latestDate(today), QDate(2026, 3, 17));
 }
 
 TEST(CountLocationText, HoldsItsKeyBehindAnyName)

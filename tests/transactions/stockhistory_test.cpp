@@ -5,7 +5,6 @@
 #include "transactions/documentposting.h"
 #include "transactions/stockcount.h"
 
-#include <gtest/gtest.h>
 #include <QBuffer>
 #include <random>
 
@@ -15,7 +14,7 @@ using namespace Tallymere;
 namespace {
 
 // Quantities are quarters, so that sums are exact.
-class StockHistory : public testing::TestWithParam<Store>
+class StockHistory : public KitchenTest
 {
 protected:
     StockHistory() { kitchen.execute(u"UPDATE ItemType SET Inventory = true, CostingMethod = ItemTypeID"_s); }
@@ -88,9 +87,6 @@ protected:
     }
 
     const QDate date{2026, 3, 14};
-    Kitchen kitchen{GetParam()};
-    SpokenPrompts prompts;
-    CountedProgress progress;
     std::mt19937 random;
 };
 ON_BOTH_STORES(StockHistory);

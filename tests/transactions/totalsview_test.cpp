@@ -2,14 +2,12 @@
 
 #include "tests/support/kitchen.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class Totals : public testing::TestWithParam<Store>
+class Totals : public KitchenTest
 {
 protected:
     static QStringList shown(TotalsView &view)
@@ -22,8 +20,6 @@ protected:
                     .join(u'/'));
         return rows;
     }
-
-    Kitchen kitchen{GetParam()};
 };
 ON_BOTH_STORES(Totals);
 

@@ -1,9 +1,6 @@
 #include "transactions/usageentry.h"
 
-#include "tests/support/failures.h"
 #include "tests/support/kitchen.h"
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -11,7 +8,7 @@ using namespace Tallymere;
 namespace {
 
 // Apples and bread cost their average of 1.25 and 10, apricots their standard cost of 4; yeast is not stocked.
-class UsageDocument : public testing::TestWithParam<Store>
+class UsageDocument : public KitchenTest
 {
 protected:
     UsageDocument()
@@ -47,8 +44,6 @@ protected:
             "JOIN IUsageDet ON IUsageDet.UsageID = IUsage.UsageID ORDER BY Seq"_s);
     }
 
-    Kitchen kitchen{GetParam()};
-    SpokenPrompts prompts;
     UsageEntry entry;
 };
 ON_BOTH_STORES(UsageDocument);

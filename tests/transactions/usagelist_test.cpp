@@ -1,13 +1,10 @@
 #include "engine/lockmanager.h"
 #include "engine/table.h"
 #include "host/tables/hosttables.h"
-#include "tests/support/failures.h"
 #include "tests/support/kitchen.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentlist.h"
 #include "transactions/usagedeletion.h"
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -16,7 +13,7 @@ using Engine::ErrorCode;
 namespace {
 
 // Usage 1 to 3 of 14 March 2026, of which 3 is posted, and 4 of the day after; a line each.
-class UsageList : public testing::TestWithParam<Store>
+class UsageList : public KitchenTest
 {
 protected:
     UsageList()
@@ -37,9 +34,6 @@ protected:
                             "ORDER BY 1"_s);
     }
     QStringList notes() { return kitchen.rows(uR"(SELECT Event_Date, Event, "user" FROM History)"_s); }
-
-    Kitchen kitchen{GetParam()};
-    SpokenPrompts prompts;
 };
 ON_BOTH_STORES(UsageList);
 

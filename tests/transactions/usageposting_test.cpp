@@ -1,8 +1,6 @@
-#include "tests/support/kitchen.h"
-#include "transactions/documentkinds.h"
+#include "tests/transactions/documents.h"
 #include "transactions/documentposting.h"
 
-#include <gtest/gtest.h>
 #include <map>
 #include <optional>
 #include <random>
@@ -13,7 +11,7 @@ using namespace Tallymere;
 namespace {
 
 // Apples and bread are stocked, apricots are not, the type of yeast is gone.
-class UsagePosting : public testing::TestWithParam<Store>
+class UsagePosting : public KitchenTest
 {
 protected:
     UsagePosting()
@@ -21,58 +19,15 @@ protected:
         kitchen.execute(
             u"UPDATE ItemType SET Inventory = (ItemTypeID = 1); UPDATE Item SET ItemTypeID = 9 WHERE ItemID = 4"_s);
     }
-    struct Line
+    void addUsage(int id, int warehouse, const QList<DocumentLine> &lines)
     {
-        int item; // 0: empty
-        QString quantity;
-        QString cost = u"NULL"_s;
-    };
-    void addUsage(int id, int warehouse, const QList<Line> &lines)
-    {
-        QString sql =
-            u"INSERT INTO IUsage (UsageID, UsageNo, GLYear, GLPeriod, InventoryDate, WarehouseID, Posted) "
-            "VALUES (%1, '%2', 2026, 3, '2026-03-14', %3, false);"_s.arg(id)
-                .arg(10'000 + id)
-                .arg(warehouse);
-        int seq = 0;
-        for (const Line &line : lines)
-            sql +=
-                u"INSERT INTO IUsageDet (UsageID, Seq, ItemID, Quantity, UnitCost) VALUES (%1, %2, %3, %4, %5);"_s
-                    .arg(id)
-                    .arg(++seq)
-                    .arg(line.item == 0 ? u"NULL"_s : QString::number(line.item), line.quantity, line.cost);
-        kitchen.execute(sql);
-    }
-    void addAdjustment(int id, int warehouse, const QList<Line> &lines)
-    {
-        kitchen.execute(
-            u"INSERT INTO IAdjust (AdjustmentID, GLYear, GLPeriod, AdjDate, AdjDescription, WarehouseID, Posted) "
-            "VALUES (%1, 2026, 3, '2026-03-14', 'Spoiled', %2, false)"_s.arg(id)
-                .arg(warehouse));
-        int seq = 0;
-        for (const Line &line : lines)
-            kitchen.execute(
-                u"INSERT INTO IAdjDet (AdjustmentID, Seq, ItemID, Quantity) VALUES (%1, %2, %3, %4)"_s.arg(id)
-                    .arg(++seq)
-                    .arg(line.item)
-                    .arg(line.quantity));
+        addDocument(kitchen, DocumentKinds::usage(), id, warehouse, lines);
     }
     bool post() { return DocumentPosting(kitchen.database(), DocumentKinds::usage()).run(prompts, progress); }
     QStringList balances()
     {
         return kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s);
     }
-
-    struct Change
-    {
-        bool adjusts;
-        std::pair<int, int> place;
-        double quantity;
-    };
-    std::vector<Change> pending;
-    Kitchen kitchen{GetParam()};
-    SpokenPrompts prompts;
-    CountedProgress progress;
 };
 ON_BOTH_STORES(UsagePosting);
 
@@ -111,6 +66,13 @@ TEST_P(UsagePosting, AgreesWithAPlainComputationOnRandomDocuments)
     const auto below = [&random](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
     std::map<std::pair<int, int>, double> onHand;
     QStringList used, adjusted;
+    struct Change
+    {
+        bool adjusts;
+        std::pair<int, int> place;
+        double quantity;
+    };
+    std::vector<Change> pending;
     kitchen.setStock(1, 1, 5.3, 2);
     onHand[{1, 1}] = 5.3;
     int document = 0;
@@ -118,7 +80,7 @@ TEST_P(UsagePosting, AgreesWithAPlainComputationOnRandomDocuments)
         for (int i = below(90); i >= 0; --i) {
             const bool adjusts = below(2);
             const int warehouse = 1 + below(2);
-            QList<Line> lines;
+            QList<DocumentLine> lines;
             ++document;
             for (int j = below(8); j > 0; --j) {
                 const int item = adjusts ? 1 + below(5) : below(6); // none, stocked or not, without type, gone
@@ -135,7 +97,8 @@ TEST_P(UsagePosting, AgreesWithAPlainComputationOnRandomDocuments)
                         + (cost && !adjusts ? Engine::Value(Engine::Money::fromDouble(*cost)).toText() : QString());
                 pending.push_back({adjusts, {item, warehouse}, adjusts ? quantity : -quantity});
             }
-            adjusts ? addAdjustment(document, warehouse, lines) : addUsage(document, warehouse, lines);
+            addDocument(kitchen, adjusts ? DocumentKinds::adjustment() : DocumentKinds::usage(), document,
+                        warehouse, lines);
         }
         post();
         DocumentPosting(kitchen.database(), DocumentKinds::adjustment()).run(prompts, progress);

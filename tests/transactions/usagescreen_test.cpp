@@ -7,12 +7,7 @@
 #include "transactions/screens/invusage.h"
 #include "transactions/screens/invusages.h"
 
-#include <QAction>
 #include <QCalendarWidget>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -81,9 +76,7 @@ TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
     press(Qt::Key_PageDown);
     enterLine("3", "A10");
     EXPECT_EQ(cursor(), u"0,1"_s);
-    press(Qt::Key_Return);
-    type("for pie");
-    press(Qt::Key_Return);
+    type("<Return>for pie<Return>");
     EXPECT_EQ(cursor(), u"0,3"_s);
     press(Qt::Key_Return);
     EXPECT_EQ(cursor(), u"0,5"_s) << "past the cost";
@@ -92,14 +85,11 @@ TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
     EXPECT_EQ(cursor(), u"1,0"_s);
     EXPECT_EQ(child<QLabel>(*screen, "lblInvoiceAmount")->text(), u"6.00"_s);
     enterLine("2", "A11");
-    press(Qt::Key_Tab);
-    press(Qt::Key_Tab);
-    type("ap"); // completed to "Apples", whose first letter has another case
+    type("<Tab><Tab>ap"); // completed to "Apples", whose first letter has another case
     press(Qt::Key_Tab);
     EXPECT_EQ(cursor(), u"1,4"_s) << "Tab stops at the cost";
     child<QLineEdit>(*screen, "editDescription")->setFocus();
-    press(Qt::Key_PageDown);
-    press(Qt::Key_Backtab);
+    type("<PgDown><Backtab>");
     EXPECT_EQ(focusName(), u"cboWarehouse"_s);
     press(Qt::Key_Delete);
     EXPECT_EQ(child<LookupComboBox>(*screen, "cboWarehouse")->chosenId(), 0);
@@ -113,9 +103,7 @@ TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
 TEST_F(UsageScreenTest, leadsBackToTheItemWithoutTheSearchAndAsksInItsOwnWords)
 {
     open();
-    press(Qt::Key_PageDown);
-    type("3");
-    press(Qt::Key_PageDown); // the line has no item yet
+    type("<PgDown>3<PgDown>"); // the line has no item yet
     EXPECT_EQ(prompts.take(),
               QStringList(u"error: Field 'Item no.' must have a value...\nMake changes or press Esc to undo"_s));
     QCoreApplication::processEvents();
