@@ -1,11 +1,7 @@
 #include "base/csvlist.h"
 
 #include "base/csvwriter.h"
-#include "base/ruleerror.h"
-#include "base/texts.h"
-
-#include <QDir>
-#include <QSaveFile>
+#include "base/savedfile.h"
 
 namespace Tallymere {
 
@@ -44,20 +40,7 @@ void writeCsvList(const Engine::DataSet &rows, const QStringList &fields, QIODev
 void saveCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, const QString &fileName,
                  Progress &progress)
 {
-    QSaveFile file(fileName);
-    const auto refuse = [&] {
-        throw RuleError(BaseTexts::tr("Unable to save '%1'...\n%2")
-                            .arg(QDir::toNativeSeparators(fileName), file.errorString()));
-    };
-    if (!file.open(QIODevice::WriteOnly))
-        refuse();
-    try {
-        writeCsvList(rows, columns, file, progress);
-    } catch (const RuleError &) {
-        refuse();
-    }
-    if (!file.flush() || !file.commit()) // which does not tell that the last block was not written whole
-        refuse();
+    saveFile(fileName, [&](QIODevice &file) { writeCsvList(rows, columns, file, progress); });
 }
 
 } // namespace Tallymere

@@ -37,6 +37,7 @@ struct Command
     QString summary;
     QString details; // more for its own --help
     QList<OptionSpec> options; // besides the ones that all commands take
+    bool paints = false; // needs the fonts of a QGuiApplication
     int fewestWords = 0;
     int mostWords = 0;
     std::function<void(CommandContext &)> run; // failures are exceptions
@@ -57,5 +58,7 @@ Command syncCommand();
 Command totalsCommand();
 Command historyCommand();
 Command listCommand();
+Command reportCommand();
+Command printCommand();
 
 } // namespace Tallymere::Cli

@@ -53,9 +53,9 @@ const QList<OptionSpec> &commonOptions()
 
 const QList<Command> &commands()
 {
-    static const QList<Command> all = {initCommand(),   sampleCommand(),  importCommand(),
-                                       postCommand(),   countCommand(),   syncCommand(),
-                                       totalsCommand(), historyCommand(), listCommand()};
+    static const QList<Command> all = {initCommand(),  sampleCommand(), importCommand(), postCommand(),
+                                       countCommand(), syncCommand(),   totalsCommand(), historyCommand(),
+                                       listCommand(),  reportCommand(), printCommand()};
     return all;
 }
 

@@ -15,7 +15,7 @@ namespace {
 // Commands that are known by name so that the user is told so.
 const QStringList &comingCommands()
 {
-    static const QStringList names = {u"report"_s, u"check"_s, u"backup"_s, u"restore"_s};
+    static const QStringList names = {u"check"_s, u"backup"_s, u"restore"_s};
     return names;
 }
 
@@ -104,6 +104,12 @@ bool isRefusal(Engine::ErrorCode code)
 }
 
 } // namespace
+
+bool paints(const QStringList &words)
+{
+    const Command *command = findCommand(commandName(words));
+    return command && command->paints;
+}
 
 ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore &settings)
 {

@@ -14,6 +14,9 @@ enum class ExitStatus {
     EngineFailed = 3, // the database could not be opened, or failed
 };
 
+// Whether the command of these words needs a QGuiApplication.
+bool paints(const QStringList &words);
+
 // Runs the command line (without the program's name) and reports failures on standard error.
 ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore &settings);
 

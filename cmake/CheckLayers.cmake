@@ -23,7 +23,7 @@ set(allowed_frame ${rules} controls master master/screens transactions transacti
 set(allowed_import ${rules} master transactions)
 set(allowed_host plgint host/tables engine base)
 set(allowed_host/sample ${rules} master transactions import)
-set(allowed_cli ${rules} host/tables host/sample master transactions import reports)
+set(allowed_cli ${rules} host/tables host/sample master transactions import printing reports)
 
 get_cmake_property(variables VARIABLES)
 set(rooms ${variables})

@@ -64,15 +64,16 @@ add_custom_target(layers ALL
     COMMAND ${CMAKE_COMMAND} -DROOT=${CMAKE_SOURCE_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/CheckLayers.cmake
     COMMENT "Checking that the includes between the rooms point one way" VERBATIM)
 
-# tallymere_room(NAME [SCREENS] SOURCES ... LINK ...): one static library of the project.
+# tallymere_room(NAME [SCREENS | PAINTS] SOURCES ... LINK ...): one static library of the project. A room that paints
+# but has no widgets takes neither precompiled header.
 function(tallymere_room name)
-    cmake_parse_arguments(ROOM "SCREENS" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ROOM "SCREENS;PAINTS" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${ROOM_SOURCES})
     target_link_libraries(${name} PUBLIC tallymere_options ${ROOM_LINK})
     add_dependencies(${name} layers)
     if(ROOM_SCREENS)
         target_precompile_headers(${name} REUSE_FROM tallymere_screen_headers)
-    else()
+    elseif(NOT ROOM_PAINTS)
         target_precompile_headers(${name} REUSE_FROM tallymere_core_headers)
     endif()
 endfunction()

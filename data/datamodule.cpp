@@ -166,10 +166,11 @@ void TDataModuleTallymere::start()
 void TDataModuleTallymere::prepareReportPrinting()
 {
     qCDebug(trace) << "DataModuleTallymere.QuickReportA4";
+    m_quickReportA4 = m_options.locale.measurementSystem() != QLocale::ImperialUSSystem;
     if (!m_options.prepareReportPrinting)
         return;
     try {
-        m_options.prepareReportPrinting();
+        m_quickReportA4 = m_options.prepareReportPrinting().value_or(m_quickReportA4);
     } catch (const std::exception &error) {
         // A start must not depend on printers; printing itself reports what is wrong with them.
         qCDebug(trace) << "No printer could be prepared:" << error.what();

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <QDate>
 #include <QLocale>
 #include <QString>
@@ -28,7 +29,9 @@ struct DataModuleOptions
     std::function<QDate()> today{}; // empty: the system's clock
     QLocale locale = QLocale::system(); // names the first currency where the host's configuration does not
     std::function<void(Engine::Database &)> prepareHost{}; // runs once connected, before any table is looked for
-    std::function<void()> prepareReportPrinting{}; // the last step; whatever it throws is ignored
+    // The last step: looks the current printer up and says whether its paper is A4; nothing when there is none. Whatever
+    // it throws is ignored. Without an answer the locale's system of measurement decides.
+    std::function<std::optional<bool>()> prepareReportPrinting{};
 };
 
 // The connection to the host's database, and the tables that are shared by all screens.
@@ -65,6 +68,8 @@ public:
 
     QList<Engine::Table *> ownedTables() override; // all of these
 
+    bool quickReportA4() const { return m_quickReportA4; } // reports are made for A4 paper, else for Letter
+
     const QString &cMode() const { return m_mode; } // "C" for client/server; anything else is file server
     const QString &currentUser() const { return m_currentUser; }
     void setCurrentUser(const QString &user);
@@ -84,6 +89,7 @@ private:
     DataModuleOptions m_options;
     QString m_mode;
     QString m_currentUser;
+    bool m_quickReportA4 = false;
 
     Engine::Session m_session;
     Engine::Database m_database;

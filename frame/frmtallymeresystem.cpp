@@ -126,7 +126,12 @@ void TFormTallymereSystem::prepareOpening()
     if (!m_dataModule) {
         DataModuleOptions options;
         options.waitFor = waitAlive;
-        options.prepareReportPrinting = [] { QPrinterInfo::defaultPrinter(); };
+        options.prepareReportPrinting = []() -> std::optional<bool> {
+            const QPrinterInfo printer = QPrinterInfo::defaultPrinter();
+            if (printer.isNull())
+                return {};
+            return printer.defaultPageSize().id() == QPageSize::A4;
+        };
         if (m_host)
             m_host->getCurrentUser(options.currentUser); // whom the locks of the connection name
         m_dataModule = std::make_unique<TDataModuleTallymere>(m_services.settings, m_services.prompts, options);

@@ -245,7 +245,8 @@ TEST_P(DataModule, TwoFirstStartsAtTheSameTimeBothSucceed)
 TEST_P(DataModule, ParametersAndTemporaryTablesStayOutOfTheDatabase)
 {
     makeHost();
-    auto dataModule = start({.prepareReportPrinting = [] { throw std::runtime_error("no printer"); }});
+    auto dataModule =
+        start({.prepareReportPrinting = []() -> std::optional<bool> { throw std::runtime_error("no printer"); }});
     const QStringList tables = store.database().tableNames();
 
     Table &parameters = dataModule->memTableInvReportParameters();

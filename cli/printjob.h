@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace Tallymere::Cli {
+
+// Hands a PDF file to the system's printing under a title; an empty name stands for the default printer. Throws RuleError
+// with what the system says when there is no such printer, or none at all.
+void sendToPrinter(const QString &pdfFile, const QString &printer, const QString &title);
+
+} // namespace Tallymere::Cli

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "printing/paper.h"
+#include "printing/reportlines.h"
+
+#include <functional>
+#include <optional>
+
+namespace Tallymere::Printing {
+
+// What stands on the pages besides the report itself.
+struct PageTexts
+{
+    QString organization; // beside the title
+    QString printed; // in the footer: "Printed at 25 Nov 26 14:05"
+};
+
+// Lays lines out on pages, one page at a time. A heading stays with the first row below it, a total with the last row
+// above it; the next page repeats the titles of the columns and says whose rows it goes on with.
+class PageMaker
+{
+public:
+    using TakePage = std::function<void(const Page &)>;
+
+    // The layout and the lines outlive the object.
+    PageMaker(const ReportLayout &layout, const ReportLines &lines, const Paper &paper, const PageTexts &texts,
+              TakePage takePage);
+
+    void add(const ReportLine &line);
+    void finish(); // the last page; a report without lines has one, which says so
+
+private:
+    // A line with its texts, measured from its upper edge.
+    struct LaidLine
+    {
+        double height = 0;
+        QList<TextItem> texts{};
+        QList<Fill> fills{};
+    };
+    // Lines that must not be parted.
+    struct Block
+    {
+        QList<LaidLine> lines{};
+        QStringList continued{}; // the groups that it goes on with
+        bool newPage = false;
+    };
+    struct PlacedColumn
+    {
+        const Column *column;
+        int field;
+        int openingField;
+        double left;
+        double width;
+        double fraction; // room right of the decimal point
+    };
+
+    void placeColumns();
+    LaidLine layOut(const ReportLine &line) const;
+    LaidLine cells(const ReportLine &line) const;
+    LaidLine groupHeading(const ReportLine &line) const;
+    LaidLine total(const ReportLine &line) const;
+    void addCell(LaidLine &line, const PlacedColumn &place, const QString &text, TextStyle style) const;
+    static void addText(LaidLine &line, double x, double y, TextStyle style, const QString &text, double room);
+    QString groupName(int group, const ReportLine &line) const;
+    QString cellText(const PlacedColumn &place, const ReportLine &line) const;
+    bool totalStartsAt(const PlacedColumn &place) const;
+
+    void place(const Block &block);
+    void placeLine(const LaidLine &line);
+    void beginPage(const QStringList &continued);
+    void endPage();
+    void addTitle();
+    void addRunningTitle();
+    void addColumnTitles();
+    void rule(double y, double thickness, double left, double right);
+
+    const ReportLayout &m_layout;
+    const ReportLines &m_lines;
+    Paper m_paper;
+    PageTexts m_texts;
+    TakePage m_takePage;
+    QRectF m_area;
+    double m_bottom = 0; // of what lines may take
+    std::vector<PlacedColumn> m_columns;
+    std::optional<LaidLine> m_columnTitles;
+
+    Page m_page;
+    double m_y = 0;
+    int m_pages = 0;
+    bool m_onPage = false;
+    bool m_empty = true; // of lines
+    Block m_block; // waits for lines that belong to it
+    bool m_keepsNext = false; // the last line of the block wants the next one
+    QStringList m_open; // the groups in hand, as the next page names them
+};
+
+} // namespace Tallymere::Printing

@@ -1,0 +1,47 @@
+#include "printing/pagespool.h"
+
+#include "base/ruleerror.h"
+#include "printing/texts.h"
+
+#include <QDataStream>
+#include <QDir>
+
+namespace Tallymere::Printing {
+
+namespace {
+
+[[noreturn]] void refuse(const QFile &file)
+{
+    const QString name = file.fileName().isEmpty() ? QDir::tempPath() : file.fileName();
+    throw RuleError(PrintingTexts::tr("The pages of the report cannot be kept in '%1'...\n%2")
+                        .arg(QDir::toNativeSeparators(name), file.errorString()));
+}
+
+} // namespace
+
+void PageSpool::append(const Page &page)
+{
+    if (!m_file.isOpen() && !m_file.open())
+        refuse(m_file);
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << page;
+    if (!m_file.seek(m_end) || m_file.write(bytes) != bytes.size() || !m_file.flush())
+        refuse(m_file);
+    m_starts.append(m_end);
+    m_end += bytes.size();
+}
+
+Page PageSpool::page(int index) const
+{
+    Page page;
+    if (!m_file.seek(m_starts.at(index)))
+        refuse(m_file);
+    QDataStream stream(&m_file);
+    stream >> page;
+    if (stream.status() != QDataStream::Ok)
+        refuse(m_file);
+    return page;
+}
+
+} // namespace Tallymere::Printing

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "base/prompts.h"
+#include "printing/reportlayout.h"
+#include "printing/rowreader.h"
+
+class QIODevice;
+
+namespace Tallymere::Printing {
+
+// A report as CSV, a row for each printed line under the names of fields: first "Band" ("opening", "detail",
+// "group total", "report total"), then what names the groups, repeated in each row, then the columns. Figures are
+// unformatted. Headings have no row. Throws what the rows throw, and RuleError when the device takes no more.
+void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &output, Progress &progress);
+// Into a file, which keeps what it held until the report is complete; RuleError names the file.
+void saveReportCsv(const ReportLayout &layout, RowReader &rows, const QString &fileName, Progress &progress);
+
+} // namespace Tallymere::Printing

@@ -1,0 +1,35 @@
+#include "printing/reportrun.h"
+
+namespace Tallymere::Printing {
+
+ReportRun::ReportRun(Report report, QPageSize::PageSizeId size, const PageTexts &texts)
+    : m_report(std::move(report))
+    , m_paper{size, m_report.layout.landscape ? QPageLayout::Landscape : QPageLayout::Portrait}
+    , m_lines(m_report.layout, *m_report.rows)
+    , m_maker(m_report.layout, m_lines, m_paper, texts, [this](const Page &page) { m_spool.append(page); })
+{
+}
+
+bool ReportRun::makePages(QDeadlineTimer until)
+{
+    constexpr int linesBetweenLooks = 50; // at the clock
+    try {
+        while (!m_complete && !until.hasExpired()) {
+            for (int i = 0; i < linesBetweenLooks && !m_complete; ++i) {
+                ReportLine line;
+                if (m_lines.next(line)) {
+                    m_maker.add(line);
+                } else {
+                    m_maker.finish();
+                    m_complete = true;
+                }
+            }
+        }
+    } catch (...) {
+        m_complete = true;
+        throw;
+    }
+    return m_complete;
+}
+
+} // namespace Tallymere::Printing

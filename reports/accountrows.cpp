@@ -1,0 +1,57 @@
+#include "reports/accountrows.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+AccountRows::AccountRows(Engine::Database &database, const ReportDescription &report,
+                         const ReportSelection &selection)
+    : m_balances(database, report, selection)
+    , m_query(m_balances.query())
+    , m_map(report.layout, m_query)
+    , m_item(m_query.fieldIndex(u"ItemID"))
+    , m_location(m_query.fieldIndex(u"WarehouseID"))
+    , m_onHand(m_query.fieldIndex(m_location >= 0 ? u"QtyOnHand" : u"ItemQtyOnHand"))
+    , m_movements(database, selection.year, selection.period, selection.warehouseId, m_location >= 0)
+{
+}
+
+bool AccountRows::nextAccount()
+{
+    if (m_index + 1 >= m_query.recordCount())
+        return false;
+    ++m_index;
+    if (m_index >= m_readTo)
+        readMovements();
+    const int location = m_location >= 0 ? m_query.valueAt(m_index, m_location).toInt() : 0;
+    m_movementsInHand = &m_movements.of({itemAt(m_index), location});
+    return true;
+}
+
+int AccountRows::itemAt(int index) const { return m_query.valueAt(index, m_item).toInt(); }
+
+// Whole items, so that none is read twice.
+void AccountRows::readMovements()
+{
+    constexpr size_t itemsAtOnce = 64;
+    std::vector<int> items;
+    const int count = m_query.recordCount();
+    for (m_readTo = m_index; m_readTo < count; ++m_readTo) {
+        const int item = itemAt(m_readTo);
+        if (!items.empty() && items.back() == item)
+            continue;
+        if (items.size() == itemsAtOnce)
+            break;
+        items.push_back(item);
+    }
+    m_movements.read(items);
+}
+
+void AccountRows::takeBalance(std::vector<Engine::Value> &values) const
+{
+    m_map.take(m_query, m_query.rowAt(m_index), values);
+}
+
+double AccountRows::onHand() const { return m_query.valueAt(m_index, m_onHand).toDouble(); }
+
+} // namespace Tallymere

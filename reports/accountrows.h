@@ -1,0 +1,42 @@
+#pragma once
+
+#include "reports/balancequery.h"
+#include "reports/fieldmap.h"
+#include "reports/movements.h"
+
+namespace Tallymere {
+
+// The base of the reports that walk the history: the lines of the balance query, each with its movements from the
+// selection's period on. Where the query has single balances, the movements are those of the line's location.
+class AccountRows : public Printing::RowReader
+{
+public:
+    const QStringList &fields() const override { return m_map.names(); }
+
+protected:
+    AccountRows(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection);
+
+    bool nextAccount(); // false after the last
+    void
+    takeBalance(std::vector<Engine::Value> &values) const; // of the account in hand, without what is calculated
+    double onHand() const;
+    const std::vector<Movement> &movements() const { return *m_movementsInHand; }
+    size_t indexOf(const QString &field) const { return m_map.indexOf(field); }
+
+private:
+    void readMovements();
+    int itemAt(int index) const;
+
+    BalanceQuery m_balances;
+    Engine::Query &m_query;
+    FieldMap m_map;
+    int m_item;
+    int m_location; // -1: the lines are sums over locations
+    int m_onHand;
+    Movements m_movements;
+    int m_index = -1; // of the account in hand
+    int m_readTo = 0; // lines before this one have their movements read
+    const std::vector<Movement> *m_movementsInHand = nullptr;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "engine/query.h"
+#include "reports/reportdescription.h"
+
+namespace Tallymere {
+
+// The balances that a report is about, in its order: its query with the condition that the selection makes of it.
+class BalanceQuery
+{
+public:
+    BalanceQuery(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection);
+
+    Engine::Query &query() { return m_query; } // open
+
+private:
+    Engine::Query m_query;
+};
+
+// The third line of the query: "WHERE (WarehouseID = 2) AND (ItemTypeID = 7)"; empty when nothing is chosen.
+QString conditionLine(const ReportSelection &selection);
+
+} // namespace Tallymere

@@ -1,0 +1,88 @@
+#include "reports/columns.h"
+
+#include "base/formats.h"
+#include "reports/texts.h"
+
+using namespace Qt::StringLiterals;
+using Engine::Value;
+using Tallymere::Printing::Align;
+using Tallymere::Printing::Column;
+
+namespace Tallymere::Columns {
+
+namespace {
+
+// A null shows nothing; an amount beyond the range of money as the number that it is.
+Column money(const QString &field, const QString &title, double width, int mostDecimals, const QString &fraction)
+{
+    Column column{field, title, width, Align::Decimal};
+    column.display = [mostDecimals](const Value &value) {
+        static const RegionalSettings settings = RegionalSettings::system();
+        if (value.isNull())
+            return QString();
+        try {
+            return currencyText(value.toMoney(), settings, mostDecimals);
+        } catch (const std::range_error &) {
+            return value.toText();
+        }
+    };
+    column.fraction = RegionalSettings::system().decimalPoint + fraction;
+    return column;
+}
+
+} // namespace
+
+Column text(const QString &field, const QString &title, double width)
+{
+    return {.field = field, .title = title, .width = width, .wraps = true};
+}
+
+Column cutText(const QString &field, const QString &title, double width)
+{
+    return {.field = field, .title = title, .width = width};
+}
+
+Column itemNo() { return text(u"ItemNo"_s, ReportsTexts::tr("Item no."), 1.3); }
+
+Column description() { return text(u"ItemDescription"_s, ReportsTexts::tr("Description"), 3.2); }
+
+Column location() { return text(u"WarehouseName"_s, ReportsTexts::tr("Location"), 3); }
+
+Column date(const QString &field, const QString &title)
+{
+    Column column{field, title, 1.1};
+    column.display = [](const Value &value) {
+        static const RegionalSettings settings = RegionalSettings::system();
+        return dateText(value.toDate(), settings);
+    };
+    return column;
+}
+
+Column mark(const QString &field, const QString &title)
+{
+    Column column{field, title, 0.7};
+    column.display = [](const Value &value) { return value.toBool() ? ReportsTexts::tr("Yes") : QString(); };
+    return column;
+}
+
+Column quantity(const QString &field, const QString &title)
+{
+    Column column{field, title.isEmpty() ? ReportsTexts::tr("Quantity") : title, 1.15, Align::Decimal};
+    column.display = quantityFormat().display;
+    column.fraction = RegionalSettings::system().decimalPoint + u"000"_s;
+    return column;
+}
+
+Column unitCost(const QString &field, const QString &title)
+{
+    constexpr int mostDecimals = 4; // that money has; the picture "0.00###" would show five
+    return money(field, title.isEmpty() ? ReportsTexts::tr("Unit Cost") : title, 1.2, mostDecimals, u"0000"_s);
+}
+
+Column amount(const QString &field, const QString &title)
+{
+    constexpr int mostDecimals = 3;
+    return money(field, title, 1.35, mostDecimals, u"00)"_s);
+}
+
+} // namespace Tallymere::Columns

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "reports/fieldmap.h"
+#include "reports/reportdescription.h"
+
+#include <memory>
+
+namespace Tallymere {
+
+// All rows of an open data set, as filtered and in its order. The view is what the set belongs to, and lives as long as
+// the rows.
+template <typename View> class DataSetRows final : public Printing::RowReader
+{
+public:
+    DataSetRows(std::unique_ptr<View> view, Engine::DataSet &set, const Printing::ReportLayout &layout)
+        : m_view(std::move(view))
+        , m_set(set)
+        , m_map(layout, set)
+    {
+    }
+
+    const QStringList &fields() const override { return m_map.names(); }
+
+    bool next(Printing::ReportRow &row) override
+    {
+        if (m_next >= m_set.recordCount())
+            return false;
+        m_map.take(m_set, m_set.rowAt(m_next++), row.values);
+        return true;
+    }
+
+private:
+    std::unique_ptr<View> m_view;
+    Engine::DataSet &m_set;
+    FieldMap m_map;
+    int m_next = 0;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,125 @@
+#include "base/formats.h"
+#include "master/masterkinds.h"
+#include "master/masterlist.h"
+#include "reports/columns.h"
+#include "reports/datasetrows.h"
+#include "reports/reportlist.h"
+#include "reports/texts.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentlist.h"
+#include "transactions/historyview.h"
+#include "transactions/totalsview.h"
+
+using namespace Qt::StringLiterals;
+using Engine::Database;
+using Tallymere::Printing::Align;
+using Tallymere::Printing::Column;
+using Tallymere::Printing::RowReaderPtr;
+
+namespace Tallymere::ReportList {
+
+namespace {
+
+// --- where their rows come from: the rules of the lists, as the list's filter leaves them ---------------------------
+
+template <typename View>
+RowReaderPtr rowsOf(std::unique_ptr<View> view, Engine::DataSet &set, const ReportDescription &report,
+                    const ReportSelection &selection)
+{
+    view->open();
+    if (!selection.filter.isEmpty()) {
+        set.setFilter(selection.filter);
+        set.setFiltered(true);
+    }
+    return std::make_unique<DataSetRows<View>>(std::move(view), set, report.layout);
+}
+
+template <const MasterKind &(*kind)()>
+RowReaderPtr masterRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
+{
+    auto list = std::make_unique<MasterList>(database, kind());
+    Engine::DataSet &table = list->table();
+    return rowsOf(std::move(list), table, report, selection);
+}
+
+template <const DocumentKind &(*kind)()>
+RowReaderPtr documentRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
+{
+    auto list = std::make_unique<DocumentList>(database, kind());
+    list->table().setIndex(u"PeriodDateDESC"_s);
+    Engine::DataSet &table = list->table();
+    return rowsOf(std::move(list), table, report, selection);
+}
+
+RowReaderPtr historyRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
+{
+    auto view = std::make_unique<HistoryView>(database);
+    Engine::DataSet &table = view->table();
+    return rowsOf(std::move(view), table, report, selection);
+}
+
+RowReaderPtr totalsRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
+{
+    auto view = std::make_unique<TotalsView>(database);
+    Engine::DataSet &query = view->query();
+    return rowsOf(std::move(view), query, report, selection);
+}
+
+ReportDescription listReport(const QString &name, const QString &title, ReportDescription::Rows rows,
+                             const QList<Column> &columns)
+{
+    ReportDescription report;
+    report.name = name;
+    report.listText = title;
+    report.rows = rows;
+    report.layout.title = title;
+    report.layout.columns = columns;
+    return report;
+}
+
+} // namespace
+
+QList<ReportDescription> listReports()
+{
+    using namespace Columns;
+    const auto period = [] { return text(u"Periodppyyyy"_s, ReportsTexts::tr("Period"), 0.8); };
+    const auto posted = [] { return mark(u"Posted"_s, ReportsTexts::tr("Posted")); };
+    const QString date = ReportsTexts::tr("Date");
+
+    QList<ReportDescription> reports{
+        listReport(u"TrptItemTypes"_s, ReportsTexts::tr("Item Types"), masterRows<MasterKinds::itemType>,
+                   {text(u"TypeName"_s, ReportsTexts::tr("Name"), 1)}),
+        listReport(u"TrptItems"_s, ReportsTexts::tr("Items"), masterRows<MasterKinds::item>,
+                   {itemNo(), description(), unitCost(u"UnitPrice"_s, ReportsTexts::tr("Unit Price")),
+                    text(u"TaxCodes"_s, ReportsTexts::tr("Tax"), 0.6),
+                    unitCost(u"WgtAvgCost"_s, ReportsTexts::tr("Wgt Av Cost")),
+                    unitCost(u"StandardCost"_s, ReportsTexts::tr("Stnd Cost"))}),
+        listReport(u"TrptVendors"_s, ReportsTexts::tr("Vendors"), masterRows<MasterKinds::vendor>,
+                   {text(u"VendorNo"_s, ReportsTexts::tr("Vendor no."), 1),
+                    text(u"VendorName"_s, ReportsTexts::tr("Name"), 2.4),
+                    text(u"Phone"_s, ReportsTexts::tr("Phone"), 1.2),
+                    text(u"Notes"_s, ReportsTexts::tr("Notes"), 3)}),
+        listReport(u"TrptInvReceipts"_s, ReportsTexts::tr("Inventory Receipts"),
+                   documentRows<DocumentKinds::receipt>,
+                   {period(), text(u"ReceiptNo"_s, ReportsTexts::tr("Receipt no."), 1),
+                    Columns::date(u"ReceiptDate"_s, date), text(u"PurchaseOrderNo"_s, ReportsTexts::tr("PO"), 1.2),
+                    text(u"VendorName"_s, ReportsTexts::tr("Vendor"), 2.2), location(), posted()}),
+        listReport(u"TrptInvAdjustments"_s, ReportsTexts::tr("Inventory Adjustments"),
+                   documentRows<DocumentKinds::adjustment>,
+                   {period(), text(u"AdjDescription"_s, ReportsTexts::tr("Description"), 3),
+                    Columns::date(u"AdjDate"_s, date), location(), posted()}),
+        listReport(u"TrptInvHistory"_s, ReportsTexts::tr("Inventory History"), historyRows,
+                   {itemNo(), description(), Columns::date(u"TransDate"_s, date), period(),
+                    text(u"TransTypeName"_s, ReportsTexts::tr("Type"), 1.1),
+                    text(u"TransDescription"_s, ReportsTexts::tr("Description"), 2.8), quantity(u"Quantity"_s),
+                    unitCost(), text(u"WarehouseName"_s, ReportsTexts::tr("Location"), 2.6)}),
+        listReport(
+            u"TrptInvTotals"_s, ReportsTexts::tr("Inventory Totals"), totalsRows,
+            {itemNo(), description(), location(), quantity(u"QtyOnHand"_s, ReportsTexts::tr("Quantity On Hand"))}),
+    };
+    for (ReportDescription &report : reports)
+        report.layout.landscape = report.name == "TrptInvHistory"_L1;
+    return reports;
+}
+
+} // namespace Tallymere::ReportList

@@ -1,0 +1,74 @@
+#include "reports/makereport.h"
+
+#include "base/formats.h"
+#include "base/ruleerror.h"
+#include "data/datamodule.h"
+#include "engine/query.h"
+#include "reports/texts.h"
+
+#include <QTime>
+
+using namespace Qt::StringLiterals;
+using Engine::Value;
+
+namespace Tallymere {
+
+namespace {
+
+QString nameOf(Engine::Database &database, const QString &statement, int key, const QString &gone)
+{
+    const Value name = Engine::singleValue(database, statement, {key});
+    if (name.isNull())
+        throw RuleError(gone.arg(key));
+    return name.toText();
+}
+
+QString selectionHeading(Engine::Database &database, const ReportSelection &selection)
+{
+    QString heading;
+    if (selection.warehouseId > 0)
+        heading = ReportsTexts::tr("Location: %1")
+                      .arg(nameOf(database, u"SELECT WarehouseName FROM Warehse WHERE WarehouseID = ?"_s,
+                                  selection.warehouseId, ReportsTexts::tr("There is no location %1")));
+    if (selection.itemTypeId > 0) {
+        const QString type = ReportsTexts::tr("Type: %1")
+                                 .arg(nameOf(database, u"SELECT TypeName FROM ItemType WHERE ItemTypeID = ?"_s,
+                                             selection.itemTypeId, ReportsTexts::tr("There is no item type %1")));
+        heading = heading.isEmpty() ? type : heading + "     "_L1 + type;
+    }
+    return heading;
+}
+
+QString periodHeading(const ReportSelection &selection)
+{
+    return ReportsTexts::tr("Period: %1/%2").arg(selection.period, 2, 10, '0'_L1).arg(selection.year);
+}
+
+} // namespace
+
+Printing::Report makeReport(TDataModuleTallymere &data, const ReportDescription &report,
+                            const ReportSelection &selection)
+{
+    Engine::Database &database = data.databaseTallymere();
+    Printing::Report made{report.layout, nullptr};
+    made.layout.headings = {selectionHeading(database, selection)};
+    if (report.parameters.period)
+        made.layout.headings.append(periodHeading(selection));
+    made.rows = report.rows(database, report, selection);
+    return made;
+}
+
+std::unique_ptr<Printing::ReportRun> runReport(TDataModuleTallymere &data, const ReportDescription &report,
+                                               const ReportSelection &selection)
+{
+    data.tblCompany().refresh();
+    const RegionalSettings settings = RegionalSettings::system();
+    const QString time = settings.locale.toString(QTime::currentTime(), u"HH:mm"_s);
+    const Printing::PageTexts texts{
+        data.tblCompany().text(u"CompanyName"),
+        ReportsTexts::tr("Printed at %1 %2").arg(dateText(data.today(), settings), time)};
+    return std::make_unique<Printing::ReportRun>(makeReport(data, report, selection),
+                                                 data.quickReportA4() ? QPageSize::A4 : QPageSize::Letter, texts);
+}
+
+} // namespace Tallymere

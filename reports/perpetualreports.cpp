@@ -1,0 +1,189 @@
+#include "reports/columns.h"
+#include "reports/perpetualrows.h"
+#include "reports/reportlist.h"
+#include "reports/texts.h"
+
+using namespace Qt::StringLiterals;
+using Tallymere::Printing::Column;
+using Tallymere::Printing::Group;
+using Tallymere::Printing::TotalOf;
+
+namespace Tallymere::ReportList {
+
+namespace {
+
+// --- what the reports have alike -----------------------------------------------------------------------------------
+
+const QString item = u"I.ItemNo, I.ItemDescription"_s;
+const QString itemAndType = item + u", I.ItemTypeID, T.TypeName"_s;
+const QString fromItems = u"FROM IBalance B LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID "_s;
+const QString withTypes = u"LEFT OUTER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID "_s;
+const QString withLocations = u"LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID "_s;
+
+QStringList itemQuery(const QString &columns, const QString &joins = {})
+{
+    return {u"SELECT B.ItemID, Sum(B.QtyOnHand) ItemQtyOnHand, "_s + columns,
+            fromItems + joins,
+            {},
+            u"GROUP BY B.ItemID, "_s + columns};
+}
+
+QStringList balancesQuery(const QString &columns, const QString &joins = {})
+{
+    return {u"SELECT B.ItemID, B.WarehouseID, B.QtyOnHand, W.WarehouseName, "_s + columns,
+            fromItems + joins + withLocations,
+            {}};
+}
+
+// The opening row names the account: the item, or below its heading the location.
+QList<Column> movementColumns(bool byLocation)
+{
+    Column number = Columns::itemNo();
+    number.inDetail = false;
+    Column description = Columns::description();
+    description.width = 2.2;
+    description.inDetail = false;
+    description.opening.field = byLocation ? u"WarehouseName"_s : description.field;
+    if (!byLocation)
+        number.opening.field = number.field;
+    Column about = Columns::text(u"TransDescription"_s, ReportsTexts::tr("Description"), 2.9);
+    about.opening.text = ReportsTexts::tr("Opening Balance:");
+    Column balance = Columns::quantity(u"Balance"_s, ReportsTexts::tr("Balance"));
+    balance.opening.field = balance.field;
+    return {number,
+            description,
+            Columns::text(u"TransTypeName"_s, ReportsTexts::tr("Type"), 1.2),
+            Columns::date(u"TransDate"_s, ReportsTexts::tr("Date")),
+            about,
+            Columns::quantity(u"Quantity"_s),
+            balance};
+}
+
+QList<Column> summaryColumns()
+{
+    return {Columns::itemNo(),
+            Columns::description(),
+            Columns::quantity(u"OpeningBalance"_s, ReportsTexts::tr("Opening Balance")),
+            Columns::quantity(u"Receipts"_s, ReportsTexts::tr("Receipts")),
+            Columns::quantity(u"Adjustments"_s, ReportsTexts::tr("Adjustments")),
+            Columns::quantity(u"Sales"_s, ReportsTexts::tr("Sales")),
+            Columns::quantity(u"ClosingBalance"_s, ReportsTexts::tr("Closing Balance"))};
+}
+
+Group itemGroup() { return {u"ItemID"_s, {u"ItemNo"_s, u"ItemDescription"_s}}; }
+Group itemGroupWithTotal()
+{
+    Group group = itemGroup();
+    group.heading = true;
+    group.totalText = ReportsTexts::tr("Closing balance %1");
+    return group;
+}
+Group locationGroup() { return {u"WarehouseID"_s, {u"WarehouseName"_s}}; }
+Group typeGroup(const QString &totalText) { return {u"ItemTypeID"_s, {u"TypeName"_s}, true, totalText}; }
+
+ReportDescription perpetualReport(const QString &name, const QString &listText, const QString &title)
+{
+    ReportDescription report;
+    report.name = name;
+    report.listText = listText;
+    report.parameters.period = true;
+    report.rows = perpetualRows;
+    report.layout.title = title;
+    return report;
+}
+
+// --- the reports ---------------------------------------------------------------------------------------------------
+
+ReportDescription byItem()
+{
+    ReportDescription report = perpetualReport(u"TrptPerpetualByItem"_s, ReportsTexts::tr("Perpetual by Item"),
+                                               ReportsTexts::tr("Perpetual Inventory by Item"));
+    report.parameters = {.location = true, .itemType = true, .period = true};
+    report.query = itemQuery(item);
+    report.order = {u"I.ItemNo"_s};
+    report.layout.columns = movementColumns(false);
+    report.layout.groups = {itemGroup()};
+    return report;
+}
+
+ReportDescription byItemWhse()
+{
+    ReportDescription report =
+        perpetualReport(u"TrptPerpetualByItemWhse"_s, ReportsTexts::tr("Perpetual by Item /Location"),
+                        ReportsTexts::tr("Perpetual Inventory by Item /Location"));
+    report.parameters.itemType = true;
+    report.query = balancesQuery(item);
+    report.order = {u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
+    report.keyFields = u"ItemID;WarehouseID"_s;
+    report.layout.columns = movementColumns(true);
+    report.layout.groups = {itemGroupWithTotal(), locationGroup()};
+    report.layout.totals = {{u"Balance"_s, TotalOf::Closing}};
+    return report;
+}
+
+ReportDescription byTypeItem()
+{
+    ReportDescription report =
+        perpetualReport(u"TrptPerpetualByTypeItem"_s, ReportsTexts::tr("Perpetual by Type /Item"),
+                        ReportsTexts::tr("Perpetual Inventory by Type /Item"));
+    report.parameters.location = true;
+    report.query = itemQuery(itemAndType, withTypes);
+    report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
+    report.layout.columns = movementColumns(false);
+    report.layout.groups = {typeGroup(ReportsTexts::tr("Closing balance %1")), itemGroup()};
+    report.layout.totals = {{u"Balance"_s, TotalOf::Closing}};
+    return report;
+}
+
+ReportDescription byTypeItemWhse()
+{
+    ReportDescription report =
+        perpetualReport(u"TrptPerpetualByTypeItemWhse"_s, ReportsTexts::tr("Perpetual by Type /Item /Location"),
+                        ReportsTexts::tr("Perpetual Inventory by Type /Item /Location"));
+    report.query = balancesQuery(itemAndType, withTypes);
+    report.order = {u"TypeName"_s, u"ItemTypeID"_s, u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
+    report.keyFields = u"ItemID;WarehouseID"_s;
+    report.layout.columns = movementColumns(true);
+    report.layout.groups = {typeGroup(ReportsTexts::tr("Closing balance %1")), itemGroupWithTotal(),
+                            locationGroup()};
+    report.layout.totals = {{u"Balance"_s, TotalOf::Closing}};
+    return report;
+}
+
+ReportDescription summaryByItem()
+{
+    ReportDescription report =
+        perpetualReport(u"TrptPerpetualSummaryByItem"_s, ReportsTexts::tr("Perpetual Summary by Item"),
+                        ReportsTexts::tr("Perpetual Inventory Summary by Item"));
+    report.parameters = {.location = true, .itemType = true, .period = true};
+    report.rows = perpetualSummaryRows;
+    report.query = itemQuery(item);
+    report.order = {u"I.ItemNo"_s};
+    report.layout.columns = summaryColumns();
+    return report;
+}
+
+ReportDescription summaryByTypeItem()
+{
+    ReportDescription report =
+        perpetualReport(u"TrptPerpetualSummaryByTypeItem"_s, ReportsTexts::tr("Perpetual Summary by Type /Item"),
+                        ReportsTexts::tr("Perpetual Inventory Summary by Type /Item"));
+    report.parameters.location = true;
+    report.rows = perpetualSummaryRows;
+    report.query = itemQuery(itemAndType, withTypes);
+    report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
+    report.layout.columns = summaryColumns();
+    report.layout.groups = {typeGroup(ReportsTexts::tr("Total %1"))};
+    for (qsizetype i = 2; i < report.layout.columns.size(); ++i)
+        report.layout.totals.append({report.layout.columns[i].field, TotalOf::Quantities});
+    return report;
+}
+
+} // namespace
+
+QList<ReportDescription> perpetualReports()
+{
+    return {byItem(), byItemWhse(), byTypeItem(), byTypeItemWhse(), summaryByItem(), summaryByTypeItem()};
+}
+
+} // namespace Tallymere::ReportList

@@ -1,0 +1,139 @@
+#include "reports/perpetualrows.h"
+
+#include "data/transtypes.h"
+#include "reports/accountrows.h"
+
+using namespace Qt::StringLiterals;
+using Engine::Value;
+using Tallymere::Printing::ReportRow;
+using Tallymere::Printing::RowKind;
+
+namespace Tallymere {
+
+namespace {
+
+class PerpetualRows final : public AccountRows
+{
+public:
+    PerpetualRows(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection)
+        : AccountRows(database, report, selection)
+        , m_type(indexOf(u"TransTypeName"_s))
+        , m_date(indexOf(u"TransDate"_s))
+        , m_description(indexOf(u"TransDescription"_s))
+        , m_quantity(indexOf(u"Quantity"_s))
+        , m_balance(indexOf(u"Balance"_s))
+    {
+    }
+
+    bool next(ReportRow &row) override
+    {
+        if (m_inAccount && m_next < movements().size()) {
+            row.kind = RowKind::Detail;
+            showMovement(movements()[m_next++], row.values);
+            return true;
+        }
+        if (!nextAccount())
+            return false;
+        m_inAccount = true;
+        m_next = 0;
+        m_running = onHand();
+        for (const Movement &movement : movements())
+            m_running -= movement.change();
+        row.kind = RowKind::Opening;
+        takeBalance(row.values);
+        row.values[m_balance] = m_running;
+        return true;
+    }
+
+private:
+    void showMovement(const Movement &movement, std::vector<Value> &values)
+    {
+        m_running += movement.change();
+        takeBalance(values);
+        values[m_type] = transTypeText(movement.type);
+        values[m_date] = movement.date;
+        values[m_description] = movement.description;
+        values[m_quantity] = movement.quantity;
+        values[m_balance] = m_running;
+    }
+
+    size_t m_type;
+    size_t m_date;
+    size_t m_description;
+    size_t m_quantity;
+    size_t m_balance;
+    bool m_inAccount = false;
+    size_t m_next = 0; // movement
+    double m_running = 0;
+};
+
+class SummaryRows final : public AccountRows
+{
+public:
+    SummaryRows(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection)
+        : AccountRows(database, report, selection)
+        , m_selection(selection)
+    {
+    }
+
+    bool next(ReportRow &row) override
+    {
+        if (!nextAccount())
+            return false;
+        takeBalance(row.values);
+        double receipts = 0;
+        double adjustments = 0;
+        double sales = 0;
+        double closing = onHand();
+        for (const Movement &movement : movements()) {
+            if (movement.year != m_selection.year || movement.period != m_selection.period) {
+                closing -= movement.change();
+                continue;
+            }
+            switch (static_cast<TransType>(movement.type)) {
+            case TransType::Adjust:
+                adjustments += movement.quantity;
+                break;
+            case TransType::PoReceipt:
+                receipts += movement.quantity;
+                break;
+            case TransType::Sale:
+            case TransType::Usage:
+                sales += movement.quantity;
+                break;
+            default:
+                break;
+            }
+        }
+        row.values[m_receipts] = receipts;
+        row.values[m_adjustments] = adjustments;
+        row.values[m_sales] = sales;
+        row.values[m_closing] = closing;
+        row.values[m_opening] = closing - receipts - adjustments + sales;
+        return true;
+    }
+
+private:
+    const ReportSelection m_selection;
+    const size_t m_opening = indexOf(u"OpeningBalance"_s);
+    const size_t m_receipts = indexOf(u"Receipts"_s);
+    const size_t m_adjustments = indexOf(u"Adjustments"_s);
+    const size_t m_sales = indexOf(u"Sales"_s);
+    const size_t m_closing = indexOf(u"ClosingBalance"_s);
+};
+
+} // namespace
+
+Printing::RowReaderPtr perpetualRows(Engine::Database &database, const ReportDescription &report,
+                                     const ReportSelection &selection)
+{
+    return std::make_unique<PerpetualRows>(database, report, selection);
+}
+
+Printing::RowReaderPtr perpetualSummaryRows(Engine::Database &database, const ReportDescription &report,
+                                            const ReportSelection &selection)
+{
+    return std::make_unique<SummaryRows>(database, report, selection);
+}
+
+} // namespace Tallymere

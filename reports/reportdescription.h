@@ -1,0 +1,52 @@
+#pragma once
+
+#include "printing/reportlayout.h"
+#include "printing/rowreader.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace Engine {
+class Database;
+}
+
+namespace Tallymere {
+
+// What a report is asked for; 0 or empty: not chosen.
+struct ReportSelection
+{
+    int warehouseId = 0;
+    int itemTypeId = 0;
+    int period = 0; // the first one reported, in
+    int year = 0; // this fiscal year
+    QString filter{}; // the filter expression of the list that is printed
+};
+
+// A report: where its rows come from and what they look like on paper. All reports are such descriptions
+// (valuereports.cpp, perpetualreports.cpp, listreports.cpp); what they are made of does the rest.
+struct ReportDescription
+{
+    // What it can be asked for.
+    struct Parameters
+    {
+        bool location = false;
+        bool itemType = false;
+        bool period = false;
+    };
+    using Rows = Printing::RowReaderPtr (*)(Engine::Database &, const ReportDescription &, const ReportSelection &);
+
+    QString name; // "TrptValueByItem"
+    QString listText; // as the wizard offers it and the command line calls it: "Value by Item"
+    Parameters parameters{};
+    Rows rows = nullptr;
+    // Of the reports on balances: the lines of the query, of which the third takes the condition, and its order by
+    // columns of the result. With key fields its rows are fetched as they are needed, else read at once.
+    QStringList query{};
+    QStringList order{};
+    QString keyFields{};
+    Printing::ReportLayout layout;
+
+    bool isOfBalances() const { return !query.isEmpty(); }
+};
+
+} // namespace Tallymere

@@ -1,0 +1,159 @@
+#include "base/formats.h"
+#include "reports/columns.h"
+#include "reports/reportlist.h"
+#include "reports/texts.h"
+#include "reports/valuerows.h"
+
+using namespace Qt::StringLiterals;
+using Tallymere::Printing::Align;
+using Tallymere::Printing::Column;
+using Tallymere::Printing::Group;
+using Tallymere::Printing::Total;
+using Tallymere::Printing::TotalOf;
+
+namespace Tallymere::ReportList {
+
+namespace {
+
+// --- what the reports have alike -----------------------------------------------------------------------------------
+
+const QString itemCosts = u"I.ItemNo, I.ItemDescription, I.ItemTypeID, I.StandardCost, I.WgtAvgCost"_s;
+const QString fromItems = u"FROM IBalance B LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID "_s;
+const QString withTypes = u"LEFT OUTER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID "_s;
+const QString withLocations = u"LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID "_s;
+const QString withAccounts = u"LEFT OUTER JOIN GLAccnt G ON I.InventoryGLAccountID = G.GLAccountID "_s;
+
+// A line for each item, over all locations that are asked for.
+QStringList itemQuery(const QString &more = {}, const QString &joins = {})
+{
+    return {u"SELECT B.ItemID, Sum(B.QtyOnHand) ItemQtyOnHand, "_s + itemCosts + more,
+            fromItems + joins,
+            {},
+            u"GROUP BY B.ItemID, "_s + itemCosts + more};
+}
+
+// A line for each item and location.
+QStringList balancesQuery(const QString &more = {}, const QString &joins = {})
+{
+    return {u"SELECT B.ItemID, B.WarehouseID, B.QtyOnHand, W.WarehouseName, "_s + itemCosts + more,
+            fromItems + joins + withLocations,
+            {}};
+}
+
+QList<Column> itemColumns()
+{
+    return {Columns::itemNo(), Columns::description(), Columns::quantity(u"ItemQtyOnHand"_s), Columns::unitCost(),
+            Columns::amount(u"ItemValue"_s, ReportsTexts::tr("Value"))};
+}
+
+QList<Column> balanceColumns()
+{
+    return {Columns::location(), Columns::quantity(u"QtyOnHand"_s), Columns::unitCost(),
+            Columns::amount(u"ItemWhseValue"_s, ReportsTexts::tr("Value"))};
+}
+
+Group itemGroup() { return {u"ItemID"_s, {u"ItemNo"_s, u"ItemDescription"_s}, true, ReportsTexts::tr("Total %1")}; }
+
+Group typeGroup(bool heading = true)
+{
+    return {u"ItemTypeID"_s, {u"TypeName"_s}, heading, heading ? ReportsTexts::tr("Total %1") : u"%1"_s};
+}
+
+ReportDescription valueReport(const QString &name, const QString &listText,
+                              ReportDescription::Parameters parameters)
+{
+    ReportDescription report;
+    report.name = name;
+    report.listText = listText;
+    report.parameters = parameters;
+    report.rows = valueRows;
+    report.layout.title = ReportsTexts::tr("Inventory %1").arg(listText);
+    report.layout.totals = {{u"ItemValue"_s, TotalOf::Amounts}};
+    report.layout.reportTotalText = ReportsTexts::tr("Total");
+    return report;
+}
+
+// --- the reports ---------------------------------------------------------------------------------------------------
+
+ReportDescription byItem()
+{
+    ReportDescription report =
+        valueReport(u"TrptValueByItem"_s, ReportsTexts::tr("Value by Item"), {.location = true, .itemType = true});
+    report.query = itemQuery();
+    report.order = {u"I.ItemNo"_s};
+    report.layout.columns = itemColumns();
+    return report;
+}
+
+ReportDescription byItemWhse()
+{
+    ReportDescription report =
+        valueReport(u"TrptValueByItemWhse"_s, ReportsTexts::tr("Value by Item /Location"), {.itemType = true});
+    report.query = balancesQuery();
+    report.order = {u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
+    report.keyFields = u"ItemID;WarehouseID"_s;
+    report.layout.columns = balanceColumns();
+    report.layout.groups = {itemGroup()};
+    report.layout.totals = {{u"QtyOnHand"_s, TotalOf::Quantities}, {u"ItemWhseValue"_s, TotalOf::Amounts}};
+    return report;
+}
+
+ReportDescription byTypeItem()
+{
+    ReportDescription report =
+        valueReport(u"TrptValueByTypeItem"_s, ReportsTexts::tr("Value by Type /Item"), {.location = true});
+    report.query = itemQuery(u", T.TypeName"_s, withTypes);
+    report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
+    report.layout.columns = itemColumns();
+    report.layout.groups = {typeGroup()};
+    return report;
+}
+
+// Only what the types sum up to is printed.
+ReportDescription byType()
+{
+    ReportDescription report = byTypeItem();
+    report.name = u"TrptValueByType"_s;
+    report.listText = ReportsTexts::tr("Value by Type");
+    report.layout.title = ReportsTexts::tr("Inventory Value by Type");
+    report.layout.columns = {Columns::text(u"TypeName"_s, ReportsTexts::tr("Item Type"), 4),
+                             Columns::amount(u"ItemValue"_s, ReportsTexts::tr("Value"))};
+    report.layout.groups = {typeGroup(false)};
+    report.layout.details = false;
+    return report;
+}
+
+ReportDescription byTypeItemWhse()
+{
+    ReportDescription report =
+        valueReport(u"TrptValueByTypeItemWhse"_s, ReportsTexts::tr("Value by Type /Item /Location"), {});
+    report.query = balancesQuery(u", T.TypeName"_s, withTypes);
+    report.order = {u"TypeName"_s, u"ItemTypeID"_s, u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
+    report.keyFields = u"ItemID;WarehouseID"_s;
+    report.layout.columns = balanceColumns();
+    report.layout.groups = {typeGroup(), itemGroup()};
+    report.layout.totals = {{u"ItemWhseValue"_s, TotalOf::Amounts}};
+    return report;
+}
+
+ReportDescription byGLAccountItem()
+{
+    ReportDescription report = valueReport(u"TrptValueByGLAccountItem"_s,
+                                           ReportsTexts::tr("Value by GL Account /Item"), {.location = true});
+    report.query = itemQuery(u", I.InventoryGLAccountID, T.CostingMethod, G.GLAccount, G.AccountName"_s,
+                             withTypes + withAccounts);
+    report.order = {u"G.GLAccount"_s, u"I.InventoryGLAccountID"_s, u"I.ItemNo"_s};
+    report.layout.columns = itemColumns();
+    report.layout.groups = {
+        {u"InventoryGLAccountID"_s, {u"GLAccount"_s, u"AccountName"_s}, true, ReportsTexts::tr("Total %1")}};
+    return report;
+}
+
+} // namespace
+
+QList<ReportDescription> valueReports()
+{
+    return {byItem(), byItemWhse(), byType(), byTypeItem(), byTypeItemWhse(), byGLAccountItem()};
+}
+
+} // namespace Tallymere::ReportList

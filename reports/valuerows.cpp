@@ -1,0 +1,109 @@
+#include "reports/valuerows.h"
+
+#include "base/calchelpers.h"
+#include "base/ruleerror.h"
+#include "engine/database.h"
+#include "reports/balancequery.h"
+#include "reports/fieldmap.h"
+#include "reports/texts.h"
+
+#include <optional>
+#include <QHash>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+using Engine::Money;
+
+namespace Tallymere {
+
+namespace {
+
+// Costing methods by the keys of item types.
+QHash<int, int> readCostingMethods(Engine::Database &database)
+{
+    Engine::Query types(database, u"SELECT ItemTypeID, CostingMethod FROM ItemType"_s);
+    QHash<int, int> methods;
+    for (types.open(); !types.atEnd(); types.next())
+        methods.insert(types.integer(u"ItemTypeID"), types.integer(u"CostingMethod"));
+    return methods;
+}
+
+class ValueRows final : public Printing::RowReader
+{
+public:
+    ValueRows(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection)
+        : m_balances(database, report, selection)
+        , m_query(m_balances.query())
+        , m_map(report.layout, m_query)
+        , m_byLocation(m_query.fieldIndex(u"QtyOnHand") >= 0)
+        , m_quantity(m_query.fieldIndex(m_byLocation ? u"QtyOnHand" : u"ItemQtyOnHand"))
+        , m_standardCost(m_query.fieldIndex(u"StandardCost"))
+        , m_averageCost(m_query.fieldIndex(u"WgtAvgCost"))
+        , m_itemType(m_query.fieldIndex(u"ItemTypeID"))
+        , m_method(m_query.fieldIndex(u"CostingMethod"))
+        , m_unitCostAt(m_map.names().indexOf(u"UnitCost"_s))
+        , m_valueAt(m_map.indexOf(m_byLocation ? u"ItemWhseValue"_s : u"ItemValue"_s))
+    {
+        if (m_method < 0)
+            m_methods = readCostingMethods(database);
+    }
+
+    const QStringList &fields() const override { return m_map.names(); }
+
+    bool next(Printing::ReportRow &row) override
+    {
+        if (m_next >= m_query.recordCount())
+            return false;
+        const Engine::Row &balance = m_query.rowAt(m_next++);
+        m_map.take(m_query, balance, row.values);
+        const Money cost = unitCost(balance);
+        if (m_unitCostAt >= 0)
+            row.values[static_cast<size_t>(m_unitCostAt)] = cost;
+        row.values[m_valueAt] = valueOf(balance, cost);
+        return true;
+    }
+
+private:
+    Money unitCost(const Engine::Row &balance) const
+    {
+        constexpr int standard = 2;
+        const int method = m_method >= 0 ? m_query.valueIn(balance, m_method).toInt()
+                                         : m_methods.value(m_query.valueIn(balance, m_itemType).toInt());
+        return m_query.valueIn(balance, method == standard ? m_standardCost : m_averageCost).toMoney();
+    }
+
+    Money valueOf(const Engine::Row &balance, Money cost) const
+    {
+        const double quantity = m_query.valueIn(balance, m_quantity).toDouble();
+        try {
+            return toCents(quantity * cost.toLongDouble());
+        } catch (const std::range_error &) {
+            throw RuleError(ReportsTexts::tr("The value of item '%1' is beyond what an amount of money can be")
+                                .arg(m_query.valueIn(balance, m_query.fieldIndex(u"ItemNo")).toText()));
+        }
+    }
+
+    BalanceQuery m_balances;
+    Engine::Query &m_query;
+    FieldMap m_map;
+    bool m_byLocation;
+    int m_quantity;
+    int m_standardCost;
+    int m_averageCost;
+    int m_itemType;
+    int m_method; // -1: looked up by the item's type
+    qsizetype m_unitCostAt; // -1: not shown
+    size_t m_valueAt;
+    QHash<int, int> m_methods;
+    int m_next = 0;
+};
+
+} // namespace
+
+Printing::RowReaderPtr valueRows(Engine::Database &database, const ReportDescription &report,
+                                 const ReportSelection &selection)
+{
+    return std::make_unique<ValueRows>(database, report, selection);
+}
+
+} // namespace Tallymere
