@@ -38,6 +38,7 @@ TDataModuleTallymere::TDataModuleTallymere(SettingsStore &settings, Prompts &pro
 {
     m_session.onStartup = [this](Engine::Session &session) { startSession(session); };
     m_session.waitFor = m_options.waitFor;
+    m_session.clock = m_options.clock;
     m_session.tableTitle = Layouts::titleOf;
     m_database.onBeforeConnect = [this](Engine::Database &database) { beforeConnect(database); };
     m_database.createIfMissing = m_options.createDatabase;

@@ -26,7 +26,7 @@ struct DataModuleOptions
     bool createDatabase = false; // makes the file, or the database on the server, when it is missing
     QString currentUser{};
     std::function<void(std::chrono::milliseconds)> waitFor{}; // how lock retries pause; see Engine::Session
-    std::function<QDate()> today{}; // empty: the system's clock
+    std::function<QDateTime()> clock{}; // see Engine::Session
     QLocale locale = QLocale::system(); // names the first currency where the host's configuration does not
     std::function<void(Engine::Database &)> prepareHost{}; // runs once connected, before any table is looked for
     // The last step: looks the current printer up and says whether its paper is A4; nothing when there is none. Whatever
@@ -73,7 +73,7 @@ public:
     const QString &cMode() const { return m_mode; } // "C" for client/server; anything else is file server
     const QString &currentUser() const { return m_currentUser; }
     void setCurrentUser(const QString &user);
-    QDate today() const { return m_options.today ? m_options.today() : QDate::currentDate(); }
+    QDate today() const { return m_session.today(); }
 
 private:
     void start();

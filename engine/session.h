@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <functional>
+#include <QDateTime>
 #include <QString>
 
 namespace Engine {
@@ -46,6 +47,12 @@ public:
     std::chrono::milliseconds serverLockWait{400};
     // Called for each pause instead of sleeping, so that a screen can stay alive. Empty: sleep.
     std::function<void(std::chrono::milliseconds)> waitFor;
+
+    // The time of all that works with its databases: dates of new documents, periods proposed, notes of what was done.
+    // Empty: the system's.
+    std::function<QDateTime()> clock;
+    QDateTime now() const { return clock ? clock() : QDateTime::currentDateTime(); }
+    QDate today() const { return now().date(); }
 
     void start(); // runs onStartup unless that has been done
     void pause() const { pause(lockPause); }

@@ -3,9 +3,9 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/seeds.h"
+#include "engine/database.h"
+#include "engine/session.h"
 #include "master/texts.h"
-
-#include <QDate>
 
 using namespace Qt::StringLiterals;
 
@@ -54,7 +54,7 @@ void formatFields(Engine::Table &company)
 // Name and address are the host's, in a first record as in every other.
 void preset(Engine::Table &company)
 {
-    company.setDefault(u"FiscalYear", QDate::currentDate().year());
+    company.setDefault(u"FiscalYear", company.database().session().today().year());
     Engine::Table config(company.database(), u"Config"_s);
     config.open();
     Seeds::presetOrganization(company, config);

@@ -3,7 +3,6 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/fiscalperiod.h"
-#include "engine/database.h"
 #include "engine/error.h"
 #include "engine/query.h"
 #include "transactions/texts.h"
@@ -18,8 +17,7 @@ using Engine::Value;
 namespace Tallymere {
 
 DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const DocumentKind &kind)
-    : today(&QDate::currentDate)
-    , numbers(numbersAtOnce(database))
+    : numbers(numbersAtOnce(database))
     , m_kind(kind)
     , m_prompts(prompts)
     , m_header(database, m_kind.headerTable)

@@ -2,11 +2,11 @@
 
 #include "base/prompts.h"
 #include "data/numbercounter.h"
+#include "engine/database.h"
+#include "engine/session.h"
 #include "engine/table.h"
 #include "transactions/documentkind.h"
 #include "transactions/documentvisit.h"
-
-#include <functional>
 
 namespace Tallymere {
 
@@ -31,8 +31,6 @@ public:
     DocumentEntry(const DocumentEntry &) = delete;
     DocumentEntry &operator=(const DocumentEntry &) = delete;
 
-    // Today, for the defaults of a new document. Tests set it.
-    std::function<QDate()> today;
     // Where the numbers of a new document come from; at once from their counters unless set.
     NumberSource numbers;
 
@@ -92,6 +90,7 @@ protected:
 
     Engine::Database &database() const { return m_header.database(); }
     Prompts &prompts() const { return m_prompts; }
+    QDate today() const { return database().session().today(); }
 
     // --- what the kinds of documents do differently ----------------------------------------------------------
     virtual void configureFields(); // labels, formats and checks of fields, once the tables are open

@@ -1,6 +1,8 @@
 #include "transactions/stockcount.h"
 
 #include "base/ruleerror.h"
+#include "engine/database.h"
+#include "engine/session.h"
 #include "transactions/texts.h"
 
 #include <exception>
@@ -113,7 +115,7 @@ void StockCount::keepDraft()
     if (!hasCounts())
         return dropDraft();
     try {
-        m_drafts->save(m_location, {QDateTime::currentDateTime(), m_date, m_zeroCounts, m_list.counts()});
+        m_drafts->save(m_location, {m_database.session().now(), m_date, m_zeroCounts, m_list.counts()});
     } catch (const RuleError &error) {
         m_draftFailure = error.message();
     }

@@ -4,6 +4,7 @@
 #include "base/ruleerror.h"
 #include "engine/lockmanager.h"
 #include "engine/query.h"
+#include "engine/session.h"
 #include "engine/table.h"
 #include "engine/tablelocks.h"
 #include "transactions/texts.h"
@@ -78,7 +79,7 @@ void UsageDeletion::leaveNote(const QString &user)
     Engine::Table history(m_database, u"History"_s);
     history.open();
     history.append();
-    history.set(u"Tran_Date", QDateTime::currentDateTime());
+    history.set(u"Tran_Date", m_database.session().now());
     history.set(u"Event_Date", m_date);
     history.set(u"Event", TransactionsTexts::tr("Unposted usages with date of %1 deleted.").arg(m_dateText));
     history.set(u"User", user);

@@ -36,7 +36,7 @@ protected:
             options.dataFolder = store.directory();
         else
             options.server = u"127.0.0.1"_s, options.serverDatabase = store.remoteName();
-        options.today = [] { return QDate(2026, 11, 24); };
+        options.clock = [] { return QDate(2026, 11, 24).startOfDay(); };
         return std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
     }
 

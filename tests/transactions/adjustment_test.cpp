@@ -17,7 +17,7 @@ TEST_P(Adjustments, AreEnteredCheckedAndPostedWithTheirSign)
         u"UPDATE ItemType SET Inventory = false; INSERT INTO ItemCtl (NextInvAdjustmentID) VALUES (7)"_s);
     kitchen.setStock(1, 1, 3, 2.5);
     AdjustmentEntry entry(kitchen.database(), prompts);
-    entry.today = [] { return QDate(2026, 3, 14); };
+    kitchen.session().clock = [] { return QDate(2026, 3, 14).startOfDay(); };
     entry.open();
     entry.newDocument();
     EXPECT_EQ(refusalOf([&] { entry.save(); }), u"Location no longer exists -> WarehouseID"_s);

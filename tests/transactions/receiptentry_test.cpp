@@ -36,7 +36,7 @@ protected:
     Entry()
         : entry(kitchen.database(), prompts)
     {
-        entry.today = [] { return QDate(2026, 8, 9); };
+        kitchen.session().clock = [] { return QDate(2026, 8, 9).startOfDay(); };
         entry.open();
     }
 

@@ -20,7 +20,7 @@ protected:
             "UPDATE Item SET StandardCost = 4, WgtAvgCost = 1.25;"
             "UPDATE Item SET WgtAvgCost = 10 WHERE ItemID = 2;"
             "UPDATE Item SET ItemTypeID = 3 WHERE ItemID = 4"_s);
-        entry.today = [] { return QDate(2026, 8, 9); };
+        kitchen.session().clock = [] { return QDate(2026, 8, 9).startOfDay(); };
         entry.open();
     }
     void addLine(double quantity, int item)

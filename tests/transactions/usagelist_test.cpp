@@ -18,6 +18,7 @@ class UsageList : public KitchenTest
 protected:
     UsageList()
     {
+        kitchen.session().clock = [] { return QDateTime(QDate(2026, 3, 20), QTime(17, 30)); };
         HostTables::createHostTables(kitchen.database(), u"Test Kitchen"_s, u"USA"_s);
         kitchen.execute(u"INSERT INTO IUsage (UsageID, UsageNo, InventoryDate, Posted) VALUES "
                         "(1, '11', '2026-03-14', false), (2, '12', '2026-03-14', false), "
@@ -33,7 +34,7 @@ protected:
         return kitchen.rows(u"SELECT U.UsageID FROM IUsage U INNER JOIN IUsageDet L ON U.UsageID = L.UsageID "
                             "ORDER BY 1"_s);
     }
-    QStringList notes() { return kitchen.rows(uR"(SELECT Event_Date, Event, "user" FROM History)"_s); }
+    QStringList notes() { return kitchen.rows(uR"(SELECT Tran_Date, Event_Date, Event, "user" FROM History)"_s); }
 };
 ON_BOTH_STORES(UsageList);
 
@@ -53,7 +54,9 @@ TEST_P(UsageList, DeletesWhatIsUnpostedOfADateAndLeavesANote)
     EXPECT_EQ(prompts.said, (QStringList{none.arg(16), question, question, none.arg(14)}));
     EXPECT_EQ(left(), (QStringList{u"3"_s, u"4"_s}));
     EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IUsageDet"_s), 2);
-    EXPECT_EQ(notes(), QStringList(u"2026-03-14|Unposted usages with date of 03/14/2026 deleted.|anna"_s));
+    EXPECT_EQ(
+        notes(),
+        QStringList(u"2026-03-20 17:30:00|2026-03-14|Unposted usages with date of 03/14/2026 deleted.|anna"_s));
 }
 
 TEST_P(UsageList, DeletesNothingOfADateWhileOneIsEdited)

@@ -1,11 +1,11 @@
 #include "transactions/screens/invhistoryfilter.h"
 
 #include "controls/optionalnumber.h"
+#include "data/datamodule.h"
 #include "data/transtypes.h"
 #include "transactions/historyview.h"
 
 #include <QComboBox>
-#include <QDate>
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +17,7 @@ TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *pare
     , m_type(new QComboBox(this))
 {
     addTypes();
-    const QDate today = QDate::currentDate();
+    const QDate today = context.data.today();
     m_year = addNumber(tr("&Year:"),
                        new OptionalNumber({.number = u"editYear"_s,
                                            .all = u"chkYearAll"_s,
