@@ -80,11 +80,6 @@ protected:
         showActive(window);
         grid->setFocus();
     }
-    void keys(const QList<Qt::Key> &pressed)
-    {
-        for (const Qt::Key key : pressed)
-            press(key);
-    }
     void click(int row, int column)
     {
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
@@ -121,21 +116,21 @@ protected:
 TEST_F(LineGridTest, keysGoFromCellToCellAndOut)
 {
     show({.passedByEnter = {u"Cost"_s}});
-    const std::tuple<const char *, QList<Qt::Key>, QString> steps[] = {
-        {"Enter passes over the cost", {Qt::Key_Return, Qt::Key_Return}, u"0,3"_s},
-        {"to the next line", {Qt::Key_Return}, u"1,0"_s},
-        {"Shift+Tab back to the line before", {Qt::Key_Backtab}, u"0,3"_s},
-        {"and to the cost", {Qt::Key_Backtab}, u"0,2"_s},
-        {"from there Enter goes on", {Qt::Key_Return}, u"0,3"_s},
-        {"Tab through a line", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab}, u"1,3"_s},
-        {"and on to a new one", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab}, u"2,3"_s},
-        {"which is not needed", {Qt::Key_Tab}, u"after"_s},
-        {"back in, where it was", {Qt::Key_Backtab}, u"1,3"_s},
-        {"with text in the cell", {Qt::Key_Z, Qt::Key_Backtab, Qt::Key_Y, Qt::Key_Escape}, u"1,2"_s},
-        {"out by the first cell", {Qt::Key_Backtab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Backtab}, u"before"_s},
+    const std::tuple<const char *, const char *, QString> steps[] = {
+        {"Enter passes over the cost", "<Return><Return>", u"0,3"_s},
+        {"to the next line", "<Return>", u"1,0"_s},
+        {"Shift+Tab back to the line before", "<Backtab>", u"0,3"_s},
+        {"and to the cost", "<Backtab>", u"0,2"_s},
+        {"from there Enter goes on", "<Return>", u"0,3"_s},
+        {"Tab through a line", "<Tab><Tab><Tab><Tab>", u"1,3"_s},
+        {"and on to a new one", "<Tab><Tab><Tab><Tab>", u"2,3"_s},
+        {"which is not needed", "<Tab>", u"after"_s},
+        {"back in, where it was", "<Backtab>", u"1,3"_s},
+        {"with text in the cell", "z<Backtab>y<Esc>", u"1,2"_s},
+        {"out by the first cell", "<Backtab><Backtab><Up><Backtab>", u"before"_s},
     };
-    for (const auto &[what, pressed, expected] : steps) {
-        keys(pressed);
+    for (const auto &[what, keys, expected] : steps) {
+        type(keys);
         EXPECT_EQ(cursor(), expected) << what;
     }
     EXPECT_EQ(rows(), 2);
@@ -176,34 +171,24 @@ TEST_F(LineGridTest, searchBeginsWithWhatIsTyped)
 TEST_F(LineGridTest, enteringAColumnByHandOpensItsSearch)
 {
     show({.searchOnEntering = true});
-    const std::tuple<const char *, std::function<void()>, QStringList> steps[] = {
-        {"Enter", [] { press(Qt::Key_Return); }, {u"A:"_s}},
-        {"down in the column", [] { press(Qt::Key_Down); }, {}},
-        {"click in the column", [&] { click(0, 1); }, {}},
-        {"Shift+Tab and Tab", [&] { type("<Backtab><Tab>"); }, {u"A:"_s}},
-        {"arrow", [&] { type("<Right><Left>"); }, {u"A:"_s}},
-        {"Enter out of an entry", [&] { type("<Home>5<Return>"); }, {u"A:"_s}},
-        {"click",
-         [&] {
-             click(1, 3);
-             click(1, 1);
-         },
-         {u"B:"_s}},
-        {"a check leads there",
-         [&] {
-             press(Qt::Key_Insert, Qt::ControlModifier);
-             grid->appendLine();
-             type("7");
-             type("<Return><Right><Up>");
-         },
-         {u":"_s}},
-    };
-    for (const auto &[what, step, expected] : steps) {
-        step();
+    const auto searchedAfter = [&](const char *keys) {
+        type(keys);
         QCoreApplication::processEvents();
-        EXPECT_EQ(searched, expected) << what;
-        searched.clear();
-    }
+        return std::exchange(searched, {}).join(u' ');
+    };
+    EXPECT_EQ(searchedAfter("<Return>"), u"A:"_s);
+    EXPECT_EQ(searchedAfter("<Down>"), QString()) << "in the column";
+    click(0, 1);
+    EXPECT_EQ(searchedAfter(""), QString()) << "in the column";
+    EXPECT_EQ(searchedAfter("<Backtab><Tab>"), u"A:"_s);
+    EXPECT_EQ(searchedAfter("<Right><Left>"), u"A:"_s);
+    EXPECT_EQ(searchedAfter("<Home>5<Return>"), u"A:"_s) << "out of an entry";
+    click(1, 3);
+    click(1, 1);
+    EXPECT_EQ(searchedAfter(""), u"B:"_s);
+    press(Qt::Key_Insert, Qt::ControlModifier);
+    grid->appendLine();
+    EXPECT_EQ(searchedAfter("7<Return><Right><Up>"), u":"_s) << "where a check leads";
     EXPECT_EQ(cursor(), u"2,1"_s);
     EXPECT_EQ(prompts.take(), QStringList(u"error: No item"_s));
     press(Qt::Key_Escape);
@@ -261,27 +246,20 @@ TEST_F(LineGridTest, numbersAreSteppedUpToTheLimitOfTheirRow)
 {
     show({.fixedLines = true,
           .steps = {{u"Quantity"_s, [this] { return LineSteps{.highest = lines.value(u"Cost").toDouble()}; }}}});
-    const std::tuple<const char *, std::function<void()>, QString> steps[] = {
-        {"typed", [] { type("8.5"); }, u"8.5"_s},
-        {"up", [] { press(Qt::Key_Up); }, u"9.5"_s},
-        {"to the limit", [&] { type("<Up><Up>"); }, u"10"_s},
-        {"by its button", [] { qobject_cast<QAbstractSpinBox *>(QApplication::focusWidget())->stepDown(); },
-         u"9"_s},
-        {"typed beyond", [] { type("11"); }, u"11"_s},
-        {"is refused", [] { press(Qt::Key_Return); }, u"11"_s},
-        {"taken over", [&] { type("<Esc>4.25<Tab>"); }, u"-"_s},
-        {"the limit of the next",
-         [&] {
-             click(1, 0);
-             type("11<Up>");
-         },
-         u"12"_s},
-        {"and away", [] { press(Qt::Key_Tab); }, u"-"_s},
+    const auto entryAfter = [this](const char *keys) {
+        type(keys);
+        return entry();
     };
-    for (const auto &[what, step, expected] : steps) {
-        step();
-        EXPECT_EQ(entry(), expected) << what;
-    }
+    EXPECT_EQ(entryAfter("8.5"), u"8.5"_s);
+    EXPECT_EQ(entryAfter("<Up>"), u"9.5"_s);
+    EXPECT_EQ(entryAfter("<Up><Up>"), u"10"_s) << "the limit";
+    qobject_cast<QAbstractSpinBox *>(QApplication::focusWidget())->stepDown(); // as its button does
+    EXPECT_EQ(entryAfter(""), u"9"_s);
+    EXPECT_EQ(entryAfter("11<Return>"), u"11"_s) << "refused";
+    EXPECT_EQ(entryAfter("<Esc>4.25<Tab>"), u"-"_s) << "taken over";
+    click(1, 0);
+    EXPECT_EQ(entryAfter("11<Up>"), u"12"_s) << "the limit is the row's";
+    EXPECT_EQ(entryAfter("<Tab>"), u"-"_s);
     lines.checkBrowseMode();
     EXPECT_EQ(prompts.take(), QStringList(u"error: 'Quantity' must not be greater than 10"_s));
     EXPECT_EQ(store.rows(u"SELECT Quantity FROM Line ORDER BY LineID"_s), (QStringList{u"4.25"_s, u"12"_s}));

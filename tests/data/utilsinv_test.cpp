@@ -176,17 +176,4 @@ TEST(DamagedTable, IsMendedWhenItsFirstReadFindsTheDamage)
     EXPECT_EQ(store.rows(u"SELECT integrity_check FROM pragma_integrity_check"_s), QStringList(u"ok"_s));
 }
 
-// A form or a data module, as far as its tables are concerned.
-struct TwoTables final : QObject, TableOwner
-{
-    explicit TwoTables(Engine::Database &database)
-        : tax(database, u"Tax"_s)
-        , bank(database, u"Bank"_s)
-    {
-    }
-    QList<Engine::Table *> ownedTables() override { return {&tax, &bank}; }
-
-    Engine::Table tax, bank;
-};
-
 ON_BOTH_STORES(Tables);

@@ -10,9 +10,8 @@ TEST_P(RecordTest, FiltersLetThroughWhatTheySay)
 {
     addVendors();
     store.execute(u"UPDATE Vendor SET Notes = '100% [x]*?' WHERE VendorID = 2"_s);
-    Table table(database(), u"Vendor"_s);
-    table.open();
-    table.setFiltered(true);
+    vendors.open();
+    vendors.setFiltered(true);
     const std::pair<QString, QString> cases[] = {
         {u"  "_s, u"1 2 3 4 5"_s},
         {u"vendorid >= 2 and VENDORID < 4"_s, u"2 3"_s},
@@ -48,43 +47,39 @@ TEST_P(RecordTest, FiltersLetThroughWhatTheySay)
     };
     for (const auto &[expression, ids] : cases) {
         const auto error = errorOf([&] {
-            table.setFilter(expression);
-            EXPECT_EQ(names(table, u"VendorID"_s), ids) << expression.toStdString();
+            vendors.setFilter(expression);
+            EXPECT_EQ(names(vendors, u"VendorID"_s), ids) << expression.toStdString();
         });
         EXPECT_EQ(error, std::nullopt) << expression.toStdString();
     }
-    table.setFilter(u"VendorID > 3"_s);
-    EXPECT_TRUE(table.locate(u"Suspended"_s, {true}));
-    EXPECT_EQ(table.integer(u"VendorID"), 4);
-    EXPECT_FALSE(table.findKey({1})) << "filtered out";
-    table.setFiltered(false);
-    EXPECT_EQ(table.recordCount(), 5);
+    vendors.setFilter(u"VendorID > 3"_s);
+    EXPECT_TRUE(vendors.locate(u"Suspended"_s, {true}));
+    EXPECT_EQ(vendors.integer(u"VendorID"), 4);
+    EXPECT_FALSE(vendors.findKey({1})) << "filtered out";
+    vendors.setFiltered(false);
+    EXPECT_EQ(vendors.recordCount(), 5);
 }
 
 TEST_P(RecordTest, ASavedRecordThatTheFilterNoLongerLetsInLeavesTheList)
 {
     addVendors();
-    Table table(database(), u"Vendor"_s);
-    table.setFilter(u"Suspended = false"_s);
-    table.setFiltered(true);
-    table.open();
-    EXPECT_EQ(table.recordCount(), 2);
-    table.edit();
-    table.set(u"Suspended", true);
-    table.post();
-    EXPECT_EQ(table.integer(u"VendorID"), 1) << "the saved record is in hand until the list is asked for";
-    EXPECT_EQ(table.recordCount(), 1);
-    EXPECT_EQ(table.recordIndex(), 0);
-    EXPECT_EQ(table.integer(u"VendorID"), 5);
+    vendors.setFilter(u"Suspended = false"_s);
+    vendors.setFiltered(true);
+    vendors.open();
+    EXPECT_EQ(vendors.recordCount(), 2);
+    change(vendors, u"Suspended", true);
+    EXPECT_EQ(vendors.integer(u"VendorID"), 1) << "the saved record is in hand until the list is asked for";
+    EXPECT_EQ(vendors.recordCount(), 1);
+    EXPECT_EQ(vendors.recordIndex(), 0);
+    EXPECT_EQ(vendors.integer(u"VendorID"), 5);
 }
 
 TEST_P(RecordTest, ABadFilterIsRefusedAndTheOldOneStays)
 {
     addVendors();
-    Table table(database(), u"Vendor"_s);
-    table.open();
-    table.setFilter(u"VendorID = 1"_s);
-    table.setFiltered(true);
+    vendors.open();
+    vendors.setFilter(u"VendorID = 1"_s);
+    vendors.setFiltered(true);
     const std::pair<QString, int> cases[] = {
         {u"VendorID ="_s, 11},
         {u"(VendorID = 1"_s, 14},
@@ -107,9 +102,9 @@ TEST_P(RecordTest, ABadFilterIsRefusedAndTheOldOneStays)
     };
     for (const auto &[expression, position] : cases) {
         QString text;
-        EXPECT_EQ(errorOf([&] { table.setFilter(expression); }, &text), ErrorCode::BadExpression);
+        EXPECT_EQ(errorOf([&] { vendors.setFilter(expression); }, &text), ErrorCode::BadExpression);
         EXPECT_TRUE(text.contains(u"Position %1:"_s.arg(position))) << text.toStdString();
-        EXPECT_EQ(names(table, u"VendorID"_s), u"1"_s);
+        EXPECT_EQ(names(vendors, u"VendorID"_s), u"1"_s);
     }
 
     // One that was set before the fields were known is refused when it is to be in force.

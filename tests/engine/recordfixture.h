@@ -12,7 +12,6 @@ class RecordTest : public testing::TestWithParam<Store>
 {
 protected:
     RecordTest()
-        : store(GetParam())
     {
         store.session().lockAttempts = 2;
         store.session().lockPause = std::chrono::milliseconds(1);
@@ -32,6 +31,13 @@ protected:
     // Documents 1 to 3, of 1, 2 and 3 lines; seq from 1, quantity = document * 10 + seq.
     void addDocuments();
     QString names(Engine::DataSet &set, const QString &field); // of all rows, joined by blanks
+    static void change(Engine::Table &table, QStringView field, const Engine::Value &value)
+    {
+        table.edit();
+        table.set(field, value);
+        table.post();
+    }
 
-    TestStore store;
+    TestStore store{GetParam()};
+    Engine::Table vendors{store.database(), QStringLiteral("Vendor")}; // to be opened
 };

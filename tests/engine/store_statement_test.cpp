@@ -129,39 +129,15 @@ TEST_P(StatementTest, AStatementMayOutliveItsConnection)
 TEST_P(StatementTest, FailuresHaveTheEnginesCodes)
 {
     insert(1, u"first"_s);
-    const struct
-    {
-        QStringView sql;
-        ErrorCode code;
-    } cases[] = {
-        {u"INSERT INTO Sample (SampleID) VALUES (1)", ErrorCode::KeyViolation},
-        {u"SELECT * FROM Missing", ErrorCode::NoSuchTable},
-        {u"SELECT Missing FROM Sample", ErrorCode::NoSuchField},
-        {u"SELEC", ErrorCode::General},
+    const std::pair<QString, ErrorCode> cases[] = {
+        {u"INSERT INTO Sample (SampleID) VALUES (1)"_s, ErrorCode::KeyViolation},
+        {u"SELECT * FROM Missing"_s, ErrorCode::NoSuchTable},
+        {u"SELECT Missing FROM Sample"_s, ErrorCode::NoSuchField},
+        {u"SELEC"_s, ErrorCode::General},
     };
-    for (const auto &c : cases) {
-        EXPECT_EQ(errorOf([&] { connection.prepare(c.sql.toString())->execute(); }), c.code)
-            << c.sql.toString().toStdString();
-    }
+    for (const auto &[sql, code] : cases)
+        EXPECT_EQ(errorOf([&] { connection.prepare(sql)->execute(); }), code) << sql.toStdString();
     EXPECT_EQ(one(u"SELECT Name FROM Sample WHERE SampleID = 1"_s), u"first"_s);
-}
-
-TEST_P(StatementTest, ATransactionIsUndoneUnlessCommitted)
-{
-    {
-        Transaction transaction(connection);
-        insert(1, u"undone"_s);
-        Transaction joined(connection);
-        joined.commit(); // the outer one decides
-    }
-    EXPECT_FALSE(connection.inTransaction());
-    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"0"_s);
-    {
-        Transaction transaction(connection);
-        insert(1, u"kept"_s);
-        transaction.commit();
-    }
-    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"1"_s);
 }
 
 TEST_P(StatementTest, SentStatementsKeepTheirOrderAndAreSeenByTheNextQuestion)
