@@ -1,5 +1,6 @@
 #include "printing/pagemaker.h"
 
+#include "printing/barcode.h"
 #include "printing/texts.h"
 
 #include <algorithm>
@@ -17,6 +18,15 @@ constexpr double thick = 1.2 * unitsPerPoint;
 constexpr double footerRoom = 20 * unitsPerPoint;
 
 double heightOf(TextStyle style) { return TextMeasure::of(style).lineHeight(); }
+
+// A box of thin lines.
+QList<Fill> boxFills(const QRectF &room)
+{
+    return {{QRectF(room.topLeft(), QSizeF(room.width(), thin))},
+            {QRectF(room.left(), room.bottom() - thin, room.width(), thin)},
+            {QRectF(room.topLeft(), QSizeF(thin, room.height()))},
+            {QRectF(room.right() - thin, room.top(), thin, room.height())}};
+}
 
 // The baseline of a line of text whose upper edge is at the place.
 double baseline(TextStyle style, double top)
@@ -149,12 +159,51 @@ QString PageMaker::cellText(const PlacedColumn &place, const ReportLine &line) c
     return column.display ? column.display(value) : value.toText();
 }
 
+// The bars with the text below; by itself where there are none for it.
+void PageMaker::addBarcode(LaidLine &line, const PlacedColumn &place, const QString &text, const QRectF &room) const
+{
+    const double textHeight = heightOf(TextStyle::Body);
+    const double between = 2 * unitsPerPoint;
+    const QList<Fill> bars = barcodeFills(barcodeOf(text), room.adjusted(0, 0, 0, -textHeight - between));
+    LaidLine cell{textHeight};
+    addCell(cell, place, text, TextStyle::Body);
+    if (bars.isEmpty())
+        stretchRow(cell, line.height);
+    else
+        for (TextItem &item : cell.texts)
+            item.y += static_cast<float>(room.bottom() - textHeight);
+    line.fills += bars;
+    line.texts += cell.texts;
+}
+
+// To its least height, with the texts halfway down.
+void PageMaker::stretchRow(LaidLine &row, double least)
+{
+    if (row.height >= least)
+        return;
+    for (TextItem &text : row.texts)
+        text.y += static_cast<float>((least - row.height) / 2);
+    row.height = least;
+}
+
 PageMaker::LaidLine PageMaker::cells(const ReportLine &line) const
 {
     const TextStyle style = line.band == Band::Opening ? TextStyle::Strong : TextStyle::Body;
-    LaidLine laid{std::max(heightOf(style), m_layout.rowHeight * unitsPerPoint)};
+    LaidLine laid{heightOf(style)};
     for (const PlacedColumn &place : m_columns)
-        addCell(laid, place, cellText(place, line), style);
+        if (place.column->content == Content::Text)
+            addCell(laid, place, cellText(place, line), style);
+    stretchRow(laid, m_layout.rowHeight * unitsPerPoint);
+    constexpr double space = 4 * unitsPerPoint; // above and below what fills the row
+    for (const PlacedColumn &place : m_columns) {
+        const QRectF room(place.left, space, place.width, laid.height - 2 * space);
+        if (place.column->content == Content::Barcode)
+            addBarcode(laid, place, cellText(place, line), room);
+        else if (place.column->content == Content::Blank)
+            laid.fills += boxFills(room);
+    }
+    if (m_layout.rowRules)
+        laid.fills.append({QRectF(m_area.left(), laid.height - thin / 2, m_area.width(), thin / 2), true});
     return laid;
 }
 
@@ -261,6 +310,7 @@ void PageMaker::beginPage(const QStringList &continued)
         addTitle();
     else
         addRunningTitle();
+    addLinesToFillIn();
     addColumnTitles();
 
     QStringList names = continued;
@@ -310,6 +360,25 @@ void PageMaker::addRunningTitle()
     parts.removeAll(QString());
     addText(line, m_area.left(), baseline(TextStyle::Small, 0), TextStyle::Small, parts.join(u" · "_s),
             m_area.width());
+    placeLine(line);
+}
+
+// Side by side, each with the same share of the width.
+void PageMaker::addLinesToFillIn()
+{
+    const QStringList &words = m_layout.toFillIn;
+    if (words.isEmpty())
+        return;
+    const TextMeasure &measure = TextMeasure::of(TextStyle::Body);
+    const double y = measure.lineHeight() * 2;
+    const double share = m_area.width() / static_cast<double>(words.size());
+    LaidLine line{y + measure.lineHeight()};
+    for (qsizetype i = 0; i < words.size(); ++i) {
+        const double left = m_area.left() + share * static_cast<double>(i);
+        const double lineLeft = left + measure.width(words[i]) + gap;
+        addText(line, left, y, TextStyle::Body, words[i], share);
+        line.fills.append({QRectF(lineLeft, y, std::max(0.0, left + share - 2 * gap - lineLeft), thin)});
+    }
     placeLine(line);
 }
 

@@ -60,6 +60,8 @@ private:
     LaidLine groupHeading(const ReportLine &line) const;
     LaidLine total(const ReportLine &line) const;
     void addCell(LaidLine &line, const PlacedColumn &place, const QString &text, TextStyle style) const;
+    void addBarcode(LaidLine &line, const PlacedColumn &place, const QString &text, const QRectF &room) const;
+    static void stretchRow(LaidLine &row, double least);
     static void addText(LaidLine &line, double x, double y, TextStyle style, const QString &text, double room);
     QString groupName(int group, const ReportLine &line) const;
     QString cellText(const PlacedColumn &place, const ReportLine &line) const;
@@ -71,6 +73,7 @@ private:
     void endPage();
     void addTitle();
     void addRunningTitle();
+    void addLinesToFillIn();
     void addColumnTitles();
     void rule(double y, double thickness, double left, double right);
 

@@ -15,6 +15,13 @@ enum class Align {
     Decimal, // decimal points stand below each other
 };
 
+// What a detail row shows in a column.
+enum class Content {
+    Text,
+    Barcode, // the value as Code 128 with the text below, where that can be had; for the first column
+    Blank, // a box to write in
+};
+
 // What an opening row shows in a column.
 struct Opening
 {
@@ -32,6 +39,7 @@ struct Column
     bool wraps = false; // onto further lines; otherwise what is too long is cut, and a number narrowed
     bool inDetail = true; // false: shown by headings and opening rows only
     Opening opening{}; // without it opening rows show nothing here
+    Content content = Content::Text;
     // Room for what stands right of the decimal point, for Align::Decimal.
     QString fraction = QStringLiteral(".000");
 };
@@ -71,6 +79,8 @@ struct ReportLayout
     bool details = true; // false: only the totals are shown
     QString reportTotalText{}; // of the last line; empty: no such line
     double rowHeight = 0; // in points; more than a line of text needs
+    bool rowRules = false; // a thin line below each row
+    QStringList toFillIn{}; // at the top of each page: words with a line behind each to write on
 
     QStringList usedFields() const; // those that the rows must have
 };

@@ -54,6 +54,8 @@ Printing::Report makeReport(TDataModuleTallymere &data, const ReportDescription 
     made.layout.headings = {selectionHeading(database, selection)};
     if (report.parameters.period)
         made.layout.headings.append(periodHeading(selection));
+    if (report.notes)
+        made.layout.headings += report.notes(database, selection);
     made.rows = report.rows(database, report, selection);
     return made;
 }

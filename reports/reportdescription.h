@@ -33,12 +33,15 @@ struct ReportDescription
         bool itemType = false;
         bool period = false;
     };
-    using Rows = Printing::RowReaderPtr (*)(Engine::Database &, const ReportDescription &, const ReportSelection &);
+    using Rows = std::function<Printing::RowReaderPtr(Engine::Database &, const ReportDescription &,
+                                                      const ReportSelection &)>;
+    using Notes = QStringList (*)(Engine::Database &, const ReportSelection &);
 
     QString name; // "TrptValueByItem"
     QString listText; // as the wizard offers it and the command line calls it: "Value by Item"
     Parameters parameters{};
     Rows rows = nullptr;
+    Notes notes = nullptr; // further headings, as the data are
     // Of the reports on balances: the lines of the query, of which the third takes the condition, and its order by
     // columns of the result. With key fields its rows are fetched as they are needed, else read at once.
     QStringList query{};

@@ -10,7 +10,7 @@ namespace Tallymere::ReportList {
 
 const QList<ReportDescription> &all()
 {
-    static const QList<ReportDescription> reports = valueReports() + perpetualReports() + listReports();
+    static const QList<ReportDescription> reports = valueReports() + perpetualReports() + listReports() + forms();
     return reports;
 }
 

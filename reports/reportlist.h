@@ -12,6 +12,7 @@ namespace ReportList {
 QList<ReportDescription> valueReports();
 QList<ReportDescription> perpetualReports();
 QList<ReportDescription> listReports();
+QList<ReportDescription> forms(); // to write on
 
 const QList<ReportDescription> &all();
 // By its list text or its name, without regard to letter case; nullptr when there is none.

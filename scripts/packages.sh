@@ -3,8 +3,8 @@
 # Asks for root rights only when something is missing.
 set -euo pipefail
 
-build=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev libsqlite3-dev libpq-dev fonts-dejavu-core
-    fonts-liberation)
+build=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev libsqlite3-dev libpq-dev libzint-dev
+    fonts-dejavu-core fonts-liberation)
 test=(postgresql-15 libgtest-dev clang-format qt6-l10n-tools)
 
 case "${1:-}" in

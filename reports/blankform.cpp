@@ -1,0 +1,173 @@
+#include "reports/blankform.h"
+
+#include "base/ruleerror.h"
+#include "base/settingsstore.h"
+#include "data/utilsinv.h"
+#include "reports/columns.h"
+#include "reports/reportlist.h"
+#include "reports/texts.h"
+#include "transactions/countsource.h"
+
+using namespace Qt::StringLiterals;
+using Engine::Value;
+using Tallymere::Printing::Column;
+using Tallymere::Printing::Content;
+
+namespace Tallymere {
+
+namespace {
+
+// --- the choices, as the settings have them --------------------------------------------------------------------------
+
+const auto section = u"FormBlankInventoryReportSelection"_s;
+const auto locationKey = u"Location"_s;
+const auto yes = u"true"_s;
+
+struct Mark
+{
+    QString key;
+    bool BlankFormChoices::*choice;
+};
+
+const QList<Mark> &marks()
+{
+    static const QList<Mark> all{{u"ByCategory"_s, &BlankFormChoices::byCategory},
+                                 {u"PagePerCategory"_s, &BlankFormChoices::pagePerCategory},
+                                 {u"ZeroCounts"_s, &BlankFormChoices::zeroCounts},
+                                 {u"PriorQuantities"_s, &BlankFormChoices::priorQuantities},
+                                 {u"Barcodes"_s, &BlankFormChoices::barcodes}};
+    return all;
+}
+
+// --- the rows --------------------------------------------------------------------------------------------------------
+
+class CountRows final : public Printing::RowReader
+{
+public:
+    explicit CountRows(CountList list)
+        : m_list(std::move(list))
+    {
+    }
+
+    const QStringList &fields() const override
+    {
+        static const QStringList names{u"Category"_s,        u"TypeName"_s,  u"ItemNo"_s,
+                                       u"ItemDescription"_s, u"QtyOnhand"_s, u"Quantity"_s};
+        return names;
+    }
+
+    bool next(Printing::ReportRow &row) override
+    {
+        if (m_next >= m_list.size())
+            return false;
+        const CountRow &item = m_list.row(m_next++);
+        // Letter case does not part categories on the count's screen either.
+        row.values = {item.typeName.toCaseFolded(),
+                      item.typeName,
+                      item.itemNo,
+                      item.description,
+                      item.recorded ? Value(*item.recorded) : Value(),
+                      Value()};
+        return true;
+    }
+
+private:
+    CountList m_list;
+    int m_next = 0;
+};
+
+Printing::RowReaderPtr countRows(Engine::Database &database, const BlankFormChoices &choices, int location)
+{
+    if (location <= 0)
+        throw RuleError(ReportsTexts::tr("Choose the location that is counted."), u"WarehouseID"_s);
+    CountList list =
+        CountSource(database).list(location, choices.zeroCounts ? ZeroCounts::Included : ZeroCounts::Excluded);
+    list.sortBy(choices.byCategory ? CountList::Order::Category : CountList::Order::ItemNo);
+    return std::make_unique<CountRows>(std::move(list));
+}
+
+// --- the page --------------------------------------------------------------------------------------------------------
+
+Column filled(Column column, Content content)
+{
+    column.content = content;
+    return column;
+}
+
+QList<Column> columns(const BlankFormChoices &choices)
+{
+    QList<Column> columns;
+    if (choices.barcodes)
+        columns.append(filled(Columns::cutText(u"ItemNo"_s, ReportsTexts::tr("Item No"), 3.6), Content::Barcode));
+    else
+        columns.append(Columns::text(u"ItemNo"_s, ReportsTexts::tr("Item No"), 1.7));
+    if (!choices.byCategory && !choices.barcodes) // bars leave no room for it
+        columns.append(Columns::text(u"TypeName"_s, ReportsTexts::tr("Category"), 2));
+    columns.append(Columns::text(u"ItemDescription"_s, ReportsTexts::tr("Item"), 3));
+    if (choices.priorQuantities)
+        columns.append(Columns::quantity(u"QtyOnhand"_s, ReportsTexts::tr("Prior Quantity")));
+    Column count = filled(Columns::quantity(u"Quantity"_s, ReportsTexts::tr("Current Quantity")), Content::Blank);
+    count.width = 1.6;
+    columns.append(count);
+    return columns;
+}
+
+// The count takes the quantities as they are when it begins.
+QStringList unpostedNote(Engine::Database &database, const ReportSelection &selection)
+{
+    if (CountSource(database).unposted(selection.warehouseId).isEmpty())
+        return {};
+    return {ReportsTexts::tr("There are unposted transactions for this location: prior quantities will change.")};
+}
+
+} // namespace
+
+BlankFormChoices BlankFormChoices::last(const SettingsStore *settings)
+{
+    BlankFormChoices choices;
+    if (!settings)
+        return choices;
+    const auto kept = [&](const QString &key) { return settings->read(formSetting(section), key); };
+    choices.warehouseId = kept(locationKey).toInt();
+    for (const Mark &mark : marks())
+        if (const QString text = kept(mark.key); !text.isEmpty())
+            choices.*mark.choice = text == yes;
+    return choices;
+}
+
+void BlankFormChoices::keep(SettingsStore *settings) const
+{
+    if (!settings)
+        return;
+    settings->write(formSetting(section), locationKey, QString::number(warehouseId));
+    for (const Mark &mark : marks())
+        settings->write(formSetting(section), mark.key, this->*mark.choice ? yes : u"false"_s);
+}
+
+ReportDescription blankForm(const BlankFormChoices &choices)
+{
+    ReportDescription form;
+    form.name = u"TrptBlankInventoryForm"_s;
+    form.listText = ReportsTexts::tr("Blank Inventory Form");
+    form.parameters.location = true;
+    form.rows = [choices](Engine::Database &database, const ReportDescription &, const ReportSelection &selection) {
+        return countRows(database, choices, selection.warehouseId);
+    };
+    if (choices.priorQuantities)
+        form.notes = unpostedNote;
+    form.layout.title = form.listText;
+    form.layout.toFillIn = {ReportsTexts::tr("Counted by:"), ReportsTexts::tr("Date:")};
+    form.layout.columns = columns(choices);
+    if (choices.byCategory)
+        form.layout.groups = {{.key = u"Category"_s,
+                               .fields = {u"TypeName"_s},
+                               .heading = true,
+                               .onNewPage = choices.pagePerCategory}};
+    form.layout.rowHeight = choices.barcodes ? 40 : 24;
+    form.layout.rowRules = true;
+    return form;
+}
+
+QList<ReportDescription> ReportList::forms() { return {blankForm()}; }
+
+} // namespace Tallymere
