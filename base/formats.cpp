@@ -6,7 +6,6 @@
 #include "base/texts.h"
 
 #include <algorithm>
-#include <optional>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -151,6 +150,15 @@ FieldFormat dateFormat(const RegionalSettings &settings, const QString &column)
 }
 
 int yearOfTwoDigits(int digits) { return digits >= 50 ? 1900 + digits : 2000 + digits; }
+
+std::optional<int> yearFromNumber(qint64 number)
+{
+    if (number >= 1900 && number <= 9999)
+        return static_cast<int>(number);
+    if (number < 0 || number > 99)
+        return std::nullopt;
+    return yearOfTwoDigits(static_cast<int>(number));
+}
 
 namespace {
 

@@ -4,6 +4,7 @@
 #include "engine/field.h"
 #include "engine/money.h"
 
+#include <optional>
 #include <QString>
 
 // How fields are shown, edited and read: the makers that every screen, list and import uses. In all of them an
@@ -40,6 +41,9 @@ Engine::FieldFormat lettersFormat(const QString &label, const QString &column = 
 
 // The year that two typed digits stand for (0 to 99), by the rule above.
 int yearOfTwoDigits(int digits);
+
+// The year that is meant by two digits, or by the year in full (1900 to 9999); nothing for any other number.
+std::optional<int> yearFromNumber(qint64 number);
 
 // "1,234.50", "(0.125)": two decimals always, more as far as they are needed, up to the given number; beyond it
 // half is rounded away from zero. A value that rounds to zero has no parentheses.

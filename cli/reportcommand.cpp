@@ -31,7 +31,7 @@ const ReportDescription &requireReport(const QString &name)
         return *report;
     for (const ReportList::Offered &offered : ReportList::offered())
         if (offered.listText.compare(name, Qt::CaseInsensitive) == 0)
-            throw RuleError(Texts::tr("The report '%1' has nothing to show yet.").arg(offered.listText));
+            throw RuleError(ReportList::nothingToShow(offered));
     throw UsageError(Texts::tr("there is no report '%1', but: %2").arg(name, reportNames()));
 }
 

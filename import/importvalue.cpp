@@ -68,12 +68,9 @@ qint64 wholeNumber(const ImportColumn &column, const QString &text)
 
 Value year(const ImportColumn &column, const QString &text)
 {
-    const qint64 number = wholeNumber(column, text);
-    if (number >= 1900 && number <= 9999)
-        return number;
-    if (number < 0 || number > 99)
-        refuse(column, text, ImportTexts::tr("is not a year of two or four digits"));
-    return yearOfTwoDigits(static_cast<int>(number));
+    if (const std::optional<int> meant = yearFromNumber(wholeNumber(column, text)))
+        return *meant;
+    refuse(column, text, ImportTexts::tr("is not a year of two or four digits"));
 }
 
 Value period(const ImportColumn &column, const QString &text)

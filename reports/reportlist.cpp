@@ -37,4 +37,9 @@ const QList<Offered> &offered()
     return list;
 }
 
+QString nothingToShow(const Offered &offered)
+{
+    return ReportsTexts::tr("The report '%1' has nothing to show yet.").arg(offered.listText);
+}
+
 } // namespace Tallymere::ReportList

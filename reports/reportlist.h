@@ -27,6 +27,7 @@ struct Offered
     const ReportDescription *report;
 };
 const QList<Offered> &offered();
+QString nothingToShow(const Offered &offered); // what is said where the report is null
 
 } // namespace ReportList
 

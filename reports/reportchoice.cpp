@@ -1,0 +1,45 @@
+#include "reports/reportchoice.h"
+
+#include "base/formats.h"
+#include "base/ruleerror.h"
+#include "base/textnumbers.h"
+#include "reports/texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+ReportSelection takenBy(const ReportDescription::Parameters &parameters, const ReportSelection &chosen)
+{
+    ReportSelection taken;
+    if (parameters.location)
+        taken.warehouseId = chosen.warehouseId;
+    if (parameters.itemType)
+        taken.itemTypeId = chosen.itemTypeId;
+    if (parameters.period) {
+        taken.period = chosen.period;
+        taken.year = chosen.year;
+    }
+    return taken;
+}
+
+int periodFromText(const QString &text)
+{
+    const QString column = u"GLPeriod"_s;
+    const Engine::Value period = periodNumberFormat(ReportsTexts::tr("Period"), column).parse(text);
+    if (period.isNull())
+        throw RuleError(ReportsTexts::tr("Enter the period that the report begins with, 1 to 12."), column);
+    return static_cast<int>(period.toInt64());
+}
+
+int yearFromText(const QString &text)
+{
+    const QString column = u"GLYear"_s;
+    if (text.trimmed().isEmpty())
+        throw RuleError(ReportsTexts::tr("Enter the fiscal year of the period, in two or four digits."), column);
+    if (const std::optional<int> year = yearFromNumber(integerFromText(text, column)))
+        return *year;
+    throw RuleError(ReportsTexts::tr("'%1' is not a year of two or four digits").arg(text.trimmed()), column);
+}
+
+} // namespace Tallymere
