@@ -4,6 +4,8 @@
 #include "printing/texts.h"
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -12,7 +14,8 @@ namespace Tallymere::Printing {
 namespace {
 
 constexpr double gap = 6 * unitsPerPoint; // between columns
-constexpr double indent = 10 * unitsPerPoint; // of a total, for each group around it
+constexpr double indent = 10 * unitsPerPoint; // for each group around a line
+constexpr double afterWrapped = 3 * unitsPerPoint; // tells a row of several lines from the next
 constexpr double thin = 0.5 * unitsPerPoint;
 constexpr double thick = 1.2 * unitsPerPoint;
 constexpr double footerRoom = 20 * unitsPerPoint;
@@ -64,8 +67,15 @@ void PageMaker::placeColumns()
              column.align == Align::Decimal ? TextMeasure::of(TextStyle::Body).width(column.fraction) : 0});
         left += width;
     }
-    if (!m_columns.empty())
-        m_columns.back().width += gap; // up to the margin
+    if (m_columns.empty())
+        return;
+    m_columns.back().width += gap; // up to the margin
+    PlacedColumn &first = m_columns.front();
+    if (first.column->align != Align::Left || !first.column->inDetail || first.column->content == Content::Barcode)
+        return;
+    const double inset = indent * static_cast<double>(std::ranges::count(m_layout.groups, true, &Group::heading));
+    first.left += inset; // rows stand below the headings of their groups
+    first.width -= inset;
 }
 
 // --- lines --------------------------------------------------------------------------------------------------------
@@ -74,7 +84,9 @@ void PageMaker::add(const ReportLine &line)
 {
     m_empty = false;
     const bool isTotal = line.band == Band::GroupTotal || line.band == Band::ReportTotal;
-    if (!m_keepsNext && !isTotal) {
+    const bool staysWithLast =
+        isTotal || m_last == Band::GroupHeading || (m_last == Band::Opening && line.band == Band::Detail);
+    if (!staysWithLast) {
         place(m_block);
         m_block = {.continued = m_open};
     }
@@ -88,7 +100,7 @@ void PageMaker::add(const ReportLine &line)
             for (qsizetype inner = group; inner < m_block.continued.size(); ++inner)
                 m_block.continued[inner].clear();
     m_block.lines.append(layOut(line));
-    m_keepsNext = line.band == Band::GroupHeading || line.band == Band::Opening;
+    m_last = line.band;
 }
 
 void PageMaker::finish()
@@ -111,7 +123,7 @@ QString PageMaker::groupName(int group, const ReportLine &line) const
     for (const QString &field : m_layout.groups[group].fields)
         if (const QString text = line.values[static_cast<size_t>(m_lines.indexOf(field))].toText(); !text.isEmpty())
             names.append(text);
-    return names.join("  "_L1);
+    return names.isEmpty() ? PrintingTexts::tr("(none)") : names.join("  "_L1);
 }
 
 PageMaker::LaidLine PageMaker::layOut(const ReportLine &line) const
@@ -186,25 +198,54 @@ void PageMaker::stretchRow(LaidLine &row, double least)
     row.height = least;
 }
 
+// Bars and boxes, which fill the row.
+void PageMaker::addContents(LaidLine &line, const QStringList &texts) const
+{
+    constexpr double space = 4 * unitsPerPoint; // above and below
+    for (size_t i = 0; i < m_columns.size(); ++i) {
+        const PlacedColumn &place = m_columns[i];
+        const QRectF room(place.left, space, place.width, line.height - 2 * space);
+        if (place.column->content == Content::Barcode)
+            addBarcode(line, place, texts[static_cast<qsizetype>(i)], room);
+        else if (place.column->content == Content::Blank)
+            line.fills += boxFills(room);
+    }
+}
+
 PageMaker::LaidLine PageMaker::cells(const ReportLine &line) const
 {
-    const TextStyle style = line.band == Band::Opening ? TextStyle::Strong : TextStyle::Body;
+    const bool opening = line.band == Band::Opening;
+    const TextStyle style = opening ? TextStyle::Strong : TextStyle::Body;
     LaidLine laid{heightOf(style)};
+    QStringList texts;
     for (const PlacedColumn &place : m_columns)
+        texts.append(cellText(place, line));
+    for (size_t i = 0; i < m_columns.size(); ++i) {
+        PlacedColumn place = m_columns[i];
+        // What names an account has the room of the columns that it leaves empty.
+        for (size_t next = i + 1; opening && place.column->align == Align::Left && next < m_columns.size()
+             && texts[static_cast<qsizetype>(next)].isEmpty();
+             ++next)
+            place.width = m_columns[next].left + m_columns[next].width - place.left;
         if (place.column->content == Content::Text)
-            addCell(laid, place, cellText(place, line), style);
-    stretchRow(laid, m_layout.rowHeight * unitsPerPoint);
-    constexpr double space = 4 * unitsPerPoint; // above and below what fills the row
-    for (const PlacedColumn &place : m_columns) {
-        const QRectF room(place.left, space, place.width, laid.height - 2 * space);
-        if (place.column->content == Content::Barcode)
-            addBarcode(laid, place, cellText(place, line), room);
-        else if (place.column->content == Content::Blank)
-            laid.fills += boxFills(room);
+            addCell(laid, place, texts[static_cast<qsizetype>(i)], style);
     }
+    if (opening)
+        moveDown(laid, heightOf(style) * 0.4);
+    stretchRow(laid, m_layout.rowHeight * unitsPerPoint);
+    addContents(laid, texts);
     if (m_layout.rowRules)
         laid.fills.append({QRectF(m_area.left(), laid.height - thin / 2, m_area.width(), thin / 2), true});
     return laid;
+}
+
+void PageMaker::moveDown(LaidLine &line, double by)
+{
+    line.height += by;
+    for (TextItem &text : line.texts)
+        text.y += static_cast<float>(by);
+    for (Fill &fill : line.fills)
+        fill.area.translate(0, by);
 }
 
 void PageMaker::addCell(LaidLine &line, const PlacedColumn &place, const QString &text, TextStyle style) const
@@ -220,7 +261,9 @@ void PageMaker::addCell(LaidLine &line, const PlacedColumn &place, const QString
         for (qsizetype i = 0; i < parts.size(); ++i)
             addText(line, place.left, top + static_cast<double>(i) * measure.lineHeight(), style, parts[i],
                     place.width);
-        line.height = std::max(line.height, static_cast<double>(parts.size()) * measure.lineHeight());
+        if (parts.size() > 1)
+            line.height =
+                std::max(line.height, static_cast<double>(parts.size()) * measure.lineHeight() + afterWrapped);
         return;
     }
     const double width = measure.width(text);
@@ -239,27 +282,27 @@ bool PageMaker::totalStartsAt(const PlacedColumn &place) const { return m_lines.
 PageMaker::LaidLine PageMaker::total(const ReportLine &line) const
 {
     const bool report = line.band == Band::ReportTotal;
-    const double above = heightOf(TextStyle::Strong) * (report ? 0.5 : 0.3);
+    // Where only totals are shown, the innermost are the rows of the report.
+    const bool row = !m_layout.details && line.group == m_layout.groups.size() - 1 && !report;
+    const TextStyle style = row ? TextStyle::Body : TextStyle::Strong;
+    const double above = row ? 0 : heightOf(style) * (report ? 0.5 : 0.3);
     LaidLine laid;
     double labelRight = m_area.right();
     for (const PlacedColumn &place : m_columns) {
         if (!totalStartsAt(place))
             continue;
-        labelRight = std::min(labelRight, place.left);
+        labelRight = std::min(labelRight, place.left - gap);
         const Engine::Value &sum = line.values[static_cast<size_t>(place.field)];
-        addCell(laid, place, place.column->display ? place.column->display(sum) : sum.toText(), TextStyle::Strong);
-        if (report || m_layout.details)
-            laid.fills.append({QRectF(place.left, 0, place.width, report ? thick : thin)});
+        addCell(laid, place, place.column->display ? place.column->display(sum) : sum.toText(), style);
+        if (!row)
+            laid.fills.append({QRectF(place.left, -above / 2, place.width, report ? thick : thin)});
     }
-    for (TextItem &text : laid.texts)
-        text.y += static_cast<float>(above);
-    for (Fill &fill : laid.fills)
-        fill.area.translate(0, above / 2);
+    moveDown(laid, above);
     const QString label =
         report ? m_layout.reportTotalText : m_layout.groups[line.group].totalText.arg(groupName(line.group, line));
     const double left = m_area.left() + (report ? 0 : indent * line.group);
-    addText(laid, left, baseline(TextStyle::Strong, above), TextStyle::Strong, label, labelRight - left);
-    laid.height = above + heightOf(TextStyle::Strong) * (report ? 1.3 : 1.15);
+    addText(laid, left, baseline(style, above), style, label, labelRight - left);
+    laid.height = above + heightOf(style) * (report ? 1.3 : row ? 1.0 : 1.15);
     return laid;
 }
 
@@ -272,19 +315,41 @@ void PageMaker::place(const Block &block)
     double height = 0;
     for (const LaidLine &line : block.lines)
         height += line.height;
+    if (m_onPage && (block.newPage || m_y + height > m_bottom))
+        endPage();
     if (!m_onPage)
         beginPage(block.continued);
-    else if (block.newPage || m_y + height > m_bottom) {
+    for (const LaidLine &line : block.lines)
+        placeInParts(line);
+}
+
+// A block may be longer than a page, and so may a line.
+void PageMaker::placeInParts(LaidLine line)
+{
+    while (m_y + line.height > m_bottom) {
+        if (m_pageIsFresh)
+            placeLine(takeTop(line, m_bottom - m_y));
         endPage();
-        beginPage(block.continued);
+        beginPage(m_open);
     }
-    for (const LaidLine &line : block.lines) {
-        if (m_y + line.height > m_bottom) { // a block that is longer than a page
-            endPage();
-            beginPage(m_open);
-        }
-        placeLine(line);
+    placeLine(line);
+}
+
+PageMaker::LaidLine PageMaker::takeTop(LaidLine &line, double room)
+{
+    const double step = heightOf(TextStyle::Body);
+    LaidLine top{std::max(std::floor(room / step), 1.0) * step};
+    const auto isBelow = [&top](const TextItem &text) { return text.y > top.height; };
+    std::ranges::remove_copy_if(line.texts, std::back_inserter(top.texts), isBelow);
+    line.texts.removeIf([&isBelow](const TextItem &text) { return !isBelow(text); });
+    for (TextItem &text : line.texts)
+        text.y -= static_cast<float>(top.height);
+    for (Fill &fill : line.fills) {
+        fill.area.translate(0, -top.height);
+        fill.area.setTop(std::max(0.0, fill.area.top()));
     }
+    line.height -= top.height;
+    return top;
 }
 
 void PageMaker::placeLine(const LaidLine &line)
@@ -298,6 +363,7 @@ void PageMaker::placeLine(const LaidLine &line)
         m_page.fills.append(fill);
     }
     m_y += line.height;
+    m_pageIsFresh = false;
 }
 
 void PageMaker::beginPage(const QStringList &continued)
@@ -313,13 +379,21 @@ void PageMaker::beginPage(const QStringList &continued)
     addLinesToFillIn();
     addColumnTitles();
 
-    QStringList names = continued;
+    addContinued(continued);
+    m_pageIsFresh = true;
+}
+
+void PageMaker::addContinued(QStringList names)
+{
     names.removeAll(QString());
     if (names.isEmpty())
         return;
-    LaidLine line{heightOf(TextStyle::GroupName) * 1.2};
-    addText(line, m_area.left(), baseline(TextStyle::GroupName, 0), TextStyle::GroupName,
-            PrintingTexts::tr("%1 (continued)").arg(names.join(u" · "_s)), m_area.width());
+    const TextMeasure &measure = TextMeasure::of(TextStyle::GroupName);
+    const QString ending = PrintingTexts::tr("%1 (continued)");
+    const QString text = measure.cut(names.join(u" · "_s), m_area.width() - measure.width(ending));
+    LaidLine line{measure.lineHeight() * 1.2};
+    addText(line, m_area.left(), baseline(TextStyle::GroupName, 0), TextStyle::GroupName, ending.arg(text),
+            m_area.width());
     placeLine(line);
 }
 
@@ -343,11 +417,11 @@ void PageMaker::addTitle()
     addText(title, m_area.left(), y, TextStyle::Title, m_layout.title, organizationLeft - m_area.left() - gap);
     placeLine(title);
     for (const QString &text : m_layout.headings) {
-        if (text.isEmpty())
-            continue;
-        LaidLine line{heading.lineHeight()};
-        addText(line, m_area.left(), baseline(TextStyle::Heading, 0), TextStyle::Heading, text, m_area.width());
-        placeLine(line);
+        for (const QString &part : text.isEmpty() ? QStringList() : heading.wrapped(text, m_area.width())) {
+            LaidLine line{heading.lineHeight()};
+            addText(line, m_area.left(), baseline(TextStyle::Heading, 0), TextStyle::Heading, part, m_area.width());
+            placeLine(line);
+        }
     }
     m_y += heading.lineHeight() * 0.6;
 }
@@ -382,6 +456,14 @@ void PageMaker::addLinesToFillIn()
     placeLine(line);
 }
 
+// Above numbers the title ends where their second decimal does: most have no more.
+double PageMaker::titleRight(const PlacedColumn &place)
+{
+    const double decimals = TextMeasure::of(TextStyle::Body).width(place.column->fraction.left(3));
+    const double right = place.left + place.width;
+    return place.column->align == Align::Decimal ? right - place.fraction + decimals : right;
+}
+
 void PageMaker::addColumnTitles()
 {
     if (!m_columnTitles) {
@@ -398,9 +480,8 @@ void PageMaker::addColumnTitles()
             const QStringList &lines = titles[i];
             for (qsizetype n = 0; n < lines.size(); ++n) { // the last ones stand on one line
                 const double top = static_cast<double>(most - lines.size() + n) * measure.lineHeight();
-                const double x = place.column->align == Align::Left
-                    ? place.left
-                    : place.left + place.width - measure.width(lines[n]);
+                const double x =
+                    place.column->align == Align::Left ? place.left : titleRight(place) - measure.width(lines[n]);
                 addText(*m_columnTitles, x, baseline(TextStyle::ColumnTitle, top), TextStyle::ColumnTitle, lines[n],
                         place.width + gap);
             }

@@ -62,19 +62,25 @@ private:
     void addCell(LaidLine &line, const PlacedColumn &place, const QString &text, TextStyle style) const;
     void addBarcode(LaidLine &line, const PlacedColumn &place, const QString &text, const QRectF &room) const;
     static void stretchRow(LaidLine &row, double least);
+    void addContents(LaidLine &line, const QStringList &texts) const;
+    static void moveDown(LaidLine &line, double by); // within it
     static void addText(LaidLine &line, double x, double y, TextStyle style, const QString &text, double room);
     QString groupName(int group, const ReportLine &line) const;
     QString cellText(const PlacedColumn &place, const ReportLine &line) const;
     bool totalStartsAt(const PlacedColumn &place) const;
 
     void place(const Block &block);
+    void placeInParts(LaidLine line);
+    static LaidLine takeTop(LaidLine &line, double room); // what fits; leaves the rest
     void placeLine(const LaidLine &line);
     void beginPage(const QStringList &continued);
+    void addContinued(QStringList names);
     void endPage();
     void addTitle();
     void addRunningTitle();
     void addLinesToFillIn();
     void addColumnTitles();
+    static double titleRight(const PlacedColumn &place);
     void rule(double y, double thickness, double left, double right);
 
     const ReportLayout &m_layout;
@@ -91,9 +97,10 @@ private:
     double m_y = 0;
     int m_pages = 0;
     bool m_onPage = false;
+    bool m_pageIsFresh = false; // it has no line of the report yet
     bool m_empty = true; // of lines
     Block m_block; // waits for lines that belong to it
-    bool m_keepsNext = false; // the last line of the block wants the next one
+    Band m_last = Band::Detail; // of the last line of the block
     QStringList m_open; // the groups in hand, as the next page names them
 };
 

@@ -127,7 +127,7 @@ QStringList TextMeasure::wrapped(const QString &text, double room) const
     QStringList lines;
     if (!text.contains(u'\n') && width(text) <= room)
         return {text};
-    for (const QString &paragraph : text.split(u'\n'))
+    for (const QString &paragraph : text.trimmed().split(u'\n'))
         wrapParagraph(paragraph.trimmed(), room, lines);
     return lines;
 }

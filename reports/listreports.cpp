@@ -82,7 +82,7 @@ ReportDescription listReport(const QString &name, const QString &title, ReportDe
 QList<ReportDescription> listReports()
 {
     using namespace Columns;
-    const auto period = [] { return text(u"Periodppyyyy"_s, ReportsTexts::tr("Period"), 0.8); };
+    const auto period = [] { return text(u"Periodppyyyy"_s, ReportsTexts::tr("Period"), 0.9); };
     const auto posted = [] { return mark(u"Posted"_s, ReportsTexts::tr("Posted")); };
     const QString date = ReportsTexts::tr("Date");
 
@@ -103,7 +103,7 @@ QList<ReportDescription> listReports()
                    documentRows<DocumentKinds::receipt>,
                    {period(), text(u"ReceiptNo"_s, ReportsTexts::tr("Receipt no."), 1),
                     Columns::date(u"ReceiptDate"_s, date), text(u"PurchaseOrderNo"_s, ReportsTexts::tr("PO"), 1.2),
-                    text(u"VendorName"_s, ReportsTexts::tr("Vendor"), 2.2), location(), posted()}),
+                    text(u"VendorName"_s, ReportsTexts::tr("Vendor"), 2.6), location(), posted()}),
         listReport(u"TrptInvAdjustments"_s, ReportsTexts::tr("Inventory Adjustments"),
                    documentRows<DocumentKinds::adjustment>,
                    {period(), text(u"AdjDescription"_s, ReportsTexts::tr("Description"), 3),

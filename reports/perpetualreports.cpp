@@ -61,13 +61,18 @@ QList<Column> movementColumns(bool byLocation)
 
 QList<Column> summaryColumns()
 {
-    return {Columns::itemNo(),
-            Columns::description(),
-            Columns::quantity(u"OpeningBalance"_s, ReportsTexts::tr("Opening Balance")),
-            Columns::quantity(u"Receipts"_s, ReportsTexts::tr("Receipts")),
-            Columns::quantity(u"Adjustments"_s, ReportsTexts::tr("Adjustments")),
-            Columns::quantity(u"Sales"_s, ReportsTexts::tr("Sales")),
-            Columns::quantity(u"ClosingBalance"_s, ReportsTexts::tr("Closing Balance"))};
+    QList<Column> columns{Columns::itemNo(),
+                          Columns::description(),
+                          Columns::quantity(u"OpeningBalance"_s, ReportsTexts::tr("Opening Balance")),
+                          Columns::quantity(u"Receipts"_s, ReportsTexts::tr("Receipts")),
+                          Columns::quantity(u"Adjustments"_s, ReportsTexts::tr("Adjustments")),
+                          Columns::quantity(u"Sales"_s, ReportsTexts::tr("Sales")),
+                          Columns::quantity(u"ClosingBalance"_s, ReportsTexts::tr("Closing Balance"))};
+    columns[0].width = 1.2;
+    columns[1].width = 3.4;
+    for (qsizetype i = 2; i < columns.size(); ++i)
+        columns[i].width = 1.3; // for the longest title
+    return columns;
 }
 
 Group itemGroup() { return {u"ItemID"_s, {u"ItemNo"_s, u"ItemDescription"_s}}; }
