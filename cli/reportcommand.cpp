@@ -6,6 +6,7 @@
 #include "data/fiscalperiod.h"
 #include "printing/reportcsv.h"
 #include "printing/reportoutput.h"
+#include "reports/blankform.h"
 #include "reports/makereport.h"
 #include "reports/reportlist.h"
 
@@ -35,16 +36,63 @@ const ReportDescription &requireReport(const QString &name)
     throw UsageError(Texts::tr("there is no report '%1', but: %2").arg(name, reportNames()));
 }
 
+void refuseOption(const Arguments &arguments, const ReportDescription &report, const QString &option)
+{
+    if (arguments.has(option))
+        throw UsageError(Texts::tr("the report '%1' takes no --%2").arg(report.listText, option));
+}
+
 void refuseUntaken(const Arguments &arguments, const ReportDescription &report)
 {
     const auto refuse = [&](bool taken, const QString &option) {
-        if (!taken && arguments.has(option))
-            throw UsageError(Texts::tr("the report '%1' takes no --%2").arg(report.listText, option));
+        if (!taken)
+            refuseOption(arguments, report, option);
     };
     refuse(report.parameters.location, u"location"_s);
     refuse(report.parameters.itemType, u"item-type"_s);
     refuse(report.parameters.period, u"period"_s);
     refuse(report.parameters.period, u"year"_s);
+}
+
+// What the form to count on has to choose from.
+struct FormOption
+{
+    OptionSpec option;
+    bool BlankFormChoices::*choice;
+    bool chosen = true;
+};
+
+const QList<FormOption> &formOptions()
+{
+    static const QList<FormOption> all{
+        {{u"by-item"_s, {}, Texts::tr("blank form: by item number in place of category")},
+         &BlankFormChoices::byCategory,
+         false},
+        {{u"page-per-category"_s, {}, Texts::tr("blank form: begins a page with each category")},
+         &BlankFormChoices::pagePerCategory},
+        {{u"include-zero"_s, {}, Texts::tr("blank form: with items that have no balance")},
+         &BlankFormChoices::zeroCounts},
+        {{u"prior"_s, {}, Texts::tr("blank form: with the recorded quantities")},
+         &BlankFormChoices::priorQuantities},
+        {{u"barcodes"_s, {}, Texts::tr("blank form: with barcodes of the item numbers")},
+         &BlankFormChoices::barcodes}};
+    return all;
+}
+
+ReportDescription wantedReport(const Arguments &arguments)
+{
+    const ReportDescription &report = requireReport(arguments.words().at(1));
+    const bool isForm = report.name == blankForm().name;
+    BlankFormChoices choices;
+    for (const FormOption &form : formOptions()) {
+        if (!isForm)
+            refuseOption(arguments, report, form.option.name);
+        if (arguments.has(form.option.name))
+            choices.*form.choice = form.chosen;
+    }
+    if (isForm && !arguments.has(u"location"_s))
+        throw UsageError(Texts::tr("the report '%1' needs --location").arg(report.listText));
+    return isForm ? blankForm(choices) : report;
 }
 
 int positive(const Arguments &arguments, const QString &option, qint64 most)
@@ -79,7 +127,7 @@ void presetPeriod(TDataModuleTallymere &data, const ReportDescription &report, R
 
 void runReportCommand(CommandContext &context)
 {
-    const ReportDescription &report = requireReport(context.arguments.words().at(1));
+    const ReportDescription report = wantedReport(context.arguments);
     ReportSelection selection = selectionOf(context.arguments, report);
     if (context.arguments.has(u"csv"_s) && context.arguments.has(u"pdf"_s))
         throw UsageError(Texts::tr("--csv and --pdf exclude each other"));
@@ -97,7 +145,7 @@ void runReportCommand(CommandContext &context)
 
 void runPrintCommand(CommandContext &context)
 {
-    const ReportDescription &report = requireReport(context.arguments.words().at(1));
+    const ReportDescription report = wantedReport(context.arguments);
     ReportSelection selection = selectionOf(context.arguments, report);
     const auto data = context.openData();
     presetPeriod(*data, report, selection);
@@ -126,6 +174,8 @@ Command reportLikeCommand(const QString &name, const QString &summary, const QLi
     command.summary = summary;
     command.details = Texts::tr("NAME: %1").arg(reportNames());
     command.options = selectionOptions() + options;
+    for (const FormOption &form : formOptions())
+        command.options.append(form.option);
     command.paints = true;
     return command;
 }

@@ -1,8 +1,6 @@
 #include "reports/blankform.h"
 
 #include "base/ruleerror.h"
-#include "base/settingsstore.h"
-#include "data/utilsinv.h"
 #include "reports/columns.h"
 #include "reports/reportlist.h"
 #include "reports/texts.h"
@@ -17,27 +15,19 @@ namespace Tallymere {
 
 namespace {
 
-// --- the choices, as the settings have them --------------------------------------------------------------------------
-
-const auto section = u"FormBlankInventoryReportSelection"_s;
-const auto locationKey = u"Location"_s;
-const auto yes = u"true"_s;
+constexpr auto locationKey = "location"_L1;
 
 struct Mark
 {
-    QString key;
+    QLatin1StringView name;
     bool BlankFormChoices::*choice;
 };
 
-const QList<Mark> &marks()
-{
-    static const QList<Mark> all{{u"ByCategory"_s, &BlankFormChoices::byCategory},
-                                 {u"PagePerCategory"_s, &BlankFormChoices::pagePerCategory},
-                                 {u"ZeroCounts"_s, &BlankFormChoices::zeroCounts},
-                                 {u"PriorQuantities"_s, &BlankFormChoices::priorQuantities},
-                                 {u"Barcodes"_s, &BlankFormChoices::barcodes}};
-    return all;
-}
+constexpr Mark marks[] = {{"byCategory"_L1, &BlankFormChoices::byCategory},
+                          {"pagePerCategory"_L1, &BlankFormChoices::pagePerCategory},
+                          {"zeroCounts"_L1, &BlankFormChoices::zeroCounts},
+                          {"priorQuantities"_L1, &BlankFormChoices::priorQuantities},
+                          {"barcodes"_L1, &BlankFormChoices::barcodes}};
 
 // --- the rows --------------------------------------------------------------------------------------------------------
 
@@ -98,7 +88,7 @@ QList<Column> columns(const BlankFormChoices &choices)
 {
     QList<Column> columns;
     if (choices.barcodes)
-        columns.append(filled(Columns::cutText(u"ItemNo"_s, ReportsTexts::tr("Item No"), 3.6), Content::Barcode));
+        columns.append(filled(Columns::cutText(u"ItemNo"_s, ReportsTexts::tr("Item No"), 3.9), Content::Barcode));
     else
         columns.append(Columns::text(u"ItemNo"_s, ReportsTexts::tr("Item No"), 1.7));
     if (!choices.byCategory && !choices.barcodes) // bars leave no room for it
@@ -107,7 +97,7 @@ QList<Column> columns(const BlankFormChoices &choices)
     if (choices.priorQuantities)
         columns.append(Columns::quantity(u"QtyOnhand"_s, ReportsTexts::tr("Prior Quantity")));
     Column count = filled(Columns::quantity(u"Quantity"_s, ReportsTexts::tr("Current Quantity")), Content::Blank);
-    count.width = 1.6;
+    count.width = 1.5;
     columns.append(count);
     return columns;
 }
@@ -122,26 +112,21 @@ QStringList unpostedNote(Engine::Database &database, const ReportSelection &sele
 
 } // namespace
 
-BlankFormChoices BlankFormChoices::last(const SettingsStore *settings)
+QJsonObject BlankFormChoices::toJson() const
 {
-    BlankFormChoices choices;
-    if (!settings)
-        return choices;
-    const auto kept = [&](const QString &key) { return settings->read(formSetting(section), key); };
-    choices.warehouseId = kept(locationKey).toInt();
-    for (const Mark &mark : marks())
-        if (const QString text = kept(mark.key); !text.isEmpty())
-            choices.*mark.choice = text == yes;
-    return choices;
+    QJsonObject kept{{locationKey, warehouseId}};
+    for (const Mark &mark : marks)
+        kept.insert(mark.name, this->*mark.choice);
+    return kept;
 }
 
-void BlankFormChoices::keep(SettingsStore *settings) const
+BlankFormChoices BlankFormChoices::fromJson(const QJsonObject &kept)
 {
-    if (!settings)
-        return;
-    settings->write(formSetting(section), locationKey, QString::number(warehouseId));
-    for (const Mark &mark : marks())
-        settings->write(formSetting(section), mark.key, this->*mark.choice ? yes : u"false"_s);
+    BlankFormChoices choices;
+    choices.warehouseId = kept[locationKey].toInt();
+    for (const Mark &mark : marks)
+        choices.*mark.choice = kept[mark.name].toBool(choices.*mark.choice);
+    return choices;
 }
 
 ReportDescription blankForm(const BlankFormChoices &choices)

@@ -2,9 +2,9 @@
 
 #include "reports/reportdescription.h"
 
-namespace Tallymere {
+#include <QJsonObject>
 
-class SettingsStore;
+namespace Tallymere {
 
 // What the form that a count is written on is asked for.
 struct BlankFormChoices
@@ -16,9 +16,9 @@ struct BlankFormChoices
     bool priorQuantities = false; // without them the count is a blind one
     bool barcodes = false; // of the item numbers
 
-    // The last ones of the user; null: none are kept.
-    static BlankFormChoices last(const SettingsStore *settings);
-    void keep(SettingsStore *settings) const; // failures are passed over
+    // To be kept and offered again. What is missing is as above.
+    QJsonObject toJson() const;
+    static BlankFormChoices fromJson(const QJsonObject &kept);
 };
 
 // The items that a count of the location lists, in its words, each with a box to write the quantity in. Its rows are
