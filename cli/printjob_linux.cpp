@@ -8,9 +8,10 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere::Cli {
 
-void sendToPrinter(const QString &pdfFile, const QString &printer, const QString &title)
+void sendToPrinter(const QString &pdfFile, const QString &printer, const QString &title, const QPageSize &sheet)
 {
-    QStringList words{u"-t"_s, title};
+    // Without the sheet what is larger than the printer's usual one would be cut off.
+    QStringList words{u"-t"_s, title, u"-o"_s, u"media="_s + sheet.key()};
     if (!printer.isEmpty())
         words << u"-d"_s << printer;
     QProcess lp;

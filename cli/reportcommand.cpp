@@ -154,7 +154,7 @@ void runPrintCommand(CommandContext &context)
     const QString file = folder.filePath(u"report.pdf"_s);
     ConsoleProgress progress(context.console, Texts::tr("Printing"));
     Printing::savePdf(*run, file, progress);
-    sendToPrinter(file, context.arguments.value(u"printer"_s), run->title());
+    sendToPrinter(file, context.arguments.value(u"printer"_s), run->title(), QPageSize(run->paper().size));
 }
 
 QList<OptionSpec> selectionOptions()

@@ -20,9 +20,10 @@ void paintPages(const ReportRun &run, QPagedPaintDevice &device, int resolution,
     if (!painter.begin(&device))
         throw RuleError(PrintingTexts::tr("The report cannot be printed: the printer or the file takes nothing."));
     painter.scale(resolution / unitsPerInch, resolution / unitsPerInch);
-    progress.start(to - from + 1);
-    for (int number = from; number <= to; ++number) {
-        if (number > from && !device.newPage())
+    const int step = from <= to ? 1 : -1;
+    progress.start((to - from) * step + 1);
+    for (int number = from; number != to + step; number += step) {
+        if (number != from && !device.newPage())
             throw RuleError(PrintingTexts::tr("Page %1 cannot be printed.").arg(number));
         paintPage(painter, run.page(number - 1), run.paper(), number, run.pageCount());
         progress.step();

@@ -7,8 +7,9 @@ class QPagedPaintDevice;
 
 namespace Tallymere::Printing {
 
-// Paints pages of a complete report on a printer or into a file, from one to another (from 1, both included). Sets the
-// device's paper. Throws RuleError when the device does not begin or refuses a page.
+// Paints pages of a complete report on a printer or into a file, from one to another (from 1, both included), backwards
+// where the first number is the larger one. Sets the device's paper. Throws RuleError when the device does not begin or
+// refuses a page.
 void paintPages(const ReportRun &run, QPagedPaintDevice &device, int resolution, int from, int to,
                 Progress &progress);
 

@@ -1,0 +1,278 @@
+#include "base/ruleerror.h"
+#include "printing/pagepainter.h"
+#include "printing/printout.h"
+#include "printing/reportoutput.h"
+#include "tests/cli/clirunner.h"
+#include "tests/support/failures.h"
+#include "tests/support/printsystem.h"
+#include "tests/support/spokenprompts.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPrinter>
+
+// Pages on their way through a real print system: what comes out is what the preview shows, and what does not come out
+// is told.
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere::Printing;
+
+namespace {
+
+class Rows : public RowReader
+{
+public:
+    const QStringList &fields() const override { return m_fields; }
+    bool next(ReportRow &row) override
+    {
+        if (m_row == 120)
+            return false;
+        ++m_row;
+        row = {RowKind::Detail,
+               {Engine::Value(u"Group%1"_s.arg(m_row / 40)), Engine::Value(u"K%1"_s.arg(m_row)),
+                Engine::Value(u"Crème brûlée, %1 dl"_s.arg(m_row * 7)), Engine::Value(m_row * 1.5)}};
+        return true;
+    }
+
+private:
+    QStringList m_fields{u"Group"_s, u"Key"_s, u"Text"_s, u"Number"_s};
+    int m_row = 0;
+};
+
+std::unique_ptr<ReportRun> makeRun(bool landscape, QPageSize::PageSizeId size)
+{
+    ReportLayout layout{
+        .title = u"Desserts"_s,
+        .landscape = landscape,
+        .columns = {{.field = u"Key"_s, .title = u"Key"_s},
+                    {.field = u"Text"_s, .title = u"Text"_s, .width = 3},
+                    {.field = u"Number"_s, .title = u"Number"_s, .align = Align::Decimal}},
+        .groups = {{.key = u"Group"_s, .fields = {u"Group"_s}, .heading = true, .totalText = u"Total of %1"_s}},
+        .totals = {{u"Number"_s, TotalOf::Quantities}},
+        .reportTotalText = u"Total"_s,
+    };
+    auto run = std::make_unique<ReportRun>(Report{std::move(layout), std::make_unique<Rows>()}, size,
+                                           PageTexts{u"Harvest Table"_s, u"Printed at noon"_s});
+    run->makePages();
+    return run;
+}
+
+QByteArray outputOf(const QString &program, const QStringList &words)
+{
+    QProcess process;
+    process.start(program, words);
+    EXPECT_TRUE(process.waitForFinished(120'000) && process.exitCode() == 0)
+        << program.toStdString() << ": " << process.readAllStandardError().toStdString();
+    return process.readAllStandardOutput();
+}
+
+QStringList sortedWords(const QString &text)
+{
+    QStringList words = text.simplified().split(u' ');
+    words.sort();
+    return words;
+}
+
+QList<QStringList> wordsOfPages(const QString &pdf)
+{
+    QStringList pages = QString::fromUtf8(outputOf(u"pdftotext"_s, {pdf, u"-"_s})).split(u'\f');
+    pages.removeLast(); // each page ends with one
+    QList<QStringList> words;
+    for (const QString &page : pages)
+        words.append(sortedWords(page));
+    return words;
+}
+
+QStringList wordsOf(const ReportRun &run, int number)
+{
+    QString text = u"Page %1 of %2"_s.arg(number).arg(run.pageCount());
+    for (const TextItem &item : run.page(number - 1).texts)
+        text += u' ' + item.text;
+    return sortedWords(text);
+}
+
+constexpr int dotsPerInch = 144;
+
+QList<QImage> picturesOf(const QString &pdf)
+{
+    const QTemporaryDir folder;
+    outputOf(u"pdftoppm"_s, {u"-r"_s, QString::number(dotsPerInch), u"-gray"_s, pdf, folder.filePath(u"page"_s)});
+    QList<QImage> pictures;
+    for (const QString &name : QDir(folder.path()).entryList(QDir::Files, QDir::Name))
+        pictures.append(QImage(folder.filePath(name)));
+    return pictures;
+}
+
+// As the preview paints it.
+QImage pictureOf(const ReportRun &run, int number)
+{
+    const double scale = dotsPerInch / unitsPerInch;
+    QImage picture((run.paper().sheet().size() * scale).toSize(), QImage::Format_Grayscale8);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    paintPage(painter, run.page(number - 1), run.paper(), number, run.pageCount());
+    return picture;
+}
+
+// How far two pictures are apart in the place where they are most: the ink in a square of a sixth of an inch, from 0
+// to 255. Letters are drawn by different programs, but with the same ink in the same places.
+int distance(const QImage &left, const QImage &right)
+{
+    const auto ink = [](const QImage &picture) {
+        constexpr int square = dotsPerInch / 6;
+        return picture
+            .scaled(picture.width() / square, picture.height() / square, Qt::IgnoreAspectRatio,
+                    Qt::SmoothTransformation)
+            .convertToFormat(QImage::Format_Grayscale8);
+    };
+    const QImage a = ink(left);
+    const QImage b = ink(right);
+    if (a.size() != b.size())
+        return 255;
+    int most = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            most = std::max(most, std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))));
+    return most;
+}
+
+// Whether both show the same page, a landscape one perhaps turned onto a sheet that stands upright.
+void expectSamePicture(const QImage &expected, const QImage &arrived)
+{
+    const bool turned = arrived.width() != expected.width();
+    // Two programs that draw the same page are less than 10 apart, a page that is a point off place 20, one that lacks a
+    // line 40.
+    EXPECT_LT(distance(expected, turned ? arrived.transformed(QTransform().rotate(90)) : arrived), 15);
+}
+
+class PrintTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!system.isRunning())
+            GTEST_SKIP() << "There is no print system here: cups.sh could not start CUPS, or was not asked to.";
+    }
+
+    // What the print of a report ends with, for a printer that need not be there any more; empty when it goes through.
+    static QString refusal(QPrinter &printer)
+    {
+        const auto run = makeRun(false, QPageSize::Letter);
+        CountedProgress progress;
+        return refusalOf([&] { printReport(*run, printer, progress); });
+    }
+
+    PrintSystem system;
+};
+
+TEST_F(PrintTest, WhatThePreviewShowsArrivesAtThePrinter)
+{
+    struct Case
+    {
+        const char *what;
+        bool landscape;
+        QPageSize::PageSizeId size;
+        std::function<void(QPrinter &)> choose;
+        QList<int> pages;
+    };
+    const Case cases[] = {
+        {"a whole report", false, QPageSize::Letter, [](QPrinter &) {}, {1, 2, 3}},
+        {"another paper than the printer's", false, QPageSize::A4, [](QPrinter &) {}, {1, 2, 3}},
+        {"across", true, QPageSize::Letter, [](QPrinter &) {}, {1, 2, 3, 4}},
+        {"copies of some pages",
+         false,
+         QPageSize::Letter,
+         [](QPrinter &printer) {
+             printer.setPrintRange(QPrinter::PageRange);
+             printer.setFromTo(2, 3);
+             printer.setCopyCount(2);
+         },
+         {2, 3, 2, 3}},
+        {"the last page first",
+         false,
+         QPageSize::Letter,
+         [](QPrinter &printer) { printer.setPageOrder(QPrinter::LastPageFirst); },
+         {3, 2, 1}},
+    };
+    for (const Case &example : cases) {
+        SCOPED_TRACE(example.what);
+        const auto run = makeRun(example.landscape, example.size);
+        QPrinter printer(QPrinter::HighResolution); // the default one
+        example.choose(printer);
+        CountedProgress progress;
+        printReport(*run, printer, progress);
+
+        const QString file = system.printed();
+        const QList<QStringList> words = wordsOfPages(file);
+        const QList<QImage> pictures = picturesOf(file);
+        ASSERT_EQ(words.size(), example.pages.size());
+        ASSERT_EQ(pictures.size(), example.pages.size());
+        for (qsizetype i = 0; i < words.size(); ++i) {
+            SCOPED_TRACE(example.pages[i]);
+            EXPECT_EQ(words[i], wordsOf(*run, example.pages[i]));
+            expectSamePicture(pictureOf(*run, example.pages[i]), pictures[i]);
+        }
+    }
+}
+
+TEST_F(PrintTest, APrinterThatRefusesIsTold)
+{
+    QPrinter refusing;
+    refusing.setPrinterName(u"Refusing"_s);
+    EXPECT_EQ(refusal(refusing),
+              u"The report was not printed: Destination \"Refusing\" is not accepting jobs. -> "_s);
+
+    outputOf(u"/usr/sbin/lpadmin"_s,
+             {u"-p"_s, u"Gone"_s, u"-v"_s, u"file:/dev/null"_s, u"-P"_s, system.printerDescription(), u"-E"_s});
+    QPrinter gone;
+    gone.setPrinterName(u"Gone"_s);
+    ASSERT_EQ(gone.printerName(), u"Gone"_s);
+    outputOf(u"/usr/sbin/lpadmin"_s, {u"-x"_s, u"Gone"_s});
+    EXPECT_EQ(refusal(gone), u"The report was not printed: the printer 'Gone' cannot be found any more. -> "_s);
+
+    QPrinter printer; // the failures before do not stick to it
+    EXPECT_EQ(refusal(printer), QString());
+
+    QPrinter orphan;
+    PrintSystem::useServer(u"/nonexistent"_s);
+    EXPECT_EQ(refusal(orphan), u"The report was not printed: the printer 'PDF' cannot be found any more. -> "_s);
+    QPrinter nowhere;
+    EXPECT_EQ(refusal(nowhere), u"The report cannot be printed: the printer or the file takes nothing. -> "_s);
+}
+
+TEST_F(PrintTest, TheProgramPrintsWhatItWritesToAFile)
+{
+    CliRunner cli(Store::Local);
+    ASSERT_EQ(cli.run({u"init"_s}).status, 0);
+    ASSERT_EQ(cli.run({u"sample"_s}).status, 0);
+    const QString written = cli.folder() + u"/report.pdf"_s;
+    const QStringList write{u"report"_s, u"Value by Item"_s, u"--pdf"_s, written};
+    QList<QStringList> before, words;
+    QString file;
+    do { // the pages tell the time, which may go on meanwhile
+        ASSERT_EQ(cli.run(write).status, 0);
+        before = wordsOfPages(written);
+        ASSERT_EQ(cli.run({u"print"_s, u"Value by Item"_s}).status, 0);
+        file = system.printed();
+        ASSERT_EQ(cli.run(write).status, 0);
+        words = wordsOfPages(written);
+    } while (before != words);
+    EXPECT_GE(words.size(), 3);
+    EXPECT_EQ(wordsOfPages(file), words);
+    const QList<QImage> arrived = picturesOf(file);
+    const QList<QImage> expected = picturesOf(written);
+    ASSERT_EQ(arrived.size(), expected.size());
+    for (qsizetype i = 0; i < expected.size(); ++i)
+        expectSamePicture(expected[i], arrived[i]);
+
+    for (const auto &[printer, reason] : {std::pair{u"NOSUCH"_s, u"The printer or class does not exist."_s},
+                                          {u"Refusing"_s, u"Destination \"Refusing\" is not accepting jobs."_s}}) {
+        const CliResult result = cli.run({u"print"_s, u"Value by Item"_s, u"--printer"_s, printer});
+        EXPECT_EQ(result.status, 1) << result;
+        EXPECT_TRUE(result.errors.contains(reason)) << result;
+    }
+}
+
+} // namespace
