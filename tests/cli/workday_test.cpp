@@ -108,15 +108,6 @@ TEST_P(Workday, TheSampleKitchenAddsUpAndGoesIntoANewDatabaseOnly)
     EXPECT_TRUE(again.errors.contains("table 'Item' holds rows already"_L1)) << again;
 }
 
-TEST_P(Workday, ListsComeInTheOrderInWhichTheirScreensOpen)
-{
-    CliRunner cli(GetParam());
-    makeSmallCompany(cli);
-    EXPECT_EQ(cli.column({u"list"_s, u"vendors"_s}, u"VendorName"_s),
-              (QStringList{u"Abroad"_s, u"Closed"_s, u"Home"_s}));
-    EXPECT_EQ(cli.column({u"list"_s, u"items"_s}, u"ItemNo"_s), (QStringList{u"A1"_s, u"B2"_s, u"C3"_s}));
-}
-
 // The file as the first release has left it, with a posted receipt and an open one.
 TEST(FormerRelease, ItsDatabaseOpensAndWorks)
 {

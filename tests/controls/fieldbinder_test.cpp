@@ -75,17 +75,6 @@ protected:
 
 } // namespace
 
-TEST_F(FieldBinderTest, showsDisplayTextAndEditTextUnderTheCursor)
-{
-    EXPECT_EQ(shown("editCost"), u"2.50"_s);
-    EXPECT_EQ(shown("editServed"), u"14 Mar 26"_s);
-    type("<Tab><Tab>");
-    EXPECT_EQ(shown("editServed"), u"03/14/26"_s);
-    type("120149<Tab>");
-    EXPECT_EQ(shown("editServed"), u"01 Dec 49"_s);
-    EXPECT_EQ(table->date(u"Served"), QDate(2049, 12, 1));
-}
-
 // However the cursor has come, what is typed stands for the whole date that was there, one-digit parts among it.
 TEST_F(FieldBinderTest, typedDateReplacesTheOneThatTheCursorCameTo)
 {

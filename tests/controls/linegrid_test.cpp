@@ -156,18 +156,6 @@ TEST_F(LineGridTest, gridWithoutLinesSaysHowToBegin)
     EXPECT_EQ(grid->shownHint(), QString());
 }
 
-TEST_F(LineGridTest, searchBeginsWithWhatIsTyped)
-{
-    show();
-    type("<Return>xy<Ctrl+Return>");
-    EXPECT_EQ(searched, QStringList(u"A:xy"_s));
-    EXPECT_EQ(entry(), u"xy"_s) << "nothing was chosen";
-    found = u"C"_s;
-    press(Qt::Key_Return, Qt::ControlModifier);
-    EXPECT_EQ(entry(), u"-"_s);
-    EXPECT_EQ(lines.text(u"ItemNo"), u"C"_s);
-}
-
 TEST_F(LineGridTest, enteringAColumnByHandOpensItsSearch)
 {
     show({.searchOnEntering = true});

@@ -1,6 +1,5 @@
 #include "base/formats.h"
 #include "controls/filechoice.h"
-#include "controls/filterdialog.h"
 #include "controls/listscreen.h"
 #include "data/utilsinv.h"
 #include "tests/support/screentest.h"
@@ -129,17 +128,6 @@ TEST_F(ListScreenTest, statusLineAndHintSayWhatThereIs)
     kitchen.execute(u"ALTER TABLE Away RENAME TO Item"_s);
 }
 
-TEST_F(ListScreenTest, longListIsCountedAfterItHasBeenPainted)
-{
-    kitchen.execute(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500) "
-                    "INSERT INTO Item (ItemID, ItemNo) SELECT 1000 + i, 'N' || i FROM n"_s);
-    ItemList items(*context, mainWindow.get());
-    items.setAttribute(Qt::WA_DeleteOnClose, false);
-    EXPECT_EQ(status(items), QString());
-    showActive(items);
-    EXPECT_TRUE(comesTrue([&] { return status(items) == u"1 of 504 rows"_s; })) << status(items).toStdString();
-}
-
 TEST_F(ListScreenTest, typedSearchIsShown)
 {
     ItemList &items = open();
@@ -183,35 +171,6 @@ TEST_F(ListScreenTest, commandsFollowTheRecord)
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_D);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
     EXPECT_EQ(items.dropped, QList<int>{1}) << "by the keys of menu and sub-menu";
-}
-
-TEST_F(ListScreenTest, filterDialogHasSeveralBoxesThatOthersMayPreset)
-{
-    FilterDialog dialog(*context,
-                        {.name = u"frmFilter"_s,
-                         .caption = u"Filter"_s,
-                         .boxes = {{u"cboPlace"_s, u"&Location:"_s, u"Warehse"_s},
-                                   {u"cboCurrency"_s, u"&Currency:"_s, u"Currency"_s}}},
-                        mainWindow.get());
-    EXPECT_FALSE(dialog.isOn());
-    dialog.setKey(u"cboCurrency"_s, 2);
-    EXPECT_TRUE(dialog.isOn());
-    EXPECT_EQ(dialog.filter().key, 0) << "only the first box narrows the list";
-    showActive(dialog);
-    EXPECT_EQ(focusName(), u"cboPlace"_s);
-    type("f<Tab>");
-    EXPECT_EQ(focusName(), u"cboCurrency"_s);
-    EXPECT_EQ(child<QComboBox>(dialog, "cboCurrency")->currentText(), u"Far"_s);
-    type("n<Esc><Esc>");
-    EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    EXPECT_EQ(dialog.key(u"cboPlace"_s), 0) << "taken back";
-    EXPECT_EQ(dialog.key(u"cboCurrency"_s), 2) << "preset, not chosen since";
-    showActive(dialog);
-    type("f<Return>");
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_EQ(dialog.filter().key, 2);
-    dialog.btnResetClick();
-    EXPECT_FALSE(dialog.isOn());
 }
 
 TEST_F(ListScreenTest, keyboardComesBackToTheRows)

@@ -50,16 +50,6 @@ protected:
 
 } // namespace
 
-TEST_F(LookupComboBoxTest, listsInTheOrderOfTheTableAndShowsTheKeysRow)
-{
-    EXPECT_EQ(box->count(), 4);
-    EXPECT_EQ(box->itemText(0), u"attic"_s);
-    box->setChosenId(3);
-    EXPECT_EQ(box->currentText(), u"Fridge"_s);
-    box->setChosenId(77);
-    EXPECT_EQ(box->currentText(), QString()) << "a key that the list does not hold";
-}
-
 TEST_F(LookupComboBoxTest, typedLettersMoveAndLeavingChooses)
 {
     QSignalSpy chosen(box, &LookupComboBox::chosen);

@@ -16,25 +16,13 @@ protected:
         screen = new TfrmCompany(*context, mainWindow.get());
         showActive(*screen);
     }
-    void focus(const char *field)
-    {
-        auto *widget = child<QWidget>(*screen, field);
-        auto *pages = child<QTabWidget>(*screen, "PageControl1");
-        for (int i = 0; i < pages->count(); ++i) {
-            if (pages->widget(i)->isAncestorOf(widget))
-                pages->setCurrentIndex(i);
-        }
-        widget->setFocus();
-    }
-    // Types over what stands in a field, and moves on.
+    void focus(const char *field) { focusOn(*screen, field); }
     void enter(const char *field, const char *text)
     {
-        focus(field);
-        press(Qt::Key_Delete);
-        type(text);
+        typeOver(*screen, field, text);
         press(Qt::Key_Return);
     }
-    void click(const char *button) { child<QAbstractButton>(*screen, button)->click(); }
+    void click(const char *button) { ::click(*screen, button); }
     QString shown(const char *field) { return child<QLineEdit>(*screen, field)->text(); }
     QString stored(const char16_t *field)
     {
@@ -45,26 +33,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(CompanyScreen, ShowsTheHostsNameAndTheUsersCalendar)
-{
-    open();
-    EXPECT_EQ(focusName(), u"editCompanyName"_s);
-    EXPECT_EQ(shown("editCompanyName"), u"Test Kitchen"_s);
-    for (const char *hosts : {"editCompanyName", "editAddressLine1", "editAddressLine2", "editPhone"})
-        EXPECT_TRUE(child<QLineEdit>(*screen, hosts)->isReadOnly()) << hosts;
-    focus("editFiscalYear");
-    EXPECT_EQ(shown("editFiscalYear"), u"26"_s);
-    press(Qt::Key_Return);
-    EXPECT_EQ(focusName(), u"editDefaultPeriodPP"_s);
-    EXPECT_EQ(shown("editFiscalYear"), u"2026"_s);
-    EXPECT_FALSE(child<QWidget>(*screen, "btnYearEnd")->isVisible());
-    EXPECT_FALSE(child<QWidget>(*screen, "btnHelp")->isEnabled()) << "there is no help";
-    press(Qt::Key_Escape);
-    settle();
-    EXPECT_FALSE(screen);
-    EXPECT_TRUE(prompts.said.isEmpty());
-}
 
 TEST_F(CompanyScreen, RefusedEntriesKeepTheCursor)
 {
@@ -122,6 +90,8 @@ TEST_F(CompanyScreen, DefaultsAreChosenFromLists)
 TEST_F(CompanyScreen, AskedForAgainItShowsWhatIsStoredUnlessSomethingIsEntered)
 {
     open();
+    for (const char *hosts : {"editCompanyName", "editAddressLine1", "editAddressLine2", "editPhone"})
+        EXPECT_TRUE(child<QLineEdit>(*screen, hosts)->isReadOnly()) << hosts;
     focus("memoNotes");
     kitchen.execute(u"UPDATE Company SET TaxNo = 'theirs'"_s);
     screen->showAgain();

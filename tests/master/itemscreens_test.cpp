@@ -30,14 +30,12 @@ protected:
         ASSERT_TRUE(item);
         showActive(*item);
     }
-    void clickList(const char *button) { child<QPushButton>(*list, button)->click(); }
-    void clickItem(const char *button) { child<QPushButton>(*item, button)->click(); }
+    void clickList(const char *button) { click(*list, button); }
+    void clickItem(const char *button) { click(*item, button); }
     // Types over what stands in a field of the item, and moves on.
     void enter(const char *field, const char *text)
     {
-        child<QWidget>(*item, field)->setFocus();
-        press(Qt::Key_Delete);
-        type(text);
+        typeOver(*item, field, text);
         press(Qt::Key_Return);
     }
     QString shown(const char *field) { return child<QLineEdit>(*item, field)->text(); }

@@ -83,7 +83,6 @@ protected:
         ASSERT_TRUE(record);
         showActive(*record);
     }
-    void click(QWidget &window, const char *button) { child<QPushButton>(window, button)->click(); }
     QStringList currentRow()
     {
         QStringList cells;

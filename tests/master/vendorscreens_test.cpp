@@ -51,26 +51,16 @@ protected:
             showActive(*contact);
         return contact;
     }
-    // Brings the cursor to a field, on whatever page it is.
     void enter(QWidget &window, const char *field)
     {
         showActive(window);
-        auto *widget = child<QWidget>(window, field);
-        auto *pages = child<QTabWidget>(window, "PageControl1");
-        for (int i = 0; i < pages->count(); ++i) {
-            if (pages->widget(i)->isAncestorOf(widget))
-                pages->setCurrentIndex(i);
-        }
-        widget->setFocus();
+        focusOn(window, field);
     }
     void fill(QWidget &window, const char *field, const char *text)
     {
-        enter(window, field);
-        child<QLineEdit>(window, field)->selectAll();
-        type(text);
+        showActive(window);
+        typeOver(window, field, text);
     }
-    void click(QWidget &window, const char *button) { child<QAbstractButton>(window, button)->click(); }
-    int page() { return child<QTabWidget>(*card, "PageControl1")->currentIndex(); }
     QString contacts()
     {
         const QAbstractItemModel *model = child<QTableView>(*card, "DBGrid1")->model();
@@ -87,28 +77,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(VendorScreensTest, newVendorIsEnteredByKeyboard)
-{
-    kitchen.execute(u"UPDATE Company SET DefaultCurrencyID = NULL"_s);
-    open();
-    EXPECT_EQ(focusName(), u"editVendorNo"_s);
-    type("<Return>O'Neil & Sons; 100%"); // the proposed number stays
-    fill(*card, "editZipCode", "k1a");
-    fill(*card, "editWebPage", "http://oneil.example");
-    press(Qt::Key_O, Qt::AltModifier); // the button goes down visibly before it acts
-    EXPECT_TRUE(comesTrue([this] { return !prompts.said.isEmpty(); }));
-    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Currency' must have a value"_s});
-    EXPECT_EQ(page(), 1) << "where the currency is";
-    EXPECT_EQ(focusName(), u"cboCurrency"_s);
-    type("Fa<Alt+O>");
-    EXPECT_TRUE(comesTrue([this] { return !card; }));
-    EXPECT_EQ(prompts.said, QStringList());
-    EXPECT_EQ(kitchen.rows(u"SELECT VendorID, VendorNo, VendorName, ZipCode, WebPage, CurrencyID, Suspended FROM "
-                           "Vendor WHERE VendorID > 5"_s),
-              QStringList{u"10000|1001|O'Neil & Sons; 100%|K1A|oneil.example|2|false"_s});
-    EXPECT_EQ(current(), u"1001"_s);
-}
 
 TEST_F(VendorScreensTest, newVendorIsSavedBeforeItsContacts)
 {

@@ -84,6 +84,32 @@ inline void type(const QString &text)
     QCoreApplication::processEvents();
 }
 
+// Brings the cursor to a field, on whatever page it is.
+inline void focusOn(const QWidget &window, const char *field)
+{
+    auto *widget = child<QWidget>(window, field);
+    for (QWidget *page = widget; page; page = page->parentWidget()) {
+        if (auto *pages =
+                page->parentWidget() ? qobject_cast<QTabWidget *>(page->parentWidget()->parentWidget()) : nullptr)
+            pages->setCurrentWidget(page);
+    }
+    widget->setFocus();
+}
+
+// Types over what stands in a field.
+inline void typeOver(const QWidget &window, const char *field, const char *text)
+{
+    focusOn(window, field);
+    if (auto *edit = qobject_cast<QLineEdit *>(QApplication::focusWidget()))
+        edit->selectAll();
+    if (*text)
+        type(text);
+    else
+        press(Qt::Key_Delete);
+}
+
+inline void click(const QWidget &window, const char *button) { child<QAbstractButton>(window, button)->click(); }
+
 inline QString focusName()
 {
     return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();

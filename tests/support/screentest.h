@@ -21,6 +21,18 @@ protected:
     // Lets windows that have been closed go.
     static void settle();
 
+    // The screen of a record or a document, or of a new one (0).
+    template <typename Screen> Screen *openRecord(int key = 0)
+    {
+        auto *screen = new Screen(*context, mainWindow.get());
+        if (key == 0)
+            screen->newRecord();
+        else
+            EXPECT_TRUE(screen->openRecord(key));
+        showActive(*screen);
+        return screen;
+    }
+
     SpokenPrompts prompts;
     Kitchen kitchen;
     Tallymere::MemorySettings settings;

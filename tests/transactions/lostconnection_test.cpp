@@ -25,25 +25,8 @@ protected:
         settle();
     }
 
-    template <typename Screen> Screen &open(int key)
-    {
-        auto *opened = new Screen(*context, mainWindow.get());
-        screen = opened;
-        if (key == 0)
-            opened->newRecord();
-        else
-            EXPECT_TRUE(opened->openRecord(key));
-        showActive(*opened);
-        return *opened;
-    }
-    static void enter(const QWidget &window, const char *name, const QString &text)
-    {
-        auto *edit = child<QLineEdit>(window, name);
-        edit->setFocus();
-        edit->selectAll();
-        type(text);
-    }
-    void changeHeader() { enter(*screen, "editPurchaseOrderNo", u"P1"_s); }
+    template <typename Screen> void open(int key) { screen = openRecord<Screen>(key); }
+    void changeHeader() { typeOver(*screen, "editPurchaseOrderNo", "P1"); }
     void changeLine()
     {
         auto *grid = child<LineGrid>(*screen, "DBGrid1");
@@ -95,8 +78,8 @@ TEST_F(LostConnection, everyWayOutEndsTheScreen)
     } works[] = {
         {"header", [&] { open<TfrmInvReceipt>(7), changeHeader(); }},
         {"line", [&] { open<TfrmInvReceipt>(7), changeLine(); }, true},
-        {"new", [&] { enter(open<TfrmInvReceipt>(0), "editVendorNo", u"V1"_s), press(Qt::Key_Return); }},
-        {"item type", [&] { enter(open<TfrmItemTypeInv>(1), "editTypeName", u"Groceries"_s); }},
+        {"new", [&] { open<TfrmInvReceipt>(0), typeOver(*screen, "editVendorNo", "V1<Return>"); }},
+        {"item type", [&] { open<TfrmItemTypeInv>(1), typeOver(*screen, "editTypeName", "Groceries"); }},
     };
     prompts.answer = Answer::No;
     for (const bool forGood : {false, true}) {

@@ -24,10 +24,8 @@ protected:
     }
     void open()
     {
-        screen = new TfrmUsage(*context, mainWindow.get());
-        screen->newRecord();
+        screen = openRecord<TfrmUsage>();
         grid = child<LineGrid>(*screen, "DBGrid1");
-        showActive(*screen);
     }
     void openList()
     {
