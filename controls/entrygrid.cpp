@@ -112,7 +112,16 @@ void EntryGrid::editorLeft(Qt::FocusReason reason)
     if (!failure)
         return entryLeft(reason);
     dropEntry();
+    if (leadsAway(failure, cell))
+        return reportLater(failure, {});
     reportLater(failure, [this, cell, text] { reopen(cell, text); });
+}
+
+// A refusal may name another column than the one that was typed into: the cursor goes there.
+bool EntryGrid::leadsAway(const std::exception_ptr &failure, const QModelIndex &cell) const
+{
+    const QString named = Guard::columnOf(failure);
+    return !named.isEmpty() && columnOf(named) >= 0 && columnOf(named) != cell.column();
 }
 
 void EntryGrid::editorGone()

@@ -9,7 +9,8 @@ class QLineEdit;
 namespace Tallymere {
 
 // A grid whose cells are typed into, in place. What is typed is handed over by Enter, Tab or leaving the cell. Where it is
-// refused the editor stays open, or is opened again on it once the refusal has been shown. Escape drops it.
+// refused the editor stays open, or is opened again on it once the refusal has been shown, unless that sends the cursor to
+// another column. Escape drops it.
 class EntryGrid : public DataGrid
 {
     Q_OBJECT
@@ -55,6 +56,7 @@ private:
 
     QWidget *openEditor(QWidget *parent, const QModelIndex &cell);
     void editorLeft(Qt::FocusReason reason);
+    bool leadsAway(const std::exception_ptr &failure, const QModelIndex &cell) const;
     void editorGone();
 
     const Guard *m_guard = nullptr;

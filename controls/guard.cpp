@@ -65,6 +65,19 @@ void Guard::trace(const std::exception_ptr &failure)
     }
 }
 
+QString Guard::columnOf(const std::exception_ptr &failure)
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (const RuleError &error) {
+        return error.column();
+    } catch (const SilentAbort &abort) {
+        return abort.column();
+    } catch (...) {
+        return {};
+    }
+}
+
 void Guard::focus(const QString &column) const
 {
     if (m_focusColumn && !column.isEmpty())

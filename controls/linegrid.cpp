@@ -112,10 +112,11 @@ bool LineGrid::showColumn(const QString &field)
     const int column = m_model->columnOf(field);
     if (column < 0)
         return false;
-    if (editor()) {
+    if (editor() && column == currentIndex().column()) {
         editor()->setFocus();
         return true;
     }
+    dropEntry();
     setFocus();
     if (m_model->currentRow() >= 0)
         selectCell(m_model->currentRow(), column);

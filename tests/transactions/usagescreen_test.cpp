@@ -107,6 +107,18 @@ TEST_F(UsageScreenTest, leadsBackToTheItemWithoutTheSearchAndAsksInItsOwnWords)
     QCoreApplication::processEvents();
     EXPECT_EQ(cursor(), u"0,1"_s);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    for (const auto &leave : {std::function<void()>([] { press(Qt::Key_Return); }), std::function<void()>([&] {
+                                  child<QLineEdit>(*screen, "editDescription")->setFocus();
+                              })}) {
+        type("<Tab><Tab>Yeast"); // which is suspended
+        leave();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(prompts.take(), QStringList(u"error: Item 'X9: Yeast' has been suspended"_s));
+        EXPECT_EQ(cursor(), u"0,1"_s);
+        EXPECT_FALSE(grid->hasEntry());
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(focusName(), u"DBGrid1"_s);
+    }
     screen->close();
     EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save your changes?"_s));
     screen->btnCancelClick();
