@@ -44,7 +44,7 @@ double numberFromText(const QString &text, const RegionalSettings &settings, con
     const double number = ok ? plain.toDouble(&ok) : 0;
     if (!ok)
         refuse(QT_TRANSLATE_NOOP("Base", "'%1' is not a number"), text.trimmed(), column);
-    return number;
+    return number + 0.0; // no minus sign at zero
 }
 
 } // namespace Tallymere

@@ -43,7 +43,7 @@ double realNumber(const ImportColumn &column, const QString &text)
     const double number = QLocale::c().toDouble(text, &ok);
     if (!ok || (column.type == FieldType::Money && std::abs(number) > largestMoney))
         refuse(column, text, ImportTexts::tr("is out of range"));
-    return number;
+    return number + 0.0; // no minus sign at zero
 }
 
 qint64 wholeNumber(const ImportColumn &column, const QString &text)
