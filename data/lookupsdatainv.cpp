@@ -2,6 +2,7 @@
 
 #include "data/personname.h"
 #include "data/texts.h"
+#include "engine/error.h"
 #include "engine/textsize.h"
 
 #include <QStringList>
@@ -105,8 +106,9 @@ LookupList TdmLookUpsInv::list(QStringView table)
         return {tblCurrency(), u"CurrencyName"_s, DataTexts::tr("Currency")};
     if (table == u"ItemType")
         return {tblItemType(), u"TypeName"_s, DataTexts::tr("Item Type")};
-    Q_ASSERT(table == u"Warehse");
-    return {tblWarehse(), u"WarehouseName"_s, DataTexts::tr("Location")};
+    if (table == u"Warehse")
+        return {tblWarehse(), u"WarehouseName"_s, DataTexts::tr("Location")};
+    Engine::raise(Engine::ErrorCode::NoSuchTable, DataTexts::tr("There is no list '%1' to choose from").arg(table));
 }
 
 Table &TdmLookUpsInv::opened(Table &table)
