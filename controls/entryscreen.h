@@ -42,7 +42,7 @@ protected:
     virtual Pending pending() const = 0; // what closing would lose
     virtual void saveChanges() = 0; // throws what refuses
     virtual void dropChanges() = 0;
-    virtual std::optional<int> savedKey() const = 0; // nothing when nothing has been written in this visit
+    virtual std::optional<int> savedKey() const = 0; // where OK leads the list; nothing where it stays
     virtual QString caption() const = 0;
     virtual QString recordName() const { return caption(); } // among the records that are open
     virtual QString closingQuestion() const { return tr("Do you want to save changes?"); }

@@ -83,8 +83,13 @@ void RecordListScreen::btnFilterClick()
 {
     if (!m_filter)
         m_filter = m_dialogs.makeFilter();
-    if (m_filter->exec() == QDialog::Accepted)
-        switchFilter(m_filter->isOn(), m_dialogs.filterExpression(m_filter->filter()));
+    if (m_filter->exec() != QDialog::Accepted)
+        return;
+    const auto inForce = [this] { return std::pair(dataSet().isFiltered(), dataSet().filter()); };
+    const auto before = inForce();
+    switchFilter(m_filter->isOn(), m_dialogs.filterExpression(m_filter->filter()));
+    if (inForce() == before) // another one reads the list by itself
+        refreshList();
 }
 
 void RecordListScreen::btnFindClick() { m_dialogs.makeFind()->exec(); }

@@ -74,12 +74,14 @@ struct DocumentKind
     QList<GridColumn> lineColumns; // of its line grid; the quantity comes first
     std::function<std::unique_ptr<DocumentEntry>(Engine::Database &, Prompts &)> makeEntry;
     bool opensFromHistory = true; // the source of a history row can be looked at
+    bool leadsListUnsaved = false; // OK moves the list to the document also where nothing was saved
 
     // --- its list -----------------------------------------------------------------------------------------------
     QString listScreen; // "frmInvReceipts"
     QString listCaption; // "Inventory Receipts"
     QList<GridColumn> columns;
     QList<ListOrder> orders; // as the menu has them; the first is in force at the start
+    bool showsFirstRow = false; // goes to it each time it is shown
     std::function<void(Engine::Table &)> addListFields; // looked-up ones of its own, before the table is opened
     QString filterScreen; // "frmInvReceiptsFilter"
     QString filterCaption; // "Inventory Receipts Filter"

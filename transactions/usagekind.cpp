@@ -38,6 +38,7 @@ const DocumentKind &DocumentKinds::usage()
         .makeEntry = [](Engine::Database &database,
                         Prompts &prompts) { return std::make_unique<UsageEntry>(database, prompts); },
         .opensFromHistory = false,
+        .leadsListUnsaved = true,
         .listScreen = u"frmUsages"_s,
         .listCaption = TransactionsTexts::tr("Inventory Usage"),
         .columns = {{u"InventoryDate"_s, TransactionsTexts::tr("Date"), 90},

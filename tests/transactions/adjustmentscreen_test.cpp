@@ -1,10 +1,23 @@
 #include "tests/support/screentest.h"
+#include "transactions/documentkinds.h"
+#include "transactions/screens/documentlistscreen.h"
 #include "transactions/screens/invadjustment.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 using AdjustmentScreenTest = ScreenTest;
+
+TEST_F(AdjustmentScreenTest, listBeginsAtItsFirstRowEachTimeItIsShown)
+{
+    kitchen.execute(
+        u"INSERT INTO IAdjust (AdjustmentID, GLYear, GLPeriod) VALUES (1, 2026, 3), (2, 2026, 4), (3, 2026, 5)"_s);
+    DocumentListOf<DocumentKinds::adjustment> list(*context, mainWindow.get());
+    showActive(list);
+    ASSERT_TRUE(list.moveToKey(1));
+    list.showAgain();
+    EXPECT_EQ(list.dataSet().integer(u"AdjustmentID"), 3);
+}
 
 TEST_F(AdjustmentScreenTest, stepsTheDateThatIsShownAndLeavesTheLinesForTheLocation)
 {

@@ -1,6 +1,7 @@
 #include "controls/datedialog.h"
 #include "controls/linegrid.h"
 #include "controls/lookupcombobox.h"
+#include "controls/screenmetrics.h"
 #include "master/screens/itemsearchinv.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/documentfilterscreen.h"
@@ -141,6 +142,9 @@ TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
     EXPECT_EQ(list->windowTitle(), u"Inventory Usage (Filtered)"_s);
     EXPECT_EQ(list->dataSet().filter(), QString());
     EXPECT_EQ(list->dataSet().recordCount(), 3);
+    kitchen.execute(u"INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, Posted) VALUES (4, '14', 1, true)"_s);
+    filter([](DocumentFilterScreen &) {});
+    EXPECT_EQ(list->dataSet().recordCount(), 4) << "read anew";
     filter([](DocumentFilterScreen &dialog) {
         dialog.setKey(u"cboWarehouse"_s, 2);
         child<QAbstractButton>(dialog, "optPostedNo")->click();
@@ -155,13 +159,29 @@ TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
         for (const QString &command : {u"mnuDelete"_s, u"mnuDeleteDate"_s})
             EXPECT_EQ(list->command(command)->isEnabled(), key == 2) << command.toStdString();
     }
+    list->btnEditClick();
+    ASSERT_TRUE(list->moveToKey(1));
+    findScreen<TfrmUsage>(u"frmUsage"_s)->btnOKClick();
+    EXPECT_EQ(list->dataSet().integer(u"UsageID"), 2) << "the list follows, though nothing was saved";
+    settle();
+
     data->setCurrentUser(u"anna"_s);
-    EXPECT_TRUE(
-        whileOpen<DateDialog>([&] { list->command(u"mnuDeleteDate"_s)->trigger(); },
-                              [](DateDialog &dialog) {
-                                  child<QCalendarWidget>(dialog, "calendar")->setSelectedDate(QDate(2026, 3, 15));
-                                  child<QPushButton>(dialog, "btnOK")->click();
-                              }));
-    EXPECT_EQ(list->dataSet().recordCount(), 2); // one without a mark is neither posted nor not
+    const auto removeByDate = [this] {
+        EXPECT_TRUE(whileOpen<DateDialog>(
+            [this] { list->command(u"mnuDeleteDate"_s)->trigger(); },
+            [](DateDialog &dialog) {
+                child<QCalendarWidget>(dialog, "calendar")->setSelectedDate(QDate(2026, 3, 15));
+                child<QPushButton>(dialog, "btnOK")->click();
+            }));
+        EXPECT_EQ(list->dataSet().recordCount(), 3); // one without a mark is neither posted nor not
+    };
+    kitchen.execute(u"ALTER TABLE History RENAME TO Gone"_s);
+    removeByDate(); // leaves no note
+    EXPECT_TRUE(prompts.last().startsWith("error: "_L1));
+    kitchen.execute(u"ALTER TABLE Gone RENAME TO History; "
+                    "INSERT INTO IUsage (UsageID, InventoryDate, Posted) VALUES (5, '2026-03-15', false)"_s);
+    list->refreshList();
+    ASSERT_TRUE(list->moveToKey(5));
+    removeByDate();
     EXPECT_EQ(kitchen.rows(uR"(SELECT "user" FROM History)"_s), QStringList(u"anna"_s));
 }

@@ -54,6 +54,13 @@ ListDescription DocumentListScreen::description()
                       helpMenu(tr("%1 &Help").arg(kind.listCaption))}};
 }
 
+void DocumentListScreen::showStep()
+{
+    RecordListScreen::showStep();
+    if (m_list.kind().showsFirstRow)
+        m_list.table().first();
+}
+
 void DocumentListScreen::mnuPostClick()
 {
     DocumentPostScreen dialog(context(), m_list.kind(), isVisible() ? this : parentWidget());

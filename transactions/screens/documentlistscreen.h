@@ -23,6 +23,7 @@ protected:
     // Called once by the constructor of a screen. The description may be added to before the list is built from it.
     void buildList(const std::function<void(ListDescription &)> &add = {});
     void post(DocumentPostScreen &dialog);
+    void showStep() override;
 
     DocumentList &list() { return m_list; }
 

@@ -203,7 +203,7 @@ void DocumentScreen::dropChanges()
 
 std::optional<int> DocumentScreen::savedKey() const
 {
-    return m_entry->wasSaved() ? std::optional(m_entry->key()) : std::nullopt;
+    return m_entry->wasSaved() || m_entry->kind().leadsListUnsaved ? std::optional(m_entry->key()) : std::nullopt;
 }
 
 QString DocumentScreen::caption() const { return m_entry->caption(); }

@@ -6,6 +6,7 @@
 #include "transactions/usagedeletion.h"
 
 #include <algorithm>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -62,8 +63,9 @@ void TfrmUsages::mnuDeleteDateClick()
     if (!date)
         return;
     UsageDeletion deletion(context().data.databaseTallymere(), *date);
-    if (deletion.run(context().prompts, context().data.currentUser()))
-        refreshList();
+    // A failure half-way has deleted something as well.
+    const auto shown = qScopeGuard([this] { Guard::attempt([this] { refreshList(); }); });
+    deletion.run(context().prompts, context().data.currentUser());
 }
 
 } // namespace Tallymere
