@@ -32,10 +32,14 @@ QJsonDocument written(const CountDraft &draft)
     QJsonArray counts;
     for (auto count = draft.counts.cbegin(); count != draft.counts.cend(); ++count)
         counts.append(QJsonArray{count.key(), *count});
+    QJsonArray costs;
+    for (auto cost = draft.costs.cbegin(); cost != draft.costs.cend(); ++cost)
+        costs.append(QJsonArray{cost.key(), cost->toDouble()});
     return QJsonDocument(QJsonObject{{u"saved"_s, draft.saved.toString(Qt::ISODate)},
                                      {u"date"_s, draft.date.toString(Qt::ISODate)},
                                      {u"zeroCounts"_s, draft.zeroCounts == ZeroCounts::Included},
-                                     {u"counts"_s, counts}});
+                                     {u"counts"_s, counts},
+                                     {u"costs"_s, costs}});
 }
 
 CountDraft read(const QJsonObject &object)
@@ -49,6 +53,12 @@ CountDraft read(const QJsonObject &object)
         const double quantity = count[1].toDouble(-1);
         if (std::isfinite(quantity) && quantity >= 0)
             draft.counts.insert(count[0].toInteger(), quantity);
+    }
+    const QJsonArray costs = object[u"costs"_s].toArray();
+    for (const auto &cost : costs) {
+        const double amount = cost[1].toDouble(qInf());
+        if (std::abs(amount) <= Engine::Money::largestAmount)
+            draft.costs.insert(cost[0].toInteger(), Engine::Money::fromDouble(amount));
     }
     return draft;
 }
@@ -76,7 +86,7 @@ std::optional<CountDraft> CountDrafts::load(int location) const
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const CountDraft draft = read(QJsonDocument::fromJson(file.readAll()).object());
-    return draft.counts.isEmpty() ? std::nullopt : std::optional(draft);
+    return draft.counts.isEmpty() && draft.costs.isEmpty() ? std::nullopt : std::optional(draft);
 }
 
 QList<int> CountDrafts::locations() const

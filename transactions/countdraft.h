@@ -15,6 +15,7 @@ struct CountDraft
     QDate date; // of the inventory
     ZeroCounts zeroCounts = ZeroCounts::Excluded;
     ItemQuantities counts;
+    ItemCosts costs = {}; // standard costs that have been typed
 };
 
 // The drafts of one user of one database on this machine, a file for each location. They outlive the program, however it

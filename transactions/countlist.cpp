@@ -130,7 +130,11 @@ void CountList::count(int row, double quantity)
 
 void CountList::forgetCount(int row) { at(row).typed.reset(); }
 
-void CountList::setStandardCost(int row, Engine::Money cost) { at(row).standardCost = cost; }
+void CountList::setStandardCost(int row, Engine::Money cost)
+{
+    at(row).standardCost = cost;
+    at(row).costTyped = true;
+}
 
 double CountList::highest(int row) const
 {
@@ -157,12 +161,14 @@ void CountList::acceptCounts()
         if (placed.row.typed)
             placed.row.recorded = placed.row.typed;
         placed.row.typed.reset();
+        placed.row.costTyped = false;
     }
 }
 
-bool CountList::hasCounts() const
+bool CountList::hasEdits() const
 {
-    return std::any_of(m_rows.begin(), m_rows.end(), [](const Placed &one) { return one.row.typed.has_value(); });
+    return std::any_of(m_rows.begin(), m_rows.end(),
+                       [](const Placed &one) { return one.row.typed || one.row.costTyped; });
 }
 
 bool CountList::hasUsage() const
@@ -192,6 +198,24 @@ int CountList::takeCounts(const ItemQuantities &counts)
         ++taken;
     }
     return taken;
+}
+
+ItemCosts CountList::costs() const
+{
+    ItemCosts costs;
+    for (const Placed &placed : m_rows) {
+        if (placed.row.costTyped)
+            costs.insert(placed.row.itemId, placed.row.standardCost);
+    }
+    return costs;
+}
+
+void CountList::takeCosts(const ItemCosts &costs)
+{
+    for (int row = 0; row < size(); ++row) {
+        if (const auto cost = costs.constFind(at(row).itemId); cost != costs.constEnd())
+            setStandardCost(row, *cost);
+    }
 }
 
 CountList::Totals CountList::totals() const

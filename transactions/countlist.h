@@ -17,6 +17,7 @@ struct CountRow
     QString typeName;
     QString description;
     Engine::Money standardCost;
+    bool costTyped = false; // the standard cost is the user's, not the books'
     Engine::Money unitCost; // by the costing method of the item's type
     std::optional<double> recorded; // what the books hold; nothing where there is no balance
     std::optional<double> typed; // what has been counted; nothing while nobody has, which is not 0
@@ -29,6 +30,7 @@ struct CountRow
 
 // Counted quantities by item.
 using ItemQuantities = QHash<qint64, double>;
+using ItemCosts = QHash<qint64, Engine::Money>;
 
 // The items to be counted at one location, with what has been counted so far. Counts stay with their items in every
 // order.
@@ -65,10 +67,12 @@ public:
     void deduct(const ItemQuantities &unposted);
     void acceptCounts(); // what has been counted is what is recorded from now on
 
-    bool hasCounts() const;
+    bool hasEdits() const; // a count or a standard cost has been typed
     bool hasUsage() const; // some row holds less than recorded
     ItemQuantities counts() const; // of the items that have been counted
     int takeCounts(const ItemQuantities &counts); // of items that are in the list; how many those are
+    ItemCosts costs() const; // standard costs that have been typed
+    void takeCosts(const ItemCosts &costs);
 
     struct Totals
     {

@@ -1,6 +1,5 @@
 #include "transactions/countsource.h"
 
-#include "data/utilsinv.h"
 #include "engine/database.h"
 #include "engine/dialect.h"
 
@@ -76,13 +75,6 @@ ItemQuantities quantities(Engine::Database &database, const QString &statement, 
 } // namespace
 
 QString CountLocation::text() const { return u"%1          [%2]"_s.arg(name, QString::number(id)); }
-
-// A name may have brackets of its own.
-int CountLocation::idOf(const QString &text)
-{
-    const qsizetype bracket = text.lastIndexOf(u'[');
-    return bracket < 0 ? 0 : extractIDFromString(text.mid(bracket)).toInt();
-}
 
 std::vector<CountLocation> CountSource::locations() const
 {

@@ -18,7 +18,6 @@ struct CountLocation
     QString name;
 
     QString text() const; // the name, and the key behind it
-    static int idOf(const QString &text); // the key of such a text; 0 when none can be read
 };
 
 enum class ZeroCounts { Excluded, Included }; // items without any balance

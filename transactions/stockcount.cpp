@@ -90,7 +90,7 @@ void StockCount::deductUnposted() { m_list.deduct(m_source.unpostedUsage(m_locat
 void StockCount::setDate(QDate date)
 {
     m_date = date;
-    if (hasCounts())
+    if (hasEdits())
         keepDraft();
 }
 
@@ -106,19 +106,34 @@ void StockCount::forgetCount(int row)
     keepDraft();
 }
 
+void StockCount::setStandardCost(int row, Engine::Money cost)
+{
+    m_list.setStandardCost(row, cost);
+    keepDraft();
+}
+
 // Counting goes on without a draft.
 void StockCount::keepDraft()
 {
     m_draftFailure.clear();
     if (!m_drafts)
         return;
-    if (!hasCounts())
+    if (!hasEdits())
         return dropDraft();
     try {
-        m_drafts->save(m_location, {m_database.session().now(), m_date, m_zeroCounts, m_list.counts()});
+        m_drafts->save(m_location,
+                       {m_database.session().now(), m_date, m_zeroCounts, m_list.counts(), m_list.costs()});
     } catch (const RuleError &error) {
         m_draftFailure = error.message();
     }
+}
+
+void StockCount::requireDraft()
+{
+    keepDraft();
+    if (!m_draftFailure.isEmpty())
+        throw RuleError(m_draftFailure + u"\n\n"_s
+                        + TransactionsTexts::tr("The count stays open, so that nothing is lost."));
 }
 
 std::optional<CountDraft> StockCount::draft() const
@@ -130,6 +145,7 @@ void StockCount::resume(const CountDraft &draft)
 {
     if (draft.zeroCounts != m_zeroCounts)
         read(draft.zeroCounts);
+    m_list.takeCosts(draft.costs);
     const auto missing = draft.counts.size() - m_list.takeCounts(draft.counts);
     if (missing > 0)
         m_prompts.inform(TransactionsTexts::tr("%n item(s) that have been counted are no longer in the list.",

@@ -29,15 +29,16 @@ public:
     int location() const { return m_location; }
     ZeroCounts zeroCounts() const { return m_zeroCounts; }
     const CountList &list() const { return m_list; }
-    bool hasCounts() const { return m_list.hasCounts(); }
+    bool hasEdits() const { return m_list.hasEdits(); }
 
     void sortBy(CountList::Order order) { m_list.sortBy(order); }
-    void setStandardCost(int row, Engine::Money cost) { m_list.setStandardCost(row, cost); }
     // Each keeps the draft.
     void setDate(QDate date); // of the inventory
     void count(int row, double quantity); // throws RuleError for one below zero
     void forgetCount(int row);
+    void setStandardCost(int row, Engine::Money cost);
     const QString &draftFailure() const { return m_draftFailure; } // why the draft could not be written, if so
+    void requireDraft(); // writes it once more; throws RuleError when it cannot be kept
 
     std::optional<CountDraft> draft() const; // of the open list
     // Takes its counts; items that are no longer in the list are told.

@@ -113,6 +113,13 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     EXPECT_TRUE(status().contains("2 line(s)"_L1)) << status().toStdString();
     EXPECT_FALSE(ok->isEnabled());
     EXPECT_EQ(rows().last(), u"B1 0.5 0.5"_s);
+    search("A10");
+    enter("9");
+    EXPECT_FALSE(ok->isEnabled()) << "one calculation of a date and a location";
+    child<DatePicker>(*screen, "wwDBDateTimePickerInventoryDate")->setDate(data->today().addDays(-1));
+    EXPECT_TRUE(ok->isEnabled());
+    search("A10");
+    press(Qt::Key_Delete);
     prompts.take();
     screen->close();
     EXPECT_TRUE(prompts.said.isEmpty()) << "nothing is left to be kept";
@@ -194,6 +201,34 @@ TEST_F(CountScreenTest, OffersWhatHasBeenLeft)
     prompts.take();
     choose(u"Office"_s);
     EXPECT_TRUE(prompts.said.isEmpty());
+}
+
+TEST_F(CountScreenTest, StaysOpenWhenTheCountCannotBeKept)
+{
+    delete screen;
+    qputenv("XDG_DATA_HOME", "/proc/nowhere");
+    open();
+    choose(u"Office"_s);
+    search("A10");
+    enter("8");
+    prompts.answer = Answer::Yes;
+    screen->close();
+    EXPECT_TRUE(prompts.last().startsWith("error: What has been counted could not be kept in /proc/nowhere"_L1));
+    EXPECT_TRUE(screen && screen->isVisible());
+    prompts.answer = Answer::No;
+    screen->close();
+    settle();
+    EXPECT_FALSE(screen);
+}
+
+TEST_F(CountScreenTest, OpensALocationWithALongKey)
+{
+    kitchen.execute(u"INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (12345, 'Annex [2]')"_s);
+    kitchen.setStock(3, 12345, 7, 1);
+    delete screen;
+    open();
+    choose(u"Annex"_s);
+    EXPECT_EQ(rows(), QStringList(u"B1 7 7"_s));
 }
 
 TEST_F(CountScreenTest, CalculatesNoCountThatIsAYearOld)

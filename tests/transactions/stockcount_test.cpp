@@ -112,7 +112,7 @@ TEST_P(CountTest, WritesWhatDiffersAsOneUsage)
         QStringList(u"warn: Bread, Item ID: 2\r\nhas no Weighted Average Cost.\r\nThe usage will be calculated "
                     "with a zero cost.\r\nYou should edit the resulting usage record and \r\ncorrect the cost, if "
                     "necessary."_s));
-    EXPECT_FALSE(count.hasCounts());
+    EXPECT_FALSE(count.hasEdits());
     EXPECT_FALSE(count.draft());
     EXPECT_FALSE(count.calculate()) << "the same usage a second time";
     EXPECT_EQ(usages().size(), 1);
@@ -201,7 +201,7 @@ TEST_P(CountTest, AsksWhenTheBooksHaveChangedMeanwhile)
         prompts.ok = false;
         EXPECT_THROW(count.calculate(), SilentAbort);
         EXPECT_EQ(prompts.take().size(), 1);
-        EXPECT_TRUE(count.hasCounts());
+        EXPECT_TRUE(count.hasEdits());
         EXPECT_EQ(counters(), u"2000|500"_s);
     }
     prompts.ok = true;
@@ -220,7 +220,7 @@ TEST_P(CountTest, IsRefusedWhileAnotherUserHoldsTheUsages)
     enter(u"A10"_s, 9);
     EXPECT_THROW(count.calculate(), Engine::EngineError);
     EXPECT_EQ(this->usages(), QStringList());
-    EXPECT_TRUE(count.hasCounts());
+    EXPECT_TRUE(count.hasEdits());
     usages.unlockTable();
     EXPECT_TRUE(count.calculate());
 }
@@ -232,6 +232,7 @@ TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
     enter(u"A11"_s, 0.1);
     enter(u"B1"_s, 1);
     count.forgetCount(2);
+    count.setStandardCost(2, Engine::Money::fromDouble(1.25));
     kitchen.execute(u"UPDATE Item SET Suspended = true WHERE ItemID = 2"_s);
 
     StockCount later(kitchen.database(), prompts, CountDrafts(u"kitchen"_s, u"anna"_s, folder.path()));
@@ -244,6 +245,7 @@ TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
     later.resume(*draft);
     EXPECT_EQ(later.zeroCounts(), ZeroCounts::Included);
     EXPECT_EQ(later.list().counts(), (ItemQuantities{{1, 0.0}}));
+    EXPECT_EQ(later.list().costs(), (ItemCosts{{3, Engine::Money::fromDouble(1.25)}}));
     EXPECT_EQ(prompts.last(), u"inform: 1 item(s) that have been counted are no longer in the list."_s);
 
     const StockCount other(kitchen.database(), prompts, CountDrafts(u"kitchen"_s, u"bert"_s, folder.path()));
@@ -268,13 +270,6 @@ TEST(CountDraftFile, ThatCannotBeReadIsNone)
     }
     const CountDrafts nowhere(u"kitchen"_s, u"bert"_s, u"/proc/nowhere"_s);
     EXPECT_THROW(nowhere.save(3, {}), RuleError);
-}
-
-TEST(CountLocationText, HoldsItsKeyBehindAnyName)
-{
-    for (const QString &name : {u"Office"_s, u"Freezer [old]"_s, QString()})
-        EXPECT_EQ(CountLocation::idOf(CountLocation{12, name}.text()), 12);
-    EXPECT_EQ(CountLocation::idOf({}), 0);
 }
 
 } // namespace

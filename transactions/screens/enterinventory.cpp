@@ -44,6 +44,7 @@ TFormEnterInventory::TFormEnterInventory(ScreenContext &context, QWidget *parent
              [this](int item, Engine::Money cost) {
                  m_count.setStandardCost(item, cost);
                  m_ui->wwDBGridInventory->itemChanged(item);
+                 showStatus();
              },
          .sort = [this](CountList::Order order) { sortBy(order); }},
         guard());
@@ -92,13 +93,13 @@ void TFormEnterInventory::firstShown()
 void TFormEnterInventory::fillLocations()
 {
     for (const CountLocation &location : m_count.locations())
-        m_ui->RzComboBoxLocation->addItem(location.text());
+        m_ui->RzComboBoxLocation->addItem(location.text(), location.id);
     m_ui->RzComboBoxLocation->setCurrentIndex(-1);
 }
 
 bool TFormEnterInventory::mayLoseCounts(const QString &question)
 {
-    if (!m_count.hasCounts())
+    if (!m_count.hasEdits())
         return true;
     if (!context().prompts.confirm(Question::YesNo, question))
         return false;
@@ -124,7 +125,10 @@ void TFormEnterInventory::locationChosen(int index)
         return;
     }
     closeList();
-    const auto shown = qScopeGuard([this] { showList(); });
+    const auto shown = qScopeGuard([this] {
+        showList();
+        showReady();
+    });
     openLocation(index);
 }
 
@@ -132,7 +136,7 @@ void TFormEnterInventory::openLocation(int index)
 {
     {
         const WaitCursor hourglass;
-        if (!m_count.open(CountLocation::idOf(m_ui->RzComboBoxLocation->itemText(index)), zeroCountsWanted()))
+        if (!m_count.open(m_ui->RzComboBoxLocation->itemData(index).toInt(), zeroCountsWanted()))
             return;
     }
     m_chosen = index;
@@ -252,7 +256,6 @@ void TFormEnterInventory::countItem(int item, std::optional<double> quantity)
     else
         m_count.forgetCount(item);
     m_ui->wwDBGridInventory->itemChanged(item);
-    showReady();
     showStatus();
 }
 
@@ -274,7 +277,6 @@ void TFormEnterInventory::showList()
 {
     m_ui->wwDBGridInventory->listChanged();
     m_ui->wwDBGridInventory->setHint(hintText());
-    showReady();
     showStatus();
 }
 
@@ -327,7 +329,7 @@ void TFormEnterInventory::bitBtnOKClick()
     }
 }
 
-// What has been typed since may be calculated as well.
+// Done, it can be done again for another date or location.
 void TFormEnterInventory::actionCalculateConsumptionExecute()
 {
     m_ui->BitBtnOK->setEnabled(false);
@@ -352,14 +354,18 @@ void TFormEnterInventory::actionCalculateConsumptionExecute()
 
 EntryScreen::Pending TFormEnterInventory::pending() const
 {
-    return m_count.hasCounts() || m_ui->wwDBGridInventory->hasEntry() ? Pending::Changes : Pending::Nothing;
+    return m_count.hasEdits() || m_ui->wwDBGridInventory->hasEntry() ? Pending::Changes : Pending::Nothing;
 }
 
-void TFormEnterInventory::saveChanges() { m_ui->wwDBGridInventory->commitEntry(); }
+void TFormEnterInventory::saveChanges()
+{
+    m_ui->wwDBGridInventory->commitEntry();
+    m_count.requireDraft();
+}
 
 QString TFormEnterInventory::closingQuestion() const
 {
-    return tr("What you have counted has not been calculated.\n"
+    return tr("What you have entered has not been calculated.\n"
               "Do you want to keep it on this machine and go on later?");
 }
 

@@ -28,7 +28,7 @@ public:
 
 protected:
     Pending pending() const override;
-    void saveChanges() override; // they are kept for later
+    void saveChanges() override; // they are kept for later, or it stays open
     void dropChanges() override { m_count.dropDraft(); }
     std::optional<int> savedKey() const override { return std::nullopt; }
     QString caption() const override { return tr("Enter Inventory"); }
