@@ -20,11 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-namespace {
-constexpr auto savingSection = "SaveAsCsv"_L1;
-constexpr auto folderKey = "Folder"_L1;
-} // namespace
-
 ListOutput::ListOutput(ScreenContext &context, QWidget &window, ListGrid &grid, ListStatus &status)
     : QObject(&window)
     , m_context(context)
@@ -46,26 +41,13 @@ void ListOutput::copyRows()
 
 void ListOutput::saveCsv(const QString &caption)
 {
-    const FileChoice choice{tr("Save as CSV"), caption + ".csv"_L1, tr("CSV files"), u"csv"_s, folder()};
-    const QString file = m_context.chooseFileToSave(&m_window, choice);
+    const QString file =
+        chooseFile(m_context, &m_window, {tr("Save as CSV"), caption + ".csv"_L1, tr("CSV files"), u"csv"_s});
     if (file.isEmpty())
         return;
     const TableModel &model = *m_grid.tableModel();
     run([&](Progress &progress) { saveCsvList(model.dataSet(), model.columns(), file, progress); });
-    rememberFolder(file);
     m_status.say(tr("Saved as %1").arg(QDir::toNativeSeparators(file)));
-}
-
-QString ListOutput::folder() const
-{
-    return m_context.settings ? m_context.settings->read(formSetting(savingSection), folderKey) : QString();
-}
-
-void ListOutput::rememberFolder(const QString &file)
-{
-    const QString used = QFileInfo(file).absolutePath();
-    if (m_context.settings && used != folder())
-        m_context.settings->write(formSetting(savingSection), folderKey, used);
 }
 
 void ListOutput::run(const std::function<void(Progress &)> &work)

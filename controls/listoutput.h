@@ -30,8 +30,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QString folder() const; // of the file that was saved last, from any list
-    void rememberFolder(const QString &file);
     void run(const std::function<void(Progress &)> &work);
 
     ScreenContext &m_context;

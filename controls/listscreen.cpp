@@ -3,6 +3,7 @@
 #include "controls/listoutput.h"
 #include "controls/liststatus.h"
 #include "controls/menukeyboard.h"
+#include "controls/printerneeded.h"
 #include "controls/screenmetrics.h"
 #include "controls/windowmemory.h"
 #include "controls/windowplaces.h"
@@ -211,11 +212,20 @@ void ListScreen::runCommand(const std::function<void()> &run)
     showFilterMark();
 }
 
-ListMenu ListScreen::fileMenu(Printing printing, std::function<void()> print)
+void ListScreen::print(const QString &report)
+{
+    requirePrinter(m_context);
+    m_context.printList(report, m_data->isFiltered() ? m_data->filter() : QString());
+}
+
+ListMenu ListScreen::fileMenu(const QString &report)
 {
     ListMenu menu{tr("&File"), {}};
-    if (printing == Printing::Offered)
-        menu.commands << ListCommand{.name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = std::move(print)};
+    std::function<void()> run;
+    if (m_context.printList)
+        run = [this, report] { print(report); };
+    if (!report.isEmpty())
+        menu.commands << ListCommand{.name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = run};
     std::function<void()> save;
     if (m_context.chooseFileToSave)
         save = [this] { m_output->saveCsv(m_caption); };

@@ -106,9 +106,8 @@ protected:
     ListGrid *grid() const { return m_grid; }
 
     // The commands and menus that lists have alike, with their usual names, captions and keys.
-    enum class Printing { Offered, Never }; // a list without a report has no command for it
-    // Print, save, copy, exit.
-    ListMenu fileMenu(Printing printing = Printing::Offered, std::function<void()> print = {});
+    // Print, save, copy, exit. A list without a report has no command for printing it.
+    ListMenu fileMenu(const QString &report);
     ListCommand findCommand(std::function<void()> run) const;
     ListCommand filterCommand(std::function<void()> run) const;
     ListCommand refreshCommand();
@@ -130,6 +129,7 @@ private:
     void addChoices(QMenu *menu, const ListCommand &command);
     void addButton(const ListButton &button);
     void addPopup(const ListCommand &command, QAction *action);
+    void print(const QString &report);
     void runCommand(const std::function<void()> &run);
     void finishPopup();
     void watchRecord();

@@ -15,6 +15,8 @@
 #include "frame/templatereport.h"
 #include "frame/tracescope.h"
 #include "master/screens/dialerinv.h"
+#include "reports/reportlist.h"
+#include "reports/screens/showreport.h"
 #include "ui_frmtallymeresystem.h"
 
 #include <QAction>
@@ -188,6 +190,10 @@ void TFormTallymereSystem::fillContext()
         .openObject = openObject,
         .settings = &m_services.settings,
         .chooseFileToSave = chooseFileToSave,
+        .printList =
+            [this](const QString &report, const QString &filter) {
+                showReport(*m_context, *ReportList::find(report), {.filter = filter}, this);
+            },
         .showHelp = {},
     });
 }

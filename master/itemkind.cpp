@@ -52,7 +52,7 @@ MasterKind describe()
                          {u"UnitPrice"_s, MasterTexts::tr("Unit Price"), 110, Qt::AlignRight}};
     kind.list.orders = {{u"ItemNo"_s, MasterTexts::tr("&Item no."), u"mnuSortItemNo"_s},
                         {u"ItemDescription1"_s, MasterTexts::tr("&Description"), u"mnuSortDescription"_s}};
-    kind.list.prints = true;
+    kind.list.report = u"TrptItems"_s;
     kind.list.filterField = u"ItemTypeID"_s;
     kind.list.notSuspended = u"(Suspended = false)"_s;
     // Nothing keeps an item from being deleted, not even its movements.

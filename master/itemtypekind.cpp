@@ -26,7 +26,7 @@ MasterKind describe()
     kind.list.caption = MasterTexts::tr("Item Types");
     kind.list.columns = {{u"TypeName"_s, MasterTexts::tr("Name"), 320}};
     kind.list.orders = {{u"TypeName1"_s}};
-    kind.list.prints = true;
+    kind.list.report = u"TrptItemTypes"_s;
     kind.list.systemKeys = 6;
     kind.list.systemRecord = MasterTexts::tr("System-defined Item Types can't be deleted!");
     kind.list.refusals = {{u"Item"_s, {u"ItemTypeID"_s}, MasterTexts::tr("Item(s) exist for this item type")}};

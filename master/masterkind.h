@@ -78,7 +78,7 @@ struct MasterKind
         QList<GridColumn> columns;
         QList<ListOrder> orders; // as the menu has them
         int firstOrder = 0; // which of them is in force at the start
-        bool prints = false; // there is a report of the list
+        QString report; // of the list: "TrptItems"; empty: it is not printed
         // What its filter dialog narrows it to: the rows that refer to one record, and those that are suspended or not.
         QString filterField; // "CurrencyID"
         QString

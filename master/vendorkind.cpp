@@ -108,7 +108,7 @@ MasterKind describe()
     kind.list.orders = {{u"VendorNo"_s, MasterTexts::tr("&Vendor no."), u"mnuSortVendorNo"_s},
                         {u"VendorName1"_s, MasterTexts::tr("&Name"), u"mnuSortName"_s}};
     kind.list.firstOrder = 1;
-    kind.list.prints = true;
+    kind.list.report = u"TrptVendors"_s;
     kind.list.filterField = u"CurrencyID"_s;
     kind.list.notSuspended = u"(Suspended <> true)"_s;
     // Receipts keep naming a vendor that has gone.

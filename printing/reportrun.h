@@ -26,7 +26,7 @@ public:
     bool makePages(QDeadlineTimer until = QDeadlineTimer::Forever);
     bool isComplete() const { return m_complete; }
 
-    const QString &title() const { return m_report.layout.title; }
+    QString title() const { return m_report.layout.title; }
     const Paper &paper() const { return m_paper; }
     int pageCount() const { return m_spool.count(); } // so far
     Page page(int index) const { return m_spool.page(index); } // from 0

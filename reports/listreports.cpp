@@ -46,7 +46,6 @@ template <const DocumentKind &(*kind)()>
 RowReaderPtr documentRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
 {
     auto list = std::make_unique<DocumentList>(database, kind());
-    list->table().setIndex(u"PeriodDateDESC"_s);
     Engine::DataSet &table = list->table();
     return rowsOf(std::move(list), table, report, selection);
 }
@@ -104,6 +103,10 @@ QList<ReportDescription> listReports()
                    {period(), text(u"ReceiptNo"_s, ReportsTexts::tr("Receipt no."), 1),
                     Columns::date(u"ReceiptDate"_s, date), text(u"PurchaseOrderNo"_s, ReportsTexts::tr("PO"), 1.2),
                     text(u"VendorName"_s, ReportsTexts::tr("Vendor"), 2.6), location(), posted()}),
+        listReport(u"TrptUsages"_s, ReportsTexts::tr("Inventory Usage"), documentRows<DocumentKinds::usage>,
+                   {period(), text(u"UsageNo"_s, ReportsTexts::tr("Usage no."), 1),
+                    Columns::date(u"InventoryDate"_s, date), location(),
+                    amount(u"InvoiceAmount"_s, ReportsTexts::tr("Amount")), posted()}),
         listReport(u"TrptInvAdjustments"_s, ReportsTexts::tr("Inventory Adjustments"),
                    documentRows<DocumentKinds::adjustment>,
                    {period(), text(u"AdjDescription"_s, ReportsTexts::tr("Description"), 3),

@@ -44,6 +44,7 @@ const DocumentKind &DocumentKinds::adjustment()
         .orders = {{u"PERIODDATEDESC"_s}},
         .showsFirstRow = true,
         .addListFields = {},
+        .listReport = u"TrptInvAdjustments"_s,
         .filterScreen = u"frmInvAdjustmentsFilter"_s,
         .filterCaption = TransactionsTexts::tr("Inventory Adjustments Filter"),
         .notPosted = u"(Posted = false)"_s,

@@ -83,6 +83,7 @@ struct DocumentKind
     QList<ListOrder> orders; // as the menu has them; the first is in force at the start
     bool showsFirstRow = false; // goes to it each time it is shown
     std::function<void(Engine::Table &)> addListFields; // looked-up ones of its own, before the table is opened
+    QString listReport; // "TrptInvReceipts"
     QString filterScreen; // "frmInvReceiptsFilter"
     QString filterCaption; // "Inventory Receipts Filter"
     // The list is narrowed by the first, the location; a choice in another one only switches the filter on.

@@ -50,6 +50,7 @@ const DocumentKind &DocumentKinds::receipt()
                 receipts.addLookup(u"VendorName"_s, Engine::FieldType::Text, 40,
                                    {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorName"_s});
             },
+        .listReport = u"TrptInvReceipts"_s,
         .filterScreen = u"frmInvReceiptsFilter"_s,
         .filterCaption = TransactionsTexts::tr("Inventory Receipts Filter"),
         .notPosted = u"(Posted = false)"_s,

@@ -49,6 +49,7 @@ const DocumentKind &DocumentKinds::usage()
         .orders = {{u"INVENTORYDATEUSAGENODESC"_s, TransactionsTexts::tr("&Date"), u"mnuSortDate"_s},
                    {u"USAGENO"_s, TransactionsTexts::tr("&Usage no."), u"mnuSortUsageNo"_s}},
         .addListFields = {},
+        .listReport = u"TrptUsages"_s,
         .filterScreen = u"frmUsagesFilter"_s,
         .filterCaption = TransactionsTexts::tr("Inventory Usage Filter"),
         .filterBoxes = {DocumentKind::locationBox(),

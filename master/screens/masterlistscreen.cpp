@@ -29,7 +29,7 @@ ListDescription MasterListScreen::description()
             .caption = kind.list.caption,
             .columns = kind.list.columns,
             .buttons = recordButtons(),
-            .menus = {fileMenu(kind.list.prints ? Printing::Offered : Printing::Never), recordMenu(),
+            .menus = {fileMenu(kind.list.report), recordMenu(),
                       viewMenu(kind.list.orders, kind.list.firstOrder,
                                [this](const ListOrder &order) { m_list.setOrder(order); }),
                       helpMenu(tr("%1 &Help").arg(kind.list.caption))}};

@@ -32,7 +32,7 @@ public:
                            {u"UnitPrice"_s, u"Unit Price"_s, 90, Qt::AlignRight},
                            {u"Suspended"_s, u"Suspended"_s, 60}},
                .buttons = {{u"btnNew"_s, u"&New"_s, u"mnuNew"_s}, {u"btnDrop"_s, u"&Drop"_s, u"mnuDropSelected"_s}},
-               .menus = {fileMenu(),
+               .menus = {fileMenu(u"TrptItems"_s),
                          {u"&Records"_s,
                           {{.name = u"mnuNew"_s, .caption = u"&New"_s, .run = [] {}, .popupCaption = u"New"_s},
                            {.name = u"mnuDrop"_s,

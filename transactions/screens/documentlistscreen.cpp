@@ -50,7 +50,7 @@ ListDescription DocumentListScreen::description()
             .caption = kind.listCaption,
             .columns = kind.columns,
             .buttons = recordButtons(),
-            .menus = {fileMenu(), records, viewMenu(kind.orders, 0, sort),
+            .menus = {fileMenu(kind.listReport), records, viewMenu(kind.orders, 0, sort),
                       helpMenu(tr("%1 &Help").arg(kind.listCaption))}};
 }
 

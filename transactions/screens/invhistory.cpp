@@ -35,7 +35,7 @@ ListDescription TfrmInvHistory::description()
                     {u"WarehouseName"_s, tr("Location"), 190},
                     {u"TransDescription"_s, tr("Transaction Description"), 200}},
         .buttons = stockButtons(),
-        .menus = {fileMenu(),
+        .menus = {fileMenu(u"TrptInvHistory"_s),
                   stockRecordsMenu(),
                   {tr("&View"),
                    {stockFilterCommand(),

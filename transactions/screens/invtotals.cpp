@@ -39,7 +39,7 @@ ListDescription TfrmInvTotals::description()
                     {u"WarehouseName"_s, tr("Location"), 190},
                     {u"QtyOnHand"_s, tr("Quantity On Hand"), 130, Qt::AlignRight}},
         .buttons = stockButtons(),
-        .menus = {fileMenu(),
+        .menus = {fileMenu(u"TrptInvTotals"_s),
                   stockRecordsMenu(),
                   {tr("&View"),
                    {stockFilterCommand(),

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace Tallymere {
+
+struct ScreenContext;
+
+// Before a report is shown or printed: raises when the system has no default printer.
+void requirePrinter(const ScreenContext &context);
+
+} // namespace Tallymere

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "printing/reportrun.h"
+
+#include <QAbstractScrollArea>
+#include <QCache>
+
+namespace Tallymere {
+
+// The pages of a report below each other, painted as they come into sight. Holds no more pages than are near those.
+class PageView : public QAbstractScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit PageView(QWidget *parent = nullptr);
+
+    void setRun(const Printing::ReportRun *run); // outlives what is shown
+    void pagesAdded(); // the run has more pages than before
+
+    int currentPage() const; // from 1: the one in the upper half of the view; 1 while there is none
+    void goToPage(int page);
+
+    // In percent of the real size. The place in sight stays.
+    int zoom() const { return m_zoom; }
+    void setZoom(int percent);
+    int zoomToWidth() const;
+    int zoomToPage() const;
+    static constexpr int leastZoom = 10;
+    static constexpr int mostZoom = 400;
+
+    // Marks a text wherever it stands. Goes to the next place (or the one before) from the place it is at, past the end
+    // to the beginning; false when there is none.
+    void setSearched(const QString &text);
+    bool goToHit(bool forward);
+
+Q_SIGNALS:
+    void pageShown(int page);
+    void zoomWanted(int percent); // by wheel or key
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    int pageCount() const { return m_run ? m_run->pageCount() : 0; }
+    double scale() const; // pixels for a unit of the page
+    QSize pageSize() const; // in pixels
+    int pageTop(int index) const; // within all pages
+    int pageAt(int y) const;
+    QRect pageRect(int index) const; // in the viewport
+    const Printing::Page &page(int index) const;
+    void paintHits(QPainter &painter, int index) const;
+    void updateBars();
+    void showHit();
+
+    const Printing::ReportRun *m_run = nullptr;
+    mutable QCache<int, Printing::Page> m_near;
+    int m_zoom = 100;
+    QString m_searched;
+    int m_hitPage = -1; // the place that the search is at
+    int m_hitIndex = -1;
+};
+
+} // namespace Tallymere

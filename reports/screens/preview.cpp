@@ -1,0 +1,258 @@
+#include "reports/screens/preview.h"
+
+#include "base/ruleerror.h"
+#include "controls/barprogress.h"
+#include "controls/filechoice.h"
+#include "controls/screenmetrics.h"
+#include "data/datamodule.h"
+#include "printing/reportcsv.h"
+#include "printing/reportoutput.h"
+#include "ui_preview.h"
+
+#include <QKeyEvent>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QScopeGuard>
+#include <QShortcut>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::ReportRun> run, QWidget *parent)
+    : QMainWindow(parent, Qt::Window)
+    , m_context(context)
+    , m_guard(context.prompts, {}, this)
+    , m_ui(std::make_unique<Ui::TfrmPreview>())
+    , m_run(std::move(run))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_ui->setupUi(this);
+    scaleForm(this);
+    m_ui->progressBar->hide();
+    m_ui->btnSaveCsv->hide();
+    m_ui->btnSavePdf->setVisible(bool(context.chooseFileToSave));
+    m_ui->QRPreview1->setRun(m_run.get());
+    connectControls();
+    resize(scaled(this, 900), scaled(this, 700));
+    fitToScreen(this);
+}
+
+TfrmPreview::~TfrmPreview() = default;
+
+void TfrmPreview::offerCsv(std::function<Printing::Report()> makeReport)
+{
+    m_makeReport = std::move(makeReport);
+    m_ui->btnSaveCsv->setVisible(m_makeReport && m_context.chooseFileToSave);
+}
+
+void TfrmPreview::connectControls()
+{
+    const auto icon = [this](QToolButton *button, QStyle::StandardPixmap picture) {
+        button->setIcon(style()->standardIcon(picture));
+    };
+    icon(m_ui->btnFirst, QStyle::SP_MediaSkipBackward);
+    icon(m_ui->btnPrev, QStyle::SP_MediaSeekBackward);
+    icon(m_ui->btnNext, QStyle::SP_MediaSeekForward);
+    icon(m_ui->btnLast, QStyle::SP_MediaSkipForward);
+    connectGuarded(m_ui->btnFirst, &QToolButton::clicked, this, &TfrmPreview::btnFirstClick);
+    connectGuarded(m_ui->btnPrev, &QToolButton::clicked, this, &TfrmPreview::btnPrevClick);
+    connectGuarded(m_ui->btnNext, &QToolButton::clicked, this, &TfrmPreview::btnNextClick);
+    connectGuarded(m_ui->btnLast, &QToolButton::clicked, this, &TfrmPreview::btnLastClick);
+    connectGuarded(m_ui->btnPrint, &QPushButton::clicked, this, &TfrmPreview::btnPrintClick);
+    connectGuarded(m_ui->btnSavePdf, &QPushButton::clicked, this, &TfrmPreview::btnSavePdfClick);
+    connectGuarded(m_ui->btnSaveCsv, &QPushButton::clicked, this, &TfrmPreview::btnSaveCsvClick);
+    connect(m_ui->btnClose, &QPushButton::clicked, this, &QWidget::close);
+
+    connect(m_ui->SpinEdit1, &QSpinBox::valueChanged, m_ui->QRPreview1, &PageView::setZoom);
+    connect(m_ui->QRPreview1, &PageView::zoomWanted, m_ui->SpinEdit1, &QSpinBox::setValue);
+    connect(m_ui->btnFitWidth, &QPushButton::clicked, this, [this] { setZoom(m_ui->QRPreview1->zoomToWidth()); });
+    connect(m_ui->btnWholePage, &QPushButton::clicked, this, [this] { setZoom(m_ui->QRPreview1->zoomToPage()); });
+    connect(m_ui->QRPreview1, &PageView::pageShown, this, &TfrmPreview::showPageNumber);
+
+    connect(m_ui->editFind, &QLineEdit::textChanged, m_ui->QRPreview1, &PageView::setSearched);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        m_ui->editFind->setFocus(Qt::ShortcutFocusReason);
+        m_ui->editFind->selectAll();
+    });
+    m_ui->btnFindNext->setShortcut(Qt::Key_F3);
+    m_ui->btnFindPrior->setShortcut(Qt::SHIFT | Qt::Key_F3);
+    m_ui->btnPrint->setShortcut(QKeySequence::Print);
+    connectGuarded(m_ui->btnFindNext, &QToolButton::clicked, this, [](TfrmPreview *self) { self->find(true); });
+    connectGuarded(m_ui->btnFindPrior, &QToolButton::clicked, this, [](TfrmPreview *self) { self->find(false); });
+
+    m_making.setInterval(0);
+    connectGuarded(&m_making, &QTimer::timeout, this, &TfrmPreview::makePages);
+}
+
+// --- making pages -------------------------------------------------------------------------------------------------
+
+void TfrmPreview::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (event->spontaneous() || m_run->isComplete() || m_making.isActive())
+        return;
+    setWindowState(windowState() | Qt::WindowMaximized);
+    m_ui->QRPreview1->setFocus();
+    m_making.start();
+}
+
+void TfrmPreview::makePages()
+{
+    // What is being written on the connection has it to itself.
+    if (m_context.data.databaseTallymere().connection().inTransaction())
+        return;
+    constexpr int milliseconds = 20; // less than anybody would notice as a delay of a key
+    const auto show = qScopeGuard([this] {
+        if (m_run->isComplete())
+            m_making.stop();
+        m_ui->QRPreview1->pagesAdded();
+        if (m_toLast)
+            m_ui->QRPreview1->goToPage(m_run->pageCount());
+        showPageNumber();
+    });
+    m_run->makePages(QDeadlineTimer(milliseconds));
+}
+
+void TfrmPreview::showPageNumber()
+{
+    const int count = std::max(1, m_run->pageCount());
+    const int page = m_ui->QRPreview1->currentPage();
+    const bool complete = m_run->isComplete();
+    m_ui->panelPageNumber->setText((complete ? tr("Page %1 of %2") : tr("Page %1 of %2...")).arg(page).arg(count));
+    m_ui->btnFirst->setEnabled(page > 1);
+    m_ui->btnPrev->setEnabled(page > 1);
+    m_ui->btnNext->setEnabled(page < count);
+    m_ui->btnLast->setEnabled(page < count || !complete);
+    for (QPushButton *button : {m_ui->btnPrint, m_ui->btnSavePdf})
+        button->setEnabled(complete && m_run->pageCount() > 0);
+}
+
+// --- looking around -----------------------------------------------------------------------------------------------
+
+void TfrmPreview::goToPage(int page)
+{
+    m_toLast = false;
+    m_ui->QRPreview1->goToPage(page);
+    showPageNumber();
+}
+
+void TfrmPreview::btnFirstClick() { goToPage(1); }
+
+void TfrmPreview::btnPrevClick()
+{
+    if (const int page = m_ui->QRPreview1->currentPage(); page > 1)
+        goToPage(page - 1);
+}
+
+void TfrmPreview::btnNextClick()
+{
+    if (const int page = m_ui->QRPreview1->currentPage(); page < m_run->pageCount())
+        goToPage(page + 1);
+}
+
+void TfrmPreview::btnLastClick()
+{
+    goToPage(m_run->pageCount());
+    m_toLast = !m_run->isComplete();
+}
+
+void TfrmPreview::setZoom(int percent) { m_ui->SpinEdit1->setValue(percent); }
+
+void TfrmPreview::find(bool forward)
+{
+    m_toLast = false;
+    const WaitCursor hourglass;
+    const bool found = m_ui->QRPreview1->goToHit(forward);
+    m_ui->lblFound->setText(found || m_ui->editFind->text().isEmpty() ? QString() : tr("Not found"));
+    showPageNumber();
+}
+
+void TfrmPreview::keyPressEvent(QKeyEvent *event)
+{
+    const bool searching = m_ui->editFind->hasFocus();
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (searching)
+            m_guard.run([&] { find(!event->modifiers().testFlag(Qt::ShiftModifier)); });
+        return;
+    case Qt::Key_Escape:
+        if (!searching) {
+            close();
+            return;
+        }
+        m_ui->editFind->clear();
+        m_ui->QRPreview1->setFocus();
+        return;
+    default:
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+// --- giving it away -----------------------------------------------------------------------------------------------
+
+void TfrmPreview::withProgress(const std::function<void(Progress &)> &work)
+{
+    m_ui->progressBar->show();
+    setEnabled(false);
+    const auto done = qScopeGuard([this] {
+        setEnabled(true);
+        m_ui->progressBar->hide();
+    });
+    const WaitCursor hourglass;
+    BarProgress progress(m_ui->progressBar);
+    work(progress);
+}
+
+void TfrmPreview::btnPrintClick()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(m_run->title());
+    printer.setPageLayout(m_run->paper().layout());
+    QPrintDialog dialog(&printer, this);
+    dialog.setMinMax(1, m_run->pageCount());
+    dialog.setFromTo(1, m_run->pageCount());
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange
+                      | QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
+    if (dialog.exec() == QDialog::Accepted)
+        printTo(printer);
+}
+
+void TfrmPreview::printTo(QPrinter &printer)
+{
+    if (printer.outputFormat() == QPrinter::NativeFormat
+        && QPrinterInfo::printerInfo(printer.printerName()).isNull())
+        throw RuleError(tr("The printer '%1' is not there any more.").arg(printer.printerName()));
+    const bool range = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
+    const int from = range ? printer.fromPage() : 1;
+    const int to = range ? std::min(printer.toPage(), m_run->pageCount()) : m_run->pageCount();
+    withProgress([&](Progress &progress) {
+        Printing::paintPages(*m_run, printer, printer.resolution(), from, to, progress);
+    });
+    if (printer.printerState() == QPrinter::Error)
+        throw RuleError(tr("The printer '%1' has refused the report.").arg(printer.printerName()));
+}
+
+void TfrmPreview::btnSavePdfClick()
+{
+    const QString file = chooseFile(
+        m_context, this, {tr("Save as PDF"), m_run->title().remove(u'/') + ".pdf"_L1, tr("PDF files"), u"pdf"_s});
+    if (!file.isEmpty())
+        withProgress([&](Progress &progress) { Printing::savePdf(*m_run, file, progress); });
+}
+
+void TfrmPreview::btnSaveCsvClick()
+{
+    const QString file = chooseFile(
+        m_context, this, {tr("Save as CSV"), m_run->title().remove(u'/') + ".csv"_L1, tr("CSV files"), u"csv"_s});
+    if (file.isEmpty())
+        return;
+    withProgress([&](Progress &progress) {
+        const Printing::Report report = m_makeReport();
+        Printing::saveReportCsv(report.layout, *report.rows, file, progress);
+    });
+}
+
+} // namespace Tallymere

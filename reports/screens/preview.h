@@ -1,0 +1,66 @@
+#pragma once
+
+#include "controls/guard.h"
+#include "controls/screencontext.h"
+#include "printing/reportrun.h"
+
+#include <memory>
+#include <QMainWindow>
+#include <QTimer>
+
+class QPrinter;
+
+namespace Ui {
+class TfrmPreview;
+}
+
+namespace Tallymere {
+
+class PageView;
+
+// The pages of a report as they will be printed. The first is shown as soon as it is made; the others follow while the
+// user looks. Not modal; the report is freed with it when it is closed.
+class TfrmPreview : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::ReportRun> run, QWidget *parent);
+    ~TfrmPreview() override;
+
+    // Lets the report be saved as CSV, from rows that are read anew.
+    void offerCsv(std::function<Printing::Report()> makeReport);
+
+    const Guard &guard() const { return m_guard; }
+    void btnFirstClick();
+    void btnPrevClick();
+    void btnNextClick();
+    void btnLastClick();
+    void btnPrintClick();
+    void btnSavePdfClick();
+    void btnSaveCsvClick();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void connectControls();
+    void makePages();
+    void showPageNumber();
+    void setZoom(int percent);
+    void goToPage(int page);
+    void find(bool forward);
+    void withProgress(const std::function<void(Progress &)> &work);
+    void printTo(QPrinter &printer);
+
+    ScreenContext &m_context;
+    Guard m_guard;
+    std::unique_ptr<Ui::TfrmPreview> m_ui;
+    std::unique_ptr<Printing::ReportRun> m_run;
+    std::function<Printing::Report()> m_makeReport;
+    QTimer m_making; // goes on with the pages whenever there is nothing else to do
+    bool m_toLast = false; // the last page was asked for before it was made
+};
+
+} // namespace Tallymere

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "controls/screencontext.h"
+#include "reports/reportdescription.h"
+
+namespace Tallymere {
+
+// Shows the preview of a report. Raises when the system has no default printer, and what making the report raises.
+void showReport(ScreenContext &context, const ReportDescription &report, const ReportSelection &selection,
+                QWidget *parent);
+
+} // namespace Tallymere
