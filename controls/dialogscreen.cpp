@@ -24,7 +24,7 @@ void DialogScreen::focusColumn(const QString &column)
     QWidget *widget = widgetOfColumn(column);
     if (!widget)
         return;
-    putCursorOn(*widget);
+    widget->setFocus();
     if (auto *edit = qobject_cast<QLineEdit *>(widget))
         edit->selectAll();
 }
@@ -41,6 +41,7 @@ bool DialogScreen::event(QEvent *event)
 void DialogScreen::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
+    showCursorAlways(*this);
     if (!event->spontaneous())
         m_guard.run([this] { showStep(); });
 }

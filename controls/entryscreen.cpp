@@ -74,7 +74,7 @@ bool EntryScreen::focusColumn(const QString &column)
     if (!widget)
         return false;
     showPageOf(widget);
-    putCursorOn(*widget);
+    widget->setFocus();
     return true;
 }
 
@@ -206,6 +206,7 @@ bool EntryScreen::event(QEvent *event)
 void EntryScreen::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
+    showCursorAlways(*this);
     if (event->spontaneous() || m_firstSize.isValid())
         return;
     firstShown();

@@ -198,7 +198,7 @@ void FieldBinder::leave(FieldBinding &binding)
         this,
         [this, widget, column, failure] {
             m_guard.focus(column); // on a page that may be behind others by now
-            putCursorOn(*widget);
+            widget->setFocus();
             m_guard.report(failure);
             m_refusing = false;
             // A choice is refused as a whole; a typed text stays to be mended or typed over.

@@ -36,11 +36,7 @@ void bringToFront(QWidget &window)
     window.activateWindow();
 }
 
-void putCursorOn(QWidget &widget)
-{
-    widget.window()->setAttribute(Qt::WA_KeyboardFocusChange);
-    widget.setFocus();
-}
+void showCursorAlways(QWidget &window) { window.setAttribute(Qt::WA_KeyboardFocusChange); }
 
 void markAsFurther(QWidget &window) { window.setProperty(furtherProperty, true); }
 

@@ -21,9 +21,9 @@ void fitToScreen(QWidget *window);
 // Shows a window, not minimised, in front of the others and active.
 void bringToFront(QWidget &window);
 
-// Gives a widget the cursor for a message to point at. It is marked although no key has led there: in drop-down lists
-// and buttons styles show the cursor only while the keyboard is in use.
-void putCursorOn(QWidget &widget);
+// Marks the widget that has the cursor however that has come there: in drop-down lists, check boxes and buttons styles
+// show it only once Tab or a mnemonic has been used in the window. For each time the window is shown, which forgets it.
+void showCursorAlways(QWidget &window);
 
 // The open window with the component name, or nullptr. Where several are open it is the one that commands lead to, not
 // a further one.

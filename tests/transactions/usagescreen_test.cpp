@@ -72,6 +72,7 @@ TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
 {
     open();
     EXPECT_EQ(focusName(), u"editUsageNo"_s);
+    EXPECT_TRUE(screen->testAttribute(Qt::WA_KeyboardFocusChange)) << "boxes show the cursor that Enter brings";
     press(Qt::Key_PageDown);
     enterLine("3", "A10");
     EXPECT_EQ(cursor(), u"0,1"_s);

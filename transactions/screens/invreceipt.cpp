@@ -42,7 +42,7 @@ bool TfrmInvReceipt::takeKey(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && focusWidget() == m_ui->editVendorNo && !m_ui->editVendorNo->text().isEmpty()) {
-        putCursorOn(*m_ui->cboWarehouse);
+        m_ui->cboWarehouse->setFocus();
         return true;
     }
     return DocumentScreen::takeKey(event);
