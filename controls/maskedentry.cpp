@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <utility>
@@ -30,6 +31,8 @@ bool MaskedEntry::eventFilter(QObject *, QEvent *event)
 {
     if (m_edit->inputMask().isEmpty())
         return false;
+    if (event->type() == QEvent::KeyPress)
+        return refuses(static_cast<const QKeyEvent &>(*event));
     if (event->type() == QEvent::FocusIn) {
         focusIn(static_cast<QFocusEvent *>(event));
         return true;
@@ -39,6 +42,22 @@ bool MaskedEntry::eventFilter(QObject *, QEvent *event)
         return true;
     }
     return false;
+}
+
+// A line edit deletes what is selected before it finds no place for what is typed.
+bool MaskedEntry::refuses(const QKeyEvent &event) const
+{
+    const QString typed = event.text();
+    const bool isText = !typed.isEmpty() && typed.front().isPrint()
+        && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (!isText || !m_edit->hasSelectedText())
+        return false;
+    QLineEdit empty;
+    empty.setInputMask(m_edit->inputMask());
+    const QString before = empty.text();
+    empty.setCursorPosition(m_edit->selectionStart());
+    empty.insert(typed);
+    return empty.text() == before;
 }
 
 void MaskedEntry::focusIn(QFocusEvent *event)

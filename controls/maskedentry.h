@@ -4,13 +4,14 @@
 #include <QString>
 
 class QFocusEvent;
+class QKeyEvent;
 class QLineEdit;
 class QMouseEvent;
 
 namespace Tallymere {
 
 // Gives a line edit an input mask for the time it has the cursor. However the cursor has come, by Tab, mnemonic or a
-// click, what is typed replaces what stands there; an empty one is typed into from its first place. Left to itself a
+// click, what is typed replaces what stands there, unless the mask has no place for it; an empty one is typed into from its first place. Left to itself a
 // masked line edit drops the selection as the cursor comes, and puts it behind the last place, where nothing can be
 // typed, on a click there.
 class MaskedEntry : public QObject
@@ -25,6 +26,7 @@ public:
 
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool refuses(const QKeyEvent &event) const;
     void focusIn(QFocusEvent *event);
     void clicked(QMouseEvent *event);
 

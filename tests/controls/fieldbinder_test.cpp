@@ -120,6 +120,12 @@ TEST_F(FieldBinderTest, typedDateReplacesTheOneThatTheCursorCameTo)
             }
         }
     }
+    table->edit();
+    table->set(u"Served", QDate(2026, 11, 25));
+    served->setFocus();
+    served->selectAll();
+    type("x<Tab>");
+    EXPECT_EQ(table->date(u"Served"), QDate(2026, 11, 25)) << "the mask has no place for it";
     EXPECT_EQ(prompts.said, QStringList());
 }
 

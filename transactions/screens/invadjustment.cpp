@@ -13,8 +13,8 @@ TfrmInvAdjustment::TfrmInvAdjustment(ScreenContext &context, QWidget *parent)
     , m_ui(std::make_unique<Ui::TfrmInvAdjustment>())
 {
     m_ui->setupUi(this);
-    m_ui->editAdjDate->installEventFilter(this);
     buildDocument({.searchOnEntering = true, .backToStart = true});
+    m_ui->editAdjDate->installEventFilter(this); // after its mask, which takes no signs
 }
 
 TfrmInvAdjustment::~TfrmInvAdjustment() = default;
