@@ -55,7 +55,7 @@ void FilterDialog::addBox(const FilterBox &box)
 void FilterDialog::addRow(const QString &label, QWidget *widget)
 {
     auto *shown = new QLabel(label, this);
-    shown->setBuddy(widget);
+    shown->setBuddy(widget->focusProxy() ? widget->focusProxy() : widget); // the mnemonic passes over a proxy
     if (qobject_cast<QComboBox *>(widget)) {
         widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         widget->setMinimumWidth(boxWidth);
