@@ -208,7 +208,8 @@ void DocumentEntry::requireHeaderField(const QString &field, const QString &colu
 
 QString DocumentEntry::caption() const
 {
-    return m_header.state() == Engine::TableState::Insert ? m_kind.newTitle : m_kind.titleOf(m_header);
+    const bool unnamed = m_header.text(m_kind.shownField()).isEmpty();
+    return m_header.state() == Engine::TableState::Insert && unnamed ? m_kind.newTitle : m_kind.titleOf(m_header);
 }
 
 bool DocumentEntry::chooseByNumber(const QString &, const QString &) { return false; }

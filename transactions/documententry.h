@@ -64,7 +64,7 @@ public:
 
     bool wasSaved() const { return m_wasSaved; } // the header was saved at least once in this visit
 
-    virtual QString caption() const; // the kind's title, of a new document its newTitle
+    virtual QString caption() const; // the kind's title, of a new document without a number its newTitle
 
     // Chooses what a key of the header stands for by the number that the user types for it, with the rules for that.
     // False when the kind has none for the field.

@@ -27,10 +27,8 @@ void ReceiptEntry::configureFields()
 
 QString ReceiptEntry::caption() const
 {
-    const bool unnamed = header().text(u"ReceiptNo").isEmpty() || header().value(u"VendorID").isNull();
-    if (header().state() == Engine::TableState::Insert && unnamed)
-        return kind().newTitle;
-    return kind().titleOf(header());
+    const bool isNew = header().state() == Engine::TableState::Insert;
+    return isNew && header().value(u"VendorID").isNull() ? kind().newTitle : DocumentEntry::caption();
 }
 
 bool ReceiptEntry::chooseByNumber(const QString &field, const QString &number)

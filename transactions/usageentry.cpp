@@ -39,12 +39,6 @@ void UsageEntry::presetHeader()
     header().setDefault(u"WarehouseID", locations.value(u"WarehouseID"));
 }
 
-QString UsageEntry::caption() const
-{
-    const bool unnamed = header().text(kind().numberField).isEmpty();
-    return header().state() == Engine::TableState::Insert && unnamed ? kind().newTitle : kind().titleOf(header());
-}
-
 void UsageEntry::checkReferences()
 {
     requireLines();

@@ -12,8 +12,6 @@ class UsageEntry final : public DocumentEntry
 public:
     UsageEntry(Engine::Database &database, Prompts &prompts);
 
-    QString caption() const override;
-
 protected:
     void configureFields() override;
     void presetHeader() override;

@@ -22,6 +22,7 @@ TEST_F(AdjustmentScreenTest, listBeginsAtItsFirstRowEachTimeItIsShown)
 TEST_F(AdjustmentScreenTest, stepsTheDateThatIsShownAndLeavesTheLinesForTheLocation)
 {
     auto *screen = openRecord<TfrmInvAdjustment>();
+    EXPECT_EQ(screen->windowTitle(), u"Inventory Adjustment 0"_s);
     auto *date = child<QLineEdit>(*screen, "editAdjDate");
     const std::pair<const char *, QDate> cases[] = {
         {"022826+", QDate(2026, 3, 1)},
@@ -34,6 +35,9 @@ TEST_F(AdjustmentScreenTest, stepsTheDateThatIsShownAndLeavesTheLinesForTheLocat
         press(Qt::Key_Tab);
         EXPECT_EQ(date->text(), QLocale::c().toString(shown, u"dd MMM yy")) << keys;
     }
+    typeOver(*screen, "editAdjDate", "+"); // which the mask has no place for
+    press(Qt::Key_Tab);
+    EXPECT_EQ(date->text(), u"01 Mar 26"_s);
     child<QToolButton>(*screen, "btnWarehouse")->setEnabled(true); // there is no list of locations in these tests
     type("<PgDown><Backtab>");
     EXPECT_EQ(focusName(), u"cboWarehouse"_s);
