@@ -64,12 +64,13 @@ void DataGrid::showModel(QAbstractItemModel *model, const QList<GridColumn> &col
         horizontalHeader()->setSectionResizeMode(m_surplusColumn, QHeaderView::Stretch);
 }
 
-int DataGrid::fullWidth() const
+int DataGrid::widthForColumns(int count) const
 {
     int width = 0;
-    for (const GridColumn &column : m_columns)
+    const QList<GridColumn> shown = m_columns.first(std::min<qsizetype>(count, m_columns.size()));
+    for (const GridColumn &column : shown)
         width += scaled(this, column.width);
-    return width + static_cast<int>(m_columns.size()) + scaled(this, 16) + 4;
+    return width + static_cast<int>(shown.size()) + scaled(this, 16) + 4;
 }
 
 int DataGrid::heightForRows(int rows) const
@@ -111,6 +112,16 @@ void DataGrid::paintEvent(QPaintEvent *event)
     QTableView::paintEvent(event);
     if (const QString hint = shownHint(); !hint.isEmpty())
         paintHint(hint);
+    if (hasFocus() && model() && model()->rowCount() == 0)
+        paintFocus();
+}
+
+// Without a row there is none to show the cursor in.
+void DataGrid::paintFocus()
+{
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 void DataGrid::paintHint(const QString &hint)

@@ -17,8 +17,9 @@ public:
     TableModel *tableModel() const { return m_table; } // null where it is not a data set that is shown
     const QList<GridColumn> &columns() const { return m_columns; }
     int columnOf(const QString &field) const; // -1 when no column shows it
-    // The width that shows all columns, with frame and scroll bar.
-    int fullWidth() const;
+    // The width that shows so many columns, with frame and scroll bar.
+    int widthForColumns(int count) const;
+    int fullWidth() const { return widthForColumns(static_cast<int>(m_columns.size())); }
     int surplusColumn() const { return m_surplusColumn; } // takes the width that the others leave over
     int heightForRows(int rows) const;
 
@@ -35,6 +36,7 @@ protected:
 
 private:
     void paintHint(const QString &hint);
+    void paintFocus();
 
     TableModel *m_table = nullptr;
     QList<GridColumn> m_columns;

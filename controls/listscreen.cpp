@@ -17,6 +17,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShowEvent>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -370,11 +371,13 @@ void ListScreen::showEvent(QShowEvent *event)
 
 void ListScreen::sizeForRows()
 {
+    const QSize room = screen()->availableGeometry().marginsRemoved(expectedFrame(*this)).size();
     const int width = std::max(m_grid->fullWidth(), m_topPanel->sizeHint().width());
-    const int height = menuBar()->sizeHint().height() + m_topPanel->sizeHint().height()
-        + m_grid->heightForRows(firstRows) + statusBar()->sizeHint().height();
-    m_firstSize =
-        QSize(width, height).boundedTo(screen()->availableGeometry().marginsRemoved(expectedFrame(*this)).size());
+    int height = menuBar()->sizeHint().height() + m_topPanel->sizeHint().height() + m_grid->heightForRows(firstRows)
+        + statusBar()->sizeHint().height();
+    if (m_grid->fullWidth() > room.width())
+        height += m_grid->horizontalScrollBar()->sizeHint().height();
+    m_firstSize = QSize(width, height).boundedTo(room);
     resize(m_firstSize);
 }
 

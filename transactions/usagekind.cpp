@@ -32,7 +32,7 @@ const DocumentKind &DocumentKinds::usage()
         .lineColumns = {{u"Quantity"_s, TransactionsTexts::tr("Quantity"), 90, Qt::AlignRight},
                         {u"ItemNo"_s, TransactionsTexts::tr("Item"), 110, Qt::AlignLeft, u"ItemID"_s},
                         {u"ItemOvDesc"_s, TransactionsTexts::tr("Override Description"), 170},
-                        {u"ItemDescription"_s, TransactionsTexts::tr("Description"), 230},
+                        {u"ItemDescription"_s, TransactionsTexts::tr("Description"), 330},
                         {u"UnitCost"_s, TransactionsTexts::tr("Unit Cost"), 90, Qt::AlignRight},
                         {u"ExtAmount"_s, TransactionsTexts::tr("Ext Amount"), 100, Qt::AlignRight}},
         .makeEntry = [](Engine::Database &database,

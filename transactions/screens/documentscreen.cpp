@@ -21,6 +21,8 @@ namespace Tallymere {
 namespace {
 constexpr QStringView numberColumn = u"ItemNo";
 constexpr QStringView descriptionField = u"ItemDescription"; // of an item, and of a line by lookup
+constexpr int rowsAtFirst = 5;
+constexpr int columnsAtFirst = 5; // further ones take the room of the one with surplus
 } // namespace
 
 DocumentScreen::DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
@@ -116,6 +118,12 @@ void DocumentScreen::showHeader()
     for (QAction *action : std::as_const(m_popup))
         action->setEnabled(!posted);
     showCaption();
+}
+
+void DocumentScreen::sizeForLines()
+{
+    resize(width() - m_grid->width() + m_grid->widthForColumns(columnsAtFirst),
+           height() - m_grid->height() + m_grid->heightForRows(rowsAtFirst));
 }
 
 // --- lines ------------------------------------------------------------------------------------------------------

@@ -37,6 +37,8 @@ protected:
     LineGrid *grid() const { return m_grid; }
 
     virtual void showHeader(); // the header has changed: caption, "POSTED"
+    // Fits the window, beside what else is in it, to the first rows and columns of the grid.
+    void sizeForLines();
 
     Pending pending() const override;
     void saveChanges() override;

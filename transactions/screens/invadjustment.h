@@ -20,6 +20,7 @@ public:
     ~TfrmInvAdjustment() override;
 
 protected:
+    void firstShown() override { sizeForLines(); }
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

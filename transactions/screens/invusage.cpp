@@ -1,7 +1,6 @@
 #include "transactions/screens/invusage.h"
 
 #include "controls/datedialog.h"
-#include "controls/linegrid.h"
 #include "data/datamodule.h"
 #include "transactions/documentkinds.h"
 #include "ui_invusage.h"
@@ -9,10 +8,6 @@
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
-
-namespace {
-constexpr int rowsAtFirst = 5;
-}
 
 // The location is the header's last field: Shift+Tab leads there from the lines.
 TfrmUsage::TfrmUsage(ScreenContext &context, QWidget *parent)
@@ -25,8 +20,6 @@ TfrmUsage::TfrmUsage(ScreenContext &context, QWidget *parent)
 }
 
 TfrmUsage::~TfrmUsage() = default;
-
-void TfrmUsage::firstShown() { resize(width(), height() - grid()->height() + grid()->heightForRows(rowsAtFirst)); }
 
 void TfrmUsage::btnInventoryDateClick()
 {

@@ -18,7 +18,7 @@ public:
     ~TfrmUsage() override;
 
 protected:
-    void firstShown() override;
+    void firstShown() override { sizeForLines(); }
 
 private:
     void btnInventoryDateClick();
