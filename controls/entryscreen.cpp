@@ -3,6 +3,7 @@
 #include "controls/listbuttons.h"
 #include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
+#include "controls/windowplaces.h"
 #include "controls/wordwrapmenu.h"
 
 #include <QCloseEvent>
@@ -211,6 +212,7 @@ void EntryScreen::showEvent(QShowEvent *event)
         return;
     firstShown();
     fitToScreen(this);
+    moveToPlace(*this, geometry()); // which was chosen for a smaller one
     m_firstSize = size();
     m_memory.restore();
 }
