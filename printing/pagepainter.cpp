@@ -25,8 +25,13 @@ void paintText(QPainter &painter, const TextItem &item)
 
 void paintPage(QPainter &painter, const Page &page, const Paper &paper, int number, int count)
 {
-    for (const Fill &fill : page.fills)
-        painter.fillRect(fill.area, fill.gray ? Qt::gray : Qt::black);
+    const QTransform &transform = painter.deviceTransform();
+    const QSizeF dot(1 / transform.m11(), 1 / transform.m22());
+    for (const Fill &fill : page.fills) {
+        // A rule that is thinner than a dot of the device would be left out where it lies between two.
+        const QRectF area(fill.area.topLeft(), fill.area.size().expandedTo(dot));
+        painter.fillRect(area, fill.gray ? Qt::gray : Qt::black);
+    }
     painter.setPen(Qt::black);
     TextStyle style = TextStyle::Small;
     painter.setFont(fontOf(style));
