@@ -6,6 +6,7 @@
 #include "master/screens/company.h"
 #include "master/screens/masterlistscreen.h"
 #include "master/screens/masterscreens.h"
+#include "reports/screens/blankinventoryreportselection.h"
 #include "transactions/documentkind.h"
 #include "transactions/screens/documentlistscreen.h"
 #include "transactions/screens/documentpostscreen.h"
@@ -51,6 +52,7 @@ ScreenRegistry productScreens()
         screens.add(screen.kind.postScreen, postDialog(screen.kind));
     }
     screens.add(u"FormEnterInventory"_s, {make<TFormEnterInventory>});
+    screens.add(u"FormBlankInventoryReportSelection"_s, {make<TFormBlankInventoryReportSelection>});
     screens.add(u"frmInvTotals"_s, {make<TfrmInvTotals>});
     screens.add(u"frmInvHistory"_s, {make<TfrmInvHistory>});
     return screens;

@@ -13,7 +13,7 @@ void showReport(ScreenContext &context, const ReportDescription &report, const R
     requirePrinter(context);
     const WaitCursor hourglass;
     auto *preview = new TfrmPreview(context, runReport(context.data, report, selection), parent);
-    preview->offerCsv([&context, &report, selection] { return makeReport(context.data, report, selection); });
+    preview->offerCsv([&context, report, selection] { return makeReport(context.data, report, selection); });
     preview->show();
 }
 

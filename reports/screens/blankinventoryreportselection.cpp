@@ -1,0 +1,59 @@
+#include "reports/screens/blankinventoryreportselection.h"
+
+#include "controls/lookuplists.h"
+#include "reports/screens/showreport.h"
+#include "ui_blankinventoryreportselection.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TFormBlankInventoryReportSelection::TFormBlankInventoryReportSelection(ScreenContext &context, QWidget *parent)
+    : DialogScreen(context, parent)
+    , m_last(u"FormBlankInventoryReportSelection"_s, context.data, context.settings)
+    , m_ui(std::make_unique<Ui::TFormBlankInventoryReportSelection>())
+{
+    m_ui->setupUi(this);
+    setLookupLists(*this, context.lookups, guard());
+    // A page for each category needs their order.
+    connect(m_ui->optCategory, &QRadioButton::toggled, m_ui->chkPagePerCategory, &QWidget::setEnabled);
+    offer(BlankFormChoices::fromJson(m_last.read()));
+    connectGuarded(m_ui->btnPreview, &QPushButton::clicked, this,
+                   &TFormBlankInventoryReportSelection::btnPreviewClick);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+TFormBlankInventoryReportSelection::~TFormBlankInventoryReportSelection() = default;
+
+void TFormBlankInventoryReportSelection::offer(const BlankFormChoices &choices)
+{
+    m_ui->cboWarehouse->setChosenId(choices.warehouseId);
+    (choices.byCategory ? m_ui->optCategory : m_ui->optItemNo)->setChecked(true);
+    m_ui->chkPagePerCategory->setChecked(choices.pagePerCategory);
+    m_ui->chkZeroCounts->setChecked(choices.zeroCounts);
+    m_ui->chkPriorQuantities->setChecked(choices.priorQuantities);
+    m_ui->chkBarcodes->setChecked(choices.barcodes);
+}
+
+BlankFormChoices TFormBlankInventoryReportSelection::choices() const
+{
+    return {.warehouseId = m_ui->cboWarehouse->currentIndex() < 0 ? 0 : m_ui->cboWarehouse->chosenId(),
+            .byCategory = m_ui->optCategory->isChecked(),
+            .pagePerCategory = m_ui->chkPagePerCategory->isChecked(),
+            .zeroCounts = m_ui->chkZeroCounts->isChecked(),
+            .priorQuantities = m_ui->chkPriorQuantities->isChecked(),
+            .barcodes = m_ui->chkBarcodes->isChecked()};
+}
+
+// The preview belongs to the window that this was opened from, and stays.
+void TFormBlankInventoryReportSelection::btnPreviewClick()
+{
+    const BlankFormChoices chosen = choices();
+    showReport(context(), blankForm(chosen), {.warehouseId = chosen.warehouseId}, parentWidget());
+    m_last.keep(chosen.toJson());
+    accept();
+}
+
+QWidget *TFormBlankInventoryReportSelection::widgetOfColumn(const QString &) const { return m_ui->cboWarehouse; }
+
+} // namespace Tallymere

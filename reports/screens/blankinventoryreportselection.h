@@ -1,0 +1,38 @@
+#pragma once
+
+#include "controls/dialogscreen.h"
+#include "data/lastchoices.h"
+#include "reports/blankform.h"
+
+#include <memory>
+
+namespace Ui {
+class TFormBlankInventoryReportSelection;
+}
+
+namespace Tallymere {
+
+// "Blank Inventory Form": what the form shows that a count is written on, and its preview. The user's last choices are
+// offered again.
+class TFormBlankInventoryReportSelection final : public DialogScreen
+{
+    Q_OBJECT
+
+public:
+    TFormBlankInventoryReportSelection(ScreenContext &context, QWidget *parent);
+    ~TFormBlankInventoryReportSelection() override;
+
+    void btnPreviewClick();
+
+protected:
+    QWidget *widgetOfColumn(const QString &column) const override;
+
+private:
+    void offer(const BlankFormChoices &choices);
+    BlankFormChoices choices() const;
+
+    const LastChoices m_last;
+    const std::unique_ptr<Ui::TFormBlankInventoryReportSelection> m_ui;
+};
+
+} // namespace Tallymere
