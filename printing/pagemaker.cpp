@@ -232,7 +232,9 @@ PageMaker::LaidLine PageMaker::cells(const ReportLine &line) const
     }
     if (opening)
         moveDown(laid, heightOf(style) * 0.4);
-    stretchRow(laid, m_layout.rowHeight * unitsPerPoint);
+    constexpr double roomAtRules = 6 * unitsPerPoint;
+    stretchRow(laid,
+               std::max(m_layout.rowHeight * unitsPerPoint, m_layout.rowRules ? laid.height + roomAtRules : 0));
     addContents(laid, texts);
     if (m_layout.rowRules)
         laid.fills.append({QRectF(m_area.left(), laid.height - thin / 2, m_area.width(), thin / 2), true});
