@@ -29,11 +29,12 @@ struct Described
     QHash<QString, QString> properties;
 
     bool is(const QString &types) const { return type.contains(QRegularExpression(u'(' + types + u")$"_s)); }
-    bool isField() const { return is(u"Edit|ComboBox|DatePicker|Grid|CalendarWidget"_s); }
+    bool isField() const { return is(u"Edit|SpinBox|ComboBox|DatePicker|Grid|CalendarWidget"_s); }
     bool takesTab() const
     {
         const QString policy = properties.value(u"focusPolicy"_s).remove(u"Qt::"_s);
-        return (isField() || is(u"CheckBox|Button"_s)) && policy != "NoFocus"_L1 && policy != "ClickFocus"_L1;
+        return (isField() || is(u"CheckBox|Button|PageView"_s)) && policy != "NoFocus"_L1
+            && policy != "ClickFocus"_L1;
     }
 };
 
@@ -138,7 +139,7 @@ protected:
 
 TEST_F(FormsTest, WhatTheFormsNameExists)
 {
-    for (const char *room : {"controls", "frame", "host", "master", "transactions"}) {
+    for (const char *room : {"controls", "frame", "host", "master", "reports", "transactions"}) {
         QDirIterator files(QStringLiteral(SOURCE_FOLDER "/") + QString::fromLatin1(room), {u"*.ui"_s}, QDir::Files,
                            QDirIterator::Subdirectories);
         EXPECT_TRUE(files.hasNext()) << room;
@@ -164,7 +165,8 @@ TEST_F(FormsTest, WhatTheFormsNameExists)
 // A screen also refuses to open when a widget names a field that its table does not have.
 TEST_F(FormsTest, NothingIsClipped)
 {
-    QStringList names = {u"frmCompany"_s, u"FormEnterInventory"_s, u"frmInvTotals"_s, u"frmInvHistory"_s};
+    QStringList names = {u"frmCompany"_s, u"FormEnterInventory"_s, u"frmInvTotals"_s, u"frmInvHistory"_s,
+                         u"FormBlankInventoryReportSelection"_s};
     for (const MasterScreen &screen : masterScreens())
         names << screen.kind.list.screen;
     for (const DocumentKind *kind : DocumentKinds::all())

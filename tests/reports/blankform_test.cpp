@@ -1,0 +1,157 @@
+#include "controls/lookupcombobox.h"
+#include "printing/pagepainter.h"
+#include "printing/reportcsv.h"
+#include "reports/blankform.h"
+#include "reports/makereport.h"
+#include "reports/screens/blankinventoryreportselection.h"
+#include "reports/screens/preview.h"
+#include "tests/support/screentest.h"
+#include "transactions/screens/countgrid.h"
+#include "transactions/screens/enterinventory.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPainter>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// Apples and Bread of Food and Yeast of FOOD at the Office, apricots of Goods nowhere.
+class BlankFormTest : public ScreenTest
+{
+protected:
+    BlankFormTest()
+    {
+        qputenv("XDG_DATA_HOME", folder.path().toUtf8());
+        kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (3, 'FOOD'); "
+                        "UPDATE ItemType SET Inventory = true; UPDATE Item SET Suspended = false; "
+                        "UPDATE Item SET ItemTypeID = 3 WHERE ItemID = 4"_s);
+        for (const int item : {1, 2, 4})
+            kitchen.setStock(item, 1, item + 0.5, 1);
+        context->settings = &settings;
+        context->printerDefined = [] { return true; };
+    }
+
+    QStringList csv(const BlankFormChoices &choices)
+    {
+        const Printing::Report form = makeReport(*data, blankForm(choices), {.warehouseId = 1});
+        QBuffer written;
+        written.open(QIODevice::WriteOnly);
+        CountedProgress progress;
+        Printing::writeReportCsv(form.layout, *form.rows, written, progress);
+        return QString::fromUtf8(written.data()).split(u"\r\n"_s, Qt::SkipEmptyParts);
+    }
+
+    // As it leaves a printer of 300 dots to the inch.
+    QString printed(const Printing::ReportRun &run, int page)
+    {
+        constexpr double scale = 300 / Printing::unitsPerInch;
+        QImage image((run.paper().sheet().size() * scale).toSize(), QImage::Format_Grayscale8);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.scale(scale, scale);
+        Printing::paintPage(painter, run.page(page), run.paper(), page + 1, run.pageCount());
+        const QString file = folder.filePath(u"page.png"_s);
+        EXPECT_TRUE(painter.end() && image.save(file));
+        return file;
+    }
+
+    QPointer<TFormBlankInventoryReportSelection> openDialog()
+    {
+        auto *dialog = new TFormBlankInventoryReportSelection(*context, mainWindow.get());
+        showActive(*dialog);
+        return dialog;
+    }
+
+    QTemporaryDir folder;
+};
+
+} // namespace
+
+TEST_F(BlankFormTest, ListsWhatTheCountLists)
+{
+    EXPECT_EQ(csv({}),
+              (QStringList{u"Band,TypeName,ItemNo,ItemDescription,Quantity"_s, u"detail,FOOD,X9,Yeast,"_s,
+                           u"detail,Food,A10,Apples,"_s, u"detail,Food,A11,Bread,"_s}));
+    EXPECT_EQ(csv({.byCategory = false, .zeroCounts = true, .priorQuantities = true}),
+              (QStringList{u"Band,ItemNo,TypeName,ItemDescription,QtyOnhand,Quantity"_s,
+                           u"detail,A10,Food,Apples,1.5,"_s, u"detail,A11,Food,Bread,2.5,"_s,
+                           u"detail,B1,Goods,apricots,,"_s, u"detail,X9,FOOD,Yeast,4.5,"_s}));
+
+    // Quantities that cannot be those of the count are told; a category is one in any letter case.
+    kitchen.addReceipt(1, 1, 1, {});
+    const auto headings = [&](const BlankFormChoices &choices) {
+        return makeReport(*data, blankForm(choices), {.warehouseId = 1}).layout.headings;
+    };
+    EXPECT_EQ(headings({.priorQuantities = true}).size(), headings({}).size() + 1);
+    const auto run = runReport(*data, blankForm({.pagePerCategory = true, .zeroCounts = true}), {.warehouseId = 1});
+    run->makePages();
+    EXPECT_EQ(run->pageCount(), 2);
+}
+
+TEST_F(BlankFormTest, ScannersReadItsBarcodesIntoTheCount)
+{
+    QStringList numbers{u"12345678901234567890"_s, u"ABCDEFGHIJKLMNOPQRST"_s, u"ab 1-2/x.Z~z"_s};
+    for (int i = 0; i < numbers.size(); ++i)
+        kitchen.execute(
+            u"UPDATE Item SET ItemNo = '%1' WHERE ItemID = %2"_s.arg(numbers[i]).arg(QList{1, 2, 4}[i]));
+    kitchen.execute(u"UPDATE Item SET ItemNo = 'Ж 7' WHERE ItemID = 3"_s); // no scanner would give it back
+    kitchen.setStock(3, 1, 1, 1);
+    const BlankFormChoices choices{.priorQuantities = true, .barcodes = true};
+    const auto run = runReport(*data, blankForm(choices), {.warehouseId = 1});
+    run->makePages();
+    QProcess reader;
+    reader.start(u"zbarimg"_s,
+                 {u"--nodbus"_s, u"-q"_s, u"--raw"_s, u"-Sdisable"_s, u"-Scode128.enable"_s, printed(*run, 0)});
+    if (!reader.waitForStarted(-1))
+        GTEST_SKIP() << "zbarimg (package zbar-tools) cannot be started: no barcode is read";
+    reader.waitForFinished(-1);
+    QStringList read = QString::fromUtf8(reader.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    read.sort();
+    ASSERT_EQ(read, numbers);
+
+    auto *count = new TFormEnterInventory(*context, mainWindow.get());
+    showActive(*count);
+    auto *locations = child<QComboBox>(*count, "RzComboBoxLocation");
+    locations->setCurrentIndex(locations->findText(u"Office"_s, Qt::MatchStartsWith));
+    Q_EMIT locations->activated(locations->currentIndex());
+    for (const QString &number : std::as_const(read)) {
+        press(Qt::Key_F, Qt::ControlModifier);
+        type(number);
+        type("<Return>1<Return>");
+    }
+    EXPECT_EQ(child<QLabel>(*count, "lblStatus")->text().left(14), u"3 of 4 counted"_s);
+}
+
+TEST_F(BlankFormTest, IsPreviewedAsChosenLast)
+{
+    QPointer dialog = openDialog();
+    context->printerDefined = [] { return false; };
+    press(Qt::Key_Return);
+    EXPECT_TRUE(prompts.last().startsWith(u"error: You do not have a default printer defined."_s))
+        << qPrintable(prompts.last());
+    context->printerDefined = [] { return true; };
+    press(Qt::Key_Return);
+    EXPECT_EQ(prompts.last(), u"error: Choose the location that is counted."_s);
+    EXPECT_EQ(focusName(), u"cboWarehouse"_s);
+    type("off");
+    for (const auto &[key, button] : {std::pair{Qt::Key_I, "optItemNo"}, std::pair{Qt::Key_B, "chkBarcodes"}}) {
+        press(key, Qt::AltModifier); // goes down for a moment first
+        EXPECT_TRUE(comesTrue([&] { return child<QAbstractButton>(*dialog, button)->isChecked(); }));
+    }
+    press(Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+    auto *preview = child<TfrmPreview>(*mainWindow, "frmPreview");
+    ASSERT_NE(preview, nullptr);
+    EXPECT_TRUE(preview->isVisible());
+
+    dialog = openDialog();
+    EXPECT_EQ(child<LookupComboBox>(*dialog, "cboWarehouse")->currentText(), u"Office"_s);
+    EXPECT_TRUE(child<QRadioButton>(*dialog, "optItemNo")->isChecked());
+    EXPECT_TRUE(child<QCheckBox>(*dialog, "chkBarcodes")->isChecked());
+    EXPECT_FALSE(child<QCheckBox>(*dialog, "chkPriorQuantities")->isChecked());
+    EXPECT_FALSE(child<QCheckBox>(*dialog, "chkPagePerCategory")->isEnabled());
+}
