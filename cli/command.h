@@ -60,5 +60,6 @@ Command historyCommand();
 Command listCommand();
 Command reportCommand();
 Command printCommand();
+Command manualCommand();
 
 } // namespace Tallymere::Cli

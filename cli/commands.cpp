@@ -55,7 +55,7 @@ const QList<Command> &commands()
 {
     static const QList<Command> all = {initCommand(),  sampleCommand(), importCommand(), postCommand(),
                                        countCommand(), syncCommand(),   totalsCommand(), historyCommand(),
-                                       listCommand(),  reportCommand(), printCommand()};
+                                       listCommand(),  reportCommand(), printCommand(),  manualCommand()};
     return all;
 }
 

@@ -9,6 +9,7 @@
 #include "data/lookupsdatainv.h"
 #include "frame/aboutform.h"
 #include "frame/boundaction.h"
+#include "frame/helpdesk.h"
 #include "frame/hostinifile.h"
 #include "frame/mastermenu.h"
 #include "frame/screenregistry.h"
@@ -57,6 +58,7 @@ TFormTallymereSystem::TFormTallymereSystem(const FrameServices &services, QWidge
     , m_runner(services.screens, this)
     , m_ui(std::make_unique<Ui::TFormTallymereSystem>())
     , m_actionList(new QObject(this))
+    , m_help(new HelpDesk(*this, services.settings, services.prompts))
 {
     const TraceScope scope("TFormTallymereSystem.FormCreate");
     m_ui->setupUi(this);
@@ -194,7 +196,7 @@ void TFormTallymereSystem::fillContext()
             [this](const QString &report, const QString &filter) {
                 showReport(*m_context, *ReportList::find(report), {.filter = filter}, this);
             },
-        .showHelp = {},
+        .showHelp = [this](const QString &screenName) { m_help->showTopic(screenName); },
     });
 }
 
@@ -303,6 +305,7 @@ void TFormTallymereSystem::bindControls()
 
     connect(m_ui->BitBtnClose, &QPushButton::clicked, this, &QWidget::close);
     connect(m_ui->Exit1, &QAction::triggered, this, &TFormTallymereSystem::exit1Click);
+    connect(m_ui->HelpTopics1, &QAction::triggered, this, &TFormTallymereSystem::helpTopics1Click);
     connect(m_ui->About1, &QAction::triggered, this, &TFormTallymereSystem::about1Click);
 }
 
@@ -396,6 +399,8 @@ bool TFormTallymereSystem::event(QEvent *event)
 }
 
 void TFormTallymereSystem::exit1Click() { m_ui->BitBtnClose->click(); }
+
+void TFormTallymereSystem::helpTopics1Click() { m_help->showContents(); }
 
 void TFormTallymereSystem::about1Click()
 {

@@ -20,6 +20,7 @@ namespace Ui {
 class TFormTallymereSystem;
 }
 
+class HelpDesk;
 class ScreenRegistry;
 class SettingsStore;
 class TemplateReport;
@@ -96,6 +97,7 @@ private:
     bool closeScreens(); // false when one of them stays open
     QList<QWidget *> screens() const;
     void exit1Click();
+    void helpTopics1Click();
     void about1Click();
 
     FrameServices m_services;
@@ -103,6 +105,7 @@ private:
     CommandRunner m_runner;
     std::unique_ptr<Ui::TFormTallymereSystem> m_ui;
     QObject *m_actionList;
+    HelpDesk *m_help;
     QLabel *m_leftPane = nullptr;
     QLabel *m_hintPane = nullptr;
     QProgressBar *m_progress = nullptr;

@@ -4,6 +4,7 @@
 #include "base/settingsstore.h"
 #include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
+#include "frame/helpdesk.h"
 #include "frame/tracescope.h"
 #include "ui_mainoptionsinv.h"
 
@@ -53,6 +54,7 @@ TFormRegistryEditor::TFormRegistryEditor(SettingsStore &settings, Prompts &promp
     connect(m_ui->BitBtnCancel, &QPushButton::clicked, this, &QDialog::reject);
     m_ui->buttonChooseFolder->setFixedWidth(scaled(this, 32));
     m_ui->ButtonDeleteSettings->hide();
+    new HelpDesk(*this, settings, prompts);
 }
 
 TFormRegistryEditor::~TFormRegistryEditor() = default;

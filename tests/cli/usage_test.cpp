@@ -18,6 +18,7 @@ const std::pair<QStringList, QString> usageCases[] = {
     {{u"--data"_s, u"a"_s, u"--server"_s, u"b"_s, u"totals"_s}, u"--data and --server exclude each other"_s},
     {{u"--data="_s, u"totals"_s}, u"option '--data' needs a value"_s},
     {{u"sample"_s, u"--seed=-1"_s}, u"option '--seed' needs a whole number of 0 or more, not '-1'"_s},
+    {{u"help"_s, u"recieve"_s}, u"the manual has no topic 'recieve', but: receive"_s},
     {{u"sample"_s, u"--size=huge"_s}, u"option '--size' takes small or large, not 'huge'"_s},
 };
 
@@ -38,12 +39,14 @@ TEST(Help, IsThereForTheProgramAndForEachCommandThatItNames)
     const CliResult all = cli.runBare({u"--help"_s});
     EXPECT_EQ(all.status, 0);
     for (const QString &command : {u"init"_s, u"sample"_s, u"import"_s, u"post"_s, u"count"_s, u"sync"_s,
-                                   u"totals"_s, u"history"_s, u"list"_s}) {
+                                   u"totals"_s, u"history"_s, u"list"_s, u"help"_s}) {
         EXPECT_TRUE(all.output.contains("\n  "_L1 + command)) << command.toStdString();
         const CliResult one = cli.runBare({command, u"--help"_s});
         EXPECT_EQ(one.status, 0);
         EXPECT_TRUE(one.output.contains("COMMAND"_L1) || one.output.contains(command));
     }
+    EXPECT_TRUE(cli.runBare({u"help"_s}).output.contains(u"\n  receive "_s));
+    EXPECT_TRUE(cli.runBare({u"help"_s, u"receive"_s}).output.startsWith(u"Receive goods\n=============\n"_s));
     EXPECT_EQ(cli.runBare({u"--version"_s}).output, u"tallymere " TALLYMERE_VERSION "\n"_s);
 }
 

@@ -1,0 +1,172 @@
+// Takes the pictures of the manual: tallymere-pictures DATABASE-FOLDER PICTURE-FOLDER
+// Opens the product's screens over a sample kitchen and saves what they show. Needs no display; scripts/pictures calls it.
+
+#include "base/settingsstore.h"
+#include "controls/messageboxes.h"
+#include "controls/recordlistscreen.h"
+#include "controls/screenmetrics.h"
+#include "frame/frmtallymeresystem.h"
+#include "frame/screenregistry.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QPainter>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// The application around the module, as far as it needs one.
+class Host final : public QWidget, public IHostInterface
+{
+public:
+    int addRef() override { return 1; }
+    int release() override { return 1; }
+    void getCurrentUser(QString &name) override { name = u"maria"_s; }
+};
+
+// What is to come has come: pages of lists, timers that wait for a pause.
+void settle()
+{
+    constexpr int pause = 300;
+    QEventLoop loop;
+    QTimer::singleShot(pause, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+// The window under a title of its own, as no desktop draws one here.
+QImage framed(QWidget &window)
+{
+    const QPixmap content = window.grab();
+    const int title = window.fontMetrics().height() + 8;
+    QImage image(content.width() + 2, content.height() + title + 1, QImage::Format_RGB32);
+    image.fill(QColor(0x60, 0x70, 0x80));
+    QPainter painter(&image);
+    painter.setFont(window.font());
+    painter.setPen(Qt::white);
+    painter.drawText(QRect(8, 0, image.width() - 16, title), Qt::AlignVCenter, window.windowTitle());
+    painter.drawPixmap(1, title, content);
+    return image;
+}
+
+class Photographer
+{
+public:
+    Photographer(TFormTallymereSystem &system, const QString &folder)
+        : m_system(system)
+        , m_folder(folder)
+    {
+    }
+
+    void take(QWidget &window, const QString &name, int height = 0)
+    {
+        if (height > 0)
+            window.resize(window.width(), height);
+        settle();
+        if (!framed(window).save(m_folder.filePath(name + ".png"_L1), nullptr, smallest))
+            std::fprintf(stderr, "%s was not saved\n", qPrintable(name));
+    }
+
+    QWidget &open(const QString &action, const QString &screen)
+    {
+        m_system.findChild<QAction *>(action)->trigger();
+        settle();
+        return *findScreen(screen);
+    }
+    QWidget &openFirstRecord(const QString &action, const QString &list)
+    {
+        static_cast<RecordListScreen &>(open(action, list)).btnEditClick();
+        settle();
+        return *static_cast<QWidget *>(m_system.children().constLast());
+    }
+    void takeDialog(const QString &action, const QString &name)
+    {
+        QTimer::singleShot(0, [this, name] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            take(*dialog, name);
+            dialog->close();
+        });
+        m_system.findChild<QAction *>(action)->trigger();
+    }
+
+private:
+    static constexpr int smallest = 0; // the file, not the quality
+
+    TFormTallymereSystem &m_system;
+    QDir m_folder;
+};
+
+// Counts some items of a location whose documents are all posted.
+void count(QWidget &screen)
+{
+    auto *location = screen.findChild<QComboBox *>(u"RzComboBoxLocation"_s);
+    location->setCurrentIndex(location->findText(u"Packaging Store"_s, Qt::MatchStartsWith));
+    Q_EMIT location->activated(location->currentIndex());
+    screen.activateWindow();
+    screen.findChild<QWidget *>(u"wwIncrementalSearch1"_s)->setFocus();
+    settle();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    for (const char *counted : {"2.5", "2", "1", "2.5"}) {
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(counted));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+}
+
+void takeAll(TFormTallymereSystem &system, const QString &folder)
+{
+    constexpr int documentHeight = 330;
+    Photographer camera(system, folder);
+    camera.take(system, u"mainwindow"_s);
+    camera.take(camera.open(u"ActionReceiveInventory"_s, u"frmInvReceipts"_s), u"receipts"_s);
+    camera.take(camera.openFirstRecord(u"ActionReceiveInventory"_s, u"frmInvReceipts"_s), u"receipt"_s,
+                documentHeight);
+    camera.take(camera.openFirstRecord(u"ActionEditUsage"_s, u"frmUsages"_s), u"usage"_s, documentHeight);
+    camera.take(camera.openFirstRecord(u"ActionEnterAdjustments"_s, u"frmInvAdjustments"_s), u"adjustment"_s,
+                documentHeight);
+    camera.takeDialog(u"ActionPostUsage"_s, u"posting"_s);
+    QWidget &counting = camera.open(u"ActionEditInventory"_s, u"FormEnterInventory"_s);
+    count(counting);
+    camera.take(counting, u"count"_s, 420);
+    camera.take(camera.open(u"ActionViewTotals"_s, u"frmInvTotals"_s), u"totals"_s);
+    camera.take(camera.open(u"ActionViewHistory"_s, u"frmInvHistory"_s), u"history"_s);
+    camera.take(camera.openFirstRecord(u"ActionEditItems"_s, u"frmItemsInv"_s), u"item"_s);
+    camera.take(camera.openFirstRecord(u"ActionEditVendors"_s, u"frmVendors"_s), u"vendor"_s);
+    camera.take(camera.open(u"ActionEditOrganizationSetup"_s, u"frmCompany"_s), u"organization"_s);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: tallymere-pictures DATABASE-FOLDER PICTURE-FOLDER\n");
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QString folder = QString::fromLocal8Bit(argv[2]);
+    MemorySettings settings;
+    setRegString(settings, u"Mode"_s, u"F"_s);
+    setRegString(settings, u"Alias"_s, QString::fromLocal8Bit(argv[1]));
+    MessageBoxes prompts;
+    const ScreenRegistry screens = productScreens();
+    Host host;
+    TFormTallymereSystem system({settings, prompts, screens});
+    system.init(&host);
+    QTimer::singleShot(0, [&] {
+        settle();
+        takeAll(system, folder);
+        std::fflush(stdout);
+        std::_Exit(0); // what is open has nothing to save
+    });
+    system.formTallymereSystemShowModal();
+    return 1; // it did not open
+}

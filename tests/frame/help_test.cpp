@@ -1,0 +1,139 @@
+#include "controls/datedialog.h"
+#include "controls/recordlistscreen.h"
+#include "frame/aboutform.h"
+#include "frame/frmtallymeresystem.h"
+#include "frame/helpwindow.h"
+#include "frame/mainoptionsinv.h"
+#include "master/screens/dialerinv.h"
+#include "master/screens/itemsearchinv.h"
+#include "master/screens/masterscreens.h"
+#include "master/screens/vcontact.h"
+#include "tests/frame/testcompany.h"
+#include "tests/support/screendriver.h"
+#include "transactions/documentkinds.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTextBrowser>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class HelpTest : public testing::Test
+{
+protected:
+    static HelpWindow *helpOf(const QWidget &owner)
+    {
+        return owner.findChild<HelpWindow *>({}, Qt::FindDirectChildrenOnly);
+    }
+    QTextBrowser &page(const QWidget &owner) { return *child<QTextBrowser>(*helpOf(owner), "browser"); }
+
+    // F1 in a window opens a page that names it, at its own place.
+    void expectTopic(QWidget &window, const QWidget &owner)
+    {
+        SCOPED_TRACE(qPrintable(window.objectName()));
+        window.show();
+        QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_F1);
+        HelpWindow *help = helpOf(owner);
+        ASSERT_TRUE(help && help->isVisible());
+        EXPECT_EQ(page(owner).source(), help->manual().pageOf(window.objectName()));
+        EXPECT_TRUE(page(owner).toPlainText().contains(window.windowTitle(), Qt::CaseInsensitive))
+            << qPrintable(window.windowTitle());
+        help->close();
+        ++shown;
+    }
+
+    TestContext over;
+    const ScreenRegistry screens = productScreens();
+    TFormTallymereSystem system{FrameServices{over.company.settings, over.company.prompts, screens}};
+    int shown = 0;
+};
+
+} // namespace
+
+TEST_F(HelpTest, F1OpensTheTopicOfEachScreen)
+{
+    QStringList names = {u"frmCompany"_s, u"FormEnterInventory"_s, u"frmInvTotals"_s, u"frmInvHistory"_s};
+    for (const MasterScreen &screen : masterScreens())
+        names << screen.kind.list.screen;
+    for (const DocumentKind *kind : DocumentKinds::all())
+        names << kind->listScreen << kind->postScreen;
+    for (const QString &name : names) {
+        QWidget *window = screens.find(name)->create(over.context, &system);
+        expectTopic(*window, system);
+        if (auto *list = qobject_cast<RecordListScreen *>(window)) {
+            list->btnNewClick();
+            auto *record = static_cast<QWidget *>(system.children().constLast());
+            record->setWindowTitle({}); // the name of what is in it
+            expectTopic(*record, system);
+        }
+        for (const QString &command : {u"mnuFilter"_s, u"mnuFind"_s}) {
+            if (auto *action = window->findChild<QAction *>(command))
+                whileOpen<QDialog>([&] { action->trigger(); },
+                                   [&](QDialog &dialog) { expectTopic(dialog, system); });
+        }
+    }
+    for (QWidget *window : QWidgetList{
+             new TFormAboutTallymereSystem(&system), new TfrmVContact(over.context, &system),
+             new TfrmDialerInv(over.context, &system), new TfrmItemSearchInv(over.context, &system), &system})
+        expectTopic(*window, system);
+    TFormRegistryEditor settings(over.company.settings, over.company.prompts);
+    expectTopic(settings, settings);
+    EXPECT_GT(shown, 38) << "some dialogs did not come";
+}
+
+TEST_F(HelpTest, WindowWithoutATopicOpensThatOfTheWindowBehind)
+{
+    QWidget *totals = screens.find(u"frmInvTotals"_s)->create(over.context, &system);
+    QDialog plain(totals);
+    plain.show();
+    QTest::keyClick(&plain, Qt::Key_F1);
+    EXPECT_EQ(page(system).source(), helpOf(system)->manual().pageOf(u"frmInvTotals"_s));
+    helpOf(system)->close();
+
+    QWidget foreign; // of the host
+    foreign.show();
+    QTest::keyClick(&foreign, Qt::Key_F1);
+    EXPECT_FALSE(helpOf(system)->isVisible());
+}
+
+// Where a dialog waits for an answer the manual can still be turned over, before it and after it.
+TEST_F(HelpTest, IsUsedBesideAModalDialog)
+{
+    system.findChild<QAction *>(u"HelpTopics1"_s)->trigger();
+    HelpWindow &help = *helpOf(system);
+    EXPECT_EQ(page(system).source(), help.manual().firstPage());
+    const auto turnOver = [&] {
+        const QUrl before = page(system).source();
+        help.showPage(help.manual().pageOf(u"frmInvTotals"_s));
+        EXPECT_TRUE(comesTrue([&] {
+            QTest::mouseClick(child<QPushButton>(help, "btnBack"), Qt::LeftButton);
+            return page(system).source() == before;
+        }));
+    };
+    QDialog dialog(&system);
+    whileOpen<QDialog>([&] { dialog.exec(); }, [&](QDialog &) { turnOver(); });
+    turnOver();
+}
+
+TEST_F(HelpTest, SearchesTheWholeText)
+{
+    system.findChild<QAction *>(u"HelpTopics1"_s)->trigger();
+    HelpWindow &help = *helpOf(system);
+    auto *words = child<QLineEdit>(help, "editSearch");
+    auto *found = child<QListWidget>(help, "listFound");
+    showActive(help);
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), words);
+    type("spoiled heat");
+    press(Qt::Key_Return); // while the words are still being read
+    ASSERT_TRUE(comesTrue([&] { return found->count() == 1; }));
+    EXPECT_EQ(found->item(0)->text(), u"Adjust the stock"_s);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(page(system).source().path().endsWith("adjust.html"_L1));
+    EXPECT_EQ(page(system).extraSelections().size(), 3); // one of them in a description to copy
+}
