@@ -1,6 +1,10 @@
 #include "printing/reportlines.h"
 
+#include "base/ruleerror.h"
+#include "printing/texts.h"
+
 #include <algorithm>
+#include <stdexcept>
 
 using Engine::Value;
 
@@ -100,10 +104,20 @@ void ReportLines::add(const ReportRow &row)
         }
         for (std::vector<Sum> &sums : m_sums) {
             if (m_summed[i].what == TotalOf::Amounts)
-                sums[i].amount = sums[i].amount + value.toMoney();
+                addAmount(sums[i], value);
             else
                 sums[i].quantity += value.toDouble();
         }
+    }
+}
+
+void ReportLines::addAmount(Sum &sum, const Value &value) const
+{
+    try {
+        sum.amount = Engine::Money::fromLongDouble(sum.amount.toLongDouble() + value.toMoney().toLongDouble());
+    } catch (const std::range_error &) {
+        throw RuleError(PrintingTexts::tr("A total of the report '%1' is beyond what an amount of money can be")
+                            .arg(m_layout.title));
     }
 }
 

@@ -47,6 +47,7 @@ private:
     void beginGroups(size_t from);
     void endGroups(size_t from);
     void add(const ReportRow &row);
+    void addAmount(Sum &sum, const Engine::Value &value) const; // throws RuleError when it is none any more
     void endAccount(); // its closing values count in the groups that it belongs to
     void addTotal(Band band, size_t level);
     size_t firstChanged() const;

@@ -1,0 +1,206 @@
+#include "base/ruleerror.h"
+#include "printing/reportrun.h"
+
+#include <gtest/gtest.h>
+#include <map>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using namespace Tallymere::Printing;
+
+namespace {
+
+class Rows final : public RowReader
+{
+public:
+    Rows(QStringList fields, std::vector<ReportRow> rows)
+        : m_fields(std::move(fields))
+        , m_rows(std::move(rows))
+    {
+    }
+
+    const QStringList &fields() const override { return m_fields; }
+    bool next(ReportRow &row) override
+    {
+        if (m_next == m_rows.size())
+            return false;
+        row = m_rows[m_next++];
+        return true;
+    }
+
+private:
+    QStringList m_fields;
+    std::vector<ReportRow> m_rows;
+    size_t m_next = 0;
+};
+
+class Pages : public testing::Test
+{
+protected:
+    ReportLayout layout{.title = u"Stock"_s,
+                        .columns = {{.field = u"Name"_s, .title = u"Name"_s, .wraps = true},
+                                    {.field = u"Value"_s, .title = u"Value"_s, .align = Align::Decimal}},
+                        .groups = {{u"Group"_s, {u"Group"_s}, true, u"Total %1"_s}},
+                        .totals = {{u"Value"_s, TotalOf::Quantities}},
+                        .reportTotalText = u"Total"_s};
+    std::vector<ReportRow> rows;
+    QList<Page> pages;
+
+    void add(const QString &group, const QString &name, double value)
+    {
+        rows.push_back({RowKind::Detail, {Engine::Value(group), Engine::Value(name), Engine::Value(value)}});
+    }
+
+    void make()
+    {
+        ReportRun run({layout, std::make_unique<Rows>(QStringList{u"Group"_s, u"Name"_s, u"Value"_s}, rows)},
+                      QPageSize::Letter, {u"Kitchen"_s, u"Printed at noon"_s});
+        run.makePages();
+        for (int i = 0; i < run.pageCount(); ++i)
+            pages.append(run.page(i));
+    }
+
+    // The lines of a page from top to bottom, the texts of each from left to right.
+    static QStringList linesOf(const Page &page)
+    {
+        std::map<float, std::map<float, QString>> places;
+        for (const TextItem &item : page.texts)
+            places[item.y][item.x] = item.text;
+        QStringList lines;
+        for (const auto &[y, texts] : places) {
+            QStringList line;
+            for (const auto &[x, text] : texts)
+                line += text;
+            lines += line.join(u'|');
+        }
+        return lines;
+    }
+
+    const TextItem &find(const QString &text) const
+    {
+        for (const Page &page : pages)
+            for (const TextItem &item : page.texts)
+                if (item.text == text)
+                    return item;
+        throw std::runtime_error("not on the pages: " + text.toStdString());
+    }
+};
+
+TEST_F(Pages, RepeatTitlesSayWhatTheyGoOnWithAndHoldEachRowOnce)
+{
+    layout.headings = {QString(), u"Period: 03/2026"_s};
+    QStringList all{u"Food"_s};
+    for (int i = 1; i <= 150; ++i) {
+        add(u"Food"_s, u"Item %1"_s.arg(i), i);
+        all += u"Item %1|%1"_s.arg(i);
+    }
+    all << u"Total Food|11325"_s << u"Total|11325"_s;
+    make();
+    ASSERT_EQ(pages.size(), 3);
+    QStringList held;
+    for (const Page &page : pages) {
+        const bool first = &page == &pages.first();
+        QStringList lines = linesOf(page);
+        const QStringList top = first
+            ? QStringList{u"Stock|Kitchen"_s, u"Period: 03/2026"_s, u"Name|Value"_s}
+            : QStringList{u"Stock · Period: 03/2026"_s, u"Name|Value"_s, u"Food (continued)"_s};
+        EXPECT_EQ(lines.mid(0, 3), top);
+        EXPECT_EQ(lines.takeLast(), u"Printed at noon");
+        held += lines.mid(3);
+    }
+    EXPECT_EQ(held, all);
+}
+
+TEST_F(Pages, KeepHeadingsWithTheirFirstRowAndTotalsWithTheirLast)
+{
+    for (int before = 30; before < 62; ++before) {
+        rows.clear();
+        pages.clear();
+        for (int i = 0; i < before; ++i)
+            add(u"A"_s, u"Row"_s, i);
+        add(u"B"_s, u"Row"_s, 1);
+        add(u"C"_s, u"Row"_s, 1);
+        make();
+        for (const Page &page : pages) {
+            const QStringList lines = linesOf(page);
+            ASSERT_TRUE(lines[lines.size() - 2].startsWith("Row|"_L1)
+                        || lines[lines.size() - 2].startsWith("Total"_L1))
+                << before << ": ends with " << lines[lines.size() - 2].toStdString();
+            const bool first = &page == &pages.first();
+            const QString top = lines[2].endsWith("(continued)"_L1) ? lines[3] : lines[2];
+            ASSERT_FALSE(!first && top.startsWith("Total"_L1)) << before << ": begins with " << top.toStdString();
+        }
+    }
+}
+
+TEST_F(Pages, BreakALongRowOnlyWhereItIsLongerThanAPage)
+{
+    QStringList words;
+    for (int i = 1; i <= 150; ++i)
+        words += u"word%1"_s.arg(i);
+    add(u"A"_s, u"short"_s, 1);
+    add(u"A"_s, words.join(u'\n'), 2);
+    make();
+    ASSERT_EQ(pages.size(), 4);
+    QStringList held;
+    const Paper paper{QPageSize::Letter};
+    for (const Page &page : pages)
+        for (const TextItem &item : page.texts) {
+            EXPECT_LE(item.y, paper.area().bottom());
+            if (item.text.startsWith("word"_L1))
+                held += item.text;
+        }
+    EXPECT_EQ(held, words);
+    EXPECT_FALSE(linesOf(pages[0]).join(u' ').contains(u"word"_s));
+}
+
+TEST_F(Pages, CutWhatDoesNotFitNarrowNumbersAndAlignDecimals)
+{
+    layout.columns[0].wraps = false;
+    layout.columns[0].width = 3;
+    const QString longText = u"Wide and "_s.repeated(40);
+    add(longText, longText, 12);
+    add(longText, u"b"_s, 3.125);
+    add(longText, u"c"_s, 1.0 / 3e9);
+    layout.columns[1].width = 0.3;
+    make();
+    const double right = Paper{QPageSize::Letter}.area().right();
+    int cut = 0;
+    for (const TextItem &item : pages[0].texts) {
+        const double end = item.x + TextMeasure::of(item.style).width(item.text) * item.squeeze;
+        EXPECT_LE(end, right + 1) << item.text.toStdString();
+        cut += item.text.endsWith(u'…') ? 1 : 0;
+    }
+    EXPECT_EQ(cut, 3); // the names of the group in its heading and in its total, and that of the first row
+    EXPECT_LT(find(Engine::Value(1.0 / 3e9).toText()).squeeze, 1);
+    const TextMeasure &body = TextMeasure::of(TextStyle::Body);
+    EXPECT_NEAR(find(u"12"_s).x + body.width(u"12"_s), find(u"3.125"_s).x + body.width(u"3"_s), 0.1);
+}
+
+TEST_F(Pages, SayThatThereIsNothingToShow)
+{
+    layout.reportTotalText.clear();
+    make();
+    ASSERT_EQ(pages.size(), 1);
+    EXPECT_TRUE(linesOf(pages[0]).contains(u"There is nothing to show."_s));
+}
+
+TEST_F(Pages, BeginGroupsOnNewPagesAndNameThoseWithoutAName)
+{
+    layout.groups[0].onNewPage = true;
+    add(u"A"_s, u"a"_s, 1);
+    add(QString(), u"b"_s, 1);
+    make();
+    ASSERT_EQ(pages.size(), 2);
+    EXPECT_EQ(linesOf(pages[1]).mid(2, 3), QStringList({u"(none)"_s, u"b|1"_s, u"Total (none)|1"_s}));
+}
+
+TEST_F(Pages, NameTheReportWhoseTotalIsNoAmountAnyMore)
+{
+    layout.totals = {{u"Value"_s, TotalOf::Amounts}};
+    add(u"A"_s, u"a"_s, 9e14);
+    add(u"A"_s, u"b"_s, 9e14);
+    EXPECT_THROW(make(), RuleError);
+}
+
+} // namespace

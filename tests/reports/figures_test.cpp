@@ -1,0 +1,482 @@
+#include "base/csvreader.h"
+#include "data/layouts.h"
+#include "data/transtypes.h"
+#include "printing/reportcsv.h"
+#include "printing/reportrun.h"
+#include "reports/reportlist.h"
+#include "tests/support/bothstores.h"
+#include "tests/support/spokenprompts.h"
+
+#include <map>
+#include <QBuffer>
+#include <random>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// Quantities are counted in eighths and costs in units of 0.0001, so that everything here is whole numbers.
+struct Item
+{
+    int type = 0; // 0: none
+    int account = 0;
+    qint64 standard = 0;
+    qint64 average = 0;
+};
+struct Balance
+{
+    int item, location;
+    qint64 eighths;
+};
+struct Entry
+{
+    int item, location, type, year, period, day;
+    qint64 eighths;
+    QString about;
+};
+
+QString number(double value) { return QString::number(value + 0.0, 'g', 12); }
+QString cost(qint64 units) { return number(static_cast<double>(units) / 1e4); }
+QString quantity(qint64 eighths) { return number(static_cast<double>(eighths) / 8); }
+
+QString nameOf(QChar letter, int key, int known)
+{
+    return key >= 1 && key <= known ? letter + QString::number(99 - key) : QString();
+}
+QString itemNo(int item) { return nameOf(u'N', item, 10); } // 11 and 12 are gone
+QString typeName(int type) { return nameOf(u'T', type, 3); } // 9 is gone
+QString locationName(int location) { return nameOf(u'L', location, 3); } // 4 is gone
+QString accountNo(int account) { return nameOf(u'A', account, 2); } // 7 is gone
+
+// Stock and history as chance would have it, in a store and here.
+class Books : public TestStore
+{
+public:
+    Books(Store store, unsigned seed)
+        : TestStore(store)
+        , m_random(seed)
+    {
+        for (const Engine::TableLayout *layout : Layouts::applied())
+            database().createTable(*layout);
+        execute(u"INSERT INTO ItemType (ItemTypeID, TypeName, CostingMethod) "
+                "VALUES (1, 'T98', 1), (2, 'T97', 2), (3, 'T96', NULL);"
+                "INSERT INTO GLAccnt (GLAccountID, GLAccount) VALUES (1, 'A98'), (2, 'A97');"
+                "INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (1, 'L98'), (2, 'L97'), (3, 'L96')"_s);
+        QStringList rows;
+        for (int key = 1; key <= 12; ++key) {
+            Item &item = items[key];
+            if (key > 10)
+                continue;
+            item = {oneOf({0, 1, 2, 3, 9}), oneOf({0, 1, 2, 7}), below(90'000), below(90'000)};
+            if (key == 1)
+                item = {1, 1, 5, 10'050}; // three of these are worth 3.015, and so 3.02
+            rows += u"(%1, '%2', %3, %4, %5, %6)"_s.arg(key)
+                        .arg(itemNo(key), orNull(item.type), orNull(item.account))
+                        .arg(cost(item.standard))
+                        .arg(cost(item.average));
+        }
+        insert(u"Item (ItemID, ItemNo, ItemTypeID, InventoryGLAccountID, StandardCost, WgtAvgCost)"_s, rows);
+        addBalances();
+        addEntries();
+    }
+
+    std::map<int, Item> items;
+    std::vector<Balance> balances;
+    std::vector<Entry> entries; // in the order of time
+
+    int below(int bound) { return static_cast<int>(m_random() % static_cast<unsigned>(bound)); }
+
+private:
+    int oneOf(const std::vector<int> &values)
+    {
+        return values[static_cast<size_t>(below(static_cast<int>(values.size())))];
+    }
+    static QString orNull(int key) { return key ? QString::number(key) : u"NULL"_s; }
+    void insert(const QString &into, const QStringList &rows)
+    {
+        execute(u"INSERT INTO "_s + into + " VALUES "_L1 + rows.join(u','));
+    }
+
+    void addBalances()
+    {
+        balances.push_back({1, 1, 24});
+        for (int item = 1; item <= 12; ++item)
+            for (int location = 1; location <= 4; ++location)
+                if (item + location > 2 && below(3) > 0)
+                    balances.push_back({item, location, below(800) - 250});
+        QStringList rows;
+        for (const Balance &balance : balances)
+            rows += u"(%1, %2, %3)"_s.arg(balance.item).arg(balance.location).arg(quantity(balance.eighths));
+        insert(u"IBalance (ItemID, WarehouseID, QtyOnHand)"_s, rows);
+    }
+
+    void addEntries()
+    {
+        QStringList rows;
+        for (int i = 0; i < 500; ++i) {
+            entries.push_back({1 + below(13), 1 + below(4), below(6), 2025 + below(2), 1 + below(12), 1 + below(5),
+                               below(300) - 80, u"M%1"_s.arg(i)});
+            const Entry &entry = entries.back();
+            rows += u"(%1, %2, %3, %4, %5, '2026-03-0%6', %7, '%8')"_s.arg(entry.item)
+                        .arg(entry.location)
+                        .arg(entry.type)
+                        .arg(entry.year)
+                        .arg(entry.period)
+                        .arg(entry.day)
+                        .arg(quantity(entry.eighths))
+                        .arg(entry.about);
+        }
+        insert(u"IHist (ItemID, WarehouseID, TransType, GLYear, GLPeriod, TransDate, Quantity, TransDescription)"_s,
+               rows);
+        std::ranges::stable_sort(
+            entries, {}, [](const Entry &entry) { return std::tuple(entry.year, entry.period, entry.day); });
+    }
+
+    std::mt19937 m_random;
+};
+
+enum class Kind { Value, Perpetual, Summary };
+
+struct Shape
+{
+    std::string_view listText;
+    Kind kind;
+    bool byLocation;
+    std::string_view outer; // what the items are grouped by
+    bool takesLocation;
+    bool takesType;
+};
+
+QString textOf(std::string_view text)
+{
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+constexpr Shape shapes[] = {
+    {"Value by Item", Kind::Value, false, "", true, true},
+    {"Value by Item /Location", Kind::Value, true, "", false, true},
+    {"Value by Type", Kind::Value, false, "TypeName", true, false},
+    {"Value by Type /Item", Kind::Value, false, "TypeName", true, false},
+    {"Value by Type /Item /Location", Kind::Value, true, "TypeName", false, false},
+    {"Value by GL Account /Item", Kind::Value, false, "GLAccount", true, false},
+    {"Perpetual by Item", Kind::Perpetual, false, "", true, true},
+    {"Perpetual by Item /Location", Kind::Perpetual, true, "", false, true},
+    {"Perpetual by Type /Item", Kind::Perpetual, false, "TypeName", true, false},
+    {"Perpetual by Type /Item /Location", Kind::Perpetual, true, "TypeName", false, false},
+    {"Perpetual Summary by Item", Kind::Summary, false, "", true, true},
+    {"Perpetual Summary by Type /Item", Kind::Summary, false, "TypeName", true, false},
+};
+
+// The figures of a shape in the order of its columns.
+QStringList figureFields(const Shape &shape)
+{
+    if (shape.kind == Kind::Perpetual)
+        return {u"Quantity"_s, u"Balance"_s};
+    if (shape.kind == Kind::Summary)
+        return {u"OpeningBalance"_s, u"Receipts"_s, u"Adjustments"_s, u"Sales"_s, u"ClosingBalance"_s};
+    return shape.byLocation ? QStringList{u"QtyOnHand"_s, u"UnitCost"_s, u"ItemWhseValue"_s}
+                            : QStringList{u"ItemQtyOnHand"_s, u"UnitCost"_s, u"ItemValue"_s};
+}
+
+// The lines of a report as texts "band|outer|item|location|type|about|figures", computed from the books here.
+class Expected
+{
+public:
+    Expected(const Books &books, const Shape &shape, const ReportSelection &selection)
+        : m_books(books)
+        , m_shape(shape)
+        , m_selection(selection)
+        , m_withDetails(shape.listText != "Value by Type")
+    {
+        const Account *last = nullptr;
+        const std::vector<Account> accounts = chosenAccounts();
+        for (const Account &account : accounts) {
+            if (last)
+                endGroups(*last, account.outerKey != last->outerKey, account.item != last->item);
+            addAccount(account);
+            last = &account;
+        }
+        if (last)
+            endGroups(*last, true, true);
+        if (shape.kind == Kind::Value)
+            total(u"report total"_s, {}, {}, m_report);
+    }
+
+    QStringList lines;
+
+private:
+    struct Account
+    {
+        QString outer;
+        int outerKey = 0;
+        int item = 0;
+        int location = 0;
+        qint64 onHand = 0;
+    };
+    using Sums = std::array<qint64, 5>; // by column; values in cents
+
+    std::vector<Account> chosenAccounts() const
+    {
+        std::vector<Account> accounts;
+        for (const Balance &balance : m_books.balances) {
+            const Item &item = m_books.items.at(balance.item);
+            if ((m_selection.warehouseId > 0 && balance.location != m_selection.warehouseId)
+                || (m_selection.itemTypeId > 0 && item.type != m_selection.itemTypeId))
+                continue;
+            Account account{{}, 0, balance.item, m_shape.byLocation ? balance.location : 0, balance.eighths};
+            if (m_shape.outer == "TypeName")
+                account.outer = typeName(account.outerKey = item.type);
+            if (m_shape.outer == "GLAccount")
+                account.outer = accountNo(account.outerKey = item.account);
+            const auto same = std::ranges::find_if(accounts, [&account](const Account &other) {
+                return other.item == account.item && other.location == account.location;
+            });
+            if (same == accounts.end())
+                accounts.push_back(account);
+            else
+                same->onHand += balance.eighths;
+        }
+        std::ranges::sort(accounts, {}, [](const Account &account) {
+            return std::tuple(account.outer, account.outerKey, itemNo(account.item), account.item,
+                              locationName(account.location));
+        });
+        return accounts;
+    }
+
+    std::vector<Entry> entriesOf(const Account &account) const
+    {
+        std::vector<Entry> own;
+        std::ranges::copy_if(m_books.entries, std::back_inserter(own), [&](const Entry &entry) {
+            return entry.item == account.item && (!account.location || entry.location == account.location)
+                && (m_selection.warehouseId <= 0 || entry.location == m_selection.warehouseId)
+                && std::tuple(entry.year, entry.period) >= std::tuple(m_selection.year, m_selection.period);
+        });
+        return own;
+    }
+
+    static qint64 change(const Entry &entry)
+    {
+        return entry.type == 2 || entry.type == 5 ? -entry.eighths : entry.eighths;
+    }
+
+    void addAccount(const Account &account)
+    {
+        switch (m_shape.kind) {
+        case Kind::Value:
+            return addValue(account);
+        case Kind::Perpetual:
+            return addMovements(account);
+        case Kind::Summary:
+            return addSummary(account);
+        }
+    }
+
+    void addValue(const Account &account)
+    {
+        const Item &item = m_books.items.at(account.item);
+        const qint64 unitCost = item.type == 2 ? item.standard : item.average;
+        const qint64 worth = account.onHand * unitCost; // in 1/80000
+        const qint64 cents = (std::abs(worth) + 400) / 800 * (worth < 0 ? -1 : 1);
+        if (m_withDetails)
+            add(u"detail"_s, account.outer, itemNo(account.item), locationName(account.location), {},
+                {quantity(account.onHand), cost(unitCost), money(cents)});
+        sumUp({account.onHand, 0, cents});
+    }
+
+    void addMovements(const Account &account)
+    {
+        const std::vector<Entry> own = entriesOf(account);
+        qint64 balance = account.onHand;
+        for (const Entry &entry : own)
+            balance -= change(entry);
+        const QString location = locationName(account.location);
+        add(u"opening"_s, account.outer, itemNo(account.item), location, {}, {{}, quantity(balance)});
+        for (const Entry &entry : own) {
+            balance += change(entry);
+            add(u"detail"_s, account.outer, itemNo(account.item), location,
+                transTypeText(entry.type) + u'|' + entry.about, {quantity(entry.eighths), quantity(balance)});
+        }
+        sumUp({0, balance});
+    }
+
+    void addSummary(const Account &account)
+    {
+        qint64 receipts = 0, adjustments = 0, sales = 0, closing = account.onHand;
+        for (const Entry &entry : entriesOf(account)) {
+            const bool within = entry.year == m_selection.year && entry.period == m_selection.period;
+            if (!within)
+                closing -= change(entry);
+            else if (entry.type == 1)
+                adjustments += entry.eighths;
+            else if (entry.type == 3)
+                receipts += entry.eighths;
+            else if (entry.type == 2 || entry.type == 5)
+                sales += entry.eighths;
+        }
+        const Sums figures{closing - receipts - adjustments + sales, receipts, adjustments, sales, closing};
+        QStringList texts;
+        for (const qint64 figure : figures)
+            texts += quantity(figure);
+        add(u"detail"_s, account.outer, itemNo(account.item), {}, {}, texts);
+        sumUp(figures);
+    }
+
+    void endGroups(const Account &last, bool outerEnds, bool itemEnds)
+    {
+        if ((itemEnds || outerEnds) && m_shape.byLocation)
+            total(u"group total"_s, last.outer, itemNo(last.item), m_item);
+        m_item = itemEnds || outerEnds ? Sums() : m_item;
+        if (!outerEnds || m_shape.outer.empty())
+            return;
+        total(u"group total"_s, last.outer, {}, m_outer);
+        m_outer = Sums();
+    }
+
+    void total(const QString &band, const QString &outer, const QString &item, const Sums &sums)
+    {
+        QStringList figures;
+        if (m_shape.kind == Kind::Value)
+            figures = {m_shape.listText == "Value by Item /Location" ? quantity(sums[0]) : QString(), QString(),
+                       money(sums[2])};
+        else if (m_shape.kind == Kind::Perpetual)
+            figures = {QString(), quantity(sums[1])};
+        else
+            for (const qint64 sum : sums)
+                figures += quantity(sum);
+        add(band, outer, item, {}, {}, figures);
+    }
+
+    void sumUp(const Sums &figures)
+    {
+        for (Sums *sums : {&m_item, &m_outer, &m_report})
+            for (size_t i = 0; i < figures.size(); ++i)
+                (*sums)[i] += figures[i];
+    }
+
+    static QString money(qint64 cents) { return number(static_cast<double>(cents) / 100); }
+
+    void add(const QString &band, const QString &outer, const QString &item, const QString &location,
+             const QString &about, const QStringList &figures)
+    {
+        lines +=
+            QStringList{band, outer, item, location, about.isEmpty() ? u"|"_s : about, figures.join(u'|')}.join(
+                u'|');
+    }
+
+    const Books &m_books;
+    const Shape &m_shape;
+    const ReportSelection &m_selection;
+    const bool m_withDetails;
+    Sums m_item{}, m_outer{}, m_report{};
+};
+
+// --- what the program makes ------------------------------------------------------------------------------------------
+
+struct CsvReport
+{
+    QStringList lines; // as Expected has them
+    QStringList figures; // of each line: what is printed of numbers
+};
+
+CsvReport csvOf(Books &books, const Shape &shape, const ReportDescription &report, const ReportSelection &selection)
+{
+    QBuffer file;
+    file.open(QIODevice::ReadWrite);
+    CountedProgress progress;
+    Printing::writeReportCsv(report.layout, *report.rows(books.database(), report, selection), file, progress);
+    file.seek(0);
+    CsvReader reader(file);
+    CsvReport csv;
+    reader.next();
+    const QStringList header = reader.fields();
+    const auto field = [&](const QString &name) { return reader.fields().value(header.indexOf(name)); };
+    while (reader.next()) {
+        QStringList line{field(u"Band"_s),          !shape.outer.empty() ? field(textOf(shape.outer)) : QString(),
+                         field(u"ItemNo"_s),        field(u"WarehouseName"_s),
+                         field(u"TransTypeName"_s), field(u"TransDescription"_s)};
+        QStringList figures;
+        for (const QString &name : figureFields(shape)) {
+            const QString text = field(name);
+            line += text.isEmpty() ? text : number(text.toDouble());
+            if (!text.isEmpty())
+                figures += line.constLast();
+        }
+        csv.lines += line.join(u'|');
+        csv.figures += figures.join(u'|');
+    }
+    return csv;
+}
+
+// The figures of each printed line from left to right: "(1,234.50)" is -1234.5.
+QStringList printedFigures(Books &books, const ReportDescription &report, const ReportSelection &selection)
+{
+    Printing::ReportRun run({report.layout, report.rows(books.database(), report, selection)}, QPageSize::A4, {});
+    run.makePages();
+    QStringList lines;
+    for (int i = 0; i < run.pageCount(); ++i) {
+        std::map<float, std::map<float, QString>> figures; // by place
+        for (const Printing::TextItem &item : run.page(i).texts) {
+            if (item.style != Printing::TextStyle::Body && item.style != Printing::TextStyle::Strong)
+                continue;
+            QString text = item.text;
+            text.remove(u',').replace(u'(', u'-').remove(u')');
+            bool isNumber = false;
+            const double value = text.toDouble(&isNumber);
+            if (isNumber)
+                figures[item.y][item.x] = number(value);
+        }
+        for (const auto &line : figures) {
+            QStringList texts;
+            for (const auto &[x, text] : line.second)
+                texts += text;
+            lines += texts.join(u'|');
+        }
+    }
+    return lines;
+}
+
+std::vector<ReportSelection> selectionsFor(const Shape &shape, Books &books)
+{
+    std::vector<ReportSelection> selections(1);
+    if (shape.takesLocation)
+        for (int location = 1; location <= 4; ++location)
+            selections.push_back({.warehouseId = location});
+    if (shape.takesType)
+        for (const int type : {1, 2, 9})
+            selections.push_back({.itemTypeId = type});
+    if (shape.takesLocation && shape.takesType)
+        selections.push_back({.warehouseId = 1 + books.below(4), .itemTypeId = 1 + books.below(3)});
+    for (ReportSelection &selection : selections) {
+        selection.period = 1 + books.below(12);
+        selection.year = 2025 + books.below(2);
+    }
+    selections.front().year = 2027; // later than all history
+    selections.push_back({.period = 1, .year = 2025});
+    return selections;
+}
+
+class Figures : public testing::TestWithParam<Store>
+{
+};
+ON_BOTH_STORES(Figures);
+
+TEST_P(Figures, EqualASecondComputationAndArePrintedAsTheyAreInCsv)
+{
+    const unsigned seed = std::random_device()();
+    SCOPED_TRACE(seed);
+    Books books(GetParam(), seed);
+    for (const Shape &shape : shapes) {
+        const ReportDescription *report = ReportList::find(textOf(shape.listText));
+        ASSERT_TRUE(report) << shape.listText;
+        for (const ReportSelection &selection : selectionsFor(shape, books)) {
+            const CsvReport csv = csvOf(books, shape, *report, selection);
+            ASSERT_EQ(csv.lines, Expected(books, shape, selection).lines)
+                << shape.listText << ", location " << selection.warehouseId << ", type " << selection.itemTypeId
+                << ", period " << selection.period << '/' << selection.year;
+            ASSERT_EQ(printedFigures(books, *report, selection), csv.figures) << shape.listText;
+        }
+    }
+}
+
+} // namespace

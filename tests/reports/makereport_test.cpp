@@ -1,0 +1,96 @@
+#include "reports/makereport.h"
+
+#include "base/ruleerror.h"
+#include "data/datamodule.h"
+#include "host/tables/hosttables.h"
+#include "printing/reportcsv.h"
+#include "reports/reportlist.h"
+#include "tests/support/kitchen.h"
+
+#include <QBuffer>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+const ReportDescription &report(const char *name) { return *ReportList::find(QString::fromLatin1(name)); }
+
+using ListReports = KitchenTest;
+ON_BOTH_STORES(ListReports);
+
+TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
+{
+    kitchen.setStock(1, 1, 1.5, 2.25);
+    kitchen.setStock(99, 77, -4, 0);
+    kitchen.execute(u"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, "
+                    "UnitCost, TransDescription) VALUES (1, 1, 2026, 3, 3, '2026-03-14', 2, 1.5, 'Receipt: 1'), "
+                    "(99, 77, 2025, 12, 0, '2025-12-31', -1, 0, NULL)"_s);
+    kitchen.execute(
+        u"INSERT INTO IAdjust (AdjustmentID, AdjDescription, GLYear, GLPeriod, AdjDate, WarehouseID, Posted) "
+        "VALUES (1, 'Spoiled', 2026, 3, '2026-03-14', 77, true)"_s);
+    kitchen.addReceipt(1, 2, 1, {}, u"PO7"_s);
+    const struct
+    {
+        const char *name;
+        const char *filter;
+        QByteArray csv;
+    } cases[] = {
+        {"Item Types", "", "Band,TypeName\r\ndetail,Food\r\ndetail,Goods\r\n"},
+        {"Items", "(ItemTypeID = 1) AND (Suspended <> true)",
+         "Band,ItemNo,ItemDescription,UnitPrice,TaxCodes,WgtAvgCost,StandardCost\r\n"
+         "detail,A10,Apples,,,2.25,\r\ndetail,A11,Bread,,,,\r\n"},
+        {"Vendors", "(CurrencyID = 1) AND (Suspended <> true)",
+         "Band,VendorNo,VendorName,Phone,Notes\r\ndetail,V1,First,,\r\n"},
+        {"Inventory Receipts", "",
+         "Band,Periodppyyyy,ReceiptNo,ReceiptDate,PurchaseOrderNo,VendorName,WarehouseName,Posted\r\n"
+         "detail,3/2026,1001,2026-03-14,PO7,Second,Office,false\r\n"},
+        {"Inventory Adjustments", "",
+         "Band,Periodppyyyy,AdjDescription,AdjDate,WarehouseName,Posted\r\n"
+         "detail,3/2026,Spoiled,2026-03-14,,true\r\n"},
+        {"Inventory History", "",
+         "Band,ItemNo,ItemDescription,TransDate,Periodppyyyy,TransTypeName,TransDescription,Quantity,UnitCost,"
+         "WarehouseName\r\n"
+         "detail,A10,Apples,2026-03-14,3/2026,PO Receipt,Receipt: 1,2,1.5,Office\r\n"
+         "detail,,,2025-12-31,12/2025,,,-1,0,\r\n"},
+        {"Inventory Totals", "(WarehouseID = 77)",
+         "Band,ItemNo,ItemDescription,WarehouseName,QtyOnHand\r\ndetail,,,,-4\r\n"},
+    };
+    for (const auto &one : cases) {
+        const ReportSelection selection{.filter = QString::fromLatin1(one.filter)};
+        const ReportDescription &list = report(one.name);
+        QBuffer file;
+        file.open(QIODevice::WriteOnly);
+        Printing::writeReportCsv(list.layout, *list.rows(kitchen.database(), list, selection), file, progress);
+        EXPECT_EQ(file.data(), one.csv) << one.name;
+        EXPECT_EQ(list.layout.landscape, list.listText == "Inventory History"_L1);
+    }
+}
+
+TEST(ReportHeadings, NameWhatIsChosenAndRefuseWhatIsGone)
+{
+    TestStore store(Store::Local);
+    DataModuleOptions options;
+    options.dataFolder = store.directory();
+    options.prepareHost = [](Engine::Database &database) {
+        HostTables::createHostTables(database, u"Kitchen"_s, u"USA"_s);
+    };
+    MemorySettings settings;
+    SpokenPrompts prompts;
+    TDataModuleTallymere data(settings, prompts, options);
+    store.execute(u"INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (7, 'Freezer'); "
+                  "INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (8, 'Food')"_s);
+    const auto headings = [&data](const char *name, const ReportSelection &selection) {
+        return makeReport(data, report(name), selection).layout.headings.join(u'/');
+    };
+    EXPECT_EQ(headings("Value by Item", {}), u"");
+    EXPECT_EQ(headings("Value by Item", {.warehouseId = 7}), u"Location: Freezer");
+    EXPECT_EQ(headings("Value by Item", {.warehouseId = 7, .itemTypeId = 8}), u"Location: Freezer     Type: Food");
+    EXPECT_EQ(headings("Perpetual by Item", {.itemTypeId = 8, .period = 3, .year = 2004}),
+              u"Type: Food/Period: 03/2004");
+    EXPECT_EQ(headings("Perpetual Summary by Item", {.period = 12, .year = 2004}), u"/Period: 12/2004");
+    EXPECT_THROW(headings("Value by Item", {.warehouseId = 70}), RuleError);
+    EXPECT_THROW(headings("Value by Item", {.itemTypeId = 80}), RuleError);
+}
+
+} // namespace
