@@ -10,6 +10,7 @@
 #include "ui_preview.h"
 
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -31,8 +32,7 @@ TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::Repor
     m_ui->setupUi(this);
     scaleForm(this);
     m_ui->progressBar->hide();
-    m_ui->btnSaveCsv->hide();
-    m_ui->btnSavePdf->setVisible(bool(context.chooseFileToSave));
+    m_ui->btnSave->setVisible(bool(context.chooseFileToSave));
     m_ui->QRPreview1->setRun(m_run.get());
     connectControls();
     resize(scaled(this, 900), scaled(this, 700));
@@ -44,7 +44,7 @@ TfrmPreview::~TfrmPreview() = default;
 void TfrmPreview::offerCsv(std::function<Printing::Report()> makeReport)
 {
     m_makeReport = std::move(makeReport);
-    m_ui->btnSaveCsv->setVisible(m_makeReport && m_context.chooseFileToSave);
+    m_saveCsv->setVisible(bool(m_makeReport));
 }
 
 void TfrmPreview::connectControls()
@@ -61,8 +61,13 @@ void TfrmPreview::connectControls()
     connectGuarded(m_ui->btnNext, &QToolButton::clicked, this, &TfrmPreview::btnNextClick);
     connectGuarded(m_ui->btnLast, &QToolButton::clicked, this, &TfrmPreview::btnLastClick);
     connectGuarded(m_ui->btnPrint, &QPushButton::clicked, this, &TfrmPreview::btnPrintClick);
-    connectGuarded(m_ui->btnSavePdf, &QPushButton::clicked, this, &TfrmPreview::btnSavePdfClick);
-    connectGuarded(m_ui->btnSaveCsv, &QPushButton::clicked, this, &TfrmPreview::btnSaveCsvClick);
+    auto *saving = new QMenu(m_ui->btnSave);
+    m_ui->btnSave->setMenu(saving);
+    m_savePdf = saving->addAction(tr("&PDF..."));
+    m_saveCsv = saving->addAction(tr("&CSV..."));
+    m_saveCsv->setVisible(false);
+    connectGuarded(m_savePdf, &QAction::triggered, this, &TfrmPreview::savePdf);
+    connectGuarded(m_saveCsv, &QAction::triggered, this, &TfrmPreview::saveCsv);
     connect(m_ui->btnClose, &QPushButton::clicked, this, &QWidget::close);
 
     connect(m_ui->SpinEdit1, &QSpinBox::valueChanged, m_ui->QRPreview1, &PageView::setZoom);
@@ -125,8 +130,8 @@ void TfrmPreview::showPageNumber()
     m_ui->btnPrev->setEnabled(page > 1);
     m_ui->btnNext->setEnabled(page < count);
     m_ui->btnLast->setEnabled(page < count || !complete);
-    for (QPushButton *button : {m_ui->btnPrint, m_ui->btnSavePdf})
-        button->setEnabled(complete && m_run->pageCount() > 0);
+    m_ui->btnPrint->setEnabled(complete);
+    m_savePdf->setEnabled(complete);
 }
 
 // --- looking around -----------------------------------------------------------------------------------------------
@@ -235,7 +240,7 @@ void TfrmPreview::printTo(QPrinter &printer)
         throw RuleError(tr("The printer '%1' has refused the report.").arg(printer.printerName()));
 }
 
-void TfrmPreview::btnSavePdfClick()
+void TfrmPreview::savePdf()
 {
     const QString file = chooseFile(
         m_context, this, {tr("Save as PDF"), m_run->title().remove(u'/') + ".pdf"_L1, tr("PDF files"), u"pdf"_s});
@@ -243,7 +248,7 @@ void TfrmPreview::btnSavePdfClick()
         withProgress([&](Progress &progress) { Printing::savePdf(*m_run, file, progress); });
 }
 
-void TfrmPreview::btnSaveCsvClick()
+void TfrmPreview::saveCsv()
 {
     const QString file = chooseFile(
         m_context, this, {tr("Save as CSV"), m_run->title().remove(u'/') + ".csv"_L1, tr("CSV files"), u"csv"_s});

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+class QAction;
 class QPrinter;
 
 namespace Ui {
@@ -37,8 +38,8 @@ public:
     void btnNextClick();
     void btnLastClick();
     void btnPrintClick();
-    void btnSavePdfClick();
-    void btnSaveCsvClick();
+    void savePdf();
+    void saveCsv();
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -59,6 +60,8 @@ private:
     std::unique_ptr<Ui::TfrmPreview> m_ui;
     std::unique_ptr<Printing::ReportRun> m_run;
     std::function<Printing::Report()> m_makeReport;
+    QAction *m_savePdf = nullptr;
+    QAction *m_saveCsv = nullptr;
     QTimer m_making; // goes on with the pages whenever there is nothing else to do
     bool m_toLast = false; // the last page was asked for before it was made
 };
