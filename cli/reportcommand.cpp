@@ -1,9 +1,9 @@
 #include "base/named.h"
 #include "base/ruleerror.h"
 #include "cli/command.h"
-#include "cli/printjob.h"
 #include "cli/texts.h"
 #include "data/fiscalperiod.h"
+#include "printing/printsystem.h"
 #include "printing/reportcsv.h"
 #include "printing/reportoutput.h"
 #include "reports/blankform.h"
@@ -154,7 +154,8 @@ void runPrintCommand(CommandContext &context)
     const QString file = folder.filePath(u"report.pdf"_s);
     ConsoleProgress progress(context.console, Texts::tr("Printing"));
     Printing::savePdf(*run, file, progress);
-    sendToPrinter(file, context.arguments.value(u"printer"_s), run->title(), QPageSize(run->paper().size));
+    Printing::sendToPrinter(file, context.arguments.value(u"printer"_s), run->title(),
+                            QPageSize(run->paper().size));
 }
 
 QList<OptionSpec> selectionOptions()

@@ -1,7 +1,7 @@
 #include "printing/printout.h"
 
 #include "base/ruleerror.h"
-#include "printing/jobrefusal.h"
+#include "printing/printsystem.h"
 #include "printing/reportoutput.h"
 #include "printing/texts.h"
 

@@ -251,14 +251,15 @@ TEST_F(PrintTest, TheProgramPrintsWhatItWritesToAFile)
     const QStringList write{u"report"_s, u"Value by Item"_s, u"--pdf"_s, written};
     QList<QStringList> before, words;
     QString file;
-    do { // the pages tell the time, which may go on meanwhile
+    // The pages tell the time, which may go on meanwhile, but not each time.
+    for (int attempt = 0; attempt == 0 || (before != words && attempt < 5); ++attempt) {
         ASSERT_EQ(cli.run(write).status, 0);
         before = wordsOfPages(written);
         ASSERT_EQ(cli.run({u"print"_s, u"Value by Item"_s}).status, 0);
         file = system.printed();
         ASSERT_EQ(cli.run(write).status, 0);
         words = wordsOfPages(written);
-    } while (before != words);
+    }
     EXPECT_GE(words.size(), 3);
     EXPECT_EQ(wordsOfPages(file), words);
     const QList<QImage> arrived = picturesOf(file);

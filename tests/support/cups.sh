@@ -47,6 +47,7 @@ user=$(id -un)
 
 configure() {
     mkdir "$home"/{etc,etc/ppd,spool,cache,run,tmp,log}
+    chmod 1777 "$home/tmp" # for its filters
     cat >"$home/cups-files.conf" <<EOF
 ServerRoot $home/etc
 RequestRoot $home/spool
