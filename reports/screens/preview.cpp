@@ -1,10 +1,10 @@
 #include "reports/screens/preview.h"
 
-#include "base/ruleerror.h"
 #include "controls/barprogress.h"
 #include "controls/filechoice.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
+#include "printing/printout.h"
 #include "printing/reportcsv.h"
 #include "printing/reportoutput.h"
 #include "ui_preview.h"
@@ -13,7 +13,6 @@
 #include <QMenu>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QPrinterInfo>
 #include <QScopeGuard>
 #include <QShortcut>
 
@@ -214,7 +213,6 @@ void TfrmPreview::withProgress(const std::function<void(Progress &)> &work)
 void TfrmPreview::btnPrintClick()
 {
     QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(m_run->title());
     printer.setPageLayout(m_run->paper().layout());
     QPrintDialog dialog(&printer, this);
     dialog.setMinMax(1, m_run->pageCount());
@@ -222,22 +220,7 @@ void TfrmPreview::btnPrintClick()
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange
                       | QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
     if (dialog.exec() == QDialog::Accepted)
-        printTo(printer);
-}
-
-void TfrmPreview::printTo(QPrinter &printer)
-{
-    if (printer.outputFormat() == QPrinter::NativeFormat
-        && QPrinterInfo::printerInfo(printer.printerName()).isNull())
-        throw RuleError(tr("The printer '%1' is not there any more.").arg(printer.printerName()));
-    const bool range = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
-    const int from = range ? printer.fromPage() : 1;
-    const int to = range ? std::min(printer.toPage(), m_run->pageCount()) : m_run->pageCount();
-    withProgress([&](Progress &progress) {
-        Printing::paintPages(*m_run, printer, printer.resolution(), from, to, progress);
-    });
-    if (printer.printerState() == QPrinter::Error)
-        throw RuleError(tr("The printer '%1' has refused the report.").arg(printer.printerName()));
+        withProgress([&](Progress &progress) { Printing::printReport(*m_run, printer, progress); });
 }
 
 void TfrmPreview::savePdf()

@@ -9,7 +9,6 @@
 #include <QTimer>
 
 class QAction;
-class QPrinter;
 
 namespace Ui {
 class TfrmPreview;
@@ -53,7 +52,6 @@ private:
     void goToPage(int page);
     void find(bool forward);
     void withProgress(const std::function<void(Progress &)> &work);
-    void printTo(QPrinter &printer);
 
     ScreenContext &m_context;
     Guard m_guard;
