@@ -26,15 +26,6 @@ long double nearestWhole(long double value)
     return std::trunc(value - 0.5L) < whole ? whole - 1 : whole;
 }
 
-long double withoutNoise(long double value)
-{
-    constexpr long double scale = 10'000'000.0L;
-    const long double scaled = value * scale;
-    if (!(std::fabs(scaled) + 0.5L < wholeLimit))
-        return value;
-    return nearestWhole(scaled) / scale;
-}
-
 [[noreturn]] void refuseDate(const QString &text)
 {
     throw RuleError(BaseTexts::tr("'%1' is not a valid date").arg(text));
@@ -56,6 +47,15 @@ bool isLeapDayOfYear00(const QString &text, QChar separator)
 }
 
 } // namespace
+
+long double withoutNoise(long double value)
+{
+    constexpr long double scale = 10'000'000.0L;
+    const long double scaled = value * scale;
+    if (!(std::fabs(scaled) + 0.5L < wholeLimit))
+        return value;
+    return nearestWhole(scaled) / scale;
+}
 
 long double roundIt(long double value) { return nearestWhole(withoutNoise(value)); }
 

@@ -117,11 +117,23 @@ FieldFormat currencyFormat(const RegionalSettings &settings, const QString &colu
     return format;
 }
 
+namespace {
+
+Value toFifteenDigits(const Value &value)
+{
+    constexpr int digits = 15;
+    const auto *number = std::get_if<double>(&value.storage());
+    return number ? Value(QString::number(*number, 'g', digits).toDouble()) : value;
+}
+
+} // namespace
+
 FieldFormat quantityFormat(const RegionalSettings &settings, const QString &column)
 {
     FieldFormat format;
-    format.display = emptyWhenNull(
+    format.edit = emptyWhenNull(
         [settings](const Value &value) { return value.toText().replace(u'.', settings.decimalPoint); });
+    format.display = [edit = format.edit](const Value &value) { return edit(toFifteenDigits(value)); };
     format.parse = nullWhenEmpty(
         [settings, column](const QString &text) { return Value(numberFromText(text, settings, column)); });
     return format;

@@ -66,6 +66,8 @@ SortKey sortKey(const CountRow &row, CountList::Order order)
 
 } // namespace
 
+double CountRow::difference() const { return static_cast<double>(withoutNoise(counted() - prior())); }
+
 CountList::CountList(std::vector<CountRow> rows)
 {
     m_rows.reserve(rows.size());
@@ -139,7 +141,7 @@ void CountList::setStandardCost(int row, Engine::Money cost)
 double CountList::highest(int row) const
 {
     const double prior = this->row(row).prior();
-    return prior > 0 ? prior : 1;
+    return prior > 0 ? std::max(prior, static_cast<double>(withoutNoise(prior))) : 1;
 }
 
 // Fractions are lost on both sides: books of items that are deducted here are kept in whole numbers.
@@ -173,8 +175,7 @@ bool CountList::hasEdits() const
 
 bool CountList::hasUsage() const
 {
-    return std::any_of(m_rows.begin(), m_rows.end(),
-                       [](const Placed &one) { return one.row.prior() > one.row.counted(); });
+    return std::any_of(m_rows.begin(), m_rows.end(), [](const Placed &one) { return one.row.difference() < 0; });
 }
 
 ItemQuantities CountList::counts() const

@@ -24,8 +24,8 @@ struct CountRow
 
     double prior() const { return recorded.value_or(0); }
     double counted() const { return typed.value_or(prior()); }
-    double difference() const { return counted() - prior(); } // below 0 where something has been used
-    bool differs() const { return counted() != prior(); }
+    double difference() const; // below 0 where something has been used; without the noise of floating numbers
+    bool differs() const { return difference() != 0; }
 };
 
 // Counted quantities by item.
@@ -59,7 +59,7 @@ public:
     void count(int row, double quantity);
     void forgetCount(int row); // nobody has counted it
     void setStandardCost(int row, Engine::Money cost);
-    // The most that is expected: what is recorded, or 1 where that is nothing.
+    // The most that is expected: what is recorded, as it is shown at least, or 1 where that is nothing.
     double highest(int row) const;
 
     // Takes quantities that wait to be posted off what is recorded, in whole numbers, and drops the counts of those

@@ -72,7 +72,7 @@ std::vector<UsageLine> usageLines(Engine::Database &database, const CountList &l
         const ItemCost cost = costs.value(row.itemId);
         if (cost.method != ItemCost::Method::None && cost.cost == Money())
             warnOfMissingCost(row, cost.method, prompts);
-        lines.push_back({row.itemId, row.prior() - row.counted(), cost.cost});
+        lines.push_back({row.itemId, -row.difference(), cost.cost});
     }
     return lines;
 }

@@ -79,6 +79,8 @@ TEST(Numbers, FollowTheUsersSeparators)
     EXPECT_EQ(quantity.display(Value(-0.125)), u"-0,125"_s);
     EXPECT_EQ(quantity.parse(u"0,1"_s), Value(0.1));
     EXPECT_EQ(quantity.display(Value()), u""_s);
+    EXPECT_EQ(quantity.display(Value(3.3000000000000007)), u"3,3"_s);
+    EXPECT_EQ(quantity.parse(quantity.edit(Value(3.3000000000000007))), Value(3.3000000000000007));
 }
 
 TEST(DateFormat, ShowsMonthNamesAndReadsShortDates)

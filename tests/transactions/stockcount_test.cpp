@@ -130,6 +130,22 @@ TEST_P(CountTest, WritesNothingWhereNothingHasBeenUsed)
     EXPECT_TRUE(count.draft()) << "it has not been calculated";
 }
 
+TEST_P(CountTest, TakesNoNoiseOfTheBooksForADifference)
+{
+    kitchen.setStock(1, 2, 3.3000000000000007, 1);
+    kitchen.setStock(2, 2, 3.2999999999999994, 1);
+    kitchen.setStock(3, 2, 17, 1);
+    ASSERT_TRUE(count.open(2, ZeroCounts::Excluded));
+    EXPECT_GE(count.list().highest(count.list().rowOfItem(2)), 3.3);
+    enter(u"A10"_s, 3.3);
+    enter(u"A11"_s, 3.3);
+    EXPECT_FALSE(count.calculate());
+    enter(u"B1"_s, 16.9);
+    EXPECT_EQ(count.list().totals().differing, 1);
+    ASSERT_TRUE(count.calculate());
+    EXPECT_EQ(usageLines(), QStringList(u"2000|1|0.1|3|4"_s));
+}
+
 TEST_P(CountTest, TakesThePeriodAndCostsFromTheBooks)
 {
     struct Case

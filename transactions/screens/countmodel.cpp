@@ -1,6 +1,5 @@
 #include "transactions/screens/countmodel.h"
 
-#include "base/calchelpers.h"
 #include "base/formats.h"
 
 #include <algorithm>
@@ -20,13 +19,6 @@ QString quantityText(const std::optional<double> &quantity)
 {
     static const Engine::FieldFormat format = quantityFormat();
     return quantity ? format.display(Engine::Value(*quantity)) : QString();
-}
-
-// Without the noise that a difference of two floating numbers has.
-double rounded(double difference)
-{
-    constexpr long double scale = 1'000'000;
-    return static_cast<double>(roundIt(difference * scale) / scale);
 }
 
 QColor mixed(const QColor &one, const QColor &other, double share)
@@ -141,7 +133,7 @@ QString CountModel::text(const CountRow &row, int column, int role) const
     case Quantity:
         return quantityText(row.typed ? row.typed : row.recorded);
     default:
-        return row.typed ? quantityText(rounded(row.difference())) : QString();
+        return row.typed ? quantityText(row.difference()) : QString();
     }
 }
 
