@@ -37,7 +37,9 @@ void runImport(CommandContext &context)
         complainOfRows(context.console, fileName, result.errors);
         throw RuleError(Texts::tr("Nothing was imported."));
     }
-    context.console.print(Texts::tr("%1 %2 imported").arg(result.documents).arg(kind.name));
+    context.console.print(
+        Texts::tr("%1 %2 imported")
+            .arg(QString::number(result.documents), result.documents == 1 ? kind.oneName : kind.name));
 }
 
 } // namespace

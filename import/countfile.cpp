@@ -33,15 +33,31 @@ QString valueOf(const ImportRow &row, QStringView target)
     return cell ? cell->value.toText() : QString();
 }
 
+QString notInList(NotCounted reason)
+{
+    switch (reason) {
+    case NotCounted::Unknown:
+        return ImportTexts::tr("The item '%1' was not found");
+    case NotCounted::Suspended:
+        return ImportTexts::tr("The item '%1' has been suspended and is not counted");
+    case NotCounted::NoInventory:
+        return ImportTexts::tr("The item '%1' is of a type without inventory and is not counted");
+    case NotCounted::NotHere:
+        break;
+    }
+    return ImportTexts::tr("The item '%1' is not among those that are counted at this location");
+}
+
 void takeRow(const ImportRow &row, StockCount &count)
 {
     const QString itemNo = valueOf(row, u"ItemNo");
-    if (itemNo.isEmpty() || valueOf(row, u"Quantity").isEmpty())
-        throw RuleError(ImportTexts::tr("An item number and a quantity are needed"));
+    if (itemNo.isEmpty())
+        throw RuleError(ImportTexts::tr("An item number is needed"));
+    if (valueOf(row, u"Quantity").isEmpty())
+        throw RuleError(ImportTexts::tr("A quantity is needed for the item '%1'").arg(itemNo));
     const int found = count.list().rowOfNumber(itemNo);
     if (found < 0)
-        throw RuleError(
-            ImportTexts::tr("The item '%1' is not among those that are counted at this location").arg(itemNo));
+        throw RuleError(notInList(count.reasonNotCounted(itemNo)).arg(itemNo));
     if (count.list().row(found).typed)
         throw RuleError(ImportTexts::tr("The item '%1' has been counted in an earlier row").arg(itemNo));
     count.count(found, row.cell(u"Quantity")->value.toDouble());

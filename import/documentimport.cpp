@@ -18,20 +18,21 @@ DocumentImport::DocumentImport(const ImportRun &run, const DocumentKind &kind)
     m_entry->open();
 }
 
-// Runs one step of a document; what refuses it is reported for the row. False when it was refused.
-template <typename Step> bool DocumentImport::tryStep(ImportRow &row, ImportErrors &errors, Step step)
+// Runs one step of a document; what refuses it is reported for the row, after what it is about. False when it was refused.
+template <typename Step>
+bool DocumentImport::tryStep(ImportRow &row, ImportErrors &errors, Step step, const QString &about)
 {
     try {
         step();
         return true;
     } catch (const RuleError &error) {
-        errors.add(row.line, error.message());
+        errors.add(row.line, about + error.message());
     } catch (const SilentAbort &) {
         errors.add(row.line, m_answers.lastText());
     } catch (const Engine::EngineError &error) {
         if (error.code() != Engine::ErrorCode::BadValue)
             throw;
-        errors.add(row.line, error.text());
+        errors.add(row.line, about + error.text());
     }
     row.isBad = true;
     return false;
@@ -43,7 +44,10 @@ void DocumentImport::add(ImportDocument &document, ImportErrors &errors)
     beginDocument(first);
     tryStep(first, errors, [&] { setHeader(first); });
     for (ImportRow &row : document) {
-        if (!row.isBad && !tryStep(row, errors, [&] { addLine(row); }) && m_entry->lines().isEditing())
+        if (!row.isBad
+            && !tryStep(
+                row, errors, [&] { addLine(row); }, itemOf(row))
+            && m_entry->lines().isEditing())
             m_entry->lines().cancel();
     }
     // A document with a bad row would only be told again that something is missing.
@@ -97,7 +101,16 @@ void DocumentImport::addLine(const ImportRow &row)
         else
             setField(m_entry->lines(), *cell);
     }
+    m_entry->requireQuantity();
     m_entry->lines().post();
+}
+
+// As what refuses a row begins with it: "ItemNo '1001': "; empty where the row names no item.
+QString DocumentImport::itemOf(const ImportRow &row)
+{
+    const ImportCell *item = row.cell(u"ItemID");
+    return item && !item->value.isNull() ? u"%1 '%2': "_s.arg(item->column->field, item->value.toText())
+                                         : QString();
 }
 
 void DocumentImport::setField(Engine::Table &table, const ImportCell &cell)

@@ -24,7 +24,9 @@ private:
     // The cells of a row that fill fields of the table, in the order of these.
     std::vector<const ImportCell *> cellsOf(const Engine::Table &table, const ImportRow &row) const;
     void setField(Engine::Table &table, const ImportCell &cell);
-    template <typename Step> bool tryStep(ImportRow &row, ImportErrors &errors, Step step);
+    static QString itemOf(const ImportRow &row);
+    template <typename Step>
+    bool tryStep(ImportRow &row, ImportErrors &errors, Step step, const QString &about = {});
 
     ImportAnswers &m_answers;
     const std::unique_ptr<DocumentEntry> m_entry;

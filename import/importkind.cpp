@@ -74,6 +74,7 @@ ImportKind masterKind(const MasterKind &master)
 {
     ImportKind kind;
     kind.name = master.name;
+    kind.oneName = master.oneName;
     kind.lockedTables = {master.table};
     if (!master.record.counterTable.isEmpty())
         kind.lockedTables.append(master.record.counterTable);
@@ -99,6 +100,7 @@ ImportKind documentKind(const DocumentKind &document)
 {
     ImportKind kind;
     kind.name = document.name;
+    kind.oneName = document.oneName;
     kind.lockedTables = {document.headerTable, document.lineTable, document.counters.table};
     const QStringList system = document.systemFields + QStringList{document.keyField, u"Seq"_s, u"Posted"_s};
     addColumns(kind, *Layouts::find(document.headerTable), system);

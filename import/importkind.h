@@ -54,6 +54,7 @@ struct ImportColumn
 struct ImportKind
 {
     QString name; // "items"
+    QString oneName; // "item"
     QList<ImportColumn> columns;
     QStringList refusedColumns; // fields that exist and that only the system sets
     QStringList lockedTables; // nobody else writes to them meanwhile; in the order they are locked

@@ -11,6 +11,7 @@ MasterKind describe()
 {
     MasterKind kind;
     kind.name = u"banks"_s;
+    kind.oneName = u"bank"_s;
     kind.table = u"Bank"_s;
     kind.keyField = u"BankID"_s;
     kind.nameFields = {u"BankName"_s};

@@ -13,6 +13,7 @@ MasterKind describe()
 {
     MasterKind kind;
     kind.name = u"currencies"_s;
+    kind.oneName = u"currency"_s;
     kind.table = u"Currency"_s;
     kind.keyField = u"CurrencyID"_s;
     kind.nameFields = {u"CurrencyName"_s};

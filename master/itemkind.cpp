@@ -20,6 +20,7 @@ MasterKind describe()
 {
     MasterKind kind;
     kind.name = u"items"_s;
+    kind.oneName = u"item"_s;
     kind.table = u"Item"_s;
     kind.keyField = u"ItemID"_s;
     kind.numberField = u"ItemNo"_s;

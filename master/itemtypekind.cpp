@@ -11,6 +11,7 @@ MasterKind describe()
 {
     MasterKind kind;
     kind.name = u"types"_s;
+    kind.oneName = u"type"_s;
     kind.table = u"ItemType"_s;
     kind.keyField = u"ItemTypeID"_s;
     kind.nameFields = {u"TypeName"_s};

@@ -11,6 +11,7 @@ MasterKind describe()
 {
     MasterKind kind;
     kind.name = u"locations"_s;
+    kind.oneName = u"location"_s;
     kind.table = u"Warehse"_s;
     kind.keyField = u"WarehouseID"_s;
     kind.nameFields = {u"WarehouseName"_s};

@@ -114,6 +114,7 @@ struct MasterKind
     };
 
     QString name; // on the command line: "types"
+    QString oneName; // of one: "type"
     QString table; // "Item"
     QString keyField; // "ItemID"; taken from a counter, else a default, else the highest key plus 1
     QString numberField; // the number that users see and that must be unique

@@ -19,6 +19,7 @@ MasterKind describe()
 {
     MasterKind kind;
     kind.name = u"taxes"_s;
+    kind.oneName = u"tax"_s;
     kind.table = u"Tax"_s;
     kind.keyField = u"TaxID"_s;
     kind.nameFields = {u"TaxName"_s};

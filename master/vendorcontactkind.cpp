@@ -20,6 +20,7 @@ MasterKind describe()
 {
     MasterKind kind;
     kind.name = u"contacts"_s;
+    kind.oneName = u"contact"_s;
     kind.table = u"VContact"_s;
     kind.keyField = u"ContactID"_s;
     kind.record.keyByEngine = true;

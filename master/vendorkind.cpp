@@ -68,6 +68,7 @@ MasterKind describe()
 {
     MasterKind kind;
     kind.name = u"vendors"_s;
+    kind.oneName = u"vendor"_s;
     kind.table = u"Vendor"_s;
     kind.keyField = u"VendorID"_s;
     kind.numberField = u"VendorNo"_s;

@@ -11,6 +11,7 @@ const DocumentKind &DocumentKinds::adjustment()
 {
     static const DocumentKind kind{
         .name = u"adjustments"_s,
+        .oneName = u"adjustment"_s,
         .headerTable = u"IAdjust"_s,
         .lineTable = u"IAdjDet"_s,
         .keyField = u"AdjustmentID"_s,

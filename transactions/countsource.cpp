@@ -139,4 +139,18 @@ QHash<qint64, ItemCost> CountSource::costs() const
     return costs;
 }
 
+NotCounted CountSource::reasonNotCounted(const QString &itemNo) const
+{
+    const Engine::StatementPtr item = m_database.connection().prepare(
+        u"SELECT Suspended, Inventory FROM Item LEFT OUTER JOIN ItemType ON Item.ItemTypeID = ItemType.ItemTypeID "
+        "WHERE lower(ItemNo) = lower(?) ORDER BY CASE WHEN ItemNo = ? THEN 0 ELSE 1 END"_s);
+    item->bindText(0, itemNo);
+    item->bindText(1, itemNo);
+    if (!item->next())
+        return NotCounted::Unknown;
+    if (item->valueAt(0, Engine::FieldType::Boolean).toBool())
+        return NotCounted::Suspended;
+    return item->valueAt(1, Engine::FieldType::Boolean).toBool() ? NotCounted::NotHere : NotCounted::NoInventory;
+}
+
 } // namespace Tallymere

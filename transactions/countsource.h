@@ -31,6 +31,9 @@ struct ItemCost
     Engine::Money cost; // 0 where it is missing
 };
 
+// Why an item is not in the list of a count.
+enum class NotCounted { Unknown, Suspended, NoInventory, NotHere };
+
 // What a count reads from the books.
 class CountSource
 {
@@ -48,6 +51,7 @@ public:
     ItemQuantities unpostedUsage(int location) const;
     ItemQuantities balances(int location) const; // as stored now
     QHash<qint64, ItemCost> costs() const; // of all items
+    NotCounted reasonNotCounted(const QString &itemNo) const; // in any letter case
 
 private:
     Engine::Database &m_database;

@@ -378,6 +378,12 @@ void DocumentEntry::requireItem() const
         refuseLine(TransactionsTexts::tr("Item not found"), u"ItemNo"_s);
 }
 
+void DocumentEntry::requireQuantity() const
+{
+    const QString &quantity = m_kind.lineColumns.constFirst().field;
+    requireLineField(quantity, quantity);
+}
+
 void DocumentEntry::checkLine() { requireItem(); }
 
 void DocumentEntry::chooseItem(int itemId)

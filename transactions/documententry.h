@@ -83,6 +83,8 @@ public:
     void chooseItemByNumber(const QString &itemNo);
     void newLine(); // appends a line
     void removeLine(); // deletes the current line; a line being entered is dropped
+    // Refuses a line without a quantity. Not every kind does so by itself: on a screen it counts as nothing.
+    void requireQuantity() const;
 
 protected:
     // The kind outlives the object.

@@ -51,6 +51,7 @@ struct DocumentKind
     };
 
     QString name; // on the command line: "receipts"
+    QString oneName; // of one: "receipt"
 
     // --- the tables ---------------------------------------------------------------------------------------------
     QString headerTable; // "IReceipt"

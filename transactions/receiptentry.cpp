@@ -81,7 +81,7 @@ void ReceiptEntry::checkReferences()
 
 void ReceiptEntry::checkLine()
 {
-    requireLineField(u"QtyReceived"_s, u"QtyReceived"_s);
+    requireQuantity();
     requireItem();
     requireLineField(u"UnitCost"_s, u"UnitCost"_s);
     if (lines().money(u"UnitCost") < Engine::Money())

@@ -12,6 +12,7 @@ const DocumentKind &DocumentKinds::receipt()
 {
     static const DocumentKind kind{
         .name = u"receipts"_s,
+        .oneName = u"receipt"_s,
         .headerTable = u"IReceipt"_s,
         .lineTable = u"IRecDet"_s,
         .keyField = u"ReceiptID"_s,

@@ -45,6 +45,8 @@ public:
     void resume(const CountDraft &draft);
     void dropDraft();
 
+    NotCounted reasonNotCounted(const QString &itemNo) const { return m_source.reasonNotCounted(itemNo); }
+
     // Whether a count of that date can be calculated.
     static bool isCountable(QDate date, QDate today);
     static QDate latestDate(QDate today);

@@ -12,6 +12,7 @@ const DocumentKind &DocumentKinds::usage()
 {
     static const DocumentKind kind{
         .name = u"usage"_s,
+        .oneName = u"usage"_s,
         .headerTable = u"IUsage"_s,
         .lineTable = u"IUsageDet"_s,
         .keyField = u"UsageID"_s,

@@ -54,14 +54,16 @@ TEST_P(CountCommand, WritesAUsageOfWhatDiffers)
 
 TEST_P(CountCommand, RefusesWhatItCannotTake)
 {
+    execute("INSERT INTO Item (ItemID, ItemNo, Suspended) VALUES (90, 'E5', false)");
     const std::pair<QByteArray, QStringList> files[] = {
-        {"ItemNo,Quantity\nA1,-1\nA1,\nB2,2\nC3,1\n,1\nA1,2\nA1,3\nA1,x\n",
+        {"ItemNo,Quantity\nA1,-1\nA1,\nB2,2\nC3,1\n,1\nA1,2\nA1,3\nA1,x\nD4,1\nE5,1\n",
          {u"2: A quantity that has been counted cannot be below zero"_s,
-          u"3: An item number and a quantity are needed"_s,
+          u"3: A quantity is needed for the item 'A1'"_s,
           u"4: The item 'B2' is not among those that are counted at this location"_s,
-          u"5: The item 'C3' is not among those that are counted at this location"_s,
-          u"6: An item number and a quantity are needed"_s,
-          u"8: The item 'A1' has been counted in an earlier row"_s, u"9: Quantity 'x' is not a number"_s}},
+          u"5: The item 'C3' has been suspended and is not counted"_s, u"6: An item number is needed"_s,
+          u"8: The item 'A1' has been counted in an earlier row"_s, u"9: Quantity 'x' is not a number"_s,
+          u"10: The item 'D4' was not found"_s,
+          u"11: The item 'E5' is of a type without inventory and is not counted"_s}},
         {"ItemNo\nA1\n", {u"1: The column 'Quantity' is missing."_s}},
     };
     for (const auto &[csv, messages] : files) {

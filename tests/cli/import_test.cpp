@@ -90,16 +90,23 @@ const BadFile badFiles[] = {
            "R9,,,,,Office,A1,1,1\nR10,,,,V1,Attic,A1,1,1\nR11,,1999,1,V1,Office,A1,1,1\n"
            "R12,2026-02-30,,13,V1,Office,A1,1,1\nR13,,,,V1,Office,A1,1,1\nR14,,,,V1,Office,A1,1,1\n"
            "R13,,,,V1,Office,B2,1,1\n",
-     {u"2: Field 'Quantity' must have a value... Make changes or press Esc to undo"_s,
+     {u"2: ItemNo 'A1': Field 'Quantity' must have a value... Make changes or press Esc to undo"_s,
       u"3: Field 'Item no.' must have a value... Make changes or press Esc to undo"_s,
-      u"4: Item not found... Press Esc or enter a different item no"_s, u"5: Item has been suspended"_s,
-      u"6: Field 'Unit Cost' must have a value... Make changes or press Esc to undo"_s,
-      u"7: Field 'Unit Cost' must not be less than zero... Make changes or press Esc to undo"_s,
+      u"4: ItemNo 'Z9': Item not found... Press Esc or enter a different item no"_s,
+      u"5: ItemNo 'C3': Item has been suspended"_s,
+      u"6: ItemNo 'A1': Field 'Unit Cost' must have a value... Make changes or press Esc to undo"_s,
+      u"7: ItemNo 'A1': Field 'Unit Cost' must not be less than zero... Make changes or press Esc to undo"_s,
       u"8: Vendor no. 'V9' not found"_s, u"9: Vendor no. 'V3' has been suspended"_s,
       u"10: Field 'Vendor' must have a value"_s, u"11: Location 'Attic' not found"_s,
       u"12: GL Period is prior to current fiscal year as defined by \"Your Company\""_s,
       u"13: ReceiptDate '2026-02-30' is not a date (YYYY-MM-DD)"_s, u"13: GLPeriod '13' is not within 1 to 12"_s,
       u"16: Receipt no. already exists"_s}},
+    {u"usage"_s,
+     "WarehouseName,ItemNo,Quantity\nOffice,A1,\n",
+     {u"2: ItemNo 'A1': Field 'Quantity' must have a value... Make changes or press Esc to undo"_s}},
+    {u"adjustments"_s,
+     "AdjDescription,WarehouseName,ItemNo,Quantity\nBroken,Office,A1,1\nBroken,Office,A1,\n",
+     {u"3: ItemNo 'A1': Field 'Quantity' must have a value... Make changes or press Esc to undo"_s}},
 };
 
 TEST_P(Import, ABadFileIsToldRowByRowAndNothingOfItIsWritten)
