@@ -210,7 +210,8 @@ void FieldBinder::leave(FieldBinding &binding)
         Qt::QueuedConnection);
 }
 
-// From the widget that kept an entry the cursor has gone on: back to the entry, or to where it would have been refused.
+// From the widget that kept an entry, or from another window, the cursor has gone on: back to the entry, or to where it
+// would have been refused.
 void FieldBinder::focusMoved(QWidget *now)
 {
     if (!m_kept || !now || keepsEntry(now) || !m_form->isAncestorOf(now))
@@ -231,9 +232,10 @@ bool FieldBinder::eventFilter(QObject *watched, QEvent *event)
         binding->setActive(true);
     } else if (event->type() == QEvent::FocusOut) {
         if (handsEntryOver(*static_cast<QFocusEvent *>(event))) {
+            m_kept = nullptr;
             leave(*binding);
             binding->setActive(false);
-        } else if (keepsEntry(QApplication::focusWidget())) {
+        } else {
             m_kept = binding;
         }
     } else if (event->type() == QEvent::Wheel && qobject_cast<QComboBox *>(watched)) {

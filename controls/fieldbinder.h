@@ -67,7 +67,7 @@ private:
     const Guard &m_guard;
     std::vector<std::unique_ptr<FieldBinding>> m_bindings;
     bool m_readOnly = false;
-    FieldBinding *m_kept = nullptr; // left towards a widget that keeps the entry
+    FieldBinding *m_kept = nullptr; // left towards a widget that keeps the entry, or another window
     bool m_refusing = false; // an entry is refused, and that is being told
 };
 

@@ -7,6 +7,7 @@
 #include "tests/support/spokenprompts.h"
 #include "tests/support/teststore.h"
 
+#include <QDialog>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -74,6 +75,19 @@ protected:
 };
 
 } // namespace
+
+// As a question does whose answer leads the cursor elsewhere.
+TEST_F(FieldBinderTest, showsDisplayTextWhereTheCursorHasGoneOnBehindABox)
+{
+    type("<Tab><Tab>");
+    EXPECT_EQ(shown("editServed"), u"03/14/26"_s);
+    QDialog box;
+    showActive(box);
+    child<QLineEdit>(form, "editName")->setFocus();
+    box.close();
+    showActive(form);
+    EXPECT_EQ(shown("editServed"), u"14 Mar 26"_s);
+}
 
 // However the cursor has come, what is typed stands for the whole date that was there, one-digit parts among it.
 TEST_F(FieldBinderTest, typedDateReplacesTheOneThatTheCursorCameTo)
