@@ -105,7 +105,7 @@ QList<Column> columns(const BlankFormChoices &choices)
 // The count takes the quantities as they are when it begins.
 QStringList unpostedNote(Engine::Database &database, const ReportSelection &selection)
 {
-    if (CountSource(database).unposted(selection.warehouseId).isEmpty())
+    if (!CountSource(database).hasUnposted(selection.warehouseId))
         return {};
     return {ReportsTexts::tr("There are unposted transactions for this location: prior quantities will change.")};
 }

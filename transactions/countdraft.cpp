@@ -31,7 +31,7 @@ QJsonDocument written(const CountDraft &draft)
 {
     QJsonArray counts;
     for (auto count = draft.counts.cbegin(); count != draft.counts.cend(); ++count)
-        counts.append(QJsonArray{count.key(), *count});
+        counts.append(QJsonArray{count.key(), *count, draft.recorded.value(count.key())});
     QJsonArray costs;
     for (auto cost = draft.costs.cbegin(); cost != draft.costs.cend(); ++cost)
         costs.append(QJsonArray{cost.key(), cost->toDouble()});
@@ -51,8 +51,11 @@ CountDraft read(const QJsonObject &object)
     const QJsonArray counts = object[u"counts"_s].toArray();
     for (const auto &count : counts) {
         const double quantity = count[1].toDouble(-1);
-        if (std::isfinite(quantity) && quantity >= 0)
-            draft.counts.insert(count[0].toInteger(), quantity);
+        if (!std::isfinite(quantity) || quantity < 0)
+            continue;
+        draft.counts.insert(count[0].toInteger(), quantity);
+        if (count[2].isDouble()) // of earlier drafts it is not known
+            draft.recorded.insert(count[0].toInteger(), count[2].toDouble());
     }
     const QJsonArray costs = object[u"costs"_s].toArray();
     for (const auto &cost : costs) {

@@ -16,6 +16,7 @@ struct CountDraft
     ZeroCounts zeroCounts = ZeroCounts::Excluded;
     ItemQuantities counts;
     ItemCosts costs = {}; // standard costs that have been typed
+    ItemQuantities recorded = {}; // what the books held of the counted items; more may be given to save()
 };
 
 // The drafts of one user of one database on this machine, a file for each location. They outlive the program, however it

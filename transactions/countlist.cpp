@@ -157,16 +157,6 @@ void CountList::deduct(const ItemQuantities &unposted)
     }
 }
 
-void CountList::acceptCounts()
-{
-    for (Placed &placed : m_rows) {
-        if (placed.row.typed)
-            placed.row.recorded = placed.row.typed;
-        placed.row.typed.reset();
-        placed.row.costTyped = false;
-    }
-}
-
 bool CountList::hasEdits() const
 {
     return std::any_of(m_rows.begin(), m_rows.end(),
@@ -176,6 +166,12 @@ bool CountList::hasEdits() const
 bool CountList::hasUsage() const
 {
     return std::any_of(m_rows.begin(), m_rows.end(), [](const Placed &one) { return one.row.difference() < 0; });
+}
+
+int CountList::countedAbove() const
+{
+    return static_cast<int>(
+        std::count_if(m_rows.begin(), m_rows.end(), [](const Placed &one) { return one.row.difference() > 0; }));
 }
 
 ItemQuantities CountList::counts() const

@@ -65,10 +65,10 @@ public:
     // Takes quantities that wait to be posted off what is recorded, in whole numbers, and drops the counts of those
     // items.
     void deduct(const ItemQuantities &unposted);
-    void acceptCounts(); // what has been counted is what is recorded from now on
 
     bool hasEdits() const; // a count or a standard cost has been typed
     bool hasUsage() const; // some row holds less than recorded
+    int countedAbove() const; // rows that hold more
     ItemQuantities counts() const; // of the items that have been counted
     int takeCounts(const ItemQuantities &counts); // of items that are in the list; how many those are
     ItemCosts costs() const; // standard costs that have been typed

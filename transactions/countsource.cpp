@@ -101,18 +101,15 @@ CountList CountSource::list(int location, ZeroCounts zeroCounts) const
     return CountList(std::move(rows));
 }
 
-QSet<QString> CountSource::unposted(int location) const
+bool CountSource::hasUnposted(int location) const
 {
     const Engine::StatementPtr rows = m_database.connection().prepare(
-        u"SELECT 'U' AS Kind, UsageID AS ID FROM IUsage WHERE Posted = false AND WarehouseID = ? "
-        "UNION ALL SELECT 'A', AdjustmentID FROM IAdjust WHERE Posted = false AND WarehouseID = ? "
-        "UNION ALL SELECT 'R', ReceiptID FROM IReceipt WHERE Posted = false AND WarehouseID = ?"_s);
+        u"SELECT UsageID AS ID FROM IUsage WHERE Posted = false AND WarehouseID = ? "
+        "UNION SELECT AdjustmentID AS ID FROM IAdjust WHERE Posted = false AND WarehouseID = ? "
+        "UNION SELECT ReceiptID AS ID FROM IReceipt WHERE Posted = false AND WarehouseID = ?"_s);
     for (int parameter = 0; parameter < 3; ++parameter)
         rows->bindInt(parameter, location);
-    QSet<QString> documents;
-    while (rows->next())
-        documents.insert(rows->textAt(0) + QString::number(rows->intAt(1)));
-    return documents;
+    return rows->next();
 }
 
 ItemQuantities CountSource::unpostedUsage(int location) const

@@ -3,7 +3,6 @@
 #include "transactions/countlist.h"
 
 #include <QCoreApplication>
-#include <QSet>
 
 namespace Engine {
 class Database;
@@ -46,8 +45,7 @@ public:
     std::vector<CountLocation> locations() const; // by name
     // The items to be counted at a location: of inventory types, neither suspended nor pledged.
     CountList list(int location, ZeroCounts zeroCounts) const;
-    // Receipts, adjustments and usages of the location that wait to be posted, each by a name of its own.
-    QSet<QString> unposted(int location) const;
+    bool hasUnposted(int location) const; // receipts, adjustments or usages of it wait to be posted
     ItemQuantities unpostedUsage(int location) const;
     ItemQuantities balances(int location) const; // as stored now
     QHash<qint64, ItemCost> costs() const; // of all items

@@ -14,6 +14,14 @@ namespace Tallymere {
 namespace {
 constexpr int oldestDays = 365;
 constexpr int daysAhead = 3;
+
+QString postedText(int items)
+{
+    return TransactionsTexts::tr(
+        "Transactions have been posted since this list was read: %n item(s) of this location "
+        "have another quantity in the books now.",
+        nullptr, items);
+}
 } // namespace
 
 StockCount::StockCount(Engine::Database &database, Prompts &prompts, std::optional<CountDrafts> drafts)
@@ -42,10 +50,8 @@ std::vector<CountLocation> StockCount::locationsWithDraft() const
 bool StockCount::open(int location, ZeroCounts zeroCounts)
 {
     close();
-    if (!m_source.unposted(location).isEmpty()) {
-        m_prompts.warn(TransactionsTexts::tr(
-            "There are unposted transactions for this location.\r\nYou cannot enter the inventory for "
-            "this location until all\r\ntransactions involving this location have been posted."));
+    if (m_source.hasUnposted(location)) {
+        warnOfUnposted();
         return false;
     }
     m_location = location;
@@ -58,17 +64,28 @@ void StockCount::close()
     const CountList::Order order = m_list.order();
     m_list = CountList();
     m_list.sortBy(order);
-    m_isOpen = false;
+    m_isOpen = m_waits = m_isCalculated = false;
 }
 
 void StockCount::setZeroCounts(ZeroCounts zeroCounts)
 {
+    close();
     read(zeroCounts);
     try {
         deductUnposted();
     } catch (const std::exception &) {
         m_prompts.error(TransactionsTexts::tr("Error encountered while deducting uposted usage"));
     }
+    m_waits = m_source.hasUnposted(m_location);
+    if (m_waits)
+        warnOfUnposted();
+}
+
+void StockCount::warnOfUnposted() const
+{
+    m_prompts.warn(TransactionsTexts::tr(
+        "There are unposted transactions for this location.\r\nYou cannot enter the inventory for "
+        "this location until all\r\ntransactions involving this location have been posted."));
 }
 
 // What is compared with the books later is read before the list: what changes in between shows as changed.
@@ -76,7 +93,6 @@ void StockCount::read(ZeroCounts zeroCounts)
 {
     const CountList::Order order = m_list.order();
     m_zeroCounts = zeroCounts;
-    m_unposted = m_source.unposted(m_location);
     m_balances = m_source.balances(m_location);
     m_list = m_source.list(m_location, zeroCounts);
     m_list.sortBy(order);
@@ -115,14 +131,16 @@ void StockCount::setStandardCost(int row, Engine::Money cost)
 // Counting goes on without a draft.
 void StockCount::keepDraft()
 {
+    m_isCalculated = false;
     m_draftFailure.clear();
     if (!m_drafts)
         return;
     if (!hasEdits())
         return dropDraft();
     try {
-        m_drafts->save(m_location,
-                       {m_database.session().now(), m_date, m_zeroCounts, m_list.counts(), m_list.costs()});
+        m_drafts->save(
+            m_location,
+            {m_database.session().now(), m_date, m_zeroCounts, m_list.counts(), m_list.costs(), m_balances});
     } catch (const RuleError &error) {
         m_draftFailure = error.message();
     }
@@ -150,6 +168,21 @@ void StockCount::resume(const CountDraft &draft)
     if (missing > 0)
         m_prompts.inform(TransactionsTexts::tr("%n item(s) that have been counted are no longer in the list.",
                                                nullptr, static_cast<int>(missing)));
+    tellOfChanges(draft);
+}
+
+void StockCount::tellOfChanges(const CountDraft &draft) const
+{
+    ItemQuantities before = m_balances;
+    before.insert(draft.recorded);
+    const int changed = changedItems(before, m_balances);
+    if (changed == 0)
+        return;
+    QString told = postedText(changed);
+    if (const int above = m_list.countedAbove(); above > 0)
+        told += u"\n\n"_s
+            + TransactionsTexts::tr("%n item(s) have been counted above what is recorded now.", nullptr, above);
+    m_prompts.warn(told);
 }
 
 void StockCount::dropDraft()
@@ -166,15 +199,27 @@ QDate StockCount::latestDate(QDate today) { return today.addDays(daysAhead); }
 
 std::optional<CalculatedUsage> StockCount::calculate()
 {
+    requireNothingWaits();
     if (m_list.hasUsage())
         requireUnchangedBooks();
     const std::optional<CalculatedUsage> usage = calculateUsage(m_database, m_list, m_location, m_date, m_prompts);
     if (!usage)
         return usage;
-    m_list.acceptCounts();
+    m_waits = m_isCalculated = true;
     dropDraft();
-    m_unposted = m_source.unposted(m_location);
     return usage;
+}
+
+void StockCount::requireNothingWaits() const
+{
+    if (!m_waits)
+        return;
+    if (!m_source.hasUnposted(m_location))
+        throw RuleError(
+            TransactionsTexts::tr("Transactions of this location have been posted since this list was read.\n"
+                                  "Choose the location again to count it anew."));
+    warnOfUnposted();
+    throw SilentAbort();
 }
 
 void StockCount::requireUnchangedBooks() const
@@ -182,30 +227,25 @@ void StockCount::requireUnchangedBooks() const
     const auto goOn =
         TransactionsTexts::tr("The usage is what the list shows as used, whatever has come or gone meanwhile.\n"
                               "Do you want to calculate it nevertheless?");
-    if (const int changed = changedBalances(); changed > 0) {
-        const QString posted = TransactionsTexts::tr(
-            "Transactions have been posted since this list was read: %n item(s) of this location "
-            "have another quantity in the books now.",
-            nullptr, changed);
-        if (!m_prompts.confirm(Question::YesNo, posted + u"\n\n"_s + goOn))
+    if (const int changed = changedItems(m_balances, m_source.balances(m_location)); changed > 0) {
+        if (!m_prompts.confirm(Question::Warning, postedText(changed) + u"\n\n"_s + goOn))
             throw SilentAbort();
     }
-    if (!(m_source.unposted(m_location) - m_unposted).isEmpty()) {
+    if (m_source.hasUnposted(m_location)) {
         const QString saved = TransactionsTexts::tr(
             "Somebody has saved transactions for this location since this list was read. They "
             "have not been posted yet.");
-        if (!m_prompts.confirm(Question::YesNo, saved + u"\n\n"_s + goOn))
+        if (!m_prompts.confirm(Question::Warning, saved + u"\n\n"_s + goOn))
             throw SilentAbort();
     }
 }
 
-int StockCount::changedBalances() const
+int StockCount::changedItems(const ItemQuantities &before, const ItemQuantities &now) const
 {
-    const ItemQuantities now = m_source.balances(m_location);
     int changed = 0;
     for (int i = 0; i < m_list.size(); ++i) {
         const qint64 item = m_list.row(i).itemId;
-        changed += now.value(item) != m_balances.value(item) ? 1 : 0;
+        changed += now.value(item) != before.value(item) ? 1 : 0;
     }
     return changed;
 }

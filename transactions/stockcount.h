@@ -21,7 +21,8 @@ public:
     // Goes to the list of a location. While documents of the location wait to be posted the user is warned, and no list is
     // open. What has been counted before is lost, and its draft stays.
     bool open(int location, ZeroCounts zeroCounts);
-    // The same list with or without items that have no balance, less the usage that waits to be posted.
+    // The same list with or without items that have no balance, less the usage that waits to be posted. While anything
+    // waits the user is warned, and the list cannot be calculated.
     void setZeroCounts(ZeroCounts zeroCounts);
     void close();
 
@@ -29,7 +30,7 @@ public:
     int location() const { return m_location; }
     ZeroCounts zeroCounts() const { return m_zeroCounts; }
     const CountList &list() const { return m_list; }
-    bool hasEdits() const { return m_list.hasEdits(); }
+    bool hasEdits() const { return m_list.hasEdits() && !m_isCalculated; } // that have not been calculated
 
     void sortBy(CountList::Order order) { m_list.sortBy(order); }
     // Each keeps the draft.
@@ -41,7 +42,8 @@ public:
     void requireDraft(); // writes it once more; throws RuleError when it cannot be kept
 
     std::optional<CountDraft> draft() const; // of the open list
-    // Takes its counts; items that are no longer in the list are told.
+    // Takes its counts; the user is told of items that are no longer in the list, and of others that the books hold another
+    // quantity of than when they were counted.
     void resume(const CountDraft &draft);
     void dropDraft();
 
@@ -52,16 +54,19 @@ public:
     static QDate latestDate(QDate today);
 
     // Writes the usage document; nothing when no item has been used. The user is asked before, when the books have
-    // changed since the list was read; SilentAbort when he would rather not. Afterwards what has been counted is what is
-    // recorded, and the draft is gone.
+    // changed since the list was read; SilentAbort when he would rather not. Afterwards the draft is gone, and the list cannot
+    // be calculated again: it has to be opened anew when the usage has been posted.
     std::optional<CalculatedUsage> calculate();
 
 private:
     void read(ZeroCounts zeroCounts);
     void deductUnposted();
+    void warnOfUnposted() const;
     void keepDraft();
+    void tellOfChanges(const CountDraft &draft) const;
+    void requireNothingWaits() const;
     void requireUnchangedBooks() const;
-    int changedBalances() const;
+    int changedItems(const ItemQuantities &before, const ItemQuantities &now) const;
 
     Engine::Database &m_database;
     Prompts &m_prompts;
@@ -72,8 +77,10 @@ private:
     int m_location = 0;
     QDate m_date;
     ZeroCounts m_zeroCounts = ZeroCounts::Excluded;
-    QSet<QString> m_unposted; // as they were when the list was read
-    ItemQuantities m_balances;
+    ItemQuantities m_balances; // as they were when the list was read
+    bool m_waits =
+        false; // the list lacks what waited to be posted at its reading, or what it has been calculated to
+    bool m_isCalculated = false; // and nothing has been typed since
     QString m_draftFailure;
 };
 
