@@ -47,6 +47,7 @@ void DatePicker::takeText()
         if (m_latest.isValid() && typed > m_latest)
             throw RuleError(tr("The latest date is %1").arg(RegionalSettings::system().shortDate(m_latest, 4)));
         setDate(typed);
+        Q_EMIT taken();
     } catch (const RuleError &error) {
         showDate();
         Q_EMIT refused(error.message());

@@ -22,6 +22,7 @@ public:
 
 Q_SIGNALS:
     void dateChanged();
+    void taken(); // what has been typed, also where it is the date that was there
     void refused(const QString &message);
 
 protected:

@@ -145,7 +145,8 @@ Answer EntryScreen::askAboutChanges()
     if (QApplication::activeWindow() == this)
         return m_context.prompts.yesNoCancel(closingQuestion());
     bringToFront(*this);
-    return m_context.prompts.yesNoCancel(closingQuestion() + "\n\n"_L1 + recordName());
+    const QString name = recordName();
+    return m_context.prompts.yesNoCancel(name.isEmpty() ? closingQuestion() : closingQuestion() + "\n\n"_L1 + name);
 }
 
 void EntryScreen::closeEvent(QCloseEvent *event)

@@ -44,7 +44,8 @@ protected:
     virtual void dropChanges() = 0;
     virtual std::optional<int> savedKey() const = 0; // where OK leads the list; nothing where it stays
     virtual QString caption() const = 0;
-    virtual QString recordName() const { return caption(); } // among the records that are open
+    // Among the records that are open; empty where there is only one.
+    virtual QString recordName() const { return caption(); }
     virtual QString closingQuestion() const { return tr("Do you want to save changes?"); }
     // Brings the cursor to what shows the column; the base knows the bound widgets.
     virtual bool focusColumn(const QString &column);

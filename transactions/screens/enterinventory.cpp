@@ -66,6 +66,7 @@ void TFormEnterInventory::connectControls()
                    &TFormEnterInventory::zeroCountsChosen);
     connect(m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::dateChanged, this,
             &TFormEnterInventory::dateChosen);
+    connect(m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::taken, this, [this] { showStatus(); });
     connect(m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::refused, this, &TFormEnterInventory::showStatus);
     connect(m_ui->cboSearchOrder, &QComboBox::activated, this,
             [this](int order) { sortBy(static_cast<CountList::Order>(order)); });
@@ -101,7 +102,9 @@ bool TFormEnterInventory::mayLoseCounts(const QString &question)
 {
     if (!m_count.hasEdits())
         return true;
-    if (!context().prompts.confirm(Question::YesNo, question))
+    const bool confirmed = context().prompts.confirm(Question::YesNo, question);
+    showStatus();
+    if (!confirmed)
         return false;
     m_count.dropDraft();
     return true;
@@ -204,7 +207,10 @@ void TFormEnterInventory::sortBy(CountList::Order order)
 
 void TFormEnterInventory::searchTyped(const QString &text)
 {
-    m_ui->wwDBGridInventory->showItem(text.isEmpty() ? -1 : m_count.list().rowStartingWith(text));
+    const int found = text.isEmpty() ? -1 : m_count.list().rowStartingWith(text);
+    m_ui->wwDBGridInventory->showItem(found);
+    if (found >= 0)
+        showStatus();
 }
 
 // An item number leads to its item whatever the order is.
@@ -218,6 +224,7 @@ void TFormEnterInventory::searchEntered()
     const int found = numbered >= 0 ? numbered : m_count.list().rowStartingWith(text);
     if (found < 0)
         return showStatus(tr("'%1' is not in the list").arg(text));
+    showStatus();
     m_ui->wwDBGridInventory->countItem(found);
 }
 
@@ -263,6 +270,7 @@ void TFormEnterInventory::dateChosen()
 {
     m_count.setDate(m_ui->wwDBDateTimePickerInventoryDate->date());
     showReady();
+    showStatus();
 }
 
 bool TFormEnterInventory::isReady() const
@@ -325,7 +333,7 @@ void TFormEnterInventory::bitBtnOKClick()
         close();
         return;
     case Answer::Cancel:
-        return;
+        return showStatus();
     }
 }
 

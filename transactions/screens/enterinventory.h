@@ -32,6 +32,7 @@ protected:
     void dropChanges() override { m_count.dropDraft(); }
     std::optional<int> savedKey() const override { return std::nullopt; }
     QString caption() const override { return tr("Enter Inventory"); }
+    QString recordName() const override { return {}; }
     QString closingQuestion() const override;
     bool focusColumn(const QString &column) override;
     bool takeKey(QKeyEvent *event) override;
