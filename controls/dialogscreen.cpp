@@ -21,11 +21,14 @@ QWidget *DialogScreen::widgetOfColumn(const QString &) const { return nullptr; }
 
 void DialogScreen::focusColumn(const QString &column)
 {
-    QWidget *widget = widgetOfColumn(column);
-    if (!widget)
-        return;
-    widget->setFocus();
-    if (auto *edit = qobject_cast<QLineEdit *>(widget))
+    if (QWidget *widget = widgetOfColumn(column))
+        putCursorInto(*widget);
+}
+
+void DialogScreen::putCursorInto(QWidget &widget)
+{
+    widget.setFocus();
+    if (auto *edit = qobject_cast<QLineEdit *>(&widget))
         edit->selectAll();
 }
 

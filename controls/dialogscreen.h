@@ -21,6 +21,7 @@ protected:
     ScreenContext &context() const { return m_context; }
     // Where a refused column's message puts the cursor; the widget's text is selected.
     virtual QWidget *widgetOfColumn(const QString &column) const;
+    static void putCursorInto(QWidget &widget); // which is marked, and its text selected
 
     bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;

@@ -7,6 +7,7 @@
 #include "master/screens/masterlistscreen.h"
 #include "master/screens/masterscreens.h"
 #include "reports/screens/blankinventoryreportselection.h"
+#include "reports/screens/invreports.h"
 #include "transactions/documentkind.h"
 #include "transactions/screens/documentlistscreen.h"
 #include "transactions/screens/documentpostscreen.h"
@@ -55,6 +56,7 @@ ScreenRegistry productScreens()
     screens.add(u"FormBlankInventoryReportSelection"_s, {make<TFormBlankInventoryReportSelection>});
     screens.add(u"frmInvTotals"_s, {make<TfrmInvTotals>});
     screens.add(u"frmInvHistory"_s, {make<TfrmInvHistory>});
+    screens.add(u"frmInvReports"_s, {make<TfrmInvReports>});
     return screens;
 }
 

@@ -136,6 +136,7 @@ void takeAll(TFormTallymereSystem &system, const QString &folder)
     camera.take(counting, u"count"_s, 420);
     camera.take(camera.open(u"ActionViewTotals"_s, u"frmInvTotals"_s), u"totals"_s);
     camera.take(camera.open(u"ActionViewHistory"_s, u"frmInvHistory"_s), u"history"_s);
+    camera.take(camera.open(u"ActionPrintReports"_s, u"frmInvReports"_s), u"reports"_s);
     camera.take(camera.openFirstRecord(u"ActionEditItems"_s, u"frmItemsInv"_s), u"item"_s);
     camera.take(camera.openFirstRecord(u"ActionEditVendors"_s, u"frmVendors"_s), u"vendor"_s);
     camera.take(camera.open(u"ActionEditOrganizationSetup"_s, u"frmCompany"_s), u"organization"_s);

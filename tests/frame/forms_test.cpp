@@ -33,7 +33,7 @@ struct Described
     bool takesTab() const
     {
         const QString policy = properties.value(u"focusPolicy"_s).remove(u"Qt::"_s);
-        return (isField() || is(u"CheckBox|Button|PageView"_s)) && policy != "NoFocus"_L1
+        return (isField() || is(u"CheckBox|Button|ListWidget|PageView"_s)) && policy != "NoFocus"_L1
             && policy != "ClickFocus"_L1;
     }
 };
@@ -165,8 +165,12 @@ TEST_F(FormsTest, WhatTheFormsNameExists)
 // A screen also refuses to open when a widget names a field that its table does not have.
 TEST_F(FormsTest, NothingIsClipped)
 {
-    QStringList names = {u"frmCompany"_s, u"FormEnterInventory"_s, u"frmInvTotals"_s, u"frmInvHistory"_s,
-                         u"FormBlankInventoryReportSelection"_s};
+    QStringList names = {u"frmCompany"_s,
+                         u"FormEnterInventory"_s,
+                         u"frmInvTotals"_s,
+                         u"frmInvHistory"_s,
+                         u"FormBlankInventoryReportSelection"_s,
+                         u"frmInvReports"_s};
     for (const MasterScreen &screen : masterScreens())
         names << screen.kind.list.screen;
     for (const DocumentKind *kind : DocumentKinds::all())

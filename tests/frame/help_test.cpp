@@ -57,8 +57,8 @@ protected:
 
 TEST_F(HelpTest, F1OpensTheTopicOfEachScreen)
 {
-    QStringList names = {u"frmCompany"_s, u"FormEnterInventory"_s, u"FormBlankInventoryReportSelection"_s,
-                         u"frmInvTotals"_s, u"frmInvHistory"_s};
+    QStringList names = {u"frmCompany"_s,    u"FormEnterInventory"_s, u"FormBlankInventoryReportSelection"_s,
+                         u"frmInvReports"_s, u"frmInvTotals"_s,       u"frmInvHistory"_s};
     for (const MasterScreen &screen : masterScreens())
         names << screen.kind.list.screen;
     for (const DocumentKind *kind : DocumentKinds::all())

@@ -1,0 +1,211 @@
+#include "reports/screens/invreports.h"
+
+#include "controls/lookuplists.h"
+#include "controls/printerneeded.h"
+#include "controls/screenmetrics.h"
+#include "reports/reportlist.h"
+#include "reports/screens/showreport.h"
+#include "ui_invreports.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+// In design pixels: the rows of the options stand about the same middle, one at 78, two at 70 and 98.
+constexpr int singleRowTop = 78;
+constexpr int rowPitch = 28;
+constexpr int riseByRow = 8;
+constexpr int labelDrop = 4;
+
+int truncated(const QWidget &widget, int pixels) { return static_cast<int>(pixels * fontFactor(&widget)); }
+
+// As they are in the form, but as wide as the screen's resolution wants it, and as high as they like to be.
+void scaleWidgets(const QWidget &panel)
+{
+    const auto widgets = panel.findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    for (QWidget *widget : widgets) {
+        const QRect place = widget->geometry();
+        widget->setGeometry(truncated(panel, place.x()), truncated(panel, place.y()),
+                            truncated(panel, place.width()), widget->sizeHint().height());
+    }
+}
+
+void offerWidget(QWidget &widget, bool offered)
+{
+    widget.setVisible(offered);
+    widget.setEnabled(offered);
+}
+
+} // namespace
+
+TfrmInvReports::TfrmInvReports(ScreenContext &context, QWidget *parent)
+    : DialogScreen(context, parent)
+    , m_ui(std::make_unique<Ui::TfrmInvReports>())
+    , m_memory(context.data, context.settings)
+    , m_place(*this, context.settings)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_ui->setupUi(this);
+    setModal(false);
+    scaleWidgets(*m_ui->PanelOptions);
+    setLookupLists(*this, context.lookups, guard());
+    for (const ReportList::Offered &offered : ReportList::offered())
+        m_ui->lboReports->addItem(offered.listText);
+    connectControls();
+    offer(m_memory.last());
+    btnBackClick();
+}
+
+TfrmInvReports::~TfrmInvReports() = default;
+
+void TfrmInvReports::connectControls()
+{
+    connectGuarded(m_ui->lboReports, &QListWidget::itemDoubleClicked, this, &TfrmInvReports::btnNextClick);
+    connectGuarded(m_ui->btnNext, &QPushButton::clicked, this, &TfrmInvReports::btnNextClick);
+    connectGuarded(m_ui->btnBack, &QPushButton::clicked, this, &TfrmInvReports::btnBackClick);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    // What cannot be read is refused when the report is wanted, not on the way to another box.
+    connect(m_ui->editGLPeriod, &QLineEdit::editingFinished, this,
+            [this] { Guard::attempt([this] { takeOverPeriod(); }); });
+    connect(m_ui->editGLYear, &QLineEdit::editingFinished, this,
+            [this] { Guard::attempt([this] { takeOverYear(); }); });
+}
+
+void TfrmInvReports::showStep() { m_place.restore(); }
+
+QWidget *TfrmInvReports::widgetOfColumn(const QString &column) const
+{
+    if (column == "GLPeriod"_L1)
+        return m_ui->editGLPeriod;
+    return column == "GLYear"_L1 ? m_ui->editGLYear : nullptr;
+}
+
+// --- what is chosen ---------------------------------------------------------------------------------------------
+
+void TfrmInvReports::offer(const ReportChoice &choice)
+{
+    m_ui->lboReports->setCurrentRow(choice.report);
+    SetWarehouseID(choice.selection.warehouseId);
+    SetItemTypeID(choice.selection.itemTypeId);
+    SetGLPeriod(choice.selection.period);
+    SetGLYear(choice.selection.year);
+}
+
+int TfrmInvReports::GetWarehouseID() const { return m_ui->cboWarehouse->chosenId(); }
+
+void TfrmInvReports::SetWarehouseID(int warehouseId) { m_ui->cboWarehouse->setChosenId(warehouseId); }
+
+int TfrmInvReports::GetItemTypeID() const { return m_ui->cboItemType->chosenId(); }
+
+void TfrmInvReports::SetItemTypeID(int itemTypeId) { m_ui->cboItemType->setChosenId(itemTypeId); }
+
+void TfrmInvReports::SetGLPeriod(int period)
+{
+    m_period = period;
+    m_ui->editGLPeriod->setText(QString::number(period));
+}
+
+void TfrmInvReports::SetGLYear(int year)
+{
+    m_year = year;
+    m_ui->editGLYear->setText(QString::number(year));
+}
+
+void TfrmInvReports::takeOverPeriod() { SetGLPeriod(periodFromText(m_ui->editGLPeriod->text())); }
+
+void TfrmInvReports::takeOverYear() { SetGLYear(yearFromText(m_ui->editGLYear->text())); }
+
+ReportSelection TfrmInvReports::selection() const
+{
+    return {.warehouseId = GetWarehouseID(),
+            .itemTypeId = GetItemTypeID(),
+            .period = GetGLPeriod(),
+            .year = GetGLYear()};
+}
+
+// --- the pages --------------------------------------------------------------------------------------------------
+
+bool TfrmInvReports::isAskingForOptions() const { return m_ui->pages->currentWidget() == m_ui->PanelOptions; }
+
+void TfrmInvReports::showPage(QWidget *page)
+{
+    m_ui->pages->setCurrentWidget(page);
+    m_ui->btnBack->setEnabled(isAskingForOptions());
+    m_ui->btnNext->setText(isAskingForOptions() ? tr("&Preview") : tr("&Next >"));
+}
+
+void TfrmInvReports::btnBackClick()
+{
+    showPage(m_ui->PanelReports);
+    m_ui->lboReports->setFocus();
+}
+
+void TfrmInvReports::btnNextClick()
+{
+    if (isAskingForOptions())
+        preview();
+    else
+        showOptions();
+}
+
+void TfrmInvReports::showOptions()
+{
+    const ReportList::Offered &chosen = ReportList::offered().at(m_ui->lboReports->currentRow());
+    m_ui->lblReportTitle->setText(chosen.listText);
+    m_ui->lblNothingToShow->setText(ReportList::nothingToShow(chosen));
+    showPage(m_ui->PanelOptions);
+    placeOptions(chosen);
+}
+
+void TfrmInvReports::placeOptions(const ReportList::Offered &report)
+{
+    struct Row
+    {
+        bool offered;
+        QWidget *label;
+        QList<QWidget *> fields;
+    };
+    QList<Row> rows = {{report.parameters.location, m_ui->lblWarehouse, {m_ui->cboWarehouse}},
+                       {report.parameters.itemType, m_ui->lblItemType, {m_ui->cboItemType}},
+                       {report.parameters.period, m_ui->lblPeriod, {m_ui->editGLPeriod, m_ui->editGLYear}}};
+    for (const Row &row : rows)
+        for (QWidget *widget : row.fields + QList{row.label})
+            offerWidget(*widget, row.offered);
+    rows.removeIf([](const Row &row) { return !row.offered; });
+
+    int top = singleRowTop - riseByRow * static_cast<int>(rows.size() - 1);
+    for (const Row &row : rows) {
+        row.label->move(row.label->x(), truncated(*this, top + labelDrop));
+        for (QWidget *field : row.fields)
+            field->move(field->x(), truncated(*this, top));
+        top += rowPitch;
+    }
+    m_ui->lblNothingToShow->move(m_ui->lblNothingToShow->x(), truncated(*this, top + labelDrop));
+    m_ui->lblNothingToShow->setVisible(!report.report);
+    putCursorInto(rows.isEmpty() ? *m_ui->btnNext : *rows.constFirst().fields.constFirst());
+}
+
+// A report without anything to show opens nothing.
+void TfrmInvReports::preview()
+{
+    requirePrinter(context());
+    const int index = m_ui->lboReports->currentRow();
+    const ReportList::Offered &chosen = ReportList::offered().at(index);
+    if (chosen.parameters.period) {
+        takeOverPeriod();
+        takeOverYear();
+    }
+    for (LookupComboBox *box : {m_ui->cboWarehouse, m_ui->cboItemType}) {
+        box->hidePopup();
+        box->settle();
+    }
+    if (!chosen.report)
+        return;
+    showReport(context(), *chosen.report, takenBy(chosen.parameters, selection()), parentWidget());
+    m_memory.keep({index, selection()});
+    btnBackClick();
+}
+
+} // namespace Tallymere
