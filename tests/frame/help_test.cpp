@@ -57,8 +57,9 @@ protected:
 
 TEST_F(HelpTest, F1OpensTheTopicOfEachScreen)
 {
-    QStringList names = {u"frmCompany"_s,    u"FormEnterInventory"_s, u"FormBlankInventoryReportSelection"_s,
-                         u"frmInvReports"_s, u"frmInvTotals"_s,       u"frmInvHistory"_s};
+    QStringList names =
+        u"frmCompany FormEnterInventory frmInvTotals frmInvHistory FormBlankInventoryReportSelection "
+        "frmInvReports"_s.split(u' ');
     for (const MasterScreen &screen : masterScreens())
         names << screen.kind.list.screen;
     for (const DocumentKind *kind : DocumentKinds::all())

@@ -1,8 +1,10 @@
+#include "controls/filechoice.h"
+#include "controls/lookupcombobox.h"
 #include "reports/screens/invreports.h"
 #include "reports/screens/preview.h"
 #include "tests/support/screentest.h"
 
-#include <QLabel>
+#include <QFile>
 #include <QListWidget>
 
 using namespace Qt::StringLiterals;
@@ -15,73 +17,167 @@ class InvReportsTest : public ScreenTest
 protected:
     InvReportsTest()
     {
+        kitchen.setStock(1, 1, 3, 2);
+        kitchen.setStock(1, 2, 5, 2);
+        kitchen.setStock(3, 1, 1, 1); // of another type
         context->settings = &settings;
-        context->printerDefined = [this] { return hasPrinter; };
-        kitchen.setStock(1, 1, 2, 1);
+        context->printerDefined = [] { return true; };
+        context->chooseFileToSave = [this](QWidget *, const FileChoice &) { return file(); };
+        open();
     }
 
-    TfrmInvReports &open()
+    QString file() const { return folder.filePath(u"report.csv"_s); }
+    void open()
     {
-        auto *wizard = new TfrmInvReports(*context, mainWindow.get());
+        delete wizard;
+        wizard = new TfrmInvReports(*context, mainWindow.get());
         showActive(*wizard);
-        return *wizard;
     }
-    TfrmPreview *preview() { return mainWindow->findChild<TfrmPreview *>(); }
+    void ask(int report)
+    {
+        showActive(*wizard); // in front of a preview
+        wizard->btnBackClick();
+        type("<Home>");
+        for (int i = 0; i < report; ++i)
+            type("<Down>");
+        type("<Return>");
+    }
+    template <typename Widget> Widget *part(const char *name) { return child<Widget>(*wizard, name); }
+    // What can be chosen on page two, from top to bottom.
+    QStringList options()
+    {
+        QStringList shown;
+        for (const char *name : {"Warehouse", "ItemType", "Period"}) {
+            const auto *label = part<QLabel>(QByteArray("lbl").append(name));
+            const bool typed = !std::strcmp(name, "Period");
+            const auto *box = part<QWidget>(QByteArray(typed ? "editGL" : "cbo").append(name));
+            EXPECT_EQ(label->isVisible(), box->isVisible() && box->isEnabled()) << name;
+            EXPECT_TRUE(!box->isVisible() || label->y() == static_cast<int>(4 * scale()) + box->y()) << name;
+            if (box->isVisible())
+                shown << u"%1 %2"_s.arg(QString::fromLatin1(name)).arg(box->y() / scale());
+        }
+        EXPECT_EQ(part<QWidget>("editGLYear")->isVisible(), part<QWidget>("editGLPeriod")->isVisible());
+        return shown;
+    }
+    double scale() const { return wizard->logicalDpiX() / 96.0; }
+    // The rows of the preview that has come, without their headings; nothing when none has.
+    QStringList previewed()
+    {
+        auto *preview = mainWindow->findChild<TfrmPreview *>();
+        if (!preview)
+            return {};
+        preview->saveCsv();
+        delete preview;
+        QFile saved(file());
+        EXPECT_TRUE(saved.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(saved.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts).mid(1);
+    }
 
-    bool hasPrinter = true;
+    QTemporaryDir folder;
+    QPointer<TfrmInvReports> wizard;
 };
 
 } // namespace
 
-TEST_F(InvReportsTest, EachReportAsksForWhatItTakes)
+TEST_F(InvReportsTest, AsksForWhatEachReportTakes)
 {
-    // Location, item type, period.
-    const QStringList expected{u"LT-"_s, u"-T-"_s, u"L--"_s, u"L--"_s, u"---"_s, u"L--"_s,
-                               u"LTP"_s, u"-TP"_s, u"L-P"_s, u"--P"_s, u"LTP"_s, u"L-P"_s};
-    TfrmInvReports &wizard = open();
-    auto *reports = child<QListWidget>(wizard, "lboReports");
-    ASSERT_EQ(reports->count(), expected.size());
-    for (int report = 0; report < expected.size(); ++report) {
-        SCOPED_TRACE(report);
-        reports->setCurrentRow(report);
-        press(Qt::Key_Return);
-        const auto offered = [&](const char *name, QChar letter) {
-            return child<QWidget>(wizard, name)->isVisible() ? letter : u'-';
-        };
-        const QString asked =
-            QString(offered("cboWarehouse", u'L')) + offered("cboItemType", u'T') + offered("editGLPeriod", u'P');
-        EXPECT_EQ(asked, expected[report]);
-        EXPECT_EQ(child<QLabel>(wizard, "lblReportTitle")->text(), reports->item(report)->text());
-        wizard.btnBackClick();
+    const QString place = u"Warehouse 78"_s, type = u"ItemType 78"_s, period = u"Period 78"_s;
+    const QStringList places{u"Warehouse 70"_s, u"ItemType 98"_s};
+    const std::pair<QString, QStringList> reports[] = {
+        {u"Value by Item"_s, places},
+        {u"Value by Item /Location"_s, {type}},
+        {u"Value by Type"_s, {place}},
+        {u"Value by Type /Item"_s, {place}},
+        {u"Value by Type /Item /Location"_s, {}},
+        {u"Cost per Meal"_s, {place}},
+        {u"Perpetual by Item"_s, {u"Warehouse 62"_s, u"ItemType 90"_s, u"Period 118"_s}},
+        {u"Perpetual by Item /Location"_s, {u"ItemType 70"_s, u"Period 98"_s}},
+        {u"Perpetual by Type /Item"_s, {u"Warehouse 70"_s, u"Period 98"_s}},
+        {u"Perpetual by Type /Item /Location"_s, {period}},
+        {u"Perpetual Summary by Item"_s, {u"Warehouse 62"_s, u"ItemType 90"_s, u"Period 118"_s}},
+        {u"Perpetual Summary by Type /Item"_s, {u"Warehouse 70"_s, u"Period 98"_s}},
+    };
+    int index = 0;
+    for (const auto &[title, options] : reports) {
+        ask(index++);
+        EXPECT_EQ(part<QLabel>("lblReportTitle")->text(), title);
+        EXPECT_EQ(this->options(), options) << qPrintable(title);
+        const QString first = options.isEmpty() ? u"btnNext"_s : options.first().section(u' ', 0, 0);
+        EXPECT_TRUE(focusName().endsWith(first)) << qPrintable(title + u": "_s + focusName());
+        EXPECT_EQ(part<QLabel>("lblNothingToShow")->isVisible(), title == "Cost per Meal"_L1);
     }
+    EXPECT_EQ(part<QListWidget>("lboReports")->count(), index);
 }
 
-TEST_F(InvReportsTest, TypedPeriodsCountAndTheLastChoicesComeBack)
+TEST_F(InvReportsTest, PreviewsWhatIsChosenAndOffersItAgain)
 {
-    TfrmInvReports &wizard = open();
-    press(Qt::Key_End);
-    press(Qt::Key_Return);
-    press(Qt::Key_Tab);
-    type("13");
-    child<QPushButton>(wizard, "btnNext")->click();
-    EXPECT_EQ(wizard.focusWidget()->objectName(), u"editGLPeriod"_s);
-    EXPECT_FALSE(preview()) << "no thirteenth period";
-    type("2");
-    press(Qt::Key_Tab);
-    type("25");
-    child<QPushButton>(wizard, "btnNext")->click();
-    ASSERT_TRUE(preview());
-    EXPECT_TRUE(child<QListWidget>(wizard, "lboReports")->isVisible()) << "back at the first page";
-    wizard.close();
-    delete preview();
+    ask(0);
+    type("<Shift+Tab><Shift+Tab><Shift+Tab><Return>"); // on Back
+    EXPECT_TRUE(part<QWidget>("PanelReports")->isVisible());
+    EXPECT_EQ(previewed(), QStringList());
+    type("<Return>off<Tab>foo");
+    EXPECT_EQ(part<QPushButton>("btnNext")->text(), u"&Preview"_s);
+    context->printerDefined = [] { return false; };
+    type("<Return>");
+    EXPECT_EQ(prompts.take(),
+              QStringList{u"error: You do not have a default printer defined.\n\nTo preview or print reports a "
+                          "printer must be defined, though not necessarily attached."_s});
+    EXPECT_TRUE(part<QWidget>("PanelOptions")->isVisible());
+    context->printerDefined = [] { return true; };
+    type("<Return>");
+    EXPECT_EQ(previewed(), (QStringList{u"detail,A10,Apples,3,2,6"_s, u"report total,,,,,6"_s}));
+    EXPECT_TRUE(part<QWidget>("PanelReports")->isVisible());
+    EXPECT_EQ(part<QPushButton>("btnNext")->text(), u"&Next >"_s);
 
-    hasPrinter = false;
-    TfrmInvReports &next = open();
-    press(Qt::Key_Return);
-    EXPECT_EQ(next.GetGLPeriod(), 2);
-    EXPECT_EQ(next.GetGLYear(), 2025);
-    child<QPushButton>(next, "btnNext")->click();
-    EXPECT_TRUE(prompts.said.constLast().contains(u"You do not have a default printer defined."_s));
-    EXPECT_FALSE(preview());
-    EXPECT_FALSE(child<QListWidget>(next, "lboReports")->isVisible()) << "still at the second page";
+    ask(1); // takes no location, though one is chosen
+    type("<Delete><Return>");
+    EXPECT_EQ(previewed().filter(u"detail"_s).size(), 3);
+    ask(5);
+    type("<Return>"); // opens nothing
+    EXPECT_EQ(previewed() + prompts.said, QStringList());
+
+    open();
+    EXPECT_EQ(part<QListWidget>("lboReports")->currentRow(), 1);
+    EXPECT_EQ(wizard->GetWarehouseID(), 1);
+    EXPECT_EQ(wizard->GetItemTypeID(), 0);
+    kitchen.execute(u"DELETE FROM Warehse WHERE WarehouseID = 1"_s);
+    open();
+    EXPECT_EQ(wizard->GetWarehouseID(), 0);
+    type("<Escape>");
+    settle();
+    EXPECT_TRUE(wizard.isNull());
+}
+
+TEST_F(InvReportsTest, ReadsThePeriodAsItIsTyped)
+{
+    const auto chosen = [&] { return u"%1/%2"_s.arg(wizard->GetGLPeriod()).arg(wizard->GetGLYear()); };
+    ask(9);
+    EXPECT_EQ(chosen(), u"3/2026"_s);
+    const std::pair<const char *, QString> typed[] = {
+        {"1<Tab>49<Tab>", u"1/2049"_s}, {"12<Tab>50<Tab>", u"12/1950"_s}, {"4<Tab>2031<Tab>", u"4/2031"_s}};
+    for (const auto &[keys, period] : typed) {
+        part<QLineEdit>("editGLPeriod")->setFocus(Qt::TabFocusReason);
+        type(keys);
+        EXPECT_EQ(chosen(), period);
+    }
+    const std::pair<const char *, const char *> refused[] = {{"13<Tab>26", "editGLPeriod"},
+                                                             {"<Delete>", "editGLPeriod"},
+                                                             {"4<Tab>100", "editGLYear"},
+                                                             {"4<Tab><Delete>", "editGLYear"}};
+    for (const auto &[keys, field] : refused) {
+        part<QLineEdit>("editGLPeriod")->setFocus(Qt::TabFocusReason);
+        type(keys);
+        type("<Return>");
+        EXPECT_EQ(prompts.take().size(), 1) << keys;
+        EXPECT_EQ(focusName(), QString::fromLatin1(field)) << keys;
+    }
+    type("26<Return>"); // taken over with the cursor in it
+    EXPECT_NE(mainWindow->findChild<TfrmPreview *>(), nullptr);
+
+    // The next month's reports begin with its period, not with the one of last time.
+    open();
+    EXPECT_EQ(chosen(), u"4/2026"_s);
+    kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = 5"_s);
+    open();
+    EXPECT_EQ(chosen(), u"5/2026"_s);
 }
