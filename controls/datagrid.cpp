@@ -6,6 +6,8 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -14,6 +16,28 @@ namespace Tallymere {
 namespace {
 constexpr int rowPadding = 7; // design pixels
 constexpr int hintMargin = 16;
+constexpr int titleMargin = 4;
+
+// Titles keep apart, also one at the right of its column from the next one at the left.
+class TitleStyle final : public QProxyStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        const auto *title = qstyleoption_cast<const QStyleOptionHeader *>(option);
+        if (element != CE_HeaderLabel || !title || !widget)
+            return QProxyStyle::drawControl(element, option, painter, widget);
+        QStyleOptionHeaderV2 apart; // has room for either version
+        static_cast<QStyleOptionHeader &>(apart) = *title;
+        if (const auto *second = qstyleoption_cast<const QStyleOptionHeaderV2 *>(option))
+            apart = *second;
+        const int margin = scaled(widget, titleMargin);
+        apart.rect.adjust(margin, 0, -margin, 0);
+        QProxyStyle::drawControl(element, &apart, painter, widget);
+    }
+};
+
 } // namespace
 
 DataGrid::DataGrid(QWidget *parent)
@@ -33,6 +57,9 @@ DataGrid::DataGrid(QWidget *parent)
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + scaled(this, rowPadding));
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsMovable(false);
+    auto *titles = new TitleStyle;
+    titles->setParent(this);
+    horizontalHeader()->setStyle(titles);
 }
 
 int DataGrid::columnOf(const QString &field) const

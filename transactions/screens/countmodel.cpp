@@ -63,7 +63,7 @@ QList<GridColumn> CountModel::gridColumns()
     return {{u"ItemNo"_s, tr("Item No"), 90},
             {u"TypeName"_s, tr("Category"), 130},
             {.field = u"ItemDescription"_s, .title = tr("Item"), .width = 230, .takesSurplus = true},
-            {u"StandardCost"_s, tr("Standard Cost"), 100, Qt::AlignRight},
+            {u"StandardCost"_s, tr("Standard Cost"), 112, Qt::AlignRight},
             {u"QtyOnhand"_s, tr("Prior Quantity"), 105, Qt::AlignRight},
             {u"Quantity"_s, tr("Current Quantity"), 120, Qt::AlignRight},
             {u"Difference"_s, tr("Difference"), 90, Qt::AlignRight}};
