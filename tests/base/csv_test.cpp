@@ -27,42 +27,36 @@ QStringList read(QByteArray bytes)
     return records;
 }
 
-struct ReadCase
-{
-    const char *name;
-    QByteArray bytes;
-    QStringList records;
-};
-
-const ReadCase readCases[] = {
-    {"Nothing", "", {}},
-    {"LineEnds", "a,b\r\nc,d\ne,f", {u"1: a|b"_s, u"2: c|d"_s, u"3: e|f"_s}},
-    {"EmptyFields", ",\n,,x,\n", {u"1: |"_s, u"2: ||x|"_s}},
-    {"BlanksStay", " a , b\n", {u"1:  a | b"_s}},
-    {"ByteOrderMark", "\xEF\xBB\xBFItemNo,x\n", {u"1: ItemNo|x"_s}},
-    {"Quotes", "\"a,b\",\"say \"\"no\"\"\",\"\"\n", {u"1: a,b|say \"no\"|"_s}},
-    {"LineBreakInQuotes", "\"a\r\nb\",c\nd,e\n", {u"1: a\nb|c"_s, u"3: d|e"_s}},
-    {"EmptyLinesBetween", "a\n\nb\n", {u"1: a"_s, u"3: b"_s}},
-    {"QuoteNeverClosed", "a\n\"b\nc,d\n", {u"1: a"_s, u"2! The quote that opens on this line never closes."_s}},
-    {"QuoteInPlainField",
-     "a\nb\"c\n",
-     {u"1: a"_s, u"2! There is a quote inside a field that does not begin with one."_s}},
-    {"TextAfterQuote", "\"a\"b,c\n", {u"1! There is text after a closing quote."_s}},
-    {"Latin1", "a\nCaf\xE9\n", {u"1: a"_s, u"2! The text is not UTF-8. Save the file in UTF-8 and try again."_s}},
-    {"Utf16",
-     QByteArray("\xFF\xFE"
-                "a\0,\0",
-                6),
-     {u"1! The text is not UTF-8. Save the file in UTF-8 and try again."_s}},
-    {"ZeroByte",
-     QByteArray("a\0b\n", 4),
-     {u"1! There is a zero byte in the text. This is no CSV file in UTF-8."_s}},
-};
-
 TEST(CsvReading, GivesTheRecordsWithTheirLines)
 {
-    for (const ReadCase &c : readCases)
-        EXPECT_EQ(read(c.bytes), c.records) << c.name << '\n' << read(c.bytes).join(u'\n').toStdString();
+    const std::tuple<const char *, QByteArray, QStringList> cases[] = {
+        {"Nothing", "", {}},
+        {"LineEnds", "a,b\r\nc,d\ne,f", {u"1: a|b"_s, u"2: c|d"_s, u"3: e|f"_s}},
+        {"EmptyFields", ",\n,,x,\n", {u"1: |"_s, u"2: ||x|"_s}},
+        {"BlanksStay", " a , b\n", {u"1:  a | b"_s}},
+        {"ByteOrderMark", "\xEF\xBB\xBFItemNo,x\n", {u"1: ItemNo|x"_s}},
+        {"Quotes", "\"a,b\",\"say \"\"no\"\"\",\"\"\n", {u"1: a,b|say \"no\"|"_s}},
+        {"LineBreakInQuotes", "\"a\r\nb\",c\nd,e\n", {u"1: a\nb|c"_s, u"3: d|e"_s}},
+        {"EmptyLinesBetween", "a\n\nb\n", {u"1: a"_s, u"3: b"_s}},
+        {"QuoteNeverClosed", "a\n\"b\nc,d\n", {u"1: a"_s, u"2! The quote that opens on this line never closes."_s}},
+        {"QuoteInPlainField",
+         "a\nb\"c\n",
+         {u"1: a"_s, u"2! There is a quote inside a field that does not begin with one."_s}},
+        {"TextAfterQuote", "\"a\"b,c\n", {u"1! There is text after a closing quote."_s}},
+        {"Latin1",
+         "a\nCaf\xE9\n",
+         {u"1: a"_s, u"2! The text is not UTF-8. Save the file in UTF-8 and try again."_s}},
+        {"Utf16",
+         QByteArray("\xFF\xFE"
+                    "a\0,\0",
+                    6),
+         {u"1! The text is not UTF-8. Save the file in UTF-8 and try again."_s}},
+        {"ZeroByte",
+         QByteArray("a\0b\n", 4),
+         {u"1! There is a zero byte in the text. This is no CSV file in UTF-8."_s}},
+    };
+    for (const auto &[name, bytes, records] : cases)
+        EXPECT_EQ(read(bytes), records) << name << '\n' << read(bytes).join(u'\n').toStdString();
 }
 
 TEST(CsvWriting, WhatIsWrittenReadsBackTheSame)

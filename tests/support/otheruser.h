@@ -25,5 +25,5 @@ private:
 
 using OtherUserTasks = QHash<QString, std::function<void(Engine::Database &, const QStringList &arguments)>>;
 
-// Plays the part when the program was started by OtherUser; the exit status, or -1 when it was not.
-int playOtherUser(const QStringList &arguments, const OtherUserTasks &tasks);
+// The main() of a program of tests that plays the part when it was started by OtherUser.
+int runTests(int argc, char **argv, const OtherUserTasks &tasks);

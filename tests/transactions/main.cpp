@@ -4,8 +4,6 @@
 #include "transactions/documentposting.h"
 
 #include <cstdio>
-#include <gtest/gtest.h>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -50,11 +48,4 @@ void post(Engine::Database &database, const QStringList &arguments)
 
 } // namespace
 
-int main(int argc, char **argv)
-{
-    const QCoreApplication application(argc, argv);
-    if (const int status = playOtherUser(QCoreApplication::arguments(), {{u"post"_s, post}}); status >= 0)
-        return status;
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
+int main(int argc, char **argv) { return runTests(argc, argv, {{u"post"_s, post}}); }

@@ -29,9 +29,7 @@ TEST_P(Posting, WritesHistoryBalanceAndAverageOfTheWorkedExample)
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.00}}, u"PO-77"_s);
     DocumentPosting posting(kitchen.database(), DocumentKinds::receipt());
     EXPECT_EQ(posting.countText(), u"1 receipt(s) to be posted");
-
     EXPECT_TRUE(posting.run(prompts, progress));
-
     EXPECT_EQ(
         kitchen.rows(u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
                      "TransDescription, ReceiptID, AdjustmentID, ARInvoiceID, UsageID FROM IHist"_s),
@@ -44,48 +42,33 @@ TEST_P(Posting, WritesHistoryBalanceAndAverageOfTheWorkedExample)
     EXPECT_TRUE(progress.finished);
 }
 
-struct LineCase
-{
-    const char *name;
-    int vendor;
-    double onHand; // of item 1 at location 1; none when NaN
-    double average;
-    Kitchen::Line line;
-    double historyCost;
-    double averageAfter;
-    double onHandAfter;
-};
-
-constexpr double None = std::numeric_limits<double>::quiet_NaN();
-
-const LineCase lineCases[] = {
-    {"no balance anywhere", 1, None, 9, {1, 4, 1.236}, 1.236, 1.24, 4},
-    {"negative stock", 1, -5, 4.00, {1, 10, 2.00}, 2, 4.00, 5},
-    {"down to zero", 1, -10, 4.00, {1, 10, 2.00}, 2, 4.00, 0},
-    {"no cost on no stock", 1, None, 9, {1, 3, 0}, 0, 9, 3},
-    {"a return", 1, 10, 2.00, {1, -4, 2.00}, 2, 2.00, 6},
-    {"a far vendor's currency", 2, None, 0, {1, 2, 1.2345}, 0.93, 0.93, 2},
-    {"a currency without rate", 3, None, 0, {1, 2, 1.2345}, 1.2345, 1.23, 2},
-    {"a vendor without currency", 5, None, 0, {1, 2, 1.2345}, 1.2345, 1.23, 2},
-    {"an item that is gone", 1, None, 9, {99, 2, 1}, 1, 9, 0},
-};
-
 TEST_P(Posting, PostsEachKindOfLine)
 {
-    for (const LineCase &c : lineCases) {
-        SCOPED_TRACE(c.name);
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    // vendor; on hand and average of item 1; the line; cost in the history; average and on hand afterwards
+    const std::tuple<const char *, int, double, double, Kitchen::Line, double, double, double> cases[] = {
+        {"no balance anywhere", 1, none, 9, {1, 4, 1.236}, 1.236, 1.24, 4},
+        {"negative stock", 1, -5, 4.00, {1, 10, 2.00}, 2, 4.00, 5},
+        {"down to zero", 1, -10, 4.00, {1, 10, 2.00}, 2, 4.00, 0},
+        {"no cost on no stock", 1, none, 9, {1, 3, 0}, 0, 9, 3},
+        {"a return", 1, 10, 2.00, {1, -4, 2.00}, 2, 2.00, 6},
+        {"a far vendor's currency", 2, none, 0, {1, 2, 1.2345}, 0.93, 0.93, 2},
+        {"a currency without rate", 3, none, 0, {1, 2, 1.2345}, 1.2345, 1.23, 2},
+        {"a vendor without currency", 5, none, 0, {1, 2, 1.2345}, 1.2345, 1.23, 2},
+        {"an item that is gone", 1, none, 9, {99, 2, 1}, 1, 9, 0},
+    };
+    for (const auto &[name, vendor, onHand, average, line, historyCost, averageAfter, onHandAfter] : cases) {
+        SCOPED_TRACE(name);
         kitchen.execute(u"DELETE FROM IBalance; DELETE FROM IHist; DELETE FROM IReceipt; DELETE FROM IRecDet"_s);
-        kitchen.execute(u"UPDATE Item SET WgtAvgCost = %1 WHERE ItemID = 1"_s.arg(c.average));
-        if (!std::isnan(c.onHand))
-            kitchen.setStock(1, 1, c.onHand, c.average);
-        kitchen.addReceipt(1, c.vendor, 1, {c.line});
-
+        kitchen.execute(u"UPDATE Item SET WgtAvgCost = %1 WHERE ItemID = 1"_s.arg(average));
+        if (!std::isnan(onHand))
+            kitchen.setStock(1, 1, onHand, average);
+        kitchen.addReceipt(1, vendor, 1, {line});
         post();
-
-        EXPECT_EQ(kitchen.number(u"SELECT UnitCost FROM IHist"_s), c.historyCost);
+        EXPECT_EQ(kitchen.number(u"SELECT UnitCost FROM IHist"_s), historyCost);
         EXPECT_EQ(kitchen.text(u"SELECT TransDescription FROM IHist"_s), u"Receipt: 1001");
-        EXPECT_EQ(kitchen.averageCost(1), c.averageAfter);
-        EXPECT_EQ(kitchen.onHand(1, 1), c.onHandAfter);
+        EXPECT_EQ(kitchen.averageCost(1), averageAfter);
+        EXPECT_EQ(kitchen.onHand(1, 1), onHandAfter);
     }
 }
 
@@ -93,9 +76,7 @@ TEST_P(Posting, LaterLinesSeeWhatEarlierOnesLeft)
 {
     kitchen.addReceipt(1, 1, 1, {{1, 10, 1.00}, {1, 10, 2.00}, {2, 1, 5.00}});
     kitchen.addReceipt(2, 1, 2, {{1, 20, 3.00}});
-
     post();
-
     EXPECT_EQ(kitchen.averageCost(1), 2.25); // 1.00, then 1.50 over 20, then over 40
     EXPECT_EQ(kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s),
               (QStringList{u"1|1|20"_s, u"1|2|20"_s, u"2|1|1"_s}));
@@ -128,9 +109,7 @@ TEST_P(Posting, LeavesOutWhatOthersHavePostedOrDeletedMeanwhile)
     DocumentPosting posting(kitchen.database(), DocumentKinds::receipt());
     kitchen.execute(u"UPDATE IReceipt SET Posted = true WHERE ReceiptID = 1; "
                     "DELETE FROM IReceipt WHERE ReceiptID = 2; DELETE FROM IRecDet WHERE ReceiptID = 2"_s);
-
     EXPECT_TRUE(posting.run(prompts, progress));
-
     EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID FROM IHist"_s), QStringList(u"3"_s));
     EXPECT_EQ(posting.posted(), 1);
     EXPECT_EQ(progress.steps, 3);

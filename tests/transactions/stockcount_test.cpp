@@ -158,46 +158,38 @@ TEST_P(CountTest, TakesNoNoiseOfTheBooksForADifference)
 
 TEST_P(CountTest, TakesThePeriodAndCostsFromTheBooks)
 {
-    struct Case
-    {
-        int year, period, method;
-        QString written;
-    };
     // Method 1 the average, 2 the standard cost, any other none.
-    const Case cases[] = {{2025, 0, 2, u"2025|3|0.25"_s}, {0, 7, 1, u"2026|7|1.5"_s}, {0, 0, 3, u"2026|3|0"_s}};
+    const std::tuple<int, int, int, QString> cases[] = {
+        {2025, 0, 2, u"2025|3|0.25"_s}, {0, 7, 1, u"2026|7|1.5"_s}, {0, 0, 3, u"2026|3|0"_s}};
     kitchen.execute(u"UPDATE Item SET StandardCost = 0.25 WHERE ItemID = 1"_s);
-    for (const Case &one : cases) {
+    for (const auto &[year, period, method, written] : cases) {
         kitchen.execute(u"DELETE FROM IUsage; DELETE FROM IUsageDet; UPDATE Company SET DefaultPeriodYYYY = %1, "
-                        "DefaultPeriodPP = %2; UPDATE ItemType SET CostingMethod = %3"_s.arg(one.year)
-                            .arg(one.period)
-                            .arg(one.method));
+                        "DefaultPeriodPP = %2; UPDATE ItemType SET CostingMethod = %3"_s.arg(year)
+                            .arg(period)
+                            .arg(method));
         ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
         enter(u"A10"_s, 0);
         ASSERT_TRUE(count.calculate());
         EXPECT_EQ(kitchen.rows(u"SELECT GLYear, GLPeriod, UnitCost FROM IUsage, IUsageDet"_s),
-                  QStringList(one.written));
+                  QStringList(written));
         EXPECT_EQ(prompts.take(), QStringList());
     }
 }
 
 TEST_P(CountTest, OpensNoLocationWithUnpostedDocuments)
 {
-    const QString documents[] = {
-        u"INSERT INTO IUsage (UsageID, WarehouseID, Posted) VALUES (1, 1, false)"_s,
-        u"INSERT INTO IAdjust (AdjustmentID, WarehouseID, Posted) VALUES (1, 1, false)"_s,
-        u"INSERT INTO IReceipt (ReceiptID, WarehouseID, Posted) VALUES (1, 1, false)"_s,
-    };
-    for (const QString &document : documents) {
-        const QString table = document.section(u' ', 2, 2);
-        kitchen.execute(document);
+    for (const auto &[table, key] : {std::pair{u"IUsage"_s, u"UsageID"_s},
+                                     {u"IAdjust"_s, u"AdjustmentID"_s},
+                                     {u"IReceipt"_s, u"ReceiptID"_s}}) {
+        kitchen.execute(u"INSERT INTO %1 (%2, WarehouseID, Posted) VALUES (1, 1, false)"_s.arg(table, key));
         EXPECT_FALSE(count.open(1, ZeroCounts::Excluded)) << table.toStdString();
         EXPECT_FALSE(count.isOpen());
         EXPECT_TRUE(
             prompts.last().startsWith("warn: There are unposted transactions for this location.\r\nYou"_L1));
         EXPECT_TRUE(count.open(2, ZeroCounts::Excluded));
         kitchen.execute(u"UPDATE %1 SET Posted = true"_s.arg(table));
-        EXPECT_TRUE(count.open(1, ZeroCounts::Excluded));
     }
+    EXPECT_TRUE(count.open(1, ZeroCounts::Excluded));
 }
 
 TEST_P(CountTest, DeductsUnpostedUsageInWholeNumbers)
