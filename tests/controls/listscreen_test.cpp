@@ -128,6 +128,17 @@ TEST_F(ListScreenTest, statusLineAndHintSayWhatThereIs)
     kitchen.execute(u"ALTER TABLE Away RENAME TO Item"_s);
 }
 
+TEST_F(ListScreenTest, longListIsCountedAfterItHasBeenPainted)
+{
+    kitchen.execute(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500) "
+                    "INSERT INTO Item (ItemID, ItemNo) SELECT 1000 + i, 'N' || i FROM n"_s);
+    ItemList items(*context, mainWindow.get());
+    items.setAttribute(Qt::WA_DeleteOnClose, false);
+    EXPECT_EQ(status(items), QString());
+    showActive(items);
+    EXPECT_TRUE(comesTrue([&] { return status(items) == u"1 of 504 rows"_s; })) << status(items).toStdString();
+}
+
 TEST_F(ListScreenTest, typedSearchIsShown)
 {
     ItemList &items = open();

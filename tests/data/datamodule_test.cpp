@@ -152,6 +152,27 @@ TEST_P(DataModule, TablesOfAnOlderLayoutAreBroughtUpToDateWithTheirRows)
     EXPECT_EQ(stored(u"SELECT Quantity FROM IHist WHERE ItemID = 5 AND UsageID IS NULL"_s).toDouble(), 2.5);
 }
 
+TEST_P(DataModule, TableInUseThatMustChangeStopsTheStart)
+{
+    makeHost();
+    Engine::TableLayout oldTax = Layouts::tax();
+    oldTax.fields.removeLast();
+    oldTax.indexes.removeLast();
+    store.database().createTable(oldTax);
+    const auto other = store.anotherUser();
+    Table tax(other->database, u"Tax"_s);
+    tax.open();
+
+    QString text;
+    EXPECT_EQ(errorOf([&] { start(); }, &text), ErrorCode::TableInUse);
+    EXPECT_TRUE(text.contains(u"Tax"_s)) << text.toStdString();
+    EXPECT_TRUE(store.database().differs(Layouts::tax()));
+
+    tax.close();
+    start();
+    EXPECT_FALSE(store.database().differs(Layouts::tax()));
+}
+
 TEST_P(DataModule, DatabaseWithoutHostIsLeftAlone)
 {
     QString text;

@@ -257,6 +257,16 @@ TEST_P(RecordTest, LookupsAndCalculatedFieldsComeWithTheRow)
     EXPECT_EQ(documents.text(u"Title"), u"2:apple"_s);
 }
 
+TEST_P(RecordTest, AnAmountThatNoMoneyHoldsIsToldByItsField)
+{
+    store.execute(u"INSERT INTO Vendor (VendorID, Balance) VALUES (1, 1e300)"_s);
+    vendors.open();
+    vendors.field(u"Balance").label = u"Open balance"_s;
+    QString text;
+    EXPECT_EQ(errorOf([&] { vendors.money(u"Balance"); }, &text), ErrorCode::BadValue);
+    EXPECT_TRUE(text.startsWith("Open balance"_L1)) << text.toStdString();
+}
+
 TEST_P(RecordTest, RefreshStaysOnTheRowOrOnWhatTookItsPlace)
 {
     addVendors();

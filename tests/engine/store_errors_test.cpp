@@ -279,6 +279,17 @@ TEST_F(ConnectionLostTest, NothingIsWrittenOutsideTheLostTransaction)
     EXPECT_EQ(count(), 0);
 }
 
+TEST_F(ConnectionLostTest, LostRecordLocksAreNotBelievedIn)
+{
+    ASSERT_TRUE(connection.locks().tryLockRecord(u"T"_s, {1}));
+    cut();
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(errorOf([&] { count(); }), ErrorCode::ConnectionLost);
+    connection.locks().unlockRecord(u"T"_s, {1});
+    EXPECT_EQ(count(), 0);
+    EXPECT_TRUE(connection.locks().tryLockRecord(u"T"_s, {1}));
+}
+
 TEST_F(ConnectionLostTest, AnEditIsSavedUnlessSomebodyHasBeenAtTheRecord)
 {
     store.database().createTable({u"R"_s,

@@ -172,6 +172,16 @@ TEST_P(SchemaTest, ARestructuringThatFailsChangesNothing)
     EXPECT_EQ(one(u"SELECT count(*) FROM T WHERE Name = 'again'"_s), u"1"_s);
 }
 
+TEST_P(SchemaTest, OneRowIsEnsuredOnce)
+{
+    const TableLayout layout = layouts().last();
+    for (int i = 0; i < 2; ++i) {
+        database.createOrUpdateTable(layout, Database::EnsureOneRow::Yes);
+        EXPECT_EQ(one(u"SELECT count(*) FROM ItemCtl"_s), u"1"_s);
+    }
+    EXPECT_EQ(one(u"SELECT NextItemNo FROM ItemCtl"_s), u"-"_s);
+}
+
 TEST_P(SchemaTest, ATableThatOthersHaveOpenIsNotChanged)
 {
     TableLayout layout = items();

@@ -70,4 +70,12 @@ TEST_P(LocationSyncTest, NamesComeAsTheyAreAndFitTheirField)
     }
 }
 
+TEST_P(LocationSyncTest, NumbersThatAreUsedUpAreNoOverflow)
+{
+    kitchen.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'A'), (8, 'B'); "
+                    "INSERT INTO Warehse (WarehouseID) VALUES (2147483646)"_s);
+    EXPECT_EQ(errorOf([this] { run(); }), ErrorCode::BadValue);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Warehse"_s), 3);
+}
+
 } // namespace
