@@ -102,8 +102,8 @@ void HelpWindow::buildSearch()
     connect(m_search, &QHelpSearchEngine::indexingStarted, this, [this] { m_indexed = false; });
     connect(m_search, &QHelpSearchEngine::indexingFinished, this, [this] {
         m_indexed = true;
-        if (std::exchange(m_searchWaits, false))
-            search();
+        if (m_searched)
+            search(); // again, what was found before may have been half read
     });
     m_search->reindexDocumentation();
 }
@@ -131,7 +131,7 @@ void HelpWindow::search()
     const QString words = m_ui->editSearch->text().simplified();
     if (words.isEmpty())
         return;
-    m_searchWaits = !m_indexed;
+    m_searched = true;
     if (m_indexed)
         m_search->search(words);
 }

@@ -53,7 +53,7 @@ private:
     QHelpIndexWidget *m_index;
     QHelpSearchEngine *m_search;
     bool m_indexed = false; // the words of the manual have been read
-    bool m_searchWaits = false; // for that
+    bool m_searched = false; // something has been asked for
     bool m_shown = false;
     WindowMemory m_memory;
 };
