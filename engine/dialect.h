@@ -48,6 +48,9 @@ public:
     virtual QString wholeNumberOf(const QString &text) const = 0;
     // Condition that the column equals one of the whole numbers of a text parameter such as "[1,2,3]".
     virtual QString inNumberList(const QString &column) const = 0;
+    // A condition on the table's own columns, so that many scattered rows are fetched in the order in which they are
+    // stored: each page is read once, not once for each of its rows. The key is that of the rows.
+    virtual QString inStoredOrder(const QString &table, const QString &key, const QString &condition) const = 0;
 
     // Of a statement's texts for a file and for a server, the one for this store.
     virtual QString variant(const QString &forFile, const QString &forServer) const = 0;

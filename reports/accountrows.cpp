@@ -1,5 +1,7 @@
 #include "reports/accountrows.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
@@ -11,7 +13,6 @@ AccountRows::AccountRows(Engine::Database &database, const ReportDescription &re
     , m_map(report.layout, m_query)
     , m_item(m_query.fieldIndex(u"ItemID"))
     , m_location(m_query.fieldIndex(u"WarehouseID"))
-    , m_onHand(m_query.fieldIndex(m_location >= 0 ? u"QtyOnHand" : u"ItemQtyOnHand"))
     , m_movements(database, selection.year, selection.period, selection.warehouseId, m_location >= 0)
 {
 }
@@ -23,35 +24,37 @@ bool AccountRows::nextAccount()
     ++m_index;
     if (m_index >= m_readTo)
         readMovements();
-    const int location = m_location >= 0 ? m_query.valueAt(m_index, m_location).toInt() : 0;
-    m_movementsInHand = &m_movements.of({itemAt(m_index), location});
+    m_account = {itemAt(m_index), m_location >= 0 ? m_query.valueAt(m_index, m_location).toInt() : 0};
     return true;
 }
 
 int AccountRows::itemAt(int index) const { return m_query.valueAt(index, m_item).toInt(); }
 
-// Whole items, so that none is read twice.
+// Whole items, so that none is read twice; few at first, as somebody waits for the first page.
 void AccountRows::readMovements()
 {
-    constexpr size_t itemsAtOnce = 64;
-    std::vector<int> items;
+    constexpr int movementsAtOnce = 150'000; // about
+    constexpr size_t mostItems = 1024;
+    std::vector<qint64> items;
     const int count = m_query.recordCount();
     for (m_readTo = m_index; m_readTo < count; ++m_readTo) {
         const int item = itemAt(m_readTo);
         if (!items.empty() && items.back() == item)
             continue;
-        if (items.size() == itemsAtOnce)
+        if (items.size() == m_itemsAtOnce)
             break;
         items.push_back(item);
     }
-    m_movements.read(items);
+    const int movements = m_movements.read(items);
+    if (movements < movementsAtOnce / 2)
+        m_itemsAtOnce = std::min(2 * m_itemsAtOnce, mostItems);
+    else if (movements > movementsAtOnce)
+        m_itemsAtOnce = std::max<size_t>(m_itemsAtOnce / 2, 1);
 }
 
 void AccountRows::takeBalance(std::vector<Engine::Value> &values) const
 {
     m_map.take(m_query, m_query.rowAt(m_index), values);
 }
-
-double AccountRows::onHand() const { return m_query.valueAt(m_index, m_onHand).toDouble(); }
 
 } // namespace Tallymere

@@ -19,8 +19,8 @@ protected:
     bool nextAccount(); // false after the last
     void
     takeBalance(std::vector<Engine::Value> &values) const; // of the account in hand, without what is calculated
-    double onHand() const;
-    const std::vector<Movement> &movements() const { return *m_movementsInHand; }
+    const std::vector<Movement> &movements() const { return m_movements.of(m_account); }
+    double onHand() const { return m_movements.onHand(m_account); } // after them
     size_t indexOf(const QString &field) const { return m_map.indexOf(field); }
 
 private:
@@ -32,11 +32,11 @@ private:
     FieldMap m_map;
     int m_item;
     int m_location; // -1: the lines are sums over locations
-    int m_onHand;
     Movements m_movements;
+    size_t m_itemsAtOnce = 16;
     int m_index = -1; // of the account in hand
     int m_readTo = 0; // lines before this one have their movements read
-    const std::vector<Movement> *m_movementsInHand = nullptr;
+    Movements::Account m_account;
 };
 
 } // namespace Tallymere

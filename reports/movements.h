@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/driver.h"
+
 #include <QDate>
 #include <QHash>
 #include <QString>
@@ -15,6 +17,7 @@ namespace Tallymere {
 // A row of the history, as reports count it.
 struct Movement
 {
+    int key = 0; // of the row
     int type = 0; // a TransType
     int year = 0;
     int period = 0;
@@ -26,8 +29,8 @@ struct Movement
     double change() const;
 };
 
-// The movements from a fiscal period on, item by item. They are read for many items with one statement, so that a report
-// neither asks the store once for each of its lines nor holds more than those items' rows.
+// The movements from a fiscal period on, item by item, and what is on hand after them. They are read for many items with
+// one statement, so that a report neither asks the store once for each of its lines nor holds more than those items' rows.
 class Movements
 {
 public:
@@ -35,18 +38,27 @@ public:
     Movements(Engine::Database &database, int year, int period, int warehouseId, bool byLocation);
 
     using Account = std::pair<int, int>; // item and location; location 0 unless byLocation
-    // Reads those of the items and lets go of what has been read before.
-    void read(const std::vector<int> &items);
+    // Reads those of the items and lets go of what has been read before. Returns how many there are. Movements and stock
+    // are those of one moment; RuleError when others post again and again meanwhile.
+    int read(const std::vector<qint64> &items);
     // In the order of period and date. Of an item that has been read.
     const std::vector<Movement> &of(Account account) const;
+    double onHand(Account account) const { return m_onHand.value(account); }
 
 private:
+    using OnHand = QHash<Account, double>;
+    QString condition() const;
+    Engine::StatementPtr prepared(const QString &sql, const QString &items) const;
+    int readMovements(const QString &items);
+    OnHand readOnHand(const QString &items) const;
+
     Engine::Database &m_database;
     int m_year;
     int m_period;
     int m_warehouseId;
     bool m_byLocation;
     QHash<Account, std::vector<Movement>> m_read;
+    OnHand m_onHand;
 };
 
 } // namespace Tallymere

@@ -3,6 +3,8 @@
 #include "data/transtypes.h"
 #include "reports/accountrows.h"
 
+#include <QHash>
+
 using namespace Qt::StringLiterals;
 using Engine::Value;
 using Tallymere::Printing::ReportRow;
@@ -40,8 +42,9 @@ public:
         for (const Movement &movement : movements())
             m_running -= movement.change();
         row.kind = RowKind::Opening;
-        takeBalance(row.values);
-        row.values[m_balance] = m_running;
+        takeBalance(m_account);
+        m_account[m_balance] = m_running;
+        row.values = m_account;
         return true;
     }
 
@@ -49,12 +52,18 @@ private:
     void showMovement(const Movement &movement, std::vector<Value> &values)
     {
         m_running += movement.change();
-        takeBalance(values);
-        values[m_type] = transTypeText(movement.type);
+        values = m_account;
+        values[m_type] = typeName(movement.type);
         values[m_date] = movement.date;
         values[m_description] = movement.description;
         values[m_quantity] = movement.quantity;
         values[m_balance] = m_running;
+    }
+
+    const Value &typeName(int type)
+    {
+        const auto known = m_typeNames.constFind(type);
+        return known == m_typeNames.cend() ? *m_typeNames.insert(type, transTypeText(type)) : *known;
     }
 
     size_t m_type;
@@ -65,6 +74,8 @@ private:
     bool m_inAccount = false;
     size_t m_next = 0; // movement
     double m_running = 0;
+    std::vector<Value> m_account; // what its rows have alike
+    QHash<int, Value> m_typeNames;
 };
 
 class SummaryRows final : public AccountRows

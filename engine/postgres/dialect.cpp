@@ -178,4 +178,10 @@ QString PostgresDialect::inNumberList(const QString &column) const
     return column + " = ANY (CAST(translate(?, '[]', '{}') AS bigint[]))"_L1;
 }
 
+// The server sorts what an index finds by itself.
+QString PostgresDialect::inStoredOrder(const QString &, const QString &, const QString &condition) const
+{
+    return condition;
+}
+
 } // namespace Engine

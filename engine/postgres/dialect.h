@@ -23,6 +23,7 @@ public:
     QString wholeNumberOf(const QString &text) const override;
     QString variant(const QString &, const QString &forServer) const override { return forServer; }
     QString inNumberList(const QString &column) const override;
+    QString inStoredOrder(const QString &table, const QString &key, const QString &condition) const override;
     QString transactionLock() const override { return QStringLiteral("SELECT pg_advisory_xact_lock(?)"); }
 
     // The server knows names in lower case and one type for money and floats. The comment of a column keeps the

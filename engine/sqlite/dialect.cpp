@@ -219,6 +219,11 @@ QString SqliteDialect::inNumberList(const QString &column) const
     return column + " IN (SELECT value FROM json_each(?))"_L1;
 }
 
+QString SqliteDialect::inStoredOrder(const QString &table, const QString &key, const QString &condition) const
+{
+    return u"%1 IN (SELECT %1 FROM %2 WHERE %3)"_s.arg(key, table, condition);
+}
+
 // LIKE would ignore the case of letters, GLOB does not.
 QString SqliteDialect::like(const QString &column) const { return column + " GLOB ?"_L1; }
 

@@ -22,6 +22,7 @@ public:
     QString wholeNumberOf(const QString &text) const override;
     QString variant(const QString &forFile, const QString &) const override { return forFile; }
     QString inNumberList(const QString &column) const override;
+    QString inStoredOrder(const QString &table, const QString &key, const QString &condition) const override;
     QString like(const QString &column) const override;
     QString likePattern(const QString &pattern) const override;
 
