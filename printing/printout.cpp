@@ -15,13 +15,17 @@ void printReport(const ReportRun &run, QPrinter &printer, Progress &progress)
 {
     int from = 1;
     int to = run.pageCount();
-    if (printer.printRange() == QPrinter::PageRange) {
+    if (printer.printRange() == QPrinter::PageRange && to > 0) {
         from = std::clamp(printer.fromPage(), from, to);
         to = std::clamp(printer.toPage(), from, to);
     }
     if (printer.pageOrder() == QPrinter::LastPageFirst)
         std::swap(from, to);
     printer.setDocName(run.title());
+    // The sheet is the user's choice, its orientation the report's.
+    QPageLayout layout = run.paper().layout();
+    layout.setPageSize(printer.pageLayout().pageSize());
+    printer.setPageLayout(layout);
     paintPages(run, printer, printer.resolution(), from, to, progress);
     if (printer.outputFormat() == QPrinter::PdfFormat) // a file
         return;

@@ -8,7 +8,7 @@ namespace Tallymere::Printing {
 
 class ReportRun;
 
-// Prints those pages of a complete report that the printer's range names, with what else is set on the printer, or
+// Prints those pages of a complete report that the printer's range names, on its paper and with what else is set on it, or
 // writes them to the file that it is set to. Throws RuleError when there is no printer, and with the words of the print
 // system when that does not take the job: the printer is gone, or refuses.
 void printReport(const ReportRun &run, QPrinter &printer, Progress &progress);

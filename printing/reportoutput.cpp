@@ -5,6 +5,8 @@
 #include "printing/pagepainter.h"
 #include "printing/texts.h"
 
+#include <algorithm>
+#include <cmath>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -12,14 +14,34 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere::Printing {
 
+namespace {
+
+// From units of the page to dots of the sheet.
+void fitToSheet(QPainter &painter, const QSizeF &sheet, const QSizeF &page, int resolution)
+{
+    constexpr double sameSize = 0.005; // sizes of paper are rounded
+    double fit = std::min(sheet.width() / page.width(), sheet.height() / page.height());
+    if (std::abs(fit - 1) < sameSize)
+        fit = 1;
+    const double scale = resolution / unitsPerInch;
+    painter.scale(scale, scale);
+    if (fit != 1)
+        painter.translate((sheet.width() - page.width() * fit) / 2, (sheet.height() - page.height() * fit) / 2);
+    painter.scale(fit, fit);
+}
+
+} // namespace
+
 void paintPages(const ReportRun &run, QPagedPaintDevice &device, int resolution, int from, int to,
                 Progress &progress)
 {
-    device.setPageLayout(run.paper().layout());
+    if (!run.isComplete())
+        throw RuleError(PrintingTexts::tr("The report cannot be printed: its pages could not be made to the end."));
     QPainter painter;
     if (!painter.begin(&device))
         throw RuleError(PrintingTexts::tr("The report cannot be printed: the printer or the file takes nothing."));
-    painter.scale(resolution / unitsPerInch, resolution / unitsPerInch);
+    fitToSheet(painter, device.pageLayout().fullRect(QPageLayout::Point).size() * unitsPerPoint,
+               run.paper().sheet().size(), resolution);
     const int step = from <= to ? 1 : -1;
     progress.start((to - from) * step + 1);
     for (int number = from; number != to + step; number += step) {
@@ -38,6 +60,7 @@ void savePdf(ReportRun &run, const QString &fileName, Progress &progress)
     run.makePages();
     saveFile(fileName, [&](QIODevice &file) {
         QPdfWriter writer(&file);
+        writer.setPageLayout(run.paper().layout());
         writer.setResolution(static_cast<int>(unitsPerInch));
         writer.setTitle(run.title());
         writer.setCreator(u"Tallymere"_s);

@@ -8,8 +8,8 @@ class QPagedPaintDevice;
 namespace Tallymere::Printing {
 
 // Paints pages of a complete report on a printer or into a file, from one to another (from 1, both included), backwards
-// where the first number is the larger one. Sets the device's paper. Throws RuleError when the device does not begin or
-// refuses a page.
+// where the first number is the larger one. On another sheet than they were made for, pages are made as large as it and
+// stand in its middle. Throws RuleError when the report is not complete, when the device does not begin or refuses a page.
 void paintPages(const ReportRun &run, QPagedPaintDevice &device, int resolution, int from, int to,
                 Progress &progress);
 

@@ -14,22 +14,22 @@ bool ReportRun::makePages(QDeadlineTimer until)
 {
     constexpr int linesBetweenLooks = 50; // at the clock
     try {
-        while (!m_complete && !until.hasExpired()) {
-            for (int i = 0; i < linesBetweenLooks && !m_complete; ++i) {
+        while (!hasEnded() && !until.hasExpired()) {
+            for (int i = 0; i < linesBetweenLooks && !hasEnded(); ++i) {
                 ReportLine line;
                 if (m_lines.next(line)) {
                     m_maker.add(line);
                 } else {
                     m_maker.finish();
-                    m_complete = true;
+                    m_state = State::Complete;
                 }
             }
         }
     } catch (...) {
-        m_complete = true;
+        m_state = State::Failed;
         throw;
     }
-    return m_complete;
+    return isComplete();
 }
 
 } // namespace Tallymere::Printing

@@ -22,9 +22,10 @@ public:
     ReportRun(Report report, QPageSize::PageSizeId size, const PageTexts &texts);
 
     // Goes on until the time is over or the report is complete, which is true then. Throws what the rows throw, and
-    // RuleError when there is no room for the pages; it is complete then with the pages made so far.
+    // RuleError when there is no room for the pages; the report has ended then without being complete.
     bool makePages(QDeadlineTimer until = QDeadlineTimer::Forever);
-    bool isComplete() const { return m_complete; }
+    bool isComplete() const { return m_state == State::Complete; }
+    bool hasEnded() const { return m_state != State::Running; } // no further pages come
 
     QString title() const { return m_report.layout.title; }
     const Paper &paper() const { return m_paper; }
@@ -37,7 +38,7 @@ private:
     PageSpool m_spool;
     ReportLines m_lines;
     PageMaker m_maker;
-    bool m_complete = false;
+    enum class State { Running, Complete, Failed } m_state = State::Running;
 };
 
 } // namespace Tallymere::Printing

@@ -62,11 +62,19 @@ QRect PageView::pageRect(int index) const
     return {QPoint(left, pageTop(index) - verticalScrollBar()->value()), size};
 }
 
-int PageView::currentPage() const { return pageAt(verticalScrollBar()->value() + viewport()->height() / 2) + 1; }
+int PageView::currentPage() const
+{
+    const int place = verticalScrollBar()->value();
+    return place == m_goneToAt ? m_goneTo : pageAt(place + viewport()->height() / 2) + 1;
+}
 
 void PageView::goToPage(int page)
 {
-    verticalScrollBar()->setValue(pageTop(std::clamp(page, 1, std::max(1, pageCount())) - 1) - gap);
+    const int wanted = std::clamp(page, 1, std::max(1, pageCount()));
+    verticalScrollBar()->setValue(pageTop(wanted - 1) - gap);
+    m_goneTo = wanted;
+    m_goneToAt = verticalScrollBar()->value();
+    Q_EMIT pageShown(wanted);
 }
 
 void PageView::updateBars()
@@ -93,6 +101,8 @@ void PageView::setZoom(int percent)
     m_zoom = percent;
     updateBars();
     verticalScrollBar()->setValue(pageTop(index) + qRound(within * (pageSize().height() + gap)));
+    m_goneTo = index + 1;
+    m_goneToAt = verticalScrollBar()->value();
     viewport()->update();
 }
 

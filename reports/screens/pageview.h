@@ -18,7 +18,8 @@ public:
     void setRun(const Printing::ReportRun *run); // outlives what is shown
     void pagesAdded(); // the run has more pages than before
 
-    int currentPage() const; // from 1: the one in the upper half of the view; 1 while there is none
+    // From 1: the page that was gone to, and after scrolling the one in the middle of the view; 1 while there is none.
+    int currentPage() const;
     void goToPage(int page);
 
     // In percent of the real size. The place in sight stays.
@@ -60,6 +61,8 @@ private:
     const Printing::ReportRun *m_run = nullptr;
     mutable QCache<int, Printing::Page> m_near;
     int m_zoom = 100;
+    int m_goneTo = 1; // which need not be in the middle, where several pages are in sight
+    int m_goneToAt = 0; // where the scroll bar stood then
     QString m_searched;
     int m_hitPage = -1; // the place that the search is at
     int m_hitIndex = -1;

@@ -95,7 +95,7 @@ void TfrmPreview::connectControls()
 void TfrmPreview::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    if (event->spontaneous() || m_run->isComplete() || m_making.isActive())
+    if (event->spontaneous() || m_run->hasEnded() || m_making.isActive())
         return;
     setWindowState(windowState() | Qt::WindowMaximized);
     m_ui->QRPreview1->setFocus();
@@ -109,7 +109,7 @@ void TfrmPreview::makePages()
         return;
     constexpr int milliseconds = 20; // less than anybody would notice as a delay of a key
     const auto show = qScopeGuard([this] {
-        if (m_run->isComplete())
+        if (m_run->hasEnded())
             m_making.stop();
         m_ui->QRPreview1->pagesAdded();
         if (m_toLast)
@@ -128,7 +128,7 @@ void TfrmPreview::showPageNumber()
     m_ui->btnFirst->setEnabled(page > 1);
     m_ui->btnPrev->setEnabled(page > 1);
     m_ui->btnNext->setEnabled(page < count);
-    m_ui->btnLast->setEnabled(page < count || !complete);
+    m_ui->btnLast->setEnabled(page < count || !m_run->hasEnded());
     m_ui->btnPrint->setEnabled(complete);
     m_savePdf->setEnabled(complete);
 }
@@ -159,7 +159,7 @@ void TfrmPreview::btnNextClick()
 void TfrmPreview::btnLastClick()
 {
     goToPage(m_run->pageCount());
-    m_toLast = !m_run->isComplete();
+    m_toLast = !m_run->hasEnded();
 }
 
 void TfrmPreview::setZoom(int percent) { m_ui->SpinEdit1->setValue(percent); }
