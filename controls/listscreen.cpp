@@ -213,10 +213,25 @@ void ListScreen::runCommand(const std::function<void()> &run)
     showFilterMark();
 }
 
+namespace {
+
+// As setIndex() and setOrderBy() take it.
+QString orderOf(const Engine::DataSet &set)
+{
+    if (const auto *table = qobject_cast<const Engine::Table *>(&set))
+        return table->index();
+    QStringList names;
+    for (const Engine::OrderedField &field : set.orderedFields())
+        names.append(field.name);
+    return names.join(u';');
+}
+
+} // namespace
+
 void ListScreen::print(const QString &report)
 {
     requirePrinter(m_context);
-    m_context.printList(report, m_data->isFiltered() ? m_data->filter() : QString());
+    m_context.printList(report, m_data->isFiltered() ? m_data->filter() : QString(), orderOf(*m_data));
 }
 
 ListMenu ListScreen::fileMenu(const QString &report)

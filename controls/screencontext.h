@@ -43,9 +43,9 @@ struct ScreenContext
     // Asks the user for a file to write, over a window; empty when he cancels. Without it, commands that save files are
     // disabled.
     std::function<QString(QWidget *window, const FileChoice &choice)> chooseFileToSave = {};
-    // Shows a report of a list by its name ("TrptItems"), with the rows that the list's filter expression leaves. Empty:
-    // lists cannot be printed.
-    std::function<void(const QString &report, const QString &filter)> printList = {};
+    // Shows a report of a list by its name ("TrptItems"), with the rows that the list's filter expression leaves, in the
+    // list's order (an index, or columns of a query). Empty: lists cannot be printed.
+    std::function<void(const QString &report, const QString &filter, const QString &order)> printList = {};
     // Opens the help at a screen's topic, named by the screen. Empty: no help, and the command is disabled.
     std::function<void(const QString &screenName)> showHelp = {};
 

@@ -193,8 +193,8 @@ void TFormTallymereSystem::fillContext()
         .settings = &m_services.settings,
         .chooseFileToSave = chooseFileToSave,
         .printList =
-            [this](const QString &report, const QString &filter) {
-                showReport(*m_context, *ReportList::find(report), {.filter = filter}, this);
+            [this](const QString &report, const QString &filter, const QString &order) {
+                showReport(*m_context, *ReportList::find(report), {.filter = filter, .order = order}, this);
             },
         .showHelp = [this](const QString &screenName) { m_help->showTopic(screenName); },
     });

@@ -38,6 +38,9 @@ template <const MasterKind &(*kind)()>
 RowReaderPtr masterRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
 {
     auto list = std::make_unique<MasterList>(database, kind());
+    const QString order = report.order.isEmpty() ? selection.order : report.order.constFirst();
+    if (!order.isEmpty())
+        list->table().setIndex(order);
     Engine::DataSet &table = list->table();
     return rowsOf(std::move(list), table, report, selection);
 }
@@ -46,6 +49,8 @@ template <const DocumentKind &(*kind)()>
 RowReaderPtr documentRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
 {
     auto list = std::make_unique<DocumentList>(database, kind());
+    if (!selection.order.isEmpty())
+        list->table().setIndex(selection.order);
     Engine::DataSet &table = list->table();
     return rowsOf(std::move(list), table, report, selection);
 }
@@ -60,6 +65,8 @@ RowReaderPtr historyRows(Database &database, const ReportDescription &report, co
 RowReaderPtr totalsRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
 {
     auto view = std::make_unique<TotalsView>(database);
+    if (!selection.order.isEmpty())
+        view->query().setOrderBy(selection.order);
     Engine::DataSet &query = view->query();
     return rowsOf(std::move(view), query, report, selection);
 }
@@ -120,8 +127,11 @@ QList<ReportDescription> listReports()
             u"TrptInvTotals"_s, ReportsTexts::tr("Inventory Totals"), totalsRows,
             {itemNo(), description(), location(), quantity(u"QtyOnHand"_s, ReportsTexts::tr("Quantity On Hand"))}),
     };
-    for (ReportDescription &report : reports)
+    for (ReportDescription &report : reports) {
         report.layout.landscape = report.name == "TrptInvHistory"_L1;
+        if (report.name == "TrptVendors"_L1)
+            report.order = {u"VendorName1"_s};
+    }
     return reports;
 }
 

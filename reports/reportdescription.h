@@ -19,7 +19,8 @@ struct ReportSelection
     int itemTypeId = 0;
     int period = 0; // the first one reported, in
     int year = 0; // this fiscal year
-    QString filter{}; // the filter expression of the list that is printed
+    QString filter{}; // the filter expression of the list that is printed,
+    QString order{}; // and its order: an index of its table, or columns of its query. Empty: the usual one
 };
 
 // A report: where its rows come from and what they look like on paper. All reports are such descriptions
@@ -43,7 +44,8 @@ struct ReportDescription
     Rows rows = nullptr;
     Notes notes = nullptr; // further headings, as the data are
     // Of the reports on balances: the lines of the query, of which the third takes the condition, and its order by
-    // columns of the result. With key fields its rows are fetched as they are needed, else read at once.
+    // columns of the result. With key fields its rows are fetched as they are needed, else read at once. Of a list the order
+    // is an index that it is always printed by.
     QStringList query{};
     QStringList order{};
     QString keyFields{};
