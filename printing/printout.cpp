@@ -11,6 +11,12 @@
 
 namespace Tallymere::Printing {
 
+void preparePrinter(const ReportRun &run, QPrinter &printer)
+{
+    printer.setDocName(run.title());
+    printer.setPageLayout(run.paper().layout());
+}
+
 void printReport(const ReportRun &run, QPrinter &printer, Progress &progress)
 {
     int from = 1;
@@ -21,7 +27,6 @@ void printReport(const ReportRun &run, QPrinter &printer, Progress &progress)
     }
     if (printer.pageOrder() == QPrinter::LastPageFirst)
         std::swap(from, to);
-    printer.setDocName(run.title());
     // The sheet is the user's choice, its orientation the report's.
     QPageLayout layout = run.paper().layout();
     layout.setPageSize(printer.pageLayout().pageSize());

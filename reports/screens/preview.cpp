@@ -213,7 +213,7 @@ void TfrmPreview::withProgress(const std::function<void(Progress &)> &work)
 void TfrmPreview::btnPrintClick()
 {
     QPrinter printer(QPrinter::HighResolution);
-    printer.setPageLayout(m_run->paper().layout());
+    Printing::preparePrinter(*m_run, printer);
     QPrintDialog dialog(&printer, this);
     dialog.setMinMax(1, m_run->pageCount());
     dialog.setFromTo(1, m_run->pageCount());

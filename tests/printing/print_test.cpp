@@ -7,6 +7,7 @@
 #include "tests/support/printsystem.h"
 #include "tests/support/spokenprompts.h"
 
+#include <optional>
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
@@ -116,6 +117,17 @@ QImage pictureOf(const ReportRun &run, int number)
     return picture;
 }
 
+// As large as the sheet lets it be, in its middle.
+QImage onSheet(const QImage &page, QPageSize::PageSizeId size)
+{
+    QImage sheet(QPageSize(size).sizePixels(dotsPerInch), QImage::Format_Grayscale8);
+    sheet.fill(Qt::white);
+    const QImage fitted = page.scaled(sheet.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPainter painter(&sheet);
+    painter.drawImage((sheet.width() - fitted.width()) / 2, (sheet.height() - fitted.height()) / 2, fitted);
+    return sheet;
+}
+
 // How far two pictures are apart in the place where they are most: the ink in a square of a sixth of an inch, from 0
 // to 255. Letters are drawn by different programs, but with the same ink in the same places.
 int distance(const QImage &left, const QImage &right)
@@ -176,10 +188,17 @@ TEST_F(PrintTest, WhatThePreviewShowsArrivesAtThePrinter)
         QPageSize::PageSizeId size;
         std::function<void(QPrinter &)> choose;
         QList<int> pages;
+        std::optional<QPageSize::PageSizeId> sheet = {}; // else that of the report
     };
     const Case cases[] = {
         {"a whole report", false, QPageSize::Letter, [](QPrinter &) {}, {1, 2, 3}},
         {"another paper than the printer's", false, QPageSize::A4, [](QPrinter &) {}, {1, 2, 3}},
+        {"another sheet than the report is made for",
+         false,
+         QPageSize::A4,
+         [](QPrinter &printer) { printer.setPageSize(QPageSize(QPageSize::Letter)); },
+         {1, 2, 3},
+         QPageSize::Letter},
         {"across", true, QPageSize::Letter, [](QPrinter &) {}, {1, 2, 3, 4}},
         {"copies of some pages",
          false,
@@ -200,6 +219,7 @@ TEST_F(PrintTest, WhatThePreviewShowsArrivesAtThePrinter)
         SCOPED_TRACE(example.what);
         const auto run = makeRun(example.landscape, example.size);
         QPrinter printer(QPrinter::HighResolution); // the default one
+        preparePrinter(*run, printer);
         example.choose(printer);
         CountedProgress progress;
         printReport(*run, printer, progress);
@@ -212,7 +232,8 @@ TEST_F(PrintTest, WhatThePreviewShowsArrivesAtThePrinter)
         for (qsizetype i = 0; i < words.size(); ++i) {
             SCOPED_TRACE(example.pages[i]);
             EXPECT_EQ(words[i], wordsOf(*run, example.pages[i]));
-            expectSamePicture(pictureOf(*run, example.pages[i]), pictures[i]);
+            const QImage page = pictureOf(*run, example.pages[i]);
+            expectSamePicture(example.sheet ? onSheet(page, *example.sheet) : page, pictures[i]);
         }
     }
 }
