@@ -26,6 +26,7 @@ public:
     void setList(Engine::DataSet &list, const QList<GridColumn> &columns, const Guard &guard);
 
     int chosenId() const { return m_id; } // 0: nothing chosen
+    int shownId() const { return currentIndex() < 0 ? 0 : m_id; } // 0 also for what the list does not hold any more
     void setChosenId(int id); // shows nothing when the list does not hold it; no signal
     bool isPending() const { return m_shown != m_id; } // moved by keys, not chosen yet
     void settle(); // makes the pending row the choice

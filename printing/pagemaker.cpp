@@ -279,8 +279,6 @@ void PageMaker::addCell(LaidLine &line, const PlacedColumn &place, const QString
     line.texts.append({static_cast<float>(x), static_cast<float>(top), style, static_cast<float>(squeeze), text});
 }
 
-bool PageMaker::totalStartsAt(const PlacedColumn &place) const { return m_lines.isSummed(place.field); }
-
 PageMaker::LaidLine PageMaker::total(const ReportLine &line) const
 {
     const bool report = line.band == Band::ReportTotal;
@@ -291,7 +289,7 @@ PageMaker::LaidLine PageMaker::total(const ReportLine &line) const
     LaidLine laid;
     double labelRight = m_area.right();
     for (const PlacedColumn &place : m_columns) {
-        if (!totalStartsAt(place))
+        if (!m_lines.isSummed(place.field, line.band))
             continue;
         labelRight = std::min(labelRight, place.left - gap);
         const Engine::Value &sum = line.values[static_cast<size_t>(place.field)];

@@ -67,7 +67,6 @@ private:
     static void addText(LaidLine &line, double x, double y, TextStyle style, const QString &text, double room);
     QString groupName(int group, const ReportLine &line) const;
     QString cellText(const PlacedColumn &place, const ReportLine &line) const;
-    bool totalStartsAt(const PlacedColumn &place) const;
 
     void place(const Block &block);
     void placeInParts(LaidLine line);

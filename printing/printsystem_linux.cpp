@@ -1,5 +1,6 @@
 #include "printing/printsystem.h"
 
+#include "base/noprinter.h"
 #include "base/ruleerror.h"
 #include "printing/texts.h"
 
@@ -44,6 +45,8 @@ private:
 void sendToPrinter(const QString &pdfFile, const QString &printer, const QString &title, const QPageSize &sheet)
 {
     Destination destination(printer);
+    if (printer.isEmpty() && !destination.exists())
+        throw RuleError(noPrinterText());
     if (destination.exists()) {
         // Otherwise what is larger than the printer's usual sheet is cut off.
         destination.setOption("media", sheet.key().toUtf8());

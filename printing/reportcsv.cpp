@@ -35,9 +35,9 @@ bool isGiven(const CsvField &field, const ReportLine &line, const ReportLines &l
 {
     switch (line.band) {
     case Band::GroupTotal:
-        return lines.isSummed(field.index) || (field.group >= 0 && field.group <= line.group);
+        return lines.isSummed(field.index, line.band) || (field.group >= 0 && field.group <= line.group);
     case Band::ReportTotal:
-        return lines.isSummed(field.index);
+        return lines.isSummed(field.index, line.band);
     default:
         return field.group >= 0 || field.inDetail;
     }

@@ -65,6 +65,7 @@ struct Total
 {
     QString field;
     TotalOf what = TotalOf::Amounts;
+    bool ofReport = true; // false: it is summed up for the groups only
 };
 
 // What a report looks like. Its rows come from a RowReader.

@@ -18,7 +18,7 @@ ReportLines::ReportLines(const ReportLayout &layout, RowReader &rows)
     for (const Group &group : layout.groups)
         m_keys.push_back(indexOf(group.key));
     for (const Total &total : layout.totals)
-        m_summed.push_back({indexOf(total.field), total.what});
+        m_summed.push_back({indexOf(total.field), total.what, total.ofReport});
     for (std::vector<Sum> &sums : m_sums)
         sums.resize(m_summed.size());
     m_closing.resize(m_summed.size());
@@ -26,9 +26,11 @@ ReportLines::ReportLines(const ReportLayout &layout, RowReader &rows)
 
 int ReportLines::indexOf(const QString &field) const { return static_cast<int>(m_rows.fields().indexOf(field)); }
 
-bool ReportLines::isSummed(int field) const
+bool ReportLines::isSummed(int field, Band band) const
 {
-    return std::ranges::any_of(m_summed, [field](const SummedField &summed) { return summed.field == field; });
+    return std::ranges::any_of(m_summed, [=](const SummedField &summed) {
+        return summed.field == field && (summed.ofReport || band != Band::ReportTotal);
+    });
 }
 
 bool ReportLines::next(ReportLine &line)

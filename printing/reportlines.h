@@ -29,7 +29,7 @@ public:
     bool next(ReportLine &line); // false after the last
     // The position of a field in values; -1 when the rows have none of that name.
     int indexOf(const QString &field) const;
-    bool isSummed(int field) const;
+    bool isSummed(int field, Band band) const; // in totals of groups or of the report
 
 private:
     struct Sum
@@ -41,6 +41,7 @@ private:
     {
         int field;
         TotalOf what;
+        bool ofReport;
     };
 
     void takeRow();

@@ -94,7 +94,7 @@ ReportDescription byItemWhse()
     report.keyFields = u"ItemID;WarehouseID"_s;
     report.layout.columns = balanceColumns();
     report.layout.groups = {itemGroup()};
-    report.layout.totals = {{u"QtyOnHand"_s, TotalOf::Quantities}, {u"ItemWhseValue"_s, TotalOf::Amounts}};
+    report.layout.totals = {{u"QtyOnHand"_s, TotalOf::Quantities, false}, {u"ItemWhseValue"_s, TotalOf::Amounts}};
     return report;
 }
 

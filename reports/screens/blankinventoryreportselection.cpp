@@ -37,7 +37,7 @@ void TFormBlankInventoryReportSelection::offer(const BlankFormChoices &choices)
 
 BlankFormChoices TFormBlankInventoryReportSelection::choices() const
 {
-    return {.warehouseId = m_ui->cboWarehouse->currentIndex() < 0 ? 0 : m_ui->cboWarehouse->chosenId(),
+    return {.warehouseId = m_ui->cboWarehouse->shownId(),
             .byCategory = m_ui->optCategory->isChecked(),
             .pagePerCategory = m_ui->chkPagePerCategory->isChecked(),
             .zeroCounts = m_ui->chkZeroCounts->isChecked(),

@@ -93,11 +93,11 @@ void TfrmInvReports::offer(const ReportChoice &choice)
     SetGLYear(choice.selection.year);
 }
 
-int TfrmInvReports::GetWarehouseID() const { return m_ui->cboWarehouse->chosenId(); }
+int TfrmInvReports::GetWarehouseID() const { return m_ui->cboWarehouse->shownId(); }
 
 void TfrmInvReports::SetWarehouseID(int warehouseId) { m_ui->cboWarehouse->setChosenId(warehouseId); }
 
-int TfrmInvReports::GetItemTypeID() const { return m_ui->cboItemType->chosenId(); }
+int TfrmInvReports::GetItemTypeID() const { return m_ui->cboItemType->shownId(); }
 
 void TfrmInvReports::SetItemTypeID(int itemTypeId) { m_ui->cboItemType->setChosenId(itemTypeId); }
 
@@ -204,8 +204,8 @@ void TfrmInvReports::preview()
     if (!chosen.report)
         return;
     showReport(context(), *chosen.report, takenBy(chosen.parameters, selection()), parentWidget());
-    m_memory.keep({index, selection()});
     btnBackClick();
+    m_memory.keep({index, selection()});
 }
 
 } // namespace Tallymere

@@ -1,8 +1,12 @@
 #include "base/ruleerror.h"
+#include "printing/reportoutput.h"
 #include "printing/reportrun.h"
+#include "tests/support/spokenprompts.h"
 
 #include <gtest/gtest.h>
 #include <map>
+#include <QFile>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -22,11 +26,15 @@ public:
     const QStringList &fields() const override { return m_fields; }
     bool next(ReportRow &row) override
     {
+        if (m_next == m_rows.size() && failsAtEnd)
+            throw RuleError(u"The store is gone"_s);
         if (m_next == m_rows.size())
             return false;
         row = m_rows[m_next++];
         return true;
     }
+
+    bool failsAtEnd = false;
 
 private:
     QStringList m_fields;
@@ -201,6 +209,24 @@ TEST_F(Pages, NameTheReportWhoseTotalIsNoAmountAnyMore)
     add(u"A"_s, u"a"_s, 9e14);
     add(u"A"_s, u"b"_s, 9e14);
     EXPECT_THROW(make(), RuleError);
+}
+
+TEST_F(Pages, OfAReportThatFailedAreNotGivenAwayAsIfTheyWereAll)
+{
+    for (const int rowsBefore : {0, 200}) {
+        auto reader = std::make_unique<Rows>(QStringList{u"Group"_s, u"Name"_s, u"Value"_s}, rows);
+        reader->failsAtEnd = true;
+        ReportRun run({layout, std::move(reader)}, QPageSize::Letter, {});
+        EXPECT_THROW(run.makePages(), RuleError);
+        EXPECT_TRUE(run.hasEnded());
+        EXPECT_EQ(run.pageCount() > 0, rowsBefore > 0);
+        QTemporaryDir folder;
+        CountedProgress progress;
+        EXPECT_THROW(savePdf(run, folder.filePath(u"report.pdf"_s), progress), RuleError);
+        EXPECT_FALSE(QFile::exists(folder.filePath(u"report.pdf"_s)));
+        for (int i = 0; i < 200; ++i)
+            add(u"A"_s, u"Name"_s, i);
+    }
 }
 
 } // namespace

@@ -336,9 +336,10 @@ private:
     void total(const QString &band, const QString &outer, const QString &item, const Sums &sums)
     {
         QStringList figures;
+        // Pieces and kilograms of different items do not add up.
+        const bool withQuantity = m_shape.listText == "Value by Item /Location" && band == "group total"_L1;
         if (m_shape.kind == Kind::Value)
-            figures = {m_shape.listText == "Value by Item /Location" ? quantity(sums[0]) : QString(), QString(),
-                       money(sums[2])};
+            figures = {withQuantity ? quantity(sums[0]) : QString(), QString(), money(sums[2])};
         else if (m_shape.kind == Kind::Perpetual)
             figures = {QString(), quantity(sums[1])};
         else

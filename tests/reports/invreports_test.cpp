@@ -1,11 +1,13 @@
 #include "controls/filechoice.h"
 #include "controls/lookupcombobox.h"
+#include "reports/makereport.h"
 #include "reports/screens/invreports.h"
 #include "reports/screens/preview.h"
 #include "tests/support/screentest.h"
 
 #include <QFile>
 #include <QListWidget>
+#include <QSpinBox>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -180,4 +182,24 @@ TEST_F(InvReportsTest, ReadsThePeriodAsItIsTyped)
     kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = 5"_s);
     open();
     EXPECT_EQ(chosen(), u"5/2026"_s);
+}
+
+TEST_F(InvReportsTest, PagesAreTurnedOneByOneWhereSeveralAreInSight)
+{
+    for (int id = 1; id <= 300; ++id)
+        kitchen.addReceipt(id, 1, 1, {});
+    auto *preview = new TfrmPreview(*context, runReport(*data, *ReportList::find(u"Inventory Receipts"_s), {}),
+                                    mainWindow.get());
+    showActive(*preview);
+    const auto *label = child<QLabel>(*preview, "panelPageNumber");
+    ASSERT_TRUE(comesTrue([&] { return child<QPushButton>(*preview, "btnPrint")->isEnabled(); }));
+    const QString last = label->text().section(u' ', -1);
+    child<QSpinBox>(*preview, "SpinEdit1")->setValue(20);
+    QStringList pages;
+    for (const auto turn : {&TfrmPreview::btnNextClick, &TfrmPreview::btnNextClick, &TfrmPreview::btnPrevClick,
+                            &TfrmPreview::btnLastClick, &TfrmPreview::btnFirstClick}) {
+        std::invoke(turn, preview);
+        pages += label->text().section(u' ', 1, 1);
+    }
+    EXPECT_EQ(pages, (QStringList{u"2"_s, u"3"_s, u"2"_s, last, u"1"_s}));
 }

@@ -35,6 +35,7 @@ TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
         const char *name;
         const char *filter;
         QByteArray csv;
+        const char *order = "";
     } cases[] = {
         {"Item Types", "", "Band,TypeName\r\ndetail,Food\r\ndetail,Goods\r\n"},
         {"Items", "(ItemTypeID = 1) AND (Suspended <> true)",
@@ -55,15 +56,37 @@ TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
          "detail,,,2025-12-31,12/2025,,,-1,0,\r\n"},
         {"Inventory Totals", "(WarehouseID = 77)",
          "Band,ItemNo,ItemDescription,WarehouseName,QtyOnHand\r\ndetail,,,,-4\r\n"},
+        {"Items", "(Suspended <> true)",
+         "Band,ItemNo,ItemDescription,UnitPrice,TaxCodes,WgtAvgCost,StandardCost\r\n"
+         "detail,A10,Apples,,,2.25,\r\ndetail,B1,apricots,,,,\r\ndetail,A11,Bread,,,,\r\n",
+         "ItemDescription1"},
     };
     for (const auto &one : cases) {
-        const ReportSelection selection{.filter = QString::fromLatin1(one.filter)};
+        const ReportSelection selection{.filter = QString::fromLatin1(one.filter),
+                                        .order = QString::fromLatin1(one.order)};
         const ReportDescription &list = report(one.name);
         QBuffer file;
         file.open(QIODevice::WriteOnly);
         Printing::writeReportCsv(list.layout, *list.rows(kitchen.database(), list, selection), file, progress);
         EXPECT_EQ(file.data(), one.csv) << one.name;
         EXPECT_EQ(list.layout.landscape, list.listText == "Inventory History"_L1);
+    }
+}
+
+// The list of balances is read when a report begins, the movements as it goes on.
+TEST_P(ListReports, BalancesAndMovementsAreOfOneMoment)
+{
+    kitchen.setStock(1, 1, 5, 1);
+    const ReportDescription &perpetual = report("Perpetual by Item");
+    const Printing::RowReaderPtr rows = perpetual.rows(kitchen.database(), perpetual, {.period = 3, .year = 2026});
+    kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8; "
+                    "INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, "
+                    "UnitCost) VALUES (1, 1, 2026, 3, 3, '2026-03-14', 3, 1)"_s);
+    const auto balance = static_cast<size_t>(rows->fields().indexOf(u"Balance"_s));
+    Printing::ReportRow row;
+    for (const double expected : {5.0, 8.0}) {
+        ASSERT_TRUE(rows->next(row));
+        EXPECT_EQ(row.values[balance].toDouble(), expected);
     }
 }
 
