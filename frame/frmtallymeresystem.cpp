@@ -12,8 +12,8 @@
 #include "frame/helpdesk.h"
 #include "frame/hostinifile.h"
 #include "frame/mastermenu.h"
+#include "frame/reportholder.h"
 #include "frame/screenregistry.h"
-#include "frame/templatereport.h"
 #include "frame/tracescope.h"
 #include "master/screens/dialerinv.h"
 #include "reports/reportlist.h"
@@ -64,6 +64,8 @@ TFormTallymereSystem::TFormTallymereSystem(const FrameServices &services, QWidge
     m_ui->setupUi(this);
     setObjectName(u"FormTallymereSystem"_s);
     FontFactor = fontFactor(this);
+    auto *holder = new ReportHolder(this);
+    holder->setObjectName(u"ReportHolder"_s);
     createActions();
     addMasterEntries(*m_ui->mnuEdit, *m_ui->mnuOther, *this);
     bindControls();
@@ -236,19 +238,19 @@ bool TFormTallymereSystem::printerDefined()
     return result;
 }
 
-void TFormTallymereSystem::printReport(TemplateReport &report, bool showPrintDialog)
+void TFormTallymereSystem::printReport(ReportHolder &report, bool showPrintDialog)
 {
     const QString file = report.templateFile();
     if (!QFileInfo(file).isFile()) {
-        m_services.prompts.error(tr("The requested report template file:\n%1\ncould not be found.").arg(file));
+        m_services.prompts.error(tr("The requested report template file:\r\n%1\r\ncould not be found.").arg(file));
         return;
     }
     report.loadTemplate();
     report.setShowPrintDialog(showPrintDialog);
     qCDebug(trace, "Show Print Dialog setting in PrintReport routine...");
-    qCDebug(trace).noquote() << report.name() + ".ShowPrintDialog"_L1 << showPrintDialog;
+    qCDebug(trace).noquote() << report.objectName() + ".ShowPrintDialog"_L1 << showPrintDialog;
     qCDebug(trace, "About to Print the report...");
-    report.print();
+    report.printOut(this);
     qCDebug(trace, "Print command just sent!");
 }
 

@@ -23,7 +23,7 @@ class TFormTallymereSystem;
 class HelpDesk;
 class ScreenRegistry;
 class SettingsStore;
-class TemplateReport;
+class ReportHolder;
 class TfrmDialerInv;
 
 // What the main form is given by the module; all of it outlives the form.
@@ -67,8 +67,9 @@ public:
 
     // Whether the system has a current printer.
     bool printerDefined();
-    // Prints a report from its template file. A file that is not there is named in the standard error box.
-    void printReport(TemplateReport &report, bool showPrintDialog);
+    // Prints a report from its template file; the window has an empty one, "ReportHolder". A file that is not there is
+    // named in the standard error box.
+    void printReport(ReportHolder &report, bool showPrintDialog);
     // Enables or disables the first six entries of the first menu and every tool button of this window.
     void databaseOptionsEnabled(bool enable);
 

@@ -1,4 +1,6 @@
+#include "base/ruleerror.h"
 #include "frame/frmtallymeresystem.h"
+#include "frame/reportholder.h"
 #include "tests/frame/testcompany.h"
 
 #include <QAction>
@@ -6,6 +8,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSet>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -85,4 +88,23 @@ TEST_F(MainFormTest, ProductLacksExactlyTheScreensThatAreNotBuilt)
 {
     screens = productScreens();
     EXPECT_EQ(actions(false), QStringList{u"ActionPrintPayments"_s});
+}
+
+TEST_F(MainFormTest, PrintsTemplatesThatAreThere)
+{
+    qputenv("CUPS_SERVER", "/nonexistent"); // no printer of this machine gets anything
+    auto &holder = *form().findChild<ReportHolder *>(u"ReportHolder"_s);
+    EXPECT_TRUE(holder.isEmpty());
+    QTemporaryDir folder;
+    holder.setTemplateFile(folder.filePath(u"stock.html"_s));
+    form().printReport(holder, false);
+    EXPECT_EQ(prompts.take(),
+              QStringList{u"error: The requested report template file:\r\n"_s + holder.templateFile()
+                          + u"\r\ncould not be found."_s});
+    QFile file(holder.templateFile());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("<h1>Stock</h1>") > 0);
+    file.close();
+    EXPECT_THROW(form().printReport(holder, false), RuleError) << "there is no printer";
+    EXPECT_EQ(holder.toPlainText(), u"Stock"_s);
+    qunsetenv("CUPS_SERVER");
 }
