@@ -3,6 +3,7 @@
 #include <functional>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -26,6 +27,7 @@ public:
     // Null when there is no such screen.
     const ScreenKind *find(const QString &name) const;
     bool contains(const QString &name) const { return m_kinds.contains(name); }
+    QStringList names() const { return m_kinds.keys(); } // in no order
 
 private:
     QHash<QString, ScreenKind> m_kinds;

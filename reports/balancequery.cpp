@@ -15,6 +15,27 @@ QString conditionLine(const ReportSelection &selection)
     return condition.isEmpty() ? QString() : u"WHERE "_s + condition;
 }
 
+namespace {
+const QString fromItems = u"FROM IBalance B LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID "_s;
+} // namespace
+
+QStringList BalanceLines::byItem(const QString &columns, const QString &joins)
+{
+    return {u"SELECT B.ItemID, Sum(B.QtyOnHand) ItemQtyOnHand, "_s + columns,
+            fromItems + joins,
+            {},
+            u"GROUP BY B.ItemID, "_s + columns};
+}
+
+QStringList BalanceLines::byLocation(const QString &columns, const QString &joins)
+{
+    return {u"SELECT B.ItemID, B.WarehouseID, B.QtyOnHand, W.WarehouseName, "_s + columns,
+            fromItems + joins + "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID "_L1,
+            {}};
+}
+
+QString BalanceLines::withTypes() { return u"LEFT OUTER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID "_s; }
+
 BalanceQuery::BalanceQuery(Engine::Database &database, const ReportDescription &report,
                            const ReportSelection &selection)
     : m_query(database)

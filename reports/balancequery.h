@@ -20,4 +20,16 @@ private:
 // The third line of the query: "WHERE (WarehouseID = 2) AND (ItemTypeID = 7)"; empty when nothing is chosen.
 QString conditionLine(const ReportSelection &selection);
 
+// The lines of such a query, but for its order. Columns are those of the item, I, and of what is joined.
+namespace BalanceLines {
+
+// A line for each item, "ItemQtyOnHand" being the sum over all locations that are asked for.
+QStringList byItem(const QString &columns, const QString &joins = {});
+// A line for each item and location, with its "QtyOnHand" and "WarehouseName".
+QStringList byLocation(const QString &columns, const QString &joins = {});
+// Joins the item's type, T.
+QString withTypes();
+
+} // namespace BalanceLines
+
 } // namespace Tallymere

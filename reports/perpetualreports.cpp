@@ -1,3 +1,4 @@
+#include "reports/balancequery.h"
 #include "reports/columns.h"
 #include "reports/perpetualrows.h"
 #include "reports/reportlist.h"
@@ -16,24 +17,6 @@ namespace {
 
 const QString item = u"I.ItemNo, I.ItemDescription"_s;
 const QString itemAndType = item + u", I.ItemTypeID, T.TypeName"_s;
-const QString fromItems = u"FROM IBalance B LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID "_s;
-const QString withTypes = u"LEFT OUTER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID "_s;
-const QString withLocations = u"LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID "_s;
-
-QStringList itemQuery(const QString &columns, const QString &joins = {})
-{
-    return {u"SELECT B.ItemID, Sum(B.QtyOnHand) ItemQtyOnHand, "_s + columns,
-            fromItems + joins,
-            {},
-            u"GROUP BY B.ItemID, "_s + columns};
-}
-
-QStringList balancesQuery(const QString &columns, const QString &joins = {})
-{
-    return {u"SELECT B.ItemID, B.WarehouseID, B.QtyOnHand, W.WarehouseName, "_s + columns,
-            fromItems + joins + withLocations,
-            {}};
-}
 
 // The opening row names the account: the item, or below its heading the location.
 QList<Column> movementColumns(bool byLocation)
@@ -104,7 +87,7 @@ ReportDescription byItem()
     ReportDescription report = perpetualReport(u"TrptPerpetualByItem"_s, ReportsTexts::tr("Perpetual by Item"),
                                                ReportsTexts::tr("Perpetual Inventory by Item"));
     report.parameters = {.location = true, .itemType = true, .period = true};
-    report.query = itemQuery(item);
+    report.query = BalanceLines::byItem(item);
     report.order = {u"I.ItemNo"_s};
     report.layout.columns = movementColumns(false);
     report.layout.groups = {itemGroup()};
@@ -117,7 +100,7 @@ ReportDescription byItemWhse()
         perpetualReport(u"TrptPerpetualByItemWhse"_s, ReportsTexts::tr("Perpetual by Item /Location"),
                         ReportsTexts::tr("Perpetual Inventory by Item /Location"));
     report.parameters.itemType = true;
-    report.query = balancesQuery(item);
+    report.query = BalanceLines::byLocation(item);
     report.order = {u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
     report.keyFields = u"ItemID;WarehouseID"_s;
     report.layout.columns = movementColumns(true);
@@ -132,7 +115,7 @@ ReportDescription byTypeItem()
         perpetualReport(u"TrptPerpetualByTypeItem"_s, ReportsTexts::tr("Perpetual by Type /Item"),
                         ReportsTexts::tr("Perpetual Inventory by Type /Item"));
     report.parameters.location = true;
-    report.query = itemQuery(itemAndType, withTypes);
+    report.query = BalanceLines::byItem(itemAndType, BalanceLines::withTypes());
     report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
     report.layout.columns = movementColumns(false);
     report.layout.groups = {typeGroup(ReportsTexts::tr("Closing balance %1")), itemGroup()};
@@ -145,7 +128,7 @@ ReportDescription byTypeItemWhse()
     ReportDescription report =
         perpetualReport(u"TrptPerpetualByTypeItemWhse"_s, ReportsTexts::tr("Perpetual by Type /Item /Location"),
                         ReportsTexts::tr("Perpetual Inventory by Type /Item /Location"));
-    report.query = balancesQuery(itemAndType, withTypes);
+    report.query = BalanceLines::byLocation(itemAndType, BalanceLines::withTypes());
     report.order = {u"TypeName"_s, u"ItemTypeID"_s, u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
     report.keyFields = u"ItemID;WarehouseID"_s;
     report.layout.columns = movementColumns(true);
@@ -162,7 +145,7 @@ ReportDescription summaryByItem()
                         ReportsTexts::tr("Perpetual Inventory Summary by Item"));
     report.parameters = {.location = true, .itemType = true, .period = true};
     report.rows = perpetualSummaryRows;
-    report.query = itemQuery(item);
+    report.query = BalanceLines::byItem(item);
     report.order = {u"I.ItemNo"_s};
     report.layout.columns = summaryColumns();
     return report;
@@ -175,7 +158,7 @@ ReportDescription summaryByTypeItem()
                         ReportsTexts::tr("Perpetual Inventory Summary by Type /Item"));
     report.parameters.location = true;
     report.rows = perpetualSummaryRows;
-    report.query = itemQuery(itemAndType, withTypes);
+    report.query = BalanceLines::byItem(itemAndType, BalanceLines::withTypes());
     report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
     report.layout.columns = summaryColumns();
     report.layout.groups = {typeGroup(ReportsTexts::tr("Total %1"))};

@@ -1,4 +1,5 @@
 #include "base/formats.h"
+#include "reports/balancequery.h"
 #include "reports/columns.h"
 #include "reports/reportlist.h"
 #include "reports/texts.h"
@@ -18,27 +19,7 @@ namespace {
 // --- what the reports have alike -----------------------------------------------------------------------------------
 
 const QString itemCosts = u"I.ItemNo, I.ItemDescription, I.ItemTypeID, I.StandardCost, I.WgtAvgCost"_s;
-const QString fromItems = u"FROM IBalance B LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID "_s;
-const QString withTypes = u"LEFT OUTER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID "_s;
-const QString withLocations = u"LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID "_s;
 const QString withAccounts = u"LEFT OUTER JOIN GLAccnt G ON I.InventoryGLAccountID = G.GLAccountID "_s;
-
-// A line for each item, over all locations that are asked for.
-QStringList itemQuery(const QString &more = {}, const QString &joins = {})
-{
-    return {u"SELECT B.ItemID, Sum(B.QtyOnHand) ItemQtyOnHand, "_s + itemCosts + more,
-            fromItems + joins,
-            {},
-            u"GROUP BY B.ItemID, "_s + itemCosts + more};
-}
-
-// A line for each item and location.
-QStringList balancesQuery(const QString &more = {}, const QString &joins = {})
-{
-    return {u"SELECT B.ItemID, B.WarehouseID, B.QtyOnHand, W.WarehouseName, "_s + itemCosts + more,
-            fromItems + joins + withLocations,
-            {}};
-}
 
 QList<Column> itemColumns()
 {
@@ -79,7 +60,7 @@ ReportDescription byItem()
 {
     ReportDescription report =
         valueReport(u"TrptValueByItem"_s, ReportsTexts::tr("Value by Item"), {.location = true, .itemType = true});
-    report.query = itemQuery();
+    report.query = BalanceLines::byItem(itemCosts);
     report.order = {u"I.ItemNo"_s};
     report.layout.columns = itemColumns();
     return report;
@@ -89,7 +70,7 @@ ReportDescription byItemWhse()
 {
     ReportDescription report =
         valueReport(u"TrptValueByItemWhse"_s, ReportsTexts::tr("Value by Item /Location"), {.itemType = true});
-    report.query = balancesQuery();
+    report.query = BalanceLines::byLocation(itemCosts);
     report.order = {u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
     report.keyFields = u"ItemID;WarehouseID"_s;
     report.layout.columns = balanceColumns();
@@ -102,7 +83,7 @@ ReportDescription byTypeItem()
 {
     ReportDescription report =
         valueReport(u"TrptValueByTypeItem"_s, ReportsTexts::tr("Value by Type /Item"), {.location = true});
-    report.query = itemQuery(u", T.TypeName"_s, withTypes);
+    report.query = BalanceLines::byItem(itemCosts + u", T.TypeName"_s, BalanceLines::withTypes());
     report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
     report.layout.columns = itemColumns();
     report.layout.groups = {typeGroup()};
@@ -127,7 +108,7 @@ ReportDescription byTypeItemWhse()
 {
     ReportDescription report =
         valueReport(u"TrptValueByTypeItemWhse"_s, ReportsTexts::tr("Value by Type /Item /Location"), {});
-    report.query = balancesQuery(u", T.TypeName"_s, withTypes);
+    report.query = BalanceLines::byLocation(itemCosts + u", T.TypeName"_s, BalanceLines::withTypes());
     report.order = {u"TypeName"_s, u"ItemTypeID"_s, u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
     report.keyFields = u"ItemID;WarehouseID"_s;
     report.layout.columns = balanceColumns();
@@ -140,8 +121,9 @@ ReportDescription byGLAccountItem()
 {
     ReportDescription report = valueReport(u"TrptValueByGLAccountItem"_s,
                                            ReportsTexts::tr("Value by GL Account /Item"), {.location = true});
-    report.query = itemQuery(u", I.InventoryGLAccountID, T.CostingMethod, G.GLAccount, G.AccountName"_s,
-                             withTypes + withAccounts);
+    report.query =
+        BalanceLines::byItem(itemCosts + u", I.InventoryGLAccountID, T.CostingMethod, G.GLAccount, G.AccountName"_s,
+                             BalanceLines::withTypes() + withAccounts);
     report.order = {u"G.GLAccount"_s, u"I.InventoryGLAccountID"_s, u"I.ItemNo"_s};
     report.layout.columns = itemColumns();
     report.layout.groups = {

@@ -7,11 +7,9 @@
 #include "master/screens/dialerinv.h"
 #include "master/screens/itemsearchinv.h"
 #include "master/screens/masterlistscreen.h"
-#include "master/screens/masterscreens.h"
 #include "master/screens/vcontact.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
-#include "transactions/documentkinds.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>
@@ -166,26 +164,7 @@ TEST_F(FormsTest, WhatTheFormsNameExists)
 // A screen also refuses to open when a widget names a field that its table does not have.
 TEST_F(FormsTest, NothingIsClipped)
 {
-    QStringList names =
-        u"frmCompany FormEnterInventory frmInvTotals frmInvHistory FormBlankInventoryReportSelection "
-        "frmInvReports"_s.split(u' ');
-    for (const MasterScreen &screen : masterScreens())
-        names << screen.kind.list.screen;
-    for (const DocumentKind *kind : DocumentKinds::all())
-        names << kind->listScreen << kind->postScreen;
-    for (const QString &name : names) {
-        SCOPED_TRACE(qPrintable(name));
-        QWidget *window = screens.find(name)->create(over.context, &mainWindow);
-        expectFit(*window);
-        if (auto *list = qobject_cast<RecordListScreen *>(window)) {
-            list->btnNewClick();
-            expectFit(*static_cast<QWidget *>(mainWindow.children().constLast()));
-        }
-        for (const QString &command : {u"mnuFilter"_s, u"mnuFind"_s}) {
-            if (auto *action = window->findChild<QAction *>(command))
-                whileOpen<QDialog>([&] { action->trigger(); }, [&](QDialog &dialog) { expectFit(dialog); });
-        }
-    }
+    forEachScreen(over.context, mainWindow, [this](QWidget &window) { expectFit(window); });
     TFormRegistryEditor settings(over.company.settings, over.company.prompts);
     TFormAboutTallymereSystem about;
     TFormTallymereSystem system(FrameServices{over.company.settings, over.company.prompts, screens});

@@ -1,6 +1,8 @@
 #include "tests/frame/testcompany.h"
 
+#include "controls/recordlistscreen.h"
 #include "host/tables/hosttables.h"
+#include "tests/support/screendriver.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -21,4 +23,21 @@ TestContext::TestContext()
     , lookups(data.databaseTallymere())
     , context{.data = data, .lookups = lookups, .prompts = company.prompts}
 {
+}
+
+void forEachScreen(ScreenContext &context, QWidget &owner, const std::function<void(QWidget &window)> &visit)
+{
+    const ScreenRegistry screens = productScreens();
+    for (const QString &name : screens.names()) {
+        SCOPED_TRACE(qPrintable(name));
+        QWidget *window = screens.find(name)->create(context, &owner);
+        visit(*window);
+        if (auto *list = qobject_cast<RecordListScreen *>(window)) {
+            list->btnNewClick();
+            visit(*static_cast<QWidget *>(owner.children().constLast()));
+        }
+        for (const QString &command : {u"mnuFilter"_s, u"mnuFind"_s})
+            if (auto *action = window->findChild<QAction *>(command))
+                whileOpen<QDialog>([&] { action->trigger(); }, visit);
+    }
 }

@@ -37,6 +37,11 @@ public:
     Tallymere::ScreenContext context;
 };
 
+// Makes every screen of the product in a window of its own below the owner, and from each list a new record and the dialogs
+// that it has; hands each window to the visit.
+void forEachScreen(Tallymere::ScreenContext &context, QWidget &owner,
+                   const std::function<void(QWidget &window)> &visit);
+
 // A screen that can be made and nothing more.
 inline Tallymere::ScreenKind plainScreen(std::function<QWidget *(Tallymere::ScreenContext &, QWidget *)> create =
                                              [](Tallymere::ScreenContext &, QWidget *parent) {
