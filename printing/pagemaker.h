@@ -1,10 +1,9 @@
 #pragma once
 
+#include "printing/linelayout.h"
 #include "printing/paper.h"
-#include "printing/reportlines.h"
 
 #include <functional>
-#include <optional>
 
 namespace Tallymere::Printing {
 
@@ -30,13 +29,6 @@ public:
     void finish(); // the last page; a report without lines has one, which says so
 
 private:
-    // A line with its texts, measured from its upper edge.
-    struct LaidLine
-    {
-        double height = 0;
-        QList<TextItem> texts{};
-        QList<Fill> fills{};
-    };
     // Lines that must not be parted.
     struct Block
     {
@@ -44,33 +36,8 @@ private:
         QStringList continued{}; // the groups that it goes on with
         bool newPage = false;
     };
-    struct PlacedColumn
-    {
-        const Column *column;
-        int field;
-        int openingField;
-        double left;
-        double width;
-        double fraction; // room right of the decimal point
-    };
-
-    void placeColumns();
-    LaidLine layOut(const ReportLine &line) const;
-    LaidLine cells(const ReportLine &line) const;
-    LaidLine groupHeading(const ReportLine &line) const;
-    LaidLine total(const ReportLine &line) const;
-    void addCell(LaidLine &line, const PlacedColumn &place, const QString &text, TextStyle style) const;
-    void addBarcode(LaidLine &line, const PlacedColumn &place, const QString &text, const QRectF &room) const;
-    static void stretchRow(LaidLine &row, double least);
-    void addContents(LaidLine &line, const QStringList &texts) const;
-    static void moveDown(LaidLine &line, double by); // within it
-    static void addText(LaidLine &line, double x, double y, TextStyle style, const QString &text, double room);
-    QString groupName(int group, const ReportLine &line) const;
-    QString cellText(const PlacedColumn &place, const ReportLine &line) const;
-
     void place(const Block &block);
     void placeInParts(LaidLine line);
-    static LaidLine takeTop(LaidLine &line, double room); // what fits; leaves the rest
     void placeLine(const LaidLine &line);
     void beginPage(const QStringList &continued);
     void addContinued(QStringList names);
@@ -78,19 +45,15 @@ private:
     void addTitle();
     void addRunningTitle();
     void addLinesToFillIn();
-    void addColumnTitles();
-    static double titleRight(const PlacedColumn &place);
     void rule(double y, double thickness, double left, double right);
 
     const ReportLayout &m_layout;
-    const ReportLines &m_lines;
-    Paper m_paper;
     PageTexts m_texts;
     TakePage m_takePage;
     QRectF m_area;
+    LineLayout m_lineLayout;
+    LaidLine m_columnTitles;
     double m_bottom = 0; // of what lines may take
-    std::vector<PlacedColumn> m_columns;
-    std::optional<LaidLine> m_columnTitles;
 
     Page m_page;
     double m_y = 0;
