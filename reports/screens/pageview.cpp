@@ -72,9 +72,15 @@ void PageView::goToPage(int page)
 {
     const int wanted = std::clamp(page, 1, std::max(1, pageCount()));
     verticalScrollBar()->setValue(pageTop(wanted - 1) - gap);
-    m_goneTo = wanted;
+    stayOn(wanted);
+}
+
+// The page is the current one for as long as nobody scrolls.
+void PageView::stayOn(int page)
+{
+    m_goneTo = page;
     m_goneToAt = verticalScrollBar()->value();
-    Q_EMIT pageShown(wanted);
+    Q_EMIT pageShown(page);
 }
 
 void PageView::updateBars()
@@ -95,14 +101,13 @@ void PageView::setZoom(int percent)
     percent = std::clamp(percent, leastZoom, mostZoom);
     if (percent == m_zoom)
         return;
-    const int index = currentPage() - 1;
-    const double within =
-        static_cast<double>(verticalScrollBar()->value() - pageTop(index)) / (pageSize().height() + gap);
+    const int page = currentPage();
+    const auto top = [this, page] { return pageTop(page - 1) - gap; };
+    const double within = static_cast<double>(verticalScrollBar()->value() - top()) / (pageSize().height() + gap);
     m_zoom = percent;
     updateBars();
-    verticalScrollBar()->setValue(pageTop(index) + qRound(within * (pageSize().height() + gap)));
-    m_goneTo = index + 1;
-    m_goneToAt = verticalScrollBar()->value();
+    verticalScrollBar()->setValue(top() + qRound(within * (pageSize().height() + gap)));
+    stayOn(page);
     viewport()->update();
 }
 

@@ -55,6 +55,7 @@ private:
     QRect pageRect(int index) const; // in the viewport
     const Printing::Page &page(int index) const;
     void paintHits(QPainter &painter, int index) const;
+    void stayOn(int page);
     void updateBars();
     void showHit();
 
