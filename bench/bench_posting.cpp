@@ -1,4 +1,4 @@
-// Posting of 100,000 lines of receipts, and of usage, against the same row changes by raw prepared statements: in the
+// Posting of 100,000 lines of receipts, of usage and of adjustments, against the same row changes by raw prepared statements: in the
 // file store three statements a line in one transaction with the same cache and everything else in memory, which is
 // the least that the changes cost; on the server statement by statement with a transaction for each document.
 // Either is a process of its own, measured from start to end: closing a file copies its log back, for both alike.
@@ -10,6 +10,7 @@
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <QCoreApplication>
 #include <QProcess>
@@ -44,7 +45,9 @@ QString result(Engine::Database &database)
         + one(u"SELECT sum(QtyOnHand * ItemID * WarehouseID) FROM IBalance"_s) + u' '
         + one(u"SELECT round(sum(WgtAvgCost * ItemID) * 100) FROM Item"_s) + u' '
         + one(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s) + u' '
-        + one(u"SELECT count(*) FROM IUsage WHERE Posted = true"_s);
+        + one(u"SELECT count(*) FROM IUsage WHERE Posted = true"_s) + u' '
+        + one(u"SELECT count(*) FROM IAdjust WHERE Posted = true"_s) + u' '
+        + one(u"SELECT count(*) FROM IHist WHERE UnitCost IS NULL"_s);
 }
 
 struct Run
@@ -64,25 +67,42 @@ double postOurs(const Tallymere::DocumentKind &kind, const QStringList &place)
     return peakMemory() - before;
 }
 
-RawDocuments rawKind(const Tallymere::DocumentKind &kind)
+struct Measured
 {
-    return &kind == &Tallymere::DocumentKinds::usage() ? RawDocuments::Usage : RawDocuments::Receipts;
+    const Tallymere::DocumentKind &kind;
+    RawDocuments raw;
+    int BenchData::Size::*count;
+};
+
+const std::vector<Measured> &measured()
+{
+    using namespace Tallymere;
+    static const std::vector<Measured> kinds = {
+        {DocumentKinds::receipt(), RawDocuments::Receipts, &BenchData::Size::receipts},
+        {DocumentKinds::usage(), RawDocuments::Usage, &BenchData::Size::usages},
+        {DocumentKinds::adjustment(), RawDocuments::Adjustments, &BenchData::Size::adjustments}};
+    return kinds;
 }
 
-void postRaw(const Tallymere::DocumentKind &kind, const QStringList &place)
+const Measured &measured(const QString &name)
+{
+    return *std::ranges::find_if(measured(), [&](const Measured &one) { return one.kind.name == name; });
+}
+
+void postRaw(RawDocuments kind, const QStringList &place)
 {
     const auto post = place[0] == "local"_L1 ? postRawSqlite : postRawPostgres;
-    post(rawKind(kind), rawLocation(place));
+    post(kind, rawLocation(place));
 }
 
 // In the process that runProcess() starts: "post", whose posting, the kind's name, the place.
 int postOnce(const QStringList &words)
 {
-    const Tallymere::DocumentKind &kind = *Tallymere::DocumentKinds::find(words[2]);
+    const Measured &one = measured(words[2]);
     if (words[1] == "raw"_L1)
-        postRaw(kind, words.mid(3));
+        postRaw(one.raw, words.mid(3));
     else
-        std::printf("%f", postOurs(kind, words.mid(3)));
+        std::printf("%f", postOurs(one.kind, words.mid(3)));
     return 0;
 }
 
@@ -104,10 +124,11 @@ Run runProcess(const QString &whose, const Tallymere::DocumentKind &kind, const 
     return run;
 }
 
-void compare(const Tallymere::DocumentKind &kind, Store store, int history, int rounds)
+void compare(const Measured &one, Store store, int history, int rounds)
 {
+    const Tallymere::DocumentKind &kind = one.kind;
     BenchData::Size size;
-    (rawKind(kind) == RawDocuments::Usage ? size.usages : size.receipts) = documents;
+    size.*one.count = documents;
     size.history = history;
     const BenchData data(store, size);
     const int lines = documents * size.linesEach;
@@ -132,7 +153,7 @@ void compare(const Tallymere::DocumentKind &kind, Store store, int history, int 
     const double our = middle(ours, &Cost::wall);
     const double raw = middle(raws, &Cost::wall);
     std::printf(
-        "%-8s %-6s history %9d: ours %6.2f s (%6.0f lines/s, processor %5.2f s), raw %6.2f s (%6.0f lines/s, "
+        "%-11s %-6s history %9d: ours %6.2f s (%6.0f lines/s, processor %5.2f s), raw %6.2f s (%6.0f lines/s, "
         "processor %5.2f s), ours/raw %.2f, memory +%.0f MB\n",
         qPrintable(kind.name), storeName(store), history, our, lines / our, middle(ours, &Cost::processor), raw,
         lines / raw, middle(raws, &Cost::processor), our / raw, memory);
@@ -151,9 +172,9 @@ int main(int argc, char **argv)
     for (const Store store : {Store::Local, Store::Remote}) {
         if (!only.isEmpty() && only != QString::fromLatin1(storeName(store)).toLower())
             continue;
-        for (const auto *kind : {&Tallymere::DocumentKinds::receipt(), &Tallymere::DocumentKinds::usage()})
+        for (const Measured &one : measured())
             for (const int history : {0, 1'000'000})
-                compare(*kind, store, history, rounds);
+                compare(one, store, history, rounds);
     }
     return 0;
 }

@@ -88,6 +88,12 @@ void BenchData::fill(Engine::Database &database, const Size &size)
     insert(u"IUsageDet (UsageID, Seq, ItemID, Quantity, UnitCost)"_s,
            u"(i - 1) / %1 + 1, (i - 1) % %1 + 1, %2, i % 9 + 1, 1 + i % 500 * 0.01"_s.arg(size.linesEach).arg(item),
            size.usages * size.linesEach);
+    insert(u"IAdjust (AdjustmentID, AdjDescription, GLYear, GLPeriod, AdjDate, WarehouseID, Posted)"_s,
+           u"i, 'Adjusted ' || i, 2026, i % 12 + 1, '2026-03-14', i % %1 + 1, false"_s.arg(size.locations),
+           size.adjustments);
+    insert(u"IAdjDet (AdjustmentID, Seq, ItemID, Quantity)"_s,
+           u"(i - 1) / %1 + 1, (i - 1) % %1 + 1, %2, i % 9 - 4"_s.arg(size.linesEach).arg(item),
+           size.adjustments * size.linesEach);
     insert(u"IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
            "TransDescription, ReceiptID)"_s,
            u"%1, %2, 2025, i % 12 + 1, 3, '2025-03-14', i % 9 + 1, 1 + i % 500 * 0.01, 'Receipt: ' || i, i"_s.arg(

@@ -18,6 +18,7 @@ public:
         int vendors = 50;
         int receipts = 0; // unposted
         int usages = 0; // likewise
+        int adjustments = 0; // likewise
         int linesEach = 20;
         int history = 0; // rows posted earlier
     };

@@ -52,6 +52,18 @@ constexpr RawKind usageKind{
     "Inventory Usage No: ",
     false,
     -1};
+// Without costs, and by signed quantities.
+constexpr RawKind adjustmentKind{
+    "SELECT AdjustmentID, AdjDescription, GLYear, GLPeriod, AdjDate, WarehouseID, 0 FROM IAdjust "
+    "WHERE Posted = false ORDER BY AdjustmentID",
+    {"UPDATE IAdjust SET Posted = true WHERE AdjustmentID = $1"},
+    {"SELECT ItemID, Quantity, 0 FROM IAdjDet WHERE AdjustmentID = $1 ORDER BY Seq"},
+    {"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
+     "TransDescription, AdjustmentID) "
+     "VALUES ($1, $2, $3, $4, 1, $5, $6, NULLIF(CAST($7 AS double precision), 0), $8, $9)"},
+    "",
+    false,
+    1};
 constexpr Step sum{"SELECT sum(QtyOnHand) FROM IBalance WHERE ItemID = $1"};
 constexpr Step cost{"SELECT WgtAvgCost FROM Item WHERE ItemID = $1"};
 constexpr Step setCost{"UPDATE Item SET WgtAvgCost = $1 WHERE ItemID = $2"};
@@ -327,7 +339,17 @@ private:
     PGconn *m_link;
 };
 
-const RawKind &kindOf(RawDocuments documents) { return documents == RawDocuments::Usage ? usageKind : receiptKind; }
+const RawKind &kindOf(RawDocuments documents)
+{
+    switch (documents) {
+    case RawDocuments::Usage:
+        return usageKind;
+    case RawDocuments::Adjustments:
+        return adjustmentKind;
+    default:
+        return receiptKind;
+    }
+}
 
 } // namespace
 
