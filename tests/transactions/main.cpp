@@ -10,13 +10,13 @@ using namespace Tallymere;
 
 namespace {
 
-// Prints a line when so many documents have been posted, and stops there if it shall wait to be killed.
+// Of a kind (the first argument): prints a line when so many documents have been posted, and stops there if it shall wait to be killed.
 class ToldProgress final : public Progress
 {
 public:
     explicit ToldProgress(const QStringList &arguments)
-        : m_toldAt(arguments.value(0).toInt())
-        , m_waits(arguments.value(1) == "wait"_L1)
+        : m_toldAt(arguments.value(1).toInt())
+        , m_waits(arguments.value(2) == "wait"_L1)
     {
     }
     void start(int) override { }
@@ -41,8 +41,8 @@ void post(Engine::Database &database, const QStringList &arguments)
 {
     SpokenPrompts prompts;
     ToldProgress progress(arguments);
-    DocumentPosting posting(database, DocumentKinds::receipt());
-    posting.groupTime = std::chrono::milliseconds(arguments.value(1) == "wait"_L1 ? 0 : 20);
+    DocumentPosting posting(database, *DocumentKinds::find(arguments.value(0)));
+    posting.groupTime = std::chrono::milliseconds(arguments.value(2) == "wait"_L1 ? 0 : 20);
     posting.run(prompts, progress);
 }
 

@@ -1,6 +1,5 @@
-#include "tests/support/kitchen.h"
 #include "tests/support/otheruser.h"
-#include "transactions/documentkinds.h"
+#include "tests/transactions/documents.h"
 #include "transactions/documentposting.h"
 
 #include <random>
@@ -15,20 +14,27 @@ class Processes : public testing::TestWithParam<Store>
 };
 ON_BOTH_STORES(Processes);
 
-int receipts(Store store) { return store == Store::Local ? 2400 : 600; }
+int documents(Store store) { return store == Store::Local ? 1200 : 400; }
 constexpr int LinesEach = 10;
 
-void addManyReceipts(Kitchen &kitchen)
+void addMany(Kitchen &kitchen, const DocumentKind &kind)
 {
     std::mt19937 random(7);
     const auto upTo = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
+    kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s);
     Engine::Connection &connection = kitchen.database().connection();
     connection.begin();
-    for (int id = 1; id <= receipts(kitchen.store()); ++id) {
-        QList<Kitchen::Line> lines;
-        for (int i = 0; i < LinesEach; ++i)
-            lines.append({1 + upTo(3), 1.0 + upTo(9), 0.01 * (1 + upTo(500))});
-        kitchen.addReceipt(id, 1 + upTo(2), 1 + upTo(2), lines);
+    for (int id = 1; id <= documents(kitchen.store()); ++id) {
+        QList<Kitchen::Line> received;
+        QList<DocumentLine> lines;
+        for (int i = 0; i < LinesEach; ++i) {
+            received.append({1 + upTo(3), 1.0 + upTo(9), 0.01 * (1 + upTo(500))});
+            lines.append({received.last().item, QString::number(received.last().quantity), u"1.5"_s});
+        }
+        if (&kind == &DocumentKinds::receipt())
+            kitchen.addReceipt(id, 1 + upTo(2), 1 + upTo(2), received);
+        else
+            addDocument(kitchen, kind, id, 1 + upTo(2), lines);
     }
     connection.commit();
 }
@@ -39,54 +45,65 @@ QStringList stock(Kitchen &kitchen)
         + kitchen.rows(u"SELECT ItemID, WgtAvgCost FROM Item ORDER BY 1"_s);
 }
 
-double postedReceipts(Kitchen &kitchen)
+double posted(Kitchen &kitchen, const DocumentKind &kind)
 {
-    return kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s);
+    return kitchen.number(u"SELECT count(*) FROM %1 WHERE Posted = true"_s.arg(kind.headerTable));
 }
 
-// Every receipt has all of its lines in the history or none, as its flag says, and the balances say the same.
-void expectWholeDocuments(Kitchen &kitchen)
+// Every document has all of its lines in the history or none, as its flag says, and the balances say the same.
+void expectWholeDocuments(Kitchen &kitchen, const DocumentKind &kind)
 {
+    EXPECT_EQ(kitchen.rows(u"SELECT I.%1 FROM %2 I LEFT OUTER JOIN (SELECT %1, count(*) AS Lines "
+                           "FROM IHist GROUP BY %1) H ON I.%1 = H.%1 "
+                           "WHERE coalesce(Lines, 0) <> CASE WHEN I.Posted = true THEN %3 ELSE 0 END"_s
+                               .arg(kind.keyField, kind.headerTable)
+                               .arg(LinesEach)),
+              QStringList());
+    const QString sign = &kind == &DocumentKinds::usage() ? u"-"_s : QString();
     EXPECT_EQ(
-        kitchen.rows(u"SELECT I.ReceiptID FROM IReceipt I LEFT OUTER JOIN (SELECT ReceiptID, count(*) AS Lines "
-                     "FROM IHist GROUP BY ReceiptID) H ON I.ReceiptID = H.ReceiptID "
-                     "WHERE coalesce(Lines, 0) <> CASE WHEN I.Posted = true THEN %1 ELSE 0 END"_s.arg(LinesEach)),
-        QStringList());
-    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, WarehouseID, sum(Quantity) FROM IHist GROUP BY 1, 2 ORDER BY 1, 2"_s),
-              kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s));
+        kitchen.rows(
+            u"SELECT ItemID, WarehouseID, %1sum(Quantity) FROM IHist GROUP BY 1, 2 ORDER BY 1, 2"_s.arg(sign)),
+        kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s));
+}
+
+void killPosters(Store store, const DocumentKind &kind)
+{
+    SCOPED_TRACE(qPrintable(kind.name));
+    Kitchen kitchen(store);
+    addMany(kitchen, kind);
+    Kitchen undisturbed(store);
+    addMany(undisturbed, kind);
+    SpokenPrompts prompts;
+    CountedProgress progress;
+    ASSERT_TRUE(DocumentPosting(undisturbed.database(), kind).run(prompts, progress));
+
+    // First between two statements, where the poster waits for it; then wherever it has come to meanwhile.
+    std::mt19937 random(11);
+    for (const QString &then : {u"wait"_s, u"wait"_s, u"go on"_s, u"go on"_s, u"go on"_s}) {
+        const auto steps = 1 + static_cast<int>(random() % static_cast<unsigned>(documents(store) / 20));
+        const double before = posted(kitchen, kind);
+        OtherUser poster(kitchen, {u"post"_s, kind.name, QString::number(steps), then});
+        EXPECT_TRUE(poster.saysLine() || then == "go on"_L1);
+        poster.kill();
+        kitchen.expectNoLocks();
+        expectWholeDocuments(kitchen, kind);
+        if (then == "wait"_L1) { // where each document is a group
+            EXPECT_EQ(posted(kitchen, kind), before + steps);
+        }
+    }
+
+    OtherUser poster(kitchen, {u"post"_s, kind.name});
+    EXPECT_TRUE(poster.finish());
+
+    expectWholeDocuments(kitchen, kind);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), documents(store) * LinesEach);
+    EXPECT_EQ(stock(kitchen), stock(undisturbed));
 }
 
 TEST_P(Processes, KillingAPosterLeavesWholeDocumentsAndNothingIsLostOrDoubled)
 {
-    Kitchen kitchen(GetParam());
-    addManyReceipts(kitchen);
-    Kitchen undisturbed(GetParam());
-    addManyReceipts(undisturbed);
-    SpokenPrompts prompts;
-    CountedProgress progress;
-    ASSERT_TRUE(DocumentPosting(undisturbed.database(), DocumentKinds::receipt()).run(prompts, progress));
-
-    // First between two statements, where the poster waits for it; then wherever it has come to meanwhile.
-    std::mt19937 random(11);
-    for (const QString &then : {u"wait"_s, u"wait"_s, u"wait"_s, u"go on"_s, u"go on"_s, u"go on"_s}) {
-        const auto steps = 1 + static_cast<int>(random() % static_cast<unsigned>(receipts(GetParam()) / 20));
-        const double before = postedReceipts(kitchen);
-        OtherUser poster(kitchen, {u"post"_s, QString::number(steps), then});
-        EXPECT_TRUE(poster.saysLine() || then == "go on"_L1);
-        poster.kill();
-        kitchen.expectNoLocks();
-        expectWholeDocuments(kitchen);
-        if (then == "wait"_L1) { // where each document is a group
-            EXPECT_EQ(postedReceipts(kitchen), before + steps);
-        }
-    }
-
-    OtherUser poster(kitchen, {u"post"_s});
-    EXPECT_TRUE(poster.finish());
-
-    expectWholeDocuments(kitchen);
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), receipts(GetParam()) * LinesEach);
-    EXPECT_EQ(stock(kitchen), stock(undisturbed));
+    for (const DocumentKind *kind : DocumentKinds::all())
+        killPosters(GetParam(), *kind);
 }
 
 } // namespace
