@@ -3,8 +3,6 @@
 #include "base/formats.h"
 #include "reports/texts.h"
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 using Engine::Value;
 using Tallymere::Printing::Align;
@@ -30,18 +28,6 @@ Column money(const QString &field, const QString &title, double width, int mostD
     };
     column.fraction = RegionalSettings::system().decimalPoint + fraction;
     return column;
-}
-
-// To the fifteen digits that a floating value is sure of, so that sums show no dust; without an exponent as long as that
-// is readable.
-QString quantityText(double value)
-{
-    constexpr int sureDigits = 15;
-    const double shown = QString::number(value, 'g', sureDigits).toDouble();
-    if (shown == 0)
-        return u"0"_s;
-    const double size = std::abs(shown);
-    return QString::number(shown, size >= 1e-9 && size < 1e16 ? 'f' : 'g', QLocale::FloatingPointShortest);
 }
 
 } // namespace
@@ -82,10 +68,7 @@ Column mark(const QString &field, const QString &title)
 Column quantity(const QString &field, const QString &title)
 {
     Column column{field, title.isEmpty() ? ReportsTexts::tr("Quantity") : title, 1.15, Align::Decimal};
-    column.display = [](const Value &value) {
-        static const RegionalSettings settings = RegionalSettings::system();
-        return value.isNull() ? QString() : quantityText(value.toDouble()).replace(u'.', settings.decimalPoint);
-    };
+    column.display = quantityFormat().display;
     column.fraction = RegionalSettings::system().decimalPoint + u"000"_s;
     return column;
 }
