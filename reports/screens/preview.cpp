@@ -82,7 +82,8 @@ void TfrmPreview::connectControls()
     });
     m_ui->btnFindNext->setShortcut(Qt::Key_F3);
     m_ui->btnFindPrior->setShortcut(Qt::SHIFT | Qt::Key_F3);
-    m_ui->btnPrint->setShortcut(QKeySequence::Print);
+    // A shortcut of the button itself would take the place of its underlined letter.
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_ui->btnPrint, &QPushButton::click);
     connectGuarded(m_ui->btnFindNext, &QToolButton::clicked, this, [](TfrmPreview *self) { self->find(true); });
     connectGuarded(m_ui->btnFindPrior, &QToolButton::clicked, this, [](TfrmPreview *self) { self->find(false); });
 
