@@ -11,10 +11,23 @@
 
 namespace Tallymere::Printing {
 
+namespace {
+
+// One after the other: a layout as a whole is refused by a printer that cannot print up to the edge. The sheet is as the
+// printer has it where it knows no such size.
+void setPaper(QPrinter &printer, const QPageSize &size, QPageLayout::Orientation orientation)
+{
+    printer.setFullPage(true); // pages bring their own margins
+    printer.setPageSize(size);
+    printer.setPageOrientation(orientation);
+}
+
+} // namespace
+
 void preparePrinter(const ReportRun &run, QPrinter &printer)
 {
     printer.setDocName(run.title());
-    printer.setPageLayout(run.paper().layout());
+    setPaper(printer, QPageSize(run.paper().size), run.paper().orientation);
 }
 
 void printReport(const ReportRun &run, QPrinter &printer, Progress &progress)
@@ -28,9 +41,7 @@ void printReport(const ReportRun &run, QPrinter &printer, Progress &progress)
     if (printer.pageOrder() == QPrinter::LastPageFirst)
         std::swap(from, to);
     // The sheet is the user's choice, its orientation the report's.
-    QPageLayout layout = run.paper().layout();
-    layout.setPageSize(printer.pageLayout().pageSize());
-    printer.setPageLayout(layout);
+    setPaper(printer, printer.pageLayout().pageSize(), run.paper().orientation);
     paintPages(run, printer, printer.resolution(), from, to, progress);
     if (printer.outputFormat() == QPrinter::PdfFormat) // a file
         return;
