@@ -28,6 +28,18 @@ void selectText(QWidget *widget)
         edit->selectAll();
 }
 
+// The user has been told that nothing will come of it, as in a posted document.
+bool isFinal(const std::exception_ptr &failure)
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (const SilentAbort &) {
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
 } // namespace
 
 FieldBinder::FieldBinder(QWidget *form, const Guard &guard)
@@ -194,15 +206,16 @@ void FieldBinder::leave(FieldBinding &binding)
     m_refusing = true;
     QWidget *widget = binding.widget();
     const QString column = binding.field().name;
+    // A choice is refused as a whole; a typed text stays to be mended, typed over or tried again.
+    const bool stays = widget->inherits("QLineEdit") && !isFinal(failure);
     QMetaObject::invokeMethod(
         this,
-        [this, widget, column, failure] {
+        [this, widget, column, failure, stays] {
             m_guard.focus(column); // on a page that may be behind others by now
             widget->setFocus();
             m_guard.report(failure);
             m_refusing = false;
-            // A choice is refused as a whole; a typed text stays to be mended or typed over.
-            if (widget->inherits("QLineEdit"))
+            if (stays)
                 selectText(widget);
             else
                 revert(widget);

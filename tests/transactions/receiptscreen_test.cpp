@@ -194,8 +194,13 @@ TEST_F(ReceiptScreenTest, typedVendorNumberTouchesTheReceiptWhenItIsTakenOver)
 TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
-    kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s);
     open(7);
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s); // by another user, unseen so far
+    type("V2");
+    press(Qt::Key_Tab);
+    settle();
+    EXPECT_EQ(prompts.take().size(), 1);
+    EXPECT_EQ(child<QLineEdit>(*screen, "editVendorNo")->text(), u"V1"_s);
     EXPECT_TRUE(child<QLabel>(*screen, "lblPosted")->isVisible());
     EXPECT_TRUE(child<QLineEdit>(*screen, "editVendorNo")->isReadOnly());
     EXPECT_FALSE(child<QAction>(*screen, "mnuNewLine")->isEnabled());
