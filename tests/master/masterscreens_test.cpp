@@ -5,14 +5,13 @@
 #include "master/screens/masterscreens.h"
 #include "tests/support/screentest.h"
 
-#include <QImage>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-const QString strangeName = u"O'N \"5%\" [é;] 🍮"_s;
+const QString strangeName = u"O'N \"5%\" [*] 🍮"_s;
+const QString strangeTitle = u"O'N \"5%\" [*][*] 🍮"_s; // no mark of changes
 
 // A list whose records are entered on one page and consist of a name and little else.
 struct Plain
@@ -119,7 +118,7 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
         EXPECT_TRUE(record->isVisible());
         EXPECT_EQ(focusName(), plain.nameBox);
         type(strangeName);
-        EXPECT_EQ(record->windowTitle(), strangeName) << "while it is typed";
+        EXPECT_EQ(record->windowTitle(), strangeTitle) << "while it is typed";
         press(Qt::Key_Return);
         for (const auto &[field, text] : plain.entries) {
             child<QWidget>(*record, field)->setFocus();
@@ -135,23 +134,28 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
 
         // opened again and left untouched, then changed
         openAgain(plain.kind);
-        EXPECT_EQ(record->windowTitle(), strangeName);
+        EXPECT_EQ(record->windowTitle(), strangeTitle);
         press(Qt::Key_Escape);
         settle();
         EXPECT_FALSE(record);
         EXPECT_EQ(prompts.take(), QStringList());
         openAgain(plain.kind);
         type("Zz<Esc>");
-        EXPECT_EQ(record->windowTitle(), strangeName) << "taken back";
+        EXPECT_EQ(record->windowTitle(), strangeTitle) << "taken back";
         type("Zz");
-        prompts.answer = Answer::Cancel;
-        record->close();
-        EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s));
+        const auto closeWith = [this](Answer answer) {
+            prompts.answer = answer;
+            record->close();
+            settle();
+            EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s));
+        };
+        closeWith(Answer::Cancel);
         EXPECT_TRUE(record->isVisible());
-        prompts.answer = Answer::Yes;
-        record->close();
-        settle();
-        EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s));
+        closeWith(Answer::No);
+        EXPECT_EQ(currentRow(), QStringList(strangeName) + plain.shown);
+        openAgain(plain.kind);
+        type("Zz");
+        closeWith(Answer::Yes);
         EXPECT_EQ(currentRow(), QStringList(u"Zz"_s) + plain.shown);
 
         // deleted, with its screen
@@ -167,45 +171,7 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
     }
 }
 
-// With the mouse in hand as well.
-TEST_F(MasterScreens, MarkTheBoxThatAMessageIsAbout)
-{
-    openList(MasterKinds::bank());
-    click(*list, "btnNew");
-    takeRecord(MasterKinds::bank());
-    auto *currency = child<QWidget>(*record, "cboCurrency");
-    type("Savings");
-    const QImage before = currency->grab().toImage();
-    QTest::mouseClick(child<QPushButton>(*record, "btnOK"), Qt::LeftButton);
-    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Currency' must have a value"_s});
-    EXPECT_EQ(focusName(), u"cboCurrency"_s);
-    EXPECT_NE(currency->grab().toImage(), before);
-}
-
-TEST_F(MasterScreens, DropOrKeepWhatIsNew)
-{
-    openList(MasterKinds::location());
-    click(*list, "btnNew");
-    takeRecord(MasterKinds::location());
-    record->close();
-    settle();
-    EXPECT_FALSE(record) << "nobody has touched it";
-    EXPECT_EQ(prompts.take(), QStringList());
-
-    click(*list, "btnNew");
-    takeRecord(MasterKinds::location());
-    type("Z[*]");
-    EXPECT_EQ(record->windowTitle(), u"Z[*][*]") << "no mark of changes";
-    prompts.answer = Answer::No;
-    record->close();
-    settle();
-    EXPECT_FALSE(record);
-    EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s));
-    list->refreshList();
-    EXPECT_EQ(grid->model()->rowCount(), 2);
-}
-
-TEST_F(MasterScreens, ChooseACostingMethodForStockedTypesOnly)
+TEST_F(MasterScreens, ChooseACostingMethodForStockedTypesAndKeepThoseOfTheSystem)
 {
     openList(MasterKinds::itemType());
     ASSERT_TRUE(list->moveToKey(6));
@@ -217,6 +183,9 @@ TEST_F(MasterScreens, ChooseACostingMethodForStockedTypesOnly)
         EXPECT_EQ(method->isEnabled(), stocked);
         inventory->click();
     }
+    click(*list, "btnDelete");
+    EXPECT_EQ(prompts.take(), QStringList{u"warn: System-defined Item Types can't be deleted!"_s});
+    EXPECT_TRUE(list->moveToKey(6));
 }
 
 // Whatever somebody else does to a record that is shown, the user is told and nothing of it is lost.
@@ -236,6 +205,9 @@ TEST_F(MasterScreens, TellOfOtherUsers)
     EXPECT_TRUE(prompts.take().first().startsWith("error: 'Far' is being edited by another user (anna"_L1));
     EXPECT_EQ(child<QLineEdit>(*record, "editCurrencyName")->text(), u"Far");
     EXPECT_EQ(record->windowTitle(), u"Far");
+    click(*list, "btnDelete");
+    EXPECT_EQ(prompts.said.size(), 2);
+    EXPECT_TRUE(prompts.take().last().startsWith("error: 'Far' is being edited by another user (anna"_L1));
     theirs.table().set(u"ExchangeRate", 0.5);
     theirs.save();
 

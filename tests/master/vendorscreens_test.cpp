@@ -19,17 +19,13 @@ protected:
         kitchen.execute(uR"(
             UPDATE Vendor SET Phone = '555-1234', EMail = 'a&b?@first.example', WebPage = 'first.example'
                 WHERE VendorID = 1;
-            INSERT INTO VBalance (VendorID, Balance) VALUES (2, 1234.5);
             INSERT INTO VContact (VendorID, ContactID, FirstName, LastName, BusinessPhone, EMail)
                 VALUES (1, 7, 'Mary', 'Cole', '555-7', 'mary@first.example'), (1, 8, 'Otto', 'Berg', NULL, NULL);
         )"_s);
         context->openObject = [this](const QString &address) { opened << address; };
         list = new TfrmVendors(*context, mainWindow.get());
-        grid = child<QTableView>(*list, "DBGrid1");
         showActive(*list);
     }
-
-    QString current() { return list->dataSet().text(u"VendorNo"); }
 
     // The card that the list opens on a vendor; 0 for a new one.
     TfrmVendor &open(int key = 0)
@@ -72,7 +68,6 @@ protected:
 
     QStringList opened; // by the desktop
     QPointer<TfrmVendors> list;
-    QTableView *grid = nullptr;
     QPointer<TfrmVendor> card;
 };
 
@@ -88,9 +83,7 @@ TEST_F(VendorScreensTest, newVendorIsSavedBeforeItsContacts)
     enter(*card, "DBGrid1");
     prompts.ok = false;
     click(*card, "btnNew");
-    EXPECT_EQ(prompts.said.size(), 1);
-    EXPECT_TRUE(
-        prompts.take().first().endsWith(u"New vendor must be saved before entering contacts...\nSave now?"_s));
+    EXPECT_TRUE(prompts.take().value(0).endsWith(u"must be saved before entering contacts...\nSave now?"_s));
     EXPECT_EQ(contactCard(), nullptr);
     prompts.ok = true;
     click(*card, "btnNew");
@@ -100,7 +93,7 @@ TEST_F(VendorScreensTest, newVendorIsSavedBeforeItsContacts)
     type("V9");
     click(*card, "btnNew");
     EXPECT_EQ(prompts.take().size(), 1);
-    EXPECT_EQ(current(), u"V9"_s) << "in the list at once";
+    EXPECT_EQ(list->dataSet().text(u"VendorNo"), u"V9"_s) << "in the list at once";
 
     QPointer<TfrmVContact> contact = contactCard();
     ASSERT_NE(contact, nullptr);
@@ -122,7 +115,7 @@ TEST_F(VendorScreensTest, contactsAreEditedAndDeletedOnTheCard)
     type("<Down><Return>");
     QPointer<TfrmVContact> contact = contactCard();
     ASSERT_NE(contact, nullptr);
-    click(*card, "btnEdit");
+    child<QAction>(*card, "mnuEdit")->trigger();
     EXPECT_EQ(findScreen(u"frmVContact"_s), contact) << "its card is open already";
     fill(*contact, "editLastName", "Ams");
     click(*contact, "btnOK");
@@ -166,11 +159,6 @@ TEST_F(VendorScreensTest, buttonsReachWhatStandsBesideThem)
     EXPECT_EQ(dialed([&] { popup("mnuPhone")->trigger(); }), u"Phone 'Mary Cole'\nat 555-7"_s);
     popup("mnuEMail")->trigger();
     EXPECT_EQ(opened.last(), u"mailto:mary@first.example"_s);
-    popup("mnuEdit")->trigger();
-    TfrmVContact *contact = contactCard();
-    ASSERT_NE(contact, nullptr);
-    fill(*contact, "editPager", "77");
-    EXPECT_EQ(dialed([&] { click(*contact, "btnPager"); }), u"Phone 'Mary Cole'\nat 77"_s);
 
     context->openObject = {};
     TfrmVContact without(*context, mainWindow.get());
