@@ -47,58 +47,36 @@ protected:
 
 } // namespace
 
-TEST_P(OrganizationFields, YearsAreTypedInTwoDigits)
+TEST_P(OrganizationFields, YearsAreTypedInTwoDigitsAndPeriodsGoFrom1To12)
 {
-    const std::pair<QString, QString> subjects[] = {
-        {u"FiscalYear"_s, u"Current Fiscal Year"_s},      {u"DefaultPeriodYYYY"_s, u"Default Period"_s},
-        {u"WPeriodFromYYYY"_s, u"Warn Before Period"_s},  {u"WPeriodToYYYY"_s, u"Warn After Period"_s},
-        {u"EPeriodFromYYYY"_s, u"Error Before Period"_s}, {u"EPeriodToYYYY"_s, u"Error After Period"_s}};
-    for (const auto &[field, subject] : subjects) {
-        EXPECT_EQ(typed(field, u"2004"_s), subject + u" invalid...\nEnter year as 2 digits -> "_s + field);
-        EXPECT_EQ(typed(field, u"x4"_s), u"'x4' is not a whole number -> "_s + field);
-        EXPECT_EQ(typed(field, u"26"_s), u"2026"_s);
-        EXPECT_EQ(company.displayText(field), u"2026"_s);
-        EXPECT_EQ(company.field(field).editText(company.value(field)), u"26"_s);
+    for (const auto stem :
+         {"DefaultPeriod"_L1, "WPeriodFrom"_L1, "WPeriodTo"_L1, "EPeriodFrom"_L1, "EPeriodTo"_L1}) {
+        const QString year = stem + "YYYY"_L1;
+        EXPECT_TRUE(typed(year, u"2004"_s).endsWith(u" invalid...\nEnter year as 2 digits -> "_s + year));
+        EXPECT_EQ(typed(year, u"x4"_s), u"'x4' is not a whole number -> "_s + year);
+        EXPECT_EQ(typed(year, u"26"_s), u"2026"_s);
+        const QString period = stem + "PP"_L1;
+        EXPECT_EQ(typed(period, u"12"_s), u"12"_s);
+        EXPECT_TRUE(typed(period, u"13"_s).endsWith(u"The allowed range is 1 to 12 -> "_s + period));
+        EXPECT_NE(refusalOf([&] { company.set(period, 13); }), QString()) << "whatever sets it";
+        EXPECT_EQ(company.integer(period), 12) << "what was there before";
     }
     EXPECT_TRUE((typed(u"EPeriodToYYYY"_s, u""_s), company.value(u"EPeriodToYYYY").isNull()));
 }
 
-TEST_P(OrganizationFields, PeriodsGoFrom1To12)
-{
-    for (const auto stem :
-         {"DefaultPeriod"_L1, "WPeriodFrom"_L1, "WPeriodTo"_L1, "EPeriodFrom"_L1, "EPeriodTo"_L1}) {
-        const QString field = stem + "PP"_L1;
-        EXPECT_EQ(typed(field, u"12"_s), u"12"_s);
-        EXPECT_TRUE(typed(field, u"13"_s).endsWith(u"The allowed range is 1 to 12 -> "_s + field));
-        EXPECT_NE(refusalOf([&] { company.set(field, 13); }), QString());
-        EXPECT_EQ(company.integer(field), 12) << "what was there before";
-    }
-}
-
 TEST_P(OrganizationFields, NothingIsSavedWithoutNameAndFiscalYear)
 {
-    struct
-    {
-        QString name;
-        Engine::Value year;
-        QString refusal;
-    } const cases[] = {
-        {u""_s, 0, u"Field 'Company Name' must have a value -> CompanyName"_s},
-        {u"X"_s, {}, u"Fiscal Year must be between 1989 and 2050 -> FiscalYear"_s},
-        {u"X"_s, 1950, u"Fiscal Year must be between 1989 and 2050 -> FiscalYear"_s},
-        {u"X"_s, 1988, u"Fiscal Year must be between 1989 and 2050 -> FiscalYear"_s},
-        {u"X"_s, 2051, u"Fiscal Year must be between 1989 and 2050 -> FiscalYear"_s},
-        {u"X"_s, 1989, {}},
-        {u"X"_s, 2050, {}},
+    const std::tuple<QString, int, QString> cases[] = {
+        {u""_s, 0, u"CompanyName"_s},    {u"X"_s, 0, u"FiscalYear"_s}, {u"X"_s, 1988, u"FiscalYear"_s},
+        {u"X"_s, 2051, u"FiscalYear"_s}, {u"X"_s, 1989, {}},           {u"X"_s, 2050, {}},
     };
-    for (const auto &[name, year, refusal] : cases) {
+    for (const auto &[name, year, refused] : cases) {
         company.edit();
         company.set(u"CompanyName", name);
         company.set(u"FiscalYear", year);
-        EXPECT_EQ(refusalOf([&] { record.save(); }), refusal);
-        EXPECT_EQ(company.isEditing(), !refusal.isEmpty());
+        EXPECT_EQ(refusalOf([&] { record.save(); }).section(u" -> "_s, 1), refused);
+        EXPECT_EQ(company.isEditing(), !refused.isEmpty());
     }
-    EXPECT_EQ(kitchen.text(u"SELECT FiscalYear FROM Company"_s), u"2050"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(, OrganizationFields, testing::Values(Store::Local));
@@ -116,29 +94,6 @@ TEST_P(Organization, TheFirstRecordIsBegunOnceWithItsDefaults)
     EXPECT_EQ(kitchen.rows(u"SELECT CompanyNo, CompanyName, AddressLine1, ARInvoiceStyle, ARInvoiceCopies, "
                            "ApplicationVersion FROM Company WHERE ARInvoiceAustralia = false"_s),
               QStringList{u"1|Riverside Meals|12 Mill Lane|0|1|2.55"_s});
-}
-
-TEST_P(Organization, WhatOthersSaveIsReadAgainButNotOverAnEdit)
-{
-    const auto other = kitchen.anotherUser();
-    kitchen.session().lockAttempts = 1;
-    Engine::Table theirs(other->database, u"Company"_s);
-    theirs.open();
-    theirs.edit();
-    QString text;
-    EXPECT_EQ(errorOf([&] { company.edit(); }, &text), Engine::ErrorCode::RecordLocked);
-    EXPECT_TRUE(text.contains(u"Riverside Meals"_s)) << text.toStdString();
-    theirs.set(u"FiscalYear", 2027);
-    theirs.post();
-    readOrganization(record);
-    EXPECT_EQ(company.integer(u"FiscalYear"), 2027);
-
-    company.edit();
-    company.set(u"FiscalYear", 2030);
-    readOrganization(record);
-    EXPECT_TRUE(company.isEditing());
-    EXPECT_EQ(company.integer(u"FiscalYear"), 2030);
-    EXPECT_EQ(kitchen.number(u"SELECT FiscalYear FROM Company"_s), 2027);
 }
 
 TEST_P(Organization, TheYearEndMovesEverythingToTheFirstPeriodOfTheNextYear)
