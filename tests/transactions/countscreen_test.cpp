@@ -3,6 +3,7 @@
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
 
+#include <QAbstractItemView>
 #include <QHeaderView>
 
 using namespace Qt::StringLiterals;
@@ -220,6 +221,19 @@ TEST_F(CountScreenTest, StaysOpenWhenTheCountCannotBeKept)
     screen->close();
     settle();
     EXPECT_FALSE(screen);
+}
+
+TEST_F(CountScreenTest, KeysChooseTheLocationInTheOpenList)
+{
+    for (const char *key : {"<Down>", "o"}) {
+        locations->hidePopup();
+        locations->setFocus();
+        type(key);
+        EXPECT_TRUE(locations->view()->isVisible()) << key;
+        EXPECT_EQ(locations->currentIndex(), -1) << key << " opens no location yet";
+    }
+    QTest::keyClick(locations->view(), Qt::Key_Return);
+    EXPECT_EQ(rows().size(), 3) << "of the Office";
 }
 
 TEST_F(CountScreenTest, OpensALocationWithALongKey)

@@ -9,6 +9,7 @@
 #include "transactions/documentkinds.h"
 #include "ui_enterinventory.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QScopeGuard>
 #include <QShortcut>
@@ -237,15 +238,27 @@ bool TFormEnterInventory::takeKey(QKeyEvent *event)
     return true;
 }
 
-// The arrow keys and the wheel would open one location after the other.
+// The arrow keys, the wheel and each letter of a name would open one location after the other.
 bool TFormEnterInventory::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_ui->RzComboBoxLocation)
         return EntryScreen::eventFilter(watched, event);
-    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
-    if (key == Qt::Key_Up || key == Qt::Key_Down)
-        m_ui->RzComboBoxLocation->showPopup();
-    return key == Qt::Key_Up || key == Qt::Key_Down || event->type() == QEvent::Wheel;
+    if (event->type() != QEvent::KeyPress)
+        return event->type() == QEvent::Wheel;
+    return locationKey(static_cast<QKeyEvent &>(*event));
+}
+
+bool TFormEnterInventory::locationKey(QKeyEvent &key)
+{
+    const bool arrow = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
+    const bool letter = !key.text().isEmpty() && key.text().front().isLetterOrNumber()
+        && !(key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+    if (!arrow && !letter)
+        return false;
+    m_ui->RzComboBoxLocation->showPopup();
+    if (letter)
+        QCoreApplication::sendEvent(m_ui->RzComboBoxLocation->view(), &key);
+    return true;
 }
 
 bool TFormEnterInventory::focusColumn(const QString &)

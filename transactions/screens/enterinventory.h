@@ -44,6 +44,7 @@ private:
     void fillLocations();
     void closeList();
     void locationChosen(int index);
+    bool locationKey(QKeyEvent &key);
     void openLocation(int index);
     void offerDraft();
     void resume(const CountDraft &draft);
