@@ -107,9 +107,8 @@ void TfrmItemSearchInv::typeDescription(const QString &text)
 
 void TfrmItemSearchInv::noteFound(bool found)
 {
-    if (found)
-        m_missed = false;
-    else
+    m_missed = !found;
+    if (m_missed)
         QApplication::beep();
 }
 
@@ -135,7 +134,7 @@ bool TfrmItemSearchInv::takeTypeKey(const QKeyEvent &key)
 }
 
 // From a search box the arrow keys move in the list. Taking characters away moves nothing. Enter does not choose a row
-// that the text of the line has not led to.
+// that what is typed has not led to: only a beep has told of it.
 bool TfrmItemSearchInv::takeSearchKey(QKeyEvent &key)
 {
     m_erases = key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Delete || key.matches(QKeySequence::Cut);

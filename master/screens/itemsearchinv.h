@@ -43,7 +43,7 @@ private:
     ItemSearch m_search;
     QString m_typed; // before it opened: the beginning of a number, until typing goes on
     bool m_erases = false; // the key that changes a search box
-    bool m_missed = false; // nothing begins with what was typed before it opened
+    bool m_missed = false; // nothing begins with what was typed last
 };
 
 } // namespace Tallymere

@@ -16,6 +16,9 @@ TEST_F(ItemSearchScreen, FollowsWhatIsTyped)
     EXPECT_EQ(search.GetItemID(), 3);
     type("A11<Backspace>");
     EXPECT_EQ(search.GetItemID(), 2) << "taking a character away moves nothing";
+    type("7<Return>");
+    EXPECT_EQ(prompts.last(), u"error: Item not found"_s);
+    EXPECT_TRUE(search.isVisible()) << "no number goes on so: not an item that was not asked for";
     child<QLineEdit>(search, "editFindItemDescription")->setFocus();
     type("ap");
     EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
