@@ -11,14 +11,18 @@ using Engine::OrderedField;
 
 namespace {
 
+bool isPrinted(const QString &text)
+{
+    return !text.isEmpty() && (text.front().isPrint() || text.front().isSurrogate());
+}
+
 // Ctrl with Alt types letters on some keyboards.
 bool isTyped(const QKeyEvent &key)
 {
     const Qt::KeyboardModifiers modifiers = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     const bool command = modifiers == Qt::ControlModifier || modifiers == Qt::AltModifier
         || key.modifiers().testFlag(Qt::MetaModifier);
-    const QString text = key.text();
-    return !command && !text.isEmpty() && (text.front().isPrint() || text.front().isSurrogate());
+    return !command && isPrinted(key.text());
 }
 
 } // namespace
@@ -71,10 +75,11 @@ bool ListSearch::takeKey(const QKeyEvent &key)
     return true;
 }
 
-// No text begins with a blank, and the space bar means something else to a list.
+// No text begins with a blank, and the space bar means something else to a list. With Ctrl it arrives as a control
+// character on some platforms.
 void ListSearch::type(const QString &text)
 {
-    if (!m_model.dataSet().isOpen() || !column() || (!goesOn() && text.trimmed().isEmpty()))
+    if (!isPrinted(text) || !m_model.dataSet().isOpen() || !column() || (!goesOn() && text.trimmed().isEmpty()))
         return;
     m_text = goesOn() ? m_text + text : text;
     find();

@@ -72,7 +72,10 @@ void TfrmPreview::connectControls()
     connect(m_ui->SpinEdit1, &QSpinBox::valueChanged, m_ui->QRPreview1, &PageView::setZoom);
     connect(m_ui->QRPreview1, &PageView::zoomWanted, m_ui->SpinEdit1, &QSpinBox::setValue);
     connect(m_ui->btnFitWidth, &QPushButton::clicked, this, [this] { setZoom(m_ui->QRPreview1->zoomToWidth()); });
-    connect(m_ui->btnWholePage, &QPushButton::clicked, this, [this] { setZoom(m_ui->QRPreview1->zoomToPage()); });
+    connect(m_ui->btnWholePage, &QPushButton::clicked, this, [this] {
+        setZoom(m_ui->QRPreview1->zoomToPage());
+        m_ui->QRPreview1->goToPage(m_ui->QRPreview1->currentPage());
+    });
     connect(m_ui->QRPreview1, &PageView::pageShown, this, &TfrmPreview::showPageNumber);
 
     connect(m_ui->editFind, &QLineEdit::textChanged, m_ui->QRPreview1, &PageView::setSearched);
