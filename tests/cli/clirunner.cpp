@@ -62,6 +62,8 @@ std::unique_ptr<TestUser> CliRunner::anotherUser() const
     return other;
 }
 
+void CliRunner::execute(const QString &script) { anotherUser()->database.connection().execute(script); }
+
 std::unique_ptr<QProcess> CliRunner::start(const QStringList &words)
 {
     auto process = std::make_unique<QProcess>();
@@ -140,17 +142,15 @@ void makeSmallCompany(CliRunner &cli)
 {
     ASSERT_EQ(cli.run({u"init"_s}).status, 0);
     // A new database takes the current year; the tests' documents are of a fixed one.
-    cli.anotherUser()->database.connection().execute(u"UPDATE Company SET FiscalYear = 2026"_s);
-    ASSERT_EQ(cli.import(u"currencies"_s, "CurrencyName,ExchangeRate\nEuro,1.5\n").status, 0);
-    ASSERT_EQ(cli.import(u"types"_s, "TypeName,Inventory\nProduce,true\n").status, 0);
-    ASSERT_EQ(cli.import(u"items"_s,
-                         "ItemNo,ItemDescription,TypeName,Suspended\n"
-                         "A1,Apples,Produce,\nB2,\"Beans, dried\",Produce,false\nC3,Old,Produce,true\n")
-                  .status,
-              0);
-    ASSERT_EQ(cli.import(u"vendors"_s,
-                         "VendorNo,VendorName,CurrencyName,Suspended\n"
-                         "V1,Home,,\nV2,Abroad,Euro,\nV3,Closed,,true\n")
-                  .status,
-              0);
+    cli.execute(u"UPDATE Company SET FiscalYear = 2026"_s);
+    const std::pair<QString, QByteArray> files[] = {
+        {u"currencies"_s, "CurrencyName,ExchangeRate\nEuro,1.5\n"},
+        {u"types"_s, "TypeName,Inventory\nProduce,true\n"},
+        {u"items"_s,
+         "ItemNo,ItemDescription,TypeName,Suspended\n"
+         "A1,Apples,Produce,\nB2,\"Beans, dried\",Produce,false\nC3,Old,Produce,true\n"},
+        {u"vendors"_s,
+         "VendorNo,VendorName,CurrencyName,Suspended\nV1,Home,,\nV2,Abroad,Euro,\nV3,Closed,,true\n"}};
+    for (const auto &[kind, csv] : files)
+        ASSERT_EQ(cli.import(kind, csv).status, 0);
 }

@@ -39,6 +39,7 @@ public:
 
     QString folder() const { return m_folder.path(); } // of a local database
     std::unique_ptr<TestUser> anotherUser() const;
+    void execute(const QString &script); // SQL text as it stands
 
     // The rows of a list, each a field's value by name.
     QList<QHash<QString, QString>> list(const QStringList &words);

@@ -12,13 +12,11 @@ protected:
     CountCommand()
     {
         makeSmallCompany(cli);
-        execute("UPDATE ItemType SET Inventory = true, CostingMethod = 2; UPDATE Item SET StandardCost = 2");
-        execute("UPDATE Item SET Suspended = false WHERE Suspended IS NULL");
-        execute("INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) "
-                "SELECT ItemID, WarehouseID, 10 FROM Item, Warehse WHERE ItemNo = 'A1'");
+        cli.execute(u"UPDATE ItemType SET Inventory = true, CostingMethod = 2; UPDATE Item SET StandardCost = 2; "
+                    "UPDATE Item SET Suspended = false WHERE Suspended IS NULL; "
+                    "INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) "
+                    "SELECT ItemID, WarehouseID, 10 FROM Item, Warehse WHERE ItemNo = 'A1'"_s);
     }
-    void execute(const char *sql) { cli.anotherUser()->database.connection().execute(QString::fromUtf8(sql)); }
-
     CliResult count(const QByteArray &csv, const QStringList &more = {})
     {
         const QString date = QDate::currentDate().toString(Qt::ISODate);
@@ -37,7 +35,7 @@ TEST_P(CountCommand, WritesAUsageOfWhatDiffers)
     EXPECT_EQ(equal.status, 0) << equal;
     EXPECT_EQ(equal.output.trimmed(), u"no usage to be written"_s);
 
-    execute("UPDATE Item SET StandardCost = 0 WHERE ItemNo = 'B2'");
+    cli.execute(u"UPDATE Item SET StandardCost = 0 WHERE ItemNo = 'B2'"_s);
     const CliResult written = count("Quantity,ItemNo\n7.5,a1\n3,B2\n", {u"--include-zero"_s});
     EXPECT_EQ(written.status, 0) << written;
     EXPECT_TRUE(written.output.contains("written, 2 line(s)"_L1)) << written;
@@ -54,26 +52,22 @@ TEST_P(CountCommand, WritesAUsageOfWhatDiffers)
 
 TEST_P(CountCommand, RefusesWhatItCannotTake)
 {
-    execute("INSERT INTO Item (ItemID, ItemNo, Suspended) VALUES (90, 'E5', false)");
-    const std::pair<QByteArray, QStringList> files[] = {
-        {"ItemNo,Quantity\nA1,-1\nA1,\nB2,2\nC3,1\n,1\nA1,2\nA1,3\nA1,x\nD4,1\nE5,1\n",
-         {u"2: A quantity that has been counted cannot be below zero"_s,
-          u"3: A quantity is needed for the item 'A1'"_s,
-          u"4: The item 'B2' is not among those that are counted at this location"_s,
-          u"5: The item 'C3' has been suspended and is not counted"_s, u"6: An item number is needed"_s,
-          u"8: The item 'A1' has been counted in an earlier row"_s, u"9: Quantity 'x' is not a number"_s,
-          u"10: The item 'D4' was not found"_s,
-          u"11: The item 'E5' is of a type without inventory and is not counted"_s}},
-        {"ItemNo\nA1\n", {u"1: The column 'Quantity' is missing."_s}},
+    cli.execute(u"INSERT INTO Item (ItemID, ItemNo, Suspended) VALUES (90, 'E5', false)"_s);
+    const CliResult refused = count("ItemNo,Quantity\nA1,-1\nA1,\nB2,2\nC3,1\n,1\nA1,2\nA1,3\nA1,x\nD4,1\nE5,1\n");
+    EXPECT_EQ(refused.status, 1);
+    const QStringList messages = {
+        u"2: A quantity that has been counted cannot be below zero"_s,
+        u"3: A quantity is needed for the item 'A1'"_s,
+        u"4: The item 'B2' is not among those that are counted at this location"_s,
+        u"5: The item 'C3' has been suspended and is not counted"_s,
+        u"6: An item number is needed"_s,
+        u"8: The item 'A1' has been counted in an earlier row"_s,
+        u"9: Quantity 'x' is not a number"_s,
+        u"10: The item 'D4' was not found"_s,
+        u"11: The item 'E5' is of a type without inventory and is not counted"_s,
     };
-    for (const auto &[csv, messages] : files) {
-        const CliResult result = count(csv);
-        EXPECT_EQ(result.status, 1);
-        QStringList expected;
-        for (const QString &message : messages)
-            expected.append(u"count.csv:"_s + message);
-        EXPECT_EQ(result.errorLines(), expected << u"tallymere: Nothing was counted."_s);
-    }
+    EXPECT_EQ(refused.errors,
+              "count.csv:"_L1 + messages.join(u"\ncount.csv:"_s) + "\ntallymere: Nothing was counted.\n"_L1);
 
     const QDate today = QDate::currentDate();
     const std::tuple<QStringList, int, QString> orders[] = {

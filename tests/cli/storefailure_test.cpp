@@ -1,5 +1,4 @@
 #include "tests/cli/clirunner.h"
-#include "tests/support/smallfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,14 +6,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString largeItemFile(int count)
-{
-    QString text = u"ItemNo,ItemDescription,ItemTypeID\n"_s;
-    for (int i = 0; i < count; ++i)
-        text += u"X%1,Number %1 of a long list,1\n"_s.arg(i);
-    return text;
-}
 
 TEST(StoreFailure, ADatabaseThatCannotBeOpenedIsNamed)
 {
@@ -54,24 +45,6 @@ TEST(StoreFailure, AFileThatIsNoDatabaseStaysAsItIs)
     }
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), letter);
-}
-
-TEST(StoreFailure, OnAFullDiskNothingOfAnImportStays)
-{
-    CliRunner cli(Store::Local);
-    ASSERT_EQ(cli.run({u"init"_s}).status, 0);
-    ASSERT_EQ(cli.import(u"types"_s, "TypeName\nProduce\n").status, 0);
-    const QString file = cli.writeFile(u"items.csv"_s, largeItemFile(20'000).toUtf8());
-    {
-        const SmallFiles full(QFileInfo(cli.folder() + "/Corvane.sqlite"_L1).size()
-                              + 100'000); // of the program too
-        const CliResult result = cli.run({u"import"_s, u"items"_s, file});
-        EXPECT_EQ(result.status, 3);
-        EXPECT_TRUE(result.errors.contains("Corvane.sqlite"_L1)) << result;
-    }
-    EXPECT_EQ(cli.list({u"list"_s, u"items"_s}).size(), 0);
-    EXPECT_EQ(cli.run({u"import"_s, u"items"_s, file}).status, 0);
-    EXPECT_EQ(cli.list({u"list"_s, u"items"_s}).size(), 20'000);
 }
 
 TEST(StoreFailure, OutputThatCannotBeWrittenIsNoSuccess)

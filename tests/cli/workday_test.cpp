@@ -20,8 +20,8 @@ TEST_P(Workday, FromAnEmptyFolderToTotals)
     const CliResult imported = cli.import(u"receipts"_s,
                                           "VendorNo,WarehouseName,PurchaseOrderNo,ReceiptDate,GLYear,GLPeriod,"
                                           "ItemNo,QtyReceived,UnitCost\n"
-                                          "V1,Office,P1,2026-11-02,2026,11,A1,10,2\n"
-                                          "V1,Office,P1,2026-11-02,2026,11,B2,4,1.005\n"
+                                          "V1,Office,P1,2026-11-02,26,11,A1,10,2\n"
+                                          "V1,Office,P1,2026-11-02,26,11,B2,4,1.23456\n"
                                           "V2,Cold Room,,2026-11-03,2026,11,A1,5,2\n");
     EXPECT_EQ(imported.output, u"2 receipts imported\n"_s) << imported;
     EXPECT_EQ(cli.run({u"totals"_s}).rows().size(), 1); // nothing is in stock before posting
@@ -52,6 +52,8 @@ TEST_P(Workday, FromAnEmptyFolderToTotals)
     EXPECT_EQ(history[0][u"TransTypeName"_s], u"PO Receipt"_s);
     EXPECT_EQ(history[0][u"AdjustmentID"_s], QString());
     EXPECT_EQ(history[1][u"TransDescription"_s], u"Receipt: 1001   PO: P1"_s);
+    EXPECT_EQ(cli.column({u"history"_s, u"--filter"_s, u"(ItemID = 10001)"_s}, u"UnitCost"_s),
+              QStringList{u"1.2346"_s});
 
     const CliResult used = cli.import(u"usage"_s,
                                       "UsageNo,WarehouseName,ItemNo,Quantity,UnitCost\n"
@@ -62,6 +64,15 @@ TEST_P(Workday, FromAnEmptyFolderToTotals)
     EXPECT_EQ(cli.column({u"totals"_s}, u"QtyOnHand"_s), (QStringList{u"3"_s, u"7"_s, u"3.5"_s}));
     EXPECT_EQ(cli.column({u"history"_s, u"--filter"_s, u"(TransType = 5)"_s}, u"UnitCost"_s),
               (QStringList{u"2.33"_s, u"9"_s, u"2.33"_s}));
+
+    cli.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'North'); "
+                "INSERT INTO Items (Item_ID, Meal_Item, Billed_Amount, Meal) VALUES (5, 'Soup', 1.5, 'L')"_s);
+    EXPECT_EQ(cli.run({u"sync"_s, u"locations"_s}).output, u"1 location(s) added, 0 renamed\n"_s);
+    EXPECT_EQ(cli.run({u"sync"_s, u"items"_s}).output, u"1 item(s) added, 0 updated\n"_s);
+    cli.execute(u"UPDATE Items SET Billed_Amount = 2"_s);
+    EXPECT_EQ(cli.run({u"sync"_s, u"items"_s}).output, u"0 item(s) added, 1 updated\n"_s);
+    EXPECT_EQ(cli.column({u"list"_s, u"items"_s, u"--filter"_s, u"(ItemNo = '5')"_s}, u"UnitPrice"_s),
+              QStringList{u"2"_s});
 }
 
 TEST_P(Workday, WithoutAPlaceTheUsersSettingsDecide)
