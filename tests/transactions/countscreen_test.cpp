@@ -252,6 +252,7 @@ TEST_F(CountScreenTest, CalculatesNoCountThatIsAYearOld)
     auto *date = child<DatePicker>(*screen, "wwDBDateTimePickerInventoryDate");
     date->setDate(data->today().addDays(-365));
     EXPECT_FALSE(ok->isEnabled());
+    EXPECT_EQ(status(), u"The date is a year back or more: choose a later one"_s);
     date->setDate(data->today().addDays(-364));
     EXPECT_TRUE(ok->isEnabled());
     date->setDate(data->today().addDays(4));

@@ -286,10 +286,14 @@ void TFormEnterInventory::dateChosen()
     showStatus();
 }
 
+bool TFormEnterInventory::hasCountableDate() const
+{
+    return StockCount::isCountable(m_ui->wwDBDateTimePickerInventoryDate->date(), context().data.today());
+}
+
 bool TFormEnterInventory::isReady() const
 {
-    return !m_ui->RzComboBoxLocation->currentText().isEmpty()
-        && StockCount::isCountable(m_ui->wwDBDateTimePickerInventoryDate->date(), context().data.today());
+    return !m_ui->RzComboBoxLocation->currentText().isEmpty() && hasCountableDate();
 }
 
 void TFormEnterInventory::showReady() { m_ui->BitBtnOK->setEnabled(isReady()); }
@@ -311,6 +315,8 @@ QString TFormEnterInventory::statusText() const
 {
     if (!m_count.isOpen())
         return {};
+    if (!hasCountableDate())
+        return tr("The date is a year back or more: choose a later one");
     const CountList::Totals totals = m_count.list().totals();
     const QString text = tr("%1 of %2 counted, %3 differ, value of the difference %4")
                              .arg(QString::number(totals.counted), QString::number(m_count.list().size()),

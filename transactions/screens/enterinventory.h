@@ -58,6 +58,7 @@ private:
 
     void countItem(int item, std::optional<double> quantity);
     void dateChosen();
+    bool hasCountableDate() const;
     bool isReady() const;
     void showReady();
     void showList();
