@@ -11,6 +11,8 @@
 #include <QHelpLink>
 #include <QHelpSearchEngine>
 #include <QKeyEvent>
+#include <QShortcut>
+#include <QTabBar>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
@@ -41,13 +43,20 @@ HelpWindow::HelpWindow(std::unique_ptr<ManualCollection> manual, SettingsStore &
     connect(m_ui->btnForward, &QPushButton::clicked, browser, &QTextBrowser::forward);
     connect(m_ui->btnFirst, &QPushButton::clicked, this, [this] { showPage(m_manual->firstPage()); });
     connect(m_ui->btnClose, &QPushButton::clicked, this, &QWidget::close);
+    // The browser knows these keys only while it has the focus.
+    connect(new QShortcut(QKeySequence::Back, this), &QShortcut::activated, browser, &QTextBrowser::backward);
+    connect(new QShortcut(QKeySequence::Forward, this), &QShortcut::activated, browser, &QTextBrowser::forward);
     connect(browser, &QTextBrowser::backwardAvailable, m_ui->btnBack, &QWidget::setEnabled);
     connect(browser, &QTextBrowser::forwardAvailable, m_ui->btnForward, &QWidget::setEnabled);
+    connect(m_ui->tabs, &QTabWidget::currentChanged, this, [this] {
+        if (!m_ui->tabs->tabBar()->hasFocus()) // who goes along the tabs with the arrow keys stays on them
+            focusTab();
+    });
     m_ui->btnBack->setEnabled(false);
     m_ui->btnForward->setEnabled(false);
 
     resize(scaled(this, width()), scaled(this, height()));
-    const int contents = scaled(this, 250);
+    const int contents = scaled(this, 285);
     m_ui->splitter->setSizes({contents, width() - contents});
     m_ui->splitter->setStretchFactor(1, 1);
     qApp->installEventFilter(this);
@@ -57,6 +66,19 @@ HelpWindow::~HelpWindow()
 {
     // The pages and lists read from the collection, which goes before the base class would take them.
     delete m_ui->splitter;
+}
+
+// To the list or the field that the current tab is for; what is typed there replaces what was.
+void HelpWindow::focusTab()
+{
+    QWidget *tab = m_ui->tabs->currentWidget();
+    if (tab == m_ui->pageContents) {
+        m_manual->engine().contentWidget()->setFocus();
+        return;
+    }
+    QLineEdit *words = tab == m_ui->pageIndex ? m_ui->editIndex : m_ui->editSearch;
+    words->setFocus();
+    words->selectAll();
 }
 
 void HelpWindow::buildContents()
@@ -123,7 +145,7 @@ void HelpWindow::showContents()
 {
     showPage(m_ui->browser->source().isEmpty() ? m_manual->firstPage() : QUrl());
     m_ui->tabs->setCurrentWidget(m_ui->pageContents);
-    m_manual->engine().contentWidget()->setFocus();
+    focusTab();
 }
 
 void HelpWindow::search()
@@ -194,8 +216,7 @@ void HelpWindow::keyPressEvent(QKeyEvent *event)
         close();
     } else if (event->matches(QKeySequence::Find)) {
         m_ui->tabs->setCurrentWidget(m_ui->pageSearch);
-        m_ui->editSearch->setFocus();
-        m_ui->editSearch->selectAll();
+        focusTab();
     } else {
         QWidget::keyPressEvent(event);
     }

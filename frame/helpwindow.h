@@ -40,6 +40,7 @@ protected:
 
 private:
     void buildContents();
+    void focusTab();
     void buildIndex();
     void buildSearch();
     void search();

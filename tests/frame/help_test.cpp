@@ -119,4 +119,10 @@ TEST_F(HelpTest, SearchesTheWholeText)
     press(Qt::Key_Return);
     EXPECT_TRUE(page(system).source().path().endsWith("adjust.html"_L1));
     EXPECT_EQ(page(system).extraSelections().size(), 3); // one of them in a description to copy
+    type("<Alt+Left>"); // from the list of pages
+    EXPECT_EQ(page(system).source(), help.manual().firstPage());
+    type("<Alt+I>dial<Return>");
+    EXPECT_TRUE(page(system).source().path().endsWith("dialer.html"_L1));
+    type("<Alt+S>other");
+    EXPECT_EQ(words->text(), u"other"_s);
 }
