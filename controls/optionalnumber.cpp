@@ -1,5 +1,7 @@
 #include "controls/optionalnumber.h"
 
+#include "base/formats.h"
+
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QSpinBox>
@@ -28,6 +30,17 @@ public:
             setValue(m_start);
         else
             QSpinBox::stepBy(steps);
+    }
+
+    // A year may be typed with two digits, as everywhere.
+    void fixup(QString &input) const override
+    {
+        bool isNumber = false;
+        const std::optional<int> year = yearFromNumber(input.toInt(&isNumber));
+        if (isNumber && year && *year > minimum() && *year <= maximum())
+            input = QString::number(*year);
+        else
+            QSpinBox::fixup(input);
     }
 
 protected:

@@ -254,7 +254,7 @@ TEST_F(ListScreensTest, historyLeadsFromTotalsToTheDocument)
         EXPECT_EQ(dialog.GetWarehouseID(), 1);
         dialog.btnResetClick();
         child<QComboBox>(dialog, "cboTransType")->setCurrentIndex(2);
-        type("<Alt+Y>2026<Return>");
+        type("<Alt+Y>26<Return>");
     }));
     EXPECT_EQ(history.dataSet().filter(), u"(TransType = 5) AND (GLYear = 2026)"_s);
     EXPECT_EQ(rows(), 1);

@@ -2,6 +2,7 @@
 
 #include "controls/optionalnumber.h"
 #include "data/datamodule.h"
+#include "data/fiscalperiod.h"
 #include "data/transtypes.h"
 #include "transactions/historyview.h"
 
@@ -17,7 +18,7 @@ TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *pare
     , m_type(new QComboBox(this))
 {
     addTypes();
-    const QDate today = context.data.today();
+    const Period period = defaultPeriod(FiscalSettings::of(context.data.tblCompany()), context.data.today());
     m_year = addNumber(tr("&Year:"),
                        new OptionalNumber({.number = u"editYear"_s,
                                            .all = u"chkYearAll"_s,
@@ -25,7 +26,7 @@ TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *pare
                                            .allName = tr("All years"),
                                            .lowest = 1900,
                                            .highest = 2200,
-                                           .start = today.year()},
+                                           .start = period.year},
                                           this));
     m_period = addNumber(tr("&Period:"),
                          new OptionalNumber({.number = u"editPeriod"_s,
@@ -34,7 +35,7 @@ TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *pare
                                              .allName = tr("All periods"),
                                              .lowest = 1,
                                              .highest = 12,
-                                             .start = today.month()},
+                                             .start = period.number},
                                             this));
 }
 
