@@ -17,7 +17,8 @@ void listTopics(Console &console)
         width = std::max(width, topic.name.size());
     QStringList lines = {Texts::tr("Topics of the manual; 'tallymere help TOPIC' shows one:"), QString()};
     for (const ManualTopic &topic : manualTopics())
-        lines << "  "_L1 + topic.name.leftJustified(width + 2) + QString(2 * topic.level, u' ') + topic.title;
+        lines << "  "_L1 + topic.name.leftJustified(width + 2) + QString(qsizetype{2} * topic.level, u' ')
+                + topic.title;
     console.print(lines.join(u'\n'));
 }
 
