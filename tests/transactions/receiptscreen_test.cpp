@@ -201,6 +201,8 @@ TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
     settle();
     EXPECT_EQ(prompts.take().size(), 1);
     EXPECT_EQ(child<QLineEdit>(*screen, "editVendorNo")->text(), u"V1"_s);
+    type("V2");
+    EXPECT_EQ(prompts.take().size(), 2) << "a message for each key";
     EXPECT_TRUE(child<QLabel>(*screen, "lblPosted")->isVisible());
     EXPECT_TRUE(child<QLineEdit>(*screen, "editVendorNo")->isReadOnly());
     EXPECT_FALSE(child<QAction>(*screen, "mnuNewLine")->isEnabled());

@@ -37,15 +37,28 @@ void TfrmInvReceipt::showHeader()
     m_ui->editVendorNo->setReadOnly(entry().isPosted());
 }
 
-// With a vendor number typed, the list of vendors is passed over.
 bool TfrmInvReceipt::takeKey(QKeyEvent *event)
 {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && focusWidget() == m_ui->editVendorNo && !m_ui->editVendorNo->text().isEmpty()) {
+    if (focusWidget() == m_ui->editVendorNo && takeKeyOfVendorNo(*event))
+        return true;
+    return DocumentScreen::takeKey(event);
+}
+
+// With a vendor number typed, Enter passes over the list of vendors. The box of a posted receipt lets letters through,
+// and says what the other fields say.
+bool TfrmInvReceipt::takeKeyOfVendorNo(const QKeyEvent &event)
+{
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (enter && !m_ui->editVendorNo->text().isEmpty()) {
         m_ui->cboWarehouse->setFocus();
         return true;
     }
-    return DocumentScreen::takeKey(event);
+    const bool types = !event.text().isEmpty() && event.text().front().isPrint()
+        && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (!types || !entry().isPosted())
+        return false;
+    guard().run([this] { entry().header().edit(); });
+    return true;
 }
 
 } // namespace Tallymere

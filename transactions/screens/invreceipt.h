@@ -25,6 +25,7 @@ protected:
 
 private:
     ReceiptEntry &receipt() const;
+    bool takeKeyOfVendorNo(const QKeyEvent &event);
 
     std::unique_ptr<Ui::TfrmInvReceipt> m_ui;
 };
