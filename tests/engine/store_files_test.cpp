@@ -1,6 +1,6 @@
 #include "engine/lockmanager.h"
-#include "tests/engine/otherprogram.h"
 #include "tests/engine/storetest.h"
+#include "tests/support/otheruser.h"
 
 #include <QDir>
 
@@ -15,7 +15,7 @@ namespace {
 // What a program that opens the database now finds in it.
 QString contentOf(const QString &folder)
 {
-    return OtherProgram({u"local"_s, folder})
+    return OtherUser({u"local"_s, folder}, {u"obey"_s})
         .ask(u"rows SELECT a FROM T UNION ALL SELECT integrity_check FROM pragma_integrity_check"_s);
 }
 
@@ -76,7 +76,7 @@ TEST(LocalFiles, ADatabaseThatIsNoLongerAtItsPlaceTakesNoMoreWrites)
     for (const Loss &loss : losses) {
         SCOPED_TRACE(loss.name);
         Kitchen kitchen;
-        OtherProgram annas({u"local"_s, kitchen.folder});
+        OtherUser annas({u"local"_s, kitchen.folder}, {u"obey"_s});
         ASSERT_EQ(annas.ask(u"open T"_s), u"yes"_s);
         kitchen.shell(QString::fromLatin1(loss.command));
 
@@ -103,7 +103,7 @@ TEST(LocalFiles, TheOldLogTouchesNoReplacement)
             if (opened && loss.isOfLog)
                 continue; // what it held can be read by nobody who comes later
             Kitchen kitchen;
-            OtherProgram annas({u"local"_s, kitchen.folder});
+            OtherUser annas({u"local"_s, kitchen.folder}, {u"obey"_s});
             ASSERT_EQ(annas.ask(u"sql UPDATE T SET a = a"_s), u"yes"_s);
             kitchen.shell(QString::fromLatin1(loss.command));
             const QString place = kitchen.home.filePath(QString::fromLatin1(loss.place));
@@ -133,7 +133,7 @@ TEST(LocalFiles, LinksLeadToTheSameLocks)
         SCOPED_TRACE(link.name);
         Kitchen kitchen;
         kitchen.shell(QString::fromLatin1(link.command));
-        OtherProgram annas({u"local"_s, kitchen.home.filePath(u"other"_s)});
+        OtherUser annas({u"local"_s, kitchen.home.filePath(u"other"_s)}, {u"obey"_s});
         ASSERT_EQ(annas.ask(u"table T"_s), u"yes"_s);
         EXPECT_FALSE(kitchen.connection().locks().tryLockTable(u"T"_s));
         kitchen.shell(u"rm -r other && mkdir other && cp backup other/Corvane.sqlite"_s);

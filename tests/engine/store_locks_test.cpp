@@ -1,6 +1,6 @@
 #include "engine/lockmanager.h"
-#include "tests/engine/otherprogram.h"
 #include "tests/engine/storetest.h"
+#include "tests/support/otheruser.h"
 
 #include <chrono>
 #include <QSysInfo>
@@ -153,7 +153,7 @@ TEST_P(LocksTest, TheHolderIsNamed)
 
 TEST_P(LocksTest, AKilledProgramLeavesNoLockBehind)
 {
-    OtherProgram other(store);
+    OtherUser other(store, {u"obey"_s});
     ASSERT_EQ(other.ask(u"open Item"_s), u"yes"_s);
     ASSERT_EQ(other.ask(u"record Item 5"_s), u"yes"_s);
     ASSERT_EQ(other.ask(u"table Tax"_s), u"yes"_s);
@@ -173,7 +173,7 @@ TEST_P(LocksTest, AKilledProgramLeavesNoLockBehind)
 TEST_P(LocksTest, AProgramKilledWithinATransactionLeavesNothingBehind)
 {
     store.execute(u"CREATE TABLE T (a integer)"_s);
-    OtherProgram other(store);
+    OtherUser other(store, {u"obey"_s});
     ASSERT_EQ(other.ask(u"table T"_s), u"yes"_s);
     ASSERT_EQ(other.ask(GetParam() == Store::Local ? u"sql BEGIN IMMEDIATE"_s : u"sql BEGIN"_s), u"yes"_s);
     ASSERT_EQ(other.ask(u"sql INSERT INTO T VALUES (1)"_s), u"yes"_s);

@@ -10,10 +10,10 @@ namespace {
 constexpr int Patience = 120'000; // milliseconds
 } // namespace
 
-OtherUser::OtherUser(const TestStore &store, const QStringList &task)
+OtherUser::OtherUser(const QStringList &place, const QStringList &task)
 {
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.start(QCoreApplication::applicationFilePath(), QStringList(u"--other-user"_s) + store.place() + task);
+    m_process.start(QCoreApplication::applicationFilePath(), QStringList(u"--other-user"_s) + place + task);
     EXPECT_TRUE(m_process.waitForStarted(Patience));
 }
 
@@ -25,14 +25,22 @@ void OtherUser::kill()
     m_process.waitForFinished(Patience);
 }
 
-bool OtherUser::saysLine()
+void OtherUser::tell(const QString &order)
 {
-    while (!m_process.canReadLine()) {
-        if (!m_process.waitForReadyRead(Patience))
-            return false;
-    }
-    m_process.readLine();
-    return true;
+    m_process.write((order + u'\n').toUtf8());
+    m_process.waitForBytesWritten(Patience);
+}
+
+QString OtherUser::ask(const QString &order)
+{
+    tell(order);
+    return line();
+}
+
+QString OtherUser::line()
+{
+    while (!m_process.canReadLine() && m_process.waitForReadyRead(Patience)) { }
+    return QString::fromUtf8(m_process.readLine()).trimmed();
 }
 
 bool OtherUser::finish()

@@ -11,15 +11,25 @@
 class OtherUser
 {
 public:
-    OtherUser(const TestStore &store, const QStringList &task);
+    OtherUser(const TestStore &store, const QStringList &task)
+        : OtherUser(store.place(), task)
+    {
+    }
+    OtherUser(const QStringList &place, const QStringList &task); // place() of a store
     ~OtherUser();
 
+    qint64 id() const { return m_process.processId(); }
+    void tell(const QString &order); // a line of its standard input
+    QString ask(const QString &order); // and the line that it says then
+
     void kill(); // at once, as kill -9 does
-    bool saysLine(); // waits for one; false when it has ended without
+    bool saysLine() { return !line().isEmpty(); } // waits for one; false when it has ended without
     bool finish(); // waits for a good end
     QStringList output(); // lines, after finish()
 
 private:
+    QString line();
+
     QProcess m_process;
 };
 
