@@ -1,13 +1,9 @@
 #include "base/rights.h"
 #include "controls/datedialog.h"
-#include "frame/aboutform.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/mainoptionsinv.h"
 #include "master/masterkinds.h"
-#include "master/screens/dialerinv.h"
-#include "master/screens/itemsearchinv.h"
 #include "master/screens/masterlistscreen.h"
-#include "master/screens/vcontact.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
 
@@ -166,13 +162,9 @@ TEST_F(FormsTest, NothingIsClipped)
 {
     forEachScreen(over.context, mainWindow, [this](QWidget &window) { expectFit(window); });
     TFormRegistryEditor settings(over.company.settings, over.company.prompts);
-    TFormAboutTallymereSystem about;
     TFormTallymereSystem system(FrameServices{over.company.settings, over.company.prompts, screens});
-    TfrmVContact contact(over.context, nullptr);
-    TfrmDialerInv dialer(over.context, nullptr);
-    TfrmItemSearchInv search(over.context, nullptr);
     DateDialog date(over.context, QDate(2026, 3, 31), nullptr);
-    for (QWidget *window : QWidgetList{&settings, &about, &system, &contact, &dialer, &search, &date})
+    for (QWidget *window : QWidgetList{&settings, &system, &date})
         expectFit(*window);
     EXPECT_GT(shown, 40) << "some dialogs did not come";
 }

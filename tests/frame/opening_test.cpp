@@ -1,4 +1,5 @@
-#include "engine/lockmanager.h"
+#include "controls/commandscreen.h"
+#include "engine/table.h"
 #include "frame/frmtallymeresystem.h"
 #include "master/screens/dialerinv.h"
 #include "tests/frame/testcompany.h"
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -38,11 +40,14 @@ private:
 };
 
 // A screen that may refuse to be closed.
-class StubbornScreen final : public QWidget
+class StubbornScreen final : public QWidget, public CommandScreen
 {
 public:
     using QWidget::QWidget;
+    void refreshList() override { ++refreshed; }
+
     bool stubborn = false;
+    int refreshed = 0;
 
 protected:
     void closeEvent(QCloseEvent *event) override { event->setAccepted(!stubborn); }
@@ -76,23 +81,25 @@ protected:
         form.setMenu(reference);
     }
 
-    ScreenRegistry oneScreen()
+    ScreenRegistry twoScreens()
     {
         ScreenRegistry registry;
-        const auto create = [this](ScreenContext &given, QWidget *parent) {
-            context = &given;
-            screen = new StubbornScreen(parent, Qt::Window);
-            screen->setObjectName(u"frmInvTotals"_s);
-            return screen.data();
-        };
-        registry.add(u"frmInvTotals"_s, plainScreen(create));
+        for (const QString &name : {u"frmInvTotals"_s, u"frmWarehousesInv"_s}) {
+            const auto create = [this, name](ScreenContext &given, QWidget *parent) {
+                context = &given;
+                screen = new StubbornScreen(parent, Qt::Window);
+                screen->setObjectName(name);
+                return screen.data();
+            };
+            registry.add(name, plainScreen(create));
+        }
         return registry;
     }
 
     TestCompany company;
     QPointer<StubbornScreen> screen;
     ScreenContext *context = nullptr; // that the screen was given
-    ScreenRegistry screens = oneScreen();
+    ScreenRegistry screens = twoScreens();
     HostStub host;
     QMenu menu;
     TFormTallymereSystem form{FrameServices{company.settings, company.prompts, screens}};
@@ -227,19 +234,35 @@ TEST_F(OpeningTest, WhileItIsOpenItsScreensAreUsableAndTheHostIsNot)
     }));
 }
 
+// The synchronization is a command that more than the screen hears of.
 TEST_F(OpeningTest, AScreenRunsItsCommandsAndOpensFurtherScreens)
 {
     link(&host);
     company.prompts.ok = false;
-    EXPECT_TRUE(open([this] {
+    const auto question = u"Confirm: Insert any Corvane locations into the \nLedgerwick locations table?"_s;
+    EXPECT_TRUE(open([&] {
         form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
         const QPointer<StubbornScreen> first = screen;
-        context->openAnotherScreen(u"frmInvTotals"_s);
+        context->openAnotherScreen(u"frmWarehousesInv"_s);
         EXPECT_NE(screen, first);
         context->runAction(u"ActionSynchronizeLocations"_s);
         form.findChild<QAction *>(u"mnuSynchronizeLocations"_s)->trigger();
         context->runAction(u"ActionPrintPayments"_s); // not available
+        EXPECT_EQ(company.prompts.take(), QStringList(2, question));
+        EXPECT_EQ(screen->refreshed, 0);
+
+        context->data.databaseTallymere().connection().execute(
+            u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'North')"_s);
+        EXPECT_EQ(context->lookups.tblWarehse().recordCount(), 1);
+        company.prompts.ok = true;
+        const auto *bar = form.findChild<QProgressBar *>(u"RzProgressBar1"_s);
+        company.prompts.onInform = [&] { EXPECT_EQ(bar->value(), bar->maximum()); };
+        context->runAction(u"ActionSynchronizeLocations"_s);
+        EXPECT_EQ(company.prompts.take(),
+                  (QStringList{question, u"inform: Succesfully completed the synchronization."_s}));
+        EXPECT_EQ(bar->value(), 0);
+        EXPECT_EQ(context->lookups.tblWarehse().recordCount(), 2) << "drop-down lists show what has come in";
+        EXPECT_EQ(screen->refreshed, 1);
+        EXPECT_EQ(first->refreshed, 0);
     }));
-    EXPECT_EQ(company.prompts.said.size(), 2);
-    EXPECT_TRUE(company.prompts.last().contains(u"Insert any Corvane locations"_s));
 }

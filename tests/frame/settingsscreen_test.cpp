@@ -72,34 +72,24 @@ TEST_F(SettingsScreenTest, ShowsAndSavesWhatIsStored)
     }
 }
 
-TEST_F(SettingsScreenTest, CancelWritesNothing)
+TEST_F(SettingsScreenTest, NothingIsWrittenBeforeOkAndAFailureIsSaid)
 {
     store(u"Mode"_s, u"x"_s);
+    store(u"Alias"_s, u"/srv/kitchen"_s);
     screen.show();
     child<QRadioButton>(u"radioClientServer"_s)->click();
     EXPECT_EQ(child<QLabel>(u"LabelDataPath"_s)->text(), u"Shared Ini Directory:"_s);
-    press(u"BitBtnCancel"_s);
-    EXPECT_EQ(stored(u"Mode"_s), u"x"_s);
-    screen.show(); // shows what is stored again
-    EXPECT_TRUE(child<QRadioButton>(u"radioFileServer"_s)->isChecked());
-}
-
-TEST_F(SettingsScreenTest, FolderChooserBeginsAtThePathAndMayBeCancelled)
-{
-    store(u"Alias"_s, u"/srv/kitchen"_s);
-    screen.show();
-    press(u"buttonChooseFolder"_s);
+    press(u"buttonChooseFolder"_s); // and cancelled
     EXPECT_EQ(offeredFolder, u"/srv/kitchen"_s);
     EXPECT_EQ(child<QLineEdit>(u"RzButtonEditDataPath"_s)->text(), u"/srv/kitchen"_s);
     chosenFolder = u"/srv/new"_s;
     press(u"buttonChooseFolder"_s);
     EXPECT_EQ(child<QLineEdit>(u"RzButtonEditDataPath"_s)->text(), u"/srv/new"_s);
-}
-
-TEST_F(SettingsScreenTest, FailedWriteIsSaid)
-{
+    press(u"BitBtnCancel"_s);
+    EXPECT_EQ(stored(u"Mode"_s), u"x"_s);
+    screen.show(); // shows what is stored again
+    EXPECT_TRUE(child<QRadioButton>(u"radioFileServer"_s)->isChecked());
     settings.writable = false;
-    screen.show();
     press(u"BitBtnOK"_s);
     EXPECT_EQ(prompts.said.value(0), u"error: Error in Opening Corvane Key"_s);
 }

@@ -1,7 +1,11 @@
 #include "tests/frame/testcompany.h"
 
 #include "controls/recordlistscreen.h"
-#include "host/tables/hosttables.h"
+#include "frame/aboutform.h"
+#include "master/screens/dialerinv.h"
+#include "master/screens/itemsearchinv.h"
+#include "master/screens/vcontact.h"
+#include "tests/support/hostcompany.h"
 #include "tests/support/screendriver.h"
 
 using namespace Qt::StringLiterals;
@@ -9,11 +13,7 @@ using namespace Tallymere;
 
 TestCompany::TestCompany()
 {
-    Engine::Session session(u"Host"_s);
-    Engine::Database database(session, databaseName);
-    database.directory = folder();
-    database.createIfMissing = true;
-    HostTables::createHostTables(database, u"Harvest Table Kitchens"_s, u"USA"_s);
+    makeCompany(folder(), u"Harvest Table Kitchens"_s);
     setRegString(settings, u"Mode"_s, u"F"_s);
     setRegString(settings, u"Alias"_s, folder());
 }
@@ -40,4 +40,7 @@ void forEachScreen(ScreenContext &context, QWidget &owner, const std::function<v
             if (auto *action = window->findChild<QAction *>(command))
                 whileOpen<QDialog>([&] { action->trigger(); }, visit);
     }
+    for (QWidget *window : QWidgetList{new TFormAboutTallymereSystem(&owner), new TfrmVContact(context, &owner),
+                                       new TfrmDialerInv(context, &owner), new TfrmItemSearchInv(context, &owner)})
+        visit(*window);
 }

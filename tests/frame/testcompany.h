@@ -38,7 +38,7 @@ public:
 };
 
 // Makes every screen of the product in a window of its own below the owner, and from each list a new record and the dialogs
-// that it has; hands each window to the visit.
+// that it has, and the windows that these open; hands each to the visit.
 void forEachScreen(Tallymere::ScreenContext &context, QWidget &owner,
                    const std::function<void(QWidget &window)> &visit);
 

@@ -1,7 +1,6 @@
 #include "base/initfile.h"
-#include "base/settingsstore.h"
 #include "host/company.h"
-#include "tests/host/privatesettings.h"
+#include "tests/support/hostcompany.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,8 +1,7 @@
-#include "base/settingsstore.h"
 #include "host/company.h"
 #include "host/hostwindow.h"
 #include "plgint/classregistry.h"
-#include "tests/host/privatesettings.h"
+#include "tests/support/hostcompany.h"
 
 #include <QAction>
 #include <QApplication>
@@ -50,6 +49,12 @@ void onceModal(std::function<void(QWidget &)> action)
 class ModuleTest : public testing::Test
 {
 protected:
+    // Before the first settings object is made, which keeps the path.
+    static void SetUpTestSuite()
+    {
+        static const QTemporaryDir own;
+        qputenv("XDG_CONFIG_HOME", own.path().toLocal8Bit());
+    }
     ModuleTest()
     {
         makeCompany(m_folder.path(), u"Harvest Table Kitchens"_s);
@@ -93,19 +98,6 @@ TEST_F(ModuleTest, StartedTwiceItIsRegisteredOnce)
     EXPECT_EQ(count(), 0);
 }
 
-TEST_F(ModuleTest, HostDrivesItByItsInterface)
-{
-    HostWindow window(settings, u"maria"_s, moduleUnderTest);
-    ASSERT_EQ(inventoryMenu(window).actions().size(), 1);
-    EXPECT_EQ(inventoryMenu(window).actions().constFirst()->text(), u"Tallymere"_s);
-
-    auto plugIn = InterfaceRef<IPlugIn>::of(mainForm());
-    ASSERT_TRUE(plugIn);
-    EXPECT_TRUE(plugIn->getIsModuleInstalled(u"ARSystem"_s));
-    EXPECT_FALSE(plugIn->getIsModuleInstalled(u"ARSystem "_s));
-    EXPECT_FALSE(InterfaceRef<IHostInterface>::of(mainForm()));
-}
-
 TEST_F(ModuleTest, OpensFromTheMenuBeforeAndAfterAReload)
 {
     HostWindow window(settings, u"maria"_s, moduleUnderTest);
@@ -122,6 +114,8 @@ TEST_F(ModuleTest, OpensFromTheMenuBeforeAndAfterAReload)
         window.loadModule();
         ASSERT_EQ(inventoryMenu(window).actions().size(), 1);
     }
+    EXPECT_TRUE(InterfaceRef<IPlugIn>::of(mainForm())->getIsModuleInstalled(u"ARSystem"_s));
+    EXPECT_FALSE(InterfaceRef<IPlugIn>::of(mainForm())->getIsModuleInstalled(u"ARSystem "_s));
     window.unloadModule();
     EXPECT_TRUE(inventoryMenu(window).actions().isEmpty());
     EXPECT_EQ(mainForm(), nullptr);

@@ -1,3 +1,4 @@
+#include "base/ruleerror.h"
 #include "controls/filechoice.h"
 #include "controls/lookupcombobox.h"
 #include "reports/makereport.h"
@@ -182,6 +183,22 @@ TEST_F(InvReportsTest, ReadsThePeriodAsItIsTyped)
     kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = 5"_s);
     open();
     EXPECT_EQ(chosen(), u"5/2026"_s);
+}
+
+TEST_F(InvReportsTest, HeadingsNameWhatIsChosenAndRefuseWhatIsGone)
+{
+    const auto headings = [this](const QString &report, const ReportSelection &selection) {
+        return makeReport(*data, *ReportList::find(report), selection).layout.headings.join(u'/');
+    };
+    EXPECT_EQ(headings(u"Value by Item"_s, {}), u"");
+    EXPECT_EQ(headings(u"Value by Item"_s, {.warehouseId = 2}), u"Location: Freezer");
+    EXPECT_EQ(headings(u"Value by Item"_s, {.warehouseId = 2, .itemTypeId = 1}),
+              u"Location: Freezer     Type: Food");
+    EXPECT_EQ(headings(u"Perpetual by Item"_s, {.itemTypeId = 1, .period = 3, .year = 2004}),
+              u"Type: Food/Period: 03/2004");
+    EXPECT_EQ(headings(u"Perpetual Summary by Item"_s, {.period = 12, .year = 2004}), u"/Period: 12/2004");
+    EXPECT_THROW(headings(u"Value by Item"_s, {.warehouseId = 70}), RuleError);
+    EXPECT_THROW(headings(u"Value by Item"_s, {.itemTypeId = 80}), RuleError);
 }
 
 TEST_F(InvReportsTest, PagesAreTurnedOneByOneWhereSeveralAreInSight)

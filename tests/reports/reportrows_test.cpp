@@ -1,8 +1,3 @@
-#include "reports/makereport.h"
-
-#include "base/ruleerror.h"
-#include "data/datamodule.h"
-#include "host/tables/hosttables.h"
 #include "printing/reportcsv.h"
 #include "reports/reportlist.h"
 #include "tests/support/kitchen.h"
@@ -88,32 +83,6 @@ TEST_P(ListReports, BalancesAndMovementsAreOfOneMoment)
         ASSERT_TRUE(rows->next(row));
         EXPECT_EQ(row.values[balance].toDouble(), expected);
     }
-}
-
-TEST(ReportHeadings, NameWhatIsChosenAndRefuseWhatIsGone)
-{
-    TestStore store(Store::Local);
-    DataModuleOptions options;
-    options.dataFolder = store.directory();
-    options.prepareHost = [](Engine::Database &database) {
-        HostTables::createHostTables(database, u"Kitchen"_s, u"USA"_s);
-    };
-    MemorySettings settings;
-    SpokenPrompts prompts;
-    TDataModuleTallymere data(settings, prompts, options);
-    store.execute(u"INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (7, 'Freezer'); "
-                  "INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (8, 'Food')"_s);
-    const auto headings = [&data](const char *name, const ReportSelection &selection) {
-        return makeReport(data, report(name), selection).layout.headings.join(u'/');
-    };
-    EXPECT_EQ(headings("Value by Item", {}), u"");
-    EXPECT_EQ(headings("Value by Item", {.warehouseId = 7}), u"Location: Freezer");
-    EXPECT_EQ(headings("Value by Item", {.warehouseId = 7, .itemTypeId = 8}), u"Location: Freezer     Type: Food");
-    EXPECT_EQ(headings("Perpetual by Item", {.itemTypeId = 8, .period = 3, .year = 2004}),
-              u"Type: Food/Period: 03/2004");
-    EXPECT_EQ(headings("Perpetual Summary by Item", {.period = 12, .year = 2004}), u"/Period: 12/2004");
-    EXPECT_THROW(headings("Value by Item", {.warehouseId = 70}), RuleError);
-    EXPECT_THROW(headings("Value by Item", {.itemTypeId = 80}), RuleError);
 }
 
 } // namespace

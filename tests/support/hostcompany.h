@@ -1,0 +1,16 @@
+#pragma once
+
+#include "base/settingsstore.h"
+#include "engine/database.h"
+#include "engine/session.h"
+#include "host/tables/hosttables.h"
+
+// Makes the tables of the host in a folder.
+inline void makeCompany(const QString &folder, const QString &organization)
+{
+    Engine::Session session(QStringLiteral("Host"));
+    Engine::Database database(session, Tallymere::databaseName);
+    database.directory = folder;
+    database.createIfMissing = true;
+    Tallymere::HostTables::createHostTables(database, organization, QStringLiteral("USA"));
+}
