@@ -1,8 +1,7 @@
 #include "controls/entryscreen.h"
-#include "controls/listscreen.h"
 #include "controls/windowplaces.h"
 #include "data/utilsinv.h"
-#include "engine/table.h"
+#include "tests/controls/itemlist.h"
 #include "tests/support/screentest.h"
 
 #include <QFrame>
@@ -12,24 +11,6 @@ using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
-
-class PlaceList final : public ListScreen
-{
-public:
-    PlaceList(ScreenContext &context, QWidget *parent)
-        : ListScreen(context, parent)
-        , m_places(context.data.databaseTallymere(), u"Warehse"_s)
-    {
-        m_places.open();
-        build({.name = u"frmPlaces"_s,
-               .caption = u"Places"_s,
-               .columns = {{u"WarehouseID"_s, u"No."_s, 60}, {u"WarehouseName"_s, u"Name"_s, 200}}},
-              m_places, {});
-    }
-
-private:
-    Engine::Table m_places;
-};
 
 class Card final : public EntryScreen
 {
@@ -78,7 +59,7 @@ protected:
         settle();
         return found;
     }
-    static QTableView &grid(const PlaceList &list) { return *child<QTableView>(list, "DBGrid1"); }
+    static QTableView &grid(const ItemList &list) { return *child<QTableView>(list, "DBGrid1"); }
 };
 
 } // namespace
@@ -86,23 +67,23 @@ protected:
 TEST_F(WindowMemoryTest, windowsComeBackWhereTheUserHasPutThem)
 {
     const QRect place(60, 70, 420, 310);
-    EXPECT_EQ(changed<PlaceList>(place), place);
+    EXPECT_EQ(changed<ItemList>(place), place);
     EXPECT_EQ(changed<Card>(place), place);
 
-    auto &list = open<PlaceList>();
+    auto &list = open<ItemList>();
     grid(list).setColumnWidth(0, 111);
     QTest::mouseDClick(child<QFrame>(list, "RzPanelTop"), Qt::LeftButton);
     const QSize first = list.size();
     EXPECT_NE(first, place.size()) << "twelve rows";
     list.close();
     settle();
-    auto &again = open<PlaceList>();
+    auto &again = open<ItemList>();
     EXPECT_EQ(again.size(), first);
     EXPECT_EQ(grid(again).columnWidth(0), 111);
     again.showMaximized();
     again.close();
     settle();
-    auto &large = open<PlaceList>();
+    auto &large = open<ItemList>();
     EXPECT_TRUE(large.isMaximized());
     large.showNormal();
     EXPECT_EQ(large.size(), first);
@@ -111,37 +92,37 @@ TEST_F(WindowMemoryTest, windowsComeBackWhereTheUserHasPutThem)
 TEST_F(WindowMemoryTest, whatNobodyHasChangedIsNotWritten)
 {
     for (int i = 0; i < 2; ++i) {
-        auto &list = open<PlaceList>();
+        auto &list = open<ItemList>();
         list.setGeometry(list.geometry().translated(1, -1)); // rounded by a scaled screen
         list.close();
         open<Card>().close();
         settle();
     }
-    EXPECT_FALSE(setFormPos(settings, u"frmPlaces"_s, u"Place"_s));
+    EXPECT_FALSE(setFormPos(settings, u"frmItemList"_s, u"Place"_s));
     EXPECT_FALSE(setFormPos(settings, u"frmCard"_s, u"Place"_s));
-    EXPECT_EQ(settings.read(formSetting(u"frmPlaces"_s), u"DBGrid1"_s), QString());
+    EXPECT_EQ(settings.read(formSetting(u"frmItemList"_s), u"DBGrid1"_s), QString());
 }
 
 TEST_F(WindowMemoryTest, settingsThatCannotBeUsedDoNoHarm)
 {
-    const QString section = formSetting(u"frmPlaces"_s);
+    const QString section = formSetting(u"frmItemList"_s);
     const std::pair<QString, QString> cases[] = {
-        {u"here"_s, u"= WarehouseID WarehouseID=x WarehouseID=-5 WarehouseID=1e99"_s}, // damaged
-        {u""_s, u"Gone=120 WarehouseName=abc"_s}, // another layout
+        {u"here"_s, u"= ItemNo ItemNo=x ItemNo=-5 ItemNo=1e99"_s}, // damaged
+        {u""_s, u"Gone=120 ItemDescription=abc"_s}, // another layout
         {u"9000 -4000 400 300"_s, {}}, // a screen that is gone
     };
     for (const auto &[place, widths] : cases) {
         settings.write(section, u"Place"_s, place);
         settings.write(section, u"DBGrid1"_s, widths);
-        const auto &list = open<PlaceList>();
+        const auto &list = open<ItemList>();
         EXPECT_TRUE(mainWindow->screen()->availableGeometry().contains(list.geometry())) << place.toStdString();
-        EXPECT_EQ(grid(list).columnWidth(0), 60) << widths.toStdString();
+        EXPECT_EQ(grid(list).columnWidth(0), 80) << widths.toStdString();
         delete &list;
     }
     settings.writable = false;
-    changed<PlaceList>(QRect(60, 70, 420, 310));
+    changed<ItemList>(QRect(60, 70, 420, 310));
     context->settings = nullptr;
-    changed<PlaceList>(QRect(60, 70, 420, 310));
+    changed<ItemList>(QRect(60, 70, 420, 310));
     EXPECT_EQ(prompts.said, QStringList());
 }
 

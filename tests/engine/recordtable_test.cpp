@@ -2,6 +2,8 @@
 
 #include "tests/engine/recordfixture.h"
 
+#include <QCoreApplication>
+
 using namespace Engine;
 using namespace Qt::StringLiterals;
 
@@ -256,8 +258,13 @@ TEST_P(RecordTest, RefreshStaysOnTheRowOrOnWhatTookItsPlace)
     EXPECT_EQ(vendors.recordCount(), 4) << "a snapshot until then";
     vendors.refresh();
     vendors.refresh(); // before anybody has asked
+    int told = 0;
+    QObject::connect(&vendors, &DataSet::currentChanged, [&] { ++told; });
     EXPECT_EQ(vendors.integer(u"VendorID"), 4);
     EXPECT_EQ(vendors.recordIndex(), 1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, 1) << "another record is in its place";
+    ASSERT_TRUE(vendors.findKey({4}));
     store.execute(u"UPDATE Vendor SET Days = 9 WHERE VendorID = 4"_s);
     vendors.refresh();
     EXPECT_EQ(vendors.integer(u"Days"), 9);

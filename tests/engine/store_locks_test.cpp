@@ -151,36 +151,27 @@ TEST_P(LocksTest, TheHolderIsNamed)
     EXPECT_TRUE(mine.ownerOf(u"Tax"_s));
 }
 
-TEST_P(LocksTest, AKilledProgramLeavesNoLockBehind)
-{
-    OtherUser other(store, {u"obey"_s});
-    ASSERT_EQ(other.ask(u"open Item"_s), u"yes"_s);
-    ASSERT_EQ(other.ask(u"record Item 5"_s), u"yes"_s);
-    ASSERT_EQ(other.ask(u"table Tax"_s), u"yes"_s);
-    EXPECT_FALSE(mine.tryLockRecord(u"Item"_s, {5}));
-    EXPECT_FALSE(mine.tryLockTable(u"Item"_s));
-    EXPECT_FALSE(mine.tryLockRecord(u"Tax"_s, {1}));
-    EXPECT_FALSE(mine.tryOpenExclusive(u"Item"_s));
-    const std::optional<LockOwner> owner = mine.ownerOf(u"Tax"_s);
-    ASSERT_TRUE(owner);
-    EXPECT_EQ(owner->processId, other.id());
-    other.kill();
-    EXPECT_TRUE(soon([&] { return mine.tryLockRecord(u"Item"_s, {5}); }));
-    EXPECT_TRUE(soon([&] { return mine.tryLockTable(u"Tax"_s); }));
-    EXPECT_TRUE(soon([&] { return mine.tryOpenExclusive(u"Item"_s); }));
-}
-
 TEST_P(LocksTest, AProgramKilledWithinATransactionLeavesNothingBehind)
 {
     store.execute(u"CREATE TABLE T (a integer)"_s);
     OtherUser other(store, {u"obey"_s});
-    ASSERT_EQ(other.ask(u"table T"_s), u"yes"_s);
-    ASSERT_EQ(other.ask(GetParam() == Store::Local ? u"sql BEGIN IMMEDIATE"_s : u"sql BEGIN"_s), u"yes"_s);
-    ASSERT_EQ(other.ask(u"sql INSERT INTO T VALUES (1)"_s), u"yes"_s);
+    for (const QString &order : {u"open Item"_s, u"record Item 5"_s, u"table T"_s,
+                                 GetParam() == Store::Local ? u"sql BEGIN IMMEDIATE"_s : u"sql BEGIN"_s,
+                                 u"sql INSERT INTO T VALUES (1)"_s})
+        ASSERT_EQ(other.ask(order), u"yes"_s) << order.toStdString();
+    EXPECT_FALSE(mine.tryLockRecord(u"Item"_s, {5}));
+    EXPECT_FALSE(mine.tryLockTable(u"Item"_s));
+    EXPECT_FALSE(mine.tryLockRecord(u"T"_s, {1}));
+    EXPECT_FALSE(mine.tryOpenExclusive(u"Item"_s));
+    const std::optional<LockOwner> owner = mine.ownerOf(u"T"_s);
+    ASSERT_TRUE(owner);
+    EXPECT_EQ(owner->processId, other.id());
     if (GetParam() == Store::Remote)
         other.tell(u"sql SELECT pg_sleep(3600)"_s); // the server is busy for a client that is gone
     other.kill();
+    EXPECT_TRUE(soon([&] { return mine.tryLockRecord(u"Item"_s, {5}); }));
     EXPECT_TRUE(soon([&] { return mine.tryLockTable(u"T"_s); }));
+    EXPECT_TRUE(soon([&] { return mine.tryOpenExclusive(u"Item"_s); }));
     Transaction transaction(connection);
     EXPECT_EQ(one(u"SELECT count(*) FROM T"_s), u"0"_s);
     store.execute(u"INSERT INTO T VALUES (2)"_s);

@@ -7,22 +7,6 @@ using namespace Engine;
 
 namespace {
 
-TableLayout everyType()
-{
-    return {u"Sample"_s,
-            {{u"SampleID"_s, FieldType::Integer},
-             {u"Small"_s, FieldType::SmallInt},
-             {u"Quantity"_s, FieldType::Float},
-             {u"Cost"_s, FieldType::Money},
-             {u"Posted"_s, FieldType::Boolean},
-             {u"Day"_s, FieldType::Date},
-             {u"Moment"_s, FieldType::DateTime},
-             {u"Name"_s, FieldType::Text, 20},
-             {u"User"_s, FieldType::Text, 10},
-             {u"Notes"_s, FieldType::Memo}},
-            {{QString(), u"SampleID"_s, IndexOption::Primary}}};
-}
-
 class StatementTest : public StoreTest
 {
 protected:

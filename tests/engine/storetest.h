@@ -4,6 +4,25 @@
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 
+// A table with a field of each type.
+inline Engine::TableLayout everyType()
+{
+    using namespace Qt::StringLiterals;
+    using Engine::FieldType;
+    return {u"Sample"_s,
+            {{u"SampleID"_s, FieldType::Integer},
+             {u"Small"_s, FieldType::SmallInt},
+             {u"Quantity"_s, FieldType::Float},
+             {u"Cost"_s, FieldType::Money},
+             {u"Posted"_s, FieldType::Boolean},
+             {u"Day"_s, FieldType::Date},
+             {u"Moment"_s, FieldType::DateTime},
+             {u"Name"_s, FieldType::Text, 20},
+             {u"User"_s, FieldType::Text, 10},
+             {u"Notes"_s, FieldType::Memo}},
+            {{QString(), u"SampleID"_s, Engine::IndexOption::Primary}}};
+}
+
 // A case that runs on both stores.
 class StoreTest : public testing::TestWithParam<Store>
 {
