@@ -30,8 +30,10 @@ TEST_F(ItemSearchScreen, FollowsWhatIsTyped)
     EXPECT_EQ(search.result(), QDialog::Accepted);
 
     kitchen.execute(u"DELETE FROM Item WHERE ItemID = 2"_s);
-    search.SetItemID(1);
+    search.SetItemID(3);
+    search.SetItemID(2); // which is gone
     showActive(search);
+    EXPECT_EQ(search.GetItemID(), 1);
     EXPECT_EQ(child<ListGrid>(search, "DBGrid1")->model()->rowCount(), 3) << "as they are by now";
     EXPECT_EQ(focusName(), u"editFindItemNo");
     EXPECT_EQ(child<QLineEdit>(search, "editFindItemNo")->text(), QString());

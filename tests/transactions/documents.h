@@ -3,6 +3,8 @@
 #include "tests/support/kitchen.h"
 #include "transactions/documentkinds.h"
 
+#include <random>
+
 struct DocumentLine
 {
     int item; // 0: none
@@ -30,4 +32,22 @@ inline void addDocument(Kitchen &kitchen, const Tallymere::DocumentKind &kind, i
             QString::number(++seq), line.item == 0 ? u"NULL"_s : QString::number(line.item), line.quantity,
             usage ? u", "_s + line.cost : QString());
     kitchen.execute(sql);
+}
+
+// A document of any kind, of stocked items. Quantities are quarters, so that sums are exact.
+inline void addRandomDocument(Kitchen &kitchen, const Tallymere::DocumentKind &kind, int id, int lineCount,
+                              std::mt19937 &random)
+{
+    const auto upTo = [&random](unsigned limit) { return 1 + static_cast<int>(random() % limit); };
+    QList<Kitchen::Line> received;
+    QList<DocumentLine> lines;
+    for (int i = 0; i < lineCount; ++i) {
+        received.append({upTo(3), 0.25 * (upTo(80) - 20), 0.01 * upTo(500)});
+        lines.append({received.last().item, QString::number(received.last().quantity), QStringLiteral("1.5")});
+    }
+    const int location = upTo(2);
+    if (&kind == &Tallymere::DocumentKinds::receipt())
+        kitchen.addReceipt(id, upTo(2), location, received);
+    else
+        addDocument(kitchen, kind, id, location, lines);
 }

@@ -2,8 +2,6 @@
 #include "tests/transactions/documents.h"
 #include "transactions/documentposting.h"
 
-#include <random>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
@@ -20,22 +18,11 @@ constexpr int LinesEach = 10;
 void addMany(Kitchen &kitchen, const DocumentKind &kind)
 {
     std::mt19937 random(7);
-    const auto upTo = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
     kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s);
     Engine::Connection &connection = kitchen.database().connection();
     connection.begin();
-    for (int id = 1; id <= documents(kitchen.store()); ++id) {
-        QList<Kitchen::Line> received;
-        QList<DocumentLine> lines;
-        for (int i = 0; i < LinesEach; ++i) {
-            received.append({1 + upTo(3), 1.0 + upTo(9), 0.01 * (1 + upTo(500))});
-            lines.append({received.last().item, QString::number(received.last().quantity), u"1.5"_s});
-        }
-        if (&kind == &DocumentKinds::receipt())
-            kitchen.addReceipt(id, 1 + upTo(2), 1 + upTo(2), received);
-        else
-            addDocument(kitchen, kind, id, 1 + upTo(2), lines);
-    }
+    for (int id = 1; id <= documents(kitchen.store()); ++id)
+        addRandomDocument(kitchen, kind, id, LinesEach, random);
     connection.commit();
 }
 

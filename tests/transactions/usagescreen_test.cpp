@@ -152,6 +152,8 @@ TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
     });
     EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted <> true)"_s);
     EXPECT_EQ(list->dataSet().recordCount(), 2);
+    filter([](DocumentFilterScreen &dialog) { child<QAbstractButton>(dialog, "optPostedYes")->click(); });
+    EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted = true)"_s);
 
     EXPECT_FALSE(list->command(u"mnuPrintSelected"_s)->isEnabled());
     list->resetFilter();

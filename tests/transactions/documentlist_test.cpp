@@ -1,9 +1,10 @@
+#include "transactions/documentlist.h"
+
 #include "engine/lockmanager.h"
 #include "engine/table.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/kitchen.h"
 #include "transactions/documentkinds.h"
-#include "transactions/documentlist.h"
 #include "transactions/usagedeletion.h"
 
 using namespace Qt::StringLiterals;
@@ -11,6 +12,63 @@ using namespace Tallymere;
 using Engine::ErrorCode;
 
 namespace {
+
+class List : public KitchenTest
+{
+protected:
+    List() { list.open(); }
+
+    int lines() { return static_cast<int>(kitchen.number(u"SELECT count(*) FROM IRecDet"_s)); }
+
+    DocumentList list{kitchen.database(), DocumentKinds::receipt()};
+};
+ON_BOTH_STORES(List);
+
+TEST_P(List, DeletesAReceiptWithItsLinesAfterAsking)
+{
+    list.remove(prompts); // of nothing
+    EXPECT_NO_THROW(list.find({}));
+    kitchen.addReceipt(0, 1, 1, {{1, 1, 1}, {2, 1, 1}}); // the first key of a new database
+    kitchen.addReceipt(2, 1, 1, {{1, 1, 1}});
+    list.table().refresh();
+    ASSERT_TRUE(list.moveTo(0));
+    prompts.ok = false;
+    EXPECT_THROW(list.remove(prompts), SilentAbort);
+    EXPECT_EQ(lines(), 3);
+
+    prompts.ok = true;
+    list.remove(prompts);
+
+    EXPECT_EQ(prompts.said,
+              (QStringList{u"Confirm: Delete receipt '1000'?"_s, u"Confirm: Delete receipt '1000'?"_s}));
+    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID FROM IReceipt"_s), QStringList(u"2"_s));
+    EXPECT_EQ(lines(), 1);
+    EXPECT_EQ(list.currentKey(), 2);
+}
+
+// The moment after the lock of the check has been let go.
+TEST_P(List, TellsDeletedFromPostedInTheLastMoment)
+{
+    for (int id = 1; id <= 2; ++id)
+        kitchen.addReceipt(id, 1, 1, {{1, 1, 1}});
+    list.table().setFilter(DocumentKinds::receipt().notPosted);
+    list.table().setFiltered(true);
+    list.table().refresh();
+    QString sql;
+    const QObject scope; // the list outlives the test
+    QObject::connect(&list.table(), &Engine::DataSet::stateChanged, &scope, [&] {
+        if (!list.table().isEditing())
+            kitchen.execute(std::exchange(sql, u"SELECT 1"_s));
+    });
+    ASSERT_TRUE(list.moveTo(1));
+    sql = u"UPDATE IReceipt SET Posted = true WHERE ReceiptID = 1"_s;
+    EXPECT_EQ(refusalOf([&] { list.remove(prompts); }),
+              u"Unable to delete receipt '1001'...\nIt has already been posted -> ");
+    EXPECT_EQ(lines(), 2);
+    ASSERT_TRUE(list.moveTo(2));
+    sql = u"DELETE FROM IReceipt WHERE ReceiptID = 2"_s;
+    EXPECT_EQ(errorOf([&] { list.remove(prompts); }), ErrorCode::RecordGone);
+}
 
 // Usage 1 to 3 of 14 March 2026, of which 3 is posted, and 4 of the day after; a line each.
 class UsageList : public KitchenTest

@@ -1,9 +1,8 @@
-#include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 
 #include "engine/lockmanager.h"
 #include "engine/table.h"
-#include "tests/support/kitchen.h"
+#include "tests/transactions/documents.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -14,7 +13,10 @@ namespace {
 class Posting : public KitchenTest
 {
 protected:
-    bool post() { return DocumentPosting(kitchen.database(), DocumentKinds::receipt()).run(prompts, progress); }
+    bool post(const DocumentKind &kind = DocumentKinds::receipt())
+    {
+        return DocumentPosting(kitchen.database(), kind).run(prompts, progress);
+    }
     QStringList posted()
     {
         return kitchen.rows(u"SELECT ReceiptID FROM IReceipt WHERE Posted = true ORDER BY 1"_s);
@@ -48,10 +50,7 @@ TEST_P(Posting, PostsEachKindOfLine)
     // vendor; on hand and average of item 1; the line; cost in the history; average and on hand afterwards
     const std::tuple<const char *, int, double, double, Kitchen::Line, double, double, double> cases[] = {
         {"no balance anywhere", 1, none, 9, {1, 4, 1.236}, 1.236, 1.24, 4},
-        {"negative stock", 1, -5, 4.00, {1, 10, 2.00}, 2, 4.00, 5},
-        {"down to zero", 1, -10, 4.00, {1, 10, 2.00}, 2, 4.00, 0},
         {"no cost on no stock", 1, none, 9, {1, 3, 0}, 0, 9, 3},
-        {"a return", 1, 10, 2.00, {1, -4, 2.00}, 2, 2.00, 6},
         {"a far vendor's currency", 2, none, 0, {1, 2, 1.2345}, 0.93, 0.93, 2},
         {"a currency without rate", 3, none, 0, {1, 2, 1.2345}, 1.2345, 1.23, 2},
         {"a vendor without currency", 5, none, 0, {1, 2, 1.2345}, 1.2345, 1.23, 2},
@@ -146,4 +145,33 @@ TEST_P(Posting, AsksAboutTablesThatAnotherUserHolds)
     EXPECT_EQ(posted(), QStringList(u"1"_s));
 }
 
+TEST_P(Posting, OfUsageTakesStockedItemsOutOfTheLocationAndLeavesTheirCost)
+{
+    // Apples and bread are stocked, apricots are not, the type of yeast is gone.
+    kitchen.execute(
+        u"UPDATE ItemType SET Inventory = (ItemTypeID = 1); UPDATE Item SET ItemTypeID = 9 WHERE ItemID = 4"_s);
+    kitchen.setStock(1, 2, 6, 2.00);
+    const DocumentKind &usage = DocumentKinds::usage();
+    addDocument(kitchen, usage, 7, 2,
+                {{1, u"4"_s, u"1.2345"_s}, {3, u"5"_s}, {1, u"-1"_s}, {99, u"8"_s}, {4, u"2"_s}, {2, u"3"_s}});
+    addDocument(kitchen, usage, 8, 1, {{3, u"5"_s}, {0, u"6"_s}}); // nothing of it is stocked
+    addDocument(kitchen, usage, 9, 1, {{1, u"-0.0"_s}, {2, u"NULL"_s}});
+    EXPECT_EQ(DocumentPosting(kitchen.database(), usage).countText(), u"3 usage record(s) to be posted");
+
+    EXPECT_TRUE(post(usage));
+
+    EXPECT_EQ(kitchen.rows(
+                  u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
+                  "TransDescription, ReceiptID, AdjustmentID, ARInvoiceID, UsageID FROM IHist ORDER BY IHistID"_s),
+              (QStringList{u"1|2|2026|3|5|2026-03-14|4|1.2345|Inventory Usage No: 10007||||7"_s,
+                           u"1|2|2026|3|5|2026-03-14|-1||Inventory Usage No: 10007||||7"_s,
+                           u"2|2|2026|3|5|2026-03-14|3||Inventory Usage No: 10007||||7"_s,
+                           u"1|1|2026|3|5|2026-03-14|0||Inventory Usage No: 10009||||9"_s,
+                           u"2|1|2026|3|5|2026-03-14|0||Inventory Usage No: 10009||||9"_s}));
+    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s),
+              (QStringList{u"1|1|0"_s, u"1|2|3"_s, u"2|1|0"_s, u"2|2|-3"_s}));
+    EXPECT_EQ(kitchen.averageCost(1), 2.00);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IUsage WHERE Posted = true"_s), 3);
+    EXPECT_FALSE(post(usage));
+}
 } // namespace
