@@ -180,6 +180,7 @@ TEST_F(LineGridTest, enteringAColumnByHandOpensItsSearch)
     EXPECT_EQ(cursor(), u"2,1"_s);
     EXPECT_EQ(prompts.take(), QStringList(u"error: No item"_s));
     press(Qt::Key_Escape);
+    EXPECT_EQ(rows(), 2) << "undone";
 }
 
 TEST_F(LineGridTest, leavingGoesBackToTheFirstLineOnceTheLineIsComplete)

@@ -104,21 +104,3 @@ TEST_F(LostConnection, everyWayOutEndsTheScreen)
         }
     }
 }
-
-// Somebody works on the server by other means than this system, and holds a row.
-TEST_F(LostConnection, aWindowLivesWhileSomebodysLockIsWaitedFor)
-{
-    open<TfrmInvReceipt>(7);
-    changeHeader();
-    int pauses = 0;
-    data->sessionTallymere().lockAttempts = 5;
-    data->sessionTallymere().waitFor = [&](std::chrono::milliseconds) { ++pauses; };
-    run(u"BEGIN; UPDATE IReceipt SET Posted = false"_s);
-    clickOK();
-    EXPECT_GT(pauses, 0) << "in which a screen lives";
-    ASSERT_TRUE(screen);
-    EXPECT_TRUE(prompts.last().contains(u"keeper on"_s)) << prompts.last().toStdString();
-    run(u"ROLLBACK"_s);
-    clickOK();
-    EXPECT_TRUE(isClosed());
-}
