@@ -216,6 +216,7 @@ TEST_F(CountScreenTest, OffersWhatHasBeenLeft)
 
 TEST_F(CountScreenTest, StaysOpenWhenTheCountCannotBeKept)
 {
+    // Of a location whose key is longer than its place in the text.
     kitchen.execute(u"INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (12345, 'Annex [2]')"_s);
     kitchen.setStock(3, 12345, 9, 1);
     delete screen;
