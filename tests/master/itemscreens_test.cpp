@@ -1,7 +1,9 @@
+#include "controls/listgrid.h"
 #include "controls/lookupcombobox.h"
 #include "controls/screenmetrics.h"
 #include "engine/table.h"
 #include "master/screens/iteminv.h"
+#include "master/screens/itemsearchinv.h"
 #include "master/screens/itemsfind.h"
 #include "master/screens/itemsinv.h"
 #include "master/screens/itemtypeinv.h"
@@ -122,8 +124,11 @@ TEST_F(ItemScreens, UnlockTheAverageCostOnlyOnPurpose)
     type("3");
     clickItem("chkReadOnly");
     EXPECT_TRUE(child<QLineEdit>(*item, "editWgtAvgCost")->isReadOnly());
+    QObject::connect(item, &EntryScreen::saved, item,
+                     [] { throw Engine::EngineError(Engine::ErrorCode::ConnectionLost, u"gone"_s); });
     clickItem("btnOK");
     settle();
+    EXPECT_FALSE(item) << "although the list cannot follow";
     EXPECT_EQ(stored(u"A10"_s), QStringList{u"1|Apples||1||3||false|"_s});
     EXPECT_EQ(prompts.take(), QStringList());
 }
@@ -238,18 +243,6 @@ TEST_F(ItemScreens, AskInFrontAndByNameWhenClosedFromElsewhere)
     EXPECT_EQ(prompts.take().value(0), u"Do you want to save changes?"_s) << "in front already";
 }
 
-TEST_F(ItemScreens, CloseAlthoughTheListCannotFollow)
-{
-    openItem();
-    QObject::connect(item, &EntryScreen::saved, item,
-                     [] { throw Engine::EngineError(Engine::ErrorCode::ConnectionLost, u"gone"_s); });
-    enter("editItemDescription", "Pears");
-    clickItem("btnOK");
-    settle();
-    EXPECT_FALSE(item);
-    EXPECT_EQ(prompts.take(), QStringList());
-}
-
 TEST_F(ItemScreens, OutliveTheListThatOpenedThem)
 {
     openItem(2);
@@ -313,15 +306,46 @@ TEST_F(ItemScreens, LeadToTheStockOfAnItem)
     auto *totals = new TfrmInvTotals(*context, mainWindow.get());
     offer(*totals);
     kitchen.setStock(1, 1, 10, 2);
-    kitchen.setStock(2, 1, 5, 2);
+    kitchen.setStock(3, 1, 5, 2);
     openList();
-    ASSERT_TRUE(list->moveToKey(2));
-    list->command(u"mnuTotals"_s)->trigger();
-    EXPECT_EQ(totals->dataSet().filter(), u"(ItemID = 2)");
-    EXPECT_EQ(totals->windowTitle(), u"Inventory Totals (Filtered)");
-    kitchen.setStock(3, 2, 1, 2);
     ASSERT_TRUE(list->moveToKey(3));
     list->command(u"mnuTotals"_s)->trigger();
-    EXPECT_EQ(totals->dataSet().recordCount(), 1) << "as it is now";
-    EXPECT_EQ(totals->dataSet().text(u"WarehouseName"), u"Freezer");
+    EXPECT_EQ(totals->dataSet().filter(), u"(ItemID = 3)");
+    EXPECT_EQ(totals->windowTitle(), u"Inventory Totals (Filtered)");
+    kitchen.setStock(3, 2, 1, 2);
+    list->command(u"mnuTotals"_s)->trigger();
+    EXPECT_EQ(totals->dataSet().recordCount(), 2) << "as it is now";
+}
+
+TEST_F(ItemScreens, SearchAnItemByWhatIsTyped)
+{
+    TfrmItemSearchInv search(*context, mainWindow.get());
+    search.SetItemID(3);
+    showActive(search);
+    EXPECT_EQ(search.GetItemID(), 3);
+    type("A11<Backspace>");
+    EXPECT_EQ(search.GetItemID(), 2) << "taking a character away moves nothing";
+    type("7<Return>");
+    EXPECT_EQ(prompts.last(), u"error: Item not found"_s);
+    EXPECT_EQ(search.GetItemID(), 2);
+    EXPECT_TRUE(search.isVisible()) << "no number goes on so: not an item that was not asked for";
+    child<QLineEdit>(search, "editFindItemDescription")->setFocus();
+    type("ap");
+    EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
+    child<LookupComboBox>(search, "cboItemType")->setFocus();
+    type("food<Return>");
+    EXPECT_TRUE(search.isVisible()) << "nobody has seen the items of the type yet";
+    EXPECT_EQ(search.GetItemID(), 1);
+    press(Qt::Key_Return);
+    EXPECT_EQ(search.result(), QDialog::Accepted);
+
+    kitchen.execute(u"DELETE FROM Item WHERE ItemID = 2"_s);
+    search.SetItemID(3);
+    search.SetItemID(2); // which is gone
+    showActive(search);
+    EXPECT_EQ(search.GetItemID(), 1);
+    EXPECT_EQ(child<ListGrid>(search, "DBGrid1")->model()->rowCount(), 3) << "as they are by now";
+    EXPECT_EQ(focusName(), u"editFindItemNo");
+    EXPECT_EQ(child<QLineEdit>(search, "editFindItemNo")->text(), QString());
+    EXPECT_EQ(child<LookupComboBox>(search, "cboItemType")->chosenId(), 0);
 }

@@ -34,39 +34,31 @@ ON_BOTH_STORES(Lists);
 TEST_P(Lists, RefuseToDeleteWhatIsReferredTo)
 {
     const std::tuple<const MasterKind &, int, QString, QString> referrals[] = {
-        {MasterKinds::itemType(), 7, u"UPDATE Item SET ItemTypeID = 7 WHERE ItemID = 3"_s,
-         u"'Dry'...\nItem(s) exist for this item type"_s},
-        {MasterKinds::location(), 2, u"INSERT INTO IAdjust (AdjustmentID, WarehouseID) VALUES (1, 2)"_s,
-         u"'Freezer'...\nAdjustments exist for this location"_s},
-        {MasterKinds::location(), 2, u"INSERT INTO IReceipt (ReceiptID, WarehouseID) VALUES (1, 2)"_s,
-         u"'Freezer'...\nReceipts exist for this location"_s},
-        {MasterKinds::location(), 2, u"INSERT INTO IHist (IHistID, WarehouseID) VALUES (1, 2)"_s,
-         u"'Freezer'...\nHistory exists for this location"_s},
-        {MasterKinds::tax(), 7, u"INSERT INTO ARInv (InvoiceID, Tax2ID) VALUES (1, 7)"_s,
-         u"tax 'VAT'...\nInvoice(s) exist for this tax"_s},
-        {MasterKinds::tax(), 7, u"UPDATE ARInv SET Tax1ID = 7, Tax2ID = NULL"_s,
-         u"tax 'VAT'...\nInvoice(s) exist for this tax"_s},
-        {MasterKinds::tax(), 7, u"INSERT INTO Customer (CustomerID, Tax2ID) VALUES (1, 7)"_s,
-         u"tax 'VAT'...\nCustomer(s) exist for this tax"_s},
-        {MasterKinds::tax(), 7, u"UPDATE Customer SET Tax1ID = 7, Tax2ID = NULL"_s,
-         u"tax 'VAT'...\nCustomer(s) exist for this tax"_s},
-        {MasterKinds::currency(), 4, u"INSERT INTO Customer (CustomerID, CurrencyID) VALUES (3, 4)"_s,
-         u"'Old'...\nCustomer(s) exist for this currency"_s},
-        {MasterKinds::currency(), 4, u"INSERT INTO Vendor (VendorID, CurrencyID) VALUES (9, 4)"_s,
-         u"'Old'...\nVendor(s) exist for this currency"_s},
-        {MasterKinds::currency(), 4, u"INSERT INTO Bank (BankID, CurrencyID) VALUES (9, 4)"_s,
-         u"'Old'...\nBank(s) exist for this currency"_s},
-        {MasterKinds::bank(), 7, u"INSERT INTO ARPmt (PaymentID, BankID) VALUES (1, 7)"_s,
-         u"'First Bank'...\nAR payment(s) exist for this bank"_s},
-        {MasterKinds::bank(), 7, u"INSERT INTO APCheq (ChequeID, BankID) VALUES (1, 7)"_s,
-         u"'First Bank'...\nAP cheque(s) exist for this bank"_s},
+        {MasterKinds::itemType(), 7, u"Item (ItemID, ItemTypeID)"_s, u"Item(s) exist for this item type"_s},
+        {MasterKinds::location(), 2, u"IAdjust (AdjustmentID, WarehouseID)"_s,
+         u"Adjustments exist for this location"_s},
+        {MasterKinds::location(), 2, u"IReceipt (ReceiptID, WarehouseID)"_s, u"Receipts exist for this location"_s},
+        {MasterKinds::location(), 2, u"IHist (IHistID, WarehouseID)"_s, u"History exists for this location"_s},
+        {MasterKinds::tax(), 7, u"ARInv (InvoiceID, Tax2ID)"_s, u"Invoice(s) exist for this tax"_s},
+        {MasterKinds::tax(), 8, u"ARInv (InvoiceID, Tax1ID)"_s, u"Invoice(s) exist for this tax"_s},
+        {MasterKinds::tax(), 7, u"Customer (CustomerID, Tax2ID)"_s, u"Customer(s) exist for this tax"_s},
+        {MasterKinds::tax(), 8, u"Customer (CustomerID, Tax1ID)"_s, u"Customer(s) exist for this tax"_s},
+        {MasterKinds::currency(), 4, u"Customer (CustomerID, CurrencyID)"_s,
+         u"Customer(s) exist for this currency"_s},
+        {MasterKinds::currency(), 4, u"Vendor (VendorID, CurrencyID)"_s, u"Vendor(s) exist for this currency"_s},
+        {MasterKinds::currency(), 4, u"Bank (BankID, CurrencyID)"_s, u"Bank(s) exist for this currency"_s},
+        {MasterKinds::bank(), 7, u"ARPmt (PaymentID, BankID)"_s, u"AR payment(s) exist for this bank"_s},
+        {MasterKinds::bank(), 7, u"APCheq (ChequeID, BankID)"_s, u"AP cheque(s) exist for this bank"_s},
     };
-    for (const auto &[kind, key, referral, reason] : referrals) {
-        kitchen.execute(referral);
+    kitchen.execute(u"INSERT INTO Tax (TaxID, TaxName) VALUES (8, 'GST')"_s);
+    int row = 100;
+    for (const auto &[kind, key, fields, reason] : referrals) {
+        kitchen.execute(u"INSERT INTO %1 VALUES (%2, %3)"_s.arg(fields).arg(++row).arg(key));
         MasterList list(database, kind);
         list.open();
         ASSERT_TRUE(list.moveTo(key));
-        EXPECT_EQ(refusalOf([&] { list.remove(prompts); }), u"Unable to delete %1 -> "_s.arg(reason));
+        const QString refusal = u"'%1'...\n%2 -> "_s.arg(list.currentName(), reason);
+        EXPECT_TRUE(refusalOf([&] { list.remove(prompts); }).endsWith(refusal)) << refusal.toStdString();
         EXPECT_EQ(list.currentKey(), key) << "still there";
     }
 }

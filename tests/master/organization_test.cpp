@@ -28,14 +28,6 @@ protected:
         record.open();
     }
 
-    MasterRecord record{kitchen.database(), MasterKinds::company()};
-    Engine::Table &company = record.table();
-};
-
-// The rules of the fields do not depend on the store.
-class OrganizationFields : public Organization
-{
-protected:
     // What typing a text into a field of the organization says, or else leaves there.
     QString typed(const QString &field, const QString &text)
     {
@@ -43,11 +35,15 @@ protected:
         const QString refusal = refusalOf([&] { company.setText(field, text); });
         return refusal.isEmpty() ? company.text(field) : refusal;
     }
+
+    MasterRecord record{kitchen.database(), MasterKinds::company()};
+    Engine::Table &company = record.table();
 };
+ON_BOTH_STORES(Organization);
 
 } // namespace
 
-TEST_P(OrganizationFields, YearsAreTypedInTwoDigitsAndPeriodsGoFrom1To12)
+TEST_P(Organization, YearsAreTypedInTwoDigitsAndPeriodsGoFrom1To12)
 {
     for (const auto stem :
          {"DefaultPeriod"_L1, "WPeriodFrom"_L1, "WPeriodTo"_L1, "EPeriodFrom"_L1, "EPeriodTo"_L1}) {
@@ -64,7 +60,7 @@ TEST_P(OrganizationFields, YearsAreTypedInTwoDigitsAndPeriodsGoFrom1To12)
     EXPECT_TRUE((typed(u"EPeriodToYYYY"_s, u""_s), company.value(u"EPeriodToYYYY").isNull()));
 }
 
-TEST_P(OrganizationFields, NothingIsSavedWithoutNameAndFiscalYear)
+TEST_P(Organization, NothingIsSavedWithoutNameAndFiscalYear)
 {
     const std::tuple<QString, int, QString> cases[] = {
         {u""_s, 0, u"CompanyName"_s},    {u"X"_s, 0, u"FiscalYear"_s}, {u"X"_s, 1988, u"FiscalYear"_s},
@@ -78,8 +74,6 @@ TEST_P(OrganizationFields, NothingIsSavedWithoutNameAndFiscalYear)
         EXPECT_EQ(company.isEditing(), !refused.isEmpty());
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(, OrganizationFields, testing::Values(Store::Local));
 
 TEST_P(Organization, TheFirstRecordIsBegunOnceWithItsDefaults)
 {
@@ -124,5 +118,3 @@ TEST_P(Organization, TheYearEndMovesEverythingToTheFirstPeriodOfTheNextYear)
     record.save();
     EXPECT_EQ(kitchen.rows(ranges), QStringList{u"2027|0|2027|1|2027|1|2027|1|2027|1|2027"_s});
 }
-
-ON_BOTH_STORES(Organization);

@@ -1,14 +1,34 @@
-#include "master/itemsync.h"
-
 #include "engine/table.h"
-#include "tests/master/hostkitchen.h"
+#include "host/tables/hosttables.h"
+#include "master/itemsync.h"
+#include "master/locationsync.h"
 #include "tests/support/brokentable.h"
+#include "tests/support/kitchen.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 using Engine::ErrorCode;
 
 namespace {
+
+// The kitchen with the host's places and items. Its locations are linked to no place, and its items' numbers are no
+// host items' IDs.
+class HostKitchen : public Kitchen
+{
+public:
+    explicit HostKitchen(Store store)
+        : Kitchen(store)
+    {
+        HostTables::createHostTables(database(), u"Test Kitchen"_s, u"USA"_s);
+    }
+
+    // Another program's idea of a table: no key, and room for long texts.
+    void replaceTable(const QString &table, const QString &columns)
+    {
+        database().dropTable(table);
+        execute(QStringLiteral("CREATE TABLE %1 (%2)").arg(table, columns));
+    }
+};
 
 class ItemSyncTest : public testing::TestWithParam<Store>
 {
@@ -63,22 +83,14 @@ TEST_P(ItemSyncTest, NewItemsTakeReservedKeysAndLeaveOneUnused)
 
 TEST_P(ItemSyncTest, MealCodesDecideTheTypeAndUnknownOnesChangeIt)
 {
-    const std::tuple<QString, int, int> cases[] = {
-        {u"'B'"_s, 1, 1}, {u"'L'"_s, 2, 2}, {u"'D'"_s, 3, 3}, {u"'MF'"_s, 4, 4}, {u"'SF'"_s, 5, 5},
-        {u"'O'"_s, 6, 6}, {u"'X'"_s, 3, 6}, {u"'b'"_s, 3, 6}, {u"''"_s, 3, 6},   {u"NULL"_s, 3, 6},
-    };
     int id = 0;
-    for (const auto &[meal, added, updated] : cases)
-        addHostItem(++id, u"'Meal'"_s, u"1"_s, meal);
+    for (const char16_t *meal : {u"'B'", u"'L'", u"'D'", u"'MF'", u"'SF'", u"'O'", u"'X'", u"'b'", u"''", u"NULL"})
+        addHostItem(++id, u"'Meal'"_s, u"1"_s, QString::fromUtf16(meal));
+    const auto types = [this] { return kitchen.rows(u"SELECT ItemTypeID FROM Item ORDER BY ItemID"_s).join(u' '); };
     run();
-    const auto expectTypes = [&](auto typeOf) {
-        int key = 9;
-        for (const auto &one : cases)
-            EXPECT_EQ(of(u"ItemTypeID"_s, ++key), QString::number(typeOf(one))) << std::get<0>(one).toStdString();
-    };
-    expectTypes([](const auto &one) { return std::get<1>(one); });
+    EXPECT_EQ(types(), u"1 2 3 4 5 6 3 3 3 3");
     EXPECT_EQ(run().updated, 4);
-    expectTypes([](const auto &one) { return std::get<2>(one); });
+    EXPECT_EQ(types(), u"1 2 3 4 5 6 6 6 6 6");
 }
 
 TEST_P(ItemSyncTest, NumbersLinkByWhatTheyReadAs)
@@ -213,6 +225,67 @@ TEST_P(ItemSyncTest, WhoHoldsTheItemsKeepsEverythingAsItIs)
     EXPECT_EQ(of(u"ItemDescription"_s, 1), u"old");
     EXPECT_EQ(nextItemID(), u"10");
     EXPECT_EQ(run().added, 1);
+}
+
+class LocationSyncTest : public testing::TestWithParam<Store>
+{
+protected:
+    HostSyncResult run() { return LocationSync(kitchen.database()).run(progress); }
+    QString locations()
+    {
+        return kitchen.rows(u"SELECT WarehouseID, WarehouseName, Location_ID FROM Warehse ORDER BY WarehouseID"_s)
+            .join(u' ');
+    }
+
+    HostKitchen kitchen{GetParam()};
+    CountedProgress progress;
+};
+ON_BOTH_STORES(LocationSyncTest);
+
+TEST_P(LocationSyncTest, PlacesBecomeLocationsAboveTheHighestKeyAndRenameThem)
+{
+    kitchen.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (8, 'East'), (9, 'West'), (7, 'South')"_s);
+    EXPECT_EQ(run().added, 3);
+    EXPECT_EQ(locations(), u"1|Office| 2|Freezer| 3|South|7 4|East|8 5|West|9");
+    EXPECT_EQ(progress.steps, 3);
+    EXPECT_TRUE(progress.finished);
+
+    kitchen.execute(u"UPDATE Locatns SET Location = 'Far south' WHERE Location_ID = 7; "
+                    "DELETE FROM Locatns WHERE Location_ID = 8; "
+                    "UPDATE Warehse SET WarehouseName = 'Mine' WHERE Location_ID = 9"_s);
+    const HostSyncResult result = run();
+    EXPECT_EQ(locations(), u"1|Office| 2|Freezer| 3|Far south|7 4|East|8 5|West|9");
+    EXPECT_EQ(result.added, 0);
+    EXPECT_EQ(result.updated, 2);
+    EXPECT_EQ(run().updated, 0);
+    kitchen.execute(u"DELETE FROM Warehse"_s);
+    run();
+    EXPECT_EQ(locations(), u"1|Far south|7 2|West|9");
+}
+
+TEST_P(LocationSyncTest, NamesComeAsTheyAreAndFitTheirField)
+{
+    const QString quoted = u"O'Brien \"100%\" [a];--"_s;
+    const QString emoji = QString::fromUcs4(U"\U0001F35E");
+    kitchen.replaceTable(u"Locatns"_s, u"Location_ID INTEGER, Location VARCHAR(80)"_s);
+    kitchen.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, '%1'), (8, '%2'), (9, NULL), "
+                    "(8, 'the same again'), (NULL, 'nowhere'); DELETE FROM Warehse"_s.arg(
+                        QString(quoted).replace(u'\'', u"''"_s), emoji.repeated(60)));
+    EXPECT_EQ(run().added, 3);
+    kitchen.execute(u"DELETE FROM Locatns WHERE Location = 'the same again'"_s);
+    for (const bool renamed : {false, true}) {
+        EXPECT_EQ(run().updated, renamed ? 3 : 0);
+        EXPECT_EQ(locations(), u"1|%1|7 2|%2|8 3||9"_s.arg(quoted, emoji.repeated(50)));
+        kitchen.execute(u"UPDATE Warehse SET WarehouseName = 'old'"_s);
+    }
+}
+
+TEST_P(LocationSyncTest, NumbersThatAreUsedUpAreNoOverflow)
+{
+    kitchen.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'A'), (8, 'B'); "
+                    "INSERT INTO Warehse (WarehouseID) VALUES (2147483646)"_s);
+    EXPECT_EQ(errorOf([this] { run(); }), ErrorCode::BadValue);
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Warehse"_s), 3);
 }
 
 } // namespace
