@@ -5,10 +5,15 @@
 #include "engine/error.h"
 
 #include <QLoggingCategory>
+#include <QScopedValueRollback>
 
 namespace Tallymere {
 
 Q_LOGGING_CATEGORY(screens, "tallymere.screens", QtWarningMsg)
+
+namespace {
+bool tellingOfTheStore = false;
+} // namespace
 
 Guard::Guard(Prompts &prompts, std::function<void(const QString &)> focusColumn, QWidget *window)
     : m_prompts(prompts)
@@ -48,6 +53,7 @@ void Guard::report(const std::exception_ptr &failure) const
         focus(abort.column());
     } catch (const Engine::EngineError &error) {
         trace(failure);
+        const QScopedValueRollback telling(tellingOfTheStore, true);
         m_prompts.error(error.text());
     } catch (const std::exception &error) {
         m_prompts.error(QString::fromUtf8(error.what()));
@@ -64,6 +70,8 @@ void Guard::trace(const std::exception_ptr &failure)
         qCDebug(screens) << error.what();
     }
 }
+
+bool Guard::isTellingOfTheStore() { return tellingOfTheStore; }
 
 QString Guard::columnOf(const std::exception_ptr &failure)
 {

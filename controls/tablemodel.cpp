@@ -88,8 +88,17 @@ bool TableModel::attempt(const std::function<void()> &reading) const
         return true;
     if (!std::exchange(m_failed, true))
         QMetaObject::invokeMethod(
-            const_cast<TableModel *>(this), [this, failure] { m_guard.report(failure); }, Qt::QueuedConnection);
+            const_cast<TableModel *>(this), [this, failure] { tell(failure); }, Qt::QueuedConnection);
     return false;
+}
+
+// A store that failed a handler fails what is painted under that message as well, which need not be told again.
+void TableModel::tell(const std::exception_ptr &failure) const
+{
+    if (Guard::isTellingOfTheStore())
+        Guard::trace(failure);
+    else
+        m_guard.report(failure);
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const

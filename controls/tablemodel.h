@@ -54,6 +54,7 @@ private:
     void findFields();
     int rowStartingWith(const QString &field, const QString &text) const; // -1 when there is none
     bool attempt(const std::function<void()> &reading) const; // false, and a report to come, when it failed
+    void tell(const std::exception_ptr &failure) const;
     void readFirstPage();
     void showRows(int rows);
 

@@ -17,6 +17,7 @@ public:
     std::function<void()> onRetry;
     std::function<void()> onInform;
     std::function<void()> onWarn;
+    std::function<void()> onError;
 
     void inform(const QString &text) override
     {
@@ -30,7 +31,12 @@ public:
         if (onWarn)
             onWarn();
     }
-    void error(const QString &text) override { said << QStringLiteral("error: ") + text; }
+    void error(const QString &text) override
+    {
+        said << QStringLiteral("error: ") + text;
+        if (onError)
+            onError();
+    }
     bool confirm(Tallymere::Question question, const QString &text) override
     {
         said << caption(question) + QStringLiteral(": ") + text;
