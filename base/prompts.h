@@ -7,8 +7,8 @@ namespace Tallymere {
 enum class Answer { Yes, No, Cancel };
 
 // How a question is put: about something that the user wants or is warned of, with OK and Cancel; or about what he may
-// as well leave undone, with Yes and No.
-enum class Question { Confirm, Warning, YesNo };
+// as well leave undone, with Yes and No; or, with Yes and No as well, about what is gone then.
+enum class Question { Confirm, Warning, YesNo, Loss };
 
 QString caption(Question question); // of its box: "Confirm", "Warning"
 
@@ -21,7 +21,7 @@ public:
     virtual void inform(const QString &text) = 0;
     virtual void warn(const QString &text) = 0;
     virtual void error(const QString &text) = 0;
-    // True for OK and for Yes. Of OK and Cancel the default is Cancel.
+    // True for OK and for Yes. Of OK and Cancel the default is Cancel, of a loss No, and else Yes.
     virtual bool confirm(Question question, const QString &text) = 0;
     // Without a title the box has the application's name.
     virtual Answer yesNoCancel(const QString &text, const QString &title = {}) = 0;

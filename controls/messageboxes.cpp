@@ -88,9 +88,9 @@ void MessageBoxes::error(const QString &text)
 
 bool MessageBoxes::confirm(Question question, const QString &text)
 {
-    if (question == Question::YesNo) {
-        return ask(QMessageBox::Question, caption(question), text, QMessageBox::Yes | QMessageBox::No,
-                   QMessageBox::Yes)
+    if (question == Question::YesNo || question == Question::Loss) {
+        const auto preset = question == Question::Loss ? QMessageBox::No : QMessageBox::Yes;
+        return ask(QMessageBox::Question, caption(question), text, QMessageBox::Yes | QMessageBox::No, preset)
             == QMessageBox::Yes;
     }
     const auto icon = question == Question::Warning ? QMessageBox::Warning : QMessageBox::Question;

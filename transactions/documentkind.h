@@ -43,7 +43,7 @@ struct DocumentKind
     };
     struct Deleting
     {
-        Question asks = Question::YesNo;
+        Question asks = Question::Loss;
         QString question; // "Delete receipt '%1'?"
         QString nameField; // what the question and the refusal call the document: "ReceiptNo"
         QString posted; // refuses one that has been posted: "Unable to delete receipt '%1'..."

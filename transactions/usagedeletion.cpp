@@ -33,7 +33,7 @@ bool UsageDeletion::run(Prompts &prompts, const QString &user)
     refuseEdited(keys);
     const QString question = TransactionsTexts::tr(
         "Delete the %1 usage(s) with an inventory date of %2?\nThis action can't be reversed!");
-    if (!prompts.confirm(Question::YesNo, question.arg(QString::number(keys.size()), m_dateText)))
+    if (!prompts.confirm(Question::Loss, question.arg(QString::number(keys.size()), m_dateText)))
         return false;
     execute(u"DELETE FROM IUsageDet WHERE UsageID IN "
             "(SELECT UsageID FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false)"_s);

@@ -38,6 +38,20 @@ TEST(Guard, showsItsBoxesOverItsWindow)
         << "it has gone";
 }
 
+TEST(MessageBoxes, giveNothingUpAtEnter)
+{
+    MessageBoxes boxes;
+    const auto answerToEnter = [&](Question question) {
+        bool answer = false;
+        EXPECT_TRUE(whileOpen<QMessageBox>([&] { answer = boxes.confirm(question, u"Well?"_s); },
+                                           [](QMessageBox &) { press(Qt::Key_Return); }));
+        return answer;
+    };
+    EXPECT_TRUE(answerToEnter(Question::YesNo));
+    EXPECT_FALSE(answerToEnter(Question::Loss));
+    EXPECT_FALSE(answerToEnter(Question::Confirm));
+}
+
 TEST(Guard, showsWhatStopsAHandlerAndLetsNothingPast)
 {
     const std::tuple<const char *, std::function<void()>, QStringList> stops[] = {

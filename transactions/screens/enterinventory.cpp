@@ -103,7 +103,7 @@ bool TFormEnterInventory::mayLoseCounts(const QString &question)
 {
     if (!m_count.hasEdits())
         return true;
-    const bool confirmed = context().prompts.confirm(Question::YesNo, question);
+    const bool confirmed = context().prompts.confirm(Question::Loss, question);
     showStatus();
     if (!confirmed)
         return false;
