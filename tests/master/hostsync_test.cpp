@@ -13,24 +13,20 @@ namespace {
 
 // The kitchen with the host's places and items. Its locations are linked to no place, and its items' numbers are no
 // host items' IDs.
-class HostKitchen : public Kitchen
+class HostSyncTest : public KitchenTest
 {
-public:
-    explicit HostKitchen(Store store)
-        : Kitchen(store)
-    {
-        HostTables::createHostTables(database(), u"Test Kitchen"_s, u"USA"_s);
-    }
+protected:
+    HostSyncTest() { HostTables::createHostTables(kitchen.database(), u"Test Kitchen"_s, u"USA"_s); }
 
     // Another program's idea of a table: no key, and room for long texts.
     void replaceTable(const QString &table, const QString &columns)
     {
-        database().dropTable(table);
-        execute(QStringLiteral("CREATE TABLE %1 (%2)").arg(table, columns));
+        kitchen.database().dropTable(table);
+        kitchen.execute(u"CREATE TABLE %1 (%2)"_s.arg(table, columns));
     }
 };
 
-class ItemSyncTest : public testing::TestWithParam<Store>
+class ItemSyncTest : public HostSyncTest
 {
 protected:
     ItemSyncTest()
@@ -57,9 +53,6 @@ protected:
     {
         return kitchen.text(u"SELECT %1 FROM Item WHERE ItemID = %2"_s.arg(field).arg(key));
     }
-
-    HostKitchen kitchen{GetParam()};
-    CountedProgress progress;
 };
 ON_BOTH_STORES(ItemSyncTest);
 
@@ -143,8 +136,8 @@ TEST_P(ItemSyncTest, OnlyChangedItemsAreUpdated)
 
 TEST_P(ItemSyncTest, WhatAnotherProgramHasWrittenIsTakenAsFarAsItFits)
 {
-    kitchen.replaceTable(
-        u"Items"_s, u"Item_ID BIGINT, Meal_Item VARCHAR(80), Billed_Amount DOUBLE PRECISION, Meal VARCHAR(10)"_s);
+    replaceTable(u"Items"_s,
+                 u"Item_ID BIGINT, Meal_Item VARCHAR(80), Billed_Amount DOUBLE PRECISION, Meal VARCHAR(10)"_s);
     const QString emoji = QString::fromUcs4(U"\U0001F35E");
     addHostItem(1, u'\'' + emoji.repeated(60) + u'\'', u"1.00004"_s, u"'MFX'"_s);
     addHostItem(2, u"NULL"_s, u"NULL"_s);
@@ -227,7 +220,7 @@ TEST_P(ItemSyncTest, WhoHoldsTheItemsKeepsEverythingAsItIs)
     EXPECT_EQ(run().added, 1);
 }
 
-class LocationSyncTest : public testing::TestWithParam<Store>
+class LocationSyncTest : public HostSyncTest
 {
 protected:
     HostSyncResult run() { return LocationSync(kitchen.database()).run(progress); }
@@ -236,9 +229,6 @@ protected:
         return kitchen.rows(u"SELECT WarehouseID, WarehouseName, Location_ID FROM Warehse ORDER BY WarehouseID"_s)
             .join(u' ');
     }
-
-    HostKitchen kitchen{GetParam()};
-    CountedProgress progress;
 };
 ON_BOTH_STORES(LocationSyncTest);
 
@@ -267,7 +257,7 @@ TEST_P(LocationSyncTest, NamesComeAsTheyAreAndFitTheirField)
 {
     const QString quoted = u"O'Brien \"100%\" [a];--"_s;
     const QString emoji = QString::fromUcs4(U"\U0001F35E");
-    kitchen.replaceTable(u"Locatns"_s, u"Location_ID INTEGER, Location VARCHAR(80)"_s);
+    replaceTable(u"Locatns"_s, u"Location_ID INTEGER, Location VARCHAR(80)"_s);
     kitchen.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, '%1'), (8, '%2'), (9, NULL), "
                     "(8, 'the same again'), (NULL, 'nowhere'); DELETE FROM Warehse"_s.arg(
                         QString(quoted).replace(u'\'', u"''"_s), emoji.repeated(60)));
