@@ -64,9 +64,9 @@ TEST_P(ItemSyncTest, NewItemsTakeReservedKeysAndLeaveOneUnused)
     EXPECT_EQ(result.added, 3);
     EXPECT_EQ(kitchen
                   .rows(u"SELECT ItemID, ItemNo, ItemDescription, UnitPrice, ItemTypeID, "
-                        "CASE WHEN Suspended THEN 1 ELSE 0 END, WgtAvgCost FROM Item ORDER BY ItemID"_s)
+                        "Suspended, WgtAvgCost FROM Item ORDER BY ItemID"_s)
                   .join(u' '),
-              u"10|4|Meal 4|2.5|1|0| 11|17|Meal 17|2.5|1|0| 12|30|Meal 30|2.5|1|0|");
+              u"10|4|Meal 4|2.5|1|false| 11|17|Meal 17|2.5|1|false| 12|30|Meal 30|2.5|1|false|");
     EXPECT_EQ(nextItemID(), u"14");
     EXPECT_EQ(kitchen.text(u"SELECT NextItemNo FROM ItemCtl"_s), u"1001");
 
