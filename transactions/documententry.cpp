@@ -5,6 +5,8 @@
 #include "data/fiscalperiod.h"
 #include "engine/error.h"
 #include "engine/query.h"
+#include "master/masterkinds.h"
+#include "master/recordnumber.h"
 #include "transactions/texts.h"
 
 #include <algorithm>
@@ -402,23 +404,11 @@ void DocumentEntry::chooseItemByNumber(const QString &itemNo)
         m_lines.set(u"ItemID", {});
         return;
     }
-    const Value itemId = itemOfNumber(itemNo);
-    if (itemId.isNull())
+    const std::optional<int> itemId = findByNumber(database(), MasterKinds::item(), itemNo);
+    if (!itemId)
         throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"),
                         u"ItemNo"_s);
-    m_lines.set(u"ItemID", itemId);
-}
-
-// As typed, or else without regard to letter case.
-Value DocumentEntry::itemOfNumber(const QString &itemNo) const
-{
-    const Value exact =
-        Engine::singleValue(database(), u"SELECT ItemID FROM Item WHERE ItemNo = ? ORDER BY ItemID"_s, {itemNo});
-    if (!exact.isNull())
-        return exact;
-    Engine::Table items(database(), u"Item"_s);
-    items.open();
-    return items.lookUp(u"ItemNo"_s, {itemNo}, u"ItemID", Engine::LocateOption::CaseInsensitive);
+    m_lines.set(u"ItemID", *itemId);
 }
 
 void DocumentEntry::newLine() { m_lines.append(); }

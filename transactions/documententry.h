@@ -136,7 +136,6 @@ private:
     void numberLine();
     int highestSeq() const;
     QString lineName() const;
-    Engine::Value itemOfNumber(const QString &itemNo) const; // null when there is none
     void validateItem(const Engine::Value &itemId) const;
     bool hasLines() const;
 

@@ -1,6 +1,8 @@
 #include "transactions/receiptentry.h"
 
 #include "base/ruleerror.h"
+#include "master/masterkinds.h"
+#include "master/recordnumber.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
 
@@ -47,14 +49,12 @@ void ReceiptEntry::chooseVendorByNumber(const QString &vendorNo)
         chooseInHeader(u"VendorID"_s, {});
         return;
     }
+    const int key = keyByNumber(database(), MasterKinds::vendor(), vendorNo);
     Engine::Table vendor(database(), u"Vendor"_s);
-    vendor.setIndex(u"VENDORNO"_s);
     vendor.open();
-    if (!vendor.findKey({vendorNo}))
-        throw RuleError(TransactionsTexts::tr("Vendor no. '%1' not found").arg(vendorNo), u"VendorNo"_s);
-    if (vendor.boolean(u"Suspended"))
+    if (vendor.findKey({key}) && vendor.boolean(u"Suspended"))
         throw RuleError(TransactionsTexts::tr("Vendor no. '%1' has been suspended").arg(vendorNo), u"VendorNo"_s);
-    chooseInHeader(u"VendorID"_s, vendor.value(u"VendorID"));
+    chooseInHeader(u"VendorID"_s, key);
 }
 
 void ReceiptEntry::validateVendor(const Value &vendorId) const

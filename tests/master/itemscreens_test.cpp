@@ -299,6 +299,9 @@ TEST_F(ItemScreens, NarrowTheListAndFindInIt)
         type("br<Return>");
     }));
     EXPECT_EQ(list->dataSet().text(u"ItemNo"), u"A11");
+    showActive(*list);
+    EXPECT_TRUE(whileOpen<TfrmItemsFind>(find, [](TfrmItemsFind &) { type("b1<Return>"); }));
+    EXPECT_EQ(list->dataSet().text(u"ItemNo"), u"B1") << "letter case is second";
 }
 
 TEST_F(ItemScreens, LeadToTheStockOfAnItem)
