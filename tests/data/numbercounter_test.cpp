@@ -4,6 +4,7 @@
 #include "engine/query.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
+#include "tests/support/otheruser.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -86,6 +87,20 @@ TEST_P(NumberCounter, TableHeldByAnotherUserIsTriedAndReported)
         Engine::ErrorCode::TableInUse);
     EXPECT_TRUE(text.contains(u"ItemCtl"_s)) << text.toStdString();
     EXPECT_EQ(pauses, 14);
+}
+
+TEST_P(NumberCounter, UsersAtTheSameTimeNeverGetTheSameNumber)
+{
+    const QStringList task{u"take"_s, u"60"_s};
+    OtherUser users[] = {{store, task}, {store, task}, {store, task}};
+    QSet<QString> taken;
+    for (OtherUser &user : users) {
+        ASSERT_TRUE(user.finish());
+        for (const QString &number : user.output())
+            taken << number;
+    }
+    EXPECT_EQ(taken.size(), 180);
+    EXPECT_EQ(stored(u"NextInvReceiptID"_s), 180);
 }
 
 ON_BOTH_STORES(NumberCounter);
