@@ -39,18 +39,29 @@ private:
     bool m_ended = false;
 };
 
-// A screen that may refuse to be closed.
+// A screen that writes down what is done to it, and may refuse to be closed.
 class StubbornScreen final : public QWidget, public CommandScreen
 {
 public:
-    using QWidget::QWidget;
-    void refreshList() override { ++refreshed; }
+    StubbornScreen(QStringList &done, QWidget *parent)
+        : QWidget(parent, Qt::Window)
+        , m_done(done)
+    {
+        m_done << u"create"_s;
+    }
+
+    void refreshList() override { m_done << u"refresh"_s; }
+    void resetFilter() override { m_done << u"reset filter"_s; }
+    void showAgain() override { m_done << u"show handler"_s; }
+    void mnuPostClick() override { m_done << u"post"_s; }
 
     bool stubborn = false;
-    int refreshed = 0;
 
 protected:
     void closeEvent(QCloseEvent *event) override { event->setAccepted(!stubborn); }
+
+private:
+    QStringList &m_done;
 };
 
 class OpeningTest : public testing::Test
@@ -81,17 +92,26 @@ protected:
         form.setMenu(reference);
     }
 
-    ScreenRegistry twoScreens()
+    // What the steps of a command are, in order.
+    QString stepsOf(const QString &action)
+    {
+        done.clear();
+        context->runAction(action);
+        return done.join(u", "_s);
+    }
+
+    ScreenRegistry someScreens()
     {
         ScreenRegistry registry;
-        for (const QString &name : {u"frmInvTotals"_s, u"frmWarehousesInv"_s}) {
+        for (const QString &name : {u"frmInvTotals"_s, u"frmWarehousesInv"_s, u"frmItemsInv"_s, u"frmUsages"_s,
+                                    u"frmItemTypesInv"_s, u"frmVendors"_s, u"frmInvReceipts"_s}) {
             const auto create = [this, name](ScreenContext &given, QWidget *parent) {
                 context = &given;
-                screen = new StubbornScreen(parent, Qt::Window);
+                screen = new StubbornScreen(done, parent);
                 screen->setObjectName(name);
                 return screen.data();
             };
-            registry.add(name, plainScreen(create));
+            registry.add(name, {.create = create, .posts = true});
         }
         return registry;
     }
@@ -99,7 +119,8 @@ protected:
     TestCompany company;
     QPointer<StubbornScreen> screen;
     ScreenContext *context = nullptr; // that the screen was given
-    ScreenRegistry screens = twoScreens();
+    QStringList done; // to the screens
+    ScreenRegistry screens = someScreens();
     HostStub host;
     QMenu menu;
     TFormTallymereSystem form{FrameServices{company.settings, company.prompts, screens}};
@@ -249,7 +270,7 @@ TEST_F(OpeningTest, AScreenRunsItsCommandsAndOpensFurtherScreens)
         form.findChild<QAction *>(u"mnuSynchronizeLocations"_s)->trigger();
         context->runAction(u"ActionPrintPayments"_s); // not available
         EXPECT_EQ(company.prompts.take(), QStringList(2, question));
-        EXPECT_EQ(screen->refreshed, 0);
+        EXPECT_FALSE(done.contains(u"refresh"_s));
 
         context->data.databaseTallymere().connection().execute(
             u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'North')"_s);
@@ -257,12 +278,60 @@ TEST_F(OpeningTest, AScreenRunsItsCommandsAndOpensFurtherScreens)
         company.prompts.ok = true;
         const auto *bar = form.findChild<QProgressBar *>(u"RzProgressBar1"_s);
         company.prompts.onInform = [&] { EXPECT_EQ(bar->value(), bar->maximum()); };
-        context->runAction(u"ActionSynchronizeLocations"_s);
+        EXPECT_EQ(stepsOf(u"ActionSynchronizeLocations"_s), u"refresh"_s) << "of the list of locations";
         EXPECT_EQ(company.prompts.take(),
                   (QStringList{question, u"inform: Succesfully completed the synchronization."_s}));
         EXPECT_EQ(bar->value(), 0);
         EXPECT_EQ(context->lookups.tblWarehse().recordCount(), 2) << "drop-down lists show what has come in";
-        EXPECT_EQ(screen->refreshed, 1);
-        EXPECT_EQ(first->refreshed, 0);
+    }));
+}
+
+TEST_F(OpeningTest, CommandsTakeTheirStepsTheFirstAndTheSecondTime)
+{
+    const std::tuple<QString, QString, QString, QString, bool> cases[] = {
+        {u"ActionViewTotals"_s, u"frmInvTotals"_s, u"create, reset filter"_s,
+         u"refresh, reset filter, show handler"_s, true},
+        {u"ActionEditItems"_s, u"frmItemsInv"_s, u"create, reset filter"_s, u"reset filter, show handler"_s, true},
+        {u"ActionEditUsage"_s, u"frmUsages"_s, u"create"_s, u"show handler"_s, true},
+        {u"ActionEditItemTypes"_s, u"frmItemTypesInv"_s, u"create"_s, u"show handler"_s, true},
+        {u"ActionEditVendors"_s, u"frmVendors"_s, u"create"_s, {}, true},
+        {u"ActionPostReceipts"_s, u"frmInvReceipts"_s, u"create, post"_s, u"post"_s, false},
+    };
+    link(&host);
+    EXPECT_TRUE(open([&] {
+        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
+        delete screen;
+        for (const auto &[action, name, first, second, shown] : cases) {
+            SCOPED_TRACE(qPrintable(action));
+            EXPECT_EQ(stepsOf(action), first);
+            EXPECT_EQ(form.findChild<QWidget *>(name)->isVisible(), shown);
+            EXPECT_EQ(stepsOf(action), second);
+        }
+        QStringList asked;
+        context->securityCheck = [&](const QString &key, const QString &name) {
+            asked << key + u'/' + name;
+            return false;
+        };
+        EXPECT_EQ(stepsOf(u"ActionReceiveInventory"_s), QString());
+        EXPECT_EQ(stepsOf(u"ActionPostReceipts"_s), QString());
+        EXPECT_EQ(asked,
+                  (QStringList{u"InvReceipts/Inventory Receipts"_s, u"frmInvReceipts/Inventory Receipts"_s}));
+    }));
+}
+
+TEST_F(OpeningTest, CommandsGoOnToLeadToTheFirstOfSeveralScreens)
+{
+    const auto name = u"frmInvTotals"_s;
+    link(&host);
+    EXPECT_TRUE(open([&] {
+        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
+        QWidget *first = screen;
+        QWidget *further = context->openAnotherScreen(name);
+        EXPECT_NE(further, first);
+        EXPECT_TRUE(first->isVisible() && further->isVisible());
+        EXPECT_EQ(context->openScreen(name), first);
+        delete first;
+        EXPECT_NE(context->openScreen(name), further);
+        EXPECT_EQ(context->openAnotherScreen(u"frmBanksInv"_s), nullptr);
     }));
 }
