@@ -57,7 +57,6 @@ TEST(Guard, showsWhatStopsAHandlerAndLetsNothingPast)
     const std::tuple<const char *, std::function<void()>, QStringList> stops[] = {
         // and what happens, in order
         {"done", [] {}, {u"done"_s}},
-        {"rule", [] { throw RuleError(u"Enter it"_s, u"GLYear"_s); }, {u"focus GLYear"_s, u"error: Enter it"_s}},
         {"rule without field", [] { throw RuleError(u"No"_s); }, {u"error: No"_s}},
         {"silent", [] { throw SilentAbort(u"GLPeriod"_s); }, {u"focus GLPeriod"_s}},
         {"engine", [] { throw Engine::EngineError(Engine::ErrorCode::DiskFull, u"Full"_s); }, {u"error: Full"_s}},

@@ -21,11 +21,6 @@ TableLayout RecordTest::vendor()
              {u"SINCE"_s, u"Since;VendorID"_s, IndexOption::Descending}}};
 }
 
-TableLayout RecordTest::control()
-{
-    return {u"VendCtl"_s, {{u"NextID"_s, FieldType::Integer, 0}, {u"NextNo"_s, FieldType::Integer, 0}}, {}};
-}
-
 TableLayout RecordTest::document()
 {
     return {u"Document"_s,

@@ -7,7 +7,7 @@
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 
-// A small store of vendors, a control row and documents with lines, fresh for each test, in both stores.
+// A small store of vendors and documents with lines, fresh for each test, in both stores.
 class RecordTest : public testing::TestWithParam<Store>
 {
 protected:
@@ -15,14 +15,13 @@ protected:
     {
         store.session().lockAttempts = 2;
         store.session().lockPause = std::chrono::milliseconds(1);
-        for (const Engine::TableLayout &layout : {vendor(), control(), document(), line()})
+        for (const Engine::TableLayout &layout : {vendor(), document(), line()})
             database().createTable(layout);
     }
 
     Engine::Database &database() { return store.database(); }
 
     static Engine::TableLayout vendor();
-    static Engine::TableLayout control();
     static Engine::TableLayout document(); // numbered by the store
     static Engine::TableLayout line();
 

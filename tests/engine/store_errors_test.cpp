@@ -82,19 +82,6 @@ TEST(LocalFailures, WhatCannotBeWrittenIsRefused)
     }
 }
 
-TEST(LocalFailures, AWriterWhoDoesNotGetFreeIsReportedAsBusy)
-{
-    TestStore store(Store::Local);
-    store.execute(u"CREATE TABLE T (a INTEGER)"_s);
-    const auto other = store.anotherUser();
-    Transaction transaction(store.database().connection());
-    Connection &waiting = other->database.connection();
-    waiting.execute(u"PRAGMA busy_timeout = 200"_s);
-    EXPECT_EQ(errorOf([&] { waiting.begin(); }), ErrorCode::Busy);
-    EXPECT_FALSE(waiting.inTransaction());
-    waiting.execute(u"SELECT * FROM T"_s); // reading goes on
-}
-
 // --- server --------------------------------------------------------------------------------------------------------
 
 TEST(RemoteFailures, WhatCannotBeReachedIsNamed)

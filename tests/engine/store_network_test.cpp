@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 #include <QFile>
-#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 using namespace Engine;
@@ -24,7 +23,6 @@ struct NetworkFolder : testing::Test
     } network;
     TestStore store{Store::Local}; // a new database
     Connection &connection = store.database().connection();
-    sqlite3 *other = nullptr; // another user's
     QFile file{store.directory() + u'/' + store.database().name() + ".sqlite"_L1};
 
     void SetUp() override
@@ -34,11 +32,8 @@ struct NetworkFolder : testing::Test
         store.database().createTable({u"Note"_s,
                                       {{u"Number"_s, FieldType::AutoInc, 0}, {u"Words"_s, FieldType::Text, 20}},
                                       {{u""_s, u"Number"_s, IndexOption::Primary}}});
-        ASSERT_EQ(sqlite3_open(file.fileName().toUtf8().constData(), &other), SQLITE_OK);
         ASSERT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
     }
-    void TearDown() override { sqlite3_close(other); }
-    void run(const char *script) { EXPECT_EQ(sqlite3_exec(other, script, nullptr, nullptr, nullptr), SQLITE_OK); }
     QByteArray contentOfFile() { return file.seek(0) ? file.readAll() : QByteArray(); }
     void putContent(const QByteArray &content)
     {
@@ -83,9 +78,10 @@ TEST_F(NetworkFolder, ANumberThatSomebodyElseTookMeanwhileIsCountedAnew)
     notes.open();
     notes.append();
     notes.set(u"Words"_s, u"mine"_s);
-    run("BEGIN; SELECT * FROM Note"); // a reader keeps the commit waiting
+    const auto anna = store.anotherUser();
+    anna->database.connection().execute(u"BEGIN; SELECT * FROM Note"_s); // a reader keeps the commit waiting
     EXPECT_EQ(errorOf([&] { notes.post(); }), ErrorCode::Busy);
-    run("INSERT INTO Note (Words) VALUES ('theirs'); COMMIT");
+    anna->database.connection().execute(u"INSERT INTO Note (Words) VALUES ('theirs'); COMMIT"_s);
     notes.post();
     EXPECT_EQ(notes.integer(u"Number"_s), 2);
     EXPECT_EQ(store.rows(u"SELECT Number, Words FROM Note"_s), (QStringList{u"1|theirs"_s, u"2|mine"_s}));

@@ -41,12 +41,3 @@ public:
 // that it has, and the windows that these open; hands each to the visit.
 void forEachScreen(Tallymere::ScreenContext &context, QWidget &owner,
                    const std::function<void(QWidget &window)> &visit);
-
-// A screen that can be made and nothing more.
-inline Tallymere::ScreenKind plainScreen(std::function<QWidget *(Tallymere::ScreenContext &, QWidget *)> create =
-                                             [](Tallymere::ScreenContext &, QWidget *parent) {
-                                                 return new QWidget(parent, Qt::Window);
-                                             })
-{
-    return {std::move(create)};
-}

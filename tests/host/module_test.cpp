@@ -2,17 +2,12 @@
 #include "host/hostwindow.h"
 #include "plgint/classregistry.h"
 #include "tests/support/hostcompany.h"
+#include "tests/support/screendriver.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QFileInfo>
-#include <QLabel>
 #include <QLibrary>
-#include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -20,31 +15,6 @@ using namespace Tallymere;
 namespace {
 
 const QString moduleUnderTest = QStringLiteral(MODULE_FILE);
-
-QWidget *mainForm()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (window->objectName() == "FormTallymereSystem"_L1)
-            return window;
-    }
-    return nullptr;
-}
-
-// Does something with the modal window that comes up, once.
-void onceModal(std::function<void(QWidget &)> action)
-{
-    auto *timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, action = std::move(action)] {
-        QWidget *modal = QApplication::activeModalWidget();
-        if (!modal)
-            return;
-        timer->deleteLater();
-        timer->stop();
-        action(*modal);
-    });
-    timer->start(5);
-}
 
 class ModuleTest : public testing::Test
 {
@@ -59,6 +29,10 @@ protected:
     {
         makeCompany(m_folder.path(), u"Harvest Table Kitchens"_s);
         useCompanyFolder(settings, m_folder.path());
+    }
+    static QWidget *mainForm(const HostWindow &window)
+    {
+        return window.findChild<QWidget *>(u"FormTallymereSystem"_s);
     }
     QMenu &inventoryMenu(HostWindow &window) { return *window.findChild<QMenu *>(u"menuInventory"_s); }
 
@@ -103,22 +77,18 @@ TEST_F(ModuleTest, OpensFromTheMenuBeforeAndAfterAReload)
     HostWindow window(settings, u"maria"_s, moduleUnderTest);
     EXPECT_EQ(window.findChild<QLabel *>(u"labelCompany"_s)->text(), u"Harvest Table Kitchens"_s);
     for (int round = 0; round < 3; ++round) {
-        QString user;
-        onceModal([&user](QWidget &modal) {
-            if (auto *pane = modal.findChild<QLabel *>(u"RzStatusPane2"_s))
-                user = pane->text();
-            modal.close();
-        });
-        window.openModule();
-        EXPECT_EQ(user, u"maria"_s);
+        const auto expectUser = [](QWidget &modal) {
+            EXPECT_EQ(child<QLabel>(modal, "RzStatusPane2")->text(), u"maria"_s);
+        };
+        EXPECT_TRUE(whileOpen<QWidget>([&] { window.openModule(); }, expectUser));
         window.loadModule();
         ASSERT_EQ(inventoryMenu(window).actions().size(), 1);
     }
-    EXPECT_TRUE(InterfaceRef<IPlugIn>::of(mainForm())->getIsModuleInstalled(u"ARSystem"_s));
-    EXPECT_FALSE(InterfaceRef<IPlugIn>::of(mainForm())->getIsModuleInstalled(u"ARSystem "_s));
+    EXPECT_TRUE(InterfaceRef<IPlugIn>::of(mainForm(window))->getIsModuleInstalled(u"ARSystem"_s));
+    EXPECT_FALSE(InterfaceRef<IPlugIn>::of(mainForm(window))->getIsModuleInstalled(u"ARSystem "_s));
     window.unloadModule();
     EXPECT_TRUE(inventoryMenu(window).actions().isEmpty());
-    EXPECT_EQ(mainForm(), nullptr);
+    EXPECT_EQ(mainForm(window), nullptr);
     EXPECT_EQ(ClassRegistry::instance().classNames(), QStringList());
     window.openModule(); // nothing to open
 }
@@ -128,12 +98,12 @@ TEST_F(ModuleTest, DataOptionsOfTheModuleAreTheHosts)
     const QTemporaryDir other;
     makeCompany(other.path(), u"Second Kitchen"_s);
     HostWindow window(settings, u"maria"_s, moduleUnderTest);
-    onceModal([&](QWidget &modal) {
-        EXPECT_EQ(modal.objectName(), u"FormRegistryEditor"_s);
-        modal.findChild<QLineEdit *>(u"RzButtonEditDataPath"_s)->setText(other.path());
-        modal.findChild<QPushButton *>(u"BitBtnOK"_s)->click();
-    });
-    window.findChild<QAction *>(u"actionDataOptions"_s)->trigger();
+    EXPECT_TRUE(whileOpen<QDialog>([&] { child<QAction>(window, "actionDataOptions")->trigger(); },
+                                   [&](QDialog &dialog) {
+                                       EXPECT_EQ(dialog.objectName(), u"FormRegistryEditor"_s);
+                                       child<QLineEdit>(dialog, "RzButtonEditDataPath")->setText(other.path());
+                                       click(dialog, "BitBtnOK");
+                                   }));
     EXPECT_EQ(window.findChild<QLabel *>(u"labelCompany"_s)->text(), u"Second Kitchen"_s);
     EXPECT_EQ(inventoryMenu(window).actions().size(), 1);
 }

@@ -23,8 +23,8 @@ TEST(HostOptions, AreReadAndRefused)
     EXPECT_FALSE(plain.user.isEmpty());
     EXPECT_FALSE(plain.open);
 
-    for (const QStringList &wrong : {QStringList{u"--data"_s, u"/nowhere/kitchen"_s}, QStringList{u"--data"_s},
-                                     QStringList{u"--bogus"_s}, QStringList{u"file"_s}}) {
+    for (const QStringList &wrong :
+         {QStringList{u"--data"_s, u"/nowhere/kitchen"_s}, QStringList{u"--data"_s}, QStringList{u"file"_s}}) {
         const HostOptions refused = readOptions(QStringList{u"host"_s} + wrong);
         EXPECT_EQ(refused.outcome, HostOptions::Outcome::Refuse) << qPrintable(wrong.join(u' '));
         EXPECT_FALSE(refused.message.isEmpty());
@@ -33,23 +33,19 @@ TEST(HostOptions, AreReadAndRefused)
 
 TEST(HostOptions, ProgramAnswersWithoutADisplay)
 {
-    struct Case
-    {
-        QString argument;
-        int status;
-        QByteArray said;
-    };
-    for (const Case &c : {Case{u"--help"_s, 0, "--data"}, Case{u"--version"_s, 0, "host " TALLYMERE_VERSION "\n"},
-                          Case{u"--bogus"_s, 2, "bogus"}}) {
+    const std::tuple<QString, int, QByteArray> cases[] = {{u"--help"_s, 0, "--data"},
+                                                          {u"--version"_s, 0, "host " TALLYMERE_VERSION "\n"},
+                                                          {u"--bogus"_s, 2, "bogus"}};
+    for (const auto &[argument, status, answer] : cases) {
         QProcess host;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"QT_QPA_PLATFORM"_s, u"none"_s);
         host.setProcessEnvironment(environment);
-        host.start(QStringLiteral(HOST_PROGRAM), {c.argument});
+        host.start(QStringLiteral(HOST_PROGRAM), {argument});
         ASSERT_TRUE(host.waitForFinished(120'000));
         EXPECT_EQ(host.exitStatus(), QProcess::NormalExit);
-        EXPECT_EQ(host.exitCode(), c.status);
+        EXPECT_EQ(host.exitCode(), status);
         const QByteArray said = host.readAllStandardOutput() + host.readAllStandardError();
-        EXPECT_TRUE(said.contains(c.said)) << said.constData();
+        EXPECT_TRUE(said.contains(answer)) << said.constData();
     }
 }

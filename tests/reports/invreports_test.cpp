@@ -120,13 +120,6 @@ TEST_F(InvReportsTest, PreviewsWhatIsChosenAndOffersItAgain)
     EXPECT_EQ(previewed(), QStringList());
     type("<Return>off<Tab>foo");
     EXPECT_EQ(part<QPushButton>("btnNext")->text(), u"&Preview"_s);
-    context->printerDefined = [] { return false; };
-    type("<Return>");
-    EXPECT_EQ(prompts.take(),
-              QStringList{u"error: You do not have a default printer defined.\n\nTo preview or print reports a "
-                          "printer must be defined, though not necessarily attached."_s});
-    EXPECT_TRUE(part<QWidget>("PanelOptions")->isVisible());
-    context->printerDefined = [] { return true; };
     type("<Return>");
     EXPECT_EQ(previewed(), (QStringList{u"detail,A10,Apples,3,2,6"_s, u"report total,,,,,6"_s}));
     EXPECT_TRUE(part<QWidget>("PanelReports")->isVisible());

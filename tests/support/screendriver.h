@@ -115,7 +115,7 @@ inline QString focusName()
     return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
 }
 
-// Runs the action, which opens a modal dialog, and the step on that dialog once it is there. The dialog is rejected
+// Runs the action, which opens a modal dialog, and the step on that dialog once it is there. The dialog is closed
 // afterwards if the step has left it open. False when no dialog came.
 template <typename Dialog>
 bool whileOpen(const std::function<void()> &action, const std::function<void(Dialog &)> &step)
@@ -129,7 +129,7 @@ bool whileOpen(const std::function<void()> &action, const std::function<void(Dia
         EXPECT_TRUE(comesTrue([dialog] { return QApplication::activeWindow() == dialog; }));
         step(*dialog);
         if (dialog->isVisible())
-            dialog->reject();
+            dialog->close();
     });
     action();
     return came;

@@ -111,11 +111,8 @@ TestStore::~TestStore()
 
 std::unique_ptr<TestUser> TestStore::anotherUser(const QString &user)
 {
-    auto other = std::make_unique<TestUser>(user, u"Corvane"_s);
-    if (m_store == Store::Local)
-        other->database.directory = m_folder.path();
-    else
-        other->useTestServer(m_remoteName);
+    auto other = std::make_unique<TestUser>(place());
+    other->session.applicationUser = user;
     return other;
 }
 
