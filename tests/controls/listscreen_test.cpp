@@ -55,11 +55,6 @@ protected:
         settle();
         return *screen;
     }
-    void close(ItemList &screen)
-    {
-        screen.close();
-        settle();
-    }
     static void refresh(const ItemList &screen) { screen.command(u"mnuRefresh"_s)->trigger(); }
     static QString status(const ListScreen &screen, const char *label = "lblRows")
     {

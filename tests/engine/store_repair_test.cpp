@@ -21,13 +21,6 @@ TableLayout paired()
             {{QString(), u"ItemID;WhID"_s, IndexOption::Primary}, {u"WHID"_s, u"WhID"_s, IndexOption::None}}};
 }
 
-TableLayout withoutIndexes()
-{
-    TableLayout layout = numbered();
-    layout.indexes.removeLast();
-    return layout;
-}
-
 constexpr int rowCount = 3000;
 
 // Rows 1 to rowCount, of a text and whatever else there is.
@@ -56,7 +49,9 @@ int count(TestStore &store, const TableLayout &layout)
 
 TEST(Repair, RowsOfSoundPagesAreKept)
 {
-    for (const TableLayout &layout : {numbered(), paired(), withoutIndexes()}) {
+    TableLayout withoutIndexes = numbered();
+    withoutIndexes.indexes.removeLast();
+    for (const TableLayout &layout : {numbered(), paired(), withoutIndexes}) {
         SCOPED_TRACE(layout.name.toStdString());
         TestStore store(Store::Local);
         fill(store, layout);

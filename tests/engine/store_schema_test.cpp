@@ -7,9 +7,7 @@ using namespace Engine;
 
 namespace {
 
-class SchemaTest : public StoreTest
-{
-};
+using SchemaTest = StoreTest;
 
 const IndexDef primaryOver(const QString &fields, IndexOptions more = IndexOption::None)
 {

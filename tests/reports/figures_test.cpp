@@ -45,9 +45,7 @@ QString nameOf(QChar letter, int key, int known)
     return key >= 1 && key <= known ? letter + QString::number(99 - key) : QString();
 }
 QString itemNo(int item) { return nameOf(u'N', item, 10); } // 11 and 12 are gone
-QString typeName(int type) { return nameOf(u'T', type, 3); } // 9 is gone
 QString locationName(int location) { return nameOf(u'L', location, 3); } // 4 is gone
-QString accountNo(int account) { return nameOf(u'A', account, 2); } // 7 is gone
 
 // Stock and history as chance would have it, in a store and here.
 class Books : public TestStore
@@ -216,9 +214,9 @@ private:
                 continue;
             Account account{{}, 0, balance.item, m_shape.byLocation ? balance.location : 0, balance.eighths};
             if (m_shape.outer == "TypeName"_L1)
-                account.outer = typeName(account.outerKey = item.type);
+                account.outer = nameOf(u'T', account.outerKey = item.type, 3); // 9 is gone
             if (m_shape.outer == "GLAccount"_L1)
-                account.outer = accountNo(account.outerKey = item.account);
+                account.outer = nameOf(u'A', account.outerKey = item.account, 2); // 7 is gone
             const auto same = std::ranges::find_if(accounts, [&account](const Account &other) {
                 return other.item == account.item && other.location == account.location;
             });
@@ -434,9 +432,7 @@ std::vector<ReportSelection> selectionsFor(const ReportDescription &report, Book
     return selections;
 }
 
-class Figures : public testing::TestWithParam<Store>
-{
-};
+using Figures = testing::TestWithParam<Store>;
 ON_BOTH_STORES(Figures);
 
 TEST_P(Figures, EqualASecondComputationAndArePrintedAsTheyAreInCsv)
