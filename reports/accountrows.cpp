@@ -33,7 +33,7 @@ int AccountRows::itemAt(int index) const { return m_query.valueAt(index, m_item)
 // Whole items, so that none is read twice; few at first, as somebody waits for the first page.
 void AccountRows::readMovements()
 {
-    constexpr int movementsAtOnce = 150'000; // about
+    constexpr int movementsAtOnce = 250'000; // about
     constexpr size_t mostItems = 1024;
     std::vector<qint64> items;
     const int count = m_query.recordCount();

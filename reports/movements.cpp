@@ -89,11 +89,14 @@ int Movements::readMovements(const QString &items)
     statement->bindInt(first + 1, m_period);
 
     int count = 0;
+    QString description; // the rows of a document, which stand one behind the other, share it
     for (; statement->next(); ++count) {
         const auto number = [&](int column) { return static_cast<int>(statement->intAt(column)); };
+        if (QString text = statement->textAt(7); text != description)
+            description = std::move(text);
         m_read[{number(0), m_byLocation ? number(1) : 0}].push_back(
             {number(2), number(3), number(4), number(5), statement->valueAt(6, Engine::FieldType::Date).toDate(),
-             statement->textAt(7), statement->doubleAt(8)});
+             description, statement->doubleAt(8)});
     }
     for (std::vector<Movement> &list : m_read)
         std::ranges::sort(list, {}, [](const Movement &movement) {

@@ -219,9 +219,10 @@ QString SqliteDialect::inNumberList(const QString &column) const
     return column + " IN (SELECT value FROM json_each(?))"_L1;
 }
 
+// The set of keys is built faster when they come to it in order.
 QString SqliteDialect::inStoredOrder(const QString &table, const QString &key, const QString &condition) const
 {
-    return u"%1 IN (SELECT %1 FROM %2 WHERE %3)"_s.arg(key, table, condition);
+    return u"%1 IN (SELECT %1 FROM %2 WHERE %3 ORDER BY %1)"_s.arg(key, table, condition);
 }
 
 // LIKE would ignore the case of letters, GLOB does not.
