@@ -1,3 +1,4 @@
+#include "base/formats.h"
 #include "base/named.h"
 #include "base/ruleerror.h"
 #include "cli/command.h"
@@ -103,6 +104,15 @@ int positive(const Arguments &arguments, const QString &option, qint64 most)
     return static_cast<int>(number);
 }
 
+int yearOf(const Arguments &arguments)
+{
+    if (!arguments.has(u"year"_s))
+        return 0;
+    if (const std::optional<int> year = yearFromNumber(arguments.number(u"year"_s, 0)))
+        return *year;
+    throw UsageError(Texts::tr("option '--year' takes a year of two or four digits"));
+}
+
 ReportSelection selectionOf(const Arguments &arguments, const ReportDescription &report)
 {
     refuseUntaken(arguments, report);
@@ -112,7 +122,7 @@ ReportSelection selectionOf(const Arguments &arguments, const ReportDescription 
     return {.warehouseId = positive(arguments, u"location"_s, largestKey),
             .itemTypeId = positive(arguments, u"item-type"_s, largestKey),
             .period = positive(arguments, u"period"_s, 12),
-            .year = positive(arguments, u"year"_s, 9999)};
+            .year = yearOf(arguments)};
 }
 
 // A report on periods begins with the default one of the organization unless another is named.

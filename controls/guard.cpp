@@ -53,7 +53,7 @@ void Guard::report(const std::exception_ptr &failure) const
         focus(abort.column());
     } catch (const Engine::EngineError &error) {
         trace(failure);
-        const QScopedValueRollback telling(tellingOfTheStore, true);
+        const QScopedValueRollback telling(tellingOfTheStore, error.isOfTheStore());
         m_prompts.error(error.text());
     } catch (const std::exception &error) {
         m_prompts.error(QString::fromUtf8(error.what()));

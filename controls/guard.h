@@ -31,7 +31,7 @@ public:
     static std::exception_ptr attempt(const std::function<void()> &handler);
     void report(const std::exception_ptr &failure) const;
     static void trace(const std::exception_ptr &failure); // for what the user need not know
-    static bool isTellingOfTheStore(); // a box about an engine error is open, over whatever window
+    static bool isTellingOfTheStore(); // a box about a failed store is open, over whatever window
     static QString columnOf(const std::exception_ptr &failure); // that a refusal names; empty when it names none
 
     // Moves the focus to what shows a column; for an empty name it stays.

@@ -4,6 +4,7 @@
 #include "controls/leaving.h"
 #include "controls/screenmetrics.h"
 #include "controls/stepbox.h"
+#include "controls/typing.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -361,8 +362,7 @@ void LineGrid::keyPressEvent(QKeyEvent *event)
             event->ignore();
         return;
     }
-    const bool typing = !event->text().isEmpty() && event->text().front().isPrint() && !hasControl(event);
-    if (typing && m_model->rowCount() == 0)
+    if (isTyped(*event) && m_model->rowCount() == 0)
         appendLine();
     moveByHand([&] { EntryGrid::keyPressEvent(event); });
 }

@@ -1,5 +1,7 @@
 #include "controls/listsearch.h"
 
+#include "controls/typing.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -8,24 +10,6 @@ namespace Tallymere {
 
 using Engine::DataSet;
 using Engine::OrderedField;
-
-namespace {
-
-bool isPrinted(const QString &text)
-{
-    return !text.isEmpty() && (text.front().isPrint() || text.front().isSurrogate());
-}
-
-// Ctrl with Alt types letters on some keyboards.
-bool isTyped(const QKeyEvent &key)
-{
-    const Qt::KeyboardModifiers modifiers = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    const bool command = modifiers == Qt::ControlModifier || modifiers == Qt::AltModifier
-        || key.modifiers().testFlag(Qt::MetaModifier);
-    return !command && isPrinted(key.text());
-}
-
-} // namespace
 
 ListSearch::ListSearch(const TableModel &model, const Guard &guard, QObject *parent)
     : QObject(parent)

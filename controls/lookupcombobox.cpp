@@ -3,6 +3,7 @@
 #include "controls/comboboxname.h"
 #include "controls/leaving.h"
 #include "controls/screenmetrics.h"
+#include "controls/typing.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -165,8 +166,7 @@ void LookupComboBox::keyPressEvent(QKeyEvent *event)
         choose(0);
     } else if (event->key() == Qt::Key_Escape && isPending()) {
         setChosenId(m_id);
-    } else if (!event->text().isEmpty() && event->text().front().isPrint()
-               && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+    } else if (isTyped(*event)) {
         m_guard->run([&] { typed(event->text()); });
     } else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
         m_guard->run([&] { step(event->key() == Qt::Key_Up ? -1 : 1); });

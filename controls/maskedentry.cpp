@@ -1,6 +1,7 @@
 #include "controls/maskedentry.h"
 
 #include "base/regionalsettings.h"
+#include "controls/typing.h"
 
 #include <algorithm>
 #include <QFocusEvent>
@@ -48,9 +49,7 @@ bool MaskedEntry::eventFilter(QObject *, QEvent *event)
 bool MaskedEntry::refuses(const QKeyEvent &event) const
 {
     const QString typed = event.text();
-    const bool isText = !typed.isEmpty() && typed.front().isPrint()
-        && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (!isText || !m_edit->hasSelectedText())
+    if (!isTyped(event) || !m_edit->hasSelectedText())
         return false;
     QLineEdit empty;
     empty.setInputMask(m_edit->inputMask());

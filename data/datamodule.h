@@ -40,6 +40,7 @@ struct DataModuleOptions
 // host's configuration and seeds the first location, bank and currency. A second start with nothing to change
 // writes nothing. Throws EngineError when the database cannot be reached, when a table that must change is in use,
 // and when the database is not one of the host (table "Config" is missing: nothing has been created then).
+// Some of its sessions and tables have no user yet; they are what screens of applications ask the module for.
 class TDataModuleTallymere final : public TableOwner
 {
 public:

@@ -54,6 +54,11 @@ public:
     ErrorCode code() const { return m_code; }
     // Whether the store itself is gone, so that nothing else will work either.
     bool isStoreLost() const { return m_code == ErrorCode::ConnectionLost || m_code == ErrorCode::FileReplaced; }
+    // Whether the store has failed, and not a lock, a row or a value.
+    bool isOfTheStore() const
+    {
+        return m_code == ErrorCode::General || m_code == ErrorCode::NoSuchTable || m_code >= ErrorCode::CannotOpen;
+    }
     // Whether somebody else's lock was in the way, so that it may go well in a moment.
     bool isHeldByOthers() const
     {

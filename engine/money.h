@@ -28,7 +28,7 @@ public:
     }
 
     constexpr qint64 tenThousandths() const { return m_count; }
-    constexpr double toDouble() const { return static_cast<double>(m_count) / 10000.0; }
+    constexpr double toDouble() const { return static_cast<double>(toLongDouble()); } // rounded once
     constexpr long double toLongDouble() const { return static_cast<long double>(m_count) / 10000.0L; }
 
     constexpr Money operator-() const { return fromTenThousandths(-m_count); }

@@ -172,6 +172,7 @@ void HelpWindow::showFound()
     if (!found.isEmpty()) {
         list->setCurrentRow(0);
         list->setFocus();
+        openFound(list->currentItem());
     }
 }
 

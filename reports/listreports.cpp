@@ -109,7 +109,7 @@ QList<ReportDescription> listReports()
                    documentRows<DocumentKinds::receipt>,
                    {period(), text(u"ReceiptNo"_s, ReportsTexts::tr("Receipt no."), 1),
                     Columns::date(u"ReceiptDate"_s, date), text(u"PurchaseOrderNo"_s, ReportsTexts::tr("PO"), 1.2),
-                    text(u"VendorName"_s, ReportsTexts::tr("Vendor"), 2.6), location(), posted()}),
+                    text(u"VendorName"_s, ReportsTexts::tr("Vendor"), 3), location(), posted()}),
         listReport(u"TrptUsages"_s, ReportsTexts::tr("Inventory Usage"), documentRows<DocumentKinds::usage>,
                    {period(), text(u"UsageNo"_s, ReportsTexts::tr("Usage no."), 1),
                     Columns::date(u"InventoryDate"_s, date), location(),
@@ -120,7 +120,7 @@ QList<ReportDescription> listReports()
                     Columns::date(u"AdjDate"_s, date), location(), posted()}),
         listReport(u"TrptInvHistory"_s, ReportsTexts::tr("Inventory History"), historyRows,
                    {itemNo(), description(), Columns::date(u"TransDate"_s, date), period(),
-                    text(u"TransTypeName"_s, ReportsTexts::tr("Type"), 1.1),
+                    text(u"TransTypeName"_s, ReportsTexts::tr("Type"), 1.2),
                     text(u"TransDescription"_s, ReportsTexts::tr("Description"), 2.8), quantity(u"Quantity"_s),
                     unitCost(), text(u"WarehouseName"_s, ReportsTexts::tr("Location"), 2.6)}),
         listReport(

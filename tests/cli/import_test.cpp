@@ -17,7 +17,8 @@ protected:
     {
         QString all;
         for (const QString &table :
-             {u"ItemType"_s, u"Item"_s, u"Vendor"_s, u"VContact"_s, u"IReceipt"_s, u"IUsage"_s, u"IAdjust"_s})
+             {u"ItemType"_s, u"Item"_s, u"Vendor"_s, u"VContact"_s, u"Warehse"_s, u"Currency"_s, u"Tax"_s,
+              u"Bank"_s, u"IReceipt"_s, u"IRecDet"_s, u"IUsage"_s, u"IUsageDet"_s, u"IAdjust"_s, u"IAdjDet"_s})
             all += rowsOf(cli.anotherUser()->database, u"SELECT count(*) FROM "_s + table).join(u' ') + u' ';
         return all;
     }

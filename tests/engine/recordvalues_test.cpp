@@ -27,6 +27,8 @@ TEST(MoneyTest, ConvertsToTheNearestTenThousandthJudgedOnTheExactValue)
     };
     for (const auto &[value, count] : cases)
         EXPECT_EQ(Money::fromLongDouble(value).tenThousandths(), count) << static_cast<double>(value);
+    EXPECT_EQ(Value(Money::fromTenThousandths(40'000'000'862'691'700)).toText(), u"4000000086269.17")
+        << "rounded once";
 }
 
 TEST(MoneyTest, RefusesWhatIsNoAmount)

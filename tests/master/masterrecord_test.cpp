@@ -174,6 +174,12 @@ TEST_P(Records, DoWithoutCountersUntilTheyAreSaved)
     held.close();
     item.save();
     EXPECT_EQ(kitchen.rows(u"SELECT ItemID, ItemNo FROM Item WHERE ItemNo = '77'"_s), QStringList{u"10000|77"_s});
+
+    kitchen.execute(u"UPDATE Company SET DefaultCurrencyID = 3"_s);
+    MasterRecord vendor(database, MasterKinds::vendor());
+    vendor.open();
+    vendor.newRecord();
+    EXPECT_EQ(vendor.table().integer(u"CurrencyID"), 3);
 }
 
 TEST_P(Records, AreCopiedWithoutWhatIsTheirOwn)

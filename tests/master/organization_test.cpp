@@ -62,9 +62,14 @@ TEST_P(Organization, YearsAreTypedInTwoDigitsAndPeriodsGoFrom1To12)
 
 TEST_P(Organization, NothingIsSavedWithoutNameAndFiscalYear)
 {
-    const std::tuple<QString, int, QString> cases[] = {
-        {u""_s, 0, u"CompanyName"_s},    {u"X"_s, 0, u"FiscalYear"_s}, {u"X"_s, 1988, u"FiscalYear"_s},
-        {u"X"_s, 2051, u"FiscalYear"_s}, {u"X"_s, 1989, {}},           {u"X"_s, 2050, {}},
+    const std::tuple<QString, Engine::Value, QString> cases[] = {
+        {u""_s, 0, u"CompanyName"_s},
+        {u"X"_s, {}, u"FiscalYear"_s},
+        {u"X"_s, 0, u"FiscalYear"_s},
+        {u"X"_s, 1988, u"FiscalYear"_s},
+        {u"X"_s, 2051, u"FiscalYear"_s},
+        {u"X"_s, 1989, {}},
+        {u"X"_s, 2050, {}},
     };
     for (const auto &[name, year, refused] : cases) {
         company.edit();

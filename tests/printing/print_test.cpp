@@ -3,8 +3,8 @@
 #include "printing/printout.h"
 #include "printing/reportoutput.h"
 #include "tests/cli/clirunner.h"
+#include "tests/printing/printsystem.h"
 #include "tests/support/failures.h"
-#include "tests/support/printsystem.h"
 #include "tests/support/spokenprompts.h"
 
 #include <optional>

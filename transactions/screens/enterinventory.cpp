@@ -4,6 +4,7 @@
 #include "base/ruleerror.h"
 #include "controls/listscreen.h"
 #include "controls/screenmetrics.h"
+#include "controls/typing.h"
 #include "data/datamodule.h"
 #include "engine/error.h"
 #include "transactions/documentkinds.h"
@@ -251,8 +252,7 @@ bool TFormEnterInventory::eventFilter(QObject *watched, QEvent *event)
 bool TFormEnterInventory::locationKey(QKeyEvent &key)
 {
     const bool arrow = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
-    const bool letter = !key.text().isEmpty() && key.text().front().isLetterOrNumber()
-        && !(key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+    const bool letter = isTyped(key) && key.key() != Qt::Key_Space;
     if (!arrow && !letter)
         return false;
     m_ui->RzComboBoxLocation->showPopup();

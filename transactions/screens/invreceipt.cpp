@@ -1,6 +1,7 @@
 #include "transactions/screens/invreceipt.h"
 
 #include "controls/screenmetrics.h"
+#include "controls/typing.h"
 #include "data/lookupsdatainv.h"
 #include "transactions/documentkinds.h"
 #include "transactions/receiptentry.h"
@@ -53,9 +54,7 @@ bool TfrmInvReceipt::takeKeyOfVendorNo(const QKeyEvent &event)
         m_ui->cboWarehouse->setFocus();
         return true;
     }
-    const bool types = !event.text().isEmpty() && event.text().front().isPrint()
-        && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (!types || !entry().isPosted())
+    if (!isTyped(event) || !entry().isPosted())
         return false;
     guard().run([this] { entry().header().edit(); });
     return true;
