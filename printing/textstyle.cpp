@@ -57,6 +57,7 @@ const TextMeasure &TextMeasure::of(TextStyle style)
 {
     static const auto measures = [] {
         std::vector<TextMeasure> all;
+        all.reserve(textStyleCount);
         for (int i = 0; i < textStyleCount; ++i)
             all.push_back(TextMeasure(static_cast<TextStyle>(i)));
         return all;

@@ -10,9 +10,10 @@
 #include "transactions/historyview.h"
 #include "transactions/totalsview.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using Engine::Database;
-using Tallymere::Printing::Align;
 using Tallymere::Printing::Column;
 using Tallymere::Printing::RowReaderPtr;
 
@@ -77,7 +78,7 @@ ReportDescription listReport(const QString &name, const QString &title, ReportDe
     ReportDescription report;
     report.name = name;
     report.listText = title;
-    report.rows = rows;
+    report.rows = std::move(rows);
     report.layout.title = title;
     report.layout.columns = columns;
     return report;

@@ -6,10 +6,8 @@
 #include "reports/valuerows.h"
 
 using namespace Qt::StringLiterals;
-using Tallymere::Printing::Align;
 using Tallymere::Printing::Column;
 using Tallymere::Printing::Group;
-using Tallymere::Printing::Total;
 using Tallymere::Printing::TotalOf;
 
 namespace Tallymere::ReportList {

@@ -15,6 +15,7 @@
 #include <QPrinter>
 #include <QScopeGuard>
 #include <QShortcut>
+#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
