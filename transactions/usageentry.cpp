@@ -80,7 +80,7 @@ void UsageEntry::lineRemoved()
 void UsageEntry::restoreLine(const Engine::Row &kept)
 {
     DocumentEntry::restoreLine(kept);
-    const Value cost = kept[static_cast<size_t>(lines().fieldIndex(u"UnitCost"))];
+    const Value &cost = kept[static_cast<size_t>(lines().fieldIndex(u"UnitCost"))];
     const int size = lines().field(u"TaxCodes").size;
     lines().setDefault(u"TaxCodes", cost.isNull() ? Value() : Value(cost.toText().left(size)));
     lines().setDefault(u"UnitCost", {});
