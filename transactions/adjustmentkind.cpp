@@ -50,8 +50,7 @@ const DocumentKind &DocumentKinds::adjustment()
         .filterCaption = TransactionsTexts::tr("Inventory Adjustments Filter"),
         .notPosted = u"(Posted = false)"_s,
         .find = {},
-        .deleting = {.asks = Question::Loss,
-                     .question = TransactionsTexts::tr("Delete adjustment '%1'?"),
+        .deleting = {.question = TransactionsTexts::tr("Delete adjustment '%1'?"),
                      .nameField = u"AdjDescription"_s,
                      .posted =
                          TransactionsTexts::tr("Unable to delete adjustment '%1'...\nIt has already been posted"),

@@ -63,8 +63,7 @@ const DocumentKind &DocumentKinds::usage()
                  .box = u"editUsageNo"_s,
                  .label = TransactionsTexts::tr("&Usage no.:"),
                  .notFound = TransactionsTexts::tr("Usage number '%1' not found")},
-        .deleting = {.asks = Question::Loss,
-                     .question = TransactionsTexts::tr("Delete usage number'%1'?"),
+        .deleting = {.question = TransactionsTexts::tr("Delete usage number'%1'?"),
                      .nameField = u"UsageNo"_s,
                      .posted = TransactionsTexts::tr(
                          "Unable to delete usage %1....\nIt has been posted and therefore can't be deleted."),

@@ -11,6 +11,7 @@
 #include "ui_enterinventory.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QScopeGuard>
 #include <QShortcut>
