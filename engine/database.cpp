@@ -57,6 +57,8 @@ void Database::change(const std::function<void()> &step)
     }
 }
 
+QString Database::identity() { return connection().identity(); }
+
 bool Database::tableExists(const QString &table) { return connection().describe(table).has_value(); }
 
 QStringList Database::tableNames() { return connection().tableNames(); }

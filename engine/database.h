@@ -44,6 +44,11 @@ public:
     // step waiting too long it is undone and done again, as often as record locks are tried; then Busy.
     void change(const std::function<void()> &step);
 
+    // Tells the database from every other one, a few plain letters that stay the same wherever it is reached from. A
+    // file bears them from its creation on, and a copy of it bears the same; on a server they are the server's own, so
+    // that a database that is restored there is another one.
+    QString identity();
+
     bool tableExists(const QString &table);
     QStringList tableNames();
 

@@ -74,6 +74,7 @@ public:
     virtual const Dialect &dialect() const = 0;
     // What messages call the store: the file's path, or the server's address and database.
     virtual QString location() const = 0;
+    virtual QString identity() = 0; // see Database::identity()
 
     // A statement ready to be bound. Prepared once for each text and kept; while one is in use, a second request
     // for the same text gets a statement of its own.

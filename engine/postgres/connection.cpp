@@ -61,6 +61,14 @@ void PostgresConnection::execute(const QString &script)
     }
 }
 
+QString PostgresConnection::identity()
+{
+    const StatementPtr statement =
+        prepare(u"SELECT CAST(system_identifier AS text) || '-' || CAST(oid AS text) "
+                "FROM pg_control_system(), pg_database WHERE datname = current_database()"_s);
+    return statement->next() ? statement->textAt(0) : QString();
+}
+
 void PostgresConnection::drain() { m_link->leavePipeline(); }
 
 void PostgresConnection::commit()

@@ -18,6 +18,7 @@ public:
 
     const Dialect &dialect() const override { return m_dialect; }
     QString location() const override { return m_link->location(); }
+    QString identity() override;
     void execute(const QString &script) override;
     bool sendsAhead() const override { return true; }
     void drain() override;

@@ -9,7 +9,9 @@
 #include "engine/sqlite/statement.h"
 #include "engine/sqlite/watch.h"
 
+#include <limits>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
@@ -38,6 +40,7 @@ SqliteConnection::SqliteConnection(const QString &path, Missing missing, const Q
         watch(user);
         configure();
         m_watch->opened();
+        giveNumberAtOpening();
     } catch (...) {
         sqlite3_close_v2(m_db);
         throw;
@@ -104,6 +107,40 @@ void SqliteConnection::setBulk(bool bulk)
 {
     execute(bulk ? u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s
                  : u"PRAGMA cache_size = -65536; PRAGMA wal_autocheckpoint = 4000"_s);
+}
+
+QString SqliteConnection::identity()
+{
+    if (number() == 0)
+        giveNumber();
+    constexpr int digits = 8;
+    return u"%1"_s.arg(number(), digits, 16, QLatin1Char('0'));
+}
+
+quint32 SqliteConnection::number()
+{
+    const StatementPtr statement = prepare(u"PRAGMA application_id"_s);
+    return statement->next() ? static_cast<quint32>(statement->intAt(0)) : 0;
+}
+
+void SqliteConnection::giveNumber()
+{
+    Transaction transaction(*this);
+    if (number() == 0) // or another program was faster
+        execute(u"PRAGMA application_id = %1"_s.arg(
+            QRandomGenerator::global()->bounded(1, std::numeric_limits<int>::max())));
+    transaction.commit();
+}
+
+// A database that cannot be written at the moment can be read without one.
+void SqliteConnection::giveNumberAtOpening()
+{
+    try {
+        if (number() == 0)
+            giveNumber();
+    } catch (const EngineError &) {
+        rollback();
+    }
 }
 
 LockManager &SqliteConnection::locks() { return *m_locks; }

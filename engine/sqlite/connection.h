@@ -25,6 +25,7 @@ public:
 
     const Dialect &dialect() const override { return m_dialect; }
     QString location() const override { return m_path; }
+    QString identity() override;
     void execute(const QString &script) override;
     bool sendsAhead() const override { return false; }
     void drain() override { }
@@ -52,6 +53,9 @@ private:
     void open(int flags);
     void watch(const QString &user);
     void configure();
+    quint32 number(); // which the header bears for its application, 0 for none
+    void giveNumber();
+    void giveNumberAtOpening();
     void stamp();
     qint64 salvage(const TableLayout &table, const QString &copy); // the rows lost
     QString spelling(const QString &table); // as stored, null when there is no such table

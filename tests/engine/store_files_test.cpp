@@ -163,3 +163,18 @@ TEST(LocalFiles, ALockFileThatIsNoLongerAtItsPlaceLocksNothing)
     kitchen.shell(u"rm data/Corvane.lck && touch elsewhere && ln -s ../elsewhere data/Corvane.lck"_s);
     EXPECT_EQ(errorOf([&] { kitchen.connection(); }), ErrorCode::CannotOpen) << "a link is not followed";
 }
+
+TEST(LocalFiles, ADatabaseKeepsItsNumberWhereverItGoesAndGetsOneIfItHasNone)
+{
+    Kitchen kitchen;
+    const QString identity = kitchen.maria.database.identity();
+    kitchen.shell(u"mkdir other && cp data/Corvane.sqlite other"_s);
+    TestUser anna(QStringList{u"local"_s, kitchen.home.filePath(u"other"_s)});
+    EXPECT_EQ(anna.database.identity(), identity);
+    anna.database.connection().execute(u"PRAGMA application_id = 0"_s); // as other programs make it
+    anna.database.close();
+    anna.database.connection();
+    EXPECT_EQ(rowsOf(anna.database, u"SELECT application_id <> 0 FROM pragma_application_id"_s),
+              QStringList{u"1"_s});
+    EXPECT_NE(anna.database.identity(), identity);
+}
