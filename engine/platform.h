@@ -29,6 +29,9 @@ struct FileIdentity
 // Of the file that the path leads to, through links; nothing when there is none.
 std::optional<FileIdentity> identityOfFile(const QString &path);
 
+// How many names (hard links) a file has; 0 when there is none.
+quint64 namesOfFile(const QString &path);
+
 // Waits until the socket can be read, or written; false when the time has passed.
 bool waitForSocket(int socket, bool forWriting, std::chrono::milliseconds time);
 // Waits until one of two sockets can be read, or the second one written; false when the time has passed.

@@ -99,6 +99,12 @@ std::optional<FileIdentity> identityOfFile(const QString &path)
     return identityOf(AT_FDCWD, QFile::encodeName(path).constData(), 0);
 }
 
+quint64 namesOfFile(const QString &path)
+{
+    struct statx info = {};
+    return statx(AT_FDCWD, QFile::encodeName(path).constData(), 0, STATX_NLINK, &info) == 0 ? info.stx_nlink : 0;
+}
+
 namespace {
 
 struct pollfd waitingOn(int socket, bool forWriting)

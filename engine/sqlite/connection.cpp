@@ -9,10 +9,12 @@
 #include "engine/sqlite/statement.h"
 #include "engine/sqlite/watch.h"
 
+#include <chrono>
 #include <limits>
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <sqlite3.h>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -95,10 +97,27 @@ void SqliteConnection::configure()
     // Write-ahead logging needs memory shared between the writers, which network folders do not give.
     const QString journal = isLocalFileSystem(SqliteWatch::realPath(m_db)) ? u"WAL"_s : u"DELETE"_s;
     execute(u"PRAGMA temp_store = MEMORY"_s);
-    execute("PRAGMA journal_mode = "_L1 + journal + ';'_L1);
+    chooseJournal(journal);
     execute(u"PRAGMA synchronous = FULL"_s);
     setBulk(false);
     execute(u"PRAGMA schema_version"_s); // the first read opens the log
+}
+
+// Two programs that do it with a new file at the same moment are in each other's way, and SQLite does not wait then.
+void SqliteConnection::chooseJournal(const QString &journal)
+{
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(busyMilliseconds);
+    constexpr int longestPause = 20;
+    for (;;) {
+        try {
+            return execute("PRAGMA journal_mode = "_L1 + journal);
+        } catch (const EngineError &error) {
+            if (error.code() != ErrorCode::Busy || std::chrono::steady_clock::now() > end)
+                throw;
+        }
+        std::this_thread::sleep_for(
+            std::chrono::milliseconds(QRandomGenerator::global()->bounded(1, longestPause)));
+    }
 }
 
 // Indexes are written all over, and each group of a run writes many of the same pages again: what does not fit the
@@ -130,6 +149,8 @@ void SqliteConnection::giveNumber()
         execute(u"PRAGMA application_id = %1"_s.arg(
             QRandomGenerator::global()->bounded(1, std::numeric_limits<int>::max())));
     transaction.commit();
+    if (m_watch)
+        m_watch->numbered(number());
 }
 
 // A database that cannot be written at the moment can be read without one.
@@ -138,6 +159,7 @@ void SqliteConnection::giveNumberAtOpening()
     try {
         if (number() == 0)
             giveNumber();
+        m_watch->numbered(number());
     } catch (const EngineError &) {
         rollback();
     }

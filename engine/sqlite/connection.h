@@ -53,6 +53,7 @@ private:
     void open(int flags);
     void watch(const QString &user);
     void configure();
+    void chooseJournal(const QString &journal);
     quint32 number(); // which the header bears for its application, 0 for none
     void giveNumber();
     void giveNumberAtOpening();

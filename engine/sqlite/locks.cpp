@@ -3,9 +3,12 @@
 #include "engine/error.h"
 #include "engine/stablenumber.h"
 
+#include <chrono>
 #include <QCoreApplication>
+#include <QScopeGuard>
 #include <QStringList>
 #include <QSysInfo>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +24,8 @@ constexpr qint64 noteLocks = qint64(1) << 62;
 constexpr int noteCount = 512;
 constexpr int noteSize = 512;
 constexpr qint64 memoPlace = qint64(noteCount) * noteSize;
+constexpr qint64 memoLock = noteLocks + noteCount;
+constexpr int memoAttempts = 500; // a millisecond apart: others hold it for a few reads and writes of the memo
 
 qint64 openByte(const QString &table)
 {
@@ -157,6 +162,21 @@ void FileLocks::setMemo(const QString &text)
 {
     if (m_file)
         m_file->write(memoPlace, text.toUtf8().left(noteSize - 1).leftJustified(noteSize - 1, ' ') + '\n');
+}
+
+void FileLocks::holdingMemo(const std::function<void()> &step)
+{
+    if (!m_file)
+        return step();
+    const auto unlock = qScopeGuard([this] { m_file->unlock(memoLock, 1); });
+    try {
+        for (int attempt = 1;
+             !m_file->tryLock(memoLock, 1, RangeLockFile::Mode::Exclusive) && attempt < memoAttempts; ++attempt)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    } catch (const EngineError &) {
+        // A system that gives no more locks: what others write at the same moment may be missed.
+    }
+    step();
 }
 
 std::optional<LockOwner> FileLocks::ownerOf(const QString &table)

@@ -30,6 +30,8 @@ public:
     // nothing was written yet.
     QString memo() const;
     void setMemo(const QString &text);
+    // Does a short step while nobody else does one with the memo. What it reads and writes there belongs together.
+    void holdingMemo(const std::function<void()> &step);
 
 protected:
     bool changeOpen(const QString &table, OpenMode from, OpenMode to) override;

@@ -4,11 +4,14 @@
 #include "engine/sqlite/locks.h"
 
 #include <algorithm>
+#include <limits>
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QStringList>
 #include <QtEndian>
 #include <sqlite3.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +19,12 @@ namespace Engine {
 
 namespace {
 
-constexpr int stampPlace = 60; // of the header field that SQLite leaves to the application ("user version")
+// Of the header fields that SQLite leaves to the application ("user version", "application ID").
+constexpr int stampPlace = 60;
+constexpr int numberPlace = 68;
+
+// No two copies that were written to separately come to the same stamp, but for one in so many.
+constexpr int largestStep = 256;
 
 QStringList wordsOf(const FileIdentity &file)
 {
@@ -55,16 +63,32 @@ SqliteWatch::SqliteWatch(sqlite3 *db, const QString &path, FileLocks &locks)
     , m_realPath(realPath(db))
     , m_locks(locks)
 {
+    requireOneName();
     m_memo.file = identityOfFile(m_realPath).value_or(FileIdentity());
-    m_memo.stamp = headerStamp();
     m_memo.start = systemStart();
     m_memo.generation = 1;
+    m_locks.holdingMemo([this] { recognize(); });
+}
+
+void SqliteWatch::requireOneName() const
+{
+    if (namesOfFile(m_realPath) > 1)
+        raise(
+            ErrorCode::CannotOpen,
+            Texts::tr("The file %1 has a second name (a hard link). Two users who open it by different names would "
+                      "destroy each other's work. Remove the other name, or put a copy of the file in its place.")
+                .arg(m_path));
+}
+
+// Whether the file is still the one that the memo of former programs speaks of.
+void SqliteWatch::recognize()
+{
     const std::optional<Memo> before = readMemo();
     if (!before)
         return;
     // A power cut takes back a header that was not on the disk yet, and the log makes up for it.
-    const bool putBack = before->start == m_memo.start && m_memo.stamp < before->stamp;
-    const bool replaced = before->file != m_memo.file || putBack;
+    const bool otherContent = before->start == m_memo.start && !before->mayHave(header());
+    const bool replaced = before->file != m_memo.file || otherContent;
     m_memo.generation = before->generation + (replaced ? 1 : 0);
     if (replaced)
         putLogAside(before->log);
@@ -78,14 +102,27 @@ void SqliteWatch::opened()
         refuse(State::Replaced); // in the very moment of opening
     m_memo.log = identityOfFile(logPath()).value_or(FileIdentity());
     m_logIndex = identityOfFile(logIndexPath()).value_or(FileIdentity());
-    m_memo.stamp = std::min<qint64>(headerStamp(), storedStamp()); // the header may be in the middle of a commit
-    std::optional<Memo> written = readMemo();
-    if (!written || !written->isOfSameFiles(m_memo) || written->start != m_memo.start) {
-        writeMemo();
-        written = readMemo();
-    }
-    m_hasMemo = written && written->isOfSameFiles(m_memo);
+    const int stored = storedStamp();
+    // Nobody stamps before the memo speaks of these files, so what has been read holds until it does.
+    m_locks.holdingMemo([this, stored] {
+        m_memo.stamp = std::min<qint64>(header().stamp, stored); // the header may be in the middle of a commit
+        m_memo.latest = std::max<qint64>(header().stamp, stored);
+        std::optional<Memo> written = readMemo();
+        if (!written || !written->isOfSameFiles(m_memo) || written->start != m_memo.start) {
+            writeMemo(m_memo);
+            written = readMemo();
+        }
+        m_hasMemo = written && written->isOfSameFiles(m_memo);
+    });
     m_opened = true;
+}
+
+void SqliteWatch::numbered(quint32 number)
+{
+    m_memo.number = number;
+    const std::optional<Memo> written = readMemo();
+    if (written && written->number != number)
+        change([number](Memo &memo) { memo.number = number; });
 }
 
 std::optional<SqliteWatch::Memo> SqliteWatch::readMemo() const
@@ -93,23 +130,50 @@ std::optional<SqliteWatch::Memo> SqliteWatch::readMemo() const
     const QStringList words = m_locks.memo().split(u' ');
     if (words.size() < 9)
         return std::nullopt;
-    return Memo{words[0].toULongLong(), identityFrom(words, 1), identityFrom(words, 4), words[7].toLongLong(),
-                words[8]};
+    Memo memo{words[0].toULongLong(), identityFrom(words, 1), identityFrom(words, 4), words[7].toLongLong(),
+              words[8]};
+    if (words.size() > 10) {
+        memo.latest = words[9].toLongLong();
+        memo.number = words[10].toUInt();
+    }
+    return memo;
 }
 
-void SqliteWatch::writeMemo() const
+void SqliteWatch::writeMemo(const Memo &memo) const
 {
-    const QStringList words = QStringList(QString::number(m_memo.generation)) + wordsOf(m_memo.file)
-        + wordsOf(m_memo.log) + QStringList{QString::number(m_memo.stamp), m_memo.start};
+    const QStringList words = QStringList(QString::number(memo.generation)) + wordsOf(memo.file) + wordsOf(memo.log)
+        + QStringList{QString::number(memo.stamp), memo.start, QString::number(memo.latest),
+                      QString::number(memo.number)};
     m_locks.setMemo(words.join(u' '));
 }
 
-// What stands in the file itself, whatever the log holds besides. A file that is too short for a header, as a new one
-// without a log is up to its first write, is lower than all others.
-qint64 SqliteWatch::headerStamp() const
+// Of the memo that all share, unless it speaks of other files by now.
+void SqliteWatch::change(const std::function<void(Memo &)> &step) const
 {
-    qint32 stamp = 0;
-    return readFile(m_db, &stamp, sizeof stamp, stampPlace) ? qFromBigEndian(stamp) : -1;
+    if (!m_hasMemo)
+        return;
+    m_locks.holdingMemo([&] {
+        std::optional<Memo> written = readMemo();
+        if (!written || !written->isOfSameFiles(m_memo))
+            return;
+        step(*written);
+        writeMemo(*written);
+    });
+}
+
+bool SqliteWatch::Memo::mayHave(const Header &header) const
+{
+    if (number != 0 && header.number != 0 && header.number != number)
+        return false;
+    return header.stamp == stamp || header.stamp == latest || (latest < 0 && header.stamp >= stamp);
+}
+
+SqliteWatch::Header SqliteWatch::header() const
+{
+    char bytes[numberPlace + sizeof(quint32) - stampPlace];
+    if (!readFile(m_db, bytes, sizeof bytes, stampPlace))
+        return {};
+    return {qFromBigEndian<qint32>(bytes), qFromBigEndian<quint32>(bytes + numberPlace - stampPlace)};
 }
 
 int SqliteWatch::storedStamp() const
@@ -130,36 +194,50 @@ bool SqliteWatch::isHeaderSettled() const
 
 bool SqliteWatch::isContentOurs()
 {
-    const qint64 stamp = headerStamp();
-    if (stamp < m_memo.stamp)
+    const Header now = header(); // before the memo, which is never behind it
+    if (now.stamp < m_memo.stamp)
+        return false;
+    if (!m_hasMemo) {
+        if (isHeaderSettled())
+            m_memo.stamp = now.stamp;
+        return m_memo.number == 0 || now.number == 0 || now.number == m_memo.number;
+    }
+    const std::optional<Memo> written = readMemo();
+    if (!written || !written->isOfSameFiles(m_memo) || !written->mayHave(now))
         return false;
     if (isHeaderSettled())
-        m_memo.stamp = stamp;
-    if (!m_hasMemo)
-        return true;
-    const std::optional<Memo> written = readMemo();
-    if (!written || !written->isOfSameFiles(m_memo))
-        return false;
-    if (written->stamp < m_memo.stamp)
-        writeMemo();
-    return written->stamp <= stamp || written->stamp <= headerStamp();
+        m_memo.stamp = now.stamp;
+    m_memoIsBehind = written->stamp < m_memo.stamp;
+    return true;
 }
 
-SqliteWatch::State SqliteWatch::state()
+SqliteWatch::State SqliteWatch::look()
 {
-    if (!m_opened || m_lost != State::Ours)
-        return m_lost;
     const std::optional<FileIdentity> file = identityOfFile(m_realPath);
     if (!file)
         return State::Elsewhere;
     if (file != m_memo.file || !isContentOurs())
-        return m_lost = State::Replaced;
+        return State::Replaced;
     if (m_path != m_realPath && identityOfFile(m_path) != m_memo.file)
         return State::Elsewhere;
     if (m_memo.log == FileIdentity())
         return State::Ours;
     const bool logInPlace = identityOfFile(logPath()) == m_memo.log && identityOfFile(logIndexPath()) == m_logIndex;
     return logInPlace ? State::Ours : State::WithoutLog;
+}
+
+SqliteWatch::State SqliteWatch::state()
+{
+    if (!m_opened || m_lost != State::Ours)
+        return m_lost;
+    State now = look();
+    if (now != State::Ours) // unless another program was about to write the header or the memo
+        m_locks.holdingMemo([&] { now = look(); });
+    if (now == State::Replaced)
+        m_lost = now;
+    if (now == State::Ours && std::exchange(m_memoIsBehind, false))
+        change([this](Memo &memo) { memo.stamp = std::max(memo.stamp, m_memo.stamp); });
+    return now;
 }
 
 void SqliteWatch::check()
@@ -207,11 +285,22 @@ void SqliteWatch::refuse(State state) const
 
 std::optional<int> SqliteWatch::stampDue()
 {
-    m_stampingOver = headerStamp();
-    if (m_stampingOver == m_stampedOver)
+    const qint64 before = header().stamp;
+    m_stampingOver = before;
+    if (before == m_stampedOver)
         return std::nullopt;
-    m_stamping = storedStamp() + 1;
-    return m_stamping > 0 ? std::optional(m_stamping) : std::nullopt;
+    const int stored = storedStamp();
+    m_stamping = stored;
+    if (m_memo.log != FileIdentity() && stored != before)
+        return std::nullopt; // others have stamped over it
+    m_stamping += QRandomGenerator::global()->bounded(1, largestStep + 1);
+    if (m_stamping > std::numeric_limits<int>::max())
+        return std::nullopt;
+    change([&](Memo &memo) {
+        memo.stamp = before;
+        memo.latest = m_stamping;
+    });
+    return static_cast<int>(m_stamping);
 }
 
 void SqliteWatch::committed()
@@ -219,10 +308,8 @@ void SqliteWatch::committed()
     m_stampedOver = m_stampingOver;
     if (m_memo.log != FileIdentity())
         return; // the header gets the stamp with the rest of the log
-    m_memo.stamp = std::max<qint64>(m_memo.stamp, m_stamping);
-    const std::optional<Memo> written = m_hasMemo ? readMemo() : std::nullopt;
-    if (written && written->isOfSameFiles(m_memo) && written->stamp < m_memo.stamp)
-        writeMemo();
+    m_memo.stamp = std::max(m_memo.stamp, m_stamping);
+    change([this](Memo &memo) { memo.stamp = std::max(memo.stamp, m_stamping); });
 }
 
 } // namespace Engine

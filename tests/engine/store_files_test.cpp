@@ -19,7 +19,8 @@ QString contentOf(const QString &folder)
         .ask(u"rows SELECT a FROM T UNION ALL SELECT integrity_check FROM pragma_integrity_check"_s);
 }
 
-// The database lies in "data". The backup, a file beside it, holds "old" only; "today" stands in the log alone.
+// The database lies in "data". The backup, a file beside it, holds "old" only; "today" stands in the log alone. The
+// later copy was taken to another machine yesterday, where work went on.
 struct Kitchen
 {
     QTemporaryDir home;
@@ -37,6 +38,7 @@ struct Kitchen
         shell(u"cp data/Corvane.sqlite backup"_s);
         insert(u"yesterday"_s);
         maria.database.close();
+        shell(u"cp data/Corvane.sqlite later"_s);
         insert(u"today"_s);
     }
     Connection &connection() { return maria.database.connection(); }
@@ -45,6 +47,19 @@ struct Kitchen
         Transaction transaction(connection());
         connection().execute(u"INSERT INTO T VALUES ('%1')"_s.arg(value));
         transaction.commit();
+    }
+
+    // Work on a copy, each statement as a visit of its own.
+    void change(const QString &file, const QStringList &statements) const
+    {
+        shell(u"mkdir away && mv %1 away/Corvane.sqlite"_s.arg(file));
+        for (const QString &statement : statements) {
+            TestUser anna(QStringList{u"local"_s, home.filePath(u"away"_s)});
+            Transaction transaction(anna.database.connection());
+            anna.database.connection().execute(statement);
+            transaction.commit();
+        }
+        shell(u"mv away/Corvane.sqlite %1 && rm -r away"_s.arg(file));
     }
 
     void shell(const QString &command) const
@@ -92,6 +107,67 @@ TEST(LocalFiles, ADatabaseThatIsNoLongerAtItsPlaceTakesNoMoreWrites)
         annas.kill();
         EXPECT_EQ(contentOf(kitchen.home.filePath(QString::fromLatin1(loss.place))),
                   QString::fromLatin1(loss.content));
+    }
+}
+
+namespace {
+
+const struct Copy
+{
+    const char *name;
+    QStringList changes;
+    QString content;
+} laterCopies[] = {
+    {"work went on in it",
+     {u"INSERT INTO T VALUES ('later')"_s, u"INSERT INTO T VALUES ('and later')"_s,
+      u"PRAGMA user_version = 9999999"_s},
+     u"old yesterday later and later ok"_s},
+    {"another database of the same stamp", {u"PRAGMA application_id = 7"_s}, u"old yesterday ok"_s},
+};
+
+} // namespace
+
+TEST(LocalFiles, ALaterCopyLaidOverTheFileStaysAsItIs)
+{
+    for (const Copy &copy : laterCopies) {
+        for (const bool killed : {false, true}) { // and not in use any more, but with its log beside it
+            SCOPED_TRACE(std::string(copy.name) + (killed ? ", killed before" : ""));
+            Kitchen kitchen;
+            kitchen.change(u"later"_s, copy.changes);
+            OtherUser annas({u"local"_s, kitchen.folder}, {u"obey"_s});
+            ASSERT_EQ(annas.ask(u"sql INSERT INTO T VALUES ('annas')"_s), u"yes"_s);
+            if (killed) {
+                kitchen.maria.database.close();
+                annas.kill();
+                ASSERT_TRUE(QFile::exists(kitchen.folder + "/Corvane.sqlite-wal"_L1));
+            }
+            kitchen.shell(u"cp later data/Corvane.sqlite"_s);
+            if (!killed) {
+                EXPECT_EQ(errorOf([&] { kitchen.insert(u"lost"_s); }), ErrorCode::FileReplaced);
+                EXPECT_TRUE(annas.ask(u"sql DELETE FROM T"_s).contains("replaced"_L1));
+                kitchen.maria.database.close();
+                annas.kill();
+            }
+            EXPECT_EQ(contentOf(kitchen.folder), copy.content);
+        }
+    }
+}
+
+TEST(LocalFiles, AFileOfTwoNamesIsNotOpened)
+{
+    for (const char *command :
+         {"mkdir other && ln data/Corvane.sqlite other/Corvane.sqlite", "cp -al data other"}) {
+        Kitchen kitchen;
+        kitchen.maria.database.close();
+        kitchen.shell(QString::fromLatin1(command));
+        for (const char *folder : {"data", "other"}) {
+            TestUser anna(QStringList{u"local"_s, kitchen.home.filePath(QString::fromLatin1(folder))});
+            QString message;
+            EXPECT_EQ(errorOf([&] { anna.database.connection(); }, &message), ErrorCode::CannotOpen);
+            EXPECT_TRUE(message.contains(anna.database.directory + "/Corvane.sqlite"_L1)) << message.toStdString();
+        }
+        kitchen.shell(u"rm -r other"_s);
+        EXPECT_EQ(contentOf(kitchen.folder), u"old yesterday today ok"_s);
     }
 }
 

@@ -40,6 +40,48 @@ void obey(Database &database, const QStringList &)
     }
 }
 
+void writeOnce(Database &database)
+{
+    Transaction transaction(database.connection());
+    database.connection().execute(u"CREATE TABLE IF NOT EXISTS T (a integer)"_s);
+    database.connection().execute(u"INSERT INTO T VALUES (1)"_s);
+    transaction.commit();
+}
+
+// Comes to the database, makes it if need be, and goes, twice; gives its identity or the first failure.
+QString visitTwice(Database &database)
+{
+    QString identity;
+    try {
+        for (int visit = 0; visit < 2; ++visit) {
+            identity = database.identity();
+            if (database.session().type == SessionType::Local)
+                writeOnce(database);
+            database.close();
+        }
+    } catch (const EngineError &error) {
+        identity = error.text();
+    }
+    database.close();
+    return identity;
+}
+
+// Goes to the place that a line of standard input names, a folder or a database of the server; an empty line asks how it
+// went.
+void visit(Database &database, const QStringList &)
+{
+    database.createIfMissing = true;
+    QString answer;
+    for (std::string line; std::getline(std::cin, line);) {
+        if (line.empty()) {
+            std::cout << answer.toStdString() << std::endl;
+            continue;
+        }
+        database.directory = database.remoteName = QString::fromStdString(line);
+        answer = visitTwice(database);
+    }
+}
+
 } // namespace
 
-int main(int argc, char **argv) { return runTests(argc, argv, {{u"obey"_s, obey}}); }
+int main(int argc, char **argv) { return runTests(argc, argv, {{u"obey"_s, obey}, {u"visit"_s, visit}}); }

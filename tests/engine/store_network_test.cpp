@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <QFile>
+#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 using namespace Engine;
@@ -50,13 +51,22 @@ struct NetworkFolder : testing::Test
 TEST_F(NetworkFolder, WhatAnotherUserTakesBackIsNoReplacement)
 {
     write(u"one"_s);
+    const auto reader = store.anotherUser();
+    const auto other = store.anotherUser();
+    other->database.connection();
+    reader->database.connection().execute(u"BEGIN; SELECT * FROM Note"_s);
+    connection.begin();
+    connection.execute(u"INSERT INTO Note (Words) VALUES ('taken back')"_s);
+    ASSERT_EQ(errorOf([&] { connection.commit(); }), ErrorCode::Busy);
     const QByteArray header = contentOfFile();
     QByteArray raised = header;
-    raised[stampPlace] = 99;
-    putContent(raised); // as in the middle of a commit
-    connection.execute(u"SELECT 1"_s); // looks at the file
+    qToBigEndian(store.rows(u"PRAGMA user_version"_s).first().toInt(), raised.data() + stampPlace);
+    putContent(raised); // as in the middle of the commit
+    other->database.connection().execute(u"SELECT 1"_s); // looks at the file
     putContent(header);
-    write(u"two"_s);
+    connection.rollback();
+    reader->database.connection().execute(u"COMMIT"_s);
+    other->database.connection().execute(u"INSERT INTO Note (Words) VALUES ('two')"_s);
     EXPECT_EQ(store.rows(u"SELECT Words FROM Note"_s), (QStringList{u"one"_s, u"two"_s}));
 }
 
