@@ -2,8 +2,10 @@
 
 #include "engine/attempts.h"
 #include "engine/error.h"
+#include "engine/query.h"
 #include "engine/session.h"
 
+using namespace Qt::StringLiterals;
 using Engine::EngineError;
 using Engine::ErrorCode;
 using Engine::Table;
@@ -29,6 +31,36 @@ void save(Table &counters)
     counters.close();
 }
 
+bool isUsed(Engine::Database &database, qint64 key, const QString &keyField, const QStringList &tables)
+{
+    QStringList rows;
+    for (const QString &table : tables)
+        rows << u"SELECT 1 FROM %1 WHERE %2 = ?"_s.arg(table, keyField);
+    const QList<Engine::Value> keys(tables.size(), key);
+    return !Engine::singleValue(database, rows.join(" UNION ALL "_L1) + " LIMIT 1"_L1, keys).isNull();
+}
+
+// The end of the run of keys that a used one stands in. A counter may be a whole table behind: one statement goes along
+// the index to the first gap.
+qint64 behindRun(Engine::Database &database, qint64 used, const QString &keyField, const QString &table)
+{
+    const QString gap =
+        u"SELECT CAST(T.%1 AS BIGINT) + 1 FROM %2 T WHERE T.%1 >= ? AND NOT EXISTS "
+        "(SELECT 1 FROM %2 N WHERE N.%1 = CAST(T.%1 AS BIGINT) + 1) ORDER BY T.%1 LIMIT 1"_s.arg(keyField, table);
+    return Engine::singleValue(database, gap, {used}).toInt64();
+}
+
+qint64 firstFree(Engine::Database &database, qint64 key, const QString &keyField, const QStringList &tables)
+{
+    while (isUsed(database, key, keyField, tables)) {
+        for (const QString &table : tables) {
+            if (isUsed(database, key, keyField, {table}))
+                key = behindRun(database, key, keyField, table);
+        }
+    }
+    return key;
+}
+
 } // namespace
 
 qint64 CounterRow::take(QStringView field)
@@ -36,6 +68,13 @@ qint64 CounterRow::take(QStringView field)
     const qint64 number = value(field);
     set(field, number + 1);
     return number;
+}
+
+qint64 CounterRow::takeKey(QStringView field, const QString &keyField, const QStringList &tables)
+{
+    const qint64 key = firstFree(m_table.database(), value(field), keyField, tables);
+    set(field, key + 1);
+    return key;
 }
 
 void CounterRow::restartOutside(QStringView field, qint64 lowest, qint64 highest, qint64 restart)

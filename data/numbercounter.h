@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 namespace Tallymere {
@@ -32,6 +33,9 @@ public:
 
     // Hands out the field's number and moves the field on by one.
     qint64 take(QStringView field);
+    // The same for the key of a new record, passing over every key that a row of the tables has in the key field: a
+    // counter may be behind them, as one that was restored or emptied is. The tables have an index that begins with it.
+    qint64 takeKey(QStringView field, const QString &keyField, const QStringList &tables);
     // Starts again at restart when the field lies outside lowest..highest.
     void restartOutside(QStringView field, qint64 lowest, qint64 highest, qint64 restart);
     void restartWhenZero(QStringView field, qint64 restart);

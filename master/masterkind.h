@@ -129,6 +129,7 @@ struct MasterKind
 
     QString nameField() const { return nameFields.constLast(); } // the name without the number
     QString recordName(const Engine::DataSet &row) const; // "1001: Flour"
+    QStringList keyTables() const { return QStringList(table) + list.ownedTables; } // that a key can stand in
     bool hasDefault(const QString &field) const; // one of the defaults, not a preset one
     QString filterExpression(const ListFilter &filter) const; // empty: everything is shown
 };

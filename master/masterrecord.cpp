@@ -15,7 +15,9 @@ NumberSource numbersIfInReach(Engine::Database &database)
     return [&database](const QString &table, const CounterRule &rule) {
         try {
             takeNumbers(database, table, rule);
-        } catch (const Engine::EngineError &) {
+        } catch (const Engine::EngineError &error) {
+            if (error.isStoreLost())
+                throw;
             // the record stays without
         }
     };
@@ -117,7 +119,8 @@ void MasterRecord::assignIdentity(const NumberSource &source)
             m_table.setDefault(m_kind.numberField, m_givenNumber);
         }
         counters.restartWhenZero(m_kind.record.keyCounter, firstCountedKey);
-        m_table.setDefault(m_kind.keyField, counters.take(m_kind.record.keyCounter));
+        m_table.setDefault(m_kind.keyField,
+                           counters.takeKey(m_kind.record.keyCounter, m_kind.keyField, m_kind.keyTables()));
     });
 }
 

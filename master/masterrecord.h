@@ -17,7 +17,7 @@ public:
     MasterRecord &operator=(const MasterRecord &) = delete;
 
     // Where numbers and counted keys come from. Unless set, at once from their counters, and a control table that
-    // stays out of reach leaves a new record without: the check before saving asks for the number, and saving tries
+    // stays out of reach, with the store still there, leaves a new record without: the check before saving asks for the number, and saving tries
     // again for the key.
     NumberSource numbers;
 

@@ -98,8 +98,20 @@ void DocumentEntry::newDocument(const QString &number)
 bool DocumentEntry::openDocument(int key)
 {
     m_wasSaved = false;
-    m_visit.begin();
+    beginVisit();
     return m_header.findKey({key});
+}
+
+void DocumentEntry::beginVisit()
+{
+    m_visit.begin();
+    visitBegins();
+}
+
+void DocumentEntry::endVisit()
+{
+    m_visit.end();
+    visitBegins();
 }
 
 // --- header --------------------------------------------------------------------------------------------------
@@ -113,18 +125,18 @@ void DocumentEntry::hookHeader()
     m_header.events.beforePost = [this] { checkHeader(); };
     m_header.events.afterPost = [this] {
         m_wasSaved = true;
-        m_visit.end();
+        endVisit();
     };
     m_header.events.postFailed = [this](const Engine::EngineError &error) {
         if (error.code() == ErrorCode::KeyViolation)
             throw RuleError(m_kind.numberTaken, m_kind.shownField());
     };
-    m_header.events.afterCancel = [this] { m_visit.end(); };
+    m_header.events.afterCancel = [this] { endVisit(); };
 }
 
 void DocumentEntry::newHeader()
 {
-    m_visit.begin();
+    beginVisit();
     assignNumbers();
     m_header.setDefault(m_kind.dateField, today());
     m_header.setDefault(u"Posted", false);
@@ -136,7 +148,7 @@ void DocumentEntry::assignNumbers()
 {
     const DocumentKind::Counters &from = m_kind.counters;
     numbers(from.table, [&](CounterRow &counters) {
-        m_header.setDefault(m_kind.keyField, counters.take(from.key));
+        m_header.setDefault(m_kind.keyField, counters.takeKey(from.key, m_kind.keyField, m_kind.keyTables()));
         if (from.number.isEmpty() || !m_givenNumber.isEmpty())
             return;
         counters.restartOutside(from.number, firstNumber, lastNumber, from.restart);

@@ -95,6 +95,7 @@ protected:
     QDate today() const { return database().session().today(); }
 
     // --- what the kinds of documents do differently ----------------------------------------------------------
+    virtual void visitBegins() { } // to a document new or opened, or anew once its changes are stored or dropped
     virtual void configureFields(); // labels, formats and checks of fields, once the tables are open
     virtual void presetHeader() { } // further defaults of a new header
     virtual void checkComplete() { } // before everything else when the header is saved
@@ -120,6 +121,8 @@ protected:
     bool exists(const QString &table, const QString &keyField, const Engine::Value &key) const;
 
 private:
+    void beginVisit();
+    void endVisit();
     void hookHeader();
     void hookLines();
 

@@ -106,6 +106,7 @@ struct DocumentKind
 
     QString titleOf(const Engine::DataSet &header) const; // "Receipt 1001"
     static FilterBox locationBox();
+    QStringList keyTables() const { return {headerTable, lineTable}; } // in which a key of a document can stand
     const QString &shownField() const { return numberField.isEmpty() ? keyField : numberField; }
 };
 

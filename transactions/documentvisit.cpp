@@ -73,8 +73,14 @@ bool DocumentVisit::isStoredAlready() const
 {
     const Engine::LockManager &locks = m_header.database().connection().locks();
     const bool wasLost = locks.areLost() || locks.losses() != m_losses;
-    return wasLost && m_header.state() == Engine::TableState::Insert
-        && !Engine::singleValue(m_header.database(),
+    return wasLost && isNew() && hasStoredHeader();
+}
+
+bool DocumentVisit::isNew() const { return m_header.state() == Engine::TableState::Insert; }
+
+bool DocumentVisit::hasStoredHeader() const
+{
+    return !Engine::singleValue(m_header.database(),
                                 u"SELECT %2 FROM %1 WHERE %2 = ?"_s.arg(m_header.name(), m_keyField), {key()})
                 .isNull();
 }
@@ -93,6 +99,10 @@ void DocumentVisit::keepLines()
     if (m_kept)
         return;
     m_lines.refresh();
+    if (isNew() && (!m_lines.isEmpty() || hasStoredHeader()))
+        throw RuleError(TransactionsTexts::tr("Another document with the key of this new one has been stored "
+                                              "meanwhile. Close this screen with Cancel "
+                                              "and enter the document anew."));
     m_kept.emplace(m_lines, rowsOf(m_lines));
 }
 

@@ -31,7 +31,9 @@ public:
     // Makes sure of the lock of a document in edit. Raises RuleError where it was lost meanwhile and others have changed
     // the lines, or the new document is stored already; EngineError where the header is not as it was.
     void hold();
-    void keepLines(); // as stored now that the document is locked; the first call of a visit counts
+    // As stored now that the document is locked; the first call of a visit counts. Raises RuleError where a new document
+    // has some already: they are another one's, of the same key.
+    void keepLines();
 
     // Around each write of a line.
     void writing();
@@ -47,6 +49,8 @@ public:
 
 private:
     bool isStoredAlready() const;
+    bool isNew() const;
+    bool hasStoredHeader() const;
     std::vector<Engine::Row> storedLines() const;
     Engine::Row currentLine() const;
     int key() const { return m_header.integer(m_keyField); }

@@ -6,6 +6,7 @@
 #include "engine/recordlock.h"
 #include "engine/table.h"
 #include "transactions/countsource.h"
+#include "transactions/documentkinds.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -35,8 +36,9 @@ struct UsageHeader
 // It is the key that is kept in its range here, after it has been taken; numbers go on as they are.
 void number(CalculatedUsage &usage, Engine::Database &database)
 {
+    const DocumentKind &kind = DocumentKinds::usage();
     takeNumbers(database, u"ARInvCtl"_s, [&](CounterRow &counters) {
-        usage.id = counters.take(u"NextInvoiceID");
+        usage.id = counters.takeKey(u"NextInvoiceID", kind.keyField, kind.keyTables());
         counters.restartOutside(u"NextInvoiceID", firstNumber, lastNumber, firstCountedKey + 1);
         usage.number = QString::number(counters.take(u"NextInvoiceNo"));
     });

@@ -8,10 +8,12 @@ using namespace Tallymere;
 
 namespace {
 
-// Takes so many numbers and prints them.
+// Takes so many keys of receipts and prints them.
 void take(Engine::Database &database, const QStringList &count)
 {
-    const auto print = [](CounterRow &row) { std::printf("%lld\n", row.take(u"NextInvReceiptID")); };
+    const auto print = [](CounterRow &row) {
+        std::printf("%lld\n", row.takeKey(u"NextInvReceiptID", u"ReceiptID"_s, {u"IReceipt"_s, u"IRecDet"_s}));
+    };
     // Three users at a time would use up the attempts of a busy machine.
     for (int i = 0; i < count.value(0).toInt(); ++i)
         takeNumbers(database, u"ItemCtl"_s, print, {.attempts = 1'000'000});

@@ -6,6 +6,8 @@
 #include "master/recordnumber.h"
 #include "tests/support/kitchen.h"
 
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 using Engine::Value;
@@ -111,6 +113,19 @@ TEST_P(Records, TellWhatElseIsWrong)
     EXPECT_EQ(refusal(tax), u"Field 'Rate' must have a value -> Rate");
 }
 
+// Of vendor 10001 there is only a contact left.
+TEST_P(Records, PassOverKeysThatAreTaken)
+{
+    kitchen.execute(u"UPDATE Item SET ItemID = 9999 + ItemID; INSERT INTO Vendor (VendorID) VALUES (10000);"
+                    "INSERT INTO VContact (VendorID, ContactID) VALUES (10001, 1)"_s);
+    for (const auto &[kind, key] : {std::pair{&MasterKinds::item(), 10'004}, {&MasterKinds::vendor(), 10'002}}) {
+        MasterRecord record(database, *kind);
+        record.open();
+        record.newRecord();
+        EXPECT_EQ(record.key(), key);
+    }
+}
+
 TEST_P(Records, AreCountedOnFromTheHighestKey)
 {
     kitchen.execute(u"DELETE FROM Warehse"_s);
@@ -131,7 +146,7 @@ TEST_P(Records, UseNumbersUp)
     // Number and key: in the counters, of the record, in the counters afterwards.
     const std::tuple<QString, QString, QString> cases[] = {
         {{}, u"1001|10000"_s, u"1002|10001"_s},
-        {u"1000, 1"_s, u"1001|1"_s, u"1002|2"_s},
+        {u"1000, 50"_s, u"1001|50"_s, u"1002|51"_s},
         {u"10000000, -7"_s, u"10000000|-7"_s, u"10000001|-6"_s},
         {u"10000001, NULL"_s, u"1001|10000"_s, u"1002|10001"_s},
     };
@@ -149,6 +164,25 @@ TEST_P(Records, UseNumbersUp)
     item.newRecord(u"77"_s);
     EXPECT_EQ(item.table().text(u"ItemNo"), u"77");
     EXPECT_EQ(counters(), u"1002|10002");
+}
+
+TEST_P(Records, AreNotBegunWhereTheStoreIsLost)
+{
+    MasterRecord item(database, MasterKinds::item());
+    MasterRecord vendor(database, MasterKinds::vendor());
+    item.open();
+    vendor.open();
+    for (MasterRecord *record : {&item, &vendor}) {
+        if (kitchen.store() == Store::Local) {
+            QFile::rename(kitchen.directory() + u"/Corvane.sqlite"_s, kitchen.directory() + u"/moved"_s);
+        } else {
+            kitchen.execute(u"SELECT 1"_s); // connected again
+            kitchen.anotherUser()->endOtherSessions();
+        }
+        const auto error = errorOf([&] { record->newRecord(); });
+        EXPECT_TRUE(error == Engine::ErrorCode::ConnectionLost || error == Engine::ErrorCode::FileReplaced);
+        EXPECT_FALSE(record->isNew());
+    }
 }
 
 TEST_P(Records, DoWithoutCountersUntilTheyAreSaved)

@@ -6,6 +6,14 @@
 #include <QHash>
 #include <QProcess>
 
+// How often the users of a race do something: so often in a run of all tests, and as TALLYMERE_TEST_TIMES says for a long
+// race by hand.
+inline int timesByHand(int otherwise)
+{
+    const int times = qEnvironmentVariableIntValue("TALLYMERE_TEST_TIMES");
+    return times > 0 ? times : otherwise;
+}
+
 // The test program itself in the part of another user: a process of its own on the test's database. The task is the
 // name of one of the program's tasks and its arguments.
 class OtherUser
