@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "controls/messageboxes.h"
+#include "controls/texts.h"
 #include "engine/error.h"
 
 #include <QLoggingCategory>
@@ -57,6 +58,10 @@ void Guard::report(const std::exception_ptr &failure) const
         m_prompts.error(error.text());
     } catch (const std::exception &error) {
         m_prompts.error(QString::fromUtf8(error.what()));
+    } catch (...) {
+        trace(failure);
+        m_prompts.error(
+            ControlsTexts::tr("An unexpected failure has stopped this. Nothing is known about its cause."));
     }
 }
 
@@ -68,6 +73,8 @@ void Guard::trace(const std::exception_ptr &failure)
         qCDebug(screens) << "engine error" << static_cast<int>(error.code()) << error.driverText();
     } catch (const std::exception &error) {
         qCDebug(screens) << error.what();
+    } catch (...) {
+        qCDebug(screens) << "a failure of unknown type";
     }
 }
 

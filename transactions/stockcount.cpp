@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "engine/database.h"
+#include "engine/error.h"
 #include "engine/session.h"
 #include "transactions/texts.h"
 
@@ -73,12 +74,21 @@ void StockCount::setZeroCounts(ZeroCounts zeroCounts)
     read(zeroCounts);
     try {
         deductUnposted();
+    } catch (const Engine::EngineError &error) {
+        if (error.isStoreLost()) // what is read next would fail as well
+            throw;
+        tellNotDeducted();
     } catch (const std::exception &) {
-        m_prompts.error(TransactionsTexts::tr("Error encountered while deducting uposted usage"));
+        tellNotDeducted();
     }
     m_waits = m_source.hasUnposted(m_location);
     if (m_waits)
         warnOfUnposted();
+}
+
+void StockCount::tellNotDeducted() const
+{
+    m_prompts.error(TransactionsTexts::tr("Error encountered while deducting uposted usage"));
 }
 
 void StockCount::warnOfUnposted() const

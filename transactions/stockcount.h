@@ -61,6 +61,7 @@ public:
 private:
     void read(ZeroCounts zeroCounts);
     void deductUnposted();
+    void tellNotDeducted() const;
     void warnOfUnposted() const;
     void keepDraft();
     void tellOfChanges(const CountDraft &draft) const;

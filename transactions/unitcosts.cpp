@@ -26,4 +26,14 @@ Money UnitCosts::of(const Value &item)
     return known == m_costs.end() ? readNow(item) : known->second;
 }
 
+Money UnitCosts::chosen(const Value &item) { return m_held.contains(item.toInt()) ? of(item) : readNow(item); }
+
+void UnitCosts::hold(const Value &item) { m_held.insert(item.toInt()); }
+
+void UnitCosts::forget()
+{
+    m_costs.clear();
+    m_held.clear();
+}
+
 } // namespace Tallymere

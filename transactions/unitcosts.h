@@ -5,6 +5,7 @@
 #include "engine/value.h"
 
 #include <unordered_map>
+#include <unordered_set>
 
 namespace Tallymere {
 
@@ -18,13 +19,18 @@ public:
     {
     }
 
-    Engine::Money readNow(const Engine::Value &item); // as stored; throws EngineError
-    Engine::Money
-    of(const Engine::Value &item); // as read last, so that a list of lines costs no statement for each
+    // As read last, so that a list of lines costs no statement for each; throws EngineError.
+    Engine::Money of(const Engine::Value &item);
+    Engine::Money chosen(const Engine::Value &item); // as stored now, unless it is held
+    void hold(const Engine::Value &item); // what it costs stays, until all is forgotten
+    void forget();
 
 private:
+    Engine::Money readNow(const Engine::Value &item);
+
     Engine::Database &m_database;
     std::unordered_map<int, Engine::Money> m_costs;
+    std::unordered_set<int> m_held;
 };
 
 } // namespace Tallymere

@@ -2,6 +2,7 @@
 
 #include "base/calchelpers.h"
 #include "base/formats.h"
+#include "engine/error.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
 
@@ -23,11 +24,18 @@ UsageEntry::UsageEntry(Engine::Database &database, Prompts &prompts)
 void UsageEntry::configureFields()
 {
     DocumentEntry::configureFields();
+    header().field(u"UsageNo").label = TransactionsTexts::tr("Usage no.");
     header().field(u"InvoiceAmount").format = currencyFormat();
     lines().field(u"ExtAmount").format = currencyFormat();
     lines().field(u"ItemID").changed = [this] {
-        lines().set(u"UnitCost", m_costs.readNow(lines().value(u"ItemID")));
+        lines().set(u"UnitCost", m_costs.chosen(lines().value(u"ItemID")));
     };
+}
+
+void UsageEntry::visitBegins()
+{
+    m_costs.forget();
+    m_total.reset();
 }
 
 void UsageEntry::presetHeader()
@@ -47,32 +55,54 @@ void UsageEntry::checkReferences()
 
 // --- the total --------------------------------------------------------------------------------------------------
 
-// What cannot be told counts as nothing.
+// What cannot be told counts as nothing, unless no amount can be told any more.
 Money UsageEntry::extAmount(const Engine::DataSet &line)
 {
     if (line.value(u"Quantity").isNull())
         return {};
     try {
         return toCents(line.number(u"Quantity") * m_costs.of(line.value(u"ItemID")).toLongDouble());
+    } catch (const Engine::EngineError &error) {
+        if (error.isStoreLost())
+            throw;
     } catch (const std::exception &) {
-        return {};
     }
+    return {};
 }
 
+Money UsageEntry::sumOfLines()
+{
+    const int item = lines().fieldIndex(u"ItemID");
+    const int amount = lines().fieldIndex(u"ExtAmount");
+    Money sum;
+    for (int i = 0; i < lines().recordCount(); ++i) {
+        m_costs.hold(lines().valueAt(i, item));
+        sum = sum + lines().valueAt(i, amount).toMoney();
+    }
+    return sum;
+}
+
+// The total may be another one by now, as costs have changed, or none, as of a count. What it should be is added up once
+// in a visit.
 void UsageEntry::lineChanging(LineChange change)
 {
+    if (!m_total)
+        m_total = sumOfLines();
     m_amountBefore = change == LineChange::Insert ? Money() : lines().money(u"ExtAmount");
 }
 
 void UsageEntry::lineSaved()
 {
-    header().set(u"InvoiceAmount", header().money(u"InvoiceAmount") - m_amountBefore + lines().money(u"ExtAmount"));
+    m_costs.hold(lines().value(u"ItemID"));
+    setTotal(m_total.value_or(Money()) - m_amountBefore + lines().money(u"ExtAmount"));
 }
 
-void UsageEntry::lineRemoved()
+void UsageEntry::lineRemoved() { setTotal(m_total.value_or(Money()) - m_amountBefore); }
+
+void UsageEntry::setTotal(Money total)
 {
-    const Money left = header().money(u"InvoiceAmount") - m_amountBefore;
-    header().set(u"InvoiceAmount", lines().isEmpty() ? Value() : Value(left));
+    m_total = total;
+    header().set(u"InvoiceAmount", lines().isEmpty() ? Value() : Value(total));
 }
 
 // Brought back, a line has no unit cost: its beginning stands among the tax codes instead, where it has always been

@@ -3,16 +3,20 @@
 #include "transactions/documententry.h"
 #include "transactions/unitcosts.h"
 
+#include <optional>
+
 namespace Tallymere {
 
 // Entering what goes out of one location: IUsage and IUsageDet. The header keeps the total of the lines, each at what
-// its item costs now ("ExtAmount"); a line keeps the cost of the time when its item was chosen.
+// its item costs now ("ExtAmount"); a line keeps the cost of the time when its item was chosen. An item that a line has
+// is at one cost throughout a visit, whatever is posted meanwhile, so that the total is the sum of what is shown.
 class UsageEntry final : public DocumentEntry
 {
 public:
     UsageEntry(Engine::Database &database, Prompts &prompts);
 
 protected:
+    void visitBegins() override;
     void configureFields() override;
     void presetHeader() override;
     void checkReferences() override;
@@ -23,8 +27,11 @@ protected:
 
 private:
     Engine::Money extAmount(const Engine::DataSet &line);
+    Engine::Money sumOfLines();
+    void setTotal(Engine::Money total);
 
     UnitCosts m_costs;
+    std::optional<Engine::Money> m_total; // of the lines, from the first change of the visit on
     Engine::Money m_amountBefore; // of the line that is being changed, as it was
 };
 

@@ -28,7 +28,7 @@ const DocumentKind &DocumentKinds::usage()
         .closingQuestion = TransactionsTexts::tr("Do you want to save your changes?"),
         .nothingEntered = TransactionsTexts::tr("No inventory usage has been entered"),
         .locationGone = TransactionsTexts::tr("Location no longer exists"),
-        .requiredFields = {u"WarehouseID"_s, u"InventoryDate"_s, u"GLPeriod"_s, u"GLYear"_s},
+        .requiredFields = {u"UsageNo"_s, u"WarehouseID"_s, u"InventoryDate"_s, u"GLPeriod"_s, u"GLYear"_s},
         .screen = u"frmUsage"_s,
         .lineColumns = {{u"Quantity"_s, TransactionsTexts::tr("Quantity"), 90, Qt::AlignRight},
                         {u"ItemNo"_s, TransactionsTexts::tr("Item"), 110, Qt::AlignLeft, u"ItemID"_s},

@@ -60,6 +60,9 @@ TEST(Guard, showsWhatStopsAHandlerAndLetsNothingPast)
         {"rule without field", [] { throw RuleError(u"No"_s); }, {u"error: No"_s}},
         {"silent", [] { throw SilentAbort(u"GLPeriod"_s); }, {u"focus GLPeriod"_s}},
         {"engine", [] { throw Engine::EngineError(Engine::ErrorCode::DiskFull, u"Full"_s); }, {u"error: Full"_s}},
+        {"no exception class",
+         [] { throw "Too large"; },
+         {u"error: An unexpected failure has stopped this. Nothing is known about its cause."_s}},
         {"other", [] { throw std::range_error("Too large"); }, {u"error: Too large"_s}},
     };
     for (const auto &[name, handler, expected] : stops) {

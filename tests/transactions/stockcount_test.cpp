@@ -207,6 +207,10 @@ TEST_P(CountTest, DeductsUnpostedUsageInWholeNumbers)
     count.setZeroCounts(ZeroCounts::Excluded);
     EXPECT_EQ(prompts.said.value(prompts.said.size() - 2),
               u"error: Error encountered while deducting uposted usage"_s);
+    if (GetParam() == Store::Local)
+        return;
+    kitchen.execute(u"CREATE VIEW IUsageDet AS SELECT * FROM Gone WHERE pg_terminate_backend(pg_backend_pid())"_s);
+    EXPECT_EQ(errorOf([&] { count.setZeroCounts(ZeroCounts::Excluded); }), Engine::ErrorCode::ConnectionLost);
     EXPECT_EQ(rows().size(), 3);
 }
 

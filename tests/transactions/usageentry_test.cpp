@@ -1,6 +1,6 @@
 #include "transactions/usageentry.h"
 
-#include "tests/support/kitchen.h"
+#include "tests/transactions/documents.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -130,6 +130,78 @@ TEST_P(UsageDocument, KeepsATotalOfItsLinesAndBringsThemBackWithoutCosts)
     EXPECT_TRUE(entry.header().value(u"InvoiceAmount").isNull());
     entry.cancel();
     EXPECT_EQ(stored(), (QStringList{u"10001|1|3||1.2||53.75"_s, u"10001|2|5||123|Rye|53.75"_s}));
+}
+
+// What the lines show, in hundredths of the amounts that are shown beside them.
+TEST_P(UsageDocument, KeepsTheTotalAtTheSumOfItsLinesWhateverItWasBefore)
+{
+    const auto shown = [this] {
+        Engine::Money sum;
+        for (int i = 0; i < entry.lines().recordCount(); ++i)
+            sum = sum + entry.lines().valueAt(i, entry.lines().fieldIndex(u"ExtAmount")).toMoney();
+        return Engine::Value(sum).toText();
+    };
+    addDocument(kitchen, DocumentKinds::usage(), 1, 1, {{1, u"3"_s, u"0"_s}, {3, u"5"_s, u"4"_s}, {1, u"2"_s}});
+    ASSERT_TRUE(entry.openDocument(1)); // as a count leaves it, without a total
+    entry.lines().edit();
+    entry.lines().set(u"UnitCost", 1.25);
+    entry.lines().post();
+    EXPECT_EQ(total(), u"26.25");
+
+    kitchen.execute(u"UPDATE Item SET WgtAvgCost = 2, StandardCost = 7"_s); // posted by others
+    entry.lines().refresh();
+    addLine(1, 1);
+    EXPECT_EQ(total(), u"27.5") << "at the cost of the lines beside it";
+    EXPECT_EQ(total(), shown());
+    EXPECT_EQ(entry.lines().text(u"UnitCost"), u"1.25");
+    addLine(1, 2); // an item that was not on the screen
+    EXPECT_EQ(total(), u"29.5");
+    EXPECT_EQ(entry.lines().text(u"UnitCost"), u"2");
+    entry.lines().edit();
+    entry.chooseItem(3);
+    entry.lines().post();
+    EXPECT_EQ(total(), u"31.5");
+    entry.lines().first();
+    entry.removeLine();
+    EXPECT_EQ(total(), u"27.75");
+    EXPECT_EQ(total(), shown());
+    entry.save();
+    EXPECT_EQ(kitchen.text(u"SELECT InvoiceAmount FROM IUsage"_s), u"27.75");
+
+    ASSERT_TRUE(entry.openDocument(1)); // a visit later, at what is posted by now
+    setQuantity(5.0);
+    EXPECT_EQ(total(), u"48");
+    EXPECT_EQ(total(), shown());
+}
+
+TEST_P(UsageDocument, NeedsANumberAsAReceiptDoes)
+{
+    entry.newDocument();
+    entry.header().set(u"UsageNo", {});
+    addLine(1, 1);
+    EXPECT_EQ(refusalOf([&] { entry.save(); }), u"Field 'Usage no.' must have a value -> UsageNo");
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IUsage"_s), 0);
+}
+
+TEST_P(UsageDocument, HasNoAmountOfZeroWhereTheStoreIsLost)
+{
+    entry.newDocument();
+    addLine(2, 1);
+    entry.save();
+    const auto reopen = [this] {
+        ASSERT_TRUE(entry.openDocument(entry.key()));
+        entry.lines().first();
+    };
+    reopen();
+    kitchen.execute(u"ALTER TABLE ItemType RENAME TO Elsewhere"_s);
+    EXPECT_EQ(entry.lines().text(u"ExtAmount"), u"0") << "any other failure counts as nothing";
+    kitchen.execute(u"ALTER TABLE Elsewhere RENAME TO ItemType"_s);
+    if (GetParam() == Store::Local)
+        return; // a file that is open goes on being read
+    reopen();
+    kitchen.anotherUser(u"bert"_s)->endOtherSessions();
+    EXPECT_EQ(errorOf([&] { entry.lines().text(u"ExtAmount"); }), Engine::ErrorCode::ConnectionLost);
+    EXPECT_EQ(entry.lines().text(u"ExtAmount"), u"2.5") << "connected again";
 }
 
 } // namespace
