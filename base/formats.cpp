@@ -4,9 +4,9 @@
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
 #include "base/texts.h"
+#include "engine/amounttoolarge.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 using Engine::FieldFormat;
@@ -52,12 +52,24 @@ QString grouped(QString whole, QChar separator)
     return whole;
 }
 
+// A number as the stores write it. What is none stands as it is.
+QString groupedNumber(const QString &text, const RegionalSettings &settings)
+{
+    const bool negative = text.startsWith(u'-');
+    const qsizetype end = text.indexOf(u'.');
+    const QString whole = text.mid(negative ? 1 : 0, end < 0 ? -1 : end - (negative ? 1 : 0));
+    if (!std::all_of(whole.begin(), whole.end(), [](QChar c) { return c.isDigit(); }))
+        return text;
+    const QString decimals = end < 0 ? QString() : settings.decimalPoint + text.mid(end + 1);
+    return (negative ? u"-"_s : QString()) + grouped(whole, settings.groupSeparator) + decimals;
+}
+
 // Amounts beyond the range of money do occur in damaged data; they must show, not stop a list.
 std::optional<Money> moneyOf(const Value &value)
 {
     try {
         return value.toMoney();
-    } catch (const std::range_error &) {
+    } catch (const Engine::AmountTooLarge &) {
         return std::nullopt;
     }
 }
@@ -66,7 +78,7 @@ Value moneyFromText(const QString &text, const RegionalSettings &settings, const
 {
     try {
         return Money::fromDouble(numberFromText(text, settings, column));
-    } catch (const std::range_error &) {
+    } catch (const Engine::AmountTooLarge &) {
         throw RuleError(BaseTexts::tr("'%1' is out of range").arg(text.trimmed()), column);
     }
 }
@@ -106,7 +118,7 @@ FieldFormat currencyFormat(const RegionalSettings &settings, const QString &colu
     FieldFormat format;
     format.display = emptyWhenNull([settings](const Value &value) {
         const std::optional<Money> money = moneyOf(value);
-        return money ? currencyText(*money, settings) : value.toText();
+        return money ? currencyText(*money, settings) : groupedNumber(value.toText(), settings);
     });
     format.edit = emptyWhenNull([settings](const Value &value) {
         const std::optional<Money> money = moneyOf(value);
@@ -133,7 +145,8 @@ FieldFormat quantityFormat(const RegionalSettings &settings, const QString &colu
     FieldFormat format;
     format.edit = emptyWhenNull(
         [settings](const Value &value) { return value.toText().replace(u'.', settings.decimalPoint); });
-    format.display = [edit = format.edit](const Value &value) { return edit(toFifteenDigits(value)); };
+    format.display = emptyWhenNull(
+        [settings](const Value &value) { return groupedNumber(toFifteenDigits(value).toText(), settings); });
     format.parse = nullWhenEmpty(
         [settings, column](const QString &text) { return Value(numberFromText(text, settings, column)); });
     return format;

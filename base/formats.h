@@ -16,8 +16,8 @@ namespace Tallymere {
 Engine::FieldFormat currencyFormat(const RegionalSettings &settings = RegionalSettings::system(),
                                    const QString &column = {});
 
-// Shown with fifteen significant digits at most, as many as are the user's own: further ones are noise of calculations.
-// Edited with the shortest digits that read back the same.
+// Shown "1,234.5", with fifteen significant digits at most, as many as are the user's own: further ones are noise of
+// calculations. Edited with the shortest digits that read back the same.
 Engine::FieldFormat quantityFormat(const RegionalSettings &settings = RegionalSettings::system(),
                                    const QString &column = {});
 

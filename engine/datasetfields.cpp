@@ -2,11 +2,10 @@
 
 #include "engine/dataset.h"
 
+#include "engine/amounttoolarge.h"
 #include "engine/datasetprivate.h"
-#include "engine/error.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace Engine {
 
@@ -36,7 +35,7 @@ Money DataSet::money(QStringView name) const
     const Value amount = value(name);
     try {
         return amount.toMoney();
-    } catch (const std::range_error &) {
+    } catch (const AmountTooLarge &) {
         raise(ErrorCode::BadValue,
               Texts::tr("%1 holds %2, which is too large for an amount.")
                   .arg(field(name).caption(), amount.toText()));

@@ -1,7 +1,8 @@
 #include "engine/money.h"
 
+#include "engine/amounttoolarge.h"
+
 #include <cmath>
-#include <stdexcept>
 
 namespace Engine {
 
@@ -22,10 +23,12 @@ long double nearestWhole(long double rounded, long double residual)
 
 } // namespace
 
+void Money::refuse() { throw AmountTooLarge(); }
+
 Money Money::fromLongDouble(long double value)
 {
     if (!std::isfinite(value) || std::fabs(value) > static_cast<long double>(largestAmount))
-        throw std::range_error("an amount of money is out of range");
+        refuse();
     const long double product = value * 10000.0L;
     const long double residual = std::fma(value, 10000.0L, -product);
     return fromTenThousandths(static_cast<qint64>(nearestWhole(product, residual)));

@@ -10,6 +10,8 @@ namespace Engine {
 //
 // The stores keep money as a floating value, so there is a conversion at each border. It rounds to the nearest
 // 0.0001, ties to even, judged on the exact binary value (0.00005 as a double lies above the tie and rounds up).
+//
+// Nothing wraps around: a conversion or a sum that leaves +-largestAmount throws AmountTooLarge (amounttoolarge.h).
 class Money
 {
 public:
@@ -17,7 +19,6 @@ public:
 
     constexpr Money() = default;
 
-    // Throws std::range_error for a value that is not finite or beyond +-largestAmount.
     static Money fromDouble(double value) { return fromLongDouble(value); }
     static Money fromLongDouble(long double value);
     static constexpr Money fromTenThousandths(qint64 count)
@@ -31,12 +32,26 @@ public:
     constexpr double toDouble() const { return static_cast<double>(toLongDouble()); } // rounded once
     constexpr long double toLongDouble() const { return static_cast<long double>(m_count) / 10000.0L; }
 
-    constexpr Money operator-() const { return fromTenThousandths(-m_count); }
-    friend constexpr Money operator+(Money a, Money b) { return fromTenThousandths(a.m_count + b.m_count); }
-    friend constexpr Money operator-(Money a, Money b) { return fromTenThousandths(a.m_count - b.m_count); }
+    constexpr Money operator-() const { return Money() - *this; }
+    friend constexpr Money operator+(Money a, Money b)
+    {
+        if (b.m_count > 0 ? a.m_count > mostCount - b.m_count : a.m_count < -mostCount - b.m_count)
+            refuse();
+        return fromTenThousandths(a.m_count + b.m_count);
+    }
+    friend constexpr Money operator-(Money a, Money b)
+    {
+        if (b.m_count < 0 ? a.m_count > mostCount + b.m_count : a.m_count < -mostCount + b.m_count)
+            refuse();
+        return fromTenThousandths(a.m_count - b.m_count);
+    }
     constexpr auto operator<=>(const Money &) const = default;
 
 private:
+    static constexpr qint64 mostCount = largestAmount * 10'000;
+
+    [[noreturn]] static void refuse();
+
     qint64 m_count = 0;
 };
 

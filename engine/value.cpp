@@ -30,15 +30,13 @@ qint64 truncated(double number)
     return static_cast<qint64>(number);
 }
 
+// The shortest digits that read back the same, without an exponent.
 QString numberText(double number)
 {
     if (number == 0)
         return u"0"_s;
-    const double size = std::fabs(number);
-    const bool plain = size >= 1e-6 && size < 1e15;
-    std::array<char, 64> buffer{};
-    const auto end = plain ? std::to_chars(buffer.begin(), buffer.end(), number, std::chars_format::fixed)
-                           : std::to_chars(buffer.begin(), buffer.end(), number);
+    std::array<char, 512> buffer; // the smallest number has 324 zeros, the largest 309 digits
+    const auto end = std::to_chars(buffer.begin(), buffer.end(), number, std::chars_format::fixed);
     return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
 }
 

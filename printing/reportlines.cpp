@@ -1,10 +1,10 @@
 #include "printing/reportlines.h"
 
 #include "base/ruleerror.h"
+#include "engine/amounttoolarge.h"
 #include "printing/texts.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 using Engine::Value;
 
@@ -116,8 +116,8 @@ void ReportLines::add(const ReportRow &row)
 void ReportLines::addAmount(Sum &sum, const Value &value) const
 {
     try {
-        sum.amount = Engine::Money::fromLongDouble(sum.amount.toLongDouble() + value.toMoney().toLongDouble());
-    } catch (const std::range_error &) {
+        sum.amount = sum.amount + value.toMoney();
+    } catch (const Engine::AmountTooLarge &) {
         throw RuleError(PrintingTexts::tr("A total of the report '%1' is beyond what an amount of money can be")
                             .arg(m_layout.title));
     }

@@ -1,6 +1,7 @@
 #include "reports/columns.h"
 
 #include "base/formats.h"
+#include "engine/amounttoolarge.h"
 #include "reports/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -22,7 +23,7 @@ Column money(const QString &field, const QString &title, double width, int mostD
             return QString();
         try {
             return currencyText(value.toMoney(), settings, mostDecimals);
-        } catch (const std::range_error &) {
+        } catch (const Engine::AmountTooLarge &) {
             return value.toText();
         }
     };

@@ -2,6 +2,7 @@
 
 #include "base/calchelpers.h"
 #include "base/ruleerror.h"
+#include "engine/amounttoolarge.h"
 #include "engine/database.h"
 #include "reports/balancequery.h"
 #include "reports/fieldmap.h"
@@ -9,7 +10,6 @@
 
 #include <optional>
 #include <QHash>
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 using Engine::Money;
@@ -77,7 +77,7 @@ private:
         const double quantity = m_query.valueIn(balance, m_quantity).toDouble();
         try {
             return toCents(quantity * cost.toLongDouble());
-        } catch (const std::range_error &) {
+        } catch (const Engine::AmountTooLarge &) {
             throw RuleError(ReportsTexts::tr("The value of item '%1' is beyond what an amount of money can be")
                                 .arg(m_query.valueIn(balance, m_query.fieldIndex(u"ItemNo")).toText()));
         }

@@ -7,7 +7,7 @@
 namespace Tallymere {
 
 // The arithmetic of receiving goods. Pure: no store. Costs and values have four decimals, quantities are in stock
-// units. An amount beyond the range of Money throws std::range_error.
+// units. An amount beyond the range of Money throws AmountTooLarge.
 
 struct ItemCost
 {

@@ -63,7 +63,7 @@ TEST(Guard, showsWhatStopsAHandlerAndLetsNothingPast)
         {"no exception class",
          [] { throw "Too large"; },
          {u"error: An unexpected failure has stopped this. Nothing is known about its cause."_s}},
-        {"other", [] { throw std::range_error("Too large"); }, {u"error: Too large"_s}},
+        {"other", [] { throw std::runtime_error("Too large"); }, {u"error: Too large"_s}},
     };
     for (const auto &[name, handler, expected] : stops) {
         SpokenPrompts prompts;

@@ -1,7 +1,7 @@
 // Values, money and layouts: what needs no store.
 
+#include "engine/amounttoolarge.h"
 #include "engine/layout.h"
-#include "engine/money.h"
 #include "engine/namedparameters.h"
 #include "engine/value.h"
 #include "tests/support/failures.h"
@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 
 using namespace Engine;
@@ -35,7 +36,25 @@ TEST(MoneyTest, RefusesWhatIsNoAmount)
 {
     const double cases[] = {std::nan(""), std::numeric_limits<double>::infinity(), 1e16, -1e16};
     for (const double value : cases)
-        EXPECT_THROW(Money::fromDouble(value), std::range_error) << value;
+        EXPECT_THROW(Money::fromDouble(value), AmountTooLarge) << value;
+}
+
+TEST(MoneyTest, NeverWrapsAround)
+{
+    constexpr qint64 most = Money::largestAmount * 10'000;
+    const auto money = &Money::fromTenThousandths;
+    EXPECT_EQ((money(most) - money(1) + money(1)).tenThousandths(), most);
+    EXPECT_EQ((-money(most) + money(1) - money(1)).tenThousandths(), -most);
+    const std::function<Money()> beyond[] = {
+        [&] { return money(9'000'000'000'000'000'000) + money(9'000'000'000'000'000'000); },
+        [&] { return money(most) + money(1); },
+        [&] { return money(-most) + money(-1); },
+        [&] { return money(most) - money(-1); },
+        [&] { return money(-most) - money(1); },
+        [&] { return -money(std::numeric_limits<qint64>::min()); },
+    };
+    for (size_t i = 0; i < std::size(beyond); ++i)
+        EXPECT_THROW(beyond[i](), AmountTooLarge) << i;
 }
 
 TEST(ValueTest, WritesNumbersWithTheDigitsThatReadBackTheSame)
@@ -45,7 +64,9 @@ TEST(ValueTest, WritesNumbersWithTheDigitsThatReadBackTheSame)
                                                 {-2.5, u"-2.5"_s},
                                                 {1.0 / 3, u"0.3333333333333333"_s},
                                                 {-0.0, u"0"_s},
-                                                {1e20, u"1e+20"_s},
+                                                {1e20, u"100000000000000000000"_s},
+                                                {1e15, u"1000000000000000"_s},
+                                                {1e-9, u"0.000000001"_s},
                                                 {123456789.25, u"123456789.25"_s}};
     for (const auto &[number, text] : cases) {
         EXPECT_EQ(Value(number).toText(), text);
