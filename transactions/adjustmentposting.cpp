@@ -1,8 +1,6 @@
 #include "transactions/adjustmentposting.h"
 
 #include "engine/driver.h"
-#include "transactions/historywriter.h"
-#include "transactions/stockbook.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -16,10 +14,9 @@ void readHeader(const Engine::Statement &row, int column, PostingDocument &docum
     document.description = row.textAt(column);
 }
 
-void postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books)
+LineEffect takeLine(const PostingDocument &document, const PostingLine &line, StockBook &stock)
 {
-    books.history.append(document, line.item, line.quantity, std::nullopt, books.writes);
-    books.stock.addToBalance(line.item, document.warehouse, line.quantity, books.writes);
+    return {std::nullopt, std::nullopt, stock.addToBalance(line.item, document.warehouse, line.quantity)};
 }
 
 } // namespace
@@ -49,7 +46,7 @@ PostingKind adjustmentPosting()
         .manyPosted = TransactionsTexts::tr("%1 adjustments posted"),
         .readHeader = readHeader,
         .readLine = {},
-        .postLine = postLine,
+        .takeLine = takeLine,
     };
 }
 

@@ -1,23 +1,29 @@
 #include "transactions/documentposting.h"
 
 #include "base/ruleerror.h"
+#include "engine/amounttoolarge.h"
 #include "engine/dialect.h"
-#include "engine/error.h"
 #include "engine/groupedwrites.h"
 #include "engine/sqlcondition.h"
 #include "engine/tablelocks.h"
 #include "transactions/historywriter.h"
-#include "transactions/stockbook.h"
 #include "transactions/texts.h"
 
 #include <QScopeGuard>
 #include <span>
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 using Engine::FieldType;
 
 namespace Tallymere {
+
+// What a document is posted to.
+struct DocumentPosting::PostingBooks
+{
+    StockBook &stock;
+    HistoryWriter &history;
+    Engine::Writes &writes;
+};
 
 namespace {
 
@@ -151,16 +157,48 @@ void DocumentPosting::postDocument(const PostingDocument &document, Engine::Stat
 {
     // Known already, unless the document is applied once more after a failure.
     books.stock.require(itemsOf({&document, 1}));
+    const std::vector<LineEffect> effects = takeLines(document, books.stock);
     mark.bindInt(0, document.key);
     books.writes.send(mark);
-    try {
-        for (const PostingLine &line : document.lines) {
-            if (line.isPosted)
-                m_kind.posting.postLine(document, line, books);
-        }
-    } catch (const std::range_error &) {
-        throw RuleError(TransactionsTexts::tr("\"%1\" has an amount that is too large.").arg(document.description));
+    auto effect = effects.begin();
+    for (const PostingLine &line : document.lines) {
+        if (line.isPosted)
+            writeLine(document, line, *effect++, books);
     }
+}
+
+// All lines before the first is written: what a rule refuses leaves nothing of its document.
+std::vector<LineEffect> DocumentPosting::takeLines(const PostingDocument &document, StockBook &stock) const
+{
+    std::vector<LineEffect> effects;
+    effects.reserve(document.lines.size());
+    for (const PostingLine &line : document.lines) {
+        if (!line.isPosted)
+            continue;
+        const auto refuse = [&](const QString &why) {
+            const auto number = &line - document.lines.data() + 1;
+            throw RuleError(TransactionsTexts::tr("\"%1\" cannot be posted. Line %2: %3.\n"
+                                                  "Nothing of it has been written. Correct it and post again.")
+                                .arg(document.description, QString::number(number), why));
+        };
+        try {
+            effects.push_back(m_kind.posting.takeLine(document, line, stock));
+        } catch (const Engine::AmountTooLarge &) {
+            refuse(TransactionsTexts::tr("an amount of money is too large"));
+        } catch (const RuleError &error) {
+            refuse(error.message());
+        }
+    }
+    return effects;
+}
+
+void DocumentPosting::writeLine(const PostingDocument &document, const PostingLine &line, const LineEffect &effect,
+                                PostingBooks books)
+{
+    books.history.append(document, line.item, line.quantity, effect.unitCost, books.writes);
+    if (effect.average)
+        books.stock.writeAverageCost(line.item.toInt64(), *effect.average, books.writes);
+    books.stock.writeBalance(line.item, document.warehouse, effect.balance, books.writes);
 }
 
 } // namespace Tallymere

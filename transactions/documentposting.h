@@ -17,6 +17,9 @@ namespace Tallymere {
 // that another user has posted or deleted since is left out. All tables of PostingKind::locks are held for the
 // whole run and released when run() returns or throws.
 //
+// A document that a rule refuses, for an amount or a quantity on hand that is out of range, ends the run: nothing of it
+// is written, it stays unposted, and the documents before it stay posted.
+//
 // Failure of the store: an EngineError. Documents before it stay posted; the one in hand stays marked, with what
 // was written before the failing statement. The end of the process or of the machine leaves whole documents only,
 // at most the last two seconds of them unposted. Use on the thread that opened the database.
@@ -28,6 +31,7 @@ public:
     DocumentPosting &operator=(const DocumentPosting &) = delete;
 
     int count() const { return static_cast<int>(m_keys.size()); } // documents to be posted
+    const std::vector<qint64> &keys() const { return m_keys; }
     QString countText() const { return m_kind.posting.toBePosted.arg(count()); }
     int posted() const { return m_posted; } // by run(); another user may have been ahead with some
 
@@ -36,17 +40,22 @@ public:
     std::optional<std::chrono::milliseconds> groupTime; // of GroupedWrites, for tests that look between two groups
 
     // True when the run took place; false when there was nothing to post. Raises RuleError while the entry screen
-    // is open, and for an amount or a quantity on hand that is out of range. A table held by another user is asked
+    // is open, and for a document that cannot be posted, naming its line. A table held by another user is asked
     // about with Prompts::retry; the answer Cancel raises the lock's EngineError, with nothing written and no table
     // held.
     bool run(Prompts &prompts, Progress &progress);
 
 private:
+    struct PostingBooks;
+
     void postAll(Prompts &prompts, Progress &progress);
     std::vector<PostingDocument> readBatch(const QString &keys) const;
     std::vector<PostingDocument> readHeaders(const QString &keys) const;
     void readLines(std::vector<PostingDocument> &documents, const QString &keys) const;
     void postDocument(const PostingDocument &document, Engine::Statement &mark, PostingBooks books) const;
+    std::vector<LineEffect> takeLines(const PostingDocument &document, StockBook &stock) const;
+    static void writeLine(const PostingDocument &document, const PostingLine &line, const LineEffect &effect,
+                          PostingBooks books);
 
     Engine::Database &m_database;
     const DocumentKind &m_kind;

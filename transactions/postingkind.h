@@ -2,6 +2,7 @@
 
 #include "data/transtypes.h"
 #include "engine/value.h"
+#include "transactions/stockbook.h"
 
 #include <functional>
 #include <optional>
@@ -11,13 +12,9 @@
 
 namespace Engine {
 class Statement;
-class Writes;
-} // namespace Engine
+}
 
 namespace Tallymere {
-
-class HistoryWriter;
-class StockBook;
 
 // A table that a posting run holds for itself, and what is said when another user has it.
 struct PostingLock
@@ -47,12 +44,12 @@ struct PostingDocument
     std::vector<PostingLine> lines; // in the order of their numbers
 };
 
-// What a line is posted to.
-struct PostingBooks
+// What a line does to the books.
+struct LineEffect
 {
-    StockBook &stock;
-    HistoryWriter &history;
-    Engine::Writes &writes;
+    std::optional<Engine::Money> unitCost; // of its history row
+    std::optional<Engine::Money> average; // the item's average cost, where it changes
+    BalanceChange balance;
 };
 
 // What tells the posting of one kind of document from another.
@@ -76,7 +73,8 @@ struct PostingKind
     // Fill in what is the kind's own, from its own columns, the first of which is given. Empty: nothing is.
     std::function<void(const Engine::Statement &row, int column, PostingDocument &)> readHeader;
     std::function<void(const Engine::Statement &row, int column, PostingLine &)> readLine;
-    std::function<void(const PostingDocument &, const PostingLine &, PostingBooks &)> postLine;
+    // Takes the line up in the book; nothing is written yet. Throws RuleError or AmountTooLarge when it cannot be posted.
+    std::function<LineEffect(const PostingDocument &, const PostingLine &, StockBook &)> takeLine;
 
     QString postedText(int count) const { return count == 1 ? onePosted : manyPosted.arg(count); }
 };

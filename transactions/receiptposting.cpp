@@ -1,9 +1,7 @@
 #include "transactions/receiptposting.h"
 
 #include "engine/driver.h"
-#include "transactions/historywriter.h"
 #include "transactions/receiptcost.h"
-#include "transactions/stockbook.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -24,19 +22,22 @@ void readHeader(const Engine::Statement &row, int column, PostingDocument &docum
 
 void readLine(const Engine::Statement &row, int column, PostingLine &line) { line.unitCost = row.doubleAt(column); }
 
-void postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books)
+std::optional<Money> averageAfter(const StockBook &stock, const PostingLine &line, Money cost)
+{
+    if (line.item.isNull())
+        return std::nullopt;
+    const qint64 item = line.item.toInt64();
+    const auto average = stock.averageCost(item);
+    return average ? averageAfterReceipt({*average, stock.onHand(item)}, line.quantity, cost) : std::nullopt;
+}
+
+LineEffect takeLine(const PostingDocument &document, const PostingLine &line, StockBook &stock)
 {
     const Money cost = lineCost(Money::fromDouble(line.unitCost.value_or(0)), document.exchangeRate);
-    books.history.append(document, line.item, line.quantity, cost, books.writes);
-
-    if (!line.item.isNull()) {
-        const qint64 item = line.item.toInt64();
-        if (const auto average = books.stock.averageCost(item))
-            if (const auto after = averageAfterReceipt({*average, books.stock.onHand(item)}, line.quantity, cost))
-                books.stock.setAverageCost(item, *after, books.writes);
-    }
-
-    books.stock.addToBalance(line.item, document.warehouse, line.quantity, books.writes);
+    const std::optional<Money> average = averageAfter(stock, line, cost);
+    if (average)
+        stock.setAverageCost(line.item.toInt64(), *average);
+    return {cost, average, stock.addToBalance(line.item, document.warehouse, line.quantity)};
 }
 
 } // namespace
@@ -70,7 +71,7 @@ PostingKind receiptPosting()
         .manyPosted = TransactionsTexts::tr("%1 receipts posted"),
         .readHeader = readHeader,
         .readLine = readLine,
-        .postLine = postLine,
+        .takeLine = takeLine,
     };
 }
 

@@ -1,11 +1,13 @@
 #include "transactions/stockbook.h"
 
+#include "base/ruleerror.h"
 #include "engine/dialect.h"
 #include "engine/groupedwrites.h"
 #include "engine/sqlcondition.h"
+#include "transactions/texts.h"
 
+#include <algorithm>
 #include <cmath>
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 using Engine::Money;
@@ -73,57 +75,42 @@ std::optional<Money> StockBook::averageCost(qint64 item) const
     return average ? std::optional(Money::fromDouble(*average)) : std::nullopt;
 }
 
-void StockBook::setAverageCost(qint64 item, Money cost, Engine::Writes &writes)
+void StockBook::setAverageCost(qint64 item, Money cost) { m_items.at(item).average = cost.toDouble(); }
+
+BalanceChange StockBook::addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity)
+{
+    if (item.isNull() || warehouse.isNull())
+        return {quantity, true};
+    std::vector<Balance> &balances = m_items.at(item.toInt64()).balances;
+    const qint64 location = warehouse.toInt64();
+    const auto place = std::find_if(balances.begin(), balances.end(),
+                                    [location](const Balance &other) { return other.warehouse >= location; });
+    const bool isNew = place == balances.end() || place->warehouse != location;
+    const double onHand = isNew ? quantity : place->onHand + quantity;
+    if (!std::isfinite(onHand))
+        throw RuleError(TransactionsTexts::tr("the quantity on hand would be too large"));
+    if (isNew)
+        balances.insert(place, {location, onHand});
+    else
+        place->onHand = onHand;
+    return {onHand, isNew};
+}
+
+void StockBook::writeAverageCost(qint64 item, Money cost, Engine::Writes &writes)
 {
     m_updateCost->bindDouble(0, cost.toDouble());
     m_updateCost->bindInt(1, item);
     writes.send(*m_updateCost);
-    m_items.at(item).average = cost.toDouble();
 }
 
-void StockBook::addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity,
+void StockBook::writeBalance(const Engine::Value &item, const Engine::Value &warehouse, const BalanceChange &change,
                              Engine::Writes &writes)
 {
-    Balance *balance = findBalance(item, warehouse);
-    if (balance == nullptr) {
-        insertBalance(item, warehouse, quantity, writes);
-        return;
-    }
-    const double onHand = balance->onHand + quantity;
-    if (!std::isfinite(onHand))
-        throw std::range_error("a quantity on hand is out of range");
-    m_updateBalance->bindDouble(0, onHand);
-    m_updateBalance->bindInt(1, item.toInt64());
-    m_updateBalance->bindInt(2, warehouse.toInt64());
-    writes.send(*m_updateBalance);
-    balance->onHand = onHand;
-}
-
-StockBook::Balance *StockBook::findBalance(const Engine::Value &item, const Engine::Value &warehouse)
-{
-    if (item.isNull() || warehouse.isNull())
-        return nullptr;
-    const qint64 wanted = warehouse.toInt64();
-    for (Balance &balance : m_items.at(item.toInt64()).balances)
-        if (balance.warehouse == wanted)
-            return &balance;
-    return nullptr;
-}
-
-void StockBook::insertBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity,
-                              Engine::Writes &writes)
-{
-    m_insertBalance->bindDouble(0, quantity);
-    m_insertBalance->bind(1, item);
-    m_insertBalance->bind(2, warehouse);
-    writes.send(*m_insertBalance);
-    if (item.isNull() || warehouse.isNull())
-        return;
-    std::vector<Balance> &balances = m_items.at(item.toInt64()).balances;
-    const qint64 location = warehouse.toInt64();
-    const auto place = std::find_if(balances.begin(), balances.end(),
-                                    [location](const Balance &other) { return other.warehouse > location; });
-    balances.insert(place, {location, quantity});
+    Engine::Statement &statement = change.isNew ? *m_insertBalance : *m_updateBalance;
+    statement.bindDouble(0, change.onHand);
+    statement.bind(1, item);
+    statement.bind(2, warehouse);
+    writes.send(statement);
 }
 
 } // namespace Tallymere

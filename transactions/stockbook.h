@@ -14,9 +14,17 @@ class Writes;
 
 namespace Tallymere {
 
-// Quantities on hand and average costs during a posting run. Each is read once; every change is written at once.
-// Right only while the run holds the tables for itself. Grows with the items and locations that are touched, not
-// with the lines.
+// A balance as a movement leaves it.
+struct BalanceChange
+{
+    double onHand = 0;
+    bool isNew = false; // there is none yet
+};
+
+// Quantities on hand and average costs during a posting run. Each is read once. A change is made in the book first and
+// written afterwards, so that all of a document can be refused before any of it is written; once something has been
+// refused the book is ahead of the store and must forget. Right only while the run holds the tables for itself. Grows with
+// the items and locations that are touched, not with the lines.
 class StockBook
 {
 public:
@@ -28,13 +36,16 @@ public:
 
     // The following need the item to have been required.
     double onHand(qint64 item) const; // over all locations
-    // Nothing when there is no such item. Throws std::range_error for a cost beyond the range of money.
+    // Nothing when there is no such item. Throws AmountTooLarge for a stored cost beyond the range of money.
     std::optional<Engine::Money> averageCost(qint64 item) const;
-    void setAverageCost(qint64 item, Engine::Money cost, Engine::Writes &writes);
-    // Adds to the balance of an item at a location, making it if it is missing. Nulls are written as they are, for
-    // the store to refuse. Throws std::range_error when the balance would become infinite, as no movement brings it
-    // back from there.
-    void addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity,
+    void setAverageCost(qint64 item, Engine::Money cost);
+    // Adds to the balance of an item at a location. An item or location that is null has none to add to. Throws RuleError
+    // when the balance would become infinite, as no movement brings it back from there.
+    BalanceChange addToBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity);
+
+    // Send what has been changed. Nulls are written as they are, for the store to refuse.
+    void writeAverageCost(qint64 item, Engine::Money cost, Engine::Writes &writes);
+    void writeBalance(const Engine::Value &item, const Engine::Value &warehouse, const BalanceChange &change,
                       Engine::Writes &writes);
 
 private:
@@ -51,9 +62,6 @@ private:
 
     void readCosts(const QString &items);
     void readBalances(const QString &items);
-    Balance *findBalance(const Engine::Value &item, const Engine::Value &warehouse);
-    void insertBalance(const Engine::Value &item, const Engine::Value &warehouse, double quantity,
-                       Engine::Writes &writes);
 
     std::unordered_map<qint64, Item> m_items;
     Engine::StatementPtr m_readCosts;

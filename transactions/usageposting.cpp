@@ -1,8 +1,6 @@
 #include "transactions/usageposting.h"
 
 #include "engine/driver.h"
-#include "transactions/historywriter.h"
-#include "transactions/stockbook.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -24,11 +22,10 @@ void readLine(const Engine::Statement &row, int column, PostingLine &line)
     line.isPosted = row.valueAt(column + 1, Engine::FieldType::Boolean).toBool();
 }
 
-void postLine(const PostingDocument &document, const PostingLine &line, PostingBooks &books)
+LineEffect takeLine(const PostingDocument &document, const PostingLine &line, StockBook &stock)
 {
     const auto cost = line.unitCost ? std::optional(Money::fromDouble(*line.unitCost)) : std::nullopt;
-    books.history.append(document, line.item, line.quantity, cost, books.writes);
-    books.stock.addToBalance(line.item, document.warehouse, 0 - line.quantity, books.writes);
+    return {cost, std::nullopt, stock.addToBalance(line.item, document.warehouse, 0 - line.quantity)};
 }
 
 } // namespace
@@ -59,7 +56,7 @@ PostingKind usagePosting()
         .manyPosted = TransactionsTexts::tr("%1 usage records posted"),
         .readHeader = readHeader,
         .readLine = readLine,
-        .postLine = postLine,
+        .takeLine = takeLine,
     };
 }
 
