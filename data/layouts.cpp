@@ -30,7 +30,7 @@ const QList<const TableLayout *> &applied()
     static const QList<const TableLayout *> tables{
         &item(),    &itemCtl(), &itemType(),  &company(),  &tax(),     &salesman(), &iAdjDet(),  &iAdjust(),
         &iHist(),   &iRecDet(), &iReceipt(),  &iBalance(), &warehse(), &vendor(),   &vBalance(), &vContact(),
-        &vendCtl(), &iUsage(),  &iUsageDet(), &arInvCtl(), &bank(),    &currency(), &glAccnt(),
+        &vendCtl(), &iUsage(),  &iUsageDet(), &arInvCtl(), &bank(),    &currency(), &glAccnt(),  &iDocSaved(),
     };
     return tables;
 }
@@ -70,6 +70,7 @@ QString titleOf(const QString &table)
         {"Bank", QT_TRANSLATE_NOOP("Data", "Banks")},
         {"Currency", QT_TRANSLATE_NOOP("Data", "Currencies")},
         {"GLAccnt", QT_TRANSLATE_NOOP("Data", "Accounts")},
+        {"IDocSaved", QT_TRANSLATE_NOOP("Data", "Saved Documents")},
     };
     for (const auto &[name, title] : titles) {
         if (table.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0)

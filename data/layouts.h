@@ -32,6 +32,7 @@ const Engine::TableLayout &arInvCtl(); // counters: one row, no key
 const Engine::TableLayout &bank();
 const Engine::TableLayout &currency();
 const Engine::TableLayout &glAccnt();
+const Engine::TableLayout &iDocSaved(); // who has saved a document last, by its type in the history and its key
 
 // The host's table of usage lines: described here, never created or altered.
 const Engine::TableLayout &usage();
@@ -39,7 +40,7 @@ const Engine::TableLayout &usage();
 // The one row of parameters that reports print in their headings, in the in-memory database.
 const Engine::TableLayout &reportParameters();
 
-// The 23 tables that belong to the inventory system, in the order in which they are brought up to date.
+// The 24 tables that belong to the inventory system, in the order in which they are brought up to date.
 const QList<const Engine::TableLayout *> &applied();
 
 // By table name, without regard to case; nullptr when it is none of applied().

@@ -228,4 +228,21 @@ const TableLayout &iBalance()
     return layout;
 }
 
+const TableLayout &iDocSaved()
+{
+    static const TableLayout layout{
+        u"IDocSaved"_s,
+        {
+            {u"TransType"_s, SmallInt},
+            {u"DocumentID"_s, Integer},
+            {u"SavedBy"_s, Text, 50},
+            {u"SavedAt"_s, DateTime},
+        },
+        {
+            {{}, u"TransType;DocumentID"_s, Primary},
+        },
+    };
+    return layout;
+}
+
 } // namespace Tallymere::Layouts

@@ -48,7 +48,7 @@ TEST_P(DataModule, FirstStartMakesEveryTableAndSeedsFourRows)
     const QStringList hostTables = store.database().tableNames();
     const auto dataModule = start();
 
-    EXPECT_EQ(store.database().tableNames().size(), hostTables.size() + 23);
+    EXPECT_EQ(store.database().tableNames().size(), hostTables.size() + 24);
     for (const Engine::TableLayout *layout : Layouts::applied())
         EXPECT_FALSE(store.database().differs(*layout)) << layout->name.toStdString();
     for (const Engine::TableLayout &layout : HostTables::layouts())

@@ -1,0 +1,42 @@
+#include "transactions/lastsaved.h"
+
+#include "data/layouts.h"
+#include "engine/database.h"
+#include "engine/dialect.h"
+#include "engine/session.h"
+#include "engine/sqlcondition.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+void rememberSaved(Engine::Database &database, TransType type, qint64 document)
+{
+    const int size = Layouts::iDocSaved().fields[2].size;
+    database.change([&] {
+        const Engine::StatementPtr remember = database.connection().prepare(
+            u"INSERT INTO IDocSaved (TransType, DocumentID, SavedBy, SavedAt) VALUES (?, ?, ?, ?) "
+            "ON CONFLICT (TransType, DocumentID) DO UPDATE SET SavedBy = excluded.SavedBy, SavedAt = excluded.SavedAt"_s);
+        remember->bindInt(0, static_cast<int>(type));
+        remember->bindInt(1, document);
+        remember->bindText(2, database.session().applicationUser.left(size));
+        remember->bind(3, Engine::Value(database.session().now()));
+        remember->execute();
+    });
+}
+
+QStringList lastSavedBy(Engine::Database &database, TransType type, const std::vector<qint64> &documents)
+{
+    const QString isOne = database.connection().dialect().inNumberList(u"DocumentID"_s);
+    const Engine::StatementPtr users = database.connection().prepare(
+        u"SELECT DISTINCT SavedBy FROM IDocSaved WHERE %1 AND TransType = ? AND SavedBy <> '' ORDER BY SavedBy"_s
+            .arg(isOne));
+    users->bindText(0, Engine::numberList(documents));
+    users->bindInt(1, static_cast<int>(type));
+    QStringList names;
+    while (users->next())
+        names.append(users->textAt(0));
+    return names;
+}
+
+} // namespace Tallymere
