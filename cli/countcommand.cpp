@@ -52,6 +52,7 @@ struct CountOrder
     QDate date;
     ZeroCounts zeroCounts = ZeroCounts::Excluded;
     QString fileName;
+    bool answerYes = false;
 };
 
 CountOrder orderOf(const Arguments &arguments)
@@ -60,7 +61,8 @@ CountOrder orderOf(const Arguments &arguments)
     return {.location = arguments.number(u"location"_s, 0),
             .date = dateOf(arguments),
             .zeroCounts = arguments.has(u"include-zero"_s) ? ZeroCounts::Included : ZeroCounts::Excluded,
-            .fileName = required(arguments, u"file"_s)};
+            .fileName = required(arguments, u"file"_s),
+            .answerYes = arguments.has(u"yes"_s)};
 }
 
 std::optional<CalculatedUsage> calculate(CommandContext &context, TDataModuleTallymere &data,
@@ -74,7 +76,7 @@ std::optional<CalculatedUsage> calculate(CommandContext &context, TDataModuleTal
     count.setDate(order.date);
     file.seek(0);
     ImportErrors errors;
-    takeCountFile(file, count, errors);
+    takeCountFile(file, count, order.answerYes, errors);
     if (!errors.isEmpty()) {
         complainOfRows(context.console, order.fileName, errors);
         throw RuleError(Texts::tr("Nothing was counted."));
@@ -111,6 +113,7 @@ Command countCommand()
         {u"date"_s, Texts::tr("YYYY-MM-DD"), Texts::tr("when")},
         {u"file"_s, Texts::tr("COUNT.csv"), Texts::tr("what was counted")},
         {u"include-zero"_s, {}, Texts::tr("items without any balance may be in the file as well")},
+        {u"yes"_s, {}, Texts::tr("takes large quantities that a screen would ask about")},
         retryOption()};
     command.run = runCount;
     return command;

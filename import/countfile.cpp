@@ -48,7 +48,7 @@ QString notInList(NotCounted reason)
     return ImportTexts::tr("The item '%1' is not among those that are counted at this location");
 }
 
-void takeRow(const ImportRow &row, StockCount &count)
+void takeRow(const ImportRow &row, StockCount &count, bool answerYes)
 {
     const QString itemNo = valueOf(row, u"ItemNo");
     if (itemNo.isEmpty())
@@ -60,12 +60,16 @@ void takeRow(const ImportRow &row, StockCount &count)
         throw RuleError(notInList(count.reasonNotCounted(itemNo)).arg(itemNo));
     if (count.list().row(found).typed)
         throw RuleError(ImportTexts::tr("The item '%1' has been counted in an earlier row").arg(itemNo));
-    count.count(found, row.cell(u"Quantity")->value.toDouble());
+    const double quantity = row.cell(u"Quantity")->value.toDouble();
+    const std::optional<QString> question = count.questionOf(found, quantity);
+    if (question && !answerYes)
+        throw RuleError(itemNo + u": "_s + *question);
+    count.count(found, quantity);
 }
 
 } // namespace
 
-void takeCountFile(QIODevice &file, StockCount &count, ImportErrors &errors)
+void takeCountFile(QIODevice &file, StockCount &count, bool answerYes, ImportErrors &errors)
 {
     const ImportKind kind = countKind(); // the rows point to its columns
     const std::vector<ImportDocument> documents = readImportFile(file, kind, errors);
@@ -74,7 +78,7 @@ void takeCountFile(QIODevice &file, StockCount &count, ImportErrors &errors)
         if (row.isBad)
             continue;
         try {
-            takeRow(row, count);
+            takeRow(row, count, answerYes);
         } catch (const RuleError &error) {
             errors.add(row.line, error.message());
         }

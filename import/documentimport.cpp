@@ -28,7 +28,7 @@ bool DocumentImport::tryStep(ImportRow &row, ImportErrors &errors, Step step, co
     } catch (const RuleError &error) {
         errors.add(row.line, about + error.message());
     } catch (const SilentAbort &) {
-        errors.add(row.line, m_answers.lastText());
+        errors.add(row.line, about + m_answers.lastText());
     } catch (const Engine::EngineError &error) {
         if (error.code() != Engine::ErrorCode::BadValue)
             throw;

@@ -3,6 +3,7 @@
 #include "base/calchelpers.h"
 #include "base/formats.h"
 #include "base/ruleerror.h"
+#include "transactions/quantitycheck.h"
 #include "transactions/texts.h"
 
 #include <algorithm>
@@ -127,6 +128,7 @@ void CountList::count(int row, double quantity)
     if (quantity < 0)
         throw RuleError(TransactionsTexts::tr("A quantity that has been counted cannot be below zero"),
                         u"Quantity"_s);
+    requireSensibleQuantity(quantity, u"Quantity"_s);
     at(row).typed = quantity + 0.0; // no minus sign at zero
 }
 

@@ -55,7 +55,7 @@ public:
     Order order() const { return m_order; }
     void sortBy(Order order);
 
-    // Takes a count; throws RuleError for one below zero.
+    // Takes a count; throws RuleError for one below zero, or beyond what can be meant.
     void count(int row, double quantity);
     void forgetCount(int row); // nobody has counted it
     void setStandardCost(int row, Engine::Money cost);

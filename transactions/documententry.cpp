@@ -7,6 +7,7 @@
 #include "engine/query.h"
 #include "master/masterkinds.h"
 #include "master/recordnumber.h"
+#include "transactions/lastsaved.h"
 #include "transactions/texts.h"
 
 #include <algorithm>
@@ -82,6 +83,9 @@ void DocumentEntry::configureFields()
     const QString &quantity = m_kind.lineColumns.constFirst().field;
     m_lines.field(quantity).label = TransactionsTexts::tr("Quantity");
     m_lines.field(quantity).format = quantityFormat(RegionalSettings::system(), quantity);
+    m_lines.field(quantity).validate = [quantity](const Value &value) {
+        requireSensibleQuantity(value.toDouble(), quantity);
+    };
     if (const int cost = m_lines.fieldIndex(u"UnitCost"); cost >= 0) {
         m_lines.field(cost).label = TransactionsTexts::tr("Unit Cost");
         m_lines.field(cost).format = currencyFormat(RegionalSettings::system(), u"UnitCost"_s);
@@ -205,6 +209,7 @@ void DocumentEntry::checkHeader()
     checkReferences();
     for (const QString &field : m_kind.requiredFields)
         requireHeaderField(field, field);
+    rememberSaved(database(), m_kind.posting.transType, key());
 }
 
 void DocumentEntry::checkPeriod()
@@ -268,6 +273,7 @@ void DocumentEntry::hookLines()
     m_lines.events.newRecord = [this] { m_lines.setDefault(m_kind.keyField, key()); };
     m_lines.events.beforeInsert = [this] {
         lockLines();
+        m_known.reset();
         lineChanging(LineChange::Insert);
     };
     m_lines.events.beforeEdit = [this] { beginLineChange(LineChange::Edit); };
@@ -278,6 +284,7 @@ void DocumentEntry::hookLines()
     m_lines.events.beforePost = [this] {
         m_visit.hold();
         checkLine();
+        checkFigures();
         numberLine();
         m_visit.writing();
     };
@@ -317,14 +324,39 @@ void DocumentEntry::beginLineChange(LineChange change)
     const int seq = m_lines.integer(u"Seq");
     const int item = m_lines.integer(u"ItemID");
     lockLines();
-    if (m_lines.integer(u"Seq") == seq && m_lines.integer(u"ItemID") == item)
+    if (m_lines.integer(u"Seq") == seq && m_lines.integer(u"ItemID") == item) {
+        m_known = figures();
         return lineChanging(change);
+    }
     if (!inEdit)
         m_header.cancel();
     throw RuleError(
         TransactionsTexts::tr("This line was deleted or replaced by another user. The lines are shown anew."),
         LineGrid);
 }
+
+// Asked once: what is stored, or has been confirmed, is meant.
+void DocumentEntry::checkFigures()
+{
+    const QString &column = m_kind.lineColumns.constFirst().field;
+    const EnteredFigures entered = figures();
+    if (entered == m_known)
+        return;
+    try {
+        requireAmount(entered, column);
+    } catch (const RuleError &error) {
+        refuseLine(error.message(), error.column());
+    }
+    confirmLargeFigures(entered, column, m_prompts);
+    m_known = entered;
+}
+
+EnteredFigures DocumentEntry::figures()
+{
+    return {m_lines.number(m_kind.lineColumns.constFirst().field), lineCost()};
+}
+
+double DocumentEntry::lineCost() { return m_lines.fieldIndex(u"UnitCost") < 0 ? 0 : m_lines.number(u"UnitCost"); }
 
 // A new line that has a number already could not be written with it.
 void DocumentEntry::numberLine()

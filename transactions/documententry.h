@@ -7,6 +7,7 @@
 #include "engine/table.h"
 #include "transactions/documentkind.h"
 #include "transactions/documentvisit.h"
+#include "transactions/quantitycheck.h"
 
 namespace Tallymere {
 
@@ -101,6 +102,7 @@ protected:
     virtual void checkComplete() { } // before everything else when the header is saved
     virtual void checkReferences(); // after the period: what the header names, and that there are lines
     virtual void checkLine(); // before a line gets its number and is written
+    virtual double lineCost(); // of a unit, by which the amount of the line is judged
     // Around each change of a line, for what the header keeps about all of them. The header is in edit throughout. At
     // lineChanging() lines() shows the line as it is stored, of a line to come the one before it. A change may still
     // be dropped then; lineSaved(), with the line, or lineRemoved(), with the next one, tells that it has happened.
@@ -136,6 +138,8 @@ private:
 
     void lockLines();
     void beginLineChange(LineChange change);
+    void checkFigures();
+    EnteredFigures figures();
     void numberLine();
     int highestSeq() const;
     QString lineName() const;
@@ -149,6 +153,7 @@ private:
     DocumentVisit m_visit;
 
     int m_nextSeq = 1;
+    std::optional<EnteredFigures> m_known; // of the line in hand, as they are stored or have been asked about
     bool m_wasSaved = false;
     QString m_lineColumn;
     QString m_givenNumber;

@@ -4,6 +4,7 @@
 #include "engine/database.h"
 #include "engine/error.h"
 #include "engine/session.h"
+#include "transactions/quantitycheck.h"
 #include "transactions/texts.h"
 
 #include <exception>
@@ -118,6 +119,16 @@ void StockCount::setDate(QDate date)
     m_date = date;
     if (hasEdits())
         keepDraft();
+}
+
+std::optional<QString> StockCount::questionOf(int row, double quantity) const
+{
+    CountRow counted = m_list.row(row);
+    if (counted.typed == quantity)
+        return std::nullopt;
+    counted.typed = quantity;
+    const std::optional<QString> question = questionOfLargeFigures({quantity, 0});
+    return question ? question : questionOfLargeAmount({counted.difference(), counted.unitCost.toDouble()});
 }
 
 void StockCount::count(int row, double quantity)

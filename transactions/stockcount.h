@@ -33,9 +33,12 @@ public:
     bool hasEdits() const { return m_list.hasEdits() && !m_isCalculated; } // that have not been calculated
 
     void sortBy(CountList::Order order) { m_list.sortBy(order); }
+    // What is asked before a count is taken that is large, by itself or by what it differs in value; nothing of others, and
+    // of one that has been taken already.
+    std::optional<QString> questionOf(int row, double quantity) const;
     // Each keeps the draft.
     void setDate(QDate date); // of the inventory
-    void count(int row, double quantity); // throws RuleError for one below zero
+    void count(int row, double quantity); // throws RuleError for one below zero, or beyond what can be meant
     void forgetCount(int row);
     void setStandardCost(int row, Engine::Money cost);
     const QString &draftFailure() const { return m_draftFailure; } // why the draft could not be written, if so

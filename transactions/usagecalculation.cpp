@@ -7,6 +7,7 @@
 #include "engine/table.h"
 #include "transactions/countsource.h"
 #include "transactions/documentkinds.h"
+#include "transactions/lastsaved.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -139,6 +140,7 @@ std::optional<CalculatedUsage> calculateUsage(Engine::Database &database, const 
     header.period = periodOf(database, date);
     const std::vector<UsageLine> lines =
         usageLines(database, list, prompts); // nothing is locked while he is warned
+    rememberSaved(database, TransType::Usage, header.usage.id);
     write(database, header, lines);
     header.usage.lines = static_cast<int>(lines.size());
     return header.usage;

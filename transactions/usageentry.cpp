@@ -2,9 +2,12 @@
 
 #include "base/calchelpers.h"
 #include "base/formats.h"
+#include "engine/amounttoolarge.h"
 #include "engine/error.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using Engine::FieldType;
@@ -53,6 +56,29 @@ void UsageEntry::checkReferences()
     requireLocation();
 }
 
+void UsageEntry::checkLine()
+{
+    DocumentEntry::checkLine();
+    try {
+        totalWithLine();
+    } catch (const Engine::AmountTooLarge &) {
+        refuseLine(TransactionsTexts::tr("The total of the usage would be more than an amount of money can be"),
+                   u"Quantity"_s);
+    }
+}
+
+// The amount shown is at what the item costs now, the history will have what the line says. A cost that is no amount of
+// money shows as none.
+double UsageEntry::lineCost()
+{
+    const double kept = DocumentEntry::lineCost();
+    try {
+        return std::max(kept, m_costs.of(lines().value(u"ItemID")).toDouble());
+    } catch (const Engine::AmountTooLarge &) {
+        return kept;
+    }
+}
+
 // --- the total --------------------------------------------------------------------------------------------------
 
 // What cannot be told counts as nothing, unless no amount can be told any more.
@@ -91,11 +117,13 @@ void UsageEntry::lineChanging(LineChange change)
     m_amountBefore = change == LineChange::Insert ? Money() : lines().money(u"ExtAmount");
 }
 
-void UsageEntry::lineSaved()
+Money UsageEntry::totalWithLine()
 {
     m_costs.hold(lines().value(u"ItemID"));
-    setTotal(m_total.value_or(Money()) - m_amountBefore + lines().money(u"ExtAmount"));
+    return m_total.value_or(Money()) - m_amountBefore + lines().money(u"ExtAmount");
 }
+
+void UsageEntry::lineSaved() { setTotal(totalWithLine()); }
 
 void UsageEntry::lineRemoved() { setTotal(m_total.value_or(Money()) - m_amountBefore); }
 

@@ -20,6 +20,8 @@ protected:
     void configureFields() override;
     void presetHeader() override;
     void checkReferences() override;
+    void checkLine() override;
+    double lineCost() override;
     void lineChanging(LineChange change) override;
     void lineSaved() override;
     void lineRemoved() override;
@@ -28,6 +30,7 @@ protected:
 private:
     Engine::Money extAmount(const Engine::DataSet &line);
     Engine::Money sumOfLines();
+    Engine::Money totalWithLine();
     void setTotal(Engine::Money total);
 
     UnitCosts m_costs;

@@ -50,6 +50,20 @@ TEST_P(CountCommand, WritesAUsageOfWhatDiffers)
     EXPECT_TRUE(again.errors.contains("There are unposted transactions for this location."_L1)) << again;
 }
 
+TEST_P(CountCommand, LargeQuantitiesNeedAYesAndAbsurdOnesAreRefused)
+{
+    for (const QStringList &more : {QStringList(), QStringList(u"--yes"_s)}) {
+        const CliResult absurd = count("ItemNo,Quantity\nA1,1e308\n", more);
+        EXPECT_EQ(absurd.status, 1);
+        EXPECT_TRUE(absurd.errors.startsWith("count.csv:2: A quantity of 1"_L1)) << absurd;
+        EXPECT_FALSE(absurd.errors.contains("e+"_L1)) << absurd;
+    }
+    const CliResult large = count("ItemNo,Quantity\nA1,1000000\n");
+    EXPECT_EQ(large.status, 1);
+    EXPECT_TRUE(large.errors.startsWith("count.csv:2: A1: The quantity is 1,000,000. "_L1)) << large;
+    EXPECT_EQ(count("ItemNo,Quantity\nA1,1000000\n", {u"--yes"_s}).status, 0);
+}
+
 TEST_P(CountCommand, RefusesWhatItCannotTake)
 {
     cli.execute(u"INSERT INTO Item (ItemID, ItemNo, Suspended) VALUES (90, 'E5', false)"_s);

@@ -98,6 +98,24 @@ const BadFile badFiles[] = {
       u"11: GL Period is prior to current fiscal year as defined by \"Your Company\""_s,
       u"12: ReceiptDate '2026-02-30' is not a date (YYYY-MM-DD)"_s, u"12: GLPeriod '13' is not within 1 to 12"_s,
       u"15: Receipt no. already exists"_s}},
+    {u"receipts"_s,
+     receiptHeader
+         + "R1,,,,V1,Office,A1,1e20,0\nR2,,,,V1,Office,A1,1000000,0\nR3,,,,V1,Office,A1,10,100000\n"
+           "R4,,,,V1,Office,A1,1e12,1000\nR5,,,,V1,Office,A1,-1000000000001,1\n",
+     {u"2: ItemNo 'A1': A quantity of 100,000,000,000,000,000,000 cannot be meant. It may be 1,000,000,000,000 at "
+      u"most, "
+      "or -1,000,000,000,000 at least."_s,
+      u"3: ItemNo 'A1': The quantity is 1,000,000. A number may have been scanned into the wrong column. Do you "
+      u"want to "
+      "keep this quantity?"_s,
+      u"4: ItemNo 'A1': 10 at a cost of 100,000.00 each come to 1,000,000.00. A number may have been scanned into "
+      u"the "
+      "wrong column. Do you want to keep these figures?"_s,
+      u"5: ItemNo 'A1': 1,000,000,000,000 at a cost of 1,000.00 each is more than an amount of money can be... "
+      u"Make "
+      "changes or press Esc to undo"_s,
+      u"6: ItemNo 'A1': A quantity of -1,000,000,000,001 cannot be meant. It may be 1,000,000,000,000 at most, or "
+      "-1,000,000,000,000 at least."_s}},
     {u"usage"_s,
      "WarehouseName,ItemNo,Quantity\nOffice,A1,\n",
      {u"2: ItemNo 'A1': Field 'Quantity' must have a value... Make changes or press Esc to undo"_s}},
@@ -158,6 +176,13 @@ TEST_P(Import, APeriodThatIsNotExpectedNeedsAYes)
     EXPECT_EQ(refused.status, 1);
     EXPECT_EQ(refused.errorLines().value(0),
               u"in.csv:2: GL Period is not within expected range as defined by \"Your Company\"."_s);
+    EXPECT_EQ(cli.run({u"import"_s, u"receipts"_s, u"in.csv"_s, u"--yes"_s}).status, 0);
+    EXPECT_EQ(cli.column({u"list"_s, u"receipts"_s}, u"ReceiptNo"_s), QStringList{u"R1"_s});
+}
+
+TEST_P(Import, LargeFiguresNeedAYes)
+{
+    ASSERT_EQ(cli.import(u"receipts"_s, receiptHeader + "R1,,,,V1,Office,A1,1000000,1\n").status, 1);
     EXPECT_EQ(cli.run({u"import"_s, u"receipts"_s, u"in.csv"_s, u"--yes"_s}).status, 0);
     EXPECT_EQ(cli.column({u"list"_s, u"receipts"_s}, u"ReceiptNo"_s), QStringList{u"R1"_s});
 }

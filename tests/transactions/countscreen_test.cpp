@@ -73,6 +73,34 @@ protected:
     QPushButton *ok = nullptr;
 };
 
+TEST_F(CountScreenTest, ALargeQuantityIsAskedAboutOnce)
+{
+    EXPECT_EQ(status(), QString());
+    kitchen.setStock(1, 1, 15'000'000, 1.5);
+    choose(u"Office"_s);
+    search("A10");
+    prompts.ok = false;
+    enter("1500000");
+    EXPECT_EQ(prompts.take(),
+              QStringList(u"Warning: The quantity is 1,500,000. A number may have been scanned into the "
+                          "wrong column.\nDo you want to keep this quantity?"_s));
+    EXPECT_EQ(rows().first(), u"A10 15,000,000 15,000,000"_s);
+    EXPECT_EQ(cursor(), u"A10"_s);
+    press(Qt::Key_Escape);
+    enter("10000000");
+    prompts.take();
+    prompts.ok = true;
+    press(Qt::Key_Return); // what has been typed is still there
+    EXPECT_EQ(prompts.take().size(), 1);
+    EXPECT_EQ(rows().first(), u"A10 15,000,000 10,000,000 -5,000,000"_s);
+    search("A10");
+    type("<F2><Return>");
+    EXPECT_EQ(prompts.take(), QStringList()) << "it has been answered";
+    search("A10");
+    enter("5");
+    EXPECT_EQ(prompts.take().size(), 1) << "the difference is worth more than a million";
+}
+
 TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
 {
     EXPECT_FALSE(ok->isEnabled());
