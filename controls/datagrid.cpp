@@ -11,6 +11,8 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+using namespace Qt::StringLiterals;
+
 namespace Tallymere {
 
 namespace {
@@ -112,12 +114,31 @@ bool DataGrid::viewportEvent(QEvent *event)
         return QTableView::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
-    const QString text = index.data().toString();
-    const int space = columnWidth(index.column()) - 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
-    const bool cut = fontMetrics().horizontalAdvance(text) > space;
-    QToolTip::showText(help->globalPos(), cut ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNoWrap) : QString(),
-                       this, visualRect(index));
+    const QString text = isCut(index) ? index.data().toString() : QString();
+    QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(text, Qt::WhiteSpaceNoWrap), this,
+                       visualRect(index));
     return true;
+}
+
+bool DataGrid::isCut(const QModelIndex &cell) const
+{
+    const QVariant font = cell.data(Qt::FontRole);
+    const QFontMetrics metrics = font.isValid() ? QFontMetrics(font.value<QFont>()) : fontMetrics();
+    const int space = columnWidth(cell.column()) - 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    return metrics.horizontalAdvance(cell.data().toString()) > space;
+}
+
+QString DataGrid::cutFigures(int row) const
+{
+    if (row < 0 || row >= model()->rowCount())
+        return {};
+    QStringList figures;
+    for (int column = 0; column < m_columns.size(); ++column) {
+        const QModelIndex cell = model()->index(row, column);
+        if (m_columns[column].alignment.testFlag(Qt::AlignRight) && isCut(cell))
+            figures.append(u"%1: %2"_s.arg(m_columns[column].title, cell.data().toString()));
+    }
+    return figures.join(u"   "_s);
 }
 
 void DataGrid::setHint(const QString &hint)

@@ -23,6 +23,9 @@ public:
     int surplusColumn() const { return m_surplusColumn; } // takes the width that the others leave over
     int heightForRows(int rows) const;
 
+    // The figures of a row that their columns are too narrow for, whole and each with its title; empty where all fit.
+    QString cutFigures(int row) const;
+
     // What an empty grid shows instead of rows.
     void setHint(const QString &hint);
     virtual QString shownHint() const; // empty while there are rows, or nobody knows
@@ -35,6 +38,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    bool isCut(const QModelIndex &cell) const;
     void paintHint(const QString &hint);
     void paintFocus();
 

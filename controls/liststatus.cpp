@@ -2,6 +2,7 @@
 
 #include "controls/screenmetrics.h"
 
+#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLocale>
@@ -18,6 +19,7 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     , m_bar(bar)
     , m_rows(new QLabel(&bar))
     , m_search(new QLabel(&bar))
+    , m_figures(new QLabel(&bar))
     , m_progress(new QProgressBar(&bar))
 {
     m_rows->setObjectName(u"lblRows"_s);
@@ -26,14 +28,20 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     m_search->setTextFormat(Qt::PlainText);
     // What is typed may be long; it must not widen the window.
     m_search->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_figures->setObjectName(u"lblFigures"_s);
+    m_figures->setTextFormat(Qt::PlainText);
+    m_figures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setTextVisible(false);
     m_progress->setFixedWidth(scaled(&bar, 120));
     m_progress->hide();
     bar.addWidget(m_rows);
     bar.addWidget(m_search, 1);
+    bar.addWidget(m_figures, 1);
     bar.addPermanentWidget(m_progress);
     m_progress->hide(); // adding has shown it
+    m_search->hide();
+    showFigures();
 
     const TableModel *model = grid.tableModel();
     connect(model, &QAbstractItemModel::rowsInserted, this, &ListStatus::showRows);
@@ -41,6 +49,9 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     connect(&model->dataSet(), &Engine::DataSet::listChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListStatus::showRows);
+    connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListStatus::showFigures);
+    connect(model, &QAbstractItemModel::dataChanged, this, &ListStatus::showFigures);
+    connect(grid.horizontalHeader(), &QHeaderView::sectionResized, this, &ListStatus::showFigures);
     connect(grid.search(), &ListSearch::changed, this, &ListStatus::showSearch);
     showRows();
 }
@@ -52,6 +63,12 @@ void ListStatus::say(const QString &text)
 }
 
 void ListStatus::showRows() { m_rows->setText(rowsText()); }
+
+void ListStatus::showFigures()
+{
+    const QModelIndex current = m_grid.currentIndex();
+    m_figures->setText(current.isValid() ? m_grid.cutFigures(current.row()) : QString());
+}
 
 QString ListStatus::rowsText() const
 {
@@ -82,6 +99,7 @@ void ListStatus::showSearch()
 {
     m_bar.clearMessage();
     const ListSearch &search = *m_grid.search();
+    m_search->setVisible(!search.text().isEmpty());
     if (search.text().isEmpty())
         m_search->clear();
     else if (search.isFound())

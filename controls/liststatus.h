@@ -8,8 +8,8 @@ class QStatusBar;
 
 namespace Tallymere {
 
-// The status line of a list: on which row of how many the cursor is, how many are selected, and what is being
-// searched for. Nothing is said of the rows before the whole list has been read.
+// The status line of a list: on which row of how many the cursor is, how many are selected, what is being
+// searched for, and the figures of the row that its columns are too narrow for. Nothing is said of the rows before the whole list has been read.
 class ListStatus : public QObject
 {
     Q_OBJECT
@@ -22,6 +22,7 @@ public:
 
 private:
     void showRows();
+    void showFigures();
     void showSearch();
     QString rowsText() const;
 
@@ -29,6 +30,7 @@ private:
     QStatusBar &m_bar;
     QLabel *m_rows;
     QLabel *m_search;
+    QLabel *m_figures;
     QProgressBar *m_progress;
 };
 

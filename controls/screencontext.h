@@ -36,6 +36,8 @@ struct ScreenContext
     // Runs a command of the main window, by its action's name ("ActionSynchronizeLocations"). Empty: there is no
     // main window, and commands of screens that stand for one are disabled.
     std::function<void(const QString &action)> runAction = {};
+    // Says something in the status line of the main window, for a moment. Empty: there is none.
+    std::function<void(const QString &text)> say = {};
     // Opens a document or an address ("mailto:...", "http://...") with the desktop's program for it.
     std::function<void(const QString &address)> openObject = {};
     // Where windows keep their places and grids their column widths. Null: nothing is remembered.

@@ -191,6 +191,11 @@ void TFormTallymereSystem::fillContext()
                 if (auto *action = m_actionList->findChild<QAction *>(name))
                     action->trigger();
             },
+        .say =
+            [this](const QString &text) {
+                constexpr int moment = 10'000; // ms
+                m_ui->RzStatusBar1->showMessage(text, moment);
+            },
         .openObject = openObject,
         .settings = &m_services.settings,
         .chooseFileToSave = chooseFileToSave,

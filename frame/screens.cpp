@@ -33,8 +33,11 @@ ScreenKind postDialog(const DocumentKind &kind)
     const auto make = [&kind](ScreenContext &context, QWidget *parent) {
         auto *dialog = new DocumentPostScreen(context, kind, parent);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
-        QObject::connect(dialog, &QDialog::accepted, dialog,
-                         [dialog, &kind] { dialog->guard().run([&kind] { refreshOpenList(kind.listScreen); }); });
+        QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, &kind] {
+            dialog->guard().run([&kind] { refreshOpenList(kind.listScreen); });
+            if (!dialog->hasFailed())
+                dialog->sayPosted();
+        });
         return dialog;
     };
     return {make};

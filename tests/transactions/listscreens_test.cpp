@@ -3,6 +3,7 @@
 #include "controls/screenmetrics.h"
 #include "master/screens/itemsfind.h"
 #include "tests/support/screentest.h"
+#include "transactions/documententry.h"
 #include "transactions/documentfilter.h"
 #include "transactions/documentkinds.h"
 #include "transactions/screens/documentfilterscreen.h"
@@ -16,6 +17,7 @@
 #include "transactions/screens/invtotals.h"
 #include "transactions/screens/invtotalsfilter.h"
 
+#include <QHeaderView>
 #include <QSpinBox>
 #include <QStatusBar>
 
@@ -159,6 +161,44 @@ TEST_F(ListScreensTest, postingIsOfferedOnClosingAndTold)
     EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s), 4);
 }
 
+TEST_F(ListScreensTest, postingTellsOfWhatTheListDoesNotShowAndWhoseItIs)
+{
+    addReceipts();
+    QStringList said;
+    context->say = [&](const QString &text) { said << text; };
+    QString told;
+    const auto read = [&](DocumentPostScreen &dialog) {
+        const QLabel *label = child<QLabel>(dialog, "lblNotListed");
+        told = label->isVisible() ? label->text() : QString();
+        press(Qt::Key_Escape);
+    };
+    const auto post = [&] { list->command(u"mnuPost"_s)->trigger(); };
+    open<TfrmInvReceipts>();
+    EXPECT_TRUE(whileOpen<DocumentPostScreen>(post, read));
+    EXPECT_EQ(told, QString());
+
+    const auto anna = kitchen.anotherUser();
+    SpokenPrompts annas;
+    const std::unique_ptr<DocumentEntry> entry = DocumentKinds::receipt().makeEntry(anna->database, annas);
+    entry->open();
+    ASSERT_TRUE(entry->openDocument(1));
+    entry->header().edit();
+    entry->header().set(u"PurchaseOrderNo", u"77"_s);
+    entry->save();
+    kitchen.addReceipt(5, 1, 2, {{1, 5, 3.0}});
+    EXPECT_TRUE(whileOpen<DocumentPostScreen>(post, read));
+    EXPECT_EQ(told, u"1 of them not in the list"_s);
+    list->applyFilter(u"(WarehouseID = 2)"_s);
+    EXPECT_TRUE(whileOpen<DocumentPostScreen>(post, read));
+    EXPECT_TRUE(told.endsWith(u" not in the list, last saved by anna"_s)) << told.toStdString();
+
+    const auto confirm = [](DocumentPostScreen &) { press(Qt::Key_Return); };
+    list->hide(); // as a command of the main window finds it
+    told.clear();
+    EXPECT_TRUE(whileOpen<DocumentPostScreen>([&] { list->mnuPostClick(); }, confirm));
+    EXPECT_EQ(said, QStringList(u"3 receipts posted"_s));
+}
+
 TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
 {
     addReceipts();
@@ -174,6 +214,21 @@ TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
     EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), 0);
     findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s)->btnCancelClick();
     settle();
+}
+
+TEST_F(ListScreensTest, aFigureThatItsColumnIsTooNarrowForShowsInTheStatusLine)
+{
+    kitchen.setStock(1, 1, 123'456'789.5, 2);
+    kitchen.setStock(2, 1, 5, 2);
+    open<TfrmInvTotals>();
+    const auto *figures = child<QLabel>(*list, "lblFigures");
+    EXPECT_EQ(row(0).last(), u"123,456,789.5"_s);
+    EXPECT_EQ(figures->text(), QString());
+    grid->horizontalHeader()->setStretchLastSection(false);
+    grid->setColumnWidth(3, 30);
+    EXPECT_EQ(figures->text(), u"Quantity On Hand: 123,456,789.5"_s);
+    press(Qt::Key_Down);
+    EXPECT_EQ(figures->text(), QString());
 }
 
 TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)

@@ -63,7 +63,8 @@ void DocumentListScreen::showStep()
 
 void DocumentListScreen::mnuPostClick()
 {
-    DocumentPostScreen dialog(context(), m_list.kind(), isVisible() ? this : parentWidget());
+    const bool isOpen = isVisible();
+    DocumentPostScreen dialog(context(), m_list.kind(), isOpen ? this : parentWidget(), isOpen ? &m_list : nullptr);
     post(dialog);
 }
 
@@ -72,8 +73,11 @@ void DocumentListScreen::post(DocumentPostScreen &dialog)
     if (dialog.exec() != QDialog::Accepted)
         return;
     refreshList();
-    if (!dialog.hasFailed())
-        say(m_list.kind().posting.postedText(dialog.posting().posted()));
+    if (dialog.hasFailed())
+        return;
+    dialog.sayPosted();
+    if (isVisible())
+        say(dialog.postedText());
 }
 
 } // namespace Tallymere

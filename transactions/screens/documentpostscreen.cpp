@@ -4,13 +4,18 @@
 #include "controls/messageboxes.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
+#include "transactions/lastsaved.h"
 #include "ui_documentpostscreen.h"
+
+using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-DocumentPostScreen::DocumentPostScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
+DocumentPostScreen::DocumentPostScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent,
+                                       const DocumentList *list)
     : DialogScreen(context, parent)
     , m_posting(context.data.databaseTallymere(), kind)
+    , m_kind(kind)
     , m_ui(std::make_unique<Ui::DocumentPostScreen>())
 {
     setObjectName(kind.postScreen);
@@ -18,12 +23,38 @@ DocumentPostScreen::DocumentPostScreen(ScreenContext &context, const DocumentKin
     setWindowTitle(kind.postCaption);
     setMinimumWidth(scaled(this, 340));
     m_ui->lblRecordCount->setText(m_posting.countText());
+    const QString notListed = list ? notListedText(*list) : QString();
+    m_ui->lblNotListed->setText(notListed);
+    m_ui->lblNotListed->setVisible(!notListed.isEmpty());
     m_posting.isEntryOpen = [&kind] { return findScreen(kind.screen) != nullptr; };
     connect(m_ui->btnOK, &QPushButton::clicked, this, &DocumentPostScreen::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &DocumentPostScreen::reject);
 }
 
 DocumentPostScreen::~DocumentPostScreen() = default;
+
+// They are posted as well: another user has saved them since the list was read, or its filter leaves them out.
+QString DocumentPostScreen::notListedText(const DocumentList &list) const
+{
+    std::vector<qint64> notListed;
+    for (const qint64 key : m_posting.keys()) {
+        if (list.table().indexOf({key}) < 0)
+            notListed.push_back(key);
+    }
+    if (notListed.empty())
+        return {};
+    const QString count = tr("%n of them not in the list", nullptr, static_cast<int>(notListed.size()));
+    const QStringList users = lastSavedBy(context().data.databaseTallymere(), m_kind.posting.transType, notListed);
+    return users.isEmpty() ? count : tr("%1, last saved by %2").arg(count, users.join(u", "_s));
+}
+
+QString DocumentPostScreen::postedText() const { return m_kind.posting.postedText(m_posting.posted()); }
+
+void DocumentPostScreen::sayPosted() const
+{
+    if (context().say)
+        context().say(postedText());
+}
 
 void DocumentPostScreen::btnOKClick()
 {

@@ -272,10 +272,14 @@ bool TFormEnterInventory::focusColumn(const QString &)
 
 void TFormEnterInventory::countItem(int item, std::optional<double> quantity)
 {
-    if (quantity)
+    if (quantity) {
+        const std::optional<QString> question = m_count.questionOf(item, *quantity);
+        if (question && !context().prompts.confirm(Question::Warning, *question))
+            throw SilentAbort(u"Quantity"_s);
         m_count.count(item, *quantity);
-    else
+    } else {
         m_count.forgetCount(item);
+    }
     m_ui->wwDBGridInventory->itemChanged(item);
     showStatus();
 }
@@ -308,7 +312,10 @@ void TFormEnterInventory::showList()
 
 void TFormEnterInventory::showStatus(const QString &said)
 {
-    m_ui->lblStatus->setText(said.isEmpty() ? statusText() : said);
+    const QString figures = m_ui->wwDBGridInventory->cutFigures(m_ui->wwDBGridInventory->currentIndex().row());
+    m_ui->lblStatus->setText(!said.isEmpty()         ? said
+                                 : figures.isEmpty() ? statusText()
+                                                     : statusText() + u"   "_s + figures);
     m_ui->lblStatus->setToolTip(m_count.draftFailure());
 }
 

@@ -16,7 +16,7 @@ TfrmInvReceipts::TfrmInvReceipts(ScreenContext &context, QWidget *parent)
 void TfrmInvReceipts::closeEvent(QCloseEvent *event)
 {
     guard().run([this] {
-        DocumentPostScreen dialog(context(), list().kind(), this);
+        DocumentPostScreen dialog(context(), list().kind(), this, &list());
         if (dialog.posting().count() > 0)
             post(dialog);
     });
