@@ -15,6 +15,15 @@ Database::Database(Session &session, QString name)
 {
 }
 
+Database::Database(Database &other, std::unique_ptr<Connection> connection)
+    : directory(other.directory)
+    , remoteName(other.remoteName)
+    , m_session(other.m_session)
+    , m_name(other.m_name)
+    , m_connection(std::move(connection))
+{
+}
+
 Database::~Database() = default;
 
 std::unique_ptr<Database> Database::inMemory(Session &session)

@@ -20,6 +20,9 @@ public:
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
 
+    // The same database, over another connection to it.
+    Database(Database &other, std::unique_ptr<Connection> connection);
+
     // A database that lives in memory and goes with the object. Tables of it are made with createTable.
     static std::unique_ptr<Database> inMemory(Session &session);
 

@@ -60,6 +60,8 @@ public:
     // The condition of an expression over the data fields. Throws BadExpression when it does not fit them.
     SqlCondition condition(const FilterExpression &filter) const;
     RowSource &source() const;
+    RowSource sourceOn(Connection &connection) const; // the same over another connection to the database
+    const std::vector<Row> *memory() const { return d.inMemory ? &d.memory : nullptr; }
     // A read of the source: read(&RowSource::keys). Damage is mended, if the set was told how.
     template <typename Method, typename... Arguments> auto read(Method method, const Arguments &...arguments) const
     {

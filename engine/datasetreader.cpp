@@ -20,13 +20,17 @@ SqlCondition DataSetReader::condition(const FilterExpression &filter) const
 
 RowSource &DataSetReader::source() const
 {
-    if (d.source)
-        return *d.source;
+    if (!d.source)
+        d.source.emplace(sourceOn(m_set.m_database.connection()));
+    return *d.source;
+}
+
+RowSource DataSetReader::sourceOn(Connection &connection) const
+{
     SetScope scope = m_set.scope();
     if (m_set.m_filtered)
         scope.condition += condition(FilterExpression(m_set.m_filter));
-    d.source.emplace(m_set.m_database.connection(), std::move(scope), m_set.m_fields);
-    return *d.source;
+    return RowSource(connection, std::move(scope), m_set.m_fields);
 }
 
 bool DataSetReader::mended(const EngineError &error) const

@@ -14,6 +14,7 @@
 
 namespace Engine {
 
+class Database;
 class Dialect;
 class LockManager;
 
@@ -92,6 +93,12 @@ public:
     virtual void rollback() noexcept = 0;
     // False again when the store has rolled back by itself (a full disk, a lost connection).
     virtual bool inTransaction() const = 0;
+
+    // Another connection to the same store, in a transaction that reads what stands there now and writes nothing; see
+    // ReadMoment. Its commit throws when something else has come into the place of what it has read.
+    virtual std::unique_ptr<Connection> openMoment(const Database &database) = 0;
+    // Whether nobody can write while such a transaction lasts.
+    virtual bool isWritingKeptOutByReading() { return false; }
 
     // What the store holds. A missing table gives nullopt. Indexes that the engine did not make are left out.
     virtual std::optional<TableLayout> describe(const QString &table) = 0;

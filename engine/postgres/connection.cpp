@@ -83,6 +83,17 @@ void PostgresConnection::rollback() noexcept
     m_locks->releaseDeferred();
 }
 
+// A moment cannot be tried again for the sake of one statement, so that one waits for as long as would be tried.
+std::unique_ptr<Connection> PostgresConnection::openMoment(const Database &database)
+{
+    PostgresTarget target = targetOf(database);
+    target.lockWait = database.session().lockAttempts * database.session().lockPause;
+    auto reader = std::make_unique<PostgresConnection>(target);
+    reader->m_link->begin("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY");
+    reader->m_link->run("SELECT 1"); // the moment is that of the first statement
+    return reader;
+}
+
 qint64 PostgresConnection::lastInsertId()
 {
     const StatementPtr statement = prepare(u"SELECT lastval()"_s);

@@ -26,6 +26,7 @@ public:
     void commit() override;
     void rollback() noexcept override;
     bool inTransaction() const override { return m_link->inTransaction(); }
+    std::unique_ptr<Connection> openMoment(const Database &database) override;
     std::optional<TableLayout> describe(const QString &table) override;
     QStringList tableNames() override;
     qint64 repair(const TableLayout &table) override;

@@ -284,11 +284,11 @@ void PostgresLink::abandonPipeline() noexcept
 
 // --- transaction ------------------------------------------------------------------------------------------------
 
-void PostgresLink::begin()
+void PostgresLink::begin(const QByteArray &statement)
 {
     prepareFor(nullptr);
     leavePipeline();
-    run("BEGIN");
+    run(statement);
     m_inTransaction = true;
 }
 

@@ -103,7 +103,7 @@ public:
 
     // --- transaction ---
     bool inTransaction() const { return m_inTransaction; }
-    void begin();
+    void begin(const QByteArray &statement = "BEGIN");
     void commit();
     void rollback() noexcept;
     bool isTransactionFailed() const;

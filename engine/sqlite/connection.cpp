@@ -211,6 +211,25 @@ void SqliteConnection::rollback() noexcept
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
+std::unique_ptr<Connection> SqliteConnection::openMoment(const Database &database)
+{
+    if (!m_watch)
+        raise(ErrorCode::WrongState, Texts::tr("A database in memory has one connection only."));
+    requireOwnFile();
+    auto reader = std::make_unique<SqliteConnection>(m_path, Missing::Fail, database.session().applicationUser);
+    requireOwnFile(); // or the reader has opened another one
+    reader->execute(
+        u"PRAGMA query_only = ON; BEGIN; SELECT count(*) FROM sqlite_schema"_s); // the first read counts
+    return reader;
+}
+
+// A rollback journal is written only while nobody reads.
+bool SqliteConnection::isWritingKeptOutByReading()
+{
+    const StatementPtr journal = prepare(u"PRAGMA journal_mode"_s);
+    return journal->next() && journal->textAt(0) != "wal"_L1;
+}
+
 bool SqliteConnection::inTransaction() const { return sqlite3_get_autocommit(m_db) == 0; }
 
 qint64 SqliteConnection::lastInsertId() { return sqlite3_last_insert_rowid(m_db); }

@@ -33,6 +33,8 @@ public:
     void commit() override;
     void rollback() noexcept override;
     bool inTransaction() const override;
+    std::unique_ptr<Connection> openMoment(const Database &database) override;
+    bool isWritingKeptOutByReading() override;
     std::optional<TableLayout> describe(const QString &table) override;
     QStringList tableNames() override;
     qint64 repair(const TableLayout &table) override;

@@ -1,4 +1,5 @@
 #include "engine/lockmanager.h"
+#include "engine/readmoment.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/otheruser.h"
 
@@ -168,6 +169,19 @@ TEST(LocalFiles, AFileOfTwoNamesIsNotOpened)
         }
         kitchen.shell(u"rm -r other"_s);
         EXPECT_EQ(contentOf(kitchen.folder), u"old yesterday today ok"_s);
+    }
+}
+
+TEST(LocalFiles, WhatIsReadOfAFileThatIsReplacedMeanwhileCountsForNothing)
+{
+    for (const Loss &loss : losses) {
+        SCOPED_TRACE(loss.name);
+        Kitchen kitchen;
+        kitchen.connection();
+        ReadMoment moment(kitchen.maria.database);
+        kitchen.shell(QString::fromLatin1(loss.command));
+        EXPECT_EQ(errorOf([&] { moment.end(); }), ErrorCode::FileReplaced);
+        EXPECT_EQ(errorOf([&] { ReadMoment(kitchen.maria.database); }), ErrorCode::FileReplaced);
     }
 }
 

@@ -1,3 +1,4 @@
+#include "engine/readmoment.h"
 #include "engine/table.h"
 #include "tests/support/failures.h"
 #include "tests/support/teststore.h"
@@ -95,6 +96,17 @@ TEST_F(NetworkFolder, ANumberThatSomebodyElseTookMeanwhileIsCountedAnew)
     notes.post();
     EXPECT_EQ(notes.integer(u"Number"_s), 2);
     EXPECT_EQ(store.rows(u"SELECT Number, Words FROM Note"_s), (QStringList{u"1|theirs"_s, u"2|mine"_s}));
+}
+
+TEST_F(NetworkFolder, AMomentKeepsWritersOutUntilItsEnd)
+{
+    const auto anna = store.anotherUser();
+    ReadMoment moment(anna->database);
+    EXPECT_TRUE(moment.keepsWritersOut());
+    EXPECT_EQ(errorOf([&] { write(u"one"_s); }), ErrorCode::Busy);
+    moment.end();
+    write(u"two"_s);
+    EXPECT_EQ(store.rows(u"SELECT Words FROM Note"_s), QStringList{u"two"_s});
 }
 
 } // namespace
