@@ -1,7 +1,10 @@
 #include "base/csvlist.h"
 
 #include "base/csvwriter.h"
+#include "base/rowspool.h"
 #include "base/savedfile.h"
+#include "engine/readmoment.h"
+#include "engine/rowwalk.h"
 
 namespace Tallymere {
 
@@ -16,15 +19,21 @@ void writeCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns,
     }
     writer.endRecord();
 
-    const int count = rows.recordCount();
-    progress.start(count);
-    for (int index = 0; index < count; ++index) {
-        const Engine::Row &row = rows.rowAt(index);
+    const auto write = [&](const Engine::Row &row) {
         for (const int field : fields)
             writer.field(rows.valueIn(row, field).toText());
         writer.endRecord();
-        progress.step();
-    }
+    };
+    Engine::ReadMoment moment(rows.database());
+    Engine::RowWalk walk(rows, moment);
+    RowSpool aside; // where nobody can write before the moment is over, the output must not be waited for
+    progress.start(walk.count());
+    Engine::Row row;
+    for (; walk.next(row); progress.step())
+        moment.keepsWritersOut() ? aside.append(row) : write(row);
+    moment.end();
+    while (aside.next(row))
+        write(row);
     writer.flush();
     progress.finish();
 }

@@ -13,8 +13,8 @@ class QIODevice;
 namespace Tallymere {
 
 // Lists as CSV: values as they are stored, not as they are shown (dates YYYY-MM-DD, a decimal point, true and false),
-// every row of the set as filtered and in its order. Rows are read in windows, so that memory follows the keys of the
-// set and not its rows. The set is open.
+// every row of the set as filtered and in its order, all as they are at one moment. Rows are read in windows, so that
+// memory follows the keys of the set and not its rows. The set is open.
 
 // The columns under their titles. Throws RuleError when the device takes no more, EngineError when the store fails.
 void writeCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, QIODevice &output,

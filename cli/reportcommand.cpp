@@ -145,11 +145,11 @@ void runReportCommand(CommandContext &context)
     presetPeriod(*data, report, selection);
     ConsoleProgress progress(context.console, Texts::tr("Writing"));
     if (context.arguments.has(u"pdf"_s)) {
-        const auto run = runReport(*data, report, selection);
+        const auto run = runReport(*data, report, selection, &progress);
         Printing::savePdf(*run, context.arguments.value(u"pdf"_s), progress);
         return;
     }
-    const Printing::Report made = makeReport(*data, report, selection);
+    const Printing::Report made = makeReport(*data, report, selection, &progress);
     Printing::writeReportCsv(made.layout, *made.rows, context.console.longOutput(), progress);
 }
 
@@ -159,10 +159,10 @@ void runPrintCommand(CommandContext &context)
     ReportSelection selection = selectionOf(context.arguments, report);
     const auto data = context.openData();
     presetPeriod(*data, report, selection);
-    const auto run = runReport(*data, report, selection);
+    ConsoleProgress progress(context.console, Texts::tr("Printing"));
+    const auto run = runReport(*data, report, selection, &progress);
     const QTemporaryDir folder;
     const QString file = folder.filePath(u"report.pdf"_s);
-    ConsoleProgress progress(context.console, Texts::tr("Printing"));
     Printing::savePdf(*run, file, progress);
     Printing::sendToPrinter(file, context.arguments.value(u"printer"_s), run->title(),
                             QPageSize(run->paper().size));

@@ -1,5 +1,8 @@
 #include "controls/listcopy.h"
 
+#include "engine/readmoment.h"
+#include "engine/rowwalk.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -29,26 +32,34 @@ QString titles(const TableModel &model)
     return titles.join(u'\t') + u'\n';
 }
 
+Engine::KeyList keysOf(const Engine::DataSet &set, const QList<RowRange> &rows)
+{
+    const qsizetype width = set.keyAt(0).size();
+    Engine::KeyList keys(static_cast<int>(std::max<qsizetype>(width, 1)));
+    for (const RowRange &range : rows)
+        for (int row = range.first; row <= range.last; ++row)
+            for (const qint64 number : set.keyAt(row))
+                keys.append(number);
+    return keys;
+}
+
 } // namespace
 
 QString rowsAsText(const TableModel &model, const QList<RowRange> &rows, Progress &progress)
 {
-    int count = 0;
-    for (const RowRange &range : rows)
-        count += range.count();
-    progress.start(count);
-    QString text = count > 1 ? titles(model) : QString();
-    for (const RowRange &range : rows) {
-        for (int row = range.first; row <= range.last; ++row) {
-            for (int column = 0; column < model.columnCount(); ++column) {
-                if (column > 0)
-                    text += u'\t';
-                text += cell(model.shownText(row, column));
-            }
-            text += u'\n';
-            progress.step();
+    Engine::ReadMoment moment(model.dataSet().database());
+    Engine::RowWalk walk(model.dataSet(), moment, keysOf(model.dataSet(), rows));
+    progress.start(walk.count());
+    QString text = walk.count() > 1 ? titles(model) : QString();
+    for (Engine::Row row; walk.next(row); progress.step()) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            if (column > 0)
+                text += u'\t';
+            text += cell(model.shownText(row, column));
         }
+        text += u'\n';
     }
+    moment.end();
     progress.finish();
     return text;
 }

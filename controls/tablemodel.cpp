@@ -65,10 +65,18 @@ QString TableModel::cellText(const QModelIndex &index, int role) const
 QString TableModel::shownText(int row, int column) const
 {
     const int number = m_fields[static_cast<size_t>(column)];
-    if (number < 0)
-        return {};
+    return number < 0 ? QString() : shownValue(number, cellValue(row, number));
+}
+
+QString TableModel::shownText(const Engine::Row &row, int column) const
+{
+    const int number = m_fields[static_cast<size_t>(column)];
+    return number < 0 ? QString() : shownValue(number, m_data.valueIn(row, number));
+}
+
+QString TableModel::shownValue(int number, const Engine::Value &value) const
+{
     const Engine::Field &field = std::as_const(m_data).field(number);
-    const Engine::Value value = cellValue(row, number);
     if (field.type == FieldType::Boolean && !field.format.display)
         return value.toBool() ? tr("Yes") : tr("No");
     return field.displayText(value);

@@ -32,6 +32,7 @@ public:
     bool hasFailed() const { return m_failed; } // something could not be read since the list was read
     // A cell as it is shown. Throws what the store raises.
     QString shownText(int row, int column) const;
+    QString shownText(const Engine::Row &row, int column) const; // of a row of the set that is in hand
     void readRest(); // nothing to do when all rows are there
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -51,6 +52,7 @@ protected:
 
 private:
     QString cellText(const QModelIndex &index, int role) const;
+    QString shownValue(int field, const Engine::Value &value) const;
     void findFields();
     int rowStartingWith(const QString &field, const QString &text) const; // -1 when there is none
     bool attempt(const std::function<void()> &reading) const; // false, and a report to come, when it failed

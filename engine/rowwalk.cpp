@@ -6,22 +6,28 @@
 namespace Engine {
 
 RowWalk::RowWalk(const DataSet &set, ReadMoment &moment)
-    : m_memory(DataSetReader(set).memory())
+    : RowWalk(set, moment, KeyList())
 {
-    if (m_memory)
-        return;
-    m_source.emplace(DataSetReader(set).sourceOn(moment.database().connection()));
-    m_keys = m_source->keys();
+    if (m_source)
+        m_keys = m_source->keys();
+    for (size_t i = 0; m_memory && i < m_memory->size(); ++i)
+        m_keys.append(static_cast<qint64>(i));
 }
 
-int RowWalk::count() const { return m_memory ? static_cast<int>(m_memory->size()) : m_keys.count(); }
+RowWalk::RowWalk(const DataSet &set, ReadMoment &moment, KeyList keys)
+    : m_memory(DataSetReader(set).memory())
+    , m_keys(std::move(keys))
+{
+    if (!m_memory)
+        m_source.emplace(DataSetReader(set).sourceOn(moment.database().connection()));
+}
 
 bool RowWalk::next(Row &row)
 {
     if (m_next >= count())
         return false;
     if (m_memory) {
-        row = (*m_memory)[static_cast<size_t>(m_next++)];
+        row = (*m_memory)[static_cast<size_t>(m_keys.slice(m_next++, 1)[0])];
         return true;
     }
     const int start = WindowCache::windowStart(m_next);

@@ -8,15 +8,18 @@ namespace Engine {
 
 class ReadMoment;
 
-// All rows of an open set, one after the other, as they are at a moment: as filtered and in its order, rows that have
-// come since its list was read among them. Neither moves the set nor changes what it has in hand. Memory follows the
-// keys. (A query without key fields stays with what it read when it was opened.)
+// Rows of an open set, one after the other, as they are at a moment. Neither moves the set nor changes what it has in
+// hand. Memory follows the keys. (A query without key fields stays with what it read when it was opened.)
 class RowWalk
 {
 public:
-    RowWalk(const DataSet &set, ReadMoment &moment); // both outlive the object; reads the keys
+    // All rows, as filtered and in the set's order, those that have come since its list was read among them. Set and
+    // moment outlive the object.
+    RowWalk(const DataSet &set, ReadMoment &moment);
+    // The rows of these keys, in their order; one that is gone is a row of nulls.
+    RowWalk(const DataSet &set, ReadMoment &moment, KeyList keys);
 
-    int count() const;
+    int count() const { return m_keys.count(); }
     bool next(Row &row); // false after the last. DataSet::valueIn() gives the calculated fields
 
 private:

@@ -27,6 +27,7 @@ bool ReportRun::makePages(QDeadlineTimer until)
         }
     } catch (...) {
         m_state = State::Failed;
+        m_report.rows.reset(); // and what they hold in the store; nobody asks for lines any more
         throw;
     }
     return isComplete();

@@ -13,6 +13,7 @@ AccountRows::AccountRows(Engine::Database &database, const ReportDescription &re
     , m_map(report.layout, m_query)
     , m_item(m_query.fieldIndex(u"ItemID"))
     , m_location(m_query.fieldIndex(u"WarehouseID"))
+    , m_onHand(m_query.fieldIndex(m_location >= 0 ? u"QtyOnHand" : u"ItemQtyOnHand"))
     , m_movements(database, selection.year, selection.period, selection.warehouseId, m_location >= 0)
 {
 }

@@ -20,7 +20,7 @@ protected:
     void
     takeBalance(std::vector<Engine::Value> &values) const; // of the account in hand, without what is calculated
     const std::vector<Movement> &movements() const { return m_movements.of(m_account); }
-    double onHand() const { return m_movements.onHand(m_account); } // after them
+    double onHand() const { return m_query.valueAt(m_index, m_onHand).toDouble(); } // after them
     size_t indexOf(const QString &field) const { return m_map.indexOf(field); }
 
 private:
@@ -32,6 +32,7 @@ private:
     FieldMap m_map;
     int m_item;
     int m_location; // -1: the lines are sums over locations
+    int m_onHand;
     Movements m_movements;
     size_t m_itemsAtOnce = 16;
     int m_index = -1; // of the account in hand

@@ -4,6 +4,7 @@
 #include "base/ruleerror.h"
 #include "data/datamodule.h"
 #include "engine/query.h"
+#include "reports/momentrows.h"
 #include "reports/texts.h"
 
 #include <QTime>
@@ -47,21 +48,23 @@ QString periodHeading(const ReportSelection &selection)
 } // namespace
 
 Printing::Report makeReport(TDataModuleTallymere &data, const ReportDescription &report,
-                            const ReportSelection &selection)
+                            const ReportSelection &selection, Progress *progress)
 {
-    Engine::Database &database = data.databaseTallymere();
+    auto moment = std::make_unique<Engine::ReadMoment>(data.databaseTallymere());
+    Engine::Database &database = moment->database();
     Printing::Report made{report.layout, nullptr};
     made.layout.headings = {selectionHeading(database, selection)};
     if (report.parameters.period)
         made.layout.headings.append(periodHeading(selection));
     if (report.notes)
         made.layout.headings += report.notes(database, selection);
-    made.rows = report.rows(database, report, selection);
+    Printing::RowReaderPtr rows = report.rows(database, report, selection);
+    made.rows = momentRows(std::move(moment), std::move(rows), progress);
     return made;
 }
 
 std::unique_ptr<Printing::ReportRun> runReport(TDataModuleTallymere &data, const ReportDescription &report,
-                                               const ReportSelection &selection)
+                                               const ReportSelection &selection, Progress *progress)
 {
     data.tblCompany().refresh();
     const RegionalSettings settings = RegionalSettings::system();
@@ -69,7 +72,7 @@ std::unique_ptr<Printing::ReportRun> runReport(TDataModuleTallymere &data, const
     const Printing::PageTexts texts{
         data.tblCompany().text(u"CompanyName"),
         ReportsTexts::tr("Printed at %1 %2").arg(dateText(data.today(), settings), time)};
-    return std::make_unique<Printing::ReportRun>(makeReport(data, report, selection),
+    return std::make_unique<Printing::ReportRun>(makeReport(data, report, selection, progress),
                                                  data.quickReportA4() ? QPageSize::A4 : QPageSize::Letter, texts);
 }
 

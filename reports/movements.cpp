@@ -1,11 +1,9 @@
 #include "reports/movements.h"
 
-#include "base/ruleerror.h"
 #include "data/transtypes.h"
 #include "engine/database.h"
 #include "engine/dialect.h"
 #include "engine/sqlcondition.h"
-#include "reports/texts.h"
 
 #include <algorithm>
 #include <tuple>
@@ -29,65 +27,30 @@ Movements::Movements(Engine::Database &database, int year, int period, int wareh
 {
 }
 
-int Movements::read(const std::vector<qint64> &items)
+Engine::StatementPtr Movements::prepared(const std::vector<qint64> &items) const
 {
-    constexpr int attempts = 10;
-    const QString numbers = Engine::numberList(items);
-    m_onHand = readOnHand(numbers);
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        const int count = readMovements(numbers);
-        // Where somebody has posted in between, the movements may be of another moment than the stock.
-        const OnHand after = readOnHand(numbers);
-        if (after == m_onHand)
-            return count;
-        m_onHand = after;
-    }
-    throw RuleError(
-        ReportsTexts::tr("The report cannot be made while others are posting. Try again when they have finished."));
-}
-
-// Of both tables.
-QString Movements::condition() const
-{
-    const QString ofItems = m_database.connection().dialect().inNumberList(u"ItemID"_s);
-    return m_warehouseId > 0 ? ofItems + " AND WarehouseID = ?"_L1 : ofItems;
-}
-
-Engine::StatementPtr Movements::prepared(const QString &sql, const QString &items) const
-{
-    Engine::StatementPtr statement = m_database.connection().prepare(sql);
-    statement->bindText(0, items);
+    const Engine::Dialect &dialect = m_database.connection().dialect();
+    QString condition = dialect.inNumberList(u"ItemID"_s);
     if (m_warehouseId > 0)
-        statement->bindInt(1, m_warehouseId);
+        condition += " AND WarehouseID = ?"_L1;
+    condition += " AND (GLYear, GLPeriod) >= (?, ?)"_L1;
+    Engine::StatementPtr statement = m_database.connection().prepare(
+        u"SELECT ItemID, WarehouseID, IHistID, TransType, GLYear, GLPeriod, TransDate, TransDescription, Quantity "
+        "FROM IHist WHERE "_s
+        + dialect.inStoredOrder(u"IHist"_s, u"IHistID"_s, condition));
+    int parameter = 0;
+    statement->bindText(parameter++, Engine::numberList(items));
+    if (m_warehouseId > 0)
+        statement->bindInt(parameter++, m_warehouseId);
+    statement->bindInt(parameter++, m_year);
+    statement->bindInt(parameter, m_period);
     return statement;
 }
 
-Movements::OnHand Movements::readOnHand(const QString &items) const
-{
-    const QString columns = m_byLocation ? u"ItemID, WarehouseID, QtyOnHand"_s : u"ItemID, 0, Sum(QtyOnHand)"_s;
-    const QString grouping = m_byLocation ? QString() : u" GROUP BY ItemID"_s;
-    const Engine::StatementPtr statement =
-        prepared("SELECT "_L1 + columns + " FROM IBalance WHERE "_L1 + condition() + grouping, items);
-    OnHand onHand;
-    while (statement->next())
-        onHand.insert({static_cast<int>(statement->intAt(0)), static_cast<int>(statement->intAt(1))},
-                      statement->doubleAt(2));
-    return onHand;
-}
-
-int Movements::readMovements(const QString &items)
+int Movements::read(const std::vector<qint64> &items)
 {
     m_read.clear();
-    const Engine::StatementPtr statement =
-        prepared(u"SELECT ItemID, WarehouseID, IHistID, TransType, GLYear, GLPeriod, TransDate, TransDescription, "
-                 "Quantity FROM IHist WHERE "_s
-                     + m_database.connection().dialect().inStoredOrder(
-                         u"IHist"_s, u"IHistID"_s, condition() + " AND (GLYear, GLPeriod) >= (?, ?)"_L1),
-                 items);
-    const int first = m_warehouseId > 0 ? 2 : 1;
-    statement->bindInt(first, m_year);
-    statement->bindInt(first + 1, m_period);
-
+    const Engine::StatementPtr statement = prepared(items);
     int count = 0;
     QString description; // the rows of a document, which stand one behind the other, share it
     for (; statement->next(); ++count) {

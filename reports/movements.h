@@ -29,8 +29,8 @@ struct Movement
     double change() const;
 };
 
-// The movements from a fiscal period on, item by item, and what is on hand after them. They are read for many items with
-// one statement, so that a report neither asks the store once for each of its lines nor holds more than those items' rows.
+// The movements from a fiscal period on, item by item. They are read for many items with one statement, so that a report
+// neither asks the store once for each of its lines nor holds more than those items' rows.
 class Movements
 {
 public:
@@ -38,19 +38,13 @@ public:
     Movements(Engine::Database &database, int year, int period, int warehouseId, bool byLocation);
 
     using Account = std::pair<int, int>; // item and location; location 0 unless byLocation
-    // Reads those of the items and lets go of what has been read before. Returns how many there are. Movements and stock
-    // are those of one moment; RuleError when others post again and again meanwhile.
+    // Reads those of the items and lets go of what has been read before. Returns how many there are.
     int read(const std::vector<qint64> &items);
     // In the order of period and date. Of an item that has been read.
     const std::vector<Movement> &of(Account account) const;
-    double onHand(Account account) const { return m_onHand.value(account); }
 
 private:
-    using OnHand = QHash<Account, double>;
-    QString condition() const;
-    Engine::StatementPtr prepared(const QString &sql, const QString &items) const;
-    int readMovements(const QString &items);
-    OnHand readOnHand(const QString &items) const;
+    Engine::StatementPtr prepared(const std::vector<qint64> &items) const;
 
     Engine::Database &m_database;
     int m_year;
@@ -58,7 +52,6 @@ private:
     int m_warehouseId;
     bool m_byLocation;
     QHash<Account, std::vector<Movement>> m_read;
-    OnHand m_onHand;
 };
 
 } // namespace Tallymere

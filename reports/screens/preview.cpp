@@ -109,9 +109,6 @@ void TfrmPreview::showEvent(QShowEvent *event)
 
 void TfrmPreview::makePages()
 {
-    // What is being written on the connection has it to itself.
-    if (m_context.data.databaseTallymere().connection().inTransaction())
-        return;
     constexpr int milliseconds = 20; // less than anybody would notice as a delay of a key
     const auto show = qScopeGuard([this] {
         if (m_run->hasEnded())

@@ -68,21 +68,4 @@ TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
     }
 }
 
-// The list of balances is read when a report begins, the movements as it goes on.
-TEST_P(ListReports, BalancesAndMovementsAreOfOneMoment)
-{
-    kitchen.setStock(1, 1, 5, 1);
-    const ReportDescription &perpetual = report("Perpetual by Item");
-    const Printing::RowReaderPtr rows = perpetual.rows(kitchen.database(), perpetual, {.period = 3, .year = 2026});
-    kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8; "
-                    "INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, "
-                    "UnitCost) VALUES (1, 1, 2026, 3, 3, '2026-03-14', 3, 1)"_s);
-    const auto balance = static_cast<size_t>(rows->fields().indexOf(u"Balance"_s));
-    Printing::ReportRow row;
-    for (const double expected : {5.0, 8.0}) {
-        ASSERT_TRUE(rows->next(row));
-        EXPECT_EQ(row.values[balance].toDouble(), expected);
-    }
-}
-
 } // namespace

@@ -1,0 +1,165 @@
+#include "base/csvlist.h"
+#include "data/datamodule.h"
+#include "host/tables/hosttables.h"
+#include "printing/reportcsv.h"
+#include "reports/makereport.h"
+#include "reports/reportlist.h"
+#include "tests/support/kitchen.h"
+#include "transactions/historyview.h"
+
+#include <QBuffer>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+// Reports and lists that others write beside. In a folder of another computer nobody writes while somebody reads.
+
+namespace {
+
+enum class Place { Folder, NetworkFolder, Server };
+
+class Moments : public testing::TestWithParam<Place>
+{
+protected:
+    Moments()
+    {
+        if (GetParam() == Place::NetworkFolder)
+            qputenv("TALLYMERE_TEST_NETWORK", "1");
+        kitchen = std::make_unique<Kitchen>(GetParam() == Place::Server ? Store::Remote : Store::Local);
+        HostTables::createHostTables(kitchen->database(), u"Test Kitchen"_s, u"USA"_s);
+        stockUp();
+        DataModuleOptions options;
+        options.dataFolder = kitchen->store() == Store::Local ? kitchen->directory() : QString();
+        options.server = kitchen->store() == Store::Remote ? u"127.0.0.1"_s : QString();
+        options.serverDatabase = kitchen->remoteName();
+        data = std::make_unique<TDataModuleTallymere>(settings, prompts, options);
+    }
+    ~Moments() override { qunsetenv("TALLYMERE_TEST_NETWORK"); }
+
+    // More than is fetched at once, and than goes to a device at once.
+    void stockUp()
+    {
+        QStringList items, balances;
+        for (int id = 101; id <= 700; ++id) {
+            items << u"(%1, 'N%1', 'Item %1', 1, false, 2)"_s.arg(id);
+            balances << u"(%1, 1, 5)"_s.arg(id);
+        }
+        kitchen->execute(
+            u"INSERT INTO Item (ItemID, ItemNo, ItemDescription, ItemTypeID, Suspended, WgtAvgCost) VALUES %1; "
+            "INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES %2; UPDATE ItemType SET Inventory = "
+            "true; "
+            "INSERT INTO IUsage (UsageID, UsageNo, GLYear, GLPeriod, InventoryDate, WarehouseID, Posted) "
+            "VALUES (1, '10001', 2026, 3, '2026-03-14', 1, false); "
+            "INSERT INTO IAdjust (AdjustmentID, AdjDescription, GLYear, GLPeriod, AdjDate, WarehouseID, Posted) "
+            "VALUES (1, 'Spoiled', 2026, 3, '2026-03-14', 1, false)"_s.arg(items.join(u','), balances.join(u',')));
+        kitchen->addReceipt(1, 1, 1, {});
+        moveAll();
+        moveAll();
+    }
+    void moveAll()
+    {
+        kitchen->execute(
+            u"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, "
+            "UnitCost, TransDescription) SELECT ItemID, WarehouseID, 2026, 3, 3, '2026-03-14', 1, 1, "
+            "'Receipt: 1001   PO: everything that there was' FROM IBalance"_s);
+    }
+    // As another user. Every report shows a part of it.
+    void writeMuch()
+    {
+        kitchen->execute(u"UPDATE IBalance SET QtyOnHand = QtyOnHand + 1"_s);
+        moveAll();
+        kitchen->execute(u"UPDATE Item SET WgtAvgCost = 7; UPDATE ItemType SET TypeName = 'New'; "
+                         "UPDATE Vendor SET Phone = '555'; UPDATE IReceipt SET Posted = true; "
+                         "UPDATE IUsage SET Posted = true; UPDATE IAdjust SET Posted = true"_s);
+    }
+
+    std::unique_ptr<Kitchen> kitchen;
+    MemorySettings settings;
+    SpokenPrompts prompts;
+    CountedProgress progress;
+    std::unique_ptr<TDataModuleTallymere> data;
+};
+
+INSTANTIATE_TEST_SUITE_P(, Moments, testing::Values(Place::Folder, Place::NetworkFolder, Place::Server),
+                         [](const auto &one) {
+                             return one.param == Place::Folder ? "Local"
+                                 : one.param == Place::Server  ? "Remote"
+                                                               : "Network";
+                         });
+
+TEST_P(Moments, AReportIsOfTheMomentItWasAskedFor)
+{
+    for (const ReportDescription &report : ReportList::all()) {
+        const ReportSelection selection{
+            .warehouseId = report.parameters.location ? 1 : 0, .period = 3, .year = 2026};
+        const auto csv = [this](const Printing::Report &made) {
+            QBuffer file;
+            file.open(QIODevice::WriteOnly);
+            Printing::writeReportCsv(made.layout, *made.rows, file, progress);
+            return file.data();
+        };
+        const QByteArray before = csv(makeReport(*data, report, selection));
+        const Printing::Report made = makeReport(*data, report, selection);
+        writeMuch();
+        EXPECT_TRUE(csv(made) == before) << report.name.toStdString();
+        EXPECT_FALSE(csv(makeReport(*data, report, selection)) == before) << report.name.toStdString();
+        kitchen->execute(u"UPDATE Item SET WgtAvgCost = 2; UPDATE ItemType SET TypeName = 'Old'; "
+                         "UPDATE Vendor SET Phone = '444'; UPDATE IReceipt SET Posted = false; "
+                         "UPDATE IUsage SET Posted = false; UPDATE IAdjust SET Posted = false"_s);
+    }
+}
+
+// At the first block that it takes.
+class BesideWhichIsWritten : public QBuffer
+{
+public:
+    explicit BesideWhichIsWritten(std::function<void()> write)
+        : m_write(std::move(write))
+    {
+        open(QIODevice::WriteOnly);
+    }
+
+protected:
+    qint64 writeData(const char *bytes, qint64 count) override
+    {
+        if (const auto write = std::exchange(m_write, {}))
+            write();
+        return QBuffer::writeData(bytes, count);
+    }
+
+private:
+    std::function<void()> m_write;
+};
+
+TEST_P(Moments, AListIsOfTheMomentItWasAskedFor)
+{
+    HistoryView view(data->databaseTallymere());
+    view.open();
+    const auto csv = [&](const std::function<void()> &meanwhile) {
+        BesideWhichIsWritten file(meanwhile);
+        writeCsvList(view.table(), {u"IHistID"_s, u"Quantity"_s, u"ItemDescription"_s, u"TransDescription"_s}, file,
+                     progress);
+        return file.data();
+    };
+    const QByteArray before = csv([] {});
+    ASSERT_GT(before.size(), 70'000);
+    EXPECT_TRUE(
+        csv([&] { kitchen->execute(u"UPDATE IHist SET Quantity = 2; UPDATE Item SET ItemDescription = 'New'"_s); })
+        == before);
+    EXPECT_FALSE(csv([] {}) == before);
+}
+
+TEST_P(Moments, RowsThatCannotBePutAsideAreRefused)
+{
+    if (GetParam() != Place::NetworkFolder)
+        return;
+    const QByteArray temporary = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc"); // where nobody can make a file
+    const QString refusal = refusalOf([&] { makeReport(*data, *ReportList::find(u"Inventory Totals"_s), {}); });
+    temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+    EXPECT_TRUE(refusal.startsWith("The rows that were read cannot be kept in '/proc'..."_L1))
+        << qPrintable(refusal);
+    kitchen->execute(u"UPDATE IBalance SET QtyOnHand = 0"_s); // nobody reads any more
+}
+
+} // namespace
