@@ -1,6 +1,6 @@
 #include "base/csvwriter.h"
 
-#include "base/ruleerror.h"
+#include "base/savedfile.h"
 #include "base/texts.h"
 
 #include <QIODevice>
@@ -54,7 +54,7 @@ void CsvWriter::record(const QStringList &fields)
 void CsvWriter::flush()
 {
     if (m_device.write(m_block) != m_block.size())
-        throw RuleError(BaseTexts::tr("The output could not be written: %1").arg(m_device.errorString()));
+        throw RuleError(BaseTexts::tr("The output could not be written: %1").arg(reasonOfShortWrite(m_device)));
     m_block.clear();
     m_recordStart = 0;
 }

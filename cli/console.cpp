@@ -1,6 +1,8 @@
 #include "cli/console.h"
 
+#include "base/savedfile.h"
 #include "cli/terminal.h"
+#include "cli/texts.h"
 
 #include <cstdio>
 #include <QCoreApplication>
@@ -32,7 +34,12 @@ QIODevice &Console::longOutput()
     return m_output;
 }
 
-void Console::print(const QString &text) { m_output.write((text + u'\n').toUtf8()); }
+void Console::print(const QString &text)
+{
+    const QByteArray line = (text + u'\n').toUtf8();
+    if (m_output.write(line) != line.size())
+        throw RuleError(Texts::tr("The output could not be written: %1").arg(reasonOfShortWrite(m_output)));
+}
 
 void Console::complain(const QString &text) { m_error.write((text + u'\n').toUtf8()); }
 
@@ -107,7 +114,8 @@ void ConsoleProgress::step()
         return;
     m_lastShown = m_since.elapsed();
     m_shown = true;
-    m_console.status(u"%1: %2 / %3"_s.arg(m_what).arg(m_done).arg(m_steps));
+    m_console.status(m_steps > 0 ? u"%1: %2 / %3"_s.arg(m_what).arg(m_done).arg(m_steps)
+                                 : u"%1: %2"_s.arg(m_what).arg(m_done));
 }
 
 void ConsoleProgress::finish()

@@ -18,7 +18,7 @@ public:
 
     // For long output. No progress is shown from then on where people see the output itself.
     QIODevice &longOutput();
-    void print(const QString &text); // a line on standard output
+    void print(const QString &text); // a line on standard output; throws RuleError when that takes no more
     void complain(const QString &text); // a line on standard error as it stands
     void error(const QString &text); // "tallymere: ..." on standard error, line breaks being blanks there
     void status(const QString &text); // replaces the last line of a terminal

@@ -1,6 +1,6 @@
 #include "transactions/countdraft.h"
 
-#include "base/ruleerror.h"
+#include "base/savedfile.h"
 #include "transactions/texts.h"
 
 #include <cmath>
@@ -112,7 +112,7 @@ void CountDrafts::save(int location, const CountDraft &draft) const
         && file.commit()) // which does not tell that the last block was not written whole
         return;
     throw RuleError(TransactionsTexts::tr("What has been counted could not be kept in %1: %2")
-                        .arg(fileOf(location), file.errorString()));
+                        .arg(fileOf(location), reasonOfShortWrite(file)));
 }
 
 void CountDrafts::drop(int location) const { QFile::remove(fileOf(location)); }

@@ -47,10 +47,13 @@ TEST(StoreFailure, OutputThatCannotBeWrittenIsNoSuccess)
     ASSERT_EQ(cli.run({u"init"_s}).status, 0);
     QProcess process;
     process.setStandardOutputFile(u"/dev/full"_s);
-    process.start(QStringLiteral(TALLYMERE_PROGRAM), {u"--data"_s, cli.folder(), u"list"_s, u"currencies"_s});
-    const CliResult result = CliRunner::finish(process);
-    EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(result.errors.contains("could not be written"_L1)) << result;
+    for (const QStringList &words :
+         {QStringList{u"list"_s, u"currencies"_s}, {u"help"_s}, {u"init"_s}, {u"--version"_s}}) {
+        process.start(QStringLiteral(TALLYMERE_PROGRAM), QStringList{u"--data"_s, cli.folder()} + words);
+        const CliResult result = CliRunner::finish(process);
+        EXPECT_EQ(result.status, 1) << words.first().toStdString();
+        EXPECT_TRUE(result.errors.contains("could not be written"_L1)) << result;
+    }
 }
 
 } // namespace
