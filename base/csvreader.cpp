@@ -1,6 +1,7 @@
 #include "base/csvreader.h"
 
 #include "base/texts.h"
+#include "engine/storedtext.h"
 
 #include <QIODevice>
 
@@ -102,6 +103,6 @@ void CsvReader::readQuotedField()
     appendField(field);
 }
 
-void CsvReader::appendField(const QByteArray &bytes) { m_fields.append(QString::fromUtf8(bytes)); }
+void CsvReader::appendField(const QByteArray &bytes) { m_fields.append(Engine::textFromUtf8(bytes)); }
 
 } // namespace Tallymere

@@ -4,6 +4,7 @@
 #include "cli/terminal.h"
 #include "cli/texts.h"
 #include "engine/error.h"
+#include "engine/platform.h"
 #include "host/tables/hosttables.h"
 
 #include <QDir>
@@ -32,6 +33,7 @@ void makeFolder(const QString &folder)
 {
     if (folder.isEmpty() || QFileInfo(folder).isDir())
         return;
+    Engine::requireUtf8Name(folder);
     if (!QDir().mkpath(folder)) {
         throw Engine::EngineError(
             Engine::ErrorCode::CannotOpen,

@@ -12,6 +12,10 @@ namespace Engine {
 // False for folders of other computers, where memory cannot be shared between the users of a file.
 bool isLocalFileSystem(const QString &path);
 
+// Throws CannotOpen for a path in which a name is not UTF-8, as names need not be here: such names are told apart by the
+// system, but not by their text.
+void requireUtf8Name(const QString &path);
+
 QString systemUserName();
 
 // Differs between two starts of the computer. Empty when the system does not tell.

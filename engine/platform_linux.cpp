@@ -82,6 +82,13 @@ bool isLocalFileSystem(const QString &path)
     return true;
 }
 
+void requireUtf8Name(const QString &path)
+{
+    if (path.contains(QChar::ReplacementCharacter)) // what Qt and SQLite's names make of other bytes
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("%1 cannot be used: a name in this path is not UTF-8. Rename the folder.").arg(path));
+}
+
 QString systemUserName()
 {
     const passwd *entry = getpwuid(geteuid());

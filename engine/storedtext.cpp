@@ -21,6 +21,14 @@ int digits(QStringView text, qsizetype from, qsizetype count)
 
 } // namespace
 
+QString textFromUtf8(QByteArrayView bytes)
+{
+    QString text = QString::fromUtf8(bytes);
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        text.prepend(QChar::ByteOrderMark);
+    return text;
+}
+
 QString storedText(QDate date) { return date.toString(Qt::ISODate); }
 
 QString storedText(const QDateTime &dateTime)

@@ -96,9 +96,8 @@ bool isAddress(const QString &host)
 // Why connecting failed where the server itself has not told it.
 EngineError unreached(pg_conn *handle, const PostgresTarget &target, ConnStatusType stage, const QString &message)
 {
-    const QString reason = message.isEmpty()
-        ? Texts::tr("no answer within %n second(s)", nullptr, static_cast<int>(connectTimeout.count()))
-        : message.section(u'\n', 0, 0);
+    const QString reason = message.isEmpty() ? Texts::tr("no answer within %1 seconds").arg(connectTimeout.count())
+                                             : message.section(u'\n', 0, 0);
     if (handle && PQconnectionNeedsPassword(handle)) {
         const QString text = Texts::tr(
             "The %1 asks for the password of the account \"%2\", and none has been given. Enter it in the password "

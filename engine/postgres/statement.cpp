@@ -1,6 +1,7 @@
 #include "engine/postgres/statement.h"
 
 #include "engine/namedparameters.h"
+#include "engine/storedtext.h"
 
 #include <charconv>
 #include <libpq-fe.h>
@@ -343,7 +344,7 @@ double PostgresStatement::doubleAt(int column) const
 QString PostgresStatement::textAt(int column) const
 {
     const std::string_view text = cell(column);
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return textFromUtf8({text.data(), static_cast<qsizetype>(text.size())});
 }
 
 } // namespace Engine

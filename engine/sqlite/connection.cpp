@@ -37,6 +37,9 @@ SqliteConnection::SqliteConnection() = default;
 SqliteConnection::SqliteConnection(const QString &path, Missing missing, const QString &user)
     : m_path(path)
 {
+    requireUtf8Name(path);
+    requireUtf8Name(
+        QFileInfo(QFileInfo(path).path()).canonicalFilePath()); // where links lead, before a file is made there
     try {
         open(SQLITE_OPEN_READWRITE | (missing == Missing::Create ? SQLITE_OPEN_CREATE : 0));
         watch(user);
@@ -88,6 +91,7 @@ void SqliteConnection::watch(const QString &user)
         throw sqliteError(nullptr, SQLITE_READONLY, m_path);
     if (!SqliteWatch::isDatabase(m_db))
         throw sqliteError(nullptr, SQLITE_NOTADB, m_path);
+    requireUtf8Name(SqliteWatch::realPath(m_db)); // of a link to a file
     m_locks = std::make_unique<FileLocks>(lockFilePath(SqliteWatch::realPath(m_db)), user);
     m_watch = std::make_unique<SqliteWatch>(m_db, m_path, *m_locks);
 }

@@ -3,6 +3,7 @@
 #include "engine/sqlite/connection.h"
 #include "engine/sqlite/dialect.h"
 #include "engine/sqlite/error.h"
+#include "engine/storedtext.h"
 
 #include <sqlite3.h>
 
@@ -115,7 +116,7 @@ double SqliteStatement::doubleAt(int column) const { return sqlite3_column_doubl
 QString SqliteStatement::textAt(int column) const
 {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(m_statement, column));
-    return QString::fromUtf8(text, sqlite3_column_bytes(m_statement, column));
+    return textFromUtf8({text, sqlite3_column_bytes(m_statement, column)});
 }
 
 FieldType SqliteStatement::columnType(int column) const

@@ -39,7 +39,7 @@ const BadFile badFiles[] = {
     // the file as such
     {u"types"_s, "", {u"1: The file is empty."_s}},
     {u"types"_s, "TypeName\nGood\n\"Bad\n", {u"3: The quote that opens on this line never closes."_s}},
-    {u"types"_s, "TypeName,Inventory\nGood\n", {u"2: The header has 2 field(s), this row 1."_s}},
+    {u"types"_s, "TypeName,Inventory\nGood\n", {u"2: The header has 2 fields, this row 1."_s}},
     // columns
     {u"types"_s, "Colour,TypeName\nred,A\n", {u"1: There is no column 'Colour' in types."_s}},
     {u"types"_s,
@@ -167,6 +167,13 @@ TEST_P(Import, NumbersLeftEmptyAreAssignedAndGivenOnesLeaveTheCounterAlone)
     ASSERT_EQ(cli.import(u"receipts"_s, receiptHeader + rows).status, 0);
     const QStringList numbers = cli.column({u"list"_s, u"receipts"_s}, u"ReceiptNo"_s);
     EXPECT_EQ(QSet<QString>(numbers.begin(), numbers.end()), (QSet<QString>{u"1001"_s, u"1002"_s}));
+}
+
+TEST_P(Import, KeepsACharacterThatWouldBeAMarkAtTheHeadOfAFile)
+{
+    ASSERT_EQ(cli.import(u"types"_s, "\xEF\xBB\xBFTypeName,Inventory\n\xEF\xBB\xBFTea,true\n").status, 0);
+    const CliResult list = cli.run({u"list"_s, u"types"_s, u"--filter"_s, u"(TypeName = '\uFEFFTea')"_s});
+    EXPECT_TRUE(list.output.contains(u",\uFEFFTea,"_s)) << list;
 }
 
 TEST_P(Import, APeriodThatIsNotExpectedNeedsAYes)
