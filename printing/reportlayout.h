@@ -53,6 +53,10 @@ struct Group
     // Of the line behind the last row, in which %1 is what names the group; empty: no such line.
     QString totalText{};
     bool onNewPage = false; // each group begins a page
+    // What stands for the first of the fields in a group that none of them names: words with the key in place of %1, and
+    // words for a group without a key. Empty: nothing.
+    QString unnamed{};
+    QString keyless{};
 };
 
 enum class TotalOf {

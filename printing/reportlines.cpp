@@ -22,6 +22,13 @@ ReportLines::ReportLines(const ReportLayout &layout, RowReader &rows)
     for (std::vector<Sum> &sums : m_sums)
         sums.resize(m_summed.size());
     m_closing.resize(m_summed.size());
+    for (const Group &group : layout.groups) {
+        if (group.unnamed.isEmpty())
+            continue;
+        m_named.push_back({&group, indexOf(group.key), {}});
+        for (const QString &field : group.fields)
+            m_named.back().names.push_back(indexOf(field));
+    }
 }
 
 int ReportLines::indexOf(const QString &field) const { return static_cast<int>(m_rows.fields().indexOf(field)); }
@@ -41,6 +48,7 @@ bool ReportLines::next(ReportLine &line)
         return false;
     line = std::move(m_waiting.front());
     m_waiting.pop_front();
+    m_count += line.band == Band::GroupHeading ? 0 : 1;
     return true;
 }
 
@@ -54,6 +62,7 @@ void ReportLines::takeRow()
             addTotal(Band::ReportTotal, m_keys.size());
         return;
     }
+    nameGroups();
     const size_t changed = firstChanged();
     if (!m_previous.empty())
         endGroups(changed);
@@ -64,6 +73,19 @@ void ReportLines::takeRow()
     if (m_layout.details)
         m_waiting.push_back({m_row.kind == RowKind::Opening ? Band::Opening : Band::Detail, -1, m_row.values});
     m_previous.swap(m_row.values);
+}
+
+// A group that nothing names is told from others like it.
+void ReportLines::nameGroups()
+{
+    const auto valueAt = [this](int field) -> Value & { return m_row.values[static_cast<size_t>(field)]; };
+    for (const NamedGroup &group : m_named) {
+        if (!std::ranges::all_of(group.names, [&](int name) { return valueAt(name).toText().isEmpty(); }))
+            continue;
+        const Value &key = valueAt(group.key);
+        valueAt(group.names.front()) =
+            key.toInt64() == 0 ? Value(group.layout->keyless) : Value(group.layout->unnamed.arg(key.toText()));
+    }
 }
 
 size_t ReportLines::firstChanged() const

@@ -27,6 +27,7 @@ public:
     ReportLines(const ReportLayout &layout, RowReader &rows); // both outlive the object
 
     bool next(ReportLine &line); // false after the last
+    int count() const { return m_count; } // of those given so far, headings not counted
     // The position of a field in values; -1 when the rows have none of that name.
     int indexOf(const QString &field) const;
     bool isSummed(int field, Band band) const; // in totals of groups or of the report
@@ -44,7 +45,15 @@ private:
         bool ofReport;
     };
 
+    struct NamedGroup
+    {
+        const Group *layout;
+        int key;
+        std::vector<int> names; // fields
+    };
+
     void takeRow();
+    void nameGroups();
     void beginGroups(size_t from);
     void endGroups(size_t from);
     void add(const ReportRow &row);
@@ -56,6 +65,7 @@ private:
     const ReportLayout &m_layout;
     RowReader &m_rows;
     std::vector<int> m_keys; // fields of the groups
+    std::vector<NamedGroup> m_named; // those that have words for a group without a name
     std::vector<SummedField> m_summed;
     std::vector<std::vector<Sum>> m_sums; // of each group, and of the report last
     std::vector<double> m_closing; // of the account in hand, by m_summed
@@ -64,6 +74,7 @@ private:
     std::vector<Engine::Value> m_previous; // values of the row before; empty before the first
     std::deque<ReportLine> m_waiting;
     bool m_done = false;
+    int m_count = 0;
 };
 
 } // namespace Tallymere::Printing

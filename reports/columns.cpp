@@ -87,3 +87,17 @@ Column amount(const QString &field, const QString &title)
 }
 
 } // namespace Tallymere::Columns
+
+namespace Tallymere {
+
+Printing::Group typeGroup(const QString &totalText, bool heading)
+{
+    return {.key = u"ItemTypeID"_s,
+            .fields = {u"TypeName"_s},
+            .heading = heading,
+            .totalText = totalText,
+            .unnamed = ReportsTexts::tr("Type %1"),
+            .keyless = ReportsTexts::tr("No type")};
+}
+
+} // namespace Tallymere

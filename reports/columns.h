@@ -21,4 +21,7 @@ Printing::Column amount(const QString &field, const QString &title);
 
 } // namespace Columns
 
+// The group of the items of a type. One whose type is gone, or has no name, goes by its number.
+Printing::Group typeGroup(const QString &totalText, bool heading = true);
+
 } // namespace Tallymere

@@ -3,25 +3,27 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/datamodule.h"
-#include "engine/query.h"
+#include "engine/database.h"
 #include "reports/momentrows.h"
 #include "reports/texts.h"
 
 #include <QTime>
 
 using namespace Qt::StringLiterals;
-using Engine::Value;
 
 namespace Tallymere {
 
 namespace {
 
+// The name of what is chosen by its key; what has none goes by the key.
 QString nameOf(Engine::Database &database, const QString &statement, int key, const QString &gone)
 {
-    const Value name = Engine::singleValue(database, statement, {key});
-    if (name.isNull())
+    const Engine::StatementPtr chosen = database.connection().prepare(statement);
+    chosen->bindInt(0, key);
+    if (!chosen->next())
         throw RuleError(gone.arg(key));
-    return name.toText();
+    const QString name = chosen->textAt(0);
+    return name.isEmpty() ? QString::number(key) : name;
 }
 
 QString selectionHeading(Engine::Database &database, const ReportSelection &selection)

@@ -67,7 +67,6 @@ Group itemGroupWithTotal()
     return group;
 }
 Group locationGroup() { return {u"WarehouseID"_s, {u"WarehouseName"_s}}; }
-Group typeGroup(const QString &totalText) { return {u"ItemTypeID"_s, {u"TypeName"_s}, true, totalText}; }
 
 ReportDescription perpetualReport(const QString &name, const QString &listText, const QString &title)
 {

@@ -33,11 +33,6 @@ QList<Column> balanceColumns()
 
 Group itemGroup() { return {u"ItemID"_s, {u"ItemNo"_s, u"ItemDescription"_s}, true, ReportsTexts::tr("Total %1")}; }
 
-Group typeGroup(bool heading = true)
-{
-    return {u"ItemTypeID"_s, {u"TypeName"_s}, heading, heading ? ReportsTexts::tr("Total %1") : u"%1"_s};
-}
-
 ReportDescription valueReport(const QString &name, const QString &listText,
                               ReportDescription::Parameters parameters)
 {
@@ -84,7 +79,7 @@ ReportDescription byTypeItem()
     report.query = BalanceLines::byItem(itemCosts + u", T.TypeName"_s, BalanceLines::withTypes());
     report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
     report.layout.columns = itemColumns();
-    report.layout.groups = {typeGroup()};
+    report.layout.groups = {typeGroup(ReportsTexts::tr("Total %1"))};
     return report;
 }
 
@@ -97,7 +92,7 @@ ReportDescription byType()
     report.layout.title = ReportsTexts::tr("Inventory Value by Type");
     report.layout.columns = {Columns::text(u"TypeName"_s, ReportsTexts::tr("Item Type"), 4),
                              Columns::amount(u"ItemValue"_s, ReportsTexts::tr("Value"))};
-    report.layout.groups = {typeGroup(false)};
+    report.layout.groups = {typeGroup(u"%1"_s, false)};
     report.layout.details = false;
     return report;
 }
@@ -110,7 +105,7 @@ ReportDescription byTypeItemWhse()
     report.order = {u"TypeName"_s, u"ItemTypeID"_s, u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
     report.keyFields = u"ItemID;WarehouseID"_s;
     report.layout.columns = balanceColumns();
-    report.layout.groups = {typeGroup(), itemGroup()};
+    report.layout.groups = {typeGroup(ReportsTexts::tr("Total %1")), itemGroup()};
     report.layout.totals = {{u"ItemWhseValue"_s, TotalOf::Amounts}};
     return report;
 }
@@ -124,8 +119,12 @@ ReportDescription byGLAccountItem()
                              BalanceLines::withTypes() + withAccounts);
     report.order = {u"G.GLAccount"_s, u"I.InventoryGLAccountID"_s, u"I.ItemNo"_s};
     report.layout.columns = itemColumns();
-    report.layout.groups = {
-        {u"InventoryGLAccountID"_s, {u"GLAccount"_s, u"AccountName"_s}, true, ReportsTexts::tr("Total %1")}};
+    report.layout.groups = {{.key = u"InventoryGLAccountID"_s,
+                             .fields = {u"GLAccount"_s, u"AccountName"_s},
+                             .heading = true,
+                             .totalText = ReportsTexts::tr("Total %1"),
+                             .unnamed = ReportsTexts::tr("Account %1"),
+                             .keyless = ReportsTexts::tr("No account")}};
     return report;
 }
 

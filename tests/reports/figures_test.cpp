@@ -58,7 +58,7 @@ public:
         for (const Engine::TableLayout *layout : Layouts::applied())
             database().createTable(*layout);
         execute(u"INSERT INTO ItemType (ItemTypeID, TypeName, CostingMethod) "
-                "VALUES (1, 'T98', 1), (2, 'T97', 2), (3, 'T96', NULL);"
+                "VALUES (1, 'T98', 1), (2, 'T97', 2), (3, 'T96', NULL), (4, NULL, 1);"
                 "INSERT INTO GLAccnt (GLAccountID, GLAccount) VALUES (1, 'A98'), (2, 'A97');"
                 "INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (1, 'L98'), (2, 'L97'), (3, 'L96')"_s);
         QStringList rows;
@@ -66,7 +66,7 @@ public:
             Item &item = items[key];
             if (key > 10)
                 continue;
-            item = {oneOf({0, 1, 2, 3, 9}), oneOf({0, 1, 2, 7}), below(90'000), below(90'000)};
+            item = {oneOf({0, 1, 2, 3, 4, 9}), oneOf({0, 1, 2, 7}), below(90'000), below(90'000)};
             if (key == 1)
                 item = {1, 1, 5, 10'050}; // three of these are worth 3.015, and so 3.02
             rows += u"(%1, '%2', %3, %4, %5, %6)"_s.arg(key)
@@ -214,7 +214,7 @@ private:
                 continue;
             Account account{{}, 0, balance.item, m_shape.byLocation ? balance.location : 0, balance.eighths};
             if (m_shape.outer == "TypeName"_L1)
-                account.outer = nameOf(u'T', account.outerKey = item.type, 3); // 9 is gone
+                account.outer = nameOf(u'T', account.outerKey = item.type, 3); // 4 has no name, 9 is gone
             if (m_shape.outer == "GLAccount"_L1)
                 account.outer = nameOf(u'A', account.outerKey = item.account, 2); // 7 is gone
             const auto same = std::ranges::find_if(accounts, [&account](const Account &other) {
@@ -229,6 +229,12 @@ private:
             return std::tuple(account.outer, account.outerKey, itemNo(account.item), account.item,
                               locationName(account.location));
         });
+        const bool types = m_shape.outer == "TypeName"_L1;
+        for (Account &account : accounts)
+            if (!m_shape.outer.isEmpty() && account.outer.isEmpty())
+                account.outer = account.outerKey == 0
+                    ? (types ? u"No type"_s : u"No account"_s)
+                    : (types ? u"Type %1"_s : u"Account %1"_s).arg(account.outerKey);
         return accounts;
     }
 
