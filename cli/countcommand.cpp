@@ -1,3 +1,4 @@
+#include "base/plural.h"
 #include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/csvinput.h"
@@ -93,7 +94,9 @@ void runCount(CommandContext &context)
     context.patiently([&] { data = context.openData(); });
     std::optional<CalculatedUsage> usage;
     context.patiently([&] { usage = calculate(context, *data, order, *file); });
-    context.console.print(usage ? Texts::tr("usage %1 written, %2 line(s)").arg(usage->number).arg(usage->lines)
+    context.console.print(usage ? plural(usage->lines, Texts::tr("usage %1 written, %n line"),
+                                         Texts::tr("usage %1 written, %n lines"))
+                                      .arg(usage->number)
                                 : Texts::tr("no usage to be written"));
 }
 

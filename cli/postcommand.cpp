@@ -40,7 +40,7 @@ void runPost(CommandContext &context)
     context.patiently([&] { posting.emplace(data->databaseTallymere(), kind); });
     ConsoleProgress progress(context.console, Texts::tr("Posting"));
     const bool posted = posting->run(context.prompts, progress);
-    context.console.print(posted ? kind.posting.posted.arg(posting->posted()) : posting->countText());
+    context.console.print(posted ? kind.posting.postedText(posting->posted()) : posting->countText());
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "base/named.h"
+#include "base/plural.h"
 #include "cli/command.h"
 #include "cli/texts.h"
 #include "master/itemsync.h"
@@ -19,14 +20,17 @@ struct SyncKind
 {
     QString name;
     HostSyncResult (*run)(Engine::Database &, Progress &);
-    QString outcome; // "%1 location(s) added, %2 renamed"
+    QString oneAdded; // "%n location added, %1 renamed"
+    QString manyAdded;
 };
 
 const QList<SyncKind> &kinds()
 {
     static const QList<SyncKind> all = {
-        {u"locations"_s, synchronize<LocationSync>, Texts::tr("%1 location(s) added, %2 renamed")},
-        {u"items"_s, synchronize<ItemSync>, Texts::tr("%1 item(s) added, %2 updated")},
+        {u"locations"_s, synchronize<LocationSync>, Texts::tr("%n location added, %1 renamed"),
+         Texts::tr("%n locations added, %1 renamed")},
+        {u"items"_s, synchronize<ItemSync>, Texts::tr("%n item added, %1 updated"),
+         Texts::tr("%n items added, %1 updated")},
     };
     return all;
 }
@@ -49,7 +53,7 @@ void runSync(CommandContext &context)
     context.patiently([&] { result = kind.run(data->databaseTallymere(), progress); });
     if (!result.notUpdated.isEmpty())
         context.prompts.warn(Texts::tr("What is there already has not been updated: %1").arg(result.notUpdated));
-    context.console.print(kind.outcome.arg(result.added).arg(result.updated));
+    context.console.print(plural(result.added, kind.oneAdded, kind.manyAdded).arg(result.updated));
 }
 
 } // namespace

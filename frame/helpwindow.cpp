@@ -1,5 +1,6 @@
 #include "frame/helpwindow.h"
 
+#include "base/plural.h"
 #include "controls/screenmetrics.h"
 #include "frame/helpbrowser.h"
 #include "ui_helpwindow.h"
@@ -168,7 +169,7 @@ void HelpWindow::showFound()
         item->setData(pageRole, result.url());
     }
     m_ui->lblFound->setText(found.isEmpty() ? tr("No page has these words. Try fewer, or another form of a word.")
-                                            : tr("%n page(s)", nullptr, int(found.size())));
+                                            : plural(found.size(), tr("%n page"), tr("%n pages")));
     if (!found.isEmpty()) {
         list->setCurrentRow(0);
         list->setFocus();

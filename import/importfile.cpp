@@ -1,6 +1,7 @@
 #include "import/importfile.h"
 
 #include "base/csvreader.h"
+#include "base/plural.h"
 #include "base/ruleerror.h"
 #include "import/importvalue.h"
 #include "import/texts.h"
@@ -116,8 +117,9 @@ public:
     {
         if (fields.size() != static_cast<qsizetype>(m_header.size())) {
             return m_errors.add(line,
-                                ImportTexts::tr("The header has %1 field(s), this row %2.")
-                                    .arg(static_cast<qsizetype>(m_header.size()))
+                                plural(static_cast<qint64>(m_header.size()),
+                                       ImportTexts::tr("The header has %n field, this row %1."),
+                                       ImportTexts::tr("The header has %n fields, this row %1."))
                                     .arg(fields.size()));
         }
         ImportRow row = readRow(line, fields);

@@ -1,5 +1,6 @@
 #include "master/hostsync.h"
 
+#include "base/plural.h"
 #include "engine/error.h"
 #include "engine/groupedwrites.h"
 #include "engine/lockmanager.h"
@@ -21,9 +22,9 @@ namespace {
 void requireKeys(const NewRows &rows)
 {
     if (rows.firstKey + rows.count - 1 > std::numeric_limits<qint32>::max())
-        throw EngineError(
-            ErrorCode::BadValue,
-            MasterTexts::tr("There are not enough numbers left for %1 new record(s).").arg(rows.count));
+        throw EngineError(ErrorCode::BadValue,
+                          plural(rows.count, MasterTexts::tr("There is no number left for %n new record."),
+                                 MasterTexts::tr("There are not enough numbers left for %n new records.")));
 }
 
 void addRow(const NewRows &rows, qint64 row, Engine::Statement &insert, Engine::Writes &writes)

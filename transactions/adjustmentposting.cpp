@@ -41,9 +41,8 @@ PostingKind adjustmentPosting()
         .entryOpen =
             TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Inventory Adjustment' form"),
         .toBePosted = TransactionsTexts::tr("%1 adjustment(s) to be posted"),
-        .posted = TransactionsTexts::tr("%1 adjustment(s) posted"),
-        .onePosted = TransactionsTexts::tr("1 adjustment posted"),
-        .manyPosted = TransactionsTexts::tr("%1 adjustments posted"),
+        .onePosted = TransactionsTexts::tr("%n adjustment posted"),
+        .manyPosted = TransactionsTexts::tr("%n adjustments posted"),
         .readHeader = readHeader,
         .readLine = {},
         .takeLine = takeLine,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/plural.h"
 #include "data/transtypes.h"
 #include "engine/value.h"
 #include "transactions/stockbook.h"
@@ -66,9 +67,8 @@ struct PostingKind
     QList<PostingLock> locks; // in the order they are taken
     QString entryOpen; // raised while the entry screen is open
     QString toBePosted; // "%1 receipt(s) to be posted"
-    QString posted; // "%1 receipt(s) posted"
-    QString onePosted; // "1 receipt posted"
-    QString manyPosted; // "%1 receipts posted"
+    QString onePosted; // "%n receipt posted"
+    QString manyPosted; // "%n receipts posted"
 
     // Fill in what is the kind's own, from its own columns, the first of which is given. Empty: nothing is.
     std::function<void(const Engine::Statement &row, int column, PostingDocument &)> readHeader;
@@ -76,7 +76,7 @@ struct PostingKind
     // Takes the line up in the book; nothing is written yet. Throws RuleError or AmountTooLarge when it cannot be posted.
     std::function<LineEffect(const PostingDocument &, const PostingLine &, StockBook &)> takeLine;
 
-    QString postedText(int count) const { return count == 1 ? onePosted : manyPosted.arg(count); }
+    QString postedText(int count) const { return plural(count, onePosted, manyPosted); }
 };
 
 } // namespace Tallymere

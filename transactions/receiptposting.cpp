@@ -66,9 +66,8 @@ PostingKind receiptPosting()
         .entryOpen =
             TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Inventory Receipt' form"),
         .toBePosted = TransactionsTexts::tr("%1 receipt(s) to be posted"),
-        .posted = TransactionsTexts::tr("%1 receipt(s) posted"),
-        .onePosted = TransactionsTexts::tr("1 receipt posted"),
-        .manyPosted = TransactionsTexts::tr("%1 receipts posted"),
+        .onePosted = TransactionsTexts::tr("%n receipt posted"),
+        .manyPosted = TransactionsTexts::tr("%n receipts posted"),
         .readHeader = readHeader,
         .readLine = readLine,
         .takeLine = takeLine,

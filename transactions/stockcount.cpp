@@ -1,5 +1,6 @@
 #include "transactions/stockcount.h"
 
+#include "base/plural.h"
 #include "base/ruleerror.h"
 #include "engine/database.h"
 #include "engine/error.h"
@@ -19,10 +20,11 @@ constexpr int daysAhead = 3;
 
 QString postedText(int items)
 {
-    return TransactionsTexts::tr(
-        "Transactions have been posted since this list was read: %n item(s) of this location "
-        "have another quantity in the books now.",
-        nullptr, items);
+    return plural(items,
+                  TransactionsTexts::tr("Transactions have been posted since this list was read: %n item of this "
+                                        "location has another quantity in the books now."),
+                  TransactionsTexts::tr("Transactions have been posted since this list was read: %n items of this "
+                                        "location have another quantity in the books now."));
 }
 } // namespace
 
@@ -187,8 +189,9 @@ void StockCount::resume(const CountDraft &draft)
     m_list.takeCosts(draft.costs);
     const auto missing = draft.counts.size() - m_list.takeCounts(draft.counts);
     if (missing > 0)
-        m_prompts.inform(TransactionsTexts::tr("%n item(s) that have been counted are no longer in the list.",
-                                               nullptr, static_cast<int>(missing)));
+        m_prompts.inform(
+            plural(missing, TransactionsTexts::tr("%n item that has been counted is no longer in the list."),
+                   TransactionsTexts::tr("%n items that have been counted are no longer in the list.")));
     tellOfChanges(draft);
 }
 
@@ -202,7 +205,8 @@ void StockCount::tellOfChanges(const CountDraft &draft) const
     QString told = postedText(changed);
     if (const int above = m_list.countedAbove(); above > 0)
         told += u"\n\n"_s
-            + TransactionsTexts::tr("%n item(s) have been counted above what is recorded now.", nullptr, above);
+            + plural(above, TransactionsTexts::tr("%n item has been counted above what is recorded now."),
+                     TransactionsTexts::tr("%n items have been counted above what is recorded now."));
     m_prompts.warn(told);
 }
 

@@ -38,7 +38,7 @@ TEST_P(CountCommand, WritesAUsageOfWhatDiffers)
     cli.execute(u"UPDATE Item SET StandardCost = 0 WHERE ItemNo = 'B2'"_s);
     const CliResult written = count("Quantity,ItemNo\n7.5,a1\n3,B2\n", {u"--include-zero"_s});
     EXPECT_EQ(written.status, 0) << written;
-    EXPECT_TRUE(written.output.contains("written, 2 line(s)"_L1)) << written;
+    EXPECT_TRUE(written.output.contains("written, 2 lines"_L1)) << written;
     EXPECT_TRUE(written.errors.contains("Beans, dried, Item ID: "_L1)) << written;
     const auto usages = cli.list({u"list"_s, u"usage"_s});
     ASSERT_EQ(usages.size(), 1);

@@ -145,7 +145,7 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
         prompts.last(),
         u"Confirm: Proceed with calculating the item usage based\r\nupon the quantities that have been entered?"_s);
     EXPECT_EQ(usageLines(), (QStringList{u"2|1"_s, u"3|2"_s}));
-    EXPECT_TRUE(status().contains("2 line(s)"_L1)) << status().toStdString();
+    EXPECT_TRUE(status().contains("2 lines"_L1)) << status().toStdString();
     EXPECT_FALSE(ok->isEnabled());
     EXPECT_EQ(rows().last(), u"B1 2.5 0.5 -2"_s);
     search("A10");

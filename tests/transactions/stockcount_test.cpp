@@ -272,16 +272,15 @@ TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
     EXPECT_EQ(later.zeroCounts(), ZeroCounts::Included);
     EXPECT_EQ(later.list().counts(), (ItemQuantities{{1, 0.0}}));
     EXPECT_EQ(later.list().costs(), (ItemCosts{{3, Engine::Money::fromDouble(1.25)}}));
-    EXPECT_EQ(prompts.last(), u"inform: 1 item(s) that have been counted are no longer in the list."_s);
+    EXPECT_EQ(prompts.last(), u"inform: 1 item that has been counted is no longer in the list."_s);
 
     later.count(later.list().rowOfItem(1), 9);
     kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8 WHERE ItemID = 1"_s);
     ASSERT_TRUE(later.open(1, ZeroCounts::Included));
     later.resume(*later.draft());
-    EXPECT_EQ(
-        prompts.last(),
-        u"warn: Transactions have been posted since this list was read: 1 item(s) of this location have another "
-        "quantity in the books now.\n\n1 item(s) have been counted above what is recorded now."_s);
+    EXPECT_EQ(prompts.last(),
+              u"warn: Transactions have been posted since this list was read: 1 item of this location has another "
+              "quantity in the books now.\n\n1 item has been counted above what is recorded now."_s);
 
     const StockCount other(kitchen.database(), prompts, CountDrafts(u"kitchen"_s, u"bert"_s, folder.path()));
     EXPECT_TRUE(other.locationsWithDraft().empty());

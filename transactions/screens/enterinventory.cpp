@@ -1,6 +1,7 @@
 #include "transactions/screens/enterinventory.h"
 
 #include "base/formats.h"
+#include "base/plural.h"
 #include "base/ruleerror.h"
 #include "controls/listscreen.h"
 #include "controls/screenmetrics.h"
@@ -155,9 +156,11 @@ void TFormEnterInventory::offerDraft()
     if (!draft)
         return;
     const QString question =
-        tr("You have counted %n item(s) at this location and not calculated the usage yet (%1).\n"
-           "Do you want to go on with that count? No gives it up.",
-           nullptr, static_cast<int>(draft->counts.size()))
+        plural(draft->counts.size(),
+               tr("You have counted %n item at this location and not calculated the usage yet (%1).\n"
+                  "Do you want to go on with that count? No gives it up."),
+               tr("You have counted %n items at this location and not calculated the usage yet (%1).\n"
+                  "Do you want to go on with that count? No gives it up."))
             .arg(QLocale::system().toString(draft->saved, QLocale::ShortFormat));
     switch (context().prompts.yesNoCancel(question)) {
     case Answer::Yes:
@@ -381,8 +384,9 @@ void TFormEnterInventory::actionCalculateConsumptionExecute()
     }
     m_ui->wwDBGridInventory->listChanged();
     refreshOpenList(DocumentKinds::usage().listScreen);
-    showStatus(usage ? tr("Usage %1 has been written, %n line(s). Post it when it has been looked over.", nullptr,
-                          usage->lines)
+    showStatus(usage ? plural(usage->lines,
+                              tr("Usage %1 has been written, %n line. Post it when it has been looked over."),
+                              tr("Usage %1 has been written, %n lines. Post it when it has been looked over."))
                            .arg(usage->number)
                      : tr("No item holds less than recorded: no usage has been written."));
 }
