@@ -1,4 +1,5 @@
-// Takes the pictures of the manual: tallymere-pictures DATABASE-FOLDER PICTURE-FOLDER
+// Takes the pictures of the manual, and a larger one of several windows:
+// tallymere-pictures DATABASE-FOLDER PICTURE-FOLDER DESKTOP-PICTURE
 // Opens the product's screens over a sample kitchen and saves what they show. Needs no display; scripts/pictures calls it.
 
 #include "base/settingsstore.h"
@@ -119,10 +120,35 @@ void count(QWidget &screen)
     }
 }
 
-void takeAll(TFormTallymereSystem &system, const QString &folder)
+// What somebody who receives goods has in front of him: the main window, the list and a receipt.
+bool takeDesktop(Photographer &camera, TFormTallymereSystem &system, const QString &file)
+{
+    constexpr QSize desktop(1280, 890);
+    QImage image(desktop, QImage::Format_RGB32);
+    image.fill(QColor(0x50, 0x5c, 0x6a));
+    QPainter painter(&image);
+    const auto put = [&](QWidget &window, QPoint place, QSize size) {
+        const QSize before = window.size();
+        window.resize(size);
+        settle();
+        painter.drawImage(place, framed(window));
+        window.resize(before);
+    };
+    put(system, {20, 20}, system.size());
+    put(camera.open(u"ActionReceiveInventory"_s, u"frmInvReceipts"_s), {440, 40}, {810, 330});
+    QWidget &receipt = camera.openFirstRecord(u"ActionReceiveInventory"_s, u"frmInvReceipts"_s);
+    put(receipt, {300, 400}, {860, 450});
+    receipt.close();
+    settle();
+    return image.save(file, nullptr, 0); // the smallest file; nothing is lost
+}
+
+void takeAll(TFormTallymereSystem &system, const QString &folder, const QString &desktopPicture)
 {
     constexpr int documentHeight = 330;
     Photographer camera(system, folder);
+    if (!takeDesktop(camera, system, desktopPicture))
+        std::fprintf(stderr, "%s was not saved\n", qPrintable(desktopPicture));
     camera.take(system, u"mainwindow"_s);
     camera.take(camera.open(u"ActionReceiveInventory"_s, u"frmInvReceipts"_s), u"receipts"_s);
     camera.take(camera.openFirstRecord(u"ActionReceiveInventory"_s, u"frmInvReceipts"_s), u"receipt"_s,
@@ -146,14 +172,15 @@ void takeAll(TFormTallymereSystem &system, const QString &folder)
 
 int main(int argc, char *argv[])
 {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: tallymere-pictures DATABASE-FOLDER PICTURE-FOLDER\n");
+    if (argc != 4) {
+        std::fprintf(stderr, "usage: tallymere-pictures DATABASE-FOLDER PICTURE-FOLDER DESKTOP-PICTURE\n");
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     const QString folder = QString::fromLocal8Bit(argv[2]);
+    const QString desktopPicture = QString::fromLocal8Bit(argv[3]);
     MemorySettings settings;
     setRegString(settings, u"Mode"_s, u"F"_s);
     setRegString(settings, u"Alias"_s, QString::fromLocal8Bit(argv[1]));
@@ -164,7 +191,7 @@ int main(int argc, char *argv[])
     system.init(&host);
     QTimer::singleShot(0, [&] {
         settle();
-        takeAll(system, folder);
+        takeAll(system, folder, desktopPicture);
         std::fflush(stdout);
         std::_Exit(0); // what is open has nothing to save
     });

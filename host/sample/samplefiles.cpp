@@ -77,7 +77,7 @@ void bringInSampleMasters(TDataModuleTallymere &data, Progress &progress)
 {
     setOrganization(data);
     for (const QString &kind :
-         {u"types"_s, u"locations"_s, u"currencies"_s, u"vendors"_s, u"contacts"_s, u"items"_s})
+         {u"types"_s, u"locations"_s, u"currencies"_s, u"taxes"_s, u"vendors"_s, u"contacts"_s, u"items"_s})
         bringIn(data, kind, kind, progress);
     fillHostTable(data.databaseTallymere(), u"Locatns"_s, u"places"_s);
     fillHostTable(data.databaseTallymere(), u"Items"_s, u"meals"_s);
