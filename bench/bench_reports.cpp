@@ -202,7 +202,8 @@ std::unique_ptr<Printing::ReportRun> runOf(int pages)
 void writePdf(const QString &fileName, int pages)
 {
     const auto run = runOf(pages);
-    Printing::savePdf(*run, fileName, progress);
+    run->makePages();
+    Printing::savePdf(*run, fileName, Printing::allPages(*run), progress);
     if (run->pageCount() != pages)
         std::printf("%d pages instead of %d\n", run->pageCount(), pages);
 }

@@ -1,6 +1,7 @@
 #include "base/formats.h"
 #include "base/named.h"
-#include "base/ruleerror.h"
+#include "base/plural.h"
+#include "base/savedfile.h"
 #include "cli/command.h"
 #include "cli/texts.h"
 #include "data/fiscalperiod.h"
@@ -11,7 +12,9 @@
 #include "reports/makereport.h"
 #include "reports/reportlist.h"
 
-#include <QTemporaryDir>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
 
@@ -135,37 +138,100 @@ void presetPeriod(TDataModuleTallymere &data, const ReportDescription &report, R
     selection.year = period.year;
 }
 
+enum class Paper { A4, Letter };
+
+std::optional<Paper> wantedPaper(const Arguments &arguments)
+{
+    if (!arguments.has(u"paper"_s))
+        return std::nullopt;
+    const QString name = arguments.value(u"paper"_s);
+    if (name.compare("a4"_L1, Qt::CaseInsensitive) == 0)
+        return Paper::A4;
+    if (name.compare("letter"_L1, Qt::CaseInsensitive) == 0)
+        return Paper::Letter;
+    throw UsageError(Texts::tr("option '--paper' takes a4 or letter, not '%1'").arg(name));
+}
+
+// What a report is made into pages from: without --paper for the printer's sheets.
+struct PagedReport
+{
+    std::unique_ptr<TDataModuleTallymere> data;
+    std::unique_ptr<Printing::ReportRun> run;
+};
+
+PagedReport makePages(CommandContext &context, const ReportDescription &report, ReportSelection selection,
+                      const QString &printer)
+{
+    const std::optional<Paper> paper = wantedPaper(context.arguments);
+    DataModuleOptions options;
+    options.prepareReportPrinting = [paper, printer]() -> std::optional<bool> {
+        if (paper)
+            return paper == Paper::A4;
+        const std::optional<QPageSize> sheet = Printing::sheetOf(printer);
+        return sheet ? std::optional(sheet->id() == QPageSize::A4) : std::nullopt;
+    };
+    PagedReport made{context.openData(std::move(options)), nullptr};
+    presetPeriod(*made.data, report, selection);
+    made.run = runReport(*made.data, report, selection);
+    made.run->makePages();
+    return made;
+}
+
+QString pagesText(const Printing::ReportRun &run)
+{
+    return plural(run.pageCount(), Texts::tr("%n page"), Texts::tr("%n pages"));
+}
+
+void writePdf(CommandContext &context, const ReportDescription &report, const ReportSelection &selection)
+{
+    const QString file = context.arguments.value(u"pdf"_s);
+    const PagedReport pages = makePages(context, report, selection, {});
+    ConsoleProgress progress(context.console, Texts::tr("Writing"));
+    Printing::savePdf(*pages.run, file, Printing::allPages(*pages.run), progress);
+    progress.finish();
+    if (QFileInfo(file).isFile()) // and not where the pages themselves have gone
+        context.console.print(Texts::tr("%1 saved as %2").arg(pagesText(*pages.run), file));
+}
+
 void runReportCommand(CommandContext &context)
 {
     const ReportDescription report = wantedReport(context.arguments);
     ReportSelection selection = selectionOf(context.arguments, report);
     if (context.arguments.has(u"csv"_s) && context.arguments.has(u"pdf"_s))
         throw UsageError(Texts::tr("--csv and --pdf exclude each other"));
+    if (context.arguments.has(u"pdf"_s))
+        return writePdf(context, report, selection);
+    if (context.arguments.has(u"paper"_s))
+        throw UsageError(Texts::tr("--paper belongs to --pdf"));
     const auto data = context.openData();
     presetPeriod(*data, report, selection);
     ConsoleProgress progress(context.console, Texts::tr("Writing"));
-    if (context.arguments.has(u"pdf"_s)) {
-        const auto run = runReport(*data, report, selection, &progress);
-        Printing::savePdf(*run, context.arguments.value(u"pdf"_s), progress);
-        return;
-    }
     const Printing::Report made = makeReport(*data, report, selection, &progress);
     Printing::writeReportCsv(made.layout, *made.rows, context.console.longOutput(), progress);
+}
+
+[[noreturn]] void refuseTemporary(const QString &reason)
+{
+    throw RuleError(Texts::tr("The report cannot be kept in '%1' until it is printed...\n%2")
+                        .arg(QDir::toNativeSeparators(QDir::tempPath()), reason));
 }
 
 void runPrintCommand(CommandContext &context)
 {
     const ReportDescription report = wantedReport(context.arguments);
-    ReportSelection selection = selectionOf(context.arguments, report);
-    const auto data = context.openData();
-    presetPeriod(*data, report, selection);
+    const ReportSelection selection = selectionOf(context.arguments, report);
+    const QString wanted = context.arguments.value(u"printer"_s);
+    const PagedReport pages = makePages(context, report, selection, wanted);
+    QTemporaryFile file; // without a name: it goes with the program, however that ends
+    if (!file.open())
+        refuseTemporary(file.errorString());
     ConsoleProgress progress(context.console, Texts::tr("Printing"));
-    const auto run = runReport(*data, report, selection, &progress);
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(u"report.pdf"_s);
-    Printing::savePdf(*run, file, progress);
-    Printing::sendToPrinter(file, context.arguments.value(u"printer"_s), run->title(),
-                            QPageSize(run->paper().size));
+    Printing::writePdf(*pages.run, file, Printing::allPages(*pages.run), progress);
+    if (!file.flush())
+        refuseTemporary(reasonOfShortWrite(file));
+    const QString printer =
+        Printing::sendToPrinter(file, wanted, pages.run->title(), QPageSize(pages.run->paper().size));
+    context.console.print(Texts::tr("%1 sent to the printer %2").arg(pagesText(*pages.run), printer));
 }
 
 QList<OptionSpec> selectionOptions()
@@ -174,6 +240,11 @@ QList<OptionSpec> selectionOptions()
             {u"item-type"_s, Texts::tr("ID"), Texts::tr("of one item type only")},
             {u"period"_s, Texts::tr("PP"), Texts::tr("from this fiscal period on (default: the organization's)")},
             {u"year"_s, Texts::tr("YYYY"), Texts::tr("the fiscal year of the period")}};
+}
+
+OptionSpec paperOption()
+{
+    return {u"paper"_s, Texts::tr("a4|letter"), Texts::tr("the pages are made for (default: the printer's)")};
 }
 
 Command reportLikeCommand(const QString &name, const QString &summary, const QList<OptionSpec> &options)
@@ -198,7 +269,8 @@ Command reportCommand()
     Command command =
         reportLikeCommand(u"report"_s, Texts::tr("a report as CSV, or as pages in a PDF file"),
                           {{u"csv"_s, {}, Texts::tr("writes CSV to standard output, as it does without --pdf")},
-                           {u"pdf"_s, Texts::tr("FILE"), Texts::tr("writes the pages to a PDF file")}});
+                           {u"pdf"_s, Texts::tr("FILE"), Texts::tr("writes the pages to a PDF file")},
+                           paperOption()});
     command.run = runReportCommand;
     return command;
 }
@@ -207,7 +279,8 @@ Command printCommand()
 {
     Command command = reportLikeCommand(
         u"print"_s, Texts::tr("a report on a printer of the system"),
-        {{u"printer"_s, Texts::tr("PRINTER"), Texts::tr("its name (default: the system's default printer)")}});
+        {{u"printer"_s, Texts::tr("PRINTER"), Texts::tr("its name (default: the system's default printer)")},
+         paperOption()});
     command.run = runPrintCommand;
     return command;
 }

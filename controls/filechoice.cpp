@@ -1,10 +1,13 @@
 #include "controls/filechoice.h"
 
+#include "base/savedfile.h"
 #include "controls/screencontext.h"
 #include "data/utilsinv.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -25,21 +28,45 @@ QString chooseFileToSave(QWidget *window, const FileChoice &choice)
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(choice.suffix);
-    dialog.selectFile(choice.name);
+    dialog.selectFile(QFileInfo(choice.name).fileName());
+    if (auto *typed = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)) // a desktop's own dialog has none
+        typed->setText(choice.name);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return dialog.selectedFiles().value(0);
 }
 
-QString chooseFile(const ScreenContext &context, QWidget *window, FileChoice choice)
+QString lastFolder(const ScreenContext &context)
 {
-    if (context.settings)
-        choice.folder = context.settings->read(formSetting(savingSection), folderKey);
-    const QString file = context.chooseFileToSave(window, choice);
-    const QString used = file.isEmpty() ? choice.folder : QFileInfo(file).absolutePath();
-    if (context.settings && used != choice.folder)
-        context.settings->write(formSetting(savingSection), folderKey, used);
-    return file;
+    return context.settings ? context.settings->read(formSetting(savingSection), folderKey) : QString();
+}
+
+void rememberFolder(const ScreenContext &context, const QString &file)
+{
+    const QString folder = QFileInfo(file).absolutePath();
+    if (context.settings && folder != lastFolder(context))
+        context.settings->write(formSetting(savingSection), folderKey, folder);
+}
+
+QString saveToChosenFile(const ScreenContext &context, QWidget *window, FileChoice choice,
+                         const std::function<void(const QString &file)> &save)
+{
+    for (;;) {
+        choice.folder = lastFolder(context);
+        const QString file = context.chooseFileToSave(window, choice);
+        if (file.isEmpty())
+            return {};
+        const QFileInfo chosen(file);
+        if (chosen.absoluteDir().exists())
+            rememberFolder(context, file);
+        try {
+            save(file);
+            return file;
+        } catch (const SaveError &error) {
+            context.prompts.error(error.message());
+        }
+        choice.name = chosen.absoluteDir().exists() ? chosen.fileName() : file;
+    }
 }
 
 } // namespace Tallymere

@@ -1,19 +1,17 @@
 #include "controls/listoutput.h"
 
 #include "base/csvlist.h"
-#include "controls/barprogress.h"
+#include "base/plural.h"
 #include "controls/filechoice.h"
 #include "controls/listcopy.h"
 #include "controls/liststatus.h"
-#include "controls/screenmetrics.h"
+#include "controls/progressbox.h"
 #include "data/utilsinv.h"
 
 #include <QClipboard>
 #include <QDir>
 #include <QEvent>
-#include <QFileInfo>
 #include <QGuiApplication>
-#include <QProgressBar>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -35,31 +33,29 @@ void ListOutput::copyRows()
     if (rows.isEmpty())
         return;
     QString text;
-    run([&](Progress &progress) { text = rowsAsText(*m_grid.tableModel(), rows, progress); });
+    run(tr("Copying..."), [&](Progress &progress) { text = rowsAsText(*m_grid.tableModel(), rows, progress); });
     QGuiApplication::clipboard()->setText(text);
 }
 
 void ListOutput::saveCsv(const QString &caption)
 {
-    const QString file =
-        chooseFile(m_context, &m_window, {tr("Save as CSV"), caption + ".csv"_L1, tr("CSV files"), u"csv"_s});
-    if (file.isEmpty())
+    const Engine::DataSet &rows = m_grid.tableModel()->dataSet();
+    const FileChoice choice{tr("Save as CSV"), caption + ".csv"_L1, tr("CSV files"), u"csv"_s};
+    const QString saved = saveToChosenFile(m_context, &m_window, choice, [&](const QString &file) {
+        run(tr("Saving %1").arg(QDir::toNativeSeparators(file)),
+            [&](Progress &progress) { saveCsvList(rows, m_grid.tableModel()->columns(), file, progress); });
+    });
+    if (saved.isEmpty())
         return;
-    const TableModel &model = *m_grid.tableModel();
-    run([&](Progress &progress) { saveCsvList(model.dataSet(), model.columns(), file, progress); });
-    m_status.say(tr("Saved as %1").arg(QDir::toNativeSeparators(file)));
+    const QString count = plural(rows.recordCount(), tr("%n row"), tr("%n rows"));
+    m_status.say(tr("%1 saved as %2").arg(count, QDir::toNativeSeparators(saved)));
 }
 
-void ListOutput::run(const std::function<void(Progress &)> &work)
+void ListOutput::run(const QString &what, const std::function<void(Progress &)> &work)
 {
     m_window.installEventFilter(this);
-    m_status.progressBar()->show();
-    const auto done = qScopeGuard([this] {
-        m_status.progressBar()->hide();
-        m_window.removeEventFilter(this);
-    });
-    const WaitCursor hourglass;
-    BarProgress progress(m_status.progressBar());
+    const auto done = qScopeGuard([this] { m_window.removeEventFilter(this); });
+    ProgressBox progress(&m_window, what);
     work(progress);
 }
 

@@ -6,7 +6,6 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLocale>
-#include <QProgressBar>
 #include <QStatusBar>
 
 using namespace Qt::StringLiterals;
@@ -20,7 +19,6 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     , m_rows(new QLabel(&bar))
     , m_search(new QLabel(&bar))
     , m_figures(new QLabel(&bar))
-    , m_progress(new QProgressBar(&bar))
 {
     m_rows->setObjectName(u"lblRows"_s);
     m_rows->setContentsMargins(0, 0, scaled(&bar, 24), 0);
@@ -31,15 +29,9 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     m_figures->setObjectName(u"lblFigures"_s);
     m_figures->setTextFormat(Qt::PlainText);
     m_figures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_progress->setAccessibleName(tr("Progress"));
-    m_progress->setTextVisible(false);
-    m_progress->setFixedWidth(scaled(&bar, 120));
-    m_progress->hide();
     bar.addWidget(m_rows);
     bar.addWidget(m_search, 1);
     bar.addWidget(m_figures, 1);
-    bar.addPermanentWidget(m_progress);
-    m_progress->hide(); // adding has shown it
     m_search->hide();
     showFigures();
 

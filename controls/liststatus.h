@@ -3,7 +3,6 @@
 #include "controls/listgrid.h"
 
 class QLabel;
-class QProgressBar;
 class QStatusBar;
 
 namespace Tallymere {
@@ -17,7 +16,6 @@ class ListStatus : public QObject
 public:
     ListStatus(ListGrid &grid, QStatusBar &bar);
 
-    QProgressBar *progressBar() const { return m_progress; } // hidden unless long work shows it
     void say(const QString &text); // for a moment, in place of the rows
 
 private:
@@ -31,7 +29,6 @@ private:
     QLabel *m_rows;
     QLabel *m_search;
     QLabel *m_figures;
-    QProgressBar *m_progress;
 };
 
 } // namespace Tallymere

@@ -6,8 +6,12 @@
 #include "printing/texts.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <optional>
+#include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QScopeGuard>
 
 namespace Tallymere::Printing {
 
@@ -22,6 +26,31 @@ void setPaper(QPrinter &printer, const QPageSize &size, QPageLayout::Orientation
     printer.setPageOrientation(orientation);
 }
 
+// The sheet is the user's choice, its orientation the report's.
+PageChoice choiceOf(const ReportRun &run, const QPrinter &printer)
+{
+    PageChoice choice = allPages(run);
+    choice.sheet.setPageSize(printer.pageLayout().pageSize());
+    if (printer.printRange() == QPrinter::PageRange && run.pageCount() > 0) {
+        choice.from = std::clamp(printer.fromPage(), 1, run.pageCount());
+        choice.to = std::clamp(printer.toPage(), choice.from, run.pageCount());
+    }
+    if (printer.pageOrder() == QPrinter::LastPageFirst)
+        std::swap(choice.from, choice.to);
+    return choice;
+}
+
+// Qt hands a job over when its painter ends, be it complete or not, and knows of no other end. So what is given up comes to
+// an end where nothing is taken.
+void printPages(const ReportRun &run, QPrinter &printer, const PageChoice &choice, Progress &progress)
+{
+    std::optional<NoPrintSystem> nowhere;
+    QPainter painter;
+    auto givenUp = qScopeGuard([&] { nowhere.emplace(); });
+    paintPages(run, painter, printer, printer.resolution(), choice.from, choice.to, progress);
+    givenUp.dismiss();
+}
+
 } // namespace
 
 void preparePrinter(const ReportRun &run, QPrinter &printer)
@@ -30,24 +59,24 @@ void preparePrinter(const ReportRun &run, QPrinter &printer)
     setPaper(printer, QPageSize(run.paper().size), run.paper().orientation);
 }
 
-void printReport(const ReportRun &run, QPrinter &printer, Progress &progress)
+bool printsToFile(const QPrinter &printer)
 {
-    int from = 1;
-    int to = run.pageCount();
-    if (printer.printRange() == QPrinter::PageRange && to > 0) {
-        from = std::clamp(printer.fromPage(), from, to);
-        to = std::clamp(printer.toPage(), from, to);
+    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty();
+}
+
+int printReport(const ReportRun &run, QPrinter &printer, Progress &progress)
+{
+    const PageChoice choice = choiceOf(run, printer);
+    const int pages = std::abs(choice.to - choice.from) + 1;
+    if (printsToFile(printer)) {
+        savePdf(run, printer.outputFileName(), choice, progress);
+        return pages;
     }
-    if (printer.pageOrder() == QPrinter::LastPageFirst)
-        std::swap(from, to);
-    // The sheet is the user's choice, its orientation the report's.
-    setPaper(printer, printer.pageLayout().pageSize(), run.paper().orientation);
-    paintPages(run, printer, printer.resolution(), from, to, progress);
-    if (printer.outputFormat() == QPrinter::PdfFormat) // a file
-        return;
+    setPaper(printer, choice.sheet.pageSize(), choice.sheet.orientation());
+    printPages(run, printer, choice, progress);
     const QString reason = jobRefusal();
     if (reason.isEmpty())
-        return;
+        return pages;
     if (QPrinterInfo::printerInfo(printer.printerName()).isNull())
         throw RuleError(PrintingTexts::tr("The report was not printed: the printer '%1' cannot be found any more.")
                             .arg(printer.printerName()));

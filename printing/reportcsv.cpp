@@ -45,7 +45,8 @@ bool isGiven(const CsvField &field, const ReportLine &line, const ReportLines &l
 
 } // namespace
 
-void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &output, Progress &progress)
+void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &output, Progress &progress,
+                    int expectedLines)
 {
     ReportLines lines(layout, rows);
     CsvWriter writer(output);
@@ -66,7 +67,7 @@ void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &outp
         addField(column.field, -1, column.inDetail);
     writer.endRecord();
 
-    progress.start(0);
+    progress.start(expectedLines);
     for (ReportLine line; lines.next(line); progress.step()) {
         if (line.band == Band::GroupHeading)
             continue;
@@ -81,9 +82,10 @@ void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &outp
     progress.finish();
 }
 
-void saveReportCsv(const ReportLayout &layout, RowReader &rows, const QString &fileName, Progress &progress)
+void saveReportCsv(const ReportLayout &layout, RowReader &rows, const QString &fileName, Progress &progress,
+                   int expectedLines)
 {
-    saveFile(fileName, [&](QIODevice &file) { writeReportCsv(layout, rows, file, progress); });
+    saveFile(fileName, [&](QIODevice &file) { writeReportCsv(layout, rows, file, progress, expectedLines); });
 }
 
 } // namespace Tallymere::Printing

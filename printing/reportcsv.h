@@ -10,9 +10,12 @@ namespace Tallymere::Printing {
 
 // A report as CSV, a row for each printed line under the names of fields: first "Band" ("opening", "detail",
 // "group total", "report total"), then what names the groups, repeated in each row, then the columns. Figures are
-// unformatted. Headings have no row. Throws what the rows throw, and RuleError when the device takes no more.
-void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &output, Progress &progress);
-// Into a file, which keeps what it held until the report is complete; RuleError names the file.
-void saveReportCsv(const ReportLayout &layout, RowReader &rows, const QString &fileName, Progress &progress);
+// unformatted. Headings have no row. Throws what the rows throw, and RuleError when the device takes no more. How many
+// lines there will be only shows in the progress; 0: nobody knows.
+void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &output, Progress &progress,
+                    int expectedLines = 0);
+// Into a file, which keeps what it held until the report is complete; SaveError names the file.
+void saveReportCsv(const ReportLayout &layout, RowReader &rows, const QString &fileName, Progress &progress,
+                   int expectedLines = 0);
 
 } // namespace Tallymere::Printing

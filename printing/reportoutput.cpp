@@ -32,12 +32,11 @@ void fitToSheet(QPainter &painter, const QSizeF &sheet, const QSizeF &page, int 
 
 } // namespace
 
-void paintPages(const ReportRun &run, QPagedPaintDevice &device, int resolution, int from, int to,
-                Progress &progress)
+void paintPages(const ReportRun &run, QPainter &painter, QPagedPaintDevice &device, int resolution, int from,
+                int to, Progress &progress)
 {
     if (!run.isComplete())
         throw RuleError(PrintingTexts::tr("The report cannot be printed: its pages could not be made to the end."));
-    QPainter painter;
     if (!painter.begin(&device))
         throw RuleError(PrintingTexts::tr("The report cannot be printed: the printer or the file takes nothing."));
     fitToSheet(painter, device.pageLayout().fullRect(QPageLayout::Point).size() * unitsPerPoint,
@@ -55,17 +54,22 @@ void paintPages(const ReportRun &run, QPagedPaintDevice &device, int resolution,
     progress.finish();
 }
 
-void savePdf(ReportRun &run, const QString &fileName, Progress &progress)
+void writePdf(const ReportRun &run, QIODevice &output, const PageChoice &choice, Progress &progress)
 {
-    run.makePages();
-    saveFile(fileName, [&](QIODevice &file) {
-        QPdfWriter writer(&file);
-        writer.setPageLayout(run.paper().layout());
-        writer.setResolution(static_cast<int>(unitsPerInch));
-        writer.setTitle(run.title());
-        writer.setCreator(u"Tallymere"_s);
-        paintPages(run, writer, writer.resolution(), 1, run.pageCount(), progress);
-    });
+    QPdfWriter writer(&output);
+    writer.setPageLayout(choice.sheet);
+    writer.setResolution(static_cast<int>(unitsPerInch));
+    writer.setTitle(run.title());
+    writer.setCreator(u"Tallymere"_s);
+    QPainter painter;
+    paintPages(run, painter, writer, writer.resolution(), choice.from, choice.to, progress);
 }
+
+void savePdf(const ReportRun &run, const QString &fileName, const PageChoice &choice, Progress &progress)
+{
+    saveFile(fileName, [&](QIODevice &file) { writePdf(run, file, choice, progress); });
+}
+
+PageChoice allPages(const ReportRun &run) { return {run.paper().layout(), 1, run.pageCount()}; }
 
 } // namespace Tallymere::Printing

@@ -30,6 +30,7 @@ public:
     QString title() const { return m_report.layout.title; }
     const Paper &paper() const { return m_paper; }
     int pageCount() const { return m_spool.count(); } // so far
+    int lineCount() const { return m_lines.count(); } // that these pages show, without headings of groups
     Page page(int index) const { return m_spool.page(index); } // from 0
 
 private:

@@ -1,7 +1,9 @@
 #include "reports/screens/preview.h"
 
-#include "controls/barprogress.h"
+#include "base/plural.h"
+#include "base/savedfile.h"
 #include "controls/filechoice.h"
+#include "controls/progressbox.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "printing/printout.h"
@@ -9,12 +11,15 @@
 #include "printing/reportoutput.h"
 #include "ui_preview.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QScopeGuard>
 #include <QShortcut>
+#include <QStatusBar>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
@@ -31,7 +36,6 @@ TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::Repor
     setAttribute(Qt::WA_DeleteOnClose);
     m_ui->setupUi(this);
     scaleForm(this);
-    m_ui->progressBar->hide();
     m_ui->btnSave->setVisible(bool(context.chooseFileToSave));
     m_ui->QRPreview1->setRun(m_run.get());
     connectControls();
@@ -183,6 +187,8 @@ void TfrmPreview::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Enter:
         if (searching)
             m_guard.run([&] { find(!event->modifiers().testFlag(Qt::ShiftModifier)); });
+        else if (auto *button = qobject_cast<QAbstractButton *>(focusWidget()))
+            button->click();
         return;
     case Qt::Key_Escape:
         if (!searching) {
@@ -199,50 +205,82 @@ void TfrmPreview::keyPressEvent(QKeyEvent *event)
 
 // --- giving it away -----------------------------------------------------------------------------------------------
 
-void TfrmPreview::withProgress(const std::function<void(Progress &)> &work)
-{
-    m_ui->progressBar->show();
-    setEnabled(false);
-    const auto done = qScopeGuard([this] {
-        setEnabled(true);
-        m_ui->progressBar->hide();
-    });
-    const WaitCursor hourglass;
-    BarProgress progress(m_ui->progressBar);
-    work(progress);
-}
+QString TfrmPreview::pagesText(int count) const { return plural(count, tr("%n page"), tr("%n pages")); }
+
+void TfrmPreview::say(const QString &text) { statusBar()->showMessage(text); }
 
 void TfrmPreview::btnPrintClick()
 {
     QPrinter printer(QPrinter::HighResolution);
     Printing::preparePrinter(*m_run, printer);
-    QPrintDialog dialog(&printer, this);
-    dialog.setMinMax(1, m_run->pageCount());
-    dialog.setFromTo(1, m_run->pageCount());
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange
-                      | QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
-    if (dialog.exec() == QDialog::Accepted)
-        withProgress([&](Progress &progress) { Printing::printReport(*m_run, printer, progress); });
+    proposeFile(printer);
+    for (;;) {
+        QPrintDialog dialog(&printer, this);
+        dialog.setMinMax(1, m_run->pageCount());
+        dialog.setFromTo(1, m_run->pageCount());
+        dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange
+                          | QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
+        if (dialog.exec() != QDialog::Accepted)
+            return;
+        try {
+            return print(printer);
+        } catch (const SaveError &error) { // asked again, with the name that was typed
+            m_context.prompts.error(error.message());
+        }
+    }
+}
+
+// For the choice to print to a file, which is not made yet.
+void TfrmPreview::proposeFile(QPrinter &printer) const
+{
+    const QString folder = lastFolder(m_context);
+    if (!folder.isEmpty() && QFileInfo(folder).isDir())
+        printer.setOutputFileName(folder + u'/' + fileTitle() + ".pdf"_L1);
+    printer.setOutputFormat(QPrinter::NativeFormat);
+}
+
+void TfrmPreview::print(QPrinter &printer)
+{
+    const bool toFile = Printing::printsToFile(printer);
+    const QString file = QDir::toNativeSeparators(printer.outputFileName());
+    ProgressBox progress(this,
+                         toFile ? tr("Saving %1").arg(file) : tr("Printing on %1").arg(printer.printerName()));
+    const QString pages = pagesText(Printing::printReport(*m_run, printer, progress));
+    if (toFile)
+        rememberFolder(m_context, file);
+    say(toFile ? tr("%1 saved as %2").arg(pages, file)
+               : tr("%1 sent to the printer %2").arg(pages, printer.printerName()));
+}
+
+QString TfrmPreview::fileTitle() const { return m_run->title().remove(u'/'); }
+
+void TfrmPreview::save(const FileChoice &choice,
+                       const std::function<void(const QString &file, Progress &progress)> &write)
+{
+    const QString saved = saveToChosenFile(m_context, this, choice, [&](const QString &file) {
+        ProgressBox progress(this, tr("Saving %1").arg(QDir::toNativeSeparators(file)));
+        write(file, progress);
+    });
+    if (!saved.isEmpty())
+        say(tr("%1 saved as %2").arg(pagesText(m_run->pageCount()), QDir::toNativeSeparators(saved)));
 }
 
 void TfrmPreview::savePdf()
 {
-    const QString file = chooseFile(
-        m_context, this, {tr("Save as PDF"), m_run->title().remove(u'/') + ".pdf"_L1, tr("PDF files"), u"pdf"_s});
-    if (!file.isEmpty())
-        withProgress([&](Progress &progress) { Printing::savePdf(*m_run, file, progress); });
+    save({tr("Save as PDF"), fileTitle() + ".pdf"_L1, tr("PDF files"), u"pdf"_s},
+         [&](const QString &file, Progress &progress) {
+             Printing::savePdf(*m_run, file, Printing::allPages(*m_run), progress);
+         });
 }
 
 void TfrmPreview::saveCsv()
 {
-    const QString file = chooseFile(
-        m_context, this, {tr("Save as CSV"), m_run->title().remove(u'/') + ".csv"_L1, tr("CSV files"), u"csv"_s});
-    if (file.isEmpty())
-        return;
-    withProgress([&](Progress &progress) {
-        const Printing::Report report = m_makeReport();
-        Printing::saveReportCsv(report.layout, *report.rows, file, progress);
-    });
+    save({tr("Save as CSV"), fileTitle() + ".csv"_L1, tr("CSV files"), u"csv"_s},
+         [&](const QString &file, Progress &progress) {
+             const Printing::Report report = m_makeReport();
+             Printing::saveReportCsv(report.layout, *report.rows, file, progress,
+                                     m_run->isComplete() ? m_run->lineCount() : 0);
+         });
 }
 
 } // namespace Tallymere

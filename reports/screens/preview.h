@@ -9,6 +9,7 @@
 #include <QTimer>
 
 class QAction;
+class QPrinter;
 
 namespace Ui {
 class TfrmPreview;
@@ -51,7 +52,13 @@ private:
     void setZoom(int percent);
     void goToPage(int page);
     void find(bool forward);
-    void withProgress(const std::function<void(Progress &)> &work);
+    void proposeFile(QPrinter &printer) const;
+    void print(QPrinter &printer);
+    QString fileTitle() const; // proposed, without its end
+    // Into a file that the user names; says what has been written then.
+    void save(const FileChoice &choice, const std::function<void(const QString &file, Progress &progress)> &write);
+    QString pagesText(int count) const;
+    void say(const QString &text);
 
     ScreenContext &m_context;
     Guard m_guard;

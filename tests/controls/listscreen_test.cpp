@@ -1,37 +1,17 @@
 #include "controls/filechoice.h"
 #include "tests/controls/itemlist.h"
 #include "tests/support/screentest.h"
+#include "tests/support/smallfiles.h"
 
-#include <csignal>
 #include <QClipboard>
 #include <QFile>
 #include <QFrame>
-#include <sys/resource.h>
+#include <QStatusBar>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
-
-// While it lives, no file that this process writes grows beyond so many bytes: what a full disk or a quota does to a
-// writer, without the right to mount one.
-class SmallFiles
-{
-public:
-    explicit SmallFiles(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallFiles() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    SmallFiles(const SmallFiles &) = delete;
-    SmallFiles &operator=(const SmallFiles &) = delete;
-
-private:
-    rlimit m_before{};
-};
 
 class ListScreenTest : public ScreenTest
 {
@@ -41,8 +21,8 @@ protected:
         kitchen.execute(u"UPDATE Item SET UnitPrice = 1234.5, Suspended = false WHERE ItemID = 1"_s);
         context->settings = &settings;
         context->chooseFileToSave = [this](QWidget *, const FileChoice &choice) {
-            proposed = choice.folder + u'|' + choice.name;
-            return chosen;
+            proposed << choice.folder + u'|' + choice.name;
+            return proposed.size() == 1 ? chosen : QString(); // gives up when asked again
         };
         mainWindow->resize(300, 200);
         mainWindow->show();
@@ -67,7 +47,7 @@ protected:
     }
 
     QString chosen; // by the user, to save in
-    QString proposed; // folder and name
+    QStringList proposed; // folder and name, each time that a file was asked for
 };
 
 } // namespace
@@ -201,7 +181,7 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
     items.applyFilter(u"(ItemID < 4)"_s);
     QAction *save = items.command(u"mnuSaveCsv"_s);
     save->trigger();
-    EXPECT_EQ(proposed, u"|Items.csv"_s);
+    EXPECT_EQ(std::exchange(proposed, {}), QStringList(u"|Items.csv"_s));
     EXPECT_EQ(prompts.said, QStringList()) << "cancelled";
 
     const QTemporaryDir folder;
@@ -210,9 +190,12 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
     const std::string saved = "Item no.,Description,Unit Price,Suspended\r\nA10,Apples,1234.5,false\r\n"
                               "A11,Bread,,\r\nB1,apricots,,false\r\n";
     EXPECT_EQ(content(chosen), saved);
+    EXPECT_EQ(items.statusBar()->currentMessage(), u"3 rows saved as "_s + chosen);
     const QString file = std::exchange(chosen, QString());
+    proposed.clear();
     open().command(u"mnuSaveCsv"_s)->trigger();
-    EXPECT_EQ(proposed, folder.path() + u"|Items.csv"_s) << "the folder is remembered";
+    EXPECT_EQ(std::exchange(proposed, {}), QStringList(folder.path() + u"|Items.csv"_s))
+        << "the folder is remembered";
     chosen = file;
 
     kitchen.execute(u"ALTER TABLE Item RENAME TO Away"_s);
@@ -225,9 +208,12 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
     refresh(items);
     prompts.take();
 
+    proposed.clear();
     chosen = folder.filePath(u"nowhere/items.csv"_s);
     save->trigger();
     EXPECT_TRUE(prompts.take().value(0).contains(chosen));
+    EXPECT_EQ(proposed, (QStringList{folder.path() + u"|Items.csv"_s, folder.path() + u'|' + chosen}))
+        << "what was typed is offered again";
 
     context->chooseFileToSave = {};
     EXPECT_FALSE(open().command(u"mnuSaveCsv"_s)->isEnabled());

@@ -1,10 +1,13 @@
 #include "base/ruleerror.h"
 #include "printing/reportoutput.h"
 #include "printing/reportrun.h"
+#include "tests/support/failures.h"
+#include "tests/support/smallfiles.h"
 #include "tests/support/spokenprompts.h"
 
 #include <gtest/gtest.h>
 #include <map>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -211,6 +214,17 @@ TEST_F(Pages, NameTheReportWhoseTotalIsNoAmountAnyMore)
     EXPECT_THROW(make(), RuleError);
 }
 
+TEST_F(Pages, ThatAFullDiskDoesNotTakeSaySo)
+{
+    for (int i = 0; i < 200; ++i)
+        add(u"A"_s, u"Name"_s, i);
+    ReportRun run({layout, std::make_unique<Rows>(QStringList{u"Group"_s, u"Name"_s, u"Value"_s}, rows)},
+                  QPageSize::Letter, {});
+    const SmallFiles full(5000);
+    EXPECT_EQ(refusalOf([&] { run.makePages(); }),
+              u"The pages of the report cannot be kept in '%1'...\nFile too large -> "_s.arg(QDir::tempPath()));
+}
+
 TEST_F(Pages, OfAReportThatFailedAreNotGivenAwayAsIfTheyWereAll)
 {
     for (const int rowsBefore : {0, 200}) {
@@ -222,7 +236,7 @@ TEST_F(Pages, OfAReportThatFailedAreNotGivenAwayAsIfTheyWereAll)
         EXPECT_EQ(run.pageCount() > 0, rowsBefore > 0);
         QTemporaryDir folder;
         CountedProgress progress;
-        EXPECT_THROW(savePdf(run, folder.filePath(u"report.pdf"_s), progress), RuleError);
+        EXPECT_THROW(savePdf(run, folder.filePath(u"report.pdf"_s), allPages(run), progress), RuleError);
         EXPECT_FALSE(QFile::exists(folder.filePath(u"report.pdf"_s)));
         for (int i = 0; i < 200; ++i)
             add(u"A"_s, u"Name"_s, i);

@@ -1,4 +1,4 @@
-#include "base/ruleerror.h"
+#include "base/savedfile.h"
 #include "printing/pagepainter.h"
 #include "printing/printout.h"
 #include "printing/reportoutput.h"
@@ -261,6 +261,62 @@ TEST_F(PrintTest, APrinterThatRefusesIsTold)
     EXPECT_EQ(refusal(orphan), u"The report was not printed: the printer 'PDF' cannot be found any more. -> "_s);
     QPrinter nowhere;
     EXPECT_EQ(refusal(nowhere), u"The report cannot be printed: the printer or the file takes nothing. -> "_s);
+}
+
+TEST_F(PrintTest, NothingArrivesOfWhatIsGivenUp)
+{
+    class GivenUp final : public Tallymere::Progress
+    {
+    public:
+        void start(int) override { }
+        void step() override
+        {
+            if (++m_steps == 2)
+                throw Tallymere::SilentAbort();
+        }
+        void finish() override { }
+
+    private:
+        int m_steps = 0;
+    };
+    const auto run = makeRun(false, QPageSize::Letter);
+    QPrinter printer(QPrinter::HighResolution);
+    GivenUp progress;
+    EXPECT_EQ(refusalOf([&] { printReport(*run, printer, progress); }), u"silent -> "_s);
+    EXPECT_FALSE(QFile::exists(system.printed()));
+
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"report.pdf"_s);
+    Tallymere::saveFile(file, [](QIODevice &device) { device.write("old"); });
+    QPrinter toFile(QPrinter::HighResolution);
+    toFile.setOutputFileName(file);
+    GivenUp again;
+    EXPECT_EQ(refusalOf([&] { printReport(*run, toFile, again); }), u"silent -> "_s);
+    QFile kept(file);
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), "old");
+}
+
+TEST_F(PrintTest, TheProgramTakesThePaperOfThePrinterUnlessAnotherIsNamed)
+{
+    CliRunner cli(Store::Local);
+    ASSERT_EQ(cli.run({u"init"_s}).status, 0);
+    const auto paperOf = [](const QString &file) {
+        const QString words = QString::fromUtf8(outputOf(u"pdfinfo"_s, {file}));
+        return words.section(u"Page size:"_s, 1).section(u"\n"_s, 0, 0).simplified();
+    };
+    const QString a4 = u"595 x 842 pts (A4)"_s, letter = u"612 x 792 pts (letter)"_s;
+    const QStringList report{u"Value by Item"_s};
+    const QString file = cli.folder() + u"/report.pdf"_s;
+    for (const auto &[sheet, paper] : {std::pair{u"A4"_s, a4}, {u"Letter"_s, letter}}) {
+        outputOf(u"/usr/sbin/lpadmin"_s, {u"-p"_s, u"PDF"_s, u"-o"_s, u"PageSize="_s + sheet});
+        ASSERT_EQ(cli.run(QStringList{u"report"_s, u"--pdf"_s, file} + report).status, 0);
+        EXPECT_EQ(paperOf(file), paper);
+        ASSERT_EQ(cli.run(QStringList{u"print"_s} + report).output, u"1 page sent to the printer PDF\n"_s);
+        EXPECT_EQ(paperOf(system.printed()), paper);
+    }
+    ASSERT_EQ(cli.run(QStringList{u"print"_s, u"--paper"_s, u"a4"_s} + report).status, 0);
+    EXPECT_EQ(paperOf(system.printed()), a4);
 }
 
 TEST_F(PrintTest, TheProgramPrintsWhatItWritesToAFile)

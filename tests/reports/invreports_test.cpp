@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QListWidget>
 #include <QSpinBox>
+#include <QStatusBar>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -190,8 +191,31 @@ TEST_F(InvReportsTest, HeadingsNameWhatIsChosenAndRefuseWhatIsGone)
     EXPECT_EQ(headings(u"Perpetual by Item"_s, {.itemTypeId = 1, .period = 3, .year = 2004}),
               u"Type: Food/Period: 03/2004");
     EXPECT_EQ(headings(u"Perpetual Summary by Item"_s, {.period = 12, .year = 2004}), u"/Period: 12/2004");
+    kitchen.execute(
+        u"INSERT INTO Warehse (WarehouseID) VALUES (71); INSERT INTO ItemType (ItemTypeID) VALUES (81)"_s);
+    EXPECT_EQ(headings(u"Value by Item"_s, {.warehouseId = 71, .itemTypeId = 81}), u"Location: 71     Type: 81");
     EXPECT_THROW(headings(u"Value by Item"_s, {.warehouseId = 70}), RuleError);
     EXPECT_THROW(headings(u"Value by Item"_s, {.itemTypeId = 80}), RuleError);
+}
+
+TEST_F(InvReportsTest, EnterPressesTheButtonWithTheCursorAndWhatWasSavedIsTold)
+{
+    for (int id = 1; id <= 300; ++id)
+        kitchen.addReceipt(id, 1, 1, {});
+    auto *preview = new TfrmPreview(*context, runReport(*data, *ReportList::find(u"Inventory Receipts"_s), {}),
+                                    mainWindow.get());
+    showActive(*preview);
+    ASSERT_TRUE(comesTrue([&] { return child<QPushButton>(*preview, "btnPrint")->isEnabled(); }));
+    const auto *label = child<QLabel>(*preview, "panelPageNumber");
+    child<QWidget>(*preview, "btnLast")->setFocus(Qt::TabFocusReason);
+    type("<Return>");
+    const QString last = label->text().section(u' ', -1);
+    EXPECT_EQ(label->text(), u"Page %1 of %1"_s.arg(last));
+    preview->savePdf();
+    EXPECT_EQ(preview->statusBar()->currentMessage(), last + " pages saved as "_L1 + file());
+    child<QWidget>(*preview, "btnClose")->setFocus(Qt::TabFocusReason);
+    type("<Enter>");
+    EXPECT_TRUE(comesTrue([&] { return !mainWindow->findChild<TfrmPreview *>(); }));
 }
 
 TEST_F(InvReportsTest, PagesAreTurnedOneByOneWhereSeveralAreInSight)

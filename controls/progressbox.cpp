@@ -1,0 +1,77 @@
+#include "controls/progressbox.h"
+
+#include "base/ruleerror.h"
+
+#include <algorithm>
+#include <limits>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QLabel>
+#include <QProgressBar>
+#include <QProgressDialog>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr qint64 repaintEvery = 50; // ms
+} // namespace
+
+ProgressBox::ProgressBox(QWidget *window, const QString &what, std::chrono::milliseconds shownAfter)
+    : m_box(std::make_unique<QProgressDialog>(window))
+    , m_shownAfter(shownAfter)
+{
+    m_box->setObjectName(u"dlgProgress"_s);
+    m_box->setWindowTitle(window ? window->windowTitle() : QString());
+    auto *label = new QLabel(what, m_box.get());
+    label->setTextFormat(Qt::PlainText); // a file's name
+    m_box->setLabel(label);
+    auto *bar = new QProgressBar(m_box.get());
+    bar->setAccessibleName(what);
+    m_box->setBar(bar);
+    m_box->setWindowModality(Qt::ApplicationModal);
+    m_box->setMinimumDuration(std::numeric_limits<int>::max()); // it is shown from here
+    m_box->setAutoClose(false);
+    m_box->setAutoReset(false);
+    m_sinceStart.start();
+    m_sinceShown.start();
+}
+
+ProgressBox::~ProgressBox() = default;
+
+void ProgressBox::start(int steps)
+{
+    m_steps = steps;
+    m_done = 0;
+    m_box->setRange(0, steps);
+    m_box->setValue(0);
+}
+
+void ProgressBox::step()
+{
+    ++m_done;
+    if (m_sinceShown.elapsed() >= repaintEvery)
+        show(false);
+}
+
+void ProgressBox::finish()
+{
+    if (m_box->isVisible())
+        show(true);
+}
+
+// Until the box is there nothing that the user types or clicks gets through, so that no window that the work is about goes.
+void ProgressBox::show(bool all)
+{
+    if (!m_box->isVisible() && m_sinceStart.elapsed() >= m_shownAfter.count())
+        m_box->show();
+    m_box->setValue(all ? m_steps : std::min(m_done, m_steps));
+    QCoreApplication::processEvents(m_box->isVisible() ? QEventLoop::AllEvents
+                                                       : QEventLoop::ExcludeUserInputEvents);
+    m_sinceShown.restart();
+    if (!all && m_box->wasCanceled())
+        throw SilentAbort();
+}
+
+} // namespace Tallymere

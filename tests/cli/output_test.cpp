@@ -1,0 +1,115 @@
+#include "tests/cli/clirunner.h"
+
+#include <QDir>
+#include <QFile>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+// What the program writes besides the database: where it goes, and what stays of it.
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Output : public testing::Test
+{
+protected:
+    Output() { EXPECT_EQ(cli.run({u"init"_s}).status, 0); }
+
+    // In a shell, which can hand on names that no QString stands for. "$T" is the program.
+    CliResult runScript(const QString &script)
+    {
+        process.setWorkingDirectory(work.path());
+        QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+        variables.insert(u"T"_s, QStringLiteral(TALLYMERE_PROGRAM));
+        variables.insert(u"DATA"_s, cli.folder());
+        process.setProcessEnvironment(variables);
+        process.start(u"/bin/sh"_s, {u"-c"_s, script});
+        return CliRunner::finish(process);
+    }
+    QStringList written() const
+    {
+        return QDir(work.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    CliRunner cli{Store::Local};
+    QTemporaryDir work;
+    QProcess process;
+};
+
+TEST_F(Output, OfPagesGoesThroughAPipeOrIntoAFileOfThatPaper)
+{
+    const auto pdf = [](const char *paper, const char *box) {
+        return u"\"$T\" --data \"$DATA\" report 'Value by Item' --paper %1 --pdf /dev/stdout "
+               "| cat >piped; grep -aq '^/MediaBox .0 0 %2' piped"_s.arg(QLatin1String(paper), QLatin1String(box));
+    };
+    CliResult result = runScript(pdf("a4", "595[.0]* 842"));
+    EXPECT_EQ(result.status, 0) << result;
+    result = runScript(pdf("LETTER", "612[.0]* 792"));
+    EXPECT_EQ(result.status, 0) << result;
+    result = runScript(u"\"$T\" --data \"$DATA\" report 'Value by Item' --paper a4 --pdf 'my pages.pdf'"_s);
+    EXPECT_EQ(result.output, u"1 page saved as my pages.pdf\n"_s) << result;
+    EXPECT_EQ(written(), (QStringList{u"my pages.pdf"_s, u"piped"_s}));
+}
+
+// A print system that is there but never answers.
+class SilentPrintSystem
+{
+public:
+    explicit SilentPrintSystem(const std::string &name)
+        : m_socket(::socket(AF_UNIX, SOCK_STREAM, 0))
+    {
+        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+        name.copy(address.sun_path, sizeof address.sun_path - 1);
+        if (::bind(m_socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
+            || ::listen(m_socket, 1) != 0)
+            ADD_FAILURE() << "The socket " << name << " could not be made.";
+    }
+    ~SilentPrintSystem() { ::close(m_socket); }
+    SilentPrintSystem(const SilentPrintSystem &) = delete;
+    SilentPrintSystem &operator=(const SilentPrintSystem &) = delete;
+
+    int waitForCaller() const { return ::accept(m_socket, nullptr, nullptr); }
+
+private:
+    int m_socket;
+};
+
+// In a folder for temporary files of its own, at the moment when the printer is asked to take the pages.
+TEST_F(Output, LeavesNothingOfAPrintThatIsKilled)
+{
+    const QTemporaryDir home;
+    const SilentPrintSystem printSystem(home.filePath(u"socket"_s).toStdString());
+    QProcess print;
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    variables.insert(u"TMPDIR"_s, work.path());
+    variables.insert(u"CUPS_SERVER"_s, home.filePath(u"socket"_s));
+    variables.remove(u"XDG_RUNTIME_DIR"_s);
+    print.setProcessEnvironment(variables);
+    print.start(QStringLiteral(TALLYMERE_PROGRAM),
+                {u"--data"_s, cli.folder(), u"print"_s, u"Value by Item"_s, u"--paper"_s, u"a4"_s});
+    const int caller = printSystem.waitForCaller();
+    print.kill();
+    ASSERT_TRUE(print.waitForFinished());
+    ::close(caller);
+    EXPECT_EQ(written(), QStringList());
+}
+
+TEST_F(Output, DoesNotMixUpFoldersWhoseNamesAreNotUtf8)
+{
+    const QString notUtf8 = u"not UTF-8"_s;
+    CliResult result = runScript(u"\"$T\" --data \"$(printf 'k\\377')\" init"_s);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(result.errors.contains(notUtf8)) << result;
+    for (const QString &folder : {u"cd \"$N\"; \"$T\" --data ."_s, u"ln -s \"$N\" link; \"$T\" --data link"_s}) {
+        result = runScript(u"N=$(printf 'k\\377'); mkdir \"$N\"; "_s + folder + " init"_L1);
+        EXPECT_EQ(result.status, 3);
+        EXPECT_TRUE(result.errors.contains(notUtf8)) << result;
+        result = runScript(u"N=$(printf 'k\\377'); rmdir \"$N\" && rm -f link"_s);
+        EXPECT_EQ(result.status, 0) << "a file was made in it" << result;
+        EXPECT_EQ(written(), QStringList());
+    }
+}
+
+} // namespace
