@@ -14,7 +14,7 @@ bool ReportRun::makePages(QDeadlineTimer until)
 {
     constexpr int linesBetweenLooks = 50; // at the clock
     try {
-        while (!hasEnded() && !until.hasExpired()) {
+        do {
             for (int i = 0; i < linesBetweenLooks && !hasEnded(); ++i) {
                 ReportLine line;
                 if (m_lines.next(line)) {
@@ -24,7 +24,7 @@ bool ReportRun::makePages(QDeadlineTimer until)
                     m_state = State::Complete;
                 }
             }
-        }
+        } while (!hasEnded() && !until.hasExpired());
     } catch (...) {
         m_state = State::Failed;
         m_report.rows.reset(); // and what they hold in the store; nobody asks for lines any more

@@ -1,7 +1,6 @@
 #include "reports/screens/pageview.h"
 
 #include "printing/pagepainter.h"
-#include "printing/pagesearch.h"
 
 #include <algorithm>
 #include <QKeyEvent>
@@ -132,41 +131,24 @@ void PageView::setSearched(const QString &text)
     if (text == m_searched)
         return;
     m_searched = text;
-    m_hitPage = -1;
-    m_hitIndex = -1;
+    m_hit = {};
     viewport()->update();
 }
 
-bool PageView::goToHit(bool forward)
+Printing::Hit PageView::searchedFrom() const
 {
-    const int count = pageCount();
-    if (m_searched.isEmpty() || count == 0)
-        return false;
-    const int from = m_hitPage >= 0 ? m_hitPage : currentPage() - 1;
-    for (int step = 0; step <= count; ++step) {
-        const int index = ((from + (forward ? step : -step)) % count + count) % count;
-        const int hits = static_cast<int>(Printing::findText(m_run->page(index), m_searched).size());
-        int hit = forward ? 0 : hits - 1;
-        if (step == 0 && m_hitPage >= 0)
-            hit = m_hitIndex + (forward ? 1 : -1);
-        if (hit < 0 || hit >= hits)
-            continue;
-        m_hitPage = index;
-        m_hitIndex = hit;
-        showHit();
-        return true;
-    }
-    return false;
+    return m_hit.index >= 0 ? m_hit : Printing::Hit{.page = currentPage() - 1};
 }
 
-void PageView::showHit()
+void PageView::goToHit(const Printing::Hit &hit)
 {
-    const QRectF hit = Printing::findText(page(m_hitPage), m_searched).at(m_hitIndex);
-    const int y = pageTop(m_hitPage) + static_cast<int>(hit.center().y() * scale());
+    m_hit = hit;
+    const QRectF place = Printing::findText(page(hit.page), m_searched).at(hit.index);
+    const int y = pageTop(hit.page) + static_cast<int>(place.center().y() * scale());
     const int top = verticalScrollBar()->value();
     if (y < top + gap || y > top + viewport()->height() - gap)
         verticalScrollBar()->setValue(y - viewport()->height() / 3);
-    const int x = gap + static_cast<int>(hit.left() * scale());
+    const int x = gap + static_cast<int>(place.left() * scale());
     const int left = horizontalScrollBar()->value();
     if (x < left || x > left + viewport()->width() - gap)
         horizontalScrollBar()->setValue(x - viewport()->width() / 3);
@@ -211,7 +193,7 @@ void PageView::paintHits(QPainter &painter, int index) const
     const QList<QRectF> hits = Printing::findText(page(index), m_searched);
     for (qsizetype i = 0; i < hits.size(); ++i)
         painter.fillRect(hits[i],
-                         index == m_hitPage && i == m_hitIndex ? QColor(255, 170, 60) : QColor(255, 240, 130));
+                         index == m_hit.page && i == m_hit.index ? QColor(255, 170, 60) : QColor(255, 240, 130));
 }
 
 void PageView::resizeEvent(QResizeEvent *event)

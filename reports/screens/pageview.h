@@ -1,6 +1,6 @@
 #pragma once
 
-#include "printing/reportrun.h"
+#include "printing/pagesearch.h"
 
 #include <QAbstractScrollArea>
 #include <QCache>
@@ -30,10 +30,11 @@ public:
     static constexpr int leastZoom = 10;
     static constexpr int mostZoom = 400;
 
-    // Marks a text wherever it stands. Goes to the next place (or the one before) from the place it is at, past the end
-    // to the beginning; false when there is none.
+    // Marks a text wherever it stands, and one of its places in particular.
     void setSearched(const QString &text);
-    bool goToHit(bool forward);
+    void goToHit(const Printing::Hit &hit);
+    // Where a search for it begins: at the place gone to last, otherwise at the current page.
+    Printing::Hit searchedFrom() const;
 
 Q_SIGNALS:
     void pageShown(int page);
@@ -57,7 +58,6 @@ private:
     void paintHits(QPainter &painter, int index) const;
     void stayOn(int page);
     void updateBars();
-    void showHit();
 
     const Printing::ReportRun *m_run = nullptr;
     mutable QCache<int, Printing::Page> m_near;
@@ -65,8 +65,7 @@ private:
     int m_goneTo = 1; // which need not be in the middle, where several pages are in sight
     int m_goneToAt = 0; // where the scroll bar stood then
     QString m_searched;
-    int m_hitPage = -1; // the place that the search is at
-    int m_hitIndex = -1;
+    Printing::Hit m_hit; // that is gone to
 };
 
 } // namespace Tallymere

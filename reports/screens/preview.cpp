@@ -11,9 +11,12 @@
 #include "printing/reportoutput.h"
 #include "ui_preview.h"
 
+#include <algorithm>
+#include <array>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -26,16 +29,31 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
+namespace {
+
+constexpr int sliceOfWork = 20; // ms, less than anybody would notice as a delay of a key
+
+bool isModifier(int key)
+{
+    constexpr std::array modifiers{Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_AltGr, Qt::Key_Meta};
+    return std::ranges::find(modifiers, key) != modifiers.end();
+}
+
+} // namespace
+
 TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::ReportRun> run, QWidget *parent)
     : QMainWindow(parent, Qt::Window)
     , m_context(context)
     , m_guard(context.prompts, {}, this)
     , m_ui(std::make_unique<Ui::TfrmPreview>())
     , m_run(std::move(run))
+    , m_found(new QLabel(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     m_ui->setupUi(this);
     scaleForm(this);
+    m_found->setObjectName(u"lblFound"_s);
+    m_ui->statusBar->addWidget(m_found, 1);
     m_ui->btnSave->setVisible(bool(context.chooseFileToSave));
     m_ui->QRPreview1->setRun(m_run.get());
     connectControls();
@@ -83,7 +101,10 @@ void TfrmPreview::connectControls()
     });
     connect(m_ui->QRPreview1, &PageView::pageShown, this, &TfrmPreview::showPageNumber);
 
-    connect(m_ui->editFind, &QLineEdit::textChanged, m_ui->QRPreview1, &PageView::setSearched);
+    connect(m_ui->editFind, &QLineEdit::textChanged, this, [this](const QString &text) {
+        endSearch({});
+        m_ui->QRPreview1->setSearched(text);
+    });
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
         m_ui->editFind->setFocus(Qt::ShortcutFocusReason);
         m_ui->editFind->selectAll();
@@ -97,6 +118,8 @@ void TfrmPreview::connectControls()
 
     m_making.setInterval(0);
     connectGuarded(&m_making, &QTimer::timeout, this, &TfrmPreview::makePages);
+    m_searching.setInterval(0);
+    connectGuarded(&m_searching, &QTimer::timeout, this, &TfrmPreview::goOnSearching);
 }
 
 // --- making pages -------------------------------------------------------------------------------------------------
@@ -113,7 +136,6 @@ void TfrmPreview::showEvent(QShowEvent *event)
 
 void TfrmPreview::makePages()
 {
-    constexpr int milliseconds = 20; // less than anybody would notice as a delay of a key
     const auto show = qScopeGuard([this] {
         if (m_run->hasEnded())
             m_making.stop();
@@ -121,8 +143,10 @@ void TfrmPreview::makePages()
         if (m_toLast)
             m_ui->QRPreview1->goToPage(m_run->pageCount());
         showPageNumber();
+        if (m_search && !m_searching.isActive()) // beginning anew, it would never have its turn
+            m_searching.start();
     });
-    m_run->makePages(QDeadlineTimer(milliseconds));
+    m_run->makePages(QDeadlineTimer(sliceOfWork));
 }
 
 void TfrmPreview::showPageNumber()
@@ -144,6 +168,7 @@ void TfrmPreview::showPageNumber()
 void TfrmPreview::goToPage(int page)
 {
     m_toLast = false;
+    stopSearch();
     m_ui->QRPreview1->goToPage(page);
     showPageNumber();
 }
@@ -170,14 +195,81 @@ void TfrmPreview::btnLastClick()
 
 void TfrmPreview::setZoom(int percent) { m_ui->SpinEdit1->setValue(percent); }
 
+// --- searching ----------------------------------------------------------------------------------------------------
+
 void TfrmPreview::find(bool forward)
 {
+    if (m_search && m_search->isForward() == forward)
+        return; // as it does already
     m_toLast = false;
-    const WaitCursor hourglass;
-    const bool found = m_ui->QRPreview1->goToHit(forward);
-    m_ui->lblFound->setText(found || m_ui->editFind->text().isEmpty() ? QString() : tr("Not found"));
+    endSearch({});
+    statusBar()->clearMessage(); // it would hide how far the search is
+    const QString text = m_ui->editFind->text();
+    if (text.isEmpty())
+        return;
+    m_search.emplace(*m_run, text, forward, m_ui->QRPreview1->searchedFrom());
+    qApp->installEventFilter(this);
+    goOnSearching();
+}
+
+void TfrmPreview::goOnSearching()
+{
+    using State = Printing::PageSearch::State;
+    auto failed = qScopeGuard([this] { endSearch({}); });
+    const State state = m_search->search(QDeadlineTimer(sliceOfWork));
+    if (state == State::Searching) {
+        failed.dismiss();
+        m_found->setText(searchedSoFar(tr("Searched %1 of %2 pages")));
+        if (m_search->isWaiting())
+            m_searching.stop(); // until there are more
+        else if (!m_searching.isActive())
+            m_searching.start();
+        return;
+    }
+    const Printing::Hit hit = m_search->hit();
+    failed.dismiss();
+    endSearch(state == State::Found ? QString() : tr("Not found"));
+    if (state == State::Found)
+        m_ui->QRPreview1->goToHit(hit);
     showPageNumber();
 }
+
+QString TfrmPreview::searchedSoFar(const QString &text) const
+{
+    const QLocale locale;
+    return text.arg(locale.toString(m_search->pagesSearched()), locale.toString(m_run->pageCount()))
+        + (m_run->hasEnded() ? QString() : u"..."_s);
+}
+
+void TfrmPreview::endSearch(const QString &outcome)
+{
+    m_searching.stop();
+    m_search.reset();
+    qApp->removeEventFilter(this);
+    m_found->setText(outcome);
+}
+
+void TfrmPreview::stopSearch()
+{
+    if (m_search)
+        endSearch(searchedSoFar(tr("Stopped after %1 of %2 pages")));
+}
+
+// While a search goes on: a key stops it, be it for what it does otherwise. Escape does no more than that, and Enter and
+// F3 ask for what is being done.
+bool TfrmPreview::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (!m_search || event->type() != QEvent::KeyPress || !widget || widget->window() != this)
+        return QMainWindow::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (isModifier(key) || (m_ui->editFind->hasFocus() && (key == Qt::Key_Return || key == Qt::Key_Enter)))
+        return QMainWindow::eventFilter(watched, event);
+    stopSearch();
+    return key == Qt::Key_Escape || QMainWindow::eventFilter(watched, event);
+}
+
+// --- keys ---------------------------------------------------------------------------------------------------------
 
 void TfrmPreview::keyPressEvent(QKeyEvent *event)
 {
@@ -211,6 +303,7 @@ void TfrmPreview::say(const QString &text) { statusBar()->showMessage(text); }
 
 void TfrmPreview::btnPrintClick()
 {
+    stopSearch();
     QPrinter printer(QPrinter::HighResolution);
     Printing::preparePrinter(*m_run, printer);
     proposeFile(printer);
@@ -257,6 +350,7 @@ QString TfrmPreview::fileTitle() const { return m_run->title().remove(u'/'); }
 void TfrmPreview::save(const FileChoice &choice,
                        const std::function<void(const QString &file, Progress &progress)> &write)
 {
+    stopSearch();
     const QString saved = saveToChosenFile(m_context, this, choice, [&](const QString &file) {
         ProgressBox progress(this, tr("Saving %1").arg(QDir::toNativeSeparators(file)));
         write(file, progress);

@@ -2,13 +2,15 @@
 
 #include "controls/guard.h"
 #include "controls/screencontext.h"
-#include "printing/reportrun.h"
+#include "printing/pagesearch.h"
 
 #include <memory>
+#include <optional>
 #include <QMainWindow>
 #include <QTimer>
 
 class QAction;
+class QLabel;
 class QPrinter;
 
 namespace Ui {
@@ -20,7 +22,8 @@ namespace Tallymere {
 class PageView;
 
 // The pages of a report as they will be printed. The first is shown as soon as it is made; the others follow while the
-// user looks. Not modal; the report is freed with it when it is closed.
+// user looks, and a search goes on with them until a key stops it. Not modal; the report is freed with it when it is
+// closed.
 class TfrmPreview : public QMainWindow
 {
     Q_OBJECT
@@ -44,6 +47,7 @@ public:
 protected:
     void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void connectControls();
@@ -52,6 +56,10 @@ private:
     void setZoom(int percent);
     void goToPage(int page);
     void find(bool forward);
+    void goOnSearching();
+    void endSearch(const QString &outcome);
+    void stopSearch();
+    QString searchedSoFar(const QString &text) const;
     void proposeFile(QPrinter &printer) const;
     void print(QPrinter &printer);
     QString fileTitle() const; // proposed, without its end
@@ -64,11 +72,14 @@ private:
     Guard m_guard;
     std::unique_ptr<Ui::TfrmPreview> m_ui;
     std::unique_ptr<Printing::ReportRun> m_run;
+    QLabel *m_found; // what a search has come to
     std::function<Printing::Report()> m_makeReport;
     QAction *m_savePdf = nullptr;
     QAction *m_saveCsv = nullptr;
     QTimer m_making; // goes on with the pages whenever there is nothing else to do
     bool m_toLast = false; // the last page was asked for before it was made
+    std::optional<Printing::PageSearch> m_search; // that is going on
+    QTimer m_searching; // goes on with it likewise, while there are pages to look at
 };
 
 } // namespace Tallymere
