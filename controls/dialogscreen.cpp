@@ -1,5 +1,7 @@
 #include "controls/dialogscreen.h"
 
+#include "controls/dialogover.h"
+#include "controls/lineentry.h"
 #include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
 
@@ -32,13 +34,31 @@ void DialogScreen::putCursorInto(QWidget &widget)
         edit->selectAll();
 }
 
+void DialogScreen::takeOneLines()
+{
+    const QList<QLineEdit *> edits = findChildren<QLineEdit *>();
+    for (QLineEdit *edit : edits) {
+        if (!edit->validator() && edit->inputMask().isEmpty()) {
+            takeOneLine(*edit, edit->maxLength(), edit->objectName(),
+                        [this](const QString &text) { m_guard.run([&] { m_context.prompts.warn(text); }); });
+        }
+    }
+}
+
 bool DialogScreen::event(QEvent *event)
 {
     if (event->type() == QEvent::Polish && !std::exchange(m_scaled, true)) {
         scaleForm(this);
         leadTabToChosen(*this);
+        takeOneLines();
     }
     return QDialog::event(event);
+}
+
+void DialogScreen::done(int result)
+{
+    if (!isHeldByDialog(this))
+        QDialog::done(result);
 }
 
 void DialogScreen::showEvent(QShowEvent *event)

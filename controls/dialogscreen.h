@@ -14,6 +14,7 @@ class DialogScreen : public QDialog
 
 public:
     const Guard &guard() const { return m_guard; }
+    void done(int result) override; // not while a box stands over it
 
 protected:
     DialogScreen(ScreenContext &context, QWidget *parent);
@@ -29,6 +30,7 @@ protected:
 
 private:
     void focusColumn(const QString &column);
+    void takeOneLines();
 
     ScreenContext &m_context;
     Guard m_guard;

@@ -50,11 +50,11 @@ void EntryScreen::buildScreen()
     for (QPushButton *button : buttons)
         button->setAutoDefault(false); // Enter moves on, so no button may take it
     if (auto *ok = findChild<QPushButton *>(u"btnOK"_s))
-        connect(ok, &QPushButton::clicked, this, &EntryScreen::btnOKClick);
+        connectGuarded(ok, &QPushButton::clicked, this, &EntryScreen::btnOKClick);
     if (auto *cancel = findChild<QPushButton *>(u"btnCancel"_s)) {
         cancel->setProperty("keepsEntry", true);
         cancel->setProperty("dropsEntry", true);
-        connect(cancel, &QPushButton::clicked, this, &EntryScreen::btnCancelClick);
+        connectGuarded(cancel, &QPushButton::clicked, this, &EntryScreen::btnCancelClick);
     }
     if (auto *help = findChild<QPushButton *>(u"btnHelp"_s)) {
         help->setProperty("keepsEntry", true);

@@ -171,7 +171,7 @@ void FilterDialog::showStep()
 
 void FilterDialog::reject()
 {
-    guard().run([this] {
+    guard().runWhenFree([this] {
         for (int i = 0; i < m_inForce.size(); ++i)
             m_choices[i].choose(m_inForce[i]);
     });

@@ -1,6 +1,7 @@
 #include "controls/guard.h"
 
 #include "base/ruleerror.h"
+#include "controls/dialogover.h"
 #include "controls/messageboxes.h"
 #include "controls/texts.h"
 #include "engine/error.h"
@@ -30,6 +31,11 @@ bool Guard::run(const std::function<void()> &handler) const
     if (failure)
         report(failure);
     return !failure;
+}
+
+bool Guard::runWhenFree(const std::function<void()> &handler) const
+{
+    return !isHeldByDialog(m_window) && run(handler);
 }
 
 std::exception_ptr Guard::attempt(const std::function<void()> &handler)

@@ -27,6 +27,9 @@ public:
     // Runs a handler; true when it ran to its end.
     bool run(const std::function<void()> &handler) const;
 
+    // The same for what the user asks for in the window: nothing is done while a dialog stands over it.
+    bool runWhenFree(const std::function<void()> &handler) const;
+
     // The two halves of run(), for handlers inside an event that must not open a box: null when it ran to its end.
     static std::exception_ptr attempt(const std::function<void()> &handler);
     void report(const std::exception_ptr &failure) const;
@@ -43,12 +46,12 @@ private:
     QWidget *m_window;
 };
 
-// Connects a signal to a handler without arguments that runs under the receiver's guard().
+// Connects a signal of what the user does to a handler without arguments that runs under the receiver's guard().
 template <typename Sender, typename Signal, typename Receiver, typename Handler>
 QMetaObject::Connection connectGuarded(const Sender *sender, Signal signal, Receiver *receiver, Handler handler)
 {
     return QObject::connect(sender, signal, receiver, [receiver, handler] {
-        receiver->guard().run([&] { std::invoke(handler, receiver); });
+        receiver->guard().runWhenFree([&] { std::invoke(handler, receiver); });
     });
 }
 

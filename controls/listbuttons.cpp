@@ -64,8 +64,9 @@ void connectListButtons(QWidget &form, ScreenContext &context, const Guard &guar
             continue;
         button->setEnabled(context.knows(jump.screen) && (!jump.another || context.openAnotherScreen));
         const QString field = button->property("listField").toString();
-        QObject::connect(button, &QAbstractButton::clicked, &form,
-                         [=, &context, &guard] { guard.run([&] { showListAt(context, jump, keyOf(field)); }); });
+        QObject::connect(button, &QAbstractButton::clicked, &form, [=, &context, &guard] {
+            guard.runWhenFree([&] { showListAt(context, jump, keyOf(field)); });
+        });
     }
 }
 

@@ -208,7 +208,7 @@ void ListScreen::showAvailable()
 void ListScreen::runCommand(const std::function<void()> &run)
 {
     if (run)
-        m_guard.run(run);
+        m_guard.runWhenFree(run);
     // A checkable entry has toggled itself; what counts is whether the filter is on.
     showFilterMark();
 }
@@ -390,7 +390,7 @@ void ListScreen::sizeForRows()
     const int width = std::max(m_grid->fullWidth(), m_topPanel->sizeHint().width());
     int height = menuBar()->sizeHint().height() + m_topPanel->sizeHint().height() + m_grid->heightForRows(firstRows)
         + statusBar()->sizeHint().height();
-    if (m_grid->fullWidth() > room.width())
+    if (m_grid->leastWidth() > room.width())
         height += m_grid->horizontalScrollBar()->sizeHint().height();
     m_firstSize = QSize(width, height).boundedTo(room);
     resize(m_firstSize);

@@ -46,7 +46,8 @@ LookupComboBox::LookupComboBox(QWidget *parent)
     setMinimumContentsLength(12);
     setMaxVisibleItems(visibleRows);
     setStyleSheet(u"QComboBox { combobox-popup: 0; }"_s); // a list that scrolls, in every style
-    connect(this, &QComboBox::activated, this, [this](int row) { m_guard->run([=, this] { choose(idAt(row)); }); });
+    connect(this, &QComboBox::activated, this,
+            [this](int row) { m_guard->runWhenFree([=, this] { choose(idAt(row)); }); });
 }
 
 void LookupComboBox::setList(Engine::DataSet &list, const QList<GridColumn> &columns, const Guard &guard)

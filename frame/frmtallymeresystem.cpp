@@ -1,10 +1,12 @@
 #include "frame/frmtallymeresystem.h"
 
 #include "base/ruleerror.h"
+#include "controls/dialogover.h"
 #include "controls/filechoice.h"
 #include "controls/menukeyboard.h"
 #include "controls/openobject.h"
 #include "controls/screenmetrics.h"
+#include "controls/windowrules.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
 #include "frame/aboutform.h"
@@ -74,6 +76,7 @@ TFormTallymereSystem::TFormTallymereSystem(const FrameServices &services, QWidge
     scaleSizes();
     move(0, 0);
     nameSampleCompany(QCoreApplication::applicationDirPath());
+    new WindowRules(*this);
     FormTallymereSystem = this;
 }
 
@@ -280,7 +283,10 @@ void TFormTallymereSystem::createActions()
         action->setObjectName(command.action);
         action->setStatusTip(command.hint);
         action->setEnabled(command.job || m_runner.canRun(command));
-        connect(action, &QAction::triggered, this, [this, &command] { m_guard.run([&] { runCommand(command); }); });
+        connect(action, &QAction::triggered, this, [this, &command] {
+            if (!isHeldByDialog(this))
+                m_guard.run([&] { runCommand(command); });
+        });
     }
 }
 

@@ -4,6 +4,7 @@
 #include "base/settingsstore.h"
 #include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
+#include "controls/windowrules.h"
 #include "frame/helpdesk.h"
 #include "frame/tracescope.h"
 #include "ui_mainoptionsinv.h"
@@ -55,6 +56,7 @@ TFormRegistryEditor::TFormRegistryEditor(SettingsStore &settings, Prompts &promp
     m_ui->buttonChooseFolder->setFixedWidth(scaled(this, 32));
     m_ui->ButtonDeleteSettings->hide();
     new HelpDesk(*this, settings, prompts);
+    new WindowRules(*this);
 }
 
 TFormRegistryEditor::~TFormRegistryEditor() = default;

@@ -4,6 +4,9 @@
 #include "host/company.h"
 #include "ui_hostwindow.h"
 
+#include <functional>
+#include <QApplication>
+#include <QCloseEvent>
 #include <QDialog>
 #include <QMenu>
 
@@ -21,17 +24,36 @@ HostWindow::HostWindow(SettingsStore &settings, QString user, QString moduleFile
     m_ui->setupUi(this);
     m_ui->labelUser->setText(m_user);
 
-    connect(m_ui->actionDataOptions, &QAction::triggered, this, &HostWindow::editDataOptions);
-    connect(m_ui->actionReloadModule, &QAction::triggered, this, &HostWindow::reload);
-    connect(m_ui->actionUnloadModule, &QAction::triggered, this, &HostWindow::unloadModule);
-    connect(m_ui->actionExit, &QAction::triggered, this, &QWidget::close);
-    connect(m_ui->actionAbout, &QAction::triggered, this, [this] { AboutBox(this).exec(); });
-    connect(m_ui->buttonUseSample, &QPushButton::clicked, this, &HostWindow::useSampleCompany);
+    const auto connectWhenFree = [this](auto *sender, auto signal, auto handler) {
+        connect(sender, signal, this, [this, handler] {
+            if (!isHeld())
+                std::invoke(handler, this);
+        });
+    };
+    connectWhenFree(m_ui->actionDataOptions, &QAction::triggered, &HostWindow::editDataOptions);
+    connectWhenFree(m_ui->actionReloadModule, &QAction::triggered, &HostWindow::reload);
+    connectWhenFree(m_ui->actionUnloadModule, &QAction::triggered, &HostWindow::unloadModule);
+    connectWhenFree(m_ui->actionExit, &QAction::triggered, &QWidget::close);
+    connectWhenFree(m_ui->actionAbout, &QAction::triggered, [](HostWindow *self) { AboutBox(self).exec(); });
+    connectWhenFree(m_ui->buttonUseSample, &QPushButton::clicked, &HostWindow::useSampleCompany);
 
     reload();
 }
 
 HostWindow::~HostWindow() { m_loader.unload(); }
+
+// Keys and mouse do not reach the window then, but assistive programs do. The module must not go under what it has open.
+bool HostWindow::isHeld() const
+{
+    QWidget *over = QApplication::activeModalWidget();
+    if (over) {
+        over->raise();
+        over->activateWindow();
+    }
+    return over;
+}
+
+void HostWindow::closeEvent(QCloseEvent *event) { event->setAccepted(!isHeld()); }
 
 void HostWindow::loadModule() { showModule(m_loader.load(m_moduleFile, this, m_ui->menuInventory)); }
 

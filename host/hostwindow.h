@@ -34,7 +34,11 @@ public:
     // The module's item in the menu; does nothing without a module.
     void openModule();
 
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
 private:
+    bool isHeld() const; // a modal window stands over this one; it comes to the front
     void reload();
     void showCompany();
     void showModule(const QString &problem);

@@ -23,7 +23,8 @@ void browse(const ScreenContext &context, const QString &page)
 
 void connectButton(QAbstractButton &button, const Guard &guard, const std::function<void()> &handler)
 {
-    QObject::connect(&button, &QAbstractButton::clicked, &button, [&guard, handler] { guard.run(handler); });
+    QObject::connect(&button, &QAbstractButton::clicked, &button,
+                     [&guard, handler] { guard.runWhenFree(handler); });
 }
 
 } // namespace

@@ -75,7 +75,7 @@ QAction *TfrmVendor::addToPopup(const QString &name, const QString &caption, con
 {
     auto *action = new QAction(caption, m_ui->DBGrid1);
     action->setObjectName(name);
-    connect(action, &QAction::triggered, this, [this, run] { guard().run(run); });
+    connect(action, &QAction::triggered, this, [this, run] { guard().runWhenFree(run); });
     m_ui->DBGrid1->addAction(action);
     return action;
 }

@@ -117,9 +117,9 @@ void TfrmPreview::connectControls()
     connectGuarded(m_ui->btnFindPrior, &QToolButton::clicked, this, [](TfrmPreview *self) { self->find(false); });
 
     m_making.setInterval(0);
-    connectGuarded(&m_making, &QTimer::timeout, this, &TfrmPreview::makePages);
+    connect(&m_making, &QTimer::timeout, this, [this] { m_guard.run([this] { makePages(); }); });
     m_searching.setInterval(0);
-    connectGuarded(&m_searching, &QTimer::timeout, this, &TfrmPreview::goOnSearching);
+    connect(&m_searching, &QTimer::timeout, this, [this] { m_guard.run([this] { goOnSearching(); }); });
 }
 
 // --- making pages -------------------------------------------------------------------------------------------------

@@ -1,5 +1,7 @@
 #include "base/rights.h"
 #include "controls/datedialog.h"
+#include "controls/mnemonics.h"
+#include "controls/windowrules.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/mainoptionsinv.h"
 #include "master/masterkinds.h"
@@ -8,6 +10,8 @@
 #include "tests/support/screendriver.h"
 
 #include <QDirIterator>
+#include <QMenu>
+#include <QMenuBar>
 #include <QRegularExpression>
 #include <QStackedWidget>
 #include <QXmlStreamReader>
@@ -82,9 +86,83 @@ void expectFits(const QWidget &widget)
         << qPrintable(widget.objectName());
 }
 
+// What is underlined in menus, or in a window.
+class Letters
+{
+public:
+    void add(const QString &caption, bool needed)
+    {
+        static const QRegularExpression hasLetter(u"[A-Za-z0-9]"_s);
+        const QChar letter = letterOf(caption);
+        EXPECT_TRUE(!needed || !letter.isNull() || !caption.contains(hasLetter)) << qPrintable(caption);
+        EXPECT_FALSE(!letter.isNull() && m_captions.contains(letter))
+            << qPrintable(caption) << " and " << qPrintable(m_captions.value(letter));
+        m_captions.insert(letter, caption);
+    }
+
+private:
+    QHash<QChar, QString> m_captions;
+};
+
+void expectLetters(QMenu &menu)
+{
+    SCOPED_TRACE(qPrintable(menu.title()));
+    menu.ensurePolished(); // as when it opens
+    Letters letters;
+    for (const QAction *entry : menu.actions()) {
+        if (!entry->isSeparator())
+            letters.add(entry->text(), true);
+        if (entry->menu())
+            expectLetters(*entry->menu());
+    }
+}
+
+void expectLettersOnPage(const QWidget &window)
+{
+    Letters letters;
+    if (const auto *bar = window.findChild<QMenuBar *>(QString(), Qt::FindDirectChildrenOnly)) {
+        for (const QAction *title : bar->actions()) {
+            letters.add(title->text(), true);
+            expectLetters(*title->menu());
+        }
+    }
+    for (QWidget *widget : window.findChildren<QWidget *>()) {
+        if (widget->window() != &window || !widget->isVisible())
+            continue;
+        if (const auto *button = qobject_cast<QAbstractButton *>(widget))
+            letters.add(button->text(), qobject_cast<const QPushButton *>(button));
+        if (const auto *label = qobject_cast<QLabel *>(widget); label && label->buddy())
+            letters.add(label->text(), false);
+        if (const auto *button = qobject_cast<QPushButton *>(widget); button && button->menu())
+            expectLetters(*button->menu());
+        if (qobject_cast<QAbstractItemView *>(widget))
+            EXPECT_NE(widget->accessibleName(), QString()) << qPrintable(widget->objectName());
+        if (widget->contextMenuPolicy() == Qt::ActionsContextMenu && !widget->actions().isEmpty()) {
+            QMenu popup(widget);
+            popup.addActions(widget->actions());
+            expectLetters(popup);
+        }
+    }
+}
+
+// Shows the window, and each of its pages.
+void onEachPage(QWidget &window, const std::function<void()> &step)
+{
+    window.show();
+    auto *book = window.findChild<QStackedWidget *>(); // which a tabbed one has inside
+    for (int page = 0; page < (book ? book->count() : 1); ++page) {
+        if (book)
+            book->setCurrentIndex(page);
+        QCoreApplication::processEvents();
+        step();
+    }
+}
+
 class FormsTest : public testing::Test
 {
 protected:
+    FormsTest() { new WindowRules(mainWindow); }
+
     void expectExists(const Described &widget, const Form &form)
     {
         const auto given = [&](const char *name) { return widget.properties.value(QString::fromLatin1(name)); };
@@ -110,18 +188,24 @@ protected:
     void expectFit(QWidget &window)
     {
         SCOPED_TRACE(qPrintable(window.objectName()));
-        window.show();
-        auto *book = window.findChild<QStackedWidget *>(); // which a tabbed one has inside
-        for (int page = 0; page < (book ? book->count() : 1); ++page) {
-            if (book)
-                book->setCurrentIndex(page);
-            QCoreApplication::processEvents();
+        onEachPage(window, [&window] {
             for (const QWidget *widget : window.findChildren<QWidget *>()) {
                 if (widget->isVisible() && !widget->objectName().isEmpty())
                     expectFits(*widget);
             }
-        }
+        });
         ++shown;
+    }
+
+    // All windows of the product.
+    void visitAll(const std::function<void(QWidget &window)> &visit)
+    {
+        forEachScreen(over.context, mainWindow, visit);
+        TFormRegistryEditor settings(over.company.settings, over.company.prompts);
+        TFormTallymereSystem system(FrameServices{over.company.settings, over.company.prompts, screens});
+        DateDialog date(over.context, QDate(2026, 3, 31), &mainWindow);
+        for (QWidget *window : QWidgetList{&settings, &system, &date})
+            visit(*window);
     }
 
     TestContext over;
@@ -160,11 +244,14 @@ TEST_F(FormsTest, WhatTheFormsNameExists)
 // A screen also refuses to open when a widget names a field that its table does not have.
 TEST_F(FormsTest, NothingIsClipped)
 {
-    forEachScreen(over.context, mainWindow, [this](QWidget &window) { expectFit(window); });
-    TFormRegistryEditor settings(over.company.settings, over.company.prompts);
-    TFormTallymereSystem system(FrameServices{over.company.settings, over.company.prompts, screens});
-    DateDialog date(over.context, QDate(2026, 3, 31), nullptr);
-    for (QWidget *window : QWidgetList{&settings, &system, &date})
-        expectFit(*window);
+    visitAll([this](QWidget &window) { expectFit(window); });
     EXPECT_GT(shown, 40) << "some dialogs did not come";
+}
+
+TEST_F(FormsTest, EveryCommandHasALetterOfItsOwnAndEveryListAName)
+{
+    visitAll([](QWidget &window) {
+        SCOPED_TRACE(qPrintable(window.objectName()));
+        onEachPage(window, [&window] { expectLettersOnPage(window); });
+    });
 }

@@ -120,3 +120,20 @@ TEST_F(ModuleTest, WhatCannotBeLoadedIsNamed)
         EXPECT_EQ(ClassRegistry::instance().classNames(), QStringList());
     }
 }
+
+// Assistive programs reach the menus of a window that a modal one stands over.
+TEST_F(ModuleTest, nothingIsTakenFromUnderTheOpenModule)
+{
+    HostWindow window(settings, u"maria"_s, moduleUnderTest);
+    window.show();
+    EXPECT_TRUE(
+        whileOpen<QWidget>([&] { window.openModule(); },
+                           [&](QWidget &modal) {
+                               for (const char *action : {"actionUnloadModule", "actionReloadModule", "actionExit"})
+                                   child<QAction>(window, action)->trigger();
+                               EXPECT_FALSE(window.close());
+                               EXPECT_EQ(mainForm(window), &modal);
+                               EXPECT_TRUE(modal.isVisible());
+                           }));
+    EXPECT_TRUE(window.close());
+}

@@ -1,5 +1,6 @@
 #include "tests/support/screentest.h"
 
+#include "controls/windowrules.h"
 #include "host/tables/hosttables.h"
 
 using namespace Qt::StringLiterals;
@@ -29,6 +30,7 @@ ScreenTest::ScreenTest(Store store)
     lookups = std::make_unique<TdmLookUpsInv>(data->databaseTallymere());
     context.reset(new ScreenContext{.data = *data, .lookups = *lookups, .prompts = prompts});
     mainWindow = std::make_unique<QWidget>();
+    new WindowRules(*mainWindow);
     data->sessionTallymere().lockAttempts = 1;
 }
 

@@ -201,6 +201,33 @@ TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
     EXPECT_EQ(prompts.said, QStringList());
 }
 
+// As an assistive program can ask for it, which reaches windows that keys and mouse do not.
+TEST_F(ReceiptScreenTest, nothingIsDoneInItWhileItsItemSearchStandsOverIt)
+{
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    open(7);
+    grid->setFocus();
+    type("6<Return>B");
+    EXPECT_TRUE(whileOpen<TfrmItemSearchInv>([] { press(Qt::Key_Return, Qt::ControlModifier); },
+                                             [&](TfrmItemSearchInv &search) {
+                                                 child<QAction>(*screen, "mnuDeleteLine")->trigger();
+                                                 for (const char *button : {"btnOK", "btnCancel"})
+                                                     click(*screen, button);
+                                                 EXPECT_FALSE(screen->close());
+                                                 settle();
+                                                 EXPECT_TRUE(search.isVisible());
+                                             }));
+    ASSERT_TRUE(screen);
+    EXPECT_TRUE(screen->isVisible());
+    EXPECT_EQ(child<QLineEdit>(*grid, "editCell")->text(), u"B"_s);
+    press(Qt::Key_Escape);
+    pressOK();
+    settle();
+    EXPECT_FALSE(screen);
+    EXPECT_EQ(kitchen.lines(7), QStringList(u"1|1|6|3"_s));
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
 TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});

@@ -63,10 +63,9 @@ void DocumentScreen::buildDocument(LineOptions options)
                                          const QString &typed) { return completeDescription(field, typed); }},
                      guard(), options);
     m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert)),
-            &QAction::triggered, m_grid, &LineGrid::appendLine);
-    connect(addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete)),
-            &QAction::triggered, m_grid, &LineGrid::removeLine);
+    addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert), &LineGrid::appendLine);
+    addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete),
+                    &LineGrid::removeLine);
     connect(&m_entry->header(), &Engine::DataSet::fieldChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::currentChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::stateChanged, this, &DocumentScreen::showHeader);
@@ -80,7 +79,8 @@ bool DocumentScreen::takesText(const QString &column) const
     return isStored || column == numberColumn || column == descriptionField;
 }
 
-QAction *DocumentScreen::addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut)
+void DocumentScreen::addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
+                                     void (LineGrid::*run)())
 {
     auto *action = new QAction(caption, m_grid);
     action->setObjectName(name);
@@ -88,7 +88,8 @@ QAction *DocumentScreen::addPopupCommand(const QString &name, const QString &cap
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_grid->addAction(action);
     m_popup.append(action);
-    return action;
+    connect(action, &QAction::triggered, this,
+            [this, run] { guard().runWhenFree([this, run] { (m_grid->*run)(); }); });
 }
 
 void DocumentScreen::newRecord()

@@ -51,7 +51,8 @@ protected:
     bool takeKey(QKeyEvent *event) override;
 
 private:
-    QAction *addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut);
+    void addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
+                         void (LineGrid::*run)());
     bool takesText(const QString &column) const;
     void beginLine();
     void enterCell(const QString &field, const QString &text);
