@@ -3,6 +3,7 @@
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
 #include "base/texts.h"
+#include "engine/linetext.h"
 
 #include <cmath>
 
@@ -28,7 +29,7 @@ long double nearestWhole(long double value)
 
 [[noreturn]] void refuseDate(const QString &text)
 {
-    throw RuleError(BaseTexts::tr("'%1' is not a valid date").arg(text));
+    throw RuleError(BaseTexts::tr("'%1' is not a valid date").arg(Engine::excerpt(text)));
 }
 
 QDate readDate(const QString &text, const RegionalSettings &settings)

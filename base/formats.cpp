@@ -5,6 +5,7 @@
 #include "base/textnumbers.h"
 #include "base/texts.h"
 #include "engine/amounttoolarge.h"
+#include "engine/linetext.h"
 
 #include <algorithm>
 
@@ -79,7 +80,7 @@ Value moneyFromText(const QString &text, const RegionalSettings &settings, const
     try {
         return Money::fromDouble(numberFromText(text, settings, column));
     } catch (const Engine::AmountTooLarge &) {
-        throw RuleError(BaseTexts::tr("'%1' is out of range").arg(text.trimmed()), column);
+        throw RuleError(BaseTexts::tr("'%1' is out of range").arg(Engine::excerpt(text)), column);
     }
 }
 
@@ -235,7 +236,8 @@ FieldFormat lettersFormat(const QString &label, const QString &column)
         const QString letters = text.trimmed();
         if (std::all_of(letters.begin(), letters.end(), [](QChar c) { return c.isLetter(); }))
             return Value(letters);
-        throw RuleError(BaseTexts::tr("%1 '%2' may hold letters only").arg(label, letters), column);
+        throw RuleError(BaseTexts::tr("%1 '%2' may hold letters only").arg(label, Engine::excerpt(letters)),
+                        column);
     });
     return format;
 }

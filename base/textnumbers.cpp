@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "base/texts.h"
+#include "engine/linetext.h"
 
 #include <QRegularExpression>
 
@@ -13,7 +14,7 @@ namespace {
 
 [[noreturn]] void refuse(const char *message, const QString &text, const QString &column)
 {
-    throw RuleError(BaseTexts::tr(message).arg(text), column);
+    throw RuleError(BaseTexts::tr(message).arg(Engine::excerpt(text)), column);
 }
 
 QRegularExpression numberPattern(const RegionalSettings &settings)
@@ -31,7 +32,7 @@ int integerFromText(const QString &text, const QString &column)
     bool ok = false;
     const int number = text.trimmed().toInt(&ok);
     if (!ok)
-        refuse(QT_TRANSLATE_NOOP("Base", "'%1' is not a whole number"), text.trimmed(), column);
+        refuse(QT_TRANSLATE_NOOP("Base", "'%1' is not a whole number"), text, column);
     return number;
 }
 
@@ -43,7 +44,7 @@ double numberFromText(const QString &text, const RegionalSettings &settings, con
     plain.replace(settings.decimalPoint, u'.');
     const double number = ok ? plain.toDouble(&ok) : 0;
     if (!ok)
-        refuse(QT_TRANSLATE_NOOP("Base", "'%1' is not a number"), text.trimmed(), column);
+        refuse(QT_TRANSLATE_NOOP("Base", "'%1' is not a number"), text, column);
     return number + 0.0; // no minus sign at zero
 }
 

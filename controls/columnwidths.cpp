@@ -16,10 +16,21 @@ QString columnWidths(const DataGrid &grid)
     for (int i = 0; i < columns.size(); ++i) {
         if (i == grid.surplusColumn())
             continue;
-        widths << columns[i].field + u'=' + QString::number(grid.columnWidth(i) / fontFactor(&grid), 'f', 2);
+        widths << columns[i].field + u'=' + QString::number(grid.wantedWidth(i) / fontFactor(&grid), 'f', 2);
     }
     return widths.join(u' ');
 }
+
+namespace {
+
+// All widths are kept once the user has changed one; the others are still those that the grid comes with.
+void setWidth(DataGrid &grid, int column, double pixels)
+{
+    if (qRound(pixels) != grid.columns()[column].width)
+        grid.setWantedWidth(column, qRound(pixels * fontFactor(&grid)));
+}
+
+} // namespace
 
 void setColumnWidths(DataGrid &grid, const QString &text)
 {
@@ -29,7 +40,7 @@ void setColumnWidths(DataGrid &grid, const QString &text)
         const int column = grid.columnOf(width.section(u'=', 0, 0));
         const double pixels = width.section(u'=', 1).toDouble();
         if (column >= 0 && column != grid.surplusColumn() && pixels >= 1 && pixels <= widest)
-            grid.setColumnWidth(column, qRound(pixels * fontFactor(&grid)));
+            setWidth(grid, column, pixels);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "controls/comboboxname.h"
 
 #include "controls/lookupcombobox.h"
+#include "controls/showntext.h"
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
@@ -10,45 +11,13 @@ namespace Tallymere {
 
 namespace {
 
-// What a closed box shows, for reading only.
-class ComboBoxText final : public QAccessibleTextInterface
-{
-public:
-    explicit ComboBoxText(const QComboBox &box)
-        : m_box(box)
-    {
-    }
-
-    void selection(int, int *start, int *end) const override { *start = *end = 0; }
-    int selectionCount() const override { return 0; }
-    void addSelection(int, int) override { }
-    void removeSelection(int) override { }
-    void setSelection(int, int, int) override { }
-    int cursorPosition() const override { return 0; }
-    void setCursorPosition(int) override { }
-    QString text(int start, int end) const override { return m_box.currentText().mid(start, end - start); }
-    int characterCount() const override { return static_cast<int>(m_box.currentText().size()); }
-    QRect characterRect(int) const override { return {}; }
-    int offsetAtPoint(const QPoint &) const override { return -1; }
-    void scrollToSubstring(int, int) override { }
-    QString attributes(int, int *start, int *end) const override
-    {
-        *start = 0;
-        *end = characterCount();
-        return {};
-    }
-
-private:
-    const QComboBox &m_box;
-};
-
 class NamedComboBox final : public QAccessibleWidget
 {
 public:
     explicit NamedComboBox(QComboBox *box)
         : QAccessibleWidget(box, QAccessible::ComboBox)
         , m_box(*box)
-        , m_text(*box)
+        , m_text([box] { return box->currentText(); })
     {
         QObject::connect(box, &QComboBox::currentTextChanged, box,
                          [box, last = box->currentText()](const QString &text) mutable {
@@ -87,7 +56,7 @@ public:
 
 private:
     QComboBox &m_box;
-    ComboBoxText m_text;
+    ShownText m_text; // of the closed box
 };
 
 QAccessibleInterface *makeNamed(const QString &, QObject *object)

@@ -3,10 +3,13 @@
 #include "controls/screenmetrics.h"
 
 #include <algorithm>
+#include <numeric>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStyleOption>
 #include <QTextDocument>
 #include <QToolTip>
@@ -19,6 +22,7 @@ namespace {
 constexpr int rowPadding = 7; // design pixels
 constexpr int hintMargin = 16;
 constexpr int titleMargin = 4;
+constexpr int leastLetters = 12;
 
 // Titles keep apart, also one at the right of its column from the next one at the left.
 class TitleStyle final : public QProxyStyle
@@ -62,6 +66,10 @@ DataGrid::DataGrid(QWidget *parent)
     auto *titles = new TitleStyle;
     titles->setParent(this);
     horizontalHeader()->setStyle(titles);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
+        if (!m_sharing && column < m_widths.size())
+            setWantedWidth(column, width);
+    });
 }
 
 int DataGrid::columnOf(const QString &field) const
@@ -79,18 +87,74 @@ void DataGrid::showModel(TableModel *model)
 
 void DataGrid::showModel(QAbstractItemModel *model, const QList<GridColumn> &columns)
 {
+    const QScopedValueRollback setting(m_sharing, true);
     m_columns = columns;
     setModel(model);
     m_surplusColumn = static_cast<int>(columns.size()) - 1;
+    m_widths.clear();
     for (int i = 0; i < columns.size(); ++i) {
-        setColumnWidth(i, scaled(this, columns[i].width));
+        m_widths.append({scaled(this, columns[i].width), leastWidthOf(i)});
+        setColumnWidth(i, m_widths[i].wanted);
         if (columns[i].takesSurplus)
             m_surplusColumn = i;
     }
-    const bool last = m_surplusColumn + 1 == columns.size();
-    horizontalHeader()->setStretchLastSection(last);
-    if (!last)
-        horizontalHeader()->setSectionResizeMode(m_surplusColumn, QHeaderView::Stretch);
+    // Its width is what the others leave.
+    if (m_surplusColumn >= 0)
+        horizontalHeader()->setSectionResizeMode(m_surplusColumn, QHeaderView::Fixed);
+}
+
+// --- widths -----------------------------------------------------------------------------------------------------
+
+// Texts keep twelve letters, figures and dates three quarters of their column; nothing less than its title.
+int DataGrid::leastWidthOf(int column) const
+{
+    const GridColumn &described = m_columns[column];
+    const int wanted = scaled(this, described.width);
+    const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 1;
+    const int letters = fontMetrics().horizontalAdvance(QString(leastLetters, u'n')) + margins;
+    const int title = horizontalHeader()->fontMetrics().horizontalAdvance(described.title)
+        + 2 * (scaled(this, titleMargin) + style()->pixelMetric(QStyle::PM_HeaderMargin));
+    const bool isText = described.alignment.testFlag(Qt::AlignLeft);
+    return std::min(wanted, std::max(title, isText ? letters : wanted * 3 / 4));
+}
+
+int DataGrid::sumOf(int Width::*part) const
+{
+    return std::accumulate(m_widths.begin(), m_widths.end(), 0,
+                           [part](int sum, const Width &width) { return sum + width.*part; });
+}
+
+int DataGrid::leastWidth() const
+{
+    return sumOf(&Width::least) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+}
+
+void DataGrid::setWantedWidth(int column, int width)
+{
+    m_widths[column] = {width, width};
+    shareWidth();
+}
+
+void DataGrid::shareWidth()
+{
+    const QScopedValueRollback sharing(m_sharing, true);
+    const int lack = sumOf(&Width::wanted) - viewport()->width();
+    int spare = sumOf(&Width::wanted) - sumOf(&Width::least); // that the columns so far have not been asked for
+    int missing = std::clamp(lack, 0, spare);
+    for (int i = 0; i < m_widths.size(); ++i) {
+        const int own = m_widths[i].wanted - m_widths[i].least;
+        const int given = spare > 0 ? qRound(static_cast<double>(missing) * own / spare) : 0;
+        spare -= own;
+        missing -= given;
+        const int surplus = i == m_surplusColumn ? std::max(0, -lack) : 0;
+        setColumnWidth(i, m_widths[i].wanted - given + surplus);
+    }
+}
+
+void DataGrid::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    shareWidth();
 }
 
 int DataGrid::widthForColumns(int count) const

@@ -7,6 +7,9 @@
 namespace Tallymere {
 
 // The look that lists and line grids share: rows of one fixed height, column widths scaled to the screen.
+//
+// Width that is left over goes to one column. Width that lacks is shared by all, down to what a column needs to be of use;
+// what is missing then is scrolled. A width that the user has chosen stands.
 class DataGrid : public QTableView
 {
     Q_OBJECT
@@ -20,6 +23,10 @@ public:
     // The width that shows so many columns, with frame and scroll bar.
     int widthForColumns(int count) const;
     int fullWidth() const { return widthForColumns(static_cast<int>(m_columns.size())); }
+    int leastWidth() const; // below which it scrolls sideways
+    // What a column is wide without lack or surplus.
+    int wantedWidth(int column) const { return m_widths.value(column).wanted; }
+    void setWantedWidth(int column, int width); // as by the user
     int surplusColumn() const { return m_surplusColumn; } // takes the width that the others leave over
     int heightForRows(int rows) const;
 
@@ -34,16 +41,28 @@ protected:
     const QString &hint() const { return m_hint; }
     void showModel(TableModel *model);
     void showModel(QAbstractItemModel *model, const QList<GridColumn> &columns); // with the columns' widths
+    void resizeEvent(QResizeEvent *event) override;
     bool viewportEvent(QEvent *event) override; // a text that is cut shows whole beside the mouse
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    struct Width
+    {
+        int wanted = 0;
+        int least = 0;
+    };
+
     bool isCut(const QModelIndex &cell) const;
     void paintHint(const QString &hint);
     void paintFocus();
+    int leastWidthOf(int column) const;
+    int sumOf(int Width::*part) const;
+    void shareWidth();
 
     TableModel *m_table = nullptr;
     QList<GridColumn> m_columns;
+    QList<Width> m_widths; // of the columns
+    bool m_sharing = false; // widths are set for what there is room for, not by the user
     int m_surplusColumn = -1;
     QString m_hint;
 };

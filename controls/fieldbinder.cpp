@@ -53,8 +53,9 @@ FieldBinder::~FieldBinder() = default;
 
 void FieldBinder::bind(Engine::Table &table, const QString &source)
 {
-    const FieldBinding::Reports reports{[this](FieldBinding &binding) { startEdit(binding); },
-                                        [this](FieldBinding &binding) { leave(binding); }};
+    const FieldBinding::Reports reports{
+        [this](FieldBinding &binding) { startEdit(binding); }, [this](FieldBinding &binding) { leave(binding); },
+        [this](const QString &text) { m_guard.run([&] { m_guard.prompts().warn(text); }); }};
     const QList<QWidget *> widgets = m_form->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
         const QString name = widget->property(fieldProperty).toString();

@@ -1,9 +1,11 @@
 #include "controls/fieldbinding.h"
 
 #include "controls/comboboxname.h"
+#include "controls/lineentry.h"
 #include "controls/lookupcombobox.h"
 #include "controls/maskedentry.h"
 
+#include <algorithm>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -95,8 +97,8 @@ public:
             m_mask = std::make_unique<MaskedEntry>(edit, mask);
         if (m_alwaysReadOnly)
             showReadOnly(*edit);
-        if (field().type == Engine::FieldType::Text && edit->maxLength() > field().size)
-            edit->setMaxLength(field().size);
+        if (!m_mask && !m_alwaysReadOnly)
+            takeOneLine(*edit, size(*edit), field().caption(), [this](const QString &text) { tell(text); });
         QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { entered(); });
     }
 
@@ -115,6 +117,12 @@ public:
     }
 
 private:
+    int size(const QLineEdit &edit) const
+    {
+        const bool limited = field().type == Engine::FieldType::Text && field().size > 0;
+        return limited ? std::min(edit.maxLength(), field().size) : edit.maxLength();
+    }
+
     void display() override
     {
         const QString text = m_active ? field().editText(value()) : field().displayText(value());

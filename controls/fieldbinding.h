@@ -13,11 +13,12 @@ namespace Tallymere {
 class FieldBinding
 {
 public:
-    // What a binding reports to the form: that the user has begun an entry, and that one is complete.
+    // What a binding reports to the form: that the user has begun an entry, that one is complete, and what to tell him.
     struct Reports
     {
         std::function<void(FieldBinding &)> begun;
         std::function<void(FieldBinding &)> complete;
+        std::function<void(const QString &)> tell;
     };
 
     // The binding for the widget's kind; null for a widget that cannot show a field.
@@ -50,6 +51,7 @@ protected:
     void entered(); // he has changed it
     void keep() { m_entered = true; } // what the widget shows, until it is handed over
     void completed() { m_reports.complete(*this); }
+    void tell(const QString &text) const { m_reports.tell(text); }
     void storeText(const QString &text); // through the entry rule, or the field's own parsing
 
 private:

@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "controls/leaving.h"
+#include "controls/lineentry.h"
 #include "controls/screenmetrics.h"
 #include "controls/stepbox.h"
 #include "controls/typing.h"
@@ -240,8 +241,9 @@ EntryGrid::Editor LineGrid::makeLineEdit(QWidget *parent, const QString &field)
 {
     const Editor made = lineEdit(parent);
     const Engine::Field &shown = std::as_const(*m_lines).field(field);
-    if (shown.type == Engine::FieldType::Text && shown.size > 0)
-        made.edit->setMaxLength(shown.size);
+    const bool limited = shown.type == Engine::FieldType::Text && shown.size > 0;
+    takeOneLine(*made.edit, limited ? shown.size : made.edit->maxLength(), shown.caption(),
+                [this](const QString &text) { guard().run([&] { guard().prompts().warn(text); }); });
     if (searches(field)) {
         const QToolButton *button = addSearchButton(made.edit, scaled(this, 22));
         connect(button, &QToolButton::clicked, this, &LineGrid::search, Qt::QueuedConnection);

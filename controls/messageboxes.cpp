@@ -2,9 +2,12 @@
 
 #include "controls/texts.h"
 
+#include <algorithm>
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -37,13 +40,67 @@ QWidget *windowInUse()
     return window ? window : QApplication::activeModalWidget();
 }
 
+// A word wider than that loses its middle.
+QString withWordsOf(int width, const QString &text, const QFontMetrics &metrics)
+{
+    QString fitting;
+    for (const QString &line : text.split(u'\n')) {
+        QStringList words = line.split(u' ');
+        for (QString &word : words)
+            word = metrics.elidedText(word, Qt::ElideMiddle, width);
+        fitting += words.join(u' ') + u'\n';
+    }
+    fitting.chop(1);
+    return fitting;
+}
+
+// What of the text a box has room for that stays within the screen. Boxes break their lines at that width at most.
+QString fittingText(const QString &text, const QFontMetrics &metrics, QSize screen)
+{
+    constexpr qsizetype most = 4000; // characters, which no screen shows
+    const int height = screen.height() / 2;
+    const int width = std::min(screen.width() / 2, 500);
+    const auto fits = [&](const QString &shown) {
+        const QRect room(0, 0, width, QWIDGETSIZE_MAX);
+        return metrics.boundingRect(room, Qt::TextWordWrap | Qt::TextExpandTabs, shown).height() <= height;
+    };
+    const QString whole = withWordsOf(screen.width() * 3 / 5, text.left(most), metrics);
+    if (text.size() <= most && fits(whole))
+        return whole;
+    const QString mark = u"..."_s;
+    qsizetype fitting = 0;
+    for (qsizetype tooLong = whole.size(); tooLong - fitting > 1;) {
+        const qsizetype tried = (fitting + tooLong) / 2;
+        (fits(whole.left(tried) + mark) ? fitting : tooLong) = tried;
+    }
+    return whole.left(fitting) + mark;
+}
+
+// With letters, which Qt's own texts leave out on some systems.
+void nameButtons(const QMessageBox &box)
+{
+    const std::pair<QMessageBox::StandardButton, QString> texts[] = {
+        {QMessageBox::Ok, ControlsTexts::tr("&OK")},       {QMessageBox::Cancel, ControlsTexts::tr("&Cancel")},
+        {QMessageBox::Yes, ControlsTexts::tr("&Yes")},     {QMessageBox::No, ControlsTexts::tr("&No")},
+        {QMessageBox::Retry, ControlsTexts::tr("&Retry")},
+    };
+    for (const auto &[which, text] : texts) {
+        if (QAbstractButton *button = box.button(which))
+            button->setText(text);
+    }
+}
+
 QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, const QString &text,
                                 QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset)
 {
-    QMessageBox box(icon, title, text, buttons, windowInUse());
+    QMessageBox box(icon, title, {}, buttons, windowInUse());
     box.setObjectName(u"messageBox"_s);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    box.setText(fittingText(text, box.fontMetrics(), box.screen()->availableSize()));
+    if (box.text() != text)
+        box.setDetailedText(text); // whole, behind a button
+    nameButtons(box);
     box.setDefaultButton(preset);
     // A box inside a long run must not show the hourglass.
     const bool busy = QApplication::overrideCursor() != nullptr;

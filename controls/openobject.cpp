@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "controls/texts.h"
+#include "engine/linetext.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -29,8 +30,8 @@ void openObject(const QString &object)
     const QUrl url = urlOf(object);
     const bool complete = url.isValid() && !url.scheme().isEmpty();
     if (!complete || !QDesktopServices::openUrl(url))
-        throw RuleError(
-            ControlsTexts::tr("'%1' cannot be opened: this computer has no program for it.").arg(object));
+        throw RuleError(ControlsTexts::tr("'%1' cannot be opened: this computer has no program for it.")
+                            .arg(Engine::excerpt(object)));
 }
 
 } // namespace Tallymere

@@ -1,9 +1,20 @@
 #include "engine/field.h"
 
 #include "engine/error.h"
+#include "engine/linetext.h"
 #include "engine/textsize.h"
 
 namespace Engine {
+
+namespace {
+
+Value asOneLine(const Value &value)
+{
+    const auto *text = std::get_if<QString>(&value.storage());
+    return text ? Value(oneLine(*text)) : value;
+}
+
+} // namespace
 
 QString Field::displayText(const Value &value) const
 {
@@ -25,7 +36,7 @@ Value Field::fit(const Value &value) const
 {
     Value fitted;
     try {
-        fitted = value.as(type);
+        fitted = (type == FieldType::Text ? asOneLine(value) : value).as(type);
     } catch (const EngineError &error) {
         raise(error.code(), Texts::tr("%1: %2").arg(caption(), error.text()));
     }
@@ -33,9 +44,9 @@ Value Field::fit(const Value &value) const
         return fitted;
     if (characterCount(fitted.toText()) <= size)
         return fitted;
-    raise(
-        ErrorCode::BadValue,
-        Texts::tr("%1: '%2' is longer than %3 characters").arg(caption(), fitted.toText(), QString::number(size)));
+    raise(ErrorCode::BadValue,
+          Texts::tr("%1: '%2' is longer than %3 characters")
+              .arg(caption(), excerpt(fitted.toText()), QString::number(size)));
 }
 
 } // namespace Engine

@@ -50,8 +50,8 @@ struct Field
     Value parse(const QString &text) const;
 
     QString caption() const; // the label, or the name without one
-    // The value as the field's type. What does not fit, a text longer than the size too, throws EngineError with
-    // code BadValue naming the field.
+    // The value as the field's type, of a text one line (linetext.h). What does not fit, a text longer than the size too,
+    // throws EngineError with code BadValue naming the field.
     Value fit(const Value &value) const;
 };
 

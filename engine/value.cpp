@@ -1,6 +1,7 @@
 #include "engine/value.h"
 
 #include "engine/error.h"
+#include "engine/linetext.h"
 
 #include <array>
 #include <charconv>
@@ -15,7 +16,7 @@ namespace {
 
 [[noreturn]] void refuse(const Value &value, const char *expected)
 {
-    raise(ErrorCode::BadValue, Texts::tr("'%1' is not %2").arg(value.toText(), Texts::tr(expected)));
+    raise(ErrorCode::BadValue, Texts::tr("'%1' is not %2").arg(excerpt(value.toText()), Texts::tr(expected)));
 }
 
 qint64 truncated(double number)
@@ -70,7 +71,7 @@ Value asWhole(const Value &value, qint64 least, qint64 greatest)
     if (whole < least || whole > greatest) {
         raise(ErrorCode::BadValue,
               Texts::tr("'%1' is not within %2 to %3")
-                  .arg(value.toText(), QString::number(least), QString::number(greatest)));
+                  .arg(excerpt(value.toText()), QString::number(least), QString::number(greatest)));
     }
     return whole;
 }
@@ -132,7 +133,7 @@ Value asText(const Value &value)
     if (text.contains(QChar(u'\0')) || !text.isValidUtf16()) {
         raise(ErrorCode::BadValue,
               Texts::tr("The text \"%1\" holds a character that cannot be stored.")
-                  .arg(QString::fromUtf8(text.toUtf8()).remove(QChar(u'\0'))));
+                  .arg(excerpt(QString::fromUtf8(text.toUtf8()))));
     }
     return text;
 }

@@ -3,6 +3,7 @@
 #include "base/csvreader.h"
 #include "base/plural.h"
 #include "base/ruleerror.h"
+#include "engine/linetext.h"
 #include "import/importvalue.h"
 #include "import/texts.h"
 
@@ -48,8 +49,9 @@ private:
         if (!column) {
             const bool refused = m_kind.refusedColumns.contains(name, Qt::CaseInsensitive);
             return fault(
-                refused ? ImportTexts::tr("The column '%1' is set by the system and cannot be imported.").arg(name)
-                        : ImportTexts::tr("There is no column '%1' in %2.").arg(shortened(name), m_kind.name));
+                refused
+                    ? ImportTexts::tr("The column '%1' is set by the system and cannot be imported.").arg(name)
+                    : ImportTexts::tr("There is no column '%1' in %2.").arg(Engine::excerpt(name), m_kind.name));
         }
         for (const ImportColumn *earlier : m_header) {
             if (earlier == column)

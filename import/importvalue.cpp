@@ -2,6 +2,8 @@
 
 #include "base/formats.h"
 #include "base/ruleerror.h"
+#include "engine/linetext.h"
+#include "engine/textsize.h"
 #include "import/texts.h"
 
 #include <cmath>
@@ -22,7 +24,7 @@ constexpr double largestMoney = 922'337'203'685'477.0;
 
 [[noreturn]] void refuse(const ImportColumn &column, const QString &text, const QString &why)
 {
-    throw RuleError(u"%1 '%2' %3"_s.arg(column.field, shortened(text), why), column.field);
+    throw RuleError(u"%1 '%2' %3"_s.arg(column.field, Engine::excerpt(text), why), column.field);
 }
 
 bool looksLikeNumber(const QString &text)
@@ -100,19 +102,15 @@ Value boolean(const ImportColumn &column, const QString &text)
 
 Value textValue(const ImportColumn &column, const QString &text)
 {
-    if (column.type == FieldType::Text && text.toUcs4().size() > column.size)
+    if (column.type != FieldType::Text)
+        return text;
+    const QString line = Engine::oneLine(text);
+    if (Engine::characterCount(line) > column.size)
         refuse(column, text, ImportTexts::tr("is longer than %1 characters").arg(column.size));
-    return text;
+    return line;
 }
 
 } // namespace
-
-QString shortened(const QString &text)
-{
-    constexpr qsizetype most = 60;
-    const QString mark = u"..."_s;
-    return text.size() > most ? text.left(most - mark.size()) + mark : text;
-}
 
 Value importValue(const ImportColumn &column, const QString &text)
 {

@@ -8,6 +8,4 @@ namespace Tallymere {
 // YYYY-MM-DD, Booleans true or false. Throws RuleError for what does not fit the column.
 Engine::Value importValue(const ImportColumn &column, const QString &text);
 
-QString shortened(const QString &text); // the beginning of a text that is too long for a message
-
 } // namespace Tallymere

@@ -1,6 +1,7 @@
 #include "import/keynames.h"
 
 #include "base/ruleerror.h"
+#include "engine/linetext.h"
 #include "engine/query.h"
 #include "import/texts.h"
 
@@ -23,10 +24,10 @@ Engine::Value KeyNames::read(const NameLookup &lookup, const QString &name) cons
     const QString rows = u" FROM %1 WHERE %2 = ?"_s.arg(lookup.table, lookup.nameField);
     const auto count = Engine::singleValue(m_database, "SELECT count(*)"_L1 + rows, {name});
     if (count.toInt64() == 0)
-        throw RuleError(lookup.notFound.arg(name), lookup.nameField);
+        throw RuleError(lookup.notFound.arg(Engine::excerpt(name)), lookup.nameField);
     if (count.toInt64() > 1) {
         throw RuleError(ImportTexts::tr("%1 '%2' is there more than once; give %3 instead")
-                            .arg(lookup.nameField, name, lookup.keyField),
+                            .arg(lookup.nameField, Engine::excerpt(name), lookup.keyField),
                         lookup.nameField);
     }
     return Engine::singleValue(m_database, "SELECT %1"_L1.arg(lookup.keyField) + rows, {name});

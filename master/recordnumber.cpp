@@ -1,6 +1,7 @@
 #include "master/recordnumber.h"
 
 #include "base/ruleerror.h"
+#include "engine/linetext.h"
 #include "engine/query.h"
 #include "engine/table.h"
 #include "master/texts.h"
@@ -26,14 +27,14 @@ int keyByNumber(Engine::Database &database, const MasterKind &kind, const QStrin
 {
     const std::optional<int> key = findByNumber(database, kind, number);
     if (!key)
-        throw RuleError(kind.record.notFound.arg(number), kind.numberField);
+        throw RuleError(kind.record.notFound.arg(Engine::excerpt(number)), kind.numberField);
     return *key;
 }
 
 void moveToRecord(Engine::DataSet &list, const MasterKind &kind, int key, const QString &text)
 {
     if (!list.locate(kind.keyField, {key}))
-        throw RuleError(MasterTexts::tr("'%1' not found").arg(text), kind.keyField);
+        throw RuleError(MasterTexts::tr("'%1' not found").arg(Engine::excerpt(text)), kind.keyField);
 }
 
 } // namespace Tallymere

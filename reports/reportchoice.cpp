@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
+#include "engine/linetext.h"
 #include "reports/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -39,7 +40,8 @@ int yearFromText(const QString &text)
         throw RuleError(ReportsTexts::tr("Enter the fiscal year of the period, in two or four digits."), column);
     if (const std::optional<int> year = yearFromNumber(integerFromText(text, column)))
         return *year;
-    throw RuleError(ReportsTexts::tr("'%1' is not a year of two or four digits").arg(text.trimmed()), column);
+    throw RuleError(ReportsTexts::tr("'%1' is not a year of two or four digits").arg(Engine::excerpt(text)),
+                    column);
 }
 
 } // namespace Tallymere

@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "engine/database.h"
+#include "engine/linetext.h"
 
 using namespace Qt::StringLiterals;
 using Engine::FieldType;
@@ -34,7 +35,7 @@ void DocumentList::find(const QString &number)
 {
     if (number.isEmpty() || table().locate(m_kind.numberField, {number}))
         return;
-    throw RuleError(m_kind.find.notFound.arg(number), m_kind.numberField);
+    throw RuleError(m_kind.find.notFound.arg(Engine::excerpt(number)), m_kind.numberField);
 }
 
 // --- deleting ---------------------------------------------------------------------------------------------------

@@ -4,6 +4,7 @@
 #include "engine/error.h"
 #include "engine/filter/filterlexer.h"
 #include "engine/filter/filternode.h"
+#include "engine/linetext.h"
 
 #include <cmath>
 
@@ -180,7 +181,7 @@ private:
             const bool dateOnly = beside.sort == Sort::Date;
             const QDateTime moment = Value(node.text).toDateTime();
             if (!moment.isValid())
-                refuse(node, Texts::tr("'%1' is not a date (YYYY-MM-DD).").arg(node.text));
+                refuse(node, Texts::tr("'%1' is not a date (YYYY-MM-DD).").arg(excerpt(node.text)));
             const Value value = dateOnly ? Value(moment.date()) : Value(moment);
             return {{u"?"_s, {value}}, beside.sort};
         }

@@ -1,6 +1,8 @@
 #include "reports/screens/pageview.h"
 
 #include "printing/pagepainter.h"
+#include "printing/pagetext.h"
+#include "reports/screens/pageaccess.h"
 
 #include <algorithm>
 #include <QKeyEvent>
@@ -19,6 +21,7 @@ PageView::PageView(QWidget *parent)
     : QAbstractScrollArea(parent)
     , m_near(pagesHeld)
 {
+    letPagesBeRead();
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Dark);
     viewport()->setAutoFillBackground(true);
@@ -65,6 +68,11 @@ int PageView::currentPage() const
 {
     const int place = verticalScrollBar()->value();
     return place == m_goneToAt ? m_goneTo : pageAt(place + viewport()->height() / 2) + 1;
+}
+
+QString PageView::currentText() const
+{
+    return pageCount() > 0 ? Printing::textOf(page(currentPage() - 1)) : QString();
 }
 
 void PageView::goToPage(int page)

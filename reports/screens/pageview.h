@@ -21,6 +21,7 @@ public:
     // From 1: the page that was gone to, and after scrolling the one in the middle of the view; 1 while there is none.
     int currentPage() const;
     void goToPage(int page);
+    QString currentText() const; // of that page, line by line
 
     // In percent of the real size. The place in sight stays.
     int zoom() const { return m_zoom; }

@@ -7,6 +7,7 @@
 #include "tests/support/spokenprompts.h"
 #include "tests/support/teststore.h"
 
+#include <QClipboard>
 #include <QDialog>
 #include <QVBoxLayout>
 
@@ -203,4 +204,30 @@ TEST_F(FieldBinderTest, leavingTowardsCancelHandsNothingOver)
     press(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(table->text(u"Name"), u"Stew"_s);
     EXPECT_EQ(focusName(), u"chkHot"_s);
+}
+
+TEST_F(FieldBinderTest, whatIsPastedIsOneLineAndWhatIsCutOffIsSaid)
+{
+    const auto paste = [](const QString &text) {
+        QApplication::clipboard()->setText(text);
+        press(Qt::Key_V, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+    };
+    const QString limit = u"warn: 'Name' takes no more than 8 characters.\n"_s;
+    paste(u"Pea\r\n\tSoup\nhot"_s);
+    EXPECT_EQ(shown("editName"), u"Pea Soup"_s);
+    EXPECT_EQ(prompts.take(), QStringList(limit + u"This has been cut off: \"hot\""_s));
+    type("s");
+    EXPECT_EQ(shown("editName"), u"Pea Soup"_s);
+    EXPECT_EQ(prompts.take(), QStringList()) << "a box would take the keys that come next";
+    press(Qt::Key_Home);
+    paste(u"Hot "_s);
+    EXPECT_EQ(shown("editName"), u"Pea Soup"_s) << "what stands there stays";
+    EXPECT_EQ(prompts.take(), QStringList(limit + u"This has been cut off: \"Hot\""_s));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(table->text(u"Name"), u"Pea Soup"_s);
+    paste(u"12.5\n"_s);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(table->number(u"Cost"), 12.5);
+    EXPECT_EQ(prompts.said, QStringList());
 }

@@ -1,11 +1,13 @@
 #include "base/ruleerror.h"
 #include "controls/guard.h"
 #include "controls/messageboxes.h"
+#include "controls/mnemonics.h"
 #include "engine/error.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
 
 #include <QMessageBox>
+#include <QScreen>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -71,5 +73,35 @@ TEST(Guard, showsWhatStopsAHandlerAndLetsNothingPast)
         if (guard.run(handler))
             prompts.said << u"done"_s;
         EXPECT_EQ(prompts.said, expected) << name;
+    }
+}
+
+TEST(MessageBoxes, stayWithinTheScreenAndHaveLettersOnTheirButtons)
+{
+    QString lines;
+    for (int i = 0; i < 3000; ++i)
+        lines += u"Line %1\n"_s.arg(i);
+    const QString texts[] = {u"Well?"_s, lines, QString(20'000, u'x'), u"Words of a text. "_s.repeated(2000)};
+    MessageBoxes boxes;
+    for (const QString &text : texts) {
+        QSize size;
+        QString letters;
+        EXPECT_TRUE(
+            whileOpen<QMessageBox>([&] { boxes.yesNoCancel(text, {}); },
+                                   [&](QMessageBox &box) {
+                                       for (QAbstractButton *button : box.buttons()) {
+                                           if (box.standardButton(button) != QMessageBox::NoButton)
+                                               letters += letterOf(button->text());
+                                           else
+                                               button->click(); // all of the text
+                                       }
+                                       QCoreApplication::processEvents();
+                                       size = box.frameGeometry().size();
+                                       EXPECT_TRUE(box.detailedText() == (box.text() == text ? QString() : text));
+                                   }));
+        const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+        EXPECT_EQ(size, size.boundedTo(screen)) << size.width() << "x" << size.height();
+        std::sort(letters.begin(), letters.end());
+        EXPECT_EQ(letters, u"CNY"_s);
     }
 }

@@ -1,8 +1,14 @@
+#include "controls/columnwidths.h"
 #include "controls/listgrid.h"
+#include "controls/screenmetrics.h"
 #include "engine/table.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
+
+#include <numeric>
+#include <QHeaderView>
+#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -214,4 +220,33 @@ TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
     table->setIndex(QString()); // by key, which is no text and not shown
     type("d");
     EXPECT_EQ(grid.search()->text(), QString());
+}
+
+// Name, twice and number want 80 design pixels each; the number takes what is left over.
+TEST_F(ListGridTest, lackOfWidthIsShared)
+{
+    grid.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    showAll();
+    const auto widths = [this](int room) {
+        grid.resize(room + 2 * grid.frameWidth(), 300);
+        QList<int> all;
+        for (int i = 0; i < 3; ++i)
+            all << grid.columnWidth(i);
+        return all;
+    };
+    const int wanted = scaled(&grid, 80);
+    EXPECT_EQ(widths(3 * wanted + 50), (QList<int>{wanted, wanted, wanted + 50}));
+    const int least = widths(1)[0];
+    EXPECT_LT(least, wanted);
+    EXPECT_GE(least, grid.fontMetrics().horizontalAdvance(u"Description"_s.left(12)));
+    EXPECT_GT(grid.horizontalScrollBar()->maximum(), 0) << "the rest is scrolled";
+    const QList<int> narrow = widths(3 * wanted - 6);
+    EXPECT_EQ(std::accumulate(narrow.begin(), narrow.end(), 0), 3 * wanted - 6);
+    EXPECT_LT(narrow[0], wanted);
+    EXPECT_LT(narrow[2], wanted);
+    grid.horizontalHeader()->resizeSection(1, 150); // by the user
+    EXPECT_EQ(widths(1), (QList<int>{least, 150, least}));
+    EXPECT_EQ(columnWidths(grid),
+              u"Name=%1 Twice=%2"_s.arg(80.0, 0, 'f', 2).arg(150 / fontFactor(&grid), 0, 'f', 2));
+    EXPECT_EQ(widths(5 * wanted)[1], 150);
 }

@@ -4,9 +4,11 @@
 #include "engine/driver.h"
 #include "reports/makereport.h"
 #include "reports/screens/invreports.h"
+#include "reports/screens/pageview.h"
 #include "reports/screens/preview.h"
 #include "tests/support/screentest.h"
 
+#include <QAccessible>
 #include <QFile>
 #include <QListWidget>
 #include <QSpinBox>
@@ -244,6 +246,10 @@ TEST_F(InvReportsTest, PagesAreTurnedOneByOneWhereSeveralAreInSight)
     const auto *label = child<QLabel>(*preview, "panelPageNumber");
     ASSERT_TRUE(comesTrue([&] { return child<QPushButton>(*preview, "btnPrint")->isEnabled(); }));
     const QString last = label->text().section(u' ', -1);
+    QAccessibleInterface *page = QAccessible::queryAccessibleInterface(child<PageView>(*preview, "QRPreview1"));
+    const auto read = [page] { return page->textInterface()->text(0, page->textInterface()->characterCount()); };
+    EXPECT_TRUE(read().startsWith("Test Kitchen\nInventory Receipts"_L1)) << qPrintable(read().left(300));
+    EXPECT_TRUE(read().contains(u"\n1\t"_s)) << qPrintable(read().left(300));
     child<QSpinBox>(*preview, "SpinEdit1")->setValue(20);
     QStringList pages{label->text().section(u' ', 1, 1)};
     for (const auto turn : {&TfrmPreview::btnNextClick, &TfrmPreview::btnNextClick, &TfrmPreview::btnPrevClick,

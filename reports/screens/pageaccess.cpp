@@ -1,0 +1,54 @@
+#include "reports/screens/pageaccess.h"
+
+#include "controls/showntext.h"
+#include "reports/screens/pageview.h"
+
+#include <QAccessibleWidget>
+
+namespace Tallymere {
+
+namespace {
+
+class ReadablePages final : public QAccessibleWidget
+{
+public:
+    explicit ReadablePages(PageView *view)
+        : QAccessibleWidget(view, QAccessible::Document)
+        , m_text([view] { return view->currentText(); })
+    {
+        QObject::connect(view, &PageView::pageShown, view, [view, last = 0](int page) mutable {
+            if (std::exchange(last, page) == page)
+                return; // scrolled
+            QAccessibleTextInsertEvent come(view, 0, view->currentText());
+            QAccessible::updateAccessibility(&come);
+        });
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface *>(&m_text)
+                                                  : QAccessibleWidget::interface_cast(type);
+    }
+
+private:
+    ShownText m_text;
+};
+
+QAccessibleInterface *makeReadable(const QString &, QObject *object)
+{
+    auto *view = qobject_cast<PageView *>(object);
+    return view ? new ReadablePages(view) : nullptr;
+}
+
+} // namespace
+
+void letPagesBeRead()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(makeReadable);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+} // namespace Tallymere
