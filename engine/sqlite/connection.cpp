@@ -23,6 +23,7 @@ namespace Engine {
 namespace {
 
 constexpr int busyMilliseconds = 5000;
+constexpr int longReadMilliseconds = 60'000;
 
 QString lockFilePath(const QString &databasePath)
 {
@@ -125,9 +126,11 @@ void SqliteConnection::chooseJournal(const QString &journal)
 }
 
 // Indexes are written all over, and each group of a run writes many of the same pages again: what does not fit the
-// cache, or is copied back after every group, costs as much as the writes themselves.
+// cache, or is copied back after every group, costs as much as the writes themselves. And a run that somebody's reading
+// keeps from writing had rather wait for a long report than fail.
 void SqliteConnection::setBulk(bool bulk)
 {
+    sqlite3_busy_timeout(m_db, bulk && isWritingKeptOutByReading() ? longReadMilliseconds : busyMilliseconds);
     execute(bulk ? u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s
                  : u"PRAGMA cache_size = -65536; PRAGMA wal_autocheckpoint = 4000"_s);
 }

@@ -33,7 +33,7 @@ const Mapping mappings[] = {
     {SQLITE_MISMATCH, ErrorCode::BadValue, QT_TRANSLATE_NOOP("Engine", "A value does not fit its field (%2).")},
     {SQLITE_TOOBIG, ErrorCode::BadValue, QT_TRANSLATE_NOOP("Engine", "A value is too long (%2).")},
     {SQLITE_BUSY, ErrorCode::Busy,
-     QT_TRANSLATE_NOOP("Engine", "%1 is being written by another user. Try again in a moment.")},
+     QT_TRANSLATE_NOOP("Engine", "%1 is being read or written by another user. Try again in a moment.")},
     {SQLITE_LOCKED, ErrorCode::Busy,
      QT_TRANSLATE_NOOP("Engine", "%1 is in use by this program at the moment. Try again. (%2)")},
     {SQLITE_FULL, ErrorCode::DiskFull, fullText},
