@@ -1,9 +1,12 @@
 #include "data/numbercounter.h"
 
+#include "data/texts.h"
 #include "engine/attempts.h"
 #include "engine/error.h"
 #include "engine/query.h"
 #include "engine/session.h"
+
+#include <limits>
 
 using namespace Qt::StringLiterals;
 using Engine::EngineError;
@@ -61,7 +64,34 @@ qint64 firstFree(Engine::Database &database, qint64 key, const QString &keyField
     return key;
 }
 
+// What a counter counts, as users know it.
+QString countedBy(QStringView field)
+{
+    static const QHash<QString, QString> names{
+        {u"NextItemNo"_s, DataTexts::tr("item numbers")},
+        {u"NextItemID"_s, DataTexts::tr("keys of items")},
+        {u"NextInvAdjustmentID"_s, DataTexts::tr("keys of adjustments")},
+        {u"NextInvReceiptID"_s, DataTexts::tr("keys of receipts")},
+        {u"NextInvReceiptNo"_s, DataTexts::tr("receipt numbers")},
+        {u"NextVendorNo"_s, DataTexts::tr("vendor numbers")},
+        {u"NextVendorID"_s, DataTexts::tr("keys of vendors")},
+        {u"NextInvoiceID"_s, DataTexts::tr("keys of usages")},
+        {u"NextInvoiceNo"_s, DataTexts::tr("usage numbers")},
+    };
+    return names.value(field.toString(), field.toString());
+}
+
 } // namespace
+
+void CounterRow::set(QStringView field, qint64 value)
+{
+    constexpr qint64 largest = std::numeric_limits<qint32>::max();
+    if (value > largest)
+        Engine::raise(ErrorCode::BadValue,
+                      DataTexts::tr("The %1 have come to their end: none can be given from %2 on.")
+                          .arg(countedBy(field), QString::number(largest)));
+    m_table.set(field, value);
+}
 
 qint64 CounterRow::take(QStringView field)
 {

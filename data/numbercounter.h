@@ -29,7 +29,7 @@ public:
     }
 
     qint64 value(QStringView field) const { return m_table.value(field).toInt64(); }
-    void set(QStringView field, qint64 value) { m_table.set(field, value); }
+    void set(QStringView field, qint64 value); // throws BadValue, naming what is counted, at the end of its numbers
 
     // Hands out the field's number and moves the field on by one.
     qint64 take(QStringView field);

@@ -33,7 +33,10 @@ TEST_P(NumberCounter, NumbersTakenBeforeAFailureAreUsedUp)
         row.take(u"NextInvReceiptID");
         row.set(u"NextInvReceiptNo", 3'000'000'000);
     };
-    EXPECT_THROW(takeNumbers(store.database(), u"ItemCtl"_s, rule), Engine::EngineError);
+    QString text;
+    EXPECT_EQ(errorOf([&] { takeNumbers(store.database(), u"ItemCtl"_s, rule); }, &text),
+              Engine::ErrorCode::BadValue);
+    EXPECT_EQ(text, u"The receipt numbers have come to their end: none can be given from 2147483647 on."_s);
     EXPECT_EQ(stored(u"NextInvReceiptID"_s), 1);
     EXPECT_EQ(stored(u"NextInvReceiptNo"_s), 0);
 
