@@ -62,7 +62,8 @@ private:
 QAccessibleInterface *makeNamed(const QString &, QObject *object)
 {
     auto *box = qobject_cast<QComboBox *>(object);
-    const bool ours = qobject_cast<LookupComboBox *>(box) || (box && box->property("dataField").isValid());
+    const bool ours = qobject_cast<LookupComboBox *>(box)
+        || (box && (box->property("dataField").isValid() || box->property("keepsName").isValid()));
     return ours ? new NamedComboBox(box) : nullptr;
 }
 

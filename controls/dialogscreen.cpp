@@ -1,5 +1,6 @@
 #include "controls/dialogscreen.h"
 
+#include "controls/comboboxname.h"
 #include "controls/dialogover.h"
 #include "controls/lineentry.h"
 #include "controls/radiochoice.h"
@@ -17,6 +18,7 @@ DialogScreen::DialogScreen(ScreenContext &context, QWidget *parent)
           context.prompts, [this](const QString &column) { focusColumn(column); }, this)
 {
     setModal(true);
+    keepComboBoxNames();
 }
 
 QWidget *DialogScreen::widgetOfColumn(const QString &) const { return nullptr; }

@@ -1,5 +1,6 @@
 #include "controls/entryscreen.h"
 
+#include "controls/comboboxname.h"
 #include "controls/listbuttons.h"
 #include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
@@ -64,6 +65,7 @@ void EntryScreen::buildScreen()
     connectListButtons(*this, m_context, m_guard, [this](const QString &field) { return m_binder.keyIn(field); });
     connectWordWrapMenus(*this);
     leadTabToChosen(*this);
+    keepComboBoxNames();
     if (auto *panel = findChild<QWidget *>(bottomPanel))
         panel->installEventFilter(this);
     showCaption();

@@ -2,6 +2,7 @@
 
 #include "base/connectiondecision.h"
 #include "base/settingsstore.h"
+#include "controls/comboboxname.h"
 #include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
 #include "controls/windowrules.h"
@@ -45,6 +46,7 @@ TFormRegistryEditor::TFormRegistryEditor(SettingsStore &settings, Prompts &promp
     m_ui->setupUi(this);
     resize(scaled(this, width()), scaled(this, height()));
     leadTabToChosen(*this);
+    keepComboBoxNames();
     // Four groups of one to three digits.
     static const QRegularExpression address(uR"(\d{1,3}\.\d{1,3}\.\d{1,3}\.\d{1,3})"_s);
     m_ui->wwDBEditIPAddress->setValidator(new QRegularExpressionValidator(address, this));
