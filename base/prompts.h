@@ -25,6 +25,13 @@ public:
     virtual bool confirm(Question question, const QString &text) = 0;
     // Without a title the box has the application's name.
     virtual Answer yesNoCancel(const QString &text, const QString &title = {}) = 0;
+    // A warning after which there are two ways to go on, each named as on its button: Yes for the first, which is the
+    // default, No for the second; an empty one is not offered. Where they cannot be shown the user goes neither.
+    virtual Answer choose(const QString &text, const QString &, const QString &)
+    {
+        warn(text);
+        return Answer::Cancel;
+    }
     // An error with Retry and Cancel; true for Retry.
     virtual bool retry(const QString &text) = 0;
 };

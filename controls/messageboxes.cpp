@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <QAbstractButton>
 #include <QApplication>
+#include <QHash>
 #include <QMessageBox>
 #include <QPointer>
 #include <QScreen>
@@ -27,6 +28,8 @@ QWidget *shownFrom(QWidget *window)
         window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
     return window;
 }
+
+using ButtonNames = QHash<QMessageBox::StandardButton, QString>; // of those that are not named as usual
 
 // The window for a box.
 QWidget *windowInUse()
@@ -91,7 +94,8 @@ void nameButtons(const QMessageBox &box)
 }
 
 QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, const QString &text,
-                                QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset)
+                                QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset,
+                                const ButtonNames &names = {})
 {
     QMessageBox box(icon, title, {}, buttons, windowInUse());
     box.setObjectName(u"messageBox"_s);
@@ -102,6 +106,8 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, co
         box.setDetailedText(text); // whole, behind a button
     nameButtons(box);
     box.setDefaultButton(preset);
+    for (auto name = names.cbegin(); name != names.cend(); ++name)
+        box.button(name.key())->setText(*name);
     // A box inside a long run must not show the hourglass.
     const bool busy = QApplication::overrideCursor() != nullptr;
     if (busy)
@@ -110,6 +116,18 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, co
     if (busy)
         QApplication::restoreOverrideCursor();
     return static_cast<QMessageBox::StandardButton>(answer);
+}
+
+Answer answerOf(QMessageBox::StandardButton button)
+{
+    switch (button) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Cancel;
+    }
 }
 
 QString boxTitle(const char *text) { return ControlsTexts::tr(text); }
@@ -157,15 +175,19 @@ bool MessageBoxes::confirm(Question question, const QString &text)
 
 Answer MessageBoxes::yesNoCancel(const QString &text, const QString &title)
 {
-    switch (ask(QMessageBox::Question, title.isEmpty() ? QGuiApplication::applicationDisplayName() : title, text,
-                QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes)) {
-    case QMessageBox::Yes:
-        return Answer::Yes;
-    case QMessageBox::No:
-        return Answer::No;
-    default:
-        return Answer::Cancel;
+    return answerOf(ask(QMessageBox::Question, title.isEmpty() ? QGuiApplication::applicationDisplayName() : title,
+                        text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes));
+}
+
+Answer MessageBoxes::choose(const QString &text, const QString &first, const QString &second)
+{
+    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::Cancel;
+    ButtonNames names{{QMessageBox::Yes, first}};
+    if (!second.isEmpty()) {
+        buttons |= QMessageBox::No;
+        names.insert(QMessageBox::No, second);
     }
+    return answerOf(ask(QMessageBox::Warning, caption(Question::Warning), text, buttons, QMessageBox::Yes, names));
 }
 
 bool MessageBoxes::retry(const QString &text)

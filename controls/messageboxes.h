@@ -31,6 +31,7 @@ public:
     void error(const QString &text) override;
     bool confirm(Question question, const QString &text) override;
     Answer yesNoCancel(const QString &text, const QString &title) override;
+    Answer choose(const QString &text, const QString &first, const QString &second) override;
     bool retry(const QString &text) override;
 };
 

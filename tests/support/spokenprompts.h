@@ -12,8 +12,9 @@ class SpokenPrompts final : public Tallymere::Prompts
 public:
     QStringList said;
     bool ok = true; // to confirm()
-    Tallymere::Answer answer = Tallymere::Answer::Cancel; // to yesNoCancel()
+    Tallymere::Answer answer = Tallymere::Answer::Cancel; // to yesNoCancel() and choose()
     int retries = 0; // how often retry() is answered with Retry
+    std::function<void()> onChoose;
     std::function<void()> onRetry;
     std::function<void()> onInform;
     std::function<void()> onWarn;
@@ -45,6 +46,13 @@ public:
     Tallymere::Answer yesNoCancel(const QString &text, const QString &title) override
     {
         said << (title.isEmpty() ? text : title + QStringLiteral(": ") + text);
+        return answer;
+    }
+    Tallymere::Answer choose(const QString &text, const QString &first, const QString &second) override
+    {
+        said << text + QStringLiteral(" [%1|%2]").arg(first, second);
+        if (onChoose)
+            onChoose();
         return answer;
     }
     bool retry(const QString &text) override
