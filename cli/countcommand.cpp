@@ -82,7 +82,7 @@ std::optional<CalculatedUsage> calculate(CommandContext &context, TDataModuleTal
         complainOfRows(context.console, order.fileName, errors);
         throw RuleError(Texts::tr("Nothing was counted."));
     }
-    return count.calculate();
+    return count.calculate().usage;
 }
 
 void runCount(CommandContext &context)

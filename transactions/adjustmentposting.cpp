@@ -34,9 +34,7 @@ PostingKind adjustmentPosting()
                 {u"IAdjust"_s,
                  TransactionsTexts::tr(
                      "Unable to lock Adjustments table... this table is being updated by another job.")},
-                {u"IBalance"_s,
-                 TransactionsTexts::tr(
-                     "Unable to lock Item Balance table... this table is being updated by another job.")},
+                balanceLock(),
             },
         .entryOpen =
             TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Inventory Adjustment' form"),

@@ -1,6 +1,8 @@
 #include "transactions/countdraft.h"
 
+#include "base/ruleerror.h"
 #include "base/savedfile.h"
+#include "engine/database.h"
 #include "transactions/texts.h"
 
 #include <cmath>
@@ -31,13 +33,15 @@ QJsonDocument written(const CountDraft &draft)
 {
     QJsonArray counts;
     for (auto count = draft.counts.cbegin(); count != draft.counts.cend(); ++count)
-        counts.append(QJsonArray{count.key(), *count, draft.recorded.value(count.key())});
+        counts.append(
+            QJsonArray{count.key(), *count, draft.recorded.value(count.key()), draft.itemNos.value(count.key())});
     QJsonArray costs;
     for (auto cost = draft.costs.cbegin(); cost != draft.costs.cend(); ++cost)
-        costs.append(QJsonArray{cost.key(), cost->toDouble()});
+        costs.append(QJsonArray{cost.key(), cost->toDouble(), draft.itemNos.value(cost.key())});
     return QJsonDocument(QJsonObject{{u"saved"_s, draft.saved.toString(Qt::ISODate)},
                                      {u"date"_s, draft.date.toString(Qt::ISODate)},
                                      {u"zeroCounts"_s, draft.zeroCounts == ZeroCounts::Included},
+                                     {u"order"_s, static_cast<int>(draft.order)},
                                      {u"counts"_s, counts},
                                      {u"costs"_s, costs}});
 }
@@ -48,25 +52,36 @@ CountDraft read(const QJsonObject &object)
     draft.saved = QDateTime::fromString(object[u"saved"_s].toString(), Qt::ISODate);
     draft.date = QDate::fromString(object[u"date"_s].toString(), Qt::ISODate);
     draft.zeroCounts = object[u"zeroCounts"_s].toBool() ? ZeroCounts::Included : ZeroCounts::Excluded;
+    const int order = object[u"order"_s].toInt();
+    if (order >= 0 && order <= static_cast<int>(CountList::Order::Cost))
+        draft.order = static_cast<CountList::Order>(order);
     const QJsonArray counts = object[u"counts"_s].toArray();
     for (const auto &count : counts) {
         const double quantity = count[1].toDouble(-1);
         if (!std::isfinite(quantity) || quantity < 0)
             continue;
-        draft.counts.insert(count[0].toInteger(), quantity);
-        if (count[2].isDouble()) // of earlier drafts it is not known
-            draft.recorded.insert(count[0].toInteger(), count[2].toDouble());
+        const qint64 item = count[0].toInteger();
+        draft.counts.insert(item, quantity);
+        draft.recorded.insert(item, count[2].toDouble());
+        draft.itemNos.insert(item, count[3].toString());
     }
     const QJsonArray costs = object[u"costs"_s].toArray();
     for (const auto &cost : costs) {
         const double amount = cost[1].toDouble(qInf());
-        if (std::abs(amount) <= Engine::Money::largestAmount)
-            draft.costs.insert(cost[0].toInteger(), Engine::Money::fromDouble(amount));
+        if (!(std::abs(amount) <= Engine::Money::largestAmount))
+            continue;
+        draft.costs.insert(cost[0].toInteger(), Engine::Money::fromDouble(amount));
+        draft.itemNos.insert(cost[0].toInteger(), cost[2].toString());
     }
     return draft;
 }
 
 } // namespace
+
+QString CountDrafts::nameOf(Engine::Database &database)
+{
+    return database.connection().location() + u'\n' + database.identity();
+}
 
 CountDrafts::CountDrafts(const QString &database, const QString &user, const QString &folder)
     : m_folder(folder + u'/' + folderName(database, user))

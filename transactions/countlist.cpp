@@ -186,17 +186,12 @@ ItemQuantities CountList::counts() const
     return counts;
 }
 
-int CountList::takeCounts(const ItemQuantities &counts)
+void CountList::takeCounts(const ItemQuantities &counts)
 {
-    int taken = 0;
     for (Placed &placed : m_rows) {
-        const auto found = counts.constFind(placed.row.itemId);
-        if (found == counts.constEnd())
-            continue;
-        placed.row.typed = *found;
-        ++taken;
+        if (const auto found = counts.constFind(placed.row.itemId); found != counts.constEnd())
+            placed.row.typed = *found;
     }
-    return taken;
 }
 
 ItemCosts CountList::costs() const
@@ -216,6 +211,24 @@ void CountList::takeCosts(const ItemCosts &costs)
             setStandardCost(row, *cost);
     }
 }
+
+ItemNumbers CountList::itemNos() const
+{
+    ItemNumbers numbers;
+    numbers.reserve(size());
+    for (const Placed &placed : m_rows)
+        numbers.insert(placed.row.itemId, placed.row.itemNo);
+    return numbers;
+}
+
+int CountList::behindLastCounted() const
+{
+    const auto last =
+        std::find_if(m_rows.rbegin(), m_rows.rend(), [](const Placed &one) { return one.row.typed.has_value(); });
+    return last == m_rows.rend() ? -1 : std::min(static_cast<int>(m_rows.rend() - last), size() - 1);
+}
+
+int CountList::notCounted() const { return size() - totals().counted; }
 
 CountList::Totals CountList::totals() const
 {

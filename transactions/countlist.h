@@ -31,6 +31,7 @@ struct CountRow
 // Counted quantities by item.
 using ItemQuantities = QHash<qint64, double>;
 using ItemCosts = QHash<qint64, Engine::Money>;
+using ItemNumbers = QHash<qint64, QString>;
 
 // The items to be counted at one location, with what has been counted so far. Counts stay with their items in every
 // order.
@@ -70,9 +71,12 @@ public:
     bool hasUsage() const; // some row holds less than recorded
     int countedAbove() const; // rows that hold more
     ItemQuantities counts() const; // of the items that have been counted
-    int takeCounts(const ItemQuantities &counts); // of items that are in the list; how many those are
+    void takeCounts(const ItemQuantities &counts);
     ItemCosts costs() const; // standard costs that have been typed
     void takeCosts(const ItemCosts &costs);
+    ItemNumbers itemNos() const; // of all items
+    int behindLastCounted() const; // the row to go on with, the last one at most; -1 when nothing has been counted
+    int notCounted() const; // rows
 
     struct Totals
     {

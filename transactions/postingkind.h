@@ -24,6 +24,8 @@ struct PostingLock
     QString refusal;
 };
 
+PostingLock balanceLock(); // of the balances: whatever counts on what they hold takes it
+
 // One line, with what posting needs of it.
 struct PostingLine
 {

@@ -57,9 +57,7 @@ PostingKind receiptPosting()
                 {u"IReceipt"_s,
                  TransactionsTexts::tr(
                      "Unable to lock Receipts table... this table is being updated by another job.")},
-                {u"IBalance"_s,
-                 TransactionsTexts::tr(
-                     "Unable to lock Item Balance table... this table is being updated by another job.")},
+                balanceLock(),
                 {u"Item"_s,
                  TransactionsTexts::tr("Unable to lock Item table... this table is being updated by another job.")},
             },

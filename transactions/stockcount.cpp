@@ -5,6 +5,8 @@
 #include "engine/database.h"
 #include "engine/error.h"
 #include "engine/session.h"
+#include "engine/tablelocks.h"
+#include "transactions/postingkind.h"
 #include "transactions/quantitycheck.h"
 #include "transactions/texts.h"
 
@@ -26,6 +28,13 @@ QString postedText(int items)
                   TransactionsTexts::tr("Transactions have been posted since this list was read: %n items of this "
                                         "location have another quantity in the books now."));
 }
+
+QString neverthelessText()
+{
+    return TransactionsTexts::tr("The usage is what the list shows as used, whatever has come or gone meanwhile.");
+}
+
+QString readAgainText() { return TransactionsTexts::tr("&Read again, keep my count"); }
 } // namespace
 
 StockCount::StockCount(Engine::Database &database, Prompts &prompts, std::optional<CountDrafts> drafts)
@@ -54,11 +63,11 @@ std::vector<CountLocation> StockCount::locationsWithDraft() const
 bool StockCount::open(int location, ZeroCounts zeroCounts)
 {
     close();
+    m_location = location;
     if (m_source.hasUnposted(location)) {
         warnOfUnposted();
         return false;
     }
-    m_location = location;
     read(zeroCounts);
     return true;
 }
@@ -96,9 +105,11 @@ void StockCount::tellNotDeducted() const
 
 void StockCount::warnOfUnposted() const
 {
+    const QString waiting = listOf(waitingDocuments(m_database, m_location));
     m_prompts.warn(TransactionsTexts::tr(
-        "There are unposted transactions for this location.\r\nYou cannot enter the inventory for "
-        "this location until all\r\ntransactions involving this location have been posted."));
+                       "There are unposted transactions for this location.\r\nYou cannot enter the inventory for "
+                       "this location until all\r\ntransactions involving this location have been posted.")
+                   + (waiting.isEmpty() ? QString() : u"\n\n"_s + waiting));
 }
 
 // What is compared with the books later is read before the list: what changes in between shows as changed.
@@ -151,6 +162,18 @@ void StockCount::setStandardCost(int row, Engine::Money cost)
     keepDraft();
 }
 
+CountDraft StockCount::current() const
+{
+    return {.saved = m_database.session().now(),
+            .date = m_date,
+            .zeroCounts = m_zeroCounts,
+            .order = m_list.order(),
+            .counts = m_list.counts(),
+            .costs = m_list.costs(),
+            .recorded = m_balances,
+            .itemNos = m_list.itemNos()};
+}
+
 // Counting goes on without a draft.
 void StockCount::keepDraft()
 {
@@ -161,9 +184,7 @@ void StockCount::keepDraft()
     if (!hasEdits())
         return dropDraft();
     try {
-        m_drafts->save(
-            m_location,
-            {m_database.session().now(), m_date, m_zeroCounts, m_list.counts(), m_list.costs(), m_balances});
+        m_drafts->save(m_location, current());
     } catch (const RuleError &error) {
         m_draftFailure = error.message();
     }
@@ -186,28 +207,68 @@ void StockCount::resume(const CountDraft &draft)
 {
     if (draft.zeroCounts != m_zeroCounts)
         read(draft.zeroCounts);
-    m_list.takeCosts(draft.costs);
-    const auto missing = draft.counts.size() - m_list.takeCounts(draft.counts);
-    if (missing > 0)
-        m_prompts.inform(
-            plural(missing, TransactionsTexts::tr("%n item that has been counted is no longer in the list."),
-                   TransactionsTexts::tr("%n items that have been counted are no longer in the list.")));
-    tellOfChanges(draft);
+    m_list.sortBy(draft.order);
+    if (const QStringList told = takeOver(draft); !told.isEmpty())
+        m_prompts.warn(told.join(u"\n\n"_s));
 }
 
-void StockCount::tellOfChanges(const CountDraft &draft) const
+QString StockCount::readAgain()
+{
+    if (m_source.hasUnposted(m_location)) {
+        warnOfUnposted();
+        throw SilentAbort();
+    }
+    const CountDraft kept = current();
+    read(m_zeroCounts);
+    m_waits = false;
+    const QStringList told = takeOver(kept);
+    keepDraft();
+    return told.join(u"\n\n"_s);
+}
+
+// An item is the one that was counted by its key and by its number: each alone may have come to another one.
+CountDraft StockCount::listedOf(CountDraft draft) const
+{
+    const ItemNumbers listed = m_list.itemNos();
+    const auto isAnother = [&](const auto &entry) {
+        const auto found = listed.constFind(entry.key());
+        return found == listed.constEnd() || *found != draft.itemNos.value(entry.key());
+    };
+    draft.counts.removeIf(isAnother);
+    draft.costs.removeIf(isAnother);
+    draft.recorded.removeIf(isAnother);
+    return draft;
+}
+
+// What the user should know of the draft and of the books since then.
+QStringList StockCount::takeOver(const CountDraft &draft)
+{
+    const CountDraft listed = listedOf(draft);
+    m_list.takeCosts(listed.costs);
+    m_list.takeCounts(listed.counts);
+    QStringList told;
+    if (const auto missing = draft.counts.size() - listed.counts.size(); missing > 0)
+        told.append(plural(missing,
+                           TransactionsTexts::tr("%n item that has been counted is no longer in the list."),
+                           TransactionsTexts::tr("%n items that have been counted are no longer in the list.")));
+    if (const QString changes = changesSince(listed.recorded); !changes.isEmpty())
+        told.append(changes);
+    return told;
+}
+
+QString StockCount::changesSince(const ItemQuantities &recorded) const
 {
     ItemQuantities before = m_balances;
-    before.insert(draft.recorded);
+    before.insert(recorded);
     const int changed = changedItems(before, m_balances);
     if (changed == 0)
-        return;
+        return {};
     QString told = postedText(changed);
     if (const int above = m_list.countedAbove(); above > 0)
         told += u"\n\n"_s
             + plural(above, TransactionsTexts::tr("%n item has been counted above what is recorded now."),
                      TransactionsTexts::tr("%n items have been counted above what is recorded now."));
-    m_prompts.warn(told);
+    return told;
 }
 
 void StockCount::dropDraft()
@@ -222,47 +283,102 @@ bool StockCount::isCountable(QDate date, QDate today) { return date > today.addD
 
 QDate StockCount::latestDate(QDate today) { return today.addDays(daysAhead); }
 
-std::optional<CalculatedUsage> StockCount::calculate()
+StockCount::Calculation StockCount::calculate()
 {
-    requireNothingWaits();
-    if (m_list.hasUsage())
-        requireUnchangedBooks();
-    const std::optional<CalculatedUsage> usage = calculateUsage(m_database, m_list, m_location, m_date, m_prompts);
-    if (!usage)
-        return usage;
+    if (m_waits) {
+        requireNothingWaits();
+        askToReadAgain();
+        return {.usage = {}, .readsAgain = true};
+    }
+    if (!m_list.hasUsage())
+        return {};
+    Agreed agreed{.balances = m_balances, .waiting = {}, .costless = {}};
+    std::optional<CalculatedUsage> usage;
+    while (!usage) {
+        if (!agreeOn(agreed))
+            return {.usage = {}, .readsAgain = true};
+        usage = writeAsAgreed(agreed);
+    }
     m_waits = m_isCalculated = true;
     dropDraft();
-    return usage;
+    return {.usage = usage, .readsAgain = false};
 }
 
 void StockCount::requireNothingWaits() const
 {
-    if (!m_waits)
-        return;
     if (!m_source.hasUnposted(m_location))
-        throw RuleError(
-            TransactionsTexts::tr("Transactions of this location have been posted since this list was read.\n"
-                                  "Choose the location again to count it anew."));
+        return;
     warnOfUnposted();
     throw SilentAbort();
 }
 
-void StockCount::requireUnchangedBooks() const
+void StockCount::askToReadAgain() const
 {
-    const auto goOn =
-        TransactionsTexts::tr("The usage is what the list shows as used, whatever has come or gone meanwhile.\n"
-                              "Do you want to calculate it nevertheless?");
-    if (const int changed = changedItems(m_balances, m_source.balances(m_location)); changed > 0) {
-        if (!m_prompts.confirm(Question::Warning, postedText(changed) + u"\n\n"_s + goOn))
-            throw SilentAbort();
+    const QString posted =
+        TransactionsTexts::tr("Transactions of this location have been posted since this list was read.");
+    if (m_prompts.choose(posted, readAgainText(), {}) != Answer::Yes)
+        throw SilentAbort();
+}
+
+// Whatever is asked takes as long as it takes, so nothing is held meanwhile.
+bool StockCount::agreeOn(Agreed &agreed) const
+{
+    if (!agreeOnBalances(agreed))
+        return false;
+    agreeOnWaiting(agreed);
+    warnOfMissingCosts(m_list, m_source.costs(), agreed.costless, m_prompts);
+    return true;
+}
+
+bool StockCount::agreeOnBalances(Agreed &agreed) const
+{
+    const ItemQuantities balances = m_source.balances(m_location);
+    const int changed = changedItems(agreed.balances, balances);
+    agreed.balances = balances;
+    if (changed == 0)
+        return true;
+    switch (m_prompts.choose(postedText(changed) + u"\n\n"_s + neverthelessText(), readAgainText(),
+                             TransactionsTexts::tr("&Calculate nevertheless"))) {
+    case Answer::Yes:
+        return false;
+    case Answer::No:
+        return true;
+    case Answer::Cancel:
+        break;
     }
-    if (m_source.hasUnposted(m_location)) {
-        const QString saved = TransactionsTexts::tr(
-            "Somebody has saved transactions for this location since this list was read. They "
-            "have not been posted yet.");
-        if (!m_prompts.confirm(Question::Warning, saved + u"\n\n"_s + goOn))
-            throw SilentAbort();
-    }
+    throw SilentAbort();
+}
+
+void StockCount::agreeOnWaiting(Agreed &agreed) const
+{
+    std::vector<WaitingDocument> waiting = waitingDocuments(m_database, m_location);
+    const bool isNews = !waiting.empty() && waiting != agreed.waiting;
+    agreed.waiting = std::move(waiting);
+    if (!isNews)
+        return;
+    const QString saved =
+        TransactionsTexts::tr("Somebody has saved transactions for this location since this list was read. They "
+                              "have not been posted yet.");
+    const QString question = saved + u"\n\n"_s + listOf(agreed.waiting) + u"\n\n"_s + neverthelessText() + u'\n'
+        + TransactionsTexts::tr("Do you want to calculate it nevertheless?");
+    if (!m_prompts.confirm(Question::Warning, question))
+        throw SilentAbort();
+}
+
+// Posting holds the balances as well. What has come up since the user was asked is asked about in another turn.
+std::optional<CalculatedUsage> StockCount::writeAsAgreed(const Agreed &agreed) const
+{
+    Engine::TableLocks books(m_database);
+    Engine::Attempts attempts(m_database.session());
+    const PostingLock balances = balanceLock();
+    books.take(balances.table,
+               [&](const Engine::EngineError &) { return attempts.again() || m_prompts.retry(balances.refusal); });
+    const QHash<qint64, ItemCost> costs = m_source.costs();
+    if (changedItems(agreed.balances, m_source.balances(m_location)) > 0
+        || waitingDocuments(m_database, m_location) != agreed.waiting
+        || lacksOtherCosts(m_list, costs, agreed.costless))
+        return std::nullopt;
+    return writeUsage(m_database, usageLines(m_list, costs), m_location, m_date);
 }
 
 int StockCount::changedItems(const ItemQuantities &before, const ItemQuantities &now) const

@@ -4,6 +4,9 @@
 #include "transactions/countdraft.h"
 #include "transactions/countsource.h"
 #include "transactions/usagecalculation.h"
+#include "transactions/waitingdocuments.h"
+
+#include <QSet>
 
 namespace Tallymere {
 
@@ -56,20 +59,47 @@ public:
     static bool isCountable(QDate date, QDate today);
     static QDate latestDate(QDate today);
 
-    // Writes the usage document; nothing when no item has been used. The user is asked before, when the books have
-    // changed since the list was read; SilentAbort when he would rather not. Afterwards the draft is gone, and the list cannot
-    // be calculated again: it has to be opened anew when the usage has been posted.
-    std::optional<CalculatedUsage> calculate();
+    // What a calculation has come to: the usage document, or nothing where no item has been used.
+    struct Calculation
+    {
+        std::optional<CalculatedUsage> usage;
+        bool readsAgain = false; // nothing has been written: the user would rather have the list read again first
+    };
+    // Writes the usage document. The user is asked before, when the books have changed since the list was read; SilentAbort
+    // when he would rather not. Nobody else posts or calculates a count from the last look at the books to the end of
+    // writing; whoever does so before that is waited for as for a record, and then asked about with Prompts::retry. The
+    // answer Cancel raises the lock's EngineError, with nothing written. Afterwards the draft is gone, and the list cannot be
+    // calculated again: it has to be read anew when the usage has been posted.
+    Calculation calculate();
+
+    // Reads the list anew and takes over what has been counted. SilentAbort, after a warning, while transactions wait to be
+    // posted. Gives what the user should know of it.
+    QString readAgain();
 
 private:
+    // What the user has agreed to write a usage upon, beyond what the list shows.
+    struct Agreed
+    {
+        ItemQuantities balances;
+        std::vector<WaitingDocument> waiting;
+        QSet<qint64> costless; // items
+    };
+
     void read(ZeroCounts zeroCounts);
     void deductUnposted();
     void tellNotDeducted() const;
     void warnOfUnposted() const;
+    CountDraft current() const;
     void keepDraft();
-    void tellOfChanges(const CountDraft &draft) const;
+    CountDraft listedOf(CountDraft draft) const;
+    QStringList takeOver(const CountDraft &draft);
+    QString changesSince(const ItemQuantities &recorded) const;
     void requireNothingWaits() const;
-    void requireUnchangedBooks() const;
+    void askToReadAgain() const;
+    bool agreeOn(Agreed &agreed) const; // false: to read the list again
+    bool agreeOnBalances(Agreed &agreed) const;
+    void agreeOnWaiting(Agreed &agreed) const;
+    std::optional<CalculatedUsage> writeAsAgreed(const Agreed &agreed) const;
     int changedItems(const ItemQuantities &before, const ItemQuantities &now) const;
 
     Engine::Database &m_database;

@@ -3,9 +3,9 @@
 #include "data/fiscalperiod.h"
 #include "data/numbercounter.h"
 #include "engine/groupedwrites.h"
+#include "engine/query.h"
 #include "engine/recordlock.h"
 #include "engine/table.h"
-#include "transactions/countsource.h"
 #include "transactions/documentkinds.h"
 #include "transactions/lastsaved.h"
 #include "transactions/texts.h"
@@ -19,13 +19,6 @@ namespace {
 
 constexpr qint64 noCustomer = -1;
 
-struct UsageLine
-{
-    qint64 itemId = 0;
-    double quantity = 0;
-    Money unitCost;
-};
-
 struct UsageHeader
 {
     CalculatedUsage usage;
@@ -34,14 +27,23 @@ struct UsageHeader
     Period period;
 };
 
-// It is the key that is kept in its range here, after it has been taken; numbers go on as they are.
+bool isNumberTaken(Engine::Database &database, const QString &number)
+{
+    return !Engine::singleValue(database, u"SELECT min(UsageID) FROM IUsage WHERE UsageNo = ?"_s, {number})
+                .isNull();
+}
+
+// It is the key that is kept in its range here, after it has been taken; numbers go on as they are, past those that have
+// been given by hand.
 void number(CalculatedUsage &usage, Engine::Database &database)
 {
     const DocumentKind &kind = DocumentKinds::usage();
     takeNumbers(database, u"ARInvCtl"_s, [&](CounterRow &counters) {
         usage.id = counters.takeKey(u"NextInvoiceID", kind.keyField, kind.keyTables());
         counters.restartOutside(u"NextInvoiceID", firstNumber, lastNumber, firstCountedKey + 1);
-        usage.number = QString::number(counters.take(u"NextInvoiceNo"));
+        do {
+            usage.number = QString::number(counters.take(u"NextInvoiceNo"));
+        } while (isNumberTaken(database, usage.number));
     });
 }
 
@@ -64,20 +66,18 @@ void warnOfMissingCost(const CountRow &row, ItemCost::Method method, Prompts &pr
             .arg(row.description, QString::number(row.itemId), which));
 }
 
-std::vector<UsageLine> usageLines(Engine::Database &database, const CountList &list, Prompts &prompts)
+// Those that differ by something that is worth nothing only because nobody has said what it costs.
+template <typename Take>
+void forMissingCosts(const CountList &list, const QHash<qint64, ItemCost> &costs, Take take)
 {
-    const QHash<qint64, ItemCost> costs = CountSource(database).costs();
-    std::vector<UsageLine> lines;
     for (int i = 0; i < list.size(); ++i) {
         const CountRow &row = list.row(i);
         if (!row.differs())
             continue;
         const ItemCost cost = costs.value(row.itemId);
         if (cost.method != ItemCost::Method::None && cost.cost == Money())
-            warnOfMissingCost(row, cost.method, prompts);
-        lines.push_back({row.itemId, -row.difference(), cost.cost});
+            take(row, cost.method);
     }
-    return lines;
 }
 
 void writeHeader(Engine::Connection &connection, const UsageHeader &header, Engine::Writes &writes)
@@ -118,8 +118,6 @@ void writeLines(Engine::Connection &connection, qint64 usageId, const std::vecto
 void write(Engine::Database &database, const UsageHeader &header, const std::vector<UsageLine> &lines)
 {
     Engine::Connection &connection = database.connection();
-    const Engine::RecordLock lock(connection, database.session(), u"IUsage"_s, {header.usage.id},
-                                  TransactionsTexts::tr("Usage %1").arg(header.usage.number));
     Engine::GroupedWrites writes(database);
     writes.apply([&](Engine::Writes &step) {
         writeHeader(connection, header, step);
@@ -130,16 +128,44 @@ void write(Engine::Database &database, const UsageHeader &header, const std::vec
 
 } // namespace
 
-std::optional<CalculatedUsage> calculateUsage(Engine::Database &database, const CountList &list, int location,
-                                              QDate date, Prompts &prompts)
+std::vector<UsageLine> usageLines(const CountList &list, const QHash<qint64, ItemCost> &costs)
 {
-    if (!list.hasUsage())
-        return std::nullopt;
-    UsageHeader header{.usage = {}, .location = location, .date = date, .period = {}};
+    std::vector<UsageLine> lines;
+    for (int i = 0; i < list.size(); ++i) {
+        const CountRow &row = list.row(i);
+        if (row.differs())
+            lines.push_back({row.itemId, -row.difference(), costs.value(row.itemId).cost});
+    }
+    return lines;
+}
+
+void warnOfMissingCosts(const CountList &list, const QHash<qint64, ItemCost> &costs, QSet<qint64> &warned,
+                        Prompts &prompts)
+{
+    forMissingCosts(list, costs, [&](const CountRow &row, ItemCost::Method method) {
+        if (warned.contains(row.itemId))
+            return;
+        warned.insert(row.itemId);
+        warnOfMissingCost(row, method, prompts);
+    });
+}
+
+bool lacksOtherCosts(const CountList &list, const QHash<qint64, ItemCost> &costs, const QSet<qint64> &warned)
+{
+    bool lacks = false;
+    forMissingCosts(list, costs,
+                    [&](const CountRow &row, ItemCost::Method) { lacks = lacks || !warned.contains(row.itemId); });
+    return lacks;
+}
+
+// The lock on a usage that there is not tells that usages may be written, and keeps it so.
+CalculatedUsage writeUsage(Engine::Database &database, const std::vector<UsageLine> &lines, int location,
+                           QDate date)
+{
+    const Engine::RecordLock lock(database.connection(), database.session(), u"IUsage"_s,
+                                  Engine::RecordLock::anyKey(), TransactionsTexts::tr("A new usage"));
+    UsageHeader header{.usage = {}, .location = location, .date = date, .period = periodOf(database, date)};
     number(header.usage, database);
-    header.period = periodOf(database, date);
-    const std::vector<UsageLine> lines =
-        usageLines(database, list, prompts); // nothing is locked while he is warned
     rememberSaved(database, TransType::Usage, header.usage.id);
     write(database, header, lines);
     header.usage.lines = static_cast<int>(lines.size());

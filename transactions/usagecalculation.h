@@ -2,9 +2,10 @@
 
 #include "base/prompts.h"
 #include "transactions/countlist.h"
+#include "transactions/countsource.h"
 
-#include <optional>
 #include <QDate>
+#include <QSet>
 
 namespace Engine {
 class Database;
@@ -20,13 +21,25 @@ struct CalculatedUsage
     int lines = 0;
 };
 
-// Writes what a count differs by as one unposted usage document: a line for each item, prior minus counted, in the order
-// of the list. Nothing is written, and no number used, unless some item has been counted below the record. Items without a
-// cost are warned of and get lines of cost 0.
-//
-// The document is locked while it is written, so that another user's hold on the usages refuses it with EngineError. A
-// failure of the store leaves the lines written before it; a crash leaves the whole document or none.
-std::optional<CalculatedUsage> calculateUsage(Engine::Database &database, const CountList &list, int location,
-                                              QDate date, Prompts &prompts);
+struct UsageLine
+{
+    qint64 itemId = 0;
+    double quantity = 0;
+    Engine::Money unitCost;
+};
+
+// What a count differs by, prior minus counted, an item in a line in the order of the list; at those costs.
+std::vector<UsageLine> usageLines(const CountList &list, const QHash<qint64, ItemCost> &costs);
+
+// Warns of each item that differs and has no cost, unless it is among those that have been warned of, and adds it to them.
+void warnOfMissingCosts(const CountList &list, const QHash<qint64, ItemCost> &costs, QSet<qint64> &warned,
+                        Prompts &prompts);
+bool lacksOtherCosts(const CountList &list, const QHash<qint64, ItemCost> &costs, const QSet<qint64> &warned);
+
+// Writes the lines as one unposted usage document of a number that no usage has. Another user's hold on the usages refuses
+// it with EngineError before a number is used. A failure of the store leaves the lines written before it; a crash leaves
+// the whole document or none.
+CalculatedUsage writeUsage(Engine::Database &database, const std::vector<UsageLine> &lines, int location,
+                           QDate date);
 
 } // namespace Tallymere

@@ -45,9 +45,7 @@ PostingKind usagePosting()
                 {u"IUsage"_s,
                  TransactionsTexts::tr(
                      "Unable to lock Usage Records table... this table is being updated by another job.")},
-                {u"IBalance"_s,
-                 TransactionsTexts::tr(
-                     "Unable to lock Item Balance table... this table is being updated by another job.")},
+                balanceLock(),
             },
         .entryOpen = TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Usage Record' form"),
         .toBePosted = TransactionsTexts::tr("%1 usage record(s) to be posted"),

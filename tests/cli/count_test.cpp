@@ -101,4 +101,28 @@ TEST_P(CountCommand, RefusesWhatItCannotTake)
     EXPECT_EQ(cli.list({u"list"_s, u"usage"_s}).size(), 0);
 }
 
+// However two counts of a location fall upon each other, the usage is written once. TALLYMERE_RACES makes it long.
+TEST_P(CountCommand, TwoAtOnceWriteTheUsageOnce)
+{
+    const QStringList count{u"count"_s,
+                            u"--location"_s,
+                            u"1"_s,
+                            u"--date"_s,
+                            QDate::currentDate().toString(Qt::ISODate),
+                            u"--file"_s,
+                            cli.writeFile(u"count.csv"_s, "ItemNo,Quantity\nA1,4\n")};
+    const int races = qEnvironmentVariable("TALLYMERE_RACES", u"4"_s).toInt();
+    int doubled = 0;
+    for (int race = 0; race < races; ++race) {
+        cli.execute(u"DELETE FROM IUsageDet; DELETE FROM IUsage"_s);
+        const auto one = cli.start(count);
+        const auto other = cli.start(count);
+        const CliResult results[] = {cli.finish(*one), cli.finish(*other)};
+        const auto written = rowsOf(cli.anotherUser()->database, u"SELECT UsageNo FROM IUsage"_s).size();
+        doubled += written > 1 ? 1 : 0;
+        EXPECT_EQ(written + results[0].status + results[1].status, 2) << results[0] << results[1];
+    }
+    EXPECT_EQ(doubled, 0) << "of " << races;
+}
+
 } // namespace

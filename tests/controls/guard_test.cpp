@@ -86,19 +86,19 @@ TEST(MessageBoxes, stayWithinTheScreenAndHaveLettersOnTheirButtons)
     for (const QString &text : texts) {
         QSize size;
         QString letters;
-        EXPECT_TRUE(
-            whileOpen<QMessageBox>([&] { boxes.yesNoCancel(text, {}); },
-                                   [&](QMessageBox &box) {
-                                       for (QAbstractButton *button : box.buttons()) {
-                                           if (box.standardButton(button) != QMessageBox::NoButton)
-                                               letters += letterOf(button->text());
-                                           else
-                                               button->click(); // all of the text
-                                       }
-                                       QCoreApplication::processEvents();
-                                       size = box.frameGeometry().size();
-                                       EXPECT_TRUE(box.detailedText() == (box.text() == text ? QString() : text));
-                                   }));
+        EXPECT_TRUE(whileOpen<QMessageBox>([&] { boxes.yesNoCancel(text, {}); },
+                                           [&](QMessageBox &box) {
+                                               for (QAbstractButton *button : box.buttons()) {
+                                                   if (box.standardButton(button) != QMessageBox::NoButton)
+                                                       letters += letterOf(button->text());
+                                                   else
+                                                       button->click(); // all of the text
+                                               }
+                                               QCoreApplication::processEvents();
+                                               size = box.frameGeometry().size();
+                                               EXPECT_TRUE(box.detailedText()
+                                                           == (box.text() == text ? QString() : text));
+                                           }));
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();
         EXPECT_EQ(size, size.boundedTo(screen)) << size.width() << "x" << size.height();
         std::sort(letters.begin(), letters.end());

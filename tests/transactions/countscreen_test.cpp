@@ -4,6 +4,7 @@
 #include "transactions/screens/enterinventory.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QHeaderView>
 
 using namespace Qt::StringLiterals;
@@ -63,6 +64,7 @@ protected:
         return rows;
     }
     QString cursor() const { return grid->currentIndex().siblingAtColumn(0).data().toString(); }
+    QString notFound() const { return child<QLabel>(*screen, "lblNotFound")->text(); }
     QString status() const { return child<QLabel>(*screen, "lblStatus")->text(); }
     QStringList usageLines() { return kitchen.rows(u"SELECT ItemID, Quantity FROM IUsageDet ORDER BY Seq"_s); }
 
@@ -116,9 +118,9 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     EXPECT_EQ(cursor(), u"B1"_s);
     search("ap"); // the beginning of no number
     EXPECT_EQ(focusName(), u"wwIncrementalSearch1"_s);
-    EXPECT_EQ(status(), u"'ap' is not in the list"_s);
+    EXPECT_EQ(notFound(), u"'ap' is not in the list"_s);
     search("B1");
-    EXPECT_TRUE(status().startsWith("1 of 3 counted"_L1)) << "what was not found is forgotten";
+    EXPECT_EQ(notFound(), QString());
     grid->horizontalHeader()->sectionClicked(2);
     search("ap");
     EXPECT_EQ(cursor(), u"A10"_s); // Apples
@@ -128,8 +130,13 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
 
     grid->horizontalHeader()->sectionClicked(1);
     EXPECT_EQ(rows(), (QStringList{u"Food"_s, u"A10 10 10 0"_s, u"A11 5 4 -1"_s, u"Goods"_s, u"B1 2.5 2.5"_s}));
-    grid->horizontalHeader()->sectionClicked(4); // orders nothing
-    EXPECT_EQ(rows().size(), 5);
+    for (const int column : {4, 1}) { // one that orders nothing, and the one that is in force
+        QTest::mouseClick(grid->horizontalHeader()->viewport(), Qt::LeftButton, {},
+                          {grid->columnViewportPosition(column) + 5, 5});
+        EXPECT_EQ(rows().size(), 5);
+        EXPECT_EQ(grid->horizontalHeader()->sortIndicatorSection(), 1);
+        EXPECT_EQ(grid->horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);
+    }
     search("A11");
     press(Qt::Key_Return); // past the heading
     EXPECT_EQ(cursor(), u"B1"_s);
@@ -162,6 +169,84 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     ok->click();
     EXPECT_TRUE(prompts.last().startsWith("warn: There are unposted transactions"_L1)) << "the usage just written";
     EXPECT_EQ(usageLines().size(), 2);
+}
+
+TEST_F(CountScreenTest, TakesNoQuantityOfAnUnknownItemForAnItem)
+{
+    kitchen.execute(
+        u"UPDATE Item SET ItemNo = '7' WHERE ItemID = 2; UPDATE Item SET ItemNo = '12345' WHERE ItemID = 3"_s);
+    choose(u"Office"_s);
+    search("7");
+    EXPECT_EQ(cursor(), u"7"_s);
+    const auto scan = [](const char *text) {
+        type(text);
+        press(Qt::Key_Return);
+    };
+    press(Qt::Key_F, Qt::ControlModifier);
+    scan("555");
+    for (const char *quantity : {"7", "1", "1.5", "123"}) {
+        scan(quantity);
+        EXPECT_EQ(notFound(), u"%1 is not taken: '555' is not in the list"_s.arg(QString::fromLatin1(quantity)));
+        EXPECT_EQ(cursor(), u"7"_s) << quantity;
+    }
+    scan("12345"); // the next item
+    EXPECT_EQ(cursor(), u"12345"_s);
+    EXPECT_EQ(focusName(), u"wwDBGridInventory"_s);
+    EXPECT_EQ(notFound(), QString());
+    enter("2");
+
+    search("555");
+    press(Qt::Key_Backspace);
+    scan("7"); // searched for after all
+    EXPECT_EQ(cursor(), u"7"_s);
+    EXPECT_EQ(rows(), (QStringList{u"12345 2.5 2 -0.5"_s, u"7 5 5"_s, u"A10 10 10"_s}));
+}
+
+TEST_F(CountScreenTest, KeepsItsNamesForAccessibilityToolsWhateverIsChosen)
+{
+    choose(u"Office"_s);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(locations)->text(QAccessible::Name),
+              u"Select the Location for the inventory:"_s);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(grid)->text(QAccessible::Name),
+              u"Inventory Items and Quantities"_s);
+}
+
+TEST_F(CountScreenTest, TriesARefusedLocationOnceMore)
+{
+    kitchen.execute(u"INSERT INTO IAdjust (AdjustmentID, AdjDescription, AdjDate, WarehouseID, Posted) "
+                    "VALUES (12, 'Spoilt', '2026-03-05', 1, false)"_s);
+    choose(u"Office"_s);
+    prompts.answer = Answer::Yes;
+    ok->click();
+    EXPECT_TRUE(prompts.last().endsWith("have been posted.\n\nInventory Adjustment 12, 03/05/2026, Spoilt"_L1))
+        << prompts.last().toStdString();
+    EXPECT_EQ(status(), QString());
+    kitchen.execute(u"UPDATE IAdjust SET Posted = true"_s);
+    ok->click();
+    EXPECT_EQ(rows().size(), 3);
+    EXPECT_TRUE(usageLines().isEmpty());
+}
+
+TEST_F(CountScreenTest, ReadsAgainUnderTheCountWhereOthersHavePosted)
+{
+    kitchen.execute(u"UPDATE ItemType SET CostingMethod = 2 WHERE ItemTypeID = 2; "
+                    "UPDATE Item SET StandardCost = 4 WHERE ItemID = 3"_s);
+    choose(u"Office"_s);
+    EXPECT_EQ(grid->model()->index(1, 7).data().toString(), u"2.00"_s); // what bread has cost on an average
+    EXPECT_EQ(grid->model()->index(2, 7).data().toString(), u"4.00"_s);
+    search("A10");
+    enter("6");
+    kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8 WHERE ItemID = 1"_s);
+    prompts.take();
+    prompts.answer = Answer::Yes; // to calculating, and to reading again
+    ok->click();
+    EXPECT_TRUE(
+        prompts.said.first().endsWith("2 items have not been counted. They keep their recorded quantities."_L1));
+    EXPECT_TRUE(usageLines().isEmpty());
+    EXPECT_EQ(rows().first(), u"A10 8 6 -2"_s);
+    EXPECT_TRUE(ok->isEnabled());
+    ok->click();
+    EXPECT_EQ(usageLines(), QStringList(u"1|2"_s));
 }
 
 TEST_F(CountScreenTest, RefusesWhatIsNoCount)
@@ -229,6 +314,8 @@ TEST_F(CountScreenTest, OffersWhatHasBeenLeft)
     prompts.answer = Answer::Yes;
     choose(u"Office"_s);
     EXPECT_EQ(rows().first(), u"A10 10 8 -2"_s);
+    EXPECT_EQ(cursor(), u"A11"_s);
+    EXPECT_EQ(focusName(), u"wwDBGridInventory"_s) << "at what is counted next";
     EXPECT_EQ(child<DatePicker>(*screen, "wwDBDateTimePickerInventoryDate")->date(), data->today().addDays(-2));
 
     screen->close(); // and keeps it

@@ -1,6 +1,7 @@
 #include "transactions/stockcount.h"
 
 #include "engine/table.h"
+#include "engine/tablelocks.h"
 #include "tests/support/kitchen.h"
 
 using namespace Qt::StringLiterals;
@@ -101,7 +102,7 @@ TEST_P(CountTest, WritesWhatDiffersAsOneUsage)
     EXPECT_EQ(count.list().totals().counted, 3);
     EXPECT_EQ(count.list().totals().differing, 2);
     EXPECT_EQ(count.list().totals().value.toDouble(), -3);
-    const auto usage = count.calculate();
+    const auto usage = count.calculate().usage;
     ASSERT_TRUE(usage);
     EXPECT_EQ(usage->lines, 2);
     EXPECT_EQ(usages(), QStringList(u"10000000|-1|500|1|Inventory No: 500|2026-03-14|2026|3|false|false|"_s));
@@ -120,20 +121,25 @@ TEST_P(CountTest, WritesWhatDiffersAsOneUsage)
     EXPECT_TRUE(prompts.last().startsWith(unposted));
     kitchen.execute(u"DELETE FROM IUsageDet; DELETE FROM IUsage"_s);
     enter(u"A10"_s, 7);
-    EXPECT_THROW(count.calculate(), RuleError) << "the list does not know what has become of the usage";
+    EXPECT_THROW(count.calculate(), SilentAbort) << "the list does not know what has become of the usage";
     EXPECT_EQ(usages(), QStringList());
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-    enter(u"A10"_s, 7);
-    ASSERT_TRUE(count.calculate());
-    EXPECT_EQ(usageLines(), QStringList(u"10001|1|3|1|1.5"_s));
+    prompts.answer = Answer::Yes;
+    EXPECT_TRUE(count.calculate().readsAgain);
+    EXPECT_EQ(
+        prompts.last(),
+        u"Transactions of this location have been posted since this list was read. [&Read again, keep my count|]"_s);
+    EXPECT_EQ(count.readAgain(), QString());
+    EXPECT_EQ(rows(), (QStringList{u"A10 10 -> 7"_s, u"A11 5 -> 6"_s, u"B1 2.5 -> 2.5"_s}));
+    ASSERT_TRUE(count.calculate().usage);
+    EXPECT_EQ(usageLines(), (QStringList{u"10001|1|3|1|1.5"_s, u"10001|2|-1|2|0"_s}));
 }
 
 TEST_P(CountTest, WritesNothingWhereNothingHasBeenUsed)
 {
     ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-    EXPECT_FALSE(count.calculate());
+    EXPECT_FALSE(count.calculate().usage);
     enter(u"A10"_s, 11);
-    EXPECT_FALSE(count.calculate());
+    EXPECT_FALSE(count.calculate().usage);
     EXPECT_EQ(usages(), QStringList());
     EXPECT_EQ(counters(), u"2000|500"_s);
     EXPECT_THROW(enter(u"A10"_s, -1), RuleError);
@@ -149,10 +155,10 @@ TEST_P(CountTest, TakesNoNoiseOfTheBooksForADifference)
     EXPECT_GE(count.list().highest(count.list().rowOfItem(2)), 3.3);
     enter(u"A10"_s, 3.3);
     enter(u"A11"_s, 3.3);
-    EXPECT_FALSE(count.calculate());
+    EXPECT_FALSE(count.calculate().usage);
     enter(u"B1"_s, 16.9);
     EXPECT_EQ(count.list().totals().differing, 1);
-    ASSERT_TRUE(count.calculate());
+    ASSERT_TRUE(count.calculate().usage);
     EXPECT_EQ(usageLines(), QStringList(u"2000|1|0.1|3|4"_s));
 }
 
@@ -169,7 +175,7 @@ TEST_P(CountTest, TakesThePeriodAndCostsFromTheBooks)
                             .arg(method));
         ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
         enter(u"A10"_s, 0);
-        ASSERT_TRUE(count.calculate());
+        ASSERT_TRUE(count.calculate().usage);
         EXPECT_EQ(kitchen.rows(u"SELECT GLYear, GLPeriod, UnitCost FROM IUsage, IUsageDet"_s),
                   QStringList(written));
         EXPECT_EQ(prompts.take(), QStringList());
@@ -196,7 +202,7 @@ TEST_P(CountTest, DeductsUnpostedUsageInWholeNumbers)
 {
     ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
     enter(u"A10"_s, 8.5);
-    ASSERT_TRUE(count.calculate());
+    ASSERT_TRUE(count.calculate().usage);
     enter(u"A11"_s, 1);
     count.setZeroCounts(ZeroCounts::Included); // 10 less 1.5, the latter cut to 1
     EXPECT_TRUE(prompts.last().startsWith("warn: There are unposted transactions"_L1));
@@ -217,21 +223,91 @@ TEST_P(CountTest, DeductsUnpostedUsageInWholeNumbers)
 TEST_P(CountTest, AsksWhenTheBooksHaveChangedMeanwhile)
 {
     const QString changes[] = {u"UPDATE IBalance SET QtyOnHand = 12 WHERE ItemID = 2"_s,
-                               u"INSERT INTO IReceipt (ReceiptID, WarehouseID, Posted) VALUES (1, 1, false)"_s};
+                               u"INSERT INTO IReceipt (ReceiptID, ReceiptNo, ReceiptDate, WarehouseID, Posted) "
+                               "VALUES (1, '77', '2026-03-05', 1, false)"_s};
+    prompts.ok = false;
     for (const QString &change : changes) {
         kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s);
         ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
         enter(u"A10"_s, 9);
         kitchen.execute(change);
-        prompts.ok = false;
+        prompts.take();
         EXPECT_THROW(count.calculate(), SilentAbort);
-        EXPECT_EQ(prompts.take().size(), 1);
+        EXPECT_EQ(prompts.said.size(), 1);
         EXPECT_TRUE(count.hasEdits());
         EXPECT_EQ(counters(), u"2000|500"_s);
     }
+    EXPECT_TRUE(prompts.last().contains("\n\nReceipt 77, 03/05/2026\n\n"_L1)) << prompts.last().toStdString();
     prompts.ok = true;
-    EXPECT_TRUE(count.calculate());
+    prompts.answer = Answer::No; // nevertheless
+    EXPECT_TRUE(count.calculate().usage);
     EXPECT_EQ(usageLines(), QStringList(u"2000|1|1|1|1.5"_s));
+}
+
+TEST_P(CountTest, ReadsTheListAgainAndKeepsWhatHasBeenCounted)
+{
+    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    count.sortBy(CountList::Order::Item);
+    enter(u"A10"_s, 9);
+    enter(u"B1"_s, 1);
+    count.setStandardCost(2, Engine::Money::fromDouble(7));
+    kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8 WHERE ItemID = 1; "
+                    "INSERT INTO IReceipt (ReceiptID, WarehouseID, Posted) VALUES (1, 1, false)"_s);
+    prompts.answer = Answer::Yes;
+    EXPECT_TRUE(count.calculate().readsAgain);
+    EXPECT_TRUE(prompts.last().endsWith("[&Read again, keep my count|&Calculate nevertheless]"_L1));
+    EXPECT_THROW(count.readAgain(), SilentAbort) << "what waits would be in no list";
+    EXPECT_EQ(rows().first(), u"A10 10 -> 9"_s);
+
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s);
+    EXPECT_TRUE(count.readAgain().endsWith("1 item(s) have been counted above what is recorded now."_L1));
+    EXPECT_EQ(rows(), (QStringList{u"A10 8 -> 9"_s, u"B1 2.5 -> 1"_s, u"A11 5"_s}));
+    EXPECT_EQ(count.list().costs(), (ItemCosts{{2, Engine::Money::fromDouble(7)}}));
+    EXPECT_EQ(count.draft()->recorded.value(1), 8);
+    prompts.take();
+    ASSERT_TRUE(count.calculate().usage);
+    EXPECT_EQ(usageLines(), (QStringList{u"2000|1|-1|1|1.5"_s, u"2000|2|1.5|3|4"_s}));
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
+// Whatever happens while the user is asked something is looked at before anything is written.
+TEST_P(CountTest, WritesTheUsageOnceWhenAnotherUserCalculatesTheSameMeanwhile)
+{
+    const auto anna = kitchen.anotherUser();
+    SpokenPrompts herPrompts;
+    StockCount hers(anna->database, herPrompts);
+    hers.setDate(date);
+    for (StockCount *one : {&hers, &count}) {
+        ASSERT_TRUE(one->open(1, ZeroCounts::Excluded));
+        one->count(one->list().rowOfNumber(u"A11"_s), 4); // which costs nothing
+    }
+    prompts.ok = false;
+    prompts.onWarn = [&] { EXPECT_TRUE(hers.calculate().usage); };
+    EXPECT_THROW(count.calculate(), SilentAbort);
+    EXPECT_EQ(prompts.said.size(), 2);
+    EXPECT_TRUE(prompts.last().contains("Somebody has saved transactions for this location"_L1));
+    EXPECT_TRUE(prompts.last().contains("\n\nInventory Usage 500, 03/14/2026\n\n"_L1));
+    EXPECT_EQ(usageLines(), QStringList(u"2000|1|1|2|0"_s));
+    EXPECT_EQ(counters(), u"2001|501"_s);
+}
+
+TEST_P(CountTest, ExcludesWhoeverPostsAndPassesOverNumbersGivenByHand)
+{
+    kitchen.execute(u"INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, Posted) VALUES (1, '500', 2, false), "
+                    "(2, '501', 1, true)"_s);
+    kitchen.session().lockAttempts = 1;
+    const auto anna = kitchen.anotherUser();
+    auto posting = std::make_unique<Engine::TableLocks>(anna->database);
+    posting->take(u"IBalance"_s);
+    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    enter(u"A10"_s, 9);
+    EXPECT_THROW(count.calculate(), Engine::EngineError);
+    EXPECT_EQ(counters(), u"2000|500"_s);
+    EXPECT_TRUE(prompts.last().startsWith("Unable to lock Item Balance table..."_L1));
+    prompts.retries = 1;
+    prompts.onRetry = [&] { posting.reset(); };
+    EXPECT_EQ(count.calculate().usage->number, u"502"_s);
+    kitchen.expectNoLocks();
 }
 
 TEST_P(CountTest, IsRefusedWhileAnotherUserHoldsTheUsages)
@@ -247,7 +323,7 @@ TEST_P(CountTest, IsRefusedWhileAnotherUserHoldsTheUsages)
     EXPECT_EQ(this->usages(), QStringList());
     EXPECT_TRUE(count.hasEdits());
     usages.unlockTable();
-    EXPECT_TRUE(count.calculate());
+    EXPECT_TRUE(count.calculate().usage);
 }
 
 TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
@@ -272,7 +348,7 @@ TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
     EXPECT_EQ(later.zeroCounts(), ZeroCounts::Included);
     EXPECT_EQ(later.list().counts(), (ItemQuantities{{1, 0.0}}));
     EXPECT_EQ(later.list().costs(), (ItemCosts{{3, Engine::Money::fromDouble(1.25)}}));
-    EXPECT_EQ(prompts.last(), u"inform: 1 item that has been counted is no longer in the list."_s);
+    EXPECT_EQ(prompts.last(), u"warn: 1 item that has been counted is no longer in the list."_s);
 
     later.count(later.list().rowOfItem(1), 9);
     kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8 WHERE ItemID = 1"_s);
@@ -282,17 +358,41 @@ TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
               u"warn: Transactions have been posted since this list was read: 1 item of this location has another "
               "quantity in the books now.\n\n1 item has been counted above what is recorded now."_s);
 
+    // Another item has the key by now, and one has another key.
+    kitchen.execute(
+        u"UPDATE Item SET ItemNo = 'C7' WHERE ItemID = 1; UPDATE Item SET ItemNo = 'A10' WHERE ItemID = 3"_s);
+    ASSERT_TRUE(later.open(1, ZeroCounts::Included));
+    later.resume(*later.draft());
+    EXPECT_FALSE(later.list().hasEdits());
+    EXPECT_EQ(prompts.last(), u"warn: 1 item that has been counted is no longer in the list."_s);
+
     const StockCount other(kitchen.database(), prompts, CountDrafts(u"kitchen"_s, u"bert"_s, folder.path()));
     EXPECT_TRUE(other.locationsWithDraft().empty());
     later.dropDraft();
     EXPECT_TRUE(later.locationsWithDraft().empty());
 }
 
+TEST(CountDraftFile, IsNotOfAnotherDatabaseInTheSamePlace)
+{
+    TestStore store(Store::Local);
+    const QTemporaryDir folder;
+    const auto drafts = [&] {
+        return CountDrafts(CountDrafts::nameOf(store.database()), u"anna"_s, folder.path());
+    };
+    drafts().save(3, {.saved = QDateTime(), .date = QDate(2026, 3, 14), .counts = {{7, 1.5}}});
+    EXPECT_TRUE(drafts().load(3));
+    store.database().close();
+    ASSERT_TRUE(QDir(store.directory()).removeRecursively() && QDir().mkpath(store.directory()));
+    store.database().createIfMissing = true;
+    EXPECT_FALSE(drafts().load(3));
+    EXPECT_TRUE(drafts().locations().isEmpty());
+}
+
 TEST(CountDraftFile, ThatCannotBeReadIsNone)
 {
     const QTemporaryDir folder;
     const CountDrafts drafts(u"kitchen"_s, u"anna"_s, folder.path());
-    drafts.save(3, {QDateTime::currentDateTime(), QDate(2026, 3, 14), ZeroCounts::Excluded, {{7, 1.5}}});
+    drafts.save(3, {.saved = QDateTime(), .date = QDate(2026, 3, 14), .counts = {{7, 1.5}}});
     const QString path = folder.path() + u'/' + QDir(folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot)[0];
     for (const QByteArray &content :
          {QByteArray("{\"counts\":[[7,"), QByteArray("{\"counts\":[[7,-1],[8,1e999]]}")}) {

@@ -78,10 +78,7 @@ void CountGrid::listChanged()
     m_model->listChanged();
     for (const int row : m_model->headings())
         setSpan(row, 0, 1, CountModel::ColumnCount);
-    for (int column = 0; column < CountModel::ColumnCount; ++column) {
-        if (orderOf(column) == m_list->order())
-            horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
-    }
+    showOrder();
     const int item = m_list->rowOfItem(kept);
     if (m_list->size() > 0)
         showItem(std::max(0, item));
@@ -115,8 +112,18 @@ void CountGrid::currentChanged(const QModelIndex &current, const QModelIndex &pr
         Q_EMIT itemShown();
 }
 
+void CountGrid::showOrder()
+{
+    for (int column = 0; column < CountModel::ColumnCount; ++column) {
+        if (orderOf(column) == m_list->order())
+            horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
+    }
+}
+
+// The header has moved its arrow already, whatever the title is of.
 void CountGrid::titleClicked(int column)
 {
+    showOrder();
     const std::optional<CountList::Order> order = orderOf(column);
     if (order && finishEntry())
         guard().run([&] { m_actions.sort(*order); });

@@ -51,6 +51,7 @@ private:
     void entered() override;
     void nextItem();
     void titleClicked(int column);
+    void showOrder();
     LineSteps limits(int item) const;
 
     const CountList *m_list = nullptr;

@@ -66,7 +66,8 @@ QList<GridColumn> CountModel::gridColumns()
             {u"StandardCost"_s, tr("Standard Cost"), 112, Qt::AlignRight},
             {u"QtyOnhand"_s, tr("Prior Quantity"), 105, Qt::AlignRight},
             {u"Quantity"_s, tr("Current Quantity"), 120, Qt::AlignRight},
-            {u"Difference"_s, tr("Difference"), 90, Qt::AlignRight}};
+            {u"Difference"_s, tr("Difference"), 90, Qt::AlignRight},
+            {u"UnitCost"_s, tr("Unit Cost"), 90, Qt::AlignRight}};
 }
 
 CountModel::CountModel(const CountList &list, QObject *parent)
@@ -132,8 +133,10 @@ QString CountModel::text(const CountRow &row, int column, int role) const
         return quantityText(row.recorded);
     case Quantity:
         return quantityText(row.typed ? row.typed : row.recorded);
-    default:
+    case Difference:
         return row.typed ? quantityText(row.difference()) : QString();
+    default: // what a difference is valued at
+        return currencyText(row.unitCost);
     }
 }
 

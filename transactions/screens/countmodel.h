@@ -16,7 +16,7 @@ class CountModel final : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { ItemNo, Category, Item, StandardCost, Prior, Quantity, Difference, ColumnCount };
+    enum Column { ItemNo, Category, Item, StandardCost, Prior, Quantity, Difference, UnitCost, ColumnCount };
 
     CountModel(const CountList &list, QObject *parent);
     static QList<GridColumn> gridColumns();

@@ -7,11 +7,13 @@
 #include "controls/screenmetrics.h"
 #include "controls/typing.h"
 #include "data/datamodule.h"
+#include "data/numbercounter.h"
 #include "engine/error.h"
 #include "transactions/documentkinds.h"
 #include "ui_enterinventory.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QScopeGuard>
@@ -27,7 +29,7 @@ constexpr int shownRows = 16;
 
 CountDrafts draftsOf(TDataModuleTallymere &data)
 {
-    return CountDrafts(data.databaseTallymere().connection().location(), data.currentUser());
+    return CountDrafts(CountDrafts::nameOf(data.databaseTallymere()), data.currentUser());
 }
 
 } // namespace
@@ -120,6 +122,7 @@ void TFormEnterInventory::closeList()
     m_count.close();
     m_ui->wwDBGridInventory->setHint({});
     m_ui->wwDBGridInventory->listChanged();
+    forgetUnknown();
     showStatus();
 }
 
@@ -132,29 +135,34 @@ void TFormEnterInventory::locationChosen(int index)
         return;
     }
     closeList();
-    const auto shown = qScopeGuard([this] {
-        showList();
-        showReady();
-    });
-    openLocation(index);
+    bool goesOn = false;
+    {
+        const auto shown = qScopeGuard([this] {
+            showList();
+            showReady();
+        });
+        goesOn = openLocation(index);
+    }
+    if (goesOn)
+        m_ui->wwDBGridInventory->countItem(m_count.list().behindLastCounted());
 }
 
-void TFormEnterInventory::openLocation(int index)
+bool TFormEnterInventory::openLocation(int index)
 {
     {
         const WaitCursor hourglass;
         if (!m_count.open(m_ui->RzComboBoxLocation->itemData(index).toInt(), zeroCountsWanted()))
-            return;
+            return false;
     }
     m_chosen = index;
-    offerDraft();
+    return offerDraft();
 }
 
-void TFormEnterInventory::offerDraft()
+bool TFormEnterInventory::offerDraft()
 {
     const std::optional<CountDraft> draft = m_count.draft();
     if (!draft)
-        return;
+        return false;
     const QString question =
         plural(draft->counts.size(),
                tr("You have counted %n item at this location and not calculated the usage yet (%1).\n"
@@ -164,21 +172,37 @@ void TFormEnterInventory::offerDraft()
             .arg(QLocale::system().toString(draft->saved, QLocale::ShortFormat));
     switch (context().prompts.yesNoCancel(question)) {
     case Answer::Yes:
-        return resume(*draft);
+        resume(*draft);
+        return true;
     case Answer::No:
-        return m_count.dropDraft();
+        m_count.dropDraft();
+        return false;
     case Answer::Cancel:
         break;
     }
     m_count.close();
     m_ui->RzComboBoxLocation->setCurrentIndex(-1);
+    return false;
 }
 
 void TFormEnterInventory::resume(const CountDraft &draft)
 {
     m_count.resume(draft);
+    m_ui->cboSearchOrder->setCurrentIndex(static_cast<int>(draft.order));
     m_ui->RzCheckBoxIncludeZeroCountItems->setChecked(draft.zeroCounts == ZeroCounts::Included);
     m_ui->wwDBDateTimePickerInventoryDate->setDate(draft.date);
+}
+
+void TFormEnterInventory::readAgain()
+{
+    QString news;
+    {
+        const WaitCursor hourglass;
+        news = m_count.readAgain();
+    }
+    showList();
+    if (!news.isEmpty())
+        context().prompts.inform(news);
 }
 
 ZeroCounts TFormEnterInventory::zeroCountsWanted() const
@@ -213,10 +237,12 @@ void TFormEnterInventory::sortBy(CountList::Order order)
 
 void TFormEnterInventory::searchTyped(const QString &text)
 {
-    const int found = text.isEmpty() ? -1 : m_count.list().rowStartingWith(text);
-    m_ui->wwDBGridInventory->showItem(found);
-    if (found >= 0)
-        showStatus();
+    if (text.isEmpty())
+        return forgetUnknown();
+    if (isQuantityOfUnknown(text))
+        return;
+    forgetUnknown();
+    showFound(m_count.list().rowStartingWith(text));
 }
 
 // An item number leads to its item whatever the order is.
@@ -226,12 +252,51 @@ void TFormEnterInventory::searchEntered()
     m_ui->wwIncrementalSearch1->selectAll();
     if (text.isEmpty())
         return m_ui->wwDBGridInventory->setFocus();
+    if (isQuantityOfUnknown(text))
+        return refuseSearch(tr("%1 is not taken: '%2' is not in the list").arg(text, m_unknown));
     const int numbered = m_count.list().rowOfNumber(text);
     const int found = numbered >= 0 ? numbered : m_count.list().rowStartingWith(text);
-    if (found < 0)
-        return showStatus(tr("'%1' is not in the list").arg(text));
-    showStatus();
+    if (found < 0) {
+        m_unknown = text;
+        return refuseSearch(tr("'%1' is not in the list").arg(text));
+    }
+    forgetUnknown();
+    showFound(found);
     m_ui->wwDBGridInventory->countItem(found);
+}
+
+// Numbers that counters give are not as small as most quantities. Any other number is one of an item or nothing: the
+// beginning of a number is none.
+bool TFormEnterInventory::isQuantityOfUnknown(const QString &text) const
+{
+    if (m_unknown.isEmpty())
+        return false;
+    bool isNumber = false;
+    const QString number = QString(text).replace(RegionalSettings::system().decimalPoint, u'.').trimmed();
+    const double quantity = QLocale::c().toDouble(number, &isNumber);
+    return isNumber && (quantity < firstNumber || m_count.list().rowOfNumber(text.trimmed()) < 0);
+}
+
+// Where who counts looks, and to be heard by who does not.
+void TFormEnterInventory::refuseSearch(const QString &said)
+{
+    m_ui->lblNotFound->setText(said);
+    m_ui->lblNotFound->setToolTip(said);
+    QApplication::beep();
+}
+
+void TFormEnterInventory::forgetUnknown()
+{
+    m_unknown.clear();
+    m_ui->lblNotFound->clear();
+    m_ui->lblNotFound->setToolTip({});
+}
+
+void TFormEnterInventory::showFound(int item)
+{
+    m_ui->wwDBGridInventory->showItem(item);
+    if (item >= 0)
+        showStatus();
 }
 
 bool TFormEnterInventory::takeKey(QKeyEvent *event)
@@ -354,9 +419,7 @@ QString TFormEnterInventory::hintText() const
 void TFormEnterInventory::bitBtnOKClick()
 {
     m_ui->wwDBGridInventory->commitEntry();
-    switch (context().prompts.yesNoCancel(
-        tr("Proceed with calculating the item usage based\r\nupon the quantities that have been entered?"),
-        Tallymere::caption(Question::Confirm))) {
+    switch (context().prompts.yesNoCancel(calculationQuestion(), Tallymere::caption(Question::Confirm))) {
     case Answer::Yes:
         return m_ui->ActionCalculateConsumption->trigger();
     case Answer::No:
@@ -367,14 +430,28 @@ void TFormEnterInventory::bitBtnOKClick()
     }
 }
 
-// Done, it can be done again for another date or location.
+QString TFormEnterInventory::calculationQuestion() const
+{
+    const QString question =
+        tr("Proceed with calculating the item usage based\r\nupon the quantities that have been entered?");
+    const int left = m_count.list().notCounted();
+    if (left == 0)
+        return question;
+    return question + u"\n\n"_s
+        + (left == 1 ? tr("1 item has not been counted. It keeps its recorded quantity.")
+                     : tr("%1 items have not been counted. They keep their recorded quantities.").arg(left));
+}
+
+// Done, it can be done again for another date or location. A location that was refused is tried once more.
 void TFormEnterInventory::actionCalculateConsumptionExecute()
 {
+    if (!m_count.isOpen())
+        return locationChosen(m_ui->RzComboBoxLocation->currentIndex());
     m_ui->BitBtnOK->setEnabled(false);
-    std::optional<CalculatedUsage> usage;
+    StockCount::Calculation calculation;
     try {
         const WaitCursor hourglass;
-        usage = m_count.calculate();
+        calculation = m_count.calculate();
     } catch (const SilentAbort &) {
         showReady();
         throw;
@@ -382,13 +459,18 @@ void TFormEnterInventory::actionCalculateConsumptionExecute()
         m_ui->BitBtnOK->setEnabled(error.isHeldByOthers()); // nothing has been written then
         throw;
     }
+    if (calculation.readsAgain) {
+        showReady();
+        return readAgain();
+    }
     m_ui->wwDBGridInventory->listChanged();
     refreshOpenList(DocumentKinds::usage().listScreen);
-    showStatus(usage ? plural(usage->lines,
-                              tr("Usage %1 has been written, %n line. Post it when it has been looked over."),
-                              tr("Usage %1 has been written, %n lines. Post it when it has been looked over."))
-                           .arg(usage->number)
-                     : tr("No item holds less than recorded: no usage has been written."));
+    showStatus(calculation.usage
+                   ? plural(calculation.usage->lines,
+                            tr("Usage %1 has been written, %n line. Post it when it has been looked over."),
+                            tr("Usage %1 has been written, %n lines. Post it when it has been looked over."))
+                         .arg(calculation.usage->number)
+                   : tr("No item holds less than recorded: no usage has been written."));
 }
 
 EntryScreen::Pending TFormEnterInventory::pending() const
