@@ -36,7 +36,7 @@ protected:
     MemorySettings settings;
     SpokenPrompts prompts;
     CountedProgress progress;
-    const int documents = std::max(40, qEnvironmentVariableIntValue("TALLYMERE_RACE_DOCUMENTS"));
+    const int documents = std::max(100, qEnvironmentVariableIntValue("TALLYMERE_RACE_DOCUMENTS"));
 
     void fill()
     {
