@@ -46,7 +46,7 @@ QString excerpt(const QString &text)
         return character == u'\n' || character == u'\r' || character.category() == QChar::Separator_Line
             || character.category() == QChar::Separator_Paragraph;
     });
-    const QString first = oneLine(whole.left(lineEnd - whole.begin())).trimmed();
+    const QString first = whole.left(lineEnd - whole.begin()).trimmed();
     if (lineEnd == whole.end() && characterCount(first) <= most)
         return first;
     return firstCharacters(first, most - mark.size()) + mark;

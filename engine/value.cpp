@@ -133,7 +133,7 @@ Value asText(const Value &value)
     if (text.contains(QChar(u'\0')) || !text.isValidUtf16()) {
         raise(ErrorCode::BadValue,
               Texts::tr("The text \"%1\" holds a character that cannot be stored.")
-                  .arg(excerpt(QString::fromUtf8(text.toUtf8()))));
+                  .arg(excerpt(QString::fromUtf8(text.toUtf8()).remove(QChar(u'\0')))));
     }
     return text;
 }

@@ -44,7 +44,9 @@ protected:
         table->open();
         grid.allowSelection();
         grid.resize(400, 400);
-        grid.setDataSet(*table, {{u"Name"_s, u"Name"_s}, {u"Twice"_s, u"Twice"_s}, {u"DishNo"_s, u"No."_s}}, guard);
+        grid.setDataSet(*table,
+                        {{u"Name"_s, u"Name"_s, 200}, {u"Twice"_s, u"Twice"_s, 120}, {u"DishNo"_s, u"No."_s, 120}},
+                        guard);
     }
 
     int rows() const { return grid.model()->rowCount(); }
@@ -222,7 +224,7 @@ TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
     EXPECT_EQ(grid.search()->text(), QString());
 }
 
-// Name, twice and number want 80 design pixels each; the number takes what is left over.
+// The number takes what is left over.
 TEST_F(ListGridTest, lackOfWidthIsShared)
 {
     grid.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -234,19 +236,20 @@ TEST_F(ListGridTest, lackOfWidthIsShared)
             all << grid.columnWidth(i);
         return all;
     };
-    const int wanted = scaled(&grid, 80);
-    EXPECT_EQ(widths(3 * wanted + 50), (QList<int>{wanted, wanted, wanted + 50}));
-    const int least = widths(1)[0];
-    EXPECT_LT(least, wanted);
-    EXPECT_GE(least, grid.fontMetrics().horizontalAdvance(u"Description"_s.left(12)));
+    const QList<int> wanted{scaled(&grid, 200), scaled(&grid, 120), scaled(&grid, 120)};
+    const int all = std::accumulate(wanted.begin(), wanted.end(), 0);
+    EXPECT_EQ(widths(all + 50), (QList<int>{wanted[0], wanted[1], wanted[2] + 50}));
+    const QList<int> narrow = widths(all - 20);
+    EXPECT_EQ(std::accumulate(narrow.begin(), narrow.end(), 0), all - 20);
+    const QList<int> least = widths(1);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_LT(narrow[i], wanted[i]);
+        EXPECT_LT(least[i], narrow[i]);
+        EXPECT_GE(least[i], grid.fontMetrics().horizontalAdvance(u"Dish descrip"_s));
+    }
     EXPECT_GT(grid.horizontalScrollBar()->maximum(), 0) << "the rest is scrolled";
-    const QList<int> narrow = widths(3 * wanted - 6);
-    EXPECT_EQ(std::accumulate(narrow.begin(), narrow.end(), 0), 3 * wanted - 6);
-    EXPECT_LT(narrow[0], wanted);
-    EXPECT_LT(narrow[2], wanted);
     grid.horizontalHeader()->resizeSection(1, 150); // by the user
-    EXPECT_EQ(widths(1), (QList<int>{least, 150, least}));
-    EXPECT_EQ(columnWidths(grid),
-              u"Name=%1 Twice=%2"_s.arg(80.0, 0, 'f', 2).arg(150 / fontFactor(&grid), 0, 'f', 2));
-    EXPECT_EQ(widths(5 * wanted)[1], 150);
+    EXPECT_EQ(widths(1), (QList<int>{least[0], 150, least[2]}));
+    EXPECT_EQ(columnWidths(grid), u"Name=200.00 Twice=%1"_s.arg(150 / fontFactor(&grid), 0, 'f', 2));
+    EXPECT_EQ(widths(2 * all)[1], 150);
 }

@@ -77,7 +77,7 @@ TEST_P(DocumentKeys, ThatDocumentsOrLinesHaveAreNoneForACount)
                         "UPDATE IAdjust SET Posted = true"_s);
         ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
         count.count(0, counted);
-        const auto usage = count.calculate();
+        const auto usage = count.calculate().usage;
         ASSERT_TRUE(usage);
         keys << QString::number(usage->id);
     }
