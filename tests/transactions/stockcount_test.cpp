@@ -260,7 +260,7 @@ TEST_P(CountTest, ReadsTheListAgainAndKeepsWhatHasBeenCounted)
     EXPECT_EQ(rows().first(), u"A10 10 -> 9"_s);
 
     kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s);
-    EXPECT_TRUE(count.readAgain().endsWith("1 item(s) have been counted above what is recorded now."_L1));
+    EXPECT_TRUE(count.readAgain().endsWith("1 item has been counted above what is recorded now."_L1));
     EXPECT_EQ(rows(), (QStringList{u"A10 8 -> 9"_s, u"B1 2.5 -> 1"_s, u"A11 5"_s}));
     EXPECT_EQ(count.list().costs(), (ItemCosts{{2, Engine::Money::fromDouble(7)}}));
     EXPECT_EQ(count.draft()->recorded.value(1), 8);
