@@ -31,14 +31,35 @@ qint64 truncated(double number)
     return static_cast<qint64>(number);
 }
 
-// The shortest digits that read back the same, without an exponent.
+// The same number without its exponent: "-1.5e+20" as "-150000000000000000000".
+QString withoutExponent(const QString &text)
+{
+    const qsizetype e = text.indexOf(u'e');
+    if (e < 0)
+        return text; // infinite
+    const bool negative = text.startsWith(u'-');
+    QString digits = text.mid(negative ? 1 : 0, e - (negative ? 1 : 0));
+    digits.remove(u'.');
+    const int exponent = text.mid(e + 1).toInt(); // of the first digit
+    if (exponent < 0)
+        digits.prepend(u"0."_s + QString(-exponent - 1, u'0'));
+    else
+        digits = digits.leftJustified(exponent + 1, u'0');
+    return negative ? u'-' + digits : digits;
+}
+
+// The shortest digits that read back the same.
 QString numberText(double number)
 {
     if (number == 0)
         return u"0"_s;
-    std::array<char, 512> buffer; // the smallest number has 324 zeros, the largest 309 digits
-    const auto end = std::to_chars(buffer.begin(), buffer.end(), number, std::chars_format::fixed);
-    return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
+    const double size = std::fabs(number);
+    const bool plain = size >= 1e-6 && size < 1e15;
+    std::array<char, 64> buffer{};
+    const auto end = plain ? std::to_chars(buffer.begin(), buffer.end(), number, std::chars_format::fixed)
+                           : std::to_chars(buffer.begin(), buffer.end(), number, std::chars_format::scientific);
+    const QString text = QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
+    return plain ? text : withoutExponent(text);
 }
 
 QDateTime parseDateTime(const QString &text)

@@ -8,6 +8,7 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
 using Engine::Money;
 
 namespace Tallymere {
@@ -20,6 +21,12 @@ constexpr Money largeAmount = Money::fromTenThousandths(1'000'000'0000);
 
 QString quantityText(double quantity) { return quantityFormat().display(Engine::Value(quantity)); }
 QString costText(double cost) { return currencyFormat().display(Engine::Value(cost)); }
+
+QString shortened(const QString &number)
+{
+    constexpr qsizetype shown = 40;
+    return number.size() > shown ? number.left(shown) + u"..."_s : number;
+}
 
 Money amountOf(const EnteredFigures &figures)
 {
@@ -35,7 +42,7 @@ void requireSensibleQuantity(double quantity, const QString &column)
     if (!(std::fabs(quantity) <= most))
         throw RuleError(
             TransactionsTexts::tr("A quantity of %1 cannot be meant. It may be %2 at most, or %3 at least.")
-                .arg(quantityText(quantity), quantityText(most), quantityText(-most)),
+                .arg(shortened(quantityText(quantity)), quantityText(most), quantityText(-most)),
             column);
 }
 

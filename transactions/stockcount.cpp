@@ -136,6 +136,7 @@ void StockCount::setDate(QDate date)
 
 std::optional<QString> StockCount::questionOf(int row, double quantity) const
 {
+    requireSensibleQuantity(quantity, u"Quantity"_s);
     CountRow counted = m_list.row(row);
     if (counted.typed == quantity)
         return std::nullopt;

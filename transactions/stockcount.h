@@ -37,7 +37,7 @@ public:
 
     void sortBy(CountList::Order order) { m_list.sortBy(order); }
     // What is asked before a count is taken that is large, by itself or by what it differs in value; nothing of others, and
-    // of one that has been taken already.
+    // of one that has been taken already. Throws RuleError for one beyond what can be meant.
     std::optional<QString> questionOf(int row, double quantity) const;
     // Each keeps the draft.
     void setDate(QDate date); // of the inventory

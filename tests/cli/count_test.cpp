@@ -55,8 +55,8 @@ TEST_P(CountCommand, LargeQuantitiesNeedAYesAndAbsurdOnesAreRefused)
     for (const QStringList &more : {QStringList(), QStringList(u"--yes"_s)}) {
         const CliResult absurd = count("ItemNo,Quantity\nA1,1e308\n", more);
         EXPECT_EQ(absurd.status, 1);
-        EXPECT_TRUE(absurd.errors.startsWith("count.csv:2: A quantity of 1"_L1)) << absurd;
-        EXPECT_FALSE(absurd.errors.contains("e+"_L1)) << absurd;
+        EXPECT_TRUE(absurd.errors.startsWith("count.csv:2: A quantity of 100,000,000,000,000,000,000,000,"_L1))
+            << absurd;
     }
     const CliResult large = count("ItemNo,Quantity\nA1,1000000\n");
     EXPECT_EQ(large.status, 1);

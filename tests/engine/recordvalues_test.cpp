@@ -70,6 +70,8 @@ TEST(ValueTest, WritesNumbersWithTheDigitsThatReadBackTheSame)
                                                 {1e20, u"100000000000000000000"_s},
                                                 {1e15, u"1000000000000000"_s},
                                                 {1e-9, u"0.000000001"_s},
+                                                {-1.25e23, u"-125000000000000000000000"_s},
+                                                {-1.25e-7, u"-0.000000125"_s},
                                                 {123456789.25, u"123456789.25"_s}};
     for (const auto &[number, text] : cases) {
         EXPECT_EQ(Value(number).toText(), text);

@@ -78,7 +78,7 @@ protected:
 TEST_F(CountScreenTest, ALargeQuantityIsAskedAboutOnce)
 {
     EXPECT_EQ(status(), QString());
-    kitchen.setStock(1, 1, 15'000'000, 1.5);
+    kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 15000000 WHERE ItemID = 1"_s);
     choose(u"Office"_s);
     search("A10");
     prompts.ok = false;

@@ -218,15 +218,15 @@ TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
 
 TEST_F(ListScreensTest, aFigureThatItsColumnIsTooNarrowForShowsInTheStatusLine)
 {
-    kitchen.setStock(1, 1, 123'456'789.5, 2);
+    kitchen.setStock(1, 1, 123'457'000, 2);
     kitchen.setStock(2, 1, 5, 2);
     open<TfrmInvTotals>();
     const auto *figures = child<QLabel>(*list, "lblFigures");
-    EXPECT_EQ(row(0).last(), u"123,456,789.5"_s);
+    EXPECT_EQ(row(0).last(), u"123,457,000"_s);
     EXPECT_EQ(figures->text(), QString());
     grid->horizontalHeader()->setStretchLastSection(false);
     grid->setColumnWidth(3, 30);
-    EXPECT_EQ(figures->text(), u"Quantity On Hand: 123,456,789.5"_s);
+    EXPECT_EQ(figures->text(), u"Quantity On Hand: 123,457,000"_s);
     press(Qt::Key_Down);
     EXPECT_EQ(figures->text(), QString());
 }
