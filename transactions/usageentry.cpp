@@ -96,14 +96,19 @@ Money UsageEntry::extAmount(const Engine::DataSet &line)
     return {};
 }
 
-Money UsageEntry::sumOfLines()
+// Nothing where they come to more than an amount can be; lines that were stored so can still be put right.
+std::optional<Money> UsageEntry::sumOfLines()
 {
     const int item = lines().fieldIndex(u"ItemID");
     const int amount = lines().fieldIndex(u"ExtAmount");
     Money sum;
-    for (int i = 0; i < lines().recordCount(); ++i) {
-        m_costs.hold(lines().valueAt(i, item));
-        sum = sum + lines().valueAt(i, amount).toMoney();
+    try {
+        for (int i = 0; i < lines().recordCount(); ++i) {
+            m_costs.hold(lines().valueAt(i, item));
+            sum = sum + lines().valueAt(i, amount).toMoney();
+        }
+    } catch (const Engine::AmountTooLarge &) {
+        return std::nullopt;
     }
     return sum;
 }
@@ -123,14 +128,14 @@ Money UsageEntry::totalWithLine()
     return m_total.value_or(Money()) - m_amountBefore + lines().money(u"ExtAmount");
 }
 
-void UsageEntry::lineSaved() { setTotal(totalWithLine()); }
+void UsageEntry::lineSaved() { setTotal(m_total ? totalWithLine() : sumOfLines()); }
 
-void UsageEntry::lineRemoved() { setTotal(m_total.value_or(Money()) - m_amountBefore); }
+void UsageEntry::lineRemoved() { setTotal(m_total ? *m_total - m_amountBefore : sumOfLines()); }
 
-void UsageEntry::setTotal(Money total)
+void UsageEntry::setTotal(std::optional<Money> total)
 {
     m_total = total;
-    header().set(u"InvoiceAmount", lines().isEmpty() ? Value() : Value(total));
+    header().set(u"InvoiceAmount", lines().isEmpty() || !total ? Value() : Value(*total));
 }
 
 // Brought back, a line has no unit cost: its beginning stands among the tax codes instead, where it has always been

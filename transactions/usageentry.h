@@ -29,9 +29,9 @@ protected:
 
 private:
     Engine::Money extAmount(const Engine::DataSet &line);
-    Engine::Money sumOfLines();
+    std::optional<Engine::Money> sumOfLines();
     Engine::Money totalWithLine();
-    void setTotal(Engine::Money total);
+    void setTotal(std::optional<Engine::Money> total);
 
     UnitCosts m_costs;
     std::optional<Engine::Money> m_total; // of the lines, from the first change of the visit on

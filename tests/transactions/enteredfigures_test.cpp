@@ -1,4 +1,4 @@
-#include "tests/support/kitchen.h"
+#include "tests/transactions/documents.h"
 #include "transactions/documententry.h"
 #include "transactions/documentkinds.h"
 #include "transactions/quantitycheck.h"
@@ -130,6 +130,19 @@ TEST_P(EnteredLine, TheTotalOfAUsageStaysAnAmount)
     EXPECT_EQ(enter(-1.0, 1.0), QString());
     EXPECT_EQ(stored(), QStringList({u"1"_s, u"-1"_s}));
     EXPECT_EQ(entry->header().text(u"InvoiceAmount"), u"0"_s);
+}
+
+TEST_P(EnteredLine, LinesThatComeToNoAmountCanStillBePutRight)
+{
+    kitchen.execute(u"UPDATE Item SET StandardCost = 900000000000000"_s);
+    addDocument(kitchen, DocumentKinds::usage(), 7, 1, {{1, u"1"_s}, {1, u"1"_s}, {1, u"1"_s}});
+    begin(DocumentKinds::usage());
+    entry->cancel();
+    ASSERT_TRUE(entry->openDocument(7));
+    entry->removeLine();
+    EXPECT_EQ(entry->header().text(u"InvoiceAmount"), QString());
+    entry->removeLine();
+    EXPECT_EQ(entry->header().text(u"InvoiceAmount"), u"900000000000000"_s);
 }
 
 } // namespace
