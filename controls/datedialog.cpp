@@ -2,6 +2,8 @@
 
 #include "ui_datedialog.h"
 
+#include <QAbstractItemView>
+
 namespace Tallymere {
 
 DateDialog::DateDialog(ScreenContext &context, QDate preset, QWidget *parent)
@@ -10,6 +12,7 @@ DateDialog::DateDialog(ScreenContext &context, QDate preset, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->calendar->setSelectedDate(preset);
+    m_ui->calendar->findChild<QAbstractItemView *>()->setAccessibleName(windowTitle());
     connect(m_ui->calendar, &QCalendarWidget::activated, this, &QDialog::accept);
     connect(m_ui->btnOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);

@@ -4,6 +4,7 @@
 #include "base/ruleerror.h"
 
 #include <algorithm>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QCalendarWidget>
 #include <QKeyEvent>
@@ -74,6 +75,7 @@ void DatePicker::showCalendar()
     if (m_latest.isValid())
         calendar->setMaximumDate(m_latest);
     calendar->setSelectedDate(m_date);
+    calendar->findChild<QAbstractItemView *>()->setAccessibleName(tr("Calendar"));
     auto *layout = new QVBoxLayout(popup);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(calendar);

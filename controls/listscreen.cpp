@@ -245,7 +245,7 @@ ListMenu ListScreen::fileMenu(const QString &report)
     std::function<void()> save;
     if (m_context.chooseFileToSave)
         save = [this] { m_output->saveCsv(m_caption); };
-    menu.commands << ListCommand{.name = u"mnuSaveCsv"_s, .caption = tr("&Save as CSV..."), .run = save}
+    menu.commands << ListCommand{.name = u"mnuSaveCsv"_s, .caption = tr("Save as CSV..."), .run = save}
                   << ListCommand{.name = copyName,
                                  .caption = tr("&Copy as Text"),
                                  .run = [this] { m_output->copyRows(); },

@@ -39,8 +39,13 @@ void forEachScreen(ScreenContext &context, QWidget &owner, const std::function<v
         for (const QString &command : {u"mnuFilter"_s, u"mnuFind"_s})
             if (auto *action = window->findChild<QAction *>(command))
                 whileOpen<QDialog>([&] { action->trigger(); }, visit);
+        if (window->isModal())
+            window->hide(); // the others could not be used under it
     }
-    for (QWidget *window : QWidgetList{new TFormAboutTallymereSystem(&owner), new TfrmVContact(context, &owner),
-                                       new TfrmDialerInv(context, &owner), new TfrmItemSearchInv(context, &owner)})
+    for (QWidget *window :
+         QWidgetList{new TFormAboutTallymereSystem(&owner), new TfrmVContact(context, &owner),
+                     new TfrmDialerInv(context, &owner), new TfrmItemSearchInv(context, &owner)}) {
         visit(*window);
+        window->hide();
+    }
 }
