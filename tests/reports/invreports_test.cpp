@@ -271,8 +271,8 @@ TEST_F(InvReportsTest, ASearchGoesOnWithThePagesUntilAKeyStopsIt)
 {
     bool ended = false;
     Printing::ReportLayout layout{.title = u"Rows"_s, .columns = {{.field = u"Text"_s, .title = u"Text"_s}}};
-    auto run = std::make_unique<Printing::ReportRun>(
-        Printing::Report{layout, std::make_unique<EndlessRows>(ended)}, QPageSize::A4, Printing::PageTexts{});
+    auto run = std::make_unique<Printing::ReportRun>(Printing::Report{layout, std::make_unique<EndlessRows>(ended)},
+                                                     QPageSize::A4, Printing::PageTexts{});
     auto *preview = new TfrmPreview(*context, std::move(run), mainWindow.get());
     showActive(*preview);
     const auto *found = child<QLabel>(*preview, "lblFound");
