@@ -9,6 +9,7 @@
 #include "data/datamodule.h"
 #include "data/numbercounter.h"
 #include "engine/error.h"
+#include "engine/linetext.h"
 #include "transactions/documentkinds.h"
 #include "ui_enterinventory.h"
 
@@ -253,12 +254,12 @@ void TFormEnterInventory::searchEntered()
     if (text.isEmpty())
         return m_ui->wwDBGridInventory->setFocus();
     if (isQuantityOfUnknown(text))
-        return refuseSearch(tr("%1 is not taken: '%2' is not in the list").arg(text, m_unknown));
+        return refuseSearch(tr("%1 is not taken: '%2' is not in the list").arg(Engine::excerpt(text), m_unknown));
     const int numbered = m_count.list().rowOfNumber(text);
     const int found = numbered >= 0 ? numbered : m_count.list().rowStartingWith(text);
     if (found < 0) {
-        m_unknown = text;
-        return refuseSearch(tr("'%1' is not in the list").arg(text));
+        m_unknown = Engine::excerpt(text);
+        return refuseSearch(tr("'%1' is not in the list").arg(m_unknown));
     }
     forgetUnknown();
     showFound(found);
@@ -438,8 +439,8 @@ QString TFormEnterInventory::calculationQuestion() const
     if (left == 0)
         return question;
     return question + u"\n\n"_s
-        + (left == 1 ? tr("1 item has not been counted. It keeps its recorded quantity.")
-                     : tr("%1 items have not been counted. They keep their recorded quantities.").arg(left));
+        + plural(left, tr("%n item has not been counted. It keeps its recorded quantity."),
+                 tr("%n items have not been counted. They keep their recorded quantities."));
 }
 
 // Done, it can be done again for another date or location. A location that was refused is tried once more.
