@@ -3,6 +3,7 @@
 #include "data/layouts.h"
 #include "engine/database.h"
 #include "engine/dialect.h"
+#include "engine/groupedwrites.h"
 #include "engine/session.h"
 #include "engine/sqlcondition.h"
 
@@ -10,19 +11,31 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-void rememberSaved(Engine::Database &database, TransType type, qint64 document)
+namespace {
+
+Engine::StatementPtr remembering(Engine::Database &database, TransType type, qint64 document)
 {
     const int size = Layouts::iDocSaved().fields[2].size;
-    database.change([&] {
-        const Engine::StatementPtr remember = database.connection().prepare(
-            u"INSERT INTO IDocSaved (TransType, DocumentID, SavedBy, SavedAt) VALUES (?, ?, ?, ?) "
-            "ON CONFLICT (TransType, DocumentID) DO UPDATE SET SavedBy = excluded.SavedBy, SavedAt = excluded.SavedAt"_s);
-        remember->bindInt(0, static_cast<int>(type));
-        remember->bindInt(1, document);
-        remember->bindText(2, database.session().applicationUser.left(size));
-        remember->bind(3, Engine::Value(database.session().now()));
-        remember->execute();
-    });
+    Engine::StatementPtr remember = database.connection().prepare(
+        u"INSERT INTO IDocSaved (TransType, DocumentID, SavedBy, SavedAt) VALUES (?, ?, ?, ?) "
+        "ON CONFLICT (TransType, DocumentID) DO UPDATE SET SavedBy = excluded.SavedBy, SavedAt = excluded.SavedAt"_s);
+    remember->bindInt(0, static_cast<int>(type));
+    remember->bindInt(1, document);
+    remember->bindText(2, database.session().applicationUser.left(size));
+    remember->bind(3, Engine::Value(database.session().now()));
+    return remember;
+}
+
+} // namespace
+
+void rememberSaved(Engine::Database &database, TransType type, qint64 document)
+{
+    database.change([&] { remembering(database, type, document)->execute(); });
+}
+
+void rememberSaved(Engine::Database &database, TransType type, qint64 document, Engine::Writes &writes)
+{
+    writes.send(*remembering(database, type, document));
 }
 
 QStringList lastSavedBy(Engine::Database &database, TransType type, const std::vector<qint64> &documents)

@@ -295,10 +295,9 @@ StockCount::Calculation StockCount::calculate()
         return {};
     Agreed agreed{.balances = m_balances, .waiting = {}, .costless = {}};
     std::optional<CalculatedUsage> usage;
-    while (!usage) {
+    while (!(usage = writeAsAgreed(agreed))) {
         if (!agreeOn(agreed))
             return {.usage = {}, .readsAgain = true};
-        usage = writeAsAgreed(agreed);
     }
     m_waits = m_isCalculated = true;
     dropDraft();
@@ -366,7 +365,7 @@ void StockCount::agreeOnWaiting(Agreed &agreed) const
         throw SilentAbort();
 }
 
-// Posting holds the balances as well. What has come up since the user was asked is asked about in another turn.
+// Posting holds the balances as well. Nothing where there is something that the user has not been asked about.
 std::optional<CalculatedUsage> StockCount::writeAsAgreed(const Agreed &agreed) const
 {
     Engine::TableLocks books(m_database);

@@ -122,6 +122,7 @@ void write(Engine::Database &database, const UsageHeader &header, const std::vec
     writes.apply([&](Engine::Writes &step) {
         writeHeader(connection, header, step);
         writeLines(connection, header.usage.id, lines, step);
+        rememberSaved(database, TransType::Usage, header.usage.id, step);
     });
     writes.finish();
 }
@@ -166,7 +167,6 @@ CalculatedUsage writeUsage(Engine::Database &database, const std::vector<UsageLi
                                   Engine::RecordLock::anyKey(), TransactionsTexts::tr("A new usage"));
     UsageHeader header{.usage = {}, .location = location, .date = date, .period = periodOf(database, date)};
     number(header.usage, database);
-    rememberSaved(database, TransType::Usage, header.usage.id);
     write(database, header, lines);
     header.usage.lines = static_cast<int>(lines.size());
     return header.usage;
