@@ -27,24 +27,31 @@ long double nearestWhole(long double value)
     return std::trunc(value - 0.5L) < whole ? whole - 1 : whole;
 }
 
-[[noreturn]] void refuseDate(const QString &text)
-{
-    throw RuleError(BaseTexts::tr("'%1' is not a valid date").arg(Engine::excerpt(text)));
-}
-
-QDate readDate(const QString &text, const RegionalSettings &settings)
-{
-    const QDate date = settings.readDate(text);
-    if (!date.isValid())
-        refuseDate(text);
-    return date;
-}
-
 bool isLeapDayOfYear00(const QString &text, QChar separator)
 {
     const QString monthFirst = u"02"_s + separator + u"29"_s + separator + u"00"_s;
     const QString dayFirst = u"29"_s + separator + u"02"_s + separator + u"00"_s;
     return text == monthFirst || text == dayFirst;
+}
+
+QDate readDate(const QString &text, const RegionalSettings &settings)
+{
+    // The year 1900, as which a bare 00 is read, has no 29 February.
+    const bool isLeapDay = isLeapDayOfYear00(text, settings.dateSeparator);
+    return settings.readDate(isLeapDay ? text.chopped(2) + u"2000"_s : text);
+}
+
+// Not valid where the day does not exist in the other century: 29 February of 2100 and the like.
+QDate settledCentury(QDate date)
+{
+    if (!date.isValid())
+        return date;
+    int year = date.year();
+    if (year >= 1900 && year <= 1949)
+        year += 100;
+    else if (year >= 2051)
+        year -= 100;
+    return QDate(year, date.month(), date.day());
 }
 
 } // namespace
@@ -62,24 +69,18 @@ long double roundIt(long double value) { return nearestWhole(withoutNoise(value)
 
 Money toCents(long double value) { return Money::fromLongDouble(roundIt(value * 100) / 100); }
 
-QDate date2000(const QString &text, const RegionalSettings &settings)
+QDate date2000(const QString &text, const RegionalSettings &settings, QDate today, int yearDigits)
 {
-    // The year 1900, as which a bare 00 is read, has no 29 February.
-    if (isLeapDayOfYear00(text, settings.dateSeparator))
-        return readDate(text.chopped(2) + u"2000"_s, settings);
-
-    const QDate date = readDate(text, settings);
-    int year = date.year();
-    if (year >= 1900 && year <= 1949)
-        year += 100;
-    else if (year >= 2051)
-        year -= 100;
-
-    const QDate settled(year, date.month(), date.day());
-    if (!settled.isValid()) // 29 February of 2100 and the like
-        refuseDate(text);
-    return settled;
+    QDate date = settledCentury(readDate(text, settings));
+    if (!date.isValid() && today.isValid())
+        date = settings.readDayAndMonth(text, today);
+    if (!date.isValid())
+        throw RuleError(BaseTexts::tr("'%1' is not a valid date. It is entered as %2.")
+                            .arg(Engine::excerpt(text), settings.shortDatePattern(yearDigits)));
+    return date;
 }
+
+bool isMoreThanAYearAway(QDate date, QDate today) { return date < today.addYears(-1) || date > today.addYears(1); }
 
 QStringList stringToWords(const QString &text, const QString &separator)
 {

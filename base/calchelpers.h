@@ -21,8 +21,13 @@ long double withoutNoise(long double value);
 Engine::Money toCents(long double value);
 
 // Reads a short date and settles its century so that two-digit years fall between 1950 and 2049: years read as 1900
-// to 1949 are moved up by 100, from 2051 on down by 100. Throws RuleError for a text that is no date.
-QDate date2000(const QString &text, const RegionalSettings &settings = RegionalSettings::system());
+// to 1949 are moved up by 100, from 2051 on down by 100. With today given, day and month alone are the date that lies
+// nearest to it. Throws RuleError for a text that is no date, which says how one is written.
+QDate date2000(const QString &text, const RegionalSettings &settings = RegionalSettings::system(), QDate today = {},
+               int yearDigits = 2);
+
+// Whether a date is so far away that it may be a slip.
+bool isMoreThanAYearAway(QDate date, QDate today);
 
 // Splits at every separator; pieces may be empty, and an empty text gives one empty piece.
 QStringList stringToWords(const QString &text, const QString &separator);

@@ -158,16 +158,22 @@ QString dateText(QDate date, const RegionalSettings &settings)
     return date.isValid() ? settings.locale.toString(date, u"dd MMM yy"_s) : QString();
 }
 
-FieldFormat dateFormat(const RegionalSettings &settings, const QString &column)
+QString distantDateQuestion(QDate date, const RegionalSettings &settings)
+{
+    return BaseTexts::tr("%1 is more than a year away from today.\nDo you want this date all the same?")
+        .arg(settings.locale.toString(date, u"d MMM yyyy"_s));
+}
+
+FieldFormat dateFormat(const RegionalSettings &settings, const QString &column, const std::function<QDate()> &today)
 {
     FieldFormat format;
     format.display = [settings](const Value &value) { return dateText(value.toDate(), settings); };
     format.edit = [settings](const Value &value) { return settings.shortDate(value.toDate(), 2); };
-    format.parse = [settings, column](const QString &text) {
+    format.parse = [settings, column, today](const QString &text) {
         if (std::none_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); }))
             return Value();
         try {
-            return Value(date2000(text.trimmed(), settings));
+            return Value(date2000(text.trimmed(), settings, today ? today() : QDate()));
         } catch (const RuleError &error) {
             throw RuleError(error.message(), column);
         }

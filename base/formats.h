@@ -4,6 +4,7 @@
 #include "engine/field.h"
 #include "engine/money.h"
 
+#include <functional>
 #include <optional>
 #include <QString>
 
@@ -22,9 +23,9 @@ Engine::FieldFormat quantityFormat(const RegionalSettings &settings = RegionalSe
                                    const QString &column = {});
 
 // Shown "dd mmm yy", edited as a short date with a two-digit year, read by date2000. A text without any digit (an
-// empty mask) is a null.
+// empty mask) is a null. Where it is known what day it is, day and month alone will do.
 Engine::FieldFormat dateFormat(const RegionalSettings &settings = RegionalSettings::system(),
-                               const QString &column = {});
+                               const QString &column = {}, const std::function<QDate()> &today = {});
 
 // How a text that is no number is refused: as any other number that does not fit, or by what it is.
 enum class NoNumber { AsWrongNumber, AsNoInteger };
@@ -57,6 +58,9 @@ QString currencyEditText(Engine::Money value, const RegionalSettings &settings =
 
 // "24 Nov 26"; an empty text for an invalid date.
 QString dateText(QDate date, const RegionalSettings &settings = RegionalSettings::system());
+
+// Asks about a date that is more than a year away.
+QString distantDateQuestion(QDate date, const RegionalSettings &settings = RegionalSettings::system());
 
 // The calculated field Periodppyyyy: "3/2004".
 QString periodText(int period, int year);

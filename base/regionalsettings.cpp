@@ -1,6 +1,6 @@
 #include "base/regionalsettings.h"
 
-#include <array>
+#include <cstdlib>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -70,9 +70,42 @@ QDate RegionalSettings::readDate(const QString &text) const
     const QString order = partOrder(shortDateFormat);
     const qsizetype yearAt = order.indexOf(u'y');
     int year = digits(parts[yearAt]);
-    if (year >= 0 && parts[yearAt].trimmed().size() <= 2)
+    if (year < 0)
+        return {}; // which would be one before Christ
+    if (parts[yearAt].trimmed().size() <= 2)
         year += 1900;
     return QDate(year, digits(parts[order.indexOf(u'M')]), digits(parts[order.indexOf(u'd')]));
+}
+
+QDate RegionalSettings::readDayAndMonth(const QString &text, QDate nearestTo) const
+{
+    QStringList parts = text.trimmed().split(dateSeparator);
+    QString order = partOrder(shortDateFormat);
+    const qsizetype yearAt = order.indexOf(u'y');
+    if (parts.size() == 3 && parts[yearAt].trimmed().isEmpty())
+        parts.removeAt(yearAt); // as a mask leaves it
+    if (parts.size() != 2)
+        return {};
+    order.remove(yearAt, 1);
+    const int month = digits(parts[order.indexOf(u'M')]);
+    const int day = digits(parts[order.indexOf(u'd')]);
+    constexpr int mostYears = 8; // between two leap days
+    QDate nearest;
+    for (int year = nearestTo.year() - mostYears; year <= nearestTo.year() + mostYears; ++year) {
+        const QDate date(year, month, day);
+        if (date.isValid()
+            && (!nearest.isValid() || std::abs(date.daysTo(nearestTo)) < std::abs(nearest.daysTo(nearestTo))))
+            nearest = date;
+    }
+    return nearest;
+}
+
+QString RegionalSettings::shortDatePattern(int yearDigits) const
+{
+    QStringList parts;
+    for (const QChar part : partOrder(shortDateFormat))
+        parts << QString(part == u'y' ? yearDigits : 2, part.toLower());
+    return parts.join(dateSeparator);
 }
 
 QString RegionalSettings::shortDate(QDate date, int yearDigits) const

@@ -23,9 +23,12 @@ struct RegionalSettings
     // Reads a short date: three numbers in the order of the short date format, joined by the separator. A year of
     // one or two digits is one of the 1900s. Invalid when the text is no date.
     QDate readDate(const QString &text) const;
+    // Reads a short date without its year: that of the year in which it lies nearest to a day, of two the one before.
+    QDate readDayAndMonth(const QString &text, QDate nearestTo) const;
     // The date in the order and with the separator of readDate(): day and month in two digits, the year in the
     // given number of digits (2 or 4).
     QString shortDate(QDate date, int yearDigits) const;
+    QString shortDatePattern(int yearDigits) const; // "mm/dd/yy"
 };
 
 } // namespace Tallymere

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <exception>
+#include <functional>
 #include <QString>
 
 namespace Tallymere {
@@ -42,6 +43,29 @@ public:
 
 private:
     QString m_column;
+};
+
+// A rule asks about what has been entered before it is taken: it may well be a slip. After accept() the same entry goes
+// through. The column, if any, is where the cursor goes for another one.
+class RuleQuestion : public std::exception
+{
+public:
+    RuleQuestion(QString question, QString column, std::function<void()> accept)
+        : m_question(std::move(question))
+        , m_column(std::move(column))
+        , m_accept(std::move(accept))
+    {
+    }
+
+    const QString &question() const { return m_question; }
+    const QString &column() const { return m_column; }
+    void accept() const { m_accept(); }
+    const char *what() const noexcept override { return "asked of the user"; }
+
+private:
+    QString m_question;
+    QString m_column;
+    std::function<void()> m_accept;
 };
 
 } // namespace Tallymere

@@ -34,7 +34,9 @@ public:
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
-        state.expandable = true;
+        const auto *lookup = qobject_cast<const LookupComboBox *>(&m_box);
+        state.readOnly = lookup && lookup->isReadOnly();
+        state.expandable = !state.readOnly;
         state.expanded = m_box.view()->isVisible();
         return state;
     }

@@ -15,6 +15,10 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
+namespace {
+constexpr int yearDigits = 4; // that are shown
+} // namespace
+
 DatePicker::DatePicker(QWidget *parent)
     : QLineEdit(parent)
 {
@@ -35,7 +39,7 @@ void DatePicker::setDate(QDate date)
 
 void DatePicker::showDate()
 {
-    setText(m_date.isValid() ? RegionalSettings::system().shortDate(m_date, 4) : QString());
+    setText(m_date.isValid() ? RegionalSettings::system().shortDate(m_date, yearDigits) : QString());
     setModified(false);
 }
 
@@ -44,15 +48,24 @@ void DatePicker::takeText()
     if (!isModified())
         return;
     try {
-        const QDate typed = date2000(text().trimmed());
+        const QDate typed = date2000(text().trimmed(), RegionalSettings::system(), m_today, yearDigits);
         if (m_latest.isValid() && typed > m_latest)
-            throw RuleError(tr("The latest date is %1").arg(RegionalSettings::system().shortDate(m_latest, 4)));
-        setDate(typed);
+            throw RuleError(
+                tr("The latest date is %1").arg(RegionalSettings::system().shortDate(m_latest, yearDigits)));
+        take(typed);
         Q_EMIT taken();
     } catch (const RuleError &error) {
         showDate();
         Q_EMIT refused(error.message());
     }
+}
+
+void DatePicker::take(QDate date)
+{
+    const QDate before = m_date;
+    setDate(date);
+    if (m_date != before && m_today.isValid() && isMoreThanAYearAway(m_date, m_today))
+        Q_EMIT distantDate(m_date, before);
 }
 
 void DatePicker::keyPressEvent(QKeyEvent *event)
@@ -81,7 +94,7 @@ void DatePicker::showCalendar()
     layout->addWidget(calendar);
     connect(calendar, &QCalendarWidget::activated, this, [this, popup](QDate date) {
         popup->close();
-        setDate(date);
+        take(date);
         selectAll();
     });
     popup->move(mapToGlobal(QPoint(0, height())));

@@ -4,12 +4,16 @@
 #include "controls/fieldbinding.h"
 #include "controls/leaving.h"
 #include "controls/screenmetrics.h"
+#include "controls/typing.h"
 #include "engine/error.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
+#include <QScopedValueRollback>
 #include <QVariant>
 #include <QWidget>
 #include <utility>
@@ -38,6 +42,33 @@ bool isFinal(const std::exception_ptr &failure)
     } catch (...) {
         return false;
     }
+}
+
+bool isQuestion(const std::exception_ptr &failure)
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (const RuleQuestion &) {
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+// What would change the widget if its record were not for reading only.
+bool triesToChange(const QEvent &event, const QWidget &widget)
+{
+    const bool isBox = qobject_cast<const QComboBox *>(&widget);
+    if (event.type() == QEvent::MouseButtonPress)
+        return isBox;
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const auto &key = static_cast<const QKeyEvent &>(event);
+    const bool steps = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || key.key() == Qt::Key_F4;
+    const bool deletes = key.key() == Qt::Key_Delete || key.key() == Qt::Key_Backspace;
+    auto &pressed = const_cast<QKeyEvent &>(key);
+    return isTyped(key) || deletes || (isBox && steps) || pressed.matches(QKeySequence::Paste)
+        || pressed.matches(QKeySequence::Cut);
 }
 
 } // namespace
@@ -137,8 +168,22 @@ void FieldBinder::commit()
 {
     if (m_refusing)
         throw SilentAbort();
+    m_asked = nullptr; // by this
     for (const auto &binding : m_bindings)
-        binding->commit();
+        handOver(*binding);
+}
+
+// Outside of events, so that a question about the entry can be put.
+void FieldBinder::handOver(FieldBinding &binding)
+{
+    try {
+        binding.commit();
+    } catch (const RuleQuestion &question) {
+        if (!m_guard.prompts().confirm(Question::Warning, question.question()))
+            throw SilentAbort(question.column());
+        question.accept();
+        binding.commit();
+    }
 }
 
 bool FieldBinder::hasEntry() const
@@ -159,7 +204,8 @@ bool FieldBinder::revert(QWidget *widget)
 
 void FieldBinder::setReadOnly(bool readOnly)
 {
-    m_readOnly = readOnly;
+    if (std::exchange(m_readOnly, readOnly) == readOnly)
+        return;
     for (const auto &binding : m_bindings)
         binding->setReadOnly(readOnly);
 }
@@ -198,12 +244,35 @@ void FieldBinder::reportLater(const std::exception_ptr &failure)
         Qt::QueuedConnection);
 }
 
+// Once the event is over the cursor comes back to the entry that is asked about, and goes on when it is taken.
+void FieldBinder::askLater(FieldBinding &binding)
+{
+    m_asked = &binding;
+    QMetaObject::invokeMethod(
+        this,
+        [this, asked = &binding] {
+            if (m_asked != asked)
+                return;
+            m_asked = nullptr;
+            const QScopedValueRollback refusing(m_refusing, true);
+            const QPointer<QWidget> next = QApplication::focusWidget();
+            asked->widget()->setFocus();
+            if (!m_guard.run([&] { handOver(*asked); }))
+                selectText(asked->widget());
+            else if (next)
+                next->setFocus();
+        },
+        Qt::QueuedConnection);
+}
+
 // The cursor comes back first, then the box opens.
 void FieldBinder::leave(FieldBinding &binding)
 {
     const std::exception_ptr failure = Guard::attempt([&] { binding.commit(); });
     if (!failure)
         return;
+    if (isQuestion(failure))
+        return askLater(binding);
     m_refusing = true;
     QWidget *widget = binding.widget();
     const QString column = binding.field().name;
@@ -254,6 +323,9 @@ bool FieldBinder::eventFilter(QObject *watched, QEvent *event)
         }
     } else if (event->type() == QEvent::Wheel && qobject_cast<QComboBox *>(watched)) {
         event->ignore(); // a turn of the wheel over a form must not change what it holds
+        return true;
+    } else if (m_readOnly && triesToChange(*event, *binding->widget())) {
+        startEdit(*binding);
         return true;
     }
     return false;

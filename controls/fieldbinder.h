@@ -46,17 +46,22 @@ public:
     // that it is the one that the form shows; throws what commit() does.
     int keyIn(const QString &field);
     // Hands over what has been entered and not handed over yet; throws what refuses it, and SilentAbort while the user
-    // is still to be told of an entry that was refused before, as on leaving it for the button that calls this.
+    // is still to be told of an entry that was refused before, as on leaving it for the button that calls this, or when he
+    // says no to a question about it.
     void commit();
     bool hasEntry() const; // something was entered that commit() would hand over
     // Puts the field's value back into the widget; false when nothing had been entered there.
     bool revert(QWidget *widget);
+    // The record can only be read: its fields look so and accessibility tools are told so. Who types into one all the
+    // same asks the table for the edit, whose refusal says why.
     void setReadOnly(bool readOnly);
     void refresh(); // shows the tables' values, except where an entry waits
 
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void leave(FieldBinding &binding);
+    void askLater(FieldBinding &binding);
+    void handOver(FieldBinding &binding);
     void focusMoved(QWidget *now);
     void startEdit(FieldBinding &binding);
     void reportLater(const std::exception_ptr &failure);
@@ -69,6 +74,7 @@ private:
     bool m_readOnly = false;
     FieldBinding *m_kept = nullptr; // left towards a widget that keeps the entry, or another window
     bool m_refusing = false; // an entry is refused, and that is being told
+    FieldBinding *m_asked = nullptr; // left with an entry about which the user is still to be asked
 };
 
 } // namespace Tallymere

@@ -77,10 +77,12 @@ void FieldBinding::entered()
 namespace {
 
 // What can only be read looks like the form around it.
-void showReadOnly(QLineEdit &edit)
+void showReadOnly(QLineEdit &edit, bool readOnly)
 {
-    QPalette colours = edit.palette();
-    colours.setBrush(QPalette::Base, colours.window());
+    edit.setReadOnly(readOnly);
+    QPalette colours;
+    if (readOnly)
+        colours.setBrush(QPalette::Base, edit.palette().window());
     edit.setPalette(colours);
 }
 
@@ -95,14 +97,13 @@ public:
     {
         if (const QString mask = edit->property("editMask").toString(); !mask.isEmpty())
             m_mask = std::make_unique<MaskedEntry>(edit, mask);
-        if (m_alwaysReadOnly)
-            showReadOnly(*edit);
+        showReadOnly(*edit, m_alwaysReadOnly);
         if (!m_mask && !m_alwaysReadOnly)
             takeOneLine(*edit, size(*edit), field().caption(), [this](const QString &text) { tell(text); });
         QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { entered(); });
     }
 
-    void setReadOnly(bool readOnly) override { m_edit->setReadOnly(readOnly || m_alwaysReadOnly); }
+    void setReadOnly(bool readOnly) override { showReadOnly(*m_edit, readOnly || m_alwaysReadOnly); }
 
     void setActive(bool active) override
     {

@@ -58,6 +58,10 @@ void Guard::report(const std::exception_ptr &failure) const
         m_prompts.error(error.message());
     } catch (const SilentAbort &abort) {
         focus(abort.column());
+    } catch (const RuleQuestion &question) {
+        focus(question.column());
+        if (m_prompts.confirm(Question::Warning, question.question()))
+            question.accept();
     } catch (const Engine::EngineError &error) {
         trace(failure);
         const QScopedValueRollback telling(tellingOfTheStore, error.isOfTheStore());
@@ -94,6 +98,8 @@ QString Guard::columnOf(const std::exception_ptr &failure)
         return error.column();
     } catch (const SilentAbort &abort) {
         return abort.column();
+    } catch (const RuleQuestion &question) {
+        return question.column();
     } catch (...) {
         return {};
     }

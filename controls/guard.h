@@ -13,7 +13,8 @@ namespace Tallymere {
 
 // The one place where what stops a handler is shown. A refusal by a rule moves the focus to the widget of the
 // refused column and shows its message in the standard error box; a silent stop moves the focus only; an error of
-// the engine is shown as it stands. Nothing gets past it into the event loop.
+// the engine is shown as it stands. A rule's question that nobody else has put is put here: who says yes can enter the
+// same again. Nothing gets past it into the event loop.
 class Guard
 {
 public:

@@ -76,8 +76,13 @@ void LineGrid::setLines(Engine::Table &lines, const QList<GridColumn> &columns, 
 
 void LineGrid::setReadOnly(bool readOnly)
 {
-    m_readOnly = readOnly;
-    viewport()->update();
+    if (std::exchange(m_readOnly, readOnly) == readOnly)
+        return;
+    m_model->setReadOnly(readOnly);
+    QPalette colours;
+    if (readOnly)
+        colours.setBrush(QPalette::Base, palette().window());
+    setPalette(colours);
 }
 
 QString LineGrid::shownHint() const { return m_readOnly ? QString() : EntryGrid::shownHint(); }
@@ -216,7 +221,8 @@ void LineGrid::search()
 // the lines have been read anew.
 bool LineGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
-    const bool opens = index.flags().testFlag(Qt::ItemIsEditable) && !editor() && editTriggers().testFlag(trigger);
+    const bool opens =
+        index.isValid() && m_model->takesText(index.column()) && !editor() && editTriggers().testFlag(trigger);
     if (!opens || !m_actions.begin)
         return EntryGrid::edit(index, trigger, event);
     const int column = index.column();

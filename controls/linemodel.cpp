@@ -27,10 +27,13 @@ bool LineModel::isUntouched() const { return m_lines.state() == TableState::Inse
 Qt::ItemFlags LineModel::flags(const QModelIndex &index) const
 {
     Qt::ItemFlags flags = TableModel::flags(index);
-    flags.setFlag(Qt::ItemIsEditable,
-                  index.isValid() && !m_options.fixed.contains(columns()[index.column()].field));
+    flags.setFlag(Qt::ItemIsEditable, index.isValid() && !m_readOnly && takesText(index.column()));
     return flags;
 }
+
+bool LineModel::takesText(int column) const { return !m_options.fixed.contains(columns()[column].field); }
+
+void LineModel::setReadOnly(bool readOnly) { m_readOnly = readOnly; }
 
 bool LineModel::stopsAt(int column, Way way) const
 {

@@ -20,6 +20,8 @@ public:
               QObject *parent);
 
     int currentRow() const; // of the table's current record; -1 when there is none
+    void setReadOnly(bool readOnly); // no cell can be edited then
+    bool takesText(int column) const; // unless it is for reading only
     bool isUntouched() const; // the current record is new, and nothing has been entered in it
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
@@ -36,6 +38,7 @@ private:
 
     Engine::Table &m_lines;
     const LineOptions m_options;
+    bool m_readOnly = false;
 };
 
 // A selection that asks before the cursor leaves its row, and stays where it is when that is refused.

@@ -5,9 +5,12 @@
 #include "controls/screenmetrics.h"
 #include "controls/typing.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyleOptionFrame>
+#include <QStylePainter>
 #include <QTableView>
 
 using namespace Qt::StringLiterals;
@@ -77,6 +80,17 @@ void LookupComboBox::setChosenId(int id)
         return;
     m_id = m_shown = id;
     showRow();
+}
+
+void LookupComboBox::setReadOnly(bool readOnly)
+{
+    if (std::exchange(m_readOnly, readOnly) == readOnly)
+        return;
+    QAccessible::State changed;
+    changed.readOnly = true;
+    QAccessibleStateChangeEvent change(this, changed);
+    QAccessible::updateAccessibility(&change);
+    update();
 }
 
 void LookupComboBox::settle()
@@ -192,6 +206,23 @@ void LookupComboBox::focusInEvent(QFocusEvent *event)
     if (m_list && !m_readOnly && !isPending() && !comesBack(event->reason()))
         Guard::attempt([this] { m_list->dataSet().refresh(); });
     QComboBox::focusInEvent(event);
+}
+
+void LookupComboBox::paintEvent(QPaintEvent *event)
+{
+    if (!m_readOnly)
+        return QComboBox::paintEvent(event);
+    QStylePainter painter(this);
+    QStyleOptionFrame frame;
+    frame.initFrom(this);
+    frame.palette.setBrush(QPalette::Base, palette().window());
+    frame.state |= QStyle::State_Sunken | QStyle::State_ReadOnly;
+    frame.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, this);
+    painter.drawPrimitive(QStyle::PE_PanelLineEdit, frame);
+    const int margin = 2 * frame.lineWidth;
+    const QRect text = rect().adjusted(margin, 0, -margin, 0);
+    painter.drawItemText(text, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                         fontMetrics().elidedText(currentText(), Qt::ElideRight, text.width()), QPalette::Text);
 }
 
 void LookupComboBox::focusOutEvent(QFocusEvent *event)

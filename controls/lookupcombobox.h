@@ -30,7 +30,8 @@ public:
     void setChosenId(int id); // shows nothing when the list does not hold it; no signal
     bool isPending() const { return m_shown != m_id; } // moved by keys, not chosen yet
     void settle(); // makes the pending row the choice
-    void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
+    void setReadOnly(bool readOnly); // looks like a line edit that can only be read
+    bool isReadOnly() const { return m_readOnly; }
 
     void showPopup() override;
 
@@ -44,6 +45,7 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void choose(int id);

@@ -71,17 +71,26 @@ void RecordOpener::openNew()
     screen.release()->show();
 }
 
-void RecordOpener::open(int key, const QString &name)
+RecordScreen &RecordOpener::open(int key, const QString &name)
 {
     if (RecordScreen *open = openScreenOf(key)) {
         bringToFront(*open);
-        return;
+        return *open;
     }
     const WaitCursor hourglass;
     std::unique_ptr<RecordScreen> screen = make();
     if (!screen->openRecord(key))
         throw RuleError(Engine::recordGoneText(u'\'' + name + u'\''));
-    screen.release()->show();
+    screen->show();
+    return *screen.release();
+}
+
+void RecordOpener::closeScreensOf(const QList<int> &keys)
+{
+    for (const int key : keys) {
+        if (RecordScreen *open = openScreenOf(key))
+            open->btnCancelClick();
+    }
 }
 
 ListRecordOpener::ListRecordOpener(ScreenContext &context, RecordScreens screens, RecordList &list, QWidget *owner)
@@ -130,9 +139,7 @@ void ListRecordOpener::removeCurrent()
             readAnew();
         throw;
     }
-    // It holds no changes, or the record would not have gone; what has only been typed in it goes with the record.
-    if (RecordScreen *open = openScreenOf(key))
-        open->btnCancelClick();
+    closeScreensOf({key});
 }
 
 } // namespace Tallymere

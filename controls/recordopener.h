@@ -41,7 +41,10 @@ public:
     void openNew();
     // The screen of a record that is open already comes to the front. Raises RuleError, by the name, when there is no
     // such record any more.
-    void open(int key, const QString &name);
+    RecordScreen &open(int key, const QString &name);
+    // Of records that have been deleted. They hold no changes, or those would not have gone; what has only been typed in
+    // them goes with the records.
+    void closeScreensOf(const QList<int> &keys);
 
 protected:
     virtual void follow(int key); // a record has been saved

@@ -1,5 +1,6 @@
 #include "transactions/documententry.h"
 
+#include "base/calchelpers.h"
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/fiscalperiod.h"
@@ -75,7 +76,8 @@ void DocumentEntry::configureFields()
 
     Engine::Field &date = m_header.field(m_kind.dateField);
     date.label = TransactionsTexts::tr("Date");
-    date.format = dateFormat(RegionalSettings::system(), m_kind.dateField);
+    date.format = dateFormat(RegionalSettings::system(), m_kind.dateField, [this] { return today(); });
+    date.format.parse = [this, parse = date.format.parse](const QString &text) { return askedDate(parse(text)); };
 
     m_header.field(u"WarehouseID").label = TransactionsTexts::tr("Warehouse");
     m_lines.field(u"ItemID").label = TransactionsTexts::tr("Item no.");
@@ -109,6 +111,7 @@ bool DocumentEntry::openDocument(int key)
 void DocumentEntry::beginVisit()
 {
     m_visit.begin();
+    m_distantDate = {};
     visitBegins();
 }
 
@@ -264,6 +267,28 @@ void DocumentEntry::chooseInHeader(const QString &field, const Value &value)
     if (!m_header.isEditing())
         m_header.edit();
     m_header.set(field, value);
+}
+
+// Only what is typed comes here: old books are brought in as they are.
+Value DocumentEntry::askedDate(const Value &typed)
+{
+    const QDate date = typed.toDate();
+    const bool isWanted = date == m_distantDate || date == m_header.date(m_kind.dateField);
+    if (date.isValid() && !isWanted && isMoreThanAYearAway(date, today()))
+        throw RuleQuestion(distantDateQuestion(date), m_kind.dateField, [this, date] { m_distantDate = date; });
+    return typed;
+}
+
+void DocumentEntry::chooseDate(QDate date)
+{
+    try {
+        askedDate(date);
+    } catch (const RuleQuestion &question) {
+        if (!m_prompts.confirm(Question::Warning, question.question()))
+            throw SilentAbort(question.column());
+        question.accept();
+    }
+    chooseInHeader(m_kind.dateField, date);
 }
 
 // --- lines ---------------------------------------------------------------------------------------------------
@@ -453,6 +478,14 @@ void DocumentEntry::chooseItemByNumber(const QString &itemNo)
         throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"),
                         u"ItemNo"_s);
     m_lines.set(u"ItemID", *itemId);
+}
+
+bool DocumentEntry::goToLineOf(int itemId, double quantity)
+{
+    if (m_lines.isEditing())
+        return false;
+    const QString both = u"ItemID;"_s + m_kind.lineColumns.constFirst().field;
+    return m_lines.locate(both, {itemId, quantity}) || m_lines.locate(u"ItemID"_s, {itemId});
 }
 
 void DocumentEntry::newLine() { m_lines.append(); }

@@ -72,6 +72,9 @@ public:
     virtual bool chooseByNumber(const QString &field, const QString &number);
     // A choice of the user: puts the header into edit if need be.
     void chooseInHeader(const QString &field, const Engine::Value &value);
+    // The same for the document's date. One more than a year away is asked about, as the one that is typed is by
+    // RuleQuestion; SilentAbort when the user does not want it.
+    void chooseDate(QDate date);
 
     // --- lines -------------------------------------------------------------------------------------------------
     // The column of the line grid that the user is in, by field name. A new item is judged by it: typed as a number
@@ -82,6 +85,8 @@ public:
     // The same by a typed item number, in which letter case is second to a number found as typed; an empty text clears
     // the item. Raises when there is no such item.
     void chooseItemByNumber(const QString &itemNo);
+    // Goes to the line of an item, of several to that with the quantity. False when there is none, or a line is in edit.
+    bool goToLineOf(int itemId, double quantity);
     void newLine(); // appends a line
     void removeLine(); // deletes the current line; a line being entered is dropped
     // Refuses a line without a quantity. Not every kind does so by itself: on a screen it counts as nothing.
@@ -123,6 +128,7 @@ protected:
     bool exists(const QString &table, const QString &keyField, const Engine::Value &key) const;
 
 private:
+    Engine::Value askedDate(const Engine::Value &typed);
     void beginVisit();
     void endVisit();
     void hookHeader();
@@ -157,6 +163,7 @@ private:
     bool m_wasSaved = false;
     QString m_lineColumn;
     QString m_givenNumber;
+    QDate m_distantDate; // that the user wants all the same
 };
 
 } // namespace Tallymere

@@ -49,9 +49,15 @@ QString HistoryView::filterExpression(const Filter &filter)
 
 HistoryView::Source HistoryView::source() const
 {
+    const Source made = document();
+    return made.kind && made.kind->opensFromHistory ? made : Source();
+}
+
+HistoryView::Source HistoryView::document() const
+{
     const int type = m_table.integer(u"TransType");
     for (const DocumentKind *kind : DocumentKinds::all()) {
-        if (static_cast<int>(kind->posting.transType) != type || !kind->opensFromHistory)
+        if (static_cast<int>(kind->posting.transType) != type)
             continue;
         const Value key = m_table.value(kind->keyField);
         return key.isNull() ? Source() : Source{kind, key.toInt()};

@@ -38,6 +38,9 @@ public:
         int key = 0;
     };
     Source source() const;
+    Source document() const; // the same with those that "Source" does not open
+    int itemId() const { return m_table.integer(u"ItemID"); } // of the current row
+    double quantity() const { return m_table.number(u"Quantity"); }
 
 private:
     Engine::Table m_table;

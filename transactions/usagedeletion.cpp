@@ -38,6 +38,7 @@ bool UsageDeletion::run(Prompts &prompts, const QString &user)
     execute(u"DELETE FROM IUsageDet WHERE UsageID IN "
             "(SELECT UsageID FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false)"_s);
     execute(u"DELETE FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false"_s);
+    m_deleted = keys;
     leaveNote(user);
     return true;
 }

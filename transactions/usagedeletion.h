@@ -18,6 +18,7 @@ public:
     // at once while another user has it or edits one of its records, RuleError when a screen of this program does.
     // There is no transaction: an error leaves what was deleted before it, and no note.
     bool run(Prompts &prompts, const QString &user);
+    const QList<int> &deleted() const { return m_deleted; } // keys; also after an error
 
 private:
     QList<int> unposted();
@@ -28,6 +29,7 @@ private:
     Engine::Database &m_database;
     const QDate m_date;
     const QString m_dateText;
+    QList<int> m_deleted;
 };
 
 } // namespace Tallymere

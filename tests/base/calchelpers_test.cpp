@@ -76,6 +76,27 @@ TEST(Date2000, FollowsTheOrderAndSeparatorOfTheUser)
     EXPECT_EQ(yearFirst.shortDate({2004, 3, 7}, 4), u"2004-03-07"_s);
 }
 
+TEST(Date2000, TakesTheNearestYearForDayAndMonthAlone)
+{
+    const QDate today(2026, 3, 20);
+    const std::pair<QString, QDate> cases[] = {
+        {u"3/20"_s, today},         {u"12/31/"_s, {2025, 12, 31}}, {u"9/18"_s, {2026, 9, 18}},
+        {u"9/19"_s, {2025, 9, 19}}, {u"2/29"_s, {2028, 2, 29}},    {u" 4 / 1 /  "_s, {2026, 4, 1}},
+        {u"1/2/3"_s, {2003, 1, 2}},
+    };
+    for (const auto &[text, expected] : cases)
+        EXPECT_EQ(date2000(text, regional(u"M/d/yyyy"_s), today), expected) << text.toStdString();
+    EXPECT_EQ(date2000(u"4/12"_s, regional(u"d/M/yyyy"_s), today), QDate(2025, 12, 4));
+    EXPECT_EQ(date2000(u"/12/4"_s, regional(u"yyyy/M/d"_s), today), QDate(2025, 12, 4));
+    for (const auto &text : {u"2/30"_s, u"13/1"_s, u"5"_s, u"/5"_s, u"1//04"_s, u"1/2/x"_s})
+        EXPECT_THROW(date2000(text, regional(u"M/d/yyyy"_s), today), RuleError) << text.toStdString();
+
+    EXPECT_FALSE(isMoreThanAYearAway({2025, 3, 20}, today));
+    EXPECT_TRUE(isMoreThanAYearAway({2025, 3, 19}, today));
+    EXPECT_FALSE(isMoreThanAYearAway({2027, 3, 20}, today));
+    EXPECT_TRUE(isMoreThanAYearAway({2027, 3, 21}, today));
+}
+
 TEST(Date2000, RefusesWhatIsNoDate)
 {
     for (const auto &text : {u""_s, u"13/1/04"_s, u"2/30/04"_s, u"1/2"_s, u"1/2/3/4"_s, u"a/b/c"_s, u"-1/2/04"_s,

@@ -97,7 +97,12 @@ TEST(DateFormat, ShowsMonthNamesAndReadsShortDates)
     EXPECT_EQ(format.parse(format.edit(date)), date);
     EXPECT_TRUE(format.parse(u"  /  /  "_s).isNull()) << "an empty mask";
     EXPECT_EQ(format.display(Value()), u""_s);
-    EXPECT_EQ(refusal(format, u"11/31/26"_s), u"'11/31/26' is not a valid date"_s);
+    const QString message = u"'%1' is not a valid date. It is entered as mm/dd/yy."_s;
+    for (const QString &wrong : {u"11/31/26"_s, u"11/4"_s, u"tomorrow 1"_s})
+        EXPECT_EQ(refusal(format, wrong), message.arg(wrong));
+    const FieldFormat known = dateFormat(RegionalSettings(), {}, [] { return QDate(2026, 11, 4); });
+    EXPECT_EQ(known.parse(u"2/1"_s), Value(QDate(2027, 2, 1)));
+    EXPECT_EQ(refusal(known, u"13/45/"_s), message.arg(u"13/45/"_s));
 }
 
 TEST(TwoDigitYear, ShowsFourAndTakesTwo)

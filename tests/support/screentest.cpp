@@ -32,6 +32,7 @@ ScreenTest::ScreenTest(Store store)
     mainWindow = std::make_unique<QWidget>();
     new WindowRules(*mainWindow);
     data->sessionTallymere().lockAttempts = 1;
+    data->sessionTallymere().clock = [] { return QDate(2026, 3, 20).startOfDay(); };
 }
 
 ScreenTest::~ScreenTest()

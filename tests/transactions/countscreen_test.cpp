@@ -164,6 +164,19 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     date->setDate(data->today().addDays(-365));
     EXPECT_FALSE(ok->isEnabled());
     EXPECT_EQ(status(), u"The date is a year back or more: choose a later one"_s);
+    date->setFocus();
+    date->selectAll();
+    type("1/1/1<Return>");
+    settle();
+    EXPECT_EQ(prompts.last(),
+              u"Warning: 1 Jan 2001 is more than a year away from today.\nDo you want this date all the same?"_s);
+    EXPECT_EQ(date->date(), QDate(2001, 1, 1));
+    prompts.ok = false;
+    date->selectAll();
+    type("1/2/1<Return>");
+    settle();
+    EXPECT_EQ(date->date(), QDate(2001, 1, 1)) << "as it was";
+    prompts.ok = true;
     date->setDate(data->today().addDays(-364));
     EXPECT_TRUE(ok->isEnabled());
     ok->click();

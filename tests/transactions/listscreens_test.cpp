@@ -3,6 +3,7 @@
 #include "controls/screenmetrics.h"
 #include "master/screens/itemsfind.h"
 #include "tests/support/screentest.h"
+#include "tests/transactions/documents.h"
 #include "transactions/documententry.h"
 #include "transactions/documentfilter.h"
 #include "transactions/documentkinds.h"
@@ -17,6 +18,7 @@
 #include "transactions/screens/invtotals.h"
 #include "transactions/screens/invtotalsfilter.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -135,6 +137,47 @@ TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
     EXPECT_EQ(row(grid->currentIndex().row()).at(2), u"1010"_s);
     EXPECT_TRUE(comesTrue([&] { return history->isActiveWindow(); })) << "where work goes on";
     EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_F(ListScreensTest, postedDocumentsOfAllKindsLookAsTheyAre)
+{
+    for (const DocumentKind *kind : DocumentKinds::all()) {
+        SCOPED_TRACE(qPrintable(kind->name));
+        if (kind == &DocumentKinds::receipt())
+            kitchen.addReceipt(1, 1, 1, {{1, 5, 3.0}});
+        else
+            addDocument(kitchen, *kind, 1, 1, {{1, u"2"_s}});
+        kitchen.execute(u"UPDATE %1 SET Posted = true"_s.arg(kind->headerTable));
+        const std::unique_ptr<RecordScreen> screen(recordScreens(*kind).make(*context, mainWindow.get()));
+        ASSERT_TRUE(screen->openRecord(1));
+        screen->setAttribute(Qt::WA_DeleteOnClose, false);
+        showActive(*screen);
+        int fields = 0;
+        const QList<QWidget *> widgets = screen->findChildren<QWidget *>();
+        for (QWidget *widget : widgets) {
+            if (!widget->property("dataField").isValid() || qobject_cast<QLabel *>(widget))
+                continue;
+            SCOPED_TRACE(qPrintable(widget->objectName()));
+            ++fields;
+            if (qobject_cast<QCheckBox *>(widget)) {
+                EXPECT_FALSE(widget->isEnabled());
+                continue;
+            }
+            EXPECT_TRUE(QAccessible::queryAccessibleInterface(widget)->state().readOnly);
+            widget->setFocus();
+            for (const char *keys : {"9", "<Del>", "<Backspace>"}) {
+                type(keys);
+                EXPECT_EQ(prompts.take(), QStringList(u"inform: "_s + kind->postedRefusal)) << keys;
+            }
+        }
+        EXPECT_GE(fields, 5);
+        auto *lines = child<QTableView>(*screen, "DBGrid1");
+        EXPECT_FALSE(lines->model()->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
+        lines->setFocus();
+        type("9");
+        EXPECT_EQ(prompts.take(), QStringList(u"inform: "_s + kind->postedRefusal));
+        EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM %1 WHERE WarehouseID = 1"_s.arg(kind->headerTable)), 1);
+    }
 }
 
 TEST_F(ListScreensTest, postingIsOfferedOnClosingAndTold)
@@ -314,4 +357,42 @@ TEST_F(ListScreensTest, historyLeadsFromTotalsToTheDocument)
     }));
     EXPECT_EQ(history.windowTitle(), u"Inventory History"_s);
     EXPECT_EQ(rows(), 3);
+}
+
+TEST_F(ListScreensTest, historyOpensDocumentsOnTheLineOfTheItem)
+{
+    kitchen.addReceipt(1, 1, 1, {{2, 4, 1.0}, {1, 5, 3.0}, {3, 1, 1.0}, {1, 6, 3.0}});
+    addDocument(kitchen, DocumentKinds::usage(), 1, 1, {{1, u"2"_s}, {3, u"8"_s}});
+    addDocument(kitchen, DocumentKinds::adjustment(), 1, 1, {{1, u"2"_s}, {2, u"-1"_s}});
+    kitchen.execute(
+        u"INSERT INTO IHist (ItemID, GLYear, GLPeriod, TransType, Quantity, ReceiptID, UsageID, AdjustmentID) "
+        u"VALUES "
+        "(1, 2026, 9, 3, 6, 1, NULL, NULL), (3, 2026, 8, 5, 8, NULL, 1, NULL), (2, 2026, 7, 1, -1, NULL, NULL, 1), "
+        "(3, 2026, 6, 3, 77, 1, NULL, NULL), (4, 2026, 5, 2, 1, NULL, NULL, NULL)"_s);
+    auto &history = open<TfrmInvHistory>();
+    // Which document the row opens, and the item and quantity that the cursor is on there.
+    const std::tuple<int, const DocumentKind *, int, double> cases[] = {{0, &DocumentKinds::receipt(), 1, 6},
+                                                                        {1, &DocumentKinds::usage(), 3, 8},
+                                                                        {2, &DocumentKinds::adjustment(), 2, -1},
+                                                                        {3, &DocumentKinds::receipt(), 3, 1}};
+    for (const auto &[row, kind, item, quantity] : cases) {
+        SCOPED_TRACE(row);
+        showActive(history);
+        grid->setCurrentIndex(grid->model()->index(row, 0));
+        EXPECT_TRUE(history.command(u"mnuOpenDocument"_s)->isEnabled());
+        EXPECT_EQ(history.command(u"mnuSource"_s)->isEnabled(), row != 1);
+        history.command(u"mnuOpenDocument"_s)->trigger();
+        auto *document = findScreen<DocumentScreen>(kind->screen);
+        ASSERT_NE(document, nullptr);
+        auto *lines = child<QTableView>(*document, "DBGrid1");
+        const auto cell = [&](int column) {
+            return lines->currentIndex().siblingAtColumn(column).data().toString();
+        };
+        EXPECT_EQ(cell(0), QString::number(quantity));
+        EXPECT_EQ(cell(1), kitchen.text(u"SELECT ItemNo FROM Item WHERE ItemID = %1"_s.arg(item)));
+        EXPECT_EQ(document->focusWidget(), lines);
+    }
+    grid->setCurrentIndex(grid->model()->index(4, 0));
+    EXPECT_FALSE(history.command(u"mnuOpenDocument"_s)->isEnabled()) << "a sale of the billing application";
+    EXPECT_EQ(prompts.said, QStringList());
 }

@@ -169,6 +169,43 @@ TEST_F(ReceiptScreenTest, typedVendorNumberTouchesTheReceiptWhenItIsTakenOver)
     EXPECT_EQ(kitchen.number(u"SELECT VendorID FROM IReceipt"_s), 2);
 }
 
+TEST_F(ReceiptScreenTest, aDateFarAwayIsAskedAboutOnce)
+{
+    open();
+    auto *date = child<QLineEdit>(*screen, "editReceiptDate");
+    const auto enter = [&](const char *typed) {
+        typeOver(*screen, "editReceiptDate", typed);
+        press(Qt::Key_Tab);
+        settle();
+    };
+    const QString question =
+        u"Warning: 1 Jan %1 is more than a year away from today.\nDo you want this date all the same?"_s;
+    prompts.ok = false;
+    enter("010150");
+    EXPECT_EQ(prompts.take(), QStringList(question.arg(1950)));
+    EXPECT_EQ(focusName(), u"editReceiptDate"_s);
+    EXPECT_EQ(date->text(), u"01/01/50"_s) << "to be mended";
+    prompts.ok = true;
+    press(Qt::Key_Tab);
+    settle();
+    EXPECT_EQ(prompts.take(), QStringList(question.arg(1950)));
+    EXPECT_EQ(date->text(), u"01 Jan 50"_s);
+    EXPECT_NE(focusName(), u"editReceiptDate"_s) << "the cursor has gone on";
+    enter("042026");
+    enter("010150");
+    EXPECT_EQ(prompts.take(), QStringList()) << "the same again";
+    typeOver(*screen, "editReceiptDate", "1/1/1");
+    pressOK();
+    settle();
+    EXPECT_EQ(prompts.take(), (QStringList{question.arg(2001), u"error: Field 'Vendor' must have a value"_s}));
+
+    enter("1201");
+    EXPECT_EQ(date->text(), u"01 Dec 25"_s) << "the year that is nearest";
+    enter("1345");
+    EXPECT_EQ(prompts.take(), QStringList(u"error: '13/45/' is not a valid date. It is entered as mm/dd/yy."_s));
+    screen->btnCancelClick();
+}
+
 TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});

@@ -178,8 +178,12 @@ TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
             }));
         EXPECT_EQ(list->dataSet().recordCount(), 3); // one without a mark is neither posted nor not
     };
+    list->btnEditClick();
+    const QPointer<TfrmUsage> shown = findScreen<TfrmUsage>(u"frmUsage"_s);
+    ASSERT_TRUE(shown);
     kitchen.execute(u"ALTER TABLE History RENAME TO Gone"_s);
     removeByDate(); // leaves no note
+    EXPECT_TRUE(comesTrue([&] { return !shown; })) << "its document is gone";
     EXPECT_TRUE(prompts.last().startsWith("error: "_L1));
     kitchen.execute(u"ALTER TABLE Gone RENAME TO History; "
                     "INSERT INTO IUsage (UsageID, InventoryDate, Posted) VALUES (5, '2026-03-15', false)"_s);

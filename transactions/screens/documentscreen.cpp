@@ -116,9 +116,18 @@ void DocumentScreen::showHeader()
     const bool posted = m_entry->isPosted();
     m_posted->setVisible(posted);
     m_grid->setReadOnly(posted);
+    binder().setReadOnly(posted);
     for (QAction *action : std::as_const(m_popup))
         action->setEnabled(!posted);
     showCaption();
+}
+
+void DocumentScreen::showLineOf(int itemId, double quantity)
+{
+    guard().run([&] {
+        if (m_entry->goToLineOf(itemId, quantity))
+            m_grid->showColumn(numberColumn.toString());
+    });
 }
 
 void DocumentScreen::sizeForLines()

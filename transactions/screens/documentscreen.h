@@ -24,6 +24,9 @@ public:
     void newRecord() override;
     bool openRecord(int key) override;
     std::optional<int> storedKey() const override;
+    // Brings the cursor to the line of an item, of several to that with the quantity. A line being entered stays where
+    // it is.
+    void showLineOf(int itemId, double quantity);
 
 protected:
     DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent);

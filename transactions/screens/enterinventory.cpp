@@ -41,6 +41,7 @@ TFormEnterInventory::TFormEnterInventory(ScreenContext &context, QWidget *parent
     , m_count(context.data.databaseTallymere(), context.prompts, draftsOf(context.data))
 {
     m_ui->setupUi(this);
+    m_ui->wwDBDateTimePickerInventoryDate->setToday(context.data.today());
     m_ui->wwDBDateTimePickerInventoryDate->setDate(context.data.today());
     m_ui->wwDBDateTimePickerInventoryDate->setMaximumDate(StockCount::latestDate(context.data.today()));
     m_ui->cboSearchOrder->addItems({tr("Item No"), tr("Category"), tr("Item"), tr("Standard Cost")}); // as Order
@@ -73,6 +74,10 @@ void TFormEnterInventory::connectControls()
                    &TFormEnterInventory::zeroCountsChosen);
     connect(m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::dateChanged, this,
             &TFormEnterInventory::dateChosen);
+    connect(
+        m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::distantDate, this,
+        [this](QDate date, QDate before) { guard().run([&] { askAboutDate(date, before); }); },
+        Qt::QueuedConnection);
     connect(m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::taken, this, [this] { showStatus(); });
     connect(m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::refused, this, &TFormEnterInventory::showStatus);
     connect(m_ui->cboSearchOrder, &QComboBox::activated, this,
@@ -358,6 +363,16 @@ void TFormEnterInventory::dateChosen()
     m_count.setDate(m_ui->wwDBDateTimePickerInventoryDate->date());
     showReady();
     showStatus();
+}
+
+void TFormEnterInventory::askAboutDate(QDate date, QDate before)
+{
+    DatePicker *picker = m_ui->wwDBDateTimePickerInventoryDate;
+    if (picker->date() != date || context().prompts.confirm(Question::Warning, distantDateQuestion(date)))
+        return;
+    picker->setDate(before);
+    picker->setFocus();
+    picker->selectAll();
 }
 
 bool TFormEnterInventory::hasCountableDate() const

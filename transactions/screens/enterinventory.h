@@ -64,6 +64,7 @@ private:
 
     void countItem(int item, std::optional<double> quantity);
     void dateChosen();
+    void askAboutDate(QDate date, QDate before);
     bool hasCountableDate() const;
     bool isReady() const;
     void showReady();

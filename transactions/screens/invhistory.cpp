@@ -3,6 +3,7 @@
 #include "controls/recordopener.h"
 #include "data/datamodule.h"
 #include "transactions/documentkind.h"
+#include "transactions/screens/documentscreen.h"
 #include "transactions/screens/documentscreens.h"
 #include "transactions/screens/invhistoryfilter.h"
 
@@ -44,6 +45,12 @@ ListDescription TfrmInvHistory::description()
                      .run = [this] { mnuSourceClick(); },
                      .available = [this] { return m_view.source().kind != nullptr; },
                      .popupCaption = tr("Source")},
+                    {.name = u"mnuOpenDocument"_s,
+                     .caption = tr("Open &Document"),
+                     .run = [this] { mnuOpenDocumentClick(); },
+                     .available = [this] { return m_view.document().kind != nullptr; },
+                     .shortcut = QKeySequence(Qt::CTRL | Qt::Key_D),
+                     .popupCaption = tr("Open Document")},
                     refreshCommand()}},
                   helpMenu(tr("Inventory History &Help"))},
         .emptyHint = tr("No history yet. Each line of a document shows here when the document has been posted."),
@@ -52,13 +59,20 @@ ListDescription TfrmInvHistory::description()
 
 StockFilterDialog *TfrmInvHistory::makeFilterDialog() { return new TfrmInvHistoryFilter(context(), this); }
 
-void TfrmInvHistory::mnuSourceClick()
+void TfrmInvHistory::mnuSourceClick() { open(m_view.source()); }
+
+void TfrmInvHistory::mnuOpenDocumentClick() { open(m_view.document()); }
+
+void TfrmInvHistory::open(const HistoryView::Source &source)
 {
-    const HistoryView::Source source = m_view.source();
     if (!source.kind)
         return;
-    RecordOpener(context(), recordScreens(*source.kind), this)
-        .open(source.key, m_view.table().text(u"TransDescription"));
+    const int item = m_view.itemId();
+    const double quantity = m_view.quantity();
+    RecordScreen &screen = RecordOpener(context(), recordScreens(*source.kind), this)
+                               .open(source.key, m_view.table().text(u"TransDescription"));
+    if (auto *document = qobject_cast<DocumentScreen *>(&screen))
+        document->showLineOf(item, quantity);
 }
 
 } // namespace Tallymere

@@ -14,13 +14,16 @@ public:
     TfrmInvHistory(ScreenContext &context, QWidget *parent);
     ~TfrmInvHistory() override;
 
-    void mnuSourceClick(); // opens the document of the current row, if it has one that can be opened
+    // Both open the document of the current row on the line of its item, if it has one. The source is none of usage.
+    void mnuSourceClick();
+    void mnuOpenDocumentClick();
 
 protected:
     StockFilterDialog *makeFilterDialog() override;
 
 private:
     ListDescription description();
+    void open(const HistoryView::Source &source);
 
     HistoryView m_view;
 };

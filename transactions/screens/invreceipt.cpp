@@ -1,7 +1,6 @@
 #include "transactions/screens/invreceipt.h"
 
 #include "controls/screenmetrics.h"
-#include "controls/typing.h"
 #include "data/lookupsdatainv.h"
 #include "transactions/documentkinds.h"
 #include "transactions/receiptentry.h"
@@ -32,31 +31,13 @@ TfrmInvReceipt::~TfrmInvReceipt() = default;
 
 ReceiptEntry &TfrmInvReceipt::receipt() const { return static_cast<ReceiptEntry &>(entry()); }
 
-void TfrmInvReceipt::showHeader()
-{
-    DocumentScreen::showHeader();
-    m_ui->editVendorNo->setReadOnly(entry().isPosted());
-}
-
+// With a vendor number typed, Enter passes over the list of vendors.
 bool TfrmInvReceipt::takeKey(QKeyEvent *event)
 {
-    if (focusWidget() == m_ui->editVendorNo && takeKeyOfVendorNo(*event))
-        return true;
-    return DocumentScreen::takeKey(event);
-}
-
-// With a vendor number typed, Enter passes over the list of vendors. The box of a posted receipt lets letters through,
-// and says what the other fields say.
-bool TfrmInvReceipt::takeKeyOfVendorNo(const QKeyEvent &event)
-{
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (enter && !m_ui->editVendorNo->text().isEmpty()) {
-        m_ui->cboWarehouse->setFocus();
-        return true;
-    }
-    if (!isTyped(event) || !entry().isPosted())
-        return false;
-    guard().run([this] { entry().header().edit(); });
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || focusWidget() != m_ui->editVendorNo || m_ui->editVendorNo->text().isEmpty())
+        return DocumentScreen::takeKey(event);
+    m_ui->cboWarehouse->setFocus();
     return true;
 }
 

@@ -20,12 +20,10 @@ public:
     ~TfrmInvReceipt() override;
 
 protected:
-    void showHeader() override;
     bool takeKey(QKeyEvent *event) override;
 
 private:
     ReceiptEntry &receipt() const;
-    bool takeKeyOfVendorNo(const QKeyEvent &event);
 
     std::unique_ptr<Ui::TfrmInvReceipt> m_ui;
 };

@@ -21,11 +21,17 @@ TfrmUsage::TfrmUsage(ScreenContext &context, QWidget *parent)
 
 TfrmUsage::~TfrmUsage() = default;
 
+void TfrmUsage::showHeader()
+{
+    DocumentScreen::showHeader();
+    m_ui->btnInventoryDate->setEnabled(!entry().isPosted());
+}
+
 void TfrmUsage::btnInventoryDateClick()
 {
     const QDate preset = entry().header().date(u"InventoryDate");
     if (const auto date = DateDialog::choose(context(), preset.isValid() ? preset : context().data.today(), this))
-        entry().chooseInHeader(u"InventoryDate"_s, *date);
+        entry().chooseDate(*date);
     m_ui->editInventoryDate->setFocus();
 }
 

@@ -19,6 +19,7 @@ public:
 
 protected:
     void firstShown() override { sizeForLines(); }
+    void showHeader() override;
 
 private:
     void btnInventoryDateClick();

@@ -64,7 +64,10 @@ void TfrmUsages::mnuDeleteDateClick()
         return;
     UsageDeletion deletion(context().data.databaseTallymere(), *date);
     // A failure half-way has deleted something as well.
-    const auto shown = qScopeGuard([this] { Guard::attempt([this] { refreshList(); }); });
+    const auto shown = qScopeGuard([&] {
+        Guard::attempt([&] { records().closeScreensOf(deletion.deleted()); });
+        Guard::attempt([this] { refreshList(); });
+    });
     deletion.run(context().prompts, context().data.currentUser());
 }
 
