@@ -1,13 +1,7 @@
 #pragma once
 
-#include <QString>
+#include "engine/plural.h"
 
 namespace Tallymere {
-
-// A text that counts, in the form for one or for any other number: plural(3, tr("%n item"), tr("%n items")).
-inline QString plural(qint64 count, QString one, QString many)
-{
-    return (count == 1 ? one : many).replace(QLatin1String("%n"), QString::number(count));
+using Engine::plural;
 }
-
-} // namespace Tallymere

@@ -1,5 +1,6 @@
 #include "cli/csvinput.h"
 
+#include "base/plural.h"
 #include "base/ruleerror.h"
 #include "cli/console.h"
 #include "cli/texts.h"
@@ -36,7 +37,9 @@ void complainOfRows(Console &console, const QString &fileName, const ImportError
     for (size_t i = 0; i < std::min(all.size(), mostErrorsShown); ++i)
         console.complain(onOneLine(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), all[i].message)));
     if (all.size() > mostErrorsShown)
-        console.complain(Texts::tr("%1: %2 more errors").arg(fileName).arg(all.size() - mostErrorsShown));
+        console.complain(plural(static_cast<qint64>(all.size() - mostErrorsShown), Texts::tr("%1: %n more error"),
+                                Texts::tr("%1: %n more errors"))
+                             .arg(fileName));
 }
 
 } // namespace Tallymere::Cli

@@ -1,6 +1,7 @@
 #include "controls/progressbox.h"
 
 #include "base/ruleerror.h"
+#include "controls/screenmetrics.h"
 
 #include <algorithm>
 #include <limits>
@@ -16,6 +17,7 @@ namespace Tallymere {
 
 namespace {
 constexpr qint64 repaintEvery = 50; // ms
+constexpr int leastWidth = 320;
 } // namespace
 
 ProgressBox::ProgressBox(QWidget *window, const QString &what, std::chrono::milliseconds shownAfter)
@@ -24,6 +26,7 @@ ProgressBox::ProgressBox(QWidget *window, const QString &what, std::chrono::mill
 {
     m_box->setObjectName(u"dlgProgress"_s);
     m_box->setWindowTitle(window ? window->windowTitle() : QString());
+    m_box->setMinimumWidth(scaled(m_box.get(), leastWidth));
     auto *label = new QLabel(what, m_box.get());
     label->setTextFormat(Qt::PlainText); // a file's name
     m_box->setLabel(label);

@@ -2,6 +2,7 @@
 
 #include "engine/error.h"
 #include "engine/linetext.h"
+#include "engine/plural.h"
 #include "engine/textsize.h"
 
 namespace Engine {
@@ -45,8 +46,9 @@ Value Field::fit(const Value &value) const
     if (characterCount(fitted.toText()) <= size)
         return fitted;
     raise(ErrorCode::BadValue,
-          Texts::tr("%1: '%2' is longer than %3 characters")
-              .arg(caption(), excerpt(fitted.toText()), QString::number(size)));
+          plural(size, Texts::tr("%1: '%2' is longer than %n character"),
+                 Texts::tr("%1: '%2' is longer than %n characters"))
+              .arg(caption(), excerpt(fitted.toText())));
 }
 
 } // namespace Engine

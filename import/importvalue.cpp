@@ -1,6 +1,7 @@
 #include "import/importvalue.h"
 
 #include "base/formats.h"
+#include "base/plural.h"
 #include "base/ruleerror.h"
 #include "engine/linetext.h"
 #include "engine/textsize.h"
@@ -106,7 +107,9 @@ Value textValue(const ImportColumn &column, const QString &text)
         return text;
     const QString line = Engine::oneLine(text);
     if (Engine::characterCount(line) > column.size)
-        refuse(column, text, ImportTexts::tr("is longer than %1 characters").arg(column.size));
+        refuse(column, text,
+               plural(column.size, ImportTexts::tr("is longer than %n character"),
+                      ImportTexts::tr("is longer than %n characters")));
     return line;
 }
 

@@ -304,6 +304,7 @@ void TfrmPreview::say(const QString &text) { statusBar()->showMessage(text); }
 void TfrmPreview::btnPrintClick()
 {
     stopSearch();
+    statusBar()->clearMessage(); // of the last time
     QPrinter printer(QPrinter::HighResolution);
     Printing::preparePrinter(*m_run, printer);
     proposeFile(printer);
@@ -351,6 +352,7 @@ void TfrmPreview::save(const FileChoice &choice,
                        const std::function<void(const QString &file, Progress &progress)> &write)
 {
     stopSearch();
+    statusBar()->clearMessage(); // of the last time
     const QString saved = saveToChosenFile(m_context, this, choice, [&](const QString &file) {
         ProgressBox progress(this, tr("Saving %1").arg(QDir::toNativeSeparators(file)));
         write(file, progress);
