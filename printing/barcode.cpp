@@ -64,4 +64,14 @@ QList<Fill> barcodeFills(const Barcode &barcode, const QRectF &room)
     return fills;
 }
 
+double barcodeRoom(const QString &text)
+{
+    const double textWidth = TextMeasure::of(TextStyle::Body).width(text);
+    const Barcode barcode = barcodeOf(text);
+    if (barcode.bars.isEmpty())
+        return textWidth;
+    // A dot more, as they begin at a whole one.
+    return std::max(textWidth, ((barcode.modules + quietModules) * mostDots + 1) * dot);
+}
+
 } // namespace Tallymere::Printing

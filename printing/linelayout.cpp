@@ -36,11 +36,16 @@ LineLayout::LineLayout(const ReportLayout &layout, const ReportLines &lines, con
 void LineLayout::placeColumns()
 {
     double shares = 0;
-    for (const Column &column : m_layout.columns)
-        shares += column.width;
+    double shared = m_area.width();
+    for (const Column &column : m_layout.columns) {
+        if (column.room > 0)
+            shared -= widthOf(column, 0);
+        else
+            shares += column.width;
+    }
     double left = m_area.left();
     for (const Column &column : m_layout.columns) {
-        const double width = m_area.width() * column.width / shares;
+        const double width = widthOf(column, shared / shares);
         m_columns.push_back(
             {&column, m_lines.indexOf(column.field), m_lines.indexOf(column.opening.field), left, width - columnGap,
              column.align == Align::Decimal ? TextMeasure::of(TextStyle::Body).width(column.fraction) : 0});
@@ -50,20 +55,32 @@ void LineLayout::placeColumns()
         return;
     m_columns.back().width += columnGap; // up to the margin
     PlacedColumn &first = m_columns.front();
-    if (first.column->align != Align::Left || !first.column->inDetail || first.column->content == Content::Barcode)
+    const bool beginsRows = first.column->inDetail || !first.column->opening.field.isEmpty();
+    if (first.column->align != Align::Left || !beginsRows || first.column->content == Content::Barcode)
         return;
     const double inset = indent * static_cast<double>(std::ranges::count(m_layout.groups, true, &Group::heading));
     first.left += inset; // rows stand below the headings of their groups
     first.width -= inset;
 }
 
-QString LineLayout::groupName(int group, const ReportLine &line) const
+double LineLayout::widthOf(const Column &column, double share) const
+{
+    constexpr double most = 0.45; // of the line
+    return column.room > 0 ? std::min(column.room + columnGap, m_area.width() * most) : column.width * share;
+}
+
+QStringList LineLayout::groupNames(int group, const ReportLine &line) const
 {
     QStringList names;
     for (const QString &field : m_layout.groups[group].fields)
         if (const QString text = line.values[static_cast<size_t>(m_lines.indexOf(field))].toText(); !text.isEmpty())
             names.append(text);
-    return names.isEmpty() ? PrintingTexts::tr("(none)") : names.join("  "_L1);
+    return names.isEmpty() ? QStringList{PrintingTexts::tr("(none)")} : names;
+}
+
+QString LineLayout::groupName(int group, const ReportLine &line) const
+{
+    return groupNames(group, line).join("  "_L1);
 }
 
 LaidLine LineLayout::layOut(const ReportLine &line) const
@@ -212,12 +229,20 @@ LaidLine LineLayout::total(const ReportLine &line) const
             laid.fills.append({QRectF(place.left, -above / 2, place.width, report ? thickRule : thinRule)});
     }
     laid.moveDown(above);
-    const QString label =
-        report ? m_layout.reportTotalText : m_layout.groups[line.group].totalText.arg(groupName(line.group, line));
     const double left = m_area.left() + (report ? 0 : indent * line.group);
-    laid.addText(left, baseline(style, above), style, label, labelRight - left);
+    const QString text = report ? m_layout.reportTotalText : totalText(line, style, labelRight - left);
+    laid.addText(left, baseline(style, above), style, text, labelRight - left);
     laid.height = above + heightOf(style) * (report ? 1.3 : row ? 1.0 : 1.15);
     return laid;
+}
+
+// With the first name alone, which is the number, where there is no room for all of them.
+QString LineLayout::totalText(const ReportLine &line, TextStyle style, double room) const
+{
+    const QString &text = m_layout.groups[line.group].totalText;
+    const QStringList names = groupNames(line.group, line);
+    const QString whole = text.arg(names.join("  "_L1));
+    return TextMeasure::of(style).width(whole) <= room ? whole : text.arg(names.constFirst());
 }
 
 // Above numbers the title ends where their second decimal does: most have no more.

@@ -30,9 +30,12 @@ private:
     };
 
     void placeColumns();
+    double widthOf(const Column &column, double share) const; // with the gap behind it
     LaidLine cells(const ReportLine &line) const;
     LaidLine groupHeading(const ReportLine &line) const;
     LaidLine total(const ReportLine &line) const;
+    QString totalText(const ReportLine &line, TextStyle style, double room) const;
+    QStringList groupNames(int group, const ReportLine &line) const;
     void addCell(LaidLine &line, const PlacedColumn &place, const QString &text, TextStyle style) const;
     void addBarcode(LaidLine &line, const PlacedColumn &place, const QString &text, const QRectF &room) const;
     void addContents(LaidLine &line, const QStringList &texts) const;

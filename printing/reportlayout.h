@@ -33,7 +33,7 @@ struct Column
 {
     QString field; // of the rows; in a CSV file also the title
     QString title; // above the column
-    double width = 1; // share of the line
+    double width = 1; // share of the line, or of what the others leave of it
     Align align = Align::Left;
     std::function<QString(const Engine::Value &)> display{}; // empty: Value::toText()
     bool wraps = false; // onto further lines; otherwise what is too long is cut, and a number narrowed
@@ -42,6 +42,7 @@ struct Column
     Content content = Content::Text;
     // Room for what stands right of the decimal point, for Align::Decimal.
     QString fraction = QStringLiteral(".000");
+    double room = 0; // in units of the page: what it takes of the line before others share it; 0: it shares
 };
 
 // Rows that follow each other with the same key are a group; groups nest in the order of the list.

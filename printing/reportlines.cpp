@@ -66,12 +66,15 @@ void ReportLines::takeRow()
     const size_t changed = firstChanged();
     if (!m_previous.empty())
         endGroups(changed);
+    const size_t before = m_waiting.size();
     beginGroups(changed);
     if (m_row.kind == RowKind::Opening)
         endAccount();
     add(m_row);
     if (m_layout.details)
         m_waiting.push_back({m_row.kind == RowKind::Opening ? Band::Opening : Band::Detail, -1, m_row.values});
+    if (changed < m_keys.size() && before < m_waiting.size())
+        m_waiting[before].begins = static_cast<int>(changed);
     m_previous.swap(m_row.values);
 }
 

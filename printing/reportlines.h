@@ -17,6 +17,7 @@ struct ReportLine
     // By field. A total holds sums in the fields that have one, a group's names the rest of a group's line; other
     // fields of both are those of a row of the group.
     std::vector<Engine::Value> values{};
+    int begins = -1; // the outermost of the groups that begin with this line; -1: none does
 };
 
 // Turns rows into lines: begins and ends groups and sums up. What is printed and what is written to a file both come

@@ -21,8 +21,8 @@ class ReportRun
 public:
     ReportRun(Report report, QPageSize::PageSizeId size, const PageTexts &texts);
 
-    // Goes on, at least by some lines, until the time is over or the report is complete, which is true then. Throws what the rows throw, and
-    // RuleError when there is no room for the pages; the report has ended then without being complete.
+    // Goes on, at least by some lines, until the time is over or the report is complete, which is true then. Throws what
+    // the rows throw, and RuleError when there is no room for the pages; the report has ended then without being complete.
     bool makePages(QDeadlineTimer until = QDeadlineTimer::Forever);
     bool isComplete() const { return m_state == State::Complete; }
     bool hasEnded() const { return m_state != State::Running; } // no further pages come

@@ -19,6 +19,8 @@ struct ReportRow
     std::vector<Engine::Value> values; // in the order of RowReader::fields()
 };
 
+struct ReportLayout;
+
 // Where a report's rows come from, one after the other, in the order in which they are printed.
 class RowReader
 {
@@ -28,6 +30,8 @@ public:
     virtual const QStringList &fields() const = 0;
     // The next row into the one given; false after the last. What it throws ends the report.
     virtual bool next(ReportRow &row) = 0;
+    // Fits the layout to the rows, as far as they are in hand. Called before the first row is read.
+    virtual void fit(ReportLayout &) const { }
 };
 
 using RowReaderPtr = std::unique_ptr<RowReader>;

@@ -1,10 +1,13 @@
 #include "reports/blankform.h"
 
 #include "base/ruleerror.h"
+#include "printing/barcode.h"
 #include "reports/columns.h"
 #include "reports/reportlist.h"
 #include "reports/texts.h"
 #include "transactions/countsource.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using Engine::Value;
@@ -61,6 +64,18 @@ public:
         return true;
     }
 
+    // Bars are as wide as scanners like them, and what they do not need is left to the descriptions.
+    void fit(Printing::ReportLayout &layout) const override
+    {
+        for (Column &column : layout.columns) {
+            if (column.content != Content::Barcode)
+                continue;
+            column.room = Printing::TextMeasure::of(Printing::TextStyle::ColumnTitle).width(column.title);
+            for (int i = 0; i < m_list.size(); ++i)
+                column.room = std::max(column.room, Printing::barcodeRoom(m_list.row(i).itemNo));
+        }
+    }
+
 private:
     CountList m_list;
     int m_next = 0;
@@ -68,8 +83,7 @@ private:
 
 Printing::RowReaderPtr countRows(Engine::Database &database, const BlankFormChoices &choices, int location)
 {
-    if (location <= 0)
-        throw RuleError(ReportsTexts::tr("Choose the location that is counted."), u"WarehouseID"_s);
+    requireCountedLocation(location);
     CountList list =
         CountSource(database).list(location, choices.zeroCounts ? ZeroCounts::Included : ZeroCounts::Excluded);
     list.sortBy(choices.byCategory ? CountList::Order::Category : CountList::Order::ItemNo);
@@ -88,7 +102,7 @@ QList<Column> columns(const BlankFormChoices &choices)
 {
     QList<Column> columns;
     if (choices.barcodes)
-        columns.append(filled(Columns::cutText(u"ItemNo"_s, ReportsTexts::tr("Item No"), 3.9), Content::Barcode));
+        columns.append(filled(Columns::cutText(u"ItemNo"_s, ReportsTexts::tr("Item No"), 1), Content::Barcode));
     else
         columns.append(Columns::text(u"ItemNo"_s, ReportsTexts::tr("Item No"), 1.7));
     if (!choices.byCategory && !choices.barcodes) // bars leave no room for it
@@ -127,6 +141,12 @@ BlankFormChoices BlankFormChoices::fromJson(const QJsonObject &kept)
     for (const Mark &mark : marks)
         choices.*mark.choice = kept[mark.name].toBool(choices.*mark.choice);
     return choices;
+}
+
+void requireCountedLocation(int location)
+{
+    if (location <= 0)
+        throw RuleError(ReportsTexts::tr("Choose the location that is counted."), u"WarehouseID"_s);
 }
 
 ReportDescription blankForm(const BlankFormChoices &choices)

@@ -25,4 +25,6 @@ struct BlankFormChoices
 // those of the selection's location, and refuse to be made without one.
 ReportDescription blankForm(const BlankFormChoices &choices = {});
 
+void requireCountedLocation(int location); // throws RuleError when none is chosen
+
 } // namespace Tallymere

@@ -61,6 +61,7 @@ Printing::Report makeReport(TDataModuleTallymere &data, const ReportDescription 
     if (report.notes)
         made.layout.headings += report.notes(database, selection);
     Printing::RowReaderPtr rows = report.rows(database, report, selection);
+    rows->fit(made.layout);
     made.rows = momentRows(std::move(moment), std::move(rows), progress);
     return made;
 }

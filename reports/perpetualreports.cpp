@@ -23,12 +23,12 @@ QList<Column> movementColumns(bool byLocation)
 {
     Column number = Columns::itemNo();
     number.inDetail = false;
+    number.opening.field = byLocation ? u"WarehouseName"_s : number.field;
     Column description = Columns::description();
     description.width = 2.2;
     description.inDetail = false;
-    description.opening.field = byLocation ? u"WarehouseName"_s : description.field;
     if (!byLocation)
-        number.opening.field = number.field;
+        description.opening.field = description.field;
     Column about = Columns::text(u"TransDescription"_s, ReportsTexts::tr("Description"), 2.9);
     about.opening.text = ReportsTexts::tr("Opening Balance:");
     Column balance = Columns::quantity(u"Balance"_s, ReportsTexts::tr("Balance"));

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 #include <map>
+#include <numeric>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -144,6 +145,60 @@ TEST_F(Pages, KeepHeadingsWithTheirFirstRowAndTotalsWithTheirLast)
     }
 }
 
+// Groups in groups, of all sizes, at all places of a page.
+TEST_F(Pages, PartGroupsOfMoreThanFiveRowsOnlyAndTotalThoseOfMoreThanOne)
+{
+    layout.groups.append({u"Name"_s, {u"Name"_s}, true, u"Total %1"_s});
+    layout.columns[0].field = u"Row"_s;
+    const int sizes[] = {3, 1, 5, 7, 2, 5, 1, 4, 6, 5, 3};
+    int parted = 0;
+    for (int before = 1; before < 60; ++before) {
+        SCOPED_TRACE(before);
+        rows.clear();
+        pages.clear();
+        const auto addRows = [&](const QString &outer, const QString &inner, int count) {
+            for (int i = 0; i < count; ++i)
+                rows.push_back({RowKind::Detail,
+                                {Engine::Value(outer), Engine::Value(inner), Engine::Value(1.0),
+                                 Engine::Value(inner + u"-row"_s)}});
+        };
+        addRows(u"first"_s, u"long"_s, before);
+        QMap<QString, int> sizeOf;
+        for (int i = 0; i < 33; ++i) {
+            const QString outer = u"outer%1"_s.arg(i / 2); // of two
+            const QString inner = u"inner%1"_s.arg(i);
+            sizeOf[inner] = sizes[i % 11];
+            sizeOf[outer] += sizes[i % 11];
+            addRows(outer, inner, sizes[i % 11]);
+        }
+        ReportRun run(
+            {layout, std::make_unique<Rows>(QStringList{u"Group"_s, u"Name"_s, u"Value"_s, u"Row"_s}, rows)},
+            QPageSize::Letter, {});
+        run.makePages();
+        QMap<QString, QList<int>> pagesOf; // of the lines that name a group: heading, rows, total
+        int lines = 0;
+        for (int page = 0; page < run.pageCount(); ++page)
+            for (const TextItem &item : run.page(page).texts) {
+                const QString name = item.text.section(u' ', -1).remove(u"-row"_s);
+                if (!sizeOf.contains(name))
+                    continue;
+                pagesOf[name].append(page);
+                lines += item.text.endsWith("-row"_L1) ? 1 : 0;
+            }
+        EXPECT_EQ(lines, std::accumulate(sizeOf.begin(), sizeOf.end(), 0) / 2);
+        for (auto group = sizeOf.cbegin(); group != sizeOf.cend(); ++group) {
+            const QList<int> &on = pagesOf[group.key()];
+            const int ownRows = group.key().startsWith("inner"_L1) ? *group : 0;
+            EXPECT_EQ(on.size(), 1 + ownRows + (*group > 1 ? 1 : 0)) << qPrintable(group.key());
+            if (*group <= 5) {
+                EXPECT_EQ(on.first(), on.last()) << qPrintable(group.key());
+            }
+            parted += on.first() != on.last() ? 1 : 0;
+        }
+    }
+    EXPECT_GT(parted, 0);
+}
+
 TEST_F(Pages, BreakALongRowOnlyWhereItIsLongerThanAPage)
 {
     QStringList words;
@@ -182,10 +237,21 @@ TEST_F(Pages, CutWhatDoesNotFitNarrowNumbersAndAlignDecimals)
         EXPECT_LE(end, right + 1) << item.text.toStdString();
         cut += item.text.endsWith(u'…') ? 1 : 0;
     }
-    EXPECT_EQ(cut, 3); // the names of the group in its heading and in its total, and that of the first row
+    EXPECT_EQ(cut, 3); // the name of the group in its heading and in its total, and that of the first row
     EXPECT_LT(find(Engine::Value(1.0 / 3e9).toText()).squeeze, 1);
     const TextMeasure &body = TextMeasure::of(TextStyle::Body);
     EXPECT_NEAR(find(u"12"_s).x + body.width(u"12"_s), find(u"3.125"_s).x + body.width(u"3"_s), 0.1);
+}
+
+TEST_F(Pages, TotalByTheNumberAloneWhereTheDescriptionWouldBeCut)
+{
+    layout.groups[0].fields = {u"Group"_s, u"Name"_s};
+    for (const QString &name : {u"Salt"_s, u"Salt and more "_s.repeated(20)})
+        for (int i = 0; i < 2; ++i)
+            add(name.left(4) + QString::number(name.size()), name, 1);
+    make();
+    EXPECT_TRUE(linesOf(pages[0]).contains(u"Total Salt4  Salt|2"_s));
+    EXPECT_TRUE(linesOf(pages[0]).contains(u"Total Salt280|2"_s));
 }
 
 TEST_F(Pages, SayThatThereIsNothingToShow)
@@ -203,7 +269,7 @@ TEST_F(Pages, BeginGroupsOnNewPagesAndNameThoseWithoutAName)
     add(QString(), u"b"_s, 1);
     make();
     ASSERT_EQ(pages.size(), 2);
-    EXPECT_EQ(linesOf(pages[1]).mid(2, 3), QStringList({u"(none)"_s, u"b|1"_s, u"Total (none)|1"_s}));
+    EXPECT_EQ(linesOf(pages[1]).mid(2, 3), QStringList({u"(none)"_s, u"b|1"_s, u"Total|2"_s}));
 }
 
 TEST_F(Pages, NameTheReportWhoseTotalIsNoAmountAnyMore)

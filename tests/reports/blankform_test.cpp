@@ -9,6 +9,7 @@
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
 
+#include <algorithm>
 #include <QBuffer>
 #include <QImage>
 #include <QPainter>
@@ -59,6 +60,19 @@ protected:
         return file;
     }
 
+    // Between the longest bars and the next column, in modules of the widest bars.
+    static double lightBehindBars(const Printing::ReportRun &run)
+    {
+        const Printing::Page page = run.page(0);
+        const auto next = std::ranges::find(page.texts, u"Item"_s, &Printing::TextItem::text);
+        double end = 0;
+        for (const Printing::Fill &fill : page.fills)
+            if (fill.area.right() < next->x && fill.area.height() > fill.area.width())
+                end = std::max(end, fill.area.right());
+        constexpr double module = 0.01 * Printing::unitsPerInch;
+        return (next->x - end) / module;
+    }
+
     QPointer<TFormBlankInventoryReportSelection> openDialog()
     {
         auto *dialog = new TFormBlankInventoryReportSelection(*context, mainWindow.get());
@@ -94,15 +108,22 @@ TEST_F(BlankFormTest, ListsWhatTheCountLists)
 
 TEST_F(BlankFormTest, ScannersReadItsBarcodesIntoTheCount)
 {
+    const BlankFormChoices choices{.priorQuantities = true, .barcodes = true};
+    const auto makeForm = [&] {
+        auto form = runReport(*data, blankForm(choices), {.warehouseId = 1});
+        form->makePages();
+        // The column is as wide as the widest bars with the light behind them.
+        EXPECT_NEAR(lightBehindBars(*form), 15, 5);
+        return form;
+    };
+    makeForm();
     QStringList numbers{u"12345678901234567890"_s, u"ABCDEFGHIJKLMNOPQRST"_s, u"ab 1-2/x.Z~z"_s};
     for (int i = 0; i < numbers.size(); ++i)
         kitchen.execute(
             u"UPDATE Item SET ItemNo = '%1' WHERE ItemID = %2"_s.arg(numbers[i]).arg(QList{1, 2, 4}[i]));
     kitchen.execute(u"UPDATE Item SET ItemNo = 'Ж 7' WHERE ItemID = 3"_s); // no scanner would give it back
     kitchen.setStock(3, 1, 1, 1);
-    const BlankFormChoices choices{.priorQuantities = true, .barcodes = true};
-    const auto run = runReport(*data, blankForm(choices), {.warehouseId = 1});
-    run->makePages();
+    const auto run = makeForm();
     QProcess reader;
     reader.start(u"zbarimg"_s,
                  {u"--nodbus"_s, u"-q"_s, u"--raw"_s, u"-Sdisable"_s, u"-Scode128.enable"_s, printed(*run, 0)});
