@@ -6,11 +6,12 @@
 
 namespace Tallymere {
 
+bool hasPrinter(const ScreenContext &context) { return context.printerDefined && context.printerDefined(); }
+
 void requirePrinter(const ScreenContext &context)
 {
-    if (context.printerDefined && context.printerDefined())
-        return;
-    throw RuleError(noPrinterText());
+    if (!hasPrinter(context))
+        throw RuleError(noPrinterText());
 }
 
 } // namespace Tallymere

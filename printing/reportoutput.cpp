@@ -32,6 +32,15 @@ void fitToSheet(QPainter &painter, const QSizeF &sheet, const QSizeF &page, int 
 
 } // namespace
 
+void makeAllPages(ReportRun &run, Progress &progress)
+{
+    constexpr int milliseconds = 20;
+    progress.start(0);
+    while (!run.makePages(QDeadlineTimer(milliseconds)))
+        progress.step();
+    progress.finish();
+}
+
 void paintPages(const ReportRun &run, QPainter &painter, QPagedPaintDevice &device, int resolution, int from,
                 int to, Progress &progress)
 {

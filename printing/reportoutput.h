@@ -9,6 +9,9 @@ class QPainter;
 
 namespace Tallymere::Printing {
 
+// Makes all pages of a report that is not complete yet, nobody knows how many.
+void makeAllPages(ReportRun &run, Progress &progress);
+
 // Paints pages of a complete report on a printer or into a file, from one to another (from 1, both included), backwards
 // where the first number is the larger one. On another sheet than they were made for, pages are made as large as it and
 // stand in its middle. Throws RuleError when the report is not complete, when the device does not begin or refuses a page.

@@ -1,6 +1,7 @@
 #include "reports/screens/blankinventoryreportselection.h"
 
 #include "controls/lookuplists.h"
+#include "controls/printerneeded.h"
 #include "reports/screens/showreport.h"
 #include "ui_blankinventoryreportselection.h"
 
@@ -21,6 +22,14 @@ TFormBlankInventoryReportSelection::TFormBlankInventoryReportSelection(ScreenCon
     connectGuarded(m_ui->btnPreview, &QPushButton::clicked, this,
                    &TFormBlankInventoryReportSelection::btnPreviewClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    m_ways = std::make_unique<ReportWays>(context, *this, *m_ui->btnSave, *m_ui->btnOnScreen,
+                                          [this] { return wanted(); });
+    connect(m_ways.get(), &ReportWays::saved, this, &TFormBlankInventoryReportSelection::keepChoices);
+    connect(m_ways.get(), &ReportWays::shown, this, [this] {
+        keepChoices();
+        accept();
+    });
+    m_ways->offer(true);
 }
 
 TFormBlankInventoryReportSelection::~TFormBlankInventoryReportSelection() = default;
@@ -45,12 +54,23 @@ BlankFormChoices TFormBlankInventoryReportSelection::choices() const
             .barcodes = m_ui->chkBarcodes->isChecked()};
 }
 
+WantedReport TFormBlankInventoryReportSelection::wanted() const
+{
+    const BlankFormChoices chosen = choices();
+    requireCountedLocation(chosen.warehouseId);
+    return {blankForm(chosen), {.warehouseId = chosen.warehouseId}};
+}
+
+void TFormBlankInventoryReportSelection::keepChoices() { m_last.keep(choices().toJson()); }
+
 // The preview belongs to the window that this was opened from, and stays.
 void TFormBlankInventoryReportSelection::btnPreviewClick()
 {
-    const BlankFormChoices chosen = choices();
-    showReport(context(), blankForm(chosen), {.warehouseId = chosen.warehouseId}, parentWidget());
-    m_last.keep(chosen.toJson());
+    m_ways->offer(true); // the printer may have gone
+    requirePrinter(context());
+    const WantedReport form = wanted();
+    showReport(context(), form.report, form.selection, parentWidget());
+    keepChoices();
     accept();
 }
 

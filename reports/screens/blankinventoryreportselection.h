@@ -3,6 +3,7 @@
 #include "controls/dialogscreen.h"
 #include "data/lastchoices.h"
 #include "reports/blankform.h"
+#include "reports/screens/reportways.h"
 
 #include <memory>
 
@@ -12,8 +13,8 @@ class TFormBlankInventoryReportSelection;
 
 namespace Tallymere {
 
-// "Blank Inventory Form": what the form shows that a count is written on, and its preview. The user's last choices are
-// offered again.
+// "Blank Inventory Form": what the form shows that a count is written on, and its preview, or where it is saved. The
+// user's last choices are offered again.
 class TFormBlankInventoryReportSelection final : public DialogScreen
 {
     Q_OBJECT
@@ -30,9 +31,12 @@ protected:
 private:
     void offer(const BlankFormChoices &choices);
     BlankFormChoices choices() const;
+    WantedReport wanted() const;
+    void keepChoices();
 
     const LastChoices m_last;
     const std::unique_ptr<Ui::TFormBlankInventoryReportSelection> m_ui;
+    std::unique_ptr<ReportWays> m_ways;
 };
 
 } // namespace Tallymere

@@ -53,6 +53,8 @@ TfrmInvReports::TfrmInvReports(ScreenContext &context, QWidget *parent)
     setLookupLists(*this, context.lookups, guard());
     for (const ReportList::Offered &offered : ReportList::offered())
         m_ui->lboReports->addItem(offered.listText);
+    m_ways = std::make_unique<ReportWays>(context, *this, *m_ui->btnSave, *m_ui->btnOnScreen,
+                                          [this] { return wanted(); });
     connectControls();
     offer(m_memory.last());
     btnBackClick();
@@ -66,6 +68,11 @@ void TfrmInvReports::connectControls()
     connectGuarded(m_ui->btnNext, &QPushButton::clicked, this, &TfrmInvReports::btnNextClick);
     connectGuarded(m_ui->btnBack, &QPushButton::clicked, this, &TfrmInvReports::btnBackClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ways.get(), &ReportWays::saved, this, &TfrmInvReports::keepChoice);
+    connect(m_ways.get(), &ReportWays::shown, this, [this] {
+        keepChoice();
+        btnBackClick();
+    });
     // What cannot be read is refused when the report is wanted, not on the way to another box.
     connect(m_ui->editGLPeriod, &QLineEdit::editingFinished, this,
             [this] { Guard::attempt([this] { takeOverPeriod(); }); });
@@ -127,6 +134,11 @@ ReportSelection TfrmInvReports::selection() const
 
 // --- the pages --------------------------------------------------------------------------------------------------
 
+const ReportList::Offered &TfrmInvReports::chosen() const
+{
+    return ReportList::offered().at(m_ui->lboReports->currentRow());
+}
+
 bool TfrmInvReports::isAskingForOptions() const { return m_ui->pages->currentWidget() == m_ui->PanelOptions; }
 
 void TfrmInvReports::showPage(QWidget *page)
@@ -134,6 +146,7 @@ void TfrmInvReports::showPage(QWidget *page)
     m_ui->pages->setCurrentWidget(page);
     m_ui->btnBack->setEnabled(isAskingForOptions());
     m_ui->btnNext->setText(isAskingForOptions() ? tr("&Preview") : tr("&Next >"));
+    m_ways->offer(isAskingForOptions() && chosen().report);
 }
 
 void TfrmInvReports::btnBackClick()
@@ -152,11 +165,10 @@ void TfrmInvReports::btnNextClick()
 
 void TfrmInvReports::showOptions()
 {
-    const ReportList::Offered &chosen = ReportList::offered().at(m_ui->lboReports->currentRow());
-    m_ui->lblReportTitle->setText(chosen.listText);
-    m_ui->lblNothingToShow->setText(ReportList::nothingToShow(chosen));
+    m_ui->lblReportTitle->setText(chosen().listText);
+    m_ui->lblNothingToShow->setText(ReportList::nothingToShow(chosen()));
     showPage(m_ui->PanelOptions);
-    placeOptions(chosen);
+    placeOptions(chosen());
 }
 
 void TfrmInvReports::placeOptions(const ReportList::Offered &report)
@@ -188,12 +200,9 @@ void TfrmInvReports::placeOptions(const ReportList::Offered &report)
 }
 
 // A report without anything to show opens nothing.
-void TfrmInvReports::preview()
+std::optional<WantedReport> TfrmInvReports::wanted()
 {
-    requirePrinter(context());
-    const int index = m_ui->lboReports->currentRow();
-    const ReportList::Offered &chosen = ReportList::offered().at(index);
-    if (chosen.parameters.period) {
+    if (chosen().parameters.period) {
         takeOverPeriod();
         takeOverYear();
     }
@@ -201,11 +210,23 @@ void TfrmInvReports::preview()
         box->hidePopup();
         box->settle();
     }
-    if (!chosen.report)
-        return;
-    showReport(context(), *chosen.report, takenBy(chosen.parameters, selection()), parentWidget());
-    btnBackClick();
-    m_memory.keep({index, selection()});
+    if (!chosen().report)
+        return std::nullopt;
+    return WantedReport{*chosen().report, takenBy(chosen().parameters, selection())};
 }
+
+void TfrmInvReports::preview()
+{
+    m_ways->offer(chosen().report); // the printer may have gone
+    requirePrinter(context());
+    const std::optional<WantedReport> report = wanted();
+    if (!report)
+        return;
+    showReport(context(), report->report, report->selection, parentWidget());
+    btnBackClick();
+    keepChoice();
+}
+
+void TfrmInvReports::keepChoice() { m_memory.keep({m_ui->lboReports->currentRow(), selection()}); }
 
 } // namespace Tallymere

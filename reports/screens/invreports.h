@@ -4,6 +4,7 @@
 #include "controls/windowmemory.h"
 #include "reports/reportlist.h"
 #include "reports/reportmemory.h"
+#include "reports/screens/reportways.h"
 
 #include <memory>
 
@@ -13,8 +14,8 @@ class TfrmInvReports;
 
 namespace Tallymere {
 
-// "Inventory Reports": first a report is chosen, then what it is to be about, and then its preview is shown. What a user
-// has had last is offered again. Not modal; it frees itself when it is closed.
+// "Inventory Reports": first a report is chosen, then what it is to be about, and then its preview is shown, or it is
+// saved. What a user has had last is offered again. Not modal; it frees itself when it is closed.
 class TfrmInvReports final : public DialogScreen
 {
     Q_OBJECT
@@ -44,17 +45,21 @@ private:
     void connectControls();
     void offer(const ReportChoice &choice);
     ReportSelection selection() const;
+    const ReportList::Offered &chosen() const;
     bool isAskingForOptions() const;
     void showPage(QWidget *page);
     void showOptions();
     void placeOptions(const ReportList::Offered &report);
     void takeOverPeriod();
     void takeOverYear();
+    std::optional<WantedReport> wanted();
     void preview();
+    void keepChoice();
 
     const std::unique_ptr<Ui::TfrmInvReports> m_ui;
     ReportMemory m_memory;
     WindowMemory m_place;
+    std::unique_ptr<ReportWays> m_ways;
     int m_period = 0;
     int m_year = 0;
 };

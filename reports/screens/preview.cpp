@@ -2,13 +2,13 @@
 
 #include "base/plural.h"
 #include "base/savedfile.h"
-#include "controls/filechoice.h"
 #include "controls/progressbox.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "printing/printout.h"
 #include "printing/reportcsv.h"
 #include "printing/reportoutput.h"
+#include "reports/screens/reportfiles.h"
 #include "ui_preview.h"
 
 #include <algorithm>
@@ -22,7 +22,6 @@
 #include <QPrinter>
 #include <QScopeGuard>
 #include <QShortcut>
-#include <QStatusBar>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
@@ -299,7 +298,7 @@ void TfrmPreview::keyPressEvent(QKeyEvent *event)
 
 QString TfrmPreview::pagesText(int count) const { return plural(count, tr("%n page"), tr("%n pages")); }
 
-void TfrmPreview::say(const QString &text) { statusBar()->showMessage(text); }
+void TfrmPreview::say(const QString &text) { m_ui->statusBar->showMessage(text); }
 
 void TfrmPreview::btnPrintClick()
 {
@@ -329,7 +328,7 @@ void TfrmPreview::proposeFile(QPrinter &printer) const
 {
     const QString folder = lastFolder(m_context);
     if (!folder.isEmpty() && QFileInfo(folder).isDir())
-        printer.setOutputFileName(folder + u'/' + fileTitle() + ".pdf"_L1);
+        printer.setOutputFileName(folder + u'/' + pdfFile(m_run->title()).name);
     printer.setOutputFormat(QPrinter::NativeFormat);
 }
 
@@ -346,37 +345,30 @@ void TfrmPreview::print(QPrinter &printer)
                : tr("%1 sent to the printer %2").arg(pages, printer.printerName()));
 }
 
-QString TfrmPreview::fileTitle() const { return m_run->title().remove(u'/'); }
-
 void TfrmPreview::save(const FileChoice &choice,
                        const std::function<void(const QString &file, Progress &progress)> &write)
 {
     stopSearch();
     statusBar()->clearMessage(); // of the last time
-    const QString saved = saveToChosenFile(m_context, this, choice, [&](const QString &file) {
-        ProgressBox progress(this, tr("Saving %1").arg(QDir::toNativeSeparators(file)));
-        write(file, progress);
-    });
+    const QString saved = saveReportFile(m_context, this, choice, write);
     if (!saved.isEmpty())
-        say(tr("%1 saved as %2").arg(pagesText(m_run->pageCount()), QDir::toNativeSeparators(saved)));
+        say(tr("%1 saved as %2").arg(pagesText(m_run->pageCount()), saved));
 }
 
 void TfrmPreview::savePdf()
 {
-    save({tr("Save as PDF"), fileTitle() + ".pdf"_L1, tr("PDF files"), u"pdf"_s},
-         [&](const QString &file, Progress &progress) {
-             Printing::savePdf(*m_run, file, Printing::allPages(*m_run), progress);
-         });
+    save(pdfFile(m_run->title()), [&](const QString &file, Progress &progress) {
+        Printing::savePdf(*m_run, file, Printing::allPages(*m_run), progress);
+    });
 }
 
 void TfrmPreview::saveCsv()
 {
-    save({tr("Save as CSV"), fileTitle() + ".csv"_L1, tr("CSV files"), u"csv"_s},
-         [&](const QString &file, Progress &progress) {
-             const Printing::Report report = m_makeReport();
-             Printing::saveReportCsv(report.layout, *report.rows, file, progress,
-                                     m_run->isComplete() ? m_run->lineCount() : 0);
-         });
+    save(csvFile(m_run->title()), [&](const QString &file, Progress &progress) {
+        const Printing::Report report = m_makeReport();
+        Printing::saveReportCsv(report.layout, *report.rows, file, progress,
+                                m_run->isComplete() ? m_run->lineCount() : 0);
+    });
 }
 
 } // namespace Tallymere

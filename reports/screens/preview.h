@@ -62,7 +62,6 @@ private:
     QString searchedSoFar(const QString &text) const;
     void proposeFile(QPrinter &printer) const;
     void print(QPrinter &printer);
-    QString fileTitle() const; // proposed, without its end
     // Into a file that the user names; says what has been written then.
     void save(const FileChoice &choice, const std::function<void(const QString &file, Progress &progress)> &write);
     QString pagesText(int count) const;

@@ -37,6 +37,12 @@ void showReport(ScreenContext &context, const ReportDescription &report, const R
                 QWidget *parent)
 {
     requirePrinter(context);
+    showReportOnScreen(context, report, selection, parent);
+}
+
+void showReportOnScreen(ScreenContext &context, const ReportDescription &report, const ReportSelection &selection,
+                        QWidget *parent)
+{
     const WaitCursor hourglass;
     PaintedWait wait;
     auto *preview = new TfrmPreview(context, runReport(context.data, report, selection, &wait), parent);

@@ -9,4 +9,8 @@ namespace Tallymere {
 void showReport(ScreenContext &context, const ReportDescription &report, const ReportSelection &selection,
                 QWidget *parent);
 
+// The same to look at, where there need be no printer.
+void showReportOnScreen(ScreenContext &context, const ReportDescription &report, const ReportSelection &selection,
+                        QWidget *parent);
+
 } // namespace Tallymere

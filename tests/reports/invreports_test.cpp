@@ -11,6 +11,7 @@
 #include <QAccessible>
 #include <QFile>
 #include <QListWidget>
+#include <QMenu>
 #include <QSpinBox>
 #include <QStatusBar>
 
@@ -168,6 +169,48 @@ TEST_F(InvReportsTest, PreviewsWhatIsChosenAndOffersItAgain)
     type("<Escape>");
     settle();
     EXPECT_TRUE(wizard.isNull());
+}
+
+TEST_F(InvReportsTest, WithoutAPrinterShowsAndSavesWhatThePreviewIsRefusedFor)
+{
+    bool hasPrinter = false;
+    context->printerDefined = [&] { return hasPrinter; };
+    const auto isThere = [&](const char *button) { return part<QPushButton>(button)->isVisible(); };
+    EXPECT_FALSE(isThere("btnOnScreen") || isThere("btnSave"));
+    ask(0);
+    type("off<Return>");
+    EXPECT_EQ(
+        prompts.take(),
+        QStringList(u"error: You do not have a default printer defined.\n\nTo preview or print reports a printer "
+                    "must be defined, though not necessarily attached."_s));
+    EXPECT_TRUE(part<QWidget>("PanelOptions")->isVisible());
+    EXPECT_EQ(previewed(), QStringList());
+
+    QList<QByteArray> saved;
+    const QList<QAction *> ways = part<QPushButton>("btnSave")->menu()->actions();
+    for (QAction *way : ways) {
+        way->trigger();
+        EXPECT_EQ(prompts.take(), QStringList(u"inform: Inventory Value by Item saved as %1"_s.arg(file())));
+        QFile written(file());
+        ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+        saved << written.readAll();
+    }
+    ASSERT_EQ(saved.size(), 2);
+    EXPECT_TRUE(saved[0].startsWith("%PDF"));
+    EXPECT_TRUE(saved[1].endsWith("report total,,,,,7\r\n")) << saved[1].constData();
+    EXPECT_TRUE(part<QWidget>("PanelOptions")->isVisible());
+    click(*wizard, "btnOnScreen");
+    EXPECT_EQ(previewed().size(), 3);
+    EXPECT_TRUE(part<QWidget>("PanelReports")->isVisible());
+    EXPECT_FALSE(isThere("btnOnScreen") || isThere("btnSave"));
+
+    ask(5); // there is nothing to show
+    EXPECT_FALSE(isThere("btnOnScreen") || isThere("btnSave"));
+    hasPrinter = true;
+    ask(0);
+    EXPECT_TRUE(isThere("btnSave") && !isThere("btnOnScreen"));
+    open();
+    EXPECT_EQ(wizard->GetWarehouseID(), 1);
 }
 
 TEST_F(InvReportsTest, ReadsThePeriodAsItIsTyped)
