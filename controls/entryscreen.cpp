@@ -1,6 +1,7 @@
 #include "controls/entryscreen.h"
 
 #include "controls/comboboxname.h"
+#include "controls/inusenotice.h"
 #include "controls/listbuttons.h"
 #include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
@@ -68,6 +69,7 @@ void EntryScreen::buildScreen()
     keepComboBoxNames();
     if (auto *panel = findChild<QWidget *>(bottomPanel))
         panel->installEventFilter(this);
+    new InUseNotice(*this, m_binder);
     showCaption();
 }
 

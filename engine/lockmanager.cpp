@@ -2,19 +2,32 @@
 
 #include "engine/error.h"
 
+#include <QLocale>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace Engine {
 
+namespace {
+
+QString momentText(const QDateTime &moment)
+{
+    const QDateTime here = moment.toLocalTime();
+    const bool isToday = here.date() == QDate::currentDate();
+    return isToday ? QLocale().toString(here.time(), QLocale::ShortFormat)
+                   : QLocale().toString(here, QLocale::ShortFormat);
+}
+
+} // namespace
+
 QString LockOwner::description() const
 {
     QString text = user.isEmpty() ? Texts::tr("another user") : user;
     if (!host.isEmpty())
         text = Texts::tr("%1 on %2").arg(text, host);
-    if (processId > 0)
-        text = Texts::tr("%1 (process %2)").arg(text).arg(processId);
+    if (since.isValid())
+        text = Texts::tr("%1, since %2").arg(text, momentText(since));
     return text;
 }
 
@@ -92,11 +105,12 @@ bool LockManager::tryLockRecord(const QString &table, const QList<qint64> &key)
     const Held *held = find(name);
     if (held && held->records.contains(place))
         return false;
-    if (!acquireRecord(name, place, held && held->table > 0))
+    const qint64 since = QDateTime::currentSecsSinceEpoch();
+    if (!acquireRecord(name, {place, since, held && held->table > 0}))
         return false;
     Held &now = m_held[name];
-    now.records.insert(place);
-    if (now.table == 0 && now.records.size() == 1)
+    now.records.emplace(place, since);
+    if (now.table == 0)
         changed();
     return true;
 }
@@ -106,13 +120,16 @@ void LockManager::unlockRecord(const QString &table, const QList<qint64> &key) n
     const QString name = table.toLower();
     const qint64 place = placeOf(name, key);
     Held *held = find(name);
-    if (!held || held->records.erase(place) == 0)
+    const auto record = held ? held->records.find(place) : std::map<qint64, qint64>::iterator();
+    if (!held || record == held->records.end())
         return;
+    const bool tableHeld = held->table > 0;
+    const qint64 since = record->second;
+    held->records.erase(record);
     held->losable.erase(place);
-    releaseRecord(name, place, held->table > 0);
-    const bool last = !held->keepsOthersFromWriting();
+    releaseRecord(name, {place, since, tableHeld});
     settle(name);
-    if (last)
+    if (!tableHeld)
         changed();
 }
 
@@ -144,10 +161,14 @@ bool LockManager::tryLockTable(const QString &table)
     const QString name = table.toLower();
     const Held *held = find(name);
     const bool covered = held && held->table > 0;
-    if (!covered && !acquireTable(name))
+    const qint64 since = QDateTime::currentSecsSinceEpoch();
+    if (!covered && !acquireTable(name, since))
         return false;
-    if (++m_held[name].table == 1)
-        changed();
+    Held &now = m_held[name];
+    if (++now.table > 1)
+        return true;
+    now.tableSince = since;
+    changed();
     return true;
 }
 
@@ -157,7 +178,7 @@ void LockManager::unlockTable(const QString &table) noexcept
     Held *held = find(name);
     if (!held || held->table == 0 || --held->table > 0)
         return;
-    releaseTable(name, held->records);
+    releaseTable(name, *held);
     settle(name);
     changed();
 }
@@ -168,10 +189,16 @@ bool LockManager::holdsTable(const QString &table) const
     return found != m_held.end() && found->second.table > 0;
 }
 
-QString LockManager::holderOf(const QString &table)
+static QString inBrackets(const std::optional<LockOwner> &owner)
 {
-    const auto owner = ownerOf(table);
     return owner ? u" (%1)"_s.arg(owner->description()) : QString();
+}
+
+QString LockManager::holderOf(const QString &table) { return inBrackets(ownerOf(table)); }
+
+QString LockManager::holderOf(const QString &table, const QList<qint64> &key)
+{
+    return inBrackets(ownerOf(table, key));
 }
 
 } // namespace Engine

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <optional>
+#include <QDateTime>
 #include <QList>
 #include <QString>
 #include <QtGlobal>
@@ -14,9 +15,9 @@ struct LockOwner
 {
     QString user;
     QString host;
-    qint64 processId = 0;
+    QDateTime since; // when the lock was taken; null where that is not known
 
-    QString description() const; // "anna on kitchen-2 (process 4711)"
+    QString description() const; // "anna on kitchen-2, since 14:05"
 };
 
 // The locks of one connection. A connection never conflicts with itself, except that a record can be locked only
@@ -58,16 +59,21 @@ public:
 
     // Who holds the table lock, or else any record of the table; nullopt when nobody does or it cannot be told.
     virtual std::optional<LockOwner> ownerOf(const QString &table) = 0;
-    QString holderOf(const QString &table); // the same in a message: " (anna on kitchen-2)", or nothing
+    // Who keeps the record from being locked: whoever has it, or the whole table.
+    virtual std::optional<LockOwner> ownerOf(const QString &table, const QList<qint64> &key) = 0;
+    QString holderOf(const QString &table); // in a message: " (anna on kitchen-2, since 14:05)", or nothing
+    QString holderOf(const QString &table, const QList<qint64> &key);
 
 protected:
-    // Below this level tables are named in lower case, records by a number made of their key.
+    // Below this level tables are named in lower case, records by a number made of their key. Times are seconds since
+    // 1970, so that machines in different zones mean the same.
     struct Held
     {
         int shared = 0;
         int exclusive = 0;
         int table = 0;
-        std::set<qint64> records;
+        qint64 tableSince = 0;
+        std::map<qint64, qint64> records; // each with the time since when
         std::set<qint64> losable; // those of the records that may be lost
 
         bool isFree() const { return shared == 0 && exclusive == 0 && table == 0 && records.empty(); }
@@ -82,11 +88,17 @@ protected:
     // From one mode to the other; true when that was possible. Going down always is.
     virtual bool changeOpen(const QString &table, OpenMode from, OpenMode to) = 0;
     virtual qint64 placeOf(const QString &table, const QList<qint64> &key) const = 0;
-    virtual bool acquireRecord(const QString &table, qint64 place, bool tableHeld) = 0;
-    virtual void releaseRecord(const QString &table, qint64 place, bool tableHeld) noexcept = 0;
-    virtual bool acquireTable(const QString &table) = 0;
+    struct Place
+    {
+        qint64 record;
+        qint64 since;
+        bool tableHeld;
+    };
+    virtual bool acquireRecord(const QString &table, const Place &place) = 0;
+    virtual void releaseRecord(const QString &table, const Place &place) noexcept = 0;
+    virtual bool acquireTable(const QString &table, qint64 since) = 0;
     // The records stay locked.
-    virtual void releaseTable(const QString &table, const std::set<qint64> &records) noexcept = 0;
+    virtual void releaseTable(const QString &table, const Held &held) noexcept = 0;
     // Called when a table's record and table locks have become different ones.
     virtual void changed() noexcept { }
 

@@ -55,7 +55,7 @@ void RecordLock::refuse(const QString &record, const QString &tableTitle)
     m_locks.unlockRecord(m_table, probe);
     raise(ErrorCode::RecordLocked,
           Texts::tr("%1 is being edited by another user%2. Try again in a moment.")
-              .arg(record, m_locks.holderOf(m_table)));
+              .arg(record, m_locks.holderOf(m_table, m_key)));
 }
 
 QString recordGoneText(const QString &record) { return Texts::tr("%1 was deleted by another user.").arg(record); }

@@ -7,6 +7,7 @@ namespace Engine {
 
 class EngineError;
 class TableLocks;
+struct LockOwner;
 struct SqlCondition;
 
 enum class TableState { Inactive, Browse, Edit, Insert };
@@ -67,6 +68,8 @@ public:
     // holdRecord() has found that this edit is stored as it was to be saved last: only the store's answer was lost.
     bool isStored() const;
     bool isModified() const { return m_modified; } // a field was set by set() since edit or insert
+    // Who keeps the current record from being edited by its or the table's lock; nothing while it is in hand here, or new.
+    std::optional<LockOwner> editedBy() const;
     // Locks and re-reads the record. On an empty table this is insert(). Throws RecordLocked, RecordGone.
     void edit();
     void insert(); // new record before the current one (by index order once posted)

@@ -140,6 +140,13 @@ std::unique_ptr<RecordLock> Table::lockForEdit(const Row &row) const
                                         recordText(), RecordLock::Loss::Noticed);
 }
 
+std::optional<LockOwner> Table::editedBy() const
+{
+    if (m_state != TableState::Browse || isEmpty())
+        return std::nullopt;
+    return m_database.connection().locks().ownerOf(m_name, lockKey(DataSetReader(*this).currentRow()));
+}
+
 bool Table::haveSameData(const Row &a, const Row &b) const
 {
     for (int i = 0; i < fieldCount(); ++i) {

@@ -62,7 +62,8 @@ bool DocumentPosting::run(Prompts &prompts, Progress &progress)
 
     Engine::TableLocks locks(m_database);
     for (const PostingLock &lock : m_kind.posting.locks)
-        locks.take(lock.table, [&](const Engine::EngineError &) { return prompts.retry(lock.refusal); });
+        locks.take(lock.table,
+                   [&](const Engine::EngineError &) { return prompts.retry(lock.refusalIn(m_database)); });
     progress.start(count());
     const auto finished = qScopeGuard([&progress] { progress.finish(); });
     postAll(prompts, progress);

@@ -1,10 +1,18 @@
 #include "transactions/postingkind.h"
 
+#include "engine/database.h"
+#include "engine/lockmanager.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
+
+QString PostingLock::refusalIn(Engine::Database &database) const
+{
+    const auto holder = database.connection().locks().ownerOf(table);
+    return holder ? refusal + u'\n' + TransactionsTexts::tr("In use by %1.").arg(holder->description()) : refusal;
+}
 
 PostingLock balanceLock()
 {

@@ -12,8 +12,9 @@
 #include <vector>
 
 namespace Engine {
+class Database;
 class Statement;
-}
+} // namespace Engine
 
 namespace Tallymere {
 
@@ -22,6 +23,9 @@ struct PostingLock
 {
     QString table;
     QString refusal;
+
+    // With a second line that names who has it, where that is known.
+    QString refusalIn(Engine::Database &database) const;
 };
 
 PostingLock balanceLock(); // of the balances: whatever counts on what they hold takes it

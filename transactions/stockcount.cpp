@@ -371,8 +371,9 @@ std::optional<CalculatedUsage> StockCount::writeAsAgreed(const Agreed &agreed) c
     Engine::TableLocks books(m_database);
     Engine::Attempts attempts(m_database.session());
     const PostingLock balances = balanceLock();
-    books.take(balances.table,
-               [&](const Engine::EngineError &) { return attempts.again() || m_prompts.retry(balances.refusal); });
+    books.take(balances.table, [&](const Engine::EngineError &) {
+        return attempts.again() || m_prompts.retry(balances.refusalIn(m_database));
+    });
     const QHash<qint64, ItemCost> costs = m_source.costs();
     if (changedItems(agreed.balances, m_source.balances(m_location)) > 0
         || waitingDocuments(m_database, m_location) != agreed.waiting

@@ -3,6 +3,7 @@
 #include "engine/error.h"
 #include "engine/platform.h"
 #include "engine/postgres/connection.h"
+#include "engine/sqlcondition.h"
 #include "engine/stablenumber.h"
 
 #include <limits>
@@ -22,19 +23,33 @@ const QString unlockShared = u"SELECT pg_advisory_unlock_shared(?, ?)"_s;
 // Both or none, in one round trip: the share of the table lock, then the record. Parameters: the table's number
 // twice around the record's two, as each "?" is a parameter of its own.
 const QString lockRecord = u"SELECT CASE WHEN NOT pg_try_advisory_lock_shared(?, 0) THEN false "
-                           "WHEN pg_try_advisory_lock(?, ?) THEN true "
+                           "WHEN pg_try_advisory_lock(?, ?) THEN pg_try_advisory_lock_shared(?, ?) IS NOT NULL "
                            "ELSE NOT pg_advisory_unlock_shared(?, 0) END"_s;
-const QString unlockRecordText = u"SELECT pg_advisory_unlock(?, ?), pg_advisory_unlock_shared(?, 0)"_s;
+const QString unlockRecordText =
+    u"SELECT pg_advisory_unlock(?, ?), pg_advisory_unlock_shared(?, 0), pg_advisory_unlock_shared(?, ?)"_s;
+const QString lockTable = u"SELECT CASE WHEN pg_try_advisory_lock(?, 0) "
+                          "THEN pg_try_advisory_lock_shared(?, ?) IS NOT NULL ELSE false END"_s;
+const QString unlockTableText = u"SELECT pg_advisory_unlock(?, 0), pg_advisory_unlock_shared(?, ?)"_s;
 
-// Both kinds of holders of a table, called "a"; with one parameter, the number or the name of the table.
+// Those who hold a table, or records of it, called "a", with the time. Whoever waits for the table asks for all of them,
+// who waits for a record asks for one.
 const QString advisoryHolders =
-    u"FROM pg_locks l JOIN pg_stat_activity a USING (pid) WHERE l.locktype = 'advisory' AND l.granted "
-    "AND l.pid <> pg_backend_pid() AND l.objsubid = 2 "
-    "AND l.database = (SELECT oid FROM pg_database WHERE datname = current_database()) "
-    "AND l.classid = CAST(CAST(? AS bigint) & 4294967295 AS oid) AND l.objid = 0 "
-    "ORDER BY l.mode = 'ExclusiveLock' DESC LIMIT 1"_s;
+    u"SELECT a.application_name, a.usename, coalesce(host(a.client_addr), ''), CAST(since.seconds AS text) "
+    "FROM (SELECT pid, mode, CAST(classid AS bigint) AS class, CAST(objid AS bigint) AS number "
+    "FROM pg_locks WHERE locktype = 'advisory' AND granted AND objsubid = 2 AND pid <> pg_backend_pid() "
+    "AND database = (SELECT oid FROM pg_database WHERE datname = current_database())) AS held "
+    "JOIN pg_stat_activity a USING (pid) "
+    "LEFT JOIN LATERAL (SELECT min(CAST(objid AS bigint)) AS seconds FROM pg_locks t WHERE t.pid = held.pid "
+    "AND locktype = 'advisory' AND objsubid = 2 AND CAST(classid AS bigint) = "
+    "CASE WHEN held.class = CAST(? AS bigint) THEN CAST(? AS bigint) ELSE held.number # CAST(? AS bigint) END) AS "
+    "since "
+    "ON true "
+    "WHERE (held.class = CAST(? AS bigint) AND held.mode = 'ExclusiveLock') OR (held.class = CAST(? AS bigint)%1) "
+    "ORDER BY held.class = CAST(? AS bigint) DESC, since.seconds LIMIT 1"_s;
 const QString foreignWriters =
-    u"FROM pg_locks l JOIN pg_stat_activity a USING (pid) WHERE l.locktype = 'relation' AND l.granted "
+    u"SELECT a.application_name, a.usename, coalesce(host(a.client_addr), ''), "
+    "CAST(CAST(extract(epoch FROM a.xact_start) AS bigint) AS text) "
+    "FROM pg_locks l JOIN pg_stat_activity a USING (pid) WHERE l.locktype = 'relation' AND l.granted "
     "AND l.pid <> pg_backend_pid() "
     "AND l.database = (SELECT oid FROM pg_database WHERE datname = current_database()) "
     "AND l.relation IN (SELECT oid FROM pg_class WHERE relname = ?) "
@@ -52,18 +67,30 @@ qint64 openNumber(const QString &table) { return lockNumber(stableNumber("open "
 qint64 tableNumber(const QString &table) { return lockNumber(stableNumber("table " + table.toUtf8())); }
 qint64 recordNumber(const QString &table) { return lockNumber(stableNumber("record " + table.toUtf8())); }
 
+// For the times. That of a record is made of the record's place, so that a statement can find it.
+qint64 tableTime(const QString &table) { return lockNumber(stableNumber("table since " + table.toUtf8())); }
+qint64 recordTime(const QString &table, qint64 place)
+{
+    return static_cast<qint32>(place ^ lockNumber(stableNumber("record since " + table.toUtf8())));
+}
+qint64 timeNumber(qint64 seconds) { return static_cast<qint32>(seconds); }
+
+// As pg_locks shows a number.
+qint64 shown(qint64 number) { return static_cast<quint32>(number); }
+
 } // namespace
 
 // "anna@kitchen-2/4711" of this system's own sessions, "postgres (psql)" of others.
-LockOwner sessionOwner(const char *applicationName, const char *role, const char *address)
+LockOwner sessionOwner(const char *applicationName, const char *role, const char *address, const char *since)
 {
+    const QDateTime moment = *since ? QDateTime::fromSecsSinceEpoch(QByteArray(since).toLongLong()) : QDateTime();
     const QString name = QString::fromUtf8(applicationName);
     const qsizetype at = name.lastIndexOf(u'@');
     const qsizetype slash = name.lastIndexOf(u'/');
     if (at >= 0 && slash >= at)
-        return {name.left(at), name.mid(at + 1, slash - at - 1), name.mid(slash + 1).toLongLong()};
+        return {name.left(at), name.mid(at + 1, slash - at - 1), moment};
     const QString user = QString::fromUtf8(role);
-    return {name.isEmpty() ? user : u"%1 (%2)"_s.arg(user, name), QString::fromUtf8(address), 0};
+    return {name.isEmpty() ? user : u"%1 (%2)"_s.arg(user, name), QString::fromUtf8(address), moment};
 }
 
 QString PostgresLocks::applicationName(const QString &user)
@@ -145,55 +172,75 @@ qint64 PostgresLocks::placeOf(const QString &, const QList<qint64> &key) const
     return lockNumber(stableNumber(key));
 }
 
-bool PostgresLocks::acquireRecord(const QString &table, qint64 place, bool)
+bool PostgresLocks::acquireRecord(const QString &table, const Place &place)
 {
-    return ask(lockRecord, {tableNumber(table), recordNumber(table), place, tableNumber(table)});
+    return ask(lockRecord,
+               {tableNumber(table), recordNumber(table), place.record, recordTime(table, place.record),
+                timeNumber(place.since), tableNumber(table)});
 }
 
-void PostgresLocks::releaseRecord(const QString &table, qint64 place, bool) noexcept
+void PostgresLocks::releaseRecord(const QString &table, const Place &place) noexcept
 {
-    release(unlockRecordText, {recordNumber(table), place, tableNumber(table)});
+    release(unlockRecordText,
+            {recordNumber(table), place.record, tableNumber(table), recordTime(table, place.record),
+             timeNumber(place.since)});
 }
 
-bool PostgresLocks::acquireTable(const QString &table)
+bool PostgresLocks::acquireTable(const QString &table, qint64 since)
 {
-    if (!ask(lockAlone, {tableNumber(table), 0}))
+    if (!ask(lockTable, {tableNumber(table), tableTime(table), timeNumber(since)}))
         return false;
     if (!isWrittenElsewhere(table))
         return true;
-    release(unlockAlone, {tableNumber(table), 0});
+    release(unlockTableText, {tableNumber(table), tableTime(table), timeNumber(since)});
     return false;
 }
 
 // Not everybody who writes to the database asks these locks, and a long run must not come to a stop in the middle.
 bool PostgresLocks::isWrittenElsewhere(const QString &table)
 {
-    const StatementPtr statement = m_connection.prepare("SELECT EXISTS (SELECT 1 "_L1 + foreignWriters + u')');
+    const StatementPtr statement = m_connection.prepare("SELECT EXISTS ("_L1 + foreignWriters + u')');
     statement->bindText(0, table);
     return statement->next() && statement->intAt(0) == 1;
 }
 
-void PostgresLocks::releaseTable(const QString &table, const std::set<qint64> &) noexcept
+void PostgresLocks::releaseTable(const QString &table, const Held &held) noexcept
 {
-    release(unlockAlone, {tableNumber(table), 0});
+    release(unlockTableText, {tableNumber(table), tableTime(table), timeNumber(held.tableSince)});
 }
 
-std::optional<LockOwner> PostgresLocks::ownerIn(const QString &sql, const Value &parameter)
+std::optional<LockOwner> PostgresLocks::ownerIn(const QString &sql, const QList<Value> &parameters)
 {
-    const StatementPtr statement =
-        m_connection.prepare("SELECT a.application_name, a.usename, coalesce(host(a.client_addr), '') "_L1 + sql);
-    statement->bind(0, parameter);
+    const StatementPtr statement = m_connection.prepare(sql);
+    bindAll(*statement, parameters);
     if (!statement->next())
         return std::nullopt;
     return sessionOwner(statement->textAt(0).toUtf8().constData(), statement->textAt(1).toUtf8().constData(),
-                        statement->textAt(2).toUtf8().constData());
+                        statement->textAt(2).toUtf8().constData(), statement->textAt(3).toUtf8().constData());
 }
 
-std::optional<LockOwner> PostgresLocks::ownerOf(const QString &table)
+std::optional<LockOwner> PostgresLocks::holder(const QString &table, std::optional<qint64> place)
 {
-    if (auto owner = ownerIn(advisoryHolders, tableNumber(table.toLower())))
+    const Value whole = shown(tableNumber(table));
+    QList<Value> parameters{whole, shown(tableTime(table)), shown(recordTime(table, 0)), whole,
+                            shown(recordNumber(table))};
+    if (place)
+        parameters << shown(*place);
+    parameters << whole;
+    if (auto owner =
+            ownerIn(advisoryHolders.arg(place ? u" AND held.number = CAST(? AS bigint)"_s : QString()), parameters))
         return owner;
-    return ownerIn(foreignWriters + " LIMIT 1"_L1, table.toLower());
+    if (place)
+        return std::nullopt; // other writers hold tables for moments only, but records of them for nobody
+    return ownerIn(foreignWriters + " LIMIT 1"_L1, {table});
+}
+
+std::optional<LockOwner> PostgresLocks::ownerOf(const QString &table) { return holder(table.toLower(), {}); }
+
+std::optional<LockOwner> PostgresLocks::ownerOf(const QString &table, const QList<qint64> &key)
+{
+    const QString name = table.toLower();
+    return holder(name, placeOf(name, key));
 }
 
 } // namespace Engine

@@ -11,10 +11,12 @@ namespace Engine {
 class PostgresConnection;
 
 // Who the session of a connection belongs to, by what the server tells of it. Empty texts for what it keeps back.
-LockOwner sessionOwner(const char *applicationName, const char *role, const char *address);
+// The time is in seconds since 1970, empty where it is not known.
+LockOwner sessionOwner(const char *applicationName, const char *role, const char *address, const char *since);
 
 // Advisory locks of the connection's own session. For each table there are three numbers made of its name: one for
-// being open, one for the table lock, which whoever locks a record shares, and one for the records.
+// being open, one for the table lock, which whoever locks a record shares, and one for the records. Beside each table
+// and record lock stands one more that keeps nobody out: its second number is the time, for those who ask since when.
 class PostgresLocks final : public LockManager
 {
 public:
@@ -24,6 +26,7 @@ public:
     }
 
     std::optional<LockOwner> ownerOf(const QString &table) override;
+    std::optional<LockOwner> ownerOf(const QString &table, const QList<qint64> &key) override;
     bool areLost() const override;
     int losses() const override { return m_losses; }
 
@@ -40,15 +43,16 @@ public:
 protected:
     bool changeOpen(const QString &table, OpenMode from, OpenMode to) override;
     qint64 placeOf(const QString &table, const QList<qint64> &key) const override;
-    bool acquireRecord(const QString &table, qint64 place, bool tableHeld) override;
-    void releaseRecord(const QString &table, qint64 place, bool tableHeld) noexcept override;
-    bool acquireTable(const QString &table) override;
-    void releaseTable(const QString &table, const std::set<qint64> &records) noexcept override;
+    bool acquireRecord(const QString &table, const Place &place) override;
+    void releaseRecord(const QString &table, const Place &place) noexcept override;
+    bool acquireTable(const QString &table, qint64 since) override;
+    void releaseTable(const QString &table, const Held &held) noexcept override;
 
 private:
     bool ask(const QString &sql, const QList<qint64> &numbers);
     bool isWrittenElsewhere(const QString &table);
-    std::optional<LockOwner> ownerIn(const QString &sql, const Value &parameter);
+    std::optional<LockOwner> holder(const QString &table, std::optional<qint64> place);
+    std::optional<LockOwner> ownerIn(const QString &sql, const QList<Value> &parameters);
     void release(const QString &sql, const QList<qint64> &numbers) noexcept;
 
     struct Deferred

@@ -11,7 +11,8 @@ namespace {
 
 // One row with the state of the session, and with the session that it waits for if it does.
 constexpr const char *question =
-    "SELECT s.state LIKE 'idle%', b.pid IS NOT NULL, b.application_name, b.usename, host(b.client_addr) "
+    "SELECT s.state LIKE 'idle%', b.pid IS NOT NULL, b.application_name, b.usename, host(b.client_addr), "
+    "CAST(extract(epoch FROM b.xact_start) AS bigint) "
     "FROM (VALUES (CAST($1 AS integer))) AS asked (pid) LEFT JOIN pg_stat_activity s USING (pid) "
     "LEFT JOIN pg_stat_activity b ON b.pid = ANY (pg_blocking_pids(asked.pid)) LIMIT 1";
 
@@ -74,7 +75,7 @@ void PostgresWatch::takeAnswer()
     m_idle = PQgetisnull(answer.get(), 0, 0) || isTrue(answer.get(), 0);
     if (isTrue(answer.get(), 1))
         m_blocker = sessionOwner(PQgetvalue(answer.get(), 0, 2), PQgetvalue(answer.get(), 0, 3),
-                                 PQgetvalue(answer.get(), 0, 4));
+                                 PQgetvalue(answer.get(), 0, 4), PQgetvalue(answer.get(), 0, 5));
 }
 
 } // namespace Engine

@@ -23,6 +23,7 @@ constexpr qint64 tableCount = qint64(1) << (62 - stretchBits);
 constexpr qint64 noteLocks = qint64(1) << 62;
 constexpr int noteCount = 512;
 constexpr int noteSize = 512;
+constexpr int notedTimes = 10; // more would not fit
 constexpr qint64 memoPlace = qint64(noteCount) * noteSize;
 constexpr qint64 memoLock = noteLocks + noteCount;
 constexpr int memoAttempts = 500; // a millisecond apart: others hold it for a few reads and writes of the memo
@@ -46,6 +47,20 @@ qint64 recordByte(const QString &table, const QList<qint64> &key)
         place = singles + static_cast<qint64>(stableNumber(key) % static_cast<quint64>(stretch - 1 - singles));
     }
     return firstRecordByte(table) + place;
+}
+
+// The beginning of a note's part that tells since when: "@*item=", "@item:5=".
+QString timeOf(const QString &table) { return u"@*%1="_s.arg(table); }
+QString timeOf(const QString &table, qint64 record) { return u"@%1:%2="_s.arg(table).arg(record); }
+
+LockOwner ownerFrom(const QStringList &note, const QString &timePart)
+{
+    LockOwner owner{note[0], note[1], {}};
+    for (const QString &part : note) {
+        if (part.startsWith(timePart))
+            owner.since = QDateTime::fromSecsSinceEpoch(part.section(u'=', -1).toLongLong());
+    }
+    return owner;
 }
 
 } // namespace
@@ -98,26 +113,26 @@ bool FileLocks::changeOpen(const QString &table, OpenMode from, OpenMode to)
 
 qint64 FileLocks::placeOf(const QString &table, const QList<qint64> &key) const { return recordByte(table, key); }
 
-bool FileLocks::acquireRecord(const QString &, qint64 place, bool tableHeld)
+bool FileLocks::acquireRecord(const QString &, const Place &place)
 {
-    return tableHeld || tryRange(place, 1, RangeLockFile::Mode::Exclusive);
+    return place.tableHeld || tryRange(place.record, 1, RangeLockFile::Mode::Exclusive);
 }
 
-void FileLocks::releaseRecord(const QString &, qint64 place, bool tableHeld) noexcept
+void FileLocks::releaseRecord(const QString &, const Place &place) noexcept
 {
-    if (!tableHeld) // else the byte belongs to the table lock
-        freeRange(place, 1);
+    if (!place.tableHeld) // else the byte belongs to the table lock
+        freeRange(place.record, 1);
 }
 
-bool FileLocks::acquireTable(const QString &table)
+bool FileLocks::acquireTable(const QString &table, qint64)
 {
     return tryRange(firstRecordByte(table), stretch - 1, RangeLockFile::Mode::Exclusive);
 }
 
-void FileLocks::releaseTable(const QString &table, const std::set<qint64> &records) noexcept
+void FileLocks::releaseTable(const QString &table, const Held &held) noexcept
 {
     qint64 from = firstRecordByte(table);
-    for (const qint64 byte : records) {
+    for (const auto &[byte, since] : held.records) {
         freeRange(from, byte - from);
         from = byte + 1;
     }
@@ -145,11 +160,18 @@ void FileLocks::changed() noexcept
     if (m_note < 0)
         return;
     QStringList parts{m_user, QSysInfo::machineHostName(), QString::number(QCoreApplication::applicationPid())};
+    QStringList times; // at the end, where a note that is too long is cut off
     for (const auto &[table, held] : everything()) {
-        if (held.keepsOthersFromWriting())
-            parts << (held.table > 0 ? "*"_L1 : ""_L1) + table;
+        if (!held.keepsOthersFromWriting())
+            continue;
+        parts << (held.table > 0 ? "*"_L1 : ""_L1) + table;
+        if (held.table > 0)
+            times << timeOf(table) + QString::number(held.tableSince);
+        for (auto record = held.records.begin(); record != held.records.end() && times.size() < notedTimes;
+             ++record)
+            times << timeOf(table, record->first) + QString::number(record->second);
     }
-    QByteArray bytes = parts.join(u'\t').toUtf8().left(noteSize - 1) + '\n';
+    QByteArray bytes = (parts + times).join(u'\t').toUtf8().left(noteSize - 1) + '\n';
     m_file->write(qint64(m_note) * noteSize, bytes.leftJustified(noteSize, ' '));
 }
 
@@ -179,21 +201,49 @@ void FileLocks::holdingMemo(const std::function<void()> &step)
     step();
 }
 
+// Of the connections that are there still.
+QList<QStringList> FileLocks::notesOfOthers() const
+{
+    QList<QStringList> found;
+    const QByteArray notes = m_file->read(0, qint64(noteCount) * noteSize);
+    for (qint64 note = 0; note * noteSize < notes.size(); ++note) {
+        const QStringList parts = QString::fromUtf8(notes.mid(note * noteSize, noteSize)).trimmed().split(u'\t');
+        if (note != m_note && parts.size() > 3 && m_file->isLockedByOthers(noteLocks + note, 1))
+            found << parts;
+    }
+    return found;
+}
+
 std::optional<LockOwner> FileLocks::ownerOf(const QString &table)
 {
     const QString name = table.toLower();
     if (!m_file || !m_file->isLockedByOthers(firstRecordByte(name), stretch - 1))
         return std::nullopt;
-    const QByteArray notes = m_file->read(0, qint64(noteCount) * noteSize);
-    for (qint64 note = 0; note * noteSize < notes.size(); ++note) {
-        if (note == m_note)
-            continue;
-        const QStringList parts = QString::fromUtf8(notes.mid(note * noteSize, noteSize)).trimmed().split(u'\t');
-        const bool holder = parts.size() > 3 && (parts.contains(name) || parts.contains(u'*' + name));
-        if (holder && m_file->isLockedByOthers(noteLocks + note, 1))
-            return LockOwner{parts[0], parts[1], parts[2].toLongLong()};
+    const QList<QStringList> notes = notesOfOthers();
+    for (const QStringList &note : notes) {
+        if (note.contains(u'*' + name))
+            return ownerFrom(note, timeOf(name));
+        if (note.contains(name))
+            return ownerFrom(note, u"@%1:"_s.arg(name));
     }
     return std::nullopt;
+}
+
+std::optional<LockOwner> FileLocks::ownerOf(const QString &table, const QList<qint64> &key)
+{
+    const QString name = table.toLower();
+    const qint64 place = recordByte(name, key);
+    if (!m_file || !m_file->isLockedByOthers(place, 1))
+        return std::nullopt;
+    const QList<QStringList> notes = notesOfOthers();
+    for (const QStringList &note : notes) {
+        const LockOwner ofRecord = ownerFrom(note, timeOf(name, place));
+        if (ofRecord.since.isValid())
+            return ofRecord;
+        if (note.contains(u'*' + name))
+            return ownerFrom(note, timeOf(name));
+    }
+    return LockOwner(); // whose note does not tell
 }
 
 } // namespace Engine

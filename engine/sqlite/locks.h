@@ -11,8 +11,8 @@ namespace Engine {
 // Locks as ranges of bytes of one file, far beyond its end. Every table has a stretch of its own: one byte for
 // being open, and one for each possible record; the table lock takes all of the latter at once.
 //
-// The file itself holds one note for each connection, saying whose it is and in which tables it has locks. A note
-// counts only while its connection holds the byte that goes with it. The memo follows the notes.
+// The file itself holds one note for each connection, saying whose it is, in which tables it has locks, and since when it
+// has which. A note counts only while its connection holds the byte that goes with it. The memo follows the notes.
 //
 // A lock file that was deleted or replaced keeps nobody out any more: the next lock throws FileReplaced.
 class FileLocks final : public LockManager
@@ -22,6 +22,7 @@ public:
     ~FileLocks() override;
 
     std::optional<LockOwner> ownerOf(const QString &table) override;
+    std::optional<LockOwner> ownerOf(const QString &table, const QList<qint64> &key) override;
 
     // Called before each lock that is taken; refuses by throwing.
     std::function<void()> beforeLocking;
@@ -36,10 +37,10 @@ public:
 protected:
     bool changeOpen(const QString &table, OpenMode from, OpenMode to) override;
     qint64 placeOf(const QString &table, const QList<qint64> &key) const override;
-    bool acquireRecord(const QString &table, qint64 place, bool tableHeld) override;
-    void releaseRecord(const QString &table, qint64 place, bool tableHeld) noexcept override;
-    bool acquireTable(const QString &table) override;
-    void releaseTable(const QString &table, const std::set<qint64> &records) noexcept override;
+    bool acquireRecord(const QString &table, const Place &place) override;
+    void releaseRecord(const QString &table, const Place &place) noexcept override;
+    bool acquireTable(const QString &table, qint64 since) override;
+    void releaseTable(const QString &table, const Held &held) noexcept override;
     void changed() noexcept override; // writes the note
 
 private:
@@ -47,6 +48,7 @@ private:
     bool tryRange(qint64 from, qint64 count, RangeLockFile::Mode mode);
     void freeRange(qint64 from, qint64 count);
     void takeNote() noexcept;
+    QList<QStringList> notesOfOthers() const;
 
     std::unique_ptr<RangeLockFile> m_file;
     QString m_user;

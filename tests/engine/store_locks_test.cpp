@@ -3,6 +3,7 @@
 #include "tests/support/otheruser.h"
 
 #include <chrono>
+#include <QLocale>
 #include <QSysInfo>
 #include <thread>
 
@@ -132,23 +133,52 @@ TEST_P(LocksTest, ClosingOneOfTwoOpenTablesKeepsTheOther)
     EXPECT_TRUE(annas.tryOpenExclusive(u"Item"_s));
 }
 
-TEST_P(LocksTest, TheHolderIsNamed)
+TEST_P(LocksTest, TheHolderIsNamedAndSinceWhen)
 {
+    const auto bob = store.anotherUser(u"bob"_s);
+    LockManager &bobs = bob->database.connection().locks();
     EXPECT_FALSE(mine.ownerOf(u"Item"_s));
+    const qint64 before = QDateTime::currentSecsSinceEpoch();
     ASSERT_TRUE(annas.tryLockRecord(u"Item"_s, {5}));
+    ASSERT_TRUE(annas.tryLockRecord(u"Item"_s, {7}));
+    ASSERT_TRUE(bobs.tryLockRecord(u"Item"_s, {-6}));
     ASSERT_TRUE(annas.tryLockTable(u"Tax"_s));
-    EXPECT_FALSE(annas.ownerOf(u"Item"_s)) << "oneself is not another user";
-    EXPECT_FALSE(mine.ownerOf(u"Vendor"_s));
-    for (const QString &table : {u"Item"_s, u"Tax"_s}) {
-        const std::optional<LockOwner> owner = mine.ownerOf(table);
-        ASSERT_TRUE(owner) << table.toStdString();
-        EXPECT_EQ(owner->user, u"anna"_s);
-        EXPECT_EQ(owner->processId, QCoreApplication::applicationPid());
+    ASSERT_TRUE(bobs.tryLockRecord(u"IBalance"_s, {1, 2}));
+    const qint64 after = QDateTime::currentSecsSinceEpoch();
+    const auto expect = [&](const std::optional<LockOwner> &owner, const QString &user) {
+        ASSERT_TRUE(owner) << user.toStdString();
+        EXPECT_EQ(owner->user, user);
         EXPECT_TRUE(QSysInfo::machineHostName().startsWith(owner->host));
-    }
+        EXPECT_GE(owner->since.toSecsSinceEpoch(), before);
+        EXPECT_LE(owner->since.toSecsSinceEpoch(), after);
+    };
+    expect(mine.ownerOf(u"Tax"_s), u"anna"_s);
+    expect(mine.ownerOf(u"Tax"_s, {3}), u"anna"_s);
+    expect(mine.ownerOf(u"item"_s, {5}), u"anna"_s);
+    expect(mine.ownerOf(u"Item"_s, {7}), u"anna"_s);
+    expect(mine.ownerOf(u"Item"_s, {-6}), u"bob"_s);
+    expect(mine.ownerOf(u"IBalance"_s, {1, 2}), u"bob"_s);
+    expect(annas.ownerOf(u"Item"_s), u"bob"_s); // oneself is not another user
+    EXPECT_FALSE(annas.ownerOf(u"Item"_s, {5}));
+    EXPECT_FALSE(mine.ownerOf(u"Item"_s, {6}));
+    EXPECT_FALSE(mine.ownerOf(u"Vendor"_s));
     annas.unlockRecord(u"Item"_s, {5});
+    EXPECT_FALSE(mine.ownerOf(u"Item"_s, {5}));
+    expect(mine.ownerOf(u"Item"_s, {7}), u"anna"_s);
+    annas.unlockRecord(u"Item"_s, {7});
+    bobs.unlockRecord(u"Item"_s, {-6});
     EXPECT_FALSE(mine.ownerOf(u"Item"_s));
     EXPECT_TRUE(mine.ownerOf(u"Tax"_s));
+}
+
+TEST(Locks, AHolderIsCalledByNameMachineAndTime)
+{
+    const QDateTime longAgo(QDate(2024, 2, 29), QTime(14, 5));
+    EXPECT_EQ(LockOwner().description(), u"another user"_s);
+    EXPECT_EQ((LockOwner{u"anna"_s, u"kitchen-2"_s, {}}).description(), u"anna on kitchen-2"_s);
+    EXPECT_EQ((LockOwner{u"anna"_s, u"kitchen-2"_s, longAgo}).description(),
+              u"anna on kitchen-2, since "_s + QLocale().toString(longAgo, QLocale::ShortFormat));
+    EXPECT_FALSE((LockOwner{u"anna"_s, {}, longAgo}).description().contains(u" on "_s));
 }
 
 TEST_P(LocksTest, AProgramKilledWithinATransactionLeavesNothingBehind)
@@ -165,7 +195,7 @@ TEST_P(LocksTest, AProgramKilledWithinATransactionLeavesNothingBehind)
     EXPECT_FALSE(mine.tryOpenExclusive(u"Item"_s));
     const std::optional<LockOwner> owner = mine.ownerOf(u"T"_s);
     ASSERT_TRUE(owner);
-    EXPECT_EQ(owner->processId, other.id());
+    EXPECT_EQ(owner->user, u"anna"_s);
     if (GetParam() == Store::Remote)
         other.tell(u"sql SELECT pg_sleep(3600)"_s); // the server is busy for a client that is gone
     other.kill();

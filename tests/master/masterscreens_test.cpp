@@ -5,6 +5,8 @@
 #include "master/screens/masterscreens.h"
 #include "tests/support/screentest.h"
 
+#include <QLabel>
+
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
@@ -186,6 +188,36 @@ TEST_F(MasterScreens, ChooseACostingMethodForStockedTypesAndKeepThoseOfTheSystem
     click(*list, "btnDelete");
     EXPECT_EQ(prompts.take(), QStringList{u"warn: System-defined Item Types can't be deleted!"_s});
     EXPECT_TRUE(list->moveToKey(6));
+}
+
+TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
+{
+    const auto anna = kitchen.anotherUser();
+    MasterRecord theirs(anna->database, MasterKinds::currency());
+    theirs.open();
+    ASSERT_TRUE(theirs.openRecord(2));
+    theirs.table().edit();
+    openList(MasterKinds::currency());
+    ASSERT_TRUE(list->moveToKey(1));
+    openAgain(MasterKinds::currency());
+    const auto *notice = child<QLabel>(*record, "lblInUse");
+    EXPECT_FALSE(notice->isVisible()) << "this one is free";
+    record->close();
+    settle();
+
+    ASSERT_TRUE(list->moveToKey(2));
+    openAgain(MasterKinds::currency());
+    notice = child<QLabel>(*record, "lblInUse");
+    EXPECT_TRUE(notice->isVisible());
+    EXPECT_TRUE(notice->text().startsWith("In use by anna on "_L1) && notice->text().contains(", since "_L1))
+        << notice->text().toStdString();
+    EXPECT_EQ(prompts.take(), QStringList());
+    theirs.table().cancel();
+    showActive(*list);
+    showActive(*record);
+    EXPECT_FALSE(notice->isVisible());
+    type("Mine");
+    EXPECT_EQ(prompts.take(), QStringList());
 }
 
 // Whatever somebody else does to a record that is shown, the user is told and nothing of it is lost.

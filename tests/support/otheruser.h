@@ -26,7 +26,6 @@ public:
     OtherUser(const QStringList &place, const QStringList &task); // place() of a store
     ~OtherUser();
 
-    qint64 id() const { return m_process.processId(); }
     void tell(const QString &order); // a line of its standard input
     QString ask(const QString &order); // and the line that it says then
 

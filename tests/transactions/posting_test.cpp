@@ -120,7 +120,10 @@ TEST_P(Posting, AsksAboutTablesThatAnotherUserHolds)
         ASSERT_TRUE(theirs.tryLockTable(table));
         prompts.retries = 1;
         EXPECT_EQ(errorOf([&] { post(); }), ErrorCode::TableLocked);
-        EXPECT_EQ(prompts.take(), (QStringList{text, text}));
+        const QStringList said = prompts.take();
+        EXPECT_EQ(said.size(), 2);
+        for (const QString &each : said)
+            EXPECT_TRUE(each.startsWith(text + "\nIn use by anna on "_L1)) << each.toStdString();
         EXPECT_TRUE(posted().isEmpty());
         theirs.unlockTable(table);
         for (const auto &free : tables) {

@@ -8,6 +8,7 @@
 #include "transactions/screens/documentpostscreen.h"
 #include "transactions/screens/invreceipt.h"
 
+#include <QLabel>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -204,6 +205,29 @@ TEST_F(ReceiptScreenTest, aDateFarAwayIsAskedAboutOnce)
     enter("1345");
     EXPECT_EQ(prompts.take(), QStringList(u"error: '13/45/' is not a valid date. It is entered as mm/dd/yy."_s));
     screen->btnCancelClick();
+}
+
+TEST_F(ReceiptScreenTest, receiptThatSomebodyElseHasSaysSoWhenItIsOpened)
+{
+    const auto anna = kitchen.anotherUser();
+    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    Engine::Table theirs(anna->database, u"IReceipt"_s);
+    theirs.open();
+    const auto isInUse = [&] {
+        open(7);
+        const bool shown = child<QLabel>(*screen, "lblInUse")->isVisible();
+        screen->close();
+        settle();
+        return shown;
+    };
+    EXPECT_FALSE(isInUse());
+    theirs.edit();
+    EXPECT_TRUE(isInUse());
+    theirs.cancel();
+    EXPECT_FALSE(isInUse());
+    theirs.lockTable(); // to post
+    EXPECT_TRUE(isInUse());
+    EXPECT_EQ(prompts.take(), QStringList());
 }
 
 TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)

@@ -304,6 +304,7 @@ TEST_P(CountTest, ExcludesWhoeverPostsAndPassesOverNumbersGivenByHand)
     EXPECT_THROW(count.calculate(), Engine::EngineError);
     EXPECT_EQ(counters(), u"2000|500"_s);
     EXPECT_TRUE(prompts.last().startsWith("Unable to lock Item Balance table..."_L1));
+    EXPECT_TRUE(prompts.last().contains("\nIn use by anna on "_L1)) << prompts.last().toStdString();
     prompts.retries = 1;
     prompts.onRetry = [&] { posting.reset(); };
     EXPECT_EQ(count.calculate().usage->number, u"502"_s);
