@@ -401,6 +401,31 @@ CsvReport csvOf(Books &books, const Shape &shape, const ReportDescription &repor
     return csv;
 }
 
+// What pages leave out of the lines: the totals of groups of one row.
+QStringList withoutSingleTotals(QStringList figures, Books &books, const ReportDescription &report,
+                                const ReportSelection &selection)
+{
+    const auto rows = report.rows(books.database(), report, selection);
+    Printing::ReportLines lines(report.layout, *rows);
+    std::map<QStringList, int> rowsOf; // by the keys of their groups
+    qsizetype place = 0;
+    for (Printing::ReportLine line; lines.next(line);) {
+        if (line.band == Printing::Band::GroupHeading)
+            continue;
+        const bool isTotal = line.band == Printing::Band::GroupTotal;
+        QStringList keys;
+        for (int group = 0; group < report.layout.groups.size() && (!isTotal || group <= line.group); ++group) {
+            keys += line.values[static_cast<size_t>(lines.indexOf(report.layout.groups[group].key))].toText();
+            rowsOf[keys] += isTotal ? 0 : 1;
+        }
+        if (isTotal && report.layout.details && rowsOf[keys] == 1)
+            figures.removeAt(place);
+        else
+            ++place;
+    }
+    return figures;
+}
+
 // The figures of each printed line from left to right: "(1,234.50)" is -1234.5.
 QStringList printedFigures(Books &books, const ReportDescription &report, const ReportSelection &selection)
 {
@@ -458,7 +483,8 @@ TEST_P(Figures, EqualASecondComputationAndArePrintedAsTheyAreInCsv)
             ASSERT_EQ(csv.lines, Expected(books, shape, selection).lines)
                 << "location " << selection.warehouseId << ", type " << selection.itemTypeId << ", period "
                 << selection.period << '/' << selection.year;
-            ASSERT_EQ(printedFigures(books, report, selection), csv.figures);
+            ASSERT_EQ(printedFigures(books, report, selection),
+                      withoutSingleTotals(csv.figures, books, report, selection));
         }
     }
     EXPECT_EQ(selections, 119) << "of twelve reports, by what they can be asked for";
