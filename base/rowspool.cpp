@@ -1,6 +1,7 @@
 #include "base/rowspool.h"
 
 #include "base/ruleerror.h"
+#include "base/savedfile.h"
 #include "base/texts.h"
 
 #include <QDir>
@@ -41,17 +42,23 @@ void write(QDataStream &stream, const Value &value)
         value.storage());
 }
 
+[[noreturn]] void refuse(const QString &reason)
+{
+    throw RuleError(BaseTexts::tr("The rows that were read cannot be kept in '%1'...\n%2")
+                        .arg(QDir::toNativeSeparators(QDir::tempPath()), reason));
+}
+
 } // namespace
 
 void RowSpool::append(const std::vector<Value> &row)
 {
     if (!m_file.isOpen() && !m_file.open())
-        refuse();
+        refuse(m_file.errorString());
     m_stream << static_cast<quint32>(row.size());
     for (const Value &value : row)
         write(m_stream, value);
     if (m_stream.status() != QDataStream::Ok)
-        refuse();
+        refuse(reasonOfShortWrite(m_file));
     ++m_rows;
 }
 
@@ -60,7 +67,7 @@ bool RowSpool::next(std::vector<Value> &row)
     if (m_rows == 0)
         return false;
     if (!std::exchange(m_isWritten, true) && (!m_file.flush() || !m_file.seek(0)))
-        refuse();
+        refuse(reasonOfShortWrite(m_file));
     quint32 size = 0;
     m_stream >> size;
     row.clear();
@@ -70,16 +77,9 @@ bool RowSpool::next(std::vector<Value> &row)
         row.push_back(read(m_stream, kind));
     }
     if (m_stream.status() != QDataStream::Ok)
-        refuse();
+        refuse(m_file.errorString());
     --m_rows;
     return true;
-}
-
-void RowSpool::refuse()
-{
-    m_file.flush(); // where a part was written, only the rest tells why it was not
-    throw RuleError(BaseTexts::tr("The rows that were read cannot be kept in '%1'...\n%2")
-                        .arg(QDir::toNativeSeparators(QDir::tempPath()), m_file.errorString()));
 }
 
 } // namespace Tallymere

@@ -17,8 +17,6 @@ public:
     bool next(std::vector<Engine::Value> &row);
 
 private:
-    [[noreturn]] void refuse();
-
     QTemporaryFile m_file;
     QDataStream m_stream{&m_file};
     qint64 m_rows = 0; // to be taken out

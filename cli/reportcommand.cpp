@@ -172,7 +172,8 @@ PagedReport makePages(CommandContext &context, const ReportDescription &report, 
     };
     PagedReport made{context.openData(std::move(options)), nullptr};
     presetPeriod(*made.data, report, selection);
-    made.run = runReport(*made.data, report, selection);
+    ConsoleProgress progress(context.console, Texts::tr("Reading"));
+    made.run = runReport(*made.data, report, selection, &progress);
     made.run->makePages();
     return made;
 }

@@ -62,7 +62,7 @@ TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::Repor
 
 TfrmPreview::~TfrmPreview() = default;
 
-void TfrmPreview::offerCsv(std::function<Printing::Report()> makeReport)
+void TfrmPreview::offerCsv(std::function<Printing::Report(Progress &)> makeReport)
 {
     m_makeReport = std::move(makeReport);
     m_saveCsv->setVisible(bool(m_makeReport));
@@ -365,7 +365,7 @@ void TfrmPreview::savePdf()
 void TfrmPreview::saveCsv()
 {
     save(csvFile(m_run->title()), [&](const QString &file, Progress &progress) {
-        const Printing::Report report = m_makeReport();
+        const Printing::Report report = m_makeReport(progress);
         Printing::saveReportCsv(report.layout, *report.rows, file, progress,
                                 m_run->isComplete() ? m_run->lineCount() : 0);
     });

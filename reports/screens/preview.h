@@ -33,7 +33,7 @@ public:
     ~TfrmPreview() override;
 
     // Lets the report be saved as CSV, from rows that are read anew.
-    void offerCsv(std::function<Printing::Report()> makeReport);
+    void offerCsv(std::function<Printing::Report(Progress &)> makeReport);
 
     const Guard &guard() const { return m_guard; }
     void btnFirstClick();
@@ -72,7 +72,7 @@ private:
     std::unique_ptr<Ui::TfrmPreview> m_ui;
     std::unique_ptr<Printing::ReportRun> m_run;
     QLabel *m_found; // what a search has come to
-    std::function<Printing::Report()> m_makeReport;
+    std::function<Printing::Report(Progress &)> m_makeReport;
     QAction *m_savePdf = nullptr;
     QAction *m_saveCsv = nullptr;
     QTimer m_making; // goes on with the pages whenever there is nothing else to do

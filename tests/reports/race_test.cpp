@@ -1,6 +1,6 @@
 // Reports and lists made beside somebody who posts: a process of its own that commits document by document. Each
 // document moves the same quantity, so that what is between two documents shows in every sum. The races take longer with
-// TALLYMERE_RACE_DOCUMENTS=5000.
+// TALLYMERE_TEST_TIMES=5000.
 
 #include "base/csvlist.h"
 #include "base/csvreader.h"
@@ -36,7 +36,7 @@ protected:
     MemorySettings settings;
     SpokenPrompts prompts;
     CountedProgress progress;
-    const int documents = std::max(100, qEnvironmentVariableIntValue("TALLYMERE_RACE_DOCUMENTS"));
+    const int documents = timesByHand(100);
 
     void fill()
     {
