@@ -7,6 +7,8 @@
 #include "reports/screens/preview.h"
 #include "reports/texts.h"
 
+#include <QApplication>
+
 namespace Tallymere {
 
 void showReport(ScreenContext &context, const ReportDescription &report, const ReportSelection &selection,
@@ -20,7 +22,7 @@ void showReportOnScreen(ScreenContext &context, const ReportDescription &report,
                         QWidget *parent)
 {
     const WaitCursor hourglass;
-    ProgressBox reading(parent, ReportsTexts::tr("Reading %1").arg(report.layout.title));
+    ProgressBox reading(QApplication::activeWindow(), ReportsTexts::tr("Reading %1").arg(report.layout.title));
     auto *preview = new TfrmPreview(context, runReport(context.data, report, selection, &reading), parent);
     preview->offerCsv([&context, report, selection](Progress &progress) {
         return makeReport(context.data, report, selection, &progress);
