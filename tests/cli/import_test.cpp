@@ -222,9 +222,9 @@ TEST_P(Import, AndPostingAreRefusedWhileAnotherUserHoldsTheTableUnlessTheyMayWai
     EXPECT_TRUE(import.errors.contains("Table 'Receipts' is locked"_L1)) << import;
     const CliResult post = cli.run({u"post"_s, u"receipts"_s});
     EXPECT_EQ(post.status, 1);
-    EXPECT_EQ(post.errorLines().value(0),
-              u"tallymere: Unable to lock Receipts table... this table is being updated by another job."_s);
-    EXPECT_TRUE(post.errorLines().value(1).startsWith("In use by anna on "_L1)) << post;
+    EXPECT_TRUE(post.errorLines().value(0).startsWith(
+        "tallymere: Unable to lock Receipts table... this table is being updated by another job. In use by anna on "_L1))
+        << post;
 
     Engine::Table held(anna->database, u"IBalance"_s);
     held.open();
