@@ -286,6 +286,18 @@ TEST_F(InvReportsTest, EnterPressesTheButtonWithTheCursorAndWhatWasSavedIsTold)
     EXPECT_TRUE(comesTrue([&] { return !mainWindow->findChild<TfrmPreview *>(); }));
 }
 
+TEST_F(InvReportsTest, LocationsStandIndentedBelowTheirItem)
+{
+    const auto run =
+        runReport(*data, *ReportList::find(u"Perpetual by Item /Location"_s), {.period = 1, .year = 2026});
+    run->makePages();
+    QMap<QString, double> places;
+    for (const Printing::TextItem &item : run->page(0).texts)
+        places.insert(item.text.section(u' ', 0, 0), item.x / Printing::unitsPerPoint);
+    EXPECT_NEAR(places[u"Office"_s] - places[u"A10"_s], 10, 5);
+    EXPECT_EQ(places[u"Freezer"_s], places[u"Office"_s]);
+}
+
 TEST_F(InvReportsTest, PagesAreTurnedOneByOneWhereSeveralAreInSight)
 {
     for (int id = 1; id <= 300; ++id)
