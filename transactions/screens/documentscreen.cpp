@@ -8,6 +8,7 @@
 #include "data/lookupsdatainv.h"
 #include "master/screens/itemsearchinv.h"
 
+#include <functional>
 #include <QAction>
 #include <QKeyEvent>
 #include <QLabel>
@@ -89,7 +90,7 @@ void DocumentScreen::addPopupCommand(const QString &name, const QString &caption
     m_grid->addAction(action);
     m_popup.append(action);
     connect(action, &QAction::triggered, this,
-            [this, run] { guard().runWhenFree([this, run] { (m_grid->*run)(); }); });
+            [this, run] { guard().runWhenFree([this, run] { std::invoke(run, m_grid); }); });
 }
 
 void DocumentScreen::newRecord()
