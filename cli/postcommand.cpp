@@ -39,8 +39,15 @@ void runPost(CommandContext &context)
     std::optional<DocumentPosting> posting;
     context.patiently([&] { posting.emplace(data->databaseTallymere(), kind); });
     ConsoleProgress progress(context.console, Texts::tr("Posting"));
-    const bool posted = posting->run(context.prompts, progress);
-    context.console.print(posted ? kind.posting.postedText(posting->posted()) : posting->countText());
+    try {
+        const bool posted = posting->run(context.prompts, progress);
+        context.console.print(posted ? kind.posting.postedText(posting->posted()) : posting->countText());
+    } catch (const RuleError &) { // the documents before the one that is refused stay posted
+        progress.finish();
+        if (posting->posted() > 0)
+            context.console.print(kind.posting.postedText(posting->posted()));
+        throw;
+    }
 }
 
 } // namespace

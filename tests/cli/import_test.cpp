@@ -208,6 +208,17 @@ TEST_P(Import, LargeFiguresNeedAYes)
     EXPECT_EQ(cli.column({u"list"_s, u"receipts"_s}, u"ReceiptNo"_s), QStringList{u"R1"_s});
 }
 
+TEST_P(Import, PostingSaysWhatItHasPostedBeforeADocumentThatItRefuses)
+{
+    ASSERT_EQ(cli.import(u"receipts"_s, receiptHeader + "R1,,,,V1,Office,A1,1,1\nR2,,,,V1,Office,A1,1,1\n").status,
+              0);
+    cli.execute(u"UPDATE IRecDet SET QtyReceived = 1e15 WHERE ReceiptID = (SELECT max(ReceiptID) FROM IRecDet)"_s);
+    const CliResult post = cli.run({u"post"_s, u"receipts"_s});
+    EXPECT_EQ(post.status, 1) << post;
+    EXPECT_EQ(post.output, u"1 receipt posted\n"_s);
+    EXPECT_TRUE(post.errors.contains("\"Receipt: R2\" cannot be posted."_L1)) << post;
+}
+
 TEST_P(Import, AndPostingAreRefusedWhileAnotherUserHoldsTheTableUnlessTheyMayWait)
 {
     const QByteArray receipts = receiptHeader + ",,,,V1,Office,A1,1,1\n";
