@@ -13,11 +13,7 @@ namespace {
 // A fresh object for each call, so that nothing is cached.
 template <typename Function> auto withSettings(Function function)
 {
-#ifdef Q_OS_WIN
-    QSettings settings(u"HKEY_CURRENT_USER\\Software\\DBIsam"_s, QSettings::NativeFormat);
-#else
     QSettings settings(QSettings::NativeFormat, QSettings::UserScope, u"DBIsam"_s);
-#endif
     settings.setFallbacksEnabled(false);
     return function(settings);
 }

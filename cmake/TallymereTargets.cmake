@@ -30,6 +30,13 @@ if(TALLYMERE_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+# Compiles nothing that anybody runs: the linker sees all types of a program at once and stops at two of one name.
+option(TALLYMERE_ODR "Look for violations of the one-definition rule" OFF)
+if(TALLYMERE_ODR)
+    add_compile_options(-flto)
+    add_link_options(-flto=auto -Wodr -Wlto-type-mismatch -Werror)
+endif()
+
 add_library(tallymere_options INTERFACE)
 target_include_directories(tallymere_options INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_definitions(tallymere_options INTERFACE
@@ -41,6 +48,9 @@ target_compile_options(tallymere_options INTERFACE
 
 # Line numbers for a backtrace, but no variables: the debug build has those.
 set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1 -DNDEBUG")
+
+# scripts/unused asks the linker which functions nothing calls.
+add_compile_options($<$<CONFIG:Debug>:-ffunction-sections>)
 
 # Precompiled headers are made once for all rooms without widgets, once for all with, and likewise for the tests of
 # both. tallymere_headers(NAME LINK ... HEADERS ...) makes one; what takes it is compiled with the same options.

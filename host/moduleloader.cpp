@@ -18,11 +18,7 @@ QString moduleFile(const QString &given, const QString &executableFolder)
     const QString named = qEnvironmentVariable("TALLYMERE_MODULE");
     if (!named.isEmpty())
         return named;
-#ifdef Q_OS_WIN
-    return executableFolder + "/plgTallymere.dll"_L1;
-#else
     return executableFolder + "/../lib/plgTallymere.so"_L1;
-#endif
 }
 
 ModuleLoader::ModuleLoader() = default;

@@ -4,9 +4,7 @@
 #include <QSerialPort>
 #include <QThread>
 
-#ifdef Q_OS_UNIX
 #include <sys/ioctl.h>
-#endif
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +28,6 @@ bool written(QSerialPort &line, const QByteArray &command, const QDeadlineTimer 
 // wait for that knows no end.
 bool wentOut(const QSerialPort &line, const QDeadlineTimer &end)
 {
-#ifdef Q_OS_UNIX
     constexpr unsigned long glance = 5;
     int unsent = 0;
     while (::ioctl(line.handle(), TIOCOUTQ, &unsent) == 0 && unsent > 0) {
@@ -38,10 +35,6 @@ bool wentOut(const QSerialPort &line, const QDeadlineTimer &end)
             return false;
         QThread::msleep(glance);
     }
-#else
-    Q_UNUSED(line);
-    Q_UNUSED(end);
-#endif
     return true;
 }
 
@@ -56,11 +49,7 @@ ModemPort::~ModemPort() = default;
 
 QString ModemPort::usualDevice(int port)
 {
-#ifdef Q_OS_WIN
-    return u"COM%1"_s.arg(port);
-#else
     return u"/dev/ttyS%1"_s.arg(port - 1);
-#endif
 }
 
 bool ModemPort::open() { return m_line->open(QIODevice::WriteOnly); }

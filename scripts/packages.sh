@@ -1,17 +1,19 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing: packages.sh build|test
+# Installs the Debian packages that are missing: packages.sh build|test|lint
 # Asks for root rights only when something is missing.
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev libsqlite3-dev libpq-dev libzint-dev
     libcups2-dev fonts-dejavu-core fonts-liberation qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite)
 test=(postgresql-15 libgtest-dev clang-format qt6-l10n-tools cups cups-client poppler-utils zbar-tools)
+lint=(clang-format clang-tidy)
 
 case "${1:-}" in
 build) wanted=("${build[@]}") ;;
 test) wanted=("${build[@]}" "${test[@]}") ;;
+lint) wanted=("${lint[@]}") ;;
 *)
-    echo "usage: packages.sh build|test" >&2
+    echo "usage: packages.sh build|test|lint" >&2
     exit 2
     ;;
 esac
