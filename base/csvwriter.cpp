@@ -44,13 +44,6 @@ void CsvWriter::endRecord()
     m_recordStart = m_block.size();
 }
 
-void CsvWriter::record(const QStringList &fields)
-{
-    for (const QString &text : fields)
-        field(text);
-    endRecord();
-}
-
 void CsvWriter::flush()
 {
     if (m_device.write(m_block) != m_block.size())

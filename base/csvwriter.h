@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 class QIODevice;
 
@@ -20,7 +19,6 @@ public:
 
     void field(const QString &text);
     void endRecord();
-    void record(const QStringList &fields);
     // Hands everything to the device. Throws RuleError when that fails, as endRecord() may.
     void flush();
 

@@ -1,9 +1,9 @@
 #include "base/formats.h"
 
-#include "base/calchelpers.h"
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
 #include "base/texts.h"
+#include "base/typeddate.h"
 #include "engine/amounttoolarge.h"
 #include "engine/linetext.h"
 

@@ -1,7 +1,7 @@
 #include "cli/help.h"
 
+#include "base/buildinfo.h"
 #include "cli/texts.h"
-#include "data/utilsinv.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "controls/datepicker.h"
 
-#include "base/calchelpers.h"
 #include "base/ruleerror.h"
+#include "base/typeddate.h"
 
 #include <algorithm>
 #include <QAbstractItemView>

@@ -1,8 +1,8 @@
 #include "controls/filechoice.h"
 
+#include "base/formposition.h"
 #include "base/savedfile.h"
 #include "controls/screencontext.h"
-#include "data/utilsinv.h"
 
 #include <QDir>
 #include <QFileDialog>

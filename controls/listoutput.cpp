@@ -6,7 +6,6 @@
 #include "controls/listcopy.h"
 #include "controls/liststatus.h"
 #include "controls/progressbox.h"
-#include "data/utilsinv.h"
 
 #include <QClipboard>
 #include <QDir>

@@ -1,10 +1,10 @@
 #include "controls/windowmemory.h"
 
+#include "base/formposition.h"
 #include "controls/columnwidths.h"
 #include "controls/datagrid.h"
 #include "controls/screenmetrics.h"
 #include "controls/windowplaces.h"
-#include "data/utilsinv.h"
 
 #include <algorithm>
 #include <QEvent>

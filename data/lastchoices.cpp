@@ -1,7 +1,7 @@
 #include "data/lastchoices.h"
 
+#include "base/formposition.h"
 #include "data/datamodule.h"
-#include "data/utilsinv.h"
 
 #include <QJsonDocument>
 #include <QUrl>

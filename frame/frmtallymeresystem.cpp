@@ -11,10 +11,10 @@
 #include "data/lookupsdatainv.h"
 #include "frame/aboutform.h"
 #include "frame/boundaction.h"
+#include "frame/forhosts/reportholder.h"
 #include "frame/helpdesk.h"
 #include "frame/hostinifile.h"
 #include "frame/mastermenu.h"
-#include "frame/reportholder.h"
 #include "frame/screenregistry.h"
 #include "frame/tracescope.h"
 #include "master/screens/dialerinv.h"
@@ -26,7 +26,6 @@
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QEventLoop>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
@@ -35,7 +34,6 @@
 #include <QScreen>
 #include <QStatusTipEvent>
 #include <QTimer>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -230,49 +228,12 @@ void TFormTallymereSystem::showModal()
 
 bool TFormTallymereSystem::securityCheck(const QString &, const QString &) { return true; }
 
-bool TFormTallymereSystem::securityLogin() { return true; }
-
-bool TFormTallymereSystem::securityAccessible() { return true; }
-
-bool TFormTallymereSystem::connectToDatabase(const QString &, const QString &) { return true; }
-
-bool TFormTallymereSystem::copyFiles(const QString &, const QString &) { return true; }
-
 bool TFormTallymereSystem::printerDefined()
 {
     const TraceScope scope("TFormTallymereSystem.PrinterDefined");
     const bool result = !QPrinterInfo::defaultPrinter().printerName().isEmpty();
     qCDebug(trace) << "result" << result;
     return result;
-}
-
-void TFormTallymereSystem::printReport(ReportHolder &report, bool showPrintDialog)
-{
-    const QString file = report.templateFile();
-    if (!QFileInfo(file).isFile()) {
-        m_services.prompts.error(tr("The requested report template file:\r\n%1\r\ncould not be found.").arg(file));
-        return;
-    }
-    report.loadTemplate();
-    report.setShowPrintDialog(showPrintDialog);
-    qCDebug(trace, "Show Print Dialog setting in PrintReport routine...");
-    qCDebug(trace).noquote() << report.objectName() + ".ShowPrintDialog"_L1 << showPrintDialog;
-    qCDebug(trace, "About to Print the report...");
-    report.printOut(this);
-    qCDebug(trace, "Print command just sent!");
-}
-
-void TFormTallymereSystem::databaseOptionsEnabled(bool enable)
-{
-    constexpr qsizetype databaseOptions = 6;
-    const QList<QAction *> entries = m_ui->MainMenu1->actions().constFirst()->menu()->actions();
-    for (QAction *entry : entries.first(qMin(databaseOptions, entries.size())))
-        entry->setEnabled(enable);
-    const auto buttons = findChildren<QToolButton *>();
-    for (QToolButton *button : buttons) {
-        if (button->window() == this) // not those of its screens
-            button->setEnabled(enable);
-    }
 }
 
 void TFormTallymereSystem::createActions()

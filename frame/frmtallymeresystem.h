@@ -59,19 +59,21 @@ public:
 
     // User rights. This system grants them all.
     bool securityCheck(const QString &key, const QString &name);
-    bool securityLogin();
-    bool securityAccessible();
-    // For hosts that expect them; both do nothing and succeed.
-    bool connectToDatabase(const QString &first, const QString &second);
-    bool copyFiles(const QString &source, const QString &destination);
-
     // Whether the system has a current printer.
     bool printerDefined();
+
+    // --- for the host and modules of its own: nothing here calls them (forhosts/hostcalls.cpp) ----------------------
+    bool securityLogin();
+    bool securityAccessible();
+    // Both do nothing and succeed.
+    bool connectToDatabase(const QString &first, const QString &second);
+    bool copyFiles(const QString &source, const QString &destination);
     // Prints a report from its template file; the window has an empty one, "ReportHolder". A file that is not there is
     // named in the standard error box.
     void printReport(ReportHolder &report, bool showPrintDialog);
     // Enables or disables the first six entries of the first menu and every tool button of this window.
     void databaseOptionsEnabled(bool enable);
+    // -----------------------------------------------------------------------------------------------------------------
 
     const Guard &guard() const { return m_guard; }
     TDataModuleTallymere *dataModule() const { return m_dataModule.get(); } // null before the first opening

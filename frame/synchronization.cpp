@@ -6,7 +6,7 @@
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
-#include "data/utilsinv.h"
+#include "data/tableactions.h"
 #include "frame/commandrunner.h"
 #include "frame/commands.h"
 #include "frame/texts.h"

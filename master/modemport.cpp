@@ -47,10 +47,7 @@ ModemPort::ModemPort(const QString &device)
 
 ModemPort::~ModemPort() = default;
 
-QString ModemPort::usualDevice(int port)
-{
-    return u"/dev/ttyS%1"_s.arg(port - 1);
-}
+QString ModemPort::usualDevice(int port) { return u"/dev/ttyS%1"_s.arg(port - 1); }
 
 bool ModemPort::open() { return m_line->open(QIODevice::WriteOnly); }
 

@@ -1,6 +1,6 @@
 #include "reports/valuerows.h"
 
-#include "base/calchelpers.h"
+#include "base/rounding.h"
 #include "base/ruleerror.h"
 #include "engine/amounttoolarge.h"
 #include "engine/database.h"

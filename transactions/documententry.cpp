@@ -1,8 +1,8 @@
 #include "transactions/documententry.h"
 
-#include "base/calchelpers.h"
 #include "base/formats.h"
 #include "base/ruleerror.h"
+#include "base/typeddate.h"
 #include "data/fiscalperiod.h"
 #include "engine/error.h"
 #include "engine/query.h"

@@ -1,7 +1,7 @@
 #include "transactions/quantitycheck.h"
 
-#include "base/calchelpers.h"
 #include "base/formats.h"
+#include "base/rounding.h"
 #include "base/ruleerror.h"
 #include "engine/amounttoolarge.h"
 #include "transactions/texts.h"

@@ -1,6 +1,6 @@
 #include "transactions/receiptcost.h"
 
-#include "base/calchelpers.h"
+#include "base/rounding.h"
 
 namespace Tallymere {
 

@@ -1,7 +1,7 @@
 #include "transactions/usageentry.h"
 
-#include "base/calchelpers.h"
 #include "base/formats.h"
+#include "base/rounding.h"
 #include "engine/amounttoolarge.h"
 #include "engine/error.h"
 #include "transactions/documentkinds.h"

@@ -1,6 +1,6 @@
 #include "host/sample/kitchenbooks.h"
 
-#include "base/calchelpers.h"
+#include "base/rounding.h"
 #include "data/fiscalperiod.h"
 #include "data/numbercounter.h"
 #include "data/transtypes.h"

@@ -1,4 +1,6 @@
-#include "base/calchelpers.h"
+#include "base/forhosts/calchelpers.h"
+#include "base/rounding.h"
+#include "base/typeddate.h"
 
 #include "base/ruleerror.h"
 #include "tests/support/bothstores.h"

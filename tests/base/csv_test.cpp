@@ -71,8 +71,11 @@ TEST(CsvWriting, WhatIsWrittenReadsBackTheSame)
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     CsvWriter writer(buffer);
-    for (const QStringList &record : records)
-        writer.record(record);
+    for (const QStringList &record : records) {
+        for (const QString &field : record)
+            writer.field(field);
+        writer.endRecord();
+    }
     writer.flush();
 
     EXPECT_TRUE(buffer.data().startsWith("a,\"b,c\",\"say \"\"no\"\"\"\r\n"));

@@ -1,4 +1,5 @@
 #include "base/connectiondecision.h"
+#include "base/formposition.h"
 #include "base/settingsstore.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/spokenprompts.h"
@@ -99,5 +100,17 @@ TEST(Connection, DatabaseIsLookedForUnderBothNames)
         EXPECT_EQ(database.directory, c.expected);
         EXPECT_EQ(database.remoteName, c.mode == u"C"_s ? u"Corvane"_s : u""_s);
         EXPECT_EQ(prompts.said.join(u'|'), c.said);
+    }
+}
+
+TEST(FormPositions, ComeBackOrNotAtAll)
+{
+    MemorySettings settings;
+    saveFormPos(settings, QRect(-20, 30, 640, 480), u"frmItems"_s, u"Main"_s);
+    EXPECT_EQ(setFormPos(settings, u"frmItems"_s, u"Main"_s), QRect(-20, 30, 640, 480));
+    EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, u"Other"_s));
+    for (const auto &damaged : {u"1 2 3"_s, u"1 2 3 x"_s, u"1 2 0 5"_s}) {
+        settings.write(u"Forms/frmItems"_s, u"Main"_s, damaged);
+        EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, u"Main"_s)) << damaged.toStdString();
     }
 }

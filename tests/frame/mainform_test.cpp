@@ -1,6 +1,6 @@
 #include "base/ruleerror.h"
+#include "frame/forhosts/reportholder.h"
 #include "frame/frmtallymeresystem.h"
-#include "frame/reportholder.h"
 #include "tests/frame/testcompany.h"
 
 #include <QAction>

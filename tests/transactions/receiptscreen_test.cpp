@@ -1,7 +1,6 @@
 #include "controls/linegrid.h"
 #include "controls/listgrid.h"
 #include "controls/lookupcombobox.h"
-#include "data/utilsinv.h"
 #include "master/screens/itemsearchinv.h"
 #include "tests/support/screentest.h"
 #include "transactions/documentkinds.h"

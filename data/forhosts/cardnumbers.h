@@ -4,7 +4,7 @@
 
 namespace Tallymere {
 
-// A part of the screens' toolbox (data/utilsinv.h) without a caller yet.
+// For hosts and for modules of theirs; nothing here calls it.
 //
 // The brand of a payment card: "enRoute", "Switch", "Solo" and "Discover" by length and prefix alone, "MASTERCARD",
 // "VISA", "AMEX" and "Diners Club" when the check digit is right too. Empty for any other number. Blanks are left

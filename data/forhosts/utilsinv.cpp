@@ -1,8 +1,9 @@
-#include "data/utilsinv.h"
+#include "data/forhosts/utilsinv.h"
 
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
 #include "base/trace.h"
+#include "data/tableactions.h"
 #include "data/texts.h"
 #include "engine/attempts.h"
 #include "engine/error.h"
@@ -11,8 +12,6 @@
 #include <QCoreApplication>
 #include <QRandomGenerator>
 #include <QScopeGuard>
-#include <QStringList>
-#include <QVersionNumber>
 
 using namespace Qt::StringLiterals;
 using Engine::EngineError;
@@ -166,24 +165,6 @@ QString getSQLString(Engine::Query &query, const QString &name)
     return statement;
 }
 
-void tables(const QString &action, const QList<Engine::Table *> &owned)
-{
-    for (Engine::Table *table : owned) {
-        if (action == "O"_L1 && !table->isOpen())
-            table->open();
-        else if (action == "R"_L1 && table->isOpen())
-            table->refresh();
-        else if (action == "C"_L1)
-            table->close();
-    }
-}
-
-void tables(const QString &action, QObject &form)
-{
-    if (auto *owner = dynamic_cast<TableOwner *>(&form))
-        tables(action, owner->ownedTables());
-}
-
 void dmTables(const QString &action, TableOwner &dataModule) { tables(action, dataModule.ownedTables()); }
 
 bool isRecordLocked(const Engine::Table &) { return false; }
@@ -229,45 +210,6 @@ void checkListSetChecks(QList<bool> &checks, quint32 bits)
 {
     for (qsizetype i = 0; i < checks.size(); ++i)
         checks[i] = (bits >> (i % 32) & 1u) != 0;
-}
-
-BuildInfo getBuildInfo()
-{
-    const QVersionNumber version = QVersionNumber::fromString(QCoreApplication::applicationVersion());
-    const auto part = [&](int index) { return static_cast<quint16>(version.segmentAt(index)); };
-    return {part(0), part(1), part(2), part(3)};
-}
-
-QString strBuildInfo()
-{
-    const BuildInfo info = getBuildInfo();
-    return QVersionNumber({info.major, info.minor, info.release, info.build}).toString();
-}
-
-QString formSetting(const QString &section) { return u"Forms/"_s + section; }
-
-void saveFormPos(SettingsStore &settings, const QRect &geometry, const QString &section, const QString &key)
-{
-    const QString text =
-        u"%1 %2 %3 %4"_s.arg(geometry.x()).arg(geometry.y()).arg(geometry.width()).arg(geometry.height());
-    settings.write(formSetting(section), key, text);
-}
-
-std::optional<QRect> setFormPos(const SettingsStore &settings, const QString &section, const QString &key)
-{
-    qCDebug(trace) << "Entering SetFormPos...";
-    const QStringList parts = settings.read(formSetting(section), key).split(u' ');
-    QList<int> numbers;
-    bool ok = parts.size() == 4;
-    for (const QString &part : parts) {
-        bool isNumber = false;
-        numbers << part.toInt(&isNumber);
-        ok = ok && isNumber;
-    }
-    qCDebug(trace) << "Exiting SetFormPos";
-    if (!ok || numbers[2] <= 0 || numbers[3] <= 0)
-        return std::nullopt;
-    return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
 }
 
 } // namespace Tallymere

@@ -1,4 +1,4 @@
-#include "frame/reportholder.h"
+#include "frame/forhosts/reportholder.h"
 
 #include "base/noprinter.h"
 #include "base/ruleerror.h"

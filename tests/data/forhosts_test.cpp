@@ -1,7 +1,8 @@
-#include "data/utilsinv.h"
+#include "data/forhosts/cardnumbers.h"
+#include "data/forhosts/utilsinv.h"
 
-#include "data/cardnumbers.h"
 #include "data/layouts.h"
+#include "data/tableactions.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/damage.h"
 #include "tests/support/failures.h"
@@ -74,18 +75,6 @@ TEST(CardNumbers, BrandsAreToldApart)
     for (const auto &[brand, numbers] : cases) {
         for (const QString &number : numbers)
             EXPECT_EQ(validateCC(number), brand) << number.toStdString();
-    }
-}
-
-TEST(FormPositions, ComeBackOrNotAtAll)
-{
-    MemorySettings settings;
-    saveFormPos(settings, QRect(-20, 30, 640, 480), u"frmItems"_s, u"Main"_s);
-    EXPECT_EQ(setFormPos(settings, u"frmItems"_s, u"Main"_s), QRect(-20, 30, 640, 480));
-    EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, u"Other"_s));
-    for (const auto &damaged : {u"1 2 3"_s, u"1 2 3 x"_s, u"1 2 0 5"_s}) {
-        settings.write(u"Forms/frmItems"_s, u"Main"_s, damaged);
-        EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, u"Main"_s)) << damaged.toStdString();
     }
 }
 

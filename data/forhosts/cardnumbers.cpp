@@ -1,4 +1,4 @@
-#include "data/cardnumbers.h"
+#include "data/forhosts/cardnumbers.h"
 
 #include <algorithm>
 #include <QList>

@@ -1,18 +1,16 @@
 #pragma once
 
-#include "base/settingsstore.h"
 #include "data/tableowner.h"
 #include "engine/database.h"
 #include "engine/query.h"
 #include "engine/table.h"
 
-#include <optional>
 #include <QList>
 #include <QObject>
-#include <QRect>
 #include <QString>
 
-// The screens' toolbox, kept whole: some of it has no caller yet. Texts that are no number throw RuleError.
+// For hosts and for modules of theirs, which may call these at any time; nothing here does. Texts that are no number
+// throw RuleError.
 
 namespace Tallymere {
 
@@ -35,10 +33,7 @@ bool openQuery(Engine::Query &query);
 // name. Empty when there is none.
 QString getSQLString(Engine::Query &query, const QString &name);
 
-// "O" opens, "R" refreshes and "C" closes the tables; any other letter does nothing. A closed table has nothing to
-// refresh and is passed over.
-void tables(const QString &action, const QList<Engine::Table *> &owned);
-void tables(const QString &action, QObject &form); // those of the form; one that owns none is left alone
+// tables() of data/tableactions.h for those of a data module.
 void dmTables(const QString &action, TableOwner &dataModule);
 
 // Edits find out about locks when they begin; there is nothing to ask beforehand.
@@ -63,19 +58,5 @@ double strToFloatDef(const QString &text, double unused);
 // Bit i is set when entry i is checked; entries from 32 on share the bits of i modulo 32.
 quint32 checkListGetBitField(const QList<bool> &checks);
 void checkListSetChecks(QList<bool> &checks, quint32 bits);
-
-// --- program and screens ----------------------------------------------------------------------------------------
-
-struct BuildInfo
-{
-    quint16 major = 0, minor = 0, release = 0, build = 0;
-};
-BuildInfo getBuildInfo(); // of the running program; missing parts are 0
-QString strBuildInfo(); // "1.0.2.1"
-
-// The setting under which a screen, the section, keeps what it remembers.
-QString formSetting(const QString &section);
-void saveFormPos(SettingsStore &settings, const QRect &geometry, const QString &section, const QString &key);
-std::optional<QRect> setFormPos(const SettingsStore &settings, const QString &section, const QString &key);
 
 } // namespace Tallymere

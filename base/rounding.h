@@ -1,0 +1,18 @@
+#pragma once
+
+#include "engine/money.h"
+
+// How figures are rounded. Nothing else rounds.
+
+namespace Tallymere {
+
+// The rounding rule: to a whole number, half away from zero, after noise below seven decimals has been taken out
+// (2.4999999996 counts as 2.5 and gives 3). Scale before and after the call for other precisions.
+long double roundIt(long double value);
+// The first half of that rule: to seven decimals. Sums and differences of quantities have noise beyond them.
+long double withoutNoise(long double value);
+
+// roundIt(value x 100) / 100 as money: an amount to the cent.
+Engine::Money toCents(long double value);
+
+} // namespace Tallymere
