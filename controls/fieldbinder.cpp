@@ -32,23 +32,11 @@ void selectText(QWidget *widget)
         edit->selectAll();
 }
 
-// The user has been told that nothing will come of it, as in a posted document.
-bool isFinal(const std::exception_ptr &failure)
+template <typename Failure> bool isA(const std::exception_ptr &failure)
 {
     try {
         std::rethrow_exception(failure);
-    } catch (const SilentAbort &) {
-        return true;
-    } catch (...) {
-        return false;
-    }
-}
-
-bool isQuestion(const std::exception_ptr &failure)
-{
-    try {
-        std::rethrow_exception(failure);
-    } catch (const RuleQuestion &) {
+    } catch (const Failure &) {
         return true;
     } catch (...) {
         return false;
@@ -271,13 +259,14 @@ void FieldBinder::leave(FieldBinding &binding)
     const std::exception_ptr failure = Guard::attempt([&] { binding.commit(); });
     if (!failure)
         return;
-    if (isQuestion(failure))
+    if (isA<RuleQuestion>(failure))
         return askLater(binding);
     m_refusing = true;
     QWidget *widget = binding.widget();
     const QString column = binding.field().name;
-    // A choice is refused as a whole; a typed text stays to be mended, typed over or tried again.
-    const bool stays = widget->inherits("QLineEdit") && !isFinal(failure);
+    // A choice is refused as a whole, and so is what nothing will come of, as in a posted document; any other typed text
+    // stays to be mended, typed over or tried again.
+    const bool stays = widget->inherits("QLineEdit") && !isA<SilentAbort>(failure);
     QMetaObject::invokeMethod(
         this,
         [this, widget, column, failure, stays] {
