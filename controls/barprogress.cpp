@@ -6,32 +6,22 @@
 
 namespace Tallymere {
 
-namespace {
-constexpr qint64 repaintEvery = 50; // ms
-} // namespace
-
 BarProgress::BarProgress(QProgressBar *bar)
     : m_bar(bar)
 {
-    m_sinceShown.start();
 }
 
-void BarProgress::start(int steps)
+void BarProgress::showStart(int steps)
 {
     m_started = true;
-    m_done = 0;
     m_bar->setRange(0, steps);
     m_bar->setValue(0);
 }
 
-void BarProgress::step()
+void BarProgress::showDone(int steps)
 {
-    ++m_done;
-    if (m_sinceShown.elapsed() < repaintEvery)
-        return;
-    m_bar->setValue(m_done);
+    m_bar->setValue(steps);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    m_sinceShown.restart();
 }
 
 void BarProgress::finish() { m_bar->setValue(m_bar->maximum()); }

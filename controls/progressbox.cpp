@@ -3,7 +3,6 @@
 #include "base/ruleerror.h"
 #include "controls/screenmetrics.h"
 
-#include <algorithm>
 #include <limits>
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -16,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 namespace {
-constexpr qint64 repaintEvery = 50; // ms
 constexpr int leastWidth = 320;
 } // namespace
 
@@ -38,43 +36,39 @@ ProgressBox::ProgressBox(QWidget *window, const QString &what, std::chrono::mill
     m_box->setAutoClose(false);
     m_box->setAutoReset(false);
     m_sinceStart.start();
-    m_sinceShown.start();
 }
 
 ProgressBox::~ProgressBox() = default;
 
-void ProgressBox::start(int steps)
+void ProgressBox::showStart(int steps)
 {
-    m_steps = steps;
-    m_done = 0;
     m_box->setRange(0, steps);
     m_box->setValue(0);
 }
 
-void ProgressBox::step()
+void ProgressBox::showDone(int steps)
 {
-    ++m_done;
-    if (m_sinceShown.elapsed() >= repaintEvery)
-        show(false);
+    if (!m_box->isVisible() && m_sinceStart.elapsed() >= m_shownAfter.count())
+        m_box->show();
+    m_box->setValue(steps);
+    repaint();
+    if (m_box->wasCanceled())
+        throw SilentAbort();
 }
 
 void ProgressBox::finish()
 {
-    if (m_box->isVisible())
-        show(true);
+    if (!m_box->isVisible())
+        return;
+    m_box->setValue(m_box->maximum());
+    repaint();
 }
 
 // Until the box is there nothing that the user types or clicks gets through, so that no window that the work is about goes.
-void ProgressBox::show(bool all)
+void ProgressBox::repaint()
 {
-    if (!m_box->isVisible() && m_sinceStart.elapsed() >= m_shownAfter.count())
-        m_box->show();
-    m_box->setValue(all ? m_steps : std::min(m_done, m_steps));
     QCoreApplication::processEvents(m_box->isVisible() ? QEventLoop::AllEvents
                                                        : QEventLoop::ExcludeUserInputEvents);
-    m_sinceShown.restart();
-    if (!all && m_box->wasCanceled())
-        throw SilentAbort();
 }
 
 } // namespace Tallymere
