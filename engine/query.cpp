@@ -240,4 +240,11 @@ Value singleValue(Database &database, const QString &sql, const QList<Value> &pa
     return statement->valueAt(0, statement->columnType(0));
 }
 
+bool hasRow(Database &database, const QString &table, const QString &keyField, const Value &key)
+{
+    if (key.isNull())
+        return false;
+    return !singleValue(database, u"SELECT %2 FROM %1 WHERE %2 = ?"_s.arg(table, keyField), {key}).isNull();
+}
+
 } // namespace Engine

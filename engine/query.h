@@ -66,4 +66,7 @@ private:
 // "?" parameters only.
 Value singleValue(Database &database, const QString &sql, const QList<Value> &parameters = {});
 
+// Whether a table has a row with the key; none has a null one.
+bool hasRow(Database &database, const QString &table, const QString &keyField, const Value &key);
+
 } // namespace Engine

@@ -6,8 +6,6 @@
 #include "data/fiscalperiod.h"
 #include "engine/error.h"
 #include "engine/query.h"
-#include "master/masterkinds.h"
-#include "master/recordnumber.h"
 #include "transactions/lastsaved.h"
 #include "transactions/texts.h"
 
@@ -26,6 +24,7 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
     , m_prompts(prompts)
     , m_header(database, m_kind.headerTable)
     , m_lines(database, m_kind.lineTable)
+    , m_check(m_lines, m_kind, prompts)
     , m_visit(m_header, m_lines, m_kind.keyField, prompts)
 {
     m_header.uniqueFields = QStringList(m_kind.numberField);
@@ -81,7 +80,7 @@ void DocumentEntry::configureFields()
 
     m_header.field(u"WarehouseID").label = TransactionsTexts::tr("Warehouse");
     m_lines.field(u"ItemID").label = TransactionsTexts::tr("Item no.");
-    m_lines.field(u"ItemID").validate = [this](const Value &itemId) { validateItem(itemId); };
+    m_lines.field(u"ItemID").validate = [this](const Value &itemId) { m_check.requireUsable(itemId); };
     const QString &quantity = m_kind.lineColumns.constFirst().field;
     m_lines.field(quantity).label = TransactionsTexts::tr("Quantity");
     m_lines.field(quantity).format = quantityFormat(RegionalSettings::system(), quantity);
@@ -244,7 +243,7 @@ void DocumentEntry::checkReferences()
 
 void DocumentEntry::requireLocation() const
 {
-    if (!exists(u"Warehse"_s, u"WarehouseID"_s, m_header.value(u"WarehouseID")))
+    if (!Engine::hasRow(database(), u"Warehse"_s, u"WarehouseID"_s, m_header.value(u"WarehouseID")))
         throw RuleError(m_kind.locationGone, u"WarehouseID"_s);
 }
 
@@ -252,14 +251,6 @@ void DocumentEntry::requireLines() const
 {
     if (m_lines.isEmpty())
         throw RuleError(m_kind.nothingEntered, LineGrid);
-}
-
-bool DocumentEntry::exists(const QString &table, const QString &keyField, const Value &key) const
-{
-    if (key.isNull())
-        return false;
-    return !Engine::singleValue(database(), u"SELECT %2 FROM %1 WHERE %2 = ?"_s.arg(table, keyField), {key})
-                .isNull();
 }
 
 void DocumentEntry::chooseInHeader(const QString &field, const Value &value)
@@ -298,7 +289,7 @@ void DocumentEntry::hookLines()
     m_lines.events.newRecord = [this] { m_lines.setDefault(m_kind.keyField, key()); };
     m_lines.events.beforeInsert = [this] {
         lockLines();
-        m_known.reset();
+        m_check.newFigures();
         lineChanging(LineChange::Insert);
     };
     m_lines.events.beforeEdit = [this] { beginLineChange(LineChange::Edit); };
@@ -309,7 +300,7 @@ void DocumentEntry::hookLines()
     m_lines.events.beforePost = [this] {
         m_visit.hold();
         checkLine();
-        checkFigures();
+        m_check.checkFigures(lineCost());
         numberLine();
         m_visit.writing();
     };
@@ -350,7 +341,7 @@ void DocumentEntry::beginLineChange(LineChange change)
     const int item = m_lines.integer(u"ItemID");
     lockLines();
     if (m_lines.integer(u"Seq") == seq && m_lines.integer(u"ItemID") == item) {
-        m_known = figures();
+        m_check.storedFigures(lineCost());
         return lineChanging(change);
     }
     if (!inEdit)
@@ -358,27 +349,6 @@ void DocumentEntry::beginLineChange(LineChange change)
     throw RuleError(
         TransactionsTexts::tr("This line was deleted or replaced by another user. The lines are shown anew."),
         LineGrid);
-}
-
-// Asked once: what is stored, or has been confirmed, is meant.
-void DocumentEntry::checkFigures()
-{
-    const QString &column = m_kind.lineColumns.constFirst().field;
-    const EnteredFigures entered = figures();
-    if (entered == m_known)
-        return;
-    try {
-        requireAmount(entered, column);
-    } catch (const RuleError &error) {
-        refuseLine(error.message(), error.column());
-    }
-    confirmLargeFigures(entered, column, m_prompts);
-    m_known = entered;
-}
-
-EnteredFigures DocumentEntry::figures()
-{
-    return {m_lines.number(m_kind.lineColumns.constFirst().field), lineCost()};
 }
 
 double DocumentEntry::lineCost() { return m_lines.fieldIndex(u"UnitCost") < 0 ? 0 : m_lines.number(u"UnitCost"); }
@@ -409,53 +379,7 @@ QString DocumentEntry::lineName() const
     return seq == 0 ? document : TransactionsTexts::tr("%1, line %2").arg(document, QString::number(seq));
 }
 
-void DocumentEntry::validateItem(const Value &itemId) const
-{
-    const bool typed = m_lineColumn == "ItemNo"_L1;
-    const int column = m_lines.fieldIndex(m_lineColumn);
-    const bool picked = !typed && column >= 0 && m_lines.field(column).type == FieldType::Text;
-    if (itemId.toInt() == 0 || !(typed || picked))
-        return;
-    const Engine::StatementPtr item =
-        database().connection().prepare(u"SELECT ItemNo, ItemDescription, Suspended FROM Item WHERE ItemID = ?"_s);
-    item->bind(0, itemId);
-    const bool found = item->next();
-    if (typed && !found)
-        throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"),
-                        u"ItemNo"_s);
-    if (!found || !item->valueAt(2, FieldType::Boolean).toBool())
-        return;
-    if (typed)
-        throw RuleError(TransactionsTexts::tr("Item has been suspended"), u"ItemNo"_s);
-    throw RuleError(TransactionsTexts::tr("Item '%1: %2' has been suspended").arg(item->textAt(0), item->textAt(1)),
-                    u"ItemNo"_s);
-}
-
-void DocumentEntry::refuseLine(const QString &message, const QString &column) const
-{
-    throw RuleError(TransactionsTexts::tr("%1...\nMake changes or press Esc to undo").arg(message), column);
-}
-
-void DocumentEntry::requireLineField(const QString &field, const QString &column) const
-{
-    if (m_lines.value(field).isNull())
-        refuseLine(TransactionsTexts::tr("Field '%1' must have a value").arg(m_lines.field(field).label), column);
-}
-
-void DocumentEntry::requireItem() const
-{
-    requireLineField(u"ItemID"_s, u"ItemNo"_s);
-    if (!exists(u"Item"_s, u"ItemID"_s, m_lines.value(u"ItemID")))
-        refuseLine(TransactionsTexts::tr("Item not found"), u"ItemNo"_s);
-}
-
-void DocumentEntry::requireQuantity() const
-{
-    const QString &quantity = m_kind.lineColumns.constFirst().field;
-    requireLineField(quantity, quantity);
-}
-
-void DocumentEntry::checkLine() { requireItem(); }
+void DocumentEntry::checkLine() { m_check.requireItem(); }
 
 void DocumentEntry::chooseItem(int itemId)
 {
@@ -469,15 +393,7 @@ void DocumentEntry::chooseItemByNumber(const QString &itemNo)
     setLineColumn(u"ItemNo"_s);
     if (!m_lines.isEditing())
         m_lines.edit();
-    if (itemNo.isEmpty()) {
-        m_lines.set(u"ItemID", {});
-        return;
-    }
-    const std::optional<int> itemId = findByNumber(database(), MasterKinds::item(), itemNo);
-    if (!itemId)
-        throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"),
-                        u"ItemNo"_s);
-    m_lines.set(u"ItemID", *itemId);
+    m_lines.set(u"ItemID", itemNo.isEmpty() ? Value() : Value(m_check.itemByNumber(itemNo)));
 }
 
 bool DocumentEntry::goToLineOf(int itemId, double quantity)

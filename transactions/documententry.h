@@ -7,7 +7,7 @@
 #include "engine/table.h"
 #include "transactions/documentkind.h"
 #include "transactions/documentvisit.h"
-#include "transactions/quantitycheck.h"
+#include "transactions/linecheck.h"
 
 namespace Tallymere {
 
@@ -77,9 +77,8 @@ public:
     void chooseDate(QDate date);
 
     // --- lines -------------------------------------------------------------------------------------------------
-    // The column of the line grid that the user is in, by field name. A new item is judged by it: typed as a number
-    // ("ItemNo"), or picked by its description in a column with another text.
-    void setLineColumn(const QString &field) { m_lineColumn = field; }
+    // The column of the line grid that the user is in, by field name; a new item is judged by it (see LineCheck).
+    void setLineColumn(const QString &field) { m_check.setColumn(field); }
     // Puts the item into the current line, putting that into edit.
     void chooseItem(int itemId);
     // The same by a typed item number, in which letter case is second to a number found as typed; an empty text clears
@@ -90,7 +89,7 @@ public:
     void newLine(); // appends a line
     void removeLine(); // deletes the current line; a line being entered is dropped
     // Refuses a line without a quantity. Not every kind does so by itself: on a screen it counts as nothing.
-    void requireQuantity() const;
+    void requireQuantity() const { m_check.requireQuantity(); }
 
 protected:
     // The kind outlives the object.
@@ -120,12 +119,9 @@ protected:
 
     // --- pieces for those ------------------------------------------------------------------------------------
     void requireHeaderField(const QString &field, const QString &column) const; // "Field '...' must have a value"
-    void requireLineField(const QString &field, const QString &column) const;
-    void requireItem() const; // the line has an item, and it exists
     void requireLocation() const;
     void requireLines() const;
-    [[noreturn]] void refuseLine(const QString &message, const QString &column) const; // with the advice to undo
-    bool exists(const QString &table, const QString &keyField, const Engine::Value &key) const;
+    const LineCheck &lineCheck() const { return m_check; }
 
 private:
     Engine::Value askedDate(const Engine::Value &typed);
@@ -144,24 +140,20 @@ private:
 
     void lockLines();
     void beginLineChange(LineChange change);
-    void checkFigures();
-    EnteredFigures figures();
     void numberLine();
     int highestSeq() const;
     QString lineName() const;
-    void validateItem(const Engine::Value &itemId) const;
     bool hasLines() const;
 
     const DocumentKind &m_kind;
     Prompts &m_prompts;
     Engine::Table m_header;
     Engine::Table m_lines;
+    LineCheck m_check;
     DocumentVisit m_visit;
 
     int m_nextSeq = 1;
-    std::optional<EnteredFigures> m_known; // of the line in hand, as they are stored or have been asked about
     bool m_wasSaved = false;
-    QString m_lineColumn;
     QString m_givenNumber;
     QDate m_distantDate; // that the user wants all the same
 };

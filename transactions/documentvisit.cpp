@@ -80,9 +80,7 @@ bool DocumentVisit::isNew() const { return m_header.state() == Engine::TableStat
 
 bool DocumentVisit::hasStoredHeader() const
 {
-    return !Engine::singleValue(m_header.database(),
-                                u"SELECT %2 FROM %1 WHERE %2 = ?"_s.arg(m_header.name(), m_keyField), {key()})
-                .isNull();
+    return Engine::hasRow(m_header.database(), m_header.name(), m_keyField, key());
 }
 
 std::vector<Engine::Row> DocumentVisit::storedLines() const

@@ -1,6 +1,7 @@
 #include "transactions/receiptentry.h"
 
 #include "base/ruleerror.h"
+#include "engine/query.h"
 #include "master/masterkinds.h"
 #include "master/recordnumber.h"
 #include "transactions/documentkinds.h"
@@ -73,7 +74,7 @@ void ReceiptEntry::checkComplete() { requireHeaderField(u"VendorID"_s, u"VendorN
 
 void ReceiptEntry::checkReferences()
 {
-    if (!exists(u"Vendor"_s, u"VendorID"_s, header().value(u"VendorID")))
+    if (!Engine::hasRow(database(), u"Vendor"_s, u"VendorID"_s, header().value(u"VendorID")))
         throw RuleError(TransactionsTexts::tr("Vendor no longer exists"), u"VendorNo"_s);
     requireLocation();
     requireLines();
@@ -81,11 +82,11 @@ void ReceiptEntry::checkReferences()
 
 void ReceiptEntry::checkLine()
 {
-    requireQuantity();
-    requireItem();
-    requireLineField(u"UnitCost"_s, u"UnitCost"_s);
+    lineCheck().requireQuantity();
+    lineCheck().requireItem();
+    lineCheck().requireField(u"UnitCost"_s, u"UnitCost"_s);
     if (lines().money(u"UnitCost") < Engine::Money())
-        refuseLine(
+        lineCheck().refuse(
             TransactionsTexts::tr("Field '%1' must not be less than zero").arg(lines().field(u"UnitCost").label),
             u"UnitCost"_s);
 }

@@ -62,8 +62,9 @@ void UsageEntry::checkLine()
     try {
         totalWithLine();
     } catch (const Engine::AmountTooLarge &) {
-        refuseLine(TransactionsTexts::tr("The total of the usage would be more than an amount of money can be"),
-                   u"Quantity"_s);
+        lineCheck().refuse(
+            TransactionsTexts::tr("The total of the usage would be more than an amount of money can be"),
+            u"Quantity"_s);
     }
 }
 

@@ -1,0 +1,100 @@
+#include "transactions/linecheck.h"
+
+#include "base/ruleerror.h"
+#include "engine/database.h"
+#include "engine/query.h"
+#include "master/masterkinds.h"
+#include "master/recordnumber.h"
+#include "transactions/texts.h"
+
+using namespace Qt::StringLiterals;
+using Engine::FieldType;
+using Engine::Value;
+
+namespace Tallymere {
+
+namespace {
+
+[[noreturn]] void refuseNumber()
+{
+    throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"),
+                    u"ItemNo"_s);
+}
+
+} // namespace
+
+LineCheck::LineCheck(const Engine::Table &lines, const DocumentKind &kind, Prompts &prompts)
+    : m_lines(lines)
+    , m_kind(kind)
+    , m_prompts(prompts)
+{
+}
+
+// --- the item ------------------------------------------------------------------------------------------------
+
+void LineCheck::requireUsable(const Value &itemId) const
+{
+    const bool typed = m_column == "ItemNo"_L1;
+    const int column = m_lines.fieldIndex(m_column);
+    const bool picked = !typed && column >= 0 && m_lines.field(column).type == FieldType::Text;
+    if (itemId.toInt() == 0 || !(typed || picked))
+        return;
+    const Engine::StatementPtr item = m_lines.database().connection().prepare(
+        u"SELECT ItemNo, ItemDescription, Suspended FROM Item WHERE ItemID = ?"_s);
+    item->bind(0, itemId);
+    const bool found = item->next();
+    if (typed && !found)
+        refuseNumber();
+    if (!found || !item->valueAt(2, FieldType::Boolean).toBool())
+        return;
+    if (typed)
+        throw RuleError(TransactionsTexts::tr("Item has been suspended"), u"ItemNo"_s);
+    throw RuleError(TransactionsTexts::tr("Item '%1: %2' has been suspended").arg(item->textAt(0), item->textAt(1)),
+                    u"ItemNo"_s);
+}
+
+int LineCheck::itemByNumber(const QString &itemNo) const
+{
+    const std::optional<int> itemId = findByNumber(m_lines.database(), MasterKinds::item(), itemNo);
+    if (!itemId)
+        refuseNumber();
+    return *itemId;
+}
+
+// --- the line as a whole -------------------------------------------------------------------------------------
+
+void LineCheck::refuse(const QString &message, const QString &column) const
+{
+    throw RuleError(TransactionsTexts::tr("%1...\nMake changes or press Esc to undo").arg(message), column);
+}
+
+void LineCheck::requireField(const QString &field, const QString &column) const
+{
+    if (m_lines.value(field).isNull())
+        refuse(TransactionsTexts::tr("Field '%1' must have a value").arg(m_lines.field(field).label), column);
+}
+
+void LineCheck::requireItem() const
+{
+    requireField(u"ItemID"_s, u"ItemNo"_s);
+    if (!Engine::hasRow(m_lines.database(), u"Item"_s, u"ItemID"_s, m_lines.value(u"ItemID")))
+        refuse(TransactionsTexts::tr("Item not found"), u"ItemNo"_s);
+}
+
+void LineCheck::requireQuantity() const { requireField(quantityField(), quantityField()); }
+
+void LineCheck::checkFigures(double cost)
+{
+    const EnteredFigures entered = figures(cost);
+    if (entered == m_known)
+        return;
+    try {
+        requireAmount(entered, quantityField());
+    } catch (const RuleError &error) {
+        refuse(error.message(), error.column());
+    }
+    confirmLargeFigures(entered, quantityField(), m_prompts);
+    m_known = entered;
+}
+
+} // namespace Tallymere
