@@ -7,14 +7,12 @@
 #include "controls/screenmetrics.h"
 #include "controls/typing.h"
 #include "data/datamodule.h"
-#include "data/numbercounter.h"
 #include "engine/error.h"
-#include "engine/linetext.h"
 #include "transactions/documentkinds.h"
+#include "transactions/screens/countsearch.h"
 #include "ui_enterinventory.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QScopeGuard>
@@ -56,6 +54,8 @@ TFormEnterInventory::TFormEnterInventory(ScreenContext &context, QWidget *parent
              },
          .sort = [this](CountList::Order order) { sortBy(order); }},
         guard());
+    m_search =
+        new CountSearch(*m_ui->wwIncrementalSearch1, *m_ui->lblNotFound, m_count.list(), *m_ui->wwDBGridInventory);
     fillLocations();
     connectControls();
     dateChosen();
@@ -82,12 +82,9 @@ void TFormEnterInventory::connectControls()
     connect(m_ui->wwDBDateTimePickerInventoryDate, &DatePicker::refused, this, &TFormEnterInventory::showStatus);
     connect(m_ui->cboSearchOrder, &QComboBox::activated, this,
             [this](int order) { sortBy(static_cast<CountList::Order>(order)); });
-    connect(m_ui->wwIncrementalSearch1, &QLineEdit::textEdited, this, &TFormEnterInventory::searchTyped);
+    connect(m_search, &CountSearch::found, this, [this] { showStatus(); });
     connect(m_ui->wwDBGridInventory, &CountGrid::itemShown, this, [this] { showStatus(); });
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
-        m_ui->wwIncrementalSearch1->setFocus();
-        m_ui->wwIncrementalSearch1->selectAll();
-    });
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_search, &CountSearch::start);
     connectGuarded(m_ui->BitBtnOK, &QPushButton::clicked, this, &TFormEnterInventory::bitBtnOKClick);
     connect(m_ui->BitBtnCancel, &QPushButton::clicked, this, &QWidget::close);
     connectGuarded(m_ui->ActionCalculateConsumption, &QAction::triggered, this,
@@ -128,7 +125,7 @@ void TFormEnterInventory::closeList()
     m_count.close();
     m_ui->wwDBGridInventory->setHint({});
     m_ui->wwDBGridInventory->listChanged();
-    forgetUnknown();
+    m_search->forgetUnknown();
     showStatus();
 }
 
@@ -232,7 +229,7 @@ void TFormEnterInventory::zeroCountsChosen()
     m_count.setZeroCounts(zeroCountsWanted());
 }
 
-// --- order and search -------------------------------------------------------------------------------------------
+// --- order and keys ---------------------------------------------------------------------------------------------
 
 void TFormEnterInventory::sortBy(CountList::Order order)
 {
@@ -241,76 +238,12 @@ void TFormEnterInventory::sortBy(CountList::Order order)
     m_ui->wwDBGridInventory->listChanged();
 }
 
-void TFormEnterInventory::searchTyped(const QString &text)
-{
-    if (text.isEmpty())
-        return forgetUnknown();
-    if (isQuantityOfUnknown(text))
-        return;
-    forgetUnknown();
-    showFound(m_count.list().rowStartingWith(text));
-}
-
-// An item number leads to its item whatever the order is.
-void TFormEnterInventory::searchEntered()
-{
-    const QString text = m_ui->wwIncrementalSearch1->text().trimmed();
-    m_ui->wwIncrementalSearch1->selectAll();
-    if (text.isEmpty())
-        return m_ui->wwDBGridInventory->setFocus();
-    if (isQuantityOfUnknown(text))
-        return refuseSearch(tr("%1 is not taken: '%2' is not in the list").arg(Engine::excerpt(text), m_unknown));
-    const int numbered = m_count.list().rowOfNumber(text);
-    const int found = numbered >= 0 ? numbered : m_count.list().rowStartingWith(text);
-    if (found < 0) {
-        m_unknown = Engine::excerpt(text);
-        return refuseSearch(tr("'%1' is not in the list").arg(m_unknown));
-    }
-    forgetUnknown();
-    showFound(found);
-    m_ui->wwDBGridInventory->countItem(found);
-}
-
-// Numbers that counters give are not as small as most quantities. Any other number is one of an item or nothing: the
-// beginning of a number is none.
-bool TFormEnterInventory::isQuantityOfUnknown(const QString &text) const
-{
-    if (m_unknown.isEmpty())
-        return false;
-    bool isNumber = false;
-    const QString number = QString(text).replace(RegionalSettings::system().decimalPoint, u'.').trimmed();
-    const double quantity = QLocale::c().toDouble(number, &isNumber);
-    return isNumber && (quantity < firstNumber || m_count.list().rowOfNumber(text.trimmed()) < 0);
-}
-
-// Where who counts looks, and to be heard by who does not.
-void TFormEnterInventory::refuseSearch(const QString &said)
-{
-    m_ui->lblNotFound->setText(said);
-    m_ui->lblNotFound->setToolTip(said);
-    QApplication::beep();
-}
-
-void TFormEnterInventory::forgetUnknown()
-{
-    m_unknown.clear();
-    m_ui->lblNotFound->clear();
-    m_ui->lblNotFound->setToolTip({});
-}
-
-void TFormEnterInventory::showFound(int item)
-{
-    m_ui->wwDBGridInventory->showItem(item);
-    if (item >= 0)
-        showStatus();
-}
-
 bool TFormEnterInventory::takeKey(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter || focusWidget() != m_ui->wwIncrementalSearch1)
         return false;
-    searchEntered();
+    m_search->enter();
     return true;
 }
 

@@ -11,11 +11,12 @@ class TFormEnterInventory;
 
 namespace Tallymere {
 
+class CountSearch;
+
 // "Enter Inventory": the stock at a location is counted, and what has been used becomes a usage document.
 //
-// An item number typed or scanned into the search box leads to the item's quantity, and Enter there to the next one. After
-// one that is not in the list a quantity is not taken for another item: whoever counts may not have looked up. What is
-// counted is kept on this machine until it has been calculated; closing asks whether to keep it.
+// An item number typed or scanned into the search box leads to the item's quantity, and Enter there to the next one.
+// What is counted is kept on this machine until it has been calculated; closing asks whether to keep it.
 class TFormEnterInventory final : public EntryScreen
 {
     Q_OBJECT
@@ -55,12 +56,6 @@ private:
     bool mayLoseCounts(const QString &question);
 
     void sortBy(CountList::Order order);
-    void searchTyped(const QString &text);
-    void searchEntered();
-    bool isQuantityOfUnknown(const QString &text) const;
-    void refuseSearch(const QString &said);
-    void forgetUnknown();
-    void showFound(int item);
 
     void countItem(int item, std::optional<double> quantity);
     void dateChosen();
@@ -76,8 +71,8 @@ private:
 
     const std::unique_ptr<Ui::TFormEnterInventory> m_ui;
     StockCount m_count;
+    CountSearch *m_search = nullptr;
     int m_chosen = -1; // the location of the list, by its place in the box
-    QString m_unknown; // what was searched for last and is no item of the list
 };
 
 } // namespace Tallymere

@@ -1,0 +1,95 @@
+#include "transactions/screens/countsearch.h"
+
+#include "base/regionalsettings.h"
+#include "data/numbercounter.h"
+#include "engine/linetext.h"
+#include "transactions/countlist.h"
+#include "transactions/screens/countgrid.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace Tallymere {
+
+CountSearch::CountSearch(QLineEdit &box, QLabel &notFound, const CountList &list, CountGrid &grid)
+    : QObject(&box)
+    , m_box(box)
+    , m_notFound(notFound)
+    , m_list(list)
+    , m_grid(grid)
+{
+    connect(&box, &QLineEdit::textEdited, this, &CountSearch::typed);
+}
+
+void CountSearch::start()
+{
+    m_box.setFocus();
+    m_box.selectAll();
+}
+
+void CountSearch::typed(const QString &text)
+{
+    if (text.isEmpty())
+        return forgetUnknown();
+    if (isQuantityOfUnknown(text))
+        return;
+    forgetUnknown();
+    show(m_list.rowStartingWith(text));
+}
+
+// An item number leads to its item whatever the order is.
+void CountSearch::enter()
+{
+    const QString text = m_box.text().trimmed();
+    m_box.selectAll();
+    if (text.isEmpty())
+        return m_grid.setFocus();
+    if (isQuantityOfUnknown(text))
+        return refuse(tr("%1 is not taken: '%2' is not in the list").arg(Engine::excerpt(text), m_unknown));
+    const int numbered = m_list.rowOfNumber(text);
+    const int row = numbered >= 0 ? numbered : m_list.rowStartingWith(text);
+    if (row < 0) {
+        m_unknown = Engine::excerpt(text);
+        return refuse(tr("'%1' is not in the list").arg(m_unknown));
+    }
+    forgetUnknown();
+    show(row);
+    m_grid.countItem(row);
+}
+
+// Numbers that counters give are not as small as most quantities. Any other number is one of an item or nothing: the
+// beginning of a number is none.
+bool CountSearch::isQuantityOfUnknown(const QString &text) const
+{
+    if (m_unknown.isEmpty())
+        return false;
+    bool isNumber = false;
+    const QString number = QString(text).replace(RegionalSettings::system().decimalPoint, u'.').trimmed();
+    const double quantity = QLocale::c().toDouble(number, &isNumber);
+    return isNumber && (quantity < firstNumber || m_list.rowOfNumber(text.trimmed()) < 0);
+}
+
+// Where who counts looks, and to be heard by who does not.
+void CountSearch::refuse(const QString &said)
+{
+    m_notFound.setText(said);
+    m_notFound.setToolTip(said);
+    QApplication::beep();
+}
+
+void CountSearch::forgetUnknown()
+{
+    m_unknown.clear();
+    m_notFound.clear();
+    m_notFound.setToolTip({});
+}
+
+void CountSearch::show(int item)
+{
+    m_grid.showItem(item);
+    if (item >= 0)
+        Q_EMIT found();
+}
+
+} // namespace Tallymere
