@@ -25,7 +25,7 @@ Money lineCost(Money unitCost, double exchangeRate)
     return toCents(unitCost.toLongDouble() * static_cast<long double>(exchangeRate));
 }
 
-std::optional<Money> averageAfterReceipt(const ItemCost &before, double received, Money cost)
+std::optional<Money> averageAfterReceipt(const ValuedStock &before, double received, Money cost)
 {
     const bool hasValue = before.onHand > 0 && before.average > Money();
     const Money oldValue = hasValue ? valueOf(before.onHand, before.average, Money()) : Money();
