@@ -73,11 +73,7 @@ QAccessibleInterface *makeNamed(const QString &, QObject *object)
 
 void keepComboBoxNames()
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(makeNamed);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    QAccessible::installFactory(makeNamed); // Qt takes it once
 }
 
 } // namespace Tallymere

@@ -4,6 +4,7 @@
 #include "reports/screens/pageview.h"
 
 #include <QAccessibleWidget>
+#include <utility>
 
 namespace Tallymere {
 
@@ -44,11 +45,7 @@ QAccessibleInterface *makeReadable(const QString &, QObject *object)
 
 void letPagesBeRead()
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(makeReadable);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    QAccessible::installFactory(makeReadable); // Qt takes it once
 }
 
 } // namespace Tallymere
