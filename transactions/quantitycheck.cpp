@@ -4,6 +4,7 @@
 #include "base/rounding.h"
 #include "base/ruleerror.h"
 #include "engine/amounttoolarge.h"
+#include "engine/linetext.h"
 #include "transactions/texts.h"
 
 #include <cmath>
@@ -17,16 +18,10 @@ namespace {
 
 constexpr double most = 1e12;
 constexpr double large = 1e6;
-constexpr Money largeAmount = Money::fromTenThousandths(1'000'000'0000);
+constexpr Money largeAmount = Money::fromTenThousandths(1'000'000LL * 10'000);
 
 QString quantityText(double quantity) { return quantityFormat().display(Engine::Value(quantity)); }
 QString costText(double cost) { return currencyFormat().display(Engine::Value(cost)); }
-
-QString shortened(const QString &number)
-{
-    constexpr qsizetype shown = 40;
-    return number.size() > shown ? number.left(shown) + u"..."_s : number;
-}
 
 Money amountOf(const EnteredFigures &figures)
 {
@@ -42,7 +37,7 @@ void requireSensibleQuantity(double quantity, const QString &column)
     if (!(std::fabs(quantity) <= most))
         throw RuleError(
             TransactionsTexts::tr("A quantity of %1 cannot be meant. It may be %2 at most, or %3 at least.")
-                .arg(shortened(quantityText(quantity)), quantityText(most), quantityText(-most)),
+                .arg(Engine::excerpt(quantityText(quantity)), quantityText(most), quantityText(-most)),
             column);
 }
 

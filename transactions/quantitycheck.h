@@ -25,6 +25,7 @@ void requireSensibleQuantity(double quantity, const QString &column);
 void requireAmount(const EnteredFigures &figures, const QString &column);
 
 // What is asked of a quantity from 1,000,000 on and of an amount from 1,000,000.00 on; nothing of smaller ones.
+// Throws AmountTooLarge where it would have to name an amount that requireAmount() refuses.
 std::optional<QString> questionOfLargeFigures(const EnteredFigures &figures);
 std::optional<QString> questionOfLargeAmount(const EnteredFigures &figures); // of the amount alone
 
