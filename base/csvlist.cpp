@@ -29,8 +29,12 @@ void writeCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns,
     RowSpool aside; // where nobody can write before the moment is over, the output must not be waited for
     progress.start(walk.count());
     Engine::Row row;
-    for (; walk.next(row); progress.step())
-        moment.keepsWritersOut() ? aside.append(row) : write(row);
+    for (; walk.next(row); progress.step()) {
+        if (moment.keepsWritersOut())
+            aside.append(row);
+        else
+            write(row);
+    }
     moment.end();
     while (aside.next(row))
         write(row);

@@ -1,6 +1,7 @@
 #include "controls/dialogover.h"
 
 #include <QApplication>
+#include <QWidget>
 
 namespace Tallymere {
 

@@ -38,7 +38,8 @@ public:
 
     void setLines(Engine::Table &lines, const QList<GridColumn> &columns, LineActions actions, const Guard &guard,
                   const LineOptions &options = {});
-    // Lines can neither be appended nor deleted nor searched nor edited, and look so; what an edit says is up to the document.
+    // Lines can neither be appended nor deleted nor searched nor edited, and look so; what an edit says is up to the
+    // document.
     void setReadOnly(bool readOnly);
     bool isReadOnly() const { return m_readOnly; }
 

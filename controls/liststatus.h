@@ -7,8 +7,9 @@ class QStatusBar;
 
 namespace Tallymere {
 
-// The status line of a list: on which row of how many the cursor is, how many are selected, what is being
-// searched for, and the figures of the row that its columns are too narrow for. Nothing is said of the rows before the whole list has been read.
+// The status line of a list: on which row of how many the cursor is, how many are selected, what is being searched for,
+// and the figures of the row that its columns are too narrow for. Nothing is said of the rows before the whole list has
+// been read.
 class ListStatus : public QObject
 {
     Q_OBJECT

@@ -11,6 +11,11 @@ namespace Engine {
 
 namespace {
 
+QString inBrackets(const std::optional<LockOwner> &owner)
+{
+    return owner ? u" (%1)"_s.arg(owner->description()) : QString();
+}
+
 QString momentText(const QDateTime &moment)
 {
     const QDateTime here = moment.toLocalTime();
@@ -187,11 +192,6 @@ bool LockManager::holdsTable(const QString &table) const
 {
     const auto found = m_held.find(table.toLower());
     return found != m_held.end() && found->second.table > 0;
-}
-
-static QString inBrackets(const std::optional<LockOwner> &owner)
-{
-    return owner ? u" (%1)"_s.arg(owner->description()) : QString();
 }
 
 QString LockManager::holderOf(const QString &table) { return inBrackets(ownerOf(table)); }

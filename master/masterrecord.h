@@ -17,8 +17,8 @@ public:
     MasterRecord &operator=(const MasterRecord &) = delete;
 
     // Where numbers and counted keys come from. Unless set, at once from their counters, and a control table that
-    // stays out of reach, with the store still there, leaves a new record without: the check before saving asks for the number, and saving tries
-    // again for the key.
+    // stays out of reach, with the store still there, leaves a new record without: the check before saving asks for
+    // the number, and saving tries again for the key.
     NumberSource numbers;
 
     void open();

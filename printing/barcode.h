@@ -25,7 +25,8 @@ Barcode barcodeOf(const QString &text);
 // room must be as light. None when even the narrowest bars that scanners are sure of would not fit.
 QList<Fill> barcodeFills(const Barcode &barcode, const QRectF &room);
 
-// The room that a text wants with its bars as wide as they can be above it, or by itself where there are none for it.
+// How wide a text is with its bars as wide as they can be above it, or by itself where there are none for it; in units of
+// the page.
 double barcodeRoom(const QString &text);
 
 } // namespace Tallymere::Printing

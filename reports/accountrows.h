@@ -17,8 +17,8 @@ protected:
     AccountRows(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection);
 
     bool nextAccount(); // false after the last
-    void
-    takeBalance(std::vector<Engine::Value> &values) const; // of the account in hand, without what is calculated
+    // Of the account in hand, without what is calculated.
+    void takeBalance(std::vector<Engine::Value> &values) const;
     const std::vector<Movement> &movements() const { return m_movements.of(m_account); }
     double onHand() const { return m_query.valueAt(m_index, m_onHand).toDouble(); } // after them
     size_t indexOf(const QString &field) const { return m_map.indexOf(field); }

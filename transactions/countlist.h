@@ -47,8 +47,8 @@ public:
     int size() const { return static_cast<int>(m_rows.size()); }
     const CountRow &row(int row) const { return m_rows[static_cast<size_t>(row)].row; }
     int rowOfItem(qint64 itemId) const; // -1 when it is not in the list
-    int
-    rowOfNumber(const QString &itemNo) const; // in another letter case where there is none as typed; -1 for none
+    // In another letter case where there is none as typed; -1 for none.
+    int rowOfNumber(const QString &itemNo) const;
 
     // The first row whose text in the column of the order begins so, in any letter case; -1 when there is none.
     int rowStartingWith(const QString &text) const;

@@ -6,6 +6,7 @@
 #include "engine/groupedwrites.h"
 #include "engine/session.h"
 #include "engine/sqlcondition.h"
+#include "engine/textsize.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,13 +16,13 @@ namespace {
 
 Engine::StatementPtr remembering(Engine::Database &database, TransType type, qint64 document)
 {
-    const int size = Layouts::iDocSaved().fields[2].size;
+    const int size = Layouts::iDocSaved().field(u"SavedBy")->size;
     Engine::StatementPtr remember = database.connection().prepare(
         u"INSERT INTO IDocSaved (TransType, DocumentID, SavedBy, SavedAt) VALUES (?, ?, ?, ?) "
         "ON CONFLICT (TransType, DocumentID) DO UPDATE SET SavedBy = excluded.SavedBy, SavedAt = excluded.SavedAt"_s);
     remember->bindInt(0, static_cast<int>(type));
     remember->bindInt(1, document);
-    remember->bindText(2, database.session().applicationUser.left(size));
+    remember->bindText(2, Engine::firstCharacters(database.session().applicationUser, size));
     remember->bind(3, Engine::Value(database.session().now()));
     return remember;
 }

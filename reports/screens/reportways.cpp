@@ -42,7 +42,7 @@ void ReportWays::showOnScreen()
     if (!wanted)
         return;
     showReportOnScreen(m_context, wanted->report, wanted->selection, m_dialog.parentWidget());
-    Q_EMIT shown(*wanted);
+    Q_EMIT shown();
 }
 
 void ReportWays::savePdf()
@@ -75,7 +75,7 @@ void ReportWays::save(const FileChoice &choice, const WantedReport &wanted,
     if (file.isEmpty())
         return;
     m_context.prompts.inform(tr("%1 saved as %2").arg(wanted.report.layout.title, file));
-    Q_EMIT saved(wanted);
+    Q_EMIT saved();
 }
 
 } // namespace Tallymere

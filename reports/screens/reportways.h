@@ -40,8 +40,8 @@ public:
     const Guard &guard() const;
 
 Q_SIGNALS:
-    void shown(const WantedReport &wanted); // on the screen
-    void saved(const WantedReport &wanted);
+    void shown(); // on the screen
+    void saved();
 
 private:
     void savePdf();

@@ -329,11 +329,15 @@ void TFormEnterInventory::showList()
 
 void TFormEnterInventory::showStatus(const QString &said)
 {
-    const QString figures = m_ui->wwDBGridInventory->cutFigures(m_ui->wwDBGridInventory->currentIndex().row());
-    m_ui->lblStatus->setText(!said.isEmpty()         ? said
-                                 : figures.isEmpty() ? statusText()
-                                                     : statusText() + u"   "_s + figures);
+    m_ui->lblStatus->setText(said.isEmpty() ? statusText() + cutFiguresText() : said);
     m_ui->lblStatus->setToolTip(m_count.draftFailure());
+}
+
+// Of the row with the cursor, what its columns are too narrow for.
+QString TFormEnterInventory::cutFiguresText() const
+{
+    const QString figures = m_ui->wwDBGridInventory->cutFigures(m_ui->wwDBGridInventory->currentIndex().row());
+    return figures.isEmpty() ? QString() : u"   "_s + figures;
 }
 
 QString TFormEnterInventory::statusText() const

@@ -66,6 +66,7 @@ private:
     void showList();
     void showStatus(const QString &said = {});
     QString statusText() const;
+    QString cutFiguresText() const;
     QString calculationQuestion() const;
     QString hintText() const;
 
