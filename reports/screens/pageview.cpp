@@ -1,5 +1,7 @@
 #include "reports/screens/pageview.h"
 
+#include "base/ruleerror.h"
+#include "printing/laidline.h"
 #include "printing/pagepainter.h"
 #include "printing/pagetext.h"
 #include "reports/screens/pageaccess.h"
@@ -15,6 +17,22 @@ namespace Tallymere {
 namespace {
 constexpr int gap = 12; // around pages
 constexpr int pagesHeld = 12;
+
+// Painting must throw nothing, so what cannot be read any more says why in its place.
+Printing::Page readPage(const Printing::ReportRun &run, int index)
+{
+    try {
+        return run.page(index);
+    } catch (const RuleError &error) {
+        Printing::Page page;
+        float y = Printing::unitsPerInch;
+        for (const QString &line : error.message().split(u'\n')) {
+            page.texts.append({.x = Printing::unitsPerInch, .y = y, .text = line});
+            y += static_cast<float>(Printing::heightOf(Printing::TextStyle::Body));
+        }
+        return page;
+    }
+}
 } // namespace
 
 PageView::PageView(QWidget *parent)
@@ -151,7 +169,7 @@ Printing::Hit PageView::searchedFrom() const
 void PageView::goToHit(const Printing::Hit &hit)
 {
     m_hit = hit;
-    const QRectF place = Printing::findText(page(hit.page), m_searched).at(hit.index);
+    const QRectF place = Printing::findText(page(hit.page), m_searched).value(hit.index);
     const int y = pageTop(hit.page) + static_cast<int>(place.center().y() * scale());
     const int top = verticalScrollBar()->value();
     if (y < top + gap || y > top + viewport()->height() - gap)
@@ -169,7 +187,7 @@ const Printing::Page &PageView::page(int index) const
 {
     if (const Printing::Page *held = m_near.object(index))
         return *held;
-    auto *read = new Printing::Page(m_run->page(index));
+    auto *read = new Printing::Page(readPage(*m_run, index));
     m_near.insert(index, read);
     return *read;
 }
