@@ -72,6 +72,16 @@ protected:
             type("<Down>");
         type("<Return>");
     }
+    // Of so many that they fill several pages.
+    TfrmPreview *previewOfReceipts()
+    {
+        for (int id = 1; id <= 300; ++id)
+            kitchen.addReceipt(id, 1, 1, {});
+        auto *preview = new TfrmPreview(*context, runReport(*data, *ReportList::find(u"Inventory Receipts"_s), {}),
+                                        mainWindow.get());
+        showActive(*preview);
+        return preview;
+    }
     template <typename Widget> Widget *part(const char *name) { return child<Widget>(*wizard, name); }
     // What can be chosen on page two, from top to bottom.
     QStringList options()
@@ -268,11 +278,7 @@ TEST_F(InvReportsTest, HeadingsNameWhatIsChosenAndRefuseWhatIsGone)
 
 TEST_F(InvReportsTest, EnterPressesTheButtonWithTheCursorAndWhatWasSavedIsTold)
 {
-    for (int id = 1; id <= 300; ++id)
-        kitchen.addReceipt(id, 1, 1, {});
-    auto *preview = new TfrmPreview(*context, runReport(*data, *ReportList::find(u"Inventory Receipts"_s), {}),
-                                    mainWindow.get());
-    showActive(*preview);
+    TfrmPreview *preview = previewOfReceipts();
     ASSERT_TRUE(comesTrue([&] { return child<QPushButton>(*preview, "btnPrint")->isEnabled(); }));
     const auto *label = child<QLabel>(*preview, "panelPageNumber");
     child<QWidget>(*preview, "btnLast")->setFocus(Qt::TabFocusReason);
@@ -300,11 +306,7 @@ TEST_F(InvReportsTest, LocationsStandIndentedBelowTheirItem)
 
 TEST_F(InvReportsTest, PagesAreTurnedOneByOneWhereSeveralAreInSight)
 {
-    for (int id = 1; id <= 300; ++id)
-        kitchen.addReceipt(id, 1, 1, {});
-    auto *preview = new TfrmPreview(*context, runReport(*data, *ReportList::find(u"Inventory Receipts"_s), {}),
-                                    mainWindow.get());
-    showActive(*preview);
+    TfrmPreview *preview = previewOfReceipts();
     const auto *label = child<QLabel>(*preview, "panelPageNumber");
     ASSERT_TRUE(comesTrue([&] { return child<QPushButton>(*preview, "btnPrint")->isEnabled(); }));
     const QString last = label->text().section(u' ', -1);

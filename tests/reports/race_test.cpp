@@ -102,22 +102,21 @@ TEST_P(Race, EveryFigureIsOfTheTimeBetweenTwoDocuments)
     TDataModuleTallymere data(settings, prompts, options);
     Engine::Database &database = data.databaseTallymere();
     const auto mixed = [](double figure) { return std::fmod(figure, linesEach) != 0; };
+    const auto sumOf = [&](const Engine::DataSet &set, const QString &field) {
+        return sum(rowsOf([&](QIODevice &file) { writeCsvList(set, {field}, file, progress); }), field);
+    };
     const QList<std::pair<QString, std::function<bool()>>> listings{
         {u"totals"_s,
          [&] {
              TotalsView view(database);
              view.open();
-             return mixed(
-                 sum(rowsOf([&](QIODevice &file) { writeCsvList(view.query(), {u"QtyOnHand"_s}, file, progress); }),
-                     u"QtyOnHand"_s));
+             return mixed(sumOf(view.query(), u"QtyOnHand"_s));
          }},
         {u"history"_s,
          [&] {
              HistoryView view(database);
              view.open();
-             return mixed(
-                 sum(rowsOf([&](QIODevice &file) { writeCsvList(view.table(), {u"Quantity"_s}, file, progress); }),
-                     u"Quantity"_s));
+             return mixed(sumOf(view.table(), u"Quantity"_s));
          }},
         {u"Value by Item /Location"_s,
          [&] {
