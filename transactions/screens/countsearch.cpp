@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTextDocument>
 
 namespace Tallymere {
 
@@ -74,7 +75,7 @@ bool CountSearch::isQuantityOfUnknown(const QString &text) const
 void CountSearch::refuse(const QString &said)
 {
     m_notFound.setText(said);
-    m_notFound.setToolTip(said);
+    m_notFound.setToolTip(Qt::convertFromPlainText(said));
     QApplication::beep();
 }
 
