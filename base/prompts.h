@@ -42,7 +42,7 @@ class Progress
 public:
     virtual ~Progress() = default;
 
-    virtual void start(int steps) = 0;
+    virtual void start(int steps) = 0; // 0: nobody knows how many
     virtual void step() = 0;
     virtual void finish() = 0;
 };

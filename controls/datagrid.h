@@ -24,13 +24,14 @@ public:
     int widthForColumns(int count) const;
     int fullWidth() const { return widthForColumns(static_cast<int>(m_columns.size())); }
     int leastWidth() const; // below which it scrolls sideways
-    // What a column is wide without lack or surplus.
+    // What a column is wide without lack or surplus, in pixels of the screen.
     int wantedWidth(int column) const { return m_widths.value(column).wanted; }
     void setWantedWidth(int column, int width); // as by the user
     int surplusColumn() const { return m_surplusColumn; } // takes the width that the others leave over
     int heightForRows(int rows) const;
 
-    // The figures of a row that their columns are too narrow for, whole and each with its title; empty where all fit.
+    // The figures of a row that their columns are too narrow for, whole and each with its title; empty where all fit, and
+    // for -1.
     QString cutFigures(int row) const;
 
     // What an empty grid shows instead of rows.

@@ -39,8 +39,8 @@ public:
 
     std::unique_ptr<RecordScreen> make(); // to be filled and shown
     void openNew();
-    // The screen of a record that is open already comes to the front. Raises RuleError, by the name, when there is no
-    // such record any more.
+    // The screen of a record that is open already comes to the front. Gives the screen, which frees itself when it is
+    // closed. Raises RuleError, by the name, when there is no such record any more.
     RecordScreen &open(int key, const QString &name);
     // Of records that have been deleted. They hold no changes, or those would not have gone; what has only been typed in
     // them goes with the records.

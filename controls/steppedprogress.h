@@ -11,7 +11,7 @@ namespace Tallymere {
 class SteppedProgress : public Progress
 {
 public:
-    void start(int steps) final; // 0: nobody knows how many
+    void start(int steps) final;
     void step() final;
 
 protected:
