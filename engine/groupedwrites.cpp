@@ -164,9 +164,12 @@ void GroupedWrites::commit()
 
 void GroupedWrites::keepApplied() noexcept
 {
-    // A store that has rolled back by itself has left the last committed group.
-    if (m_joined || !m_connection.inTransaction())
+    if (m_joined)
         return;
+    // A store that has rolled back by itself has left the last committed group; a lost connection is free again once it
+    // is told that nobody goes on with the transaction.
+    if (!m_connection.inTransaction())
+        return m_connection.rollback();
     try {
         m_connection.drain();
         m_connection.commit();

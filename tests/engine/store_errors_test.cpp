@@ -264,6 +264,13 @@ TEST_F(ConnectionLostTest, NothingIsWrittenOutsideTheLostTransaction)
         errorOf([&] { transaction.commit(); }); // which may say again that it is lost
     }
     EXPECT_EQ(count(), 0);
+    {
+        GroupedWrites writes(store.database());
+        writes.apply([&](Writes &sink) { sink.send(*connection.prepare(u"INSERT INTO T VALUES (4)"_s)); });
+        cut();
+        EXPECT_EQ(errorOf([&] { writes.finish(); }), ErrorCode::ConnectionLost);
+    }
+    EXPECT_EQ(count(), 0);
 }
 
 TEST_F(ConnectionLostTest, LostRecordLocksAreNotBelievedIn)
