@@ -1,5 +1,8 @@
 #include "controls/screenmetrics.h"
 
+#include "controls/windowplaces.h"
+
+#include <QLayout>
 #include <QScreen>
 #include <QWidget>
 
@@ -8,6 +11,21 @@ namespace Tallymere {
 namespace {
 constexpr double designPixelsPerInch = 96.0;
 constexpr auto furtherProperty = "furtherScreen";
+
+// What has a width of its own keeps it; what may grow may be half as wide as its form wants it, before the window is cut.
+void giveUpLeastWidths(QWidget *window)
+{
+    const QList<QWidget *> widgets = window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->minimumWidth() < widget->maximumWidth())
+            widget->setMinimumWidth(widget->minimumWidth() / 2);
+        widget->updateGeometry();
+    }
+    const QList<QLayout *> layouts = window->findChildren<QLayout *>();
+    for (QLayout *layout : layouts)
+        layout->invalidate();
+    window->layout()->activate();
+}
 } // namespace
 
 double fontFactor(const QWidget *widget) { return widget->logicalDpiX() / designPixelsPerInch; }
@@ -25,7 +43,14 @@ void scaleForm(QWidget *form)
     }
 }
 
-void fitToScreen(QWidget *window) { window->resize(window->size().boundedTo(window->screen()->availableSize())); }
+void fitToScreen(QWidget *window)
+{
+    const QSize room = window->screen()->availableSize();
+    const QMargins frame = expectedFrame(*window);
+    if (window->minimumSizeHint().width() > room.width() - frame.left() - frame.right())
+        giveUpLeastWidths(window);
+    window->resize(window->size().boundedTo(room));
+}
 
 void bringToFront(QWidget &window)
 {

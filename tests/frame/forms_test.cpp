@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QXmlStreamReader>
 
@@ -185,7 +186,7 @@ protected:
         }
     }
 
-    // Every text fits into its widget, on each page of the window.
+    // Every text fits into its widget, on each page of the window, and the window onto the screen.
     void expectFit(QWidget &window)
     {
         SCOPED_TRACE(qPrintable(window.objectName()));
@@ -195,6 +196,7 @@ protected:
                     expectFits(*widget);
             }
         });
+        EXPECT_LE(window.width(), window.screen()->availableSize().width());
         ++shown;
     }
 
