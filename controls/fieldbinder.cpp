@@ -87,7 +87,7 @@ void FieldBinder::bind(Engine::Table &table, const QString &source)
                 Engine::ErrorCode::NoSuchField,
                 tr("%1 cannot show field %2 of table %3.").arg(widget->objectName(), name, table.name()));
         widget->installEventFilter(this);
-        binding->setReadOnly(m_readOnly);
+        binding->setReadOnly(isReadOnly());
         binding->show();
         m_bindings.push_back(std::move(binding));
     }
@@ -99,6 +99,10 @@ void FieldBinder::watch(Engine::Table &table)
     connect(&table, &Engine::DataSet::fieldChanged, this, &FieldBinder::refresh);
     connect(&table, &Engine::DataSet::currentChanged, this, &FieldBinder::refresh);
     connect(&table, &Engine::DataSet::closed, this, &FieldBinder::refresh);
+    connect(&table, &Engine::DataSet::stateChanged, this, [this, &table] {
+        if (table.isEditing())
+            setInUse(false);
+    });
 }
 
 void FieldBinder::setEntryRule(const QString &field, std::function<void(const QString &)> rule)
@@ -192,10 +196,34 @@ bool FieldBinder::revert(QWidget *widget)
 
 void FieldBinder::setReadOnly(bool readOnly)
 {
-    if (std::exchange(m_readOnly, readOnly) == readOnly)
+    const bool before = isReadOnly();
+    m_readOnly = readOnly;
+    showReadOnly(before);
+}
+
+void FieldBinder::setInUse(bool inUse)
+{
+    const bool before = isReadOnly();
+    m_inUse = inUse && !hasEntry() && !isBeingEdited();
+    showReadOnly(before);
+}
+
+// The widget with the cursor takes it anew: what it shows then is for editing or is not.
+void FieldBinder::showReadOnly(bool before)
+{
+    if (isReadOnly() == before)
         return;
     for (const auto &binding : m_bindings)
-        binding->setReadOnly(readOnly);
+        binding->setReadOnly(!before);
+    if (FieldBinding *binding = bindingOf(m_form->focusWidget()))
+        binding->setActive(binding->widget()->hasFocus());
+    Q_EMIT readOnlyChanged(!before);
+}
+
+bool FieldBinder::isBeingEdited() const
+{
+    return std::any_of(m_bindings.begin(), m_bindings.end(),
+                       [](const auto &binding) { return binding->table().isEditing(); });
 }
 
 void FieldBinder::refresh()
@@ -313,9 +341,9 @@ bool FieldBinder::eventFilter(QObject *watched, QEvent *event)
     } else if (event->type() == QEvent::Wheel && qobject_cast<QComboBox *>(watched)) {
         event->ignore(); // a turn of the wheel over a form must not change what it holds
         return true;
-    } else if (m_readOnly && triesToChange(*event, *binding->widget())) {
+    } else if (isReadOnly() && triesToChange(*event, *binding->widget())) {
         startEdit(*binding);
-        return true;
+        return isReadOnly();
     }
     return false;
 }

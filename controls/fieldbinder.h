@@ -55,7 +55,13 @@ public:
     // The record can only be read: its fields look so and accessibility tools are told so. Who types into one all the
     // same asks the table for the edit, whose refusal says why.
     void setReadOnly(bool readOnly);
+    // So it is as long as somebody else has the record in use, unless something has been entered already. That ends
+    // with the first key for which the record can be had.
+    void setInUse(bool inUse);
     void refresh(); // shows the tables' values, except where an entry waits
+
+Q_SIGNALS:
+    void readOnlyChanged(bool readOnly); // for either reason
 
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -67,11 +73,15 @@ private:
     void reportLater(const std::exception_ptr &failure);
     void watch(Engine::Table &table);
     FieldBinding *bindingOf(const QObject *widget) const;
+    bool isReadOnly() const { return m_readOnly || m_inUse; }
+    void showReadOnly(bool before);
+    bool isBeingEdited() const;
 
     QWidget *m_form;
     const Guard &m_guard;
     std::vector<std::unique_ptr<FieldBinding>> m_bindings;
     bool m_readOnly = false;
+    bool m_inUse = false;
     FieldBinding *m_kept = nullptr; // left towards a widget that keeps the entry, or another window
     bool m_refusing = false; // an entry is refused, and that is being told
     FieldBinding *m_asked = nullptr; // left with an entry about which the user is still to be asked

@@ -23,7 +23,7 @@ constexpr int marginPixels = 6;
 
 } // namespace
 
-InUseNotice::InUseNotice(QWidget &screen, const FieldBinder &binder)
+InUseNotice::InUseNotice(QWidget &screen, FieldBinder &binder)
     : QLabel(&screen)
     , m_screen(screen)
     , m_binder(binder)
@@ -59,6 +59,7 @@ void InUseNotice::look()
     if (!who.isEmpty())
         setText(tr("In use by %1. You can read it; it can be changed once it is free.").arg(who));
     setVisible(!who.isEmpty());
+    m_binder.setInUse(!who.isEmpty());
     if (!who.isEmpty())
         m_again.start();
 }

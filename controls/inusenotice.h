@@ -12,7 +12,7 @@ namespace Tallymere {
 class FieldBinder;
 
 // Says above the fields of a screen that somebody else has its record in use, from the moment it is opened: who types
-// learns it before the first key, and not from a refusal after it. It looks whenever the window is shown or activated,
+// learns it before the first key, and not from a refusal after it. The fields look as those that can only be read. It looks whenever the window is shown or activated,
 // and goes by itself once the record is free.
 class InUseNotice final : public QLabel
 {
@@ -20,7 +20,7 @@ class InUseNotice final : public QLabel
 
 public:
     // Becomes the first row of the screen's layout.
-    InUseNotice(QWidget &screen, const FieldBinder &binder);
+    InUseNotice(QWidget &screen, FieldBinder &binder);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -30,7 +30,7 @@ private:
     QString holder() const;
 
     const QWidget &m_screen;
-    const FieldBinder &m_binder;
+    FieldBinder &m_binder;
     QTimer m_again;
 };
 

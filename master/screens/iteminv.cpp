@@ -12,6 +12,10 @@ TfrmItemInv::TfrmItemInv(ScreenContext &context, QWidget *parent)
     m_ui->setupUi(this);
     buildRecord();
     connect(m_ui->chkReadOnly, &QCheckBox::clicked, this, &TfrmItemInv::chkReadOnlyClick);
+    connect(&binder(), &FieldBinder::readOnlyChanged, this, [this](bool readOnly) {
+        m_ui->chkReadOnly->setDisabled(readOnly);
+        lockCost(readOnly || m_ui->chkReadOnly->isChecked());
+    });
 }
 
 TfrmItemInv::~TfrmItemInv() = default;
@@ -24,16 +28,20 @@ void TfrmItemInv::firstShown()
 
 void TfrmItemInv::chkReadOnlyClick()
 {
-    QLineEdit *cost = m_ui->editWgtAvgCost;
     const bool locked = m_ui->chkReadOnly->isChecked();
-    QPalette colours = palette();
-    colours.setColor(QPalette::Base, colours.color(locked ? QPalette::Button : QPalette::Base));
-    cost->setPalette(colours);
-    cost->setReadOnly(locked);
+    lockCost(locked);
     if (locked)
         return;
-    cost->clearFocus(); // where it was while nothing could be typed
-    cost->setFocus();
+    m_ui->editWgtAvgCost->clearFocus(); // where it was while nothing could be typed
+    m_ui->editWgtAvgCost->setFocus();
+}
+
+void TfrmItemInv::lockCost(bool locked)
+{
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, colours.color(locked ? QPalette::Button : QPalette::Base));
+    m_ui->editWgtAvgCost->setPalette(colours);
+    m_ui->editWgtAvgCost->setReadOnly(locked);
 }
 
 } // namespace Tallymere

@@ -24,6 +24,7 @@ protected:
 
 private:
     void chkReadOnlyClick();
+    void lockCost(bool locked);
 
     std::unique_ptr<Ui::TfrmItemInv> m_ui;
 };

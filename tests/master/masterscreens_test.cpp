@@ -212,11 +212,17 @@ TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
     EXPECT_TRUE(notice->text().startsWith("In use by anna on "_L1) && notice->text().contains(", since "_L1))
         << notice->text().toStdString();
     EXPECT_EQ(prompts.take(), QStringList());
+    const auto *edit = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    ASSERT_TRUE(edit && edit->isReadOnly());
+    type("M");
+    settle();
+    EXPECT_EQ(prompts.take().size(), 1) << "who types is told who has it";
     theirs.table().cancel();
+    type("Mine");
+    EXPECT_EQ(edit->text(), u"Mine"_s) << "free, and not looked at again yet";
     showActive(*list);
     showActive(*record);
     EXPECT_FALSE(notice->isVisible());
-    type("Mine");
     EXPECT_EQ(prompts.take(), QStringList());
 }
 

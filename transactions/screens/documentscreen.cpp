@@ -70,6 +70,7 @@ void DocumentScreen::buildDocument(LineOptions options)
     connect(&m_entry->header(), &Engine::DataSet::fieldChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::currentChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::stateChanged, this, &DocumentScreen::showHeader);
+    connect(&binder(), &FieldBinder::readOnlyChanged, this, &DocumentScreen::showReadOnly);
     buildScreen();
 }
 
@@ -116,11 +117,15 @@ void DocumentScreen::showHeader()
 {
     const bool posted = m_entry->isPosted();
     m_posted->setVisible(posted);
-    m_grid->setReadOnly(posted);
     binder().setReadOnly(posted);
-    for (QAction *action : std::as_const(m_popup))
-        action->setEnabled(!posted);
     showCaption();
+}
+
+void DocumentScreen::showReadOnly(bool readOnly)
+{
+    m_grid->setReadOnly(readOnly);
+    for (QAction *action : std::as_const(m_popup))
+        action->setEnabled(!readOnly);
 }
 
 void DocumentScreen::showLineOf(int itemId, double quantity)

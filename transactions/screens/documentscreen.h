@@ -54,6 +54,7 @@ protected:
     bool takeKey(QKeyEvent *event) override;
 
 private:
+    void showReadOnly(bool readOnly);
     void addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
                          void (LineGrid::*run)());
     bool takesText(const QString &column) const;
