@@ -409,7 +409,8 @@ void TFormEnterInventory::actionCalculateConsumptionExecute()
         showReady();
         throw;
     } catch (const Engine::EngineError &error) {
-        m_ui->BitBtnOK->setEnabled(error.isHeldByOthers()); // nothing has been written then
+        // Nothing has been written then. Where a connection was lost too late to tell, the next try names the usage.
+        m_ui->BitBtnOK->setEnabled(error.isHeldByOthers() || error.code() == Engine::ErrorCode::ConnectionLost);
         throw;
     }
     if (calculation.readsAgain) {
