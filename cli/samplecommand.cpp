@@ -26,8 +26,10 @@ bool isLarge(const QString &size)
 
 void requireEmpty(Engine::Database &database)
 {
-    const QStringList tables = {u"Item"_s,    u"ItemType"_s, u"Vendor"_s, u"VContact"_s, u"IReceipt"_s,
-                                u"IAdjust"_s, u"IUsage"_s,   u"IHist"_s,  u"IBalance"_s, u"Tax"_s};
+    QStringList tables = {u"Item"_s, u"ItemType"_s, u"Vendor"_s, u"VContact"_s};
+    for (const DocumentKind *kind : DocumentKinds::all())
+        tables.append(kind->headerTable);
+    tables += {u"IHist"_s, u"IBalance"_s, u"Tax"_s};
     for (const QString &table : tables) {
         if (Engine::singleValue(database, u"SELECT count(*) FROM "_s + table).toInt64() > 0)
             throw RuleError(

@@ -91,7 +91,8 @@ const QList<ListKind> &listKinds()
             all.append({master->name, Layouts::find(master->table),
                         master->list.orders.at(master->list.firstOrder).index});
         for (const DocumentKind *document : DocumentKinds::all())
-            all.append({document->name, Layouts::find(document->headerTable), document->orders.constFirst().index});
+            all.append(
+                {document->name, Layouts::find(document->headerTable), document->list.orders.constFirst().index});
         return all;
     }();
     return kinds;

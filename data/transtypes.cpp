@@ -2,23 +2,34 @@
 
 #include "data/texts.h"
 
+#include <algorithm>
+
 namespace Tallymere {
+
+const QList<TransTypeInfo> &transTypes()
+{
+    using enum TransTypeInfo::Direction;
+    using enum TransTypeInfo::Summary;
+    static const QList<TransTypeInfo> types = {
+        {TransType::Adjust, DataTexts::tr("Adjust"), DataTexts::tr("Adjustments"), PutsIn, Adjustments},
+        {TransType::Usage, DataTexts::tr("Usage"), DataTexts::tr("Usage"), TakesOut, Sales},
+        {TransType::PoReceipt, DataTexts::tr("PO Receipt"), DataTexts::tr("PO Receipts"), PutsIn, Receipts},
+        {TransType::Sale, DataTexts::tr("Sale"), {}, TakesOut, Sales},
+        {TransType::MfgReceipt, DataTexts::tr("Mfg Receipt"), {}, PutsIn, None},
+    };
+    return types;
+}
+
+const TransTypeInfo *transType(int code)
+{
+    const auto found = std::ranges::find(transTypes(), static_cast<TransType>(code), &TransTypeInfo::type);
+    return found == transTypes().end() ? nullptr : &*found;
+}
 
 QString transTypeText(int code)
 {
-    switch (static_cast<TransType>(code)) {
-    case TransType::Adjust:
-        return DataTexts::tr("Adjust");
-    case TransType::Sale:
-        return DataTexts::tr("Sale");
-    case TransType::PoReceipt:
-        return DataTexts::tr("PO Receipt");
-    case TransType::MfgReceipt:
-        return DataTexts::tr("Mfg Receipt");
-    case TransType::Usage:
-        return DataTexts::tr("Usage");
-    }
-    return {};
+    const TransTypeInfo *type = transType(code);
+    return type ? type->text : QString();
 }
 
 } // namespace Tallymere

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 namespace Tallymere {
@@ -13,7 +14,25 @@ enum class TransType {
     Usage = 5,
 };
 
-// "PO Receipt"; an empty text for a code that is none of these.
-QString transTypeText(int code);
+// All that the module knows of one type; a further one is a further row of the table.
+struct TransTypeInfo
+{
+    enum class Direction { PutsIn, TakesOut };
+    // The column of a perpetual summary that counts it.
+    enum class Summary { None, Receipts, Adjustments, Sales };
+
+    TransType type;
+    QString text; // in lists and reports: "PO Receipt"
+    QString filterText; // in the filter of the history: "PO Receipts"; empty: it is not offered there
+    Direction direction; // what its quantity does to the stock
+    Summary summary;
+
+    double change(double quantity) const { return direction == Direction::TakesOut ? -quantity : quantity; }
+};
+
+// In the order in which they are offered.
+const QList<TransTypeInfo> &transTypes();
+const TransTypeInfo *transType(int code); // null for a code that is none of these
+QString transTypeText(int code); // an empty text for such a code
 
 } // namespace Tallymere

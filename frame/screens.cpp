@@ -34,7 +34,7 @@ ScreenKind postDialog(const DocumentKind &kind)
         auto *dialog = new DocumentPostScreen(context, kind, parent);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, &kind] {
-            dialog->guard().run([&kind] { refreshOpenList(kind.listScreen); });
+            dialog->guard().run([&kind] { refreshOpenList(kind.list.screen); });
             if (!dialog->hasFailed())
                 dialog->sayPosted();
         });
@@ -52,8 +52,8 @@ ScreenRegistry productScreens()
         screens.add(screen.kind.list.screen, {screen.make});
     screens.add(u"frmCompany"_s, {make<TfrmCompany>});
     for (const DocumentScreens &screen : documentScreens()) {
-        screens.add(screen.kind.listScreen, {.create = screen.makeList, .posts = true});
-        screens.add(screen.kind.postScreen, postDialog(screen.kind));
+        screens.add(screen.kind.list.screen, {.create = screen.makeList, .posts = true});
+        screens.add(screen.kind.posting.screen, postDialog(screen.kind));
     }
     screens.add(u"FormEnterInventory"_s, {make<TFormEnterInventory>});
     screens.add(u"FormBlankInventoryReportSelection"_s, {make<TFormBlankInventoryReportSelection>});

@@ -11,7 +11,7 @@ namespace Tallymere {
 
 DocumentImport::DocumentImport(const ImportRun &run, const DocumentKind &kind)
     : m_answers(run.answers)
-    , m_entry(kind.makeEntry(run.database, run.answers))
+    , m_entry(kind.entry.make(run.database, run.answers))
     , m_names(run.database)
 {
     m_entry->numbers = heldNumbers(run.counters);
@@ -59,12 +59,12 @@ void DocumentImport::add(ImportDocument &document, ImportErrors &errors)
 
 void DocumentImport::beginDocument(const ImportRow &row)
 {
-    const QString numberField = m_entry->kind().numberField;
-    const ImportCell *given = numberField.isEmpty() ? nullptr : row.cell(numberField);
+    const std::optional<QString> &numberField = m_entry->kind().numberField;
+    const ImportCell *given = numberField ? row.cell(*numberField) : nullptr;
     if (given && !given->value.isNull())
         return m_entry->newDocument(given->value.toText());
     m_entry->newDocument();
-    while (!numberField.isEmpty() && isNumberTaken(m_entry->header(), numberField)) {
+    while (numberField && isNumberTaken(m_entry->header(), *numberField)) {
         m_entry->cancel();
         m_entry->newDocument();
     }

@@ -101,17 +101,17 @@ ImportKind documentKind(const DocumentKind &document)
     ImportKind kind;
     kind.name = document.name;
     kind.oneName = document.oneName;
-    kind.lockedTables = {document.headerTable, document.lineTable, document.counters.table};
-    const QStringList system = document.systemFields + QStringList{document.keyField, u"Seq"_s, u"Posted"_s};
+    kind.lockedTables = {document.headerTable, document.lineTable, document.entry.counters.table};
+    const QStringList system = document.files.systemFields + QStringList{document.keyField, u"Seq"_s, u"Posted"_s};
     addColumns(kind, *Layouts::find(document.headerTable), system);
     addColumns(kind, *Layouts::find(document.lineTable), system, Level::Line);
     kind.refusedColumns.removeDuplicates();
-    for (const DocumentKind::NumberFor &number : document.numbers)
+    for (const DocumentKind::NumberFor &number : document.files.numbers)
         addName(kind, number.field, *Layouts::find(number.table), number.numberField, number.notFound);
     addName(kind, u"WarehouseID"_s, Layouts::warehse(), u"WarehouseName"_s,
             ImportTexts::tr("Location '%1' not found"));
     addName(kind, u"ItemID"_s, Layouts::item(), u"ItemNo"_s, MasterKinds::item().record.notFound);
-    require(kind, document.requiredColumns);
+    require(kind, document.files.requiredColumns);
     require(kind, {u"WarehouseID"_s, u"ItemID"_s});
     column(kind, u"GLYear").format = ImportColumn::Format::Year;
     column(kind, u"GLPeriod").format = ImportColumn::Format::Period;

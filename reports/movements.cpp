@@ -14,8 +14,8 @@ namespace Tallymere {
 
 double Movement::change() const
 {
-    const bool takesOut = type == static_cast<int>(TransType::Sale) || type == static_cast<int>(TransType::Usage);
-    return takesOut ? -quantity : quantity;
+    const TransTypeInfo *known = transType(type);
+    return known ? known->change(quantity) : quantity;
 }
 
 Movements::Movements(Engine::Database &database, int year, int period, int warehouseId, bool byLocation)

@@ -25,7 +25,7 @@ struct Movement
     QString description{};
     double quantity = 0;
 
-    // What it adds to the stock: sales and usage take out, everything else puts in.
+    // What it adds to the stock; a type that is unknown puts in.
     double change() const;
 };
 

@@ -3,6 +3,7 @@
 #include "data/transtypes.h"
 #include "reports/accountrows.h"
 
+#include <map>
 #include <QHash>
 
 using namespace Qt::StringLiterals;
@@ -92,35 +93,21 @@ public:
         if (!nextAccount())
             return false;
         takeBalance(row.values);
-        double receipts = 0;
-        double adjustments = 0;
-        double sales = 0;
+        std::map<TransTypeInfo::Summary, double> counted;
         double closing = onHand();
         for (const Movement &movement : movements()) {
-            if (movement.year != m_selection.year || movement.period != m_selection.period) {
+            const TransTypeInfo *type = transType(movement.type);
+            if (movement.year != m_selection.year || movement.period != m_selection.period)
                 closing -= movement.change();
-                continue;
-            }
-            switch (static_cast<TransType>(movement.type)) {
-            case TransType::Adjust:
-                adjustments += movement.quantity;
-                break;
-            case TransType::PoReceipt:
-                receipts += movement.quantity;
-                break;
-            case TransType::Sale:
-            case TransType::Usage:
-                sales += movement.quantity;
-                break;
-            default:
-                break;
-            }
+            else if (type)
+                counted[type->summary] += movement.quantity;
         }
-        row.values[m_receipts] = receipts;
-        row.values[m_adjustments] = adjustments;
-        row.values[m_sales] = sales;
+        using enum TransTypeInfo::Summary;
+        row.values[m_receipts] = counted[Receipts];
+        row.values[m_adjustments] = counted[Adjustments];
+        row.values[m_sales] = counted[Sales];
         row.values[m_closing] = closing;
-        row.values[m_opening] = closing - receipts - adjustments + sales;
+        row.values[m_opening] = closing - counted[Receipts] - counted[Adjustments] + counted[Sales];
         return true;
     }
 

@@ -24,6 +24,8 @@ LineEffect takeLine(const PostingDocument &document, const PostingLine &line, St
 PostingKind adjustmentPosting()
 {
     return {
+        .screen = u"frmInvAdjustmentsPost"_s,
+        .caption = TransactionsTexts::tr("Post Inventory Adjustments"),
         .unposted = u"IAdjust I WHERE I.Posted = false"_s,
         .headerColumns = u"I.GLYear, I.GLPeriod, I.AdjDate, I.WarehouseID, I.AdjDescription"_s,
         .lines = u"IAdjDet L"_s,

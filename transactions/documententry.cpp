@@ -27,8 +27,8 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
     , m_check(m_lines, m_kind, prompts)
     , m_visit(m_header, m_lines, m_kind.keyField, prompts)
 {
-    m_header.uniqueFields = QStringList(m_kind.numberField);
-    m_header.uniqueFields.removeAll(QString());
+    if (m_kind.numberField)
+        m_header.uniqueFields = {*m_kind.numberField};
     m_header.recordName = [this] { return m_kind.titleOf(m_header); };
     m_lines.recordName = [this] { return lineName(); };
     m_lines.addLookup(u"ItemNo"_s, FieldType::Text, 20, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
@@ -81,7 +81,7 @@ void DocumentEntry::configureFields()
     m_header.field(u"WarehouseID").label = TransactionsTexts::tr("Warehouse");
     m_lines.field(u"ItemID").label = TransactionsTexts::tr("Item no.");
     m_lines.field(u"ItemID").validate = [this](const Value &itemId) { m_check.requireUsable(itemId); };
-    const QString &quantity = m_kind.lineColumns.constFirst().field;
+    const QString &quantity = m_kind.entry.lineColumns.constFirst().field;
     m_lines.field(quantity).label = TransactionsTexts::tr("Quantity");
     m_lines.field(quantity).format = quantityFormat(RegionalSettings::system(), quantity);
     m_lines.field(quantity).validate = [quantity](const Value &value) {
@@ -135,7 +135,7 @@ void DocumentEntry::hookHeader()
     };
     m_header.events.postFailed = [this](const Engine::EngineError &error) {
         if (error.code() == ErrorCode::KeyViolation)
-            throw RuleError(m_kind.numberTaken, m_kind.shownField());
+            throw RuleError(m_kind.entry.numberTaken, m_kind.shownField());
     };
     m_header.events.afterCancel = [this] { endVisit(); };
 }
@@ -152,16 +152,16 @@ void DocumentEntry::newHeader()
 
 void DocumentEntry::assignNumbers()
 {
-    const DocumentKind::Counters &from = m_kind.counters;
+    const DocumentKind::Counters &from = m_kind.entry.counters;
     numbers(from.table, [&](CounterRow &counters) {
         m_header.setDefault(m_kind.keyField, counters.takeKey(from.key, m_kind.keyField, m_kind.keyTables()));
-        if (from.number.isEmpty() || !m_givenNumber.isEmpty())
+        if (!m_kind.numberField || !m_givenNumber.isEmpty())
             return;
-        counters.restartOutside(from.number, firstNumber, lastNumber, from.restart);
-        m_header.setDefault(m_kind.numberField, QString::number(counters.take(from.number)));
+        counters.restartOutside(*from.number, firstNumber, lastNumber, from.restart);
+        m_header.setDefault(*m_kind.numberField, QString::number(counters.take(*from.number)));
     });
-    if (!m_givenNumber.isEmpty())
-        m_header.setDefault(m_kind.numberField, m_givenNumber);
+    if (m_kind.numberField && !m_givenNumber.isEmpty())
+        m_header.setDefault(*m_kind.numberField, m_givenNumber);
 }
 
 namespace {
@@ -187,7 +187,7 @@ void DocumentEntry::refusePosted() const
 {
     if (!isPosted())
         return;
-    m_prompts.inform(m_kind.postedRefusal);
+    m_prompts.inform(m_kind.entry.postedRefusal);
     throw SilentAbort();
 }
 
@@ -209,7 +209,7 @@ void DocumentEntry::checkHeader()
     m_lines.checkBrowseMode();
     checkPeriod();
     checkReferences();
-    for (const QString &field : m_kind.requiredFields)
+    for (const QString &field : m_kind.entry.requiredFields)
         requireHeaderField(field, field);
     rememberSaved(database(), m_kind.posting.transType, key());
 }
@@ -230,7 +230,8 @@ void DocumentEntry::requireHeaderField(const QString &field, const QString &colu
 QString DocumentEntry::caption() const
 {
     const bool unnamed = m_header.text(m_kind.shownField()).isEmpty();
-    return m_header.state() == Engine::TableState::Insert && unnamed ? m_kind.newTitle : m_kind.titleOf(m_header);
+    return m_header.state() == Engine::TableState::Insert && unnamed ? m_kind.entry.newTitle
+                                                                     : m_kind.titleOf(m_header);
 }
 
 bool DocumentEntry::chooseByNumber(const QString &, const QString &) { return false; }
@@ -244,13 +245,13 @@ void DocumentEntry::checkReferences()
 void DocumentEntry::requireLocation() const
 {
     if (!Engine::hasRow(database(), u"Warehse"_s, u"WarehouseID"_s, m_header.value(u"WarehouseID")))
-        throw RuleError(m_kind.locationGone, u"WarehouseID"_s);
+        throw RuleError(m_kind.entry.locationGone, u"WarehouseID"_s);
 }
 
 void DocumentEntry::requireLines() const
 {
     if (m_lines.isEmpty())
-        throw RuleError(m_kind.nothingEntered, LineGrid);
+        throw RuleError(m_kind.entry.nothingEntered, LineGrid);
 }
 
 void DocumentEntry::chooseInHeader(const QString &field, const Value &value)
@@ -400,7 +401,7 @@ bool DocumentEntry::goToLineOf(int itemId, double quantity)
 {
     if (m_lines.isEditing())
         return false;
-    const QString both = u"ItemID;"_s + m_kind.lineColumns.constFirst().field;
+    const QString both = u"ItemID;"_s + m_kind.entry.lineColumns.constFirst().field;
     return m_lines.locate(both, {itemId, quantity}) || m_lines.locate(u"ItemID"_s, {itemId});
 }
 

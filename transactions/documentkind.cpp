@@ -7,7 +7,10 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-QString DocumentKind::titleOf(const Engine::DataSet &header) const { return title.arg(header.text(shownField())); }
+QString DocumentKind::titleOf(const Engine::DataSet &header) const
+{
+    return entry.title.arg(header.text(shownField()));
+}
 
 FilterBox DocumentKind::locationBox()
 {

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <QString>
 #include <QStringList>
 
@@ -18,24 +19,45 @@ class DocumentEntry;
 // the commands of the command line work from it.
 struct DocumentKind
 {
+    // --- entering a document ------------------------------------------------------------------------------------
     // What numbers new documents. A number outside firstNumber to lastNumber is not given; the counter restarts.
     struct Counters
     {
         QString table; // the control table: "ItemCtl"
         QString key; // its field for the key
-        QString number; // its field for the number; empty where the key is shown
+        std::optional<QString> number; // its field for the number; none where the key is shown
         qint64 restart = 0;
     };
-    struct NumberFor
-    { // a number or name that may stand for a key of the header in a file
-        QString field; // "VendorID", the key of the other table as well
-        QString table; // "Vendor"
-        QString numberField; // "VendorNo"
-        QString notFound; // "Vendor no. '%1' not found"
+    struct Entry
+    {
+        QString screen; // component name: "frmInvReceipt"
+        Counters counters;
+        QString title; // of one, in its caption and in messages: "Receipt %1"
+        QString newTitle; // in the caption of a new one: "New Inventory Receipt"
+        QString postedRefusal; // shown when a posted document is about to be edited
+        QString numberTaken; // raised when the number or the key exists already
+        QString closingQuestion; // when the screen is closed with changes
+        QString nothingEntered; // raised when a document without lines is saved
+        QString locationGone; // raised when the location is no longer there
+        QStringList requiredFields; // of the header, beside what is checked on its own
+        QList<GridColumn> lineColumns; // of its line grid; the quantity comes first
+        std::function<std::unique_ptr<DocumentEntry>(Engine::Database &, Prompts &)> make;
+        bool opensFromHistory = true; // the source of a history row can be looked at
+        bool leadsListUnsaved = false; // OK moves the list to the document also where nothing was saved
+    };
+
+    // --- its list -----------------------------------------------------------------------------------------------
+    struct Filter
+    {
+        QString screen; // "frmInvReceiptsFilter"
+        QString caption; // "Inventory Receipts Filter"
+        // The list is narrowed by the first, the location; a choice in another one only switches the filter on.
+        QList<FilterBox> boxes = {locationBox()};
+        QString notPosted; // the expression for them: "(Posted = false)"
     };
     struct Find
     { // the dialog that finds a document by the number users see
-        QString screen; // component name: "frmInvReceiptsFind"; empty: there is none
+        QString screen; // component name: "frmInvReceiptsFind"
         QString caption; // "Find Receipt"
         QString box; // "editReceipt"
         QString label; // "&Receipt no.:"
@@ -47,67 +69,56 @@ struct DocumentKind
         QString question; // "Delete receipt '%1'?"
         QString nameField; // what the question and the refusal call the document: "ReceiptNo"
         QString posted; // refuses one that has been posted: "Unable to delete receipt '%1'..."
-        QString postedBeforeAsking; // the same before the question; empty: that is asked first
+        std::optional<QString> postedBeforeAsking =
+            {}; // the same before the question; without it that is asked first
+    };
+    struct List
+    {
+        QString screen; // "frmInvReceipts"
+        QString caption; // "Inventory Receipts"
+        QList<GridColumn> columns;
+        QList<ListOrder> orders; // as the menu has them; the first is in force at the start
+        bool showsFirstRow = false; // goes to it each time it is shown
+        std::function<void(Engine::Table &)> addFields =
+            {}; // looked-up ones of its own, before the table is opened
+        QString report; // "TrptInvReceipts"
+        Filter filter;
+        std::optional<Find> find = {};
+        Deleting deleting;
+    };
+
+    // --- its files, beside location and item, which all kinds have -----------------------------------------------
+    struct NumberFor
+    { // a number or name that may stand for a key of the header in a file
+        QString field; // "VendorID", the key of the other table as well
+        QString table; // "Vendor"
+        QString numberField; // "VendorNo"
+        QString notFound; // "Vendor no. '%1' not found"
+    };
+    struct Files
+    {
+        QStringList systemFields = {}; // that a file may not give, beside the keys and the mark
+        QList<NumberFor> numbers = {};
+        QStringList requiredColumns;
     };
 
     QString name; // on the command line: "receipts"
     QString oneName; // of one: "receipt"
-
-    // --- the tables ---------------------------------------------------------------------------------------------
     QString headerTable; // "IReceipt"
     QString lineTable; // "IRecDet"
     QString keyField; // of both, and of the history rows: "ReceiptID"
-    QString numberField; // the number users see, which must be unique; empty where the key is shown
+    std::optional<QString> numberField; // the number users see, which must be unique; none where the key is shown
     QString dateField; // "ReceiptDate"
 
-    // --- entering a document ------------------------------------------------------------------------------------
-    Counters counters;
-    QString title; // of one, in its caption and in messages: "Receipt %1"
-    QString newTitle; // in the caption of a new one: "New Inventory Receipt"
-    QString postedRefusal; // shown when a posted document is about to be edited
-    QString numberTaken; // raised when the number or the key exists already
-    QString closingQuestion; // when the screen is closed with changes
-    QString nothingEntered; // raised when a document without lines is saved
-    QString locationGone; // raised when the location is no longer there
-    QStringList requiredFields; // of the header, beside what is checked on its own
-
-    QString screen; // component name: "frmInvReceipt"
-    QList<GridColumn> lineColumns; // of its line grid; the quantity comes first
-    std::function<std::unique_ptr<DocumentEntry>(Engine::Database &, Prompts &)> makeEntry;
-    bool opensFromHistory = true; // the source of a history row can be looked at
-    bool leadsListUnsaved = false; // OK moves the list to the document also where nothing was saved
-
-    // --- its list -----------------------------------------------------------------------------------------------
-    QString listScreen; // "frmInvReceipts"
-    QString listCaption; // "Inventory Receipts"
-    QList<GridColumn> columns;
-    QList<ListOrder> orders; // as the menu has them; the first is in force at the start
-    bool showsFirstRow = false; // goes to it each time it is shown
-    std::function<void(Engine::Table &)> addListFields; // looked-up ones of its own, before the table is opened
-    QString listReport; // "TrptInvReceipts"
-    QString filterScreen; // "frmInvReceiptsFilter"
-    QString filterCaption; // "Inventory Receipts Filter"
-    // The list is narrowed by the first, the location; a choice in another one only switches the filter on.
-    QList<FilterBox> filterBoxes = {locationBox()};
-    QString notPosted; // the filter for them: "(Posted = false)"
-    Find find;
-    Deleting deleting;
-
-    // --- posting ------------------------------------------------------------------------------------------------
-    QString postScreen; // "frmInvReceiptsPost"
-    QString postCaption; // "Post Inventory Receipts"
-
+    Entry entry;
+    List list;
     PostingKind posting;
-
-    // --- its files, beside location and item, which all kinds have -----------------------------------------------
-    QStringList systemFields; // that a file may not give, beside the keys and the mark
-    QList<NumberFor> numbers;
-    QStringList requiredColumns;
+    Files files;
 
     QString titleOf(const Engine::DataSet &header) const; // "Receipt 1001"
     static FilterBox locationBox();
     QStringList keyTables() const { return {headerTable, lineTable}; } // in which a key of a document can stand
-    const QString &shownField() const { return numberField.isEmpty() ? keyField : numberField; }
+    const QString &shownField() const { return numberField ? *numberField : keyField; }
 };
 
 } // namespace Tallymere

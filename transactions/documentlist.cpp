@@ -15,14 +15,14 @@ DocumentList::DocumentList(Engine::Database &database, const DocumentKind &kind)
     , m_kind(kind)
 {
     table().recordName = [this] { return m_kind.titleOf(table()); };
-    setOrder(m_kind.orders.constFirst());
+    setOrder(m_kind.list.orders.constFirst());
     table().addCalculated(u"Periodppyyyy"_s, FieldType::Text, 8, [](const Engine::DataSet &row) {
         return Engine::Value(row.text(u"GLPeriod") + u'/' + row.text(u"GLYear"));
     });
     table().addLookup(u"WarehouseName"_s, FieldType::Text, 50,
                       {u"WarehouseID"_s, u"Warehse"_s, u"WarehouseID"_s, u"WarehouseName"_s});
-    if (m_kind.addListFields)
-        m_kind.addListFields(table());
+    if (m_kind.list.addFields)
+        m_kind.list.addFields(table());
 }
 
 void DocumentList::open()
@@ -33,16 +33,16 @@ void DocumentList::open()
 
 void DocumentList::find(const QString &number)
 {
-    if (number.isEmpty() || table().locate(m_kind.numberField, {number}))
+    if (number.isEmpty() || table().locate(*m_kind.numberField, {number}))
         return;
-    throw RuleError(m_kind.find.notFound.arg(Engine::excerpt(number)), m_kind.numberField);
+    throw RuleError(m_kind.list.find->notFound.arg(Engine::excerpt(number)), *m_kind.numberField);
 }
 
 // --- deleting ---------------------------------------------------------------------------------------------------
 
-QString DocumentList::name() const { return table().text(m_kind.deleting.nameField); }
+QString DocumentList::name() const { return table().text(m_kind.list.deleting.nameField); }
 
-QString DocumentList::postedText() const { return m_kind.deleting.posted.arg(name()); }
+QString DocumentList::postedText() const { return m_kind.list.deleting.posted.arg(name()); }
 
 void DocumentList::refuseIfPosted(const QString &refusal) const
 {
@@ -52,11 +52,11 @@ void DocumentList::refuseIfPosted(const QString &refusal) const
 
 void DocumentList::remove(Prompts &prompts)
 {
-    const DocumentKind::Deleting &deleting = m_kind.deleting;
+    const DocumentKind::Deleting &deleting = m_kind.list.deleting;
     if (table().isEmpty())
         return;
-    if (!deleting.postedBeforeAsking.isEmpty())
-        refuseIfPosted(deleting.postedBeforeAsking);
+    if (deleting.postedBeforeAsking)
+        refuseIfPosted(*deleting.postedBeforeAsking);
     if (!prompts.confirm(deleting.asks, deleting.question.arg(name())))
         throw SilentAbort();
     refuseIfPosted(postedText());

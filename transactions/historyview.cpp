@@ -50,7 +50,7 @@ QString HistoryView::filterExpression(const Filter &filter)
 HistoryView::Source HistoryView::source() const
 {
     const Source made = document();
-    return made.kind && made.kind->opensFromHistory ? made : Source();
+    return made.kind && made.kind->entry.opensFromHistory ? made : Source();
 }
 
 HistoryView::Source HistoryView::document() const

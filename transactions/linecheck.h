@@ -35,7 +35,7 @@ public:
     void checkFigures(double cost); // SilentAbort when the user does not mean them
 
 private:
-    const QString &quantityField() const { return m_kind.lineColumns.constFirst().field; }
+    const QString &quantityField() const { return m_kind.entry.lineColumns.constFirst().field; }
     EnteredFigures figures(double cost) const { return {m_lines.number(quantityField()), cost}; }
 
     const Engine::Table &m_lines;

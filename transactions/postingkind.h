@@ -62,6 +62,8 @@ struct LineEffect
 // What tells the posting of one kind of document from another.
 struct PostingKind
 {
+    QString screen; // the dialog's component name: "frmInvReceiptsPost"
+    QString caption; // "Post Inventory Receipts"
     // What follows FROM for the unposted documents, complete with its WHERE; the header table is called I.
     QString unposted;
     // Of I: year, period, date, location, then columns of the kind's own, which readHeader() takes up.
@@ -69,7 +71,7 @@ struct PostingKind
     // What follows FROM for the lines; the line table is called L. What it is joined to must not multiply the lines.
     QString lines;
     QString lineColumns; // ItemID, quantity, then those of the kind's own, for readLine()
-    TransType transType = TransType::Adjust;
+    TransType transType;
     QList<PostingLock> locks; // in the order they are taken
     QString entryOpen; // raised while the entry screen is open
     QString toBePosted; // "%1 receipt(s) to be posted"

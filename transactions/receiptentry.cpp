@@ -31,7 +31,7 @@ void ReceiptEntry::configureFields()
 QString ReceiptEntry::caption() const
 {
     const bool isNew = header().state() == Engine::TableState::Insert;
-    return isNew && header().value(u"VendorID").isNull() ? kind().newTitle : DocumentEntry::caption();
+    return isNew && header().value(u"VendorID").isNull() ? kind().entry.newTitle : DocumentEntry::caption();
 }
 
 bool ReceiptEntry::chooseByNumber(const QString &field, const QString &number)

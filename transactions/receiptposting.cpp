@@ -45,6 +45,8 @@ LineEffect takeLine(const PostingDocument &document, const PostingLine &line, St
 PostingKind receiptPosting()
 {
     return {
+        .screen = u"frmInvReceiptsPost"_s,
+        .caption = TransactionsTexts::tr("Post Inventory Receipts"),
         .unposted = u"IReceipt I INNER JOIN Vendor V ON I.VendorID = V.VendorID "
                     "LEFT OUTER JOIN Currency C ON V.CurrencyID = C.CurrencyID WHERE I.Posted = false"_s,
         .headerColumns =

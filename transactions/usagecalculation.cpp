@@ -122,7 +122,7 @@ void write(Engine::Database &database, const UsageHeader &header, const std::vec
     writes.apply([&](Engine::Writes &step) {
         writeHeader(connection, header, step);
         writeLines(connection, header.usage.id, lines, step);
-        rememberSaved(database, TransType::Usage, header.usage.id, step);
+        rememberSaved(database, DocumentKinds::usage().posting.transType, header.usage.id, step);
     });
     writes.finish();
 }

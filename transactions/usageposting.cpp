@@ -33,6 +33,8 @@ LineEffect takeLine(const PostingDocument &document, const PostingLine &line, St
 PostingKind usagePosting()
 {
     return {
+        .screen = u"frmUsagesPost"_s,
+        .caption = TransactionsTexts::tr("Post Inventory Usage Records"),
         .unposted = u"IUsage I WHERE I.Posted = false"_s,
         .headerColumns = u"I.GLYear, I.GLPeriod, I.InventoryDate, I.WarehouseID, I.UsageNo"_s,
         // Only what is stocked is posted; an item that is gone, or whose type is, counts as not.

@@ -19,7 +19,7 @@ constexpr size_t mostListed = 8;
 void addWaiting(std::vector<WaitingDocument> &documents, Engine::Database &database, const DocumentKind &kind,
                 int location)
 {
-    const QString &name = kind.deleting.nameField;
+    const QString &name = kind.list.deleting.nameField;
     const Engine::StatementPtr rows = database.connection().prepare(
         u"SELECT %1, %2, %3, %4 FROM %5 WHERE Posted = false AND WarehouseID = ? ORDER BY %1"_s.arg(
             kind.keyField, kind.shownField(), kind.dateField, name, kind.headerTable));
@@ -28,7 +28,7 @@ void addWaiting(std::vector<WaitingDocument> &documents, Engine::Database &datab
         WaitingDocument &document = documents.emplace_back();
         document.kind = &kind;
         document.key = rows->intAt(0);
-        document.number = kind.numberField.isEmpty() ? QString::number(document.key) : rows->textAt(1);
+        document.number = kind.numberField ? rows->textAt(1) : QString::number(document.key);
         document.date = rows->valueAt(2, Engine::FieldType::Date).toDate();
         if (name != kind.shownField())
             document.name = rows->textAt(3);
@@ -39,7 +39,7 @@ void addWaiting(std::vector<WaitingDocument> &documents, Engine::Database &datab
 
 QString WaitingDocument::text() const
 {
-    QStringList parts{kind->title.arg(number)};
+    QStringList parts{kind->entry.title.arg(number)};
     if (date.isValid())
         parts.append(RegionalSettings::system().shortDate(date, 4));
     if (!name.isEmpty())

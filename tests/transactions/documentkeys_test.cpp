@@ -43,7 +43,7 @@ TEST_P(DocumentKeys, ThatDocumentsOrLinesHaveAreNotGivenAgain)
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
         const QStringList before = storedLines(*kind);
-        const auto entry = kind->makeEntry(kitchen.database(), prompts);
+        const auto entry = kind->entry.make(kitchen.database(), prompts);
         entry->open();
         entry->newDocument();
         EXPECT_EQ(entry->key(), 6);
@@ -52,7 +52,7 @@ TEST_P(DocumentKeys, ThatDocumentsOrLinesHaveAreNotGivenAgain)
         entry->cancel();
         EXPECT_EQ(storedLines(*kind), before);
 
-        kitchen.execute(u"UPDATE %1 SET %2 = 0"_s.arg(kind->counters.table, kind->counters.key));
+        kitchen.execute(u"UPDATE %1 SET %2 = 0"_s.arg(kind->entry.counters.table, kind->entry.counters.key));
         HeldCounters held(kitchen.database());
         entry->numbers = heldNumbers(held);
         entry->newDocument();
@@ -89,7 +89,7 @@ TEST_P(DocumentKeys, StoredMeanwhileKeepTheirLines)
 {
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
-        const auto entry = kind->makeEntry(kitchen.database(), prompts);
+        const auto entry = kind->entry.make(kitchen.database(), prompts);
         entry->open();
         entry->newDocument();
         kitchen.execute(u"UPDATE %1 SET %2 = 6 WHERE %2 = 4; UPDATE %3 SET %2 = 6 WHERE %2 = 4"_s.arg(

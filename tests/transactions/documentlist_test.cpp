@@ -51,7 +51,7 @@ TEST_P(List, TellsDeletedFromPostedInTheLastMoment)
 {
     for (int id = 1; id <= 2; ++id)
         kitchen.addReceipt(id, 1, 1, {{1, 1, 1}});
-    list.table().setFilter(DocumentKinds::receipt().notPosted);
+    list.table().setFilter(DocumentKinds::receipt().list.filter.notPosted);
     list.table().setFiltered(true);
     list.table().refresh();
     QString sql;

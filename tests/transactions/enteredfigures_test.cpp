@@ -17,11 +17,11 @@ protected:
     {
         entry.reset();
         prompts.said.clear();
-        entry = kind.makeEntry(kitchen.database(), prompts);
+        entry = kind.entry.make(kitchen.database(), prompts);
         entry->open();
         entry->newDocument();
     }
-    QString quantityField() const { return entry->kind().lineColumns.constFirst().field; }
+    QString quantityField() const { return entry->kind().entry.lineColumns.constFirst().field; }
     bool hasCost() { return entry->lines().fieldIndex(u"UnitCost") >= 0; }
     // What refuses it; the line is stored where nothing does, and in hand otherwise.
     QString enter(const Engine::Value &quantity, const Engine::Value &cost)

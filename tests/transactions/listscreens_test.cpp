@@ -167,7 +167,7 @@ TEST_F(ListScreensTest, postedDocumentsOfAllKindsLookAsTheyAre)
             widget->setFocus();
             for (const char *keys : {"9", "<Del>", "<Backspace>"}) {
                 type(keys);
-                EXPECT_EQ(prompts.take(), QStringList(u"inform: "_s + kind->postedRefusal)) << keys;
+                EXPECT_EQ(prompts.take(), QStringList(u"inform: "_s + kind->entry.postedRefusal)) << keys;
             }
         }
         EXPECT_GE(fields, 5);
@@ -175,7 +175,7 @@ TEST_F(ListScreensTest, postedDocumentsOfAllKindsLookAsTheyAre)
         EXPECT_FALSE(lines->model()->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
         lines->setFocus();
         type("9");
-        EXPECT_EQ(prompts.take(), QStringList(u"inform: "_s + kind->postedRefusal));
+        EXPECT_EQ(prompts.take(), QStringList(u"inform: "_s + kind->entry.postedRefusal));
         EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM %1 WHERE WarehouseID = 1"_s.arg(kind->headerTable)), 1);
     }
 }
@@ -222,7 +222,7 @@ TEST_F(ListScreensTest, postingTellsOfWhatTheListDoesNotShowAndWhoseItIs)
 
     const auto anna = kitchen.anotherUser();
     SpokenPrompts annas;
-    const std::unique_ptr<DocumentEntry> entry = DocumentKinds::receipt().makeEntry(anna->database, annas);
+    const std::unique_ptr<DocumentEntry> entry = DocumentKinds::receipt().entry.make(anna->database, annas);
     entry->open();
     ASSERT_TRUE(entry->openDocument(1));
     entry->header().edit();
@@ -382,7 +382,7 @@ TEST_F(ListScreensTest, historyOpensDocumentsOnTheLineOfTheItem)
         EXPECT_TRUE(history.command(u"mnuOpenDocument"_s)->isEnabled());
         EXPECT_EQ(history.command(u"mnuSource"_s)->isEnabled(), row != 1);
         history.command(u"mnuOpenDocument"_s)->trigger();
-        auto *document = findScreen<DocumentScreen>(kind->screen);
+        auto *document = findScreen<DocumentScreen>(kind->entry.screen);
         ASSERT_NE(document, nullptr);
         auto *lines = child<QTableView>(*document, "DBGrid1");
         const auto cell = [&](int column) {

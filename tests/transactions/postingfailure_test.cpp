@@ -110,7 +110,7 @@ TEST_P(FailingPosting, ADocumentThatARuleRefusesIsLeftAloneAndNamedAgain)
             expect(u"1"_s, u"1,2,4"_s, onHand, c.kind);
         }
         kitchen.execute(u"UPDATE %1 SET %2 = 0%3 WHERE %4 = 2"_s.arg(
-            c.kind.lineTable, c.kind.lineColumns.constFirst().field,
+            c.kind.lineTable, c.kind.entry.lineColumns.constFirst().field,
             &c.kind == &adjustment ? QString() : u", UnitCost = 1"_s, c.kind.keyField));
         post(c.kind);
         expect(u"1,2,3"_s, u"1,2,4,0,0,0,64,128,256"_s, onHand * 65, c.kind);

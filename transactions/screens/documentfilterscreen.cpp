@@ -8,9 +8,9 @@ namespace Tallymere {
 
 DocumentFilterScreen::DocumentFilterScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
     : FilterDialog(context,
-                   {.name = kind.filterScreen,
-                    .caption = kind.filterCaption,
-                    .boxes = kind.filterBoxes,
+                   {.name = kind.list.filter.screen,
+                    .caption = kind.list.filter.caption,
+                    .boxes = kind.list.filter.boxes,
                     .mark = u"Posted"_s,
                     .markLabel = tr("Posted")},
                    parent)

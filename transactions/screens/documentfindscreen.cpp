@@ -11,7 +11,7 @@ DocumentFindScreen::DocumentFindScreen(ScreenContext &context, DocumentList &lis
     , m_ui(std::make_unique<Ui::DocumentFindScreen>())
     , m_list(list)
 {
-    const DocumentKind::Find &find = list.kind().find;
+    const DocumentKind::Find &find = *list.kind().list.find;
     m_ui->setupUi(this);
     setObjectName(find.screen);
     setWindowTitle(find.caption);

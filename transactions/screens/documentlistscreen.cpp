@@ -19,9 +19,10 @@ DocumentListScreen::DocumentListScreen(ScreenContext &context, const DocumentKin
     setRecords(m_list, recordScreens(kind));
     Dialogs dialogs{
         .makeFilter = [this, &kind] { return new DocumentFilterScreen(this->context(), kind, this); },
-        .filterExpression = [&kind](const ListFilter &filter) { return documentFilter(filter, kind.notPosted); },
+        .filterExpression =
+            [&kind](const ListFilter &filter) { return documentFilter(filter, kind.list.filter.notPosted); },
         .makeFind = {}};
-    if (!kind.find.screen.isEmpty())
+    if (kind.list.find)
         dialogs.makeFind = [this] { return std::make_unique<DocumentFindScreen>(this->context(), m_list, this); };
     setDialogs(std::move(dialogs));
 }
@@ -46,18 +47,18 @@ ListDescription DocumentListScreen::description()
         m_list.setOrder(order);
         m_list.table().first();
     };
-    return {.name = kind.listScreen,
-            .caption = kind.listCaption,
-            .columns = kind.columns,
+    return {.name = kind.list.screen,
+            .caption = kind.list.caption,
+            .columns = kind.list.columns,
             .buttons = recordButtons(),
-            .menus = {fileMenu(kind.listReport), records, viewMenu(kind.orders, 0, sort),
-                      helpMenu(tr("%1 &Help").arg(kind.listCaption))}};
+            .menus = {fileMenu(kind.list.report), records, viewMenu(kind.list.orders, 0, sort),
+                      helpMenu(tr("%1 &Help").arg(kind.list.caption))}};
 }
 
 void DocumentListScreen::showStep()
 {
     RecordListScreen::showStep();
-    if (m_list.kind().showsFirstRow)
+    if (m_list.kind().list.showsFirstRow)
         m_list.table().first();
 }
 

@@ -18,15 +18,15 @@ DocumentPostScreen::DocumentPostScreen(ScreenContext &context, const DocumentKin
     , m_kind(kind)
     , m_ui(std::make_unique<Ui::DocumentPostScreen>())
 {
-    setObjectName(kind.postScreen);
+    setObjectName(kind.posting.screen);
     m_ui->setupUi(this);
-    setWindowTitle(kind.postCaption);
+    setWindowTitle(kind.posting.caption);
     setMinimumWidth(scaled(this, 340));
     m_ui->lblRecordCount->setText(m_posting.countText());
     const QString notListed = list ? notListedText(*list) : QString();
     m_ui->lblNotListed->setText(notListed);
     m_ui->lblNotListed->setVisible(!notListed.isEmpty());
-    m_posting.isEntryOpen = [&kind] { return findScreen(kind.screen) != nullptr; };
+    m_posting.isEntryOpen = [&kind] { return findScreen(kind.entry.screen) != nullptr; };
     connect(m_ui->btnOK, &QPushButton::clicked, this, &DocumentPostScreen::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &DocumentPostScreen::reject);
 }

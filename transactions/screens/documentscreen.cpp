@@ -28,7 +28,7 @@ constexpr int columnsAtFirst = 5; // further ones take the room of the one with 
 
 DocumentScreen::DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
     : RecordScreen(context, parent)
-    , m_entry(kind.makeEntry(context.data.databaseTallymere(), context.prompts))
+    , m_entry(kind.entry.make(context.data.databaseTallymere(), context.prompts))
 {
     m_entry->open();
 }
@@ -43,7 +43,7 @@ void DocumentScreen::buildDocument(LineOptions options)
 {
     resize(scaled(this, 840), scaled(this, 470));
     setLookupLists(*this, context().lookups, guard());
-    QList<GridColumn> columns = m_entry->kind().lineColumns;
+    QList<GridColumn> columns = m_entry->kind().entry.lineColumns;
     for (GridColumn &column : columns) {
         column.takesSurplus = column.field == descriptionField;
         if (!takesText(column.field))
@@ -227,12 +227,13 @@ void DocumentScreen::dropChanges()
 
 std::optional<int> DocumentScreen::savedKey() const
 {
-    return m_entry->wasSaved() || m_entry->kind().leadsListUnsaved ? std::optional(m_entry->key()) : std::nullopt;
+    return m_entry->wasSaved() || m_entry->kind().entry.leadsListUnsaved ? std::optional(m_entry->key())
+                                                                         : std::nullopt;
 }
 
 QString DocumentScreen::caption() const { return m_entry->caption(); }
 
-QString DocumentScreen::closingQuestion() const { return m_entry->kind().closingQuestion; }
+QString DocumentScreen::closingQuestion() const { return m_entry->kind().entry.closingQuestion; }
 
 // The caption of a new document does not tell it from another one.
 QString DocumentScreen::recordName() const

@@ -37,7 +37,7 @@ RecordScreens recordScreens(const DocumentKind &kind)
     const auto found = std::find_if(all.begin(), all.end(),
                                     [&](const DocumentScreens &screens) { return &screens.kind == &kind; });
     Q_ASSERT(found != all.end());
-    return {kind.screen, kind.listScreen, found->makeDocument};
+    return {kind.entry.screen, kind.list.screen, found->makeDocument};
 }
 
 } // namespace Tallymere

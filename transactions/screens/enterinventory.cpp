@@ -418,7 +418,7 @@ void TFormEnterInventory::actionCalculateConsumptionExecute()
         return readAgain();
     }
     m_ui->wwDBGridInventory->listChanged();
-    refreshOpenList(DocumentKinds::usage().listScreen);
+    refreshOpenList(DocumentKinds::usage().list.screen);
     showStatus(calculation.usage
                    ? plural(calculation.usage->lines,
                             tr("Usage %1 has been written, %n line. Post it when it has been looked over."),

@@ -43,9 +43,10 @@ void TfrmInvHistoryFilter::addTypes()
 {
     m_type->setObjectName(u"cboTransType"_s);
     m_type->addItem({});
-    m_type->addItem(tr("Adjustments"), static_cast<int>(TransType::Adjust));
-    m_type->addItem(tr("Usage"), static_cast<int>(TransType::Usage));
-    m_type->addItem(tr("PO Receipts"), static_cast<int>(TransType::PoReceipt));
+    for (const TransTypeInfo &type : transTypes()) {
+        if (!type.filterText.isEmpty())
+            m_type->addItem(type.filterText, static_cast<int>(type.type));
+    }
     addRow(tr("&Transaction Type:"), m_type);
     addChoice({.chosen = [this] { return m_type->currentIndex(); },
                .choose = [this](const QVariant &index) { m_type->setCurrentIndex(index.toInt()); },

@@ -1,0 +1,74 @@
+#include "data/transtypes.h"
+#include "tests/support/kitchen.h"
+#include "transactions/documententry.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
+#include "transactions/historyview.h"
+#include "transactions/waitingdocuments.h"
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+class DocumentKindsTest : public KitchenTest
+{
+protected:
+    DocumentKindsTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
+
+    // Four apples at the office, by the rules of its entry: whatever they want besides is 1.
+    void enter(const DocumentKind &kind)
+    {
+        const std::unique_ptr<DocumentEntry> entry = kind.entry.make(kitchen.database(), prompts);
+        entry->open();
+        entry->newDocument();
+        entry->header().set(u"WarehouseID", 1);
+        QStringList fields = kind.entry.requiredFields;
+        for (const DocumentKind::NumberFor &number : kind.files.numbers)
+            fields.append(number.field);
+        for (const QString &field : fields) {
+            if (entry->header().value(field).isNull())
+                entry->header().setText(field, u"1"_s);
+        }
+        entry->newLine();
+        entry->lines().set(kind.entry.lineColumns.constFirst().field, 4.0);
+        entry->chooseItem(1);
+        if (entry->lines().fieldIndex(u"UnitCost") >= 0)
+            entry->lines().set(u"UnitCost", 1.0);
+        entry->lines().post();
+        entry->save();
+    }
+};
+ON_BOTH_STORES(DocumentKindsTest);
+
+TEST_P(DocumentKindsTest, AreKnownWhereverDocumentsAre)
+{
+    for (const DocumentKind *kind : DocumentKinds::all()) {
+        SCOPED_TRACE(kind->name.toStdString());
+        const TransTypeInfo *type = transType(static_cast<int>(kind->posting.transType));
+        ASSERT_TRUE(type);
+        EXPECT_FALSE(type->filterText.isEmpty()) << "the history's filter offers it";
+        EXPECT_NE(type->summary, TransTypeInfo::Summary::None) << "reports count it";
+
+        enter(*kind);
+        const std::vector<WaitingDocument> waiting = waitingDocuments(kitchen.database(), 1);
+        ASSERT_EQ(waiting.size(), 1u) << "a count sees it";
+        EXPECT_EQ(waiting.front().kind, kind);
+
+        const double before = kitchen.onHand(1, 1);
+        DocumentPosting posting(kitchen.database(), *kind);
+        EXPECT_EQ(posting.count(), 1);
+        EXPECT_TRUE(posting.run(prompts, progress));
+        EXPECT_EQ(kitchen.onHand(1, 1), before + type->change(4));
+        EXPECT_TRUE(waitingDocuments(kitchen.database(), 1).empty());
+
+        HistoryView history(kitchen.database());
+        history.open();
+        history.table().setFilter(HistoryView::filterExpression({.type = static_cast<int>(type->type)}));
+        history.table().setFiltered(true);
+        ASSERT_EQ(history.table().recordCount(), 1);
+        EXPECT_EQ(history.document().kind, kind) << "a row of the history leads back to it";
+    }
+}
+
+} // namespace
