@@ -160,9 +160,8 @@ struct PagedReport
 };
 
 PagedReport makePages(CommandContext &context, const ReportDescription &report, ReportSelection selection,
-                      const QString &printer)
+                      std::optional<Paper> paper, const QString &printer = {})
 {
-    const std::optional<Paper> paper = wantedPaper(context.arguments);
     DataModuleOptions options;
     options.prepareReportPrinting = [paper, printer]() -> std::optional<bool> {
         if (paper)
@@ -186,7 +185,7 @@ QString pagesText(const Printing::ReportRun &run)
 void writePdf(CommandContext &context, const ReportDescription &report, const ReportSelection &selection)
 {
     const QString file = context.arguments.value(u"pdf"_s);
-    const PagedReport pages = makePages(context, report, selection, {});
+    const PagedReport pages = makePages(context, report, selection, wantedPaper(context.arguments));
     ConsoleProgress progress(context.console, Texts::tr("Writing"));
     Printing::savePdf(*pages.run, file, Printing::allPages(*pages.run), progress);
     progress.finish();
@@ -221,8 +220,9 @@ void runPrintCommand(CommandContext &context)
 {
     const ReportDescription report = wantedReport(context.arguments);
     const ReportSelection selection = selectionOf(context.arguments, report);
-    const QString wanted = context.arguments.value(u"printer"_s);
-    const PagedReport pages = makePages(context, report, selection, wanted);
+    const std::optional<Paper> paper = wantedPaper(context.arguments);
+    const QString printer = Printing::requirePrinter(context.arguments.value(u"printer"_s)); // before long work
+    const PagedReport pages = makePages(context, report, selection, paper, printer);
     QTemporaryFile file; // without a name: it goes with the program, however that ends
     if (!file.open())
         refuseTemporary(file.errorString());
@@ -230,8 +230,7 @@ void runPrintCommand(CommandContext &context)
     Printing::writePdf(*pages.run, file, Printing::allPages(*pages.run), progress);
     if (!file.flush())
         refuseTemporary(reasonOfShortWrite(file));
-    const QString printer =
-        Printing::sendToPrinter(file, wanted, pages.run->title(), QPageSize(pages.run->paper().size));
+    Printing::sendToPrinter(file, printer, pages.run->title(), QPageSize(pages.run->paper().size));
     context.console.print(Texts::tr("%1 sent to the printer %2").arg(pagesText(*pages.run), printer));
 }
 

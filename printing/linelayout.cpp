@@ -12,6 +12,7 @@ namespace Tallymere::Printing {
 namespace {
 
 constexpr double indent = 10 * unitsPerPoint; // for each group around a line
+const QString between = u"  "_s; // the names of a group
 constexpr double afterWrapped = 3 * unitsPerPoint; // tells a row of several lines from the next
 
 // A box of thin lines.
@@ -69,18 +70,21 @@ double LineLayout::widthOf(const Column &column, double share) const
     return column.room > 0 ? std::min(column.room + columnGap, m_area.width() * most) : column.width * share;
 }
 
-QStringList LineLayout::groupNames(int group, const ReportLine &line) const
+QList<LineLayout::Name> LineLayout::groupNames(int group, const ReportLine &line) const
 {
-    QStringList names;
+    QList<Name> names;
     for (const QString &field : m_layout.groups[group].fields)
         if (const QString text = line.values[static_cast<size_t>(m_lines.indexOf(field))].toText(); !text.isEmpty())
-            names.append(text);
-    return names.isEmpty() ? QStringList{PrintingTexts::tr("(none)")} : names;
+            names.append({field, text});
+    return names.isEmpty() ? QList<Name>{{{}, PrintingTexts::tr("(none)")}} : names;
 }
 
 QString LineLayout::groupName(int group, const ReportLine &line) const
 {
-    return groupNames(group, line).join("  "_L1);
+    QStringList texts;
+    for (const Name &name : groupNames(group, line))
+        texts.append(name.text);
+    return texts.join(between);
 }
 
 LaidLine LineLayout::layOut(const ReportLine &line) const
@@ -100,10 +104,43 @@ LaidLine LineLayout::groupHeading(const ReportLine &line) const
 {
     const double above = heightOf(TextStyle::GroupName) * (line.group == 0 ? 0.6 : 0.3);
     LaidLine laid{above + heightOf(TextStyle::GroupName) * 1.1};
-    const double left = m_area.left() + indent * line.group;
-    laid.addText(left, baseline(TextStyle::GroupName, above), TextStyle::GroupName, groupName(line.group, line),
-                 m_area.right() - left);
+    const TextMeasure &measure = TextMeasure::of(TextStyle::GroupName);
+    double left = m_area.left() + indent * line.group;
+    QString text;
+    const auto flush = [&](double next) {
+        laid.addText(left, baseline(TextStyle::GroupName, above), TextStyle::GroupName, text,
+                     m_area.right() - left);
+        left = next;
+        text.clear();
+    };
+    for (const auto &[field, name] : groupNames(line.group, line)) {
+        const double place = headingLeft(field);
+        if (!text.isEmpty() && left + measure.width(text + between) < place)
+            flush(place);
+        text += (text.isEmpty() ? QString() : between) + name;
+    }
+    flush(left);
     return laid;
+}
+
+// Where a name in a heading begins: below the title of the column that only headings fill with it.
+double LineLayout::headingLeft(const QString &field) const
+{
+    const auto place = std::ranges::find_if(m_columns, [&](const PlacedColumn &candidate) {
+        return candidate.column->field == field && !candidate.column->inDetail;
+    });
+    return place == m_columns.end() ? 0 : place->left;
+}
+
+// A title stands above the headings that fill its column, which begin left of their rows.
+double LineLayout::titleLeft(const PlacedColumn &place) const
+{
+    if (place.column->inDetail)
+        return place.left;
+    for (qsizetype group = 0; group < m_layout.groups.size(); ++group)
+        if (m_layout.groups[group].heading && m_layout.groups[group].fields.startsWith(place.column->field))
+            return m_area.left() + indent * static_cast<double>(group);
+    return place.left;
 }
 
 QString LineLayout::cellText(const PlacedColumn &place, const ReportLine &line) const
@@ -240,9 +277,9 @@ LaidLine LineLayout::total(const ReportLine &line) const
 QString LineLayout::totalText(const ReportLine &line, TextStyle style, double room) const
 {
     const QString &text = m_layout.groups[line.group].totalText;
-    const QStringList names = groupNames(line.group, line);
-    const QString whole = text.arg(names.join("  "_L1));
-    return TextMeasure::of(style).width(whole) <= room ? whole : text.arg(names.constFirst());
+    const QString whole = text.arg(groupName(line.group, line));
+    return TextMeasure::of(style).width(whole) <= room ? whole
+                                                       : text.arg(groupNames(line.group, line).constFirst().text);
 }
 
 // Above numbers the title ends where their second decimal does: most have no more.
@@ -269,7 +306,7 @@ LaidLine LineLayout::columnTitles() const
         for (qsizetype n = 0; n < parts.size(); ++n) { // the last ones stand on one line
             const double top = static_cast<double>(most - parts.size() + n) * measure.lineHeight();
             const double x =
-                place.column->align == Align::Left ? place.left : titleRight(place) - measure.width(parts[n]);
+                place.column->align == Align::Left ? titleLeft(place) : titleRight(place) - measure.width(parts[n]);
             line.addText(x, baseline(TextStyle::ColumnTitle, top), TextStyle::ColumnTitle, parts[n],
                          place.width + columnGap);
         }

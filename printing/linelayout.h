@@ -29,17 +29,25 @@ private:
         double fraction; // room right of the decimal point
     };
 
+    struct Name // of a group
+    {
+        QString field;
+        QString text;
+    };
+
     void placeColumns();
     double widthOf(const Column &column, double share) const; // with the gap behind it
     LaidLine cells(const ReportLine &line) const;
     LaidLine groupHeading(const ReportLine &line) const;
     LaidLine total(const ReportLine &line) const;
     QString totalText(const ReportLine &line, TextStyle style, double room) const;
-    QStringList groupNames(int group, const ReportLine &line) const;
+    QList<Name> groupNames(int group, const ReportLine &line) const;
     void addCell(LaidLine &line, const PlacedColumn &place, const QString &text, TextStyle style) const;
     void addBarcode(LaidLine &line, const PlacedColumn &place, const QString &text, const QRectF &room) const;
     void addContents(LaidLine &line, const QStringList &texts) const;
     QString cellText(const PlacedColumn &place, const ReportLine &line) const;
+    double headingLeft(const QString &field) const;
+    double titleLeft(const PlacedColumn &place) const;
     static double titleRight(const PlacedColumn &place);
 
     const ReportLayout &m_layout;

@@ -8,10 +8,13 @@ class QIODevice;
 
 namespace Tallymere::Printing {
 
-// Hands a PDF document, from its beginning, to a printer of the system under a title, for sheets of its size; an empty name
-// stands for the default printer. Gives the printer's name. Throws RuleError with what the system says when there is no such
-// printer, when there is none at all, or when it does not take the job.
-QString sendToPrinter(QIODevice &pdf, const QString &printer, const QString &title, const QPageSize &sheet);
+// The name of a printer of the system; an empty one stands for the default printer. Throws RuleError when there is no such
+// printer, with what the system says, or none at all.
+QString requirePrinter(const QString &printer);
+
+// Hands a PDF document, from its beginning, to a printer of the system under a title, for sheets of its size. Throws
+// RuleError with what the system says when the printer is not there any more, or does not take the job.
+void sendToPrinter(QIODevice &pdf, const QString &printer, const QString &title, const QPageSize &sheet);
 
 // The size of the sheets that a printer takes when it is not told otherwise; an empty name stands for the default printer.
 // Nothing when there is no such printer, or when the system does not know.

@@ -92,22 +92,34 @@ private:
     cups_dest_t *m_dest;
 };
 
-} // namespace
-
-QString sendToPrinter(QIODevice &pdf, const QString &printer, const QString &title, const QPageSize &sheet)
+[[noreturn]] void refuseToPrint()
 {
-    Destination destination(printer);
-    if (printer.isEmpty() && !destination.exists())
-        throw RuleError(noPrinterText());
-    if (destination.exists()) {
-        // Otherwise what is larger than the printer's usual sheet is cut off.
-        destination.setOption("media", sheet.key().toUtf8());
-        pdf.seek(0);
-        if (destination.print(pdf, title.toUtf8()))
-            return destination.name();
-    }
     throw RuleError(
         PrintingTexts::tr("The report was not printed: %1").arg(QString::fromUtf8(cupsLastErrorString())));
+}
+
+} // namespace
+
+QString requirePrinter(const QString &printer)
+{
+    const Destination destination(printer);
+    if (destination.exists())
+        return destination.name();
+    if (printer.isEmpty())
+        throw RuleError(noPrinterText());
+    refuseToPrint();
+}
+
+void sendToPrinter(QIODevice &pdf, const QString &printer, const QString &title, const QPageSize &sheet)
+{
+    Destination destination(printer);
+    if (!destination.exists())
+        refuseToPrint();
+    // Otherwise what is larger than the printer's usual sheet is cut off.
+    destination.setOption("media", sheet.key().toUtf8());
+    pdf.seek(0);
+    if (!destination.print(pdf, title.toUtf8()))
+        refuseToPrint();
 }
 
 std::optional<QPageSize> sheetOf(const QString &printer)

@@ -15,28 +15,44 @@ namespace Tallymere {
 
 namespace {
 
-// The name of what is chosen by its key; what has none goes by the key.
-QString nameOf(Engine::Database &database, const QString &statement, int key, const QString &gone)
+// What a report can be restricted to by a key.
+struct Restriction
 {
-    const Engine::StatementPtr chosen = database.connection().prepare(statement);
-    chosen->bindInt(0, key);
-    if (!chosen->next())
-        throw RuleError(gone.arg(key));
-    const QString name = chosen->textAt(0);
-    return name.isEmpty() ? QString::number(key) : name;
+    QString name; // statements with the key
+    QString use;
+    QString nowhere; // with the key in place of %1
+};
+
+Engine::StatementPtr found(Engine::Database &database, const QString &statement, int key)
+{
+    Engine::StatementPtr rows = database.connection().prepare(statement);
+    rows->bindInt(0, key);
+    return rows->next() ? std::move(rows) : nullptr;
+}
+
+// What is gone but still in use, as reports show it, goes by the key.
+QString nameOf(Engine::Database &database, const Restriction &restriction, int key)
+{
+    if (const Engine::StatementPtr named = found(database, restriction.name, key))
+        return named->textAt(0);
+    if (!found(database, restriction.use, key))
+        throw RuleError(restriction.nowhere.arg(key));
+    return QString::number(key);
 }
 
 QString selectionHeading(Engine::Database &database, const ReportSelection &selection)
 {
+    const Restriction location{u"SELECT WarehouseName FROM Warehse WHERE WarehouseID = ?"_s,
+                               u"SELECT 1 FROM IBalance WHERE WarehouseID = ? LIMIT 1"_s,
+                               ReportsTexts::tr("There is no location %1")};
+    const Restriction itemType{u"SELECT TypeName FROM ItemType WHERE ItemTypeID = ?"_s,
+                               u"SELECT 1 FROM Item WHERE ItemTypeID = ? LIMIT 1"_s,
+                               ReportsTexts::tr("There is no item type %1")};
     QString heading;
     if (selection.warehouseId > 0)
-        heading = ReportsTexts::tr("Location: %1")
-                      .arg(nameOf(database, u"SELECT WarehouseName FROM Warehse WHERE WarehouseID = ?"_s,
-                                  selection.warehouseId, ReportsTexts::tr("There is no location %1")));
+        heading = ReportsTexts::tr("Location: %1").arg(nameOf(database, location, selection.warehouseId));
     if (selection.itemTypeId > 0) {
-        const QString type = ReportsTexts::tr("Type: %1")
-                                 .arg(nameOf(database, u"SELECT TypeName FROM ItemType WHERE ItemTypeID = ?"_s,
-                                             selection.itemTypeId, ReportsTexts::tr("There is no item type %1")));
+        const QString type = ReportsTexts::tr("Type: %1").arg(nameOf(database, itemType, selection.itemTypeId));
         heading = heading.isEmpty() ? type : heading + "     "_L1 + type;
     }
     return heading;
