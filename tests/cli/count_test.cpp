@@ -1,4 +1,5 @@
 #include "tests/cli/clirunner.h"
+#include "tests/support/otheruser.h"
 
 #include <QDate>
 
@@ -101,7 +102,7 @@ TEST_P(CountCommand, RefusesWhatItCannotTake)
     EXPECT_EQ(cli.list({u"list"_s, u"usage"_s}).size(), 0);
 }
 
-// However two counts of a location fall upon each other, the usage is written once. TALLYMERE_RACES makes it long.
+// However two counts of a location fall upon each other, the usage is written once.
 TEST_P(CountCommand, TwoAtOnceWriteTheUsageOnce)
 {
     const QStringList count{u"count"_s,
@@ -111,7 +112,7 @@ TEST_P(CountCommand, TwoAtOnceWriteTheUsageOnce)
                             QDate::currentDate().toString(Qt::ISODate),
                             u"--file"_s,
                             cli.writeFile(u"count.csv"_s, "ItemNo,Quantity\nA1,4\n")};
-    const int races = qEnvironmentVariable("TALLYMERE_RACES", u"4"_s).toInt();
+    const int races = timesByHand(4);
     int doubled = 0;
     for (int race = 0; race < races; ++race) {
         cli.execute(u"DELETE FROM IUsageDet; DELETE FROM IUsage"_s);

@@ -6,11 +6,11 @@
 using namespace Qt::StringLiterals;
 using namespace Engine;
 
-// Two programs that come to a database at the same moment, again and again. TALLYMERE_RACES makes it long.
+// Two programs that come to a database at the same moment, again and again.
 
 namespace {
 
-int races() { return qEnvironmentVariable("TALLYMERE_RACES", u"20"_s).toInt(); }
+int races() { return timesByHand(20); }
 
 // The two of them, at one place; each comes, writes and goes at its own pace, and says what it found last.
 struct Race

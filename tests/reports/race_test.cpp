@@ -1,6 +1,5 @@
 // Reports and lists made beside somebody who posts: a process of its own that commits document by document. Each
-// document moves the same quantity, so that what is between two documents shows in every sum. The races take longer with
-// TALLYMERE_TEST_TIMES=5000.
+// document moves the same quantity, so that what is between two documents shows in every sum.
 
 #include "base/csvlist.h"
 #include "base/csvreader.h"

@@ -6,8 +6,8 @@
 #include <QHash>
 #include <QProcess>
 
-// How often the users of a race do something: so often in a run of all tests, and as TALLYMERE_TEST_TIMES says for a long
-// race by hand.
+// How often the users of a race do something: so often in a run of all tests, and as TALLYMERE_TEST_TIMES says in a long
+// race (scripts/races).
 inline int timesByHand(int otherwise)
 {
     const int times = qEnvironmentVariableIntValue("TALLYMERE_TEST_TIMES");
