@@ -345,26 +345,27 @@ void TfrmPreview::print(QPrinter &printer)
                : tr("%1 sent to the printer %2").arg(pages, printer.printerName()));
 }
 
-void TfrmPreview::save(const FileChoice &choice,
+void TfrmPreview::save(const QString &what, const FileChoice &choice,
                        const std::function<void(const QString &file, Progress &progress)> &write)
 {
     stopSearch();
     statusBar()->clearMessage(); // of the last time
     const QString saved = saveReportFile(m_context, this, choice, write);
     if (!saved.isEmpty())
-        say(tr("%1 saved as %2").arg(pagesText(m_run->pageCount()), saved));
+        say(tr("%1 saved as %2").arg(what, saved));
 }
 
 void TfrmPreview::savePdf()
 {
-    save(pdfFile(m_run->title()), [&](const QString &file, Progress &progress) {
+    save(pagesText(m_run->pageCount()), pdfFile(m_run->title()), [&](const QString &file, Progress &progress) {
         Printing::savePdf(*m_run, file, Printing::allPages(*m_run), progress);
     });
 }
 
 void TfrmPreview::saveCsv()
 {
-    save(csvFile(m_run->title()), [&](const QString &file, Progress &progress) {
+    // Its rows are read anew, however many pages have been made.
+    save(m_run->title(), csvFile(m_run->title()), [&](const QString &file, Progress &progress) {
         const Printing::Report report = m_makeReport(progress);
         Printing::saveReportCsv(report.layout, *report.rows, file, progress,
                                 m_run->isComplete() ? m_run->lineCount() : 0);

@@ -63,7 +63,8 @@ private:
     void proposeFile(QPrinter &printer) const;
     void print(QPrinter &printer);
     // Into a file that the user names; says what has been written then.
-    void save(const FileChoice &choice, const std::function<void(const QString &file, Progress &progress)> &write);
+    void save(const QString &what, const FileChoice &choice,
+              const std::function<void(const QString &file, Progress &progress)> &write);
     QString pagesText(int count) const;
     void say(const QString &text);
 
