@@ -227,7 +227,9 @@ void TfrmPreview::goOnSearching()
     }
     const Printing::Hit hit = m_search->hit();
     failed.dismiss();
-    endSearch(state == State::Found ? QString() : tr("Not found"));
+    endSearch(state == State::Found     ? QString()
+                  : m_run->isComplete() ? tr("Not found")
+                                        : tr("Not found in the pages that could be made"));
     if (state == State::Found)
         m_ui->QRPreview1->goToHit(hit);
     showPageNumber();

@@ -289,6 +289,10 @@ TEST_F(InvReportsTest, EnterPressesTheButtonWithTheCursorAndWhatWasSavedIsTold)
     EXPECT_EQ(label->text(), u"Page %1 of %1"_s.arg(last));
     preview->savePdf();
     EXPECT_EQ(preview->statusBar()->currentMessage(), last + " pages saved as "_L1 + file());
+    preview->offerCsv(
+        [&](Progress &) { return makeReport(*data, *ReportList::find(u"Inventory Receipts"_s), {}); });
+    preview->saveCsv(); // which has no pages
+    EXPECT_EQ(preview->statusBar()->currentMessage(), u"Inventory Receipts saved as "_s + file());
     child<QWidget>(*preview, "btnClose")->setFocus(Qt::TabFocusReason);
     type("<Enter>");
     EXPECT_TRUE(comesTrue([&] { return !mainWindow->findChild<TfrmPreview *>(); }));
