@@ -12,7 +12,6 @@
 #include "reports/makereport.h"
 #include "reports/reportlist.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QTemporaryFile>
 
@@ -210,12 +209,6 @@ void runReportCommand(CommandContext &context)
     Printing::writeReportCsv(made.layout, *made.rows, context.console.longOutput(), progress);
 }
 
-[[noreturn]] void refuseTemporary(const QString &reason)
-{
-    throw RuleError(Texts::tr("The report cannot be kept in '%1' until it is printed...\n%2")
-                        .arg(QDir::toNativeSeparators(QDir::tempPath()), reason));
-}
-
 void runPrintCommand(CommandContext &context)
 {
     const ReportDescription report = wantedReport(context.arguments);
@@ -225,11 +218,11 @@ void runPrintCommand(CommandContext &context)
     const PagedReport pages = makePages(context, report, selection, paper, printer);
     QTemporaryFile file; // without a name: it goes with the program, however that ends
     if (!file.open())
-        refuseTemporary(file.errorString());
+        Printing::refuseTemporary(file.errorString());
     ConsoleProgress progress(context.console, Texts::tr("Printing"));
     Printing::writePdf(*pages.run, file, Printing::allPages(*pages.run), progress);
     if (!file.flush())
-        refuseTemporary(reasonOfShortWrite(file));
+        Printing::refuseTemporary(reasonOfShortWrite(file));
     Printing::sendToPrinter(file, printer, pages.run->title(), QPageSize(pages.run->paper().size));
     context.console.print(Texts::tr("%1 sent to the printer %2").arg(pagesText(*pages.run), printer));
 }

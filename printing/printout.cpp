@@ -1,6 +1,7 @@
 #include "printing/printout.h"
 
 #include "base/ruleerror.h"
+#include "base/savedfile.h"
 #include "printing/printsystem.h"
 #include "printing/reportoutput.h"
 #include "printing/texts.h"
@@ -12,6 +13,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QScopeGuard>
+#include <QTemporaryFile>
 
 namespace Tallymere::Printing {
 
@@ -40,14 +42,31 @@ PageChoice choiceOf(const ReportRun &run, const QPrinter &printer)
     return choice;
 }
 
+// Qt does not tell why the temporary folder takes no more of a job, nor that it did not take the end.
+void requireTemporaryRoom()
+{
+    constexpr qint64 needed = 1024 * 1024; // for the fonts, which are written last
+    QTemporaryFile file;
+    if (!file.open())
+        refuseTemporary(file.errorString());
+    if (file.write(QByteArray(needed, ' ')) != needed || !file.flush())
+        refuseTemporary(reasonOfShortWrite(file));
+}
+
 // Qt hands a job over when its painter ends, be it complete or not, and knows of no other end. So what is given up comes to
 // an end where nothing is taken.
 void printPages(const ReportRun &run, QPrinter &printer, const PageChoice &choice, Progress &progress)
 {
+    requireTemporaryRoom();
     std::optional<NoPrintSystem> nowhere;
     QPainter painter;
     auto givenUp = qScopeGuard([&] { nowhere.emplace(); });
-    paintPages(run, painter, printer, printer.resolution(), choice.from, choice.to, progress);
+    try {
+        paintPages(run, painter, printer, printer.resolution(), choice.from, choice.to, progress);
+    } catch (const RuleError &) {
+        requireTemporaryRoom();
+        throw;
+    }
     givenUp.dismiss();
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <QDir>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -77,6 +78,12 @@ void writePdf(const ReportRun &run, QIODevice &output, const PageChoice &choice,
 void savePdf(const ReportRun &run, const QString &fileName, const PageChoice &choice, Progress &progress)
 {
     saveFile(fileName, [&](QIODevice &file) { writePdf(run, file, choice, progress); });
+}
+
+void refuseTemporary(const QString &reason)
+{
+    throw RuleError(PrintingTexts::tr("The report cannot be kept in '%1' until it is printed...\n%2")
+                        .arg(QDir::toNativeSeparators(QDir::tempPath()), reason));
 }
 
 PageChoice allPages(const ReportRun &run) { return {run.paper().layout(), 1, run.pageCount()}; }

@@ -33,4 +33,7 @@ void writePdf(const ReportRun &run, QIODevice &output, const PageChoice &choice,
 // The same into a file, which keeps what it held until that is complete. Throws SaveError with the file's name.
 void savePdf(const ReportRun &run, const QString &fileName, const PageChoice &choice, Progress &progress);
 
+// A report that is printed lies in the temporary folder until the print system has it. Throws RuleError with why it cannot.
+[[noreturn]] void refuseTemporary(const QString &reason);
+
 } // namespace Tallymere::Printing
