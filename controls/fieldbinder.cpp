@@ -54,9 +54,8 @@ bool triesToChange(const QEvent &event, const QWidget &widget)
     const auto &key = static_cast<const QKeyEvent &>(event);
     const bool steps = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || key.key() == Qt::Key_F4;
     const bool deletes = key.key() == Qt::Key_Delete || key.key() == Qt::Key_Backspace;
-    auto &pressed = const_cast<QKeyEvent &>(key);
-    return isTyped(key) || deletes || (isBox && steps) || pressed.matches(QKeySequence::Paste)
-        || pressed.matches(QKeySequence::Cut);
+    return isTyped(key) || deletes || (isBox && steps) || key.matches(QKeySequence::Paste)
+        || key.matches(QKeySequence::Cut);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "controls/tablemodel.h"
 
+#include <QTimer>
+
 namespace Tallymere {
 
 using Engine::DataSet;
@@ -95,8 +97,7 @@ bool TableModel::attempt(const std::function<void()> &reading) const
     if (!failure)
         return true;
     if (!std::exchange(m_failed, true))
-        QMetaObject::invokeMethod(
-            const_cast<TableModel *>(this), [this, failure] { tell(failure); }, Qt::QueuedConnection);
+        QTimer::singleShot(0, this, [this, failure] { tell(failure); });
     return false;
 }
 

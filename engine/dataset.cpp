@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace Engine {
 
 DataSet::DataSet(Database &database)
-    : d(std::make_unique<Private>())
+    : d(std::make_unique<Private>(*this))
     , m_database(database)
 {
 }

@@ -14,6 +14,12 @@ namespace Engine {
 // Where a set stands: its statements, what of it has been read, and the current record.
 struct DataSet::Private
 {
+    explicit Private(DataSet &owner)
+        : set(owner)
+    {
+    }
+
+    DataSet &set; // itself, for what reading has to announce
     std::optional<RowSource> source; // of the scope in force
     std::function<void()> mend;
     KeyList keys;

@@ -89,7 +89,7 @@ void DataSetReader::findInKeys() const
     readKeys();
     // Who shows the record must learn that another one is in its place, but not while it is reading.
     if (d.cursor.findIn(d.keys))
-        QMetaObject::invokeMethod(const_cast<DataSet *>(&m_set), &DataSet::currentChanged, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(&d.set, &DataSet::currentChanged, Qt::QueuedConnection);
 }
 
 int DataSetReader::index() const
