@@ -7,7 +7,9 @@ set(rules engine base data) # what a room of rules stands on
 
 set(allowed_plgint "")
 set(allowed_engine "")
-set(allowed_base engine)
+set(allowed_engine/sqlite engine)
+set(allowed_engine/postgres engine)
+set(allowed_base engine engine/sqlite engine/postgres)
 set(allowed_data engine base)
 set(allowed_host/tables engine)
 set(allowed_controls ${rules})

@@ -1,6 +1,7 @@
 #include "data/datamodule.h"
 
 #include "base/connectiondecision.h"
+#include "base/stores.h"
 #include "base/trace.h"
 #include "data/layouts.h"
 #include "data/seeds.h"
@@ -21,9 +22,9 @@ TDataModuleTallymere::TDataModuleTallymere(SettingsStore &settings, Prompts &pro
     : m_settings(settings)
     , m_prompts(prompts)
     , m_options(std::move(options))
-    , m_session(u"SessionTallymere"_s)
+    , m_session(u"SessionTallymere"_s, bothStores())
     , m_database(m_session, databaseName)
-    , m_tempSession(u"SessionTempTallymere"_s)
+    , m_tempSession(u"SessionTempTallymere"_s, bothStores())
     , m_tempDatabase(m_tempSession, u"TempTallymere-%1"_s.arg(QCoreApplication::applicationPid()))
     , m_memory(Engine::Database::inMemory(m_tempSession))
     , m_reportParameters(*m_memory, Layouts::reportParameters().name)

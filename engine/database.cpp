@@ -1,9 +1,7 @@
 #include "engine/database.h"
 
 #include "engine/error.h"
-#include "engine/postgres/connection.h"
 #include "engine/session.h"
-#include "engine/sqlite/connection.h"
 
 using namespace Qt::StringLiterals;
 
@@ -38,13 +36,14 @@ Connection &Database::connection()
     if (m_connection)
         return *m_connection;
     if (m_inMemory) {
-        m_connection = SqliteConnection::inMemory();
+        m_connection = m_session.stores().inMemory();
         return *m_connection;
     }
     m_session.start();
     if (onBeforeConnect)
         onBeforeConnect(*this);
-    m_connection = m_session.type == SessionType::Local ? openSqlite(*this) : openPostgres(*this);
+    const Stores &stores = m_session.stores();
+    m_connection = m_session.type == SessionType::Local ? stores.local(*this) : stores.remote(*this);
     return *m_connection;
 }
 

@@ -42,15 +42,16 @@ public:
     // Ends the execution and frees its locks and rows; bindings stay. Done as well when the pointer is let go.
     virtual void reset() = 0;
 
-    virtual int columnCount() const = 0;
-    virtual QString columnName(int column) const = 0;
+    // Of a statement that has not been executed, a server has to be asked for these.
+    virtual int columnCount() = 0;
+    virtual QString columnName(int column) = 0;
     virtual bool isNull(int column) const = 0;
     virtual qint64 intAt(int column) const = 0;
     virtual double doubleAt(int column) const = 0;
     virtual QString textAt(int column) const = 0;
     Value valueAt(int column, FieldType type) const;
     // The type that the store itself gives the column, for queries without a layout. Money reads as Float.
-    virtual FieldType columnType(int column) const = 0;
+    virtual FieldType columnType(int column) = 0;
 
 protected:
     friend class Connection;

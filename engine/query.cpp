@@ -150,7 +150,7 @@ qint64 Query::execute()
 
 namespace {
 
-Field columnField(const Statement &statement, int column)
+Field columnField(Statement &statement, int column)
 {
     Field field;
     field.name = statement.columnName(column);

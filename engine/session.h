@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/stores.h"
+
 #include <chrono>
 #include <functional>
 #include <QDateTime>
@@ -15,14 +17,16 @@ enum class LinkType { Lan, Internet };
 class Session
 {
 public:
-    explicit Session(QString name)
+    Session(QString name, Stores stores)
         : m_name(std::move(name))
+        , m_stores(stores)
     {
     }
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
     const QString &name() const { return m_name; }
+    const Stores &stores() const { return m_stores; }
 
     // Called once before the first database of the session connects; sets type and address.
     std::function<void(Session &)> onStartup;
@@ -63,6 +67,7 @@ public:
 
 private:
     QString m_name;
+    Stores m_stores;
     bool m_started = false;
     mutable bool m_pausing = false;
 };

@@ -2,6 +2,7 @@
 
 #include "base/connectiondecision.h"
 #include "base/initfile.h"
+#include "base/stores.h"
 #include "engine/database.h"
 #include "engine/error.h"
 #include "engine/session.h"
@@ -38,7 +39,7 @@ QString folderOf(const SettingsStore &settings)
 QString organization(const SettingsStore &settings)
 {
     NoPrompts prompts;
-    Engine::Session session(u"SessionHost"_s);
+    Engine::Session session(u"SessionHost"_s, bothStores());
     session.onStartup = [&](Engine::Session &starting) { sessionTallymereStartup(starting, settings); };
     Engine::Database database(session, databaseName);
     database.onBeforeConnect = [&](Engine::Database &connecting) {

@@ -7,7 +7,6 @@
 #include <chrono>
 #include <libpq-fe.h>
 #include <QRegularExpression>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -26,14 +25,14 @@ public:
         m_keywords.push_back(keyword);
         m_texts.push_back(value.toUtf8());
     }
-    pg_conn *start()
+    PostgresHandle start()
     {
         std::vector<const char *> values;
         for (const QByteArray &text : m_texts)
             values.push_back(text.constData());
         values.push_back(nullptr);
         m_keywords.push_back(nullptr);
-        return PQconnectStartParams(m_keywords.data(), values.data(), 0);
+        return PostgresHandle(PQconnectStartParams(m_keywords.data(), values.data(), 0));
     }
 
 private:
@@ -133,7 +132,7 @@ EngineError connectError(pg_conn *handle, const PostgresTarget &target, ConnStat
 }
 
 // From the first byte of the connection on, so that libpq gives the codes of failures too.
-pg_conn *opened(const PostgresTarget &target)
+PostgresHandle opened(const PostgresTarget &target)
 {
     if (target.host.isEmpty())
         raise(ErrorCode::CannotOpen, Texts::tr("No server address has been set. Enter it in the settings."));
@@ -141,18 +140,17 @@ pg_conn *opened(const PostgresTarget &target)
         raise(ErrorCode::CannotOpen,
               Texts::tr("What has been set as the server address is no address. Enter the name or the "
                         "number of the server alone, without account and password."));
-    pg_conn *handle = beginConnecting(target);
+    PostgresHandle owned = beginConnecting(target);
+    pg_conn *handle = owned.get();
     ConnStatusType stage = CONNECTION_STARTED;
     if (handle)
         PQsetErrorVerbosity(handle, PQERRORS_VERBOSE);
     if (handle && PQstatus(handle) != CONNECTION_BAD && awaitConnection(handle, &stage)) {
         PQsetErrorVerbosity(handle, PQERRORS_DEFAULT);
         PQsetNoticeReceiver(handle, ignoreNotice, nullptr);
-        return handle;
+        return owned;
     }
-    const EngineError error = connectError(handle, target, stage);
-    PQfinish(handle);
-    throw error;
+    throw connectError(handle, target, stage);
 }
 
 } // namespace
@@ -162,13 +160,13 @@ QString PostgresTarget::location() const
     return Texts::tr("database \"%1\" on the server %2").arg(database, host);
 }
 
-pg_conn *beginConnecting(const PostgresTarget &target) { return parametersOf(target).start(); }
+PostgresHandle beginConnecting(const PostgresTarget &target) { return parametersOf(target).start(); }
 
 void PostgresLink::connect()
 {
     if (m_handle)
-        PQsetnonblocking(m_handle, 1); // so that taking leave does not wait for a machine that is gone
-    PQfinish(std::exchange(m_handle, nullptr));
+        PQsetnonblocking(handle(), 1); // so that taking leave does not wait for a machine that is gone
+    m_handle.reset();
     m_handle = opened(m_target);
     m_lost = false;
     ++m_generation;
@@ -180,7 +178,7 @@ void PostgresLink::connect()
     try {
         beginSession();
     } catch (const EngineError &) {
-        PQfinish(std::exchange(m_handle, nullptr)); // or it would pass for one whose locks have been looked after
+        m_handle.reset(); // or it would pass for one whose locks have been looked after
         throw;
     }
     try {
@@ -200,8 +198,8 @@ void PostgresLink::beginSession()
             + "; SELECT backend_start FROM pg_stat_activity WHERE pid = pg_backend_pid()");
     // Lets the server see a killed client while it works for it, so that its locks go at once. Not every system
     // that PostgreSQL runs on can do that.
-    PQclear(PQexec(m_handle, "SET client_connection_check_interval = '1s'"));
-    m_session = {PQbackendPID(m_handle), PQgetvalue(begun.get(), 0, 0)};
+    const ResultPtr ignored(PQexec(handle(), "SET client_connection_check_interval = '1s'"));
+    m_session = {PQbackendPID(handle()), PQgetvalue(begun.get(), 0, 0)};
 }
 
 // The server may not have noticed yet that the former connection is gone, and keep its locks for it. After a new start

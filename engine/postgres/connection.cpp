@@ -4,6 +4,7 @@
 #include "engine/postgres/error.h"
 #include "engine/postgres/locks.h"
 #include "engine/postgres/statement.h"
+#include "engine/postgres/store.h"
 #include "engine/session.h"
 
 using namespace Qt::StringLiterals;

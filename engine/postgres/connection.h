@@ -45,7 +45,4 @@ private:
     std::unique_ptr<PostgresLocks> m_locks;
 };
 
-// That of a remote session, as the database says.
-std::unique_ptr<Connection> openPostgres(const Database &database);
-
 } // namespace Engine

@@ -43,13 +43,13 @@ QString field(const PGresult *result, int code) { return QString::fromUtf8(PQres
 
 void ClearResult::operator()(pg_result *result) const { PQclear(result); }
 
+void FinishConnection::operator()(pg_conn *handle) const { PQfinish(handle); }
+
 PostgresLink::PostgresLink(PostgresTarget target)
     : m_target(std::move(target))
 {
     connect();
 }
-
-PostgresLink::~PostgresLink() { PQfinish(m_handle); }
 
 // --- one command at a time ---------------------------------------------------------------------------------------
 
@@ -103,7 +103,7 @@ void PostgresLink::dropStaleStatements()
 
 ResultPtr PostgresLink::run(const QByteArray &script)
 {
-    if (PQsendQuery(m_handle, script.constData()) != 1)
+    if (PQsendQuery(handle(), script.constData()) != 1)
         fail(nullptr);
     return finishCommand();
 }
@@ -111,9 +111,9 @@ ResultPtr PostgresLink::run(const QByteArray &script)
 ResultPtr PostgresLink::finishCommand()
 {
     ResultPtr last;
-    while (pg_result *result = nextResult())
-        last.reset(result);
-    return checked(last.release());
+    while (ResultPtr result = nextResult())
+        last = std::move(result);
+    return checked(std::move(last));
 }
 
 bool PostgresLink::mayTryAgain(const EngineError &error, std::chrono::steady_clock::time_point since) const
@@ -124,20 +124,20 @@ bool PostgresLink::mayTryAgain(const EngineError &error, std::chrono::steady_clo
 
 // --- waiting for the server -------------------------------------------------------------------------------------
 
-pg_result *PostgresLink::nextResult()
+ResultPtr PostgresLink::nextResult()
 {
-    while (PQisBusy(m_handle)) {
+    while (PQisBusy(handle())) {
         if (!isAnswered(silence))
             awaitAnswer();
-        if (PQconsumeInput(m_handle) != 1)
+        if (PQconsumeInput(handle()) != 1)
             break; // the result tells what has happened
     }
-    return PQgetResult(m_handle);
+    return ResultPtr(PQgetResult(handle()));
 }
 
 bool PostgresLink::isAnswered(std::chrono::milliseconds time) const
 {
-    return waitForSocket(PQsocket(m_handle), false, time);
+    return waitForSocket(PQsocket(handle()), false, time);
 }
 
 // The machine may be gone, or whoever passes on what it says; then nothing ever comes, not even a failure.
@@ -145,11 +145,11 @@ void PostgresLink::awaitAnswer()
 {
     using Clock = std::chrono::steady_clock;
     do {
-        PostgresWatch watch(m_target, PQbackendPID(m_handle));
+        PostgresWatch watch(m_target, PQbackendPID(handle()));
         const auto deadline = Clock::now() + watchTime;
         while (!watch.isOver() && Clock::now() < deadline) {
             const Clock::duration left = std::max(deadline - Clock::now(), Clock::duration::zero());
-            waitForEither(PQsocket(m_handle), watch.socket(), watch.wantsToWrite(),
+            waitForEither(PQsocket(handle()), watch.socket(), watch.wantsToWrite(),
                           std::chrono::duration_cast<std::chrono::milliseconds>(left));
             if (isAnswered({}))
                 return;
@@ -165,13 +165,12 @@ void PostgresLink::awaitAnswer()
     } while (!isAnswered(nextWatch));
 }
 
-ResultPtr PostgresLink::checked(pg_result *result)
+ResultPtr PostgresLink::checked(ResultPtr result)
 {
-    ResultPtr owned(result);
-    const ExecStatusType status = PQresultStatus(result);
+    const ExecStatusType status = PQresultStatus(result.get());
     if (!result || status == PGRES_FATAL_ERROR || status == PGRES_BAD_RESPONSE || status == PGRES_PIPELINE_ABORTED)
-        fail(result);
-    return owned;
+        fail(result.get());
+    return result;
 }
 
 void PostgresLink::fail(const pg_result *result) { throw errorOf(result); }
@@ -180,18 +179,18 @@ EngineError PostgresLink::errorOf(const pg_result *result)
 {
     if (isLost() || endsSession(result)) {
         noteLoss();
-        return connectionLost(location(), QString::fromUtf8(PQerrorMessage(m_handle)).trimmed());
+        return connectionLost(location(), QString::fromUtf8(PQerrorMessage(handle())).trimmed());
     }
     if (PQresultStatus(result) == PGRES_PIPELINE_ABORTED)
         return EngineError(ErrorCode::General, Texts::tr("An earlier step of the same change has failed."));
     const QByteArray sqlState(PQresultErrorField(result, PG_DIAG_SQLSTATE));
     const QString words =
-        result ? field(result, PG_DIAG_MESSAGE_PRIMARY) : QString::fromUtf8(PQerrorMessage(m_handle)).trimmed();
+        result ? field(result, PG_DIAG_MESSAGE_PRIMARY) : QString::fromUtf8(PQerrorMessage(handle())).trimmed();
     const QString holder = m_blocker ? " ("_L1 + m_blocker->description() + u')' : QString();
     return postgresError(sqlState, words, field(result, PG_DIAG_MESSAGE_DETAIL), location(), holder);
 }
 
-bool PostgresLink::isLost() const { return m_lost || PQstatus(m_handle) == CONNECTION_BAD; }
+bool PostgresLink::isLost() const { return m_lost || PQstatus(handle()) == CONNECTION_BAD; }
 
 void PostgresLink::noteLoss()
 {
@@ -204,18 +203,18 @@ void PostgresLink::noteLoss()
 
 // --- pipeline ---------------------------------------------------------------------------------------------------
 
-bool PostgresLink::isPipelining() const { return !isLost() && PQpipelineStatus(m_handle) != PQ_PIPELINE_OFF; }
+bool PostgresLink::isPipelining() const { return !isLost() && PQpipelineStatus(handle()) != PQ_PIPELINE_OFF; }
 
 void PostgresLink::enterPipeline()
 {
-    if (!isPipelining() && PQenterPipelineMode(m_handle) != 1)
+    if (!isPipelining() && PQenterPipelineMode(handle()) != 1)
         fail(nullptr);
 }
 
 void PostgresLink::countSent()
 {
     ++m_pending;
-    if (m_pending % flushEvery == 0 && (PQsendFlushRequest(m_handle) != 1 || PQflush(m_handle) < 0))
+    if (m_pending % flushEvery == 0 && (PQsendFlushRequest(handle()) != 1 || PQflush(handle()) < 0))
         fail(nullptr);
     if (m_pending < mostPending)
         return;
@@ -228,16 +227,15 @@ void PostgresLink::countSent()
 void PostgresLink::collect(int commands, ResultPtr *last)
 {
     for (; commands > 0 && m_pending > 0; --commands) {
-        while (pg_result *result = nextResult()) {
-            ResultPtr owned(result);
-            const ExecStatusType status = PQresultStatus(result);
+        while (ResultPtr result = nextResult()) {
+            const ExecStatusType status = PQresultStatus(result.get());
             const bool failed = status == PGRES_FATAL_ERROR || status == PGRES_PIPELINE_ABORTED;
             if (failed && !m_failure)
-                m_failure = errorOf(result);
+                m_failure = errorOf(result.get());
             if (isLost())
                 return;
             if (last)
-                *last = std::move(owned);
+                *last = std::move(result);
         }
         --m_pending;
     }
@@ -246,11 +244,11 @@ void PostgresLink::collect(int commands, ResultPtr *last)
 ResultPtr PostgresLink::finishSent()
 {
     ResultPtr last;
-    if (PQpipelineSync(m_handle) != 1)
+    if (PQpipelineSync(handle()) != 1)
         fail(nullptr);
     collect(m_pending, &last);
     if (!isLost())
-        PQclear(nextResult()); // the synchronization itself
+        nextResult(); // the synchronization itself
     m_pending = 0;
     if (!m_failure)
         return last;
@@ -267,10 +265,10 @@ void PostgresLink::leavePipeline()
     try {
         finishSent();
     } catch (const EngineError &) {
-        PQexitPipelineMode(m_handle);
+        PQexitPipelineMode(handle());
         throw;
     }
-    PQexitPipelineMode(m_handle);
+    PQexitPipelineMode(handle());
 }
 
 void PostgresLink::abandonPipeline() noexcept
@@ -327,6 +325,6 @@ void PostgresLink::rollback() noexcept
     }
 }
 
-bool PostgresLink::isTransactionFailed() const { return PQtransactionStatus(m_handle) == PQTRANS_INERROR; }
+bool PostgresLink::isTransactionFailed() const { return PQtransactionStatus(handle()) == PQTRANS_INERROR; }
 
 } // namespace Engine

@@ -22,6 +22,12 @@ struct ClearResult
 };
 using ResultPtr = std::unique_ptr<pg_result, ClearResult>;
 
+struct FinishConnection
+{
+    void operator()(pg_conn *handle) const;
+};
+using PostgresHandle = std::unique_ptr<pg_conn, FinishConnection>;
+
 // Where a remote database is and how it is reached. What libpq's own environment variables say (PGPORT, PGUSER,
 // PGPASSWORD, PGPASSFILE, PGSSLROOTCERT ...) comes before the account given here.
 struct PostgresTarget
@@ -40,7 +46,7 @@ struct PostgresTarget
 };
 
 // Starts to connect, for PQconnectPoll.
-pg_conn *beginConnecting(const PostgresTarget &target);
+PostgresHandle beginConnecting(const PostgresTarget &target);
 
 // A statement that takes its rows from the wire one by one, and can take the rest into memory when the wire is
 // needed for something else.
@@ -57,11 +63,10 @@ class PostgresLink
 {
 public:
     explicit PostgresLink(PostgresTarget target); // connects
-    ~PostgresLink();
     PostgresLink(const PostgresLink &) = delete;
     PostgresLink &operator=(const PostgresLink &) = delete;
 
-    pg_conn *handle() const { return m_handle; }
+    pg_conn *handle() const { return m_handle.get(); }
     QString location() const { return m_target.location(); }
     bool isLost() const; // until it is made anew
     // Grows whenever the statements prepared before are gone.
@@ -82,11 +87,11 @@ public:
     ResultPtr finishCommand(); // the last result of what has been sent, not pipelined; throws its failure
     // As PQgetResult, but a server that is silent for long is found out about: one that cannot be reached any more,
     // or that has lost the session, is a lost connection.
-    pg_result *nextResult();
+    ResultPtr nextResult();
     // For what was refused outside of transactions because somebody holds a lock.
     bool mayTryAgain(const EngineError &error, std::chrono::steady_clock::time_point since) const;
     // The result, or the error that it carries.
-    ResultPtr checked(pg_result *result);
+    ResultPtr checked(ResultPtr result);
     [[noreturn]] void fail(const pg_result *result); // also when the command could not even be sent
     EngineError errorOf(const pg_result *result);
 
@@ -126,7 +131,7 @@ private:
     void dropStaleStatements();
 
     PostgresTarget m_target;
-    pg_conn *m_handle = nullptr;
+    PostgresHandle m_handle;
     ServerSession m_session; // the last one there was
     int m_generation = 0;
     int m_statementCount = 0;

@@ -181,22 +181,20 @@ bool PostgresStatement::fetch()
     }
     if (m_link->reader() != this)
         return false;
-    pg_result *result = m_link->nextResult();
+    ResultPtr result = m_link->nextResult();
     if (!result) {
         m_link->setReader(nullptr);
         return false;
     }
-    const ExecStatusType status = PQresultStatus(result);
+    const ExecStatusType status = PQresultStatus(result.get());
     if (status == PGRES_SINGLE_TUPLE || status == PGRES_TUPLES_OK || status == PGRES_COMMAND_OK
         || status == PGRES_EMPTY_QUERY) {
-        m_result.reset(result);
+        m_result = std::move(result);
         return true;
     }
-    const ResultPtr failed(result);
-    const EngineError error = m_link->errorOf(result);
+    const EngineError error = m_link->errorOf(result.get());
     if (m_link->reader() == this) {
-        while (pg_result *rest = m_link->nextResult())
-            PQclear(rest);
+        while (m_link->nextResult()) { }
         m_link->setReader(nullptr);
     }
     m_generation = -1; // whatever was wrong, it is planned anew
@@ -256,22 +254,20 @@ void PostgresStatement::reset()
     m_ahead.clear();
     if (m_link->reader() != this)
         return;
-    while (pg_result *rest = m_link->nextResult())
-        PQclear(rest);
+    while (m_link->nextResult()) { }
     m_link->setReader(nullptr);
 }
 
 // --- columns ----------------------------------------------------------------------------------------------------
 
-const pg_result *PostgresStatement::shape() const
+const pg_result *PostgresStatement::shape()
 {
     if (m_result)
         return m_result.get();
     if (!m_shape || PQnfields(m_shape.get()) == 0) {
-        auto *self = const_cast<PostgresStatement *>(this);
         m_link->prepareFor(nullptr);
         m_link->leavePipeline();
-        self->prepare();
+        prepare();
         if (PQsendDescribePrepared(m_link->handle(), m_name.constData()) != 1)
             m_link->fail(nullptr);
         m_shape = m_link->finishCommand();
@@ -279,11 +275,11 @@ const pg_result *PostgresStatement::shape() const
     return m_shape.get();
 }
 
-int PostgresStatement::columnCount() const { return PQnfields(shape()); }
+int PostgresStatement::columnCount() { return PQnfields(shape()); }
 
-QString PostgresStatement::columnName(int column) const { return QString::fromUtf8(PQfname(shape(), column)); }
+QString PostgresStatement::columnName(int column) { return QString::fromUtf8(PQfname(shape(), column)); }
 
-FieldType PostgresStatement::columnType(int column) const
+FieldType PostgresStatement::columnType(int column)
 {
     switch (PQftype(shape(), column)) {
     case boolId:

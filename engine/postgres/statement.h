@@ -30,13 +30,13 @@ public:
     void send() override;
     void reset() override;
 
-    int columnCount() const override;
-    QString columnName(int column) const override;
+    int columnCount() override;
+    QString columnName(int column) override;
     bool isNull(int column) const override;
     qint64 intAt(int column) const override;
     double doubleAt(int column) const override;
     QString textAt(int column) const override;
-    FieldType columnType(int column) const override;
+    FieldType columnType(int column) override;
 
     // "?" becomes "$1", "$2" ..., except in texts, quoted names and comments. Gives the number of parameters.
     static QByteArray numberedParameters(const QString &sql, int *count);
@@ -50,7 +50,7 @@ private:
     void readAhead() override;
     void bindRaw(int parameter, QByteArray text);
     std::string_view cell(int column) const;
-    const pg_result *shape() const; // a result that knows the columns
+    const pg_result *shape(); // a result that knows the columns
 
     std::shared_ptr<PostgresLink> m_link;
     QByteArray m_sql;
@@ -65,7 +65,7 @@ private:
     ResultPtr m_result; // holds the current row
     int m_row = -1;
     std::deque<ResultPtr> m_ahead; // results read ahead of the current one
-    mutable ResultPtr m_shape;
+    ResultPtr m_shape;
 };
 
 } // namespace Engine

@@ -24,19 +24,17 @@ PostgresWatch::PostgresWatch(const PostgresTarget &target, int processId)
     : m_handle(beginConnecting(target))
     , m_processId(processId)
 {
-    if (!m_handle || PQstatus(m_handle) == CONNECTION_BAD)
+    if (!m_handle || PQstatus(m_handle.get()) == CONNECTION_BAD)
         m_state = State::Failed;
 }
 
-PostgresWatch::~PostgresWatch() { PQfinish(m_handle); }
-
-int PostgresWatch::socket() const { return PQsocket(m_handle); }
+int PostgresWatch::socket() const { return PQsocket(m_handle.get()); }
 
 void PostgresWatch::proceed()
 {
     if (m_state == State::Asked)
         return takeAnswer();
-    switch (PQconnectPoll(m_handle)) {
+    switch (PQconnectPoll(m_handle.get())) {
     case PGRES_POLLING_READING:
         m_state = State::WantsToRead;
         return;
@@ -54,19 +52,19 @@ void PostgresWatch::ask()
 {
     const QByteArray id = QByteArray::number(m_processId);
     const char *const values[] = {id.constData()};
-    const int sent = PQsendQueryParams(m_handle, question, 1, nullptr, values, nullptr, nullptr, 0);
+    const int sent = PQsendQueryParams(m_handle.get(), question, 1, nullptr, values, nullptr, nullptr, 0);
     m_state = sent == 1 ? State::Asked : State::Failed;
 }
 
 void PostgresWatch::takeAnswer()
 {
-    if (PQconsumeInput(m_handle) != 1) {
+    if (PQconsumeInput(m_handle.get()) != 1) {
         m_state = State::Failed;
         return;
     }
-    if (PQisBusy(m_handle))
+    if (PQisBusy(m_handle.get()))
         return;
-    const ResultPtr answer(PQgetResult(m_handle));
+    const ResultPtr answer(PQgetResult(m_handle.get()));
     if (PQntuples(answer.get()) != 1) {
         m_state = State::Failed;
         return;

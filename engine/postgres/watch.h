@@ -1,14 +1,8 @@
 #pragma once
 
-#include "engine/lockmanager.h"
-
-#include <optional>
-
-struct pg_conn;
+#include "engine/postgres/link.h"
 
 namespace Engine {
-
-struct PostgresTarget;
 
 // Finds out over a connection of its own what is the matter with a session of the server that gives no answer. It
 // never waits itself: proceed() is called when its socket is ready.
@@ -16,7 +10,6 @@ class PostgresWatch
 {
 public:
     PostgresWatch(const PostgresTarget &target, int processId); // begins to connect
-    ~PostgresWatch();
     PostgresWatch(const PostgresWatch &) = delete;
     PostgresWatch &operator=(const PostgresWatch &) = delete;
 
@@ -34,7 +27,7 @@ private:
     void ask();
     void takeAnswer();
 
-    pg_conn *m_handle;
+    PostgresHandle m_handle;
     int m_processId;
     State m_state = State::WantsToWrite;
     bool m_idle = false;

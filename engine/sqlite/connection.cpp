@@ -7,6 +7,7 @@
 #include "engine/sqlite/error.h"
 #include "engine/sqlite/locks.h"
 #include "engine/sqlite/statement.h"
+#include "engine/sqlite/store.h"
 #include "engine/sqlite/watch.h"
 
 #include <chrono>
@@ -41,16 +42,11 @@ SqliteConnection::SqliteConnection(const QString &path, Missing missing, const Q
     requireUtf8Name(path);
     requireUtf8Name(
         QFileInfo(QFileInfo(path).path()).canonicalFilePath()); // where links lead, before a file is made there
-    try {
-        open(SQLITE_OPEN_READWRITE | (missing == Missing::Create ? SQLITE_OPEN_CREATE : 0));
-        watch(user);
-        configure();
-        m_watch->opened();
-        giveNumberAtOpening();
-    } catch (...) {
-        sqlite3_close_v2(m_db);
-        throw;
-    }
+    open(SQLITE_OPEN_READWRITE | (missing == Missing::Create ? SQLITE_OPEN_CREATE : 0));
+    watch(user);
+    configure();
+    m_watch->opened();
+    giveNumberAtOpening();
     m_locks->beforeLocking = [this] {
         if (!inTransaction()) // which has asked already
             requireOwnFile();
@@ -71,36 +67,34 @@ SqliteConnection::~SqliteConnection()
     clearStatementCache();
     if (m_watch)
         m_watch->beforeClosing();
-    m_watch.reset();
-    m_locks.reset();
-    sqlite3_close_v2(m_db); // statements still held elsewhere keep it alive until they go
 }
 
 void SqliteConnection::open(int flags)
 {
-    const int resultCode =
-        sqlite3_open_v2(m_path.toUtf8().constData(), &m_db, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    sqlite3 *db = nullptr;
+    const int resultCode = sqlite3_open_v2(m_path.toUtf8().constData(), &db, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    m_db.reset(db); // which SQLite makes even for what cannot be opened
     if (resultCode != SQLITE_OK)
-        throw sqliteError(m_db, resultCode, m_path);
-    sqlite3_extended_result_codes(m_db, 1);
-    sqlite3_busy_timeout(m_db, busyMilliseconds);
+        throw sqliteError(handle(), resultCode, m_path);
+    sqlite3_extended_result_codes(handle(), 1);
+    sqlite3_busy_timeout(handle(), busyMilliseconds);
 }
 
 void SqliteConnection::watch(const QString &user)
 {
-    if (sqlite3_db_readonly(m_db, "main") == 1) // SQLite opens a write-protected file for reading, unasked
+    if (sqlite3_db_readonly(handle(), "main") == 1) // SQLite opens a write-protected file for reading, unasked
         throw sqliteError(nullptr, SQLITE_READONLY, m_path);
-    if (!SqliteWatch::isDatabase(m_db))
+    if (!SqliteWatch::isDatabase(handle()))
         throw sqliteError(nullptr, SQLITE_NOTADB, m_path);
-    requireUtf8Name(SqliteWatch::realPath(m_db)); // of a link to a file
-    m_locks = std::make_unique<FileLocks>(lockFilePath(SqliteWatch::realPath(m_db)), user);
-    m_watch = std::make_unique<SqliteWatch>(m_db, m_path, *m_locks);
+    requireUtf8Name(SqliteWatch::realPath(handle())); // of a link to a file
+    m_locks = std::make_unique<FileLocks>(lockFilePath(SqliteWatch::realPath(handle())), user);
+    m_watch = std::make_unique<SqliteWatch>(handle(), m_path, *m_locks);
 }
 
 void SqliteConnection::configure()
 {
     // Write-ahead logging needs memory shared between the writers, which network folders do not give.
-    const QString journal = isLocalFileSystem(SqliteWatch::realPath(m_db)) ? u"WAL"_s : u"DELETE"_s;
+    const QString journal = isLocalFileSystem(SqliteWatch::realPath(handle())) ? u"WAL"_s : u"DELETE"_s;
     execute(u"PRAGMA temp_store = MEMORY"_s);
     chooseJournal(journal);
     execute(u"PRAGMA synchronous = FULL"_s);
@@ -130,7 +124,7 @@ void SqliteConnection::chooseJournal(const QString &journal)
 // keeps from writing had rather wait for a long report than fail.
 void SqliteConnection::setBulk(bool bulk)
 {
-    sqlite3_busy_timeout(m_db, bulk && isWritingKeptOutByReading() ? longReadMilliseconds : busyMilliseconds);
+    sqlite3_busy_timeout(handle(), bulk && isWritingKeptOutByReading() ? longReadMilliseconds : busyMilliseconds);
     execute(bulk ? u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s
                  : u"PRAGMA cache_size = -65536; PRAGMA wal_autocheckpoint = 4000"_s);
 }
@@ -184,21 +178,21 @@ void SqliteConnection::execute(const QString &script)
 {
     if (!inTransaction())
         requireOwnFile();
-    const int resultCode = sqlite3_exec(m_db, script.toUtf8().constData(), nullptr, nullptr, nullptr);
+    const int resultCode = sqlite3_exec(handle(), script.toUtf8().constData(), nullptr, nullptr, nullptr);
     if (resultCode != SQLITE_OK)
-        throw sqliteError(m_db, resultCode, m_path);
+        throw sqliteError(handle(), resultCode, m_path);
 }
 
 void SqliteConnection::begin()
 {
     prepare(u"BEGIN IMMEDIATE"_s)->execute();
-    m_changesBefore = sqlite3_total_changes64(m_db);
+    m_changesBefore = sqlite3_total_changes64(handle());
 }
 
 void SqliteConnection::commit()
 {
     requireOwnFile();
-    const bool stamped = m_watch && sqlite3_total_changes64(m_db) != m_changesBefore;
+    const bool stamped = m_watch && sqlite3_total_changes64(handle()) != m_changesBefore;
     if (stamped)
         stamp();
     prepare(u"COMMIT"_s)->execute();
@@ -215,7 +209,7 @@ void SqliteConnection::stamp()
 void SqliteConnection::rollback() noexcept
 {
     if (inTransaction())
-        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+        sqlite3_exec(handle(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 std::unique_ptr<Connection> SqliteConnection::openMoment(const Database &database)
@@ -237,14 +231,16 @@ bool SqliteConnection::isWritingKeptOutByReading()
     return journal->next() && journal->textAt(0) != "wal"_L1;
 }
 
-bool SqliteConnection::inTransaction() const { return sqlite3_get_autocommit(m_db) == 0; }
+bool SqliteConnection::inTransaction() const { return sqlite3_get_autocommit(handle()) == 0; }
 
-qint64 SqliteConnection::lastInsertId() { return sqlite3_last_insert_rowid(m_db); }
+qint64 SqliteConnection::lastInsertId() { return sqlite3_last_insert_rowid(handle()); }
 
 std::unique_ptr<Statement> SqliteConnection::createStatement(const QString &sql)
 {
-    return std::make_unique<SqliteStatement>(m_db, sql, m_path);
+    return std::make_unique<SqliteStatement>(handle(), sql, m_path);
 }
+
+std::unique_ptr<Connection> openSqliteInMemory() { return SqliteConnection::inMemory(); }
 
 std::unique_ptr<Connection> openSqlite(const Database &database)
 {

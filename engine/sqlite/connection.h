@@ -2,8 +2,7 @@
 
 #include "engine/driver.h"
 #include "engine/sqlite/dialect.h"
-
-struct sqlite3;
+#include "engine/sqlite/handles.h"
 
 namespace Engine {
 
@@ -45,7 +44,7 @@ public:
     // Before anything is written: throws FileReplaced when that would be lost, or do damage.
     void requireOwnFile();
 
-    sqlite3 *handle() const { return m_db; }
+    sqlite3 *handle() const { return m_db.get(); }
 
 protected:
     std::unique_ptr<Statement> createStatement(const QString &sql) override;
@@ -65,13 +64,10 @@ private:
 
     SqliteDialect m_dialect;
     QString m_path;
-    sqlite3 *m_db = nullptr;
+    SqliteHandle m_db;
     std::unique_ptr<FileLocks> m_locks;
     std::unique_ptr<SqliteWatch> m_watch; // not of a database in memory
     qint64 m_changesBefore = 0; // the transaction in progress
 };
-
-// That of a local session, as the database says.
-std::unique_ptr<Connection> openSqlite(const Database &database);
 
 } // namespace Engine

@@ -70,13 +70,13 @@ private:
     int keySize() const { return static_cast<int>(m_key.size()); }
     QString keyList(const QString &suffix) const { return m_key.join(suffix + ", "_L1) + suffix; }
 
-    static Value keyValue(const Statement &row, int column)
+    static Value keyValue(Statement &row, int column)
     {
         const FieldType type = row.columnType(column);
         return row.valueAt(column, type == FieldType::Float ? FieldType::Integer : type);
     }
 
-    QList<Value> keyOf(const Statement &row) const
+    QList<Value> keyOf(Statement &row) const
     {
         QList<Value> key;
         for (int i = 0; i < keySize(); ++i)
@@ -84,7 +84,7 @@ private:
         return key;
     }
 
-    void copy(const Statement &row, const QList<Value> &key)
+    void copy(Statement &row, const QList<Value> &key)
     {
         for (int i = 0; i < m_table.fields.size(); ++i)
             m_insert->bind(i, row.valueAt(keySize() + i, m_table.fields[i].type));

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "engine/driver.h"
-
-struct sqlite3;
-struct sqlite3_stmt;
+#include "engine/sqlite/handles.h"
 
 namespace Engine {
 
@@ -11,9 +9,6 @@ class SqliteStatement final : public Statement
 {
 public:
     SqliteStatement(sqlite3 *db, const QString &sql, const QString &path);
-    ~SqliteStatement() override;
-    SqliteStatement(const SqliteStatement &) = delete;
-    SqliteStatement &operator=(const SqliteStatement &) = delete;
 
     void bindNull(int parameter) override;
     void bindInt(int parameter, qint64 value) override;
@@ -26,21 +21,21 @@ public:
     void send() override { execute(); }
     void reset() override;
 
-    int columnCount() const override;
-    QString columnName(int column) const override;
+    int columnCount() override;
+    QString columnName(int column) override;
     bool isNull(int column) const override;
     qint64 intAt(int column) const override;
     double doubleAt(int column) const override;
     QString textAt(int column) const override;
-    FieldType columnType(int column) const override;
+    FieldType columnType(int column) override;
 
 private:
     void requireIdle(); // SQLite takes bindings only between executions
     void requireOwnFile() const; // before a statement that writes by itself, or begins a transaction
     void check(int resultCode);
 
-    sqlite3 *m_db;
-    sqlite3_stmt *m_statement = nullptr;
+    sqlite3 *m_db; // the connection's
+    SqliteStatementHandle m_statement;
     QString m_path;
     bool m_writes = false;
     bool m_running = false;

@@ -1,6 +1,7 @@
 #include "engine/sqlite/watch.h"
 
 #include "engine/error.h"
+#include "engine/sqlite/handles.h"
 #include "engine/sqlite/locks.h"
 
 #include <algorithm>
@@ -181,9 +182,8 @@ int SqliteWatch::storedStamp() const
     sqlite3_stmt *statement = nullptr;
     if (sqlite3_prepare_v2(m_db, "PRAGMA user_version", -1, &statement, nullptr) != SQLITE_OK)
         return -1;
-    const int stamp = sqlite3_step(statement) == SQLITE_ROW ? sqlite3_column_int(statement, 0) : -1;
-    sqlite3_finalize(statement);
-    return stamp;
+    const SqliteStatementHandle owned(statement);
+    return sqlite3_step(statement) == SQLITE_ROW ? sqlite3_column_int(statement, 0) : -1;
 }
 
 // Without a log a commit writes the header in place and may still be taken back, unless SQLite's lock keeps it out.

@@ -94,7 +94,7 @@ private:
     void putLogAside(const FileIdentity &log) const;
     [[noreturn]] void refuse(State state) const;
 
-    sqlite3 *m_db;
+    sqlite3 *m_db; // the connection's
     QString m_path;
     QString m_realPath;
     FileLocks &m_locks;

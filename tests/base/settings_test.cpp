@@ -1,6 +1,7 @@
 #include "base/connectiondecision.h"
 #include "base/formposition.h"
 #include "base/settingsstore.h"
+#include "base/stores.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/spokenprompts.h"
 
@@ -57,7 +58,7 @@ TEST(Connection, OnlyTheExactLetterMeansClientServer)
         setRegString(settings, u"Mode"_s, mode);
         setRegString(settings, u"Server IP"_s, u"10.0.0.7"_s);
         setRegString(settings, u"Connection"_s, u"Internet"_s);
-        Engine::Session session(u"Main"_s);
+        Engine::Session session(u"Main"_s, bothStores());
         EXPECT_EQ(sessionTallymereStartup(session, settings), mode);
         const bool remote = session.type == Engine::SessionType::Remote;
         EXPECT_EQ(remote, mode == u"C"_s) << mode.toStdString();
@@ -93,7 +94,7 @@ TEST(Connection, DatabaseIsLookedForUnderBothNames)
         settings.write(u"Mode"_s, databaseName, c.mode);
         settings.write(u"Alias"_s, databaseName, c.alias);
         settings.write(u"Alias"_s, spacedDatabaseName, c.spacedAlias);
-        Engine::Session session(u"Main"_s);
+        Engine::Session session(u"Main"_s, bothStores());
         Engine::Database database(session, databaseName);
         SpokenPrompts prompts;
         EXPECT_EQ(databaseTallymereBeforeConnect(database, settings, prompts), c.mode);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/settingsstore.h"
+#include "base/stores.h"
 #include "engine/database.h"
 #include "engine/session.h"
 #include "host/tables/hosttables.h"
@@ -8,7 +9,7 @@
 // Makes the tables of the host in a folder.
 inline void makeCompany(const QString &folder, const QString &organization)
 {
-    Engine::Session session(QStringLiteral("Host"));
+    Engine::Session session(QStringLiteral("Host"), Tallymere::bothStores());
     Engine::Database database(session, Tallymere::databaseName);
     database.directory = folder;
     database.createIfMissing = true;

@@ -1,5 +1,7 @@
 #include "tests/support/teststore.h"
 
+#include "base/stores.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <stdexcept>
@@ -31,7 +33,7 @@ QString freshName()
 } // namespace
 
 TestUser::TestUser(const QString &user, const QString &databaseName)
-    : session(u"Test"_s)
+    : session(u"Test"_s, Tallymere::bothStores())
     , database(session, databaseName)
 {
     session.applicationUser = user;

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "engine/stores.h"
+
+namespace Tallymere {
+
+// SQLite files for local sessions, PostgreSQL for remote ones.
+Engine::Stores bothStores();
+
+} // namespace Tallymere
