@@ -12,12 +12,14 @@ namespace {
 constexpr double designPixelsPerInch = 96.0;
 constexpr auto furtherProperty = "furtherScreen";
 
-// What has a width of its own keeps it; what may grow may be half as wide as its form wants it, before the window is cut.
+// Fields that may grow may be half as wide as their form wants them, before the window is cut; buttons and fields of a
+// width of their own keep it.
 void giveUpLeastWidths(QWidget *window)
 {
     const QList<QWidget *> widgets = window->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
-        if (widget->minimumWidth() < widget->maximumWidth())
+        const bool shrinks = widget->sizePolicy().horizontalPolicy() & QSizePolicy::ShrinkFlag;
+        if (shrinks && widget->minimumWidth() < widget->maximumWidth())
             widget->setMinimumWidth(widget->minimumWidth() / 2);
         widget->updateGeometry();
     }

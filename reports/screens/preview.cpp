@@ -57,10 +57,21 @@ TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::Repor
     m_ui->QRPreview1->setRun(m_run.get());
     connectControls();
     resize(scaled(this, 900), scaled(this, 700));
+    fitCommands();
     fitToScreen(this);
 }
 
 TfrmPreview::~TfrmPreview() = default;
+
+// In two rows where one would be wider than the screen.
+void TfrmPreview::fitCommands()
+{
+    const int spare = scaled(this, 100); // for numbers of many pages
+    if (minimumSizeHint().width() + spare <= screen()->availableSize().width())
+        return;
+    m_ui->layoutPages->addStretch();
+    m_ui->layoutTop->setDirection(QBoxLayout::TopToBottom);
+}
 
 void TfrmPreview::offerCsv(std::function<Printing::Report(Progress &)> makeReport)
 {

@@ -50,6 +50,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void fitCommands();
     void connectControls();
     void makePages();
     void showPageNumber();
