@@ -164,7 +164,10 @@ void TfrmPreview::showPageNumber()
     const int count = std::max(1, m_run->pageCount());
     const int page = m_ui->QRPreview1->currentPage();
     const bool complete = m_run->isComplete();
-    m_ui->panelPageNumber->setText((complete ? tr("Page %1 of %2") : tr("Page %1 of %2...")).arg(page).arg(count));
+    const QString text = complete ? tr("Page %1 of %2")
+        : m_run->hasEnded()       ? tr("Page %1 of %2, incomplete") // its reading has failed
+                                  : tr("Page %1 of %2...");
+    m_ui->panelPageNumber->setText(text.arg(page).arg(count));
     m_ui->btnFirst->setEnabled(page > 1);
     m_ui->btnPrev->setEnabled(page > 1);
     m_ui->btnNext->setEnabled(page < count);
