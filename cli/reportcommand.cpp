@@ -132,7 +132,7 @@ void presetPeriod(TDataModuleTallymere &data, const ReportDescription &report, R
 {
     if (!report.parameters.period || selection.period > 0)
         return;
-    const Period period = defaultPeriod(FiscalSettings::of(data.tblCompany()), data.today());
+    const Period period = defaultPeriod(data.databaseTallymere(), data.today());
     selection.period = period.number;
     selection.year = period.year;
 }

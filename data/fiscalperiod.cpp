@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "data/texts.h"
+#include "engine/table.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,10 +34,23 @@ FiscalSettings FiscalSettings::of(const Engine::DataSet &company)
     };
 }
 
-Period defaultPeriod(const FiscalSettings &settings, QDate today)
+FiscalSettings FiscalSettings::readFrom(Engine::Database &database)
+{
+    Engine::Table company(database, u"Company"_s);
+    company.readOnly = true;
+    company.open();
+    return of(company);
+}
+
+Period defaultPeriod(const FiscalSettings &settings, QDate date)
 {
     const Period &preset = settings.defaultPeriod;
-    return {preset.year > 0 ? preset.year : today.year(), preset.number > 0 ? preset.number : today.month()};
+    return {preset.year > 0 ? preset.year : date.year(), preset.number > 0 ? preset.number : date.month()};
+}
+
+Period defaultPeriod(Engine::Database &database, QDate date)
+{
+    return defaultPeriod(FiscalSettings::readFrom(database), date);
 }
 
 PeriodVerdict judgePeriod(const FiscalSettings &settings, const Period &period)

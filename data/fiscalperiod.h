@@ -28,10 +28,13 @@ struct FiscalSettings
     Period errorFrom, errorTo;
 
     static FiscalSettings of(const Engine::DataSet &company);
+    static FiscalSettings readFrom(Engine::Database &database); // as stored by now
 };
 
-// For a new document: each half from the default period when that is above zero, else from today.
-Period defaultPeriod(const FiscalSettings &settings, QDate today);
+// For a new document, and what filters and reports begin with: each half from the default period when that is above zero,
+// else from the date.
+Period defaultPeriod(const FiscalSettings &settings, QDate date);
+Period defaultPeriod(Engine::Database &database, QDate date); // by the settings as stored now
 
 enum class PeriodVerdict {
     Fine,

@@ -1,3 +1,4 @@
+#include "master/costing.h"
 #include "master/masterkinds.h"
 #include "master/texts.h"
 
@@ -19,7 +20,8 @@ MasterKind describe()
     kind.record.screen = u"frmItemTypeInv"_s;
     kind.record.caption = MasterTexts::tr("Item Type");
     kind.record.newCaption = MasterTexts::tr("New Item Type");
-    kind.record.defaults = {{u"Inventory"_s, false}, {u"CostingMethod"_s, 1}};
+    kind.record.defaults = {{u"Inventory"_s, false},
+                            {u"CostingMethod"_s, static_cast<int>(CostingMethod::Average)}};
     kind.record.required = {{u"TypeName"_s, MasterTexts::tr("Field 'Type Name' must have a value")}};
     kind.record.taken = MasterTexts::tr("Item Type already exists");
 
@@ -37,7 +39,8 @@ MasterKind describe()
     kind.command.rights = u"ItemTypes/Item Types"_s;
 
     kind.files.systemFields = {u"ItemTypeID"_s};
-    kind.files.limits = {{u"CostingMethod"_s, 1, 2}};
+    kind.files.limits = {
+        {u"CostingMethod"_s, static_cast<int>(CostingMethod::Average), static_cast<int>(CostingMethod::Standard)}};
     return kind;
 }
 

@@ -20,8 +20,7 @@ constexpr auto defaultKey = "defaultPeriod"_L1; // what the default was then
 
 Period organizationsPeriod(TDataModuleTallymere &data)
 {
-    data.tblCompany().refresh(); // others may have moved it on
-    return defaultPeriod(FiscalSettings::of(data.tblCompany()), data.today());
+    return defaultPeriod(data.databaseTallymere(), data.today());
 }
 
 // By its name, which no translation changes; the first report when it is gone.

@@ -4,6 +4,7 @@
 #include "base/ruleerror.h"
 #include "engine/amounttoolarge.h"
 #include "engine/database.h"
+#include "master/costing.h"
 #include "reports/balancequery.h"
 #include "reports/fieldmap.h"
 #include "reports/texts.h"
@@ -18,13 +19,13 @@ namespace Tallymere {
 
 namespace {
 
-// Costing methods by the keys of item types.
-QHash<int, int> readCostingMethods(Engine::Database &database)
+// By the keys of item types.
+QHash<int, CostingMethod> readCostingMethods(Engine::Database &database)
 {
     Engine::Query types(database, u"SELECT ItemTypeID, CostingMethod FROM ItemType"_s);
-    QHash<int, int> methods;
+    QHash<int, CostingMethod> methods;
     for (types.open(); !types.atEnd(); types.next())
-        methods.insert(types.integer(u"ItemTypeID"), types.integer(u"CostingMethod"));
+        methods.insert(types.integer(u"ItemTypeID"), costingMethodOf(types.integer(u"CostingMethod")));
     return methods;
 }
 
@@ -66,10 +67,10 @@ public:
 private:
     Money unitCost(const Engine::Row &balance) const
     {
-        constexpr int standard = 2;
-        const int method = m_method >= 0 ? m_query.valueIn(balance, m_method).toInt()
-                                         : m_methods.value(m_query.valueIn(balance, m_itemType).toInt());
-        return m_query.valueIn(balance, method == standard ? m_standardCost : m_averageCost).toMoney();
+        const CostingMethod method = m_method >= 0 ? costingMethodOf(m_query.valueIn(balance, m_method).toInt64())
+                                                   : m_methods.value(m_query.valueIn(balance, m_itemType).toInt());
+        return m_query.valueIn(balance, method == CostingMethod::Standard ? m_standardCost : m_averageCost)
+            .toMoney();
     }
 
     Money valueOf(const Engine::Row &balance, Money cost) const
@@ -94,7 +95,7 @@ private:
     int m_method; // -1: looked up by the item's type
     qsizetype m_unitCostAt; // -1: not shown
     size_t m_valueAt;
-    QHash<int, int> m_methods;
+    QHash<int, CostingMethod> m_methods;
     int m_next = 0;
 };
 

@@ -2,6 +2,9 @@
 
 #include "engine/database.h"
 #include "engine/dialect.h"
+#include "transactions/documentkinds.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using Engine::Money;
@@ -11,27 +14,6 @@ namespace Tallymere {
 namespace {
 
 constexpr auto pledged = "%, Pledge"_L1;
-
-ItemCost::Method methodOf(qint64 costingMethod)
-{
-    switch (costingMethod) {
-    case 1:
-        return ItemCost::Method::Average;
-    case 2:
-        return ItemCost::Method::Standard;
-    default:
-        return ItemCost::Method::None;
-    }
-}
-
-// From three columns: costing method, average cost, standard cost.
-ItemCost readCost(const Engine::Statement &row, int column)
-{
-    ItemCost cost{methodOf(row.intAt(column)), Money()};
-    if (cost.method != ItemCost::Method::None)
-        cost.cost = Money::fromDouble(row.doubleAt(column + (cost.method == ItemCost::Method::Average ? 1 : 2)));
-    return cost;
-}
 
 QString listStatement(const Engine::Dialect &dialect, ZeroCounts zeroCounts)
 {
@@ -55,7 +37,7 @@ CountRow readRow(const Engine::Statement &row)
     read.itemNo = row.textAt(1);
     read.typeName = row.textAt(2);
     read.description = row.textAt(3);
-    read.unitCost = readCost(row, 5).cost;
+    read.unitCost = ItemCost::fromRow(row, 5).cost;
     read.standardCost = Money::fromDouble(row.doubleAt(7));
     if (!row.isNull(4))
         read.recorded = row.doubleAt(4) + 0.0; // no minus sign at zero
@@ -103,13 +85,12 @@ CountList CountSource::list(int location, ZeroCounts zeroCounts) const
 
 bool CountSource::hasUnposted(int location) const
 {
-    const Engine::StatementPtr rows = m_database.connection().prepare(
-        u"SELECT UsageID AS ID FROM IUsage WHERE Posted = false AND WarehouseID = ? "
-        "UNION SELECT AdjustmentID AS ID FROM IAdjust WHERE Posted = false AND WarehouseID = ? "
-        "UNION SELECT ReceiptID AS ID FROM IReceipt WHERE Posted = false AND WarehouseID = ?"_s);
-    for (int parameter = 0; parameter < 3; ++parameter)
-        rows->bindInt(parameter, location);
-    return rows->next();
+    return std::ranges::any_of(DocumentKinds::all(), [&](const DocumentKind *kind) {
+        const Engine::StatementPtr rows = m_database.connection().prepare(
+            u"SELECT %1 FROM %2 WHERE Posted = false AND WarehouseID = ?"_s.arg(kind->keyField, kind->headerTable));
+        rows->bindInt(0, location);
+        return rows->next();
+    });
 }
 
 ItemQuantities CountSource::unpostedUsage(int location) const
@@ -132,7 +113,7 @@ QHash<qint64, ItemCost> CountSource::costs() const
                                         "FROM ItemType JOIN Item ON ItemType.ItemTypeID = Item.ItemTypeID"_s);
     QHash<qint64, ItemCost> costs;
     while (rows->next())
-        costs.insert(rows->intAt(0), readCost(*rows, 1));
+        costs.insert(rows->intAt(0), ItemCost::fromRow(*rows, 1));
     return costs;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "master/costing.h"
 #include "transactions/countlist.h"
 
 #include <QCoreApplication>
@@ -21,15 +22,6 @@ struct CountLocation
 
 enum class ZeroCounts { Excluded, Included }; // items without any balance
 
-// What an item is worth by its type's costing method.
-struct ItemCost
-{
-    enum class Method { Average, Standard, None };
-
-    Method method = Method::None;
-    Engine::Money cost; // 0 where it is missing
-};
-
 // Why an item is not in the list of a count.
 enum class NotCounted { Unknown, Suspended, NoInventory, NotHere };
 
@@ -45,7 +37,7 @@ public:
     std::vector<CountLocation> locations() const; // by name
     // The items to be counted at a location: of inventory types, neither suspended nor pledged.
     CountList list(int location, ZeroCounts zeroCounts) const;
-    bool hasUnposted(int location) const; // receipts, adjustments or usages of it wait to be posted
+    bool hasUnposted(int location) const; // documents of any kind wait to be posted there
     ItemQuantities unpostedUsage(int location) const;
     ItemQuantities balances(int location) const; // as stored now
     QHash<qint64, ItemCost> costs() const; // of all items

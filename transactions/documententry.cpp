@@ -164,21 +164,9 @@ void DocumentEntry::assignNumbers()
         m_header.setDefault(*m_kind.numberField, m_givenNumber);
 }
 
-namespace {
-
-FiscalSettings fiscalSettings(Engine::Database &database)
-{
-    Engine::Table company(database, u"Company"_s);
-    company.readOnly = true;
-    company.open();
-    return FiscalSettings::of(company);
-}
-
-} // namespace
-
 void DocumentEntry::setFiscalDefaults()
 {
-    const Period period = defaultPeriod(fiscalSettings(database()), today());
+    const Period period = defaultPeriod(database(), today());
     m_header.setDefault(u"GLPeriod", period.number);
     m_header.setDefault(u"GLYear", period.year);
 }
@@ -216,8 +204,8 @@ void DocumentEntry::checkHeader()
 
 void DocumentEntry::checkPeriod()
 {
-    requirePeriod(fiscalSettings(database()), {m_header.integer(u"GLYear"), m_header.integer(u"GLPeriod")},
-                  m_prompts, u"GLPeriod"_s);
+    requirePeriod(FiscalSettings::readFrom(database()),
+                  {m_header.integer(u"GLYear"), m_header.integer(u"GLPeriod")}, m_prompts, u"GLPeriod"_s);
 }
 
 void DocumentEntry::requireHeaderField(const QString &field, const QString &column) const

@@ -1,6 +1,6 @@
 #include "transactions/unitcosts.h"
 
-#include "engine/query.h"
+#include "master/costing.h"
 
 using namespace Qt::StringLiterals;
 using Engine::Money;
@@ -12,12 +12,12 @@ Money UnitCosts::readNow(const Value &item)
 {
     if (item.isNull())
         return {};
-    const Value cost = Engine::singleValue(
-        m_database,
-        u"SELECT CASE T.CostingMethod WHEN 1 THEN I.WgtAvgCost WHEN 2 THEN I.StandardCost ELSE 0.0 END "
-        "FROM Item I INNER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID WHERE I.ItemID = ? AND T.Inventory = true"_s,
-        {item});
-    return m_costs[item.toInt()] = cost.as(Engine::FieldType::Money).toMoney();
+    const Engine::StatementPtr row = m_database.connection().prepare(
+        u"SELECT T.CostingMethod, I.WgtAvgCost, I.StandardCost "
+        "FROM Item I INNER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID WHERE I.ItemID = ? AND T.Inventory = true"_s);
+    row->bind(0, item);
+    const Money cost = row->next() ? ItemCost::fromRow(*row, 0).cost : Money(); // nothing is kept of what fails
+    return m_costs[item.toInt()] = cost;
 }
 
 Money UnitCosts::of(const Value &item)

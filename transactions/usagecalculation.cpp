@@ -47,17 +47,9 @@ void number(CalculatedUsage &usage, Engine::Database &database)
     });
 }
 
-Period periodOf(Engine::Database &database, QDate date)
+void warnOfMissingCost(const CountRow &row, CostingMethod method, Prompts &prompts)
 {
-    Engine::Table company(database, u"Company"_s);
-    company.readOnly = true;
-    company.open();
-    return defaultPeriod(FiscalSettings::of(company), date);
-}
-
-void warnOfMissingCost(const CountRow &row, ItemCost::Method method, Prompts &prompts)
-{
-    const QString which = method == ItemCost::Method::Average
+    const QString which = method == CostingMethod::Average
         ? TransactionsTexts::tr("has no Weighted Average Cost.")
         : TransactionsTexts::tr("has no Standard Cost assigned to it.");
     prompts.warn(
@@ -75,7 +67,7 @@ void forMissingCosts(const CountList &list, const QHash<qint64, ItemCost> &costs
         if (!row.differs())
             continue;
         const ItemCost cost = costs.value(row.itemId);
-        if (cost.method != ItemCost::Method::None && cost.cost == Money())
+        if (cost.method != CostingMethod::None && cost.cost == Money())
             take(row, cost.method);
     }
 }
@@ -143,7 +135,7 @@ std::vector<UsageLine> usageLines(const CountList &list, const QHash<qint64, Ite
 void warnOfMissingCosts(const CountList &list, const QHash<qint64, ItemCost> &costs, QSet<qint64> &warned,
                         Prompts &prompts)
 {
-    forMissingCosts(list, costs, [&](const CountRow &row, ItemCost::Method method) {
+    forMissingCosts(list, costs, [&](const CountRow &row, CostingMethod method) {
         if (warned.contains(row.itemId))
             return;
         warned.insert(row.itemId);
@@ -155,7 +147,7 @@ bool lacksOtherCosts(const CountList &list, const QHash<qint64, ItemCost> &costs
 {
     bool lacks = false;
     forMissingCosts(list, costs,
-                    [&](const CountRow &row, ItemCost::Method) { lacks = lacks || !warned.contains(row.itemId); });
+                    [&](const CountRow &row, CostingMethod) { lacks = lacks || !warned.contains(row.itemId); });
     return lacks;
 }
 
@@ -165,7 +157,7 @@ CalculatedUsage writeUsage(Engine::Database &database, const std::vector<UsageLi
 {
     const Engine::RecordLock lock(database.connection(), database.session(), u"IUsage"_s,
                                   Engine::RecordLock::anyKey(), TransactionsTexts::tr("A new usage"));
-    UsageHeader header{.usage = {}, .location = location, .date = date, .period = periodOf(database, date)};
+    UsageHeader header{.usage = {}, .location = location, .date = date, .period = defaultPeriod(database, date)};
     number(header.usage, database);
     write(database, header, lines);
     header.usage.lines = static_cast<int>(lines.size());

@@ -43,7 +43,7 @@ QString DocumentPostScreen::notListedText(const DocumentList &list) const
     }
     if (notListed.empty())
         return {};
-    const QString count = tr("%n of them not in the list", nullptr, static_cast<int>(notListed.size()));
+    const QString count = tr("%1 of them not in the list").arg(notListed.size());
     const QStringList users = lastSavedBy(context().data.databaseTallymere(), m_kind.posting.transType, notListed);
     return users.isEmpty() ? count : tr("%1, last saved by %2").arg(count, users.join(u", "_s));
 }

@@ -18,7 +18,7 @@ TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *pare
     , m_type(new QComboBox(this))
 {
     addTypes();
-    const Period period = defaultPeriod(FiscalSettings::of(context.data.tblCompany()), context.data.today());
+    const Period period = defaultPeriod(context.data.databaseTallymere(), context.data.today());
     m_year = addNumber(tr("&Year:"),
                        new OptionalNumber({.number = u"editYear"_s,
                                            .all = u"chkYearAll"_s,

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "engine/driver.h"
+#include "engine/money.h"
+
+namespace Tallymere {
+
+// How a type of items is valued: ItemType.CostingMethod.
+enum class CostingMethod {
+    None = 0, // and whatever else is stored: what leaves stock costs nothing then, while reports take the average
+    Average = 1, // the item's weighted average cost
+    Standard = 2, // its standard cost
+};
+
+CostingMethod costingMethodOf(qint64 stored);
+
+// What a unit of an item costs that leaves stock.
+struct ItemCost
+{
+    CostingMethod method = CostingMethod::None;
+    Engine::Money cost; // 0 where it is missing
+
+    // From three columns of a row, the first of which is given: CostingMethod, WgtAvgCost, StandardCost. Throws
+    // AmountTooLarge for a cost that is no amount of money.
+    static ItemCost fromRow(const Engine::Statement &row, int column);
+};
+
+} // namespace Tallymere
