@@ -33,9 +33,9 @@ const ReportDescription &requireReport(const QString &name)
 {
     if (const ReportDescription *report = ReportList::find(name))
         return *report;
-    for (const ReportList::Offered &offered : ReportList::offered())
-        if (offered.listText.compare(name, Qt::CaseInsensitive) == 0)
-            throw RuleError(ReportList::nothingToShow(offered));
+    for (const ReportDescription *offered : ReportList::offered())
+        if (offered->listText.compare(name, Qt::CaseInsensitive) == 0)
+            throw RuleError(ReportList::nothingToShow(*offered));
     throw UsageError(Texts::tr("there is no report '%1', but: %2").arg(name, reportNames()));
 }
 

@@ -6,11 +6,11 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-AccountRows::AccountRows(Engine::Database &database, const ReportDescription &report,
-                         const ReportSelection &selection)
-    : m_balances(database, report, selection)
-    , m_query(m_balances.query())
-    , m_map(report.layout, m_query)
+AccountRows::AccountRows(Engine::Database &database, const ReportQuery &balances, const ReportSelection &selection,
+                         const Printing::ReportLayout &layout)
+    : m_balances(openQuery(database, balances, selection))
+    , m_query(*m_balances)
+    , m_map(layout, m_query)
     , m_item(m_query.fieldIndex(u"ItemID"))
     , m_location(m_query.fieldIndex(u"WarehouseID"))
     , m_onHand(m_query.fieldIndex(m_location >= 0 ? u"QtyOnHand" : u"ItemQtyOnHand"))

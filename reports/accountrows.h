@@ -1,20 +1,22 @@
 #pragma once
 
-#include "reports/balancequery.h"
+#include "engine/query.h"
 #include "reports/fieldmap.h"
 #include "reports/movements.h"
+#include "reports/reportquery.h"
 
 namespace Tallymere {
 
-// The base of the reports that walk the history: the lines of the balance query, each with its movements from the
-// selection's period on. Where the query has single balances, the movements are those of the line's location.
+// The base of the reports that walk the history: the rows of a query of balances, each with its movements from the
+// selection's period on. Where it has single balances, the movements are those of the row's location.
 class AccountRows : public Printing::RowReader
 {
 public:
     const QStringList &fields() const override { return m_map.names(); }
 
 protected:
-    AccountRows(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection);
+    AccountRows(Engine::Database &database, const ReportQuery &balances, const ReportSelection &selection,
+                const Printing::ReportLayout &layout);
 
     bool nextAccount(); // false after the last
     // Of the account in hand, without what is calculated.
@@ -27,7 +29,7 @@ private:
     void readMovements();
     int itemAt(int index) const;
 
-    BalanceQuery m_balances;
+    const std::unique_ptr<Engine::Query> m_balances;
     Engine::Query &m_query;
     FieldMap m_map;
     int m_item;

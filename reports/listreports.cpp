@@ -35,25 +35,28 @@ RowReaderPtr rowsOf(std::unique_ptr<View> view, Engine::DataSet &set, const Repo
     return std::make_unique<DataSetRows<View>>(std::move(view), set, report.layout);
 }
 
-template <const MasterKind &(*kind)()>
-RowReaderPtr masterRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
+// In the order of the index, or, without one, in the list's.
+ReportDescription::Rows masterRows(const MasterKind &kind, const QString &index = {})
 {
-    auto list = std::make_unique<MasterList>(database, kind());
-    const QString order = report.order.isEmpty() ? selection.order : report.order.constFirst();
-    if (!order.isEmpty())
-        list->table().setIndex(order);
-    Engine::DataSet &table = list->table();
-    return rowsOf(std::move(list), table, report, selection);
+    return [&kind, index](Database &database, const ReportDescription &report, const ReportSelection &selection) {
+        auto list = std::make_unique<MasterList>(database, kind);
+        const QString order = index.isEmpty() ? selection.order : index;
+        if (!order.isEmpty())
+            list->table().setIndex(order);
+        Engine::DataSet &table = list->table();
+        return rowsOf(std::move(list), table, report, selection);
+    };
 }
 
-template <const DocumentKind &(*kind)()>
-RowReaderPtr documentRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
+ReportDescription::Rows documentRows(const DocumentKind &kind)
 {
-    auto list = std::make_unique<DocumentList>(database, kind());
-    if (!selection.order.isEmpty())
-        list->table().setIndex(selection.order);
-    Engine::DataSet &table = list->table();
-    return rowsOf(std::move(list), table, report, selection);
+    return [&kind](Database &database, const ReportDescription &report, const ReportSelection &selection) {
+        auto list = std::make_unique<DocumentList>(database, kind);
+        if (!selection.order.isEmpty())
+            list->table().setIndex(selection.order);
+        Engine::DataSet &table = list->table();
+        return rowsOf(std::move(list), table, report, selection);
+    };
 }
 
 RowReaderPtr historyRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
@@ -84,6 +87,12 @@ ReportDescription listReport(const QString &name, const QString &title, ReportDe
     return report;
 }
 
+ReportDescription wide(ReportDescription report)
+{
+    report.layout.landscape = true;
+    return report;
+}
+
 } // namespace
 
 QList<ReportDescription> listReports()
@@ -93,47 +102,41 @@ QList<ReportDescription> listReports()
     const auto posted = [] { return mark(u"Posted"_s, ReportsTexts::tr("Posted")); };
     const QString date = ReportsTexts::tr("Date");
 
-    QList<ReportDescription> reports{
-        listReport(u"TrptItemTypes"_s, ReportsTexts::tr("Item Types"), masterRows<MasterKinds::itemType>,
+    return {
+        listReport(u"TrptItemTypes"_s, ReportsTexts::tr("Item Types"), masterRows(MasterKinds::itemType()),
                    {text(u"TypeName"_s, ReportsTexts::tr("Name"), 1)}),
-        listReport(u"TrptItems"_s, ReportsTexts::tr("Items"), masterRows<MasterKinds::item>,
+        listReport(u"TrptItems"_s, ReportsTexts::tr("Items"), masterRows(MasterKinds::item()),
                    {itemNo(), description(), unitCost(u"UnitPrice"_s, ReportsTexts::tr("Unit Price")),
                     text(u"TaxCodes"_s, ReportsTexts::tr("Tax"), 0.6),
                     unitCost(u"WgtAvgCost"_s, ReportsTexts::tr("Wgt Av Cost")),
                     unitCost(u"StandardCost"_s, ReportsTexts::tr("Stnd Cost"))}),
-        listReport(u"TrptVendors"_s, ReportsTexts::tr("Vendors"), masterRows<MasterKinds::vendor>,
-                   {text(u"VendorNo"_s, ReportsTexts::tr("Vendor no."), 1),
-                    text(u"VendorName"_s, ReportsTexts::tr("Name"), 2.4),
-                    text(u"Phone"_s, ReportsTexts::tr("Phone"), 1.2),
-                    text(u"Notes"_s, ReportsTexts::tr("Notes"), 3)}),
+        listReport(
+            u"TrptVendors"_s, ReportsTexts::tr("Vendors"), masterRows(MasterKinds::vendor(), u"VendorName1"_s),
+            {text(u"VendorNo"_s, ReportsTexts::tr("Vendor no."), 1),
+             text(u"VendorName"_s, ReportsTexts::tr("Name"), 2.4), text(u"Phone"_s, ReportsTexts::tr("Phone"), 1.2),
+             text(u"Notes"_s, ReportsTexts::tr("Notes"), 3)}),
         listReport(u"TrptInvReceipts"_s, ReportsTexts::tr("Inventory Receipts"),
-                   documentRows<DocumentKinds::receipt>,
+                   documentRows(DocumentKinds::receipt()),
                    {period(), text(u"ReceiptNo"_s, ReportsTexts::tr("Receipt no."), 1),
                     Columns::date(u"ReceiptDate"_s, date), text(u"PurchaseOrderNo"_s, ReportsTexts::tr("PO"), 1.2),
                     text(u"VendorName"_s, ReportsTexts::tr("Vendor"), 3), location(), posted()}),
-        listReport(u"TrptUsages"_s, ReportsTexts::tr("Inventory Usage"), documentRows<DocumentKinds::usage>,
+        listReport(u"TrptUsages"_s, ReportsTexts::tr("Inventory Usage"), documentRows(DocumentKinds::usage()),
                    {period(), text(u"UsageNo"_s, ReportsTexts::tr("Usage no."), 1),
                     Columns::date(u"InventoryDate"_s, date), location(),
                     amount(u"InvoiceAmount"_s, ReportsTexts::tr("Amount")), posted()}),
         listReport(u"TrptInvAdjustments"_s, ReportsTexts::tr("Inventory Adjustments"),
-                   documentRows<DocumentKinds::adjustment>,
+                   documentRows(DocumentKinds::adjustment()),
                    {period(), text(u"AdjDescription"_s, ReportsTexts::tr("Description"), 3),
                     Columns::date(u"AdjDate"_s, date), location(), posted()}),
-        listReport(u"TrptInvHistory"_s, ReportsTexts::tr("Inventory History"), historyRows,
-                   {itemNo(), description(), Columns::date(u"TransDate"_s, date), period(),
-                    text(u"TransTypeName"_s, ReportsTexts::tr("Type"), 1.2),
-                    text(u"TransDescription"_s, ReportsTexts::tr("Description"), 2.8), quantity(u"Quantity"_s),
-                    unitCost(), text(u"WarehouseName"_s, ReportsTexts::tr("Location"), 2.6)}),
+        wide(listReport(u"TrptInvHistory"_s, ReportsTexts::tr("Inventory History"), historyRows,
+                        {itemNo(), description(), Columns::date(u"TransDate"_s, date), period(),
+                         text(u"TransTypeName"_s, ReportsTexts::tr("Type"), 1.2),
+                         text(u"TransDescription"_s, ReportsTexts::tr("Description"), 2.8), quantity(u"Quantity"_s),
+                         unitCost(), text(u"WarehouseName"_s, ReportsTexts::tr("Location"), 2.6)})),
         listReport(
             u"TrptInvTotals"_s, ReportsTexts::tr("Inventory Totals"), totalsRows,
             {itemNo(), description(), location(), quantity(u"QtyOnHand"_s, ReportsTexts::tr("Quantity On Hand"))}),
     };
-    for (ReportDescription &report : reports) {
-        report.layout.landscape = report.name == "TrptInvHistory"_L1;
-        if (report.name == "TrptVendors"_L1)
-            report.order = {u"VendorName1"_s};
-    }
-    return reports;
 }
 
 } // namespace Tallymere::ReportList

@@ -73,8 +73,8 @@ ReportDescription perpetualReport(const QString &name, const QString &listText, 
     ReportDescription report;
     report.name = name;
     report.listText = listText;
+    report.inWizard = true;
     report.parameters.period = true;
-    report.rows = perpetualRows;
     report.layout.title = title;
     return report;
 }
@@ -86,8 +86,7 @@ ReportDescription byItem()
     ReportDescription report = perpetualReport(u"TrptPerpetualByItem"_s, ReportsTexts::tr("Perpetual by Item"),
                                                ReportsTexts::tr("Perpetual Inventory by Item"));
     report.parameters = {.location = true, .itemType = true, .period = true};
-    report.query = BalanceLines::byItem(item);
-    report.order = {u"I.ItemNo"_s};
+    report.rows = perpetualRows(BalanceQueries::byItem(item));
     report.layout.columns = movementColumns(false);
     report.layout.groups = {itemGroup()};
     return report;
@@ -99,9 +98,7 @@ ReportDescription byItemWhse()
         perpetualReport(u"TrptPerpetualByItemWhse"_s, ReportsTexts::tr("Perpetual by Item /Location"),
                         ReportsTexts::tr("Perpetual Inventory by Item /Location"));
     report.parameters.itemType = true;
-    report.query = BalanceLines::byLocation(item);
-    report.order = {u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
-    report.keyFields = u"ItemID;WarehouseID"_s;
+    report.rows = perpetualRows(BalanceQueries::byLocation(item));
     report.layout.columns = movementColumns(true);
     report.layout.groups = {itemGroupWithTotal(), locationGroup()};
     report.layout.totals = {{u"Balance"_s, TotalOf::Closing}};
@@ -114,8 +111,8 @@ ReportDescription byTypeItem()
         perpetualReport(u"TrptPerpetualByTypeItem"_s, ReportsTexts::tr("Perpetual by Type /Item"),
                         ReportsTexts::tr("Perpetual Inventory by Type /Item"));
     report.parameters.location = true;
-    report.query = BalanceLines::byItem(itemAndType, BalanceLines::withTypes());
-    report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
+    report.rows = perpetualRows(
+        BalanceQueries::byItem(itemAndType, BalanceQueries::withTypes(), {u"T.TypeName"_s, u"I.ItemTypeID"_s}));
     report.layout.columns = movementColumns(false);
     report.layout.groups = {typeGroup(ReportsTexts::tr("Closing balance %1")), itemGroup()};
     report.layout.totals = {{u"Balance"_s, TotalOf::Closing}};
@@ -127,9 +124,8 @@ ReportDescription byTypeItemWhse()
     ReportDescription report =
         perpetualReport(u"TrptPerpetualByTypeItemWhse"_s, ReportsTexts::tr("Perpetual by Type /Item /Location"),
                         ReportsTexts::tr("Perpetual Inventory by Type /Item /Location"));
-    report.query = BalanceLines::byLocation(itemAndType, BalanceLines::withTypes());
-    report.order = {u"TypeName"_s, u"ItemTypeID"_s, u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
-    report.keyFields = u"ItemID;WarehouseID"_s;
+    report.rows = perpetualRows(
+        BalanceQueries::byLocation(itemAndType, BalanceQueries::withTypes(), {u"TypeName"_s, u"ItemTypeID"_s}));
     report.layout.columns = movementColumns(true);
     report.layout.groups = {typeGroup(ReportsTexts::tr("Closing balance %1")), itemGroupWithTotal(),
                             locationGroup()};
@@ -143,9 +139,7 @@ ReportDescription summaryByItem()
         perpetualReport(u"TrptPerpetualSummaryByItem"_s, ReportsTexts::tr("Perpetual Summary by Item"),
                         ReportsTexts::tr("Perpetual Inventory Summary by Item"));
     report.parameters = {.location = true, .itemType = true, .period = true};
-    report.rows = perpetualSummaryRows;
-    report.query = BalanceLines::byItem(item);
-    report.order = {u"I.ItemNo"_s};
+    report.rows = perpetualSummaryRows(BalanceQueries::byItem(item));
     report.layout.columns = summaryColumns();
     return report;
 }
@@ -156,9 +150,8 @@ ReportDescription summaryByTypeItem()
         perpetualReport(u"TrptPerpetualSummaryByTypeItem"_s, ReportsTexts::tr("Perpetual Summary by Type /Item"),
                         ReportsTexts::tr("Perpetual Inventory Summary by Type /Item"));
     report.parameters.location = true;
-    report.rows = perpetualSummaryRows;
-    report.query = BalanceLines::byItem(itemAndType, BalanceLines::withTypes());
-    report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
+    report.rows = perpetualSummaryRows(
+        BalanceQueries::byItem(itemAndType, BalanceQueries::withTypes(), {u"T.TypeName"_s, u"I.ItemTypeID"_s}));
     report.layout.columns = summaryColumns();
     report.layout.groups = {typeGroup(ReportsTexts::tr("Total %1"))};
     for (qsizetype i = 2; i < report.layout.columns.size(); ++i)

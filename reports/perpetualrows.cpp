@@ -18,8 +18,9 @@ namespace {
 class PerpetualRows final : public AccountRows
 {
 public:
-    PerpetualRows(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection)
-        : AccountRows(database, report, selection)
+    PerpetualRows(Engine::Database &database, const ReportQuery &balances, const ReportSelection &selection,
+                  const Printing::ReportLayout &layout)
+        : AccountRows(database, balances, selection, layout)
         , m_type(indexOf(u"TransTypeName"_s))
         , m_date(indexOf(u"TransDate"_s))
         , m_description(indexOf(u"TransDescription"_s))
@@ -82,8 +83,9 @@ private:
 class SummaryRows final : public AccountRows
 {
 public:
-    SummaryRows(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection)
-        : AccountRows(database, report, selection)
+    SummaryRows(Engine::Database &database, const ReportQuery &balances, const ReportSelection &selection,
+                const Printing::ReportLayout &layout)
+        : AccountRows(database, balances, selection, layout)
         , m_selection(selection)
     {
     }
@@ -120,18 +122,18 @@ private:
     const size_t m_closing = indexOf(u"ClosingBalance"_s);
 };
 
+template <typename Reader> ReportDescription::Rows rowsOf(const ReportQuery &balances)
+{
+    return
+        [balances](Engine::Database &database, const ReportDescription &report, const ReportSelection &selection) {
+            return std::make_unique<Reader>(database, balances, selection, report.layout);
+        };
+}
+
 } // namespace
 
-Printing::RowReaderPtr perpetualRows(Engine::Database &database, const ReportDescription &report,
-                                     const ReportSelection &selection)
-{
-    return std::make_unique<PerpetualRows>(database, report, selection);
-}
+ReportDescription::Rows perpetualRows(const ReportQuery &balances) { return rowsOf<PerpetualRows>(balances); }
 
-Printing::RowReaderPtr perpetualSummaryRows(Engine::Database &database, const ReportDescription &report,
-                                            const ReportSelection &selection)
-{
-    return std::make_unique<SummaryRows>(database, report, selection);
-}
+ReportDescription::Rows perpetualSummaryRows(const ReportQuery &balances) { return rowsOf<SummaryRows>(balances); }
 
 } // namespace Tallymere

@@ -34,24 +34,18 @@ struct ReportDescription
         bool itemType = false;
         bool period = false;
     };
+    // The source: a query (queryRows, valueRows, perpetualRows) or a list by its own rules.
     using Rows = std::function<Printing::RowReaderPtr(Engine::Database &, const ReportDescription &,
                                                       const ReportSelection &)>;
     using Notes = QStringList (*)(Engine::Database &, const ReportSelection &);
 
     QString name; // "TrptValueByItem"
     QString listText; // as the wizard offers it and the command line calls it: "Value by Item"
+    bool inWizard = false; // offered there, in the order of ReportList; by the command line all are
     Parameters parameters{};
-    Rows rows = nullptr;
+    Rows rows = nullptr; // null: it is only offered, and has nothing to show yet
     Notes notes = nullptr; // further headings, as the data are
-    // Of the reports on balances: the lines of the query, of which the third takes the condition, and its order by
-    // columns of the result. With key fields its rows are fetched as they are needed, else read at once. Of a list the order
-    // is an index that it is always printed by.
-    QStringList query{};
-    QStringList order{};
-    QString keyFields{};
     Printing::ReportLayout layout;
-
-    bool isOfBalances() const { return !query.isEmpty(); }
 };
 
 } // namespace Tallymere

@@ -8,9 +8,23 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere::ReportList {
 
-const QList<ReportDescription> &all()
+namespace {
+
+const QList<ReportDescription> &described()
 {
     static const QList<ReportDescription> reports = valueReports() + perpetualReports() + listReports() + forms();
+    return reports;
+}
+
+} // namespace
+
+const QList<ReportDescription> &all()
+{
+    static const QList<ReportDescription> reports = [] {
+        QList<ReportDescription> shown = described();
+        shown.removeIf([](const ReportDescription &report) { return !report.rows; });
+        return shown;
+    }();
     return reports;
 }
 
@@ -23,23 +37,21 @@ const ReportDescription *find(const QString &text)
     return found == all().cend() ? nullptr : &*found;
 }
 
-const QList<Offered> &offered()
+const QList<const ReportDescription *> &offered()
 {
-    static const QList<Offered> list = [] {
-        QList<Offered> reports;
-        for (const ReportDescription &report : all())
-            if (report.isOfBalances() && report.name != "TrptValueByGLAccountItem"_L1)
-                reports.append({report.listText, report.parameters, &report});
-        constexpr qsizetype costPerMeal = 5;
-        reports.insert(costPerMeal, {ReportsTexts::tr("Cost per Meal"), {.location = true}, nullptr});
+    static const QList<const ReportDescription *> list = [] {
+        QList<const ReportDescription *> reports;
+        for (const ReportDescription &report : described())
+            if (report.inWizard)
+                reports.append(&report);
         return reports;
     }();
     return list;
 }
 
-QString nothingToShow(const Offered &offered)
+QString nothingToShow(const ReportDescription &report)
 {
-    return ReportsTexts::tr("The report '%1' has nothing to show yet.").arg(offered.listText);
+    return ReportsTexts::tr("The report '%1' has nothing to show yet.").arg(report.listText);
 }
 
 } // namespace Tallymere::ReportList

@@ -26,9 +26,9 @@ Period organizationsPeriod(TDataModuleTallymere &data)
 // By its name, which no translation changes; the first report when it is gone.
 int indexOf(const QString &name)
 {
-    const QList<ReportList::Offered> &offered = ReportList::offered();
+    const QList<const ReportDescription *> &offered = ReportList::offered();
     for (qsizetype i = 0; i < offered.size(); ++i)
-        if (offered[i].report && offered[i].report->name == name)
+        if (offered[i]->rows && offered[i]->name == name)
             return static_cast<int>(i);
     return 0;
 }
@@ -62,7 +62,7 @@ ReportChoice ReportMemory::last() const
 void ReportMemory::keep(const ReportChoice &choice) const
 {
     const ReportSelection &selection = choice.selection;
-    m_choices.keep({{reportKey, ReportList::offered().at(choice.report).report->name},
+    m_choices.keep({{reportKey, ReportList::offered().at(choice.report)->name},
                     {locationKey, selection.warehouseId},
                     {itemTypeKey, selection.itemTypeId},
                     {periodKey, selection.period},

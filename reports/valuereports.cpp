@@ -39,8 +39,8 @@ ReportDescription valueReport(const QString &name, const QString &listText,
     ReportDescription report;
     report.name = name;
     report.listText = listText;
+    report.inWizard = true;
     report.parameters = parameters;
-    report.rows = valueRows;
     report.layout.title = ReportsTexts::tr("Inventory %1").arg(listText);
     report.layout.totals = {{u"ItemValue"_s, TotalOf::Amounts}};
     report.layout.reportTotalText = ReportsTexts::tr("Total");
@@ -53,8 +53,7 @@ ReportDescription byItem()
 {
     ReportDescription report =
         valueReport(u"TrptValueByItem"_s, ReportsTexts::tr("Value by Item"), {.location = true, .itemType = true});
-    report.query = BalanceLines::byItem(itemCosts);
-    report.order = {u"I.ItemNo"_s};
+    report.rows = valueRows(BalanceQueries::byItem(itemCosts));
     report.layout.columns = itemColumns();
     return report;
 }
@@ -63,9 +62,7 @@ ReportDescription byItemWhse()
 {
     ReportDescription report =
         valueReport(u"TrptValueByItemWhse"_s, ReportsTexts::tr("Value by Item /Location"), {.itemType = true});
-    report.query = BalanceLines::byLocation(itemCosts);
-    report.order = {u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
-    report.keyFields = u"ItemID;WarehouseID"_s;
+    report.rows = valueRows(BalanceQueries::byLocation(itemCosts));
     report.layout.columns = balanceColumns();
     report.layout.groups = {itemGroup()};
     report.layout.totals = {{u"QtyOnHand"_s, TotalOf::Quantities, false}, {u"ItemWhseValue"_s, TotalOf::Amounts}};
@@ -76,8 +73,8 @@ ReportDescription byTypeItem()
 {
     ReportDescription report =
         valueReport(u"TrptValueByTypeItem"_s, ReportsTexts::tr("Value by Type /Item"), {.location = true});
-    report.query = BalanceLines::byItem(itemCosts + u", T.TypeName"_s, BalanceLines::withTypes());
-    report.order = {u"T.TypeName"_s, u"I.ItemTypeID"_s, u"I.ItemNo"_s};
+    report.rows = valueRows(BalanceQueries::byItem(itemCosts + u", T.TypeName"_s, BalanceQueries::withTypes(),
+                                                   {u"T.TypeName"_s, u"I.ItemTypeID"_s}));
     report.layout.columns = itemColumns();
     report.layout.groups = {typeGroup(ReportsTexts::tr("Total %1"))};
     return report;
@@ -101,9 +98,8 @@ ReportDescription byTypeItemWhse()
 {
     ReportDescription report =
         valueReport(u"TrptValueByTypeItemWhse"_s, ReportsTexts::tr("Value by Type /Item /Location"), {});
-    report.query = BalanceLines::byLocation(itemCosts + u", T.TypeName"_s, BalanceLines::withTypes());
-    report.order = {u"TypeName"_s, u"ItemTypeID"_s, u"ItemNo"_s, u"ItemID"_s, u"WarehouseName"_s};
-    report.keyFields = u"ItemID;WarehouseID"_s;
+    report.rows = valueRows(BalanceQueries::byLocation(itemCosts + u", T.TypeName"_s, BalanceQueries::withTypes(),
+                                                       {u"TypeName"_s, u"ItemTypeID"_s}));
     report.layout.columns = balanceColumns();
     report.layout.groups = {typeGroup(ReportsTexts::tr("Total %1")), itemGroup()};
     report.layout.totals = {{u"ItemWhseValue"_s, TotalOf::Amounts}};
@@ -114,10 +110,10 @@ ReportDescription byGLAccountItem()
 {
     ReportDescription report = valueReport(u"TrptValueByGLAccountItem"_s,
                                            ReportsTexts::tr("Value by GL Account /Item"), {.location = true});
-    report.query =
-        BalanceLines::byItem(itemCosts + u", I.InventoryGLAccountID, T.CostingMethod, G.GLAccount, G.AccountName"_s,
-                             BalanceLines::withTypes() + withAccounts);
-    report.order = {u"G.GLAccount"_s, u"I.InventoryGLAccountID"_s, u"I.ItemNo"_s};
+    report.rows = valueRows(BalanceQueries::byItem(
+        itemCosts + u", I.InventoryGLAccountID, T.CostingMethod, G.GLAccount, G.AccountName"_s,
+        BalanceQueries::withTypes() + withAccounts, {u"G.GLAccount"_s, u"I.InventoryGLAccountID"_s}));
+    report.inWizard = false;
     report.layout.columns = itemColumns();
     report.layout.groups = {{.key = u"InventoryGLAccountID"_s,
                              .fields = {u"GLAccount"_s, u"AccountName"_s},
@@ -128,11 +124,20 @@ ReportDescription byGLAccountItem()
     return report;
 }
 
+ReportDescription costPerMeal()
+{
+    ReportDescription report;
+    report.listText = ReportsTexts::tr("Cost per Meal");
+    report.inWizard = true;
+    report.parameters.location = true;
+    return report;
+}
+
 } // namespace
 
 QList<ReportDescription> valueReports()
 {
-    return {byItem(), byItemWhse(), byType(), byTypeItem(), byTypeItemWhse(), byGLAccountItem()};
+    return {byItem(), byItemWhse(), byType(), byTypeItem(), byTypeItemWhse(), byGLAccountItem(), costPerMeal()};
 }
 
 } // namespace Tallymere::ReportList

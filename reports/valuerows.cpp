@@ -4,8 +4,8 @@
 #include "base/ruleerror.h"
 #include "engine/amounttoolarge.h"
 #include "engine/database.h"
+#include "engine/query.h"
 #include "master/costing.h"
-#include "reports/balancequery.h"
 #include "reports/fieldmap.h"
 #include "reports/texts.h"
 
@@ -32,10 +32,11 @@ QHash<int, CostingMethod> readCostingMethods(Engine::Database &database)
 class ValueRows final : public Printing::RowReader
 {
 public:
-    ValueRows(Engine::Database &database, const ReportDescription &report, const ReportSelection &selection)
-        : m_balances(database, report, selection)
-        , m_query(m_balances.query())
-        , m_map(report.layout, m_query)
+    ValueRows(Engine::Database &database, std::unique_ptr<Engine::Query> balances,
+              const Printing::ReportLayout &layout)
+        : m_balances(std::move(balances))
+        , m_query(*m_balances)
+        , m_map(layout, m_query)
         , m_byLocation(m_query.fieldIndex(u"QtyOnHand") >= 0)
         , m_quantity(m_query.fieldIndex(m_byLocation ? u"QtyOnHand" : u"ItemQtyOnHand"))
         , m_standardCost(m_query.fieldIndex(u"StandardCost"))
@@ -84,7 +85,7 @@ private:
         }
     }
 
-    BalanceQuery m_balances;
+    const std::unique_ptr<Engine::Query> m_balances;
     Engine::Query &m_query;
     FieldMap m_map;
     bool m_byLocation;
@@ -101,10 +102,12 @@ private:
 
 } // namespace
 
-Printing::RowReaderPtr valueRows(Engine::Database &database, const ReportDescription &report,
-                                 const ReportSelection &selection)
+ReportDescription::Rows valueRows(const ReportQuery &balances)
 {
-    return std::make_unique<ValueRows>(database, report, selection);
+    return
+        [balances](Engine::Database &database, const ReportDescription &report, const ReportSelection &selection) {
+            return std::make_unique<ValueRows>(database, openQuery(database, balances, selection), report.layout);
+        };
 }
 
 } // namespace Tallymere

@@ -51,8 +51,8 @@ TfrmInvReports::TfrmInvReports(ScreenContext &context, QWidget *parent)
     setModal(false);
     scaleWidgets(*m_ui->PanelOptions);
     setLookupLists(*this, context.lookups, guard());
-    for (const ReportList::Offered &offered : ReportList::offered())
-        m_ui->lboReports->addItem(offered.listText);
+    for (const ReportDescription *offered : ReportList::offered())
+        m_ui->lboReports->addItem(offered->listText);
     m_ways = std::make_unique<ReportWays>(context, *this, *m_ui->btnSave, *m_ui->btnOnScreen,
                                           [this] { return wanted(); });
     connectControls();
@@ -134,9 +134,9 @@ ReportSelection TfrmInvReports::selection() const
 
 // --- the pages --------------------------------------------------------------------------------------------------
 
-const ReportList::Offered &TfrmInvReports::chosen() const
+const ReportDescription &TfrmInvReports::chosen() const
 {
-    return ReportList::offered().at(m_ui->lboReports->currentRow());
+    return *ReportList::offered().at(m_ui->lboReports->currentRow());
 }
 
 bool TfrmInvReports::isAskingForOptions() const { return m_ui->pages->currentWidget() == m_ui->PanelOptions; }
@@ -146,7 +146,7 @@ void TfrmInvReports::showPage(QWidget *page)
     m_ui->pages->setCurrentWidget(page);
     m_ui->btnBack->setEnabled(isAskingForOptions());
     m_ui->btnNext->setText(isAskingForOptions() ? tr("&Preview") : tr("&Next >"));
-    m_ways->offer(isAskingForOptions() && chosen().report);
+    m_ways->offer(isAskingForOptions() && chosen().rows != nullptr);
 }
 
 void TfrmInvReports::btnBackClick()
@@ -171,7 +171,7 @@ void TfrmInvReports::showOptions()
     placeOptions(chosen());
 }
 
-void TfrmInvReports::placeOptions(const ReportList::Offered &report)
+void TfrmInvReports::placeOptions(const ReportDescription &report)
 {
     struct Row
     {
@@ -195,7 +195,7 @@ void TfrmInvReports::placeOptions(const ReportList::Offered &report)
         top += rowPitch;
     }
     m_ui->lblNothingToShow->move(m_ui->lblNothingToShow->x(), truncated(*this, top + labelDrop));
-    m_ui->lblNothingToShow->setVisible(!report.report);
+    m_ui->lblNothingToShow->setVisible(!report.rows);
     putCursorInto(rows.isEmpty() ? *m_ui->btnNext : *rows.constFirst().fields.constFirst());
 }
 
@@ -210,14 +210,14 @@ std::optional<WantedReport> TfrmInvReports::wanted()
         box->hidePopup();
         box->settle();
     }
-    if (!chosen().report)
+    if (!chosen().rows)
         return std::nullopt;
-    return WantedReport{*chosen().report, takenBy(chosen().parameters, selection())};
+    return WantedReport{chosen(), takenBy(chosen().parameters, selection())};
 }
 
 void TfrmInvReports::preview()
 {
-    m_ways->offer(chosen().report); // the printer may have gone
+    m_ways->offer(chosen().rows != nullptr); // the printer may have gone
     requirePrinter(context());
     const std::optional<WantedReport> report = wanted();
     if (!report)

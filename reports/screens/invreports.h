@@ -45,11 +45,11 @@ private:
     void connectControls();
     void offer(const ReportChoice &choice);
     ReportSelection selection() const;
-    const ReportList::Offered &chosen() const;
+    const ReportDescription &chosen() const;
     bool isAskingForOptions() const;
     void showPage(QWidget *page);
     void showOptions();
-    void placeOptions(const ReportList::Offered &report);
+    void placeOptions(const ReportDescription &report);
     void takeOverPeriod();
     void takeOverYear();
     std::optional<WantedReport> wanted();

@@ -1,5 +1,7 @@
 #include "printing/reportcsv.h"
+#include "reports/columns.h"
 #include "reports/reportlist.h"
+#include "reports/reportquery.h"
 #include "tests/support/kitchen.h"
 
 #include <QBuffer>
@@ -10,6 +12,15 @@ using namespace Tallymere;
 namespace {
 
 const ReportDescription &report(const char *name) { return *ReportList::find(QString::fromLatin1(name)); }
+
+QByteArray csvOf(Kitchen &kitchen, const ReportDescription &report, const ReportSelection &selection,
+                 Progress &progress)
+{
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    Printing::writeReportCsv(report.layout, *report.rows(kitchen.database(), report, selection), file, progress);
+    return file.data();
+}
 
 using ListReports = KitchenTest;
 ON_BOTH_STORES(ListReports);
@@ -60,12 +71,45 @@ TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
         const ReportSelection selection{.filter = QString::fromLatin1(one.filter),
                                         .order = QString::fromLatin1(one.order)};
         const ReportDescription &list = report(one.name);
-        QBuffer file;
-        file.open(QIODevice::WriteOnly);
-        Printing::writeReportCsv(list.layout, *list.rows(kitchen.database(), list, selection), file, progress);
-        EXPECT_EQ(file.data(), one.csv) << one.name;
+        EXPECT_EQ(csvOf(kitchen, list, selection, progress), one.csv) << one.name;
         EXPECT_EQ(list.layout.landscape, list.listText == "Inventory History"_L1);
     }
+}
+
+TEST_P(ListReports, AQueryIsNarrowedByWhatIsChosenAndByNothingElse)
+{
+    for (int id = 1; id <= 4; ++id)
+        kitchen.addReceipt(id, 1, 1 + id % 2, {});
+    kitchen.execute(u"UPDATE IReceipt SET GLYear = 2025, GLPeriod = 12 WHERE ReceiptID = 1; "
+                    "UPDATE IReceipt SET GLYear = 2026, GLPeriod = 2 WHERE ReceiptID = 2; "
+                    "UPDATE IReceipt SET GLYear = 2026, GLPeriod = 11 WHERE ReceiptID = 3; "
+                    "UPDATE IReceipt SET GLYear = 2027, GLPeriod = 1 WHERE ReceiptID = 4"_s);
+    ReportQuery query{.select = u"R.ReceiptID, W.WarehouseName"_s,
+                      .from = u"IReceipt R LEFT OUTER JOIN Warehse W ON R.WarehouseID = W.WarehouseID"_s,
+                      .conditions = {u"R.ReceiptID <> 2 OR R.ReceiptID IS NULL"_s, u"R.WarehouseID = :Location"_s,
+                                     u"(R.GLYear, R.GLPeriod) >= (:Year, :Period)"_s}};
+    ReportDescription receipts;
+    receipts.layout.columns = {Columns::text(u"ReceiptID"_s, u"Receipt"_s, 1)};
+    const std::pair<ReportSelection, QByteArray> cases[] = {
+        {{}, "134"},
+        {{.warehouseId = 2}, "13"},
+        {{.period = 2, .year = 2026}, "34"},
+        {{.warehouseId = 2, .itemTypeId = 9, .period = 1, .year = 2026}, "3"},
+        {{.warehouseId = 7}, ""}};
+    for (const QString &keys : {QString(), u"ReceiptID"_s}) {
+        query.keys = keys;
+        query.order = {keys.isEmpty() ? u"R.ReceiptID"_s : keys};
+        receipts.rows = queryRows(query);
+        for (const auto &[selection, shown] : cases)
+            EXPECT_EQ(csvOf(kitchen, receipts, selection, progress)
+                          .replace("Band,ReceiptID", "")
+                          .replace("detail,", "")
+                          .replace("\r\n", ""),
+                      shown);
+    }
+    query.conditions.append(u"R.VendorID = :Vendor"_s);
+    receipts.rows = queryRows(query);
+    EXPECT_THROW(csvOf(kitchen, receipts, {}, progress), Engine::EngineError) << "of a choice that there is not";
 }
 
 } // namespace
