@@ -85,7 +85,7 @@ const QList<FormOption> &formOptions()
 ReportDescription wantedReport(const Arguments &arguments)
 {
     const ReportDescription &report = requireReport(arguments.words().at(1));
-    const bool isForm = report.name == blankForm().name;
+    const bool isForm = report.parameters.formChoices;
     BlankFormChoices choices;
     for (const FormOption &form : formOptions()) {
         if (!isForm)

@@ -154,7 +154,7 @@ ReportDescription blankForm(const BlankFormChoices &choices)
     ReportDescription form;
     form.name = u"TrptBlankInventoryForm"_s;
     form.listText = ReportsTexts::tr("Blank Inventory Form");
-    form.parameters.location = true;
+    form.parameters = {.location = true, .formChoices = true};
     form.rows = [choices](Engine::Database &database, const ReportDescription &, const ReportSelection &selection) {
         return countRows(database, choices, selection.warehouseId);
     };

@@ -33,6 +33,7 @@ struct ReportDescription
         bool location = false;
         bool itemType = false;
         bool period = false;
+        bool formChoices = false; // how a form is to be written on (BlankFormChoices), of a location
     };
     // The source: a query (queryRows, valueRows, perpetualRows) or a list by its own rules.
     using Rows = std::function<Printing::RowReaderPtr(Engine::Database &, const ReportDescription &,

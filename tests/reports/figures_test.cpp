@@ -453,9 +453,8 @@ QStringList printedFigures(Books &books, const ReportDescription &report, const 
 std::vector<ReportSelection> selectionsFor(const ReportDescription &report, Books &books)
 {
     std::vector<ReportSelection> selections{{.period = 1, .year = 2025}, {.year = 2027}}; // all history, and none
-    const auto [takesLocation, takesType, takesPeriod] = report.parameters;
-    for (int location = 0; location <= (takesLocation ? 4 : 0); ++location)
-        for (const int type : takesType ? std::vector{0, 1, 2, 9} : std::vector{0})
+    for (int location = 0; location <= (report.parameters.location ? 4 : 0); ++location)
+        for (const int type : report.parameters.itemType ? std::vector{0, 1, 2, 9} : std::vector{0})
             selections.push_back({.warehouseId = location,
                                   .itemTypeId = type,
                                   .period = 1 + books.below(12),
