@@ -233,14 +233,21 @@ void FieldBinder::refresh()
     }
 }
 
-// The first key typed locks the record; when that is refused, the widget shows what it showed.
+// The first key typed locks the record, which is read anew with that. Where it is refused, or what the key was typed into
+// is not what is stored any more, the widget shows what there is.
 void FieldBinder::startEdit(FieldBinding &binding)
 {
-    if (binding.table().isEditing())
+    Engine::Table &table = binding.table();
+    if (table.isEditing())
         return;
-    const std::exception_ptr failure = Guard::attempt([&] { binding.table().edit(); });
+    const QString field = binding.field().name;
+    const Engine::Value shown = table.value(field);
+    std::exception_ptr failure = Guard::attempt([&] { table.edit(); });
+    if (!failure && table.value(field) == shown)
+        return;
     if (!failure)
-        return;
+        failure = std::make_exception_ptr(
+            RuleError(tr("Another user has changed this since it was shown. Here is what it is now."), field));
     binding.show();
     selectText(binding.widget());
     reportLater(failure);

@@ -159,6 +159,21 @@ TEST_F(FieldBinderTest, firstKeyPutsTheTableIntoEditAndLeavingHandsTheEntryOver)
     EXPECT_TRUE(table->boolean(u"Hot"));
 }
 
+TEST_F(FieldBinderTest, firstKeyChangesNothingThatSomebodyElseHasChanged)
+{
+    auto *name = child<QLineEdit>(form, "editName");
+    name->end(false);
+    store.execute(u"UPDATE Meal SET Name = 'Broth'"_s);
+    QTest::keyClicks(name, u"s"_s);
+    QApplication::processEvents();
+    EXPECT_EQ(prompts.take(),
+              QStringList(u"error: Another user has changed this since it was shown. Here is what it is now."_s));
+    EXPECT_EQ(name->text(), u"Broth"_s);
+    QTest::keyClicks(name, u"Stew"_s);
+    binder.commit();
+    EXPECT_EQ(table->text(u"Name"), u"Stew"_s) << "it is the next one's to change";
+}
+
 TEST_F(FieldBinderTest, refusedEntryIsShownAndKeepsTheCursor)
 {
     const struct
