@@ -137,17 +137,17 @@ void presetPeriod(TDataModuleTallymere &data, const ReportDescription &report, R
     selection.year = period.year;
 }
 
-enum class Paper { A4, Letter };
+enum class PaperChoice { A4, Letter };
 
-std::optional<Paper> wantedPaper(const Arguments &arguments)
+std::optional<PaperChoice> wantedPaper(const Arguments &arguments)
 {
     if (!arguments.has(u"paper"_s))
         return std::nullopt;
     const QString name = arguments.value(u"paper"_s);
     if (name.compare("a4"_L1, Qt::CaseInsensitive) == 0)
-        return Paper::A4;
+        return PaperChoice::A4;
     if (name.compare("letter"_L1, Qt::CaseInsensitive) == 0)
-        return Paper::Letter;
+        return PaperChoice::Letter;
     throw UsageError(Texts::tr("option '--paper' takes a4 or letter, not '%1'").arg(name));
 }
 
@@ -159,12 +159,12 @@ struct PagedReport
 };
 
 PagedReport makePages(CommandContext &context, const ReportDescription &report, ReportSelection selection,
-                      std::optional<Paper> paper, const QString &printer = {})
+                      std::optional<PaperChoice> paper, const QString &printer = {})
 {
     DataModuleOptions options;
     options.prepareReportPrinting = [paper, printer]() -> std::optional<bool> {
         if (paper)
-            return paper == Paper::A4;
+            return paper == PaperChoice::A4;
         const std::optional<QPageSize> sheet = Printing::sheetOf(printer);
         return sheet ? std::optional(sheet->id() == QPageSize::A4) : std::nullopt;
     };
@@ -213,7 +213,7 @@ void runPrintCommand(CommandContext &context)
 {
     const ReportDescription report = wantedReport(context.arguments);
     const ReportSelection selection = selectionOf(context.arguments, report);
-    const std::optional<Paper> paper = wantedPaper(context.arguments);
+    const std::optional<PaperChoice> paper = wantedPaper(context.arguments);
     const QString printer = Printing::requirePrinter(context.arguments.value(u"printer"_s)); // before long work
     const PagedReport pages = makePages(context, report, selection, paper, printer);
     QTemporaryFile file; // without a name: it goes with the program, however that ends

@@ -31,13 +31,13 @@ void showModal(QWidget &screen)
 
 } // namespace
 
-bool CommandRunner::canRun(const Command &command) const
+bool CommandRunner::canRun(const MainCommand &command) const
 {
     const ScreenKind *kind = m_screens.find(command.screen);
-    return kind && kind->create && (command.opening != Opening::Post || kind->posts);
+    return kind && kind->create && (command.opening != ScreenOpening::Post || kind->posts);
 }
 
-void CommandRunner::run(const Command &command, ScreenContext &context) const
+void CommandRunner::run(const MainCommand &command, ScreenContext &context) const
 {
     if (!canRun(command))
         return;
@@ -49,13 +49,13 @@ void CommandRunner::run(const Command &command, ScreenContext &context) const
     if (command.hourglass)
         hourglass.emplace();
     switch (command.opening) {
-    case Opening::ShowModalOnce: {
+    case ScreenOpening::ShowModalOnce: {
         const std::unique_ptr<QWidget> screen(kind.create(context, m_parent));
         hourglass.reset();
         showModal(*screen);
         return;
     }
-    case Opening::ShowModal: {
+    case ScreenOpening::ShowModal: {
         QWidget &screen = *findOrCreate(command.screen, kind, context).screen;
         if (screen.isMinimized())
             screen.showNormal();
@@ -63,31 +63,31 @@ void CommandRunner::run(const Command &command, ScreenContext &context) const
         showModal(screen);
         return;
     }
-    case Opening::Post: {
+    case ScreenOpening::Post: {
         QWidget &screen = *findOrCreate(command.screen, kind, context).screen;
         hourglass.reset();
         stepsOf(screen).mnuPostClick();
         return;
     }
-    case Opening::ListPattern:
-    case Opening::ShowAgain:
-    case Opening::Show:
+    case ScreenOpening::ListPattern:
+    case ScreenOpening::ShowAgain:
+    case ScreenOpening::Show:
         showScreen(command, kind, context);
         return;
-    case Opening::None:
+    case ScreenOpening::None:
         return;
     }
 }
 
-void CommandRunner::showScreen(const Command &command, const ScreenKind &kind, ScreenContext &context) const
+void CommandRunner::showScreen(const MainCommand &command, const ScreenKind &kind, ScreenContext &context) const
 {
     const Found found = findOrCreate(command.screen, kind, context);
-    if (command.opening == Opening::ListPattern) {
+    if (command.opening == ScreenOpening::ListPattern) {
         if (found.wasOpen && command.refreshOpenScreen)
             stepsOf(*found.screen).refreshList();
         stepsOf(*found.screen).resetFilter();
     }
-    if (command.opening != Opening::Show && found.screen->isVisible())
+    if (command.opening != ScreenOpening::Show && found.screen->isVisible())
         stepsOf(*found.screen).showAgain();
     bringToFront(*found.screen);
 }

@@ -26,9 +26,9 @@ public:
     }
 
     // Whether there is a screen to open, with what the command needs of it.
-    bool canRun(const Command &command) const;
+    bool canRun(const MainCommand &command) const;
     // Checks the rights and opens the screen; does nothing when the rights are refused.
-    void run(const Command &command, ScreenContext &context) const;
+    void run(const MainCommand &command, ScreenContext &context) const;
     // Finds the open screen of the name or makes it, shows it and brings it to the front. Null when there is no
     // such screen.
     QWidget *open(const QString &screenName, ScreenContext &context) const;
@@ -45,7 +45,7 @@ private:
         bool wasOpen;
     };
     Found findOrCreate(const QString &name, const ScreenKind &kind, ScreenContext &context) const;
-    void showScreen(const Command &command, const ScreenKind &kind, ScreenContext &context) const;
+    void showScreen(const MainCommand &command, const ScreenKind &kind, ScreenContext &context) const;
 
     const ScreenRegistry &m_screens;
     QWidget *m_parent;

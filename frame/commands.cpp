@@ -13,7 +13,7 @@ namespace Tallymere {
 namespace {
 
 // "Post Adustments", with its spelling, is the name that the host's users and their notes know.
-QList<Command> ownCommands()
+QList<MainCommand> ownCommands()
 {
     return {
         {.action = u"ActionReceiveInventory"_s,
@@ -22,78 +22,78 @@ QList<Command> ownCommands()
          .rightsKey = u"InvReceipts"_s,
          .rightsName = u"Inventory Receipts"_s,
          .screen = u"frmInvReceipts"_s,
-         .opening = Opening::ListPattern},
+         .opening = ScreenOpening::ListPattern},
         {.action = u"ActionPostReceipts"_s,
          .caption = FrameTexts::tr("Post Receipts"),
          .hint = FrameTexts::tr("Post inventory receipts"),
          .rightsKey = u"frmInvReceipts"_s,
          .rightsName = u"Inventory Receipts"_s,
          .screen = u"frmInvReceipts"_s,
-         .opening = Opening::Post},
+         .opening = ScreenOpening::Post},
         {.action = u"ActionEditInventory"_s,
          .caption = FrameTexts::tr("Enter Inventory"),
          .hint = FrameTexts::tr("Enter inventory and calculate usage"),
          .rightsKey = u"frmEnterInventory"_s,
          .rightsName = u"Enter Inventory"_s,
          .screen = u"FormEnterInventory"_s,
-         .opening = Opening::Show},
+         .opening = ScreenOpening::Show},
         {.action = u"ActionEditUsage"_s,
          .caption = FrameTexts::tr("Edit Usage"),
          .hint = FrameTexts::tr("Edit usage records"),
          .rightsKey = u"frmUsages"_s,
          .rightsName = u"Inventory Usages"_s,
          .screen = u"frmUsages"_s,
-         .opening = Opening::ShowAgain,
+         .opening = ScreenOpening::ShowAgain,
          .hourglass = false},
         {.action = u"ActionPostUsage"_s,
          .caption = FrameTexts::tr("Post Usage"),
          .rightsKey = u"frmUsagesPost"_s,
          .rightsName = u"Usage Record Posting"_s,
          .screen = u"frmUsagesPost"_s,
-         .opening = Opening::ShowModal},
+         .opening = ScreenOpening::ShowModal},
         {.action = u"ActionEnterAdjustments"_s,
          .caption = FrameTexts::tr("Enter Inventory Adjustments"),
          .hint = FrameTexts::tr("Enter inventory adjustments"),
          .rightsKey = u"frmInvAdjustments"_s,
          .rightsName = u"Inventory Adjustments"_s,
          .screen = u"frmInvAdjustments"_s,
-         .opening = Opening::ListPattern},
+         .opening = ScreenOpening::ListPattern},
         {.action = u"ActionPostAdustments"_s,
          .caption = FrameTexts::tr("Post Adustments"),
          .hint = FrameTexts::tr("Post inventory adjustments"),
          .rightsKey = u"frmInvAdjustments"_s,
          .rightsName = u"Inventory Adjustments"_s,
          .screen = u"frmInvAdjustments"_s,
-         .opening = Opening::Post},
+         .opening = ScreenOpening::Post},
         {.action = u"ActionPrintReports"_s,
          .caption = FrameTexts::tr("Print Reports..."),
          .hint = FrameTexts::tr("Print inventory reports"),
          .rightsKey = u"frmInvReports"_s,
          .rightsName = u"frmInvReports"_s,
          .screen = u"frmInvReports"_s,
-         .opening = Opening::Show},
+         .opening = ScreenOpening::Show},
         {.action = u"ActionPrintBlankInventoryForm"_s,
          .caption = FrameTexts::tr("Blank Inventory Form"),
          .screen = u"FormBlankInventoryReportSelection"_s,
-         .opening = Opening::ShowModalOnce},
+         .opening = ScreenOpening::ShowModalOnce},
         {.action = u"ActionEditOrganizationSetup"_s,
          .caption = FrameTexts::tr("Edit Organization Setup"),
          .rightsKey = u"YourCompany"_s,
          .rightsName = u"Your Company"_s,
          .screen = u"frmCompany"_s,
-         .opening = Opening::ShowAgain},
+         .opening = ScreenOpening::ShowAgain},
         {.action = u"ActionViewTotals"_s,
          .caption = FrameTexts::tr("View Totals"),
          .rightsKey = u"InvTotals"_s,
          .rightsName = u"Inventory Totals"_s,
          .screen = u"frmInvTotals"_s,
-         .opening = Opening::ListPattern},
+         .opening = ScreenOpening::ListPattern},
         {.action = u"ActionViewHistory"_s,
          .caption = FrameTexts::tr("View History"),
          .rightsKey = u"InvHistory"_s,
          .rightsName = u"Inventory History"_s,
          .screen = u"frmInvHistory"_s,
-         .opening = Opening::ListPattern},
+         .opening = ScreenOpening::ListPattern},
         {.action = u"ActionSynchronizeLocations"_s,
          .caption = FrameTexts::tr("Synchronize Locations"),
          .job = synchronizeLocations},
@@ -107,20 +107,20 @@ QList<Command> ownCommands()
     };
 }
 
-Opening openingOf(MasterKind::Reopening reopening)
+ScreenOpening openingOf(MasterKind::Reopening reopening)
 {
     switch (reopening) {
     case MasterKind::Reopening::LiftFilter:
-        return Opening::ListPattern;
+        return ScreenOpening::ListPattern;
     case MasterKind::Reopening::JustShow:
-        return Opening::Show;
+        return ScreenOpening::Show;
     case MasterKind::Reopening::ReadAnew:
         break;
     }
-    return Opening::ShowAgain;
+    return ScreenOpening::ShowAgain;
 }
 
-Command masterCommand(const MasterKind &kind)
+MainCommand masterCommand(const MasterKind &kind)
 {
     const Rights rights = rightsOf(kind.command.rights);
     return {.action = kind.command.action,
@@ -134,10 +134,10 @@ Command masterCommand(const MasterKind &kind)
 
 } // namespace
 
-const QList<Command> &commands()
+const QList<MainCommand> &commands()
 {
-    static const QList<Command> all = [] {
-        QList<Command> list = ownCommands();
+    static const QList<MainCommand> all = [] {
+        QList<MainCommand> list = ownCommands();
         for (const MasterScreen &screen : masterScreens())
             list.append(masterCommand(screen.kind));
         return list;

@@ -11,7 +11,7 @@ class CommandRunner;
 struct ScreenContext;
 
 // How a command opens its screen.
-enum class Opening {
+enum class ScreenOpening {
     ListPattern, // refreshed if open, filter off, shown with all records
     Show, // created if absent, shown
     ShowAgain, // as Show; a visible screen runs its show handler again
@@ -31,7 +31,7 @@ struct CommandSite
 
 // One action of the main window as data. The rights key and name are what SecurityCheck is asked; an empty key asks
 // nothing.
-struct Command
+struct MainCommand
 {
     QString action;
     QString caption;
@@ -39,12 +39,12 @@ struct Command
     QString rightsKey = {};
     QString rightsName = {};
     QString screen = {}; // component name
-    Opening opening = Opening::None;
+    ScreenOpening opening = ScreenOpening::None;
     bool refreshOpenScreen = true; // list pattern only
     bool hourglass = true;
     void (*job)(const CommandSite &) = nullptr; // what is done instead of opening a screen
 };
 
-const QList<Command> &commands();
+const QList<MainCommand> &commands();
 
 } // namespace Tallymere

@@ -239,7 +239,7 @@ bool TFormTallymereSystem::printerDefined()
 void TFormTallymereSystem::createActions()
 {
     m_actionList->setObjectName(u"ActionList1"_s);
-    for (const Command &command : commands()) {
+    for (const MainCommand &command : commands()) {
         auto *action = new QAction(command.caption, m_actionList);
         action->setObjectName(command.action);
         action->setStatusTip(command.hint);
@@ -251,7 +251,7 @@ void TFormTallymereSystem::createActions()
     }
 }
 
-void TFormTallymereSystem::runCommand(const Command &command)
+void TFormTallymereSystem::runCommand(const MainCommand &command)
 {
     if (!m_context)
         return;

@@ -88,7 +88,7 @@ protected:
 
 private:
     void createActions();
-    void runCommand(const Command &command);
+    void runCommand(const MainCommand &command);
     void bindControls();
     void createStatusBar();
     void scaleSizes();

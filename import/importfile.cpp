@@ -105,10 +105,10 @@ private:
     bool m_faulty = false;
 };
 
-class RowReader
+class ImportRowReader
 {
 public:
-    RowReader(const Header &header, bool hasLines, ImportErrors &errors)
+    ImportRowReader(const Header &header, bool hasLines, ImportErrors &errors)
         : m_header(header)
         , m_hasLines(hasLines)
         , m_errors(errors)
@@ -177,7 +177,7 @@ std::vector<ImportDocument> readRows(CsvReader &reader, const ImportKind &kind, 
     const Header header = HeaderReader(kind, errors, reader.line()).read(reader.fields());
     if (header.empty())
         return {};
-    RowReader rows(header, kind.hasLines(), errors);
+    ImportRowReader rows(header, kind.hasLines(), errors);
     try {
         while (reader.next())
             rows.add(reader.line(), reader.fields());

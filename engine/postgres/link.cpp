@@ -53,7 +53,7 @@ PostgresLink::PostgresLink(PostgresTarget target)
 
 // --- one command at a time ---------------------------------------------------------------------------------------
 
-void PostgresLink::prepareFor(RowReader *reader)
+void PostgresLink::prepareFor(ResultReader *reader)
 {
     if (m_reader && m_reader != reader)
         m_reader->readAhead();

@@ -50,10 +50,10 @@ PostgresHandle beginConnecting(const PostgresTarget &target);
 
 // A statement that takes its rows from the wire one by one, and can take the rest into memory when the wire is
 // needed for something else.
-class RowReader
+class ResultReader
 {
 public:
-    virtual ~RowReader() = default;
+    virtual ~ResultReader() = default;
     virtual void readAhead() = 0;
 };
 
@@ -78,9 +78,9 @@ public:
 
     // Makes the wire free for a command of this reader (or nobody's): others read ahead, a lost connection is made
     // anew outside of transactions.
-    void prepareFor(RowReader *reader);
-    void setReader(RowReader *reader) { m_reader = reader; }
-    RowReader *reader() const { return m_reader; }
+    void prepareFor(ResultReader *reader);
+    void setReader(ResultReader *reader) { m_reader = reader; }
+    ResultReader *reader() const { return m_reader; }
 
     // Runs a script to its end, not pipelined; throws its failure.
     ResultPtr run(const QByteArray &script);
@@ -136,7 +136,7 @@ private:
     int m_generation = 0;
     int m_statementCount = 0;
     QList<QByteArray> m_stale;
-    RowReader *m_reader = nullptr;
+    ResultReader *m_reader = nullptr;
     int m_pending = 0;
     std::optional<EngineError> m_failure;
     std::optional<LockOwner> m_blocker; // whom the command under way has been waiting for

@@ -11,7 +11,7 @@ namespace Engine {
 
 // A statement that is prepared on the server at its first use, and again from time to time: the server keeps a plan
 // made when a table was empty, and does not notice by itself that the table has grown.
-class PostgresStatement final : public Statement, private RowReader
+class PostgresStatement final : public Statement, private ResultReader
 {
 public:
     PostgresStatement(std::shared_ptr<PostgresLink> link, const QString &sql);

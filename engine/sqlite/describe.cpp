@@ -12,7 +12,7 @@ namespace Engine {
 
 namespace {
 
-struct Column
+struct StoredColumn
 {
     FieldDef field;
     int keyPosition = 0; // from 1; 0 when it is not part of the declared key
@@ -26,13 +26,13 @@ bool isAutoIncrement(sqlite3 *db, const QString &table, const QString &column)
     return autoIncrement != 0;
 }
 
-QList<Column> columnsOf(SqliteConnection &connection, const QString &table)
+QList<StoredColumn> columnsOf(SqliteConnection &connection, const QString &table)
 {
-    QList<Column> columns;
+    QList<StoredColumn> columns;
     const StatementPtr statement = connection.prepare(u"SELECT name, type, pk FROM pragma_table_info(?)"_s);
     statement->bindText(0, table);
     while (statement->next()) {
-        Column column{SqliteDialect::fieldType(statement->textAt(1)), static_cast<int>(statement->intAt(2))};
+        StoredColumn column{SqliteDialect::fieldType(statement->textAt(1)), static_cast<int>(statement->intAt(2))};
         column.field.name = statement->textAt(0);
         if (column.keyPosition > 0 && isAutoIncrement(connection.handle(), table, column.field.name))
             column.field.type = FieldType::AutoInc;
@@ -60,7 +60,7 @@ IndexDef indexOf(SqliteConnection &connection, const QString &stored)
 }
 
 // The declared key, when the table has no index of the engine's that is the primary one.
-IndexDef declaredKey(SqliteConnection &connection, const QString &table, const QList<Column> &columns)
+IndexDef declaredKey(SqliteConnection &connection, const QString &table, const QList<StoredColumn> &columns)
 {
     const StatementPtr statement =
         connection.prepare(u"SELECT name FROM pragma_index_list(?) WHERE origin = 'pk'"_s);
@@ -70,7 +70,7 @@ IndexDef declaredKey(SqliteConnection &connection, const QString &table, const Q
         index.options |= IndexOption::Primary;
         return index;
     }
-    for (const Column &column : columns) {
+    for (const StoredColumn &column : columns) {
         if (column.keyPosition == 1)
             return {QString(), column.field.name, IndexOption::Primary};
     }
@@ -93,8 +93,8 @@ std::optional<TableLayout> SqliteConnection::describe(const QString &table)
     layout.name = spelling(table);
     if (layout.name.isNull())
         return std::nullopt;
-    const QList<Column> columns = columnsOf(*this, layout.name);
-    for (const Column &column : columns)
+    const QList<StoredColumn> columns = columnsOf(*this, layout.name);
+    for (const StoredColumn &column : columns)
         layout.fields << column.field;
 
     const StatementPtr statement = prepare(u"SELECT name FROM sqlite_master WHERE type = 'index' AND tbl_name = ? "
