@@ -206,19 +206,6 @@ TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
         EXPECT_EQ(grid.search()->text(), QString()) << what;
     }
     grid.setFocus();
-    const int interval = QApplication::keyboardInputInterval();
-    QApplication::setKeyboardInputInterval(0);
-    type("x");
-    QTest::qWait(5);
-    type("d");
-    EXPECT_EQ(grid.search()->text(), u"d"_s) << "a pause begins anew";
-    QTest::qWait(5);
-    press(Qt::Key_Space);
-    EXPECT_EQ(grid.search()->text(), u"d"_s) << "but not with a blank";
-    static_cast<QAbstractItemView &>(grid).keyboardSearch(QString(QChar::Null));
-    EXPECT_EQ(grid.search()->text(), u"d"_s) << "nor with what Ctrl+Space is on X11";
-    QApplication::setKeyboardInputInterval(interval);
-
     table->setIndex(QString()); // by key, which is no text and not shown
     type("d");
     EXPECT_EQ(grid.search()->text(), QString());

@@ -1,7 +1,6 @@
 #include "controls/filechoice.h"
 #include "tests/controls/itemlist.h"
 #include "tests/support/screentest.h"
-#include "tests/support/smallfiles.h"
 
 #include <QClipboard>
 #include <QFile>
@@ -82,17 +81,6 @@ TEST_F(ListScreenTest, statusLineAndHintSayWhatThereIs)
     settle();
     EXPECT_EQ(prompts.said.size(), 1) << prompts.said.join(u'\n').toStdString();
     kitchen.execute(u"ALTER TABLE Away RENAME TO Item"_s);
-}
-
-TEST_F(ListScreenTest, longListIsCountedAfterItHasBeenPainted)
-{
-    kitchen.execute(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500) "
-                    "INSERT INTO Item (ItemID, ItemNo) SELECT 1000 + i, 'N' || i FROM n"_s);
-    ItemList items(*context, mainWindow.get());
-    items.setAttribute(Qt::WA_DeleteOnClose, false);
-    EXPECT_EQ(status(items), QString());
-    showActive(items);
-    EXPECT_TRUE(comesTrue([&] { return status(items) == u"1 of 504 rows"_s; })) << status(items).toStdString();
 }
 
 TEST_F(ListScreenTest, typedSearchIsShown)
@@ -217,20 +205,4 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
 
     context->chooseFileToSave = {};
     EXPECT_FALSE(open().command(u"mnuSaveCsv"_s)->isEnabled());
-}
-
-TEST_F(ListScreenTest, fullDiskKeepsTheFileThatWasThere)
-{
-    const QTemporaryDir folder;
-    chosen = folder.filePath(u"items.csv"_s);
-    QFile old(chosen);
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-    old.write("old");
-    old.close();
-    const ItemList &items = open();
-    const SmallFiles full(20);
-    items.command(u"mnuSaveCsv"_s)->trigger();
-    EXPECT_TRUE(prompts.last().startsWith("error: Unable to save '"_L1 + chosen)) << prompts.last().toStdString();
-    EXPECT_EQ(content(chosen), "old");
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(u"items.csv"_s));
 }

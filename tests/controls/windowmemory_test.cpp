@@ -140,11 +140,3 @@ TEST(WindowPlaces, LieOnTheScreensThatThereAre)
     for (const auto &[what, place, expected] : cases)
         EXPECT_EQ(onScreens(place, two), expected) << what;
 }
-
-TEST(WindowPlaces, StepAsideUntilNothingStandsThere)
-{
-    const QRect screen(0, 0, 200, 100);
-    EXPECT_EQ(apartFrom({{5, 5}}, {6, 5}, 20, screen), QPoint(6, 5));
-    EXPECT_EQ(apartFrom({{25, 25}, {5, 5}}, {5, 5}, 20, screen), QPoint(45, 45));
-    EXPECT_EQ(apartFrom({{90, 75}}, {90, 75}, 20, screen), QPoint(110, 0)) << "from the edge on at the top";
-}

@@ -4,10 +4,7 @@
 #include "tests/frame/testcompany.h"
 
 #include <QAction>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
-#include <QSet>
 #include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
@@ -43,26 +40,7 @@ private:
     std::unique_ptr<TFormTallymereSystem> m_form;
 };
 
-void expectUniqueMnemonics(const QList<QAction *> &actions, const QString &where)
-{
-    QSet<QString> seen;
-    for (const QAction *action : actions) {
-        const QString key = QKeySequence::mnemonic(action->text()).toString();
-        if (!key.isEmpty()) {
-            EXPECT_FALSE(seen.contains(key)) << where.toStdString() << ' ' << key.toStdString();
-            seen.insert(key);
-        }
-        if (action->menu())
-            expectUniqueMnemonics(action->menu()->actions(), action->text());
-    }
-}
-
 } // namespace
-
-TEST_F(MainFormTest, EachMenuHasItsLettersOnce)
-{
-    expectUniqueMnemonics(form().menuBar()->actions(), u"menu bar"_s);
-}
 
 // A command is offered where its screen exists, or where it needs none, and nowhere else; whatever stands for it follows.
 TEST_F(MainFormTest, CommandsAreEnabledAsScreensExist)

@@ -312,20 +312,3 @@ TEST_F(OpeningTest, CommandsTakeTheirStepsTheFirstAndTheSecondTime)
                   (QStringList{u"InvReceipts/Inventory Receipts"_s, u"frmInvReceipts/Inventory Receipts"_s}));
     }));
 }
-
-TEST_F(OpeningTest, CommandsGoOnToLeadToTheFirstOfSeveralScreens)
-{
-    const auto name = u"frmInvTotals"_s;
-    link(&host);
-    EXPECT_TRUE(open([&] {
-        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
-        QWidget *first = screen;
-        QWidget *further = context->openAnotherScreen(name);
-        EXPECT_NE(further, first);
-        EXPECT_TRUE(first->isVisible() && further->isVisible());
-        EXPECT_EQ(context->openScreen(name), first);
-        delete first;
-        EXPECT_NE(context->openScreen(name), further);
-        EXPECT_EQ(context->openAnotherScreen(u"frmBanksInv"_s), nullptr);
-    }));
-}
