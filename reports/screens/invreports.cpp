@@ -7,30 +7,22 @@
 #include "reports/screens/showreport.h"
 #include "ui_invreports.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 namespace {
 
-// In design pixels: the rows of the options stand about the same middle, one at 78, two at 70 and 98.
+// In design pixels: the rows of the options stand about the same middle, one at 78, two at 70 and 98. Labels stand lower
+// than their fields.
 constexpr int singleRowTop = 78;
 constexpr int rowPitch = 28;
 constexpr int riseByRow = 8;
 constexpr int labelDrop = 4;
 
 int truncated(const QWidget &widget, int pixels) { return static_cast<int>(pixels * fontFactor(&widget)); }
-
-// As they are in the form, but as wide as the screen's resolution wants it, and as high as they like to be.
-void scaleWidgets(const QWidget &panel)
-{
-    const auto widgets = panel.findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
-    for (QWidget *widget : widgets) {
-        const QRect place = widget->geometry();
-        widget->setGeometry(truncated(panel, place.x()), truncated(panel, place.y()),
-                            truncated(panel, place.width()), widget->sizeHint().height());
-    }
-}
 
 void offerWidget(QWidget &widget, bool offered)
 {
@@ -49,7 +41,6 @@ TfrmInvReports::TfrmInvReports(ScreenContext &context, QWidget *parent)
     setAttribute(Qt::WA_DeleteOnClose);
     m_ui->setupUi(this);
     setModal(false);
-    scaleWidgets(*m_ui->PanelOptions);
     setLookupLists(*this, context.lookups, guard());
     for (const ReportDescription *offered : ReportList::offered())
         m_ui->lboReports->addItem(offered->listText);
@@ -185,17 +176,25 @@ void TfrmInvReports::placeOptions(const ReportDescription &report)
     for (const Row &row : rows)
         for (QWidget *widget : row.fields + QList{row.label})
             offerWidget(*widget, row.offered);
-    rows.removeIf([](const Row &row) { return !row.offered; });
 
-    int top = singleRowTop - riseByRow * static_cast<int>(rows.size() - 1);
+    // The title's row of the grid reaches down to the first option; each option is a row above its label and one beside it.
+    QGridLayout &grid = *m_ui->layoutOptions;
+    const int shown = static_cast<int>(std::ranges::count(rows, true, &Row::offered));
+    int bottom = grid.contentsMargins().top();
+    int gridRow = 0;
+    const auto reach = [&](int pixels) {
+        grid.setRowMinimumHeight(gridRow++, truncated(*this, pixels) - bottom);
+        bottom = truncated(*this, pixels);
+    };
+    int top = singleRowTop - riseByRow * (shown - 1);
+    reach(top);
     for (const Row &row : rows) {
-        row.label->move(row.label->x(), truncated(*this, top + labelDrop));
-        for (QWidget *field : row.fields)
-            field->move(field->x(), truncated(*this, top));
-        top += rowPitch;
+        reach(row.offered ? top + labelDrop : top);
+        top += row.offered ? rowPitch : 0;
+        reach(top);
     }
-    m_ui->lblNothingToShow->move(m_ui->lblNothingToShow->x(), truncated(*this, top + labelDrop));
     m_ui->lblNothingToShow->setVisible(!report.rows);
+    rows.removeIf([](const Row &row) { return !row.offered; });
     putCursorInto(rows.isEmpty() ? *m_ui->btnNext : *rows.constFirst().fields.constFirst());
 }
 
