@@ -1,4 +1,3 @@
-#include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/texts.h"
 #include "engine/error.h"
@@ -39,15 +38,8 @@ void runPost(CommandContext &context)
     std::optional<DocumentPosting> posting;
     context.patiently([&] { posting.emplace(data->databaseTallymere(), kind); });
     ConsoleProgress progress(context.console, Texts::tr("Posting"));
-    try {
-        const bool posted = posting->run(context.prompts, progress);
-        context.console.print(posted ? kind.posting.postedText(posting->posted()) : posting->countText());
-    } catch (const RuleError &) { // the documents before the one that is refused stay posted
-        progress.finish();
-        if (posting->posted() > 0)
-            context.console.print(kind.posting.postedText(posting->posted()));
-        throw;
-    }
+    const bool posted = posting->run(context.prompts, progress);
+    context.console.print(posted ? kind.posting.postedText(posting->posted()) : posting->countText());
 }
 
 } // namespace

@@ -66,8 +66,25 @@ bool DocumentPosting::run(Prompts &prompts, Progress &progress)
                    [&](const Engine::EngineError &) { return prompts.retry(lock.refusalIn(m_database)); });
     progress.start(count());
     const auto finished = qScopeGuard([&progress] { progress.finish(); });
-    postAll(prompts, progress);
+    try {
+        postAll(prompts, progress);
+    } catch (const RuleError &error) {
+        throw RuleError(error.message() + aroundRefused());
+    }
     return true;
+}
+
+// The documents before the one that is refused stay posted; those behind it wait.
+QString DocumentPosting::aroundRefused() const
+{
+    QString text;
+    if (m_posted > 0)
+        text += u'\n' + TransactionsTexts::tr("%1 before it.").arg(m_kind.posting.postedText(m_posted));
+    if (m_waiting > 0)
+        text += u'\n'
+            + plural(m_waiting, TransactionsTexts::tr("%n document behind it waits to be posted."),
+                     TransactionsTexts::tr("%n documents behind it wait to be posted."));
+    return text;
 }
 
 void DocumentPosting::postAll(Prompts &prompts, Progress &progress)
@@ -89,6 +106,7 @@ void DocumentPosting::postAll(Prompts &prompts, Progress &progress)
         std::vector<PostingDocument> documents = readBatch(Engine::numberList({&m_keys[begin], end - begin}));
         stock.require(itemsOf(documents));
         for (PostingDocument &each : documents) {
+            m_waiting = static_cast<int>(&documents.back() - &each + m_keys.size() - end);
             const auto document = std::make_shared<const PostingDocument>(std::move(each));
             writes.apply([this, document, &stock, &history, &mark](Engine::Writes &sink) {
                 postDocument(*document, *mark, {stock, history, sink});

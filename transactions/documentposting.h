@@ -18,7 +18,8 @@ namespace Tallymere {
 // whole run and released when run() returns or throws.
 //
 // A document that a rule refuses, for an amount or a quantity on hand that is out of range, ends the run: nothing of it
-// is written, it stays unposted, and the documents before it stay posted.
+// is written, it stays unposted, and the documents before it stay posted. The RuleError says how many these are, and how
+// many wait behind it.
 //
 // Failure of the store: an EngineError. Documents before it stay posted; the one in hand stays marked, with what
 // was written before the failing statement. The end of the process or of the machine leaves whole documents only,
@@ -49,6 +50,7 @@ private:
     struct PostingBooks;
 
     void postAll(Prompts &prompts, Progress &progress);
+    QString aroundRefused() const;
     std::vector<PostingDocument> readBatch(const QString &keys) const;
     std::vector<PostingDocument> readHeaders(const QString &keys) const;
     void readLines(std::vector<PostingDocument> &documents, const QString &keys) const;
@@ -61,6 +63,7 @@ private:
     const DocumentKind &m_kind;
     std::vector<qint64> m_keys;
     int m_posted = 0;
+    int m_waiting = 0; // behind the one in hand
 };
 
 } // namespace Tallymere

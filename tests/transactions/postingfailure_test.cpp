@@ -76,8 +76,9 @@ TEST_P(FailingPosting, KeepsWhatWasWrittenBeforeTheFailingStatement)
 
 TEST_P(FailingPosting, ADocumentThatARuleRefusesIsLeftAloneAndNamedAgain)
 {
-    const QString text = u"\"%1\" cannot be posted. Line 3: %2.\n"
-                         "Nothing of it has been written. Correct it and post again. -> "_s;
+    const QString text =
+        u"\"%1\" cannot be posted. Line 3: %2.\n"
+        "Nothing of it has been written. Correct it and post again.%3\n1 document behind it waits to be posted. -> "_s;
     const QString balance = u"the quantity on hand would be too large"_s;
     const QString amount = u"an amount of money is too large"_s;
     const auto &receipt = DocumentKinds::receipt();
@@ -106,7 +107,8 @@ TEST_P(FailingPosting, ADocumentThatARuleRefusesIsLeftAloneAndNamedAgain)
             "UPDATE %2 SET %3 WHERE %4 = 2"_s.arg(c.kind.headerTable, c.kind.lineTable, c.spoils, c.kind.keyField));
         const double onHand = &c.kind == &usage ? -7 : 7;
         for (int run = 1; run <= 2; ++run) {
-            EXPECT_EQ(refusalOf([&] { post(c.kind); }), text.arg(c.name, c.why)) << run;
+            const QString before = run == 1 ? u"\n%1 before it."_s.arg(c.kind.posting.postedText(1)) : QString();
+            EXPECT_EQ(refusalOf([&] { post(c.kind); }), text.arg(c.name, c.why, before)) << run;
             expect(u"1"_s, u"1,2,4"_s, onHand, c.kind);
         }
         kitchen.execute(u"UPDATE %1 SET %2 = 0%3 WHERE %4 = 2"_s.arg(
