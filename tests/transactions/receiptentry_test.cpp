@@ -3,8 +3,6 @@
 #include "engine/lockmanager.h"
 #include "tests/support/kitchen.h"
 
-#include <QProcess>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 using Engine::ErrorCode;
@@ -265,45 +263,6 @@ TEST_P(Entry, ATakenNumberOfALineIsNotToldAsTheReceiptsAndGivenAnew)
               u"The line could not be saved because another one was added meanwhile. Try again. -> Lines");
     entry.save();
     EXPECT_EQ(kitchen.lines(entry.key()), (QStringList{u"1|1|5|3.25"_s, u"2|2|1|1"_s, u"3|1|9|9"_s, u"4|3|2|4"_s}));
-}
-
-TEST_P(Entry, PostedReceiptsAreNotChanged)
-{
-    kitchen.addReceipt(5, 1, 1, {{1, 1, 1}});
-    ASSERT_TRUE(entry.openDocument(5));
-    EXPECT_FALSE(entry.isPosted());
-    kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s); // by another user, unseen so far
-    for (const auto &change : std::initializer_list<std::function<void()>>{
-             [&] { entry.lines().edit(); }, [&] { entry.newLine(); }, [&] { entry.removeLine(); },
-             [&] { entry.header().edit(); }}) {
-        EXPECT_EQ(refusalOf(change), u"silent -> ");
-        EXPECT_EQ(
-            prompts.take(),
-            QStringList(u"inform: Posted receipts cannot be changed...\n\nTo undo a receipt after posting, you "
-                        "must \"reverse\" it (enter it again with the opposite amount)."_s));
-    }
-    EXPECT_EQ(kitchen.lines(5), QStringList(u"1|1|1|1"_s));
-    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Free);
-}
-
-// The database is replaced by a copy of itself.
-TEST(EntryInAFolder, CancelEndsTheVisitAndTellsWhatStaysInTheFileThatWasInUse)
-{
-    Kitchen kitchen(Store::Local);
-    kitchen.addReceipt(7, 1, 1, {{1, 5, 1}});
-    SpokenPrompts prompts;
-    ReceiptEntry entry(kitchen.database(), prompts);
-    entry.open();
-    ASSERT_TRUE(entry.openDocument(7));
-    changeLine(entry, 0, u"QtyReceived", 9.0);
-    const QString replace = u"cd \"$0\" && cp Corvane.sqlite copy && mv copy Corvane.sqlite"_s;
-    ASSERT_EQ(QProcess::execute(u"sh"_s, {u"-c"_s, replace, kitchen.directory()}), 0);
-    EXPECT_EQ(errorOf([&] { entry.save(); }), ErrorCode::FileReplaced);
-    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Ask);
-    entry.cancel();
-    EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Free);
-    EXPECT_TRUE(prompts.last().startsWith("error: The file "_L1)) << prompts.last().toStdString();
-    EXPECT_TRUE(prompts.last().contains(u"Lines changed: 1."_s));
 }
 
 // On a server a connection can be lost with a document in edit.

@@ -206,29 +206,6 @@ TEST_F(ReceiptScreenTest, aDateFarAwayIsAskedAboutOnce)
     screen->btnCancelClick();
 }
 
-TEST_F(ReceiptScreenTest, receiptThatSomebodyElseHasSaysSoWhenItIsOpened)
-{
-    const auto anna = kitchen.anotherUser();
-    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
-    Engine::Table theirs(anna->database, u"IReceipt"_s);
-    theirs.open();
-    const auto isInUse = [&] {
-        open(7);
-        const bool shown = child<QLabel>(*screen, "lblInUse")->isVisible();
-        screen->close();
-        settle();
-        return shown;
-    };
-    EXPECT_FALSE(isInUse());
-    theirs.edit();
-    EXPECT_TRUE(isInUse());
-    theirs.cancel();
-    EXPECT_FALSE(isInUse());
-    theirs.lockTable(); // to post
-    EXPECT_TRUE(isInUse());
-    EXPECT_EQ(prompts.take(), QStringList());
-}
-
 TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});

@@ -311,22 +311,6 @@ TEST_P(CountTest, ExcludesWhoeverPostsAndPassesOverNumbersGivenByHand)
     kitchen.expectNoLocks();
 }
 
-TEST_P(CountTest, IsRefusedWhileAnotherUserHoldsTheUsages)
-{
-    kitchen.session().lockAttempts = 1;
-    const auto anna = kitchen.anotherUser();
-    Engine::Table usages(anna->database, u"IUsage"_s);
-    usages.open();
-    usages.lockTable();
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-    enter(u"A10"_s, 9);
-    EXPECT_THROW(count.calculate(), Engine::EngineError);
-    EXPECT_EQ(this->usages(), QStringList());
-    EXPECT_TRUE(count.hasEdits());
-    usages.unlockTable();
-    EXPECT_TRUE(count.calculate().usage);
-}
-
 TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
 {
     ASSERT_TRUE(count.open(1, ZeroCounts::Included));
