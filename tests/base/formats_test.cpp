@@ -71,6 +71,7 @@ TEST(Numbers, FollowTheUsersSeparators)
     german.decimalPoint = u',';
     german.groupSeparator = u'.';
     EXPECT_EQ(numberFromText(u"1.234,5"_s, german), 1234.5);
+    EXPECT_EQ(numberFromText(u" 2,5 "_s, german), 2.5);
     EXPECT_THROW(numberFromText(u"1.5"_s, german), RuleError);
     EXPECT_FALSE(std::signbit(numberFromText(u"-0"_s, german)));
     EXPECT_EQ(currencyText(Money::fromTenThousandths(12345000), german), u"1.234,50"_s);

@@ -9,6 +9,7 @@
 
 #include <QClipboard>
 #include <QDialog>
+#include <QPlainTextEdit>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -200,6 +201,17 @@ TEST_F(FieldBinderTest, refusedEntryIsShownAndKeepsTheCursor)
     }
     EXPECT_EQ(table->text(u"Name"), u"Soup"_s);
     EXPECT_EQ(table->money(u"Cost"), Engine::Money::fromDouble(2.5));
+}
+
+TEST_F(FieldBinderTest, anEmptiedNoteIsNone)
+{
+    QWidget page;
+    auto *memo = bound(new QPlainTextEdit(&page), u"memoNotes"_s, u"Name"_s);
+    FieldBinder notes(&page, guard);
+    notes.bind(*table);
+    memo->clear();
+    notes.commit();
+    EXPECT_TRUE(table->value(u"Name").isNull());
 }
 
 TEST_F(FieldBinderTest, leavingTowardsCancelHandsNothingOver)

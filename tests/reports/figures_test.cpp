@@ -5,6 +5,7 @@
 #include "printing/reportrun.h"
 #include "reports/reportlist.h"
 #include "tests/support/bothstores.h"
+#include "tests/support/chance.h"
 #include "tests/support/spokenprompts.h"
 
 #include <map>
@@ -467,17 +468,15 @@ ON_BOTH_STORES(Figures);
 
 TEST_P(Figures, EqualASecondComputationAndArePrintedAsTheyAreInCsv)
 {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE(seed);
+    const unsigned seed = chanceSeed();
+    SCOPED_TRACE(testing::Message() << "TALLYMERE_TEST_SEED=" << seed);
     Books books(GetParam(), seed);
-    int selections = 0;
     for (const ReportDescription &report : ReportList::valueReports() + ReportList::perpetualReports()) {
         if (!report.rows)
             continue;
         SCOPED_TRACE(qPrintable(report.listText));
         const Shape shape(report.listText);
         for (const ReportSelection &selection : selectionsFor(report, books)) {
-            ++selections;
             const CsvReport csv = csvOf(books, shape, report, selection);
             ASSERT_EQ(csv.lines, Expected(books, shape, selection).lines)
                 << "location " << selection.warehouseId << ", type " << selection.itemTypeId << ", period "
@@ -486,7 +485,6 @@ TEST_P(Figures, EqualASecondComputationAndArePrintedAsTheyAreInCsv)
                       withoutSingleTotals(csv.figures, books, report, selection));
         }
     }
-    EXPECT_EQ(selections, 119) << "of twelve reports, by what they can be asked for";
 }
 
 } // namespace

@@ -52,7 +52,9 @@ TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
     press(Qt::Key_Return); // appends the second line
     EXPECT_EQ(cursor(), u"1,0"_s);
     type("2<Return><Return>"); // past the number, to the description
-    type("Br"); // completed to "Bread"
+    type("Bro<Backspace>"); // deleting completes nothing
+    EXPECT_EQ(qobject_cast<QLineEdit *>(QApplication::focusWidget())->text(), u"Br"_s);
+    type("e"); // completed to "Bread"
     type("<Return>1.25");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_O, Qt::AltModifier);
     EXPECT_TRUE(comesTrue([&] { return !screen; })) << "closed and freed";

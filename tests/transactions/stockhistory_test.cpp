@@ -1,3 +1,4 @@
+#include "tests/support/chance.h"
 #include "tests/transactions/documents.h"
 #include "transactions/documentposting.h"
 #include "transactions/stockcount.h"
@@ -62,8 +63,8 @@ ON_BOTH_STORES(StockHistory);
 
 TEST_P(StockHistory, AddsUpToTheBalancesAfterAnySteps)
 {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE(seed);
+    const unsigned seed = chanceSeed();
+    SCOPED_TRACE(testing::Message() << "TALLYMERE_TEST_SEED=" << seed);
     random.seed(seed);
     for (int i = 0; i < 60; ++i) {
         ASSERT_NO_FATAL_FAILURE(step());
