@@ -1,8 +1,8 @@
 #include "controls/liststatus.h"
 
+#include "controls/figuresline.h"
 #include "controls/screenmetrics.h"
 
-#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLocale>
@@ -18,7 +18,6 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     , m_bar(bar)
     , m_rows(new QLabel(&bar))
     , m_search(new QLabel(&bar))
-    , m_figures(new QLabel(&bar))
 {
     m_rows->setObjectName(u"lblRows"_s);
     m_rows->setContentsMargins(0, 0, scaled(&bar, 24), 0);
@@ -26,14 +25,12 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     m_search->setTextFormat(Qt::PlainText);
     // What is typed may be long; it must not widen the window.
     m_search->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_figures->setObjectName(u"lblFigures"_s);
-    m_figures->setTextFormat(Qt::PlainText);
-    m_figures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto *figures = new FiguresLine(&bar);
+    figures->follow(grid);
     bar.addWidget(m_rows);
     bar.addWidget(m_search, 1);
-    bar.addWidget(m_figures, 1);
+    bar.addWidget(figures, 1);
     m_search->hide();
-    showFigures();
 
     const TableModel *model = grid.tableModel();
     connect(model, &QAbstractItemModel::rowsInserted, this, &ListStatus::showRows);
@@ -41,9 +38,6 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     connect(&model->dataSet(), &Engine::DataSet::listChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListStatus::showRows);
-    connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListStatus::showFigures);
-    connect(model, &QAbstractItemModel::dataChanged, this, &ListStatus::showFigures);
-    connect(grid.horizontalHeader(), &QHeaderView::sectionResized, this, &ListStatus::showFigures);
     connect(grid.search(), &ListSearch::changed, this, &ListStatus::showSearch);
     showRows();
 }
@@ -55,12 +49,6 @@ void ListStatus::say(const QString &text)
 }
 
 void ListStatus::showRows() { m_rows->setText(rowsText()); }
-
-void ListStatus::showFigures()
-{
-    const QModelIndex current = m_grid.currentIndex();
-    m_figures->setText(current.isValid() ? m_grid.cutFigures(current.row()) : QString());
-}
 
 QString ListStatus::rowsText() const
 {

@@ -21,7 +21,6 @@ public:
 
 private:
     void showRows();
-    void showFigures();
     void showSearch();
     QString rowsText() const;
 
@@ -29,7 +28,6 @@ private:
     QStatusBar &m_bar;
     QLabel *m_rows;
     QLabel *m_search;
-    QLabel *m_figures;
 };
 
 } // namespace Tallymere

@@ -1,6 +1,7 @@
 #include "transactions/screens/documentscreen.h"
 
 #include "base/ruleerror.h"
+#include "controls/figuresline.h"
 #include "controls/linegrid.h"
 #include "controls/lookuplists.h"
 #include "controls/screenmetrics.h"
@@ -63,6 +64,8 @@ void DocumentScreen::buildDocument(LineOptions options)
                       .complete = [this](const QString &field,
                                          const QString &typed) { return completeDescription(field, typed); }},
                      guard(), options);
+    if (auto *figures = findChild<FiguresLine *>())
+        figures->follow(*m_grid);
     m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
     addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert), &LineGrid::appendLine);
     addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete),

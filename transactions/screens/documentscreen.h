@@ -32,8 +32,8 @@ protected:
     DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent);
 
     // Called once by the constructor of a screen, after its form has been set up: fills the lookup boxes that name
-    // their lists, binds the header's widgets, the grid "DBGrid1", which shows the kind's columns, and the label
-    // "lblPosted".
+    // their lists, binds the header's widgets, the grid "DBGrid1", which shows the kind's columns, the label
+    // "lblPosted", and the line that shows figures for which the grid has no room.
     void buildDocument(LineOptions options = {});
 
     DocumentEntry &entry() const { return *m_entry; }
