@@ -109,8 +109,7 @@ void runList(CommandContext &context)
 {
     const ListKind &kind = requireListKind(context.arguments.words().at(1));
     const auto data = context.openData();
-    Engine::Table table(data->databaseTallymere(), kind.layout->name);
-    table.readOnly = true;
+    Engine::TableReader table(data->databaseTallymere(), kind.layout->name);
     table.setIndex(kind.index);
     table.open();
     writeRows(context, table, fieldNames(*kind.layout));

@@ -103,6 +103,12 @@ void EntryScreen::tellSaved(int key)
         Guard::trace(failure);
 }
 
+QList<Engine::TableReader *> EntryScreen::ownedTables()
+{
+    const QList<Engine::Table *> tables = m_binder.tables();
+    return {tables.begin(), tables.end()};
+}
+
 void EntryScreen::btnOKClick()
 {
     if (m_guard.run([this] { saveAndReport(); }))

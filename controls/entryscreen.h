@@ -23,7 +23,7 @@ class EntryScreen : public QDialog, public TableOwner
 
 public:
     const Guard &guard() const { return m_guard; }
-    QList<Engine::Table *> ownedTables() override { return m_binder.tables(); }
+    QList<Engine::TableReader *> ownedTables() override;
 
     void btnOKClick(); // saves and closes; stays open when the saving is refused
     void btnCancelClick(); // drops the changes and closes

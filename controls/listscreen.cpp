@@ -218,7 +218,7 @@ namespace {
 // As setIndex() and setOrderBy() take it.
 QString orderOf(const Engine::DataSet &set)
 {
-    if (const auto *table = qobject_cast<const Engine::Table *>(&set))
+    if (const auto *table = qobject_cast<const Engine::TableReader *>(&set))
         return table->index();
     QStringList names;
     for (const Engine::OrderedField &field : set.orderedFields())
@@ -290,10 +290,10 @@ QAction *ListScreen::command(const QString &name) const { return findChild<QActi
 
 // --- the list ---------------------------------------------------------------------------------------------------
 
-QList<Engine::Table *> ListScreen::ownedTables()
+QList<Engine::TableReader *> ListScreen::ownedTables()
 {
-    auto *table = qobject_cast<Engine::Table *>(m_data);
-    return table ? QList<Engine::Table *>{table} : QList<Engine::Table *>{};
+    auto *table = qobject_cast<Engine::TableReader *>(m_data);
+    return table ? QList<Engine::TableReader *>{table} : QList<Engine::TableReader *>{};
 }
 
 void ListScreen::refreshList()

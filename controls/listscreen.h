@@ -75,7 +75,7 @@ class ListScreen : public QMainWindow, public TableOwner, public CommandScreen
 public:
     const Guard &guard() const { return m_guard; }
     Engine::DataSet &dataSet() const { return *m_data; }
-    QList<Engine::Table *> ownedTables() override; // none when it shows a query
+    QList<Engine::TableReader *> ownedTables() override; // none when it shows a query
 
     // Reads the list anew; the cursor stays on its row.
     void refreshList() override;

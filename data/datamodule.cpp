@@ -68,7 +68,7 @@ TDataModuleTallymere::~TDataModuleTallymere()
     }
 }
 
-QList<Engine::Table *> TDataModuleTallymere::ownedTables()
+QList<Engine::TableReader *> TDataModuleTallymere::ownedTables()
 {
     return {&m_reportParameters, &m_config,  &m_company, &m_hist,   &m_balance,
             &m_warehouse,        &m_itemCtl, &m_custCtl, &m_history};

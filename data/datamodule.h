@@ -67,7 +67,7 @@ public:
     Engine::Table &tableCustCtl() { return m_custCtl; } // the host's
     Engine::Table &tableHistory() { return m_history; } // the host's
 
-    QList<Engine::Table *> ownedTables() override; // all of these
+    QList<Engine::TableReader *> ownedTables() override; // all of these
 
     bool quickReportA4() const { return m_quickReportA4; } // reports are made for A4 paper, else for Letter
 

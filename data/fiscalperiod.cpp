@@ -2,7 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "data/texts.h"
-#include "engine/table.h"
+#include "engine/tablereader.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,8 +36,7 @@ FiscalSettings FiscalSettings::of(const Engine::DataSet &company)
 
 FiscalSettings FiscalSettings::readFrom(Engine::Database &database)
 {
-    Engine::Table company(database, u"Company"_s);
-    company.readOnly = true;
+    Engine::TableReader company(database, u"Company"_s);
     company.open();
     return of(company);
 }

@@ -10,7 +10,7 @@
 using namespace Qt::StringLiterals;
 using Engine::DataSet;
 using Engine::FieldType;
-using Engine::Table;
+using Engine::TableReader;
 using Engine::Value;
 
 namespace Tallymere {
@@ -79,7 +79,7 @@ TdmLookUpsInv::TdmLookUpsInv(Engine::Database &database)
     m_itemType.open();
 }
 
-QList<Table *> TdmLookUpsInv::ownedTables()
+QList<TableReader *> TdmLookUpsInv::ownedTables()
 {
     return {&m_tax,     &m_salesman, &m_cusType, &m_currency, &m_item,    &m_customer,
             &m_glAccnt, &m_vendor,   &m_bank,    &m_itemType, &m_warehse, &m_logo};
@@ -111,7 +111,7 @@ LookupList TdmLookUpsInv::list(QStringView table)
     Engine::raise(Engine::ErrorCode::NoSuchTable, DataTexts::tr("There is no list '%1' to choose from").arg(table));
 }
 
-Table &TdmLookUpsInv::opened(Table &table)
+TableReader &TdmLookUpsInv::opened(TableReader &table)
 {
     if (!table.isOpen())
         table.open();

@@ -2,14 +2,14 @@
 
 #include "data/tableowner.h"
 #include "engine/database.h"
-#include "engine/table.h"
+#include "engine/tablereader.h"
 
 namespace Tallymere {
 
 // A list of a drop-down field: the rows of a table by name, each standing for its key.
 struct LookupList
 {
-    Engine::Table &table;
+    Engine::TableReader &table;
     QString nameField;
     QString title; // of the open list
 };
@@ -23,40 +23,40 @@ public:
     explicit TdmLookUpsInv(Engine::Database &database);
 
     // The whole set that screens and reports look things up in; some wait for theirs.
-    Engine::Table &tblTax() { return opened(m_tax); }
-    Engine::Table &tblSalesman() { return opened(m_salesman); } // + FullName
-    Engine::Table &tblCusType() { return opened(m_cusType); } // the host's
-    Engine::Table &tblCurrency() { return opened(m_currency); }
-    Engine::Table &tblItem() { return opened(m_item); }
-    Engine::Table &tblCustomer() { return opened(m_customer); } // the host's; + Address, ShipToAddress
-    Engine::Table &tblGLAccnt() { return opened(m_glAccnt); } // + AccountName30
-    Engine::Table &tblVendor() { return opened(m_vendor); } // + Address, CityStateZip
-    Engine::Table &tblBank() { return opened(m_bank); }
-    Engine::Table &tblItemType() { return opened(m_itemType); }
-    Engine::Table &tblWarehse() { return opened(m_warehse); }
-    Engine::Table &tblLogo() { return opened(m_logo); } // the host's
+    Engine::TableReader &tblTax() { return opened(m_tax); }
+    Engine::TableReader &tblSalesman() { return opened(m_salesman); } // + FullName
+    Engine::TableReader &tblCusType() { return opened(m_cusType); } // the host's
+    Engine::TableReader &tblCurrency() { return opened(m_currency); }
+    Engine::TableReader &tblItem() { return opened(m_item); }
+    Engine::TableReader &tblCustomer() { return opened(m_customer); } // the host's; + Address, ShipToAddress
+    Engine::TableReader &tblGLAccnt() { return opened(m_glAccnt); } // + AccountName30
+    Engine::TableReader &tblVendor() { return opened(m_vendor); } // + Address, CityStateZip
+    Engine::TableReader &tblBank() { return opened(m_bank); }
+    Engine::TableReader &tblItemType() { return opened(m_itemType); }
+    Engine::TableReader &tblWarehse() { return opened(m_warehse); }
+    Engine::TableReader &tblLogo() { return opened(m_logo); } // the host's
 
-    QList<Engine::Table *> ownedTables() override; // as they are, opened or not
+    QList<Engine::TableReader *> ownedTables() override; // as they are, opened or not
 
     // The lists that fields of records choose from, by their table: "Currency", "ItemType", "Warehse". Opened.
     LookupList list(QStringView table);
 
 private:
-    static Engine::Table &opened(Engine::Table &table);
+    static Engine::TableReader &opened(Engine::TableReader &table);
     void describeCalculatedFields();
 
-    Engine::Table m_tax;
-    Engine::Table m_salesman;
-    Engine::Table m_cusType;
-    Engine::Table m_currency;
-    Engine::Table m_item;
-    Engine::Table m_customer;
-    Engine::Table m_glAccnt;
-    Engine::Table m_vendor;
-    Engine::Table m_bank;
-    Engine::Table m_itemType;
-    Engine::Table m_warehse;
-    Engine::Table m_logo;
+    Engine::TableReader m_tax;
+    Engine::TableReader m_salesman;
+    Engine::TableReader m_cusType;
+    Engine::TableReader m_currency;
+    Engine::TableReader m_item;
+    Engine::TableReader m_customer;
+    Engine::TableReader m_glAccnt;
+    Engine::TableReader m_vendor;
+    Engine::TableReader m_bank;
+    Engine::TableReader m_itemType;
+    Engine::TableReader m_warehse;
+    Engine::TableReader m_logo;
 };
 
 } // namespace Tallymere

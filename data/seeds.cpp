@@ -63,7 +63,7 @@ void addFirstRow(Engine::Database &database, const QString &name, const QList<As
     table.open();
     if (!table.isEmpty())
         return;
-    table.append();
+    table.insert();
     for (const Assignment &assignment : row)
         table.set(assignment.field, assignment.value);
     table.post();

@@ -6,9 +6,9 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-void tables(const QString &action, const QList<Engine::Table *> &owned)
+void tables(const QString &action, const QList<Engine::TableReader *> &owned)
 {
-    for (Engine::Table *table : owned) {
+    for (Engine::TableReader *table : owned) {
         if (action == "O"_L1 && !table->isOpen())
             table->open();
         else if (action == "R"_L1 && table->isOpen())

@@ -3,7 +3,7 @@
 #include <QList>
 
 namespace Engine {
-class Table;
+class TableReader;
 }
 
 namespace Tallymere {
@@ -12,7 +12,7 @@ namespace Tallymere {
 class TableOwner
 {
 public:
-    virtual QList<Engine::Table *> ownedTables() = 0;
+    virtual QList<Engine::TableReader *> ownedTables() = 0;
 
 protected:
     ~TableOwner() = default;

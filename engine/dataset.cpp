@@ -63,7 +63,7 @@ void DataSet::first()
     if (d->keysRead || d->cursor.isFirst())
         return d->cursor.pastBegin();
     d->cursor.toFirst();
-    announceMove();
+    Q_EMIT currentChanged();
 }
 
 void DataSet::last()
@@ -103,13 +103,7 @@ void DataSet::moveTo(int index)
     if (DataSetReader(*this).index() == target)
         return d->cursor.arrive();
     d->cursor.to(d->keys.at(target), std::nullopt, target);
-    announceMove();
-}
-
-void DataSet::announceMove()
-{
     Q_EMIT currentChanged();
-    scrolled();
 }
 
 const Row &DataSet::rowAt(int index) const
@@ -278,7 +272,7 @@ void DataSet::moveToFound(const QList<qint64> &key, std::optional<Row> row)
     if (isNew)
         Q_EMIT listChanged();
     if (isNew || moves)
-        announceMove();
+        Q_EMIT currentChanged();
 }
 
 void DataSet::setFilter(const QString &expression)

@@ -157,7 +157,6 @@ protected:
     int requireField(QStringView name) const; // throws NoSuchField
     void requireOpen() const; // throws WrongState
     virtual void beforeMove(); // Table: posts or drops an edit in progress
-    virtual void scrolled() { } // another record became current
     virtual void settle() { } // Table: the same for a detail whose master is about to move
     // The list is read again when it is needed. The record stays current, or the first becomes current.
     enum class Place { Keep, First };
@@ -184,7 +183,6 @@ protected:
 private:
     void addField(Field field);
     void moveToFound(const QList<qint64> &key, std::optional<Row> row);
-    void announceMove();
     bool matches(const Row &row, const QStringList &fields, const QList<Value> &values,
                  LocateOptions options) const;
 };

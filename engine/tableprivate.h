@@ -3,7 +3,6 @@
 #include "engine/recordlock.h"
 #include "engine/rowsource.h"
 #include "engine/table.h"
-#include "engine/tablelocks.h"
 
 #include <optional>
 #include <QPointer>
@@ -13,7 +12,7 @@ namespace Engine {
 // The columns of an index, called "t", as conditions compare them.
 QList<SqlColumn> indexColumns(const TableLayout &layout, const IndexDef &index, const Dialect &dialect);
 
-struct Table::Restriction
+struct TableReader::Restriction
 {
     struct Link
     {
@@ -33,6 +32,13 @@ struct Table::Restriction
 
 struct Table::Edit
 {
+    explicit Edit(bool ofNewRecord)
+        : isNew(ofNewRecord)
+    {
+    }
+
+    const bool isNew;
+    bool isModified = false;
     Row values;
     Row original; // as read; of a new record the values it began with
     Key key; // of the stored row; empty for a new record

@@ -53,7 +53,7 @@ QList<SqlColumn> indexColumns(const TableLayout &layout, const IndexDef &index, 
     return columns;
 }
 
-void Table::setRange(const QList<Value> &from, const QList<Value> &to)
+void TableReader::setRange(const QList<Value> &from, const QList<Value> &to)
 {
     requireOpen();
     const IndexDef *index = order();
@@ -64,35 +64,25 @@ void Table::setRange(const QList<Value> &from, const QList<Value> &to)
     QList<Value> high = fittedTo(m_layout, *index, to);
     if (index->options.testFlag(IndexOption::Descending) && !comesBefore(low, high))
         low.swap(high);
-    if (m_restriction->ranged && m_restriction->from == low && m_restriction->to == high)
+    const bool ranged = !low.isEmpty() || !high.isEmpty();
+    if (m_restriction->ranged == ranged && m_restriction->from == low && m_restriction->to == high)
         return;
     beforeMove();
     m_restriction->from = low;
     m_restriction->to = high;
-    m_restriction->ranged = true;
+    m_restriction->ranged = ranged;
     restrictionChanged();
 }
 
-void Table::cancelRange()
-{
-    if (!m_restriction->ranged)
-        return;
-    if (m_open)
-        beforeMove();
-    m_restriction->ranged = false;
-    restrictionChanged();
-}
-
-void Table::restrictionChanged()
+void TableReader::restrictionChanged()
 {
     if (!m_open)
         return;
     invalidate(Place::First);
     emitListChanged();
-    scrolled();
 }
 
-SqlCondition Table::rangeCondition() const
+SqlCondition TableReader::rangeCondition() const
 {
     if (!m_restriction->ranged)
         return {};
@@ -100,7 +90,7 @@ SqlCondition Table::rangeCondition() const
     return between(dialect, indexColumns(m_layout, *order(), dialect), m_restriction->from, m_restriction->to);
 }
 
-void Table::setMaster(DataSet *master, const QString &fields)
+void TableReader::setMaster(DataSet *master, const QString &fields)
 {
     Restriction &restriction = *m_restriction;
     for (const QMetaObject::Connection &connection : std::as_const(restriction.connections))
@@ -129,7 +119,7 @@ void Table::setMaster(DataSet *master, const QString &fields)
     restrictionChanged();
 }
 
-QList<Value> Table::linkValues() const
+QList<Value> TableReader::linkValues() const
 {
     const DataSet *master = m_restriction->master;
     QList<Value> values;
@@ -138,20 +128,19 @@ QList<Value> Table::linkValues() const
     return values;
 }
 
-void Table::masterMoved()
+void TableReader::masterMoved()
 {
     if (!m_open)
         return;
     QList<Value> values = linkValues();
     if (values == m_restriction->linkValues)
         return;
-    if (isEditing())
-        cancel();
+    dropEdit();
     m_restriction->linkValues = std::move(values);
     restrictionChanged();
 }
 
-SqlCondition Table::linkCondition() const
+SqlCondition TableReader::linkCondition() const
 {
     const Dialect &dialect = m_database.connection().dialect();
     SqlCondition condition;

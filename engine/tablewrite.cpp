@@ -5,6 +5,7 @@
 #include "engine/dialect.h"
 #include "engine/error.h"
 #include "engine/stablenumber.h"
+#include "engine/tablelocks.h"
 #include "engine/tableprivate.h"
 
 #include <list>
@@ -24,7 +25,7 @@ void Table::requirePrimaryKey() const
 {
     for (const QString &name : m_layout.primaryFields()) {
         const int index = requireField(name);
-        const bool given = field(index).type == FieldType::AutoInc && m_state == TableState::Insert;
+        const bool given = field(index).type == FieldType::AutoInc && m_edit->isNew;
         if (given || !m_edit->values[static_cast<size_t>(index)].toText().isEmpty())
             continue;
         raise(ErrorCode::RequiredField, Texts::tr("Field '%1' must have a value").arg(field(index).caption()));
@@ -35,7 +36,7 @@ void Table::write()
 {
     Connection &connection = m_database.connection();
     std::optional<RecordLock> writing; // a new record has no key yet that others could lock
-    if (m_state == TableState::Insert)
+    if (m_edit->isNew)
         writing.emplace(connection, m_database.session(), m_name, RecordLock::anyKey(), recordText());
     else
         holdRecord();
@@ -52,7 +53,7 @@ void Table::write()
 void Table::writeRow()
 {
     try {
-        m_state == TableState::Insert ? insertRow() : updateRow();
+        m_edit->isNew ? insertRow() : updateRow();
     } catch (const EngineError &error) {
         if (error.code() != ErrorCode::KeyViolation)
             throw;
@@ -166,22 +167,18 @@ void Table::updateRow()
 
 void Table::remove()
 {
-    requireWritable();
-    const bool unsaved = m_state == TableState::Insert;
-    if (isEditing())
-        cancel();
+    requireOpen();
+    const bool unsaved = state() == TableState::Insert;
+    cancel();
     if (unsaved)
         return;
     if (isEmpty()) {
         raise(ErrorCode::WrongState, Texts::tr("Table '%1' has no record to delete.").arg(m_name));
     }
-    if (events.beforeRemove)
-        events.beforeRemove();
-    removeCurrent();
-    emitListChanged();
-    if (events.afterRemove)
-        events.afterRemove();
-    scrolled();
+    rulesInForce().remove([this] {
+        removeCurrent();
+        emitListChanged();
+    });
 }
 
 // A row that another user has deleted meanwhile is as wanted.
@@ -223,7 +220,7 @@ void Table::removeRow(const Key &key)
 // All rows of a small set are locked one by one, so that only an edit of one of them stands in the way.
 void Table::removeAll()
 {
-    requireWritable();
+    requireOpen();
     checkBrowseMode();
     const DataSetReader reader(*this);
     reader.readKeys();
@@ -249,7 +246,6 @@ void Table::removeAll()
     });
     invalidate(Place::First);
     emitListChanged();
-    scrolled();
 }
 
 } // namespace Engine

@@ -48,7 +48,7 @@ private:
 // What has come in, for the lists that show it.
 struct Lists
 {
-    QList<Engine::Table *> lookups;
+    QList<Engine::TableReader *> lookups;
     QString screen;
 };
 

@@ -6,7 +6,7 @@
 #include "engine/database.h"
 #include "engine/error.h"
 #include "engine/session.h"
-#include "engine/table.h"
+#include "engine/tablereader.h"
 #include "host/texts.h"
 
 #include <QDir>
@@ -45,7 +45,7 @@ QString organization(const SettingsStore &settings)
     database.onBeforeConnect = [&](Engine::Database &connecting) {
         databaseTallymereBeforeConnect(connecting, settings, prompts);
     };
-    Engine::Table config(database, u"Config"_s);
+    Engine::TableReader config(database, u"Config"_s);
     config.open();
     return config.isEmpty() ? QString() : config.value(u"Organizatn").toText();
 }

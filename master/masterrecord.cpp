@@ -32,14 +32,7 @@ MasterRecord::MasterRecord(Engine::Database &database, const MasterKind &kind)
 {
     if (!m_kind.numberField.isEmpty())
         m_table.uniqueFields = {m_kind.numberField};
-    m_table.events.newRecord = [this] {
-        assignIdentity(numbers);
-        for (const MasterKind::Default &preset : m_kind.record.defaults)
-            m_table.setDefault(preset.field, preset.value);
-        if (m_kind.record.preset)
-            m_kind.record.preset(m_table);
-    };
-    m_table.events.beforePost = [this] { checkAll(); };
+    m_table.rules = this;
     m_table.recordName = [this] { return m_kind.recordName(m_table); };
     if (m_kind.addFields)
         m_kind.addFields(m_table);
@@ -50,6 +43,22 @@ void MasterRecord::open()
     m_table.open();
     if (m_kind.formatFields)
         m_kind.formatFields(m_table);
+}
+
+void MasterRecord::insert(const Step &begin)
+{
+    begin();
+    assignIdentity(numbers);
+    for (const MasterKind::Default &preset : m_kind.record.defaults)
+        m_table.setDefault(preset.field, preset.value);
+    if (m_kind.record.preset)
+        m_kind.record.preset(m_table);
+}
+
+void MasterRecord::post(const Step &save)
+{
+    checkAll();
+    save();
 }
 
 void MasterRecord::newRecord(const QString &number)

@@ -6,10 +6,10 @@
 
 namespace Tallymere {
 
-// Entering one record of a master table: identity of a new record, defaults, checks and saving. The rules hang on
-// the table's own events, so that whatever edits it obeys them. A refused save raises RuleError, its column being
+// Entering one record of a master table: identity of a new record, defaults, checks and saving. The rules stand
+// around the table's own edits, so that whatever edits it obeys them. A refused save raises RuleError, its column being
 // the field to put right, and leaves the record in edit.
-class MasterRecord final
+class MasterRecord final : private Engine::RecordRules
 {
 public:
     MasterRecord(Engine::Database &database, const MasterKind &kind); // the kind outlives the object
@@ -44,6 +44,9 @@ public:
     void cancel();
 
 private:
+    void insert(const Step &begin) override;
+    void post(const Step &save) override;
+
     Engine::Database &database() const { return m_table.database(); }
     void assignIdentity(const NumberSource &source);
     void assignKey();

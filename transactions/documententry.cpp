@@ -36,15 +36,15 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
                       {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemDescription"_s});
     m_lines.setIndex(m_kind.keyField + ";Seq"_L1);
     m_lines.setMaster(&m_header, m_kind.keyField);
-    hookHeader();
-    hookLines();
+    m_header.rules = &m_headerRules;
+    m_lines.rules = &m_lineRules;
 }
 
 DocumentEntry::~DocumentEntry()
 {
     // What is still being edited is dropped; the checks of the kind are gone already.
-    m_lines.events = {};
-    m_header.events = {};
+    m_lines.rules = nullptr;
+    m_header.rules = nullptr;
     close();
 }
 
@@ -97,7 +97,7 @@ void DocumentEntry::newDocument(const QString &number)
 {
     m_wasSaved = false;
     m_givenNumber = number;
-    m_header.append();
+    m_header.insert();
 }
 
 bool DocumentEntry::openDocument(int key)
@@ -122,23 +122,35 @@ void DocumentEntry::endVisit()
 
 // --- header --------------------------------------------------------------------------------------------------
 
-void DocumentEntry::hookHeader()
+void DocumentEntry::HeaderRules::insert(const Step &begin)
 {
-    m_header.events.beforeInsert = [this] { m_nextSeq = 1; };
-    m_header.events.newRecord = [this] { newHeader(); };
-    m_header.events.beforeEdit = [this] { refusePosted(); };
-    m_header.events.afterEdit = [this] { headerEdited(); };
-    m_header.events.beforePost = [this] { checkHeader(); };
-    m_header.events.afterPost = [this] {
-        m_wasSaved = true;
-        endVisit();
-    };
-    m_header.events.postFailed = [this](const Engine::EngineError &error) {
-        if (error.code() == ErrorCode::KeyViolation)
-            throw RuleError(m_kind.entry.numberTaken, m_kind.shownField());
-    };
-    m_header.events.afterCancel = [this] { endVisit(); };
+    entry.m_nextSeq = 1;
+    begin();
+    entry.newHeader();
 }
+
+void DocumentEntry::HeaderRules::edit(const Step &begin)
+{
+    entry.refusePosted();
+    begin();
+    entry.headerEdited();
+}
+
+void DocumentEntry::HeaderRules::post(const Step &save)
+{
+    entry.checkHeader();
+    try {
+        save();
+    } catch (const Engine::EngineError &error) {
+        if (error.code() == ErrorCode::KeyViolation)
+            throw RuleError(entry.m_kind.entry.numberTaken, entry.m_kind.shownField());
+        throw;
+    }
+    entry.m_wasSaved = true;
+    entry.endVisit();
+}
+
+void DocumentEntry::HeaderRules::cancelled() { entry.endVisit(); }
 
 void DocumentEntry::newHeader()
 {
@@ -273,43 +285,46 @@ void DocumentEntry::chooseDate(QDate date)
 
 // --- lines ---------------------------------------------------------------------------------------------------
 
-void DocumentEntry::hookLines()
+void DocumentEntry::LineRules::insert(const Step &begin)
 {
-    m_lines.events.newRecord = [this] { m_lines.setDefault(m_kind.keyField, key()); };
-    m_lines.events.beforeInsert = [this] {
-        lockLines();
-        m_check.newFigures();
-        lineChanging(LineChange::Insert);
-    };
-    m_lines.events.beforeEdit = [this] { beginLineChange(LineChange::Edit); };
-    m_lines.events.beforeRemove = [this] {
-        beginLineChange(LineChange::Remove);
-        m_visit.removing();
-    };
-    m_lines.events.beforePost = [this] {
-        m_visit.hold();
-        checkLine();
-        m_check.checkFigures(lineCost());
-        numberLine();
-        m_visit.writing();
-    };
-    m_lines.events.afterPost = [this] {
-        m_visit.written();
-        lineSaved();
-    };
-    // The numbers of lines are no concern of the user; saved again, the line gets another one. Within a longer
-    // transaction, as of an import, that would be too late: a server has given it up.
-    m_lines.events.postFailed = [this](const Engine::EngineError &error) {
-        m_visit.notWritten(error);
-        if (error.code() == ErrorCode::KeyViolation && !database().connection().inTransaction())
+    entry.lockLines();
+    entry.m_check.newFigures();
+    entry.lineChanging(LineChange::Insert);
+    begin();
+    entry.m_lines.setDefault(entry.m_kind.keyField, entry.key());
+}
+
+void DocumentEntry::LineRules::edit(const Step &begin)
+{
+    entry.beginLineChange(LineChange::Edit);
+    begin();
+}
+
+// The numbers of lines are no concern of the user; saved again, the line gets another one. Within a longer
+// transaction, as of an import, that would be too late: a server has given it up.
+void DocumentEntry::LineRules::post(const Step &save)
+{
+    entry.m_visit.hold();
+    entry.checkLine();
+    entry.m_check.checkFigures(entry.lineCost());
+    entry.numberLine();
+    try {
+        entry.m_visit.write(save);
+    } catch (const Engine::EngineError &error) {
+        if (error.code() == ErrorCode::KeyViolation && !entry.database().connection().inTransaction())
             throw RuleError(TransactionsTexts::tr(
                                 "The line could not be saved because another one was added meanwhile. Try again."),
                             LineGrid);
-    };
-    m_lines.events.afterRemove = [this] {
-        m_visit.removed();
-        lineRemoved();
-    };
+        throw;
+    }
+    entry.lineSaved();
+}
+
+void DocumentEntry::LineRules::remove(const Step &erase)
+{
+    entry.beginLineChange(LineChange::Remove);
+    entry.m_visit.remove(erase);
+    entry.lineRemoved();
 }
 
 // The lines are locked with their header. Only what is read from then on is sure to be what is stored.
@@ -393,7 +408,7 @@ bool DocumentEntry::goToLineOf(int itemId, double quantity)
     return m_lines.locate(both, {itemId, quantity}) || m_lines.locate(u"ItemID"_s, {itemId});
 }
 
-void DocumentEntry::newLine() { m_lines.append(); }
+void DocumentEntry::newLine() { m_lines.insert(); }
 
 void DocumentEntry::removeLine()
 {

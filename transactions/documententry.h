@@ -14,7 +14,7 @@ namespace Tallymere {
 // Entering one document, a header and its lines: the rules between the two tables and the screen.
 //
 // The screen binds its widgets to header() and lines() and calls save() or cancel(); everything else happens in the
-// tables' own events, so that a table edited from a script obeys the same rules. A refused step raises RuleError
+// tables' own edits, so that a table edited from a script obeys the same rules. A refused step raises RuleError
 // with the message to show and, as its column, the field of header() or lines() that the cursor goes to (LineGrid
 // for the grid as a whole); SilentAbort means that the user has seen a message already.
 //
@@ -124,11 +124,36 @@ protected:
     const LineCheck &lineCheck() const { return m_check; }
 
 private:
+    struct HeaderRules final : Engine::RecordRules
+    {
+        explicit HeaderRules(DocumentEntry &owner)
+            : entry(owner)
+        {
+        }
+        void insert(const Step &begin) override;
+        void edit(const Step &begin) override;
+        void post(const Step &save) override;
+        void cancelled() override;
+
+        DocumentEntry &entry;
+    };
+    struct LineRules final : Engine::RecordRules
+    {
+        explicit LineRules(DocumentEntry &owner)
+            : entry(owner)
+        {
+        }
+        void insert(const Step &begin) override;
+        void edit(const Step &begin) override;
+        void post(const Step &save) override;
+        void remove(const Step &erase) override;
+
+        DocumentEntry &entry;
+    };
+
     Engine::Value askedDate(const Engine::Value &typed);
     void beginVisit();
     void endVisit();
-    void hookHeader();
-    void hookLines();
 
     void newHeader();
     void assignNumbers();
@@ -147,6 +172,8 @@ private:
 
     const DocumentKind &m_kind;
     Prompts &m_prompts;
+    HeaderRules m_headerRules{*this};
+    LineRules m_lineRules{*this};
     Engine::Table m_header;
     Engine::Table m_lines;
     LineCheck m_check;

@@ -17,7 +17,7 @@ namespace Tallymere {
 
 namespace {
 
-std::vector<Engine::Row> rowsOf(const Engine::Table &table)
+std::vector<Engine::Row> rowsOf(const Engine::DataSet &table)
 {
     std::vector<Engine::Row> rows;
     rows.reserve(static_cast<size_t>(table.recordCount()));
@@ -85,7 +85,7 @@ bool DocumentVisit::hasStoredHeader() const
 
 std::vector<Engine::Row> DocumentVisit::storedLines() const
 {
-    Engine::Table stored(m_lines.database(), m_lines.name());
+    Engine::TableReader stored(m_lines.database(), m_lines.name());
     stored.setIndex(m_keyField + ";Seq"_L1);
     stored.open();
     stored.setRange({key()}, {key()});
@@ -113,35 +113,30 @@ Engine::Row DocumentVisit::currentLine() const
     return row;
 }
 
-void DocumentVisit::writing()
+void DocumentVisit::write(const Engine::RecordRules::Step &save)
 {
     if (m_kept)
         m_kept->changing(m_lines.integer(u"Seq"), currentLine());
-}
-
-void DocumentVisit::written()
-{
+    try {
+        save();
+    } catch (const Engine::EngineError &error) {
+        const bool isRefused = m_lines.isEditing() && error.code() != ErrorCode::ConnectionLost;
+        if (m_kept && isRefused)
+            m_kept->refused(m_lines.integer(u"Seq"));
+        throw;
+    }
     if (m_kept)
         m_kept->changed(m_lines.integer(u"Seq"), currentLine());
 }
 
-void DocumentVisit::notWritten(const Engine::EngineError &error)
+void DocumentVisit::remove(const Engine::RecordRules::Step &erase)
 {
-    if (m_kept && error.code() != ErrorCode::ConnectionLost)
-        m_kept->refused(m_lines.integer(u"Seq"));
-}
-
-void DocumentVisit::removing()
-{
-    m_removedSeq = m_lines.integer(u"Seq");
+    const int seq = m_lines.integer(u"Seq");
     if (m_kept)
-        m_kept->changing(m_removedSeq, {});
-}
-
-void DocumentVisit::removed()
-{
+        m_kept->changing(seq, {});
+    erase();
     if (m_kept)
-        m_kept->changed(m_removedSeq, {});
+        m_kept->changed(seq, {});
 }
 
 // --- taking back -----------------------------------------------------------------------------------------------
@@ -180,8 +175,8 @@ void DocumentVisit::takeBack(const FillLine &fill)
 
 void DocumentVisit::restoreLines(const FillLine &fill)
 {
-    const Engine::Table::Events checks = std::exchange(m_lines.events, {});
-    const auto hookAgain = qScopeGuard([&] { m_lines.events = checks; });
+    Engine::RecordRules *const checks = std::exchange(m_lines.rules, nullptr);
+    const auto hookAgain = qScopeGuard([&] { m_lines.rules = checks; });
     m_kept->restoring();
     try {
         writeKeptLines(fill);
@@ -199,7 +194,7 @@ void DocumentVisit::writeKeptLines(const FillLine &fill)
     for (const Engine::Row &kept : m_kept->rows()) {
         if (kept[static_cast<size_t>(m_lines.fieldIndex(u"Seq"))].toInt() == 0)
             continue;
-        m_lines.append();
+        m_lines.insert();
         fill(kept);
         m_kept->restoring(m_lines.integer(u"Seq"), currentLine());
         m_lines.post();

@@ -7,13 +7,17 @@
 #include <functional>
 #include <optional>
 
+namespace Engine {
+class EngineError;
+}
+
 namespace Tallymere {
 
 // One visit to a document, from the point of view of its lines: they are kept as they were stored when the first change
 // locked the document, and brought back when the visit is cancelled. Where the connection was lost in between, and with
 // it the lock, nothing of what others have stored is touched, and the user is told what has become of the document.
 //
-// The owner of the two tables calls it from their events. Of the line that a call is about, lines() is at hand.
+// The owner of the two tables calls it from the rules of their edits.
 class DocumentVisit
 {
 public:
@@ -35,15 +39,12 @@ public:
     // has some already: they are another one's, of the same key.
     void keepLines();
 
-    // Around each write of a line.
-    void writing();
-    void written();
-    void notWritten(const Engine::EngineError &error);
-    void removing();
-    void removed();
+    // Around each write and removal of the current line.
+    void write(const Engine::RecordRules::Step &save);
+    void remove(const Engine::RecordRules::Step &erase);
 
     bool hasKept() const { return m_kept.has_value(); }
-    // Stores the lines as they were, with their former numbers, each filled by its kind; without the events of the
+    // Stores the lines as they were, with their former numbers, each filled by its kind; without the rules of the
     // lines, whose checks would hinder. Where that cannot be done the user is told, and the visit ends all the same.
     void takeBackLines(const FillLine &fill);
 
@@ -70,7 +71,6 @@ private:
     std::optional<LineCopy> m_kept; // goes with the lock
     bool m_lockWasLost = false; // and who has been at the lines meanwhile is not known yet
     int m_losses = 0; // of the connection, when the visit began
-    int m_removedSeq = 0; // the line that is being deleted
 };
 
 } // namespace Tallymere

@@ -14,7 +14,6 @@ namespace Tallymere {
 HistoryView::HistoryView(Engine::Database &database)
     : m_table(database, u"IHist"_s)
 {
-    m_table.readOnly = true;
     m_table.setIndex(u"PERIODDATEDESC"_s);
     m_table.addCalculated(u"Periodppyyyy"_s, FieldType::Text, 8, [](const Engine::DataSet &row) {
         return Value(periodText(row.integer(u"GLPeriod"), row.integer(u"GLYear")));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/table.h"
+#include "engine/tablereader.h"
 
 #include <QString>
 
@@ -16,7 +16,7 @@ public:
 
     // The fields of IHist, and Periodppyyyy ("3/2026"), ItemNo, ItemDescription, WarehouseName, TransTypeName
     // ("PO Receipt"). For reading only.
-    Engine::Table &table() { return m_table; }
+    Engine::TableReader &table() { return m_table; }
     void open();
 
     // What the list can be narrowed to; 0: any.
@@ -43,7 +43,7 @@ public:
     double quantity() const { return m_table.number(u"Quantity"); }
 
 private:
-    Engine::Table m_table;
+    Engine::TableReader m_table;
 };
 
 } // namespace Tallymere

@@ -51,7 +51,7 @@ void ReceiptEntry::chooseVendorByNumber(const QString &vendorNo)
         return;
     }
     const int key = keyByNumber(database(), MasterKinds::vendor(), vendorNo);
-    Engine::Table vendor(database(), u"Vendor"_s);
+    Engine::TableReader vendor(database(), u"Vendor"_s);
     vendor.open();
     if (vendor.findKey({key}) && vendor.boolean(u"Suspended"))
         throw RuleError(TransactionsTexts::tr("Vendor no. '%1' has been suspended").arg(vendorNo), u"VendorNo"_s);
@@ -62,7 +62,7 @@ void ReceiptEntry::validateVendor(const Value &vendorId) const
 {
     if (vendorId.isNull())
         return;
-    Engine::Table vendor(database(), u"Vendor"_s);
+    Engine::TableReader vendor(database(), u"Vendor"_s);
     vendor.open();
     if (vendor.findKey({vendorId}) && vendor.boolean(u"Suspended"))
         throw RuleError(TransactionsTexts::tr("Vendor '%1: %2' has been suspended")

@@ -79,7 +79,7 @@ void UsageDeletion::leaveNote(const QString &user)
 {
     Engine::Table history(m_database, u"History"_s);
     history.open();
-    history.append();
+    history.insert();
     history.set(u"Tran_Date", m_database.session().now());
     history.set(u"Event_Date", m_date);
     history.set(u"Event", TransactionsTexts::tr("Unposted usages with date of %1 deleted.").arg(m_dateText));

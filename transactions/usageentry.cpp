@@ -44,7 +44,7 @@ void UsageEntry::visitBegins()
 void UsageEntry::presetHeader()
 {
     header().setDefault(u"Printed", false);
-    Engine::Table locations(database(), u"Warehse"_s);
+    Engine::TableReader locations(database(), u"Warehse"_s);
     locations.setIndex(u"WarehouseName1"_s);
     locations.open();
     header().setDefault(u"WarehouseID", locations.value(u"WarehouseID"));

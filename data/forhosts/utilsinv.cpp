@@ -8,6 +8,7 @@
 #include "engine/attempts.h"
 #include "engine/error.h"
 #include "engine/session.h"
+#include "engine/tablelocks.h"
 
 #include <QCoreApplication>
 #include <QRandomGenerator>
@@ -27,7 +28,7 @@ QString unexpectedError(const EngineError &error)
         + u'\n' + error.text();
 }
 
-[[noreturn]] void refuseOpening(const Engine::Table &table, const EngineError &error)
+[[noreturn]] void refuseOpening(const Engine::TableReader &table, const EngineError &error)
 {
     if (error.code() == ErrorCode::TableInUse)
         throw EngineError(
@@ -37,7 +38,7 @@ QString unexpectedError(const EngineError &error)
     throw EngineError(error.code(), table.name() + u": "_s + unexpectedError(error), error.driverText());
 }
 
-void openOrRefuse(Engine::Table &table)
+void openOrRefuse(Engine::TableReader &table)
 {
     try {
         table.open();
@@ -48,13 +49,14 @@ void openOrRefuse(Engine::Table &table)
 
 // A table without a row has nothing to lock, and two users would each give it one: the first row is made under the
 // table's lock.
-void lockRow(Engine::Table &counter)
+void lockRow(Engine::Table &counter, std::optional<Engine::TableLocks> &whole)
 {
     if (counter.isEmpty()) {
-        counter.lockTable();
+        if (!whole)
+            whole.emplace(counter.database()).take(counter.name());
         counter.refresh();
         if (!counter.isEmpty())
-            counter.unlockTable(); // somebody else has made it meanwhile
+            whole.reset(); // somebody else has made it meanwhile
     }
     counter.edit();
 }
@@ -66,13 +68,13 @@ void processSomeEvents()
         QCoreApplication::processEvents();
 }
 
-bool lockedForEdit(Engine::Table &counter)
+bool lockedForEdit(Engine::Table &counter, std::optional<Engine::TableLocks> &whole)
 {
     constexpr int mostAttempts = 100;
     Engine::Attempts attempts(mostAttempts, processSomeEvents);
     do {
         try {
-            lockRow(counter);
+            lockRow(counter, whole);
             return true;
         } catch (const EngineError &) {
             qCDebug(trace) << "in the unique ID EDBEngineError exception block";
@@ -92,13 +94,14 @@ QString cutBefore(const QString &piece, QChar marker)
 int getUniqueID(Engine::Table &counter, const QString &field)
 {
     qCDebug(trace) << "Entering GetUniqueID";
+    std::optional<Engine::TableLocks> whole;
     openTable(counter);
     const auto closing = qScopeGuard([&] {
         counter.close();
         qCDebug(trace) << "Exiting GetUniqueID";
     });
 
-    if (!lockedForEdit(counter)) {
+    if (!lockedForEdit(counter, whole)) {
         qCDebug(trace) << "The ID record could not be locked!";
         throw RuleError(DataTexts::tr("Cannot get next unique number. (btGetUniqueNumber)"));
     }
@@ -110,7 +113,7 @@ int getUniqueID(Engine::Table &counter, const QString &field)
     return counter.integer(field);
 }
 
-bool openTable(Engine::Table &table)
+bool openTable(Engine::TableReader &table)
 {
     const auto mend = [&table] { repairTable(table.database(), table.name()); };
     table.onDamage(mend);
@@ -167,7 +170,7 @@ QString getSQLString(Engine::Query &query, const QString &name)
 
 void dmTables(const QString &action, TableOwner &dataModule) { tables(action, dataModule.ownedTables()); }
 
-bool isRecordLocked(const Engine::Table &) { return false; }
+bool isRecordLocked(const Engine::TableReader &) { return false; }
 
 QString extractIDFromString(const QString &text)
 {

@@ -24,7 +24,7 @@ int getUniqueID(Engine::Table &counter, const QString &field);
 // Opens the table and returns true. A damaged table is mended with repairTable(), now or when its first read finds the
 // damage, and used again. Other failures come as EngineError with the engine's code and a text that names the table; one
 // held exclusively by another user says so.
-bool openTable(Engine::Table &table);
+bool openTable(Engine::TableReader &table);
 // Verifies and mends a table; the rows that were lost. Where that is not possible, the EngineError says what to do.
 qint64 repairTable(Engine::Database &database, const QString &table);
 bool openQuery(Engine::Query &query);
@@ -37,7 +37,7 @@ QString getSQLString(Engine::Query &query, const QString &name);
 void dmTables(const QString &action, TableOwner &dataModule);
 
 // Edits find out about locks when they begin; there is nothing to ask beforehand.
-bool isRecordLocked(const Engine::Table &table);
+bool isRecordLocked(const Engine::TableReader &table);
 
 // --- texts ------------------------------------------------------------------------------------------------------
 

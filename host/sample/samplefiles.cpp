@@ -68,7 +68,7 @@ void fillHostTable(Engine::Database &database, const QString &table, const QStri
     Engine::Table rows(database, table);
     rows.open();
     if (rows.isEmpty())
-        takeRows(rows, name, [&] { rows.append(); });
+        takeRows(rows, name, [&] { rows.insert(); });
 }
 
 } // namespace

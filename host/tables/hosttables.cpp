@@ -17,7 +17,7 @@ void createHostTables(Engine::Database &database, const QString &organization, c
     config.open();
     if (!config.isEmpty())
         return;
-    config.append();
+    config.insert();
     config.set(u"Organizatn", organization);
     config.set(u"Postal_Format", postalFormat);
     config.post();

@@ -8,7 +8,7 @@
 namespace Tallymere {
 
 RecordFindScreen::RecordFindScreen(ScreenContext &context, const FindDialogKind &dialog, const MasterKind &kind,
-                                   Engine::Table &records, Engine::DataSet &list, QWidget *parent)
+                                   Engine::TableReader &records, Engine::DataSet &list, QWidget *parent)
     : DialogScreen(context, parent)
     , m_ui(std::make_unique<Ui::RecordFindScreen>())
     , m_kind(kind)

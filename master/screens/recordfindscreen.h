@@ -6,7 +6,7 @@
 
 namespace Engine {
 class DataSet;
-class Table;
+class TableReader;
 } // namespace Engine
 namespace Ui {
 class RecordFindScreen;
@@ -42,7 +42,7 @@ protected:
     // The records in the order in which they are chosen. The list, which may be one of rows that refer to the
     // records, must outlive the dialog's showing.
     RecordFindScreen(ScreenContext &context, const FindDialogKind &dialog, const MasterKind &kind,
-                     Engine::Table &records, Engine::DataSet &list, QWidget *parent);
+                     Engine::TableReader &records, Engine::DataSet &list, QWidget *parent);
 
     QWidget *widgetOfColumn(const QString &column) const override;
 

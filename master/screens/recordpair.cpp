@@ -23,8 +23,8 @@ QString titleOf(const MasterKind &kind, const QString &field)
 
 } // namespace
 
-RecordPair::RecordPair(QLineEdit *number, LookupComboBox *list, const MasterKind &kind, Engine::Table &records,
-                       const Guard &guard)
+RecordPair::RecordPair(QLineEdit *number, LookupComboBox *list, const MasterKind &kind,
+                       Engine::TableReader &records, const Guard &guard)
     : QObject(number)
     , m_number(number)
     , m_list(list)

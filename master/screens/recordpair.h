@@ -7,7 +7,7 @@
 class QLineEdit;
 
 namespace Engine {
-class Table;
+class TableReader;
 }
 
 namespace Tallymere {
@@ -23,7 +23,7 @@ class RecordPair final : public QObject
 
 public:
     // The records in the order of the list; the widgets belong to the dialog.
-    RecordPair(QLineEdit *number, LookupComboBox *list, const MasterKind &kind, Engine::Table &records,
+    RecordPair(QLineEdit *number, LookupComboBox *list, const MasterKind &kind, Engine::TableReader &records,
                const Guard &guard);
 
     // The chosen record, after looking up a number that was typed; 0 when nothing is chosen. Throws for an unknown
@@ -41,7 +41,7 @@ private:
     QLineEdit *m_number;
     LookupComboBox *m_list;
     const MasterKind &m_kind;
-    Engine::Table &m_records;
+    Engine::TableReader &m_records;
     const Guard &m_guard;
 };
 

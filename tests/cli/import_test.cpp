@@ -1,5 +1,6 @@
 #include "engine/lockmanager.h"
 #include "engine/table.h"
+#include "engine/tablelocks.h"
 #include "tests/cli/clirunner.h"
 
 using namespace Qt::StringLiterals;
@@ -226,7 +227,8 @@ TEST_P(Import, AndPostingAreRefusedWhileAnotherUserHoldsTheTableUnlessTheyMayWai
     const auto anna = cli.anotherUser();
     Engine::Table table(anna->database, u"IReceipt"_s);
     table.open();
-    table.lockTable();
+    auto receiptsLock = std::make_unique<Engine::TableLocks>(anna->database);
+    receiptsLock->take(table.name());
 
     const CliResult import = cli.import(u"receipts"_s, receipts);
     EXPECT_EQ(import.status, 1) << import;
@@ -239,13 +241,14 @@ TEST_P(Import, AndPostingAreRefusedWhileAnotherUserHoldsTheTableUnlessTheyMayWai
 
     Engine::Table held(anna->database, u"IBalance"_s);
     held.open();
-    held.lockTable();
-    table.unlockTable();
+    auto balanceLock = std::make_unique<Engine::TableLocks>(anna->database);
+    balanceLock->take(held.name());
+    receiptsLock.reset();
     const auto patient = cli.start({u"post"_s, u"receipts"_s, u"--retry"_s, u"600"_s});
     Engine::LockManager &locks = anna->database.connection().locks();
     while (!locks.ownerOf(u"IReceipt"_s) && !patient->waitForFinished(1)) { } // which it takes first, and keeps
     EXPECT_FALSE(patient->waitForFinished(700)) << "it did not wait for the lock";
-    held.unlockTable();
+    balanceLock.reset();
     EXPECT_EQ(CliRunner::finish(*patient).status, 0);
     EXPECT_EQ(cli.list({u"history"_s}).size(), 1);
 }

@@ -24,6 +24,28 @@ const Engine::TableLayout layout{u"Line"_s,
                                   {u"Name"_s, FieldType::Text, 20}},
                                  {{{}, u"LineID"_s, Engine::IndexOption::Primary}}};
 
+struct LineRules final : Engine::RecordRules
+{
+    explicit LineRules(Engine::Table &of)
+        : lines(of)
+    {
+    }
+    void insert(const Step &begin) override
+    {
+        begin();
+        lines.setDefault(u"LineID",
+                         Engine::singleValue(lines.database(), u"SELECT count(*) FROM Line"_s).toInt() + 1);
+    }
+    void post(const Step &save) override
+    {
+        if (lines.text(u"ItemNo").isEmpty())
+            throw RuleError(u"No item"_s, u"ItemNo"_s);
+        save();
+    }
+
+    Engine::Table &lines;
+};
+
 // Two lines between a box and a button: 1, "A", cost 10 and 2, "B", cost 20. A line must have an item.
 class LineGridTest : public testing::Test
 {
@@ -35,14 +57,7 @@ protected:
             u"INSERT INTO Line (LineID, Quantity, ItemNo, Cost) VALUES (1, 1, 'A', 10), (2, 2, 'B', 20)"_s);
         lines.open();
         lines.field(u"Quantity").format = quantityFormat();
-        lines.events.newRecord = [this] {
-            lines.setDefault(u"LineID",
-                             Engine::singleValue(store.database(), u"SELECT count(*) FROM Line"_s).toInt() + 1);
-        };
-        lines.events.beforePost = [this] {
-            if (lines.text(u"ItemNo").isEmpty())
-                throw RuleError(u"No item"_s, u"ItemNo"_s);
-        };
+        lines.rules = &rules;
         box->setObjectName(u"before"_s);
         button->setObjectName(u"after"_s);
         grid->setObjectName(u"grid"_s);
@@ -65,7 +80,7 @@ protected:
                                 if (!lines.isEditing())
                                     lines.edit();
                             },
-                        .append = [this] { lines.append(); },
+                        .append = [this] { lines.insert(); },
                         .remove = [this] { lines.remove(); },
                         .enter = [this](const QString &field, const QString &text) { lines.setText(field, text); },
                         .search =
@@ -102,6 +117,7 @@ protected:
     SpokenPrompts prompts;
     TestStore store{Store::Local};
     Engine::Table lines{store.database(), u"Line"_s};
+    LineRules rules{lines};
     QWidget window;
     QLineEdit *box = new QLineEdit;
     LineGrid *grid = new LineGrid;

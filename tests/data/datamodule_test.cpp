@@ -3,6 +3,7 @@
 #include "data/layouts.h"
 #include "engine/lockmanager.h"
 #include "engine/query.h"
+#include "engine/tablelocks.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
@@ -122,7 +123,8 @@ TEST_P(DataModule, StartWithNothingToChangeNeedsNoLock)
     items.open();
     Table warehouses(other->database, u"Warehse"_s);
     warehouses.open();
-    warehouses.lockTable();
+    Engine::TableLocks whole(other->database);
+    whole.take(warehouses.name());
 
     EXPECT_NO_THROW(start());
 }
@@ -210,7 +212,7 @@ TEST_P(DataModule, ParametersAndTemporaryTablesStayOutOfTheDatabase)
     const QStringList tables = store.database().tableNames();
 
     Table &parameters = dataModule->memTableInvReportParameters();
-    parameters.append();
+    parameters.insert();
     parameters.set(u"Delivery_Date", QDate(2026, 11, 24));
     parameters.set(u"Routes", QString(250, u'r'));
     parameters.post();

@@ -27,7 +27,7 @@ TEST_P(Lookups, ListsComeInTheOrderTheUserSees)
                   "(4, 'bakery')"_s);
     TdmLookUpsInv lookups(store.database());
     QStringList names;
-    for (Engine::Table &locations = lookups.tblWarehse(); !locations.atEnd(); locations.next())
+    for (Engine::TableReader &locations = lookups.tblWarehse(); !locations.atEnd(); locations.next())
         names << locations.text(u"WarehouseName");
     EXPECT_EQ(names.join(u' '), u"bakery Cold north Zoo"_s);
 }
@@ -56,12 +56,12 @@ TEST_P(Lookups, CalculatedFieldsLeaveOutWhatIsMissing)
 
     TdmLookUpsInv lookups(store.database());
     QStringList people;
-    for (Engine::Table &salesmen = lookups.tblSalesman(); !salesmen.atEnd(); salesmen.next())
+    for (Engine::TableReader &salesmen = lookups.tblSalesman(); !salesmen.atEnd(); salesmen.next())
         people << salesmen.text(u"FullName");
     EXPECT_EQ(people.join(u'|'), u"Kim Ash|Birch|Cedar"_s);
     EXPECT_EQ(lookups.tblGLAccnt().text(u"AccountName30"), u"Food in stock"_s);
 
-    Engine::Table &vendors = lookups.tblVendor();
+    Engine::TableReader &vendors = lookups.tblVendor();
     EXPECT_EQ(vendors.text(u"Address"), u"12 Mill Lane, Springfield, IL, 62701, USA"_s);
     EXPECT_EQ(vendors.text(u"CityStateZip"), u"Springfield IL 62701"_s);
     vendors.next();

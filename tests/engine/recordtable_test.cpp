@@ -134,7 +134,7 @@ TEST_P(RecordTest, RangesIncludeBothBoundsOfTheOrder)
         lines.setRange(from, to);
         EXPECT_EQ(names(lines, u"Quantity"_s), quantities);
     }
-    lines.cancelRange();
+    lines.setRange({}, {});
     EXPECT_EQ(lines.recordCount(), 6);
     EXPECT_EQ(errorOf([&] { lines.setRange({1, 2, 3}, {1, 2, 3}); }), ErrorCode::WrongState);
     lines.setRange({2, 1}, {2, 2});
@@ -172,7 +172,7 @@ TEST_P(RecordTest, DetailsFollowTheirMaster)
     documents.last();
     EXPECT_EQ(names(lines, u"Quantity"_s), u"31 32 33"_s);
 
-    lines.append();
+    lines.insert();
     EXPECT_EQ(lines.integer(u"DocumentID"), 3);
     lines.set(u"Seq", 4);
     documents.prior(); // the line is saved before its document goes out of sight
@@ -180,7 +180,7 @@ TEST_P(RecordTest, DetailsFollowTheirMaster)
     documents.next();
     EXPECT_EQ(lines.recordCount(), 4);
 
-    lines.append();
+    lines.insert();
     lines.set(u"Seq", 4); // taken: the document must not move
     EXPECT_EQ(errorOf([&] { documents.first(); }), ErrorCode::KeyViolation);
     EXPECT_EQ(documents.integer(u"DocumentID"), 3);

@@ -87,7 +87,7 @@ TEST_F(NetworkFolder, ANumberThatSomebodyElseTookMeanwhileIsCountedAnew)
 {
     Table notes(store.database(), u"Note"_s);
     notes.open();
-    notes.append();
+    notes.insert();
     notes.set(u"Words"_s, u"mine"_s);
     const auto anna = store.anotherUser();
     anna->database.connection().execute(u"BEGIN; SELECT * FROM Note"_s); // a reader keeps the commit waiting

@@ -138,11 +138,11 @@ TEST_P(SchemaTest, AutoIncrementNeverGivesANumberTwice)
     Table table(database, u"Item"_s);
     table.open();
     for (const int brought : {50, 20}) {
-        table.append();
+        table.insert();
         table.set(u"ItemID", brought);
         table.post();
     }
-    table.append();
+    table.insert();
     table.post();
     EXPECT_EQ(table.integer(u"ItemID"), 51);
 }

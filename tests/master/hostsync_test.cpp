@@ -1,4 +1,5 @@
 #include "engine/table.h"
+#include "engine/tablelocks.h"
 #include "host/tables/hosttables.h"
 #include "master/itemsync.h"
 #include "master/locationsync.h"
@@ -210,9 +211,10 @@ TEST_P(ItemSyncTest, WhoHoldsTheItemsKeepsEverythingAsItIs)
     Engine::Table table(anna->database, u"Item"_s);
     table.open();
     for (const bool whole : {true, false}) {
-        whole ? table.lockTable() : table.edit();
+        std::optional<Engine::TableLocks> lock;
+        whole ? lock.emplace(table.database()).take(table.name()) : table.edit();
         EXPECT_EQ(errorOf([this] { run(); }), ErrorCode::TableLocked);
-        whole ? table.unlockTable() : table.cancel();
+        table.cancel();
     }
     EXPECT_EQ(keysAndNumbers(), u"1|7");
     EXPECT_EQ(of(u"ItemDescription"_s, 1), u"old");

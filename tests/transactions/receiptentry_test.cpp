@@ -265,6 +265,26 @@ TEST_P(Entry, ATakenNumberOfALineIsNotToldAsTheReceiptsAndGivenAnew)
     EXPECT_EQ(kitchen.lines(entry.key()), (QStringList{u"1|1|5|3.25"_s, u"2|2|1|1"_s, u"3|1|9|9"_s, u"4|3|2|4"_s}));
 }
 
+// Something happens once the checks are passed, just before the record is written.
+struct Unanswered final : Engine::RecordRules
+{
+    Unanswered(Engine::RecordRules &inner, std::function<void()> happening)
+        : checks(inner)
+        , happens(std::move(happening))
+    {
+    }
+    void post(const Step &save) override
+    {
+        checks.post([&] {
+            happens();
+            save();
+        });
+    }
+
+    Engine::RecordRules &checks;
+    std::function<void()> happens;
+};
+
 // On a server a connection can be lost with a document in edit.
 class EntryOnAServer : public testing::Test
 {
@@ -372,15 +392,13 @@ TEST_F(EntryOnAServer, AReceiptThatWasStoredUnnoticedIsNobodyElsesChange)
         change(cancelled ? 50 : 60);
         const QString number = cancelled ? u"P1"_s : u"P2"_s;
         entry->header().set(u"PurchaseOrderNo", number);
-        auto &beforePost = entry->header().events.beforePost;
-        const auto check = beforePost;
-        beforePost = [&] {
-            check();
+        Unanswered unanswered(*entry->header().rules, [&] {
             cut();
             anna->database.connection().execute(u"UPDATE IReceipt SET PurchaseOrderNo = '%1'"_s.arg(number));
-        };
+        });
+        Engine::RecordRules *const checks = std::exchange(entry->header().rules, &unanswered);
         EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
-        beforePost = check;
+        entry->header().rules = checks;
         if (cancelled)
             entry->cancel();
         else
