@@ -98,23 +98,6 @@ TEST_P(RecordTest, FindsWhatHasComeSinceTheListWasRead)
     EXPECT_EQ(newLists, 2);
 }
 
-TEST_P(RecordTest, FindsAKeyOfTheOrderInForce)
-{
-    addVendors();
-    addDocuments();
-    Table table(database(), u"Line"_s);
-    table.open();
-    EXPECT_TRUE(table.findKey({3, 2}));
-    EXPECT_EQ(table.recordIndex(), 4);
-    EXPECT_TRUE(table.findKey({2}));
-    EXPECT_FALSE(table.findKey({2, 9}));
-    EXPECT_EQ(table.number(u"Quantity"), 21);
-    vendors.setIndex(u"VENDORNAME1"_s);
-    vendors.open();
-    EXPECT_TRUE(vendors.findKey({u"BELL"_s}));
-    EXPECT_EQ(vendors.text(u"VendorName"), u"Bell"_s);
-}
-
 TEST_P(RecordTest, RangesIncludeBothBoundsOfTheOrder)
 {
     addVendors();

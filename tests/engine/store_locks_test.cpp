@@ -3,7 +3,6 @@
 #include "tests/support/otheruser.h"
 
 #include <chrono>
-#include <QLocale>
 #include <QSysInfo>
 #include <thread>
 
@@ -169,16 +168,6 @@ TEST_P(LocksTest, TheHolderIsNamedAndSinceWhen)
     bobs.unlockRecord(u"Item"_s, {-6});
     EXPECT_FALSE(mine.ownerOf(u"Item"_s));
     EXPECT_TRUE(mine.ownerOf(u"Tax"_s));
-}
-
-TEST(Locks, AHolderIsCalledByNameMachineAndTime)
-{
-    const QDateTime longAgo(QDate(2024, 2, 29), QTime(14, 5));
-    EXPECT_EQ(LockOwner().description(), u"another user"_s);
-    EXPECT_EQ((LockOwner{u"anna"_s, u"kitchen-2"_s, {}}).description(), u"anna on kitchen-2"_s);
-    EXPECT_EQ((LockOwner{u"anna"_s, u"kitchen-2"_s, longAgo}).description(),
-              u"anna on kitchen-2, since "_s + QLocale().toString(longAgo, QLocale::ShortFormat));
-    EXPECT_FALSE((LockOwner{u"anna"_s, {}, longAgo}).description().contains(u" on "_s));
 }
 
 TEST_P(LocksTest, AProgramKilledWithinATransactionLeavesNothingBehind)
