@@ -6,6 +6,7 @@
 #include "controls/radiochoice.h"
 #include "controls/screenmetrics.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QShowEvent>
 
@@ -57,10 +58,15 @@ bool DialogScreen::event(QEvent *event)
     return QDialog::event(event);
 }
 
+// A dialog that closes right after a message over it leaves some window managers without a window that would be next.
 void DialogScreen::done(int result)
 {
-    if (!isHeldByDialog(this))
-        QDialog::done(result);
+    if (isHeldByDialog(this))
+        return;
+    QWidget *opener = QApplication::applicationState() == Qt::ApplicationActive ? parentWidget() : nullptr;
+    QDialog::done(result);
+    if (opener && opener->window()->isVisible())
+        opener->window()->activateWindow();
 }
 
 void DialogScreen::showEvent(QShowEvent *event)

@@ -14,7 +14,8 @@ class DialogScreen : public QDialog
 
 public:
     const Guard &guard() const { return m_guard; }
-    void done(int result) override; // not while a box stands over it
+    // Not while a box stands over it. The window that it was opened from takes the keys again.
+    void done(int result) override;
 
 protected:
     DialogScreen(ScreenContext &context, QWidget *parent);
