@@ -210,7 +210,7 @@ TEST_F(ReceiptScreenTest, aDateFarAwayIsAskedAboutOnce)
 
 TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
 {
-    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
+    kitchen.addReceipt(7, 1, 2, {{1, 123'457, 3.0}});
     open(7);
     kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s); // by another user, unseen so far
     type("V2");
@@ -225,6 +225,9 @@ TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
     grid->setFocus();
     press(Qt::Key_PageDown);
     EXPECT_EQ(grid->model()->rowCount(), 1);
+    grid->setColumnWidth(2, 5000); // so that there is no width to share
+    grid->setColumnWidth(0, 30);
+    EXPECT_EQ(child<QLabel>(*screen, "lblFigures")->text(), u"Quantity: 123,457"_s);
     press(Qt::Key_Escape);
     settle();
     EXPECT_FALSE(screen);
