@@ -187,4 +187,14 @@ TEST_P(SchemaTest, ATableThatOthersHaveOpenIsNotChanged)
     EXPECT_FALSE(database.differs(layout));
 }
 
+TEST_P(SchemaTest, ADatabaseIsToldFromAllOthers)
+{
+    const QString identity = database.identity();
+    EXPECT_FALSE(identity.isEmpty());
+    EXPECT_EQ(store.anotherUser()->database.identity(), identity);
+    EXPECT_NE(TestStore(GetParam()).database().identity(), identity);
+    database.close();
+    EXPECT_EQ(database.identity(), identity);
+}
+
 ON_BOTH_STORES(SchemaTest);
