@@ -1,5 +1,6 @@
 #include "data/layouts.h"
 
+#include "data/fields.h"
 #include "data/texts.h"
 
 #include <utility>
@@ -12,13 +13,12 @@ using Engine::TableLayout;
 
 const TableLayout &reportParameters()
 {
-    using enum Engine::FieldType;
     static const TableLayout layout{
         u"MemTableARReportParameters"_s,
         {
-            {u"Delivery_Date"_s, Date},
-            {u"Services"_s, Text, 250},
-            {u"Routes"_s, Text, 250},
+            Fields::Delivery_Date,
+            Fields::Services.sized(250),
+            Fields::Routes.sized(250),
         },
         {},
     };

@@ -1,11 +1,12 @@
 #include "data/layouts.h"
 
+#include "data/fields.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere::Layouts {
 
 using Engine::TableLayout;
-using enum Engine::FieldType;
 using enum Engine::IndexOption;
 
 const TableLayout &iReceipt()
@@ -13,15 +14,15 @@ const TableLayout &iReceipt()
     static const TableLayout layout{
         u"IReceipt"_s,
         {
-            {u"ReceiptID"_s, Integer},
-            {u"ReceiptNo"_s, Text, 10},
-            {u"GLYear"_s, SmallInt},
-            {u"GLPeriod"_s, SmallInt},
-            {u"ReceiptDate"_s, Date},
-            {u"PurchaseOrderNo"_s, Text, 10},
-            {u"VendorID"_s, Integer},
-            {u"WarehouseID"_s, Integer},
-            {u"Posted"_s, Boolean},
+            Fields::ReceiptID,
+            Fields::ReceiptNo.sized(10),
+            Fields::GLYear,
+            Fields::GLPeriod,
+            Fields::ReceiptDate,
+            Fields::PurchaseOrderNo.sized(10),
+            Fields::VendorID,
+            Fields::WarehouseID,
+            Fields::Posted,
         },
         {
             {{}, u"ReceiptID"_s, Primary},
@@ -39,11 +40,11 @@ const TableLayout &iRecDet()
     static const TableLayout layout{
         u"IRecDet"_s,
         {
-            {u"ReceiptID"_s, Integer},
-            {u"Seq"_s, Integer},
-            {u"ItemID"_s, Integer},
-            {u"QtyReceived"_s, Float},
-            {u"UnitCost"_s, Money},
+            Fields::ReceiptID,
+            Fields::Seq,
+            Fields::ItemID,
+            Fields::QtyReceived,
+            Fields::UnitCost,
         },
         {
             {{}, u"ReceiptID;Seq"_s, Primary},
@@ -58,23 +59,23 @@ const TableLayout &iUsage()
     static const TableLayout layout{
         u"IUsage"_s,
         {
-            {u"UsageID"_s, Integer},
-            {u"CustomerID"_s, Integer},
-            {u"UsageNo"_s, Text, 10},
-            {u"WarehouseID"_s, Integer},
-            {u"Description"_s, Text, 60},
-            {u"InventoryDate"_s, Date},
-            {u"InvoiceAmount"_s, Money},
-            {u"PaidAmount"_s, Money},
-            {u"DiscTakenAmount"_s, Money},
-            {u"WriteOffAmount"_s, Money},
-            {u"Owing"_s, Money},
-            {u"PurchaseOrderNo"_s, Text, 10},
-            {u"GLPeriod"_s, SmallInt},
-            {u"GLYear"_s, SmallInt},
-            {u"Printed"_s, Boolean},
-            {u"Posted"_s, Boolean},
-            {u"ExchangeRate"_s, Float},
+            Fields::UsageID,
+            Fields::CustomerID,
+            Fields::UsageNo.sized(10),
+            Fields::WarehouseID,
+            Fields::Description.sized(60),
+            Fields::InventoryDate,
+            Fields::InvoiceAmount,
+            Fields::PaidAmount,
+            Fields::DiscTakenAmount,
+            Fields::WriteOffAmount,
+            Fields::Owing,
+            Fields::PurchaseOrderNo.sized(10),
+            Fields::GLPeriod,
+            Fields::GLYear,
+            Fields::Printed,
+            Fields::Posted,
+            Fields::ExchangeRate,
         },
         {
             {{}, u"UsageID"_s, Primary},
@@ -96,13 +97,13 @@ const TableLayout &iUsageDet()
     static const TableLayout layout{
         u"IUsageDet"_s,
         {
-            {u"UsageID"_s, Integer},
-            {u"Seq"_s, Integer},
-            {u"Quantity"_s, Float},
-            {u"ItemID"_s, Integer},
-            {u"UnitCost"_s, Money},
-            {u"TaxCodes"_s, Text, 3},
-            {u"ItemOvDesc"_s, Text, 50},
+            Fields::UsageID,
+            Fields::Seq,
+            Fields::Quantity,
+            Fields::ItemID,
+            Fields::UnitCost,
+            Fields::TaxCodes.sized(3),
+            Fields::ItemOvDesc.sized(50),
         },
         {
             {{}, u"UsageID;Seq"_s, Primary},
@@ -117,13 +118,13 @@ const TableLayout &usage()
     static const TableLayout layout{
         u"Usage"_s,
         {
-            {u"UsageID"_s, Integer},
-            {u"Seq"_s, Integer},
-            {u"Quantity"_s, Float},
-            {u"ItemID"_s, Integer},
-            {u"UnitPrice"_s, Money},
-            {u"TaxCodes"_s, Text, 3},
-            {u"ItemOvDesc"_s, Text, 40},
+            Fields::UsageID,
+            Fields::Seq,
+            Fields::Quantity,
+            Fields::ItemID,
+            Fields::UnitPrice,
+            Fields::TaxCodes.sized(3),
+            Fields::ItemOvDesc.sized(40),
         },
         {
             {{}, u"UsageID;Seq"_s, Primary},
@@ -138,13 +139,13 @@ const TableLayout &iAdjust()
     static const TableLayout layout{
         u"IAdjust"_s,
         {
-            {u"AdjustmentID"_s, Integer},
-            {u"GLYear"_s, SmallInt},
-            {u"GLPeriod"_s, SmallInt},
-            {u"AdjDate"_s, Date},
-            {u"AdjDescription"_s, Text, 50},
-            {u"WarehouseID"_s, Integer},
-            {u"Posted"_s, Boolean},
+            Fields::AdjustmentID,
+            Fields::GLYear,
+            Fields::GLPeriod,
+            Fields::AdjDate,
+            Fields::AdjDescription.sized(50),
+            Fields::WarehouseID,
+            Fields::Posted,
         },
         {
             {{}, u"AdjustmentID"_s, Primary},
@@ -161,10 +162,10 @@ const TableLayout &iAdjDet()
     static const TableLayout layout{
         u"IAdjDet"_s,
         {
-            {u"AdjustmentID"_s, Integer},
-            {u"Seq"_s, Integer},
-            {u"ItemID"_s, Integer},
-            {u"Quantity"_s, Float},
+            Fields::AdjustmentID,
+            Fields::Seq,
+            Fields::ItemID,
+            Fields::Quantity,
         },
         {
             {{}, u"AdjustmentID;Seq"_s, Primary},
@@ -179,20 +180,20 @@ const TableLayout &iHist()
     static const TableLayout layout{
         u"IHist"_s,
         {
-            {u"IHistID"_s, AutoInc},
-            {u"ItemID"_s, Integer},
-            {u"WarehouseID"_s, Integer},
-            {u"GLYear"_s, SmallInt},
-            {u"GLPeriod"_s, SmallInt},
-            {u"TransType"_s, SmallInt},
-            {u"TransDate"_s, Date},
-            {u"Quantity"_s, Float},
-            {u"UnitCost"_s, Money},
-            {u"TransDescription"_s, Text, 50},
-            {u"ReceiptID"_s, Integer},
-            {u"AdjustmentID"_s, Integer},
-            {u"ARInvoiceID"_s, Integer},
-            {u"UsageID"_s, Integer},
+            Fields::IHistID,
+            Fields::ItemID,
+            Fields::WarehouseID,
+            Fields::GLYear,
+            Fields::GLPeriod,
+            Fields::TransType,
+            Fields::TransDate,
+            Fields::Quantity,
+            Fields::UnitCost,
+            Fields::TransDescription.sized(50),
+            Fields::ReceiptID,
+            Fields::AdjustmentID,
+            Fields::ARInvoiceID,
+            Fields::UsageID,
         },
         {
             {{}, u"IHistID"_s, Primary},
@@ -215,9 +216,9 @@ const TableLayout &iBalance()
     static const TableLayout layout{
         u"IBalance"_s,
         {
-            {u"ItemID"_s, Integer},
-            {u"WarehouseID"_s, Integer},
-            {u"QtyOnHand"_s, Float},
+            Fields::ItemID,
+            Fields::WarehouseID,
+            Fields::QtyOnHand,
         },
         {
             {{}, u"ItemID;WarehouseID"_s, Primary},
@@ -233,10 +234,10 @@ const TableLayout &iDocSaved()
     static const TableLayout layout{
         u"IDocSaved"_s,
         {
-            {u"TransType"_s, SmallInt},
-            {u"DocumentID"_s, Integer},
-            {u"SavedBy"_s, Text, 50},
-            {u"SavedAt"_s, DateTime},
+            Fields::TransType,
+            Fields::DocumentID,
+            Fields::SavedBy.sized(50),
+            Fields::SavedAt,
         },
         {
             {{}, u"TransType;DocumentID"_s, Primary},

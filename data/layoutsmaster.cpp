@@ -1,11 +1,12 @@
 #include "data/layouts.h"
 
+#include "data/fields.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere::Layouts {
 
 using Engine::TableLayout;
-using enum Engine::FieldType;
 using enum Engine::IndexOption;
 
 const TableLayout &item()
@@ -13,19 +14,19 @@ const TableLayout &item()
     static const TableLayout layout{
         u"Item"_s,
         {
-            {u"ItemID"_s, Integer},
-            {u"ItemNo"_s, Text, 20},
-            {u"ItemDescription"_s, Text, 40},
-            {u"SalesGLAccountID"_s, Integer},
-            {u"COGSGLAccountID"_s, Integer},
-            {u"InventoryGLAccountID"_s, Integer},
-            {u"TaxCodes"_s, Text, 3},
-            {u"UnitPrice"_s, Money},
-            {u"WgtAvgCost"_s, Money},
-            {u"StandardCost"_s, Money},
-            {u"Suspended"_s, Boolean},
-            {u"Notes"_s, Memo},
-            {u"ItemTypeID"_s, Integer},
+            Fields::ItemID,
+            Fields::ItemNo.sized(20),
+            Fields::ItemDescription.sized(40),
+            Fields::SalesGLAccountID,
+            Fields::COGSGLAccountID,
+            Fields::InventoryGLAccountID,
+            Fields::TaxCodes.sized(3),
+            Fields::UnitPrice,
+            Fields::WgtAvgCost,
+            Fields::StandardCost,
+            Fields::Suspended,
+            Fields::Notes,
+            Fields::ItemTypeID,
         },
         {
             {{}, u"ItemID"_s, Primary},
@@ -45,10 +46,10 @@ const TableLayout &itemType()
     static const TableLayout layout{
         u"ItemType"_s,
         {
-            {u"ItemTypeID"_s, Integer},
-            {u"TypeName"_s, Text, 40},
-            {u"Inventory"_s, Boolean},
-            {u"CostingMethod"_s, SmallInt},
+            Fields::ItemTypeID,
+            Fields::TypeName.sized(40),
+            Fields::Inventory,
+            Fields::CostingMethod,
         },
         {
             {{}, u"ItemTypeID"_s, Primary},
@@ -63,9 +64,9 @@ const TableLayout &warehse()
     static const TableLayout layout{
         u"Warehse"_s,
         {
-            {u"WarehouseID"_s, Integer},
-            {u"WarehouseName"_s, Text, 50},
-            {u"Location_ID"_s, Integer},
+            Fields::WarehouseID,
+            Fields::WarehouseName.sized(50),
+            Fields::Location_ID,
         },
         {
             {{}, u"WarehouseID"_s, Primary},
@@ -81,12 +82,12 @@ const TableLayout &tax()
     static const TableLayout layout{
         u"Tax"_s,
         {
-            {u"TaxID"_s, Integer},
-            {u"TaxName"_s, Text, 20},
-            {u"Rate"_s, Float},
-            {u"TaxCode"_s, Text, 1},
-            {u"TaxDescription"_s, Text, 20},
-            {u"TaxGLAccountID"_s, Integer},
+            Fields::TaxID,
+            Fields::TaxName.sized(20),
+            Fields::Rate,
+            Fields::TaxCode.sized(1),
+            Fields::TaxDescription.sized(20),
+            Fields::TaxGLAccountID,
         },
         {
             {{}, u"TaxID"_s, Primary},
@@ -102,15 +103,15 @@ const TableLayout &currency()
     static const TableLayout layout{
         u"Currency"_s,
         {
-            {u"CurrencyID"_s, Integer},
-            {u"CurrencyName"_s, Text, 20},
-            {u"ExchangeRate"_s, Float},
-            {u"GainLossExchangeGLAccntID"_s, Integer},
-            {u"APGLAccountID"_s, Integer},
-            {u"APDiscGLAccountID"_s, Integer},
-            {u"ARGLAccountID"_s, Integer},
-            {u"ARDiscGLAccountID"_s, Integer},
-            {u"DfltWriteOffGLAccountID"_s, Integer},
+            Fields::CurrencyID,
+            Fields::CurrencyName.sized(20),
+            Fields::ExchangeRate,
+            Fields::GainLossExchangeGLAccntID,
+            Fields::APGLAccountID,
+            Fields::APDiscGLAccountID,
+            Fields::ARGLAccountID,
+            Fields::ARDiscGLAccountID,
+            Fields::DfltWriteOffGLAccountID,
         },
         {
             {{}, u"CurrencyID"_s, Primary},
@@ -131,10 +132,10 @@ const TableLayout &bank()
     static const TableLayout layout{
         u"Bank"_s,
         {
-            {u"BankID"_s, Integer},
-            {u"BankName"_s, Text, 40},
-            {u"BankGLAccountID"_s, Integer},
-            {u"CurrencyID"_s, Integer},
+            Fields::BankID,
+            Fields::BankName.sized(40),
+            Fields::BankGLAccountID,
+            Fields::CurrencyID,
         },
         {
             {{}, u"BankID"_s, Primary},
@@ -151,12 +152,12 @@ const TableLayout &glAccnt()
     static const TableLayout layout{
         u"GLAccnt"_s,
         {
-            {u"GLAccountID"_s, Integer},
-            {u"GLAccount"_s, Text, 10},
-            {u"AccountName"_s, Text, 50},
-            {u"Notes"_s, Memo},
-            {u"AccountType"_s, SmallInt},
-            {u"Suspended"_s, Boolean},
+            Fields::GLAccountID,
+            Fields::GLAccount.sized(10),
+            Fields::AccountName.sized(50),
+            Fields::Notes,
+            Fields::AccountType,
+            Fields::Suspended,
         },
         {
             {{}, u"GLAccountID"_s, Primary},
@@ -172,42 +173,42 @@ const TableLayout &company()
     static const TableLayout layout{
         u"Company"_s,
         {
-            {u"CompanyNo"_s, SmallInt},
-            {u"CompanyName"_s, Text, 40},
-            {u"FiscalYear"_s, SmallInt},
-            {u"DefaultPeriodYYYY"_s, SmallInt},
-            {u"DefaultPeriodPP"_s, SmallInt},
-            {u"WPeriodFromYYYY"_s, SmallInt},
-            {u"WPeriodFromPP"_s, SmallInt},
-            {u"WPeriodToYYYY"_s, SmallInt},
-            {u"WPeriodToPP"_s, SmallInt},
-            {u"EPeriodFromYYYY"_s, SmallInt},
-            {u"EPeriodFromPP"_s, SmallInt},
-            {u"EPeriodToYYYY"_s, SmallInt},
-            {u"EPeriodToPP"_s, SmallInt},
-            {u"DefaultCurrencyID"_s, Integer},
-            {u"Notes"_s, Memo},
-            {u"APInvPONumbers"_s, Boolean},
-            {u"APInvDescriptions"_s, Boolean},
-            {u"DfltSalesGLAccountID"_s, Integer},
-            {u"DfltCOGSGLAccountID"_s, Integer},
-            {u"DfltInventoryGLAccountID"_s, Integer},
-            {u"AddressLine1"_s, Text, 35},
-            {u"AddressLine2"_s, Text, 35},
-            {u"AddressLine3"_s, Text, 35},
-            {u"Phone"_s, Text, 20},
-            {u"TaxNo"_s, Text, 35},
-            {u"ARInvoiceMessage"_s, Text, 120},
-            {u"ARInvoiceStyle"_s, SmallInt},
-            {u"ARInvoiceAustralia"_s, Boolean},
-            {u"ARInvoiceCopies"_s, SmallInt},
-            {u"ApplicationVersion"_s, Text, 5},
-            {u"BackupOnExit"_s, SmallInt},
-            {u"DefaultNetDays"_s, Integer},
-            {u"ClientInvoiceLineItems"_s, Text, 1},
-            {u"FunderInvoiceLineItems"_s, Text, 1},
-            {u"FunderInvoiceFormat"_s, Text, 1},
-            {u"InvoiceFormat"_s, Text, 1},
+            Fields::CompanyNo,
+            Fields::CompanyName.sized(40),
+            Fields::FiscalYear,
+            Fields::DefaultPeriodYYYY,
+            Fields::DefaultPeriodPP,
+            Fields::WPeriodFromYYYY,
+            Fields::WPeriodFromPP,
+            Fields::WPeriodToYYYY,
+            Fields::WPeriodToPP,
+            Fields::EPeriodFromYYYY,
+            Fields::EPeriodFromPP,
+            Fields::EPeriodToYYYY,
+            Fields::EPeriodToPP,
+            Fields::DefaultCurrencyID,
+            Fields::Notes,
+            Fields::APInvPONumbers,
+            Fields::APInvDescriptions,
+            Fields::DfltSalesGLAccountID,
+            Fields::DfltCOGSGLAccountID,
+            Fields::DfltInventoryGLAccountID,
+            Fields::AddressLine1.sized(35),
+            Fields::AddressLine2.sized(35),
+            Fields::AddressLine3.sized(35),
+            Fields::Phone.sized(20),
+            Fields::TaxNo.sized(35),
+            Fields::ARInvoiceMessage.sized(120),
+            Fields::ARInvoiceStyle,
+            Fields::ARInvoiceAustralia,
+            Fields::ARInvoiceCopies,
+            Fields::ApplicationVersion.sized(5),
+            Fields::BackupOnExit,
+            Fields::DefaultNetDays,
+            Fields::ClientInvoiceLineItems.sized(1),
+            Fields::FunderInvoiceLineItems.sized(1),
+            Fields::FunderInvoiceFormat.sized(1),
+            Fields::InvoiceFormat.sized(1),
         },
         {
             {{}, u"CompanyNo"_s, Primary},

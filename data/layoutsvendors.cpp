@@ -1,12 +1,13 @@
 #include "data/layouts.h"
 
+#include "data/fields.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere::Layouts {
 
 using Engine::FieldDef;
 using Engine::TableLayout;
-using enum Engine::FieldType;
 using enum Engine::IndexOption;
 
 namespace {
@@ -15,19 +16,19 @@ namespace {
 QList<FieldDef> personFields()
 {
     return {
-        {u"LastName"_s, Text, 30},
-        {u"FirstName"_s, Text, 30},
-        {u"JobTitle"_s, Text, 40},
-        {u"BusinessPhone"_s, Text, 20},
-        {u"BusinessPhoneExt"_s, Text, 10},
-        {u"BusinessPhone2"_s, Text, 20},
-        {u"BusinessPhone2Ext"_s, Text, 10},
-        {u"HomePhone"_s, Text, 20},
-        {u"Fax"_s, Text, 20},
-        {u"Cellular"_s, Text, 20},
-        {u"Pager"_s, Text, 20},
-        {u"EMail"_s, Text, 40},
-        {u"Notes"_s, Memo},
+        Fields::LastName.sized(30),
+        Fields::FirstName.sized(30),
+        Fields::JobTitle.sized(40),
+        Fields::BusinessPhone.sized(20),
+        Fields::BusinessPhoneExt.sized(10),
+        Fields::BusinessPhone2.sized(20),
+        Fields::BusinessPhone2Ext.sized(10),
+        Fields::HomePhone.sized(20),
+        Fields::Fax.sized(20),
+        Fields::Cellular.sized(20),
+        Fields::Pager.sized(20),
+        Fields::EMail.sized(40),
+        Fields::Notes,
     };
 }
 
@@ -38,29 +39,29 @@ const TableLayout &vendor()
     static const TableLayout layout{
         u"Vendor"_s,
         {
-            {u"VendorID"_s, Integer},
-            {u"VendorNo"_s, Text, 10},
-            {u"VendorName"_s, Text, 40},
-            {u"AddressLine1"_s, Text, 35},
-            {u"AddressLine2"_s, Text, 35},
-            {u"City"_s, Text, 35},
-            {u"StateProv"_s, Text, 20},
-            {u"ZipCode"_s, Text, 10},
-            {u"Country"_s, Text, 20},
-            {u"Contact"_s, Text, 40},
-            {u"Phone"_s, Text, 20},
-            {u"Fax"_s, Text, 20},
-            {u"EMail"_s, Text, 40},
-            {u"WebPage"_s, Text, 30},
-            {u"Notes"_s, Memo},
-            {u"TaxNo"_s, Text, 12},
-            {u"DefaultInvDescription"_s, Text, 40},
-            {u"DiscPC"_s, Float},
-            {u"DiscDays"_s, SmallInt},
-            {u"NetDays"_s, SmallInt},
-            {u"DelayDays"_s, SmallInt},
-            {u"CurrencyID"_s, Integer},
-            {u"Suspended"_s, Boolean},
+            Fields::VendorID,
+            Fields::VendorNo.sized(10),
+            Fields::VendorName.sized(40),
+            Fields::AddressLine1.sized(35),
+            Fields::AddressLine2.sized(35),
+            Fields::City.sized(35),
+            Fields::StateProv.sized(20),
+            Fields::ZipCode.sized(10),
+            Fields::Country.sized(20),
+            Fields::Contact.sized(40),
+            Fields::Phone.sized(20),
+            Fields::Fax.sized(20),
+            Fields::EMail.sized(40),
+            Fields::WebPage.sized(30),
+            Fields::Notes,
+            Fields::TaxNo.sized(12),
+            Fields::DefaultInvDescription.sized(40),
+            Fields::DiscPC,
+            Fields::DiscDays,
+            Fields::NetDays,
+            Fields::DelayDays,
+            Fields::CurrencyID,
+            Fields::Suspended,
         },
         {
             {{}, u"VendorID"_s, Primary},
@@ -76,7 +77,7 @@ const TableLayout &vContact()
 {
     static const TableLayout layout{
         u"VContact"_s,
-        QList<FieldDef>{{u"VendorID"_s, Integer}, {u"ContactID"_s, AutoInc}} + personFields(),
+        QList<FieldDef>{Fields::VendorID, Fields::ContactID} + personFields(),
         {
             {{}, u"VendorID;ContactID"_s, Primary},
             {u"FULLNAME"_s, u"LastName;FirstName"_s, CaseInsensitive},
@@ -90,7 +91,7 @@ const TableLayout &salesman()
 {
     static const TableLayout layout{
         u"Salesman"_s,
-        QList<FieldDef>{{u"SalesmanID"_s, Integer}} + personFields(),
+        QList<FieldDef>{Fields::SalesmanID} + personFields(),
         {
             {{}, u"SalesmanID"_s, Primary},
             {u"FULLNAME"_s, u"LastName;FirstName"_s, CaseInsensitive},
@@ -104,8 +105,8 @@ const TableLayout &vBalance()
     static const TableLayout layout{
         u"VBalance"_s,
         {
-            {u"VendorID"_s, Integer},
-            {u"Balance"_s, Money},
+            Fields::VendorID,
+            Fields::Balance,
         },
         {
             {{}, u"VendorID"_s, Primary},
@@ -119,11 +120,11 @@ const TableLayout &itemCtl()
     static const TableLayout layout{
         u"ItemCtl"_s,
         {
-            {u"NextItemNo"_s, Integer},
-            {u"NextItemID"_s, Integer},
-            {u"NextInvAdjustmentID"_s, Integer},
-            {u"NextInvReceiptID"_s, Integer},
-            {u"NextInvReceiptNo"_s, Integer},
+            Fields::NextItemNo,
+            Fields::NextItemID,
+            Fields::NextInvAdjustmentID,
+            Fields::NextInvReceiptID,
+            Fields::NextInvReceiptNo,
         },
         {},
     };
@@ -135,8 +136,8 @@ const TableLayout &vendCtl()
     static const TableLayout layout{
         u"VendCtl"_s,
         {
-            {u"NextVendorNo"_s, Integer},
-            {u"NextVendorID"_s, Integer},
+            Fields::NextVendorNo,
+            Fields::NextVendorID,
         },
         {},
     };
@@ -148,8 +149,8 @@ const TableLayout &arInvCtl()
     static const TableLayout layout{
         u"ARInvCtl"_s,
         {
-            {u"NextInvoiceID"_s, Integer},
-            {u"NextInvoiceNo"_s, Integer},
+            Fields::NextInvoiceID,
+            Fields::NextInvoiceNo,
         },
         {},
     };

@@ -1,5 +1,6 @@
 #include "transactions/adjustmententry.h"
 
+#include "data/fields.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
 
@@ -15,13 +16,13 @@ AdjustmentEntry::AdjustmentEntry(Engine::Database &database, Prompts &prompts)
 void AdjustmentEntry::configureFields()
 {
     DocumentEntry::configureFields();
-    header().field(u"AdjDescription").label = TransactionsTexts::tr("Description");
+    header().field(Fields::AdjDescription).label = TransactionsTexts::tr("Description");
 }
 
 void AdjustmentEntry::stepDate(int days)
 {
-    const QDate date = header().date(u"AdjDate");
-    chooseInHeader(u"AdjDate"_s, (date.isValid() ? date : today()).addDays(days));
+    const QDate date = header().date(Fields::AdjDate);
+    chooseInHeader(Fields::AdjDate, (date.isValid() ? date : today()).addDays(days));
 }
 
 } // namespace Tallymere

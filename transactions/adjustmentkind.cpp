@@ -1,3 +1,4 @@
+#include "data/fields.h"
 #include "transactions/adjustmententry.h"
 #include "transactions/adjustmentposting.h"
 #include "transactions/documentkinds.h"
@@ -14,13 +15,13 @@ const DocumentKind &DocumentKinds::adjustment()
         .oneName = u"adjustment"_s,
         .headerTable = u"IAdjust"_s,
         .lineTable = u"IAdjDet"_s,
-        .keyField = u"AdjustmentID"_s,
+        .keyField = Fields::AdjustmentID,
         .numberField = std::nullopt,
-        .dateField = u"AdjDate"_s,
+        .dateField = Fields::AdjDate,
         .entry =
             {
                 .screen = u"frmInvAdjustment"_s,
-                .counters = {u"ItemCtl"_s, u"NextInvAdjustmentID"_s, std::nullopt},
+                .counters = {u"ItemCtl"_s, Fields::NextInvAdjustmentID, std::nullopt},
                 .title = TransactionsTexts::tr("Inventory Adjustment %1"),
                 .newTitle = TransactionsTexts::tr("New Inventory Adjustment"),
                 .postedRefusal = TransactionsTexts::tr(
@@ -30,10 +31,12 @@ const DocumentKind &DocumentKinds::adjustment()
                 .closingQuestion = TransactionsTexts::tr("Do you want to save changes?"),
                 .nothingEntered = TransactionsTexts::tr("Quantities have not been entered"),
                 .locationGone = TransactionsTexts::tr("Location no longer exists"),
-                .requiredFields = {u"GLYear"_s, u"GLPeriod"_s, u"AdjDate"_s, u"AdjDescription"_s, u"WarehouseID"_s},
-                .lineColumns = {{u"Quantity"_s, TransactionsTexts::tr("Quantity"), 100, Qt::AlignRight},
-                                {u"ItemNo"_s, TransactionsTexts::tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
-                                {u"ItemDescription"_s, TransactionsTexts::tr("Description"), 450}},
+                .requiredFields = {Fields::GLYear, Fields::GLPeriod, Fields::AdjDate, Fields::AdjDescription,
+                                   Fields::WarehouseID},
+                .lineColumns = {{Fields::Quantity, TransactionsTexts::tr("Quantity"), 100, Qt::AlignRight},
+                                {Fields::ItemNo, TransactionsTexts::tr("Item no."), 130, Qt::AlignLeft,
+                                 Fields::ItemID},
+                                {Fields::ItemDescription, TransactionsTexts::tr("Description"), 450}},
                 .make = [](Engine::Database &database,
                            Prompts &prompts) { return std::make_unique<AdjustmentEntry>(database, prompts); },
                 .leadsListUnsaved = true,
@@ -43,10 +46,10 @@ const DocumentKind &DocumentKinds::adjustment()
                 .screen = u"frmInvAdjustments"_s,
                 .caption = TransactionsTexts::tr("Inventory Adjustments"),
                 .columns = {{u"Periodppyyyy"_s, TransactionsTexts::tr("Period"), 80},
-                            {u"AdjDate"_s, TransactionsTexts::tr("Date"), 90},
-                            {u"AdjDescription"_s, TransactionsTexts::tr("Description"), 260},
-                            {u"WarehouseName"_s, TransactionsTexts::tr("Location"), 190},
-                            {u"Posted"_s, TransactionsTexts::tr("Posted"), 60}},
+                            {Fields::AdjDate, TransactionsTexts::tr("Date"), 90},
+                            {Fields::AdjDescription, TransactionsTexts::tr("Description"), 260},
+                            {Fields::WarehouseName, TransactionsTexts::tr("Location"), 190},
+                            {Fields::Posted, TransactionsTexts::tr("Posted"), 60}},
                 .orders = {{u"PERIODDATEDESC"_s}},
                 .showsFirstRow = true,
                 .report = u"TrptInvAdjustments"_s,
@@ -57,14 +60,14 @@ const DocumentKind &DocumentKinds::adjustment()
                         .notPosted = u"(Posted = false)"_s,
                     },
                 .deleting = {.question = TransactionsTexts::tr("Delete adjustment '%1'?"),
-                             .nameField = u"AdjDescription"_s,
+                             .nameField = Fields::AdjDescription,
                              .posted = TransactionsTexts::tr(
                                  "Unable to delete adjustment '%1'...\nIt has already been posted")},
             },
         .posting = adjustmentPosting(),
         .files =
             {
-                .requiredColumns = {u"AdjDescription"_s, u"Quantity"_s},
+                .requiredColumns = {Fields::AdjDescription, Fields::Quantity},
             },
     };
     return kind;

@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/rounding.h"
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "transactions/quantitycheck.h"
 #include "transactions/texts.h"
 
@@ -127,8 +128,8 @@ void CountList::count(int row, double quantity)
 {
     if (quantity < 0)
         throw RuleError(TransactionsTexts::tr("A quantity that has been counted cannot be below zero"),
-                        u"Quantity"_s);
-    requireSensibleQuantity(quantity, u"Quantity"_s);
+                        Fields::Quantity);
+    requireSensibleQuantity(quantity, Fields::Quantity);
     at(row).typed = quantity + 0.0; // no minus sign at zero
 }
 

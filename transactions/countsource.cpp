@@ -1,5 +1,6 @@
 #include "transactions/countsource.h"
 
+#include "data/fields.h"
 #include "engine/database.h"
 #include "engine/dialect.h"
 #include "transactions/documentkinds.h"
@@ -63,7 +64,7 @@ std::vector<CountLocation> CountSource::locations() const
     Engine::Connection &connection = m_database.connection();
     const Engine::StatementPtr rows =
         connection.prepare(u"SELECT WarehouseName, WarehouseID FROM Warehse ORDER BY %1, WarehouseID"_s.arg(
-            connection.dialect().orderTerm(u"WarehouseName"_s, true, false)));
+            connection.dialect().orderTerm(Fields::WarehouseName, true, false)));
     std::vector<CountLocation> locations;
     while (rows->next())
         locations.push_back({static_cast<int>(rows->intAt(1)), rows->textAt(0)});

@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "base/typeddate.h"
+#include "data/fields.h"
 #include "data/fiscalperiod.h"
 #include "engine/error.h"
 #include "engine/query.h"
@@ -31,9 +32,10 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
         m_header.uniqueFields = {*m_kind.numberField};
     m_header.recordName = [this] { return m_kind.titleOf(m_header); };
     m_lines.recordName = [this] { return lineName(); };
-    m_lines.addLookup(u"ItemNo"_s, FieldType::Text, 20, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
-    m_lines.addLookup(u"ItemDescription"_s, FieldType::Text, 40,
-                      {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemDescription"_s});
+    m_lines.addLookup(Fields::ItemNo, FieldType::Text, 20,
+                      {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemNo});
+    m_lines.addLookup(Fields::ItemDescription, FieldType::Text, 40,
+                      {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemDescription});
     m_lines.setIndex(m_kind.keyField + ";Seq"_L1);
     m_lines.setMaster(&m_header, m_kind.keyField);
     m_header.rules = &m_headerRules;
@@ -63,14 +65,14 @@ void DocumentEntry::close()
 
 void DocumentEntry::configureFields()
 {
-    Engine::Field &year = m_header.field(u"GLYear");
+    Engine::Field &year = m_header.field(Fields::GLYear);
     year.label = TransactionsTexts::tr("Year of Period");
     year.format =
-        twoDigitYearFormat(TransactionsTexts::tr("Period invalid...\nEnter year as 2 digits"), u"GLYear"_s);
+        twoDigitYearFormat(TransactionsTexts::tr("Period invalid...\nEnter year as 2 digits"), Fields::GLYear);
 
-    Engine::Field &period = m_header.field(u"GLPeriod");
+    Engine::Field &period = m_header.field(Fields::GLPeriod);
     period.label = TransactionsTexts::tr("Period");
-    period.format = periodNumberFormat(period.label, u"GLPeriod"_s);
+    period.format = periodNumberFormat(period.label, Fields::GLPeriod);
     period.validate = [parse = period.format.parse](const Value &value) { parse(value.toText()); };
 
     Engine::Field &date = m_header.field(m_kind.dateField);
@@ -78,18 +80,18 @@ void DocumentEntry::configureFields()
     date.format = dateFormat(RegionalSettings::system(), m_kind.dateField, [this] { return today(); });
     date.format.parse = [this, parse = date.format.parse](const QString &text) { return askedDate(parse(text)); };
 
-    m_header.field(u"WarehouseID").label = TransactionsTexts::tr("Warehouse");
-    m_lines.field(u"ItemID").label = TransactionsTexts::tr("Item no.");
-    m_lines.field(u"ItemID").validate = [this](const Value &itemId) { m_check.requireUsable(itemId); };
+    m_header.field(Fields::WarehouseID).label = TransactionsTexts::tr("Warehouse");
+    m_lines.field(Fields::ItemID).label = TransactionsTexts::tr("Item no.");
+    m_lines.field(Fields::ItemID).validate = [this](const Value &itemId) { m_check.requireUsable(itemId); };
     const QString &quantity = m_kind.entry.lineColumns.constFirst().field;
     m_lines.field(quantity).label = TransactionsTexts::tr("Quantity");
     m_lines.field(quantity).format = quantityFormat(RegionalSettings::system(), quantity);
     m_lines.field(quantity).validate = [quantity](const Value &value) {
         requireSensibleQuantity(value.toDouble(), quantity);
     };
-    if (const int cost = m_lines.fieldIndex(u"UnitCost"); cost >= 0) {
+    if (const int cost = m_lines.fieldIndex(Fields::UnitCost); cost >= 0) {
         m_lines.field(cost).label = TransactionsTexts::tr("Unit Cost");
-        m_lines.field(cost).format = currencyFormat(RegionalSettings::system(), u"UnitCost"_s);
+        m_lines.field(cost).format = currencyFormat(RegionalSettings::system(), Fields::UnitCost);
     }
 }
 
@@ -157,7 +159,7 @@ void DocumentEntry::newHeader()
     beginVisit();
     assignNumbers();
     m_header.setDefault(m_kind.dateField, today());
-    m_header.setDefault(u"Posted", false);
+    m_header.setDefault(Fields::Posted, false);
     setFiscalDefaults();
     presetHeader();
 }
@@ -179,8 +181,8 @@ void DocumentEntry::assignNumbers()
 void DocumentEntry::setFiscalDefaults()
 {
     const Period period = defaultPeriod(database(), today());
-    m_header.setDefault(u"GLPeriod", period.number);
-    m_header.setDefault(u"GLYear", period.year);
+    m_header.setDefault(Fields::GLPeriod, period.number);
+    m_header.setDefault(Fields::GLYear, period.year);
 }
 
 void DocumentEntry::refusePosted() const
@@ -217,7 +219,8 @@ void DocumentEntry::checkHeader()
 void DocumentEntry::checkPeriod()
 {
     requirePeriod(FiscalSettings::readFrom(database()),
-                  {m_header.integer(u"GLYear"), m_header.integer(u"GLPeriod")}, m_prompts, u"GLPeriod"_s);
+                  {m_header.integer(Fields::GLYear), m_header.integer(Fields::GLPeriod)}, m_prompts,
+                  Fields::GLPeriod);
 }
 
 void DocumentEntry::requireHeaderField(const QString &field, const QString &column) const
@@ -244,8 +247,8 @@ void DocumentEntry::checkReferences()
 
 void DocumentEntry::requireLocation() const
 {
-    if (!Engine::hasRow(database(), u"Warehse"_s, u"WarehouseID"_s, m_header.value(u"WarehouseID")))
-        throw RuleError(m_kind.entry.locationGone, u"WarehouseID"_s);
+    if (!Engine::hasRow(database(), u"Warehse"_s, Fields::WarehouseID, m_header.value(Fields::WarehouseID)))
+        throw RuleError(m_kind.entry.locationGone, Fields::WarehouseID);
 }
 
 void DocumentEntry::requireLines() const
@@ -341,10 +344,10 @@ void DocumentEntry::lockLines()
 void DocumentEntry::beginLineChange(LineChange change)
 {
     const bool inEdit = m_header.isEditing();
-    const int seq = m_lines.integer(u"Seq");
-    const int item = m_lines.integer(u"ItemID");
+    const int seq = m_lines.integer(Fields::Seq);
+    const int item = m_lines.integer(Fields::ItemID);
     lockLines();
-    if (m_lines.integer(u"Seq") == seq && m_lines.integer(u"ItemID") == item) {
+    if (m_lines.integer(Fields::Seq) == seq && m_lines.integer(Fields::ItemID) == item) {
         m_check.storedFigures(lineCost());
         return lineChanging(change);
     }
@@ -355,17 +358,20 @@ void DocumentEntry::beginLineChange(LineChange change)
         LineGrid);
 }
 
-double DocumentEntry::lineCost() { return m_lines.fieldIndex(u"UnitCost") < 0 ? 0 : m_lines.number(u"UnitCost"); }
+double DocumentEntry::lineCost()
+{
+    return m_lines.fieldIndex(Fields::UnitCost) < 0 ? 0 : m_lines.number(Fields::UnitCost);
+}
 
 // A new line that has a number already could not be written with it.
 void DocumentEntry::numberLine()
 {
-    const bool numbered = !m_lines.value(u"Seq").isNull();
+    const bool numbered = !m_lines.value(Fields::Seq).isNull();
     if (numbered && m_lines.state() != Engine::TableState::Insert)
         return;
     if (numbered)
         m_nextSeq = std::max(m_nextSeq, highestSeq() + 1);
-    m_lines.set(u"Seq", m_nextSeq++);
+    m_lines.set(Fields::Seq, m_nextSeq++);
 }
 
 int DocumentEntry::highestSeq() const
@@ -379,7 +385,7 @@ int DocumentEntry::highestSeq() const
 QString DocumentEntry::lineName() const
 {
     const QString document = m_kind.titleOf(m_header);
-    const int seq = m_lines.integer(u"Seq");
+    const int seq = m_lines.integer(Fields::Seq);
     return seq == 0 ? document : TransactionsTexts::tr("%1, line %2").arg(document, QString::number(seq));
 }
 
@@ -389,15 +395,15 @@ void DocumentEntry::chooseItem(int itemId)
 {
     if (!m_lines.isEditing())
         m_lines.edit();
-    m_lines.set(u"ItemID", itemId);
+    m_lines.set(Fields::ItemID, itemId);
 }
 
 void DocumentEntry::chooseItemByNumber(const QString &itemNo)
 {
-    setLineColumn(u"ItemNo"_s);
+    setLineColumn(Fields::ItemNo);
     if (!m_lines.isEditing())
         m_lines.edit();
-    m_lines.set(u"ItemID", itemNo.isEmpty() ? Value() : Value(m_check.itemByNumber(itemNo)));
+    m_lines.set(Fields::ItemID, itemNo.isEmpty() ? Value() : Value(m_check.itemByNumber(itemNo)));
 }
 
 bool DocumentEntry::goToLineOf(int itemId, double quantity)
@@ -405,7 +411,7 @@ bool DocumentEntry::goToLineOf(int itemId, double quantity)
     if (m_lines.isEditing())
         return false;
     const QString both = u"ItemID;"_s + m_kind.entry.lineColumns.constFirst().field;
-    return m_lines.locate(both, {itemId, quantity}) || m_lines.locate(u"ItemID"_s, {itemId});
+    return m_lines.locate(both, {itemId, quantity}) || m_lines.locate(Fields::ItemID, {itemId});
 }
 
 void DocumentEntry::newLine() { m_lines.insert(); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/prompts.h"
+#include "data/fields.h"
 #include "data/numbercounter.h"
 #include "engine/database.h"
 #include "engine/session.h"
@@ -50,7 +51,7 @@ public:
     const Engine::Table &header() const { return m_header; }
     const Engine::Table &lines() const { return m_lines; }
     int key() const { return m_header.integer(m_kind.keyField); }
-    bool isPosted() const { return m_header.boolean(u"Posted"); }
+    bool isPosted() const { return m_header.boolean(Fields::Posted); }
 
     // Saves what is being edited: header and line, after their checks. Raises RuleError, with both left in edit,
     // when one of them refuses.

@@ -1,12 +1,14 @@
 #include "transactions/documentfilter.h"
 
+#include "data/fields.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 QString documentFilter(const ListFilter &filter, const QString &notPosted)
 {
-    return joinConditions({keyCondition(u"WarehouseID"_s, filter.key),
+    return joinConditions({keyCondition(Fields::WarehouseID, filter.key),
                            markCondition(filter.marked, u"(Posted = true)"_s, notPosted)});
 }
 

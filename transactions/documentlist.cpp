@@ -2,6 +2,7 @@
 
 #include "base/formats.h"
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "engine/database.h"
 #include "engine/linetext.h"
 
@@ -17,10 +18,10 @@ DocumentList::DocumentList(Engine::Database &database, const DocumentKind &kind)
     table().recordName = [this] { return m_kind.titleOf(table()); };
     setOrder(m_kind.list.orders.constFirst());
     table().addCalculated(u"Periodppyyyy"_s, FieldType::Text, 8, [](const Engine::DataSet &row) {
-        return Engine::Value(row.text(u"GLPeriod") + u'/' + row.text(u"GLYear"));
+        return Engine::Value(row.text(Fields::GLPeriod) + u'/' + row.text(Fields::GLYear));
     });
-    table().addLookup(u"WarehouseName"_s, FieldType::Text, 50,
-                      {u"WarehouseID"_s, u"Warehse"_s, u"WarehouseID"_s, u"WarehouseName"_s});
+    table().addLookup(Fields::WarehouseName, FieldType::Text, 50,
+                      {Fields::WarehouseID, u"Warehse"_s, Fields::WarehouseID, Fields::WarehouseName});
     if (m_kind.list.addFields)
         m_kind.list.addFields(table());
 }
@@ -46,7 +47,7 @@ QString DocumentList::postedText() const { return m_kind.list.deleting.posted.ar
 
 void DocumentList::refuseIfPosted(const QString &refusal) const
 {
-    if (table().boolean(u"Posted"))
+    if (table().boolean(Fields::Posted))
         throw RuleError(refusal);
 }
 
@@ -78,7 +79,7 @@ void DocumentList::removeWithLines()
 void DocumentList::refuseAsStored()
 {
     table().edit();
-    const bool isPosted = table().boolean(u"Posted");
+    const bool isPosted = table().boolean(Fields::Posted);
     table().cancel();
     if (isPosted)
         throw RuleError(postedText());

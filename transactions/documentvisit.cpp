@@ -1,6 +1,7 @@
 #include "transactions/documentvisit.h"
 
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "engine/database.h"
 #include "engine/error.h"
 #include "engine/lockmanager.h"
@@ -116,22 +117,22 @@ Engine::Row DocumentVisit::currentLine() const
 void DocumentVisit::write(const Engine::RecordRules::Step &save)
 {
     if (m_kept)
-        m_kept->changing(m_lines.integer(u"Seq"), currentLine());
+        m_kept->changing(m_lines.integer(Fields::Seq), currentLine());
     try {
         save();
     } catch (const Engine::EngineError &error) {
         const bool isRefused = m_lines.isEditing() && error.code() != ErrorCode::ConnectionLost;
         if (m_kept && isRefused)
-            m_kept->refused(m_lines.integer(u"Seq"));
+            m_kept->refused(m_lines.integer(Fields::Seq));
         throw;
     }
     if (m_kept)
-        m_kept->changed(m_lines.integer(u"Seq"), currentLine());
+        m_kept->changed(m_lines.integer(Fields::Seq), currentLine());
 }
 
 void DocumentVisit::remove(const Engine::RecordRules::Step &erase)
 {
-    const int seq = m_lines.integer(u"Seq");
+    const int seq = m_lines.integer(Fields::Seq);
     if (m_kept)
         m_kept->changing(seq, {});
     erase();
@@ -192,11 +193,11 @@ void DocumentVisit::writeKeptLines(const FillLine &fill)
     Engine::Transaction transaction(m_lines.database().connection());
     m_lines.removeAll();
     for (const Engine::Row &kept : m_kept->rows()) {
-        if (kept[static_cast<size_t>(m_lines.fieldIndex(u"Seq"))].toInt() == 0)
+        if (kept[static_cast<size_t>(m_lines.fieldIndex(Fields::Seq))].toInt() == 0)
             continue;
         m_lines.insert();
         fill(kept);
-        m_kept->restoring(m_lines.integer(u"Seq"), currentLine());
+        m_kept->restoring(m_lines.integer(Fields::Seq), currentLine());
         m_lines.post();
     }
     transaction.commit();

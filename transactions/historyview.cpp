@@ -2,6 +2,7 @@
 
 #include "base/formats.h"
 #include "base/listfilter.h"
+#include "data/fields.h"
 #include "data/transtypes.h"
 #include "transactions/documentkinds.h"
 
@@ -16,34 +17,35 @@ HistoryView::HistoryView(Engine::Database &database)
 {
     m_table.setIndex(u"PERIODDATEDESC"_s);
     m_table.addCalculated(u"Periodppyyyy"_s, FieldType::Text, 8, [](const Engine::DataSet &row) {
-        return Value(periodText(row.integer(u"GLPeriod"), row.integer(u"GLYear")));
+        return Value(periodText(row.integer(Fields::GLPeriod), row.integer(Fields::GLYear)));
     });
-    m_table.addLookup(u"ItemNo"_s, FieldType::Text, 20, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
-    m_table.addLookup(u"ItemDescription"_s, FieldType::Text, 40,
-                      {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemDescription"_s});
-    m_table.addLookup(u"WarehouseName"_s, FieldType::Text, 50,
-                      {u"WarehouseID"_s, u"Warehse"_s, u"WarehouseID"_s, u"WarehouseName"_s});
+    m_table.addLookup(Fields::ItemNo, FieldType::Text, 20,
+                      {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemNo});
+    m_table.addLookup(Fields::ItemDescription, FieldType::Text, 40,
+                      {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemDescription});
+    m_table.addLookup(Fields::WarehouseName, FieldType::Text, 50,
+                      {Fields::WarehouseID, u"Warehse"_s, Fields::WarehouseID, Fields::WarehouseName});
     m_table.addCalculated(u"TransTypeName"_s, FieldType::Text, 12, [](const Engine::DataSet &row) {
-        return Value(transTypeText(row.integer(u"TransType")));
+        return Value(transTypeText(row.integer(Fields::TransType)));
     });
 }
 
 void HistoryView::open()
 {
     m_table.open();
-    m_table.field(u"TransType").format.display = [](const Value &type) { return transTypeText(type.toInt()); };
-    m_table.field(u"TransDate").format = dateFormat();
-    m_table.field(u"Quantity").format = quantityFormat();
-    m_table.field(u"UnitCost").format = currencyFormat();
+    m_table.field(Fields::TransType).format.display = [](const Value &type) { return transTypeText(type.toInt()); };
+    m_table.field(Fields::TransDate).format = dateFormat();
+    m_table.field(Fields::Quantity).format = quantityFormat();
+    m_table.field(Fields::UnitCost).format = currencyFormat();
 }
 
 QString HistoryView::filterExpression(const Filter &filter)
 {
-    return keyConditions({{u"ItemID"_s, filter.itemId},
-                          {u"WarehouseID"_s, filter.warehouseId},
-                          {u"TransType"_s, filter.type},
-                          {u"GLYear"_s, filter.year},
-                          {u"GLPeriod"_s, filter.period}});
+    return keyConditions({{Fields::ItemID, filter.itemId},
+                          {Fields::WarehouseID, filter.warehouseId},
+                          {Fields::TransType, filter.type},
+                          {Fields::GLYear, filter.year},
+                          {Fields::GLPeriod, filter.period}});
 }
 
 HistoryView::Source HistoryView::source() const
@@ -54,7 +56,7 @@ HistoryView::Source HistoryView::source() const
 
 HistoryView::Source HistoryView::document() const
 {
-    const int type = m_table.integer(u"TransType");
+    const int type = m_table.integer(Fields::TransType);
     for (const DocumentKind *kind : DocumentKinds::all()) {
         if (static_cast<int>(kind->posting.transType) != type)
             continue;

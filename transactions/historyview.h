@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/fields.h"
 #include "engine/tablereader.h"
 
 #include <QString>
@@ -39,8 +40,8 @@ public:
     };
     Source source() const;
     Source document() const; // the same with those that "Source" does not open
-    int itemId() const { return m_table.integer(u"ItemID"); } // of the current row
-    double quantity() const { return m_table.number(u"Quantity"); }
+    int itemId() const { return m_table.integer(Fields::ItemID); } // of the current row
+    double quantity() const { return m_table.number(Fields::Quantity); }
 
 private:
     Engine::TableReader m_table;

@@ -1,5 +1,6 @@
 #include "transactions/lastsaved.h"
 
+#include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/database.h"
 #include "engine/dialect.h"
@@ -16,7 +17,7 @@ namespace {
 
 Engine::StatementPtr remembering(Engine::Database &database, TransType type, qint64 document)
 {
-    const int size = Layouts::iDocSaved().field(u"SavedBy")->size;
+    const int size = Layouts::iDocSaved().field(Fields::SavedBy)->size;
     Engine::StatementPtr remember = database.connection().prepare(
         u"INSERT INTO IDocSaved (TransType, DocumentID, SavedBy, SavedAt) VALUES (?, ?, ?, ?) "
         "ON CONFLICT (TransType, DocumentID) DO UPDATE SET SavedBy = excluded.SavedBy, SavedAt = excluded.SavedAt"_s);
@@ -41,7 +42,7 @@ void rememberSaved(Engine::Database &database, TransType type, qint64 document, 
 
 QStringList lastSavedBy(Engine::Database &database, TransType type, const std::vector<qint64> &documents)
 {
-    const QString isOne = database.connection().dialect().inNumberList(u"DocumentID"_s);
+    const QString isOne = database.connection().dialect().inNumberList(Fields::DocumentID);
     const Engine::StatementPtr users = database.connection().prepare(
         u"SELECT DISTINCT SavedBy FROM IDocSaved WHERE %1 AND TransType = ? AND SavedBy <> '' ORDER BY SavedBy"_s
             .arg(isOne));

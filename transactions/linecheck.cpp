@@ -1,6 +1,7 @@
 #include "transactions/linecheck.h"
 
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "engine/database.h"
 #include "engine/query.h"
 #include "master/masterkinds.h"
@@ -18,7 +19,7 @@ namespace {
 [[noreturn]] void refuseNumber()
 {
     throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"),
-                    u"ItemNo"_s);
+                    Fields::ItemNo);
 }
 
 } // namespace
@@ -48,9 +49,9 @@ void LineCheck::requireUsable(const Value &itemId) const
     if (!found || !item->valueAt(2, FieldType::Boolean).toBool())
         return;
     if (typed)
-        throw RuleError(TransactionsTexts::tr("Item has been suspended"), u"ItemNo"_s);
+        throw RuleError(TransactionsTexts::tr("Item has been suspended"), Fields::ItemNo);
     throw RuleError(TransactionsTexts::tr("Item '%1: %2' has been suspended").arg(item->textAt(0), item->textAt(1)),
-                    u"ItemNo"_s);
+                    Fields::ItemNo);
 }
 
 int LineCheck::itemByNumber(const QString &itemNo) const
@@ -76,9 +77,9 @@ void LineCheck::requireField(const QString &field, const QString &column) const
 
 void LineCheck::requireItem() const
 {
-    requireField(u"ItemID"_s, u"ItemNo"_s);
-    if (!Engine::hasRow(m_lines.database(), u"Item"_s, u"ItemID"_s, m_lines.value(u"ItemID")))
-        refuse(TransactionsTexts::tr("Item not found"), u"ItemNo"_s);
+    requireField(Fields::ItemID, Fields::ItemNo);
+    if (!Engine::hasRow(m_lines.database(), u"Item"_s, Fields::ItemID, m_lines.value(Fields::ItemID)))
+        refuse(TransactionsTexts::tr("Item not found"), Fields::ItemNo);
 }
 
 void LineCheck::requireQuantity() const { requireField(quantityField(), quantityField()); }

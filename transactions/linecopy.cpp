@@ -1,5 +1,6 @@
 #include "transactions/linecopy.h"
 
+#include "data/fields.h"
 #include "transactions/texts.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ LineCopy::LineCopy(const Engine::Table &lines, std::vector<Engine::Row> stored)
 
 int LineCopy::seqOf(const Engine::Row &row) const
 {
-    return row[static_cast<size_t>(m_lines.fieldIndex(u"Seq"))].toInt();
+    return row[static_cast<size_t>(m_lines.fieldIndex(Fields::Seq))].toInt();
 }
 
 void LineCopy::changing(int seq, const State &to)

@@ -1,6 +1,7 @@
 #include "transactions/receiptentry.h"
 
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "engine/query.h"
 #include "master/masterkinds.h"
 #include "master/recordnumber.h"
@@ -16,22 +17,22 @@ namespace Tallymere {
 ReceiptEntry::ReceiptEntry(Engine::Database &database, Prompts &prompts)
     : DocumentEntry(database, prompts, DocumentKinds::receipt())
 {
-    header().addLookup(u"VendorNo"_s, FieldType::Text, 10,
-                       {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorNo"_s});
+    header().addLookup(Fields::VendorNo, FieldType::Text, 10,
+                       {Fields::VendorID, u"Vendor"_s, Fields::VendorID, Fields::VendorNo});
 }
 
 void ReceiptEntry::configureFields()
 {
     DocumentEntry::configureFields();
-    header().field(u"ReceiptNo").label = TransactionsTexts::tr("Receipt no.");
-    header().field(u"VendorID").label = TransactionsTexts::tr("Vendor");
-    header().field(u"VendorID").validate = [this](const Value &vendorId) { validateVendor(vendorId); };
+    header().field(Fields::ReceiptNo).label = TransactionsTexts::tr("Receipt no.");
+    header().field(Fields::VendorID).label = TransactionsTexts::tr("Vendor");
+    header().field(Fields::VendorID).validate = [this](const Value &vendorId) { validateVendor(vendorId); };
 }
 
 QString ReceiptEntry::caption() const
 {
     const bool isNew = header().state() == Engine::TableState::Insert;
-    return isNew && header().value(u"VendorID").isNull() ? kind().entry.newTitle : DocumentEntry::caption();
+    return isNew && header().value(Fields::VendorID).isNull() ? kind().entry.newTitle : DocumentEntry::caption();
 }
 
 bool ReceiptEntry::chooseByNumber(const QString &field, const QString &number)
@@ -44,18 +45,19 @@ bool ReceiptEntry::chooseByNumber(const QString &field, const QString &number)
 
 void ReceiptEntry::chooseVendorByNumber(const QString &vendorNo)
 {
-    if (vendorNo == header().text(u"VendorNo"))
+    if (vendorNo == header().text(Fields::VendorNo))
         return;
     if (vendorNo.isEmpty()) {
-        chooseInHeader(u"VendorID"_s, {});
+        chooseInHeader(Fields::VendorID, {});
         return;
     }
     const int key = keyByNumber(database(), MasterKinds::vendor(), vendorNo);
     Engine::TableReader vendor(database(), u"Vendor"_s);
     vendor.open();
-    if (vendor.findKey({key}) && vendor.boolean(u"Suspended"))
-        throw RuleError(TransactionsTexts::tr("Vendor no. '%1' has been suspended").arg(vendorNo), u"VendorNo"_s);
-    chooseInHeader(u"VendorID"_s, key);
+    if (vendor.findKey({key}) && vendor.boolean(Fields::Suspended))
+        throw RuleError(TransactionsTexts::tr("Vendor no. '%1' has been suspended").arg(vendorNo),
+                        Fields::VendorNo);
+    chooseInHeader(Fields::VendorID, key);
 }
 
 void ReceiptEntry::validateVendor(const Value &vendorId) const
@@ -64,18 +66,18 @@ void ReceiptEntry::validateVendor(const Value &vendorId) const
         return;
     Engine::TableReader vendor(database(), u"Vendor"_s);
     vendor.open();
-    if (vendor.findKey({vendorId}) && vendor.boolean(u"Suspended"))
+    if (vendor.findKey({vendorId}) && vendor.boolean(Fields::Suspended))
         throw RuleError(TransactionsTexts::tr("Vendor '%1: %2' has been suspended")
-                            .arg(vendor.text(u"VendorNo"), vendor.text(u"VendorName")),
-                        u"VendorID"_s);
+                            .arg(vendor.text(Fields::VendorNo), vendor.text(Fields::VendorName)),
+                        Fields::VendorID);
 }
 
-void ReceiptEntry::checkComplete() { requireHeaderField(u"VendorID"_s, u"VendorNo"_s); }
+void ReceiptEntry::checkComplete() { requireHeaderField(Fields::VendorID, Fields::VendorNo); }
 
 void ReceiptEntry::checkReferences()
 {
-    if (!Engine::hasRow(database(), u"Vendor"_s, u"VendorID"_s, header().value(u"VendorID")))
-        throw RuleError(TransactionsTexts::tr("Vendor no longer exists"), u"VendorNo"_s);
+    if (!Engine::hasRow(database(), u"Vendor"_s, Fields::VendorID, header().value(Fields::VendorID)))
+        throw RuleError(TransactionsTexts::tr("Vendor no longer exists"), Fields::VendorNo);
     requireLocation();
     requireLines();
 }
@@ -84,11 +86,11 @@ void ReceiptEntry::checkLine()
 {
     lineCheck().requireQuantity();
     lineCheck().requireItem();
-    lineCheck().requireField(u"UnitCost"_s, u"UnitCost"_s);
-    if (lines().money(u"UnitCost") < Engine::Money())
-        lineCheck().refuse(
-            TransactionsTexts::tr("Field '%1' must not be less than zero").arg(lines().field(u"UnitCost").label),
-            u"UnitCost"_s);
+    lineCheck().requireField(Fields::UnitCost, Fields::UnitCost);
+    if (lines().money(Fields::UnitCost) < Engine::Money())
+        lineCheck().refuse(TransactionsTexts::tr("Field '%1' must not be less than zero")
+                               .arg(lines().field(Fields::UnitCost).label),
+                           Fields::UnitCost);
 }
 
 } // namespace Tallymere

@@ -1,3 +1,4 @@
+#include "data/fields.h"
 #include "data/numbercounter.h"
 #include "transactions/documentkinds.h"
 #include "transactions/receiptentry.h"
@@ -15,13 +16,13 @@ const DocumentKind &DocumentKinds::receipt()
         .oneName = u"receipt"_s,
         .headerTable = u"IReceipt"_s,
         .lineTable = u"IRecDet"_s,
-        .keyField = u"ReceiptID"_s,
-        .numberField = u"ReceiptNo"_s,
-        .dateField = u"ReceiptDate"_s,
+        .keyField = Fields::ReceiptID,
+        .numberField = Fields::ReceiptNo,
+        .dateField = Fields::ReceiptDate,
         .entry =
             {
                 .screen = u"frmInvReceipt"_s,
-                .counters = {u"ItemCtl"_s, u"NextInvReceiptID"_s, u"NextInvReceiptNo"_s, firstNumber},
+                .counters = {u"ItemCtl"_s, Fields::NextInvReceiptID, Fields::NextInvReceiptNo, firstNumber},
                 .title = TransactionsTexts::tr("Receipt %1"),
                 .newTitle = TransactionsTexts::tr("New Inventory Receipt"),
                 .postedRefusal = TransactionsTexts::tr(
@@ -31,11 +32,13 @@ const DocumentKind &DocumentKinds::receipt()
                 .closingQuestion = TransactionsTexts::tr("Do you want to save changes?"),
                 .nothingEntered = TransactionsTexts::tr("Quantities have not been entered"),
                 .locationGone = TransactionsTexts::tr("Warehouse no longer exists"),
-                .requiredFields = {u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s, u"WarehouseID"_s},
-                .lineColumns = {{u"QtyReceived"_s, TransactionsTexts::tr("Quantity"), 100, Qt::AlignRight},
-                                {u"ItemNo"_s, TransactionsTexts::tr("Item no."), 130, Qt::AlignLeft, u"ItemID"_s},
-                                {u"ItemDescription"_s, TransactionsTexts::tr("Description"), 450},
-                                {u"UnitCost"_s, TransactionsTexts::tr("Unit Cost"), 110, Qt::AlignRight}},
+                .requiredFields = {Fields::ReceiptNo, Fields::GLYear, Fields::GLPeriod, Fields::ReceiptDate,
+                                   Fields::WarehouseID},
+                .lineColumns = {{Fields::QtyReceived, TransactionsTexts::tr("Quantity"), 100, Qt::AlignRight},
+                                {Fields::ItemNo, TransactionsTexts::tr("Item no."), 130, Qt::AlignLeft,
+                                 Fields::ItemID},
+                                {Fields::ItemDescription, TransactionsTexts::tr("Description"), 450},
+                                {Fields::UnitCost, TransactionsTexts::tr("Unit Cost"), 110, Qt::AlignRight}},
                 .make = [](Engine::Database &database,
                            Prompts &prompts) { return std::make_unique<ReceiptEntry>(database, prompts); },
             },
@@ -44,17 +47,17 @@ const DocumentKind &DocumentKinds::receipt()
                 .screen = u"frmInvReceipts"_s,
                 .caption = TransactionsTexts::tr("Inventory Receipts"),
                 .columns = {{u"Periodppyyyy"_s, TransactionsTexts::tr("Period"), 70},
-                            {u"ReceiptDate"_s, TransactionsTexts::tr("Date"), 85},
-                            {u"ReceiptNo"_s, TransactionsTexts::tr("Receipt no."), 90},
-                            {u"PurchaseOrderNo"_s, TransactionsTexts::tr("PO"), 90},
-                            {u"VendorName"_s, TransactionsTexts::tr("Vendor"), 210},
-                            {u"WarehouseName"_s, TransactionsTexts::tr("Location"), 170},
-                            {u"Posted"_s, TransactionsTexts::tr("Posted"), 60}},
+                            {Fields::ReceiptDate, TransactionsTexts::tr("Date"), 85},
+                            {Fields::ReceiptNo, TransactionsTexts::tr("Receipt no."), 90},
+                            {Fields::PurchaseOrderNo, TransactionsTexts::tr("PO"), 90},
+                            {Fields::VendorName, TransactionsTexts::tr("Vendor"), 210},
+                            {Fields::WarehouseName, TransactionsTexts::tr("Location"), 170},
+                            {Fields::Posted, TransactionsTexts::tr("Posted"), 60}},
                 .orders = {{u"PERIODDATEDESC"_s}},
                 .addFields =
                     [](Engine::Table &receipts) {
-                        receipts.addLookup(u"VendorName"_s, Engine::FieldType::Text, 40,
-                                           {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorName"_s});
+                        receipts.addLookup(Fields::VendorName, Engine::FieldType::Text, 40,
+                                           {Fields::VendorID, u"Vendor"_s, Fields::VendorID, Fields::VendorName});
                     },
                 .report = u"TrptInvReceipts"_s,
                 .filter =
@@ -70,16 +73,16 @@ const DocumentKind &DocumentKinds::receipt()
                                            .notFound = TransactionsTexts::tr("Receipt '%1' not found")},
                 .deleting = {.asks = Question::Confirm,
                              .question = TransactionsTexts::tr("Delete receipt '%1'?"),
-                             .nameField = u"ReceiptNo"_s,
+                             .nameField = Fields::ReceiptNo,
                              .posted = TransactionsTexts::tr(
                                  "Unable to delete receipt '%1'...\nIt has already been posted")},
             },
         .posting = receiptPosting(),
         .files =
             {
-                .numbers = {{u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s,
+                .numbers = {{Fields::VendorID, u"Vendor"_s, Fields::VendorNo,
                              TransactionsTexts::tr("Vendor no. '%1' not found")}},
-                .requiredColumns = {u"VendorID"_s, u"QtyReceived"_s, u"UnitCost"_s},
+                .requiredColumns = {Fields::VendorID, Fields::QtyReceived, Fields::UnitCost},
             },
     };
     return kind;

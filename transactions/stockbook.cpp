@@ -1,6 +1,7 @@
 #include "transactions/stockbook.h"
 
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "engine/dialect.h"
 #include "engine/groupedwrites.h"
 #include "engine/sqlcondition.h"
@@ -18,9 +19,10 @@ StockBook::StockBook(Engine::Connection &connection)
 {
     const Engine::Dialect &dialect = connection.dialect();
     m_readCosts =
-        connection.prepare(u"SELECT ItemID, WgtAvgCost FROM Item WHERE "_s + dialect.inNumberList(u"ItemID"_s));
-    m_readBalances = connection.prepare(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance WHERE "_s
-                                        + dialect.inNumberList(u"ItemID"_s) + u" ORDER BY ItemID, WarehouseID"_s);
+        connection.prepare(u"SELECT ItemID, WgtAvgCost FROM Item WHERE "_s + dialect.inNumberList(Fields::ItemID));
+    m_readBalances =
+        connection.prepare(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance WHERE "_s
+                           + dialect.inNumberList(Fields::ItemID) + u" ORDER BY ItemID, WarehouseID"_s);
     m_updateCost = connection.prepare(u"UPDATE Item SET WgtAvgCost = ? WHERE ItemID = ?"_s);
     m_updateBalance =
         connection.prepare(u"UPDATE IBalance SET QtyOnHand = ? WHERE ItemID = ? AND WarehouseID = ?"_s);

@@ -2,6 +2,7 @@
 
 #include "base/plural.h"
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "engine/database.h"
 #include "engine/error.h"
 #include "engine/session.h"
@@ -136,7 +137,7 @@ void StockCount::setDate(QDate date)
 
 std::optional<QString> StockCount::questionOf(int row, double quantity) const
 {
-    requireSensibleQuantity(quantity, u"Quantity"_s);
+    requireSensibleQuantity(quantity, Fields::Quantity);
     CountRow counted = m_list.row(row);
     if (counted.typed == quantity)
         return std::nullopt;

@@ -1,6 +1,7 @@
 #include "transactions/totalsview.h"
 
 #include "base/listfilter.h"
+#include "data/fields.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +27,7 @@ void TotalsView::setSort(Sort sort)
 
 QString TotalsView::filterExpression(int itemId, int warehouseId)
 {
-    return keyConditions({{u"ItemID"_s, itemId}, {u"WarehouseID"_s, warehouseId}});
+    return keyConditions({{Fields::ItemID, itemId}, {Fields::WarehouseID, warehouseId}});
 }
 
 } // namespace Tallymere

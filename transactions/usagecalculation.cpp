@@ -1,5 +1,6 @@
 #include "transactions/usagecalculation.h"
 
+#include "data/fields.h"
 #include "data/fiscalperiod.h"
 #include "data/numbercounter.h"
 #include "engine/groupedwrites.h"
@@ -39,10 +40,10 @@ void number(CalculatedUsage &usage, Engine::Database &database)
 {
     const DocumentKind &kind = DocumentKinds::usage();
     takeNumbers(database, u"ARInvCtl"_s, [&](CounterRow &counters) {
-        usage.id = counters.takeKey(u"NextInvoiceID", kind.keyField, kind.keyTables());
-        counters.restartOutside(u"NextInvoiceID", firstNumber, lastNumber, firstCountedKey + 1);
+        usage.id = counters.takeKey(Fields::NextInvoiceID, kind.keyField, kind.keyTables());
+        counters.restartOutside(Fields::NextInvoiceID, firstNumber, lastNumber, firstCountedKey + 1);
         do {
-            usage.number = QString::number(counters.take(u"NextInvoiceNo"));
+            usage.number = QString::number(counters.take(Fields::NextInvoiceNo));
         } while (isNumberTaken(database, usage.number));
     });
 }

@@ -2,6 +2,7 @@
 
 #include "base/regionalsettings.h"
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "engine/lockmanager.h"
 #include "engine/query.h"
 #include "engine/session.h"
@@ -50,7 +51,7 @@ QList<int> UsageDeletion::unposted()
     query.setParameter(u"InventoryDate", m_date);
     QList<int> keys;
     for (query.open(); !query.atEnd(); query.next())
-        keys.append(query.integer(u"UsageID"));
+        keys.append(query.integer(Fields::UsageID));
     return keys;
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/formats.h"
 #include "base/rounding.h"
+#include "data/fields.h"
 #include "engine/amounttoolarge.h"
 #include "engine/error.h"
 #include "transactions/documentkinds.h"
@@ -27,11 +28,11 @@ UsageEntry::UsageEntry(Engine::Database &database, Prompts &prompts)
 void UsageEntry::configureFields()
 {
     DocumentEntry::configureFields();
-    header().field(u"UsageNo").label = TransactionsTexts::tr("Usage no.");
-    header().field(u"InvoiceAmount").format = currencyFormat();
+    header().field(Fields::UsageNo).label = TransactionsTexts::tr("Usage no.");
+    header().field(Fields::InvoiceAmount).format = currencyFormat();
     lines().field(u"ExtAmount").format = currencyFormat();
-    lines().field(u"ItemID").changed = [this] {
-        lines().set(u"UnitCost", m_costs.chosen(lines().value(u"ItemID")));
+    lines().field(Fields::ItemID).changed = [this] {
+        lines().set(Fields::UnitCost, m_costs.chosen(lines().value(Fields::ItemID)));
     };
 }
 
@@ -43,11 +44,11 @@ void UsageEntry::visitBegins()
 
 void UsageEntry::presetHeader()
 {
-    header().setDefault(u"Printed", false);
+    header().setDefault(Fields::Printed, false);
     Engine::TableReader locations(database(), u"Warehse"_s);
     locations.setIndex(u"WarehouseName1"_s);
     locations.open();
-    header().setDefault(u"WarehouseID", locations.value(u"WarehouseID"));
+    header().setDefault(Fields::WarehouseID, locations.value(Fields::WarehouseID));
 }
 
 void UsageEntry::checkReferences()
@@ -64,7 +65,7 @@ void UsageEntry::checkLine()
     } catch (const Engine::AmountTooLarge &) {
         lineCheck().refuse(
             TransactionsTexts::tr("The total of the usage would be more than an amount of money can be"),
-            u"Quantity"_s);
+            Fields::Quantity);
     }
 }
 
@@ -74,7 +75,7 @@ double UsageEntry::lineCost()
 {
     const double kept = DocumentEntry::lineCost();
     try {
-        return std::max(kept, m_costs.of(lines().value(u"ItemID")).toDouble());
+        return std::max(kept, m_costs.of(lines().value(Fields::ItemID)).toDouble());
     } catch (const Engine::AmountTooLarge &) {
         return kept;
     }
@@ -85,10 +86,10 @@ double UsageEntry::lineCost()
 // What cannot be told counts as nothing, unless no amount can be told any more.
 Money UsageEntry::extAmount(const Engine::DataSet &line)
 {
-    if (line.value(u"Quantity").isNull())
+    if (line.value(Fields::Quantity).isNull())
         return {};
     try {
-        return toCents(line.number(u"Quantity") * m_costs.of(line.value(u"ItemID")).toLongDouble());
+        return toCents(line.number(Fields::Quantity) * m_costs.of(line.value(Fields::ItemID)).toLongDouble());
     } catch (const Engine::EngineError &error) {
         if (error.isStoreLost())
             throw;
@@ -100,7 +101,7 @@ Money UsageEntry::extAmount(const Engine::DataSet &line)
 // Nothing where they come to more than an amount can be; lines that were stored so can still be put right.
 std::optional<Money> UsageEntry::sumOfLines()
 {
-    const int item = lines().fieldIndex(u"ItemID");
+    const int item = lines().fieldIndex(Fields::ItemID);
     const int amount = lines().fieldIndex(u"ExtAmount");
     Money sum;
     try {
@@ -125,7 +126,7 @@ void UsageEntry::lineChanging(LineChange change)
 
 Money UsageEntry::totalWithLine()
 {
-    m_costs.hold(lines().value(u"ItemID"));
+    m_costs.hold(lines().value(Fields::ItemID));
     return m_total.value_or(Money()) - m_amountBefore + lines().money(u"ExtAmount");
 }
 
@@ -136,7 +137,7 @@ void UsageEntry::lineRemoved() { setTotal(m_total ? *m_total - m_amountBefore : 
 void UsageEntry::setTotal(std::optional<Money> total)
 {
     m_total = total;
-    header().set(u"InvoiceAmount", lines().isEmpty() || !total ? Value() : Value(*total));
+    header().set(Fields::InvoiceAmount, lines().isEmpty() || !total ? Value() : Value(*total));
 }
 
 // Brought back, a line has no unit cost: its beginning stands among the tax codes instead, where it has always been
@@ -144,10 +145,10 @@ void UsageEntry::setTotal(std::optional<Money> total)
 void UsageEntry::restoreLine(const Engine::Row &kept)
 {
     DocumentEntry::restoreLine(kept);
-    const Value &cost = kept[static_cast<size_t>(lines().fieldIndex(u"UnitCost"))];
-    const int size = lines().field(u"TaxCodes").size;
-    lines().setDefault(u"TaxCodes", cost.isNull() ? Value() : Value(cost.toText().left(size)));
-    lines().setDefault(u"UnitCost", {});
+    const Value &cost = kept[static_cast<size_t>(lines().fieldIndex(Fields::UnitCost))];
+    const int size = lines().field(Fields::TaxCodes).size;
+    lines().setDefault(Fields::TaxCodes, cost.isNull() ? Value() : Value(cost.toText().left(size)));
+    lines().setDefault(Fields::UnitCost, {});
 }
 
 } // namespace Tallymere

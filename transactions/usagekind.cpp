@@ -1,3 +1,4 @@
+#include "data/fields.h"
 #include "data/numbercounter.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
@@ -15,13 +16,13 @@ const DocumentKind &DocumentKinds::usage()
         .oneName = u"usage"_s,
         .headerTable = u"IUsage"_s,
         .lineTable = u"IUsageDet"_s,
-        .keyField = u"UsageID"_s,
-        .numberField = u"UsageNo"_s,
-        .dateField = u"InventoryDate"_s,
+        .keyField = Fields::UsageID,
+        .numberField = Fields::UsageNo,
+        .dateField = Fields::InventoryDate,
         .entry =
             {
                 .screen = u"frmUsage"_s,
-                .counters = {u"ARInvCtl"_s, u"NextInvoiceID"_s, u"NextInvoiceNo"_s, firstCountedKey + 1},
+                .counters = {u"ARInvCtl"_s, Fields::NextInvoiceID, Fields::NextInvoiceNo, firstCountedKey + 1},
                 .title = TransactionsTexts::tr("Inventory Usage %1"),
                 .newTitle = TransactionsTexts::tr("New Inventory Usage"),
                 .postedRefusal = TransactionsTexts::tr(
@@ -31,12 +32,13 @@ const DocumentKind &DocumentKinds::usage()
                 .closingQuestion = TransactionsTexts::tr("Do you want to save your changes?"),
                 .nothingEntered = TransactionsTexts::tr("No inventory usage has been entered"),
                 .locationGone = TransactionsTexts::tr("Location no longer exists"),
-                .requiredFields = {u"UsageNo"_s, u"WarehouseID"_s, u"InventoryDate"_s, u"GLPeriod"_s, u"GLYear"_s},
-                .lineColumns = {{u"Quantity"_s, TransactionsTexts::tr("Quantity"), 90, Qt::AlignRight},
-                                {u"ItemNo"_s, TransactionsTexts::tr("Item"), 110, Qt::AlignLeft, u"ItemID"_s},
-                                {u"ItemOvDesc"_s, TransactionsTexts::tr("Override Description"), 170},
-                                {u"ItemDescription"_s, TransactionsTexts::tr("Description"), 330},
-                                {u"UnitCost"_s, TransactionsTexts::tr("Unit Cost"), 90, Qt::AlignRight},
+                .requiredFields = {Fields::UsageNo, Fields::WarehouseID, Fields::InventoryDate, Fields::GLPeriod,
+                                   Fields::GLYear},
+                .lineColumns = {{Fields::Quantity, TransactionsTexts::tr("Quantity"), 90, Qt::AlignRight},
+                                {Fields::ItemNo, TransactionsTexts::tr("Item"), 110, Qt::AlignLeft, Fields::ItemID},
+                                {Fields::ItemOvDesc, TransactionsTexts::tr("Override Description"), 170},
+                                {Fields::ItemDescription, TransactionsTexts::tr("Description"), 330},
+                                {Fields::UnitCost, TransactionsTexts::tr("Unit Cost"), 90, Qt::AlignRight},
                                 {u"ExtAmount"_s, TransactionsTexts::tr("Ext Amount"), 100, Qt::AlignRight}},
                 .make = [](Engine::Database &database,
                            Prompts &prompts) { return std::make_unique<UsageEntry>(database, prompts); },
@@ -47,10 +49,10 @@ const DocumentKind &DocumentKinds::usage()
             {
                 .screen = u"frmUsages"_s,
                 .caption = TransactionsTexts::tr("Inventory Usage"),
-                .columns = {{u"InventoryDate"_s, TransactionsTexts::tr("Date"), 90},
-                            {u"WarehouseName"_s, TransactionsTexts::tr("Location"), 230},
-                            {u"UsageNo"_s, TransactionsTexts::tr("Usage no."), 90},
-                            {u"Posted"_s, TransactionsTexts::tr("Posted"), 60},
+                .columns = {{Fields::InventoryDate, TransactionsTexts::tr("Date"), 90},
+                            {Fields::WarehouseName, TransactionsTexts::tr("Location"), 230},
+                            {Fields::UsageNo, TransactionsTexts::tr("Usage no."), 90},
+                            {Fields::Posted, TransactionsTexts::tr("Posted"), 60},
                             {u"Periodppyyyy"_s, TransactionsTexts::tr("Period"), 80}},
                 .orders = {{u"INVENTORYDATEUSAGENODESC"_s, TransactionsTexts::tr("&Date"), u"mnuSortDate"_s},
                            {u"USAGENO"_s, TransactionsTexts::tr("&Usage no."), u"mnuSortUsageNo"_s}},
@@ -72,7 +74,7 @@ const DocumentKind &DocumentKinds::usage()
                                            .notFound = TransactionsTexts::tr("Usage number '%1' not found")},
                 .deleting =
                     {.question = TransactionsTexts::tr("Delete usage number'%1'?"),
-                     .nameField = u"UsageNo"_s,
+                     .nameField = Fields::UsageNo,
                      .posted = TransactionsTexts::tr(
                          "Unable to delete usage %1....\nIt has been posted and therefore can't be deleted."),
                      .postedBeforeAsking =
@@ -81,10 +83,10 @@ const DocumentKind &DocumentKinds::usage()
         .posting = usagePosting(),
         .files =
             {
-                .systemFields = {u"CustomerID"_s, u"InvoiceAmount"_s, u"PaidAmount"_s, u"DiscTakenAmount"_s,
-                                 u"WriteOffAmount"_s, u"Owing"_s, u"PurchaseOrderNo"_s, u"ExchangeRate"_s,
-                                 u"TaxCodes"_s},
-                .requiredColumns = {u"Quantity"_s},
+                .systemFields = {Fields::CustomerID, Fields::InvoiceAmount, Fields::PaidAmount,
+                                 Fields::DiscTakenAmount, Fields::WriteOffAmount, Fields::Owing,
+                                 Fields::PurchaseOrderNo, Fields::ExchangeRate, Fields::TaxCodes},
+                .requiredColumns = {Fields::Quantity},
             },
     };
     return kind;
