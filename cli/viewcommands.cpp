@@ -2,6 +2,7 @@
 #include "base/named.h"
 #include "cli/command.h"
 #include "cli/texts.h"
+#include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/table.h"
 #include "master/masterkinds.h"
@@ -60,9 +61,9 @@ void runTotals(CommandContext &context)
     TotalsView view(data->databaseTallymere());
     view.setSort(sort);
     view.open();
-    writeRows(
-        context, view.query(),
-        {u"ItemID"_s, u"WarehouseID"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s, u"QtyOnHand"_s});
+    writeRows(context, view.query(),
+              {Fields::ItemID, Fields::WarehouseID, Fields::ItemNo, Fields::ItemDescription, Fields::WarehouseName,
+               Fields::QtyOnHand});
 }
 
 void runHistory(CommandContext &context)
@@ -72,7 +73,7 @@ void runHistory(CommandContext &context)
     view.open();
     writeRows(context, view.table(),
               fieldNames(Layouts::iHist())
-                  + QStringList{u"Periodppyyyy"_s, u"ItemNo"_s, u"ItemDescription"_s, u"WarehouseName"_s,
+                  + QStringList{u"Periodppyyyy"_s, Fields::ItemNo, Fields::ItemDescription, Fields::WarehouseName,
                                 u"TransTypeName"_s});
 }
 

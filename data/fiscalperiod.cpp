@@ -1,6 +1,7 @@
 #include "data/fiscalperiod.h"
 
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "data/texts.h"
 #include "engine/tablereader.h"
 
@@ -25,7 +26,7 @@ bool outside(const Period &period, const Period &from, const Period &to)
 FiscalSettings FiscalSettings::of(const Engine::DataSet &company)
 {
     return {
-        .fiscalYear = company.integer(u"FiscalYear"),
+        .fiscalYear = company.integer(Fields::FiscalYear),
         .defaultPeriod = periodOf(company, "DefaultPeriod"_L1),
         .warnFrom = periodOf(company, "WPeriodFrom"_L1),
         .warnTo = periodOf(company, "WPeriodTo"_L1),

@@ -1,5 +1,6 @@
 #include "data/lookupsdatainv.h"
 
+#include "data/fields.h"
 #include "data/personname.h"
 #include "data/texts.h"
 #include "engine/error.h"
@@ -32,7 +33,7 @@ QString joinFilled(const QStringList &parts, const QString &separator)
 // "Springfield IL 62701"
 QString place(const DataSet &row)
 {
-    return joinFilled({row.text(u"City"), row.text(u"StateProv"), row.text(u"ZipCode")}, u" "_s);
+    return joinFilled({row.text(Fields::City), row.text(Fields::StateProv), row.text(Fields::ZipCode)}, u" "_s);
 }
 
 // "12 Mill Lane, Unit 4, Springfield, IL, 62701, USA". The prefix tells one address of a row from another. Cut to the
@@ -89,7 +90,7 @@ void TdmLookUpsInv::describeCalculatedFields()
 {
     m_salesman.addCalculated(u"FullName"_s, FieldType::Text, 60, fullName);
     m_glAccnt.addCalculated(u"AccountName30"_s, FieldType::Text, 50,
-                            [](const DataSet &row) { return row.value(u"AccountName"); });
+                            [](const DataSet &row) { return row.value(Fields::AccountName); });
     m_customer.addCalculated(u"Address"_s, FieldType::Text, addressSize,
                              [](const DataSet &row) { return Value(addressLine(row, {})); });
     m_customer.addCalculated(u"ShipToAddress"_s, FieldType::Text, addressSize,
@@ -103,11 +104,11 @@ void TdmLookUpsInv::describeCalculatedFields()
 LookupList TdmLookUpsInv::list(QStringView table)
 {
     if (table == u"Currency")
-        return {tblCurrency(), u"CurrencyName"_s, DataTexts::tr("Currency")};
+        return {tblCurrency(), Fields::CurrencyName, DataTexts::tr("Currency")};
     if (table == u"ItemType")
-        return {tblItemType(), u"TypeName"_s, DataTexts::tr("Item Type")};
+        return {tblItemType(), Fields::TypeName, DataTexts::tr("Item Type")};
     if (table == u"Warehse")
-        return {tblWarehse(), u"WarehouseName"_s, DataTexts::tr("Location")};
+        return {tblWarehse(), Fields::WarehouseName, DataTexts::tr("Location")};
     Engine::raise(Engine::ErrorCode::NoSuchTable, DataTexts::tr("There is no list '%1' to choose from").arg(table));
 }
 

@@ -1,5 +1,6 @@
 #include "data/numbercounter.h"
 
+#include "data/fields.h"
 #include "data/texts.h"
 #include "engine/attempts.h"
 #include "engine/error.h"
@@ -68,15 +69,15 @@ qint64 firstFree(Engine::Database &database, qint64 key, const QString &keyField
 QString countedBy(QStringView field)
 {
     static const QHash<QString, QString> names{
-        {u"NextItemNo"_s, DataTexts::tr("item numbers")},
-        {u"NextItemID"_s, DataTexts::tr("keys of items")},
-        {u"NextInvAdjustmentID"_s, DataTexts::tr("keys of adjustments")},
-        {u"NextInvReceiptID"_s, DataTexts::tr("keys of receipts")},
-        {u"NextInvReceiptNo"_s, DataTexts::tr("receipt numbers")},
-        {u"NextVendorNo"_s, DataTexts::tr("vendor numbers")},
-        {u"NextVendorID"_s, DataTexts::tr("keys of vendors")},
-        {u"NextInvoiceID"_s, DataTexts::tr("keys of usages")},
-        {u"NextInvoiceNo"_s, DataTexts::tr("usage numbers")},
+        {Fields::NextItemNo, DataTexts::tr("item numbers")},
+        {Fields::NextItemID, DataTexts::tr("keys of items")},
+        {Fields::NextInvAdjustmentID, DataTexts::tr("keys of adjustments")},
+        {Fields::NextInvReceiptID, DataTexts::tr("keys of receipts")},
+        {Fields::NextInvReceiptNo, DataTexts::tr("receipt numbers")},
+        {Fields::NextVendorNo, DataTexts::tr("vendor numbers")},
+        {Fields::NextVendorID, DataTexts::tr("keys of vendors")},
+        {Fields::NextInvoiceID, DataTexts::tr("keys of usages")},
+        {Fields::NextInvoiceNo, DataTexts::tr("usage numbers")},
     };
     return names.value(field.toString(), field.toString());
 }

@@ -1,5 +1,6 @@
 #include "data/seeds.h"
 
+#include "data/fields.h"
 #include "engine/textsize.h"
 
 #include <QCoreApplication>
@@ -35,19 +36,19 @@ QList<Assignment> organizationOf(const Table &company, const Table &config)
         return Assignment{field, Value(Engine::firstCharacters(value, company.field(field).size))};
     };
     return {
-        {u"CompanyNo"_s, 1},
-        text(u"CompanyName"_s, host(u"Organizatn")),
-        text(u"AddressLine1"_s, host(u"Org_Addr")),
-        text(u"AddressLine2"_s, host(u"Org_City") + u' ' + host(u"Org_State") + u' ' + host(u"Org_ZIP")),
-        text(u"Phone"_s, host(u"Org_Phone")),
+        {Fields::CompanyNo, 1},
+        text(Fields::CompanyName, host(u"Organizatn")),
+        text(Fields::AddressLine1, host(u"Org_Addr")),
+        text(Fields::AddressLine2, host(u"Org_City") + u' ' + host(u"Org_State") + u' ' + host(u"Org_ZIP")),
+        text(Fields::Phone, host(u"Org_Phone")),
     };
 }
 
 QList<Assignment> organizationDefaults(QDate today)
 {
     return {
-        {u"FiscalYear"_s, today.year()},       {u"DefaultCurrencyID"_s, 1},  {u"DefaultNetDays"_s, 30},
-        {u"ClientInvoiceLineItems"_s, "S"_L1}, {u"InvoiceFormat"_s, "S"_L1},
+        {Fields::FiscalYear, today.year()},       {Fields::DefaultCurrencyID, 1},  {Fields::DefaultNetDays, 30},
+        {Fields::ClientInvoiceLineItems, "S"_L1}, {Fields::InvoiceFormat, "S"_L1},
     };
 }
 
@@ -102,13 +103,13 @@ void presetOrganization(Table &company, const Table &config)
 
 void firstLocation(Engine::Database &database)
 {
-    addFirstRow(database, u"Warehse"_s, {{u"WarehouseID"_s, 1}, {u"WarehouseName"_s, "Office"_L1}});
+    addFirstRow(database, u"Warehse"_s, {{Fields::WarehouseID, 1}, {Fields::WarehouseName, "Office"_L1}});
 }
 
 void firstBank(Engine::Database &database)
 {
     addFirstRow(database, u"Bank"_s,
-                {{u"BankID"_s, 1}, {u"BankName"_s, "Meal Preparation Account"_L1}, {u"CurrencyID"_s, 1}});
+                {{Fields::BankID, 1}, {Fields::BankName, "Meal Preparation Account"_L1}, {Fields::CurrencyID, 1}});
 }
 
 void firstCurrency(Engine::Database &database, const Table &config, const QLocale &locale)
@@ -120,7 +121,7 @@ void firstCurrency(Engine::Database &database, const Table &config, const QLocal
     };
     const QString name = names.value(config.text(u"Postal_Format"), currencyOf(locale));
     addFirstRow(database, u"Currency"_s,
-                {{u"CurrencyID"_s, 1}, {u"CurrencyName"_s, name}, {u"ExchangeRate"_s, 1.0}});
+                {{Fields::CurrencyID, 1}, {Fields::CurrencyName, name}, {Fields::ExchangeRate, 1.0}});
 }
 
 } // namespace Tallymere::Seeds

@@ -18,10 +18,7 @@ public:
     }
 
     constexpr operator QStringView() const { return m_name; }
-    operator QString() const
-    {
-        return QString::fromRawData(m_name.data(), m_name.size());
-    } // the text is not copied
+    operator QString() const { return QString::fromRawData(m_name.data(), m_name.size()); } // not a copy
     operator FieldDef() const requires(Type != FieldType::Text) { return {*this, Type}; }
     // A text's length is the table's: the same name may stand for a longer text in another one.
     FieldDef sized(int characters) const requires(Type == FieldType::Text) { return {*this, Type, characters}; }

@@ -1,6 +1,7 @@
 #include "import/documentimport.h"
 
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "engine/error.h"
 
 #include <algorithm>
@@ -94,7 +95,7 @@ void DocumentImport::setHeader(const ImportRow &row)
 void DocumentImport::addLine(const ImportRow &row)
 {
     m_entry->newLine();
-    m_entry->setLineColumn(u"ItemNo"_s); // items are judged as those that are typed
+    m_entry->setLineColumn(Fields::ItemNo); // items are judged as those that are typed
     for (const ImportCell *cell : cellsOf(m_entry->lines(), row)) {
         if (cell->column->lookup && cell->column->target == "ItemID"_L1)
             m_entry->chooseItemByNumber(cell->value.toText());
@@ -108,7 +109,7 @@ void DocumentImport::addLine(const ImportRow &row)
 // As what refuses a row begins with it: "ItemNo '1001': "; empty where the row names no item.
 QString DocumentImport::itemOf(const ImportRow &row)
 {
-    const ImportCell *item = row.cell(u"ItemID");
+    const ImportCell *item = row.cell(Fields::ItemID);
     return item && !item->value.isNull() ? u"%1 '%2': "_s.arg(item->column->field, item->value.toText())
                                          : QString();
 }

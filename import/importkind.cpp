@@ -1,6 +1,7 @@
 #include "import/importkind.h"
 
 #include "base/named.h"
+#include "data/fields.h"
 #include "data/layouts.h"
 #include "import/documentimport.h"
 #include "import/masterimport.h"
@@ -102,19 +103,20 @@ ImportKind documentKind(const DocumentKind &document)
     kind.name = document.name;
     kind.oneName = document.oneName;
     kind.lockedTables = {document.headerTable, document.lineTable, document.entry.counters.table};
-    const QStringList system = document.files.systemFields + QStringList{document.keyField, u"Seq"_s, u"Posted"_s};
+    const QStringList system =
+        document.files.systemFields + QStringList{document.keyField, Fields::Seq, Fields::Posted};
     addColumns(kind, *Layouts::find(document.headerTable), system);
     addColumns(kind, *Layouts::find(document.lineTable), system, Level::Line);
     kind.refusedColumns.removeDuplicates();
     for (const DocumentKind::NumberFor &number : document.files.numbers)
         addName(kind, number.field, *Layouts::find(number.table), number.numberField, number.notFound);
-    addName(kind, u"WarehouseID"_s, Layouts::warehse(), u"WarehouseName"_s,
+    addName(kind, Fields::WarehouseID, Layouts::warehse(), Fields::WarehouseName,
             ImportTexts::tr("Location '%1' not found"));
-    addName(kind, u"ItemID"_s, Layouts::item(), u"ItemNo"_s, MasterKinds::item().record.notFound);
+    addName(kind, Fields::ItemID, Layouts::item(), Fields::ItemNo, MasterKinds::item().record.notFound);
     require(kind, document.files.requiredColumns);
-    require(kind, {u"WarehouseID"_s, u"ItemID"_s});
-    column(kind, u"GLYear").format = ImportColumn::Format::Year;
-    column(kind, u"GLPeriod").format = ImportColumn::Format::Period;
+    require(kind, {Fields::WarehouseID, Fields::ItemID});
+    column(kind, Fields::GLYear).format = ImportColumn::Format::Year;
+    column(kind, Fields::GLPeriod).format = ImportColumn::Format::Period;
     kind.makeTarget = [&document](const ImportRun &run) { return std::make_unique<DocumentImport>(run, document); };
     return kind;
 }

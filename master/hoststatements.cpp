@@ -1,5 +1,6 @@
 #include "master/hoststatements.h"
 
+#include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/dialect.h"
 
@@ -50,7 +51,7 @@ QString queryUpdateWarehseFromLocatns()
 {
     return u"Update Warehse set WarehouseName = %1 from Locatns where Warehse.Location_ID = Locatns.Location_ID "
            "and Warehse.WarehouseName is distinct from %1"_s.arg(
-               cut(u"Locatns.Location"_s, Layouts::warehse(), u"WarehouseName"));
+               cut(u"Locatns.Location"_s, Layouts::warehse(), Fields::WarehouseName));
 }
 
 QString queryGetLastWarehouseID() { return u"SELECT max(WarehouseID) as LastID FROM Warehse"_s; }
@@ -80,7 +81,7 @@ QString queryUpdateItemFromItems(const Engine::Dialect &dialect)
            "from Items where Items.Item_ID = %3 and (Item.ItemDescription is distinct from %1 "
            "or coalesce(Items.Billed_Amount, 0.00) <> coalesce(Item.UnitPrice, 0.00) "
            "or (Item.ItemTypeID = %4 and coalesce(Items.Meal, '') not in (%5)))"_s
-               .arg(cut(u"Items.Meal_Item"_s, Layouts::item(), u"ItemDescription"), typeOfUpdatedItem(),
+               .arg(cut(u"Items.Meal_Item"_s, Layouts::item(), Fields::ItemDescription), typeOfUpdatedItem(),
                     dialect.wholeNumberOf(u"Item.ItemNo"_s))
                .arg(newItemOfUnknownCode)
                .arg(knownCodes());

@@ -1,6 +1,7 @@
 #include "master/masterkinds.h"
 
 #include "base/formats.h"
+#include "data/fields.h"
 #include "master/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -11,9 +12,9 @@ namespace {
 
 void formatFields(Engine::Table &item)
 {
-    for (const QString &field : {u"UnitPrice"_s, u"WgtAvgCost"_s, u"StandardCost"_s})
+    for (const QString &field : {Fields::UnitPrice, Fields::WgtAvgCost, Fields::StandardCost})
         item.field(field).format = currencyFormat(RegionalSettings::system(), field);
-    item.field(u"TaxCodes").format = lettersFormat(MasterTexts::tr("Tax Codes"), u"TaxCodes"_s);
+    item.field(Fields::TaxCodes).format = lettersFormat(MasterTexts::tr("Tax Codes"), Fields::TaxCodes);
 }
 
 MasterKind describe()
@@ -22,25 +23,26 @@ MasterKind describe()
     kind.name = u"items"_s;
     kind.oneName = u"item"_s;
     kind.table = u"Item"_s;
-    kind.keyField = u"ItemID"_s;
-    kind.numberField = u"ItemNo"_s;
+    kind.keyField = Fields::ItemID;
+    kind.numberField = Fields::ItemNo;
     kind.record.counterTable = u"ItemCtl"_s;
-    kind.record.numberCounter = u"NextItemNo"_s;
-    kind.record.keyCounter = u"NextItemID"_s;
-    kind.nameFields = {u"ItemNo"_s, u"ItemDescription"_s};
+    kind.record.numberCounter = Fields::NextItemNo;
+    kind.record.keyCounter = Fields::NextItemID;
+    kind.nameFields = {Fields::ItemNo, Fields::ItemDescription};
     kind.formatFields = formatFields;
 
     kind.record.screen = u"frmItemInv"_s;
     kind.record.caption = MasterTexts::tr("Item");
     kind.record.newCaption = MasterTexts::tr("New Item");
-    kind.record.defaults = {{u"Suspended"_s, false}};
+    kind.record.defaults = {{Fields::Suspended, false}};
     // Costs, suspension and accounts are the original's own.
-    kind.record.copiedFields = {u"ItemDescription"_s, u"TaxCodes"_s, u"UnitPrice"_s, u"Notes"_s, u"ItemTypeID"_s};
+    kind.record.copiedFields = {Fields::ItemDescription, Fields::TaxCodes, Fields::UnitPrice, Fields::Notes,
+                                Fields::ItemTypeID};
     kind.record.copyCaption = MasterTexts::tr("New (copied) Item");
-    kind.record.required = {{u"ItemNo"_s, MasterTexts::tr("Field 'Item no.' must have a value")},
-                            {u"ItemDescription"_s, MasterTexts::tr("Field 'Description' must have a value")},
-                            {u"ItemTypeID"_s, MasterTexts::tr("Field 'Item Type' must have a value")}};
-    kind.record.references = {{u"ItemTypeID"_s, u"ItemType"_s, u"TypeName"_s,
+    kind.record.required = {{Fields::ItemNo, MasterTexts::tr("Field 'Item no.' must have a value")},
+                            {Fields::ItemDescription, MasterTexts::tr("Field 'Description' must have a value")},
+                            {Fields::ItemTypeID, MasterTexts::tr("Field 'Item Type' must have a value")}};
+    kind.record.references = {{Fields::ItemTypeID, u"ItemType"_s, Fields::TypeName,
                                MasterTexts::tr("Item Type no longer exists"),
                                MasterTexts::tr("Item type '%1' not found")}};
     kind.record.taken = MasterTexts::tr("Item no. already exists");
@@ -48,13 +50,13 @@ MasterKind describe()
 
     kind.list.screen = u"frmItemsInv"_s;
     kind.list.caption = MasterTexts::tr("Items");
-    kind.list.columns = {{u"ItemNo"_s, MasterTexts::tr("Item no."), 110},
-                         {u"ItemDescription"_s, MasterTexts::tr("Description"), 300},
-                         {u"UnitPrice"_s, MasterTexts::tr("Unit Price"), 110, Qt::AlignRight}};
-    kind.list.orders = {{u"ItemNo"_s, MasterTexts::tr("&Item no."), u"mnuSortItemNo"_s},
+    kind.list.columns = {{Fields::ItemNo, MasterTexts::tr("Item no."), 110},
+                         {Fields::ItemDescription, MasterTexts::tr("Description"), 300},
+                         {Fields::UnitPrice, MasterTexts::tr("Unit Price"), 110, Qt::AlignRight}};
+    kind.list.orders = {{Fields::ItemNo, MasterTexts::tr("&Item no."), u"mnuSortItemNo"_s},
                         {u"ItemDescription1"_s, MasterTexts::tr("&Description"), u"mnuSortDescription"_s}};
     kind.list.report = u"TrptItems"_s;
-    kind.list.filterField = u"ItemTypeID"_s;
+    kind.list.filterField = Fields::ItemTypeID;
     kind.list.notSuspended = u"(Suspended = false)"_s;
     // Nothing keeps an item from being deleted, not even its movements.
 
@@ -64,8 +66,8 @@ MasterKind describe()
     kind.command.isMain = true;
     kind.command.reopening = MasterKind::Reopening::LiftFilter;
 
-    kind.files.systemFields = {u"ItemID"_s, u"SalesGLAccountID"_s, u"COGSGLAccountID"_s, u"InventoryGLAccountID"_s,
-                               u"UnitPrice"_s};
+    kind.files.systemFields = {Fields::ItemID, Fields::SalesGLAccountID, Fields::COGSGLAccountID,
+                               Fields::InventoryGLAccountID, Fields::UnitPrice};
     return kind;
 }
 

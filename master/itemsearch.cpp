@@ -1,5 +1,7 @@
 #include "master/itemsearch.h"
 
+#include "data/fields.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
@@ -8,8 +10,8 @@ ItemSearch::ItemSearch(Engine::Database &database)
     : m_items(database, u"Item"_s)
 {
     m_items.setIndex(u"ITEMNO"_s);
-    m_items.addLookup(u"TypeName"_s, Engine::FieldType::Text, 40,
-                      {u"ItemTypeID"_s, u"ItemType"_s, u"ItemTypeID"_s, u"TypeName"_s});
+    m_items.addLookup(Fields::TypeName, Engine::FieldType::Text, 40,
+                      {Fields::ItemTypeID, u"ItemType"_s, Fields::ItemTypeID, Fields::TypeName});
 }
 
 void ItemSearch::open() { m_items.isOpen() ? m_items.refresh() : m_items.open(); }
@@ -26,11 +28,11 @@ void ItemSearch::setItemId(int itemId)
         m_items.first();
 }
 
-bool ItemSearch::typeItemNo(const QString &text) { return type(u"ITEMNO"_s, u"ItemNo"_s, text); }
+bool ItemSearch::typeItemNo(const QString &text) { return type(u"ITEMNO"_s, Fields::ItemNo, text); }
 
 bool ItemSearch::typeDescription(const QString &text)
 {
-    return type(u"ITEMDESCRIPTION1"_s, u"ItemDescription"_s, text);
+    return type(u"ITEMDESCRIPTION1"_s, Fields::ItemDescription, text);
 }
 
 bool ItemSearch::type(const QString &index, const QString &field, const QString &text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/fields.h"
 #include "engine/table.h"
 
 #include <QString>
@@ -19,7 +20,7 @@ public:
 
     // The item under the cursor. An item that does not exist moves to the first.
     void setItemId(int itemId);
-    int itemId() const { return m_items.integer(u"ItemID"); }
+    int itemId() const { return m_items.integer(Fields::ItemID); }
 
     // What has been typed so far in a search box. Moves to the first item that begins with it, upper and lower case
     // being different; false, and no move, when there is none: time to beep.

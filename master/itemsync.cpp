@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "base/trace.h"
+#include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/error.h"
 #include "engine/query.h"
@@ -16,7 +17,7 @@ namespace Tallymere {
 
 namespace {
 
-constexpr QStringView nextItemID = u"NextItemID";
+constexpr QStringView nextItemID = Fields::NextItemID;
 
 } // namespace
 
@@ -95,7 +96,7 @@ std::vector<ItemSync::HostItem> ItemSync::readNewItems() const
     while (row->next()) {
         const qint64 id = row->intAt(0);
         if (items.empty() || items.back().id != id)
-            items.push_back({id, hostText(*row, 1, Layouts::item(), u"ItemDescription"),
+            items.push_back({id, hostText(*row, 1, Layouts::item(), Fields::ItemDescription),
                              Engine::Money::fromDouble(row->isNull(2) ? 0 : row->doubleAt(2)),
                              typeOfNewItem(row->textAt(3))});
     }

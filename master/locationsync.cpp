@@ -1,5 +1,6 @@
 #include "master/locationsync.h"
 
+#include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/query.h"
 #include "master/hoststatements.h"
@@ -52,7 +53,7 @@ std::vector<LocationSync::Place> LocationSync::readNewPlaces() const
     while (row->next()) {
         const qint64 id = row->intAt(0);
         if (places.empty() || places.back().id != id)
-            places.push_back({id, hostText(*row, 1, Layouts::warehse(), u"WarehouseName")});
+            places.push_back({id, hostText(*row, 1, Layouts::warehse(), Fields::WarehouseName)});
     }
     return places;
 }

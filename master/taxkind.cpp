@@ -1,6 +1,7 @@
 #include "master/masterkinds.h"
 
 #include "base/formats.h"
+#include "data/fields.h"
 #include "master/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -11,8 +12,8 @@ namespace {
 
 void formatFields(Engine::Table &tax)
 {
-    tax.field(u"Rate").format = quantityFormat();
-    tax.field(u"TaxCode").format = lettersFormat(MasterTexts::tr("Code"), u"TaxCode"_s);
+    tax.field(Fields::Rate).format = quantityFormat();
+    tax.field(Fields::TaxCode).format = lettersFormat(MasterTexts::tr("Code"), Fields::TaxCode);
 }
 
 MasterKind describe()
@@ -21,26 +22,26 @@ MasterKind describe()
     kind.name = u"taxes"_s;
     kind.oneName = u"tax"_s;
     kind.table = u"Tax"_s;
-    kind.keyField = u"TaxID"_s;
-    kind.nameFields = {u"TaxName"_s};
+    kind.keyField = Fields::TaxID;
+    kind.nameFields = {Fields::TaxName};
     kind.formatFields = formatFields;
 
     kind.record.screen = u"frmTaxInv"_s;
     kind.record.caption = MasterTexts::tr("Tax");
     kind.record.newCaption = MasterTexts::tr("New Tax");
     // A rate of 0 counts as missing.
-    kind.record.required = {{u"TaxName"_s, MasterTexts::tr("Field 'Tax Name' must have a value")},
-                            {u"TaxCode"_s, MasterTexts::tr("Field 'Code' must have a value")},
-                            {u"TaxDescription"_s, MasterTexts::tr("Field 'Description' must have a value")},
-                            {u"Rate"_s, MasterTexts::tr("Field 'Rate' must have a value")}};
+    kind.record.required = {{Fields::TaxName, MasterTexts::tr("Field 'Tax Name' must have a value")},
+                            {Fields::TaxCode, MasterTexts::tr("Field 'Code' must have a value")},
+                            {Fields::TaxDescription, MasterTexts::tr("Field 'Description' must have a value")},
+                            {Fields::Rate, MasterTexts::tr("Field 'Rate' must have a value")}};
     kind.record.taken = MasterTexts::tr("Tax already exists");
 
     kind.list.screen = u"frmTaxesInv"_s;
     kind.list.caption = MasterTexts::tr("Taxes");
-    kind.list.columns = {{u"TaxName"_s, MasterTexts::tr("Name"), 170},
-                         {u"Rate"_s, MasterTexts::tr("Rate"), 70, Qt::AlignRight},
-                         {u"TaxCode"_s, MasterTexts::tr("Code"), 50},
-                         {u"TaxDescription"_s, MasterTexts::tr("Description"), 190}};
+    kind.list.columns = {{Fields::TaxName, MasterTexts::tr("Name"), 170},
+                         {Fields::Rate, MasterTexts::tr("Rate"), 70, Qt::AlignRight},
+                         {Fields::TaxCode, MasterTexts::tr("Code"), 50},
+                         {Fields::TaxDescription, MasterTexts::tr("Description"), 190}};
     kind.list.orders = {{u"TaxName1"_s}};
     kind.list.undeletable = MasterTexts::tr("Unable to delete tax '%1'...");
     kind.list.refusals = {
@@ -51,7 +52,7 @@ MasterKind describe()
     kind.command.caption = MasterTexts::tr("Edit Taxes");
     kind.command.rights = u"Taxes"_s;
 
-    kind.files.systemFields = {u"TaxID"_s, u"TaxGLAccountID"_s};
+    kind.files.systemFields = {Fields::TaxID, Fields::TaxGLAccountID};
     return kind;
 }
 

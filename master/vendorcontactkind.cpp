@@ -1,6 +1,7 @@
 #include "master/masterkinds.h"
 
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "data/personname.h"
 #include "master/texts.h"
 
@@ -13,7 +14,7 @@ namespace {
 void requireName(const Engine::Table &contact)
 {
     if (contact.text(u"FullName").trimmed().isEmpty())
-        throw RuleError(MasterTexts::tr("Field 'Contact Name' must have a value"), u"FirstName"_s);
+        throw RuleError(MasterTexts::tr("Field 'Contact Name' must have a value"), Fields::FirstName);
 }
 
 MasterKind describe()
@@ -22,7 +23,7 @@ MasterKind describe()
     kind.name = u"contacts"_s;
     kind.oneName = u"contact"_s;
     kind.table = u"VContact"_s;
-    kind.keyField = u"ContactID"_s;
+    kind.keyField = Fields::ContactID;
     kind.record.keyByEngine = true;
     kind.nameFields = {u"FullName"_s};
     kind.addFields = [](Engine::Table &table) {
@@ -33,18 +34,18 @@ MasterKind describe()
     kind.record.caption = MasterTexts::tr("Vendor Contact");
     kind.record.newCaption = MasterTexts::tr("New Contact");
     kind.record.namesCaption = false;
-    kind.record.required = {{u"VendorID"_s, MasterTexts::tr("Field 'Vendor' must have a value")}};
+    kind.record.required = {{Fields::VendorID, MasterTexts::tr("Field 'Vendor' must have a value")}};
     kind.record.check = requireName;
-    kind.record.references = {{u"VendorID"_s, u"Vendor"_s, u"VendorNo"_s,
+    kind.record.references = {{Fields::VendorID, u"Vendor"_s, Fields::VendorNo,
                                MasterTexts::tr("Vendor no longer exists"), MasterKinds::vendor().record.notFound}};
 
-    kind.list.columns = {{u"LastName"_s, MasterTexts::tr("Last Name"), 160},
-                         {u"FirstName"_s, MasterTexts::tr("First Name"), 120},
-                         {u"JobTitle"_s, MasterTexts::tr("Job Title"), 200},
-                         {u"BusinessPhone"_s, MasterTexts::tr("Phone"), 120}};
+    kind.list.columns = {{Fields::LastName, MasterTexts::tr("Last Name"), 160},
+                         {Fields::FirstName, MasterTexts::tr("First Name"), 120},
+                         {Fields::JobTitle, MasterTexts::tr("Job Title"), 200},
+                         {Fields::BusinessPhone, MasterTexts::tr("Phone"), 120}};
     kind.list.orders = {{u"VendorIDFullName"_s}};
 
-    kind.files.systemFields = {u"ContactID"_s};
+    kind.files.systemFields = {Fields::ContactID};
     return kind;
 }
 

@@ -1,6 +1,7 @@
 #include "master/yearend.h"
 
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "master/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -30,7 +31,7 @@ YearEnd::YearEnd(Engine::Table &company)
 
 bool YearEnd::isUnderWay() { return underWay; }
 
-bool YearEnd::isPossible() const { return m_company.integer(u"FiscalYear") > 0; }
+bool YearEnd::isPossible() const { return m_company.integer(Fields::FiscalYear) > 0; }
 
 void YearEnd::run(const std::function<bool()> &yearEndScreen, Prompts &prompts)
 {
@@ -42,7 +43,7 @@ void YearEnd::run(const std::function<bool()> &yearEndScreen, Prompts &prompts)
 
 QString YearEnd::question() const
 {
-    const int year = m_company.integer(u"FiscalYear");
+    const int year = m_company.integer(Fields::FiscalYear);
     const QString text = MasterTexts::tr(
         "Year End: Permanently close %1?\n\nGL balances have been carried forward, etc. so you can now print "
         "financial statements for %2.  You can leave %1 open if there will be more transactions.");
@@ -53,12 +54,12 @@ QString YearEnd::question() const
 void YearEnd::moveOn()
 {
     m_company.edit();
-    const int year = m_company.integer(u"FiscalYear") + 1;
-    m_company.set(u"FiscalYear", year);
-    if (m_company.integer(u"DefaultPeriodYYYY") > 0)
-        m_company.set(u"DefaultPeriodYYYY", year);
-    if (m_company.integer(u"DefaultPeriodPP") > 0)
-        m_company.set(u"DefaultPeriodPP", 1);
+    const int year = m_company.integer(Fields::FiscalYear) + 1;
+    m_company.set(Fields::FiscalYear, year);
+    if (m_company.integer(Fields::DefaultPeriodYYYY) > 0)
+        m_company.set(Fields::DefaultPeriodYYYY, year);
+    if (m_company.integer(Fields::DefaultPeriodPP) > 0)
+        m_company.set(Fields::DefaultPeriodPP, 1);
     for (const auto bound : {"WPeriodFrom"_L1, "WPeriodTo"_L1, "EPeriodFrom"_L1, "EPeriodTo"_L1}) {
         m_company.set(QString(bound + "YYYY"_L1), year);
         m_company.set(QString(bound + "PP"_L1), 1);

@@ -1,6 +1,7 @@
 #include "host/sample/kitchenbooks.h"
 
 #include "base/rounding.h"
+#include "data/fields.h"
 #include "data/fiscalperiod.h"
 #include "data/numbercounter.h"
 #include "data/transtypes.h"
@@ -29,24 +30,24 @@ Value typeValue(TransType type) { return static_cast<int>(type); }
 KitchenBooks::KitchenBooks(Engine::Database &database)
     : m_database(database)
     , m_receipts(database.connection(), u"IReceipt"_s,
-                 {u"ReceiptID"_s, u"ReceiptNo"_s, u"GLYear"_s, u"GLPeriod"_s, u"ReceiptDate"_s,
-                  u"PurchaseOrderNo"_s, u"VendorID"_s, u"WarehouseID"_s, u"Posted"_s})
+                 {Fields::ReceiptID, Fields::ReceiptNo, Fields::GLYear, Fields::GLPeriod, Fields::ReceiptDate,
+                  Fields::PurchaseOrderNo, Fields::VendorID, Fields::WarehouseID, Fields::Posted})
     , m_receiptLines(database.connection(), u"IRecDet"_s,
-                     {u"ReceiptID"_s, u"Seq"_s, u"ItemID"_s, u"QtyReceived"_s, u"UnitCost"_s})
+                     {Fields::ReceiptID, Fields::Seq, Fields::ItemID, Fields::QtyReceived, Fields::UnitCost})
     , m_usages(database.connection(), u"IUsage"_s,
-               {u"UsageID"_s, u"UsageNo"_s, u"WarehouseID"_s, u"Description"_s, u"InventoryDate"_s,
-                u"InvoiceAmount"_s, u"GLPeriod"_s, u"GLYear"_s, u"Printed"_s, u"Posted"_s})
+               {Fields::UsageID, Fields::UsageNo, Fields::WarehouseID, Fields::Description, Fields::InventoryDate,
+                Fields::InvoiceAmount, Fields::GLPeriod, Fields::GLYear, Fields::Printed, Fields::Posted})
     , m_usageLines(database.connection(), u"IUsageDet"_s,
-                   {u"UsageID"_s, u"Seq"_s, u"Quantity"_s, u"ItemID"_s, u"UnitCost"_s})
+                   {Fields::UsageID, Fields::Seq, Fields::Quantity, Fields::ItemID, Fields::UnitCost})
     , m_adjustments(database.connection(), u"IAdjust"_s,
-                    {u"AdjustmentID"_s, u"GLYear"_s, u"GLPeriod"_s, u"AdjDate"_s, u"AdjDescription"_s,
-                     u"WarehouseID"_s, u"Posted"_s})
+                    {Fields::AdjustmentID, Fields::GLYear, Fields::GLPeriod, Fields::AdjDate,
+                     Fields::AdjDescription, Fields::WarehouseID, Fields::Posted})
     , m_adjustmentLines(database.connection(), u"IAdjDet"_s,
-                        {u"AdjustmentID"_s, u"Seq"_s, u"ItemID"_s, u"Quantity"_s})
+                        {Fields::AdjustmentID, Fields::Seq, Fields::ItemID, Fields::Quantity})
     , m_history(database.connection(), u"IHist"_s,
-                {u"ItemID"_s, u"WarehouseID"_s, u"GLYear"_s, u"GLPeriod"_s, u"TransType"_s, u"TransDate"_s,
-                 u"Quantity"_s, u"UnitCost"_s, u"TransDescription"_s, u"ReceiptID"_s, u"AdjustmentID"_s,
-                 u"UsageID"_s})
+                {Fields::ItemID, Fields::WarehouseID, Fields::GLYear, Fields::GLPeriod, Fields::TransType,
+                 Fields::TransDate, Fields::Quantity, Fields::UnitCost, Fields::TransDescription, Fields::ReceiptID,
+                 Fields::AdjustmentID, Fields::UsageID})
 {
     readCounters();
 }
@@ -55,28 +56,28 @@ KitchenBooks::KitchenBooks(Engine::Database &database)
 void KitchenBooks::readCounters()
 {
     takeNumbers(m_database, u"ItemCtl"_s, [this](CounterRow &counters) {
-        counters.restartOutside(u"NextInvReceiptNo", lowestNumber, highestNumber, lowestNumber);
-        m_receiptNo = counters.value(u"NextInvReceiptNo");
-        m_receiptId = std::max<qint64>(1, counters.value(u"NextInvReceiptID"));
-        m_adjustmentId = std::max<qint64>(1, counters.value(u"NextInvAdjustmentID"));
+        counters.restartOutside(Fields::NextInvReceiptNo, lowestNumber, highestNumber, lowestNumber);
+        m_receiptNo = counters.value(Fields::NextInvReceiptNo);
+        m_receiptId = std::max<qint64>(1, counters.value(Fields::NextInvReceiptID));
+        m_adjustmentId = std::max<qint64>(1, counters.value(Fields::NextInvAdjustmentID));
     });
     takeNumbers(m_database, u"ARInvCtl"_s, [this](CounterRow &counters) {
-        counters.restartOutside(u"NextInvoiceNo", lowestNumber, highestNumber, usageRestart);
-        m_usageNo = counters.value(u"NextInvoiceNo");
-        m_usageId = std::max<qint64>(1, counters.value(u"NextInvoiceID"));
+        counters.restartOutside(Fields::NextInvoiceNo, lowestNumber, highestNumber, usageRestart);
+        m_usageNo = counters.value(Fields::NextInvoiceNo);
+        m_usageId = std::max<qint64>(1, counters.value(Fields::NextInvoiceID));
     });
 }
 
 void KitchenBooks::writeCounters()
 {
     takeNumbers(m_database, u"ItemCtl"_s, [this](CounterRow &counters) {
-        counters.set(u"NextInvReceiptNo", m_receiptNo);
-        counters.set(u"NextInvReceiptID", m_receiptId);
-        counters.set(u"NextInvAdjustmentID", m_adjustmentId);
+        counters.set(Fields::NextInvReceiptNo, m_receiptNo);
+        counters.set(Fields::NextInvReceiptID, m_receiptId);
+        counters.set(Fields::NextInvAdjustmentID, m_adjustmentId);
     });
     takeNumbers(m_database, u"ARInvCtl"_s, [this](CounterRow &counters) {
-        counters.set(u"NextInvoiceNo", m_usageNo);
-        counters.set(u"NextInvoiceID", m_usageId);
+        counters.set(Fields::NextInvoiceNo, m_usageNo);
+        counters.set(Fields::NextInvoiceID, m_usageId);
     });
 }
 

@@ -1,5 +1,6 @@
 #include "host/sample/largecatalogue.h"
 
+#include "data/fields.h"
 #include "data/numbercounter.h"
 #include "engine/query.h"
 #include "host/sample/bulkinsert.h"
@@ -129,16 +130,16 @@ void fillCatalogue(Engine::Database &database, int itemCount, Chance &chance)
     const int there = Engine::singleValue(database, u"SELECT count(*) FROM Item"_s).toInt();
     qint64 key = 0;
     takeNumbers(database, u"ItemCtl"_s, [&](CounterRow &counters) {
-        key = counters.value(u"NextItemID");
-        counters.set(u"NextItemID", key + itemCount - there);
+        key = counters.value(Fields::NextItemID);
+        counters.set(Fields::NextItemID, key + itemCount - there);
     });
 
     Engine::Connection &connection = database.connection();
     const QHash<QString, qint64> types = typeKeys(connection);
     Engine::Transaction transaction(connection);
-    BulkInsert items(
-        connection, u"Item"_s,
-        {u"ItemID"_s, u"ItemNo"_s, u"ItemDescription"_s, u"ItemTypeID"_s, u"StandardCost"_s, u"Suspended"_s});
+    BulkInsert items(connection, u"Item"_s,
+                     {Fields::ItemID, Fields::ItemNo, Fields::ItemDescription, Fields::ItemTypeID,
+                      Fields::StandardCost, Fields::Suspended});
     Products products;
     for (int i = there; i < itemCount; ++i) {
         const Product product = products.next();
@@ -156,7 +157,7 @@ void fillLocations(Engine::Database &database, int locationCount)
     location.open();
     for (int i = location.table().recordCount(); i < locationCount; ++i) {
         location.newRecord();
-        location.table().set(u"WarehouseName", u"Reserve Store %1"_s.arg(i));
+        location.table().set(Fields::WarehouseName, u"Reserve Store %1"_s.arg(i));
         location.save();
     }
 }

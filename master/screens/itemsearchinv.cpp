@@ -2,6 +2,7 @@
 
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "data/lookupsdatainv.h"
 #include "ui_itemsearchinv.h"
 
@@ -20,11 +21,11 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
     resize(scaled(this, 580), scaled(this, 420));
     m_search.open();
     m_ui->DBGrid1->setDataSet(m_search.items(),
-                              {{u"ItemNo"_s, tr("Item no."), 110},
-                               {u"ItemDescription"_s, tr("Description"), 290},
-                               {u"TypeName"_s, tr("Item Type"), 120}},
+                              {{Fields::ItemNo, tr("Item no."), 110},
+                               {Fields::ItemDescription, tr("Description"), 290},
+                               {Fields::TypeName, tr("Item Type"), 120}},
                               guard());
-    m_ui->cboItemType->setList(context.lookups.tblItemType(), {{u"TypeName"_s, tr("Item Type"), 180}}, guard());
+    m_ui->cboItemType->setList(context.lookups.tblItemType(), {{Fields::TypeName, tr("Item Type"), 180}}, guard());
 
     connect(m_ui->editFindItemNo, &QLineEdit::textEdited, this, &TfrmItemSearchInv::typeItemNo);
     connect(m_ui->editFindItemDescription, &QLineEdit::textEdited, this, &TfrmItemSearchInv::typeDescription);
@@ -92,7 +93,7 @@ void TfrmItemSearchInv::continueTyping()
 void TfrmItemSearchInv::typeItemNo(const QString &text)
 {
     if (std::exchange(m_erases, false))
-        m_missed = m_missed && !m_search.items().text(u"ItemNo").startsWith(text);
+        m_missed = m_missed && !m_search.items().text(Fields::ItemNo).startsWith(text);
     else
         guard().run([&] { noteFound(m_search.typeItemNo(text)); });
 }
@@ -100,7 +101,7 @@ void TfrmItemSearchInv::typeItemNo(const QString &text)
 void TfrmItemSearchInv::typeDescription(const QString &text)
 {
     if (std::exchange(m_erases, false))
-        m_missed = m_missed && !m_search.items().text(u"ItemDescription").startsWith(text);
+        m_missed = m_missed && !m_search.items().text(Fields::ItemDescription).startsWith(text);
     else
         guard().run([&] { noteFound(m_search.typeDescription(text)); });
 }

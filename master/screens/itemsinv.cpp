@@ -1,6 +1,7 @@
 #include "master/screens/itemsinv.h"
 
 #include "controls/listbuttons.h"
+#include "data/fields.h"
 #include "master/masterkinds.h"
 #include "master/screens/iteminv.h"
 #include "master/screens/itemsfind.h"
@@ -62,7 +63,7 @@ TfrmItemsFilter::TfrmItemsFilter(ScreenContext &context, QWidget *parent)
                    {.name = u"frmItemsFilter"_s,
                     .caption = tr("Items Filter"),
                     .boxes = {{.name = u"cboItemType"_s, .label = tr("Item &Type:"), .list = u"ItemType"_s}},
-                    .mark = u"Suspended"_s,
+                    .mark = Fields::Suspended,
                     .markLabel = tr("Suspended")},
                    parent)
 {

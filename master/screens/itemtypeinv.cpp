@@ -1,5 +1,6 @@
 #include "master/screens/itemtypeinv.h"
 
+#include "data/fields.h"
 #include "ui_itemtypeinv.h"
 
 namespace Tallymere {
@@ -17,6 +18,9 @@ TfrmItemTypeInv::TfrmItemTypeInv(ScreenContext &context, QWidget *parent)
 
 TfrmItemTypeInv::~TfrmItemTypeInv() = default;
 
-void TfrmItemTypeInv::showRecord() { m_ui->radioCostingMethod->setEnabled(record().table().boolean(u"Inventory")); }
+void TfrmItemTypeInv::showRecord()
+{
+    m_ui->radioCostingMethod->setEnabled(record().table().boolean(Fields::Inventory));
+}
 
 } // namespace Tallymere

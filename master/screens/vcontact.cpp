@@ -1,5 +1,6 @@
 #include "master/screens/vcontact.h"
 
+#include "data/fields.h"
 #include "master/masterkinds.h"
 #include "master/screens/addressbuttons.h"
 #include "ui_vcontact.h"
@@ -21,7 +22,7 @@ void TfrmVContact::newContact(int vendorId, const QString &vendorName)
 {
     m_vendorName = vendorName;
     newRecord();
-    record().table().setDefault(u"VendorID", vendorId);
+    record().table().setDefault(Fields::VendorID, vendorId);
 }
 
 QString TfrmVContact::caption() const

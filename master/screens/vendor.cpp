@@ -4,6 +4,7 @@
 #include "controls/listgrid.h"
 #include "controls/recordopener.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "master/masterkinds.h"
 #include "master/screens/addressbuttons.h"
 #include "master/screens/dialerinv.h"
@@ -40,7 +41,7 @@ TfrmVendor::~TfrmVendor()
 void TfrmVendor::buildContacts()
 {
     m_contacts.open();
-    m_contacts.table().setMaster(&record().table(), u"VendorID"_s);
+    m_contacts.table().setMaster(&record().table(), Fields::VendorID);
     m_ui->DBGrid1->setDataSet(m_contacts.table(), m_contacts.kind().list.columns, guard());
     m_ui->DBGrid1->setHint(tr("No contacts yet. Press New to add one."));
     connectGuarded(m_ui->DBGrid1, &ListGrid::chosen, this, &TfrmVendor::btnEditClick);
@@ -57,14 +58,14 @@ void TfrmVendor::buildContactPopup()
     addToPopup(u"mnuDelete"_s, tr("Delete"), [this] { btnDeleteClick(); });
     const Engine::Table &contact = m_contacts.table();
     QAction *phone = addToPopup(u"mnuPhone"_s, tr("Phone"), [this, &contact] {
-        dialPhone(context(), contact.text(u"FullName"), contact.text(u"BusinessPhone"), this);
+        dialPhone(context(), contact.text(u"FullName"), contact.text(Fields::BusinessPhone), this);
     });
-    QAction *mail =
-        addToPopup(u"mnuEMail"_s, tr("E-Mail"), [this, &contact] { mailTo(context(), contact.text(u"EMail")); });
+    QAction *mail = addToPopup(u"mnuEMail"_s, tr("E-Mail"),
+                               [this, &contact] { mailTo(context(), contact.text(Fields::EMail)); });
 
     const auto showReach = [this, &contact, phone, mail] {
-        phone->setEnabled(!contact.text(u"BusinessPhone").isEmpty());
-        mail->setEnabled(context().openObject && !contact.text(u"EMail").isEmpty());
+        phone->setEnabled(!contact.text(Fields::BusinessPhone).isEmpty());
+        mail->setEnabled(context().openObject && !contact.text(Fields::EMail).isEmpty());
     };
     connect(&contact, &Engine::DataSet::currentChanged, this, showReach);
     showReach();
@@ -94,7 +95,7 @@ void TfrmVendor::btnNewClick()
 {
     requireSavedVendor();
     auto card = m_contactCards->make();
-    static_cast<TfrmVContact &>(*card).newContact(key(), record().table().text(u"VendorName"));
+    static_cast<TfrmVContact &>(*card).newContact(key(), record().table().text(Fields::VendorName));
     card.release()->show();
 }
 

@@ -1,5 +1,6 @@
 #include "master/screens/vendors.h"
 
+#include "data/fields.h"
 #include "data/lookupsdatainv.h"
 #include "master/masterkinds.h"
 #include "master/screens/vendor.h"
@@ -23,7 +24,7 @@ TfrmVendorsFilter::TfrmVendorsFilter(ScreenContext &context, QWidget *parent)
                    {.name = u"frmVendorsFilter"_s,
                     .caption = tr("Vendors Filter"),
                     .boxes = {{.name = u"cboCurrency"_s, .label = tr("C&urrency:"), .list = u"Currency"_s}},
-                    .mark = u"Suspended"_s,
+                    .mark = Fields::Suspended,
                     .markLabel = tr("Suspended")},
                    parent)
 {

@@ -1,5 +1,6 @@
 #include "transactions/screens/documentfilterscreen.h"
 
+#include "data/fields.h"
 #include "transactions/documentkind.h"
 
 using namespace Qt::StringLiterals;
@@ -11,7 +12,7 @@ DocumentFilterScreen::DocumentFilterScreen(ScreenContext &context, const Documen
                    {.name = kind.list.filter.screen,
                     .caption = kind.list.filter.caption,
                     .boxes = kind.list.filter.boxes,
-                    .mark = u"Posted"_s,
+                    .mark = Fields::Posted,
                     .markLabel = tr("Posted")},
                    parent)
 {

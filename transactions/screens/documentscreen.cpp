@@ -6,6 +6,7 @@
 #include "controls/lookuplists.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "data/lookupsdatainv.h"
 #include "master/screens/itemsearchinv.h"
 
@@ -21,8 +22,8 @@ using Engine::LocateOptions;
 namespace Tallymere {
 
 namespace {
-constexpr QStringView numberColumn = u"ItemNo";
-constexpr QStringView descriptionField = u"ItemDescription"; // of an item, and of a line by lookup
+constexpr QStringView numberColumn = Fields::ItemNo;
+constexpr QStringView descriptionField = Fields::ItemDescription; // of an item, and of a line by lookup
 constexpr int rowsAtFirst = 5;
 constexpr int columnsAtFirst = 5; // further ones take the room of the one with surplus
 } // namespace
@@ -191,7 +192,7 @@ QString DocumentScreen::completeDescription(const QString &field, const QString 
 
 bool DocumentScreen::searchItem(const QString &typed)
 {
-    const int itemId = TfrmItemSearchInv::choose(context(), this, m_entry->lines().integer(u"ItemID"), typed);
+    const int itemId = TfrmItemSearchInv::choose(context(), this, m_entry->lines().integer(Fields::ItemID), typed);
     if (itemId == 0)
         return false;
     m_entry->setLineColumn(numberColumn.toString());

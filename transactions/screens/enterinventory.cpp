@@ -7,6 +7,7 @@
 #include "controls/screenmetrics.h"
 #include "controls/typing.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "engine/error.h"
 #include "transactions/documentkinds.h"
 #include "transactions/screens/countsearch.h"
@@ -282,7 +283,7 @@ void TFormEnterInventory::countItem(int item, std::optional<double> quantity)
     if (quantity) {
         const std::optional<QString> question = m_count.questionOf(item, *quantity);
         if (question && !context().prompts.confirm(Question::Warning, *question))
-            throw SilentAbort(u"Quantity"_s);
+            throw SilentAbort(Fields::Quantity);
         m_count.count(item, *quantity);
     } else {
         m_count.forgetCount(item);

@@ -2,6 +2,7 @@
 
 #include "controls/recordopener.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "transactions/documentkind.h"
 #include "transactions/screens/documentscreen.h"
 #include "transactions/screens/documentscreens.h"
@@ -26,15 +27,16 @@ ListDescription TfrmInvHistory::description()
     return {
         .name = u"frmInvHistory"_s,
         .caption = tr("Inventory History"),
-        .columns = {{u"Periodppyyyy"_s, tr("Period"), 70},
-                    {u"TransDate"_s, tr("Date"), 85},
-                    {u"ItemNo"_s, tr("Item no."), 90},
-                    {.field = u"ItemDescription"_s, .title = tr("Description"), .width = 250, .takesSurplus = true},
-                    {u"TransType"_s, tr("Type"), 75},
-                    {u"Quantity"_s, tr("Quantity"), 80, Qt::AlignRight},
-                    {u"UnitCost"_s, tr("Unit Cost"), 80, Qt::AlignRight},
-                    {u"WarehouseName"_s, tr("Location"), 185},
-                    {u"TransDescription"_s, tr("Transaction Description"), 200}},
+        .columns =
+            {{u"Periodppyyyy"_s, tr("Period"), 70},
+             {Fields::TransDate, tr("Date"), 85},
+             {Fields::ItemNo, tr("Item no."), 90},
+             {.field = Fields::ItemDescription, .title = tr("Description"), .width = 250, .takesSurplus = true},
+             {Fields::TransType, tr("Type"), 75},
+             {Fields::Quantity, tr("Quantity"), 80, Qt::AlignRight},
+             {Fields::UnitCost, tr("Unit Cost"), 80, Qt::AlignRight},
+             {Fields::WarehouseName, tr("Location"), 185},
+             {Fields::TransDescription, tr("Transaction Description"), 200}},
         .buttons = stockButtons(),
         .menus = {fileMenu(u"TrptInvHistory"_s),
                   stockRecordsMenu(),
@@ -70,7 +72,7 @@ void TfrmInvHistory::open(const HistoryView::Source &source)
     const int item = m_view.itemId();
     const double quantity = m_view.quantity();
     RecordScreen &screen = RecordOpener(context(), recordScreens(*source.kind), this)
-                               .open(source.key, m_view.table().text(u"TransDescription"));
+                               .open(source.key, m_view.table().text(Fields::TransDescription));
     if (auto *document = qobject_cast<DocumentScreen *>(&screen))
         document->showLineOf(item, quantity);
 }

@@ -1,6 +1,7 @@
 #include "transactions/screens/invreceipt.h"
 
 #include "controls/screenmetrics.h"
+#include "data/fields.h"
 #include "data/lookupsdatainv.h"
 #include "transactions/documentkinds.h"
 #include "transactions/receiptentry.h"
@@ -18,12 +19,12 @@ TfrmInvReceipt::TfrmInvReceipt(ScreenContext &context, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->cboVendor->setList(context.lookups.tblVendor(),
-                             {{u"VendorName"_s, tr("Vendor"), 220}, {u"VendorNo"_s, tr("Vendor no."), 80}},
+                             {{Fields::VendorName, tr("Vendor"), 220}, {Fields::VendorNo, tr("Vendor no."), 80}},
                              guard());
-    m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), {{u"WarehouseName"_s, tr("Warehouse"), 200}},
+    m_ui->cboWarehouse->setList(context.lookups.tblWarehse(), {{Fields::WarehouseName, tr("Warehouse"), 200}},
                                 guard());
     buildDocument();
-    binder().setEntryRule(u"VendorNo"_s,
+    binder().setEntryRule(Fields::VendorNo,
                           [this](const QString &text) { receipt().chooseVendorByNumber(text.trimmed()); });
 }
 

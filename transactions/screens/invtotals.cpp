@@ -4,6 +4,7 @@
 #include "controls/listbuttons.h"
 #include "controls/screenmetrics.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "transactions/screens/invtotalsfilter.h"
 
 using namespace Qt::StringLiterals;
@@ -19,7 +20,7 @@ TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
     , m_view(context.data.databaseTallymere())
 {
     m_view.open();
-    m_view.query().field(u"QtyOnHand").format = quantityFormat();
+    m_view.query().field(Fields::QtyOnHand).format = quantityFormat();
     build(description(), m_view.query(), [this] { mnuHistoryClick(); });
 }
 
@@ -34,10 +35,10 @@ ListDescription TfrmInvTotals::description()
     return {
         .name = u"frmInvTotals"_s,
         .caption = tr("Inventory Totals"),
-        .columns = {{u"ItemNo"_s, tr("Item no."), 110},
-                    {u"ItemDescription"_s, tr("Description"), 290},
-                    {u"WarehouseName"_s, tr("Location"), 190},
-                    {u"QtyOnHand"_s, tr("Quantity On Hand"), 130, Qt::AlignRight}},
+        .columns = {{Fields::ItemNo, tr("Item no."), 110},
+                    {Fields::ItemDescription, tr("Description"), 290},
+                    {Fields::WarehouseName, tr("Location"), 190},
+                    {Fields::QtyOnHand, tr("Quantity On Hand"), 130, Qt::AlignRight}},
         .buttons = stockButtons(),
         .menus = {fileMenu(u"TrptInvTotals"_s),
                   stockRecordsMenu(),
@@ -72,8 +73,9 @@ void TfrmInvTotals::mnuHistoryClick()
     const Engine::Query &row = m_view.query();
     if (row.isEmpty() || !context().knows(historyScreen))
         return;
-    showListFiltered(context(), {historyScreen, u"InvHistory/Inventory History"_s},
-                     {{u"ItemID"_s, row.integer(u"ItemID")}, {u"WarehouseID"_s, row.integer(u"WarehouseID")}});
+    showListFiltered(
+        context(), {historyScreen, u"InvHistory/Inventory History"_s},
+        {{Fields::ItemID, row.integer(Fields::ItemID)}, {Fields::WarehouseID, row.integer(Fields::WarehouseID)}});
 }
 
 void TfrmInvTotals::showStep()

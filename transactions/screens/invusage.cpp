@@ -2,6 +2,7 @@
 
 #include "controls/datedialog.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "transactions/documentkinds.h"
 #include "ui_invusage.h"
 
@@ -15,7 +16,7 @@ TfrmUsage::TfrmUsage(ScreenContext &context, QWidget *parent)
     , m_ui(std::make_unique<Ui::TfrmUsage>())
 {
     m_ui->setupUi(this);
-    buildDocument({.passedByEnter = {u"UnitCost"_s}, .searchOnEntering = true, .backToStart = true});
+    buildDocument({.passedByEnter = {Fields::UnitCost}, .searchOnEntering = true, .backToStart = true});
     connectGuarded(m_ui->btnInventoryDate, &QToolButton::clicked, this, &TfrmUsage::btnInventoryDateClick);
 }
 
@@ -29,7 +30,7 @@ void TfrmUsage::showHeader()
 
 void TfrmUsage::btnInventoryDateClick()
 {
-    const QDate preset = entry().header().date(u"InventoryDate");
+    const QDate preset = entry().header().date(Fields::InventoryDate);
     if (const auto date = DateDialog::choose(context(), preset.isValid() ? preset : context().data.today(), this))
         entry().chooseDate(*date);
     m_ui->editInventoryDate->setFocus();

@@ -2,6 +2,7 @@
 
 #include "controls/datedialog.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "transactions/documentkinds.h"
 #include "transactions/usagedeletion.h"
 
@@ -44,7 +45,7 @@ void TfrmUsages::addCommands(ListDescription &description)
 
 ListCommand TfrmUsages::deleteMenu(const ListCommand &selected)
 {
-    const auto isUnposted = [this] { return !list().table().boolean(u"Posted"); };
+    const auto isUnposted = [this] { return !list().table().boolean(Fields::Posted); };
     ListCommand one = selected;
     one.caption = tr("Selected Usage");
     one.available = isUnposted;
