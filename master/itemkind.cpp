@@ -12,7 +12,7 @@ namespace {
 
 void formatFields(Engine::Table &item)
 {
-    for (const QString &field : {Fields::UnitPrice, Fields::WgtAvgCost, Fields::StandardCost})
+    for (const auto &field : {Fields::UnitPrice, Fields::WgtAvgCost, Fields::StandardCost})
         item.field(field).format = currencyFormat(RegionalSettings::system(), field);
     item.field(Fields::TaxCodes).format = lettersFormat(MasterTexts::tr("Tax Codes"), Fields::TaxCodes);
 }
