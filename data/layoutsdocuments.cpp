@@ -25,11 +25,11 @@ const TableLayout &iReceipt()
             Fields::Posted,
         },
         {
-            {{}, u"ReceiptID"_s, Primary},
+            {{}, Fields::ReceiptID, Primary},
             {u"PERIODDATEDESC"_s, u"GLYear;GLPeriod;ReceiptDate;ReceiptNo"_s, Descending},
-            {u"RECEIPTNO"_s, u"ReceiptNo"_s},
-            {u"WAREHOUSEID"_s, u"WarehouseID"_s},
-            {u"POSTED"_s, u"Posted"_s},
+            {u"RECEIPTNO"_s, Fields::ReceiptNo},
+            {u"WAREHOUSEID"_s, Fields::WarehouseID},
+            {u"POSTED"_s, Fields::Posted},
         },
     };
     return layout;
@@ -48,7 +48,7 @@ const TableLayout &iRecDet()
         },
         {
             {{}, u"ReceiptID;Seq"_s, Primary},
-            {u"ITEMID"_s, u"ItemID"_s},
+            {u"ITEMID"_s, Fields::ItemID},
         },
     };
     return layout;
@@ -78,14 +78,14 @@ const TableLayout &iUsage()
             Fields::ExchangeRate,
         },
         {
-            {{}, u"UsageID"_s, Primary},
+            {{}, Fields::UsageID, Primary},
             {u"CUSTOMERIDUSAGENO"_s, u"CustomerID;UsageNo"_s},
-            {u"USAGENO"_s, u"UsageNo"_s},
-            {u"CUSTOMERID"_s, u"CustomerID"_s},
-            {u"GLYEAR"_s, u"GLYear"_s},
-            {u"GLPERIOD"_s, u"GLPeriod"_s},
-            {u"POSTED"_s, u"Posted"_s},
-            {u"PRINTED"_s, u"Printed"_s},
+            {u"USAGENO"_s, Fields::UsageNo},
+            {u"CUSTOMERID"_s, Fields::CustomerID},
+            {u"GLYEAR"_s, Fields::GLYear},
+            {u"GLPERIOD"_s, Fields::GLPeriod},
+            {u"POSTED"_s, Fields::Posted},
+            {u"PRINTED"_s, Fields::Printed},
             {u"INVENTORYDATEUSAGENODESC"_s, u"InventoryDate;UsageNo"_s, Descending},
         },
     };
@@ -107,7 +107,7 @@ const TableLayout &iUsageDet()
         },
         {
             {{}, u"UsageID;Seq"_s, Primary},
-            {u"ITEMID"_s, u"ItemID"_s},
+            {u"ITEMID"_s, Fields::ItemID},
         },
     };
     return layout;
@@ -128,7 +128,7 @@ const TableLayout &usage()
         },
         {
             {{}, u"UsageID;Seq"_s, Primary},
-            {u"ITEMID"_s, u"ItemID"_s},
+            {u"ITEMID"_s, Fields::ItemID},
         },
     };
     return layout;
@@ -148,10 +148,10 @@ const TableLayout &iAdjust()
             Fields::Posted,
         },
         {
-            {{}, u"AdjustmentID"_s, Primary},
+            {{}, Fields::AdjustmentID, Primary},
             {u"PERIODDATEDESC"_s, u"GLYear;GLPeriod;AdjDate;AdjustmentID"_s, Descending},
-            {u"WAREHOUSEID"_s, u"WarehouseID"_s},
-            {u"POSTED"_s, u"Posted"_s},
+            {u"WAREHOUSEID"_s, Fields::WarehouseID},
+            {u"POSTED"_s, Fields::Posted},
         },
     };
     return layout;
@@ -169,7 +169,7 @@ const TableLayout &iAdjDet()
         },
         {
             {{}, u"AdjustmentID;Seq"_s, Primary},
-            {u"ITEMID"_s, u"ItemID"_s},
+            {u"ITEMID"_s, Fields::ItemID},
         },
     };
     return layout;
@@ -196,16 +196,16 @@ const TableLayout &iHist()
             Fields::UsageID,
         },
         {
-            {{}, u"IHistID"_s, Primary},
+            {{}, Fields::IHistID, Primary},
             {u"ITEMIDPERIODDATE"_s, u"ItemID;GLYear;GLPeriod;TransDate"_s},
             {u"ITEMIDWHSEIDPERIODDATE"_s, u"ItemID;WarehouseID;GLYear;GLPeriod;TransDate"_s},
             {u"PERIODDATEDESC"_s, u"GLYear;GLPeriod;TransDate;IHistID"_s, Descending},
-            {u"GLPERIOD"_s, u"GLPeriod"_s},
-            {u"GLYEAR"_s, u"GLYear"_s},
-            {u"ITEMID"_s, u"ItemID"_s},
-            {u"WAREHOUSEID"_s, u"WarehouseID"_s},
-            {u"TRANSTYPE"_s, u"TransType"_s},
-            {u"USAGEID"_s, u"UsageID"_s},
+            {u"GLPERIOD"_s, Fields::GLPeriod},
+            {u"GLYEAR"_s, Fields::GLYear},
+            {u"ITEMID"_s, Fields::ItemID},
+            {u"WAREHOUSEID"_s, Fields::WarehouseID},
+            {u"TRANSTYPE"_s, Fields::TransType},
+            {u"USAGEID"_s, Fields::UsageID},
         },
     };
     return layout;
@@ -222,8 +222,8 @@ const TableLayout &iBalance()
         },
         {
             {{}, u"ItemID;WarehouseID"_s, Primary},
-            {u"ITEMID"_s, u"ItemID"_s},
-            {u"WAREHOUSEID"_s, u"WarehouseID"_s},
+            {u"ITEMID"_s, Fields::ItemID},
+            {u"WAREHOUSEID"_s, Fields::WarehouseID},
         },
     };
     return layout;

@@ -29,13 +29,13 @@ const TableLayout &item()
             Fields::ItemTypeID,
         },
         {
-            {{}, u"ItemID"_s, Primary},
-            {u"ITEMDESCRIPTION1"_s, u"ItemDescription"_s, CaseInsensitive},
-            {u"ITEMTYPEID"_s, u"ItemTypeID"_s},
-            {u"INVENTORYGLACCOUNTID"_s, u"InventoryGLAccountID"_s},
-            {u"COGSGLACCOUNTID"_s, u"COGSGLAccountID"_s},
-            {u"SALESGLACCOUNTID"_s, u"SalesGLAccountID"_s},
-            {u"ITEMNO"_s, u"ItemNo"_s},
+            {{}, Fields::ItemID, Primary},
+            {u"ITEMDESCRIPTION1"_s, Fields::ItemDescription, CaseInsensitive},
+            {u"ITEMTYPEID"_s, Fields::ItemTypeID},
+            {u"INVENTORYGLACCOUNTID"_s, Fields::InventoryGLAccountID},
+            {u"COGSGLACCOUNTID"_s, Fields::COGSGLAccountID},
+            {u"SALESGLACCOUNTID"_s, Fields::SalesGLAccountID},
+            {u"ITEMNO"_s, Fields::ItemNo},
         },
     };
     return layout;
@@ -52,8 +52,8 @@ const TableLayout &itemType()
             Fields::CostingMethod,
         },
         {
-            {{}, u"ItemTypeID"_s, Primary},
-            {u"TYPENAME1"_s, u"TypeName"_s, CaseInsensitive},
+            {{}, Fields::ItemTypeID, Primary},
+            {u"TYPENAME1"_s, Fields::TypeName, CaseInsensitive},
         },
     };
     return layout;
@@ -69,9 +69,9 @@ const TableLayout &warehse()
             Fields::Location_ID,
         },
         {
-            {{}, u"WarehouseID"_s, Primary},
-            {u"WAREHOUSENAME1"_s, u"WarehouseName"_s, CaseInsensitive},
-            {u"LOCATION_ID"_s, u"Location_ID"_s},
+            {{}, Fields::WarehouseID, Primary},
+            {u"WAREHOUSENAME1"_s, Fields::WarehouseName, CaseInsensitive},
+            {u"LOCATION_ID"_s, Fields::Location_ID},
         },
     };
     return layout;
@@ -90,9 +90,9 @@ const TableLayout &tax()
             Fields::TaxGLAccountID,
         },
         {
-            {{}, u"TaxID"_s, Primary},
-            {u"TAXNAME1"_s, u"TaxName"_s, CaseInsensitive},
-            {u"TAXGLACCOUNTID"_s, u"TaxGLAccountID"_s},
+            {{}, Fields::TaxID, Primary},
+            {u"TAXNAME1"_s, Fields::TaxName, CaseInsensitive},
+            {u"TAXGLACCOUNTID"_s, Fields::TaxGLAccountID},
         },
     };
     return layout;
@@ -114,14 +114,14 @@ const TableLayout &currency()
             Fields::DfltWriteOffGLAccountID,
         },
         {
-            {{}, u"CurrencyID"_s, Primary},
-            {u"CURRENCYNAME1"_s, u"CurrencyName"_s, CaseInsensitive},
-            {u"DFLTWRITEOFFGLACCOUNTID"_s, u"DfltWriteOffGLAccountID"_s},
-            {u"ARDISCGLACCOUNTID"_s, u"ARDiscGLAccountID"_s},
-            {u"ARGLACCOUNTID"_s, u"ARGLAccountID"_s},
-            {u"APDISCGLACCOUNTID"_s, u"APDiscGLAccountID"_s},
-            {u"APGLACCOUNTID"_s, u"APGLAccountID"_s},
-            {u"GAINLOSSEXCHANGEGLACCNTID"_s, u"GainLossExchangeGLAccntID"_s},
+            {{}, Fields::CurrencyID, Primary},
+            {u"CURRENCYNAME1"_s, Fields::CurrencyName, CaseInsensitive},
+            {u"DFLTWRITEOFFGLACCOUNTID"_s, Fields::DfltWriteOffGLAccountID},
+            {u"ARDISCGLACCOUNTID"_s, Fields::ARDiscGLAccountID},
+            {u"ARGLACCOUNTID"_s, Fields::ARGLAccountID},
+            {u"APDISCGLACCOUNTID"_s, Fields::APDiscGLAccountID},
+            {u"APGLACCOUNTID"_s, Fields::APGLAccountID},
+            {u"GAINLOSSEXCHANGEGLACCNTID"_s, Fields::GainLossExchangeGLAccntID},
         },
     };
     return layout;
@@ -138,10 +138,10 @@ const TableLayout &bank()
             Fields::CurrencyID,
         },
         {
-            {{}, u"BankID"_s, Primary},
-            {u"BANKNAME1"_s, u"BankName"_s, CaseInsensitive},
-            {u"CURRENCYID"_s, u"CurrencyID"_s},
-            {u"BANKGLACCOUNTID"_s, u"BankGLAccountID"_s},
+            {{}, Fields::BankID, Primary},
+            {u"BANKNAME1"_s, Fields::BankName, CaseInsensitive},
+            {u"CURRENCYID"_s, Fields::CurrencyID},
+            {u"BANKGLACCOUNTID"_s, Fields::BankGLAccountID},
         },
     };
     return layout;
@@ -160,9 +160,9 @@ const TableLayout &glAccnt()
             Fields::Suspended,
         },
         {
-            {{}, u"GLAccountID"_s, Primary},
-            {u"ACCOUNTNAME1"_s, u"AccountName"_s, CaseInsensitive},
-            {u"GLACCOUNT"_s, u"GLAccount"_s},
+            {{}, Fields::GLAccountID, Primary},
+            {u"ACCOUNTNAME1"_s, Fields::AccountName, CaseInsensitive},
+            {u"GLACCOUNT"_s, Fields::GLAccount},
         },
     };
     return layout;
@@ -211,7 +211,7 @@ const TableLayout &company()
             Fields::InvoiceFormat.sized(1),
         },
         {
-            {{}, u"CompanyNo"_s, Primary},
+            {{}, Fields::CompanyNo, Primary},
         },
     };
     return layout;

@@ -64,10 +64,10 @@ const TableLayout &vendor()
             Fields::Suspended,
         },
         {
-            {{}, u"VendorID"_s, Primary},
-            {u"VENDORNO"_s, u"VendorNo"_s},
-            {u"VENDORNAME1"_s, u"VendorName"_s, CaseInsensitive},
-            {u"CURRENCYID"_s, u"CurrencyID"_s},
+            {{}, Fields::VendorID, Primary},
+            {u"VENDORNO"_s, Fields::VendorNo},
+            {u"VENDORNAME1"_s, Fields::VendorName, CaseInsensitive},
+            {u"CURRENCYID"_s, Fields::CurrencyID},
         },
     };
     return layout;
@@ -93,7 +93,7 @@ const TableLayout &salesman()
         u"Salesman"_s,
         QList<FieldDef>{Fields::SalesmanID} + personFields(),
         {
-            {{}, u"SalesmanID"_s, Primary},
+            {{}, Fields::SalesmanID, Primary},
             {u"FULLNAME"_s, u"LastName;FirstName"_s, CaseInsensitive},
         },
     };
@@ -109,7 +109,7 @@ const TableLayout &vBalance()
             Fields::Balance,
         },
         {
-            {{}, u"VendorID"_s, Primary},
+            {{}, Fields::VendorID, Primary},
         },
     };
     return layout;
