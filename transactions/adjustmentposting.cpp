@@ -31,13 +31,8 @@ PostingKind adjustmentPosting()
         .lines = u"IAdjDet L"_s,
         .lineColumns = u"L.ItemID, L.Quantity"_s,
         .transType = TransType::Adjust,
-        .locks =
-            {
-                {u"IAdjust"_s,
-                 TransactionsTexts::tr(
-                     "Unable to lock Adjustments table... this table is being updated by another job.")},
-                balanceLock(),
-            },
+        .tableInUse = TransactionsTexts::tr(
+            "Unable to lock Adjustments table... this table is being updated by another job."),
         .entryOpen =
             TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Inventory Adjustment' form"),
         .toBePosted = TransactionsTexts::tr("%1 adjustment(s) to be posted"),

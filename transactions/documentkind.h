@@ -117,6 +117,7 @@ struct DocumentKind
 
     QString titleOf(const Engine::DataSet &header) const; // "Receipt 1001"
     static FilterBox locationBox();
+    QList<PostingLock> postingLocks() const; // what a posting run holds, in the order in which it is taken
     QStringList keyTables() const { return {headerTable, lineTable}; } // in which a key of a document can stand
     const QString &shownField() const { return numberField ? *numberField : keyField; }
 };

@@ -61,7 +61,7 @@ bool DocumentPosting::run(Prompts &prompts, Progress &progress)
         throw RuleError(m_kind.posting.entryOpen);
 
     Engine::TableLocks locks(m_database);
-    for (const PostingLock &lock : m_kind.posting.locks)
+    for (const PostingLock &lock : m_kind.postingLocks())
         locks.take(lock.table,
                    [&](const Engine::EngineError &) { return prompts.retry(lock.refusalIn(m_database)); });
     progress.start(count());

@@ -72,7 +72,8 @@ struct PostingKind
     QString lines;
     QString lineColumns; // ItemID, quantity, then those of the kind's own, for readLine()
     TransType transType;
-    QList<PostingLock> locks; // in the order they are taken
+    QString tableInUse; // said when another user has the header table
+    QList<PostingLock> furtherLocks = {}; // taken after that table and the balances, in this order
     QString entryOpen; // raised while the entry screen is open
     QString toBePosted; // "%1 receipt(s) to be posted"
     QString onePosted; // "%n receipt posted"

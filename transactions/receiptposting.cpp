@@ -54,15 +54,11 @@ PostingKind receiptPosting()
         .lines = u"IRecDet L"_s,
         .lineColumns = u"L.ItemID, L.QtyReceived, L.UnitCost"_s,
         .transType = TransType::PoReceipt,
-        .locks =
-            {
-                {u"IReceipt"_s,
-                 TransactionsTexts::tr(
-                     "Unable to lock Receipts table... this table is being updated by another job.")},
-                balanceLock(),
-                {u"Item"_s,
-                 TransactionsTexts::tr("Unable to lock Item table... this table is being updated by another job.")},
-            },
+        .tableInUse =
+            TransactionsTexts::tr("Unable to lock Receipts table... this table is being updated by another job."),
+        .furtherLocks = {{u"Item"_s,
+                          TransactionsTexts::tr(
+                              "Unable to lock Item table... this table is being updated by another job.")}},
         .entryOpen =
             TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Inventory Receipt' form"),
         .toBePosted = TransactionsTexts::tr("%1 receipt(s) to be posted"),

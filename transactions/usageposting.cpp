@@ -42,13 +42,8 @@ PostingKind usagePosting()
                  "LEFT OUTER JOIN ItemType T ON S.ItemTypeID = T.ItemTypeID"_s,
         .lineColumns = u"L.ItemID, L.Quantity, L.UnitCost, T.Inventory"_s,
         .transType = TransType::Usage,
-        .locks =
-            {
-                {u"IUsage"_s,
-                 TransactionsTexts::tr(
-                     "Unable to lock Usage Records table... this table is being updated by another job.")},
-                balanceLock(),
-            },
+        .tableInUse = TransactionsTexts::tr(
+            "Unable to lock Usage Records table... this table is being updated by another job."),
         .entryOpen = TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Usage Record' form"),
         .toBePosted = TransactionsTexts::tr("%1 usage record(s) to be posted"),
         .onePosted = TransactionsTexts::tr("%n usage record posted"),
