@@ -1,11 +1,14 @@
 #include "transactions/documentposting.h"
 
 #include "base/ruleerror.h"
+#include "data/fields.h"
+#include "data/layouts.h"
 #include "engine/amounttoolarge.h"
 #include "engine/dialect.h"
 #include "engine/groupedwrites.h"
 #include "engine/sqlcondition.h"
 #include "engine/tablelocks.h"
+#include "engine/textsize.h"
 #include "transactions/historywriter.h"
 #include "transactions/texts.h"
 
@@ -40,6 +43,9 @@ std::vector<qint64> itemsOf(std::span<const PostingDocument> documents)
                 items.push_back(line.item.toInt64());
     return items;
 }
+
+// Of a history row. What is longer a server refuses, and in the middle of a document.
+int descriptionSize() { return Layouts::iHist().field(Fields::TransDescription)->size; }
 
 } // namespace
 
@@ -144,6 +150,7 @@ std::vector<PostingDocument> DocumentPosting::readHeaders(const QString &keys) c
         document.warehouse = headers->valueAt(4, FieldType::Integer);
         if (m_kind.posting.readHeader)
             m_kind.posting.readHeader(*headers, 5, document);
+        document.description = Engine::firstCharacters(document.description, descriptionSize());
     }
     return documents;
 }

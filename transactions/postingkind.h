@@ -46,7 +46,7 @@ struct PostingDocument
     Engine::Value period;
     Engine::Value date;
     Engine::Value warehouse;
-    QString description; // of its history rows
+    QString description; // of its history rows, as much of it as goes into one
     double exchangeRate = 0; // of the vendor's currency; 0 where there is none
     std::vector<PostingLine> lines; // in the order of their numbers
 };

@@ -16,7 +16,8 @@ class DocumentKindsTest : public KitchenTest
 protected:
     DocumentKindsTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
 
-    // Four apples at the office, by the rules of its entry: whatever they want besides is 1.
+    // Four apples at the office, by the rules of its entry: texts that they want besides are as long as they may be, and
+    // everything else is 1.
     void enter(const DocumentKind &kind)
     {
         const std::unique_ptr<DocumentEntry> entry = kind.entry.make(kitchen.database(), prompts);
@@ -28,7 +29,7 @@ protected:
             fields.append(number.field);
         for (const QString &field : fields) {
             if (entry->header().value(field).isNull())
-                entry->header().setText(field, u"1"_s);
+                entry->header().setText(field, QString(std::max(1, entry->header().field(field).size), u'1'));
         }
         entry->newLine();
         entry->lines().set(kind.entry.lineColumns.constFirst().field, 4.0);
@@ -68,6 +69,8 @@ TEST_P(DocumentKindsTest, AreKnownWhereverDocumentsAre)
         history.table().setFiltered(true);
         ASSERT_EQ(history.table().recordCount(), 1);
         EXPECT_EQ(history.document().kind, kind) << "a row of the history leads back to it";
+        EXPECT_LE(history.table().text(u"TransDescription").size(),
+                  history.table().field(u"TransDescription").size);
     }
 }
 
