@@ -43,6 +43,7 @@ DocumentScreen::~DocumentScreen()
 
 void DocumentScreen::buildDocument(LineOptions options)
 {
+    setObjectName(m_entry->kind().entry.screen);
     resize(scaled(this, 840), scaled(this, 470));
     setLookupLists(*this, context().lookups, guard());
     QList<GridColumn> columns = m_entry->kind().entry.lineColumns;
