@@ -40,7 +40,7 @@ const Engine::TableLayout &usage();
 // The one row of parameters that reports print in their headings, in the in-memory database.
 const Engine::TableLayout &reportParameters();
 
-// The 24 tables that belong to the inventory system, in the order in which they are brought up to date.
+// The tables that belong to the inventory system, in the order in which they are brought up to date.
 const QList<const Engine::TableLayout *> &applied();
 
 // By table name, without regard to case; nullptr when it is none of applied().

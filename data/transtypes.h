@@ -5,7 +5,7 @@
 
 namespace Tallymere {
 
-// IHist.TransType: what moved the stock.
+// IHist.TransType: what moved the stock. The numbers are stored; a new type takes one that none has had.
 enum class TransType {
     Adjust = 1,
     Sale = 2, // rows of the host only
@@ -18,7 +18,7 @@ enum class TransType {
 struct TransTypeInfo
 {
     enum class Direction { PutsIn, TakesOut };
-    // The column of a perpetual summary that counts it.
+    // The column of a perpetual summary that counts it, with its direction: adjustments up and down, sales what went out.
     enum class Summary { None, Receipts, Adjustments, Sales };
 
     TransType type;

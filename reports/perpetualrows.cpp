@@ -102,14 +102,14 @@ public:
             if (movement.year != m_selection.year || movement.period != m_selection.period)
                 closing -= movement.change();
             else if (type)
-                counted[type->summary] += movement.quantity;
+                counted[type->summary] += type->change(movement.quantity);
         }
         using enum TransTypeInfo::Summary;
         row.values[m_receipts] = counted[Receipts];
         row.values[m_adjustments] = counted[Adjustments];
-        row.values[m_sales] = counted[Sales];
+        row.values[m_sales] = 0 - counted[Sales]; // what went out
         row.values[m_closing] = closing;
-        row.values[m_opening] = closing - counted[Receipts] - counted[Adjustments] + counted[Sales];
+        row.values[m_opening] = closing - counted[Receipts] - counted[Adjustments] - counted[Sales];
         return true;
     }
 

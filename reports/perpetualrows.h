@@ -9,10 +9,10 @@ namespace Tallymere {
 // "TransTypeName", "TransDate", "TransDescription" and "Quantity" are those of the history.
 ReportDescription::Rows perpetualRows(const ReportQuery &balances);
 
-// A row for each of the balances, about the one period of the selection: "Receipts" (type 3), "Adjustments"
-// (1), "Sales" (2 and 5); "ClosingBalance" is the quantity on hand with everything after the period backed out, and
-// "OpeningBalance" = ClosingBalance - Receipts - Adjustments + Sales. A "Mfg Receipt" (4) within the period is counted
-// nowhere, and so stays in both balances.
+// A row for each of the balances, about the one period of the selection: "Receipts", "Adjustments" and "Sales", each the
+// movements of the types that transTypes() counts there; "ClosingBalance" is the quantity on hand with everything after
+// the period backed out, and "OpeningBalance" = ClosingBalance - Receipts - Adjustments + Sales. A "Mfg Receipt" within
+// the period is counted nowhere, and so stays in both balances.
 ReportDescription::Rows perpetualSummaryRows(const ReportQuery &balances);
 
 } // namespace Tallymere
