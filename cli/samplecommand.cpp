@@ -100,9 +100,9 @@ Command sampleCommand()
     command.name = u"sample"_s;
     command.summary = Texts::tr("fills a new database with a sample kitchen");
     command.details = Texts::tr(
-        "What is missing is made as by 'init'. The small kitchen holds a year of receipts, usage and adjustments,\n"
-        "posted but for the last days'. The large one holds 5,000 items, 10 locations and 1,000,000 history rows\n"
-        "of three years; the same seed gives the same rows.");
+        "What is missing is made as by 'init'. The small kitchen holds a year of documents of all kinds, posted\n"
+        "but for the last days'. The large one holds 5,000 items, 10 locations and 1,000,000 history rows of\n"
+        "three years; the same seed gives the same rows.");
     command.options = {{u"size"_s, u"small|large"_s, Texts::tr("small (the default) or large")},
                        {u"seed"_s, u"N"_s, Texts::tr("what chance of the large kitchen starts from (default 1)")}};
     command.run = runSample;
