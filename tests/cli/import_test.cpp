@@ -1,9 +1,12 @@
 #include "engine/lockmanager.h"
 #include "engine/table.h"
 #include "engine/tablelocks.h"
+#include "master/masterkinds.h"
 #include "tests/cli/clirunner.h"
+#include "transactions/documentkinds.h"
 
 using namespace Qt::StringLiterals;
+using namespace Tallymere;
 
 namespace {
 
@@ -17,9 +20,12 @@ protected:
     QString counts()
     {
         QString all;
-        for (const QString &table :
-             {u"ItemType"_s, u"Item"_s, u"Vendor"_s, u"VContact"_s, u"Warehse"_s, u"Currency"_s, u"Tax"_s,
-              u"Bank"_s, u"IReceipt"_s, u"IRecDet"_s, u"IUsage"_s, u"IUsageDet"_s, u"IAdjust"_s, u"IAdjDet"_s})
+        QStringList tables;
+        for (const MasterKind *kind : MasterKinds::all())
+            tables << kind->table;
+        for (const DocumentKind *kind : DocumentKinds::all())
+            tables << kind->keyTables();
+        for (const QString &table : tables)
             all += rowsOf(cli.anotherUser()->database, u"SELECT count(*) FROM "_s + table).join(u' ') + u' ';
         return all;
     }

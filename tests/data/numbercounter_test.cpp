@@ -15,7 +15,8 @@ protected:
     NumberCounter()
         : store(GetParam())
     {
-        for (const Engine::TableLayout *layout : {&Layouts::itemCtl(), &Layouts::iReceipt(), &Layouts::iRecDet()})
+        for (const Engine::TableLayout *layout : {&Layouts::itemCtl(), &Layouts::vendCtl(), &Layouts::arInvCtl(),
+                                                  &Layouts::iReceipt(), &Layouts::iRecDet()})
             store.database().createTable(*layout);
     }
 
@@ -43,6 +44,22 @@ TEST_P(NumberCounter, NumbersTakenBeforeAFailureAreUsedUp)
     const auto other = store.anotherUser();
     takeNumbers(other->database, u"ItemCtl"_s, [](CounterRow &row) { row.take(u"NextInvReceiptID"); });
     EXPECT_EQ(stored(u"NextInvReceiptID"_s), 2) << "the table was closed again";
+}
+
+TEST_P(NumberCounter, AreCalledByWhatTheyCount)
+{
+    for (const Engine::TableLayout *layout : {&Layouts::itemCtl(), &Layouts::vendCtl(), &Layouts::arInvCtl()}) {
+        for (const Engine::FieldDef &field : layout->fields) {
+            QString text;
+            errorOf(
+                [&] {
+                    takeNumbers(store.database(), layout->name,
+                                [&](CounterRow &row) { row.set(field.name, 3'000'000'000); });
+                },
+                &text);
+            EXPECT_TRUE(text.startsWith("The "_L1) && !text.contains(field.name)) << qPrintable(text);
+        }
+    }
 }
 
 TEST_P(NumberCounter, HeldCountersAreWrittenOnceOrNotAtAll)

@@ -4,7 +4,7 @@
 #include "printing/reportcsv.h"
 #include "reports/makereport.h"
 #include "reports/reportlist.h"
-#include "tests/support/kitchen.h"
+#include "tests/support/documents.h"
 #include "transactions/historyview.h"
 
 #include <QBuffer>
@@ -47,12 +47,9 @@ protected:
         kitchen->execute(
             u"INSERT INTO Item (ItemID, ItemNo, ItemDescription, ItemTypeID, Suspended, WgtAvgCost) VALUES %1; "
             "INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES %2; UPDATE ItemType SET Inventory = "
-            "true; "
-            "INSERT INTO IUsage (UsageID, UsageNo, GLYear, GLPeriod, InventoryDate, WarehouseID, Posted) "
-            "VALUES (1, '10001', 2026, 3, '2026-03-14', 1, false); "
-            "INSERT INTO IAdjust (AdjustmentID, AdjDescription, GLYear, GLPeriod, AdjDate, WarehouseID, Posted) "
-            "VALUES (1, 'Spoiled', 2026, 3, '2026-03-14', 1, false)"_s.arg(items.join(u','), balances.join(u',')));
-        kitchen->addReceipt(1, 1, 1, {});
+            "true"_s.arg(items.join(u','), balances.join(u',')));
+        for (const DocumentKind *kind : DocumentKinds::all())
+            addDocument(*kitchen, *kind, 1, 1, {});
         moveAll();
         moveAll();
     }
@@ -69,8 +66,13 @@ protected:
         kitchen->execute(u"UPDATE IBalance SET QtyOnHand = QtyOnHand + 1"_s);
         moveAll();
         kitchen->execute(u"UPDATE Item SET WgtAvgCost = 7; UPDATE ItemType SET TypeName = 'New'; "
-                         "UPDATE Vendor SET Phone = '555'; UPDATE IReceipt SET Posted = true; "
-                         "UPDATE IUsage SET Posted = true; UPDATE IAdjust SET Posted = true"_s);
+                         "UPDATE Vendor SET Phone = '555'"_s);
+        mark(u"true"_s);
+    }
+    void mark(const QString &posted)
+    {
+        for (const DocumentKind *kind : DocumentKinds::all())
+            kitchen->execute(u"UPDATE %1 SET Posted = %2"_s.arg(kind->headerTable, posted));
     }
 
     std::unique_ptr<Kitchen> kitchen;
@@ -104,8 +106,8 @@ TEST_P(Moments, AReportIsOfTheMomentItWasAskedFor)
         EXPECT_TRUE(csv(made) == before) << report.name.toStdString();
         EXPECT_FALSE(csv(makeReport(*data, report, selection)) == before) << report.name.toStdString();
         kitchen->execute(u"UPDATE Item SET WgtAvgCost = 2; UPDATE ItemType SET TypeName = 'Old'; "
-                         "UPDATE Vendor SET Phone = '444'; UPDATE IReceipt SET Posted = false; "
-                         "UPDATE IUsage SET Posted = false; UPDATE IAdjust SET Posted = false"_s);
+                         "UPDATE Vendor SET Phone = '444'"_s);
+        mark(u"false"_s);
     }
 }
 

@@ -1,4 +1,4 @@
-#include "tests/transactions/documents.h"
+#include "tests/support/documents.h"
 #include "transactions/documententry.h"
 #include "transactions/documentkinds.h"
 #include "transactions/quantitycheck.h"

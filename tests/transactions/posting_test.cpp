@@ -2,7 +2,7 @@
 
 #include "engine/lockmanager.h"
 #include "engine/table.h"
-#include "tests/transactions/documents.h"
+#include "tests/support/documents.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

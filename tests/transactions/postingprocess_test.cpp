@@ -1,5 +1,5 @@
+#include "tests/support/documents.h"
 #include "tests/support/otheruser.h"
-#include "tests/transactions/documents.h"
 #include "transactions/documentposting.h"
 
 using namespace Qt::StringLiterals;

@@ -3,6 +3,7 @@
 #include "engine/table.h"
 #include "engine/tablelocks.h"
 #include "tests/support/kitchen.h"
+#include "transactions/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -184,10 +185,10 @@ TEST_P(CountTest, TakesThePeriodAndCostsFromTheBooks)
 
 TEST_P(CountTest, OpensNoLocationWithUnpostedDocuments)
 {
-    for (const auto &[table, key] : {std::pair{u"IUsage"_s, u"UsageID"_s},
-                                     {u"IAdjust"_s, u"AdjustmentID"_s},
-                                     {u"IReceipt"_s, u"ReceiptID"_s}}) {
-        kitchen.execute(u"INSERT INTO %1 (%2, WarehouseID, Posted) VALUES (1, 1, false)"_s.arg(table, key));
+    for (const DocumentKind *kind : DocumentKinds::all()) {
+        const QString &table = kind->headerTable;
+        kitchen.execute(
+            u"INSERT INTO %1 (%2, WarehouseID, Posted) VALUES (1, 1, false)"_s.arg(table, kind->keyField));
         EXPECT_FALSE(count.open(1, ZeroCounts::Excluded)) << table.toStdString();
         EXPECT_FALSE(count.isOpen());
         EXPECT_TRUE(

@@ -1,5 +1,5 @@
 #include "tests/support/chance.h"
-#include "tests/transactions/documents.h"
+#include "tests/support/documents.h"
 #include "transactions/documentposting.h"
 #include "transactions/stockcount.h"
 

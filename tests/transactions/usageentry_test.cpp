@@ -1,6 +1,6 @@
 #include "transactions/usageentry.h"
 
-#include "tests/transactions/documents.h"
+#include "tests/support/documents.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
