@@ -2,8 +2,8 @@
 
 #include "base/prompts.h"
 #include "base/settingsstore.h"
-#include "engine/database.h"
-#include "engine/session.h"
+#include "engine/store/database.h"
+#include "engine/store/session.h"
 
 // Where the tables are and how they are reached, decided from the settings. Both run just before the engine
 // connects, and read the settings anew.

@@ -3,8 +3,8 @@
 #include "base/csvwriter.h"
 #include "base/rowspool.h"
 #include "base/savedfile.h"
-#include "engine/readmoment.h"
-#include "engine/rowwalk.h"
+#include "engine/records/rowwalk.h"
+#include "engine/store/readmoment.h"
 
 namespace Tallymere {
 

@@ -2,7 +2,7 @@
 
 #include "base/gridcolumn.h"
 #include "base/prompts.h"
-#include "engine/dataset.h"
+#include "engine/records/dataset.h"
 
 #include <QList>
 #include <QString>

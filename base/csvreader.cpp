@@ -1,7 +1,7 @@
 #include "base/csvreader.h"
 
 #include "base/texts.h"
-#include "engine/storedtext.h"
+#include "engine/values/storedtext.h"
 
 #include <QIODevice>
 

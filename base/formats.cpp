@@ -4,8 +4,8 @@
 #include "base/textnumbers.h"
 #include "base/texts.h"
 #include "base/typeddate.h"
-#include "engine/amounttoolarge.h"
-#include "engine/linetext.h"
+#include "engine/values/amounttoolarge.h"
+#include "engine/values/linetext.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/regionalsettings.h"
-#include "engine/field.h"
-#include "engine/money.h"
+#include "engine/values/field.h"
+#include "engine/values/money.h"
 
 #include <functional>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/plural.h"
+#include "engine/values/plural.h"
 
 namespace Tallymere {
 using Engine::plural;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/money.h"
+#include "engine/values/money.h"
 
 // How figures are rounded. Nothing else rounds.
 

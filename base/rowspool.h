@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/value.h"
+#include "engine/values/value.h"
 
 #include <QDataStream>
 #include <QTemporaryFile>

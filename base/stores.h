@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/stores.h"
+#include "engine/store/stores.h"
 
 namespace Tallymere {
 

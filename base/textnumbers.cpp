@@ -2,7 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "base/texts.h"
-#include "engine/linetext.h"
+#include "engine/values/linetext.h"
 
 #include <QRegularExpression>
 

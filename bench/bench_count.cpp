@@ -4,7 +4,7 @@
 // Usage: bench_count [local|remote] [ROUNDS]
 
 #include "bench/benchdata.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "tests/support/spokenprompts.h"
 #include "transactions/stockcount.h"
 

@@ -4,9 +4,9 @@
 // Usage: bench_lists [local|remote] [ROUNDS]
 
 #include "bench/benchdata.h"
-#include "engine/dialect.h"
-#include "engine/query.h"
-#include "engine/table.h"
+#include "engine/records/query.h"
+#include "engine/records/table.h"
+#include "engine/store/dialect.h"
 #include "transactions/totalsview.h"
 
 #include <cstdio>

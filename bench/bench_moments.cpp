@@ -5,7 +5,7 @@
 // prints what the poster takes, as medians and ratios. Usage: bench_moments [local|remote] [ROUNDS]
 
 #include "bench/benchdata.h"
-#include "engine/readmoment.h"
+#include "engine/store/readmoment.h"
 #include "reports/reportlist.h"
 #include "tests/support/spokenprompts.h"
 #include "transactions/documentkinds.h"

@@ -6,7 +6,7 @@
 
 #include "bench/benchdata.h"
 #include "bench/rawposting.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 

@@ -3,7 +3,7 @@
 // Usage: bench_sync [local|remote] [ROUNDS]
 
 #include "bench/benchdata.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "host/tables/hosttables.h"
 #include "master/itemsync.h"
 #include "tests/support/spokenprompts.h"

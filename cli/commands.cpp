@@ -2,8 +2,8 @@
 #include "cli/command.h"
 #include "cli/terminal.h"
 #include "cli/texts.h"
-#include "engine/attempts.h"
-#include "engine/error.h"
+#include "engine/store/attempts.h"
+#include "engine/values/error.h"
 
 #include <algorithm>
 #include <chrono>

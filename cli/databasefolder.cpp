@@ -3,8 +3,8 @@
 #include "base/connectiondecision.h"
 #include "cli/terminal.h"
 #include "cli/texts.h"
-#include "engine/error.h"
-#include "engine/platform.h"
+#include "engine/store/platform.h"
+#include "engine/values/error.h"
 #include "host/tables/hosttables.h"
 
 #include <QDir>

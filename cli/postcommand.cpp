@@ -1,6 +1,6 @@
 #include "cli/command.h"
 #include "cli/texts.h"
-#include "engine/error.h"
+#include "engine/values/error.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 

@@ -4,7 +4,7 @@
 #include "cli/command.h"
 #include "cli/help.h"
 #include "cli/texts.h"
-#include "engine/error.h"
+#include "engine/values/error.h"
 
 using namespace Qt::StringLiterals;
 

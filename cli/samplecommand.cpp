@@ -3,7 +3,7 @@
 #include "cli/databasefolder.h"
 #include "cli/texts.h"
 #include "data/layouts.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "host/sample/largekitchen.h"
 #include "host/sample/samplefiles.h"
 #include "transactions/documentkinds.h"

@@ -4,7 +4,7 @@
 #include "cli/texts.h"
 #include "data/fields.h"
 #include "data/layouts.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
 #include "master/masterkinds.h"
 #include "transactions/documentkinds.h"
 #include "transactions/historyview.h"

@@ -6,8 +6,8 @@
 #include "data/layouts.h"
 #include "data/seeds.h"
 #include "data/texts.h"
-#include "engine/error.h"
-#include "engine/tablelocks.h"
+#include "engine/store/tablelocks.h"
+#include "engine/values/error.h"
 
 #include <QCoreApplication>
 #include <QDir>

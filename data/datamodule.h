@@ -3,10 +3,10 @@
 #include "base/prompts.h"
 #include "base/settingsstore.h"
 #include "data/tableowner.h"
-#include "engine/database.h"
-#include "engine/session.h"
-#include "engine/table.h"
-#include "engine/tablelocks.h"
+#include "engine/records/table.h"
+#include "engine/store/database.h"
+#include "engine/store/session.h"
+#include "engine/store/tablelocks.h"
 
 #include <functional>
 #include <memory>

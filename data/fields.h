@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/fieldname.h"
+#include "engine/values/fieldname.h"
 
 // The fields of the inventory tables. The layouts are built from them, and rules and screens name fields by them. A
 // name means one type in every table; it stands under the table that has it first. The names are stored ones.

@@ -3,7 +3,7 @@
 #include "base/ruleerror.h"
 #include "data/fields.h"
 #include "data/texts.h"
-#include "engine/tablereader.h"
+#include "engine/records/tablereader.h"
 
 using namespace Qt::StringLiterals;
 

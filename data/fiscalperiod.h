@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "engine/dataset.h"
+#include "engine/records/dataset.h"
 
 #include <QDate>
 #include <QString>

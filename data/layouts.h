@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/layout.h"
+#include "engine/values/layout.h"
 
 #include <QList>
 

@@ -3,8 +3,8 @@
 #include "data/fields.h"
 #include "data/personname.h"
 #include "data/texts.h"
-#include "engine/error.h"
-#include "engine/textsize.h"
+#include "engine/values/error.h"
+#include "engine/values/textsize.h"
 
 #include <QStringList>
 

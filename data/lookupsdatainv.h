@@ -1,8 +1,8 @@
 #pragma once
 
 #include "data/tableowner.h"
-#include "engine/database.h"
-#include "engine/tablereader.h"
+#include "engine/records/tablereader.h"
+#include "engine/store/database.h"
 
 namespace Tallymere {
 

@@ -2,10 +2,10 @@
 
 #include "data/fields.h"
 #include "data/texts.h"
-#include "engine/attempts.h"
-#include "engine/error.h"
-#include "engine/query.h"
-#include "engine/session.h"
+#include "engine/records/query.h"
+#include "engine/store/attempts.h"
+#include "engine/store/session.h"
+#include "engine/values/error.h"
 
 #include <limits>
 

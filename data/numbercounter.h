@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/database.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
+#include "engine/store/database.h"
 
 #include <chrono>
 #include <functional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/dataset.h"
+#include "engine/records/dataset.h"
 
 namespace Tallymere {
 

@@ -1,7 +1,7 @@
 #include "data/seeds.h"
 
 #include "data/fields.h"
-#include "engine/textsize.h"
+#include "engine/values/textsize.h"
 
 #include <QCoreApplication>
 #include <QHash>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/tablereader.h"
+#include "engine/records/tablereader.h"
 
 #include <QList>
 #include <QObject>

@@ -1,8 +1,8 @@
 #include "frame/commandrunner.h"
 
-#include "controls/commandscreen.h"
-#include "controls/screencontext.h"
-#include "controls/screenmetrics.h"
+#include "controls/screens/commandscreen.h"
+#include "controls/windows/screencontext.h"
+#include "controls/windows/screenmetrics.h"
 #include "frame/screenregistry.h"
 
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/guard.h"
-#include "controls/screencontext.h"
+#include "controls/windows/guard.h"
+#include "controls/windows/screencontext.h"
 #include "frame/commandrunner.h"
 #include "frame/globals.h"
 #include "plgint/plgint.h"

@@ -1,6 +1,6 @@
 #include "frame/helpbrowser.h"
 
-#include "controls/screenmetrics.h"
+#include "controls/windows/screenmetrics.h"
 
 #include <QHelpEngineCore>
 #include <QPixmap>

@@ -1,7 +1,7 @@
 #include "frame/helpdesk.h"
 
 #include "base/prompts.h"
-#include "controls/screenmetrics.h"
+#include "controls/windows/screenmetrics.h"
 #include "frame/helpwindow.h"
 
 #include <optional>

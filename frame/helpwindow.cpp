@@ -1,7 +1,7 @@
 #include "frame/helpwindow.h"
 
 #include "base/plural.h"
-#include "controls/screenmetrics.h"
+#include "controls/windows/screenmetrics.h"
 #include "frame/helpbrowser.h"
 #include "ui_helpwindow.h"
 

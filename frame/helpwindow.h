@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/windowmemory.h"
+#include "controls/grids/windowmemory.h"
 #include "frame/manualcollection.h"
 
 #include <QWidget>

@@ -1,6 +1,6 @@
 #include "frame/messageformtallymere.h"
 
-#include "controls/screenmetrics.h"
+#include "controls/windows/screenmetrics.h"
 #include "ui_messageformtallymere.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "frame/moduleentry.h"
 
 #include "base/settingsstore.h"
-#include "controls/messageboxes.h"
+#include "controls/windows/messageboxes.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/globals.h"
 #include "frame/mainoptionsinv.h"

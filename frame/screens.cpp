@@ -1,7 +1,7 @@
 #include "frame/screenregistry.h"
 
-#include "controls/screencontext.h"
-#include "controls/screenmetrics.h"
+#include "controls/windows/screencontext.h"
+#include "controls/windows/screenmetrics.h"
 #include "master/masterkind.h"
 #include "master/screens/company.h"
 #include "master/screens/masterlistscreen.h"

@@ -1,9 +1,9 @@
 #include "frame/synchronization.h"
 
-#include "controls/barprogress.h"
-#include "controls/guard.h"
-#include "controls/screencontext.h"
-#include "controls/screenmetrics.h"
+#include "controls/windows/barprogress.h"
+#include "controls/windows/guard.h"
+#include "controls/windows/screencontext.h"
+#include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
 #include "data/tableactions.h"

@@ -3,10 +3,10 @@
 #include "base/connectiondecision.h"
 #include "base/initfile.h"
 #include "base/stores.h"
-#include "engine/database.h"
-#include "engine/error.h"
-#include "engine/session.h"
-#include "engine/tablereader.h"
+#include "engine/records/tablereader.h"
+#include "engine/store/database.h"
+#include "engine/store/session.h"
+#include "engine/values/error.h"
 #include "host/texts.h"
 
 #include <QDir>

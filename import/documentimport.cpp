@@ -2,7 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "data/fields.h"
-#include "engine/error.h"
+#include "engine/values/error.h"
 
 #include <algorithm>
 

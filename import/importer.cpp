@@ -1,10 +1,10 @@
 #include "import/importer.h"
 
 #include "data/numbercounter.h"
-#include "engine/driver.h"
-#include "engine/error.h"
-#include "engine/session.h"
-#include "engine/tablelocks.h"
+#include "engine/store/driver.h"
+#include "engine/store/session.h"
+#include "engine/store/tablelocks.h"
+#include "engine/values/error.h"
 #include "import/importanswers.h"
 #include "import/importfile.h"
 

@@ -3,7 +3,7 @@
 #include "base/csvreader.h"
 #include "base/plural.h"
 #include "base/ruleerror.h"
-#include "engine/linetext.h"
+#include "engine/values/linetext.h"
 #include "import/importvalue.h"
 #include "import/texts.h"
 

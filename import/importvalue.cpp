@@ -3,8 +3,8 @@
 #include "base/formats.h"
 #include "base/plural.h"
 #include "base/ruleerror.h"
-#include "engine/linetext.h"
-#include "engine/textsize.h"
+#include "engine/values/linetext.h"
+#include "engine/values/textsize.h"
 #include "import/texts.h"
 
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "import/keynames.h"
 
 #include "base/ruleerror.h"
-#include "engine/linetext.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/values/linetext.h"
 #include "import/texts.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 #include "import/masterimport.h"
 
 #include "base/ruleerror.h"
-#include "engine/error.h"
+#include "engine/values/error.h"
 
 using namespace Qt::StringLiterals;
 

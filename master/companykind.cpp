@@ -4,8 +4,8 @@
 #include "base/ruleerror.h"
 #include "data/fields.h"
 #include "data/seeds.h"
-#include "engine/database.h"
-#include "engine/session.h"
+#include "engine/store/database.h"
+#include "engine/store/session.h"
 #include "master/texts.h"
 
 using namespace Qt::StringLiterals;

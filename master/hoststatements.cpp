@@ -2,7 +2,7 @@
 
 #include "data/fields.h"
 #include "data/layouts.h"
-#include "engine/dialect.h"
+#include "engine/store/dialect.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,11 +1,11 @@
 #include "master/hostsync.h"
 
 #include "base/plural.h"
-#include "engine/error.h"
-#include "engine/groupedwrites.h"
-#include "engine/lockmanager.h"
-#include "engine/namedparameters.h"
-#include "engine/textsize.h"
+#include "engine/store/groupedwrites.h"
+#include "engine/store/lockmanager.h"
+#include "engine/store/namedparameters.h"
+#include "engine/values/error.h"
+#include "engine/values/textsize.h"
 #include "master/texts.h"
 
 #include <limits>

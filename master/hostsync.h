@@ -1,9 +1,9 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "engine/database.h"
-#include "engine/driver.h"
-#include "engine/tablelocks.h"
+#include "engine/store/database.h"
+#include "engine/store/driver.h"
+#include "engine/store/tablelocks.h"
 
 #include <functional>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/fields.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
 
 #include <QString>
 

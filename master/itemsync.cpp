@@ -4,8 +4,8 @@
 #include "base/trace.h"
 #include "data/fields.h"
 #include "data/layouts.h"
-#include "engine/error.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/values/error.h"
 #include "master/hoststatements.h"
 #include "master/texts.h"
 

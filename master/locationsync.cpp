@@ -2,7 +2,7 @@
 
 #include "data/fields.h"
 #include "data/layouts.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "master/hoststatements.h"
 #include "master/texts.h"
 

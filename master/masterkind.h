@@ -3,7 +3,7 @@
 #include "base/gridcolumn.h"
 #include "base/listfilter.h"
 #include "data/recordlist.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
 
 #include <functional>
 #include <QList>

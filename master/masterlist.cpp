@@ -1,8 +1,8 @@
 #include "master/masterlist.h"
 
 #include "base/ruleerror.h"
-#include "engine/database.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/store/database.h"
 #include "master/texts.h"
 
 #include <algorithm>

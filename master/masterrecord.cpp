@@ -1,8 +1,8 @@
 #include "master/masterrecord.h"
 
 #include "base/ruleerror.h"
-#include "engine/error.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/values/error.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/numbercounter.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
 #include "master/masterkind.h"
 
 namespace Tallymere {

@@ -1,9 +1,9 @@
 #include "master/recordnumber.h"
 
 #include "base/ruleerror.h"
-#include "engine/linetext.h"
-#include "engine/query.h"
-#include "engine/table.h"
+#include "engine/records/query.h"
+#include "engine/records/table.h"
+#include "engine/values/linetext.h"
 #include "master/texts.h"
 
 using namespace Qt::StringLiterals;

@@ -3,7 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/fields.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "master/texts.h"
 #include "master/webpage.h"
 

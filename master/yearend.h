@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 #include "printing/reportlines.h"
 
 #include "base/ruleerror.h"
-#include "engine/amounttoolarge.h"
+#include "engine/values/amounttoolarge.h"
 #include "printing/texts.h"
 
 #include <algorithm>

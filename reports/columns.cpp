@@ -1,7 +1,7 @@
 #include "reports/columns.h"
 
 #include "base/formats.h"
-#include "engine/amounttoolarge.h"
+#include "engine/values/amounttoolarge.h"
 #include "reports/texts.h"
 
 using namespace Qt::StringLiterals;

@@ -3,7 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/datamodule.h"
-#include "engine/database.h"
+#include "engine/store/database.h"
 #include "reports/momentrows.h"
 #include "reports/texts.h"
 

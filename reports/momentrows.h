@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "engine/readmoment.h"
+#include "engine/store/readmoment.h"
 #include "printing/rowreader.h"
 
 namespace Tallymere {

@@ -1,9 +1,9 @@
 #include "reports/movements.h"
 
 #include "data/transtypes.h"
-#include "engine/database.h"
-#include "engine/dialect.h"
-#include "engine/sqlcondition.h"
+#include "engine/store/database.h"
+#include "engine/store/dialect.h"
+#include "engine/store/sqlcondition.h"
 
 #include <algorithm>
 #include <tuple>

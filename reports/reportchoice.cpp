@@ -3,7 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
-#include "engine/linetext.h"
+#include "engine/values/linetext.h"
 #include "reports/texts.h"
 
 using namespace Qt::StringLiterals;

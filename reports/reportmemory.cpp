@@ -2,7 +2,7 @@
 
 #include "base/formats.h"
 #include "data/datamodule.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "reports/reportlist.h"
 
 using namespace Qt::StringLiterals;

@@ -1,9 +1,9 @@
 #include "reports/reportquery.h"
 
-#include "engine/database.h"
-#include "engine/dialect.h"
-#include "engine/namedparameters.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/store/database.h"
+#include "engine/store/dialect.h"
+#include "engine/store/namedparameters.h"
 #include "reports/datasetrows.h"
 
 #include <algorithm>

@@ -2,9 +2,9 @@
 
 #include "base/rounding.h"
 #include "base/ruleerror.h"
-#include "engine/amounttoolarge.h"
-#include "engine/database.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/store/database.h"
+#include "engine/values/amounttoolarge.h"
 #include "master/costing.h"
 #include "reports/fieldmap.h"
 #include "reports/texts.h"

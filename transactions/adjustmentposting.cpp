@@ -1,6 +1,6 @@
 #include "transactions/adjustmentposting.h"
 
-#include "engine/driver.h"
+#include "engine/store/driver.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;

@@ -2,7 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "base/savedfile.h"
-#include "engine/database.h"
+#include "engine/store/database.h"
 #include "transactions/texts.h"
 
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "transactions/countsource.h"
 
 #include "data/fields.h"
-#include "engine/database.h"
-#include "engine/dialect.h"
+#include "engine/store/database.h"
+#include "engine/store/dialect.h"
 #include "transactions/documentkinds.h"
 
 #include <algorithm>

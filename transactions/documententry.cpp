@@ -5,8 +5,8 @@
 #include "base/typeddate.h"
 #include "data/fields.h"
 #include "data/fiscalperiod.h"
-#include "engine/error.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/values/error.h"
 #include "transactions/lastsaved.h"
 #include "transactions/texts.h"
 

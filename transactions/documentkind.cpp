@@ -1,6 +1,6 @@
 #include "transactions/documentkind.h"
 
-#include "engine/dataset.h"
+#include "engine/records/dataset.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;

@@ -3,8 +3,8 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/fields.h"
-#include "engine/database.h"
-#include "engine/linetext.h"
+#include "engine/store/database.h"
+#include "engine/values/linetext.h"
 
 using namespace Qt::StringLiterals;
 using Engine::FieldType;

@@ -2,10 +2,10 @@
 
 #include "base/ruleerror.h"
 #include "data/fields.h"
-#include "engine/database.h"
-#include "engine/error.h"
-#include "engine/lockmanager.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/store/database.h"
+#include "engine/store/lockmanager.h"
+#include "engine/values/error.h"
 #include "transactions/texts.h"
 
 #include <QScopeGuard>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/fields.h"
-#include "engine/tablereader.h"
+#include "engine/records/tablereader.h"
 
 #include <QString>
 

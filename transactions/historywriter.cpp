@@ -1,6 +1,6 @@
 #include "transactions/historywriter.h"
 
-#include "engine/groupedwrites.h"
+#include "engine/store/groupedwrites.h"
 #include "transactions/postingkind.h"
 
 using namespace Qt::StringLiterals;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "data/transtypes.h"
-#include "engine/driver.h"
-#include "engine/money.h"
+#include "engine/store/driver.h"
+#include "engine/values/money.h"
 
 #include <optional>
 

@@ -2,12 +2,12 @@
 
 #include "data/fields.h"
 #include "data/layouts.h"
-#include "engine/database.h"
-#include "engine/dialect.h"
-#include "engine/groupedwrites.h"
-#include "engine/session.h"
-#include "engine/sqlcondition.h"
-#include "engine/textsize.h"
+#include "engine/store/database.h"
+#include "engine/store/dialect.h"
+#include "engine/store/groupedwrites.h"
+#include "engine/store/session.h"
+#include "engine/store/sqlcondition.h"
+#include "engine/values/textsize.h"
 
 using namespace Qt::StringLiterals;
 

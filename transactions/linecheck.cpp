@@ -2,8 +2,8 @@
 
 #include "base/ruleerror.h"
 #include "data/fields.h"
-#include "engine/database.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/store/database.h"
 #include "master/masterkinds.h"
 #include "master/recordnumber.h"
 #include "transactions/texts.h"

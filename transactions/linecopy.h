@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/table.h"
+#include "engine/records/table.h"
 
 #include <map>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "transactions/postingkind.h"
 
-#include "engine/database.h"
-#include "engine/lockmanager.h"
+#include "engine/store/database.h"
+#include "engine/store/lockmanager.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;

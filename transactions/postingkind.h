@@ -2,7 +2,7 @@
 
 #include "base/plural.h"
 #include "data/transtypes.h"
-#include "engine/value.h"
+#include "engine/values/value.h"
 #include "transactions/stockbook.h"
 
 #include <functional>

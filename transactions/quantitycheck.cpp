@@ -3,8 +3,8 @@
 #include "base/formats.h"
 #include "base/rounding.h"
 #include "base/ruleerror.h"
-#include "engine/amounttoolarge.h"
-#include "engine/linetext.h"
+#include "engine/values/amounttoolarge.h"
+#include "engine/values/linetext.h"
 #include "transactions/texts.h"
 
 #include <cmath>

@@ -2,7 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "data/fields.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "master/masterkinds.h"
 #include "master/recordnumber.h"
 #include "transactions/documentkinds.h"

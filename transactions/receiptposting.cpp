@@ -1,6 +1,6 @@
 #include "transactions/receiptposting.h"
 
-#include "engine/driver.h"
+#include "engine/store/driver.h"
 #include "transactions/receiptcost.h"
 #include "transactions/texts.h"
 

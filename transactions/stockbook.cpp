@@ -2,9 +2,9 @@
 
 #include "base/ruleerror.h"
 #include "data/fields.h"
-#include "engine/dialect.h"
-#include "engine/groupedwrites.h"
-#include "engine/sqlcondition.h"
+#include "engine/store/dialect.h"
+#include "engine/store/groupedwrites.h"
+#include "engine/store/sqlcondition.h"
 #include "transactions/texts.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/driver.h"
-#include "engine/money.h"
+#include "engine/store/driver.h"
+#include "engine/values/money.h"
 
 #include <optional>
 #include <span>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/query.h"
+#include "engine/records/query.h"
 
 #include <QString>
 

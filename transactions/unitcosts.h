@@ -1,8 +1,8 @@
 #pragma once
 
-#include "engine/database.h"
-#include "engine/money.h"
-#include "engine/value.h"
+#include "engine/store/database.h"
+#include "engine/values/money.h"
+#include "engine/values/value.h"
 
 #include <unordered_map>
 #include <unordered_set>

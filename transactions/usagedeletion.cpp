@@ -3,11 +3,11 @@
 #include "base/regionalsettings.h"
 #include "base/ruleerror.h"
 #include "data/fields.h"
-#include "engine/lockmanager.h"
-#include "engine/query.h"
-#include "engine/session.h"
-#include "engine/table.h"
-#include "engine/tablelocks.h"
+#include "engine/records/query.h"
+#include "engine/records/table.h"
+#include "engine/store/lockmanager.h"
+#include "engine/store/session.h"
+#include "engine/store/tablelocks.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "engine/database.h"
+#include "engine/store/database.h"
 
 #include <QDate>
 

@@ -3,8 +3,8 @@
 #include "base/formats.h"
 #include "base/rounding.h"
 #include "data/fields.h"
-#include "engine/amounttoolarge.h"
-#include "engine/error.h"
+#include "engine/values/amounttoolarge.h"
+#include "engine/values/error.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
 

@@ -1,7 +1,7 @@
 #include "transactions/waitingdocuments.h"
 
 #include "base/regionalsettings.h"
-#include "engine/database.h"
+#include "engine/store/database.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
 

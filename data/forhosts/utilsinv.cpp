@@ -5,10 +5,10 @@
 #include "base/trace.h"
 #include "data/tableactions.h"
 #include "data/texts.h"
-#include "engine/attempts.h"
-#include "engine/error.h"
-#include "engine/session.h"
-#include "engine/tablelocks.h"
+#include "engine/store/attempts.h"
+#include "engine/store/session.h"
+#include "engine/store/tablelocks.h"
+#include "engine/values/error.h"
 
 #include <QCoreApplication>
 #include <QRandomGenerator>

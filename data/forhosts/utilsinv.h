@@ -1,9 +1,9 @@
 #pragma once
 
 #include "data/tableowner.h"
-#include "engine/database.h"
-#include "engine/query.h"
-#include "engine/table.h"
+#include "engine/records/query.h"
+#include "engine/records/table.h"
+#include "engine/store/database.h"
 
 #include <QList>
 #include <QObject>

@@ -1,10 +1,10 @@
 #include "engine/filter/filterexpression.h"
 
-#include "engine/dialect.h"
-#include "engine/error.h"
 #include "engine/filter/filterlexer.h"
 #include "engine/filter/filternode.h"
-#include "engine/linetext.h"
+#include "engine/store/dialect.h"
+#include "engine/values/error.h"
+#include "engine/values/linetext.h"
 
 #include <cmath>
 

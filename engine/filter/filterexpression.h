@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/sqlcondition.h"
+#include "engine/store/sqlcondition.h"
 
 #include <functional>
 #include <memory>

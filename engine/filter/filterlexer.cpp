@@ -1,6 +1,6 @@
 #include "engine/filter/filterlexer.h"
 
-#include "engine/error.h"
+#include "engine/values/error.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
-#include "engine/error.h"
 #include "engine/filter/filterlexer.h"
 #include "engine/filter/filternode.h"
+#include "engine/values/error.h"
 
 using namespace Qt::StringLiterals;
 

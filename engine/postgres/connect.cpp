@@ -1,7 +1,7 @@
-#include "engine/platform.h"
 #include "engine/postgres/error.h"
 #include "engine/postgres/link.h"
-#include "engine/reservedwords.h"
+#include "engine/store/platform.h"
+#include "engine/store/reservedwords.h"
 
 #include <algorithm>
 #include <chrono>

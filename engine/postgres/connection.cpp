@@ -1,11 +1,11 @@
 #include "engine/postgres/connection.h"
 
-#include "engine/database.h"
 #include "engine/postgres/error.h"
 #include "engine/postgres/locks.h"
 #include "engine/postgres/statement.h"
 #include "engine/postgres/store.h"
-#include "engine/session.h"
+#include "engine/store/database.h"
+#include "engine/store/session.h"
 
 using namespace Qt::StringLiterals;
 

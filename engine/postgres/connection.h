@@ -1,8 +1,8 @@
 #pragma once
 
-#include "engine/driver.h"
 #include "engine/postgres/dialect.h"
 #include "engine/postgres/link.h"
+#include "engine/store/driver.h"
 
 namespace Engine {
 

@@ -1,5 +1,5 @@
-#include "engine/indexnames.h"
 #include "engine/postgres/connection.h"
+#include "engine/store/indexnames.h"
 
 #include <QRegularExpression>
 

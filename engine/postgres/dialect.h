@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/dialect.h"
+#include "engine/store/dialect.h"
 
 namespace Engine {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/error.h"
+#include "engine/values/error.h"
 
 #include <QByteArray>
 

@@ -1,8 +1,8 @@
 #include "engine/postgres/link.h"
 
-#include "engine/platform.h"
 #include "engine/postgres/error.h"
 #include "engine/postgres/watch.h"
+#include "engine/store/platform.h"
 
 #include <algorithm>
 #include <libpq-fe.h>

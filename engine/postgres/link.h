@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/error.h"
-#include "engine/lockmanager.h"
+#include "engine/store/lockmanager.h"
+#include "engine/values/error.h"
 
 #include <chrono>
 #include <functional>

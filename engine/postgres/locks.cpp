@@ -1,10 +1,10 @@
 #include "engine/postgres/locks.h"
 
-#include "engine/error.h"
-#include "engine/platform.h"
 #include "engine/postgres/connection.h"
-#include "engine/sqlcondition.h"
-#include "engine/stablenumber.h"
+#include "engine/store/platform.h"
+#include "engine/store/sqlcondition.h"
+#include "engine/values/error.h"
+#include "engine/values/stablenumber.h"
 
 #include <limits>
 #include <QCoreApplication>

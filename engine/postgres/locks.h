@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/lockmanager.h"
-#include "engine/value.h"
+#include "engine/store/lockmanager.h"
+#include "engine/values/value.h"
 
 #include <QByteArray>
 #include <QList>

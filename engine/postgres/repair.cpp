@@ -1,6 +1,6 @@
-#include "engine/error.h"
 #include "engine/postgres/connection.h"
-#include "engine/reservedwords.h"
+#include "engine/store/reservedwords.h"
+#include "engine/values/error.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "engine/postgres/statement.h"
 
-#include "engine/namedparameters.h"
-#include "engine/storedtext.h"
+#include "engine/store/namedparameters.h"
+#include "engine/values/storedtext.h"
 
 #include <charconv>
 #include <libpq-fe.h>

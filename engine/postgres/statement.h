@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/driver.h"
 #include "engine/postgres/link.h"
+#include "engine/store/driver.h"
 
 #include <deque>
 #include <string_view>

@@ -1,14 +1,14 @@
 #include "engine/sqlite/connection.h"
 
-#include "engine/database.h"
-#include "engine/error.h"
-#include "engine/platform.h"
-#include "engine/session.h"
 #include "engine/sqlite/error.h"
 #include "engine/sqlite/locks.h"
 #include "engine/sqlite/statement.h"
 #include "engine/sqlite/store.h"
 #include "engine/sqlite/watch.h"
+#include "engine/store/database.h"
+#include "engine/store/platform.h"
+#include "engine/store/session.h"
+#include "engine/values/error.h"
 
 #include <chrono>
 #include <limits>

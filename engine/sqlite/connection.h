@@ -1,8 +1,8 @@
 #pragma once
 
-#include "engine/driver.h"
 #include "engine/sqlite/dialect.h"
 #include "engine/sqlite/handles.h"
+#include "engine/store/driver.h"
 
 namespace Engine {
 

@@ -1,6 +1,6 @@
-#include "engine/indexnames.h"
-#include "engine/reservedwords.h"
 #include "engine/sqlite/connection.h"
+#include "engine/store/indexnames.h"
+#include "engine/store/reservedwords.h"
 
 #include <sqlite3.h>
 

@@ -1,8 +1,8 @@
 #include "engine/sqlite/dialect.h"
 
-#include "engine/conversion.h"
-#include "engine/indexnames.h"
-#include "engine/reservedwords.h"
+#include "engine/store/indexnames.h"
+#include "engine/store/reservedwords.h"
+#include "engine/values/conversion.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "engine/sqlite/locks.h"
 
-#include "engine/error.h"
-#include "engine/stablenumber.h"
+#include "engine/values/error.h"
+#include "engine/values/stablenumber.h"
 
 #include <chrono>
 #include <QCoreApplication>

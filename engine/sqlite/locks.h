@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/lockmanager.h"
-#include "engine/platform.h"
+#include "engine/store/lockmanager.h"
+#include "engine/store/platform.h"
 
 #include <functional>
 #include <memory>

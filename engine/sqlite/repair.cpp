@@ -1,7 +1,7 @@
-#include "engine/error.h"
-#include "engine/indexnames.h"
-#include "engine/reservedwords.h"
 #include "engine/sqlite/connection.h"
+#include "engine/store/indexnames.h"
+#include "engine/store/reservedwords.h"
+#include "engine/values/error.h"
 
 #include <set>
 

@@ -3,7 +3,7 @@
 #include "engine/sqlite/connection.h"
 #include "engine/sqlite/dialect.h"
 #include "engine/sqlite/error.h"
-#include "engine/storedtext.h"
+#include "engine/values/storedtext.h"
 
 #include <sqlite3.h>
 

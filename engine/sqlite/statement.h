@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/driver.h"
 #include "engine/sqlite/handles.h"
+#include "engine/store/driver.h"
 
 namespace Engine {
 

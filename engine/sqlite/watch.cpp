@@ -1,8 +1,8 @@
 #include "engine/sqlite/watch.h"
 
-#include "engine/error.h"
 #include "engine/sqlite/handles.h"
 #include "engine/sqlite/locks.h"
+#include "engine/values/error.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/platform.h"
+#include "engine/store/platform.h"
 
 #include <functional>
 #include <optional>

@@ -3,9 +3,9 @@
 // Opens the product's screens over a sample kitchen and saves what they show. Needs no display; scripts/pictures calls it.
 
 #include "base/settingsstore.h"
-#include "controls/messageboxes.h"
-#include "controls/recordlistscreen.h"
-#include "controls/screenmetrics.h"
+#include "controls/screens/recordlistscreen.h"
+#include "controls/windows/messageboxes.h"
+#include "controls/windows/screenmetrics.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/screenregistry.h"
 

@@ -1,6 +1,6 @@
 #include "host/sample/bulkinsert.h"
 
-#include "engine/dialect.h"
+#include "engine/store/dialect.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/driver.h"
+#include "engine/store/driver.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/database.h"
-#include "engine/money.h"
+#include "engine/store/database.h"
+#include "engine/values/money.h"
 #include "host/sample/bulkinsert.h"
 
 #include <QDate>

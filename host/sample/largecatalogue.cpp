@@ -2,7 +2,7 @@
 
 #include "data/fields.h"
 #include "data/numbercounter.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "host/sample/bulkinsert.h"
 #include "master/masterkinds.h"
 #include "master/masterrecord.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/database.h"
+#include "engine/store/database.h"
 #include "host/sample/chance.h"
 
 #include <QString>

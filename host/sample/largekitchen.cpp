@@ -1,7 +1,7 @@
 #include "host/sample/largekitchen.h"
 
 #include "data/fields.h"
-#include "engine/groupedwrites.h"
+#include "engine/store/groupedwrites.h"
 #include "host/sample/largecatalogue.h"
 #include "transactions/receiptcost.h"
 

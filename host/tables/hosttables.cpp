@@ -1,6 +1,6 @@
 #include "host/tables/hosttables.h"
 
-#include "engine/table.h"
+#include "engine/records/table.h"
 
 using namespace Qt::StringLiterals;
 

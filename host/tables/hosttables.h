@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/database.h"
-#include "engine/layout.h"
+#include "engine/store/database.h"
+#include "engine/values/layout.h"
 
 #include <QList>
 #include <QString>

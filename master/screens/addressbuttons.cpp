@@ -1,8 +1,8 @@
 #include "master/screens/addressbuttons.h"
 
 #include "base/ruleerror.h"
-#include "controls/fieldbinder.h"
-#include "controls/guard.h"
+#include "controls/fields/fieldbinder.h"
+#include "controls/windows/guard.h"
 #include "master/masterrecord.h"
 #include "master/screens/dialerinv.h"
 

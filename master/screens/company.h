@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/commandscreen.h"
+#include "controls/screens/commandscreen.h"
 #include "master/screens/masterrecordscreen.h"
 #include "master/yearend.h"
 

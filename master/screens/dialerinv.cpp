@@ -1,7 +1,7 @@
 #include "master/screens/dialerinv.h"
 
 #include "base/initfile.h"
-#include "controls/screenmetrics.h"
+#include "controls/windows/screenmetrics.h"
 #include "master/screens/dialersetupinv.h"
 #include "ui_dialerinv.h"
 

@@ -1,6 +1,6 @@
 #include "master/screens/itemsearchinv.h"
 
-#include "controls/screenmetrics.h"
+#include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "data/lookupsdatainv.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/dialogscreen.h"
+#include "controls/screens/dialogscreen.h"
 #include "master/itemsearch.h"
 
 class QLineEdit;

@@ -1,6 +1,6 @@
 #include "master/screens/itemsinv.h"
 
-#include "controls/listbuttons.h"
+#include "controls/screens/listbuttons.h"
 #include "data/fields.h"
 #include "master/masterkinds.h"
 #include "master/screens/iteminv.h"

@@ -1,6 +1,6 @@
 #include "master/screens/masterrecordscreen.h"
 
-#include "controls/lookuplists.h"
+#include "controls/fields/lookuplists.h"
 #include "data/datamodule.h"
 
 #include <QLineEdit>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/recordscreen.h"
+#include "controls/screens/recordscreen.h"
 #include "master/masterrecord.h"
 
 namespace Tallymere {

@@ -1,6 +1,6 @@
 #include "master/screens/recordfindscreen.h"
 
-#include "controls/filternote.h"
+#include "controls/screens/filternote.h"
 #include "master/recordnumber.h"
 #include "master/screens/recordpair.h"
 #include "ui_recordfindscreen.h"

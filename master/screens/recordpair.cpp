@@ -1,8 +1,8 @@
 #include "master/screens/recordpair.h"
 
-#include "controls/leaving.h"
-#include "controls/lookupcombobox.h"
-#include "engine/table.h"
+#include "controls/fields/lookupcombobox.h"
+#include "controls/windows/leaving.h"
+#include "engine/records/table.h"
 #include "master/masterkind.h"
 #include "master/recordnumber.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/guard.h"
+#include "controls/windows/guard.h"
 
 #include <QObject>
 

@@ -1,8 +1,8 @@
 #include "master/screens/vendor.h"
 
 #include "base/ruleerror.h"
-#include "controls/listgrid.h"
-#include "controls/recordopener.h"
+#include "controls/grids/listgrid.h"
+#include "controls/screens/recordopener.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "master/masterkinds.h"

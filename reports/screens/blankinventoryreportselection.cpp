@@ -1,7 +1,7 @@
 #include "reports/screens/blankinventoryreportselection.h"
 
-#include "controls/lookuplists.h"
-#include "controls/printerneeded.h"
+#include "controls/fields/lookuplists.h"
+#include "controls/windows/printerneeded.h"
 #include "reports/screens/showreport.h"
 #include "ui_blankinventoryreportselection.h"
 

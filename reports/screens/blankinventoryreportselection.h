@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/dialogscreen.h"
+#include "controls/screens/dialogscreen.h"
 #include "data/lastchoices.h"
 #include "reports/blankform.h"
 #include "reports/screens/reportways.h"

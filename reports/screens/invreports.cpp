@@ -1,8 +1,8 @@
 #include "reports/screens/invreports.h"
 
-#include "controls/lookuplists.h"
-#include "controls/printerneeded.h"
-#include "controls/screenmetrics.h"
+#include "controls/fields/lookuplists.h"
+#include "controls/windows/printerneeded.h"
+#include "controls/windows/screenmetrics.h"
 #include "reports/reportlist.h"
 #include "reports/screens/showreport.h"
 #include "ui_invreports.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/dialogscreen.h"
-#include "controls/windowmemory.h"
+#include "controls/grids/windowmemory.h"
+#include "controls/screens/dialogscreen.h"
 #include "reports/reportlist.h"
 #include "reports/reportmemory.h"
 #include "reports/screens/reportways.h"

@@ -1,6 +1,6 @@
 #include "reports/screens/pageaccess.h"
 
-#include "controls/showntext.h"
+#include "controls/windows/showntext.h"
 #include "reports/screens/pageview.h"
 
 #include <QAccessibleWidget>

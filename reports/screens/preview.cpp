@@ -2,8 +2,8 @@
 
 #include "base/plural.h"
 #include "base/savedfile.h"
-#include "controls/progressbox.h"
-#include "controls/screenmetrics.h"
+#include "controls/windows/progressbox.h"
+#include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "printing/printout.h"
 #include "printing/reportcsv.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/guard.h"
-#include "controls/screencontext.h"
+#include "controls/windows/guard.h"
+#include "controls/windows/screencontext.h"
 #include "printing/pagesearch.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "reports/screens/reportfiles.h"
 
-#include "controls/progressbox.h"
+#include "controls/windows/progressbox.h"
 #include "reports/texts.h"
 
 #include <QDir>

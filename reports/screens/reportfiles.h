@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "controls/filechoice.h"
+#include "controls/windows/filechoice.h"
 
 namespace Tallymere {
 

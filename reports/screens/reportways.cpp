@@ -1,7 +1,7 @@
 #include "reports/screens/reportways.h"
 
-#include "controls/dialogscreen.h"
-#include "controls/printerneeded.h"
+#include "controls/screens/dialogscreen.h"
+#include "controls/windows/printerneeded.h"
 #include "printing/reportcsv.h"
 #include "printing/reportoutput.h"
 #include "reports/makereport.h"

@@ -1,8 +1,8 @@
 #include "reports/screens/showreport.h"
 
-#include "controls/printerneeded.h"
-#include "controls/progressbox.h"
-#include "controls/screenmetrics.h"
+#include "controls/windows/printerneeded.h"
+#include "controls/windows/progressbox.h"
+#include "controls/windows/screenmetrics.h"
 #include "reports/makereport.h"
 #include "reports/screens/preview.h"
 #include "reports/texts.h"

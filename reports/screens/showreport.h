@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/screencontext.h"
+#include "controls/windows/screencontext.h"
 #include "reports/reportdescription.h"
 
 namespace Tallymere {

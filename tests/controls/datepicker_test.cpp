@@ -1,4 +1,4 @@
-#include "controls/datepicker.h"
+#include "controls/fields/datepicker.h"
 
 #include "tests/support/bothstores.h"
 #include "tests/support/screendriver.h"

@@ -1,8 +1,8 @@
 #include "base/ruleerror.h"
-#include "controls/guard.h"
-#include "controls/messageboxes.h"
-#include "controls/mnemonics.h"
-#include "engine/error.h"
+#include "controls/windows/guard.h"
+#include "controls/windows/messageboxes.h"
+#include "controls/windows/mnemonics.h"
+#include "engine/values/error.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
 

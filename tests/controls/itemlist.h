@@ -1,9 +1,9 @@
 #pragma once
 
 #include "base/formats.h"
-#include "controls/listscreen.h"
+#include "controls/screens/listscreen.h"
 #include "data/datamodule.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
 
 // A list with all that lists have: the kitchen's items by their numbers.
 class ItemList final : public Tallymere::ListScreen

@@ -1,4 +1,4 @@
-#include "controls/filechoice.h"
+#include "controls/windows/filechoice.h"
 #include "tests/controls/itemlist.h"
 #include "tests/support/screentest.h"
 

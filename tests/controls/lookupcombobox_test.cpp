@@ -1,5 +1,5 @@
-#include "controls/lookupcombobox.h"
-#include "engine/table.h"
+#include "controls/fields/lookupcombobox.h"
+#include "engine/records/table.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
 #include "tests/support/teststore.h"

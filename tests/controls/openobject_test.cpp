@@ -1,4 +1,4 @@
-#include "controls/openobject.h"
+#include "controls/windows/openobject.h"
 #include "tests/support/failures.h"
 
 #include <QDesktopServices>

@@ -1,5 +1,5 @@
 #include "base/ruleerror.h"
-#include "controls/progressbox.h"
+#include "controls/windows/progressbox.h"
 
 #include <gtest/gtest.h>
 #include <QProgressBar>

@@ -1,6 +1,6 @@
 #include "base/formposition.h"
-#include "controls/entryscreen.h"
-#include "controls/windowplaces.h"
+#include "controls/screens/entryscreen.h"
+#include "controls/windows/windowplaces.h"
 #include "tests/controls/itemlist.h"
 #include "tests/support/screentest.h"
 

@@ -1,5 +1,5 @@
-#include "controls/stepbox.h"
-#include "controls/windowrules.h"
+#include "controls/grids/stepbox.h"
+#include "controls/windows/windowrules.h"
 #include "tests/support/screendriver.h"
 
 #include <QFormLayout>

@@ -1,9 +1,9 @@
 #include "data/datamodule.h"
 
 #include "data/layouts.h"
-#include "engine/lockmanager.h"
-#include "engine/query.h"
-#include "engine/tablelocks.h"
+#include "engine/records/query.h"
+#include "engine/store/lockmanager.h"
+#include "engine/store/tablelocks.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"

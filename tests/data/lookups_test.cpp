@@ -1,7 +1,7 @@
 #include "data/lookupsdatainv.h"
 
 #include "data/layouts.h"
-#include "engine/error.h"
+#include "engine/values/error.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
 

@@ -1,7 +1,7 @@
 #include "data/numbercounter.h"
 
 #include "data/layouts.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 #include "tests/support/otheruser.h"

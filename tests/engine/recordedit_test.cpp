@@ -1,7 +1,7 @@
 // Editing, inserting and deleting: what is written, what is refused, and what stays in hand then.
 
-#include "engine/lockmanager.h"
-#include "engine/tablelocks.h"
+#include "engine/store/lockmanager.h"
+#include "engine/store/tablelocks.h"
 #include "tests/engine/recordfixture.h"
 
 #include <atomic>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "engine/dialect.h"
-#include "engine/driver.h"
-#include "engine/query.h"
-#include "engine/table.h"
+#include "engine/records/query.h"
+#include "engine/records/table.h"
+#include "engine/store/dialect.h"
+#include "engine/store/driver.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 

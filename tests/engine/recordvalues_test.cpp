@@ -1,12 +1,12 @@
 // Values, money and layouts: what needs no store.
 
-#include "engine/amounttoolarge.h"
-#include "engine/field.h"
-#include "engine/layout.h"
-#include "engine/linetext.h"
-#include "engine/money.h"
-#include "engine/namedparameters.h"
-#include "engine/value.h"
+#include "engine/store/namedparameters.h"
+#include "engine/values/amounttoolarge.h"
+#include "engine/values/field.h"
+#include "engine/values/layout.h"
+#include "engine/values/linetext.h"
+#include "engine/values/money.h"
+#include "engine/values/value.h"
 #include "tests/support/failures.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "engine/groupedwrites.h"
-#include "engine/lockmanager.h"
-#include "engine/platform.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
+#include "engine/store/groupedwrites.h"
+#include "engine/store/lockmanager.h"
+#include "engine/store/platform.h"
 #include "tests/engine/storetest.h"
 
 #include <QDir>

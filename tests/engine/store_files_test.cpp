@@ -1,5 +1,5 @@
-#include "engine/lockmanager.h"
-#include "engine/readmoment.h"
+#include "engine/store/lockmanager.h"
+#include "engine/store/readmoment.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/otheruser.h"
 

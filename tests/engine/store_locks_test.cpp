@@ -1,4 +1,4 @@
-#include "engine/lockmanager.h"
+#include "engine/store/lockmanager.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/otheruser.h"
 

@@ -1,5 +1,5 @@
-#include "engine/error.h"
-#include "engine/lockmanager.h"
+#include "engine/store/lockmanager.h"
+#include "engine/values/error.h"
 #include "tests/support/otheruser.h"
 
 #include <iostream>

@@ -1,6 +1,6 @@
-#include "engine/readmoment.h"
-#include "engine/rowwalk.h"
-#include "engine/table.h"
+#include "engine/records/rowwalk.h"
+#include "engine/records/table.h"
+#include "engine/store/readmoment.h"
 #include "tests/engine/storetest.h"
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,5 @@
-#include "engine/readmoment.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
+#include "engine/store/readmoment.h"
 #include "tests/support/failures.h"
 #include "tests/support/teststore.h"
 

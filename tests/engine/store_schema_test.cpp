@@ -1,5 +1,5 @@
-#include "engine/lockmanager.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
+#include "engine/store/lockmanager.h"
 #include "tests/engine/storetest.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/dialect.h"
+#include "engine/store/dialect.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 

@@ -1,4 +1,4 @@
-#include "controls/recordscreen.h"
+#include "controls/screens/recordscreen.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/helpwindow.h"
 #include "frame/mainoptionsinv.h"

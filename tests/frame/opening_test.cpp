@@ -1,5 +1,5 @@
-#include "controls/commandscreen.h"
-#include "engine/table.h"
+#include "controls/screens/commandscreen.h"
+#include "engine/records/table.h"
 #include "frame/frmtallymeresystem.h"
 #include "master/screens/dialerinv.h"
 #include "tests/frame/testcompany.h"

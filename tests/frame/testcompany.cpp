@@ -1,6 +1,6 @@
 #include "tests/frame/testcompany.h"
 
-#include "controls/recordlistscreen.h"
+#include "controls/screens/recordlistscreen.h"
 #include "frame/aboutform.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/itemsearchinv.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/settingsstore.h"
-#include "controls/screencontext.h"
+#include "controls/windows/screencontext.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
 #include "frame/screenregistry.h"

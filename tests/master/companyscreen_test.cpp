@@ -1,4 +1,4 @@
-#include "controls/lookupcombobox.h"
+#include "controls/fields/lookupcombobox.h"
 #include "data/fiscalperiod.h"
 #include "master/screens/company.h"
 #include "tests/support/screentest.h"

@@ -1,5 +1,5 @@
-#include "engine/table.h"
-#include "engine/tablelocks.h"
+#include "engine/records/table.h"
+#include "engine/store/tablelocks.h"
 #include "host/tables/hosttables.h"
 #include "master/itemsync.h"
 #include "master/locationsync.h"

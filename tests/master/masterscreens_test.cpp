@@ -1,4 +1,4 @@
-#include "controls/screenmetrics.h"
+#include "controls/windows/screenmetrics.h"
 #include "master/masterkinds.h"
 #include "master/screens/masterlistscreen.h"
 #include "master/screens/masterrecordscreen.h"

@@ -1,4 +1,4 @@
-#include "controls/screenmetrics.h"
+#include "controls/windows/screenmetrics.h"
 #include "master/masterkinds.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/vcontact.h"

@@ -1,4 +1,4 @@
-#include "controls/lookupcombobox.h"
+#include "controls/fields/lookupcombobox.h"
 #include "printing/pagepainter.h"
 #include "printing/reportcsv.h"
 #include "reports/blankform.h"

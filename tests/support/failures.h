@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/ruleerror.h"
-#include "engine/error.h"
+#include "engine/values/error.h"
 
 #include <optional>
 

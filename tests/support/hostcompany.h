@@ -2,8 +2,8 @@
 
 #include "base/settingsstore.h"
 #include "base/stores.h"
-#include "engine/database.h"
-#include "engine/session.h"
+#include "engine/store/database.h"
+#include "engine/store/session.h"
 #include "host/tables/hosttables.h"
 
 // Makes the tables of the host in a folder.

@@ -1,8 +1,8 @@
 #include "tests/support/kitchen.h"
 
 #include "data/layouts.h"
-#include "engine/lockmanager.h"
-#include "engine/query.h"
+#include "engine/records/query.h"
+#include "engine/store/lockmanager.h"
 
 #include <QThread>
 

@@ -1,6 +1,6 @@
 #include "tests/support/screentest.h"
 
-#include "controls/windowrules.h"
+#include "controls/windows/windowrules.h"
 #include "host/tables/hosttables.h"
 
 using namespace Qt::StringLiterals;

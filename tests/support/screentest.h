@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/screencontext.h"
+#include "controls/windows/screencontext.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
 #include "tests/support/kitchen.h"

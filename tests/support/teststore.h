@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/database.h"
-#include "engine/session.h"
+#include "engine/store/database.h"
+#include "engine/store/session.h"
 
 #include <memory>
 #include <QStringList>

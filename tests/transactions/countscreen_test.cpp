@@ -1,4 +1,4 @@
-#include "controls/datepicker.h"
+#include "controls/fields/datepicker.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"

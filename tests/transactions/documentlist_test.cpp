@@ -1,7 +1,7 @@
 #include "transactions/documentlist.h"
 
-#include "engine/lockmanager.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
+#include "engine/store/lockmanager.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/kitchen.h"
 #include "transactions/documentkinds.h"

@@ -1,7 +1,7 @@
 // Windows in edit whose server, or whose hold on a record, is gone.
 
-#include "controls/linegrid.h"
-#include "engine/query.h"
+#include "controls/grids/linegrid.h"
+#include "engine/records/query.h"
 #include "master/screens/itemtypeinv.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/invreceipt.h"

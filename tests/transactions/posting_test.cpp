@@ -1,7 +1,7 @@
 #include "transactions/documentposting.h"
 
-#include "engine/lockmanager.h"
-#include "engine/table.h"
+#include "engine/records/table.h"
+#include "engine/store/lockmanager.h"
 #include "tests/support/documents.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "transactions/receiptcost.h"
 
-#include "engine/amounttoolarge.h"
+#include "engine/values/amounttoolarge.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "transactions/receiptentry.h"
 
-#include "engine/lockmanager.h"
+#include "engine/store/lockmanager.h"
 #include "tests/support/kitchen.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 #include "transactions/stockcount.h"
 
-#include "engine/table.h"
-#include "engine/tablelocks.h"
+#include "engine/records/table.h"
+#include "engine/store/tablelocks.h"
 #include "tests/support/kitchen.h"
 #include "transactions/documentkinds.h"
 

@@ -1,7 +1,7 @@
 #include "transactions/screens/countgrid.h"
 
 #include "base/formats.h"
-#include "controls/stepbox.h"
+#include "controls/grids/stepbox.h"
 #include "transactions/screens/countmodel.h"
 
 #include <optional>

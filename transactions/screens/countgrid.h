@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/entrygrid.h"
-#include "engine/field.h"
+#include "controls/grids/entrygrid.h"
+#include "engine/values/field.h"
 #include "transactions/countlist.h"
 
 #include <functional>

@@ -2,7 +2,7 @@
 
 #include "base/regionalsettings.h"
 #include "data/numbercounter.h"
-#include "engine/linetext.h"
+#include "engine/values/linetext.h"
 #include "transactions/countlist.h"
 #include "transactions/screens/countgrid.h"
 

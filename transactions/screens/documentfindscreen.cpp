@@ -1,6 +1,6 @@
 #include "transactions/screens/documentfindscreen.h"
 
-#include "controls/filternote.h"
+#include "controls/screens/filternote.h"
 #include "transactions/documentlist.h"
 #include "ui_documentfindscreen.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/recordlistscreen.h"
+#include "controls/screens/recordlistscreen.h"
 #include "transactions/documentlist.h"
 
 namespace Tallymere {

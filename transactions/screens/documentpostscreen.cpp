@@ -1,8 +1,8 @@
 #include "transactions/screens/documentpostscreen.h"
 
-#include "controls/barprogress.h"
-#include "controls/messageboxes.h"
-#include "controls/screenmetrics.h"
+#include "controls/windows/barprogress.h"
+#include "controls/windows/messageboxes.h"
+#include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "transactions/lastsaved.h"
 #include "ui_documentpostscreen.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/dialogscreen.h"
+#include "controls/screens/dialogscreen.h"
 #include "transactions/documentlist.h"
 #include "transactions/documentposting.h"
 

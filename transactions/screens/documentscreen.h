@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/lineoptions.h"
-#include "controls/recordscreen.h"
-#include "controls/tablemodel.h"
+#include "controls/grids/lineoptions.h"
+#include "controls/grids/tablemodel.h"
+#include "controls/screens/recordscreen.h"
 #include "transactions/documententry.h"
 
 class QAction;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/recordopener.h"
+#include "controls/screens/recordopener.h"
 
 #include <functional>
 #include <QList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/entryscreen.h"
+#include "controls/screens/entryscreen.h"
 #include "transactions/stockcount.h"
 
 #include <memory>

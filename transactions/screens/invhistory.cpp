@@ -1,6 +1,6 @@
 #include "transactions/screens/invhistory.h"
 
-#include "controls/recordopener.h"
+#include "controls/screens/recordopener.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "transactions/documentkind.h"

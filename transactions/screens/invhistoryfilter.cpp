@@ -1,6 +1,6 @@
 #include "transactions/screens/invhistoryfilter.h"
 
-#include "controls/optionalnumber.h"
+#include "controls/fields/optionalnumber.h"
 #include "data/datamodule.h"
 #include "data/fiscalperiod.h"
 #include "data/transtypes.h"

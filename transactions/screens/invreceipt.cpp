@@ -1,6 +1,6 @@
 #include "transactions/screens/invreceipt.h"
 
-#include "controls/screenmetrics.h"
+#include "controls/windows/screenmetrics.h"
 #include "data/fields.h"
 #include "data/lookupsdatainv.h"
 #include "transactions/documentkinds.h"

@@ -1,8 +1,8 @@
 #include "transactions/screens/invtotals.h"
 
 #include "base/formats.h"
-#include "controls/listbuttons.h"
-#include "controls/screenmetrics.h"
+#include "controls/screens/listbuttons.h"
+#include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "transactions/screens/invtotalsfilter.h"

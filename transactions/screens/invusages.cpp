@@ -1,6 +1,6 @@
 #include "transactions/screens/invusages.h"
 
-#include "controls/datedialog.h"
+#include "controls/screens/datedialog.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "transactions/documentkinds.h"

@@ -1,6 +1,6 @@
 #include "transactions/screens/stockfilterdialog.h"
 
-#include "controls/lookupcombobox.h"
+#include "controls/fields/lookupcombobox.h"
 #include "data/lookupsdatainv.h"
 #include "master/masterkinds.h"
 #include "master/screens/recordpair.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/filterdialog.h"
+#include "controls/screens/filterdialog.h"
 
 namespace Tallymere {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/listscreen.h"
+#include "controls/screens/listscreen.h"
 
 namespace Tallymere {
 

@@ -1,0 +1,79 @@
+#include "controls/fields/comboboxname.h"
+
+#include "controls/fields/lookupcombobox.h"
+#include "controls/windows/showntext.h"
+
+#include <QAbstractItemView>
+#include <QAccessibleWidget>
+#include <QVariant>
+
+namespace Tallymere {
+
+namespace {
+
+class NamedComboBox final : public QAccessibleWidget
+{
+public:
+    explicit NamedComboBox(QComboBox *box)
+        : QAccessibleWidget(box, QAccessible::ComboBox)
+        , m_box(*box)
+        , m_text([box] { return box->currentText(); })
+    {
+        QObject::connect(box, &QComboBox::currentTextChanged, box,
+                         [box, last = box->currentText()](const QString &text) mutable {
+                             QAccessibleTextUpdateEvent changed(box, 0, last, text);
+                             QAccessible::updateAccessibility(&changed);
+                             last = text;
+                         });
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_box.currentText() : QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        const auto *lookup = qobject_cast<const LookupComboBox *>(&m_box);
+        state.readOnly = lookup && lookup->isReadOnly();
+        state.expandable = !state.readOnly;
+        state.expanded = m_box.view()->isVisible();
+        return state;
+    }
+    QStringList actionNames() const override { return {showMenuAction(), pressAction()}; }
+    void doAction(const QString &name) override
+    {
+        if (name != showMenuAction() && name != pressAction())
+            return;
+        if (m_box.view()->isVisible())
+            m_box.hidePopup();
+        else
+            m_box.showPopup();
+    }
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface *>(&m_text)
+                                                  : QAccessibleWidget::interface_cast(type);
+    }
+
+private:
+    QComboBox &m_box;
+    ShownText m_text; // of the closed box
+};
+
+QAccessibleInterface *makeNamed(const QString &, QObject *object)
+{
+    auto *box = qobject_cast<QComboBox *>(object);
+    const bool ours = qobject_cast<LookupComboBox *>(box)
+        || (box && (box->property("dataField").isValid() || box->property("keepsName").isValid()));
+    return ours ? new NamedComboBox(box) : nullptr;
+}
+
+} // namespace
+
+void keepComboBoxNames()
+{
+    QAccessible::installFactory(makeNamed); // Qt takes it once
+}
+
+} // namespace Tallymere

@@ -1,0 +1,83 @@
+#include "controls/fields/inusenotice.h"
+
+#include "controls/fields/fieldbinder.h"
+#include "controls/windows/screenmetrics.h"
+#include "engine/records/table.h"
+#include "engine/store/database.h"
+#include "engine/store/lockmanager.h"
+#include "engine/values/error.h"
+
+#include <chrono>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr std::chrono::seconds pauseBetweenLooks{3}; // while the notice is shown
+constexpr int marginPixels = 6;
+
+} // namespace
+
+InUseNotice::InUseNotice(QWidget &screen, FieldBinder &binder)
+    : QLabel(&screen)
+    , m_screen(screen)
+    , m_binder(binder)
+{
+    setObjectName(u"lblInUse"_s);
+    setWordWrap(true);
+    setTextFormat(Qt::PlainText); // names are shown as they are
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    setMargin(scaled(this, marginPixels));
+    hide();
+    if (auto *rows = qobject_cast<QBoxLayout *>(screen.layout()))
+        rows->insertWidget(0, this);
+    m_again.setSingleShot(true);
+    m_again.setInterval(pauseBetweenLooks);
+    connect(&m_again, &QTimer::timeout, this, &InUseNotice::look);
+    screen.installEventFilter(this);
+}
+
+bool InUseNotice::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate)
+        look();
+    return QLabel::eventFilter(watched, event);
+}
+
+void InUseNotice::look()
+{
+    if (!m_screen.isVisible())
+        return;
+    const QString who = holder();
+    if (!who.isEmpty())
+        setText(tr("In use by %1. You can read it; it can be changed once it is free.").arg(who));
+    setVisible(!who.isEmpty());
+    m_binder.setInUse(!who.isEmpty());
+    if (!who.isEmpty())
+        m_again.start();
+}
+
+QString InUseNotice::holder() const
+{
+    const QList<Engine::Table *> tables = m_binder.tables();
+    try {
+        for (const Engine::Table *table : tables) {
+            if (table->database().connection().inTransaction())
+                continue; // something is being written, which tells by itself who is in its way
+            if (const auto owner = table->editedBy())
+                return owner->description();
+        }
+    } catch (const Engine::EngineError &) {
+        // Nothing is said of a store that cannot be asked: whatever is done next tells.
+    }
+    return {};
+}
+
+} // namespace Tallymere

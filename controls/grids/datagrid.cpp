@@ -1,0 +1,248 @@
+#include "controls/grids/datagrid.h"
+
+#include "controls/windows/screenmetrics.h"
+
+#include <algorithm>
+#include <numeric>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QStyleOption>
+#include <QTextDocument>
+#include <QToolTip>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr int rowPadding = 7; // design pixels
+constexpr int hintMargin = 16;
+constexpr int titleMargin = 4;
+constexpr int leastLetters = 12;
+
+// Titles keep apart, also one at the right of its column from the next one at the left.
+class TitleStyle final : public QProxyStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        const auto *title = qstyleoption_cast<const QStyleOptionHeader *>(option);
+        if (element != CE_HeaderLabel || !title || !widget)
+            return QProxyStyle::drawControl(element, option, painter, widget);
+        QStyleOptionHeaderV2 apart; // has room for either version
+        static_cast<QStyleOptionHeader &>(apart) = *title;
+        if (const auto *second = qstyleoption_cast<const QStyleOptionHeaderV2 *>(option))
+            apart = *second;
+        const int margin = scaled(widget, titleMargin);
+        apart.rect.adjust(margin, 0, -margin, 0);
+        QProxyStyle::drawControl(element, &apart, painter, widget);
+    }
+};
+
+} // namespace
+
+DataGrid::DataGrid(QWidget *parent)
+    : QTableView(parent)
+{
+    setAlternatingRowColors(true);
+    setShowGrid(true);
+    setGridStyle(Qt::SolidLine);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideRight);
+    setCornerButtonEnabled(false);
+    setTabKeyNavigation(false);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + scaled(this, rowPadding));
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsMovable(false);
+    auto *titles = new TitleStyle;
+    titles->setParent(this);
+    horizontalHeader()->setStyle(titles);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
+        if (!m_sharing && column < m_widths.size())
+            setWantedWidth(column, width);
+    });
+}
+
+int DataGrid::columnOf(const QString &field) const
+{
+    const auto found = std::find_if(m_columns.cbegin(), m_columns.cend(),
+                                    [&](const GridColumn &column) { return column.shows(field); });
+    return found == m_columns.cend() ? -1 : static_cast<int>(found - m_columns.cbegin());
+}
+
+void DataGrid::showModel(TableModel *model)
+{
+    m_table = model;
+    showModel(model, model->columns());
+}
+
+void DataGrid::showModel(QAbstractItemModel *model, const QList<GridColumn> &columns)
+{
+    const QScopedValueRollback setting(m_sharing, true);
+    m_columns = columns;
+    setModel(model);
+    m_surplusColumn = static_cast<int>(columns.size()) - 1;
+    m_widths.clear();
+    for (int i = 0; i < columns.size(); ++i) {
+        m_widths.append({scaled(this, columns[i].width), leastWidthOf(i)});
+        setColumnWidth(i, m_widths[i].wanted);
+        if (columns[i].takesSurplus)
+            m_surplusColumn = i;
+    }
+    // Its width is what the others leave.
+    if (m_surplusColumn >= 0)
+        horizontalHeader()->setSectionResizeMode(m_surplusColumn, QHeaderView::Fixed);
+}
+
+// --- widths -----------------------------------------------------------------------------------------------------
+
+// Texts keep twelve letters, figures and dates three quarters of their column; nothing less than its title.
+int DataGrid::leastWidthOf(int column) const
+{
+    const GridColumn &described = m_columns[column];
+    const int wanted = scaled(this, described.width);
+    const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 1;
+    const int letters = fontMetrics().horizontalAdvance(QString(leastLetters, u'n')) + margins;
+    const int title = horizontalHeader()->fontMetrics().horizontalAdvance(described.title)
+        + 2 * (scaled(this, titleMargin) + style()->pixelMetric(QStyle::PM_HeaderMargin));
+    const bool isText = described.alignment.testFlag(Qt::AlignLeft);
+    return std::min(wanted, std::max(title, isText ? letters : wanted * 3 / 4));
+}
+
+int DataGrid::sumOf(int Width::*part) const
+{
+    return std::accumulate(m_widths.begin(), m_widths.end(), 0,
+                           [part](int sum, const Width &width) { return sum + width.*part; });
+}
+
+int DataGrid::leastWidth() const
+{
+    return sumOf(&Width::least) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+}
+
+void DataGrid::setWantedWidth(int column, int width)
+{
+    m_widths[column] = {width, width};
+    shareWidth();
+}
+
+void DataGrid::shareWidth()
+{
+    const QScopedValueRollback sharing(m_sharing, true);
+    const int lack = sumOf(&Width::wanted) - viewport()->width();
+    int spare = sumOf(&Width::wanted) - sumOf(&Width::least); // that the columns so far have not been asked for
+    int missing = std::clamp(lack, 0, spare);
+    for (int i = 0; i < m_widths.size(); ++i) {
+        const int own = m_widths[i].wanted - m_widths[i].least;
+        const int given = spare > 0 ? qRound(static_cast<double>(missing) * own / spare) : 0;
+        spare -= own;
+        missing -= given;
+        const int surplus = i == m_surplusColumn ? std::max(0, -lack) : 0;
+        setColumnWidth(i, m_widths[i].wanted - given + surplus);
+    }
+}
+
+void DataGrid::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    shareWidth();
+}
+
+int DataGrid::widthForColumns(int count) const
+{
+    int width = 0;
+    const QList<GridColumn> shown = m_columns.first(std::min<qsizetype>(count, m_columns.size()));
+    for (const GridColumn &column : shown)
+        width += scaled(this, column.width);
+    return width + static_cast<int>(shown.size()) + scaled(this, 16) + 4;
+}
+
+int DataGrid::heightForRows(int rows) const
+{
+    return horizontalHeader()->sizeHint().height() + rows * verticalHeader()->defaultSectionSize()
+        + 2 * frameWidth();
+}
+
+bool DataGrid::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTableView::viewportEvent(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString text = isCut(index) ? index.data().toString() : QString();
+    QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(text, Qt::WhiteSpaceNoWrap), this,
+                       visualRect(index));
+    return true;
+}
+
+bool DataGrid::isCut(const QModelIndex &cell) const
+{
+    const QVariant font = cell.data(Qt::FontRole);
+    const QFontMetrics metrics = font.isValid() ? QFontMetrics(font.value<QFont>()) : fontMetrics();
+    const int space = columnWidth(cell.column()) - 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    return metrics.horizontalAdvance(cell.data().toString()) > space;
+}
+
+QString DataGrid::cutFigures(int row) const
+{
+    if (row < 0 || row >= model()->rowCount())
+        return {};
+    QStringList figures;
+    for (int column = 0; column < m_columns.size(); ++column) {
+        const QModelIndex cell = model()->index(row, column);
+        if (m_columns[column].alignment.testFlag(Qt::AlignRight) && isCut(cell))
+            figures.append(u"%1: %2"_s.arg(m_columns[column].title, cell.data().toString()));
+    }
+    return figures.join(u"   "_s);
+}
+
+void DataGrid::setHint(const QString &hint)
+{
+    if (hint == m_hint)
+        return;
+    m_hint = hint;
+    viewport()->update();
+}
+
+QString DataGrid::shownHint() const
+{
+    const bool empty = m_table && m_table->dataSet().isOpen() && m_table->rowCount() == 0 && !m_table->hasFailed();
+    return empty ? m_hint : QString();
+}
+
+void DataGrid::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (const QString hint = shownHint(); !hint.isEmpty())
+        paintHint(hint);
+    if (hasFocus() && model() && model()->rowCount() == 0)
+        paintFocus();
+}
+
+// Without a row there is none to show the cursor in.
+void DataGrid::paintFocus()
+{
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
+void DataGrid::paintHint(const QString &hint)
+{
+    const int margin = scaled(this, hintMargin);
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, hint);
+}
+
+} // namespace Tallymere

@@ -1,0 +1,192 @@
+#include "controls/grids/entrygrid.h"
+
+#include "base/ruleerror.h"
+#include "controls/grids/entrydelegate.h"
+#include "controls/grids/stepbox.h"
+#include "controls/windows/leaving.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+EntryGrid::EntryGrid(QWidget *parent)
+    : DataGrid(parent)
+{
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed
+                    | QAbstractItemView::DoubleClicked);
+    setItemDelegate(new EntryDelegate(this));
+    setAlternatingRowColors(false);
+}
+
+// --- the entry in hand ------------------------------------------------------------------------------------------
+
+EntryGrid::Editor EntryGrid::lineEdit(QWidget *parent)
+{
+    auto *edit = new QLineEdit(parent);
+    edit->setFrame(false);
+    return {edit, edit};
+}
+
+EntryGrid::Editor EntryGrid::stepBox(QWidget *parent, const Engine::Field &field, const LineSteps &steps)
+{
+    auto *box = new StepBox(field, steps, parent);
+    box->setFrame(false);
+    return {box, box->edit()};
+}
+
+QWidget *EntryGrid::openEditor(QWidget *parent, const QModelIndex &cell)
+{
+    const GridColumn &column = columns()[cell.column()];
+    const Editor made = makeEditor(parent, cell);
+    m_editorBox = made.box;
+    m_editor = made.edit;
+    if (m_editorBox->objectName().isEmpty())
+        m_editorBox->setObjectName(u"editCell"_s);
+    m_editorBox->setAccessibleName(column.title);
+    m_editor->setAlignment(column.alignment | Qt::AlignVCenter);
+    m_offered = cell.data(Qt::EditRole).toString();
+    m_editor->setText(m_offered);
+    m_editor->selectAll();
+    m_edited = cell;
+    return m_editorBox;
+}
+
+QString EntryGrid::typedText() const
+{
+    return m_editor && m_editor->text() != m_offered ? m_editor->text() : QString();
+}
+
+void EntryGrid::commitEntry()
+{
+    if (m_reporting)
+        throw SilentAbort();
+    if (!m_editor)
+        return;
+    const QString text = m_editor->text();
+    takeEntry(m_edited, text, text == m_offered ? Entry::Unchanged : Entry::Changed);
+    dropEntry();
+}
+
+void EntryGrid::dropEntry()
+{
+    if (!m_editor)
+        return;
+    QWidget *box = std::exchange(m_editorBox, nullptr);
+    m_editor = nullptr;
+    closeEditor(box, QAbstractItemDelegate::NoHint);
+}
+
+bool EntryGrid::finishEntry()
+{
+    const std::exception_ptr failure = Guard::attempt([this] { commitEntry(); });
+    if (!failure)
+        return true;
+    {
+        const QScopedValueRollback reporting(m_reporting, true);
+        m_guard->report(failure);
+    }
+    if (m_editor) {
+        m_editor->setFocus();
+        m_editor->selectAll();
+    }
+    return false;
+}
+
+void EntryGrid::editorLeft(Qt::FocusReason reason)
+{
+    if (!m_editor || m_reporting || comesBack(reason))
+        return;
+    if (dropsEntry(QApplication::focusWidget())) {
+        dropEntry();
+        return;
+    }
+    const QString text = m_editor->text();
+    const QPersistentModelIndex cell = m_edited;
+    const std::exception_ptr failure = Guard::attempt([this] { commitEntry(); });
+    if (!failure)
+        return entryLeft(reason);
+    dropEntry();
+    if (leadsAway(failure, cell))
+        return reportLater(failure, {});
+    reportLater(failure, [this, cell, text] { reopen(cell, text); });
+}
+
+// A refusal may name another column than the one that was typed into: the cursor goes there.
+bool EntryGrid::leadsAway(const std::exception_ptr &failure, const QModelIndex &cell) const
+{
+    const QString named = Guard::columnOf(failure);
+    return !named.isEmpty() && columnOf(named) >= 0 && columnOf(named) != cell.column();
+}
+
+void EntryGrid::editorGone()
+{
+    m_editor = nullptr;
+    m_editorBox = nullptr;
+}
+
+void EntryGrid::reportLater(const std::exception_ptr &failure, const std::function<void()> &then)
+{
+    m_reporting = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this, failure, then] {
+            m_guard->report(failure);
+            m_reporting = false;
+            setFocus();
+            if (then)
+                then();
+        },
+        Qt::QueuedConnection);
+}
+
+void EntryGrid::reopen(const QModelIndex &cell, const QString &text)
+{
+    if (!cell.isValid())
+        return;
+    setCurrentIndex(cell);
+    DataGrid::edit(cell);
+    if (m_editor) {
+        m_editor->setText(text);
+        m_editor->selectAll();
+    }
+}
+
+// --- keys in the editor -----------------------------------------------------------------------------------------
+
+bool EntryGrid::editorKey(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (finishEntry())
+            entered();
+        return true;
+    case Qt::Key_Escape:
+        dropEntry();
+        return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        if (finishEntry())
+            focusNextPrevChild(event->key() == Qt::Key_Tab);
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (qobject_cast<StepBox *>(m_editorBox))
+            return false;
+        [[fallthrough]];
+    case Qt::Key_PageDown:
+        if (finishEntry())
+            keyPressEvent(event);
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace Tallymere

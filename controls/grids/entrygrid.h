@@ -1,0 +1,70 @@
+#pragma once
+
+#include "controls/grids/datagrid.h"
+#include "controls/grids/lineoptions.h"
+#include "controls/windows/guard.h"
+
+class QLineEdit;
+
+namespace Tallymere {
+
+// A grid whose cells are typed into, in place. What is typed is handed over by Enter, Tab or leaving the cell. Where it is
+// refused the editor stays open, or is opened again on it once the refusal has been shown, unless that sends the cursor to
+// another column. Escape drops it.
+class EntryGrid : public DataGrid
+{
+    Q_OBJECT
+
+public:
+    // Hands over the text being typed; throws what refuses it, and the editor stays open. SilentAbort while a refusal is
+    // still to be shown.
+    void commitEntry();
+    bool hasEntry() const { return m_editor != nullptr; }
+    void dropEntry(); // without a word
+
+protected:
+    explicit EntryGrid(QWidget *parent);
+
+    void setGuard(const Guard &guard) { m_guard = &guard; }
+    const Guard &guard() const { return *m_guard; }
+
+    struct Editor
+    {
+        QWidget *box = nullptr; // what stands in the cell: the edit, or what holds it
+        QLineEdit *edit = nullptr;
+    };
+    static Editor lineEdit(QWidget *parent);
+    static Editor stepBox(QWidget *parent, const Engine::Field &field, const LineSteps &steps);
+
+    virtual Editor makeEditor(QWidget *parent, const QModelIndex &cell) = 0;
+    enum class Entry { Unchanged, Changed };
+    virtual void takeEntry(const QModelIndex &cell, const QString &text, Entry entry) = 0; // throws to refuse
+    virtual void entered() = 0; // Enter has handed the entry over; the cursor moves on
+    virtual void entryLeft(Qt::FocusReason) { } // it was handed over as the focus went
+    virtual bool editorKey(QKeyEvent *event); // true when the key has been used
+
+    QLineEdit *editor() const { return m_editor; } // null while none is open
+    QString typedText() const; // what has been typed in the open editor, if anything
+    bool finishEntry(); // commits and closes; false, with the editor open, when refused
+    void reopen(const QModelIndex &cell, const QString &text);
+    bool isReporting() const { return m_reporting; }
+    // The box waits for the end of the event that took the focus away; until then the cursor is held.
+    void reportLater(const std::exception_ptr &failure, const std::function<void()> &then);
+
+private:
+    friend class EntryDelegate;
+
+    QWidget *openEditor(QWidget *parent, const QModelIndex &cell);
+    void editorLeft(Qt::FocusReason reason);
+    bool leadsAway(const std::exception_ptr &failure, const QModelIndex &cell) const;
+    void editorGone();
+
+    const Guard *m_guard = nullptr;
+    QWidget *m_editorBox = nullptr;
+    QLineEdit *m_editor = nullptr;
+    QPersistentModelIndex m_edited;
+    QString m_offered; // what the editor began with
+    bool m_reporting = false; // a refusal is being shown: the focus may come and go
+};
+
+} // namespace Tallymere

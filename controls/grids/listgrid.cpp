@@ -1,0 +1,180 @@
+#include "controls/grids/listgrid.h"
+
+#include <algorithm>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+namespace Tallymere {
+
+namespace {
+// Ctrl+Home and Ctrl+End, which go where Home and End go and select as these do.
+bool isFarJump(const QEvent &event)
+{
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const auto &key = static_cast<const QKeyEvent &>(event);
+    return (key.key() == Qt::Key_Home || key.key() == Qt::Key_End) && !key.modifiers().testFlag(Qt::ShiftModifier);
+}
+} // namespace
+
+void ListGrid::setDataSet(Engine::DataSet &set, const QList<GridColumn> &columns, const Guard &guard)
+{
+    m_data = &set;
+    m_guard = &guard;
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    auto *model = new TableModel(set, columns, guard, this, TableModel::Reading::FirstPageFirst);
+    // The view moves its cursor off rows that go. Where it belongs in the new list the data set says afterwards.
+    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { m_moving = true; });
+    showModel(model);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, [this] { m_moving = false; });
+    m_search = new ListSearch(*tableModel(), guard, this);
+    connect(selectionModel(), &QItemSelectionModel::currentChanged, this, &ListGrid::giveCursor);
+    // The model hears of a new list first; with its rows there, the cursor goes to the current one.
+    connect(&set, &Engine::DataSet::listChanged, this, &ListGrid::dropSelection);
+    connect(&set, &Engine::DataSet::currentChanged, this, &ListGrid::takeCursor);
+    connect(tableModel(), &QAbstractItemModel::dataChanged, this, &ListGrid::takeCursor);
+    takeCursor();
+}
+
+// --- the cursor -------------------------------------------------------------------------------------------------
+
+void ListGrid::takeCursor()
+{
+    if (m_moving || !m_data->isOpen())
+        return;
+    const int row = m_data->recordIndex();
+    if (row >= tableModel()->rowCount())
+        tableModel()->readRest();
+    if (row < 0 || row >= tableModel()->rowCount() || row == currentIndex().row())
+        return;
+    m_moving = true;
+    const QModelIndex index = tableModel()->index(row, 0);
+    if (!viewport()->rect().contains(visualRect(index).topLeft()))
+        scrollTo(index, PositionAtCenter);
+    setCurrentIndex(index);
+    m_moving = false;
+}
+
+void ListGrid::giveCursor(const QModelIndex &current)
+{
+    if (m_moving || !current.isValid())
+        return;
+    m_moving = true;
+    m_guard->run([&] { m_data->moveTo(current.row()); });
+    m_moving = false;
+}
+
+void ListGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    DataGrid::currentChanged(current, previous);
+    setAttribute(
+        Qt::WA_InputMethodEnabled); // the base wants it for editors only; composed letters are searched for
+}
+
+// --- the selection ----------------------------------------------------------------------------------------------
+
+// Rows are selected by their numbers. In a new list these stand for other records.
+void ListGrid::dropSelection()
+{
+    selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+QItemSelectionModel::SelectionFlags ListGrid::selectionCommand(const QModelIndex &index, const QEvent *event) const
+{
+    if (!index.isValid())
+        return QItemSelectionModel::NoUpdate; // a click beside the rows
+    const bool byDataSet = !event; // whatever keys are held down meanwhile
+    if (byDataSet || isFarJump(*event))
+        return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    return DataGrid::selectionCommand(index, event);
+}
+
+QList<RowRange> ListGrid::selectedRows() const
+{
+    QList<RowRange> rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        rows.append({range.top(), range.bottom()});
+    if (rows.isEmpty() && currentIndex().isValid())
+        rows.append({currentIndex().row(), currentIndex().row()});
+    std::sort(rows.begin(), rows.end(), [](const RowRange &a, const RowRange &b) { return a.first < b.first; });
+    return rows;
+}
+
+// The base tells assistive programs of a selection by all its cells, which of a long list are too many to list.
+void ListGrid::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    const auto isLarge = [](const QItemSelection &selection) {
+        constexpr int many = 1000;
+        return std::any_of(selection.begin(), selection.end(),
+                           [](const QItemSelectionRange &range) { return range.height() > many; });
+    };
+    if (isLarge(selected) || isLarge(deselected))
+        QAbstractItemView::selectionChanged(selected, deselected); // NOLINT(bugprone-parent-virtual-call)
+    else
+        DataGrid::selectionChanged(selected, deselected);
+}
+
+// --- keys and mouse ---------------------------------------------------------------------------------------------
+
+void ListGrid::keyPressEvent(QKeyEvent *event)
+{
+    tableModel()->readRest();
+    if (m_search->takeKey(*event))
+        return;
+    const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        Q_EMIT chosen();
+        return;
+    }
+    DataGrid::keyPressEvent(event);
+}
+
+// Home and End lead to the first and the last row; the base stays in the row.
+QModelIndex ListGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const int rows = tableModel()->rowCount();
+    if (rows > 0 && (action == MoveHome || action == MoveEnd))
+        return tableModel()->index(action == MoveHome ? 0 : rows - 1, 0);
+    return DataGrid::moveCursor(action, modifiers);
+}
+
+void ListGrid::keyboardSearch(const QString &text) { m_search->type(text); }
+
+void ListGrid::inputMethodEvent(QInputMethodEvent *event)
+{
+    if (!event->commitString().isEmpty())
+        m_search->type(event->commitString());
+    event->accept();
+}
+
+void ListGrid::focusOutEvent(QFocusEvent *event)
+{
+    m_search->end();
+    DataGrid::focusOutEvent(event);
+}
+
+void ListGrid::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const bool onRow = event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid();
+    DataGrid::mouseDoubleClickEvent(event);
+    if (onRow)
+        Q_EMIT chosen();
+}
+
+// --- painting ---------------------------------------------------------------------------------------------------
+
+void ListGrid::paintEvent(QPaintEvent *event)
+{
+    DataGrid::paintEvent(event);
+    if (tableModel()->isPartial())
+        QMetaObject::invokeMethod(tableModel(), &TableModel::readRest, Qt::QueuedConnection);
+}
+
+void ListGrid::showEvent(QShowEvent *event)
+{
+    DataGrid::showEvent(event);
+    takeCursor();
+}
+
+} // namespace Tallymere

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "controls/grids/tablemodel.h"
+#include "controls/windows/guard.h"
+
+#include <optional>
+#include <QElapsedTimer>
+#include <QObject>
+
+class QKeyEvent;
+
+namespace Tallymere {
+
+// The search by typing in a list: what is typed without a pause is the beginning of a text in the column that the
+// list is ordered by, and the cursor goes to the first row that has it, found by a key look-up. When no row has it,
+// the cursor stays. Backspace takes the last character away, Escape and any other move of the cursor end the search.
+//
+// The column is the first text of the order that the list shows; without one nothing is searched.
+class ListSearch : public QObject
+{
+    Q_OBJECT
+
+public:
+    ListSearch(const TableModel &model, const Guard &guard, QObject *parent);
+
+    bool takeKey(const QKeyEvent &key); // false when it means nothing here
+    void type(const QString &text);
+    void end();
+
+    const QString &text() const { return m_text; } // empty: nothing is being searched for
+    bool isFound() const { return m_found; }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    std::optional<Engine::OrderedField> column() const;
+    bool goesOn() const; // what is typed now belongs to the text
+    bool locate(const Engine::OrderedField &column, const QString &text) const;
+    void find();
+    void shorten();
+
+    const TableModel &m_model;
+    const Guard &m_guard;
+    QString m_text;
+    bool m_found = false;
+    bool m_moving = false; // it is the search that moves the cursor
+    QElapsedTimer m_sinceTyped;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,93 @@
+#include "controls/grids/liststatus.h"
+
+#include "controls/grids/figuresline.h"
+#include "controls/windows/screenmetrics.h"
+
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLocale>
+#include <QStatusBar>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
+    : QObject(&bar)
+    , m_grid(grid)
+    , m_bar(bar)
+    , m_rows(new QLabel(&bar))
+    , m_search(new QLabel(&bar))
+{
+    m_rows->setObjectName(u"lblRows"_s);
+    m_rows->setContentsMargins(0, 0, scaled(&bar, 24), 0);
+    m_search->setObjectName(u"lblSearch"_s);
+    m_search->setTextFormat(Qt::PlainText);
+    // What is typed may be long; it must not widen the window.
+    m_search->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto *figures = new FiguresLine(&bar);
+    figures->follow(grid);
+    bar.addWidget(m_rows);
+    bar.addWidget(m_search, 1);
+    bar.addWidget(figures, 1);
+    m_search->hide();
+
+    const TableModel *model = grid.tableModel();
+    connect(model, &QAbstractItemModel::rowsInserted, this, &ListStatus::showRows);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &ListStatus::showRows);
+    connect(&model->dataSet(), &Engine::DataSet::listChanged, this, &ListStatus::showRows);
+    connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListStatus::showRows);
+    connect(grid.selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListStatus::showRows);
+    connect(grid.search(), &ListSearch::changed, this, &ListStatus::showSearch);
+    showRows();
+}
+
+void ListStatus::say(const QString &text)
+{
+    constexpr int moment = 5000; // ms
+    m_bar.showMessage(text, moment);
+}
+
+void ListStatus::showRows() { m_rows->setText(rowsText()); }
+
+QString ListStatus::rowsText() const
+{
+    const TableModel &model = *m_grid.tableModel();
+    if (model.isPartial() || model.hasFailed())
+        return {};
+    const QLocale locale;
+    const int count = model.rowCount();
+    const QModelIndex current = m_grid.currentIndex();
+    QString text;
+    if (count == 0)
+        text = tr("No rows");
+    else if (count == 1)
+        text = tr("1 row");
+    else if (current.isValid())
+        text = tr("%1 of %2 rows").arg(locale.toString(current.row() + 1), locale.toString(count));
+    else
+        text = tr("%1 rows").arg(locale.toString(count));
+    if (model.dataSet().isFiltered())
+        text = tr("%1 (filtered)").arg(text);
+    int selected = 0;
+    for (const RowRange &range : m_grid.selectedRows())
+        selected += range.count();
+    return selected > 1 ? tr("%1, %2 selected").arg(text, locale.toString(selected)) : text;
+}
+
+void ListStatus::showSearch()
+{
+    m_bar.clearMessage();
+    const ListSearch &search = *m_grid.search();
+    m_search->setVisible(!search.text().isEmpty());
+    if (search.text().isEmpty())
+        m_search->clear();
+    else if (search.isFound())
+        m_search->setText(tr("Search: %1").arg(search.text()));
+    else if (m_grid.tableModel()->dataSet().isFiltered())
+        m_search->setText(tr("Search: %1 (not found in the filtered rows)").arg(search.text()));
+    else
+        m_search->setText(tr("Search: %1 (not found)").arg(search.text()));
+}
+
+} // namespace Tallymere

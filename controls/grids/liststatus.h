@@ -1,0 +1,33 @@
+#pragma once
+
+#include "controls/grids/listgrid.h"
+
+class QLabel;
+class QStatusBar;
+
+namespace Tallymere {
+
+// The status line of a list: on which row of how many the cursor is, how many are selected, what is being searched for,
+// and the figures of the row that its columns are too narrow for. Nothing is said of the rows before the whole list has
+// been read.
+class ListStatus : public QObject
+{
+    Q_OBJECT
+
+public:
+    ListStatus(ListGrid &grid, QStatusBar &bar);
+
+    void say(const QString &text); // for a moment, in place of the rows
+
+private:
+    void showRows();
+    void showSearch();
+    QString rowsText() const;
+
+    ListGrid &m_grid;
+    QStatusBar &m_bar;
+    QLabel *m_rows;
+    QLabel *m_search;
+};
+
+} // namespace Tallymere

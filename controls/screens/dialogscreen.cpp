@@ -1,0 +1,80 @@
+#include "controls/screens/dialogscreen.h"
+
+#include "controls/fields/comboboxname.h"
+#include "controls/fields/radiochoice.h"
+#include "controls/windows/dialogover.h"
+#include "controls/windows/lineentry.h"
+#include "controls/windows/screenmetrics.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QShowEvent>
+
+namespace Tallymere {
+
+DialogScreen::DialogScreen(ScreenContext &context, QWidget *parent)
+    : QDialog(parent)
+    , m_context(context)
+    , m_guard(
+          context.prompts, [this](const QString &column) { focusColumn(column); }, this)
+{
+    setModal(true);
+    keepComboBoxNames();
+}
+
+QWidget *DialogScreen::widgetOfColumn(const QString &) const { return nullptr; }
+
+void DialogScreen::focusColumn(const QString &column)
+{
+    if (QWidget *widget = widgetOfColumn(column))
+        putCursorInto(*widget);
+}
+
+void DialogScreen::putCursorInto(QWidget &widget)
+{
+    widget.setFocus();
+    if (auto *edit = qobject_cast<QLineEdit *>(&widget))
+        edit->selectAll();
+}
+
+void DialogScreen::takeOneLines()
+{
+    const QList<QLineEdit *> edits = findChildren<QLineEdit *>();
+    for (QLineEdit *edit : edits) {
+        if (!edit->validator() && edit->inputMask().isEmpty()) {
+            takeOneLine(*edit, edit->maxLength(), edit->objectName(),
+                        [this](const QString &text) { m_guard.run([&] { m_context.prompts.warn(text); }); });
+        }
+    }
+}
+
+bool DialogScreen::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish && !std::exchange(m_scaled, true)) {
+        scaleForm(this);
+        leadTabToChosen(*this);
+        takeOneLines();
+    }
+    return QDialog::event(event);
+}
+
+// A dialog that closes right after a message over it leaves some window managers without a window that would be next.
+void DialogScreen::done(int result)
+{
+    if (isHeldByDialog(this))
+        return;
+    QWidget *opener = QApplication::applicationState() == Qt::ApplicationActive ? parentWidget() : nullptr;
+    QDialog::done(result);
+    if (opener && opener->window()->isVisible())
+        opener->window()->activateWindow();
+}
+
+void DialogScreen::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    showCursorAlways(*this);
+    if (!event->spontaneous())
+        m_guard.run([this] { showStep(); });
+}
+
+} // namespace Tallymere

@@ -1,0 +1,181 @@
+#include "controls/screens/filterdialog.h"
+
+#include "controls/fields/lookupcombobox.h"
+#include "data/lookupsdatainv.h"
+#include "ui_filterdialog.h"
+
+#include <algorithm>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr int boxWidth = 260; // design pixels
+constexpr int listWidth = 240;
+} // namespace
+
+FilterDialog::FilterDialog(ScreenContext &context, const FilterDialogKind &kind, QWidget *parent)
+    : DialogScreen(context, parent)
+    , m_ui(std::make_unique<Ui::FilterDialog>())
+{
+    m_ui->setupUi(this);
+    setObjectName(kind.name);
+    setWindowTitle(kind.caption);
+    for (const FilterBox &box : kind.boxes)
+        addBox(box);
+    m_ui->grpMarked->setHidden(kind.mark.isEmpty());
+    if (!kind.mark.isEmpty())
+        addMark(kind.mark, kind.markLabel);
+
+    connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &FilterDialog::btnOKClick);
+    connectGuarded(m_ui->btnReset, &QPushButton::clicked, this, &FilterDialog::btnResetClick);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+FilterDialog::~FilterDialog() = default;
+
+// --- what can be chosen -----------------------------------------------------------------------------------------
+
+void FilterDialog::addBox(const FilterBox &box)
+{
+    auto *shown = new LookupComboBox(this);
+    shown->setObjectName(box.name);
+    const LookupList list = context().lookups.list(box.list);
+    shown->setList(list.table, {{list.nameField, list.title, listWidth}}, guard());
+    addRow(box.label, shown);
+    m_boxes.append(shown);
+    addChoice({.chosen = [shown] { return shown->chosenId(); },
+               .choose = [shown](const QVariant &key) { shown->setChosenId(key.toInt()); },
+               .none = 0,
+               .settle = [shown] { shown->settle(); }});
+}
+
+void FilterDialog::addRow(const QString &label, QWidget *widget)
+{
+    auto *shown = new QLabel(label, this);
+    shown->setBuddy(widget->focusProxy() ? widget->focusProxy() : widget); // the mnemonic passes over a proxy
+    if (qobject_cast<QComboBox *>(widget)) {
+        widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        widget->setMinimumWidth(boxWidth);
+    }
+    const int row = static_cast<int>(m_rows.size());
+    m_ui->layoutFields->addWidget(shown, row, 0);
+    m_ui->layoutFields->addWidget(widget, row, 1);
+    m_rows.append(widget);
+    orderTabs();
+}
+
+void FilterDialog::addChoice(Choice choice) { m_choices.append(std::move(choice)); }
+
+void FilterDialog::addMark(const QString &mark, const QString &label)
+{
+    m_ui->grpMarked->setTitle(label);
+    for (QRadioButton *button : {m_ui->optYes, m_ui->optNo, m_ui->optAll})
+        button->setObjectName("opt"_L1 + mark + button->objectName().mid(3));
+    addChoice(
+        {.chosen = [this] { return static_cast<int>(marked()); },
+         .choose = [this](const QVariant &chosen) { setMarked(static_cast<ListFilter::Marked>(chosen.toInt())); },
+         .none = static_cast<int>(ListFilter::Marked::All)});
+}
+
+namespace {
+
+// What the Tab key stops at in a row, which may be several widgets.
+QList<QWidget *> stopsOf(QWidget *row)
+{
+    if (!row->focusProxy())
+        return {row};
+    QList<QWidget *> stops = row->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    stops.removeIf([](const QWidget *part) { return !(part->focusPolicy() & Qt::TabFocus); });
+    return stops;
+}
+
+} // namespace
+
+// The rows come after the form's own widgets by themselves.
+void FilterDialog::orderTabs()
+{
+    QList<QWidget *> order;
+    for (QWidget *row : std::as_const(m_rows))
+        order += stopsOf(row);
+    order += {m_ui->optYes, m_ui->optNo, m_ui->optAll, m_ui->btnReset, m_ui->btnOK, m_ui->btnCancel};
+    for (int i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
+// --- what is chosen ---------------------------------------------------------------------------------------------
+
+ListFilter::Marked FilterDialog::marked() const
+{
+    if (m_ui->optYes->isChecked())
+        return ListFilter::Marked::Yes;
+    return m_ui->optNo->isChecked() ? ListFilter::Marked::No : ListFilter::Marked::All;
+}
+
+void FilterDialog::setMarked(ListFilter::Marked marked)
+{
+    m_ui->optYes->setChecked(marked == ListFilter::Marked::Yes);
+    m_ui->optNo->setChecked(marked == ListFilter::Marked::No);
+    m_ui->optAll->setChecked(marked == ListFilter::Marked::All);
+}
+
+ListFilter FilterDialog::filter() const
+{
+    return {.key = m_boxes.isEmpty() ? 0 : m_boxes.constFirst()->chosenId(), .marked = marked()};
+}
+
+bool FilterDialog::isOn() const
+{
+    return std::any_of(m_choices.begin(), m_choices.end(),
+                       [](const Choice &choice) { return choice.chosen() != choice.none; });
+}
+
+LookupComboBox *FilterDialog::box(const QString &name) const
+{
+    const auto found = std::find_if(m_boxes.begin(), m_boxes.end(),
+                                    [&](const LookupComboBox *shown) { return shown->objectName() == name; });
+    Q_ASSERT(found != m_boxes.end());
+    return *found;
+}
+
+int FilterDialog::key(const QString &name) const { return box(name)->chosenId(); }
+
+void FilterDialog::setKey(const QString &name, int key) { box(name)->setChosenId(key); }
+
+// --- the dialog -------------------------------------------------------------------------------------------------
+
+void FilterDialog::btnOKClick()
+{
+    for (const Choice &choice : std::as_const(m_choices)) {
+        if (choice.settle)
+            choice.settle();
+    }
+    accept();
+}
+
+void FilterDialog::btnResetClick()
+{
+    for (const Choice &choice : std::as_const(m_choices))
+        choice.choose(choice.none);
+}
+
+void FilterDialog::showStep()
+{
+    m_inForce.clear();
+    for (const Choice &choice : std::as_const(m_choices))
+        m_inForce << choice.chosen();
+    m_rows.constFirst()->setFocus();
+}
+
+void FilterDialog::reject()
+{
+    guard().runWhenFree([this] {
+        for (int i = 0; i < m_inForce.size(); ++i)
+            m_choices[i].choose(m_inForce[i]);
+    });
+    DialogScreen::reject();
+}
+
+} // namespace Tallymere

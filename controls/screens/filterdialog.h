@@ -1,0 +1,76 @@
+#pragma once
+
+#include "base/listfilter.h"
+#include "controls/screens/dialogscreen.h"
+
+#include <memory>
+#include <QVariant>
+
+namespace Ui {
+class FilterDialog;
+}
+
+namespace Tallymere {
+
+class LookupComboBox;
+
+// How the filter dialog of a list differs from those of the others.
+struct FilterDialogKind
+{
+    QString name; // component name: "frmVendorsFilter"
+    QString caption; // "Vendors Filter"
+    QList<FilterBox> boxes = {}; // from top to bottom
+    QString mark = {}; // names the three buttons: "Suspended" for "optSuspendedYes"; empty: rows have no mark
+    QString markLabel = {};
+};
+
+// The filter dialog of a list: records that the rows refer to, and whether they have a mark. It is made once for its
+// list and keeps its choices; OK accepts them, and the list makes its filter expression of them. Cancel takes back what
+// has been chosen since it was opened. Other screens may choose in it before it is shown.
+class FilterDialog : public DialogScreen
+{
+    Q_OBJECT
+
+public:
+    FilterDialog(ScreenContext &context, const FilterDialogKind &kind, QWidget *parent);
+    ~FilterDialog() override;
+
+    ListFilter filter() const; // the record of the first box, and the mark
+    bool isOn() const; // something is chosen, whether the list is narrowed by it or not
+    int key(const QString &box) const; // 0: any
+    void setKey(const QString &box, int key);
+    void btnResetClick(); // nothing is chosen: all rows
+    void reject() override;
+
+protected:
+    // One thing to choose, for dialogs with more than boxes of records.
+    struct Choice
+    {
+        std::function<QVariant()> chosen;
+        std::function<void(const QVariant &)> choose;
+        QVariant none;
+        std::function<void()> settle = {}; // what is still being typed becomes the choice, before OK; may throw
+    };
+    // Rows come in the order in which they are added; the first has the cursor when the dialog opens.
+    void addBox(const FilterBox &box);
+    void addRow(const QString &label, QWidget *widget);
+    void addChoice(Choice choice);
+
+    void showStep() override;
+
+private:
+    void btnOKClick();
+    void addMark(const QString &mark, const QString &label);
+    ListFilter::Marked marked() const;
+    void setMarked(ListFilter::Marked marked);
+    LookupComboBox *box(const QString &name) const;
+    void orderTabs();
+
+    std::unique_ptr<::Ui::FilterDialog> m_ui;
+    QList<QWidget *> m_rows;
+    QList<LookupComboBox *> m_boxes;
+    QList<Choice> m_choices;
+    QVariantList m_inForce; // what was chosen when it was opened
+};
+
+} // namespace Tallymere

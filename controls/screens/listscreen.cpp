@@ -1,0 +1,409 @@
+#include "controls/screens/listscreen.h"
+
+#include "controls/grids/liststatus.h"
+#include "controls/grids/windowmemory.h"
+#include "controls/screens/listoutput.h"
+#include "controls/windows/menukeyboard.h"
+#include "controls/windows/printerneeded.h"
+#include "controls/windows/screenmetrics.h"
+#include "controls/windows/windowplaces.h"
+#include "engine/records/table.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShowEvent>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr int firstRows = 12; // that the screen shows when it opens
+constexpr auto filterName = "mnuFilter"_L1;
+constexpr auto copyName = "mnuCopyText"_L1;
+} // namespace
+
+ListScreen::ListScreen(ScreenContext &context, QWidget *parent)
+    : QMainWindow(parent)
+    , m_context(context)
+    , m_guard(context.prompts, {}, this)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
+                       const std::function<void()> &defaultCommand)
+{
+    m_data = &set;
+    m_caption = description.caption;
+    m_emptyHint = description.emptyHint;
+    setObjectName(description.name);
+    layOut();
+
+    m_grid->setDataSet(set, description.columns, m_guard);
+    m_grid->allowSelection();
+    m_status = new ListStatus(*m_grid, *statusBar());
+    m_output = new ListOutput(m_context, *this, *m_grid, *m_status);
+    m_memory = new WindowMemory(*this, m_context.settings);
+    for (const ListMenu &menu : description.menus)
+        addCommands(menuBar()->addMenu(menu.caption), menu.commands);
+    leaveMenuBarWithMenus(*menuBar());
+    for (const ListButton &button : description.buttons)
+        addButton(button);
+    finishPopup();
+    watchRecord();
+    connect(m_grid, &ListGrid::chosen, this, [this, defaultCommand] { runCommand(defaultCommand); });
+    m_grid->setFocus();
+    showFilterMark();
+}
+
+// The buttons over the grid.
+void ListScreen::layOut()
+{
+    auto *body = new QWidget(this);
+    auto *layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_topPanel = new QFrame(body);
+    m_topPanel->setObjectName(u"RzPanelTop"_s);
+    m_topPanel->installEventFilter(this);
+    m_buttons = new QHBoxLayout(m_topPanel);
+    m_buttons->addStretch();
+    m_grid = new ListGrid(body);
+    m_grid->setObjectName(u"DBGrid1"_s);
+    m_grid->setAccessibleName(m_caption);
+    m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
+    layout->addWidget(m_topPanel);
+    layout->addWidget(m_grid, 1);
+    setCentralWidget(body);
+    setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+// --- commands ---------------------------------------------------------------------------------------------------
+
+void ListScreen::addCommands(QMenu *menu, const QList<ListCommand> &commands)
+{
+    menu->setToolTipsVisible(true);
+    for (const ListCommand &command : commands) {
+        if (command.separatorBefore && !command.hidden)
+            menu->addSeparator();
+        if (!command.choices.isEmpty())
+            addChoices(menu, command);
+        else if (!command.entries.isEmpty())
+            addCommands(addSubMenu(menu, command), command.entries);
+        else
+            addPopup(command, addCommand(menu, command));
+    }
+}
+
+QMenu *ListScreen::addSubMenu(QMenu *menu, const ListCommand &command)
+{
+    QMenu *entries = menu->addMenu(command.caption);
+    entries->menuAction()->setObjectName(command.name);
+    return entries;
+}
+
+void ListScreen::addChoices(QMenu *menu, const ListCommand &command)
+{
+    QMenu *choices = addSubMenu(menu, command);
+    auto *group = new QActionGroup(this);
+    for (const ListCommand &choice : command.choices) {
+        QAction *action = addCommand(choices, choice);
+        action->setCheckable(true);
+        action->setChecked(group->actions().size() == command.firstChoice);
+        group->addAction(action);
+    }
+}
+
+QAction *ListScreen::addCommand(QMenu *menu, const ListCommand &command)
+{
+    auto *action = new QAction(command.caption, menu);
+    if (!command.hidden)
+        menu->addAction(action);
+    action->setObjectName(command.name);
+    action->setShortcut(command.shortcut);
+    action->setCheckable(command.checkable);
+    action->setEnabled(command.run != nullptr);
+    if (!command.run)
+        action->setToolTip(tr("Not available in this version"));
+    else if (command.available)
+        m_available.append({action, command.available});
+    connect(action, &QAction::triggered, this, [this, run = command.run] { runCommand(run); });
+    return action;
+}
+
+void ListScreen::addButton(const ListButton &button)
+{
+    QAction *action = command(button.command);
+    auto *shown = new QPushButton(button.caption, m_topPanel);
+    shown->setObjectName(button.name);
+    shown->setEnabled(action->isEnabled());
+    shown->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard to the rows
+    connect(action, &QAction::enabledChanged, shown, &QWidget::setEnabled);
+    connect(shown, &QPushButton::clicked, this, [this, shown, action] {
+        if (!shown->hasFocus())
+            m_grid->setFocus();
+        action->trigger();
+    });
+    m_buttons->insertWidget(m_buttons->count() - 1, shown);
+}
+
+void ListScreen::addPopup(const ListCommand &command, QAction *action)
+{
+    if (command.popupCaption.isEmpty())
+        return;
+    auto *entry = new QAction(command.popupCaption, m_grid);
+    entry->setEnabled(action->isEnabled());
+    connect(action, &QAction::enabledChanged, entry, &QAction::setEnabled);
+    connect(entry, &QAction::triggered, action, &QAction::trigger);
+    m_grid->addAction(entry);
+}
+
+// What every list offers comes after the screen's own entries.
+void ListScreen::finishPopup()
+{
+    QAction *copy = command(copyName);
+    if (!copy)
+        return;
+    copy->setShortcuts(QKeySequence::Copy);
+    if (!m_grid->actions().isEmpty()) {
+        auto *separator = new QAction(m_grid);
+        separator->setSeparator(true);
+        m_grid->addAction(separator);
+    }
+    m_grid->addAction(copy);
+}
+
+void ListScreen::watchRecord()
+{
+    connect(m_data, &Engine::DataSet::currentChanged, this, &ListScreen::showAvailable);
+    connect(m_data, &Engine::DataSet::listChanged, this, &ListScreen::showAvailable);
+    connect(m_data, &Engine::DataSet::rowChanged, this, &ListScreen::showAvailable);
+    connect(m_grid->tableModel(), &QAbstractItemModel::rowsInserted, this, &ListScreen::showAvailable);
+    showAvailable();
+}
+
+// A long list that has just been opened is not read for this; its first record is asked when the rest is there. A
+// failure of the store is reported by the rows, which fail to show as well.
+void ListScreen::showAvailable()
+{
+    if (m_grid->tableModel()->isPartial() || !m_data->isOpen())
+        return;
+    for (const auto &[action, isAvailable] : std::as_const(m_available)) {
+        bool available = false;
+        const std::exception_ptr failure = Guard::attempt([&, &test = isAvailable] { available = test(); });
+        action->setEnabled(available && !failure);
+    }
+}
+
+void ListScreen::runCommand(const std::function<void()> &run)
+{
+    if (run)
+        m_guard.runWhenFree(run);
+    // A checkable entry has toggled itself; what counts is whether the filter is on.
+    showFilterMark();
+}
+
+namespace {
+
+// As setIndex() and setOrderBy() take it.
+QString orderOf(const Engine::DataSet &set)
+{
+    if (const auto *table = qobject_cast<const Engine::TableReader *>(&set))
+        return table->index();
+    QStringList names;
+    for (const Engine::OrderedField &field : set.orderedFields())
+        names.append(field.name);
+    return names.join(u';');
+}
+
+} // namespace
+
+void ListScreen::print(const QString &report)
+{
+    requirePrinter(m_context);
+    m_context.printList(report, m_data->isFiltered() ? m_data->filter() : QString(), orderOf(*m_data));
+}
+
+ListMenu ListScreen::fileMenu(const QString &report)
+{
+    ListMenu menu{tr("&File"), {}};
+    std::function<void()> run;
+    if (m_context.printList)
+        run = [this, report] { print(report); };
+    if (!report.isEmpty())
+        menu.commands << ListCommand{.name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = run};
+    std::function<void()> save;
+    if (m_context.chooseFileToSave)
+        save = [this] { m_output->saveCsv(m_caption); };
+    menu.commands << ListCommand{.name = u"mnuSaveCsv"_s, .caption = tr("Save as CSV..."), .run = save}
+                  << ListCommand{.name = copyName,
+                                 .caption = tr("&Copy as Text"),
+                                 .run = [this] { m_output->copyRows(); },
+                                 .separatorBefore = true}
+                  << ListCommand{.name = u"mnuExit"_s,
+                                 .caption = tr("E&xit"),
+                                 .run = [this] { close(); },
+                                 .separatorBefore = true};
+    return menu;
+}
+
+ListCommand ListScreen::findCommand(std::function<void()> run) const
+{
+    return {.name = u"mnuFind"_s,
+            .caption = tr("&Find..."),
+            .run = std::move(run),
+            .shortcut = QKeySequence(Qt::CTRL | Qt::Key_F)};
+}
+
+ListCommand ListScreen::filterCommand(std::function<void()> run) const
+{
+    return {.name = filterName, .caption = tr("&Filter..."), .run = std::move(run), .checkable = true};
+}
+
+ListCommand ListScreen::refreshCommand()
+{
+    return {.name = u"mnuRefresh"_s,
+            .caption = tr("&Refresh"),
+            .run = [this] { refreshList(); },
+            .shortcut = QKeySequence(Qt::Key_F5)};
+}
+
+ListMenu ListScreen::helpMenu(const QString &caption) const
+{
+    std::function<void()> help;
+    if (m_context.showHelp)
+        help = [this] { m_context.showHelp(objectName()); };
+    return {tr("&Help"), {{.name = u"mnuHelp"_s, .caption = caption, .run = std::move(help)}}};
+}
+
+QAction *ListScreen::command(const QString &name) const { return findChild<QAction *>(name); }
+
+// --- the list ---------------------------------------------------------------------------------------------------
+
+QList<Engine::TableReader *> ListScreen::ownedTables()
+{
+    auto *table = qobject_cast<Engine::TableReader *>(m_data);
+    return table ? QList<Engine::TableReader *>{table} : QList<Engine::TableReader *>{};
+}
+
+void ListScreen::refreshList()
+{
+    const WaitCursor hourglass;
+    m_data->refresh();
+}
+
+void refreshOpenList(const QString &name)
+{
+    if (auto *list = findScreen<ListScreen>(name))
+        list->refreshList();
+}
+
+bool ListScreen::moveToKey(int key) { return m_data->moveToKey({key}); }
+
+void ListScreen::applyFilter(const QString &expression) { switchFilter(!expression.isEmpty(), expression); }
+
+void ListScreen::switchFilter(bool on, const QString &expression)
+{
+    if (on)
+        m_data->setFilter(expression);
+    m_data->setFiltered(on);
+    showFilterMark();
+}
+
+void ListScreen::filterBy(const QList<KeyOfField> &keys)
+{
+    clearFilterDialog();
+    presetFilterDialog(keys);
+    applyFilter(keyConditions(keys));
+}
+
+void ListScreen::resetFilter()
+{
+    clearFilterDialog();
+    applyFilter({});
+}
+
+void ListScreen::showFilterMark()
+{
+    const bool filtered = m_data->isFiltered();
+    setWindowTitle(filtered ? tr("%1 (Filtered)").arg(m_caption) : m_caption);
+    if (QAction *filter = command(filterName))
+        filter->setChecked(filtered);
+    m_grid->setHint(hint());
+}
+
+void ListScreen::say(const QString &text) { m_status->say(text); }
+
+QString ListScreen::hint() const
+{
+    const auto offers = [this](const QString &button) {
+        const auto *found = findChild<QPushButton *>(button);
+        return found && found->isEnabled();
+    };
+    const bool narrowed = m_data->isFiltered() && !m_data->filter().isEmpty();
+    if (narrowed && offers(u"btnFilter"_s))
+        return tr("No records match the filter. Press Filter to change it.");
+    if (narrowed)
+        return tr("No records match the filter.");
+    if (!m_emptyHint.isEmpty())
+        return m_emptyHint;
+    return offers(u"btnNew"_s) ? tr("No records yet. Press New to add one.") : tr("No records yet.");
+}
+
+// --- the window -------------------------------------------------------------------------------------------------
+
+void ListScreen::showAgain()
+{
+    if (isVisible())
+        showStep();
+    bringToFront(*this);
+}
+
+void ListScreen::showStep() { showFilterMark(); }
+
+void ListScreen::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (event->spontaneous())
+        return;
+    if (!m_firstSize.isValid()) {
+        sizeForRows();
+        placeByOpener(*this);
+        m_memory->restore();
+    }
+    m_guard.run([this] { showStep(); });
+}
+
+void ListScreen::sizeForRows()
+{
+    const QSize room = screen()->availableGeometry().marginsRemoved(expectedFrame(*this)).size();
+    const int width = std::max(m_grid->fullWidth(), m_topPanel->sizeHint().width());
+    int height = menuBar()->sizeHint().height() + m_topPanel->sizeHint().height() + m_grid->heightForRows(firstRows)
+        + statusBar()->sizeHint().height();
+    if (m_grid->leastWidth() > room.width())
+        height += m_grid->horizontalScrollBar()->sizeHint().height();
+    m_firstSize = QSize(width, height).boundedTo(room);
+    resize(m_firstSize);
+}
+
+bool ListScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_topPanel && event->type() == QEvent::MouseButtonDblClick && m_firstSize.isValid()) {
+        if (isMaximized())
+            showNormal();
+        resize(m_firstSize);
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+} // namespace Tallymere

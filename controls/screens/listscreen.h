@@ -1,0 +1,159 @@
+#pragma once
+
+#include "base/listfilter.h"
+#include "controls/grids/listgrid.h"
+#include "controls/screens/commandscreen.h"
+#include "controls/windows/guard.h"
+#include "controls/windows/screencontext.h"
+#include "data/tableowner.h"
+
+#include <functional>
+#include <QKeySequence>
+#include <QMainWindow>
+
+class QAction;
+class QFrame;
+class QHBoxLayout;
+
+namespace Tallymere {
+
+class ListOutput;
+class ListStatus;
+class WindowMemory;
+
+// One command of a list screen: an entry of a menu, and where wanted of the pop-up menu.
+struct ListCommand
+{
+    QString name; // component name of the menu's entry: "mnuFilter"
+    QString caption;
+    std::function<void()> run = {}; // empty: not available, shown disabled
+    // Whether it can be used on the current record; asked whenever that changes. Empty: always.
+    std::function<bool()> available = {};
+    QKeySequence shortcut = {};
+    QString popupCaption = {}; // empty: not in the pop-up menu
+    bool checkable = false;
+    bool separatorBefore = false;
+    bool hidden = false; // not in the menu; its button and the pop-up menu lead to it
+    QList<ListCommand> entries = {}; // a sub-menu of commands; it runs nothing itself
+    QList<ListCommand> choices = {}; // a sub-menu of entries of which one is checked
+    int firstChoice = 0; // which of them is at the start
+};
+
+struct ListMenu
+{
+    QString caption;
+    QList<ListCommand> commands;
+};
+
+// A button that does what a command does.
+struct ListButton
+{
+    QString name;
+    QString caption;
+    QString command;
+};
+
+struct ListDescription
+{
+    QString name; // component name of the screen
+    QString caption;
+    QList<GridColumn> columns;
+    QList<ListButton> buttons = {}; // from left to right
+    QList<ListMenu> menus = {};
+    // What an empty list shows; without it a text that names the button "New" if there is one.
+    QString emptyHint = {};
+};
+
+// A window that shows a data set as a list, with commands on its rows. Not modal; it is freed when it is closed.
+//
+// The screens give a description, the data set and what the commands do; the base owns layout, sizes and places, the
+// filter mark in caption and menu, refreshing and moving, the status line, the search by typing, copying and saving.
+class ListScreen : public QMainWindow, public TableOwner, public CommandScreen
+{
+    Q_OBJECT
+
+public:
+    const Guard &guard() const { return m_guard; }
+    Engine::DataSet &dataSet() const { return *m_data; }
+    QList<Engine::TableReader *> ownedTables() override; // none when it shows a query
+
+    // Reads the list anew; the cursor stays on its row.
+    void refreshList() override;
+    // Every record shows again: the filter is off, its command unchecked, and a filter dialog that has been opened
+    // is cleared.
+    void resetFilter() override;
+    // Brings the screen back: restored when minimised, its show step run when it was visible, in front.
+    void showAgain() override;
+    // Moves to a row by its key; false when the list does not show it.
+    bool moveToKey(int key);
+    // Switches the filter on, or off with an empty expression.
+    void applyFilter(const QString &expression);
+    // Narrows the list to the rows that refer to these records, and lets its filter dialog show them. No key of 0.
+    void filterBy(const QList<KeyOfField> &keys);
+    // The same for lists whose filter may be on and say nothing: every row shows, marked as filtered.
+    void switchFilter(bool on, const QString &expression);
+
+    QAction *command(const QString &name) const; // by component name; nullptr when there is none
+
+protected:
+    ListScreen(ScreenContext &context, QWidget *parent);
+
+    // Called once by the constructor of a screen, after its data set is open.
+    void build(const ListDescription &description, Engine::DataSet &set,
+               const std::function<void()> &defaultCommand);
+
+    ScreenContext &context() const { return m_context; }
+    ListGrid *grid() const { return m_grid; }
+
+    // The commands and menus that lists have alike, with their usual names, captions and keys.
+    // Print, save, copy, exit. A list without a report has no command for printing it.
+    ListMenu fileMenu(const QString &report);
+    ListCommand findCommand(std::function<void()> run) const;
+    ListCommand filterCommand(std::function<void()> run) const;
+    ListCommand refreshCommand();
+    ListMenu helpMenu(const QString &caption) const; // leads to the screen's topic, where there is help
+
+    void say(const QString &text); // in the status line, for a moment
+    virtual void showStep(); // each time the screen is shown: caption
+    virtual void clearFilterDialog() { } // clears the fields of the filter dialog, if there is one
+    virtual void presetFilterDialog(const QList<KeyOfField> &) { } // the dialog has been cleared
+
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void layOut();
+    void addCommands(QMenu *menu, const QList<ListCommand> &commands);
+    static QMenu *addSubMenu(QMenu *menu, const ListCommand &command);
+    QAction *addCommand(QMenu *menu, const ListCommand &command);
+    void addChoices(QMenu *menu, const ListCommand &command);
+    void addButton(const ListButton &button);
+    void addPopup(const ListCommand &command, QAction *action);
+    void print(const QString &report);
+    void runCommand(const std::function<void()> &run);
+    void finishPopup();
+    void watchRecord();
+    void showAvailable();
+    void showFilterMark();
+    QString hint() const;
+    void sizeForRows();
+
+    ScreenContext &m_context;
+    Guard m_guard;
+    Engine::DataSet *m_data = nullptr;
+    QString m_caption;
+    QString m_emptyHint;
+    ListGrid *m_grid = nullptr;
+    ListStatus *m_status = nullptr;
+    ListOutput *m_output = nullptr;
+    WindowMemory *m_memory = nullptr;
+    QFrame *m_topPanel = nullptr;
+    QHBoxLayout *m_buttons = nullptr;
+    QList<std::pair<QAction *, std::function<bool()>>> m_available; // commands that depend on the current record
+    QSize m_firstSize;
+};
+
+// Reads the list of that component name anew, if it is open.
+void refreshOpenList(const QString &name);
+
+} // namespace Tallymere

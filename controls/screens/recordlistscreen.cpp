@@ -1,0 +1,103 @@
+#include "controls/screens/recordlistscreen.h"
+
+#include "controls/windows/screenmetrics.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+void RecordListScreen::setRecords(RecordList &list, RecordScreens screens)
+{
+    m_records = new ListRecordOpener(context(), std::move(screens), list, this);
+}
+
+QList<ListButton> RecordListScreen::recordButtons() const
+{
+    QList<ListButton> buttons = {{u"btnNew"_s, tr("&New"), u"mnuNew"_s},
+                                 {u"btnEdit"_s, tr("&Edit"), u"mnuEdit"_s},
+                                 {u"btnDelete"_s, tr("&Delete"), u"mnuDelete"_s}};
+    if (m_dialogs.makeFilter)
+        buttons.append({u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s});
+    if (m_dialogs.makeFind)
+        buttons.append({u"btnFind"_s, tr("F&ind"), u"mnuFind"_s});
+    return buttons;
+}
+
+ListMenu RecordListScreen::recordMenu()
+{
+    ListMenu menu{
+        tr("&Records"),
+        {{.name = u"mnuNew"_s, .caption = tr("&New"), .run = [this] { btnNewClick(); }, .popupCaption = tr("New")},
+         {.name = u"mnuEdit"_s,
+          .caption = tr("&Edit"),
+          .run = [this] { btnEditClick(); },
+          .popupCaption = tr("Edit")},
+         {.name = u"mnuDelete"_s,
+          .caption = tr("&Delete"),
+          .run = [this] { btnDeleteClick(); },
+          .popupCaption = tr("Delete")}}};
+    if (m_dialogs.makeFind)
+        menu.commands.append(findCommand([this] { btnFindClick(); }));
+    return menu;
+}
+
+ListMenu RecordListScreen::viewMenu(const QList<ListOrder> &orders, int firstOrder,
+                                    const std::function<void(const ListOrder &)> &sort)
+{
+    ListMenu menu{tr("&View"), {}};
+    if (m_dialogs.makeFilter)
+        menu.commands.append(filterCommand([this] { btnFilterClick(); }));
+    if (orders.size() > 1) {
+        ListCommand sortBy{.name = u"mnuSortBy"_s, .caption = tr("&Sort by"), .firstChoice = firstOrder};
+        for (const ListOrder &order : orders) {
+            sortBy.choices.append({.name = order.command, .caption = order.caption, .run = [sort, order] {
+                                       const WaitCursor hourglass;
+                                       sort(order);
+                                   }});
+        }
+        menu.commands.append(sortBy);
+    }
+    menu.commands.append(refreshCommand());
+    return menu;
+}
+
+ListMenu &RecordListScreen::menu(ListDescription &description, const QString &caption)
+{
+    const auto found = std::find_if(description.menus.begin(), description.menus.end(),
+                                    [&](const ListMenu &menu) { return menu.caption == caption; });
+    Q_ASSERT(found != description.menus.end());
+    return *found;
+}
+
+// --- commands ---------------------------------------------------------------------------------------------------
+
+void RecordListScreen::btnNewClick() { m_records->openNew(); }
+
+void RecordListScreen::btnEditClick() { m_records->openCurrent(); }
+
+void RecordListScreen::btnDeleteClick() { m_records->removeCurrent(); }
+
+void RecordListScreen::btnFilterClick()
+{
+    if (!m_filter)
+        m_filter = m_dialogs.makeFilter();
+    if (m_filter->exec() != QDialog::Accepted)
+        return;
+    const auto inForce = [this] { return std::pair(dataSet().isFiltered(), dataSet().filter()); };
+    const auto before = inForce();
+    switchFilter(m_filter->isOn(), m_dialogs.filterExpression(m_filter->filter()));
+    if (inForce() == before) // another one reads the list by itself
+        refreshList();
+}
+
+void RecordListScreen::btnFindClick() { m_dialogs.makeFind()->exec(); }
+
+void RecordListScreen::clearFilterDialog()
+{
+    if (m_filter)
+        m_filter->btnResetClick();
+}
+
+} // namespace Tallymere

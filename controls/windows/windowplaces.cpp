@@ -1,0 +1,103 @@
+#include "controls/windows/windowplaces.h"
+
+#include "controls/windows/screenmetrics.h"
+
+#include <algorithm>
+#include <QGuiApplication>
+#include <QRegion>
+#include <QScreen>
+#include <QWidget>
+
+namespace Tallymere {
+
+namespace {
+
+constexpr int diagonalStep = 28; // design pixels, between windows that would stand on each other
+
+int area(const QRect &rectangle) { return rectangle.isEmpty() ? 0 : rectangle.width() * rectangle.height(); }
+
+QList<QRect> availableScreens()
+{
+    QList<QRect> screens;
+    for (const QScreen *screen : QGuiApplication::screens())
+        screens.append(screen->availableGeometry());
+    return screens;
+}
+
+void putAt(QWidget &window, const QRect &inside, const QList<QRect> &screens)
+{
+    const QMargins frame = expectedFrame(window);
+    window.setGeometry(onScreens(inside.marginsAdded(frame), screens).marginsRemoved(frame));
+}
+
+} // namespace
+
+QRect onScreens(const QRect &window, const QList<QRect> &screens)
+{
+    if (screens.isEmpty())
+        return window;
+    QRegion shown;
+    for (const QRect &screen : screens)
+        shown += screen;
+    if (QRegion(window).subtracted(shown).isEmpty())
+        return window;
+    const QRect best = *std::max_element(screens.begin(), screens.end(), [&](const QRect &a, const QRect &b) {
+        return area(a & window) < area(b & window);
+    });
+    QRect moved(window.topLeft(), window.size().boundedTo(best.size()));
+    moved.moveRight(std::min(moved.right(), best.right()));
+    moved.moveBottom(std::min(moved.bottom(), best.bottom()));
+    moved.moveTo(std::max(moved.left(), best.left()), std::max(moved.top(), best.top()));
+    return moved;
+}
+
+QPoint apartFrom(const QList<QPoint> &taken, QPoint place, int step, const QRect &screen)
+{
+    for (qsizetype tries = 0; tries <= taken.size() && taken.contains(place); ++tries) {
+        place += QPoint(step, step);
+        if (place.x() > screen.right() - step)
+            place.setX(screen.left());
+        if (place.y() > screen.bottom() - step)
+            place.setY(screen.top());
+    }
+    return place;
+}
+
+QMargins expectedFrame(const QWidget &window)
+{
+    if (!window.parentWidget())
+        return {};
+    const QWidget *opener = window.parentWidget()->window();
+    const QRect outer = opener->frameGeometry();
+    const QRect inner = opener->geometry();
+    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+            outer.bottom() - inner.bottom()};
+}
+
+void placeByOpener(QWidget &window)
+{
+    if (!window.parentWidget())
+        return;
+    const int step = scaled(&window, diagonalStep);
+    const QPoint opener = window.parentWidget()->window()->geometry().topLeft();
+    putAt(window, QRect(opener + QPoint(step, step), window.size()), {window.screen()->availableGeometry()});
+}
+
+void standApart(QWidget &window)
+{
+    QList<QPoint> taken;
+    const QWidgetList others = QApplication::topLevelWidgets();
+    for (const QWidget *other : others) {
+        if (other != &window && other->isVisible() && other->objectName() == window.objectName())
+            taken.append(other->geometry().topLeft());
+    }
+    const QPoint stands = window.geometry().topLeft();
+    const QPoint apart =
+        apartFrom(taken, stands, scaled(&window, diagonalStep), window.screen()->availableGeometry());
+    if (apart != stands)
+        moveToPlace(window, QRect(apart, window.size()));
+}
+
+void moveToPlace(QWidget &window, const QRect &place) { putAt(window, place, availableScreens()); }
+
+} // namespace Tallymere

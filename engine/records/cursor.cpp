@@ -1,0 +1,78 @@
+#include "engine/records/cursor.h"
+
+#include <algorithm>
+
+namespace Engine {
+
+void Cursor::to(Key key, std::optional<Row> row, int index)
+{
+    m_state = State::Known;
+    m_key = std::move(key);
+    m_row = std::move(row);
+    m_index = index;
+    m_doubtful = false;
+    m_atEnd = false;
+    m_atBegin = false;
+}
+
+void Cursor::startAt(Key key, std::optional<Row> row)
+{
+    const bool atBegin = m_atBegin;
+    to(std::move(key), std::move(row), 0);
+    m_atBegin = atBegin;
+}
+
+void Cursor::leave(State state)
+{
+    to({});
+    m_state = state;
+    m_formerIndex = 0;
+    m_atBegin = true;
+}
+
+void Cursor::arrive() { m_atBegin = m_atEnd = false; }
+
+void Cursor::pastBegin()
+{
+    m_atBegin = true;
+    m_atEnd = false;
+}
+
+void Cursor::pastEnd()
+{
+    m_atEnd = true;
+    m_atBegin = false;
+}
+
+void Cursor::listChanged()
+{
+    if (m_state != State::Known)
+        return toFirst();
+    if (m_index >= 0)
+        m_formerIndex = m_index;
+    to(m_key);
+    m_doubtful = true;
+}
+
+bool Cursor::findIn(const KeyList &keys)
+{
+    if (m_index >= 0)
+        return false;
+    if (keys.count() == 0) {
+        toNothing();
+        return false;
+    }
+    if (m_state != State::Known) {
+        startAt(keys.at(0), std::nullopt);
+        return false;
+    }
+    m_doubtful = false;
+    m_index = keys.find(m_key);
+    if (m_index >= 0)
+        return false;
+    const int place = std::min(m_formerIndex, keys.count() - 1);
+    to(keys.at(place), std::nullopt, place);
+    return true;
+}
+
+} // namespace Engine

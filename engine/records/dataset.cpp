@@ -1,0 +1,333 @@
+#include "engine/records/dataset.h"
+
+#include "engine/records/datasetprivate.h"
+#include "engine/store/database.h"
+#include "engine/store/dialect.h"
+#include "engine/values/error.h"
+
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+DataSet::DataSet(Database &database)
+    : d(std::make_unique<Private>(*this))
+    , m_database(database)
+{
+}
+DataSet::~DataSet() = default;
+
+void DataSet::requireOpen() const
+{
+    if (!m_open)
+        raise(ErrorCode::WrongState, Texts::tr("The table is not open."));
+}
+
+// --- moving ----------------------------------------------------------------------------------------------------
+
+bool DataSet::isEmpty() const
+{
+    if (!m_open)
+        return true;
+    if (d->keysRead)
+        return d->keys.count() == 0;
+    DataSetReader(*this).resolve();
+    return d->cursor.isEmpty();
+}
+
+int DataSet::recordCount() const
+{
+    if (!m_open)
+        return 0;
+    DataSetReader(*this).readKeys();
+    return d->keys.count();
+}
+
+int DataSet::recordIndex() const { return m_open ? DataSetReader(*this).index() : -1; }
+bool DataSet::atEnd() const { return !m_open || d->cursor.atEnd() || isEmpty(); }
+bool DataSet::atBegin() const { return !m_open || d->cursor.atBegin() || isEmpty(); }
+
+void DataSet::beforeMove()
+{
+    for (DataSet *detail : std::as_const(d->details))
+        detail->settle();
+}
+
+void DataSet::first()
+{
+    requireOpen();
+    beforeMove();
+    if (d->keysRead)
+        moveTo(0);
+    if (d->keysRead || d->cursor.isFirst())
+        return d->cursor.pastBegin();
+    d->cursor.toFirst();
+    Q_EMIT currentChanged();
+}
+
+void DataSet::last()
+{
+    requireOpen();
+    moveTo(recordCount() - 1);
+}
+
+void DataSet::next()
+{
+    requireOpen();
+    beforeMove();
+    const int index = recordIndex();
+    if (index + 1 < recordCount())
+        return moveTo(index + 1);
+    d->cursor.pastEnd();
+}
+
+void DataSet::prior()
+{
+    requireOpen();
+    beforeMove();
+    const int index = recordIndex();
+    if (index > 0)
+        return moveTo(index - 1);
+    d->cursor.pastBegin();
+}
+
+void DataSet::moveTo(int index)
+{
+    requireOpen();
+    beforeMove();
+    const int count = recordCount();
+    if (count == 0)
+        return;
+    const int target = std::clamp(index, 0, count - 1);
+    if (DataSetReader(*this).index() == target)
+        return d->cursor.arrive();
+    d->cursor.to(d->keys.at(target), std::nullopt, target);
+    Q_EMIT currentChanged();
+}
+
+const Row &DataSet::rowAt(int index) const
+{
+    requireOpen();
+    return DataSetReader(*this).rowAt(index);
+}
+
+Value DataSet::valueAt(int index, int fieldNumber) const { return valueIn(rowAt(index), fieldNumber); }
+
+Value DataSet::valueIn(const Row &row, int fieldNumber) const
+{
+    const Field &wanted = field(fieldNumber);
+    if (wanted.kind != FieldKind::Calculated)
+        return row[static_cast<size_t>(fieldNumber)];
+    const QScopedValueRollback guard(d->rowInHand, &row);
+    return wanted.calculate(*this);
+}
+
+QList<qint64> DataSet::currentKey() const
+{
+    if (!m_open)
+        return {};
+    DataSetReader(*this).resolve();
+    return d->cursor.key();
+}
+
+QList<qint64> DataSet::keyAt(int index) const
+{
+    return index >= 0 && index < recordCount() ? d->keys.at(index) : QList<qint64>();
+}
+
+bool DataSet::moveToKey(const QList<qint64> &key)
+{
+    requireOpen();
+    DataSetReader(*this).resolve();
+    if (d->cursor.isAt(key))
+        return true;
+    if (!holds(key))
+        return false;
+    beforeMove();
+    moveToFound(key, std::nullopt);
+    return true;
+}
+
+std::vector<Row> DataSet::firstRows(int count) const
+{
+    requireOpen();
+    const DataSetReader reader(*this);
+    if (!d->keysRead && !d->inMemory)
+        return reader.read(&RowSource::firstRows, count);
+    std::vector<Row> rows;
+    for (int i = 0; i < std::min(count, recordCount()); ++i)
+        rows.push_back(reader.rowAt(i));
+    return rows;
+}
+
+void DataSet::onDamage(std::function<void()> mend) { d->mend = std::move(mend); }
+
+// --- looking up ------------------------------------------------------------------------------------------------
+
+static QStringList namesIn(const QString &fields) { return fields.split(u';', Qt::SkipEmptyParts); }
+
+std::optional<FoundRow> DataSet::find(const QString &fields, const QList<Value> &values,
+                                      LocateOptions options) const
+{
+    requireOpen();
+    return findFirst(namesIn(fields), values, options);
+}
+
+Value DataSet::lookUp(const QString &fields, const QList<Value> &values, QStringView result,
+                      LocateOptions options) const
+{
+    const auto found = find(fields, values, options);
+    return found ? found->row[static_cast<size_t>(requireField(result))] : Value();
+}
+
+bool DataSet::holds(const QList<qint64> &key) const
+{
+    requireOpen();
+    return !key.isEmpty() && DataSetReader(*this).holds(key);
+}
+
+int DataSet::indexOf(const QList<qint64> &key) const
+{
+    requireOpen();
+    DataSetReader(*this).readKeys();
+    return d->keys.find(key);
+}
+
+namespace {
+
+bool sameText(const Value &value, const Value &wanted, bool partial, bool caseInsensitive)
+{
+    const QString text = caseInsensitive ? foldedAscii(value.toText()) : value.toText();
+    const QString other = caseInsensitive ? foldedAscii(wanted.toText()) : wanted.toText();
+    return partial ? text.startsWith(other) : text == other;
+}
+
+} // namespace
+
+bool DataSet::matches(const Row &row, const QStringList &fields, const QList<Value> &values,
+                      LocateOptions options) const
+{
+    for (qsizetype i = 0; i < std::min(fields.size(), values.size()); ++i) {
+        const int index = requireField(fields[i]);
+        const Value &value = row[static_cast<size_t>(index)];
+        const bool text = isText(field(index).type);
+        const bool partial = text && options.testFlag(LocateOption::PartialKey) && i + 1 == fields.size();
+        const bool same = text
+            ? sameText(value, values[i], partial, options.testFlag(LocateOption::CaseInsensitive))
+            : value == values[i].as(field(index).type);
+        if (!same)
+            return false;
+    }
+    return true;
+}
+
+std::optional<FoundRow> DataSet::findFirst(const QStringList &fields, const QList<Value> &values,
+                                           LocateOptions options) const
+{
+    const DataSetReader reader(*this);
+    try {
+        if (!d->inMemory)
+            return reader.read(&RowSource::first, reader.source().match(fields, values, options));
+        const auto found = std::find_if(d->memory.begin(), d->memory.end(),
+                                        [&](const Row &row) { return matches(row, fields, values, options); });
+        if (found == d->memory.end())
+            return std::nullopt;
+        return FoundRow{{found - d->memory.begin()}, *found};
+    } catch (const EngineError &error) {
+        if (error.code() == ErrorCode::BadValue)
+            return std::nullopt; // no row can hold what does not fit the field
+        throw;
+    }
+}
+
+// --- finding and restricting -----------------------------------------------------------------------------------
+
+bool DataSet::locate(const QString &fields, const QList<Value> &values, LocateOptions options)
+{
+    requireOpen();
+    return moveToFirstMatch(namesIn(fields), values, options);
+}
+
+bool DataSet::moveToFirstMatch(const QStringList &fields, const QList<Value> &values, LocateOptions options)
+{
+    beforeMove();
+    auto found = findFirst(fields, values, options);
+    if (!found)
+        return false;
+    moveToFound(found->key, std::move(found->row));
+    return true;
+}
+
+// When the row has come since the keys were read, they are read again, lest it has no place among them.
+void DataSet::moveToFound(const QList<qint64> &key, std::optional<Row> row)
+{
+    const bool moves = !d->cursor.isAt(key);
+    const int known = moves ? -1 : d->cursor.index();
+    const int index = d->keysRead && known < 0 ? d->keys.find(key) : known;
+    const bool isNew = d->keysRead && index < 0;
+    if (isNew)
+        d->forgetRead();
+    d->cursor.to(key, std::move(row), index);
+    if (isNew)
+        Q_EMIT listChanged();
+    if (isNew || moves)
+        Q_EMIT currentChanged();
+}
+
+void DataSet::setFilter(const QString &expression)
+{
+    if (expression == m_filter)
+        return;
+    const FilterExpression parsed(expression);
+    if (m_open) {
+        beforeMove();
+        DataSetReader(*this).condition(parsed);
+    }
+    m_filter = expression;
+    if (!m_open || !m_filtered)
+        return;
+    invalidate(Place::First);
+    emitListChanged();
+}
+
+void DataSet::setFiltered(bool on)
+{
+    if (on == m_filtered)
+        return;
+    if (on && d->inMemory)
+        raise(ErrorCode::WrongState, Texts::tr("A query without key fields cannot be filtered."));
+    if (m_open)
+        beforeMove();
+    if (m_open && on)
+        DataSetReader(*this).condition(
+            FilterExpression(m_filter)); // it may have been set before the fields were known
+    m_filtered = on;
+    if (!m_open)
+        return;
+    invalidate(Place::First);
+    emitListChanged();
+}
+
+void DataSet::refresh()
+{
+    requireOpen();
+    beforeMove();
+    invalidate(Place::Keep);
+    emitListChanged();
+}
+
+void DataSet::invalidate(Place place)
+{
+    d->source.reset();
+    d->forgetRead();
+    place == Place::Keep ? d->cursor.listChanged() : d->cursor.toFirst();
+}
+
+void DataSet::emitListChanged()
+{
+    Q_EMIT listChanged();
+    Q_EMIT currentChanged();
+}
+
+} // namespace Engine

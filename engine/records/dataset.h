@@ -1,0 +1,190 @@
+#pragma once
+
+#include "engine/values/field.h"
+#include "engine/values/value.h"
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace Engine {
+
+class Database;
+struct SetScope;
+
+using Row = std::vector<Value>; // in the order of the fields; calculated fields hold null here
+
+struct FoundRow
+{
+    QList<qint64> key;
+    Row row;
+};
+
+enum class LocateOption { None = 0, CaseInsensitive = 1, PartialKey = 2 };
+Q_DECLARE_FLAGS(LocateOptions, LocateOption)
+Q_DECLARE_OPERATORS_FOR_FLAGS(LocateOptions)
+
+// A field of a set's order.
+struct OrderedField
+{
+    QString name;
+    bool caseInsensitive = false; // for text: letter case does not count
+
+    LocateOptions options() const { return caseInsensitive ? LocateOption::CaseInsensitive : LocateOption::None; }
+};
+
+// An ordered set of rows with a current record: the common base of Table and Query.
+//
+// The set is held as ordered keys; rows are fetched in windows around what is asked for. Opening costs nothing
+// until a row or the count is asked for; a million rows open, scroll and find without being read. Rows are
+// counted from 0. The set is a snapshot of keys: rows that others add appear at refresh(), rows that others have
+// deleted read as nulls until then.
+class DataSet : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~DataSet() override;
+
+    Database &database() const { return m_database; }
+
+    virtual void open() = 0;
+    virtual void close() = 0;
+    bool isOpen() const { return m_open; }
+
+    // --- fields -------------------------------------------------------------------------------------------------
+    // Data fields are known once the set is open. Lookup and calculated fields are added before that.
+    int fieldCount() const { return static_cast<int>(m_fields.size()); }
+    int fieldIndex(QStringView name) const; // -1 when there is none
+    const Field &field(int index) const { return m_fields[static_cast<size_t>(index)]; }
+    Field &field(int index) { return m_fields[static_cast<size_t>(index)]; }
+    Field &field(QStringView name); // to set label, format, validate, changed; throws NoSuchField
+    const Field &field(QStringView name) const;
+    void addLookup(const QString &name, FieldType type, int size, Lookup lookup);
+    void addCalculated(const QString &name, FieldType type, int size, std::function<Value(const DataSet &)> rule);
+
+    // --- the current record -------------------------------------------------------------------------------------
+    // Of an empty set every value is null.
+    virtual Value value(int field) const;
+    Value value(QStringView name) const { return value(requireField(name)); }
+    QString text(QStringView name) const { return value(name).toText(); }
+    int integer(QStringView name) const { return value(name).toInt(); }
+    double number(QStringView name) const { return value(name).toDouble(); }
+    Money money(QStringView name) const; // throws BadValue for an amount beyond the range of money
+    bool boolean(QStringView name) const { return value(name).toBool(); }
+    QDate date(QStringView name) const { return value(name).toDate(); }
+    QString displayText(QStringView name) const;
+
+    // --- moving -------------------------------------------------------------------------------------------------
+    bool isEmpty() const; // reads no more than the first row
+    int recordCount() const; // reads the keys
+    int recordIndex() const; // of the current record; -1 when the set is empty. May have to read the keys
+    bool atEnd() const; // next() went past the last record, or the set is empty
+    bool atBegin() const; // likewise for prior(); also after first()
+    void first();
+    void last();
+    void next();
+    void prior();
+    void moveTo(int index); // clamped to the set
+
+    // The row at an index without moving, for lists. Reads the window around it if it is not in hand.
+    const Row &rowAt(int index) const;
+    Value valueAt(int index, int field) const; // as rowAt, with calculated fields as well
+    Value valueIn(const Row &row, int field) const; // of a row of the set that is in hand, calculated fields too
+    // To find the row again after a refresh. Empty for an empty set.
+    QList<qint64> currentKey() const;
+    QList<qint64> keyAt(int index) const; // empty beyond the set
+    bool moveToKey(const QList<qint64> &key); // false, and no move, when the set does not hold it
+    // The first rows of the set before the keys are read, so that a list can paint at once.
+    std::vector<Row> firstRows(int count) const;
+
+    // --- looking up: nothing moves, nothing is signalled ----------------------------------------------------------
+    // The first row in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values; PartialKey
+    // lets the last text begin with its value. Reads that row alone, as it is stored by now: the list may have been
+    // read before it came.
+    std::optional<FoundRow> find(const QString &fields, const QList<Value> &values,
+                                 LocateOptions options = LocateOption::None) const;
+    // The value of a data or lookup field of that row; null when there is none.
+    Value lookUp(const QString &fields, const QList<Value> &values, QStringView result,
+                 LocateOptions options = LocateOption::None) const;
+    bool holds(const QList<qint64> &key) const; // the set has a row of this key by now
+    int indexOf(const QList<qint64> &key) const; // -1 when the list was read without it. Reads the keys
+
+    // --- finding and restricting --------------------------------------------------------------------------------
+    // Moves to the row that find() gives; when there is none the record stays. For a row that has been added since the
+    // list was read, that is read again; so with moveToKey().
+    bool locate(const QString &fields, const QList<Value> &values, LocateOptions options = LocateOption::None);
+    // The fields that the set is ordered by, one after the other; empty for a set without an order of its own. A text
+    // is found by its beginning with one key look-up when it is compared as said here.
+    virtual QList<OrderedField> orderedFields() const = 0;
+
+    // A condition over data fields, in force while filtered is set:
+    //   (WarehouseID = 2) AND (Posted <> true) OR NOT (Name LIKE 'A%')
+    // with = <> < > <= >=, LIKE, IS [NOT] NULL, + - * /, AND, OR, NOT, parentheses, numbers, 'texts' (two quotes
+    // for one), true, false, null and dates as 'YYYY-MM-DD'. An empty Boolean fails "= false" and passes "<> true".
+    // It is parsed, never pasted: a bad one throws BadExpression saying where, and the old filter stays.
+    void setFilter(const QString &expression);
+    const QString &filter() const { return m_filter; }
+    void setFiltered(bool on);
+    bool isFiltered() const { return m_filtered; }
+
+    // Called once, when a read finds the store damaged outside a transaction: mends it, and the read is done again.
+    void onDamage(std::function<void()> mend);
+
+    // Reads the set anew and stays on the current row; when that is gone, on the one that took its place. An edit in
+    // progress is ended first.
+    virtual void refresh();
+
+Q_SIGNALS:
+    void opened();
+    void closed();
+    void listChanged(); // keys are new: count and order may differ
+    void rowChanged(int index); // the values of one row of the list are new
+    void currentChanged(); // another record is current, or the current one has new values as a whole
+    void fieldChanged(int field); // one value of the current record is new
+    void stateChanged();
+
+protected:
+    explicit DataSet(Database &database);
+
+    // What the set consists of, given by the subclasses; the base adds the filter.
+    virtual SetScope scope() const = 0;
+
+    int requireField(QStringView name) const; // throws NoSuchField
+    void requireOpen() const; // throws WrongState
+    virtual void beforeMove(); // Table: posts or drops an edit in progress
+    virtual void settle() { } // Table: the same for a detail whose master is about to move
+    // The list is read again when it is needed. The record stays current, or the first becomes current.
+    enum class Place { Keep, First };
+    void invalidate(Place place);
+    void emitListChanged(); // with currentChanged, for a set that is new as a whole
+    Value lookedUp(const Field &field, const Value &key) const;
+    // find() and locate() over the given fields.
+    std::optional<FoundRow> findFirst(const QStringList &fields, const QList<Value> &values,
+                                      LocateOptions options) const;
+    bool moveToFirstMatch(const QStringList &fields, const QList<Value> &values, LocateOptions options);
+    // Brings the data fields up to the given ones. Fields that stay keep their labels, rules and references.
+    void setDataFields(const std::vector<Field> &fields);
+
+    struct Private;
+    friend class DataSetReader;
+    std::unique_ptr<Private> d;
+
+    Database &m_database;
+    std::deque<Field> m_fields; // references stay valid when fields are added
+    bool m_open = false;
+    QString m_filter;
+    bool m_filtered = false;
+
+private:
+    void addField(Field field);
+    void moveToFound(const QList<qint64> &key, std::optional<Row> row);
+    bool matches(const Row &row, const QStringList &fields, const QList<Value> &values,
+                 LocateOptions options) const;
+};
+
+} // namespace Engine

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "engine/filter/filterexpression.h"
+#include "engine/records/cursor.h"
+#include "engine/records/rowsource.h"
+#include "engine/records/windowcache.h"
+#include "engine/store/keylist.h"
+#include "engine/values/error.h"
+
+#include <functional>
+
+namespace Engine {
+
+// Where a set stands: its statements, what of it has been read, and the current record.
+struct DataSet::Private
+{
+    explicit Private(DataSet &owner)
+        : set(owner)
+    {
+    }
+
+    DataSet &set; // itself, for what reading has to announce
+    std::optional<RowSource> source; // of the scope in force
+    std::function<void()> mend;
+    KeyList keys;
+    bool keysRead = false;
+    WindowCache windows;
+    std::vector<Row> memory; // of a query without key: the whole result; the key of a row is its index
+    bool inMemory = false;
+
+    Cursor cursor;
+
+    const Row *rowInHand = nullptr; // while a calculated field of another row is computed
+    Row nullRow;
+    QList<DataSet *> details; // settled before this set moves
+
+    static Private &of(DataSet &set) { return *set.d; }
+
+    void forgetRead()
+    {
+        keys = KeyList();
+        keysRead = false;
+        windows.clear();
+    }
+
+    // The current record has these values by now.
+    void takeRow(Row row)
+    {
+        if (Row *listed = cursor.index() >= 0 ? windows.row(cursor.index()) : nullptr)
+            *listed = row;
+        cursor.takeRow(std::move(row));
+    }
+};
+
+// The reading behind DataSet's functions. All of it may happen within a const call, which then makes known what is
+// current, but moves nothing.
+class DataSetReader
+{
+public:
+    explicit DataSetReader(const DataSet &set)
+        : m_set(set)
+        , d(*set.d)
+    {
+    }
+
+    // The condition of an expression over the data fields. Throws BadExpression when it does not fit them.
+    SqlCondition condition(const FilterExpression &filter) const;
+    RowSource &source() const;
+    RowSource sourceOn(Connection &connection) const; // the same over another connection to the database
+    const std::vector<Row> *memory() const { return d.inMemory ? &d.memory : nullptr; }
+    // A read of the source: read(&RowSource::keys). Damage is mended, if the set was told how.
+    template <typename Method, typename... Arguments> auto read(Method method, const Arguments &...arguments) const
+    {
+        try {
+            return std::invoke(method, source(), arguments...);
+        } catch (const EngineError &error) {
+            if (!mended(error))
+                throw;
+        }
+        return std::invoke(method, source(), arguments...);
+    }
+    void readKeys() const;
+    void resolve() const; // makes the current record known, or the set known to be empty
+    bool holds(const Key &key) const;
+    int index() const; // of the current record, -1 in an empty set
+    const Row &rowAt(int index) const;
+    const Row &currentRow() const;
+
+private:
+    bool mended(const EngineError &error) const;
+    void findInKeys() const;
+
+    const DataSet &m_set;
+    DataSet::Private &d;
+};
+
+} // namespace Engine

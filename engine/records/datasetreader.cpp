@@ -1,0 +1,134 @@
+#include "engine/records/datasetprivate.h"
+#include "engine/store/database.h"
+#include "engine/store/dialect.h"
+
+#include <algorithm>
+
+namespace Engine {
+
+SqlCondition DataSetReader::condition(const FilterExpression &filter) const
+{
+    const Dialect &dialect = m_set.m_database.connection().dialect();
+    return filter.condition(dialect, [&](QStringView name) -> std::optional<FilterExpression::Column> {
+        const int index = m_set.fieldIndex(name);
+        if (index < 0 || m_set.field(index).kind != FieldKind::Data)
+            return std::nullopt;
+        const Field &field = m_set.field(index);
+        return FilterExpression::Column{QStringLiteral("t.") + dialect.name(field.name), field.type};
+    });
+}
+
+RowSource &DataSetReader::source() const
+{
+    if (!d.source)
+        d.source.emplace(sourceOn(m_set.m_database.connection()));
+    return *d.source;
+}
+
+RowSource DataSetReader::sourceOn(Connection &connection) const
+{
+    SetScope scope = m_set.scope();
+    if (m_set.m_filtered)
+        scope.condition += condition(FilterExpression(m_set.m_filter));
+    return RowSource(connection, std::move(scope), m_set.m_fields);
+}
+
+bool DataSetReader::mended(const EngineError &error) const
+{
+    if (error.code() != ErrorCode::Corrupt || !d.mend || m_set.m_database.connection().inTransaction())
+        return false;
+    std::exchange(d.mend, {})();
+    return true;
+}
+
+void DataSetReader::readKeys() const
+{
+    if (d.keysRead)
+        return;
+    if (d.inMemory) {
+        d.keys = KeyList();
+        for (size_t i = 0; i < d.memory.size(); ++i)
+            d.keys.append(static_cast<qint64>(i));
+    } else {
+        d.keys = read(&RowSource::keys);
+    }
+    d.keysRead = true;
+    d.windows.clear();
+    if (d.cursor.isEmpty() && d.keys.count() > 0)
+        d.cursor.toFirst();
+}
+
+bool DataSetReader::holds(const Key &key) const
+{
+    if (!d.keysRead && !d.inMemory)
+        return read(&RowSource::holds, key);
+    readKeys();
+    return d.keys.find(key) >= 0 || (!d.inMemory && read(&RowSource::holds, key));
+}
+
+void DataSetReader::resolve() const
+{
+    if (d.cursor.isSettled())
+        return;
+    if (d.keysRead || d.inMemory)
+        return findInKeys();
+    if (d.cursor.isUnread()) {
+        if (auto found = read(&RowSource::first, SqlCondition()))
+            d.cursor.startAt(std::move(found->key), std::move(found->row));
+        else
+            d.cursor.toNothing();
+    } else if (read(&RowSource::holds, d.cursor.key())) {
+        d.cursor.confirm();
+    } else {
+        findInKeys();
+    }
+}
+
+void DataSetReader::findInKeys() const
+{
+    readKeys();
+    // Who shows the record must learn that another one is in its place, but not while it is reading.
+    if (d.cursor.findIn(d.keys))
+        QMetaObject::invokeMethod(&d.set, &DataSet::currentChanged, Qt::QueuedConnection);
+}
+
+int DataSetReader::index() const
+{
+    resolve();
+    if (!d.cursor.isEmpty() && d.cursor.index() < 0)
+        findInKeys();
+    return d.cursor.index();
+}
+
+const Row &DataSetReader::rowAt(int index) const
+{
+    readKeys();
+    if (index < 0 || index >= d.keys.count())
+        return d.nullRow;
+    if (d.inMemory)
+        return d.memory[static_cast<size_t>(index)];
+    if (const Row *row = d.windows.row(index))
+        return *row;
+    const int start = WindowCache::windowStart(index);
+    const int count = std::min(WindowCache::rowsPerWindow, d.keys.count() - start);
+    d.windows.insert(index, read(&RowSource::rows, d.keys.slice(start, count)));
+    return *d.windows.row(index);
+}
+
+const Row &DataSetReader::currentRow() const
+{
+    if (d.rowInHand)
+        return *d.rowInHand;
+    resolve();
+    const Cursor &cursor = d.cursor;
+    if (cursor.isEmpty())
+        return d.nullRow;
+    if (cursor.row())
+        return *cursor.row();
+    if (cursor.index() >= 0 && d.keysRead)
+        return rowAt(cursor.index());
+    d.cursor.takeRow(read(&RowSource::row, cursor.key()).value_or(d.nullRow));
+    return *cursor.row();
+}
+
+} // namespace Engine

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "engine/records/dataset.h"
+#include "engine/store/driver.h"
+#include "engine/store/keylist.h"
+#include "engine/store/sqlcondition.h"
+
+#include <optional>
+#include <span>
+
+namespace Engine {
+
+// What a set consists of, as fragments of a statement. Rows are referred to as "t".
+struct SetScope
+{
+    QString source; // what stands after FROM: "Vendor t"
+    QList<Value> sourceParameters;
+    QStringList keyColumns; // whole-number expressions that tell rows apart
+    SqlCondition condition;
+    QString order; // complete terms; total, by ending with the key
+    // Text fields in the folded form of which an index exists: a search by the exact text goes through that index.
+    QStringList foldedFields;
+};
+
+// Reads keys and rows of one set. Holds no row itself.
+class RowSource
+{
+public:
+    // The scope's fields: data fields are columns, lookups subselects, calculated fields are left null.
+    RowSource(Connection &connection, SetScope scope, const std::deque<Field> &fields);
+
+    const SqlCondition &condition() const { return m_scope.condition; }
+    KeyList keys() const;
+    // The first row in the set's order that meets the condition as well.
+    std::optional<FoundRow> first(const SqlCondition &condition = {}) const;
+    std::vector<Row> firstRows(int count) const;
+    // The row of a key, whether the set's condition lets it in or not.
+    std::optional<Row> row(const Key &key) const;
+    bool holds(const Key &key) const; // the set has a row of this key now
+    // The rows of the keys, in their order; a missing one is a row of nulls.
+    std::vector<Row> rows(std::span<const qint64> keys) const;
+    // The value of a lookup field for a given value of its key field.
+    Value lookedUp(const Field &field, const Value &key) const;
+
+    // The condition that the fields equal the values. Throws NoSuchField, BadValue.
+    SqlCondition match(const QStringList &fields, const QList<Value> &values, LocateOptions options) const;
+    // The expression of a field, for conditions. Throws NoSuchField for a calculated one.
+    QString columnOf(const Field &field) const;
+
+private:
+    Key readKey(const Statement &statement, int first) const;
+    Row readRow(const Statement &statement) const;
+    Row nullRow() const { return Row(m_fields.size()); }
+    SqlCondition keyCondition(const Key &key) const;
+    SqlCondition matchOne(const Field &field, const Value &value, bool partial, bool caseInsensitive) const;
+    StatementPtr select(const QString &columns, const SqlCondition &condition, const QString &tail) const;
+
+    Connection &m_connection;
+    SetScope m_scope;
+    const std::deque<Field> &m_fields;
+    QString m_columns; // of the row
+    int m_columnCount = 0;
+    QString m_keys;
+};
+
+} // namespace Engine

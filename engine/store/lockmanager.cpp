@@ -1,0 +1,204 @@
+#include "engine/store/lockmanager.h"
+
+#include "engine/values/error.h"
+
+#include <QLocale>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+QString inBrackets(const std::optional<LockOwner> &owner)
+{
+    return owner ? u" (%1)"_s.arg(owner->description()) : QString();
+}
+
+QString momentText(const QDateTime &moment)
+{
+    const QDateTime here = moment.toLocalTime();
+    const bool isToday = here.date() == QDate::currentDate();
+    return isToday ? QLocale().toString(here.time(), QLocale::ShortFormat)
+                   : QLocale().toString(here, QLocale::ShortFormat);
+}
+
+} // namespace
+
+QString LockOwner::description() const
+{
+    QString text = user.isEmpty() ? Texts::tr("another user") : user;
+    if (!host.isEmpty())
+        text = Texts::tr("%1 on %2").arg(text, host);
+    if (since.isValid())
+        text = Texts::tr("%1, since %2").arg(text, momentText(since));
+    return text;
+}
+
+LockManager::Held *LockManager::find(const QString &name)
+{
+    const auto found = m_held.find(name);
+    return found == m_held.end() ? nullptr : &found->second;
+}
+
+void LockManager::settle(const QString &name)
+{
+    const Held *held = find(name);
+    if (held && held->isFree())
+        m_held.erase(name);
+}
+
+void LockManager::goDown(const QString &name, OpenMode from, OpenMode to) noexcept
+{
+    try {
+        changeOpen(name, from, to);
+    } catch (const EngineError &) {
+        // Whatever is done next tells that the store is gone.
+    }
+}
+
+bool LockManager::tryOpenShared(const QString &table)
+{
+    const QString name = table.toLower();
+    const Held *held = find(name);
+    const bool covered = held && (held->shared > 0 || held->exclusive > 0);
+    if (!covered && !changeOpen(name, OpenMode::None, OpenMode::Shared))
+        return false;
+    ++m_held[name].shared;
+    return true;
+}
+
+void LockManager::closeShared(const QString &table) noexcept
+{
+    const QString name = table.toLower();
+    Held *held = find(name);
+    if (!held || held->shared == 0)
+        return;
+    if (--held->shared == 0 && held->exclusive == 0)
+        goDown(name, OpenMode::Shared, OpenMode::None);
+    settle(name);
+}
+
+bool LockManager::tryOpenExclusive(const QString &table)
+{
+    const QString name = table.toLower();
+    const Held *held = find(name);
+    const OpenMode before = held && held->shared > 0 ? OpenMode::Shared : OpenMode::None;
+    const bool covered = held && held->exclusive > 0;
+    if (!covered && !changeOpen(name, before, OpenMode::Exclusive))
+        return false;
+    ++m_held[name].exclusive;
+    return true;
+}
+
+void LockManager::closeExclusive(const QString &table) noexcept
+{
+    const QString name = table.toLower();
+    Held *held = find(name);
+    if (!held || held->exclusive == 0)
+        return;
+    if (--held->exclusive == 0)
+        goDown(name, OpenMode::Exclusive, held->shared > 0 ? OpenMode::Shared : OpenMode::None);
+    settle(name);
+}
+
+bool LockManager::tryLockRecord(const QString &table, const QList<qint64> &key)
+{
+    const QString name = table.toLower();
+    const qint64 place = placeOf(name, key);
+    const Held *held = find(name);
+    if (held && held->records.contains(place))
+        return false;
+    const qint64 since = QDateTime::currentSecsSinceEpoch();
+    if (!acquireRecord(name, {place, since, held && held->table > 0}))
+        return false;
+    Held &now = m_held[name];
+    now.records.emplace(place, since);
+    if (now.table == 0)
+        changed();
+    return true;
+}
+
+void LockManager::unlockRecord(const QString &table, const QList<qint64> &key) noexcept
+{
+    const QString name = table.toLower();
+    const qint64 place = placeOf(name, key);
+    Held *held = find(name);
+    const auto record = held ? held->records.find(place) : std::map<qint64, qint64>::iterator();
+    if (!held || record == held->records.end())
+        return;
+    const bool tableHeld = held->table > 0;
+    const qint64 since = record->second;
+    held->records.erase(record);
+    held->losable.erase(place);
+    releaseRecord(name, {place, since, tableHeld});
+    settle(name);
+    if (!tableHeld)
+        changed();
+}
+
+bool LockManager::holdsRecord(const QString &table, const QList<qint64> &key) const
+{
+    const QString name = table.toLower();
+    const auto found = m_held.find(name);
+    return found != m_held.end() && found->second.records.contains(placeOf(name, key));
+}
+
+void LockManager::mayBeLost(const QString &table, const QList<qint64> &key)
+{
+    const QString name = table.toLower();
+    if (Held *held = find(name))
+        held->losable.insert(placeOf(name, key));
+}
+
+void LockManager::loseRecords()
+{
+    for (auto &[table, held] : m_held) {
+        for (const qint64 place : std::exchange(held.losable, {}))
+            held.records.erase(place);
+    }
+    std::erase_if(m_held, [](const auto &entry) { return entry.second.isFree(); });
+}
+
+bool LockManager::tryLockTable(const QString &table)
+{
+    const QString name = table.toLower();
+    const Held *held = find(name);
+    const bool covered = held && held->table > 0;
+    const qint64 since = QDateTime::currentSecsSinceEpoch();
+    if (!covered && !acquireTable(name, since))
+        return false;
+    Held &now = m_held[name];
+    if (++now.table > 1)
+        return true;
+    now.tableSince = since;
+    changed();
+    return true;
+}
+
+void LockManager::unlockTable(const QString &table) noexcept
+{
+    const QString name = table.toLower();
+    Held *held = find(name);
+    if (!held || held->table == 0 || --held->table > 0)
+        return;
+    releaseTable(name, *held);
+    settle(name);
+    changed();
+}
+
+bool LockManager::holdsTable(const QString &table) const
+{
+    const auto found = m_held.find(table.toLower());
+    return found != m_held.end() && found->second.table > 0;
+}
+
+QString LockManager::holderOf(const QString &table) { return inBrackets(ownerOf(table)); }
+
+QString LockManager::holderOf(const QString &table, const QList<qint64> &key)
+{
+    return inBrackets(ownerOf(table, key));
+}
+
+} // namespace Engine

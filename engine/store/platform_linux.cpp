@@ -1,0 +1,215 @@
+#include "engine/store/platform.h"
+
+#include "engine/values/error.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <pwd.h>
+#include <QFile>
+#include <QFileInfo>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+namespace Engine {
+
+namespace {
+
+// File systems of other computers, by the numbers that statfs() gives them. QStorageInfo names the lower of two that
+// are mounted at the same place: "autofs" where NFS or SMB has been mounted on demand.
+constexpr unsigned long remoteFileSystems[] = {
+    0x6969, // NFS
+    0x517B, // SMB
+    0xFF534D42, // CIFS
+    0xFE534D42, // SMB2
+    0x65735546, // FUSE: whatever stands behind it
+    0x01021997, // 9P
+    0x5346414F, // AFS
+    0x00C36400, // Ceph
+};
+
+int lock(int handle, int command, struct flock &range)
+{
+    int result = 0;
+    do {
+        result = fcntl(handle, command, &range);
+    } while (result != 0 && errno == EINTR);
+    return result;
+}
+
+struct flock rangeOf(int type, qint64 from, qint64 count)
+{
+    struct flock range = {};
+    range.l_type = static_cast<short>(type);
+    range.l_whence = SEEK_SET;
+    range.l_start = from;
+    range.l_len = count;
+    return range;
+}
+
+std::optional<FileIdentity> identityOf(int folder, const char *path, int flags)
+{
+    struct statx info = {};
+    if (statx(folder, path, flags, STATX_TYPE | STATX_INO | STATX_BTIME, &info) != 0 || !S_ISREG(info.stx_mode))
+        return std::nullopt;
+    const bool tellsBirth = (info.stx_mask & STATX_BTIME) != 0;
+    constexpr qint64 second = 1'000'000'000;
+    return FileIdentity{makedev(info.stx_dev_major, info.stx_dev_minor), info.stx_ino,
+                        tellsBirth ? info.stx_btime.tv_sec * second + info.stx_btime.tv_nsec : 0};
+}
+
+[[noreturn]] void throwLockFailure(const QString &path)
+{
+    const QString words = QString::fromLocal8Bit(std::strerror(errno));
+    raise(ErrorCode::General, Texts::tr("The lock file %1 cannot be used (%2).").arg(path, words), words);
+}
+
+} // namespace
+
+bool isLocalFileSystem(const QString &path)
+{
+    struct statfs info = {};
+    if (statfs(QFile::encodeName(QFileInfo(path).path()).constData(), &info) != 0)
+        return false;
+    const auto type = static_cast<unsigned long>(info.f_type) & 0xFFFFFFFFUL;
+    for (const unsigned long remote : remoteFileSystems) {
+        if (type == remote)
+            return false;
+    }
+    return true;
+}
+
+void requireUtf8Name(const QString &path)
+{
+    if (path.contains(QChar::ReplacementCharacter)) // what Qt and SQLite's names make of other bytes
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("%1 cannot be used: a name in this path is not UTF-8. Rename the folder.").arg(path));
+}
+
+QString systemUserName()
+{
+    const passwd *entry = getpwuid(geteuid());
+    return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(geteuid());
+}
+
+QString systemStart()
+{
+    QFile file(QStringLiteral("/proc/sys/kernel/random/boot_id"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll().trimmed()) : QString();
+}
+
+std::optional<FileIdentity> identityOfFile(const QString &path)
+{
+    return identityOf(AT_FDCWD, QFile::encodeName(path).constData(), 0);
+}
+
+quint64 namesOfFile(const QString &path)
+{
+    struct statx info = {};
+    return statx(AT_FDCWD, QFile::encodeName(path).constData(), 0, STATX_NLINK, &info) == 0 ? info.stx_nlink : 0;
+}
+
+namespace {
+
+struct pollfd waitingOn(int socket, bool forWriting)
+{
+    return {socket, static_cast<short>(forWriting ? POLLOUT : POLLIN), 0};
+}
+
+bool waitForAny(struct pollfd *sockets, nfds_t count, std::chrono::milliseconds time)
+{
+    int result = 0;
+    do {
+        result = poll(sockets, count, static_cast<int>(time.count()));
+    } while (result < 0 && errno == EINTR);
+    return result > 0;
+}
+
+} // namespace
+
+bool waitForSocket(int socket, bool forWriting, std::chrono::milliseconds time)
+{
+    struct pollfd state = waitingOn(socket, forWriting);
+    return waitForAny(&state, 1, time);
+}
+
+bool waitForEither(int first, int second, bool secondForWriting, std::chrono::milliseconds time)
+{
+    struct pollfd states[] = {waitingOn(first, false), waitingOn(second, secondForWriting)};
+    return waitForAny(states, 2, time);
+}
+
+RangeLockFile::RangeLockFile(const QString &path)
+    : m_path(path)
+    , m_systemPath(QFile::encodeName(path))
+{
+    // Never deleted or replaced: the locks are on the file itself, not on its name. Everyone who may write in the
+    // folder may lock, so the mode is left to the umask.
+    m_handle = ::open(m_systemPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666);
+    if (m_handle >= 0 && isInPlace())
+        return;
+    if (m_handle >= 0 || errno == ELOOP) {
+        ::close(m_handle);
+        raise(ErrorCode::CannotOpen,
+              Texts::tr("The lock file %1 is a link, or no file at all. Remove it while "
+                        "nobody uses the database, and open the program anew.")
+                  .arg(path));
+    }
+    const QString words = QString::fromLocal8Bit(std::strerror(errno));
+    const bool denied = errno == EACCES || errno == EROFS || errno == EPERM;
+    raise(denied ? ErrorCode::ReadOnly : ErrorCode::CannotOpen,
+          Texts::tr("The lock file %1 cannot be written (%2). Check the permissions of "
+                    "the file and of its folder.")
+              .arg(path, words),
+          words);
+}
+
+RangeLockFile::~RangeLockFile() { ::close(m_handle); }
+
+bool RangeLockFile::isInPlace() const
+{
+    const auto own = identityOf(m_handle, "", AT_EMPTY_PATH);
+    return own && own == identityOf(AT_FDCWD, m_systemPath.constData(), AT_SYMLINK_NOFOLLOW);
+}
+
+bool RangeLockFile::tryLock(qint64 from, qint64 count, Mode mode)
+{
+    struct flock range = rangeOf(mode == Mode::Shared ? F_RDLCK : F_WRLCK, from, count);
+    if (lock(m_handle, F_OFD_SETLK, range) == 0)
+        return true;
+    if (errno != EAGAIN && errno != EACCES)
+        throwLockFailure(m_path);
+    return false;
+}
+
+void RangeLockFile::unlock(qint64 from, qint64 count)
+{
+    struct flock range = rangeOf(F_UNLCK, from, count);
+    lock(m_handle, F_OFD_SETLK, range);
+}
+
+bool RangeLockFile::isLockedByOthers(qint64 from, qint64 count) const
+{
+    struct flock range = rangeOf(F_WRLCK, from, count);
+    return lock(m_handle, F_OFD_GETLK, range) == 0 && range.l_type != F_UNLCK;
+}
+
+QByteArray RangeLockFile::read(qint64 from, qint64 count) const
+{
+    QByteArray bytes(count, '\0');
+    const ssize_t got = ::pread(m_handle, bytes.data(), static_cast<size_t>(count), from);
+    bytes.resize(got > 0 ? got : 0);
+    return bytes;
+}
+
+void RangeLockFile::write(qint64 from, const QByteArray &bytes)
+{
+    // Only names for messages stand there, so a failure is nobody's concern.
+    const ssize_t written = ::pwrite(m_handle, bytes.constData(), static_cast<size_t>(bytes.size()), from);
+    Q_UNUSED(written);
+}
+
+} // namespace Engine

@@ -1,0 +1,35 @@
+#include "engine/store/session.h"
+
+#include <QScopeGuard>
+#include <thread>
+
+namespace Engine {
+
+void Session::start()
+{
+    if (m_started)
+        return;
+    m_started = true;
+    if (onStartup)
+        onStartup(*this);
+}
+
+void Session::pause(std::chrono::milliseconds time) const
+{
+    const bool within = std::exchange(m_pausing, true);
+    const auto over = qScopeGuard([&] { m_pausing = within; });
+    if (waitFor)
+        waitFor(time);
+    else
+        std::this_thread::sleep_for(time);
+}
+
+bool Session::mayTryAgain(std::chrono::steady_clock::time_point since) const
+{
+    if (m_pausing || std::chrono::steady_clock::now() - since >= lockAttempts * lockPause)
+        return false;
+    pause();
+    return true;
+}
+
+} // namespace Engine
