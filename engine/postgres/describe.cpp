@@ -121,16 +121,4 @@ std::optional<TableLayout> PostgresConnection::describe(const QString &table)
     return layout;
 }
 
-QStringList PostgresConnection::tableNames()
-{
-    QStringList names;
-    const StatementPtr row = prepare(
-        u"SELECT c.relname, coalesce(obj_description(c.oid, 'pg_class'), '') FROM pg_class c JOIN pg_namespace n "
-        u"ON "
-        "n.oid = c.relnamespace WHERE c.relkind IN ('r', 'p') AND n.nspname = current_schema() ORDER BY c.relname"_s);
-    while (row->next())
-        names << spelled(row->textAt(0), row->textAt(1));
-    return names;
-}
-
 } // namespace Engine

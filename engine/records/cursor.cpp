@@ -12,14 +12,6 @@ void Cursor::to(Key key, std::optional<Row> row, int index)
     m_index = index;
     m_doubtful = false;
     m_atEnd = false;
-    m_atBegin = false;
-}
-
-void Cursor::startAt(Key key, std::optional<Row> row)
-{
-    const bool atBegin = m_atBegin;
-    to(std::move(key), std::move(row), 0);
-    m_atBegin = atBegin;
 }
 
 void Cursor::leave(State state)
@@ -27,21 +19,6 @@ void Cursor::leave(State state)
     to({});
     m_state = state;
     m_formerIndex = 0;
-    m_atBegin = true;
-}
-
-void Cursor::arrive() { m_atBegin = m_atEnd = false; }
-
-void Cursor::pastBegin()
-{
-    m_atBegin = true;
-    m_atEnd = false;
-}
-
-void Cursor::pastEnd()
-{
-    m_atEnd = true;
-    m_atBegin = false;
 }
 
 void Cursor::listChanged()
@@ -63,7 +40,7 @@ bool Cursor::findIn(const KeyList &keys)
         return false;
     }
     if (m_state != State::Known) {
-        startAt(keys.at(0), std::nullopt);
+        to(keys.at(0), std::nullopt, 0);
         return false;
     }
     m_doubtful = false;

@@ -21,17 +21,14 @@ public:
     const Key &key() const { return m_key; }
     int index() const { return m_index; } // -1 when it is not known
     const std::optional<Row> &row() const { return m_row; }
-    bool atBegin() const { return m_atBegin; }
     bool atEnd() const { return m_atEnd; }
 
     void toFirst() { leave(State::Unread); }
     void toNothing() { leave(State::Empty); }
     void to(Key key, std::optional<Row> row = std::nullopt, int index = -1);
-    void startAt(Key key, std::optional<Row> row); // which is the first, where it has stood unread
     void takeRow(Row row) { m_row = std::move(row); } // the record's values are these
-    void arrive(); // at the record that it is on already
-    void pastBegin();
-    void pastEnd();
+    void arrive() { m_atEnd = false; } // at the record that it is on already
+    void pastEnd() { m_atEnd = true; }
 
     // The list is new, and may have lost the record. What stood there before is remembered.
     void listChanged();
@@ -51,7 +48,6 @@ private:
     int m_formerIndex = 0; // in the list before
     bool m_doubtful = false; // the list may have lost the record
     bool m_atEnd = false;
-    bool m_atBegin = true;
 };
 
 } // namespace Engine

@@ -46,7 +46,6 @@ int DataSet::recordCount() const
 
 int DataSet::recordIndex() const { return m_open ? DataSetReader(*this).index() : -1; }
 bool DataSet::atEnd() const { return !m_open || d->cursor.atEnd() || isEmpty(); }
-bool DataSet::atBegin() const { return !m_open || d->cursor.atBegin() || isEmpty(); }
 
 void DataSet::beforeMove()
 {
@@ -61,15 +60,9 @@ void DataSet::first()
     if (d->keysRead)
         moveTo(0);
     if (d->keysRead || d->cursor.isFirst())
-        return d->cursor.pastBegin();
+        return d->cursor.arrive();
     d->cursor.toFirst();
     Q_EMIT currentChanged();
-}
-
-void DataSet::last()
-{
-    requireOpen();
-    moveTo(recordCount() - 1);
 }
 
 void DataSet::next()
@@ -80,16 +73,6 @@ void DataSet::next()
     if (index + 1 < recordCount())
         return moveTo(index + 1);
     d->cursor.pastEnd();
-}
-
-void DataSet::prior()
-{
-    requireOpen();
-    beforeMove();
-    const int index = recordIndex();
-    if (index > 0)
-        return moveTo(index - 1);
-    d->cursor.pastBegin();
 }
 
 void DataSet::moveTo(int index)

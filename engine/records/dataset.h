@@ -77,18 +77,14 @@ public:
     Money money(QStringView name) const; // throws BadValue for an amount beyond the range of money
     bool boolean(QStringView name) const { return value(name).toBool(); }
     QDate date(QStringView name) const { return value(name).toDate(); }
-    QString displayText(QStringView name) const;
 
     // --- moving -------------------------------------------------------------------------------------------------
     bool isEmpty() const; // reads no more than the first row
     int recordCount() const; // reads the keys
     int recordIndex() const; // of the current record; -1 when the set is empty. May have to read the keys
     bool atEnd() const; // next() went past the last record, or the set is empty
-    bool atBegin() const; // likewise for prior(); also after first()
     void first();
-    void last();
     void next();
-    void prior();
     void moveTo(int index); // clamped to the set
 
     // The row at an index without moving, for lists. Reads the window around it if it is not in hand.

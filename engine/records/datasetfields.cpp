@@ -105,12 +105,6 @@ Value DataSet::value(int fieldNumber) const
     return DataSetReader(*this).currentRow()[static_cast<size_t>(fieldNumber)];
 }
 
-QString DataSet::displayText(QStringView name) const
-{
-    const int index = requireField(name);
-    return field(index).displayText(value(index));
-}
-
 Value DataSet::lookedUp(const Field &field, const Value &key) const
 {
     return DataSetReader(*this).source().lookedUp(field, key);

@@ -74,7 +74,7 @@ void DataSetReader::resolve() const
         return findInKeys();
     if (d.cursor.isUnread()) {
         if (auto found = read(&RowSource::first, SqlCondition()))
-            d.cursor.startAt(std::move(found->key), std::move(found->row));
+            d.cursor.to(std::move(found->key), std::move(found->row), 0);
         else
             d.cursor.toNothing();
     } else if (read(&RowSource::holds, d.cursor.key())) {

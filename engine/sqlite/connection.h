@@ -35,7 +35,6 @@ public:
     std::unique_ptr<Connection> openMoment(const Database &database) override;
     bool isWritingKeptOutByReading() override;
     std::optional<TableLayout> describe(const QString &table) override;
-    QStringList tableNames() override;
     qint64 repair(const TableLayout &table) override;
     qint64 lastInsertId() override;
     void setBulk(bool bulk) override;

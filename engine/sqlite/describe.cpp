@@ -118,14 +118,4 @@ std::optional<TableLayout> SqliteConnection::describe(const QString &table)
     return layout;
 }
 
-QStringList SqliteConnection::tableNames()
-{
-    QStringList names;
-    const StatementPtr statement = prepare(u"SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE "
-                                           "'sqlite\\_%' ESCAPE '\\' ORDER BY name COLLATE NOCASE"_s);
-    while (statement->next())
-        names << statement->textAt(0);
-    return names;
-}
-
 } // namespace Engine

@@ -69,6 +69,4 @@ QString Database::identity() { return connection().identity(); }
 
 bool Database::tableExists(const QString &table) { return connection().describe(table).has_value(); }
 
-QStringList Database::tableNames() { return connection().tableNames(); }
-
 } // namespace Engine

@@ -53,7 +53,6 @@ public:
     QString identity();
 
     bool tableExists(const QString &table);
-    QStringList tableNames();
 
     // Creates the table, with its indexes, in one transaction.
     void createTable(const TableLayout &layout);
@@ -66,7 +65,6 @@ public:
     // to a table without rows.
     enum class EnsureOneRow { No, Yes };
     void createOrUpdateTable(const TableLayout &layout, EnsureOneRow ensure = EnsureOneRow::No);
-    void dropTable(const QString &table);
 
     // Verifies and mends a table: rebuilds its indexes, and when rows are unreadable copies those that can be read.
     // Returns the number of rows lost (0 when only indexes were bad). Needs the table for itself.

@@ -103,7 +103,6 @@ public:
 
     // What the store holds. A missing table gives nullopt. Indexes that the engine did not make are left out.
     virtual std::optional<TableLayout> describe(const QString &table) = 0;
-    virtual QStringList tableNames() = 0;
 
     // Verifies a table and mends it as Database::repairTable says; returns the rows lost. Nobody else has it open.
     virtual qint64 repair(const TableLayout &table) = 0;

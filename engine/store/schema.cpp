@@ -168,14 +168,6 @@ void Database::createOrUpdateTable(const TableLayout &layout, EnsureOneRow ensur
     transaction.commit();
 }
 
-void Database::dropTable(const QString &table)
-{
-    Connection &store = connection();
-    const ExclusiveOpen alone(store, table, m_session.titleOf(table));
-    requireTable(store, table, m_session.titleOf(table));
-    store.execute("DROP TABLE "_L1 + store.dialect().name(table));
-}
-
 qint64 Database::repairTable(const QString &table)
 {
     Connection &store = connection();

@@ -46,10 +46,10 @@ protected:
 TEST_P(DataModule, FirstStartMakesEveryTableAndSeedsFourRows)
 {
     makeHost();
-    const QStringList hostTables = store.database().tableNames();
+    const QStringList hostTables = store.tables();
     const auto dataModule = start();
 
-    EXPECT_EQ(store.database().tableNames().size(), hostTables.size() + Layouts::applied().size());
+    EXPECT_EQ(store.tables().size(), hostTables.size() + Layouts::applied().size());
     for (const Engine::TableLayout *layout : Layouts::applied()) {
         EXPECT_FALSE(store.database().differs(*layout)) << layout->name.toStdString();
         EXPECT_TRUE(layout->name == "Item"_L1 || Layouts::titleOf(layout->name) != layout->name)
@@ -184,7 +184,7 @@ TEST_P(DataModule, DatabaseWithoutHostIsLeftAlone)
     EXPECT_EQ(errorOf([&] { start(); }, &text), ErrorCode::NoSuchTable);
     EXPECT_TRUE(text.startsWith(u"The configuration of the host application is missing in "_s))
         << text.toStdString();
-    EXPECT_TRUE(store.database().tableNames().isEmpty());
+    EXPECT_TRUE(store.tables().isEmpty());
 
     makeHost();
     store.execute(u"DELETE FROM Config"_s);
@@ -212,7 +212,7 @@ TEST_P(DataModule, ParametersAndTemporaryTablesStayOutOfTheDatabase)
     makeHost();
     auto dataModule =
         start({.prepareReportPrinting = []() -> std::optional<bool> { throw std::runtime_error("no printer"); }});
-    const QStringList tables = store.database().tableNames();
+    const QStringList tables = store.tables();
 
     Table &parameters = dataModule->memTableInvReportParameters();
     parameters.insert();
@@ -229,7 +229,7 @@ TEST_P(DataModule, ParametersAndTemporaryTablesStayOutOfTheDatabase)
     const QString file = QDir(temporary.directory).filePath(temporary.name() + u".sqlite"_s);
     EXPECT_TRUE(QFile::exists(file));
 
-    EXPECT_EQ(store.database().tableNames(), tables);
+    EXPECT_EQ(store.tables(), tables);
     dataModule.reset();
     EXPECT_FALSE(QFile::exists(file));
 }

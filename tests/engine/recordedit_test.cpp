@@ -397,7 +397,7 @@ TEST_P(RecordTest, JoinsATransactionThatIsOpen)
     {
         Transaction transaction(database().connection());
         change(vendors, u"Days", 77);
-        vendors.last();
+        vendors.moveTo(5);
         vendors.remove();
     }
     vendors.refresh();

@@ -52,7 +52,7 @@ TEST_P(Moments, AWalkGivesTheSetAsItStandsThen)
     table.addCalculated(u"Twice"_s, FieldType::Float, 0,
                         [](const DataSet &row) { return Value(2 * row.number(u"Quantity")); });
     table.open();
-    table.last();
+    table.moveTo(table.recordCount() - 1);
     annaWrites(u"INSERT INTO Sample (SampleID, Quantity, Posted) VALUES (1000, 1, true)"_s);
 
     ReadMoment moment(database);

@@ -22,8 +22,7 @@ protected:
     // Another program's idea of a table: no key, and room for long texts.
     void replaceTable(const QString &table, const QString &columns)
     {
-        kitchen.database().dropTable(table);
-        kitchen.execute(u"CREATE TABLE %1 (%2)"_s.arg(table, columns));
+        kitchen.execute(u"DROP TABLE %1; CREATE TABLE %1 (%2)"_s.arg(table, columns));
     }
 };
 

@@ -129,6 +129,13 @@ void TestStore::execute(const QString &script) { database().connection().execute
 
 QStringList TestStore::rows(const QString &sql) { return rowsOf(database(), sql); }
 
+QStringList TestStore::tables()
+{
+    return rows(m_store == Store::Local
+                    ? u"SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'"_s
+                    : u"SELECT tablename FROM pg_tables WHERE schemaname = current_schema()"_s);
+}
+
 QStringList rowsOf(Engine::Database &database, const QString &sql)
 {
     const Engine::StatementPtr statement = database.connection().prepare(sql);

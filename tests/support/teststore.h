@@ -52,6 +52,7 @@ public:
     QString remoteName() const { return m_remoteName; } // of a remote store's database
     void execute(const QString &script); // SQL text as it stands
     QStringList rows(const QString &sql); // as rowsOf()
+    QStringList tables(); // their names
 
 private:
     Store m_store;

@@ -212,7 +212,7 @@ TEST_P(Entry, LinesThatAnotherUserHasSavedStay)
     };
     open();
     changeLine(theirs, 0, u"QtyReceived", 50.0);
-    theirs.lines().last();
+    theirs.lines().moveTo(2);
     theirs.removeLine();
     enterLine(theirs, 1, 1.0, 9.0);
     theirs.save();

@@ -108,7 +108,7 @@ TEST_P(UsageDocument, KeepsATotalOfItsLinesAndBringsThemBackWithoutCosts)
     setQuantity(3.0);
     entry.newLine();
     entry.removeLine(); // dropped before it was saved
-    entry.lines().last();
+    entry.lines().moveTo(entry.lines().recordCount() - 1);
     entry.lines().edit();
     entry.lines().set(u"Quantity", 90.0);
     entry.lines().cancel();
