@@ -60,6 +60,8 @@ Command historyCommand();
 Command listCommand();
 Command reportCommand();
 Command printCommand();
+Command costCommand();
+Command buyCommand();
 Command manualCommand();
 
 } // namespace Tallymere::Cli

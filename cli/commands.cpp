@@ -55,7 +55,8 @@ const QList<Command> &commands()
 {
     static const QList<Command> all = {initCommand(),  sampleCommand(), importCommand(), postCommand(),
                                        countCommand(), syncCommand(),   totalsCommand(), historyCommand(),
-                                       listCommand(),  reportCommand(), printCommand(),  manualCommand()};
+                                       listCommand(),  reportCommand(), printCommand(),  costCommand(),
+                                       buyCommand(),   manualCommand()};
     return all;
 }
 

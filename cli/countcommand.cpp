@@ -2,6 +2,7 @@
 #include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/csvinput.h"
+#include "cli/optionvalues.h"
 #include "cli/texts.h"
 #include "import/countfile.h"
 #include "transactions/stockcount.h"
@@ -19,15 +20,6 @@ QString required(const Arguments &arguments, const QString &option)
     if (!arguments.has(option))
         throw UsageError(Texts::tr("'count' needs the option '--%1'").arg(option));
     return arguments.value(option);
-}
-
-QDate dateOf(const Arguments &arguments)
-{
-    const QString text = required(arguments, u"date"_s);
-    const QDate date = text.size() == 10 ? QDate::fromString(text, u"yyyy-MM-dd"_s) : QDate();
-    if (!date.isValid())
-        throw UsageError(Texts::tr("option '--date' needs a date as YYYY-MM-DD, not '%1'").arg(text));
-    return date;
 }
 
 void requireDate(QDate date, QDate today)
@@ -59,8 +51,9 @@ struct CountOrder
 CountOrder orderOf(const Arguments &arguments)
 {
     required(arguments, u"location"_s);
+    required(arguments, u"date"_s);
     return {.location = arguments.number(u"location"_s, 0),
-            .date = dateOf(arguments),
+            .date = dateOf(arguments, u"date"_s),
             .zeroCounts = arguments.has(u"include-zero"_s) ? ZeroCounts::Included : ZeroCounts::Excluded,
             .fileName = required(arguments, u"file"_s),
             .answerYes = arguments.has(u"yes"_s)};

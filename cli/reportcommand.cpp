@@ -1,10 +1,9 @@
-#include "base/formats.h"
 #include "base/named.h"
 #include "base/plural.h"
 #include "base/savedfile.h"
 #include "cli/command.h"
+#include "cli/optionvalues.h"
 #include "cli/texts.h"
-#include "data/fiscalperiod.h"
 #include "printing/printsystem.h"
 #include "printing/reportcsv.h"
 #include "printing/reportoutput.h"
@@ -98,33 +97,14 @@ ReportDescription wantedReport(const Arguments &arguments)
     return isForm ? blankForm(choices) : report;
 }
 
-int positive(const Arguments &arguments, const QString &option, qint64 most)
-{
-    const qint64 number = arguments.number(option, 0);
-    if (arguments.has(option) && (number < 1 || number > most))
-        throw UsageError(Texts::tr("option '--%1' takes a number from 1 to %2").arg(option).arg(most));
-    return static_cast<int>(number);
-}
-
-int yearOf(const Arguments &arguments)
-{
-    if (!arguments.has(u"year"_s))
-        return 0;
-    if (const std::optional<int> year = yearFromNumber(arguments.number(u"year"_s, 0)))
-        return *year;
-    throw UsageError(Texts::tr("option '--year' takes a year of two or four digits"));
-}
-
 ReportSelection selectionOf(const Arguments &arguments, const ReportDescription &report)
 {
     refuseUntaken(arguments, report);
-    if (arguments.has(u"period"_s) != arguments.has(u"year"_s))
-        throw UsageError(Texts::tr("--period and --year belong together"));
-    constexpr qint64 largestKey = std::numeric_limits<int>::max();
-    return {.warehouseId = positive(arguments, u"location"_s, largestKey),
-            .itemTypeId = positive(arguments, u"item-type"_s, largestKey),
-            .period = positive(arguments, u"period"_s, 12),
-            .year = yearOf(arguments)};
+    const Period period = periodOf(arguments).value_or(Period());
+    return {.warehouseId = keyOf(arguments, u"location"_s),
+            .itemTypeId = keyOf(arguments, u"item-type"_s),
+            .period = period.number,
+            .year = period.year};
 }
 
 // A report on periods begins with the default one of the organization unless another is named.
@@ -229,10 +209,9 @@ void runPrintCommand(CommandContext &context)
 
 QList<OptionSpec> selectionOptions()
 {
-    return {{u"location"_s, Texts::tr("ID"), Texts::tr("of one location only")},
-            {u"item-type"_s, Texts::tr("ID"), Texts::tr("of one item type only")},
-            {u"period"_s, Texts::tr("PP"), Texts::tr("from this fiscal period on (default: the organization's)")},
-            {u"year"_s, Texts::tr("YYYY"), Texts::tr("the fiscal year of the period")}};
+    return QList<OptionSpec>{{u"location"_s, Texts::tr("ID"), Texts::tr("of one location only")},
+                             {u"item-type"_s, Texts::tr("ID"), Texts::tr("of one item type only")}}
+    + periodOptions(Texts::tr("from this fiscal period on (default: the organization's)"));
 }
 
 OptionSpec paperOption()

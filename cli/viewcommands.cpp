@@ -1,10 +1,12 @@
 #include "base/csvlist.h"
 #include "base/named.h"
 #include "cli/command.h"
+#include "cli/optionvalues.h"
 #include "cli/texts.h"
 #include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/records/table.h"
+#include "insight/stockasof.h"
 #include "master/masterkinds.h"
 #include "transactions/documentkinds.h"
 #include "transactions/historyview.h"
@@ -15,8 +17,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere::Cli {
 
 namespace {
-
-OptionSpec csvOption() { return {u"csv"_s, {}, Texts::tr("writes CSV, which is what is written anyway")}; }
 
 OptionSpec filterOption()
 {
@@ -33,7 +33,7 @@ QStringList fieldNames(const Engine::TableLayout &layout)
 }
 
 // The rows that --filter leaves. A bad expression throws EngineError, BadExpression.
-void writeRows(CommandContext &context, Engine::DataSet &rows, const QStringList &columns)
+template <typename Columns> void writeRows(CommandContext &context, Engine::DataSet &rows, const Columns &columns)
 {
     if (const QString filter = context.arguments.value(u"filter"_s); !filter.isEmpty()) {
         rows.setFilter(filter);
@@ -54,16 +54,40 @@ TotalsSort totalsSort(const QString &name)
     throw UsageError(Texts::tr("option '--sort' takes item or description, not '%1'").arg(name));
 }
 
+// What --as-of or --period asks for; nothing: the stock as it is.
+std::optional<StockTime> stockTime(const Arguments &arguments)
+{
+    const QDate day = dateOf(arguments, u"as-of"_s);
+    const std::optional<Period> period = periodOf(arguments);
+    if (day.isValid() && period)
+        throw UsageError(Texts::tr("--as-of and --period exclude each other"));
+    if (!day.isValid() && !period)
+        return std::nullopt;
+    return period ? StockTime{.day = {}, .year = period->year, .period = period->number} : StockTime{.day = day};
+}
+
 void runTotals(CommandContext &context)
 {
     const TotalsSort sort = totalsSort(context.arguments.value(u"sort"_s, u"item"_s));
+    const std::optional<StockTime> time = stockTime(context.arguments);
     const auto data = context.openData();
     TotalsView view(data->databaseTallymere());
     view.setSort(sort);
+    std::optional<StockAsOf> then;
+    const QString quantity = time ? u"QtyThen"_s : QString(Fields::QtyOnHand);
+    if (time) {
+        then.emplace(data->databaseTallymere(), *time);
+        view.query().addCalculated(quantity, Engine::FieldType::Float, 0, [&](const Engine::DataSet &row) {
+            return Engine::Value(then->onHand(row.integer(Fields::ItemID), row.integer(Fields::WarehouseID)));
+        });
+    }
     view.open();
-    writeRows(context, view.query(),
-              {Fields::ItemID, Fields::WarehouseID, Fields::ItemNo, Fields::ItemDescription, Fields::WarehouseName,
-               Fields::QtyOnHand});
+    QList<GridColumn> columns;
+    for (const QString &field : {QString(Fields::ItemID), QString(Fields::WarehouseID), QString(Fields::ItemNo),
+                                 QString(Fields::ItemDescription), QString(Fields::WarehouseName)})
+        columns.append({field, field});
+    columns.append({quantity, Fields::QtyOnHand});
+    writeRows(context, view.query(), columns);
 }
 
 void runHistory(CommandContext &context)
@@ -125,7 +149,9 @@ Command totalsCommand()
     command.summary = Texts::tr("the quantity on hand of every item at every location, as CSV");
     command.options = {csvOption(),
                        filterOption(),
-                       {u"sort"_s, Texts::tr("ORDER"), Texts::tr("item (by number, the default) or description")}};
+                       {u"sort"_s, Texts::tr("ORDER"), Texts::tr("item (by number, the default) or description")},
+                       {u"as-of"_s, Texts::tr("DATE"), Texts::tr("as it was at the end of a day, YYYY-MM-DD")}};
+    command.options += periodOptions(Texts::tr("as it was at the end of a fiscal period"));
     command.run = runTotals;
     return command;
 }

@@ -44,6 +44,13 @@ TEST_P(Workday, FromAnEmptyFolderToTotals)
     EXPECT_EQ(cli.column({u"list"_s, u"items"_s, u"--filter"_s, u"(ItemNo = 'A1')"_s}, u"WgtAvgCost"_s),
               QStringList{u"2.33"_s});
 
+    EXPECT_EQ(cli.column({u"cost"_s, u"A1"_s}, u"AverageAfter"_s), (QStringList{u"2"_s, u"2.33"_s, u"2.33"_s}));
+    EXPECT_EQ(cli.run({u"cost"_s, u"A"_s}).errors, u"tallymere: There is no item 'A'\n"_s);
+    EXPECT_EQ(cli.column({u"totals"_s, u"--as-of"_s, u"2026-11-02"_s}, u"QtyOnHand"_s),
+              (QStringList{u"0"_s, u"10"_s, u"4"_s}));
+    EXPECT_EQ(cli.column({u"totals"_s, u"--period"_s, u"10"_s, u"--year"_s, u"26"_s}, u"QtyOnHand"_s),
+              (QStringList{u"0"_s, u"0"_s, u"0"_s}));
+
     const auto history = cli.list({u"history"_s, u"--filter"_s, u"(ItemID = 10000)"_s});
     ASSERT_EQ(history.size(), 2);
     EXPECT_EQ(history[0][u"Periodppyyyy"_s], u"11/2026"_s);
@@ -64,6 +71,9 @@ TEST_P(Workday, FromAnEmptyFolderToTotals)
     EXPECT_EQ(cli.column({u"totals"_s}, u"QtyOnHand"_s), (QStringList{u"3"_s, u"7"_s, u"3.5"_s}));
     EXPECT_EQ(cli.column({u"history"_s, u"--filter"_s, u"(TransType = 5)"_s}, u"UnitCost"_s),
               (QStringList{u"2.33"_s, u"9"_s, u"2.33"_s}));
+    const auto buy = cli.list({u"buy"_s, u"--location"_s, u"2"_s, u"--weeks"_s, u"1"_s});
+    ASSERT_EQ(buy.size(), 1);
+    EXPECT_EQ(buy[0][u"VendorNo"_s] + u' ' + buy[0][u"Proposed"_s] + u' ' + buy[0][u"LastCost"_s], u"V2 1 3"_s);
 
     cli.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, 'North'); "
                 "INSERT INTO Items (Item_ID, Meal_Item, Billed_Amount, Meal) VALUES (5, 'Soup', 1.5, 'L')"_s);

@@ -1,0 +1,54 @@
+#include "cli/optionvalues.h"
+
+#include "base/formats.h"
+#include "cli/texts.h"
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere::Cli {
+
+int positive(const Arguments &arguments, const QString &option, qint64 most)
+{
+    const qint64 number = arguments.number(option, 0);
+    if (arguments.has(option) && (number < 1 || number > most))
+        throw UsageError(Texts::tr("option '--%1' takes a number from 1 to %2").arg(option).arg(most));
+    return static_cast<int>(number);
+}
+
+int keyOf(const Arguments &arguments, const QString &option)
+{
+    return positive(arguments, option, std::numeric_limits<int>::max());
+}
+
+QDate dateOf(const Arguments &arguments, const QString &option)
+{
+    const QString text = arguments.value(option);
+    const QDate date = text.size() == 10 ? QDate::fromString(text, u"yyyy-MM-dd"_s) : QDate();
+    if (arguments.has(option) && !date.isValid())
+        throw UsageError(Texts::tr("option '--%1' needs a date as YYYY-MM-DD, not '%2'").arg(option, text));
+    return date;
+}
+
+std::optional<Period> periodOf(const Arguments &arguments)
+{
+    if (arguments.has(u"period"_s) != arguments.has(u"year"_s))
+        throw UsageError(Texts::tr("--period and --year belong together"));
+    if (!arguments.has(u"period"_s))
+        return std::nullopt;
+    const int number = positive(arguments, u"period"_s, 12);
+    if (const std::optional<int> year = yearFromNumber(arguments.number(u"year"_s, 0)))
+        return Period{*year, number};
+    throw UsageError(Texts::tr("option '--year' takes a year of two or four digits"));
+}
+
+OptionSpec csvOption() { return {u"csv"_s, {}, Texts::tr("writes CSV, which is what is written anyway")}; }
+
+QList<OptionSpec> periodOptions(const QString &meaning)
+{
+    return {{u"period"_s, Texts::tr("PP"), meaning},
+            {u"year"_s, Texts::tr("YYYY"), Texts::tr("the fiscal year of the period")}};
+}
+
+} // namespace Tallymere::Cli

@@ -1,0 +1,160 @@
+#include "insight/costtrail.h"
+#include "insight/stockasof.h"
+#include "insight/whattobuy.h"
+#include "tests/support/chance.h"
+#include "tests/support/documents.h"
+#include "transactions/documentposting.h"
+
+#include <cmath>
+#include <map>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+using Engine::Money;
+
+namespace {
+
+const QDate today(2026, 3, 31);
+
+// A line of a document, posted or not. Quantities are quarters, so that sums are exact.
+struct Moved
+{
+    const DocumentKind *kind;
+    bool posted;
+    int item, location, period;
+    QDate date;
+    double change;
+};
+
+// Books of three months, made document by document, and what they must say counted here.
+class InsightTest : public KitchenTest
+{
+protected:
+    InsightTest()
+    {
+        kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s);
+        random.seed(seed);
+        for (int id = 1; id <= 40; ++id)
+            addDocument(id, id <= 36);
+    }
+
+    int below(int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); }
+
+    void addDocument(int id, bool posted)
+    {
+        const QList<const DocumentKind *> &kinds = DocumentKinds::all();
+        const DocumentKind &kind = *kinds.at(below(static_cast<int>(kinds.size())));
+        const QDate date = today.addDays(-below(90));
+        const int period = 1 + below(3);
+        addRandomDocument(kitchen, kind, id, 1 + below(4), random);
+        kitchen.execute(u"UPDATE %1 SET %2 = '%3', GLPeriod = %4 WHERE %5 = %6"_s.arg(
+            kind.headerTable, kind.dateField, date.toString(Qt::ISODate), QString::number(period), kind.keyField,
+            QString::number(id)));
+        const TransTypeInfo &type = *transType(static_cast<int>(kind.posting.transType));
+        for (const QString &row : kitchen.rows(
+                 u"SELECT L.ItemID, H.WarehouseID, L.%1 FROM %2 H JOIN %3 L ON L.%4 = H.%4 WHERE H.%4 = %5"_s.arg(
+                     kind.entry.lineColumns.constFirst().field, kind.headerTable, kind.lineTable, kind.keyField,
+                     QString::number(id)))) {
+            const QStringList parts = row.split(u'|');
+            moved.push_back({&kind, posted, parts[0].toInt(), parts[1].toInt(), period, date,
+                             type.change(parts[2].toDouble())});
+        }
+        if (!posted)
+            return;
+        DocumentPosting(kitchen.database(), kind).run(prompts, progress);
+        for (int item = 1; item <= 3; ++item)
+            averages[item][id] = Money::fromDouble(kitchen.averageCost(item));
+    }
+
+    double sum(int item, int location, const std::function<bool(const Moved &)> &counts) const
+    {
+        double total = 0;
+        for (const Moved &one : moved)
+            if (one.item == item && (location == 0 || one.location == location) && counts(one))
+                total += one.change;
+        return total;
+    }
+
+    const unsigned seed = chanceSeed();
+    const testing::ScopedTrace trace{__FILE__, __LINE__, testing::Message() << "TALLYMERE_TEST_SEED=" << seed};
+    std::mt19937 random;
+    std::vector<Moved> moved;
+    std::map<int, std::map<int, Money>> averages; // by item, after each document
+};
+ON_BOTH_STORES(InsightTest);
+
+TEST_P(InsightTest, ACostIsToldAsItWasPosted)
+{
+    for (int item = 1; item <= 3; ++item) {
+        const CostTrail trail = costTrail(kitchen.database(), item);
+        EXPECT_FALSE(trail.isOverridden()) << qPrintable(trail.verdict());
+        std::map<int, Money> after; // the last line of each receipt
+        for (const CostStep &step : trail.steps) {
+            after[step.receipt] = step.averageAfter.value_or(Money::fromDouble(-1));
+            EXPECT_EQ(step.onHandAfter, step.onHandBefore + step.received);
+        }
+        for (const auto &[receipt, average] : after)
+            EXPECT_TRUE(average == averages[item][receipt]) << "item " << item << " receipt " << receipt;
+
+        kitchen.execute(u"UPDATE Item SET WgtAvgCost = coalesce(WgtAvgCost, 0) + 1 WHERE ItemID = %1"_s.arg(item));
+        const CostTrail changed = costTrail(kitchen.database(), item);
+        EXPECT_TRUE(changed.isOverridden());
+        EXPECT_EQ(changed.since, trail.since);
+        EXPECT_TRUE(changed.verdict().contains(u"by hand"_s));
+        EXPECT_EQ(changed.steps.size(), trail.steps.size());
+    }
+    EXPECT_EQ(refusalOf([&] { costTrail(kitchen.database(), 99); }), u"Item not found -> ");
+}
+
+TEST_P(InsightTest, TheStockIsThatOfItsTime)
+{
+    for (int trial = 0; trial < 6; ++trial) {
+        const QDate day = today.addDays(-below(90));
+        const int period = 1 + below(3);
+        const StockAsOf byDay(kitchen.database(), {.day = day});
+        const StockAsOf byPeriod(kitchen.database(), {.day = {}, .year = 2026, .period = period});
+        for (int item = 1; item <= 3; ++item) {
+            for (int location = 1; location <= 2; ++location) {
+                EXPECT_EQ(byDay.onHand(item, location),
+                          sum(item, location, [&](const Moved &one) { return one.posted && one.date <= day; }));
+                EXPECT_EQ(byPeriod.onHand(item, location), sum(item, location, [&](const Moved &one) {
+                              return one.posted && one.period <= period;
+                          }));
+            }
+        }
+    }
+}
+
+TEST_P(InsightTest, WhatToBuyFollowsUseAndStock)
+{
+    kitchen.execute(u"UPDATE Item SET Suspended = true WHERE ItemID = 3"_s);
+    for (const int location : {0, 1, 2}) {
+        const BuyingPlan plan{.today = today, .location = location, .weeks = 4, .cover = 3};
+        std::map<int, ItemToBuy> found;
+        for (const ItemToBuy &item : whatToBuy(kitchen.database(), plan))
+            found[item.item] = item;
+        EXPECT_FALSE(found.contains(3)) << "suspended";
+        for (int item = 1; item <= 2; ++item) {
+            const double used = -sum(item, location, [&](const Moved &one) {
+                return one.posted && one.kind == &DocumentKinds::usage() && one.date > today.addDays(-28);
+            });
+            ASSERT_EQ(found.contains(item), used > 0) << item;
+            if (used <= 0)
+                continue;
+            const ItemToBuy &told = found[item];
+            EXPECT_EQ(told.usePerWeek, used / 4);
+            EXPECT_EQ(told.onHand, sum(item, location, &Moved::posted));
+            EXPECT_EQ(told.unposted, sum(item, location, [](const Moved &one) { return !one.posted; }));
+            const double there = told.onHand + told.unposted;
+            EXPECT_EQ(told.proposed, std::max(0.0, std::ceil(3 * used / 4 - there)));
+            EXPECT_NEAR(told.daysLeft, std::max(0.0, there / used * 28), 0.05 + 1e-9);
+            const QString vendor = kitchen.text(
+                u"SELECT R.VendorID FROM IHist H JOIN IReceipt R ON R.ReceiptID = H.ReceiptID WHERE H.ItemID = %1 "
+                "ORDER BY H.IHistID DESC LIMIT 1"_s.arg(item));
+            EXPECT_EQ(told.vendor, vendor.toInt());
+        }
+    }
+    EXPECT_NE(refusalOf([&] { whatToBuy(kitchen.database(), {.today = today, .weeks = 0}); }), QString());
+}
+
+} // namespace
