@@ -16,6 +16,8 @@ struct GridColumn
     // that name either field lead to the column.
     QString dataField = {};
     bool takesSurplus = false; // the width that the others leave over; the last column does where none is named
+    // A column of yes and no that shows a tick for yes, and for no this word, as what is still to be done.
+    QString openWord = {};
 
     bool shows(const QString &name) const
     {

@@ -49,7 +49,7 @@ const DocumentKind &DocumentKinds::adjustment()
                             {Fields::AdjDate, TransactionsTexts::tr("Date"), 90},
                             {Fields::AdjDescription, TransactionsTexts::tr("Description"), 260},
                             {Fields::WarehouseName, TransactionsTexts::tr("Location"), 190},
-                            {Fields::Posted, TransactionsTexts::tr("Posted"), 60}},
+                            DocumentKinds::postedColumn()},
                 .orders = {{u"PERIODDATEDESC"_s}},
                 .showsFirstRow = true,
                 .report = u"TrptInvAdjustments"_s,

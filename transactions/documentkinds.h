@@ -14,4 +14,6 @@ const DocumentKind &adjustment();
 const QList<const DocumentKind *> &all();
 const DocumentKind *find(const QString &name); // by its name on the command line; null when there is none
 
+GridColumn postedColumn(); // of their lists
+
 } // namespace Tallymere::DocumentKinds

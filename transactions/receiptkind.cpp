@@ -52,7 +52,7 @@ const DocumentKind &DocumentKinds::receipt()
                             {Fields::PurchaseOrderNo, TransactionsTexts::tr("PO"), 90},
                             {Fields::VendorName, TransactionsTexts::tr("Vendor"), 210},
                             {Fields::WarehouseName, TransactionsTexts::tr("Location"), 170},
-                            {Fields::Posted, TransactionsTexts::tr("Posted"), 60}},
+                            DocumentKinds::postedColumn()},
                 .orders = {{u"PERIODDATEDESC"_s}},
                 .addFields =
                     [](Engine::Table &receipts) {

@@ -52,7 +52,7 @@ const DocumentKind &DocumentKinds::usage()
                 .columns = {{Fields::InventoryDate, TransactionsTexts::tr("Date"), 90},
                             {Fields::WarehouseName, TransactionsTexts::tr("Location"), 230},
                             {Fields::UsageNo, TransactionsTexts::tr("Usage no."), 90},
-                            {Fields::Posted, TransactionsTexts::tr("Posted"), 60},
+                            DocumentKinds::postedColumn(),
                             {u"Periodppyyyy"_s, TransactionsTexts::tr("Period"), 80}},
                 .orders = {{u"INVENTORYDATEUSAGENODESC"_s, TransactionsTexts::tr("&Date"), u"mnuSortDate"_s},
                            {u"USAGENO"_s, TransactionsTexts::tr("&Usage no."), u"mnuSortUsageNo"_s}},

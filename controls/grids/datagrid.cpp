@@ -1,16 +1,17 @@
 #include "controls/grids/datagrid.h"
 
+#include "controls/grids/celldelegate.h"
+#include "controls/grids/titles.h"
 #include "controls/windows/screenmetrics.h"
 
 #include <algorithm>
 #include <numeric>
+#include <QEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QProxyStyle>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QStyleOption>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -21,37 +22,18 @@ namespace Tallymere {
 namespace {
 constexpr int rowPadding = 7; // design pixels
 constexpr int hintMargin = 16;
-constexpr int titleMargin = 4;
 constexpr int leastLetters = 12;
-
-// Titles keep apart, also one at the right of its column from the next one at the left.
-class TitleStyle final : public QProxyStyle
-{
-public:
-    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                     const QWidget *widget) const override
-    {
-        const auto *title = qstyleoption_cast<const QStyleOptionHeader *>(option);
-        if (element != CE_HeaderLabel || !title || !widget)
-            return QProxyStyle::drawControl(element, option, painter, widget);
-        QStyleOptionHeaderV2 apart; // has room for either version
-        static_cast<QStyleOptionHeader &>(apart) = *title;
-        if (const auto *second = qstyleoption_cast<const QStyleOptionHeaderV2 *>(option))
-            apart = *second;
-        const int margin = scaled(widget, titleMargin);
-        apart.rect.adjust(margin, 0, -margin, 0);
-        QProxyStyle::drawControl(element, &apart, painter, widget);
-    }
-};
-
 } // namespace
 
 DataGrid::DataGrid(QWidget *parent)
     : QTableView(parent)
+    , m_look(palette())
+    , m_titles(new Titles(this))
 {
-    setAlternatingRowColors(true);
-    setShowGrid(true);
-    setGridStyle(Qt::SolidLine);
+    setItemDelegate(new CellDelegate(this));
+    setHorizontalHeader(m_titles);
+    setFrameShape(QFrame::NoFrame);
+    setShowGrid(false);
     setWordWrap(false);
     setTextElideMode(Qt::ElideRight);
     setCornerButtonEnabled(false);
@@ -60,12 +42,8 @@ DataGrid::DataGrid(QWidget *parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + scaled(this, rowPadding));
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsMovable(false);
-    auto *titles = new TitleStyle;
-    titles->setParent(this);
-    horizontalHeader()->setStyle(titles);
+    verticalHeader()->setDefaultSectionSize(
+        std::max(scaled(this, Space::row), fontMetrics().height() + scaled(this, rowPadding)));
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
         if (!m_sharing && column < m_widths.size())
             setWantedWidth(column, width);
@@ -110,10 +88,9 @@ int DataGrid::leastWidthOf(int column) const
 {
     const GridColumn &described = m_columns[column];
     const int wanted = scaled(this, described.width);
-    const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 1;
+    const int margins = 2 * cellPadding();
     const int letters = fontMetrics().horizontalAdvance(QString(leastLetters, u'n')) + margins;
-    const int title = horizontalHeader()->fontMetrics().horizontalAdvance(described.title)
-        + 2 * (scaled(this, titleMargin) + style()->pixelMetric(QStyle::PM_HeaderMargin));
+    const int title = m_titles->leastWidth(described.title);
     const bool isText = described.alignment.testFlag(Qt::AlignLeft);
     return std::min(wanted, std::max(title, isText ? letters : wanted * 3 / 4));
 }
@@ -188,7 +165,7 @@ bool DataGrid::isCut(const QModelIndex &cell) const
 {
     const QVariant font = cell.data(Qt::FontRole);
     const QFontMetrics metrics = font.isValid() ? QFontMetrics(font.value<QFont>()) : fontMetrics();
-    const int space = columnWidth(cell.column()) - 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    const int space = columnWidth(cell.column()) - 2 * cellPadding();
     return metrics.horizontalAdvance(cell.data().toString()) > space;
 }
 
@@ -203,6 +180,41 @@ QString DataGrid::cutFigures(int row) const
             figures.append(u"%1: %2"_s.arg(m_columns[column].title, cell.data().toString()));
     }
     return figures.join(u"   "_s);
+}
+
+// --- the look ---------------------------------------------------------------------------------------------------
+
+int DataGrid::cellPadding() const { return scaled(this, Space::cell); }
+
+DataGrid::CellState DataGrid::cellState(const QModelIndex &cell) const
+{
+    const bool chosen = cell.row() == currentIndex().row() || selectionModel()->isSelected(cell);
+    return chosen ? CellState::ChosenRow : CellState::Plain;
+}
+
+bool DataGrid::takesKeys() const { return window()->focusWidget() == this; }
+
+void DataGrid::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        m_look = Look(palette());
+    QTableView::changeEvent(event);
+}
+
+// The whole row shows where the cursor is, not only its cell.
+void DataGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.row() != previous.row()) {
+        updateRow(current.row());
+        updateRow(previous.row());
+    }
+}
+
+void DataGrid::updateRow(int row)
+{
+    if (row >= 0 && row < model()->rowCount())
+        viewport()->update(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
 }
 
 void DataGrid::setHint(const QString &hint)
@@ -232,7 +244,7 @@ void DataGrid::paintEvent(QPaintEvent *event)
 void DataGrid::paintFocus()
 {
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Highlight));
+    painter.setPen(m_look.colour(Look::Role::Accent));
     painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
@@ -240,7 +252,7 @@ void DataGrid::paintHint(const QString &hint)
 {
     const int margin = scaled(this, hintMargin);
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.setPen(m_look.on(palette().color(QPalette::Base), Look::Role::SecondText));
     painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
                      Qt::AlignCenter | Qt::TextWordWrap, hint);
 }

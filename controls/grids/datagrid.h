@@ -1,12 +1,16 @@
 #pragma once
 
 #include "controls/grids/tablemodel.h"
+#include "controls/windows/look.h"
 
 #include <QTableView>
 
 namespace Tallymere {
 
-// The look that lists and line grids share: rows of one fixed height, column widths scaled to the screen.
+class Titles;
+
+// The look that lists and line grids share: rows of one fixed height with lines between them, column widths scaled to the
+// screen. Its cells are drawn by a CellDelegate, its titles by Titles.
 //
 // Width that is left over goes to one column. Width that lacks is shared by all, down to what a column needs to be of use;
 // what is missing then is scrolled. A width that the user has chosen stands.
@@ -34,6 +38,13 @@ public:
     // for -1.
     QString cutFigures(int row) const;
 
+    // How a cell looks for the cursor.
+    enum class CellState { Plain, ChosenRow, ChosenCell, Typing };
+    virtual CellState cellState(const QModelIndex &cell) const;
+    virtual bool hasFocusBar(const QModelIndex &) const { return false; } // before the row that takes the keys
+    const Look &look() const { return m_look; } // of the grid's palette
+    int cellPadding() const; // at both sides of a text, in pixels of the screen
+
     // What an empty grid shows instead of rows.
     void setHint(const QString &hint);
     virtual QString shownHint() const; // empty while there are rows, or nobody knows
@@ -45,6 +56,9 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     bool viewportEvent(QEvent *event) override; // a text that is cut shows whole beside the mouse
     void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    bool takesKeys() const; // has the focus, or will have it again when what stands over the window is gone
 
 private:
     struct Width
@@ -56,10 +70,13 @@ private:
     bool isCut(const QModelIndex &cell) const;
     void paintHint(const QString &hint);
     void paintFocus();
+    void updateRow(int row);
     int leastWidthOf(int column) const;
     int sumOf(int Width::*part) const;
     void shareWidth();
 
+    Look m_look;
+    Titles *m_titles;
     TableModel *m_table = nullptr;
     QList<GridColumn> m_columns;
     QList<Width> m_widths; // of the columns

@@ -8,7 +8,7 @@
 namespace Tallymere {
 
 EntryDelegate::EntryDelegate(EntryGrid *grid)
-    : QStyledItemDelegate(grid)
+    : CellDelegate(grid)
     , m_grid(grid)
 {
 }
@@ -18,10 +18,18 @@ QWidget *EntryDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
     return m_grid->openEditor(parent, index);
 }
 
+// Inside the frame that the cell has meanwhile.
+void EntryDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                         const QModelIndex &) const
+{
+    const int frame = frameWidth();
+    editor->setGeometry(option.rect.adjusted(frame, frame, -frame, -frame));
+}
+
 void EntryDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
 {
     m_grid->editorGone();
-    QStyledItemDelegate::destroyEditor(editor, index);
+    CellDelegate::destroyEditor(editor, index);
 }
 
 bool EntryDelegate::eventFilter(QObject *, QEvent *event)

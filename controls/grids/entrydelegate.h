@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "controls/grids/celldelegate.h"
 
 namespace Tallymere {
 
@@ -8,7 +8,7 @@ class EntryGrid;
 
 // The editor of the cells of a grid. Keys and the loss of the focus go to the grid, which alone decides when an
 // entry is handed over.
-class EntryDelegate final : public QStyledItemDelegate
+class EntryDelegate final : public CellDelegate
 {
     Q_OBJECT
 
@@ -18,6 +18,8 @@ public:
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
     void destroyEditor(QWidget *editor, const QModelIndex &index) const override;
+    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                              const QModelIndex &index) const override;
     void setEditorData(QWidget *, const QModelIndex &) const override { }
     void setModelData(QWidget *, QAbstractItemModel *, const QModelIndex &) const override { }
 

@@ -4,7 +4,9 @@
 #include "controls/grids/entrydelegate.h"
 #include "controls/grids/stepbox.h"
 #include "controls/windows/leaving.h"
+#include "controls/windows/screenmetrics.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -14,6 +16,10 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
+namespace {
+constexpr int editorSurround = 4; // design pixels
+} // namespace
+
 EntryGrid::EntryGrid(QWidget *parent)
     : DataGrid(parent)
 {
@@ -21,23 +27,40 @@ EntryGrid::EntryGrid(QWidget *parent)
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed
                     | QAbstractItemView::DoubleClicked);
     setItemDelegate(new EntryDelegate(this));
-    setAlternatingRowColors(false);
+}
+
+DataGrid::CellState EntryGrid::cellState(const QModelIndex &cell) const
+{
+    if (m_editor && cell == m_edited)
+        return CellState::Typing;
+    if (cell.row() != currentIndex().row())
+        return CellState::Plain;
+    return cell == currentIndex() && takesKeys() ? CellState::ChosenCell : CellState::ChosenRow;
 }
 
 // --- the entry in hand ------------------------------------------------------------------------------------------
 
-EntryGrid::Editor EntryGrid::lineEdit(QWidget *parent)
+EntryGrid::Editor EntryGrid::lineEdit(QWidget *parent) const
 {
     auto *edit = new QLineEdit(parent);
     edit->setFrame(false);
+    setTextMargins(*edit);
     return {edit, edit};
 }
 
-EntryGrid::Editor EntryGrid::stepBox(QWidget *parent, const Engine::Field &field, const LineSteps &steps)
+EntryGrid::Editor EntryGrid::stepBox(QWidget *parent, const Engine::Field &field, const LineSteps &steps) const
 {
     auto *box = new StepBox(field, steps, parent);
     box->setFrame(false);
+    setTextMargins(*box->edit());
     return {box, box->edit()};
+}
+
+// The text stands where the cell shows it, less the frame around the editor and what the editor leaves free by itself.
+void EntryGrid::setTextMargins(QLineEdit &edit) const
+{
+    const int margin = std::max(0, cellPadding() - scaled(this, editorSurround));
+    edit.setTextMargins(margin, 0, margin, 0);
 }
 
 QWidget *EntryGrid::openEditor(QWidget *parent, const QModelIndex &cell)

@@ -21,6 +21,7 @@ public:
     void commitEntry();
     bool hasEntry() const { return m_editor != nullptr; }
     void dropEntry(); // without a word
+    CellState cellState(const QModelIndex &cell) const override;
 
 protected:
     explicit EntryGrid(QWidget *parent);
@@ -33,8 +34,8 @@ protected:
         QWidget *box = nullptr; // what stands in the cell: the edit, or what holds it
         QLineEdit *edit = nullptr;
     };
-    static Editor lineEdit(QWidget *parent);
-    static Editor stepBox(QWidget *parent, const Engine::Field &field, const LineSteps &steps);
+    Editor lineEdit(QWidget *parent) const;
+    Editor stepBox(QWidget *parent, const Engine::Field &field, const LineSteps &steps) const;
 
     virtual Editor makeEditor(QWidget *parent, const QModelIndex &cell) = 0;
     enum class Entry { Unchanged, Changed };
@@ -54,6 +55,7 @@ protected:
 private:
     friend class EntryDelegate;
 
+    void setTextMargins(QLineEdit &edit) const;
     QWidget *openEditor(QWidget *parent, const QModelIndex &cell);
     void editorLeft(Qt::FocusReason reason);
     bool leadsAway(const std::exception_ptr &failure, const QModelIndex &cell) const;

@@ -40,7 +40,7 @@ QToolButton *addSearchButton(QLineEdit *edit, int width)
     layout->addStretch();
     layout->addWidget(button);
     button->setFixedWidth(width);
-    edit->setTextMargins(0, 0, width, 0);
+    edit->setTextMargins(edit->textMargins().left(), 0, width, 0);
     return button;
 }
 

@@ -164,6 +164,19 @@ void ListGrid::mouseDoubleClickEvent(QMouseEvent *event)
 
 // --- painting ---------------------------------------------------------------------------------------------------
 
+// Among several selected rows the one with the cursor stands out: commands work on it.
+DataGrid::CellState ListGrid::cellState(const QModelIndex &cell) const
+{
+    const QItemSelection &selection = selectionModel()->selection();
+    const bool many = selection.size() > 1 || (selection.size() == 1 && selection.first().height() > 1);
+    return many && cell.row() == currentIndex().row() ? CellState::ChosenCell : DataGrid::cellState(cell);
+}
+
+bool ListGrid::hasFocusBar(const QModelIndex &cell) const
+{
+    return cell.column() == 0 && cell.row() == currentIndex().row() && takesKeys();
+}
+
 void ListGrid::paintEvent(QPaintEvent *event)
 {
     DataGrid::paintEvent(event);

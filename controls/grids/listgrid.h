@@ -31,6 +31,9 @@ public:
 
     ListSearch *search() const { return m_search; }
 
+    CellState cellState(const QModelIndex &cell) const override;
+    bool hasFocusBar(const QModelIndex &cell) const override;
+
     void keyboardSearch(const QString &text) override;
 
 Q_SIGNALS:

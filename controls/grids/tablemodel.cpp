@@ -49,6 +49,11 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
     const GridColumn &column = m_columns[index.column()];
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
+    if (role == cellNoteRole) {
+        CellNote note = CellNote::None;
+        attempt([&] { note = cellNote(index); });
+        return static_cast<int>(note);
+    }
     if (role != Qt::DisplayRole && role != Qt::EditRole)
         return {};
     QString text;
@@ -62,6 +67,19 @@ QString TableModel::cellText(const QModelIndex &index, int role) const
         return shownText(index.row(), index.column());
     const int number = m_fields[static_cast<size_t>(index.column())];
     return number < 0 ? QString() : std::as_const(m_data).field(number).editText(cellValue(index.row(), number));
+}
+
+CellNote TableModel::cellNote(const QModelIndex &index) const
+{
+    const GridColumn &column = m_columns[index.column()];
+    const int number = m_fields[static_cast<size_t>(index.column())];
+    const bool marks = !column.openWord.isEmpty();
+    if (number < 0 || !(marks || column.alignment.testFlag(Qt::AlignRight)))
+        return CellNote::None;
+    const Engine::Value value = cellValue(index.row(), number);
+    if (marks)
+        return value.toBool() ? CellNote::Done : CellNote::Open;
+    return value.toDouble() < 0 ? CellNote::Negative : CellNote::None;
 }
 
 QString TableModel::shownText(int row, int column) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/gridcolumn.h"
+#include "controls/grids/cellnote.h"
 #include "controls/windows/guard.h"
 #include "engine/records/dataset.h"
 
@@ -52,6 +53,7 @@ protected:
 
 private:
     QString cellText(const QModelIndex &index, int role) const;
+    CellNote cellNote(const QModelIndex &index) const;
     QString shownValue(int field, const Engine::Value &value) const;
     void findFields();
     int rowStartingWith(const QString &field, const QString &text) const; // -1 when there is none

@@ -121,4 +121,9 @@ QFont headFont(const QFont &font)
     return head;
 }
 
+QString shortened(const QString &text, const QFontMetrics &metrics, int width)
+{
+    return metrics.horizontalAdvance(text) <= width ? text : metrics.elidedText(text, Qt::ElideRight, width);
+}
+
 } // namespace Tallymere

@@ -2,7 +2,9 @@
 
 #include <QColor>
 #include <QFont>
+#include <QFontMetrics>
 #include <QPalette>
+#include <QString>
 
 namespace Tallymere {
 
@@ -60,5 +62,8 @@ inline constexpr int corner = 5; // the radius of rounded ones
 // stands over something.
 QFont secondFont(const QFont &font);
 QFont headFont(const QFont &font);
+
+// As much of the text as there is room for; whole where it lacks but the fraction of a pixel.
+QString shortened(const QString &text, const QFontMetrics &metrics, int width);
 
 } // namespace Tallymere

@@ -101,6 +101,12 @@ protected:
                           grid->visualRect(grid->model()->index(row, column)).center());
         QCoreApplication::processEvents();
     }
+    // At the left edge of a cell and beside its text.
+    QColor at(int row, int column, QPoint place = {}) const
+    {
+        const QPoint corner = grid->visualRect(grid->model()->index(row, column)).topLeft();
+        return grid->viewport()->grab().toImage().pixelColor(corner + place);
+    }
     // "1,2" in the grid, else the widget that has the focus.
     QString cursor() const
     {
@@ -268,4 +274,26 @@ TEST_F(LineGridTest, numbersAreSteppedUpToTheLimitOfTheirRow)
     lines.checkBrowseMode();
     EXPECT_EQ(prompts.take(), QStringList(u"error: 'Quantity' must not be greater than 10"_s));
     EXPECT_EQ(store.rows(u"SELECT Quantity FROM Line ORDER BY LineID"_s), (QStringList{u"4.25"_s, u"12"_s}));
+}
+
+TEST_F(LineGridTest, showsWhereTheCursorIsAndWhetherItTypes)
+{
+    show();
+    const Look &look = grid->look();
+    const QColor field = grid->palette().color(QPalette::Base);
+    const QColor row = look.colour(Look::Role::ChosenRow);
+    const QPoint inside(4, 4);
+    click(1, 2);
+    EXPECT_EQ(at(0, 0), field);
+    EXPECT_EQ(at(1, 0), row);
+    EXPECT_EQ(at(1, 2), look.colour(Look::Role::ChosenCell));
+    type("7");
+    EXPECT_EQ(at(1, 2), look.colour(Look::Role::Accent));
+    EXPECT_EQ(at(1, 2, inside), field);
+    EXPECT_EQ(at(1, 0), row);
+    type("<Esc>");
+    button->setFocus();
+    EXPECT_EQ(at(1, 2), row) << "where the keys do not go";
+    grid->setReadOnly(true);
+    EXPECT_EQ(at(0, 0), window.palette().color(QPalette::Window));
 }

@@ -1,11 +1,12 @@
 #include "transactions/screens/countmodel.h"
 
 #include "base/formats.h"
+#include "controls/grids/cellnote.h"
+#include "controls/windows/look.h"
 
 #include <algorithm>
 #include <QFont>
 #include <QGuiApplication>
-#include <QPalette>
 
 using namespace Qt::StringLiterals;
 
@@ -21,12 +22,6 @@ QString quantityText(const std::optional<double> &quantity)
     return quantity ? format.display(Engine::Value(*quantity)) : QString();
 }
 
-QColor mixed(const QColor &one, const QColor &other, double share)
-{
-    const auto mix = [share](int a, int b) { return qRound(a + (b - a) * share); };
-    return {mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue())};
-}
-
 QFont bold()
 {
     QFont font;
@@ -36,19 +31,33 @@ QFont bold()
 
 bool isCountColumn(int column) { return column == CountModel::Quantity || column == CountModel::Difference; }
 
-// What has been counted stands out; what has not shows the recorded quantity faintly.
+// What has been counted is bold, and on a ground of its own where it differs; what has not been shows the recorded quantity
+// faintly.
 QVariant look(const CountRow &row, int column, int role)
 {
-    const QPalette palette = QGuiApplication::palette();
     if (!isCountColumn(column))
         return {};
-    if (role == Qt::ForegroundRole && !row.typed)
-        return palette.color(QPalette::PlaceholderText);
-    if (role == Qt::BackgroundRole && row.typed)
-        return mixed(palette.color(QPalette::Base), palette.color(QPalette::Highlight), row.differs() ? 0.3 : 0.12);
+    if (role == cellQuietRole)
+        return !row.typed;
+    if (role == Qt::BackgroundRole && row.typed && row.differs())
+        return Look(QGuiApplication::palette()).colour(Look::Role::NoticeGround);
     if (role == Qt::FontRole && row.typed)
         return bold();
     return {};
+}
+
+bool isNegative(const CountRow &row, int column)
+{
+    switch (column) {
+    case CountModel::Prior:
+        return row.prior() < 0;
+    case CountModel::Quantity:
+        return row.counted() < 0;
+    case CountModel::Difference:
+        return row.typed && row.difference() < 0;
+    default:
+        return false;
+    }
 }
 
 bool isSameCategory(const CountRow &one, const CountRow &other)
@@ -149,9 +158,7 @@ QVariant CountModel::headingData(int row, int role) const // over all columns
     case Qt::FontRole:
         return bold();
     case Qt::BackgroundRole:
-        return QGuiApplication::palette().color(QPalette::AlternateBase);
-    case Qt::ForegroundRole: // it is disabled only to be passed over
-        return QGuiApplication::palette().color(QPalette::Text);
+        return Look(QGuiApplication::palette()).colour(Look::Role::Head);
     default:
         return {};
     }
@@ -171,6 +178,8 @@ QVariant CountModel::data(const QModelIndex &index, int role) const
         return text(row, index.column(), role);
     case Qt::TextAlignmentRole:
         return QVariant(m_columns[index.column()].alignment | Qt::AlignVCenter);
+    case cellNoteRole:
+        return static_cast<int>(isNegative(row, index.column()) ? CellNote::Negative : CellNote::None);
     default:
         return look(row, index.column(), role);
     }
