@@ -167,8 +167,7 @@ TEST_F(FieldBinderTest, firstKeyChangesNothingThatSomebodyElseHasChanged)
     store.execute(u"UPDATE Meal SET Name = 'Broth'"_s);
     QTest::keyClicks(name, u"s"_s);
     QApplication::processEvents();
-    EXPECT_EQ(prompts.take(),
-              QStringList(u"error: Another user has changed this since it was shown. Here is what it is now."_s));
+    EXPECT_EQ(prompts.told(), u"error: Another user has changed this since it was shown. Here is what it is now.");
     EXPECT_EQ(name->text(), u"Broth"_s);
     QTest::keyClicks(name, u"Stew"_s);
     binder.commit();
@@ -223,7 +222,7 @@ TEST_F(FieldBinderTest, leavingTowardsCancelHandsNothingOver)
     EXPECT_EQ(QApplication::focusWidget(), cancel);
 
     press(Qt::Key_Backtab, Qt::ShiftModifier); // the next stop after it catches up
-    EXPECT_EQ(prompts.take(), QStringList(u"error: Nobody eats that"_s));
+    EXPECT_EQ(prompts.told(), u"error: Nobody eats that");
     EXPECT_EQ(focusName(), u"editName"_s);
     type("Stew");
     QTest::mouseClick(cancel, Qt::LeftButton);
@@ -243,14 +242,14 @@ TEST_F(FieldBinderTest, whatIsPastedIsOneLineAndWhatIsCutOffIsSaid)
     const QString limit = u"warn: 'Name' takes no more than 8 characters.\n"_s;
     paste(u"Pea\r\n\tSoup\nhot"_s);
     EXPECT_EQ(shown("editName"), u"Pea Soup"_s);
-    EXPECT_EQ(prompts.take(), QStringList(limit + u"This has been cut off: \"hot\""_s));
+    EXPECT_EQ(prompts.told(), limit + u"This has been cut off: \"hot\""_s);
     type("s");
     EXPECT_EQ(shown("editName"), u"Pea Soup"_s);
-    EXPECT_EQ(prompts.take(), QStringList()) << "a box would take the keys that come next";
+    EXPECT_EQ(prompts.told(), QString()) << "a box would take the keys that come next";
     press(Qt::Key_Home);
     paste(u"Hot "_s);
     EXPECT_EQ(shown("editName"), u"Pea Soup"_s) << "what stands there stays";
-    EXPECT_EQ(prompts.take(), QStringList(limit + u"This has been cut off: \"Hot\""_s));
+    EXPECT_EQ(prompts.told(), limit + u"This has been cut off: \"Hot\""_s);
     press(Qt::Key_Tab);
     EXPECT_EQ(table->text(u"Name"), u"Pea Soup"_s);
     paste(u"12.5\n"_s);

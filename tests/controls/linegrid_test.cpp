@@ -200,7 +200,7 @@ TEST_F(LineGridTest, enteringAColumnByHandOpensItsSearch)
     grid->appendLine();
     EXPECT_EQ(searchedAfter("7<Return><Right><Up>"), u":"_s) << "where a check leads";
     EXPECT_EQ(cursor(), u"2,1"_s);
-    EXPECT_EQ(prompts.take(), QStringList(u"error: No item"_s));
+    EXPECT_EQ(prompts.told(), u"error: No item");
     press(Qt::Key_Escape);
     EXPECT_EQ(rows(), 2) << "undone";
 }
@@ -216,7 +216,7 @@ TEST_F(LineGridTest, leavingGoesBackToTheFirstLineOnceTheLineIsComplete)
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_THROW(grid->commitEntry(), SilentAbort) << "what the button does waits for the message";
     QCoreApplication::processEvents();
-    EXPECT_EQ(prompts.take(), QStringList(u"error: No item"_s));
+    EXPECT_EQ(prompts.told(), u"error: No item");
     EXPECT_EQ(cursor(), u"2,1"_s);
     type("D");
     box->setFocus();
@@ -250,7 +250,7 @@ TEST_F(LineGridTest, fixedLinesAndColumnsStay)
     press(Qt::Key_Tab);
     EXPECT_EQ(cursor(), u"after"_s);
     EXPECT_EQ(rows(), 2);
-    EXPECT_EQ(store.rows(u"SELECT ItemNo FROM Line"_s), (QStringList{u"A"_s, u"B"_s}));
+    EXPECT_EQ(store.found(u"SELECT ItemNo FROM Line"_s), u"A B");
 }
 
 TEST_F(LineGridTest, numbersAreSteppedUpToTheLimitOfTheirRow)
@@ -272,8 +272,8 @@ TEST_F(LineGridTest, numbersAreSteppedUpToTheLimitOfTheirRow)
     EXPECT_EQ(entryAfter("11<Up>"), u"12"_s) << "the limit is the row's";
     EXPECT_EQ(entryAfter("<Tab>"), u"-"_s);
     lines.checkBrowseMode();
-    EXPECT_EQ(prompts.take(), QStringList(u"error: 'Quantity' must not be greater than 10"_s));
-    EXPECT_EQ(store.rows(u"SELECT Quantity FROM Line ORDER BY LineID"_s), (QStringList{u"4.25"_s, u"12"_s}));
+    EXPECT_EQ(prompts.told(), u"error: 'Quantity' must not be greater than 10");
+    EXPECT_EQ(store.found(u"SELECT Quantity FROM Line ORDER BY LineID"_s), u"4.25 12");
 }
 
 TEST_F(LineGridTest, showsWhereTheCursorIsAndWhetherItTypes)

@@ -107,7 +107,7 @@ TEST_F(LookupComboBoxTest, followsWhatOthersChangeAndMovesNothing)
     list->moveToKey({2});
     int key = 8;
     const auto add = [&](const QString &name) {
-        store.execute(u"INSERT INTO Place (PlaceID, Name) VALUES (%1, '%2')"_s.arg(++key).arg(name));
+        store.execute(u"INSERT INTO Place (PlaceID, Name) VALUES (%1, '%2')"_s, ++key, name);
     };
     box->setChosenId(4);
     add(u"Barn"_s);

@@ -6,11 +6,12 @@
 #include "engine/store/tablelocks.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
+#include "tests/support/dataplace.h"
 #include "tests/support/failures.h"
 #include "tests/support/spokenprompts.h"
+#include "tests/support/theirtable.h"
 
 #include <QDir>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -28,12 +29,8 @@ protected:
 
     std::unique_ptr<TDataModuleTallymere> start(DataModuleOptions options = {})
     {
-        if (GetParam() == Store::Local)
-            options.dataFolder = store.directory();
-        else
-            options.server = u"127.0.0.1"_s, options.serverDatabase = store.remoteName();
         options.clock = [] { return QDate(2026, 11, 24).startOfDay(); };
-        return std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
+        return std::make_unique<TDataModuleTallymere>(settings, prompts, placeOf(store, std::move(options)));
     }
 
     Value stored(const QString &sql) { return Engine::singleValue(store.database(), sql); }
@@ -58,13 +55,13 @@ TEST_P(DataModule, FirstStartMakesEveryTableAndSeedsFourRows)
     for (const Engine::TableLayout &layout : HostTables::layouts())
         EXPECT_FALSE(store.database().differs(layout)) << layout.name.toStdString();
 
-    EXPECT_EQ(store.rows(u"SELECT CompanyNo, CompanyName, FiscalYear, DefaultCurrencyID, DefaultNetDays, "
-                         "ClientInvoiceLineItems, InvoiceFormat, DefaultPeriodPP FROM Company"_s),
-              QStringList(u"1|Riverside Meals|2026|1|30|S|S|"_s));
-    EXPECT_EQ(store.rows(u"SELECT WarehouseID, WarehouseName FROM Warehse"_s), QStringList(u"1|Office"_s));
-    EXPECT_EQ(store.rows(u"SELECT BankID, BankName, CurrencyID FROM Bank"_s),
-              QStringList(u"1|Meal Preparation Account|1"_s));
-    EXPECT_EQ(store.rows(u"SELECT CurrencyID, ExchangeRate FROM Currency"_s), QStringList(u"1|1"_s));
+    EXPECT_EQ(
+        store.found(
+            u"SELECT CompanyNo, CompanyName, FiscalYear, DefaultCurrencyID, DefaultNetDays, ClientInvoiceLineItems, InvoiceFormat, DefaultPeriodPP FROM Company"_s),
+        u"1|Riverside Meals|2026|1|30|S|S|");
+    EXPECT_EQ(store.found(u"SELECT WarehouseID, WarehouseName FROM Warehse"_s), u"1|Office");
+    EXPECT_EQ(store.found(u"SELECT BankID, BankName, CurrencyID FROM Bank"_s), u"1|Meal Preparation Account|1");
+    EXPECT_EQ(store.found(u"SELECT CurrencyID, ExchangeRate FROM Currency"_s), u"1|1");
     for (const Engine::TableLayout *layout : Layouts::applied()) {
         const bool seeded =
             QStringList{u"Company"_s, u"Warehse"_s, u"Bank"_s, u"Currency"_s}.contains(layout->name);
@@ -85,7 +82,7 @@ TEST_P(DataModule, PostalFormatNamesTheFirstCurrency)
         {u""_s, QLocale::c(), u"Local $"_s}};
     makeHost();
     for (const auto &[format, locale, name] : cases) {
-        store.execute(u"UPDATE Config SET Postal_Format = '%1'"_s.arg(format));
+        store.execute(u"UPDATE Config SET Postal_Format = '%1'"_s, format);
         start({.locale = locale});
         EXPECT_EQ(stored(u"SELECT CurrencyName FROM Currency"_s).toText(), name) << format.toStdString();
         store.execute(u"DELETE FROM Currency"_s);
@@ -97,19 +94,17 @@ TEST_P(DataModule, LaterStartsFollowTheHostAndKeepTheUsersSettings)
     makeHost();
     start();
     store.execute(
-        u"UPDATE Company SET FiscalYear = 2004, DefaultNetDays = 0, InvoiceFormat = 'I', "
-        "AddressLine1 = 'typed here', AddressLine3 = 'back door', DefaultCurrencyID = NULL; "
-        "UPDATE Warehse SET WarehouseName = 'Kitchen'; "
-        "UPDATE Config SET Organizatn = '%1🥕🥕', Org_Addr = '1 Quay', Org_City = 'Leeds', Org_ZIP = 'LS1', "
-        "Org_Phone = '0113-496-0000 extension 12345'"_s.arg(QString(39, u'n')));
+        u"UPDATE Company SET FiscalYear = 2004, DefaultNetDays = 0, InvoiceFormat = 'I', AddressLine1 = 'typed here', AddressLine3 = 'back door', DefaultCurrencyID = NULL; UPDATE Warehse SET WarehouseName = 'Kitchen'; UPDATE Config SET Organizatn = '%1🥕🥕', Org_Addr = '1 Quay', Org_City = 'Leeds', Org_ZIP = 'LS1', Org_Phone = '0113-496-0000 extension 12345'"_s,
+        QString(39, u'n'));
     start();
     // Cut to the field, by whole characters.
     EXPECT_EQ(store.rows(u"SELECT CompanyName, AddressLine1, AddressLine2, Phone FROM Company"_s),
               QStringList(QString(39, u'n') + u"🥕|1 Quay|Leeds  LS1|0113-496-0000 extens"_s));
-    EXPECT_EQ(store.rows(u"SELECT FiscalYear, DefaultNetDays, InvoiceFormat, AddressLine3, DefaultCurrencyID "
-                         "FROM Company"_s),
-              QStringList(u"2004|0|I|back door|1"_s));
-    EXPECT_EQ(store.rows(u"SELECT WarehouseName FROM Warehse"_s), QStringList(u"Kitchen"_s));
+    EXPECT_EQ(
+        store.found(
+            u"SELECT FiscalYear, DefaultNetDays, InvoiceFormat, AddressLine3, DefaultCurrencyID FROM Company"_s),
+        u"2004|0|I|back door|1");
+    EXPECT_EQ(store.found(u"SELECT WarehouseName FROM Warehse"_s), u"Kitchen");
 }
 
 // Writing nothing shows in that locks of others are not in the way.
@@ -117,17 +112,13 @@ TEST_P(DataModule, StartWithNothingToChangeNeedsNoLock)
 {
     makeHost();
     start();
-    const auto other = store.anotherUser();
-    Table company(other->database, u"Company"_s);
-    company.open();
+    TheirTable company(store, u"Company"_s);
     company.edit();
-    Table items(other->database, u"Item"_s);
+    Table items(company.database(), u"Item"_s);
     items.exclusive = true;
     items.open();
-    Table warehouses(other->database, u"Warehse"_s);
-    warehouses.open();
-    Engine::TableLocks whole(other->database);
-    whole.take(warehouses.name());
+    Engine::TableLocks whole(company.database());
+    whole.take(u"Warehse"_s);
 
     EXPECT_NO_THROW(start());
 }
@@ -146,8 +137,8 @@ TEST_P(DataModule, TablesOfAnOlderLayoutAreBroughtUpToDateWithTheirRows)
     oldHistory.fields.removeLast();
     oldHistory.indexes.removeIf([](const Engine::IndexDef &index) { return index.fields.contains(u"UsageID"_s); });
     store.database().createTable(oldHistory);
-    store.execute(
-        u"INSERT INTO Vendor (VendorID, VendorName, Obsolete) VALUES (7, '%1', 'x')"_s.arg(QString(50, u'v')));
+    store.execute(u"INSERT INTO Vendor (VendorID, VendorName, Obsolete) VALUES (7, '%1', 'x')"_s,
+                  QString(50, u'v'));
     store.execute(u"INSERT INTO IHist (ItemID, Quantity) VALUES (5, 2.5)"_s);
 
     start();
@@ -164,13 +155,8 @@ TEST_P(DataModule, TableInUseThatMustChangeStopsTheStart)
     oldTax.fields.removeLast();
     oldTax.indexes.removeLast();
     store.database().createTable(oldTax);
-    const auto other = store.anotherUser();
-    Table tax(other->database, u"Tax"_s);
-    tax.open();
-
-    QString text;
-    EXPECT_EQ(errorOf([&] { start(); }, &text), ErrorCode::TableInUse);
-    EXPECT_TRUE(text.contains(u"Tax"_s)) << text.toStdString();
+    TheirTable tax(store, u"Tax"_s);
+    EXPECT_TRUE(fails([&] { start(); }, ErrorCode::TableInUse, u"Tax"_s));
     EXPECT_TRUE(store.database().differs(Layouts::tax()));
 
     tax.close();
@@ -180,10 +166,8 @@ TEST_P(DataModule, TableInUseThatMustChangeStopsTheStart)
 
 TEST_P(DataModule, DatabaseWithoutHostIsLeftAlone)
 {
-    QString text;
-    EXPECT_EQ(errorOf([&] { start(); }, &text), ErrorCode::NoSuchTable);
-    EXPECT_TRUE(text.startsWith(u"The configuration of the host application is missing in "_s))
-        << text.toStdString();
+    EXPECT_TRUE(fails([&] { start(); }, ErrorCode::NoSuchTable,
+                      u"The configuration of the host application is missing in "_s));
     EXPECT_TRUE(store.tables().isEmpty());
 
     makeHost();

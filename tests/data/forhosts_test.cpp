@@ -6,6 +6,7 @@
 #include "tests/support/bothstores.h"
 #include "tests/support/damage.h"
 #include "tests/support/failures.h"
+#include "tests/support/theirtable.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -107,9 +108,7 @@ TEST_P(Tables, UniqueNumbersWaitForARowThatIsLocked)
 {
     store.database().createTable(Layouts::vendCtl());
     store.execute(u"INSERT INTO VendCtl VALUES (41, 41)"_s);
-    const auto other = store.anotherUser();
-    Engine::Table held(other->database, u"VendCtl"_s);
-    held.open();
+    TheirTable held(store, u"VendCtl"_s);
     held.edit();
 
     int pauses = 0;
@@ -137,14 +136,10 @@ TEST(DamagedTable, IsMendedWhenItsFirstReadFindsTheDamage)
         u"INSERT INTO Tax (TaxID, TaxName) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
         "WHERE i < 2000) SELECT i, 'Tax number ' || i FROM n"_s);
     const int lost = damage(store, u"Tax"_s);
-    const auto other = store.anotherUser();
-    Engine::Table held(other->database, u"Tax"_s);
-    held.open();
+    TheirTable held(store, u"Tax"_s);
     Engine::Table tax(store.database(), u"Tax"_s);
     openTable(tax);
-    QString text;
-    EXPECT_EQ(errorOf([&] { tax.recordCount(); }, &text), ErrorCode::TableInUse);
-    EXPECT_TRUE(text.contains("restore the last backup"_L1)) << text.toStdString();
+    EXPECT_TRUE(fails([&] { tax.recordCount(); }, ErrorCode::TableInUse, u"restore the last backup"_s));
     held.close();
     tax.close();
     openTable(tax);

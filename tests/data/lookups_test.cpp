@@ -51,8 +51,9 @@ TEST_P(Lookups, CalculatedFieldsLeaveOutWhatIsMissing)
     store.execute(u"INSERT INTO Vendor (VendorID, VendorName, AddressLine1, City, StateProv, ZipCode, Country) "
                   "VALUES (1, 'Acme', ' 12 Mill Lane', 'Springfield', 'IL', '62701', 'USA'), "
                   "(2, 'Beta', NULL, NULL, ' ', NULL, '')"_s);
-    store.execute(u"INSERT INTO Customer (CustomerID, CustomerName, AddressLine1, ShipToAddressLine1, ShipToCity) "
-                  "VALUES (1, 'Home', '%1', '3 Quay', 'Leeds')"_s.arg(QString(35, u'a')));
+    store.execute(
+        u"INSERT INTO Customer (CustomerID, CustomerName, AddressLine1, ShipToAddressLine1, ShipToCity) VALUES (1, 'Home', '%1', '3 Quay', 'Leeds')"_s,
+        QString(35, u'a'));
 
     TdmLookUpsInv lookups(store.database());
     QStringList people;

@@ -3,7 +3,6 @@
 #include "engine/records/query.h"
 #include "engine/records/table.h"
 #include "engine/store/dialect.h"
-#include "engine/store/driver.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 
@@ -24,6 +23,12 @@ protected:
     static Engine::TableLayout vendor();
     static Engine::TableLayout document(); // numbered by the store
     static Engine::TableLayout line();
+    Engine::Table &opened() // the vendors
+    {
+        addVendors();
+        vendors.open();
+        return vendors;
+    }
 
     // Vendors 1 Corner, 2 apple, 3 Bell, 4 (no name), 5 Äpfel; the even ones suspended, 3 neither.
     void addVendors();

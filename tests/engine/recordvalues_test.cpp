@@ -9,10 +9,7 @@
 #include "engine/values/value.h"
 #include "tests/support/failures.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <functional>
 #include <limits>
 
 using namespace Engine;
@@ -95,6 +92,19 @@ TEST(LineTextTest, IsOneLineWhateverIsPastedOrImported)
     Field notes;
     notes.type = FieldType::Memo;
     EXPECT_EQ(notes.parse(u"Rye\nBread"_s).toText(), u"Rye\nBread"_s);
+}
+
+TEST(LineTextTest, IsQuotedByItsBeginning)
+{
+    const std::pair<QString, QString> cases[] = {
+        {u" V1\t2 "_s, u"V1\t2"_s},
+        {u"\n\nA10\r\nA11\r\n"_s, u"A10..."_s},
+        {QString(60, u'x'), QString(60, u'x')},
+        {QString(61, u'x'), QString(57, u'x') + u"..."_s},
+        {u"\U0001F950"_s.repeated(61), u"\U0001F950"_s.repeated(57) + u"..."_s},
+    };
+    for (const auto &[text, quoted] : cases)
+        EXPECT_EQ(excerpt(text), quoted);
 }
 
 TEST(ValueTest, ConvertsToTheTypeOfAFieldOrIsRefused)

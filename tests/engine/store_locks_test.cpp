@@ -2,7 +2,6 @@
 #include "tests/engine/storetest.h"
 #include "tests/support/otheruser.h"
 
-#include <chrono>
 #include <QSysInfo>
 #include <thread>
 
@@ -37,13 +36,11 @@ protected:
 
 TEST_P(LocksTest, WhatTwoUsersMayHoldAtTheSameTime)
 {
-    using Take = bool (*)(LockManager &);
-    using Free = void (*)(LockManager &);
     const struct Kind
     {
         const char *name;
-        Take take;
-        Free free;
+        bool (*take)(LockManager &);
+        void (*free)(LockManager &);
     } kinds[] = {
         {"open", [](LockManager &l) { return l.tryOpenShared(u"Item"_s); },
          [](LockManager &l) { l.closeShared(u"Item"_s); }},
@@ -56,10 +53,7 @@ TEST_P(LocksTest, WhatTwoUsersMayHoldAtTheSameTime)
         {"table", [](LockManager &l) { return l.tryLockTable(u"Item"_s); },
          [](LockManager &l) { l.unlockTable(u"Item"_s); }},
         {"another table", [](LockManager &l) { return l.tryLockTable(u"Tax"_s) && l.tryOpenExclusive(u"Tax"_s); },
-         [](LockManager &l) {
-             l.unlockTable(u"Tax"_s);
-             l.closeExclusive(u"Tax"_s);
-         }},
+         [](LockManager &l) { l.unlockTable(u"Tax"_s), l.closeExclusive(u"Tax"_s); }},
     };
     // Rows: what I hold; columns: what she asks for.
     const char *const allowed[] = {

@@ -32,8 +32,9 @@ void fill(TestStore &store, const TableLayout &layout)
         columns << (field.type == FieldType::Text ? u"'a row of some length, with the number ' || i"_s
                         : columns.isEmpty()       ? u"i"_s
                                                   : u"i % 7"_s);
-    store.execute(u"INSERT INTO %1 WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %2) "
-                  "SELECT %3 FROM n"_s.arg(layout.name, QString::number(rowCount), columns.join(u", "_s)));
+    store.execute(
+        u"INSERT INTO %1 WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %2) SELECT %3 FROM n"_s,
+        layout.name, QString::number(rowCount), columns.join(u", "_s));
 }
 
 // With a look at every text.
@@ -64,8 +65,7 @@ TEST(Repair, RowsOfSoundPagesAreKept)
         EXPECT_FALSE(store.database().differs(layout));
         if (layout.fields[0].type != FieldType::AutoInc)
             continue;
-        store.execute(
-            u"DELETE FROM IHist WHERE IHistID = %1; INSERT INTO IHist (ItemID) VALUES (1)"_s.arg(rowCount));
+        store.execute(u"DELETE FROM IHist WHERE IHistID = %1; INSERT INTO IHist (ItemID) VALUES (1)"_s, rowCount);
         EXPECT_EQ(store.database().connection().lastInsertId(), rowCount + 1);
     }
 }

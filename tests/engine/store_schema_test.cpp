@@ -65,14 +65,8 @@ TEST_P(SchemaTest, EveryLayoutIsReadBackAsItWasMade)
 
 TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
 {
-    const struct
-    {
-        FieldType from;
-        QString stored; // the value as SQL
-        FieldType to;
-        int size; // of a text
-        QString expected; // as text; "-" for null
-    } cases[] = {
+    // The value as SQL, the size of a text, and what comes of it as text; "-" for null.
+    const std::tuple<FieldType, QString, FieldType, int, QString> cases[] = {
         {FieldType::Text, u"'A long name'"_s, FieldType::Text, 6, u"A long"_s},
         {FieldType::Text, u"'Ünïcödé'"_s, FieldType::Text, 3, u"Ünï"_s},
         {FieldType::Text, u"' 42'"_s, FieldType::Integer, 0, u"42"_s},
@@ -94,21 +88,21 @@ TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
         {FieldType::Integer, u"NULL"_s, FieldType::Text, 5, u"-"_s},
     };
     int number = 0;
-    for (const auto &c : cases) {
+    for (const auto &[from, stored, to, size, expected] : cases) {
         SCOPED_TRACE(++number);
         TableLayout layout{
-            u"T"_s, {{u"Gone"_s, FieldType::Integer}, {u"ID"_s, FieldType::Integer}, {u"F"_s, c.from, 20}}, {}};
+            u"T"_s, {{u"Gone"_s, FieldType::Integer}, {u"ID"_s, FieldType::Integer}, {u"F"_s, from, 20}}, {}};
         database.createTable(layout);
-        store.execute(u"INSERT INTO T VALUES (1, 2, %1)"_s.arg(c.stored));
-        layout.fields = {{u"F"_s, c.to, c.size}, {u"ID"_s, FieldType::Integer}, {u"Added"_s, FieldType::Text, 5}};
+        store.execute(u"INSERT INTO T VALUES (1, 2, %1)"_s, stored);
+        layout.fields = {{u"F"_s, to, size}, {u"ID"_s, FieldType::Integer}, {u"Added"_s, FieldType::Text, 5}};
         layout.indexes = {primaryOver(u"ID"_s), {u"F"_s, u"F"_s, IndexOption::Descending}};
         database.restructureTable(layout);
         EXPECT_FALSE(database.differs(layout));
         EXPECT_EQ(connection.describe(u"T"_s)->name, u"T"_s);
         StatementPtr row = connection.prepare(u"SELECT F, ID, Added FROM T"_s);
         ASSERT_TRUE(row->next());
-        const Value value = row->valueAt(0, c.to);
-        EXPECT_EQ(value.isNull() ? u"-"_s : value.toText(), c.expected);
+        const Value value = row->valueAt(0, to);
+        EXPECT_EQ(value.isNull() ? u"-"_s : value.toText(), expected);
         EXPECT_EQ(row->intAt(1), 2);
         EXPECT_TRUE(row->isNull(2));
         row.reset();
@@ -173,9 +167,7 @@ TEST_P(SchemaTest, ATableThatOthersHaveOpenIsNotChanged)
     auto other = store.anotherUser();
     ASSERT_TRUE(other->database.connection().locks().tryOpenShared(u"Item"_s));
     layout.fields[1].size = 20;
-    QString message;
-    EXPECT_EQ(errorOf([&] { database.restructureTable(layout); }, &message), ErrorCode::TableInUse);
-    EXPECT_TRUE(message.contains(u"Item"_s));
+    EXPECT_TRUE(fails([&] { database.restructureTable(layout); }, ErrorCode::TableInUse, u"Item"_s));
     EXPECT_EQ(errorOf([&] { database.repairTable(u"Item"_s); }), ErrorCode::TableInUse);
     other->database.connection().locks().closeShared(u"Item"_s);
     database.restructureTable(layout);

@@ -63,7 +63,7 @@ TEST_F(MainFormTest, CommandsAreEnabledAsScreensExist)
     EXPECT_EQ(form().findChild<QAction *>(u"mnuReceiveInventory"_s)->statusTip(), receive->statusTip());
     const auto *post = form().findChild<QPushButton *>(u"ButtonPostReceipts"_s);
     EXPECT_FALSE(post->isEnabled());
-    EXPECT_TRUE(post->toolTip().contains(u"not available"_s)) << qPrintable(post->toolTip());
+    EXPECT_TRUE(has(post->toolTip(), u"not available"_s));
 }
 
 TEST_F(MainFormTest, ProductLacksExactlyTheScreensThatAreNotBuilt)
@@ -107,6 +107,6 @@ TEST_F(MainFormTest, PrintsTemplatesThatAreThere)
     EXPECT_EQ(holder.toPlainText(), u"Stock"_s);
     file.remove();
     form().printReport(holder, false);
-    EXPECT_TRUE(prompts.last().contains(u"could not be found"_s)) << qPrintable(prompts.last());
+    EXPECT_TRUE(has(prompts.last(), u"could not be found"_s));
     qunsetenv("CUPS_SERVER");
 }

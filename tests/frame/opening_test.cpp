@@ -158,7 +158,7 @@ TEST_F(OpeningTest, WithoutAHostAnErrorIsShownAndNothingOpens)
         EXPECT_FALSE(open());
         const QStringList said = company.prompts.take();
         EXPECT_EQ(said.size(), 1);
-        EXPECT_TRUE(said.value(0).contains(u"user"_s)) << qPrintable(said.value(0));
+        EXPECT_TRUE(has(said.value(0), u"user"_s));
     }
     EXPECT_EQ(menu.actions().size(), 2) << "one for each SetMenu";
 }

@@ -6,6 +6,7 @@
 #include "data/lookupsdatainv.h"
 #include "frame/screenregistry.h"
 #include "tests/support/spokenprompts.h"
+#include "tests/support/texts.h"
 
 #include <QTemporaryDir>
 #include <QWidget>

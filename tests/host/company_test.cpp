@@ -16,7 +16,7 @@ TEST(HostCompany, WhatIsWrongIsTold)
         useCompanyFolder(settings, wrong);
         const Company company = readCompany(settings);
         EXPECT_TRUE(company.defined);
-        EXPECT_TRUE(company.problem.contains(folder.path())) << qPrintable(company.problem);
+        EXPECT_TRUE(has(company.problem, folder.path()));
     }
 }
 

@@ -114,7 +114,7 @@ TEST_F(ModuleTest, WhatCannotBeLoadedIsNamed)
     for (const QString &file : {u"/nowhere/plgTallymere.so"_s, noModule, QCoreApplication::applicationFilePath()}) {
         HostWindow window(settings, u"maria"_s, file);
         const QString text = window.findChild<QLabel *>(u"labelModule"_s)->text();
-        EXPECT_TRUE(text.contains(QFileInfo(file).fileName())) << qPrintable(text);
+        EXPECT_TRUE(has(text, QFileInfo(file).fileName()));
         EXPECT_FALSE(inventoryMenu(window).isEnabled());
         EXPECT_TRUE(inventoryMenu(window).actions().isEmpty());
         EXPECT_EQ(ClassRegistry::instance().classNames(), QStringList());

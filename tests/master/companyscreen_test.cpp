@@ -24,10 +24,7 @@ protected:
     }
     void click(const char *button) { ::click(*screen, button); }
     QString shown(const char *field) { return child<QLineEdit>(*screen, field)->text(); }
-    QString stored(const char16_t *field)
-    {
-        return kitchen.text(u"SELECT %1 FROM Company"_s.arg(QStringView(field)));
-    }
+    QString stored(const char16_t *field) { return kitchen.text(u"SELECT %1 FROM Company"_s, QStringView(field)); }
 
     QPointer<TfrmCompany> screen;
 };
@@ -40,15 +37,14 @@ TEST_F(CompanyScreen, RefusedEntriesKeepTheCursor)
     typeOver(*screen, "DBEditDefaultNetDays", "abc");
     focus("memoNotes");
     settle();
-    EXPECT_EQ(prompts.take(),
-              QStringList{u"error: Default Days in which invoice is due: 'abc' is not a whole number"_s});
+    EXPECT_EQ(prompts.told(), u"error: Default Days in which invoice is due: 'abc' is not a whole number");
     EXPECT_EQ(focusName(), u"DBEditDefaultNetDays"_s) << "not hidden behind the notes";
     press(Qt::Key_Escape);
     enter("editFiscalYear", "50");
     EXPECT_EQ(shown("editFiscalYear"), u"1950"_s);
     focus("memoNotes");
     click("btnOK");
-    EXPECT_EQ(prompts.take(), QStringList{u"error: Fiscal Year must be between 1989 and 2050"_s});
+    EXPECT_EQ(prompts.told(), u"error: Fiscal Year must be between 1989 and 2050");
     EXPECT_EQ(focusName(), u"editFiscalYear"_s) << "on the page that was not in front";
     enter("editFiscalYear", "27");
     click("btnOK");
@@ -78,9 +74,10 @@ TEST_F(CompanyScreen, DefaultsAreChosenFromLists)
     press(Qt::Key_Delete);
     enter("DBEditDefaultNetDays", "45");
     click("btnOK");
-    EXPECT_EQ(kitchen.rows(u"SELECT ClientInvoiceLineItems, InvoiceFormat, DefaultCurrencyID, DefaultNetDays "
-                           "FROM Company"_s),
-              QStringList{u"D|X||45"_s});
+    EXPECT_EQ(
+        kitchen.found(
+            u"SELECT ClientInvoiceLineItems, InvoiceFormat, DefaultCurrencyID, DefaultNetDays FROM Company"_s),
+        u"D|X||45");
 }
 
 TEST_F(CompanyScreen, AskedForAgainItShowsWhatIsStoredUnlessSomethingIsEntered)

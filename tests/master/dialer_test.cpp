@@ -2,12 +2,12 @@
 #include "master/dialer.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/dialersetupinv.h"
+#include "tests/support/files.h"
 #include "tests/support/screentest.h"
 
 #include <fcntl.h>
 #include <poll.h>
 #include <pty.h>
-#include <QFile>
 #include <termios.h>
 #include <unistd.h>
 
@@ -66,12 +66,7 @@ private:
 class DialerTest : public ScreenTest
 {
 protected:
-    void writeFile(const QString &text)
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text.toUtf8());
-    }
+    void writeFile(const QString &text) { putContent(path(), text.toUtf8()); }
     QString path() const { return m_folder.filePath(u"HX1.ini"_s); }
 
     Modem modem;

@@ -1,10 +1,9 @@
-#include "engine/records/table.h"
 #include "engine/store/tablelocks.h"
-#include "host/tables/hosttables.h"
 #include "master/itemsync.h"
 #include "master/locationsync.h"
 #include "tests/support/brokentable.h"
 #include "tests/support/kitchen.h"
+#include "tests/support/theirtable.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -17,12 +16,12 @@ namespace {
 class HostSyncTest : public KitchenTest
 {
 protected:
-    HostSyncTest() { HostTables::createHostTables(kitchen.database(), u"Test Kitchen"_s, u"USA"_s); }
+    HostSyncTest() { kitchen.makeHost(); }
 
     // Another program's idea of a table: no key, and room for long texts.
     void replaceTable(const QString &table, const QString &columns)
     {
-        kitchen.execute(u"DROP TABLE %1; CREATE TABLE %1 (%2)"_s.arg(table, columns));
+        kitchen.execute(u"DROP TABLE %1; CREATE TABLE %1 (%2)"_s, table, columns);
     }
 };
 
@@ -37,21 +36,20 @@ protected:
     HostSyncResult run() { return ItemSync(kitchen.database()).run(progress); }
     void addHostItem(int id, const QString &name, const QString &price = u"1"_s, const QString &meal = u"'B'"_s)
     {
-        kitchen.execute(
-            u"INSERT INTO Items (Item_ID, Meal_Item, Billed_Amount, Meal) VALUES (%1, %2, %3, %4)"_s.arg(
-                QString::number(id), name, price, meal));
+        kitchen.execute(u"INSERT INTO Items (Item_ID, Meal_Item, Billed_Amount, Meal) VALUES (%1, %2, %3, %4)"_s,
+                        id, name, price, meal);
     }
     void addItem(int key, const QString &number)
     {
         kitchen.execute(u"INSERT INTO Item (ItemID, ItemNo, ItemDescription, UnitPrice, ItemTypeID, Suspended) "
-                        "VALUES (%1, '%2', 'old', 5, 9, true)"_s.arg(key)
-                            .arg(number));
+                        "VALUES (%1, '%2', 'old', 5, 9, true)"_s,
+                        key, number);
     }
-    QString keysAndNumbers() { return kitchen.rows(u"SELECT ItemID, ItemNo FROM Item ORDER BY 1"_s).join(u' '); }
+    QString keysAndNumbers() { return kitchen.found(u"SELECT ItemID, ItemNo FROM Item ORDER BY 1"_s); }
     QString nextItemID() { return kitchen.text(u"SELECT NextItemID FROM ItemCtl"_s); }
     QString of(const QString &field, int key)
     {
-        return kitchen.text(u"SELECT %1 FROM Item WHERE ItemID = %2"_s.arg(field).arg(key));
+        return kitchen.text(u"SELECT %1 FROM Item WHERE ItemID = %2"_s, field, key);
     }
 };
 ON_BOTH_STORES(ItemSyncTest);
@@ -60,12 +58,9 @@ TEST_P(ItemSyncTest, NewItemsTakeReservedKeysAndLeaveOneUnused)
 {
     for (const int id : {30, 4, 17})
         addHostItem(id, u"'Meal %1'"_s.arg(id), u"2.5"_s);
-    const HostSyncResult result = run();
-    EXPECT_EQ(result.added, 3);
-    EXPECT_EQ(kitchen
-                  .rows(u"SELECT ItemID, ItemNo, ItemDescription, UnitPrice, ItemTypeID, "
-                        "Suspended, WgtAvgCost FROM Item ORDER BY ItemID"_s)
-                  .join(u' '),
+    EXPECT_EQ(run().added, 3);
+    EXPECT_EQ(kitchen.found(u"SELECT ItemID, ItemNo, ItemDescription, UnitPrice, ItemTypeID, Suspended, WgtAvgCost "
+                            "FROM Item ORDER BY ItemID"_s),
               u"10|4|Meal 4|2.5|1|false| 11|17|Meal 17|2.5|1|false| 12|30|Meal 30|2.5|1|false|");
     EXPECT_EQ(nextItemID(), u"14");
     EXPECT_EQ(kitchen.text(u"SELECT NextItemNo FROM ItemCtl"_s), u"1001");
@@ -79,7 +74,7 @@ TEST_P(ItemSyncTest, MealCodesDecideTheTypeAndUnknownOnesChangeIt)
     int id = 0;
     for (const char16_t *meal : {u"'B'", u"'L'", u"'D'", u"'MF'", u"'SF'", u"'O'", u"'X'", u"'b'", u"''", u"NULL"})
         addHostItem(++id, u"'Meal'"_s, u"1"_s, QString::fromUtf16(meal));
-    const auto types = [this] { return kitchen.rows(u"SELECT ItemTypeID FROM Item ORDER BY ItemID"_s).join(u' '); };
+    const auto types = [this] { return kitchen.found(u"SELECT ItemTypeID FROM Item ORDER BY ItemID"_s); };
     run();
     EXPECT_EQ(types(), u"1 2 3 4 5 6 3 3 3 3");
     EXPECT_EQ(run().updated, 4);
@@ -100,8 +95,7 @@ TEST_P(ItemSyncTest, NumbersLinkByWhatTheyReadAs)
     EXPECT_EQ(result.notUpdated, QString());
     EXPECT_EQ(result.updated, 3);
     EXPECT_EQ(result.added, 1);
-    EXPECT_EQ(kitchen.rows(u"SELECT ItemID FROM Item WHERE ItemDescription = 'new' ORDER BY 1"_s).join(u' '),
-              u"1 2 3");
+    EXPECT_EQ(kitchen.found(u"SELECT ItemID FROM Item WHERE ItemDescription = 'new' ORDER BY 1"_s), u"1 2 3");
     EXPECT_EQ(of(u"ItemNo"_s, 2), u"000123");
     EXPECT_EQ(of(u"ItemNo"_s, 20), u"5");
     EXPECT_EQ(of(u"Suspended"_s, 1), of(u"Suspended"_s, 4)) << "which is the user's";
@@ -125,7 +119,7 @@ TEST_P(ItemSyncTest, OnlyChangedItemsAreUpdated)
         SCOPED_TRACE(name);
         kitchen.execute(u"DELETE FROM Item; DELETE FROM Items"_s);
         addItem(1, u"7"_s);
-        kitchen.execute(u"UPDATE Item SET ItemDescription = %1, UnitPrice = %2"_s.arg(description, price));
+        kitchen.execute(u"UPDATE Item SET ItemDescription = %1, UnitPrice = %2"_s, description, price);
         addHostItem(7, hostName, hostPrice);
         const bool changed = after.endsWith(u"|1"_s);
         EXPECT_EQ(run().updated, changed ? 1 : 0);
@@ -164,7 +158,7 @@ TEST_P(ItemSyncTest, AFailingUpdateIsPassedOverAndAMissingCounterBegun)
         const BrokenTable broken(kitchen, u"UPDATE"_s, u"Item"_s, u"NEW.ItemID = 1"_s);
         const HostSyncResult result = run();
         EXPECT_EQ(result.added, 1);
-        EXPECT_TRUE(result.notUpdated.contains(u"no luck"_s)) << result.notUpdated.toStdString();
+        EXPECT_TRUE(has(result.notUpdated, u"no luck"_s));
     }
     EXPECT_EQ(keysAndNumbers(), u"1|7 10000|8");
     EXPECT_EQ(nextItemID(), u"10002");
@@ -176,9 +170,7 @@ TEST_P(ItemSyncTest, AFailingInsertKeepsTheItemsBeforeIt)
     for (const int id : {7, 8, 9})
         addHostItem(id, u"'Meal'"_s);
     addItem(11, u"X"_s); // the counter is behind its table
-    QString message;
-    EXPECT_EQ(errorOf([this] { run(); }, &message), ErrorCode::KeyViolation);
-    EXPECT_TRUE(message.startsWith(u"Item 8 \"Meal\""_s)) << message.toStdString();
+    EXPECT_TRUE(fails([this] { run(); }, ErrorCode::KeyViolation, u"Item 8 \"Meal\""_s));
     EXPECT_EQ(keysAndNumbers(), u"10|7 11|X");
     EXPECT_EQ(nextItemID(), u"14");
     run();
@@ -190,10 +182,7 @@ TEST_P(ItemSyncTest, WithoutAReservationKeysLieAboveAllOthers)
     addHostItem(7, u"'Meal'"_s);
     addHostItem(8, u"'Meal'"_s);
     addItem(50, u"X"_s);
-    const auto anna = kitchen.anotherUser();
-    Engine::Table counters(anna->database, u"ItemCtl"_s);
-    counters.exclusive = true;
-    counters.open();
+    TheirTable counters(kitchen, u"ItemCtl"_s);
     progress.onStart = [&] { counters.close(); }; // once the keys are to be reserved, and before the first row
     run();
     EXPECT_EQ(keysAndNumbers(), u"50|X 51|7 52|8");
@@ -206,9 +195,7 @@ TEST_P(ItemSyncTest, WhoHoldsTheItemsKeepsEverythingAsItIs)
     addItem(1, u"7"_s);
     addHostItem(7, u"'new'"_s);
     addHostItem(8, u"'Soup'"_s);
-    const auto anna = kitchen.anotherUser();
-    Engine::Table table(anna->database, u"Item"_s);
-    table.open();
+    TheirTable table(kitchen, u"Item"_s);
     for (const bool whole : {true, false}) {
         std::optional<Engine::TableLocks> lock;
         whole ? lock.emplace(table.database()).take(table.name()) : table.edit();
@@ -227,8 +214,7 @@ protected:
     HostSyncResult run() { return LocationSync(kitchen.database()).run(progress); }
     QString locations()
     {
-        return kitchen.rows(u"SELECT WarehouseID, WarehouseName, Location_ID FROM Warehse ORDER BY WarehouseID"_s)
-            .join(u' ');
+        return kitchen.found(u"SELECT WarehouseID, WarehouseName, Location_ID FROM Warehse ORDER BY WarehouseID"_s);
     }
 };
 ON_BOTH_STORES(LocationSyncTest);
@@ -259,9 +245,9 @@ TEST_P(LocationSyncTest, NamesComeAsTheyAreAndFitTheirField)
     const QString quoted = u"O'Brien \"100%\" [a];--"_s;
     const QString emoji = QString::fromUcs4(U"\U0001F35E");
     replaceTable(u"Locatns"_s, u"Location_ID INTEGER, Location VARCHAR(80)"_s);
-    kitchen.execute(u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, '%1'), (8, '%2'), (9, NULL), "
-                    "(8, 'the same again'), (NULL, 'nowhere'); DELETE FROM Warehse"_s.arg(
-                        QString(quoted).replace(u'\'', u"''"_s), emoji.repeated(60)));
+    kitchen.execute(
+        u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, '%1'), (8, '%2'), (9, NULL), (8, 'the same again'), (NULL, 'nowhere'); DELETE FROM Warehse"_s,
+        QString(quoted).replace(u'\'', u"''"_s), emoji.repeated(60));
     EXPECT_EQ(run().added, 3);
     kitchen.execute(u"DELETE FROM Locatns WHERE Location = 'the same again'"_s);
     for (const bool renamed : {false, true}) {

@@ -1,13 +1,13 @@
 #include "controls/fields/lookupcombobox.h"
 #include "controls/grids/listgrid.h"
 #include "controls/windows/screenmetrics.h"
-#include "engine/records/table.h"
 #include "master/screens/iteminv.h"
 #include "master/screens/itemsearchinv.h"
 #include "master/screens/itemsfind.h"
 #include "master/screens/itemsinv.h"
 #include "master/screens/itemtypeinv.h"
 #include "tests/support/screentest.h"
+#include "tests/support/theirtable.h"
 #include "transactions/screens/invtotals.h"
 
 using namespace Qt::StringLiterals;
@@ -49,10 +49,11 @@ protected:
     }
     QString shown(const char *field) { return child<QLineEdit>(*item, field)->text(); }
     LookupComboBox *typeBox() { return child<LookupComboBox>(*item, "cboItemType"); }
-    QStringList stored(const QString &number)
+    QString stored(const QString &number)
     {
-        return kitchen.rows(u"SELECT ItemID, ItemDescription, TaxCodes, ItemTypeID, UnitPrice, WgtAvgCost, "
-                            "StandardCost, Suspended, Notes FROM Item WHERE ItemNo = '%1'"_s.arg(number));
+        return kitchen.found(u"SELECT ItemID, ItemDescription, TaxCodes, ItemTypeID, UnitPrice, WgtAvgCost, "
+                             "StandardCost, Suspended, Notes FROM Item WHERE ItemNo = '%1'"_s,
+                             number);
     }
     // Stands for the main window, which shows the screen that is led to.
     void offer(QWidget &screen)
@@ -77,33 +78,31 @@ TEST_F(ItemScreens, NumberCheckAndSaveANewItem)
     clickList("btnNew");
     takeItem();
     EXPECT_EQ(shown("editItemNo") + item->windowTitle(), u"1001New Item");
-    focusOn(*item, "memoNotes");
-    type("Keep<Return>cool");
+    typeIn(*item, "memoNotes", "Keep<Return>cool");
     clickItem("btnOK");
-    EXPECT_EQ(prompts.take(), QStringList{u"error: Field 'Description' must have a value"_s});
+    EXPECT_EQ(prompts.told(), u"error: Field 'Description' must have a value");
     EXPECT_EQ(focusName(), u"editItemDescription") << "on the other page";
     type(u"Crème 🍮 50%"_s);
     press(Qt::Key_Return);
     enter("editTaxCodes", "p1G?xY");
     enter("editStandardCost", "12.5");
     EXPECT_EQ(shown("editStandardCost"), u"12.50");
-    typeBox()->setFocus();
-    type("go<Return>");
+    typeIn(*item, "cboItemType", "go<Return>");
     EXPECT_EQ(typeBox()->currentText(), u"Goods");
     enter("editItemNo", "A11");
     clickItem("btnOK");
-    EXPECT_EQ(prompts.take(), QStringList{u"error: Item no. already exists"_s});
+    EXPECT_EQ(prompts.told(), u"error: Item no. already exists");
     EXPECT_EQ(focusName(), u"editItemNo");
     kitchen.execute(u"DELETE FROM ItemType WHERE ItemTypeID = 2"_s);
     type("B10");
     clickItem("btnOK");
-    EXPECT_EQ(prompts.take(), QStringList{u"error: Item Type no longer exists"_s});
+    EXPECT_EQ(prompts.told(), u"error: Item Type no longer exists");
     EXPECT_EQ(focusName(), u"cboItemType");
     type("fo");
     clickItem("btnOK");
     settle();
     EXPECT_FALSE(item);
-    EXPECT_EQ(stored(u"B10"_s), QStringList{u"10000|Crème 🍮 50%|pGx|1|||12.5|false|Keep\ncool"_s});
+    EXPECT_EQ(stored(u"B10"_s), u"10000|Crème 🍮 50%|pGx|1|||12.5|false|Keep\ncool"_s);
     EXPECT_EQ(list->dataSet().text(u"ItemNo"), u"B10");
 }
 
@@ -111,8 +110,7 @@ TEST_F(ItemScreens, UnlockTheAverageCostOnlyOnPurpose)
 {
     kitchen.execute(u"UPDATE Item SET WgtAvgCost = 2.345, ItemTypeID = 1 WHERE ItemID = 1"_s);
     openItem();
-    child<QLineEdit>(*item, "editWgtAvgCost")->setFocus();
-    type("9");
+    typeIn(*item, "editWgtAvgCost", "9");
     EXPECT_EQ(shown("editWgtAvgCost"), u"2.345");
     const auto colour = [this] {
         return child<QLineEdit>(*item, "editWgtAvgCost")->palette().color(QPalette::Base);
@@ -129,8 +127,8 @@ TEST_F(ItemScreens, UnlockTheAverageCostOnlyOnPurpose)
     clickItem("btnOK");
     settle();
     EXPECT_FALSE(item) << "although the list cannot follow";
-    EXPECT_EQ(stored(u"A10"_s), QStringList{u"1|Apples||1||3||false|"_s});
-    EXPECT_EQ(prompts.take(), QStringList());
+    EXPECT_EQ(stored(u"A10"_s), u"1|Apples||1||3||false|"_s);
+    EXPECT_EQ(prompts.told(), QString());
 }
 
 TEST_F(ItemScreens, LeadToTheTypes)
@@ -168,8 +166,7 @@ TEST_F(ItemScreens, KeepAChoiceThatIsStillOpen)
 {
     const auto choose = [this](const char *letters) {
         openItem(); // of type "Food"
-        typeBox()->setFocus();
-        type(letters);
+        typeIn(*item, "cboItemType", letters);
     };
     const auto storedType = [this] { return kitchen.number(u"SELECT ItemTypeID FROM Item WHERE ItemID = 1"_s); };
     openList();
@@ -178,7 +175,7 @@ TEST_F(ItemScreens, KeepAChoiceThatIsStillOpen)
     item->close();
     settle();
     EXPECT_FALSE(item);
-    EXPECT_EQ(prompts.take(), QStringList{u"Do you want to save changes?"_s});
+    EXPECT_EQ(prompts.told(), u"Do you want to save changes?");
     EXPECT_EQ(storedType(), 2);
 
     choose("f");
@@ -189,16 +186,14 @@ TEST_F(ItemScreens, KeepAChoiceThatIsStillOpen)
     choose("f");
     QTest::mouseClick(child<QPushButton>(*item, "btnCancel"), Qt::LeftButton);
     settle();
-    EXPECT_EQ(prompts.take(), QStringList());
+    EXPECT_EQ(prompts.told(), QString());
     EXPECT_EQ(storedType(), 2);
 }
 
 // Whatever key or click makes the choice, the user is told before anything closes, and the box goes back.
 TEST_F(ItemScreens, RefuseAChoiceOfAnItemThatAnotherUserEdits)
 {
-    const auto anna = kitchen.anotherUser();
-    Engine::Table theirs(anna->database, u"Item"_s);
-    theirs.open();
+    TheirTable theirs(kitchen, u"Item"_s);
     ASSERT_TRUE(theirs.findKey({1}));
     openItem();
     theirs.edit();
@@ -233,9 +228,8 @@ TEST_F(ItemScreens, AskInFrontAndByNameWhenClosedFromElsewhere)
     showActive(*list);
     prompts.answer = Answer::Yes;
     item->close();
-    EXPECT_EQ(prompts.take(),
-              (QStringList{u"Do you want to save changes?\n\nItem 'A10: Pears'"_s,
-                           u"error: Field 'Description' must have a value"_s}));
+    EXPECT_EQ(prompts.told(),
+              u"Do you want to save changes?\n\nItem 'A10: Pears'\nerror: Field 'Description' must have a value");
     ASSERT_TRUE(item && item->isVisible());
     EXPECT_TRUE(comesTrue([this] { return QApplication::activeWindow() == item; }));
     EXPECT_EQ(focusName(), u"editItemDescription");
@@ -292,11 +286,10 @@ TEST_F(ItemScreens, NarrowTheListAndFindInIt)
     const auto find = [] { type("<Ctrl+F>"); };
     EXPECT_TRUE(whileOpen<TfrmItemsFind>(find, [this](TfrmItemsFind &dialog) {
         type("nix<Tab>");
-        EXPECT_EQ(prompts.take(), QStringList{u"error: Item no. 'nix' not found"_s});
+        EXPECT_EQ(prompts.told(), u"error: Item no. 'nix' not found");
         EXPECT_EQ(focusName(), u"editItem");
         type("<Backspace><Backspace><Backspace>");
-        focusOn(dialog, "cboItem");
-        type("br<Return>");
+        typeIn(dialog, "cboItem", "br<Return>");
     }));
     EXPECT_EQ(list->dataSet().text(u"ItemNo"), u"A11");
     showActive(*list);
@@ -332,11 +325,9 @@ TEST_F(ItemScreens, SearchAnItemByWhatIsTyped)
     EXPECT_EQ(prompts.last(), u"error: Item not found"_s);
     EXPECT_EQ(search.GetItemID(), 2);
     EXPECT_TRUE(search.isVisible()) << "no number goes on so: not an item that was not asked for";
-    child<QLineEdit>(search, "editFindItemDescription")->setFocus();
-    type("ap");
+    typeIn(search, "editFindItemDescription", "ap");
     EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
-    child<LookupComboBox>(search, "cboItemType")->setFocus();
-    type("food<Return>");
+    typeIn(search, "cboItemType", "food<Return>");
     EXPECT_TRUE(search.isVisible()) << "nobody has seen the items of the type yet";
     EXPECT_EQ(search.GetItemID(), 1);
     press(Qt::Key_Return);

@@ -1,6 +1,5 @@
 #include "master/masterlist.h"
 
-#include "host/tables/hosttables.h"
 #include "master/masterkinds.h"
 #include "tests/support/kitchen.h"
 
@@ -14,7 +13,7 @@ class Lists : public KitchenTest
 protected:
     Lists()
     {
-        HostTables::createHostTables(database, u"Test Kitchen"_s, u"USA"_s);
+        kitchen.makeHost();
         kitchen.execute(uR"(
             INSERT INTO Tax (TaxID, TaxName, TaxCode, TaxDescription, Rate) VALUES (7, 'VAT', 'V', 'Value', 20);
             INSERT INTO Bank (BankID, BankName, CurrencyID) VALUES (7, 'First Bank', 3);
@@ -53,7 +52,7 @@ TEST_P(Lists, RefuseToDeleteWhatIsReferredTo)
     kitchen.execute(u"INSERT INTO Tax (TaxID, TaxName) VALUES (8, 'GST')"_s);
     int row = 100;
     for (const auto &[kind, key, fields, reason] : referrals) {
-        kitchen.execute(u"INSERT INTO %1 VALUES (%2, %3)"_s.arg(fields).arg(++row).arg(key));
+        kitchen.execute(u"INSERT INTO %1 VALUES (%2, %3)"_s, fields, ++row, key);
         MasterList list(database, kind);
         list.open();
         ASSERT_TRUE(list.moveTo(key));
@@ -88,18 +87,17 @@ TEST_P(Lists, DeleteAfterAskingWithAllThatBelongsToTheRecord)
         ASSERT_TRUE(list.moveTo(key)) << name.toStdString();
         prompts.ok = false;
         EXPECT_EQ(refusalOf([&] { list.remove(prompts); }), u"silent -> ");
-        EXPECT_EQ(prompts.take(), QStringList(u"Confirm: Delete '%1'?"_s.arg(name)));
+        EXPECT_EQ(prompts.told(), u"Confirm: Delete '%1'?"_s.arg(name));
         EXPECT_EQ(list.currentKey(), key);
         prompts.ok = true;
         list.remove(prompts);
         EXPECT_FALSE(list.moveTo(key));
         prompts.said.clear();
     }
-    EXPECT_EQ(kitchen.rows(u"SELECT ContactID FROM VContact"_s), QStringList());
-    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, WarehouseID FROM IBalance"_s), QStringList{u"1|2"_s});
-    EXPECT_EQ(kitchen.rows(u"SELECT VendorID FROM VBalance"_s), QStringList{u"2"_s});
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt"_s), 1);
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IUsageDet"_s), 1);
+    EXPECT_EQ(kitchen.found(u"SELECT ContactID FROM VContact"_s), QString());
+    EXPECT_EQ(kitchen.balances(), u"1|2|9");
+    EXPECT_EQ(kitchen.found(u"SELECT VBalance.VendorID, ReceiptID, UsageID FROM VBalance, IReceipt, IUsageDet"_s),
+              u"2|1|1");
 
     MasterList empty(database, MasterKinds::bank());
     empty.open();

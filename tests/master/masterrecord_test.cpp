@@ -1,10 +1,10 @@
 #include "master/masterrecord.h"
 
-#include "host/tables/hosttables.h"
 #include "master/masterkinds.h"
 #include "master/masterlist.h"
 #include "master/recordnumber.h"
 #include "tests/support/kitchen.h"
+#include "tests/support/theirtable.h"
 
 #include <QFile>
 
@@ -34,7 +34,7 @@ QList<std::pair<QString, Value>> needs(const MasterKind &kind)
 class Records : public KitchenTest
 {
 protected:
-    Records() { HostTables::createHostTables(database, u"Test Kitchen"_s, u"USA"_s); }
+    Records() { kitchen.makeHost(); }
 
     // A new record that lacks nothing.
     static void fill(MasterRecord &record)
@@ -155,7 +155,7 @@ TEST_P(Records, UseNumbersUp)
     for (const auto &[before, taken, after] : cases) {
         kitchen.execute(u"DELETE FROM ItemCtl"_s);
         if (!before.isEmpty())
-            kitchen.execute(u"INSERT INTO ItemCtl (NextItemNo, NextItemID) VALUES (%1)"_s.arg(before));
+            kitchen.execute(u"INSERT INTO ItemCtl (NextItemNo, NextItemID) VALUES (%1)"_s, before);
         item.newRecord();
         EXPECT_EQ(u"%1|%2"_s.arg(item.table().text(u"ItemNo")).arg(item.key()), taken);
         item.cancel();
@@ -187,10 +187,7 @@ TEST_P(Records, AreNotBegunWhereTheStoreIsLost)
 
 TEST_P(Records, DoWithoutCountersUntilTheyAreSaved)
 {
-    const auto anna = kitchen.anotherUser();
-    Engine::Table held(anna->database, u"ItemCtl"_s);
-    held.exclusive = true;
-    held.open();
+    TheirTable held(kitchen, u"ItemCtl"_s);
     int pauses = 0;
     kitchen.session().waitFor = [&](std::chrono::milliseconds) { ++pauses; };
 
@@ -207,7 +204,7 @@ TEST_P(Records, DoWithoutCountersUntilTheyAreSaved)
     EXPECT_EQ(item.table().text(u"ItemDescription"), u"Flour") << "nothing typed is lost";
     held.close();
     item.save();
-    EXPECT_EQ(kitchen.rows(u"SELECT ItemID, ItemNo FROM Item WHERE ItemNo = '77'"_s), QStringList{u"10000|77"_s});
+    EXPECT_EQ(kitchen.found(u"SELECT ItemID, ItemNo FROM Item WHERE ItemNo = '77'"_s), u"10000|77");
 
     kitchen.execute(u"UPDATE Company SET DefaultCurrencyID = 3"_s);
     MasterRecord vendor(database, MasterKinds::vendor());

@@ -5,8 +5,6 @@
 #include "master/screens/masterscreens.h"
 #include "tests/support/screentest.h"
 
-#include <QLabel>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
@@ -15,47 +13,42 @@ namespace {
 const QString strangeName = u"O'N \"5%\" [*] 🍮"_s;
 const QString strangeTitle = u"O'N \"5%\" [*][*] 🍮"_s; // no mark of changes
 
-// A list whose records are entered on one page and consist of a name and little else.
-struct Plain
-{
-    const MasterKind &kind;
-    QString nameBox;
-    std::vector<std::pair<const char *, const char *>> entries; // what else is typed, and where
-    QStringList shown; // the row that comes of it, after its name
-    QString stored; // statement, and what follows the name
+// A list whose records are entered on one page and consist of a name and little else: the box of the name, what else is
+// typed and where, the row that comes of it after its name, and what is stored of it behind a key.
+using Plain = std::tuple<const MasterKind &, QString, std::vector<std::pair<const char *, const char *>>,
+                         QStringList, QString, QString>;
+const Plain plainLists[] = {
+    {MasterKinds::tax(),
+     u"editTaxName"_s,
+     {{"editRate", "7.5"}, {"editTaxCode", "7PX"}, {"editTaxDescription", "PST"}},
+     {u"7.5"_s, u"P"_s, u"PST"_s},
+     u"SELECT TaxName, TaxID, Rate, TaxCode, TaxDescription FROM Tax"_s,
+     u"|1|7.5|P|PST"_s},
+    {MasterKinds::currency(),
+     u"editCurrencyName"_s,
+     {{"editExchangeRate", "0.8125"}},
+     {u"0.8125"_s},
+     u"SELECT CurrencyName, CurrencyID, ExchangeRate FROM Currency"_s,
+     u"|4|0.8125"_s},
+    {MasterKinds::bank(),
+     u"editBankName"_s,
+     {{"cboCurrency", "fa"}},
+     {u"Far"_s},
+     u"SELECT BankName, BankID, CurrencyID FROM Bank"_s,
+     u"|2|2"_s},
+    {MasterKinds::itemType(),
+     u"editTypeName"_s,
+     {{"chkInventory", " "}, {"radioStandard", " "}},
+     {},
+     u"SELECT TypeName, ItemTypeID, Inventory, CostingMethod FROM ItemType"_s,
+     u"|7|true|2"_s},
+    {MasterKinds::location(),
+     u"editWarehouseName"_s,
+     {},
+     {},
+     u"SELECT WarehouseName, WarehouseID FROM Warehse"_s,
+     u"|3"_s},
 };
-
-const std::vector<Plain> &plainLists()
-{
-    static const std::vector<Plain> lists = {
-        {MasterKinds::tax(),
-         u"editTaxName"_s,
-         {{"editRate", "7.5"}, {"editTaxCode", "7PX"}, {"editTaxDescription", "PST"}},
-         {u"7.5"_s, u"P"_s, u"PST"_s},
-         u"SELECT TaxName, TaxID, Rate, TaxCode, TaxDescription FROM Tax -> |1|7.5|P|PST"_s},
-        {MasterKinds::currency(),
-         u"editCurrencyName"_s,
-         {{"editExchangeRate", "0.8125"}},
-         {u"0.8125"_s},
-         u"SELECT CurrencyName, CurrencyID, ExchangeRate FROM Currency -> |4|0.8125"_s},
-        {MasterKinds::bank(),
-         u"editBankName"_s,
-         {{"cboCurrency", "fa"}},
-         {u"Far"_s},
-         u"SELECT BankName, BankID, CurrencyID FROM Bank -> |2|2"_s},
-        {MasterKinds::itemType(),
-         u"editTypeName"_s,
-         {{"chkInventory", " "}, {"radioStandard", " "}},
-         {},
-         u"SELECT TypeName, ItemTypeID, Inventory, CostingMethod FROM ItemType -> |7|true|2"_s},
-        {MasterKinds::location(),
-         u"editWarehouseName"_s,
-         {},
-         {},
-         u"SELECT WarehouseName, WarehouseID FROM Warehse -> |3"_s},
-    };
-    return lists;
-}
 
 class MasterScreens : public ScreenTest
 {
@@ -90,13 +83,7 @@ protected:
         press(Qt::Key_Return);
         takeRecord(kind);
     }
-    QStringList currentRow()
-    {
-        QStringList cells;
-        for (int column = 0; column < grid->model()->columnCount(); ++column)
-            cells << grid->currentIndex().siblingAtColumn(column).data().toString();
-        return cells;
-    }
+    QStringList currentRow() { return rowOf(*grid, grid->currentIndex().row()); }
 
     QPointer<MasterListScreen> list;
     QPointer<MasterRecordScreen> record;
@@ -107,41 +94,39 @@ protected:
 
 TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
 {
-    for (const Plain &plain : plainLists()) {
-        SCOPED_TRACE(plain.kind.name.toStdString());
-        openList(plain.kind);
+    for (const auto &[kind, nameBox, entries, shown, statement, stored] : plainLists) {
+        SCOPED_TRACE(qPrintable(kind.name));
+        openList(kind);
         const int rowsBefore = grid->model()->rowCount();
 
         // a new record, by the keyboard
-        pressButton(Qt::Key_N, [&] { return findScreen(plain.kind.record.screen) != nullptr; });
-        takeRecord(plain.kind);
+        pressButton(Qt::Key_N, [&, screen = kind.record.screen] { return findScreen(screen) != nullptr; });
+        takeRecord(kind);
         pressButton(Qt::Key_O, [this] { return !prompts.said.isEmpty(); });
         EXPECT_EQ(prompts.take().size(), 1) << "it has no name";
         EXPECT_TRUE(record->isVisible());
-        EXPECT_EQ(focusName(), plain.nameBox);
+        EXPECT_EQ(focusName(), nameBox);
         type(strangeName);
         EXPECT_EQ(record->windowTitle(), strangeTitle) << "while it is typed";
         press(Qt::Key_Return);
-        for (const auto &[field, text] : plain.entries) {
-            child<QWidget>(*record, field)->setFocus();
-            type(text);
+        for (const auto &[field, text] : entries) {
+            typeIn(*record, field, text);
             press(Qt::Key_Return); // as Tab
         }
         pressButton(Qt::Key_O, [this] { return !record; });
-        EXPECT_EQ(prompts.take(), QStringList());
+        EXPECT_EQ(prompts.told(), QString());
         EXPECT_EQ(grid->model()->rowCount(), rowsBefore + 1);
-        EXPECT_EQ(currentRow(), QStringList(strangeName) + plain.shown) << "the list stands on it";
-        const QStringList stored = plain.stored.split(u" -> "_s);
-        EXPECT_TRUE(kitchen.rows(stored.first()).contains(strangeName + stored.last()));
+        EXPECT_EQ(currentRow(), QStringList(strangeName) + shown) << "the list stands on it";
+        EXPECT_TRUE(kitchen.rows(statement).contains(strangeName + stored));
 
         // opened again and left untouched, then changed
-        openAgain(plain.kind);
+        openAgain(kind);
         EXPECT_EQ(record->windowTitle(), strangeTitle);
         press(Qt::Key_Escape);
         settle();
         EXPECT_FALSE(record);
-        EXPECT_EQ(prompts.take(), QStringList());
-        openAgain(plain.kind);
+        EXPECT_EQ(prompts.told(), QString());
+        openAgain(kind);
         type("Zz<Esc>");
         EXPECT_EQ(record->windowTitle(), strangeTitle) << "taken back";
         type("Zz");
@@ -149,22 +134,22 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
             prompts.answer = answer;
             record->close();
             settle();
-            EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s));
+            EXPECT_EQ(prompts.told(), u"Do you want to save changes?");
         };
         closeWith(Answer::Cancel);
         EXPECT_TRUE(record->isVisible());
         closeWith(Answer::No);
-        EXPECT_EQ(currentRow(), QStringList(strangeName) + plain.shown);
-        openAgain(plain.kind);
+        EXPECT_EQ(currentRow(), QStringList(strangeName) + shown);
+        openAgain(kind);
         type("Zz");
         closeWith(Answer::Yes);
-        EXPECT_EQ(currentRow(), QStringList(u"Zz"_s) + plain.shown);
+        EXPECT_EQ(currentRow(), QStringList(u"Zz"_s) + shown);
 
         // deleted, with its screen
-        openAgain(plain.kind);
+        openAgain(kind);
         showActive(*list);
         pressButton(Qt::Key_D, [this] { return !prompts.said.isEmpty(); });
-        EXPECT_EQ(prompts.take(), QStringList(u"Confirm: Delete 'Zz'?"_s));
+        EXPECT_EQ(prompts.told(), u"Confirm: Delete 'Zz'?");
         EXPECT_EQ(grid->model()->rowCount(), rowsBefore);
         settle();
         EXPECT_FALSE(record);
@@ -186,7 +171,7 @@ TEST_F(MasterScreens, ChooseACostingMethodForStockedTypesAndKeepThoseOfTheSystem
         inventory->click();
     }
     click(*list, "btnDelete");
-    EXPECT_EQ(prompts.take(), QStringList{u"warn: System-defined Item Types can't be deleted!"_s});
+    EXPECT_EQ(prompts.told(), u"warn: System-defined Item Types can't be deleted!");
     EXPECT_TRUE(list->moveToKey(6));
 }
 
@@ -211,7 +196,7 @@ TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
     EXPECT_TRUE(notice->isVisible());
     EXPECT_TRUE(notice->text().startsWith("In use by anna on "_L1) && notice->text().contains(", since "_L1))
         << notice->text().toStdString();
-    EXPECT_EQ(prompts.take(), QStringList());
+    EXPECT_EQ(prompts.told(), QString());
     const auto *edit = qobject_cast<QLineEdit *>(QApplication::focusWidget());
     ASSERT_TRUE(edit && edit->isReadOnly());
     type("M");
@@ -223,7 +208,7 @@ TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
     showActive(*list);
     showActive(*record);
     EXPECT_FALSE(notice->isVisible());
-    EXPECT_EQ(prompts.take(), QStringList());
+    EXPECT_EQ(prompts.told(), QString());
 }
 
 // Whatever somebody else does to a record that is shown, the user is told and nothing of it is lost.
@@ -252,15 +237,14 @@ TEST_F(MasterScreens, TellOfOtherUsers)
     type("Mine");
     click(*record, "btnOK");
     settle();
-    EXPECT_EQ(kitchen.rows(u"SELECT CurrencyName, ExchangeRate FROM Currency WHERE CurrencyID = 2"_s),
-              QStringList{u"Mine|0.5"_s})
+    EXPECT_EQ(kitchen.found(u"SELECT CurrencyName, ExchangeRate FROM Currency WHERE CurrencyID = 2"_s), u"Mine|0.5")
         << "both changes are kept";
 
     openAgain(MasterKinds::currency());
     kitchen.execute(u"DELETE FROM Currency"_s);
     const QString gone = u"error: '%1' was deleted by another user."_s;
     type("M");
-    EXPECT_EQ(prompts.take(), QStringList(gone.arg(u"Mine")));
+    EXPECT_EQ(prompts.told(), gone.arg(u"Mine"));
     EXPECT_EQ(child<QLineEdit>(*record, "editCurrencyName")->text(), u"Mine");
     record->close();
     settle();

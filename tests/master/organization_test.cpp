@@ -1,30 +1,23 @@
 #include "master/organization.h"
 
 #include "data/fiscalperiod.h"
-#include "host/tables/hosttables.h"
 #include "master/masterkinds.h"
 #include "master/yearend.h"
 #include "tests/support/kitchen.h"
-
-#include <QDate>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-const QString ranges = u"SELECT FiscalYear, DefaultPeriodPP, DefaultPeriodYYYY, WPeriodFromPP, WPeriodFromYYYY, "
-                       "WPeriodToPP, WPeriodToYYYY, EPeriodFromPP, EPeriodFromYYYY, EPeriodToPP, EPeriodToYYYY "
-                       "FROM Company"_s;
-
 class Organization : public KitchenTest
 {
 protected:
     Organization()
     {
-        HostTables::createHostTables(kitchen.database(), u"Riverside Meals"_s, u"USA"_s);
+        kitchen.makeHost();
         kitchen.execute(u"UPDATE Config SET Org_Addr = '12 Mill Lane', Org_City = 'Troy'; "
-                        "UPDATE Company SET CompanyName = 'Riverside Meals'"_s);
+                        "UPDATE Company SET CompanyName = 'Test Kitchen'"_s);
         record.open();
     }
 
@@ -90,9 +83,10 @@ TEST_P(Organization, TheFirstRecordIsBegunOnceWithItsDefaults)
     EXPECT_FALSE(company.isModified()) << "nobody has touched it";
     EXPECT_EQ(company.integer(u"FiscalYear"), 2031);
     record.save();
-    EXPECT_EQ(kitchen.rows(u"SELECT CompanyNo, CompanyName, AddressLine1, ARInvoiceStyle, ARInvoiceCopies, "
-                           "ApplicationVersion FROM Company WHERE ARInvoiceAustralia = false"_s),
-              QStringList{u"1|Riverside Meals|12 Mill Lane|0|1|2.55"_s});
+    EXPECT_EQ(
+        kitchen.found(
+            u"SELECT CompanyNo, CompanyName, AddressLine1, ARInvoiceStyle, ARInvoiceCopies, ApplicationVersion FROM Company WHERE ARInvoiceAustralia = false"_s),
+        u"1|Test Kitchen|12 Mill Lane|0|1|2.55");
 }
 
 TEST_P(Organization, TheYearEndMovesEverythingToTheFirstPeriodOfTheNextYear)
@@ -110,10 +104,9 @@ TEST_P(Organization, TheYearEndMovesEverythingToTheFirstPeriodOfTheNextYear)
     EXPECT_EQ(refusalOf([&] { yearEnd.run([] { return true; }, prompts); }), u"silent -> "_s);
     EXPECT_FALSE(company.isEditing());
     EXPECT_EQ(
-        prompts.take(),
-        QStringList{u"Confirm: Year End: Permanently close 2026?\n\nGL balances have been carried forward, etc. "
-                    "so you can now print financial statements for 2027.  You can leave 2026 open if there will "
-                    "be more transactions."_s});
+        prompts.told(),
+        u"Confirm: Year End: Permanently close 2026?\n\nGL balances have been carried forward, etc. so you can now "
+        u"print financial statements for 2027.  You can leave 2026 open if there will be more transactions.");
 
     prompts.ok = true;
     yearEnd.run([] { return true; }, prompts);
@@ -121,5 +114,9 @@ TEST_P(Organization, TheYearEndMovesEverythingToTheFirstPeriodOfTheNextYear)
     EXPECT_FALSE(YearEnd::isUnderWay());
     EXPECT_EQ(kitchen.number(u"SELECT FiscalYear FROM Company"_s), 2026) << "saving is the user's";
     record.save();
-    EXPECT_EQ(kitchen.rows(ranges), QStringList{u"2027|0|2027|1|2027|1|2027|1|2027|1|2027"_s});
+    EXPECT_EQ(
+        kitchen.found(u"SELECT FiscalYear, DefaultPeriodPP, DefaultPeriodYYYY, WPeriodFromPP, WPeriodFromYYYY, "
+                      "WPeriodToPP, WPeriodToYYYY, EPeriodFromPP, EPeriodFromYYYY, EPeriodToPP, EPeriodToYYYY "
+                      "FROM Company"_s),
+        u"2027|0|2027|1|2027|1|2027|1|2027|1|2027");
 }

@@ -1,15 +1,13 @@
-#include "base/ruleerror.h"
 #include "printing/reportoutput.h"
 #include "printing/reportrun.h"
 #include "tests/support/failures.h"
+#include "tests/support/maderows.h"
 #include "tests/support/smallfiles.h"
 #include "tests/support/spokenprompts.h"
 
-#include <gtest/gtest.h>
 #include <map>
 #include <numeric>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -17,34 +15,6 @@ using namespace Tallymere;
 using namespace Tallymere::Printing;
 
 namespace {
-
-class Rows final : public RowReader
-{
-public:
-    Rows(QStringList fields, std::vector<ReportRow> rows)
-        : m_fields(std::move(fields))
-        , m_rows(std::move(rows))
-    {
-    }
-
-    const QStringList &fields() const override { return m_fields; }
-    bool next(ReportRow &row) override
-    {
-        if (m_next == m_rows.size() && failsAtEnd)
-            throw RuleError(u"The store is gone"_s);
-        if (m_next == m_rows.size())
-            return false;
-        row = m_rows[m_next++];
-        return true;
-    }
-
-    bool failsAtEnd = false;
-
-private:
-    QStringList m_fields;
-    std::vector<ReportRow> m_rows;
-    size_t m_next = 0;
-};
 
 class Pages : public testing::Test
 {
@@ -63,10 +33,22 @@ protected:
         rows.push_back({RowKind::Detail, {Engine::Value(group), Engine::Value(name), Engine::Value(value)}});
     }
 
+    // Of the rows so far, and behind them of none, or of a failure.
+    Report report(const QStringList &more = {}, bool failsAtEnd = false) const
+    {
+        const auto next = [rest = rows, at = size_t(0), failsAtEnd](ReportRow &row) mutable {
+            if (at < rest.size())
+                row = rest[at];
+            else if (failsAtEnd)
+                throw RuleError(u"The store is gone"_s);
+            return at++ < rest.size();
+        };
+        return {layout, std::make_unique<MadeRows>(QStringList{u"Group"_s, u"Name"_s, u"Value"_s} + more, next)};
+    }
+
     void make()
     {
-        ReportRun run({layout, std::make_unique<Rows>(QStringList{u"Group"_s, u"Name"_s, u"Value"_s}, rows)},
-                      QPageSize::Letter, {u"Kitchen"_s, u"Printed at noon"_s});
+        ReportRun run(report(), QPageSize::Letter, {u"Kitchen"_s, u"Printed at noon"_s});
         run.makePages();
         for (int i = 0; i < run.pageCount(); ++i)
             pages.append(run.page(i));
@@ -171,9 +153,7 @@ TEST_F(Pages, PartGroupsOfMoreThanFiveRowsOnlyAndTotalThoseOfMoreThanOne)
             sizeOf[outer] += sizes[i % 11];
             addRows(outer, inner, sizes[i % 11]);
         }
-        ReportRun run(
-            {layout, std::make_unique<Rows>(QStringList{u"Group"_s, u"Name"_s, u"Value"_s, u"Row"_s}, rows)},
-            QPageSize::Letter, {});
+        ReportRun run(report({u"Row"_s}), QPageSize::Letter, {});
         run.makePages();
         QMap<QString, QList<int>> pagesOf; // of the lines that name a group: heading, rows, total
         int lines = 0;
@@ -284,8 +264,7 @@ TEST_F(Pages, ThatAFullDiskDoesNotTakeSaySo)
 {
     for (int i = 0; i < 200; ++i)
         add(u"A"_s, u"Name"_s, i);
-    ReportRun run({layout, std::make_unique<Rows>(QStringList{u"Group"_s, u"Name"_s, u"Value"_s}, rows)},
-                  QPageSize::Letter, {});
+    ReportRun run(report(), QPageSize::Letter, {});
     const SmallFiles full(5000);
     EXPECT_EQ(refusalOf([&] { run.makePages(); }),
               u"The pages of the report cannot be kept in '%1'...\nFile too large -> "_s.arg(QDir::tempPath()));
@@ -294,9 +273,7 @@ TEST_F(Pages, ThatAFullDiskDoesNotTakeSaySo)
 TEST_F(Pages, OfAReportThatFailedAreNotGivenAwayAsIfTheyWereAll)
 {
     for (const int rowsBefore : {0, 200}) {
-        auto reader = std::make_unique<Rows>(QStringList{u"Group"_s, u"Name"_s, u"Value"_s}, rows);
-        reader->failsAtEnd = true;
-        ReportRun run({layout, std::move(reader)}, QPageSize::Letter, {});
+        ReportRun run(report({}, true), QPageSize::Letter, {});
         EXPECT_THROW(run.makePages(), RuleError);
         EXPECT_TRUE(run.hasEnded());
         EXPECT_EQ(run.pageCount() > 0, rowsBefore > 0);

@@ -1,4 +1,5 @@
 #include "printing/pagesearch.h"
+#include "tests/support/maderows.h"
 
 #include <gtest/gtest.h>
 
@@ -12,32 +13,17 @@ namespace {
 constexpr int rowCount = 600;
 
 // Three rows a page or so hold the text, one of them twice; the first pages and the last ones hold none.
-class Rows final : public RowReader
-{
-public:
-    const QStringList &fields() const override { return m_fields; }
-    bool next(ReportRow &row) override
-    {
-        if (m_next == rowCount)
-            return false;
-        const int number = m_next++;
-        QString text = u"Row %1"_s.arg(number);
-        if (number > 130 && number < 480 && number % 17 == 0)
-            text += number % 2 == 0 ? u" Salt, salt"_s : u" SALT"_s;
-        row.values = {Engine::Value(text)};
-        return true;
-    }
-
-private:
-    QStringList m_fields{u"Text"_s};
-    int m_next = 0;
-};
-
 std::unique_ptr<ReportRun> newRun()
 {
+    auto rows = std::make_unique<MadeRows>(QStringList{u"Text"_s}, [number = 0](ReportRow &row) mutable {
+        const bool holds = number > 130 && number < 480 && number % 17 == 0;
+        row.values = {Engine::Value(u"Row %1%2"_s.arg(number).arg(!holds                ? u""_s
+                                                                      : number % 2 == 0 ? u" Salt, salt"_s
+                                                                                        : u" SALT"_s))};
+        return number++ < rowCount;
+    });
     ReportLayout layout{.title = u"Rows"_s, .columns = {{.field = u"Text"_s, .title = u"Text"_s}}};
-    return std::make_unique<ReportRun>(Report{std::move(layout), std::make_unique<Rows>()}, QPageSize::Letter,
-                                       PageTexts{});
+    return std::make_unique<ReportRun>(Report{std::move(layout), std::move(rows)}, QPageSize::Letter, PageTexts{});
 }
 
 QList<Hit> placesOf(const ReportRun &run, const QString &text)

@@ -5,9 +5,10 @@
 #include "tests/cli/clirunner.h"
 #include "tests/printing/printsystem.h"
 #include "tests/support/failures.h"
+#include "tests/support/files.h"
+#include "tests/support/maderows.h"
 #include "tests/support/spokenprompts.h"
 
-#include <optional>
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
@@ -20,28 +21,18 @@ using namespace Tallymere::Printing;
 
 namespace {
 
-class Rows : public RowReader
+bool makeRow(ReportRow &row, int number)
 {
-public:
-    const QStringList &fields() const override { return m_fields; }
-    bool next(ReportRow &row) override
-    {
-        if (m_row == 120)
-            return false;
-        ++m_row;
-        row = {RowKind::Detail,
-               {Engine::Value(u"Group%1"_s.arg(m_row / 40)), Engine::Value(u"K%1"_s.arg(m_row)),
-                Engine::Value(u"Crème brûlée, %1 dl"_s.arg(m_row * 7)), Engine::Value(m_row * 1.5)}};
-        return true;
-    }
-
-private:
-    QStringList m_fields{u"Group"_s, u"Key"_s, u"Text"_s, u"Number"_s};
-    int m_row = 0;
-};
+    row = {RowKind::Detail,
+           {Engine::Value(u"Group%1"_s.arg(number / 40)), Engine::Value(u"K%1"_s.arg(number)),
+            Engine::Value(u"Crème brûlée, %1 dl"_s.arg(number * 7)), Engine::Value(number * 1.5)}};
+    return number <= 120;
+}
 
 std::unique_ptr<ReportRun> makeRun(bool landscape, QPageSize::PageSizeId size)
 {
+    auto rows = std::make_unique<MadeRows>(QStringList{u"Group"_s, u"Key"_s, u"Text"_s, u"Number"_s},
+                                           [number = 0](ReportRow &row) mutable { return makeRow(row, ++number); });
     ReportLayout layout{
         .title = u"Desserts"_s,
         .landscape = landscape,
@@ -52,7 +43,7 @@ std::unique_ptr<ReportRun> makeRun(bool landscape, QPageSize::PageSizeId size)
         .totals = {{u"Number"_s, TotalOf::Quantities}},
         .reportTotalText = u"Total"_s,
     };
-    auto run = std::make_unique<ReportRun>(Report{std::move(layout), std::make_unique<Rows>()}, size,
+    auto run = std::make_unique<ReportRun>(Report{std::move(layout), std::move(rows)}, size,
                                            PageTexts{u"Harvest Table"_s, u"Printed at noon"_s});
     run->makePages();
     return run;
@@ -181,59 +172,44 @@ protected:
 
 TEST_F(PrintTest, WhatThePreviewShowsArrivesAtThePrinter)
 {
-    struct Case
-    {
-        const char *what;
-        bool landscape;
-        QPageSize::PageSizeId size;
-        std::function<void(QPrinter &)> choose;
-        QList<int> pages;
-        std::optional<QPageSize::PageSizeId> sheet = {}; // else that of the report
+    using Choice = std::function<void(QPrinter &)>;
+    const Choice asItIs = [](QPrinter &) {};
+    const Choice letter = [](QPrinter &printer) { printer.setPageSize(QPageSize(QPageSize::Letter)); };
+    const Choice backwards = [](QPrinter &printer) { printer.setPageOrder(QPrinter::LastPageFirst); };
+    const Choice copies = [](QPrinter &printer) {
+        printer.setPrintRange(QPrinter::PageRange);
+        printer.setFromTo(2, 3);
+        printer.setCopyCount(2);
     };
-    const Case cases[] = {
-        {"a whole report", false, QPageSize::Letter, [](QPrinter &) {}, {1, 2, 3}},
-        {"another paper than the printer's", false, QPageSize::A4, [](QPrinter &) {}, {1, 2, 3}},
-        {"another sheet than the report is made for",
-         false,
-         QPageSize::A4,
-         [](QPrinter &printer) { printer.setPageSize(QPageSize(QPageSize::Letter)); },
-         {1, 2, 3},
-         QPageSize::Letter},
-        {"across", true, QPageSize::Letter, [](QPrinter &) {}, {1, 2, 3, 4}},
-        {"copies of some pages",
-         false,
-         QPageSize::Letter,
-         [](QPrinter &printer) {
-             printer.setPrintRange(QPrinter::PageRange);
-             printer.setFromTo(2, 3);
-             printer.setCopyCount(2);
-         },
-         {2, 3, 2, 3}},
-        {"the last page first",
-         false,
-         QPageSize::Letter,
-         [](QPrinter &printer) { printer.setPageOrder(QPrinter::LastPageFirst); },
-         {3, 2, 1}},
+    // Across or not, the paper of the report, what is chosen, the pages, and the sheet where it is another.
+    using Sheet = std::optional<QPageSize::PageSizeId>;
+    const std::tuple<const char *, bool, QPageSize::PageSizeId, Choice, QList<int>, Sheet> cases[] = {
+        {"a whole report", false, QPageSize::Letter, asItIs, {1, 2, 3}, {}},
+        {"another paper than the printer's", false, QPageSize::A4, asItIs, {1, 2, 3}, {}},
+        {"another sheet than the report's", false, QPageSize::A4, letter, {1, 2, 3}, QPageSize::Letter},
+        {"across", true, QPageSize::Letter, asItIs, {1, 2, 3, 4}, {}},
+        {"copies of some pages", false, QPageSize::Letter, copies, {2, 3, 2, 3}, {}},
+        {"the last page first", false, QPageSize::Letter, backwards, {3, 2, 1}, {}},
     };
-    for (const Case &example : cases) {
-        SCOPED_TRACE(example.what);
-        const auto run = makeRun(example.landscape, example.size);
+    for (const auto &[what, landscape, size, choose, pages, sheet] : cases) {
+        SCOPED_TRACE(what);
+        const auto run = makeRun(landscape, size);
         QPrinter printer(QPrinter::HighResolution); // the default one
         preparePrinter(*run, printer);
-        example.choose(printer);
+        choose(printer);
         CountedProgress progress;
         printReport(*run, printer, progress);
 
         const QString file = system.printed();
         const QList<QStringList> words = wordsOfPages(file);
         const QList<QImage> pictures = picturesOf(file);
-        ASSERT_EQ(words.size(), example.pages.size());
-        ASSERT_EQ(pictures.size(), example.pages.size());
+        ASSERT_EQ(words.size(), pages.size());
+        ASSERT_EQ(pictures.size(), pages.size());
         for (qsizetype i = 0; i < words.size(); ++i) {
-            SCOPED_TRACE(example.pages[i]);
-            EXPECT_EQ(words[i], wordsOf(*run, example.pages[i]));
-            const QImage page = pictureOf(*run, example.pages[i]);
-            expectSamePicture(example.sheet ? onSheet(page, *example.sheet) : page, pictures[i]);
+            SCOPED_TRACE(pages[i]);
+            EXPECT_EQ(words[i], wordsOf(*run, pages[i]));
+            const QImage page = pictureOf(*run, pages[i]);
+            expectSamePicture(sheet ? onSheet(page, *sheet) : page, pictures[i]);
         }
     }
 }
@@ -267,17 +243,10 @@ TEST_F(PrintTest, NothingArrivesOfWhatIsGivenUp)
 {
     class GivenUp final : public Tallymere::Progress
     {
-    public:
-        void start(int) override { }
-        void step() override
-        {
-            if (++m_steps == 2)
-                throw Tallymere::SilentAbort();
-        }
-        void finish() override { }
-
-    private:
         int m_steps = 0;
+        void start(int) override { }
+        void step() override { ++m_steps == 2 ? throw Tallymere::SilentAbort() : void(); }
+        void finish() override { }
     };
     const auto run = makeRun(false, QPageSize::Letter);
     QPrinter printer(QPrinter::HighResolution);
@@ -287,14 +256,12 @@ TEST_F(PrintTest, NothingArrivesOfWhatIsGivenUp)
 
     const QTemporaryDir folder;
     const QString file = folder.filePath(u"report.pdf"_s);
-    Tallymere::saveFile(file, [](QIODevice &device) { device.write("old"); });
+    putContent(file, "old");
     QPrinter toFile(QPrinter::HighResolution);
     toFile.setOutputFileName(file);
     GivenUp again;
     EXPECT_EQ(refusalOf([&] { printReport(*run, toFile, again); }), u"silent -> "_s);
-    QFile kept(file);
-    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
-    EXPECT_EQ(kept.readAll(), "old");
+    EXPECT_EQ(contentOf(file), "old");
 }
 
 TEST_F(PrintTest, TheProgramTakesThePaperOfThePrinterUnlessAnotherIsNamed)
@@ -302,8 +269,10 @@ TEST_F(PrintTest, TheProgramTakesThePaperOfThePrinterUnlessAnotherIsNamed)
     CliRunner cli(Store::Local);
     ASSERT_EQ(cli.run({u"init"_s}).status, 0);
     const auto paperOf = [](const QString &file) {
-        const QString words = QString::fromUtf8(outputOf(u"pdfinfo"_s, {file}));
-        return words.section(u"Page size:"_s, 1).section(u"\n"_s, 0, 0).simplified();
+        return QString::fromUtf8(outputOf(u"pdfinfo"_s, {file}))
+            .section(u"Page size:"_s, 1)
+            .section(u"\n"_s, 0, 0)
+            .simplified();
     };
     const QString a4 = u"595 x 842 pts (A4)"_s, letter = u"612 x 792 pts (letter)"_s;
     const QStringList report{u"Value by Item"_s};

@@ -5,12 +5,11 @@
 #include "reports/makereport.h"
 #include "reports/screens/blankinventoryreportselection.h"
 #include "reports/screens/preview.h"
+#include "tests/support/files.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
 
-#include <algorithm>
-#include <QBuffer>
 #include <QImage>
 #include <QPainter>
 #include <QProcess>
@@ -39,11 +38,10 @@ protected:
     QStringList csv(const BlankFormChoices &choices)
     {
         const Printing::Report form = makeReport(*data, blankForm(choices), {.warehouseId = 1});
-        QBuffer written;
-        written.open(QIODevice::WriteOnly);
         CountedProgress progress;
-        Printing::writeReportCsv(form.layout, *form.rows, written, progress);
-        return QString::fromUtf8(written.data()).split(u"\r\n"_s, Qt::SkipEmptyParts);
+        const QByteArray csv =
+            writtenBy([&](QIODevice &file) { Printing::writeReportCsv(form.layout, *form.rows, file, progress); });
+        return QString::fromUtf8(csv).split(u"\r\n"_s, Qt::SkipEmptyParts);
     }
 
     // As it leaves a printer of 300 dots to the inch.
@@ -119,8 +117,7 @@ TEST_F(BlankFormTest, ScannersReadItsBarcodesIntoTheCount)
     makeForm();
     QStringList numbers{u"12345678901234567890"_s, u"ABCDEFGHIJKLMNOPQRST"_s, u"ab 1-2/x.Z~z"_s};
     for (int i = 0; i < numbers.size(); ++i)
-        kitchen.execute(
-            u"UPDATE Item SET ItemNo = '%1' WHERE ItemID = %2"_s.arg(numbers[i]).arg(QList{1, 2, 4}[i]));
+        kitchen.execute(u"UPDATE Item SET ItemNo = '%1' WHERE ItemID = %2"_s, numbers[i], QList{1, 2, 4}[i]);
     kitchen.execute(u"UPDATE Item SET ItemNo = 'Ж 7' WHERE ItemID = 3"_s); // no scanner would give it back
     kitchen.setStock(3, 1, 1, 1);
     const auto run = makeForm();
@@ -152,8 +149,7 @@ TEST_F(BlankFormTest, IsPreviewedAsChosenLast)
     QPointer dialog = openDialog();
     context->printerDefined = [] { return false; };
     press(Qt::Key_Return);
-    EXPECT_TRUE(prompts.last().startsWith(u"error: You do not have a default printer defined."_s))
-        << qPrintable(prompts.last());
+    EXPECT_TRUE(begins(prompts.last(), u"error: You do not have a default printer defined."_s));
     context->printerDefined = [] { return true; };
     press(Qt::Key_Return);
     EXPECT_EQ(prompts.last(), u"error: Choose the location that is counted."_s);

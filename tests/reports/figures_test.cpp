@@ -1,16 +1,13 @@
-#include "base/csvreader.h"
 #include "data/layouts.h"
 #include "data/transtypes.h"
 #include "printing/reportcsv.h"
-#include "printing/reportrun.h"
 #include "reports/reportlist.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/chance.h"
+#include "tests/support/files.h"
 #include "tests/support/spokenprompts.h"
 
 #include <map>
-#include <QBuffer>
-#include <random>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -87,10 +84,7 @@ public:
     int below(int bound) { return static_cast<int>(m_random() % static_cast<unsigned>(bound)); }
 
 private:
-    int oneOf(const std::vector<int> &values)
-    {
-        return values[static_cast<size_t>(below(static_cast<int>(values.size())))];
-    }
+    int oneOf(const std::vector<int> &values) { return values[m_random() % values.size()]; }
     static QString orNull(int key) { return key ? QString::number(key) : u"NULL"_s; }
     void insert(const QString &into, const QStringList &rows)
     {
@@ -135,36 +129,25 @@ private:
     std::mt19937 m_random;
 };
 
-enum class Kind { Value, Perpetual, Summary };
-
 // What a report's name says of it.
 struct Shape
 {
-    explicit Shape(const QString &name)
-        : kind(name.startsWith("Value"_L1)                   ? Kind::Value
-                   : name.startsWith("Perpetual Summary"_L1) ? Kind::Summary
-                                                             : Kind::Perpetual)
-        , byLocation(name.contains("/Location"_L1))
-        , outer(name.contains("by Type"_L1)             ? u"TypeName"_s
-                    : name.contains("by GL Account"_L1) ? u"GLAccount"_s
-                                                        : QString())
-        , withDetails(name != "Value by Type"_L1)
-    {
-    }
-
-    Kind kind;
-    bool byLocation;
-    QString outer; // what the items are grouped by
-    bool withDetails;
+    QString name;
+    bool isValue = name.startsWith("Value"_L1);
+    bool isSummary = name.startsWith("Perpetual Summary"_L1);
+    bool byLocation = name.contains("/Location"_L1);
+    QString outer = name.contains("by Type"_L1) ? u"TypeName"_s
+        : name.contains("by GL Account"_L1)     ? u"GLAccount"_s
+                                                : QString(); // what the items are grouped by
 };
 
 // The figures of a shape in the order of its columns.
 QStringList figureFields(const Shape &shape)
 {
-    if (shape.kind == Kind::Perpetual)
-        return {u"Quantity"_s, u"Balance"_s};
-    if (shape.kind == Kind::Summary)
+    if (shape.isSummary)
         return {u"OpeningBalance"_s, u"Receipts"_s, u"Adjustments"_s, u"Sales"_s, u"ClosingBalance"_s};
+    if (!shape.isValue)
+        return {u"Quantity"_s, u"Balance"_s};
     return shape.byLocation ? QStringList{u"QtyOnHand"_s, u"UnitCost"_s, u"ItemWhseValue"_s}
                             : QStringList{u"ItemQtyOnHand"_s, u"UnitCost"_s, u"ItemValue"_s};
 }
@@ -183,12 +166,12 @@ public:
         for (const Account &account : accounts) {
             if (last)
                 endGroups(*last, account.outerKey != last->outerKey, account.item != last->item);
-            addAccount(account);
+            shape.isValue ? addValue(account) : shape.isSummary ? addSummary(account) : addMovements(account);
             last = &account;
         }
         if (last)
             endGroups(*last, true, true);
-        if (shape.kind == Kind::Value)
+        if (shape.isValue)
             total(u"report total"_s, {}, {}, m_report);
     }
 
@@ -255,25 +238,13 @@ private:
         return entry.type == 2 || entry.type == 5 ? -entry.eighths : entry.eighths;
     }
 
-    void addAccount(const Account &account)
-    {
-        switch (m_shape.kind) {
-        case Kind::Value:
-            return addValue(account);
-        case Kind::Perpetual:
-            return addMovements(account);
-        case Kind::Summary:
-            return addSummary(account);
-        }
-    }
-
     void addValue(const Account &account)
     {
         const Item &item = m_books.items.at(account.item);
         const qint64 unitCost = item.type == 2 ? item.standard : item.average;
         const qint64 worth = account.onHand * unitCost; // in 1/80000
         const qint64 cents = (std::abs(worth) + 400) / 800 * (worth < 0 ? -1 : 1);
-        if (m_shape.withDetails)
+        if (m_shape.name != "Value by Type"_L1)
             add(u"detail"_s, account.outer, itemNo(account.item), locationName(account.location), {},
                 {quantity(account.onHand), cost(unitCost), money(cents)});
         sumUp({account.onHand, 0, cents});
@@ -311,8 +282,7 @@ private:
         }
         const Sums figures{closing - receipts - adjustments + sales, receipts, adjustments, sales, closing};
         QStringList texts;
-        for (const qint64 figure : figures)
-            texts += quantity(figure);
+        std::ranges::transform(figures, std::back_inserter(texts), quantity);
         add(u"detail"_s, account.outer, itemNo(account.item), {}, {}, texts);
         sumUp(figures);
     }
@@ -333,13 +303,12 @@ private:
         QStringList figures;
         // Pieces and kilograms of different items do not add up.
         const bool withQuantity = m_shape.byLocation && m_shape.outer.isEmpty() && band == "group total"_L1;
-        if (m_shape.kind == Kind::Value)
+        if (m_shape.isValue)
             figures = {withQuantity ? quantity(sums[0]) : QString(), QString(), money(sums[2])};
-        else if (m_shape.kind == Kind::Perpetual)
+        else if (!m_shape.isSummary)
             figures = {QString(), quantity(sums[1])};
         else
-            for (const qint64 sum : sums)
-                figures += quantity(sum);
+            std::ranges::transform(sums, std::back_inserter(figures), quantity);
         add(band, outer, item, {}, {}, figures);
     }
 
@@ -368,85 +337,26 @@ private:
 
 // --- what the program makes ------------------------------------------------------------------------------------------
 
-struct CsvReport
+// As Expected has the lines.
+QStringList linesOf(Books &books, const Shape &shape, const ReportDescription &report,
+                    const ReportSelection &selection)
 {
-    QStringList lines; // as Expected has them
-    QStringList figures; // of each line: what is printed of numbers
-};
-
-CsvReport csvOf(Books &books, const Shape &shape, const ReportDescription &report, const ReportSelection &selection)
-{
-    QBuffer file;
-    file.open(QIODevice::ReadWrite);
     CountedProgress progress;
-    Printing::writeReportCsv(report.layout, *report.rows(books.database(), report, selection), file, progress);
-    file.seek(0);
-    CsvReader reader(file);
-    CsvReport csv;
-    reader.next();
-    const QStringList header = reader.fields();
-    const auto field = [&](const QString &name) { return reader.fields().value(header.indexOf(name)); };
-    while (reader.next()) {
-        QStringList line{field(u"Band"_s),          field(shape.outer),        field(u"ItemNo"_s),
-                         field(u"WarehouseName"_s), field(u"TransTypeName"_s), field(u"TransDescription"_s)};
-        QStringList figures;
-        for (const QString &name : figureFields(shape)) {
-            const QString text = field(name);
-            line += text.isEmpty() ? text : number(text.toDouble());
-            if (!text.isEmpty())
-                figures += line.constLast();
-        }
-        csv.lines += line.join(u'|');
-        csv.figures += figures.join(u'|');
-    }
-    return csv;
-}
-
-// What pages leave out of the lines: the totals of groups of one row.
-QStringList withoutSingleTotals(QStringList figures, Books &books, const ReportDescription &report,
-                                const ReportSelection &selection)
-{
-    const auto rows = report.rows(books.database(), report, selection);
-    Printing::ReportLines lines(report.layout, *rows);
-    std::map<QStringList, int> rowsOf; // by the keys of their groups
-    qsizetype place = 0;
-    for (Printing::ReportLine line; lines.next(line);) {
-        if (line.band == Printing::Band::GroupHeading)
-            continue;
-        const bool isTotal = line.band == Printing::Band::GroupTotal;
-        QStringList keys;
-        for (int group = 0; group < report.layout.groups.size() && (!isTotal || group <= line.group); ++group) {
-            keys += line.values[static_cast<size_t>(lines.indexOf(report.layout.groups[group].key))].toText();
-            rowsOf[keys] += isTotal ? 0 : 1;
-        }
-        if (isTotal && report.layout.details && rowsOf[keys] == 1)
-            figures.removeAt(place);
-        else
-            ++place;
-    }
-    return figures;
-}
-
-// The figures of each printed line from left to right: "(1,234.50)" is -1234.5.
-QStringList printedFigures(Books &books, const ReportDescription &report, const ReportSelection &selection)
-{
-    Printing::ReportRun run({report.layout, report.rows(books.database(), report, selection)}, QPageSize::A4, {});
-    run.makePages();
+    QList<QStringList> rows = csvRows(writtenBy([&](QIODevice &file) {
+        Printing::writeReportCsv(report.layout, *report.rows(books.database(), report, selection), file, progress);
+    }));
+    const QStringList header = rows.takeFirst();
     QStringList lines;
-    for (int i = 0; i < run.pageCount(); ++i) {
-        std::map<float, QStringList> figures; // by the place of their line
-        for (const Printing::TextItem &item : run.page(i).texts) {
-            if (item.style != Printing::TextStyle::Body && item.style != Printing::TextStyle::Strong)
-                continue;
-            QString text = item.text;
-            text.remove(u',').replace(u'(', u'-').remove(u')');
-            bool isNumber = false;
-            const double value = text.toDouble(&isNumber);
-            if (isNumber)
-                figures[item.y] += number(value);
+    for (const QStringList &row : rows) {
+        QStringList line;
+        for (const QString &name :
+             {u"Band"_s, shape.outer, u"ItemNo"_s, u"WarehouseName"_s, u"TransTypeName"_s, u"TransDescription"_s})
+            line += row.value(header.indexOf(name));
+        for (const QString &name : figureFields(shape)) {
+            const QString text = row.value(header.indexOf(name));
+            line += text.isEmpty() ? text : number(text.toDouble());
         }
-        for (const auto &[place, texts] : figures)
-            lines += texts.join(u'|');
+        lines += line.join(u'|');
     }
     return lines;
 }
@@ -466,7 +376,7 @@ std::vector<ReportSelection> selectionsFor(const ReportDescription &report, Book
 using Figures = testing::TestWithParam<Store>;
 ON_BOTH_STORES(Figures);
 
-TEST_P(Figures, EqualASecondComputationAndArePrintedAsTheyAreInCsv)
+TEST_P(Figures, EqualASecondComputation)
 {
     const unsigned seed = chanceSeed();
     SCOPED_TRACE(testing::Message() << "TALLYMERE_TEST_SEED=" << seed);
@@ -475,15 +385,11 @@ TEST_P(Figures, EqualASecondComputationAndArePrintedAsTheyAreInCsv)
         if (!report.rows)
             continue;
         SCOPED_TRACE(qPrintable(report.listText));
-        const Shape shape(report.listText);
-        for (const ReportSelection &selection : selectionsFor(report, books)) {
-            const CsvReport csv = csvOf(books, shape, report, selection);
-            ASSERT_EQ(csv.lines, Expected(books, shape, selection).lines)
+        const Shape shape{report.listText};
+        for (const ReportSelection &selection : selectionsFor(report, books))
+            ASSERT_EQ(linesOf(books, shape, report, selection), Expected(books, shape, selection).lines)
                 << "location " << selection.warehouseId << ", type " << selection.itemTypeId << ", period "
                 << selection.period << '/' << selection.year;
-            ASSERT_EQ(printedFigures(books, report, selection),
-                      withoutSingleTotals(csv.figures, books, report, selection));
-        }
     }
 }
 

@@ -1,15 +1,14 @@
-#include "base/ruleerror.h"
 #include "controls/fields/lookupcombobox.h"
 #include "controls/windows/filechoice.h"
-#include "engine/store/driver.h"
 #include "reports/makereport.h"
 #include "reports/screens/invreports.h"
 #include "reports/screens/pageview.h"
 #include "reports/screens/preview.h"
+#include "tests/support/files.h"
+#include "tests/support/maderows.h"
 #include "tests/support/screentest.h"
 
 #include <QAccessible>
-#include <QFile>
 #include <QListWidget>
 #include <QMenu>
 #include <QSpinBox>
@@ -19,28 +18,6 @@ using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
-
-// Rows until they are told to end.
-class EndlessRows final : public Printing::RowReader
-{
-public:
-    explicit EndlessRows(const bool &ended)
-        : m_ended(ended)
-    {
-    }
-
-    const QStringList &fields() const override { return m_fields; }
-    bool next(Printing::ReportRow &row) override
-    {
-        row.values = {Engine::Value(u"Row %1"_s.arg(++m_rows))};
-        return !m_ended;
-    }
-
-private:
-    const bool &m_ended;
-    QStringList m_fields{u"Text"_s};
-    int m_rows = 0;
-};
 
 class InvReportsTest : public ScreenTest
 {
@@ -108,9 +85,7 @@ protected:
             return {};
         preview->saveCsv();
         delete preview;
-        QFile saved(file());
-        EXPECT_TRUE(saved.open(QIODevice::ReadOnly));
-        return QString::fromUtf8(saved.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts).mid(1);
+        return QString::fromUtf8(contentOf(file())).split(u"\r\n"_s, Qt::SkipEmptyParts).mid(1);
     }
 
     QTemporaryDir folder;
@@ -189,10 +164,9 @@ TEST_F(InvReportsTest, WithoutAPrinterShowsAndSavesWhatThePreviewIsRefusedFor)
     EXPECT_FALSE(isThere("btnOnScreen") || isThere("btnSave"));
     ask(0);
     type("off<Return>");
-    EXPECT_EQ(
-        prompts.take(),
-        QStringList(u"error: You do not have a default printer defined.\n\nTo preview or print reports a printer "
-                    "must be defined, though not necessarily attached."_s));
+    EXPECT_EQ(prompts.told(),
+              u"error: You do not have a default printer defined.\n\nTo preview or print reports a printer must be "
+              u"defined, though not necessarily attached.");
     EXPECT_TRUE(part<QWidget>("PanelOptions")->isVisible());
     EXPECT_EQ(previewed(), QStringList());
 
@@ -200,10 +174,8 @@ TEST_F(InvReportsTest, WithoutAPrinterShowsAndSavesWhatThePreviewIsRefusedFor)
     const QList<QAction *> ways = part<QPushButton>("btnSave")->menu()->actions();
     for (QAction *way : ways) {
         way->trigger();
-        EXPECT_EQ(prompts.take(), QStringList(u"inform: Inventory Value by Item saved as %1"_s.arg(file())));
-        QFile written(file());
-        ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-        saved << written.readAll();
+        EXPECT_EQ(prompts.told(), u"inform: Inventory Value by Item saved as %1"_s.arg(file()));
+        saved << contentOf(file());
     }
     ASSERT_EQ(saved.size(), 2);
     EXPECT_TRUE(saved[0].startsWith("%PDF"));
@@ -336,18 +308,23 @@ TEST_F(InvReportsTest, PagesAreTurnedOneByOneWhereSeveralAreInSight)
 TEST_F(InvReportsTest, ASearchGoesOnWithThePagesUntilAKeyStopsIt)
 {
     bool ended = false;
+    int number = 0;
+    auto rows = std::make_unique<MadeRows>(QStringList{u"Text"_s}, [&](Printing::ReportRow &row) {
+        row.values = {Engine::Value(u"Row %1"_s.arg(++number))};
+        return !ended;
+    });
     Printing::ReportLayout layout{.title = u"Rows"_s, .columns = {{.field = u"Text"_s, .title = u"Text"_s}}};
-    auto run = std::make_unique<Printing::ReportRun>(Printing::Report{layout, std::make_unique<EndlessRows>(ended)},
-                                                     QPageSize::A4, Printing::PageTexts{});
+    auto run = std::make_unique<Printing::ReportRun>(Printing::Report{layout, std::move(rows)}, QPageSize::A4,
+                                                     Printing::PageTexts{});
     auto *preview = new TfrmPreview(*context, std::move(run), mainWindow.get());
     showActive(*preview);
     const auto *found = child<QLabel>(*preview, "lblFound");
     const auto *page = child<QLabel>(*preview, "panelPageNumber");
     type("<Ctrl+F>row 20000x<Return>");
-    EXPECT_TRUE(found->text().startsWith("Searched "_L1)) << qPrintable(found->text());
+    EXPECT_TRUE(begins(found->text(), u"Searched "_s));
     type("<Escape>"); // no more than that
-    EXPECT_TRUE(found->text().startsWith("Stopped after "_L1)) << qPrintable(found->text());
-    EXPECT_TRUE(found->text().endsWith("..."_L1)) << qPrintable(found->text());
+    EXPECT_TRUE(begins(found->text(), u"Stopped after "_s));
+    EXPECT_TRUE(ends(found->text(), u"..."_s));
     EXPECT_TRUE(preview->isVisible());
     EXPECT_EQ(child<QLineEdit>(*preview, "editFind")->text(), u"row 20000x"_s);
     type("<Backspace><Return>");

@@ -1,13 +1,11 @@
 #include "base/csvlist.h"
-#include "data/datamodule.h"
-#include "host/tables/hosttables.h"
 #include "printing/reportcsv.h"
 #include "reports/makereport.h"
 #include "reports/reportlist.h"
+#include "tests/support/dataplace.h"
 #include "tests/support/documents.h"
+#include "tests/support/files.h"
 #include "transactions/historyview.h"
-
-#include <QBuffer>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -26,13 +24,9 @@ protected:
         if (GetParam() == Place::NetworkFolder)
             qputenv("TALLYMERE_TEST_NETWORK", "1");
         kitchen = std::make_unique<Kitchen>(GetParam() == Place::Server ? Store::Remote : Store::Local);
-        HostTables::createHostTables(kitchen->database(), u"Test Kitchen"_s, u"USA"_s);
+        kitchen->makeHost();
         stockUp();
-        DataModuleOptions options;
-        options.dataFolder = kitchen->store() == Store::Local ? kitchen->directory() : QString();
-        options.server = kitchen->store() == Store::Remote ? u"127.0.0.1"_s : QString();
-        options.serverDatabase = kitchen->remoteName();
-        data = std::make_unique<TDataModuleTallymere>(settings, prompts, options);
+        data = std::make_unique<TDataModuleTallymere>(settings, prompts, placeOf(*kitchen));
     }
     ~Moments() override { qunsetenv("TALLYMERE_TEST_NETWORK"); }
 
@@ -95,10 +89,8 @@ TEST_P(Moments, AReportIsOfTheMomentItWasAskedFor)
         const ReportSelection selection{
             .warehouseId = report.parameters.location ? 1 : 0, .period = 3, .year = 2026};
         const auto csv = [this](const Printing::Report &made) {
-            QBuffer file;
-            file.open(QIODevice::WriteOnly);
-            Printing::writeReportCsv(made.layout, *made.rows, file, progress);
-            return file.data();
+            return writtenBy(
+                [&](QIODevice &file) { Printing::writeReportCsv(made.layout, *made.rows, file, progress); });
         };
         const QByteArray before = csv(makeReport(*data, report, selection));
         const Printing::Report made = makeReport(*data, report, selection);
@@ -159,8 +151,7 @@ TEST_P(Moments, RowsThatCannotBePutAsideAreRefused)
     qputenv("TMPDIR", "/proc"); // where nobody can make a file
     const QString refusal = refusalOf([&] { makeReport(*data, *ReportList::find(u"Inventory Totals"_s), {}); });
     temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
-    EXPECT_TRUE(refusal.startsWith("The rows that were read cannot be kept in '/proc'..."_L1))
-        << qPrintable(refusal);
+    EXPECT_TRUE(begins(refusal, u"The rows that were read cannot be kept in '/proc'..."_s));
     kitchen->execute(u"UPDATE IBalance SET QtyOnHand = 0"_s); // nobody reads any more
 }
 

@@ -2,12 +2,11 @@
 // document moves the same quantity, so that what is between two documents shows in every sum.
 
 #include "base/csvlist.h"
-#include "base/csvreader.h"
-#include "data/datamodule.h"
-#include "host/tables/hosttables.h"
 #include "printing/reportcsv.h"
 #include "reports/makereport.h"
 #include "reports/reportlist.h"
+#include "tests/support/dataplace.h"
+#include "tests/support/files.h"
 #include "tests/support/kitchen.h"
 #include "tests/support/otheruser.h"
 #include "transactions/documentkinds.h"
@@ -17,7 +16,6 @@
 
 #include <cmath>
 #include <cstdio>
-#include <QBuffer>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -39,7 +37,7 @@ protected:
 
     void fill()
     {
-        HostTables::createHostTables(kitchen.database(), u"Test Kitchen"_s, u"USA"_s);
+        kitchen.makeHost();
         Engine::Connection &connection = kitchen.database().connection();
         connection.begin();
         kitchen.execute(u"UPDATE ItemType SET CostingMethod = 2, Inventory = true"_s);
@@ -61,18 +59,6 @@ protected:
         connection.commit();
     }
 
-    static QList<QStringList> rowsOf(const std::function<void(QIODevice &)> &write)
-    {
-        QBuffer buffer;
-        buffer.open(QIODevice::ReadWrite);
-        write(buffer);
-        buffer.seek(0);
-        CsvReader reader(buffer);
-        QList<QStringList> rows;
-        while (reader.next())
-            rows.append(reader.fields());
-        return rows;
-    }
     // Of the rows whose first column says so.
     static double sum(const QList<QStringList> &rows, const QString &field, const QString &band = {})
     {
@@ -86,7 +72,8 @@ protected:
     QList<QStringList> report(TDataModuleTallymere &data, const QString &name)
     {
         const Printing::Report made = makeReport(data, *ReportList::find(name), {.period = 1, .year = 2026});
-        return rowsOf([&](QIODevice &file) { writeReportCsv(made.layout, *made.rows, file, progress); });
+        return csvRows(
+            writtenBy([&](QIODevice &file) { writeReportCsv(made.layout, *made.rows, file, progress); }));
     }
 };
 ON_BOTH_STORES(Race);
@@ -94,58 +81,58 @@ ON_BOTH_STORES(Race);
 TEST_P(Race, EveryFigureIsOfTheTimeBetweenTwoDocuments)
 {
     fill();
-    DataModuleOptions options;
-    options.dataFolder = kitchen.store() == Store::Local ? kitchen.directory() : QString();
-    options.server = kitchen.store() == Store::Remote ? u"127.0.0.1"_s : QString();
-    options.serverDatabase = kitchen.remoteName();
-    TDataModuleTallymere data(settings, prompts, options);
+    TDataModuleTallymere data(settings, prompts, placeOf(kitchen));
     Engine::Database &database = data.databaseTallymere();
     const auto mixed = [](double figure) { return std::fmod(figure, linesEach) != 0; };
     const auto sumOf = [&](const Engine::DataSet &set, const QString &field) {
-        return sum(rowsOf([&](QIODevice &file) { writeCsvList(set, {field}, file, progress); }), field);
+        const auto write = [&](QIODevice &file) { writeCsvList(set, {field}, file, progress); };
+        return sum(csvRows(writtenBy(write)), field);
     };
-    const QList<std::pair<QString, std::function<bool()>>> listings{
-        {u"totals"_s,
+    struct Listing
+    {
+        const char *name;
+        std::function<bool()> isMixed;
+        int made = 0, bad = 0;
+    } listings[] = {
+        {"totals",
          [&] {
              TotalsView view(database);
              view.open();
              return mixed(sumOf(view.query(), u"QtyOnHand"_s));
          }},
-        {u"history"_s,
+        {"history",
          [&] {
              HistoryView view(database);
              view.open();
              return mixed(sumOf(view.table(), u"Quantity"_s));
          }},
-        {u"Value by Item /Location"_s,
+        {"value",
          [&] {
              return mixed(sum(report(data, u"Value by Item /Location"_s), u"ItemWhseValue"_s, u"report total"_s));
          }},
-        {u"Perpetual by Item"_s,
+        {"perpetual",
          [&] {
              const QList<QStringList> rows = report(data, u"Perpetual by Item"_s);
              return mixed(sum(rows, u"Quantity"_s, u"detail"_s)) || sum(rows, u"Balance"_s, u"opening"_s) != 0;
          }},
-        {u"Perpetual by Item /Location"_s,
+        {"perpetual by location",
          [&] {
              const QList<QStringList> rows = report(data, u"Perpetual by Item /Location"_s);
              return sum(rows, u"Quantity"_s, u"detail"_s) != sum(rows, u"Balance"_s, u"group total"_s);
          }},
     };
 
-    std::vector<int> made(listings.size()), bad(listings.size());
     OtherUser poster(kitchen, {u"post"_s});
     while (kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = false"_s) > 0) {
-        for (size_t i = 0; i < made.size(); ++i) {
-            ++made[i];
-            bad[i] += listings[static_cast<qsizetype>(i)].second() ? 1 : 0;
+        for (Listing &listing : listings) {
+            ++listing.made;
+            listing.bad += listing.isMixed() ? 1 : 0;
         }
     }
     EXPECT_TRUE(poster.finish());
-    for (size_t i = 0; i < made.size(); ++i) {
-        const QString &name = listings[static_cast<qsizetype>(i)].first;
-        EXPECT_EQ(bad[i], 0) << qPrintable(name);
-        std::printf("%s: %d of %d mixed\n", qPrintable(name), bad[i], made[i]);
+    for (const auto &[name, isMixed, made, bad] : listings) {
+        EXPECT_EQ(bad, 0) << name;
+        std::printf("%s: %d of %d mixed\n", name, bad, made);
     }
 }
 

@@ -2,9 +2,8 @@
 #include "reports/columns.h"
 #include "reports/reportlist.h"
 #include "reports/reportquery.h"
+#include "tests/support/files.h"
 #include "tests/support/kitchen.h"
-
-#include <QBuffer>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -16,10 +15,10 @@ const ReportDescription &report(const char *name) { return *ReportList::find(QSt
 QByteArray csvOf(Kitchen &kitchen, const ReportDescription &report, const ReportSelection &selection,
                  Progress &progress)
 {
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    Printing::writeReportCsv(report.layout, *report.rows(kitchen.database(), report, selection), file, progress);
-    return file.data();
+    return writtenBy([&](QIODevice &file) {
+        Printing::writeReportCsv(report.layout, *report.rows(kitchen.database(), report, selection), file,
+                                 progress);
+    });
 }
 
 using ListReports = KitchenTest;
@@ -36,42 +35,38 @@ TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
         u"INSERT INTO IAdjust (AdjustmentID, AdjDescription, GLYear, GLPeriod, AdjDate, WarehouseID, Posted) "
         "VALUES (1, 'Spoiled', 2026, 3, '2026-03-14', 77, true)"_s);
     kitchen.addReceipt(1, 2, 1, {}, u"PO7"_s);
-    const struct
-    {
-        const char *name;
-        const char *filter;
-        QByteArray csv;
-        const char *order = "";
-    } cases[] = {
-        {"Item Types", "", "Band,TypeName\r\ndetail,Food\r\ndetail,Goods\r\n"},
-        {"Items", "(ItemTypeID = 1) AND (Suspended <> true)",
+    const std::tuple<const char *, QString, QByteArray> cases[] = {
+        // the filter, and behind a bar the order
+        {"Item Types", {}, "Band,TypeName\r\ndetail,Food\r\ndetail,Goods\r\n"},
+        {"Items", u"(ItemTypeID = 1) AND (Suspended <> true)"_s,
          "Band,ItemNo,ItemDescription,UnitPrice,TaxCodes,WgtAvgCost,StandardCost\r\n"
          "detail,A10,Apples,,,2.25,\r\ndetail,A11,Bread,,,,\r\n"},
-        {"Vendors", "(CurrencyID = 1) AND (Suspended <> true)",
+        {"Vendors", u"(CurrencyID = 1) AND (Suspended <> true)"_s,
          "Band,VendorNo,VendorName,Phone,Notes\r\ndetail,V1,First,,\r\n"},
-        {"Inventory Receipts", "",
+        {"Inventory Receipts",
+         {},
          "Band,Periodppyyyy,ReceiptNo,ReceiptDate,PurchaseOrderNo,VendorName,WarehouseName,Posted\r\n"
          "detail,3/2026,1001,2026-03-14,PO7,Second,Office,false\r\n"},
-        {"Inventory Adjustments", "",
+        {"Inventory Adjustments",
+         {},
          "Band,Periodppyyyy,AdjDescription,AdjDate,WarehouseName,Posted\r\n"
          "detail,3/2026,Spoiled,2026-03-14,,true\r\n"},
-        {"Inventory History", "",
+        {"Inventory History",
+         {},
          "Band,ItemNo,ItemDescription,TransDate,Periodppyyyy,TransTypeName,TransDescription,Quantity,UnitCost,"
          "WarehouseName\r\n"
          "detail,A10,Apples,2026-03-14,3/2026,PO Receipt,Receipt: 1,2,1.5,Office\r\n"
          "detail,,,2025-12-31,12/2025,,,-1,0,\r\n"},
-        {"Inventory Totals", "(WarehouseID = 77)",
+        {"Inventory Totals", u"(WarehouseID = 77)"_s,
          "Band,ItemNo,ItemDescription,WarehouseName,QtyOnHand\r\ndetail,,,,-4\r\n"},
-        {"Items", "(Suspended <> true)",
+        {"Items", u"(Suspended <> true)|ItemDescription1"_s,
          "Band,ItemNo,ItemDescription,UnitPrice,TaxCodes,WgtAvgCost,StandardCost\r\n"
-         "detail,A10,Apples,,,2.25,\r\ndetail,B1,apricots,,,,\r\ndetail,A11,Bread,,,,\r\n",
-         "ItemDescription1"},
+         "detail,A10,Apples,,,2.25,\r\ndetail,B1,apricots,,,,\r\ndetail,A11,Bread,,,,\r\n"},
     };
-    for (const auto &one : cases) {
-        const ReportSelection selection{.filter = QString::fromLatin1(one.filter),
-                                        .order = QString::fromLatin1(one.order)};
-        const ReportDescription &list = report(one.name);
-        EXPECT_EQ(csvOf(kitchen, list, selection, progress), one.csv) << one.name;
+    for (const auto &[name, choice, csv] : cases) {
+        const ReportSelection selection{.filter = choice.section(u'|', 0, 0), .order = choice.section(u'|', 1)};
+        const ReportDescription &list = report(name);
+        EXPECT_EQ(csvOf(kitchen, list, selection, progress), csv) << name;
         EXPECT_EQ(list.layout.landscape, list.listText == "Inventory History"_L1);
     }
 }

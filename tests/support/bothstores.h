@@ -1,15 +1,7 @@
 #pragma once
 
 #include "tests/support/teststore.h"
-
-#include <gtest/gtest.h>
-#include <ostream>
-#include <QDate>
-#include <QString>
-
-// How GoogleTest shows Qt's values when a comparison fails.
-inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
-inline void PrintTo(const QDate &date, std::ostream *out) { *out << date.toString(Qt::ISODate).toStdString(); }
+#include "tests/support/texts.h"
 
 // Makes the cases of a suite run on both stores.
 #define ON_BOTH_STORES(suite)                                                                                      \

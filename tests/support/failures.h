@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "engine/values/error.h"
+#include "tests/support/texts.h"
 
 #include <optional>
 
@@ -16,6 +17,14 @@ template <typename Call> std::optional<Engine::ErrorCode> errorOf(Call call, QSt
         return error.code();
     }
     return std::nullopt;
+}
+
+// Whether the call ends with an error of the code, in whose text the part stands.
+template <typename Call> testing::AssertionResult fails(Call call, Engine::ErrorCode code, const QString &part)
+{
+    QString text = QStringLiteral("nothing failed");
+    const auto error = errorOf(call, &text);
+    return shownAs(error == code && text.contains(part), text) << " of code " << int(error.value_or(code));
 }
 
 // "message -> column" of the rule that the call breaks, "silent -> column" when that goes without words; empty when

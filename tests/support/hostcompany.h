@@ -5,6 +5,7 @@
 #include "engine/store/database.h"
 #include "engine/store/session.h"
 #include "host/tables/hosttables.h"
+#include "tests/support/texts.h"
 
 // Makes the tables of the host in a folder.
 inline void makeCompany(const QString &folder, const QString &organization)

@@ -1,13 +1,12 @@
 #include "tests/support/kitchen.h"
 
 #include "data/layouts.h"
-#include "engine/records/query.h"
 #include "engine/store/lockmanager.h"
+#include "host/tables/hosttables.h"
 
 #include <QThread>
 
 using namespace Qt::StringLiterals;
-using Engine::Value;
 
 Kitchen::Kitchen(Store store)
     : TestStore(store)
@@ -29,51 +28,39 @@ Kitchen::Kitchen(Store store)
     )"_s);
 }
 
+void Kitchen::makeHost() { Tallymere::HostTables::createHostTables(database(), u"Test Kitchen"_s, u"USA"_s); }
+
 void Kitchen::addReceipt(int id, int vendor, int warehouse, const QList<Line> &lines, const QString &order)
 {
-    execute(
-        u"INSERT INTO IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, PurchaseOrderNo, VendorID, "
-        "WarehouseID, Posted) VALUES (%1, '%2', 2026, 3, '2026-03-14', '%5', %3, %4, false)"_s.arg(id)
-            .arg(1000 + id)
-            .arg(vendor)
-            .arg(warehouse)
-            .arg(order));
+    execute(u"INSERT INTO IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, PurchaseOrderNo, VendorID, "
+            "WarehouseID, Posted) VALUES (%1, '%2', 2026, 3, '2026-03-14', '%3', %4, %5, false)"_s,
+            id, 1000 + id, order, vendor, warehouse);
     int seq = 0;
     for (const Line &line : lines)
-        execute(u"INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (%1, %2, %3, %4, %5)"_s
-                    .arg(id)
-                    .arg(++seq)
-                    .arg(line.item)
-                    .arg(line.quantity)
-                    .arg(line.unitCost));
+        execute(u"INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (%1, %2, %3, %4, %5)"_s,
+                id, ++seq, line.item, line.quantity, line.unitCost);
 }
 
 void Kitchen::setStock(int item, int warehouse, double onHand, double averageCost)
 {
     execute(u"INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (%1, %2, %3); "
-            "UPDATE Item SET WgtAvgCost = %4 WHERE ItemID = %1"_s.arg(item)
-                .arg(warehouse)
-                .arg(onHand)
-                .arg(averageCost));
+            "UPDATE Item SET WgtAvgCost = %4 WHERE ItemID = %1"_s,
+            item, warehouse, onHand, averageCost);
 }
-
-Value Kitchen::value(const QString &sql) { return Engine::singleValue(database(), sql); }
 
 double Kitchen::onHand(int item, int warehouse)
 {
-    return number(
-        u"SELECT QtyOnHand FROM IBalance WHERE ItemID = %1 AND WarehouseID = %2"_s.arg(item).arg(warehouse));
+    return number(u"SELECT QtyOnHand FROM IBalance WHERE ItemID = %1 AND WarehouseID = %2"_s, item, warehouse);
 }
 
-double Kitchen::averageCost(int item)
-{
-    return number(u"SELECT WgtAvgCost FROM Item WHERE ItemID = %1"_s.arg(item));
-}
+double Kitchen::averageCost(int item) { return number(u"SELECT WgtAvgCost FROM Item WHERE ItemID = %1"_s, item); }
+
+QString Kitchen::balances() { return found(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s); }
 
 QStringList Kitchen::lines(int receipt)
 {
-    return rows(
-        u"SELECT Seq, ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = %1 ORDER BY Seq"_s.arg(receipt));
+    return rows(u"SELECT Seq, ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = %1 ORDER BY Seq"_s,
+                receipt);
 }
 
 void Kitchen::expectNoLocks()
@@ -86,11 +73,8 @@ void Kitchen::expectNoLocks()
         // locked here is given back before the connection goes.
         for (int attempt = 0; attempt < 1200 && !free; ++attempt) {
             free = locks.tryLockTable(table);
-            if (!free)
-                QThread::msleep(100);
+            free ? locks.unlockTable(table) : QThread::msleep(100);
         }
         EXPECT_TRUE(free) << table.toStdString();
-        if (free)
-            locks.unlockTable(table);
     }
 }

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "engine/records/query.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 #include "tests/support/spokenprompts.h"
-
-#include <QStringList>
 
 // A small kitchen to receive goods in: the inventory tables with a few rows that the tests know by heart.
 //
@@ -17,6 +16,7 @@ class Kitchen : public TestStore
 {
 public:
     explicit Kitchen(Store store);
+    void makeHost(); // the host's tables as well
 
     struct Line
     {
@@ -31,11 +31,22 @@ public:
     QStringList lines(int receipt); // as rows() of number, item, quantity and cost
     void expectNoLocks(); // of the tables that posting locks, by then or soon
 
-    Engine::Value value(const QString &sql);
-    double number(const QString &sql) { return value(sql).toDouble(); }
-    QString text(const QString &sql) { return value(sql).toText(); }
+    // The first column of the first row.
+    template <typename... Values> Engine::Value value(const QString &sql, const Values &...values)
+    {
+        return Engine::singleValue(database(), filledIn(sql, values...));
+    }
+    template <typename... Values> double number(const QString &sql, const Values &...values)
+    {
+        return value(sql, values...).toDouble();
+    }
+    template <typename... Values> QString text(const QString &sql, const Values &...values)
+    {
+        return value(sql, values...).toText();
+    }
     double onHand(int item, int warehouse);
     double averageCost(int item);
+    QString balances(); // found() item, location and quantity
 };
 
 // A test over it, of what runs on both stores.

@@ -96,6 +96,13 @@ inline void focusOn(const QWidget &window, const char *field)
     widget->setFocus();
 }
 
+// Types into a field, or whatever else takes keys.
+inline void typeIn(const QWidget &window, const char *field, const char *keys)
+{
+    focusOn(window, field);
+    type(keys);
+}
+
 // Types over what stands in a field.
 inline void typeOver(const QWidget &window, const char *field, const char *text)
 {
@@ -109,6 +116,23 @@ inline void typeOver(const QWidget &window, const char *field, const char *text)
 }
 
 inline void click(const QWidget &window, const char *button) { child<QAbstractButton>(window, button)->click(); }
+
+// What a grid shows, and where its cursor is: "0,1".
+inline QString cellOf(const QAbstractItemView &grid, int row, int column)
+{
+    return grid.model()->index(row, column).data().toString();
+}
+inline QStringList rowOf(const QAbstractItemView &grid, int row)
+{
+    QStringList cells;
+    for (int column = 0; column < grid.model()->columnCount(); ++column)
+        cells << cellOf(grid, row, column);
+    return cells;
+}
+inline QString cursorOf(const QAbstractItemView &grid)
+{
+    return QStringLiteral("%1,%2").arg(grid.currentIndex().row()).arg(grid.currentIndex().column());
+}
 
 inline QString focusName()
 {

@@ -1,31 +1,14 @@
 #include "tests/support/screentest.h"
 
 #include "controls/windows/windowrules.h"
-#include "host/tables/hosttables.h"
+#include "tests/support/dataplace.h"
 
-using namespace Qt::StringLiterals;
 using namespace Tallymere;
-
-namespace {
-
-DataModuleOptions placeOf(const Kitchen &kitchen)
-{
-    DataModuleOptions options;
-    if (kitchen.store() == Store::Local) {
-        options.dataFolder = kitchen.directory();
-    } else {
-        options.server = u"127.0.0.1"_s;
-        options.serverDatabase = kitchen.remoteName();
-    }
-    return options;
-}
-
-} // namespace
 
 ScreenTest::ScreenTest(Store store)
     : kitchen(store)
 {
-    HostTables::createHostTables(kitchen.database(), u"Test Kitchen"_s, u"USA"_s);
+    kitchen.makeHost();
     data = std::make_unique<TDataModuleTallymere>(settings, prompts, placeOf(kitchen));
     lookups = std::make_unique<TdmLookUpsInv>(data->databaseTallymere());
     context.reset(new ScreenContext{.data = *data, .lookups = *lookups, .prompts = prompts});

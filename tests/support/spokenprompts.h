@@ -20,24 +20,9 @@ public:
     std::function<void()> onWarn;
     std::function<void()> onError;
 
-    void inform(const QString &text) override
-    {
-        said << QStringLiteral("inform: ") + text;
-        if (onInform)
-            onInform();
-    }
-    void warn(const QString &text) override
-    {
-        said << QStringLiteral("warn: ") + text;
-        if (onWarn)
-            onWarn();
-    }
-    void error(const QString &text) override
-    {
-        said << QStringLiteral("error: ") + text;
-        if (onError)
-            onError();
-    }
+    void inform(const QString &text) override { say(QStringLiteral("inform: ") + text, onInform); }
+    void warn(const QString &text) override { say(QStringLiteral("warn: ") + text, onWarn); }
+    void error(const QString &text) override { say(QStringLiteral("error: ") + text, onError); }
     bool confirm(Tallymere::Question question, const QString &text) override
     {
         said << caption(question) + QStringLiteral(": ") + text;
@@ -50,21 +35,26 @@ public:
     }
     Tallymere::Answer choose(const QString &text, const QString &first, const QString &second) override
     {
-        said << text + QStringLiteral(" [%1|%2]").arg(first, second);
-        if (onChoose)
-            onChoose();
+        say(text + QStringLiteral(" [%1|%2]").arg(first, second), onChoose);
         return answer;
     }
     bool retry(const QString &text) override
     {
-        said << text;
-        if (onRetry)
-            onRetry();
+        say(text, onRetry);
         return retries-- > 0;
     }
 
     QString last() const { return said.isEmpty() ? QString() : said.last(); }
     QStringList take() { return std::exchange(said, {}); }
+    QString told() { return take().join(u'\n'); } // in one text, and forgotten
+
+private:
+    void say(const QString &text, const std::function<void()> &then)
+    {
+        said << text;
+        if (then)
+            then();
+    }
 };
 
 class CountedProgress final : public Tallymere::Progress

@@ -125,10 +125,6 @@ QStringList TestStore::place() const
     return {u"remote"_s, remoteName()};
 }
 
-void TestStore::execute(const QString &script) { database().connection().execute(script); }
-
-QStringList TestStore::rows(const QString &sql) { return rowsOf(database(), sql); }
-
 QStringList TestStore::tables()
 {
     return rows(m_store == Store::Local

@@ -18,12 +18,18 @@ struct TestUser
     Engine::Database database;
 
     TestUser(const QString &user, const QString &databaseName);
-    explicit TestUser(
-        const QStringList &place); // "anna" in another program, which was started with place() of a store
+    explicit TestUser(const QStringList &place); // "anna", at the place() of a store
     void useTestServer(const QString &remoteName);
     // Of a user, or of all, on the database of the server: as when their connections are lost.
     void endOtherSessions(const QString &user = QStringLiteral("%"));
 };
+
+// A statement with its values in the places %1, %2 and so on.
+template <typename... Values> QString filledIn(QString sql, const Values &...values)
+{
+    ((sql = sql.arg(values)), ...);
+    return sql;
+}
 
 // All rows of a statement, one text each: "1|2.5|abc", nulls empty.
 QStringList rowsOf(Engine::Database &database, const QString &sql);
@@ -39,8 +45,7 @@ class TestStore
 public:
     explicit TestStore(Store store);
     ~TestStore();
-    TestStore(const TestStore &) = delete;
-    TestStore &operator=(const TestStore &) = delete;
+    Q_DISABLE_COPY(TestStore)
 
     Store store() const { return m_store; }
     Engine::Session &session() { return m_user->session; }
@@ -50,8 +55,20 @@ public:
     QStringList place() const; // two words of a command line that lead another program to the database
     QString directory() const { return m_folder.path(); } // of a local store's database
     QString remoteName() const { return m_remoteName; } // of a remote store's database
-    void execute(const QString &script); // SQL text as it stands
-    QStringList rows(const QString &sql); // as rowsOf()
+    // SQL text as it stands, but for the values that are filled in.
+    template <typename... Values> void execute(const QString &script, const Values &...values)
+    {
+        database().connection().execute(filledIn(script, values...));
+    }
+    template <typename... Values> QStringList rows(const QString &sql, const Values &...values) // as rowsOf()
+    {
+        return rowsOf(database(), filledIn(sql, values...));
+    }
+    // The same in one text: "1|2.5|abc 2||def".
+    template <typename... Values> QString found(const QString &sql, const Values &...values)
+    {
+        return rows(sql, values...).join(u' ');
+    }
     QStringList tables(); // their names
 
 private:

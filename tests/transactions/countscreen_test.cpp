@@ -82,9 +82,9 @@ TEST_F(CountScreenTest, ALargeQuantityIsAskedAboutOnce)
     search("A10");
     prompts.ok = false;
     enter("1500000");
-    EXPECT_EQ(prompts.take(),
-              QStringList(u"Warning: The quantity is 1,500,000. A number may have been scanned into the "
-                          "wrong column.\nDo you want to keep this quantity?"_s));
+    EXPECT_EQ(prompts.told(),
+              u"Warning: The quantity is 1,500,000. A number may have been scanned into the wrong column.\nDo you "
+              u"want to keep this quantity?");
     EXPECT_EQ(rows().first(), u"A10 15,000,000 15,000,000"_s);
     EXPECT_EQ(cursor(), u"A10"_s);
     prompts.ok = true;
@@ -93,7 +93,7 @@ TEST_F(CountScreenTest, ALargeQuantityIsAskedAboutOnce)
     EXPECT_EQ(rows().first(), u"A10 15,000,000 1,500,000 -13,500,000"_s);
     search("A10");
     type("<F2><Return>");
-    EXPECT_EQ(prompts.take(), QStringList()) << "it has been answered";
+    EXPECT_EQ(prompts.told(), QString()) << "it has been answered";
 }
 
 TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
@@ -145,7 +145,7 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
         prompts.last(),
         u"Confirm: Proceed with calculating the item usage based\r\nupon the quantities that have been entered?"_s);
     EXPECT_EQ(usageLines(), (QStringList{u"2|1"_s, u"3|2"_s}));
-    EXPECT_TRUE(status().contains("2 lines"_L1)) << status().toStdString();
+    EXPECT_TRUE(has(status(), u"2 lines"_s));
     EXPECT_FALSE(ok->isEnabled());
     EXPECT_EQ(rows().last(), u"B1 2.5 0.5 -2"_s);
     search("A10");
@@ -202,8 +202,7 @@ TEST_F(CountScreenTest, TriesARefusedLocationOnceMore)
     choose(u"Office"_s);
     prompts.answer = Answer::Yes;
     ok->click();
-    EXPECT_TRUE(prompts.last().endsWith("have been posted.\n\nInventory Adjustment 12, 03/05/2026, Spoilt"_L1))
-        << prompts.last().toStdString();
+    EXPECT_TRUE(ends(prompts.last(), u"have been posted.\n\nInventory Adjustment 12, 03/05/2026, Spoilt"_s));
     EXPECT_EQ(status(), QString());
     kitchen.execute(u"UPDATE IAdjust SET Posted = true"_s);
     ok->click();

@@ -1,5 +1,4 @@
 #include "tests/support/documents.h"
-#include "tests/support/kitchen.h"
 #include "transactions/documententry.h"
 #include "transactions/stockcount.h"
 
@@ -24,12 +23,12 @@ protected:
     {
         for (int key = 0; key <= 5; ++key)
             addDocument(kitchen, kind, key, 1, {{1, u"2"_s, u"1.5"_s}});
-        kitchen.execute(u"UPDATE %1 SET Posted = true; DELETE FROM %1 WHERE %2 IN (3, 5)"_s.arg(kind.headerTable,
-                                                                                                kind.keyField));
+        kitchen.execute(u"UPDATE %1 SET Posted = true; DELETE FROM %1 WHERE %2 IN (3, 5)"_s, kind.headerTable,
+                        kind.keyField);
     }
     QStringList storedLines(const DocumentKind &kind)
     {
-        return kitchen.rows(u"SELECT * FROM %1 ORDER BY %2, Seq"_s.arg(kind.lineTable, kind.keyField));
+        return kitchen.rows(u"SELECT * FROM %1 ORDER BY %2, Seq"_s, kind.lineTable, kind.keyField);
     }
 };
 ON_BOTH_STORES(DocumentKeys);
@@ -48,7 +47,7 @@ TEST_P(DocumentKeys, ThatDocumentsOrLinesHaveAreNotGivenAgain)
         entry->cancel();
         EXPECT_EQ(storedLines(*kind), before);
 
-        kitchen.execute(u"UPDATE %1 SET %2 = 0"_s.arg(kind->entry.counters.table, kind->entry.counters.key));
+        kitchen.execute(u"UPDATE %1 SET %2 = 0"_s, kind->entry.counters.table, kind->entry.counters.key);
         HeldCounters held(kitchen.database());
         entry->numbers = heldNumbers(held);
         entry->newDocument();
@@ -87,8 +86,8 @@ TEST_P(DocumentKeys, StoredMeanwhileKeepTheirLines)
         const auto entry = kind->entry.make(kitchen.database(), prompts);
         entry->open();
         entry->newDocument();
-        kitchen.execute(u"UPDATE %1 SET %2 = 6 WHERE %2 = 4; UPDATE %3 SET %2 = 6 WHERE %2 = 4"_s.arg(
-            kind->headerTable, kind->keyField, kind->lineTable));
+        kitchen.execute(u"UPDATE %1 SET %2 = 6 WHERE %2 = 4; UPDATE %3 SET %2 = 6 WHERE %2 = 4"_s,
+                        kind->headerTable, kind->keyField, kind->lineTable);
         const QStringList before = storedLines(*kind);
         const QString refusal = u"Another document with the key of this new one has been stored meanwhile. Close "
                                 "this screen with Cancel and enter the document anew. -> "_s;

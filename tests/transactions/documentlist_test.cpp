@@ -1,9 +1,8 @@
 #include "transactions/documentlist.h"
 
-#include "engine/records/table.h"
 #include "engine/store/lockmanager.h"
-#include "host/tables/hosttables.h"
 #include "tests/support/kitchen.h"
+#include "tests/support/theirtable.h"
 #include "transactions/documentkinds.h"
 #include "transactions/usagedeletion.h"
 
@@ -41,7 +40,7 @@ TEST_P(List, DeletesAReceiptWithItsLinesAfterAsking)
 
     EXPECT_EQ(prompts.said,
               (QStringList{u"Confirm: Delete receipt '1000'?"_s, u"Confirm: Delete receipt '1000'?"_s}));
-    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID FROM IReceipt"_s), QStringList(u"2"_s));
+    EXPECT_EQ(kitchen.found(u"SELECT ReceiptID FROM IReceipt"_s), u"2");
     EXPECT_EQ(lines(), 1);
     EXPECT_EQ(list.currentKey(), 2);
 }
@@ -77,7 +76,7 @@ protected:
     UsageList()
     {
         kitchen.session().clock = [] { return QDateTime(QDate(2026, 3, 20), QTime(17, 30)); };
-        HostTables::createHostTables(kitchen.database(), u"Test Kitchen"_s, u"USA"_s);
+        kitchen.makeHost();
         kitchen.execute(u"INSERT INTO IUsage (UsageID, UsageNo, InventoryDate, Posted) VALUES "
                         "(1, '11', '2026-03-14', false), (2, '12', '2026-03-14', false), "
                         "(3, '13', '2026-03-14', true), (4, '14', '2026-03-15', false);"
@@ -126,9 +125,7 @@ TEST_P(UsageList, DeletesNothingOfADateWhileOneIsEdited)
     EXPECT_EQ(refusalOf([&] { removeOf(14); }),
               u"A usage record with an inventory date of 03/14/2026 is being edited. Please close its screen. -> ");
     own.cancel();
-    const auto other = kitchen.anotherUser();
-    Engine::Table theirs(other->database, u"IUsage"_s);
-    theirs.open();
+    TheirTable theirs(kitchen, u"IUsage"_s);
     theirs.findKey({4}); // of another date
     theirs.edit();
     EXPECT_EQ(errorOf([&] { removeOf(14); }), ErrorCode::TableLocked);
@@ -136,7 +133,7 @@ TEST_P(UsageList, DeletesNothingOfADateWhileOneIsEdited)
     EXPECT_EQ(left().size(), 4);
     theirs.cancel();
     EXPECT_TRUE(removeOf(14));
-    EXPECT_TRUE(other->database.connection().locks().tryLockTable(u"IUsage"_s));
+    EXPECT_TRUE(theirs.database().connection().locks().tryLockTable(u"IUsage"_s));
 }
 
 TEST_P(UsageList, RefusesToDeleteAPostedOneBeforeAndAfterAsking)

@@ -1,6 +1,5 @@
 #include "tests/support/documents.h"
 #include "transactions/documententry.h"
-#include "transactions/documentkinds.h"
 #include "transactions/quantitycheck.h"
 
 using namespace Qt::StringLiterals;
@@ -38,7 +37,7 @@ protected:
     }
     QStringList stored()
     {
-        return kitchen.rows(u"SELECT %1 FROM %2 ORDER BY Seq"_s.arg(quantityField(), entry->kind().lineTable));
+        return kitchen.rows(u"SELECT %1 FROM %2 ORDER BY Seq"_s, quantityField(), entry->kind().lineTable);
     }
 
     std::unique_ptr<DocumentEntry> entry;
@@ -74,32 +73,31 @@ TEST_P(EnteredLine, LargeFiguresAreAskedAboutOnce)
             u"Warning: The quantity is -1,000,000. A number may have been scanned into the wrong "
             "column.\nDo you want to keep this quantity?"_s;
         EXPECT_EQ(enter(999'999.5, 1.0), QString());
-        EXPECT_EQ(prompts.take(), QStringList());
+        EXPECT_EQ(prompts.told(), QString());
         prompts.ok = false;
         EXPECT_EQ(enter(-1e6, 0.0), u"silent -> "_s + quantityField());
-        EXPECT_EQ(prompts.take(), QStringList(question));
+        EXPECT_EQ(prompts.told(), question);
         EXPECT_EQ(stored(), QStringList(u"999999.5"_s));
         prompts.ok = true;
         EXPECT_EQ(enter(-1e6, 0.0), QString());
-        EXPECT_EQ(prompts.take(), QStringList(question));
+        EXPECT_EQ(prompts.told(), question);
         entry->lines().edit();
         entry->chooseItem(2);
         if (hasCost())
             entry->lines().set(u"UnitCost", 0.0);
         entry->lines().post();
-        EXPECT_EQ(prompts.take(), QStringList()) << "it has been answered";
+        EXPECT_EQ(prompts.told(), QString()) << "it has been answered";
         entry->lines().edit();
         entry->lines().set(quantityField(), 2e6);
         entry->lines().post();
         EXPECT_EQ(prompts.take().size(), 1);
         if (hasCost()) {
             EXPECT_EQ(enter(10.0, 99'999.99), QString());
-            EXPECT_EQ(prompts.take(), QStringList());
+            EXPECT_EQ(prompts.told(), QString());
             EXPECT_EQ(enter(-10.0, 100'000.0), QString());
-            EXPECT_EQ(
-                prompts.take(),
-                QStringList(u"Warning: -10 at a cost of 100,000.00 each come to (1,000,000.00). A number may have "
-                            "been scanned into the wrong column.\nDo you want to keep these figures?"_s));
+            EXPECT_EQ(prompts.told(),
+                      u"Warning: -10 at a cost of 100,000.00 each come to (1,000,000.00). A number may have been "
+                      u"scanned into the wrong column.\nDo you want to keep these figures?");
         }
         kitchen.execute(u"DELETE FROM "_s + kind->lineTable);
     }

@@ -85,7 +85,7 @@ TEST_F(ListScreensTest, receiptsAreListedLatestFirstFilteredAndFound)
     list->resetFilter();
     EXPECT_TRUE(whileOpen<DocumentFindScreen>(choose(u"mnuFind"_s), [&](DocumentFindScreen &dialog) {
         type("100<Return>");
-        EXPECT_EQ(prompts.take(), QStringList(u"error: Receipt '100' not found"_s));
+        EXPECT_EQ(prompts.told(), u"error: Receipt '100' not found");
         type("1001<Return>"); // replaces the selected text
         EXPECT_FALSE(dialog.isVisible());
     }));
@@ -147,7 +147,7 @@ TEST_F(ListScreensTest, postedDocumentsOfAllKindsLookAsTheyAre)
             kitchen.addReceipt(1, 1, 1, {{1, 5, 3.0}});
         else
             addDocument(kitchen, *kind, 1, 1, {{1, u"2"_s}});
-        kitchen.execute(u"UPDATE %1 SET Posted = true"_s.arg(kind->headerTable));
+        kitchen.execute(u"UPDATE %1 SET Posted = true"_s, kind->headerTable);
         const std::unique_ptr<RecordScreen> screen(recordScreens(*kind).make(*context, mainWindow.get()));
         ASSERT_TRUE(screen->openRecord(1));
         screen->setAttribute(Qt::WA_DeleteOnClose, false);
@@ -167,7 +167,7 @@ TEST_F(ListScreensTest, postedDocumentsOfAllKindsLookAsTheyAre)
             widget->setFocus();
             for (const char *keys : {"9", "<Del>", "<Backspace>"}) {
                 type(keys);
-                EXPECT_EQ(prompts.take(), QStringList(u"inform: "_s + kind->entry.postedRefusal)) << keys;
+                EXPECT_EQ(prompts.told(), u"inform: "_s + kind->entry.postedRefusal) << keys;
             }
         }
         EXPECT_GE(fields, 5);
@@ -175,8 +175,8 @@ TEST_F(ListScreensTest, postedDocumentsOfAllKindsLookAsTheyAre)
         EXPECT_FALSE(lines->model()->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
         lines->setFocus();
         type("9");
-        EXPECT_EQ(prompts.take(), QStringList(u"inform: "_s + kind->entry.postedRefusal));
-        EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM %1 WHERE WarehouseID = 1"_s.arg(kind->headerTable)), 1);
+        EXPECT_EQ(prompts.told(), u"inform: "_s + kind->entry.postedRefusal);
+        EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM %1 WHERE WarehouseID = 1"_s, kind->headerTable), 1);
     }
 }
 
@@ -233,7 +233,7 @@ TEST_F(ListScreensTest, postingTellsOfWhatTheListDoesNotShowAndWhoseItIs)
     EXPECT_EQ(told, u"1 of them not in the list"_s);
     list->applyFilter(u"(WarehouseID = 2)"_s);
     EXPECT_TRUE(whileOpen<DocumentPostScreen>(post, read));
-    EXPECT_TRUE(told.endsWith(u" not in the list, last saved by anna"_s)) << told.toStdString();
+    EXPECT_TRUE(ends(told, u" not in the list, last saved by anna"_s));
 
     const auto confirm = [](DocumentPostScreen &) { press(Qt::Key_Return); };
     list->hide(); // as a command of the main window finds it
@@ -252,8 +252,7 @@ TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
         dialog.btnOKClick();
         EXPECT_EQ(dialog.result(), QDialog::Rejected);
     }));
-    EXPECT_EQ(prompts.take(),
-              QStringList(u"error: A conflicting program is running...\nPlease close 'Inventory Receipt' form"_s));
+    EXPECT_EQ(prompts.told(), u"error: A conflicting program is running...\nPlease close 'Inventory Receipt' form");
     EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), 0);
     findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s)->btnCancelClick();
     settle();
@@ -296,7 +295,7 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
         [&] { totals.btnFilterClick(); },
         [&](TfrmInvTotalsFilter &dialog) {
             type("a1<Return>");
-            EXPECT_EQ(prompts.take(), QStringList(u"error: Item no. 'a1' not found"_s));
+            EXPECT_EQ(prompts.told(), u"error: Item no. 'a1' not found");
             type("a10<Tab>");
             EXPECT_EQ(child<LookupComboBox>(dialog, "cboItem")->currentText(), u"Apples"_s);
             child<LookupComboBox>(dialog, "cboWarehouse")->setFocus();
@@ -304,12 +303,12 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
         }));
     EXPECT_EQ(totals.dataSet().filter(), u"(ItemID = 1) AND (WarehouseID = 1)"_s);
     EXPECT_EQ(rows(), 1);
-    EXPECT_TRUE(whileOpen<TfrmItemsFind>(
-        [&] { totals.btnFindClick(); },
-        [&](TfrmItemsFind &) {
-            type("B1<Return>");
-            EXPECT_EQ(prompts.take(), QStringList(u"error: 'apricots' not found"_s)) << "filtered out";
-        }));
+    EXPECT_TRUE(whileOpen<TfrmItemsFind>([&] { totals.btnFindClick(); },
+                                         [&](TfrmItemsFind &) {
+                                             type("B1<Return>");
+                                             EXPECT_EQ(prompts.told(), u"error: 'apricots' not found")
+                                                 << "filtered out";
+                                         }));
 }
 
 TEST_F(ListScreensTest, historyLeadsFromTotalsToTheDocument)
@@ -389,7 +388,7 @@ TEST_F(ListScreensTest, historyOpensDocumentsOnTheLineOfTheItem)
             return lines->currentIndex().siblingAtColumn(column).data().toString();
         };
         EXPECT_EQ(cell(0), QString::number(quantity));
-        EXPECT_EQ(cell(1), kitchen.text(u"SELECT ItemNo FROM Item WHERE ItemID = %1"_s.arg(item)));
+        EXPECT_EQ(cell(1), kitchen.text(u"SELECT ItemNo FROM Item WHERE ItemID = %1"_s, item));
         EXPECT_EQ(document->focusWidget(), lines);
     }
     grid->setCurrentIndex(grid->model()->index(4, 0));

@@ -50,26 +50,21 @@ TEST_P(FailingPosting, KeepsWhatWasWrittenBeforeTheFailingStatement)
 {
     for (const DocumentKind *kind : DocumentKinds::all()) {
         const int sign = signOf(*kind);
-        const struct
-        {
-            const char *name;
-            QString event, table, condition;
-            QString posted, history; // afterwards
-            int onHand;
-        } cases[] = {
-            {"marking", u"UPDATE"_s, kind->headerTable, u"NEW.%1 = 2"_s.arg(kind->keyField), u"1"_s, u"1,2,4"_s, 7},
-            {"history", u"INSERT"_s, u"IHist"_s, u"NEW.Quantity = 16"_s, u"1,2"_s, u"1,2,4,8"_s, 15},
-            {"balance", u"UPDATE"_s, u"IBalance"_s, u"NEW.QtyOnHand = %1"_s.arg(31 * sign), u"1,2"_s,
-             u"1,2,4,8,16"_s, 15},
-            {"first balance", u"INSERT"_s, u"IBalance"_s, u"NEW.QtyOnHand = %1"_s.arg(sign), u"1"_s, u"1"_s, 0},
+        const QString insert = u"INSERT"_s, update = u"UPDATE"_s, onHand = u"NEW.QtyOnHand = %1"_s;
+        // What fails; the documents posted, the history and the quantity on hand afterwards.
+        const std::tuple<QString, QString, QString, QString, QString, int> cases[] = {
+            {update, kind->headerTable, u"NEW.%1 = 2"_s.arg(kind->keyField), u"1"_s, u"1,2,4"_s, 7},
+            {insert, u"IHist"_s, u"NEW.Quantity = 16"_s, u"1,2"_s, u"1,2,4,8"_s, 15},
+            {update, u"IBalance"_s, onHand.arg(31 * sign), u"1,2"_s, u"1,2,4,8,16"_s, 15},
+            {insert, u"IBalance"_s, onHand.arg(sign), u"1"_s, u"1"_s, 0},
         };
-        for (const auto &c : cases) {
-            SCOPED_TRACE(kind->name.toStdString() + ' ' + c.name);
-            kitchen.execute(
-                u"DELETE FROM IBalance; DELETE FROM IHist; UPDATE %1 SET Posted = false"_s.arg(kind->headerTable));
-            const BrokenTable broken(kitchen, c.event, c.table, c.condition);
+        for (const auto &[event, table, condition, posted, history, stays] : cases) {
+            SCOPED_TRACE(qPrintable(u"%1: %2 %3"_s.arg(kind->name, event, table)));
+            kitchen.execute(u"DELETE FROM IBalance; DELETE FROM IHist; UPDATE %1 SET Posted = false"_s,
+                            kind->headerTable);
+            const BrokenTable broken(kitchen, event, table, condition);
             EXPECT_THROW(post(*kind), Engine::EngineError);
-            expect(c.posted, c.history, sign * c.onHand, *kind);
+            expect(posted, history, sign * stays, *kind);
         }
     }
 }
@@ -84,38 +79,31 @@ TEST_P(FailingPosting, ADocumentThatARuleRefusesIsLeftAloneAndNamedAgain)
     const auto &receipt = DocumentKinds::receipt();
     const auto &usage = DocumentKinds::usage();
     const auto &adjustment = DocumentKinds::adjustment();
-    const struct
-    {
-        const DocumentKind &kind;
-        QString spoils; // of the second document
-        QString name, why;
-    } cases[] = {
-        {receipt, u"UnitCost = CASE Seq WHEN 3 THEN 1e18 ELSE 1 END"_s, u"Receipt: 10002"_s, amount},
-        {receipt, u"UnitCost = 1, QtyReceived = CASE Seq WHEN 3 THEN 1e15 ELSE 1 END"_s, u"Receipt: 10002"_s,
-         amount},
-        {receipt, u"UnitCost = 0, QtyReceived = CASE Seq WHEN 1 THEN 1 ELSE 1e308 END"_s, u"Receipt: 10002"_s,
-         balance},
-        {usage, u"UnitCost = CASE Seq WHEN 3 THEN -1e18 ELSE 1 END"_s, u"Inventory Usage No: 10002"_s, amount},
-        {usage, u"UnitCost = 1, Quantity = CASE Seq WHEN 1 THEN 1 ELSE 1e308 END"_s, u"Inventory Usage No: 10002"_s,
-         balance},
+    const QString receipt2 = u"Receipt: 10002"_s, usage2 = u"Inventory Usage No: 10002"_s;
+    // What spoils the second document.
+    const std::tuple<const DocumentKind &, QString, QString, QString> cases[] = {
+        {receipt, u"UnitCost = CASE Seq WHEN 3 THEN 1e18 ELSE 1 END"_s, receipt2, amount},
+        {receipt, u"UnitCost = 1, QtyReceived = CASE Seq WHEN 3 THEN 1e15 ELSE 1 END"_s, receipt2, amount},
+        {receipt, u"UnitCost = 0, QtyReceived = CASE Seq WHEN 1 THEN 1 ELSE 1e308 END"_s, receipt2, balance},
+        {usage, u"UnitCost = CASE Seq WHEN 3 THEN -1e18 ELSE 1 END"_s, usage2, amount},
+        {usage, u"UnitCost = 1, Quantity = CASE Seq WHEN 1 THEN 1 ELSE 1e308 END"_s, usage2, balance},
         {adjustment, u"Quantity = CASE Seq WHEN 1 THEN 1 ELSE -1e308 END"_s, u"Spoiled"_s, balance},
     };
-    for (const auto &c : cases) {
-        SCOPED_TRACE((c.name + u' ' + c.why).toStdString());
+    for (const auto &[kind, spoils, name, why] : cases) {
+        SCOPED_TRACE(qPrintable(name + u' ' + why));
         kitchen.execute(
-            u"DELETE FROM IBalance; DELETE FROM IHist; UPDATE %1 SET Posted = false; "
-            "UPDATE %2 SET %3 WHERE %4 = 2"_s.arg(c.kind.headerTable, c.kind.lineTable, c.spoils, c.kind.keyField));
-        const double onHand = 7 * signOf(c.kind);
-        for (int run = 1; run <= 2; ++run) {
-            const QString before = run == 1 ? u"\n%1 before it."_s.arg(c.kind.posting.postedText(1)) : QString();
-            EXPECT_EQ(refusalOf([&] { post(c.kind); }), text.arg(c.name, c.why, before)) << run;
-            expect(u"1"_s, u"1,2,4"_s, onHand, c.kind);
+            u"DELETE FROM IBalance; DELETE FROM IHist; UPDATE %1 SET Posted = false; UPDATE %2 SET %3 WHERE %4 = 2"_s,
+            kind.headerTable, kind.lineTable, spoils, kind.keyField);
+        const double onHand = 7 * signOf(kind);
+        for (const QString &before : {u"\n%1 before it."_s.arg(kind.posting.postedText(1)), QString()}) {
+            EXPECT_EQ(refusalOf([&, &kind = kind] { post(kind); }), text.arg(name, why, before));
+            expect(u"1"_s, u"1,2,4"_s, onHand, kind);
         }
-        kitchen.execute(u"UPDATE %1 SET %2 = 0%3 WHERE %4 = 2"_s.arg(
-            c.kind.lineTable, c.kind.entry.lineColumns.constFirst().field,
-            &c.kind == &adjustment ? QString() : u", UnitCost = 1"_s, c.kind.keyField));
-        post(c.kind);
-        expect(u"1,2,3"_s, u"1,2,4,0,0,0,64,128,256"_s, onHand * 65, c.kind);
+        kitchen.execute(u"UPDATE %1 SET %2 = 0%3 WHERE %4 = 2"_s, kind.lineTable,
+                        kind.entry.lineColumns.constFirst().field,
+                        &kind == &adjustment ? QString() : u", UnitCost = 1"_s, kind.keyField);
+        post(kind);
+        expect(u"1,2,3"_s, u"1,2,4,0,0,0,64,128,256"_s, onHand * 65, kind);
     }
 }
 

@@ -26,31 +26,28 @@ void addMany(Kitchen &kitchen, const DocumentKind &kind)
     connection.commit();
 }
 
-QStringList stock(Kitchen &kitchen)
+QString stock(Kitchen &kitchen)
 {
-    return kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s)
-        + kitchen.rows(u"SELECT ItemID, WgtAvgCost FROM Item ORDER BY 1"_s);
+    return kitchen.balances() + kitchen.found(u"SELECT ItemID, WgtAvgCost FROM Item ORDER BY 1"_s);
 }
 
 double posted(Kitchen &kitchen, const DocumentKind &kind)
 {
-    return kitchen.number(u"SELECT count(*) FROM %1 WHERE Posted = true"_s.arg(kind.headerTable));
+    return kitchen.number(u"SELECT count(*) FROM %1 WHERE Posted = true"_s, kind.headerTable);
 }
 
 // Every document has all of its lines in the history or none, as its flag says, and the balances say the same.
 void expectWholeDocuments(Kitchen &kitchen, const DocumentKind &kind)
 {
-    EXPECT_EQ(kitchen.rows(u"SELECT I.%1 FROM %2 I LEFT OUTER JOIN (SELECT %1, count(*) AS Lines "
-                           "FROM IHist GROUP BY %1) H ON I.%1 = H.%1 "
-                           "WHERE coalesce(Lines, 0) <> CASE WHEN I.Posted = true THEN %3 ELSE 0 END"_s
-                               .arg(kind.keyField, kind.headerTable)
-                               .arg(LinesEach)),
-              QStringList());
-    const QString sign = &kind == &DocumentKinds::usage() ? u"-"_s : QString();
     EXPECT_EQ(
-        kitchen.rows(
-            u"SELECT ItemID, WarehouseID, %1sum(Quantity) FROM IHist GROUP BY 1, 2 ORDER BY 1, 2"_s.arg(sign)),
-        kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s));
+        kitchen.found(
+            u"SELECT I.%1 FROM %2 I LEFT OUTER JOIN (SELECT %1, count(*) AS Lines FROM IHist GROUP BY %1) H ON I.%1 = H.%1 WHERE coalesce(Lines, 0) <> CASE WHEN I.Posted = true THEN %3 ELSE 0 END"_s
+                .arg(kind.keyField, kind.headerTable)
+                .arg(LinesEach)),
+        QString());
+    EXPECT_EQ(kitchen.found(u"SELECT ItemID, WarehouseID, %1sum(Quantity) FROM IHist GROUP BY 1, 2 ORDER BY 1, 2"_s,
+                            &kind == &DocumentKinds::usage() ? u"-"_s : QString()),
+              kitchen.balances());
 }
 
 void killPosters(Store store, const DocumentKind &kind)

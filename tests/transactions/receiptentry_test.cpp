@@ -1,6 +1,7 @@
 #include "transactions/receiptentry.h"
 
 #include "engine/store/lockmanager.h"
+#include "tests/support/givenrules.h"
 #include "tests/support/kitchen.h"
 
 using namespace Qt::StringLiterals;
@@ -72,11 +73,12 @@ TEST_P(Entry, ANewReceiptIsNumberedDatedAndSaved)
     addLine(2, -1, 0);
     entry.save();
 
-    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, "
-                           "CASE WHEN Posted = false THEN 'open' END FROM IReceipt"_s),
-              QStringList(u"42|5001|2026|3|2026-08-09|1|2|open"_s));
+    EXPECT_EQ(
+        kitchen.found(
+            u"SELECT ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, CASE WHEN Posted = false THEN 'open' END FROM IReceipt"_s),
+        u"42|5001|2026|3|2026-08-09|1|2|open");
     EXPECT_EQ(kitchen.lines(42), (QStringList{u"1|1|5|3.25"_s, u"2|2|-1|0"_s}));
-    EXPECT_EQ(kitchen.rows(u"SELECT NextInvReceiptID, NextInvReceiptNo FROM ItemCtl"_s), QStringList(u"43|5002"_s));
+    EXPECT_EQ(kitchen.found(u"SELECT NextInvReceiptID, NextInvReceiptNo FROM ItemCtl"_s), u"43|5002");
     EXPECT_TRUE(entry.wasSaved());
     EXPECT_EQ(entry.closing(), DocumentEntry::Closing::Free);
 }
@@ -91,14 +93,10 @@ TEST_P(Entry, HeaderChecksSpeakInTheirOrder)
     const QString notAllowed =
         u"GL Period is not within allowed range \nas defined by \"Your Company\" -> GLPeriod"_s;
     const QString askedAndCancelled = u"silent -> GLPeriod"_s;
-    const struct
-    {
-        const char *name;
-        QString company; // settings that are changed
-        std::function<void()> spoil;
-        QString refusal;
-    } cases[] = {
-        {"no vendor", u"FiscalYear = 0"_s, [&] { entry.chooseVendorByNumber({}); },
+    const QString question = u"Warning: GL Period is not within expected range \nas defined by \"Your Company\"."_s;
+    // The settings that are changed, and what is spoilt.
+    const std::tuple<const char *, QString, std::function<void()>, QString> cases[] = {
+        {"no vendor", u"FiscalYear = 0"_s, [&] { entry.chooseVendorByNumber({}); }, // which comes first
          u"Field 'Vendor' must have a value -> VendorNo"_s},
         {"no fiscal year", u"FiscalYear = NULL"_s, none,
          u"Current fiscal year is not yet defined...\nSee \"Your Company\" -> GLPeriod"_s},
@@ -120,23 +118,20 @@ TEST_P(Entry, HeaderChecksSpeakInTheirOrder)
         {"no number", unchanged, set(u"ReceiptNo"_s, {}), u"Field 'Receipt no.' must have a value -> ReceiptNo"_s},
         {"no period", unchanged, set(u"GLPeriod"_s, {}), u"Field 'Period' must have a value -> GLPeriod"_s},
     };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto &[name, settings, spoil, refusal] : cases) {
+        SCOPED_TRACE(name);
         company(u"FiscalYear = 2026, EPeriodFromYYYY = NULL, EPeriodFromPP = NULL, EPeriodToYYYY = NULL, "
                 "EPeriodToPP = NULL, WPeriodFromYYYY = NULL, WPeriodFromPP = NULL, WPeriodToYYYY = NULL, "
                 "WPeriodToPP = NULL"_s);
         newReceipt();
-        company(c.company);
-        c.spoil();
+        company(settings);
+        spoil();
         prompts.take();
         prompts.ok = false;
-        EXPECT_EQ(refusalOf([&] { entry.save(); }), c.refusal);
-        EXPECT_EQ(entry.header().state() == TableState::Insert, !c.refusal.isEmpty());
-        const bool asks = c.refusal == askedAndCancelled;
-        EXPECT_EQ(prompts.said,
-                  QStringList(asks,
-                              u"Warning: GL Period is not within expected range \nas defined by "
-                              "\"Your Company\"."_s));
+        EXPECT_EQ(refusalOf([&] { entry.save(); }), refusal);
+        EXPECT_EQ(entry.header().state() == TableState::Insert, !refusal.isEmpty());
+        const bool asks = refusal == askedAndCancelled;
+        EXPECT_EQ(prompts.told(), asks ? question : QString());
         prompts.ok = true;
         EXPECT_TRUE(!asks || refusalOf([&] { entry.save(); }).isEmpty()) << "the user insists";
         entry.cancel();
@@ -206,8 +201,7 @@ TEST_P(Entry, LinesThatAnotherUserHasSavedStay)
     ReceiptEntry theirs(other->database, prompts);
     theirs.open();
     const auto open = [&] {
-        ASSERT_TRUE(entry.openDocument(7));
-        ASSERT_TRUE(theirs.openDocument(7));
+        ASSERT_TRUE(entry.openDocument(7) && theirs.openDocument(7));
         ASSERT_EQ(entry.lines().recordCount(), theirs.lines().recordCount());
     };
     open();
@@ -227,18 +221,15 @@ TEST_P(Entry, LinesThatAnotherUserHasSavedStay)
 
     // What is about to be changed is gone by then, or another line has its number.
     const QString gone = u"This line was deleted or replaced by another user. The lines are shown anew. -> Lines"_s;
-    const struct
-    {
-        const char *name;
-        std::function<void()> meanwhile;
-    } cases[] = {{"deleted", [&] { theirs.lines().first(), theirs.removeLine(); }},
-                 {"replaced", [&] { changeLine(theirs, 0, u"ItemID", 3); }}};
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.name);
+    const std::pair<const char *, std::function<void()>> cases[] = {
+        {"deleted", [&] { theirs.lines().first(), theirs.removeLine(); }},
+        {"replaced", [&] { changeLine(theirs, 0, u"ItemID", 3); }}};
+    for (const auto &[name, happens] : cases) {
+        SCOPED_TRACE(name);
         open();
         entry.lines().first();
         ASSERT_FALSE(entry.lines().value(u"ItemID").isNull()) << "looked at";
-        c.meanwhile();
+        happens();
         theirs.save();
         const QStringList now = kitchen.lines(7);
         EXPECT_EQ(refusalOf([&] { entry.removeLine(); }), gone);
@@ -257,33 +248,13 @@ TEST_P(Entry, ATakenNumberOfALineIsNotToldAsTheReceiptsAndGivenAnew)
     addLine(2, 1, 1);
     enterLine(entry, 3, 2.0, 4.0);
     kitchen.execute(
-        u"INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (%1, 3, 1, 9, 9)"_s.arg(
-            entry.key()));
+        u"INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (%1, 3, 1, 9, 9)"_s,
+        entry.key());
     EXPECT_EQ(refusalOf([&] { entry.lines().post(); }), // as leaving the line does
               u"The line could not be saved because another one was added meanwhile. Try again. -> Lines");
     entry.save();
     EXPECT_EQ(kitchen.lines(entry.key()), (QStringList{u"1|1|5|3.25"_s, u"2|2|1|1"_s, u"3|1|9|9"_s, u"4|3|2|4"_s}));
 }
-
-// Something happens once the checks are passed, just before the record is written.
-struct Unanswered final : Engine::RecordRules
-{
-    Unanswered(Engine::RecordRules &inner, std::function<void()> happening)
-        : checks(inner)
-        , happens(std::move(happening))
-    {
-    }
-    void post(const Step &save) override
-    {
-        checks.post([&] {
-            happens();
-            save();
-        });
-    }
-
-    Engine::RecordRules &checks;
-    std::function<void()> happens;
-};
 
 // On a server a connection can be lost with a document in edit.
 class EntryOnAServer : public testing::Test
@@ -322,27 +293,23 @@ protected:
 
 TEST_F(EntryOnAServer, WhatOthersDoMeanwhileIsNotOverwrittenAndTold)
 {
-    const struct
-    {
-        const char *meanwhile;
-        QStringList stays;
-    } cases[] = {
-        {"UPDATE IReceipt SET Posted = true", {u"50"_s, u"6"_s}},
-        {"UPDATE IRecDet SET QtyReceived = 60 WHERE Seq = 2", {u"50"_s, u"60"_s}},
-        {"INSERT INTO IRecDet (ReceiptID, Seq, QtyReceived) VALUES (7, 3, 8)", {u"50"_s, u"6"_s, u"8"_s}},
-        {"DELETE FROM IReceipt", {u"50"_s, u"6"_s}},
+    const std::pair<QString, QStringList> cases[] = {
+        {u"UPDATE IReceipt SET Posted = true"_s, {u"50"_s, u"6"_s}},
+        {u"UPDATE IRecDet SET QtyReceived = 60 WHERE Seq = 2"_s, {u"50"_s, u"60"_s}},
+        {u"INSERT INTO IRecDet (ReceiptID, Seq, QtyReceived) VALUES (7, 3, 8)"_s, {u"50"_s, u"6"_s, u"8"_s}},
+        {u"DELETE FROM IReceipt"_s, {u"50"_s, u"6"_s}},
     };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.meanwhile);
+    for (const auto &[meanwhile, stays] : cases) {
+        SCOPED_TRACE(qPrintable(meanwhile));
         change(50);
         cut();
         EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
-        anna->database.connection().execute(QString::fromLatin1(c.meanwhile));
+        anna->database.connection().execute(meanwhile);
         QString refusal;
         EXPECT_TRUE(errorOf([&] { refusal = refusalOf([&] { entry->save(); }); }) || !refusal.isEmpty());
         entry->cancel();
-        EXPECT_EQ(stored(), c.stays);
-        EXPECT_TRUE(prompts.last().contains(u"Lines changed: 1."_s)) << prompts.last().toStdString();
+        EXPECT_EQ(stored(), stays);
+        EXPECT_TRUE(has(prompts.last(), u"Lines changed: 1."_s));
         EXPECT_EQ(entry->closing(), DocumentEntry::Closing::Free);
         anna->database.connection().execute(u"DELETE FROM IRecDet; DELETE FROM IReceipt"_s);
         kitchen.addReceipt(7, 1, 1, {{1, 5, 1}, {2, 6, 1}});
@@ -392,21 +359,25 @@ TEST_F(EntryOnAServer, AReceiptThatWasStoredUnnoticedIsNobodyElsesChange)
         change(cancelled ? 50 : 60);
         const QString number = cancelled ? u"P1"_s : u"P2"_s;
         entry->header().set(u"PurchaseOrderNo", number);
-        Unanswered unanswered(*entry->header().rules, [&] {
-            cut();
-            anna->database.connection().execute(u"UPDATE IReceipt SET PurchaseOrderNo = '%1'"_s.arg(number));
-        });
+        GivenRules unanswered;
         Engine::RecordRules *const checks = std::exchange(entry->header().rules, &unanswered);
+        unanswered.aroundPost = [&](const auto &save) {
+            checks->post([&] {
+                cut();
+                anna->database.connection().execute(u"UPDATE IReceipt SET PurchaseOrderNo = '%1'"_s.arg(number));
+                save();
+            });
+        };
         EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
         entry->header().rules = checks;
         if (cancelled)
             entry->cancel();
         else
             entry->save();
-        const QStringList told = prompts.take();
+        const QString told = prompts.told();
         EXPECT_EQ(told.contains(u"warn: The document had been saved before the connection was lost. It stays."_s),
                   cancelled)
-            << told.join(u'\n').toStdString();
+            << qPrintable(told);
         EXPECT_EQ(stored(), (QStringList{cancelled ? u"50"_s : u"60"_s, u"6"_s}));
         EXPECT_TRUE(isFree());
     }

@@ -61,8 +61,8 @@ TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
     EXPECT_EQ(prompts.said, QStringList());
     ASSERT_EQ(saved.size(), 1);
     const int key = saved.first().first().toInt();
-    EXPECT_EQ(kitchen.rows(u"SELECT ReceiptNo, VendorID, WarehouseID, GLYear, GLPeriod FROM IReceipt"_s),
-              QStringList(u"1001|1|2|2026|3"_s));
+    EXPECT_EQ(kitchen.found(u"SELECT ReceiptNo, VendorID, WarehouseID, GLYear, GLPeriod FROM IReceipt"_s),
+              u"1001|1|2|2026|3");
     EXPECT_EQ(kitchen.lines(key), (QStringList{u"1|1|5|3"_s, u"2|2|2|1.25"_s}));
 
     DocumentPostScreen dialog(*context, DocumentKinds::receipt(), mainWindow.get());
@@ -98,7 +98,7 @@ TEST_F(ReceiptScreenTest, refusalOfTheHeaderMovesTheFocusToItsFieldAndCancelBrin
     child<QLineEdit>(*screen, "editReceiptNo")->setFocus();
     type("1009");
     pressOK();
-    EXPECT_EQ(prompts.take(), QStringList(u"error: Receipt no. already exists"_s));
+    EXPECT_EQ(prompts.told(), u"error: Receipt no. already exists");
     EXPECT_EQ(focusName(), u"editReceiptNo"_s);
     type("1007");
     child<LookupComboBox>(*screen, "cboVendor")->setFocus();
@@ -106,11 +106,11 @@ TEST_F(ReceiptScreenTest, refusalOfTheHeaderMovesTheFocusToItsFieldAndCancelBrin
     grid->setFocus();
     press(Qt::Key_Delete, Qt::ControlModifier);
     pressOK();
-    EXPECT_EQ(prompts.take(), QStringList(u"error: Field 'Vendor' must have a value"_s));
+    EXPECT_EQ(prompts.told(), u"error: Field 'Vendor' must have a value");
     EXPECT_EQ(focusName(), u"editVendorNo"_s);
     type("V1");
     pressOK();
-    EXPECT_EQ(prompts.take(), QStringList(u"error: Quantities have not been entered"_s));
+    EXPECT_EQ(prompts.told(), u"error: Quantities have not been entered");
     EXPECT_EQ(focusName(), u"DBGrid1"_s);
     screen->btnCancelClick();
     settle();
@@ -125,7 +125,7 @@ TEST_F(ReceiptScreenTest, vendorNumberIsLookedUpOnLeavingAndEscapeRestoresIt)
     auto *vendor = child<LookupComboBox>(*screen, "cboVendor");
     type("V77<Tab>");
     QCoreApplication::processEvents();
-    EXPECT_EQ(prompts.take(), QStringList(u"error: Vendor no. 'V77' not found"_s));
+    EXPECT_EQ(prompts.told(), u"error: Vendor no. 'V77' not found");
     EXPECT_EQ(focusName(), u"editVendorNo"_s);
     press(Qt::Key_Escape);
     EXPECT_EQ(vendorNo->text(), u"V1"_s);
@@ -134,7 +134,7 @@ TEST_F(ReceiptScreenTest, vendorNumberIsLookedUpOnLeavingAndEscapeRestoresIt)
     // A suspended vendor cannot be picked from the list either; the box goes back.
     type("Fourth<Tab>");
     QCoreApplication::processEvents();
-    EXPECT_EQ(prompts.take(), QStringList(u"error: Vendor 'V4: Fourth' has been suspended"_s));
+    EXPECT_EQ(prompts.told(), u"error: Vendor 'V4: Fourth' has been suspended");
     EXPECT_EQ(vendor->currentText(), u"Second"_s);
     EXPECT_EQ(vendorNo->text(), u"V2"_s);
 }
@@ -160,14 +160,14 @@ TEST_F(ReceiptScreenTest, typedVendorNumberTouchesTheReceiptWhenItIsTakenOver)
     screen->close();
     settle();
     EXPECT_FALSE(screen);
-    EXPECT_EQ(prompts.take(), QStringList()) << "nothing has changed";
+    EXPECT_EQ(prompts.told(), QString()) << "nothing has changed";
 
     open(7);
     type("V2");
     prompts.answer = Answer::Yes;
     screen->close();
     settle();
-    EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save changes?"_s)) << "what is typed is not lost";
+    EXPECT_EQ(prompts.told(), u"Do you want to save changes?") << "what is typed is not lost";
     EXPECT_EQ(kitchen.number(u"SELECT VendorID FROM IReceipt"_s), 2);
 }
 
@@ -184,18 +184,18 @@ TEST_F(ReceiptScreenTest, aDateFarAwayIsAskedAboutOnce)
         u"Warning: 1 Jan %1 is more than a year away from today.\nDo you want this date all the same?"_s;
     prompts.ok = false;
     enter("010150");
-    EXPECT_EQ(prompts.take(), QStringList(question.arg(1950)));
+    EXPECT_EQ(prompts.told(), question.arg(1950));
     EXPECT_EQ(focusName(), u"editReceiptDate"_s);
     EXPECT_EQ(date->text(), u"01/01/50"_s) << "to be mended";
     prompts.ok = true;
     press(Qt::Key_Tab);
     settle();
-    EXPECT_EQ(prompts.take(), QStringList(question.arg(1950)));
+    EXPECT_EQ(prompts.told(), question.arg(1950));
     EXPECT_EQ(date->text(), u"01 Jan 50"_s);
     EXPECT_NE(focusName(), u"editReceiptDate"_s) << "the cursor has gone on";
     enter("042026");
     enter("010150");
-    EXPECT_EQ(prompts.take(), QStringList()) << "the same again";
+    EXPECT_EQ(prompts.told(), QString()) << "the same again";
     typeOver(*screen, "editReceiptDate", "1/1/1");
     pressOK();
     settle();
@@ -204,7 +204,7 @@ TEST_F(ReceiptScreenTest, aDateFarAwayIsAskedAboutOnce)
     enter("1201");
     EXPECT_EQ(date->text(), u"01 Dec 25"_s) << "the year that is nearest";
     enter("1345");
-    EXPECT_EQ(prompts.take(), QStringList(u"error: '13/45/' is not a valid date. It is entered as mm/dd/yy."_s));
+    EXPECT_EQ(prompts.told(), u"error: '13/45/' is not a valid date. It is entered as mm/dd/yy.");
     screen->btnCancelClick();
 }
 

@@ -43,6 +43,7 @@ protected:
         }
     }
 
+    // Of what is not zero.
     QStringList balances()
     {
         return kitchen.rows(
@@ -51,9 +52,8 @@ protected:
     QStringList sums()
     {
         return kitchen.rows(
-            u"SELECT ItemID, WarehouseID, sum(CASE WHEN TransType IN (2, 5) THEN -Quantity ELSE Quantity END) "
-            "FROM IHist GROUP BY ItemID, WarehouseID "
-            "HAVING sum(CASE WHEN TransType IN (2, 5) THEN -Quantity ELSE Quantity END) <> 0 ORDER BY 1, 2"_s);
+            u"SELECT * FROM (SELECT ItemID, WarehouseID, sum(CASE WHEN TransType IN (2, 5) THEN -Quantity "
+            "ELSE Quantity END) AS Total FROM IHist GROUP BY 1, 2) S WHERE Total <> 0 ORDER BY 1, 2"_s);
     }
 
     std::mt19937 random;

@@ -37,9 +37,9 @@ protected:
         entry.lines().post();
     }
     QString total() { return entry.header().text(u"InvoiceAmount"); }
-    QStringList stored()
+    QString stored()
     {
-        return kitchen.rows(
+        return kitchen.found(
             u"SELECT UsageNo, Seq, Quantity, UnitCost, TaxCodes, ItemOvDesc, InvoiceAmount FROM IUsage "
             "JOIN IUsageDet ON IUsageDet.UsageID = IUsage.UsageID ORDER BY Seq"_s);
     }
@@ -57,8 +57,7 @@ TEST_P(UsageDocument, ANewOneIsNumberedFromTheInvoicesAndTakesTheFirstLocation)
                                                 {10'000'001, u"10001"_s}};
     for (const auto &[next, number] : counters) {
         kitchen.execute(
-            u"DELETE FROM ARInvCtl; INSERT INTO ARInvCtl (NextInvoiceID, NextInvoiceNo) VALUES (7, %1)"_s.arg(
-                next));
+            u"DELETE FROM ARInvCtl; INSERT INTO ARInvCtl (NextInvoiceID, NextInvoiceNo) VALUES (7, %1)"_s, next);
         entry.newDocument();
         EXPECT_EQ(entry.caption(), u"Inventory Usage "_s + number);
         EXPECT_EQ(entry.key(), 7);
@@ -72,6 +71,9 @@ TEST_P(UsageDocument, ANewOneIsNumberedFromTheInvoicesAndTakesTheFirstLocation)
     EXPECT_EQ(refusalOf([&] { entry.save(); }), u"No inventory usage has been entered -> Lines");
     addLine(1, 1);
     EXPECT_EQ(refusalOf([&] { entry.save(); }), u"Location no longer exists -> WarehouseID");
+    entry.header().set(u"WarehouseID", 1);
+    kitchen.execute(u"INSERT INTO Warehse (WarehouseID) VALUES (1)"_s);
+    EXPECT_EQ(refusalOf([&] { entry.save(); }), u"Field 'Usage no.' must have a value -> UsageNo");
 }
 
 TEST_P(UsageDocument, TakesTheCostOfItsItemsByTheirCostingMethod)
@@ -118,9 +120,7 @@ TEST_P(UsageDocument, KeepsATotalOfItsLinesAndBringsThemBackWithoutCosts)
     entry.lines().set(u"UnitCost", 123.45); // the total is at what the item costs, not at this
     entry.lines().set(u"ItemOvDesc", u"Rye"_s);
     entry.save(); // with the line still in edit
-    const QStringList saved{u"10001|1|3|1.25|||53.75"_s, u"10001|2|5|123.45||Rye|53.75"_s};
-    EXPECT_EQ(stored(), saved);
-
+    EXPECT_EQ(stored(), u"10001|1|3|1.25|||53.75 10001|2|5|123.45||Rye|53.75");
     ASSERT_TRUE(entry.openDocument(entry.key()));
     entry.lines().edit();
     entry.lines().set(u"Quantity", 90.0);
@@ -129,7 +129,7 @@ TEST_P(UsageDocument, KeepsATotalOfItsLinesAndBringsThemBackWithoutCosts)
     entry.removeLine();
     EXPECT_TRUE(entry.header().value(u"InvoiceAmount").isNull());
     entry.cancel();
-    EXPECT_EQ(stored(), (QStringList{u"10001|1|3||1.2||53.75"_s, u"10001|2|5||123|Rye|53.75"_s}));
+    EXPECT_EQ(stored(), u"10001|1|3||1.2||53.75 10001|2|5||123|Rye|53.75");
 }
 
 // What the lines show, in hundredths of the amounts that are shown beside them.
@@ -152,7 +152,6 @@ TEST_P(UsageDocument, KeepsTheTotalAtTheSumOfItsLinesWhateverItWasBefore)
     entry.lines().refresh();
     addLine(1, 1);
     EXPECT_EQ(total(), u"27.5") << "at the cost of the lines beside it";
-    EXPECT_EQ(total(), shown());
     EXPECT_EQ(entry.lines().text(u"UnitCost"), u"1.25");
     addLine(1, 2); // an item that was not on the screen
     EXPECT_EQ(total(), u"29.5");
@@ -172,15 +171,6 @@ TEST_P(UsageDocument, KeepsTheTotalAtTheSumOfItsLinesWhateverItWasBefore)
     setQuantity(5.0);
     EXPECT_EQ(total(), u"48");
     EXPECT_EQ(total(), shown());
-}
-
-TEST_P(UsageDocument, NeedsANumberAsAReceiptDoes)
-{
-    entry.newDocument();
-    entry.header().set(u"UsageNo", {});
-    addLine(1, 1);
-    EXPECT_EQ(refusalOf([&] { entry.save(); }), u"Field 'Usage no.' must have a value -> UsageNo");
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IUsage"_s), 0);
 }
 
 TEST_P(UsageDocument, HasNoAmountOfZeroWhereTheStoreIsLost)

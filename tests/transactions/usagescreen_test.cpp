@@ -104,8 +104,7 @@ TEST_F(UsageScreenTest, leadsBackToTheItemWithoutTheSearchAndAsksInItsOwnWords)
 {
     open();
     type("<PgDown>3<PgDown>"); // the line has no item yet
-    EXPECT_EQ(prompts.take(),
-              QStringList(u"error: Field 'Item no.' must have a value...\nMake changes or press Esc to undo"_s));
+    EXPECT_EQ(prompts.told(), u"error: Field 'Item no.' must have a value...\nMake changes or press Esc to undo");
     QCoreApplication::processEvents();
     EXPECT_EQ(cursor(), u"0,1"_s);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
@@ -115,14 +114,14 @@ TEST_F(UsageScreenTest, leadsBackToTheItemWithoutTheSearchAndAsksInItsOwnWords)
         type("<Tab><Tab>Yeast"); // which is suspended
         leave();
         QCoreApplication::processEvents();
-        EXPECT_EQ(prompts.take(), QStringList(u"error: Item 'X9: Yeast' has been suspended"_s));
+        EXPECT_EQ(prompts.told(), u"error: Item 'X9: Yeast' has been suspended");
         EXPECT_EQ(cursor(), u"0,1"_s);
         EXPECT_FALSE(grid->hasEntry());
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
         EXPECT_EQ(focusName(), u"DBGrid1"_s);
     }
     screen->close();
-    EXPECT_EQ(prompts.take(), QStringList(u"Do you want to save your changes?"_s));
+    EXPECT_EQ(prompts.told(), u"Do you want to save your changes?");
     screen->btnCancelClick();
 }
 
