@@ -2,7 +2,6 @@
 #include "base/rounding.h"
 #include "base/typeddate.h"
 
-#include "base/ruleerror.h"
 #include "tests/support/bothstores.h"
 
 using namespace Qt::StringLiterals;

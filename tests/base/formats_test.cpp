@@ -1,7 +1,6 @@
 #include "base/formats.h"
 
 #include "base/textnumbers.h"
-#include "tests/support/bothstores.h"
 #include "tests/support/failures.h"
 
 #include <limits>

@@ -1,10 +1,9 @@
 #include "base/savedfile.h"
 #include "tests/support/failures.h"
+#include "tests/support/files.h"
 #include "tests/support/smallfiles.h"
 
 #include <fcntl.h>
-#include <gtest/gtest.h>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <sys/stat.h>
@@ -16,16 +15,10 @@ using namespace Tallymere;
 
 namespace {
 
-class SavedFile : public testing::Test
+struct SavedFile : testing::Test
 {
-protected:
     QString path(const QString &name) const { return folder.filePath(name); }
     QByteArray system(const QString &name) const { return QFile::encodeName(path(name)); }
-    static QByteArray content(const QString &file)
-    {
-        QFile read(file);
-        return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray();
-    }
     static QString save(const QString &file, const QByteArray &text, int times = 1)
     {
         return refusalOf([&] {
@@ -45,7 +38,7 @@ TEST_F(SavedFile, ReplacesWhatLinksLeadToAndKeepsTheLinks)
     ASSERT_TRUE(QFile::link(u"file"_s, path(u"near"_s)));
     ASSERT_TRUE(QFile::link(u"near"_s, path(u"far"_s)));
     EXPECT_EQ(save(path(u"far"_s), "new"), QString());
-    EXPECT_EQ(content(path(u"file"_s)), "new");
+    EXPECT_EQ(contentOf(path(u"file"_s)), "new");
     for (const QString &link : {u"near"_s, u"far"_s})
         EXPECT_TRUE(QFileInfo(path(link)).isSymLink()) << link.toStdString();
 }
@@ -84,7 +77,7 @@ TEST_F(SavedFile, TellsWhyADiskThatBecomesFullTakesNoMore)
     const SmallFiles full(100); // takes a part of the text
     const QString refused = save(path(u"file"_s), QByteArray(150, 'x'));
     EXPECT_EQ(refused, u"Unable to save '%1'...\nFile too large -> "_s.arg(path(u"file"_s)));
-    EXPECT_EQ(content(path(u"file"_s)), "old");
+    EXPECT_EQ(contentOf(path(u"file"_s)), "old");
 }
 
 } // namespace

@@ -12,9 +12,8 @@ using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 // In a settings folder of the test's own.
-class SystemSettingsTest : public testing::Test
+struct SystemSettingsTest : testing::Test
 {
-protected:
     void SetUp() override
     {
         folder = qEnvironmentVariable("XDG_CONFIG_HOME");
@@ -75,11 +74,8 @@ TEST(Connection, DatabaseIsLookedForUnderBothNames)
     const QString notDefined =
         u"error: The Corvane database has not been defined. The application can not continue. "
         "Corvane will now terminate..."_s;
-    struct Case
-    {
-        QString mode, alias, spacedAlias, expected, said;
-    };
-    const Case cases[] = {
+    // The mode, the folders under both names, the one that is taken, and what is said.
+    const std::tuple<QString, QString, QString, QString, QString> cases[] = {
         {u"F"_s, folder.path(), u"/elsewhere"_s, folder.path(), {}},
         {u"F"_s, {}, folder.path(), folder.path(), {}},
         {u"F"_s, {}, {}, {}, notDefined},
@@ -89,18 +85,18 @@ TEST(Connection, DatabaseIsLookedForUnderBothNames)
         {u"C"_s, {}, u"/spaced"_s, u"/spaced"_s, {}},
         {u"C"_s, {}, {}, {}, notDefined},
     };
-    for (const Case &c : cases) {
+    for (const auto &[mode, alias, spacedAlias, taken, said] : cases) {
         MemorySettings settings;
-        settings.write(u"Mode"_s, databaseName, c.mode);
-        settings.write(u"Alias"_s, databaseName, c.alias);
-        settings.write(u"Alias"_s, spacedDatabaseName, c.spacedAlias);
+        settings.write(u"Mode"_s, databaseName, mode);
+        settings.write(u"Alias"_s, databaseName, alias);
+        settings.write(u"Alias"_s, spacedDatabaseName, spacedAlias);
         Engine::Session session(u"Main"_s, bothStores());
         Engine::Database database(session, databaseName);
         SpokenPrompts prompts;
-        EXPECT_EQ(databaseTallymereBeforeConnect(database, settings, prompts), c.mode);
-        EXPECT_EQ(database.directory, c.expected);
-        EXPECT_EQ(database.remoteName, c.mode == u"C"_s ? u"Corvane"_s : u""_s);
-        EXPECT_EQ(prompts.said.join(u'|'), c.said);
+        EXPECT_EQ(databaseTallymereBeforeConnect(database, settings, prompts), mode);
+        EXPECT_EQ(database.directory, taken);
+        EXPECT_EQ(database.remoteName, mode == u"C"_s ? u"Corvane"_s : u""_s);
+        EXPECT_EQ(prompts.told(), said);
     }
 }
 

@@ -1,10 +1,5 @@
 #include "tests/cli/clirunner.h"
-
-#include "base/csvreader.h"
-
-#include <ostream>
-#include <QBuffer>
-#include <QFile>
+#include "tests/support/files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,17 +10,7 @@ const auto serverDatabase = u"corvane"_s; // the one the program knows
 
 } // namespace
 
-QList<QStringList> CliResult::rows() const
-{
-    QByteArray bytes = output.toUtf8();
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    Tallymere::CsvReader reader(buffer);
-    QList<QStringList> rows;
-    while (reader.next())
-        rows.append(reader.fields());
-    return rows;
-}
+QList<QStringList> CliResult::rows() const { return csvRows(output.toUtf8()); }
 
 std::ostream &operator<<(std::ostream &stream, const CliResult &result)
 {
@@ -101,9 +86,7 @@ CliResult CliRunner::runBare(const QStringList &words, const QStringList &enviro
 
 QString CliRunner::writeFile(const QString &name, const QByteArray &content)
 {
-    QFile file(m_work.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        throw std::runtime_error("The test's file could not be written.");
+    putContent(m_work.filePath(name), content);
     return name;
 }
 

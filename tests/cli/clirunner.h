@@ -2,11 +2,7 @@
 
 #include "tests/support/bothstores.h"
 
-#include <memory>
-#include <QByteArray>
 #include <QProcess>
-#include <QString>
-#include <QStringList>
 
 // What one run of the program left.
 struct CliResult

@@ -1,15 +1,12 @@
 #include "tests/cli/clirunner.h"
 #include "tests/support/otheruser.h"
 
-#include <QDate>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class CountCommand : public testing::TestWithParam<Store>
+struct CountCommand : testing::TestWithParam<Store>
 {
-protected:
     CountCommand()
     {
         makeSmallCompany(cli);
@@ -18,13 +15,18 @@ protected:
                     "INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) "
                     "SELECT ItemID, WarehouseID, 10 FROM Item, Warehse WHERE ItemNo = 'A1'"_s);
     }
-    CliResult count(const QByteArray &csv, const QStringList &more = {})
+    static QString date(int days = 0) { return QDate::currentDate().addDays(days).toString(Qt::ISODate); }
+    QStringList words(const QByteArray &csv)
     {
-        const QString date = QDate::currentDate().toString(Qt::ISODate);
-        return cli.run(QStringList{u"count"_s, u"--location"_s, u"1"_s, u"--date"_s, date, u"--file"_s,
-                                   cli.writeFile(u"count.csv"_s, csv)}
-                       + more);
+        return {u"count"_s,
+                u"--location"_s,
+                u"1"_s,
+                u"--date"_s,
+                date(),
+                u"--file"_s,
+                cli.writeFile(u"count.csv"_s, csv)};
     }
+    CliResult count(const QByteArray &csv, const QStringList &more = {}) { return cli.run(words(csv) + more); }
 
     CliRunner cli{GetParam()};
 };
@@ -44,7 +46,7 @@ TEST_P(CountCommand, WritesAUsageOfWhatDiffers)
     const auto usages = cli.list({u"list"_s, u"usage"_s});
     ASSERT_EQ(usages.size(), 1);
     EXPECT_EQ(usages[0][u"Posted"_s], u"false"_s);
-    EXPECT_EQ(usages[0][u"InventoryDate"_s], QDate::currentDate().toString(Qt::ISODate));
+    EXPECT_EQ(usages[0][u"InventoryDate"_s], date());
 
     const CliResult again = count("ItemNo,Quantity\nA1,1\n");
     EXPECT_EQ(again.status, 1);
@@ -84,13 +86,10 @@ TEST_P(CountCommand, RefusesWhatItCannotTake)
     EXPECT_EQ(refused.errors,
               "count.csv:"_L1 + messages.join(u"\ncount.csv:"_s) + "\ntallymere: Nothing was counted.\n"_L1);
 
-    const QDate today = QDate::currentDate();
     const std::tuple<QStringList, int, QString> orders[] = {
-        {{u"--location"_s, u"77"_s, u"--date"_s, today.toString(Qt::ISODate)}, 1, u"There is no location 77"_s},
-        {{u"--location"_s, u"1"_s, u"--date"_s, today.addDays(-366).toString(Qt::ISODate)},
-         1,
-         u"less than 365 days"_s},
-        {{u"--location"_s, u"1"_s, u"--date"_s, today.addDays(5).toString(Qt::ISODate)}, 1, u"cannot be later"_s},
+        {{u"--location"_s, u"77"_s, u"--date"_s, date()}, 1, u"There is no location 77"_s},
+        {{u"--location"_s, u"1"_s, u"--date"_s, date(-366)}, 1, u"less than 365 days"_s},
+        {{u"--location"_s, u"1"_s, u"--date"_s, date(5)}, 1, u"cannot be later"_s},
         {{u"--location"_s, u"1"_s, u"--date"_s, u"14.3.26"_s}, 2, u"needs a date as YYYY-MM-DD"_s},
         {{u"--date"_s, u"2026-03-14"_s}, 2, u"needs the option '--location'"_s},
     };
@@ -105,13 +104,7 @@ TEST_P(CountCommand, RefusesWhatItCannotTake)
 // However two counts of a location fall upon each other, the usage is written once.
 TEST_P(CountCommand, TwoAtOnceWriteTheUsageOnce)
 {
-    const QStringList count{u"count"_s,
-                            u"--location"_s,
-                            u"1"_s,
-                            u"--date"_s,
-                            QDate::currentDate().toString(Qt::ISODate),
-                            u"--file"_s,
-                            cli.writeFile(u"count.csv"_s, "ItemNo,Quantity\nA1,4\n")};
+    const QStringList count = words("ItemNo,Quantity\nA1,4\n");
     const int races = timesByHand(4);
     int doubled = 0;
     for (int race = 0; race < races; ++race) {

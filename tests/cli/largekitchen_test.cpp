@@ -1,8 +1,8 @@
-#include "data/datamodule.h"
 #include "host/sample/largekitchen.h"
 #include "host/sample/samplefiles.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
+#include "tests/support/dataplace.h"
 #include "tests/support/spokenprompts.h"
 
 using namespace Qt::StringLiterals;
@@ -15,10 +15,7 @@ QStringList booksOf(Store store, std::uint64_t seed)
     TestStore place(store);
     Tallymere::MemorySettings settings;
     SpokenPrompts prompts;
-    Tallymere::DataModuleOptions options;
-    options.dataFolder = store == Store::Local ? place.directory() : QString();
-    options.server = store == Store::Remote ? u"127.0.0.1"_s : QString();
-    options.serverDatabase = place.remoteName();
+    Tallymere::DataModuleOptions options = placeOf(place);
     options.prepareHost = [](Engine::Database &database) {
         Tallymere::HostTables::createHostTables(database, u"Kitchen"_s, u"USA"_s);
     };

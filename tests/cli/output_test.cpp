@@ -12,9 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Output : public testing::Test
+struct Output : testing::Test
 {
-protected:
     Output() { EXPECT_EQ(cli.run({u"init"_s}).status, 0); }
 
     // In a shell, which can hand on names that no QString stands for. "$T" is the program.

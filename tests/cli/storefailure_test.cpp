@@ -1,7 +1,7 @@
 #include "tests/cli/clirunner.h"
+#include "tests/support/files.h"
 
 #include <QDir>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -12,16 +12,9 @@ TEST(StoreFailure, ADatabaseThatCannotBeOpenedIsNamedAndStaysAsItIs)
     CliRunner cli(Store::Local);
     const QTemporaryDir letters;
     const QByteArray letter = "Dear Anna, this is no database but a letter that got the wrong name.\n";
-    QFile file(letters.filePath(u"Corvane.sqlite"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(letter);
-    file.close();
-    const struct
-    {
-        QStringList words;
-        QStringList environment;
-        QString named;
-    } cases[] = {
+    putContent(letters.filePath(u"Corvane.sqlite"_s), letter);
+    const std::tuple<QStringList, QStringList, QString> cases[] = {
+        // the words, the environment, what is named
         {{u"--data"_s, u"/nowhere/kitchen"_s, u"totals"_s}, {}, u"/nowhere/kitchen"_s},
         {{u"--data"_s, cli.folder(), u"totals"_s}, {}, u"tallymere init"_s},
         {{u"--server"_s, u"127.0.0.1"_s, u"totals"_s}, {u"PGPORT=1"_s}, u"127.0.0.1"_s},
@@ -30,15 +23,14 @@ TEST(StoreFailure, ADatabaseThatCannotBeOpenedIsNamedAndStaysAsItIs)
         {{u"--data"_s, letters.path(), u"init"_s}, {}, u"is not a database"_s},
         {{u"--data"_s, letters.path(), u"sample"_s}, {}, u"is not a database"_s},
     };
-    for (const auto &c : cases) {
-        const CliResult result = cli.runBare(c.words, c.environment);
+    for (const auto &[words, environment, named] : cases) {
+        const CliResult result = cli.runBare(words, environment);
         EXPECT_EQ(result.status, 3);
-        EXPECT_TRUE(result.errors.contains(c.named)) << result;
+        EXPECT_TRUE(has(result.errors, named));
     }
     EXPECT_FALSE(QDir(u"/nowhere"_s).exists());
     EXPECT_FALSE(QFile::exists(cli.folder() + "/Corvane.sqlite"_L1)) << "reading fills no folder";
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), letter);
+    EXPECT_EQ(contentOf(letters.filePath(u"Corvane.sqlite"_s)), letter);
 }
 
 TEST(StoreFailure, OutputThatCannotBeWrittenIsNoSuccess)

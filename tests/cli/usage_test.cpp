@@ -1,5 +1,7 @@
 #include "tests/cli/clirunner.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -39,12 +41,15 @@ TEST(Help, IsThereForTheProgramAndForEachCommandThatItNames)
     CliRunner cli(Store::Local);
     const CliResult all = cli.runBare({u"--help"_s});
     EXPECT_EQ(all.status, 0);
-    for (const QString &command : {u"init"_s, u"sample"_s, u"import"_s, u"post"_s, u"count"_s, u"sync"_s,
-                                   u"totals"_s, u"history"_s, u"list"_s, u"help"_s}) {
-        EXPECT_TRUE(all.output.contains("\n  "_L1 + command)) << command.toStdString();
+    QStringList commands;
+    for (const QString &line : all.output.split(u'\n').filter(QRegularExpression(u"^  [a-z]"_s)))
+        commands << line.trimmed().section(u' ', 0, 0);
+    for (const QString &known : {u"import"_s, u"report"_s, u"help"_s})
+        EXPECT_TRUE(commands.contains(known)) << all;
+    for (const QString &command : std::as_const(commands)) {
         const CliResult one = cli.runBare({command, u"--help"_s});
-        EXPECT_EQ(one.status, 0);
-        EXPECT_TRUE(one.output.contains("COMMAND"_L1) || one.output.contains(command));
+        EXPECT_EQ(one.status, 0) << qPrintable(command);
+        EXPECT_TRUE(has(one.output, command));
     }
     EXPECT_TRUE(cli.runBare({u"help"_s}).output.contains(u"\n  receive "_s));
     EXPECT_TRUE(cli.runBare({u"help"_s, u"receive"_s}).output.startsWith(u"Receive goods\n=============\n"_s));

@@ -3,8 +3,6 @@
 #include "tests/support/bothstores.h"
 #include "tests/support/screendriver.h"
 
-#include <QSignalSpy>
-
 using namespace Tallymere;
 
 namespace {

@@ -30,14 +30,8 @@ TEST(Guard, showsItsBoxesOverItsWindow)
     EXPECT_EQ(parentOf([&] { guard.run([] { throw RuleError(u"No"_s); }); }), &list);
     EXPECT_EQ(parentOf([&] { guard.run([&] { boxes.inform(u"Well"_s); }); }), &list);
     EXPECT_EQ(parentOf([&] { boxes.inform(u"Well"_s); }), &mainWindow) << "the one in use";
-    EXPECT_EQ(parentOf([&] {
-                  guard.run([&] {
-                      list.hide();
-                      boxes.inform(u"Well"_s);
-                  });
-              }),
-              &mainWindow)
-        << "it has gone";
+    const auto goneMeanwhile = [&] { list.hide(), boxes.inform(u"Well"_s); };
+    EXPECT_EQ(parentOf([&] { guard.run(goneMeanwhile); }), &mainWindow);
 }
 
 TEST(MessageBoxes, giveNothingUpAtEnter)
@@ -86,19 +80,18 @@ TEST(MessageBoxes, stayWithinTheScreenAndHaveLettersOnTheirButtons)
     for (const QString &text : texts) {
         QSize size;
         QString letters;
-        EXPECT_TRUE(whileOpen<QMessageBox>([&] { boxes.yesNoCancel(text, {}); },
-                                           [&](QMessageBox &box) {
-                                               for (QAbstractButton *button : box.buttons()) {
-                                                   if (box.standardButton(button) != QMessageBox::NoButton)
-                                                       letters += letterOf(button->text());
-                                                   else
-                                                       button->click(); // all of the text
-                                               }
-                                               QCoreApplication::processEvents();
-                                               size = box.frameGeometry().size();
-                                               EXPECT_TRUE(box.detailedText()
-                                                           == (box.text() == text ? QString() : text));
-                                           }));
+        const auto ask = [&] { boxes.yesNoCancel(text, {}); };
+        EXPECT_TRUE(whileOpen<QMessageBox>(ask, [&](QMessageBox &box) {
+            for (QAbstractButton *button : box.buttons()) {
+                if (box.standardButton(button) != QMessageBox::NoButton)
+                    letters += letterOf(button->text());
+                else
+                    button->click(); // all of the text
+            }
+            QCoreApplication::processEvents();
+            size = box.frameGeometry().size();
+            EXPECT_TRUE(box.detailedText() == (box.text() == text ? QString() : text));
+        }));
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();
         EXPECT_EQ(size, size.boundedTo(screen)) << size.width() << "x" << size.height();
         std::sort(letters.begin(), letters.end());

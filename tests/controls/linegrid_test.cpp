@@ -1,9 +1,9 @@
 #include "base/formats.h"
-#include "base/ruleerror.h"
 #include "controls/grids/linegrid.h"
 #include "engine/records/query.h"
 #include "engine/records/table.h"
 #include "tests/support/bothstores.h"
+#include "tests/support/givenrules.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
 
@@ -24,32 +24,9 @@ const Engine::TableLayout layout{u"Line"_s,
                                   {u"Name"_s, FieldType::Text, 20}},
                                  {{{}, u"LineID"_s, Engine::IndexOption::Primary}}};
 
-struct LineRules final : Engine::RecordRules
-{
-    explicit LineRules(Engine::Table &of)
-        : lines(of)
-    {
-    }
-    void insert(const Step &begin) override
-    {
-        begin();
-        lines.setDefault(u"LineID",
-                         Engine::singleValue(lines.database(), u"SELECT count(*) FROM Line"_s).toInt() + 1);
-    }
-    void post(const Step &save) override
-    {
-        if (lines.text(u"ItemNo").isEmpty())
-            throw RuleError(u"No item"_s, u"ItemNo"_s);
-        save();
-    }
-
-    Engine::Table &lines;
-};
-
 // Two lines between a box and a button: 1, "A", cost 10 and 2, "B", cost 20. A line must have an item.
-class LineGridTest : public testing::Test
+struct LineGridTest : testing::Test
 {
-protected:
     LineGridTest()
     {
         store.database().createTable(layout);
@@ -57,39 +34,43 @@ protected:
             u"INSERT INTO Line (LineID, Quantity, ItemNo, Cost) VALUES (1, 1, 'A', 10), (2, 2, 'B', 20)"_s);
         lines.open();
         lines.field(u"Quantity").format = quantityFormat();
+        rules.aroundInsert = [this](const auto &begin) {
+            begin();
+            lines.setDefault(u"LineID",
+                             Engine::singleValue(store.database(), u"SELECT count(*) FROM Line"_s).toInt() + 1);
+        };
+        rules.aroundPost = [this](const auto &save) {
+            lines.text(u"ItemNo").isEmpty() ? throw RuleError(u"No item"_s, u"ItemNo"_s) : save();
+        };
         lines.rules = &rules;
         box->setObjectName(u"before"_s);
         button->setObjectName(u"after"_s);
         grid->setObjectName(u"grid"_s);
         auto *column = new QVBoxLayout(&window);
-        for (QWidget *widget :
-             {static_cast<QWidget *>(box), static_cast<QWidget *>(grid), static_cast<QWidget *>(button)})
+        for (QWidget *widget : QWidgetList{box, grid, button})
             column->addWidget(widget);
         window.resize(500, 300);
     }
 
     void show(const LineOptions &options = {})
     {
+        const auto begin = [this] { lines.isEditing() ? void() : lines.edit(); };
+        const auto search = [this](const QString &, const QString &typed) {
+            searched << lines.text(u"ItemNo") + u':' + typed;
+            if (!found.isEmpty())
+                lines.set(u"ItemNo", found);
+            return !found.isEmpty();
+        };
         grid->setLines(lines,
                        {{u"Quantity"_s, u"Quantity"_s},
                         {u"ItemNo"_s, u"Item no."_s},
                         {u"Cost"_s, u"Cost"_s},
                         {u"Name"_s, u"Name"_s}},
-                       {.begin =
-                            [this] {
-                                if (!lines.isEditing())
-                                    lines.edit();
-                            },
+                       {.begin = begin,
                         .append = [this] { lines.insert(); },
                         .remove = [this] { lines.remove(); },
                         .enter = [this](const QString &field, const QString &text) { lines.setText(field, text); },
-                        .search =
-                            [this](const QString &, const QString &typed) {
-                                searched << lines.text(u"ItemNo") + u':' + typed;
-                                if (!found.isEmpty())
-                                    lines.set(u"ItemNo", found);
-                                return !found.isEmpty();
-                            },
+                        .search = search,
                         .searchColumns = {u"ItemNo"_s}},
                        guard, options);
         showActive(window);
@@ -108,12 +89,7 @@ protected:
         return grid->viewport()->grab().toImage().pixelColor(corner + place);
     }
     // "1,2" in the grid, else the widget that has the focus.
-    QString cursor() const
-    {
-        return grid->hasFocus() || grid->hasEntry()
-            ? u"%1,%2"_s.arg(grid->currentIndex().row()).arg(grid->currentIndex().column())
-            : focusName();
-    }
+    QString cursor() const { return grid->hasFocus() || grid->hasEntry() ? cursorOf(*grid) : focusName(); }
     QString entry() const
     {
         return grid->hasEntry() ? QApplication::focusWidget()->property("text").toString() : u"-"_s;
@@ -123,7 +99,7 @@ protected:
     SpokenPrompts prompts;
     TestStore store{Store::Local};
     Engine::Table lines{store.database(), u"Line"_s};
-    LineRules rules{lines};
+    GivenRules rules;
     QWidget window;
     QLineEdit *box = new QLineEdit;
     LineGrid *grid = new LineGrid;

@@ -1,20 +1,18 @@
 #include "controls/windows/filechoice.h"
 #include "tests/controls/itemlist.h"
+#include "tests/support/files.h"
 #include "tests/support/screentest.h"
 
 #include <QClipboard>
-#include <QFile>
 #include <QFrame>
-#include <QStatusBar>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class ListScreenTest : public ScreenTest
+struct ListScreenTest : ScreenTest
 {
-protected:
     ListScreenTest()
     {
         kitchen.execute(u"UPDATE Item SET UnitPrice = 1234.5, Suspended = false WHERE ItemID = 1"_s);
@@ -38,11 +36,6 @@ protected:
     static QString status(const ListScreen &screen, const char *label = "lblRows")
     {
         return child<QLabel>(screen, label)->text();
-    }
-    static std::string content(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
     }
 
     QString chosen; // by the user, to save in
@@ -202,9 +195,9 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
     const QTemporaryDir folder;
     chosen = folder.filePath(u"my items.csv"_s);
     save->trigger();
-    const std::string saved = "Item no.,Description,Unit Price,Suspended\r\nA10,Apples,1234.5,false\r\n"
-                              "A11,Bread,,\r\nB1,apricots,,false\r\n";
-    EXPECT_EQ(content(chosen), saved);
+    const QByteArray saved = "Item no.,Description,Unit Price,Suspended\r\nA10,Apples,1234.5,false\r\n"
+                             "A11,Bread,,\r\nB1,apricots,,false\r\n";
+    EXPECT_EQ(contentOf(chosen), saved);
     EXPECT_EQ(items.statusBar()->currentMessage(), u"3 rows saved as "_s + chosen);
     const QString file = std::exchange(chosen, QString());
     proposed.clear();
@@ -218,7 +211,7 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
     prompts.take();
     save->trigger();
     EXPECT_TRUE(prompts.last().startsWith("error: "_L1));
-    EXPECT_EQ(content(chosen), saved) << "the old file stays";
+    EXPECT_EQ(contentOf(chosen), saved) << "the old file stays";
     kitchen.execute(u"ALTER TABLE Away RENAME TO Item"_s);
     refresh(items);
     prompts.take();

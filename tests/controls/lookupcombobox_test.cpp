@@ -5,7 +5,6 @@
 #include "tests/support/teststore.h"
 
 #include <QAccessible>
-#include <QSignalSpy>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -19,9 +18,8 @@ const Engine::TableLayout places{u"Place"_s,
                                  {{{}, u"PlaceID"_s, Engine::IndexOption::Primary},
                                   {u"NAME1"_s, u"Name"_s, Engine::IndexOption::CaseInsensitive}}};
 
-class LookupComboBoxTest : public testing::Test
+struct LookupComboBoxTest : testing::Test
 {
-protected:
     LookupComboBoxTest()
     {
         store.database().createTable(places);

@@ -31,9 +31,8 @@ private:
     QString caption() const override { return u"Card"_s; }
 };
 
-class WindowMemoryTest : public ScreenTest
+struct WindowMemoryTest : ScreenTest
 {
-protected:
     WindowMemoryTest()
     {
         context->settings = &settings;

@@ -5,7 +5,6 @@
 #include <QFormLayout>
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QSpinBox>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -13,9 +12,8 @@ using namespace Tallymere;
 namespace {
 
 // Two pages of fields, one that cannot be turned to between them, and a button under them.
-class WindowRulesTest : public testing::Test
+struct WindowRulesTest : testing::Test
 {
-protected:
     WindowRulesTest()
     {
         new WindowRules(mainWindow);

@@ -3,11 +3,9 @@
 #include "data/layouts.h"
 #include "engine/records/query.h"
 #include "engine/store/lockmanager.h"
-#include "engine/store/tablelocks.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/dataplace.h"
-#include "tests/support/failures.h"
 #include "tests/support/spokenprompts.h"
 #include "tests/support/theirtable.h"
 
@@ -19,9 +17,8 @@ using Engine::ErrorCode;
 using Engine::Table;
 using Engine::Value;
 
-class DataModule : public testing::TestWithParam<Store>
+struct DataModule : testing::TestWithParam<Store>
 {
-protected:
     void makeHost(const QString &postalFormat = u"USA"_s)
     {
         HostTables::createHostTables(store.database(), u"Riverside Meals"_s, postalFormat);
@@ -55,10 +52,9 @@ TEST_P(DataModule, FirstStartMakesEveryTableAndSeedsFourRows)
     for (const Engine::TableLayout &layout : HostTables::layouts())
         EXPECT_FALSE(store.database().differs(layout)) << layout.name.toStdString();
 
-    EXPECT_EQ(
-        store.found(
-            u"SELECT CompanyNo, CompanyName, FiscalYear, DefaultCurrencyID, DefaultNetDays, ClientInvoiceLineItems, InvoiceFormat, DefaultPeriodPP FROM Company"_s),
-        u"1|Riverside Meals|2026|1|30|S|S|");
+    EXPECT_EQ(store.found(u"SELECT CompanyNo, CompanyName, FiscalYear, DefaultCurrencyID, DefaultNetDays, "
+                          "ClientInvoiceLineItems, InvoiceFormat, DefaultPeriodPP FROM Company"_s),
+              u"1|Riverside Meals|2026|1|30|S|S|");
     EXPECT_EQ(store.found(u"SELECT WarehouseID, WarehouseName FROM Warehse"_s), u"1|Office");
     EXPECT_EQ(store.found(u"SELECT BankID, BankName, CurrencyID FROM Bank"_s), u"1|Meal Preparation Account|1");
     EXPECT_EQ(store.found(u"SELECT CurrencyID, ExchangeRate FROM Currency"_s), u"1|1");
@@ -94,7 +90,11 @@ TEST_P(DataModule, LaterStartsFollowTheHostAndKeepTheUsersSettings)
     makeHost();
     start();
     store.execute(
-        u"UPDATE Company SET FiscalYear = 2004, DefaultNetDays = 0, InvoiceFormat = 'I', AddressLine1 = 'typed here', AddressLine3 = 'back door', DefaultCurrencyID = NULL; UPDATE Warehse SET WarehouseName = 'Kitchen'; UPDATE Config SET Organizatn = '%1🥕🥕', Org_Addr = '1 Quay', Org_City = 'Leeds', Org_ZIP = 'LS1', Org_Phone = '0113-496-0000 extension 12345'"_s,
+        u"UPDATE Company SET FiscalYear = 2004, DefaultNetDays = 0, InvoiceFormat = 'I', AddressLine1 = 'typed "
+        "here', AddressLine3 = 'back door', DefaultCurrencyID = NULL; UPDATE Warehse SET WarehouseName = "
+        "'Kitchen'; UPDATE Config SET Organizatn = '%1🥕🥕', Org_Addr = '1 Quay', Org_City = 'Leeds', Org_ZIP "
+        "= "
+        "'LS1', Org_Phone = '0113-496-0000 extension 12345'"_s,
         QString(39, u'n'));
     start();
     // Cut to the field, by whole characters.

@@ -5,7 +5,6 @@
 #include "data/tableactions.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/damage.h"
-#include "tests/support/failures.h"
 #include "tests/support/theirtable.h"
 
 using namespace Qt::StringLiterals;
@@ -79,16 +78,11 @@ TEST(CardNumbers, BrandsAreToldApart)
     }
 }
 
-class Tables : public testing::TestWithParam<Store>
+struct Tables : testing::TestWithParam<Store>
 {
-protected:
-    Tables()
-        : store(GetParam())
-    {
-        store.session().lockAttempts = 1;
-    }
+    Tables() { store.session().lockAttempts = 1; }
 
-    TestStore store;
+    TestStore store{GetParam()};
 };
 
 TEST_P(Tables, UniqueNumbersAreTheLastOneHandedOutPlusOne)

@@ -3,30 +3,24 @@
 #include "data/layouts.h"
 #include "engine/records/query.h"
 #include "tests/support/bothstores.h"
-#include "tests/support/failures.h"
 #include "tests/support/otheruser.h"
 #include "tests/support/theirtable.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
-class NumberCounter : public testing::TestWithParam<Store>
+struct NumberCounter : testing::TestWithParam<Store>
 {
-protected:
     NumberCounter()
-        : store(GetParam())
     {
         for (const Engine::TableLayout *layout : {&Layouts::itemCtl(), &Layouts::vendCtl(), &Layouts::arInvCtl(),
                                                   &Layouts::iReceipt(), &Layouts::iRecDet()})
             store.database().createTable(*layout);
     }
 
-    qint64 stored(const QString &field)
-    {
-        return Engine::singleValue(store.database(), u"SELECT %1 FROM ItemCtl"_s.arg(field)).toInt64();
-    }
+    int stored(const QString &field) { return store.found(u"SELECT %1 FROM ItemCtl"_s, field).toInt(); }
 
-    TestStore store;
+    TestStore store{GetParam()};
 };
 
 TEST_P(NumberCounter, NumbersTakenBeforeAFailureAreUsedUp)
@@ -49,13 +43,9 @@ TEST_P(NumberCounter, AreCalledByWhatTheyCount)
 {
     for (const Engine::TableLayout *layout : {&Layouts::itemCtl(), &Layouts::vendCtl(), &Layouts::arInvCtl()}) {
         for (const Engine::FieldDef &field : layout->fields) {
+            const auto end = [&](CounterRow &row) { row.set(field.name, 3'000'000'000); };
             QString text;
-            errorOf(
-                [&] {
-                    takeNumbers(store.database(), layout->name,
-                                [&](CounterRow &row) { row.set(field.name, 3'000'000'000); });
-                },
-                &text);
+            errorOf([&] { takeNumbers(store.database(), layout->name, end); }, &text);
             EXPECT_TRUE(text.startsWith("The "_L1) && !text.contains(field.name)) << qPrintable(text);
         }
     }

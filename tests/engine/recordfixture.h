@@ -7,9 +7,8 @@
 #include "tests/support/failures.h"
 
 // A small store of vendors and documents with lines, fresh for each test, in both stores.
-class RecordTest : public testing::TestWithParam<Store>
+struct RecordTest : testing::TestWithParam<Store>
 {
-protected:
     RecordTest()
     {
         store.session().lockAttempts = 2;

@@ -6,7 +6,6 @@
 #include "tests/support/files.h"
 
 #include <QDir>
-#include <QFile>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -196,9 +195,8 @@ TEST(RemoteFailures, ATableThatAStrangerWritesToIsNotLocked)
 
 namespace {
 
-class ConnectionLostTest : public testing::Test
+struct ConnectionLostTest : testing::Test
 {
-protected:
     TestStore store{Store::Remote};
     Connection &connection = store.database().connection();
 

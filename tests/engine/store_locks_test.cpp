@@ -24,9 +24,8 @@ template <typename Call> bool soon(Call call)
     return false;
 }
 
-class LocksTest : public StoreTest
+struct LocksTest : StoreTest
 {
-protected:
     LockManager &mine = connection.locks();
     std::unique_ptr<TestUser> annasUser = store.anotherUser();
     LockManager &annas = annasUser->database.connection().locks();

@@ -9,9 +9,8 @@ using namespace Engine;
 namespace {
 
 // More rows than are fetched at once.
-class Moments : public StoreTest
+struct Moments : StoreTest
 {
-protected:
     static constexpr int rows = 600;
 
     void SetUp() override

@@ -33,7 +33,8 @@ void fill(TestStore &store, const TableLayout &layout)
                         : columns.isEmpty()       ? u"i"_s
                                                   : u"i % 7"_s);
     store.execute(
-        u"INSERT INTO %1 WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %2) SELECT %3 FROM n"_s,
+        u"INSERT INTO %1 WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %2) SELECT %3 "
+        "FROM n"_s,
         layout.name, QString::number(rowCount), columns.join(u", "_s));
 }
 

@@ -7,9 +7,8 @@ using namespace Engine;
 
 namespace {
 
-class StatementTest : public StoreTest
+struct StatementTest : StoreTest
 {
-protected:
     void SetUp() override { database.createTable(everyType()); }
 
     void insert(qint64 key, const QString &name)
@@ -157,34 +156,6 @@ TEST_P(StatementTest, AFailureAmongSentStatementsIsReportedAndUndoesTheTransacti
         transaction.commit();
     }
     EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"3"_s);
-}
-
-TEST_P(StatementTest, OrderAndListsOfNumbersAreTheSameInBothStores)
-{
-    const QStringList names{u"b"_s, u"B"_s, u"a"_s, u"Ä"_s, u"_"_s, u"é"_s};
-    for (int i = 0; i < names.size(); ++i)
-        insert(i, names[i]);
-    store.execute(u"INSERT INTO Sample (SampleID) VALUES (99)"_s);
-    const Dialect &dialect = connection.dialect();
-    const auto keys = [&](bool folded, bool descending) {
-        QStringList result;
-        const StatementPtr statement =
-            connection.prepare("SELECT SampleID FROM Sample ORDER BY "_L1
-                               + dialect.orderTerm(u"Name"_s, folded, descending) + ", SampleID"_L1);
-        while (statement->next())
-            result << statement->textAt(0);
-        return result.join(u' ');
-    };
-    EXPECT_EQ(keys(false, false), u"99 1 4 2 0 3 5"_s);
-    EXPECT_EQ(keys(true, false), u"99 4 2 0 1 3 5"_s);
-    EXPECT_EQ(keys(true, true), u"5 3 0 1 2 4 99"_s);
-
-    const StatementPtr some = connection.prepare(u"SELECT count(*) FROM Sample WHERE %1 AND %2 = %3"_s.arg(
-        dialect.inNumberList(u"SampleID"_s), dialect.foldCase(u"Name"_s), dialect.foldCase(u"?"_s)));
-    some->bindText(0, u"[0,1,2,77]"_s);
-    some->bindText(1, u"B"_s);
-    ASSERT_TRUE(some->next());
-    EXPECT_EQ(some->intAt(0), 2);
 }
 
 ON_BOTH_STORES(StatementTest);

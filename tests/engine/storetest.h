@@ -24,9 +24,8 @@ inline Engine::TableLayout everyType()
 }
 
 // A case that runs on both stores.
-class StoreTest : public testing::TestWithParam<Store>
+struct StoreTest : testing::TestWithParam<Store>
 {
-protected:
     TestStore store{GetParam()};
     Engine::Database &database = store.database();
     Engine::Connection &connection = database.connection();

@@ -10,8 +10,6 @@
 #include "tests/support/screendriver.h"
 
 #include <QDirIterator>
-#include <QHeaderView>
-#include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QScreen>
@@ -160,9 +158,8 @@ void onEachPage(QWidget &window, const std::function<void()> &step)
     }
 }
 
-class FormsTest : public testing::Test
+struct FormsTest : testing::Test
 {
-protected:
     FormsTest() { new WindowRules(mainWindow); }
 
     void expectExists(const Described &widget, const Form &form)
@@ -248,7 +245,7 @@ TEST_F(FormsTest, WhatTheFormsNameExists)
 TEST_F(FormsTest, NothingIsClipped)
 {
     visitAll([this](QWidget &window) { expectFit(window); });
-    EXPECT_GT(shown, 40) << "some dialogs did not come";
+    EXPECT_GT(shown, screens.names().size()) << "no dialogs came";
 }
 
 TEST_F(FormsTest, EveryCommandHasALetterOfItsOwnAndEveryListAName)

@@ -1,7 +1,7 @@
 #include "base/initfile.h"
 #include "frame/hostinifile.h"
+#include "tests/support/files.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -12,17 +12,8 @@ namespace {
 class InitFileTest : public testing::Test
 {
 protected:
-    void write(const QByteArray &text)
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
-    QByteArray read() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    void write(const QByteArray &text) { putContent(path(), text); }
+    QByteArray read() const { return contentOf(path()); }
     QString path() const { return m_folder.filePath(u"HX1.ini"_s); }
     QString folder() const { return m_folder.path(); }
 
@@ -42,9 +33,7 @@ TEST_F(InitFileTest, ReadsValuesAsOtherProgramsWriteThem)
           "[Companies]\r\n"
           "Sample Data=\"C:\\Corvane\\Data = old\"\r\n"
           "Sample Data=second\r\n"
-          "K\xFC"
-          "che=Gr\xFC"
-          "n\r\n");
+          "K\xFC\x63he=Gr\xFCn\r\n");
     const InitFile file(path());
     EXPECT_EQ(file.value(u"general", u"DialerPort"), u"com2"_s);
     EXPECT_EQ(file.value(u"Companies", u"sample data"), u"C:\\Corvane\\Data = old"_s);
@@ -63,11 +52,8 @@ TEST_F(InitFileTest, WritingKeepsEveryOtherLine)
          "[companies]\nSample Data=x\nOther=y\n[General]\nSample Data=z\n"},
         {"value there", "; note\n[Companies]\nsample data=old\nOther=y\n",
          "; note\n[Companies]\nSample Data=x\nOther=y\n"},
-        {"line ends and letters of old Windows programs",
-         "; K\xFC"
-         "che\r\n\r\n[Companies]\r\nSample Data=old\r\n",
-         "; K\xFC"
-         "che\r\n\r\n[Companies]\r\nSample Data=x\r\n"},
+        {"line ends and letters of old Windows programs", "; Gr\xFCn\r\n\r\n[Companies]\r\nSample Data=old\r\n",
+         "; Gr\xFCn\r\n\r\n[Companies]\r\nSample Data=x\r\n"},
     };
     for (const auto &[name, before, after] : cases) {
         SCOPED_TRACE(name);

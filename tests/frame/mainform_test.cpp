@@ -4,11 +4,10 @@
 #include "frame/frmtallymeresystem.h"
 #include "reports/reportlist.h"
 #include "tests/frame/testcompany.h"
+#include "tests/support/screendriver.h"
 #include "transactions/documentkinds.h"
 #include "transactions/screens/documentscreens.h"
 
-#include <QAction>
-#include <QPushButton>
 #include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
@@ -55,13 +54,13 @@ TEST_F(MainFormTest, CommandsAreEnabledAsScreensExist)
               (QStringList{u"ActionReceiveInventory"_s, u"ActionViewTotals"_s, u"ActionSynchronizeLocations"_s,
                            u"ActionSynchronizeItems"_s, u"ActionSynchronizeClients"_s}));
 
-    EXPECT_TRUE(form().findChild<QAction *>(u"mnuTotals"_s)->isEnabled());
-    EXPECT_FALSE(form().findChild<QAction *>(u"mnuHistory"_s)->isEnabled());
-    const auto *receive = form().findChild<QPushButton *>(u"ButtonReceiveGoods"_s);
+    EXPECT_TRUE(child<QAction>(form(), "mnuTotals")->isEnabled());
+    EXPECT_FALSE(child<QAction>(form(), "mnuHistory")->isEnabled());
+    const auto *receive = child<QPushButton>(form(), "ButtonReceiveGoods");
     EXPECT_TRUE(receive->isEnabled());
     EXPECT_EQ(receive->toolTip(), u"Enter inventory receipts"_s);
-    EXPECT_EQ(form().findChild<QAction *>(u"mnuReceiveInventory"_s)->statusTip(), receive->statusTip());
-    const auto *post = form().findChild<QPushButton *>(u"ButtonPostReceipts"_s);
+    EXPECT_EQ(child<QAction>(form(), "mnuReceiveInventory")->statusTip(), receive->statusTip());
+    const auto *post = child<QPushButton>(form(), "ButtonPostReceipts");
     EXPECT_FALSE(post->isEnabled());
     EXPECT_TRUE(has(post->toolTip(), u"not available"_s));
 }

@@ -1,17 +1,11 @@
 #include "controls/screens/commandscreen.h"
-#include "engine/records/table.h"
 #include "frame/frmtallymeresystem.h"
 #include "master/screens/dialerinv.h"
 #include "tests/frame/testcompany.h"
+#include "tests/support/screendriver.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
-#include <QMenu>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
@@ -64,9 +58,8 @@ private:
     QStringList &m_done;
 };
 
-class OpeningTest : public testing::Test
+struct OpeningTest : testing::Test
 {
-protected:
     ~OpeningTest() override { EXPECT_EQ(QApplication::overrideCursor(), nullptr); }
 
     // Opens by the host's menu item, does something while the window is open and closes it. False when it did not
@@ -99,6 +92,7 @@ protected:
         context->runAction(action);
         return done.join(u", "_s);
     }
+    void openTotals() { form.findChild<QAction *>(u"mnuTotals"_s)->trigger(); }
 
     ScreenRegistry someScreens()
     {
@@ -210,7 +204,7 @@ TEST_F(OpeningTest, ClosingFreesTheScreensUnlessOneStays)
 {
     link(&host);
     EXPECT_TRUE(open([this] {
-        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
+        openTotals();
         ASSERT_NE(screen, nullptr);
         EXPECT_TRUE(screen->isVisible());
         screen->stubborn = true;
@@ -242,7 +236,7 @@ TEST_F(OpeningTest, WhileItIsOpenItsScreensAreUsableAndTheHostIsNot)
     click(host);
     EXPECT_EQ(pressed, 1);
     EXPECT_TRUE(open([&] {
-        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
+        openTotals();
         addButton(*screen);
         click(*screen);
         EXPECT_EQ(pressed, 2);
@@ -258,7 +252,7 @@ TEST_F(OpeningTest, AScreenRunsItsCommands)
     company.prompts.ok = false;
     const auto question = u"Confirm: Insert any Corvane locations into the \nLedgerwick locations table?"_s;
     EXPECT_TRUE(open([&] {
-        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
+        openTotals();
         context->openScreen(u"frmWarehousesInv"_s);
         context->runAction(u"ActionSynchronizeLocations"_s);
         form.findChild<QAction *>(u"mnuSynchronizeLocations"_s)->trigger();
@@ -293,7 +287,7 @@ TEST_F(OpeningTest, CommandsTakeTheirStepsTheFirstAndTheSecondTime)
     };
     link(&host);
     EXPECT_TRUE(open([&] {
-        form.findChild<QAction *>(u"mnuTotals"_s)->trigger();
+        openTotals();
         delete screen;
         for (const auto &[action, name, first, second, shown] : cases) {
             SCOPED_TRACE(qPrintable(action));

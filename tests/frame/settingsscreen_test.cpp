@@ -1,22 +1,15 @@
 #include "base/settingsstore.h"
 #include "frame/mainoptionsinv.h"
+#include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
-
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class SettingsScreenTest : public testing::Test
+struct SettingsScreenTest : testing::Test
 {
-protected:
     void store(const QString &setting, const QString &value) { setRegString(settings, setting, value); }
     QString stored(const QString &setting) const { return settings.read(setting, u"Corvane"_s); }
     template <typename Widget> Widget *child(const QString &name) { return screen.findChild<Widget *>(name); }
@@ -36,39 +29,34 @@ protected:
 
 TEST_F(SettingsScreenTest, ShowsAndSavesWhatIsStored)
 {
-    struct Case
-    {
-        const char *name;
-        QString mode, link;
-        bool remote;
-        QString pathLabel, shownLink, savedMode;
+    // What is stored; the link that is shown, and saved, and the mode that is saved.
+    const std::tuple<QString, QString, QString, QString> cases[] = {
+        {{}, {}, u"LAN"_s, u"F"_s},
+        {u"C"_s, u"Internet"_s, u"Internet"_s, u"C"_s},
+        {u"c"_s, u"internet"_s, u"LAN"_s, u"F"_s}, // only the exact letter and word count
     };
-    const Case cases[] = {
-        {"nothing stored", {}, {}, false, u"Data Location:"_s, u"LAN"_s, u"F"_s},
-        {"client/server", u"C"_s, u"Internet"_s, true, u"Shared Ini Directory:"_s, u"Internet"_s, u"C"_s},
-        {"only the exact letter and word count", u"c"_s, u"internet"_s, false, u"Data Location:"_s, u"LAN"_s,
-         u"F"_s},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        store(u"Mode"_s, c.mode);
-        store(u"Connection"_s, c.link);
+    for (const auto &[mode, link, shownLink, savedMode] : cases) {
+        SCOPED_TRACE(qPrintable(mode));
+        const bool remote = savedMode == "C"_L1;
+        store(u"Mode"_s, mode);
+        store(u"Connection"_s, link);
         store(u"Alias"_s, u"/srv/kitchen"_s);
         store(u"Server IP"_s, u"10.0.0.7"_s);
         screen.show();
-        EXPECT_EQ(child<QRadioButton>(u"radioClientServer"_s)->isChecked(), c.remote);
+        EXPECT_EQ(child<QRadioButton>(u"radioClientServer"_s)->isChecked(), remote);
         child<QPushButton>(u"BitBtnCancel"_s)->setFocus();
         QTest::keyClick(child<QPushButton>(u"BitBtnCancel"_s), Qt::Key_Tab);
         EXPECT_EQ(screen.focusWidget(),
-                  child<QRadioButton>(c.remote ? u"radioClientServer"_s : u"radioFileServer"_s));
-        EXPECT_EQ(child<QLabel>(u"LabelDataPath"_s)->text(), c.pathLabel);
-        EXPECT_EQ(child<QComboBox>(u"RzComboBoxConnectionType"_s)->currentText(), c.shownLink);
+                  child<QRadioButton>(remote ? u"radioClientServer"_s : u"radioFileServer"_s));
+        EXPECT_EQ(child<QLabel>(u"LabelDataPath"_s)->text(),
+                  remote ? u"Shared Ini Directory:"_s : u"Data Location:"_s);
+        EXPECT_EQ(child<QComboBox>(u"RzComboBoxConnectionType"_s)->currentText(), shownLink);
         press(u"BitBtnOK"_s);
         EXPECT_FALSE(screen.isVisible());
-        EXPECT_EQ(stored(u"Mode"_s), c.savedMode);
-        EXPECT_EQ(stored(u"Connection"_s), c.shownLink);
-        EXPECT_EQ(stored(u"Alias"_s), u"/srv/kitchen"_s);
-        EXPECT_EQ(stored(u"Server IP"_s), u"10.0.0.7"_s);
+        QStringList saved;
+        for (const QString &setting : {u"Mode"_s, u"Connection"_s, u"Alias"_s, u"Server IP"_s})
+            saved << stored(setting);
+        EXPECT_EQ(saved, (QStringList{savedMode, shownLink, u"/srv/kitchen"_s, u"10.0.0.7"_s}));
     }
 }
 

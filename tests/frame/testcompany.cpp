@@ -36,9 +36,11 @@ void forEachScreen(ScreenContext &context, QWidget &owner, const std::function<v
             list->btnNewClick();
             visit(*static_cast<QWidget *>(owner.children().constLast()));
         }
-        for (const QString &command : {u"mnuFilter"_s, u"mnuFind"_s})
-            if (auto *action = window->findChild<QAction *>(command))
-                whileOpen<QDialog>([&] { action->trigger(); }, visit);
+        for (const QString &command : {u"mnuFilter"_s, u"mnuFind"_s}) {
+            auto *action = window->findChild<QAction *>(command);
+            const auto open = [action] { action->trigger(); };
+            EXPECT_TRUE(!action || !action->isEnabled() || whileOpen<QDialog>(open, visit)) << qPrintable(command);
+        }
         if (window->isModal())
             window->hide(); // the others could not be used under it
     }

@@ -6,7 +6,6 @@
 
 #include <QFileInfo>
 #include <QLibrary>
-#include <QMenu>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -98,12 +97,12 @@ TEST_F(ModuleTest, DataOptionsOfTheModuleAreTheHosts)
     const QTemporaryDir other;
     makeCompany(other.path(), u"Second Kitchen"_s);
     HostWindow window(settings, u"maria"_s, moduleUnderTest);
-    EXPECT_TRUE(whileOpen<QDialog>([&] { child<QAction>(window, "actionDataOptions")->trigger(); },
-                                   [&](QDialog &dialog) {
-                                       EXPECT_EQ(dialog.objectName(), u"FormRegistryEditor"_s);
-                                       child<QLineEdit>(dialog, "RzButtonEditDataPath")->setText(other.path());
-                                       click(dialog, "BitBtnOK");
-                                   }));
+    const auto options = [&] { child<QAction>(window, "actionDataOptions")->trigger(); };
+    EXPECT_TRUE(whileOpen<QDialog>(options, [&](QDialog &dialog) {
+        EXPECT_EQ(dialog.objectName(), u"FormRegistryEditor"_s);
+        child<QLineEdit>(dialog, "RzButtonEditDataPath")->setText(other.path());
+        click(dialog, "BitBtnOK");
+    }));
     EXPECT_EQ(window.findChild<QLabel *>(u"labelCompany"_s)->text(), u"Second Kitchen"_s);
     EXPECT_EQ(inventoryMenu(window).actions().size(), 1);
 }

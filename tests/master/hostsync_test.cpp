@@ -3,7 +3,6 @@
 #include "master/locationsync.h"
 #include "tests/support/brokentable.h"
 #include "tests/support/kitchen.h"
-#include "tests/support/theirtable.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -13,9 +12,8 @@ namespace {
 
 // The kitchen with the host's places and items. Its locations are linked to no place, and its items' numbers are no
 // host items' IDs.
-class HostSyncTest : public KitchenTest
+struct HostSyncTest : KitchenTest
 {
-protected:
     HostSyncTest() { kitchen.makeHost(); }
 
     // Another program's idea of a table: no key, and room for long texts.
@@ -25,9 +23,8 @@ protected:
     }
 };
 
-class ItemSyncTest : public HostSyncTest
+struct ItemSyncTest : HostSyncTest
 {
-protected:
     ItemSyncTest()
     {
         kitchen.session().waitFor = [](std::chrono::milliseconds) {};
@@ -208,9 +205,8 @@ TEST_P(ItemSyncTest, WhoHoldsTheItemsKeepsEverythingAsItIs)
     EXPECT_EQ(run().added, 1);
 }
 
-class LocationSyncTest : public HostSyncTest
+struct LocationSyncTest : HostSyncTest
 {
-protected:
     HostSyncResult run() { return LocationSync(kitchen.database()).run(progress); }
     QString locations()
     {
@@ -246,7 +242,8 @@ TEST_P(LocationSyncTest, NamesComeAsTheyAreAndFitTheirField)
     const QString emoji = QString::fromUcs4(U"\U0001F35E");
     replaceTable(u"Locatns"_s, u"Location_ID INTEGER, Location VARCHAR(80)"_s);
     kitchen.execute(
-        u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, '%1'), (8, '%2'), (9, NULL), (8, 'the same again'), (NULL, 'nowhere'); DELETE FROM Warehse"_s,
+        u"INSERT INTO Locatns (Location_ID, Location) VALUES (7, '%1'), (8, '%2'), (9, NULL), (8, 'the same "
+        "again'), (NULL, 'nowhere'); DELETE FROM Warehse"_s,
         QString(quoted).replace(u'\'', u"''"_s), emoji.repeated(60));
     EXPECT_EQ(run().added, 3);
     kitchen.execute(u"DELETE FROM Locatns WHERE Location = 'the same again'"_s);

@@ -8,9 +8,8 @@ using namespace Tallymere;
 
 namespace {
 
-class Lists : public KitchenTest
+struct Lists : KitchenTest
 {
-protected:
     Lists()
     {
         kitchen.makeHost();

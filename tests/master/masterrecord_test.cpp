@@ -4,7 +4,6 @@
 #include "master/masterlist.h"
 #include "master/recordnumber.h"
 #include "tests/support/kitchen.h"
-#include "tests/support/theirtable.h"
 
 #include <QFile>
 
@@ -31,9 +30,8 @@ QList<std::pair<QString, Value>> needs(const MasterKind &kind)
     return all.value(kind.name);
 }
 
-class Records : public KitchenTest
+struct Records : KitchenTest
 {
-protected:
     Records() { kitchen.makeHost(); }
 
     // A new record that lacks nothing.

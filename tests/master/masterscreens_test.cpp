@@ -1,4 +1,3 @@
-#include "controls/windows/screenmetrics.h"
 #include "master/masterkinds.h"
 #include "master/screens/masterlistscreen.h"
 #include "master/screens/masterrecordscreen.h"
@@ -50,9 +49,8 @@ const Plain plainLists[] = {
      u"|3"_s},
 };
 
-class MasterScreens : public ScreenTest
+struct MasterScreens : ScreenTest
 {
-protected:
     MasterScreens() { kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (6, 'Other')"_s); }
 
     void openList(const MasterKind &kind)
@@ -123,8 +121,7 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
         openAgain(kind);
         EXPECT_EQ(record->windowTitle(), strangeTitle);
         press(Qt::Key_Escape);
-        settle();
-        EXPECT_FALSE(record);
+        EXPECT_TRUE(isGone(record));
         EXPECT_EQ(prompts.told(), QString());
         openAgain(kind);
         type("Zz<Esc>");
@@ -151,8 +148,7 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
         pressButton(Qt::Key_D, [this] { return !prompts.said.isEmpty(); });
         EXPECT_EQ(prompts.told(), u"Confirm: Delete 'Zz'?");
         EXPECT_EQ(grid->model()->rowCount(), rowsBefore);
-        settle();
-        EXPECT_FALSE(record);
+        EXPECT_TRUE(isGone(record));
         list->close();
         settle();
     }
@@ -247,8 +243,7 @@ TEST_F(MasterScreens, TellOfOtherUsers)
     EXPECT_EQ(prompts.told(), gone.arg(u"Mine"));
     EXPECT_EQ(child<QLineEdit>(*record, "editCurrencyName")->text(), u"Mine");
     record->close();
-    settle();
-    EXPECT_FALSE(record);
+    EXPECT_TRUE(isGone(record));
     ASSERT_TRUE(list->moveToKey(1));
     click(*list, "btnDelete");
     EXPECT_EQ(prompts.take(), (QStringList{u"Confirm: Delete 'Home'?"_s, gone.arg(u"Home")}));

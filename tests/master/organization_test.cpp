@@ -10,9 +10,8 @@ using namespace Tallymere;
 
 namespace {
 
-class Organization : public KitchenTest
+struct Organization : KitchenTest
 {
-protected:
     Organization()
     {
         kitchen.makeHost();
@@ -85,7 +84,8 @@ TEST_P(Organization, TheFirstRecordIsBegunOnceWithItsDefaults)
     record.save();
     EXPECT_EQ(
         kitchen.found(
-            u"SELECT CompanyNo, CompanyName, AddressLine1, ARInvoiceStyle, ARInvoiceCopies, ApplicationVersion FROM Company WHERE ARInvoiceAustralia = false"_s),
+            u"SELECT CompanyNo, CompanyName, AddressLine1, ARInvoiceStyle, ARInvoiceCopies, ApplicationVersion "
+            "FROM Company WHERE ARInvoiceAustralia = false"_s),
         u"1|Test Kitchen|12 Mill Lane|0|1|2.55");
 }
 

@@ -8,9 +8,8 @@ using namespace Tallymere;
 
 namespace {
 
-class Vendors : public KitchenTest
+struct Vendors : KitchenTest
 {
-protected:
     Vendors()
     {
         kitchen.makeHost();

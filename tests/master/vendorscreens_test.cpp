@@ -1,4 +1,3 @@
-#include "controls/windows/screenmetrics.h"
 #include "master/masterkinds.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/vcontact.h"
@@ -11,9 +10,8 @@ using namespace Tallymere;
 
 namespace {
 
-class VendorScreensTest : public ScreenTest
+struct VendorScreensTest : ScreenTest
 {
-protected:
     VendorScreensTest()
     {
         kitchen.execute(uR"(

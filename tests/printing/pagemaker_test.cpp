@@ -16,9 +16,8 @@ using namespace Tallymere::Printing;
 
 namespace {
 
-class Pages : public testing::Test
+struct Pages : testing::Test
 {
-protected:
     ReportLayout layout{.title = u"Stock"_s,
                         .columns = {{.field = u"Name"_s, .title = u"Name"_s, .wraps = true},
                                     {.field = u"Value"_s, .title = u"Value"_s, .align = Align::Decimal}},

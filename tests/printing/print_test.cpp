@@ -4,7 +4,6 @@
 #include "printing/reportoutput.h"
 #include "tests/cli/clirunner.h"
 #include "tests/printing/printsystem.h"
-#include "tests/support/failures.h"
 #include "tests/support/files.h"
 #include "tests/support/maderows.h"
 #include "tests/support/spokenprompts.h"
@@ -150,9 +149,8 @@ void expectSamePicture(const QImage &expected, const QImage &arrived)
     EXPECT_LT(distance(expected, turned ? arrived.transformed(QTransform().rotate(90)) : arrived), 15);
 }
 
-class PrintTest : public testing::Test
+struct PrintTest : testing::Test
 {
-protected:
     void SetUp() override
     {
         if (!system.isRunning())

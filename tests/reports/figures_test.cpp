@@ -67,10 +67,8 @@ public:
             item = {oneOf({0, 1, 2, 3, 4, 9}), oneOf({0, 1, 2, 7}), below(90'000), below(90'000)};
             if (key == 1)
                 item = {1, 1, 5, 10'050}; // three of these are worth 3.015, and so 3.02
-            rows += u"(%1, '%2', %3, %4, %5, %6)"_s.arg(key)
-                        .arg(itemNo(key), orNull(item.type), orNull(item.account))
-                        .arg(cost(item.standard))
-                        .arg(cost(item.average));
+            rows += filledIn(u"(%1, '%2', %3, %4, %5, %6)"_s, key, itemNo(key), orNull(item.type),
+                             orNull(item.account), cost(item.standard), cost(item.average));
         }
         insert(u"Item (ItemID, ItemNo, ItemTypeID, InventoryGLAccountID, StandardCost, WgtAvgCost)"_s, rows);
         addBalances();
@@ -111,14 +109,8 @@ private:
             entries.push_back({1 + below(13), 1 + below(4), below(6), 2025 + below(2), 1 + below(12), 1 + below(5),
                                below(300) - 80, u"M%1"_s.arg(i)});
             const Entry &entry = entries.back();
-            rows += u"(%1, %2, %3, %4, %5, '2026-03-0%6', %7, '%8')"_s.arg(entry.item)
-                        .arg(entry.location)
-                        .arg(entry.type)
-                        .arg(entry.year)
-                        .arg(entry.period)
-                        .arg(entry.day)
-                        .arg(quantity(entry.eighths))
-                        .arg(entry.about);
+            rows += filledIn(u"(%1, %2, %3, %4, %5, '2026-03-0%6', %7, '%8')"_s, entry.item, entry.location,
+                             entry.type, entry.year, entry.period, entry.day, quantity(entry.eighths), entry.about);
         }
         insert(u"IHist (ItemID, WarehouseID, TransType, GLYear, GLPeriod, TransDate, Quantity, TransDescription)"_s,
                rows);
@@ -335,9 +327,7 @@ private:
     Sums m_item{}, m_outer{}, m_report{};
 };
 
-// --- what the program makes ------------------------------------------------------------------------------------------
-
-// As Expected has the lines.
+// What the program makes, as Expected has the lines.
 QStringList linesOf(Books &books, const Shape &shape, const ReportDescription &report,
                     const ReportSelection &selection)
 {

@@ -1,4 +1,3 @@
-#include "controls/fields/lookupcombobox.h"
 #include "controls/windows/filechoice.h"
 #include "reports/makereport.h"
 #include "reports/screens/invreports.h"
@@ -10,18 +9,14 @@
 
 #include <QAccessible>
 #include <QListWidget>
-#include <QMenu>
-#include <QSpinBox>
-#include <QStatusBar>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class InvReportsTest : public ScreenTest
+struct InvReportsTest : ScreenTest
 {
-protected:
     InvReportsTest()
     {
         kitchen.setStock(1, 1, 3, 2);

@@ -16,9 +16,8 @@ namespace {
 
 enum class Place { Folder, NetworkFolder, Server };
 
-class Moments : public testing::TestWithParam<Place>
+struct Moments : testing::TestWithParam<Place>
 {
-protected:
     Moments()
     {
         if (GetParam() == Place::NetworkFolder)

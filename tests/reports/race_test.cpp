@@ -26,9 +26,8 @@ namespace {
 constexpr int items = 600;
 constexpr int linesEach = 40; // of one piece
 
-class Race : public testing::TestWithParam<Store>
+struct Race : testing::TestWithParam<Store>
 {
-protected:
     Kitchen kitchen{GetParam()};
     MemorySettings settings;
     SpokenPrompts prompts;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "tests/support/failures.h"
 #include "tests/support/teststore.h"
-#include "tests/support/texts.h"
 
 // Makes the cases of a suite run on both stores.
 #define ON_BOTH_STORES(suite)                                                                                      \

@@ -2,6 +2,7 @@
 
 #include "tests/support/kitchen.h"
 #include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
 
 #include <algorithm>
 #include <random>

@@ -32,12 +32,14 @@ void Kitchen::makeHost() { Tallymere::HostTables::createHostTables(database(), u
 
 void Kitchen::addReceipt(int id, int vendor, int warehouse, const QList<Line> &lines, const QString &order)
 {
-    execute(u"INSERT INTO IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, PurchaseOrderNo, VendorID, "
+    execute(u"INSERT INTO IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, PurchaseOrderNo, "
+            "VendorID, "
             "WarehouseID, Posted) VALUES (%1, '%2', 2026, 3, '2026-03-14', '%3', %4, %5, false)"_s,
             id, 1000 + id, order, vendor, warehouse);
     int seq = 0;
     for (const Line &line : lines)
-        execute(u"INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (%1, %2, %3, %4, %5)"_s,
+        execute(u"INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (%1, %2, %3, %4, "
+                "%5)"_s,
                 id, ++seq, line.item, line.quantity, line.unitCost);
 }
 
@@ -55,7 +57,10 @@ double Kitchen::onHand(int item, int warehouse)
 
 double Kitchen::averageCost(int item) { return number(u"SELECT WgtAvgCost FROM Item WHERE ItemID = %1"_s, item); }
 
-QString Kitchen::balances() { return found(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s); }
+QString Kitchen::balances()
+{
+    return found(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s);
+}
 
 QStringList Kitchen::lines(int receipt)
 {

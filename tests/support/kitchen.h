@@ -2,8 +2,8 @@
 
 #include "engine/records/query.h"
 #include "tests/support/bothstores.h"
-#include "tests/support/failures.h"
 #include "tests/support/spokenprompts.h"
+#include "tests/support/theirtable.h"
 
 // A small kitchen to receive goods in: the inventory tables with a few rows that the tests know by heart.
 //
@@ -50,9 +50,8 @@ public:
 };
 
 // A test over it, of what runs on both stores.
-class KitchenTest : public testing::TestWithParam<Store>
+struct KitchenTest : testing::TestWithParam<Store>
 {
-protected:
     Kitchen kitchen{GetParam()};
     SpokenPrompts prompts;
     CountedProgress progress;

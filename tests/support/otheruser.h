@@ -2,7 +2,6 @@
 
 #include "tests/support/teststore.h"
 
-#include <functional>
 #include <QHash>
 #include <QProcess>
 

@@ -1,18 +1,24 @@
 #pragma once
 
+#include "tests/support/texts.h"
+
 #include <cstring>
 #include <functional>
-#include <gtest/gtest.h>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTabWidget>
 #include <QTest>

@@ -1,25 +1,29 @@
 #pragma once
 
+#include "controls/fields/lookupcombobox.h"
 #include "controls/windows/screencontext.h"
+#include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
 #include "tests/support/kitchen.h"
 #include "tests/support/screendriver.h"
-#include "tests/support/spokenprompts.h"
-
-#include <gtest/gtest.h>
-#include <QWidget>
 
 // The screens over the test kitchen, as the main window sets them up. Windows are closed without a question when
 // the test is over.
-class ScreenTest : public testing::Test
+struct ScreenTest : testing::Test
 {
-protected:
     explicit ScreenTest(Store store = Store::Local);
     ~ScreenTest() override;
 
     // Lets windows that have been closed go.
     static void settle();
+
+    // Whether a window that has been closed is.
+    template <typename Window> static bool isGone(const QPointer<Window> &window)
+    {
+        settle();
+        return !window;
+    }
 
     // The screen of a record or a document, or of a new one (0).
     template <typename Screen> Screen *openRecord(int key = 0)

@@ -38,8 +38,8 @@ TEST_P(Adjustments, AreEnteredCheckedAndPostedWithTheirSign)
 
     EXPECT_TRUE(DocumentPosting(kitchen.database(), DocumentKinds::adjustment()).run(prompts, progress));
     EXPECT_EQ(
-        kitchen.found(
-            u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, TransDescription, AdjustmentID FROM IHist ORDER BY IHistID"_s),
+        kitchen.found(u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
+                      "TransDescription, AdjustmentID FROM IHist ORDER BY IHistID"_s),
         u"1|1|2026|3|1|2026-03-15|-2||Spoiled|7 3|1|2026|3|1|2026-03-15|5||Spoiled|7 "
         u"1|1|2026|3|1|2026-03-15|-4.5||Spoiled|7");
     EXPECT_EQ(kitchen.found(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY 1, 2"_s),

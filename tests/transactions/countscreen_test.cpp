@@ -4,7 +4,6 @@
 #include "transactions/screens/enterinventory.h"
 
 #include <QAbstractItemView>
-#include <QHeaderView>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -12,17 +11,15 @@ using namespace Tallymere;
 namespace {
 
 // Apples 10 and Bread 5 of Food, apricots 2.5 of Goods, all at the Office; nothing in the Freezer.
-class CountScreenTest : public ScreenTest
+struct CountScreenTest : ScreenTest
 {
-protected:
     CountScreenTest()
     {
         qputenv("XDG_DATA_HOME", folder.path().toUtf8());
         kitchen.execute(u"UPDATE ItemType SET Inventory = true, CostingMethod = 1; "
                         "UPDATE Item SET Suspended = false WHERE ItemID = 2"_s);
-        kitchen.setStock(1, 1, 10, 1.5);
-        kitchen.setStock(2, 1, 5, 2);
-        kitchen.setStock(3, 1, 2.5, 1);
+        for (const auto &[item, onHand, cost] : {std::tuple{1, 10.0, 1.5}, {2, 5.0, 2.0}, {3, 2.5, 1.0}})
+            kitchen.setStock(item, 1, onHand, cost);
         open();
     }
 
@@ -39,15 +36,14 @@ protected:
         locations->setCurrentIndex(locations->findText(location, Qt::MatchStartsWith));
         Q_EMIT locations->activated(locations->currentIndex());
     }
-    void search(const char *text)
+    static void search(const char *text)
     {
         press(Qt::Key_F, Qt::ControlModifier);
-        type(text);
-        press(Qt::Key_Return);
+        enter(text);
     }
-    void enter(const char *quantity)
+    static void enter(const char *text)
     {
-        type(quantity);
+        type(text);
         press(Qt::Key_Return);
     }
     // Rows as "A10 10 8 -2", what is empty left out; headings as they are.
@@ -55,10 +51,8 @@ protected:
     {
         QStringList rows;
         for (int row = 0; row < grid->model()->rowCount(); ++row) {
-            QStringList cells;
-            for (const int column : {0, 4, 5, 6})
-                cells.append(grid->model()->index(row, column).data().toString());
-            rows.append(cells.join(u' ').simplified());
+            const QStringList cells = rowOf(*grid, row);
+            rows.append((cells.mid(0, 1) + cells.mid(4, 3)).join(u' ').simplified());
         }
         return rows;
     }
@@ -141,9 +135,9 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     EXPECT_TRUE(usageLines().isEmpty());
     prompts.answer = Answer::Yes;
     ok->click();
-    EXPECT_EQ(
-        prompts.last(),
-        u"Confirm: Proceed with calculating the item usage based\r\nupon the quantities that have been entered?"_s);
+    EXPECT_EQ(prompts.last(),
+              u"Confirm: Proceed with calculating the item usage based\r\n"
+              "upon the quantities that have been entered?");
     EXPECT_EQ(usageLines(), (QStringList{u"2|1"_s, u"3|2"_s}));
     EXPECT_TRUE(has(status(), u"2 lines"_s));
     EXPECT_FALSE(ok->isEnabled());
@@ -171,18 +165,13 @@ TEST_F(CountScreenTest, TakesNoQuantityOfAnUnknownItemForAnItem)
     choose(u"Office"_s);
     search("7");
     EXPECT_EQ(cursor(), u"7"_s);
-    const auto scan = [](const char *text) {
-        type(text);
-        press(Qt::Key_Return);
-    };
-    press(Qt::Key_F, Qt::ControlModifier);
-    scan("555");
+    search("555");
     for (const char *quantity : {"7", "1", "1.5", "123"}) {
-        scan(quantity);
+        enter(quantity);
         EXPECT_EQ(notFound(), u"%1 is not taken: '555' is not in the list"_s.arg(QString::fromLatin1(quantity)));
         EXPECT_EQ(cursor(), u"7"_s) << quantity;
     }
-    scan("12345"); // the next item
+    enter("12345"); // the next item
     EXPECT_EQ(cursor(), u"12345"_s);
     EXPECT_EQ(focusName(), u"wwDBGridInventory"_s);
     EXPECT_EQ(notFound(), QString());
@@ -190,7 +179,7 @@ TEST_F(CountScreenTest, TakesNoQuantityOfAnUnknownItemForAnItem)
 
     search("555");
     press(Qt::Key_Backspace);
-    scan("7"); // searched for after all
+    enter("7"); // searched for after all
     EXPECT_EQ(cursor(), u"7"_s);
     EXPECT_EQ(rows(), (QStringList{u"12345 2.5 2 -0.5"_s, u"7 5 5"_s, u"A10 10 10"_s}));
 }
@@ -330,8 +319,7 @@ TEST_F(CountScreenTest, StaysOpenWhenTheCountCannotBeKept)
     EXPECT_TRUE(screen && screen->isVisible());
     prompts.answer = Answer::No;
     screen->close();
-    settle();
-    EXPECT_FALSE(screen);
+    EXPECT_TRUE(isGone(screen));
 }
 
 } // namespace

@@ -8,9 +8,8 @@ using namespace Tallymere;
 namespace {
 
 // The counters are behind: documents 0, 1, 2 and 4 have been posted, of 3 and 5 there are lines alone.
-class DocumentKeys : public KitchenTest
+struct DocumentKeys : KitchenTest
 {
-protected:
     void SetUp() override
     {
         kitchen.execute(u"INSERT INTO ItemCtl (NextItemNo) VALUES (1001);"

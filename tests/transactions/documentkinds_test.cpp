@@ -11,9 +11,8 @@ using namespace Tallymere;
 
 namespace {
 
-class DocumentKindsTest : public KitchenTest
+struct DocumentKindsTest : KitchenTest
 {
-protected:
     DocumentKindsTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
 
     // Four apples at the office, by the rules of its entry: texts that they want besides are as long as they may be, and

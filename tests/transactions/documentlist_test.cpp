@@ -2,7 +2,6 @@
 
 #include "engine/store/lockmanager.h"
 #include "tests/support/kitchen.h"
-#include "tests/support/theirtable.h"
 #include "transactions/documentkinds.h"
 #include "transactions/usagedeletion.h"
 
@@ -12,9 +11,8 @@ using Engine::ErrorCode;
 
 namespace {
 
-class List : public KitchenTest
+struct List : KitchenTest
 {
-protected:
     List() { list.open(); }
 
     int lines() { return static_cast<int>(kitchen.number(u"SELECT count(*) FROM IRecDet"_s)); }
@@ -70,9 +68,8 @@ TEST_P(List, TellsDeletedFromPostedInTheLastMoment)
 }
 
 // Usage 1 to 3 of 14 March 2026, of which 3 is posted, and 4 of the day after; a line each.
-class UsageList : public KitchenTest
+struct UsageList : KitchenTest
 {
-protected:
     UsageList()
     {
         kitchen.session().clock = [] { return QDateTime(QDate(2026, 3, 20), QTime(17, 30)); };

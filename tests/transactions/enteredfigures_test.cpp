@@ -7,9 +7,8 @@ using namespace Tallymere;
 
 namespace {
 
-class EnteredLine : public KitchenTest
+struct EnteredLine : KitchenTest
 {
-protected:
     EnteredLine() { kitchen.execute(u"UPDATE ItemType SET Inventory = true, CostingMethod = 2"_s); }
 
     void begin(const DocumentKind &kind)

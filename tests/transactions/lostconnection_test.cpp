@@ -1,7 +1,6 @@
 // Windows in edit whose server, or whose hold on a record, is gone.
 
 #include "controls/grids/linegrid.h"
-#include "engine/records/query.h"
 #include "master/screens/itemtypeinv.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/invreceipt.h"
@@ -11,9 +10,8 @@ using namespace Tallymere;
 
 namespace {
 
-class LostConnection : public ScreenTest
+struct LostConnection : ScreenTest
 {
-protected:
     LostConnection()
         : ScreenTest(Store::Remote)
     {
@@ -53,12 +51,6 @@ protected:
     {
         return rowsOf(keeper->database, u"SELECT QtyReceived FROM IRecDet ORDER BY ReceiptID, Seq"_s);
     }
-    bool isClosed()
-    {
-        return comesTrue([&] { return !screen; });
-    }
-    void clickOK() { child<QPushButton>(*screen, "btnOK")->click(); }
-
     QPointer<EntryScreen> screen;
     std::unique_ptr<TestUser> keeper = kitchen.anotherUser(u"keeper"_s);
 };
@@ -67,19 +59,14 @@ protected:
 
 TEST_F(LostConnection, everyWayOutEndsTheScreen)
 {
-    const std::function<void()> ways[] = {
-        [&] { child<QPushButton>(*screen, "btnCancel")->click(); }, [&] { screen->close(); }, // with No
-    };
-    const struct
-    {
-        const char *name;
-        std::function<void()> work;
-        bool withLines = false;
-    } works[] = {
-        {"header", [&] { open<TfrmInvReceipt>(7), changeHeader(); }},
+    const std::function<void()> ways[] = {[&] { click(*screen, "btnCancel"); },
+                                          [&] { screen->close(); }}; // with No
+    const std::tuple<const char *, std::function<void()>, bool> works[] = {
+        // with lines or not
+        {"header", [&] { open<TfrmInvReceipt>(7), changeHeader(); }, false},
         {"line", [&] { open<TfrmInvReceipt>(7), changeLine(); }, true},
-        {"new", [&] { open<TfrmInvReceipt>(0), typeOver(*screen, "editVendorNo", "V1<Return>"); }},
-        {"item type", [&] { open<TfrmItemTypeInv>(1), typeOver(*screen, "editTypeName", "Groceries"); }},
+        {"new", [&] { open<TfrmInvReceipt>(0), typeOver(*screen, "editVendorNo", "V1<Return>"); }, false},
+        {"item type", [&] { open<TfrmItemTypeInv>(1), typeOver(*screen, "editTypeName", "Groceries"); }, false},
     };
     prompts.answer = Answer::No;
     for (const bool forGood : {false, true}) {
@@ -88,12 +75,12 @@ TEST_F(LostConnection, everyWayOutEndsTheScreen)
                 SCOPED_TRACE(std::string(name) + (forGood ? ", for good" : ""));
                 work();
                 cut(forGood);
-                clickOK();
+                click(*screen, "btnOK");
                 ASSERT_TRUE(screen) << "what has been entered stays";
                 EXPECT_TRUE(has(prompts.last(), u"was lost"_s));
                 prompts.take();
                 way();
-                ASSERT_TRUE(isClosed());
+                ASSERT_TRUE(comesTrue([&] { return !screen; }));
                 admit(true);
                 const bool stays = forGood && withLines;
                 EXPECT_EQ(stored(), (QStringList{stays ? u"50"_s : u"5"_s, u"6"_s}));

@@ -1,4 +1,3 @@
-#include "transactions/documentposting.h"
 
 #include "engine/store/lockmanager.h"
 #include "tests/support/documents.h"
@@ -9,9 +8,8 @@ using Engine::ErrorCode;
 
 namespace {
 
-class Posting : public KitchenTest
+struct Posting : KitchenTest
 {
-protected:
     bool post(const DocumentKind &kind = DocumentKinds::receipt())
     {
         return DocumentPosting(kitchen.database(), kind).run(prompts, progress);
@@ -32,8 +30,8 @@ TEST_P(Posting, WritesHistoryBalanceAndAverageOfTheWorkedExample)
     EXPECT_EQ(posting.countText(), u"1 receipt(s) to be posted");
     EXPECT_TRUE(posting.run(prompts, progress));
     EXPECT_EQ(
-        kitchen.found(
-            u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, TransDescription, ReceiptID, AdjustmentID, ARInvoiceID, UsageID FROM IHist"_s),
+        kitchen.found(u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
+                      "TransDescription, ReceiptID, AdjustmentID, ARInvoiceID, UsageID FROM IHist"_s),
         u"1|2|2026|3|3|2026-03-14|5|3|Receipt: 1007   PO: PO-77|7|||");
     EXPECT_EQ(kitchen.onHand(1, 1), 6);
     EXPECT_EQ(kitchen.onHand(1, 2), 9);
@@ -145,7 +143,8 @@ TEST_P(Posting, OfUsageTakesStockedItemsOutOfTheLocationAndLeavesTheirCost)
 
     EXPECT_EQ(
         kitchen.found(
-            u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, TransDescription, ReceiptID, AdjustmentID, ARInvoiceID, UsageID FROM IHist ORDER BY IHistID"_s),
+            u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
+            "TransDescription, ReceiptID, AdjustmentID, ARInvoiceID, UsageID FROM IHist ORDER BY IHistID"_s),
         u"1|2|2026|3|5|2026-03-14|4|1.2345|Inventory Usage No: 10007||||7 1|2|2026|3|5|2026-03-14|-1||Inventory "
         u"Usage No: 10007||||7 2|2|2026|3|5|2026-03-14|3||Inventory Usage No: 10007||||7 "
         u"1|1|2026|3|5|2026-03-14|0||Inventory Usage No: 10009||||9 2|1|2026|3|5|2026-03-14|0||Inventory Usage No: "

@@ -1,6 +1,5 @@
 #include "tests/support/brokentable.h"
 #include "tests/support/documents.h"
-#include "transactions/documentposting.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -10,9 +9,8 @@ namespace {
 // Three documents of each kind with three lines each, all of item 1 at location 1 with quantities 1, 2, 4, 8 ... so
 // that the balance tells which lines have been applied. The second document's second line (quantity 16) is the one
 // that fails.
-class FailingPosting : public KitchenTest
+struct FailingPosting : KitchenTest
 {
-protected:
     FailingPosting()
     {
         kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s);
@@ -73,7 +71,8 @@ TEST_P(FailingPosting, ADocumentThatARuleRefusesIsLeftAloneAndNamedAgain)
 {
     const QString text =
         u"\"%1\" cannot be posted. Line 3: %2.\n"
-        "Nothing of it has been written. Correct it and post again.%3\n1 document behind it waits to be posted. -> "_s;
+        "Nothing of it has been written. Correct it and post again.%3\n1 document behind it waits to be posted. "
+        "-> "_s;
     const QString balance = u"the quantity on hand would be too large"_s;
     const QString amount = u"an amount of money is too large"_s;
     const auto &receipt = DocumentKinds::receipt();
@@ -92,7 +91,8 @@ TEST_P(FailingPosting, ADocumentThatARuleRefusesIsLeftAloneAndNamedAgain)
     for (const auto &[kind, spoils, name, why] : cases) {
         SCOPED_TRACE(qPrintable(name + u' ' + why));
         kitchen.execute(
-            u"DELETE FROM IBalance; DELETE FROM IHist; UPDATE %1 SET Posted = false; UPDATE %2 SET %3 WHERE %4 = 2"_s,
+            u"DELETE FROM IBalance; DELETE FROM IHist; UPDATE %1 SET Posted = false; UPDATE %2 SET %3 WHERE %4 = "
+            "2"_s,
             kind.headerTable, kind.lineTable, spoils, kind.keyField);
         const double onHand = 7 * signOf(kind);
         for (const QString &before : {u"\n%1 before it."_s.arg(kind.posting.postedText(1)), QString()}) {

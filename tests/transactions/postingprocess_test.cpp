@@ -1,15 +1,12 @@
 #include "tests/support/documents.h"
 #include "tests/support/otheruser.h"
-#include "transactions/documentposting.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class Processes : public testing::TestWithParam<Store>
-{
-};
+using Processes = testing::TestWithParam<Store>;
 ON_BOTH_STORES(Processes);
 
 int documents(Store store) { return store == Store::Local ? 1200 : 400; }
@@ -41,7 +38,8 @@ void expectWholeDocuments(Kitchen &kitchen, const DocumentKind &kind)
 {
     EXPECT_EQ(
         kitchen.found(
-            u"SELECT I.%1 FROM %2 I LEFT OUTER JOIN (SELECT %1, count(*) AS Lines FROM IHist GROUP BY %1) H ON I.%1 = H.%1 WHERE coalesce(Lines, 0) <> CASE WHEN I.Posted = true THEN %3 ELSE 0 END"_s
+            u"SELECT I.%1 FROM %2 I LEFT OUTER JOIN (SELECT %1, count(*) AS Lines FROM IHist GROUP BY %1) H ON "
+            "I.%1 = H.%1 WHERE coalesce(Lines, 0) <> CASE WHEN I.Posted = true THEN %3 ELSE 0 END"_s
                 .arg(kind.keyField, kind.headerTable)
                 .arg(LinesEach)),
         QString());

@@ -29,9 +29,8 @@ void changeLine(ReceiptEntry &entry, int line, QStringView field, const Value &v
     entry.lines().post();
 }
 
-class Entry : public KitchenTest
+struct Entry : KitchenTest
 {
-protected:
     Entry()
         : entry(kitchen.database(), prompts)
     {
@@ -75,7 +74,8 @@ TEST_P(Entry, ANewReceiptIsNumberedDatedAndSaved)
 
     EXPECT_EQ(
         kitchen.found(
-            u"SELECT ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, CASE WHEN Posted = false THEN 'open' END FROM IReceipt"_s),
+            u"SELECT ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, CASE WHEN Posted "
+            "= false THEN 'open' END FROM IReceipt"_s),
         u"42|5001|2026|3|2026-08-09|1|2|open");
     EXPECT_EQ(kitchen.lines(42), (QStringList{u"1|1|5|3.25"_s, u"2|2|-1|0"_s}));
     EXPECT_EQ(kitchen.found(u"SELECT NextInvReceiptID, NextInvReceiptNo FROM ItemCtl"_s), u"43|5002");
@@ -257,9 +257,8 @@ TEST_P(Entry, ATakenNumberOfALineIsNotToldAsTheReceiptsAndGivenAnew)
 }
 
 // On a server a connection can be lost with a document in edit.
-class EntryOnAServer : public testing::Test
+struct EntryOnAServer : testing::Test
 {
-protected:
     EntryOnAServer()
     {
         kitchen.session().lockAttempts = 1;

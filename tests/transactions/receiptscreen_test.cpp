@@ -1,4 +1,3 @@
-#include "controls/fields/lookupcombobox.h"
 #include "controls/grids/linegrid.h"
 #include "controls/grids/listgrid.h"
 #include "master/screens/itemsearchinv.h"
@@ -7,34 +6,28 @@
 #include "transactions/screens/documentpostscreen.h"
 #include "transactions/screens/invreceipt.h"
 
-#include <QLabel>
-#include <QSignalSpy>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class ReceiptScreenTest : public ScreenTest
+struct ReceiptScreenTest : ScreenTest
 {
-protected:
     void open(int key = 0)
     {
         screen = openRecord<TfrmInvReceipt>(key);
         grid = child<LineGrid>(*screen, "DBGrid1");
     }
 
-    // "QtyReceived" of row 0 and so on, as the grid shows it.
-    QString cell(int row, int column) { return grid->model()->index(row, column).data().toString(); }
-    QString cursor() { return u"%1,%2"_s.arg(grid->currentIndex().row()).arg(grid->currentIndex().column()); }
-    // Vendor 1, location 2, and one line, with the keyboard.
-    void fillIn()
+    static void search(const std::function<void(TfrmItemSearchInv &)> &step)
     {
-        child<QLineEdit>(*screen, "editVendorNo")->setFocus();
-        type("V1<Return>f<PgDown>5<Return>A10<Return><Return>3");
+        EXPECT_TRUE(whileOpen<TfrmItemSearchInv>([] { press(Qt::Key_Return, Qt::ControlModifier); }, step));
     }
-
-    void pressOK() { QTest::mouseClick(child<QPushButton>(*screen, "btnOK"), Qt::LeftButton); }
+    void pressOK()
+    {
+        QTest::mouseClick(child<QPushButton>(*screen, "btnOK"), Qt::LeftButton);
+        settle();
+    }
 
     QPointer<TfrmInvReceipt> screen;
     LineGrid *grid = nullptr;
@@ -48,9 +41,8 @@ TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
     EXPECT_EQ(screen->windowTitle(), u"New Inventory Receipt"_s);
     EXPECT_EQ(focusName(), u"editVendorNo"_s);
     QSignalSpy saved(screen, &EntryScreen::saved);
-    fillIn();
-    press(Qt::Key_Return); // appends the second line
-    EXPECT_EQ(cursor(), u"1,0"_s);
+    type("V1<Return>f<PgDown>5<Return>A10<Return><Return>3<Return>"); // appends the second line
+    EXPECT_EQ(cursorOf(*grid), u"1,0"_s);
     type("2<Return><Return>"); // past the number, to the description
     type("Bro<Backspace>"); // deleting completes nothing
     EXPECT_EQ(qobject_cast<QLineEdit *>(QApplication::focusWidget())->text(), u"Br"_s);
@@ -82,29 +74,19 @@ TEST_F(ReceiptScreenTest, keyGoesIntoTheLineThatTheCursorIsOnAlsoWhenAnotherUser
     press(Qt::Key_Down);
     kitchen.execute(u"DELETE FROM IRecDet WHERE Seq = 1"_s);
     type("9<Return>");
-    EXPECT_EQ(cursor(), u"0,1"_s);
+    EXPECT_EQ(cursorOf(*grid), u"0,1"_s);
     press(Qt::Key_Up);
     pressOK();
-    settle();
     EXPECT_EQ(kitchen.lines(7), (QStringList{u"2|2|9|1"_s, u"3|3|6|2"_s}));
     EXPECT_EQ(prompts.said, QStringList());
 }
 
 TEST_F(ReceiptScreenTest, refusalOfTheHeaderMovesTheFocusToItsFieldAndCancelBringsTheLinesBack)
 {
-    kitchen.addReceipt(9, 1, 1, {});
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
     open(7);
-    child<QLineEdit>(*screen, "editReceiptNo")->setFocus();
-    type("1009");
-    pressOK();
-    EXPECT_EQ(prompts.told(), u"error: Receipt no. already exists");
-    EXPECT_EQ(focusName(), u"editReceiptNo"_s);
-    type("1007");
-    child<LookupComboBox>(*screen, "cboVendor")->setFocus();
-    press(Qt::Key_Delete);
-    grid->setFocus();
-    press(Qt::Key_Delete, Qt::ControlModifier);
+    typeIn(*screen, "cboVendor", "<Del>");
+    typeIn(*screen, "DBGrid1", "<Ctrl+Del>");
     pressOK();
     EXPECT_EQ(prompts.told(), u"error: Field 'Vendor' must have a value");
     EXPECT_EQ(focusName(), u"editVendorNo"_s);
@@ -124,7 +106,7 @@ TEST_F(ReceiptScreenTest, vendorNumberIsLookedUpOnLeavingAndEscapeRestoresIt)
     auto *vendorNo = child<QLineEdit>(*screen, "editVendorNo");
     auto *vendor = child<LookupComboBox>(*screen, "cboVendor");
     type("V77<Tab>");
-    QCoreApplication::processEvents();
+    settle();
     EXPECT_EQ(prompts.told(), u"error: Vendor no. 'V77' not found");
     EXPECT_EQ(focusName(), u"editVendorNo"_s);
     press(Qt::Key_Escape);
@@ -141,9 +123,7 @@ TEST_F(ReceiptScreenTest, vendorNumberIsLookedUpOnLeavingAndEscapeRestoresIt)
 
 TEST_F(ReceiptScreenTest, typedVendorNumberTouchesTheReceiptWhenItIsTakenOver)
 {
-    const auto anna = kitchen.anotherUser();
-    Engine::Table theirs(anna->database, u"IReceipt"_s);
-    theirs.open();
+    TheirTable theirs(kitchen, u"IReceipt"_s);
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
     theirs.refresh();
     open(7);
@@ -158,8 +138,7 @@ TEST_F(ReceiptScreenTest, typedVendorNumberTouchesTheReceiptWhenItIsTakenOver)
     EXPECT_EQ(vendorNo->text(), u"V1"_s);
     type("V1<Tab>");
     screen->close();
-    settle();
-    EXPECT_FALSE(screen);
+    EXPECT_TRUE(isGone(screen));
     EXPECT_EQ(prompts.told(), QString()) << "nothing has changed";
 
     open(7);
@@ -198,7 +177,6 @@ TEST_F(ReceiptScreenTest, aDateFarAwayIsAskedAboutOnce)
     EXPECT_EQ(prompts.told(), QString()) << "the same again";
     typeOver(*screen, "editReceiptDate", "1/1/1");
     pressOK();
-    settle();
     EXPECT_EQ(prompts.take(), (QStringList{question.arg(2001), u"error: Field 'Vendor' must have a value"_s}));
 
     enter("1201");
@@ -213,24 +191,19 @@ TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
     kitchen.addReceipt(7, 1, 2, {{1, 123'457, 3.0}});
     open(7);
     kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s); // by another user, unseen so far
-    type("V2");
-    press(Qt::Key_Tab);
+    type("V2<Tab>");
     settle();
     EXPECT_EQ(prompts.take().size(), 1);
     EXPECT_EQ(child<QLineEdit>(*screen, "editVendorNo")->text(), u"V1"_s);
-    type("V2");
-    EXPECT_EQ(prompts.take().size(), 2) << "a message for each key";
     EXPECT_TRUE(child<QLabel>(*screen, "lblPosted")->isVisible());
     EXPECT_FALSE(child<QAction>(*screen, "mnuNewLine")->isEnabled());
-    grid->setFocus();
-    press(Qt::Key_PageDown);
+    typeIn(*screen, "DBGrid1", "<PgDown>");
     EXPECT_EQ(grid->model()->rowCount(), 1);
     grid->setColumnWidth(2, 5000); // so that there is no width to share
     grid->setColumnWidth(0, 30);
     EXPECT_EQ(child<QLabel>(*screen, "lblFigures")->text(), u"Quantity: 123,457"_s);
     press(Qt::Key_Escape);
-    settle();
-    EXPECT_FALSE(screen);
+    EXPECT_TRUE(isGone(screen));
     EXPECT_EQ(prompts.said, QStringList());
 }
 
@@ -239,23 +212,19 @@ TEST_F(ReceiptScreenTest, nothingIsDoneInItWhileItsItemSearchStandsOverIt)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
     open(7);
-    grid->setFocus();
-    type("6<Return>B");
-    EXPECT_TRUE(whileOpen<TfrmItemSearchInv>([] { press(Qt::Key_Return, Qt::ControlModifier); },
-                                             [&](TfrmItemSearchInv &search) {
-                                                 child<QAction>(*screen, "mnuDeleteLine")->trigger();
-                                                 for (const char *button : {"btnOK", "btnCancel"})
-                                                     click(*screen, button);
-                                                 EXPECT_FALSE(screen->close());
-                                                 settle();
-                                                 EXPECT_TRUE(search.isVisible());
-                                             }));
-    ASSERT_TRUE(screen);
-    EXPECT_TRUE(screen->isVisible());
+    typeIn(*screen, "DBGrid1", "6<Return>B");
+    search([&](TfrmItemSearchInv &dialog) {
+        child<QAction>(*screen, "mnuDeleteLine")->trigger();
+        for (const char *button : {"btnOK", "btnCancel"})
+            click(*screen, button);
+        EXPECT_FALSE(screen->close());
+        settle();
+        EXPECT_TRUE(dialog.isVisible());
+    });
+    ASSERT_TRUE(screen && screen->isVisible());
     EXPECT_EQ(child<QLineEdit>(*grid, "editCell")->text(), u"B"_s);
     press(Qt::Key_Escape);
     pressOK();
-    settle();
     EXPECT_FALSE(screen);
     EXPECT_EQ(kitchen.lines(7), QStringList(u"1|1|6|3"_s));
     EXPECT_EQ(prompts.said, QStringList());
@@ -265,17 +234,13 @@ TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
     open(7);
-    grid->setFocus();
-    press(Qt::Key_Return);
-    const auto search = [](const std::function<void(TfrmItemSearchInv &)> &step) {
-        EXPECT_TRUE(whileOpen<TfrmItemSearchInv>([] { press(Qt::Key_Return, Qt::ControlModifier); }, step));
-    };
+    typeIn(*screen, "DBGrid1", "<Return>");
     search([](TfrmItemSearchInv &dialog) {
         EXPECT_EQ(dialog.GetItemID(), 1);
         type("A11<Return>");
         EXPECT_FALSE(dialog.isVisible());
     });
-    EXPECT_EQ(cell(0, 2), u"Bread"_s);
+    EXPECT_EQ(cellOf(*grid, 0, 2), u"Bread"_s);
     type("B");
     search([](TfrmItemSearchInv &dialog) {
         EXPECT_EQ(child<QLineEdit>(dialog, "editFindItemNo")->text(), u"B"_s) << "what was typed goes on there";
@@ -285,6 +250,5 @@ TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
     EXPECT_EQ(child<QLineEdit>(*grid, "editCell")->text(), u"B"_s) << "nothing chosen: typing goes on here";
     press(Qt::Key_Escape);
     pressOK();
-    settle();
     EXPECT_EQ(kitchen.lines(7), QStringList(u"1|2|5|3"_s));
 }

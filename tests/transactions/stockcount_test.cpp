@@ -11,9 +11,8 @@ using namespace Tallymere;
 namespace {
 
 // Food by average cost, Goods by standard cost; Apples, Bread and apricots at the Office.
-class CountTest : public KitchenTest
+struct CountTest : KitchenTest
 {
-protected:
     CountTest()
     {
         kitchen.execute(uR"(

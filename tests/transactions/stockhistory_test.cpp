@@ -1,6 +1,5 @@
 #include "tests/support/chance.h"
 #include "tests/support/documents.h"
-#include "transactions/documentposting.h"
 #include "transactions/stockcount.h"
 
 using namespace Qt::StringLiterals;
@@ -8,9 +7,8 @@ using namespace Tallymere;
 
 namespace {
 
-class StockHistory : public KitchenTest
+struct StockHistory : KitchenTest
 {
-protected:
     StockHistory() { kitchen.execute(u"UPDATE ItemType SET Inventory = true, CostingMethod = ItemTypeID"_s); }
 
     int below(int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); }

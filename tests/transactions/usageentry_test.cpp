@@ -8,9 +8,8 @@ using namespace Tallymere;
 namespace {
 
 // Apples and bread cost their average of 1.25 and 10, apricots their standard cost of 4; yeast is not stocked.
-class UsageDocument : public KitchenTest
+struct UsageDocument : KitchenTest
 {
-protected:
     UsageDocument()
         : entry(kitchen.database(), prompts)
     {
@@ -30,10 +29,14 @@ protected:
         entry.chooseItem(item);
         entry.lines().post();
     }
-    void setQuantity(const Engine::Value &quantity)
+    void typeQuantity(const Engine::Value &quantity)
     {
         entry.lines().edit();
         entry.lines().set(u"Quantity", quantity);
+    }
+    void setQuantity(const Engine::Value &quantity)
+    {
+        typeQuantity(quantity);
         entry.lines().post();
     }
     QString total() { return entry.header().text(u"InvoiceAmount"); }
@@ -111,19 +114,16 @@ TEST_P(UsageDocument, KeepsATotalOfItsLinesAndBringsThemBackWithoutCosts)
     entry.newLine();
     entry.removeLine(); // dropped before it was saved
     entry.lines().moveTo(entry.lines().recordCount() - 1);
-    entry.lines().edit();
-    entry.lines().set(u"Quantity", 90.0);
+    typeQuantity(90.0);
     entry.lines().cancel();
     EXPECT_EQ(total(), u"43.75");
-    entry.lines().edit();
-    entry.lines().set(u"Quantity", 5.0);
+    typeQuantity(5.0);
     entry.lines().set(u"UnitCost", 123.45); // the total is at what the item costs, not at this
     entry.lines().set(u"ItemOvDesc", u"Rye"_s);
     entry.save(); // with the line still in edit
     EXPECT_EQ(stored(), u"10001|1|3|1.25|||53.75 10001|2|5|123.45||Rye|53.75");
     ASSERT_TRUE(entry.openDocument(entry.key()));
-    entry.lines().edit();
-    entry.lines().set(u"Quantity", 90.0);
+    typeQuantity(90.0);
     entry.removeLine(); // as it was stored, whatever was being typed
     EXPECT_EQ(total(), u"3.75");
     entry.removeLine();

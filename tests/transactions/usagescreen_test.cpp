@@ -1,7 +1,5 @@
-#include "controls/fields/lookupcombobox.h"
 #include "controls/grids/linegrid.h"
 #include "controls/screens/datedialog.h"
-#include "controls/windows/screenmetrics.h"
 #include "master/screens/itemsearchinv.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/documentfilterscreen.h"
@@ -15,9 +13,8 @@ using namespace Tallymere;
 
 namespace {
 
-class UsageScreenTest : public ScreenTest
+struct UsageScreenTest : ScreenTest
 {
-protected:
     UsageScreenTest()
     {
         kitchen.execute(
@@ -33,7 +30,7 @@ protected:
         list = new TfrmUsages(*context, mainWindow.get());
         showActive(*list);
     }
-    QString cursor() { return u"%1,%2"_s.arg(grid->currentIndex().row()).arg(grid->currentIndex().column()); }
+    QString cursor() { return cursorOf(*grid); }
     // A quantity, which leads to the search when the event is over, and an item by its number there.
     void enterLine(const char *quantity, const char *itemNo)
     {
@@ -54,9 +51,9 @@ protected:
         EXPECT_TRUE(comesTrue([&] { return chosen; }));
         EXPECT_TRUE(comesTrue([&] { return grid->hasFocus(); }));
     }
-    QStringList stored()
+    QString stored()
     {
-        return kitchen.rows(
+        return kitchen.found(
             u"SELECT UsageNo, WarehouseID, InvoiceAmount, Seq, Quantity, ItemID, ItemOvDesc, UnitCost "
             "FROM IUsage JOIN IUsageDet ON IUsageDet.UsageID = IUsage.UsageID ORDER BY Seq"_s);
     }
@@ -88,8 +85,7 @@ TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
     type("<Tab><Tab>ap"); // completed to "Apples", whose first letter has another case
     press(Qt::Key_Tab);
     EXPECT_EQ(cursor(), u"1,4"_s) << "Tab stops at the cost";
-    child<QLineEdit>(*screen, "editDescription")->setFocus();
-    type("<PgDown><Backtab>");
+    typeIn(*screen, "editDescription", "<PgDown><Backtab>");
     EXPECT_EQ(focusName(), u"cboWarehouse"_s);
     press(Qt::Key_Delete);
     EXPECT_EQ(child<LookupComboBox>(*screen, "cboWarehouse")->chosenId(), 0);
@@ -97,7 +93,7 @@ TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
     child<QPushButton>(*screen, "btnOK")->click();
     EXPECT_TRUE(comesTrue([&] { return !screen; }));
     EXPECT_EQ(prompts.said, QStringList());
-    EXPECT_EQ(stored(), (QStringList{u"10001|1|10|1|3|1|for pie|2"_s, u"10001|1|10|2|2|1||2"_s}));
+    EXPECT_EQ(stored(), u"10001|1|10|1|3|1|for pie|2 10001|1|10|2|2|1||2");
 }
 
 TEST_F(UsageScreenTest, leadsBackToTheItemWithoutTheSearchAndAsksInItsOwnWords)
@@ -108,9 +104,9 @@ TEST_F(UsageScreenTest, leadsBackToTheItemWithoutTheSearchAndAsksInItsOwnWords)
     QCoreApplication::processEvents();
     EXPECT_EQ(cursor(), u"0,1"_s);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    for (const auto &leave : {std::function<void()>([] { press(Qt::Key_Return); }), std::function<void()>([&] {
-                                  child<QLineEdit>(*screen, "editDescription")->setFocus();
-                              })}) {
+    const std::function<void()> ways[] = {[] { press(Qt::Key_Return); },
+                                          [&] { focusOn(*screen, "editDescription"); }};
+    for (const auto &leave : ways) {
         type("<Tab><Tab>Yeast"); // which is suspended
         leave();
         QCoreApplication::processEvents();
@@ -132,11 +128,11 @@ TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
                     "(3, '13', 2, '2026-03-15', NULL)"_s);
     openList();
     const auto filter = [&](const std::function<void(DocumentFilterScreen &)> &choose) {
-        EXPECT_TRUE(whileOpen<DocumentFilterScreen>([&] { list->command(u"mnuFilter"_s)->trigger(); },
-                                                    [&](DocumentFilterScreen &dialog) {
-                                                        choose(dialog);
-                                                        press(Qt::Key_Return);
-                                                    }));
+        const auto open = [&] { list->command(u"mnuFilter"_s)->trigger(); };
+        EXPECT_TRUE(whileOpen<DocumentFilterScreen>(open, [&](DocumentFilterScreen &dialog) {
+            choose(dialog);
+            press(Qt::Key_Return);
+        }));
     };
     filter([](DocumentFilterScreen &dialog) { dialog.setKey(u"cboCurrency"_s, 2); });
     EXPECT_EQ(list->windowTitle(), u"Inventory Usage (Filtered)"_s);
