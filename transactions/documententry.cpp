@@ -27,6 +27,7 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
     , m_lines(database, m_kind.lineTable)
     , m_check(m_lines, m_kind, prompts)
     , m_visit(m_header, m_lines, m_kind.keyField, prompts)
+    , m_stock(m_header, m_lines, m_kind)
 {
     if (m_kind.numberField)
         m_header.uniqueFields = {*m_kind.numberField};
@@ -36,6 +37,11 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
                       {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemNo});
     m_lines.addLookup(Fields::ItemDescription, FieldType::Text, 40,
                       {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemDescription});
+    const auto told = [](std::optional<double> quantity) { return quantity ? Value(*quantity) : Value(); };
+    m_lines.addCalculated(OnHand.toString(), FieldType::Float, 0,
+                          [this, told](const Engine::DataSet &line) { return told(m_stock.onHand(line)); });
+    m_lines.addCalculated(Afterwards.toString(), FieldType::Float, 0,
+                          [this, told](const Engine::DataSet &line) { return told(m_stock.afterwards(line)); });
     m_lines.setIndex(m_kind.keyField + ";Seq"_L1);
     m_lines.setMaster(&m_header, m_kind.keyField);
     m_header.rules = &m_headerRules;
@@ -89,6 +95,8 @@ void DocumentEntry::configureFields()
     m_lines.field(quantity).validate = [quantity](const Value &value) {
         requireSensibleQuantity(value.toDouble(), quantity);
     };
+    for (const QStringView stock : {OnHand, Afterwards})
+        m_lines.field(stock).format = quantityFormat();
     if (const int cost = m_lines.fieldIndex(Fields::UnitCost); cost >= 0) {
         m_lines.field(cost).label = TransactionsTexts::tr("Unit Cost");
         m_lines.field(cost).format = currencyFormat(RegionalSettings::system(), Fields::UnitCost);
@@ -113,12 +121,14 @@ void DocumentEntry::beginVisit()
 {
     m_visit.begin();
     m_distantDate = {};
+    m_stock.forget();
     visitBegins();
 }
 
 void DocumentEntry::endVisit()
 {
     m_visit.end();
+    m_stock.forget();
     visitBegins();
 }
 
@@ -320,6 +330,7 @@ void DocumentEntry::LineRules::post(const Step &save)
                             LineGrid);
         throw;
     }
+    entry.m_stock.linesChanged();
     entry.lineSaved();
 }
 
@@ -327,6 +338,7 @@ void DocumentEntry::LineRules::remove(const Step &erase)
 {
     entry.beginLineChange(LineChange::Remove);
     entry.m_visit.remove(erase);
+    entry.m_stock.linesChanged();
     entry.lineRemoved();
 }
 
@@ -337,6 +349,7 @@ void DocumentEntry::lockLines()
         m_header.edit();
     m_visit.hold();
     m_visit.keepLines();
+    m_stock.linesChanged();
 }
 
 // What the user wants done to the line that he sees must not be done to the one that has come into its place. The

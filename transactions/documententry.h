@@ -9,6 +9,7 @@
 #include "transactions/documentkind.h"
 #include "transactions/documentvisit.h"
 #include "transactions/linecheck.h"
+#include "transactions/linestock.h"
 
 namespace Tallymere {
 
@@ -89,6 +90,11 @@ public:
     bool goToLineOf(int itemId, double quantity);
     void newLine(); // appends a line
     void removeLine(); // deletes the current line; a line being entered is dropped
+    // Besides what is stored, lines() tells by these fields what is on hand and what will be (see LineStock), as it was
+    // when the visit began or refreshStock() was last called.
+    static constexpr QStringView OnHand = u"OnHand";
+    static constexpr QStringView Afterwards = u"Afterwards";
+    void refreshStock() { m_stock.forget(); }
     // Refuses a line without a quantity. Not every kind does so by itself: on a screen it counts as nothing.
     void requireQuantity() const { m_check.requireQuantity(); }
 
@@ -179,6 +185,7 @@ private:
     Engine::Table m_lines;
     LineCheck m_check;
     DocumentVisit m_visit;
+    LineStock m_stock;
 
     int m_nextSeq = 1;
     bool m_wasSaved = false;

@@ -31,13 +31,18 @@ Qt::ItemFlags LineModel::flags(const QModelIndex &index) const
     return flags;
 }
 
-bool LineModel::takesText(int column) const { return !m_options.fixed.contains(columns()[column].field); }
+bool LineModel::takesText(int column) const
+{
+    return !m_options.fixed.contains(columns()[column].field)
+        && !m_options.behind.contains(columns()[column].field);
+}
 
 void LineModel::setReadOnly(bool readOnly) { m_readOnly = readOnly; }
 
 bool LineModel::stopsAt(int column, Way way) const
 {
-    return way != Way::Enter || !m_options.passedByEnter.contains(columns()[column].field);
+    const QString &field = columns()[column].field;
+    return !m_options.behind.contains(field) && (way != Way::Enter || !m_options.passedByEnter.contains(field));
 }
 
 QModelIndex LineModel::neighbour(const QModelIndex &cell, Way way) const
@@ -47,7 +52,10 @@ QModelIndex LineModel::neighbour(const QModelIndex &cell, Way way) const
         if (stopsAt(column, way))
             return index(cell.row(), column);
     }
-    return index(cell.row() + step, way == Way::Backtab ? columnCount() - 1 : 0);
+    int first = way == Way::Backtab ? columnCount() - 1 : 0;
+    while (first > 0 && !stopsAt(first, way))
+        --first;
+    return index(cell.row() + step, first);
 }
 
 int LineModel::dataRows() const { return TableModel::dataRows() + (m_lines.state() == TableState::Insert ? 1 : 0); }

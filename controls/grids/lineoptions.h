@@ -21,6 +21,8 @@ struct LineOptions
 {
     QStringList passedByEnter = {}; // Tab, arrow keys and mouse reach them
     QStringList fixed = {}; // cannot be typed into
+    QStringList behind =
+        {}; // what stands behind the columns of the document for reading: Enter and Tab do not come there
     bool searchOnEntering = false; // moving into a column that has a search, by key or mouse, opens it
     bool backToStart = false; // leaving the grid goes back to its first line and column
     bool fixedLines = false; // none is appended or deleted

@@ -25,7 +25,8 @@ namespace {
 constexpr QStringView numberColumn = Fields::ItemNo;
 constexpr QStringView descriptionField = Fields::ItemDescription; // of an item, and of a line by lookup
 constexpr int rowsAtFirst = 5;
-constexpr int columnsAtFirst = 5; // further ones take the room of the one with surplus
+constexpr int columnsAtFirst = 5; // further ones take the room of the one with surplus,
+constexpr int stockWidth = 80; // but for the two that tell the stock
 } // namespace
 
 DocumentScreen::DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
@@ -52,6 +53,9 @@ void DocumentScreen::buildDocument(LineOptions options)
         if (!takesText(column.field))
             options.fixed << column.field;
     }
+    columns.append({DocumentEntry::OnHand.toString(), tr("On hand"), stockWidth, Qt::AlignRight});
+    columns.append({DocumentEntry::Afterwards.toString(), tr("After"), stockWidth, Qt::AlignRight});
+    options.behind = {DocumentEntry::OnHand.toString(), DocumentEntry::Afterwards.toString()};
     m_grid = findChild<LineGrid *>(u"DBGrid1"_s);
     m_posted = findChild<QLabel *>(u"lblPosted"_s);
     binder().bind(m_entry->header());
@@ -123,7 +127,18 @@ void DocumentScreen::showHeader()
     const bool posted = m_entry->isPosted();
     m_posted->setVisible(posted);
     binder().setReadOnly(posted);
+    m_grid->viewport()->update(); // what is on hand follows the location
     showCaption();
+}
+
+// Others may have posted meanwhile.
+void DocumentScreen::changeEvent(QEvent *event)
+{
+    RecordScreen::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !m_grid)
+        return;
+    m_entry->refreshStock();
+    m_grid->viewport()->update();
 }
 
 void DocumentScreen::showReadOnly(bool readOnly)
@@ -143,7 +158,7 @@ void DocumentScreen::showLineOf(int itemId, double quantity)
 
 void DocumentScreen::sizeForLines()
 {
-    resize(width() - m_grid->width() + m_grid->widthForColumns(columnsAtFirst),
+    resize(width() - m_grid->width() + m_grid->widthForColumns(columnsAtFirst) + 2 * scaled(this, stockWidth),
            height() - m_grid->height() + m_grid->heightForRows(rowsAtFirst));
 }
 

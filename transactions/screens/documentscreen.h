@@ -52,6 +52,7 @@ protected:
     QString recordName() const override;
     bool focusColumn(const QString &column) override;
     bool takeKey(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void showReadOnly(bool readOnly);
