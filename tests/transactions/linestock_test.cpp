@@ -48,7 +48,8 @@ TEST_P(LineStockTest, FollowsTheLinesOfEveryKindOfDocument)
         entry = kind->entry.make(kitchen.database(), prompts);
         entry->open();
         ASSERT_TRUE(entry->openDocument(1));
-        EXPECT_EQ(told(), (QStringList{line(10, 2), u"|"_s, line(10, 5)})) << "the second is of a type without stock";
+        EXPECT_EQ(told(), (QStringList{line(10, 2), u"|"_s, line(10, 5)}))
+            << "the second is of a type without stock";
 
         entry->lines().moveTo(0);
         entry->lines().edit();
