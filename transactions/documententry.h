@@ -34,7 +34,8 @@ public:
     DocumentEntry(const DocumentEntry &) = delete;
     DocumentEntry &operator=(const DocumentEntry &) = delete;
 
-    // Where the numbers of a new document come from; at once from their counters unless set.
+    // Where key and number of a new document come from: from their counters at once, unless an import has set a source
+    // that keeps the counters in hand for all of its documents.
     NumberSource numbers;
 
     // Opens both tables. Labels and formats of their fields are known afterwards.
@@ -187,9 +188,11 @@ private:
     DocumentVisit m_visit;
     LineStock m_stock;
 
+    // The number of the next new line: looked up once, when the first change of the visit locks the document, and counted
+    // from there. A line whose number proves to be taken all the same gets the highest stored one plus 1.
     int m_nextSeq = 1;
     bool m_wasSaved = false;
-    QString m_givenNumber;
+    QString m_givenNumber; // of the new document, from a file that has one; empty: the counter gives it
     QDate m_distantDate; // that the user wants all the same
 };
 

@@ -112,8 +112,10 @@ private:
     QDate m_date;
     ZeroCounts m_zeroCounts = ZeroCounts::Excluded;
     ItemQuantities m_balances; // as they were when the list was read
-    bool m_waits =
-        false; // the list lacks what waited to be posted at its reading, or what it has been calculated to
+    // Documents of the location wait to be posted that the list knows nothing of: they waited when it was read, or are
+    // what it was calculated to. Calculated again, it would count the same goods as used twice; so it has to be read
+    // anew once they are posted.
+    bool m_waits = false;
     bool m_isCalculated = false; // and nothing has been typed since
     QString m_draftFailure;
 };

@@ -97,7 +97,9 @@ std::optional<Key> Table::storedKey(const Row &row) const
 }
 
 // Makes sure that the current record is still the row that was shown, before it is changed; false when that one is
-// gone.
+// gone. A set goes by keys of whole numbers where a table has them, and they stay with their record. Other tables it goes
+// over by the store's own row numbers, which change when somebody else writes the row or restores the table: the current
+// one may belong to another record by now.
 bool Table::findAgain(const Row &shown)
 {
     if (!m_layout.numberKey().isEmpty())
