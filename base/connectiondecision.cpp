@@ -11,11 +11,6 @@ namespace Tallymere {
 
 namespace {
 
-QString setting(const SettingsStore &settings, const QString &name)
-{
-    return getRegString(settings, name, databaseName);
-}
-
 void warnNotDefined(Prompts &prompts)
 {
     prompts.error(BaseTexts::tr("The Corvane database has not been defined. The application can not continue. "
@@ -24,10 +19,7 @@ void warnNotDefined(Prompts &prompts)
 
 void locateFiles(Engine::Database &database, const SettingsStore &settings, Prompts &prompts)
 {
-    database.directory = dbisamAlias(settings, databaseName);
-    if (database.directory.isEmpty())
-        database.directory = dbisamAlias(settings, spacedDatabaseName);
-
+    database.directory = databaseFolder(settings);
     if (database.directory.isEmpty()) {
         warnNotDefined(prompts);
     } else if (!QDir(database.directory).exists()) {
@@ -40,9 +32,7 @@ void locateFiles(Engine::Database &database, const SettingsStore &settings, Prom
 void locateOnServer(Engine::Database &database, const SettingsStore &settings, Prompts &prompts)
 {
     database.remoteName = databaseName;
-    database.directory = getRegString(settings, u"Alias"_s, databaseName);
-    if (database.directory.isEmpty())
-        database.directory = getRegString(settings, u"Alias"_s, spacedDatabaseName);
+    database.directory = databaseFolder(settings);
     if (database.directory.isEmpty())
         warnNotDefined(prompts);
 }
@@ -52,17 +42,14 @@ void locateOnServer(Engine::Database &database, const SettingsStore &settings, P
 QString sessionTallymereStartup(Engine::Session &session, const SettingsStore &settings)
 {
     session.privateDirectory = QDir::tempPath();
-    const QString mode = setting(settings, u"Mode"_s);
-    if (mode != clientServerMode) {
-        session.type = Engine::SessionType::Local;
-        return mode;
+    const QString mode = settings.getRegString(Settings::Mode, databaseName);
+    session.type = Settings::Mode.byDefault;
+    takeSetting(mode, session.type);
+    if (session.type == Engine::SessionType::Remote) {
+        session.remoteAddress = settings.value(Settings::ServerAddress);
+        session.remoteLink = settings.value(Settings::Connection);
+        useServerAccount(session);
     }
-
-    session.type = Engine::SessionType::Remote;
-    session.remoteAddress = setting(settings, u"Server IP"_s);
-    session.remoteLink =
-        setting(settings, u"Connection"_s) == "Internet"_L1 ? Engine::LinkType::Internet : Engine::LinkType::Lan;
-    useServerAccount(session);
     return mode;
 }
 
@@ -75,7 +62,7 @@ void useServerAccount(Engine::Session &session)
 QString databaseTallymereBeforeConnect(Engine::Database &database, const SettingsStore &settings, Prompts &prompts)
 {
     qCDebug(trace) << "About to set the value for cMode...";
-    const QString mode = setting(settings, u"Mode"_s);
+    const QString mode = settings.getRegString(Settings::Mode, databaseName);
     qCDebug(trace) << "About to test for the value of cMode...";
     if (mode == clientServerMode) {
         qCDebug(trace) << "Mode is Client Server";

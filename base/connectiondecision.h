@@ -10,10 +10,6 @@
 
 namespace Tallymere {
 
-// Only the exact letter counts; anything else is file-server mode.
-inline constexpr QLatin1StringView clientServerMode{"C"};
-inline constexpr QLatin1StringView fileServerMode{"F"};
-
 // Sets private directory, type, address, link and account of the main session. Returns the mode as stored.
 QString sessionTallymereStartup(Engine::Session &session, const SettingsStore &settings);
 

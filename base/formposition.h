@@ -10,9 +10,10 @@
 
 namespace Tallymere {
 
-// The setting under which a screen, the section, keeps what it remembers.
-QString formSetting(const QString &section);
-void saveFormPos(SettingsStore &settings, const QRect &geometry, const QString &section, const QString &key);
-std::optional<QRect> setFormPos(const SettingsStore &settings, const QString &section, const QString &key);
+// The section is the screen by its component name.
+void saveFormPos(SettingsStore &settings, const QRect &geometry, const QString &section,
+                 const ScreenSetting<QRect> &key);
+std::optional<QRect> setFormPos(const SettingsStore &settings, const QString &section,
+                                const ScreenSetting<QRect> &key);
 
 } // namespace Tallymere

@@ -66,14 +66,14 @@ Place placeOf(const QList<QByteArray> &lines, QStringView section, QStringView n
 
 } // namespace
 
-QString InitFile::value(QStringView section, QStringView name) const
+QString InitFile::value(const InitSetting &setting) const
 {
-    const QList<Entry> found = entries(section);
+    const QList<Entry> found = entries(setting.section);
     for (const Entry &entry : found) {
-        if (same(entry.name, name))
-            return entry.value;
+        if (same(entry.name, setting.name))
+            return entry.value.isEmpty() ? QString(setting.byDefault) : entry.value;
     }
-    return {};
+    return setting.byDefault;
 }
 
 QList<InitFile::Entry> InitFile::entries(QStringView section) const
@@ -91,20 +91,20 @@ QList<InitFile::Entry> InitFile::entries(QStringView section) const
     return found;
 }
 
-bool InitFile::setValue(const QString &section, const QString &name, const QString &value) const
+bool InitFile::setValue(const InitSetting &setting, const QString &value) const
 {
     if (const QFileInfo there(m_path); there.exists() && !there.isReadable())
         return false; // what cannot be read would be lost
     QList<QByteArray> all = lines();
     const QByteArray end = !all.isEmpty() && all.first().endsWith('\r') ? "\r" : "";
-    const QByteArray line = (name + u'=' + value).toUtf8() + end;
-    const Place place = placeOf(all, section, name);
+    const QByteArray line = (setting.name.toString() + u'=' + value).toUtf8() + end;
+    const Place place = placeOf(all, setting.section, setting.name);
     if (place.entry >= 0)
         all[place.entry] = line;
     else if (place.header >= 0)
         all.insert(place.header + 1, line);
     else
-        all << u"[%1]"_s.arg(section).toUtf8() + end << line;
+        all << u"[%1]"_s.arg(setting.section).toUtf8() + end << line;
 
     QSaveFile file(m_path);
     return file.open(QIODevice::WriteOnly) && file.write(all.join('\n') + '\n') >= 0 && file.flush()

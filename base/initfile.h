@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/settings.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -23,12 +25,11 @@ public:
     {
     }
 
-    // Empty when there is no such value, or no such file.
-    QString value(QStringView section, QStringView name) const;
+    QString value(const InitSetting &setting) const; // the default when there is no such value, or no such file
     // The values of a section in the order of the file.
     QList<Entry> entries(QStringView section) const;
     // Writes one value and keeps every other line of the file to the byte. False when the file cannot be written.
-    bool setValue(const QString &section, const QString &name, const QString &value) const;
+    bool setValue(const InitSetting &setting, const QString &value) const;
 
 private:
     QList<QByteArray> lines() const; // each with the carriage return that it may end with

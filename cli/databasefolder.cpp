@@ -1,6 +1,6 @@
 #include "cli/databasefolder.h"
 
-#include "base/connectiondecision.h"
+#include "base/settingsstore.h"
 #include "cli/terminal.h"
 #include "cli/texts.h"
 #include "engine/store/platform.h"
@@ -23,10 +23,9 @@ QString folderOf(const CommandContext &context)
         return QDir(context.arguments.value(u"data"_s)).absolutePath();
     if (context.arguments.has(u"server"_s))
         return {};
-    if (getRegString(context.settings, u"Mode"_s, databaseName) == clientServerMode)
+    if (context.settings.value(Settings::Mode) == Engine::SessionType::Remote)
         return {};
-    const QString folder = dbisamAlias(context.settings, databaseName);
-    return folder.isEmpty() ? dbisamAlias(context.settings, spacedDatabaseName) : folder;
+    return databaseFolder(context.settings);
 }
 
 void makeFolder(const QString &folder)

@@ -1,12 +1,9 @@
 #include "data/lastchoices.h"
 
-#include "base/formposition.h"
+#include "base/settingsstore.h"
 #include "data/datamodule.h"
 
-#include <QJsonDocument>
 #include <QUrl>
-
-using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
@@ -20,24 +17,22 @@ QString valueName(const QString &user, const QString &database)
 
 } // namespace
 
-LastChoices::LastChoices(const QString &screen, TDataModuleTallymere &data, SettingsStore *settings)
-    : m_section(formSetting(screen))
+LastChoices::LastChoices(QStringView screen, TDataModuleTallymere &data, SettingsStore *settings)
+    : m_screen(screen)
     , m_owner(valueName(data.currentUser(), data.databaseTallymere().connection().location()))
     , m_settings(settings)
 {
 }
 
-QJsonObject LastChoices::read() const
+Choices LastChoices::read() const
 {
-    const QString kept = m_settings ? m_settings->read(m_section, m_owner) : QString();
-    return QJsonDocument::fromJson(kept.toUtf8()).object();
+    return m_settings ? Choices(m_settings->value(m_screen, setting())) : Choices();
 }
 
-void LastChoices::keep(const QJsonObject &choices) const
+void LastChoices::keep(const Choices &choices) const
 {
     if (m_settings)
-        m_settings->write(m_section, m_owner,
-                          QString::fromUtf8(QJsonDocument(choices).toJson(QJsonDocument::Compact)));
+        m_settings->setValue(m_screen, setting(), choices.m_values);
 }
 
 } // namespace Tallymere

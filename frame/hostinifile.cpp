@@ -10,9 +10,9 @@ namespace Tallymere {
 void nameSampleCompany(const QString &executableFolder)
 {
     const InitFile file(hostInitFile(executableFolder));
-    if (!file.value(u"Companies", u"Sample Data").isEmpty())
+    if (!file.value(Settings::SampleData).isEmpty())
         return;
-    if (!file.setValue(u"Companies"_s, u"Sample Data"_s, executableFolder + "/Data"_L1))
+    if (!file.setValue(Settings::SampleData, executableFolder + "/Data"_L1))
         qCDebug(trace) << "HX1.ini in" << executableFolder << "cannot be written";
 }
 

@@ -1,6 +1,5 @@
 #include "frame/mainoptionsinv.h"
 
-#include "base/connectiondecision.h"
 #include "base/settingsstore.h"
 #include "controls/fields/comboboxname.h"
 #include "controls/fields/radiochoice.h"
@@ -19,14 +18,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 namespace {
-
-constexpr auto mode = "Mode"_L1;
-constexpr auto alias = "Alias"_L1;
-constexpr auto serverAddress = "Server IP"_L1;
-constexpr auto connection = "Connection"_L1;
-
-constexpr auto internet = "Internet"_L1;
-constexpr auto lan = "LAN"_L1;
 
 QString chooseInDialog(QWidget *parent, const QString &current)
 {
@@ -66,13 +57,12 @@ TFormRegistryEditor::~TFormRegistryEditor() = default;
 void TFormRegistryEditor::formShow()
 {
     const TraceScope scope("TFormRegistryEditor.FormShow");
-    const bool remote = getRegString(m_settings, mode, databaseName) == clientServerMode;
+    const bool remote = m_settings.value(Settings::Mode) == Engine::SessionType::Remote;
     (remote ? m_ui->radioClientServer : m_ui->radioFileServer)->setChecked(true);
     actionModeChange();
-    m_ui->RzButtonEditDataPath->setText(getRegString(m_settings, alias, databaseName));
-    m_ui->wwDBEditIPAddress->setText(getRegString(m_settings, serverAddress, databaseName));
-    const QString link = getRegString(m_settings, connection, databaseName);
-    m_ui->RzComboBoxConnectionType->setCurrentText(link == internet ? internet : lan);
+    m_ui->RzButtonEditDataPath->setText(m_settings.value(Settings::Alias));
+    m_ui->wwDBEditIPAddress->setText(m_settings.value(Settings::ServerAddress));
+    m_ui->RzComboBoxConnectionType->setCurrentText(settingText(m_settings.value(Settings::Connection)));
 }
 
 void TFormRegistryEditor::actionModeChange()
@@ -83,10 +73,12 @@ void TFormRegistryEditor::actionModeChange()
 void TFormRegistryEditor::actionOK()
 {
     const TraceScope scope("TFormRegistryEditor.ActionOKExecute");
-    save(mode, clientServerChosen() ? clientServerMode : fileServerMode);
-    save(alias, m_ui->RzButtonEditDataPath->text());
-    save(serverAddress, m_ui->wwDBEditIPAddress->text());
-    save(connection, m_ui->RzComboBoxConnectionType->currentText());
+    Engine::LinkType link = Settings::Connection.byDefault;
+    takeSetting(m_ui->RzComboBoxConnectionType->currentText(), link);
+    save(Settings::Mode, clientServerChosen() ? Engine::SessionType::Remote : Engine::SessionType::Local);
+    save(Settings::Alias, m_ui->RzButtonEditDataPath->text());
+    save(Settings::ServerAddress, m_ui->wwDBEditIPAddress->text());
+    save(Settings::Connection, link);
     accept();
 }
 
@@ -106,9 +98,10 @@ void TFormRegistryEditor::chooseFolder()
 
 bool TFormRegistryEditor::clientServerChosen() const { return m_ui->radioClientServer->isChecked(); }
 
-void TFormRegistryEditor::save(const QString &setting, const QString &value)
+template <typename T>
+void TFormRegistryEditor::save(const DatabaseSetting<T> &setting, const std::type_identity_t<T> &value)
 {
-    if (!setRegString(m_settings, setting, value))
+    if (!m_settings.setRegString(setting, value))
         m_prompts.error(keyErrorText());
 }
 

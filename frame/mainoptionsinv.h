@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/prompts.h"
+#include "base/settings.h"
 
 #include <functional>
 #include <memory>
@@ -39,7 +40,7 @@ protected:
 private:
     void chooseFolder();
     bool clientServerChosen() const;
-    void save(const QString &setting, const QString &value);
+    template <typename T> void save(const DatabaseSetting<T> &setting, const std::type_identity_t<T> &value);
 
     SettingsStore &m_settings;
     Prompts &m_prompts;

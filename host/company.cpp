@@ -30,12 +30,6 @@ public:
     bool retry(const QString &) override { return false; }
 };
 
-QString folderOf(const SettingsStore &settings)
-{
-    const QString folder = dbisamAlias(settings, databaseName);
-    return folder.isEmpty() ? dbisamAlias(settings, spacedDatabaseName) : folder;
-}
-
 QString organization(const SettingsStore &settings)
 {
     NoPrompts prompts;
@@ -55,11 +49,11 @@ QString organization(const SettingsStore &settings)
 Company readCompany(const SettingsStore &settings)
 {
     Company company;
-    const bool remote = getRegString(settings, u"Mode"_s, databaseName) == clientServerMode;
-    const QString server = getRegString(settings, u"Server IP"_s, databaseName);
+    const bool remote = settings.value(Settings::Mode) == Engine::SessionType::Remote;
+    const QString server = settings.value(Settings::ServerAddress);
     company.location =
-        remote ? HostTexts::tr("Server %1").arg(server) : QDir::toNativeSeparators(folderOf(settings));
-    company.defined = !(remote ? server : folderOf(settings)).isEmpty();
+        remote ? HostTexts::tr("Server %1").arg(server) : QDir::toNativeSeparators(databaseFolder(settings));
+    company.defined = !(remote ? server : databaseFolder(settings)).isEmpty();
     if (!company.defined)
         return company;
     try {
@@ -72,13 +66,13 @@ Company readCompany(const SettingsStore &settings)
 
 bool useCompanyFolder(SettingsStore &settings, const QString &folder)
 {
-    return setRegString(settings, u"Mode"_s, fileServerMode)
-        && setRegString(settings, u"Alias"_s, QDir(folder).absolutePath());
+    return settings.setRegString(Settings::Mode, Engine::SessionType::Local)
+        && settings.setRegString(Settings::Alias, QDir(folder).absolutePath());
 }
 
 QString sampleCompanyFolder(const QString &executableFolder)
 {
-    const QString folder = InitFile(hostInitFile(executableFolder)).value(u"Companies", u"Sample Data");
+    const QString folder = InitFile(hostInitFile(executableFolder)).value(Settings::SampleData);
     const bool there = !folder.isEmpty() && QFileInfo(folder + "/Corvane.sqlite"_L1).isFile();
     return there ? folder : QString();
 }

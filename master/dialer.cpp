@@ -15,10 +15,6 @@ namespace Tallymere {
 
 namespace {
 
-constexpr QStringView section = u"General";
-constexpr QStringView key = u"DialerPort";
-constexpr QStringView portSection = u"Ports";
-
 QString settingOf(int port) { return u"com%1"_s.arg(port); }
 QString nameOf(int port) { return u"COM%1"_s.arg(port); }
 
@@ -31,9 +27,7 @@ Dialer::Dialer(QString initFile)
 
 int Dialer::port() const
 {
-    const QString setting = InitFile(m_initFile).value(section, key);
-    if (setting.isEmpty())
-        return 1;
+    const QString setting = InitFile(m_initFile).value(Settings::DialerPort);
     for (int port = 1; port <= ports; ++port) {
         if (setting == settingOf(port))
             return port;
@@ -43,13 +37,13 @@ int Dialer::port() const
 
 void Dialer::setPort(int port) const
 {
-    if (!InitFile(m_initFile).setValue(section.toString(), key.toString(), settingOf(port)))
+    if (!InitFile(m_initFile).setValue(Settings::DialerPort, settingOf(port)))
         throw RuleError(MasterTexts::tr("The port cannot be saved: %1 cannot be written.").arg(m_initFile));
 }
 
 QString Dialer::deviceOf(int port) const
 {
-    const QString named = InitFile(m_initFile).value(portSection, nameOf(port));
+    const QString named = InitFile(m_initFile).value(Settings::dialerDevice(nameOf(port)));
     return named.isEmpty() ? ModemPort::usualDevice(port) : named;
 }
 

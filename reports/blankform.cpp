@@ -18,19 +18,17 @@ namespace Tallymere {
 
 namespace {
 
-constexpr auto locationKey = "location"_L1;
-
 struct Mark
 {
-    QLatin1StringView name;
+    ChoiceSetting<bool> setting;
     bool BlankFormChoices::*choice;
 };
 
-constexpr Mark marks[] = {{"byCategory"_L1, &BlankFormChoices::byCategory},
-                          {"pagePerCategory"_L1, &BlankFormChoices::pagePerCategory},
-                          {"zeroCounts"_L1, &BlankFormChoices::zeroCounts},
-                          {"priorQuantities"_L1, &BlankFormChoices::priorQuantities},
-                          {"barcodes"_L1, &BlankFormChoices::barcodes}};
+constexpr Mark marks[] = {{Settings::ByCategory, &BlankFormChoices::byCategory},
+                          {Settings::PagePerCategory, &BlankFormChoices::pagePerCategory},
+                          {Settings::ZeroCounts, &BlankFormChoices::zeroCounts},
+                          {Settings::PriorQuantities, &BlankFormChoices::priorQuantities},
+                          {Settings::Barcodes, &BlankFormChoices::barcodes}};
 
 // --- the rows --------------------------------------------------------------------------------------------------------
 
@@ -126,20 +124,21 @@ QStringList unpostedNote(Engine::Database &database, const ReportSelection &sele
 
 } // namespace
 
-QJsonObject BlankFormChoices::toJson() const
+Choices BlankFormChoices::toKeep() const
 {
-    QJsonObject kept{{locationKey, warehouseId}};
+    Choices kept;
+    kept.set(Settings::Location, warehouseId);
     for (const Mark &mark : marks)
-        kept.insert(mark.name, this->*mark.choice);
+        kept.set(mark.setting, this->*mark.choice);
     return kept;
 }
 
-BlankFormChoices BlankFormChoices::fromJson(const QJsonObject &kept)
+BlankFormChoices BlankFormChoices::from(const Choices &kept)
 {
     BlankFormChoices choices;
-    choices.warehouseId = kept[locationKey].toInt();
+    choices.warehouseId = kept.value(Settings::Location);
     for (const Mark &mark : marks)
-        choices.*mark.choice = kept[mark.name].toBool(choices.*mark.choice);
+        choices.*mark.choice = kept.value(mark.setting);
     return choices;
 }
 

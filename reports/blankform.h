@@ -1,8 +1,7 @@
 #pragma once
 
+#include "data/lastchoices.h"
 #include "reports/reportdescription.h"
-
-#include <QJsonObject>
 
 namespace Tallymere {
 
@@ -10,15 +9,15 @@ namespace Tallymere {
 struct BlankFormChoices
 {
     int warehouseId = 0;
-    bool byCategory = true; // else by item number
+    bool byCategory = Settings::ByCategory.byDefault; // else by item number
     bool pagePerCategory = false; // only where it is by category
     bool zeroCounts = false; // items without any balance as well
     bool priorQuantities = false; // without them the count is a blind one
     bool barcodes = false; // of the item numbers
 
-    // To be kept and offered again. What is missing is as above.
-    QJsonObject toJson() const;
-    static BlankFormChoices fromJson(const QJsonObject &kept);
+    // To be kept and offered again.
+    Choices toKeep() const;
+    static BlankFormChoices from(const Choices &kept);
 };
 
 // The items that a count of the location lists, in its words, each with a box to write the quantity in. Its rows are

@@ -11,13 +11,6 @@ namespace Tallymere {
 
 namespace {
 
-constexpr auto reportKey = "report"_L1;
-constexpr auto locationKey = "location"_L1;
-constexpr auto itemTypeKey = "itemType"_L1;
-constexpr auto periodKey = "period"_L1;
-constexpr auto yearKey = "year"_L1;
-constexpr auto defaultKey = "defaultPeriod"_L1; // what the default was then
-
 Period organizationsPeriod(TDataModuleTallymere &data)
 {
     return defaultPeriod(data.databaseTallymere(), data.today());
@@ -37,37 +30,40 @@ int indexOf(const QString &name)
 
 ReportMemory::ReportMemory(TDataModuleTallymere &data, SettingsStore *settings)
     : m_data(data)
-    , m_choices(u"frmInvReports"_s, data, settings)
+    , m_choices(Settings::reportsScreen, data, settings)
     , m_default(organizationsPeriod(data))
 {
 }
 
 ReportChoice ReportMemory::last() const
 {
-    const QJsonObject kept = m_choices.read();
+    const Choices kept = m_choices.read();
     // The key if the statement finds it.
-    const auto stillThere = [&](const QString &statement, QLatin1StringView key) {
-        const Engine::Value found = Engine::singleValue(m_data.databaseTallymere(), statement, {kept[key].toInt()});
+    const auto stillThere = [&](const QString &statement, const ChoiceSetting<int> &key) {
+        const Engine::Value found = Engine::singleValue(m_data.databaseTallymere(), statement, {kept.value(key)});
         return static_cast<int>(found.toInt64());
     };
-    const bool sameDefault = kept[defaultKey].toString() == periodText(m_default.number, m_default.year);
-    return {.report = indexOf(kept[reportKey].toString()),
-            .selection = {
-                .warehouseId = stillThere(u"SELECT WarehouseID FROM Warehse WHERE WarehouseID = ?"_s, locationKey),
-                .itemTypeId = stillThere(u"SELECT ItemTypeID FROM ItemType WHERE ItemTypeID = ?"_s, itemTypeKey),
-                .period = sameDefault ? kept[periodKey].toInt() : m_default.number,
-                .year = sameDefault ? kept[yearKey].toInt() : m_default.year}};
+    const bool sameDefault = kept.value(Settings::DefaultPeriod) == periodText(m_default.number, m_default.year);
+    return {.report = indexOf(kept.value(Settings::Report)),
+            .selection = {.warehouseId = stillThere(u"SELECT WarehouseID FROM Warehse WHERE WarehouseID = ?"_s,
+                                                    Settings::Location),
+                          .itemTypeId = stillThere(u"SELECT ItemTypeID FROM ItemType WHERE ItemTypeID = ?"_s,
+                                                   Settings::ItemType),
+                          .period = sameDefault ? kept.value(Settings::ReportPeriod) : m_default.number,
+                          .year = sameDefault ? kept.value(Settings::ReportYear) : m_default.year}};
 }
 
 void ReportMemory::keep(const ReportChoice &choice) const
 {
     const ReportSelection &selection = choice.selection;
-    m_choices.keep({{reportKey, ReportList::offered().at(choice.report)->name},
-                    {locationKey, selection.warehouseId},
-                    {itemTypeKey, selection.itemTypeId},
-                    {periodKey, selection.period},
-                    {yearKey, selection.year},
-                    {defaultKey, periodText(m_default.number, m_default.year)}});
+    Choices kept;
+    kept.set(Settings::Report, ReportList::offered().at(choice.report)->name);
+    kept.set(Settings::Location, selection.warehouseId);
+    kept.set(Settings::ItemType, selection.itemTypeId);
+    kept.set(Settings::ReportPeriod, selection.period);
+    kept.set(Settings::ReportYear, selection.year);
+    kept.set(Settings::DefaultPeriod, periodText(m_default.number, m_default.year));
+    m_choices.keep(kept);
 }
 
 } // namespace Tallymere

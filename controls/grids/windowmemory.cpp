@@ -8,16 +8,11 @@
 
 #include <algorithm>
 #include <QEvent>
-
-using namespace Qt::StringLiterals;
+#include <utility>
 
 namespace Tallymere {
 
 namespace {
-constexpr auto placeKey = "Place"_L1;
-constexpr auto maximizedKey = "Maximized"_L1;
-constexpr auto yes = "true"_L1;
-
 // Screens that are scaled by a fraction round places; a pixel is not the user's change.
 bool isSamePlace(const QRect &one, const QRect &other)
 {
@@ -52,8 +47,9 @@ void WindowMemory::restore()
     if (m_settings) {
         restorePlace();
         for (DataGrid *grid : grids()) {
-            setColumnWidths(*grid, m_settings->read(formSetting(section()), grid->objectName()));
-            m_kept.insert(grid->objectName(), columnWidths(*grid));
+            const QString name = grid->objectName();
+            setColumnWidths(*grid, m_settings->value(section(), Settings::columnWidths(name)));
+            m_widths.insert(name, columnWidths(*grid));
         }
     }
     standApart(m_window);
@@ -62,10 +58,10 @@ void WindowMemory::restore()
 
 void WindowMemory::restorePlace()
 {
-    if (const std::optional<QRect> kept = setFormPos(*m_settings, section(), placeKey))
+    if (const std::optional<QRect> kept = setFormPos(*m_settings, section(), Settings::Place))
         moveToPlace(m_window, QRect(kept->topLeft(), kept->size() * fontFactor(&m_window)));
-    m_kept.insert(maximizedKey, m_settings->read(formSetting(section()), maximizedKey));
-    if (m_kept[maximizedKey] == yes)
+    m_maximized = m_settings->value(section(), Settings::Maximized);
+    if (m_maximized)
         m_window.setWindowState(m_window.windowState() | Qt::WindowMaximized);
 }
 
@@ -79,26 +75,29 @@ bool WindowMemory::eventFilter(QObject *watched, QEvent *event)
 void WindowMemory::save()
 {
     for (const DataGrid *grid : grids())
-        keep(grid->objectName(), columnWidths(*grid));
+        keepWidths(*grid);
     if (!m_window.isMinimized())
         savePlace();
 }
 
 void WindowMemory::savePlace()
 {
-    keep(maximizedKey, m_window.isMaximized() ? QString(yes) : QString());
+    const bool maximized = m_window.isMaximized();
+    if (std::exchange(m_maximized, maximized) != maximized)
+        m_settings->setValue(section(), Settings::Maximized, maximized);
     if (m_window.isMaximized() || m_window.isFullScreen() || isSamePlace(m_window.geometry(), m_place))
         return;
     m_place = m_window.geometry();
-    saveFormPos(*m_settings, QRect(m_place.topLeft(), m_place.size() / fontFactor(&m_window)), section(), placeKey);
+    saveFormPos(*m_settings, QRect(m_place.topLeft(), m_place.size() / fontFactor(&m_window)), section(),
+                Settings::Place);
 }
 
-void WindowMemory::keep(const QString &key, const QString &value)
+void WindowMemory::keepWidths(const DataGrid &grid)
 {
-    if (m_kept.value(key) == value)
-        return;
-    m_kept.insert(key, value);
-    m_settings->write(formSetting(section()), key, value);
+    const QString name = grid.objectName();
+    const QString widths = columnWidths(grid);
+    if (std::exchange(m_widths[name], widths) != widths)
+        m_settings->setValue(section(), Settings::columnWidths(name), widths);
 }
 
 } // namespace Tallymere

@@ -33,13 +33,15 @@ private:
     void restorePlace();
     void save();
     void savePlace();
-    void keep(const QString &key, const QString &value);
+    void keepWidths(const DataGrid &grid);
 
     QWidget &m_window;
     SettingsStore *m_settings;
     bool m_restored = false;
     QRect m_place; // as it was opened
-    QHash<QString, QString> m_kept; // what the settings hold, or would hold if the user changed nothing
+    // What the settings hold, or would hold if the user changed nothing.
+    bool m_maximized = false;
+    QHash<QString, QString> m_widths; // by grid
 };
 
 } // namespace Tallymere

@@ -1,7 +1,7 @@
 #include "controls/windows/filechoice.h"
 
-#include "base/formposition.h"
 #include "base/savedfile.h"
+#include "base/settingsstore.h"
 #include "controls/windows/screencontext.h"
 
 #include <QDir>
@@ -13,11 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
-
-namespace {
-constexpr auto savingSection = "SaveAsCsv"_L1; // of all files by now
-constexpr auto folderKey = "Folder"_L1;
-} // namespace
 
 QString chooseFileToSave(QWidget *window, const FileChoice &choice)
 {
@@ -38,14 +33,14 @@ QString chooseFileToSave(QWidget *window, const FileChoice &choice)
 
 QString lastFolder(const ScreenContext &context)
 {
-    return context.settings ? context.settings->read(formSetting(savingSection), folderKey) : QString();
+    return context.settings ? context.settings->value(Settings::savingSection, Settings::SavingFolder) : QString();
 }
 
 void rememberFolder(const ScreenContext &context, const QString &file)
 {
     const QString folder = QFileInfo(file).absolutePath();
     if (context.settings && folder != lastFolder(context))
-        context.settings->write(formSetting(savingSection), folderKey, folder);
+        context.settings->setValue(Settings::savingSection, Settings::SavingFolder, folder);
 }
 
 QString saveToChosenFile(const ScreenContext &context, QWidget *window, FileChoice choice,

@@ -182,8 +182,8 @@ int main(int argc, char *argv[])
     const QString folder = QString::fromLocal8Bit(argv[2]);
     const QString desktopPicture = QString::fromLocal8Bit(argv[3]);
     MemorySettings settings;
-    setRegString(settings, u"Mode"_s, u"F"_s);
-    setRegString(settings, u"Alias"_s, QString::fromLocal8Bit(argv[1]));
+    settings.setRegString(Settings::Mode, Engine::SessionType::Local);
+    settings.setRegString(Settings::Alias, QString::fromLocal8Bit(argv[1]));
     MessageBoxes prompts;
     const ScreenRegistry screens = productScreens();
     Host host;

@@ -11,14 +11,14 @@ namespace Tallymere {
 
 TFormBlankInventoryReportSelection::TFormBlankInventoryReportSelection(ScreenContext &context, QWidget *parent)
     : DialogScreen(context, parent)
-    , m_last(u"FormBlankInventoryReportSelection"_s, context.data, context.settings)
+    , m_last(Settings::blankFormScreen, context.data, context.settings)
     , m_ui(std::make_unique<Ui::TFormBlankInventoryReportSelection>())
 {
     m_ui->setupUi(this);
     setLookupLists(*this, context.lookups, guard());
     // A page for each category needs their order.
     connect(m_ui->optCategory, &QRadioButton::toggled, m_ui->chkPagePerCategory, &QWidget::setEnabled);
-    offer(BlankFormChoices::fromJson(m_last.read()));
+    offer(BlankFormChoices::from(m_last.read()));
     connectGuarded(m_ui->btnPreview, &QPushButton::clicked, this,
                    &TFormBlankInventoryReportSelection::btnPreviewClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -61,7 +61,7 @@ WantedReport TFormBlankInventoryReportSelection::wanted() const
     return {blankForm(chosen), {.warehouseId = chosen.warehouseId}};
 }
 
-void TFormBlankInventoryReportSelection::keepChoices() { m_last.keep(choices().toJson()); }
+void TFormBlankInventoryReportSelection::keepChoices() { m_last.keep(choices().toKeep()); }
 
 // The preview belongs to the window that this was opened from, and stays.
 void TFormBlankInventoryReportSelection::btnPreviewClick()

@@ -30,13 +30,13 @@ struct SystemSettingsTest : testing::Test
 
 TEST_F(SystemSettingsTest, AreKeptForTheUserUnderTheDocumentedNames)
 {
-    EXPECT_EQ(getRegString(settings, u"Mode"_s, u"Corvane"_s), u""_s);
-    ASSERT_TRUE(setRegString(settings, u"Server IP"_s, u"10.0.0.7"_s));
-    ASSERT_TRUE(setRegString(settings, u"Alias"_s, u"/data/Küche; a, b=\"c\""_s));
+    EXPECT_EQ(settings.read(u"Mode"_s, u"Corvane"_s), u""_s);
+    ASSERT_TRUE(settings.setRegString(Settings::ServerAddress, u"10.0.0.7"_s));
+    ASSERT_TRUE(settings.setRegString(Settings::Alias, u"/data/Küche; a, b=\"c\""_s));
     ASSERT_TRUE(settings.write(u"Alias"_s, u"Cor Vane"_s, u"/spaced"_s));
 
     const SystemSettings another;
-    EXPECT_EQ(getRegString(another, u"Server IP"_s, u"Corvane"_s), u"10.0.0.7"_s);
+    EXPECT_EQ(another.read(u"Server IP"_s, u"Corvane"_s), u"10.0.0.7"_s);
     EXPECT_EQ(dbisamAlias(another, u"Corvane"_s), u"/data/Küche; a, b=\"c\""_s);
     EXPECT_EQ(dbisamAlias(another, u"Cor Vane"_s), u"/spaced"_s);
     EXPECT_TRUE(QFile::exists(file));
@@ -45,8 +45,8 @@ TEST_F(SystemSettingsTest, AreKeptForTheUserUnderTheDocumentedNames)
 TEST_F(SystemSettingsTest, WritingIntoAnImpossiblePlaceIsReported)
 {
     ASSERT_TRUE(QDir().mkpath(file)) << "a folder in the place of the file";
-    EXPECT_FALSE(setRegString(settings, u"Mode"_s, u"C"_s));
-    EXPECT_EQ(getRegString(settings, u"Mode"_s, u"Corvane"_s), u""_s);
+    EXPECT_FALSE(settings.setRegString(Settings::Mode, Engine::SessionType::Remote));
+    EXPECT_EQ(settings.read(u"Mode"_s, u"Corvane"_s), u""_s);
     QDir().rmdir(file);
 }
 
@@ -54,9 +54,9 @@ TEST(Connection, OnlyTheExactLetterMeansClientServer)
 {
     for (const auto &mode : {u""_s, u"F"_s, u"c"_s, u"Client"_s, u"C"_s}) {
         MemorySettings settings;
-        setRegString(settings, u"Mode"_s, mode);
-        setRegString(settings, u"Server IP"_s, u"10.0.0.7"_s);
-        setRegString(settings, u"Connection"_s, u"Internet"_s);
+        settings.write(u"Mode"_s, databaseName, mode);
+        settings.write(u"Server IP"_s, databaseName, u"10.0.0.7"_s);
+        settings.write(u"Connection"_s, databaseName, u"Internet"_s);
         Engine::Session session(u"Main"_s, bothStores());
         EXPECT_EQ(sessionTallymereStartup(session, settings), mode);
         const bool remote = session.type == Engine::SessionType::Remote;
@@ -102,12 +102,14 @@ TEST(Connection, DatabaseIsLookedForUnderBothNames)
 
 TEST(FormPositions, ComeBackOrNotAtAll)
 {
+    constexpr ScreenSetting<QRect> main{u"Main"};
+    constexpr ScreenSetting<QRect> other{u"Other"};
     MemorySettings settings;
-    saveFormPos(settings, QRect(-20, 30, 640, 480), u"frmItems"_s, u"Main"_s);
-    EXPECT_EQ(setFormPos(settings, u"frmItems"_s, u"Main"_s), QRect(-20, 30, 640, 480));
-    EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, u"Other"_s));
+    saveFormPos(settings, QRect(-20, 30, 640, 480), u"frmItems"_s, main);
+    EXPECT_EQ(setFormPos(settings, u"frmItems"_s, main), QRect(-20, 30, 640, 480));
+    EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, other));
     for (const auto &damaged : {u"1 2 3"_s, u"1 2 3 x"_s, u"1 2 0 5"_s}) {
         settings.write(u"Forms/frmItems"_s, u"Main"_s, damaged);
-        EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, u"Main"_s)) << damaged.toStdString();
+        EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, main)) << damaged.toStdString();
     }
 }

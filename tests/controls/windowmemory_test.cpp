@@ -1,4 +1,4 @@
-#include "base/formposition.h"
+#include "base/settingsstore.h"
 #include "controls/screens/entryscreen.h"
 #include "controls/windows/windowplaces.h"
 #include "tests/controls/itemlist.h"
@@ -97,14 +97,14 @@ TEST_F(WindowMemoryTest, whatNobodyHasChangedIsNotWritten)
         open<Card>().close();
         settle();
     }
-    EXPECT_FALSE(setFormPos(settings, u"frmItemList"_s, u"Place"_s));
-    EXPECT_FALSE(setFormPos(settings, u"frmCard"_s, u"Place"_s));
-    EXPECT_EQ(settings.read(formSetting(u"frmItemList"_s), u"DBGrid1"_s), QString());
+    EXPECT_EQ(settings.read(u"Forms/frmItemList"_s, u"Place"_s), QString());
+    EXPECT_EQ(settings.read(u"Forms/frmCard"_s, u"Place"_s), QString());
+    EXPECT_EQ(settings.read(u"Forms/frmItemList"_s, u"DBGrid1"_s), QString());
 }
 
 TEST_F(WindowMemoryTest, settingsThatCannotBeUsedDoNoHarm)
 {
-    const QString section = formSetting(u"frmItemList"_s);
+    const QString section = u"Forms/frmItemList"_s;
     const std::pair<QString, QString> cases[] = {
         {u"here"_s, u"= ItemNo ItemNo=x ItemNo=-5 ItemNo=1e99"_s}, // damaged
         {u""_s, u"Gone=120 ItemDescription=abc"_s}, // another layout

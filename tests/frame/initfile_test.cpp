@@ -35,11 +35,11 @@ TEST_F(InitFileTest, ReadsValuesAsOtherProgramsWriteThem)
           "Sample Data=second\r\n"
           "K\xFC\x63he=Gr\xFCn\r\n");
     const InitFile file(path());
-    EXPECT_EQ(file.value(u"general", u"DialerPort"), u"com2"_s);
-    EXPECT_EQ(file.value(u"Companies", u"sample data"), u"C:\\Corvane\\Data = old"_s);
-    EXPECT_EQ(file.value(u"Companies", u"DialerPort"), QString());
+    EXPECT_EQ(file.value({u"general", u"DialerPort"}), u"com2"_s);
+    EXPECT_EQ(file.value({u"Companies", u"sample data"}), u"C:\\Corvane\\Data = old"_s);
+    EXPECT_EQ(file.value({u"Companies", u"DialerPort"}), QString());
     EXPECT_EQ(file.entries(u"Companies").size(), 3);
-    EXPECT_EQ(file.value(u"Companies", u"küche"), u"Grün"_s);
+    EXPECT_EQ(file.value({u"Companies", u"küche"}), u"Grün"_s);
 }
 
 TEST_F(InitFileTest, WritingKeepsEveryOtherLine)
@@ -60,16 +60,16 @@ TEST_F(InitFileTest, WritingKeepsEveryOtherLine)
         QFile::remove(path());
         if (!before.isEmpty())
             write(before);
-        ASSERT_TRUE(InitFile(path()).setValue(u"Companies"_s, u"Sample Data"_s, u"x"_s));
+        ASSERT_TRUE(InitFile(path()).setValue({u"Companies", u"Sample Data"}, u"x"_s));
         EXPECT_EQ(read(), after);
     }
-    EXPECT_FALSE(InitFile(folder() + "/none/HX1.ini"_L1).setValue(u"a"_s, u"b"_s, u"c"_s));
+    EXPECT_FALSE(InitFile(folder() + "/none/HX1.ini"_L1).setValue({u"a", u"b"}, u"c"_s));
 }
 
 TEST_F(InitFileTest, SampleCompanyIsNamedOnlyWhereNoneIs)
 {
     nameSampleCompany(folder());
-    EXPECT_EQ(InitFile(path()).value(u"Companies", u"Sample Data"), folder() + "/Data"_L1);
+    EXPECT_EQ(InitFile(path()).value({u"Companies", u"Sample Data"}), folder() + "/Data"_L1);
 
     write("[Companies]\nSample Data=/srv/kitchen\n");
     nameSampleCompany(folder());

@@ -190,13 +190,13 @@ TEST_F(OpeningTest, HostMayTakeTheFormWithIt)
 TEST_F(OpeningTest, MissingDatabaseIsShownAndTheNextOpeningTriesAgain)
 {
     link(&host);
-    setRegString(company.settings, u"Alias"_s, u"/nowhere/kitchen"_s);
+    company.settings.setRegString(Settings::Alias, u"/nowhere/kitchen"_s);
     EXPECT_FALSE(open());
     ASSERT_EQ(company.prompts.said.size(), 2); // the warning about the folder, then the engine's own words
     EXPECT_TRUE(company.prompts.said[0].startsWith(u"error: The Corvane database:\n/nowhere/kitchen\n"_s));
     EXPECT_EQ(form.dataModule(), nullptr);
 
-    setRegString(company.settings, u"Alias"_s, company.folder());
+    company.settings.setRegString(Settings::Alias, company.folder());
     EXPECT_TRUE(open());
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 struct SettingsScreenTest : testing::Test
 {
-    void store(const QString &setting, const QString &value) { setRegString(settings, setting, value); }
+    void store(const QString &setting, const QString &value) { settings.write(setting, u"Corvane"_s, value); }
     QString stored(const QString &setting) const { return settings.read(setting, u"Corvane"_s); }
     template <typename Widget> Widget *child(const QString &name) { return screen.findChild<Widget *>(name); }
     void press(const QString &button) { QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton); }

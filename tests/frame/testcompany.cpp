@@ -14,8 +14,8 @@ using namespace Tallymere;
 TestCompany::TestCompany()
 {
     makeCompany(folder(), u"Harvest Table Kitchens"_s);
-    setRegString(settings, u"Mode"_s, u"F"_s);
-    setRegString(settings, u"Alias"_s, folder());
+    settings.setRegString(Settings::Mode, Engine::SessionType::Local);
+    settings.setRegString(Settings::Alias, folder());
 }
 
 TestContext::TestContext()

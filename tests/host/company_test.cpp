@@ -25,7 +25,7 @@ TEST(HostCompany, SampleIsOfferedOnlyWhenItIsThere)
     const QTemporaryDir folder;
     const InitFile file(folder.filePath(u"HX1.ini"_s));
     EXPECT_EQ(sampleCompanyFolder(folder.path()), QString());
-    ASSERT_TRUE(file.setValue(u"Companies"_s, u"Sample Data"_s, folder.filePath(u"Data"_s)));
+    ASSERT_TRUE(file.setValue(Settings::SampleData, folder.filePath(u"Data"_s)));
     EXPECT_EQ(sampleCompanyFolder(folder.path()), QString());
     ASSERT_TRUE(QDir(folder.path()).mkdir(u"Data"_s));
     makeCompany(folder.filePath(u"Data"_s), u"Sample"_s);

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "engine/store/session.h"
+
+#include <QRect>
+#include <QStringView>
+#include <type_traits>
+
+// Every setting that is kept, by its name, the type of its value, and what counts where nothing is kept or nothing of
+// that type. Readers and writers name settings by these constants; the names are stored ones.
+
+namespace Tallymere {
+
+// A constant cannot hold a QString.
+template <typename T> using DefaultOf = std::conditional_t<std::is_same_v<T, QString>, QLatin1StringView, T>;
+
+// What is kept for each database, and shared with the host.
+template <typename T> struct DatabaseSetting
+{
+    QStringView name;
+    DefaultOf<T> byDefault{};
+};
+
+// What is kept for each screen, by its component name.
+template <typename T> struct ScreenSetting
+{
+    QStringView name;
+    DefaultOf<T> byDefault{};
+};
+
+// What a user chose last on a screen (LastChoices).
+template <typename T> struct ChoiceSetting
+{
+    QLatin1StringView name;
+    DefaultOf<T> byDefault{};
+};
+
+// What the host's initialization file says.
+struct InitSetting
+{
+    QStringView section;
+    QStringView name;
+    QLatin1StringView byDefault = {};
+};
+
+namespace Settings {
+
+// The database: what it is reached as, where it is (a folder, in either mode), and the way to its server.
+inline constexpr DatabaseSetting<Engine::SessionType> Mode{u"Mode", Engine::SessionType::Local};
+inline constexpr DatabaseSetting<QString> Alias{u"Alias"};
+inline constexpr DatabaseSetting<QString> ServerAddress{u"Server IP"};
+inline constexpr DatabaseSetting<Engine::LinkType> Connection{u"Connection", Engine::LinkType::Lan};
+
+// Windows. The widths of a grid's columns are kept as a text under its component name.
+inline constexpr ScreenSetting<QRect> Place{u"Place"};
+inline constexpr ScreenSetting<bool> Maximized{u"Maximized"};
+constexpr ScreenSetting<QString> columnWidths(QStringView grid) { return {grid}; }
+
+// The folder that a file was saved in last, from whatever screen.
+inline constexpr QStringView savingSection = u"SaveAsCsv";
+inline constexpr ScreenSetting<QString> SavingFolder{u"Folder"};
+
+// The choice of a report. The period counts as long as the organization's default period is what it was then.
+inline constexpr QStringView reportsScreen = u"frmInvReports";
+inline constexpr ChoiceSetting<QString> Report{QLatin1StringView("report")};
+inline constexpr ChoiceSetting<int> ItemType{QLatin1StringView("itemType")};
+inline constexpr ChoiceSetting<int> ReportPeriod{QLatin1StringView("period")};
+inline constexpr ChoiceSetting<int> ReportYear{QLatin1StringView("year")};
+inline constexpr ChoiceSetting<QString> DefaultPeriod{QLatin1StringView("defaultPeriod")};
+
+// The form that a count is written on.
+inline constexpr QStringView blankFormScreen = u"FormBlankInventoryReportSelection";
+inline constexpr ChoiceSetting<bool> ByCategory{QLatin1StringView("byCategory"), true};
+inline constexpr ChoiceSetting<bool> PagePerCategory{QLatin1StringView("pagePerCategory")};
+inline constexpr ChoiceSetting<bool> ZeroCounts{QLatin1StringView("zeroCounts")};
+inline constexpr ChoiceSetting<bool> PriorQuantities{QLatin1StringView("priorQuantities")};
+inline constexpr ChoiceSetting<bool> Barcodes{QLatin1StringView("barcodes")};
+
+inline constexpr ChoiceSetting<int> Location{QLatin1StringView("location")}; // of both
+
+// "HX1.ini".
+inline constexpr InitSetting SampleData{u"Companies", u"Sample Data"};
+inline constexpr InitSetting DialerPort{u"General", u"DialerPort", QLatin1StringView("com1")};
+constexpr InitSetting dialerDevice(QStringView port) { return {u"Ports", port}; } // "COM1"
+
+} // namespace Settings
+
+} // namespace Tallymere
