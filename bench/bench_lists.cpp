@@ -74,7 +74,7 @@ void measureHistory(Engine::Database &database, Times &times)
                  u"SELECT IHistID FROM IHist ORDER BY GLYear DESC, GLPeriod DESC, TransDate DESC, IHistID DESC"_s));
     Engine::Table table(database, u"IHist"_s);
     table.setIndex(u"PERIODDATEDESC"_s);
-    table.addLookup(u"ItemNo"_s, Engine::FieldType::Text, 20, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
+    table.addLookup({u"ItemNo"_s, Engine::FieldType::Text, 20}, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
     measureList(
         table, [&table] { table.locate(u"ReceiptID"_s, {HistoryRows / 3}); }, times);
 }

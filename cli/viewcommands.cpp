@@ -77,7 +77,7 @@ void runTotals(CommandContext &context)
     const QString quantity = time ? u"QtyThen"_s : QString(Fields::QtyOnHand);
     if (time) {
         then.emplace(data->databaseTallymere(), *time);
-        view.query().addCalculated(quantity, Engine::FieldType::Float, 0, [&](const Engine::DataSet &row) {
+        view.query().addCalculated({quantity, Engine::FieldType::Float}, [&](const Engine::DataSet &row) {
             return Engine::Value(then->onHand(row.integer(Fields::ItemID), row.integer(Fields::WarehouseID)));
         });
     }

@@ -88,16 +88,16 @@ QList<TableReader *> TdmLookUpsInv::ownedTables()
 
 void TdmLookUpsInv::describeCalculatedFields()
 {
-    m_salesman.addCalculated(u"FullName"_s, FieldType::Text, 60, fullName);
-    m_glAccnt.addCalculated(u"AccountName30"_s, FieldType::Text, 50,
+    m_salesman.addCalculated({u"FullName"_s, FieldType::Text, 60}, fullName);
+    m_glAccnt.addCalculated({u"AccountName30"_s, FieldType::Text, 50},
                             [](const DataSet &row) { return row.value(Fields::AccountName); });
-    m_customer.addCalculated(u"Address"_s, FieldType::Text, addressSize,
+    m_customer.addCalculated({u"Address"_s, FieldType::Text, addressSize},
                              [](const DataSet &row) { return Value(addressLine(row, {})); });
-    m_customer.addCalculated(u"ShipToAddress"_s, FieldType::Text, addressSize,
+    m_customer.addCalculated({u"ShipToAddress"_s, FieldType::Text, addressSize},
                              [](const DataSet &row) { return Value(addressLine(row, u"ShipTo"_s)); });
-    m_vendor.addCalculated(u"Address"_s, FieldType::Text, addressSize,
+    m_vendor.addCalculated({u"Address"_s, FieldType::Text, addressSize},
                            [](const DataSet &row) { return Value(addressLine(row, {})); });
-    m_vendor.addCalculated(u"CityStateZip"_s, FieldType::Text, 67,
+    m_vendor.addCalculated({u"CityStateZip"_s, FieldType::Text, 67},
                            [](const DataSet &row) { return Value(place(row)); });
 }
 

@@ -84,7 +84,7 @@ QString countedBy(QStringView field)
 
 } // namespace
 
-void CounterRow::set(QStringView field, qint64 value)
+void CounterRow::set(Engine::WholeNumberName field, qint64 value)
 {
     constexpr qint64 largest = std::numeric_limits<qint32>::max();
     if (value > largest)
@@ -94,27 +94,27 @@ void CounterRow::set(QStringView field, qint64 value)
     m_table.set(field, value);
 }
 
-qint64 CounterRow::take(QStringView field)
+qint64 CounterRow::take(Engine::WholeNumberName field)
 {
     const qint64 number = value(field);
     set(field, number + 1);
     return number;
 }
 
-qint64 CounterRow::takeKey(QStringView field, const QString &keyField, const QStringList &tables)
+qint64 CounterRow::takeKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables)
 {
     const qint64 key = firstFree(m_table.database(), value(field), keyField, tables);
     set(field, key + 1);
     return key;
 }
 
-void CounterRow::restartOutside(QStringView field, qint64 lowest, qint64 highest, qint64 restart)
+void CounterRow::restartOutside(Engine::WholeNumberName field, qint64 lowest, qint64 highest, qint64 restart)
 {
     if (const qint64 number = value(field); number < lowest || number > highest)
         set(field, restart);
 }
 
-void CounterRow::restartWhenZero(QStringView field, qint64 restart)
+void CounterRow::restartWhenZero(Engine::WholeNumberName field, qint64 restart)
 {
     if (value(field) == 0)
         set(field, restart);

@@ -28,17 +28,18 @@ public:
     {
     }
 
-    qint64 value(QStringView field) const { return m_table.value(field).toInt64(); }
-    void set(QStringView field, qint64 value); // throws BadValue, naming what is counted, at the end of its numbers
+    qint64 value(Engine::WholeNumberName field) const { return m_table.value(field).toInt64(); }
+    void set(Engine::WholeNumberName field,
+             qint64 value); // throws BadValue, naming what is counted, at the end of its numbers
 
     // Hands out the field's number and moves the field on by one.
-    qint64 take(QStringView field);
+    qint64 take(Engine::WholeNumberName field);
     // The same for the key of a new record, passing over every key that a row of the tables has in the key field: a
     // counter may be behind them, as one that was restored or emptied is. The tables have an index that begins with it.
-    qint64 takeKey(QStringView field, const QString &keyField, const QStringList &tables);
+    qint64 takeKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables);
     // Starts again at restart when the field lies outside lowest..highest.
-    void restartOutside(QStringView field, qint64 lowest, qint64 highest, qint64 restart);
-    void restartWhenZero(QStringView field, qint64 restart);
+    void restartOutside(Engine::WholeNumberName field, qint64 lowest, qint64 highest, qint64 restart);
+    void restartWhenZero(Engine::WholeNumberName field, qint64 restart);
 
 private:
     Engine::Table &m_table;

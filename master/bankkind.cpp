@@ -17,7 +17,7 @@ MasterKind describe()
     kind.keyField = Fields::BankID;
     kind.nameFields = {Fields::BankName};
     kind.addFields = [](Engine::Table &table) {
-        table.addLookup(Fields::CurrencyName, Engine::FieldType::Text, 20,
+        table.addLookup(Fields::CurrencyName.sized(20),
                         {Fields::CurrencyID, u"Currency"_s, Fields::CurrencyID, Fields::CurrencyName});
     };
 

@@ -10,7 +10,7 @@ ItemSearch::ItemSearch(Engine::Database &database)
     : m_items(database, u"Item"_s)
 {
     m_items.setIndex(u"ITEMNO"_s);
-    m_items.addLookup(Fields::TypeName, Engine::FieldType::Text, 40,
+    m_items.addLookup(Fields::TypeName.sized(40),
                       {Fields::ItemTypeID, u"ItemType"_s, Fields::ItemTypeID, Fields::TypeName});
 }
 

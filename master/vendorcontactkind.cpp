@@ -27,7 +27,7 @@ MasterKind describe()
     kind.record.keyByEngine = true;
     kind.nameFields = {u"FullName"_s};
     kind.addFields = [](Engine::Table &table) {
-        table.addCalculated(u"FullName"_s, Engine::FieldType::Text, 60, fullName);
+        table.addCalculated({u"FullName"_s, Engine::FieldType::Text, 60}, fullName);
     };
 
     kind.record.screen = u"frmVContact"_s;

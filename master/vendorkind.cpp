@@ -78,8 +78,7 @@ MasterKind describe()
     kind.record.keyCounter = Fields::NextVendorID;
     kind.nameFields = {Fields::VendorNo, Fields::VendorName};
     kind.addFields = [](Engine::Table &table) {
-        table.addLookup(Fields::Balance, Engine::FieldType::Money, 0,
-                        {Fields::VendorID, u"VBalance"_s, Fields::VendorID, Fields::Balance});
+        table.addLookup(Fields::Balance, {Fields::VendorID, u"VBalance"_s, Fields::VendorID, Fields::Balance});
     };
     kind.formatFields = formatFields;
 

@@ -33,9 +33,8 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
         m_header.uniqueFields = {*m_kind.numberField};
     m_header.recordName = [this] { return m_kind.titleOf(m_header); };
     m_lines.recordName = [this] { return lineName(); };
-    m_lines.addLookup(Fields::ItemNo, FieldType::Text, 20,
-                      {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemNo});
-    m_lines.addLookup(Fields::ItemDescription, FieldType::Text, 40,
+    m_lines.addLookup(Fields::ItemNo.sized(20), {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemNo});
+    m_lines.addLookup(Fields::ItemDescription.sized(40),
                       {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemDescription});
     const auto told = [](std::optional<double> quantity) { return quantity ? Value(*quantity) : Value(); };
     m_lines.addCalculated(OnHand.toString(), FieldType::Float, 0,
@@ -373,7 +372,7 @@ void DocumentEntry::beginLineChange(LineChange change)
 
 double DocumentEntry::lineCost()
 {
-    return m_lines.fieldIndex(Fields::UnitCost) < 0 ? 0 : m_lines.number(Fields::UnitCost);
+    return m_lines.fieldIndex(Fields::UnitCost) < 0 ? 0 : m_lines.value(Fields::UnitCost).toDouble();
 }
 
 // A new line that has a number already could not be written with it.

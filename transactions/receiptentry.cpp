@@ -17,7 +17,7 @@ namespace Tallymere {
 ReceiptEntry::ReceiptEntry(Engine::Database &database, Prompts &prompts)
     : DocumentEntry(database, prompts, DocumentKinds::receipt())
 {
-    header().addLookup(Fields::VendorNo, FieldType::Text, 10,
+    header().addLookup(Fields::VendorNo.sized(10),
                        {Fields::VendorID, u"Vendor"_s, Fields::VendorID, Fields::VendorNo});
 }
 

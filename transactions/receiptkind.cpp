@@ -56,7 +56,7 @@ const DocumentKind &DocumentKinds::receipt()
                 .orders = {{u"PERIODDATEDESC"_s}},
                 .addFields =
                     [](Engine::Table &receipts) {
-                        receipts.addLookup(Fields::VendorName, Engine::FieldType::Text, 40,
+                        receipts.addLookup(Fields::VendorName.sized(40),
                                            {Fields::VendorID, u"Vendor"_s, Fields::VendorID, Fields::VendorName});
                     },
                 .report = u"TrptInvReceipts"_s,

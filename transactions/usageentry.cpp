@@ -21,7 +21,7 @@ UsageEntry::UsageEntry(Engine::Database &database, Prompts &prompts)
     : DocumentEntry(database, prompts, DocumentKinds::usage())
     , m_costs(database)
 {
-    lines().addCalculated(u"ExtAmount"_s, FieldType::Money, 0,
+    lines().addCalculated({u"ExtAmount"_s, FieldType::Money},
                           [this](const Engine::DataSet &line) { return Value(extAmount(line)); });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/values/field.h"
+#include "engine/values/fieldname.h"
 #include "engine/values/value.h"
 
 #include <deque>
@@ -64,19 +65,19 @@ public:
     Field &field(int index) { return m_fields[static_cast<size_t>(index)]; }
     Field &field(QStringView name); // to set label, format, validate, changed; throws NoSuchField
     const Field &field(QStringView name) const;
-    void addLookup(const QString &name, FieldType type, int size, Lookup lookup);
-    void addCalculated(const QString &name, FieldType type, int size, std::function<Value(const DataSet &)> rule);
+    void addLookup(const FieldDef &shown, Lookup lookup);
+    void addCalculated(const FieldDef &shown, std::function<Value(const DataSet &)> rule);
 
     // --- the current record -------------------------------------------------------------------------------------
     // Of an empty set every value is null.
     virtual Value value(int field) const;
     Value value(QStringView name) const { return value(requireField(name)); }
-    QString text(QStringView name) const { return value(name).toText(); }
-    int integer(QStringView name) const { return value(name).toInt(); }
-    double number(QStringView name) const { return value(name).toDouble(); }
-    Money money(QStringView name) const; // throws BadValue for an amount beyond the range of money
-    bool boolean(QStringView name) const { return value(name).toBool(); }
-    QDate date(QStringView name) const { return value(name).toDate(); }
+    QString text(TextName name) const { return value(name).toText(); }
+    int integer(WholeNumberName name) const { return value(name).toInt(); }
+    double number(NameOf<FieldType::Float> name) const { return value(name).toDouble(); }
+    Money money(NameOf<FieldType::Money> name) const; // throws BadValue for an amount beyond the range of money
+    bool boolean(NameOf<FieldType::Boolean> name) const { return value(name).toBool(); }
+    QDate date(NameOf<FieldType::Date> name) const { return value(name).toDate(); }
 
     // --- moving -------------------------------------------------------------------------------------------------
     bool isEmpty() const; // reads no more than the first row

@@ -9,6 +9,20 @@
 
 namespace Engine {
 
+namespace {
+
+Field fieldOf(const FieldDef &shown, FieldKind kind)
+{
+    Field field;
+    field.name = shown.name;
+    field.type = shown.type;
+    field.size = shown.size;
+    field.kind = kind;
+    return field;
+}
+
+} // namespace
+
 int DataSet::fieldIndex(QStringView name) const
 {
     for (size_t i = 0; i < m_fields.size(); ++i) {
@@ -30,7 +44,7 @@ int DataSet::requireField(QStringView name) const
 Field &DataSet::field(QStringView name) { return m_fields[static_cast<size_t>(requireField(name))]; }
 const Field &DataSet::field(QStringView name) const { return m_fields[static_cast<size_t>(requireField(name))]; }
 
-Money DataSet::money(QStringView name) const
+Money DataSet::money(NameOf<FieldType::Money> name) const
 {
     const Value amount = value(name);
     try {
@@ -42,25 +56,16 @@ Money DataSet::money(QStringView name) const
     }
 }
 
-void DataSet::addLookup(const QString &name, FieldType type, int size, Lookup lookup)
+void DataSet::addLookup(const FieldDef &shown, Lookup lookup)
 {
-    Field field;
-    field.name = name;
-    field.type = type;
-    field.size = size;
-    field.kind = FieldKind::Lookup;
+    Field field = fieldOf(shown, FieldKind::Lookup);
     field.lookup = std::move(lookup);
     addField(std::move(field));
 }
 
-void DataSet::addCalculated(const QString &name, FieldType type, int size,
-                            std::function<Value(const DataSet &)> rule)
+void DataSet::addCalculated(const FieldDef &shown, std::function<Value(const DataSet &)> rule)
 {
-    Field field;
-    field.name = name;
-    field.type = type;
-    field.size = size;
-    field.kind = FieldKind::Calculated;
+    Field field = fieldOf(shown, FieldKind::Calculated);
     field.calculate = std::move(rule);
     addField(std::move(field));
 }

@@ -34,9 +34,19 @@ public:
     void edit();
     void insert(); // its place is that of the index order once posted
     void set(QStringView field, const Value &value); // validates; throws WrongState when not editing
+    template <FieldType Type, typename Given> void set(const FieldName<Type> &field, const Given &value)
+    {
+        static_assert(canHold<Given>(Type), "The field holds values of another type");
+        set(QStringView(field), Value(value));
+    }
     void setText(QStringView field, const QString &text); // through the field's parse rule
     // Like set, but counts as no modification and runs no validate: for defaults of a new record.
     void setDefault(QStringView field, const Value &value);
+    template <FieldType Type, typename Given> void setDefault(const FieldName<Type> &field, const Given &value)
+    {
+        static_assert(canHold<Given>(Type), "The field holds values of another type");
+        setDefault(QStringView(field), Value(value));
+    }
     // Writes the record. KeyViolation when the primary key or one of uniqueFields is taken, RequiredField when part
     // of the primary key is empty. On failure the record stays in edit with its values.
     void post();

@@ -36,7 +36,7 @@ struct ListGridTest : testing::TestWithParam<Store>
             rows << u"(%1, 'D%2', 'Dish %1')"_s.arg(id).arg(id, 4, 10, '0'_L1);
         store.execute(u"INSERT INTO Dish (DishID, DishNo, Name) VALUES "_s + rows.join(u", "_s));
         table.emplace(store.database(), u"Dish"_s);
-        table->addCalculated(u"Twice"_s, FieldType::Integer, 0, [](const Engine::DataSet &dish) {
+        table->addCalculated({u"Twice"_s, FieldType::Integer}, [](const Engine::DataSet &dish) {
             return Engine::Value(2 * dish.integer(u"DishID"));
         });
         table->open();

@@ -53,8 +53,7 @@ TEST_P(RecordTest, AQueryWithoutKeyIsReadAsItIsWhenOpened)
     Query query(database(),
                 u"SELECT VendorName, count(*) AS Number, max(Balance) AS Most FROM Vendor "
                 "GROUP BY VendorName ORDER BY max(Balance) DESC"_s);
-    query.addCalculated(u"Twice"_s, FieldType::Float, 0,
-                        [](const DataSet &set) { return set.number(u"Most") * 2; });
+    query.addCalculated({u"Twice"_s, FieldType::Float}, [](const DataSet &set) { return set.number(u"Most") * 2; });
     query.open();
     store.execute(u"DELETE FROM Vendor"_s);
     EXPECT_EQ(names(query, u"Most"_s), u"100 10.5 7 0 -3.25"_s);

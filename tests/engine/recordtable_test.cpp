@@ -189,9 +189,9 @@ TEST_P(RecordTest, LookupsAndCalculatedFieldsComeWithTheRow)
     addVendors();
     addDocuments();
     Table documents(database(), u"Document"_s);
-    documents.addLookup(u"VendorName"_s, FieldType::Text, 20,
+    documents.addLookup({u"VendorName"_s, FieldType::Text, 20},
                         {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorName"_s});
-    documents.addCalculated(u"Title"_s, FieldType::Text, 40, [](const DataSet &set) {
+    documents.addCalculated({u"Title"_s, FieldType::Text, 40}, [](const DataSet &set) {
         return Value(set.text(u"DocumentID") + u':' + set.text(u"VendorName"));
     });
     documents.open();

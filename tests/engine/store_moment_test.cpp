@@ -48,7 +48,7 @@ TEST_P(Moments, AWalkGivesTheSetAsItStandsThen)
     Table table(database, u"Sample"_s);
     table.setFilter(u"Posted = true"_s);
     table.setFiltered(true);
-    table.addCalculated(u"Twice"_s, FieldType::Float, 0,
+    table.addCalculated({u"Twice"_s, FieldType::Float},
                         [](const DataSet &row) { return Value(2 * row.number(u"Quantity")); });
     table.open();
     table.moveTo(table.recordCount() - 1);
