@@ -1,6 +1,7 @@
 #include "data/seeds.h"
 
 #include "data/fields.h"
+#include "engine/values/fieldvalue.h"
 #include "engine/values/textsize.h"
 
 #include <QCoreApplication>
@@ -8,18 +9,13 @@
 #include <QStringView>
 
 using namespace Qt::StringLiterals;
+using Engine::FieldValue;
 using Engine::Table;
 using Engine::Value;
 
 namespace Tallymere::Seeds {
 
 namespace {
-
-struct Assignment
-{
-    QString field;
-    Value value;
-};
 
 bool isEmpty(const Value &value) { return value.isNull() || value == Value(u""_s); }
 
@@ -29,11 +25,11 @@ bool differs(const Value &stored, const Value &wanted)
     return !(stored == wanted || (isEmpty(stored) && isEmpty(wanted)));
 }
 
-QList<Assignment> organizationOf(const Table &company, const Table &config)
+QList<FieldValue> organizationOf(const Table &company, const Table &config)
 {
     const auto host = [&](const char16_t *field) { return config.text(QStringView(field)); };
-    const auto text = [&](const QString &field, const QString &value) {
-        return Assignment{field, Value(Engine::firstCharacters(value, company.field(field).size))};
+    const auto text = [&](const Engine::FieldName<Engine::FieldType::Text> &field, const QString &value) {
+        return FieldValue(field, Engine::firstCharacters(value, company.field(field).size));
     };
     return {
         {Fields::CompanyNo, 1},
@@ -44,7 +40,7 @@ QList<Assignment> organizationOf(const Table &company, const Table &config)
     };
 }
 
-QList<Assignment> organizationDefaults(QDate today)
+QList<FieldValue> organizationDefaults(QDate today)
 {
     return {
         {Fields::FiscalYear, today.year()},       {Fields::DefaultCurrencyID, 1},  {Fields::DefaultNetDays, 30},
@@ -58,14 +54,14 @@ QString currencyOf(const QLocale &locale)
     return code.isEmpty() ? u"Local $"_s : code;
 }
 
-void addFirstRow(Engine::Database &database, const QString &name, const QList<Assignment> &row)
+void addFirstRow(Engine::Database &database, const QString &name, const QList<FieldValue> &row)
 {
     Table table(database, name);
     table.open();
     if (!table.isEmpty())
         return;
     table.insert();
-    for (const Assignment &assignment : row)
+    for (const FieldValue &assignment : row)
         table.set(assignment.field, assignment.value);
     table.post();
 }
@@ -77,12 +73,12 @@ void refreshOrganization(Engine::Database &database, const Table &config, QDate 
     Table company(database, u"Company"_s);
     company.open();
 
-    QList<Assignment> changes;
-    for (const Assignment &wanted : organizationOf(company, config)) {
+    QList<FieldValue> changes;
+    for (const FieldValue &wanted : organizationOf(company, config)) {
         if (differs(company.value(wanted.field), wanted.value))
             changes << wanted;
     }
-    for (const Assignment &initial : organizationDefaults(today)) {
+    for (const FieldValue &initial : organizationDefaults(today)) {
         if (isEmpty(company.value(initial.field)))
             changes << initial;
     }
@@ -90,14 +86,14 @@ void refreshOrganization(Engine::Database &database, const Table &config, QDate 
         return;
 
     company.edit(); // of an empty table: its first row
-    for (const Assignment &change : changes)
+    for (const FieldValue &change : changes)
         company.set(change.field, change.value);
     company.post();
 }
 
 void presetOrganization(Table &company, const Table &config)
 {
-    for (const Assignment &host : organizationOf(company, config))
+    for (const FieldValue &host : organizationOf(company, config))
         company.setDefault(host.field, host.value);
 }
 

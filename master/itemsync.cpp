@@ -15,12 +15,6 @@ using Engine::EngineError;
 
 namespace Tallymere {
 
-namespace {
-
-constexpr QStringView nextItemID = Fields::NextItemID;
-
-} // namespace
-
 struct ItemSync::HostItem
 {
     qint64 id;
@@ -107,9 +101,9 @@ ItemSync::Keys ItemSync::reserveKeys(qint64 count) const
 {
     Keys keys;
     keys.reserved = changeCounter([&](CounterRow &counters) {
-        counters.restartWhenZero(nextItemID, firstCountedKey);
-        keys.first = counters.value(nextItemID);
-        counters.set(nextItemID, keys.first + count + 1);
+        counters.restartWhenZero(Fields::NextItemID, firstCountedKey);
+        keys.first = counters.value(Fields::NextItemID);
+        counters.set(Fields::NextItemID, keys.first + count + 1);
     });
     if (!keys.reserved)
         keys.first = firstUnusedKey();
@@ -126,8 +120,8 @@ qint64 ItemSync::firstUnusedKey() const
 void ItemSync::raiseCounter(qint64 next) const
 {
     changeCounter([next](CounterRow &counters) {
-        if (counters.value(nextItemID) < next)
-            counters.set(nextItemID, next);
+        if (counters.value(Fields::NextItemID) < next)
+            counters.set(Fields::NextItemID, next);
     });
 }
 

@@ -4,6 +4,7 @@
 #include "base/listfilter.h"
 #include "data/recordlist.h"
 #include "engine/records/table.h"
+#include "engine/values/fieldvalue.h"
 
 #include <functional>
 #include <QList>
@@ -27,11 +28,6 @@ struct MasterKind
         QString nameField; // may stand for the key in a file: "TypeName"
         QString gone; // raised when the row is not there any more: "Item Type no longer exists"
         QString notFound; // of a name in a file: "Item type '%1' not found"
-    };
-    struct Default
-    {
-        QString field;
-        Engine::Value value;
     };
     struct Limits
     { // of a whole number in a file
@@ -57,7 +53,7 @@ struct MasterKind
         QString caption; // "Item"
         QString newCaption; // "New Item"
         bool namesCaption = true; // the name takes the caption's place
-        QList<Default> defaults;
+        QList<Engine::FieldValue> defaults;
         std::function<void(Engine::Table &)> preset; // defaults that have to be found out, of these fields:
         QStringList presetFields;
         QStringList copiedFields; // what a copy takes over from its original

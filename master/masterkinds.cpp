@@ -16,7 +16,7 @@ QString MasterKind::recordName(const Engine::DataSet &row) const
 bool MasterKind::hasDefault(const QString &field) const
 {
     return std::any_of(record.defaults.begin(), record.defaults.end(),
-                       [&](const Default &given) { return given.field == field; });
+                       [&](const Engine::FieldValue &given) { return given.field == field; });
 }
 
 QString MasterKind::filterExpression(const ListFilter &filter) const

@@ -49,7 +49,7 @@ void MasterRecord::insert(const Step &begin)
 {
     begin();
     assignIdentity(numbers);
-    for (const MasterKind::Default &preset : m_kind.record.defaults)
+    for (const Engine::FieldValue &preset : m_kind.record.defaults)
         m_table.setDefault(preset.field, preset.value);
     if (m_kind.record.preset)
         m_kind.record.preset(m_table);

@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "engine/store/database.h"
 #include "reports/momentrows.h"
 #include "reports/texts.h"
@@ -89,7 +90,7 @@ std::unique_ptr<Printing::ReportRun> runReport(TDataModuleTallymere &data, const
     const RegionalSettings settings = RegionalSettings::system();
     const QString time = settings.locale.toString(QTime::currentTime(), u"HH:mm"_s);
     const Printing::PageTexts texts{
-        data.tblCompany().text(u"CompanyName"),
+        data.tblCompany().text(Fields::CompanyName),
         ReportsTexts::tr("Printed at %1 %2").arg(dateText(data.today(), settings), time)};
     return std::make_unique<Printing::ReportRun>(makeReport(data, report, selection, progress),
                                                  data.quickReportA4() ? QPageSize::A4 : QPageSize::Letter, texts);

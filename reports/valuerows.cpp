@@ -2,6 +2,7 @@
 
 #include "base/rounding.h"
 #include "base/ruleerror.h"
+#include "data/fields.h"
 #include "engine/records/query.h"
 #include "engine/store/database.h"
 #include "engine/values/amounttoolarge.h"
@@ -25,7 +26,7 @@ QHash<int, CostingMethod> readCostingMethods(Engine::Database &database)
     Engine::Query types(database, u"SELECT ItemTypeID, CostingMethod FROM ItemType"_s);
     QHash<int, CostingMethod> methods;
     for (types.open(); !types.atEnd(); types.next())
-        methods.insert(types.integer(u"ItemTypeID"), costingMethodOf(types.integer(u"CostingMethod")));
+        methods.insert(types.integer(Fields::ItemTypeID), costingMethodOf(types.integer(Fields::CostingMethod)));
     return methods;
 }
 
