@@ -85,8 +85,10 @@ INSTANTIATE_TEST_SUITE_P(, Moments, testing::Values(Place::Folder, Place::Networ
 TEST_P(Moments, AReportIsOfTheMomentItWasAskedFor)
 {
     for (const ReportDescription &report : ReportList::all()) {
-        const ReportSelection selection{
-            .warehouseId = report.parameters.location ? 1 : 0, .period = 3, .year = 2026};
+        const ReportSelection selection{.warehouseId = report.parameters.location ? 1 : 0,
+                                        .itemTypeId = report.parameters.itemType ? 1 : 0,
+                                        .period = 3,
+                                        .year = 2026};
         const auto csv = [this](const Printing::Report &made) {
             return writtenBy(
                 [&](QIODevice &file) { Printing::writeReportCsv(made.layout, *made.rows, file, progress); });

@@ -1,5 +1,6 @@
 #include "tests/support/documents.h"
 #include "transactions/documententry.h"
+#include "transactions/lastsaved.h"
 #include "transactions/stockcount.h"
 
 using namespace Qt::StringLiterals;
@@ -99,3 +100,19 @@ TEST_P(DocumentKeys, StoredMeanwhileKeepTheirLines)
 }
 
 } // namespace
+
+TEST_P(DocumentKeys, TellWhoSavedTheDocumentsLast)
+{
+    Engine::Database &database = kitchen.database();
+    const auto save = [&](const QString &user, TransType type, qint64 document) {
+        database.session().applicationUser = user;
+        rememberSaved(database, type, document);
+    };
+    save(u"bob"_s, TransType::Usage, 1);
+    save(u"anna"_s, TransType::Usage, 2);
+    save(u"carl"_s, TransType::Usage, 2);
+    save(u"bob"_s, TransType::Usage, 4);
+    save(u"dora"_s, TransType::Adjust, 1);
+    EXPECT_EQ(lastSavedBy(database, TransType::Usage, {1, 2, 3, 4}), (QStringList{u"bob"_s, u"carl"_s}));
+    EXPECT_EQ(lastSavedBy(database, TransType::Usage, {3}), QStringList());
+}
