@@ -7,7 +7,9 @@
 #include <functional>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCommandLinkButton>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,7 @@ HostWindow::HostWindow(SettingsStore &settings, QString user, QString moduleFile
 {
     m_ui->setupUi(this);
     m_ui->labelUser->setText(m_user);
+    m_ui->centralwidget->setBackgroundRole(QPalette::Base);
 
     const auto connectWhenFree = [this](auto *sender, auto signal, auto handler) {
         connect(sender, signal, this, [this, handler] {
@@ -35,9 +38,14 @@ HostWindow::HostWindow(SettingsStore &settings, QString user, QString moduleFile
     connectWhenFree(m_ui->actionUnloadModule, &QAction::triggered, &HostWindow::unloadModule);
     connectWhenFree(m_ui->actionExit, &QAction::triggered, &QWidget::close);
     connectWhenFree(m_ui->actionAbout, &QAction::triggered, [](HostWindow *self) { AboutBox(self).exec(); });
+    connectWhenFree(m_ui->linkModule, &QAbstractButton::clicked, &HostWindow::openModule);
+    connectWhenFree(m_ui->linkDataOptions, &QAbstractButton::clicked, &HostWindow::editDataOptions);
+    connectWhenFree(m_ui->linkReloadModule, &QAbstractButton::clicked, &HostWindow::reload);
+    connectWhenFree(m_ui->linkAbout, &QAbstractButton::clicked, [](HostWindow *self) { AboutBox(self).exec(); });
     connectWhenFree(m_ui->buttonUseSample, &QPushButton::clicked, &HostWindow::useSampleCompany);
 
     reload();
+    m_ui->linkModule->setFocus();
 }
 
 HostWindow::~HostWindow() { m_loader.unload(); }
@@ -54,6 +62,15 @@ bool HostWindow::isHeld() const
 }
 
 void HostWindow::closeEvent(QCloseEvent *event) { event->setAccepted(!isHeld()); }
+
+void HostWindow::keyPressEvent(QKeyEvent *event)
+{
+    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
+    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        button->click();
+    else
+        QMainWindow::keyPressEvent(event);
+}
 
 void HostWindow::loadModule() { showModule(m_loader.load(m_moduleFile, this, m_ui->menuInventory)); }
 
@@ -99,6 +116,20 @@ void HostWindow::showModule(const QString &problem)
     m_ui->actionDataOptions->setEnabled(loaded);
     m_ui->actionUnloadModule->setEnabled(loaded);
     m_ui->actionReloadModule->setText(loaded ? tr("&Reload Module") : tr("&Load Module"));
+    showLinks();
+}
+
+// The module's entry is called what the module calls it in the menu.
+void HostWindow::showLinks()
+{
+    const QList<QAction *> items = m_ui->menuInventory->actions();
+    if (!items.isEmpty())
+        m_ui->linkModule->setText(items.constFirst()->text());
+    m_ui->linkModule->setEnabled(!items.isEmpty());
+    m_ui->linkDataOptions->setEnabled(m_loader.isLoaded());
+    m_ui->linkReloadModule->setText(m_ui->actionReloadModule->text());
+    for (auto *link : m_ui->centralwidget->findChildren<QCommandLinkButton *>())
+        link->setIcon({}); // the style's arrow says nothing
 }
 
 void HostWindow::editDataOptions()

@@ -36,12 +36,14 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     bool isHeld() const; // a modal window stands over this one; it comes to the front
     void reload();
     void showCompany();
     void showModule(const QString &problem);
+    void showLinks();
     void editDataOptions();
     void useSampleCompany();
 

@@ -5,12 +5,21 @@
 
 #include <cstdio>
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
+
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(u":/corvane/corvane-%1.png"_s.arg(size));
+    return icon;
+}
 
 int say(FILE *stream, const QString &text, int status)
 {
@@ -35,6 +44,7 @@ int main(int argc, char *argv[])
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Corvane"_s); // a display name would be added to every window title
+    QApplication::setWindowIcon(programIcon()); // of the windows of modules as well
     SystemSettings settings;
     if (!options.data.isEmpty() && !useCompanyFolder(settings, options.data))
         return say(stderr, keyErrorText(), 1);
