@@ -1,5 +1,6 @@
 #include "frame/boundaction.h"
 
+#include "controls/windows/icons.h"
 #include "frame/texts.h"
 
 #include <QAbstractButton>
@@ -22,6 +23,7 @@ template <typename Control> void bind(Control &control, QAction &action)
 {
     if (control.text().isEmpty())
         control.setText(action.text());
+    setGlyph(control, glyphOf(action));
     const QString hint = action.statusTip();
     auto follow = [&control, &action, hint] {
         const bool enabled = action.isEnabled();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/glyph.h"
+
 #include <QList>
 #include <QString>
 
@@ -38,6 +40,7 @@ struct MainCommand
     QString hint = {};
     QString rightsKey = {};
     QString rightsName = {};
+    Glyph glyph = Glyph::None; // on its button and in its menu
     QString screen = {}; // component name
     ScreenOpening opening = ScreenOpening::None;
     bool refreshOpenScreen = true; // list pattern only

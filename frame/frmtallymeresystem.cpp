@@ -3,6 +3,7 @@
 #include "base/ruleerror.h"
 #include "controls/windows/dialogover.h"
 #include "controls/windows/filechoice.h"
+#include "controls/windows/icons.h"
 #include "controls/windows/menukeyboard.h"
 #include "controls/windows/openobject.h"
 #include "controls/windows/screenmetrics.h"
@@ -246,6 +247,7 @@ void TFormTallymereSystem::createActions()
         action->setEnabled(command.job || m_runner.canRun(command));
         connect(action, &QAction::triggered, this, [this, &command] {
             if (!isHeldByDialog(this))
+        setGlyph(*action, command.glyph);
                 m_guard.run([&] { runCommand(command); });
         });
     }

@@ -64,6 +64,7 @@ MasterKind describe()
     kind.command.caption = MasterTexts::tr("Edit Items");
     kind.command.rights = u"Items"_s;
     kind.command.isMain = true;
+    kind.command.glyph = Glyph::Item;
     kind.command.reopening = MasterKind::Reopening::LiftFilter;
 
     kind.files.systemFields = {Fields::ItemID, Fields::SalesGLAccountID, Fields::COGSGLAccountID,

@@ -36,6 +36,7 @@ MasterKind describe()
     kind.command.action = u"ActionEditLocations"_s;
     kind.command.caption = MasterTexts::tr("Edit Locations");
     kind.command.rights = u"Warehouses"_s;
+    kind.command.glyph = Glyph::Location;
 
     kind.files.systemFields = {Fields::WarehouseID, Fields::Location_ID};
     return kind;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/glyph.h"
 #include "base/gridcolumn.h"
 #include "base/listfilter.h"
 #include "data/recordlist.h"
@@ -99,6 +100,7 @@ struct MasterKind
         QString rights; // what the user's rights are asked for, as rightsOf() takes it: "ItemTypes/Item Types"
         bool isMain = false; // stands in the Edit menu itself, not under "Other"
         Reopening reopening = Reopening::ReadAnew;
+        Glyph glyph = Glyph::Records;
     };
 
     // --- its files ----------------------------------------------------------------------------------------------

@@ -119,6 +119,7 @@ MasterKind describe()
     kind.command.caption = MasterTexts::tr("Edit Vendors");
     kind.command.rights = u"frmVendors/Vendors"_s;
     kind.command.isMain = true;
+    kind.command.glyph = Glyph::Vendor;
     kind.command.reopening = MasterKind::Reopening::JustShow;
 
     kind.files.systemFields = {Fields::VendorID};

@@ -3,6 +3,7 @@
 #include "controls/grids/liststatus.h"
 #include "controls/grids/windowmemory.h"
 #include "controls/screens/listoutput.h"
+#include "controls/windows/icons.h"
 #include "controls/windows/menukeyboard.h"
 #include "controls/windows/printerneeded.h"
 #include "controls/windows/screenmetrics.h"
@@ -109,6 +110,7 @@ QMenu *ListScreen::addSubMenu(QMenu *menu, const ListCommand &command)
 {
     QMenu *entries = menu->addMenu(command.caption);
     entries->menuAction()->setObjectName(command.name);
+    setGlyph(*entries->menuAction(), command.glyph);
     return entries;
 }
 
@@ -132,6 +134,7 @@ QAction *ListScreen::addCommand(QMenu *menu, const ListCommand &command)
     action->setObjectName(command.name);
     action->setShortcut(command.shortcut);
     action->setCheckable(command.checkable);
+    setGlyph(*action, command.glyph);
     action->setEnabled(command.run != nullptr);
     if (!command.run)
         action->setToolTip(tr("Not available in this version"));
@@ -146,6 +149,7 @@ void ListScreen::addButton(const ListButton &button)
     QAction *action = command(button.command);
     auto *shown = new QPushButton(button.caption, m_topPanel);
     shown->setObjectName(button.name);
+    setGlyph(*shown, glyphOf(*action));
     shown->setEnabled(action->isEnabled());
     shown->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard to the rows
     connect(action, &QAction::enabledChanged, shown, &QWidget::setEnabled);
@@ -162,6 +166,7 @@ void ListScreen::addPopup(const ListCommand &command, QAction *action)
     if (command.popupCaption.isEmpty())
         return;
     auto *entry = new QAction(command.popupCaption, m_grid);
+    setGlyph(*entry, command.glyph);
     entry->setEnabled(action->isEnabled());
     connect(action, &QAction::enabledChanged, entry, &QAction::setEnabled);
     connect(entry, &QAction::triggered, action, &QAction::trigger);
@@ -241,18 +246,24 @@ ListMenu ListScreen::fileMenu(const QString &report)
     if (m_context.printList)
         run = [this, report] { print(report); };
     if (!report.isEmpty())
-        menu.commands << ListCommand{.name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = run};
+        menu.commands << ListCommand{
+            .name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = run, .glyph = Glyph::Print};
     std::function<void()> save;
     if (m_context.chooseFileToSave)
         save = [this] { m_output->saveCsv(m_caption); };
-    menu.commands << ListCommand{.name = u"mnuSaveCsv"_s, .caption = tr("Save as CSV..."), .run = save}
+    menu.commands << ListCommand{.name = u"mnuSaveCsv"_s,
+                                 .caption = tr("Save as CSV..."),
+                                 .run = save,
+                                 .glyph = Glyph::Save}
                   << ListCommand{.name = copyName,
                                  .caption = tr("&Copy as Text"),
                                  .run = [this] { m_output->copyRows(); },
+                                 .glyph = Glyph::Copy,
                                  .separatorBefore = true}
                   << ListCommand{.name = u"mnuExit"_s,
                                  .caption = tr("E&xit"),
                                  .run = [this] { close(); },
+                                 .glyph = Glyph::Close,
                                  .separatorBefore = true};
     return menu;
 }
@@ -262,12 +273,17 @@ ListCommand ListScreen::findCommand(std::function<void()> run) const
     return {.name = u"mnuFind"_s,
             .caption = tr("&Find..."),
             .run = std::move(run),
+            .glyph = Glyph::Find,
             .shortcut = QKeySequence(Qt::CTRL | Qt::Key_F)};
 }
 
 ListCommand ListScreen::filterCommand(std::function<void()> run) const
 {
-    return {.name = filterName, .caption = tr("&Filter..."), .run = std::move(run), .checkable = true};
+    return {.name = filterName,
+            .caption = tr("&Filter..."),
+            .run = std::move(run),
+            .glyph = Glyph::Filter,
+            .checkable = true};
 }
 
 ListCommand ListScreen::refreshCommand()
@@ -275,6 +291,7 @@ ListCommand ListScreen::refreshCommand()
     return {.name = u"mnuRefresh"_s,
             .caption = tr("&Refresh"),
             .run = [this] { refreshList(); },
+            .glyph = Glyph::Refresh,
             .shortcut = QKeySequence(Qt::Key_F5)};
 }
 
@@ -283,7 +300,8 @@ ListMenu ListScreen::helpMenu(const QString &caption) const
     std::function<void()> help;
     if (m_context.showHelp)
         help = [this] { m_context.showHelp(objectName()); };
-    return {tr("&Help"), {{.name = u"mnuHelp"_s, .caption = caption, .run = std::move(help)}}};
+    return {tr("&Help"),
+            {{.name = u"mnuHelp"_s, .caption = caption, .run = std::move(help), .glyph = Glyph::Help}}};
 }
 
 QAction *ListScreen::command(const QString &name) const { return findChild<QAction *>(name); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/glyph.h"
 #include "base/listfilter.h"
 #include "controls/grids/listgrid.h"
 #include "controls/screens/commandscreen.h"
@@ -27,6 +28,7 @@ struct ListCommand
     QString name; // component name of the menu's entry: "mnuFilter"
     QString caption;
     std::function<void()> run = {}; // empty: not available, shown disabled
+    Glyph glyph = Glyph::None; // in its menu and on its button
     // Whether it can be used on the current record; asked whenever that changes. Empty: always.
     std::function<bool()> available = {};
     QKeySequence shortcut = {};

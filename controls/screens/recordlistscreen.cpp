@@ -27,17 +27,22 @@ QList<ListButton> RecordListScreen::recordButtons() const
 
 ListMenu RecordListScreen::recordMenu()
 {
-    ListMenu menu{
-        tr("&Records"),
-        {{.name = u"mnuNew"_s, .caption = tr("&New"), .run = [this] { btnNewClick(); }, .popupCaption = tr("New")},
-         {.name = u"mnuEdit"_s,
-          .caption = tr("&Edit"),
-          .run = [this] { btnEditClick(); },
-          .popupCaption = tr("Edit")},
-         {.name = u"mnuDelete"_s,
-          .caption = tr("&Delete"),
-          .run = [this] { btnDeleteClick(); },
-          .popupCaption = tr("Delete")}}};
+    ListMenu menu{tr("&Records"),
+                  {{.name = u"mnuNew"_s,
+                    .caption = tr("&New"),
+                    .run = [this] { btnNewClick(); },
+                    .glyph = Glyph::New,
+                    .popupCaption = tr("New")},
+                   {.name = u"mnuEdit"_s,
+                    .caption = tr("&Edit"),
+                    .run = [this] { btnEditClick(); },
+                    .glyph = Glyph::Edit,
+                    .popupCaption = tr("Edit")},
+                   {.name = u"mnuDelete"_s,
+                    .caption = tr("&Delete"),
+                    .run = [this] { btnDeleteClick(); },
+                    .glyph = Glyph::Delete,
+                    .popupCaption = tr("Delete")}}};
     if (m_dialogs.makeFind)
         menu.commands.append(findCommand([this] { btnFindClick(); }));
     return menu;

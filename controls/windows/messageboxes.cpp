@@ -1,6 +1,7 @@
 #include "controls/windows/messageboxes.h"
 
 #include "controls/texts.h"
+#include "controls/windows/icons.h"
 
 #include <algorithm>
 #include <QAbstractButton>
@@ -28,6 +29,8 @@ QWidget *shownFrom(QWidget *window)
         window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
     return window;
 }
+
+constexpr int signSize = 40;
 
 using ButtonNames = QHash<QMessageBox::StandardButton, QString>; // of those that are not named as usual
 
@@ -82,6 +85,8 @@ QString fittingText(const QString &text, const QFontMetrics &metrics, QSize scre
 // With letters, which Qt's own texts leave out on some systems.
 void nameButtons(const QMessageBox &box)
 {
+    for (QAbstractButton *button : box.buttons())
+        button->setIcon({}); // as elsewhere, the words are enough
     const std::pair<QMessageBox::StandardButton, QString> texts[] = {
         {QMessageBox::Ok, ControlsTexts::tr("&OK")},       {QMessageBox::Cancel, ControlsTexts::tr("&Cancel")},
         {QMessageBox::Yes, ControlsTexts::tr("&Yes")},     {QMessageBox::No, ControlsTexts::tr("&No")},
@@ -93,12 +98,27 @@ void nameButtons(const QMessageBox &box)
     }
 }
 
+Glyph glyphOf(QMessageBox::Icon icon)
+{
+    switch (icon) {
+    case QMessageBox::Question:
+        return Glyph::Help;
+    case QMessageBox::Warning:
+        return Glyph::Warning;
+    case QMessageBox::Critical:
+        return Glyph::Error;
+    default:
+        return Glyph::Information;
+    }
+}
+
 QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString &title, const QString &text,
                                 QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset,
                                 const ButtonNames &names = {})
 {
     QMessageBox box(icon, title, {}, buttons, windowInUse());
     box.setObjectName(u"messageBox"_s);
+    box.setIconPixmap(glyphPixmap(box, glyphOf(icon), signSize));
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     box.setText(fittingText(text, box.fontMetrics(), box.screen()->availableSize()));

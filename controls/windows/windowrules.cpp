@@ -1,6 +1,7 @@
 #include "controls/windows/windowrules.h"
 
 #include "controls/windows/dialogover.h"
+#include "controls/windows/icons.h"
 #include "controls/windows/mnemonics.h"
 #include "controls/windows/typing.h"
 
@@ -108,6 +109,7 @@ bool WindowRules::eventFilter(QObject *watched, QEvent *event)
         giveLetters(*menu);
     else
         giveLetters(widget);
+    giveGlyphs(widget);
     return false;
 }
 

@@ -25,10 +25,12 @@ void TfrmItemsInv::describe(ListDescription &list)
         command.hidden = command.name == "mnuNew"_L1 || command.name == "mnuDelete"_L1;
     records.prepend({.name = u"mnuSynchronizeItems"_s,
                      .caption = tr("Synchronize Items"),
-                     .run = mainWindowAction(u"ActionSynchronizeItems"_s)});
+                     .run = mainWindowAction(u"ActionSynchronizeItems"_s),
+                     .glyph = Glyph::Synchronize});
     records.append({.name = u"mnuCopy"_s,
                     .caption = tr("&Copy"),
                     .run = [this] { btnCopyClick(); },
+                    .glyph = Glyph::Copy,
                     .popupCaption = tr("Copy"),
                     .hidden = true});
 
@@ -37,11 +39,13 @@ void TfrmItemsInv::describe(ListDescription &list)
                 {.name = u"mnuTotals"_s,
                  .caption = tr("&Totals"),
                  .run = jump(u"frmInvTotals"_s, u"InvTotals/Inventory Totals"_s),
+                 .glyph = Glyph::Totals,
                  .popupCaption = tr("Totals")});
     view.insert(view.size() - 1,
                 {.name = u"mnuHistory"_s,
                  .caption = tr("&History"),
                  .run = jump(u"frmInvHistory"_s, u"InvHistory/Inventory History"_s),
+                 .glyph = Glyph::History,
                  .popupCaption = tr("History")});
 }
 

@@ -20,6 +20,7 @@ TfrmWarehousesInv::TfrmWarehousesInv(ScreenContext &context, QWidget *parent)
             .commands.append({.name = u"mnuSynchronizeLocations"_s,
                               .caption = tr("Synchronize Locations"),
                               .run = mainWindowAction(u"ActionSynchronizeLocations"_s),
+                              .glyph = Glyph::Synchronize,
                               .separatorBefore = true});
     });
 }

@@ -1,4 +1,5 @@
 #include "base/ruleerror.h"
+#include "controls/windows/icons.h"
 #include "frame/commands.h"
 #include "frame/forhosts/reportholder.h"
 #include "frame/frmtallymeresystem.h"
@@ -69,6 +70,23 @@ TEST_F(MainFormTest, ProductLacksExactlyTheScreensThatAreNotBuilt)
 {
     screens = productScreens();
     EXPECT_EQ(actions(false), QStringList{u"ActionPrintPayments"_s});
+}
+
+// The same sign stands for the same, wherever it is offered.
+TEST_F(MainFormTest, WhatPostsHasOneSignAndEveryButtonHasThatOfItsEntry)
+{
+    screens = productScreens();
+    QHash<QString, Glyph> signs;
+    for (const QObject *control : form().findChildren<QObject *>()) {
+        const QString action = control->property("action").toString();
+        if (action.isEmpty())
+            continue;
+        SCOPED_TRACE(qPrintable(control->objectName()));
+        EXPECT_NE(glyphOf(*control), Glyph::None);
+        EXPECT_EQ(signs.value(action, glyphOf(*control)), glyphOf(*control));
+        signs.insert(action, glyphOf(*control));
+        EXPECT_EQ(glyphOf(*control) == Glyph::Post, action.startsWith("ActionPost"_L1));
+    }
 }
 
 // What a kind of document has in other rooms, where nothing but a name leads from one to the other.

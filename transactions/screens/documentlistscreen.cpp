@@ -42,6 +42,7 @@ ListDescription DocumentListScreen::description()
     records.commands.append({.name = u"mnuPost"_s,
                              .caption = tr("&Post..."),
                              .run = [this] { mnuPostClick(); },
+                             .glyph = Glyph::Post,
                              .separatorBefore = true});
     const auto sort = [this](const ListOrder &order) {
         m_list.setOrder(order);

@@ -52,7 +52,7 @@ ListDescription TfrmInvTotals::description()
                                  {.name = u"mnuSortDescription"_s,
                                   .caption = tr("&Description"),
                                   .run = sorts(TotalsView::Sort::Description)}}},
-                    {.name = u"mnuHistory"_s, .caption = tr("&History"), .run = history},
+                    {.name = u"mnuHistory"_s, .caption = tr("&History"), .run = history, .glyph = Glyph::History},
                     refreshCommand()}},
                   helpMenu(tr("Inventory Totals &Help"))},
         .emptyHint = tr("No stock yet. What is received shows here when the receipt has been posted."),

@@ -51,6 +51,7 @@ ListCommand TfrmUsages::deleteMenu(const ListCommand &selected)
     one.available = isUnposted;
     return {.name = u"mnuDeletions"_s,
             .caption = selected.caption,
+            .glyph = selected.glyph,
             .entries = {one,
                         {.name = u"mnuDeleteDate"_s,
                          .caption = tr("Specified Usage Date"),

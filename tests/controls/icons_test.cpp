@@ -1,0 +1,94 @@
+#include "controls/windows/glyphpath.h"
+#include "controls/windows/icons.h"
+#include "controls/windows/look.h"
+
+#include <gtest/gtest.h>
+#include <QAction>
+#include <QApplication>
+#include <QBuffer>
+#include <QPainter>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+// How much of a picture has a colour that can be told from the ground, and the strongest of it.
+struct Ink
+{
+    int pixels = 0;
+    QColor strongest;
+};
+Ink inkOf(const QImage &image)
+{
+    Ink ink;
+    int alpha = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor colour = image.pixelColor(x, y);
+            ink.pixels += colour.alpha() > 127;
+            if (colour.alpha() > alpha) {
+                alpha = colour.alpha();
+                ink.strongest = colour;
+            }
+        }
+    }
+    return ink;
+}
+
+QPainterPath pathOf(QByteArray data)
+{
+    data = "<svg xmlns='http://www.w3.org/2000/svg'><path d='" + data + "'/></svg>";
+    QBuffer file(&data);
+    file.open(QIODevice::ReadOnly);
+    return glyphPath(file);
+}
+
+} // namespace
+
+TEST(IconsTest, EverySignIsDrawnWithinItsFrameInTheAccentOfThePaletteInForce)
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(0x22262b));
+    dark.setColor(QPalette::Base, QColor(0x1d2125));
+    dark.setColor(QPalette::Text, Qt::white);
+    QPushButton button;
+    for (const QPalette &palette : {before, dark}) {
+        QApplication::setPalette(palette);
+        const QColor accent = Look(palette).colour(Look::Role::Accent);
+        for (int sign = 1; sign <= static_cast<int>(Glyph::Error); ++sign) {
+            SCOPED_TRACE(sign);
+            setGlyph(button, static_cast<Glyph>(sign));
+            const Ink ink = inkOf(button.icon().pixmap(64).toImage());
+            EXPECT_GT(ink.pixels, 100);
+            EXPECT_LT(ink.pixels, 64 * 64 / 2) << "lines, no areas";
+            EXPECT_EQ(ink.strongest.rgb(), accent.rgb());
+
+            QImage larger(96, 96, QImage::Format_ARGB32);
+            larger.fill(Qt::transparent);
+            QPainter painter(&larger);
+            paintGlyph(painter, QRectF(16, 16, 64, 64), static_cast<Glyph>(sign), accent);
+            painter.end();
+            EXPECT_EQ(inkOf(larger).pixels, inkOf(larger.copy(16, 16, 64, 64)).pixels) << "nothing is cut off";
+        }
+    }
+    QApplication::setPalette(before);
+}
+
+TEST(IconsTest, DrawingsHaveTheCommandsThatAreKnown)
+{
+    EXPECT_EQ(pathOf("M2 3.5H6V7L.5 8C1 1 2 2 3 3Z").elementCount(), 8);
+    EXPECT_TRUE(pathOf("M2 2A3 3 0 0 1 5 5").isEmpty());
+    EXPECT_TRUE(pathOf("M2 2L3").isEmpty());
+}
+
+// A mark that comes and goes needs the place of the sign in a menu.
+TEST(IconsTest, AnEntryThatIsCheckedKeepsItsMark)
+{
+    QAction entry;
+    entry.setCheckable(true);
+    setGlyph(entry, Glyph::Filter);
+    EXPECT_TRUE(entry.icon().isNull());
+    EXPECT_EQ(glyphOf(entry), Glyph::Filter) << "for its button";
+}
