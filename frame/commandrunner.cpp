@@ -37,7 +37,7 @@ bool CommandRunner::canRun(const MainCommand &command) const
     return kind && kind->create && (command.opening != ScreenOpening::Post || kind->posts);
 }
 
-void CommandRunner::run(const MainCommand &command, ScreenContext &context) const
+void CommandRunner::run(const MainCommand &command, ScreenContext &context, Rows rows) const
 {
     if (!canRun(command))
         return;
@@ -72,14 +72,15 @@ void CommandRunner::run(const MainCommand &command, ScreenContext &context) cons
     case ScreenOpening::ListPattern:
     case ScreenOpening::ShowAgain:
     case ScreenOpening::Show:
-        showScreen(command, kind, context);
+        showScreen(command, kind, context, rows);
         return;
     case ScreenOpening::None:
         return;
     }
 }
 
-void CommandRunner::showScreen(const MainCommand &command, const ScreenKind &kind, ScreenContext &context) const
+void CommandRunner::showScreen(const MainCommand &command, const ScreenKind &kind, ScreenContext &context,
+                               Rows rows) const
 {
     const Found found = findOrCreate(command.screen, kind, context);
     if (command.opening == ScreenOpening::ListPattern) {
@@ -87,6 +88,8 @@ void CommandRunner::showScreen(const MainCommand &command, const ScreenKind &kin
             stepsOf(*found.screen).refreshList();
         stepsOf(*found.screen).resetFilter();
     }
+    if (rows == Rows::Waiting)
+        stepsOf(*found.screen).showWaiting();
     if (command.opening != ScreenOpening::Show && found.screen->isVisible())
         stepsOf(*found.screen).showAgain();
     bringToFront(*found.screen);

@@ -27,8 +27,10 @@ public:
 
     // Whether there is a screen to open, with what the command needs of it.
     bool canRun(const MainCommand &command) const;
-    // Checks the rights and opens the screen; does nothing when the rights are refused.
-    void run(const MainCommand &command, ScreenContext &context) const;
+    // Checks the rights and opens the screen, its list narrowed to what waits for somebody where that is wanted; does
+    // nothing when the rights are refused.
+    enum class Rows { All, Waiting };
+    void run(const MainCommand &command, ScreenContext &context, Rows rows = Rows::All) const;
     // Finds the open screen of the name or makes it, shows it and brings it to the front. Null when there is no
     // such screen.
     QWidget *open(const QString &screenName, ScreenContext &context) const;
@@ -45,7 +47,7 @@ private:
         bool wasOpen;
     };
     Found findOrCreate(const QString &name, const ScreenKind &kind, ScreenContext &context) const;
-    void showScreen(const MainCommand &command, const ScreenKind &kind, ScreenContext &context) const;
+    void showScreen(const MainCommand &command, const ScreenKind &kind, ScreenContext &context, Rows rows) const;
 
     const ScreenRegistry &m_screens;
     QWidget *m_parent;

@@ -17,12 +17,14 @@
 #include "frame/hostinifile.h"
 #include "frame/mastermenu.h"
 #include "frame/screenregistry.h"
+#include "frame/todaypanel.h"
 #include "frame/tracescope.h"
 #include "master/screens/dialerinv.h"
 #include "reports/reportlist.h"
 #include "reports/screens/showreport.h"
 #include "ui_frmtallymeresystem.h"
 
+#include <algorithm>
 #include <QAction>
 #include <QCloseEvent>
 #include <QDateTime>
@@ -71,6 +73,7 @@ TFormTallymereSystem::TFormTallymereSystem(const FrameServices &services, QWidge
     addMasterEntries(*m_ui->mnuEdit, *m_ui->mnuOther, *this);
     bindControls();
     createStatusBar();
+    connectToday();
     leaveMenuBarWithMenus(*m_ui->MainMenu1);
     scaleSizes();
     move(0, 0);
@@ -244,10 +247,10 @@ void TFormTallymereSystem::createActions()
         auto *action = new QAction(command.caption, m_actionList);
         action->setObjectName(command.action);
         action->setStatusTip(command.hint);
+        setGlyph(*action, command.glyph);
         action->setEnabled(command.job || m_runner.canRun(command));
         connect(action, &QAction::triggered, this, [this, &command] {
             if (!isHeldByDialog(this))
-        setGlyph(*action, command.glyph);
                 m_guard.run([&] { runCommand(command); });
         });
     }
@@ -283,6 +286,30 @@ void TFormTallymereSystem::bindControls()
     connect(m_ui->Exit1, &QAction::triggered, this, &TFormTallymereSystem::exit1Click);
     connect(m_ui->HelpTopics1, &QAction::triggered, this, &TFormTallymereSystem::helpTopics1Click);
     connect(m_ui->About1, &QAction::triggered, this, &TFormTallymereSystem::about1Click);
+}
+
+void TFormTallymereSystem::connectToday()
+{
+    connect(m_ui->PanelToday, &TodayPanel::chosen, this, &TFormTallymereSystem::openToday);
+    // Not in the middle of what the user waits for: that may be using the connection.
+    m_ui->PanelToday->source = [this]() -> std::optional<TodaySource> {
+        if (!m_dataModule || dialogOver(this) || QApplication::overrideCursor())
+            return std::nullopt;
+        return TodaySource{.database = m_dataModule->databaseTallymere(), .user = m_dataModule->currentUser()};
+    };
+}
+
+// By the command that leads to the screen, whose rights are asked for.
+void TFormTallymereSystem::openToday(const TodayLine &line, bool waits)
+{
+    const auto command = std::find_if(commands().begin(), commands().end(), [&line](const MainCommand &one) {
+        return one.screen == line.screen && one.opening != ScreenOpening::Post;
+    });
+    if (command == commands().end() || !m_context || isHeldByDialog(this))
+        return;
+    m_guard.run([&] {
+        m_runner.run(*command, *m_context, waits ? CommandRunner::Rows::Waiting : CommandRunner::Rows::All);
+    });
 }
 
 void TFormTallymereSystem::createStatusBar()
@@ -354,12 +381,13 @@ void TFormTallymereSystem::showEvent(QShowEvent *event)
     if (event->spontaneous())
         return;
     move(screen()->availableGeometry().center() - rect().center());
+    m_ui->PanelToday->refresh();
     m_ui->ButtonReceiveGoods->setFocus(); // not the Close button, which had it when the window was left
 }
 
 void TFormTallymereSystem::keyPressEvent(QKeyEvent *event)
 {
-    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
     if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
         button->click();
     else
@@ -368,6 +396,8 @@ void TFormTallymereSystem::keyPressEvent(QKeyEvent *event)
 
 bool TFormTallymereSystem::event(QEvent *event)
 {
+    if (event->type() == QEvent::WindowActivate)
+        m_ui->PanelToday->refresh();
     if (event->type() != QEvent::StatusTip)
         return QMainWindow::event(event);
     m_hintPane->setText(static_cast<QStatusTipEvent *>(event)->tip());

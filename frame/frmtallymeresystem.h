@@ -25,6 +25,7 @@ class ScreenRegistry;
 class SettingsStore;
 class ReportHolder;
 class TfrmDialerInv;
+struct TodayLine;
 
 // What the main form is given by the module; all of it outlives the form.
 struct FrameServices
@@ -89,6 +90,8 @@ protected:
 private:
     void createActions();
     void runCommand(const MainCommand &command);
+    void connectToday();
+    void openToday(const TodayLine &line, bool waits);
     void bindControls();
     void createStatusBar();
     void scaleSizes();

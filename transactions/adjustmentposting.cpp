@@ -35,6 +35,7 @@ PostingKind adjustmentPosting()
             "Unable to lock Adjustments table... this table is being updated by another job."),
         .entryOpen =
             TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Inventory Adjustment' form"),
+        .waiting = TransactionsTexts::tr("Adjustments to post"),
         .toBePosted = TransactionsTexts::tr("%1 adjustment(s) to be posted"),
         .onePosted = TransactionsTexts::tr("%n adjustment posted"),
         .manyPosted = TransactionsTexts::tr("%n adjustments posted"),

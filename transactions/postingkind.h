@@ -75,6 +75,7 @@ struct PostingKind
     QString tableInUse; // said when another user has the header table
     QList<PostingLock> furtherLocks = {}; // taken after that table and the balances, in this order
     QString entryOpen; // raised while the entry screen is open
+    QString waiting; // what waits, in a list of what has to be done: "Receipts to post"
     QString toBePosted; // "%1 receipt(s) to be posted"
     QString onePosted; // "%n receipt posted"
     QString manyPosted; // "%n receipts posted"

@@ -61,6 +61,7 @@ PostingKind receiptPosting()
                               "Unable to lock Item table... this table is being updated by another job.")}},
         .entryOpen =
             TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Inventory Receipt' form"),
+        .waiting = TransactionsTexts::tr("Receipts to post"),
         .toBePosted = TransactionsTexts::tr("%1 receipt(s) to be posted"),
         .onePosted = TransactionsTexts::tr("%n receipt posted"),
         .manyPosted = TransactionsTexts::tr("%n receipts posted"),

@@ -30,4 +30,6 @@ QString TotalsView::filterExpression(int itemId, int warehouseId)
     return keyConditions({{Fields::ItemID, itemId}, {Fields::WarehouseID, warehouseId}});
 }
 
+QString TotalsView::belowZero() { return u"(QtyOnHand < 0)"_s; }
+
 } // namespace Tallymere

@@ -24,6 +24,7 @@ public:
 
     // The filter expression for an item and a location, each 0 when not chosen; empty when neither is.
     static QString filterExpression(int itemId, int warehouseId);
+    static QString belowZero(); // the filter expression, and a condition
 
 private:
     Engine::Query m_query;

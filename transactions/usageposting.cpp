@@ -45,6 +45,7 @@ PostingKind usagePosting()
         .tableInUse = TransactionsTexts::tr(
             "Unable to lock Usage Records table... this table is being updated by another job."),
         .entryOpen = TransactionsTexts::tr("A conflicting program is running...\nPlease close 'Usage Record' form"),
+        .waiting = TransactionsTexts::tr("Usage to post"),
         .toBePosted = TransactionsTexts::tr("%1 usage record(s) to be posted"),
         .onePosted = TransactionsTexts::tr("%n usage record posted"),
         .manyPosted = TransactionsTexts::tr("%n usage records posted"),

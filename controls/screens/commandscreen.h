@@ -10,6 +10,7 @@ public:
 
     virtual void refreshList() { } // reads the list anew
     virtual void resetFilter() { } // all records show, and the filter dialog is cleared
+    virtual void showWaiting() { } // narrows the list to what waits for somebody
     virtual void showAgain() { } // a visible screen is asked for again
     virtual void mnuPostClick() { } // of screens that are registered as posting
 };

@@ -39,6 +39,7 @@ public:
     bool isOn() const; // something is chosen, whether the list is narrowed by it or not
     int key(const QString &box) const; // 0: any
     void setKey(const QString &box, int key);
+    void setMarked(ListFilter::Marked marked);
     void btnResetClick(); // nothing is chosen: all rows
     void reject() override;
 
@@ -62,7 +63,6 @@ private:
     void btnOKClick();
     void addMark(const QString &mark, const QString &label);
     ListFilter::Marked marked() const;
-    void setMarked(ListFilter::Marked marked);
     LookupComboBox *box(const QString &name) const;
     void orderTabs();
 

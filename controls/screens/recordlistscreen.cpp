@@ -86,15 +86,32 @@ void RecordListScreen::btnDeleteClick() { m_records->removeCurrent(); }
 
 void RecordListScreen::btnFilterClick()
 {
-    if (!m_filter)
-        m_filter = m_dialogs.makeFilter();
-    if (m_filter->exec() != QDialog::Accepted)
+    if (filterDialog().exec() != QDialog::Accepted)
         return;
     const auto inForce = [this] { return std::pair(dataSet().isFiltered(), dataSet().filter()); };
     const auto before = inForce();
-    switchFilter(m_filter->isOn(), m_dialogs.filterExpression(m_filter->filter()));
+    applyChoices();
     if (inForce() == before) // another one reads the list by itself
         refreshList();
+}
+
+FilterDialog &RecordListScreen::filterDialog()
+{
+    if (!m_filter)
+        m_filter = m_dialogs.makeFilter();
+    return *m_filter;
+}
+
+void RecordListScreen::applyChoices()
+{
+    switchFilter(m_filter->isOn(), m_dialogs.filterExpression(m_filter->filter()));
+}
+
+void RecordListScreen::filterByMark(ListFilter::Marked marked)
+{
+    filterDialog().btnResetClick();
+    filterDialog().setMarked(marked);
+    applyChoices();
 }
 
 void RecordListScreen::btnFindClick() { m_dialogs.makeFind()->exec(); }

@@ -22,6 +22,7 @@ public:
     void btnDeleteClick();
     void btnFilterClick();
     void btnFindClick();
+    void filterByMark(ListFilter::Marked marked); // and by nothing else
 
 protected:
     struct Dialogs
@@ -48,6 +49,9 @@ protected:
     void clearFilterDialog() override;
 
 private:
+    FilterDialog &filterDialog();
+    void applyChoices();
+
     ListRecordOpener *m_records = nullptr;
     Dialogs m_dialogs;
     FilterDialog *m_filter = nullptr; // once it has been opened

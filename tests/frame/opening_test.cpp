@@ -1,4 +1,6 @@
 #include "controls/screens/commandscreen.h"
+#include "engine/records/table.h"
+#include "frame/figurebutton.h"
 #include "frame/frmtallymeresystem.h"
 #include "master/screens/dialerinv.h"
 #include "tests/frame/testcompany.h"
@@ -45,6 +47,7 @@ public:
     }
 
     void refreshList() override { m_done << u"refresh"_s; }
+    void showWaiting() override { m_done << u"what waits"_s; }
     void resetFilter() override { m_done << u"reset filter"_s; }
     void showAgain() override { m_done << u"show handler"_s; }
     void mnuPostClick() override { m_done << u"post"_s; }
@@ -305,4 +308,47 @@ TEST_F(OpeningTest, CommandsTakeTheirStepsTheFirstAndTheSecondTime)
         EXPECT_EQ(asked,
                   (QStringList{u"InvReceipts/Inventory Receipts"_s, u"frmInvReceipts/Inventory Receipts"_s}));
     }));
+}
+
+TEST_F(OpeningTest, TodayTellsWhatWaitsEachTimeTheWindowComesToTheFrontAndOpensIt)
+{
+    link(&host);
+    EXPECT_TRUE(open([&] {
+        Engine::Connection &store = form.dataModule()->databaseTallymere().connection();
+        auto &usage = *form.findChild<FigureButton *>(u"todayUsage"_s);
+        auto &period = *form.findChild<FigureButton *>(u"todayPeriod"_s);
+        const auto readAgain = [&] {
+            period.setFigure({}, FigureButton::Tone::Usual, {}); // the last one
+            QEvent front(QEvent::WindowActivate);
+            QApplication::sendEvent(&form, &front);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !period.figure().isEmpty(); }));
+        };
+        readAgain();
+        EXPECT_EQ(usage.figure(), u"0"_s);
+        store.execute(u"INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, Posted) VALUES (1, '1', 1, false)"_s);
+        readAgain();
+        EXPECT_EQ(usage.figure(), u"1"_s);
+        EXPECT_EQ(usage.accessibleName(), u"Usage to post: 1"_s);
+
+        form.findChild<QPushButton *>(u"ButtonEditUsage"_s)->setFocus(); // the last that is enabled
+        QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(form.focusWidget(), &usage) << "after the buttons, line by line";
+        QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(done.join(u", "_s), u"create, what waits"_s);
+        EXPECT_TRUE(screen && screen->objectName() == "frmUsages"_L1);
+
+        done.clear();
+        form.findChild<FigureButton *>(u"todayBelowZero"_s)->click();
+        EXPECT_EQ(done.join(u", "_s), u"create, reset filter"_s) << "nothing waits: all rows";
+
+        store.execute(u"ALTER TABLE IUsage RENAME TO IUsageGone"_s);
+        readAgain();
+        EXPECT_EQ(usage.figure(), u"-"_s);
+        EXPECT_EQ(period.figure(), u"-"_s);
+        store.execute(u"ALTER TABLE IUsageGone RENAME TO IUsage"_s);
+        readAgain();
+        EXPECT_EQ(usage.figure(), u"1"_s);
+    }));
+    EXPECT_EQ(company.prompts.said, QStringList());
 }

@@ -291,6 +291,33 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
                                          }));
 }
 
+TEST_F(ListScreensTest, listsAreNarrowedToWhatWaits)
+{
+    for (const DocumentScreens &kind : documentScreens()) {
+        SCOPED_TRACE(qPrintable(kind.kind.name));
+        for (int id = 1; id <= 3; ++id)
+            addDocument(kitchen, kind.kind, id, 1, {{1, u"1"_s}});
+        kitchen.execute(
+            u"UPDATE %1 SET Posted = true WHERE %2 = 2"_s.arg(kind.kind.headerTable, kind.kind.keyField));
+        DocumentListScreen &documents = *kind.makeList(*context, mainWindow.get());
+        documents.showWaiting();
+        showActive(documents);
+        EXPECT_EQ(documents.dataSet().recordCount(), 2);
+        EXPECT_TRUE(child<QRadioButton>(documents, "optPostedNo")->isChecked()) << "its filter dialog says so";
+        documents.close();
+        settle();
+    }
+
+    kitchen.setStock(1, 1, -1, 1);
+    kitchen.setStock(2, 1, 0, 1);
+    kitchen.setStock(3, 1, 1, 1);
+    auto &totals = open<TfrmInvTotals>();
+    totals.showWaiting();
+    ASSERT_EQ(rows(), 1);
+    EXPECT_EQ(row(0).first(), u"A10"_s);
+    EXPECT_TRUE(totals.windowTitle().contains(u"(Filtered)"_s));
+}
+
 TEST_F(ListScreensTest, historyLeadsFromTotalsToTheDocument)
 {
     addReceipts();

@@ -15,6 +15,7 @@ class DocumentListScreen : public RecordListScreen
     Q_OBJECT
 
 public:
+    void showWaiting() override { filterByMark(ListFilter::Marked::No); }
     void mnuPostClick() override; // works on a screen that is not shown as well
 
 protected:

@@ -1,0 +1,117 @@
+#include "transactions/today.h"
+
+#include "data/fields.h"
+#include "data/fiscalperiod.h"
+#include "engine/store/database.h"
+#include "engine/store/session.h"
+#include "transactions/documentkinds.h"
+#include "transactions/texts.h"
+#include "transactions/totalsview.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString named(const QString &name, qint64 count) { return u"%1 %2"_s.arg(name, QString::number(count)); }
+
+// The sum of a statement that counts under names, and how much of it each name has; without a name at the end.
+TodayFigure counted(Engine::Statement &rows)
+{
+    qint64 sum = 0;
+    qint64 nameless = 0;
+    QStringList parts;
+    while (rows.next()) {
+        const QString name = rows.textAt(0);
+        const qint64 count = rows.intAt(1);
+        sum += count;
+        if (name.isEmpty())
+            nameless += count;
+        else
+            parts.append(named(name, count));
+    }
+    if (nameless > 0 && !parts.isEmpty())
+        parts.append(named(TransactionsTexts::tr("not known"), nameless));
+    return {QString::number(sum), sum > 0, parts.join(u", "_s)};
+}
+
+// As many as a posting would take, by who has saved them last.
+TodayFigure unposted(const TodaySource &source, const DocumentKind &kind)
+{
+    const Engine::StatementPtr rows = source.database.connection().prepare(
+        u"SELECT S.SavedBy, COUNT(*) FROM (SELECT I.%1 AS DocumentID FROM %2) W "
+        "LEFT OUTER JOIN IDocSaved S ON S.DocumentID = W.DocumentID AND S.TransType = ? "
+        "GROUP BY S.SavedBy ORDER BY S.SavedBy"_s.arg(kind.keyField, kind.posting.unposted));
+    rows->bindInt(0, static_cast<int>(kind.posting.transType));
+    return counted(*rows);
+}
+
+TodayFigure belowZero(const TodaySource &source)
+{
+    const Engine::StatementPtr rows = source.database.connection().prepare(
+        u"SELECT W.WarehouseName, COUNT(*) FROM IBalance B LEFT OUTER JOIN Warehse W ON W.WarehouseID = "
+        u"B.WarehouseID "
+        "WHERE %1 GROUP BY W.WarehouseName ORDER BY W.WarehouseName"_s.arg(TotalsView::belowZero()));
+    return counted(*rows);
+}
+
+TodayFigure begunCounts(const TodaySource &source)
+{
+    const QList<int> locations =
+        CountDrafts(CountDrafts::nameOf(source.database), source.user, source.draftFolder).locations();
+    const Engine::StatementPtr row =
+        source.database.connection().prepare(u"SELECT WarehouseName FROM Warehse WHERE WarehouseID = ?"_s);
+    QStringList names;
+    for (const int location : locations) {
+        row->bindInt(0, location);
+        if (row->next())
+            names.append(row->textAt(0));
+        row->reset();
+    }
+    names.sort();
+    return {QString::number(locations.size()), !locations.isEmpty(), names.join(u", "_s)};
+}
+
+TodayFigure openPeriod(const TodaySource &source)
+{
+    const FiscalSettings settings = FiscalSettings::readFrom(source.database);
+    const Period period = defaultPeriod(settings, source.database.session().today());
+    return {u"%1 / %2"_s.arg(period.number).arg(period.year), false, periodMessage(judgePeriod(settings, period))};
+}
+
+QString lineName(const QString &what) { return u"today"_s + what.left(1).toUpper() + what.mid(1); }
+
+} // namespace
+
+const QList<TodayLine> &todayLines()
+{
+    static const QList<TodayLine> lines = [] {
+        QList<TodayLine> all;
+        for (const DocumentKind *kind : DocumentKinds::all()) {
+            all.append({.name = lineName(kind->name),
+                        .title = kind->posting.waiting,
+                        .screen = kind->list.screen,
+                        .read = [kind](const TodaySource &source) { return unposted(source, *kind); }});
+        }
+        all.append({.name = u"todayBelowZero"_s,
+                    .title = TransactionsTexts::tr("Below zero"),
+                    .screen = u"frmInvTotals"_s,
+                    .read = belowZero,
+                    .tone = TodayLine::Tone::Alarm});
+        all.append({.name = u"todayCounts"_s,
+                    .title = TransactionsTexts::tr("Counts begun"),
+                    .screen = u"FormEnterInventory"_s,
+                    .read = begunCounts});
+        all.append({.name = u"todayPeriod"_s,
+                    .title = TransactionsTexts::tr("Period"),
+                    .screen = u"frmCompany"_s,
+                    .read = openPeriod});
+        return all;
+    }();
+    return lines;
+}
+
+} // namespace Tallymere

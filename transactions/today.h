@@ -1,0 +1,46 @@
+#pragma once
+
+#include "transactions/countdraft.h"
+
+#include <functional>
+#include <QList>
+#include <QString>
+
+namespace Engine {
+class Database;
+}
+
+namespace Tallymere {
+
+// Whose day it is.
+struct TodaySource
+{
+    Engine::Database &database;
+    QString user;
+    QString draftFolder = CountDrafts::standardFolder();
+};
+
+struct TodayFigure
+{
+    QString text; // "3"; "12 / 2026"
+    bool waits = false; // there is something to be done
+    QString detail = {}; // whose or where it is: "maria 2, paul 1"
+};
+
+// Something that has to be done or to be known today, with a screen that shows more of it.
+struct TodayLine
+{
+    enum class Tone { Usual, Alarm }; // of what waits
+
+    QString name; // of what shows the line: "todayReceipts"
+    QString title; // "Receipts to post"
+    QString screen; // component name: "frmInvReceipts"
+    std::function<TodayFigure(const TodaySource &)> read; // in one short statement or two
+    Tone tone = Tone::Usual;
+};
+
+// The documents of each kind that wait to be posted, the balances below zero, the counts that the user has begun on this
+// machine, the period that new documents go into.
+const QList<TodayLine> &todayLines();
+
+} // namespace Tallymere
