@@ -299,13 +299,11 @@ TEST_F(ListScreensTest, listsAreNarrowedToWhatWaits)
             addDocument(kitchen, kind.kind, id, 1, {{1, u"1"_s}});
         kitchen.execute(
             u"UPDATE %1 SET Posted = true WHERE %2 = 2"_s.arg(kind.kind.headerTable, kind.kind.keyField));
-        DocumentListScreen &documents = *kind.makeList(*context, mainWindow.get());
-        documents.showWaiting();
-        showActive(documents);
-        EXPECT_EQ(documents.dataSet().recordCount(), 2);
-        EXPECT_TRUE(child<QRadioButton>(documents, "optPostedNo")->isChecked()) << "its filter dialog says so";
-        documents.close();
-        settle();
+        const std::unique_ptr<DocumentListScreen> documents(kind.makeList(*context, mainWindow.get()));
+        documents->showWaiting();
+        showActive(*documents);
+        EXPECT_EQ(documents->dataSet().recordCount(), 2);
+        EXPECT_TRUE(child<QRadioButton>(*documents, "optPostedNo")->isChecked()) << "its filter dialog says so";
     }
 
     kitchen.setStock(1, 1, -1, 1);
