@@ -37,9 +37,9 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
     m_lines.addLookup(Fields::ItemDescription.sized(40),
                       {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemDescription});
     const auto told = [](std::optional<double> quantity) { return quantity ? Value(*quantity) : Value(); };
-    m_lines.addCalculated(OnHand.toString(), FieldType::Float, 0,
+    m_lines.addCalculated({OnHand.toString(), FieldType::Float},
                           [this, told](const Engine::DataSet &line) { return told(m_stock.onHand(line)); });
-    m_lines.addCalculated(Afterwards.toString(), FieldType::Float, 0,
+    m_lines.addCalculated({Afterwards.toString(), FieldType::Float},
                           [this, told](const Engine::DataSet &line) { return told(m_stock.afterwards(line)); });
     m_lines.setIndex(m_kind.keyField + ";Seq"_L1);
     m_lines.setMaster(&m_header, m_kind.keyField);
