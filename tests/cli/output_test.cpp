@@ -66,8 +66,7 @@ public:
             ADD_FAILURE() << "The socket " << name << " could not be made.";
     }
     ~SilentPrintSystem() { ::close(m_socket); }
-    SilentPrintSystem(const SilentPrintSystem &) = delete;
-    SilentPrintSystem &operator=(const SilentPrintSystem &) = delete;
+    Q_DISABLE_COPY(SilentPrintSystem)
 
     int waitForCaller() const { return ::accept(m_socket, nullptr, nullptr); }
 

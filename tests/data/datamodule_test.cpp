@@ -37,7 +37,7 @@ struct DataModule : testing::TestWithParam<Store>
     SpokenPrompts prompts;
 };
 
-TEST_P(DataModule, FirstStartMakesEveryTableAndSeedsFourRows)
+TEST_P(DataModule, FirstStartMakesEveryTableAndItsFirstRows)
 {
     makeHost();
     const QStringList hostTables = store.tables();

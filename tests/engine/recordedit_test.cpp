@@ -32,10 +32,9 @@ TEST_P(RecordTest, PostsWhatWasSetAndNothingElse)
     vendors.post();
     EXPECT_EQ(vendors.state(), TableState::Browse);
     const auto other = store.anotherUser();
-    EXPECT_EQ(rowsOf(other->database,
-                     u"SELECT Discount, Since, Days, Suspended, Notes FROM Vendor "
-                     "WHERE VendorID = 3"_s),
-              QStringList(u"0.1|2004-02-29|30||tab\tquote'\"; --\nÄ𝄞"_s));
+    EXPECT_EQ(
+        rowsOf(other->database, u"SELECT Discount, Since, Days, Suspended, Notes FROM Vendor WHERE VendorID = 3"_s),
+        QStringList(u"0.1|2004-02-29|30||tab\tquote'\"; --\nÄ𝄞"_s));
 }
 
 TEST_P(RecordTest, ANewRecordTakesDefaultsNumberAndPlace)

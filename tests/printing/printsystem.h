@@ -23,8 +23,7 @@ public:
         QFile::remove(m_home + QStringLiteral("/printed.pdf"));
     }
     ~PrintSystem() { useServer({}); }
-    PrintSystem(const PrintSystem &) = delete;
-    PrintSystem &operator=(const PrintSystem &) = delete;
+    Q_DISABLE_COPY(PrintSystem)
 
     bool isRunning() const { return !m_home.isEmpty(); }
     QString printerDescription() const { return m_home + QStringLiteral("/pdf.ppd"); }

@@ -25,8 +25,7 @@ public:
         m_mend = u"DROP TRIGGER broken ON %1; DROP FUNCTION fail"_s.arg(table);
     }
     ~BrokenTable() { m_store.execute(m_mend); }
-    BrokenTable(const BrokenTable &) = delete;
-    BrokenTable &operator=(const BrokenTable &) = delete;
+    Q_DISABLE_COPY(BrokenTable)
 
 private:
     TestStore &m_store;

@@ -33,8 +33,7 @@ void Kitchen::makeHost() { Tallymere::HostTables::createHostTables(database(), u
 void Kitchen::addReceipt(int id, int vendor, int warehouse, const QList<Line> &lines, const QString &order)
 {
     execute(u"INSERT INTO IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, PurchaseOrderNo, "
-            "VendorID, "
-            "WarehouseID, Posted) VALUES (%1, '%2', 2026, 3, '2026-03-14', '%3', %4, %5, false)"_s,
+            "VendorID, WarehouseID, Posted) VALUES (%1, '%2', 2026, 3, '2026-03-14', '%3', %4, %5, false)"_s,
             id, 1000 + id, order, vendor, warehouse);
     int seq = 0;
     for (const Line &line : lines)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <csignal>
+#include <QtGlobal>
 #include <sys/resource.h>
 
 // While it lives, no file that this process writes grows beyond so many bytes: what a full disk or a quota does to a
@@ -16,8 +17,7 @@ public:
         setrlimit(RLIMIT_FSIZE, &small);
     }
     ~SmallFiles() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    SmallFiles(const SmallFiles &) = delete;
-    SmallFiles &operator=(const SmallFiles &) = delete;
+    Q_DISABLE_COPY(SmallFiles)
 
 private:
     rlimit m_before{};
