@@ -5,6 +5,7 @@
 #include "controls/windows/screenmetrics.h"
 #include "frame/figurebutton.h"
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -47,7 +48,8 @@ void TodayPanel::addLine(const TodayLine &line)
 void TodayPanel::refresh()
 {
     m_next = 0;
-    m_idle.start(0);
+    if (m_rest.hasExpired())
+        m_idle.start(0);
 }
 
 void TodayPanel::readNext()
@@ -57,17 +59,28 @@ void TodayPanel::readNext()
         return;
     Shown &shown = m_shown[m_next];
     TodayFigure figure;
+    QElapsedTimer time;
+    time.start();
     const std::exception_ptr failure = Guard::attempt([&] { figure = shown.line.read(*from); });
     if (failure) {
-        // Who cannot be reached for one figure is not asked for the others: that may take long.
         Guard::trace(failure);
-        for (; m_next < m_shown.size(); ++m_next)
-            show(m_shown[m_next], {u"-"_s});
+        giveUp(time.elapsed());
         return;
     }
     show(shown, figure);
     if (++m_next < m_shown.size())
         m_idle.start(0);
+}
+
+// Who cannot be reached for one figure is not asked for the others. One that lets the window wait is left alone for a
+// while, however often that comes to the front.
+void TodayPanel::giveUp(qint64 milliseconds)
+{
+    constexpr qint64 longest = 1'000;
+    if (milliseconds > longest)
+        m_rest.setRemainingTime(std::chrono::seconds(60));
+    for (; m_next < m_shown.size(); ++m_next)
+        show(m_shown[m_next], {.text = u"-"_s, .detail = tr("This could not be read.")});
 }
 
 void TodayPanel::show(Shown &shown, const TodayFigure &figure)

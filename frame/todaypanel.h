@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <QDeadlineTimer>
 #include <QTimer>
 #include <QWidget>
 
@@ -36,10 +37,12 @@ private:
     };
     void addLine(const TodayLine &line);
     void readNext();
+    void giveUp(qint64 milliseconds);
     void show(Shown &shown, const TodayFigure &figure);
 
     QList<Shown> m_shown;
     qsizetype m_next = 0;
+    QDeadlineTimer m_rest{0}; // until which nothing is read
     QTimer m_idle;
 };
 
