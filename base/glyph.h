@@ -31,6 +31,11 @@ enum class Glyph {
     Settings,
     Help,
     Close,
+    First, // pages
+    Previous,
+    Next,
+    Last,
+    Calendar,
     Information,
     Warning,
     Error

@@ -2,13 +2,13 @@
 
 #include "base/ruleerror.h"
 #include "base/typeddate.h"
+#include "controls/windows/icons.h"
 
 #include <algorithm>
 #include <QAbstractItemView>
 #include <QAction>
 #include <QCalendarWidget>
 #include <QKeyEvent>
-#include <QStyle>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -22,8 +22,9 @@ constexpr int yearDigits = 4; // that are shown
 DatePicker::DatePicker(QWidget *parent)
     : QLineEdit(parent)
 {
-    QAction *open = addAction(style()->standardIcon(QStyle::SP_TitleBarUnshadeButton), QLineEdit::TrailingPosition);
-    open->setText(tr("Calendar"));
+    auto *open = new QAction(tr("Calendar"), this);
+    setGlyph(*open, Glyph::Calendar);
+    addAction(open, QLineEdit::TrailingPosition);
     connect(open, &QAction::triggered, this, &DatePicker::showCalendar);
     connect(this, &QLineEdit::editingFinished, this, &DatePicker::takeText);
 }

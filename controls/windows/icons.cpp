@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QStyle>
+#include <QToolButton>
 #include <QVariant>
 
 using namespace Qt::StringLiterals;
@@ -27,10 +28,10 @@ constexpr double stroke = 1.4;
 
 // In the order of the signs.
 constexpr std::array files = {
-    "",         "receive", "use",    "post",        "count",        "adjust",      "report", "totals",
-    "history",  "item",    "vendor", "location",    "organization", "records",     "new",    "edit",
-    "delete",   "copy",    "find",   "filter",      "refresh",      "synchronize", "print",  "save",
-    "settings", "help",    "close",  "information", "warning",      "error",
+    "",      "receive",  "use",      "post",         "count",    "adjust",      "report",   "totals", "history",
+    "item",  "vendor",   "location", "organization", "records",  "new",         "edit",     "delete", "copy",
+    "find",  "filter",   "refresh",  "synchronize",  "print",    "save",        "settings", "help",   "close",
+    "first", "previous", "next",     "last",         "calendar", "information", "warning",  "error",
 };
 static_assert(files.size() == static_cast<size_t>(Glyph::Error) + 1);
 
@@ -111,10 +112,28 @@ const QHash<QString, Glyph> &glyphsOfNames()
     return glyphs;
 }
 
+// A wizard has its steps under these names, in words.
+Glyph namedBy(const QToolButton &button)
+{
+    static const QHash<QString, Glyph> glyphs = {
+        {u"btnFirst"_s, Glyph::First},
+        {u"btnPrev"_s, Glyph::Previous},
+        {u"btnNext"_s, Glyph::Next},
+        {u"btnLast"_s, Glyph::Last},
+    };
+    return glyphs.value(button.objectName());
+}
+
+Glyph namedBy(const QObject &shown)
+{
+    const auto *tool = qobject_cast<const QToolButton *>(&shown);
+    return tool ? namedBy(*tool) : glyphsOfNames().value(shown.objectName());
+}
+
 template <typename Shown> void giveGlyphs(const QList<Shown *> &all)
 {
     for (Shown *shown : all) {
-        if (const Glyph glyph = glyphsOfNames().value(shown->objectName());
+        if (const Glyph glyph = namedBy(static_cast<const QObject &>(*shown));
             shown->icon().isNull() && glyph != Glyph::None)
             setGlyph(*shown, glyph);
     }

@@ -22,7 +22,6 @@
 #include <QPrinter>
 #include <QScopeGuard>
 #include <QShortcut>
-#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -81,13 +80,6 @@ void TfrmPreview::offerCsv(std::function<Printing::Report(Progress &)> makeRepor
 
 void TfrmPreview::connectControls()
 {
-    const auto icon = [this](QToolButton *button, QStyle::StandardPixmap picture) {
-        button->setIcon(style()->standardIcon(picture));
-    };
-    icon(m_ui->btnFirst, QStyle::SP_MediaSkipBackward);
-    icon(m_ui->btnPrev, QStyle::SP_MediaSeekBackward);
-    icon(m_ui->btnNext, QStyle::SP_MediaSeekForward);
-    icon(m_ui->btnLast, QStyle::SP_MediaSkipForward);
     connectGuarded(m_ui->btnFirst, &QToolButton::clicked, this, &TfrmPreview::btnFirstClick);
     connectGuarded(m_ui->btnPrev, &QToolButton::clicked, this, &TfrmPreview::btnPrevClick);
     connectGuarded(m_ui->btnNext, &QToolButton::clicked, this, &TfrmPreview::btnNextClick);
