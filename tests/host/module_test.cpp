@@ -75,11 +75,14 @@ TEST_F(ModuleTest, OpensFromTheMenuBeforeAndAfterAReload)
 {
     HostWindow window(settings, u"maria"_s, moduleUnderTest);
     EXPECT_EQ(window.findChild<QLabel *>(u"labelCompany"_s)->text(), u"Harvest Table Kitchens"_s);
+    auto &link = *child<QPushButton>(window, "linkModule");
     for (int round = 0; round < 3; ++round) {
         const auto expectUser = [](QWidget &modal) {
             EXPECT_EQ(child<QLabel>(modal, "RzStatusPane2")->text(), u"maria"_s);
         };
         EXPECT_TRUE(whileOpen<QWidget>([&] { window.openModule(); }, expectUser));
+        EXPECT_TRUE(whileOpen<QWidget>([&] { link.click(); }, expectUser)) << "from the page as well";
+        EXPECT_EQ(link.text(), inventoryMenu(window).actions().constFirst()->text());
         window.loadModule();
         ASSERT_EQ(inventoryMenu(window).actions().size(), 1);
     }
@@ -87,6 +90,7 @@ TEST_F(ModuleTest, OpensFromTheMenuBeforeAndAfterAReload)
     EXPECT_FALSE(InterfaceRef<IPlugIn>::of(mainForm(window))->getIsModuleInstalled(u"ARSystem "_s));
     window.unloadModule();
     EXPECT_TRUE(inventoryMenu(window).actions().isEmpty());
+    EXPECT_FALSE(link.isEnabled());
     EXPECT_EQ(mainForm(window), nullptr);
     EXPECT_EQ(ClassRegistry::instance().classNames(), QStringList());
     window.openModule(); // nothing to open
