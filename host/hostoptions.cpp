@@ -24,7 +24,12 @@ HostOptions readOptions(const QStringList &arguments)
     const QCommandLineOption data(u"data"_s, HostTexts::tr("Uses the company database in this folder from now on."),
                                   u"FOLDER"_s);
     const QCommandLineOption open(u"open"_s, HostTexts::tr("Opens the inventory at once."));
-    parser.addOptions({help, version, module, user, data, open});
+    const QCommandLineOption look(
+        u"look"_s,
+        HostTexts::tr("Is light, dark or as the desktop is. The environment variable TALLYMERE_LOOK says the same "
+                      "for whoever gives no option."),
+        u"light|dark|desktop"_s, qEnvironmentVariable("TALLYMERE_LOOK", u"desktop"_s));
+    parser.addOptions({help, version, module, user, data, open, look});
 
     HostOptions options;
     const auto stop = [&options](HostOptions::Outcome outcome, const QString &message) {
@@ -48,6 +53,11 @@ HostOptions readOptions(const QStringList &arguments)
     options.user = parser.isSet(user) ? parser.value(user) : loginName();
     options.data = parser.value(data);
     options.open = parser.isSet(open);
+    const std::optional<HostLook> wanted = lookNamed(parser.value(look));
+    if (!wanted)
+        return stop(HostOptions::Outcome::Refuse,
+                    HostTexts::tr("There is no look %1. It is light, dark or desktop.").arg(parser.value(look)));
+    options.look = *wanted;
     if (parser.isSet(data) && !QFileInfo(options.data).isDir())
         return stop(HostOptions::Outcome::Refuse, HostTexts::tr("There is no folder %1.").arg(options.data));
     return options;

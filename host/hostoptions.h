@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/hostlook.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -10,6 +12,7 @@ struct HostOptions
     QString module; // the module's file; empty: where it is installed
     QString user;
     QString data; // folder to use from now on; empty: as set
+    HostLook look = HostLook::Desktop;
     bool open = false; // opens the module's window at once
 
     // What is wrong with the command line, or what --help and --version print.

@@ -1,5 +1,6 @@
 #include "base/settingsstore.h"
 #include "host/company.h"
+#include "host/hostlook.h"
 #include "host/hostoptions.h"
 #include "host/hostwindow.h"
 
@@ -45,6 +46,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Corvane"_s); // a display name would be added to every window title
     QApplication::setWindowIcon(programIcon()); // of the windows of modules as well
+    takeLook(options.look);
     SystemSettings settings;
     if (!options.data.isEmpty() && !useCompanyFolder(settings, options.data))
         return say(stderr, keyErrorText(), 1);

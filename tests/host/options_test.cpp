@@ -23,8 +23,8 @@ TEST(HostOptions, AreReadAndRefused)
     EXPECT_FALSE(plain.user.isEmpty());
     EXPECT_FALSE(plain.open);
 
-    for (const QStringList &wrong :
-         {QStringList{u"--data"_s, u"/nowhere/kitchen"_s}, QStringList{u"--data"_s}, QStringList{u"file"_s}}) {
+    for (const QStringList &wrong : {QStringList{u"--data"_s, u"/nowhere/kitchen"_s}, QStringList{u"--data"_s},
+                                     QStringList{u"file"_s}, QStringList{u"--look"_s, u"dusk"_s}}) {
         const HostOptions refused = readOptions(QStringList{u"host"_s} + wrong);
         EXPECT_EQ(refused.outcome, HostOptions::Outcome::Refuse) << qPrintable(wrong.join(u' '));
         EXPECT_FALSE(refused.message.isEmpty());

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace Tallymere {
+
+// Qt's Fusion, flat: buttons and fields are one ground with a thin line around, rounded, and in the accent's colour around
+// what has the keyboard.
+class HostStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    HostStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returned) const override;
+
+private:
+    void drawBox(const QStyleOption &option, QPainter &painter, const QColor &ground, const QColor &line) const;
+    void drawButton(const QStyleOption &option, QPainter &painter) const;
+    void drawComboBox(const QStyleOptionComboBox &option, QPainter &painter, const QWidget *widget) const;
+};
+
+} // namespace Tallymere
