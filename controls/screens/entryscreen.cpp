@@ -39,7 +39,8 @@ EntryScreen::EntryScreen(ScreenContext &context, QWidget *parent)
     : QDialog(parent, Qt::Window)
     , m_context(context)
     , m_guard(
-          context.prompts, [this](const QString &column) { focusColumn(column); }, this)
+          context.prompts, [this](const QString &column) { return focusColumn(column) ? focusWidget() : nullptr; },
+          this)
     , m_binder(this, m_guard)
     , m_memory(*this, context.settings)
 {
@@ -223,7 +224,7 @@ void EntryScreen::showEvent(QShowEvent *event)
         return;
     firstShown();
     fitToScreen(this);
-    moveToPlace(*this, geometry()); // which was chosen for a smaller one
+    placeByOpener(*this);
     m_firstSize = size();
     m_memory.restore();
 }

@@ -13,6 +13,7 @@ namespace Tallymere {
 namespace {
 
 constexpr int diagonalStep = 28; // design pixels, between windows that would stand on each other
+constexpr int gapBetween = 8; // and between those that stand beside each other
 
 int area(const QRect &rectangle) { return rectangle.isEmpty() ? 0 : rectangle.width() * rectangle.height(); }
 
@@ -22,6 +23,22 @@ QList<QRect> availableScreens()
     for (const QScreen *screen : QGuiApplication::screens())
         screens.append(screen->availableGeometry());
     return screens;
+}
+
+// The windows that a further one would hide: its opener and all that somebody has opened. A window behind them which
+// waits for them to close is none.
+QList<QRect> openBeside(const QWidget &window)
+{
+    QList<QRect> places;
+    const QWidgetList others = QApplication::topLevelWidgets();
+    for (const QWidget *other : others) {
+        const bool isOpener = other == window.parentWidget()->window();
+        const bool isOpened =
+            other->parentWidget() && (other->windowType() == Qt::Window || other->windowType() == Qt::Dialog);
+        if (other != &window && other->isVisible() && !other->isMinimized() && (isOpener || isOpened))
+            places.append(other->frameGeometry());
+    }
+    return places;
 }
 
 void putAt(QWidget &window, const QRect &inside, const QList<QRect> &screens)
@@ -63,6 +80,29 @@ QPoint apartFrom(const QList<QPoint> &taken, QPoint place, int step, const QRect
     return place;
 }
 
+std::optional<QPoint> besideOthers(const QList<QRect> &taken, QPoint opener, QSize size, int gap,
+                                   const QRect &screen)
+{
+    const auto isFree = [&](const QRect &place) {
+        return screen.contains(place) && std::none_of(taken.begin(), taken.end(), [&](const QRect &other) {
+                   return other.intersects(place);
+               });
+    };
+    std::optional<QPoint> nearest;
+    const auto distance = [&](QPoint place) { return (place - opener).manhattanLength(); };
+    for (const QRect &other : taken) {
+        const QPoint places[] = {{other.right() + gap, other.top()},
+                                 {other.left(), other.bottom() + gap},
+                                 {other.left() - size.width() - gap, other.top()},
+                                 {other.left(), other.top() - size.height() - gap}};
+        for (const QPoint &place : places) {
+            if (isFree(QRect(place, size)) && (!nearest || distance(place) < distance(*nearest)))
+                nearest = place;
+        }
+    }
+    return nearest;
+}
+
 QMargins expectedFrame(const QWidget &window)
 {
     if (!window.parentWidget())
@@ -78,9 +118,16 @@ void placeByOpener(QWidget &window)
 {
     if (!window.parentWidget())
         return;
+    const QWidget *opener = window.parentWidget()->window();
     const int step = scaled(&window, diagonalStep);
-    const QPoint opener = window.parentWidget()->window()->geometry().topLeft();
-    putAt(window, QRect(opener + QPoint(step, step), window.size()), {window.screen()->availableGeometry()});
+    const QRect screen = window.screen()->availableGeometry();
+    const QMargins frame = expectedFrame(window);
+    const QSize size = QRect({}, window.size()).marginsAdded(frame).size();
+    const auto beside = besideOthers(openBeside(window), opener->frameGeometry().topLeft(), size,
+                                     scaled(&window, gapBetween), screen);
+    const QPoint place =
+        beside ? *beside + QPoint(frame.left(), frame.top()) : opener->geometry().topLeft() + QPoint(step, step);
+    putAt(window, QRect(place, window.size()), {screen});
 }
 
 void standApart(QWidget &window)
