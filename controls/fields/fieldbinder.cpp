@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "controls/fields/fieldbinding.h"
+#include "controls/windows/fieldmark.h"
 #include "controls/windows/leaving.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/typing.h"
@@ -306,6 +307,8 @@ void FieldBinder::leave(FieldBinding &binding)
         [this, widget, column, failure, stays] {
             m_guard.focus(column); // on a page that may be behind others by now
             widget->setFocus();
+            if (Guard::isRefusal(failure))
+                FieldMark::refuse(*widget);
             m_guard.report(failure);
             m_refusing = false;
             if (stays)

@@ -3,6 +3,7 @@
 #include "controls/fields/comboboxname.h"
 #include "controls/fields/lookupcombobox.h"
 #include "controls/fields/maskedentry.h"
+#include "controls/windows/fieldmark.h"
 #include "controls/windows/lineentry.h"
 
 #include <algorithm>
@@ -12,9 +13,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QVariant>
 
 namespace Tallymere {
@@ -76,10 +79,13 @@ void FieldBinding::entered()
 
 namespace {
 
-// What can only be read looks like the form around it.
+// What can only be read stands without a box on the form around it, with its text in the same place.
 void showReadOnly(QLineEdit &edit, bool readOnly)
 {
     edit.setReadOnly(readOnly);
+    edit.setFrame(!readOnly);
+    const int frame = edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    edit.setTextMargins(readOnly ? QMargins(frame, frame, frame, frame) : QMargins());
     QPalette colours;
     if (readOnly)
         colours.setBrush(QPalette::Base, edit.palette().window());
@@ -108,6 +114,7 @@ public:
     void setActive(bool active) override
     {
         m_active = active && !m_edit->isReadOnly();
+        showCursor(active && m_edit->isReadOnly());
         if (hasEntry())
             return;
         if (m_mask)
@@ -118,6 +125,13 @@ public:
     }
 
 private:
+    // Without a box there is nothing that the style shows the cursor by.
+    void showCursor(bool here)
+    {
+        delete m_cursor;
+        m_cursor = here ? new FieldMark(*m_edit, Look::Role::Accent) : nullptr;
+    }
+
     int size(const QLineEdit &edit) const
     {
         const bool limited = field().type == Engine::FieldType::Text && field().size > 0;
@@ -137,6 +151,7 @@ private:
 
     QLineEdit *m_edit;
     std::unique_ptr<MaskedEntry> m_mask; // null without one
+    QPointer<FieldMark> m_cursor; // which its edit may have taken with it
     bool m_alwaysReadOnly; // by the form, whatever becomes of the record
     bool m_active = false;
 };
@@ -299,7 +314,14 @@ public:
         QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [this] { entered(); });
     }
 
-    void setReadOnly(bool readOnly) override { m_edit->setReadOnly(readOnly); }
+    void setReadOnly(bool readOnly) override
+    {
+        m_edit->setReadOnly(readOnly);
+        QPalette colours;
+        if (readOnly)
+            colours.setBrush(QPalette::Base, m_edit->palette().window());
+        m_edit->setPalette(colours);
+    }
 
 private:
     void display() override

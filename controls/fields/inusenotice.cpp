@@ -19,21 +19,18 @@ namespace Tallymere {
 namespace {
 
 constexpr std::chrono::seconds pauseBetweenLooks{3}; // while the notice is shown
-constexpr int marginPixels = 6;
+constexpr int marginPixels = 4;
 
 } // namespace
 
 InUseNotice::InUseNotice(QWidget &screen, FieldBinder &binder)
-    : QLabel(&screen)
+    : StateLabel(&screen, State::Notice)
     , m_screen(screen)
     , m_binder(binder)
 {
     setObjectName(u"lblInUse"_s);
     setWordWrap(true);
     setTextFormat(Qt::PlainText); // names are shown as they are
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    setForegroundRole(QPalette::ToolTipText);
     setMargin(scaled(this, marginPixels));
     hide();
     if (auto *rows = qobject_cast<QBoxLayout *>(screen.layout()))
@@ -48,7 +45,7 @@ bool InUseNotice::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate)
         look();
-    return QLabel::eventFilter(watched, event);
+    return StateLabel::eventFilter(watched, event);
 }
 
 void InUseNotice::look()

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLabel>
+#include "controls/windows/statelabel.h"
+
 #include <QTimer>
 
 namespace Engine {
@@ -14,7 +15,7 @@ class FieldBinder;
 // Says above the fields of a screen that somebody else has its record in use, from the moment it is opened: who types
 // learns it before the first key, and not from a refusal after it. The fields look as those that can only be read. It looks whenever the window is shown or activated,
 // and goes by itself once the record is free.
-class InUseNotice final : public QLabel
+class InUseNotice final : public StateLabel
 {
     Q_OBJECT
 

@@ -2,6 +2,7 @@
 
 #include "controls/fields/comboboxname.h"
 #include "controls/windows/leaving.h"
+#include "controls/windows/look.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/typing.h"
 
@@ -9,7 +10,6 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QStyleOptionFrame>
 #include <QStylePainter>
 #include <QTableView>
 
@@ -213,16 +213,14 @@ void LookupComboBox::paintEvent(QPaintEvent *event)
     if (!m_readOnly)
         return QComboBox::paintEvent(event);
     QStylePainter painter(this);
-    QStyleOptionFrame frame;
-    frame.initFrom(this);
-    frame.palette.setBrush(QPalette::Base, palette().window());
-    frame.state |= QStyle::State_Sunken | QStyle::State_ReadOnly;
-    frame.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, this);
-    painter.drawPrimitive(QStyle::PE_PanelLineEdit, frame);
-    const int margin = 2 * frame.lineWidth;
+    const int margin = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this);
     const QRect text = rect().adjusted(margin, 0, -margin, 0);
     painter.drawItemText(text, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
                          fontMetrics().elidedText(currentText(), Qt::ElideRight, text.width()), QPalette::Text);
+    if (hasFocus()) {
+        painter.setPen(QPen(Look(palette()).colour(Look::Role::Accent), scaled(this, 2)));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
 }
 
 void LookupComboBox::focusOutEvent(QFocusEvent *event)

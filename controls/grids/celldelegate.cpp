@@ -4,7 +4,6 @@
 #include "controls/windows/screenmetrics.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyle>
 
 namespace Tallymere {
@@ -35,7 +34,6 @@ int CellDelegate::frameWidth() const { return scaled(m_grid, frame); }
 void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const Look &look = m_grid->look();
-    const State state = m_grid->cellState(index);
     const QColor ground = groundOf(index);
     const CellNote note = noteOf(index);
     const QRect cell = option.rect;
@@ -51,8 +49,9 @@ void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
     if (m_grid->hasFocusBar(index))
         painter->fillRect(QRect(cell.topLeft(), QSize(scaled(m_grid, focusBar), cell.height())),
                           look.colour(Role::Accent));
-    if (state == State::Typing)
-        drawFrame(*painter, cell, look.colour(Role::Accent));
+    const bool refused = m_grid->isRefused(index);
+    if (refused || m_grid->cellState(index) == State::Typing)
+        drawFrame(*painter, cell, look.colour(refused ? Role::Negative : Role::Accent));
     painter->restore();
 }
 
@@ -105,15 +104,8 @@ void CellDelegate::drawText(QPainter &painter, const QStyleOptionViewItem &optio
 void CellDelegate::drawTick(QPainter &painter, const QRect &cell, const QColor &ground) const
 {
     const double size = scaled(m_grid, tickSize);
-    const QPointF corner(cell.left() + m_grid->cellPadding(), cell.center().y() - size / 2);
-    QPainterPath tick(corner + QPointF(0.1, 0.55) * size);
-    tick.lineTo(corner + QPointF(0.4, 0.85) * size);
-    tick.lineTo(corner + QPointF(0.95, 0.2) * size);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(
-        QPen(m_grid->look().on(ground, Role::Positive), size / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(tick);
-    painter.setRenderHint(QPainter::Antialiasing, false);
+    const QRectF room(cell.left() + m_grid->cellPadding(), cell.center().y() - size / 2, size, size);
+    Tallymere::drawTick(painter, room, m_grid->look().on(ground, Role::Positive));
 }
 
 void CellDelegate::drawOpen(QPainter &painter, const QRect &cell, const QString &word) const
@@ -124,12 +116,7 @@ void CellDelegate::drawOpen(QPainter &painter, const QRect &cell, const QString 
     painter.setFont(secondFont(m_grid->font()));
     QRect chip = cell.adjusted(m_grid->cellPadding() - padding, margin, 0, -margin - 1);
     chip.setWidth(std::min(painter.fontMetrics().horizontalAdvance(word) + 2 * padding, chip.width() - 1));
-    const double radius = chip.height() / 2.0;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(look.colour(Role::NoticeGround));
-    painter.drawRoundedRect(chip, radius, radius);
-    painter.setRenderHint(QPainter::Antialiasing, false);
+    drawNoticeGround(painter, chip, chip.height() / 2.0, look);
     painter.setPen(look.colour(Role::NoticeText));
     painter.drawText(chip, Qt::AlignCenter | Qt::TextSingleLine, word);
 }

@@ -41,6 +41,7 @@ public:
     // How a cell looks for the cursor.
     enum class CellState { Plain, ChosenRow, ChosenCell, Typing };
     virtual CellState cellState(const QModelIndex &cell) const;
+    virtual bool isRefused(const QModelIndex &) const { return false; } // what has been entered there
     virtual bool hasFocusBar(const QModelIndex &) const { return false; } // before the row that takes the keys
     const Look &look() const { return m_look; } // of the grid's palette
     int cellPadding() const; // at both sides of a text, in pixels of the screen

@@ -77,6 +77,7 @@ QWidget *EntryGrid::openEditor(QWidget *parent, const QModelIndex &cell)
     m_editor->setText(m_offered);
     m_editor->selectAll();
     m_edited = cell;
+    connect(m_editor, &QLineEdit::textEdited, this, [this] { setRefused({}); });
     return m_editorBox;
 }
 
@@ -93,6 +94,8 @@ void EntryGrid::commitEntry()
         return;
     const QString text = m_editor->text();
     takeEntry(m_edited, text, text == m_offered ? Entry::Unchanged : Entry::Changed);
+    if (m_refused == m_edited)
+        setRefused({});
     dropEntry();
 }
 
@@ -110,6 +113,8 @@ bool EntryGrid::finishEntry()
     const std::exception_ptr failure = Guard::attempt([this] { commitEntry(); });
     if (!failure)
         return true;
+    if (Guard::isRefusal(failure) && !leadsAway(failure, m_edited))
+        setRefused(m_edited);
     {
         const QScopedValueRollback reporting(m_reporting, true);
         m_guard->report(failure);
@@ -137,7 +142,11 @@ void EntryGrid::editorLeft(Qt::FocusReason reason)
     dropEntry();
     if (leadsAway(failure, cell))
         return reportLater(failure, {});
-    reportLater(failure, [this, cell, text] { reopen(cell, text); });
+    reportLater(failure, [this, cell, text, refused = Guard::isRefusal(failure)] {
+        reopen(cell, text);
+        if (refused)
+            setRefused(cell);
+    });
 }
 
 // A refusal may name another column than the one that was typed into: the cursor goes there.
@@ -180,6 +189,25 @@ void EntryGrid::reopen(const QModelIndex &cell, const QString &text)
     }
 }
 
+// --- refusals ---------------------------------------------------------------------------------------------------
+
+void EntryGrid::setRefused(const QModelIndex &cell)
+{
+    if (m_refused == cell)
+        return;
+    m_refused = cell;
+    viewport()->update();
+}
+
+void EntryGrid::markRefused() { setRefused(currentIndex()); }
+
+void EntryGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    DataGrid::currentChanged(current, previous);
+    if (current.row() != m_refused.row())
+        setRefused({});
+}
+
 // --- keys in the editor -----------------------------------------------------------------------------------------
 
 bool EntryGrid::editorKey(QKeyEvent *event)
@@ -192,6 +220,7 @@ bool EntryGrid::editorKey(QKeyEvent *event)
         return true;
     case Qt::Key_Escape:
         dropEntry();
+        setRefused({});
         return true;
     case Qt::Key_Tab:
     case Qt::Key_Backtab:

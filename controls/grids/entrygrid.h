@@ -2,6 +2,7 @@
 
 #include "controls/grids/datagrid.h"
 #include "controls/grids/lineoptions.h"
+#include "controls/windows/fieldmark.h"
 #include "controls/windows/guard.h"
 
 class QLineEdit;
@@ -11,7 +12,7 @@ namespace Tallymere {
 // A grid whose cells are typed into, in place. What is typed is handed over by Enter, Tab or leaving the cell. Where it is
 // refused the editor stays open, or is opened again on it once the refusal has been shown, unless that sends the cursor to
 // another column. Escape drops it.
-class EntryGrid : public DataGrid
+class EntryGrid : public DataGrid, public MarksRefusals
 {
     Q_OBJECT
 
@@ -22,9 +23,14 @@ public:
     bool hasEntry() const { return m_editor != nullptr; }
     void dropEntry(); // without a word
     CellState cellState(const QModelIndex &cell) const override;
+    bool isRefused(const QModelIndex &cell) const override { return cell == m_refused; }
+    void markRefused() override; // until another text is typed there, or the cursor leaves the row
 
 protected:
     explicit EntryGrid(QWidget *parent);
+
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void setRefused(const QModelIndex &cell); // none: nothing is refused any more
 
     void setGuard(const Guard &guard) { m_guard = &guard; }
     const Guard &guard() const { return *m_guard; }
@@ -65,6 +71,7 @@ private:
     QWidget *m_editorBox = nullptr;
     QLineEdit *m_editor = nullptr;
     QPersistentModelIndex m_edited;
+    QPersistentModelIndex m_refused;
     QString m_offered; // what the editor began with
     bool m_reporting = false; // a refusal is being shown: the focus may come and go
 };

@@ -364,6 +364,7 @@ void LineGrid::keyPressEvent(QKeyEvent *event)
         return;
     }
     if (event->key() == Qt::Key_Escape) {
+        setRefused({});
         if (m_lines->isEditing())
             guard().run([this] { m_lines->cancel(); });
         else

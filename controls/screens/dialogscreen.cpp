@@ -16,7 +16,7 @@ DialogScreen::DialogScreen(ScreenContext &context, QWidget *parent)
     : QDialog(parent)
     , m_context(context)
     , m_guard(
-          context.prompts, [this](const QString &column) { focusColumn(column); }, this)
+          context.prompts, [this](const QString &column) { return focusColumn(column); }, this)
 {
     setModal(true);
     keepComboBoxNames();
@@ -24,10 +24,12 @@ DialogScreen::DialogScreen(ScreenContext &context, QWidget *parent)
 
 QWidget *DialogScreen::widgetOfColumn(const QString &) const { return nullptr; }
 
-void DialogScreen::focusColumn(const QString &column)
+QWidget *DialogScreen::focusColumn(const QString &column)
 {
-    if (QWidget *widget = widgetOfColumn(column))
+    QWidget *widget = widgetOfColumn(column);
+    if (widget)
         putCursorInto(*widget);
+    return widget;
 }
 
 void DialogScreen::putCursorInto(QWidget &widget)

@@ -30,7 +30,7 @@ protected:
     virtual void showStep() { } // each time the dialog opens
 
 private:
-    void focusColumn(const QString &column);
+    QWidget *focusColumn(const QString &column);
     void takeOneLines();
 
     ScreenContext &m_context;

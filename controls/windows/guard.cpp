@@ -3,6 +3,7 @@
 #include "base/ruleerror.h"
 #include "controls/texts.h"
 #include "controls/windows/dialogover.h"
+#include "controls/windows/fieldmark.h"
 #include "controls/windows/messageboxes.h"
 #include "engine/values/error.h"
 
@@ -17,7 +18,7 @@ namespace {
 bool tellingOfTheStore = false;
 } // namespace
 
-Guard::Guard(Prompts &prompts, std::function<void(const QString &)> focusColumn, QWidget *window)
+Guard::Guard(Prompts &prompts, Mover focusColumn, QWidget *window)
     : m_prompts(prompts)
     , m_focusColumn(std::move(focusColumn))
     , m_window(window)
@@ -54,7 +55,8 @@ void Guard::report(const std::exception_ptr &failure) const
     try {
         std::rethrow_exception(failure);
     } catch (const RuleError &error) {
-        focus(error.column());
+        if (QWidget *field = focus(error.column()))
+            FieldMark::refuse(*field);
         m_prompts.error(error.message());
     } catch (const SilentAbort &abort) {
         focus(abort.column());
@@ -90,6 +92,19 @@ void Guard::trace(const std::exception_ptr &failure)
 
 bool Guard::isTellingOfTheStore() { return tellingOfTheStore; }
 
+bool Guard::isRefusal(const std::exception_ptr &failure)
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (const RuleError &) {
+        return true;
+    } catch (const Engine::EngineError &error) {
+        return !error.isOfTheStore();
+    } catch (...) {
+        return false;
+    }
+}
+
 QString Guard::columnOf(const std::exception_ptr &failure)
 {
     try {
@@ -105,10 +120,9 @@ QString Guard::columnOf(const std::exception_ptr &failure)
     }
 }
 
-void Guard::focus(const QString &column) const
+QWidget *Guard::focus(const QString &column) const
 {
-    if (m_focusColumn && !column.isEmpty())
-        m_focusColumn(column);
+    return m_focusColumn && !column.isEmpty() ? m_focusColumn(column) : nullptr;
 }
 
 } // namespace Tallymere

@@ -12,16 +12,17 @@ class QWidget;
 namespace Tallymere {
 
 // The one place where what stops a handler is shown. A refusal by a rule moves the focus to the widget of the
-// refused column and shows its message in the standard error box; a silent stop moves the focus only; an error of
+// refused column, marks it there and shows its message in the standard error box; a silent stop moves the focus only; an error of
 // the engine is shown as it stands. A rule's question that nobody else has put is put here: who says yes can enter the
 // same again. Nothing gets past it into the event loop.
 class Guard
 {
 public:
-    // The second argument moves the focus to what shows a column; without it the focus stays. The window is the one
-    // that boxes come over while a handler runs.
-    explicit Guard(Prompts &prompts, std::function<void(const QString &column)> focusColumn = {},
-                   QWidget *window = nullptr);
+    // Moves the focus to what shows a column, and says which widget that is; null where none does.
+    using Mover = std::function<QWidget *(const QString &column)>;
+
+    // Without a mover the focus stays. The window is the one that boxes come over while a handler runs.
+    explicit Guard(Prompts &prompts, Mover focusColumn = {}, QWidget *window = nullptr);
 
     Prompts &prompts() const { return m_prompts; }
 
@@ -36,14 +37,15 @@ public:
     void report(const std::exception_ptr &failure) const;
     static void trace(const std::exception_ptr &failure); // for what the user need not know
     static bool isTellingOfTheStore(); // a box about a failed store is open, over whatever window
+    static bool isRefusal(const std::exception_ptr &failure); // of what has been entered, not for want of a store
     static QString columnOf(const std::exception_ptr &failure); // that a refusal names; empty when it names none
 
     // Moves the focus to what shows a column; for an empty name it stays.
-    void focus(const QString &column) const;
+    QWidget *focus(const QString &column) const;
 
 private:
     Prompts &m_prompts;
-    std::function<void(const QString &column)> m_focusColumn;
+    Mover m_focusColumn;
     QWidget *m_window;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <QPainter>
 
 namespace Tallymere {
 
@@ -119,6 +120,25 @@ QFont headFont(const QFont &font)
     QFont head = secondFont(font);
     head.setWeight(QFont::DemiBold);
     return head;
+}
+
+void drawTick(QPainter &painter, const QRectF &room, const QColor &colour)
+{
+    const auto at = [&room](double x, double y) { return room.topLeft() + QPointF(x, y) * room.width(); };
+    const QPointF corners[] = {at(0.1, 0.55), at(0.4, 0.85), at(0.95, 0.2)};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, room.width() / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(corners, 3);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void drawNoticeGround(QPainter &painter, const QRectF &room, double radius, const Look &look)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look.colour(Look::Role::NoticeGround));
+    painter.drawRoundedRect(room, radius, radius);
+    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 QString shortened(const QString &text, const QFontMetrics &metrics, int width)

@@ -6,6 +6,9 @@
 #include <QPalette>
 #include <QString>
 
+class QPainter;
+class QRectF;
+
 namespace Tallymere {
 
 // The colours of everything that is drawn here and not by the desktop's style, by what they are for. They are derived from
@@ -62,6 +65,10 @@ inline constexpr int corner = 5; // the radius of rounded ones
 // stands over something.
 QFont secondFont(const QFont &font);
 QFont headFont(const QFont &font);
+
+// In a square.
+void drawTick(QPainter &painter, const QRectF &room, const QColor &colour);
+void drawNoticeGround(QPainter &painter, const QRectF &room, double radius, const Look &look);
 
 // As much of the text as there is room for; whole where it lacks but the fraction of a pixel.
 QString shortened(const QString &text, const QFontMetrics &metrics, int width);

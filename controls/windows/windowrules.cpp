@@ -1,6 +1,7 @@
 #include "controls/windows/windowrules.h"
 
 #include "controls/windows/dialogover.h"
+#include "controls/windows/dress.h"
 #include "controls/windows/icons.h"
 #include "controls/windows/mnemonics.h"
 #include "controls/windows/typing.h"
@@ -105,10 +106,12 @@ bool WindowRules::eventFilter(QObject *watched, QEvent *event)
         return false;
     if (type == QEvent::Close)
         return takeClose(widget, *event);
-    if (const auto *menu = qobject_cast<const QMenu *>(&widget))
+    if (const auto *menu = qobject_cast<const QMenu *>(&widget)) {
         giveLetters(*menu);
-    else
+    } else {
         giveLetters(widget);
+        dress(widget);
+    }
     giveGlyphs(widget);
     return false;
 }

@@ -13,6 +13,7 @@ namespace Tallymere {
 // - Alt with a letter is a command, or nothing; no field takes the letter.
 // - Each entry of a menu has a letter of its own, and so have the buttons of a window; captions that name none get one.
 // - Buttons and entries have the sign of what their names say that they do.
+// - It has the looks of all windows (controls/windows/dress.h).
 // - Ctrl+Tab and Ctrl+Shift+Tab turn the pages of a window from anywhere in it, and the cursor goes into the page.
 class WindowRules final : public QObject
 {

@@ -63,7 +63,10 @@ TEST(Guard, showsWhatStopsAHandlerAndLetsNothingPast)
     };
     for (const auto &[name, handler, expected] : stops) {
         SpokenPrompts prompts;
-        const Guard guard(prompts, [&](const QString &column) { prompts.said << u"focus "_s + column; });
+        const Guard guard(prompts, [&](const QString &column) -> QWidget * {
+            prompts.said << u"focus "_s + column;
+            return nullptr;
+        });
         if (guard.run(handler))
             prompts.said << u"done"_s;
         EXPECT_EQ(prompts.said, expected) << name;

@@ -104,7 +104,7 @@ struct LineGridTest : testing::Test
     QLineEdit *box = new QLineEdit;
     LineGrid *grid = new LineGrid;
     QPushButton *button = new QPushButton;
-    const Guard guard{prompts, [this](const QString &column) { grid->showColumn(column); }};
+    const Guard guard{prompts, [this](const QString &column) { return grid->showColumn(column) ? grid : nullptr; }};
     QStringList searched; // the item of the line and what was typed, each time
     QString found; // what the search chooses; empty: nothing
 };
@@ -267,6 +267,10 @@ TEST_F(LineGridTest, showsWhereTheCursorIsAndWhetherItTypes)
     EXPECT_EQ(at(1, 2), look.colour(Look::Role::Accent));
     EXPECT_EQ(at(1, 2, inside), field);
     EXPECT_EQ(at(1, 0), row);
+    type("x<Return>"); // no number
+    EXPECT_EQ(at(1, 2), look.colour(Look::Role::Negative));
+    type("7");
+    EXPECT_EQ(at(1, 2), look.colour(Look::Role::Accent)) << "another text";
     type("<Esc>");
     button->setFocus();
     EXPECT_EQ(at(1, 2), row) << "where the keys do not go";

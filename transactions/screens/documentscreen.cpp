@@ -5,6 +5,7 @@
 #include "controls/grids/figuresline.h"
 #include "controls/grids/linegrid.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/statelabel.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "data/lookupsdatainv.h"
@@ -12,6 +13,7 @@
 
 #include <functional>
 #include <QAction>
+#include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 
@@ -58,6 +60,7 @@ void DocumentScreen::buildDocument(LineOptions options)
     options.behind = {DocumentEntry::OnHand.toString(), DocumentEntry::Afterwards.toString()};
     m_grid = findChild<LineGrid *>(u"DBGrid1"_s);
     m_posted = findChild<QLabel *>(u"lblPosted"_s);
+    addOpenMark();
     binder().bind(m_entry->header());
     m_grid->setLines(m_entry->lines(), columns,
                      {.begin = [this] { beginLine(); },
@@ -81,6 +84,19 @@ void DocumentScreen::buildDocument(LineOptions options)
     connect(&m_entry->header(), &Engine::DataSet::stateChanged, this, &DocumentScreen::showHeader);
     connect(&binder(), &FieldBinder::readOnlyChanged, this, &DocumentScreen::showReadOnly);
     buildScreen();
+}
+
+// In the place of the mark of posted documents.
+void DocumentScreen::addOpenMark()
+{
+    m_open = new StateLabel(this, StateLabel::State::Notice);
+    m_open->setObjectName(u"lblOpen"_s);
+    m_open->setText(tr("Open"));
+    const QList<QBoxLayout *> rows = findChildren<QBoxLayout *>();
+    for (QBoxLayout *row : rows) {
+        if (const int place = row->indexOf(m_posted); place >= 0)
+            row->insertWidget(place + 1, m_open);
+    }
 }
 
 // What is looked up or calculated takes a text only where that chooses the item.
@@ -126,6 +142,7 @@ void DocumentScreen::showHeader()
 {
     const bool posted = m_entry->isPosted();
     m_posted->setVisible(posted);
+    m_open->setVisible(!posted);
     binder().setReadOnly(posted);
     m_grid->viewport()->update(); // what is on hand follows the location
     showCaption();

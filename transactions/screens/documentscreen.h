@@ -55,6 +55,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void addOpenMark();
     void showReadOnly(bool readOnly);
     void addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
                          void (LineGrid::*run)());
@@ -68,6 +69,7 @@ private:
     std::unique_ptr<DocumentEntry> m_entry;
     LineGrid *m_grid = nullptr;
     QLabel *m_posted = nullptr;
+    QLabel *m_open = nullptr; // shown in its place
     QList<QAction *> m_popup;
 };
 
