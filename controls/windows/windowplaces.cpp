@@ -80,27 +80,24 @@ QPoint apartFrom(const QList<QPoint> &taken, QPoint place, int step, const QRect
     return place;
 }
 
-std::optional<QPoint> besideOthers(const QList<QRect> &taken, QPoint opener, QSize size, int gap,
-                                   const QRect &screen)
+QPoint besideOthers(const QList<QRect> &taken, QPoint opener, QSize size, int gap, const QRect &screen)
 {
-    const auto isFree = [&](const QRect &place) {
-        return screen.contains(place) && std::none_of(taken.begin(), taken.end(), [&](const QRect &other) {
-                   return other.intersects(place);
-               });
-    };
-    std::optional<QPoint> nearest;
-    const auto distance = [&](QPoint place) { return (place - opener).manhattanLength(); };
+    QList<QPoint> places{screen.topLeft(), screen.topRight(), screen.bottomLeft(), screen.bottomRight()};
     for (const QRect &other : taken) {
-        const QPoint places[] = {{other.right() + gap, other.top()},
-                                 {other.left(), other.bottom() + gap},
-                                 {other.left() - size.width() - gap, other.top()},
-                                 {other.left(), other.top() - size.height() - gap}};
-        for (const QPoint &place : places) {
-            if (isFree(QRect(place, size)) && (!nearest || distance(place) < distance(*nearest)))
-                nearest = place;
-        }
+        places << QPoint(other.right() + gap, other.top()) << QPoint(other.left(), other.bottom() + gap)
+               << QPoint(other.left() - size.width() - gap, other.top())
+               << QPoint(other.left(), other.top() - size.height() - gap);
     }
-    return nearest;
+    const auto rank = [&](QPoint place) {
+        int hidden = 0;
+        for (const QRect &other : taken)
+            hidden += area(other & QRect(place, size));
+        return std::pair(hidden, (place - opener).manhattanLength());
+    };
+    for (QPoint &place : places)
+        place = onScreens(QRect(place, size), {screen}).topLeft();
+    return *std::min_element(places.begin(), places.end(),
+                             [&](QPoint one, QPoint other) { return rank(one) < rank(other); });
 }
 
 QMargins expectedFrame(const QWidget &window)
@@ -119,15 +116,12 @@ void placeByOpener(QWidget &window)
     if (!window.parentWidget())
         return;
     const QWidget *opener = window.parentWidget()->window();
-    const int step = scaled(&window, diagonalStep);
     const QRect screen = window.screen()->availableGeometry();
     const QMargins frame = expectedFrame(window);
     const QSize size = QRect({}, window.size()).marginsAdded(frame).size();
-    const auto beside = besideOthers(openBeside(window), opener->frameGeometry().topLeft(), size,
-                                     scaled(&window, gapBetween), screen);
-    const QPoint place =
-        beside ? *beside + QPoint(frame.left(), frame.top()) : opener->geometry().topLeft() + QPoint(step, step);
-    putAt(window, QRect(place, window.size()), {screen});
+    const QPoint place = besideOthers(openBeside(window), opener->frameGeometry().topLeft(), size,
+                                      scaled(&window, gapBetween), screen);
+    putAt(window, QRect(place + QPoint(frame.left(), frame.top()), window.size()), {screen});
 }
 
 void standApart(QWidget &window)

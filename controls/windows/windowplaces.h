@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <QList>
 #include <QMargins>
 #include <QPoint>
@@ -22,17 +21,14 @@ QRect onScreens(const QRect &window, const QList<QRect> &screens);
 // screen on again at the opposite one.
 QPoint apartFrom(const QList<QPoint> &taken, QPoint place, int step, const QRect &screen);
 
-// Beside one of the windows that stand there, on none of them and wholly on the screen: the place nearest to the opener.
-// Nothing where there is no room for that.
-std::optional<QPoint> besideOthers(const QList<QRect> &taken, QPoint opener, QSize size, int gap,
-                                   const QRect &screen);
+// Where a window of that size hides least of those that stand there, wholly on the screen: beside one of them if there is
+// room, and of equally good places the nearest to the opener.
+QPoint besideOthers(const QList<QRect> &taken, QPoint opener, QSize size, int gap, const QRect &screen);
 
 // The frame that a window will have: that of the window it was opened from.
 QMargins expectedFrame(const QWidget &window);
 
-// Beside the windows that are open, where there is room, and else a little below and to the right of the one that it was
-// opened from, so that both can be reached; wholly on the screen. Window managers would put it where it hides least,
-// however far away that is.
+// Beside the windows that are open, where there is room, and else where it hides least of them.
 void placeByOpener(QWidget &window);
 
 // Windows of one kind, which have the same component name, do not stand exactly on each other.

@@ -140,18 +140,18 @@ TEST(WindowPlaces, LieOnTheScreensThatThereAre)
         EXPECT_EQ(onScreens(place, two), expected) << what;
 }
 
-TEST(WindowPlaces, StandBesideEachOtherWhereThereIsRoom)
+TEST(WindowPlaces, StandBesideEachOtherOrHideLittle)
 {
     const QRect screen(0, 0, 1000, 800);
     const QRect left(0, 0, 400, 300);
     const QRect right(410, 0, 590, 300);
-    const std::tuple<const char *, QList<QRect>, QSize, std::optional<QPoint>> cases[] = {
+    const std::tuple<const char *, QList<QRect>, QSize, QPoint> cases[] = {
         {"right of it, as it is too high", {left}, {500, 600}, QPoint(409, 0)},
         {"below, which is nearer", {left}, {500, 400}, QPoint(0, 309)},
         {"below the nearest", {left, right}, {300, 300}, QPoint(0, 309)},
         {"left of it", {{600, 100, 400, 700}}, {500, 600}, QPoint(90, 100)},
-        {"no room", {{200, 100, 600, 600}}, {500, 600}, std::nullopt},
-        {"wider than the screen", {left}, {1200, 100}, std::nullopt},
+        {"in a corner, where it hides least", {{200, 100, 600, 600}}, {500, 600}, QPoint(0, 0)},
+        {"wider than the screen", {left}, {1200, 100}, QPoint(0, 309)},
     };
     for (const auto &[what, taken, size, expected] : cases)
         EXPECT_EQ(besideOthers(taken, taken.first().topLeft(), size, 10, screen), expected) << what;
