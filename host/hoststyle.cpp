@@ -1,5 +1,6 @@
 #include "host/hoststyle.h"
 
+#include <algorithm>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -26,10 +27,11 @@ QColor lineOf(const QStyleOption &option)
 
 QColor accentOf(const QStyleOption &option) { return option.palette.color(QPalette::Highlight); }
 
-bool isDefault(const QStyleOption &option)
+bool isFilled(const QStyleOption &option)
 {
     const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
-    return button && button->features.testFlag(QStyleOptionButton::DefaultButton);
+    return button && button->features.testFlag(QStyleOptionButton::DefaultButton)
+        && option.state.testFlag(QStyle::State_Enabled);
 }
 
 } // namespace
@@ -42,7 +44,7 @@ HostStyle::HostStyle()
 int HostStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                          QStyleHintReturn *returned) const
 {
-    if (hint == SH_EtchDisabledText)
+    if (hint == SH_EtchDisabledText || hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
 }
@@ -64,11 +66,45 @@ void HostStyle::drawButton(const QStyleOption &option, QPainter &painter) const
     const bool enabled = option.state.testFlag(State_Enabled);
     const bool down = option.state.testFlag(State_Sunken) || option.state.testFlag(State_On);
     const bool over = enabled && option.state.testFlag(State_MouseOver);
-    const bool marked = option.state.testFlag(State_HasFocus) || (enabled && isDefault(option));
-    QColor ground = option.palette.color(QPalette::Button);
+    const bool focused = option.state.testFlag(State_HasFocus);
+    const bool filled = isFilled(option);
+    QColor ground = filled ? accentOf(option) : option.palette.color(QPalette::Button);
     if (down || over)
-        ground = between(ground, accentOf(option), down ? 0.25 : 0.08);
-    drawBox(option, painter, ground, marked ? accentOf(option) : lineOf(option));
+        ground = between(ground, filled ? option.palette.color(QPalette::WindowText) : accentOf(option),
+                         down ? 0.25 : 0.1);
+    drawBox(option, painter, ground, filled || focused ? accentOf(option) : lineOf(option));
+}
+
+// A box with a tick, or a ring with a dot. Half checked is a bar.
+void HostStyle::drawIndicator(PrimitiveElement element, const QStyleOption &option, QPainter &painter) const
+{
+    const bool enabled = option.state.testFlag(State_Enabled);
+    const bool on = option.state.testFlag(State_On);
+    const bool marked = on || (enabled && option.state.testFlag(State_MouseOver));
+    const QColor mark = enabled ? accentOf(option) : option.palette.color(QPalette::Disabled, QPalette::Text);
+    const double size = std::min(option.rect.width(), option.rect.height()) - 1;
+    const QRectF box(option.rect.x() + 0.5, option.rect.y() + 0.5, size, size);
+    const auto at = [&box](double x, double y) { return box.topLeft() + QPointF(x, y) * box.width(); };
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(marked ? mark : between(lineOf(option), option.palette.color(QPalette::WindowText), 0.3));
+    painter.setBrush(option.palette.color(enabled ? QPalette::Base : QPalette::Window));
+    if (element == PE_IndicatorRadioButton) {
+        painter.drawEllipse(box);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(mark);
+        if (on)
+            painter.drawEllipse(box.center(), size / 4, size / 4);
+    } else {
+        painter.drawRoundedRect(box, size / 5, size / 5);
+        painter.setPen(QPen(mark, size / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const QPointF tick[] = {at(0.22, 0.52), at(0.42, 0.72), at(0.8, 0.28)};
+        if (on)
+            painter.drawPolyline(tick, 3);
+        else if (option.state.testFlag(State_NoChange))
+            painter.drawLine(at(0.25, 0.5), at(0.75, 0.5));
+    }
+    painter.restore();
 }
 
 void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -82,9 +118,22 @@ void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
         return drawBox(*option, *painter, option->palette.color(QPalette::Base),
                        typed ? accentOf(*option) : lineOf(*option));
     }
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorRadioButton:
+        return drawIndicator(element, *option, *painter);
     default:
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
+}
+
+void HostStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                            const QWidget *widget) const
+{
+    if (element != CE_PushButtonLabel || !isFilled(*option))
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionButton label = *qstyleoption_cast<const QStyleOptionButton *>(option);
+    label.palette.setColor(QPalette::ButtonText, label.palette.color(QPalette::HighlightedText));
+    QProxyStyle::drawControl(element, &label, painter, widget);
 }
 
 void HostStyle::drawComboBox(const QStyleOptionComboBox &option, QPainter &painter, const QWidget *widget) const

@@ -5,7 +5,7 @@
 namespace Tallymere {
 
 // Qt's Fusion, flat: buttons and fields are one ground with a thin line around, rounded, and in the accent's colour around
-// what has the keyboard.
+// what has the keyboard. A default button is filled with that.
 class HostStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -15,6 +15,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
@@ -23,6 +25,7 @@ public:
 private:
     void drawBox(const QStyleOption &option, QPainter &painter, const QColor &ground, const QColor &line) const;
     void drawButton(const QStyleOption &option, QPainter &painter) const;
+    void drawIndicator(PrimitiveElement element, const QStyleOption &option, QPainter &painter) const;
     void drawComboBox(const QStyleOptionComboBox &option, QPainter &painter, const QWidget *widget) const;
 };
 

@@ -1,6 +1,7 @@
 #include "controls/windows/dress.h"
 
 #include "controls/windows/look.h"
+#include "controls/windows/screenmetrics.h"
 
 #include <QEvent>
 #include <QFrame>
@@ -64,8 +65,11 @@ void dress(QWidget &window)
         book->setDocumentMode(true);
         book->setTabBarAutoHide(true);
     }
-    for (QStatusBar *bar : window.findChildren<QStatusBar *>())
+    const int side = scaled(&window, Space::cell);
+    for (QStatusBar *bar : window.findChildren<QStatusBar *>()) {
         bar->setFont(secondFont(window.font()));
+        bar->setContentsMargins(side, 0, side, 0);
+    }
 }
 
 } // namespace Tallymere
