@@ -20,7 +20,7 @@ struct Colours
     QRgb window, field, button, text, secondText, accent, onAccent, notice;
 };
 
-constexpr Colours light{0xfff6f7f8, 0xffffffff, 0xffffffff, 0xff1f2328,
+constexpr Colours light{0xfff6f7f8, 0xffffffff, 0xfff0f2f4, 0xff1f2328,
                         0xff5b626b, 0xff1f6f5c, 0xffffffff, 0xfffdf3e1};
 constexpr Colours dark{0xff22262b, 0xff1b1e22, 0xff2a2f34, 0xffe7e9eb,
                        0xffb0b8c0, 0xff5cc3a7, 0xff10231e, 0xff3a2f1c};

@@ -1,7 +1,9 @@
 #include "host/hostoptions.h"
 #include "host/moduleloader.h"
 
+#include <QApplication>
 #include <QProcess>
+#include <QStyle>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -10,13 +12,14 @@ using namespace Tallymere;
 TEST(HostOptions, AreReadAndRefused)
 {
     const QTemporaryDir folder;
-    const HostOptions good = readOptions(
-        {u"host"_s, u"--module"_s, u"m.so"_s, u"--user=anna"_s, u"--data"_s, folder.path(), u"--open"_s});
+    const HostOptions good = readOptions({u"host"_s, u"--module"_s, u"m.so"_s, u"--user=anna"_s, u"--data"_s,
+                                          folder.path(), u"--open"_s, u"--look=dark"_s});
     EXPECT_EQ(good.outcome, HostOptions::Outcome::Start);
     EXPECT_EQ(good.module, u"m.so"_s);
     EXPECT_EQ(good.user, u"anna"_s);
     EXPECT_EQ(good.data, folder.path());
     EXPECT_TRUE(good.open);
+    EXPECT_EQ(good.look, HostLook::Dark);
 
     const HostOptions plain = readOptions({u"host"_s});
     EXPECT_EQ(plain.outcome, HostOptions::Outcome::Start);
@@ -48,4 +51,24 @@ TEST(HostOptions, ProgramAnswersWithoutADisplay)
         const QByteArray said = host.readAllStandardOutput() + host.readAllStandardError();
         EXPECT_TRUE(said.contains(answer)) << said.constData();
     }
+}
+
+TEST(HostLook, IsDarkWhereTheDesktopAsksForItAndHasNoLookOfItsOwn)
+{
+    const auto isDark = [] {
+        const QPalette palette = QApplication::palette();
+        return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
+    };
+    const QString before = QApplication::style()->name();
+    QApplication::setPalette(QPalette(Qt::blue)); // a desktop with colours of its own
+    qputenv("GTK_THEME", "Adwaita:dark");
+    takeLook(HostLook::Desktop);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Button), QColor(Qt::blue));
+    QApplication::setPalette(QApplication::style()->standardPalette());
+    takeLook(HostLook::Desktop);
+    EXPECT_TRUE(isDark());
+    takeLook(HostLook::Light);
+    EXPECT_FALSE(isDark());
+    QApplication::setStyle(before);
+    QApplication::setPalette(QApplication::style()->standardPalette());
 }
