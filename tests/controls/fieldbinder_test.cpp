@@ -175,10 +175,10 @@ TEST_F(FieldBinderTest, refusedEntryIsShownAndKeepsTheCursor)
         EXPECT_TRUE(begins(prompts.told(), message));
         EXPECT_THROW(binder.commit(), RuleError);
         EXPECT_EQ(edit->selectedText(), edit->text()) << "the next key types over it";
-        EXPECT_TRUE(edit->findChild<FieldMark *>()) << refusal.widget;
+        EXPECT_TRUE(edit->findChild<FieldMark *>()) << widget;
         EXPECT_TRUE(binder.revert(edit));
         EXPECT_EQ(edit->selectedText(), edit->text());
-        EXPECT_TRUE(comesTrue([&] { return !edit->findChild<FieldMark *>(); })) << refusal.widget;
+        EXPECT_TRUE(comesTrue([&] { return !edit->findChild<FieldMark *>(); })) << widget;
         EXPECT_FALSE(binder.hasEntry());
     }
     EXPECT_EQ(table->text(u"Name"), u"Soup"_s);
