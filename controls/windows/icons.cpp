@@ -12,6 +12,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QToolButton>
 #include <QVariant>
@@ -52,6 +53,8 @@ enum class Place { Button, Menu };
 bool highlightsEntries()
 {
     const QStyle *style = QApplication::style();
+    while (const auto *around = qobject_cast<const QProxyStyle *>(style))
+        style = around->baseStyle();
     return style->inherits("QFusionStyle") || style->inherits("QWindowsStyle");
 }
 

@@ -7,7 +7,9 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QPushButton>
+#include <QStyleFactory>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -81,6 +83,23 @@ TEST(IconsTest, DrawingsHaveTheCommandsThatAreKnown)
     EXPECT_EQ(pathOf("M2 3.5H6V7L.5 8C1 1 2 2 3 3Z").elementCount(), 8);
     EXPECT_TRUE(pathOf("M2 2A3 3 0 0 1 5 5").isEmpty());
     EXPECT_TRUE(pathOf("M2 2L3").isEmpty());
+}
+
+// Some styles turn the ground of the entry with the cursor into the highlight, also where another one stands around them.
+TEST(IconsTest, AnEntryWithTheCursorIsDrawnInTheColourOfItsWords)
+{
+    QAction entry;
+    setGlyph(entry, Glyph::Post);
+    const QString before = QApplication::style()->name();
+    for (QStyle *style :
+         {QStyleFactory::create(u"fusion"_s), static_cast<QStyle *>(new QProxyStyle(u"fusion"_s))}) {
+        QApplication::setStyle(style);
+        EXPECT_EQ(inkOf(entry.icon().pixmap(64, QIcon::Active).toImage()).strongest,
+                  QApplication::palette().color(QPalette::HighlightedText));
+        EXPECT_EQ(inkOf(entry.icon().pixmap(64).toImage()).strongest,
+                  Look(QApplication::palette()).colour(Look::Role::Accent));
+    }
+    QApplication::setStyle(before);
 }
 
 // A mark that comes and goes needs the place of the sign in a menu.
