@@ -240,3 +240,21 @@ TEST_F(FieldBinderTest, whatIsPastedIsOneLineAndWhatIsCutOffIsSaid)
     EXPECT_EQ(table->number(u"Cost"), 12.5);
     EXPECT_EQ(prompts.said, QStringList());
 }
+
+TEST_F(FieldBinderTest, whatCanOnlyBeReadHasNoBoxButTheCursor)
+{
+    auto *edit = child<QLineEdit>(form, "editName");
+    const QSize size = edit->sizeHint();
+    const auto isMarked = [edit] { return edit->findChild<FieldMark *>() != nullptr; };
+    edit->setFocus();
+    binder.setReadOnly(true);
+    EXPECT_FALSE(edit->hasFrame());
+    EXPECT_EQ(edit->sizeHint(), size) << "nothing moves";
+    EXPECT_TRUE(isMarked());
+    child<QLineEdit>(form, "editCost")->setFocus();
+    EXPECT_FALSE(isMarked());
+    binder.setReadOnly(false);
+    edit->setFocus();
+    EXPECT_TRUE(edit->hasFrame());
+    EXPECT_FALSE(isMarked());
+}
