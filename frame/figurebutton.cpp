@@ -93,7 +93,7 @@ void FigureButton::paintEvent(QPaintEvent *)
     painter.drawLine(rect().bottomLeft(), rect().bottomRight());
     if (hasFocus()) {
         painter.setPen(look.on(ground, Accent));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2)); // whole at fractions of a pixel as well
     }
 }
 
