@@ -46,7 +46,10 @@ TodayFigure unposted(const TodaySource &source, const DocumentKind &kind)
         "LEFT OUTER JOIN IDocSaved S ON S.DocumentID = W.DocumentID AND S.TransType = ? "
         "GROUP BY S.SavedBy ORDER BY S.SavedBy"_s.arg(kind.keyField, kind.posting.unposted));
     rows->bindInt(0, static_cast<int>(kind.posting.transType));
-    return counted(*rows);
+    TodayFigure figure = counted(*rows);
+    if (!figure.detail.isEmpty())
+        figure.detail = TransactionsTexts::tr("Last saved by: %1").arg(figure.detail);
+    return figure;
 }
 
 TodayFigure belowZero(const TodaySource &source)

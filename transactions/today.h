@@ -24,7 +24,7 @@ struct TodayFigure
 {
     QString text; // "3"; "12 / 2026"
     bool waits = false; // there is something to be done
-    QString detail = {}; // whose or where it is: "maria 2, paul 1"
+    QString detail = {}; // whose or where it is: "Last saved by: maria 2, paul 1"
 };
 
 // Something that has to be done or to be known today, with a screen that shows more of it.

@@ -56,7 +56,7 @@ TEST_P(TodayTest, CountsWhatAPostingWouldTakeByWhoHasSavedIt)
         const TodayFigure waiting = figure(kind->posting.waiting);
         EXPECT_EQ(waiting.text, u"4"_s);
         EXPECT_TRUE(waiting.waits);
-        EXPECT_EQ(waiting.detail, u"anna 1, maria 2, not known 1"_s);
+        EXPECT_EQ(waiting.detail, u"Last saved by: anna 1, maria 2, not known 1"_s);
 
         DocumentPosting posting(kitchen.database(), *kind);
         EXPECT_EQ(posting.count(), 4);
