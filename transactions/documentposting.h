@@ -51,11 +51,7 @@ private:
 
     void postAll(Prompts &prompts, Progress &progress);
     QString aroundRefused() const;
-    std::vector<PostingDocument> readBatch(const QString &keys) const;
-    std::vector<PostingDocument> readHeaders(const QString &keys) const;
-    void readLines(std::vector<PostingDocument> &documents, const QString &keys) const;
     void postDocument(const PostingDocument &document, Engine::Statement &mark, PostingBooks books) const;
-    std::vector<LineEffect> takeLines(const PostingDocument &document, StockBook &stock) const;
     static void writeLine(const PostingDocument &document, const PostingLine &line, const LineEffect &effect,
                           PostingBooks books);
 

@@ -16,6 +16,7 @@
 #include "transactions/screens/invtotalsfilter.h"
 
 #include <QAccessible>
+#include <QListWidget>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -221,6 +222,25 @@ TEST_F(ListScreensTest, postingTellsOfWhatTheListDoesNotShowAndWhoseItIs)
     told.clear();
     EXPECT_TRUE(whileOpen<DocumentPostScreen>([&] { list->mnuPostClick(); }, confirm));
     EXPECT_EQ(said, QStringList(u"3 receipts posted"_s));
+}
+
+TEST_F(ListScreensTest, postingTellsWhatItWillDoAndEnterOpensTheDocument)
+{
+    addReceipts();
+    kitchen.execute(u"UPDATE IRecDet SET UnitCost = 0 WHERE ReceiptID = 1"_s);
+    open<TfrmInvReceipts>();
+    EXPECT_TRUE(whileOpen<DocumentPostScreen>([&] { list->command(u"mnuPost"_s)->trigger(); },
+                                              [&](DocumentPostScreen &dialog) {
+                                                  auto *notices = child<QListWidget>(dialog, "lstNotices");
+                                                  ASSERT_TRUE(comesTrue([&] { return notices->isVisible(); }));
+                                                  EXPECT_TRUE(ends(notices->item(0)->text(), u" has no cost"_s));
+                                                  type("<Tab><Tab>");
+                                                  type("<Return>");
+                                              }));
+    EXPECT_TRUE(comesTrue([] { return findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s) != nullptr; }));
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), 0) << "Enter posts nothing";
+    findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s)->btnCancelClick();
+    settle();
 }
 
 TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)

@@ -1,11 +1,17 @@
 #include "transactions/screens/documentpostscreen.h"
 
+#include "base/plural.h"
+#include "controls/screens/recordopener.h"
 #include "controls/windows/barprogress.h"
 #include "controls/windows/messageboxes.h"
 #include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "transactions/lastsaved.h"
+#include "transactions/screens/documentscreens.h"
 #include "ui_documentpostscreen.h"
+
+#include <QKeyEvent>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +22,7 @@ DocumentPostScreen::DocumentPostScreen(ScreenContext &context, const DocumentKin
     : DialogScreen(context, parent)
     , m_posting(context.data.databaseTallymere(), kind)
     , m_kind(kind)
+    , m_owner(list ? parent : this)
     , m_ui(std::make_unique<Ui::DocumentPostScreen>())
 {
     setObjectName(kind.posting.screen);
@@ -27,6 +34,8 @@ DocumentPostScreen::DocumentPostScreen(ScreenContext &context, const DocumentKin
     m_ui->lblNotListed->setText(notListed);
     m_ui->lblNotListed->setVisible(!notListed.isEmpty());
     m_posting.isEntryOpen = [&kind] { return findScreen(kind.entry.screen) != nullptr; };
+    m_ui->lstNotices->installEventFilter(this);
+    connect(m_ui->lstNotices, &QListWidget::itemDoubleClicked, this, &DocumentPostScreen::openNoticed);
     connect(m_ui->btnOK, &QPushButton::clicked, this, &DocumentPostScreen::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &DocumentPostScreen::reject);
 }
@@ -55,6 +64,77 @@ void DocumentPostScreen::sayPosted() const
     if (context().say)
         context().say(postedText());
 }
+
+// --- what posting will do ---------------------------------------------------------------------------------------
+
+void DocumentPostScreen::showStep()
+{
+    m_ui->btnOK->setFocus(); // and not in the list that is still to come
+    if (m_posting.count() == 0)
+        return;
+    m_outlook = std::make_unique<PostingOutlook>(context().data.databaseTallymere(), m_kind);
+    QTimer::singleShot(0, this, &DocumentPostScreen::lookAhead);
+}
+
+// A batch at a time: the dialog takes keys meanwhile. It can be posted without.
+void DocumentPostScreen::lookAhead()
+{
+    if (!m_outlook || m_running)
+        return;
+    bool goesOn = false;
+    if (const std::exception_ptr failure = Guard::attempt([&] { goesOn = m_outlook->step(); })) {
+        m_outlook.reset();
+        return guard().report(failure);
+    }
+    if (goesOn)
+        QTimer::singleShot(0, this, &DocumentPostScreen::lookAhead);
+    else
+        showOutlook();
+}
+
+void DocumentPostScreen::showOutlook()
+{
+    const auto count = static_cast<int>(m_outlook->notices().size());
+    const QString lines = plural(m_outlook->lines(), tr("%n line"), tr("%n lines"));
+    m_ui->lblOutlook->setText(count == 0 ? lines : tr("%1. To look at before:").arg(lines));
+    for (const PostingOutlook::Notice &notice : m_outlook->notices())
+        m_ui->lstNotices->addItem(notice.text);
+    m_ui->lstNotices->setVisible(count > 0);
+    if (count == 0)
+        return;
+    setMinimumWidth(scaled(this, 560));
+    m_ui->lstNotices->setMinimumHeight(scaled(this, 120));
+    m_ui->lstNotices->setCurrentRow(0);
+    adjustSize();
+}
+
+bool DocumentPostScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_ui->lstNotices || event->type() != QEvent::KeyPress)
+        return DialogScreen::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        return false;
+    openNoticed(); // and does not press OK
+    return true;
+}
+
+void DocumentPostScreen::openNoticed()
+{
+    const int row = m_ui->lstNotices->currentRow();
+    if (m_running || !m_outlook || row < 0)
+        return;
+    const PostingOutlook::Notice &notice = m_outlook->notices()[static_cast<size_t>(row)];
+    guard().run([&] {
+        RecordScreen &screen = RecordOpener(context(), recordScreens(m_kind), m_owner)
+                                   .open(static_cast<int>(notice.document), notice.text.section(u": "_s, 0, 0));
+        reject();
+        QTimer::singleShot(0, &screen,
+                           [&screen] { bringToFront(screen); }); // after the window that takes the keys again
+    });
+}
+
+// --- posting ----------------------------------------------------------------------------------------------------
 
 void DocumentPostScreen::btnOKClick()
 {

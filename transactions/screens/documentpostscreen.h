@@ -3,6 +3,7 @@
 #include "controls/screens/dialogscreen.h"
 #include "transactions/documentlist.h"
 #include "transactions/documentposting.h"
+#include "transactions/postingoutlook.h"
 
 #include <memory>
 
@@ -13,8 +14,8 @@ class DocumentPostScreen;
 namespace Tallymere {
 
 // The posting dialog of one kind of document. It shows how many documents there are, and how many of them the list that it
-// has been opened from does not show, and runs the posting; accepted when the run took place, even if it ended with an
-// error.
+// has been opened from does not show, tells what posting them will do that one may want to look at first, and runs the
+// posting; accepted when the run took place, even if it ended with an error.
 class DocumentPostScreen final : public DialogScreen
 {
     Q_OBJECT
@@ -32,11 +33,20 @@ public:
     void btnOKClick();
     void reject() override; // not while the run goes on
 
+protected:
+    void showStep() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void lookAhead();
+    void showOutlook();
+    void openNoticed(); // the document of the notice with the cursor, in place of the dialog
     QString notListedText(const DocumentList &list) const;
 
     DocumentPosting m_posting;
+    std::unique_ptr<PostingOutlook> m_outlook; // while it is looked ahead, and for what has been found
     const DocumentKind &m_kind;
+    QWidget *const m_owner; // of documents that are opened from here: they belong to the window that it belongs to
     std::unique_ptr<Ui::DocumentPostScreen> m_ui;
     bool m_running = false;
     bool m_failed = false;
