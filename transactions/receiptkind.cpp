@@ -49,9 +49,9 @@ const DocumentKind &DocumentKinds::receipt()
                 .columns = {{u"Periodppyyyy"_s, TransactionsTexts::tr("Period"), 70},
                             {Fields::ReceiptDate, TransactionsTexts::tr("Date"), 85},
                             {Fields::ReceiptNo, TransactionsTexts::tr("Receipt no."), 90},
-                            {Fields::PurchaseOrderNo, TransactionsTexts::tr("PO"), 90},
+                            {Fields::PurchaseOrderNo, TransactionsTexts::tr("PO"), 80},
                             {Fields::VendorName, TransactionsTexts::tr("Vendor"), 210},
-                            {Fields::WarehouseName, TransactionsTexts::tr("Location"), 170},
+                            {Fields::WarehouseName, TransactionsTexts::tr("Location"), 195},
                             DocumentKinds::postedColumn()},
                 .orders = {{u"PERIODDATEDESC"_s}},
                 .addFields =

@@ -1,10 +1,13 @@
 #include "transactions/screens/documentlistscreen.h"
 
+#include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "transactions/documentfilter.h"
 #include "transactions/screens/documentfilterscreen.h"
 #include "transactions/screens/documentfindscreen.h"
 #include "transactions/screens/documentpostscreen.h"
+#include "transactions/screens/documentscreen.h"
 #include "transactions/screens/documentscreens.h"
 
 using namespace Qt::StringLiterals;
@@ -44,6 +47,11 @@ ListDescription DocumentListScreen::description()
                              .run = [this] { mnuPostClick(); },
                              .glyph = Glyph::Post,
                              .separatorBefore = true});
+    records.commands.append({.name = u"mnuReverse"_s,
+                             .caption = tr("&Reverse..."),
+                             .run = [this] { mnuReverseClick(); },
+                             .available = [this] { return m_list.table().boolean(Fields::Posted); },
+                             .popupCaption = tr("Reverse...")});
     const auto sort = [this](const ListOrder &order) {
         m_list.setOrder(order);
         m_list.table().first();
@@ -61,6 +69,16 @@ void DocumentListScreen::showStep()
     RecordListScreen::showStep();
     if (m_list.kind().list.showsFirstRow)
         m_list.table().first();
+}
+
+void DocumentListScreen::mnuReverseClick()
+{
+    guard().run([this] {
+        const WaitCursor hourglass;
+        std::unique_ptr<RecordScreen> screen = records().make();
+        static_cast<DocumentScreen &>(*screen).newReversal(m_list.table().integer(m_list.kind().keyField));
+        screen.release()->show();
+    });
 }
 
 void DocumentListScreen::mnuPostClick()

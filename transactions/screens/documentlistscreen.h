@@ -16,6 +16,7 @@ class DocumentListScreen : public RecordListScreen
 
 public:
     void showWaiting() override { filterByMark(ListFilter::Marked::No); }
+    void mnuReverseClick();
     void mnuPostClick() override; // works on a screen that is not shown as well
 
 protected:

@@ -10,6 +10,7 @@
 #include "data/fields.h"
 #include "data/lookupsdatainv.h"
 #include "master/screens/itemsearchinv.h"
+#include "transactions/reversal.h"
 
 #include <functional>
 #include <QAction>
@@ -130,6 +131,12 @@ bool DocumentScreen::openRecord(int key)
     const bool found = m_entry->openDocument(key);
     showHeader();
     return found;
+}
+
+void DocumentScreen::newReversal(int key)
+{
+    beginReversal(*m_entry, key);
+    showHeader();
 }
 
 std::optional<int> DocumentScreen::storedKey() const

@@ -24,6 +24,8 @@ public:
     void newRecord() override;
     bool openRecord(int key) override;
     std::optional<int> storedKey() const override;
+    // A new document that takes back what a posted one has done, to be looked over (see beginReversal).
+    void newReversal(int key);
     // Brings the cursor to the line of an item, of several to that with the quantity. A line being entered stays where
     // it is.
     void showLineOf(int itemId, double quantity);

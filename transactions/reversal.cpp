@@ -1,0 +1,110 @@
+#include "transactions/reversal.h"
+
+#include "base/ruleerror.h"
+#include "engine/store/recordlock.h"
+#include "engine/values/textsize.h"
+#include "transactions/texts.h"
+
+using namespace Qt::StringLiterals;
+using Engine::FieldKind;
+using Engine::FieldType;
+using Engine::Value;
+
+namespace Tallymere {
+
+namespace {
+
+class Reversal
+{
+public:
+    Reversal(DocumentEntry &entry, int key)
+        : m_entry(entry)
+        , m_kind(entry.kind())
+        , m_header(entry.header().database(), m_kind.headerTable)
+        , m_lines(entry.header().database(), m_kind.lineTable)
+    {
+        m_header.open();
+        if (!m_header.findKey({key}))
+            throw RuleError(Engine::recordGoneText(m_kind.entry.title.arg(key)));
+        if (!m_header.boolean(Fields::Posted))
+            throw RuleError(TransactionsTexts::tr("Only a posted document can be reversed"));
+        m_lines.setIndex(m_kind.keyField + ";Seq"_L1);
+        m_lines.setMaster(&m_header, m_kind.keyField);
+        m_lines.open();
+    }
+
+    void begin()
+    {
+        m_entry.newDocument();
+        try {
+            fillHeader();
+            for (int line = 0; line < m_lines.recordCount(); ++line)
+                addLine(line);
+        } catch (...) {
+            m_entry.cancel();
+            throw;
+        }
+    }
+
+private:
+    // What belongs to the new document itself, and what its rules work out.
+    bool isOwn(const QString &field) const
+    {
+        return m_kind.files.systemFields.contains(field)
+            || QStringList{m_kind.keyField,  m_kind.numberField.value_or(QString()),
+                           m_kind.dateField, Fields::GLYear,
+                           Fields::GLPeriod, Fields::Posted,
+                           Fields::Seq}
+                   .contains(field);
+    }
+
+    void fillHeader()
+    {
+        Engine::Table &header = m_entry.header();
+        for (int i = 0; i < header.fieldCount(); ++i) {
+            const Engine::Field &field = std::as_const(header).field(i);
+            if (field.kind == FieldKind::Data && !isOwn(field.name) && !m_header.value(field.name).isNull())
+                header.set(field.name, m_header.value(field.name));
+        }
+        for (const QString &name : {QString(Fields::AdjDescription), QString(Fields::Description)}) {
+            const int index = header.fieldIndex(name);
+            if (index < 0)
+                continue;
+            const QString text = TransactionsTexts::tr("Reverses %1").arg(m_kind.titleOf(m_header));
+            header.set(name, Value(Engine::firstCharacters(text, std::as_const(header).field(index).size)));
+        }
+    }
+
+    void addLine(int number)
+    {
+        const QString &quantity = m_kind.entry.lineColumns.constFirst().field;
+        m_lines.moveTo(number);
+        try {
+            m_entry.newLine();
+            Engine::Table &lines = m_entry.lines();
+            lines.set(QString(Fields::ItemID), m_lines.value(Fields::ItemID)); // which presets others
+            for (int i = 0; i < lines.fieldCount(); ++i) {
+                const Engine::Field &field = std::as_const(lines).field(i);
+                if (field.kind == FieldKind::Data && field.name != Fields::ItemID && !isOwn(field.name))
+                    lines.set(field.name,
+                              field.name == quantity ? Value(-m_lines.number(quantity))
+                                                     : m_lines.value(field.name));
+            }
+            lines.post();
+        } catch (const RuleError &error) {
+            throw RuleError(
+                TransactionsTexts::tr("Line %1 cannot be reversed: %2").arg(number + 1).arg(error.message()));
+        }
+    }
+
+    DocumentEntry &m_entry;
+    const DocumentKind &m_kind;
+    Engine::TableReader m_header;
+    Engine::TableReader m_lines;
+};
+
+} // namespace
+
+void beginReversal(DocumentEntry &entry, int key) { Reversal(entry, key).begin(); }
+
+} // namespace Tallymere
