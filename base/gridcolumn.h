@@ -18,6 +18,7 @@ struct GridColumn
     bool takesSurplus = false; // the width that the others leave over; the last column does where none is named
     // A column of yes and no that shows a tick for yes, and for no this word, as what is still to be done.
     QString openWord = {};
+    bool setOff = false; // tells something about the other columns: behind a line, in quieter letters
 
     bool shows(const QString &name) const
     {

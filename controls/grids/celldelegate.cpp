@@ -40,6 +40,8 @@ void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
     painter->save();
     painter->fillRect(cell, ground);
     painter->fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), look.colour(Role::Line));
+    if (m_grid->beginsSetOff(index.column()))
+        painter->fillRect(QRect(cell.topLeft(), QSize(1, cell.height())), look.colour(Role::Line));
     if (note == CellNote::Done)
         drawTick(*painter, cell, ground);
     else if (note == CellNote::Open)
@@ -79,7 +81,8 @@ QColor CellDelegate::textColour(const QModelIndex &index, CellNote note, const Q
     const Look &look = m_grid->look();
     if (note == CellNote::Negative)
         return look.on(ground, Role::Negative);
-    const bool quiet = index.data(cellQuietRole).toBool() || !m_grid->isEnabled();
+    const bool quiet =
+        m_grid->columns()[index.column()].setOff || index.data(cellQuietRole).toBool() || !m_grid->isEnabled();
     return look.on(ground, quiet ? Role::SecondText : Role::Text);
 }
 

@@ -186,6 +186,11 @@ QString DataGrid::cutFigures(int row) const
 
 int DataGrid::cellPadding() const { return scaled(this, Space::cell); }
 
+bool DataGrid::beginsSetOff(int column) const
+{
+    return m_columns[column].setOff && (column == 0 || !m_columns[column - 1].setOff);
+}
+
 DataGrid::CellState DataGrid::cellState(const QModelIndex &cell) const
 {
     const bool chosen = cell.row() == currentIndex().row() || selectionModel()->isSelected(cell);

@@ -43,6 +43,7 @@ public:
     virtual CellState cellState(const QModelIndex &cell) const;
     virtual bool isRefused(const QModelIndex &) const { return false; } // what has been entered there
     virtual bool hasFocusBar(const QModelIndex &) const { return false; } // before the row that takes the keys
+    bool beginsSetOff(int column) const; // the first of the columns that are set off, behind a line
     const Look &look() const { return m_look; } // of the grid's palette
     int cellPadding() const; // at both sides of a text, in pixels of the screen
 

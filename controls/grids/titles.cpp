@@ -77,6 +77,8 @@ void Titles::paintSection(QPainter *painter, const QRect &section, int column) c
     painter->save();
     painter->fillRect(section.adjusted(0, 0, 0, -1), ground);
     painter->fillRect(QRect(section.left(), section.bottom(), section.width(), 1), look.colour(Look::Role::Line));
+    if (m_grid->beginsSetOff(column))
+        painter->fillRect(QRect(section.topLeft(), QSize(1, section.height())), look.colour(Look::Role::Line));
     painter->setFont(font());
     painter->setPen(look.on(ground, Look::Role::SecondText));
     QRect drawn;

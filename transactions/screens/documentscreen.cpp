@@ -56,8 +56,11 @@ void DocumentScreen::buildDocument(LineOptions options)
         if (!takesText(column.field))
             options.fixed << column.field;
     }
-    columns.append({DocumentEntry::OnHand.toString(), tr("On hand"), stockWidth, Qt::AlignRight});
-    columns.append({DocumentEntry::Afterwards.toString(), tr("After"), stockWidth, Qt::AlignRight});
+    const std::pair<QString, QString> ofStock[] = {{DocumentEntry::OnHand.toString(), tr("On hand")},
+                                                   {DocumentEntry::Afterwards.toString(), tr("After")}};
+    for (const auto &[field, title] : ofStock)
+        columns.append(
+            {.field = field, .title = title, .width = stockWidth, .alignment = Qt::AlignRight, .setOff = true});
     options.behind = {DocumentEntry::OnHand.toString(), DocumentEntry::Afterwards.toString()};
     m_grid = findChild<LineGrid *>(u"DBGrid1"_s);
     m_posted = findChild<QLabel *>(u"lblPosted"_s);
