@@ -7,7 +7,6 @@
 
 using namespace Qt::StringLiterals;
 using Engine::FieldKind;
-using Engine::FieldType;
 using Engine::Value;
 
 namespace Tallymere {
