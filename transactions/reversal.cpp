@@ -53,7 +53,7 @@ private:
             || QStringList{m_kind.keyField,  m_kind.numberField.value_or(QString()),
                            m_kind.dateField, Fields::GLYear,
                            Fields::GLPeriod, Fields::Posted,
-                           Fields::Seq}
+                           Fields::Printed,  Fields::Seq}
                    .contains(field);
     }
 

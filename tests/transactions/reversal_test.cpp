@@ -37,6 +37,8 @@ TEST_P(ReversalTest, TakesBackWhatEveryKindOfDocumentHasDone)
         const auto entry = entryOf(*kind);
         EXPECT_NE(refusalOf([&] { beginReversal(*entry, 7); }), QString()) << "it is not posted";
         EXPECT_NE(refusalOf([&] { beginReversal(*entry, 99); }), QString());
+        if (kind == &DocumentKinds::usage())
+            kitchen.execute(u"UPDATE IUsage SET Printed = true"_s);
         DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
         EXPECT_NE(balances(), before);
 
@@ -55,6 +57,7 @@ TEST_P(ReversalTest, TakesBackWhatEveryKindOfDocumentHasDone)
         EXPECT_EQ(cost.toDouble(), 3) << "at the cost that it had";
         EXPECT_TRUE(entry->header().fieldIndex(Fields::VendorID) < 0
                     || entry->header().integer(Fields::VendorID) == 2);
+        EXPECT_FALSE(entry->header().fieldIndex(Fields::Printed) >= 0 && entry->header().boolean(Fields::Printed));
         DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
         EXPECT_EQ(balances(), before);
     }
