@@ -11,6 +11,10 @@ namespace Tallymere {
 long double roundIt(long double value);
 // The first half of that rule: to seven decimals. Sums and differences of quantities have noise beyond them.
 long double withoutNoise(long double value);
+inline double withoutNoise(double value)
+{
+    return static_cast<double>(withoutNoise(static_cast<long double>(value)));
+}
 
 // roundIt(value x 100) / 100 as money: an amount to the cent.
 Engine::Money toCents(long double value);

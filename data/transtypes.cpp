@@ -26,6 +26,12 @@ const TransTypeInfo *transType(int code)
     return found == transTypes().end() ? nullptr : &*found;
 }
 
+double stockChange(int code, double quantity)
+{
+    const TransTypeInfo *type = transType(code);
+    return type ? type->change(quantity) : quantity;
+}
+
 QString transTypeText(int code)
 {
     const TransTypeInfo *type = transType(code);

@@ -33,6 +33,9 @@ struct TransTypeInfo
 // In the order in which they are offered.
 const QList<TransTypeInfo> &transTypes();
 const TransTypeInfo *transType(int code); // null for a code that is none of these
+double stockChange(int code,
+                   double quantity); // what a movement adds to the stock; of a code that is none of these, as it is
+inline double stockChange(TransType type, double quantity) { return stockChange(static_cast<int>(type), quantity); }
 QString transTypeText(int code); // an empty text for such a code
 
 } // namespace Tallymere

@@ -16,8 +16,6 @@ namespace Tallymere {
 
 namespace {
 
-double cleaned(double quantity) { return static_cast<double>(withoutNoise(static_cast<long double>(quantity))); }
-
 // Goes over the history of the item, oldest posting first.
 class Replay
 {
@@ -33,23 +31,22 @@ public:
         if (!row->next())
             throw RuleError(InsightTexts::tr("Item not found"));
         m_stored = Money::fromDouble(row->doubleAt(0));
-        m_onHandNow = row->doubleAt(1);
+        m_onHandAtFirst = row->doubleAt(1) - change();
     }
 
     CostTrail from(std::optional<Money> average)
     {
         CostTrail trail;
         trail.stored = m_stored;
-        double onHand = m_onHandNow - change();
+        double onHand = m_onHandAtFirst;
         const Engine::StatementPtr row = rows();
         while (row->next()) {
-            const TransTypeInfo *type = transType(static_cast<int>(row->intAt(0)));
-            const double quantity = row->doubleAt(1);
-            const double after = onHand + (type ? type->change(quantity) : quantity);
-            if (type && type->type == TransType::PoReceipt && !row->isNull(2)) {
+            const auto type = static_cast<int>(row->intAt(0));
+            const double after = onHand + stockChange(type, row->doubleAt(1));
+            if (type == static_cast<int>(TransType::PoReceipt) && !row->isNull(2)) {
                 CostStep step = stepOf(*row);
-                step.onHandBefore = cleaned(onHand);
-                step.onHandAfter = cleaned(after);
+                step.onHandBefore = withoutNoise(onHand);
+                step.onHandAfter = withoutNoise(after);
                 receive(step, onHand, average, trail);
                 average = step.averageAfter;
                 trail.steps.push_back(std::move(step));
@@ -72,15 +69,12 @@ private:
         return rows;
     }
 
-    // Of the stock, by all that is in the history: what there was before it, a host may have brought along.
-    double change()
+    double change() // of the stock, by all that is in the history
     {
         double sum = 0;
         const Engine::StatementPtr row = rows();
-        while (row->next()) {
-            const TransTypeInfo *type = transType(static_cast<int>(row->intAt(0)));
-            sum += type ? type->change(row->doubleAt(1)) : row->doubleAt(1);
-        }
+        while (row->next())
+            sum += stockChange(static_cast<int>(row->intAt(0)), row->doubleAt(1));
         return sum;
     }
 
@@ -110,7 +104,7 @@ private:
     Engine::Connection &m_store;
     int m_item;
     Money m_stored;
-    double m_onHandNow = 0;
+    double m_onHandAtFirst = 0; // before the history, as a host may have brought it along
 };
 
 } // namespace

@@ -42,10 +42,8 @@ StockAsOf::StockAsOf(Engine::Database &database, const StockTime &time)
     const Engine::StatementPtr later = laterMovements(store, time);
     while (later->next()) {
         const auto balance = m_onHand.find(key(*later));
-        if (balance == m_onHand.end())
-            continue;
-        const TransTypeInfo *type = transType(static_cast<int>(later->intAt(2)));
-        *balance -= type ? type->change(later->doubleAt(3)) : later->doubleAt(3);
+        if (balance != m_onHand.end())
+            *balance -= stockChange(static_cast<int>(later->intAt(2)), later->doubleAt(3));
     }
     moment.end();
 }

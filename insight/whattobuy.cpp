@@ -23,8 +23,6 @@ namespace {
 
 using Direction = TransTypeInfo::Direction;
 
-double cleaned(double quantity) { return static_cast<double>(withoutNoise(static_cast<long double>(quantity))); }
-
 class Buying
 {
 public:
@@ -111,12 +109,11 @@ private:
             u"SELECT ItemID, SUM(QtyOnHand) FROM IBalance WHERE ItemID IS NOT NULL%1 GROUP BY ItemID"_s, {});
         while (rows->next())
             if (ItemToBuy *item = find(rows->intAt(0)))
-                item->onHand = cleaned(rows->doubleAt(1));
+                item->onHand = withoutNoise(rows->doubleAt(1));
     }
 
     void readUnposted(const DocumentKind &kind)
     {
-        const TransTypeInfo *type = transType(static_cast<int>(kind.posting.transType));
         const Engine::StatementPtr rows =
             prepared(u"SELECT L.ItemID, SUM(L.%1) FROM %2 H JOIN %3 L ON L.%4 = H.%4 WHERE H.Posted = false"_s.arg(
                          kind.entry.lineColumns.constFirst().field, kind.headerTable, kind.lineTable, kind.keyField)
@@ -124,7 +121,8 @@ private:
                      {}, u"H.WarehouseID"_s);
         while (rows->next())
             if (ItemToBuy *item = find(rows->intAt(0)))
-                item->unposted = cleaned(item->unposted + type->change(rows->doubleAt(1)));
+                item->unposted =
+                    withoutNoise(item->unposted + stockChange(kind.posting.transType, rows->doubleAt(1)));
     }
 
     // The plus signs keep a store from looking the history up row by row where one pass over it is many times faster.
@@ -151,8 +149,8 @@ private:
     {
         const double there = item.onHand + item.unposted;
         item.daysLeft = there > 0 ? std::round(there / item.usePerWeek * 70) / 10 : 0;
-        item.proposed = std::max(0.0, std::ceil(cleaned(m_plan.cover * item.usePerWeek - there)));
-        item.usePerWeek = cleaned(item.usePerWeek);
+        item.proposed = std::max(0.0, std::ceil(withoutNoise(m_plan.cover * item.usePerWeek - there)));
+        item.usePerWeek = withoutNoise(item.usePerWeek);
     }
 
     Engine::Connection &m_store;

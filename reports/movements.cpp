@@ -12,11 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-double Movement::change() const
-{
-    const TransTypeInfo *known = transType(type);
-    return known ? known->change(quantity) : quantity;
-}
+double Movement::change() const { return stockChange(type, quantity); }
 
 Movements::Movements(Engine::Database &database, int year, int period, int warehouseId, bool byLocation)
     : m_database(database)

@@ -33,6 +33,7 @@ const DocumentKind &DocumentKinds::adjustment()
                 .locationGone = TransactionsTexts::tr("Location no longer exists"),
                 .requiredFields = {Fields::GLYear, Fields::GLPeriod, Fields::AdjDate, Fields::AdjDescription,
                                    Fields::WarehouseID},
+                .descriptionField = Fields::AdjDescription,
                 .lineColumns = {{Fields::Quantity, TransactionsTexts::tr("Quantity"), 100, Qt::AlignRight},
                                 {Fields::ItemNo, TransactionsTexts::tr("Item no."), 130, Qt::AlignLeft,
                                  Fields::ItemID},

@@ -68,7 +68,7 @@ SortKey sortKey(const CountRow &row, CountList::Order order)
 
 } // namespace
 
-double CountRow::difference() const { return static_cast<double>(withoutNoise(counted() - prior())); }
+double CountRow::difference() const { return withoutNoise(counted() - prior()); }
 
 CountList::CountList(std::vector<CountRow> rows)
 {
@@ -144,7 +144,7 @@ void CountList::setStandardCost(int row, Engine::Money cost)
 double CountList::highest(int row) const
 {
     const double prior = this->row(row).prior();
-    return prior > 0 ? std::max(prior, static_cast<double>(withoutNoise(prior))) : 1;
+    return prior > 0 ? std::max(prior, withoutNoise(prior)) : 1;
 }
 
 // Fractions are lost on both sides: books of items that are deducted here are kept in whole numbers.

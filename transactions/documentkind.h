@@ -40,6 +40,9 @@ struct DocumentKind
         QString nothingEntered; // raised when a document without lines is saved
         QString locationGone; // raised when the location is no longer there
         QStringList requiredFields; // of the header, beside what is checked on its own
+        std::optional<QString> descriptionField =
+            {}; // of the header, for what users say of the document in their words
+        QStringList ownFields = {}; // of the header, that do not come along into a document which reverses it
         QList<GridColumn> lineColumns; // of its line grid; the quantity comes first
         std::function<std::unique_ptr<DocumentEntry>(Engine::Database &, Prompts &)> make;
         bool opensFromHistory = true; // the source of a history row can be looked at

@@ -13,12 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-namespace {
-
-double cleaned(double quantity) { return static_cast<double>(withoutNoise(static_cast<long double>(quantity))); }
-
-} // namespace
-
 LineStock::LineStock(const Engine::Table &header, const Engine::Table &lines, const DocumentKind &kind)
     : m_header(header)
     , m_lines(lines)
@@ -52,7 +46,7 @@ std::optional<double> LineStock::afterwards(const Engine::DataSet &line)
     const double moved =
         before(line.integer(Fields::ItemID), seq.isNull() ? std::numeric_limits<int>::max() : seq.toInt())
         + line.number(m_kind.entry.lineColumns.constFirst().field);
-    return cleaned(*now + transType(static_cast<int>(m_kind.posting.transType))->change(moved));
+    return withoutNoise(*now + stockChange(m_kind.posting.transType, moved));
 }
 
 std::optional<double> LineStock::balance(Account account) const
@@ -64,14 +58,17 @@ std::optional<double> LineStock::balance(Account account) const
     row->bindInt(1, account.first);
     if (!row->next() || (row->isNull(0) && !row->valueAt(1, Engine::FieldType::Boolean).toBool()))
         return std::nullopt;
-    return cleaned(row->doubleAt(0));
+    return withoutNoise(row->doubleAt(0));
 }
 
 double LineStock::before(int item, int seq)
 {
     if (!m_parts)
         readLines();
-    const std::vector<Part> parts = m_parts->value(item);
+    const auto found = m_parts->constFind(item);
+    if (found == m_parts->cend())
+        return 0;
+    const std::vector<Part> &parts = *found;
     const auto next = std::ranges::lower_bound(parts, seq, {}, &Part::seq);
     return next == parts.begin() ? 0 : std::prev(next)->sum;
 }

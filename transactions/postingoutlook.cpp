@@ -87,7 +87,8 @@ void PostingOutlook::take(const PostingDocument &document)
             takeEffect(document, line, takeLine(m_kind.posting, document, line, m_stock), former);
         }
     } catch (const RuleError &error) { // which ends the run
-        m_notices.push_back({Notice::Kind::Refused, document.key, error.message().section(u'\n', 0, 0)});
+        m_notices.push_back(
+            {Notice::Kind::Refused, document.key, document.description, error.message().section(u'\n', 0, 0)});
         m_next = m_keys.size();
     }
 }
@@ -104,7 +105,7 @@ void PostingOutlook::takeEffect(const PostingDocument &document, const PostingLi
                 .arg(itemName(item), currencyText(*formerAverage), currencyText(*effect.average)));
 
     const qint64 location = document.warehouse.isNull() ? 0 : document.warehouse.toInt64();
-    const double change = transType(static_cast<int>(m_kind.posting.transType))->change(line.quantity);
+    const double change = stockChange(m_kind.posting.transType, line.quantity);
     const auto [balance, isNew] = m_balances.try_emplace({item, location});
     if (isNew)
         balance->second.before = effect.balance.onHand - change;
@@ -119,7 +120,7 @@ void PostingOutlook::addBelowZero()
 {
     for (const auto &[key, balance] : m_balances) {
         if (balance.after < 0 && balance.after < balance.before)
-            m_notices.push_back({Notice::Kind::BelowZero, balance.document,
+            m_notices.push_back({Notice::Kind::BelowZero, balance.document, balance.description,
                                  TransactionsTexts::tr("%1: %2 at %3 goes from %4 to %5")
                                      .arg(balance.description, itemName(key.first), locationName(key.second),
                                           quantityText(balance.before), quantityText(balance.after))});
@@ -128,7 +129,7 @@ void PostingOutlook::addBelowZero()
 
 void PostingOutlook::add(Notice::Kind kind, const PostingDocument &document, const QString &text)
 {
-    m_notices.push_back({kind, document.key, u"%1: %2"_s.arg(document.description, text)});
+    m_notices.push_back({kind, document.key, document.description, u"%1: %2"_s.arg(document.description, text)});
 }
 
 QString PostingOutlook::itemName(qint64 item) const

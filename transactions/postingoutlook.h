@@ -24,6 +24,7 @@ public:
         enum class Kind { Refused, BelowZero, NoCost, CostMoves, NoLocation };
         Kind kind;
         qint64 document; // its key
+        QString name; // "Receipt: 1001"
         QString text; // "Receipt: 1001: BK1050 at Central Kitchen goes from 3 to -1"
     };
 

@@ -49,11 +49,9 @@ private:
     // What belongs to the new document itself, and what its rules work out.
     bool isOwn(const QString &field) const
     {
-        return m_kind.files.systemFields.contains(field)
-            || QStringList{m_kind.keyField,  m_kind.numberField.value_or(QString()),
-                           m_kind.dateField, Fields::GLYear,
-                           Fields::GLPeriod, Fields::Posted,
-                           Fields::Printed,  Fields::Seq}
+        return m_kind.files.systemFields.contains(field) || m_kind.entry.ownFields.contains(field)
+            || QStringList{m_kind.keyField,  m_kind.shownField(), m_kind.dateField, Fields::GLYear,
+                           Fields::GLPeriod, Fields::Posted,      Fields::Seq}
                    .contains(field);
     }
 
@@ -65,12 +63,9 @@ private:
             if (field.kind == FieldKind::Data && !isOwn(field.name) && !m_header.value(field.name).isNull())
                 header.set(field.name, m_header.value(field.name));
         }
-        for (const QString &name : {QString(Fields::AdjDescription), QString(Fields::Description)}) {
-            const int index = header.fieldIndex(name);
-            if (index < 0)
-                continue;
+        if (const std::optional<QString> &name = m_kind.entry.descriptionField) {
             const QString text = TransactionsTexts::tr("Reverses %1").arg(m_kind.titleOf(m_header));
-            header.set(name, Value(Engine::firstCharacters(text, std::as_const(header).field(index).size)));
+            header.set(*name, Value(Engine::firstCharacters(text, std::as_const(header).field(*name).size)));
         }
     }
 

@@ -34,6 +34,8 @@ const DocumentKind &DocumentKinds::usage()
                 .locationGone = TransactionsTexts::tr("Location no longer exists"),
                 .requiredFields = {Fields::UsageNo, Fields::WarehouseID, Fields::InventoryDate, Fields::GLPeriod,
                                    Fields::GLYear},
+                .descriptionField = Fields::Description,
+                .ownFields = {Fields::Printed},
                 .lineColumns = {{Fields::Quantity, TransactionsTexts::tr("Quantity"), 90, Qt::AlignRight},
                                 {Fields::ItemNo, TransactionsTexts::tr("Item"), 110, Qt::AlignLeft, Fields::ItemID},
                                 {Fields::ItemOvDesc, TransactionsTexts::tr("Override Description"), 170},

@@ -50,14 +50,13 @@ protected:
         kitchen.execute(u"UPDATE %1 SET %2 = '%3', GLPeriod = %4 WHERE %5 = %6"_s.arg(
             kind.headerTable, kind.dateField, date.toString(Qt::ISODate), QString::number(period), kind.keyField,
             QString::number(id)));
-        const TransTypeInfo &type = *transType(static_cast<int>(kind.posting.transType));
         for (const QString &row : kitchen.rows(
                  u"SELECT L.ItemID, H.WarehouseID, L.%1 FROM %2 H JOIN %3 L ON L.%4 = H.%4 WHERE H.%4 = %5"_s.arg(
                      kind.entry.lineColumns.constFirst().field, kind.headerTable, kind.lineTable, kind.keyField,
                      QString::number(id)))) {
             const QStringList parts = row.split(u'|');
             moved.push_back({&kind, posted, parts[0].toInt(), parts[1].toInt(), period, date,
-                             type.change(parts[2].toDouble())});
+                             stockChange(kind.posting.transType, parts[2].toDouble())});
         }
         if (!posted)
             return;

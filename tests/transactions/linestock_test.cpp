@@ -41,8 +41,7 @@ TEST_P(LineStockTest, FollowsTheLinesOfEveryKindOfDocument)
         SCOPED_TRACE(qPrintable(kind->name));
         const QString quantity = kind->entry.lineColumns.constFirst().field;
         const auto line = [&](double onHand, double moved) {
-            const TransTypeInfo *type = transType(static_cast<int>(kind->posting.transType));
-            return u"%1|%2"_s.arg(onHand).arg(onHand + type->change(moved));
+            return u"%1|%2"_s.arg(onHand).arg(onHand + stockChange(kind->posting.transType, moved));
         };
         addDocument(kitchen, *kind, 1, 1, {{1, u"2"_s, u"1"_s}, {2, u"4"_s, u"1"_s}, {1, u"3"_s, u"1"_s}});
         entry = kind->entry.make(kitchen.database(), prompts);

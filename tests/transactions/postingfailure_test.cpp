@@ -23,10 +23,7 @@ struct FailingPosting : KitchenTest
         }
     }
 
-    static int signOf(const DocumentKind &kind)
-    {
-        return static_cast<int>(transType(static_cast<int>(kind.posting.transType))->change(1));
-    }
+    static int signOf(const DocumentKind &kind) { return static_cast<int>(stockChange(kind.posting.transType, 1)); }
     void post(const DocumentKind &kind = DocumentKinds::receipt())
     {
         DocumentPosting(kitchen.database(), kind).run(prompts, progress);

@@ -127,7 +127,7 @@ void DocumentPostScreen::openNoticed()
     const PostingOutlook::Notice &notice = m_outlook->notices()[static_cast<size_t>(row)];
     guard().run([&] {
         RecordScreen &screen = RecordOpener(context(), recordScreens(m_kind), m_owner)
-                                   .open(static_cast<int>(notice.document), notice.text.section(u": "_s, 0, 0));
+                                   .open(static_cast<int>(notice.document), notice.name);
         reject();
         QTimer::singleShot(0, &screen,
                            [&screen] { bringToFront(screen); }); // after the window that takes the keys again
