@@ -32,7 +32,7 @@ ListDescription TfrmInvHistory::description()
              {Fields::TransDate, tr("Date"), 85},
              {Fields::ItemNo, tr("Item no."), 90},
              {.field = Fields::ItemDescription, .title = tr("Description"), .width = 250, .takesSurplus = true},
-             {Fields::TransType, tr("Type"), 75},
+             {Fields::TransType, tr("Type"), 95},
              {Fields::Quantity, tr("Quantity"), 80, Qt::AlignRight},
              {Fields::UnitCost, tr("Unit Cost"), 80, Qt::AlignRight},
              {Fields::WarehouseName, tr("Location"), 185},
