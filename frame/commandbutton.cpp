@@ -32,8 +32,9 @@ void CommandButton::paintEvent(QPaintEvent *)
                 layoutDirection() == Qt::LeftToRight ? 0 : -taken, 0);
     const int marks = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) ? Qt::TextShowMnemonic
                                                                                       : Qt::TextHideMnemonic;
-    painter.drawItemText(area, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter | marks,
-                         palette(), isEnabled(), text(), QPalette::ButtonText);
+    const Qt::Alignment where = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter;
+    painter.drawItemText(area, static_cast<int>(where) | static_cast<int>(marks), palette(), isEnabled(), text(),
+                         QPalette::ButtonText);
 
     if (hasFocus()) {
         QStyleOptionFocusRect focus;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOption>
 
 namespace Tallymere {
 

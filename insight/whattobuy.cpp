@@ -84,7 +84,7 @@ private:
             u"SELECT ItemID, SUM(Quantity) FROM IHist WHERE TransType IN (%1) AND TransDate > ? AND TransDate <= ?"_s
                     .arg(types.join(u','))
                 + u"%1 GROUP BY ItemID HAVING SUM(Quantity) > 0"_s,
-            {m_plan.today.addDays(-7 * m_plan.weeks), m_plan.today});
+            {m_plan.today.addDays(-qint64{7} * m_plan.weeks), m_plan.today});
         while (rows->next())
             m_items[rows->intAt(0)].usePerWeek = rows->doubleAt(1) / m_plan.weeks;
     }

@@ -9,7 +9,6 @@
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
-using Engine::FieldType;
 using Engine::Value;
 
 namespace Tallymere {
