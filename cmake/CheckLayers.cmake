@@ -21,10 +21,12 @@ set(allowed_master/screens ${rules} controls master)
 set(allowed_transactions ${rules} master)
 set(allowed_transactions/screens ${rules} controls master master/screens transactions)
 set(allowed_insight ${rules} master transactions)
-set(allowed_reports ${rules} master transactions printing)
+set(allowed_reports ${rules} master transactions insight printing)
 set(allowed_reports/screens ${rules} controls master transactions printing reports)
-set(allowed_frame ${rules} controls master master/screens transactions transactions/screens reports reports/screens
-    plgint)
+set(allowed_insight/screens ${rules} controls master master/screens transactions transactions/screens insight printing
+    reports reports/screens)
+set(allowed_frame ${rules} controls master master/screens transactions transactions/screens insight insight/screens
+    reports reports/screens plgint)
 set(allowed_import ${rules} master transactions)
 set(allowed_host plgint host/tables engine base)
 set(allowed_host/sample ${rules} master transactions import)

@@ -2,6 +2,7 @@
 
 #include "controls/windows/screencontext.h"
 #include "controls/windows/screenmetrics.h"
+#include "insight/screens/insightscreens.h"
 #include "master/masterkind.h"
 #include "master/screens/company.h"
 #include "master/screens/masterlistscreen.h"
@@ -60,6 +61,8 @@ ScreenRegistry productScreens()
     screens.add(u"frmInvTotals"_s, {make<TfrmInvTotals>});
     screens.add(u"frmInvHistory"_s, {make<TfrmInvHistory>});
     screens.add(u"frmInvReports"_s, {make<TfrmInvReports>});
+    for (const InsightScreen &screen : insightScreens())
+        screens.add(screen.name, {screen.make});
     return screens;
 }
 

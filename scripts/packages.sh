@@ -4,7 +4,8 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev libsqlite3-dev libpq-dev libzint-dev
-    libcups2-dev fonts-dejavu-core fonts-liberation qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite)
+    libcups2-dev qt6-charts-dev libqt6opengl6-dev fonts-dejavu-core fonts-liberation qt6-tools-dev
+    qt6-documentation-tools libqt6sql6-sqlite)
 test=(postgresql-15 libgtest-dev clang-format qt6-l10n-tools cups cups-client poppler-utils zbar-tools)
 lint=(clang-format clang-tidy)
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+#include <QList>
+#include <QString>
+
+class QWidget;
+
+namespace Tallymere {
+
+struct ScreenContext;
+
+// A screen of this room under its component name.
+struct InsightScreen
+{
+    QString name;
+    std::function<QWidget *(ScreenContext &, QWidget *parent)> make;
+};
+
+QList<InsightScreen> insightScreens();
+
+} // namespace Tallymere
