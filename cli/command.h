@@ -62,6 +62,7 @@ Command reportCommand();
 Command printCommand();
 Command costCommand();
 Command buyCommand();
+Command checkCommand();
 Command manualCommand();
 
 } // namespace Tallymere::Cli

@@ -56,7 +56,7 @@ const QList<Command> &commands()
     static const QList<Command> all = {initCommand(),  sampleCommand(), importCommand(), postCommand(),
                                        countCommand(), syncCommand(),   totalsCommand(), historyCommand(),
                                        listCommand(),  reportCommand(), printCommand(),  costCommand(),
-                                       buyCommand(),   manualCommand()};
+                                       buyCommand(),   checkCommand(),  manualCommand()};
     return all;
 }
 

@@ -21,6 +21,7 @@ set(allowed_master/screens ${rules} controls master)
 set(allowed_transactions ${rules} master)
 set(allowed_transactions/screens ${rules} controls master master/screens transactions)
 set(allowed_insight ${rules} master transactions)
+set(allowed_care ${rules} master transactions)
 set(allowed_reports ${rules} master transactions insight printing)
 set(allowed_reports/screens ${rules} controls master transactions printing reports)
 set(allowed_insight/screens ${rules} controls master master/screens transactions transactions/screens insight printing
@@ -30,7 +31,7 @@ set(allowed_frame ${rules} controls master master/screens transactions transacti
 set(allowed_import ${rules} master transactions)
 set(allowed_host plgint host/tables engine base)
 set(allowed_host/sample ${rules} master transactions import)
-set(allowed_cli ${rules} help host/tables host/sample master transactions insight import printing reports)
+set(allowed_cli ${rules} help host/tables host/sample master transactions insight care import printing reports)
 
 # Floors of a large room, from the ground up: a file stands on one of them, and includes from its own and from those below.
 set(floors_engine values store filter records)

@@ -105,6 +105,33 @@ bool isSound(PostgresConnection &connection, const QString &name)
 
 } // namespace
 
+// A server verifies the pages that it reads. What an index says of a row is told by amcheck, which only an administrator
+// can add to a database.
+QStringList PostgresConnection::damage(const std::function<void()> &step)
+{
+    QStringList tables;
+    for (const StatementPtr row =
+             prepare(u"SELECT tablename FROM pg_tables WHERE schemaname = current_schema() ORDER BY tablename"_s);
+         row->next();)
+        tables << row->textAt(0);
+    QStringList found;
+    Transaction transaction(*this);
+    for (const QString &table : tables) {
+        step();
+        execute(u"SAVEPOINT read"_s);
+        try {
+            prepare(u"SELECT COUNT(t) FROM %1 t"_s.arg(m_dialect.name(table)))->next();
+        } catch (const EngineError &error) {
+            if (error.code() != ErrorCode::Corrupt && error.code() != ErrorCode::General)
+                throw;
+            execute(u"ROLLBACK TO read"_s);
+            found << error.text();
+        }
+        execute(u"RELEASE read"_s);
+    }
+    return found;
+}
+
 qint64 PostgresConnection::repair(const TableLayout &table)
 {
     const QString name = m_dialect.name(table.name);

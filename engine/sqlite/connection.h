@@ -35,6 +35,7 @@ public:
     std::unique_ptr<Connection> openMoment(const Database &database) override;
     bool isWritingKeptOutByReading() override;
     std::optional<TableLayout> describe(const QString &table) override;
+    QStringList damage(const std::function<void()> &step) override;
     qint64 repair(const TableLayout &table) override;
     qint64 lastInsertId() override;
     void setBulk(bool bulk) override;

@@ -209,7 +209,52 @@ bool isSound(SqliteConnection &connection, const QString &table)
     }
 }
 
+QStringList damageOf(SqliteConnection &connection, const QString &table)
+{
+    QStringList found;
+    const StatementPtr check =
+        connection.prepare(u"SELECT quick_check FROM pragma_quick_check(%1)"_s.arg(textLiteral(table)));
+    while (check->next())
+        if (check->textAt(0) != "ok"_L1)
+            found << table + ": "_L1 + check->textAt(0);
+    const StatementPtr rows = connection.prepare(u"SELECT COUNT(*) FROM %1 NOT INDEXED"_s.arg(quoted(table)));
+    rows->next();
+    const StatementPtr indexes =
+        connection.prepare(u"SELECT name FROM sqlite_schema WHERE type = 'index' AND tbl_name = ?"_s);
+    indexes->bindText(0, table);
+    while (indexes->next()) {
+        const QString index = indexes->textAt(0);
+        const StatementPtr entries =
+            connection.prepare(u"SELECT COUNT(*) FROM %1 INDEXED BY %2"_s.arg(quoted(table), quoted(index)));
+        entries->next();
+        if (entries->intAt(0) != rows->intAt(0))
+            found << Texts::tr("%1: the index %2 has %3 of %4 rows")
+                         .arg(table, index, entries->textAt(0), rows->textAt(0));
+    }
+    return found;
+}
+
 } // namespace
+
+// All pages are looked through, and each index is asked how many rows it has. That each of them stands where it belongs
+// takes many times as long, and repair() tells.
+QStringList SqliteConnection::damage(const std::function<void()> &step)
+{
+    QStringList found;
+    try {
+        const StatementPtr tables = prepare(
+            u"SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite_%' ORDER BY name"_s);
+        while (tables->next()) {
+            step();
+            found += damageOf(*this, tables->textAt(0));
+        }
+    } catch (const EngineError &error) {
+        if (error.code() != ErrorCode::Corrupt)
+            throw;
+        found << error.text();
+    }
+    return found;
+}
 
 qint64 SqliteConnection::salvage(const TableLayout &table, const QString &copy)
 {

@@ -3,6 +3,7 @@
 #include "engine/values/layout.h"
 #include "engine/values/value.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <QByteArray>
@@ -103,6 +104,10 @@ public:
 
     // What the store holds. A missing table gives nullopt. Indexes that the engine did not make are left out.
     virtual std::optional<TableLayout> describe(const QString &table) = 0;
+
+    // What the store finds damaged in what it holds, in its own words; empty: nothing. Reads everything once, and tells
+    // the step now and then.
+    virtual QStringList damage(const std::function<void()> &step) = 0;
 
     // Verifies a table and mends it as Database::repairTable says; returns the rows lost. Nobody else has it open.
     virtual qint64 repair(const TableLayout &table) = 0;

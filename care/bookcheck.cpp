@@ -1,0 +1,81 @@
+#include "care/bookcheck.h"
+
+#include "base/prompts.h"
+#include "care/checks.h"
+#include "care/inspection.h"
+#include "care/texts.h"
+#include "engine/store/readmoment.h"
+#include "engine/values/error.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+// Whether the error says something about what is stored, and not about the way there.
+bool isDamage(const Engine::EngineError &error)
+{
+    using enum Engine::ErrorCode;
+    return error.code() == Corrupt || error.code() == General || error.code() == NoSuchTable
+        || error.code() == NoSuchField || error.code() == BadValue;
+}
+
+void tellUnreadable(const BookCheck &check, const Engine::EngineError &error, Inspection &inspection)
+{
+    if (!isDamage(error))
+        throw Engine::EngineError(error);
+    inspection.found({check.title, CareTexts::tr("This could not be checked to its end: %1").arg(error.text()),
+                      CareTexts::tr("What stands there is missing in all figures."),
+                      CareTexts::tr("Restore the last backup, or let a damaged table be mended.")});
+}
+
+} // namespace
+
+const QList<BookCheck> &bookChecks()
+{
+    static const QList<BookCheck> all{
+        {u"structure"_s, CareTexts::tr("Structure"), checkStructure},
+        {u"values"_s, CareTexts::tr("Values"), checkValues},
+        {u"numbers"_s, CareTexts::tr("Numbers"), checkNumbers},
+        {u"counters"_s, CareTexts::tr("Counters"), checkCounters},
+        {u"references"_s, CareTexts::tr("References"), checkReferences},
+        {u"documents"_s, CareTexts::tr("Documents"), checkDocuments},
+        {u"balances"_s, CareTexts::tr("Balances"), checkBalances},
+    };
+    return all;
+}
+
+int checkBooks(Engine::Database &database, Progress &progress, const TellFinding &tell)
+{
+    Engine::ReadMoment moment(database);
+    const int found = checkHeldBooks(moment.database(), progress, tell);
+    moment.end();
+    return found;
+}
+
+int checkHeldBooks(Engine::Database &database, Progress &progress, const TellFinding &tell)
+{
+    int found = 0;
+    const BookCheck *current = nullptr;
+    Inspection inspection(
+        database,
+        [&](Finding finding) {
+            ++found;
+            tell(*current, std::move(finding));
+        },
+        [&] { progress.step(); });
+    progress.start(0);
+    for (const BookCheck &check : bookChecks()) {
+        current = &check;
+        try {
+            check.run(inspection);
+        } catch (const Engine::EngineError &error) {
+            tellUnreadable(check, error, inspection);
+        }
+    }
+    progress.finish();
+    return found;
+}
+
+} // namespace Tallymere

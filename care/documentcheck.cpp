@@ -1,0 +1,262 @@
+#include "base/rounding.h"
+#include "care/checks.h"
+#include "care/inspection.h"
+#include "care/texts.h"
+#include "data/layouts.h"
+#include "engine/store/database.h"
+#include "engine/store/dialect.h"
+#include "engine/store/sqlcondition.h"
+#include "transactions/documentkinds.h"
+
+#include <cmath>
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+// What moves with one line.
+struct Movement
+{
+    qint64 item = 0;
+    double quantity = 0;
+    bool isStocked = true; // as the item stands now
+
+    bool matches(const Movement &other) const { return item == other.item && quantity == other.quantity; }
+};
+using Movements = std::vector<Movement>;
+
+// The documents of one kind against their lines and their history. Only those whose sums differ are looked at line by
+// line.
+class KindCheck
+{
+public:
+    KindCheck(Inspection &inspection, qsizetype number)
+        : m_inspection(inspection)
+        , m_kind(*DocumentKinds::all().at(number))
+        , m_history(inspection.history().documents(number))
+    {
+    }
+
+    void run()
+    {
+        compareSums();
+        for (const auto &[key, posted] : m_history.asKeyValueRange())
+            if (key != 0)
+                m_suspects[key] = Suspect::NoDocument;
+        compareLines();
+        findOrphans();
+    }
+
+private:
+    enum class Suspect { Posted, Unposted, NoDocument };
+
+    QString title(qint64 key) const
+    {
+        return u"%1, %2 %3"_s.arg(Layouts::titleOf(m_kind.headerTable), m_kind.keyField, QString::number(key));
+    }
+
+    // Headers and lines side by side, both in the order of the key.
+    void compareSums()
+    {
+        const Engine::StatementPtr header = m_inspection.store().prepare(
+            u"SELECT %1, Posted FROM %2 ORDER BY %1"_s.arg(m_kind.keyField, m_kind.headerTable));
+        const Engine::StatementPtr line =
+            m_inspection.store().prepare(u"SELECT L.%1, %2 FROM %3 ORDER BY L.%1"_s.arg(
+                m_kind.keyField, m_kind.posting.lineColumns, m_kind.posting.lines));
+        bool more = m_inspection.next(*line);
+        while (m_inspection.next(*header)) {
+            const qint64 key = header->intAt(0);
+            HistoryTally::Posted stocked;
+            HistoryTally::Posted all;
+            for (; more && line->intAt(0) <= key; more = m_inspection.next(*line)) {
+                if (line->intAt(0) < key)
+                    continue; // of no document
+                const Movement movement = movementOf(*line);
+                add(movement, all);
+                if (movement.isStocked)
+                    add(movement, stocked);
+            }
+            const bool isPosted = header->valueAt(1, Engine::FieldType::Boolean).toBool();
+            const HistoryTally::Posted history = m_history.take(key);
+            if (isPosted ? !isSame(history, stocked) && !isSame(history, all) : history.rows > 0)
+                m_suspects[key] = isPosted ? Suspect::Posted : Suspect::Unposted;
+        }
+    }
+
+    Movement movementOf(const Engine::Statement &row) const
+    {
+        PostingLine line;
+        if (m_kind.posting.readLine)
+            m_kind.posting.readLine(row, 3, line);
+        return {row.intAt(1), row.doubleAt(2) + 0.0, line.isPosted};
+    }
+
+    static void add(const Movement &movement, HistoryTally::Posted &sum)
+    {
+        ++sum.rows;
+        sum.quantity += movement.quantity;
+    }
+
+    static bool isSame(const HistoryTally::Posted &one, const HistoryTally::Posted &other)
+    {
+        constexpr double noise = 1e-9;
+        return one.rows == other.rows
+            && std::abs(one.quantity - other.quantity)
+            <= noise * std::max({1.0, std::abs(one.quantity), std::abs(other.quantity)});
+    }
+
+    std::map<qint64, Movements> read(const QString &sql, std::span<const qint64> keys)
+    {
+        const Engine::StatementPtr row = m_inspection.store().prepare(sql);
+        row->bindText(0, Engine::numberList(keys));
+        std::map<qint64, Movements> found;
+        while (m_inspection.next(*row))
+            found[row->intAt(0)].push_back(row->columnCount() > 3 ? movementOf(*row)
+                                                                  : Movement{row->intAt(1), row->doubleAt(2)});
+        return found;
+    }
+
+    void compareLines()
+    {
+        std::vector<qint64> keys;
+        for (const auto &[key, suspect] : m_suspects)
+            keys.push_back(key);
+        if (keys.empty())
+            return;
+        const Engine::Dialect &dialect = m_inspection.store().dialect();
+        std::map<qint64, Movements> lines =
+            read(u"SELECT L.%1, %2 FROM %3 WHERE %4 ORDER BY L.%1, L.Seq"_s.arg(
+                     m_kind.keyField, m_kind.posting.lineColumns, m_kind.posting.lines,
+                     dialect.inNumberList("L."_L1 + m_kind.keyField)),
+                 keys);
+        std::map<qint64, Movements> history =
+            read(u"SELECT %1, ItemID, Quantity FROM IHist WHERE %2 AND TransType = %3 ORDER BY IHistID"_s.arg(
+                     m_kind.keyField, dialect.inNumberList(m_kind.keyField),
+                     QString::number(static_cast<int>(m_kind.posting.transType))),
+                 keys);
+        for (const auto &[key, suspect] : m_suspects)
+            tell(key, suspect, std::move(lines[key]), std::move(history[key]));
+    }
+
+    void tell(qint64 key, Suspect suspect, Movements lines, Movements history)
+    {
+        takeMatchesOut(lines, history);
+        std::erase_if(lines, [](const Movement &line) { return !line.isStocked; });
+        if (suspect == Suspect::NoDocument) {
+            tellSurplus(key, history, CareTexts::tr("It is gone, and its history is there."));
+        } else if (suspect == Suspect::Posted) {
+            tellMissing(key, lines);
+            tellSurplus(key, history, CareTexts::tr("No line of it accounts for what its history has."));
+        } else if (lines.empty() && history.empty()) {
+            tellUnmarked(key);
+        } else {
+            doubt(lines);
+            doubt(history);
+            m_inspection.found({title(key), CareTexts::tr("It is not posted, and a part of it is in the history."),
+                                CareTexts::tr("Posting it counts that part twice."),
+                                CareTexts::tr("Delete it, and enter what is missing as a new document.")});
+        }
+    }
+
+    static void takeMatchesOut(Movements &lines, Movements &history)
+    {
+        for (auto line = lines.begin(); line != lines.end();) {
+            const auto match = std::find_if(history.begin(), history.end(),
+                                            [&](const Movement &other) { return line->matches(other); });
+            if (match == history.end()) {
+                ++line;
+                continue;
+            }
+            history.erase(match);
+            line = lines.erase(line);
+        }
+    }
+
+    void doubt(const Movements &movements)
+    {
+        for (const Movement &movement : movements)
+            m_inspection.doubt(movement.item);
+    }
+
+    QString listOf(const Movements &movements)
+    {
+        doubt(movements);
+        QStringList names;
+        for (const Movement &movement : movements)
+            names << u"%1 %2"_s.arg(Engine::Value(withoutNoise(movement.quantity)).toText(),
+                                    m_inspection.itemName(movement.item));
+        return names.join(u", ");
+    }
+
+    void tellMissing(qint64 key, const Movements &lines)
+    {
+        if (!lines.empty())
+            m_inspection.found(
+                {title(key),
+                 CareTexts::tr("It is marked as posted, and not in the history: %1.").arg(listOf(lines)),
+                 CareTexts::tr("Balances, values and the reports by period lack that."),
+                 CareTexts::tr(
+                     "Enter it as a new document and post that. If the type of the item was not stocked when "
+                     "it was posted, nothing is missing.")});
+    }
+
+    void tellSurplus(qint64 key, const Movements &history, const QString &what)
+    {
+        if (!history.empty())
+            m_inspection.found(
+                {title(key), what + u' ' + listOf(history) + u'.',
+                 CareTexts::tr("The reports by period count it; whether it is right nobody can see."),
+                 CareTexts::tr("Look whether a backup has the document.")});
+    }
+
+    void tellUnmarked(qint64 key)
+    {
+        const auto mark = [&kind = m_kind, key](Engine::Database &database) {
+            const Engine::StatementPtr update = database.connection().prepare(
+                u"UPDATE %1 SET Posted = true WHERE %2 = ?"_s.arg(kind.headerTable, kind.keyField));
+            update->bindInt(0, key);
+            update->execute();
+        };
+        m_inspection.found(
+            {title(key), CareTexts::tr("It is not marked as posted, and all of it is in the history."),
+             CareTexts::tr("Posting it counts it twice."), CareTexts::tr("A repair marks it as posted."), mark});
+    }
+
+    void findOrphans()
+    {
+        const Engine::StatementPtr row = m_inspection.store().prepare(
+            u"SELECT L.%1, COUNT(*) FROM %2 L LEFT OUTER JOIN %3 H ON H.%1 = L.%1 WHERE H.%1 IS NULL "
+            "GROUP BY L.%1 ORDER BY L.%1"_s.arg(m_kind.keyField, m_kind.lineTable, m_kind.headerTable));
+        while (m_inspection.next(*row)) {
+            const auto takeOut = [&kind = m_kind, key = row->intAt(0)](Engine::Database &database) {
+                const Engine::StatementPtr remove = database.connection().prepare(
+                    u"DELETE FROM %1 WHERE %2 = ?"_s.arg(kind.lineTable, kind.keyField));
+                remove->bindInt(0, key);
+                remove->execute();
+            };
+            m_inspection.found(
+                {title(row->intAt(0)),
+                 CareTexts::tr("Its header is not there, and %1 lines of it are.").arg(row->intAt(1)),
+                 CareTexts::tr("They count nowhere. A document that somebody is entering just now looks the same."),
+                 CareTexts::tr("A repair takes them out."), takeOut});
+        }
+    }
+
+    Inspection &m_inspection;
+    const DocumentKind &m_kind;
+    QHash<qint64, HistoryTally::Posted> m_history; // of what has not been met yet
+    std::map<qint64, Suspect> m_suspects;
+};
+
+} // namespace
+
+void checkDocuments(Inspection &inspection)
+{
+    for (qsizetype kind = 0; kind < DocumentKinds::all().size(); ++kind)
+        KindCheck(inspection, kind).run();
+}
+
+} // namespace Tallymere
