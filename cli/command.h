@@ -63,6 +63,8 @@ Command printCommand();
 Command costCommand();
 Command buyCommand();
 Command checkCommand();
+Command backupCommand();
+Command restoreCommand();
 Command manualCommand();
 
 } // namespace Tallymere::Cli

@@ -53,10 +53,10 @@ const QList<OptionSpec> &commonOptions()
 
 const QList<Command> &commands()
 {
-    static const QList<Command> all = {initCommand(),  sampleCommand(), importCommand(), postCommand(),
-                                       countCommand(), syncCommand(),   totalsCommand(), historyCommand(),
-                                       listCommand(),  reportCommand(), printCommand(),  costCommand(),
-                                       buyCommand(),   checkCommand(),  manualCommand()};
+    static const QList<Command> all = {
+        initCommand(),   sampleCommand(),  importCommand(), postCommand(),    countCommand(), syncCommand(),
+        totalsCommand(), historyCommand(), listCommand(),   reportCommand(),  printCommand(), costCommand(),
+        buyCommand(),    checkCommand(),   backupCommand(), restoreCommand(), manualCommand()};
     return all;
 }
 

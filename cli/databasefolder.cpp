@@ -42,10 +42,17 @@ void makeFolder(const QString &folder)
 
 } // namespace
 
+QString requireFolder(const CommandContext &context)
+{
+    const QString folder = folderOf(context);
+    makeFolder(folder);
+    return folder;
+}
+
 std::unique_ptr<TDataModuleTallymere> openNewDatabase(const CommandContext &context, const QString &organization,
                                                       QString postalFormat)
 {
-    makeFolder(folderOf(context));
+    requireFolder(context);
     // Two-letter formats are kept with a blank after them, as the host writes them.
     postalFormat = postalFormat.leftJustified(3);
     DataModuleOptions options;

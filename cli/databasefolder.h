@@ -4,6 +4,10 @@
 
 namespace Tallymere::Cli {
 
+// The folder of the options or of the user's settings, made where it is missing; empty when the database is on a server, or
+// nowhere yet.
+QString requireFolder(const CommandContext &context);
+
 // Opens the database of the options or of the user's settings, making what is missing: the folder, the database,
 // the host's tables with their one configuration row, the inventory tables.
 std::unique_ptr<TDataModuleTallymere> openNewDatabase(const CommandContext &context, const QString &organization,

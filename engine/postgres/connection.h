@@ -28,6 +28,8 @@ public:
     bool inTransaction() const override { return m_link->inTransaction(); }
     std::unique_ptr<Connection> openMoment(const Database &database) override;
     std::optional<TableLayout> describe(const QString &table) override;
+    QStringList tables() override;
+    qint64 size() override;
     QStringList damage(const std::function<void()> &step) override;
     qint64 repair(const TableLayout &table) override;
     qint64 lastInsertId() override;

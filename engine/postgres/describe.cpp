@@ -121,4 +121,24 @@ std::optional<TableLayout> PostgresConnection::describe(const QString &table)
     return layout;
 }
 
+// As they are spelled, so that a copy in a file has them so as well.
+QStringList PostgresConnection::tables()
+{
+    QStringList names;
+    const StatementPtr row =
+        prepare(u"SELECT c.relname, coalesce(obj_description(c.oid, 'pg_class'), '') FROM pg_class c "
+                "WHERE c.relkind = 'r' AND c.relnamespace = current_schema()::regnamespace"_s);
+    while (row->next())
+        names << spelled(row->textAt(0), row->textAt(1));
+    names.sort(Qt::CaseInsensitive);
+    return names;
+}
+
+qint64 PostgresConnection::size()
+{
+    const StatementPtr row = prepare(u"SELECT pg_database_size(current_database())"_s);
+    row->next();
+    return row->intAt(0);
+}
+
 } // namespace Engine

@@ -109,14 +109,9 @@ bool isSound(PostgresConnection &connection, const QString &name)
 // can add to a database.
 QStringList PostgresConnection::damage(const std::function<void()> &step)
 {
-    QStringList tables;
-    for (const StatementPtr row =
-             prepare(u"SELECT tablename FROM pg_tables WHERE schemaname = current_schema() ORDER BY tablename"_s);
-         row->next();)
-        tables << row->textAt(0);
     QStringList found;
     Transaction transaction(*this);
-    for (const QString &table : tables) {
+    for (const QString &table : tables()) {
         step();
         execute(u"SAVEPOINT read"_s);
         try {

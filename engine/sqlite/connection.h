@@ -35,6 +35,9 @@ public:
     std::unique_ptr<Connection> openMoment(const Database &database) override;
     bool isWritingKeptOutByReading() override;
     std::optional<TableLayout> describe(const QString &table) override;
+    QStringList tables() override;
+    qint64 size() override;
+    bool copyTo(const QString &file, const std::function<void()> &step) override;
     QStringList damage(const std::function<void()> &step) override;
     qint64 repair(const TableLayout &table) override;
     qint64 lastInsertId() override;

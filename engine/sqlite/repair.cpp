@@ -242,11 +242,9 @@ QStringList SqliteConnection::damage(const std::function<void()> &step)
 {
     QStringList found;
     try {
-        const StatementPtr tables = prepare(
-            u"SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite_%' ORDER BY name"_s);
-        while (tables->next()) {
+        for (const QString &table : tables()) {
             step();
-            found += damageOf(*this, tables->textAt(0));
+            found += damageOf(*this, table);
         }
     } catch (const EngineError &error) {
         if (error.code() != ErrorCode::Corrupt)

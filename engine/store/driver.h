@@ -105,6 +105,11 @@ public:
     // What the store holds. A missing table gives nullopt. Indexes that the engine did not make are left out.
     virtual std::optional<TableLayout> describe(const QString &table) = 0;
 
+    virtual QStringList tables() = 0; // all that it holds, others' as well, by name
+    virtual qint64 size() = 0; // bytes that a copy takes, about
+    // Copies the store as this connection sees it into a new file, page by page. False where it is no file.
+    virtual bool copyTo(const QString &, const std::function<void()> &) { return false; }
+
     // What the store finds damaged in what it holds, in its own words; empty: nothing. Reads everything once, and tells
     // the step now and then.
     virtual QStringList damage(const std::function<void()> &step) = 0;

@@ -16,6 +16,9 @@ bool isLocalFileSystem(const QString &path);
 // system, but not by their text.
 void requireUtf8Name(const QString &path);
 
+// What has been renamed in the folder, made in it or taken out stays so after a power cut.
+void syncFolder(const QString &folder);
+
 QString systemUserName();
 
 // Differs between two starts of the computer. Empty when the system does not tell.

@@ -89,6 +89,15 @@ void requireUtf8Name(const QString &path)
               Texts::tr("%1 cannot be used: a name in this path is not UTF-8. Rename the folder.").arg(path));
 }
 
+void syncFolder(const QString &folder)
+{
+    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    ::fsync(handle); // some file systems do not know it, and need none
+    ::close(handle);
+}
+
 QString systemUserName()
 {
     const passwd *entry = getpwuid(geteuid());
