@@ -86,7 +86,7 @@ void measureTotals(Engine::Database &database, Times &times)
                                   "LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID "
                                   "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID "
                                   "ORDER BY I.ItemNo, W.WarehouseName, B.ItemID, B.WarehouseID"_s));
-    Tallymere::TotalsView view(database);
+    Tallymere::TotalsView view(database, Tallymere::TotalsView::Figures::All); // as the screen shows them
     measureList(
         view.query(), [&view] { view.query().locate(u"ItemID"_s, {4321}); }, times);
 }

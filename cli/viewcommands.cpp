@@ -71,7 +71,7 @@ void runTotals(CommandContext &context)
     const TotalsSort sort = totalsSort(context.arguments.value(u"sort"_s, u"item"_s));
     const std::optional<StockTime> time = stockTime(context.arguments);
     const auto data = context.openData();
-    TotalsView view(data->databaseTallymere());
+    TotalsView view(data->databaseTallymere(), TotalsView::figuresFor(context.arguments.value(u"filter"_s)));
     view.setSort(sort);
     std::optional<StockAsOf> then;
     const QString quantity = time ? u"QtyThen"_s : QString(Fields::QtyOnHand);

@@ -206,6 +206,9 @@ inline constexpr Engine::FieldName<Integer> DocumentID{u"DocumentID"};
 inline constexpr Engine::FieldName<Text> SavedBy{u"SavedBy"};
 inline constexpr Engine::FieldName<DateTime> SavedAt{u"SavedAt"};
 
+// ICounted
+inline constexpr Engine::FieldName<Date> CountDate{u"CountDate"};
+
 // MemTableARReportParameters
 inline constexpr Engine::FieldName<Date> Delivery_Date{u"Delivery_Date"};
 inline constexpr Engine::FieldName<Text> Services{u"Services"};

@@ -28,9 +28,10 @@ const TableLayout &reportParameters()
 const QList<const TableLayout *> &applied()
 {
     static const QList<const TableLayout *> tables{
-        &item(),    &itemCtl(), &itemType(),  &company(),  &tax(),     &salesman(), &iAdjDet(),  &iAdjust(),
-        &iHist(),   &iRecDet(), &iReceipt(),  &iBalance(), &warehse(), &vendor(),   &vBalance(), &vContact(),
-        &vendCtl(), &iUsage(),  &iUsageDet(), &arInvCtl(), &bank(),    &currency(), &glAccnt(),  &iDocSaved(),
+        &item(),     &itemCtl(),  &itemType(),  &company(),  &tax(),       &salesman(), &iAdjDet(),
+        &iAdjust(),  &iHist(),    &iRecDet(),   &iReceipt(), &iBalance(),  &warehse(),  &vendor(),
+        &vBalance(), &vContact(), &vendCtl(),   &iUsage(),   &iUsageDet(), &arInvCtl(), &bank(),
+        &currency(), &glAccnt(),  &iDocSaved(), &iCounted(),
     };
     return tables;
 }
@@ -71,6 +72,7 @@ QString titleOf(const QString &table)
         {"Currency", QT_TRANSLATE_NOOP("Data", "Currencies")},
         {"GLAccnt", QT_TRANSLATE_NOOP("Data", "Accounts")},
         {"IDocSaved", QT_TRANSLATE_NOOP("Data", "Saved Documents")},
+        {"ICounted", QT_TRANSLATE_NOOP("Data", "Counted Items")},
     };
     for (const auto &[name, title] : titles) {
         if (table.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0)

@@ -246,4 +246,20 @@ const TableLayout &iDocSaved()
     return layout;
 }
 
+const TableLayout &iCounted()
+{
+    static const TableLayout layout{
+        u"ICounted"_s,
+        {
+            Fields::ItemID,
+            Fields::WarehouseID,
+            Fields::CountDate,
+        },
+        {
+            {{}, u"ItemID;WarehouseID"_s, Primary},
+        },
+    };
+    return layout;
+}
+
 } // namespace Tallymere::Layouts

@@ -68,7 +68,7 @@ RowReaderPtr historyRows(Database &database, const ReportDescription &report, co
 
 RowReaderPtr totalsRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
 {
-    auto view = std::make_unique<TotalsView>(database);
+    auto view = std::make_unique<TotalsView>(database, TotalsView::figuresFor(selection.filter));
     if (!selection.order.isEmpty())
         view->query().setOrderBy(selection.order);
     Engine::DataSet &query = view->query();

@@ -7,6 +7,7 @@
 #include "engine/store/session.h"
 #include "engine/store/tablelocks.h"
 #include "engine/values/error.h"
+#include "transactions/lastcounted.h"
 #include "transactions/postingkind.h"
 #include "transactions/quantitycheck.h"
 #include "transactions/texts.h"
@@ -292,8 +293,10 @@ StockCount::Calculation StockCount::calculate()
         askToReadAgain();
         return {.usage = {}, .readsAgain = true};
     }
-    if (!m_list.hasUsage())
+    if (!m_list.hasUsage()) {
+        rememberCounted(m_database, m_list, m_location, m_date);
         return {};
+    }
     Agreed agreed{.balances = m_balances, .waiting = {}, .costless = {}};
     std::optional<CalculatedUsage> usage;
     while (!(usage = writeAsAgreed(agreed))) {
@@ -380,7 +383,7 @@ std::optional<CalculatedUsage> StockCount::writeAsAgreed(const Agreed &agreed) c
         || waitingDocuments(m_database, m_location) != agreed.waiting
         || lacksOtherCosts(m_list, costs, agreed.costless))
         return std::nullopt;
-    return writeUsage(m_database, usageLines(m_list, costs), m_location, m_date);
+    return writeUsage(m_database, m_list, costs, m_location, m_date);
 }
 
 int StockCount::changedItems(const ItemQuantities &before, const ItemQuantities &now) const

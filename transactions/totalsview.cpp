@@ -1,22 +1,71 @@
 #include "transactions/totalsview.h"
 
+#include "base/formats.h"
 #include "base/listfilter.h"
+#include "base/rounding.h"
 #include "data/fields.h"
+#include "engine/values/amounttoolarge.h"
+#include "master/costing.h"
 
 using namespace Qt::StringLiterals;
+using Engine::FieldType;
 
 namespace Tallymere {
 
-TotalsView::TotalsView(Engine::Database &database)
+namespace {
+
+const QString onHand =
+    u"SELECT B.ItemID, B.WarehouseID, B.QtyOnHand, I.ItemNo, I.ItemDescription, W.WarehouseName"_s;
+
+const QString furtherFigures =
+    u", I.WgtAvgCost, I.StandardCost, T.CostingMethod, C.CountDate LastCounted,\n"
+    "(SELECT MAX(H.TransDate) FROM IHist H WHERE H.ItemID = B.ItemID AND H.WarehouseID = B.WarehouseID) LastMoved"_s;
+
+const QString balances = u"\nFROM IBalance B\n"
+                         "LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID\n"
+                         "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID"_s;
+
+const QString furtherTables =
+    u"\nLEFT OUTER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID\n"
+    "LEFT OUTER JOIN ICounted C ON B.ItemID = C.ItemID AND B.WarehouseID = C.WarehouseID"_s;
+
+Engine::Value valueOf(const Engine::DataSet &balance)
+{
+    const bool atStandard = costingMethodOf(balance.integer(Fields::CostingMethod)) == CostingMethod::Standard;
+    try {
+        const Engine::Money cost = balance.money(atStandard ? Fields::StandardCost : Fields::WgtAvgCost);
+        return toCents(balance.number(Fields::QtyOnHand) * cost.toLongDouble());
+    } catch (const Engine::AmountTooLarge &) {
+        return {};
+    }
+}
+
+} // namespace
+
+TotalsView::TotalsView(Engine::Database &database, Figures figures)
     : m_query(database,
-              u"SELECT B.ItemID, B.WarehouseID, B.QtyOnHand, I.ItemNo, I.ItemDescription, W.WarehouseName\n"
-              "FROM IBalance B\n"
-              "LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID\n"
-              "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID"_s)
+              figures == Figures::All ? onHand + furtherFigures + balances + furtherTables : onHand + balances)
+    , m_figures(figures)
 {
     m_query.setKeyFields(u"ItemID;WarehouseID"_s);
     m_query.setFoldedFields(u"ItemDescription;WarehouseName"_s);
+    if (figures == Figures::All)
+        m_query.addCalculated({Value.toString(), FieldType::Money}, valueOf);
     setSort(Sort::ItemNo);
+}
+
+void TotalsView::open()
+{
+    m_query.open();
+    m_query.field(Fields::QtyOnHand).format = quantityFormat();
+    if (m_figures == Figures::OnHand)
+        return;
+    m_query.field(Value).format = currencyFormat();
+    for (const QStringView day : {LastMoved, LastCounted}) {
+        Engine::Field &field = m_query.field(day);
+        field.type = FieldType::Date; // which a file does not tell of what is computed
+        field.format = dateFormat();
+    }
 }
 
 void TotalsView::setSort(Sort sort)
@@ -25,9 +74,19 @@ void TotalsView::setSort(Sort sort)
     m_query.setOrderBy(sort == Sort::ItemNo ? u"ItemNo;WarehouseName"_s : u"ItemDescription;WarehouseName"_s);
 }
 
-QString TotalsView::filterExpression(int itemId, int warehouseId)
+QString TotalsView::filterExpression(const Filter &filter)
 {
-    return keyConditions({{Fields::ItemID, itemId}, {Fields::WarehouseID, warehouseId}});
+    QString stock;
+    if (filter.stock == Filter::Stock::BelowZero)
+        stock = belowZero();
+    else if (filter.stock == Filter::Stock::Zero)
+        stock = u"(QtyOnHand = 0)"_s;
+    QString moved; // what has never moved has not moved since
+    if (filter.notMovedSince.isValid())
+        moved = u"(NOT (LastMoved >= '%1'))"_s.arg(filter.notMovedSince.toString(Qt::ISODate));
+    return joinConditions(
+        {keyConditions({{Fields::ItemID, filter.itemId}, {Fields::WarehouseID, filter.warehouseId}}), stock,
+         moved});
 }
 
 QString TotalsView::belowZero() { return u"(QtyOnHand < 0)"_s; }

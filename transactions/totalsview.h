@@ -2,6 +2,7 @@
 
 #include "engine/records/query.h"
 
+#include <QDate>
 #include <QString>
 
 namespace Tallymere {
@@ -12,22 +13,44 @@ class TotalsView
 {
 public:
     enum class Sort { ItemNo, Description };
+    // What is told beside the quantity. The further figures cost a look into the history for each row that is shown, and
+    // a filter may name those that are stored.
+    enum class Figures { OnHand, All };
 
-    explicit TotalsView(Engine::Database &database);
+    explicit TotalsView(Engine::Database &database, Figures figures = Figures::OnHand);
 
-    // ItemID, WarehouseID, QtyOnHand, ItemNo, ItemDescription, WarehouseName.
+    // The further figures: what is on hand at what the item's type values it at, to the cent, as the value reports have it
+    // (nothing where that is beyond an amount of money); the day of the latest movement; the day of the latest count, as
+    // far as that is known (see rememberCounted).
+    static constexpr QStringView Value = u"Value";
+    static constexpr QStringView LastMoved = u"LastMoved";
+    static constexpr QStringView LastCounted = u"LastCounted";
+
+    // ItemID, WarehouseID, QtyOnHand, ItemNo, ItemDescription, WarehouseName, and the further figures.
     Engine::Query &query() { return m_query; }
-    void open() { m_query.open(); }
+    void open();
 
     Sort sort() const { return m_sort; }
     void setSort(Sort sort);
 
-    // The filter expression for an item and a location, each 0 when not chosen; empty when neither is.
-    static QString filterExpression(int itemId, int warehouseId);
+    // What the list can be narrowed to.
+    struct Filter
+    {
+        enum class Stock { Any, BelowZero, Zero };
+
+        int itemId = 0; // 0: any
+        int warehouseId = 0;
+        Stock stock = Stock::Any;
+        QDate notMovedSince{}; // on that day or later; null: whenever it has moved
+    };
+    static QString filterExpression(const Filter &filter); // empty: everything shows
     static QString belowZero(); // the filter expression, and a condition
+    // What a filter needs that somebody has written.
+    static Figures figuresFor(const QString &filter) { return filter.isEmpty() ? Figures::OnHand : Figures::All; }
 
 private:
     Engine::Query m_query;
+    const Figures m_figures;
     Sort m_sort = Sort::ItemNo;
 };
 

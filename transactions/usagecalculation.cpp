@@ -8,6 +8,7 @@
 #include "engine/store/groupedwrites.h"
 #include "engine/store/recordlock.h"
 #include "transactions/documentkinds.h"
+#include "transactions/lastcounted.h"
 #include "transactions/lastsaved.h"
 #include "transactions/texts.h"
 
@@ -108,7 +109,8 @@ void writeLines(Engine::Connection &connection, qint64 usageId, const std::vecto
     }
 }
 
-void write(Engine::Database &database, const UsageHeader &header, const std::vector<UsageLine> &lines)
+void write(Engine::Database &database, const UsageHeader &header, const std::vector<UsageLine> &lines,
+           const CountList &list)
 {
     Engine::Connection &connection = database.connection();
     Engine::GroupedWrites writes(database);
@@ -116,6 +118,7 @@ void write(Engine::Database &database, const UsageHeader &header, const std::vec
         writeHeader(connection, header, step);
         writeLines(connection, header.usage.id, lines, step);
         rememberSaved(database, DocumentKinds::usage().posting.transType, header.usage.id, step);
+        rememberCounted(database, list, header.location, header.date, step);
     });
     writes.finish();
 }
@@ -153,14 +156,15 @@ bool lacksOtherCosts(const CountList &list, const QHash<qint64, ItemCost> &costs
 }
 
 // The lock on a usage that there is not tells that usages may be written, and keeps it so.
-CalculatedUsage writeUsage(Engine::Database &database, const std::vector<UsageLine> &lines, int location,
-                           QDate date)
+CalculatedUsage writeUsage(Engine::Database &database, const CountList &list, const QHash<qint64, ItemCost> &costs,
+                           int location, QDate date)
 {
     const Engine::RecordLock lock(database.connection(), database.session(), u"IUsage"_s,
                                   Engine::RecordLock::anyKey(), TransactionsTexts::tr("A new usage"));
     UsageHeader header{.usage = {}, .location = location, .date = date, .period = defaultPeriod(database, date)};
     number(header.usage, database);
-    write(database, header, lines);
+    const std::vector<UsageLine> lines = usageLines(list, costs);
+    write(database, header, lines, list);
     header.usage.lines = static_cast<int>(lines.size());
     return header.usage;
 }

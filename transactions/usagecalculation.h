@@ -36,10 +36,10 @@ void warnOfMissingCosts(const CountList &list, const QHash<qint64, ItemCost> &co
                         Prompts &prompts);
 bool lacksOtherCosts(const CountList &list, const QHash<qint64, ItemCost> &costs, const QSet<qint64> &warned);
 
-// Writes the lines as one unposted usage document of a number that no usage has. Another user's hold on the usages refuses
-// it with EngineError before a number is used. A failure of the store leaves the lines written before it; a crash leaves
-// the whole document or none.
-CalculatedUsage writeUsage(Engine::Database &database, const std::vector<UsageLine> &lines, int location,
-                           QDate date);
+// Writes what the list differs by as one unposted usage document of a number that no usage has, and when its items were
+// counted. Another user's hold on the usages refuses it with EngineError before a number is used. A failure of the store
+// leaves the lines written before it; a crash leaves the whole document or none.
+CalculatedUsage writeUsage(Engine::Database &database, const CountList &list, const QHash<qint64, ItemCost> &costs,
+                           int location, QDate date);
 
 } // namespace Tallymere

@@ -1,9 +1,11 @@
+#include "data/fields.h"
 #include "insight/costtrail.h"
 #include "insight/stockasof.h"
 #include "insight/whattobuy.h"
 #include "tests/support/chance.h"
 #include "tests/support/documents.h"
 #include "transactions/documentposting.h"
+#include "transactions/totalsview.h"
 
 #include <cmath>
 #include <map>
@@ -122,6 +124,44 @@ TEST_P(InsightTest, TheStockIsThatOfItsTime)
             }
         }
     }
+}
+
+TEST_P(InsightTest, TotalsTellValueAndDays)
+{
+    kitchen.execute(uR"(
+        UPDATE ItemType SET CostingMethod = ItemTypeID;
+        UPDATE Item SET StandardCost = 1.005 WHERE ItemID = 3;
+        INSERT INTO ICounted (ItemID, WarehouseID, CountDate) VALUES (1, 2, '2026-03-14');
+        INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (4, 1, 0);
+    )"_s);
+    const int type = kitchen.value(u"SELECT ItemTypeID FROM Item WHERE ItemID = 3"_s).toInt();
+    ASSERT_EQ(type, 2) << "at standard cost";
+    TotalsView view(kitchen.database(), TotalsView::Figures::All);
+    view.open();
+    Engine::Query &rows = view.query();
+    const QDate day = today.addDays(-45);
+    int notMoved = 0;
+    for (rows.first(); !rows.atEnd(); rows.next()) {
+        const int item = rows.integer(Fields::ItemID);
+        const int location = rows.integer(Fields::WarehouseID);
+        const double onHand = sum(item, location, &Moved::posted);
+        EXPECT_EQ(rows.number(Fields::QtyOnHand), onHand);
+        const double cost = item == 3 ? 1.005 : kitchen.averageCost(item);
+        EXPECT_NEAR(rows.value(TotalsView::Value).toDouble(), onHand * cost, 0.005 + 1e-9);
+        QDate last;
+        for (const Moved &one : moved)
+            if (one.posted && one.item == item && one.location == location && (last.isNull() || one.date > last))
+                last = one.date;
+        EXPECT_EQ(rows.value(TotalsView::LastMoved).toDate(), last);
+        EXPECT_EQ(rows.value(TotalsView::LastCounted).toDate(),
+                  item == 1 && location == 2 ? QDate(2026, 3, 14) : QDate());
+        notMoved += last < day ? 1 : 0; // never is less
+    }
+    rows.setFilter(TotalsView::filterExpression({.notMovedSince = day}));
+    rows.setFiltered(true);
+    EXPECT_EQ(rows.recordCount(), notMoved);
+    rows.setFilter(TotalsView::filterExpression({.warehouseId = 1, .stock = TotalsView::Filter::Stock::Zero}));
+    EXPECT_TRUE(rows.locate(u"ItemID"_s, {4}));
 }
 
 TEST_P(InsightTest, WhatToBuyFollowsUseAndStock)

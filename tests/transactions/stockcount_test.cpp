@@ -128,6 +128,27 @@ TEST_P(CountTest, WritesWhatDiffersAsOneUsage)
     EXPECT_EQ(usageLines(), u"10001|1|3|1|1.5 10001|2|-1|2|0");
 }
 
+TEST_P(CountTest, ItIsKnownWhenAnItemHasBeenCountedLast)
+{
+    const auto counted = [&] {
+        return kitchen.found(u"SELECT ItemID, WarehouseID, CountDate FROM ICounted ORDER BY ItemID"_s);
+    };
+    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    enter(u"A10"_s, 10);
+    EXPECT_FALSE(count.calculate().usage);
+    EXPECT_EQ(counted(), u"1|1|2026-03-14") << "found as recorded";
+    count.setDate(date.addDays(-7)); // a count that is entered late
+    enter(u"B1"_s, 2);
+    ASSERT_TRUE(count.calculate().usage);
+    EXPECT_EQ(counted(), u"1|1|2026-03-14 3|1|2026-03-07") << "nobody has counted the third one";
+    kitchen.execute(u"DELETE FROM IUsageDet; DELETE FROM IUsage"_s);
+    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    count.setDate(date.addDays(1));
+    enter(u"A10"_s, 9);
+    ASSERT_TRUE(count.calculate().usage);
+    EXPECT_EQ(counted(), u"1|1|2026-03-15 3|1|2026-03-07");
+}
+
 TEST_P(CountTest, WritesNothingWhereNothingHasBeenUsed)
 {
     ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));

@@ -1,6 +1,5 @@
 #include "transactions/screens/invtotals.h"
 
-#include "base/formats.h"
 #include "controls/screens/listbuttons.h"
 #include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
@@ -17,10 +16,9 @@ const auto historyScreen = u"frmInvHistory"_s;
 
 TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
     : StockViewScreen(context, parent)
-    , m_view(context.data.databaseTallymere())
+    , m_view(context.data.databaseTallymere(), TotalsView::Figures::All)
 {
     m_view.open();
-    m_view.query().field(Fields::QtyOnHand).format = quantityFormat();
     build(description(), m_view.query(), [this] { mnuHistoryClick(); });
 }
 
@@ -35,10 +33,21 @@ ListDescription TfrmInvTotals::description()
     return {
         .name = u"frmInvTotals"_s,
         .caption = tr("Inventory Totals"),
-        .columns = {{Fields::ItemNo, tr("Item no."), 110},
-                    {Fields::ItemDescription, tr("Description"), 290},
-                    {Fields::WarehouseName, tr("Location"), 190},
-                    {Fields::QtyOnHand, tr("Quantity On Hand"), 130, Qt::AlignRight}},
+        .columns =
+            {{Fields::ItemNo, tr("Item no."), 110},
+             {Fields::ItemDescription, tr("Description"), 290},
+             {Fields::WarehouseName, tr("Location"), 190},
+             {Fields::QtyOnHand, tr("Quantity On Hand"), 130, Qt::AlignRight},
+             {.field = TotalsView::Value.toString(),
+              .title = tr("Value"),
+              .width = 100,
+              .alignment = Qt::AlignRight,
+              .setOff = true},
+             {.field = TotalsView::LastMoved.toString(), .title = tr("Last moved"), .width = 90, .setOff = true},
+             {.field = TotalsView::LastCounted.toString(),
+              .title = tr("Last counted"),
+              .width = 100,
+              .setOff = true}},
         .buttons = stockButtons(),
         .menus = {fileMenu(u"TrptInvTotals"_s),
                   stockRecordsMenu(),
@@ -67,6 +76,12 @@ void TfrmInvTotals::sortBy(TotalsView::Sort sort)
 }
 
 StockFilterDialog *TfrmInvTotals::makeFilterDialog() { return new TfrmInvTotalsFilter(context(), this); }
+
+void TfrmInvTotals::showWaiting()
+{
+    static_cast<TfrmInvTotalsFilter &>(filterDialog()).chooseBelowZero();
+    applyFilter(TotalsView::belowZero());
+}
 
 void TfrmInvTotals::mnuHistoryClick()
 {

@@ -14,7 +14,7 @@ public:
     TfrmInvTotals(ScreenContext &context, QWidget *parent);
     ~TfrmInvTotals() override;
 
-    void showWaiting() override { applyFilter(TotalsView::belowZero()); }
+    void showWaiting() override; // what is below zero
     void mnuHistoryClick(); // of the current item at its location
 
 protected:

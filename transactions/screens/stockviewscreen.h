@@ -29,9 +29,9 @@ protected:
     void clearFilterDialog() override;
     void presetFilterDialog(const QList<KeyOfField> &keys) override;
 
-private:
     StockFilterDialog &filterDialog();
 
+private:
     StockFilterDialog *m_filter = nullptr;
 };
 
