@@ -54,6 +54,7 @@ void refuseUntaken(const Arguments &arguments, const ReportDescription &report)
     refuse(report.parameters.itemType, u"item-type"_s);
     refuse(report.parameters.period, u"period"_s);
     refuse(report.parameters.period, u"year"_s);
+    refuse(report.parameters.day, u"as-of"_s);
 }
 
 // What the form to count on has to choose from.
@@ -101,16 +102,20 @@ ReportSelection selectionOf(const Arguments &arguments, const ReportDescription 
 {
     refuseUntaken(arguments, report);
     const Period period = periodOf(arguments).value_or(Period());
+    const QDate day = dateOf(arguments, u"as-of"_s);
+    if (day.isValid() && period.number > 0)
+        throw UsageError(Texts::tr("--as-of and --period exclude each other"));
     return {.warehouseId = keyOf(arguments, u"location"_s),
             .itemTypeId = keyOf(arguments, u"item-type"_s),
             .period = period.number,
-            .year = period.year};
+            .year = period.year,
+            .day = day};
 }
 
 // A report on periods begins with the default one of the organization unless another is named.
 void presetPeriod(TDataModuleTallymere &data, const ReportDescription &report, ReportSelection &selection)
 {
-    if (!report.parameters.period || selection.period > 0)
+    if (!report.parameters.period || selection.period > 0 || selection.day.isValid())
         return;
     const Period period = defaultPeriod(data.databaseTallymere(), data.today());
     selection.period = period.number;
@@ -210,7 +215,8 @@ void runPrintCommand(CommandContext &context)
 QList<OptionSpec> selectionOptions()
 {
     return QList<OptionSpec>{{u"location"_s, Texts::tr("ID"), Texts::tr("of one location only")},
-                             {u"item-type"_s, Texts::tr("ID"), Texts::tr("of one item type only")}}
+                             {u"item-type"_s, Texts::tr("ID"), Texts::tr("of one item type only")},
+                             {u"as-of"_s, Texts::tr("DATE"), Texts::tr("stock as of: at the end of a day")}}
     + periodOptions(Texts::tr("from this fiscal period on (default: the organization's)"));
 }
 

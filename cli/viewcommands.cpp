@@ -6,7 +6,7 @@
 #include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/records/table.h"
-#include "insight/stockasof.h"
+#include "insight/stockasofview.h"
 #include "master/masterkinds.h"
 #include "transactions/documentkinds.h"
 #include "transactions/historyview.h"
@@ -66,28 +66,32 @@ std::optional<StockTime> stockTime(const Arguments &arguments)
     return period ? StockTime{.day = {}, .year = period->year, .period = period->number} : StockTime{.day = day};
 }
 
-void runTotals(CommandContext &context)
+void writeTotals(CommandContext &context, Engine::DataSet &rows, const QString &quantity)
 {
-    const TotalsSort sort = totalsSort(context.arguments.value(u"sort"_s, u"item"_s));
-    const std::optional<StockTime> time = stockTime(context.arguments);
-    const auto data = context.openData();
-    TotalsView view(data->databaseTallymere(), TotalsView::figuresFor(context.arguments.value(u"filter"_s)));
-    view.setSort(sort);
-    std::optional<StockAsOf> then;
-    const QString quantity = time ? u"QtyThen"_s : QString(Fields::QtyOnHand);
-    if (time) {
-        then.emplace(data->databaseTallymere(), *time);
-        view.query().addCalculated({quantity, Engine::FieldType::Float}, [&](const Engine::DataSet &row) {
-            return Engine::Value(then->onHand(row.integer(Fields::ItemID), row.integer(Fields::WarehouseID)));
-        });
-    }
-    view.open();
     QList<GridColumn> columns;
     for (const QString &field : {QString(Fields::ItemID), QString(Fields::WarehouseID), QString(Fields::ItemNo),
                                  QString(Fields::ItemDescription), QString(Fields::WarehouseName)})
         columns.append({field, field});
     columns.append({quantity, Fields::QtyOnHand});
-    writeRows(context, view.query(), columns);
+    writeRows(context, rows, columns);
+}
+
+void runTotals(CommandContext &context)
+{
+    const TotalsSort sort = totalsSort(context.arguments.value(u"sort"_s, u"item"_s));
+    const std::optional<StockTime> time = stockTime(context.arguments);
+    const auto data = context.openData();
+    if (time) {
+        StockAsOfView view(data->databaseTallymere());
+        view.setSort(sort);
+        view.setTime(*time);
+        view.open();
+        return writeTotals(context, view.query(), StockAsOfView::QtyThen.toString());
+    }
+    TotalsView view(data->databaseTallymere(), TotalsView::figuresFor(context.arguments.value(u"filter"_s)));
+    view.setSort(sort);
+    view.open();
+    writeTotals(context, view.query(), Fields::QtyOnHand);
 }
 
 void runHistory(CommandContext &context)

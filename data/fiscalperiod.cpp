@@ -21,7 +21,19 @@ bool outside(const Period &period, const Period &from, const Period &to)
     return period.key() < from.key() || (to.key() > 0 && period.key() > to.key());
 }
 
+constexpr int periodsOfAYear = 12;
+
 } // namespace
+
+Period periodAfter(const Period &period)
+{
+    return period.number < periodsOfAYear ? Period{period.year, period.number + 1} : Period{period.year + 1, 1};
+}
+
+Period periodBefore(const Period &period)
+{
+    return period.number > 1 ? Period{period.year, period.number - 1} : Period{period.year - 1, periodsOfAYear};
+}
 
 FiscalSettings FiscalSettings::of(const Engine::DataSet &company)
 {

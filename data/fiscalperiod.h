@@ -19,6 +19,10 @@ struct Period
     friend bool operator==(const Period &, const Period &) = default;
 };
 
+// A year has twelve.
+Period periodAfter(const Period &period);
+Period periodBefore(const Period &period);
+
 // What the Company row says about periods. Empty fields are 0 and mean: not set.
 struct FiscalSettings
 {

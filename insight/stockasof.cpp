@@ -1,8 +1,10 @@
 #include "insight/stockasof.h"
 
+#include "base/formats.h"
 #include "data/transtypes.h"
 #include "engine/store/driver.h"
 #include "engine/store/readmoment.h"
+#include "insight/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,10 +31,24 @@ Engine::StatementPtr laterMovements(Engine::Connection &store, const StockTime &
 
 } // namespace
 
+QString StockTime::text() const
+{
+    if (day.isValid())
+        return dateText(day);
+    return InsightTexts::tr("the end of period %1/%2").arg(period, 2, 10, '0'_L1).arg(year);
+}
+
 StockAsOf::StockAsOf(Engine::Database &database, const StockTime &time)
 {
     Engine::ReadMoment moment(database);
-    Engine::Connection &store = moment.database().connection();
+    read(moment.database().connection(), time);
+    moment.end();
+}
+
+StockAsOf::StockAsOf(Engine::Connection &moment, const StockTime &time) { read(moment, time); }
+
+void StockAsOf::read(Engine::Connection &store, const StockTime &time)
+{
     const auto key = [](const Engine::Statement &row) {
         return std::pair(static_cast<int>(row.intAt(0)), static_cast<int>(row.intAt(1)));
     };
@@ -45,7 +61,6 @@ StockAsOf::StockAsOf(Engine::Database &database, const StockTime &time)
         if (balance != m_onHand.end())
             *balance -= stockChange(static_cast<int>(later->intAt(2)), later->doubleAt(3));
     }
-    moment.end();
 }
 
 } // namespace Tallymere

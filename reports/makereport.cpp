@@ -73,7 +73,7 @@ Printing::Report makeReport(TDataModuleTallymere &data, const ReportDescription 
     Engine::Database &database = moment->database();
     Printing::Report made{report.layout, nullptr};
     made.layout.headings = {selectionHeading(database, selection)};
-    if (report.parameters.period)
+    if (report.parameters.period && !report.parameters.day)
         made.layout.headings.append(periodHeading(selection));
     if (report.notes)
         made.layout.headings += report.notes(database, selection);

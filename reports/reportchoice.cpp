@@ -21,6 +21,8 @@ ReportSelection takenBy(const ReportDescription::Parameters &parameters, const R
         taken.period = chosen.period;
         taken.year = chosen.year;
     }
+    if (parameters.day)
+        taken.day = chosen.day;
     return taken;
 }
 

@@ -3,6 +3,7 @@
 #include "printing/reportlayout.h"
 #include "printing/rowreader.h"
 
+#include <QDate>
 #include <QString>
 #include <QStringList>
 
@@ -19,6 +20,7 @@ struct ReportSelection
     int itemTypeId = 0;
     int period = 0; // the first one reported, in
     int year = 0; // this fiscal year
+    QDate day{}; // the day reported, in place of the period
     QString filter{}; // the filter expression of the list that is printed,
     QString order{}; // and its order: an index of its table, or columns of its query. Empty: the usual one
 };
@@ -33,6 +35,7 @@ struct ReportDescription
         bool location = false;
         bool itemType = false;
         bool period = false;
+        bool day = false; // or a day in its place
         bool formChoices = false; // how a form is to be written on (BlankFormChoices), of a location
     };
     // The source: a query (queryRows, valueRows, perpetualRows) or a list by its own rules.

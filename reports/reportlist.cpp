@@ -12,7 +12,8 @@ namespace {
 
 const QList<ReportDescription> &described()
 {
-    static const QList<ReportDescription> reports = valueReports() + perpetualReports() + listReports() + forms();
+    static const QList<ReportDescription> reports =
+        valueReports() + perpetualReports() + listReports() + forms() + stockReports();
     return reports;
 }
 

@@ -13,6 +13,7 @@ QList<ReportDescription> valueReports();
 QList<ReportDescription> perpetualReports();
 QList<ReportDescription> listReports();
 QList<ReportDescription> forms(); // to write on
+QList<ReportDescription> stockReports(); // as it was
 
 const QList<ReportDescription> &all(); // that have something to show
 // By its list text or its name, without regard to letter case; nullptr when there is none.

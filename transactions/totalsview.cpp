@@ -16,41 +16,54 @@ namespace {
 
 const QString onHand =
     u"SELECT B.ItemID, B.WarehouseID, B.QtyOnHand, I.ItemNo, I.ItemDescription, W.WarehouseName"_s;
-
-const QString furtherFigures =
-    u", I.WgtAvgCost, I.StandardCost, T.CostingMethod, C.CountDate LastCounted,\n"
+const QString costs = u", I.WgtAvgCost, I.StandardCost, T.CostingMethod"_s;
+const QString days =
+    u", C.CountDate LastCounted,\n"
     "(SELECT MAX(H.TransDate) FROM IHist H WHERE H.ItemID = B.ItemID AND H.WarehouseID = B.WarehouseID) LastMoved"_s;
 
 const QString balances = u"\nFROM IBalance B\n"
                          "LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID\n"
                          "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID"_s;
+const QString withTypes = u"\nLEFT OUTER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID"_s;
+const QString withCounts =
+    u"\nLEFT OUTER JOIN ICounted C ON B.ItemID = C.ItemID AND B.WarehouseID = C.WarehouseID"_s;
 
-const QString furtherTables =
-    u"\nLEFT OUTER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID\n"
-    "LEFT OUTER JOIN ICounted C ON B.ItemID = C.ItemID AND B.WarehouseID = C.WarehouseID"_s;
-
-Engine::Value valueOf(const Engine::DataSet &balance)
+QString sqlOf(TotalsView::Figures figures)
 {
-    const bool atStandard = costingMethodOf(balance.integer(Fields::CostingMethod)) == CostingMethod::Standard;
+    switch (figures) {
+    case TotalsView::Figures::OnHand:
+        break;
+    case TotalsView::Figures::Value:
+        return onHand + costs + balances + withTypes;
+    case TotalsView::Figures::All:
+        return onHand + costs + days + balances + withTypes + withCounts;
+    }
+    return onHand + balances;
+}
+
+} // namespace
+
+Engine::Value TotalsView::valueOf(const Engine::DataSet &row, double quantity)
+{
+    const bool atStandard = costingMethodOf(row.integer(Fields::CostingMethod)) == CostingMethod::Standard;
     try {
-        const Engine::Money cost = balance.money(atStandard ? Fields::StandardCost : Fields::WgtAvgCost);
-        return toCents(balance.number(Fields::QtyOnHand) * cost.toLongDouble());
+        const Engine::Money cost = row.money(atStandard ? Fields::StandardCost : Fields::WgtAvgCost);
+        return toCents(quantity * cost.toLongDouble());
     } catch (const Engine::AmountTooLarge &) {
         return {};
     }
 }
 
-} // namespace
-
 TotalsView::TotalsView(Engine::Database &database, Figures figures)
-    : m_query(database,
-              figures == Figures::All ? onHand + furtherFigures + balances + furtherTables : onHand + balances)
+    : m_query(database, sqlOf(figures))
     , m_figures(figures)
 {
     m_query.setKeyFields(u"ItemID;WarehouseID"_s);
     m_query.setFoldedFields(u"ItemDescription;WarehouseName"_s);
-    if (figures == Figures::All)
-        m_query.addCalculated({Value.toString(), FieldType::Money}, valueOf);
+    if (figures != Figures::OnHand)
+        m_query.addCalculated({Value.toString(), FieldType::Money}, [](const Engine::DataSet &row) {
+            return valueOf(row, row.number(Fields::QtyOnHand));
+        });
     setSort(Sort::ItemNo);
 }
 
@@ -61,6 +74,8 @@ void TotalsView::open()
     if (m_figures == Figures::OnHand)
         return;
     m_query.field(Value).format = currencyFormat();
+    if (m_figures == Figures::Value)
+        return;
     for (const QStringView day : {LastMoved, LastCounted}) {
         Engine::Field &field = m_query.field(day);
         field.type = FieldType::Date; // which a file does not tell of what is computed

@@ -13,9 +13,9 @@ class TotalsView
 {
 public:
     enum class Sort { ItemNo, Description };
-    // What is told beside the quantity. The further figures cost a look into the history for each row that is shown, and
-    // a filter may name those that are stored.
-    enum class Figures { OnHand, All };
+    // What is told beside the quantity. All cost a look into the history for each row that is shown, and a filter may name
+    // those of them that are stored.
+    enum class Figures { OnHand, Value, All };
 
     explicit TotalsView(Engine::Database &database, Figures figures = Figures::OnHand);
 
@@ -25,6 +25,8 @@ public:
     static constexpr QStringView Value = u"Value";
     static constexpr QStringView LastMoved = u"LastMoved";
     static constexpr QStringView LastCounted = u"LastCounted";
+    // Another quantity of a row at the same cost.
+    static Engine::Value valueOf(const Engine::DataSet &row, double quantity);
 
     // ItemID, WarehouseID, QtyOnHand, ItemNo, ItemDescription, WarehouseName, and the further figures.
     Engine::Query &query() { return m_query; }

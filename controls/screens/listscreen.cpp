@@ -360,6 +360,12 @@ void ListScreen::showFilterMark()
     m_grid->setHint(hint());
 }
 
+void ListScreen::setCaption(const QString &caption)
+{
+    m_caption = caption;
+    showFilterMark();
+}
+
 void ListScreen::say(const QString &text) { m_status->say(text); }
 
 QString ListScreen::hint() const

@@ -116,6 +116,7 @@ protected:
     ListMenu helpMenu(const QString &caption) const; // leads to the screen's topic, where there is help
 
     void say(const QString &text); // in the status line, for a moment
+    void setCaption(const QString &caption); // in place of the description's
     virtual void showStep(); // each time the screen is shown: caption
     virtual void clearFilterDialog() { } // clears the fields of the filter dialog, if there is one
     virtual void presetFilterDialog(const QList<KeyOfField> &) { } // the dialog has been cleared

@@ -1,7 +1,25 @@
 #include "insight/screens/insightscreens.h"
 
+#include "insight/screens/stockasof.h"
+
+using namespace Qt::StringLiterals;
+
 namespace Tallymere {
 
-QList<InsightScreen> insightScreens() { return {}; }
+namespace {
+
+template <typename Screen> InsightScreen::Make make()
+{
+    return [](ScreenContext &context, QWidget *parent) { return new Screen(context, parent); };
+}
+
+} // namespace
+
+QList<InsightScreen> insightScreens()
+{
+    return {
+        {u"frmStockAsOf"_s, make<TfrmStockAsOf>()},
+    };
+}
 
 } // namespace Tallymere

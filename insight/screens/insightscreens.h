@@ -13,8 +13,10 @@ struct ScreenContext;
 // A screen of this room under its component name.
 struct InsightScreen
 {
+    using Make = std::function<QWidget *(ScreenContext &, QWidget *parent)>;
+
     QString name;
-    std::function<QWidget *(ScreenContext &, QWidget *parent)> make;
+    Make make;
 };
 
 QList<InsightScreen> insightScreens();

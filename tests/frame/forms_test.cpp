@@ -4,6 +4,7 @@
 #include "controls/windows/windowrules.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/mainoptionsinv.h"
+#include "insight/screens/stocktimedialog.h"
 #include "master/masterkinds.h"
 #include "master/screens/masterlistscreen.h"
 #include "tests/frame/testcompany.h"
@@ -204,7 +205,8 @@ struct FormsTest : testing::Test
         TFormRegistryEditor settings(over.company.settings, over.company.prompts);
         TFormTallymereSystem system(FrameServices{over.company.settings, over.company.prompts, screens});
         DateDialog date(over.context, QDate(2026, 3, 31), &mainWindow);
-        for (QWidget *window : QWidgetList{&settings, &system, &date})
+        StockTimeDialog time(over.context, {.day = QDate(2026, 3, 31)}, &mainWindow);
+        for (QWidget *window : QWidgetList{&settings, &system, &date, &time})
             visit(*window);
     }
 

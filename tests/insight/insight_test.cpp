@@ -2,6 +2,7 @@
 #include "insight/costtrail.h"
 #include "insight/stockasof.h"
 #include "insight/whattobuy.h"
+#include "reports/reportlist.h"
 #include "tests/support/chance.h"
 #include "tests/support/documents.h"
 #include "transactions/documentposting.h"
@@ -124,6 +125,45 @@ TEST_P(InsightTest, TheStockIsThatOfItsTime)
             }
         }
     }
+}
+
+// By item: what a report of one location shows in a column, in its rows of a kind.
+std::map<QString, double> figures(Engine::Database &database, const char *name, const QString &column,
+                                  const ReportSelection &selection,
+                                  Printing::RowKind kind = Printing::RowKind::Detail)
+{
+    const ReportDescription &report = *ReportList::find(QString::fromLatin1(name));
+    const Printing::RowReaderPtr rows = report.rows(database, report, selection);
+    const auto item = static_cast<size_t>(rows->fields().indexOf(u"ItemNo"_s));
+    const auto figure = static_cast<size_t>(rows->fields().indexOf(column));
+    std::map<QString, double> found;
+    Printing::ReportRow row;
+    while (rows->next(row))
+        if (row.kind == kind)
+            found[row.values[item].toText()] = row.values[figure].toDouble();
+    return found;
+}
+
+TEST_P(InsightTest, TheReportOfATimeIsThatOfThePerpetualOnes)
+{
+    for (int period = 1; period <= 3; ++period) {
+        for (int location = 1; location <= 2; ++location) {
+            const ReportSelection then{.warehouseId = location, .period = period, .year = 2026};
+            const ReportSelection next{.warehouseId = location, .period = period + 1, .year = 2026};
+            const auto stock = figures(kitchen.database(), "Stock as of", u"QtyThen"_s, then);
+            EXPECT_GE(stock.size(), 1U);
+            EXPECT_EQ(stock, figures(kitchen.database(), "Perpetual Summary by Item", u"ClosingBalance"_s, then));
+            EXPECT_EQ(
+                stock,
+                figures(kitchen.database(), "Perpetual by Item", u"Balance"_s, next, Printing::RowKind::Opening));
+        }
+    }
+    const ReportSelection day{.warehouseId = 1, .day = today.addDays(-40)};
+    const StockAsOf byDay(kitchen.database(), {.day = day.day});
+    for (const auto &[item, quantity] : figures(kitchen.database(), "Stock as of", u"QtyThen"_s, day))
+        EXPECT_EQ(
+            quantity,
+            byDay.onHand(kitchen.value(u"SELECT ItemID FROM Item WHERE ItemNo = '%1'"_s.arg(item)).toInt(), 1));
 }
 
 TEST_P(InsightTest, TotalsTellValueAndDays)

@@ -12,6 +12,7 @@ namespace Tallymere {
 
 namespace {
 const auto historyScreen = u"frmInvHistory"_s;
+const auto stockAsOfScreen = u"frmStockAsOf"_s;
 } // namespace
 
 TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
@@ -30,6 +31,9 @@ ListDescription TfrmInvTotals::description()
     std::function<void()> history;
     if (context().knows(historyScreen))
         history = [this] { mnuHistoryClick(); };
+    std::function<void()> stockAsOf;
+    if (context().knows(stockAsOfScreen))
+        stockAsOf = [this] { context().openScreen(stockAsOfScreen); };
     return {
         .name = u"frmInvTotals"_s,
         .caption = tr("Inventory Totals"),
@@ -62,6 +66,10 @@ ListDescription TfrmInvTotals::description()
                                   .caption = tr("&Description"),
                                   .run = sorts(TotalsView::Sort::Description)}}},
                     {.name = u"mnuHistory"_s, .caption = tr("&History"), .run = history, .glyph = Glyph::History},
+                    {.name = u"mnuStockAsOf"_s,
+                     .caption = tr("Stock &as of..."),
+                     .run = stockAsOf,
+                     .glyph = Glyph::Calendar},
                     refreshCommand()}},
                   helpMenu(tr("Inventory Totals &Help"))},
         .emptyHint = tr("No stock yet. What is received shows here when the receipt has been posted."),
