@@ -2,6 +2,7 @@
 
 #include "base/regionalsettings.h"
 #include "base/ruleerror.h"
+#include "data/audit.h"
 #include "data/fields.h"
 #include "engine/records/query.h"
 #include "engine/records/table.h"
@@ -40,7 +41,8 @@ bool UsageDeletion::run(Prompts &prompts, const QString &user)
             "(SELECT UsageID FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false)"_s);
     execute(u"DELETE FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false"_s);
     m_deleted = keys;
-    leaveNote(user);
+    leaveNote(m_database, TransactionsTexts::tr("Unposted usages with date of %1 deleted.").arg(m_dateText), m_date,
+              user);
     return true;
 }
 
@@ -74,18 +76,6 @@ void UsageDeletion::execute(const QString &statement)
         query.setParameter(u"InventoryDate", m_date);
         query.execute();
     });
-}
-
-void UsageDeletion::leaveNote(const QString &user)
-{
-    Engine::Table history(m_database, u"History"_s);
-    history.open();
-    history.insert();
-    history.set(u"Tran_Date", m_database.session().now());
-    history.set(u"Event_Date", m_date);
-    history.set(u"Event", TransactionsTexts::tr("Unposted usages with date of %1 deleted.").arg(m_dateText));
-    history.set(u"User", user);
-    history.post();
 }
 
 } // namespace Tallymere

@@ -24,7 +24,6 @@ private:
     QList<int> unposted();
     void refuseEdited(const QList<int> &keys);
     void execute(const QString &statement);
-    void leaveNote(const QString &user);
 
     Engine::Database &m_database;
     const QDate m_date;

@@ -1,7 +1,13 @@
-#include "care/bookcheck.h"
+#include "care/backup.h"
+#include "care/repair.h"
 #include "data/layouts.h"
+#include "engine/store/dialect.h"
+#include "engine/values/error.h"
 #include "tests/support/chance.h"
 #include "tests/support/documents.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -130,6 +136,57 @@ TEST_P(CareTest, FindsWhatNoScreenLetsIn)
         u"values"_s,
         u"UPDATE IReceipt SET ReceiptDate = '3/14/2026' WHERE Posted = false AND ReceiptID = (SELECT MAX(ReceiptID) FROM IReceipt)"_s,
         {u"ReceiptDate is no date"_s});
+}
+
+TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
+{
+    kitchen.makeHost();
+    const QTemporaryDir folder;
+    const QString backup = folder.filePath(u"before.sqlite"_s);
+    QStringList told;
+    const auto repair = [&] {
+        told.clear();
+        return repairBooks(kitchen.database(), backup, u"maria"_s, progress,
+                           [&told](const BookCheck &check, const Finding &) { told << check.name; });
+    };
+    EXPECT_EQ(repair().mended, 0);
+    EXPECT_FALSE(QFile::exists(backup));
+
+    const DocumentKind &kind = *DocumentKinds::all().first();
+    const QString posted = keyOf(kind, true);
+    const QString unposted = keyOf(kind, false);
+    const QString balances = kitchen.balances();
+    for (const QString &statement :
+         {u"UPDATE IBalance SET QtyOnHand = QtyOnHand + 7 WHERE ItemID = 1 AND WarehouseID = 1"_s,
+          u"DELETE FROM IBalance WHERE ItemID = 2 AND WarehouseID = 2"_s, u"DELETE FROM ItemCtl"_s,
+          u"INSERT INTO ItemCtl (NextItemID) VALUES (2)"_s,
+          u"UPDATE %1 SET Posted = false WHERE %2"_s.arg(kind.headerTable, posted),
+          u"DELETE FROM %1 WHERE %2"_s.arg(kind.headerTable, unposted),
+          u"UPDATE Item SET ItemNo = 'A10' WHERE ItemID = 2"_s}) // which only the user can mend
+        kitchen.execute(statement);
+    const QStringList before = check();
+    const auto anna = kitchen.anotherUser();
+    {
+        Engine::Table open(anna->database, kind.lineTable);
+        open.open();
+        EXPECT_THROW(repair(), Engine::EngineError); // she may be entering a document
+    }
+    EXPECT_EQ(check(), before);
+
+    const RepairResult result = repair();
+    EXPECT_EQ(result.mended, 5);
+    EXPECT_EQ(result.left, 1);
+    EXPECT_EQ(told.size(), 6);
+    EXPECT_EQ(check().size(), 1);
+    EXPECT_EQ(kitchen.balances(), balances);
+    EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM %1 WHERE %2"_s.arg(kind.lineTable, unposted)), u"0"_s);
+    EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM %1 WHERE %2 AND Posted = true"_s.arg(kind.headerTable, posted)),
+              u"1"_s);
+    const QString user = kitchen.database().connection().dialect().name(u"User"_s);
+    EXPECT_EQ(kitchen.rows(u"SELECT %1 FROM History"_s, user), QStringList(5, u"maria"_s));
+    TestStore old(Store::Local);
+    restoreInto(old.database(), backup, progress);
+    EXPECT_EQ(checkBooks(old.database(), progress, [](const BookCheck &, const Finding &) {}), before.size());
 }
 
 } // namespace
