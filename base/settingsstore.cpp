@@ -2,6 +2,7 @@
 
 #include "base/texts.h"
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QSettings>
 #include <QStringList>
@@ -108,6 +109,7 @@ bool SystemSettings::write(const QString &key, const QString &valueName, const Q
             return false;
         settings.setValue(path(key, valueName), value);
         settings.sync();
+        QFile::setPermissions(settings.fileName(), QFile::ReadOwner | QFile::WriteOwner);
         return settings.status() == QSettings::NoError;
     });
 }

@@ -42,6 +42,8 @@ SqliteConnection::SqliteConnection(const QString &path, Missing missing, const Q
     requireUtf8Name(path);
     requireUtf8Name(
         QFileInfo(QFileInfo(path).path()).canonicalFilePath()); // where links lead, before a file is made there
+    if (missing == Missing::Create)
+        makeOwnFile(path);
     open(SQLITE_OPEN_READWRITE | (missing == Missing::Create ? SQLITE_OPEN_CREATE : 0));
     watch(user);
     configure();

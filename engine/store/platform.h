@@ -16,6 +16,10 @@ bool isLocalFileSystem(const QString &path);
 // system, but not by their text.
 void requireUtf8Name(const QString &path);
 
+// Makes an empty file that owner and group may use, and nobody else, whatever the mask; nothing where there is one.
+// Failures show when it is opened.
+void makeOwnFile(const QString &path);
+
 // What has been renamed in the folder, made in it or taken out stays so after a power cut.
 void syncFolder(const QString &folder);
 

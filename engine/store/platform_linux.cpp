@@ -89,6 +89,18 @@ void requireUtf8Name(const QString &path)
               Texts::tr("%1 cannot be used: a name in this path is not UTF-8. Rename the folder.").arg(path));
 }
 
+void makeOwnFile(const QString &path)
+{
+    constexpr mode_t ownerAndGroup = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP;
+    const QByteArray name = QFile::encodeName(path);
+    const int handle =
+        ::open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    if (handle < 0)
+        return;
+    ::fchmod(handle, ownerAndGroup);
+    ::close(handle);
+}
+
 void syncFolder(const QString &folder)
 {
     const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -155,9 +167,9 @@ RangeLockFile::RangeLockFile(const QString &path)
     : m_path(path)
     , m_systemPath(QFile::encodeName(path))
 {
-    // Never deleted or replaced: the locks are on the file itself, not on its name. Everyone who may write in the
-    // folder may lock, so the mode is left to the umask.
-    m_handle = ::open(m_systemPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666);
+    // Never deleted or replaced: the locks are on the file itself, not on its name.
+    makeOwnFile(path);
+    m_handle = ::open(m_systemPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
     if (m_handle >= 0 && isInPlace())
         return;
     if (m_handle >= 0 || errno == ELOOP) {

@@ -34,7 +34,10 @@ TEST(OpenObjectTest, handsOverToTheDesktopOrSaysThatItCannot)
     openObject(u"mailto:mary@example.com"_s);
     EXPECT_EQ(mail.source(), QUrl(u"mailto:mary@example.com"_s));
     QDesktopServices::unsetUrlHandler(u"mailto"_s);
-    for (const QString &object : {u"http://not a host/"_s, u"no such file.pdf"_s, u"unheardof:1"_s, QString()})
+    for (const QString &object : {u"http://not a host/"_s, u"no such file.pdf"_s, QString()})
         EXPECT_EQ(refusalOf([&] { openObject(object); }),
                   u"'%1' cannot be opened: this computer has no program for it. -> "_s.arg(object));
+    for (const QString &object : {u"file:///etc/passwd"_s, u"unheardof:1"_s})
+        EXPECT_EQ(refusalOf([&] { openObject(object); }),
+                  u"'%1' is not opened: it is neither a web page nor a mail address. -> "_s.arg(object));
 }

@@ -4,6 +4,8 @@
 #include "tests/support/otheruser.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using namespace Engine;
@@ -83,6 +85,20 @@ const struct Loss
 };
 
 } // namespace
+
+TEST(LocalFiles, BelongToOwnerAndGroupAloneWhateverTheMask)
+{
+    for (const mode_t mask : {0, 0077}) {
+        const mode_t before = ::umask(mask);
+        Kitchen kitchen;
+        kitchen.insert(u"more"_s); // so that there is a log
+        for (const QString &file : QDir(kitchen.folder).entryList(QDir::Files))
+            EXPECT_EQ(QFileInfo(kitchen.folder + u'/' + file).permissions() & ~(QFile::ReadUser | QFile::WriteUser),
+                      QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup)
+                << qPrintable(file);
+        ::umask(before);
+    }
+}
 
 TEST(LocalFiles, ADatabaseThatIsNoLongerAtItsPlaceTakesNoMoreWrites)
 {
