@@ -78,6 +78,10 @@ inline constexpr ChoiceSetting<bool> Barcodes{QLatin1StringView("barcodes")};
 
 inline constexpr ChoiceSetting<int> Location{QLatin1StringView("location")}; // of both
 
+// The count on the screen.
+inline constexpr QStringView countScreen = u"FormEnterInventory";
+inline constexpr ChoiceSetting<bool> BlindCount{QLatin1StringView("blind")};
+
 // "HX1.ini".
 inline constexpr InitSetting SampleData{u"Companies", u"Sample Data"};
 inline constexpr InitSetting DialerPort{u"General", u"DialerPort", QLatin1StringView("com1")};

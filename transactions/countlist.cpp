@@ -66,9 +66,21 @@ SortKey sortKey(const CountRow &row, CountList::Order order)
                      order == CountList::Order::ItemNo ? Qt::CaseSensitive : Qt::CaseInsensitive)};
 }
 
+// No amount is larger than money can be.
+Engine::Money centsOf(long double amount)
+{
+    constexpr long double largest = Engine::Money::largestAmount;
+    return toCents(std::clamp(amount, -largest, largest));
+}
+
 } // namespace
 
 double CountRow::difference() const { return withoutNoise(counted() - prior()); }
+
+Engine::Money CountRow::value() const
+{
+    return centsOf(static_cast<long double>(difference()) * unitCost.toLongDouble());
+}
 
 CountList::CountList(std::vector<CountRow> rows)
 {
@@ -233,16 +245,15 @@ int CountList::notCounted() const { return size() - totals().counted; }
 
 CountList::Totals CountList::totals() const
 {
-    constexpr long double largest = Engine::Money::largestAmount;
     Totals totals;
     long double value = 0;
     for (const Placed &placed : m_rows) {
         const CountRow &row = placed.row;
         totals.counted += row.typed ? 1 : 0;
         totals.differing += row.differs() ? 1 : 0;
-        value += static_cast<long double>(row.difference()) * row.unitCost.toLongDouble();
+        value += row.value().toLongDouble();
     }
-    totals.value = toCents(std::clamp(value, -largest, largest));
+    totals.value = centsOf(value);
     return totals;
 }
 

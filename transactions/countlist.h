@@ -26,6 +26,7 @@ struct CountRow
     double counted() const { return typed.value_or(prior()); }
     double difference() const; // below 0 where something has been used; without the noise of floating numbers
     bool differs() const { return difference() != 0; }
+    Engine::Money value() const; // of the difference, to the cent
 };
 
 // Counted quantities by item.
@@ -82,7 +83,7 @@ public:
     {
         int counted = 0;
         int differing = 0;
-        Engine::Money value; // of the differences; below 0 where something has been used
+        Engine::Money value; // of the differences, each to the cent; below 0 where something has been used
     };
     Totals totals() const;
 

@@ -33,6 +33,7 @@ public:
     int location() const { return m_location; }
     ZeroCounts zeroCounts() const { return m_zeroCounts; }
     const CountList &list() const { return m_list; }
+    bool isCalculated() const { return m_isCalculated; } // and nothing has been typed since
     bool hasEdits() const { return m_list.hasEdits() && !m_isCalculated; } // that have not been calculated
 
     void sortBy(CountList::Order order) { m_list.sortBy(order); }
@@ -116,7 +117,7 @@ private:
     // what it was calculated to. Calculated again, it would count the same goods as used twice; so it has to be read
     // anew once they are posted.
     bool m_waits = false;
-    bool m_isCalculated = false; // and nothing has been typed since
+    bool m_isCalculated = false;
     QString m_draftFailure;
 };
 

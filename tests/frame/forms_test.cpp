@@ -9,6 +9,7 @@
 #include "master/screens/masterlistscreen.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
+#include "transactions/screens/countdifferencesscreen.h"
 
 #include <QDirIterator>
 #include <QMenuBar>
@@ -206,7 +207,8 @@ struct FormsTest : testing::Test
         TFormTallymereSystem system(FrameServices{over.company.settings, over.company.prompts, screens});
         DateDialog date(over.context, QDate(2026, 3, 31), &mainWindow);
         StockTimeDialog time(over.context, {.day = QDate(2026, 3, 31)}, &mainWindow);
-        for (QWidget *window : QWidgetList{&settings, &system, &date, &time})
+        TfrmCountDifferences differences(over.context, CountList(), &mainWindow);
+        for (QWidget *window : QWidgetList{&settings, &system, &date, &time, &differences})
             visit(*window);
     }
 

@@ -1,5 +1,6 @@
 #include "controls/fields/datepicker.h"
 #include "tests/support/screentest.h"
+#include "transactions/screens/countdifferencesscreen.h"
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
 
@@ -156,6 +157,70 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     ok->click();
     EXPECT_TRUE(prompts.last().startsWith("warn: There are unposted transactions"_L1)) << "the usage just written";
     EXPECT_EQ(usageLines().size(), 2);
+}
+
+TEST_F(CountScreenTest, ABlindCountTellsNothingOfTheBooksUntilItIsCalculated)
+{
+    context->settings = &settings;
+    screen->close();
+    open();
+    child<QCheckBox>(*screen, "chkBlind")->click();
+    choose(u"Office"_s);
+    EXPECT_EQ(rows(), (QStringList{u"A10"_s, u"A11"_s, u"B1"_s}));
+    search("A10");
+    type("<F2><Return>");
+    EXPECT_EQ(status(), u"0 of 3 counted"_s) << "there is nothing to be taken as it stands";
+    search("A10");
+    enter("8");
+    prompts.take();
+    enter("6"); // of bread there are 5
+    EXPECT_TRUE(has(prompts.told(), u"This is more than is recorded."_s));
+    press(Qt::Key_Escape);
+    type("<F2>4<Up><Up><Return>");
+    EXPECT_TRUE(has(prompts.told(), u"This is more than is recorded."_s)) << "the arrows do not stop at it either";
+    press(Qt::Key_Escape);
+    EXPECT_EQ(rows(), (QStringList{u"A10 8"_s, u"A11"_s, u"B1"_s}));
+    EXPECT_EQ(grid->model()->index(0, 5).data(Qt::BackgroundRole), QVariant()) << "nor does the ground";
+    EXPECT_EQ(status(), u"1 of 3 counted"_s);
+    EXPECT_FALSE(child<QPushButton>(*screen, "btnDifferences")->isEnabled());
+
+    prompts.answer = Answer::Yes;
+    ok->click();
+    EXPECT_EQ(usageLines(), QStringList{u"1|2"_s});
+    EXPECT_EQ(rows(), (QStringList{u"A10 10 8 -2"_s, u"A11 5 5"_s, u"B1 2.5 2.5"_s}));
+    screen->close();
+    settle();
+    kitchen.execute(u"UPDATE IUsage SET Posted = true"_s);
+    open();
+    choose(u"Office"_s);
+    EXPECT_EQ(rows().first(), u"A10"_s) << "kept for the user";
+    child<QCheckBox>(*screen, "chkBlind")->click();
+    EXPECT_EQ(rows().first(), u"A10 10 10"_s);
+}
+
+TEST_F(CountScreenTest, TheDifferencesLeadToTheirItems)
+{
+    choose(u"Office"_s);
+    search("A10");
+    for (const char *counted : {"9", "2", "2"})
+        enter(counted);
+    search("A10");
+    type("8"); // being typed
+    const auto look = [&](const std::function<void(QDialog &)> &step) {
+        return whileOpen<QDialog>([this] { child<QPushButton>(*screen, "btnDifferences")->click(); }, step);
+    };
+    EXPECT_TRUE(look([](QDialog &dialog) {
+        const auto &bars = *child<QTableView>(dialog, "grdDifferences");
+        EXPECT_EQ(rowOf(bars, 0).first(5).join(u' '), u"A11 Bread -3 2.00 (6.00)"_s);
+        EXPECT_EQ(cellOf(bars, 1, 4), u"(3.00)"_s);
+        EXPECT_EQ(child<QLabel>(dialog, "lblSums")->text(), u"Missing: 3 items, (9.50)     Over: 0 items, 0.00"_s);
+        EXPECT_EQ(child<QLabel>(dialog, "lblTogether")->text(), u"Together (9.50)"_s);
+        type("<Down><Down><Return>");
+    }));
+    EXPECT_EQ(cursor(), u"B1"_s);
+    EXPECT_EQ(focusName(), u"wwDBGridInventory"_s);
+    EXPECT_TRUE(look([](QDialog &) { press(Qt::Key_Escape); }));
+    EXPECT_EQ(cursor(), u"B1"_s);
 }
 
 TEST_F(CountScreenTest, TakesNoQuantityOfAnUnknownItemForAnItem)

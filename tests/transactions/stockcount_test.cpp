@@ -3,6 +3,7 @@
 #include "engine/store/tablelocks.h"
 #include "tests/support/files.h"
 #include "tests/support/kitchen.h"
+#include "transactions/countdifferences.h"
 #include "transactions/documentkinds.h"
 
 using namespace Qt::StringLiterals;
@@ -402,3 +403,25 @@ TEST(CountDraftFile, ThatCannotBeReadIsNone)
 }
 
 } // namespace
+
+TEST(CountDifferencesOf, AListLieWhereTheMoneyIs)
+{
+    using Engine::Money;
+    std::vector<CountRow> rows;
+    for (const auto &[cost, prior, counted] : std::vector<std::tuple<double, double, std::optional<double>>>{
+             {1.5, 10, 8}, {4, 5, 6}, {0, 7, 2}, {90, 1, {}}, {1.5, 3, 1}, {0.335, 1, 0}, {0.335, 2, 1}, {3, 4, 4}})
+        rows.push_back(
+            {static_cast<qint64>(rows.size()) + 1, {}, {}, {}, {}, false, Money::fromDouble(cost), prior, counted});
+    const CountList list(rows);
+    const CountDifferences differences(list);
+    std::vector<qint64> items;
+    for (const CountDifference &item : differences.items())
+        items.push_back(item.itemId);
+    EXPECT_EQ(items, (std::vector<qint64>{2, 1, 5, 6, 7, 3})) << "equal ones in the order of the list";
+    EXPECT_EQ(differences.over().items, 1);
+    EXPECT_EQ(differences.missing().items, 5);
+    EXPECT_EQ(differences.missing().value, Money::fromDouble(-6.68)) << "as lines of a usage, each to the cent";
+    EXPECT_EQ(differences.together(), Money::fromDouble(-2.68));
+    EXPECT_EQ(list.totals().value, differences.together());
+    EXPECT_EQ(differences.withoutCost(), 1);
+}

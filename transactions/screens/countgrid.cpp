@@ -1,13 +1,16 @@
 #include "transactions/screens/countgrid.h"
 
 #include "base/formats.h"
+#include "base/ruleerror.h"
 #include "controls/grids/stepbox.h"
 #include "transactions/screens/countmodel.h"
 
+#include <limits>
 #include <optional>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -68,6 +71,12 @@ void CountGrid::setList(const CountList &list, CountActions actions, const Guard
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setSortIndicatorShown(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &CountGrid::titleClicked);
+}
+
+void CountGrid::setBlind(bool blind)
+{
+    if (std::exchange(m_blind, blind) != blind)
+        m_model->setBlind(blind);
 }
 
 void CountGrid::listChanged()
@@ -137,7 +146,10 @@ EntryGrid::Editor CountGrid::makeEditor(QWidget *parent, const QModelIndex &cell
 {
     if (cell.column() != CountModel::Quantity)
         return lineEdit(parent);
-    const Editor made = stepBox(parent, m_quantity, limits(m_model->itemAt(cell.row())));
+    LineSteps steps = limits(m_model->itemAt(cell.row()));
+    if (m_blind) // the arrows must not stop at what is recorded
+        steps.highest = std::numeric_limits<double>::max();
+    const Editor made = stepBox(parent, m_quantity, steps);
     made.box->setObjectName(u"wwDBSpinEditQuantity"_s);
     return made;
 }
@@ -157,11 +169,25 @@ void CountGrid::takeEntry(const QModelIndex &cell, const QString &text, Entry en
 void CountGrid::takeQuantity(int item, const QString &text)
 {
     const Engine::Value quantity = m_quantity.parse(text);
-    if (quantity.isNull())
-        return m_actions.count(item, std::nullopt);
+    if (quantity.isNull()) {
+        if (m_list->row(item).typed)
+            m_actions.count(item, std::nullopt);
+        return;
+    }
     if (quantity.toDouble() != m_list->row(item).counted())
-        requireWithin(limits(item), m_quantity, text);
+        requireWithinLimits(item, text);
     m_actions.count(item, quantity.toDouble());
+}
+
+void CountGrid::requireWithinLimits(int item, const QString &text) const
+{
+    const LineSteps within = limits(item);
+    if (m_blind && m_quantity.parse(text).toDouble() > within.highest)
+        throw RuleError(
+            tr("This is more than is recorded. Count the item once more. If it is right, write down what is "
+               "there, to enter it as an adjustment when the usage of the count has been posted."),
+            m_quantity.name);
+    requireWithin(within, m_quantity, text);
 }
 
 void CountGrid::entered() { nextItem(); }

@@ -28,6 +28,8 @@ public:
     explicit CountGrid(QWidget *parent = nullptr);
 
     void setList(const CountList &list, CountActions actions, const Guard &guard);
+    // Hides what the books hold, and refuses a count above that without telling it.
+    void setBlind(bool blind);
     void listChanged(); // other items, or another order
     void itemChanged(int item);
 
@@ -53,6 +55,7 @@ private:
     void titleClicked(int column);
     void showOrder();
     LineSteps limits(int item) const;
+    void requireWithinLimits(int item, const QString &text) const;
 
     const CountList *m_list = nullptr;
     CountModel *m_model = nullptr;
@@ -60,6 +63,7 @@ private:
     Engine::Field m_quantity;
     Engine::Field m_cost;
     qint64 m_currentId = 0; // the item of the cursor
+    bool m_blind = false;
     bool m_confirming = false; // Enter takes what stands in the editor for counted
 };
 

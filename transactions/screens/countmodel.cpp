@@ -31,21 +31,6 @@ QFont bold()
 
 bool isCountColumn(int column) { return column == CountModel::Quantity || column == CountModel::Difference; }
 
-// What has been counted is bold, and on a ground of its own where it differs; what has not been shows the recorded quantity
-// faintly.
-QVariant look(const CountRow &row, int column, int role)
-{
-    if (!isCountColumn(column))
-        return {};
-    if (role == cellQuietRole)
-        return !row.typed;
-    if (role == Qt::BackgroundRole && row.typed && row.differs())
-        return Look(QGuiApplication::palette()).colour(Look::Role::NoticeGround);
-    if (role == Qt::FontRole && row.typed)
-        return bold();
-    return {};
-}
-
 bool isNegative(const CountRow &row, int column)
 {
     switch (column) {
@@ -71,7 +56,7 @@ QList<GridColumn> CountModel::gridColumns()
 {
     return {{u"ItemNo"_s, tr("Item No"), 90},
             {u"TypeName"_s, tr("Category"), 130},
-            {.field = u"ItemDescription"_s, .title = tr("Item"), .width = 230, .takesSurplus = true},
+            {.field = u"ItemDescription"_s, .title = tr("Item"), .width = 300, .takesSurplus = true},
             {u"StandardCost"_s, tr("Standard Cost"), 112, Qt::AlignRight},
             {u"QtyOnhand"_s, tr("Prior Quantity"), 105, Qt::AlignRight},
             {u"Quantity"_s, tr("Current Quantity"), 120, Qt::AlignRight},
@@ -104,6 +89,13 @@ void CountModel::rowChanged(int item)
     Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
 }
 
+void CountModel::setBlind(bool blind)
+{
+    m_blind = blind;
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+}
+
 int CountModel::rowOf(int item) const
 {
     const auto found = std::find(m_items.begin(), m_items.end(), item);
@@ -127,6 +119,11 @@ int CountModel::rowCount(const QModelIndex &parent) const
 
 int CountModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : ColumnCount; }
 
+QString CountModel::quantityText(const CountRow &row) const
+{
+    return Tallymere::quantityText(row.typed || m_blind ? row.typed : row.recorded);
+}
+
 QString CountModel::text(const CountRow &row, int column, int role) const
 {
     switch (column) {
@@ -139,14 +136,29 @@ QString CountModel::text(const CountRow &row, int column, int role) const
     case StandardCost:
         return role == Qt::EditRole ? currencyEditText(row.standardCost) : currencyText(row.standardCost);
     case Prior:
-        return quantityText(row.recorded);
+        return m_blind ? QString() : Tallymere::quantityText(row.recorded);
     case Quantity:
-        return quantityText(row.typed ? row.typed : row.recorded);
+        return quantityText(row);
     case Difference:
-        return row.typed ? quantityText(row.difference()) : QString();
+        return row.typed && !m_blind ? Tallymere::quantityText(row.difference()) : QString();
     default: // what a difference is valued at
         return currencyText(row.unitCost);
     }
+}
+
+// What has been counted is bold, and on a ground of its own where it differs; what has not been shows the recorded quantity
+// faintly.
+QVariant CountModel::look(const CountRow &row, int column, int role) const
+{
+    if (!isCountColumn(column))
+        return {};
+    if (role == cellQuietRole)
+        return !row.typed;
+    if (role == Qt::BackgroundRole && row.typed && row.differs() && !m_blind)
+        return Look(QGuiApplication::palette()).colour(Look::Role::NoticeGround);
+    if (role == Qt::FontRole && row.typed)
+        return bold();
+    return {};
 }
 
 QVariant CountModel::headingData(int row, int role) const // over all columns

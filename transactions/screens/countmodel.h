@@ -23,6 +23,8 @@ public:
 
     void listChanged(); // other items, or another order
     void rowChanged(int item);
+    // Whoever counts must not see what the books hold, nor what a count differs from it by.
+    void setBlind(bool blind);
 
     // Between the rows of the grid and the items of the list; -1 for a heading.
     int itemAt(int row) const { return row < 0 || row >= rowCount() ? -1 : m_items[static_cast<size_t>(row)]; }
@@ -38,8 +40,11 @@ public:
 private:
     QVariant headingData(int row, int role) const;
     QString text(const CountRow &row, int column, int role) const;
+    QString quantityText(const CountRow &row) const;
+    QVariant look(const CountRow &row, int column, int role) const;
 
     const CountList &m_list;
+    bool m_blind = false;
     const QList<GridColumn> m_columns = gridColumns();
     std::vector<int> m_items; // by row
 };

@@ -4,12 +4,14 @@
 #include "base/plural.h"
 #include "base/ruleerror.h"
 #include "controls/screens/listscreen.h"
+#include "controls/windows/icons.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/typing.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "engine/values/error.h"
 #include "transactions/documentkinds.h"
+#include "transactions/screens/countdifferencesscreen.h"
 #include "transactions/screens/countsearch.h"
 #include "ui_enterinventory.h"
 
@@ -38,8 +40,11 @@ TFormEnterInventory::TFormEnterInventory(ScreenContext &context, QWidget *parent
     : EntryScreen(context, parent)
     , m_ui(std::make_unique<Ui::TFormEnterInventory>())
     , m_count(context.data.databaseTallymere(), context.prompts, draftsOf(context.data))
+    , m_last(Settings::countScreen, context.data, context.settings)
 {
     m_ui->setupUi(this);
+    m_ui->chkBlind->setChecked(m_last.read().value(Settings::BlindCount));
+    setGlyph(*m_ui->btnDifferences, Glyph::Totals);
     m_ui->wwDBDateTimePickerInventoryDate->setToday(context.data.today());
     m_ui->wwDBDateTimePickerInventoryDate->setDate(context.data.today());
     m_ui->wwDBDateTimePickerInventoryDate->setMaximumDate(StockCount::latestDate(context.data.today()));
@@ -86,6 +91,8 @@ void TFormEnterInventory::connectControls()
     connect(m_search, &CountSearch::found, this, [this] { showStatus(); });
     connect(m_ui->wwDBGridInventory, &CountGrid::itemShown, this, [this] { showStatus(); });
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_search, &CountSearch::start);
+    connectGuarded(m_ui->chkBlind, &QCheckBox::clicked, this, &TFormEnterInventory::blindChosen);
+    connectGuarded(m_ui->btnDifferences, &QPushButton::clicked, this, &TFormEnterInventory::btnDifferencesClick);
     connectGuarded(m_ui->BitBtnOK, &QPushButton::clicked, this, &TFormEnterInventory::bitBtnOKClick);
     connect(m_ui->BitBtnCancel, &QPushButton::clicked, this, &QWidget::close);
     connectGuarded(m_ui->ActionCalculateConsumption, &QAction::triggered, this,
@@ -239,6 +246,25 @@ void TFormEnterInventory::sortBy(CountList::Order order)
     m_ui->wwDBGridInventory->listChanged();
 }
 
+void TFormEnterInventory::blindChosen()
+{
+    Choices choices;
+    choices.set(Settings::BlindCount, m_ui->chkBlind->isChecked());
+    m_last.keep(choices);
+    showBooks();
+    showStatus();
+}
+
+// There is nothing left to be swayed by when the usage has been written.
+bool TFormEnterInventory::hidesBooks() const { return m_ui->chkBlind->isChecked() && !m_count.isCalculated(); }
+
+void TFormEnterInventory::showBooks()
+{
+    m_ui->wwDBGridInventory->setBlind(hidesBooks());
+    m_ui->btnDifferences->setEnabled(m_count.isOpen() && !hidesBooks());
+    m_ui->btnDifferences->setToolTip(hidesBooks() ? tr("Not while the count is blind") : QString());
+}
+
 bool TFormEnterInventory::takeKey(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -330,6 +356,7 @@ void TFormEnterInventory::showList()
 
 void TFormEnterInventory::showStatus(const QString &said)
 {
+    showBooks();
     m_ui->lblStatus->setText(said.isEmpty() ? statusText() + cutFiguresText() : said);
     m_ui->lblStatus->setToolTip(m_count.draftFailure());
 }
@@ -348,9 +375,12 @@ QString TFormEnterInventory::statusText() const
     if (!hasCountableDate())
         return tr("The date is a year back or more: choose a later one");
     const CountList::Totals totals = m_count.list().totals();
-    const QString text = tr("%1 of %2 counted, %3 differ, value of the difference %4")
-                             .arg(QString::number(totals.counted), QString::number(m_count.list().size()),
-                                  QString::number(totals.differing), currencyText(totals.value));
+    const QString counted = QString::number(totals.counted);
+    const QString size = QString::number(m_count.list().size());
+    const QString text = hidesBooks()
+        ? tr("%1 of %2 counted").arg(counted, size)
+        : tr("%1 of %2 counted, %3 differ, value of the difference %4")
+              .arg(counted, size, QString::number(totals.differing), currencyText(totals.value));
     return m_count.draftFailure().isEmpty() ? text : text + tr(" - not kept on this machine");
 }
 
@@ -366,6 +396,14 @@ QString TFormEnterInventory::hintText() const
     const QString choose = tr("Choose the location that is counted.");
     return kept.isEmpty() ? choose
                           : choose + u"\n\n"_s + tr("Counted and not calculated yet: %1").arg(kept.join(u", "_s));
+}
+
+void TFormEnterInventory::btnDifferencesClick()
+{
+    m_ui->wwDBGridInventory->commitEntry();
+    TfrmCountDifferences differences(context(), m_count.list(), this);
+    if (differences.exec() == QDialog::Accepted)
+        m_ui->wwDBGridInventory->countItem(m_count.list().rowOfItem(differences.chosenItem()));
 }
 
 // --- the end ----------------------------------------------------------------------------------------------------

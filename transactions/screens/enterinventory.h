@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/screens/entryscreen.h"
+#include "data/lastchoices.h"
 #include "transactions/stockcount.h"
 
 #include <memory>
@@ -16,6 +17,7 @@ class CountSearch;
 // "Enter Inventory": the stock at a location is counted, and what has been used becomes a usage document.
 //
 // An item number typed or scanned into the search box leads to the item's quantity, and Enter there to the next one.
+// A blind count hides what the books hold until it has been calculated, so that nobody writes that down in place of counting.
 // What is counted is kept on this machine until it has been calculated; closing asks whether to keep it.
 class TFormEnterInventory final : public EntryScreen
 {
@@ -27,6 +29,7 @@ public:
 
     void bitBtnOKClick();
     void actionCalculateConsumptionExecute();
+    void btnDifferencesClick();
 
 protected:
     Pending pending() const override;
@@ -56,6 +59,9 @@ private:
     bool mayLoseCounts(const QString &question);
 
     void sortBy(CountList::Order order);
+    void blindChosen();
+    bool hidesBooks() const;
+    void showBooks(); // or hides them
 
     void countItem(int item, std::optional<double> quantity);
     void dateChosen();
@@ -72,6 +78,7 @@ private:
 
     const std::unique_ptr<Ui::TFormEnterInventory> m_ui;
     StockCount m_count;
+    const LastChoices m_last;
     CountSearch *m_search = nullptr;
     int m_chosen = -1; // the location of the list, by its place in the box
 };

@@ -1,0 +1,92 @@
+#include "transactions/screens/differencemodel.h"
+
+#include "base/formats.h"
+#include "controls/grids/cellnote.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+QString quantityText(double quantity)
+{
+    static const Engine::FieldFormat format = quantityFormat();
+    return format.display(Engine::Value(quantity));
+}
+
+} // namespace
+
+QList<GridColumn> DifferenceModel::gridColumns()
+{
+    return {{u"ItemNo"_s, tr("Item No"), 90},
+            {u"ItemDescription"_s, tr("Item"), 220},
+            {u"Difference"_s, tr("Difference"), 90, Qt::AlignRight},
+            {u"UnitCost"_s, tr("Unit Cost"), 80, Qt::AlignRight},
+            {u"Value"_s, tr("Value"), 90, Qt::AlignRight},
+            {.field = u"Bar"_s, .title = tr("Where the money is"), .width = 240, .takesSurplus = true}};
+}
+
+DifferenceModel::DifferenceModel(const CountDifferences &differences, QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_differences(differences)
+{
+}
+
+int DifferenceModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_differences.items().size());
+}
+
+int DifferenceModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : ColumnCount; }
+
+QString DifferenceModel::text(const CountDifference &item, int column)
+{
+    switch (column) {
+    case ItemNo:
+        return item.itemNo;
+    case Item:
+        return item.description;
+    case Quantity:
+        return quantityText(item.quantity);
+    case UnitCost:
+        return currencyText(item.unitCost);
+    case Value:
+        return currencyText(item.value);
+    default: // a picture
+        return {};
+    }
+}
+
+QVariant DifferenceModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const CountDifference &item = at(index.row());
+    const bool isFigure = index.column() == Quantity || index.column() == Value;
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(item, index.column());
+    case Qt::AccessibleTextRole: // the picture in words
+        return text(item, index.column() == Bar ? Value : index.column());
+    case Qt::TextAlignmentRole:
+        return QVariant(m_columns[index.column()].alignment | Qt::AlignVCenter);
+    case cellNoteRole:
+        return static_cast<int>(isFigure && item.quantity < 0 ? CellNote::Negative : CellNote::None);
+    default:
+        return {};
+    }
+}
+
+QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section >= ColumnCount)
+        return {};
+    if (role == Qt::DisplayRole)
+        return m_columns[section].title;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(m_columns[section].alignment | Qt::AlignVCenter);
+    return {};
+}
+
+} // namespace Tallymere
