@@ -20,7 +20,7 @@ QString quantityText(double quantity)
 QList<GridColumn> DifferenceModel::gridColumns()
 {
     return {{u"ItemNo"_s, tr("Item No"), 90},
-            {u"ItemDescription"_s, tr("Item"), 220},
+            {u"ItemDescription"_s, tr("Item"), 260},
             {u"Difference"_s, tr("Difference"), 90, Qt::AlignRight},
             {u"UnitCost"_s, tr("Unit Cost"), 80, Qt::AlignRight},
             {u"Value"_s, tr("Value"), 90, Qt::AlignRight},
