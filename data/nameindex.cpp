@@ -1,0 +1,172 @@
+#include "data/nameindex.h"
+
+#include "engine/store/database.h"
+#include "engine/store/dialect.h"
+
+#include <algorithm>
+#include <limits>
+#include <QElapsedTimer>
+#include <QStringMatcher>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+constexpr int rowsOfAStep = 2'000;
+
+// What parts the texts must not be in them.
+QString oneLine(QString text)
+{
+    for (QChar &letter : text) {
+        if (letter.unicode() < u' ')
+            letter = u' ';
+    }
+    return text;
+}
+
+bool comesBefore(const NameIndex::Found &one, const NameIndex::Found &other)
+{
+    if (one.rank != other.rank)
+        return one.rank < other.rank;
+    if (const int order = one.number.compare(other.number))
+        return order < 0;
+    return one.name < other.name;
+}
+
+// So many of the best, as a heap with the worst on top.
+class BestFound
+{
+public:
+    explicit BestFound(int most)
+        : m_most(most)
+    {
+    }
+
+    bool mayTake(TextMatch::Rank rank) const
+    {
+        return rank != TextMatch::Rank::None && !(isFull() && m_heap.constFirst().rank < rank);
+    }
+    void take(NameIndex::Found found)
+    {
+        if (isFull()) {
+            if (!comesBefore(found, m_heap.constFirst()))
+                return;
+            std::pop_heap(m_heap.begin(), m_heap.end(), comesBefore);
+            m_heap.removeLast();
+        }
+        m_heap.append(std::move(found));
+        std::push_heap(m_heap.begin(), m_heap.end(), comesBefore);
+    }
+    QList<NameIndex::Found> inOrder()
+    {
+        std::sort_heap(m_heap.begin(), m_heap.end(), comesBefore);
+        return std::move(m_heap);
+    }
+
+private:
+    bool isFull() const { return m_heap.size() == m_most; }
+
+    int m_most;
+    QList<NameIndex::Found> m_heap;
+};
+
+} // namespace
+
+NameIndex::NameIndex(Engine::Database &database, NameSource source)
+    : m_database(database)
+    , m_source(std::move(source))
+{
+}
+
+void NameIndex::Records::append(qint64 key, const QString &number, const QString &name)
+{
+    const QString text = oneLine(number) + u'\t' + oneLine(name);
+    keys.push_back(key);
+    plainStarts.push_back(plain.size());
+    storedStarts.push_back(stored.size());
+    plain += plainText(text) + u'\n';
+    stored += text + u'\n';
+}
+
+void NameIndex::readAnew()
+{
+    m_next = {};
+    m_lastKey = std::numeric_limits<qint32>::min();
+    m_reading = true;
+}
+
+bool NameIndex::readOn(qint64 milliseconds)
+{
+    if (!m_reading)
+        return false;
+    QElapsedTimer timer;
+    timer.start();
+    bool more = true;
+    do {
+        more = readSome();
+    } while (more && timer.elapsed() < milliseconds);
+    if (!more) {
+        m_records = std::exchange(m_next, {});
+        m_complete = true;
+        m_reading = false;
+    }
+    return !more || !m_complete;
+}
+
+// By ranges of keys: no statement stays open while the user goes on.
+bool NameIndex::readSome()
+{
+    const Engine::Dialect &dialect = m_database.connection().dialect();
+    const QString number = m_source.numberField.isEmpty() ? u"NULL"_s : dialect.name(m_source.numberField);
+    const Engine::StatementPtr rows =
+        m_database.connection().prepare(u"SELECT %1, %2, %3 FROM %4 WHERE %1 > ? ORDER BY %1 LIMIT %5"_s.arg(
+            dialect.name(m_source.keyField), number, dialect.name(m_source.nameField), dialect.name(m_source.table),
+            QString::number(rowsOfAStep)));
+    rows->bindInt(0, m_lastKey);
+    int count = 0;
+    for (; rows->next(); ++count) {
+        m_lastKey = rows->intAt(0);
+        m_next.append(m_lastKey, rows->textAt(1), rows->textAt(2));
+    }
+    return count == rowsOfAStep;
+}
+
+NameIndex::Parts NameIndex::partsOf(const QString &texts, const std::vector<qsizetype> &starts, size_t record)
+{
+    const qsizetype start = starts[record];
+    const qsizetype end = (record + 1 < starts.size() ? starts[record + 1] : texts.size()) - 1;
+    const QStringView all = QStringView(texts).sliced(start, end - start);
+    const qsizetype tab = all.indexOf(u'\t');
+    return {all, all.first(tab), all.sliced(tab + 1)};
+}
+
+// The longest word is searched for through all texts at once; only where it stands the others are looked at.
+QList<NameIndex::Found> NameIndex::find(const TextMatch &what, int most) const
+{
+    if (what.isEmpty() || most < 1)
+        return {};
+    const Records &records = m_complete ? m_records : m_next;
+    const std::vector<qsizetype> &starts = records.plainStarts;
+    const QStringMatcher matcher(
+        *std::max_element(what.words().begin(), what.words().end(),
+                          [](const QString &one, const QString &other) { return one.size() < other.size(); }));
+    BestFound best(most);
+    auto next = starts.begin(); // record that has not been looked at
+    for (qsizetype at = matcher.indexIn(records.plain); at >= 0;) {
+        next = std::upper_bound(next, starts.end(), at);
+        const auto record = static_cast<size_t>(next - starts.begin()) - 1;
+        const Parts plain = partsOf(records.plain, starts, record);
+        const TextMatch::Rank rank = what.plainRank(plain.number, plain.name);
+        if (best.mayTake(rank)) {
+            const Parts stored = partsOf(records.stored, records.storedStarts, record);
+            if (what.accentsAgree(stored.all.toString()))
+                best.take({records.keys[record], stored.number.toString(), stored.name.toString(), rank});
+        }
+        at = next == starts.end() ? -1 : matcher.indexIn(records.plain, *next);
+    }
+    return best.inOrder();
+}
+
+} // namespace Tallymere
