@@ -44,20 +44,22 @@ public:
     {
     }
 
-    bool mayTake(TextMatch::Rank rank) const
+    // Whether an answer would be among them, told by what is at hand before it is made.
+    bool wants(TextMatch::Rank rank, QStringView number) const
     {
-        return rank != TextMatch::Rank::None && !(isFull() && m_heap.constFirst().rank < rank);
+        if (rank == TextMatch::Rank::None || !isFull())
+            return rank != TextMatch::Rank::None;
+        const NameIndex::Found &worst = m_heap.constFirst();
+        return rank != worst.rank ? rank < worst.rank : number.compare(worst.number) <= 0;
     }
     void take(NameIndex::Found found)
     {
-        if (isFull()) {
-            if (!comesBefore(found, m_heap.constFirst()))
-                return;
-            std::pop_heap(m_heap.begin(), m_heap.end(), comesBefore);
-            m_heap.removeLast();
-        }
         m_heap.append(std::move(found));
         std::push_heap(m_heap.begin(), m_heap.end(), comesBefore);
+        if (m_heap.size() <= m_most)
+            return;
+        std::pop_heap(m_heap.begin(), m_heap.end(), comesBefore);
+        m_heap.removeLast();
     }
     QList<NameIndex::Found> inOrder()
     {
@@ -71,6 +73,43 @@ private:
     int m_most;
     QList<NameIndex::Found> m_heap;
 };
+
+// Where a word stands in the texts. One of a letter or two is found quicker by its first letter than by the table of a
+// matcher, which pays with the length of the word.
+class WordFinder
+{
+public:
+    explicit WordFinder(const QString &word)
+        : m_word(word)
+        , m_matcher(word)
+    {
+    }
+
+    qsizetype indexIn(const QString &texts, qsizetype from) const
+    {
+        constexpr int shortest = 3; // for the matcher
+        if (m_word.size() >= shortest)
+            return m_matcher.indexIn(texts, from);
+        qsizetype at = texts.indexOf(m_word.front(), from);
+        while (at >= 0 && !QStringView(texts).sliced(at).startsWith(m_word))
+            at = texts.indexOf(m_word.front(), at + 1);
+        return at;
+    }
+
+private:
+    const QString m_word;
+    const QStringMatcher m_matcher;
+};
+
+// Of starts in order. Mostly it is the next one, or not far from it.
+template <typename Start> Start firstBeyond(Start from, Start end, qsizetype at)
+{
+    for (int step = 0; step < 8; ++step, ++from) {
+        if (from == end || *from > at)
+            return from;
+    }
+    return std::upper_bound(from, end, at);
+}
 
 } // namespace
 
@@ -149,22 +188,20 @@ QList<NameIndex::Found> NameIndex::find(const TextMatch &what, int most) const
         return {};
     const Records &records = m_complete ? m_records : m_next;
     const std::vector<qsizetype> &starts = records.plainStarts;
-    const QStringMatcher matcher(
+    const WordFinder word(
         *std::max_element(what.words().begin(), what.words().end(),
                           [](const QString &one, const QString &other) { return one.size() < other.size(); }));
     BestFound best(most);
     auto next = starts.begin(); // record that has not been looked at
-    for (qsizetype at = matcher.indexIn(records.plain); at >= 0;) {
-        next = std::upper_bound(next, starts.end(), at);
+    for (qsizetype at = word.indexIn(records.plain, 0); at >= 0;) {
+        next = firstBeyond(next, starts.end(), at);
         const auto record = static_cast<size_t>(next - starts.begin()) - 1;
         const Parts plain = partsOf(records.plain, starts, record);
         const TextMatch::Rank rank = what.plainRank(plain.number, plain.name);
-        if (best.mayTake(rank)) {
-            const Parts stored = partsOf(records.stored, records.storedStarts, record);
-            if (what.accentsAgree(stored.all.toString()))
-                best.take({records.keys[record], stored.number.toString(), stored.name.toString(), rank});
-        }
-        at = next == starts.end() ? -1 : matcher.indexIn(records.plain, *next);
+        const Parts stored = partsOf(records.stored, records.storedStarts, record);
+        if (best.wants(rank, stored.number) && what.accentsAgree(stored.all.toString()))
+            best.take({records.keys[record], stored.number.toString(), stored.name.toString(), rank});
+        at = next == starts.end() ? -1 : word.indexIn(records.plain, *next);
     }
     return best.inOrder();
 }

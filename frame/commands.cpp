@@ -6,6 +6,8 @@
 #include "master/masterkind.h"
 #include "master/screens/masterscreens.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
@@ -166,6 +168,14 @@ const QList<MainCommand> &commands()
         return list;
     }();
     return all;
+}
+
+const MainCommand *commandTo(const QString &screen)
+{
+    const auto found = std::find_if(commands().begin(), commands().end(), [&screen](const MainCommand &one) {
+        return one.screen == screen && one.opening != ScreenOpening::Post;
+    });
+    return found == commands().end() ? nullptr : &*found;
 }
 
 } // namespace Tallymere

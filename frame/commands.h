@@ -49,5 +49,7 @@ struct MainCommand
 };
 
 const QList<MainCommand> &commands();
+// The one that opens a screen, by its component name, other than to post; null when there is none.
+const MainCommand *commandTo(const QString &screen);
 
 } // namespace Tallymere

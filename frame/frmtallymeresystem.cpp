@@ -12,6 +12,12 @@
 #include "data/lookupsdatainv.h"
 #include "frame/aboutform.h"
 #include "frame/boundaction.h"
+#include "frame/finder/commandsource.h"
+#include "frame/finder/documentsource.h"
+#include "frame/finder/finder.h"
+#include "frame/finder/finderdesk.h"
+#include "frame/finder/manualsource.h"
+#include "frame/finder/recordsource.h"
 #include "frame/forhosts/reportholder.h"
 #include "frame/helpdesk.h"
 #include "frame/hostinifile.h"
@@ -20,8 +26,10 @@
 #include "frame/todaypanel.h"
 #include "frame/tracescope.h"
 #include "master/screens/dialerinv.h"
+#include "master/screens/masterscreens.h"
 #include "reports/reportlist.h"
 #include "reports/screens/showreport.h"
+#include "transactions/screens/documentscreens.h"
 #include "ui_frmtallymeresystem.h"
 
 #include <algorithm>
@@ -62,6 +70,8 @@ TFormTallymereSystem::TFormTallymereSystem(const FrameServices &services, QWidge
     , m_ui(std::make_unique<Ui::TFormTallymereSystem>())
     , m_actionList(new QObject(this))
     , m_help(new HelpDesk(*this, services.settings, services.prompts))
+    , m_finder(new FinderDesk(*this, m_guard,
+                              [this](Finder &finder, QWidget &window) { return fillFinder(finder, window); }))
 {
     const TraceScope scope("TFormTallymereSystem.FormCreate");
     m_ui->setupUi(this);
@@ -212,6 +222,20 @@ void TFormTallymereSystem::fillContext()
     });
 }
 
+// In the order in which equally good answers are offered.
+bool TFormTallymereSystem::fillFinder(Finder &finder, QWidget &window)
+{
+    if (!m_context)
+        return false;
+    for (const MasterScreen &screen : masterScreens())
+        finder.add(std::make_unique<RecordSource>(*m_context, screen, window));
+    for (const DocumentScreens &screens : documentScreens())
+        finder.add(std::make_unique<DocumentSource>(*m_context, screens.kind, window));
+    finder.add(std::make_unique<CommandSource>(*m_ui->MainMenu1));
+    finder.add(std::make_unique<ManualSource>([this](const QUrl &page) { m_help->showPage(page); }));
+    return true;
+}
+
 void TFormTallymereSystem::showModal()
 {
     if (m_modalLoop) {
@@ -284,6 +308,7 @@ void TFormTallymereSystem::bindControls()
 
     connect(m_ui->BitBtnClose, &QPushButton::clicked, this, &QWidget::close);
     connect(m_ui->Exit1, &QAction::triggered, this, &TFormTallymereSystem::exit1Click);
+    connect(m_ui->mnuFindAnything, &QAction::triggered, m_finder, &FinderDesk::open);
     connect(m_ui->HelpTopics1, &QAction::triggered, this, &TFormTallymereSystem::helpTopics1Click);
     connect(m_ui->About1, &QAction::triggered, this, &TFormTallymereSystem::about1Click);
 }
@@ -302,10 +327,8 @@ void TFormTallymereSystem::connectToday()
 // By the command that leads to the screen, whose rights are asked for.
 void TFormTallymereSystem::openToday(const TodayLine &line, bool waits)
 {
-    const auto command = std::find_if(commands().begin(), commands().end(), [&line](const MainCommand &one) {
-        return one.screen == line.screen && one.opening != ScreenOpening::Post;
-    });
-    if (command == commands().end() || !m_context || isHeldByDialog(this))
+    const MainCommand *command = commandTo(line.screen);
+    if (!command || !m_context || isHeldByDialog(this))
         return;
     m_guard.run([&] {
         m_runner.run(*command, *m_context, waits ? CommandRunner::Rows::Waiting : CommandRunner::Rows::All);

@@ -20,6 +20,8 @@ namespace Ui {
 class TFormTallymereSystem;
 }
 
+class Finder;
+class FinderDesk;
 class HelpDesk;
 class ScreenRegistry;
 class SettingsStore;
@@ -97,6 +99,7 @@ private:
     void scaleSizes();
     void prepareOpening();
     void fillContext();
+    bool fillFinder(Finder &finder, QWidget &window);
     void makeDialer();
     void showUser(const QString &user);
     void showModal();
@@ -112,6 +115,7 @@ private:
     std::unique_ptr<Ui::TFormTallymereSystem> m_ui;
     QObject *m_actionList;
     HelpDesk *m_help;
+    FinderDesk *m_finder;
     QLabel *m_leftPane = nullptr;
     QLabel *m_hintPane = nullptr;
     QProgressBar *m_progress = nullptr;

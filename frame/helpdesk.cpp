@@ -74,6 +74,12 @@ void HelpDesk::showTopic(const QString &screenName)
         help->showPage(help->manual().pageOf(screenName));
 }
 
+void HelpDesk::showPage(const QUrl &page)
+{
+    if (HelpWindow *help = window())
+        help->showPage(page);
+}
+
 void HelpDesk::showContents()
 {
     if (HelpWindow *help = window())

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 
+class QUrl;
 class QWidget;
 
 namespace Tallymere {
@@ -22,6 +23,7 @@ public:
 
     void showTopic(const QString &screenName);
     void showContents();
+    void showPage(const QUrl &page);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

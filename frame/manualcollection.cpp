@@ -5,8 +5,12 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QHelpEngine>
+#include <QHelpIndexModel>
 #include <QHelpLink>
+#include <QRegularExpression>
+#include <QTextDocumentFragment>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +30,22 @@ QString findManual()
             return file.canonicalFilePath();
     }
     return {};
+}
+
+// The page itself, then its sections.
+QList<ManualCollection::Topic> topicsOf(const QUrl &page, const QString &html)
+{
+    static const QRegularExpression title(u"<title>(.*?)</title>"_s);
+    static const QRegularExpression section(u"<h[23]><a name=\"(.*?)\"></a>(.*?)</h"_s);
+    const QString name = title.match(html).captured(1);
+    QList<ManualCollection::Topic> topics{{name, {}, page}};
+    for (auto found = section.globalMatch(html); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        QUrl place = page;
+        place.setFragment(match.captured(1));
+        topics.append({QTextDocumentFragment::fromHtml(match.captured(2)).toPlainText(), name, place});
+    }
+    return topics;
 }
 
 } // namespace
@@ -57,5 +77,25 @@ QUrl ManualCollection::pageOf(const QString &screenName) const
 }
 
 QUrl ManualCollection::firstPage() const { return pageOf(start); }
+
+bool ManualCollection::hasIndex() const { return m_engine->indexModel()->rowCount() > 0; }
+
+QList<ManualCollection::Topic> ManualCollection::topics() const
+{
+    QList<Topic> topics;
+    QHash<QString, QString> titles; // of the pages, by their paths
+    for (const QString &manual : m_engine->registeredDocumentations()) {
+        for (const QUrl &page : m_engine->files(manual, QString(), u"html"_s)) {
+            const QList<Topic> found = topicsOf(page, QString::fromUtf8(m_engine->fileData(page)));
+            titles.insert(page.path(), found.constFirst().title);
+            topics += found;
+        }
+    }
+    for (const QString &word : m_engine->indexModel()->stringList()) {
+        for (const QHelpLink &link : m_engine->documentsForKeyword(word))
+            topics.append({word, titles.value(link.url.path()), link.url});
+    }
+    return topics;
+}
 
 } // namespace Tallymere

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <QList>
+#include <QString>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -24,6 +26,17 @@ public:
     // The page that a screen, named by its component name, is explained on; empty where there is none of its own.
     QUrl pageOf(const QString &screenName) const;
     QUrl firstPage() const;
+
+    // What pages and their sections are called, and the words of the index. These come a moment after the collection has
+    // been opened, while events are handled.
+    struct Topic
+    {
+        QString title;
+        QString page; // that it stands on
+        QUrl place;
+    };
+    QList<Topic> topics() const;
+    bool hasIndex() const;
 
 private:
     QString open(const QString &file); // returns what keeps it from that

@@ -70,6 +70,13 @@ template <typename Widget> QList<Widget *> widgetsIn(const QWidget &window)
 
 } // namespace
 
+QString plainCaption(QString caption)
+{
+    for (qsizetype at = caption.indexOf(u'&'); at >= 0; at = caption.indexOf(u'&', at + 1))
+        caption.remove(at, 1);
+    return caption;
+}
+
 QChar letterOf(const QString &caption)
 {
     const qsizetype mark = markIn(caption);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/screens/recordopener.h"
+
 #include <functional>
 #include <QList>
 
@@ -9,13 +11,13 @@ namespace Tallymere {
 
 class MasterListScreen;
 struct MasterKind;
-struct ScreenContext;
 
-// A list of the master data with its screen.
+// A list of the master data with its screen, and that of a record.
 struct MasterScreen
 {
     const MasterKind &kind;
     std::function<MasterListScreen *(ScreenContext &, QWidget *parent)> make;
+    RecordScreens::Make makeRecord;
 };
 
 // In the order in which the main window offers them.

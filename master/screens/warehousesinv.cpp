@@ -1,16 +1,10 @@
 #include "master/screens/warehousesinv.h"
 
-#include "master/masterkinds.h"
-#include "master/screens/masterrecordscreen.h"
 #include "ui_warehouseinv.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
-
-namespace {
-using TfrmWarehouseInv = MasterForm<MasterKinds::location, Ui::TfrmWarehouseInv>;
-} // namespace
 
 TfrmWarehousesInv::TfrmWarehousesInv(ScreenContext &context, QWidget *parent)
     : MasterListScreen(context, MasterKinds::location(), RecordScreens::makes<TfrmWarehouseInv>(), parent)

@@ -3,6 +3,7 @@
 #include "frame/figurebutton.h"
 #include "frame/frmtallymeresystem.h"
 #include "master/screens/dialerinv.h"
+#include "tests/frame/hoststub.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
 
@@ -14,26 +15,6 @@ using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
-
-class HostStub final : public QWidget, public IHostInterface
-{
-public:
-    ~HostStub() override { m_ended = true; }
-
-    int addRef() override { return ++references; }
-    int release() override
-    {
-        EXPECT_FALSE(m_ended) << "it is destroyed already";
-        return --references;
-    }
-    void getCurrentUser(QString &name) override { name = user; }
-
-    QString user = u"maria"_s;
-    int references = 0;
-
-private:
-    bool m_ended = false;
-};
 
 // A screen that writes down what is done to it, and may refuse to be closed.
 class StubbornScreen final : public QWidget, public CommandScreen

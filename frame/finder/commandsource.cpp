@@ -1,0 +1,94 @@
+#include "frame/finder/commandsource.h"
+
+#include "controls/windows/icons.h"
+#include "controls/windows/mnemonics.h"
+#include "frame/commands.h"
+#include "frame/texts.h"
+
+#include <algorithm>
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+// The entries that run something, with the menus that they stand in.
+struct Entry
+{
+    QAction *action;
+    QStringList menus;
+};
+
+QList<Entry> entriesOf(const QList<QAction *> &actions, const QStringList &menus)
+{
+    QList<Entry> entries;
+    for (QAction *action : actions) {
+        if (!action->isEnabled() || action->isSeparator() || action->text().isEmpty())
+            continue;
+        if (const QMenu *menu = action->menu())
+            entries += entriesOf(menu->actions(), menus + QStringList(plainCaption(menu->title())));
+        else
+            entries.append({action, menus});
+    }
+    return entries;
+}
+
+// In full, where an entry is short for a command of the main window.
+QString titleOf(const QAction &entry)
+{
+    const QString name = entry.property("action").toString();
+    const auto command = std::find_if(commands().begin(), commands().end(),
+                                      [&name](const MainCommand &one) { return one.action == name; });
+    return plainCaption(command == commands().end() ? entry.text() : command->caption);
+}
+
+// By the command and by the entry, which may be shorter, else by all that is said of it.
+TextMatch::Rank rankOf(const TextMatch &match, const QString &title, const Entry &entry)
+{
+    using enum TextMatch::Rank;
+    const QString text = plainCaption(entry.action->text());
+    const TextMatch::Rank rank = std::min(match.rank({}, title), match.rank({}, text));
+    const QStringList words = entry.menus + QStringList{title, text, entry.action->statusTip()};
+    return rank == None && match.isIn(words.join(u' ')) ? Anywhere : rank;
+}
+
+} // namespace
+
+CommandSource::CommandSource(const QMenuBar &menus)
+    : m_menus(menus)
+{
+}
+
+QString CommandSource::caption() const { return FrameTexts::tr("Commands"); }
+
+QList<Finding> CommandSource::find(const Wanted &wanted)
+{
+    QList<Finding> findings;
+    for (const Entry &entry : entriesOf(m_menus.actions(), {})) {
+        const QString title = titleOf(*entry.action);
+        const TextMatch::Rank rank = rankOf(wanted.match, title, entry);
+        if (rank == TextMatch::Rank::None)
+            continue;
+        const QString keys = entry.action->shortcut().toString(QKeySequence::NativeText);
+        findings.append({.id = u"command/"_s + entry.action->objectName(),
+                         .title = title,
+                         .detail = keys.isEmpty() ? entry.menus.join(" > "_L1) : keys,
+                         .glyph = glyphOf(*entry.action),
+                         .rank = rank,
+                         .open = [action = QPointer(entry.action)] {
+                             if (action)
+                                 action->trigger();
+                         }});
+    }
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](const Finding &one, const Finding &other) { return one.rank < other.rank; });
+    return findings.mid(0, wanted.most);
+}
+
+} // namespace Tallymere

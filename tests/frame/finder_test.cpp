@@ -1,0 +1,189 @@
+#include "controls/screens/recordscreen.h"
+#include "data/datamodule.h"
+#include "frame/finder/finderbox.h"
+#include "frame/frmtallymeresystem.h"
+#include "frame/helpwindow.h"
+#include "tests/frame/hoststub.h"
+#include "tests/frame/testcompany.h"
+#include "tests/support/screendriver.h"
+
+#include <QListWidget>
+#include <QTextBrowser>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+struct FinderTest : testing::Test
+{
+    FinderTest()
+    {
+        QMenu *reference = &menu;
+        form.init(&host);
+        form.setMenu(reference);
+    }
+
+    // Does something while the main window is open over two items, a vendor and a document of each kind.
+    void whileWorking(const std::function<void()> &step)
+    {
+        bool done = false;
+        QTimer::singleShot(0, &form, [&] {
+            Engine::Connection &store = form.dataModule()->databaseTallymere().connection();
+            store.execute(
+                u"INSERT INTO Item (ItemID, ItemNo, ItemDescription, ItemTypeID) VALUES "
+                "(1, 'A10', 'Crème fraîche', 1), (2, 'A11', 'Ice cream', 1);"
+                "INSERT INTO Vendor (VendorID, VendorNo, VendorName) VALUES (3, '1010', 'Ödlund');"
+                "INSERT INTO IReceipt (ReceiptID, ReceiptNo, WarehouseID, Posted) VALUES (4, '1010', 1, true);"
+                "INSERT INTO IUsage (UsageID, UsageNo, Description) VALUES (5, '2020', 'Soup for the ödla');"
+                "INSERT INTO IAdjust (AdjustmentID) VALUES (6)"_s);
+            form.activateWindow();
+            EXPECT_TRUE(comesTrue([this] { return QApplication::focusWidget() && form.isActiveWindow(); }));
+            step();
+            done = true;
+            for (QWidget *window : QApplication::topLevelWidgets()) {
+                if (window != &form && window != &host)
+                    window->close();
+            }
+            form.findChild<QPushButton *>(u"BitBtnClose"_s)->click();
+        });
+        menu.actions().constFirst()->trigger();
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(done);
+    }
+    FinderBox *box() { return form.findChild<FinderBox *>({}, Qt::FindDirectChildrenOnly); }
+    QStringList answers()
+    {
+        const auto *list = child<QListWidget>(*box(), "listFound");
+        QStringList texts;
+        for (int row = 0; row < list->count(); ++row)
+            texts << list->item(row)->text();
+        return texts;
+    }
+    // Opens the box over the active window, and lets all be read that it keeps.
+    void openBox()
+    {
+        press(Qt::Key_K, Qt::ControlModifier);
+        ASSERT_TRUE(box() && box()->isVisible());
+        ASSERT_TRUE(comesTrue([this] { return !box()->finder().isReading(); }));
+    }
+    QStringList found(const QString &typed)
+    {
+        openBox();
+        type(typed);
+        const QStringList texts = answers();
+        press(Qt::Key_Escape);
+        EXPECT_FALSE(box()->isVisible());
+        return texts;
+    }
+    // What Enter on the first answer opens: its component name, and the key of a record.
+    QString opened(const QString &typed)
+    {
+        openBox();
+        type(typed);
+        press(Qt::Key_Return);
+        EXPECT_FALSE(box()->isVisible());
+        EXPECT_TRUE(comesTrue([this] { return QApplication::activeWindow() != &form; }));
+        QWidget *window = QApplication::activeWindow();
+        const auto *record = qobject_cast<RecordScreen *>(window);
+        const QString name = record ? window->objectName() + u' ' + QString::number(record->storedKey().value_or(0))
+                                    : window->objectName();
+        window->close();
+        form.activateWindow();
+        EXPECT_TRUE(comesTrue([this] { return QApplication::activeWindow() == &form; }));
+        return name;
+    }
+
+    TestCompany company;
+    const ScreenRegistry screens = productScreens();
+    HostStub host;
+    QMenu menu;
+    TFormTallymereSystem form{FrameServices{company.settings, company.prompts, screens}};
+};
+
+} // namespace
+
+TEST_F(FinderTest, FindsWhateverItIsByNumberOrByAnyWords)
+{
+    whileWorking([this] {
+        EXPECT_EQ(found(u"CREAM ice"_s), (QStringList{u"Items"_s, u"Ice cream"_s}));
+        EXPECT_EQ(found(u"creme"_s), (QStringList{u"Items"_s, u"Crème fraîche"_s}));
+        EXPECT_EQ(found(u"ÖDL"_s),
+                  (QStringList{u"Vendors"_s, u"Ödlund"_s, u"Inventory Usage"_s, u"Inventory Usage 2020"_s}));
+        // One is called just so; of both kinds.
+        EXPECT_EQ(found(u"1010"_s),
+                  (QStringList{u"Vendors"_s, u"Ödlund"_s, u"Inventory Receipts"_s, u"Receipt 1010"_s}));
+        EXPECT_EQ(found(u"receipt 10"_s), (QStringList{u"Inventory Receipts"_s, u"Receipt 1010"_s}));
+        EXPECT_EQ(found(u"adjustment 6"_s).mid(0, 1), QStringList{u"Inventory Adjustments"_s});
+        EXPECT_EQ(found(u"synchronize loc"_s).mid(0, 2), (QStringList{u"Commands"_s, u"Synchronize Locations"_s}));
+        EXPECT_TRUE(found(u"filter receipts"_s).contains(u"Inventory Receipts Filter"_s))
+            << "a section of the manual";
+        EXPECT_TRUE(found(u"average cost"_s).contains(u"average cost"_s)) << "a word of the manual's index";
+        EXPECT_EQ(found(u"no such thing"_s), QStringList());
+    });
+    EXPECT_EQ(company.prompts.said, QStringList());
+}
+
+TEST_F(FinderTest, EnterOpensWhatIsFoundAndTheLastComeBack)
+{
+    whileWorking([this] {
+        EXPECT_EQ(found(QString()), QStringList());
+        EXPECT_EQ(opened(u"fraîche"_s), u"frmItemInv 1"_s);
+        EXPECT_EQ(opened(u"vendor"_s), u"frmVendors"_s) << "the command";
+        EXPECT_EQ(opened(u"receipt 1010"_s), u"frmInvReceipt 4"_s);
+        EXPECT_EQ(opened(u"ödla"_s), u"frmUsage 5"_s);
+        EXPECT_EQ(opened(u"view totals"_s), u"frmInvTotals"_s);
+        EXPECT_EQ(opened(u"fraîche"_s), u"frmItemInv 1"_s);
+        EXPECT_EQ(found(QString()).mid(1, 3),
+                  (QStringList{u"Crème fraîche"_s, u"View Totals"_s, u"Inventory Usage 2020"_s}));
+
+        openBox();
+        type(u"close the month"_s);
+        press(Qt::Key_Return);
+        const auto *help = form.findChild<HelpWindow *>();
+        ASSERT_TRUE(help && help->isVisible());
+        EXPECT_TRUE(child<QTextBrowser>(*help, "browser")->source().path().endsWith("monthend.html"_L1));
+    });
+    EXPECT_EQ(company.prompts.said, QStringList());
+}
+
+// A field knows Ctrl+K as a key of its own, and what stands in it must not suffer.
+TEST_F(FinderTest, OpensOverAnyWindowButNotWhereADialogWaits)
+{
+    whileWorking([this] {
+        openBox();
+        type("A1<Down><Return>");
+        QWidget *record = nullptr;
+        ASSERT_TRUE(comesTrue([&] {
+            record = QApplication::activeWindow();
+            return record && record->objectName() == u"frmItemInv"_s;
+        }));
+        auto *name = child<QLineEdit>(*record, "editItemDescription");
+        name->setFocus();
+        name->home(false);
+        openBox();
+        EXPECT_EQ(name->text(), u"Ice cream"_s);
+        press(Qt::Key_Escape);
+        EXPECT_EQ(QApplication::activeWindow(), record);
+        record->close();
+
+        QDialog dialog(&form);
+        dialog.setModal(true);
+        showActive(dialog);
+        QTest::keyClick(&dialog, Qt::Key_K, Qt::ControlModifier);
+        EXPECT_FALSE(box()->isVisible());
+        dialog.close();
+    });
+}
+
+TEST_F(FinderTest, TellsWhenWhatWasFoundIsGone)
+{
+    whileWorking([this] {
+        openBox();
+        type(u"fraîche"_s);
+        form.dataModule()->databaseTallymere().connection().execute(u"DELETE FROM Item WHERE ItemID = 1"_s);
+        press(Qt::Key_Return);
+        EXPECT_TRUE(has(company.prompts.last(), u"Crème fraîche"_s)) << qPrintable(company.prompts.last());
+        EXPECT_EQ(found(u"fraîche"_s), QStringList());
+    });
+}
