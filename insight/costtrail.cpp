@@ -122,13 +122,17 @@ QString CostTrail::verdict() const
         .arg(currencyText(*calculated), since);
 }
 
+CostTrail costTrail(Engine::Connection &moment, int item)
+{
+    Replay replay(moment, item);
+    CostTrail trail = replay.from(Money());
+    return trail.isOverridden() ? replay.from(std::nullopt) : trail;
+}
+
 CostTrail costTrail(Engine::Database &database, int item)
 {
     Engine::ReadMoment moment(database);
-    Replay replay(moment.database().connection(), item);
-    CostTrail trail = replay.from(Money());
-    if (trail.isOverridden())
-        trail = replay.from(std::nullopt);
+    CostTrail trail = costTrail(moment.database().connection(), item);
     moment.end();
     return trail;
 }

@@ -8,8 +8,9 @@
 #include <vector>
 
 namespace Engine {
+class Connection;
 class Database;
-}
+} // namespace Engine
 
 namespace Tallymere {
 
@@ -45,5 +46,6 @@ struct CostTrail
 // again over the item's history, from a cost of 0 when it was new; where that does not lead to the stored average, from a
 // cost that is not known.
 CostTrail costTrail(Engine::Database &database, int item);
+CostTrail costTrail(Engine::Connection &moment, int item); // for somebody who reads more at the same moment
 
 } // namespace Tallymere

@@ -1,5 +1,5 @@
 #include "data/fields.h"
-#include "insight/costtrail.h"
+#include "insight/itemcard.h"
 #include "insight/stockasof.h"
 #include "insight/whattobuy.h"
 #include "reports/reportlist.h"
@@ -106,6 +106,62 @@ TEST_P(InsightTest, ACostIsToldAsItWasPosted)
         EXPECT_EQ(changed.steps.size(), trail.steps.size());
     }
     EXPECT_EQ(refusalOf([&] { costTrail(kitchen.database(), 99); }), u"Item not found -> ");
+}
+
+TEST_P(InsightTest, ACardHasTheStockAndItsWays)
+{
+    for (int item = 1; item <= 3; ++item) {
+        const ItemCard card = itemCard(kitchen.database(), item);
+        const auto everywhere = [&](const std::function<bool(const Moved &)> &counts) {
+            return sum(item, 0, counts);
+        };
+        EXPECT_EQ(card.onHand, everywhere([](const Moved &one) { return one.posted; }));
+        for (const StockAtLocation &place : card.stock)
+            EXPECT_EQ(place.onHand, sum(item, place.location, [](const Moved &one) { return one.posted; }));
+        double waiting = 0;
+        for (const WaitingStock &one : card.waiting) {
+            EXPECT_EQ(one.change,
+                      everywhere([&](const Moved &moving) { return !moving.posted && moving.kind == one.kind; }));
+            waiting += one.change;
+        }
+        EXPECT_EQ(waiting, everywhere([](const Moved &one) { return !one.posted; }));
+        EXPECT_EQ(card.averageCost, Money::fromDouble(kitchen.averageCost(item)));
+        EXPECT_EQ(card.costs.size(), card.trail.steps.size());
+        if (!card.costs.empty()) {
+            EXPECT_EQ(card.costs.back().cost, card.averageCost);
+        }
+
+        // The curve stands at the end of each day where the stock of that day did.
+        for (size_t i = 0; i < card.movements.size(); ++i) {
+            const Movement &movement = card.movements[i];
+            ASSERT_NE(movement.kind, nullptr);
+            EXPECT_GT(movement.document, 0);
+            if (i + 1 < card.movements.size() && card.movements[i + 1].date == movement.date)
+                continue;
+            EXPECT_EQ(movement.onHand,
+                      everywhere([&](const Moved &one) { return one.posted && one.date <= movement.date; }));
+        }
+    }
+    EXPECT_EQ(refusalOf([&] { itemCard(kitchen.database(), 99); }), u"Item not found -> ");
+}
+
+TEST_P(InsightTest, ALongHistoryIsThinnedOut)
+{
+    kitchen.execute(u"DELETE FROM IHist"_s);
+    Engine::Connection &store = kitchen.database().connection();
+    Engine::Transaction transaction(store);
+    const Engine::StatementPtr insert = store.prepare(
+        u"INSERT INTO IHist (ItemID, WarehouseID, TransType, Quantity, TransDate) VALUES (1, 1, 1, 1, ?)"_s);
+    for (int i = 0; i < 2 * static_cast<int>(mostMovements); ++i) {
+        insert->bind(0, today.addDays(i / 2 - 5'000));
+        insert->execute();
+    }
+    transaction.commit();
+    const ItemCard card = itemCard(kitchen.database(), 1);
+    EXPECT_TRUE(card.isThinned);
+    EXPECT_EQ(card.movements.size(), mostMovements); // one of each day
+    EXPECT_EQ(card.movements.back().onHand, card.onHand);
+    EXPECT_EQ(card.movements[1].onHand - card.movements[0].onHand, 2);
 }
 
 TEST_P(InsightTest, TheStockIsThatOfItsTime)
