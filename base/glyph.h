@@ -14,6 +14,7 @@ enum class Glyph {
     Totals,
     History,
     Item,
+    ItemCard,
     Vendor,
     Location,
     Organization,

@@ -27,16 +27,6 @@ QString number(const std::optional<Engine::Money> &amount)
     return amount ? number(amount->toDouble()) : QString();
 }
 
-int itemOf(Engine::Database &database, const QString &number)
-{
-    Engine::TableReader items(database, u"Item"_s);
-    items.open();
-    const Engine::Value key = items.lookUp(Fields::ItemNo, {number}, Fields::ItemID);
-    if (key.isNull())
-        throw RuleError(Texts::tr("There is no item '%1'").arg(number));
-    return key.toInt();
-}
-
 void runCost(CommandContext &context)
 {
     const auto data = context.openData();

@@ -1,7 +1,10 @@
 #include "cli/optionvalues.h"
 
 #include "base/formats.h"
+#include "base/ruleerror.h"
 #include "cli/texts.h"
+#include "data/fields.h"
+#include "engine/records/tablereader.h"
 
 #include <limits>
 
@@ -49,6 +52,16 @@ QList<OptionSpec> periodOptions(const QString &meaning)
 {
     return {{u"period"_s, Texts::tr("PP"), meaning},
             {u"year"_s, Texts::tr("YYYY"), Texts::tr("the fiscal year of the period")}};
+}
+
+int itemOf(Engine::Database &database, const QString &number)
+{
+    Engine::TableReader items(database, u"Item"_s);
+    items.open();
+    const Engine::Value key = items.lookUp(Fields::ItemNo, {number}, Fields::ItemID);
+    if (key.isNull())
+        throw RuleError(Texts::tr("There is no item '%1'").arg(number));
+    return key.toInt();
 }
 
 } // namespace Tallymere::Cli

@@ -52,6 +52,7 @@ void refuseUntaken(const Arguments &arguments, const ReportDescription &report)
     };
     refuse(report.parameters.location, u"location"_s);
     refuse(report.parameters.itemType, u"item-type"_s);
+    refuse(report.parameters.item, u"item"_s);
     refuse(report.parameters.period, u"period"_s);
     refuse(report.parameters.period, u"year"_s);
     refuse(report.parameters.day, u"as-of"_s);
@@ -93,6 +94,8 @@ ReportDescription wantedReport(const Arguments &arguments)
         if (arguments.has(form.option.name))
             choices.*form.choice = form.chosen;
     }
+    if (report.parameters.item && !arguments.has(u"item"_s))
+        throw UsageError(Texts::tr("the report '%1' needs --item").arg(report.listText));
     if (isForm && !arguments.has(u"location"_s))
         throw UsageError(Texts::tr("the report '%1' needs --location").arg(report.listText));
     return isForm ? blankForm(choices) : report;
@@ -120,6 +123,15 @@ void presetPeriod(TDataModuleTallymere &data, const ReportDescription &report, R
     const Period period = defaultPeriod(data.databaseTallymere(), data.today());
     selection.period = period.number;
     selection.year = period.year;
+}
+
+// What only the database tells.
+void completeSelection(TDataModuleTallymere &data, const Arguments &arguments, const ReportDescription &report,
+                       ReportSelection &selection)
+{
+    presetPeriod(data, report, selection);
+    if (report.parameters.item)
+        selection.itemId = itemOf(data.databaseTallymere(), arguments.value(u"item"_s));
 }
 
 enum class PaperChoice { A4, Letter };
@@ -154,7 +166,7 @@ PagedReport makePages(CommandContext &context, const ReportDescription &report, 
         return sheet ? std::optional(sheet->id() == QPageSize::A4) : std::nullopt;
     };
     PagedReport made{context.openData(std::move(options)), nullptr};
-    presetPeriod(*made.data, report, selection);
+    completeSelection(*made.data, context.arguments, report, selection);
     ConsoleProgress progress(context.console, Texts::tr("Reading"));
     made.run = runReport(*made.data, report, selection, &progress);
     made.run->makePages();
@@ -188,7 +200,7 @@ void runReportCommand(CommandContext &context)
     if (context.arguments.has(u"paper"_s))
         throw UsageError(Texts::tr("--paper belongs to --pdf"));
     const auto data = context.openData();
-    presetPeriod(*data, report, selection);
+    completeSelection(*data, context.arguments, report, selection);
     ConsoleProgress progress(context.console, Texts::tr("Writing"));
     const Printing::Report made = makeReport(*data, report, selection, &progress);
     Printing::writeReportCsv(made.layout, *made.rows, context.console.longOutput(), progress);
@@ -216,6 +228,7 @@ QList<OptionSpec> selectionOptions()
 {
     return QList<OptionSpec>{{u"location"_s, Texts::tr("ID"), Texts::tr("of one location only")},
                              {u"item-type"_s, Texts::tr("ID"), Texts::tr("of one item type only")},
+                             {u"item"_s, Texts::tr("ITEMNO"), Texts::tr("why this cost: of this item")},
                              {u"as-of"_s, Texts::tr("DATE"), Texts::tr("stock as of: at the end of a day")}}
     + periodOptions(Texts::tr("from this fiscal period on (default: the organization's)"));
 }

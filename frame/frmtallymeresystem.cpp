@@ -25,6 +25,7 @@
 #include "frame/screenregistry.h"
 #include "frame/todaypanel.h"
 #include "frame/tracescope.h"
+#include "insight/screens/itemcard.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/masterscreens.h"
 #include "reports/reportlist.h"
@@ -218,6 +219,7 @@ void TFormTallymereSystem::fillContext()
             [this](const QString &report, const QString &filter, const QString &order) {
                 showReport(*m_context, *ReportList::find(report), {.filter = filter, .order = order}, this);
             },
+        .showItem = [this](int item) { showItemCard(*m_context, item, this); },
         .showHelp = [this](const QString &screenName) { m_help->showTopic(screenName); },
     });
 }

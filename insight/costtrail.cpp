@@ -25,18 +25,21 @@ public:
         , m_item(item)
     {
         const Engine::StatementPtr row = store.prepare(
-            u"SELECT WgtAvgCost, (SELECT SUM(QtyOnHand) FROM IBalance B WHERE B.ItemID = I.ItemID) FROM Item I "
+            u"SELECT WgtAvgCost, (SELECT SUM(QtyOnHand) FROM IBalance B WHERE B.ItemID = I.ItemID), ItemNo, "
+            "ItemDescription FROM Item I "
             "WHERE ItemID = ?"_s);
         row->bindInt(0, item);
         if (!row->next())
             throw RuleError(InsightTexts::tr("Item not found"));
         m_stored = Money::fromDouble(row->doubleAt(0));
+        m_name = row->textAt(2) + u' ' + row->textAt(3);
         m_onHandAtFirst = row->doubleAt(1) - change();
     }
 
     CostTrail from(std::optional<Money> average)
     {
         CostTrail trail;
+        trail.item = m_name;
         trail.stored = m_stored;
         double onHand = m_onHandAtFirst;
         const Engine::StatementPtr row = rows();
@@ -103,6 +106,7 @@ private:
 
     Engine::Connection &m_store;
     int m_item;
+    QString m_name;
     Money m_stored;
     double m_onHandAtFirst = 0; // before the history, as a host may have brought it along
 };

@@ -33,6 +33,7 @@ struct CostStep
 // How the average cost of an item has come about: its receipts in the order in which they were posted.
 struct CostTrail
 {
+    QString item; // "A10 Apples"
     std::vector<CostStep> steps;
     Engine::Money stored; // the average as it stands with the item
     std::optional<Engine::Money> calculated; // what the receipts come to

@@ -17,6 +17,8 @@ ReportSelection takenBy(const ReportDescription::Parameters &parameters, const R
         taken.warehouseId = chosen.warehouseId;
     if (parameters.itemType)
         taken.itemTypeId = chosen.itemTypeId;
+    if (parameters.item)
+        taken.itemId = chosen.itemId;
     if (parameters.period) {
         taken.period = chosen.period;
         taken.year = chosen.year;

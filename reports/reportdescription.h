@@ -18,6 +18,7 @@ struct ReportSelection
 {
     int warehouseId = 0;
     int itemTypeId = 0;
+    int itemId = 0;
     int period = 0; // the first one reported, in
     int year = 0; // this fiscal year
     QDate day{}; // the day reported, in place of the period
@@ -34,6 +35,7 @@ struct ReportDescription
     {
         bool location = false;
         bool itemType = false;
+        bool item = false; // one, which has to be named
         bool period = false;
         bool day = false; // or a day in its place
         bool formChoices = false; // how a form is to be written on (BlankFormChoices), of a location

@@ -13,7 +13,7 @@ namespace {
 const QList<ReportDescription> &described()
 {
     static const QList<ReportDescription> reports =
-        valueReports() + perpetualReports() + listReports() + forms() + stockReports();
+        valueReports() + perpetualReports() + listReports() + forms() + stockReports() + costReports();
     return reports;
 }
 

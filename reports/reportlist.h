@@ -13,7 +13,8 @@ QList<ReportDescription> valueReports();
 QList<ReportDescription> perpetualReports();
 QList<ReportDescription> listReports();
 QList<ReportDescription> forms(); // to write on
-QList<ReportDescription> stockReports(); // as it was
+QList<ReportDescription> stockReports();
+QList<ReportDescription> costReports(); // as it was
 
 const QList<ReportDescription> &all(); // that have something to show
 // By its list text or its name, without regard to letter case; nullptr when there is none.

@@ -8,6 +8,7 @@
 #include "controls/windows/printerneeded.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/windowplaces.h"
+#include "data/fields.h"
 #include "engine/records/table.h"
 
 #include <QAction>
@@ -55,7 +56,7 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
     m_status = new ListStatus(*m_grid, *statusBar());
     m_output = new ListOutput(m_context, *this, *m_grid, *m_status);
     m_memory = new WindowMemory(*this, m_context.settings);
-    for (const ListMenu &menu : description.menus)
+    for (const ListMenu &menu : withItemCard(description.menus))
         addCommands(menuBar()->addMenu(menu.caption), menu.commands);
     leaveMenuBarWithMenus(*menuBar());
     for (const ListButton &button : description.buttons)
@@ -87,6 +88,24 @@ void ListScreen::layOut()
     layout->addWidget(m_grid, 1);
     setCentralWidget(body);
     setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+// Lists whose rows are of an item lead to its card, from the menu before that of the help.
+QList<ListMenu> ListScreen::withItemCard(QList<ListMenu> menus)
+{
+    const int item = m_data->fieldIndex(Fields::ItemID);
+    if (item < 0 || menus.size() < 2 || !m_context.showItem)
+        return menus;
+    menus[menus.size() - 2].commands.append(
+        {.name = u"mnuItemCard"_s,
+         .caption = tr("Item Card"),
+         .run = [this, item] { m_context.showItem(m_data->value(item).toInt()); },
+         .glyph = Glyph::ItemCard,
+         .available = [this, item] { return !m_data->isEmpty() && !m_data->value(item).isNull(); },
+         .shortcut = itemCardKey,
+         .popupCaption = tr("Item Card"),
+         .separatorBefore = true});
+    return menus;
 }
 
 // --- commands ---------------------------------------------------------------------------------------------------

@@ -136,6 +136,7 @@ private:
     void runCommand(const std::function<void()> &run);
     void finishPopup();
     void watchRecord();
+    QList<ListMenu> withItemCard(QList<ListMenu> menus);
     void showAvailable();
     void showFilterMark();
     QString hint() const;

@@ -9,6 +9,9 @@ class QWidget;
 
 namespace Tallymere {
 
+// Leads to the card of the item that a row is of, in every window.
+inline constexpr QKeyCombination itemCardKey = Qt::CTRL | Qt::Key_I;
+
 class SettingsStore;
 struct FileChoice;
 class TDataModuleTallymere;
@@ -48,6 +51,8 @@ struct ScreenContext
     // Shows a report of a list by its name ("TrptItems"), with the rows that the list's filter expression leaves, in the
     // list's order (an index, or columns of a query). Empty: lists cannot be printed.
     std::function<void(const QString &report, const QString &filter, const QString &order)> printList = {};
+    // Shows the card of an item, by its key. Empty: there is none to show.
+    std::function<void(int item)> showItem = {};
     // Opens the help at a screen's topic, named by the screen. Empty: no help, and the command is disabled.
     std::function<void(const QString &screenName)> showHelp = {};
 

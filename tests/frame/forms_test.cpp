@@ -4,11 +4,14 @@
 #include "controls/windows/windowrules.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/mainoptionsinv.h"
+#include "insight/screens/costtrailscreen.h"
+#include "insight/screens/itemcard.h"
 #include "insight/screens/stocktimedialog.h"
 #include "master/masterkinds.h"
 #include "master/screens/masterlistscreen.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
+#include "transactions/documentkinds.h"
 #include "transactions/screens/countdifferencesscreen.h"
 
 #include <QDirIterator>
@@ -208,7 +211,11 @@ struct FormsTest : testing::Test
         DateDialog date(over.context, QDate(2026, 3, 31), &mainWindow);
         StockTimeDialog time(over.context, {.day = QDate(2026, 3, 31)}, &mainWindow);
         TfrmCountDifferences differences(over.context, CountList(), &mainWindow);
-        for (QWidget *window : QWidgetList{&settings, &system, &date, &time, &differences})
+        ItemCard known;
+        known.waiting.push_back({DocumentKinds::all().first(), 2, -3});
+        TfrmItemCard card(over.context, known, &mainWindow);
+        TfrmCostTrail trail(over.context, known, &mainWindow);
+        for (QWidget *window : QWidgetList{&settings, &system, &date, &time, &differences, &card, &trail})
             visit(*window);
     }
 

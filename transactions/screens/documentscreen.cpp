@@ -4,6 +4,7 @@
 #include "controls/fields/lookuplists.h"
 #include "controls/grids/figuresline.h"
 #include "controls/grids/linegrid.h"
+#include "controls/windows/icons.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/statelabel.h"
 #include "data/datamodule.h"
@@ -83,6 +84,7 @@ void DocumentScreen::buildDocument(LineOptions options)
     addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert), &LineGrid::appendLine);
     addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete),
                     &LineGrid::removeLine);
+    addItemCard();
     connect(&m_entry->header(), &Engine::DataSet::fieldChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::currentChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::stateChanged, this, &DocumentScreen::showHeader);
@@ -121,6 +123,23 @@ void DocumentScreen::addPopupCommand(const QString &name, const QString &caption
     m_popup.append(action);
     connect(action, &QAction::triggered, this,
             [this, run] { guard().runWhenFree([this, run] { std::invoke(run, m_grid); }); });
+}
+
+// Of posted documents as well.
+void DocumentScreen::addItemCard()
+{
+    if (!context().showItem)
+        return;
+    auto *action = new QAction(tr("Item Card"), m_grid);
+    action->setObjectName(u"mnuItemCard"_s);
+    action->setShortcut(itemCardKey);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    setGlyph(*action, Glyph::ItemCard);
+    m_grid->addAction(action);
+    connectGuarded(action, &QAction::triggered, this, [](DocumentScreen *self) {
+        if (const int item = std::as_const(*self->m_entry).lines().integer(Fields::ItemID); item > 0)
+            self->context().showItem(item);
+    });
 }
 
 void DocumentScreen::newRecord()

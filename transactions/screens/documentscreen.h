@@ -58,6 +58,7 @@ protected:
 
 private:
     void addOpenMark();
+    void addItemCard();
     void showReadOnly(bool readOnly);
     void addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
                          void (LineGrid::*run)());

@@ -93,10 +93,22 @@ void TFormEnterInventory::connectControls()
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_search, &CountSearch::start);
     connectGuarded(m_ui->chkBlind, &QCheckBox::clicked, this, &TFormEnterInventory::blindChosen);
     connectGuarded(m_ui->btnDifferences, &QPushButton::clicked, this, &TFormEnterInventory::btnDifferencesClick);
+    connectGuarded(new QShortcut(itemCardKey, this), &QShortcut::activated, this,
+                   &TFormEnterInventory::showItemCard);
     connectGuarded(m_ui->BitBtnOK, &QPushButton::clicked, this, &TFormEnterInventory::bitBtnOKClick);
     connect(m_ui->BitBtnCancel, &QPushButton::clicked, this, &QWidget::close);
     connectGuarded(m_ui->ActionCalculateConsumption, &QAction::triggered, this,
                    &TFormEnterInventory::actionCalculateConsumptionExecute);
+}
+
+// Not in a blind count: it tells what is on hand.
+void TFormEnterInventory::showItemCard()
+{
+    if (m_ui->chkBlind->isChecked())
+        return;
+    const int item = m_ui->wwDBGridInventory->currentItem();
+    if (item >= 0 && context().showItem)
+        context().showItem(static_cast<int>(m_count.list().row(item).itemId));
 }
 
 void TFormEnterInventory::firstShown()

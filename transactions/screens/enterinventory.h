@@ -46,6 +46,7 @@ protected:
 
 private:
     void connectControls();
+    void showItemCard(); // of the item with the cursor
     void fillLocations();
     void closeList();
     void locationChosen(int index);
