@@ -82,6 +82,15 @@ inline constexpr ChoiceSetting<int> Location{QLatin1StringView("location")}; // 
 inline constexpr QStringView countScreen = u"FormEnterInventory";
 inline constexpr ChoiceSetting<bool> BlindCount{QLatin1StringView("blind")};
 
+// What to buy, and the end of a month.
+inline constexpr QStringView buyingScreen = u"frmWhatToBuy";
+inline constexpr ChoiceSetting<int> WeeksOfUse{QLatin1StringView("weeks"), 8};
+inline constexpr ChoiceSetting<int> WeeksOfCover{QLatin1StringView("cover"), 2};
+inline constexpr QStringView monthEndScreen = u"frmMonthEnd";
+inline constexpr ChoiceSetting<QString> ClosedPeriod{QLatin1StringView("period")}; // that the others are about
+inline constexpr ChoiceSetting<QString> CountedSince{QLatin1StringView("countedSince")};
+inline constexpr ChoiceSetting<QString> ValuePrinted{QLatin1StringView("valuePrinted")}; // when
+
 // "HX1.ini".
 inline constexpr InitSetting SampleData{u"Companies", u"Sample Data"};
 inline constexpr InitSetting DialerPort{u"General", u"DialerPort", QLatin1StringView("com1")};

@@ -50,10 +50,9 @@ void runBuy(CommandContext &context)
 {
     BuyingPlan plan;
     plan.location = keyOf(context.arguments, u"location"_s);
-    constexpr qint64 longest = 520; // ten years
-    if (const int weeks = positive(context.arguments, u"weeks"_s, longest))
+    if (const int weeks = positive(context.arguments, u"weeks"_s, mostWeeks))
         plan.weeks = weeks;
-    if (const int cover = positive(context.arguments, u"cover"_s, longest))
+    if (const int cover = positive(context.arguments, u"cover"_s, mostWeeks))
         plan.cover = cover;
     const auto data = context.openData();
     plan.today = data->today();

@@ -4,6 +4,7 @@
 #include "cli/command.h"
 #include "cli/optionvalues.h"
 #include "cli/texts.h"
+#include "insight/whattobuy.h"
 #include "printing/printsystem.h"
 #include "printing/reportcsv.h"
 #include "printing/reportoutput.h"
@@ -56,6 +57,8 @@ void refuseUntaken(const Arguments &arguments, const ReportDescription &report)
     refuse(report.parameters.period, u"period"_s);
     refuse(report.parameters.period, u"year"_s);
     refuse(report.parameters.day, u"as-of"_s);
+    refuse(report.parameters.buying, u"weeks"_s);
+    refuse(report.parameters.buying, u"cover"_s);
 }
 
 // What the form to count on has to choose from.
@@ -112,7 +115,9 @@ ReportSelection selectionOf(const Arguments &arguments, const ReportDescription 
             .itemTypeId = keyOf(arguments, u"item-type"_s),
             .period = period.number,
             .year = period.year,
-            .day = day};
+            .day = day,
+            .weeksOfUse = positive(arguments, u"weeks"_s, mostWeeks),
+            .weeksOfCover = positive(arguments, u"cover"_s, mostWeeks)};
 }
 
 // A report on periods begins with the default one of the organization unless another is named.
@@ -229,7 +234,9 @@ QList<OptionSpec> selectionOptions()
     return QList<OptionSpec>{{u"location"_s, Texts::tr("ID"), Texts::tr("of one location only")},
                              {u"item-type"_s, Texts::tr("ID"), Texts::tr("of one item type only")},
                              {u"item"_s, Texts::tr("ITEMNO"), Texts::tr("why this cost: of this item")},
-                             {u"as-of"_s, Texts::tr("DATE"), Texts::tr("stock as of: at the end of a day")}}
+                             {u"as-of"_s, Texts::tr("DATE"), Texts::tr("stock as of: at the end of a day")},
+                             {u"weeks"_s, Texts::tr("N"), Texts::tr("what to buy: use of the last N weeks")},
+                             {u"cover"_s, Texts::tr("N"), Texts::tr("what to buy: to last N weeks")}}
     + periodOptions(Texts::tr("from this fiscal period on (default: the organization's)"));
 }
 

@@ -160,12 +160,17 @@ private:
 
 } // namespace
 
-std::vector<ItemToBuy> whatToBuy(Engine::Database &database, const BuyingPlan &plan)
+std::vector<ItemToBuy> whatToBuy(Engine::Connection &moment, const BuyingPlan &plan)
 {
     if (plan.weeks <= 0)
         throw RuleError(InsightTexts::tr("Use has to be looked at over a week at least"));
+    return Buying(moment, plan).items();
+}
+
+std::vector<ItemToBuy> whatToBuy(Engine::Database &database, const BuyingPlan &plan)
+{
     Engine::ReadMoment moment(database);
-    std::vector<ItemToBuy> items = Buying(moment.database().connection(), plan).items();
+    std::vector<ItemToBuy> items = whatToBuy(moment.database().connection(), plan);
     moment.end();
     return items;
 }

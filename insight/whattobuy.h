@@ -8,10 +8,13 @@
 #include <vector>
 
 namespace Engine {
+class Connection;
 class Database;
-}
+} // namespace Engine
 
 namespace Tallymere {
+
+constexpr int mostWeeks = 520; // of a plan: ten years
 
 struct BuyingPlan
 {
@@ -42,5 +45,7 @@ struct ItemToBuy
 // what went out by usage or sale; an adjustment is none. All of one moment. Throws RuleError for weeks that are not
 // above 0.
 std::vector<ItemToBuy> whatToBuy(Engine::Database &database, const BuyingPlan &plan);
+// The same within the moment that the connection reads.
+std::vector<ItemToBuy> whatToBuy(Engine::Connection &moment, const BuyingPlan &plan);
 
 } // namespace Tallymere

@@ -23,6 +23,10 @@ ReportSelection takenBy(const ReportDescription::Parameters &parameters, const R
         taken.period = chosen.period;
         taken.year = chosen.year;
     }
+    if (parameters.buying) {
+        taken.weeksOfUse = chosen.weeksOfUse;
+        taken.weeksOfCover = chosen.weeksOfCover;
+    }
     if (parameters.day)
         taken.day = chosen.day;
     return taken;

@@ -22,6 +22,8 @@ struct ReportSelection
     int period = 0; // the first one reported, in
     int year = 0; // this fiscal year
     QDate day{}; // the day reported, in place of the period
+    int weeksOfUse = 0; // what to buy: over which use is looked at,
+    int weeksOfCover = 0; // and which the stock is to last
     QString filter{}; // the filter expression of the list that is printed,
     QString order{}; // and its order: an index of its table, or columns of its query. Empty: the usual one
 };
@@ -38,6 +40,7 @@ struct ReportDescription
         bool item = false; // one, which has to be named
         bool period = false;
         bool day = false; // or a day in its place
+        bool buying = false; // weeks of use and of cover
         bool formChoices = false; // how a form is to be written on (BlankFormChoices), of a location
     };
     // The source: a query (queryRows, valueRows, perpetualRows) or a list by its own rules.

@@ -15,6 +15,7 @@ QList<ReportDescription> listReports();
 QList<ReportDescription> forms(); // to write on
 QList<ReportDescription> stockReports();
 QList<ReportDescription> costReports(); // as it was
+QList<ReportDescription> stockReports(); // as it was, and what to buy
 
 const QList<ReportDescription> &all(); // that have something to show
 // By its list text or its name, without regard to letter case; nullptr when there is none.

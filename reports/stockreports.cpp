@@ -1,5 +1,9 @@
 #include "base/listfilter.h"
+#include "data/fields.h"
+#include "engine/store/database.h"
+#include "engine/store/session.h"
 #include "insight/stockasofview.h"
+#include "insight/whattobuy.h"
 #include "reports/columns.h"
 #include "reports/datasetrows.h"
 #include "reports/reportlist.h"
@@ -64,8 +68,97 @@ ReportDescription stockAsOf()
     return report;
 }
 
+// --- what to buy ---------------------------------------------------------------------------------------------------
+
+BuyingPlan planOf(QDate today, const ReportSelection &selection)
+{
+    BuyingPlan plan{.today = today, .location = selection.warehouseId};
+    if (selection.weeksOfUse > 0)
+        plan.weeks = selection.weeksOfUse;
+    if (selection.weeksOfCover > 0)
+        plan.cover = selection.weeksOfCover;
+    return plan;
+}
+
+class BuyingRows final : public Printing::RowReader
+{
+public:
+    explicit BuyingRows(std::vector<ItemToBuy> items)
+        : m_items(std::move(items))
+    {
+    }
+
+    static QStringList names()
+    {
+        return {Fields::VendorID,        Fields::VendorNo, Fields::VendorName, Fields::ItemNo,
+                Fields::ItemDescription, u"UsePerWeek"_s,  Fields::QtyOnHand,  u"Unposted"_s,
+                u"DaysLeft"_s,           u"Proposed"_s,    u"LastCost"_s};
+    }
+
+    const QStringList &fields() const override { return m_fields; }
+
+    bool next(Printing::ReportRow &row) override
+    {
+        if (m_next >= m_items.size())
+            return false;
+        const ItemToBuy &item = m_items[m_next++];
+        row.kind = Printing::RowKind::Detail;
+        row.values = {item.vendor > 0 ? Engine::Value(item.vendor) : Engine::Value(),
+                      item.vendorNo,
+                      item.vendorName,
+                      item.itemNo,
+                      item.description,
+                      item.usePerWeek,
+                      item.onHand,
+                      item.unposted,
+                      item.daysLeft,
+                      item.proposed,
+                      item.lastCost ? Engine::Value(*item.lastCost) : Engine::Value()};
+        return true;
+    }
+
+private:
+    const std::vector<ItemToBuy> m_items;
+    const QStringList m_fields = names();
+    size_t m_next = 0;
+};
+
+QStringList planHeading(Engine::Database &, const ReportSelection &selection)
+{
+    const BuyingPlan plan = planOf({}, selection);
+    return {ReportsTexts::tr("By the use of %1 weeks, to last %2 weeks").arg(plan.weeks).arg(plan.cover)};
+}
+
+ReportDescription whatToBuyReport()
+{
+    ReportDescription report;
+    report.name = u"TrptWhatToBuy"_s;
+    report.listText = ReportsTexts::tr("What to buy");
+    report.parameters = {.location = true, .buying = true};
+    report.rows = [](Engine::Database &database, const ReportDescription &, const ReportSelection &selection) {
+        return std::make_unique<BuyingRows>(
+            whatToBuy(database.connection(), planOf(database.session().today(), selection)));
+    };
+    report.notes = planHeading;
+    report.layout.title = ReportsTexts::tr("What to buy");
+    report.layout.columns = {Columns::itemNo(),
+                             Columns::description(),
+                             Columns::quantity(u"UsePerWeek"_s, ReportsTexts::tr("Use a week")),
+                             Columns::quantity(u"QtyOnHand"_s, ReportsTexts::tr("On hand")),
+                             Columns::quantity(u"Unposted"_s, ReportsTexts::tr("Unposted")),
+                             Columns::quantity(u"DaysLeft"_s, ReportsTexts::tr("Days left")),
+                             Columns::quantity(u"Proposed"_s, ReportsTexts::tr("Proposed")),
+                             Columns::unitCost(u"LastCost"_s, ReportsTexts::tr("Last cost"))};
+    report.layout.groups = {{.key = u"VendorID"_s,
+                             .fields = {u"VendorName"_s, u"VendorNo"_s},
+                             .heading = true,
+                             .keyless = ReportsTexts::tr("No vendor yet")}};
+    report.layout.landscape = true;
+    return report;
+}
+
 } // namespace
 
-QList<ReportDescription> stockReports() { return {stockAsOf()}; }
+QList<ReportDescription> stockReports() { return {stockAsOf(), whatToBuyReport()}; }
 
 } // namespace Tallymere::ReportList

@@ -1,6 +1,7 @@
 #include "insight/screens/insightscreens.h"
 
 #include "insight/screens/stockasof.h"
+#include "insight/screens/whattobuy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +20,7 @@ QList<InsightScreen> insightScreens()
 {
     return {
         {u"frmStockAsOf"_s, make<TfrmStockAsOf>()},
+        {u"frmWhatToBuy"_s, make<TfrmWhatToBuy>()},
     };
 }
 

@@ -1,4 +1,5 @@
 #include "data/fields.h"
+#include "insight/buyinglist.h"
 #include "insight/itemcard.h"
 #include "insight/stockasof.h"
 #include "insight/whattobuy.h"
@@ -290,6 +291,53 @@ TEST_P(InsightTest, WhatToBuyFollowsUseAndStock)
         }
     }
     EXPECT_NE(refusalOf([&] { whatToBuy(kitchen.database(), {.today = today, .weeks = 0}); }), QString());
+}
+
+// Currency 2 is worth 0.75; V2 has it.
+TEST_P(InsightTest, WhatIsToBeBoughtBecomesAReceipt)
+{
+    kitchen.execute(uR"(
+        UPDATE Item SET Suspended = false;
+        DELETE FROM IHist WHERE TransType = 3;
+    )"_s);
+    ::addDocument(kitchen, DocumentKinds::receipt(), 91, 1, {{1, u"1"_s, u"4"_s}, {2, u"1"_s, u"6"_s}}, 2);
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true WHERE Posted = false AND ReceiptID < 91"_s);
+    DocumentPosting(kitchen.database(), DocumentKinds::receipt()).run(prompts, progress);
+    BuyingList list;
+    const BuyingPlan plan{.today = today, .location = 1, .weeks = 13, .cover = 500};
+    list.read(kitchen.database(), plan);
+    int first = -1;
+    for (int row = 0; row < list.size(); ++row)
+        if (list.row(row).item.item == 1)
+            first = row;
+    ASSERT_GE(first, 0);
+    EXPECT_EQ(list.row(first).item.vendor, 2);
+    for (int row = 0; row < list.size(); ++row)
+        list.setQuantity(row, list.row(row).item.item == 1 ? 2.5 : 0);
+    EXPECT_EQ(list.chosen(), 1);
+    EXPECT_THROW(list.setQuantity(first, -1), RuleError);
+    list.read(kitchen.database(), plan);
+    EXPECT_EQ(list.row(first).quantity(), 2.5) << "stays with its item";
+
+    const PlannedReceipt receipt = list.receiptOf(first);
+    const auto entry = DocumentKinds::receipt().entry.make(kitchen.database(), prompts);
+    entry->open();
+    beginPlannedReceipt(*entry, receipt);
+    entry->save();
+    const int key = entry->key();
+    EXPECT_EQ(kitchen.found(u"SELECT VendorID, WarehouseID, Posted FROM IReceipt WHERE ReceiptID = %1"_s.arg(key)),
+              u"2|1|false");
+    EXPECT_EQ(kitchen.found(u"SELECT ItemID, QtyReceived, UnitCost FROM IRecDet WHERE ReceiptID = %1"_s.arg(key)),
+              u"1|2.5|4")
+        << "in the vendor's currency";
+    list.forgetTyped(receipt);
+    list.read(kitchen.database(), plan);
+    EXPECT_FALSE(list.row(first).typed);
+
+    kitchen.execute(u"UPDATE Vendor SET Suspended = true WHERE VendorID = 2"_s);
+    const QString receipts = kitchen.found(u"SELECT COUNT(*) FROM IReceipt"_s);
+    EXPECT_TRUE(refusalOf([&] { beginPlannedReceipt(*entry, receipt); }).contains(u"has been suspended"_s));
+    EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM IReceipt"_s), receipts);
 }
 
 } // namespace

@@ -169,6 +169,8 @@ QVariant CountModel::headingData(int row, int role) const // over all columns
         return m_list.row(first).typeName;
     case Qt::FontRole:
         return bold();
+    case Qt::TextAlignmentRole:
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     case Qt::BackgroundRole:
         return Look(QGuiApplication::palette()).colour(Look::Role::Head);
     default:

@@ -155,10 +155,15 @@ bool DocumentScreen::openRecord(int key)
     return found;
 }
 
+void DocumentScreen::newFilled(const std::function<void(DocumentEntry &)> &begin)
+{
+    begin(*m_entry);
+    showHeader();
+}
+
 void DocumentScreen::newReversal(int key)
 {
-    beginReversal(*m_entry, key);
-    showHeader();
+    newFilled([key](DocumentEntry &entry) { beginReversal(entry, key); });
 }
 
 std::optional<int> DocumentScreen::storedKey() const

@@ -5,6 +5,8 @@
 #include "controls/screens/recordscreen.h"
 #include "transactions/documententry.h"
 
+#include <functional>
+
 class QAction;
 class QLabel;
 
@@ -24,7 +26,9 @@ public:
     void newRecord() override;
     bool openRecord(int key) override;
     std::optional<int> storedKey() const override;
-    // A new document that takes back what a posted one has done, to be looked over (see beginReversal).
+    // A new document that is begun otherwise than empty, to be looked over.
+    void newFilled(const std::function<void(DocumentEntry &)> &begin);
+    // One that takes back what a posted one has done (see beginReversal).
     void newReversal(int key);
     // Brings the cursor to the line of an item, of several to that with the quantity. A line being entered stays where
     // it is.
