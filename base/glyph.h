@@ -37,6 +37,7 @@ enum class Glyph {
     Next,
     Last,
     Calendar,
+    MonthEnd,
     Information,
     Warning,
     Error

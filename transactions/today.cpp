@@ -97,13 +97,15 @@ const QList<TodayLine> &todayLines()
             all.append({.name = lineName(kind->name),
                         .title = kind->posting.waiting,
                         .screen = kind->list.screen,
-                        .read = [kind](const TodaySource &source) { return unposted(source, *kind); }});
+                        .read = [kind](const TodaySource &source) { return unposted(source, *kind); },
+                        .isForMonthEnd = true});
         }
         all.append({.name = u"todayBelowZero"_s,
                     .title = TransactionsTexts::tr("Below zero"),
                     .screen = u"frmInvTotals"_s,
                     .read = belowZero,
-                    .tone = TodayLine::Tone::Alarm});
+                    .tone = TodayLine::Tone::Alarm,
+                    .isForMonthEnd = true});
         all.append({.name = u"todayCounts"_s,
                     .title = TransactionsTexts::tr("Counts begun"),
                     .screen = u"FormEnterInventory"_s,

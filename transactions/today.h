@@ -37,6 +37,7 @@ struct TodayLine
     QString screen; // component name: "frmInvReceipts"
     std::function<TodayFigure(const TodaySource &)> read; // in one short statement or two
     Tone tone = Tone::Usual;
+    bool isForMonthEnd = false; // nothing is to wait when a month ends
 };
 
 // The documents of each kind that wait to be posted, the balances below zero, the counts that the user has begun on this

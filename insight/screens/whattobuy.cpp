@@ -4,6 +4,7 @@
 #include "base/settings.h"
 #include "controls/fields/lookuplists.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/windowplaces.h"
 #include "data/datamodule.h"
 #include "reports/reportlist.h"
 #include "reports/screens/showreport.h"
@@ -11,6 +12,8 @@
 #include "transactions/screens/documentscreen.h"
 #include "transactions/screens/documentscreens.h"
 #include "ui_whattobuy.h"
+
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -74,8 +77,9 @@ void TfrmWhatToBuy::showStep()
 {
     if (!std::exchange(m_shown, true)) {
         const int rows = m_ui->DBGrid1->heightForRows(shownRows);
-        resize(std::max(m_ui->DBGrid1->fullWidth(), sizeHint().width()),
-               sizeHint().height() - m_ui->DBGrid1->sizeHint().height() + rows);
+        const QSize wanted(std::max(m_ui->DBGrid1->fullWidth(), sizeHint().width()),
+                           sizeHint().height() - m_ui->DBGrid1->sizeHint().height() + rows);
+        resize(wanted.boundedTo(screen()->availableGeometry().marginsRemoved(expectedFrame(*this)).size()));
         m_memory.restore();
     }
     m_ui->DBGrid1->setFocus();

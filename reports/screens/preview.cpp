@@ -351,6 +351,7 @@ void TfrmPreview::print(QPrinter &printer)
         rememberFolder(m_context, file);
     say(toFile ? tr("%1 saved as %2").arg(pages, file)
                : tr("%1 sent to the printer %2").arg(pages, printer.printerName()));
+    Q_EMIT given();
 }
 
 void TfrmPreview::save(const QString &what, const FileChoice &choice,
@@ -359,8 +360,10 @@ void TfrmPreview::save(const QString &what, const FileChoice &choice,
     stopSearch();
     statusBar()->clearMessage(); // of the last time
     const QString saved = saveReportFile(m_context, this, choice, write);
-    if (!saved.isEmpty())
-        say(tr("%1 saved as %2").arg(what, saved));
+    if (saved.isEmpty())
+        return;
+    say(tr("%1 saved as %2").arg(what, saved));
+    Q_EMIT given();
 }
 
 void TfrmPreview::savePdf()

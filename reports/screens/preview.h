@@ -44,6 +44,9 @@ public:
     void savePdf();
     void saveCsv();
 
+Q_SIGNALS:
+    void given(); // it has been printed or saved
+
 protected:
     void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

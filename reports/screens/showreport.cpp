@@ -11,15 +11,15 @@
 
 namespace Tallymere {
 
-void showReport(ScreenContext &context, const ReportDescription &report, const ReportSelection &selection,
-                QWidget *parent)
+TfrmPreview &showReport(ScreenContext &context, const ReportDescription &report, const ReportSelection &selection,
+                        QWidget *parent)
 {
     requirePrinter(context);
-    showReportOnScreen(context, report, selection, parent);
+    return showReportOnScreen(context, report, selection, parent);
 }
 
-void showReportOnScreen(ScreenContext &context, const ReportDescription &report, const ReportSelection &selection,
-                        QWidget *parent)
+TfrmPreview &showReportOnScreen(ScreenContext &context, const ReportDescription &report,
+                                const ReportSelection &selection, QWidget *parent)
 {
     const WaitCursor hourglass;
     ProgressBox reading(QApplication::activeWindow(), ReportsTexts::tr("Reading %1").arg(report.layout.title));
@@ -28,6 +28,7 @@ void showReportOnScreen(ScreenContext &context, const ReportDescription &report,
         return makeReport(context.data, report, selection, &progress);
     });
     preview->show();
+    return *preview;
 }
 
 } // namespace Tallymere

@@ -1,6 +1,7 @@
 #include "data/fields.h"
 #include "insight/buyinglist.h"
 #include "insight/itemcard.h"
+#include "insight/monthend.h"
 #include "insight/stockasof.h"
 #include "insight/whattobuy.h"
 #include "reports/reportlist.h"
@@ -301,8 +302,10 @@ TEST_P(InsightTest, WhatIsToBeBoughtBecomesAReceipt)
         DELETE FROM IHist WHERE TransType = 3;
     )"_s);
     ::addDocument(kitchen, DocumentKinds::receipt(), 91, 1, {{1, u"1"_s, u"4"_s}, {2, u"1"_s, u"6"_s}}, 2);
+    ::addDocument(kitchen, DocumentKinds::usage(), 92, 1, {{1, u"10000"_s}, {2, u"10000"_s}});
     kitchen.execute(u"UPDATE IReceipt SET Posted = true WHERE Posted = false AND ReceiptID < 91"_s);
-    DocumentPosting(kitchen.database(), DocumentKinds::receipt()).run(prompts, progress);
+    for (const DocumentKind *kind : {&DocumentKinds::receipt(), &DocumentKinds::usage()})
+        DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
     BuyingList list;
     const BuyingPlan plan{.today = today, .location = 1, .weeks = 13, .cover = 500};
     list.read(kitchen.database(), plan);
@@ -338,6 +341,82 @@ TEST_P(InsightTest, WhatIsToBeBoughtBecomesAReceipt)
     const QString receipts = kitchen.found(u"SELECT COUNT(*) FROM IReceipt"_s);
     EXPECT_TRUE(refusalOf([&] { beginPlannedReceipt(*entry, receipt); }).contains(u"has been suspended"_s));
     EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM IReceipt"_s), receipts);
+}
+
+TEST_P(InsightTest, TheMonthIsDoneWhenEachOfItsLinesIs)
+{
+    MonthEndSource source{.books = {.database = kitchen.database(), .user = u"anna"_s},
+                          .countedSince = QDate(2026, 3, 10),
+                          .valuePrinted = {}};
+    const auto figure = [&](const QString &name) {
+        for (const MonthEndLine &line : monthEndLines())
+            if (line.name == name)
+                return line.read(source);
+        ADD_FAILURE() << qPrintable(name);
+        return MonthEndFigure();
+    };
+    int waiting = 0;
+    for (const DocumentKind *kind : DocumentKinds::all()) {
+        const QString name = kind->name.left(1).toUpper() + kind->name.mid(1);
+        const MonthEndFigure found = figure(u"monthEnd"_s + name);
+        EXPECT_EQ(found.isMet, found.text == u"0"_s);
+        waiting += found.text.toInt();
+    }
+    EXPECT_EQ(waiting, 4);
+    kitchen.execute(
+        u"UPDATE IBalance SET QtyOnHand = 0; UPDATE IBalance SET QtyOnHand = -1 WHERE WarehouseID = 2"_s);
+    EXPECT_FALSE(figure(u"monthEndBelowZero"_s).isMet);
+    EXPECT_EQ(figure(u"monthEndCounted"_s).detail, u"Not counted: Freezer"_s) << "the other one has no stock";
+    kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 5; "
+                    "INSERT INTO ICounted (ItemID, WarehouseID, CountDate) SELECT MIN(ItemID), WarehouseID, "
+                    "'2026-03-10' FROM IBalance GROUP BY WarehouseID; "
+                    "UPDATE ICounted SET CountDate = '2026-03-09' WHERE WarehouseID = 2"_s);
+    EXPECT_TRUE(figure(u"monthEndBelowZero"_s).isMet);
+    EXPECT_EQ(figure(u"monthEndCounted"_s).text, u"1 of 2"_s);
+    EXPECT_FALSE(figure(u"monthEndCounted"_s).isMet);
+    source.countedSince = QDate(2026, 3, 9);
+    EXPECT_TRUE(figure(u"monthEndCounted"_s).isMet);
+    EXPECT_FALSE(figure(u"monthEndValue"_s).isMet);
+    source.valuePrinted = QDateTime(today, QTime(17, 0));
+    EXPECT_TRUE(figure(u"monthEndValue"_s).isMet);
+
+    QDate first;
+    for (const Moved &one : moved)
+        if (one.posted && one.period == 2 && (first.isNull() || one.date < first))
+            first = one.date;
+    EXPECT_EQ(beginOf(kitchen.database(), {2026, 2}, today), first);
+    EXPECT_EQ(beginOf(kitchen.database(), {2026, 7}, today), QDate(2026, 3, 1)) << "nothing is posted";
+}
+
+TEST_P(InsightTest, ThePeriodIsMovedOnOnceAndAsFarAsItIsAllowed)
+{
+    const auto company = [&] {
+        return kitchen.found(
+            u"SELECT DefaultPeriodPP, DefaultPeriodYYYY, WPeriodFromPP, WPeriodFromYYYY, WPeriodToPP, "
+            "WPeriodToYYYY, EPeriodFromPP, EPeriodToPP, EPeriodToYYYY FROM Company"_s);
+    };
+    const auto refusal = [&](const Period &ending) {
+        return refusalOf([&] { openNextPeriod(kitchen.database(), ending); });
+    };
+    kitchen.execute(u"UPDATE Company SET WPeriodFromPP = 2, WPeriodFromYYYY = 2026, EPeriodToPP = 12, "
+                    "EPeriodToYYYY = 2026"_s);
+    openNextPeriod(kitchen.database(), {2026, 3});
+    EXPECT_EQ(company(), u"4|2026|4|2026||||12|2026") << "what is not set stays so";
+    EXPECT_EQ(refusal({2026, 3}), u"The default period is 04/2026 by now: somebody has moved it meanwhile. -> "_s);
+    {
+        TheirTable theirs(kitchen, u"Company"_s);
+        theirs.edit();
+        EXPECT_THROW(openNextPeriod(kitchen.database(), {2026, 4}), Engine::EngineError);
+    }
+    kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = 12"_s);
+    EXPECT_TRUE(refusal({2026, 12}).contains(u"is not within allowed range"_s));
+    EXPECT_EQ(company(), u"12|2026|4|2026||||12|2026");
+    kitchen.execute(u"UPDATE Company SET EPeriodToYYYY = 2027"_s);
+    openNextPeriod(kitchen.database(), {2026, 12});
+    EXPECT_EQ(company(), u"1|2027|1|2027||||12|2027");
+    kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = NULL"_s);
+    EXPECT_TRUE(EndingPeriod::readFrom(kitchen.database(), today).followsCalendar);
+    EXPECT_TRUE(refusal({2027, 3}).startsWith(u"The organization sets no default period"_s));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "base/csvlist.h"
+#include "engine/store/session.h"
 #include "printing/reportcsv.h"
 #include "reports/makereport.h"
 #include "reports/reportlist.h"
@@ -52,6 +53,10 @@ struct Moments : testing::TestWithParam<Place>
             u"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, "
             "UnitCost, TransDescription) SELECT ItemID, WarehouseID, 2026, 3, 3, '2026-03-14', 1, 1, "
             "'Receipt: 1001   PO: everything that there was' FROM IBalance"_s);
+        kitchen->execute(
+            u"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity) "
+            "VALUES (101, 1, 2026, 3, 5, '%1', 4)"_s.arg(
+                kitchen->database().session().today().toString(Qt::ISODate)));
     }
     // As another user. Every report shows a part of it.
     void writeMuch()

@@ -1,0 +1,168 @@
+#include "insight/monthend.h"
+
+#include "base/formats.h"
+#include "base/plural.h"
+#include "base/ruleerror.h"
+#include "data/fields.h"
+#include "engine/records/query.h"
+#include "engine/records/table.h"
+#include "engine/store/database.h"
+#include "insight/texts.h"
+
+#include <algorithm>
+#include <QLocale>
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+bool isSet(const Period &period) { return period.year > 0 && period.number > 0; }
+
+// A line of today that is to have nothing waiting.
+MonthEndLine nothingWaits(const TodayLine &today)
+{
+    return {.name = u"monthEnd"_s + today.name.mid(5), // "todayReceipts"
+            .title = today.title,
+            .screen = today.screen,
+            .report = {},
+            .read = [&today](const MonthEndSource &source) {
+                const TodayFigure figure = today.read(source.books);
+                return MonthEndFigure{figure.text, !figure.waits, figure.detail};
+            }};
+}
+
+// A location that has been counted may have come to nothing by that, and one without stock has nothing to be counted.
+MonthEndFigure countedLocations(const MonthEndSource &source)
+{
+    const Engine::StatementPtr rows = source.books.database.connection().prepare(
+        u"SELECT W.WarehouseName, B.WarehouseID, COUNT(*), SUM(CASE WHEN C.CountDate >= ? THEN 1 ELSE 0 END) "
+        "FROM IBalance B JOIN Item I ON I.ItemID = B.ItemID JOIN ItemType T ON T.ItemTypeID = I.ItemTypeID "
+        "LEFT OUTER JOIN Warehse W ON W.WarehouseID = B.WarehouseID "
+        "LEFT OUTER JOIN ICounted C ON C.ItemID = B.ItemID AND C.WarehouseID = B.WarehouseID "
+        "WHERE I.Suspended = false AND T.Inventory = true GROUP BY W.WarehouseName, B.WarehouseID "
+        "HAVING SUM(CASE WHEN B.QtyOnHand <> 0 THEN 1 ELSE 0 END) > 0 "
+        "OR SUM(CASE WHEN C.CountDate >= ? THEN 1 ELSE 0 END) > 0 ORDER BY W.WarehouseName, B.WarehouseID"_s);
+    rows->bind(0, source.countedSince);
+    rows->bind(1, source.countedSince);
+    int locations = 0;
+    QStringList counted;
+    QStringList missing;
+    while (rows->next()) {
+        ++locations;
+        const QString name = rows->isNull(0) ? QString::number(rows->intAt(1)) : rows->textAt(0);
+        if (rows->intAt(3) == 0)
+            missing.append(name);
+        else
+            counted.append(InsightTexts::tr("%1 (%2 of %3 items)")
+                               .arg(name, QString::number(rows->intAt(3)), QString::number(rows->intAt(2))));
+    }
+    QStringList detail;
+    if (!missing.isEmpty())
+        detail.append(InsightTexts::tr("Not counted: %1").arg(missing.join(u", "_s)));
+    if (!counted.isEmpty())
+        detail.append(InsightTexts::tr("Counted: %1").arg(counted.join(u", "_s)));
+    return {InsightTexts::tr("%1 of %2").arg(counted.size()).arg(locations), missing.isEmpty(),
+            detail.join(u"\n"_s)};
+}
+
+MonthEndFigure printedValue(const MonthEndSource &source)
+{
+    if (!source.valuePrinted.isValid())
+        return {InsightTexts::tr("no"), false,
+                InsightTexts::tr("The value is that of this moment: print or save it before anything of the next "
+                                 "period is posted.")};
+    return {QLocale::system().toString(source.valuePrinted, QLocale::ShortFormat), true};
+}
+
+void setPeriod(Engine::Table &company, QLatin1StringView stem, const Period &period)
+{
+    company.set(QString(stem + "YYYY"_L1), period.year);
+    company.set(QString(stem + "PP"_L1), period.number);
+}
+
+void requireEnding(const FiscalSettings &settings, const Period &ending)
+{
+    if (!isSet(settings.defaultPeriod))
+        throw RuleError(InsightTexts::tr(
+            "The organization sets no default period, so that new documents take the month of the day. There is no "
+            "period to open."));
+    if (settings.defaultPeriod != ending)
+        throw RuleError(InsightTexts::tr("The default period is %1 by now: somebody has moved it meanwhile.")
+                            .arg(shownPeriod(settings.defaultPeriod)));
+}
+
+void moveOn(Engine::Table &company, const Period &ending)
+{
+    const FiscalSettings settings = FiscalSettings::of(company); // under its lock
+    requireEnding(settings, ending);
+    const Period next = periodAfter(ending);
+    setPeriod(company, "DefaultPeriod"_L1, next);
+    if (settings.warnFrom.key() > 0)
+        setPeriod(company, "WPeriodFrom"_L1, next);
+    if (settings.warnTo.key() > 0)
+        setPeriod(company, "WPeriodTo"_L1, next);
+    const PeriodVerdict verdict = judgePeriod(FiscalSettings::of(company), next);
+    if (verdict != PeriodVerdict::Fine)
+        throw RuleError(InsightTexts::tr("Period %1 cannot be opened, as its documents would be refused: %2")
+                            .arg(shownPeriod(next), periodMessage(verdict)));
+}
+
+} // namespace
+
+EndingPeriod EndingPeriod::readFrom(Engine::Database &database, QDate today)
+{
+    const FiscalSettings settings = FiscalSettings::readFrom(database);
+    return {.period = defaultPeriod(settings, today), .followsCalendar = !isSet(settings.defaultPeriod)};
+}
+
+QString shownPeriod(const Period &period) { return u"%1/%2"_s.arg(period.number, 2, 10, '0'_L1).arg(period.year); }
+
+QDate beginOf(Engine::Database &database, const Period &period, QDate today)
+{
+    const QDate first =
+        Engine::singleValue(database, u"SELECT MIN(TransDate) FROM IHist WHERE GLYear = ? AND GLPeriod = ?"_s,
+                            {period.year, period.number})
+            .toDate();
+    return first.isValid() ? first : QDate(today.year(), today.month(), 1);
+}
+
+const QList<MonthEndLine> &monthEndLines()
+{
+    static const QList<MonthEndLine> lines = [] {
+        QList<MonthEndLine> all;
+        for (const TodayLine &today : todayLines())
+            if (today.isForMonthEnd)
+                all.append(nothingWaits(today));
+        all.append({.name = u"monthEndCounted"_s,
+                    .title = InsightTexts::tr("Locations counted"),
+                    .screen = u"FormEnterInventory"_s,
+                    .report = {},
+                    .read = countedLocations});
+        all.append({.name = u"monthEndValue"_s,
+                    .title = InsightTexts::tr("Value printed"),
+                    .screen = {},
+                    .report = u"TrptValueByType"_s,
+                    .read = printedValue});
+        return all;
+    }();
+    return lines;
+}
+
+void openNextPeriod(Engine::Database &database, const Period &ending)
+{
+    Engine::Table company(database, u"Company"_s);
+    company.open();
+    company.edit();
+    try {
+        moveOn(company, ending);
+        company.post();
+    } catch (...) {
+        company.cancel();
+        throw;
+    }
+}
+
+} // namespace Tallymere
