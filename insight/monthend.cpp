@@ -26,6 +26,7 @@ MonthEndLine nothingWaits(const TodayLine &today)
 {
     return {.name = u"monthEnd"_s + today.name.mid(5), // "todayReceipts"
             .title = today.title,
+            .command = InsightTexts::tr("Show"),
             .screen = today.screen,
             .report = {},
             .read = [&today](const MonthEndSource &source) {
@@ -138,11 +139,13 @@ const QList<MonthEndLine> &monthEndLines()
                 all.append(nothingWaits(today));
         all.append({.name = u"monthEndCounted"_s,
                     .title = InsightTexts::tr("Locations counted"),
+                    .command = InsightTexts::tr("Count..."),
                     .screen = u"FormEnterInventory"_s,
                     .report = {},
                     .read = countedLocations});
         all.append({.name = u"monthEndValue"_s,
                     .title = InsightTexts::tr("Value printed"),
+                    .command = InsightTexts::tr("Print..."),
                     .screen = {},
                     .report = u"TrptValueByType"_s,
                     .read = printedValue});

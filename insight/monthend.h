@@ -47,7 +47,8 @@ struct MonthEndLine
 {
     QString name; // of what shows the line: "monthEndReceipts"
     QString title;
-    QString screen; // component name
+    QString command; // what its button says: "Show"
+    QString screen; // component name of what that opens
     QString report; // or a report to print
     std::function<MonthEndFigure(const MonthEndSource &)> read; // in a short statement or two
 };

@@ -6,8 +6,11 @@
 #include "controls/windows/lineentry.h"
 #include "controls/windows/screenmetrics.h"
 
+#include <algorithm>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QShowEvent>
 
 namespace Tallymere {
@@ -50,8 +53,26 @@ void DialogScreen::takeOneLines()
     }
 }
 
+// The button that Enter presses where none is the default one: that with the cursor, as in the main window.
+static QPushButton *buttonForEnter(const QDialog &dialog, const QKeyEvent &key)
+{
+    if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
+        return nullptr;
+    const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
+    const bool hasDefault = std::any_of(buttons.begin(), buttons.end(), [](const QPushButton *button) {
+        return button->isDefault() || button->autoDefault();
+    });
+    return hasDefault ? nullptr : qobject_cast<QPushButton *>(dialog.focusWidget());
+}
+
 bool DialogScreen::event(QEvent *event)
 {
+    if (event->type() == QEvent::KeyPress) {
+        if (QPushButton *button = buttonForEnter(*this, static_cast<QKeyEvent &>(*event))) {
+            button->click();
+            return true;
+        }
+    }
     if (event->type() == QEvent::Polish && !std::exchange(m_scaled, true)) {
         scaleForm(this);
         leadTabToChosen(*this);

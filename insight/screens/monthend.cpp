@@ -70,7 +70,7 @@ void TfrmMonthEnd::addLine(const MonthEndLine &line)
     shown.detail->setWordWrap(true);
     shown.done->setText(tr("Done"));
     shown.open->setText(tr("Open"));
-    auto *more = new QPushButton(line.report.isEmpty() ? tr("Show") : tr("Print..."), this);
+    auto *more = new QPushButton(line.command, this);
     more->setObjectName(line.name + u"More"_s);
     more->setAccessibleName(tr("%1: %2").arg(more->text(), line.title));
     more->setAutoDefault(false);
@@ -117,7 +117,7 @@ void TfrmMonthEnd::takePeriod()
     m_ui->lblPeriod->setText(m_ending.followsCalendar
                                  ? tr("Period %1, by the calendar").arg(shownPeriod(m_ending.period))
                                  : tr("Period %1").arg(shownPeriod(m_ending.period)));
-    m_ui->btnOpenPeriod->setText(tr("&Open Period %1").arg(shownPeriod(m_ending.next())));
+    m_ui->btnOpenPeriod->setText(tr("Open &Period %1").arg(shownPeriod(m_ending.next())));
     m_ui->btnOpenPeriod->setEnabled(!m_ending.followsCalendar);
 }
 

@@ -44,7 +44,7 @@ TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
     EXPECT_EQ(child<QLabel>(*screen, "lblPeriod")->text(), u"Period 03/2026"_s);
     EXPECT_EQ(figure("monthEndReceipts"), u"1"_s);
     EXPECT_EQ(figure("monthEndCounted"), u"0 of 1"_s);
-    click(*screen, "monthEndReceiptsMore");
+    typeIn(*screen, "monthEndReceiptsMore", "<Return>");
     EXPECT_EQ(opened, u"frmInvReceipts"_s);
     EXPECT_EQ(list->dataSet().filter(), u"(Posted = false)"_s);
 
