@@ -96,7 +96,7 @@ bool TfrmMonthEnd::event(QEvent *event)
 {
     const bool used = DialogScreen::event(event);
     if (event->type() == QEvent::WindowActivate)
-        guard().run([this] { read(); });
+        lookAgain();
     return used;
 }
 
@@ -138,6 +138,17 @@ void TfrmMonthEnd::read()
     const MonthEndSource from = source();
     for (Shown &shown : m_shown)
         show(shown, shown.line.read(from));
+}
+
+// By itself: a box about what cannot be read would bring the window to the front again when it is closed.
+void TfrmMonthEnd::lookAgain()
+{
+    const std::exception_ptr failure = Guard::attempt([this] { read(); });
+    if (!failure)
+        return;
+    Guard::trace(failure);
+    for (Shown &shown : m_shown)
+        show(shown, {.text = u"-"_s, .isMet = false, .detail = tr("This could not be read.")});
 }
 
 void TfrmMonthEnd::show(Shown &shown, const MonthEndFigure &figure)

@@ -51,6 +51,7 @@ private:
     void takePeriod();
     MonthEndSource source() const;
     void read();
+    void lookAgain();
     void show(Shown &shown, const MonthEndFigure &figure);
     void showMore(const Shown &shown);
     void print(const QString &report);

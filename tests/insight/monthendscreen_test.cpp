@@ -86,6 +86,13 @@ TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
     click(*screen, "btnOpenPeriod");
     EXPECT_TRUE(prompts.last().contains(u"Somebody has opened period 05/2026 meanwhile."_s));
     EXPECT_EQ(defaultPeriod(), u"5|2026");
+
+    prompts.take();
+    kitchen.execute(u"DROP TABLE ICounted"_s);
+    QEvent comesToFront(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(screen, &comesToFront);
+    EXPECT_EQ(figure("monthEndCounted"), u"-"_s);
+    EXPECT_EQ(prompts.told(), QString()) << "a box would bring it to the front once more, and so for ever";
 }
 
 } // namespace
