@@ -185,7 +185,7 @@ void TfrmMonthEnd::showMore(const Shown &shown)
 
 void TfrmMonthEnd::print(const QString &report)
 {
-    TfrmPreview &preview = showReport(context(), *ReportList::find(report), {}, this);
+    TfrmPreview &preview = showReport(context(), *ReportList::find(report), {}, parentWidget());
     connect(&preview, &TfrmPreview::given, this, [this, period = m_ending.period] {
         if (period != m_ending.period)
             return; // what was shown was not this one's

@@ -148,6 +148,6 @@ void TfrmWhatToBuy::receiptSaved(const PlannedReceipt &receipt)
     read();
 }
 
-void TfrmWhatToBuy::btnPrintClick() { showReport(context(), report(), selection(), this); }
+void TfrmWhatToBuy::btnPrintClick() { showReport(context(), report(), selection(), parentWidget()); }
 
 } // namespace Tallymere
