@@ -1,6 +1,7 @@
 #include "insight/screens/stocktimedialog.h"
 
 #include "data/datamodule.h"
+#include "data/fiscalperiod.h"
 #include "reports/reportchoice.h"
 #include "ui_stocktimedialog.h"
 
@@ -19,10 +20,10 @@ StockTimeDialog::StockTimeDialog(ScreenContext &context, const StockTime &preset
     m_ui->editDay->setDate(preset.day.isValid() ? preset.day : today);
     m_ui->optDay->setChecked(preset.day.isValid());
     m_ui->optPeriod->setChecked(!preset.day.isValid());
-    if (preset.period > 0) {
-        m_ui->editGLPeriod->setText(QString::number(preset.period));
-        m_ui->editGLYear->setText(QString::number(preset.year));
-    }
+    const Period period = preset.period > 0 ? Period{preset.year, preset.period}
+                                            : periodBefore(defaultPeriod(context.data.databaseTallymere(), today));
+    m_ui->editGLPeriod->setText(QString::number(period.number));
+    m_ui->editGLYear->setText(QString::number(period.year));
     connect(m_ui->optDay, &QRadioButton::toggled, this, &StockTimeDialog::showWhatCounts);
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &StockTimeDialog::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
