@@ -13,8 +13,7 @@ QList<ReportDescription> valueReports();
 QList<ReportDescription> perpetualReports();
 QList<ReportDescription> listReports();
 QList<ReportDescription> forms(); // to write on
-QList<ReportDescription> stockReports();
-QList<ReportDescription> costReports(); // as it was
+QList<ReportDescription> costReports(); // why a cost
 QList<ReportDescription> stockReports(); // as it was, and what to buy
 
 const QList<ReportDescription> &all(); // that have something to show
