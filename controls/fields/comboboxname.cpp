@@ -31,6 +31,16 @@ public:
     {
         return kind == QAccessible::Value ? m_box.currentText() : QAccessibleWidget::text(kind);
     }
+    // Chooses the entry with that text, as picking it from the list does.
+    void setText(QAccessible::Text kind, const QString &text) override
+    {
+        const int row = kind == QAccessible::Value ? m_box.findText(text, Qt::MatchFixedString) : -1;
+        if (row < 0 || !m_box.isEnabled() || state().readOnly)
+            return;
+        m_box.setFocus();
+        m_box.setCurrentIndex(row);
+        Q_EMIT m_box.activated(row);
+    }
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();

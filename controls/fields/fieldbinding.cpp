@@ -106,13 +106,22 @@ public:
         showReadOnly(*edit, m_alwaysReadOnly);
         if (!m_mask && !m_alwaysReadOnly)
             takeOneLine(*edit, size(*edit), field().caption(), [this](const QString &text) { tell(text); });
-        QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { entered(); });
+        QObject::connect(edit, &QLineEdit::textEdited, edit, [this](const QString &text) {
+            m_typed = text;
+            entered();
+        });
+        // Put there by a program that writes for the user; what is typed, and perhaps refused already, comes by here as well.
+        QObject::connect(edit, &QLineEdit::textChanged, edit, [this](const QString &text) {
+            if (!m_showing && text != m_typed && text == m_edit->text())
+                entered();
+        });
     }
 
     void setReadOnly(bool readOnly) override { showReadOnly(*m_edit, readOnly || m_alwaysReadOnly); }
 
     void setActive(bool active) override
     {
+        const QScopedValueRollback showing(m_showing, true);
         m_active = active && !m_edit->isReadOnly();
         showCursor(active && m_edit->isReadOnly());
         if (hasEntry())
@@ -140,6 +149,8 @@ private:
 
     void display() override
     {
+        const QScopedValueRollback showing(m_showing, true);
+        m_typed.clear();
         const QString text = m_active ? field().editText(value()) : field().displayText(value());
         if (m_edit->text() != text)
             m_edit->setText(text);
@@ -154,6 +165,8 @@ private:
     QPointer<FieldMark> m_cursor; // which its edit may have taken with it
     bool m_alwaysReadOnly; // by the form, whatever becomes of the record
     bool m_active = false;
+    QString m_typed; // at the last key, until the field is shown again
+    bool m_showing = false; // the text that changes is the field's
 };
 
 class LookupBinding final : public FieldBinding

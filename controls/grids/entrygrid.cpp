@@ -93,7 +93,7 @@ void EntryGrid::commitEntry()
     if (!m_editor)
         return;
     const QString text = m_editor->text();
-    takeEntry(m_edited, text, text == m_offered ? Entry::Unchanged : Entry::Changed);
+    takeEntry(m_edited, text, text == m_offered && !m_given ? Entry::Unchanged : Entry::Changed);
     if (m_refused == m_edited)
         setRefused({});
     dropEntry();
@@ -124,6 +124,28 @@ bool EntryGrid::finishEntry()
         m_editor->selectAll();
     }
     return false;
+}
+
+// Leaving the row before may be refused, or may write it and make the cells anew.
+bool EntryGrid::openAt(const QModelIndex &cell)
+{
+    const int row = cell.row();
+    const int column = cell.column();
+    setCurrentIndex(cell);
+    if (currentIndex().row() == row && currentIndex().column() == column)
+        edit(currentIndex(), EditKeyPressed, nullptr);
+    return m_editor != nullptr;
+}
+
+bool EntryGrid::enterText(const QModelIndex &cell, const QString &text)
+{
+    if (m_reporting || (m_edited != cell && !finishEntry()))
+        return false;
+    if (!m_editor && !openAt(cell))
+        return false;
+    m_editor->setText(text);
+    const QScopedValueRollback given(m_given, true);
+    return finishEntry();
 }
 
 void EntryGrid::editorLeft(Qt::FocusReason reason)

@@ -21,6 +21,9 @@ public:
     // still to be shown.
     void commitEntry();
     bool hasEntry() const { return m_editor != nullptr; }
+    // Goes to a cell and enters a text there as if it had been typed, for programs that read and write for the user. False
+    // where that is refused, which the user is told; the text stays there to be mended then.
+    bool enterText(const QModelIndex &cell, const QString &text);
     void dropEntry(); // without a word
     CellState cellState(const QModelIndex &cell) const override;
     bool isRefused(const QModelIndex &cell) const override { return cell == m_refused; }
@@ -63,6 +66,7 @@ private:
 
     void setTextMargins(QLineEdit &edit) const;
     QWidget *openEditor(QWidget *parent, const QModelIndex &cell);
+    bool openAt(const QModelIndex &cell);
     void editorLeft(Qt::FocusReason reason);
     bool leadsAway(const std::exception_ptr &failure, const QModelIndex &cell) const;
     void editorGone();
@@ -73,6 +77,7 @@ private:
     QPersistentModelIndex m_edited;
     QPersistentModelIndex m_refused;
     QString m_offered; // what the editor began with
+    bool m_given = false; // the text counts as entered, be it what the editor began with
     bool m_reporting = false; // a refusal is being shown: the focus may come and go
 };
 

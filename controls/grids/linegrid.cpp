@@ -59,6 +59,7 @@ void LineGrid::setLines(Engine::Table &lines, const QList<GridColumn> &columns, 
     m_options = options;
     setGuard(guard);
     m_model = new LineModel(lines, columns, options, guard, this);
+    m_model->enterText = [this](const QModelIndex &cell, const QString &text) { return enterText(cell, text); };
     showModel(m_model);
     delete selectionModel();
     setSelectionModel(new LineSelection(

@@ -24,6 +24,12 @@ int LineModel::currentRow() const
 
 bool LineModel::isUntouched() const { return m_lines.state() == TableState::Insert && !m_lines.isModified(); }
 
+bool LineModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    return role == Qt::EditRole && flags(index).testFlag(Qt::ItemIsEditable) && enterText
+        && enterText(index, value.toString());
+}
+
 Qt::ItemFlags LineModel::flags(const QModelIndex &index) const
 {
     Qt::ItemFlags flags = TableModel::flags(index);

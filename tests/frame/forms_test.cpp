@@ -14,6 +14,7 @@
 #include "transactions/documentkinds.h"
 #include "transactions/screens/countdifferencesscreen.h"
 
+#include <QAccessible>
 #include <QDirIterator>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -257,6 +258,24 @@ TEST_F(FormsTest, NothingIsClipped)
 {
     visitAll([this](QWidget &window) { expectFit(window); });
     EXPECT_GT(shown, screens.names().size()) << "no dialogs came";
+}
+
+// For programs that tell it to whoever cannot see it.
+TEST_F(FormsTest, WhateverTakesTheKeyboardHasAName)
+{
+    visitAll([](QWidget &window) {
+        SCOPED_TRACE(qPrintable(window.objectName()));
+        onEachPage(window, [&window] {
+            for (QWidget *widget : window.findChildren<QWidget *>()) {
+                const bool takesKeys = widget->isVisible() && widget->focusPolicy() & Qt::TabFocus;
+                const QAccessibleInterface *known =
+                    takesKeys && !widget->focusProxy() ? QAccessible::queryAccessibleInterface(widget) : nullptr;
+                EXPECT_FALSE(known && known->text(QAccessible::Name).isEmpty())
+                    << widget->metaObject()->className() << ' ' << qPrintable(widget->objectName()) << " in "
+                    << qPrintable(widget->parentWidget()->objectName());
+            }
+        });
+    });
 }
 
 TEST_F(FormsTest, EveryCommandHasALetterOfItsOwnAndEveryListAName)

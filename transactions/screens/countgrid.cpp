@@ -67,6 +67,7 @@ void CountGrid::setList(const CountList &list, CountActions actions, const Guard
     m_actions = std::move(actions);
     setGuard(guard);
     m_model = new CountModel(list, this);
+    m_model->enterText = [this](const QModelIndex &cell, const QString &text) { return enterText(cell, text); };
     showModel(m_model, CountModel::gridColumns());
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setSortIndicatorShown(true);

@@ -210,6 +210,12 @@ QVariant CountModel::headerData(int section, Qt::Orientation orientation, int ro
     return {};
 }
 
+bool CountModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    return role == Qt::EditRole && flags(index).testFlag(Qt::ItemIsEditable) && enterText
+        && enterText(index, value.toString());
+}
+
 Qt::ItemFlags CountModel::flags(const QModelIndex &index) const
 {
     if (itemAt(index.row()) == heading)

@@ -3,6 +3,7 @@
 #include "base/gridcolumn.h"
 #include "transactions/countlist.h"
 
+#include <functional>
 #include <QAbstractTableModel>
 #include <QColor>
 #include <QCoreApplication>
@@ -36,6 +37,9 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override; // by enterText
+
+    std::function<bool(const QModelIndex &cell, const QString &text)> enterText; // as EntryGrid::enterText
 
 private:
     QVariant headingData(int row, int role) const;

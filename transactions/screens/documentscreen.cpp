@@ -18,6 +18,7 @@
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using Engine::LocateOption;
@@ -85,6 +86,7 @@ void DocumentScreen::buildDocument(LineOptions options)
     addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete),
                     &LineGrid::removeLine);
     addItemCard();
+    addNewLineButton();
     connect(&m_entry->header(), &Engine::DataSet::fieldChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::currentChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::stateChanged, this, &DocumentScreen::showHeader);
@@ -102,6 +104,25 @@ void DocumentScreen::addOpenMark()
     for (QBoxLayout *row : rows) {
         if (const int place = row->indexOf(m_posted); place >= 0)
             row->insertWidget(place + 1, m_open);
+    }
+}
+
+// For the mouse, and for programs that press buttons for the user. It leaves the keys where they are.
+void DocumentScreen::addNewLineButton()
+{
+    m_newLine = new QToolButton(this);
+    m_newLine->setObjectName(u"btnNewLine"_s);
+    m_newLine->setText(tr("New Line"));
+    m_newLine->setToolTip(tr("Appends a line (Page Down)"));
+    m_newLine->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_newLine->setFocusPolicy(Qt::NoFocus);
+    setGlyph(*m_newLine, Glyph::New);
+    connect(m_newLine, &QToolButton::clicked, m_popup.constFirst(), &QAction::trigger);
+    QWidget *figures = findChild<FiguresLine *>();
+    const QList<QBoxLayout *> rows = findChildren<QBoxLayout *>();
+    for (QBoxLayout *row : rows) {
+        if (const int place = row->indexOf(figures); place >= 0)
+            row->insertWidget(place, m_newLine);
     }
 }
 
@@ -197,6 +218,7 @@ void DocumentScreen::showReadOnly(bool readOnly)
     m_grid->setReadOnly(readOnly);
     for (QAction *action : std::as_const(m_popup))
         action->setEnabled(!readOnly);
+    m_newLine->setVisible(!readOnly);
 }
 
 void DocumentScreen::showLineOf(int itemId, double quantity)

@@ -9,6 +9,7 @@
 
 class QAction;
 class QLabel;
+class QToolButton;
 
 namespace Tallymere {
 
@@ -63,6 +64,7 @@ protected:
 private:
     void addOpenMark();
     void addItemCard();
+    void addNewLineButton();
     void showReadOnly(bool readOnly);
     void addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
                          void (LineGrid::*run)());
@@ -78,6 +80,7 @@ private:
     QLabel *m_posted = nullptr;
     QLabel *m_open = nullptr; // shown in its place
     QList<QAction *> m_popup;
+    QToolButton *m_newLine = nullptr;
 };
 
 // The screen of a kind of document without anything of its own: the form names the fields.
