@@ -1,5 +1,6 @@
 #include "engine/store/database.h"
 #include "frame/frmtallymeresystem.h"
+#include "tests/frame/hoststub.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/accessibledriver.h"
 #include "tests/support/teststore.h"
@@ -9,14 +10,6 @@ using namespace Tallymere;
 using Accessible::Window;
 
 namespace {
-
-class HostStub final : public QWidget, public IHostInterface
-{
-public:
-    int addRef() override { return 1; }
-    int release() override { return 1; }
-    void getCurrentUser(QString &name) override { name = u"maria"_s; }
-};
 
 // The product as its host opens it, over a company with a vendor and two items.
 struct AccessibleTest : testing::Test
