@@ -17,9 +17,12 @@ DocumentList::DocumentList(Engine::Database &database, const DocumentKind &kind)
 {
     table().recordName = [this] { return m_kind.titleOf(table()); };
     setOrder(m_kind.list.orders.constFirst());
-    table().addCalculated({u"Periodppyyyy"_s, FieldType::Text, 8}, [](const Engine::DataSet &row) {
-        return Engine::Value(row.value(Fields::GLPeriod).toText() + u'/' + row.value(Fields::GLYear).toText());
-    });
+    table().addCalculated(
+        {u"Periodppyyyy"_s, FieldType::Text, 8},
+        [](const Engine::DataSet &row) {
+            return Engine::Value(row.value(Fields::GLPeriod).toText() + u'/' + row.value(Fields::GLYear).toText());
+        },
+        u"GLYear;GLPeriod"_s);
     table().addLookup(Fields::WarehouseName.sized(50),
                       {Fields::WarehouseID, u"Warehse"_s, Fields::WarehouseID, Fields::WarehouseName});
     if (m_kind.list.addFields)

@@ -292,6 +292,38 @@ void DataSet::setFiltered(bool on)
     emitListChanged();
 }
 
+bool DataSet::canSortBy(int field) const
+{
+    if (d->inMemory || field < 0)
+        return false;
+    const Field &of = m_fields[static_cast<size_t>(field)];
+    return of.kind != FieldKind::Calculated || !of.sortedBy.isEmpty();
+}
+
+QList<OrderedField> DataSet::shownOrder() const
+{
+    QList<OrderedField> order = orderedFields();
+    if (m_sorting.field.isEmpty())
+        return order;
+    const Field &sorted = field(m_sorting.field);
+    order.prepend({sorted.name, isText(sorted.type) && !isCaseSorted(sorted), m_sorting.descending});
+    return order;
+}
+
+void DataSet::setSorting(const Sorting &sorting)
+{
+    requireOpen();
+    if (sorting == m_sorting)
+        return;
+    if (!sorting.field.isEmpty() && !canSortBy(requireField(sorting.field)))
+        raise(ErrorCode::WrongState,
+              Texts::tr("The rows cannot be sorted by %1.").arg(field(sorting.field).caption()));
+    beforeMove();
+    m_sorting = sorting;
+    invalidate(Place::Keep);
+    emitListChanged();
+}
+
 void DataSet::refresh()
 {
     requireOpen();

@@ -34,8 +34,18 @@ struct OrderedField
 {
     QString name;
     bool caseInsensitive = false; // for text: letter case does not count
+    bool descending = false;
 
     LocateOptions options() const { return caseInsensitive ? LocateOption::CaseInsensitive : LocateOption::None; }
+};
+
+// An order that comes before a set's own.
+struct Sorting
+{
+    QString field; // empty: there is none
+    bool descending = false;
+
+    bool operator==(const Sorting &) const = default;
 };
 
 // An ordered set of rows with a current record: the common base of Table and Query.
@@ -66,7 +76,8 @@ public:
     Field &field(QStringView name); // to set label, format, validate, changed; throws NoSuchField
     const Field &field(QStringView name) const;
     void addLookup(const FieldDef &shown, Lookup lookup);
-    void addCalculated(const FieldDef &shown, std::function<Value(const DataSet &)> rule);
+    void addCalculated(const FieldDef &shown, std::function<Value(const DataSet &)> rule,
+                       const QString &sortedBy = {});
 
     // --- the current record -------------------------------------------------------------------------------------
     // Of an empty set every value is null.
@@ -119,6 +130,13 @@ public:
     // is found by its beginning with one key look-up when it is compared as said here.
     virtual QList<OrderedField> orderedFields() const = 0;
 
+    // Sorts by a field, a looked-up one too; rows that agree stay in the set's own order. Text sorts as its index has it,
+    // and without regard to letter case where it has none. The record stays current. Another own order ends it.
+    void setSorting(const Sorting &sorting);
+    const Sorting &sorting() const { return m_sorting; }
+    QList<OrderedField> shownOrder() const; // with what it is sorted by in front
+    bool canSortBy(int field) const; // not by a calculated one that nothing else sorts as
+
     // A condition over data fields, in force while filtered is set:
     //   (WarehouseID = 2) AND (Posted <> true) OR NOT (Name LIKE 'A%')
     // with = <> < > <= >=, LIKE, IS [NOT] NULL, + - * /, AND, OR, NOT, parentheses, numbers, 'texts' (two quotes
@@ -153,6 +171,7 @@ protected:
 
     int requireField(QStringView name) const; // throws NoSuchField
     void requireOpen() const; // throws WrongState
+    virtual bool isCaseSorted(const Field &) const { return false; } // letter case counts in the orders of the text
     virtual void beforeMove(); // Table: posts or drops an edit in progress
     virtual void settle() { } // Table: the same for a detail whose master is about to move
     // The list is read again when it is needed. The record stays current, or the first becomes current.
@@ -176,6 +195,7 @@ protected:
     bool m_open = false;
     QString m_filter;
     bool m_filtered = false;
+    Sorting m_sorting;
 
 private:
     void addField(Field field);

@@ -63,10 +63,12 @@ void DataSet::addLookup(const FieldDef &shown, Lookup lookup)
     addField(std::move(field));
 }
 
-void DataSet::addCalculated(const FieldDef &shown, std::function<Value(const DataSet &)> rule)
+void DataSet::addCalculated(const FieldDef &shown, std::function<Value(const DataSet &)> rule,
+                            const QString &sortedBy)
 {
     Field field = fieldOf(shown, FieldKind::Calculated);
     field.calculate = std::move(rule);
+    field.sortedBy = sortedBy;
     addField(std::move(field));
 }
 

@@ -87,6 +87,7 @@ public:
     const Row &currentRow() const;
 
 private:
+    QStringList sortTerms(const Dialect &dialect) const; // of what comes before the set's own order
     bool mended(const EngineError &error) const;
     void findInKeys() const;
 

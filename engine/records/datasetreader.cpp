@@ -30,7 +30,25 @@ RowSource DataSetReader::sourceOn(Connection &connection) const
     SetScope scope = m_set.scope();
     if (m_set.m_filtered)
         scope.condition += condition(FilterExpression(m_set.m_filter));
+    if (const QStringList sorted = sortTerms(connection.dialect()); !sorted.isEmpty())
+        scope.order = (sorted + QStringList(scope.order)).join(QStringLiteral(", "));
     return RowSource(connection, std::move(scope), m_set.m_fields);
+}
+
+QStringList DataSetReader::sortTerms(const Dialect &dialect) const
+{
+    const Sorting &sorting = m_set.m_sorting;
+    if (sorting.field.isEmpty())
+        return {};
+    const Field &shown = m_set.field(sorting.field);
+    const QString names = shown.kind == FieldKind::Calculated ? shown.sortedBy : shown.name;
+    QStringList terms;
+    for (const QString &name : names.split(u';', Qt::SkipEmptyParts)) {
+        const Field &field = m_set.field(name);
+        const bool folded = isText(field.type) && !m_set.isCaseSorted(field);
+        terms << dialect.orderTerm(columnOf(dialect, field), folded, sorting.descending);
+    }
+    return terms;
 }
 
 bool DataSetReader::mended(const EngineError &error) const

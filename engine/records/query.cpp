@@ -44,8 +44,9 @@ void Query::setKeyFields(const QString &fields)
 
 void Query::setOrderBy(const QString &fields)
 {
-    if (fields == m_orderBy)
+    if (fields == m_orderBy && m_sorting == Sorting())
         return;
+    m_sorting = {};
     m_orderBy = fields;
     if (!m_open)
         return;
@@ -67,6 +68,14 @@ QList<OrderedField> Query::orderedFields() const
     for (const QString &name : m_orderBy.split(u';', Qt::SkipEmptyParts))
         fields.append({name, folded.contains(name, Qt::CaseInsensitive)});
     return fields;
+}
+
+bool Query::isCaseSorted(const Field &field) const
+{
+    const auto contains = [&field](const QString &names) {
+        return names.split(u';', Qt::SkipEmptyParts).contains(field.name, Qt::CaseInsensitive);
+    };
+    return contains(m_orderBy) && !contains(m_foldedFields);
 }
 
 // The statement's text for the store in hand, with its parameters in order.

@@ -43,6 +43,7 @@ public:
 
 protected:
     SetScope scope() const override;
+    bool isCaseSorted(const Field &field) const override;
 
 private:
     struct Text; // the statement as it is prepared

@@ -43,9 +43,10 @@ RowSource::RowSource(Connection &connection, SetScope scope, const std::deque<Fi
     m_columnCount = static_cast<int>(columns.size());
 }
 
-QString RowSource::columnOf(const Field &field) const
+QString RowSource::columnOf(const Field &field) const { return Engine::columnOf(m_connection.dialect(), field); }
+
+QString columnOf(const Dialect &dialect, const Field &field)
 {
-    const Dialect &dialect = m_connection.dialect();
     if (field.kind == FieldKind::Data)
         return "t."_L1 + dialect.name(field.name);
     if (field.kind == FieldKind::Lookup)

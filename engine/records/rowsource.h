@@ -22,6 +22,9 @@ struct SetScope
     QStringList foldedFields;
 };
 
+// The expression of a field of a set, for conditions and orders. Throws NoSuchField for a calculated one.
+QString columnOf(const Dialect &dialect, const Field &field);
+
 // Reads keys and rows of one set. Holds no row itself.
 class RowSource
 {

@@ -142,14 +142,21 @@ QList<OrderedField> TableReader::orderedFields() const
     if (const IndexDef *index = order()) {
         const bool folded = index->options.testFlag(IndexOption::CaseInsensitive);
         for (const QString &name : index->fieldNames())
-            fields.append({name, folded});
+            fields.append({name, folded, index->options.testFlag(IndexOption::Descending)});
     }
     return fields;
 }
 
+bool TableReader::isCaseSorted(const Field &field) const
+{
+    return std::any_of(m_layout.indexes.begin(), m_layout.indexes.end(), [&field](const IndexDef &index) {
+        return !index.options.testFlag(IndexOption::CaseInsensitive) && index.fieldNames().value(0) == field.name;
+    });
+}
+
 void TableReader::setIndex(const QString &nameOrFields)
 {
-    if (nameOrFields == m_index)
+    if (nameOrFields == m_index && m_sorting == Sorting())
         return;
     if (m_open)
         beforeMove();
@@ -164,6 +171,7 @@ void TableReader::setIndex(const QString &nameOrFields)
         m_index = before;
         throw;
     }
+    m_sorting = {};
     m_restriction->ranged = false;
     invalidate(Place::Keep);
     emitListChanged();

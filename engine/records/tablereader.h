@@ -46,6 +46,7 @@ public:
 
 protected:
     SetScope scope() const override;
+    bool isCaseSorted(const Field &field) const override;
     void shut() noexcept; // closes, for destructors
     const IndexDef *order() const; // of the index in force; nullptr for a table without primary key
     QList<Value> linkValues() const; // of the master's record

@@ -40,6 +40,7 @@ struct Field
     FieldFormat format;
     Lookup lookup; // for FieldKind::Lookup
     std::function<Value(const DataSet &)> calculate; // for FieldKind::Calculated; reads the row in hand
+    QString sortedBy; // of a calculated one: the fields that sort rows as it would, "Days;Since"; empty: none
     // Called before a new value is taken over; throws to refuse it, and the old value stays.
     std::function<void(const Value &)> validate;
     // Called after the value has changed.

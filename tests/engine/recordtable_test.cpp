@@ -28,6 +28,54 @@ TEST_P(RecordTest, FollowsTheOrderOfAnIndexAndKeepsTheRecordWhenItChanges)
     EXPECT_EQ(vendors.recordIndex(), 2);
 }
 
+// What is sorted by comes before the order of the index, which stays the order of rows that agree.
+TEST_P(RecordTest, SortsByAnyFieldBeforeItsOwnOrder)
+{
+    addVendors();
+    addDocuments();
+    store.execute(u"UPDATE Vendor SET VendorName = 'bell', Days = 1 WHERE VendorID = 1"_s);
+    const auto unknown = [](const DataSet &) { return Value(u"?"_s); };
+    vendors.addCalculated({u"Age"_s, FieldType::Text, 9}, unknown, u"Days;Since"_s);
+    vendors.addCalculated({u"Mood"_s, FieldType::Text, 9}, unknown);
+    vendors.setIndex(u"SINCE"_s);
+    vendors.open();
+    ASSERT_TRUE(vendors.locate(u"VendorID"_s, {3}));
+    const std::tuple<Sorting, QString, int> cases[] = {
+        {{u"Balance"_s}, u"3 2 5 1 4"_s, 0},
+        {{u"Balance"_s, true}, u"4 1 5 2 3"_s, 4},
+        {{u"VendorName"_s}, u"4 2 1 3 5"_s, 3}, // 1 and 3 agree but for a capital: newest first
+        {{u"VendorName"_s, true}, u"5 1 3 2 4"_s, 2},
+        {{u"Age"_s, true}, u"1 4 2 5 3"_s, 4},
+        {{}, u"4 2 1 5 3"_s, 4},
+    };
+    for (const auto &[sorting, ids, place] : cases) {
+        SCOPED_TRACE(qPrintable(sorting.field));
+        ASSERT_TRUE(vendors.moveToKey({3}));
+        vendors.setSorting(sorting);
+        EXPECT_EQ(vendors.integer(u"VendorID"), 3) << "the record stays current";
+        EXPECT_EQ(vendors.recordIndex(), place);
+        EXPECT_EQ(names(vendors, u"VendorID"_s), ids);
+    }
+    EXPECT_FALSE(vendors.canSortBy(vendors.fieldIndex(u"Mood")));
+    EXPECT_EQ(errorOf([this] { vendors.setSorting({u"Mood"_s}); }), ErrorCode::WrongState);
+    EXPECT_EQ(errorOf([this] { vendors.setSorting({u"NoSuch"_s}); }), ErrorCode::NoSuchField);
+
+    vendors.setSorting({u"VendorName"_s});
+    EXPECT_EQ(vendors.shownOrder().constFirst().name, u"VendorName"_s);
+    ASSERT_TRUE(
+        vendors.locate(u"VendorName"_s, {u"BEL"_s}, LocateOption::PartialKey | LocateOption::CaseInsensitive));
+    EXPECT_EQ(vendors.integer(u"VendorID"), 1) << "the first in the order that is shown";
+    vendors.setIndex(u"SINCE"_s);
+    EXPECT_EQ(names(vendors, u"VendorID"_s), u"4 2 1 5 3"_s) << "its own order, asked for again, ends it";
+
+    Table lines(database(), u"Line"_s);
+    lines.addLookup({u"VendorID"_s, FieldType::Integer, 0},
+                    {u"DocumentID"_s, u"Document"_s, u"DocumentID"_s, u"VendorID"_s});
+    lines.open();
+    lines.setSorting({u"VendorID"_s, true});
+    EXPECT_EQ(names(lines, u"Seq"_s), u"1 2 3 1 2 1"_s) << "by what is looked up";
+}
+
 TEST_P(RecordTest, LocatesTheFirstMatchInTheOrderOrStays)
 {
     addVendors();
