@@ -1,6 +1,8 @@
 #include "master/itemsearch.h"
 
+#include "base/formats.h"
 #include "data/fields.h"
+#include "engine/records/query.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,9 +14,35 @@ ItemSearch::ItemSearch(Engine::Database &database)
     m_items.setIndex(u"ITEMNO"_s);
     m_items.addLookup(Fields::TypeName.sized(40),
                       {Fields::ItemTypeID, u"ItemType"_s, Fields::ItemTypeID, Fields::TypeName});
+    m_items.addCalculated({OnHand.toString(), Engine::FieldType::Float},
+                          [this](const Engine::DataSet &item) { return onHand(item.integer(Fields::ItemID)); });
+    m_items.field(OnHand).format = quantityFormat();
 }
 
-void ItemSearch::open() { m_items.isOpen() ? m_items.refresh() : m_items.open(); }
+void ItemSearch::open()
+{
+    m_onHand.clear();
+    m_items.isOpen() ? m_items.refresh() : m_items.open();
+}
+
+void ItemSearch::setLocation(int warehouseId)
+{
+    m_location = warehouseId;
+    m_onHand.clear();
+}
+
+Engine::Value ItemSearch::onHand(int itemId)
+{
+    auto known = m_onHand.constFind(itemId);
+    if (known == m_onHand.constEnd()) {
+        const QString all = u"SELECT sum(QtyOnHand) FROM IBalance WHERE ItemID = ?"_s;
+        known = m_onHand.insert(itemId,
+                                m_location > 0 ? Engine::singleValue(
+                                    m_items.database(), all + " AND WarehouseID = ?"_L1, {itemId, m_location})
+                                               : Engine::singleValue(m_items.database(), all, {itemId}));
+    }
+    return *known;
+}
 
 void ItemSearch::reset()
 {

@@ -3,6 +3,7 @@
 #include "data/fields.h"
 #include "engine/records/table.h"
 
+#include <QHash>
 #include <QString>
 
 namespace Tallymere {
@@ -13,7 +14,11 @@ class ItemSearch
 public:
     explicit ItemSearch(Engine::Database &database);
 
-    // Items with "TypeName", the name of the item's type.
+    // What is on hand of an item, at one location or at all: one look-up for each row that is shown.
+    static constexpr QStringView OnHand = u"OnHand";
+    void setLocation(int warehouseId); // 0: all
+
+    // Items with "TypeName", the name of the item's type, and OnHand.
     Engine::Table &items() { return m_items; }
     void open(); // opens them, or reads anew what others have changed
     void reset(); // shows all types, in the order of the item number
@@ -31,7 +36,10 @@ public:
 
 private:
     bool type(const QString &index, const QString &field, const QString &text);
+    Engine::Value onHand(int itemId); // null where there has never been any
 
+    int m_location = 0;
+    QHash<int, Engine::Value> m_onHand; // by item; looked up once
     Engine::Table m_items;
 };
 

@@ -8,6 +8,10 @@
 
 namespace Tallymere {
 
+namespace {
+constexpr qint64 stepLength = 20; // ms, after which keys are taken
+} // namespace
+
 using Engine::DataSet;
 using Engine::OrderedField;
 
@@ -15,7 +19,9 @@ ListSearch::ListSearch(const TableModel &model, const Guard &guard, QObject *par
     : QObject(parent)
     , m_model(model)
     , m_guard(guard)
+    , m_rows(model)
 {
+    connect(&m_idle, &QTimer::timeout, this, [this] { lookThrough(stepLength); });
     const auto endUnlessMoving = [this] {
         if (!m_moving)
             end();
@@ -27,7 +33,7 @@ ListSearch::ListSearch(const TableModel &model, const Guard &guard, QObject *par
 std::optional<OrderedField> ListSearch::column() const
 {
     const DataSet &set = m_model.dataSet();
-    for (const OrderedField &field : set.orderedFields()) {
+    for (const OrderedField &field : set.shownOrder()) {
         if (Engine::isText(set.field(field.name).type) && m_model.columnOf(field.name) >= 0)
             return field;
     }
@@ -50,6 +56,9 @@ bool ListSearch::takeKey(const QKeyEvent &key)
     case Qt::Key_Backspace:
         shorten();
         return true;
+    case Qt::Key_F3:
+        findNext(m_text);
+        return true;
     default:
         break;
     }
@@ -63,7 +72,7 @@ bool ListSearch::takeKey(const QKeyEvent &key)
 // character on some platforms.
 void ListSearch::type(const QString &text)
 {
-    if (!isPrinted(text) || !m_model.dataSet().isOpen() || !column() || (!goesOn() && text.trimmed().isEmpty()))
+    if (!isPrinted(text) || !m_model.dataSet().isOpen() || (!goesOn() && text.trimmed().isEmpty()))
         return;
     m_text = goesOn() ? m_text + text : text;
     find();
@@ -79,18 +88,68 @@ void ListSearch::shorten()
         find();
 }
 
+bool ListSearch::begins() const
+{
+    constexpr int many = 50'000; // rows, in which only what has an index is found at once
+    const DataSet &set = m_model.dataSet();
+    const std::optional<OrderedField> where = column();
+    const bool isSlow = !set.sorting().field.isEmpty() && set.recordCount() > many;
+    return where && !isSlow && locate(*where, m_text);
+}
+
+// Rows that have been looked at in vain for less need not be looked at for more.
 void ListSearch::find()
 {
     m_sinceTyped.start();
     const bool searched = m_guard.run([this] {
         const QScopedValueRollback moving(m_moving, true);
-        const std::optional<OrderedField> where = column();
-        m_found = where && locate(*where, m_text);
+        m_found = begins();
     });
     if (!searched)
         return end();
-    if (!m_found)
-        QApplication::beep();
+    const TextMatch words(m_text);
+    const bool isLonger = m_rows.isOn() && m_text.startsWith(m_lookedFor);
+    m_lookedFor = m_text;
+    if (m_found)
+        m_rows.end();
+    else if (isLonger)
+        m_rows.narrow(words);
+    else
+        m_rows.begin(words, 0);
+    if (m_rows.isOn())
+        lookThrough(stepLength);
+    Q_EMIT changed();
+}
+
+void ListSearch::findNext(const QString &text)
+{
+    m_found = false;
+    m_text = m_lookedFor = text;
+    m_rows.begin(TextMatch(m_text), m_model.dataSet().recordIndex() + 1);
+    lookThrough(stepLength);
+    Q_EMIT changed();
+}
+
+// The row that is found stays the one to go on from.
+void ListSearch::lookThrough(qint64 milliseconds)
+{
+    std::optional<int> row;
+    const bool looked = m_guard.run([&] {
+        row = m_rows.step(milliseconds);
+        const QScopedValueRollback moving(m_moving, true);
+        if (row)
+            m_model.dataSet().moveTo(*row);
+    });
+    if (!looked)
+        return end();
+    m_found = row.has_value();
+    if (isLooking()) {
+        m_idle.start(0);
+    } else {
+        m_idle.stop();
+        if (!m_found)
+            QApplication::beep();
+    }
     Q_EMIT changed();
 }
 
@@ -109,6 +168,8 @@ void ListSearch::end()
     if (m_text.isEmpty())
         return;
     m_text.clear();
+    m_rows.end();
+    m_idle.stop();
     Q_EMIT changed();
 }
 

@@ -84,6 +84,8 @@ void ListStatus::showSearch()
         m_search->clear();
     else if (search.isFound())
         m_search->setText(tr("Search: %1").arg(search.text()));
+    else if (search.isLooking())
+        m_search->setText(tr("Search: %1 (looking, %2%)").arg(search.text()).arg(search.percent()));
     else if (m_grid.tableModel()->dataSet().isFiltered())
         m_search->setText(tr("Search: %1 (not found in the filtered rows)").arg(search.text()));
     else

@@ -1,6 +1,7 @@
 #include "controls/screens/filterdialog.h"
 
 #include "controls/fields/lookupcombobox.h"
+#include "controls/windows/mnemonics.h"
 #include "data/lookupsdatainv.h"
 #include "ui_filterdialog.h"
 
@@ -49,6 +50,7 @@ void FilterDialog::addBox(const FilterBox &box)
     addChoice({.chosen = [shown] { return shown->chosenId(); },
                .choose = [shown](const QVariant &key) { shown->setChosenId(key.toInt()); },
                .none = 0,
+               .words = [label = box.label, shown] { return labelled(label, shown->currentText()); },
                .settle = [shown] { shown->settle(); }});
 }
 
@@ -77,7 +79,12 @@ void FilterDialog::addMark(const QString &mark, const QString &label)
     addChoice(
         {.chosen = [this] { return static_cast<int>(marked()); },
          .choose = [this](const QVariant &chosen) { setMarked(static_cast<ListFilter::Marked>(chosen.toInt())); },
-         .none = static_cast<int>(ListFilter::Marked::All)});
+         .none = static_cast<int>(ListFilter::Marked::All),
+         .words =
+             [this, label] {
+                 return labelled(label,
+                                 plainCaption((m_ui->optYes->isChecked() ? m_ui->optYes : m_ui->optNo)->text()));
+             }});
 }
 
 namespace {
@@ -124,6 +131,24 @@ void FilterDialog::setMarked(ListFilter::Marked marked)
 ListFilter FilterDialog::filter() const
 {
     return {.key = m_boxes.isEmpty() ? 0 : m_boxes.constFirst()->chosenId(), .marked = marked()};
+}
+
+QString FilterDialog::labelled(const QString &label, const QString &text)
+{
+    QString name = plainCaption(label);
+    if (name.endsWith(u':'))
+        name.chop(1);
+    return tr("%1: %2").arg(name, text);
+}
+
+QString FilterDialog::words() const
+{
+    QStringList words;
+    for (const Choice &choice : m_choices) {
+        if (choice.chosen() != choice.none)
+            words << choice.words();
+    }
+    return words.join(", "_L1);
 }
 
 bool FilterDialog::isOn() const

@@ -36,6 +36,7 @@ public:
     ~FilterDialog() override;
 
     ListFilter filter() const; // the record of the first box, and the mark
+    QString words() const; // of all that is chosen; empty where nothing is
     bool isOn() const; // something is chosen, whether the list is narrowed by it or not
     int key(const QString &box) const; // 0: any
     void setKey(const QString &box, int key);
@@ -50,12 +51,15 @@ protected:
         std::function<QVariant()> chosen;
         std::function<void(const QVariant &)> choose;
         QVariant none;
+        std::function<QString()> words; // of what is chosen: "Location: Office"
         std::function<void()> settle = {}; // what is still being typed becomes the choice, before OK; may throw
     };
     // Rows come in the order in which they are added; the first has the cursor when the dialog opens.
     void addBox(const FilterBox &box);
     void addRow(const QString &label, QWidget *widget);
     void addChoice(Choice choice);
+    static QString labelled(const QString &label,
+                            const QString &text); // "&Location:" and "Office", as words of a choice
 
     void showStep() override;
 

@@ -1,8 +1,10 @@
 #include "controls/screens/listscreen.h"
 
+#include "controls/grids/listsort.h"
 #include "controls/grids/liststatus.h"
 #include "controls/grids/windowmemory.h"
 #include "controls/screens/listoutput.h"
+#include "controls/windows/filterchip.h"
 #include "controls/windows/icons.h"
 #include "controls/windows/menukeyboard.h"
 #include "controls/windows/printerneeded.h"
@@ -32,6 +34,7 @@ namespace {
 constexpr int firstRows = 12; // that the screen shows when it opens
 constexpr auto filterName = "mnuFilter"_L1;
 constexpr auto copyName = "mnuCopyText"_L1;
+constexpr auto ordersName = "mnuSortBy"_L1;
 } // namespace
 
 ListScreen::ListScreen(ScreenContext &context, QWidget *parent)
@@ -61,7 +64,9 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
     leaveMenuBarWithMenus(*menuBar());
     for (const ListButton &button : description.buttons)
         addButton(button);
+    addFilterChip();
     finishPopup();
+    addSorting();
     watchRecord();
     connect(m_grid, &ListGrid::chosen, this, [this, defaultCommand] { runCommand(defaultCommand); });
     m_grid->setFocus();
@@ -143,6 +148,11 @@ void ListScreen::addChoices(QMenu *menu, const ListCommand &command)
         action->setChecked(group->actions().size() == command.firstChoice);
         group->addAction(action);
     }
+    if (command.name == ordersName) {
+        m_orders = group;
+        m_ownOrder = group->checkedAction();
+        connect(group, &QActionGroup::triggered, this, [this](QAction *order) { m_ownOrder = order; });
+    }
 }
 
 QAction *ListScreen::addCommand(QMenu *menu, const ListCommand &command)
@@ -205,6 +215,41 @@ void ListScreen::finishPopup()
         m_grid->addAction(separator);
     }
     m_grid->addAction(copy);
+}
+
+// By each column, for those who do not use the mouse: at the end of the menu that reads the list anew.
+void ListScreen::addSorting()
+{
+    m_sort = new ListSort(*m_grid, m_guard);
+    connect(m_sort, &ListSort::changed, this, &ListScreen::showChosenOrder);
+    const QAction *refresh = command(u"mnuRefresh"_s);
+    auto *view = refresh ? qobject_cast<QMenu *>(refresh->parent()) : nullptr;
+    if (!view)
+        return;
+    QMenu *columns = addSubMenu(view, {.name = u"mnuSortByColumn"_s, .caption = tr("Sort by Column")});
+    for (int column = 0; column < m_grid->columns().size(); ++column) {
+        if (!m_sort->canSortBy(column))
+            continue;
+        auto *entry = new QAction(m_grid->columns()[column].title, columns);
+        entry->setObjectName(u"mnuSortBy"_s + m_grid->columns()[column].field);
+        entry->setCheckable(true);
+        columns->addAction(entry);
+        connect(entry, &QAction::triggered, m_sort, [this, column] { m_sort->sortBy(column); });
+        const auto follow = [this, entry, column] { entry->setChecked(m_sort->column() == column); };
+        connect(m_sort, &ListSort::changed, entry, follow);
+        follow();
+    }
+}
+
+// One of the list's own orders is checked only as long as nothing comes before it.
+void ListScreen::showChosenOrder()
+{
+    if (!m_ownOrder)
+        return;
+    const bool own = m_data->sorting().field.isEmpty();
+    m_orders->setExclusionPolicy(own ? QActionGroup::ExclusionPolicy::Exclusive
+                                     : QActionGroup::ExclusionPolicy::ExclusiveOptional);
+    m_ownOrder->setChecked(own);
 }
 
 void ListScreen::watchRecord()
@@ -376,6 +421,11 @@ void ListScreen::showFilterMark()
     setWindowTitle(filtered ? tr("%1 (Filtered)").arg(m_caption) : m_caption);
     if (QAction *filter = command(filterName))
         filter->setChecked(filtered);
+    if (m_filterChip) {
+        const QString words = filterWords();
+        m_filterChip->setText(words.isEmpty() ? tr("Filtered") : words);
+        m_filterChip->setVisible(filtered);
+    }
     m_grid->setHint(hint());
 }
 
@@ -383,6 +433,21 @@ void ListScreen::setCaption(const QString &caption)
 {
     m_caption = caption;
     showFilterMark();
+}
+
+// Beside the buttons: what the list is narrowed to, taken away with one click.
+void ListScreen::addFilterChip()
+{
+    if (!command(filterName))
+        return;
+    m_filterChip = new FilterChip(m_topPanel);
+    m_filterChip->setObjectName(u"btnFilterChip"_s);
+    m_filterChip->hide();
+    m_buttons->insertWidget(m_buttons->count() - 1, m_filterChip);
+    connect(m_filterChip, &QAbstractButton::clicked, this, [this] {
+        m_guard.runWhenFree([this] { resetFilter(); });
+        m_grid->setFocus();
+    });
 }
 
 void ListScreen::say(const QString &text) { m_status->say(text); }

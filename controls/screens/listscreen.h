@@ -13,12 +13,15 @@
 #include <QMainWindow>
 
 class QAction;
+class QActionGroup;
 class QFrame;
 class QHBoxLayout;
 
 namespace Tallymere {
 
+class FilterChip;
 class ListOutput;
+class ListSort;
 class ListStatus;
 class WindowMemory;
 
@@ -118,6 +121,7 @@ protected:
     void say(const QString &text); // in the status line, for a moment
     void setCaption(const QString &caption); // in place of the description's
     virtual void showStep(); // each time the screen is shown: caption
+    virtual QString filterWords() const { return {}; } // of what the filter dialog has chosen
     virtual void clearFilterDialog() { } // clears the fields of the filter dialog, if there is one
     virtual void presetFilterDialog(const QList<KeyOfField> &) { } // the dialog has been cleared
 
@@ -135,10 +139,13 @@ private:
     void print(const QString &report);
     void runCommand(const std::function<void()> &run);
     void finishPopup();
+    void addSorting();
+    void showChosenOrder();
     void watchRecord();
     QList<ListMenu> withItemCard(QList<ListMenu> menus);
     void showAvailable();
     void showFilterMark();
+    void addFilterChip();
     QString hint() const;
     void sizeForRows();
 
@@ -150,9 +157,13 @@ private:
     ListGrid *m_grid = nullptr;
     ListStatus *m_status = nullptr;
     ListOutput *m_output = nullptr;
+    ListSort *m_sort = nullptr;
+    QActionGroup *m_orders = nullptr; // the entries that stand for the list's own orders
+    QAction *m_ownOrder = nullptr; // that is in force, or would be without sorting by a column
     WindowMemory *m_memory = nullptr;
     QFrame *m_topPanel = nullptr;
     QHBoxLayout *m_buttons = nullptr;
+    FilterChip *m_filterChip = nullptr; // of a list that has a filter
     QList<std::pair<QAction *, std::function<bool()>>> m_available; // commands that depend on the current record
     QSize m_firstSize;
 };

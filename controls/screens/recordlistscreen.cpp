@@ -116,6 +116,8 @@ void RecordListScreen::filterByMark(ListFilter::Marked marked)
 
 void RecordListScreen::btnFindClick() { m_dialogs.makeFind()->exec(); }
 
+QString RecordListScreen::filterWords() const { return m_filter ? m_filter->words() : QString(); }
+
 void RecordListScreen::clearFilterDialog()
 {
     if (m_filter)

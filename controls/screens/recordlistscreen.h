@@ -46,6 +46,7 @@ protected:
     static ListMenu &menu(ListDescription &description, const QString &caption);
 
     RecordOpener &records() { return *m_records; }
+    QString filterWords() const override;
     void clearFilterDialog() override;
 
 private:

@@ -18,12 +18,17 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
     , m_search(context.data.databaseTallymere())
 {
     m_ui->setupUi(this);
-    resize(scaled(this, 580), scaled(this, 420));
+    resize(scaled(this, 660), scaled(this, 420));
     m_search.open();
     m_ui->DBGrid1->setDataSet(m_search.items(),
                               {{Fields::ItemNo, tr("Item no."), 110},
                                {Fields::ItemDescription, tr("Description"), 290},
-                               {Fields::TypeName, tr("Item Type"), 120}},
+                               {Fields::TypeName, tr("Item Type"), 120},
+                               {.field = ItemSearch::OnHand.toString(),
+                                .title = tr("On hand"),
+                                .width = 80,
+                                .alignment = Qt::AlignRight,
+                                .setOff = true}},
                               guard());
     m_ui->cboItemType->setList(context.lookups.tblItemType(), {{Fields::TypeName, tr("Item Type"), 180}}, guard());
 
@@ -32,6 +37,10 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
     connect(m_ui->cboItemType, &LookupComboBox::chosen, this,
             [this](int type) { guard().run([&] { m_search.setItemType(type); }); });
     connect(m_ui->DBGrid1, &ListGrid::chosen, this, &QDialog::accept);
+    connect(m_ui->DBGrid1->search(), &ListSearch::changed, this, [this] {
+        if (m_ui->DBGrid1->search()->isFound())
+            m_missed = false;
+    });
     connect(m_ui->btnOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
     m_ui->editFindItemNo->installEventFilter(this);
@@ -41,7 +50,7 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
 
 TfrmItemSearchInv::~TfrmItemSearchInv() = default;
 
-int TfrmItemSearchInv::choose(ScreenContext &context, QWidget *window, int itemId, const QString &typed)
+int TfrmItemSearchInv::choose(ScreenContext &context, QWidget *window, const Begin &begin)
 {
     const QString name = u"frmItemSearch"_s;
     auto *search = findScreen<TfrmItemSearchInv>(name);
@@ -51,8 +60,9 @@ int TfrmItemSearchInv::choose(ScreenContext &context, QWidget *window, int itemI
     }
     // While it is open it belongs to the window, so that this is what comes back to the front.
     search->setParent(window, search->windowFlags());
-    search->SetItemID(itemId);
-    search->m_typed = typed;
+    search->m_search.setLocation(begin.warehouseId);
+    search->SetItemID(begin.itemId);
+    search->m_typed = begin.typed;
     const bool accepted = search->exec() == QDialog::Accepted;
     search->setParent(window->parentWidget(), search->windowFlags());
     window->activateWindow();
@@ -113,6 +123,14 @@ void TfrmItemSearchInv::noteFound(bool found)
         QApplication::beep();
 }
 
+// The next item that has the words of the box anywhere, of whatever case.
+void TfrmItemSearchInv::findAnywhere()
+{
+    auto *box = qobject_cast<QLineEdit *>(focusWidget());
+    if (box && !box->text().trimmed().isEmpty())
+        m_ui->DBGrid1->search()->findNext(box->text());
+}
+
 bool TfrmItemSearchInv::eventFilter(QObject *watched, QEvent *event)
 {
     // By then the dialog has shown itself, and given its box the cursor.
@@ -146,6 +164,9 @@ bool TfrmItemSearchInv::takeSearchKey(QKeyEvent &key)
     case Qt::Key_PageDown:
         m_missed = false;
         QCoreApplication::sendEvent(m_ui->DBGrid1, &key);
+        return true;
+    case Qt::Key_F3:
+        findAnywhere();
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:

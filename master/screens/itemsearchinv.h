@@ -20,9 +20,15 @@ public:
     ~TfrmItemSearchInv() override;
 
     // Shows the kept instance, named "frmItemSearch", over a window, beginning on an item, or on what a text that was
-    // typed for its number leads to. The chosen item, or 0. The instance is made at the first use and stays a child of
-    // the window's parent.
-    static int choose(ScreenContext &context, QWidget *window, int itemId, const QString &typed = {});
+    // typed for its number leads to. It tells what is on hand at a location, or at all of them. The chosen item, or 0. The
+    // instance is made at the first use and stays a child of the window's parent.
+    struct Begin
+    {
+        int itemId = 0;
+        QString typed{};
+        int warehouseId = 0; // 0: all
+    };
+    static int choose(ScreenContext &context, QWidget *window, const Begin &begin);
 
     void SetItemID(int itemId); // the item to begin on; an unknown one begins on the first
     int GetItemID() const; // the item under the cursor, to be read after OK
@@ -36,6 +42,7 @@ private:
     void typeDescription(const QString &text);
     void continueTyping();
     void noteFound(bool found);
+    void findAnywhere();
     bool takeTypeKey(const QKeyEvent &key);
     bool takeSearchKey(QKeyEvent &key);
 

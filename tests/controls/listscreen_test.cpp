@@ -226,3 +226,39 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
     context->chooseFileToSave = {};
     EXPECT_FALSE(open().command(u"mnuSaveCsv"_s)->isEnabled());
 }
+
+// A click on a title sorts by its column and, once more, the other way round; the arrow and the menus say so.
+TEST_F(ListScreenTest, SortsByItsTitles)
+{
+    kitchen.execute(u"UPDATE Item SET UnitPrice = 7 WHERE ItemID = 2"_s);
+    ItemList &screen = open();
+    QHeaderView &titles = *screen.list().horizontalHeader();
+    const auto clickOn = [&titles](int column) {
+        const int x = titles.sectionViewportPosition(column) + 10;
+        QTest::mouseClick(titles.viewport(), Qt::LeftButton, {}, {x, titles.height() / 2});
+        settle();
+    };
+    const auto shown = [&] {
+        QStringList numbers;
+        for (int row = 0; row < screen.list().model()->rowCount(); ++row)
+            numbers << cellOf(screen.list(), row, 0);
+        const QString arrow = titles.sortIndicatorOrder() == Qt::AscendingOrder ? u"up"_s : u"down"_s;
+        return numbers.join(u' ') + u' ' + QString::number(titles.sortIndicatorSection()) + arrow;
+    };
+    EXPECT_EQ(shown(), u"A10 A11 B1 X9 0up"_s) << "its own order";
+    clickOn(2);
+    EXPECT_EQ(shown(), u"B1 X9 A11 A10 2up"_s);
+    EXPECT_TRUE(screen.command(u"mnuSortByUnitPrice"_s)->isChecked());
+    EXPECT_FALSE(screen.command(u"mnuSortByItemNo"_s)->isChecked());
+    clickOn(2);
+    EXPECT_EQ(shown(), u"A10 A11 B1 X9 2down"_s);
+    screen.command(u"mnuSortByItemDescription"_s)->trigger();
+    EXPECT_EQ(shown(), u"A10 B1 A11 X9 1up"_s) << "from the menu, small letters like capitals";
+    press(Qt::Key_Y);
+    EXPECT_EQ(screen.dataSet().text(u"ItemNo"), u"X9"_s) << "typing finds in the column that it is sorted by";
+    clickOn(0);
+    EXPECT_EQ(shown(), u"A10 A11 B1 X9 0up"_s);
+    EXPECT_EQ(screen.dataSet().sorting(), Engine::Sorting()) << "that is its own order";
+    clickOn(0);
+    EXPECT_EQ(shown(), u"X9 B1 A11 A10 0down"_s);
+}

@@ -313,8 +313,14 @@ TEST_F(ItemScreens, SearchAnItemByWhatIsTyped)
     EXPECT_EQ(prompts.last(), u"error: Item not found"_s);
     EXPECT_EQ(search.GetItemID(), 2);
     EXPECT_TRUE(search.isVisible()) << "no number goes on so: not an item that was not asked for";
+    typeOver(search, "editFindItemNo", "BREAD");
+    EXPECT_EQ(search.GetItemID(), 3) << "B1 is the last that fitted";
+    press(Qt::Key_F3);
+    EXPECT_EQ(search.GetItemID(), 2) << "but there are such words";
     typeIn(search, "editFindItemDescription", "ap");
     EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
+    press(Qt::Key_F3);
+    EXPECT_EQ(search.GetItemID(), 1) << "the next one anywhere, of whatever case";
     typeIn(search, "cboItemType", "food<Return>");
     EXPECT_TRUE(search.isVisible()) << "nobody has seen the items of the type yet";
     EXPECT_EQ(search.GetItemID(), 1);
@@ -322,11 +328,15 @@ TEST_F(ItemScreens, SearchAnItemByWhatIsTyped)
     EXPECT_EQ(search.result(), QDialog::Accepted);
 
     kitchen.execute(u"DELETE FROM Item WHERE ItemID = 2"_s);
+    kitchen.execute(
+        u"INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (1, 1, 5), (1, 2, -7.5), (3, 2, 4)"_s);
     search.SetItemID(3);
     search.SetItemID(2); // which is gone
     showActive(search);
     EXPECT_EQ(search.GetItemID(), 1);
     EXPECT_EQ(child<ListGrid>(search, "DBGrid1")->model()->rowCount(), 3) << "as they are by now";
+    EXPECT_EQ(cellOf(*child<ListGrid>(search, "DBGrid1"), 0, 3), u"-2.5"_s) << "of all locations";
+    EXPECT_EQ(cellOf(*child<ListGrid>(search, "DBGrid1"), 2, 3), QString()) << "never any";
     EXPECT_EQ(focusName(), u"editFindItemNo");
     EXPECT_EQ(child<QLineEdit>(search, "editFindItemNo")->text(), QString());
     EXPECT_EQ(child<LookupComboBox>(search, "cboItemType")->chosenId(), 0);

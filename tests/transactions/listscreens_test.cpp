@@ -370,6 +370,37 @@ TEST_F(ListScreensTest, listsAreNarrowedToWhatWaits)
     EXPECT_EQ(child<QComboBox>(totals, "cboStock")->currentText(), u"Below zero"_s) << "its filter dialog says so";
 }
 
+// In the words of the dialog, whoever has made the choice, and gone with one click.
+TEST_F(ListScreensTest, whatAListIsNarrowedToStandsAboveItsRows)
+{
+    addReceipts();
+    kitchen.setStock(1, 1, -2, 1);
+    auto &receipts = open<TfrmInvReceipts>();
+    auto *chip = child<QAbstractButton>(receipts, "btnFilterChip");
+    EXPECT_FALSE(chip->isVisible());
+    const auto narrow = [&] { receipts.btnFilterClick(); };
+    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(narrow, [](DocumentFilterScreen &dialog) {
+        dialog.setKey(u"cboWarehouse"_s, 2);
+        child<QRadioButton>(dialog, "optPostedNo")->click();
+        child<QPushButton>(dialog, "btnOK")->click();
+    }));
+    EXPECT_TRUE(chip->isVisible());
+    EXPECT_EQ(chip->text(), u"Location: Freezer, Posted: No"_s);
+    QTest::mouseClick(chip, Qt::LeftButton);
+    EXPECT_FALSE(chip->isVisible() || receipts.dataSet().isFiltered());
+    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(
+        narrow, [](DocumentFilterScreen &dialog) { EXPECT_FALSE(dialog.isOn()) << "the dialog knows of it"; }));
+    receipts.applyFilter(u"(ReceiptID = 1)"_s);
+    EXPECT_EQ(chip->text(), u"Filtered"_s) << "by what no dialog has words for";
+
+    auto &totals = open<TfrmInvTotals>();
+    totals.showWaiting();
+    EXPECT_EQ(child<QAbstractButton>(totals, "btnFilterChip")->text(), u"Quantity On Hand: Below zero"_s);
+    auto &history = open<TfrmInvHistory>();
+    history.filterBy({{u"ItemID"_s, 1}, {u"WarehouseID"_s, 1}});
+    EXPECT_EQ(child<QAbstractButton>(history, "btnFilterChip")->text(), u"Item: Apples, Location: Office"_s);
+}
+
 TEST_F(ListScreensTest, historyLeadsFromTotalsToTheDocument)
 {
     addReceipts();

@@ -281,7 +281,10 @@ QString DocumentScreen::completeDescription(const QString &field, const QString 
 
 bool DocumentScreen::searchItem(const QString &typed)
 {
-    const int itemId = TfrmItemSearchInv::choose(context(), this, m_entry->lines().integer(Fields::ItemID), typed);
+    const int itemId = TfrmItemSearchInv::choose(context(), this,
+                                                 {.itemId = m_entry->lines().integer(Fields::ItemID),
+                                                  .typed = typed,
+                                                  .warehouseId = m_entry->header().integer(Fields::WarehouseID)});
     if (itemId == 0)
         return false;
     m_entry->setLineColumn(numberColumn.toString());

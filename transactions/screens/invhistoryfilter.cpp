@@ -50,7 +50,8 @@ void TfrmInvHistoryFilter::addTypes()
     addRow(tr("&Transaction Type:"), m_type);
     addChoice({.chosen = [this] { return m_type->currentIndex(); },
                .choose = [this](const QVariant &index) { m_type->setCurrentIndex(index.toInt()); },
-               .none = 0});
+               .none = 0,
+               .words = [this] { return labelled(tr("Type"), m_type->currentText()); }});
 }
 
 OptionalNumber *TfrmInvHistoryFilter::addNumber(const QString &label, OptionalNumber *number)
@@ -59,6 +60,7 @@ OptionalNumber *TfrmInvHistoryFilter::addNumber(const QString &label, OptionalNu
     addChoice({.chosen = [number] { return number->number(); },
                .choose = [number](const QVariant &chosen) { number->choose(chosen.toInt()); },
                .none = 0,
+               .words = [label, number] { return labelled(label, QString::number(number->number())); },
                .settle = [number] { number->settle(); }});
     return number;
 }

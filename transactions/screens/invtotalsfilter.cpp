@@ -1,5 +1,6 @@
 #include "transactions/screens/invtotalsfilter.h"
 
+#include "base/formats.h"
 #include "controls/fields/optionaldate.h"
 #include "data/datamodule.h"
 #include "transactions/totalsview.h"
@@ -24,7 +25,8 @@ TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent
     addRow(tr("&Quantity On Hand:"), m_stock);
     addChoice({.chosen = [this] { return m_stock->currentIndex(); },
                .choose = [this](const QVariant &index) { m_stock->setCurrentIndex(index.toInt()); },
-               .none = 0});
+               .none = 0,
+               .words = [this] { return labelled(tr("Quantity On Hand"), m_stock->currentText()); }});
 
     constexpr int months = 3;
     const QDate today = context.data.today();
@@ -38,7 +40,8 @@ TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent
     addRow(tr("Not &moved since:"), m_notMovedSince);
     addChoice({.chosen = [this] { return m_notMovedSince->date(); },
                .choose = [this](const QVariant &day) { m_notMovedSince->choose(day.toDate()); },
-               .none = QDate()});
+               .none = QDate(),
+               .words = [this] { return labelled(tr("Not moved since"), dateText(m_notMovedSince->date())); }});
 }
 
 QString TfrmInvTotalsFilter::expression() const

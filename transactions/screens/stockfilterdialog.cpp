@@ -32,6 +32,7 @@ StockFilterDialog::StockFilterDialog(ScreenContext &context, const FilterDialogK
     addChoice({.chosen = [this] { return m_item->key(); },
                .choose = [this](const QVariant &item) { m_item->choose(item.toInt()); },
                .none = 0,
+               .words = [this] { return labelled(tr("Item"), m_item->text()); },
                .settle = [this] { m_item->settle(); }});
     addBox({.name = locationBox, .label = tr("&Location:"), .list = u"Warehse"_s});
 }

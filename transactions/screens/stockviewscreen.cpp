@@ -39,6 +39,8 @@ void StockViewScreen::btnFilterClick()
 
 void StockViewScreen::btnFindClick() { TfrmItemsFind(context(), dataSet(), this).exec(); }
 
+QString StockViewScreen::filterWords() const { return m_filter ? m_filter->words() : QString(); }
+
 void StockViewScreen::clearFilterDialog()
 {
     if (m_filter)

@@ -26,6 +26,7 @@ protected:
     ListMenu stockRecordsMenu();
     ListCommand stockFilterCommand();
 
+    QString filterWords() const override;
     void clearFilterDialog() override;
     void presetFilterDialog(const QList<KeyOfField> &keys) override;
 
