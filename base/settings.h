@@ -60,6 +60,10 @@ constexpr ScreenSetting<QString> columnWidths(QStringView grid) { return {grid};
 inline constexpr QStringView savingSection = u"SaveAsCsv";
 inline constexpr ScreenSetting<QString> SavingFolder{u"Folder"};
 
+// Entering documents: Enter passes over what follows from the item of a line.
+inline constexpr QStringView documentEntry = u"DocumentEntry";
+inline constexpr ScreenSetting<bool> PassesKnown{u"PassesKnown"};
+
 // The choice of a report. The period counts as long as the organization's default period is what it was then.
 inline constexpr QStringView reportsScreen = u"frmInvReports";
 inline constexpr ChoiceSetting<QString> Report{QLatin1StringView("report")};

@@ -121,12 +121,14 @@ void DocumentEntry::beginVisit()
     m_visit.begin();
     m_distantDate = {};
     m_stock.forget();
+    m_takenOut.reset();
     visitBegins();
 }
 
 void DocumentEntry::endVisit()
 {
     m_visit.end();
+    m_takenOut.reset();
     m_stock.forget();
     visitBegins();
 }
@@ -329,6 +331,7 @@ void DocumentEntry::LineRules::post(const Step &save)
                             LineGrid);
         throw;
     }
+    entry.m_takenOut.reset();
     entry.m_stock.linesChanged();
     entry.lineSaved();
 }
@@ -336,7 +339,9 @@ void DocumentEntry::LineRules::post(const Step &save)
 void DocumentEntry::LineRules::remove(const Step &erase)
 {
     entry.beginLineChange(LineChange::Remove);
+    std::optional<TakenOut> taken = entry.currentLine();
     entry.m_visit.remove(erase);
+    entry.m_takenOut = std::move(taken);
     entry.m_stock.linesChanged();
     entry.lineRemoved();
 }
@@ -418,6 +423,13 @@ void DocumentEntry::chooseItemByNumber(const QString &itemNo)
     m_lines.set(Fields::ItemID, itemNo.isEmpty() ? Value() : Value(m_check.itemByNumber(itemNo)));
 }
 
+void DocumentEntry::chooseItemByDescription(const QString &description)
+{
+    setLineColumn(Fields::ItemDescription);
+    const int itemId = m_check.itemByDescription(description);
+    chooseItem(itemId);
+}
+
 bool DocumentEntry::goToLineOf(int itemId, double quantity)
 {
     if (m_lines.isEditing())
@@ -434,6 +446,67 @@ void DocumentEntry::removeLine()
         m_lines.cancel();
     else if (!m_lines.isEmpty())
         m_lines.remove();
+}
+
+// What sets the item presets others.
+void DocumentEntry::newLineWith(const std::function<std::optional<Value>(const QString &field)> &held)
+{
+    newLine();
+    try {
+        if (const std::optional<Value> item = held(Fields::ItemID))
+            m_lines.set(QString(Fields::ItemID), *item);
+        for (int i = 0; i < m_lines.fieldCount(); ++i) {
+            const Engine::Field &field = std::as_const(m_lines).field(i);
+            const bool isGiven =
+                field.name == m_kind.keyField || field.name == Fields::Seq || field.name == Fields::ItemID;
+            if (field.kind != Engine::FieldKind::Data || isGiven)
+                continue;
+            if (const std::optional<Value> value = held(field.name))
+                m_lines.set(field.name, *value);
+        }
+    } catch (...) {
+        m_lines.cancel();
+        throw;
+    }
+}
+
+// --- the line taken out last -----------------------------------------------------------------------------------
+
+DocumentEntry::TakenOut DocumentEntry::currentLine() const
+{
+    const QString item = m_lines.text(Fields::ItemDescription);
+    const QString line = TransactionsTexts::tr("Line %1").arg(m_lines.recordIndex() + 1);
+    return {m_lines.rowAt(m_lines.recordIndex()), item.isEmpty() ? line : u"%1 (%2)"_s.arg(line, item)};
+}
+
+QString DocumentEntry::takenOut() const { return m_takenOut ? m_takenOut->name : QString(); }
+
+// Its item may have been suspended or deleted meanwhile. Its figures were meant when it was there.
+void DocumentEntry::putBack()
+{
+    if (!m_takenOut)
+        return;
+    const TakenOut taken = *m_takenOut;
+    m_lines.checkBrowseMode();
+    try {
+        setLineColumn(Fields::ItemNo);
+        newLineWith([&](const QString &field) {
+            return std::optional(taken.values[static_cast<size_t>(m_lines.fieldIndex(field))]);
+        });
+        m_check.storedFigures(lineCost());
+        m_lines.post();
+    } catch (const RuleError &error) {
+        if (m_lines.isEditing())
+            m_lines.cancel();
+        throw RuleError(TransactionsTexts::tr("%1 cannot be put back: %2").arg(taken.name, error.message()));
+    }
+}
+
+void DocumentEntry::checkInHand()
+{
+    m_check.requireQuantity();
+    checkLine();
+    m_check.requireFigures(lineCost());
 }
 
 // --- end of the visit ----------------------------------------------------------------------------------------

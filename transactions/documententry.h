@@ -87,15 +87,34 @@ public:
     // The same by a typed item number, in which letter case is second to a number found as typed; an empty text clears
     // the item. Raises when there is no such item.
     void chooseItemByNumber(const QString &itemNo);
+    // The same by its description, whatever its letter case.
+    void chooseItemByDescription(const QString &description);
     // Goes to the line of an item, of several to that with the quantity. False when there is none, or a line is in edit.
     bool goToLineOf(int itemId, double quantity);
     void newLine(); // appends a line
     void removeLine(); // deletes the current line; a line being entered is dropped
+    // A new line with what another one holds: the values by the names of the fields, where there is something to take
+    // over. It is in edit afterwards, or nothing of it is there when it is refused.
+    void newLineWith(const std::function<std::optional<Engine::Value>(const QString &field)> &held);
+    // The stored line that was taken out last, by its place and item: "Line 3 (Rice)". Empty where there is none, a line has
+    // been written since, or the visit is over.
+    QString takenOut() const;
+    void putBack(); // that one as the last line, under the rules of entry
+    // What the writing of the line in hand would refuse, but for what is asked then.
+    void checkInHand();
     // Besides what is stored, lines() tells by these fields what is on hand and what will be (see LineStock), as it was
     // when the visit began or refreshStock() was last called.
     static constexpr QStringView OnHand = u"OnHand";
     static constexpr QStringView Afterwards = u"Afterwards";
     void refreshStock() { m_stock.forget(); }
+    // A value that an empty column of the line in hand may be given with one key, and where it comes from.
+    struct Offer
+    {
+        Engine::Value value;
+        QString origin; // "Last cost from this vendor: 4.20, on 11 Feb 26"
+    };
+    virtual std::optional<Offer> offerFor(const QString &) { return std::nullopt; }
+    virtual QString totalText() { return {}; } // what the lines come to; empty where that is told otherwise
     // Refuses a line without a quantity. Not every kind does so by itself: on a screen it counts as nothing.
     void requireQuantity() const { m_check.requireQuantity(); }
 
@@ -192,6 +211,13 @@ private:
     // from there. A line whose number proves to be taken all the same gets the highest stored one plus 1.
     int m_nextSeq = 1;
     bool m_wasSaved = false;
+    struct TakenOut
+    {
+        Engine::Row values;
+        QString name;
+    };
+    TakenOut currentLine() const;
+    std::optional<TakenOut> m_takenOut;
     QString m_givenNumber; // of the new document, from a file that has one; empty: the counter gives it
     QDate m_distantDate; // that the user wants all the same
 };

@@ -44,6 +44,7 @@ struct DocumentKind
             {}; // of the header, for what users say of the document in their words
         QStringList ownFields = {}; // of the header, that do not come along into a document which reverses it
         QList<GridColumn> lineColumns; // of its line grid; the quantity comes first
+        QList<GridColumn> toldColumns = {}; // worked out from those, for reading, behind them
         std::function<std::unique_ptr<DocumentEntry>(Engine::Database &, Prompts &)> make;
         bool opensFromHistory = true; // the source of a history row can be looked at
         bool leadsListUnsaved = false; // OK moves the list to the document also where nothing was saved

@@ -16,10 +16,9 @@ namespace Tallymere {
 
 namespace {
 
-[[noreturn]] void refuseNumber()
+[[noreturn]] void refuseItem(const QString &column)
 {
-    throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"),
-                    Fields::ItemNo);
+    throw RuleError(TransactionsTexts::tr("Item not found...\nPress Esc or enter a different item no"), column);
 }
 
 } // namespace
@@ -45,7 +44,7 @@ void LineCheck::requireUsable(const Value &itemId) const
     item->bind(0, itemId);
     const bool found = item->next();
     if (typed && !found)
-        refuseNumber();
+        refuseItem(Fields::ItemNo);
     if (!found || !item->valueAt(2, FieldType::Boolean).toBool())
         return;
     if (typed)
@@ -58,8 +57,20 @@ int LineCheck::itemByNumber(const QString &itemNo) const
 {
     const std::optional<int> itemId = findByNumber(m_lines.database(), MasterKinds::item(), itemNo);
     if (!itemId)
-        refuseNumber();
+        refuseItem(Fields::ItemNo);
     return *itemId;
+}
+
+int LineCheck::itemByDescription(const QString &description) const
+{
+    Engine::TableReader items(m_lines.database(), u"Item"_s);
+    items.setIndex(Fields::ItemDescription);
+    items.open();
+    const auto item =
+        items.find(Fields::ItemDescription, {Value(description)}, Engine::LocateOption::CaseInsensitive);
+    if (!item)
+        refuseItem(Fields::ItemDescription);
+    return static_cast<int>(item->key.first());
 }
 
 // --- the line as a whole -------------------------------------------------------------------------------------
@@ -89,13 +100,18 @@ void LineCheck::checkFigures(double cost)
     const EnteredFigures entered = figures(cost);
     if (entered == m_known)
         return;
+    requireFigures(cost);
+    confirmLargeFigures(entered, quantityField(), m_prompts);
+    m_known = entered;
+}
+
+void LineCheck::requireFigures(double cost) const
+{
     try {
-        requireAmount(entered, quantityField());
+        requireAmount(figures(cost), quantityField());
     } catch (const RuleError &error) {
         refuse(error.message(), error.column());
     }
-    confirmLargeFigures(entered, quantityField(), m_prompts);
-    m_known = entered;
 }
 
 } // namespace Tallymere

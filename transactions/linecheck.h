@@ -22,6 +22,7 @@ public:
     void setColumn(const QString &field) { m_column = field; }
     void requireUsable(const Engine::Value &itemId) const; // refuses an item that is suspended or, typed, unknown
     int itemByNumber(const QString &itemNo) const; // letter case is second to a number found as typed
+    int itemByDescription(const QString &description) const; // letter case does not count
 
     [[noreturn]] void refuse(const QString &message, const QString &column) const; // with the advice to undo
     void requireField(const QString &field, const QString &column) const; // "Field '...' must have a value"
@@ -33,6 +34,7 @@ public:
     void newFigures() { m_known.reset(); }
     void storedFigures(double cost) { m_known = figures(cost); }
     void checkFigures(double cost); // SilentAbort when the user does not mean them
+    void requireFigures(double cost) const; // refuses what is no amount of money, and asks nothing
 
 private:
     const QString &quantityField() const { return m_kind.entry.lineColumns.constFirst().field; }

@@ -1,5 +1,6 @@
 #include "transactions/receiptentry.h"
 
+#include "base/formats.h"
 #include "base/ruleerror.h"
 #include "data/fields.h"
 #include "engine/records/query.h"
@@ -15,7 +16,12 @@ namespace Tallymere {
 
 ReceiptEntry::ReceiptEntry(Engine::Database &database, Prompts &prompts)
     : DocumentEntry(database, prompts, DocumentKinds::receipt())
+    , m_total(std::as_const(*this).header(), std::as_const(*this).lines(), kind())
 {
+    lines().addCalculated({Amount.toString(), Engine::FieldType::Money}, [this](const Engine::DataSet &line) {
+        const std::optional<Engine::Money> amount = m_total.of(line);
+        return amount ? Value(*amount) : Value();
+    });
     header().addLookup(Fields::VendorNo.sized(10),
                        {Fields::VendorID, u"Vendor"_s, Fields::VendorID, Fields::VendorNo});
 }
@@ -26,6 +32,14 @@ void ReceiptEntry::configureFields()
     header().field(Fields::ReceiptNo).label = TransactionsTexts::tr("Receipt no.");
     header().field(Fields::VendorID).label = TransactionsTexts::tr("Vendor");
     header().field(Fields::VendorID).validate = [this](const Value &vendorId) { validateVendor(vendorId); };
+    lines().field(Amount).format = currencyFormat();
+}
+
+void ReceiptEntry::visitBegins()
+{
+    m_total.forget();
+    m_lastCosts.clear();
+    m_currency = {};
 }
 
 QString ReceiptEntry::caption() const
@@ -90,6 +104,53 @@ void ReceiptEntry::checkLine()
         lineCheck().refuse(TransactionsTexts::tr("Field '%1' must not be less than zero")
                                .arg(lines().field(Fields::UnitCost).label),
                            Fields::UnitCost);
+}
+
+// --- what is told of it ------------------------------------------------------------------------------------------
+
+std::optional<DocumentEntry::Offer> ReceiptEntry::offerFor(const QString &field)
+{
+    const int vendorId = header().integer(Fields::VendorID);
+    const int itemId = lines().integer(Fields::ItemID);
+    const bool lacks = field == Fields::UnitCost && lines().isEditing() && lines().value(field).isNull();
+    if (!lacks || vendorId == 0 || itemId == 0)
+        return std::nullopt;
+    const std::optional<VendorCost> &last = lastCost(vendorId, itemId);
+    if (!last)
+        return std::nullopt;
+    return Offer{Value(last->cost),
+                 TransactionsTexts::tr("Last cost from this vendor: %1, on %2")
+                     .arg(currencyText(last->cost), dateText(last->date))};
+}
+
+const std::optional<VendorCost> &ReceiptEntry::lastCost(int vendorId, int itemId)
+{
+    const std::pair<int, int> both(vendorId, itemId);
+    const auto known = m_lastCosts.constFind(both);
+    return known != m_lastCosts.cend() ? *known
+                                       : *m_lastCosts.insert(both, lastCostFrom(database(), vendorId, itemId));
+}
+
+QString ReceiptEntry::totalText()
+{
+    if (!header().isOpen() || (lines().isEmpty() && !lines().isEditing()))
+        return {};
+    const std::optional<Engine::Money> sum = m_total.sum();
+    return sum ? TransactionsTexts::tr("Total: %1").arg((currencyText(*sum) + u' ' + currencyName()).trimmed())
+               : QString();
+}
+
+QString ReceiptEntry::currencyName()
+{
+    const int vendorId = header().integer(Fields::VendorID);
+    if (m_currency.first != vendorId)
+        m_currency = {vendorId,
+                      Engine::singleValue(database(),
+                                          u"SELECT C.CurrencyName FROM Vendor V JOIN Currency C "
+                                          "ON C.CurrencyID = V.CurrencyID WHERE V.VendorID = ?"_s,
+                                          {vendorId})
+                          .toText()};
+    return m_currency.second;
 }
 
 } // namespace Tallymere

@@ -1,6 +1,11 @@
 #pragma once
 
 #include "transactions/documententry.h"
+#include "transactions/linetotal.h"
+#include "transactions/vendorcost.h"
+
+#include <QHash>
+#include <utility>
 
 namespace Tallymere {
 
@@ -8,6 +13,8 @@ namespace Tallymere {
 class ReceiptEntry final : public DocumentEntry
 {
 public:
+    static constexpr QStringView Amount = u"Amount"; // of a line, in the vendor's currency
+
     ReceiptEntry(Engine::Database &database, Prompts &prompts);
 
     // The vendor by a typed number; an empty text clears the vendor. Does nothing when it is the current vendor's
@@ -16,15 +23,29 @@ public:
 
     bool chooseByNumber(const QString &field, const QString &number) override;
     QString caption() const override;
+    // The cost of the item's line, from the last posted receipt of the item from this vendor.
+    std::optional<Offer> offerFor(const QString &field) override;
+    QString totalText() override; // in the vendor's currency: "Total: 1,234.50 Home"
 
 protected:
+    void visitBegins() override;
     void configureFields() override;
     void checkComplete() override;
     void checkReferences() override;
     void checkLine() override;
+    void lineChanging(LineChange) override { m_total.forget(); }
+    void lineSaved() override { m_total.forget(); }
+    void lineRemoved() override { m_total.forget(); }
 
 private:
     void validateVendor(const Engine::Value &vendorId) const;
+    const std::optional<VendorCost> &lastCost(int vendorId, int itemId);
+    QString currencyName();
+
+    LineTotal m_total;
+    QHash<std::pair<int, int>, std::optional<VendorCost>>
+        m_lastCosts; // of a vendor and an item, looked up once a visit
+    std::pair<int, QString> m_currency; // of the vendor with the key
 };
 
 } // namespace Tallymere

@@ -74,17 +74,12 @@ private:
         const QString &quantity = m_kind.entry.lineColumns.constFirst().field;
         m_lines.moveTo(number);
         try {
-            m_entry.newLine();
-            Engine::Table &lines = m_entry.lines();
-            lines.set(QString(Fields::ItemID), m_lines.value(Fields::ItemID)); // which presets others
-            for (int i = 0; i < lines.fieldCount(); ++i) {
-                const Engine::Field &field = std::as_const(lines).field(i);
-                if (field.kind == FieldKind::Data && field.name != Fields::ItemID && !isOwn(field.name))
-                    lines.set(field.name,
-                              field.name == quantity ? Value(-m_lines.number(quantity))
-                                                     : m_lines.value(field.name));
-            }
-            lines.post();
+            m_entry.newLineWith([&](const QString &field) {
+                if (isOwn(field))
+                    return std::optional<Value>();
+                return std::optional(field == quantity ? Value(-m_lines.number(quantity)) : m_lines.value(field));
+            });
+            m_entry.lines().post();
         } catch (const RuleError &error) {
             throw RuleError(
                 TransactionsTexts::tr("Line %1 cannot be reversed: %2").arg(number + 1).arg(error.message()));

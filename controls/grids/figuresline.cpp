@@ -29,6 +29,22 @@ void FiguresLine::follow(const DataGrid &grid)
     show();
 }
 
-void FiguresLine::showFigures(const DataGrid &grid) { setText(grid.cutFigures(grid.currentIndex().row())); }
+void FiguresLine::showFigures(const DataGrid &grid)
+{
+    m_figures = grid.cutFigures(grid.currentIndex().row());
+    showAll();
+}
+
+void FiguresLine::setNote(const QString &note)
+{
+    m_note = note;
+    showAll();
+}
+
+void FiguresLine::showAll()
+{
+    const bool both = !m_note.isEmpty() && !m_figures.isEmpty();
+    setText(both ? m_note + u"   "_s + m_figures : m_note + m_figures);
+}
 
 } // namespace Tallymere

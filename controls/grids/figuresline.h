@@ -15,9 +15,14 @@ public:
     explicit FiguresLine(QWidget *parent = nullptr);
 
     void follow(const DataGrid &grid); // which shows its model already
+    void setNote(const QString &note); // what is said before them
 
 private:
     void showFigures(const DataGrid &grid);
+    void showAll();
+
+    QString m_note;
+    QString m_figures;
 };
 
 } // namespace Tallymere

@@ -159,6 +159,8 @@ void LineGrid::removeLine()
 
 void LineGrid::nextCell()
 {
+    if (!takeOffer())
+        return;
     const QModelIndex next = m_model->neighbour(currentIndex(), LineModel::Way::Enter);
     if (currentIndex().isValid() && next.isValid())
         setCurrentIndex(next);
@@ -282,6 +284,12 @@ void LineGrid::completeEntry(const QString &typed)
         return;
     editor()->setText(whole);
     editor()->setSelection(static_cast<int>(whole.size()), static_cast<int>(typed.size() - whole.size()));
+}
+
+bool LineGrid::takeOffer()
+{
+    const std::optional<LineOffer> offer = m_model->offerFor(currentIndex());
+    return !offer || m_readOnly || guard().run([&] { m_actions.enter(currentField(), offer->text); });
 }
 
 // --- the focus --------------------------------------------------------------------------------------------------

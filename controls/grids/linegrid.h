@@ -47,7 +47,7 @@ public:
     void enterAtFirstLine(); // focus, first line and column; appends when there are none
     void appendLine();
     void removeLine();
-    void nextCell();
+    void nextCell(); // what Enter does; takes what is offered for the cell that it leaves
     void search(); // in the current column, where it has one
     QString shownHint() const override;
 
@@ -70,6 +70,7 @@ private:
     void entryLeft(Qt::FocusReason reason) override { leave(reason); }
     bool editorKey(QKeyEvent *event) override;
     void completeEntry(const QString &typed);
+    bool takeOffer(); // false when it is refused
 
     bool isLeft(Qt::FocusReason reason) const;
     void leave(Qt::FocusReason reason);

@@ -43,12 +43,34 @@ bool LineModel::takesText(int column) const
         && !m_options.behind.contains(columns()[column].field);
 }
 
+std::optional<LineOffer> LineModel::offerFor(const QModelIndex &cell) const
+{
+    const bool inHand = m_options.offer && cell.isValid() && m_lines.isEditing() && cell.row() == currentRow();
+    std::optional<LineOffer> offer;
+    if (inHand)
+        attempt([&] { offer = m_options.offer(columns()[cell.column()].field); });
+    return offer;
+}
+
+QVariant LineModel::data(const QModelIndex &index, int role) const
+{
+    if (role == Qt::DisplayRole || role == cellQuietRole) {
+        if (const std::optional<LineOffer> offer = offerFor(index))
+            return role == Qt::DisplayRole ? QVariant(offer->shown) : QVariant(true);
+    }
+    return TableModel::data(index, role);
+}
+
 void LineModel::setReadOnly(bool readOnly) { m_readOnly = readOnly; }
 
 bool LineModel::stopsAt(int column, Way way) const
 {
     const QString &field = columns()[column].field;
-    return !m_options.behind.contains(field) && (way != Way::Enter || !m_options.passedByEnter.contains(field));
+    if (m_options.behind.contains(field))
+        return false;
+    const bool isPassed =
+        m_options.passedByEnter.contains(field) || (m_options.passedNow && m_options.passedNow(field));
+    return way != Way::Enter || !isPassed;
 }
 
 QModelIndex LineModel::neighbour(const QModelIndex &cell, Way way) const

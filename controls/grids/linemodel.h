@@ -23,10 +23,13 @@ public:
     void setReadOnly(bool readOnly); // no cell can be edited then
     bool takesText(int column) const; // unless it is for reading only
     bool isUntouched() const; // the current record is new, and nothing has been entered in it
+    // What the document offers for an empty cell; nothing of one that holds something.
+    std::optional<LineOffer> offerFor(const QModelIndex &cell) const;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role) override; // by enterText
 
     std::function<bool(const QModelIndex &cell, const QString &text)> enterText; // as EntryGrid::enterText
+    QVariant data(const QModelIndex &index, int role) const override;
 
     // The cell that comes after another: for Enter, and for Tab and Shift+Tab, which pass over none. Not valid
     // beyond the last cell, or before the first.

@@ -50,6 +50,7 @@ protected:
     virtual int dataRows() const;
     void takeList(); // the data set's list is new: as many rows as it has now
     void updateRow(int row);
+    bool attempt(const std::function<void()> &reading) const; // false, and a report to come, when it failed
 
 private:
     QString cellText(const QModelIndex &index, int role) const;
@@ -57,7 +58,6 @@ private:
     QString shownValue(int field, const Engine::Value &value) const;
     void findFields();
     int rowStartingWith(const QString &field, const QString &text) const; // -1 when there is none
-    bool attempt(const std::function<void()> &reading) const; // false, and a report to come, when it failed
     void tell(const std::exception_ptr &failure) const;
     void readFirstPage();
     void showRows(int rows);

@@ -243,23 +243,6 @@ TEST_F(ListScreensTest, postingTellsWhatItWillDoAndEnterOpensTheDocument)
     settle();
 }
 
-TEST_F(ListScreensTest, aPostedDocumentIsReversedFromItsList)
-{
-    addReceipts();
-    open<TfrmInvReceipts>();
-    EXPECT_FALSE(list->command(u"mnuReverse"_s)->isEnabled()) << "it is not posted";
-    kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s);
-    list->refreshList();
-    list->command(u"mnuReverse"_s)->trigger();
-    auto *screen = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
-    ASSERT_NE(screen, nullptr);
-    const double lines = kitchen.number(u"SELECT count(*) FROM IRecDet WHERE QtyReceived < 0"_s);
-    EXPECT_GT(lines, 0);
-    screen->btnCancelClick();
-    settle();
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IRecDet WHERE QtyReceived < 0"_s), 0) << "all of it is dropped";
-}
-
 TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
 {
     addReceipts();

@@ -201,7 +201,7 @@ TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
     EXPECT_EQ(grid->model()->rowCount(), 1);
     grid->setColumnWidth(2, 5000); // so that there is no width to share
     grid->setColumnWidth(0, 30);
-    EXPECT_EQ(child<QLabel>(*screen, "lblFigures")->text(), u"Quantity: 123,457"_s);
+    EXPECT_EQ(child<QLabel>(*screen, "lblFigures")->text(), u"Quantity: 123,457   Amount: 370,371.00"_s);
     press(Qt::Key_Escape);
     EXPECT_TRUE(isGone(screen));
     EXPECT_EQ(prompts.said, QStringList());

@@ -73,12 +73,8 @@ void DocumentListScreen::showStep()
 
 void DocumentListScreen::mnuReverseClick()
 {
-    guard().run([this] {
-        const WaitCursor hourglass;
-        std::unique_ptr<RecordScreen> screen = records().make();
-        static_cast<DocumentScreen &>(*screen).newReversal(m_list.table().integer(m_list.kind().keyField));
-        screen.release()->show();
-    });
+    guard().run(
+        [this] { DocumentScreen::openReversal(records(), m_list.table().integer(m_list.kind().keyField)); });
 }
 
 void DocumentListScreen::mnuPostClick()

@@ -1,10 +1,11 @@
 #include "transactions/screens/documentscreen.h"
 
-#include "base/ruleerror.h"
+#include "base/settingsstore.h"
 #include "controls/fields/lookuplists.h"
 #include "controls/grids/figuresline.h"
 #include "controls/grids/linegrid.h"
 #include "controls/windows/icons.h"
+#include "controls/screens/recordopener.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/statelabel.h"
 #include "data/datamodule.h"
@@ -12,6 +13,7 @@
 #include "data/lookupsdatainv.h"
 #include "master/screens/itemsearchinv.h"
 #include "transactions/reversal.h"
+#include "transactions/screens/documentscreens.h"
 
 #include <functional>
 #include <QAction>
@@ -19,6 +21,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QToolButton>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 using Engine::LocateOption;
@@ -45,6 +48,10 @@ DocumentScreen::~DocumentScreen()
 {
     // The tables close with the entry and would call for a caption that is no more.
     m_entry->header().disconnect(this);
+    if (m_grid) {
+        m_grid->model()->disconnect(this);
+        m_grid->selectionModel()->disconnect(this);
+    }
 }
 
 void DocumentScreen::buildDocument(LineOptions options)
@@ -52,18 +59,11 @@ void DocumentScreen::buildDocument(LineOptions options)
     setObjectName(m_entry->kind().entry.screen);
     resize(scaled(this, 840), scaled(this, 470));
     setLookupLists(*this, context().lookups, guard());
-    QList<GridColumn> columns = m_entry->kind().entry.lineColumns;
-    for (GridColumn &column : columns) {
-        column.takesSurplus = column.field == descriptionField;
-        if (!takesText(column.field))
-            options.fixed << column.field;
-    }
-    const std::pair<QString, QString> ofStock[] = {{DocumentEntry::OnHand.toString(), tr("On hand")},
-                                                   {DocumentEntry::Afterwards.toString(), tr("After")}};
-    for (const auto &[field, title] : ofStock)
-        columns.append(
-            {.field = field, .title = title, .width = stockWidth, .alignment = Qt::AlignRight, .setOff = true});
-    options.behind = {DocumentEntry::OnHand.toString(), DocumentEntry::Afterwards.toString()};
+    const QList<GridColumn> columns = gridColumns(options);
+    options.passedNow = [this](const QString &column) {
+        return m_passesKnown->isChecked() && followsFromItem(column);
+    };
+    options.offer = [this](const QString &column) { return offerFor(column); };
     m_grid = findChild<LineGrid *>(u"DBGrid1"_s);
     m_posted = findChild<QLabel *>(u"lblPosted"_s);
     addOpenMark();
@@ -79,19 +79,35 @@ void DocumentScreen::buildDocument(LineOptions options)
                       .complete = [this](const QString &field,
                                          const QString &typed) { return completeDescription(field, typed); }},
                      guard(), options);
-    if (auto *figures = findChild<FiguresLine *>())
-        figures->follow(*m_grid);
-    m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
-    addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert), &LineGrid::appendLine);
-    addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete),
-                    &LineGrid::removeLine);
+    addPopupCommands();
     addItemCard();
     addNewLineButton();
+    addBottomRow();
     connect(&m_entry->header(), &Engine::DataSet::fieldChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::currentChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::stateChanged, this, &DocumentScreen::showHeader);
     connect(&binder(), &FieldBinder::readOnlyChanged, this, &DocumentScreen::showReadOnly);
     buildScreen();
+}
+
+// The kind's own, and behind them what is worked out from those and what is on hand.
+QList<GridColumn> DocumentScreen::gridColumns(LineOptions &options) const
+{
+    QList<GridColumn> columns = m_entry->kind().entry.lineColumns;
+    for (GridColumn &column : columns) {
+        column.takesSurplus = column.field == descriptionField;
+        if (!takesText(column.field))
+            options.fixed << column.field;
+    }
+    QList<GridColumn> behind = m_entry->kind().entry.toldColumns;
+    const std::pair<QString, QString> ofStock[] = {{DocumentEntry::OnHand.toString(), tr("On hand")},
+                                                   {DocumentEntry::Afterwards.toString(), tr("After")}};
+    for (const auto &[field, title] : ofStock)
+        behind.append(
+            {.field = field, .title = title, .width = stockWidth, .alignment = Qt::AlignRight, .setOff = true});
+    for (const GridColumn &column : std::as_const(behind))
+        options.behind << column.field;
+    return columns + behind;
 }
 
 // In the place of the mark of posted documents.
@@ -133,8 +149,40 @@ bool DocumentScreen::takesText(const QString &column) const
     return isStored || column == numberColumn || column == descriptionField;
 }
 
-void DocumentScreen::addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
-                                     void (LineGrid::*run)())
+// The text of a line that its item brings along, or that it may do without.
+bool DocumentScreen::followsFromItem(const QString &column) const
+{
+    const DocumentKind &kind = m_entry->kind();
+    const bool isEntered = column == numberColumn || column == kind.entry.lineColumns.constFirst().field
+        || kind.files.requiredColumns.contains(column);
+    return !isEntered && m_entry->lines().integer(Fields::ItemID) != 0;
+}
+
+std::optional<LineOffer> DocumentScreen::offerFor(const QString &column) const
+{
+    const std::optional<DocumentEntry::Offer> offer = m_entry->offerFor(column);
+    if (!offer)
+        return std::nullopt;
+    const Engine::Field &field = std::as_const(*m_entry).lines().field(column);
+    return LineOffer{field.editText(offer->value), tr("last %1").arg(field.displayText(offer->value))};
+}
+
+// --- what stands around the lines -------------------------------------------------------------------------------
+
+void DocumentScreen::addPopupCommands()
+{
+    m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
+    addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert),
+                    [this] { m_grid->appendLine(); });
+    addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete),
+                    [this] { m_grid->removeLine(); });
+    m_undo = addPopupCommand(u"mnuUndoDelete"_s, tr("Undo Delete"), QKeySequence(Qt::CTRL | Qt::Key_Z),
+                             [this] { putLineBack(); });
+    addPassesKnown();
+}
+
+QAction *DocumentScreen::addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
+                                         const std::function<void()> &run)
 {
     auto *action = new QAction(caption, m_grid);
     action->setObjectName(name);
@@ -142,8 +190,108 @@ void DocumentScreen::addPopupCommand(const QString &name, const QString &caption
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_grid->addAction(action);
     m_popup.append(action);
-    connect(action, &QAction::triggered, this,
-            [this, run] { guard().runWhenFree([this, run] { std::invoke(run, m_grid); }); });
+    connect(action, &QAction::triggered, this, [this, run] { guard().runWhenFree(run); });
+    return action;
+}
+
+// The user's choice, the same in all documents.
+void DocumentScreen::addPassesKnown()
+{
+    m_passesKnown = new QAction(tr("Enter Passes Over What Is Known"), m_grid);
+    m_passesKnown->setObjectName(u"mnuPassesKnown"_s);
+    m_passesKnown->setCheckable(true);
+    SettingsStore *settings = context().settings;
+    m_passesKnown->setChecked(settings && settings->value(Settings::documentEntry, Settings::PassesKnown));
+    m_grid->addAction(m_passesKnown);
+    connect(m_passesKnown, &QAction::toggled, this, [settings](bool passes) {
+        if (settings)
+            settings->setValue(Settings::documentEntry, Settings::PassesKnown, passes);
+    });
+}
+
+// In the row of the buttons: what the lines come to, and the way to take back what is in the books.
+void DocumentScreen::addBottomRow()
+{
+    m_figures = findChild<FiguresLine *>();
+    if (m_figures)
+        m_figures->follow(*m_grid);
+    auto *ok = findChild<QPushButton *>(u"btnOK"_s);
+    auto *row = qobject_cast<QBoxLayout *>(ok->parentWidget()->layout());
+    m_total = new QLabel(ok->parentWidget());
+    m_total->setObjectName(u"lblLinesTotal"_s);
+    m_total->setTextFormat(Qt::PlainText);
+    m_reverse = new QPushButton(tr("&Reverse..."), ok->parentWidget());
+    m_reverse->setObjectName(u"btnReverse"_s);
+    connectGuarded(m_reverse, &QPushButton::clicked, this, &DocumentScreen::btnReverseClick);
+    row->insertWidget(row->indexOf(ok), m_reverse);
+    row->insertWidget(row->indexOf(m_reverse), m_total);
+    setTabOrder(m_grid, m_reverse);
+    for (const auto changed : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(m_grid->model(), changed, this, &DocumentScreen::tellLater);
+    connect(m_grid->model(), &QAbstractItemModel::dataChanged, this, &DocumentScreen::tellLater);
+    connect(m_grid->selectionModel(), &QItemSelectionModel::currentChanged, this, &DocumentScreen::tellLater);
+}
+
+// A line says that it is another one before the document has drawn its conclusions.
+void DocumentScreen::tellLater()
+{
+    if (std::exchange(m_tellsLater, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_tellsLater = false;
+            showTold();
+        },
+        Qt::QueuedConnection);
+}
+
+// What cannot be read is told where the lines are.
+void DocumentScreen::showTold()
+{
+    QString total;
+    QString said;
+    const std::exception_ptr failure = Guard::attempt([&] {
+        total = m_entry->totalText();
+        said = note();
+    });
+    if (failure)
+        Guard::trace(failure);
+    m_total->setText(total);
+    m_undo->setEnabled(!m_grid->isReadOnly() && !m_entry->takenOut().isEmpty());
+    if (m_figures)
+        m_figures->setNote(said);
+}
+
+QString DocumentScreen::note() const
+{
+    const QModelIndex cell = m_grid->currentIndex();
+    const QString column = cell.isValid() ? m_grid->columns()[cell.column()].field : QString();
+    if (const std::optional<DocumentEntry::Offer> offer = m_entry->offerFor(column))
+        return tr("%1. Enter takes it.").arg(offer->origin);
+    const QString taken = m_entry->takenOut();
+    return taken.isEmpty() ? QString() : tr("%1 taken out. Undo: Ctrl+Z").arg(taken);
+}
+
+void DocumentScreen::putLineBack()
+{
+    m_grid->commitEntry();
+    m_entry->putBack();
+}
+
+void DocumentScreen::btnReverseClick()
+{
+    if (!m_opener)
+        m_opener = new RecordOpener(context(), recordScreens(m_entry->kind()), this);
+    openReversal(*m_opener, m_entry->key());
+}
+
+void DocumentScreen::openReversal(RecordOpener &opener, int key)
+{
+    const WaitCursor hourglass;
+    std::unique_ptr<RecordScreen> screen = opener.make();
+    static_cast<DocumentScreen &>(*screen).newReversal(key);
+    screen.release()->show();
 }
 
 // Of posted documents as well.
@@ -199,6 +347,8 @@ void DocumentScreen::showHeader()
     m_posted->setVisible(posted);
     m_open->setVisible(!posted);
     binder().setReadOnly(posted);
+    m_reverse->setVisible(posted);
+    tellLater();
     m_grid->viewport()->update(); // what is on hand follows the location
     showCaption();
 }
@@ -219,6 +369,7 @@ void DocumentScreen::showReadOnly(bool readOnly)
     for (QAction *action : std::as_const(m_popup))
         action->setEnabled(!readOnly);
     m_newLine->setVisible(!readOnly);
+    tellLater();
 }
 
 void DocumentScreen::showLineOf(int itemId, double quantity)
@@ -248,24 +399,12 @@ void DocumentScreen::enterCell(const QString &field, const QString &text)
     beginLine();
     if (field == numberColumn)
         m_entry->chooseItemByNumber(text.trimmed());
+    else if (field == descriptionField && !text.trimmed().isEmpty())
+        m_entry->chooseItemByDescription(text.trimmed());
     else if (field == descriptionField)
-        chooseItemByDescription(text.trimmed());
+        m_entry->chooseItemByNumber({});
     else
         m_entry->lines().setText(field, text);
-}
-
-void DocumentScreen::chooseItemByDescription(const QString &text)
-{
-    if (text.isEmpty()) {
-        m_entry->chooseItemByNumber({});
-        return;
-    }
-    const QString column = descriptionField.toString();
-    const auto item = context().lookups.tblItem().find(column, {text}, LocateOption::CaseInsensitive);
-    if (!item)
-        throw RuleError(tr("Item not found...\nPress Esc or enter a different item no"), column);
-    m_entry->setLineColumn(column);
-    m_entry->chooseItem(static_cast<int>(item->key.first()));
 }
 
 QString DocumentScreen::completeDescription(const QString &field, const QString &typed) const

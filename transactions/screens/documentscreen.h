@@ -10,10 +10,13 @@
 class QAction;
 class QLabel;
 class QToolButton;
+class QPushButton;
 
 namespace Tallymere {
 
+class FiguresLine;
 class LineGrid;
+class RecordOpener;
 
 // The screen of one document: header fields over a grid of lines. The rules are DocumentEntry's; the screens of the
 // kinds give the form and what is special in their header.
@@ -31,6 +34,8 @@ public:
     void newFilled(const std::function<void(DocumentEntry &)> &begin);
     // One that takes back what a posted one has done (see beginReversal).
     void newReversal(int key);
+    // Shows that in a screen of its own, which the opener makes.
+    static void openReversal(RecordOpener &opener, int key);
     // Brings the cursor to the line of an item, of several to that with the quantity. A line being entered stays where
     // it is.
     void showLineOf(int itemId, double quantity);
@@ -62,16 +67,26 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    QList<GridColumn> gridColumns(LineOptions &options) const;
     void addOpenMark();
     void addItemCard();
     void addNewLineButton();
+    void addPopupCommands();
+    void addPassesKnown();
+    void addBottomRow();
     void showReadOnly(bool readOnly);
-    void addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
-                         void (LineGrid::*run)());
+    QAction *addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
+                             const std::function<void()> &run);
+    void tellLater();
+    void showTold();
+    QString note() const;
     bool takesText(const QString &column) const;
+    bool followsFromItem(const QString &column) const;
+    std::optional<LineOffer> offerFor(const QString &column) const;
+    void putLineBack();
+    void btnReverseClick();
     void beginLine();
     void enterCell(const QString &field, const QString &text);
-    void chooseItemByDescription(const QString &text);
     bool searchItem(const QString &typed); // false: none was chosen
     QString completeDescription(const QString &field, const QString &typed) const;
 
@@ -79,6 +94,13 @@ private:
     LineGrid *m_grid = nullptr;
     QLabel *m_posted = nullptr;
     QLabel *m_open = nullptr; // shown in its place
+    QLabel *m_total = nullptr; // of the lines
+    FiguresLine *m_figures = nullptr; // may be missing
+    bool m_tellsLater = false;
+    QPushButton *m_reverse = nullptr; // of a posted document
+    RecordOpener *m_opener = nullptr; // of what that leads to, once it is needed
+    QAction *m_undo = nullptr; // of the line taken out last
+    QAction *m_passesKnown = nullptr;
     QList<QAction *> m_popup;
     QToolButton *m_newLine = nullptr;
 };

@@ -1,0 +1,142 @@
+#include "base/ruleerror.h"
+#include "tests/support/documents.h"
+#include "transactions/documententry.h"
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+struct DocumentLinesTest : KitchenTest
+{
+    DocumentLinesTest()
+    {
+        kitchen.execute(
+            u"UPDATE ItemType SET Inventory = true, CostingMethod = 1; UPDATE Item SET WgtAvgCost = 2"_s);
+    }
+
+    void open(const DocumentKind &kind, int key)
+    {
+        entry = kind.entry.make(kitchen.database(), prompts);
+        entry->open();
+        ASSERT_TRUE(entry->openDocument(key));
+    }
+    // What the lines of a document hold, but for their numbers.
+    QStringList held(const DocumentKind &kind)
+    {
+        const bool hasCost = std::as_const(*entry).lines().fieldIndex(Fields::UnitCost) >= 0;
+        return kitchen.rows(u"SELECT ItemID, %1%2 FROM %3 WHERE %4 = 7 ORDER BY ItemID"_s.arg(
+            kind.entry.lineColumns.constFirst().field, hasCost ? u", UnitCost"_s : QString(), kind.lineTable,
+            kind.keyField));
+    }
+
+    std::unique_ptr<DocumentEntry> entry;
+};
+ON_BOTH_STORES(DocumentLinesTest);
+
+TEST_P(DocumentLinesTest, TheLineTakenOutLastIsPutBackUnderTheRules)
+{
+    for (const DocumentKind *kind : DocumentKinds::all()) {
+        SCOPED_TRACE(qPrintable(kind->name));
+        addDocument(kitchen, *kind, 7, 1, {{1, u"2"_s, u"3"_s}, {2, u"-4"_s, u"1.5"_s}, {3, u"6"_s, u"2.5"_s}});
+        open(*kind, 7);
+        const QStringList before = held(*kind);
+        const auto takeOut = [&](int line) {
+            entry->lines().moveTo(line);
+            entry->removeLine();
+        };
+        takeOut(0);
+        takeOut(0);
+        EXPECT_EQ(entry->takenOut(), u"Line 1 (Bread)"_s);
+        entry->putBack();
+        EXPECT_EQ(entry->takenOut(), QString());
+        EXPECT_EQ(held(*kind), before.mid(1)) << "the last one only";
+
+        entry->lines().first();
+        EXPECT_EQ(entry->lines().integer(Fields::ItemID), 3);
+        takeOut(0);
+        entry->newLine();
+        entry->chooseItem(1);
+        entry->lines().set(kind->entry.lineColumns.constFirst().field, 2.0);
+        if (entry->lines().fieldIndex(Fields::UnitCost) >= 0)
+            entry->lines().set(QString(Fields::UnitCost), Engine::Money::fromDouble(3));
+        entry->lines().post();
+        EXPECT_EQ(entry->takenOut(), QString()) << "the work has gone on";
+
+        const QStringList two = held(*kind);
+        takeOut(0);
+        kitchen.execute(u"UPDATE Item SET Suspended = true WHERE ItemID = 2"_s);
+        EXPECT_EQ(refusalOf([&] { entry->putBack(); }),
+                  u"Line 1 (Bread) cannot be put back: Item has been suspended -> "_s);
+        EXPECT_FALSE(entry->lines().isEditing());
+        kitchen.execute(u"UPDATE Item SET Suspended = false WHERE ItemID = 2"_s);
+        entry->putBack();
+        EXPECT_EQ(held(*kind), two);
+        if (kind == &DocumentKinds::usage()) {
+            EXPECT_EQ(entry->header().money(Fields::InvoiceAmount).toDouble(), 6 * 2 - 4 * 2 + 2 * 2 - 6 * 2);
+        }
+
+        takeOut(0);
+        entry->cancel();
+        EXPECT_EQ(entry->takenOut(), QString());
+        EXPECT_EQ(held(*kind).size(), 3);
+        entry.reset();
+    }
+    EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_P(DocumentLinesTest, AReceiptTellsWhatItComesToInTheCurrencyOfItsVendor)
+{
+    kitchen.addReceipt(7, 2, 1, {{1, 3, 1.235}, {2, -1, 2}});
+    open(DocumentKinds::receipt(), 7);
+    Engine::Table &lines = entry->lines();
+    const auto amount = [&] { return entry->lines().text(u"Amount"_s); };
+    EXPECT_EQ(entry->totalText(), u"Total: 1.71 Far");
+    lines.first();
+    EXPECT_EQ(amount(), u"3.71");
+    lines.edit();
+    lines.set(Fields::QtyReceived, 10.0);
+    EXPECT_EQ(entry->totalText(), u"Total: 10.35 Far") << "as it stands in the line in hand";
+    lines.set(QString(Fields::UnitCost), Engine::Value());
+    EXPECT_EQ(amount(), QString());
+    EXPECT_EQ(entry->totalText(), u"Total: (2.00) Far");
+    lines.cancel();
+    entry->removeLine();
+    EXPECT_EQ(entry->totalText(), u"Total: (2.00) Far");
+    entry->cancel();
+    EXPECT_EQ(entry->totalText(), u"Total: 1.71 Far");
+    entry->chooseInHeader(Fields::VendorID, 1);
+    EXPECT_EQ(entry->totalText(), u"Total: 1.71 Home");
+    kitchen.execute(u"UPDATE IRecDet SET QtyReceived = 900000000000, UnitCost = 900000000000 WHERE Seq = 1"_s);
+    open(DocumentKinds::receipt(), 7);
+    EXPECT_EQ(amount(), QString());
+    EXPECT_EQ(entry->totalText(), u"Total: (2.00) Far") << "what is no amount of money does not stand in the way";
+}
+
+TEST_P(DocumentLinesTest, ALineOfAReceiptIsOfferedTheLastCostFromItsVendor)
+{
+    kitchen.addReceipt(1, 2, 1, {{1, 5, 3.9}, {1, 5, 4.2}});
+    kitchen.addReceipt(2, 2, 1, {{1, -5, 4.5}}); // given back
+    kitchen.addReceipt(3, 1, 1, {{1, 5, 7}}); // from another one
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s);
+    kitchen.addReceipt(4, 2, 1, {{1, 5, 8}}); // not in the books
+    kitchen.addReceipt(7, 2, 1, {{2, 1, 1}});
+    open(DocumentKinds::receipt(), 7);
+    const auto offered = [&](int item) {
+        entry->lines().set(Fields::ItemID, item);
+        const auto offer = entry->offerFor(Fields::UnitCost);
+        return offer ? offer->origin : QString();
+    };
+    EXPECT_FALSE(entry->offerFor(Fields::UnitCost)) << "of a line that has its cost";
+    entry->newLine();
+    EXPECT_EQ(offered(1), u"Last cost from this vendor: 4.20, on 14 Mar 26");
+    EXPECT_EQ(offered(2), QString()) << "never received";
+    EXPECT_FALSE(entry->offerFor(Fields::QtyReceived));
+    entry->chooseInHeader(Fields::VendorID, 1);
+    EXPECT_EQ(offered(1), u"Last cost from this vendor: 7.00, on 14 Mar 26");
+    entry->lines().set(QString(Fields::UnitCost), Engine::Money());
+    EXPECT_FALSE(entry->offerFor(Fields::UnitCost)) << "nothing is a cost as well";
+    entry->cancel();
+}
+
+} // namespace
