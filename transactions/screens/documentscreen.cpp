@@ -4,8 +4,8 @@
 #include "controls/fields/lookuplists.h"
 #include "controls/grids/figuresline.h"
 #include "controls/grids/linegrid.h"
-#include "controls/windows/icons.h"
 #include "controls/screens/recordopener.h"
+#include "controls/windows/icons.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/statelabel.h"
 #include "data/datamodule.h"
@@ -20,8 +20,8 @@
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QToolButton>
 #include <QPushButton>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using Engine::LocateOption;
