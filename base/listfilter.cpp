@@ -17,6 +17,27 @@ QString keyConditions(const QList<KeyOfField> &keys)
     return joinConditions(conditions);
 }
 
+QString wordsCondition(const QStringList &fields, const QString &words)
+{
+    QStringList conditions;
+    for (QString word : words.simplified().split(u' ', Qt::SkipEmptyParts)) {
+        word.replace(u'\'', "''"_L1);
+        QStringList places;
+        for (const QString &field : fields)
+            places << u"%1 CONTAINS '%2'"_s.arg(field, word);
+        conditions << u'(' + places.join(" OR "_L1) + u')';
+    }
+    return joinConditions(conditions);
+}
+
+QString daysCondition(const QString &field, QDate from, QDate to)
+{
+    const auto compared = [&field](const QString &sign, QDate day) {
+        return day.isValid() ? u"(%1 %2 '%3')"_s.arg(field, sign, day.toString(Qt::ISODate)) : QString();
+    };
+    return joinConditions({compared(u">="_s, from), compared(u"<="_s, to)});
+}
+
 QString markCondition(ListFilter::Marked marked, const QString &yes, const QString &no)
 {
     switch (marked) {

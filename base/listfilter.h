@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -37,6 +38,9 @@ QString keyCondition(const QString &field, int key); // "(CurrencyID = 3)"
 // "(Posted <> true)" shows them.
 QString markCondition(ListFilter::Marked marked, const QString &yes, const QString &no);
 QString keyConditions(const QList<KeyOfField> &keys); // joined as below
+// Each word stands in one of the fields of text.
+QString wordsCondition(const QStringList &fields, const QString &words);
+QString daysCondition(const QString &field, QDate from, QDate to); // both included; null: open
 // Filter conditions, the empty ones left out, joined by " AND ".
 QString joinConditions(const QStringList &conditions);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/values/foldedtext.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -9,8 +11,8 @@ namespace Tallymere {
 // any alphabet, nor does whether an accented letter is stored as one character or as two. A letter that is typed without
 // its accent finds the one with it ("creme" finds "Crème"); one that is typed with it finds no other.
 
-QString foldedText(const QString &text); // letter case and composition are the same by then
-QString plainText(const QString &text); // folded, and without accents
+using Engine::foldedText;
+using Engine::plainText;
 
 // What is looked for: words with blanks between them, each of which must be there, in whatever order.
 class TextMatch

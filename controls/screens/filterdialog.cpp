@@ -1,12 +1,16 @@
 #include "controls/screens/filterdialog.h"
 
+#include "base/formats.h"
 #include "controls/fields/lookupcombobox.h"
+#include "controls/fields/optionaldate.h"
 #include "controls/windows/mnemonics.h"
+#include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
 #include "ui_filterdialog.h"
 
 #include <algorithm>
 #include <QLabel>
+#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -67,6 +71,56 @@ void FilterDialog::addRow(const QString &label, QWidget *widget)
     m_ui->layoutFields->addWidget(widget, row, 1);
     m_rows.append(widget);
     orderTabs();
+}
+
+// --- what any list has ------------------------------------------------------------------------------------------
+
+void FilterDialog::addColumns(const FilterColumns &columns)
+{
+    m_columns = columns;
+    if (!columns.texts.isEmpty())
+        addWords();
+    if (columns.day.isEmpty())
+        return;
+    const QDate today = context().data.today();
+    m_from = addDay(u"From"_s, tr("&From:"), QDate(today.year(), today.month(), 1));
+    m_to = addDay(u"To"_s, tr("T&o:"), today);
+}
+
+void FilterDialog::addWords()
+{
+    m_words = new QLineEdit(this);
+    m_words->setObjectName(u"editWords"_s);
+    m_words->setAccessibleName(tr("Words"));
+    m_words->setPlaceholderText(tr("anywhere in the row"));
+    addRow(tr("&Words:"), m_words);
+    addChoice({.chosen = [this] { return m_words->text().simplified(); },
+               .choose = [this](const QVariant &words) { m_words->setText(words.toString()); },
+               .none = QString(),
+               .words = [this] { return labelled(tr("Words"), m_words->text().simplified()); }});
+}
+
+OptionalDate *FilterDialog::addDay(const QString &name, const QString &label, QDate start)
+{
+    auto *day = new OptionalDate({.date = u"editDay"_s + name,
+                                  .all = u"chkDay"_s + name + u"All"_s,
+                                  .name = plainCaption(label).chopped(1),
+                                  .allName = tr("Any day"),
+                                  .today = context().data.today(),
+                                  .start = start},
+                                 this);
+    addRow(label, day);
+    addChoice({.chosen = [day] { return day->date(); },
+               .choose = [day](const QVariant &chosen) { day->choose(chosen.toDate()); },
+               .none = QDate(),
+               .words = [label, day] { return labelled(label, dateText(day->date())); }});
+    return day;
+}
+
+QString FilterDialog::columnsExpression() const
+{
+    return joinConditions({m_words ? wordsCondition(m_columns.texts, m_words->text()) : QString(),
+                           m_from ? daysCondition(m_columns.day, m_from->date(), m_to->date()) : QString()});
 }
 
 void FilterDialog::addChoice(Choice choice) { m_choices.append(std::move(choice)); }

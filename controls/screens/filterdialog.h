@@ -6,6 +6,7 @@
 #include <memory>
 #include <QVariant>
 
+class QLineEdit;
 namespace Ui {
 class FilterDialog;
 }
@@ -13,6 +14,7 @@ class FilterDialog;
 namespace Tallymere {
 
 class LookupComboBox;
+class OptionalDate;
 
 // How the filter dialog of a list differs from those of the others.
 struct FilterDialogKind
@@ -22,6 +24,13 @@ struct FilterDialogKind
     QList<FilterBox> boxes = {}; // from top to bottom
     QString mark = {}; // names the three buttons: "Suspended" for "optSuspendedYes"; empty: rows have no mark
     QString markLabel = {};
+};
+
+// By what any list can be narrowed besides: words in its columns of text, and days.
+struct FilterColumns
+{
+    QStringList texts;
+    QString day; // empty: it shows none
 };
 
 // The filter dialog of a list: records that the rows refer to, and whether they have a mark. It is made once for its
@@ -36,6 +45,9 @@ public:
     ~FilterDialog() override;
 
     ListFilter filter() const; // the record of the first box, and the mark
+    // The rows for words and days, behind all others; their conditions are what follows.
+    void addColumns(const FilterColumns &columns);
+    QString columnsExpression() const;
     QString words() const; // of all that is chosen; empty where nothing is
     bool isOn() const; // something is chosen, whether the list is narrowed by it or not
     int key(const QString &box) const; // 0: any
@@ -69,11 +81,17 @@ private:
     ListFilter::Marked marked() const;
     LookupComboBox *box(const QString &name) const;
     void orderTabs();
+    void addWords();
+    OptionalDate *addDay(const QString &name, const QString &label, QDate start);
 
     std::unique_ptr<::Ui::FilterDialog> m_ui;
     QList<QWidget *> m_rows;
     QList<LookupComboBox *> m_boxes;
     QList<Choice> m_choices;
+    FilterColumns m_columns;
+    QLineEdit *m_words = nullptr;
+    OptionalDate *m_from = nullptr;
+    OptionalDate *m_to = nullptr;
     QVariantList m_inForce; // what was chosen when it was opened
 };
 

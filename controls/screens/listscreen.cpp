@@ -435,6 +435,25 @@ void ListScreen::setCaption(const QString &caption)
     showFilterMark();
 }
 
+// Those that are set off are dear to look at.
+FilterColumns ListScreen::filterColumns() const
+{
+    FilterColumns columns;
+    for (const GridColumn &column : m_grid->columns()) {
+        const int number = m_data->fieldIndex(column.field);
+        if (number < 0 || column.setOff)
+            continue;
+        const Engine::Field &field = std::as_const(*m_data).field(number);
+        if (field.kind == Engine::FieldKind::Calculated)
+            continue;
+        if (Engine::isText(field.type))
+            columns.texts << field.name;
+        else if (field.type == Engine::FieldType::Date && columns.day.isEmpty())
+            columns.day = field.name;
+    }
+    return columns;
+}
+
 // Beside the buttons: what the list is narrowed to, taken away with one click.
 void ListScreen::addFilterChip()
 {

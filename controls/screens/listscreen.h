@@ -4,6 +4,7 @@
 #include "base/listfilter.h"
 #include "controls/grids/listgrid.h"
 #include "controls/screens/commandscreen.h"
+#include "controls/screens/filterdialog.h"
 #include "controls/windows/guard.h"
 #include "controls/windows/screencontext.h"
 #include "data/tableowner.h"
@@ -121,6 +122,7 @@ protected:
     void say(const QString &text); // in the status line, for a moment
     void setCaption(const QString &caption); // in place of the description's
     virtual void showStep(); // each time the screen is shown: caption
+    FilterColumns filterColumns() const; // that it shows, for its filter dialog
     virtual QString filterWords() const { return {}; } // of what the filter dialog has chosen
     virtual void clearFilterDialog() { } // clears the fields of the filter dialog, if there is one
     virtual void presetFilterDialog(const QList<KeyOfField> &) { } // the dialog has been cleared

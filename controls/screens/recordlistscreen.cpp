@@ -97,15 +97,19 @@ void RecordListScreen::btnFilterClick()
 
 FilterDialog &RecordListScreen::filterDialog()
 {
-    if (!m_filter)
+    if (!m_filter) {
         m_filter = m_dialogs.makeFilter();
+        m_filter->addColumns(filterColumns());
+    }
     return *m_filter;
 }
 
-void RecordListScreen::applyChoices()
+QString RecordListScreen::chosenExpression() const
 {
-    switchFilter(m_filter->isOn(), m_dialogs.filterExpression(m_filter->filter()));
+    return joinConditions({m_dialogs.filterExpression(m_filter->filter()), m_filter->columnsExpression()});
 }
+
+void RecordListScreen::applyChoices() { switchFilter(m_filter->isOn(), chosenExpression()); }
 
 void RecordListScreen::filterByMark(ListFilter::Marked marked)
 {
@@ -116,7 +120,11 @@ void RecordListScreen::filterByMark(ListFilter::Marked marked)
 
 void RecordListScreen::btnFindClick() { m_dialogs.makeFind()->exec(); }
 
-QString RecordListScreen::filterWords() const { return m_filter ? m_filter->words() : QString(); }
+// Others may have narrowed the list by something else since.
+QString RecordListScreen::filterWords() const
+{
+    return m_filter && chosenExpression() == dataSet().filter() ? m_filter->words() : QString();
+}
 
 void RecordListScreen::clearFilterDialog()
 {

@@ -51,6 +51,7 @@ protected:
 
 private:
     FilterDialog &filterDialog();
+    QString chosenExpression() const; // by the filter dialog
     void applyChoices();
 
     ListRecordOpener *m_records = nullptr;

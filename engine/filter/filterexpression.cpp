@@ -1,5 +1,6 @@
 #include "engine/filter/filterexpression.h"
 
+#include "engine/filter/containedtext.h"
 #include "engine/filter/filterlexer.h"
 #include "engine/filter/filternode.h"
 #include "engine/store/dialect.h"
@@ -50,6 +51,8 @@ public:
             return comparison(node);
         case Node::Kind::Like:
             return like(node);
+        case Node::Kind::Contains:
+            return contained(node);
         case Node::Kind::IsNull:
             return wrapped({}, operand(*node.parts[0]).sql, " IS NULL"_L1);
         case Node::Kind::Boolean:
@@ -227,6 +230,14 @@ private:
             refuse(*node.parts[0], Texts::tr("LIKE needs a text field."));
         return {m_dialect.like(tested.sql.text),
                 tested.sql.parameters + QList<Value>{m_dialect.likePattern(node.parts[1]->text)}};
+    }
+
+    SqlCondition contained(const Node &node) const
+    {
+        const Part tested = operand(*node.parts[0]);
+        if (tested.sort != Sort::Text)
+            refuse(*node.parts[0], Texts::tr("CONTAINS needs a text field."));
+        return contains(m_dialect, tested.sql, node.parts[1]->text);
     }
 
     const QString &m_expression;

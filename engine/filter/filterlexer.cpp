@@ -104,7 +104,7 @@ private:
 
     FilterToken name()
     {
-        static const QStringList words{u"AND"_s, u"OR"_s,   u"NOT"_s,  u"LIKE"_s,
+        static const QStringList words{u"AND"_s, u"OR"_s,   u"NOT"_s,  u"LIKE"_s, u"CONTAINS"_s,
                                        u"IS"_s,  u"NULL"_s, u"TRUE"_s, u"FALSE"_s};
         const qsizetype start = m_at;
         while (startsName(at(m_at)) || isDigit(at(m_at)))

@@ -9,7 +9,22 @@ namespace Engine {
 // One operation of a filter expression, or one field or constant.
 struct FilterExpression::Node
 {
-    enum class Kind { Or, And, Not, Compare, Like, IsNull, Arithmetic, Negate, Field, Number, Text, Boolean, Null };
+    enum class Kind {
+        Or,
+        And,
+        Not,
+        Compare,
+        Like,
+        Contains,
+        IsNull,
+        Arithmetic,
+        Negate,
+        Field,
+        Number,
+        Text,
+        Boolean,
+        Null
+    };
 
     Kind kind = Kind::Null;
     QString text; // operator, field name or text

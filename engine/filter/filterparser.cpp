@@ -121,11 +121,11 @@ private:
         }
         if (current().isWord("IS"_L1))
             return nullTest(std::move(left));
-        if (current().isWord("LIKE"_L1))
-            return like(std::move(left));
-        if (current().isWord("NOT"_L1) && m_tokens[m_at + 1].isWord("LIKE"_L1)) {
+        if (isTextTest(current()))
+            return textTest(std::move(left));
+        if (current().isWord("NOT"_L1) && isTextTest(m_tokens[m_at + 1])) {
             NodePtr made = node(Node::Kind::Not, take());
-            made->parts.push_back(like(std::move(left)));
+            made->parts.push_back(textTest(std::move(left)));
             return made;
         }
         return left;
@@ -147,9 +147,15 @@ private:
         return negated;
     }
 
-    NodePtr like(NodePtr operand)
+    static bool isTextTest(const FilterToken &token)
     {
-        NodePtr made = node(Node::Kind::Like, take());
+        return token.isWord("LIKE"_L1) || token.isWord("CONTAINS"_L1);
+    }
+
+    NodePtr textTest(NodePtr operand)
+    {
+        const bool contains = current().isWord("CONTAINS"_L1);
+        NodePtr made = node(contains ? Node::Kind::Contains : Node::Kind::Like, take());
         if (current().kind != Kind::Text)
             unexpected(Texts::tr("a text in quotes"));
         made->parts.push_back(std::move(operand));

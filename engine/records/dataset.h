@@ -137,9 +137,9 @@ public:
     QList<OrderedField> shownOrder() const; // with what it is sorted by in front
     bool canSortBy(int field) const; // not by a calculated one that nothing else sorts as
 
-    // A condition over data fields, in force while filtered is set:
-    //   (WarehouseID = 2) AND (Posted <> true) OR NOT (Name LIKE 'A%')
-    // with = <> < > <= >=, LIKE, IS [NOT] NULL, + - * /, AND, OR, NOT, parentheses, numbers, 'texts' (two quotes
+    // A condition over data and looked-up fields, in force while filtered is set:
+    //   (WarehouseID = 2) AND (Posted <> true) OR NOT (Name LIKE 'A%') OR (Name CONTAINS 'crème')
+    // with = <> < > <= >=, LIKE, CONTAINS (of whatever letter case), IS [NOT] NULL, + - * /, AND, OR, NOT, parentheses, numbers, 'texts' (two quotes
     // for one), true, false, null and dates as 'YYYY-MM-DD'. An empty Boolean fails "= false" and passes "<> true".
     // It is parsed, never pasted: a bad one throws BadExpression saying where, and the old filter stays.
     void setFilter(const QString &expression);

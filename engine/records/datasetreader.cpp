@@ -11,10 +11,10 @@ SqlCondition DataSetReader::condition(const FilterExpression &filter) const
     const Dialect &dialect = m_set.m_database.connection().dialect();
     return filter.condition(dialect, [&](QStringView name) -> std::optional<FilterExpression::Column> {
         const int index = m_set.fieldIndex(name);
-        if (index < 0 || m_set.field(index).kind != FieldKind::Data)
+        if (index < 0 || m_set.field(index).kind == FieldKind::Calculated)
             return std::nullopt;
         const Field &field = m_set.field(index);
-        return FilterExpression::Column{QStringLiteral("t.") + dialect.name(field.name), field.type};
+        return FilterExpression::Column{columnOf(dialect, field), field.type};
     });
 }
 

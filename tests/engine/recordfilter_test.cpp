@@ -101,3 +101,33 @@ TEST_P(RecordTest, ABadFilterIsRefusedAndTheOldOneStays)
     EXPECT_EQ(errorOf([&] { closed.setFiltered(true); }), ErrorCode::BadExpression);
     EXPECT_EQ(closed.recordCount(), 5);
 }
+
+// The same rows on both stores, whatever they know of alphabets.
+TEST_P(RecordTest, ContainsFindsTextInWhateverLetterCase)
+{
+    store.execute(u"INSERT INTO Vendor (VendorID, VendorName) VALUES (1, 'CRÈME & Söhne'), (2, 'creme'), "
+                  "(3, 'Мука'), (4, '50% [off]*?^'), (5, 'a\\b.c'), (6, NULL), (7, 'ΣΊΤΟΣ')"_s);
+    vendors.open();
+    vendors.setFiltered(true);
+    const std::pair<QString, QString> cases[] = {
+        {u"creme"_s, u"1 2"_s}, {u"CRÈM"_s, u"1"_s},     {u"SÖHNE"_s, u"1"_s}, {u"sohne"_s, u"1"_s},
+        {u"МУК"_s, u"3"_s},     {u"[OFF]*?^"_s, u"4"_s}, {u"0% ["_s, u"4"_s},  {u"A\\B."_s, u"5"_s},
+        {u"b?c"_s, QString()},  {u"&"_s, u"1"_s},        {u"σίτο"_s, u"7"_s},  {u".*"_s, QString()},
+    };
+    for (const auto &[typed, ids] : cases) {
+        vendors.setFilter(u"VendorName CONTAINS '%1'"_s.arg(typed));
+        EXPECT_EQ(names(vendors, u"VendorID"_s), ids) << qPrintable(typed);
+    }
+    vendors.setFilter(u"NOT VendorName CONTAINS 'e'"_s);
+    EXPECT_EQ(names(vendors, u"VendorID"_s), u"3 4 5 6 7"_s) << "a missing text contains nothing";
+    EXPECT_EQ(errorOf([this] { vendors.setFilter(u"VendorID CONTAINS '1'"_s); }), ErrorCode::BadExpression);
+
+    store.execute(u"INSERT INTO Document (VendorID) VALUES (1), (3)"_s);
+    Table documents(database(), u"Document"_s);
+    documents.addLookup({u"VendorName"_s, FieldType::Text, 20},
+                        {u"VendorID"_s, u"Vendor"_s, u"VendorID"_s, u"VendorName"_s});
+    documents.open();
+    documents.setFilter(u"VendorName CONTAINS 'söhne'"_s);
+    documents.setFiltered(true);
+    EXPECT_EQ(names(documents, u"VendorID"_s), u"1"_s) << "what is looked up, too";
+}

@@ -373,6 +373,22 @@ TEST_F(ListScreensTest, whatAListIsNarrowedToStandsAboveItsRows)
     EXPECT_FALSE(chip->isVisible() || receipts.dataSet().isFiltered());
     EXPECT_TRUE(whileOpen<DocumentFilterScreen>(
         narrow, [](DocumentFilterScreen &dialog) { EXPECT_FALSE(dialog.isOn()) << "the dialog knows of it"; }));
+    kitchen.execute(u"UPDATE IReceipt SET ReceiptDate = '2026-02-28' WHERE ReceiptID = 3"_s);
+    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(narrow, [](DocumentFilterScreen &dialog) {
+        typeIn(dialog, "editWords", "OFF po-");
+        child<QPushButton>(dialog, "btnOK")->click();
+    }));
+    EXPECT_EQ(chip->text(), u"Words: OFF po-"_s);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(row(0)[2], u"1001"_s) << "one word in the order's number, one in the location";
+    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(narrow, [](DocumentFilterScreen &dialog) {
+        typeOver(dialog, "editWords", "");
+        child<QCheckBox>(dialog, "chkDayFromAll")->click();
+        typeOver(dialog, "editDayFrom", "010326");
+        child<QPushButton>(dialog, "btnOK")->click();
+    }));
+    EXPECT_EQ(receipts.dataSet().filter(), u"(ReceiptDate >= '2026-03-01')"_s);
+    EXPECT_EQ(rows(), 2);
     receipts.applyFilter(u"(ReceiptID = 1)"_s);
     EXPECT_EQ(chip->text(), u"Filtered"_s) << "by what no dialog has words for";
 

@@ -24,8 +24,10 @@ ListCommand StockViewScreen::stockFilterCommand()
 
 StockFilterDialog &StockViewScreen::filterDialog()
 {
-    if (!m_filter)
+    if (!m_filter) {
         m_filter = makeFilterDialog();
+        m_filter->addColumns(filterColumns());
+    }
     return *m_filter;
 }
 
@@ -33,13 +35,22 @@ void StockViewScreen::btnFilterClick()
 {
     if (filterDialog().exec() != QDialog::Accepted)
         return;
-    applyFilter(m_filter->expression());
+    applyFilter(chosenExpression());
     showStep();
 }
 
 void StockViewScreen::btnFindClick() { TfrmItemsFind(context(), dataSet(), this).exec(); }
 
-QString StockViewScreen::filterWords() const { return m_filter ? m_filter->words() : QString(); }
+QString StockViewScreen::chosenExpression() const
+{
+    return joinConditions({m_filter->expression(), m_filter->columnsExpression()});
+}
+
+// Others may have narrowed the list by something else since.
+QString StockViewScreen::filterWords() const
+{
+    return m_filter && chosenExpression() == dataSet().filter() ? m_filter->words() : QString();
+}
 
 void StockViewScreen::clearFilterDialog()
 {

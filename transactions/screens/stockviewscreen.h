@@ -33,6 +33,8 @@ protected:
     StockFilterDialog &filterDialog();
 
 private:
+    QString chosenExpression() const; // by the filter dialog
+
     StockFilterDialog *m_filter = nullptr;
 };
 
