@@ -6,6 +6,7 @@
 #include "base/stores.h"
 #include "care/tablecopy.h"
 #include "care/texts.h"
+#include "data/lastbackup.h"
 #include "data/layouts.h"
 #include "engine/store/dialect.h"
 #include "engine/store/platform.h"
@@ -147,6 +148,15 @@ private:
     FileInMaking m_copy;
 };
 
+// The backup is there, whether or not the database can be told so: it may be read only, or its disk full.
+void tellOfBackup(Engine::Database &database)
+{
+    try {
+        rememberBackup(database);
+    } catch (const Engine::EngineError &) { // the next one will be remembered
+    }
+}
+
 void requireFile(const QString &file)
 {
     if (!QFileInfo(file).isFile())
@@ -175,6 +185,7 @@ void backUp(Engine::Database &database, const QString &file, Progress &progress)
     requireSameRows(source, copy.database().connection(), file);
     moment.end();
     copy.moveTo(file);
+    tellOfBackup(database);
     progress.finish();
 }
 

@@ -12,6 +12,7 @@ namespace Tallymere {
 class Progress;
 
 // A copy of the database in one file, whatever the store: a SQLite database. Of one moment, while others go on working.
+// The database remembers that it was made (data/lastbackup.h).
 // It is written beside its name and verified before it gets it. Throws RuleError when the file exists, when the disk will not
 // hold it and when the copy is not sound; what the engine throws; and what a step of the progress throws. Nothing is left then.
 void backUp(Engine::Database &database, const QString &file, Progress &progress);

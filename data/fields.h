@@ -209,6 +209,9 @@ inline constexpr Engine::FieldName<DateTime> SavedAt{u"SavedAt"};
 // ICounted
 inline constexpr Engine::FieldName<Date> CountDate{u"CountDate"};
 
+// IBackup
+inline constexpr Engine::FieldName<Integer> BackupID{u"BackupID"};
+
 // MemTableARReportParameters
 inline constexpr Engine::FieldName<Date> Delivery_Date{u"Delivery_Date"};
 inline constexpr Engine::FieldName<Text> Services{u"Services"};

@@ -31,7 +31,7 @@ const QList<const TableLayout *> &applied()
         &item(),     &itemCtl(),  &itemType(),  &company(),  &tax(),       &salesman(), &iAdjDet(),
         &iAdjust(),  &iHist(),    &iRecDet(),   &iReceipt(), &iBalance(),  &warehse(),  &vendor(),
         &vBalance(), &vContact(), &vendCtl(),   &iUsage(),   &iUsageDet(), &arInvCtl(), &bank(),
-        &currency(), &glAccnt(),  &iDocSaved(), &iCounted(),
+        &currency(), &glAccnt(),  &iDocSaved(), &iCounted(), &iBackup(),
     };
     return tables;
 }
@@ -73,6 +73,7 @@ QString titleOf(const QString &table)
         {"GLAccnt", QT_TRANSLATE_NOOP("Data", "Accounts")},
         {"IDocSaved", QT_TRANSLATE_NOOP("Data", "Saved Documents")},
         {"ICounted", QT_TRANSLATE_NOOP("Data", "Counted Items")},
+        {"IBackup", QT_TRANSLATE_NOOP("Data", "Backups")},
     };
     for (const auto &[name, title] : titles) {
         if (table.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0)

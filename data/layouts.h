@@ -34,6 +34,7 @@ const Engine::TableLayout &currency();
 const Engine::TableLayout &glAccnt();
 const Engine::TableLayout &iDocSaved(); // who has saved a document last, by its type in the history and its key
 const Engine::TableLayout &iCounted(); // when an item has been counted last at a location
+const Engine::TableLayout &iBackup(); // when the last backup was made, and by whom: one row
 
 // The host's table of usage lines: described here, never created or altered.
 const Engine::TableLayout &usage();

@@ -262,4 +262,20 @@ const TableLayout &iCounted()
     return layout;
 }
 
+const TableLayout &iBackup()
+{
+    static const TableLayout layout{
+        u"IBackup"_s,
+        {
+            Fields::BackupID,
+            Fields::SavedBy.sized(50),
+            Fields::SavedAt,
+        },
+        {
+            {{}, u"BackupID"_s, Primary},
+        },
+    };
+    return layout;
+}
+
 } // namespace Tallymere::Layouts

@@ -326,13 +326,15 @@ void TFormTallymereSystem::connectToday()
     };
 }
 
-// By the command that leads to the screen, whose rights are asked for.
+// By the command that leads to the screen, whose rights are asked for. What has no screen is told in the manual.
 void TFormTallymereSystem::openToday(const TodayLine &line, bool waits)
 {
     const MainCommand *command = commandTo(line.screen);
-    if (!command || !m_context || isHeldByDialog(this))
+    if (!m_context || isHeldByDialog(this))
         return;
     m_guard.run([&] {
+        if (!command)
+            return m_help->showTopic(line.screen);
         m_runner.run(*command, *m_context, waits ? CommandRunner::Rows::Waiting : CommandRunner::Rows::All);
     });
 }

@@ -1,7 +1,9 @@
 #include "transactions/today.h"
 
+#include "base/formats.h"
 #include "data/fields.h"
 #include "data/fiscalperiod.h"
+#include "data/lastbackup.h"
 #include "engine/store/database.h"
 #include "engine/store/session.h"
 #include "transactions/documentkinds.h"
@@ -85,6 +87,24 @@ TodayFigure openPeriod(const TodaySource &source)
     return {u"%1 / %2"_s.arg(period.number).arg(period.year), false, periodMessage(judgePeriod(settings, period))};
 }
 
+QString dayText(QDate day, QDate today)
+{
+    if (day == today)
+        return TransactionsTexts::tr("today");
+    return day == today.addDays(-1) ? TransactionsTexts::tr("yesterday") : dateText(day);
+}
+
+TodayFigure backup(const TodaySource &source)
+{
+    const LastBackup last = lastBackup(source.database);
+    if (!last.made.isValid())
+        return {TransactionsTexts::tr("never"), false,
+                TransactionsTexts::tr("No backup of this database is known.")};
+    const QString made = u"%1, %2"_s.arg(dateText(last.made.date()), last.made.toString(u"HH:mm"_s));
+    return {dayText(last.made.date(), source.database.session().today()), false,
+            last.by.isEmpty() ? made : TransactionsTexts::tr("%1, by %2").arg(made, last.by)};
+}
+
 QString lineName(const QString &what) { return u"today"_s + what.left(1).toUpper() + what.mid(1); }
 
 } // namespace
@@ -114,6 +134,10 @@ const QList<TodayLine> &todayLines()
                     .title = TransactionsTexts::tr("Period"),
                     .screen = u"frmCompany"_s,
                     .read = openPeriod});
+        all.append({.name = u"todayBackup"_s,
+                    .title = TransactionsTexts::tr("Backup"),
+                    .screen = u"backup"_s,
+                    .read = backup});
         return all;
     }();
     return lines;

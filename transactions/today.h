@@ -34,14 +34,14 @@ struct TodayLine
 
     QString name; // of what shows the line: "todayReceipts"
     QString title; // "Receipts to post"
-    QString screen; // component name: "frmInvReceipts"
+    QString screen; // component name: "frmInvReceipts"; of what has no screen, the name of its page in the manual
     std::function<TodayFigure(const TodaySource &)> read; // in one short statement or two
     Tone tone = Tone::Usual;
     bool isForMonthEnd = false; // nothing is to wait when a month ends
 };
 
 // The documents of each kind that wait to be posted, the balances below zero, the counts that the user has begun on this
-// machine, the period that new documents go into.
+// machine, the period that new documents go into, the last backup.
 const QList<TodayLine> &todayLines();
 
 } // namespace Tallymere

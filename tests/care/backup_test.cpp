@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "care/bookcheck.h"
+#include "data/lastbackup.h"
 #include "data/layouts.h"
 #include "tests/support/documents.h"
 
@@ -121,10 +122,14 @@ TEST_P(BackupTest, IsOfOneMomentWhileOthersWrite)
 
 TEST_P(BackupTest, LeavesNothingOfWhatFails)
 {
+    const QDateTime now(QDate(2026, 3, 20), QTime(17, 5));
+    kitchen.database().session().clock = [&now] { return now; };
     Interrupted cancelled([] { throw SilentAbort(); });
     EXPECT_THROW(backUp(kitchen.database(), file, cancelled), SilentAbort);
     EXPECT_EQ(filesLeft(), QStringList());
+    EXPECT_FALSE(lastBackup(kitchen.database()).made.isValid());
     backUp(kitchen.database(), file, progress);
+    EXPECT_EQ(lastBackup(kitchen.database()).made, now);
     EXPECT_TRUE(refusal([&] { backUp(kitchen.database(), file, progress); }).contains(u"exists already"_s));
 
     const QTemporaryDir target;

@@ -298,11 +298,12 @@ TEST_F(OpeningTest, TodayTellsWhatWaitsEachTimeTheWindowComesToTheFrontAndOpensI
         Engine::Connection &store = form.dataModule()->databaseTallymere().connection();
         auto &usage = *form.findChild<FigureButton *>(u"todayUsage"_s);
         auto &period = *form.findChild<FigureButton *>(u"todayPeriod"_s);
+        auto &backup = *form.findChild<FigureButton *>(u"todayBackup"_s);
         const auto readAgain = [&] {
-            period.setFigure({}, FigureButton::Tone::Usual, {}); // the last one
+            backup.setFigure({}, FigureButton::Tone::Usual, {}); // the last one
             QEvent front(QEvent::WindowActivate);
             QApplication::sendEvent(&form, &front);
-            EXPECT_TRUE(QTest::qWaitFor([&] { return !period.figure().isEmpty(); }));
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !backup.figure().isEmpty(); }));
         };
         readAgain();
         EXPECT_EQ(usage.figure(), u"0"_s);

@@ -1,3 +1,4 @@
+#include "data/lastbackup.h"
 #include "tests/support/documents.h"
 #include "transactions/documentposting.h"
 #include "transactions/lastsaved.h"
@@ -85,4 +86,23 @@ TEST_P(TodayTest, TellsOfBalancesCountsAndThePeriod)
     kitchen.database().session().clock = [] { return QDateTime(QDate(2031, 8, 2), QTime(9, 0)); };
     EXPECT_EQ(figure(u"Period"_s).text, u"8 / 2026"_s) << "what is not set is that of the date";
     EXPECT_TRUE(figure(u"Period"_s).detail.contains(u"prior to current fiscal year"_s));
+}
+
+TEST_P(TodayTest, TellsWhenTheLastBackupWasMade)
+{
+    const auto setDay = [&](int day) {
+        kitchen.database().session().clock = [day] { return QDateTime(QDate(2026, 3, day), QTime(17, 5)); };
+    };
+    EXPECT_EQ(figure(u"Backup"_s).text, u"never"_s);
+    for (const int day : {2, 12}) {
+        setDay(day);
+        kitchen.database().session().applicationUser = u"anna"_s;
+        rememberBackup(kitchen.database());
+        EXPECT_EQ(figure(u"Backup"_s).text, u"today"_s);
+    }
+    setDay(13);
+    EXPECT_EQ(figure(u"Backup"_s).text, u"yesterday"_s);
+    setDay(14);
+    EXPECT_EQ(figure(u"Backup"_s).text, u"12 Mar 26"_s);
+    EXPECT_EQ(figure(u"Backup"_s).detail, u"12 Mar 26, 17:05, by anna"_s);
 }
