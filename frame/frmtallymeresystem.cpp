@@ -355,6 +355,13 @@ void TFormTallymereSystem::createStatusBar()
     m_progress->setTextVisible(false);
     m_progress->setFixedWidth(scaled(this, 90));
     m_progress->setValue(0);
+    // Empty it looks like a field to type into.
+    QSizePolicy kept = m_progress->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    m_progress->setSizePolicy(kept);
+    m_progress->hide();
+    connect(m_progress, &QProgressBar::valueChanged, m_progress,
+            [this](int value) { m_progress->setVisible(value > 0); });
     m_ui->RzStatusBar1->addWidget(m_leftPane);
     m_ui->RzStatusBar1->addWidget(m_hintPane, 1);
     m_ui->RzStatusBar1->addPermanentWidget(m_progress);

@@ -249,11 +249,16 @@ TEST_F(OpeningTest, AScreenRunsItsCommands)
         EXPECT_EQ(context->lookups.tblWarehse().recordCount(), 1);
         company.prompts.ok = true;
         const auto *bar = form.findChild<QProgressBar *>(u"RzProgressBar1"_s);
-        company.prompts.onInform = [&] { EXPECT_EQ(bar->value(), bar->maximum()); };
+        EXPECT_FALSE(bar->isVisible());
+        company.prompts.onInform = [&] {
+            EXPECT_EQ(bar->value(), bar->maximum());
+            EXPECT_TRUE(bar->isVisible());
+        };
         EXPECT_EQ(stepsOf(u"ActionSynchronizeLocations"_s), u"refresh"_s) << "of the list of locations";
         EXPECT_EQ(company.prompts.take(),
                   (QStringList{question, u"inform: Succesfully completed the synchronization."_s}));
         EXPECT_EQ(bar->value(), 0);
+        EXPECT_FALSE(bar->isVisible());
         EXPECT_EQ(context->lookups.tblWarehse().recordCount(), 2) << "drop-down lists show what has come in";
     }));
 }
