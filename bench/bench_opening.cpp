@@ -156,8 +156,7 @@ private:
     void measureScreen(const QString &name)
     {
         QWidget *window = nullptr;
-        measureOpening(name, [&] { window = m_context->openScreen(name); });
-        m_screen = window;
+        measureOpening(name, [&] { m_screen = window = m_context->openScreen(name); });
         window->activateWindow();
         settle();
         if (auto *list = qobject_cast<RecordListScreen *>(window)) {
