@@ -258,6 +258,8 @@ TEST_F(ItemScreens, NarrowTheListAndFindInIt)
     filter([](TfrmItemsFilter &dialog) {
         dialog.SetItemTypeID(2);
         press(Qt::Key_Tab);
+        EXPECT_EQ(focusName(), u"editWords"_s);
+        press(Qt::Key_Tab);
         EXPECT_EQ(focusName(), u"optSuspendedAll"_s) << "the chosen one";
         press(Qt::Key_Left);
     });

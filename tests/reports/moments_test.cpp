@@ -92,6 +92,7 @@ TEST_P(Moments, AReportIsOfTheMomentItWasAskedFor)
     for (const ReportDescription &report : ReportList::all()) {
         const ReportSelection selection{.warehouseId = report.parameters.location ? 1 : 0,
                                         .itemTypeId = report.parameters.itemType ? 1 : 0,
+                                        .itemId = report.parameters.item ? 101 : 0,
                                         .period = 3,
                                         .year = 2026};
         const auto csv = [this](const Printing::Report &made) {
