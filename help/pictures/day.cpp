@@ -80,6 +80,7 @@ public:
         use();
         count();
         lookUp();
+        lookAhead();
     }
 
 private:
@@ -174,10 +175,26 @@ private:
         type("<Alt+V>");
         type("t");
         take("totals", 460);
+        type("<Down><Down><Down><Ctrl+I>");
+        take("itemcard");
+        type("<Esc>");
         backToMain();
         type("<Ctrl+K>");
         type("bread");
         take("finding");
+        type("<Esc>");
+        backToMain();
+    }
+
+    void lookAhead()
+    {
+        type("<Ctrl+K>");
+        type("what to buy<Return>");
+        take("whattobuy", 460);
+        backToMain();
+        type("<Ctrl+K>");
+        type("month end<Return>");
+        take("monthend");
     }
 
     QWidget &m_main;

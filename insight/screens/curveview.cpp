@@ -75,7 +75,7 @@ void CurveView::draw()
     const double margin = std::max(0.05 * greatest->value, 0.01);
     const double low = m_tone == Tone::Accent ? std::min(0.0, least->value) : std::max(0.0, least->value - margin);
     values->setRange(low, std::max(greatest->value + (m_tone == Tone::Accent ? 0 : margin), low + margin));
-    values->setTickCount(3);
+    values->setTickCount(m_tone == Tone::Accent ? 3 : 2); // where there is room for them
     values->applyNiceNumbers();
     values->setLabelFormat(u"%.6g"_s);
     chart()->addAxis(times, Qt::AlignBottom);

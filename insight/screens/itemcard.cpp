@@ -98,9 +98,9 @@ void TfrmItemCard::layOut()
     facts->addStretch();
     auto *curves = new QVBoxLayout;
     curves->addWidget(head(tr("Quantity"), this));
-    curves->addWidget(m_quantity, 3);
+    curves->addWidget(m_quantity, 1);
     curves->addWidget(head(tr("Average cost"), this));
-    curves->addWidget(m_cost, 2);
+    curves->addWidget(m_cost, 1);
     curves->addWidget(m_told);
     auto *sides = new QHBoxLayout;
     sides->setSpacing(scaled(this, Space::part));
