@@ -61,7 +61,7 @@ FinderBox::FinderBox(QWidget &mainWindow, const Guard &guard)
     layout->addWidget(m_hint);
 
     connect(m_text, &QLineEdit::textChanged, this, &FinderBox::search);
-    connect(m_list, &QListWidget::itemClicked, this, &FinderBox::choose);
+    connect(m_list, &QListWidget::itemClicked, this, [this](const QListWidgetItem *item) { choose(item); });
     connect(&m_idle, &QTimer::timeout, this, &FinderBox::readOn);
 }
 
@@ -163,7 +163,7 @@ void FinderBox::addFinding(const Finding &finding)
 QString FinderBox::hint() const
 {
     if (!m_shown.isEmpty())
-        return tr("Enter opens it, the arrow keys go along, Esc closes.");
+        return tr("Enter opens it, Shift+Enter an item's card, the arrow keys go along, Esc closes.");
     if (m_text->text().trimmed().isEmpty())
         return tr(
             "Items, vendors, locations, documents, commands and pages of the manual, by number or by any words.");
@@ -194,7 +194,8 @@ bool FinderBox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_text || event->type() != QEvent::KeyPress)
         return QFrame::eventFilter(watched, event);
-    switch (static_cast<QKeyEvent *>(event)->key()) {
+    const auto *key = static_cast<QKeyEvent *>(event);
+    switch (key->key()) {
     case Qt::Key_Up:
         move(-1);
         return true;
@@ -209,7 +210,8 @@ bool FinderBox::eventFilter(QObject *watched, QEvent *event)
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        choose(m_list->currentItem());
+        choose(m_list->currentItem(),
+               key->modifiers().testFlag(Qt::ShiftModifier) ? Choice::ShowCard : Choice::Open);
         return true;
     case Qt::Key_Escape:
         close();
@@ -220,13 +222,16 @@ bool FinderBox::eventFilter(QObject *watched, QEvent *event)
 }
 
 // The box goes first: what is opened may put a question.
-void FinderBox::choose(const QListWidgetItem *item)
+void FinderBox::choose(const QListWidgetItem *item, Choice choice)
 {
     if (!item || !item->data(placeOfFinding).isValid())
         return;
     const Finding finding = m_shown[item->data(placeOfFinding).toInt()];
     close();
-    m_guard.run([&] { m_finder.open(finding); });
+    if (choice == Choice::ShowCard && finding.showCard)
+        m_guard.run(finding.showCard);
+    else
+        m_guard.run([&] { m_finder.open(finding); });
 }
 
 } // namespace Tallymere

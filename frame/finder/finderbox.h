@@ -40,7 +40,8 @@ private:
     void addHeading(const QString &caption);
     void addFinding(const Finding &finding);
     void move(int step); // over answers, not headings
-    void choose(const QListWidgetItem *item);
+    enum class Choice { Open, ShowCard };
+    void choose(const QListWidgetItem *item, Choice choice = Choice::Open);
     void fitHeight();
     QString hint() const;
 

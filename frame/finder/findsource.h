@@ -18,6 +18,7 @@ struct Finding
     Glyph glyph = Glyph::None;
     TextMatch::Rank rank = TextMatch::Rank::None;
     std::function<void()> open; // may raise what stops it
+    std::function<void()> showCard = {}; // of what has one
 };
 
 // What is searched for.

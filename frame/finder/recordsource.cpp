@@ -2,6 +2,7 @@
 
 #include "base/rights.h"
 #include "data/datamodule.h"
+#include "data/fields.h"
 #include "master/masterkind.h"
 #include "master/screens/masterscreens.h"
 
@@ -29,16 +30,21 @@ QList<Finding> RecordSource::find(const Wanted &wanted)
 Finding RecordSource::finding(const NameIndex::Found &found)
 {
     const QString name = found.name.isEmpty() ? found.number : found.name;
+    std::function<void()> card;
+    if (m_kind.keyField == Fields::ItemID && m_context.showItem)
+        card = [this, key = static_cast<int>(found.key)] { m_context.showItem(key); };
     return {.id = m_kind.table + u'/' + QString::number(found.key),
             .title = name,
             .detail = found.name.isEmpty() ? QString() : found.number,
             .glyph = m_kind.command.glyph,
             .rank = found.rank,
-            .open = [this, key = static_cast<int>(found.key), name] {
-                const Rights rights = rightsOf(m_kind.command.rights);
-                if (m_context.allows(rights.key, rights.name))
-                    m_records->open(key, name);
-            }};
+            .open =
+                [this, key = static_cast<int>(found.key), name] {
+                    const Rights rights = rightsOf(m_kind.command.rights);
+                    if (m_context.allows(rights.key, rights.name))
+                        m_records->open(key, name);
+                },
+            .showCard = card};
 }
 
 } // namespace Tallymere

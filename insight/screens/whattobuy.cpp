@@ -14,6 +14,7 @@
 #include "ui_whattobuy.h"
 
 #include <QScreen>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -70,7 +71,15 @@ void TfrmWhatToBuy::connectControls()
     connect(m_ui->DBGrid1, &BuyingGrid::itemShown, this, &TfrmWhatToBuy::showStatus);
     connectGuarded(m_ui->btnReceipt, &QPushButton::clicked, this, &TfrmWhatToBuy::btnReceiptClick);
     connectGuarded(m_ui->btnPrint, &QPushButton::clicked, this, &TfrmWhatToBuy::btnPrintClick);
+    connectGuarded(new QShortcut(itemCardKey, this), &QShortcut::activated, this, &TfrmWhatToBuy::showItemCard);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void TfrmWhatToBuy::showItemCard()
+{
+    const int item = m_ui->DBGrid1->currentItem();
+    if (item >= 0 && context().showItem)
+        context().showItem(m_list.row(item).item.item);
 }
 
 void TfrmWhatToBuy::showStep()

@@ -35,6 +35,7 @@ protected:
 
 private:
     void connectControls();
+    void showItemCard(); // of the item with the cursor
     BuyingPlan plan() const;
     ReportSelection selection() const;
     void read();

@@ -1,4 +1,5 @@
 #include "controls/screens/recordscreen.h"
+#include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "frame/finder/finderbox.h"
 #include "frame/frmtallymeresystem.h"
@@ -136,6 +137,11 @@ TEST_F(FinderTest, EnterOpensWhatIsFoundAndTheLastComeBack)
         EXPECT_EQ(opened(u"fraîche"_s), u"frmItemInv 1"_s);
         EXPECT_EQ(found(QString()).mid(1, 3),
                   (QStringList{u"Crème fraîche"_s, u"View Totals"_s, u"Inventory Usage 2020"_s}));
+
+        openBox();
+        type(u"fraîche"_s);
+        press(Qt::Key_Return, Qt::ShiftModifier);
+        EXPECT_TRUE(comesTrue([] { return findScreen(u"frmItemCard"_s) != nullptr; }));
 
         openBox();
         type(u"close the month"_s);
