@@ -34,6 +34,7 @@ MasterKind describe()
     kind.record.screen = u"frmItemInv"_s;
     kind.record.caption = MasterTexts::tr("Item");
     kind.record.newCaption = MasterTexts::tr("New Item");
+    kind.record.comesInNumbers = true;
     kind.record.defaults = {{Fields::Suspended, false}};
     // Costs, suspension and accounts are the original's own.
     kind.record.copiedFields = {Fields::ItemDescription, Fields::TaxCodes, Fields::UnitPrice, Fields::Notes,

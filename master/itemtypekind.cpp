@@ -21,6 +21,7 @@ MasterKind describe()
     kind.record.screen = u"frmItemTypeInv"_s;
     kind.record.caption = MasterTexts::tr("Item Type");
     kind.record.newCaption = MasterTexts::tr("New Item Type");
+    kind.record.comesInNumbers = true;
     kind.record.defaults = {{Fields::Inventory, false},
                             {Fields::CostingMethod, static_cast<int>(CostingMethod::Average)}};
     kind.record.required = {{Fields::TypeName, MasterTexts::tr("Field 'Type Name' must have a value")}};

@@ -20,6 +20,7 @@ MasterKind describe()
     kind.record.screen = u"frmWarehouseInv"_s;
     kind.record.caption = MasterTexts::tr("Location");
     kind.record.newCaption = MasterTexts::tr("New Location");
+    kind.record.comesInNumbers = true;
     kind.record.required = {{Fields::WarehouseName, MasterTexts::tr("Field 'Location Name' must have a value")}};
     kind.record.taken = MasterTexts::tr("That Location already exists");
 

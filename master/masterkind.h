@@ -54,6 +54,7 @@ struct MasterKind
         QString caption; // "Item"
         QString newCaption; // "New Item"
         bool namesCaption = true; // the name takes the caption's place
+        bool comesInNumbers = false; // often several are entered one after the other: "Save and New"
         QList<Engine::FieldValue> defaults;
         std::function<void(Engine::Table &)> preset; // defaults that have to be found out, of these fields:
         QStringList presetFields;

@@ -85,6 +85,7 @@ MasterKind describe()
     kind.record.screen = u"frmVendor"_s;
     kind.record.caption = MasterTexts::tr("Vendor");
     kind.record.newCaption = kind.record.caption;
+    kind.record.comesInNumbers = true;
     kind.record.namesCaption = false;
     kind.record.defaults = {{Fields::Suspended, false}};
     kind.record.preset = presetCurrency;

@@ -1,10 +1,15 @@
 #include "master/screens/masterrecordscreen.h"
 
 #include "controls/fields/lookuplists.h"
+#include "controls/windows/icons.h"
 #include "data/datamodule.h"
 
+#include <QBoxLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTabWidget>
+
+using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
@@ -30,7 +35,30 @@ void MasterRecordScreen::buildRecord()
     connect(&m_record.table(), &Engine::DataSet::currentChanged, this, &MasterRecordScreen::recordChanged);
     connect(&m_record.table(), &Engine::DataSet::stateChanged, this, &MasterRecordScreen::recordChanged);
     followName();
+    if (m_record.kind().record.comesInNumbers)
+        addSaveAndNew();
     buildScreen();
+}
+
+// Apart from the buttons that the form has, at the other end of their row.
+void MasterRecordScreen::addSaveAndNew()
+{
+    auto *ok = findChild<QPushButton *>(u"btnOK"_s);
+    auto *row = qobject_cast<QBoxLayout *>(ok->parentWidget()->layout());
+    auto *button = new QPushButton(tr("Save and New"), ok->parentWidget());
+    button->setObjectName(u"btnSaveAndNew"_s);
+    setGlyph(*button, Glyph::New);
+    row->insertWidget(0, button);
+    setTabOrder(findChild<QPushButton *>(u"btnCancel"_s), button);
+    connectGuarded(button, &QPushButton::clicked, this, &MasterRecordScreen::saveAndNew);
+}
+
+void MasterRecordScreen::saveAndNew()
+{
+    saveAndReport();
+    newRecord();
+    m_saved = false;
+    firstShown();
 }
 
 void MasterRecordScreen::followName()

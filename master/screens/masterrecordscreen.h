@@ -33,6 +33,8 @@ protected:
     MasterRecord &record() { return m_record; }
     const MasterRecord &record() const { return m_record; }
 
+    void saveAndNew(); // saves, and goes on with a new one; stays with the record when the saving is refused
+
     virtual void showRecord() { } // the record, or one of its values, is new
     void firstShown() override;
 
@@ -45,6 +47,7 @@ protected:
 
 private:
     void recordChanged();
+    void addSaveAndNew();
     void followName(); // the caption, while the name is typed
 
     MasterRecord m_record;

@@ -97,6 +97,30 @@ TEST_F(ItemScreens, NumberCheckAndSaveANewItem)
     EXPECT_EQ(list->dataSet().text(u"ItemNo"), u"B10");
 }
 
+TEST_F(ItemScreens, SaveOneAndGoOnWithTheNext)
+{
+    openList();
+    clickList("btnNew");
+    takeItem();
+    enter("editItemNo", "C1");
+    clickItem("btnSaveAndNew");
+    EXPECT_EQ(prompts.told(), u"error: Field 'Description' must have a value") << "it stays";
+    EXPECT_EQ(shown("editItemNo"), u"C1");
+    enter("editItemDescription", "Cumin");
+    typeIn(*item, "cboItemType", "fo<Return>");
+    clickItem("btnSaveAndNew");
+    EXPECT_EQ(item->windowTitle(), u"New Item");
+    EXPECT_EQ(shown("editItemDescription"), u"");
+    EXPECT_EQ(focusName(), u"editItemNo");
+    EXPECT_EQ(list->dataSet().text(u"ItemNo"), u"C1");
+    enter("editItemNo", "C2");
+    enter("editItemDescription", "Curry");
+    typeIn(*item, "cboItemType", "fo<Return>");
+    clickItem("btnOK");
+    EXPECT_TRUE(isGone(item));
+    EXPECT_EQ(kitchen.found(u"SELECT ItemNo FROM Item WHERE ItemNo LIKE 'C%' ORDER BY ItemNo"_s), u"C1 C2"_s);
+}
+
 TEST_F(ItemScreens, UnlockTheAverageCostOnlyOnPurpose)
 {
     kitchen.execute(u"UPDATE Item SET WgtAvgCost = 2.345, ItemTypeID = 1 WHERE ItemID = 1"_s);
