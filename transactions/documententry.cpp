@@ -502,13 +502,6 @@ void DocumentEntry::putBack()
     }
 }
 
-void DocumentEntry::checkInHand()
-{
-    m_check.requireQuantity();
-    checkLine();
-    m_check.requireFigures(lineCost());
-}
-
 // --- end of the visit ----------------------------------------------------------------------------------------
 
 void DocumentEntry::save()

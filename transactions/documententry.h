@@ -100,8 +100,6 @@ public:
     // been written since, or the visit is over.
     QString takenOut() const;
     void putBack(); // that one as the last line, under the rules of entry
-    // What the writing of the line in hand would refuse, but for what is asked then.
-    void checkInHand();
     // Besides what is stored, lines() tells by these fields what is on hand and what will be (see LineStock), as it was
     // when the visit began or refreshStock() was last called.
     static constexpr QStringView OnHand = u"OnHand";
