@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <QtGlobal>
 
 namespace Engine {
 class Database;
