@@ -39,7 +39,7 @@ void setBalance(Engine::Database &database, qint64 item, qint64 location, double
 void tell(Inspection &inspection, qint64 item, qint64 location, double stored, double history)
 {
     const bool doubted = inspection.isDoubted(item);
-    Finding finding{
+    BookFinding finding{
         .where = CareTexts::tr("%1 at %2").arg(inspection.itemName(item), inspection.locationName(location)),
         .what = CareTexts::tr("On hand is %1, the history comes to %2.").arg(quantity(stored), quantity(history)),
         .effect = CareTexts::tr("Totals and values count %1 that no document accounts for.")

@@ -60,7 +60,7 @@ int checkHeldBooks(Engine::Database &database, Progress &progress, const TellFin
     const BookCheck *current = nullptr;
     Inspection inspection(
         database,
-        [&](Finding finding) {
+        [&](BookFinding finding) {
             ++found;
             tell(*current, std::move(finding));
         },

@@ -22,7 +22,7 @@ const QList<BookCheck> &bookChecks(); // in the order in which they have to be r
 
 // Runs all of them over what the database holds at one moment. What is damaged is found as well, and the other checks go
 // on. Returns how much has been found. Throws when the store is gone, and what a step of the progress throws.
-using TellFinding = std::function<void(const BookCheck &, Finding)>;
+using TellFinding = std::function<void(const BookCheck &, BookFinding)>;
 int checkBooks(Engine::Database &database, Progress &progress, const TellFinding &tell);
 
 // The same over what the database's own connection sees, for somebody who keeps others from writing meanwhile.

@@ -10,7 +10,7 @@ class Database;
 namespace Tallymere {
 
 // Something in the books that should not be so.
-struct Finding
+struct BookFinding
 {
     QString where; // "Apples (A10) at Office"
     QString what; // what is wrong

@@ -13,14 +13,14 @@ namespace Tallymere {
 class Inspection
 {
 public:
-    using Tell = std::function<void(Finding)>;
+    using Tell = std::function<void(BookFinding)>;
 
     // Steps are told now and then while much is read; one that throws ends the run.
     Inspection(Engine::Database &database, Tell tell, std::function<void()> step);
 
     Engine::Database &database() const { return m_database; }
     Engine::Connection &store() const;
-    void found(Finding finding) const { m_tell(std::move(finding)); }
+    void found(BookFinding finding) const { m_tell(std::move(finding)); }
     void step() const { m_step(); }
     bool next(Engine::Statement &rows); // the next row, with a step now and then
 

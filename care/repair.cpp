@@ -53,8 +53,8 @@ public:
     // In the caller's transaction.
     RepairResult run(const TellFinding &tell)
     {
-        QList<std::pair<const BookCheck *, Finding>> found;
-        checkHeldBooks(m_database, m_progress, [&found](const BookCheck &check, Finding finding) {
+        QList<std::pair<const BookCheck *, BookFinding>> found;
+        checkHeldBooks(m_database, m_progress, [&found](const BookCheck &check, BookFinding finding) {
             found.append({&check, std::move(finding)});
         });
         RepairResult result;
@@ -71,7 +71,7 @@ public:
     }
 
 private:
-    void mend(const Finding &finding)
+    void mend(const BookFinding &finding)
     {
         finding.mend(m_database);
         leaveNote(m_database, CareTexts::tr("Repaired: %1: %2").arg(finding.where, finding.what),
@@ -80,7 +80,7 @@ private:
 
     void requireMended()
     {
-        checkHeldBooks(m_database, m_progress, [](const BookCheck &, const Finding &finding) {
+        checkHeldBooks(m_database, m_progress, [](const BookCheck &, const BookFinding &finding) {
             if (finding.mend)
                 throw RuleError(
                     CareTexts::tr("This is not mended by what should mend it, so nothing has been changed: %1")
@@ -99,8 +99,8 @@ RepairResult repairBooks(Engine::Database &database, const QString &backup, cons
                          const TellFinding &tell)
 {
     const ClosedBooks books(database);
-    QList<std::pair<const BookCheck *, Finding>> found;
-    checkBooks(database, progress, [&found](const BookCheck &check, Finding finding) {
+    QList<std::pair<const BookCheck *, BookFinding>> found;
+    checkBooks(database, progress, [&found](const BookCheck &check, BookFinding finding) {
         found.append({&check, std::move(finding)});
     });
     if (std::ranges::none_of(found, [](const auto &one) { return bool(one.second.mend); })) {

@@ -48,7 +48,7 @@ void runRepair(CommandContext &context, Engine::Database &database, const QStrin
 void runCheck(CommandContext &context)
 {
     const auto data = context.openData();
-    const auto tell = [&context](const BookCheck &check, const Finding &finding) {
+    const auto tell = [&context](const BookCheck &check, const BookFinding &finding) {
         context.console.print(u"%1: %2"_s.arg(check.title, finding.text()));
     };
     if (context.arguments.has(u"repair"_s))

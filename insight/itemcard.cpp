@@ -14,13 +14,13 @@ namespace Tallymere {
 namespace {
 
 // The last movement of each stretch of days; what has no date is one stretch.
-std::vector<Movement> thinned(const std::vector<Movement> &movements, int days)
+std::vector<ItemMovement> thinned(const std::vector<ItemMovement> &movements, int days)
 {
-    const auto stretch = [days](const Movement &movement) {
+    const auto stretch = [days](const ItemMovement &movement) {
         return movement.date.isValid() ? movement.date.toJulianDay() / days : -1;
     };
-    std::vector<Movement> kept;
-    for (const Movement &movement : movements) {
+    std::vector<ItemMovement> kept;
+    for (const ItemMovement &movement : movements) {
         if (kept.empty() || stretch(kept.back()) != stretch(movement))
             kept.push_back(movement);
         else
@@ -112,7 +112,7 @@ private:
                    "WHERE H.ItemID = ? ORDER BY H.TransDate, H.IHistID"_s.arg(keys.join(", "_L1)));
         double sum = 0;
         while (row->next()) {
-            Movement movement;
+            ItemMovement movement;
             const auto type = static_cast<int>(row->intAt(0));
             movement.change = stockChange(type, row->doubleAt(1));
             movement.onHand = sum += movement.change;
@@ -129,7 +129,7 @@ private:
         }
         // What was there before the history, as a host may have brought it along.
         const double before = m_card.onHand - sum;
-        for (Movement &movement : m_card.movements)
+        for (ItemMovement &movement : m_card.movements)
             movement.onHand = withoutNoise(movement.onHand + before);
         thinOut();
     }

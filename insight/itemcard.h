@@ -22,7 +22,7 @@ struct WaitingStock
 };
 
 // A row of the item's history.
-struct Movement
+struct ItemMovement
 {
     QDate date; // null where it has none; such come first
     QString description; // "Receipt: 1001   PO: PO26001"
@@ -59,7 +59,7 @@ struct ItemCard
     std::vector<WaitingStock> waiting; // by kind; only those that have some
 
     // By date. Of more movements than can be told apart the last of each day, and then of each week; isThinned then.
-    std::vector<Movement> movements;
+    std::vector<ItemMovement> movements;
     bool isThinned = false;
     // What the average cost was, as far as the receipts tell, in the order in which they were posted; a receipt dated before
     // one that was posted earlier counts from that one's date.

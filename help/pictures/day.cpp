@@ -65,9 +65,9 @@ private:
 class Day
 {
 public:
-    Day(QWidget &main, QString folder, QString ending)
+    Day(QWidget &main, const QString &folder, QString ending)
         : m_main(main)
-        , m_folder(std::move(folder))
+        , m_folder(folder)
         , m_ending(std::move(ending))
     {
     }

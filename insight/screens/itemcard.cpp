@@ -22,7 +22,6 @@
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-using Engine::Money;
 
 namespace Tallymere {
 
@@ -190,7 +189,7 @@ void TfrmItemCard::showCurves()
     m_shown.clear();
     std::vector<CurvePoint> points;
     for (size_t i = 0; i < m_card.movements.size(); ++i) {
-        const Movement &movement = m_card.movements[i];
+        const ItemMovement &movement = m_card.movements[i];
         if (!movement.date.isValid())
             continue;
         m_shown.push_back(i);
@@ -215,7 +214,7 @@ void TfrmItemCard::showCurves()
     m_why->setEnabled(!m_card.trail.steps.empty());
 }
 
-void TfrmItemCard::openMovement(const Movement &movement)
+void TfrmItemCard::openMovement(const ItemMovement &movement)
 {
     if (movement.kind && movement.document > 0)
         openDocument(*movement.kind, movement.document, movement.description);

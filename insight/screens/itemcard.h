@@ -33,7 +33,7 @@ private:
     void showCard();
     void showFacts();
     void showCurves();
-    void openMovement(const Movement &movement);
+    void openMovement(const ItemMovement &movement);
     void openDocument(const DocumentKind &kind, int key, const QString &name);
 
     ItemCard m_card;

@@ -90,7 +90,7 @@ TEST_P(BackupTest, BringsEverythingBackIntoEitherStore)
         restoreInto(other.database(), file, progress);
         EXPECT_EQ(contents(other.database()), before);
         EXPECT_EQ(checkBooks(other.database(), progress,
-                             [](const BookCheck &, const Finding &finding) {
+                             [](const BookCheck &, const BookFinding &finding) {
                                  ADD_FAILURE() << finding.text().toStdString();
                              }),
                   0);

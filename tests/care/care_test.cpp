@@ -36,7 +36,7 @@ protected:
     QStringList check() // "balances: Apples (A10) at Office: ..."
     {
         QStringList found;
-        checkHeldBooks(kitchen.database(), progress, [&found](const BookCheck &check, const Finding &finding) {
+        checkHeldBooks(kitchen.database(), progress, [&found](const BookCheck &check, const BookFinding &finding) {
             found << check.name + ": "_L1 + finding.text();
         });
         return found;
@@ -147,7 +147,7 @@ TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
     const auto repair = [&] {
         told.clear();
         return repairBooks(kitchen.database(), backup, u"maria"_s, progress,
-                           [&told](const BookCheck &check, const Finding &) { told << check.name; });
+                           [&told](const BookCheck &check, const BookFinding &) { told << check.name; });
     };
     EXPECT_EQ(repair().mended, 0);
     EXPECT_FALSE(QFile::exists(backup));
@@ -186,7 +186,7 @@ TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
     EXPECT_EQ(kitchen.rows(u"SELECT %1 FROM History"_s, user), QStringList(5, u"maria"_s));
     TestStore old(Store::Local);
     restoreInto(old.database(), backup, progress);
-    EXPECT_EQ(checkBooks(old.database(), progress, [](const BookCheck &, const Finding &) {}), before.size());
+    EXPECT_EQ(checkBooks(old.database(), progress, [](const BookCheck &, const BookFinding &) {}), before.size());
 }
 
 } // namespace

@@ -135,7 +135,7 @@ TEST_P(InsightTest, ACardHasTheStockAndItsWays)
 
         // The curve stands at the end of each day where the stock of that day did.
         for (size_t i = 0; i < card.movements.size(); ++i) {
-            const Movement &movement = card.movements[i];
+            const ItemMovement &movement = card.movements[i];
             ASSERT_NE(movement.kind, nullptr);
             EXPECT_GT(movement.document, 0);
             if (i + 1 < card.movements.size() && card.movements[i + 1].date == movement.date)
