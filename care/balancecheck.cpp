@@ -2,7 +2,6 @@
 #include "care/checks.h"
 #include "care/inspection.h"
 #include "care/texts.h"
-#include "engine/store/database.h"
 
 #include <cmath>
 
@@ -20,35 +19,19 @@ bool isSame(double one, double other)
 
 QString quantity(double value) { return Engine::Value(withoutNoise(value)).toText(); }
 
-void setBalance(Engine::Database &database, qint64 item, qint64 location, double onHand)
-{
-    Engine::Connection &store = database.connection();
-    const Engine::StatementPtr update =
-        store.prepare(u"UPDATE IBalance SET QtyOnHand = ? WHERE ItemID = ? AND WarehouseID = ?"_s);
-    const Engine::StatementPtr insert =
-        store.prepare(u"INSERT INTO IBalance (QtyOnHand, ItemID, WarehouseID) VALUES (?, ?, ?)"_s);
-    for (const Engine::StatementPtr *statement : {&update, &insert}) {
-        (*statement)->bindDouble(0, onHand);
-        (*statement)->bindInt(1, item);
-        (*statement)->bindInt(2, location);
-        if ((*statement)->execute() > 0)
-            return;
-    }
-}
-
+// Never mended by itself: a host may have brought the stock along without a history, and nobody else knows what is there.
 void tell(Inspection &inspection, qint64 item, qint64 location, double stored, double history)
 {
     const bool doubted = inspection.isDoubted(item);
-    BookFinding finding{
-        .where = CareTexts::tr("%1 at %2").arg(inspection.itemName(item), inspection.locationName(location)),
-        .what = CareTexts::tr("On hand is %1, the history comes to %2.").arg(quantity(stored), quantity(history)),
-        .effect = CareTexts::tr("Totals and values count %1 that no document accounts for.")
-                      .arg(quantity(stored - history)),
-        .remedy = doubted ? CareTexts::tr("Count the item once its documents are in order.")
-                          : CareTexts::tr("A repair sets it to what the history comes to.")};
-    if (!doubted)
-        finding.mend = [=](Engine::Database &database) { setBalance(database, item, location, history); };
-    inspection.found(std::move(finding));
+    inspection.found(
+        {.where = CareTexts::tr("%1 at %2").arg(inspection.itemName(item), inspection.locationName(location)),
+         .what = CareTexts::tr("On hand is %1, the history comes to %2.").arg(quantity(stored), quantity(history)),
+         .effect = CareTexts::tr("Totals and values count %1 that no document accounts for.")
+                       .arg(quantity(stored - history)),
+         .remedy = doubted
+             ? CareTexts::tr("Count the item once its documents are in order.")
+             : CareTexts::tr(
+                 "Count the item. What a host has brought along without a history is right as it is.")});
 }
 
 } // namespace

@@ -155,7 +155,6 @@ TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
     const DocumentKind &kind = *DocumentKinds::all().first();
     const QString posted = keyOf(kind, true);
     const QString unposted = keyOf(kind, false);
-    const QString balances = kitchen.balances();
     for (const QString &statement :
          {u"UPDATE IBalance SET QtyOnHand = QtyOnHand + 7 WHERE ItemID = 1 AND WarehouseID = 1"_s,
           u"DELETE FROM IBalance WHERE ItemID = 2 AND WarehouseID = 2"_s, u"DELETE FROM ItemCtl"_s,
@@ -165,6 +164,7 @@ TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
           u"UPDATE Item SET ItemNo = 'A10' WHERE ItemID = 2"_s}) // which only the user can mend
         kitchen.execute(statement);
     const QStringList before = check();
+    const QString balances = kitchen.balances();
     const auto anna = kitchen.anotherUser();
     {
         Engine::Table open(anna->database, kind.lineTable);
@@ -174,16 +174,16 @@ TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
     EXPECT_EQ(check(), before);
 
     const RepairResult result = repair();
-    EXPECT_EQ(result.mended, 5);
-    EXPECT_EQ(result.left, 1);
+    EXPECT_EQ(result.mended, 3);
+    EXPECT_EQ(result.left, 3);
     EXPECT_EQ(told.size(), 6);
-    EXPECT_EQ(check().size(), 1);
-    EXPECT_EQ(kitchen.balances(), balances);
+    EXPECT_EQ(check().size(), 3);
+    EXPECT_EQ(kitchen.balances(), balances) << "what is there, nobody but a count can tell";
     EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM %1 WHERE %2"_s.arg(kind.lineTable, unposted)), u"0"_s);
     EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM %1 WHERE %2 AND Posted = true"_s.arg(kind.headerTable, posted)),
               u"1"_s);
     const QString user = kitchen.database().connection().dialect().name(u"User"_s);
-    EXPECT_EQ(kitchen.rows(u"SELECT %1 FROM History"_s, user), QStringList(5, u"maria"_s));
+    EXPECT_EQ(kitchen.rows(u"SELECT %1 FROM History"_s, user), QStringList(3, u"maria"_s));
     TestStore old(Store::Local);
     restoreInto(old.database(), backup, progress);
     EXPECT_EQ(checkBooks(old.database(), progress, [](const BookCheck &, const BookFinding &) {}), before.size());
