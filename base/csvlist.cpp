@@ -1,27 +1,26 @@
 #include "base/csvlist.h"
 
-#include "base/csvwriter.h"
 #include "base/rowspool.h"
 #include "base/savedfile.h"
+#include "base/xlsxwriter.h"
 #include "engine/records/rowwalk.h"
 #include "engine/store/readmoment.h"
 
 namespace Tallymere {
 
-void writeCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, QIODevice &output,
-                  Progress &progress)
+void writeList(const Engine::DataSet &rows, const QList<GridColumn> &columns, RowWriter &writer, Progress &progress)
 {
-    CsvWriter writer(output);
     std::vector<int> fields;
     for (const GridColumn &column : columns) {
         fields.push_back(rows.fieldIndex(column.field));
-        writer.field(column.title);
+        writer.title(column.title,
+                     fields.back() >= 0 && rows.field(fields.back()).type == Engine::FieldType::Money);
     }
     writer.endRecord();
 
     const auto write = [&](const Engine::Row &row) {
         for (const int field : fields)
-            writer.field(rows.valueIn(row, field).toText());
+            writer.field(rows.valueIn(row, field));
         writer.endRecord();
     };
     Engine::ReadMoment moment(rows.database());
@@ -42,18 +41,40 @@ void writeCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns,
     progress.finish();
 }
 
-void writeCsvList(const Engine::DataSet &rows, const QStringList &fields, QIODevice &output, Progress &progress)
+void writeCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, QIODevice &output,
+                  Progress &progress, CsvTexts texts)
+{
+    CsvWriter writer(output, texts);
+    writeList(rows, columns, writer, progress);
+}
+
+QList<GridColumn> columnsOf(const QStringList &fields)
 {
     QList<GridColumn> columns;
     for (const QString &field : fields)
         columns.append({field, field});
-    writeCsvList(rows, columns, output, progress);
+    return columns;
+}
+
+void writeCsvList(const Engine::DataSet &rows, const QStringList &fields, QIODevice &output, Progress &progress,
+                  CsvTexts texts)
+{
+    writeCsvList(rows, columnsOf(fields), output, progress, texts);
 }
 
 void saveCsvList(const Engine::DataSet &rows, const QList<GridColumn> &columns, const QString &fileName,
-                 Progress &progress)
+                 Progress &progress, CsvTexts texts)
 {
-    saveFile(fileName, [&](QIODevice &file) { writeCsvList(rows, columns, file, progress); });
+    saveFile(fileName, [&](QIODevice &file) { writeCsvList(rows, columns, file, progress, texts); });
+}
+
+void saveXlsxList(const Engine::DataSet &rows, const QList<GridColumn> &columns, const QString &title,
+                  const QString &fileName, Progress &progress)
+{
+    saveFile(fileName, [&](QIODevice &file) {
+        XlsxWriter writer(file, title);
+        writeList(rows, columns, writer, progress);
+    });
 }
 
 } // namespace Tallymere

@@ -2,12 +2,19 @@
 
 #include "base/texts.h"
 #include "engine/values/storedtext.h"
+#include "engine/values/textsize.h"
 
+#include <array>
 #include <QIODevice>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
+
+namespace {
+// The longest text that a field takes, each character in four bytes, with room for quotes and for what stands beside it.
+constexpr qint64 longestLine = 16 * Engine::longestText;
+} // namespace
 
 CsvReader::CsvReader(QIODevice &device)
     : m_device(device)
@@ -30,7 +37,12 @@ bool CsvReader::next()
 // A line as the file has it. UTF-8 never hides a line end inside a character, so each line can be judged alone.
 bool CsvReader::readLine()
 {
-    m_text = m_device.readLine();
+    m_text.clear();
+    std::array<char, 8192> piece;
+    for (qint64 got = 0; !m_text.endsWith('\n') && (got = m_device.readLine(piece.data(), piece.size())) > 0;) {
+        m_text.append(piece.data(), got);
+        requireShort(m_text, m_line + 1);
+    }
     if (m_text.isEmpty()) {
         if (!m_device.atEnd())
             throw CsvError(m_line + 1, m_device.errorString());
@@ -50,6 +62,12 @@ bool CsvReader::readLine()
     if (m_text.contains('\0'))
         throw CsvError(m_line, BaseTexts::tr("There is a zero byte in the text. This is no CSV file in UTF-8."));
     return true;
+}
+
+void CsvReader::requireShort(const QByteArray &text, int line)
+{
+    if (text.size() >= longestLine)
+        throw CsvError(line, BaseTexts::tr("There is a text here that is larger than any field takes."));
 }
 
 void CsvReader::readRecord()
@@ -87,6 +105,7 @@ void CsvReader::readQuotedField()
         if (quote < 0) {
             field += m_text.mid(m_position);
             field += '\n';
+            requireShort(field, opened);
             if (!m_lineEnded || !readLine())
                 throw CsvError(opened, BaseTexts::tr("The quote that opens on this line never closes."));
             continue;

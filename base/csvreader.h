@@ -45,6 +45,7 @@ public:
 
 private:
     bool readLine();
+    static void requireShort(const QByteArray &text, int line);
     void readRecord();
     void readQuotedField();
     void readPlainField();

@@ -155,13 +155,15 @@ FieldFormat quantityFormat(const RegionalSettings &settings, const QString &colu
 
 QString dateText(QDate date, const RegionalSettings &settings)
 {
+    if (!settings.spellsMonths)
+        return settings.shortDate(date, 2);
     return date.isValid() ? settings.locale.toString(date, u"dd MMM yy"_s) : QString();
 }
 
 QString distantDateQuestion(QDate date, const RegionalSettings &settings)
 {
     return BaseTexts::tr("%1 is more than a year away from today.\nDo you want this date all the same?")
-        .arg(settings.locale.toString(date, u"d MMM yyyy"_s));
+        .arg(settings.spellsMonths ? settings.locale.toString(date, u"d MMM yyyy"_s) : settings.shortDate(date, 4));
 }
 
 FieldFormat dateFormat(const RegionalSettings &settings, const QString &column, const std::function<QDate()> &today)

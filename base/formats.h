@@ -22,7 +22,7 @@ Engine::FieldFormat currencyFormat(const RegionalSettings &settings = RegionalSe
 Engine::FieldFormat quantityFormat(const RegionalSettings &settings = RegionalSettings::system(),
                                    const QString &column = {});
 
-// Shown "dd mmm yy", edited as a short date with a two-digit year, read by date2000. A text without any digit (an
+// Shown "dd mmm yy" (in other languages than English as it is edited), edited as a short date with a two-digit year, read by date2000. A text without any digit (an
 // empty mask) is a null. Where it is known what day it is, day and month alone will do.
 Engine::FieldFormat dateFormat(const RegionalSettings &settings = RegionalSettings::system(),
                                const QString &column = {}, const std::function<QDate()> &today = {});
@@ -56,7 +56,7 @@ QString currencyText(Engine::Money value, const RegionalSettings &settings = Reg
 QString currencyEditText(Engine::Money value, const RegionalSettings &settings = RegionalSettings::system(),
                          int mostDecimals = 3);
 
-// "24 Nov 26"; an empty text for an invalid date.
+// "24 Nov 26", "24.11.26"; an empty text for an invalid date.
 QString dateText(QDate date, const RegionalSettings &settings = RegionalSettings::system());
 
 // Asks about a date that is more than a year away.

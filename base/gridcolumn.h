@@ -19,6 +19,7 @@ struct GridColumn
     // A column of yes and no that shows a tick for yes, and for no this word, as what is still to be done.
     QString openWord = {};
     bool setOff = false; // tells something about the other columns: behind a line, in quieter letters
+    bool warnsBelowZero = false; // a figure below zero wants attention there, and is no figure of the row's own
 
     bool shows(const QString &name) const
     {

@@ -1,5 +1,7 @@
 #include "base/regionalsettings.h"
 
+#include "engine/values/userlocale.h"
+
 #include <cstdlib>
 #include <QStringList>
 
@@ -45,8 +47,16 @@ int digits(const QString &part)
 
 RegionalSettings RegionalSettings::system()
 {
+    const Engine::UserLocale user = Engine::userLocale();
+    RegionalSettings settings = of(user.locale);
+    settings.spellsMonths = user.spellsMonths;
+    return settings;
+}
+
+RegionalSettings RegionalSettings::of(const QLocale &locale)
+{
     RegionalSettings settings;
-    settings.locale = QLocale::system();
+    settings.locale = locale;
     if (const QString point = settings.locale.decimalPoint(); !point.isEmpty())
         settings.decimalPoint = point.front();
     if (const QString group = settings.locale.groupSeparator(); !group.isEmpty())

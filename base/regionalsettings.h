@@ -15,10 +15,12 @@ struct RegionalSettings
     QChar decimalPoint = u'.';
     QChar groupSeparator = u',';
     QLocale locale = QLocale::c(); // names of months
+    bool spellsMonths = true; // in dates that are shown
 
-    // The user's own. Where the system's short date spells months out or has no separator, the date part of the
-    // defaults above stands in.
+    // The user's own (Engine::userLocale). Where the short date spells months out or has no separator, the date part of
+    // the defaults above stands in.
     static RegionalSettings system();
+    static RegionalSettings of(const QLocale &locale);
 
     // Reads a short date: three numbers in the order of the short date format, joined by the separator. A year of
     // one or two digits is one of the 1900s. Invalid when the text is no date.

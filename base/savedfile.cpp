@@ -2,6 +2,7 @@
 
 #include "base/specialfile.h"
 #include "base/texts.h"
+#include "engine/store/platform.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -39,6 +40,7 @@ void replaceFile(const QString &path, const QString &fileName, const std::functi
     writeTo(file, fileName, write);
     if (!file.commit())
         refuse(fileName, file.errorString());
+    Engine::syncFolder(QFileInfo(path).absolutePath());
 }
 
 void writeInto(const QString &fileName, const std::function<void(QIODevice &)> &write)

@@ -35,6 +35,12 @@ template <typename T> struct ChoiceSetting
     DefaultOf<T> byDefault{};
 };
 
+// What a user has kept on a screen, as many as he likes (LastChoices).
+struct ListSetting
+{
+    QLatin1StringView name;
+};
+
 // What the host's initialization file says.
 struct InitSetting
 {
@@ -59,6 +65,11 @@ constexpr ScreenSetting<QString> columnWidths(QStringView grid) { return {grid};
 // The folder that a file was saved in last, from whatever screen.
 inline constexpr QStringView savingSection = u"SaveAsCsv";
 inline constexpr ScreenSetting<QString> SavingFolder{u"Folder"};
+inline constexpr ScreenSetting<bool> DefusesFormulas{u"DefusesFormulas"}; // in files for spreadsheets
+
+// The language that the program speaks from its next start on, by its code; empty: the desktop's.
+inline constexpr QStringView languageSection = u"Language";
+inline constexpr ScreenSetting<QString> ChosenLanguage{u"Code"};
 
 // Entering documents: Enter passes over what follows from the item of a line.
 inline constexpr QStringView documentEntry = u"DocumentEntry";
@@ -90,10 +101,32 @@ inline constexpr ChoiceSetting<bool> BlindCount{QLatin1StringView("blind")};
 inline constexpr QStringView buyingScreen = u"frmWhatToBuy";
 inline constexpr ChoiceSetting<int> WeeksOfUse{QLatin1StringView("weeks"), 8};
 inline constexpr ChoiceSetting<int> WeeksOfCover{QLatin1StringView("cover"), 2};
+inline constexpr ChoiceSetting<bool> AlsoInStock{QLatin1StringView("alsoInStock")};
 inline constexpr QStringView monthEndScreen = u"frmMonthEnd";
 inline constexpr ChoiceSetting<QString> ClosedPeriod{QLatin1StringView("period")}; // that the others are about
 inline constexpr ChoiceSetting<QString> CountedSince{QLatin1StringView("countedSince")};
 inline constexpr ChoiceSetting<QString> ValuePrinted{QLatin1StringView("valuePrinted")}; // when
+
+// What new books need.
+inline constexpr QStringView firstStepsScreen = u"frmFirstSteps";
+inline constexpr ChoiceSetting<bool> HidesFirstSteps{QLatin1StringView("hides")}; // at the start
+
+// The backup of each day.
+inline constexpr QStringView dailyBackup = u"DailyBackup";
+inline constexpr ScreenSetting<bool> BackupDaily{u"On"};
+inline constexpr ScreenSetting<QString> BackupFolder{u"Folder"};
+inline constexpr ScreenSetting<int> BackupsKept{u"Kept", 14};
+
+// What a user has opened last from the search over everything.
+inline constexpr QStringView finderBox = u"boxFind";
+inline constexpr ListSetting OpenedLast{QLatin1StringView("openedLast")};
+
+// What the headings of files stood for that were brought in last, by the kind of file.
+inline constexpr ListSetting ImportedHeadings{QLatin1StringView("headings")};
+
+// The filters that a user has kept for a list, below the list's own settings.
+inline constexpr QLatin1StringView keptFiltersSection{"/KeptFilters"};
+inline constexpr ListSetting KeptFilters{QLatin1StringView("filters")};
 
 // "HX1.ini".
 inline constexpr InitSetting SampleData{u"Companies", u"Sample Data"};

@@ -30,6 +30,7 @@ constexpr auto internet = "Internet"_L1;
 } // namespace
 
 QString settingText(const QString &value) { return value; }
+QString settingText(int value) { return QString::number(value); }
 QString settingText(bool value) { return value ? QString(yes) : QString(); }
 QString settingText(Engine::LinkType value) { return value == Engine::LinkType::Internet ? internet : lan; }
 QString settingText(Engine::SessionType value)
@@ -53,21 +54,30 @@ void takeSetting(const QString &text, QString &value)
         value = text;
 }
 
+void takeSetting(const QString &text, int &value)
+{
+    bool isNumber = false;
+    if (const int number = text.toInt(&isNumber); isNumber)
+        value = number;
+}
+
 void takeSetting(const QString &text, bool &value)
 {
     if (text == yes)
         value = true;
 }
 
+// Edges beyond all screens are no place; further out they could not be computed.
 void takeSetting(const QString &text, QRect &value)
 {
+    constexpr int furthest = 1'000'000;
     const QStringList parts = text.split(u' ');
     QList<int> numbers;
     bool ok = parts.size() == 4;
     for (const QString &part : parts) {
         bool isNumber = false;
         numbers << part.toInt(&isNumber);
-        ok = ok && isNumber;
+        ok = ok && isNumber && -furthest <= numbers.constLast() && numbers.constLast() <= furthest;
     }
     if (ok && numbers[2] > 0 && numbers[3] > 0)
         value = QRect(numbers[0], numbers[1], numbers[2], numbers[3]);

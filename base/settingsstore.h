@@ -19,12 +19,14 @@ inline constexpr QLatin1StringView fileServerMode{"F"};
 
 // Values as the texts that are kept. From a text that says nothing of the kind a value is left as it is.
 QString settingText(const QString &value);
+QString settingText(int value);
 QString settingText(bool value); // of false an empty one: its default is false
 QString settingText(const QRect &value);
 QString settingText(const QJsonObject &value);
 QString settingText(Engine::SessionType value);
 QString settingText(Engine::LinkType value);
 void takeSetting(const QString &text, QString &value);
+void takeSetting(const QString &text, int &value);
 void takeSetting(const QString &text, bool &value);
 void takeSetting(const QString &text, QRect &value);
 void takeSetting(const QString &text, QJsonObject &value);

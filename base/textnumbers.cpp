@@ -4,6 +4,7 @@
 #include "base/texts.h"
 #include "engine/values/linetext.h"
 
+#include <algorithm>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -46,6 +47,22 @@ double numberFromText(const QString &text, const RegionalSettings &settings, con
     if (!ok)
         refuse(QT_TRANSLATE_NOOP("Base", "'%1' is not a number"), text, column);
     return number + 0.0; // no minus sign at zero
+}
+
+QString numberAsTyped(const QString &shown, const RegionalSettings &settings)
+{
+    constexpr QChar minusSign = u'\u2212';
+    QString plain = shown.trimmed();
+    const bool isBelowZero = plain.startsWith(u'(') && plain.endsWith(u')');
+    if (isBelowZero)
+        plain = plain.mid(1, plain.size() - 2);
+    plain.removeIf([](QChar c) { return c.category() == QChar::Symbol_Currency; });
+    plain = plain.trimmed();
+    plain.replace(minusSign, u'-');
+    if (settings.groupSeparator.isSpace())
+        std::replace_if(
+            plain.begin(), plain.end(), [](QChar c) { return c.isSpace(); }, settings.groupSeparator);
+    return isBelowZero ? u'-' + plain : plain;
 }
 
 } // namespace Tallymere

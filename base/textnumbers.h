@@ -17,4 +17,8 @@ int integerFromText(const QString &text, const QString &column = {});
 double numberFromText(const QString &text, const RegionalSettings &settings = RegionalSettings::system(),
                       const QString &column = {});
 
+// A number as programs show one, as it would be typed: without a currency sign, with a minus instead of parentheses, and
+// with the user's group separator where any blank stands for one.
+QString numberAsTyped(const QString &shown, const RegionalSettings &settings = RegionalSettings::system());
+
 } // namespace Tallymere

@@ -1,7 +1,7 @@
 // Lists over a history of a million rows, and over a hundred thousand items and vendors: how long they take to open
 // against reading their ordered keys by a raw statement, to find a row, to show the last one and to jump; those of
 // items and vendors also to sort anew, to filter and to find by the typed beginning of the ordered column.
-// Usage: bench_lists [local|remote] [ROUNDS]
+// Usage: bench_lists [local|remote] [ROUNDS] [MILLIONS of history rows]
 
 #include "bench/benchdata.h"
 #include "engine/records/query.h"
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int HistoryRows = 1'000'000;
+constexpr int Million = 1'000'000;
 constexpr int MasterRows = 100'000;
 volatile double sink = 0; // what is read must be read
 
@@ -67,16 +67,16 @@ void measureList(Engine::DataSet &list, const std::function<void()> &find, Times
     list.close();
 }
 
-void measureHistory(Engine::Database &database, Times &times)
+void measureHistory(Engine::Database &database, int rows, Times &times)
 {
     times.keys.push_back(
         readKeys(database,
                  u"SELECT IHistID FROM IHist ORDER BY GLYear DESC, GLPeriod DESC, TransDate DESC, IHistID DESC"_s));
-    Engine::Table table(database, u"IHist"_s);
+    Engine::TableReader table(database, u"IHist"_s);
     table.setIndex(u"PERIODDATEDESC"_s);
     table.addLookup({u"ItemNo"_s, Engine::FieldType::Text, 20}, {u"ItemID"_s, u"Item"_s, u"ItemID"_s, u"ItemNo"_s});
     measureList(
-        table, [&table] { table.locate(u"ReceiptID"_s, {HistoryRows / 3}); }, times);
+        table, [&] { table.locate(u"ReceiptID"_s, {rows / 3}); }, times);
 }
 
 void measureTotals(Engine::Database &database, Times &times)
@@ -201,18 +201,19 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     const QString only = QCoreApplication::arguments().value(1);
     const int rounds = std::max(1, QCoreApplication::arguments().value(2, u"5"_s).toInt());
+    const int millions = std::max(1, QCoreApplication::arguments().value(3, u"1"_s).toInt());
     for (const Store store : {Store::Local, Store::Remote}) {
         if (!only.isEmpty() && only != QString::fromLatin1(storeName(store)).toLower())
             continue;
         BenchData::Size size;
-        size.history = HistoryRows;
+        size.history = millions * Million;
         const BenchData data(store, size);
         const auto copy = data.copy();
         Times history, totals;
         resetPeakMemory();
         const double before = currentMemory();
         for (int round = 0; round < rounds; ++round) {
-            measureHistory(copy->database(), history);
+            measureHistory(copy->database(), size.history, history);
             measureTotals(copy->database(), totals);
         }
         history.print(store, "history");

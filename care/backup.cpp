@@ -1,11 +1,14 @@
 #include "care/backup.h"
 
+#include "base/dataversion.h"
 #include "base/prompts.h"
 #include "base/ruleerror.h"
 #include "base/settingsstore.h"
-#include "base/stores.h"
+#include "care/fileinmaking.h"
 #include "care/tablecopy.h"
 #include "care/texts.h"
+#include "data/audit.h"
+#include "data/bookplace.h"
 #include "data/lastbackup.h"
 #include "data/layouts.h"
 #include "engine/store/dialect.h"
@@ -16,8 +19,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -27,55 +28,12 @@ namespace {
 
 QString shown(const QString &path) { return QDir::toNativeSeparators(path); }
 
-// A database in a file of a folder that goes with the object, as whatever happens nothing of it shall stay.
-class FileInMaking
+QString requireNew(const QString &file) // and its folder
 {
-public:
-    explicit FileInMaking(const QString &parent)
-        : m_folder(parent + u"/.copy-XXXXXX"_s)
-    {
-        if (!m_folder.isValid())
-            throw RuleError(
-                CareTexts::tr("Nothing can be written in %1: %2").arg(shown(parent), m_folder.errorString()));
-        m_session.type = Engine::SessionType::Local;
-        m_database.directory = m_folder.path();
-    }
-
-    QString path() const { return m_folder.filePath(databaseName + ".sqlite"_L1); }
-    Engine::Database &database() { return m_database; }
-
-    void fill(const QString &file)
-    {
-        if (!QFile::copy(file, path()))
-            throw RuleError(CareTexts::tr("%1 cannot be copied into %2. Is there room on the disk?")
-                                .arg(shown(file), shown(m_folder.path())));
-    }
-
-    // Its last name, which nothing else has.
-    void moveTo(const QString &file)
-    {
-        m_database.close();
-        // Who may read them is the folder's matter, within owner and group.
-        QFile::setPermissions(path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup);
-        if (!QFile::rename(path(), file))
-            throw RuleError(
-                CareTexts::tr("%1 could not be written: there is a file of this name by now.").arg(shown(file)));
-        Engine::syncFolder(QFileInfo(file).absolutePath());
-    }
-
-private:
-    QTemporaryDir m_folder;
-    Engine::Session m_session{u"copy"_s, bothStores()};
-    Engine::Database m_database{m_session, databaseName};
-};
-
-void requireRoom(const QString &folder, qint64 bytes)
-{
-    const qint64 room = QStorageInfo(folder).bytesAvailable();
-    constexpr qint64 mega = 1'000'000;
-    if (room >= 0 && room < bytes)
-        throw RuleError(CareTexts::tr("The disk of %1 has %2 MB left, and %3 MB are needed.")
-                            .arg(shown(folder), QString::number(room / mega), QString::number(bytes / mega + 1)));
+    const QFileInfo target(file);
+    if (target.exists() || target.isSymLink())
+        throw RuleError(CareTexts::tr("%1 exists already. Choose another name.").arg(shown(file)));
+    return target.absolutePath();
 }
 
 void requireSound(Engine::Database &copy, const QString &file, const std::function<void()> &step)
@@ -92,9 +50,21 @@ qint64 rowsIn(Engine::Connection &store, const QString &table)
     return row->intAt(0);
 }
 
+// How many steps a copy takes. A file tells one for as many bytes, a server for each so many rows of a table.
+int copySteps(Engine::Connection &source, Engine::SessionType type)
+{
+    constexpr qint64 bytesPerStep = qint64{2'000} * 4'096;
+    if (type == Engine::SessionType::Local)
+        return static_cast<int>(source.size() / bytesPerStep) + 1;
+    qint64 steps = 1;
+    for (const QString &table : source.tables())
+        steps += 2 * (rowsIn(source, table) / copiedRowsPerStep);
+    return static_cast<int>(steps);
+}
+
 void requireSameRows(Engine::Connection &moment, Engine::Connection &copy, const QString &file)
 {
-    for (const QString &table : moment.tables())
+    for (const QString &table : copy.tables())
         if (rowsIn(moment, table) != rowsIn(copy, table))
             throw RuleError(CareTexts::tr("%1 does not hold all of the table %2.").arg(shown(file), table));
 }
@@ -104,7 +74,8 @@ class OpenedBackup
 {
 public:
     OpenedBackup(const QString &file, const QString &folder, const std::function<void()> &step)
-        : m_copy(folder)
+        : m_file(file)
+        , m_copy(folder, QFileInfo(file).size())
     {
         m_copy.fill(file);
         try {
@@ -120,8 +91,21 @@ public:
 
     FileInMaking &copy() { return m_copy; }
 
+    // In the copy, before anybody else can see that. Of books that had moved away it is the restored that are worked with.
+    void leaveNote(const QString &user)
+    {
+        Engine::Database &books = m_copy.database();
+        takeBooksUp(books);
+        if (books.tableExists(u"History"_s))
+            Tallymere::leaveNote(books,
+                                 CareTexts::tr("Restored from the backup %1").arg(QFileInfo(m_file).fileName()),
+                                 books.session().today(), user);
+    }
+
     QStringList olderTables()
     {
+        if (const QString text = newerReleaseText(m_copy.database(), shown(m_file)); !text.isEmpty())
+            throw RuleError(text);
         QStringList older;
         for (const Engine::TableLayout *layout : Layouts::applied()) {
             const auto stored = m_copy.database().connection().describe(layout->name);
@@ -142,9 +126,11 @@ public:
 private:
     [[noreturn]] static void refuse(const QString &file)
     {
-        throw RuleError(CareTexts::tr("%1 is no backup of a database, or it is damaged.").arg(shown(file)));
+        throw RuleError(CareTexts::tr("%1 is no backup of a database, or it is damaged.").arg(shown(file)),
+                        RestoreColumn::File.toString());
     }
 
+    const QString m_file;
     FileInMaking m_copy;
 };
 
@@ -160,27 +146,48 @@ void tellOfBackup(Engine::Database &database)
 void requireFile(const QString &file)
 {
     if (!QFileInfo(file).isFile())
-        throw RuleError(CareTexts::tr("There is no file %1.").arg(shown(file)));
+        throw RuleError(CareTexts::tr("There is no file %1.").arg(shown(file)), RestoreColumn::File.toString());
+}
+
+QStringList copyInto(Engine::Database &database, const QString &file, const QString &user, Progress &progress)
+{
+    requireFile(file);
+    progress.start(0);
+    const auto step = [&progress] { progress.step(); };
+    OpenedBackup backup(file, QDir::tempPath(), step);
+    const QStringList older = backup.olderTables();
+    backup.leaveNote(user);
+    copyTables(backup.copy().database(), database, step);
+    progress.finish();
+    return older;
 }
 
 } // namespace
 
+void keepDamaged(Engine::Database &database, const QString &file, Progress &progress)
+{
+    const QString folder = requireNew(file);
+    Engine::Connection &source = database.connection();
+    FileInMaking copy(folder, source.size());
+    if (!source.copyTo(copy.path(), [&progress] { progress.step(); }))
+        throw RuleError(CareTexts::tr("Only a database in a folder can be kept as it stands."));
+    copy.moveTo(file);
+}
+
 void backUp(Engine::Database &database, const QString &file, Progress &progress)
 {
-    const QFileInfo target(file);
-    if (target.exists() || target.isSymLink())
-        throw RuleError(CareTexts::tr("%1 exists already. Choose another name.").arg(shown(file)));
-    const QString folder = target.absolutePath();
+    const QString folder = requireNew(file);
     progress.start(0);
     const auto step = [&progress] { progress.step(); };
     Engine::ReadMoment moment(database);
     Engine::Connection &source = moment.database().connection();
-    requireRoom(folder, source.size());
-    FileInMaking copy(folder);
+    FileInMaking copy(folder, source.size());
+    progress.start(copySteps(source, database.session().type));
     if (!source.copyTo(copy.path(), step)) {
         copy.database().createIfMissing = true;
         copyTables(moment.database(), copy.database(), step);
     }
+    progress.start(0);
     requireSound(copy.database(), file, step);
     requireSameRows(source, copy.database().connection(), file);
     moment.end();
@@ -189,33 +196,32 @@ void backUp(Engine::Database &database, const QString &file, Progress &progress)
     progress.finish();
 }
 
-QStringList restoreIntoFolder(const QString &file, const QString &folder, Progress &progress)
+QStringList restoreIntoFolder(const QString &file, const QString &folder, const QString &user, Progress &progress)
 {
     requireFile(file);
     const QString target = QDir(folder).filePath(databaseName + ".sqlite"_L1);
     for (const auto suffix : {""_L1, "-wal"_L1, "-journal"_L1})
         if (QFileInfo::exists(target + suffix))
-            throw RuleError(CareTexts::tr("%1 holds a database already.").arg(shown(folder)));
-    requireRoom(folder, QFileInfo(file).size());
+            throw RuleError(CareTexts::tr("%1 holds a database already.").arg(shown(folder)),
+                            RestoreColumn::Folder.toString());
     progress.start(0);
     OpenedBackup backup(file, folder, [&progress] { progress.step(); });
     const QStringList older = backup.olderTables();
+    backup.leaveNote(user);
     backup.copy().moveTo(target);
     progress.finish();
     return older;
 }
 
-QStringList restoreInto(Engine::Database &database, const QString &file, Progress &progress)
+QStringList restoreInto(Engine::Database &database, const QString &file, const QString &user, Progress &progress)
 {
-    requireFile(file);
-    requireRoom(QDir::tempPath(), QFileInfo(file).size());
-    progress.start(0);
-    const auto step = [&progress] { progress.step(); };
-    OpenedBackup backup(file, QDir::tempPath(), step);
-    const QStringList older = backup.olderTables();
-    copyTables(backup.copy().database(), database, step);
-    progress.finish();
-    return older;
+    try {
+        return copyInto(database, file, user, progress);
+    } catch (...) {
+        if (database.isOpen())
+            database.connection().unmake();
+        throw;
+    }
 }
 
 } // namespace Tallymere

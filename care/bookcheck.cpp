@@ -25,9 +25,12 @@ void tellUnreadable(const BookCheck &check, const Engine::EngineError &error, In
 {
     if (!isDamage(error))
         throw Engine::EngineError(error);
-    inspection.found({check.title, CareTexts::tr("This could not be checked to its end: %1").arg(error.text()),
+    inspection.found({check.title,
+                      CareTexts::tr("This could not be checked to its end: %1").arg(error.text()),
                       CareTexts::tr("What stands there is missing in all figures."),
-                      CareTexts::tr("Restore the last backup, or let a damaged table be mended.")});
+                      CareTexts::tr("Restore the last backup, or let a damaged table be mended."),
+                      {},
+                      error.code() == Engine::ErrorCode::Corrupt});
 }
 
 } // namespace
@@ -50,7 +53,12 @@ int checkBooks(Engine::Database &database, Progress &progress, const TellFinding
 {
     Engine::ReadMoment moment(database);
     const int found = checkHeldBooks(moment.database(), progress, tell);
-    moment.end();
+    try {
+        moment.end();
+    } catch (const Engine::EngineError &error) {
+        if (found == 0 || error.code() != Engine::ErrorCode::Corrupt)
+            throw; // else it has been told
+    }
     return found;
 }
 

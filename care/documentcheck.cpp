@@ -2,7 +2,6 @@
 #include "care/checks.h"
 #include "care/inspection.h"
 #include "care/texts.h"
-#include "data/layouts.h"
 #include "engine/store/database.h"
 #include "engine/store/dialect.h"
 #include "engine/store/sqlcondition.h"
@@ -55,20 +54,35 @@ private:
 
     QString title(qint64 key) const
     {
-        return u"%1, %2 %3"_s.arg(Layouts::titleOf(m_kind.headerTable), m_kind.keyField, QString::number(key));
+        return m_inspection.rowName(m_kind.headerTable, {m_kind.keyField}, {QString::number(key)});
     }
 
-    // Headers and lines side by side, both in the order of the key.
-    void compareSums()
+    struct Header
+    {
+        qint64 key;
+        bool isPosted;
+    };
+
+    std::vector<Header> headers()
     {
         const Engine::StatementPtr header = m_inspection.store().prepare(
             u"SELECT %1, Posted FROM %2 ORDER BY %1"_s.arg(m_kind.keyField, m_kind.headerTable));
+        std::vector<Header> all;
+        while (m_inspection.next(*header))
+            all.push_back({header->intAt(0), header->valueAt(1, Engine::FieldType::Boolean).toBool()});
+        return all;
+    }
+
+    // Headers and lines, both in the order of the key. Not side by side: of two statements under way a server's connection
+    // takes one into memory, and that would be all lines there are.
+    void compareSums()
+    {
+        const std::vector<Header> documents = headers();
         const Engine::StatementPtr line =
             m_inspection.store().prepare(u"SELECT L.%1, %2 FROM %3 ORDER BY L.%1"_s.arg(
                 m_kind.keyField, m_kind.posting.lineColumns, m_kind.posting.lines));
         bool more = m_inspection.next(*line);
-        while (m_inspection.next(*header)) {
-            const qint64 key = header->intAt(0);
+        for (const auto &[key, isPosted] : documents) {
             HistoryTally::Posted stocked;
             HistoryTally::Posted all;
             for (; more && line->intAt(0) <= key; more = m_inspection.next(*line)) {
@@ -79,7 +93,6 @@ private:
                 if (movement.isStocked)
                     add(movement, stocked);
             }
-            const bool isPosted = header->valueAt(1, Engine::FieldType::Boolean).toBool();
             const HistoryTally::Posted history = m_history.take(key);
             if (isPosted ? !isSame(history, stocked) && !isSame(history, all) : history.rows > 0)
                 m_suspects[key] = isPosted ? Suspect::Posted : Suspect::Unposted;
@@ -228,9 +241,15 @@ private:
     void findOrphans()
     {
         const Engine::StatementPtr row = m_inspection.store().prepare(
-            u"SELECT L.%1, COUNT(*) FROM %2 L LEFT OUTER JOIN %3 H ON H.%1 = L.%1 WHERE H.%1 IS NULL "
-            "GROUP BY L.%1 ORDER BY L.%1"_s.arg(m_kind.keyField, m_kind.lineTable, m_kind.headerTable));
+            u"SELECT L.%1, COUNT(*), MAX(B.SavedBy) FROM %2 L LEFT OUTER JOIN %3 H ON H.%1 = L.%1 "
+            "LEFT OUTER JOIN IBegun B ON B.DocumentID = L.%1 AND B.TransType = %4 WHERE H.%1 IS NULL "
+            "GROUP BY L.%1 ORDER BY L.%1"_s.arg(m_kind.keyField, m_kind.lineTable, m_kind.headerTable,
+                                                QString::number(static_cast<int>(m_kind.posting.transType))));
         while (m_inspection.next(*row)) {
+            if (!row->isNull(2)) {
+                tellBegun(*row);
+                continue;
+            }
             const auto takeOut = [&kind = m_kind, key = row->intAt(0)](Engine::Database &database) {
                 const Engine::StatementPtr remove = database.connection().prepare(
                     u"DELETE FROM %1 WHERE %2 = ?"_s.arg(kind.lineTable, kind.keyField));
@@ -240,9 +259,19 @@ private:
             m_inspection.found(
                 {title(row->intAt(0)),
                  CareTexts::tr("Its header is not there, and %1 lines of it are.").arg(row->intAt(1)),
-                 CareTexts::tr("They count nowhere. A document that somebody is entering just now looks the same."),
-                 CareTexts::tr("A repair takes them out."), takeOut});
+                 CareTexts::tr("They count nowhere."), CareTexts::tr("A repair takes them out."), takeOut});
         }
+    }
+
+    // Whose it is may want it.
+    void tellBegun(const Engine::Statement &row)
+    {
+        m_inspection.found(
+            {title(row.intAt(0)),
+             CareTexts::tr("%1 has begun it and not saved it, with %2 lines.").arg(row.textAt(2)).arg(row.intAt(1)),
+             CareTexts::tr("They count nowhere."),
+             CareTexts::tr("If nobody is entering it just now, %1 is asked about it with the next new document.")
+                 .arg(row.textAt(2))});
     }
 
     Inspection &m_inspection;

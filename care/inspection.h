@@ -28,6 +28,10 @@ public:
 
     QString itemName(qint64 item); // "Apples (A10)"; one that is gone: "Item with the key 17"
     QString locationName(qint64 location);
+    // A record, document or line as users know it, then its key: "Receipt 1004 (ReceiptID 10001), Seq 2". Of one that is gone,
+    // and of other
+    // tables, the key alone: "Receipts, ReceiptID 10001".
+    QString rowName(const QString &table, const QStringList &keyFields, const QStringList &key);
 
     // Of these items the history may lack rows or have some too many, so that nobody can say what is on hand.
     void doubt(qint64 item) { m_doubted.insert(item); }

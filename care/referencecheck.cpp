@@ -22,7 +22,7 @@ struct Reference
     QString effect;
 };
 
-void find(Inspection &inspection, const QString &title, const Reference &reference)
+void find(Inspection &inspection, const QString &table, const Reference &reference)
 {
     const QString keyField = reference.field.section(u'.', 1);
     QString sql = u"SELECT %1, %2 FROM %3 LEFT OUTER JOIN %4 R ON R.%5 = %2 WHERE R.%5 IS NULL AND %2 <> 0"_s.arg(
@@ -31,7 +31,7 @@ void find(Inspection &inspection, const QString &title, const Reference &referen
         sql += " AND "_L1 + reference.condition;
     const Engine::StatementPtr row = inspection.store().prepare(sql + " ORDER BY 1"_L1);
     while (inspection.next(*row))
-        inspection.found({u"%1, %2 %3"_s.arg(title, reference.key.section(u'.', 1), row->textAt(0)),
+        inspection.found({inspection.rowName(table, {reference.key.section(u'.', 1)}, {row->textAt(0)}),
                           CareTexts::tr("%1 is %2, which is gone from %3.")
                               .arg(keyField, row->textAt(1), Layouts::titleOf(reference.to)),
                           reference.effect, CareTexts::tr("Open it and choose another one.")});
@@ -39,18 +39,17 @@ void find(Inspection &inspection, const QString &title, const Reference &referen
 
 void checkKind(Inspection &inspection, const DocumentKind &kind)
 {
-    const QString title = Layouts::titleOf(kind.headerTable);
     const QString key = "H."_L1 + kind.keyField;
     const QString header = kind.headerTable + " H"_L1;
     const QString unposted = u"H.Posted = false"_s;
-    find(inspection, title,
+    find(inspection, kind.headerTable,
          {header, u"H.WarehouseID"_s, key, u"Warehse"_s, unposted,
           CareTexts::tr("Posted as it is, it moves the stock of a location that no list shows.")});
     for (const DocumentKind::NumberFor &number : kind.files.numbers)
-        find(inspection, title,
+        find(inspection, kind.headerTable,
              {header, "H."_L1 + number.field, key, number.table, unposted,
               CareTexts::tr("It cannot be converted by a rate, and is posted as it stands.")});
-    find(inspection, title,
+    find(inspection, kind.headerTable,
          {u"%1 H JOIN %2 L ON L.%3 = H.%3"_s.arg(kind.headerTable, kind.lineTable, kind.keyField), u"L.ItemID"_s,
           key, u"Item"_s, unposted,
           CareTexts::tr("Posted as it is, it moves the stock of an item that no list shows.")});
@@ -62,7 +61,7 @@ void checkReferences(Inspection &inspection)
 {
     for (const MasterKind *kind : MasterKinds::all())
         for (const MasterKind::Reference &reference : kind->record.references)
-            find(inspection, Layouts::titleOf(kind->table),
+            find(inspection, kind->table,
                  {kind->table + " M"_L1,
                   "M."_L1 + reference.field,
                   "M."_L1 + kind->keyField,

@@ -3,14 +3,13 @@
 #include "base/prompts.h"
 #include "base/ruleerror.h"
 #include "care/backup.h"
+#include "care/closedbooks.h"
 #include "care/texts.h"
 #include "data/audit.h"
 #include "data/layouts.h"
-#include "engine/records/table.h"
 #include "engine/store/database.h"
+#include "engine/store/indexdamage.h"
 #include "engine/store/session.h"
-#include "engine/store/tablelocks.h"
-#include "transactions/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,27 +17,30 @@ namespace Tallymere {
 
 namespace {
 
-// Nobody enters a document or posts one while it lives.
-class ClosedBooks
+// Before anything else, as no transaction writes any more that has met the damage. The database as it stood goes into the
+// file. Returns how many tables have been mended.
+int mendIndexes(Engine::Database &database, const QString &file, const QString &user, Progress &progress,
+                const TellFinding &tell)
 {
-public:
-    explicit ClosedBooks(Engine::Database &database)
-        : m_locks(database)
-    {
-        for (const DocumentKind *kind : DocumentKinds::all()) {
-            for (const QString &name : kind->keyTables()) {
-                Engine::Table &table = *m_tables.emplace_back(std::make_unique<Engine::Table>(database, name));
-                table.exclusive = true;
-                table.open();
-            }
-        }
-        m_locks.take(balanceLock().table);
+    progress.start(0);
+    const QStringList tables =
+        Engine::tablesWithDamagedIndexes(database.connection(), [&progress] { progress.step(); });
+    progress.finish();
+    if (tables.isEmpty())
+        return 0;
+    keepDamaged(database, file, progress);
+    for (const QString &table : tables)
+        database.repairTable(table);
+    for (const QString &table : tables) {
+        const QString title = Layouts::titleOf(table);
+        const QString what = CareTexts::tr("The indexes of the table were damaged, and have been built anew.");
+        leaveNote(database, CareTexts::tr("Repaired: %1: %2").arg(title, what), database.session().today(), user);
+        tell(bookChecks().first(),
+             {title, what, CareTexts::tr("Lists and reports may have lacked rows."),
+              CareTexts::tr("No row of it is lost."), [](Engine::Database &) {}});
     }
-
-private:
-    std::vector<std::unique_ptr<Engine::Table>> m_tables;
-    Engine::TableLocks m_locks;
-};
+    return static_cast<int>(tables.size());
+}
 
 class Repair
 {
@@ -99,18 +101,22 @@ RepairResult repairBooks(Engine::Database &database, const QString &backup, cons
                          const TellFinding &tell)
 {
     const ClosedBooks books(database);
+    const int tables = mendIndexes(database, backup, user, progress, tell);
     QList<std::pair<const BookCheck *, BookFinding>> found;
     checkBooks(database, progress, [&found](const BookCheck &check, BookFinding finding) {
         found.append({&check, std::move(finding)});
     });
-    if (std::ranges::none_of(found, [](const auto &one) { return bool(one.second.mend); })) {
+    const bool isDamaged = std::ranges::any_of(found, [](const auto &one) { return one.second.hidesRows; });
+    if (isDamaged || std::ranges::none_of(found, [](const auto &one) { return bool(one.second.mend); })) {
         for (auto &[check, finding] : found)
             tell(*check, std::move(finding));
-        return {0, static_cast<int>(found.size())};
+        return {tables, static_cast<int>(found.size())};
     }
-    backUp(database, backup, progress);
+    if (tables == 0)
+        backUp(database, backup, progress);
     RepairResult result;
     database.change([&] { result = Repair(database, user, progress).run(tell); });
+    result.mended += tables;
     return result;
 }
 

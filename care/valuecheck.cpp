@@ -105,8 +105,8 @@ void find(Inspection &inspection, const Engine::TableLayout &table, const QList<
     while (inspection.next(*row)) {
         QStringList key;
         for (int part = 0; part < keys.size(); ++part)
-            key << keys[part] + u' ' + row->textAt(static_cast<int>(faults.size()) + part);
-        const QString where = (QStringList(Layouts::titleOf(table.name)) + key).join(", "_L1);
+            key << row->textAt(static_cast<int>(faults.size()) + part);
+        const QString where = inspection.rowName(table.name, keys, key);
         for (int fault = 0; fault < faults.size(); ++fault)
             if (row->intAt(fault) == 1)
                 inspection.found({where, faults[fault].what, faults[fault].effect, faults[fault].remedy});

@@ -25,11 +25,13 @@ void runBackup(CommandContext &context)
 QStringList restored(CommandContext &context, const QString &file, Progress &progress)
 {
     if (const QString folder = requireFolder(context); !folder.isEmpty())
-        return restoreIntoFolder(file, folder, progress);
+        return restoreIntoFolder(file, folder, context.user(), progress);
     QStringList older;
     DataModuleOptions options;
     options.createDatabase = true;
-    options.prepareHost = [&](Engine::Database &database) { older = restoreInto(database, file, progress); };
+    options.prepareHost = [&](Engine::Database &database) {
+        older = restoreInto(database, file, context.user(), progress);
+    };
     context.openData(std::move(options));
     return older;
 }

@@ -3,6 +3,7 @@
 #include "care/repair.h"
 #include "cli/command.h"
 #include "cli/texts.h"
+#include "engine/store/platform.h"
 #include "engine/store/session.h"
 
 #include <QDir>
@@ -20,7 +21,7 @@ QString backupName(Engine::Database &database)
     const QString folder = database.session().type == Engine::SessionType::Local
         ? database.directory
         : QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-    QDir().mkpath(folder);
+    Engine::makeFolder(folder);
     return QDir(folder).filePath(
         u"before-repair-%1.sqlite"_s.arg(database.session().now().toString(u"yyyy-MM-dd-hhmmss"_s)));
 }

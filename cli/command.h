@@ -24,6 +24,8 @@ struct CommandContext
     // open.
     std::unique_ptr<TDataModuleTallymere> openData(DataModuleOptions options = {}) const;
 
+    QString user() const; // who does it
+
     // The option --retry: the time that patiently() and the prompts go on for begins.
     void beginRetrying() const;
     // Does the step, and does it again while another user's lock is in the way and the time is not over.
@@ -65,6 +67,7 @@ Command buyCommand();
 Command checkCommand();
 Command backupCommand();
 Command restoreCommand();
+Command copyCommand();
 Command manualCommand();
 
 } // namespace Tallymere::Cli

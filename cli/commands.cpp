@@ -13,12 +13,14 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere::Cli {
 
+QString CommandContext::user() const { return arguments.value(u"user"_s, Terminal::loginName()); }
+
 std::unique_ptr<TDataModuleTallymere> CommandContext::openData(DataModuleOptions options) const
 {
     if (arguments.has(u"data"_s))
         options.dataFolder = QDir(arguments.value(u"data"_s)).absolutePath();
     options.server = arguments.value(u"server"_s);
-    options.currentUser = arguments.value(u"user"_s, Terminal::loginName());
+    options.currentUser = user();
     return std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
 }
 
@@ -56,7 +58,7 @@ const QList<Command> &commands()
     static const QList<Command> all = {
         initCommand(),   sampleCommand(),  importCommand(), postCommand(),    countCommand(), syncCommand(),
         totalsCommand(), historyCommand(), listCommand(),   reportCommand(),  printCommand(), costCommand(),
-        buyCommand(),    checkCommand(),   backupCommand(), restoreCommand(), manualCommand()};
+        buyCommand(),    checkCommand(),   backupCommand(), restoreCommand(), copyCommand(),  manualCommand()};
     return all;
 }
 

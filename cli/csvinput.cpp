@@ -34,8 +34,10 @@ std::unique_ptr<QIODevice> openInput(const QString &fileName)
 void complainOfRows(Console &console, const QString &fileName, const ImportErrors &errors)
 {
     const std::vector<ImportErrors::Error> all = errors.inFileOrder();
+    const QString sheet = errors.sheet().isEmpty() ? QString() : Texts::tr("Sheet '%1': ").arg(errors.sheet());
     for (size_t i = 0; i < std::min(all.size(), mostErrorsShown); ++i)
-        console.complain(onOneLine(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), all[i].message)));
+        console.complain(
+            onOneLine(u"%1:%2: %3"_s.arg(fileName, QString::number(all[i].line), sheet + all[i].message)));
     if (all.size() > mostErrorsShown)
         console.complain(plural(static_cast<qint64>(all.size() - mostErrorsShown), Texts::tr("%1: %n more error"),
                                 Texts::tr("%1: %n more errors"))

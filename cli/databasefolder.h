@@ -11,6 +11,6 @@ QString requireFolder(const CommandContext &context);
 // Opens the database of the options or of the user's settings, making what is missing: the folder, the database,
 // the host's tables with their one configuration row, the inventory tables.
 std::unique_ptr<TDataModuleTallymere> openNewDatabase(const CommandContext &context, const QString &organization,
-                                                      QString postalFormat);
+                                                      const QString &postalFormat);
 
 } // namespace Tallymere::Cli

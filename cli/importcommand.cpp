@@ -24,6 +24,10 @@ void runImport(CommandContext &context)
     const QString fileName = context.arguments.words().at(2);
     const std::unique_ptr<QIODevice> file = openInput(fileName);
 
+    ImportChoice choice{.sheet = context.arguments.value(u"sheet"_s)};
+    for (const QString &name : context.arguments.value(u"except"_s).split(u',', Qt::SkipEmptyParts))
+        choice.leftOut.append(name.trimmed());
+
     context.beginRetrying();
     std::unique_ptr<TDataModuleTallymere> data;
     context.patiently([&] { data = context.openData(); });
@@ -31,7 +35,8 @@ void runImport(CommandContext &context)
     ImportResult result;
     context.patiently([&] {
         file->seek(0);
-        result = importFile(data->databaseTallymere(), *file, kind, context.arguments.has(u"yes"_s), progress);
+        result =
+            importFile(data->databaseTallymere(), *file, kind, context.arguments.has(u"yes"_s), progress, choice);
     });
     if (!result.errors.isEmpty()) {
         complainOfRows(context.console, fileName, result.errors);
@@ -48,17 +53,21 @@ Command importCommand()
 {
     Command command;
     command.name = u"import"_s;
-    command.words = u"KIND FILE.csv"_s;
+    command.words = u"KIND FILE"_s;
     command.fewestWords = command.mostWords = 2;
-    command.summary = Texts::tr("brings in a CSV file, all of it or nothing");
+    command.summary = Texts::tr("brings in a spreadsheet or a CSV file, all of it or nothing");
     command.details =
-        Texts::tr("KIND: %1\n\nThe header row holds field names. A number or name may stand for a key: ItemNo, "
+        Texts::tr("KIND: %1\n\nFILE is CSV, XLSX or ODS. The header row holds field names. A number or name may "
+                  "stand for a key: ItemNo, "
                   "VendorNo,\n"
                   "WarehouseName, TypeName, CurrencyName. The rows of a document are those with the same document\n"
                   "columns, one after the other. Numbers, dates and periods left empty are assigned.\n"
                   "Rows are refused by the rules of the screens, each as FILE:LINE: message.")
             .arg(namesOf(importKinds()));
-    command.options = {{u"yes"_s, {}, Texts::tr("answers yes where a screen would ask")}, retryOption()};
+    command.options = {{u"sheet"_s, Texts::tr("NAME"), Texts::tr("of a spreadsheet (default: the first one)")},
+                       {u"except"_s, Texts::tr("COLUMNS"), Texts::tr("leaves these columns of the file out: A,B")},
+                       {u"yes"_s, {}, Texts::tr("answers yes where a screen would ask")},
+                       retryOption()};
     command.run = runImport;
     return command;
 }

@@ -1,7 +1,6 @@
 #include "cli/command.h"
 #include "cli/databasefolder.h"
 #include "cli/texts.h"
-#include "host/tables/hosttables.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,3 @@
-#include "base/csvwriter.h"
 #include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/optionvalues.h"
@@ -14,17 +13,23 @@ namespace Tallymere::Cli {
 
 namespace {
 
-void writeRecord(CsvWriter &writer, const QStringList &fields)
+void writeTitles(RowWriter &writer, const QStringList &titles)
 {
-    for (const QString &field : fields)
+    for (const QString &title : titles)
+        writer.title(title);
+    writer.endRecord();
+}
+
+void writeRecord(RowWriter &writer, const QList<Engine::Value> &fields)
+{
+    for (const Engine::Value &field : fields)
         writer.field(field);
     writer.endRecord();
 }
 
-QString number(double value) { return Engine::Value(value).toText(); }
-QString number(const std::optional<Engine::Money> &amount)
+Engine::Value number(const std::optional<Engine::Money> &amount)
 {
-    return amount ? number(amount->toDouble()) : QString();
+    return amount ? Engine::Value(*amount) : Engine::Value();
 }
 
 void runCost(CommandContext &context)
@@ -33,17 +38,18 @@ void runCost(CommandContext &context)
     Engine::Database &database = data->databaseTallymere();
     const CostTrail trail = costTrail(database, itemOf(database, context.arguments.words().at(1)));
 
-    CsvWriter writer(context.console.longOutput());
-    writeRecord(writer,
-                {Fields::TransDate, Fields::TransDescription, Fields::WarehouseName, Fields::Quantity,
-                 Fields::UnitCost, u"OnHandBefore"_s, u"AverageBefore"_s, u"OnHandAfter"_s, u"AverageAfter"_s});
-    for (const CostStep &step : trail.steps)
-        writeRecord(writer,
-                    {Engine::Value(step.date).toText(), step.description, step.location, number(step.received),
-                     number(step.unitCost), number(step.onHandBefore), number(step.averageBefore),
-                     number(step.onHandAfter), number(step.averageAfter)});
-    writeRecord(writer, {{}, trail.verdict(), {}, {}, {}, {}, {}, {}, number(trail.stored)});
-    writer.flush();
+    writeTable(context, context.arguments.words().constLast(), [&](RowWriter &writer) {
+        writeTitles(writer,
+                    {Fields::TransDate, Fields::TransDescription, Fields::WarehouseName, Fields::Quantity,
+                     Fields::UnitCost, u"OnHandBefore"_s, u"AverageBefore"_s, u"OnHandAfter"_s, u"AverageAfter"_s});
+        for (const CostStep &step : trail.steps)
+            writeRecord(writer,
+                        {step.date, step.description, step.location, step.received, number(step.unitCost),
+                         step.onHandBefore, number(step.averageBefore), step.onHandAfter,
+                         number(step.averageAfter)});
+        writeRecord(writer, {{}, trail.verdict(), {}, {}, {}, {}, {}, {}, number(trail.stored)});
+        writer.flush();
+    });
 }
 
 void runBuy(CommandContext &context)
@@ -54,19 +60,20 @@ void runBuy(CommandContext &context)
         plan.weeks = weeks;
     if (const int cover = positive(context.arguments, u"cover"_s, mostWeeks))
         plan.cover = cover;
+    plan.alsoInStock = context.arguments.has(u"all"_s);
     const auto data = context.openData();
     plan.today = data->today();
 
-    CsvWriter writer(context.console.longOutput());
-    writeRecord(writer,
-                {Fields::VendorNo, Fields::VendorName, Fields::ItemNo, Fields::ItemDescription, u"UsePerWeek"_s,
-                 Fields::QtyOnHand, u"Unposted"_s, u"DaysLeft"_s, u"Proposed"_s, u"LastCost"_s});
-    for (const ItemToBuy &item : whatToBuy(data->databaseTallymere(), plan))
-        writeRecord(writer,
-                    {item.vendorNo, item.vendorName, item.itemNo, item.description, number(item.usePerWeek),
-                     number(item.onHand), number(item.unposted), number(item.daysLeft), number(item.proposed),
-                     number(item.lastCost)});
-    writer.flush();
+    writeTable(context, context.arguments.words().constLast(), [&](RowWriter &writer) {
+        writeTitles(writer,
+                    {Fields::VendorNo, Fields::VendorName, Fields::ItemNo, Fields::ItemDescription, u"UsePerWeek"_s,
+                     Fields::QtyOnHand, u"Unposted"_s, u"DaysLeft"_s, u"Proposed"_s, u"LastCost"_s});
+        for (const ItemToBuy &item : whatToBuy(data->databaseTallymere(), plan))
+            writeRecord(writer,
+                        {item.vendorNo, item.vendorName, item.itemNo, item.description, item.usePerWeek,
+                         item.onHand, item.unposted, item.daysLeft, item.proposed, number(item.lastCost)});
+        writer.flush();
+    });
 }
 
 } // namespace
@@ -82,7 +89,7 @@ Command costCommand()
         "Each receipt in the order of posting, with quantity and average cost before and after it. The last line\n"
         "bears the average cost that stands with the item, and says when that was set by hand. Figures that\n"
         "rest on a cost set by hand are left empty.");
-    command.options = {csvOption()};
+    command.options = csvOptions();
     command.run = runCost;
     return command;
 }
@@ -92,13 +99,15 @@ Command buyCommand()
     Command command;
     command.name = u"buy"_s;
     command.summary = Texts::tr("what to buy, by the vendor of the last receipt, as CSV");
-    command.details = Texts::tr(
-        "Items that have been used, with use per week, what is on hand, what waits to be posted, how many days\n"
-        "both last, and the quantity that makes them last as long as they shall.");
+    command.details =
+        Texts::tr("Items that have been used and do not last as long as they shall, with use per week, what is on "
+                  "hand, what\n"
+                  "waits to be posted, how many days both last, and the quantity that makes them last.");
     command.options = {{u"location"_s, Texts::tr("ID"), Texts::tr("for one location only")},
                        {u"weeks"_s, Texts::tr("N"), Texts::tr("use of the last N weeks (default 8)")},
                        {u"cover"_s, Texts::tr("N"), Texts::tr("the stock is to last N weeks (default 2)")},
-                       csvOption()};
+                       {u"all"_s, {}, Texts::tr("also items that last long enough")}};
+    command.options += csvOptions();
     command.run = runBuy;
     return command;
 }

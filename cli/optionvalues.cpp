@@ -2,6 +2,8 @@
 
 #include "base/formats.h"
 #include "base/ruleerror.h"
+#include "base/savedfile.h"
+#include "base/xlsxwriter.h"
 #include "cli/texts.h"
 #include "data/fields.h"
 #include "engine/records/tablereader.h"
@@ -46,7 +48,39 @@ std::optional<Period> periodOf(const Arguments &arguments)
     throw UsageError(Texts::tr("option '--year' takes a year of two or four digits"));
 }
 
-OptionSpec csvOption() { return {u"csv"_s, {}, Texts::tr("writes CSV, which is what is written anyway")}; }
+QList<OptionSpec> csvOptions()
+{
+    return {{u"csv"_s, {}, Texts::tr("writes CSV, which is what is written anyway")}, xlsxOption(), defuseOption()};
+}
+
+OptionSpec xlsxOption()
+{
+    return {u"xlsx"_s, Texts::tr("FILE"), Texts::tr("writes a sheet (XLSX) to a file in place of CSV")};
+}
+
+void writeTable(CommandContext &context, const QString &title, const std::function<void(RowWriter &)> &write)
+{
+    if (!context.arguments.has(u"xlsx"_s)) {
+        CsvWriter writer(context.console.longOutput(), csvTexts(context.arguments));
+        return write(writer);
+    }
+    if (context.arguments.has(u"csv"_s))
+        throw UsageError(Texts::tr("--csv and --xlsx exclude each other"));
+    saveFile(context.arguments.value(u"xlsx"_s), [&](QIODevice &file) {
+        XlsxWriter writer(file, title);
+        write(writer);
+    });
+}
+
+OptionSpec defuseOption()
+{
+    return {u"defuse"_s, {}, Texts::tr("puts an apostrophe before texts that a spreadsheet takes for formulas")};
+}
+
+CsvTexts csvTexts(const Arguments &arguments)
+{
+    return arguments.has(u"defuse"_s) ? CsvTexts::Defused : CsvTexts::AsStored;
+}
 
 QList<OptionSpec> periodOptions(const QString &meaning)
 {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "base/csvwriter.h"
 #include "cli/arguments.h"
+#include "cli/command.h"
 #include "data/fiscalperiod.h"
 
+#include <functional>
 #include <optional>
 #include <QDate>
 
@@ -22,7 +25,12 @@ std::optional<Period> periodOf(const Arguments &arguments);
 
 int itemOf(Engine::Database &database, const QString &number); // its key. Throws RuleError when there is none
 
-OptionSpec csvOption();
+QList<OptionSpec> csvOptions(); // with --xlsx
+OptionSpec xlsxOption();
+// Has a table written where the options want it: as CSV to standard output, or as a sheet to the file of --xlsx.
+void writeTable(CommandContext &context, const QString &title, const std::function<void(RowWriter &)> &write);
+OptionSpec defuseOption();
+CsvTexts csvTexts(const Arguments &arguments);
 QList<OptionSpec> periodOptions(const QString &meaning);
 
 } // namespace Tallymere::Cli

@@ -97,6 +97,7 @@ bool isRefusal(Engine::ErrorCode code)
     case Engine::ErrorCode::RecordGone:
     case Engine::ErrorCode::RecordChanged:
     case Engine::ErrorCode::Busy:
+    case Engine::ErrorCode::MovedAway:
         return true;
     default:
         return false;
@@ -127,6 +128,8 @@ ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore 
         return ExitStatus::Refused; // what there is to say has been said
     } catch (const Engine::EngineError &error) {
         console.error(error.text());
+        if (error.code() == Engine::ErrorCode::CannotOpen)
+            console.complain(Texts::tr("'tallymere init' makes a new database."));
         return isRefusal(error.code()) ? ExitStatus::Refused : ExitStatus::EngineFailed;
     } catch (const std::exception &error) {
         console.error(QString::fromUtf8(error.what()));

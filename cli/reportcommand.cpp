@@ -59,6 +59,7 @@ void refuseUntaken(const Arguments &arguments, const ReportDescription &report)
     refuse(report.parameters.day, u"as-of"_s);
     refuse(report.parameters.buying, u"weeks"_s);
     refuse(report.parameters.buying, u"cover"_s);
+    refuse(report.parameters.buying, u"all"_s);
 }
 
 // What the form to count on has to choose from.
@@ -117,7 +118,8 @@ ReportSelection selectionOf(const Arguments &arguments, const ReportDescription 
             .year = period.year,
             .day = day,
             .weeksOfUse = positive(arguments, u"weeks"_s, mostWeeks),
-            .weeksOfCover = positive(arguments, u"cover"_s, mostWeeks)};
+            .weeksOfCover = positive(arguments, u"cover"_s, mostWeeks),
+            .alsoInStock = arguments.has(u"all"_s)};
 }
 
 // A report on periods begins with the default one of the organization unless another is named.
@@ -198,8 +200,10 @@ void runReportCommand(CommandContext &context)
 {
     const ReportDescription report = wantedReport(context.arguments);
     ReportSelection selection = selectionOf(context.arguments, report);
-    if (context.arguments.has(u"csv"_s) && context.arguments.has(u"pdf"_s))
-        throw UsageError(Texts::tr("--csv and --pdf exclude each other"));
+    for (const auto &other : {u"csv"_s, u"xlsx"_s}) {
+        if (context.arguments.has(other) && context.arguments.has(u"pdf"_s))
+            throw UsageError(Texts::tr("--%1 and --pdf exclude each other").arg(other));
+    }
     if (context.arguments.has(u"pdf"_s))
         return writePdf(context, report, selection);
     if (context.arguments.has(u"paper"_s))
@@ -208,7 +212,8 @@ void runReportCommand(CommandContext &context)
     completeSelection(*data, context.arguments, report, selection);
     ConsoleProgress progress(context.console, Texts::tr("Writing"));
     const Printing::Report made = makeReport(*data, report, selection, &progress);
-    Printing::writeReportCsv(made.layout, *made.rows, context.console.longOutput(), progress);
+    writeTable(context, made.layout.title,
+               [&](RowWriter &writer) { Printing::writeReportRows(made.layout, *made.rows, writer, progress); });
 }
 
 void runPrintCommand(CommandContext &context)
@@ -236,7 +241,8 @@ QList<OptionSpec> selectionOptions()
                              {u"item"_s, Texts::tr("ITEMNO"), Texts::tr("why this cost: of this item")},
                              {u"as-of"_s, Texts::tr("DATE"), Texts::tr("stock as of: at the end of a day")},
                              {u"weeks"_s, Texts::tr("N"), Texts::tr("what to buy: use of the last N weeks")},
-                             {u"cover"_s, Texts::tr("N"), Texts::tr("what to buy: to last N weeks")}}
+                             {u"cover"_s, Texts::tr("N"), Texts::tr("what to buy: to last N weeks")},
+                             {u"all"_s, {}, Texts::tr("what to buy: also items that last long enough")}}
     + periodOptions(Texts::tr("from this fiscal period on (default: the organization's)"));
 }
 
@@ -265,8 +271,10 @@ Command reportLikeCommand(const QString &name, const QString &summary, const QLi
 Command reportCommand()
 {
     Command command =
-        reportLikeCommand(u"report"_s, Texts::tr("a report as CSV, or as pages in a PDF file"),
+        reportLikeCommand(u"report"_s, Texts::tr("a report as CSV, as a sheet, or as pages in a PDF file"),
                           {{u"csv"_s, {}, Texts::tr("writes CSV to standard output, as it does without --pdf")},
+                           xlsxOption(),
+                           defuseOption(),
                            {u"pdf"_s, Texts::tr("FILE"), Texts::tr("writes the pages to a PDF file")},
                            paperOption()});
     command.run = runReportCommand;

@@ -1,7 +1,5 @@
 #include "cli/terminal.h"
 
-#include <cerrno>
-#include <cstring>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -16,7 +14,5 @@ QString loginName()
     const passwd *account = getpwuid(geteuid());
     return account ? QString::fromLocal8Bit(account->pw_name) : QString();
 }
-
-QString lastSystemError() { return QString::fromLocal8Bit(std::strerror(errno)); }
 
 } // namespace Tallymere::Cli::Terminal

@@ -3,6 +3,7 @@
 #include "cli/command.h"
 #include "cli/optionvalues.h"
 #include "cli/texts.h"
+#include "data/auditview.h"
 #include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/records/table.h"
@@ -33,14 +34,15 @@ QStringList fieldNames(const Engine::TableLayout &layout)
 }
 
 // The rows that --filter leaves. A bad expression throws EngineError, BadExpression.
-template <typename Columns> void writeRows(CommandContext &context, Engine::DataSet &rows, const Columns &columns)
+void writeRows(CommandContext &context, Engine::DataSet &rows, const QList<GridColumn> &columns)
 {
     if (const QString filter = context.arguments.value(u"filter"_s); !filter.isEmpty()) {
         rows.setFilter(filter);
         rows.setFiltered(true);
     }
     ConsoleProgress progress(context.console, Texts::tr("Writing"));
-    writeCsvList(rows, columns, context.console.longOutput(), progress);
+    writeTable(context, context.arguments.words().constLast(),
+               [&](RowWriter &writer) { writeList(rows, columns, writer, progress); });
 }
 
 using TotalsSort = TotalsView::Sort;
@@ -100,15 +102,17 @@ void runHistory(CommandContext &context)
     HistoryView view(data->databaseTallymere());
     view.open();
     writeRows(context, view.table(),
-              fieldNames(Layouts::iHist())
-                  + QStringList{u"Periodppyyyy"_s, Fields::ItemNo, Fields::ItemDescription, Fields::WarehouseName,
-                                u"TransTypeName"_s});
+              columnsOf(fieldNames(Layouts::iHist())
+                        + QStringList{u"Periodppyyyy"_s, Fields::ItemNo, Fields::ItemDescription,
+                                      Fields::WarehouseName, u"TransTypeName"_s}));
 }
+
+const auto auditKind = u"audit"_s;
 
 struct ListKind
 {
     QString name;
-    const Engine::TableLayout *layout;
+    const Engine::TableLayout *layout; // null: of no table of this system's
     QString index; // the order in which its screen opens
 };
 
@@ -122,6 +126,7 @@ const QList<ListKind> &listKinds()
         for (const DocumentKind *document : DocumentKinds::all())
             all.append(
                 {document->name, Layouts::find(document->headerTable), document->list.orders.constFirst().index});
+        all.append({auditKind, nullptr, {}});
         return all;
     }();
     return kinds;
@@ -134,14 +139,27 @@ const ListKind &requireListKind(const QString &name)
     throw UsageError(Texts::tr("'list' knows no '%1', but: %2").arg(name, namesOf(listKinds())));
 }
 
+void writeAudit(CommandContext &context, Engine::Database &database)
+{
+    AuditView view(database);
+    view.open();
+    QStringList fields;
+    for (const QStringView field :
+         {AuditView::Day, AuditView::Time, AuditView::What, AuditView::Who, AuditView::Concerned})
+        fields.append(field.toString());
+    writeRows(context, view.query(), columnsOf(fields));
+}
+
 void runList(CommandContext &context)
 {
     const ListKind &kind = requireListKind(context.arguments.words().at(1));
     const auto data = context.openData();
+    if (kind.name == auditKind)
+        return writeAudit(context, data->databaseTallymere());
     Engine::TableReader table(data->databaseTallymere(), kind.layout->name);
     table.setIndex(kind.index);
     table.open();
-    writeRows(context, table, fieldNames(*kind.layout));
+    writeRows(context, table, columnsOf(fieldNames(*kind.layout)));
 }
 
 } // namespace
@@ -151,10 +169,10 @@ Command totalsCommand()
     Command command;
     command.name = u"totals"_s;
     command.summary = Texts::tr("the quantity on hand of every item at every location, as CSV");
-    command.options = {csvOption(),
-                       filterOption(),
-                       {u"sort"_s, Texts::tr("ORDER"), Texts::tr("item (by number, the default) or description")},
-                       {u"as-of"_s, Texts::tr("DATE"), Texts::tr("as it was at the end of a day, YYYY-MM-DD")}};
+    command.options = csvOptions();
+    command.options += {filterOption(),
+                        {u"sort"_s, Texts::tr("ORDER"), Texts::tr("item (by number, the default) or description")},
+                        {u"as-of"_s, Texts::tr("DATE"), Texts::tr("as it was at the end of a day, YYYY-MM-DD")}};
     command.options += periodOptions(Texts::tr("as it was at the end of a fiscal period"));
     command.run = runTotals;
     return command;
@@ -165,7 +183,7 @@ Command historyCommand()
     Command command;
     command.name = u"history"_s;
     command.summary = Texts::tr("every movement of stock, latest period first, as CSV");
-    command.options = {csvOption(), filterOption()};
+    command.options = csvOptions() << filterOption();
     command.run = runHistory;
     return command;
 }
@@ -178,7 +196,7 @@ Command listCommand()
     command.fewestWords = command.mostWords = 1;
     command.summary = Texts::tr("a list of master records or documents as CSV, all fields");
     command.details = Texts::tr("KIND: %1").arg(namesOf(listKinds()));
-    command.options = {csvOption(), filterOption()};
+    command.options = csvOptions() << filterOption();
     command.run = runList;
     return command;
 }

@@ -52,6 +52,9 @@ set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1 -DNDEBUG")
 # scripts/unused asks the linker which functions nothing calls.
 add_compile_options($<$<CONFIG:Debug>:-ffunction-sections>)
 
+# Resources without the times of their files, for qt_add_resources: the same sources give the same bytes.
+set(timeless OPTIONS --format-version 1)
+
 # Precompiled headers are made once for all rooms without widgets, once for all with, and likewise for the tests of
 # both. tallymere_headers(NAME LINK ... HEADERS ...) makes one; what takes it is compiled with the same options.
 set(core_headers <algorithm> <functional> <memory> <optional> <utility> <vector>

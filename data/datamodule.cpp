@@ -1,6 +1,7 @@
 #include "data/datamodule.h"
 
 #include "base/connectiondecision.h"
+#include "base/dataversion.h"
 #include "base/stores.h"
 #include "base/trace.h"
 #include "data/layouts.h"
@@ -138,7 +139,17 @@ void TDataModuleTallymere::awaitOtherStart(Engine::TableLocks &locks) const
     }
 }
 
-void TDataModuleTallymere::start()
+// What an older release has left is not brought up to date any more, and might lack a table.
+void TDataModuleTallymere::tellMoved()
+{
+    const QString text = m_moved->text(m_database.connection().location());
+    for (const Engine::TableLayout *layout : Layouts::applied())
+        if (!m_database.tableExists(layout->name))
+            Engine::raise(Engine::ErrorCode::MovedAway, text);
+    m_prompts.warn(text);
+}
+
+void TDataModuleTallymere::prepareTables()
 {
     const QHash<QString, std::function<void()>> seeds{
         {u"Company"_s, [&] { Seeds::refreshOrganization(m_database, m_config, today()); }},
@@ -146,19 +157,30 @@ void TDataModuleTallymere::start()
         {u"Bank"_s, [&] { Seeds::firstBank(m_database); }},
         {u"Currency"_s, [&] { Seeds::firstCurrency(m_database, m_config, m_options.locale); }},
     };
-
-    openReportParameters();
-    Engine::TableLocks locks(m_database);
-    awaitOtherStart(locks);
-    if (m_options.prepareHost)
-        m_options.prepareHost(m_database);
-    requireHost();
-    m_config.open();
     for (const Engine::TableLayout *layout : Layouts::applied()) {
         m_database.createOrUpdateTable(*layout);
         if (const auto seed = seeds.find(layout->name); seed != seeds.end())
             seed.value()();
     }
+    rememberDataVersion(m_database);
+}
+
+void TDataModuleTallymere::start()
+{
+    openReportParameters();
+    Engine::TableLocks locks(m_database);
+    awaitOtherStart(locks);
+    requireKnownData(m_database); // whoever was waited for may have been a newer release
+    requireWholeBooks(m_database);
+    m_moved = movedBooks(m_database);
+    if (m_options.prepareHost)
+        m_options.prepareHost(m_database);
+    requireHost();
+    m_config.open();
+    if (m_moved)
+        tellMoved();
+    else
+        prepareTables();
     m_company.open();
     m_hist.open();
     m_balance.open();

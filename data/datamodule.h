@@ -2,6 +2,7 @@
 
 #include "base/prompts.h"
 #include "base/settingsstore.h"
+#include "data/bookplace.h"
 #include "data/tableowner.h"
 #include "engine/records/table.h"
 #include "engine/store/database.h"
@@ -39,7 +40,8 @@ struct DataModuleOptions
 // Constructing it connects, brings every inventory table up to its layout, refreshes the organization from the
 // host's configuration and seeds the first location, bank and currency. A second start with nothing to change
 // writes nothing. Throws EngineError when the database cannot be reached, when a table that must change is in use,
-// and when the database is not one of the host (table "Config" is missing: nothing has been created then).
+// when the database is not one of the host (table "Config" is missing: nothing has been created then),
+// and when a newer release has changed its tables (base/dataversion.h: nothing has been written then).
 // Some of its sessions and tables have no user yet; they are what screens of applications ask the module for.
 class TDataModuleTallymere final : public TableOwner
 {
@@ -71,6 +73,9 @@ public:
 
     bool quickReportA4() const { return m_quickReportA4; } // reports are made for A4 paper, else for Letter
 
+    // Where the books have gone, if they have; then nothing is brought up to date, and nothing can be written.
+    const std::optional<MovedBooks> &moved() const { return m_moved; }
+
     const QString &cMode() const { return m_mode; } // "C" for client/server; anything else is file server
     const QString &currentUser() const { return m_currentUser; }
     void setCurrentUser(const QString &user);
@@ -83,6 +88,8 @@ private:
     void beforeConnect(Engine::Database &database);
     void openReportParameters();
     void requireHost();
+    void prepareTables();
+    void tellMoved();
     void prepareReportPrinting();
 
     SettingsStore &m_settings;
@@ -91,6 +98,7 @@ private:
     QString m_mode;
     QString m_currentUser;
     bool m_quickReportA4 = false;
+    std::optional<MovedBooks> m_moved;
 
     Engine::Session m_session;
     Engine::Database m_database;

@@ -24,6 +24,10 @@ inline constexpr Engine::FieldName<Boolean> Suspended{u"Suspended"};
 inline constexpr Engine::FieldName<Memo> Notes{u"Notes"};
 inline constexpr Engine::FieldName<Integer> ItemTypeID{u"ItemTypeID"};
 
+// IBarcode
+inline constexpr Engine::FieldName<Integer> BarcodeID{u"BarcodeID"};
+inline constexpr Engine::FieldName<Text> Barcode{u"Barcode"};
+
 // ItemType
 inline constexpr Engine::FieldName<Text> TypeName{u"TypeName"};
 inline constexpr Engine::FieldName<Boolean> Inventory{u"Inventory"};
@@ -211,6 +215,11 @@ inline constexpr Engine::FieldName<Date> CountDate{u"CountDate"};
 
 // IBackup
 inline constexpr Engine::FieldName<Integer> BackupID{u"BackupID"};
+
+// IDataVersion
+inline constexpr Engine::FieldName<Integer> VersionID{u"VersionID"};
+inline constexpr Engine::FieldName<Integer> DataVersion{u"DataVersion"};
+inline constexpr Engine::FieldName<Text> ProgramVersion{u"ProgramVersion"};
 
 // MemTableARReportParameters
 inline constexpr Engine::FieldName<Date> Delivery_Date{u"Delivery_Date"};

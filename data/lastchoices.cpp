@@ -29,10 +29,9 @@ Choices LastChoices::read() const
     return m_settings ? Choices(m_settings->value(m_screen, setting())) : Choices();
 }
 
-void LastChoices::keep(const Choices &choices) const
+bool LastChoices::keep(const Choices &choices) const
 {
-    if (m_settings)
-        m_settings->setValue(m_screen, setting(), choices.m_values);
+    return m_settings && m_settings->setValue(m_screen, setting(), choices.m_values);
 }
 
 } // namespace Tallymere

@@ -2,6 +2,7 @@
 
 #include "base/settings.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
 
@@ -30,6 +31,8 @@ public:
     {
         m_values.insert(setting.name, value);
     }
+    QJsonArray list(const ListSetting &setting) const { return m_values[setting.name].toArray(); }
+    void setList(const ListSetting &setting, const QJsonArray &values) { m_values.insert(setting.name, values); }
 
 private:
     friend class LastChoices;
@@ -42,7 +45,7 @@ private:
 };
 
 // What a user chose last on a screen, to be offered again: kept for each user and each database, as keys mean something
-// else in another one. What cannot be written is forgotten.
+// else in another one.
 class LastChoices
 {
 public:
@@ -50,7 +53,7 @@ public:
     LastChoices(QStringView screen, TDataModuleTallymere &data, SettingsStore *settings);
 
     Choices read() const; // the defaults when nothing is kept
-    void keep(const Choices &choices) const;
+    bool keep(const Choices &choices) const; // false: it could not be written, and is forgotten
 
 private:
     ScreenSetting<QJsonObject> setting() const { return {m_owner}; }

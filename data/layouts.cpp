@@ -28,10 +28,10 @@ const TableLayout &reportParameters()
 const QList<const TableLayout *> &applied()
 {
     static const QList<const TableLayout *> tables{
-        &item(),     &itemCtl(),  &itemType(),  &company(),  &tax(),       &salesman(), &iAdjDet(),
-        &iAdjust(),  &iHist(),    &iRecDet(),   &iReceipt(), &iBalance(),  &warehse(),  &vendor(),
-        &vBalance(), &vContact(), &vendCtl(),   &iUsage(),   &iUsageDet(), &arInvCtl(), &bank(),
-        &currency(), &glAccnt(),  &iDocSaved(), &iCounted(), &iBackup(),
+        &item(),     &itemCtl(), &itemType(),  &company(),  &tax(),          &salesman(), &iAdjDet(),  &iAdjust(),
+        &iHist(),    &iRecDet(), &iReceipt(),  &iBalance(), &warehse(),      &vendor(),   &vBalance(), &vContact(),
+        &vendCtl(),  &iUsage(),  &iUsageDet(), &arInvCtl(), &bank(),         &currency(), &glAccnt(),  &iDocSaved(),
+        &iCounted(), &iBackup(), &iBegun(),    &iBarcode(), &iDataVersion(),
     };
     return tables;
 }
@@ -74,6 +74,9 @@ QString titleOf(const QString &table)
         {"IDocSaved", QT_TRANSLATE_NOOP("Data", "Saved Documents")},
         {"ICounted", QT_TRANSLATE_NOOP("Data", "Counted Items")},
         {"IBackup", QT_TRANSLATE_NOOP("Data", "Backups")},
+        {"IBegun", QT_TRANSLATE_NOOP("Data", "Begun Documents")},
+        {"IBarcode", QT_TRANSLATE_NOOP("Data", "Barcodes")},
+        {"IDataVersion", QT_TRANSLATE_NOOP("Data", "Data Version")},
     };
     for (const auto &[name, title] : titles) {
         if (table.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0)

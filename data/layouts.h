@@ -32,9 +32,14 @@ const Engine::TableLayout &arInvCtl(); // counters: one row, no key
 const Engine::TableLayout &bank();
 const Engine::TableLayout &currency();
 const Engine::TableLayout &glAccnt();
+const Engine::TableLayout &iBarcode(); // further codes of items, as makers print them
 const Engine::TableLayout &iDocSaved(); // who has saved a document last, by its type in the history and its key
 const Engine::TableLayout &iCounted(); // when an item has been counted last at a location
 const Engine::TableLayout &iBackup(); // when the last backup was made, and by whom: one row
+const Engine::TableLayout &
+iDataVersion(); // which release has brought the tables up to date (base/dataversion): one row
+const Engine::TableLayout &
+iBegun(); // new documents whose header is not stored yet: who enters them, and what it holds
 
 // The host's table of usage lines: described here, never created or altered.
 const Engine::TableLayout &usage();

@@ -229,6 +229,24 @@ const TableLayout &iBalance()
     return layout;
 }
 
+const TableLayout &iBegun()
+{
+    static const TableLayout layout{
+        u"IBegun"_s,
+        {
+            Fields::TransType,
+            Fields::DocumentID,
+            Fields::SavedBy.sized(50),
+            Fields::SavedAt,
+            Fields::Notes,
+        },
+        {
+            {{}, u"TransType;DocumentID"_s, Primary},
+        },
+    };
+    return layout;
+}
+
 const TableLayout &iDocSaved()
 {
     static const TableLayout layout{
@@ -273,6 +291,22 @@ const TableLayout &iBackup()
         },
         {
             {{}, u"BackupID"_s, Primary},
+        },
+    };
+    return layout;
+}
+
+const TableLayout &iDataVersion()
+{
+    static const TableLayout layout{
+        u"IDataVersion"_s,
+        {
+            Fields::VersionID,
+            Fields::DataVersion,
+            Fields::ProgramVersion.sized(20),
+        },
+        {
+            {{}, u"VersionID"_s, Primary},
         },
     };
     return layout;

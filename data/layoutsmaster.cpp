@@ -41,6 +41,24 @@ const TableLayout &item()
     return layout;
 }
 
+const TableLayout &iBarcode()
+{
+    static const TableLayout layout{
+        u"IBarcode"_s,
+        {
+            Fields::BarcodeID,
+            Fields::ItemID,
+            Fields::Barcode.sized(80),
+        },
+        {
+            {{}, Fields::BarcodeID, Primary},
+            {u"ITEMID"_s, Fields::ItemID},
+            {u"BARCODE"_s, Fields::Barcode},
+        },
+    };
+    return layout;
+}
+
 const TableLayout &itemType()
 {
     static const TableLayout layout{

@@ -154,14 +154,32 @@ bool NameIndex::readOn(qint64 milliseconds)
     return !more || !m_complete;
 }
 
+// The columns that are read, the key first.
+QString NameIndex::columns() const
+{
+    const Engine::Dialect &dialect = m_database.connection().dialect();
+    const QString number = m_source.numberField.isEmpty() ? u"NULL"_s : dialect.name(m_source.numberField);
+    return u"%1, %2, %3"_s.arg(dialect.name(m_source.keyField), number, dialect.name(m_source.nameField));
+}
+
+std::optional<NameIndex::Found> NameIndex::lookUp(qint64 key) const
+{
+    const Engine::Dialect &dialect = m_database.connection().dialect();
+    const Engine::StatementPtr row = m_database.connection().prepare(u"SELECT %1 FROM %2 WHERE %3 = ?"_s.arg(
+        columns(), dialect.name(m_source.table), dialect.name(m_source.keyField)));
+    row->bindInt(0, key);
+    if (!row->next())
+        return std::nullopt;
+    return Found{.key = row->intAt(0), .number = row->textAt(1), .name = row->textAt(2)};
+}
+
 // By ranges of keys: no statement stays open while the user goes on.
 bool NameIndex::readSome()
 {
     const Engine::Dialect &dialect = m_database.connection().dialect();
-    const QString number = m_source.numberField.isEmpty() ? u"NULL"_s : dialect.name(m_source.numberField);
     const Engine::StatementPtr rows =
-        m_database.connection().prepare(u"SELECT %1, %2, %3 FROM %4 WHERE %1 > ? ORDER BY %1 LIMIT %5"_s.arg(
-            dialect.name(m_source.keyField), number, dialect.name(m_source.nameField), dialect.name(m_source.table),
+        m_database.connection().prepare(u"SELECT %1 FROM %2 WHERE %3 > ? ORDER BY %3 LIMIT %4"_s.arg(
+            columns(), dialect.name(m_source.table), dialect.name(m_source.keyField),
             QString::number(rowsOfAStep)));
     rows->bindInt(0, m_lastKey);
     int count = 0;

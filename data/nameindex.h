@@ -2,6 +2,7 @@
 
 #include "base/textmatch.h"
 
+#include <optional>
 #include <QList>
 #include <QString>
 #include <vector>
@@ -46,6 +47,7 @@ public:
     };
     // The best answers, the best first and otherwise by number.
     QList<Found> find(const TextMatch &what, int most) const;
+    std::optional<Found> lookUp(qint64 key) const; // in the table as it is now, read or not
 
 private:
     // The records one after the other: plain and as stored, number, a tab, name and a line break each.
@@ -66,6 +68,7 @@ private:
         QStringView name;
     };
     static Parts partsOf(const QString &texts, const std::vector<qsizetype> &starts, size_t record);
+    QString columns() const;
     bool readSome(); // false at the end
 
     Engine::Database &m_database;

@@ -4,6 +4,7 @@
 #include "data/texts.h"
 #include "engine/records/query.h"
 #include "engine/store/attempts.h"
+#include "engine/store/batchedrun.h"
 #include "engine/store/session.h"
 #include "engine/values/error.h"
 
@@ -65,6 +66,32 @@ qint64 firstFree(Engine::Database &database, qint64 key, const QString &keyField
     return key;
 }
 
+// The next key from one on that a row has; 0: there is none.
+qint64 nextUsed(Engine::Database &database, qint64 key, const QString &keyField, const QStringList &tables)
+{
+    qint64 next = 0;
+    for (const QString &table : tables) {
+        const qint64 used =
+            Engine::singleValue(database, u"SELECT MIN(%1) FROM %2 WHERE %1 >= ?"_s.arg(keyField, table), {key})
+                .toInt64();
+        next = used > 0 && (next == 0 || used < next) ? used : next;
+    }
+    return next;
+}
+
+// Where nobody else writes to the tables, one look tells how far the keys are free.
+qint64 firstFreeInRun(Engine::Database &database, qint64 key, const QString &keyField, const QStringList &tables)
+{
+    Engine::Connection &connection = database.connection();
+    const Engine::RunValues::Gap known = Engine::RunValues::gap(connection, keyField);
+    if (key >= known.from && key < known.to)
+        return key;
+    key = firstFree(database, key, keyField, tables);
+    const qint64 end = nextUsed(database, key, keyField, tables);
+    Engine::RunValues::setGap(connection, keyField, {key, end > 0 ? end : std::numeric_limits<qint64>::max()});
+    return key;
+}
+
 // What a counter counts, as users know it.
 QString countedBy(QStringView field)
 {
@@ -103,7 +130,9 @@ qint64 CounterRow::take(Engine::WholeNumberName field)
 
 qint64 CounterRow::takeKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables)
 {
-    const qint64 key = firstFree(m_table.database(), value(field), keyField, tables);
+    Engine::Database &database = m_table.database();
+    const auto look = database.connection().isInRun() ? firstFreeInRun : firstFree;
+    const qint64 key = look(database, value(field), keyField, tables);
     set(field, key + 1);
     return key;
 }

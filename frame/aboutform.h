@@ -3,6 +3,10 @@
 #include <memory>
 #include <QDialog>
 
+namespace Engine {
+class Database;
+}
+
 namespace Tallymere {
 
 namespace Ui {
@@ -14,10 +18,13 @@ class TFormAboutTallymereSystem final : public QDialog
     Q_OBJECT
 
 public:
-    explicit TFormAboutTallymereSystem(QWidget *parent = nullptr);
+    TFormAboutTallymereSystem(Engine::Database &database, QWidget *parent);
     ~TFormAboutTallymereSystem() override;
 
 private:
+    void copyReport();
+
+    Engine::Database &m_database;
     std::unique_ptr<Ui::TFormAboutTallymereSystem> m_ui;
 };
 

@@ -38,6 +38,7 @@ struct MainCommand
     QString action;
     QString caption;
     QString hint = {};
+    QString window = {}; // the title of its window, where neither caption nor hint has those words
     QString rightsKey = {};
     QString rightsName = {};
     Glyph glyph = Glyph::None; // on its button and in its menu

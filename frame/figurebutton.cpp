@@ -47,7 +47,7 @@ QSize FigureButton::sizeHint() const
 {
     const int figure = QFontMetrics(figureFont()).horizontalAdvance(m_figure);
     return {fontMetrics().horizontalAdvance(text()) + scaled(this, Space::cell) + figure
-                + 2 * scaled(this, insetPixels),
+                + 2 * scaled(this, insetPixels) + 1, // the widths of both texts are rounded
             std::max(fontMetrics().height() + scaled(this, Space::cell), scaled(this, Space::row))};
 }
 

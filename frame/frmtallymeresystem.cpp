@@ -23,8 +23,12 @@
 #include "frame/hostinifile.h"
 #include "frame/mastermenu.h"
 #include "frame/screenregistry.h"
+#include "frame/serverlabel.h"
 #include "frame/todaypanel.h"
 #include "frame/tracescope.h"
+#include "import/screens/importdesk.h"
+#include "insight/firststeps.h"
+#include "insight/screens/firststeps.h"
 #include "insight/screens/itemcard.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/masterscreens.h"
@@ -141,6 +145,25 @@ void TFormTallymereSystem::formTallymereSystemShowModal()
     showModal();
 }
 
+QWidget *TFormTallymereSystem::makeForHost(const std::function<QWidget *(ScreenContext &, QWidget *)> &make,
+                                           QWidget *parent)
+{
+    QWidget *made = nullptr;
+    m_guard.run([&] {
+        prepareOpening();
+        made = make(*m_context, parent);
+    });
+    return made;
+}
+
+QString TFormTallymereSystem::hostUser() const
+{
+    QString user;
+    if (m_host)
+        m_host->getCurrentUser(user);
+    return user;
+}
+
 void TFormTallymereSystem::prepareOpening()
 {
     const WaitCursor hourglass;
@@ -154,9 +177,9 @@ void TFormTallymereSystem::prepareOpening()
                 return {};
             return printer.defaultPageSize().id() == QPageSize::A4;
         };
-        if (m_host)
-            m_host->getCurrentUser(options.currentUser); // whom the locks of the connection name
+        options.currentUser = hostUser(); // whom the locks of the connection name
         m_dataModule = std::make_unique<TDataModuleTallymere>(m_services.settings, m_services.prompts, options);
+        m_serverLabel->follow(m_dataModule->databaseTallymere());
     }
     if (!m_lookups)
         m_lookups = std::make_unique<TdmLookUpsInv>(m_dataModule->databaseTallymere());
@@ -168,8 +191,7 @@ void TFormTallymereSystem::prepareOpening()
     if (!m_host)
         throw RuleError(tr("The inventory system does not know who is working. The host application has opened it "
                            "without a window that names its user."));
-    QString user;
-    m_host->getCurrentUser(user);
+    const QString user = hostUser();
     m_dataModule->setCurrentUser(user);
     showUser(user);
 }
@@ -219,9 +241,14 @@ void TFormTallymereSystem::fillContext()
             [this](const QString &report, const QString &filter, const QString &order) {
                 showReport(*m_context, *ReportList::find(report), {.filter = filter, .order = order}, this);
             },
+        .importFile = [this](const QString &kind, const QString &file,
+                             QWidget *window) { return m_imports->import(kind, file, window); },
+        .takeBackImport = [this](const QString &kind,
+                                 QWidget *window) { return m_imports->takeBack(kind, window); },
         .showItem = [this](int item) { showItemCard(*m_context, item, this); },
         .showHelp = [this](const QString &screenName) { m_help->showTopic(screenName); },
     });
+    m_imports = std::make_unique<ImportDesk>(*m_context);
 }
 
 // In the order in which equally good answers are offered.
@@ -229,6 +256,7 @@ bool TFormTallymereSystem::fillFinder(Finder &finder, QWidget &window)
 {
     if (!m_context)
         return false;
+    finder.keepIn(LastChoices(Settings::finderBox, *m_dataModule, m_context->settings));
     for (const MasterScreen &screen : masterScreens())
         finder.add(std::make_unique<RecordSource>(*m_context, screen, window));
     for (const DocumentScreens &screens : documentScreens())
@@ -318,23 +346,38 @@ void TFormTallymereSystem::bindControls()
 void TFormTallymereSystem::connectToday()
 {
     connect(m_ui->PanelToday, &TodayPanel::chosen, this, &TFormTallymereSystem::openToday);
-    // Not in the middle of what the user waits for: that may be using the connection.
     m_ui->PanelToday->source = [this]() -> std::optional<TodaySource> {
-        if (!m_dataModule || dialogOver(this) || QApplication::overrideCursor())
+        if (!m_dataModule)
             return std::nullopt;
         return TodaySource{.database = m_dataModule->databaseTallymere(), .user = m_dataModule->currentUser()};
     };
 }
 
-// By the command that leads to the screen, whose rights are asked for. What has no screen is told in the manual.
-void TFormTallymereSystem::openToday(const TodayLine &line, bool waits)
+// Unless something else has been opened meanwhile.
+void TFormTallymereSystem::leadNewBooks()
 {
-    const MainCommand *command = commandTo(line.screen);
-    if (!m_context || isHeldByDialog(this))
+    if (!m_services.leadsNewBooks || !m_context || !TfrmFirstSteps::isWantedAtStart(*m_context))
+        return;
+    const auto look = [this](Engine::Database &database) {
+        const int open = openSteps(readFirstSteps(database));
+        return [this, open] {
+            const QList<QWidget *> others = screens();
+            const bool isAlone =
+                std::none_of(others.begin(), others.end(), [](auto *one) { return one->isVisible(); });
+            if (open > 0 && isVisible() && isAlone && !isHeldByDialog(this))
+                m_guard.run([this] { m_runner.open(u"frmFirstSteps"_s, *m_context); });
+        };
+    };
+    m_aside.start(m_dataModule->databaseTallymere(), look, Guard::trace);
+}
+
+// By the command that leads to the screen, whose rights are asked for.
+void TFormTallymereSystem::openToday(const QString &screen, bool waits)
+{
+    const MainCommand *command = commandTo(screen);
+    if (!command || !m_context || isHeldByDialog(this))
         return;
     m_guard.run([&] {
-        if (!command)
-            return m_help->showTopic(line.screen);
         m_runner.run(*command, *m_context, waits ? CommandRunner::Rows::Waiting : CommandRunner::Rows::All);
     });
 }
@@ -364,6 +407,8 @@ void TFormTallymereSystem::createStatusBar()
             [this](int value) { m_progress->setVisible(value > 0); });
     m_ui->RzStatusBar1->addWidget(m_leftPane);
     m_ui->RzStatusBar1->addWidget(m_hintPane, 1);
+    m_serverLabel = new ServerLabel(this);
+    m_ui->RzStatusBar1->addPermanentWidget(m_serverLabel);
     m_ui->RzStatusBar1->addPermanentWidget(m_progress);
 }
 
@@ -373,6 +418,18 @@ void TFormTallymereSystem::scaleSizes()
     for (QPushButton *button : buttons)
         button->setMinimumSize(scaled(this, button->minimumWidth()), scaled(this, button->minimumHeight()));
     resize(scaled(this, width()), scaled(this, height()));
+    m_ownWidth = width();
+    makeRoomForWords();
+}
+
+// Some languages, with the figures of the day beside, need more than the form has. A width that its user gave it stays.
+void TFormTallymereSystem::makeRoomForWords()
+{
+    const int words = m_ui->centralwidget->sizeHint().width();
+    if (width() != m_ownWidth || words <= width())
+        return;
+    m_ownWidth = words;
+    resize(words, height());
 }
 
 QList<QWidget *> TFormTallymereSystem::screens() const
@@ -414,8 +471,10 @@ void TFormTallymereSystem::showEvent(QShowEvent *event)
     QMainWindow::showEvent(event);
     if (event->spontaneous())
         return;
+    makeRoomForWords();
     move(screen()->availableGeometry().center() - rect().center());
     m_ui->PanelToday->refresh();
+    m_isOpening = true;
     m_ui->ButtonReceiveGoods->setFocus(); // not the Close button, which had it when the window was left
 }
 
@@ -430,8 +489,13 @@ void TFormTallymereSystem::keyPressEvent(QKeyEvent *event)
 
 bool TFormTallymereSystem::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowActivate)
+    if (event->type() == QEvent::WindowActivate) {
         m_ui->PanelToday->refresh();
+        if (std::exchange(m_isOpening, false))
+            leadNewBooks();
+    }
+    if (event->type() == QEvent::LayoutRequest)
+        makeRoomForWords();
     if (event->type() != QEvent::StatusTip)
         return QMainWindow::event(event);
     m_hintPane->setText(static_cast<QStatusTipEvent *>(event)->tip());
@@ -444,8 +508,7 @@ void TFormTallymereSystem::helpTopics1Click() { m_help->showContents(); }
 
 void TFormTallymereSystem::about1Click()
 {
-    TFormAboutTallymereSystem about(this);
-    about.exec();
+    TFormAboutTallymereSystem(m_dataModule->databaseTallymere(), this).exec();
 }
 
 } // namespace Tallymere

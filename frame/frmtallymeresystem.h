@@ -2,6 +2,7 @@
 
 #include "controls/windows/guard.h"
 #include "controls/windows/screencontext.h"
+#include "data/readaside.h"
 #include "frame/commandrunner.h"
 #include "frame/globals.h"
 #include "plgint/plgint.h"
@@ -23,11 +24,12 @@ class TFormTallymereSystem;
 class Finder;
 class FinderDesk;
 class HelpDesk;
+class ImportDesk;
 class ScreenRegistry;
 class SettingsStore;
 class ReportHolder;
+class ServerLabel;
 class TfrmDialerInv;
-struct TodayLine;
 
 // What the main form is given by the module; all of it outlives the form.
 struct FrameServices
@@ -35,6 +37,7 @@ struct FrameServices
     SettingsStore &settings;
     Prompts &prompts;
     const ScreenRegistry &screens;
+    bool leadsNewBooks = false; // shows the first steps when it is opened, as long as books need them
 };
 
 // The hub of the inventory system, and the module's side of the link with the host. The host makes it once, hidden;
@@ -59,6 +62,11 @@ public:
     // Opens the system and returns when its window is closed. Whatever keeps it from opening is shown in the
     // standard error box.
     void formTallymereSystemShowModal();
+
+    // A screen for the host to show by itself. Null, and the user has been told why, where the system cannot be opened.
+    QWidget *makeForHost(const std::function<QWidget *(ScreenContext &, QWidget *parent)> &make, QWidget *parent);
+
+    QString hostUser() const; // who is working, as the host says; empty without one
 
     // User rights. This system grants them all.
     bool securityCheck(const QString &key, const QString &name);
@@ -93,10 +101,12 @@ private:
     void createActions();
     void runCommand(const MainCommand &command);
     void connectToday();
-    void openToday(const TodayLine &line, bool waits);
+    void leadNewBooks();
+    void openToday(const QString &screen, bool waits);
     void bindControls();
     void createStatusBar();
     void scaleSizes();
+    void makeRoomForWords();
     void prepareOpening();
     void fillContext();
     bool fillFinder(Finder &finder, QWidget &window);
@@ -118,7 +128,9 @@ private:
     FinderDesk *m_finder;
     QLabel *m_leftPane = nullptr;
     QLabel *m_hintPane = nullptr;
+    int m_ownWidth = 0; // that nobody but this window has given it
     QProgressBar *m_progress = nullptr;
+    ServerLabel *m_serverLabel = nullptr;
 
     QPointer<QWidget> m_parent; // the host's window
     InterfaceRef<IHostInterface> m_host;
@@ -129,9 +141,12 @@ private:
     std::unique_ptr<TDataModuleTallymere> m_dataModule;
     std::unique_ptr<TdmLookUpsInv> m_lookups;
     std::unique_ptr<ScreenContext> m_context;
+    std::unique_ptr<ImportDesk> m_imports;
     QPointer<TfrmDialerInv> m_dialer; // waiting for the first phone button of this opening
     QString m_helpFile;
     QEventLoop *m_modalLoop = nullptr;
+    bool m_isOpening = false; // until it has the keyboard
+    ReadAside m_aside; // whether there are first steps to be done
 };
 
 } // namespace Tallymere

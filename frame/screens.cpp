@@ -1,5 +1,6 @@
 #include "frame/screenregistry.h"
 
+#include "care/screens/carescreens.h"
 #include "controls/windows/screencontext.h"
 #include "controls/windows/screenmetrics.h"
 #include "insight/screens/insightscreens.h"
@@ -62,6 +63,8 @@ ScreenRegistry productScreens()
     screens.add(u"frmInvHistory"_s, {make<TfrmInvHistory>});
     screens.add(u"frmInvReports"_s, {make<TfrmInvReports>});
     for (const InsightScreen &screen : insightScreens())
+        screens.add(screen.name, {screen.make});
+    for (const CareScreen &screen : careScreens())
         screens.add(screen.name, {screen.make});
     return screens;
 }

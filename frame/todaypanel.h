@@ -1,19 +1,24 @@
 #pragma once
 
+#include "data/readaside.h"
 #include "transactions/today.h"
 
 #include <functional>
 #include <optional>
-#include <QDeadlineTimer>
+#include <QTime>
 #include <QTimer>
 #include <QWidget>
+#include <vector>
+
+class QLabel;
 
 namespace Tallymere {
 
 class FigureButton;
 
-// "Today" beside the commands of the main window: what waits, a line each. The figures are read one after the other while
-// the window has nothing else to do; one that cannot be read is a dash.
+// "Today" beside the commands of the main window: what waits, a line each. The figures are read aside, so that the window is
+// usable whatever the server does; until they come the last ones stay, with their time where it takes long. One that cannot be
+// read is a dash.
 class TodayPanel final : public QWidget
 {
     Q_OBJECT
@@ -21,29 +26,32 @@ class TodayPanel final : public QWidget
 public:
     explicit TodayPanel(QWidget *parent = nullptr);
 
-    // Where the figures are read, asked before each. Nothing: not now, and the next refresh() begins again.
+    // Where the figures are read. Nothing: not now.
     std::function<std::optional<TodaySource>()> source;
     void refresh();
 
 Q_SIGNALS:
-    void chosen(const Tallymere::TodayLine &line, bool waits); // by the user
+    void chosen(const QString &screen, bool waits); // by the user
 
 private:
     struct Shown
     {
-        const TodayLine &line;
+        const TodayLine *line;
         FigureButton *button;
+        QString screen; // that shows more of it now
         bool waits = false;
     };
+    void addHead();
     void addLine(const TodayLine &line);
-    void readNext();
-    void giveUp(qint64 milliseconds);
+    void take(const std::vector<TodayFigure> &figures, const QTime &time); // those that could be read
+    void showTime(); // of figures that the next ones are long in coming for
     void show(Shown &shown, const TodayFigure &figure);
 
     QList<Shown> m_shown;
-    qsizetype m_next = 0;
-    QDeadlineTimer m_rest{0}; // until which nothing is read
-    QTimer m_idle;
+    QLabel *m_timeShown = nullptr;
+    QTime m_time; // of what is shown
+    QTimer m_late;
+    ReadAside m_aside;
 };
 
 } // namespace Tallymere

@@ -1,7 +1,9 @@
 #include "host/company.h"
 
 #include "base/connectiondecision.h"
+#include "base/dataversion.h"
 #include "base/initfile.h"
+#include "base/noprompts.h"
 #include "base/stores.h"
 #include "engine/records/tablereader.h"
 #include "engine/store/database.h"
@@ -11,6 +13,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -18,19 +22,40 @@ namespace Tallymere {
 
 namespace {
 
-// The start page tells what is wrong; boxes on the way would say it twice.
-class NoPrompts final : public Prompts
+void readFrom(Engine::Database &database, Company &company)
 {
-public:
-    void inform(const QString &) override { }
-    void warn(const QString &) override { }
-    void error(const QString &) override { }
-    bool confirm(Tallymere::Question, const QString &) override { return false; }
-    Answer yesNoCancel(const QString &, const QString &) override { return Answer::Cancel; }
-    bool retry(const QString &) override { return false; }
-};
+    if (!database.tableExists(u"Config"_s)) {
+        const bool isEmpty = database.connection().tables().isEmpty();
+        company.books = isEmpty ? Company::Books::None : Company::Books::Unknown;
+        company.problem = isEmpty
+            ? HostTexts::tr("There are no books of a company in %1.").arg(company.location)
+            : HostTexts::tr("The database in %1 is not that of a company.").arg(company.location);
+        return;
+    }
+    company.books = Company::Books::There;
+    Engine::TableReader config(database, u"Config"_s);
+    config.open();
+    if (!config.isEmpty())
+        company.name = config.value(u"Organizatn").toText();
+    requireKnownData(database);
+}
 
-QString organization(const SettingsStore &settings)
+// Where nothing is, books can be made.
+Company::Books booksBehind(const SettingsStore &settings, bool remote, const Engine::EngineError &error)
+{
+    const bool isNone =
+        remote ? isWithoutDatabase(error) : !QFileInfo::exists(databaseFolder(settings) + "/Corvane.sqlite"_L1);
+    return isNone ? Company::Books::None : Company::Books::Unknown;
+}
+
+QString documentsFolder(const QString &name)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' + name;
+}
+
+} // namespace
+
+void withCompany(const SettingsStore &settings, const std::function<void(Engine::Database &)> &work)
 {
     NoPrompts prompts;
     Engine::Session session(u"SessionHost"_s, bothStores());
@@ -39,12 +64,8 @@ QString organization(const SettingsStore &settings)
     database.onBeforeConnect = [&](Engine::Database &connecting) {
         databaseTallymereBeforeConnect(connecting, settings, prompts);
     };
-    Engine::TableReader config(database, u"Config"_s);
-    config.open();
-    return config.isEmpty() ? QString() : config.value(u"Organizatn").toText();
+    work(database);
 }
-
-} // namespace
 
 Company readCompany(const SettingsStore &settings)
 {
@@ -57,18 +78,35 @@ Company readCompany(const SettingsStore &settings)
     if (!company.defined)
         return company;
     try {
-        company.name = organization(settings);
+        withCompany(settings, [&company](Engine::Database &database) { readFrom(database, company); });
     } catch (const Engine::EngineError &error) {
         company.problem = error.text();
+        if (company.books != Company::Books::There) // else its books are there, of a newer release
+            company.books = booksBehind(settings, remote, error);
     }
     return company;
 }
 
-bool useCompanyFolder(SettingsStore &settings, const QString &folder)
+Company readCompany(const BooksPlace &place)
 {
-    return settings.setRegString(Settings::Mode, Engine::SessionType::Local)
-        && settings.setRegString(Settings::Alias, QDir(folder).absolutePath());
+    MemorySettings settings;
+    useBooks(settings, place);
+    return readCompany(settings);
 }
+
+// The name without what folders are told apart by.
+QString proposedFolder(const QString &company)
+{
+    QString name = company.simplified();
+    name.remove(QRegularExpression(uR"([/\\:*?"<>|\x00-\x1f])"_s));
+    while (name.startsWith(u'.'))
+        name.remove(0, 1); // or it would be hidden
+    constexpr int longest = 60;
+    name = name.left(longest).trimmed();
+    return documentsFolder(name.isEmpty() ? u"Corvane"_s : name);
+}
+
+QString sampleCompanyHome() { return documentsFolder(HostTexts::tr("Sample Company")); }
 
 QString sampleCompanyFolder(const QString &executableFolder)
 {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <QPainter>
 #include <QStyleOption>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -47,6 +48,17 @@ int HostStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidg
     if (hint == SH_EtchDisabledText || hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+// A text does not touch the border of its button.
+QSize HostStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                                  const QWidget *widget) const
+{
+    constexpr double room = 8; // pixels at 96 dpi, beside what the style leaves
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_PushButton && widget)
+        size.rwidth() += qRound(room * widget->logicalDpiX() / pixelsPerInch);
+    return size;
 }
 
 void HostStyle::drawBox(const QStyleOption &option, QPainter &painter, const QColor &ground,
@@ -140,11 +152,28 @@ void HostStyle::drawComboBox(const QStyleOptionComboBox &option, QPainter &paint
 {
     const bool marked = option.state.testFlag(State_HasFocus) && option.state.testFlag(State_Enabled);
     drawBox(option, painter, option.palette.color(QPalette::Base), marked ? accentOf(option) : lineOf(option));
+    drawArrow(PE_IndicatorArrowDown, option, subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget),
+              painter);
+}
+
+void HostStyle::drawSpinBox(const QStyleOptionSpinBox &option, QPainter &painter, const QWidget *widget) const
+{
+    const bool typed = option.state.testFlag(State_HasFocus) && option.state.testFlag(State_Enabled);
+    drawBox(option, painter, option.palette.color(QPalette::Base), typed ? accentOf(option) : lineOf(option));
+    const std::pair<SubControl, PrimitiveElement> arrows[] = {{SC_SpinBoxUp, PE_IndicatorArrowUp},
+                                                              {SC_SpinBoxDown, PE_IndicatorArrowDown}};
+    for (const auto &[button, arrow] : arrows)
+        drawArrow(arrow, option, subControlRect(CC_SpinBox, &option, button, widget), painter);
+}
+
+// Half as wide as its room, in the middle of it.
+void HostStyle::drawArrow(PrimitiveElement element, const QStyleOption &option, const QRect &room,
+                          QPainter &painter) const
+{
     QStyleOption arrow(option);
-    arrow.rect = subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget);
-    const int size = arrow.rect.width() / 2;
-    arrow.rect = QRect(arrow.rect.center() - QPoint(size / 2, size / 2), QSize(size, size));
-    QProxyStyle::drawPrimitive(PE_IndicatorArrowDown, &arrow, &painter, widget);
+    const int size = room.width() / 2;
+    arrow.rect = QRect(room.center() - QPoint(size / 2, size / 2), QSize(size, size));
+    QProxyStyle::drawPrimitive(element, &arrow, &painter);
 }
 
 void HostStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
@@ -153,6 +182,8 @@ void HostStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     if (control == CC_ComboBox && box && !box->editable)
         return drawComboBox(*box, *painter, widget);
+    if (const auto *spin = qstyleoption_cast<const QStyleOptionSpinBox *>(option); control == CC_SpinBox && spin)
+        return drawSpinBox(*spin, *painter, widget);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 

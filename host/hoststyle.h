@@ -20,6 +20,8 @@ public:
                      const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returned) const override;
 
@@ -28,6 +30,9 @@ private:
     void drawButton(const QStyleOption &option, QPainter &painter) const;
     void drawIndicator(PrimitiveElement element, const QStyleOption &option, QPainter &painter) const;
     void drawComboBox(const QStyleOptionComboBox &option, QPainter &painter, const QWidget *widget) const;
+    void drawSpinBox(const QStyleOptionSpinBox &option, QPainter &painter, const QWidget *widget) const;
+    void drawArrow(PrimitiveElement element, const QStyleOption &option, const QRect &room,
+                   QPainter &painter) const;
 };
 
 } // namespace Tallymere

@@ -1,6 +1,10 @@
 #include "host/hostwindow.h"
 
+#include "base/ruleerror.h"
+#include "base/settingsstore.h"
+#include "controls/screens/besidework.h"
 #include "host/aboutbox.h"
+#include "host/books/newbooks.h"
 #include "host/company.h"
 #include "ui_hostwindow.h"
 
@@ -9,8 +13,11 @@
 #include <QCloseEvent>
 #include <QCommandLinkButton>
 #include <QDialog>
+#include <QDir>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPointer>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +29,7 @@ HostWindow::HostWindow(SettingsStore &settings, QString user, QString moduleFile
     , m_user(std::move(user))
     , m_moduleFile(std::move(moduleFile))
     , m_ui(std::make_unique<Ui::HostWindow>())
+    , m_guard(m_prompts, {}, this)
 {
     m_ui->setupUi(this);
     m_ui->labelUser->setText(m_user);
@@ -34,18 +42,30 @@ HostWindow::HostWindow(SettingsStore &settings, QString user, QString moduleFile
         });
     };
     connectWhenFree(m_ui->actionDataOptions, &QAction::triggered, &HostWindow::editDataOptions);
+    for (const auto &[action, form] :
+         {std::pair(m_ui->actionBackUp, u"TfrmBackUp"_s), std::pair(m_ui->actionCheckBooks, u"TfrmCheckBooks"_s)})
+        connectWhenFree(action, &QAction::triggered, [form = form](HostWindow *self) { self->openForm(form); });
     connectWhenFree(m_ui->actionReloadModule, &QAction::triggered, &HostWindow::reload);
     connectWhenFree(m_ui->actionUnloadModule, &QAction::triggered, &HostWindow::unloadModule);
     connectWhenFree(m_ui->actionExit, &QAction::triggered, &QWidget::close);
-    connectWhenFree(m_ui->actionAbout, &QAction::triggered, [](HostWindow *self) { AboutBox(self).exec(); });
+    connectWhenFree(m_ui->actionAbout, &QAction::triggered, &HostWindow::showAbout);
     connectWhenFree(m_ui->linkModule, &QAbstractButton::clicked, &HostWindow::openModule);
     connectWhenFree(m_ui->linkDataOptions, &QAbstractButton::clicked, &HostWindow::editDataOptions);
     connectWhenFree(m_ui->linkReloadModule, &QAbstractButton::clicked, &HostWindow::reload);
-    connectWhenFree(m_ui->linkAbout, &QAbstractButton::clicked, [](HostWindow *self) { AboutBox(self).exec(); });
-    connectWhenFree(m_ui->buttonUseSample, &QPushButton::clicked, &HostWindow::useSampleCompany);
+    connectWhenFree(m_ui->linkAbout, &QAbstractButton::clicked, &HostWindow::showAbout);
+    using Purpose = CompanyBox::Purpose;
+    const auto connectCompany = [&](const QAction *action, const QAbstractButton *link, auto handler) {
+        connectWhenFree(action, &QAction::triggered, handler);
+        connectWhenFree(link, &QAbstractButton::clicked, handler);
+    };
+    connectCompany(m_ui->actionNewCompany, m_ui->linkNewCompany,
+                   [](HostWindow *self) { self->askForCompany(Purpose::New); });
+    connectCompany(m_ui->actionOpenCompany, m_ui->linkOpenCompany,
+                   [](HostWindow *self) { self->askForCompany(Purpose::Open); });
+    connectCompany(m_ui->actionSampleCompany, m_ui->linkSample, &HostWindow::trySampleCompany);
+    connectCompany(m_ui->actionRestore, m_ui->linkRestore, &HostWindow::restoreBackup);
 
     reload();
-    m_ui->linkModule->setFocus();
 }
 
 HostWindow::~HostWindow() { m_loader.unload(); }
@@ -61,7 +81,14 @@ bool HostWindow::isHeld() const
     return over;
 }
 
-void HostWindow::closeEvent(QCloseEvent *event) { event->setAccepted(!isHeld()); }
+void HostWindow::closeEvent(QCloseEvent *event) { event->setAccepted(!isHeld() && makeDailyBackup()); }
+
+// A module that has none to make lets the window close.
+bool HostWindow::makeDailyBackup()
+{
+    const QPointer<QDialog> backup = createDialog(u"TfrmDailyBackup"_s);
+    return !backup || backup->exec() == QDialog::Accepted;
+}
 
 void HostWindow::keyPressEvent(QKeyEvent *event)
 {
@@ -99,21 +126,37 @@ void HostWindow::showCompany()
     const QString name = company.name.isEmpty() ? tr("No company") : company.name;
     m_ui->labelCompany->setText(name);
     setWindowTitle(company.name.isEmpty() ? u"Corvane"_s : tr("Corvane - %1").arg(company.name));
-    m_ui->labelDatabase->setText(company.defined ? company.location : tr("Not set. Choose File, Data Options..."));
+    m_ui->labelDatabase->setText(company.defined ? company.location : tr("None has been chosen."));
     m_ui->labelProblem->setText(company.problem);
     m_ui->labelProblem->setVisible(!company.problem.isEmpty());
+    showLinksFor(company);
+}
 
-    const QString sample = sampleCompanyFolder(QCoreApplication::applicationDirPath());
-    m_ui->panelSample->setVisible(!company.defined && !sample.isEmpty());
-    m_ui->labelSample->setText(tr("A sample company is in %1.").arg(sample));
+// To a company where there is none; to another one as well where this one cannot be opened.
+void HostWindow::showLinksFor(const Company &company)
+{
+    const bool isNone = company.books == Company::Books::None;
+    const bool isUsable = company.books == Company::Books::There && company.problem.isEmpty();
+    for (QWidget *link : {m_ui->linkNewCompany, m_ui->linkSample})
+        link->setVisible(isNone);
+    for (QWidget *link : {m_ui->linkOpenCompany, m_ui->linkRestore})
+        link->setVisible(!isUsable);
+    m_ui->linkModule->setVisible(!isNone);
+    m_ui->menuInventory->setEnabled(!isNone && m_loader.isLoaded());
+    m_ui->linkReloadModule->setVisible(!isNone || !m_loader.isLoaded());
+    for (QWidget *link : {m_ui->linkDataOptions, m_ui->linkAbout})
+        link->setVisible(isUsable);
+    (isNone ? m_ui->linkNewCompany : m_ui->linkModule)->setFocus();
 }
 
 void HostWindow::showModule(const QString &problem)
 {
     const bool loaded = m_loader.isLoaded();
-    m_ui->labelModule->setText(loaded ? tr("Loaded. Choose Inventory, Tallymere.") : problem);
+    m_ui->labelModule->setText(loaded ? tr("Loaded.") : problem);
     m_ui->menuInventory->setEnabled(loaded);
     m_ui->actionDataOptions->setEnabled(loaded);
+    for (QAction *action : {m_ui->actionBackUp, m_ui->actionRestore, m_ui->actionCheckBooks})
+        action->setEnabled(loaded);
     m_ui->actionUnloadModule->setEnabled(loaded);
     m_ui->actionReloadModule->setText(loaded ? tr("&Reload Module") : tr("&Load Module"));
     showLinks();
@@ -127,9 +170,12 @@ void HostWindow::showLinks()
         m_ui->linkModule->setText(items.constFirst()->text());
     m_ui->linkModule->setEnabled(!items.isEmpty());
     m_ui->linkDataOptions->setEnabled(m_loader.isLoaded());
+    m_ui->linkRestore->setEnabled(m_loader.isLoaded());
     m_ui->linkReloadModule->setText(m_ui->actionReloadModule->text());
-    for (auto *link : m_ui->centralwidget->findChildren<QCommandLinkButton *>())
+    for (auto *link : m_ui->centralwidget->findChildren<QCommandLinkButton *>()) {
         link->setIcon({}); // the style's arrow says nothing
+        link->setMinimumHeight(link->sizeHint().height()); // their own leaves out what they say of themselves
+    }
 }
 
 void HostWindow::editDataOptions()
@@ -142,12 +188,61 @@ void HostWindow::editDataOptions()
     reload();
 }
 
-void HostWindow::useSampleCompany()
+void HostWindow::showAbout() { AboutBox(m_settings, m_loader.isLoaded(), this).exec(); }
+
+// One of the module's, which has said why where there is none.
+QDialog *HostWindow::createDialog(const QString &className)
 {
-    if (!useCompanyFolder(m_settings, sampleCompanyFolder(QCoreApplication::applicationDirPath())))
-        m_ui->labelSample->setText(tr("The settings cannot be written."));
-    else
-        showCompany();
+    auto *dialog = qobject_cast<QDialog *>(m_loader.createForm(className, this));
+    if (dialog)
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+    return dialog;
+}
+
+void HostWindow::openForm(const QString &className)
+{
+    if (QDialog *dialog = createDialog(className))
+        dialog->exec();
+}
+
+void HostWindow::askForCompany(CompanyBox::Purpose purpose)
+{
+    CompanyBox box(purpose, m_prompts, m_user, this);
+    if (box.exec() == QDialog::Accepted)
+        use(box.place());
+}
+
+// The one that the host's initialization file names, else one of the user's own, which is made where it is missing.
+void HostWindow::trySampleCompany()
+{
+    m_guard.run([this] {
+        BooksPlace place{.folder = sampleCompanyFolder(QCoreApplication::applicationDirPath())};
+        if (place.folder.isEmpty())
+            place.folder = sampleCompanyHome();
+        if (readCompany(place).books == Company::Books::None)
+            workBeside(this, tr("Making the sample company in %1").arg(QDir::toNativeSeparators(place.folder)),
+                       [&](Progress &progress) { makeSampleBooks(place.folder, m_user, progress); });
+        use(place);
+    });
+}
+
+// From then on the settings name what has been restored, if that is what the user wants.
+void HostWindow::restoreBackup()
+{
+    const QPointer<QDialog> restore = createDialog(u"TfrmRestore"_s);
+    if (restore && restore->exec() == QDialog::Accepted)
+        reload();
+}
+
+// The inventory is opened at once, as its books are what has been asked for.
+void HostWindow::use(const BooksPlace &place)
+{
+    m_guard.run([&] {
+        if (!useBooks(m_settings, place))
+            throw RuleError(keyErrorText());
+        reload();
+        QTimer::singleShot(0, this, &HostWindow::openModule);
+    });
 }
 
 } // namespace Tallymere

@@ -1,10 +1,15 @@
 #pragma once
 
+#include "controls/windows/guard.h"
+#include "controls/windows/messageboxes.h"
+#include "host/companybox.h"
 #include "host/moduleloader.h"
 #include "plgint/plgint.h"
 
 #include <memory>
 #include <QMainWindow>
+
+class QDialog;
 
 namespace Tallymere {
 
@@ -14,7 +19,8 @@ class HostWindow;
 
 class SettingsStore;
 
-// The main window of the reference host: who works with which company, and the menu with the inventory module.
+// The main window of the reference host: who works with which company, and the menu with the inventory module. Where there is no
+// company it leads to one.
 class HostWindow final : public QMainWindow, public IHostInterface
 {
     Q_OBJECT
@@ -42,10 +48,18 @@ private:
     bool isHeld() const; // a modal window stands over this one; it comes to the front
     void reload();
     void showCompany();
+    void showLinksFor(const Company &company);
     void showModule(const QString &problem);
     void showLinks();
     void editDataOptions();
-    void useSampleCompany();
+    void showAbout();
+    QDialog *createDialog(const QString &className); // frees itself when it has been run
+    void openForm(const QString &className);
+    bool makeDailyBackup(); // false: the window is to stay
+    void askForCompany(CompanyBox::Purpose purpose);
+    void trySampleCompany();
+    void restoreBackup();
+    void use(const BooksPlace &place);
 
     SettingsStore &m_settings;
     QString m_user;
@@ -53,6 +67,8 @@ private:
     int m_references = 0;
     std::unique_ptr<Ui::HostWindow> m_ui;
     ModuleLoader m_loader;
+    MessageBoxes m_prompts;
+    Guard m_guard;
 };
 
 } // namespace Tallymere

@@ -1,3 +1,4 @@
+#include "base/language.h"
 #include "base/settingsstore.h"
 #include "host/company.h"
 #include "host/hostlook.h"
@@ -48,7 +49,8 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(programIcon()); // of the windows of modules as well
     takeLook(options.look);
     SystemSettings settings;
-    if (!options.data.isEmpty() && !useCompanyFolder(settings, options.data))
+    const Speaking speaking(languageToSpeak(settings), u":/corvane/translations"_s);
+    if (!options.data.isEmpty() && !useBooks(settings, {.folder = options.data}))
         return say(stderr, keyErrorText(), 1);
 
     HostWindow window(settings, options.user, moduleFile(options.module, QCoreApplication::applicationDirPath()));

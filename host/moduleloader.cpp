@@ -2,10 +2,13 @@
 
 #include "host/texts.h"
 #include "plgint/classregistry.h"
+#include "plgint/moduleidentity.h"
 
 #include <QDateTime>
 #include <QFileInfo>
+#include <QJsonObject>
 #include <QLibrary>
+#include <QPluginLoader>
 
 using namespace Qt::StringLiterals;
 
@@ -18,8 +21,29 @@ QString moduleFile(const QString &given, const QString &executableFolder)
     const QString named = qEnvironmentVariable("TALLYMERE_MODULE");
     if (!named.isEmpty())
         return named;
-    return executableFolder + "/../lib/plgTallymere.so"_L1;
+    const QString beside = executableFolder + "/plgTallymere.so"_L1; // as they are installed
+    return QFileInfo(beside).isFile() ? beside
+                                      : executableFolder + "/../lib/plgTallymere.so"_L1; // as they are built
 }
+
+namespace {
+
+// What the file says of itself is read without loading it, so that nothing of a strange file runs. Empty: it is the module of
+// this host's release. Both share classes that only one release agrees on.
+QString whyNotOurs(const QString &file)
+{
+    const QJsonObject told = QPluginLoader(file).metaData();
+    if (told.value("IID"_L1).toString() != TALLYMERE_MODULE_IID ""_L1)
+        return HostTexts::tr("%1 is not an inventory module.").arg(file);
+    const QString release = told.value("MetaData"_L1).toObject().value("release"_L1).toString();
+    if (release != TALLYMERE_VERSION ""_L1)
+        return HostTexts::tr(
+                   "The inventory module %1 is of release %2, and this program of %3. Install both of one release.")
+            .arg(file, release, QStringLiteral(TALLYMERE_VERSION));
+    return {};
+}
+
+} // namespace
 
 ModuleLoader::ModuleLoader() = default;
 
@@ -32,6 +56,8 @@ QString ModuleLoader::load(const QString &file, QWidget *hostWindow, QMenu *menu
     if (!info.isFile())
         return HostTexts::tr("The inventory module cannot be loaded: there is no file %1.")
             .arg(info.absoluteFilePath());
+    if (const QString why = whyNotOurs(info.absoluteFilePath()); !why.isEmpty())
+        return why;
 
     m_library = std::make_unique<QLibrary>(info.absoluteFilePath());
     if (!m_library->load())

@@ -13,8 +13,8 @@ class QMenu;
 
 namespace Tallymere {
 
-// The files in which the module is looked for: the given one, else the one named by TALLYMERE_MODULE, else the one
-// that is installed with the host ("../lib" beside the executable).
+// The file in which the module is looked for: the given one, else the one named by TALLYMERE_MODULE, else the one
+// that is installed beside the host, else the one that is built with it ("../lib" beside the executable).
 QString moduleFile(const QString &given, const QString &executableFolder);
 
 // Loads the inventory module at run time and links it with the host's window.

@@ -61,7 +61,7 @@ void takeRow(const ImportRow &row, StockCount &count, bool answerYes)
     if (count.list().row(found).typed)
         throw RuleError(ImportTexts::tr("The item '%1' has been counted in an earlier row").arg(itemNo));
     const double quantity = row.cell(u"Quantity")->value.toDouble();
-    const std::optional<QString> question = count.questionOf(found, quantity);
+    const std::optional<QString> question = count.questionOf(found, quantity, false);
     if (question && !answerYes)
         throw RuleError(itemNo + u": "_s + *question);
     count.count(found, quantity);

@@ -54,8 +54,10 @@ void DocumentImport::add(ImportDocument &document, ImportErrors &errors)
     // A document with a bad row would only be told again that something is missing.
     const bool complete =
         std::none_of(document.begin(), document.end(), [](const ImportRow &row) { return row.isBad; });
+    const int key = m_entry->key();
     if (!complete || !tryStep(first, errors, [&] { m_entry->save(); }))
-        m_entry->cancel();
+        return m_entry->cancel();
+    keepWritten(key);
 }
 
 void DocumentImport::beginDocument(const ImportRow &row)

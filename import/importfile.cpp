@@ -1,6 +1,5 @@
 #include "import/importfile.h"
 
-#include "base/csvreader.h"
 #include "base/plural.h"
 #include "base/ruleerror.h"
 #include "engine/values/linetext.h"
@@ -115,8 +114,10 @@ public:
     {
     }
 
-    void add(int line, const QStringList &fields)
+    void add(int line, const QStringList &fields, const QString &fault)
     {
+        if (!fault.isEmpty())
+            m_errors.add(line, fault);
         if (fields.size() != static_cast<qsizetype>(m_header.size())) {
             return m_errors.add(line,
                                 plural(static_cast<qint64>(m_header.size()),
@@ -125,6 +126,7 @@ public:
                                     .arg(fields.size()));
         }
         ImportRow row = readRow(line, fields);
+        row.isBad = row.isBad || !fault.isEmpty();
         const QStringList documentFields = fieldsOfDocument(fields);
         if (m_hasLines && !m_documents.empty() && documentFields == m_documentFields)
             m_documents.back().push_back(std::move(row));
@@ -168,7 +170,8 @@ private:
     QStringList m_documentFields; // of the last row
 };
 
-std::vector<ImportDocument> readRows(CsvReader &reader, const ImportKind &kind, ImportErrors &errors)
+std::vector<ImportDocument> readRows(ImportRows &reader, const ImportKind &kind, ImportErrors &errors,
+                                     Progress *progress)
 {
     if (!reader.next()) {
         errors.add(1, ImportTexts::tr("The file is empty."));
@@ -179,9 +182,14 @@ std::vector<ImportDocument> readRows(CsvReader &reader, const ImportKind &kind, 
         return {};
     ImportRowReader rows(header, kind.hasLines(), errors);
     try {
-        while (reader.next())
-            rows.add(reader.line(), reader.fields());
-    } catch (const CsvError &error) {
+        if (progress)
+            progress->start(0);
+        while (reader.next()) {
+            rows.add(reader.line(), reader.fields(), reader.fault());
+            if (progress)
+                progress->step();
+        }
+    } catch (const ImportFault &error) {
         errors.add(error.line(), error.message());
     }
     return rows.takeDocuments();
@@ -189,13 +197,15 @@ std::vector<ImportDocument> readRows(CsvReader &reader, const ImportKind &kind, 
 
 } // namespace
 
-std::vector<ImportDocument> readImportFile(QIODevice &file, const ImportKind &kind, ImportErrors &errors)
+std::vector<ImportDocument> readImportFile(QIODevice &file, const ImportKind &kind, ImportErrors &errors,
+                                           const ImportChoice &choice, Progress *progress)
 {
-    CsvReader reader(file);
     try {
-        return readRows(reader, kind, errors);
-    } catch (const CsvError &error) {
-        errors.add(error.line(), error.message());
+        const std::unique_ptr<ImportRows> rows = openImportRows(file, choice);
+        errors.setSheet(rows->sheet());
+        return readRows(*rows, kind, errors, progress);
+    } catch (const ImportFault &fault) {
+        errors.add(fault.line(), fault.message());
         return {};
     }
 }

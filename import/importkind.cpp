@@ -7,7 +7,9 @@
 #include "import/masterimport.h"
 #include "import/texts.h"
 #include "master/masterkinds.h"
+#include "master/masterlist.h"
 #include "transactions/documentkinds.h"
+#include "transactions/documentlist.h"
 
 #include <algorithm>
 
@@ -64,6 +66,24 @@ void require(ImportKind &kind, const QStringList &targets)
     }
 }
 
+void addTitles(ImportKind &kind, const QList<GridColumn> &columns)
+{
+    for (const GridColumn &column : columns) {
+        if (!kind.titles.contains(column.field))
+            kind.titles.insert(column.field, column.title);
+    }
+}
+
+template <typename List, typename Kind>
+std::function<std::unique_ptr<RecordList>(Engine::Database &)> makesList(const Kind &kind)
+{
+    return [&kind](Engine::Database &database) {
+        auto list = std::make_unique<List>(database, kind);
+        list->open();
+        return list;
+    };
+}
+
 // Whether a new record has a value there even if the file gives none.
 bool isPreset(const MasterKind &master, const QString &field)
 {
@@ -92,6 +112,11 @@ ImportKind masterKind(const MasterKind &master)
     }
     for (const QString &field : master.files.longTexts)
         column(kind, field).type = Engine::FieldType::Memo;
+    addTitles(kind, master.list.columns);
+    kind.keyField = master.keyField;
+    kind.numberField = master.numberField;
+    kind.keyTables = master.keyTables();
+    kind.makeList = makesList<MasterList>(master);
     kind.makeTarget = [&master](const ImportRun &run) { return std::make_unique<MasterImport>(run, master); };
     return kind;
 }
@@ -117,6 +142,12 @@ ImportKind documentKind(const DocumentKind &document)
     require(kind, {Fields::WarehouseID, Fields::ItemID});
     column(kind, Fields::GLYear).format = ImportColumn::Format::Year;
     column(kind, Fields::GLPeriod).format = ImportColumn::Format::Period;
+    addTitles(kind, document.list.columns);
+    addTitles(kind, document.entry.lineColumns);
+    kind.keyField = document.keyField;
+    kind.numberField = document.numberField.value_or(QString());
+    kind.keyTables = document.keyTables();
+    kind.makeList = makesList<DocumentList>(document);
     kind.makeTarget = [&document](const ImportRun &run) { return std::make_unique<DocumentImport>(run, document); };
     return kind;
 }

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <vector>
@@ -15,6 +16,7 @@ namespace Tallymere {
 class HeldCounters;
 class ImportAnswers;
 class ImportTarget;
+class RecordList;
 
 // What an import works with from its first row to its last.
 struct ImportRun
@@ -59,6 +61,11 @@ struct ImportKind
     QStringList refusedColumns; // fields that exist and that only the system sets
     QStringList lockedTables; // nobody else writes to them meanwhile; in the order they are locked
     std::function<std::unique_ptr<ImportTarget>(const ImportRun &)> makeTarget;
+    QHash<QString, QString> titles; // what users call the fields, where a list or its lines show them
+    QString keyField; // of what is written
+    QString numberField; // that users know it by, and that is given once; empty: none
+    QStringList keyTables; // in which its key stands, its own first
+    std::function<std::unique_ptr<RecordList>(Engine::Database &)> makeList; // that deletes what was written; open
 
     bool hasLines() const;
 };
@@ -97,8 +104,11 @@ public:
     void add(int line, const QString &message);
     bool isEmpty() const { return m_errors.empty(); }
     std::vector<Error> inFileOrder() const;
+    const QString &sheet() const { return m_sheet; } // of the file that the rows stand in; empty where it has none
+    void setSheet(const QString &sheet) { m_sheet = sheet; }
 
 private:
+    QString m_sheet;
     std::vector<Error> m_errors;
 };
 
@@ -109,6 +119,13 @@ public:
     virtual ~ImportTarget() = default;
     // What is refused is added to the errors; the database is rolled back then. Throws EngineError.
     virtual void add(ImportDocument &document, ImportErrors &errors) = 0;
+    const std::vector<int> &writtenKeys() const { return m_writtenKeys; } // in their order
+
+protected:
+    void keepWritten(int key) { m_writtenKeys.push_back(key); }
+
+private:
+    std::vector<int> m_writtenKeys;
 };
 
 } // namespace Tallymere

@@ -5,6 +5,7 @@
 #include "base/ruleerror.h"
 #include "engine/values/linetext.h"
 #include "engine/values/textsize.h"
+#include "engine/values/userlocale.h"
 #include "import/texts.h"
 
 #include <cmath>
@@ -103,6 +104,9 @@ Value boolean(const ImportColumn &column, const QString &text)
 
 Value textValue(const ImportColumn &column, const QString &text)
 {
+    if (text.size() > Engine::longestText)
+        refuse(column, text,
+               ImportTexts::tr("is longer than %1 characters").arg(Engine::groupedCount(Engine::longestText)));
     if (column.type != FieldType::Text)
         return text;
     const QString line = Engine::oneLine(text);

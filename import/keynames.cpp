@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "engine/records/query.h"
+#include "engine/store/batchedrun.h"
 #include "engine/values/linetext.h"
 #include "import/texts.h"
 
@@ -33,8 +34,23 @@ Engine::Value KeyNames::read(const NameLookup &lookup, const QString &name) cons
     return Engine::singleValue(m_database, "SELECT %1"_L1.arg(lookup.keyField) + rows, {name});
 }
 
+// Counters go on by one: the numbers that come next are looked for together.
 bool isNumberTaken(const Engine::Table &table, const QString &numberField)
 {
+    constexpr int together = 200;
+    Engine::Connection &connection = table.database().connection();
+    const QString number = table.text(numberField);
+    const auto known = [&] { return Engine::RunValues::isTaken(connection, table.name(), numberField, number); };
+    bool isWhole = false;
+    const qint64 first = number.toLongLong(&isWhole);
+    if (!known() && isWhole) {
+        QStringList coming(number);
+        for (qint64 next = first + 1; next < first + together; ++next)
+            coming << QString::number(next);
+        Engine::RunValues::learn(connection, table.name(), numberField, coming);
+    }
+    if (const auto isTaken = known())
+        return *isTaken;
     const QString sql = u"SELECT count(*) FROM %1 WHERE %2 = ?"_s.arg(table.name(), numberField);
     return Engine::singleValue(table.database(), sql, {table.value(numberField)}).toInt64() > 0;
 }

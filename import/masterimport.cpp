@@ -38,7 +38,9 @@ void MasterImport::addRow(const ImportRow &row)
     beginRecord(row);
     for (const ImportCell &cell : row.cells)
         setField(cell);
+    const int key = m_record.key();
     m_record.save();
+    keepWritten(key > 0 ? key : m_record.key()); // a key may come from the store only now
 }
 
 void MasterImport::beginRecord(const ImportRow &row)

@@ -13,9 +13,19 @@ namespace {
 constexpr int daysOfAWeek = 7;
 } // namespace
 
+BuyingPlan BuyingList::withAll(BuyingPlan plan)
+{
+    plan.alsoInStock = true;
+    return plan;
+}
+
 void BuyingList::read(Engine::Database &database, const BuyingPlan &plan)
 {
-    std::vector<ItemToBuy> items = whatToBuy(database, plan);
+    take(whatToBuy(database, withAll(plan)), plan);
+}
+
+void BuyingList::take(std::vector<ItemToBuy> items, const BuyingPlan &plan)
+{
     QHash<int, double> typed;
     for (const Row &row : m_rows)
         if (row.typed)
@@ -26,6 +36,15 @@ void BuyingList::read(Engine::Database &database, const BuyingPlan &plan)
         const auto kept = typed.constFind(item.item);
         m_rows.push_back({std::move(item), kept == typed.cend() ? std::nullopt : std::optional(*kept)});
     }
+    show();
+}
+
+void BuyingList::show()
+{
+    m_shown.clear();
+    for (size_t i = 0; i < m_rows.size(); ++i)
+        if (m_plan.alsoInStock || m_rows[i].item.proposed > 0 || m_rows[i].typed)
+            m_shown.push_back(i);
 }
 
 bool BuyingList::isShort(int row) const { return this->row(row).item.daysLeft < daysOfAWeek * m_plan.cover; }
@@ -41,7 +60,7 @@ void BuyingList::setQuantity(int row, std::optional<double> quantity)
         throw RuleError(InsightTexts::tr("A quantity to buy cannot be below zero"), Fields::Quantity);
     if (quantity)
         requireSensibleQuantity(*quantity, Fields::Quantity);
-    m_rows[static_cast<size_t>(row)].typed = quantity;
+    m_rows[m_shown[static_cast<size_t>(row)]].typed = quantity;
 }
 
 int BuyingList::chosen() const

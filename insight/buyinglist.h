@@ -19,11 +19,16 @@ public:
         double quantity() const { return typed.value_or(item.proposed); }
     };
 
-    // What has been typed stays with its items.
+    // Of a plan that what lasts long enough is left out of, rows with a typed quantity stay. What has been typed stays with
+    // its items.
     void read(Engine::Database &database, const BuyingPlan &plan);
+    // The same of what has been read already, of the plan with all that there is (withAll).
+    void take(std::vector<ItemToBuy> items, const BuyingPlan &plan);
+    static BuyingPlan withAll(BuyingPlan plan);
 
-    int size() const { return static_cast<int>(m_rows.size()); }
-    const Row &row(int row) const { return m_rows[static_cast<size_t>(row)]; }
+    int size() const { return static_cast<int>(m_shown.size()); }
+    const Row &row(int row) const { return m_rows[m_shown[static_cast<size_t>(row)]]; }
+    int leftOut() const { return static_cast<int>(m_rows.size() - m_shown.size()); }
     bool isShort(int row) const; // lasts less long than it is to
     bool beginsVendor(int row) const; // the rows of a vendor follow each other
 
@@ -37,8 +42,11 @@ public:
     void forgetTyped(const PlannedReceipt &entered);
 
 private:
+    void show();
+
     BuyingPlan m_plan;
     std::vector<Row> m_rows;
+    std::vector<size_t> m_shown; // of them
 };
 
 } // namespace Tallymere

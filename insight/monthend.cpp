@@ -3,14 +3,16 @@
 #include "base/formats.h"
 #include "base/plural.h"
 #include "base/ruleerror.h"
+#include "data/audit.h"
 #include "data/fields.h"
 #include "engine/records/query.h"
 #include "engine/records/table.h"
 #include "engine/store/database.h"
+#include "engine/store/session.h"
+#include "engine/values/userlocale.h"
 #include "insight/texts.h"
 
 #include <algorithm>
-#include <QLocale>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -75,7 +77,7 @@ MonthEndFigure printedValue(const MonthEndSource &source)
         return {InsightTexts::tr("no"), false,
                 InsightTexts::tr("The value is that of this moment: print or save it before anything of the next "
                                  "period is posted.")};
-    return {QLocale::system().toString(source.valuePrinted, QLocale::ShortFormat), true};
+    return {Engine::userLocale().locale.toString(source.valuePrinted, QLocale::ShortFormat), true};
 }
 
 void setPeriod(Engine::Table &company, QLatin1StringView stem, const Period &period)
@@ -95,20 +97,29 @@ void requireEnding(const FiscalSettings &settings, const Period &ending)
                             .arg(shownPeriod(settings.defaultPeriod)));
 }
 
-void moveOn(Engine::Table &company, const Period &ending)
+FiscalSettings movedOn(FiscalSettings settings, const Period &ending)
 {
-    const FiscalSettings settings = FiscalSettings::of(company); // under its lock
     requireEnding(settings, ending);
-    const Period next = periodAfter(ending);
-    setPeriod(company, "DefaultPeriod"_L1, next);
-    if (settings.warnFrom.key() > 0)
-        setPeriod(company, "WPeriodFrom"_L1, next);
-    if (settings.warnTo.key() > 0)
-        setPeriod(company, "WPeriodTo"_L1, next);
-    const PeriodVerdict verdict = judgePeriod(FiscalSettings::of(company), next);
+    settings.defaultPeriod = periodAfter(ending);
+    for (Period *warned : {&settings.warnFrom, &settings.warnTo}) {
+        if (warned->key() > 0)
+            *warned = settings.defaultPeriod;
+    }
+    const PeriodVerdict verdict = judgePeriod(settings, settings.defaultPeriod);
     if (verdict != PeriodVerdict::Fine)
         throw RuleError(InsightTexts::tr("Period %1 cannot be opened, as its documents would be refused: %2")
-                            .arg(shownPeriod(next), periodMessage(verdict)));
+                            .arg(shownPeriod(settings.defaultPeriod), periodMessage(verdict)));
+    return settings;
+}
+
+void moveOn(Engine::Table &company, const Period &ending)
+{
+    const FiscalSettings settings = movedOn(FiscalSettings::of(company), ending); // under its lock
+    setPeriod(company, "DefaultPeriod"_L1, settings.defaultPeriod);
+    if (settings.warnFrom.key() > 0)
+        setPeriod(company, "WPeriodFrom"_L1, settings.warnFrom);
+    if (settings.warnTo.key() > 0)
+        setPeriod(company, "WPeriodTo"_L1, settings.warnTo);
 }
 
 } // namespace
@@ -154,7 +165,12 @@ const QList<MonthEndLine> &monthEndLines()
     return lines;
 }
 
-void openNextPeriod(Engine::Database &database, const Period &ending)
+void requireNextPeriod(Engine::Database &database, const Period &ending)
+{
+    movedOn(FiscalSettings::readFrom(database), ending);
+}
+
+void openNextPeriod(Engine::Database &database, const Period &ending, const QString &user)
 {
     Engine::Table company(database, u"Company"_s);
     company.open();
@@ -166,6 +182,10 @@ void openNextPeriod(Engine::Database &database, const Period &ending)
         company.cancel();
         throw;
     }
+    leaveNote(
+        database,
+        InsightTexts::tr("Period %1 opened after %2.").arg(shownPeriod(periodAfter(ending)), shownPeriod(ending)),
+        database.session().today(), user);
 }
 
 } // namespace Tallymere

@@ -60,7 +60,9 @@ const QList<MonthEndLine> &monthEndLines();
 // Makes the next period the one that new documents take, and the one that is expected, as far as a range of expected ones
 // is set. What is allowed stays as it is. Written under the organization's lock. Throws RuleError when the period that ends is not
 // that any more, when the organization sets none, or when documents of the next one would be refused; EngineError when somebody
-// else is editing the organization.
-void openNextPeriod(Engine::Database &database, const Period &ending);
+// else is editing the organization. A note tells who has done it.
+void openNextPeriod(Engine::Database &database, const Period &ending, const QString &user);
+// Throws what would stop that as the organization stands now.
+void requireNextPeriod(Engine::Database &database, const Period &ending);
 
 } // namespace Tallymere

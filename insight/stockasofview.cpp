@@ -19,7 +19,12 @@ StockAsOfView::StockAsOfView(Engine::Database &database)
 
 double StockAsOfView::then(const Engine::DataSet &row) const
 {
-    return m_stock ? m_stock->onHand(row.integer(Fields::ItemID), row.integer(Fields::WarehouseID)) : 0;
+    return quantityThen(row.integer(Fields::ItemID), row.integer(Fields::WarehouseID));
+}
+
+double StockAsOfView::quantityThen(int item, int location) const
+{
+    return m_stock ? m_stock->onHand(item, location) : 0;
 }
 
 void StockAsOfView::setTime(const StockTime &time)

@@ -24,6 +24,7 @@ public:
     void setTime(const StockTime &time);
     void setTimeWithinMoment(const StockTime &time);
     const StockTime &time() const { return m_time; }
+    double quantityThen(int item, int location) const; // of a balance
     void open();
 
 private:

@@ -46,7 +46,8 @@ public:
             if (item.item == 0)
                 continue;
             propose(item);
-            items.push_back(std::move(item));
+            if (m_plan.alsoInStock || item.proposed > 0)
+                items.push_back(std::move(item));
         }
         std::ranges::sort(items, {}, [](const ItemToBuy &item) {
             return std::tuple(item.vendor == 0, item.vendorName, item.vendor, item.daysLeft, item.itemNo,

@@ -22,6 +22,7 @@ struct BuyingPlan
     int location = 0; // 0: all of them
     int weeks = 8; // over which use is looked at, up to today
     int cover = 2; // weeks that the stock is to last
+    bool alsoInStock = false; // also what lasts long enough
 };
 
 // An item that has been used. Quantities are in stock units.
@@ -41,7 +42,7 @@ struct ItemToBuy
     double proposed = 0; // whole units, 0 where the stock lasts long enough
 };
 
-// What has been used within the weeks and is not suspended, by vendor (those without one last), most urgent first. Use is
+// What has been used within the weeks, lasts less long than it is to and is not suspended, by vendor (those without one last), most urgent first. Use is
 // what went out by usage or sale; an adjustment is none. All of one moment. Throws RuleError for weeks that are not
 // above 0.
 std::vector<ItemToBuy> whatToBuy(Engine::Database &database, const BuyingPlan &plan);

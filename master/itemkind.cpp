@@ -60,6 +60,7 @@ MasterKind describe()
     kind.list.filterField = Fields::ItemTypeID;
     kind.list.notSuspended = u"(Suspended = false)"_s;
     // Nothing keeps an item from being deleted, not even its movements.
+    kind.list.ownedTables = {u"IBarcode"_s};
 
     kind.command.action = u"ActionEditItems"_s;
     kind.command.caption = MasterTexts::tr("Edit Items");

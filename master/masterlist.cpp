@@ -6,6 +6,7 @@
 #include "master/texts.h"
 
 #include <algorithm>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -35,9 +36,9 @@ void MasterList::remove(Prompts &prompts)
     requireRemovable(prompts);
     // Waits for a user who is editing the record, and reads it anew, before others are kept from writing.
     table().edit();
-    table().cancel();
-
+    const auto letGo = qScopeGuard([this] { table().cancel(); });
     Engine::Transaction transaction(table().database().connection());
+    table().cancel(); // its lock is kept until the transaction ends
     refuseIfReferred();
     removeOwned();
     table().remove();

@@ -36,6 +36,27 @@ LineLayout::LineLayout(const ReportLayout &layout, const ReportLines &lines, con
 
 void LineLayout::placeColumns()
 {
+    const std::vector<double> widths = columnWidths();
+    double left = m_area.left();
+    for (size_t i = 0; i < widths.size(); ++i) {
+        const Column &column = m_layout.columns[static_cast<qsizetype>(i)];
+        m_columns.push_back(
+            {&column, m_lines.indexOf(column.field), m_lines.indexOf(column.opening.field), left,
+             widths[i] - columnGap,
+             column.align == Align::Decimal ? TextMeasure::of(TextStyle::Body).width(column.fraction) : 0});
+        left += widths[i];
+    }
+    if (m_columns.empty())
+        return;
+    m_columns.back().width += columnGap; // up to the margin
+    m_columns.front().left += firstInset();
+    m_columns.front().width -= firstInset();
+}
+
+// By their shares. A title in a language of long words takes the room for its longest word from columns that have some to
+// spare, each as it has.
+std::vector<double> LineLayout::columnWidths() const
+{
     double shares = 0;
     double shared = m_area.width();
     for (const Column &column : m_layout.columns) {
@@ -44,24 +65,40 @@ void LineLayout::placeColumns()
         else
             shares += column.width;
     }
-    double left = m_area.left();
+    std::vector<double> widths;
+    std::vector<double> spare;
+    double wanted = 0;
+    double spared = 0;
     for (const Column &column : m_layout.columns) {
-        const double width = widthOf(column, shared / shares);
-        m_columns.push_back(
-            {&column, m_lines.indexOf(column.field), m_lines.indexOf(column.opening.field), left, width - columnGap,
-             column.align == Align::Decimal ? TextMeasure::of(TextStyle::Body).width(column.fraction) : 0});
-        left += width;
+        widths.push_back(widthOf(column, shared / shares));
+        const double rest = widths.back() - roomForTitle(column);
+        wanted += std::max(0.0, -rest);
+        spared += std::max(0.0, rest);
+        spare.push_back(rest);
     }
-    if (m_columns.empty())
-        return;
-    m_columns.back().width += columnGap; // up to the margin
-    PlacedColumn &first = m_columns.front();
-    const bool beginsRows = first.column->inDetail || !first.column->opening.field.isEmpty();
-    if (first.column->align != Align::Left || !beginsRows || first.column->content == Content::Barcode)
-        return;
-    const double inset = indent * static_cast<double>(std::ranges::count(m_layout.groups, true, &Group::heading));
-    first.left += inset; // rows stand below the headings of their groups
-    first.width -= inset;
+    const double moved = std::min(wanted, spared);
+    for (size_t i = 0; i < widths.size() && moved > 0; ++i)
+        widths[i] -= spare[i] * moved / (spare[i] > 0 ? spared : wanted);
+    return widths;
+}
+
+// For the longest word of its title and the gap behind it.
+double LineLayout::roomForTitle(const Column &column) const
+{
+    double room = 0;
+    for (const QString &word : column.title.split(u' '))
+        room = std::max(room, TextMeasure::of(TextStyle::ColumnTitle).width(word));
+    return room + columnGap + (&column == &m_layout.columns.constFirst() ? firstInset() : 0);
+}
+
+// Rows stand below the headings of their groups.
+double LineLayout::firstInset() const
+{
+    const Column &first = m_layout.columns.constFirst();
+    const bool beginsRows = first.inDetail || !first.opening.field.isEmpty();
+    if (first.align != Align::Left || !beginsRows || first.content == Content::Barcode)
+        return 0;
+    return indent * static_cast<double>(std::ranges::count(m_layout.groups, true, &Group::heading));
 }
 
 double LineLayout::widthOf(const Column &column, double share) const

@@ -36,7 +36,10 @@ private:
     };
 
     void placeColumns();
-    double widthOf(const Column &column, double share) const; // with the gap behind it
+    std::vector<double> columnWidths() const; // with the gap behind each
+    double widthOf(const Column &column, double share) const;
+    double roomForTitle(const Column &column) const;
+    double firstInset() const;
     LaidLine cells(const ReportLine &line) const;
     LaidLine groupHeading(const ReportLine &line) const;
     LaidLine total(const ReportLine &line) const;

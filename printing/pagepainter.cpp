@@ -2,6 +2,7 @@
 
 #include "printing/texts.h"
 
+#include <optional>
 #include <QPainter>
 
 namespace Tallymere::Printing {
@@ -33,13 +34,10 @@ void paintPage(QPainter &painter, const Page &page, const Paper &paper, int numb
         painter.fillRect(area, fill.gray ? Qt::gray : Qt::black);
     }
     painter.setPen(Qt::black);
-    TextStyle style = TextStyle::Small;
-    painter.setFont(fontOf(style));
+    std::optional<TextStyle> style;
     for (const TextItem &item : page.texts) {
-        if (item.style != style) {
-            style = item.style;
-            painter.setFont(fontOf(style));
-        }
+        if (item.style != style)
+            painter.setFont(fontOf(*(style = item.style)));
         paintText(painter, item);
     }
     const QString text = count > 0 ? PrintingTexts::tr("Page %1 of %2").arg(number).arg(count)

@@ -52,8 +52,6 @@ public:
                 return size;
         }
         cups_dinfo_t *info = cupsCopyDestInfo(CUPS_HTTP_DEFAULT, m_dest);
-        if (!info)
-            return std::nullopt;
         // cupsGetDestMediaDefault() gives the sheet of the country.
         ipp_attribute_t *media = cupsFindDestDefault(CUPS_HTTP_DEFAULT, m_dest, info, "media");
         const char *name = media ? ippGetString(media, 0, nullptr) : nullptr;

@@ -1,7 +1,7 @@
 #include "printing/reportcsv.h"
 
-#include "base/csvwriter.h"
 #include "base/savedfile.h"
+#include "base/xlsxwriter.h"
 #include "printing/reportlines.h"
 
 using namespace Qt::StringLiterals;
@@ -31,6 +31,12 @@ QString bandName(Band band)
     }
 }
 
+// Whole amounts are shown with decimals as well.
+bool showsAmounts(const Column &column)
+{
+    return column.display && column.align == Align::Decimal && column.display(Engine::Value(1)).endsWith("00"_L1);
+}
+
 bool isGiven(const CsvField &field, const ReportLine &line, const ReportLines &lines)
 {
     switch (line.band) {
@@ -45,26 +51,25 @@ bool isGiven(const CsvField &field, const ReportLine &line, const ReportLines &l
 
 } // namespace
 
-void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &output, Progress &progress,
-                    int expectedLines)
+void writeReportRows(const ReportLayout &layout, RowReader &rows, RowWriter &writer, Progress &progress,
+                     int expectedLines)
 {
     ReportLines lines(layout, rows);
-    CsvWriter writer(output);
     std::vector<CsvField> fields;
     QStringList named;
-    writer.field(u"Band"_s);
-    const auto addField = [&](const QString &name, int group, bool inDetail) {
+    writer.title(u"Band"_s);
+    const auto addField = [&](const QString &name, int group, bool inDetail, bool ofAmounts) {
         if (named.contains(name))
             return;
         named.append(name);
         fields.push_back({lines.indexOf(name), group, inDetail});
-        writer.field(name);
+        writer.title(name, ofAmounts);
     };
     for (int group = 0; group < layout.groups.size(); ++group)
         for (const QString &name : layout.groups[group].fields)
-            addField(name, group, true);
+            addField(name, group, true, false);
     for (const Column &column : layout.columns)
-        addField(column.field, -1, column.inDetail);
+        addField(column.field, -1, column.inDetail, showsAmounts(column));
     writer.endRecord();
 
     progress.start(expectedLines);
@@ -74,7 +79,7 @@ void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &outp
         writer.field(bandName(line.band));
         for (const CsvField &field : fields) {
             const Engine::Value &value = line.values[static_cast<size_t>(field.index)];
-            writer.field(isGiven(field, line, lines) ? value.toText() : QString());
+            writer.field(isGiven(field, line, lines) ? value : Engine::Value());
         }
         writer.endRecord();
     }
@@ -82,10 +87,27 @@ void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &outp
     progress.finish();
 }
 
-void saveReportCsv(const ReportLayout &layout, RowReader &rows, const QString &fileName, Progress &progress,
-                   int expectedLines)
+void writeReportCsv(const ReportLayout &layout, RowReader &rows, QIODevice &output, Progress &progress,
+                    int expectedLines, CsvTexts texts)
 {
-    saveFile(fileName, [&](QIODevice &file) { writeReportCsv(layout, rows, file, progress, expectedLines); });
+    CsvWriter writer(output, texts);
+    writeReportRows(layout, rows, writer, progress, expectedLines);
+}
+
+void saveReportXlsx(const ReportLayout &layout, RowReader &rows, const QString &fileName, Progress &progress,
+                    int expectedLines)
+{
+    saveFile(fileName, [&](QIODevice &file) {
+        XlsxWriter writer(file, layout.title);
+        writeReportRows(layout, rows, writer, progress, expectedLines);
+    });
+}
+
+void saveReportCsv(const ReportLayout &layout, RowReader &rows, const QString &fileName, Progress &progress,
+                   int expectedLines, CsvTexts texts)
+{
+    saveFile(fileName,
+             [&](QIODevice &file) { writeReportCsv(layout, rows, file, progress, expectedLines, texts); });
 }
 
 } // namespace Tallymere::Printing

@@ -1,4 +1,5 @@
 #include "base/formats.h"
+#include "data/auditview.h"
 #include "master/masterkinds.h"
 #include "master/masterlist.h"
 #include "reports/columns.h"
@@ -75,6 +76,15 @@ RowReaderPtr totalsRows(Database &database, const ReportDescription &report, con
     return rowsOf(std::move(view), query, report, selection);
 }
 
+RowReaderPtr auditRows(Database &database, const ReportDescription &report, const ReportSelection &selection)
+{
+    auto view = std::make_unique<AuditView>(database);
+    if (!selection.order.isEmpty())
+        view->query().setOrderBy(selection.order);
+    Engine::DataSet &query = view->query();
+    return rowsOf(std::move(view), query, report, selection);
+}
+
 ReportDescription listReport(const QString &name, const QString &title, ReportDescription::Rows rows,
                              const QList<Column> &columns)
 {
@@ -136,6 +146,12 @@ QList<ReportDescription> listReports()
         listReport(
             u"TrptInvTotals"_s, ReportsTexts::tr("Inventory Totals"), totalsRows,
             {itemNo(), description(), location(), quantity(u"QtyOnHand"_s, ReportsTexts::tr("Quantity On Hand"))}),
+        wide(listReport(u"TrptAudit"_s, ReportsTexts::tr("Audit List"), auditRows,
+                        {Columns::date(AuditView::Day.toString(), date),
+                         text(AuditView::Time.toString(), ReportsTexts::tr("Time"), 0.6),
+                         text(AuditView::What.toString(), ReportsTexts::tr("What was done"), 5),
+                         text(AuditView::Who.toString(), ReportsTexts::tr("User"), 1.4),
+                         Columns::date(AuditView::Concerned.toString(), ReportsTexts::tr("Day concerned"))})),
     };
 }
 

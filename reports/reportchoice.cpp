@@ -26,6 +26,7 @@ ReportSelection takenBy(const ReportDescription::Parameters &parameters, const R
     if (parameters.buying) {
         taken.weeksOfUse = chosen.weeksOfUse;
         taken.weeksOfCover = chosen.weeksOfCover;
+        taken.alsoInStock = chosen.alsoInStock;
     }
     if (parameters.day)
         taken.day = chosen.day;

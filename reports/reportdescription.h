@@ -23,7 +23,8 @@ struct ReportSelection
     int year = 0; // this fiscal year
     QDate day{}; // the day reported, in place of the period
     int weeksOfUse = 0; // what to buy: over which use is looked at,
-    int weeksOfCover = 0; // and which the stock is to last
+    int weeksOfCover = 0; // and which the stock is to last;
+    bool alsoInStock = false; // with what lasts long enough
     QString filter{}; // the filter expression of the list that is printed,
     QString order{}; // and its order: an index of its table, or columns of its query. Empty: the usual one
 };

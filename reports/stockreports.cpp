@@ -72,7 +72,7 @@ ReportDescription stockAsOf()
 
 BuyingPlan planOf(QDate today, const ReportSelection &selection)
 {
-    BuyingPlan plan{.today = today, .location = selection.warehouseId};
+    BuyingPlan plan{.today = today, .location = selection.warehouseId, .alsoInStock = selection.alsoInStock};
     if (selection.weeksOfUse > 0)
         plan.weeks = selection.weeksOfUse;
     if (selection.weeksOfCover > 0)

@@ -1,20 +1,25 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing: packages.sh build|test|lint
+# Installs the Debian packages that are missing: packages.sh build|test|lint|package|trypackage
 # Asks for root rights only when something is missing.
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev libsqlite3-dev libpq-dev libzint-dev
-    libcups2-dev qt6-charts-dev libqt6opengl6-dev fonts-dejavu-core fonts-liberation qt6-tools-dev
-    qt6-documentation-tools libqt6sql6-sqlite)
-test=(postgresql-15 libgtest-dev clang-format qt6-l10n-tools cups cups-client poppler-utils zbar-tools)
+    libcups2-dev libzip-dev libxlsxwriter-dev qt6-charts-dev libqt6opengl6-dev fonts-dejavu-core fonts-liberation
+    qt6-tools-dev qt6-documentation-tools qt6-l10n-tools qt6-translations-l10n libqt6sql6-sqlite qt6-httpserver-dev qt6-websockets-dev
+    libssl-dev)
+test=(postgresql-15 libgtest-dev clang-format cups cups-client poppler-utils zbar-tools)
 lint=(clang-format clang-tidy)
+package=("${build[@]}" dpkg-dev file help2man lintian appstream desktop-file-utils libxml2-utils)
+trypackage=(mmdebstrap imagemagick)
 
 case "${1:-}" in
 build) wanted=("${build[@]}") ;;
 test) wanted=("${build[@]}" "${test[@]}") ;;
 lint) wanted=("${lint[@]}") ;;
+package) wanted=("${package[@]}") ;;
+trypackage) wanted=("${trypackage[@]}") ;;
 *)
-    echo "usage: packages.sh build|test|lint" >&2
+    echo "usage: packages.sh build|test|lint|package|trypackage" >&2
     exit 2
     ;;
 esac

@@ -3,6 +3,7 @@
 #include "base/ruleerror.h"
 #include "base/savedfile.h"
 #include "engine/store/database.h"
+#include "engine/store/platform.h"
 #include "transactions/texts.h"
 
 #include <cmath>
@@ -29,16 +30,24 @@ QString folderName(const QString &database, const QString &user)
     return QString::fromLatin1(QCryptographicHash::hash(name, QCryptographicHash::Sha256).toHex().left(32));
 }
 
+QJsonArray writtenCount(const CountDraft &draft, qint64 item)
+{
+    QJsonArray count{item, draft.counts.value(item), draft.recorded.value(item), draft.itemNos.value(item)};
+    if (const CountMark mark = draft.marks.value(item); mark.at.isValid())
+        count << mark.by << mark.at.toString(Qt::ISODate);
+    return count;
+}
+
 QJsonDocument written(const CountDraft &draft)
 {
     QJsonArray counts;
     for (auto count = draft.counts.cbegin(); count != draft.counts.cend(); ++count)
-        counts.append(
-            QJsonArray{count.key(), *count, draft.recorded.value(count.key()), draft.itemNos.value(count.key())});
+        counts.append(writtenCount(draft, count.key()));
     QJsonArray costs;
     for (auto cost = draft.costs.cbegin(); cost != draft.costs.cend(); ++cost)
         costs.append(QJsonArray{cost.key(), cost->toDouble(), draft.itemNos.value(cost.key())});
     return QJsonDocument(QJsonObject{{u"saved"_s, draft.saved.toString(Qt::ISODate)},
+                                     {u"id"_s, draft.id},
                                      {u"date"_s, draft.date.toString(Qt::ISODate)},
                                      {u"zeroCounts"_s, draft.zeroCounts == ZeroCounts::Included},
                                      {u"order"_s, static_cast<int>(draft.order)},
@@ -50,6 +59,7 @@ CountDraft read(const QJsonObject &object)
 {
     CountDraft draft;
     draft.saved = QDateTime::fromString(object[u"saved"_s].toString(), Qt::ISODate);
+    draft.id = object[u"id"_s].toString();
     draft.date = QDate::fromString(object[u"date"_s].toString(), Qt::ISODate);
     draft.zeroCounts = object[u"zeroCounts"_s].toBool() ? ZeroCounts::Included : ZeroCounts::Excluded;
     const int order = object[u"order"_s].toInt();
@@ -64,6 +74,9 @@ CountDraft read(const QJsonObject &object)
         draft.counts.insert(item, quantity);
         draft.recorded.insert(item, count[2].toDouble());
         draft.itemNos.insert(item, count[3].toString());
+        const CountMark mark{count[4].toString(), QDateTime::fromString(count[5].toString(), Qt::ISODate)};
+        if (mark.at.isValid())
+            draft.marks.insert(item, mark);
     }
     const QJsonArray costs = object[u"costs"_s].toArray();
     for (const auto &cost : costs) {
@@ -119,13 +132,15 @@ QList<int> CountDrafts::locations() const
 // Readable by the user alone; complete or not there at all.
 void CountDrafts::save(int location, const CountDraft &draft) const
 {
-    QDir().mkpath(m_folder);
+    Engine::makeFolder(m_folder);
     QSaveFile file(fileOf(location));
     const QByteArray text = written(draft).toJson(QJsonDocument::Compact);
     if (file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
         && file.write(text) == text.size() && file.flush()
-        && file.commit()) // which does not tell that the last block was not written whole
+        && file.commit()) { // which does not tell that the last block was not written whole
+        Engine::syncFolder(m_folder);
         return;
+    }
     throw RuleError(TransactionsTexts::tr("What has been counted could not be kept in %1: %2")
                         .arg(fileOf(location), reasonOfShortWrite(file)));
 }

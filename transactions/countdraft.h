@@ -21,6 +21,8 @@ struct CountDraft
     CountList::Order order = CountList::Order::ItemNo;
     ItemQuantities counts;
     ItemCosts costs = {}; // standard costs that have been typed
+    CountMarks marks = {}; // of the counts
+    QString id = {}; // tells the count from every other one
     // More may be given to save() of these than of the items counted or typed for.
     ItemQuantities recorded = {}; // what the books held
     ItemNumbers itemNos = {};

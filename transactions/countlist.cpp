@@ -136,16 +136,21 @@ void CountList::sortBy(Order order)
     m_rows = std::move(sorted);
 }
 
-void CountList::count(int row, double quantity)
+void CountList::count(int row, double quantity, CountMark mark)
 {
     if (quantity < 0)
         throw RuleError(TransactionsTexts::tr("A quantity that has been counted cannot be below zero"),
                         Fields::Quantity);
     requireSensibleQuantity(quantity, Fields::Quantity);
     at(row).typed = quantity + 0.0; // no minus sign at zero
+    at(row).mark = std::move(mark);
 }
 
-void CountList::forgetCount(int row) { at(row).typed.reset(); }
+void CountList::forgetCount(int row)
+{
+    at(row).typed.reset();
+    at(row).mark = {};
+}
 
 void CountList::setStandardCost(int row, Engine::Money cost)
 {
@@ -159,6 +164,26 @@ double CountList::highest(int row) const
     return prior > 0 ? std::max(prior, withoutNoise(prior)) : 1;
 }
 
+void CountList::requireWithinRecord(int row, double quantity, bool blind) const
+{
+    const double most = highest(row);
+    if (this->row(row).typed == quantity || (quantity >= 0 && quantity <= most))
+        return;
+    const QString column = TransactionsTexts::tr("Current Quantity");
+    if (quantity < 0)
+        throw RuleError(TransactionsTexts::tr("'%1' must not be less than %2").arg(column, u"0"_s),
+                        Fields::Quantity);
+    if (blind)
+        throw RuleError(
+            TransactionsTexts::tr(
+                "This is more than is recorded. Count the item once more. If it is right, write down what "
+                "is there, to enter it as an adjustment when the usage of the count has been posted."),
+            Fields::Quantity);
+    throw RuleError(TransactionsTexts::tr("'%1' must not be greater than %2")
+                        .arg(column, quantityFormat().edit(Engine::Value(most))),
+                    Fields::Quantity);
+}
+
 // Fractions are lost on both sides: books of items that are deducted here are kept in whole numbers.
 void CountList::deduct(const ItemQuantities &unposted)
 {
@@ -169,6 +194,7 @@ void CountList::deduct(const ItemQuantities &unposted)
         const auto left = static_cast<qint64>(placed.row.prior()) - static_cast<qint64>(*found);
         placed.row.recorded = static_cast<double>(left);
         placed.row.typed.reset();
+        placed.row.mark = {};
     }
 }
 
@@ -199,11 +225,24 @@ ItemQuantities CountList::counts() const
     return counts;
 }
 
-void CountList::takeCounts(const ItemQuantities &counts)
+CountMarks CountList::marks() const
+{
+    CountMarks marks;
+    for (const Placed &placed : m_rows) {
+        if (placed.row.typed)
+            marks.insert(placed.row.itemId, placed.row.mark);
+    }
+    return marks;
+}
+
+void CountList::takeCounts(const ItemQuantities &counts, const CountMarks &marks)
 {
     for (Placed &placed : m_rows) {
-        if (const auto found = counts.constFind(placed.row.itemId); found != counts.constEnd())
-            placed.row.typed = *found;
+        const auto found = counts.constFind(placed.row.itemId);
+        if (found == counts.constEnd())
+            continue;
+        placed.row.typed = *found;
+        placed.row.mark = marks.value(placed.row.itemId);
     }
 }
 

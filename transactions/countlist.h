@@ -3,11 +3,21 @@
 #include "engine/values/money.h"
 
 #include <optional>
+#include <QDateTime>
 #include <QHash>
 #include <QString>
 #include <vector>
 
 namespace Tallymere {
+
+// Who has counted an item, and when. Without a name it is whoever counts at this machine.
+struct CountMark
+{
+    QString by;
+    QDateTime at;
+
+    bool operator==(const CountMark &) const = default;
+};
 
 // An item in the list of a count.
 struct CountRow
@@ -21,6 +31,7 @@ struct CountRow
     Engine::Money unitCost; // by the costing method of the item's type
     std::optional<double> recorded; // what the books hold; nothing where there is no balance
     std::optional<double> typed; // what has been counted; nothing while nobody has, which is not 0
+    CountMark mark = {}; // of what has been counted
 
     double prior() const { return recorded.value_or(0); }
     double counted() const { return typed.value_or(prior()); }
@@ -33,6 +44,7 @@ struct CountRow
 using ItemQuantities = QHash<qint64, double>;
 using ItemCosts = QHash<qint64, Engine::Money>;
 using ItemNumbers = QHash<qint64, QString>;
+using CountMarks = QHash<qint64, CountMark>;
 
 // The items to be counted at one location, with what has been counted so far. Counts stay with their items in every
 // order.
@@ -58,11 +70,14 @@ public:
     void sortBy(Order order);
 
     // Takes a count; throws RuleError for one below zero, or beyond what can be meant.
-    void count(int row, double quantity);
+    void count(int row, double quantity, CountMark mark = {});
     void forgetCount(int row); // nobody has counted it
     void setStandardCost(int row, Engine::Money cost);
     // The most that is expected: what is recorded, as it is shown at least, or 1 where that is nothing.
     double highest(int row) const;
+    // Throws RuleError for a count above that or below zero, unless it is what has been counted already. Blind, without
+    // telling how much that is.
+    void requireWithinRecord(int row, double quantity, bool blind) const;
 
     // Takes quantities that wait to be posted off what is recorded, in whole numbers, and drops the counts of those
     // items.
@@ -72,7 +87,8 @@ public:
     bool hasUsage() const; // some row holds less than recorded
     int countedAbove() const; // rows that hold more
     ItemQuantities counts() const; // of the items that have been counted
-    void takeCounts(const ItemQuantities &counts);
+    CountMarks marks() const; // of these
+    void takeCounts(const ItemQuantities &counts, const CountMarks &marks = {});
     ItemCosts costs() const; // standard costs that have been typed
     void takeCosts(const ItemCosts &costs);
     ItemNumbers itemNos() const; // of all items

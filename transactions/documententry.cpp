@@ -11,6 +11,8 @@
 #include "transactions/texts.h"
 
 #include <algorithm>
+#include <QScopeGuard>
+#include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
 using Engine::ErrorCode;
@@ -116,6 +118,62 @@ bool DocumentEntry::openDocument(int key)
     return m_header.findKey({key});
 }
 
+void DocumentEntry::takeUp(std::unique_ptr<BegunDocument> left)
+{
+    const BegunDocument::Header texts = left->header();
+    m_begun = std::move(left);
+    newDocument(m_kind.numberField ? texts.value(*m_kind.numberField) : QString());
+    try {
+        setHeader(texts);
+        m_visit.takeUpLines();
+        m_nextSeq = highestSeq() + 1;
+        takenUp();
+    } catch (...) {
+        m_header.cancel();
+        throw;
+    }
+}
+
+BegunDocument::Header DocumentEntry::headerTexts() const
+{
+    BegunDocument::Header texts;
+    for (int i = 0; i < m_header.fieldCount(); ++i) {
+        const Engine::Field &field = m_header.field(i);
+        if (field.kind == Engine::FieldKind::Data && field.name != m_kind.keyField && !m_header.value(i).isNull())
+            texts.insert(field.name, m_header.value(i).toText());
+    }
+    return texts;
+}
+
+// Whatever cannot be chosen any more, as a vendor that was suspended meanwhile, is asked for anew.
+void DocumentEntry::setHeader(const BegunDocument::Header &texts)
+{
+    for (const auto &[name, text] : texts.asKeyValueRange()) {
+        const int at = m_header.fieldIndex(name);
+        if (at < 0 || std::as_const(m_header).field(at).kind != Engine::FieldKind::Data)
+            continue;
+        try {
+            m_header.set(name, Value(text).as(std::as_const(m_header).field(at).type));
+        } catch (const RuleError &) {
+        } catch (const Engine::EngineError &error) {
+            if (error.isStoreLost())
+                throw;
+        }
+    }
+}
+
+// A transaction that fails takes the lines with it.
+void DocumentEntry::signBegun()
+{
+    if (m_header.state() != Engine::TableState::Insert || database().connection().inTransaction())
+        return;
+    if (!m_begun || m_begun->isLost()) {
+        m_begun.reset();
+        m_begun = std::make_unique<BegunDocument>(database(), m_kind, key());
+    }
+    m_begun->keep(headerTexts());
+}
+
 void DocumentEntry::beginVisit()
 {
     m_visit.begin();
@@ -130,6 +188,8 @@ void DocumentEntry::endVisit()
     m_visit.end();
     m_takenOut.reset();
     m_stock.forget();
+    if (const std::unique_ptr<BegunDocument> begun = std::move(m_begun))
+        begun->end();
     visitBegins();
 }
 
@@ -178,8 +238,11 @@ void DocumentEntry::newHeader()
 void DocumentEntry::assignNumbers()
 {
     const DocumentKind::Counters &from = m_kind.entry.counters;
+    if (m_begun)
+        m_header.setDefault(m_kind.keyField, static_cast<int>(m_begun->key()));
     numbers(from.table, [&](CounterRow &counters) {
-        m_header.setDefault(m_kind.keyField, counters.takeKey(from.key, m_kind.keyField, m_kind.keyTables()));
+        if (!m_begun)
+            m_header.setDefault(m_kind.keyField, counters.takeKey(from.key, m_kind.keyField, m_kind.keyTables()));
         if (!m_kind.numberField || !m_givenNumber.isEmpty())
             return;
         counters.restartOutside(*from.number, firstNumber, lastNumber, from.restart);
@@ -322,6 +385,7 @@ void DocumentEntry::LineRules::post(const Step &save)
     entry.checkLine();
     entry.m_check.checkFigures(entry.lineCost());
     entry.numberLine();
+    entry.signBegun();
     try {
         entry.m_visit.write(save);
     } catch (const Engine::EngineError &error) {
@@ -430,6 +494,17 @@ void DocumentEntry::chooseItemByDescription(const QString &description)
     chooseItem(itemId);
 }
 
+void DocumentEntry::chooseScannedItem(int itemId, bool mayReplace)
+{
+    setLineColumn(Fields::ItemNo);
+    const int present = m_lines.integer(Fields::ItemID);
+    if (!m_lines.isEmpty() && present == itemId)
+        return;
+    if (m_lines.isEmpty() || (present != 0 && !mayReplace))
+        newLine();
+    chooseItem(itemId);
+}
+
 bool DocumentEntry::goToLineOf(int itemId, double quantity)
 {
     if (m_lines.isEditing())
@@ -468,6 +543,84 @@ void DocumentEntry::newLineWith(const std::function<std::optional<Value>(const Q
         m_lines.cancel();
         throw;
     }
+}
+
+// --- several lines -----------------------------------------------------------------------------------------------
+
+bool DocumentEntry::takesText(const QString &column) const
+{
+    return m_lines.field(column).kind == Engine::FieldKind::Data || column == Fields::ItemNo
+        || column == Fields::ItemDescription;
+}
+
+void DocumentEntry::clearLine()
+{
+    for (int i = 0; i < m_lines.fieldCount(); ++i)
+        if (m_lines.field(i).kind == Engine::FieldKind::Data)
+            m_lines.setDefault(m_lines.field(i).name, {});
+    m_lines.setDefault(m_kind.keyField, key());
+}
+
+// One new line serves for all. Whoever shows the lines need not see it.
+void DocumentEntry::tryLines(int count, const std::function<void(int)> &fillAndLook)
+{
+    m_lines.checkBrowseMode();
+    lockLines();
+    const QSignalBlocker quiet(m_lines);
+    newLine();
+    const auto dropped = qScopeGuard([this] { m_lines.cancel(); });
+    for (int line = 0; line < count; ++line) {
+        clearLine();
+        fillAndLook(line);
+    }
+}
+
+std::optional<QString> DocumentEntry::judgeLine()
+{
+    checkLine();
+    requireQuantity();
+    m_check.requireFigures(lineCost());
+    return m_check.questionOf(lineCost());
+}
+
+void DocumentEntry::addLines(int count, const std::function<void(int)> &fill)
+{
+    m_lines.checkBrowseMode();
+    lockLines();
+    Engine::Row header;
+    for (int i = 0; i < m_header.fieldCount(); ++i)
+        header.push_back(m_header.value(i));
+    const int nextSeq = m_nextSeq;
+    signBegun();
+    try {
+        const QSignalBlocker quiet(m_lines); // they are shown once all are there
+        m_visit.writeTogether([&] {
+            for (int line = 0; line < count; ++line) {
+                newLine();
+                fill(line);
+                judgeLine();
+                m_check.storedFigures(lineCost());
+                m_lines.post();
+            }
+        });
+    } catch (...) {
+        takeBackLines(header, nextSeq);
+        throw;
+    }
+    m_lines.refresh();
+}
+
+void DocumentEntry::takeBackLines(const Engine::Row &header, int nextSeq)
+{
+    if (m_lines.isEditing())
+        m_lines.cancel();
+    m_nextSeq = nextSeq;
+    for (int i = 0; m_header.isEditing() && i < m_header.fieldCount(); ++i)
+        if (m_header.field(i).kind == Engine::FieldKind::Data)
+            m_header.setDefault(m_header.field(i).name, header[static_cast<size_t>(i)]);
+    m_stock.linesChanged();
+    linesTakenBack();
+    m_lines.refresh();
 }
 
 // --- the line taken out last -----------------------------------------------------------------------------------

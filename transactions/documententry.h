@@ -6,6 +6,7 @@
 #include "engine/records/table.h"
 #include "engine/store/database.h"
 #include "engine/store/session.h"
+#include "transactions/begundocument.h"
 #include "transactions/documentkind.h"
 #include "transactions/documentvisit.h"
 #include "transactions/linecheck.h"
@@ -46,6 +47,9 @@ public:
     // of the numbers alone.
     void newDocument(const QString &number = {});
     bool openDocument(int key); // false when there is no such document
+    // A new document with the stored lines and the header of one that was begun and left. What can no longer be chosen
+    // is empty in it.
+    void takeUp(std::unique_ptr<BegunDocument> left);
 
     const DocumentKind &kind() const { return m_kind; }
     Engine::Table &header() { return m_header; }
@@ -89,6 +93,9 @@ public:
     void chooseItemByNumber(const QString &itemNo);
     // The same by its description, whatever its letter case.
     void chooseItemByDescription(const QString &description);
+    // The same for what a scanner has named. A line that has another item already stays, unless the code was meant for just
+    // that, and a new one gets the item.
+    void chooseScannedItem(int itemId, bool mayReplace);
     // Goes to the line of an item, of several to that with the quantity. False when there is none, or a line is in edit.
     bool goToLineOf(int itemId, double quantity);
     void newLine(); // appends a line
@@ -100,6 +107,17 @@ public:
     // been written since, or the visit is over.
     QString takenOut() const;
     void putBack(); // that one as the last line, under the rules of entry
+    // Several lines at once. Each step fills the new line that it finds in hand.
+    //
+    // As if they were to be written, one after the other: the document is locked, and what the steps do is dropped.
+    void tryLines(int count, const std::function<void(int line)> &fillAndLook);
+    // Refuses of the line in hand what would be refused when it is written, and gives what would be asked.
+    std::optional<QString> judgeLine();
+    // Writes all of them, or none where one is refused or cannot be stored. Their figures are not asked about.
+    void addLines(int count, const std::function<void(int line)> &fill);
+    bool takesText(const QString &column) const; // it is stored, or chooses the item
+    int itemByNumber(const QString &itemNo) const { return m_check.itemByNumber(itemNo); }
+    int itemByDescription(const QString &description) const { return m_check.itemByDescription(description); }
     // Besides what is stored, lines() tells by these fields what is on hand and what will be (see LineStock), as it was
     // when the visit began or refreshStock() was last called.
     static constexpr QStringView OnHand = u"OnHand";
@@ -112,7 +130,7 @@ public:
         QString origin; // "Last cost from this vendor: 4.20, on 11 Feb 26"
     };
     virtual std::optional<Offer> offerFor(const QString &) { return std::nullopt; }
-    virtual QString totalText() { return {}; } // what the lines come to; empty where that is told otherwise
+    virtual QString totalText() { return {}; } // what the lines come to; empty: nothing, or no amount of money
     // Refuses a line without a quantity. Not every kind does so by itself: on a screen it counts as nothing.
     void requireQuantity() const { m_check.requireQuantity(); }
 
@@ -128,6 +146,7 @@ protected:
     virtual void visitBegins() { } // to a document new or opened, or anew once its changes are stored or dropped
     virtual void configureFields(); // labels, formats and checks of fields, once the tables are open
     virtual void presetHeader() { } // further defaults of a new header
+    virtual void takenUp() { } // what the header keeps about all lines is to be made anew
     virtual void checkComplete() { } // before everything else when the header is saved
     virtual void checkReferences(); // after the period: what the header names, and that there are lines
     virtual void checkLine(); // before a line gets its number and is written
@@ -140,6 +159,7 @@ protected:
     virtual void lineChanging(LineChange) { }
     virtual void lineSaved() { }
     virtual void lineRemoved() { }
+    virtual void linesTakenBack() { } // those that were written are gone again, and the header is as it was
     virtual void restoreLine(const Engine::Row &kept); // fills the new line from the copy
 
     // --- pieces for those ------------------------------------------------------------------------------------
@@ -180,6 +200,10 @@ private:
     void beginVisit();
     void endVisit();
 
+    BegunDocument::Header headerTexts() const;
+    void setHeader(const BegunDocument::Header &texts);
+    void signBegun();
+
     void newHeader();
     void assignNumbers();
     void refusePosted() const;
@@ -190,6 +214,8 @@ private:
 
     void lockLines();
     void beginLineChange(LineChange change);
+    void clearLine();
+    void takeBackLines(const Engine::Row &header, int nextSeq);
     void numberLine();
     int highestSeq() const;
     QString lineName() const;
@@ -217,6 +243,7 @@ private:
     TakenOut currentLine() const;
     std::optional<TakenOut> m_takenOut;
     QString m_givenNumber; // of the new document, from a file that has one; empty: the counter gives it
+    std::unique_ptr<BegunDocument> m_begun; // since the first line of a new document
     QDate m_distantDate; // that the user wants all the same
 };
 

@@ -6,6 +6,8 @@
 #include "engine/store/database.h"
 #include "engine/values/linetext.h"
 
+#include <QScopeGuard>
+
 using namespace Qt::StringLiterals;
 using Engine::FieldType;
 
@@ -68,31 +70,33 @@ void DocumentList::remove(Prompts &prompts)
     table().flush();
 }
 
+// From the look at the document to the end of its deletion nobody else may come to edit or post it.
 void DocumentList::removeWithLines()
 {
-    refuseAsStored();
+    holdUnposted();
+    const auto letGo = qScopeGuard([this] { table().cancel(); });
     if (removeUnposted())
         return;
-    refuseAsStored(); // deleted or posted in between
+    table().cancel();
+    holdUnposted(); // deleted or posted by somebody who does not ask our locks, or since the connection was lost
     throw RuleError(postedText());
 }
 
-// The lock of the edit keeps others out while the question whether the document may go is still open, and reads the
-// document anew; one that is gone it refuses itself.
-void DocumentList::refuseAsStored()
+// The edit keeps others out and reads the document anew; one that is gone it refuses itself.
+void DocumentList::holdUnposted()
 {
     table().edit();
-    const bool isPosted = table().boolean(Fields::Posted);
+    if (!table().boolean(Fields::Posted))
+        return;
     table().cancel();
-    if (isPosted)
-        throw RuleError(postedText());
+    throw RuleError(postedText());
 }
 
 bool DocumentList::removeUnposted()
 {
     Engine::Connection &connection = table().database().connection();
     Engine::Transaction transaction(connection);
-    // Claims the row within the transaction: it may have been posted since the edit was let go.
+    table().cancel(); // its lock is kept until the transaction ends
     const Engine::StatementPtr claim = connection.prepare(
         u"UPDATE %1 SET %2 = %2 WHERE %2 = ? AND Posted IS NOT TRUE"_s.arg(m_kind.headerTable, m_kind.keyField));
     claim->bindInt(0, currentKey());

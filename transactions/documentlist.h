@@ -27,7 +27,7 @@ private:
     QString name() const; // as questions name the current document
     QString postedText() const;
     void refuseIfPosted(const QString &refusal) const;
-    void refuseAsStored(); // when it is gone or has been posted by now
+    void holdUnposted(); // in edit; refuses when it is gone or has been posted by now
     void removeWithLines();
     bool removeUnposted(); // false, and nothing is removed, when it is not there unposted any more
 

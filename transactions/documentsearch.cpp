@@ -6,6 +6,7 @@
 #include "engine/store/sqlcondition.h"
 #include "transactions/documentkind.h"
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -52,6 +53,22 @@ std::optional<qint64> keyOf(const QString &number)
     return key;
 }
 
+// The keys that are written with these figures at their beginning: 12, 120 to 129, 1200 to 1299 and so on.
+Engine::SqlCondition keyBegins(Engine::Database &database, const DocumentKind &kind, qint64 key)
+{
+    const QString column = "t."_L1 + database.connection().dialect().name(kind.keyField);
+    QStringList ranges;
+    QList<Engine::Value> bounds;
+    constexpr qint64 largest = std::numeric_limits<qint32>::max();
+    for (qint64 lowest = key, highest = key; lowest <= largest; lowest *= 10, highest = highest * 10 + 9) {
+        ranges << u"%1 BETWEEN ? AND ?"_s.arg(column);
+        bounds << Engine::Value(lowest) << Engine::Value(std::min(highest, largest));
+        if (key == 0) // no number begins with it but itself
+            break;
+    }
+    return {u'(' + ranges.join(" OR "_L1) + u')', bounds};
+}
+
 } // namespace
 
 QList<FoundDocument> documentsByNumber(Engine::Database &database, const DocumentKind &kind, const QString &number,
@@ -62,7 +79,7 @@ QList<FoundDocument> documentsByNumber(Engine::Database &database, const Documen
         const Engine::Dialect &dialect = database.connection().dialect();
         condition = Engine::beginsWith(dialect, {"t."_L1 + dialect.name(*kind.numberField), false}, number);
     } else if (const std::optional<qint64> key = keyOf(number)) {
-        condition = keyIs(database, kind, *key);
+        condition = keyBegins(database, kind, *key);
     }
     QList<FoundDocument> found = read(database, kind, condition, most);
     for (FoundDocument &one : found)

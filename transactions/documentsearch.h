@@ -22,7 +22,7 @@ struct FoundDocument
 };
 
 // The documents of a kind by their number, as it stands in the books now: the number itself first, then those that begin
-// with it. One key look-up, however many there are; where the key is shown that is the number, whole.
+// with it. Key look-ups, however many there are; where the key is shown that is the number.
 QList<FoundDocument> documentsByNumber(Engine::Database &database, const DocumentKind &kind, const QString &number,
                                        int most);
 // The document of a key; nothing when it is gone.

@@ -35,12 +35,14 @@ DocumentVisit::DocumentVisit(Engine::Table &header, Engine::Table &lines, QStrin
     , m_keyField(std::move(keyField))
     , m_prompts(prompts)
 {
+    for (Engine::Table *table : {&m_header, &m_lines})
+        table->holdMore = [this] { hold(); };
 }
 
 void DocumentVisit::begin()
 {
     end();
-    m_losses = m_header.database().connection().locks().losses();
+    m_losses = m_checkedLosses = m_header.database().connection().locks().losses();
 }
 
 void DocumentVisit::end()
@@ -49,7 +51,7 @@ void DocumentVisit::end()
     m_kept.reset();
 }
 
-// A lost connection has taken the lock of the header with it, and so of the lines. It is taken again, but whoever has
+// A lost connection has taken the lock of the header with it, or of a new document, and so of the lines. It is taken again, but whoever has
 // changed the document meanwhile goes first.
 void DocumentVisit::hold()
 {
@@ -57,7 +59,9 @@ void DocumentVisit::hold()
         throw RuleError(TransactionsTexts::tr(
             "The document had been saved before the connection was lost. Close this screen with Cancel "
             "and open the document anew."));
-    if (m_header.holdRecord())
+    const Engine::LockManager &locks = m_header.database().connection().locks();
+    const bool isNewAfterLoss = isNew() && (locks.areLost() || locks.losses() != m_checkedLosses);
+    if (m_header.holdRecord() || isNewAfterLoss)
         m_lockWasLost = true;
     if (!m_lockWasLost)
         return;
@@ -67,6 +71,7 @@ void DocumentVisit::hold()
                             "Cancel, and make your changes again."),
                         LineGrid);
     m_lockWasLost = false;
+    m_checkedLosses = locks.losses();
 }
 
 // The answer to the saving may be all that was lost.
@@ -97,6 +102,11 @@ void DocumentVisit::keepLines()
 {
     if (m_kept)
         return;
+    // The key of a new document was looked for in both tables, and a run has these to itself.
+    if (isNew() && m_header.database().connection().isInRun()) {
+        m_kept.emplace(m_lines, std::vector<Engine::Row>());
+        return;
+    }
     m_lines.refresh();
     if (isNew() && (!m_lines.isEmpty() || hasStoredHeader()))
         throw RuleError(TransactionsTexts::tr("Another document with the key of this new one has been stored "
@@ -105,12 +115,22 @@ void DocumentVisit::keepLines()
     m_kept.emplace(m_lines, rowsOf(m_lines));
 }
 
+// None of them was there when the document was begun.
+void DocumentVisit::takeUpLines()
+{
+    m_lines.refresh();
+    m_kept.emplace(m_lines, std::vector<Engine::Row>());
+    for (const Engine::Row &line : rowsOf(m_lines))
+        m_kept->changed(line[static_cast<size_t>(m_lines.fieldIndex(Fields::Seq))].toInt(), line);
+}
+
+// What is calculated, as what is on hand, is not asked for: that would read it.
 Engine::Row DocumentVisit::currentLine() const
 {
     Engine::Row row;
     row.reserve(static_cast<size_t>(m_lines.fieldCount()));
     for (int i = 0; i < m_lines.fieldCount(); ++i)
-        row.push_back(m_lines.value(i));
+        row.push_back(m_lines.field(i).kind == Engine::FieldKind::Calculated ? Engine::Value() : m_lines.value(i));
     return row;
 }
 
@@ -121,7 +141,7 @@ void DocumentVisit::write(const Engine::RecordRules::Step &save)
     try {
         save();
     } catch (const Engine::EngineError &error) {
-        const bool isRefused = m_lines.isEditing() && error.code() != ErrorCode::ConnectionLost;
+        const bool isRefused = m_lines.isEditing() && !error.isConnectionLost();
         if (m_kept && isRefused)
             m_kept->refused(m_lines.integer(Fields::Seq));
         throw;
@@ -140,6 +160,31 @@ void DocumentVisit::remove(const Engine::RecordRules::Step &erase)
         m_kept->changed(seq, {});
 }
 
+// Where the connection breaks, the answer to the commit may be all that is lost.
+void DocumentVisit::writeTogether(const std::function<void()> &writeAll)
+{
+    const std::optional<LineCopy> before = m_kept;
+    const auto restore = [&](bool isUncertain) {
+        if (!before || !m_kept)
+            return;
+        LineCopy known = *before;
+        if (isUncertain)
+            known.mayHaveBecome(*m_kept);
+        m_kept.emplace(std::move(known));
+    };
+    try {
+        Engine::Transaction transaction(m_lines.database().connection());
+        writeAll();
+        transaction.commit();
+    } catch (const Engine::EngineError &error) {
+        restore(error.isStoreLost());
+        throw;
+    } catch (...) {
+        restore(false);
+        throw;
+    }
+}
+
 // --- taking back -----------------------------------------------------------------------------------------------
 
 void DocumentVisit::takeBackLines(const FillLine &fill)
@@ -156,7 +201,7 @@ void DocumentVisit::takeBackLines(const FillLine &fill)
             if (error.code() == ErrorCode::RecordChanged || error.code() == ErrorCode::RecordGone)
                 return tellOthers();
             // The first statement after a loss notices it, the next one connects again.
-            if (error.code() == ErrorCode::ConnectionLost && !std::exchange(connectedAgain, true))
+            if (error.isConnectionLost() && !std::exchange(connectedAgain, true))
                 continue;
             if (!mayTryAgain(error))
                 return;

@@ -39,9 +39,14 @@ public:
     // has some already: they are another one's, of the same key.
     void keepLines();
 
+    // Lines of a new document that are stored already, and are its own.
+    void takeUpLines();
+
     // Around each write and removal of the current line.
     void write(const Engine::RecordRules::Step &save);
     void remove(const Engine::RecordRules::Step &erase);
+    // Around the writing of several: all of them are stored, or none.
+    void writeTogether(const std::function<void()> &writeAll);
 
     bool hasKept() const { return m_kept.has_value(); }
     // Stores the lines as they were, with their former numbers, each filled by its kind; without the rules of the
@@ -70,6 +75,7 @@ private:
 
     std::optional<LineCopy> m_kept; // goes with the lock
     bool m_lockWasLost = false; // and who has been at the lines meanwhile is not known yet
+    int m_checkedLosses = 0; // up to which the lines have been looked at
     int m_losses = 0; // of the connection, when the visit began
 };
 

@@ -32,7 +32,7 @@ Engine::StatementPtr remembering(Engine::Database &database, TransType type, qin
 
 void rememberSaved(Engine::Database &database, TransType type, qint64 document)
 {
-    database.change([&] { remembering(database, type, document)->execute(); });
+    database.change([&] { database.connection().write(*remembering(database, type, document)); });
 }
 
 void rememberSaved(Engine::Database &database, TransType type, qint64 document, Engine::Writes &writes)

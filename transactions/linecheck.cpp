@@ -4,8 +4,7 @@
 #include "data/fields.h"
 #include "engine/records/query.h"
 #include "engine/store/database.h"
-#include "master/masterkinds.h"
-#include "master/recordnumber.h"
+#include "master/barcodes.h"
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
@@ -55,7 +54,7 @@ void LineCheck::requireUsable(const Value &itemId) const
 
 int LineCheck::itemByNumber(const QString &itemNo) const
 {
-    const std::optional<int> itemId = findByNumber(m_lines.database(), MasterKinds::item(), itemNo);
+    const std::optional<int> itemId = itemOfCode(m_lines.database(), itemNo);
     if (!itemId)
         refuseItem(Fields::ItemNo);
     return *itemId;
@@ -104,6 +103,8 @@ void LineCheck::checkFigures(double cost)
     confirmLargeFigures(entered, quantityField(), m_prompts);
     m_known = entered;
 }
+
+std::optional<QString> LineCheck::questionOf(double cost) const { return questionOfLargeFigures(figures(cost)); }
 
 void LineCheck::requireFigures(double cost) const
 {

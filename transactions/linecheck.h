@@ -21,7 +21,8 @@ public:
     // picked by its description in a column with another text.
     void setColumn(const QString &field) { m_column = field; }
     void requireUsable(const Engine::Value &itemId) const; // refuses an item that is suspended or, typed, unknown
-    int itemByNumber(const QString &itemNo) const; // letter case is second to a number found as typed
+    int
+    itemByNumber(const QString &itemNo) const; // or by a barcode; letter case is second to a number found as typed
     int itemByDescription(const QString &description) const; // letter case does not count
 
     [[noreturn]] void refuse(const QString &message, const QString &column) const; // with the advice to undo
@@ -35,6 +36,7 @@ public:
     void storedFigures(double cost) { m_known = figures(cost); }
     void checkFigures(double cost); // SilentAbort when the user does not mean them
     void requireFigures(double cost) const; // refuses what is no amount of money, and asks nothing
+    std::optional<QString> questionOf(double cost) const; // what would be asked of figures that are not known yet
 
 private:
     const QString &quantityField() const { return m_kind.entry.lineColumns.constFirst().field; }

@@ -38,6 +38,16 @@ void LineCopy::refused(int seq)
         m_possible.erase(seq); // none of this visit's
 }
 
+void LineCopy::mayHaveBecome(const LineCopy &later)
+{
+    for (const auto &[seq, states] : later.m_possible) {
+        std::vector<State> &possible = m_possible[seq];
+        if (possible.empty())
+            possible.emplace_back(); // a new line
+        possible.insert(possible.end(), states.begin(), states.end());
+    }
+}
+
 void LineCopy::restoring()
 {
     for (auto &[seq, possible] : m_possible)

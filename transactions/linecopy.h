@@ -23,6 +23,7 @@ public:
     void changing(int seq, const State &to); // about to be written; either may be stored if the connection breaks
     void changed(int seq, const State &to);
     void refused(int seq); // what was about to be written is not stored for certain
+    void mayHaveBecome(const LineCopy &later); // what that knows is stored, or what this one knows
     void restoring(); // all lines are about to be as they were
     void restoring(int seq, const Engine::Row &as); // this one as its kind brings it back
 

@@ -136,8 +136,7 @@ QString ReceiptEntry::totalText()
     if (!header().isOpen() || (lines().isEmpty() && !lines().isEditing()))
         return {};
     const std::optional<Engine::Money> sum = m_total.sum();
-    return sum ? TransactionsTexts::tr("Total: %1").arg((currencyText(*sum) + u' ' + currencyName()).trimmed())
-               : QString();
+    return sum ? (currencyText(*sum) + u' ' + currencyName()).trimmed() : QString();
 }
 
 QString ReceiptEntry::currencyName()

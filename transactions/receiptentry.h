@@ -25,7 +25,7 @@ public:
     QString caption() const override;
     // The cost of the item's line, from the last posted receipt of the item from this vendor.
     std::optional<Offer> offerFor(const QString &field) override;
-    QString totalText() override; // in the vendor's currency: "Total: 1,234.50 Home"
+    QString totalText() override; // in the vendor's currency: "1,234.50 Home"
 
 protected:
     void visitBegins() override;
@@ -36,6 +36,7 @@ protected:
     void lineChanging(LineChange) override { m_total.forget(); }
     void lineSaved() override { m_total.forget(); }
     void lineRemoved() override { m_total.forget(); }
+    void linesTakenBack() override { m_total.forget(); }
 
 private:
     void validateVendor(const Engine::Value &vendorId) const;

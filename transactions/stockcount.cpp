@@ -13,6 +13,7 @@
 #include "transactions/texts.h"
 
 #include <exception>
+#include <QUuid>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +36,8 @@ QString neverthelessText()
 {
     return TransactionsTexts::tr("The usage is what the list shows as used, whatever has come or gone meanwhile.");
 }
+
+QString newId() { return QUuid::createUuid().toString(QUuid::WithoutBraces); }
 
 QString readAgainText() { return TransactionsTexts::tr("&Read again, keep my count"); }
 } // namespace
@@ -71,6 +74,7 @@ bool StockCount::open(int location, ZeroCounts zeroCounts)
         return false;
     }
     read(zeroCounts);
+    m_id = newId();
     return true;
 }
 
@@ -136,7 +140,7 @@ void StockCount::setDate(QDate date)
         keepDraft();
 }
 
-std::optional<QString> StockCount::questionOf(int row, double quantity) const
+std::optional<QString> StockCount::questionOf(int row, double quantity, bool blind) const
 {
     requireSensibleQuantity(quantity, Fields::Quantity);
     CountRow counted = m_list.row(row);
@@ -144,12 +148,18 @@ std::optional<QString> StockCount::questionOf(int row, double quantity) const
         return std::nullopt;
     counted.typed = quantity;
     const std::optional<QString> question = questionOfLargeFigures({quantity, 0});
-    return question ? question : questionOfLargeAmount({counted.difference(), counted.unitCost.toDouble()});
+    if (question)
+        return question;
+    const std::optional<QString> ofAmount =
+        questionOfLargeAmount({counted.difference(), counted.unitCost.toDouble()});
+    return ofAmount && blind ? TransactionsTexts::tr("What is recorded is worth very much more or less than this "
+                                                     "count.\nDo you want to keep this quantity?")
+                             : ofAmount;
 }
 
-void StockCount::count(int row, double quantity)
+void StockCount::count(int row, double quantity, const QString &by)
 {
-    m_list.count(row, quantity);
+    m_list.count(row, quantity, {by, m_database.session().now()});
     keepDraft();
 }
 
@@ -173,6 +183,8 @@ CountDraft StockCount::current() const
             .order = m_list.order(),
             .counts = m_list.counts(),
             .costs = m_list.costs(),
+            .marks = m_list.marks(),
+            .id = m_id,
             .recorded = m_balances,
             .itemNos = m_list.itemNos()};
 }
@@ -211,6 +223,8 @@ void StockCount::resume(const CountDraft &draft)
     if (draft.zeroCounts != m_zeroCounts)
         read(draft.zeroCounts);
     m_list.sortBy(draft.order);
+    if (!draft.id.isEmpty())
+        m_id = draft.id;
     if (const QStringList told = takeOver(draft); !told.isEmpty())
         m_prompts.warn(told.join(u"\n\n"_s));
 }
@@ -248,7 +262,7 @@ QStringList StockCount::takeOver(const CountDraft &draft)
 {
     const CountDraft listed = listedOf(draft);
     m_list.takeCosts(listed.costs);
-    m_list.takeCounts(listed.counts);
+    m_list.takeCounts(listed.counts, listed.marks);
     QStringList told;
     if (const auto missing = draft.counts.size() - listed.counts.size(); missing > 0)
         told.append(plural(missing,
@@ -304,6 +318,7 @@ StockCount::Calculation StockCount::calculate()
             return {.usage = {}, .readsAgain = true};
     }
     m_waits = m_isCalculated = true;
+    m_id = newId(); // what is typed now is another count
     dropDraft();
     return {.usage = usage, .readsAgain = false};
 }

@@ -31,6 +31,8 @@ public:
 
     bool isOpen() const { return m_isOpen; }
     int location() const { return m_location; }
+    // Tells this count of the location from the one before and the next. It goes with the draft.
+    const QString &id() const { return m_id; }
     ZeroCounts zeroCounts() const { return m_zeroCounts; }
     const CountList &list() const { return m_list; }
     bool isCalculated() const { return m_isCalculated; } // and nothing has been typed since
@@ -38,11 +40,14 @@ public:
 
     void sortBy(CountList::Order order) { m_list.sortBy(order); }
     // What is asked before a count is taken that is large, by itself or by what it differs in value; nothing of others, and
-    // of one that has been taken already. Throws RuleError for one beyond what can be meant.
-    std::optional<QString> questionOf(int row, double quantity) const;
+    // of one that has been taken already. Blind, without telling what it differs by. Throws RuleError for one beyond what can
+    // be meant.
+    std::optional<QString> questionOf(int row, double quantity, bool blind) const;
     // Each keeps the draft.
     void setDate(QDate date); // of the inventory
-    void count(int row, double quantity); // throws RuleError for one below zero, or beyond what can be meant
+    // Throws RuleError for one below zero, or beyond what can be meant. The name is of whoever has counted it, if that is
+    // not whoever counts at this machine.
+    void count(int row, double quantity, const QString &by = {});
     void forgetCount(int row);
     void setStandardCost(int row, Engine::Money cost);
     const QString &draftFailure() const { return m_draftFailure; } // why the draft could not be written, if so
@@ -110,6 +115,7 @@ private:
     CountList m_list;
     bool m_isOpen = false;
     int m_location = 0;
+    QString m_id;
     QDate m_date;
     ZeroCounts m_zeroCounts = ZeroCounts::Excluded;
     ItemQuantities m_balances; // as they were when the list was read

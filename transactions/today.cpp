@@ -6,6 +6,7 @@
 #include "data/lastbackup.h"
 #include "engine/store/database.h"
 #include "engine/store/session.h"
+#include "transactions/begundocument.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
 #include "transactions/totalsview.h"
@@ -61,6 +62,26 @@ TodayFigure belowZero(const TodaySource &source)
         u"B.WarehouseID "
         "WHERE %1 GROUP BY W.WarehouseName ORDER BY W.WarehouseName"_s.arg(TotalsView::belowZero()));
     return counted(*rows);
+}
+
+// Documents of the user whose program ended before they were saved.
+TodayFigure leftDocuments(const TodaySource &source)
+{
+    int sum = 0;
+    QStringList parts;
+    QString screen;
+    for (const DocumentKind *kind : DocumentKinds::all()) {
+        const int count = BegunDocument::countLeft(source.database, *kind);
+        sum += count;
+        if (count > 0)
+            parts.append(named(kind->entry.newTitle, count));
+        if (count > 0 && screen.isEmpty())
+            screen = kind->list.screen;
+    }
+    const QString detail = sum > 0
+        ? TransactionsTexts::tr("%1. New in the list asks whether to go on.").arg(parts.join(u", "_s))
+        : QString();
+    return {QString::number(sum), sum > 0, detail, screen};
 }
 
 TodayFigure begunCounts(const TodaySource &source)
@@ -126,6 +147,10 @@ const QList<TodayLine> &todayLines()
                     .read = belowZero,
                     .tone = TodayLine::Tone::Alarm,
                     .isForMonthEnd = true});
+        all.append({.name = u"todayLeft"_s,
+                    .title = TransactionsTexts::tr("Begun, not saved"),
+                    .screen = DocumentKinds::all().first()->list.screen,
+                    .read = leftDocuments});
         all.append({.name = u"todayCounts"_s,
                     .title = TransactionsTexts::tr("Counts begun"),
                     .screen = u"FormEnterInventory"_s,
@@ -136,7 +161,7 @@ const QList<TodayLine> &todayLines()
                     .read = openPeriod});
         all.append({.name = u"todayBackup"_s,
                     .title = TransactionsTexts::tr("Backup"),
-                    .screen = u"backup"_s,
+                    .screen = u"frmBackUp"_s,
                     .read = backup});
         return all;
     }();

@@ -25,6 +25,7 @@ struct TodayFigure
     QString text; // "3"; "12 / 2026"
     bool waits = false; // there is something to be done
     QString detail = {}; // whose or where it is: "Last saved by: maria 2, paul 1"
+    QString screen = {}; // that shows more of it, where that is not the line's
 };
 
 // Something that has to be done or to be known today, with a screen that shows more of it.
@@ -34,14 +35,14 @@ struct TodayLine
 
     QString name; // of what shows the line: "todayReceipts"
     QString title; // "Receipts to post"
-    QString screen; // component name: "frmInvReceipts"; of what has no screen, the name of its page in the manual
+    QString screen; // component name: "frmInvReceipts"
     std::function<TodayFigure(const TodaySource &)> read; // in one short statement or two
     Tone tone = Tone::Usual;
     bool isForMonthEnd = false; // nothing is to wait when a month ends
 };
 
-// The documents of each kind that wait to be posted, the balances below zero, the counts that the user has begun on this
-// machine, the period that new documents go into, the last backup.
+// The documents of each kind that wait to be posted, the balances below zero, the documents and the counts that the user has begun,
+// the period that new documents go into, the last backup.
 const QList<TodayLine> &todayLines();
 
 } // namespace Tallymere

@@ -45,12 +45,22 @@ QString sqlOf(TotalsView::Figures figures)
 
 Engine::Value TotalsView::valueOf(const Engine::DataSet &row, double quantity)
 {
-    const bool atStandard = costingMethodOf(row.integer(Fields::CostingMethod)) == CostingMethod::Standard;
+    const std::optional<Engine::Money> value =
+        valueOf(quantity, row.integer(Fields::CostingMethod), row.value(Fields::WgtAvgCost),
+                row.value(Fields::StandardCost));
+    return value ? Engine::Value(*value) : Engine::Value();
+}
+
+std::optional<Engine::Money> TotalsView::valueOf(double quantity, qint64 costingMethod,
+                                                 const Engine::Value &averageCost,
+                                                 const Engine::Value &standardCost)
+{
+    const bool atStandard = costingMethodOf(costingMethod) == CostingMethod::Standard;
     try {
-        const Engine::Money cost = row.money(atStandard ? Fields::StandardCost : Fields::WgtAvgCost);
+        const Engine::Money cost = (atStandard ? standardCost : averageCost).toMoney();
         return toCents(quantity * cost.toLongDouble());
     } catch (const Engine::AmountTooLarge &) {
-        return {};
+        return std::nullopt;
     }
 }
 

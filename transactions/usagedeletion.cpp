@@ -37,12 +37,13 @@ bool UsageDeletion::run(Prompts &prompts, const QString &user)
         "Delete the %1 usage(s) with an inventory date of %2?\nThis action can't be reversed!");
     if (!prompts.confirm(Question::Loss, question.arg(QString::number(keys.size()), m_dateText)))
         return false;
-    execute(u"DELETE FROM IUsageDet WHERE UsageID IN "
-            "(SELECT UsageID FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false)"_s);
-    execute(u"DELETE FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false"_s);
+    m_database.change([this] {
+        execute(u"DELETE FROM IUsageDet WHERE UsageID IN "
+                "(SELECT UsageID FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false)"_s);
+        execute(u"DELETE FROM IUsage WHERE InventoryDate = :InventoryDate AND Posted = false"_s);
+    });
     m_deleted = keys;
-    leaveNote(m_database, TransactionsTexts::tr("Unposted usages with date of %1 deleted.").arg(m_dateText), m_date,
-              user);
+    leaveNote(m_database, u"Unposted usages with date of %1 deleted."_s.arg(m_dateText), m_date, user);
     return true;
 }
 
@@ -71,11 +72,9 @@ void UsageDeletion::refuseEdited(const QList<int> &keys)
 
 void UsageDeletion::execute(const QString &statement)
 {
-    m_database.change([&] {
-        Engine::Query query(m_database, statement);
-        query.setParameter(u"InventoryDate", m_date);
-        query.execute();
-    });
+    Engine::Query query(m_database, statement);
+    query.setParameter(u"InventoryDate", m_date);
+    query.execute();
 }
 
 } // namespace Tallymere

@@ -140,6 +140,12 @@ void UsageEntry::setTotal(std::optional<Money> total)
     header().set(Fields::InvoiceAmount, lines().isEmpty() || !total ? Value() : Value(*total));
 }
 
+QString UsageEntry::totalText()
+{
+    const Engine::Field &total = std::as_const(*this).header().field(Fields::InvoiceAmount);
+    return header().isOpen() ? total.displayText(header().value(Fields::InvoiceAmount)) : QString();
+}
+
 // Brought back, a line has no unit cost: its beginning stands among the tax codes instead, where it has always been
 // put. The amounts shown are at what the items cost now and stay the same.
 void UsageEntry::restoreLine(const Engine::Row &kept)

@@ -15,16 +15,20 @@ class UsageEntry final : public DocumentEntry
 public:
     UsageEntry(Engine::Database &database, Prompts &prompts);
 
+    QString totalText() override; // that the header keeps, of the lines that are stored
+
 protected:
     void visitBegins() override;
     void configureFields() override;
     void presetHeader() override;
+    void takenUp() override { setTotal(sumOfLines()); }
     void checkReferences() override;
     void checkLine() override;
     double lineCost() override;
     void lineChanging(LineChange change) override;
     void lineSaved() override;
     void lineRemoved() override;
+    void linesTakenBack() override { m_total.reset(); }
     void restoreLine(const Engine::Row &kept) override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "base/typeddate.h"
+#include "controls/windows/fieldmark.h"
 #include "controls/windows/icons.h"
 
 #include <algorithm>
@@ -49,23 +50,41 @@ void DatePicker::takeText()
     if (!isModified())
         return;
     try {
-        const QDate typed = date2000(text().trimmed(), RegionalSettings::system(), m_today, yearDigits);
-        if (m_latest.isValid() && typed > m_latest)
-            throw RuleError(
-                tr("The latest date is %1").arg(RegionalSettings::system().shortDate(m_latest, yearDigits)));
-        take(typed);
-        Q_EMIT taken();
+        settle();
     } catch (const RuleError &error) {
-        showDate();
+        if (m_keepsRefused)
+            FieldMark::refuse(*this);
+        else
+            showDate();
         Q_EMIT refused(error.message());
     }
+}
+
+void DatePicker::settle()
+{
+    if (!isModified())
+        return;
+    take(typedDate());
+    Q_EMIT taken();
+}
+
+QDate DatePicker::typedDate() const
+{
+    const QString typed = text().trimmed();
+    if (m_isOptional && typed.isEmpty())
+        return {};
+    const RegionalSettings &settings = RegionalSettings::system();
+    const QDate date = date2000(typed, settings, m_today, yearDigits);
+    if (m_latest.isValid() && date > m_latest)
+        throw RuleError(tr("The latest date is %1").arg(settings.shortDate(m_latest, yearDigits)));
+    return date;
 }
 
 void DatePicker::take(QDate date)
 {
     const QDate before = m_date;
     setDate(date);
-    if (m_date != before && m_today.isValid() && isMoreThanAYearAway(m_date, m_today))
+    if (m_date != before && m_date.isValid() && m_today.isValid() && isMoreThanAYearAway(m_date, m_today))
         Q_EMIT distantDate(m_date, before);
 }
 

@@ -9,7 +9,8 @@ namespace Tallymere {
 // Alt+Down and the button open. Of a year two digits will do: 50 to 99 are read as 1950 to 1999, 0 to 49 as 2000 to 2049.
 // What is typed counts when the field is left or Enter pressed; what is no date, or lies beyond the latest, gives way to the
 // date before. Where it is told what day it is, day and month alone will do, and a date that is typed or picked more than a
-// year away from that is announced, for a question.
+// year away from that is announced, for a question. In a dialog that is confirmed as a whole, what is no date stays, marked as
+// refused, and keeps the dialog open.
 class DatePicker final : public QLineEdit
 {
     Q_OBJECT
@@ -21,6 +22,10 @@ public:
     void setDate(QDate date); // one beyond the latest becomes that
     void setMaximumDate(QDate latest) { m_latest = latest; }
     void setToday(QDate today) { m_today = today; }
+    void setOptional() { m_isOptional = true; } // nothing typed is no date
+
+    void keepRefused() { m_keepsRefused = true; } // until settle() is asked for
+    void settle(); // takes what has been typed; throws RuleError where that is refused
 
 Q_SIGNALS:
     void dateChanged();
@@ -33,6 +38,7 @@ protected:
 
 private:
     void takeText();
+    QDate typedDate() const;
     void take(QDate date);
     void showCalendar();
     void showDate();
@@ -40,6 +46,8 @@ private:
     QDate m_date;
     QDate m_latest;
     QDate m_today;
+    bool m_isOptional = false;
+    bool m_keepsRefused = false;
 };
 
 } // namespace Tallymere

@@ -3,8 +3,12 @@
 #include "controls/fields/comboboxname.h"
 #include "controls/fields/lookupcombobox.h"
 #include "controls/fields/maskedentry.h"
+#include "controls/fields/memoedit.h"
+#include "controls/texts.h"
 #include "controls/windows/fieldmark.h"
 #include "controls/windows/lineentry.h"
+#include "engine/values/textsize.h"
+#include "engine/values/userlocale.h"
 
 #include <algorithm>
 #include <QCheckBox>
@@ -325,6 +329,8 @@ public:
         , m_edit(edit)
     {
         QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [this] { entered(); });
+        if (auto *memo = qobject_cast<MemoEdit *>(edit))
+            QObject::connect(memo, &MemoEdit::refused, memo, [this] { tellTooLong(); });
     }
 
     void setReadOnly(bool readOnly) override
@@ -337,6 +343,14 @@ public:
     }
 
 private:
+    void tellTooLong()
+    {
+        tell(ControlsTexts::tr("'%1' takes no more than %2 characters, in lines of no more than %3. What has been "
+                               "put in was left out.")
+                 .arg(field().caption(), Engine::groupedCount(Engine::longestText),
+                      Engine::groupedCount(MemoEdit::longestLine)));
+    }
+
     void display() override
     {
         const QSignalBlocker blocker(m_edit);

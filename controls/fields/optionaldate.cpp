@@ -15,6 +15,7 @@ OptionalDate::OptionalDate(const Kind &kind, QWidget *parent)
     m_date->setObjectName(kind.date);
     m_date->setAccessibleName(kind.name);
     m_date->setToday(kind.today);
+    m_date->setOptional();
     m_all->setObjectName(kind.all);
     m_all->setAccessibleName(kind.allName);
     m_all->setChecked(true);

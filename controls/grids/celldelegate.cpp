@@ -16,6 +16,7 @@ namespace {
 constexpr int frame = 2; // design pixels, as all here
 constexpr int focusBar = 3;
 constexpr int tickSize = 12;
+constexpr int markSize = 7;
 constexpr int chipPadding = 6;
 constexpr int chipMargin = 4;
 
@@ -48,6 +49,8 @@ void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
         drawOpen(*painter, cell, m_grid->columns()[index.column()].openWord);
     else
         drawText(*painter, option, index, note, ground);
+    if (index.data(cellMarkRole).toBool())
+        drawMark(*painter, cell, look.on(ground, Role::Accent));
     if (m_grid->hasFocusBar(index))
         painter->fillRect(QRect(cell.topLeft(), QSize(scaled(m_grid, focusBar), cell.height())),
                           look.colour(Role::Accent));
@@ -81,6 +84,8 @@ QColor CellDelegate::textColour(const QModelIndex &index, CellNote note, const Q
     const Look &look = m_grid->look();
     if (note == CellNote::Negative)
         return look.on(ground, Role::Negative);
+    if (note == CellNote::Lacking)
+        return look.on(ground, Role::NoticeText);
     const bool quiet =
         m_grid->columns()[index.column()].setOff || index.data(cellQuietRole).toBool() || !m_grid->isEnabled();
     return look.on(ground, quiet ? Role::SecondText : Role::Text);
@@ -122,6 +127,16 @@ void CellDelegate::drawOpen(QPainter &painter, const QRect &cell, const QString 
     drawNoticeGround(painter, chip, chip.height() / 2.0, look);
     painter.setPen(look.colour(Role::NoticeText));
     painter.drawText(chip, Qt::AlignCenter | Qt::TextSingleLine, word);
+}
+
+void CellDelegate::drawMark(QPainter &painter, const QRect &cell, const QColor &colour) const
+{
+    const double size = scaled(m_grid, markSize);
+    const QRectF room(cell.x() + cell.width() - size, cell.y(), size, size);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawPolygon(QPolygonF({room.topLeft(), room.topRight(), room.bottomRight()}));
 }
 
 void CellDelegate::drawFrame(QPainter &painter, const QRect &cell, const QColor &colour) const

@@ -28,6 +28,7 @@ private:
                   const QColor &ground) const;
     void drawTick(QPainter &painter, const QRect &cell, const QColor &ground) const;
     void drawOpen(QPainter &painter, const QRect &cell, const QString &word) const;
+    void drawMark(QPainter &painter, const QRect &cell, const QColor &colour) const;
     void drawFrame(QPainter &painter, const QRect &cell, const QColor &colour) const;
 
     DataGrid *m_grid;

@@ -5,7 +5,6 @@
 #include "controls/windows/screenmetrics.h"
 
 #include <algorithm>
-#include <numeric>
 #include <QEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -71,7 +70,7 @@ void DataGrid::showModel(QAbstractItemModel *model, const QList<GridColumn> &col
     m_surplusColumn = static_cast<int>(columns.size()) - 1;
     m_widths.clear();
     for (int i = 0; i < columns.size(); ++i) {
-        m_widths.append({scaled(this, columns[i].width), leastWidthOf(i)});
+        m_widths.append({wantedWidthOf(i), leastWidthOf(i)});
         setColumnWidth(i, m_widths[i].wanted);
         if (columns[i].takesSurplus)
             m_surplusColumn = i;
@@ -83,22 +82,31 @@ void DataGrid::showModel(QAbstractItemModel *model, const QList<GridColumn> &col
 
 // --- widths -----------------------------------------------------------------------------------------------------
 
+// As described, or as wide as its title where that is longer in the language of the user.
+int DataGrid::wantedWidthOf(int column) const
+{
+    const GridColumn &described = m_columns[column];
+    return std::max(scaled(this, described.width), m_titles->widthWithArrow(described.title));
+}
+
 // Texts keep twelve letters, figures and dates three quarters of their column; nothing less than its title.
 int DataGrid::leastWidthOf(int column) const
 {
     const GridColumn &described = m_columns[column];
-    const int wanted = scaled(this, described.width);
+    const int wanted = wantedWidthOf(column);
     const int margins = 2 * cellPadding();
     const int letters = fontMetrics().horizontalAdvance(QString(leastLetters, u'n')) + margins;
-    const int title = m_titles->leastWidth(described.title);
+    const int title = m_titles->widthWithArrow(described.title);
     const bool isText = described.alignment.testFlag(Qt::AlignLeft);
     return std::min(wanted, std::max(title, isText ? letters : wanted * 3 / 4));
 }
 
 int DataGrid::sumOf(int Width::*part) const
 {
-    return std::accumulate(m_widths.begin(), m_widths.end(), 0,
-                           [part](int sum, const Width &width) { return sum + width.*part; });
+    int sum = 0;
+    for (int i = 0; i < m_widths.size(); ++i)
+        sum += isColumnHidden(i) ? 0 : m_widths[i].*part;
+    return sum;
 }
 
 int DataGrid::leastWidth() const
@@ -112,6 +120,15 @@ void DataGrid::setWantedWidth(int column, int width)
     shareWidth();
 }
 
+void DataGrid::setColumnShown(int column, bool shown)
+{
+    if (isColumnHidden(column) != shown)
+        return;
+    const QScopedValueRollback sharing(m_sharing, true); // a hidden column keeps the width that it had
+    setColumnHidden(column, !shown);
+    shareWidth();
+}
+
 void DataGrid::shareWidth()
 {
     const QScopedValueRollback sharing(m_sharing, true);
@@ -119,6 +136,8 @@ void DataGrid::shareWidth()
     int spare = sumOf(&Width::wanted) - sumOf(&Width::least); // that the columns so far have not been asked for
     int missing = std::clamp(lack, 0, spare);
     for (int i = 0; i < m_widths.size(); ++i) {
+        if (isColumnHidden(i))
+            continue;
         const int own = m_widths[i].wanted - m_widths[i].least;
         const int given = spare > 0 ? qRound(static_cast<double>(missing) * own / spare) : 0;
         spare -= own;
@@ -137,10 +156,10 @@ void DataGrid::resizeEvent(QResizeEvent *event)
 int DataGrid::widthForColumns(int count) const
 {
     int width = 0;
-    const QList<GridColumn> shown = m_columns.first(std::min<qsizetype>(count, m_columns.size()));
-    for (const GridColumn &column : shown)
-        width += scaled(this, column.width);
-    return width + static_cast<int>(shown.size()) + scaled(this, 16) + 4;
+    const int shown = std::min(count, static_cast<int>(m_columns.size()));
+    for (int column = 0; column < shown; ++column)
+        width += wantedWidthOf(column);
+    return width + shown + scaled(this, 16) + 4;
 }
 
 int DataGrid::heightForRows(int rows) const
@@ -155,8 +174,11 @@ bool DataGrid::viewportEvent(QEvent *event)
         return QTableView::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
-    const QString text = isCut(index) ? index.data().toString() : QString();
-    QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(text, Qt::WhiteSpaceNoWrap), this,
+    QStringList told{isCut(index) ? index.data().toString() : QString(), index.data(Qt::ToolTipRole).toString()};
+    told.removeAll(QString());
+    const QString text = told.join(u'\n'); // even an empty one would have a box once it is converted
+    QToolTip::showText(help->globalPos(),
+                       text.isEmpty() ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNoWrap), this,
                        visualRect(index));
     return true;
 }
@@ -176,7 +198,7 @@ QString DataGrid::cutFigures(int row) const
     QStringList figures;
     for (int column = 0; column < m_columns.size(); ++column) {
         const QModelIndex cell = model()->index(row, column);
-        if (m_columns[column].alignment.testFlag(Qt::AlignRight) && isCut(cell))
+        if (m_columns[column].alignment.testFlag(Qt::AlignRight) && !isColumnHidden(column) && isCut(cell))
             figures.append(u"%1: %2"_s.arg(m_columns[column].title, cell.data().toString()));
     }
     return figures.join(u"   "_s);

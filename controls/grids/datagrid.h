@@ -32,6 +32,7 @@ public:
     int wantedWidth(int column) const { return m_widths.value(column).wanted; }
     void setWantedWidth(int column, int width); // as by the user
     int surplusColumn() const { return m_surplusColumn; } // takes the width that the others leave over
+    void setColumnShown(int column, bool shown); // another one than the surplus column
     int heightForRows(int rows) const;
 
     // The figures of a row that their columns are too narrow for, whole and each with its title; empty where all fit, and
@@ -73,6 +74,7 @@ private:
     void paintHint(const QString &hint);
     void paintFocus();
     void updateRow(int row);
+    int wantedWidthOf(int column) const;
     int leastWidthOf(int column) const;
     int sumOf(int Width::*part) const;
     void shareWidth();

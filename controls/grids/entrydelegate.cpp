@@ -43,7 +43,7 @@ bool EntryDelegate::eventFilter(QObject *, QEvent *event)
         return false;
     }
     case QEvent::KeyPress:
-        return m_grid->editorKey(static_cast<QKeyEvent *>(event));
+        return m_grid->takeEditorKey(static_cast<QKeyEvent *>(event));
     case QEvent::FocusOut:
         m_grid->editorLeft(static_cast<QFocusEvent *>(event)->reason());
         return false;

@@ -230,7 +230,45 @@ void EntryGrid::currentChanged(const QModelIndex &current, const QModelIndex &pr
         setRefused({});
 }
 
-// --- keys in the editor -----------------------------------------------------------------------------------------
+// --- keys ---------------------------------------------------------------------------------------------------------
+
+void EntryGrid::keyPressEvent(QKeyEvent *event)
+{
+    if (endsScan(*event))
+        return;
+    const QScopedValueRollback forwarded(m_forwarded, static_cast<const QKeyEvent *>(event));
+    gridKey(event);
+}
+
+void EntryGrid::gridKey(QKeyEvent *event) { DataGrid::keyPressEvent(event); }
+
+bool EntryGrid::takeEditorKey(QKeyEvent *event)
+{
+    return (event != m_forwarded && endsScan(*event)) || editorKey(event);
+}
+
+// True when the key has been used with that.
+bool EntryGrid::endsScan(const QKeyEvent &key)
+{
+    if (!m_scan.take(key) || !isCode(m_scan.code()))
+        return false;
+    if (takeOut(m_scan.code()))
+        takeScan(m_scan.code());
+    return true;
+}
+
+// The letters of the code go from the cell that they have come into. What was typed before them is entered; false where
+// that is refused.
+bool EntryGrid::takeOut(const QString &code)
+{
+    const QString typed = typedText();
+    const bool hasMore = typed.size() > code.size() && typed.endsWith(code);
+    if (hasMore)
+        m_editor->setText(typed.chopped(code.size()));
+    else
+        dropEntry();
+    return finishEntry();
+}
 
 bool EntryGrid::editorKey(QKeyEvent *event)
 {
@@ -256,7 +294,7 @@ bool EntryGrid::editorKey(QKeyEvent *event)
         [[fallthrough]];
     case Qt::Key_PageDown:
         if (finishEntry())
-            keyPressEvent(event);
+            gridKey(event);
         return true;
     default:
         return false;

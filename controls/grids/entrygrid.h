@@ -4,6 +4,7 @@
 #include "controls/grids/lineoptions.h"
 #include "controls/windows/fieldmark.h"
 #include "controls/windows/guard.h"
+#include "controls/windows/scan.h"
 
 class QLineEdit;
 
@@ -52,6 +53,11 @@ protected:
     virtual void entered() = 0; // Enter has handed the entry over; the cursor moves on
     virtual void entryLeft(Qt::FocusReason) { } // it was handed over as the focus went
     virtual bool editorKey(QKeyEvent *event); // true when the key has been used
+    void keyPressEvent(QKeyEvent *event) final;
+    virtual void gridKey(QKeyEvent *event); // pressed while no editor is open
+    // Whether what has come as fast as from a scanner is a code for takeScan(); else it counts as typed.
+    virtual bool isCode(const QString & /*text*/) const { return false; }
+    virtual void takeScan(const QString & /*code*/) { } // whatever cell its letters have come into
 
     QLineEdit *editor() const { return m_editor; } // null while none is open
     QString typedText() const; // what has been typed in the open editor, if anything
@@ -64,6 +70,9 @@ protected:
 private:
     friend class EntryDelegate;
 
+    bool takeEditorKey(QKeyEvent *event);
+    bool endsScan(const QKeyEvent &key);
+    bool takeOut(const QString &code);
     void setTextMargins(QLineEdit &edit) const;
     QWidget *openEditor(QWidget *parent, const QModelIndex &cell);
     bool openAt(const QModelIndex &cell);
@@ -77,6 +86,8 @@ private:
     QPersistentModelIndex m_edited;
     QPersistentModelIndex m_refused;
     QString m_offered; // what the editor began with
+    Scan m_scan;
+    const QKeyEvent *m_forwarded = nullptr; // that has opened the editor, which is given it as well
     bool m_given = false; // the text counts as entered, be it what the editor began with
     bool m_reporting = false; // a refusal is being shown: the focus may come and go
 };

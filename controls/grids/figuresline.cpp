@@ -1,9 +1,11 @@
 #include "controls/grids/figuresline.h"
 
 #include "controls/grids/datagrid.h"
+#include "controls/windows/look.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QPainter>
 
 using namespace Qt::StringLiterals;
 
@@ -35,9 +37,11 @@ void FiguresLine::showFigures(const DataGrid &grid)
     showAll();
 }
 
-void FiguresLine::setNote(const QString &note)
+void FiguresLine::setNote(const QString &note, Note kind)
 {
     m_note = note;
+    m_kind = kind;
+    update();
     showAll();
 }
 
@@ -45,6 +49,24 @@ void FiguresLine::showAll()
 {
     const bool both = !m_note.isEmpty() && !m_figures.isEmpty();
     setText(both ? m_note + u"   "_s + m_figures : m_note + m_figures);
+    setToolTip(seen() == text() ? QString() : text());
+}
+
+QString FiguresLine::seen() const { return shortened(text(), fontMetrics(), contentsRect().width()); }
+
+void FiguresLine::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    showAll();
+}
+
+void FiguresLine::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const Look look(palette());
+    painter.setPen(m_kind == Note::Warning ? look.on(palette().color(backgroundRole()), Look::Role::NoticeText)
+                                           : palette().color(foregroundRole()));
+    painter.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, seen());
 }
 
 } // namespace Tallymere

@@ -286,6 +286,28 @@ void LineGrid::completeEntry(const QString &typed)
     editor()->setSelection(static_cast<int>(whole.size()), static_cast<int>(typed.size() - whole.size()));
 }
 
+bool LineGrid::isCode(const QString &text) const
+{
+    bool isOne = false;
+    if (!m_readOnly && m_actions.isCode)
+        guard().run([&] { isOne = m_actions.isCode(text); });
+    return isOne;
+}
+
+// The cell that the cursor is in is to be filled next, unless it is the code's own, or the document has gone to another
+// line with it.
+void LineGrid::takeScan(const QString &code)
+{
+    const QString field = currentField();
+    const int row = currentIndex().row();
+    const bool isDone = guard().run([&] { m_actions.scan(field, code); });
+    setFocus();
+    if (isDone && m_model->currentRow() != row)
+        selectCell(m_model->currentRow(), 0);
+    else if (isDone && searches(field))
+        moveByHand([this] { nextCell(); });
+}
+
 bool LineGrid::takeOffer()
 {
     const std::optional<LineOffer> offer = m_model->offerFor(currentIndex());
@@ -359,7 +381,7 @@ bool LineGrid::editorKey(QKeyEvent *event)
 
 // --- keys outside the editor ------------------------------------------------------------------------------------
 
-void LineGrid::keyPressEvent(QKeyEvent *event)
+void LineGrid::gridKey(QKeyEvent *event)
 {
     if (isEnter(event)) {
         if (hasControl(event))
@@ -382,7 +404,7 @@ void LineGrid::keyPressEvent(QKeyEvent *event)
     }
     if (isTyped(*event) && m_model->rowCount() == 0)
         appendLine();
-    moveByHand([&] { EntryGrid::keyPressEvent(event); });
+    moveByHand([&] { EntryGrid::gridKey(event); });
 }
 
 // The column is entered when the button is let go; a search over a button that is down would not see it go up.

@@ -18,6 +18,9 @@ struct LineActions
     // False when nothing was chosen: what has been typed is there again. The columns are named in searchColumns.
     std::function<bool(const QString &field, const QString &typed)> search = {};
     QStringList searchColumns = {};
+    // What a scanner has sent, if it is a code, while the cursor was in a column.
+    std::function<bool(const QString &text)> isCode = {};
+    std::function<void(const QString &field, const QString &code)> scan = {};
     // The full text that a typed beginning stands for; empty when there is none or the column does not complete.
     std::function<QString(const QString &field, const QString &typed)> complete = {};
 };
@@ -27,7 +30,7 @@ struct LineActions
 // Enter goes to the next column, from the last one to the next line, and appends one after the last. So does Tab, and
 // Shift+Tab goes back; Shift+Tab leaves the grid from its first cell, Tab from the last one of a new line in which
 // nothing has been entered. Page Down appends, Ctrl+Insert and Ctrl+Delete append and delete, Ctrl+Enter searches. A
-// double click begins the first line. Leaving a row writes it; when that is refused the cursor stays. Escape drops
+// double click begins the first line. What a barcode scanner sends goes to where the document wants it, whatever the column. Leaving a row writes it; when that is refused the cursor stays. Escape drops
 // first the text being typed, then the changes of the row.
 class LineGrid : public EntryGrid
 {
@@ -54,7 +57,9 @@ public:
 protected:
     using DataGrid::edit;
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void gridKey(QKeyEvent *event) override;
+    bool isCode(const QString &text) const override;
+    void takeScan(const QString &code) override;
     bool focusNextPrevChild(bool next) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

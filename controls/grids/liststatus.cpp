@@ -2,10 +2,11 @@
 
 #include "controls/grids/figuresline.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/sumlabel.h"
+#include "engine/values/userlocale.h"
 
 #include <QItemSelectionModel>
 #include <QLabel>
-#include <QLocale>
 #include <QStatusBar>
 
 using namespace Qt::StringLiterals;
@@ -48,6 +49,15 @@ void ListStatus::say(const QString &text)
     m_bar.showMessage(text, moment);
 }
 
+void ListStatus::setSum(const QString &label, const QString &figure)
+{
+    if (!m_sum) {
+        m_sum = new SumLabel(u"lblSum"_s, &m_bar);
+        m_bar.addPermanentWidget(m_sum);
+    }
+    m_sum->setSum(label, figure);
+}
+
 void ListStatus::showRows() { m_rows->setText(rowsText()); }
 
 QString ListStatus::rowsText() const
@@ -55,7 +65,7 @@ QString ListStatus::rowsText() const
     const TableModel &model = *m_grid.tableModel();
     if (model.isPartial() || model.hasFailed())
         return {};
-    const QLocale locale;
+    const QLocale locale = Engine::userLocale().locale;
     const int count = model.rowCount();
     const QModelIndex current = m_grid.currentIndex();
     QString text;

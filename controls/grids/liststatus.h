@@ -7,6 +7,8 @@ class QStatusBar;
 
 namespace Tallymere {
 
+class SumLabel;
+
 // The status line of a list: on which row of how many the cursor is, how many are selected, what is being searched for,
 // and the figures of the row that its columns are too narrow for. Nothing is said of the rows before the whole list has
 // been read.
@@ -18,6 +20,7 @@ public:
     ListStatus(ListGrid &grid, QStatusBar &bar);
 
     void say(const QString &text); // for a moment, in place of the rows
+    void setSum(const QString &label, const QString &figure); // of the rows, at the right; an empty figure is none
 
 private:
     void showRows();
@@ -28,6 +31,7 @@ private:
     QStatusBar &m_bar;
     QLabel *m_rows;
     QLabel *m_search;
+    SumLabel *m_sum = nullptr; // of a list that tells one
 };
 
 } // namespace Tallymere

@@ -81,6 +81,8 @@ void RowsGrid::setRows(std::vector<QStringList> rows)
     setCurrentIndex(m_model->index(0, 0));
 }
 
+QString RowsGrid::shownHint() const { return m_model && m_model->rowCount({}) == 0 ? hint() : QString(); }
+
 void RowsGrid::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

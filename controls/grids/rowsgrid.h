@@ -21,6 +21,7 @@ public:
     // Figures of columns at the right are taken for negative when they begin with a minus or a parenthesis.
     void setRows(std::vector<QStringList> rows); // the cursor is on the first
     int currentRow() const { return currentIndex().row(); } // -1 for none
+    QString shownHint() const override;
 
 Q_SIGNALS:
     void chosen(int row);

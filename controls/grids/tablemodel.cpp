@@ -79,7 +79,9 @@ CellNote TableModel::cellNote(const QModelIndex &index) const
     const Engine::Value value = cellValue(index.row(), number);
     if (marks)
         return value.toBool() ? CellNote::Done : CellNote::Open;
-    return value.toDouble() < 0 ? CellNote::Negative : CellNote::None;
+    if (value.toDouble() >= 0)
+        return CellNote::None;
+    return column.warnsBelowZero ? CellNote::Lacking : CellNote::Negative;
 }
 
 QString TableModel::shownText(int row, int column) const

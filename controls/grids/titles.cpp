@@ -47,6 +47,11 @@ int Titles::leastWidth(const QString &title) const
     return fontMetrics().horizontalAdvance(title) + 2 * scaled(m_grid, leastPadding);
 }
 
+int Titles::widthWithArrow(const QString &title) const
+{
+    return leastWidth(title) + scaled(m_grid, arrow + arrowGap);
+}
+
 int Titles::arrowWidth(int column) const
 {
     return isSortIndicatorShown() && sortIndicatorSection() == column ? scaled(m_grid, arrow + arrowGap) : 0;

@@ -16,6 +16,7 @@ public:
     explicit Titles(DataGrid *grid);
 
     int leastWidth(const QString &title) const; // of a column that shows it whole
+    int widthWithArrow(const QString &title) const; // also when the list is sorted by it
 
 protected:
     void paintSection(QPainter *painter, const QRect &section, int column) const override;

@@ -1,8 +1,10 @@
 #include "controls/screens/dialogscreen.h"
 
 #include "controls/fields/comboboxname.h"
+#include "controls/fields/datepicker.h"
 #include "controls/fields/radiochoice.h"
 #include "controls/windows/dialogover.h"
+#include "controls/windows/fieldmark.h"
 #include "controls/windows/lineentry.h"
 #include "controls/windows/screenmetrics.h"
 
@@ -77,14 +79,32 @@ bool DialogScreen::event(QEvent *event)
         scaleForm(this);
         leadTabToChosen(*this);
         takeOneLines();
+        for (DatePicker *date : findChildren<DatePicker *>())
+            date->keepRefused();
     }
     return QDialog::event(event);
+}
+
+// Nothing is done by the date that was there before when another one has been typed that nobody can read.
+bool DialogScreen::areDatesSettled()
+{
+    const QList<DatePicker *> dates = findChildren<DatePicker *>();
+    for (DatePicker *date : dates) {
+        const std::exception_ptr failure = date->isEnabled() ? Guard::attempt([date] { date->settle(); }) : nullptr;
+        if (!failure)
+            continue;
+        FieldMark::refuse(*date);
+        putCursorInto(*date);
+        m_guard.report(failure);
+        return false;
+    }
+    return true;
 }
 
 // A dialog that closes right after a message over it leaves some window managers without a window that would be next.
 void DialogScreen::done(int result)
 {
-    if (isHeldByDialog(this))
+    if (isHeldByDialog(this) || (result == Accepted && !areDatesSettled()))
         return;
     QWidget *opener = QApplication::applicationState() == Qt::ApplicationActive ? parentWidget() : nullptr;
     QDialog::done(result);
@@ -96,8 +116,10 @@ void DialogScreen::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
     showCursorAlways(*this);
-    if (!event->spontaneous())
-        m_guard.run([this] { showStep(); });
+    if (event->spontaneous())
+        return;
+    fitToScreen(this);
+    m_guard.run([this] { showStep(); });
 }
 
 } // namespace Tallymere

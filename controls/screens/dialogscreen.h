@@ -32,6 +32,7 @@ protected:
 private:
     QWidget *focusColumn(const QString &column);
     void takeOneLines();
+    bool areDatesSettled();
 
     ScreenContext &m_context;
     Guard m_guard;

@@ -51,11 +51,13 @@ void FilterDialog::addBox(const FilterBox &box)
     shown->setList(list.table, {{list.nameField, list.title, listWidth}}, guard());
     addRow(box.label, shown);
     m_boxes.append(shown);
-    addChoice({.chosen = [shown] { return shown->chosenId(); },
+    addChoice({.name = box.name,
+               .chosen = [shown] { return shown->chosenId(); },
                .choose = [shown](const QVariant &key) { shown->setChosenId(key.toInt()); },
                .none = 0,
                .words = [label = box.label, shown] { return labelled(label, shown->currentText()); },
-               .settle = [shown] { shown->settle(); }});
+               .settle = [shown] { shown->settle(); },
+               .isThere = [shown, &table = list.table] { return isThereNow(table, shown->chosenId()); }});
 }
 
 void FilterDialog::addRow(const QString &label, QWidget *widget)
@@ -94,7 +96,8 @@ void FilterDialog::addWords()
     m_words->setAccessibleName(tr("Words"));
     m_words->setPlaceholderText(tr("anywhere in the row"));
     addRow(tr("&Words:"), m_words);
-    addChoice({.chosen = [this] { return m_words->text().simplified(); },
+    addChoice({.name = m_words->objectName(),
+               .chosen = [this] { return m_words->text().simplified(); },
                .choose = [this](const QVariant &words) { m_words->setText(words.toString()); },
                .none = QString(),
                .words = [this] { return labelled(tr("Words"), m_words->text().simplified()); }});
@@ -110,7 +113,8 @@ OptionalDate *FilterDialog::addDay(const QString &name, const QString &label, QD
                                   .start = start},
                                  this);
     addRow(label, day);
-    addChoice({.chosen = [day] { return day->date(); },
+    addChoice({.name = u"editDay"_s + name,
+               .chosen = [day] { return day->date(); },
                .choose = [day](const QVariant &chosen) { day->choose(chosen.toDate()); },
                .none = QDate(),
                .words = [label, day] { return labelled(label, dateText(day->date())); }});
@@ -131,7 +135,8 @@ void FilterDialog::addMark(const QString &mark, const QString &label)
     for (QRadioButton *button : {m_ui->optYes, m_ui->optNo, m_ui->optAll})
         button->setObjectName("opt"_L1 + mark + button->objectName().mid(3));
     addChoice(
-        {.chosen = [this] { return static_cast<int>(marked()); },
+        {.name = u"opt"_s + mark,
+         .chosen = [this] { return static_cast<int>(marked()); },
          .choose = [this](const QVariant &chosen) { setMarked(static_cast<ListFilter::Marked>(chosen.toInt())); },
          .none = static_cast<int>(ListFilter::Marked::All),
          .words =
@@ -203,6 +208,41 @@ QString FilterDialog::words() const
             words << choice.words();
     }
     return words.join(", "_L1);
+}
+
+QJsonObject FilterDialog::choices() const
+{
+    QJsonObject chosen;
+    for (const Choice &choice : m_choices) {
+        if (choice.chosen() != choice.none)
+            chosen.insert(choice.name, QJsonValue::fromVariant(choice.chosen()));
+    }
+    return chosen;
+}
+
+bool FilterDialog::choose(const QJsonObject &choices)
+{
+    const QJsonObject before = this->choices();
+    if (take(choices))
+        return true;
+    take(before);
+    return false;
+}
+
+bool FilterDialog::isThereNow(Engine::DataSet &list, int key)
+{
+    list.refresh(); // it may have been read long ago
+    return list.holds({key});
+}
+
+bool FilterDialog::take(const QJsonObject &choices)
+{
+    for (const Choice &choice : std::as_const(m_choices)) {
+        choice.choose(choices.contains(choice.name) ? choices[choice.name].toVariant() : choice.none);
+        if (choice.chosen() != choice.none && choice.isThere && !choice.isThere())
+            return false;
+    }
+    return this->choices() == choices;
 }
 
 bool FilterDialog::isOn() const

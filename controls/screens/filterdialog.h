@@ -4,9 +4,13 @@
 #include "controls/screens/dialogscreen.h"
 
 #include <memory>
+#include <QJsonObject>
 #include <QVariant>
 
 class QLineEdit;
+namespace Engine {
+class DataSet;
+}
 namespace Ui {
 class FilterDialog;
 }
@@ -49,6 +53,9 @@ public:
     void addColumns(const FilterColumns &columns);
     QString columnsExpression() const;
     QString words() const; // of all that is chosen; empty where nothing is
+    QJsonObject choices() const; // what is chosen, by the names of its boxes, for another time
+    // Chooses that and nothing else. False where it does not fit, as a box or a record is gone; all stays as it is then.
+    bool choose(const QJsonObject &choices);
     bool isOn() const; // something is chosen, whether the list is narrowed by it or not
     int key(const QString &box) const; // 0: any
     void setKey(const QString &box, int key);
@@ -60,16 +67,19 @@ protected:
     // One thing to choose, for dialogs with more than boxes of records.
     struct Choice
     {
+        QString name; // component name of its box
         std::function<QVariant()> chosen;
         std::function<void(const QVariant &)> choose;
         QVariant none;
         std::function<QString()> words; // of what is chosen: "Location: Office"
         std::function<void()> settle = {}; // what is still being typed becomes the choice, before OK; may throw
+        std::function<bool()> isThere = {}; // the record that is chosen; empty: what is chosen is no record
     };
     // Rows come in the order in which they are added; the first has the cursor when the dialog opens.
     void addBox(const FilterBox &box);
     void addRow(const QString &label, QWidget *widget);
     void addChoice(Choice choice);
+    static bool isThereNow(Engine::DataSet &list, int key);
     static QString labelled(const QString &label,
                             const QString &text); // "&Location:" and "Office", as words of a choice
 
@@ -77,6 +87,7 @@ protected:
 
 private:
     void btnOKClick();
+    bool take(const QJsonObject &choices);
     void addMark(const QString &mark, const QString &label);
     ListFilter::Marked marked() const;
     LookupComboBox *box(const QString &name) const;

@@ -38,15 +38,31 @@ void ListOutput::copyRows()
 
 void ListOutput::saveCsv(const QString &caption)
 {
-    const Engine::DataSet &rows = m_grid.tableModel()->dataSet();
-    const FileChoice choice{tr("Save as CSV"), caption + ".csv"_L1, tr("CSV files"), u"csv"_s};
+    save({tr("Save as CSV"), caption + ".csv"_L1, tr("CSV files"), u"csv"_s},
+         [&](const QString &file, Progress &progress) {
+             const TableModel &model = *m_grid.tableModel();
+             saveCsvList(model.dataSet(), model.columns(), file, progress, csvTexts(m_context.settings));
+         });
+}
+
+void ListOutput::saveXlsx(const QString &caption)
+{
+    save({tr("Save as XLSX"), caption + ".xlsx"_L1, tr("XLSX files"), u"xlsx"_s},
+         [&](const QString &file, Progress &progress) {
+             const TableModel &model = *m_grid.tableModel();
+             saveXlsxList(model.dataSet(), model.columns(), caption, file, progress);
+         });
+}
+
+void ListOutput::save(const FileChoice &choice, const std::function<void(const QString &file, Progress &)> &write)
+{
     const QString saved = saveToChosenFile(m_context, &m_window, choice, [&](const QString &file) {
         run(tr("Saving %1").arg(QDir::toNativeSeparators(file)),
-            [&](Progress &progress) { saveCsvList(rows, m_grid.tableModel()->columns(), file, progress); });
+            [&](Progress &progress) { write(file, progress); });
     });
     if (saved.isEmpty())
         return;
-    const QString count = plural(rows.recordCount(), tr("%n row"), tr("%n rows"));
+    const QString count = plural(m_grid.tableModel()->dataSet().recordCount(), tr("%n row"), tr("%n rows"));
     m_status.say(tr("%1 saved as %2").arg(count, QDir::toNativeSeparators(saved)));
 }
 

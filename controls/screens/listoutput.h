@@ -25,11 +25,13 @@ public:
     // The whole list as CSV in a file that the user names, the list's caption being proposed, in the folder of the last
     // one, until it can be written. There is somebody to ask (ScreenContext::chooseFileToSave).
     void saveCsv(const QString &caption);
+    void saveXlsx(const QString &caption); // the same as a sheet
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void save(const FileChoice &choice, const std::function<void(const QString &file, Progress &)> &write);
     void run(const QString &what, const std::function<void(Progress &)> &work);
 
     ScreenContext &m_context;

@@ -3,6 +3,7 @@
 #include "controls/grids/listsort.h"
 #include "controls/grids/liststatus.h"
 #include "controls/grids/windowmemory.h"
+#include "controls/screens/keptfiltermenu.h"
 #include "controls/screens/listoutput.h"
 #include "controls/windows/filterchip.h"
 #include "controls/windows/icons.h"
@@ -15,15 +16,20 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShowEvent>
 #include <QStatusBar>
+#include <QToolButton>
+#include <QUrl>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -65,6 +71,7 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
     for (const ListButton &button : description.buttons)
         addButton(button);
     addFilterChip();
+    addKeptFilters();
     finishPopup();
     addSorting();
     watchRecord();
@@ -303,8 +310,64 @@ void ListScreen::print(const QString &report)
     m_context.printList(report, m_data->isFiltered() ? m_data->filter() : QString(), orderOf(*m_data));
 }
 
-ListMenu ListScreen::fileMenu(const QString &report)
+QList<ListCommand> ListScreen::importCommands()
 {
+    std::function<void()> import;
+    std::function<void()> takeBack;
+    if (m_context.importFile)
+        import = [this] { importFile({});
+};
+if (m_context.takeBackImport) {
+    takeBack = [this] {
+        if (m_context.takeBackImport(m_importKind, this))
+            refreshList();
+    };
+}
+return {{.name = u"mnuImport"_s, .caption = tr("&Import..."), .run = import, .separatorBefore = true},
+        {.name = u"mnuTakeBackImport"_s, .caption = tr("Take &Back Import..."), .run = takeBack}};
+} // namespace Tallymere
+
+void ListScreen::importFile(const QString &file)
+{
+    if (m_context.importFile(m_importKind, file, this))
+        refreshList();
+}
+
+namespace {
+
+// The file that is dropped; empty where it is something else, or more than one.
+QString droppedFile(const QDropEvent &event)
+{
+    const QList<QUrl> urls = event.mimeData()->urls();
+    return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+}
+
+} // namespace
+
+void ListScreen::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (droppedFile(*event).isEmpty())
+        return;
+    event->setDropAction(Qt::CopyAction); // the file stays where it is
+    event->accept();
+}
+
+// The program that the file comes from waits for the end of the drop, so the import begins after it.
+void ListScreen::dropEvent(QDropEvent *event)
+{
+    const QString file = droppedFile(*event);
+    if (file.isEmpty())
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    QMetaObject::invokeMethod(
+        this, [this, file] { m_guard.runWhenFree([this, file] { importFile(file); }); }, Qt::QueuedConnection);
+}
+
+ListMenu ListScreen::fileMenu(const QString &report, const QString &importKind)
+{
+    m_importKind = importKind;
+    setAcceptDrops(!importKind.isEmpty() && bool(m_context.importFile));
     ListMenu menu{tr("&File"), {}};
     std::function<void()> run;
     if (m_context.printList)
@@ -313,13 +376,19 @@ ListMenu ListScreen::fileMenu(const QString &report)
         menu.commands << ListCommand{
             .name = u"mnuPrint"_s, .caption = tr("&Print..."), .run = run, .glyph = Glyph::Print};
     std::function<void()> save;
-    if (m_context.chooseFileToSave)
+    std::function<void()> saveSheet;
+    if (m_context.chooseFileToSave) {
         save = [this] { m_output->saveCsv(m_caption); };
+        saveSheet = [this] { m_output->saveXlsx(m_caption); };
+    }
     menu.commands << ListCommand{.name = u"mnuSaveCsv"_s,
                                  .caption = tr("Save as CSV..."),
                                  .run = save,
                                  .glyph = Glyph::Save}
-                  << ListCommand{.name = copyName,
+                  << ListCommand{.name = u"mnuSaveXlsx"_s, .caption = tr("Save as XLSX..."), .run = saveSheet};
+    if (!importKind.isEmpty())
+        menu.commands += importCommands();
+    menu.commands << ListCommand{.name = copyName,
                                  .caption = tr("&Copy as Text"),
                                  .run = [this] { m_output->copyRows(); },
                                  .glyph = Glyph::Copy,
@@ -341,11 +410,12 @@ ListCommand ListScreen::findCommand(std::function<void()> run) const
             .shortcut = QKeySequence(Qt::CTRL | Qt::Key_F)};
 }
 
-ListCommand ListScreen::filterCommand(std::function<void()> run) const
+ListCommand ListScreen::filterCommand(FilterChoices choices)
 {
+    m_filterChoices = std::move(choices);
     return {.name = filterName,
             .caption = tr("&Filter..."),
-            .run = std::move(run),
+            .run = [this] { btnFilterClick(); },
             .glyph = Glyph::Filter,
             .checkable = true};
 }
@@ -388,6 +458,18 @@ void refreshOpenList(const QString &name)
 {
     if (auto *list = findScreen<ListScreen>(name))
         list->refreshList();
+}
+
+void ListScreen::btnFilterClick()
+{
+    if (m_filterChoices.dialog().exec() != QDialog::Accepted)
+        return;
+    const auto inForce = [this] { return std::pair(m_data->isFiltered(), m_data->filter()); };
+    const auto before = inForce();
+    m_filterChoices.apply();
+    if (inForce() == before) // another one reads the list by itself
+        refreshList();
+    showFilterMark();
 }
 
 bool ListScreen::moveToKey(int key) { return m_data->moveToKey({key}); }
@@ -457,7 +539,7 @@ FilterColumns ListScreen::filterColumns() const
 // Beside the buttons: what the list is narrowed to, taken away with one click.
 void ListScreen::addFilterChip()
 {
-    if (!command(filterName))
+    if (!m_filterChoices.dialog)
         return;
     m_filterChip = new FilterChip(m_topPanel);
     m_filterChip->setObjectName(u"btnFilterChip"_s);
@@ -467,6 +549,31 @@ void ListScreen::addFilterChip()
         m_guard.runWhenFree([this] { resetFilter(); });
         m_grid->setFocus();
     });
+}
+
+void ListScreen::showSum(const QString &label, const QString &figure) { m_status->setSum(label, figure); }
+
+// Behind the command that opens the filter dialog, and behind its button.
+void ListScreen::addKeptFilters()
+{
+    if (!m_filterChoices.dialog || !m_context.settings)
+        return;
+    QAction *filter = command(filterName);
+    auto *view = static_cast<QMenu *>(filter->parent());
+    auto *kept = new KeptFilterMenu(m_context, m_guard,
+                                    {.list = objectName(),
+                                     .dialog = m_filterChoices.dialog,
+                                     .words = [this] { return m_data->isFiltered() ? filterWords() : QString(); },
+                                     .apply =
+                                         [this] {
+                                             m_filterChoices.apply();
+                                             showFilterMark();
+                                         }},
+                                    this);
+    const QList<QAction *> entries = view->actions();
+    view->insertMenu(entries.value(entries.indexOf(filter) + 1), kept);
+    if (auto *button = findChild<QPushButton *>(u"btnFilter"_s))
+        m_buttons->insertWidget(m_buttons->indexOf(button) + 1, kept->makeButton(m_topPanel));
 }
 
 void ListScreen::say(const QString &text) { m_status->say(text); }

@@ -70,6 +70,13 @@ struct ListDescription
     QString emptyHint = {};
 };
 
+// How a list is narrowed by its filter dialog.
+struct FilterChoices
+{
+    std::function<FilterDialog &()> dialog; // made when it is first needed
+    std::function<void()> apply; // narrows the list to what is chosen in it
+};
+
 // A window that shows a data set as a list, with commands on its rows. Not modal; it is freed when it is closed.
 //
 // The screens give a description, the data set and what the commands do; the base owns layout, sizes and places, the
@@ -81,6 +88,7 @@ class ListScreen : public QMainWindow, public TableOwner, public CommandScreen
 public:
     const Guard &guard() const { return m_guard; }
     Engine::DataSet &dataSet() const { return *m_data; }
+    TableModel &rows() const { return *m_grid->tableModel(); }
     QList<Engine::TableReader *> ownedTables() override; // none when it shows a query
 
     // Reads the list anew; the cursor stays on its row.
@@ -99,6 +107,7 @@ public:
     // The same for lists whose filter may be on and say nothing: every row shows, marked as filtered.
     void switchFilter(bool on, const QString &expression);
 
+    void btnFilterClick(); // of a list that has a filter
     QAction *command(const QString &name) const; // by component name; nullptr when there is none
 
 protected:
@@ -113,13 +122,16 @@ protected:
 
     // The commands and menus that lists have alike, with their usual names, captions and keys.
     // Print, save, copy, exit. A list without a report has no command for printing it.
-    ListMenu fileMenu(const QString &report);
+    // Where files of a kind ("items") can be brought in, also importing, by command and by dropping one on the list.
+    ListMenu fileMenu(const QString &report, const QString &importKind = {});
     ListCommand findCommand(std::function<void()> run) const;
-    ListCommand filterCommand(std::function<void()> run) const;
+    ListCommand filterCommand(FilterChoices choices); // and the filters that the user has kept behind it
     ListCommand refreshCommand();
     ListMenu helpMenu(const QString &caption) const; // leads to the screen's topic, where there is help
 
     void say(const QString &text); // in the status line, for a moment
+    void showSum(const QString &label,
+                 const QString &figure); // of the rows, in the status line; an empty figure is none
     void setCaption(const QString &caption); // in place of the description's
     virtual void showStep(); // each time the screen is shown: caption
     FilterColumns filterColumns() const; // that it shows, for its filter dialog
@@ -129,8 +141,12 @@ protected:
 
     void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
+    QList<ListCommand> importCommands();
+    void importFile(const QString &file);
     void layOut();
     void addCommands(QMenu *menu, const QList<ListCommand> &commands);
     static QMenu *addSubMenu(QMenu *menu, const ListCommand &command);
@@ -148,6 +164,7 @@ private:
     void showAvailable();
     void showFilterMark();
     void addFilterChip();
+    void addKeptFilters();
     QString hint() const;
     void sizeForRows();
 
@@ -156,6 +173,7 @@ private:
     Engine::DataSet *m_data = nullptr;
     QString m_caption;
     QString m_emptyHint;
+    QString m_importKind; // of the files that the list takes
     ListGrid *m_grid = nullptr;
     ListStatus *m_status = nullptr;
     ListOutput *m_output = nullptr;
@@ -165,7 +183,8 @@ private:
     WindowMemory *m_memory = nullptr;
     QFrame *m_topPanel = nullptr;
     QHBoxLayout *m_buttons = nullptr;
-    FilterChip *m_filterChip = nullptr; // of a list that has a filter
+    FilterChoices m_filterChoices; // of a list that has a filter
+    FilterChip *m_filterChip = nullptr; // likewise
     QList<std::pair<QAction *, std::function<bool()>>> m_available; // commands that depend on the current record
     QSize m_firstSize;
 };

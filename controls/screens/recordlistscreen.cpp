@@ -53,7 +53,8 @@ ListMenu RecordListScreen::viewMenu(const QList<ListOrder> &orders, int firstOrd
 {
     ListMenu menu{tr("&View"), {}};
     if (m_dialogs.makeFilter)
-        menu.commands.append(filterCommand([this] { btnFilterClick(); }));
+        menu.commands.append(filterCommand({.dialog = [this]() -> FilterDialog & { return filterDialog(); },
+                                            .apply = [this] { applyFilterChoices(); }}));
     if (orders.size() > 1) {
         ListCommand sortBy{.name = u"mnuSortBy"_s, .caption = tr("&Sort by"), .firstChoice = firstOrder};
         for (const ListOrder &order : orders) {
@@ -84,17 +85,6 @@ void RecordListScreen::btnEditClick() { m_records->openCurrent(); }
 
 void RecordListScreen::btnDeleteClick() { m_records->removeCurrent(); }
 
-void RecordListScreen::btnFilterClick()
-{
-    if (filterDialog().exec() != QDialog::Accepted)
-        return;
-    const auto inForce = [this] { return std::pair(dataSet().isFiltered(), dataSet().filter()); };
-    const auto before = inForce();
-    applyChoices();
-    if (inForce() == before) // another one reads the list by itself
-        refreshList();
-}
-
 FilterDialog &RecordListScreen::filterDialog()
 {
     if (!m_filter) {
@@ -109,13 +99,13 @@ QString RecordListScreen::chosenExpression() const
     return joinConditions({m_dialogs.filterExpression(m_filter->filter()), m_filter->columnsExpression()});
 }
 
-void RecordListScreen::applyChoices() { switchFilter(m_filter->isOn(), chosenExpression()); }
+void RecordListScreen::applyFilterChoices() { switchFilter(m_filter->isOn(), chosenExpression()); }
 
 void RecordListScreen::filterByMark(ListFilter::Marked marked)
 {
     filterDialog().btnResetClick();
     filterDialog().setMarked(marked);
-    applyChoices();
+    applyFilterChoices();
 }
 
 void RecordListScreen::btnFindClick() { m_dialogs.makeFind()->exec(); }

@@ -20,7 +20,6 @@ public:
     void btnNewClick();
     void btnEditClick(); // a record whose screen is open comes to the front; in an empty list New
     void btnDeleteClick();
-    void btnFilterClick();
     void btnFindClick();
     void filterByMark(ListFilter::Marked marked); // and by nothing else
 
@@ -51,8 +50,8 @@ protected:
 
 private:
     FilterDialog &filterDialog();
+    void applyFilterChoices();
     QString chosenExpression() const; // by the filter dialog
-    void applyChoices();
 
     ListRecordOpener *m_records = nullptr;
     Dialogs m_dialogs;

@@ -2,6 +2,7 @@
 
 #include "controls/grids/windowmemory.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/windowplaces.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -26,6 +27,7 @@ void SheetWindow::showEvent(QShowEvent *event)
         return;
     resize(scaled(this, m_firstSize.width()), scaled(this, m_firstSize.height()));
     fitToScreen(this);
+    placeByOpener(*this);
     m_memory->restore();
 }
 

@@ -1,15 +1,23 @@
 #include "controls/windows/dress.h"
 
+#include "controls/windows/icons.h"
+#include "controls/windows/listrows.h"
 #include "controls/windows/look.h"
 #include "controls/windows/screenmetrics.h"
+#include "engine/values/userlocale.h"
 
+#include <QCalendarWidget>
 #include <QEvent>
 #include <QFrame>
 #include <QGroupBox>
+#include <QListWidget>
 #include <QPainter>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTabWidget>
+#include <QTextCharFormat>
+#include <QToolButton>
+#include <typeinfo>
 
 namespace Tallymere {
 
@@ -49,6 +57,30 @@ private:
     QGroupBox &m_group;
 };
 
+// Of its own it has red letters that cannot be read on every ground, and arrows of another set of signs.
+void dressCalendar(QCalendarWidget &calendar)
+{
+    calendar.setLocale(Engine::userLocale().locale); // its names, and the day that a week begins with
+    QTextCharFormat weekend;
+    weekend.setForeground(Look(calendar.palette()).colour(Look::Role::SecondText));
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+        calendar.setWeekdayTextFormat(day, weekend);
+    const std::pair<const char *, Glyph> ways[] = {{"qt_calendar_prevmonth", Glyph::Previous},
+                                                   {"qt_calendar_nextmonth", Glyph::Next}};
+    for (const auto &[name, glyph] : ways) {
+        auto *button = calendar.findChild<QToolButton *>(QLatin1StringView(name));
+        if (!button)
+            continue;
+        QPixmap sign(button->iconSize() * calendar.devicePixelRatioF());
+        sign.setDevicePixelRatio(calendar.devicePixelRatioF());
+        sign.fill(Qt::transparent);
+        QPainter painter(&sign);
+        paintGlyph(painter, QRectF(QPointF(), sign.deviceIndependentSize()), glyph,
+                   calendar.palette().color(QPalette::HighlightedText));
+        button->setIcon(sign);
+    }
+}
+
 } // namespace
 
 void dress(QWidget &window)
@@ -65,6 +97,13 @@ void dress(QWidget &window)
         book->setDocumentMode(true);
         book->setTabBarAutoHide(true);
     }
+    for (QListWidget *list : window.findChildren<QListWidget *>()) {
+        const QAbstractItemDelegate &rows = *list->itemDelegate();
+        if (typeid(rows) == typeid(QStyledItemDelegate)) // none of the window's own
+            list->setItemDelegate(new ListRows(*list));
+    }
+    for (QCalendarWidget *calendar : window.findChildren<QCalendarWidget *>())
+        dressCalendar(*calendar);
     const int side = scaled(&window, Space::cell);
     for (QStatusBar *bar : window.findChildren<QStatusBar *>()) {
         bar->setFont(secondFont(window.font()));

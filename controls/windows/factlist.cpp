@@ -67,6 +67,7 @@ FactList::FactList(QWidget *parent)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
+    m_layout->setAlignment(Qt::AlignTop);
 }
 
 void FactList::clear()

@@ -19,6 +19,7 @@ FilterChip::FilterChip(QWidget *parent)
     setFont(secondFont(font()));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover); // it is painted anew when the mouse comes and goes
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
@@ -48,18 +49,6 @@ QSize FilterChip::minimumSizeHint() const
 {
     const QSize wanted = sizeHint();
     return {std::min(wanted.width(), scaled(this, leastWords) + marksWidth()), wanted.height()};
-}
-
-void FilterChip::enterEvent(QEnterEvent *event)
-{
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void FilterChip::leaveEvent(QEvent *event)
-{
-    QAbstractButton::leaveEvent(event);
-    update();
 }
 
 void FilterChip::paintEvent(QPaintEvent *)

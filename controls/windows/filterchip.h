@@ -18,8 +18,6 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    void enterEvent(QEnterEvent *event) override;
-    void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

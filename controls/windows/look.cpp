@@ -104,22 +104,33 @@ QColor mixed(const QColor &one, const QColor &other, double share)
     return {mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue())};
 }
 
-QFont secondFont(const QFont &font)
+namespace {
+
+QFont resized(QFont font, double share)
 {
-    constexpr double share = 12.0 / 13;
-    QFont second = font;
     if (font.pointSizeF() > 0)
-        second.setPointSizeF(font.pointSizeF() * share);
+        font.setPointSizeF(font.pointSizeF() * share);
     else
-        second.setPixelSize(qRound(font.pixelSize() * share));
-    return second;
+        font.setPixelSize(qRound(font.pixelSize() * share));
+    return font;
 }
+
+} // namespace
+
+QFont secondFont(const QFont &font) { return resized(font, 12.0 / 13); }
 
 QFont headFont(const QFont &font)
 {
     QFont head = secondFont(font);
     head.setWeight(QFont::DemiBold);
     return head;
+}
+
+QFont totalFont(const QFont &font)
+{
+    QFont total = resized(font, 14.0 / 13);
+    total.setBold(true);
+    return total;
 }
 
 void drawTick(QPainter &painter, const QRectF &room, const QColor &colour)

@@ -61,10 +61,11 @@ inline constexpr int row = 26; // the height of a row of a grid
 inline constexpr int corner = 5; // the radius of rounded ones
 } // namespace Space
 
-// The two further fonts beside that of the desktop: a little smaller for what explains, and the same in bold for what
-// stands over something.
+// The further fonts beside that of the desktop: a little smaller for what explains, the same in bold for what stands over
+// something, and a little larger in bold for what all comes to.
 QFont secondFont(const QFont &font);
 QFont headFont(const QFont &font);
+QFont totalFont(const QFont &font);
 
 // In a square.
 void drawTick(QPainter &painter, const QRectF &room, const QColor &colour);

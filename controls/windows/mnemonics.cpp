@@ -1,5 +1,6 @@
 #include "controls/windows/mnemonics.h"
 
+#include <algorithm>
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
@@ -43,6 +44,58 @@ qsizetype freeLetterIn(const QString &caption, const Letters &taken)
 bool wouldLoseShortcut(const QAbstractButton &button) { return !button.shortcut().isEmpty(); }
 bool wouldLoseShortcut(const QAction &) { return false; }
 
+// Captions that are given letters; where all of a short one are taken, another that has got one of them takes its next.
+class LetterGiver
+{
+public:
+    explicit LetterGiver(Letters &taken)
+        : m_taken(taken)
+    {
+    }
+
+    qsizetype add(const QString &caption)
+    {
+        m_given.append({caption, freeLetterIn(caption, m_taken)});
+        Given &added = m_given.last();
+        for (qsizetype at = 0; added.at < 0 && at < caption.size(); ++at) {
+            if (giveUp(caption[at].toUpper()))
+                added.at = at;
+        }
+        if (added.at >= 0)
+            m_taken.insert(added.letter());
+        return m_given.size() - 1;
+    }
+
+    QString captionOf(qsizetype number) const
+    {
+        const Given &given = m_given[number];
+        return given.at < 0 ? given.caption : QString(given.caption).insert(given.at, u'&');
+    }
+
+private:
+    struct Given
+    {
+        QString caption;
+        qsizetype at = -1;
+
+        QChar letter() const { return at < 0 ? QChar() : caption[at].toUpper(); }
+    };
+
+    bool giveUp(QChar letter)
+    {
+        const auto owner = std::ranges::find(m_given, letter, &Given::letter);
+        const qsizetype next = owner == m_given.end() ? -1 : freeLetterIn(owner->caption, m_taken);
+        if (next < 0)
+            return false;
+        owner->at = next;
+        m_taken.insert(owner->letter());
+        return true;
+    }
+
+    Letters &m_taken;
+    QList<Given> m_given;
+};
+
 // Those that have a letter keep it, so they come first.
 template <typename Captioned> void giveLettersTo(const QList<Captioned *> &all, Letters &taken)
 {
@@ -50,14 +103,15 @@ template <typename Captioned> void giveLettersTo(const QList<Captioned *> &all, 
         if (const QChar letter = letterOf(captioned->text()); !letter.isNull())
             taken.insert(letter);
     }
+    LetterGiver letters(taken);
+    QList<std::pair<Captioned *, qsizetype>> given;
     for (Captioned *captioned : all) {
-        QString caption = captioned->text();
-        const bool wants = letterOf(caption).isNull() && !wouldLoseShortcut(*captioned);
-        const qsizetype at = wants ? freeLetterIn(caption, taken) : -1;
-        if (at < 0)
-            continue;
-        taken.insert(caption[at].toUpper());
-        captioned->setText(caption.insert(at, u'&'));
+        if (letterOf(captioned->text()).isNull() && !wouldLoseShortcut(*captioned))
+            given.append({captioned, letters.add(captioned->text())});
+    }
+    for (const auto &[captioned, number] : given) {
+        if (const QString caption = letters.captionOf(number); caption != captioned->text())
+            captioned->setText(caption);
     }
 }
 

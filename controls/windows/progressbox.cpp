@@ -61,7 +61,6 @@ void ProgressBox::finish()
     if (!m_box->isVisible())
         return;
     m_box->setValue(m_box->maximum());
-    repaint();
 }
 
 // Until the box is there nothing that the user types or clicks gets through, so that no window that the work is about goes.

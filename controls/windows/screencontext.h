@@ -51,6 +51,11 @@ struct ScreenContext
     // Shows a report of a list by its name ("TrptItems"), with the rows that the list's filter expression leaves, in the
     // list's order (an index, or columns of a query). Empty: lists cannot be printed.
     std::function<void(const QString &report, const QString &filter, const QString &order)> printList = {};
+    // Brings a file of a kind ("items") in, over a window; without one the user names it. True when something has come in.
+    // Empty: lists take no files.
+    std::function<bool(const QString &kind, const QString &file, QWidget *window)> importFile = {};
+    // Takes back what was brought in last, over a window; true when it has gone.
+    std::function<bool(const QString &kind, QWidget *window)> takeBackImport = {};
     // Shows the card of an item, by its key. Empty: there is none to show.
     std::function<void(int item)> showItem = {};
     // Opens the help at a screen's topic, named by the screen. Empty: no help, and the command is disabled.

@@ -2,6 +2,7 @@
 
 #include "controls/windows/windowplaces.h"
 
+#include <QLabel>
 #include <QLayout>
 #include <QScreen>
 #include <QWidget>
@@ -11,6 +12,14 @@ namespace Tallymere {
 namespace {
 constexpr double designPixelsPerInch = 96.0;
 constexpr auto furtherProperty = "furtherScreen";
+
+void layOutAnew(QWidget &window)
+{
+    const QList<QLayout *> layouts = window.findChildren<QLayout *>();
+    for (QLayout *layout : layouts)
+        layout->invalidate();
+    window.layout()->activate();
+}
 
 // Fields that may grow may be half as wide as their form wants them, before the window is cut; buttons and fields of a
 // width of their own keep it.
@@ -23,10 +32,18 @@ void giveUpLeastWidths(QWidget *window)
             widget->setMinimumWidth(widget->minimumWidth() / 2);
         widget->updateGeometry();
     }
-    const QList<QLayout *> layouts = window->findChildren<QLayout *>();
-    for (QLayout *layout : layouts)
-        layout->invalidate();
-    window->layout()->activate();
+    layOutAnew(*window);
+}
+
+// Labels of several words may take several lines, as some languages need it.
+void breakLabels(QWidget *window)
+{
+    const QList<QLabel *> labels = window->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->text().contains(u' '))
+            label->setWordWrap(true);
+    }
+    layOutAnew(*window);
 }
 } // namespace
 
@@ -49,8 +66,10 @@ void fitToScreen(QWidget *window)
 {
     const QSize room = window->screen()->availableSize();
     const QMargins frame = expectedFrame(*window);
-    if (window->minimumSizeHint().width() > room.width() - frame.left() - frame.right())
-        giveUpLeastWidths(window);
+    for (const auto give : {giveUpLeastWidths, breakLabels}) {
+        if (window->minimumSizeHint().width() > room.width() - frame.left() - frame.right())
+            give(window);
+    }
     window->resize(window->size().boundedTo(room));
 }
 

@@ -15,7 +15,8 @@ int scaled(const QWidget *widget, int pixels);
 // Scales the widths that a form gives its widgets in design pixels. Once for each form, before it is shown.
 void scaleForm(QWidget *form);
 
-// Makes a window that is larger than its screen as small as that; its own least size is kept.
+// Makes a window that is larger than its screen as small as that: where it is too wide fields give up width first, then labels
+// of several words take several lines. What it needs then is kept.
 void fitToScreen(QWidget *window);
 
 // Shows a window, not minimised, in front of the others and active.

@@ -17,9 +17,11 @@ void SteppedProgress::start(int steps)
     showStart(steps);
 }
 
-void SteppedProgress::step()
+void SteppedProgress::step() { at(m_done + 1); }
+
+void SteppedProgress::at(int done)
 {
-    ++m_done;
+    m_done = done;
     if (m_sinceShown.elapsed() < repaintEvery)
         return;
     showDone(std::min(m_done, m_steps));

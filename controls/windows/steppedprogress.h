@@ -13,6 +13,8 @@ class SteppedProgress : public Progress
 public:
     void start(int steps) final;
     void step() final;
+    void
+    at(int done); // in place of steps, for work that counts them elsewhere; lets the windows repaint as they do
 
 protected:
     SteppedProgress();

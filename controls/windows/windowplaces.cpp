@@ -7,6 +7,7 @@
 #include <QRegion>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 namespace Tallymere {
 
@@ -25,6 +26,15 @@ QList<QRect> availableScreens()
     return screens;
 }
 
+// As the window manager says it now: a widget may go on with the frame that it had not yet when it was first asked for it.
+QMargins frameOf(const QWidget &window)
+{
+    const QWindow *shown = window.windowHandle();
+    return shown ? shown->frameMargins() : QMargins();
+}
+
+QRect withFrame(const QWidget &window) { return window.geometry().marginsAdded(frameOf(window)); }
+
 // The windows that a further one would hide: its opener and all that somebody has opened. A window behind them which
 // waits for them to close is none.
 QList<QRect> openBeside(const QWidget &window)
@@ -36,7 +46,7 @@ QList<QRect> openBeside(const QWidget &window)
         const bool isOpened =
             other->parentWidget() && (other->windowType() == Qt::Window || other->windowType() == Qt::Dialog);
         if (other != &window && other->isVisible() && !other->isMinimized() && (isOpener || isOpened))
-            places.append(other->frameGeometry());
+            places.append(withFrame(*other));
     }
     return places;
 }
@@ -102,13 +112,7 @@ QPoint besideOthers(const QList<QRect> &taken, QPoint opener, QSize size, int ga
 
 QMargins expectedFrame(const QWidget &window)
 {
-    if (!window.parentWidget())
-        return {};
-    const QWidget *opener = window.parentWidget()->window();
-    const QRect outer = opener->frameGeometry();
-    const QRect inner = opener->geometry();
-    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
-            outer.bottom() - inner.bottom()};
+    return window.parentWidget() ? frameOf(*window.parentWidget()->window()) : QMargins();
 }
 
 void placeByOpener(QWidget &window)
@@ -119,8 +123,8 @@ void placeByOpener(QWidget &window)
     const QRect screen = window.screen()->availableGeometry();
     const QMargins frame = expectedFrame(window);
     const QSize size = QRect({}, window.size()).marginsAdded(frame).size();
-    const QPoint place = besideOthers(openBeside(window), opener->frameGeometry().topLeft(), size,
-                                      scaled(&window, gapBetween), screen);
+    const QPoint place =
+        besideOthers(openBeside(window), withFrame(*opener).topLeft(), size, scaled(&window, gapBetween), screen);
     putAt(window, QRect(place + QPoint(frame.left(), frame.top()), window.size()), {screen});
 }
 

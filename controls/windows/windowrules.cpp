@@ -134,7 +134,6 @@ bool WindowRules::takeKey(const QWidget &receiver, QKeyEvent &key)
     if (!book)
         return false;
     turnPage(*book, key.key() == Qt::Key_Tab && !key.modifiers().testFlag(Qt::ShiftModifier));
-    key.accept();
     return true;
 }
 

@@ -63,9 +63,11 @@ QString pattern(const QString &text, QString (*ofSign)(QChar))
 
 } // namespace
 
+QString containedGlob(const QString &text) { return u'*' + pattern(text, globOf) + u'*'; }
+
 SqlCondition contains(const Dialect &dialect, const SqlCondition &column, const QString &text)
 {
-    const QString wanted = dialect.variant(u'*' + pattern(text, globOf) + u'*', pattern(text, expressionOf));
+    const QString wanted = dialect.variant(containedGlob(text), pattern(text, expressionOf));
     return {column.text + dialect.variant(u" GLOB ?"_s, u" ~ ?"_s), column.parameters + QList<Value>{wanted}};
 }
 

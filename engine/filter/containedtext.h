@@ -11,4 +11,6 @@ class Dialect;
 // stores take the same ones whatever they know of alphabets. Letters that are stored as two characters are not found.
 SqlCondition contains(const Dialect &dialect, const SqlCondition &column, const QString &text);
 
+QString containedGlob(const QString &text); // the pattern as SQLite takes it, the longer one of the two
+
 } // namespace Engine

@@ -8,6 +8,7 @@
 #include "engine/values/linetext.h"
 
 #include <cmath>
+#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -145,7 +146,7 @@ private:
         case Node::Kind::Text:
             return {{u"CAST(? AS TEXT)"_s, {node.text}}, Sort::Text};
         case Node::Kind::Boolean:
-            return {{u"?"_s, {node.value}}, Sort::Boolean};
+            return {{u"CAST(? AS BOOLEAN)"_s, {node.value}}, Sort::Boolean};
         case Node::Kind::Null:
             return {{u"NULL"_s, {}}, Sort::Null};
         case Node::Kind::Arithmetic:
@@ -157,18 +158,50 @@ private:
         }
     }
 
+    // A server refuses a floating result that is too large or too small, where a file goes on with infinity or nothing. So
+    // figures take part that the books can hold, and no more of them than can come to such a result: what is smaller
+    // counts as nothing, what is larger as empty.
+    static constexpr double smallest = 1e-12;
+    static constexpr double largest = 1e15;
+    static constexpr int mostFigures = 20;
+
+    static int figuresIn(const Node &node)
+    {
+        const bool isMade = node.kind == Node::Kind::Arithmetic || node.kind == Node::Kind::Negate;
+        int figures = isMade ? 0 : 1;
+        for (const auto &part : isMade ? std::span(node.parts) : std::span<const std::unique_ptr<Node>>())
+            figures += figuresIn(*part);
+        return figures;
+    }
+
+    SqlCondition constantFigure(const Node &node) const
+    {
+        const double value = node.value.toDouble();
+        if (std::fabs(value) > largest)
+            refuse(node, Texts::tr("this number is too large to calculate with."));
+        return {u"CAST(? AS DOUBLE PRECISION)"_s, {std::fabs(value) < smallest ? 0.0 : value}};
+    }
+
     // Whole numbers of the stores would overflow and would divide without a remainder.
     SqlCondition arithmeticOperand(const Node &node) const
     {
         const Part part = operand(node);
         if (part.sort != Sort::Number)
             refuse(node, Texts::tr("a number was expected."));
-        const bool floating = node.kind == Node::Kind::Arithmetic || node.kind == Node::Kind::Negate;
-        return floating ? part.sql : wrapped("CAST("_L1, part.sql, " AS DOUBLE PRECISION)"_L1);
+        if (node.kind == Node::Kind::Number)
+            return constantFigure(node);
+        if (node.kind != Node::Kind::Field)
+            return part.sql;
+        const QString figure = u"CAST(%1 AS DOUBLE PRECISION)"_s.arg(part.sql.text);
+        if (isWholeNumber(part.type))
+            return {figure, {}};
+        return {u"CASE WHEN abs(%1) < 1e-12 THEN 0e0 WHEN abs(%1) <= 1e15 THEN %1 END"_s.arg(figure), {}};
     }
 
     SqlCondition arithmetic(const Node &node) const
     {
+        if (figuresIn(node) > mostFigures)
+            refuse(node, Texts::tr("too many figures to calculate with."));
         const SqlCondition left = arithmeticOperand(*node.parts[0]);
         SqlCondition right = arithmeticOperand(*node.parts[1]);
         if (node.text == "/"_L1)
@@ -189,7 +222,7 @@ private:
             return {{u"?"_s, {value}}, beside.sort};
         }
         if (node.kind == Node::Kind::Number && beside.sort == Sort::Boolean)
-            return {{u"?"_s, {node.value.toBool()}}, Sort::Boolean};
+            return {{u"CAST(? AS BOOLEAN)"_s, {node.value.toBool()}}, Sort::Boolean};
         if (node.kind == Node::Kind::Boolean && beside.sort == Sort::Number)
             return {number(node.value.toDouble()), Sort::Number};
         return part;
@@ -223,8 +256,17 @@ private:
         return joined(left.sql, u' ' + node.text + u' ', right.sql);
     }
 
+    // SQLite takes no pattern of more than 50,000 bytes.
+    void requireShort(const Node &text, qsizetype length, qsizetype most) const
+    {
+        if (length > most)
+            refuse(text, Texts::tr("the text is too long to look for."));
+    }
+
     SqlCondition like(const Node &node) const
     {
+        constexpr qsizetype mostLetters = 10'000; // three bytes each, or three letters
+        requireShort(*node.parts[1], node.parts[1]->text.size(), mostLetters);
         const Part tested = operand(*node.parts[0]);
         if (tested.sort != Sort::Text)
             refuse(*node.parts[0], Texts::tr("LIKE needs a text field."));
@@ -237,6 +279,8 @@ private:
         const Part tested = operand(*node.parts[0]);
         if (tested.sort != Sort::Text)
             refuse(*node.parts[0], Texts::tr("CONTAINS needs a text field."));
+        constexpr qsizetype mostBytes = 50'000;
+        requireShort(*node.parts[1], containedGlob(node.parts[1]->text).toUtf8().size(), mostBytes);
         return contains(m_dialect, tested.sql, node.parts[1]->text);
     }
 

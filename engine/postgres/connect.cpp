@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <chrono>
 #include <libpq-fe.h>
+#include <mutex>
 #include <QRegularExpression>
+#include <QUuid>
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +16,9 @@ namespace Engine {
 
 namespace {
 
+// For a server to answer: the only one there is, and each of several.
 constexpr std::chrono::seconds connectTimeout{10};
+constexpr std::chrono::seconds oneOfSeveralTimeout{4};
 
 // The words and values of PQconnectStartParams, kept for the time of the call.
 class Parameters
@@ -42,15 +46,27 @@ private:
 
 bool isSet(const char *variable) { return !qEnvironmentVariableIsEmpty(variable); }
 
-Parameters parametersOf(const PostgresTarget &target)
+Parameters parametersOf(const PostgresTarget &target, const QList<PostgresServer> &servers)
 {
     Parameters parameters;
-    parameters.add("host", target.host);
+    QStringList hosts;
+    QStringList ports;
+    for (const PostgresServer &server : servers) {
+        hosts << server.host;
+        ports << server.port;
+    }
+    parameters.add("host", servers.isEmpty() ? target.host : hosts.join(u','));
+    if (!servers.isEmpty())
+        parameters.add("port", ports.join(u','));
     parameters.add("dbname", target.database);
-    if (!isSet("PGUSER"))
+    if (target.hasSeveral() && !isSet("PGTARGETSESSIONATTRS"))
+        parameters.add("target_session_attrs", u"read-write"_s);
+    // A service of the client library's own file (pg_service.conf) stands for an account as well.
+    const bool ownAccount = !isSet("PGUSER") && !isSet("PGSERVICE");
+    if (ownAccount)
         parameters.add("user", target.user);
     // A password given here would silence the password file, so it goes only with the account given here.
-    if (!isSet("PGUSER") && !isSet("PGPASSWORD") && !isSet("PGPASSFILE"))
+    if (ownAccount && !isSet("PGPASSWORD") && !isSet("PGPASSFILE"))
         parameters.add("password", target.password);
     const QString chosenMode = qEnvironmentVariable("PGSSLMODE");
     const bool strict = QStringList{u"require"_s, u"verify-ca"_s, u"verify-full"_s}.contains(chosenMode);
@@ -67,20 +83,46 @@ Parameters parametersOf(const PostgresTarget &target)
 
 void ignoreNotice(void *, const PGresult *) { }
 
+enum class Outcome { Connected, Failed, Silent };
+
 // Waits for the server without trusting every address of it to answer in time. Tells how far it came before a failure.
-bool awaitConnection(pg_conn *handle, ConnStatusType *stage)
+Outcome awaitConnection(pg_conn *handle, std::chrono::seconds time, ConnStatusType *stage)
 {
-    const auto deadline = std::chrono::steady_clock::now() + connectTimeout;
+    using Clock = std::chrono::steady_clock;
+    auto deadline = Clock::now() + time;
+    PostgresServer server = serverOf(handle);
     PostgresPollingStatusType state = PGRES_POLLING_WRITING;
     while (state == PGRES_POLLING_READING || state == PGRES_POLLING_WRITING) {
-        const auto left =
-            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
         if (left.count() <= 0 || !waitForSocket(PQsocket(handle), state == PGRES_POLLING_WRITING, left))
-            return false;
+            return Outcome::Silent;
         *stage = PQstatus(handle);
         state = PQconnectPoll(handle);
+        if (server != serverOf(handle)) {
+            server = serverOf(handle);
+            deadline = Clock::now() + time;
+        }
     }
-    return state == PGRES_POLLING_OK;
+    return state == PGRES_POLLING_OK ? Outcome::Connected : Outcome::Failed;
+}
+
+// All that a connection may go to, in their order.
+QList<PostgresServer> serversOf(pg_conn *handle)
+{
+    const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> options(PQconninfo(handle), PQconninfoFree);
+    const auto list = [&](const char *keyword) {
+        for (const PQconninfoOption *option = options.get(); option && option->keyword; ++option) {
+            if (qstrcmp(option->keyword, keyword) == 0)
+                return QString::fromUtf8(option->val).split(u',');
+        }
+        return QStringList();
+    };
+    const QStringList hosts = list("host");
+    const QStringList ports = list("port");
+    QList<PostgresServer> servers;
+    for (qsizetype i = 0; i < hosts.size(); ++i)
+        servers.append({hosts[i], ports.size() == hosts.size() ? ports[i] : ports.value(0)});
+    return servers;
 }
 
 // Names and numbers of machines, or a folder of sockets. Whole connection strings are not taken for an address: they
@@ -131,8 +173,7 @@ EngineError connectError(pg_conn *handle, const PostgresTarget &target, ConnStat
     return unreached(handle, target, stage, message);
 }
 
-// From the first byte of the connection on, so that libpq gives the codes of failures too.
-PostgresHandle opened(const PostgresTarget &target)
+void requireAddress(const PostgresTarget &target)
 {
     if (target.host.isEmpty())
         raise(ErrorCode::CannotOpen, Texts::tr("No server address has been set. Enter it in the settings."));
@@ -140,17 +181,116 @@ PostgresHandle opened(const PostgresTarget &target)
         raise(ErrorCode::CannotOpen,
               Texts::tr("What has been set as the server address is no address. Enter the name or the "
                         "number of the server alone, without account and password."));
-    PostgresHandle owned = beginConnecting(target);
-    pg_conn *handle = owned.get();
+}
+
+// Servers that have said nothing a moment ago, so that not every new connection waits for them. Other threads connect too.
+class SilentServers
+{
+public:
+    void note(const PostgresServer &server)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_heard.erase(std::remove_if(m_heard.begin(), m_heard.end(),
+                                     [&](const auto &entry) { return entry.first == server; }),
+                      m_heard.end());
+        m_heard.emplace_back(server, Clock::now());
+    }
+    bool areNone()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_heard.empty();
+    }
+    bool has(const PostgresServer &server)
+    {
+        const std::lock_guard lock(m_mutex);
+        return std::any_of(m_heard.begin(), m_heard.end(), [&](const auto &entry) {
+            return entry.first == server && Clock::now() - entry.second < remembered;
+        });
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    static constexpr std::chrono::minutes remembered{1};
+    std::mutex m_mutex;
+    std::vector<std::pair<PostgresServer, Clock::time_point>> m_heard;
+};
+
+SilentServers &silent()
+{
+    static SilentServers servers;
+    return servers;
+}
+
+// The target's servers in their order, but those behind that were silent; nothing where that is no other order.
+QList<PostgresServer> spokenFirst(const PostgresTarget &target)
+{
+    if (!target.hasSeveral() || isSet("PGHOSTADDR") || silent().areNone())
+        return {};
+    const QList<PostgresServer> all = serversOf(beginConnecting(target).get());
+    QList<PostgresServer> ordered = all;
+    std::stable_partition(ordered.begin(), ordered.end(),
+                          [](const PostgresServer &server) { return !silent().has(server); });
+    return ordered == all ? QList<PostgresServer>() : ordered;
+}
+
+struct Attempt
+{
+    PostgresHandle handle;
+    std::optional<EngineError> error; // none: it is connected
+    bool isWorthTheNext = false; // another server may do
+    bool isSilent = false;
+};
+
+// From the first byte of the connection on verbose, so that libpq gives the codes of failures too.
+Attempt attempted(const PostgresTarget &target, const QList<PostgresServer> &servers)
+{
+    Attempt attempt{beginConnecting(target, servers), {}};
+    pg_conn *handle = attempt.handle.get();
     ConnStatusType stage = CONNECTION_STARTED;
+    Outcome outcome = Outcome::Failed;
     if (handle)
         PQsetErrorVerbosity(handle, PQERRORS_VERBOSE);
-    if (handle && PQstatus(handle) != CONNECTION_BAD && awaitConnection(handle, &stage)) {
+    if (handle && PQstatus(handle) != CONNECTION_BAD)
+        outcome = awaitConnection(handle, target.hasSeveral() ? oneOfSeveralTimeout : connectTimeout, &stage);
+    if (outcome == Outcome::Connected) {
         PQsetErrorVerbosity(handle, PQERRORS_DEFAULT);
         PQsetNoticeReceiver(handle, ignoreNotice, nullptr);
-        return owned;
+        return attempt;
     }
-    throw connectError(handle, target, stage);
+    attempt.error = connectError(handle, target, stage);
+    attempt.isSilent = handle && outcome == Outcome::Silent;
+    attempt.isWorthTheNext = attempt.isSilent || (handle && isMissingDatabase(*attempt.error));
+    return attempt;
+}
+
+// The client library goes on to the next server where one refuses or cannot be written to, but not where one says nothing,
+// or has not heard yet of a new database.
+PostgresHandle opened(const PostgresTarget &target)
+{
+    requireAddress(target);
+    QList<PostgresServer> left = spokenFirst(target); // empty: as the target says
+    for (;;) {
+        Attempt attempt = attempted(target, left);
+        if (!attempt.error)
+            return std::move(attempt.handle);
+        if (!target.hasSeveral() || !attempt.isWorthTheNext || isSet("PGHOSTADDR"))
+            throw EngineError(*attempt.error);
+        if (left.isEmpty())
+            left = serversOf(attempt.handle.get());
+        if (attempt.isSilent)
+            silent().note(serverOf(attempt.handle.get()));
+        left.removeOne(serverOf(attempt.handle.get()));
+        if (left.isEmpty())
+            throw EngineError(*attempt.error);
+    }
+}
+
+// What cannot be said within the database that it is about.
+void runOnServer(PostgresTarget target, const QString &statement)
+{
+    target.database = u"postgres"_s;
+    target.lockWait = std::chrono::minutes(1); // the server makes one database at a time
+    PostgresLink(target).run(statement.toUtf8());
 }
 
 } // namespace
@@ -160,10 +300,27 @@ QString PostgresTarget::location() const
     return Texts::tr("database \"%1\" on the server %2").arg(database, host);
 }
 
-PostgresHandle beginConnecting(const PostgresTarget &target) { return parametersOf(target).start(); }
+PostgresHandle beginConnecting(const PostgresTarget &target, const QList<PostgresServer> &servers)
+{
+    return parametersOf(target, servers).start();
+}
+
+PostgresHandle beginConnectingTo(const PostgresServer &server, const PostgresTarget &target)
+{
+    Parameters parameters = parametersOf(target, {server});
+    parameters.add("target_session_attrs", u"any"_s);
+    return parameters.start();
+}
+
+PostgresServer serverOf(const pg_conn *handle)
+{
+    return {QString::fromUtf8(PQhost(handle)), QString::fromUtf8(PQport(handle))};
+}
 
 void PostgresLink::connect()
 {
+    if (m_marker.isEmpty())
+        m_marker = QUuid::createUuid().toByteArray(QUuid::WithoutBraces);
     if (m_handle)
         PQsetnonblocking(handle(), 1); // so that taking leave does not wait for a machine that is gone
     m_handle.reset();
@@ -177,6 +334,7 @@ void PostgresLink::connect()
     const ServerSession former = m_session;
     try {
         beginSession();
+        refuseHandedOnSessions();
     } catch (const EngineError &) {
         m_handle.reset(); // or it would pass for one whose locks have been looked after
         throw;
@@ -187,19 +345,25 @@ void PostgresLink::connect()
         if (isLost())
             throw; // otherwise this connection is good, and whose locks are gone must be told of it
     }
+    tell(true);
 }
 
 void PostgresLink::beginSession()
 {
-    const ResultPtr begun =
-        run("SET datestyle = ISO; SET standard_conforming_strings = on; SET search_path = public; "
-            "SET lock_timeout = "
-            + QByteArray::number(static_cast<qint64>(m_target.lockWait.count()))
-            + "; SELECT backend_start FROM pg_stat_activity WHERE pid = pg_backend_pid()");
+    const ResultPtr begun = run(
+        "SET datestyle = ISO; SET standard_conforming_strings = on; SET search_path = public; "
+        "SET lock_timeout = "
+        + QByteArray::number(static_cast<qint64>(m_target.lockWait.count()))
+        + "; SELECT pid, backend_start, writes AND to_regclass('tallymere.commits') IS NOT NULL, "
+          "writes AND has_database_privilege(current_database(), 'CREATE') "
+          "FROM pg_stat_activity, (SELECT NOT pg_is_in_recovery() AS writes) AS w WHERE pid = pg_backend_pid()");
     // Lets the server see a killed client while it works for it, so that its locks go at once. Not every system
     // that PostgreSQL runs on can do that.
     const ResultPtr ignored(PQexec(handle(), "SET client_connection_check_interval = '1s'"));
-    m_session = {PQbackendPID(handle()), PQgetvalue(begun.get(), 0, 0)};
+    // The process as the server itself calls it: what stands between may have told the client library another number.
+    m_session = {QByteArray(PQgetvalue(begun.get(), 0, 0)).toInt(), PQgetvalue(begun.get(), 0, 1)};
+    m_canMark = qstrcmp(PQgetvalue(begun.get(), 0, 2), "t") == 0;
+    m_mayMakeMarks = !m_canMark && qstrcmp(PQgetvalue(begun.get(), 0, 3), "t") == 0;
 }
 
 // The server may not have noticed yet that the former connection is gone, and keep its locks for it. After a new start
@@ -212,19 +376,24 @@ void PostgresLink::endSession(const ServerSession &session)
         + QByteArray::number(session.processId) + " AND backend_start = '" + session.begun + "'");
 }
 
-void createRemoteDatabase(const PostgresTarget &target)
+void PostgresLink::dropDatabase()
 {
-    PostgresTarget maintenance = target;
-    maintenance.database = u"postgres"_s;
-    maintenance.lockWait = std::chrono::minutes(1); // the server makes one database at a time
-    PostgresLink link(maintenance);
+    m_handle.reset();
+    m_lost = true;
+    runOnServer(m_target, u"DROP DATABASE IF EXISTS %1"_s.arg(quoted(m_target.database)));
+}
+
+bool createRemoteDatabase(const PostgresTarget &target)
+{
     const QString statement =
         u"CREATE DATABASE %1 ENCODING 'UTF8' LC_COLLATE 'C' LC_CTYPE 'C' TEMPLATE template0"_s;
     try {
-        link.run(statement.arg(quoted(target.database)).toUtf8());
+        runOnServer(target, statement.arg(quoted(target.database)));
+        return true;
     } catch (const EngineError &error) {
         if (!isExistingDatabase(error))
             throw;
+        return false;
     }
 }
 

@@ -26,6 +26,16 @@ PostgresTarget targetOf(const Database &database)
     target.mayTryAgain = [&session](std::chrono::steady_clock::time_point since) {
         return session.mayTryAgain(since);
     };
+    target.mayWaitForServer = [&session](std::chrono::steady_clock::time_point since,
+                                         std::chrono::milliseconds time) {
+        return session.mayTryAgain(since, time);
+    };
+    target.serverWait = session.serverWait;
+    target.answerWait = session.answerWait;
+    target.told = [&session](bool isThere) {
+        if (session.serverChanged)
+            session.serverChanged(isThere);
+    };
     target.applicationName = PostgresLocks::applicationName(session.applicationUser);
     return target;
 }
@@ -72,22 +82,31 @@ QString PostgresConnection::identity()
 
 void PostgresConnection::drain() { m_link->leavePipeline(); }
 
+void PostgresConnection::begin()
+{
+    m_link->begin();
+    m_locks->transactionBegun();
+}
+
 void PostgresConnection::commit()
 {
     m_link->commit();
     m_locks->releaseDeferred();
+    m_locks->transactionEnded();
 }
 
 void PostgresConnection::rollback() noexcept
 {
     m_link->rollback();
     m_locks->releaseDeferred();
+    m_locks->transactionEnded();
 }
 
 // A moment cannot be tried again for the sake of one statement, so that one waits for as long as would be tried.
 std::unique_ptr<Connection> PostgresConnection::openMoment(const Database &database)
 {
     PostgresTarget target = targetOf(database);
+    target.told = {}; // a moment that is lost is over, and nobody waits for it
     target.lockWait = database.session().lockAttempts * database.session().lockPause;
     auto reader = std::make_unique<PostgresConnection>(target);
     reader->m_link->begin("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY");
@@ -101,14 +120,50 @@ qint64 PostgresConnection::lastInsertId()
     return statement->next() ? statement->intAt(0) : 0;
 }
 
+void PostgresConnection::unmake() noexcept
+{
+    if (!m_isMade)
+        return;
+    try {
+        if (!tables().isEmpty())
+            return;
+        m_link->mayReconnect = [] { return false; };
+        m_link->dropDatabase();
+    } catch (const EngineError &) { // an empty one stays, which the next restore takes
+    }
+}
+
 LockManager &PostgresConnection::locks() { return *m_locks; }
 
 bool PostgresConnection::isLost() const { return m_link->isLost(); }
+
+bool PostgresConnection::hasEnded() { return m_link->hasEnded(); }
 
 std::unique_ptr<Statement> PostgresConnection::createStatement(const QString &sql)
 {
     return std::make_unique<PostgresStatement>(m_link, sql);
 }
+
+namespace {
+
+// Of several addresses the one that answers first may be a standby, which has the new database a moment later.
+std::unique_ptr<PostgresConnection> connectToMade(const PostgresTarget &target, const Session &session)
+{
+    constexpr std::chrono::seconds longest{30};
+    const auto deadline = std::chrono::steady_clock::now() + longest;
+    for (;;) {
+        try {
+            return std::make_unique<PostgresConnection>(target);
+        } catch (const EngineError &error) {
+            const bool mayCome = target.host.contains(u',') && isMissingDatabase(error);
+            if (!mayCome || std::chrono::steady_clock::now() >= deadline)
+                throw;
+        }
+        session.pause();
+    }
+}
+
+} // namespace
 
 std::unique_ptr<Connection> openPostgres(const Database &database)
 {
@@ -119,8 +174,11 @@ std::unique_ptr<Connection> openPostgres(const Database &database)
         if (!database.createIfMissing || !isMissingDatabase(error))
             throw;
     }
-    createRemoteDatabase(target);
-    return std::make_unique<PostgresConnection>(target);
+    const bool isMade = createRemoteDatabase(target);
+    auto connection = connectToMade(target, database.session());
+    if (isMade)
+        connection->setMade();
+    return connection;
 }
 
 } // namespace Engine

@@ -22,19 +22,23 @@ public:
     void execute(const QString &script) override;
     bool sendsAhead() const override { return true; }
     void drain() override;
-    void begin() override { m_link->begin(); }
+    bool hasEnded() override;
+    void begin() override;
     void commit() override;
     void rollback() noexcept override;
     bool inTransaction() const override { return m_link->inTransaction(); }
     std::unique_ptr<Connection> openMoment(const Database &database) override;
+    std::unique_ptr<BulkInsert> bulkInsert(const TableLayout &layout) override;
     std::optional<TableLayout> describe(const QString &table) override;
     QStringList tables() override;
     qint64 size() override;
     QStringList damage(const std::function<void()> &step) override;
     qint64 repair(const TableLayout &table) override;
+    void unmake() noexcept override;
     qint64 lastInsertId() override;
     LockManager &locks() override;
 
+    void setMade() { m_isMade = true; } // the database came about with this connection
     bool isTransactionFailed() const { return m_link->isTransactionFailed(); }
     bool isLost() const;
 
@@ -45,6 +49,7 @@ private:
     PostgresDialect m_dialect;
     std::shared_ptr<PostgresLink> m_link; // shared with statements that outlive the connection
     std::unique_ptr<PostgresLocks> m_locks;
+    bool m_isMade = false;
 };
 
 } // namespace Engine

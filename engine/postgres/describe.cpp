@@ -34,14 +34,39 @@ QString spelled(const QString &stored, const QString &comment)
     return comment.compare(stored, Qt::CaseInsensitive) == 0 ? comment : stored;
 }
 
+// One answer describes a table: a row for itself, one for each column and one for each term of each index, in their order.
+// The server may be far away. What the columns of the answer hold, by what the row is for:
+//   part 0: the table's name and its comment
+//   part 1: a column's name, its comment, type and length, whether it counts by itself
+//   part 2: an index's name, its term, whether that descends, whether it is the declared key
+const QString describing =
+    u"SELECT * FROM (WITH t AS (SELECT c.oid, c.relname FROM pg_class c "
+    "WHERE c.relname = ? AND c.relkind IN ('r', 'p') AND pg_table_is_visible(c.oid)) "
+    "SELECT 0 AS part, CAST(0 AS bigint) AS place, CAST(t.relname AS text), "
+    "coalesce(obj_description(t.oid, 'pg_class'), ''), '', 0, false FROM t "
+    "UNION ALL SELECT 1, a.attnum, a.attname, coalesce(col_description(a.attrelid, a.attnum), ''), y.typname, "
+    "CASE WHEN y.typname IN ('varchar', 'bpchar') THEN a.atttypmod - 4 ELSE 0 END, "
+    "a.attidentity <> '' OR coalesce(pg_get_expr(d.adbin, d.adrelid) LIKE 'nextval(%', false) "
+    "FROM t JOIN pg_attribute a ON a.attrelid = t.oid JOIN pg_type y ON y.oid = a.atttypid "
+    "LEFT JOIN pg_attrdef d ON d.adrelid = a.attrelid AND d.adnum = a.attnum "
+    "WHERE a.attnum > 0 AND NOT a.attisdropped "
+    "UNION ALL SELECT 2, row_number() OVER (ORDER BY NOT x.indisprimary, x.indexrelid, k.n), i.relname, "
+    "pg_get_indexdef(x.indexrelid, k.n, true), '', x.indoption[k.n - 1] & 1, x.indisprimary "
+    "FROM t JOIN pg_index x ON x.indrelid = t.oid JOIN pg_class i ON i.oid = x.indexrelid "
+    "CROSS JOIN LATERAL generate_series(1, x.indnkeyatts) AS k(n) WHERE x.indisvalid) d "
+    "ORDER BY 1, 2"_s;
+
+enum Answer { Part, Place, Name, Words, Type, Number, Mark };
+
 FieldDef fieldOf(const Statement &row)
 {
-    QString comment = row.textAt(3);
+    QString comment = row.textAt(Words);
     const bool money = comment.endsWith(PostgresDialect::moneyMark);
     if (money)
         comment.chop(PostgresDialect::moneyMark.size());
-    FieldDef field{spelled(row.textAt(0), comment), fieldTypeOf(row.textAt(1), row.intAt(4) == 1, money), 0};
-    const auto size = static_cast<int>(row.intAt(2));
+    FieldDef field{spelled(row.textAt(Name), comment), fieldTypeOf(row.textAt(Type), row.intAt(Mark) == 1, money),
+                   0};
+    const auto size = static_cast<int>(row.intAt(Number));
     if (field.type == FieldType::Memo && size > 0) {
         field.type = FieldType::Text;
         field.size = size;
@@ -58,66 +83,45 @@ QString columnOf(const QString &term, bool *folded)
     return match.captured(2);
 }
 
-// One row for each term of each index, in order.
-const QString indexQuery =
-    u"SELECT i.relname, x.indisprimary, pg_get_indexdef(x.indexrelid, k.n, true), x.indoption[k.n - 1] & 1 "
-    "FROM pg_index x JOIN pg_class i ON i.oid = x.indexrelid "
-    "CROSS JOIN LATERAL generate_series(1, x.indnkeyatts) AS k(n) "
-    "WHERE x.indrelid = CAST(? AS bigint) AND x.indisvalid ORDER BY NOT x.indisprimary, x.indexrelid, k.n"_s;
-
-QList<IndexDef> indexesOf(PostgresConnection &connection, qint64 table, const TableLayout &layout)
+// Takes the next term of an index over; those of one index follow each other.
+void addTerm(TableLayout &layout, QString &lastName, const Statement &row)
 {
-    QList<IndexDef> indexes;
-    QString lastName;
-    const StatementPtr row = connection.prepare(indexQuery);
-    row->bindInt(0, table);
-    while (row->next()) {
-        const QString stored = row->textAt(0);
-        const bool declaredKey = row->intAt(1) == 1;
-        const QString name = declaredKey ? QString(u""_s) : indexNameFromPrefixed(layout.name, stored).toUpper();
-        if (!declaredKey && indexNameFromPrefixed(layout.name, stored).isNull())
-            continue;
-        if (stored != lastName)
-            indexes.append({name, {}, name.isEmpty() ? IndexOption::Primary : IndexOption::None});
-        lastName = stored;
-        IndexDef &index = indexes.last();
-        bool folded = false;
-        const QString column = columnOf(row->textAt(2), &folded);
-        const FieldDef *field = layout.field(column);
-        index.fields += (index.fields.isEmpty() ? ""_L1 : ";"_L1) + (field ? field->name : column);
-        if (folded)
-            index.options |= IndexOption::CaseInsensitive;
-        if (row->intAt(3) == 1)
-            index.options |= IndexOption::Descending;
-    }
-    return indexes;
+    const QString stored = row.textAt(Name);
+    const bool declaredKey = row.intAt(Mark) == 1;
+    const QString name = declaredKey ? QString(u""_s) : indexNameFromPrefixed(layout.name, stored).toUpper();
+    if (!declaredKey && indexNameFromPrefixed(layout.name, stored).isNull())
+        return;
+    if (stored != lastName)
+        layout.indexes.append({name, {}, name.isEmpty() ? IndexOption::Primary : IndexOption::None});
+    lastName = stored;
+    IndexDef &index = layout.indexes.last();
+    bool folded = false;
+    const QString column = columnOf(row.textAt(Words), &folded);
+    const FieldDef *field = layout.field(column);
+    index.fields += (index.fields.isEmpty() ? ""_L1 : ";"_L1) + (field ? field->name : column);
+    if (folded)
+        index.options |= IndexOption::CaseInsensitive;
+    if (row.intAt(Number) == 1)
+        index.options |= IndexOption::Descending;
 }
 
 } // namespace
 
 std::optional<TableLayout> PostgresConnection::describe(const QString &table)
 {
-    StatementPtr row = prepare(u"SELECT CAST(c.oid AS bigint), c.relname, coalesce(obj_description(c.oid, "
-                               u"'pg_class'), '') FROM pg_class c "
-                               "WHERE c.relname = ? AND c.relkind IN ('r', 'p') AND pg_table_is_visible(c.oid)"_s);
+    const StatementPtr row = prepare(describing);
     row->bindText(0, table.toLower());
     if (!row->next())
         return std::nullopt;
-    const qint64 id = row->intAt(0);
     TableLayout layout;
-    layout.name = spelled(row->textAt(1), row->textAt(2));
-
-    row = prepare(
-        u"SELECT a.attname, t.typname, CASE WHEN t.typname IN ('varchar', 'bpchar') THEN a.atttypmod - 4 "
-        "ELSE 0 END, coalesce(col_description(a.attrelid, a.attnum), ''), a.attidentity <> '' OR "
-        "coalesce(pg_get_expr(d.adbin, d.adrelid) LIKE 'nextval(%', false) FROM pg_attribute a JOIN pg_type t "
-        "ON t.oid = a.atttypid LEFT JOIN pg_attrdef d ON d.adrelid = a.attrelid AND d.adnum = a.attnum "
-        "WHERE a.attrelid = CAST(? AS bigint) AND a.attnum > 0 AND NOT a.attisdropped ORDER BY a.attnum"_s);
-    row->bindInt(0, id);
-    while (row->next())
-        layout.fields << fieldOf(*row);
-    row.reset();
-    layout.indexes = indexesOf(*this, id, layout);
+    layout.name = spelled(row->textAt(Name), row->textAt(Words));
+    QString lastIndex;
+    while (row->next()) {
+        if (row->intAt(Part) == 1)
+            layout.fields << fieldOf(*row);
+        else
+            addTerm(layout, lastIndex, *row);
+    }
     return layout;
 }
 

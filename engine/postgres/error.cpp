@@ -1,5 +1,7 @@
 #include "engine/postgres/error.h"
 
+#include "engine/store/writestop.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Engine {
@@ -33,10 +35,13 @@ const Mapping mappings[] = {
     {"42501", ErrorCode::AccessDenied, accessText},
     {"28", ErrorCode::AccessDenied, accessText},
     {"3D000", ErrorCode::CannotOpen,
-     QT_TRANSLATE_NOOP("Engine",
-                       "There is no %1. Check the settings, or make the database with \"tallymere init\".")},
+     QT_TRANSLATE_NOOP("Engine", "There is no %1. Check the settings, or make a new company.")},
     {"55P03", ErrorCode::Busy, busyText},
     {"40", ErrorCode::Busy, busyText},
+    {"26000", ErrorCode::CannotOpen,
+     QT_TRANSLATE_NOOP("Engine",
+                       "The %1 has given the session to somebody else (%2). If a pooler stands between, have "
+                       "it keep sessions (pgbouncer: pool_mode = session).")},
     {"25006", ErrorCode::ReadOnly, QT_TRANSLATE_NOOP("Engine", "The %1 can only be read at the moment (%2).")},
     {"53100", ErrorCode::DiskFull,
      QT_TRANSLATE_NOOP("Engine", "The disk of the %1 is full. The changes were undone. Make room and try again.")},
@@ -65,6 +70,8 @@ EngineError postgresError(const QByteArray &sqlState, const QString &words, cons
         u"PostgreSQL %1: %2 %3"_s.arg(QString::fromLatin1(sqlState), words, detail).trimmed();
     if (sqlState.startsWith("57P01") || sqlState.startsWith("57P02"))
         return connectionLost(location, driverText);
+    if (const std::optional<QString> place = WriteStop::placeIn(words))
+        return WriteStop::error(*place, driverText);
     const Mapping *mapping = mappingOf(sqlState);
     if (!mapping)
         return EngineError(ErrorCode::General, Texts::tr("The %1 reports: %2").arg(location, words), driverText);
@@ -73,7 +80,13 @@ EngineError postgresError(const QByteArray &sqlState, const QString &words, cons
     return EngineError(mapping->code, text, driverText);
 }
 
-bool isMissingDatabase(const EngineError &error) { return error.driverText().startsWith("PostgreSQL 3D000"_L1); }
+// A pooler passes the server's words on, but not its code.
+bool isMissingDatabase(const EngineError &error)
+{
+    const QString &words = error.driverText();
+    return words.startsWith("PostgreSQL 3D000"_L1)
+        || (words.startsWith("PostgreSQL 08P01"_L1) && words.contains("does not exist"_L1));
+}
 
 bool isExistingDatabase(const EngineError &error)
 {
@@ -87,6 +100,26 @@ EngineError connectionLost(const QString &location, const QString &words)
                                  "check the network and repeat the last step.")
                            .arg(location),
                        words);
+}
+
+EngineError handedOnSessions(const QString &location)
+{
+    return EngineError(
+        ErrorCode::CannotOpen,
+        Texts::tr("Between this program and the %1 stands a pooler that gives every transaction another "
+                  "session. Locks would keep nobody out. Have it keep sessions for this database "
+                  "(pgbouncer: pool_mode = session).")
+            .arg(location));
+}
+
+EngineError answerLost(const QString &location, const QString &words)
+{
+    return EngineError(
+        ErrorCode::AnswerLost,
+        Texts::tr("The connection to the %1 was lost while changes were being saved, and it could not be "
+                  "found out whether they were. Look whether they are there before you repeat them.")
+            .arg(location),
+        words);
 }
 
 } // namespace Engine

@@ -19,5 +19,7 @@ bool isMissingDatabase(const EngineError &error);
 bool isExistingDatabase(const EngineError &error);
 
 EngineError connectionLost(const QString &location, const QString &words);
+EngineError handedOnSessions(const QString &location); // by a pooler, from transaction to transaction
+EngineError answerLost(const QString &location, const QString &words);
 
 } // namespace Engine

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <libpq-fe.h>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -66,6 +67,8 @@ void PostgresLink::prepareFor(ResultReader *reader)
     }
     if (mayReconnect && !mayReconnect())
         throw connectionLost(location(), u"not connected again while locks were held"_s);
+    if (m_isConnecting) // what a screen does while that is waited for
+        throw connectionLost(location(), u"being connected again"_s);
     connectAgain();
     if (reconnected)
         reconnected();
@@ -79,7 +82,7 @@ void PostgresLink::connectAgain()
         throw EngineError(*m_unanswered);
     m_unanswered.reset();
     try {
-        connect();
+        connectPatiently();
     } catch (const EngineError &error) {
         const auto now = std::chrono::steady_clock::now();
         if (now - begun >= longWait) {
@@ -88,6 +91,30 @@ void PostgresLink::connectAgain()
         }
         throw;
     }
+}
+
+// While a cluster makes up its mind none of its servers can be written to.
+void PostgresLink::connectPatiently()
+{
+    m_isConnecting = true;
+    const auto over = qScopeGuard([this] { m_isConnecting = false; });
+    const auto since = std::chrono::steady_clock::now();
+    for (;;) {
+        try {
+            return connect();
+        } catch (const EngineError &error) {
+            const bool mayPass = error.isConnectionLost() || error.code() == ErrorCode::CannotOpen;
+            if (!m_target.hasSeveral() || !mayPass || isMissingDatabase(error) || !m_target.mayWaitForServer
+                || !m_target.mayWaitForServer(since, m_target.serverWait))
+                throw;
+        }
+    }
+}
+
+bool PostgresLink::mayReadAgain(const EngineError &error) const
+{
+    return error.code() == ErrorCode::ConnectionLost && m_target.mayWaitForServer && !m_inTransaction
+        && !m_lostInTransaction && !m_isConnecting && (!mayReconnect || mayReconnect());
 }
 
 void PostgresLink::dropStaleStatements()
@@ -145,7 +172,7 @@ void PostgresLink::awaitAnswer()
 {
     using Clock = std::chrono::steady_clock;
     do {
-        PostgresWatch watch(m_target, PQbackendPID(handle()));
+        PostgresWatch watch(m_target, serverOf(handle()), m_session.processId);
         const auto deadline = Clock::now() + watchTime;
         while (!watch.isOver() && Clock::now() < deadline) {
             const Clock::duration left = std::max(deadline - Clock::now(), Clock::duration::zero());
@@ -192,9 +219,29 @@ EngineError PostgresLink::errorOf(const pg_result *result)
 
 bool PostgresLink::isLost() const { return m_lost || PQstatus(handle()) == CONNECTION_BAD; }
 
+void PostgresLink::tell(bool isThere)
+{
+    if (std::exchange(m_isToldLost, !isThere) == isThere && m_target.told)
+        m_target.told(isThere);
+}
+
+bool PostgresLink::hasEnded()
+{
+    constexpr int mostLooks = 3; // its last words, and the end itself
+    for (int look = 0; look < mostLooks && !isLost() && !m_reader && m_pending == 0 && isAnswered({}); ++look) {
+        if (PQconsumeInput(handle()) != 1)
+            break;
+        PQisBusy(handle()); // takes up what has come
+    }
+    if (isLost())
+        noteLoss();
+    return isLost();
+}
+
 void PostgresLink::noteLoss()
 {
     m_lost = true;
+    tell(false);
     m_lostInTransaction = m_lostInTransaction || m_inTransaction;
     m_inTransaction = false;
     m_pending = 0;
@@ -286,6 +333,9 @@ void PostgresLink::begin(const QByteArray &statement)
 {
     prepareFor(nullptr);
     leavePipeline();
+    m_writes = statement == "BEGIN";
+    if (m_writes && m_mayMakeMarks)
+        makeMarks();
     run(statement);
     m_inTransaction = true;
 }
@@ -294,7 +344,21 @@ void PostgresLink::commit()
 {
     prepareFor(nullptr);
     leavePipeline();
-    const ResultPtr result = run("COMMIT");
+    const bool writes = m_writes && !isTransactionFailed();
+    const bool isMarked = writes && m_canMark;
+    ResultPtr result;
+    try {
+        result = run(isMarked ? commitText() : "COMMIT"_ba);
+    } catch (const EngineError &error) {
+        if (error.code() != ErrorCode::ConnectionLost || !writes)
+            throw;
+        if (!isMarked)
+            throw answerLost(location(), error.driverText());
+        if (!wasCommitted())
+            throw;
+        m_lostInTransaction = false;
+        return;
+    }
     m_inTransaction = false;
     if (qstrcmp(PQcmdStatus(result.get()), "ROLLBACK") == 0)
         raise(ErrorCode::General,
@@ -323,6 +387,73 @@ void PostgresLink::rollback() noexcept
     } catch (const EngineError &) {
         // a connection that is lost has undone it
     }
+}
+
+// --- commits whose answer is lost -------------------------------------------------------------------------------
+
+// Each link has a row there with the number of its last commit, which is written with it. The server's own numbers of
+// transactions would not do: those that had not reached the standby are given to others by it.
+void PostgresLink::makeMarks()
+{
+    m_mayMakeMarks = false;
+    try {
+        run("CREATE SCHEMA IF NOT EXISTS tallymere; "
+            "CREATE TABLE IF NOT EXISTS tallymere.commits (marker text PRIMARY KEY, number integer NOT NULL, "
+            "at timestamp with time zone NOT NULL); "
+            "GRANT USAGE ON SCHEMA tallymere TO PUBLIC; "
+            "GRANT SELECT, INSERT, UPDATE, DELETE ON tallymere.commits TO PUBLIC");
+    } catch (const EngineError &) {
+        if (isLost())
+            throw; // otherwise somebody else is just making it
+    }
+    const ResultPtr made = run("SELECT to_regclass('tallymere.commits') IS NOT NULL");
+    m_canMark = qstrcmp(PQgetvalue(made.get(), 0, 0), "t") == 0;
+}
+
+// A transaction that has written nothing leaves no number either. Rows of links that are no more go after a day.
+QByteArray PostgresLink::commitText()
+{
+    QByteArray text;
+    if (m_commits++ == 0)
+        text = "DELETE FROM tallymere.commits WHERE marker IN (SELECT marker FROM tallymere.commits "
+               "WHERE at < now() - interval '1 day' AND txid_current_if_assigned() IS NOT NULL "
+               "FOR UPDATE SKIP LOCKED); ";
+    return text + "INSERT INTO tallymere.commits (marker, number, at) SELECT '" + m_marker + "', "
+        + QByteArray::number(m_commits)
+        + ", now() WHERE txid_current_if_assigned() IS NOT NULL "
+          "ON CONFLICT (marker) DO UPDATE SET number = excluded.number, at = excluded.at; COMMIT";
+}
+
+bool PostgresLink::wasCommitted()
+{
+    const auto since = std::chrono::steady_clock::now();
+    for (;;) {
+        try {
+            return isCommitted();
+        } catch (const EngineError &error) {
+            if (!m_target.mayWaitForServer || !m_target.mayWaitForServer(since, m_target.answerWait))
+                throw answerLost(location(), error.driverText());
+        }
+    }
+}
+
+// The former session must not come to its commit later. What has been found is written once more, so that the answer is as
+// safe as the commit's own would have been: on this server and where it is copied to.
+bool PostgresLink::isCommitted()
+{
+    PostgresTarget target = m_target;
+    target.told = {};
+    PostgresLink other(target);
+    other.endSession(m_session);
+    const ResultPtr lives =
+        other.run("SELECT 1 FROM pg_stat_activity WHERE pid = " + QByteArray::number(m_session.processId)
+                  + " AND backend_start = '" + m_session.begun + "'");
+    if (PQntuples(lives.get()) > 0)
+        raise(ErrorCode::Busy, Texts::tr("The former connection has not ended yet."));
+    const ResultPtr found =
+        other.run("INSERT INTO tallymere.commits VALUES ('" + m_marker
+                  + "', 0, now()) ON CONFLICT (marker) DO UPDATE SET at = now() RETURNING number");
+    return QByteArray(PQgetvalue(found.get(), 0, 0)).toInt() == m_commits;
 }
 
 bool PostgresLink::isTransactionFailed() const { return PQtransactionStatus(handle()) == PQTRANS_INERROR; }

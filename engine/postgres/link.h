@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -41,12 +42,29 @@ struct PostgresTarget
     std::chrono::milliseconds lockWait{400}; // how long a statement may wait for somebody's lock
     // Whether what a lock has refused may be tried again, after a pause; see Session.
     std::function<bool(std::chrono::steady_clock::time_point since)> mayTryAgain;
+    // The same for a server that is gone, for as long as is told.
+    std::function<bool(std::chrono::steady_clock::time_point since, std::chrono::milliseconds time)>
+        mayWaitForServer;
+    std::chrono::milliseconds serverWait{0}; // until another server has taken over; see Session
+    std::chrono::milliseconds answerWait{0}; // until a lost answer to a commit has been looked up
+    std::function<void(bool isThere)> told; // that the server is gone, and there again
 
+    bool hasSeveral() const { return host.contains(u','); } // servers, one of which can be written to
     QString location() const; // for messages: "database corvane on the server 10.0.0.5"
 };
 
-// Starts to connect, for PQconnectPoll.
-PostgresHandle beginConnecting(const PostgresTarget &target);
+// One server of those that an address names.
+struct PostgresServer
+{
+    QString host;
+    QString port;
+    bool operator==(const PostgresServer &) const = default;
+};
+
+// Start to connect, for PQconnectPoll: to whichever of these servers, or of all, can be written to; or to one as it is.
+PostgresHandle beginConnecting(const PostgresTarget &target, const QList<PostgresServer> &servers = {});
+PostgresHandle beginConnectingTo(const PostgresServer &server, const PostgresTarget &target);
+PostgresServer serverOf(const pg_conn *handle); // the one that it is connected to or just tries
 
 // A statement that takes its rows from the wire one by one, and can take the rest into memory when the wire is
 // needed for something else.
@@ -69,12 +87,18 @@ public:
     pg_conn *handle() const { return m_handle.get(); }
     QString location() const { return m_target.location(); }
     bool isLost() const; // until it is made anew
+    // Looks whether the server has ended the connection, without asking it anything.
+    bool hasEnded();
+    // A connection that was lost outside of a transaction has been made anew, so that a reading may be done again.
+    bool mayReadAgain(const EngineError &error) const;
     // Grows whenever the statements prepared before are gone.
     int generation() const { return m_generation; }
 
     // Before a lost connection is made anew: false when that would lose something, such as locks.
     std::function<bool()> mayReconnect;
     std::function<void()> reconnected;
+
+    void dropDatabase(); // ends the connection first; refused while somebody else is connected
 
     // Makes the wire free for a command of this reader (or nobody's): others read ahead, a lost connection is made
     // anew outside of transactions.
@@ -122,6 +146,13 @@ private:
 
     void connect();
     void connectAgain();
+    void connectPatiently();
+    void refuseHandedOnSessions();
+    void tell(bool isThere);
+    void makeMarks();
+    QByteArray commitText();
+    bool wasCommitted();
+    bool isCommitted();
     void collect(int commands, ResultPtr *last);
     void noteLoss();
     void awaitAnswer();
@@ -133,6 +164,13 @@ private:
     PostgresTarget m_target;
     PostgresHandle m_handle;
     ServerSession m_session; // the last one there was
+    QByteArray m_marker; // by which commits of this link are told apart from others'
+    bool m_canMark = false; // the server keeps the numbers of commits
+    bool m_mayMakeMarks = false;
+    bool m_writes = false; // the transaction may
+    int m_commits = 0;
+    bool m_isConnecting = false;
+    bool m_isToldLost = false;
     int m_generation = 0;
     int m_statementCount = 0;
     QList<QByteArray> m_stale;
@@ -147,7 +185,7 @@ private:
     bool m_lostInTransaction = false;
 };
 
-// Makes the database on the server; the account needs the right to.
-void createRemoteDatabase(const PostgresTarget &target);
+// Makes the database on the server; the account needs the right to. False where somebody else has just done so.
+bool createRemoteDatabase(const PostgresTarget &target);
 
 } // namespace Engine

@@ -67,7 +67,7 @@ private:
             m_connection.execute(u"RELEASE page"_s);
             return rows;
         } catch (const EngineError &error) {
-            if (error.code() == ErrorCode::ConnectionLost || error.code() == ErrorCode::DiskFull)
+            if (error.isConnectionLost() || error.code() == ErrorCode::DiskFull)
                 throw;
             m_connection.execute(u"ROLLBACK TO page"_s);
             return -1;

@@ -6,6 +6,8 @@
 #include <charconv>
 #include <libpq-fe.h>
 
+using namespace Qt::StringLiterals;
+
 namespace Engine {
 
 namespace {
@@ -54,6 +56,7 @@ PostgresStatement::PostgresStatement(std::shared_ptr<PostgresLink> link, const Q
 {
     int count = 0;
     m_sql = numberedParameters(sql, &count);
+    m_reads = sql.startsWith("SELECT"_L1);
     m_values.resize(static_cast<size_t>(count));
     m_nulls.assign(static_cast<size_t>(count), 1);
 }
@@ -144,10 +147,17 @@ void PostgresStatement::dispatch()
 void PostgresStatement::start()
 {
     const auto since = std::chrono::steady_clock::now();
+    std::optional<EngineError> loss;
     for (;;) {
         try {
             return startOnce();
         } catch (const EngineError &error) {
+            if (loss && m_link->isLost())
+                throw EngineError(*loss); // whoever is told of that knows what to do
+            if (m_reads && !loss && m_link->mayReadAgain(error)) {
+                loss = error; // what it locks, it locks under the new connection
+                continue;
+            }
             if (!m_link->mayTryAgain(error, since))
                 throw;
         }

@@ -54,6 +54,7 @@ private:
 
     std::shared_ptr<PostgresLink> m_link;
     QByteArray m_sql;
+    bool m_reads = false;
     QByteArray m_name;
     int m_generation = -1; // of the link, when this was prepared
     qint64 m_executions = 0;

@@ -20,8 +20,8 @@ bool isTrue(const pg_result *row, int column) { return qstrcmp(PQgetvalue(row, 0
 
 } // namespace
 
-PostgresWatch::PostgresWatch(const PostgresTarget &target, int processId)
-    : m_handle(beginConnecting(target))
+PostgresWatch::PostgresWatch(const PostgresTarget &target, const PostgresServer &server, int processId)
+    : m_handle(beginConnectingTo(server, target))
     , m_processId(processId)
 {
     if (!m_handle || PQstatus(m_handle.get()) == CONNECTION_BAD)

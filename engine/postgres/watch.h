@@ -9,7 +9,7 @@ namespace Engine {
 class PostgresWatch
 {
 public:
-    PostgresWatch(const PostgresTarget &target, int processId); // begins to connect
+    PostgresWatch(const PostgresTarget &target, const PostgresServer &server, int processId); // begins to connect
     PostgresWatch(const PostgresWatch &) = delete;
     PostgresWatch &operator=(const PostgresWatch &) = delete;
 

@@ -31,24 +31,26 @@ void Cursor::listChanged()
     m_doubtful = true;
 }
 
-bool Cursor::findIn(const KeyList &keys)
+bool Cursor::findIn(int count, const std::function<Key(int)> &at, const std::function<int(const Key &)> &indexOf)
 {
     if (m_index >= 0)
         return false;
-    if (keys.count() == 0) {
+    if (count == 0) {
         toNothing();
         return false;
     }
     if (m_state != State::Known) {
-        to(keys.at(0), std::nullopt, 0);
+        to(at(0), std::nullopt, 0);
         return false;
     }
     m_doubtful = false;
-    m_index = keys.find(m_key);
+    // Mostly it is where it was.
+    const int place = std::min(m_formerIndex, count - 1);
+    const Key there = at(place);
+    m_index = there == m_key ? place : indexOf(m_key);
     if (m_index >= 0)
         return false;
-    const int place = std::min(m_formerIndex, keys.count() - 1);
-    to(keys.at(place), std::nullopt, place);
+    to(there, std::nullopt, place);
     return true;
 }
 

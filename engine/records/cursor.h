@@ -3,6 +3,8 @@
 #include "engine/records/dataset.h"
 #include "engine/store/keylist.h"
 
+#include <functional>
+
 namespace Engine {
 
 // Which record of an ordered set is current, and what of it is in hand. It reads nothing: whoever reads the set tells
@@ -33,8 +35,8 @@ public:
     // The list is new, and may have lost the record. What stood there before is remembered.
     void listChanged();
     void confirm() { m_doubtful = false; } // the list still has the record
-    // Finds the record among the keys. True when it is gone, and what has taken its place is current.
-    bool findIn(const KeyList &keys);
+    // Finds the record among so many keys. True when it is gone, and what has taken its place is current.
+    bool findIn(int count, const std::function<Key(int)> &at, const std::function<int(const Key &)> &indexOf);
 
 private:
     enum class State { Unread, Empty, Known };

@@ -85,7 +85,7 @@ void DataSet::moveTo(int index)
     const int target = std::clamp(index, 0, count - 1);
     if (DataSetReader(*this).index() == target)
         return d->cursor.arrive();
-    d->cursor.to(d->keys.at(target), std::nullopt, target);
+    d->cursor.to(DataSetReader(*this).keyAt(target), std::nullopt, target);
     Q_EMIT currentChanged();
 }
 
@@ -116,7 +116,7 @@ QList<qint64> DataSet::currentKey() const
 
 QList<qint64> DataSet::keyAt(int index) const
 {
-    return index >= 0 && index < recordCount() ? d->keys.at(index) : QList<qint64>();
+    return index >= 0 && index < recordCount() ? DataSetReader(*this).keyAt(index) : QList<qint64>();
 }
 
 bool DataSet::moveToKey(const QList<qint64> &key)
@@ -173,8 +173,7 @@ bool DataSet::holds(const QList<qint64> &key) const
 int DataSet::indexOf(const QList<qint64> &key) const
 {
     requireOpen();
-    DataSetReader(*this).readKeys();
-    return d->keys.find(key);
+    return DataSetReader(*this).indexOf(key);
 }
 
 namespace {
@@ -247,7 +246,7 @@ void DataSet::moveToFound(const QList<qint64> &key, std::optional<Row> row)
 {
     const bool moves = !d->cursor.isAt(key);
     const int known = moves ? -1 : d->cursor.index();
-    const int index = d->keysRead && known < 0 ? d->keys.find(key) : known;
+    const int index = d->keysRead && known < 0 ? DataSetReader(*this).indexOf(key) : known;
     const bool isNew = d->keysRead && index < 0;
     if (isNew)
         d->forgetRead();

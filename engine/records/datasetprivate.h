@@ -3,8 +3,8 @@
 #include "engine/filter/filterexpression.h"
 #include "engine/records/cursor.h"
 #include "engine/records/rowsource.h"
+#include "engine/records/setkeys.h"
 #include "engine/records/windowcache.h"
-#include "engine/store/keylist.h"
 #include "engine/values/error.h"
 
 #include <functional>
@@ -22,7 +22,7 @@ struct DataSet::Private
     DataSet &set; // itself, for what reading has to announce
     std::optional<RowSource> source; // of the scope in force
     std::function<void()> mend;
-    KeyList keys;
+    SetKeys keys;
     bool keysRead = false;
     WindowCache windows;
     std::vector<Row> memory; // of a query without key: the whole result; the key of a row is its index
@@ -38,7 +38,7 @@ struct DataSet::Private
 
     void forgetRead()
     {
-        keys = KeyList();
+        keys = SetKeys();
         keysRead = false;
         windows.clear();
     }
@@ -79,17 +79,23 @@ public:
         }
         return std::invoke(method, source(), arguments...);
     }
-    void readKeys() const;
+    void readKeys() const; // all of them, or how many there are
+    Key keyAt(int index) const; // of an index of the set
+    int indexOf(const Key &key) const; // -1 when the set was read without it
     void resolve() const; // makes the current record known, or the set known to be empty
     bool holds(const Key &key) const;
+    bool findCurrent() const; // among the keys; true when another record is current, as that one is gone
     int index() const; // of the current record, -1 in an empty set
     const Row &rowAt(int index) const;
     const Row &currentRow() const;
 
 private:
-    QStringList sortTerms(const Dialect &dialect) const; // of what comes before the set's own order
+    QList<OrderTerm> sortTerms(const Dialect &dialect) const; // of what comes before the set's own order
     bool mended(const EngineError &error) const;
     void findInKeys() const;
+    void readPart(int index) const; // so that the key of the index is in hand
+
+    static constexpr int shortSet = 4 * SetKeys::partSize; // no longer one is read as a whole
 
     const DataSet &m_set;
     DataSet::Private &d;

@@ -30,23 +30,24 @@ RowSource DataSetReader::sourceOn(Connection &connection) const
     SetScope scope = m_set.scope();
     if (m_set.m_filtered)
         scope.condition += condition(FilterExpression(m_set.m_filter));
-    if (const QStringList sorted = sortTerms(connection.dialect()); !sorted.isEmpty())
-        scope.order = (sorted + QStringList(scope.order)).join(QStringLiteral(", "));
+    const QList<OrderTerm> sorted = sortTerms(connection.dialect());
+    scope.order = sorted + scope.order;
+    scope.inParts = scope.inParts && sorted.isEmpty() && scope.condition.isEmpty();
     return RowSource(connection, std::move(scope), m_set.m_fields);
 }
 
-QStringList DataSetReader::sortTerms(const Dialect &dialect) const
+QList<OrderTerm> DataSetReader::sortTerms(const Dialect &dialect) const
 {
     const Sorting &sorting = m_set.m_sorting;
     if (sorting.field.isEmpty())
         return {};
     const Field &shown = m_set.field(sorting.field);
     const QString names = shown.kind == FieldKind::Calculated ? shown.sortedBy : shown.name;
-    QStringList terms;
+    QList<OrderTerm> terms;
     for (const QString &name : names.split(u';', Qt::SkipEmptyParts)) {
         const Field &field = m_set.field(name);
         const bool folded = isText(field.type) && !m_set.isCaseSorted(field);
-        terms << dialect.orderTerm(columnOf(dialect, field), folded, sorting.descending);
+        terms.append({{columnOf(dialect, field), folded}, sorting.descending});
     }
     return terms;
 }
@@ -64,16 +65,45 @@ void DataSetReader::readKeys() const
     if (d.keysRead)
         return;
     if (d.inMemory) {
-        d.keys = KeyList();
+        KeyList numbers;
         for (size_t i = 0; i < d.memory.size(); ++i)
-            d.keys.append(static_cast<qint64>(i));
+            numbers.append(static_cast<qint64>(i));
+        d.keys.takeAll(std::move(numbers));
+    } else if (const auto length = read(&RowSource::length, shortSet)) {
+        d.keys.takeLength(length->count, length->lastKey);
     } else {
-        d.keys = read(&RowSource::keys);
+        d.keys.takeAll(read(&RowSource::keys));
     }
     d.keysRead = true;
     d.windows.clear();
     if (d.cursor.isEmpty() && d.keys.count() > 0)
         d.cursor.toFirst();
+}
+
+void DataSetReader::readPart(int index) const
+{
+    readKeys();
+    if (d.keys.hasInHand(index))
+        return;
+    const int start = SetKeys::partStart(index);
+    const int size = std::min(SetKeys::partSize, d.keys.count() - start);
+    d.keys.takePart(index,
+                    read(&RowSource::keysFrom, start, size, RowSource::Length{d.keys.count(), d.keys.lastKey()}));
+}
+
+Key DataSetReader::keyAt(int index) const
+{
+    readPart(index);
+    return d.keys.at(index);
+}
+
+int DataSetReader::indexOf(const Key &key) const
+{
+    readKeys();
+    if (const int index = d.keys.find(key); index >= 0 || d.keys.isWhole())
+        return index;
+    // What others have deleted since the length was read moves the rows behind it.
+    return std::min(read(&RowSource::indexOf, key, d.keys.lastKey()), d.keys.count() - 1);
 }
 
 bool DataSetReader::holds(const Key &key) const
@@ -102,11 +132,18 @@ void DataSetReader::resolve() const
     }
 }
 
-void DataSetReader::findInKeys() const
+bool DataSetReader::findCurrent() const
 {
     readKeys();
+    return d.cursor.findIn(
+        d.keys.count(), [this](int index) { return keyAt(index); },
+        [this](const Key &key) { return indexOf(key); });
+}
+
+void DataSetReader::findInKeys() const
+{
     // Who shows the record must learn that another one is in its place, but not while it is reading.
-    if (d.cursor.findIn(d.keys))
+    if (findCurrent())
         QMetaObject::invokeMethod(&d.set, &DataSet::currentChanged, Qt::QueuedConnection);
 }
 
@@ -129,6 +166,7 @@ const Row &DataSetReader::rowAt(int index) const
         return *row;
     const int start = WindowCache::windowStart(index);
     const int count = std::min(WindowCache::rowsPerWindow, d.keys.count() - start);
+    readPart(index);
     d.windows.insert(index, read(&RowSource::rows, d.keys.slice(start, count)));
     return *d.windows.row(index);
 }

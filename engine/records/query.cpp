@@ -232,10 +232,8 @@ SetScope Query::scope() const
         if (!columns.contains(key))
             columns << key;
     }
-    QStringList terms;
-    for (const QString &term : std::as_const(columns))
-        terms << dialect.orderTerm(term, false, false);
-    scope.order = terms.join(", "_L1);
+    for (const QString &ordered : std::as_const(columns))
+        scope.order.append(OrderTerm{{ordered}});
     scope.foldedFields = m_foldedFields.split(u';', Qt::SkipEmptyParts);
     return scope;
 }

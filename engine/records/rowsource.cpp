@@ -3,6 +3,7 @@
 #include "engine/store/dialect.h"
 #include "engine/values/error.h"
 
+#include <algorithm>
 #include <QHash>
 
 using namespace Qt::StringLiterals;
@@ -87,7 +88,7 @@ Row RowSource::readRow(const Statement &statement) const
 KeyList RowSource::keys() const
 {
     KeyList keys(static_cast<int>(m_scope.keyColumns.size()));
-    const StatementPtr statement = select(m_keys, m_scope.condition, " ORDER BY "_L1 + m_scope.order);
+    const StatementPtr statement = select(m_keys, m_scope.condition, orderBy());
     while (statement->next()) {
         for (int i = 0; i < keys.width(); ++i)
             keys.append(statement->intAt(i));
@@ -95,12 +96,87 @@ KeyList RowSource::keys() const
     return keys;
 }
 
+QString RowSource::orderBy(bool backwards) const
+{
+    QStringList terms;
+    for (const OrderTerm &term : m_scope.order)
+        terms << m_connection.dialect().orderTerm(term.column.sql, term.column.caseInsensitive,
+                                                  term.descending != backwards);
+    return " ORDER BY "_L1 + terms.join(", "_L1);
+}
+
+std::optional<RowSource::Length> RowSource::length(int shortOnes) const
+{
+    if (!m_scope.inParts)
+        return std::nullopt;
+    const auto tail = u" LIMIT 1 OFFSET %1"_s.arg(shortOnes);
+    if (!select(u"1"_s, {}, tail)->next())
+        return std::nullopt;
+    // Both of one moment.
+    const StatementPtr statement = m_connection.prepare(
+        u"SELECT (SELECT COUNT(*) FROM %1), (SELECT MAX(%2) FROM %1)"_s.arg(m_scope.source, m_keys));
+    statement->next();
+    return Length{static_cast<int>(statement->intAt(0)), statement->intAt(1)};
+}
+
+SqlCondition RowSource::upTo(qint64 lastKey) const { return {m_keys + " <= ?"_L1, {lastKey}}; }
+
+KeyList RowSource::keysFrom(int first, int count, const Length &length) const
+{
+    const int behind = length.count - first - count;
+    const bool backwards = behind < first;
+    const StatementPtr statement =
+        select(m_keys, upTo(length.lastKey),
+               orderBy(backwards) + u" LIMIT %1 OFFSET %2"_s.arg(count).arg(backwards ? behind : first));
+    std::vector<qint64> numbers;
+    while (statement->next())
+        numbers.push_back(statement->intAt(0));
+    if (backwards)
+        std::reverse(numbers.begin(), numbers.end());
+    KeyList keys;
+    for (const qint64 number : numbers)
+        keys.append(number);
+    return keys;
+}
+
+// A row comes before another one when it does so by the first term in which they differ. Nulls come before everything in
+// an ascending order.
+int RowSource::indexOf(const Key &key, qint64 lastKey) const
+{
+    const Dialect &dialect = m_connection.dialect();
+    QStringList columns;
+    for (const OrderTerm &term : m_scope.order)
+        columns << term.column.sql;
+    SqlCondition one = keyCondition(key);
+    one += upTo(lastKey);
+    const StatementPtr row = select(columns.join(", "_L1), one, {});
+    if (!row->next())
+        return -1;
+    // Each of these is a range of the index.
+    SqlCondition same;
+    QStringList counts;
+    QList<Value> values;
+    for (int i = 0; i < m_scope.order.size(); ++i) {
+        const auto &[column, descending] = m_scope.order[i];
+        const Value value = row->isNull(i) ? Value() : row->valueAt(i, row->columnType(i));
+        SqlCondition ahead = same;
+        ahead += before(dialect, column, value, descending);
+        ahead += upTo(lastKey);
+        counts << u"(SELECT COUNT(*) FROM %1 WHERE %2)"_s.arg(m_scope.source, ahead.text);
+        values += ahead.parameters;
+        same += equals(dialect, column, value);
+    }
+    const StatementPtr count = m_connection.prepare("SELECT "_L1 + counts.join(" + "_L1));
+    bindAll(*count, values);
+    count->next();
+    return static_cast<int>(count->intAt(0));
+}
+
 std::optional<FoundRow> RowSource::first(const SqlCondition &condition) const
 {
     SqlCondition all = m_scope.condition;
     all += condition;
-    const StatementPtr statement =
-        select(m_columns + ", "_L1 + m_keys, all, " ORDER BY "_L1 + m_scope.order + " LIMIT 1"_L1);
+    const StatementPtr statement = select(m_columns + ", "_L1 + m_keys, all, orderBy() + " LIMIT 1"_L1);
     if (!statement->next())
         return std::nullopt;
     return FoundRow{readKey(*statement, m_columnCount), readRow(*statement)};
@@ -108,8 +184,8 @@ std::optional<FoundRow> RowSource::first(const SqlCondition &condition) const
 
 std::vector<Row> RowSource::firstRows(int count) const
 {
-    const StatementPtr statement = select(m_columns, m_scope.condition,
-                                          " ORDER BY "_L1 + m_scope.order + " LIMIT "_L1 + QString::number(count));
+    const StatementPtr statement =
+        select(m_columns, m_scope.condition, orderBy() + " LIMIT "_L1 + QString::number(count));
     std::vector<Row> rows;
     while (statement->next())
         rows.push_back(readRow(*statement));

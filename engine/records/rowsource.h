@@ -10,6 +10,13 @@
 
 namespace Engine {
 
+// One term of an order.
+struct OrderTerm
+{
+    SqlColumn column;
+    bool descending = false;
+};
+
 // What a set consists of, as fragments of a statement. Rows are referred to as "t".
 struct SetScope
 {
@@ -17,7 +24,10 @@ struct SetScope
     QList<Value> sourceParameters;
     QStringList keyColumns; // whole-number expressions that tell rows apart
     SqlCondition condition;
-    QString order; // complete terms; total, by ending with the key
+    QList<OrderTerm> order; // total, by ending with the key
+    // Its keys may be read in parts: it is a table as a whole, in the order of an index of it, by a key of one number that new
+    // rows have above all others.
+    bool inParts = false;
     // Text fields in the folded form of which an index exists: a search by the exact text goes through that index.
     QStringList foldedFields;
 };
@@ -34,6 +44,20 @@ public:
 
     const SqlCondition &condition() const { return m_scope.condition; }
     KeyList keys() const;
+    // --- of a set that may be read in parts ---
+    struct Length
+    {
+        int count;
+        qint64 lastKey; // the highest one
+    };
+    // None where the set is not to be read in parts, or is short.
+    std::optional<Length> length(int shortOnes) const;
+    // The keys from an index on of the rows up to the last key, so many of them as the length told. From the end that is
+    // nearer, as what lies before them is gone over.
+    KeyList keysFrom(int first, int count, const Length &length) const;
+    // How many of those rows come before the one of a key; -1 when there is none.
+    int indexOf(const Key &key, qint64 lastKey) const;
+    // ---
     // The first row in the set's order that meets the condition as well.
     std::optional<FoundRow> first(const SqlCondition &condition = {}) const;
     std::vector<Row> firstRows(int count) const;
@@ -55,6 +79,8 @@ private:
     Row readRow(const Statement &statement) const;
     Row nullRow() const { return Row(m_fields.size()); }
     SqlCondition keyCondition(const Key &key) const;
+    QString orderBy(bool backwards = false) const;
+    SqlCondition upTo(qint64 lastKey) const;
     SqlCondition matchOne(const Field &field, const Value &value, bool partial, bool caseInsensitive) const;
     StatementPtr select(const QString &columns, const SqlCondition &condition, const QString &tail) const;
 

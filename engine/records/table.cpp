@@ -259,7 +259,7 @@ void Table::flush()
 {
     requireOpen();
     Connection &connection = m_database.connection();
-    if (connection.inTransaction())
+    if (connection.inTransaction() && !connection.isInRun())
         connection.drain();
 }
 
@@ -374,7 +374,7 @@ void Table::showInserted(Row row)
         d->cursor.to(*key, std::move(row));
     } else if (const int count = m_layout.primary() ? 0 : recordCount(); count > 0) {
         // Without a primary key the new row is the last in the natural order.
-        d->cursor.to(d->keys.at(count - 1), std::move(row));
+        d->cursor.to(DataSetReader(*this).keyAt(count - 1), std::move(row));
     }
     Q_EMIT stateChanged();
     emitListChanged();

@@ -71,6 +71,10 @@ public:
     // holdRecord() has found that this edit is stored as it was to be saved last: only the store's answer was lost.
     bool isStored() const;
 
+    // What else a write relies on, as the lock of a document under which its lines are written: called before each, it takes
+    // what went with a lost connection again, or throws.
+    std::function<void()> holdMore;
+
     // Around every edit; nullptr for none. They outlive the table, or are taken from it before they go.
     RecordRules *rules = nullptr;
     // Fields whose value no other row may hold, checked in post()'s own transaction. Null and "" are free.
@@ -79,6 +83,7 @@ public:
     std::function<QString()> recordName;
 
 protected:
+    bool goesInParts() const override { return false; }
     void beforeMove() override;
     void settle() override { checkBrowseMode(); }
     void dropEdit() override { cancel(); }
@@ -104,6 +109,9 @@ private:
     void requireUnique(int field) const;
     void save();
     void write();
+    void writeOnce();
+    int hold();
+    void requireHold(int losses) const;
     void writeRow();
     void insertRow();
     void updateRow();

@@ -79,7 +79,7 @@ void TableReader::open()
               Texts::tr("Table '%1' is in use by another user%2.").arg(title(), locks.holderOf(m_name)));
     }
     try {
-        auto stored = connection.describe(m_name);
+        auto stored = connection.layoutOf(m_name);
         if (!stored) {
             raise(ErrorCode::NoSuchTable,
                   Texts::tr("There is no table '%1' in %2.").arg(title(), connection.location()));
@@ -188,22 +188,20 @@ SetScope TableReader::scope() const
     if (keys.isEmpty())
         scope.keyColumns << dialect.rowIdentity();
 
-    QStringList terms;
     QStringList ordered;
     if (const IndexDef *index = order()) {
         for (const SqlColumn &column : indexColumns(m_layout, *index, dialect)) {
-            terms << dialect.orderTerm(column.sql, column.caseInsensitive,
-                                       index->options.testFlag(IndexOption::Descending));
+            scope.order.append({column, index->options.testFlag(IndexOption::Descending)});
             ordered << column.sql;
         }
     }
     for (const QString &key : std::as_const(scope.keyColumns)) {
         if (!ordered.contains(key, Qt::CaseInsensitive))
-            terms << dialect.orderTerm(key, false, false);
+            scope.order.append(OrderTerm{{key}});
     }
-    scope.order = terms.join(", "_L1);
     scope.condition = linkCondition();
     scope.condition += rangeCondition();
+    scope.inParts = keys.size() == 1 && scope.condition.isEmpty() && goesInParts();
     scope.foldedFields = foldedFields(m_layout);
     return scope;
 }

@@ -50,6 +50,8 @@ protected:
     void shut() noexcept; // closes, for destructors
     const IndexDef *order() const; // of the index in force; nullptr for a table without primary key
     QList<Value> linkValues() const; // of the master's record
+    // A long table may be read in parts, where nothing is written through it.
+    virtual bool goesInParts() const { return true; }
     virtual void dropEdit() { } // the master's record has gone from under it
 
     struct Restriction; // range and link

@@ -2,6 +2,7 @@
 
 #include "engine/records/datasetprivate.h"
 #include "engine/records/tableprivate.h"
+#include "engine/store/batchedrun.h"
 #include "engine/store/database.h"
 #include "engine/store/dialect.h"
 #include "engine/store/tablelocks.h"
@@ -32,22 +33,67 @@ void Table::requirePrimaryKey() const
     }
 }
 
+// A write that a lost connection has undone is done again under a new one, if the record is as it was.
 void Table::write()
+{
+    constexpr int mostTimes = 3;
+    const bool joins = m_database.connection().inTransaction();
+    std::optional<EngineError> loss;
+    for (int time = 1;; ++time) {
+        try {
+            return writeOnce();
+        } catch (const EngineError &error) {
+            if (loss && error.isOfTheStore() && !error.isConnectionLost())
+                throw EngineError(*loss); // the server is not there again
+            loss = error;
+            if (error.code() != ErrorCode::ConnectionLost || joins || time == mostTimes)
+                throw;
+        }
+    }
+}
+
+void Table::writeOnce()
 {
     Connection &connection = m_database.connection();
     std::optional<RecordLock> writing; // a new record has no key yet that others could lock
     if (m_edit->isNew)
         writing.emplace(connection, m_database.session(), m_name, RecordLock::anyKey(), recordText());
-    else
-        holdRecord();
+    const int losses = hold();
     m_edit->written = m_edit->values;
-    m_database.change([this] {
+    m_database.change([this, losses] {
+        requireHold(losses);
         for (const QString &name : std::as_const(uniqueFields))
             requireUnique(requireField(name));
         writeRow();
+        for (const QString &name : std::as_const(uniqueFields))
+            RunValues::written(m_database.connection(), m_name, name,
+                               m_edit->values[static_cast<size_t>(requireField(name))].toText());
     });
     if (m_edit->number)
         m_edit->values[static_cast<size_t>(m_edit->number->field)] = m_edit->number->value;
+}
+
+// All that a write relies on, under one connection; gives how many were lost before it.
+int Table::hold()
+{
+    const LockManager &locks = m_database.connection().locks();
+    for (;;) {
+        const int losses = locks.losses();
+        if (holdMore)
+            holdMore();
+        if (m_edit && !m_edit->isNew)
+            holdRecord();
+        if (losses == locks.losses())
+            return losses;
+    }
+}
+
+// A reading since then may have connected again; within the transaction that cannot come about.
+void Table::requireHold(int losses) const
+{
+    if (m_database.connection().locks().losses() != losses)
+        raise(ErrorCode::ConnectionLost,
+              Texts::tr("The connection was lost while %1 was being saved. Save it again.").arg(recordText()));
 }
 
 void Table::writeRow()
@@ -62,14 +108,26 @@ void Table::writeRow()
     }
 }
 
+static void refuse(const Field &field, const Value &value, const QString &title)
+{
+    raise(ErrorCode::KeyViolation,
+          Texts::tr("%1 '%2' already exists in table '%3'.").arg(field.caption(), value.toText(), title));
+}
+
 void Table::requireUnique(int fieldNumber) const
 {
     const Value &value = m_edit->values[static_cast<size_t>(fieldNumber)];
     if (value.toText().isEmpty() || value == m_edit->original[static_cast<size_t>(fieldNumber)])
         return;
     Connection &connection = m_database.connection();
+    if (const auto isTaken = RunValues::isTaken(connection, m_name, field(fieldNumber).name, value.toText())) {
+        if (*isTaken)
+            refuse(field(fieldNumber), value, title());
+        return;
+    }
     const Dialect &dialect = connection.dialect();
-    if (const QString lock = dialect.transactionLock(); !lock.isEmpty()) {
+    const QString lock = dialect.transactionLock();
+    if (!lock.isEmpty() && !connection.locks().holdsTable(m_name)) {
         const StatementPtr statement = connection.prepare(lock);
         statement->bind(0, static_cast<qint64>(stableNumber((m_name + u'.' + field(fieldNumber).name).toLower())));
         while (statement->next()) { }
@@ -84,11 +142,8 @@ void Table::requireUnique(int fieldNumber) const
     const StatementPtr statement = connection.prepare("SELECT 1 FROM "_L1 + dialect.name(m_layout.name)
                                                       + " t WHERE "_L1 + condition.text + " LIMIT 1"_L1);
     bindAll(*statement, condition.parameters);
-    if (!statement->next())
-        return;
-    raise(ErrorCode::KeyViolation,
-          Texts::tr("%1 '%2' already exists in table '%3'.")
-              .arg(field(fieldNumber).caption(), value.toText(), title()));
+    if (statement->next())
+        refuse(field(fieldNumber), value, title());
 }
 
 static void passAutoIncrement(Connection &connection, const QString &table, const QString &field,
@@ -128,7 +183,10 @@ void Table::insertRow()
     const StatementPtr statement = connection.prepare(u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(
         connection.dialect().name(m_layout.name), columns.join(", "_L1), places.join(", "_L1)));
     bindAll(*statement, values);
-    statement->execute();
+    if (counted >= 0)
+        statement->execute();
+    else
+        connection.write(*statement);
     if (counted >= 0)
         m_edit->number = {counted, connection.lastInsertId()};
     else if (brought >= 0)
@@ -186,6 +244,8 @@ void Table::removeCurrent()
 {
     const Row shown = DataSetReader(*this).currentRow();
     const RecordLock lock(m_database.connection(), m_database.session(), m_name, lockKey(shown), recordText());
+    if (holdMore)
+        holdMore(); // under the record's lock nothing connects again
     const bool found = findAgain(shown);
     const Key key = d->cursor.key();
     const bool first = d->cursor.isFirst() && !d->keysRead;
@@ -197,9 +257,8 @@ void Table::removeCurrent()
     d->windows.clear();
     if (first)
         return d->cursor.toFirst();
-    d->keys.removeAt(index); // the next record, or else the last, becomes current
+    d->keys.all().removeAt(index); // the next record, or else the last, becomes current
     d->cursor.listChanged();
-    d->cursor.findIn(d->keys);
 }
 
 void Table::removeRow(const Key &key)

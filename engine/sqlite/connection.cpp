@@ -99,7 +99,7 @@ void SqliteConnection::configure()
     const QString journal = isLocalFileSystem(SqliteWatch::realPath(handle())) ? u"WAL"_s : u"DELETE"_s;
     execute(u"PRAGMA temp_store = MEMORY"_s);
     chooseJournal(journal);
-    execute(u"PRAGMA synchronous = FULL"_s);
+    execute(u"PRAGMA synchronous = EXTRA"_s); // a rollback journal is gone for good once its folder has been synced
     setBulk(false);
     execute(u"PRAGMA schema_version"_s); // the first read opens the log
 }
@@ -188,6 +188,7 @@ void SqliteConnection::execute(const QString &script)
 void SqliteConnection::begin()
 {
     prepare(u"BEGIN IMMEDIATE"_s)->execute();
+    m_locks->transactionBegun();
     m_changesBefore = sqlite3_total_changes64(handle());
 }
 
@@ -197,9 +198,46 @@ void SqliteConnection::commit()
     const bool stamped = m_watch && sqlite3_total_changes64(handle()) != m_changesBefore;
     if (stamped)
         stamp();
-    prepare(u"COMMIT"_s)->execute();
+    try {
+        prepare(u"COMMIT"_s)->execute();
+    } catch (const EngineError &) {
+        if (!isCommittedAllTheSame()) {
+            coverFailedCommit();
+            throw;
+        }
+    }
     if (stamped)
         m_watch->committed();
+    m_locks->transactionEnded();
+}
+
+// Without a log a commit is done when its journal is gone. Where only the sync of that has failed it is made up for; if it
+// fails again nobody knows what the disk holds, and what is said is the error.
+bool SqliteConnection::isCommittedAllTheSame() const
+{
+    return sqlite3_extended_errcode(handle()) == SQLITE_IOERR_DIR_FSYNC && syncFolder(QFileInfo(m_path).path());
+}
+
+// A commit whose sync has failed stands in the log. SQLite has undone it for those who have the file open, but whoever opens
+// it anew while the log is still there takes it for done. A commit that changes nothing is written over it, and may fail likewise.
+void SqliteConnection::coverFailedCommit() noexcept
+{
+    const auto run = [this](const QByteArray &sql) {
+        return sqlite3_exec(handle(), sql.constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+    };
+    try {
+        if (inTransaction() || isWritingKeptOutByReading() || !run("BEGIN IMMEDIATE"))
+            return;
+        const StatementPtr version = prepare(u"PRAGMA user_version"_s); // now that nobody else writes it
+        if (version->next()) {
+            const QByteArray same = QByteArray::number(version->intAt(0));
+            version->reset();
+            run("PRAGMA user_version = " + same + "; COMMIT");
+        }
+    } catch (const EngineError &) { // not even that can be read any more
+    }
+    if (inTransaction())
+        run("ROLLBACK");
 }
 
 void SqliteConnection::stamp()
@@ -212,6 +250,7 @@ void SqliteConnection::rollback() noexcept
 {
     if (inTransaction())
         sqlite3_exec(handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    m_locks->transactionEnded();
 }
 
 std::unique_ptr<Connection> SqliteConnection::openMoment(const Database &database)
@@ -263,8 +302,8 @@ std::unique_ptr<Connection> openSqlite(const Database &database)
     const QString path = folder + u'/' + fileName;
     if (!database.createIfMissing && !QFileInfo::exists(path))
         raise(ErrorCode::CannotOpen,
-              Texts::tr("There is no database %1 in %2. Check the folder in the settings, or make the database "
-                        "with \"tallymere init\".")
+              Texts::tr("There is no database %1 in %2. Check the folder in the settings, or make a new "
+                        "company.")
                   .arg(fileName, folder));
     const auto missing =
         database.createIfMissing ? SqliteConnection::Missing::Create : SqliteConnection::Missing::Fail;

@@ -62,6 +62,8 @@ private:
     void giveNumber();
     void giveNumberAtOpening();
     void stamp();
+    bool isCommittedAllTheSame() const;
+    void coverFailedCommit() noexcept;
     qint64 salvage(const TableLayout &table, const QString &copy); // the rows lost
     QString spelling(const QString &table); // as stored, null when there is no such table
 

@@ -1,5 +1,7 @@
 #include "engine/sqlite/error.h"
 
+#include "engine/store/writestop.h"
+
 #include <cerrno>
 #include <QFileInfo>
 #include <sqlite3.h>
@@ -94,6 +96,8 @@ EngineError sqliteError(sqlite3 *db, int resultCode, const QString &path)
         resultCode = SQLITE_READONLY;
     const QString words = QString::fromUtf8(db ? sqlite3_errmsg(db) : sqlite3_errstr(resultCode));
     const QString driverText = QStringLiteral("SQLite %1: %2").arg(resultCode).arg(words);
+    if (const std::optional<QString> place = WriteStop::placeIn(words))
+        return WriteStop::error(*place, driverText);
     if (words.startsWith(QLatin1StringView("no such table: ")))
         return EngineError(ErrorCode::NoSuchTable,
                            Texts::tr("%1 has no table \"%2\".").arg(fileText(path), words.mid(15)), driverText);

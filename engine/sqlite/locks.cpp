@@ -226,7 +226,14 @@ std::optional<LockOwner> FileLocks::ownerOf(const QString &table)
         if (note.contains(name))
             return ownerFrom(note, u"@%1:"_s.arg(name));
     }
-    return std::nullopt;
+    return stranger(firstRecordByte(name), stretch - 1);
+}
+
+// A program that is none of this system's users leaves no note: whoever may read the lock file can lock it for reading.
+std::optional<LockOwner> FileLocks::stranger(qint64 from, qint64 count) const
+{
+    const QString program = m_file->programLocking(from, count);
+    return program.isEmpty() ? std::nullopt : std::optional(LockOwner{program, QSysInfo::machineHostName(), {}});
 }
 
 std::optional<LockOwner> FileLocks::ownerOf(const QString &table, const QList<qint64> &key)
@@ -243,7 +250,7 @@ std::optional<LockOwner> FileLocks::ownerOf(const QString &table, const QList<qi
         if (note.contains(u'*' + name))
             return ownerFrom(note, timeOf(name));
     }
-    return LockOwner(); // whose note does not tell
+    return stranger(place, 1).value_or(LockOwner()); // whose note does not tell
 }
 
 } // namespace Engine

@@ -49,6 +49,7 @@ private:
     void freeRange(qint64 from, qint64 count);
     void takeNote() noexcept;
     QList<QStringList> notesOfOthers() const;
+    std::optional<LockOwner> stranger(qint64 from, qint64 count) const;
 
     std::unique_ptr<RangeLockFile> m_file;
     QString m_user;

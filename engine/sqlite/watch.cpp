@@ -45,15 +45,26 @@ bool readFile(sqlite3 *db, void *bytes, int count, qint64 from)
         && file->pMethods->xRead(file, bytes, count, from) == SQLITE_OK;
 }
 
-} // namespace
-
-bool SqliteWatch::isDatabase(sqlite3 *db)
+bool beginsLikeDatabase(sqlite3 *db)
 {
     char first = 0;
     QByteArray beginning(sizeof "SQLite format 3", '\0');
     return !readFile(db, &first, 1, 0)
         || (readFile(db, beginning.data(), static_cast<int>(beginning.size()), 0)
             && beginning.startsWith("SQLite format 3"));
+}
+
+} // namespace
+
+bool SqliteWatch::isDatabase(sqlite3 *db)
+{
+    if (beginsLikeDatabase(db))
+        return true;
+    if (!QFileInfo::exists(realPath(db) + "-journal"_L1))
+        return false;
+    // Cut off by the power in its very first write. Reading takes that back, by the journal.
+    sqlite3_exec(db, "PRAGMA schema_version", nullptr, nullptr, nullptr);
+    return beginsLikeDatabase(db);
 }
 
 QString SqliteWatch::realPath(sqlite3 *db) { return QString::fromUtf8(sqlite3_db_filename(db, "main")); }
@@ -174,7 +185,7 @@ SqliteWatch::Header SqliteWatch::header() const
     char bytes[numberPlace + sizeof(quint32) - stampPlace];
     if (!readFile(m_db, bytes, sizeof bytes, stampPlace))
         return {};
-    return {qFromBigEndian<qint32>(bytes), qFromBigEndian<quint32>(bytes + numberPlace - stampPlace)};
+    return {qFromBigEndian<qint32>(bytes), qFromBigEndian<quint32>(bytes + (numberPlace - stampPlace))};
 }
 
 int SqliteWatch::storedStamp() const

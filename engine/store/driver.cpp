@@ -1,6 +1,8 @@
 #include "engine/store/driver.h"
 
+#include "engine/store/dialect.h"
 #include "engine/store/lockmanager.h"
+#include "engine/store/runmemory.h"
 #include "engine/values/error.h"
 #include "engine/values/storedtext.h"
 
@@ -102,6 +104,24 @@ Connection::~Connection() { clearStatementCache(); }
 
 StatementPtr Connection::prepare(const QString &sql)
 {
+    return m_run && m_run->covers(sql) ? m_run->prepare(sql) : prepareOwn(sql);
+}
+
+void Connection::write(Statement &statement)
+{
+    if (m_run)
+        statement.send();
+    else
+        statement.execute();
+}
+
+std::optional<TableLayout> Connection::layoutOf(const QString &table)
+{
+    return m_run ? m_run->layoutOf(table) : describe(table);
+}
+
+StatementPtr Connection::prepareOwn(const QString &sql)
+{
     Statement *statement = m_cache->take(sql);
     if (!statement) {
         statement = createStatement(sql).release();
@@ -135,6 +155,43 @@ void StatementReturn::operator()(Statement *statement) const
         return;
     }
     owner->m_cache->keep(statement->m_cacheKey, statement);
+}
+
+namespace {
+
+class PreparedInsert final : public BulkInsert
+{
+public:
+    PreparedInsert(Connection &connection, const TableLayout &layout)
+        : m_connection(connection)
+    {
+        QStringList names;
+        for (const FieldDef &field : layout.fields)
+            names << connection.dialect().name(field.name);
+        const QStringList marks(layout.fields.size(), QStringLiteral("?"));
+        m_insert = connection.prepare(
+            QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                .arg(connection.dialect().name(layout.name), names.join(u", "), marks.join(u", ")));
+    }
+
+    void add(const QList<Value> &row) override
+    {
+        for (int field = 0; field < row.size(); ++field)
+            m_insert->bind(field, row[field]);
+        m_insert->send();
+    }
+    void finish() override { m_connection.drain(); }
+
+private:
+    Connection &m_connection;
+    StatementPtr m_insert;
+};
+
+} // namespace
+
+std::unique_ptr<BulkInsert> Connection::bulkInsert(const TableLayout &layout)
+{
+    return std::make_unique<PreparedInsert>(*this, layout);
 }
 
 Transaction::Transaction(Connection &connection)

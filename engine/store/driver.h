@@ -18,6 +18,7 @@ namespace Engine {
 class Database;
 class Dialect;
 class LockManager;
+class RunMemory;
 
 // A prepared statement with typed parameters and columns, both counted from 0.
 class Statement
@@ -68,6 +69,16 @@ struct StatementReturn
 };
 using StatementPtr = std::unique_ptr<Statement, StatementReturn>;
 
+// Many rows into one table, by the fastest way that the store has. Within a transaction that it makes useless when it fails.
+class BulkInsert
+{
+public:
+    virtual ~BulkInsert() = default;
+
+    virtual void add(const QList<Value> &row) = 0; // in the order of the layout's fields
+    virtual void finish() = 0; // all of them stand there; a failure comes here at the latest
+};
+
 // One connection to a store. Not thread-safe: use on the thread that opened it.
 class Connection
 {
@@ -82,6 +93,10 @@ public:
     // A statement ready to be bound. Prepared once for each text and kept; while one is in use, a second request
     // for the same text gets a statement of its own.
     StatementPtr prepare(const QString &sql);
+    // Executes a statement that writes. Within a run (BatchedRun) its answer is not waited for.
+    void write(Statement &statement);
+    // What describe() gives; within a run as it was when first asked for.
+    std::optional<TableLayout> layoutOf(const QString &table);
     // Runs statements without parameters, several separated by semicolons if need be.
     virtual void execute(const QString &script) = 0;
     // Whether Statement::send() leaves the answer for later, so that a failure may come after other statements.
@@ -89,8 +104,14 @@ public:
     // Waits for everything sent and reports the first failure.
     virtual void drain() = 0;
 
+    // Whether a server has ended the connection. Asks nothing, so that it may be called now and then; what has been lost is
+    // made anew by the next statement.
+    virtual bool hasEnded() { return false; }
+
     // A write transaction. In SQLite it takes the write lock at once, waiting up to the busy time-out.
     virtual void begin() = 0;
+    // Where the answer is lost with the connection it is looked up: when the changes are there this returns, when they are
+    // not it throws ConnectionLost, and AnswerLost when that could not be found out in time.
     virtual void commit() = 0;
     virtual void rollback() noexcept = 0;
     // False again when the store has rolled back by itself (a full disk, a lost connection).
@@ -109,6 +130,9 @@ public:
     virtual qint64 size() = 0; // bytes that a copy takes, about
     // Copies the store as this connection sees it into a new file, page by page. False where it is no file.
     virtual bool copyTo(const QString &, const std::function<void()> &) { return false; }
+    // Takes back the database that connecting has made on a server (Database::createIfMissing), unless there is something
+    // in it by now or somebody else is connected to it. The connection is good for nothing then. A file stays.
+    virtual void unmake() noexcept { }
 
     // What the store finds damaged in what it holds, in its own words; empty: nothing. Reads everything once, and tells
     // the step now and then.
@@ -120,6 +144,9 @@ public:
     // Makes room for a long run of writes, or goes back to what suits a screen; see BulkWriting.
     virtual void setBulk(bool) { }
 
+    // The table must be there. Until finish() nothing else goes over the connection.
+    virtual std::unique_ptr<BulkInsert> bulkInsert(const TableLayout &layout);
+
     // Drops the statements kept, after a table has changed its shape.
     void forgetStatements() { clearStatementCache(); }
 
@@ -129,14 +156,22 @@ public:
     // This connection's record locks, table locks and open locks.
     virtual LockManager &locks() = 0;
 
+    bool isInRun() const { return m_run != nullptr; }
+
 protected:
     virtual std::unique_ptr<Statement> createStatement(const QString &sql) = 0;
     void clearStatementCache();
 
 private:
     friend struct StatementReturn;
+    friend class BatchedRun;
+    friend class RunMemory;
     struct Cache;
+
+    StatementPtr prepareOwn(const QString &sql);
+
     std::unique_ptr<Cache> m_cache;
+    RunMemory *m_run = nullptr;
 
 protected:
     Connection();

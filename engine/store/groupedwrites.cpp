@@ -52,7 +52,7 @@ void GroupedWrites::guarded(const std::function<void()> &step)
         step();
     } catch (const EngineError &error) {
         // What a lost connection had not committed is gone, and the locks with it.
-        if (!m_connection.sendsAhead() || error.code() == ErrorCode::ConnectionLost) {
+        if (!m_connection.sendsAhead() || error.isConnectionLost()) {
             keepApplied();
             throw;
         }
@@ -140,7 +140,7 @@ void GroupedWrites::executeGuarded(Statement &statement)
     try {
         statement.execute();
     } catch (const EngineError &error) {
-        if (error.code() != ErrorCode::ConnectionLost)
+        if (!error.isConnectionLost())
             m_connection.execute(u"ROLLBACK TO SAVEPOINT one_write"_s);
         throw;
     }

@@ -1,6 +1,7 @@
 #include "engine/store/lockmanager.h"
 
 #include "engine/values/error.h"
+#include "engine/values/userlocale.h"
 
 #include <QLocale>
 #include <utility>
@@ -20,8 +21,9 @@ QString momentText(const QDateTime &moment)
 {
     const QDateTime here = moment.toLocalTime();
     const bool isToday = here.date() == QDate::currentDate();
-    return isToday ? QLocale().toString(here.time(), QLocale::ShortFormat)
-                   : QLocale().toString(here, QLocale::ShortFormat);
+    const QLocale locale = userLocale().locale;
+    return isToday ? locale.toString(here.time(), QLocale::ShortFormat)
+                   : locale.toString(here, QLocale::ShortFormat);
 }
 
 } // namespace
@@ -107,9 +109,11 @@ bool LockManager::tryLockRecord(const QString &table, const QList<qint64> &key)
 {
     const QString name = table.toLower();
     const qint64 place = placeOf(name, key);
-    const Held *held = find(name);
-    if (held && held->records.contains(place))
-        return false;
+    Held *held = find(name);
+    if (held && held->records.contains(place)) {
+        held->losable.erase(place);
+        return held->dueRecords.erase(place) > 0;
+    }
     const qint64 since = QDateTime::currentSecsSinceEpoch();
     if (!acquireRecord(name, {place, since, held && held->table > 0}))
         return false;
@@ -125,13 +129,21 @@ void LockManager::unlockRecord(const QString &table, const QList<qint64> &key) n
     const QString name = table.toLower();
     const qint64 place = placeOf(name, key);
     Held *held = find(name);
-    const auto record = held ? held->records.find(place) : std::map<qint64, qint64>::iterator();
-    if (!held || record == held->records.end())
+    if (!held || !held->records.contains(place))
         return;
-    const bool tableHeld = held->table > 0;
-    const qint64 since = record->second;
-    held->records.erase(record);
-    held->losable.erase(place);
+    if (m_inTransaction)
+        held->dueRecords.insert(place);
+    else
+        giveBackRecord(name, place);
+}
+
+void LockManager::giveBackRecord(const QString &name, qint64 place) noexcept
+{
+    Held &held = m_held[name];
+    const bool tableHeld = held.table > 0;
+    const qint64 since = held.records[place];
+    held.records.erase(place);
+    held.losable.erase(place);
     releaseRecord(name, {place, since, tableHeld});
     settle(name);
     if (!tableHeld)
@@ -142,7 +154,9 @@ bool LockManager::holdsRecord(const QString &table, const QList<qint64> &key) co
 {
     const QString name = table.toLower();
     const auto found = m_held.find(name);
-    return found != m_held.end() && found->second.records.contains(placeOf(name, key));
+    const qint64 place = placeOf(name, key);
+    return found != m_held.end() && found->second.records.contains(place)
+        && !found->second.dueRecords.contains(place);
 }
 
 void LockManager::mayBeLost(const QString &table, const QList<qint64> &key)
@@ -155,8 +169,10 @@ void LockManager::mayBeLost(const QString &table, const QList<qint64> &key)
 void LockManager::loseRecords()
 {
     for (auto &[table, held] : m_held) {
-        for (const qint64 place : std::exchange(held.losable, {}))
+        for (const qint64 place : std::exchange(held.losable, {})) {
             held.records.erase(place);
+            held.dueRecords.erase(place);
+        }
     }
     std::erase_if(m_held, [](const auto &entry) { return entry.second.isFree(); });
 }
@@ -164,7 +180,9 @@ void LockManager::loseRecords()
 bool LockManager::tryLockTable(const QString &table)
 {
     const QString name = table.toLower();
-    const Held *held = find(name);
+    Held *held = find(name);
+    if (held && std::exchange(held->tableIsDue, false))
+        return true;
     const bool covered = held && held->table > 0;
     const qint64 since = QDateTime::currentSecsSinceEpoch();
     if (!covered && !acquireTable(name, since))
@@ -181,17 +199,55 @@ void LockManager::unlockTable(const QString &table) noexcept
 {
     const QString name = table.toLower();
     Held *held = find(name);
-    if (!held || held->table == 0 || --held->table > 0)
+    if (!held || held->table == 0 || held->tableIsDue)
         return;
-    releaseTable(name, *held);
+    if (held->table > 1)
+        --held->table;
+    else if (m_inTransaction)
+        held->tableIsDue = true;
+    else
+        giveBackTable(name);
+}
+
+void LockManager::giveBackTable(const QString &name) noexcept
+{
+    Held &held = m_held[name];
+    held.table = 0;
+    held.tableIsDue = false;
+    releaseTable(name, held);
     settle(name);
     changed();
+}
+
+void LockManager::transactionBegun() noexcept
+{
+    transactionEnded(); // of one that the store has ended by itself
+    m_inTransaction = true;
+}
+
+void LockManager::transactionEnded() noexcept
+{
+    m_inTransaction = false;
+    std::map<QString, std::set<qint64>> records;
+    QStringList tables;
+    for (auto &[name, held] : m_held) {
+        if (!held.dueRecords.empty())
+            records[name] = std::exchange(held.dueRecords, {});
+        if (held.tableIsDue)
+            tables.append(name);
+    }
+    for (const auto &[name, places] : records) {
+        for (const qint64 place : places)
+            giveBackRecord(name, place);
+    }
+    for (const QString &name : std::as_const(tables))
+        giveBackTable(name);
 }
 
 bool LockManager::holdsTable(const QString &table) const
 {
     const auto found = m_held.find(table.toLower());
-    return found != m_held.end() && found->second.table > 0;
+    return found != m_held.end() && found->second.table > 0 && !found->second.tableIsDue;
 }
 
 QString LockManager::holderOf(const QString &table) { return inBrackets(ownerOf(table)); }

@@ -32,7 +32,8 @@ struct LockOwner
 //
 // All calls return at once: true when the lock is held now. Retrying is the caller's business (Attempts). Opens and
 // table locks are counted: the store is asked only for the first of a kind and told only of the last. Giving back never
-// fails; what a lost connection held has gone with it.
+// fails; what a lost connection held has gone with it. Within a transaction, record and table locks that are given back
+// are kept until it ends: before that nobody else sees what was written under them.
 class LockManager
 {
 public:
@@ -57,6 +58,10 @@ public:
     void unlockTable(const QString &table) noexcept;
     bool holdsTable(const QString &table) const;
 
+    // Told by the connection.
+    void transactionBegun() noexcept;
+    void transactionEnded() noexcept;
+
     // Who holds the table lock, or else any record of the table; nullopt when nobody does or it cannot be told.
     virtual std::optional<LockOwner> ownerOf(const QString &table) = 0;
     // Who keeps the record from being locked: whoever has it, or the whole table.
@@ -75,6 +80,8 @@ protected:
         qint64 tableSince = 0;
         std::map<qint64, qint64> records; // each with the time since when
         std::set<qint64> losable; // those of the records that may be lost
+        std::set<qint64> dueRecords; // given back, and kept until the transaction ends
+        bool tableIsDue = false; // likewise
 
         bool isFree() const { return shared == 0 && exclusive == 0 && table == 0 && records.empty(); }
         bool keepsOthersFromWriting() const { return table > 0 || !records.empty(); }
@@ -106,8 +113,11 @@ private:
     Held *find(const QString &name);
     void settle(const QString &name); // forgets a table that nothing is held of
     void goDown(const QString &name, OpenMode from, OpenMode to) noexcept;
+    void giveBackRecord(const QString &name, qint64 place) noexcept;
+    void giveBackTable(const QString &name) noexcept;
 
     std::map<QString, Held> m_held;
+    bool m_inTransaction = false;
 };
 
 } // namespace Engine

@@ -20,8 +20,15 @@ void requireUtf8Name(const QString &path);
 // Failures show when it is opened.
 void makeOwnFile(const QString &path);
 
-// What has been renamed in the folder, made in it or taken out stays so after a power cut.
-void syncFolder(const QString &folder);
+// What has been renamed in the folder, made in it or taken out stays so after a power cut. False where that has failed;
+// some file systems do not know it, and need none.
+bool syncFolder(const QString &folder);
+
+// What has been written into the file stays so after a power cut. False, with errno, where the system cannot promise that.
+bool syncFile(const QString &path);
+
+// Makes the folder, and those above it that are missing, so that they stay after a power cut. False with errno.
+bool makeFolder(const QString &folder);
 
 QString systemUserName();
 
@@ -67,6 +74,8 @@ public:
     bool tryLock(qint64 from, qint64 count, Mode mode);
     void unlock(qint64 from, qint64 count);
     bool isLockedByOthers(qint64 from, qint64 count) const;
+    // A program on this machine that has locked a part of the range, as far as the system tells: "flock (process 4711)".
+    QString programLocking(qint64 from, qint64 count) const;
 
     QByteArray read(qint64 from, qint64 count) const;
     void write(qint64 from, const QByteArray &bytes);

@@ -2,11 +2,13 @@
 
 #include "engine/values/error.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
 #include <pwd.h>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <sys/stat.h>
@@ -101,13 +103,40 @@ void makeOwnFile(const QString &path)
     ::close(handle);
 }
 
-void syncFolder(const QString &folder)
+bool syncFolder(const QString &folder)
 {
     const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0)
-        return;
-    ::fsync(handle); // some file systems do not know it, and need none
+        return false;
+    const bool isSynced = ::fsync(handle) == 0;
     ::close(handle);
+    return isSynced;
+}
+
+bool syncFile(const QString &path)
+{
+    const int handle = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (handle < 0)
+        return false;
+    const bool synced = ::fsync(handle) == 0;
+    const int error = errno;
+    ::close(handle);
+    errno = error;
+    return synced;
+}
+
+bool makeFolder(const QString &folder)
+{
+    if (QFileInfo(folder).isDir())
+        return true;
+    const QString parent = QFileInfo(QDir::cleanPath(folder)).absolutePath();
+    if (!makeFolder(parent))
+        return false;
+    constexpr mode_t everybody = S_IRWXU | S_IRWXG | S_IRWXO; // but for what the mask takes away
+    if (::mkdir(QFile::encodeName(folder).constData(), everybody) != 0 && errno != EEXIST)
+        return false;
+    syncFolder(parent);
+    return QFileInfo(folder).isDir();
 }
 
 QString systemUserName()
@@ -216,6 +245,55 @@ bool RangeLockFile::isLockedByOthers(qint64 from, qint64 count) const
 {
     struct flock range = rangeOf(F_WRLCK, from, count);
     return lock(m_handle, F_OFD_GETLK, range) == 0 && range.l_type != F_UNLCK;
+}
+
+namespace {
+
+// Of a line such as "lock:\t1: POSIX  ADVISORY  READ 4711 fe:00:1234 0 EOF"; locks of whole files (FLOCK) are none of ours.
+bool isLockOn(const QByteArray &line, qint64 from, qint64 count)
+{
+    const QList<QByteArray> words = line.simplified().split(' ');
+    if (words.size() < 4 || words[0] != "lock:" || words[2] == "FLOCK")
+        return false;
+    const QByteArray &end = words.constLast();
+    const qint64 first = words[words.size() - 2].toLongLong();
+    return first < from + count && (end == "EOF" || end.toLongLong() >= from);
+}
+
+bool holdsLock(const QString &process, const QString &path, qint64 from, qint64 count)
+{
+    const QFileInfoList handles = QDir(process + QStringLiteral("/fd")).entryInfoList(QDir::System | QDir::Files);
+    for (const QFileInfo &handle : handles) {
+        if (handle.symLinkTarget() != path)
+            continue;
+        QFile info(process + QStringLiteral("/fdinfo/") + handle.fileName());
+        if (!info.open(QIODevice::ReadOnly))
+            continue;
+        const QList<QByteArray> lines = info.readAll().split('\n');
+        if (std::any_of(lines.begin(), lines.end(),
+                        [&](const QByteArray &line) { return isLockOn(line, from, count); }))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+// Other users' programs keep their files to themselves.
+QString RangeLockFile::programLocking(qint64 from, qint64 count) const
+{
+    const QString path = QFileInfo(m_path).canonicalFilePath();
+    const QStringList processes = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &process : processes) {
+        const QString folder = QStringLiteral("/proc/") + process;
+        if (!process.front().isDigit() || !holdsLock(folder, path, from, count))
+            continue;
+        QFile name(folder + QStringLiteral("/comm"));
+        const bool isNamed = name.open(QIODevice::ReadOnly);
+        return Texts::tr("%1 (process %2)")
+            .arg(isNamed ? QString::fromLocal8Bit(name.readAll().trimmed()) : QString(), process);
+    }
+    return {};
 }
 
 QByteArray RangeLockFile::read(qint64 from, qint64 count) const

@@ -26,7 +26,12 @@ void Session::pause(std::chrono::milliseconds time) const
 
 bool Session::mayTryAgain(std::chrono::steady_clock::time_point since) const
 {
-    if (m_pausing || std::chrono::steady_clock::now() - since >= lockAttempts * lockPause)
+    return mayTryAgain(since, lockAttempts * lockPause);
+}
+
+bool Session::mayTryAgain(std::chrono::steady_clock::time_point since, std::chrono::milliseconds time) const
+{
+    if (m_pausing || std::chrono::steady_clock::now() - since >= time)
         return false;
     pause();
     return true;

@@ -49,6 +49,12 @@ public:
     // How long a server lets one statement wait for somebody's lock. What gives up then is tried again with pauses in
     // between, for as long as record locks are tried, so that a screen never stands still for longer than this.
     std::chrono::milliseconds serverLockWait{400};
+    // A cluster names another of its servers when one is gone, which takes it some seconds. So long a statement waits that
+    // finds the connection lost, where several addresses are given; and so long the answer to a commit is looked for.
+    std::chrono::milliseconds serverWait{10'000};
+    std::chrono::milliseconds answerWait{60'000};
+    // Told when the server of a database is gone, and when it is there again.
+    std::function<void(bool isThere)> serverChanged;
     // Called for each pause instead of sleeping, so that a screen can stay alive. Empty: sleep.
     std::function<void(std::chrono::milliseconds)> waitFor;
 
@@ -64,6 +70,7 @@ public:
     // Pauses and gives true while what was begun then may be tried again. Never within a pause: what a screen does
     // meanwhile must not wait as well.
     bool mayTryAgain(std::chrono::steady_clock::time_point since) const;
+    bool mayTryAgain(std::chrono::steady_clock::time_point since, std::chrono::milliseconds time) const;
 
 private:
     QString m_name;

@@ -98,6 +98,14 @@ SqlCondition equals(const Dialect &dialect, const SqlColumn &column, const Value
     return value.isNull() ? isNull(column) : compare(dialect, column, " = "_L1, value);
 }
 
+SqlCondition before(const Dialect &dialect, const SqlColumn &column, const Value &value, bool descending)
+{
+    if (value.isNull())
+        return descending ? isNotNull(column) : never();
+    const SqlCondition compared = compare(dialect, column, descending ? " > "_L1 : " < "_L1, value);
+    return descending ? compared : either(isNull(column), compared);
+}
+
 SqlCondition beginsWith(const Dialect &dialect, const SqlColumn &column, const QString &prefix)
 {
     if (prefix.isEmpty())

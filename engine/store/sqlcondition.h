@@ -34,6 +34,8 @@ struct SqlColumn
 
 // Null equals null here, as it does in an index.
 SqlCondition equals(const Dialect &dialect, const SqlColumn &column, const Value &value);
+// The column comes before the value in its order; a null one does in an ascending order.
+SqlCondition before(const Dialect &dialect, const SqlColumn &column, const Value &value, bool descending);
 // The text begins with the prefix, as a range that an index serves.
 SqlCondition beginsWith(const Dialect &dialect, const SqlColumn &column, const QString &prefix);
 // The columns, compared one after the other as in an index, lie between the bounds, both included. A bound may be

@@ -28,6 +28,7 @@ enum class ErrorCode {
     RecordGone = 10244, // the row was deleted by another user
     RecordChanged = 10246, // another user has changed the row while it was not locked any more
     Busy = 10245, // the store is writing for someone else and did not get free in time
+    MovedAway = 10247, // the database has gone to another place and takes no more writes here
     CannotOpen = 11001, // folder, file or server that cannot be reached
     NotADatabase = 11002,
     Corrupt = 11003,
@@ -35,6 +36,7 @@ enum class ErrorCode {
     ReadOnly = 11005,
     ConnectionLost = 11006,
     AccessDenied = 11007,
+    AnswerLost = 11009, // the connection went while changes were committed, and nobody knows whether they were
     FileReplaced = 11008, // the open file, or its lock file, is no longer the one that its path leads to
 };
 
@@ -53,7 +55,8 @@ public:
 
     ErrorCode code() const { return m_code; }
     // Whether the store itself is gone, so that nothing else will work either.
-    bool isStoreLost() const { return m_code == ErrorCode::ConnectionLost || m_code == ErrorCode::FileReplaced; }
+    bool isStoreLost() const { return isConnectionLost() || m_code == ErrorCode::FileReplaced; }
+    bool isConnectionLost() const { return m_code == ErrorCode::ConnectionLost || m_code == ErrorCode::AnswerLost; }
     // Whether the store has failed, and not a lock, a row or a value.
     bool isOfTheStore() const
     {

@@ -4,6 +4,7 @@
 #include "engine/values/linetext.h"
 #include "engine/values/plural.h"
 #include "engine/values/textsize.h"
+#include "engine/values/userlocale.h"
 
 namespace Engine {
 
@@ -35,6 +36,11 @@ QString Field::caption() const { return label.isEmpty() ? name : label; }
 
 Value Field::fit(const Value &value) const
 {
+    const auto *text = std::get_if<QString>(&value.storage());
+    if (text && text->size() > longestText)
+        raise(ErrorCode::BadValue,
+              Texts::tr("%1: a text of more than %2 characters is not taken")
+                  .arg(caption(), groupedCount(longestText)));
     Value fitted;
     try {
         fitted = (type == FieldType::Text ? asOneLine(value) : value).as(type);

@@ -39,23 +39,47 @@ QList<Entry> entriesOf(const QList<QAction *> &actions, const QStringList &menus
     return entries;
 }
 
-// In full, where an entry is short for a command of the main window.
-QString titleOf(const QAction &entry)
+// The command of the main window that an entry stands for, and may be short for.
+const MainCommand *commandOf(const QAction &entry)
 {
     const QString name = entry.property("action").toString();
     const auto command = std::find_if(commands().begin(), commands().end(),
                                       [&name](const MainCommand &one) { return one.action == name; });
-    return plainCaption(command == commands().end() ? entry.text() : command->caption);
+    return command == commands().end() ? nullptr : &*command;
 }
 
-// By the command and by the entry, which may be shorter, else by all that is said of it.
+QString titleOf(const QAction &entry)
+{
+    const MainCommand *command = commandOf(entry);
+    return plainCaption(command ? command->caption : entry.text());
+}
+
+// By the command, by the entry, which may be shorter, and by the window that it opens, else by all that is said of it.
 TextMatch::Rank rankOf(const TextMatch &match, const QString &title, const Entry &entry)
 {
     using enum TextMatch::Rank;
     const QString text = plainCaption(entry.action->text());
-    const TextMatch::Rank rank = std::min(match.rank({}, title), match.rank({}, text));
-    const QStringList words = entry.menus + QStringList{title, text, entry.action->statusTip()};
+    const MainCommand *command = commandOf(*entry.action);
+    const QString window = command ? command->window : QString();
+    const TextMatch::Rank rank = std::min({match.rank({}, title), match.rank({}, text), match.rank({}, window)});
+    const QStringList words = entry.menus + QStringList{title, text, window, entry.action->statusTip()};
     return rank == None && match.isIn(words.join(u' ')) ? Anywhere : rank;
+}
+
+QString idOf(const Entry &entry) { return u"command/"_s + entry.action->objectName(); }
+
+Finding finding(const Entry &entry, const QString &title, TextMatch::Rank rank)
+{
+    const QString keys = entry.action->shortcut().toString(QKeySequence::NativeText);
+    return {.id = idOf(entry),
+            .title = title,
+            .detail = keys.isEmpty() ? entry.menus.join(" > "_L1) : keys,
+            .glyph = glyphOf(*entry.action),
+            .rank = rank,
+            .open = [action = QPointer(entry.action)] {
+                if (action)
+                    action->trigger();
+            }};
 }
 
 } // namespace
@@ -75,20 +99,20 @@ QList<Finding> CommandSource::find(const Wanted &wanted)
         const TextMatch::Rank rank = rankOf(wanted.match, title, entry);
         if (rank == TextMatch::Rank::None)
             continue;
-        const QString keys = entry.action->shortcut().toString(QKeySequence::NativeText);
-        findings.append({.id = u"command/"_s + entry.action->objectName(),
-                         .title = title,
-                         .detail = keys.isEmpty() ? entry.menus.join(" > "_L1) : keys,
-                         .glyph = glyphOf(*entry.action),
-                         .rank = rank,
-                         .open = [action = QPointer(entry.action)] {
-                             if (action)
-                                 action->trigger();
-                         }});
+        findings.append(finding(entry, title, rank));
     }
     std::stable_sort(findings.begin(), findings.end(),
                      [](const Finding &one, const Finding &other) { return one.rank < other.rank; });
     return findings.mid(0, wanted.most);
+}
+
+std::optional<Finding> CommandSource::findById(const QString &id)
+{
+    for (const Entry &entry : entriesOf(m_menus.actions(), {})) {
+        if (idOf(entry) == id)
+            return finding(entry, titleOf(*entry.action), TextMatch::Rank::None);
+    }
+    return std::nullopt;
 }
 
 } // namespace Tallymere

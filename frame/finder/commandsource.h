@@ -15,6 +15,7 @@ public:
 
     QString caption() const override;
     QList<Finding> find(const Wanted &wanted) override;
+    std::optional<Finding> findById(const QString &id) override;
 
 private:
     const QMenuBar &m_menus;

@@ -35,7 +35,7 @@ QString detailOf(const FoundDocument &document)
 DocumentSource::DocumentSource(ScreenContext &context, const DocumentKind &kind, QWidget &owner)
     : m_context(context)
     , m_kind(kind)
-    , m_kindWords(kind.oneName + u' ' + kind.entry.title + u' ' + kind.list.caption)
+    , m_kindWords(kind.oneName + u' ' + kind.entry.title.arg(QString()) + u' ' + kind.list.caption)
     , m_records(new RecordOpener(context, recordScreens(kind), &owner))
     , m_descriptions(indexOfDescriptions(context.data.databaseTallymere(), kind))
 {
@@ -82,11 +82,19 @@ QList<Finding> DocumentSource::find(const Wanted &wanted)
     return findings;
 }
 
+std::optional<Finding> DocumentSource::findById(const QString &id)
+{
+    const std::optional<qint64> key = keyInId(id, m_kind.headerTable);
+    const std::optional<FoundDocument> document =
+        key ? documentOfKey(m_context.data.databaseTallymere(), m_kind, *key) : std::nullopt;
+    return document ? std::optional(finding(*document)) : std::nullopt;
+}
+
 Finding DocumentSource::finding(const FoundDocument &found)
 {
     const MainCommand *command = commandTo(m_kind.list.screen);
     const QString title = m_kind.entry.title.arg(found.number);
-    return {.id = m_kind.headerTable + u'/' + QString::number(found.key),
+    return {.id = recordId(m_kind.headerTable, found.key),
             .title = title,
             .detail = detailOf(found),
             .glyph = command ? command->glyph : Glyph::Records,

@@ -21,6 +21,7 @@ public:
 
     QString caption() const override;
     QList<Finding> find(const Wanted &wanted) override;
+    std::optional<Finding> findById(const QString &id) override;
     void readAnew() override;
     bool isReading() const override { return m_descriptions && m_descriptions->isReading(); }
     bool readOn(qint64 milliseconds) override { return m_descriptions && m_descriptions->readOn(milliseconds); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/lastchoices.h"
 #include "frame/finder/findsource.h"
 
 #include <memory>
@@ -13,16 +14,19 @@ struct FindGroup
     QList<Finding> findings;
 };
 
-// The search over everything: asks its sources, puts the group with the best answer first, and remembers what has been
-// opened last.
+// The search over everything: asks its sources, puts the group with the best answer first, and keeps for the user what he
+// has opened last.
 class Finder
 {
 public:
     static constexpr int mostOfAGroup = 6;
+    static constexpr int mostKept = 20;
+
+    void keepIn(const LastChoices &memory) { m_memory.emplace(memory); } // without it nothing is kept
 
     void add(std::unique_ptr<FindSource> source) { m_sources.push_back(std::move(source)); }
 
-    // Of a text without words what has been opened last.
+    // Of a text without words what has been opened last, as far as it is there.
     QList<FindGroup> find(const QString &typed);
     void open(const Finding &finding); // raises what its opening raises
 
@@ -31,8 +35,13 @@ public:
     bool readOn(qint64 milliseconds);
 
 private:
+    QStringList keptIds() const;
+    void readRecent();
+
     std::vector<std::unique_ptr<FindSource>> m_sources;
+    std::optional<LastChoices> m_memory;
     QList<Finding> m_recent; // the last first
+    bool m_recentIsOld = true; // as long as it has not been read anew
 };
 
 } // namespace Tallymere

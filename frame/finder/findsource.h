@@ -4,6 +4,7 @@
 #include "base/textmatch.h"
 
 #include <functional>
+#include <optional>
 #include <QList>
 #include <QString>
 
@@ -21,6 +22,10 @@ struct Finding
     std::function<void()> showCard = {}; // of what has one
 };
 
+// The id of a record, by its table and its key; and the key in one of that table.
+QString recordId(const QString &table, qint64 key);
+std::optional<qint64> keyInId(const QString &id, const QString &table);
+
 // What is searched for.
 struct Wanted
 {
@@ -37,6 +42,8 @@ public:
 
     virtual QString caption() const = 0; // over its answers
     virtual QList<Finding> find(const Wanted &wanted) = 0; // the best first; quick enough between two keys
+    // The answer of that id as it is by now; nothing for what is gone, or of another source.
+    virtual std::optional<Finding> findById(const QString &id) = 0;
 
     // What is kept in memory is read anew in steps, while answers come from what has been read before.
     virtual void readAnew() { }

@@ -32,6 +32,24 @@ bool ManualSource::readOn(qint64)
     return true;
 }
 
+Finding ManualSource::finding(const ManualCollection::Topic &topic, TextMatch::Rank rank) const
+{
+    return {.id = topic.place.toString(),
+            .title = topic.title,
+            .detail = topic.page,
+            .glyph = Glyph::Help,
+            .rank = rank,
+            .open = [show = m_show, place = topic.place] { show(place); }};
+}
+
+std::optional<Finding> ManualSource::findById(const QString &id)
+{
+    const auto topic = std::find_if(m_topics.begin(), m_topics.end(), [&id](const ManualCollection::Topic &one) {
+        return one.place.toString() == id;
+    });
+    return topic == m_topics.end() ? std::nullopt : std::optional(finding(*topic, TextMatch::Rank::None));
+}
+
 QList<Finding> ManualSource::find(const Wanted &wanted)
 {
     QList<Finding> findings;
@@ -39,12 +57,7 @@ QList<Finding> ManualSource::find(const Wanted &wanted)
         const TextMatch::Rank rank = wanted.match.rank({}, topic.title);
         if (rank == TextMatch::Rank::None)
             continue;
-        findings.append({.id = topic.place.toString(),
-                         .title = topic.title,
-                         .detail = topic.page,
-                         .glyph = Glyph::Help,
-                         .rank = rank,
-                         .open = [show = m_show, place = topic.place] { show(place); }});
+        findings.append(finding(topic, rank));
     }
     std::stable_sort(findings.begin(), findings.end(),
                      [](const Finding &one, const Finding &other) { return one.rank < other.rank; });

@@ -18,10 +18,13 @@ public:
 
     QString caption() const override;
     QList<Finding> find(const Wanted &wanted) override;
+    std::optional<Finding> findById(const QString &id) override;
     bool isReading() const override { return !m_read; }
     bool readOn(qint64 milliseconds) override;
 
 private:
+    Finding finding(const ManualCollection::Topic &topic, TextMatch::Rank rank) const;
+
     ShowPage m_show;
     std::unique_ptr<ManualCollection> m_manual; // while it is read
     QList<ManualCollection::Topic> m_topics;

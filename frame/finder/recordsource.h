@@ -18,11 +18,13 @@ public:
 
     QString caption() const override;
     QList<Finding> find(const Wanted &wanted) override;
+    std::optional<Finding> findById(const QString &id) override;
     void readAnew() override { m_names.readAnew(); }
     bool isReading() const override { return m_names.isReading(); }
     bool readOn(qint64 milliseconds) override { return m_names.readOn(milliseconds); }
 
 private:
+    QList<Finding> findByCode(const QString &code);
     Finding finding(const NameIndex::Found &found);
 
     ScreenContext &m_context;

@@ -11,40 +11,13 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <QApplication>
 #include <QDir>
-#include <QKeySequence>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
-
-// To whatever has the keyboard: letters as they stand, other keys by their names: "A10<Return>".
-void type(const char *text)
-{
-    for (const char *c = text; *c; ++c) {
-        QWidget *popup = QApplication::activePopupWidget();
-        QWidget *target = popup ? popup : QApplication::focusWidget();
-        if (popup && popup->focusWidget())
-            target = popup->focusWidget();
-        const char *end = *c == '<' ? std::strchr(c, '>') : nullptr;
-        if (!target) {
-            std::fprintf(stderr, "nothing takes %s\n", c);
-            return;
-        }
-        if (!end) {
-            QTest::keyClick(target, *c);
-            continue;
-        }
-        const QKeyCombination key = QKeySequence::fromString(QString::fromLatin1(c + 1, end - c - 1))[0];
-        QTest::keyClick(target, key.key(), key.keyboardModifiers());
-        c = end;
-    }
-    settle();
-}
 
 // Answers what is asked with yes. What is refused in the middle of a day is a fault of the day.
 class Messages final : public Prompts

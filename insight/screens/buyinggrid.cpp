@@ -97,7 +97,7 @@ void BuyingGrid::nextItem()
         showItem(std::min(item + 1, m_list->size() - 1));
 }
 
-void BuyingGrid::keyPressEvent(QKeyEvent *event)
+void BuyingGrid::gridKey(QKeyEvent *event)
 {
     const int item = currentItem();
     if (isEnter(event))
@@ -108,7 +108,7 @@ void BuyingGrid::keyPressEvent(QKeyEvent *event)
     }
     if (item >= 0 && typesNumber(event))
         showItem(item);
-    EntryGrid::keyPressEvent(event);
+    EntryGrid::gridKey(event);
 }
 
 } // namespace Tallymere

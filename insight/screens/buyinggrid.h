@@ -32,7 +32,7 @@ Q_SIGNALS:
     void itemShown(); // the cursor has moved to another row
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    void gridKey(QKeyEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 private:

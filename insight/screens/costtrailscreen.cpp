@@ -46,7 +46,7 @@ TfrmCostTrail::TfrmCostTrail(ScreenContext &context, const ItemCard &card, QWidg
     , m_name(card.itemNo + u' ' + card.description)
     , m_trail(card.trail)
 {
-    m_firstSize = {980, 420};
+    m_firstSize = {1080, 420};
     setWindowTitle(tr("Why This Cost: %1").arg(m_name));
     layOut();
     showTrail();
@@ -62,7 +62,7 @@ void TfrmCostTrail::layOut()
     m_grid->setAccessibleName(tr("Receipts"));
     m_grid->setColumns({{{}, tr("Date"), 85},
                         {{}, tr("Receipt"), 200},
-                        {{}, tr("Location"), 130},
+                        {.field = {}, .title = tr("Location"), .width = 190, .takesSurplus = true},
                         {{}, tr("Received"), 80, Qt::AlignRight},
                         {{}, tr("Unit Cost"), 80, Qt::AlignRight},
                         {{}, tr("On hand before"), 105, Qt::AlignRight},

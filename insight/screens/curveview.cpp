@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QValueAxis>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,9 +24,10 @@ qreal timeOf(QDate date) { return static_cast<qreal>(date.startOfDay().toMSecsSi
 
 } // namespace
 
-CurveView::CurveView(Tone tone, QWidget *parent)
+CurveView::CurveView(Tone tone, QString hint, QWidget *parent)
     : QChartView(parent)
     , m_tone(tone)
+    , m_hint(std::move(hint))
 {
     setRenderHint(QPainter::Antialiasing);
     setFrameShape(QFrame::NoFrame);
@@ -37,9 +39,10 @@ CurveView::CurveView(Tone tone, QWidget *parent)
     chart()->layout()->setContentsMargins(0, 0, 0, 0);
 }
 
-void CurveView::setPoints(std::vector<CurvePoint> points, const QString &whole)
+void CurveView::setPoints(std::vector<CurvePoint> points, CurveTime time, const QString &whole)
 {
     m_points = std::move(points);
+    m_time = time;
     m_current = -1;
     setAccessibleDescription(whole);
     draw();
@@ -51,7 +54,7 @@ void CurveView::draw()
     for (QAbstractAxis *axis : chart()->axes())
         chart()->removeAxis(axis);
     if (m_points.empty())
-        return;
+        return paintLook();
     auto *line = new QLineSeries;
     QList<QPointF> corners;
     for (const CurvePoint &point : m_points) {
@@ -59,15 +62,15 @@ void CurveView::draw()
             corners.append({timeOf(point.date), corners.last().y()});
         corners.append({timeOf(point.date), point.value});
     }
+    corners.append({timeOf(m_time.to), corners.last().y()});
     line->replace(corners);
     chart()->addSeries(line);
 
     auto *times = new QDateTimeAxis;
-    const QDate first = m_points.front().date;
-    const QDate last = std::max(m_points.back().date, first.addDays(1));
-    times->setRange(first.startOfDay(), last.startOfDay());
+    const QDate last = std::max(m_time.to, m_time.from.addDays(1));
+    times->setRange(m_time.from.startOfDay(), last.startOfDay());
     constexpr int monthsFrom = 120; // days
-    times->setFormat(first.daysTo(last) < monthsFrom ? u"d MMM"_s : u"MMM yy"_s);
+    times->setFormat(m_time.from.daysTo(last) < monthsFrom ? u"d MMM"_s : u"MMM yy"_s);
     times->setTickCount(4);
     auto *values = new QValueAxis;
     const auto [least, greatest] = std::ranges::minmax_element(m_points, {}, &CurvePoint::value);
@@ -157,6 +160,15 @@ void CurveView::focusInEvent(QFocusEvent *event)
         moveTo(static_cast<int>(m_points.size()) - 1);
 }
 
+// The point is kept for who comes back from the document behind it.
+void CurveView::focusOutEvent(QFocusEvent *event)
+{
+    QChartView::focusOutEvent(event);
+    if (event->reason() != Qt::ActiveWindowFocusReason)
+        moveTo(-1);
+    viewport()->update();
+}
+
 void CurveView::keyPressEvent(QKeyEvent *event)
 {
     const auto last = static_cast<int>(m_points.size()) - 1;
@@ -187,7 +199,9 @@ void CurveView::drawForeground(QPainter *painter, const QRectF &)
         painter->setPen(QPen(look.on(ground, Look::Role::Accent), 1));
         painter->drawRect(mapToScene(viewport()->rect()).boundingRect().adjusted(0.5, 0.5, -1.5, -1.5));
     }
-    if (m_current < 0 || chart()->series().isEmpty())
+    if (m_points.empty())
+        return drawHint(*painter);
+    if (m_current < 0)
         return;
     const CurvePoint &point = m_points[static_cast<size_t>(m_current)];
     const QPointF place = chart()->mapToPosition({timeOf(point.date), point.value});
@@ -196,6 +210,13 @@ void CurveView::drawForeground(QPainter *painter, const QRectF &)
     painter->setPen(Qt::NoPen);
     painter->setBrush(look.on(ground, Look::Role::Accent));
     painter->drawEllipse(place, radius, radius);
+}
+
+void CurveView::drawHint(QPainter &painter) const
+{
+    painter.setFont(font());
+    painter.setPen(Look(palette()).on(palette().color(QPalette::Window), Look::Role::SecondText));
+    painter.drawText(mapToScene(viewport()->rect()).boundingRect(), Qt::AlignCenter | Qt::TextWordWrap, m_hint);
 }
 
 } // namespace Tallymere

@@ -1,5 +1,6 @@
 #include "insight/screens/insightscreens.h"
 
+#include "insight/screens/firststeps.h"
 #include "insight/screens/monthend.h"
 #include "insight/screens/stockasof.h"
 #include "insight/screens/whattobuy.h"
@@ -22,6 +23,7 @@ QList<InsightScreen> insightScreens()
     return {
         {u"frmStockAsOf"_s, make<TfrmStockAsOf>()},
         {u"frmWhatToBuy"_s, make<TfrmWhatToBuy>()},
+        {u"frmFirstSteps"_s, make<TfrmFirstSteps>()},
         {u"frmMonthEnd"_s, make<TfrmMonthEnd>()},
     };
 }

@@ -15,10 +15,14 @@
 #include "transactions/documentkinds.h"
 #include "transactions/screens/documentscreens.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +40,7 @@ QLabel *head(const QString &text, QWidget *parent)
     QFont font = headFont(label->font());
     font.setCapitalization(QFont::AllUppercase);
     label->setFont(font);
+    label->setFixedHeight(scaled(parent, Space::row)); // as those of the facts beside it
     return label;
 }
 
@@ -82,20 +87,27 @@ void TfrmItemCard::layOut()
     auto *closing = new QPushButton(tr("&Close"), this);
     closing->setObjectName(u"btnClose"_s);
 
-    m_quantity = new CurveView(CurveView::Tone::Accent, this);
+    m_quantity = new CurveView(CurveView::Tone::Accent, tr("Nothing has been posted."), this);
     m_quantity->setObjectName(u"chartQuantity"_s);
     m_quantity->setAccessibleName(tr("Quantity on hand"));
-    m_cost = new CurveView(CurveView::Tone::Notice, this);
+    m_cost = new CurveView(CurveView::Tone::Notice, tr("Nothing has been received."), this);
     m_cost->setObjectName(u"chartCost"_s);
     m_cost->setAccessibleName(tr("Average cost"));
     m_told = new QLabel(this);
     m_told->setObjectName(u"lblTold"_s);
     m_told->setMinimumHeight(scaled(this, Space::row));
 
-    auto *facts = new QVBoxLayout;
-    facts->addWidget(m_facts);
-    facts->addStretch();
+    m_factsBox = new QScrollArea(this); // of many locations
+    m_factsBox->setObjectName(u"boxFacts"_s);
+    m_factsBox->setAccessibleName(tr("Figures"));
+    m_factsBox->setFrameShape(QFrame::NoFrame);
+    m_factsBox->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_factsBox->setWidgetResizable(true);
+    m_factsBox->setFocusPolicy(Qt::NoFocus); // the window's Page keys scroll it
+    m_facts->setContentsMargins(0, 0, scaled(this, Space::cell), 0);
+    m_factsBox->setWidget(m_facts);
     auto *curves = new QVBoxLayout;
+    curves->setSpacing(0);
     curves->addWidget(head(tr("Quantity"), this));
     curves->addWidget(m_quantity, 1);
     curves->addWidget(head(tr("Average cost"), this));
@@ -103,7 +115,7 @@ void TfrmItemCard::layOut()
     curves->addWidget(m_told);
     auto *sides = new QHBoxLayout;
     sides->setSpacing(scaled(this, Space::part));
-    sides->addLayout(facts, 2);
+    sides->addWidget(m_factsBox, 2);
     sides->addLayout(curves, 3);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(m_why);
@@ -143,6 +155,14 @@ void TfrmItemCard::readAnew()
     showCard();
 }
 
+void TfrmItemCard::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp)
+        QCoreApplication::sendEvent(m_factsBox->verticalScrollBar(), event);
+    else
+        SheetWindow::keyPressEvent(event);
+}
+
 void TfrmItemCard::showCard()
 {
     setWindowTitle(tr("Item Card: %1 %2").arg(m_card.itemNo, m_card.description));
@@ -157,6 +177,8 @@ void TfrmItemCard::showCard()
     m_about->setText(about.join(u", "_s));
     m_about->setVisible(!about.isEmpty());
     showFacts();
+    m_factsBox->setMinimumWidth(m_facts->minimumSizeHint().width()
+                                + m_factsBox->verticalScrollBar()->sizeHint().width());
     showCurves();
 }
 
@@ -184,7 +206,7 @@ void TfrmItemCard::showFacts()
 }
 
 // What has no date has no place on the curve; it is in what the curve begins with.
-void TfrmItemCard::showCurves()
+std::vector<CurvePoint> TfrmItemCard::quantityPoints()
 {
     m_shown.clear();
     std::vector<CurvePoint> points;
@@ -198,9 +220,13 @@ void TfrmItemCard::showCurves()
                               .arg(dateText(movement.date), movement.description, signedQuantity(movement.change),
                                    quantity(movement.onHand))});
     }
-    m_quantity->setPoints(std::move(points), tr("%1 on hand").arg(quantity(m_card.onHand)));
+    return points;
+}
+
+std::vector<CurvePoint> TfrmItemCard::costPoints()
+{
     m_shownCosts.clear();
-    points.clear();
+    std::vector<CurvePoint> points;
     for (size_t i = 0; i < m_card.costs.size(); ++i) {
         const CostPoint &cost = m_card.costs[i];
         if (!cost.date.isValid())
@@ -210,7 +236,23 @@ void TfrmItemCard::showCurves()
             {cost.date, cost.cost.toDouble(),
              tr("%1, %2: average cost %3").arg(dateText(cost.date), cost.description, currencyText(cost.cost))});
     }
-    m_cost->setPoints(std::move(points), m_card.trail.verdict());
+    return points;
+}
+
+// One time for both, up to today, so that what stands above each other happened on the same day.
+void TfrmItemCard::showCurves()
+{
+    std::vector<CurvePoint> quantities = quantityPoints();
+    std::vector<CurvePoint> costs = costPoints();
+    const QDate today = context().data.today();
+    CurveTime time{today, today};
+    for (const std::vector<CurvePoint> *points : {&quantities, &costs}) {
+        if (points->empty())
+            continue;
+        time = {std::min(time.from, points->front().date), std::max(time.to, points->back().date)};
+    }
+    m_quantity->setPoints(std::move(quantities), time, tr("%1 on hand").arg(quantity(m_card.onHand)));
+    m_cost->setPoints(std::move(costs), time, m_card.trail.verdict());
     m_why->setEnabled(!m_card.trail.steps.empty());
 }
 

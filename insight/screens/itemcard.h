@@ -3,12 +3,16 @@
 #include "controls/screens/sheetwindow.h"
 #include "insight/itemcard.h"
 
+#include <vector>
+
 class QLabel;
 class QPushButton;
+class QScrollArea;
 
 namespace Tallymere {
 
 class CurveView;
+struct CurvePoint;
 class FactList;
 
 // The card of an item: where it is, what it costs, what waits to be posted, and the ways of quantity and average cost,
@@ -27,12 +31,15 @@ public:
 
 protected:
     void readAnew() override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void layOut();
     void showCard();
     void showFacts();
     void showCurves();
+    std::vector<CurvePoint> quantityPoints();
+    std::vector<CurvePoint> costPoints();
     void openMovement(const ItemMovement &movement);
     void openDocument(const DocumentKind &kind, int key, const QString &name);
 
@@ -40,6 +47,7 @@ private:
     QLabel *m_title;
     QLabel *m_about;
     FactList *m_facts;
+    QScrollArea *m_factsBox;
     CurveView *m_quantity;
     CurveView *m_cost;
     QLabel *m_told;

@@ -6,6 +6,7 @@
 #include "controls/windows/look.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/statelabel.h"
+#include "controls/windows/windowplaces.h"
 #include "data/datamodule.h"
 #include "engine/store/session.h"
 #include "reports/reportlist.h"
@@ -90,7 +91,11 @@ void TfrmMonthEnd::addLine(const MonthEndLine &line)
             [this, place] { guard().runWhenFree([this, place] { showMore(m_shown[place]); }); });
 }
 
-void TfrmMonthEnd::showStep() { m_memory.restore(); }
+void TfrmMonthEnd::showStep()
+{
+    placeByOpener(*this);
+    m_memory.restore();
+}
 
 bool TfrmMonthEnd::event(QEvent *event)
 {
@@ -201,6 +206,7 @@ void TfrmMonthEnd::btnOpenPeriodClick()
     read();
     if (m_ending.period != meant)
         throw RuleError(tr("Somebody has opened period %1 meanwhile.").arg(shownPeriod(m_ending.period)));
+    requireNextPeriod(context().data.databaseTallymere(), m_ending.period); // before anything is asked
     const QString next = shownPeriod(m_ending.next());
     QStringList open;
     for (const Shown &shown : std::as_const(m_shown))
@@ -214,7 +220,7 @@ void TfrmMonthEnd::btnOpenPeriodClick()
                                         .arg(shownPeriod(m_ending.period), open.join(u'\n'), question));
     if (!confirmed)
         return;
-    openNextPeriod(context().data.databaseTallymere(), m_ending.period);
+    openNextPeriod(context().data.databaseTallymere(), m_ending.period, context().data.currentUser());
     context().data.tblCompany().refresh(); // which all screens read the organization from
     read();
     context().prompts.inform(tr("Period %1 is open.").arg(next));

@@ -49,6 +49,9 @@ TfrmStockAsOf::TfrmStockAsOf(ScreenContext &context, QWidget *parent)
                               {Fields::WarehouseID, row.integer(Fields::WarehouseID)}});
     };
     build(description(), m_view.query(), history);
+    m_sum.emplace(
+        m_view.query(), [this](const QString &value) { showSum(tr("At today's cost"), value); },
+        [this](int item, int location) { return m_view.quantityThen(item, location); });
     showTime(m_view.time());
 }
 

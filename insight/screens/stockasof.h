@@ -1,6 +1,7 @@
 #pragma once
 
 #include "insight/stockasofview.h"
+#include "transactions/screens/stockvaluesum.h"
 #include "transactions/screens/stockviewscreen.h"
 
 namespace Tallymere {
@@ -28,6 +29,7 @@ private:
     void showTime(const StockTime &time);
 
     StockAsOfView m_view;
+    std::optional<StockValueSum> m_sum;
 };
 
 } // namespace Tallymere

@@ -13,6 +13,7 @@
 #include "transactions/screens/documentscreens.h"
 #include "ui_whattobuy.h"
 
+#include <QCheckBox>
 #include <QScreen>
 #include <QShortcut>
 
@@ -45,6 +46,7 @@ TfrmWhatToBuy::TfrmWhatToBuy(ScreenContext &context, QWidget *parent)
     m_ui->cboWarehouse->setChosenId(last.value(Settings::Location));
     m_ui->editWeeks->setValue(last.value(Settings::WeeksOfUse));
     m_ui->editCover->setValue(last.value(Settings::WeeksOfCover));
+    m_ui->chkAll->setChecked(last.value(Settings::AlsoInStock));
     m_ui->DBGrid1->setList(
         m_list,
         [this](int item, std::optional<double> quantity) {
@@ -52,7 +54,6 @@ TfrmWhatToBuy::TfrmWhatToBuy(ScreenContext &context, QWidget *parent)
             showStatus();
         },
         guard());
-    m_ui->DBGrid1->setHint(tr("Nothing has been used in these weeks."));
     m_ways = std::make_unique<ReportWays>(context, *this, *m_ui->btnSave, *m_ui->btnOnScreen, [this] {
         return WantedReport{report(), selection()};
     });
@@ -68,6 +69,7 @@ void TfrmWhatToBuy::connectControls()
     connect(m_ui->cboWarehouse, &LookupComboBox::chosen, this, [this] { guard().run([this] { read(); }); });
     for (const QSpinBox *weeks : {m_ui->editWeeks, m_ui->editCover})
         connect(weeks, &QSpinBox::valueChanged, this, [this] { guard().run([this] { read(); }); });
+    connect(m_ui->chkAll, &QCheckBox::toggled, this, [this] { guard().run([this] { read(); }); });
     connect(m_ui->DBGrid1, &BuyingGrid::itemShown, this, &TfrmWhatToBuy::showStatus);
     connectGuarded(m_ui->btnReceipt, &QPushButton::clicked, this, &TfrmWhatToBuy::btnReceiptClick);
     connectGuarded(m_ui->btnPrint, &QPushButton::clicked, this, &TfrmWhatToBuy::btnPrintClick);
@@ -85,10 +87,12 @@ void TfrmWhatToBuy::showItemCard()
 void TfrmWhatToBuy::showStep()
 {
     if (!std::exchange(m_shown, true)) {
+        fitToScreen(this);
         const int rows = m_ui->DBGrid1->heightForRows(shownRows);
         const QSize wanted(std::max(m_ui->DBGrid1->fullWidth(), sizeHint().width()),
                            sizeHint().height() - m_ui->DBGrid1->sizeHint().height() + rows);
         resize(wanted.boundedTo(screen()->availableGeometry().marginsRemoved(expectedFrame(*this)).size()));
+        placeByOpener(*this);
         m_memory.restore();
     }
     m_ui->DBGrid1->setFocus();
@@ -103,33 +107,61 @@ BuyingPlan TfrmWhatToBuy::plan() const
     return {.today = context().data.today(),
             .location = m_ui->cboWarehouse->shownId(),
             .weeks = m_ui->editWeeks->value(),
-            .cover = m_ui->editCover->value()};
+            .cover = m_ui->editCover->value(),
+            .alsoInStock = m_ui->chkAll->isChecked()};
 }
 
 ReportSelection TfrmWhatToBuy::selection() const
 {
     const BuyingPlan chosen = plan();
-    return {.warehouseId = chosen.location, .weeksOfUse = chosen.weeks, .weeksOfCover = chosen.cover};
+    return {.warehouseId = chosen.location,
+            .weeksOfUse = chosen.weeks,
+            .weeksOfCover = chosen.cover,
+            .alsoInStock = chosen.alsoInStock};
 }
 
 void TfrmWhatToBuy::read()
 {
-    const WaitCursor hourglass;
     const BuyingPlan chosen = plan();
-    m_list.read(context().data.databaseTallymere(), chosen);
-    m_ui->DBGrid1->listChanged();
+    m_aside.start(
+        context().data.databaseTallymere(),
+        [this, chosen](Engine::Database &database) -> std::function<void()> {
+            return [this, chosen, items = whatToBuy(database, BuyingList::withAll(chosen))] {
+                guard().run([&] { take(items, chosen); });
+            };
+        },
+        [this](const std::exception_ptr &failure) {
+            showStatus();
+            guard().report(failure);
+        });
+    m_ui->DBGrid1->setHint(tr("The history is being read."));
     showStatus();
     Choices kept;
     kept.set(Settings::Location, chosen.location);
     kept.set(Settings::WeeksOfUse, chosen.weeks);
     kept.set(Settings::WeeksOfCover, chosen.cover);
+    kept.set(Settings::AlsoInStock, chosen.alsoInStock);
     m_last.keep(kept);
+}
+
+// A quantity that is being typed counts, unless it is refused.
+void TfrmWhatToBuy::take(std::vector<ItemToBuy> items, const BuyingPlan &plan)
+{
+    if (const std::exception_ptr refused = Guard::attempt([this] { m_ui->DBGrid1->commitEntry(); }))
+        Guard::trace(refused);
+    m_list.take(std::move(items), plan);
+    m_ui->DBGrid1->setHint(m_list.leftOut() > 0 ? tr("What is in stock lasts long enough.")
+                                                : tr("Nothing has been used in these weeks."));
+    m_ui->DBGrid1->listChanged();
+    showStatus();
 }
 
 void TfrmWhatToBuy::showStatus()
 {
     const int item = m_ui->DBGrid1->currentItem();
     m_ui->btnReceipt->setEnabled(item >= 0);
+    if (m_aside.isReading())
+        return m_ui->lblStatus->setText(tr("Reading the history..."));
     const QString count = plural(m_list.chosen(), tr("%n item to buy"), tr("%n items to buy"));
     const QString vendor = item < 0 ? QString() : m_list.row(item).item.vendorName;
     m_ui->lblStatus->setText(vendor.isEmpty() ? count : tr("%1.  Make Receipt: %2").arg(count, vendor));

@@ -5,6 +5,7 @@
 #include "controls/screens/dialogscreen.h"
 #include "controls/screens/recordopener.h"
 #include "data/lastchoices.h"
+#include "data/readaside.h"
 #include "insight/buyinglist.h"
 #include "reports/screens/reportways.h"
 
@@ -18,7 +19,7 @@ namespace Tallymere {
 
 // "What to Buy": the items that have been used, by the vendor of their last receipt, with what is proposed to make them last,
 // and what is to be bought; of a vendor's items a receipt is made, to be looked over. What a user has chosen last is offered
-// again. Not modal; it frees itself when it is closed.
+// again. The history is read aside, so that the window is there at once. Not modal; it frees itself when it is closed.
 class TfrmWhatToBuy final : public DialogScreen, public CommandScreen
 {
     Q_OBJECT
@@ -39,6 +40,7 @@ private:
     BuyingPlan plan() const;
     ReportSelection selection() const;
     void read();
+    void take(std::vector<ItemToBuy> items, const BuyingPlan &plan); // what has been read
     void showStatus();
     void btnReceiptClick();
     void btnPrintClick();
@@ -50,6 +52,7 @@ private:
     RecordOpener m_receipts;
     std::unique_ptr<ReportWays> m_ways;
     BuyingList m_list;
+    ReadAside m_aside;
     bool m_shown = false;
 };
 

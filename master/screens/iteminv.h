@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class QPushButton;
+
 namespace Ui {
 class TfrmItemInv;
 }
@@ -19,14 +21,20 @@ public:
     TfrmItemInv(ScreenContext &context, QWidget *parent);
     ~TfrmItemInv() override;
 
+    void newRecord() override;
+
 protected:
     void firstShown() override;
+    void showRecord() override;
 
 private:
     void chkReadOnlyClick();
+    void addBarcodes();
+    void btnBarcodesClick();
     void lockCost(bool locked);
 
     std::unique_ptr<Ui::TfrmItemInv> m_ui;
+    QPushButton *m_barcodes = nullptr; // of an item that is stored
 };
 
 } // namespace Tallymere

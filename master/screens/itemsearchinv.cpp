@@ -4,6 +4,7 @@
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "data/lookupsdatainv.h"
+#include "master/barcodes.h"
 #include "ui_itemsearchinv.h"
 
 #include <QKeyEvent>
@@ -22,13 +23,14 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
     m_search.open();
     m_ui->DBGrid1->setDataSet(m_search.items(),
                               {{Fields::ItemNo, tr("Item no."), 110},
-                               {Fields::ItemDescription, tr("Description"), 290},
-                               {Fields::TypeName, tr("Item Type"), 120},
+                               {Fields::ItemDescription, tr("Description"), 270},
+                               {Fields::TypeName, tr("Item Type"), 150},
                                {.field = ItemSearch::OnHand.toString(),
                                 .title = tr("On hand"),
                                 .width = 80,
                                 .alignment = Qt::AlignRight,
-                                .setOff = true}},
+                                .setOff = true,
+                                .warnsBelowZero = true}},
                               guard());
     m_ui->cboItemType->setList(context.lookups.tblItemType(), {{Fields::TypeName, tr("Item Type"), 180}}, guard());
 
@@ -131,6 +133,18 @@ void TfrmItemSearchInv::findAnywhere()
         m_ui->DBGrid1->search()->findNext(box->text());
 }
 
+// As a scanner has sent it into the box.
+void TfrmItemSearchInv::findByBarcode()
+{
+    const std::optional<int> item =
+        itemOfBarcode(context().data.databaseTallymere(), m_ui->editFindItemNo->text().trimmed());
+    if (!item)
+        return;
+    m_search.reset();
+    m_search.setItemId(*item);
+    m_missed = false;
+}
+
 bool TfrmItemSearchInv::eventFilter(QObject *watched, QEvent *event)
 {
     // By then the dialog has shown itself, and given its box the cursor.
@@ -171,7 +185,9 @@ bool TfrmItemSearchInv::takeSearchKey(QKeyEvent &key)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         if (m_missed)
-            context().prompts.error(tr("Item not found"));
+            guard().run([this] { findByBarcode(); });
+        if (m_missed)
+            context().prompts.error(tr("Item not found. F3 looks for the words anywhere."));
         return m_missed;
     default:
         return false;

@@ -43,6 +43,7 @@ private:
     void continueTyping();
     void noteFound(bool found);
     void findAnywhere();
+    void findByBarcode();
     bool takeTypeKey(const QKeyEvent &key);
     bool takeSearchKey(QKeyEvent &key);
 

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-TfrmItemsFind::TfrmItemsFind(ScreenContext &context, Engine::DataSet &list, QWidget *parent)
+TfrmItemsFind::TfrmItemsFind(ScreenContext &context, ListScreen &list)
     : RecordFindScreen(context,
                        {.name = u"frmItemsFind"_s,
                         .caption = tr("Find Item"),
@@ -15,7 +15,7 @@ TfrmItemsFind::TfrmItemsFind(ScreenContext &context, Engine::DataSet &list, QWid
                         .numberLabel = tr("Item &no.:"),
                         .nameBox = u"cboItem"_s,
                         .nameLabel = tr("&Description:")},
-                       MasterKinds::item(), context.lookups.tblItem(), list, parent)
+                       MasterKinds::item(), context.lookups.tblItem(), list)
 {
 }
 

@@ -10,7 +10,7 @@ class TfrmItemsFind final : public RecordFindScreen
     Q_OBJECT
 
 public:
-    TfrmItemsFind(ScreenContext &context, Engine::DataSet &list, QWidget *parent);
+    TfrmItemsFind(ScreenContext &context, ListScreen &list);
 };
 
 } // namespace Tallymere

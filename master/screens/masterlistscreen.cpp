@@ -29,7 +29,7 @@ ListDescription MasterListScreen::description()
             .caption = kind.list.caption,
             .columns = kind.list.columns,
             .buttons = recordButtons(),
-            .menus = {fileMenu(kind.list.report), recordMenu(),
+            .menus = {fileMenu(kind.list.report, kind.name), recordMenu(),
                       viewMenu(kind.list.orders, kind.list.firstOrder,
                                [this](const ListOrder &order) { m_list.setOrder(order); }),
                       helpMenu(tr("%1 &Help").arg(kind.list.caption))}};
@@ -39,10 +39,7 @@ std::function<void()> MasterListScreen::mainWindowAction(const QString &action)
 {
     if (!context().runAction)
         return {};
-    return [this, action] {
-        context().runAction(action);
-        refreshList();
-    };
+    return [this, action] { context().runAction(action); }; // which refreshes the list as well
 }
 
 void MasterListScreen::showStep()

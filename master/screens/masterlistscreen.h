@@ -29,7 +29,7 @@ protected:
         setDialogs({.makeFilter = [this] { return new Filter(context(), this); },
                     .filterExpression =
                         [this](const ListFilter &filter) { return m_list.kind().filterExpression(filter); },
-                    .makeFind = [this] { return std::make_unique<Find>(context(), dataSet(), this); }});
+                    .makeFind = [this] { return std::make_unique<Find>(context(), *this); }});
         buildList(add);
     }
 

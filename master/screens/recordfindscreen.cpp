@@ -1,6 +1,8 @@
 #include "master/screens/recordfindscreen.h"
 
 #include "controls/screens/filternote.h"
+#include "controls/screens/listscreen.h"
+#include "controls/screens/wordsfinding.h"
 #include "master/recordnumber.h"
 #include "master/screens/recordpair.h"
 #include "ui_recordfindscreen.h"
@@ -8,8 +10,8 @@
 namespace Tallymere {
 
 RecordFindScreen::RecordFindScreen(ScreenContext &context, const FindDialogKind &dialog, const MasterKind &kind,
-                                   Engine::TableReader &records, Engine::DataSet &list, QWidget *parent)
-    : DialogScreen(context, parent)
+                                   Engine::TableReader &records, ListScreen &list)
+    : DialogScreen(context, &list)
     , m_ui(std::make_unique<Ui::RecordFindScreen>())
     , m_kind(kind)
     , m_list(list)
@@ -22,9 +24,10 @@ RecordFindScreen::RecordFindScreen(ScreenContext &context, const FindDialogKind 
     m_ui->cboName->setObjectName(dialog.nameBox);
     m_ui->lblName->setText(dialog.nameLabel);
 
-    addFilterNote(*this, list);
+    addFilterNote(*this, list.dataSet());
 
     m_record = new RecordPair(m_ui->editNumber, m_ui->cboName, kind, records, guard());
+    m_words = new WordsFinding(*this, *m_ui->editNumber, list);
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &RecordFindScreen::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -33,8 +36,12 @@ RecordFindScreen::~RecordFindScreen() = default;
 
 void RecordFindScreen::btnOKClick()
 {
-    if (const int key = m_record->settle(); key != 0)
-        moveToRecord(m_list, m_kind, key, m_record->text());
+    if (m_words->goesOn())
+        return m_words->findNext();
+    int key = 0;
+    m_words->runOrFind([&] { key = m_record->settle(); });
+    if (key != 0)
+        moveToRecord(m_list.dataSet(), m_kind, key, m_record->text());
     accept();
 }
 

@@ -5,7 +5,6 @@
 #include <memory>
 
 namespace Engine {
-class DataSet;
 class TableReader;
 } // namespace Engine
 namespace Ui {
@@ -14,7 +13,9 @@ class RecordFindScreen;
 
 namespace Tallymere {
 
+class ListScreen;
 class RecordPair;
+class WordsFinding;
 struct MasterKind;
 
 // How the find dialog of one kind of records differs from those of the others.
@@ -28,7 +29,8 @@ struct FindDialogKind
     QString nameLabel; // "&Description:"
 };
 
-// Moves a list to one record, which the user names by its number or chooses by its name.
+// Moves a list to one record, which the user names by its number or chooses by its name; or to rows with the words that have
+// been typed for a number.
 class RecordFindScreen : public DialogScreen
 {
     Q_OBJECT
@@ -39,18 +41,19 @@ public:
     void btnOKClick();
 
 protected:
-    // The records in the order in which they are chosen. The list, which may be one of rows that refer to the
-    // records, must outlive the dialog's showing.
+    // The records in the order in which they are chosen. The list, over which the dialog stands, may be one of rows that
+    // refer to the records.
     RecordFindScreen(ScreenContext &context, const FindDialogKind &dialog, const MasterKind &kind,
-                     Engine::TableReader &records, Engine::DataSet &list, QWidget *parent);
+                     Engine::TableReader &records, ListScreen &list);
 
     QWidget *widgetOfColumn(const QString &column) const override;
 
 private:
     std::unique_ptr<Ui::RecordFindScreen> m_ui;
     const MasterKind &m_kind;
-    Engine::DataSet &m_list;
+    ListScreen &m_list;
     RecordPair *m_record;
+    WordsFinding *m_words;
 };
 
 } // namespace Tallymere

@@ -30,7 +30,7 @@ TfrmVendorsFilter::TfrmVendorsFilter(ScreenContext &context, QWidget *parent)
 {
 }
 
-TfrmVendorsFind::TfrmVendorsFind(ScreenContext &context, Engine::DataSet &list, QWidget *parent)
+TfrmVendorsFind::TfrmVendorsFind(ScreenContext &context, ListScreen &list)
     : RecordFindScreen(context,
                        {.name = u"frmVendorsFind"_s,
                         .caption = tr("Find Vendor"),
@@ -38,7 +38,7 @@ TfrmVendorsFind::TfrmVendorsFind(ScreenContext &context, Engine::DataSet &list, 
                         .numberLabel = tr("&Vendor no.:"),
                         .nameBox = u"cboVendor"_s,
                         .nameLabel = tr("&Name:")},
-                       MasterKinds::vendor(), context.lookups.tblVendor(), list, parent)
+                       MasterKinds::vendor(), context.lookups.tblVendor(), list)
 {
 }
 

@@ -29,7 +29,7 @@ class TfrmVendorsFind final : public RecordFindScreen
     Q_OBJECT
 
 public:
-    TfrmVendorsFind(ScreenContext &context, Engine::DataSet &list, QWidget *parent);
+    TfrmVendorsFind(ScreenContext &context, ListScreen &list);
 };
 
 } // namespace Tallymere

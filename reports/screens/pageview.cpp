@@ -42,7 +42,6 @@ PageView::PageView(QWidget *parent)
     letPagesBeRead();
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Dark);
-    viewport()->setAutoFillBackground(true);
 }
 
 void PageView::setRun(const Printing::ReportRun *run)
@@ -239,7 +238,6 @@ void PageView::wheelEvent(QWheelEvent *event)
     if (!event->modifiers().testFlag(Qt::ControlModifier))
         return QAbstractScrollArea::wheelEvent(event);
     Q_EMIT zoomWanted(m_zoom + (event->angleDelta().y() > 0 ? 10 : -10));
-    event->accept();
 }
 
 void PageView::keyPressEvent(QKeyEvent *event)

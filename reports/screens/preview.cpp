@@ -5,6 +5,7 @@
 #include "controls/windows/progressbox.h"
 #include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
+#include "engine/values/userlocale.h"
 #include "printing/printout.h"
 #include "printing/reportcsv.h"
 #include "printing/reportoutput.h"
@@ -76,6 +77,7 @@ void TfrmPreview::offerCsv(std::function<Printing::Report(Progress &)> makeRepor
 {
     m_makeReport = std::move(makeReport);
     m_saveCsv->setVisible(bool(m_makeReport));
+    m_saveXlsx->setVisible(bool(m_makeReport));
 }
 
 void TfrmPreview::connectControls()
@@ -90,8 +92,11 @@ void TfrmPreview::connectControls()
     m_savePdf = saving->addAction(tr("&PDF..."));
     m_saveCsv = saving->addAction(tr("&CSV..."));
     m_saveCsv->setVisible(false);
+    m_saveXlsx = saving->addAction(tr("&XLSX..."));
+    m_saveXlsx->setVisible(false);
     connectGuarded(m_savePdf, &QAction::triggered, this, &TfrmPreview::savePdf);
     connectGuarded(m_saveCsv, &QAction::triggered, this, &TfrmPreview::saveCsv);
+    connectGuarded(m_saveXlsx, &QAction::triggered, this, &TfrmPreview::saveXlsx);
     connect(m_ui->btnClose, &QPushButton::clicked, this, &QWidget::close);
 
     connect(m_ui->SpinEdit1, &QSpinBox::valueChanged, m_ui->QRPreview1, &PageView::setZoom);
@@ -243,7 +248,7 @@ void TfrmPreview::goOnSearching()
 
 QString TfrmPreview::searchedSoFar(const QString &text) const
 {
-    const QLocale locale;
+    const QLocale locale = Engine::userLocale().locale;
     return text.arg(locale.toString(m_search->pagesSearched()), locale.toString(m_run->pageCount()))
         + (m_run->hasEnded() ? QString() : u"..."_s);
 }
@@ -379,7 +384,16 @@ void TfrmPreview::saveCsv()
     save(m_run->title(), csvFile(m_run->title()), [&](const QString &file, Progress &progress) {
         const Printing::Report report = m_makeReport(progress);
         Printing::saveReportCsv(report.layout, *report.rows, file, progress,
-                                m_run->isComplete() ? m_run->lineCount() : 0);
+                                m_run->isComplete() ? m_run->lineCount() : 0, csvTexts(m_context.settings));
+    });
+}
+
+void TfrmPreview::saveXlsx()
+{
+    save(m_run->title(), xlsxFile(m_run->title()), [&](const QString &file, Progress &progress) {
+        const Printing::Report report = m_makeReport(progress);
+        Printing::saveReportXlsx(report.layout, *report.rows, file, progress,
+                                 m_run->isComplete() ? m_run->lineCount() : 0);
     });
 }
 

@@ -43,6 +43,7 @@ public:
     void btnPrintClick();
     void savePdf();
     void saveCsv();
+    void saveXlsx();
 
 Q_SIGNALS:
     void given(); // it has been printed or saved
@@ -80,6 +81,7 @@ private:
     std::function<Printing::Report(Progress &)> m_makeReport;
     QAction *m_savePdf = nullptr;
     QAction *m_saveCsv = nullptr;
+    QAction *m_saveXlsx = nullptr;
     QTimer m_making; // goes on with the pages whenever there is nothing else to do
     bool m_toLast = false; // the last page was asked for before it was made
     std::optional<Printing::PageSearch> m_search; // that is going on

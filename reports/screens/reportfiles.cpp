@@ -25,6 +25,12 @@ FileChoice csvFile(const QString &title)
     return {ReportsTexts::tr("Save as CSV"), fileTitle(title) + ".csv"_L1, ReportsTexts::tr("CSV files"), u"csv"_s};
 }
 
+FileChoice xlsxFile(const QString &title)
+{
+    return {ReportsTexts::tr("Save as XLSX"), fileTitle(title) + ".xlsx"_L1, ReportsTexts::tr("XLSX files"),
+            u"xlsx"_s};
+}
+
 QString saveReportFile(const ScreenContext &context, QWidget *window, const FileChoice &choice,
                        const std::function<void(const QString &file, Progress &progress)> &write)
 {

@@ -25,6 +25,7 @@ ReportWays::ReportWays(ScreenContext &context, DialogScreen &dialog, QPushButton
     save.setMenu(menu);
     connectGuarded(menu->addAction(tr("&PDF...")), &QAction::triggered, this, &ReportWays::savePdf);
     connectGuarded(menu->addAction(tr("&CSV...")), &QAction::triggered, this, &ReportWays::saveCsv);
+    connectGuarded(menu->addAction(tr("&XLSX...")), &QAction::triggered, this, &ReportWays::saveXlsx);
     connectGuarded(&onScreen, &QPushButton::clicked, this, &ReportWays::showOnScreen);
 }
 
@@ -41,7 +42,8 @@ void ReportWays::showOnScreen()
     const std::optional<WantedReport> wanted = m_ask();
     if (!wanted)
         return;
-    showReportOnScreen(m_context, wanted->report, wanted->selection, m_dialog.parentWidget());
+    showReportOnScreen(m_context, wanted->report, wanted->selection,
+                       m_previewParent ? m_previewParent : m_dialog.parentWidget());
     Q_EMIT shown();
 }
 
@@ -64,7 +66,18 @@ void ReportWays::saveCsv()
         return;
     save(csvFile(wanted->report.layout.title), *wanted, [&](const QString &file, Progress &progress) {
         const Printing::Report report = makeReport(m_context.data, wanted->report, wanted->selection, &progress);
-        Printing::saveReportCsv(report.layout, *report.rows, file, progress);
+        Printing::saveReportCsv(report.layout, *report.rows, file, progress, 0, csvTexts(m_context.settings));
+    });
+}
+
+void ReportWays::saveXlsx()
+{
+    const std::optional<WantedReport> wanted = m_ask();
+    if (!wanted)
+        return;
+    save(xlsxFile(wanted->report.layout.title), *wanted, [&](const QString &file, Progress &progress) {
+        const Printing::Report report = makeReport(m_context.data, wanted->report, wanted->selection, &progress);
+        Printing::saveReportXlsx(report.layout, *report.rows, file, progress);
     });
 }
 

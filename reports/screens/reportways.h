@@ -37,6 +37,9 @@ public:
     // Shows the buttons that are of use, if any are.
     void offer(bool offered);
 
+    // Previews belong to the dialog and go with it: for one that other windows may have to wait for.
+    void keepPreviewsInDialog() { m_previewParent = &m_dialog; }
+
     const Guard &guard() const;
 
 Q_SIGNALS:
@@ -46,6 +49,7 @@ Q_SIGNALS:
 private:
     void savePdf();
     void saveCsv();
+    void saveXlsx();
     void showOnScreen();
     void save(const FileChoice &choice, const WantedReport &wanted,
               const std::function<void(const QString &file, Progress &progress)> &write);
@@ -55,6 +59,7 @@ private:
     QPushButton &m_save;
     QPushButton &m_onScreen;
     Ask m_ask;
+    DialogScreen *m_previewParent = nullptr; // null: what the dialog belongs to
 };
 
 } // namespace Tallymere

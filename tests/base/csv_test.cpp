@@ -27,6 +27,7 @@ QStringList read(QByteArray bytes)
 TEST(CsvReading, GivesTheRecordsWithTheirLines)
 {
     const QString notUtf8 = u"! The text is not UTF-8. Save the file in UTF-8 and try again."_s;
+    const QString tooLarge = u"! There is a text here that is larger than any field takes."_s;
     const std::tuple<const char *, QByteArray, QStringList> cases[] = {
         {"Nothing", "", {}},
         {"LineEnds", "a,b\r\nc,d\ne,f", {u"1: a|b"_s, u"2: c|d"_s, u"3: e|f"_s}},
@@ -46,9 +47,11 @@ TEST(CsvReading, GivesTheRecordsWithTheirLines)
         {"ZeroByte",
          QByteArray("a\0b\n", 4),
          {u"1! There is a zero byte in the text. This is no CSV file in UTF-8."_s}},
+        {"Huge", "a\n" + QByteArray(17'000'000, 'x'), {u"1: a"_s, u"2"_s + tooLarge}},
+        {"HugeOfLines", "a\n\"" + QByteArray("xxxxxxx\n").repeated(2'100'000), {u"1: a"_s, u"2"_s + tooLarge}},
     };
     for (const auto &[name, bytes, records] : cases)
-        EXPECT_EQ(read(bytes), records) << name << '\n' << read(bytes).join(u'\n').toStdString();
+        EXPECT_EQ(read(bytes), records) << name << '\n' << read(bytes).join(u'\n').left(200).toStdString();
 }
 
 TEST(CsvWriting, WhatIsWrittenReadsBackTheSame)
@@ -71,6 +74,23 @@ TEST(CsvWriting, WhatIsWrittenReadsBackTheSame)
     });
     EXPECT_TRUE(csv.startsWith("a,\"b,c\",\"say \"\"no\"\"\"\r\n"));
     EXPECT_EQ(csvRows(csv), records);
+}
+
+TEST(CsvWriting, TextsThatLookLikeFormulasAreDefusedWhereThatIsWanted)
+{
+    const auto written = [](Tallymere::CsvTexts texts) {
+        return writtenBy([texts](QIODevice &file) {
+            CsvWriter writer(file, texts);
+            for (const char *text : {"=1+1", "+1", "-1", "@a", "\tb", "\rc", "1-1", ""})
+                writer.field(QString::fromLatin1(text));
+            writer.field(Engine::Value(-2.5));
+            writer.field(Engine::Value(u"-2.5"_s));
+            writer.endRecord();
+            writer.flush();
+        });
+    };
+    EXPECT_EQ(written(Tallymere::CsvTexts::AsStored), "=1+1,+1,-1,@a,\tb,\"\rc\",1-1,,-2.5,-2.5\r\n");
+    EXPECT_EQ(written(Tallymere::CsvTexts::Defused), "'=1+1,'+1,'-1,'@a,'\tb,\"'\rc\",1-1,,-2.5,'-2.5\r\n");
 }
 
 } // namespace

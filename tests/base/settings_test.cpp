@@ -108,7 +108,7 @@ TEST(FormPositions, ComeBackOrNotAtAll)
     saveFormPos(settings, QRect(-20, 30, 640, 480), u"frmItems"_s, main);
     EXPECT_EQ(setFormPos(settings, u"frmItems"_s, main), QRect(-20, 30, 640, 480));
     EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, other));
-    for (const auto &damaged : {u"1 2 3"_s, u"1 2 3 x"_s, u"1 2 0 5"_s}) {
+    for (const auto &damaged : {u"1 2 3"_s, u"1 2 3 x"_s, u"1 2 0 5"_s, u"1949915914 0 1949915914 5"_s}) {
         settings.write(u"Forms/frmItems"_s, u"Main"_s, damaged);
         EXPECT_FALSE(setFormPos(settings, u"frmItems"_s, main)) << damaged.toStdString();
     }

@@ -6,6 +6,7 @@
 #include "data/layouts.h"
 #include "tests/support/documents.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -59,6 +60,14 @@ protected:
         return all;
     }
 
+    // Of whoever restored it; the rest is as it was.
+    static void takeNote(TestStore &restored)
+    {
+        const QString note = u"FROM History WHERE Event = 'Restored from the backup kitchen.bak'"_s;
+        EXPECT_EQ(restored.found(u"SELECT \"user\" "_s + note), u"maria"_s);
+        restored.execute(u"DELETE "_s + note);
+    }
+
     QString refusal(const std::function<void()> &step)
     {
         try {
@@ -87,7 +96,8 @@ TEST_P(BackupTest, BringsEverythingBackIntoEitherStore)
     for (const Store store : {Store::Local, Store::Remote}) {
         SCOPED_TRACE(storeName(store));
         TestStore other(store);
-        restoreInto(other.database(), file, progress);
+        restoreInto(other.database(), file, u"maria"_s, progress);
+        takeNote(other);
         EXPECT_EQ(contents(other.database()), before);
         EXPECT_EQ(checkBooks(other.database(), progress,
                              [](const BookCheck &, const BookFinding &finding) {
@@ -102,7 +112,7 @@ TEST_P(BackupTest, BringsEverythingBackIntoEitherStore)
         other.execute(u"INSERT INTO IHist (ItemID) VALUES (1)"_s);
         EXPECT_EQ(other.found(u"SELECT MAX(IHistID) FROM IHist"_s).toLongLong(), last + 1);
         EXPECT_TRUE(refusal([&] {
-                        restoreInto(other.database(), file, progress);
+                        restoreInto(other.database(), file, u"maria"_s, progress);
                     }).endsWith(u"holds a database already."_s));
     }
 }
@@ -116,7 +126,8 @@ TEST_P(BackupTest, IsOfOneMomentWhileOthersWrite)
     backUp(kitchen.database(), file, writing);
     ASSERT_FALSE(writing.action);
     TestStore other(Store::Local);
-    restoreInto(other.database(), file, progress);
+    restoreInto(other.database(), file, u"maria"_s, progress);
+    takeNote(other);
     EXPECT_EQ(contents(other.database()), before);
 }
 
@@ -133,7 +144,9 @@ TEST_P(BackupTest, LeavesNothingOfWhatFails)
     EXPECT_TRUE(refusal([&] { backUp(kitchen.database(), file, progress); }).contains(u"exists already"_s));
 
     const QTemporaryDir target;
-    const auto restore = [&] { return refusal([&] { restoreIntoFolder(file, target.path(), progress); }); };
+    const auto restore = [&] {
+        return refusal([&] { restoreIntoFolder(file, target.path(), u"maria"_s, progress); });
+    };
     const auto left = [&] {
         return QDir(target.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     };
@@ -150,9 +163,37 @@ TEST_P(BackupTest, LeavesNothingOfWhatFails)
     backup.seek(0);
     backup.write(sound);
     backup.close();
-    restoreIntoFolder(file, target.path(), progress);
+    restoreIntoFolder(file, target.path(), u"maria"_s, progress);
     EXPECT_TRUE(left().contains(u"Corvane.sqlite"_s));
     EXPECT_TRUE(restore().contains(u"holds a database already"_s));
+}
+
+TEST_P(BackupTest, ARestoreThatEndsEarlyTakesTheNewDatabaseOfTheServerBack)
+{
+    backUp(kitchen.database(), file, progress);
+    const QString name = u"test_%1_restored"_s.arg(QCoreApplication::applicationPid());
+    const auto isThere = [&] {
+        TestUser keeper(QStringList{u"remote"_s, u"postgres"_s});
+        return !rowsOf(keeper.database, u"SELECT 1 FROM pg_database WHERE datname = '%1'"_s.arg(name)).isEmpty();
+    };
+    const auto restore = [&](TestUser &user, Progress &told) {
+        user.database.createIfMissing = true;
+        user.database.connection();
+        restoreInto(user.database, file, u"maria"_s, told);
+    };
+    Interrupted cancelled([] { throw SilentAbort(); });
+    {
+        TestUser anna(QStringList{u"remote"_s, name});
+        EXPECT_THROW(restore(anna, cancelled), SilentAbort);
+    }
+    EXPECT_FALSE(isThere());
+    {
+        TestUser anna(QStringList{u"remote"_s, name});
+        restore(anna, progress);
+        EXPECT_THROW(restore(anna, progress), RuleError);
+    }
+    EXPECT_TRUE(isThere()) << "it holds something";
+    dropTestDatabase(name);
 }
 
 TEST_P(BackupTest, TellsOlderReleasesAndRefusesNewerOnes)
@@ -162,15 +203,23 @@ TEST_P(BackupTest, TellsOlderReleasesAndRefusesNewerOnes)
     kitchen.execute(u"ALTER TABLE Bank DROP COLUMN BankGLAccountID"_s);
     backUp(kitchen.database(), file, progress);
     const QTemporaryDir target;
-    EXPECT_EQ(restoreIntoFolder(file, target.path(), progress), QStringList(Layouts::titleOf(u"Bank"_s)));
+    EXPECT_EQ(restoreIntoFolder(file, target.path(), u"maria"_s, progress),
+              QStringList(Layouts::titleOf(u"Bank"_s)));
 
     kitchen.execute(u"ALTER TABLE Bank ADD COLUMN Futurity integer"_s);
     const QString newer = file + u"2"_s;
     backUp(kitchen.database(), newer, progress);
     const QTemporaryDir another;
     EXPECT_TRUE(refusal([&] {
-                    restoreIntoFolder(newer, another.path(), progress);
+                    restoreIntoFolder(newer, another.path(), u"maria"_s, progress);
                 }).contains(u"Futurity"_s, Qt::CaseInsensitive));
+
+    kitchen.execute(u"DELETE FROM IDataVersion; INSERT INTO IDataVersion VALUES (1, 99, '9.8')"_s);
+    backUp(kitchen.database(), file + u"3"_s, progress);
+    EXPECT_TRUE(refusal([&] {
+                    restoreIntoFolder(file + u"3"_s, another.path(), u"maria"_s, progress);
+                }).contains(u"newer release, 9.8"_s));
+    EXPECT_TRUE(QDir(another.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
 } // namespace

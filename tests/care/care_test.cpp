@@ -1,9 +1,10 @@
 #include "care/backup.h"
 #include "care/repair.h"
+#include "data/lastbackup.h"
 #include "data/layouts.h"
 #include "engine/store/dialect.h"
 #include "engine/values/error.h"
-#include "tests/support/chance.h"
+#include "tests/support/damage.h"
 #include "tests/support/documents.h"
 
 #include <QFile>
@@ -21,7 +22,7 @@ protected:
     CareTest()
     {
         kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s);
-        std::mt19937 random(chanceSeed());
+        std::mt19937 random(1); // always the same books: the tests name balances of them
         int id = 10'000;
         for (const bool posted : {true, false}) {
             for (const DocumentKind *kind : DocumentKinds::all()) {
@@ -82,6 +83,13 @@ TEST_P(CareTest, FindsWhatDocumentsAndHistoryDoNotAgreeAbout)
         const QString unposted = keyOf(*kind, false);
         const QString title = Layouts::titleOf(kind->headerTable);
         const auto with = [](const QString &key) { return QString(key).remove(u" ="_s); };
+        // As users know it, while its header is there.
+        const auto named = [&](const QString &key) {
+            return kind->entry.title.arg(
+                kitchen.text(u"SELECT %1 FROM %2 WHERE %3"_s.arg(kind->shownField(), kind->headerTable, key)));
+        };
+        const QString postedName = named(posted);
+        const QString unpostedName = named(unposted);
         const QString last = kitchen.text(u"SELECT MAX(IHistID) FROM IHist WHERE %1"_s.arg(posted));
         const double moved = stockChange(
             kind->posting.transType, kitchen.number(u"SELECT Quantity FROM IHist WHERE IHistID = %1"_s.arg(last)));
@@ -92,26 +100,33 @@ TEST_P(CareTest, FindsWhatDocumentsAndHistoryDoNotAgreeAbout)
             "IHistID = %2) AND WarehouseID = (SELECT WarehouseID FROM IHist WHERE IHistID = %2); "
             "DELETE FROM IHist WHERE IHistID = %2"_s.arg(moved)
                 .arg(last),
-            {title, with(posted), u"marked as posted, and not in the history"_s});
+            {postedName, with(posted), u"marked as posted, and not in the history"_s});
         expectFinding(
             u"documents"_s,
             u"DELETE FROM %1 WHERE %3; DELETE FROM %2 WHERE %3"_s.arg(kind->headerTable, kind->lineTable, posted),
             {title, with(posted), u"It is gone, and its history is there"_s});
         expectFinding(u"documents"_s, u"UPDATE %1 SET Posted = false WHERE %2"_s.arg(kind->headerTable, posted),
-                      {title, with(posted), u"all of it is in the history"_s});
+                      {postedName, with(posted), u"all of it is in the history"_s});
         expectFinding(u"documents"_s, u"DELETE FROM %1 WHERE %2"_s.arg(kind->headerTable, unposted),
                       {title, with(unposted), u"4 lines of it"_s});
+        expectFinding(
+            u"documents"_s,
+            u"DELETE FROM %1 WHERE %2; INSERT INTO IBegun (TransType, DocumentID, SavedBy) VALUES (%3, %4, 'anna')"_s
+                .arg(kind->headerTable, unposted)
+                .arg(static_cast<int>(kind->posting.transType))
+                .arg(unposted.section(u' ', -1)),
+            {title, with(unposted), u"anna has begun it"_s, u"with 4 lines"_s});
         expectFinding(u"references"_s,
                       u"UPDATE %1 SET WarehouseID = 77 WHERE %2"_s.arg(kind->headerTable, unposted),
-                      {title, with(unposted), u"WarehouseID is 77"_s});
+                      {unpostedName, with(unposted), u"WarehouseID is 77"_s});
         expectFinding(u"references"_s,
                       u"UPDATE %1 SET ItemID = 77 WHERE %2 AND Seq = 3"_s.arg(kind->lineTable, unposted),
-                      {title, with(unposted), u"ItemID is 77"_s});
+                      {unpostedName, with(unposted), u"ItemID is 77"_s});
         expectFinding(u"values"_s,
                       u"UPDATE %1 SET ItemID = NULL WHERE %2 AND Seq = 2"_s.arg(kind->lineTable, unposted),
-                      {with(unposted), u"Seq 2"_s, u"ItemID is empty"_s});
+                      {unpostedName, u"Seq 2"_s, u"ItemID is empty"_s});
         expectFinding(u"values"_s, u"UPDATE %1 SET GLPeriod = 13 WHERE %2"_s.arg(kind->headerTable, unposted),
-                      {with(unposted), u"no period of a year"_s});
+                      {unpostedName, u"no period of a year"_s});
         if (kind->numberField)
             expectFinding(u"numbers"_s,
                           u"UPDATE %1 SET %2 = (SELECT MAX(%2) FROM %1) WHERE %3"_s.arg(
@@ -123,7 +138,8 @@ TEST_P(CareTest, FindsWhatDocumentsAndHistoryDoNotAgreeAbout)
 TEST_P(CareTest, FindsWhatNoScreenLetsIn)
 {
     expectFinding(u"numbers"_s, u"UPDATE Item SET ItemNo = 'A10' WHERE ItemID = 2"_s, {u"A10 is there 2 times"_s});
-    expectFinding(u"references"_s, u"UPDATE Item SET ItemTypeID = 55 WHERE ItemID = 2"_s, {u"ItemTypeID is 55"_s});
+    expectFinding(u"references"_s, u"UPDATE Item SET ItemTypeID = 55 WHERE ItemID = 2"_s,
+                  {u"A11: Bread (ItemID 2)"_s, u"ItemTypeID is 55"_s});
     expectFinding(u"counters"_s, u"DELETE FROM ItemCtl; INSERT INTO ItemCtl (NextItemID) VALUES (2)"_s,
                   {u"NextItemID stands at 2"_s});
     if (GetParam() == Store::Remote)
@@ -185,8 +201,48 @@ TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
     const QString user = kitchen.database().connection().dialect().name(u"User"_s);
     EXPECT_EQ(kitchen.rows(u"SELECT %1 FROM History"_s, user), QStringList(3, u"maria"_s));
     TestStore old(Store::Local);
-    restoreInto(old.database(), backup, progress);
+    restoreInto(old.database(), backup, u"maria"_s, progress);
     EXPECT_EQ(checkBooks(old.database(), progress, [](const BookCheck &, const BookFinding &) {}), before.size());
+}
+
+TEST_P(CareTest, BuildsDamagedIndexesAnewAndLeavesDamagedRowsToABackup)
+{
+    if (GetParam() == Store::Remote)
+        GTEST_SKIP() << "the server looks after its own files";
+    kitchen.makeHost();
+    rememberBackup(kitchen.database());
+    const QTemporaryDir folder;
+    int repairs = 0;
+    const auto repair = [&] {
+        return repairBooks(kitchen.database(), folder.filePath(u"before-%1.sqlite"_s.arg(++repairs)), u"maria"_s,
+                           progress, [](const BookCheck &, const BookFinding &) {});
+    };
+    const QStringList history = kitchen.rows(u"SELECT * FROM IHist NOT INDEXED ORDER BY IHistID"_s);
+    const QString index =
+        kitchen.text(u"SELECT name FROM sqlite_schema WHERE type = 'index' AND tbl_name = 'IHist' "
+                     "AND name LIKE '%ITEMID'"_s);
+    constexpr int kindOfPage = 0;
+    constexpr int lastByte = -1; // of the page: a part of the entry that was made first
+    for (const int byte : {kindOfPage, lastByte}) {
+        SCOPED_TRACE(byte);
+        flipByte(kitchen, index, byte);
+        ASSERT_FALSE(isSound(kitchen));
+        const bool isToldOf = check().join(u'\n').contains(u"A repair builds the indexes of these tables anew"_s);
+        EXPECT_EQ(isToldOf, byte == kindOfPage) << "where entries stand a check does not look";
+        const RepairResult result = repair();
+        EXPECT_EQ(result.mended, 1);
+        EXPECT_EQ(result.left, 0);
+        EXPECT_TRUE(isSound(kitchen));
+        EXPECT_EQ(check(), QStringList());
+        EXPECT_EQ(kitchen.rows(u"SELECT * FROM IHist NOT INDEXED ORDER BY IHistID"_s), history);
+        EXPECT_TRUE(QFile::exists(folder.filePath(u"before-%1.sqlite"_s.arg(repairs))));
+    }
+    flipByte(kitchen, u"IHist"_s, kindOfPage);
+    const QString found = check().join(u'\n');
+    EXPECT_TRUE(found.contains(u"restore the last backup. The last one that is known was made on"_s))
+        << found.toStdString();
+    EXPECT_EQ(repair().mended, 0);
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"before-%1.sqlite"_s.arg(repairs))));
 }
 
 } // namespace

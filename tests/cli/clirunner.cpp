@@ -55,7 +55,7 @@ std::unique_ptr<QProcess> CliRunner::start(const QStringList &words)
     process->setWorkingDirectory(m_work.path());
     const bool local = m_store == Store::Local;
     QStringList arguments(local ? u"--data"_s : u"--server"_s);
-    arguments << (local ? m_folder.path() : u"127.0.0.1"_s) << words;
+    arguments << (local ? m_folder.path() : testServerAddress()) << words;
     process->start(QStringLiteral(TALLYMERE_PROGRAM), arguments);
     return process;
 }

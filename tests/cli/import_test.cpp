@@ -2,7 +2,10 @@
 #include "engine/store/tablelocks.h"
 #include "master/masterkinds.h"
 #include "tests/cli/clirunner.h"
+#include "tests/support/files.h"
 #include "transactions/documentkinds.h"
+
+#include <QDir>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -29,6 +32,7 @@ struct Import : testing::TestWithParam<Store>
     }
 
     CliRunner cli{GetParam()};
+    QTemporaryDir folder;
 };
 
 ON_BOTH_STORES(Import);
@@ -74,6 +78,9 @@ const BadFile badFiles[] = {
       u"6: Suspended 'yes' is neither true nor false"_s,
       u"7: ItemDescription '12345678901234567890123456789012345678901' is longer than 40 characters"_s,
       u"8: StandardCost '1e-400' is out of range"_s, u"9: StandardCost '\uFFFD[2J' is not a number"_s}},
+    {u"items"_s,
+     "ItemDescription,TypeName,Notes\nA,Produce," + QByteArray(1'000'001, 'x') + "\n",
+     {u"2: Notes '"_s + QString(57, u'x') + u"...' is longer than 1,000,000 characters"_s}},
     {u"types"_s,
      "TypeName,CostingMethod\nA,3\nB,1.5\nC,40000\n",
      {u"2: CostingMethod '3' is not within 1 to 2"_s, u"3: CostingMethod '1.5' is not a whole number"_s,
@@ -182,6 +189,38 @@ TEST_P(Import, KeepsACharacterThatWouldBeAMarkAtTheHeadOfAFile)
     ASSERT_EQ(cli.import(u"types"_s, "\xEF\xBB\xBFTypeName,Inventory\n\xEF\xBB\xBFTea,true\n").status, 0);
     const CliResult list = cli.run({u"list"_s, u"types"_s, u"--filter"_s, u"(TypeName = '\uFEFFTea')"_s});
     EXPECT_TRUE(list.output.contains(u",\uFEFFTea,"_s)) << list;
+}
+
+// A sheet of every kind of value, written by the list and read into another company; and told as CSV is.
+TEST_P(Import, TakesTheSheetThatAListHasWritten)
+{
+    ASSERT_EQ(cli.import(u"items"_s,
+                         "ItemNo,ItemDescription,TypeName,StandardCost,Suspended,Notes\n"
+                         "007,=1+1,Produce,1234.5678,true,\"one\ntwo _x0041_\"\n0.10,@x,Produce,0.1,,\n")
+                  .status,
+              0);
+    const QString file = QDir(folder.path()).filePath(u"items.xlsx"_s);
+    CliResult result = cli.run({u"list"_s, u"items"_s, u"--xlsx"_s, file});
+    ASSERT_EQ(result.status, 0) << result;
+    const QString written = cli.run({u"list"_s, u"items"_s}).output;
+
+    result = cli.run({u"import"_s, u"items"_s, file, u"--sheet"_s, u"items"_s});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errorLines().value(0),
+              file + u":1: Sheet 'items': The column 'ItemID' is set by the system and cannot be imported."_s);
+
+    cli.execute(u"DELETE FROM Item"_s);
+    result = cli.run({u"import"_s, u"items"_s, file, u"--except"_s,
+                      u"ItemID, SalesGLAccountID,COGSGLAccountID,InventoryGLAccountID,UnitPrice"_s});
+    ASSERT_EQ(result.status, 0) << result;
+    // Only the keys are others.
+    const auto withoutKeys = [](const QString &csv) {
+        QList<QStringList> rows = csvRows(csv.toUtf8());
+        for (QStringList &row : rows)
+            row.removeFirst();
+        return rows;
+    };
+    EXPECT_EQ(withoutKeys(cli.run({u"list"_s, u"items"_s}).output), withoutKeys(written));
 }
 
 TEST_P(Import, APeriodThatIsNotExpectedAndLargeFiguresNeedAYes)

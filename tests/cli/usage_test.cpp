@@ -15,7 +15,7 @@ const std::pair<QStringList, QString> usageCases[] = {
     {{u"totals"_s, u"--csv=1"_s}, u"option '--csv' takes no value"_s},
     {{u"totals"_s, u"--as-of"_s, u"26-01-01"_s}, u"option '--as-of' needs a date as YYYY-MM-DD, not '26-01-01'"_s},
     {{u"totals"_s, u"--filter"_s, u"a"_s, u"--filter"_s, u"b"_s}, u"option '--filter' is given twice"_s},
-    {{u"import"_s, u"items"_s}, u"'import' needs more: KIND FILE.csv"_s},
+    {{u"import"_s, u"items"_s}, u"'import' needs more: KIND FILE"_s},
     {{u"sync"_s, u"clients"_s}, u"'sync' knows no 'clients', but: locations, items"_s},
     {{u"totals"_s, u"x"_s}, u"'totals' does not know what to do with 'x'"_s},
     {{u"--data"_s, u"a"_s, u"--server"_s, u"b"_s, u"totals"_s}, u"--data and --server exclude each other"_s},

@@ -1,6 +1,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "controls/fields/fieldbinder.h"
+#include "controls/fields/memoedit.h"
 #include "controls/windows/fieldmark.h"
 #include "engine/records/query.h"
 #include "tests/support/screendriver.h"
@@ -22,7 +23,8 @@ const Engine::TableLayout meals{u"Meal"_s,
                                  {u"Name"_s, FieldType::Text, 8},
                                  {u"Cost"_s, FieldType::Money},
                                  {u"Served"_s, FieldType::Date},
-                                 {u"Hot"_s, FieldType::Boolean}},
+                                 {u"Hot"_s, FieldType::Boolean},
+                                 {u"Note"_s, FieldType::Memo}},
                                 {{{}, u"MealID"_s, Engine::IndexOption::Primary}}};
 
 struct FieldBinderTest : testing::Test
@@ -239,6 +241,38 @@ TEST_F(FieldBinderTest, whatIsPastedIsOneLineAndWhatIsCutOffIsSaid)
     press(Qt::Key_Tab);
     EXPECT_EQ(table->number(u"Cost"), 12.5);
     EXPECT_EQ(prompts.said, QStringList());
+}
+
+TEST_F(FieldBinderTest, aNoteTakesNoMoreThanItsFieldHowEverItComes)
+{
+    QWidget page;
+    auto *memo = bound(new MemoEdit(&page), u"memoNotes"_s, u"Note"_s);
+    FieldBinder notes(&page, guard);
+    notes.bind(*table);
+    showActive(page);
+    memo->setFocus();
+    const auto paste = [](const QString &text) {
+        QApplication::clipboard()->setText(text);
+        press(Qt::Key_V, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+    };
+    const QString refusal =
+        u"warn: 'Note' takes no more than 1,000,000 characters, in lines of no more than 20,000. What "
+        "has been put in was left out."_s;
+    const QString line = QString(99, u'x') + u'\n';
+    paste(line.repeated(10'000));
+    paste(u"y"_s);
+    EXPECT_EQ(prompts.told(), refusal);
+    EXPECT_EQ(memo->toPlainText().size(), 1'000'000);
+    type("y");
+    EXPECT_FALSE(guard.run([&] { notes.commit(); }));
+    EXPECT_EQ(prompts.told(), u"error: Note: a text of more than 1,000,000 characters is not taken"_s);
+    memo->setPlainText({});
+    paste(QString(20'001, u'x'));
+    EXPECT_EQ(prompts.told(), refusal);
+    memo->setPlainText(u"short"_s);
+    notes.commit();
+    EXPECT_EQ(table->text(u"Note"), u"short"_s);
 }
 
 TEST_F(FieldBinderTest, whatCanOnlyBeReadHasNoBoxButTheCursor)

@@ -215,6 +215,16 @@ TEST_F(LineGridTest, helpTakesNothingOfWhatIsTyped)
     EXPECT_EQ(entry(), u"x"_s) << "to be mended";
 }
 
+TEST_F(LineGridTest, linesComeAndGoWhileACellIsTypedInto)
+{
+    show();
+    type("7<Ctrl+Ins>");
+    EXPECT_EQ(cursor(), u"2,0"_s);
+    EXPECT_EQ(store.found(u"SELECT Quantity FROM Line"_s), u"7 2") << "what has been typed is taken first";
+    type("<Esc>8<Ctrl+Del>");
+    EXPECT_EQ(rows(), 1);
+}
+
 TEST_F(LineGridTest, fixedLinesAndColumnsStay)
 {
     show({.fixed = {u"ItemNo"_s}, .fixedLines = true});

@@ -44,33 +44,6 @@ struct ListScreenTest : ScreenTest
 
 } // namespace
 
-TEST_F(ListScreenTest, drawsWhatIsNegativeDoneOrOpen)
-{
-    kitchen.execute(u"UPDATE Item SET UnitPrice = -3 WHERE ItemID = 2"_s);
-    kitchen.execute(u"UPDATE Item SET Suspended = true WHERE ItemID = 2"_s);
-    ItemList &items = open();
-    type("<End>"); // a tinted row shows nothing of these
-    const ListGrid &grid = items.list();
-    const QImage drawn = grid.viewport()->grab().toImage();
-    const auto has = [&](int row, int column, Look::Role role) {
-        const QRect cell = grid.visualRect(grid.model()->index(row, column));
-        for (int y = cell.top(); y < cell.bottom(); ++y) {
-            for (int x = cell.left(); x < cell.right(); ++x) {
-                if (drawn.pixelColor(x, y) == grid.look().colour(role))
-                    return true;
-            }
-        }
-        return false;
-    };
-    EXPECT_TRUE(has(0, 2, Look::Role::Text));
-    EXPECT_FALSE(has(0, 2, Look::Role::Negative));
-    EXPECT_TRUE(has(1, 2, Look::Role::Negative));
-    EXPECT_TRUE(has(0, 3, Look::Role::NoticeGround));
-    EXPECT_FALSE(has(1, 3, Look::Role::NoticeGround));
-    EXPECT_TRUE(has(1, 3, Look::Role::Positive));
-    EXPECT_EQ(grid.model()->index(1, 3).data(), u"Yes"_s) << "as it is copied and read out";
-}
-
 TEST_F(ListScreenTest, statusLineAndHintSayWhatThereIs)
 {
     ItemList &items = open();

@@ -1,5 +1,6 @@
 #include "data/datamodule.h"
 
+#include "base/dataversion.h"
 #include "data/layouts.h"
 #include "engine/records/query.h"
 #include "engine/store/lockmanager.h"
@@ -9,6 +10,7 @@
 #include "tests/support/spokenprompts.h"
 #include "tests/support/theirtable.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 
 using namespace Qt::StringLiterals;
@@ -60,7 +62,8 @@ TEST_P(DataModule, FirstStartMakesEveryTableAndItsFirstRows)
     EXPECT_EQ(store.found(u"SELECT CurrencyID, ExchangeRate FROM Currency"_s), u"1|1");
     for (const Engine::TableLayout *layout : Layouts::applied()) {
         const bool seeded =
-            QStringList{u"Company"_s, u"Warehse"_s, u"Bank"_s, u"Currency"_s}.contains(layout->name);
+            QStringList{u"Company"_s, u"Warehse"_s, u"Bank"_s, u"Currency"_s, u"IDataVersion"_s}.contains(
+                layout->name);
         EXPECT_EQ(stored(u"SELECT count(*) FROM "_s + layout->name).toInt(), seeded ? 1 : 0);
     }
     EXPECT_EQ(dataModule->cMode(), GetParam() == Store::Local ? u"F"_s : u"C"_s);
@@ -146,6 +149,46 @@ TEST_P(DataModule, TablesOfAnOlderLayoutAreBroughtUpToDateWithTheirRows)
         EXPECT_FALSE(store.database().differs(*layout)) << layout->name.toStdString();
     EXPECT_EQ(stored(u"SELECT VendorName FROM Vendor WHERE VendorID = 7"_s).toText(), QString(40, u'v'));
     EXPECT_EQ(stored(u"SELECT Quantity FROM IHist WHERE ItemID = 5 AND UsageID IS NULL"_s).toDouble(), 2.5);
+}
+
+TEST_P(DataModule, DataOfANewerReleaseAreLeftAsTheyAre)
+{
+    makeHost();
+    start();
+    store.execute(u"ALTER TABLE Bank ADD COLUMN Futurity integer; UPDATE Bank SET Futurity = 42; "
+                  "UPDATE IDataVersion SET DataVersion = DataVersion + 1, ProgramVersion = '9.8'; "
+                  "UPDATE Config SET Organizatn = 'Another'"_s);
+    bool prepared = false;
+    DataModuleOptions options;
+    options.createDatabase = true;
+    options.prepareHost = [&](Engine::Database &) { prepared = true; };
+    EXPECT_TRUE(fails([&] { start(std::move(options)); }, ErrorCode::CannotOpen, u"newer release, 9.8"_s));
+    EXPECT_FALSE(prepared);
+    EXPECT_EQ(store.found(u"SELECT Futurity, CompanyName, ProgramVersion FROM Bank, Company, IDataVersion"_s),
+              u"42|Riverside Meals|9.8");
+
+    // An older one's are taken, and are this one's from then on.
+    store.execute(u"UPDATE IDataVersion SET DataVersion = 0"_s);
+    start();
+    EXPECT_EQ(stored(u"SELECT DataVersion FROM IDataVersion"_s).toInt(), dataVersion);
+    EXPECT_EQ(stored(u"SELECT ProgramVersion FROM IDataVersion"_s).toText(), QStringLiteral(TALLYMERE_VERSION));
+}
+
+// What tells an older release that it must keep its hands off is a number that somebody has to raise.
+TEST(Layouts, areThoseOfTheDataVersion)
+{
+    QString all;
+    for (const Engine::TableLayout *layout : Layouts::applied()) {
+        all += u"%1:"_s.arg(layout->name);
+        for (const Engine::FieldDef &field : layout->fields)
+            all += u"%1 %2 %3;"_s.arg(field.name).arg(static_cast<int>(field.type)).arg(field.size);
+        for (const Engine::IndexDef &index : layout->indexes)
+            all += u"%1 %2 %3;"_s.arg(index.name, index.fields).arg(index.options.toInt());
+    }
+    EXPECT_EQ(QString::fromLatin1(QCryptographicHash::hash(all.toUtf8(), QCryptographicHash::Md5).toHex()),
+              u"7260a2afed59c9e1765155d6790fe92d"_s)
+        << "The layouts have changed. Raise dataVersion (base/dataversion.h) if a release has been made with the "
+           "last ones, and note the new sum here.";
 }
 
 TEST_P(DataModule, TableInUseThatMustChangeStopsTheStart)

@@ -2,6 +2,10 @@
 
 #include "engine/filter/filterexpression.h"
 #include "tests/engine/recordfixture.h"
+#include "tests/support/chance.h"
+#include "tests/support/otheruser.h"
+
+#include <list>
 
 using namespace Engine;
 using namespace Qt::StringLiterals;
@@ -130,4 +134,119 @@ TEST_P(RecordTest, ContainsFindsTextInWhateverLetterCase)
     documents.setFilter(u"VendorName CONTAINS 'söhne'"_s);
     documents.setFiltered(true);
     EXPECT_EQ(names(documents, u"VendorID"_s), u"1"_s) << "what is looked up, too";
+}
+
+namespace {
+
+// Conditions on the vendors, of all that an expression may hold, with figures at the ends of what a field takes.
+class DrawnExpression
+{
+public:
+    explicit DrawnExpression(unsigned seed)
+        : m_random(seed)
+    {
+    }
+
+    QString condition(int depth)
+    {
+        switch (depth > 0 ? draw(8) : 3 + draw(5)) {
+        case 0:
+            return u"(%1 AND %2)"_s.arg(condition(depth - 1), condition(depth - 1));
+        case 1:
+            return u"(%1 OR %2)"_s.arg(condition(depth - 1), condition(depth - 1));
+        case 2:
+            return u"NOT (%1)"_s.arg(condition(depth - 1));
+        case 3:
+            return number(3) + (draw(2) ? u" IS NULL"_s : u" IS NOT NULL"_s);
+        case 4:
+            return u"%1 %2 %3"_s.arg(text(), comparison(), text());
+        case 5:
+            return u"%1 %2 %3"_s.arg(truth(), comparison(), truth());
+        case 6:
+            return text() + of({u" LIKE "_s, u" CONTAINS "_s})
+                + of({u"'%e%'"_s, u"'_'"_s, u"''"_s, u"'%'"_s, u"'E'"_s, u"'[%'"_s});
+        default:
+            return u"%1 %2 %3"_s.arg(number(4), comparison(), number(4));
+        }
+    }
+
+private:
+    int draw(int below) { return static_cast<int>(m_random() % static_cast<unsigned>(below)); }
+    QString of(const QStringList &choice) { return choice[draw(static_cast<int>(choice.size()))]; }
+    QString comparison() { return of({u"="_s, u"<>"_s, u"<"_s, u">"_s, u"<="_s, u">="_s}); }
+    QString text() { return of({u"VendorName"_s, u"VendorNo"_s, u"Notes"_s, u"'Bell'"_s, u"''"_s, u"'Äpfel'"_s}); }
+    QString truth() { return of({u"Suspended"_s, u"TRUE"_s, u"FALSE"_s, u"1"_s, u"Since"_s, u"'2004-01-01'"_s}); }
+    QString number(int depth)
+    {
+        switch (depth > 0 ? draw(5) : 3 + draw(2)) {
+        case 0:
+        case 1:
+            return u"(%1 %2 %3)"_s.arg(number(depth - 1), of({u"+"_s, u"-"_s, u"*"_s, u"/"_s}), number(depth - 1));
+        case 2:
+            return u"-"_s + number(depth - 1);
+        case 3:
+            return of({u"VendorID"_s, u"Balance"_s, u"Discount"_s, u"Days"_s});
+        default:
+            return of({u"0"_s, u"1"_s, u"3"_s, u"-7"_s, u"0.1"_s, u"1e-320"_s, u"1e-200"_s, u"1e200"_s,
+                       u"1.7e308"_s, u"9007199254740993"_s, u"99999999999999999999"_s});
+        }
+    }
+
+    std::mt19937 m_random;
+};
+
+// The rows that it lets through, or that it is refused.
+QString rowsBy(Table &vendors, const QString &expression)
+{
+    try {
+        vendors.setFilter(expression);
+        QStringList keys;
+        for (int i = 0; i < vendors.recordCount(); ++i)
+            keys.append(vendors.valueAt(i, vendors.fieldIndex(u"VendorID")).toText());
+        return keys.join(u' ');
+    } catch (const EngineError &error) {
+        return error.code() == ErrorCode::BadExpression ? u"refused"_s : error.text();
+    }
+}
+
+} // namespace
+
+TEST(FiltersOfBothStores, LetTheSameRowsThrough)
+{
+    const unsigned seed = chanceSeed();
+    SCOPED_TRACE(testing::Message() << "TALLYMERE_TEST_SEED=" << seed);
+    TestStore stores[] = {TestStore(Store::Local), TestStore(Store::Remote)};
+    std::list<Table> vendors;
+    for (TestStore &store : stores) {
+        store.database().createTable(RecordTest::vendor());
+        store.execute(
+            u"INSERT INTO Vendor (VendorID, VendorNo, VendorName, Balance, Discount, Suspended, Since, Days, "
+            "Notes) VALUES (0, '', 'e', 0, 1e308, false, '2004-01-01', 0, 'Äpfel'), "
+            "(-2147483648, '1', NULL, -1e-308, 1e-200, true, '0001-01-01', -32768, NULL), "
+            "(2147483647, 'E', 'Bell', 0.1, NULL, NULL, '9999-12-31', 32767, '[e'), "
+            "(3, NULL, 'é', NULL, -1e200, true, NULL, NULL, ''), (7, 'x', '%', 3, 0.3, false, NULL, 3, 'e')"_s);
+        Table &table = vendors.emplace_back(store.database(), u"Vendor"_s);
+        table.open();
+        table.setFiltered(true);
+    }
+    DrawnExpression drawn(seed);
+    int told = 0;
+    for (int i = 0; i < timesByHand(1500); ++i) {
+        const QString expression = drawn.condition(3);
+        const QString local = rowsBy(vendors.front(), expression);
+        EXPECT_EQ(local, rowsBy(vendors.back(), expression)) << expression.toStdString();
+        told += local == "refused"_L1 ? 0 : 1;
+    }
+    EXPECT_GT(told, 200) << "most of them mean something";
+    // Beside what is drawn: as deep and as long as it may be, and longer than SQLite takes.
+    for (const auto &[expression, isTaken] :
+         {std::pair(u"Balance"_s + u" * 1.5"_s.repeated(19) + u" < 5"_s, true),
+          std::pair(u"Notes LIKE '%"_s + QString(9'998, u'*') + u"%'"_s, true),
+          std::pair(u"Notes LIKE '"_s + QString(100'000, u'a') + u"'"_s, false),
+          std::pair(u"Notes CONTAINS '"_s + QString(100, u'a') + u"'"_s, true),
+          std::pair(u"Notes CONTAINS '"_s + QString(100'000, u'a') + u"'"_s, false)}) {
+        const QString local = rowsBy(vendors.front(), expression);
+        EXPECT_EQ(local, rowsBy(vendors.back(), expression)) << expression.left(40).toStdString();
+        EXPECT_EQ(local != "refused"_L1, isTaken) << expression.left(40).toStdString();
+    }
 }

@@ -329,3 +329,46 @@ TEST_P(RecordTest, AskingForTheFirstRowOrAKeyDoesNotReadTheList)
     EXPECT_EQ(vendors.recordCount(), 6);
     EXPECT_EQ(vendors.recordIndex(), 3);
 }
+
+// Names that repeat in either case, and none; days that many share.
+TEST_P(RecordTest, ALongListIsReadInPartsAndIsTheSameAsAWhole)
+{
+    constexpr int rows = 20'000;
+    const QString row = u"SELECT i, CASE WHEN i % 7 = 0 THEN NULL WHEN i % 2 = 0 THEN 'Name ' || i % 500 "
+                        "ELSE 'nAME ' || i % 500 END, CASE WHEN i % 11 = 0 THEN NULL ELSE %1 END FROM "_s;
+    store.execute(u"INSERT INTO Vendor (VendorID, VendorName, Since) "_s
+                  + (store.store() == Store::Local
+                         ? "WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i+1 FROM n WHERE i<20000) "_L1
+                             + row.arg(u"date('2020-01-01', '+' || i % 90 || ' days')"_s) + u'n'
+                         : row.arg(u"date '2020-01-01' + i % 90"_s) + "generate_series(1,20000) i"_L1));
+    for (const auto &order : {u""_s, u"VENDORNAME1"_s, u"SINCE"_s}) {
+        SCOPED_TRACE(qPrintable(order));
+        Table whole(database(), u"Vendor"_s);
+        TableReader list(database(), u"Vendor"_s);
+        for (TableReader *set : {static_cast<TableReader *>(&whole), &list}) {
+            set->setIndex(order);
+            set->open();
+            ASSERT_EQ(set->recordCount(), rows);
+        }
+        // What comes later is not in the list, wherever it would stand.
+        store.execute(u"INSERT INTO Vendor (VendorID, VendorName, Since) VALUES (20001, 'Name 1', '2020-01-02')"_s);
+        for (int index = 0; index < rows; ++index)
+            ASSERT_EQ(list.keyAt(index), whole.keyAt(index)) << index;
+        EXPECT_EQ(list.rowAt(12'345), whole.rowAt(12'345));
+        EXPECT_EQ(list.indexOf({20'001}), -1);
+        list.refresh(); // no part is in hand
+        ASSERT_EQ(list.recordCount(), rows + 1);
+        whole.refresh();
+        for (const qint64 key : {1, 7, 11, 77, 4'321, 19'999, 20'001})
+            EXPECT_EQ(list.indexOf({key}), whole.indexOf({key})) << key;
+
+        ASSERT_TRUE(list.moveToKey({4'321}));
+        const int index = list.recordIndex();
+        store.execute(u"DELETE FROM Vendor WHERE VendorID = 20001 OR VendorID = 4321"_s);
+        list.refresh();
+        EXPECT_EQ(list.recordCount(), rows - 1);
+        EXPECT_EQ(list.recordIndex(), std::min(index, rows - 2)) << "what took its place";
+        store.execute(
+            u"INSERT INTO Vendor (VendorID, VendorName, Since) VALUES (4321, 'nAME 321', '2020-01-02')"_s);
+    }
+}

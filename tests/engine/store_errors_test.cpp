@@ -4,8 +4,10 @@
 #include "engine/store/platform.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/files.h"
+#include "tests/support/relay.h"
 
 #include <QDir>
+#include <QScopeGuard>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -22,7 +24,7 @@ TEST(LocalFailures, WhatCannotBeOpenedIsNamed)
     const std::tuple<QString, ErrorCode, QString> cases[] = {
         {QString(), ErrorCode::CannotOpen, u"No database folder"_s},
         {folder.filePath(u"missing"_s), ErrorCode::CannotOpen, folder.filePath(u"missing"_s)},
-        {folder.path(), ErrorCode::CannotOpen, u"tallymere init"_s},
+        {folder.path(), ErrorCode::CannotOpen, u"make a new company"_s},
         {folder.filePath(u"asfolder"_s), ErrorCode::CannotOpen, u"Corvane.sqlite in "_s + folder.path()},
         {folder.filePath(u"text"_s), ErrorCode::NotADatabase, u"Corvane.sqlite in "_s + folder.path()},
     };
@@ -100,6 +102,43 @@ TEST(RemoteFailures, WhatCannotBeReachedIsNamed)
         QString message;
         EXPECT_EQ(errorOf([&] { user.database.connection(); }, &message), code) << message.toStdString();
         EXPECT_TRUE(message.contains(named) && !message.contains(u"secret"_s)) << message.toStdString();
+    }
+}
+
+TEST(RemoteFailures, AnotherAccountIsChosenByTheClientLibrarysOwnMeans)
+{
+    TestStore store(Store::Remote);
+    const QTemporaryDir folder;
+    const auto file = [&folder](const char *name, const QByteArray &text) {
+        QFile made(folder.filePath(QString::fromLatin1(name)));
+        EXPECT_TRUE(made.open(QIODevice::WriteOnly) && made.write(text) == text.size());
+        made.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        return made.fileName().toUtf8();
+    };
+    const QByteArray services = file("services",
+                                     "[right]\nuser=postgres\npassword=zorvadin\n"
+                                     "[wrong]\nuser=postgres\npassword=secret\n");
+    const QByteArray passwords = file("passwords", "*:*:*:postgres:zorvadin\n");
+    using Variables = std::vector<std::pair<const char *, QByteArray>>;
+    const std::pair<Variables, bool> cases[] = {
+        {{{"PGSERVICEFILE", services}, {"PGSERVICE", "right"}}, true},
+        {{{"PGSERVICEFILE", services}, {"PGSERVICE", "wrong"}}, false},
+        {{{"PGUSER", "postgres"}, {"PGPASSFILE", passwords}}, true},
+        {{{"PGUSER", "postgres"}, {"PGPASSWORD", "secret"}}, false},
+    };
+    for (const auto &[variables, isRight] : cases) {
+        SCOPED_TRACE(variables.back().second.toStdString());
+        for (const auto &[name, value] : variables)
+            qputenv(name, value);
+        const auto other = store.anotherUser();
+        QString message;
+        const auto error =
+            errorOf([&] { EXPECT_EQ(rowsOf(other->database, u"SELECT current_user"_s).join(u' '), u"postgres"); },
+                    &message);
+        EXPECT_EQ(error, isRight ? std::nullopt : std::optional(ErrorCode::AccessDenied)) << message.toStdString();
+        EXPECT_FALSE(message.contains(u"secret"_s)) << message.toStdString();
+        for (const auto &[name, value] : variables)
+            qunsetenv(name);
     }
 }
 
@@ -216,8 +255,12 @@ TEST_F(ConnectionLostTest, TheNextUseConnectsAgain)
     EXPECT_EQ(count(), 0);
     ASSERT_TRUE(connection.locks().tryOpenShared(u"T"_s));
     cut();
-    EXPECT_TRUE(fails([&] { count(); }, ErrorCode::ConnectionLost, u"127.0.0.1"_s));
+    EXPECT_TRUE(connection.hasEnded());
     EXPECT_EQ(count(), 0) << "with the statement prepared before";
+    cut();
+    EXPECT_TRUE(
+        fails([&] { store.execute(u"INSERT INTO T VALUES (1)"_s); }, ErrorCode::ConnectionLost, u"127.0.0.1"_s));
+    EXPECT_EQ(count(), 0);
     const auto other = store.anotherUser();
     EXPECT_FALSE(other->database.connection().locks().tryOpenExclusive(u"T"_s)) << "the table is open as before";
 }
@@ -285,9 +328,9 @@ TEST_F(ConnectionLostTest, AnEditIsSavedUnlessSomebodyHasBeenAtTheRecord)
         two.edit();
         one.set(u"B", one.integer(u"B") + 1);
         cut();
-        EXPECT_EQ(errorOf([&] { one.post(); }), ErrorCode::ConnectionLost);
     };
     beginBoth();
+    EXPECT_EQ(rowsOf(store.database(), u"SELECT 1"_s).size(), 1); // connects again, and says nothing of it
     one.post(); // also with the other one still in edit
     EXPECT_FALSE(holds({2}));
     two.set(u"B", 9);
@@ -306,6 +349,35 @@ TEST_F(ConnectionLostTest, AnEditIsSavedUnlessSomebodyHasBeenAtTheRecord)
     annas("DELETE FROM R WHERE ID = 1");
     EXPECT_EQ(errorOf([&] { one.post(); }), ErrorCode::RecordGone);
     EXPECT_EQ(store.found(u"SELECT ID, B FROM R"_s), u"2|9");
+}
+
+// The answer to a commit is lost on its way, or the commit.
+TEST_F(ConnectionLostTest, ACommitWhoseAnswerIsLostIsLookedUp)
+{
+    const QByteArray port = qgetenv("PGPORT");
+    Relay relay(port.toInt());
+    qputenv("PGPORT", QByteArray::number(relay.port()));
+    qputenv("PGSSLMODE", "disable");
+    const auto back = qScopeGuard([&] {
+        qputenv("PGPORT", port);
+        qunsetenv("PGSSLMODE");
+    });
+    const auto anna = store.anotherUser(u"anna"_s);
+    qputenv("PGPORT", QByteArray::number(relay.port()));
+    anna->session.answerWait = std::chrono::seconds(1);
+    Connection &annas = anna->database.connection();
+    const auto insertion = [&](Relay::Then then, const QString &word) {
+        relay.when(word.toUtf8(), then);
+        anna->database.change([&] { annas.execute(u"INSERT INTO T VALUES (7)"_s); });
+    };
+    EXPECT_EQ(errorOf([&] { insertion(Relay::Then::LoseTheAnswer, u"COMMIT"_s); }), std::nullopt);
+    EXPECT_EQ(count(), 1) << "once";
+    EXPECT_EQ(errorOf([&] { insertion(Relay::Then::LoseTheWord, u"COMMIT"_s); }), ErrorCode::ConnectionLost);
+    EXPECT_EQ(errorOf([&] { insertion(Relay::Then::LoseTheAnswer, u"INSERT INTO T"_s); }),
+              ErrorCode::ConnectionLost);
+    EXPECT_EQ(count(), 1);
+    EXPECT_EQ(errorOf([&] { insertion(Relay::Then::LoseTheAnswerAndStop, u"COMMIT"_s); }), ErrorCode::AnswerLost);
+    EXPECT_EQ(count(), 2);
 }
 
 TEST_F(ConnectionLostTest, ReadingStopsWithAnError)

@@ -2,6 +2,9 @@
 #include "tests/engine/storetest.h"
 #include "tests/support/otheruser.h"
 
+#include <fcntl.h>
+#include <QCoreApplication>
+#include <QFile>
 #include <QSysInfo>
 #include <thread>
 
@@ -163,6 +166,25 @@ TEST_P(LocksTest, TheHolderIsNamedAndSinceWhen)
     EXPECT_TRUE(mine.ownerOf(u"Tax"_s));
 }
 
+// Whoever may read the lock file can lock it, and no note says so.
+TEST_P(LocksTest, AStrangerWhoLocksTheFileIsNamed)
+{
+    if (GetParam() == Store::Remote)
+        GTEST_SKIP() << "there is no file";
+    QFile file(store.directory() + u"/Corvane.lck"_s);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    struct flock whole = {};
+    whole.l_type = F_RDLCK;
+    ASSERT_EQ(fcntl(file.handle(), F_OFD_SETLK, &whole), 0);
+    EXPECT_FALSE(mine.tryLockTable(u"Item"_s));
+    const QString name = u" (process %1) on "_s.arg(QCoreApplication::applicationPid());
+    EXPECT_TRUE(mine.holderOf(u"Item"_s).contains(name)) << mine.holderOf(u"Item"_s).toStdString();
+    EXPECT_TRUE(mine.holderOf(u"Item"_s, {5}).contains(name));
+    file.close();
+    EXPECT_TRUE(mine.tryLockTable(u"Item"_s));
+    mine.unlockTable(u"Item"_s);
+}
+
 TEST_P(LocksTest, AProgramKilledWithinATransactionLeavesNothingBehind)
 {
     store.execute(u"CREATE TABLE T (a integer)"_s);
@@ -201,6 +223,31 @@ TEST_P(LocksTest, LocksSurviveARollbackAndAreGivenBackAfterAFailure)
     connection.rollback();
     EXPECT_FALSE(annas.tryLockRecord(u"T"_s, {1}));
     EXPECT_TRUE(annas.tryLockRecord(u"T"_s, {2}));
+}
+
+// Others would take it for free, and read what stood there before.
+TEST_P(LocksTest, WhatIsGivenBackInATransactionStaysLockedUntilItsEnd)
+{
+    for (const bool commits : {true, false}) {
+        SCOPED_TRACE(commits);
+        connection.begin();
+        ASSERT_TRUE(mine.tryLockRecord(u"T"_s, {1}));
+        ASSERT_TRUE(mine.tryLockTable(u"U"_s));
+        mine.unlockRecord(u"T"_s, {1});
+        mine.unlockTable(u"U"_s);
+        EXPECT_FALSE(mine.holdsRecord(u"T"_s, {1}) || mine.holdsTable(u"U"_s));
+        EXPECT_FALSE(annas.tryLockRecord(u"T"_s, {1}) || annas.tryLockTable(u"T"_s));
+        EXPECT_FALSE(annas.tryLockRecord(u"U"_s, {1}));
+        EXPECT_TRUE(mine.tryLockRecord(u"T"_s, {1}) && mine.tryLockTable(u"U"_s)) << "it may be taken again";
+        mine.unlockRecord(u"T"_s, {1});
+        commits ? connection.commit() : connection.rollback();
+        EXPECT_TRUE(annas.tryLockTable(u"T"_s));
+        EXPECT_FALSE(annas.tryLockTable(u"U"_s)) << "it was taken again";
+        annas.unlockTable(u"T"_s);
+        mine.unlockTable(u"U"_s);
+        EXPECT_TRUE(annas.tryLockTable(u"U"_s));
+        annas.unlockTable(u"U"_s);
+    }
 }
 
 ON_BOTH_STORES(LocksTest);

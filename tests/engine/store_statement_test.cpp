@@ -1,3 +1,4 @@
+#include "engine/store/batchedrun.h"
 #include "tests/engine/storetest.h"
 
 #include <limits>
@@ -28,6 +29,41 @@ struct StatementTest : StoreTest
 };
 
 } // namespace
+
+// Read once, whatever others write; but not what the run itself may write to.
+TEST_P(StatementTest, ARunKeepsWhatItHasRead)
+{
+    database.createTable({u"Other"_s, {{u"OtherID"_s, FieldType::Integer}, {u"Name"_s, FieldType::Text, 9}}, {}});
+    insert(1, u"one"_s);
+    connection.execute(u"INSERT INTO Other (OtherID, Name) VALUES (1, 'one')"_s);
+    const auto anna = store.anotherUser();
+    const auto read = [&](const QString &sql, qint64 key) {
+        const StatementPtr statement = connection.prepare(sql);
+        statement->bindInt(0, key);
+        QStringList row;
+        while (statement->next())
+            row << statement->textAt(0) << QString::number(statement->intAt(1));
+        return row.join(u' ');
+    };
+    const QString sample = u"SELECT Name, SampleID FROM Sample WHERE SampleID = ?"_s;
+    const QString both = u"SELECT S.Name, O.OtherID FROM Sample S JOIN Other O ON O.OtherID = S.SampleID WHERE "
+                         "S.SampleID = ?"_s;
+    const QString list =
+        u"SELECT S.Name, O.OtherID FROM Sample S, Other O WHERE S.SampleID = ? AND O.Name = S.Name"_s;
+    {
+        const BatchedRun run(database, {u"Sample"_s});
+        EXPECT_EQ(read(sample, 1), u"one 1"_s);
+        EXPECT_EQ(read(both, 1), u"one 1"_s);
+        EXPECT_EQ(read(list, 1), u"one 1"_s);
+        EXPECT_EQ(read(sample, 2), QString());
+        anna->database.connection().execute(u"UPDATE Sample SET Name = 'uno'; UPDATE Other SET OtherID = 7 "
+                                            "WHERE OtherID = 1"_s);
+        EXPECT_EQ(read(sample, 1), u"one 1"_s);
+        EXPECT_EQ(read(both, 1), QString());
+        EXPECT_EQ(read(list, 1), QString());
+    }
+    EXPECT_EQ(read(sample, 1), u"uno 1"_s);
+}
 
 TEST_P(StatementTest, ValuesComeBackAsTheyWere)
 {

@@ -17,14 +17,7 @@ struct AccessibleTest : testing::Test
     AccessibleTest()
     {
         QAccessible::setActive(true);
-        over.data.databaseTallymere().connection().execute(uR"(
-            INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (7, 'Cellar');
-            INSERT INTO Vendor (VendorID, VendorNo, VendorName, CurrencyID, Suspended)
-                VALUES (1, 'V1', 'Morning Star', 1, false), (2, 'V2', 'North Mill', 1, false);
-            INSERT INTO ItemType (ItemTypeID, TypeName, Inventory) VALUES (50, 'Food', true);
-            INSERT INTO Item (ItemID, ItemNo, ItemDescription, ItemTypeID, Suspended)
-                VALUES (1, 'A10', 'Apples', 50, false), (2, 'B1', 'Bread', 50, false);
-        )"_s);
+        over.fill();
     }
     ~AccessibleTest() override { QAccessible::setActive(false); }
 

@@ -4,6 +4,7 @@
 #include "frame/finder/finderbox.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/helpwindow.h"
+#include "master/barcodes.h"
 #include "tests/frame/hoststub.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
@@ -114,8 +115,18 @@ TEST_F(FinderTest, FindsWhateverItIsByNumberOrByAnyWords)
         // One is called just so; of both kinds.
         EXPECT_EQ(found(u"1010"_s),
                   (QStringList{u"Vendors"_s, u"Ödlund"_s, u"Inventory Receipts"_s, u"Receipt 1010"_s}));
+        addBarcode(form.dataModule()->databaseTallymere(), 2, u"4006381333931"_s);
+        EXPECT_EQ(found(u"4006381333931"_s), (QStringList{u"Items"_s, u"Ice cream"_s}));
         EXPECT_EQ(found(u"receipt 10"_s), (QStringList{u"Inventory Receipts"_s, u"Receipt 1010"_s}));
         EXPECT_EQ(found(u"adjustment 6"_s).mid(0, 1), QStringList{u"Inventory Adjustments"_s});
+        Engine::Connection &store = form.dataModule()->databaseTallymere().connection();
+        store.execute(u"INSERT INTO IReceipt (ReceiptID, ReceiptNo) VALUES (7, '1');"
+                      "INSERT INTO IAdjust (AdjustmentID) VALUES (60), (6123), (16), (2000000000)"_s);
+        EXPECT_EQ(found(u"receipt 1"_s), (QStringList{u"Inventory Receipts"_s, u"Receipt 1"_s, u"Receipt 1010"_s}));
+        EXPECT_EQ(found(u"RECEIPTS 1"_s).mid(1, 1), QStringList{u"Receipt 1"_s});
+        EXPECT_EQ(found(u"usage 20"_s), (QStringList{u"Inventory Usage"_s, u"Inventory Usage 2020"_s}));
+        EXPECT_EQ(found(u"adjustment 6"_s).size(), 4) << "6, 60 and 6123, but not 16";
+        EXPECT_EQ(found(u"adjustment 2000000000"_s).size(), 2);
         EXPECT_EQ(found(u"synchronize loc"_s).mid(0, 2), (QStringList{u"Commands"_s, u"Synchronize Locations"_s}));
         EXPECT_TRUE(found(u"filter receipts"_s).contains(u"Inventory Receipts Filter"_s))
             << "a section of the manual";
@@ -133,10 +144,15 @@ TEST_F(FinderTest, EnterOpensWhatIsFoundAndTheLastComeBack)
         EXPECT_EQ(opened(u"vendor"_s), u"frmVendors"_s) << "the command";
         EXPECT_EQ(opened(u"receipt 1010"_s), u"frmInvReceipt 4"_s);
         EXPECT_EQ(opened(u"ödla"_s), u"frmUsage 5"_s);
-        EXPECT_EQ(opened(u"view totals"_s), u"frmInvTotals"_s);
+        EXPECT_EQ(opened(u"inventory totals"_s), u"frmInvTotals"_s) << "by its window's title";
         EXPECT_EQ(opened(u"fraîche"_s), u"frmItemInv 1"_s);
         EXPECT_EQ(found(QString()).mid(1, 3),
                   (QStringList{u"Crème fraîche"_s, u"View Totals"_s, u"Inventory Usage 2020"_s}));
+        // They are kept, but for those that are gone.
+        form.dataModule()->databaseTallymere().connection().execute(u"DELETE FROM IUsage"_s);
+        delete box();
+        EXPECT_EQ(found(QString()).mid(1),
+                  (QStringList{u"Crème fraîche"_s, u"View Totals"_s, u"Receipt 1010"_s, u"Edit Vendors"_s}));
 
         openBox();
         type(u"fraîche"_s);
@@ -148,7 +164,14 @@ TEST_F(FinderTest, EnterOpensWhatIsFoundAndTheLastComeBack)
         press(Qt::Key_Return);
         const auto *help = form.findChild<HelpWindow *>();
         ASSERT_TRUE(help && help->isVisible());
-        EXPECT_TRUE(child<QTextBrowser>(*help, "browser")->source().path().endsWith("monthend.html"_L1));
+        const auto *page = child<QTextBrowser>(*help, "browser");
+        EXPECT_TRUE(page->source().path().endsWith("monthend.html"_L1));
+        EXPECT_TRUE(comesTrue([page] { return page->hasFocus(); }));
+
+        openBox();
+        type(u"that nobody knows"_s);
+        press(Qt::Key_Return);
+        EXPECT_TRUE(page->source().toString().endsWith("scanner.html#unknown"_L1)) << "a section of a page";
     });
     EXPECT_EQ(company.prompts.said, QStringList());
 }

@@ -3,9 +3,11 @@
 #include "frame/commands.h"
 #include "frame/forhosts/reportholder.h"
 #include "frame/frmtallymeresystem.h"
+#include "frame/serverlabel.h"
 #include "reports/reportlist.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
+#include "tests/support/teststore.h"
 #include "transactions/documentkinds.h"
 #include "transactions/screens/documentscreens.h"
 
@@ -66,10 +68,17 @@ TEST_F(MainFormTest, CommandsAreEnabledAsScreensExist)
     EXPECT_TRUE(has(post->toolTip(), u"not available"_s));
 }
 
-TEST_F(MainFormTest, ProductLacksExactlyTheScreensThatAreNotBuilt)
+TEST(ServerLabelTest, TellsThatTheServerIsGoneAndConnectsAgainByItself)
 {
-    screens = productScreens();
-    EXPECT_EQ(actions(false), QStringList{u"ActionPrintPayments"_s});
+    TestStore store(Store::Remote);
+    ServerLabel label(nullptr);
+    label.follow(store.database());
+    EXPECT_TRUE(label.isHidden());
+    store.anotherUser(u"keeper"_s)->endOtherSessions(u"maria"_s);
+    EXPECT_TRUE(comesTrue([&] { return has(label.text(), u"No connection"_s); }));
+    EXPECT_TRUE(comesTrue([&] { return has(label.text(), u"again at"_s); }));
+    EXPECT_FALSE(store.database().connection().hasEnded());
+    EXPECT_FALSE(label.isHidden());
 }
 
 // The same sign stands for the same, wherever it is offered.

@@ -308,7 +308,7 @@ TEST_F(OpeningTest, TodayTellsWhatWaitsEachTimeTheWindowComesToTheFrontAndOpensI
             backup.setFigure({}, FigureButton::Tone::Usual, {}); // the last one
             QEvent front(QEvent::WindowActivate);
             QApplication::sendEvent(&form, &front);
-            EXPECT_TRUE(QTest::qWaitFor([&] { return !backup.figure().isEmpty(); }));
+            EXPECT_TRUE(comesTrue([&] { return !backup.figure().isEmpty(); }));
         };
         readAgain();
         EXPECT_EQ(usage.figure(), u"0"_s);

@@ -81,3 +81,18 @@ TEST_F(SettingsScreenTest, NothingIsWrittenBeforeOkAndAFailureIsSaid)
     press(u"BitBtnOK"_s);
     EXPECT_EQ(prompts.said.value(0), u"error: Error in Opening Corvane Key"_s);
 }
+
+TEST_F(SettingsScreenTest, TheLanguageIsKeptByItsCodeAndSaidToComeLater)
+{
+    const QStringList said{u"inform: The language changes when the program is started next."_s};
+    screen.show();
+    EXPECT_EQ(child<QComboBox>(u"cboLanguage"_s)->currentIndex(), 0);
+    child<QComboBox>(u"cboLanguage"_s)->setCurrentText(u"Deutsch"_s);
+    press(u"BitBtnOK"_s);
+    EXPECT_EQ(settings.value(Settings::languageSection, Settings::ChosenLanguage), u"de"_s);
+    EXPECT_EQ(prompts.said, said);
+    screen.show();
+    EXPECT_EQ(child<QComboBox>(u"cboLanguage"_s)->currentText(), u"Deutsch"_s);
+    press(u"BitBtnOK"_s);
+    EXPECT_EQ(prompts.said, said);
+}

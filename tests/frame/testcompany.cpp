@@ -1,6 +1,7 @@
 #include "tests/frame/testcompany.h"
 
 #include "controls/screens/recordlistscreen.h"
+#include "engine/store/database.h"
 #include "frame/aboutform.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/itemsearchinv.h"
@@ -25,16 +26,33 @@ TestContext::TestContext()
 {
 }
 
+void TestContext::fill()
+{
+    data.databaseTallymere().connection().execute(uR"(
+        INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (7, 'Cellar');
+        INSERT INTO Vendor (VendorID, VendorNo, VendorName, CurrencyID, Suspended)
+            VALUES (1, 'V1', 'Morning Star', 1, false), (2, 'V2', 'North Mill', 1, false);
+        INSERT INTO ItemType (ItemTypeID, TypeName, Inventory) VALUES (50, 'Food', true);
+        INSERT INTO Item (ItemID, ItemNo, ItemDescription, ItemTypeID, Suspended)
+            VALUES (1, 'A10', 'Apples', 50, false), (2, 'B1', 'Bread', 50, false);
+    )"_s);
+}
+
 void forEachScreen(ScreenContext &context, QWidget &owner, const std::function<void(QWidget &window)> &visit)
 {
     const ScreenRegistry screens = productScreens();
-    for (const QString &name : screens.names()) {
+    QStringList names = screens.names();
+    names.sort();
+    for (const QString &name : names) {
         SCOPED_TRACE(qPrintable(name));
         QWidget *window = screens.find(name)->create(context, &owner);
         visit(*window);
         if (auto *list = qobject_cast<RecordListScreen *>(window)) {
-            list->btnNewClick();
-            visit(*static_cast<QWidget *>(owner.children().constLast()));
+            for (const auto open : {&RecordListScreen::btnNewClick, &RecordListScreen::btnEditClick}) {
+                std::invoke(open, list);
+                const std::unique_ptr<QWidget> record(static_cast<QWidget *>(owner.children().constLast()));
+                visit(*record);
+            }
         }
         for (const QString &command : {u"mnuFilter"_s, u"mnuFind"_s}) {
             auto *action = window->findChild<QAction *>(command);
@@ -44,9 +62,9 @@ void forEachScreen(ScreenContext &context, QWidget &owner, const std::function<v
         if (window->isModal())
             window->hide(); // the others could not be used under it
     }
-    for (QWidget *window :
-         QWidgetList{new TFormAboutTallymereSystem(&owner), new TfrmVContact(context, &owner),
-                     new TfrmDialerInv(context, &owner), new TfrmItemSearchInv(context, &owner)}) {
+    for (QWidget *window : QWidgetList{new TFormAboutTallymereSystem(context.data.databaseTallymere(), &owner),
+                                       new TfrmDialerInv(context, &owner), new TfrmVContact(context, &owner),
+                                       new TfrmItemSearchInv(context, &owner)}) {
         visit(*window);
         window->hide();
     }

@@ -32,6 +32,8 @@ class TestContext
 public:
     TestContext();
 
+    void fill(); // two vendors, two items, a further location
+
     TestCompany company;
     Tallymere::TDataModuleTallymere data;
     Tallymere::TdmLookUpsInv lookups;

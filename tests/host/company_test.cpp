@@ -1,3 +1,4 @@
+#include "base/dataversion.h"
 #include "base/initfile.h"
 #include "host/company.h"
 #include "tests/support/hostcompany.h"
@@ -13,11 +14,27 @@ TEST(HostCompany, WhatIsWrongIsTold)
     const QTemporaryDir folder;
     for (const QString &wrong : {folder.path(), folder.path() + "/none"_L1}) {
         MemorySettings settings;
-        useCompanyFolder(settings, wrong);
+        useBooks(settings, {.folder = wrong});
         const Company company = readCompany(settings);
         EXPECT_TRUE(company.defined);
         EXPECT_TRUE(has(company.problem, folder.path()));
     }
+}
+
+TEST(HostCompany, DataOfANewerReleaseAreToldBesideTheName)
+{
+    const QTemporaryDir folder;
+    makeCompany(folder.path(), u"Harvest Table"_s);
+    MemorySettings settings;
+    useBooks(settings, {.folder = folder.path()});
+    EXPECT_EQ(readCompany(settings).problem, QString());
+    withCompany(settings, [](Engine::Database &database) {
+        database.connection().execute(u"CREATE TABLE IDataVersion (DataVersion integer, ProgramVersion text)"_s);
+        database.connection().execute(u"INSERT INTO IDataVersion VALUES (%1, '9.8')"_s.arg(dataVersion + 1));
+    });
+    const Company company = readCompany(settings);
+    EXPECT_EQ(company.name, u"Harvest Table"_s);
+    EXPECT_TRUE(has(company.problem, u"newer release, 9.8"_s));
 }
 
 TEST(HostCompany, SampleIsOfferedOnlyWhenItIsThere)

@@ -8,7 +8,7 @@
 #include "tests/support/chance.h"
 #include "tests/support/documents.h"
 #include "transactions/documentposting.h"
-#include "transactions/totalsview.h"
+#include "transactions/totalsvalue.h"
 
 #include <cmath>
 #include <map>
@@ -255,6 +255,29 @@ TEST_P(InsightTest, TotalsTellValueAndDays)
                   item == 1 && location == 2 ? QDate(2026, 3, 14) : QDate());
         notMoved += last < day ? 1 : 0; // never is less
     }
+    for (const QString &filter :
+         {QString(), TotalsView::belowZero(), TotalsView::filterExpression({.itemId = 3, .warehouseId = 2}),
+          TotalsView::filterExpression({.notMovedSince = day}),
+          u"(ItemNo = 'A10') OR (WarehouseName = 'Office')"_s}) {
+        rows.setFilter(filter);
+        rows.setFiltered(!filter.isEmpty());
+        const auto other = [](int item, int location) { return item * 2.5 - location; };
+        Engine::Money shown;
+        Engine::Money ofOther;
+        for (rows.first(); !rows.atEnd(); rows.next()) {
+            shown = shown + rows.money(TotalsView::Value);
+            const double quantity = other(rows.integer(Fields::ItemID), rows.integer(Fields::WarehouseID));
+            ofOther = ofOther + TotalsView::valueOf(rows, quantity).toMoney();
+        }
+        const auto addedUp = [&](const TotalsValue::Quantity &quantity) {
+            TotalsValue value(kitchen.database(), filter, quantity);
+            while (value.readOn(0))
+                ;
+            return value.sum();
+        };
+        EXPECT_EQ(addedUp({}), shown) << qPrintable(filter);
+        EXPECT_EQ(addedUp(other), ofOther) << "at the same costs";
+    }
     rows.setFilter(TotalsView::filterExpression({.notMovedSince = day}));
     rows.setFiltered(true);
     EXPECT_EQ(rows.recordCount(), notMoved);
@@ -266,7 +289,7 @@ TEST_P(InsightTest, WhatToBuyFollowsUseAndStock)
 {
     kitchen.execute(u"UPDATE Item SET Suspended = true WHERE ItemID = 3"_s);
     for (const int location : {0, 1, 2}) {
-        const BuyingPlan plan{.today = today, .location = location, .weeks = 4, .cover = 3};
+        const BuyingPlan plan{.today = today, .location = location, .weeks = 4, .cover = 3, .alsoInStock = true};
         std::map<int, ItemToBuy> found;
         for (const ItemToBuy &item : whatToBuy(kitchen.database(), plan))
             found[item.item] = item;
@@ -337,8 +360,13 @@ TEST_P(InsightTest, WhatIsToBeBoughtBecomesAReceipt)
     list.read(kitchen.database(), plan);
     EXPECT_FALSE(list.row(first).typed);
 
-    kitchen.execute(u"UPDATE Vendor SET Suspended = true WHERE VendorID = 2"_s);
     const QString receipts = kitchen.found(u"SELECT COUNT(*) FROM IReceipt"_s);
+    PlannedReceipt two = receipt;
+    two.lines.insert(two.lines.begin(), {.item = 77, .quantity = 1}); // which is gone
+    EXPECT_TRUE(refusalOf([&] { beginPlannedReceipt(*entry, two); }).startsWith(u"Line 1 cannot be bought"_s));
+    EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM IReceipt"_s), receipts);
+
+    kitchen.execute(u"UPDATE Vendor SET Suspended = true WHERE VendorID = 2"_s);
     EXPECT_TRUE(refusalOf([&] { beginPlannedReceipt(*entry, receipt); }).contains(u"has been suspended"_s));
     EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM IReceipt"_s), receipts);
 }
@@ -396,23 +424,26 @@ TEST_P(InsightTest, ThePeriodIsMovedOnOnceAndAsFarAsItIsAllowed)
             "WPeriodToYYYY, EPeriodFromPP, EPeriodToPP, EPeriodToYYYY FROM Company"_s);
     };
     const auto refusal = [&](const Period &ending) {
-        return refusalOf([&] { openNextPeriod(kitchen.database(), ending); });
+        return refusalOf([&] { openNextPeriod(kitchen.database(), ending, u"maria"_s); });
     };
+    kitchen.makeHost(); // which keeps the notes
     kitchen.execute(u"UPDATE Company SET WPeriodFromPP = 2, WPeriodFromYYYY = 2026, EPeriodToPP = 12, "
                     "EPeriodToYYYY = 2026"_s);
-    openNextPeriod(kitchen.database(), {2026, 3});
+    openNextPeriod(kitchen.database(), {2026, 3}, u"maria"_s);
     EXPECT_EQ(company(), u"4|2026|4|2026||||12|2026") << "what is not set stays so";
+    EXPECT_EQ(kitchen.found(u"SELECT Event, \"user\" FROM History"_s),
+              u"Period 04/2026 opened after 03/2026.|maria"_s);
     EXPECT_EQ(refusal({2026, 3}), u"The default period is 04/2026 by now: somebody has moved it meanwhile. -> "_s);
     {
         TheirTable theirs(kitchen, u"Company"_s);
         theirs.edit();
-        EXPECT_THROW(openNextPeriod(kitchen.database(), {2026, 4}), Engine::EngineError);
+        EXPECT_THROW(openNextPeriod(kitchen.database(), {2026, 4}, u"maria"_s), Engine::EngineError);
     }
     kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = 12"_s);
     EXPECT_TRUE(refusal({2026, 12}).contains(u"is not within allowed range"_s));
     EXPECT_EQ(company(), u"12|2026|4|2026||||12|2026");
     kitchen.execute(u"UPDATE Company SET EPeriodToYYYY = 2027"_s);
-    openNextPeriod(kitchen.database(), {2026, 12});
+    openNextPeriod(kitchen.database(), {2026, 12}, u"maria"_s);
     EXPECT_EQ(company(), u"1|2027|1|2027||||12|2027");
     kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = NULL"_s);
     EXPECT_TRUE(EndingPeriod::readFrom(kitchen.database(), today).followsCalendar);

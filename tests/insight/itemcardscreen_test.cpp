@@ -77,20 +77,3 @@ TEST_F(ItemCardTest, OpensFromAListAndLeadsFromItsCurvesToTheDocuments)
     receipt = window<TfrmInvReceipt>("frmInvReceipt");
     EXPECT_EQ(receipt->storedKey(), 2);
 }
-
-TEST_F(ItemCardTest, OpensFromALineOfADocumentPostedOrNot)
-{
-    for (const int key : {1, 3}) {
-        auto *receipt = openRecord<TfrmInvReceipt>(key);
-        auto *lines = child<QTableView>(*receipt, "DBGrid1");
-        lines->setFocus();
-        QTest::keyClick(lines, Qt::Key_I, Qt::ControlModifier);
-        auto *card = window<TfrmItemCard>("frmItemCard");
-        ASSERT_NE(card, nullptr);
-        EXPECT_EQ(card->item(), key == 1 ? 2 : 1);
-        QPointer<QWidget> closing = card;
-        card->close();
-        receipt->close();
-        EXPECT_TRUE(isGone(closing));
-    }
-}

@@ -24,9 +24,23 @@ struct WhatToBuyTest : ScreenTest
             DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
         }
         context->settings = &settings;
+        openScreen();
+    }
+
+    // The window is there before its figures are.
+    void openScreen()
+    {
         screen = new TfrmWhatToBuy(*context, mainWindow.get());
         grid = child<BuyingGrid>(*screen, "DBGrid1");
+        EXPECT_EQ(child<QLabel>(*screen, "lblStatus")->text(), u"Reading the history..."_s);
+        EXPECT_EQ(grid->model()->rowCount(), 0);
         showActive(*screen);
+        awaitFigures();
+    }
+    void awaitFigures()
+    {
+        const auto *status = child<QLabel>(*screen, "lblStatus");
+        EXPECT_TRUE(comesTrue([status] { return !status->text().startsWith(u"Reading"_s); }));
     }
 
     CountedProgress progress;
@@ -58,14 +72,35 @@ TEST_F(WhatToBuyTest, QuantitiesAreTypedAndBecomeTheReceiptOfTheirVendor)
     child<LookupComboBox>(*receipt, "cboWarehouse")->setFocus();
     type("off<Tab>");
     click(*receipt, "btnOK");
+    awaitFigures();
     EXPECT_EQ(kitchen.text(u"SELECT VendorID FROM IReceipt WHERE Posted = false"_s), u"2"_s);
     EXPECT_EQ(rowOf(*grid, 4).join(u'|'), u"B1|apricots|8|0|12|10.5|3.75|4|4"_s) << "what is bought counts";
 
     child<QSpinBox>(*screen, "editCover")->setValue(1);
+    awaitFigures();
     EXPECT_EQ(rowOf(*grid, 1).mid(7), (QStringList{u"8"_s, u"8"_s}));
     delete screen;
-    screen = new TfrmWhatToBuy(*context, mainWindow.get());
+    openScreen();
     EXPECT_EQ(child<QSpinBox>(*screen, "editCover")->value(), 1) << "offered again";
+}
+
+TEST_F(WhatToBuyTest, WhatLastsLongEnoughIsLeftOutUnlessItIsWanted)
+{
+    kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 1000 WHERE ItemID <> 2"_s);
+    screen->refreshList();
+    awaitFigures();
+    EXPECT_EQ(grid->model()->rowCount(), 2) << "the vendor and his item";
+    click(*screen, "chkAll");
+    awaitFigures();
+    EXPECT_EQ(grid->model()->rowCount(), 5);
+    EXPECT_TRUE(
+        child<QCheckBox>(*std::make_unique<TfrmWhatToBuy>(*context, mainWindow.get()), "chkAll")->isChecked())
+        << "offered again";
+    typeIn(*screen, "DBGrid1", "<Ctrl+End>7<Return>");
+    click(*screen, "chkAll");
+    awaitFigures();
+    ASSERT_EQ(grid->model()->rowCount(), 4) << "what is to be bought all the same stays";
+    EXPECT_EQ(cellOf(*grid, 3, 8), u"7"_s);
 }
 
 } // namespace

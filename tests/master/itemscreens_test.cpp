@@ -108,7 +108,9 @@ TEST_F(ItemScreens, SaveOneAndGoOnWithTheNext)
     EXPECT_EQ(shown("editItemNo"), u"C1");
     enter("editItemDescription", "Cumin");
     typeIn(*item, "cboItemType", "fo<Return>");
+    child<QCheckBox>(*item, "chkReadOnly")->click();
     clickItem("btnSaveAndNew");
+    EXPECT_TRUE(child<QLineEdit>(*item, "editWgtAvgCost")->isReadOnly()) << "only what was unlocked on purpose";
     EXPECT_EQ(item->windowTitle(), u"New Item");
     EXPECT_EQ(shown("editItemDescription"), u"");
     EXPECT_EQ(focusName(), u"editItemNo");
@@ -336,7 +338,7 @@ TEST_F(ItemScreens, SearchAnItemByWhatIsTyped)
     type("A11<Backspace>");
     EXPECT_EQ(search.GetItemID(), 2) << "taking a character away moves nothing";
     type("7<Return>");
-    EXPECT_EQ(prompts.last(), u"error: Item not found"_s);
+    EXPECT_EQ(prompts.last(), u"error: Item not found. F3 looks for the words anywhere."_s);
     EXPECT_EQ(search.GetItemID(), 2);
     EXPECT_TRUE(search.isVisible()) << "no number goes on so: not an item that was not asked for";
     typeOver(search, "editFindItemNo", "BREAD");

@@ -55,23 +55,6 @@ struct InvReportsTest : ScreenTest
         return preview;
     }
     template <typename Widget> Widget *part(const char *name) { return child<Widget>(*wizard, name); }
-    // What can be chosen on page two, from top to bottom.
-    QStringList options()
-    {
-        QStringList shown;
-        for (const char *name : {"Warehouse", "ItemType", "Period"}) {
-            const auto *label = part<QLabel>(QByteArray("lbl").append(name));
-            const bool typed = !std::strcmp(name, "Period");
-            const auto *box = part<QWidget>(QByteArray(typed ? "editGL" : "cbo").append(name));
-            EXPECT_EQ(label->isVisible(), box->isVisible() && box->isEnabled()) << name;
-            EXPECT_TRUE(!box->isVisible() || label->y() == static_cast<int>(4 * scale()) + box->y()) << name;
-            if (box->isVisible())
-                shown << u"%1 %2"_s.arg(QString::fromLatin1(name)).arg(box->y() / scale());
-        }
-        EXPECT_EQ(part<QWidget>("editGLYear")->isVisible(), part<QWidget>("editGLPeriod")->isVisible());
-        return shown;
-    }
-    double scale() const { return wizard->logicalDpiX() / 96.0; }
     // The rows of the preview that has come, without their headings; nothing when none has.
     QStringList previewed()
     {
@@ -88,36 +71,6 @@ struct InvReportsTest : ScreenTest
 };
 
 } // namespace
-
-TEST_F(InvReportsTest, AsksForWhatEachReportTakes)
-{
-    const QString place = u"Warehouse 78"_s, type = u"ItemType 78"_s, period = u"Period 78"_s;
-    const QStringList places{u"Warehouse 70"_s, u"ItemType 98"_s};
-    const std::pair<QString, QStringList> reports[] = {
-        {u"Value by Item"_s, places},
-        {u"Value by Item /Location"_s, {type}},
-        {u"Value by Type"_s, {place}},
-        {u"Value by Type /Item"_s, {place}},
-        {u"Value by Type /Item /Location"_s, {}},
-        {u"Cost per Meal"_s, {place}},
-        {u"Perpetual by Item"_s, {u"Warehouse 62"_s, u"ItemType 90"_s, u"Period 118"_s}},
-        {u"Perpetual by Item /Location"_s, {u"ItemType 70"_s, u"Period 98"_s}},
-        {u"Perpetual by Type /Item"_s, {u"Warehouse 70"_s, u"Period 98"_s}},
-        {u"Perpetual by Type /Item /Location"_s, {period}},
-        {u"Perpetual Summary by Item"_s, {u"Warehouse 62"_s, u"ItemType 90"_s, u"Period 118"_s}},
-        {u"Perpetual Summary by Type /Item"_s, {u"Warehouse 70"_s, u"Period 98"_s}},
-    };
-    int index = 0;
-    for (const auto &[title, options] : reports) {
-        ask(index++);
-        EXPECT_EQ(part<QLabel>("lblReportTitle")->text(), title);
-        EXPECT_EQ(this->options(), options) << qPrintable(title);
-        const QString first = options.isEmpty() ? u"btnNext"_s : options.first().section(u' ', 0, 0);
-        EXPECT_TRUE(focusName().endsWith(first)) << qPrintable(title + u": "_s + focusName());
-        EXPECT_EQ(part<QLabel>("lblNothingToShow")->isVisible(), title == "Cost per Meal"_L1);
-    }
-    EXPECT_EQ(part<QListWidget>("lboReports")->count(), index);
-}
 
 TEST_F(InvReportsTest, PreviewsWhatIsChosenAndOffersItAgain)
 {
@@ -172,9 +125,10 @@ TEST_F(InvReportsTest, WithoutAPrinterShowsAndSavesWhatThePreviewIsRefusedFor)
         EXPECT_EQ(prompts.told(), u"inform: Inventory Value by Item saved as %1"_s.arg(file()));
         saved << contentOf(file());
     }
-    ASSERT_EQ(saved.size(), 2);
+    ASSERT_EQ(saved.size(), 3);
     EXPECT_TRUE(saved[0].startsWith("%PDF"));
     EXPECT_TRUE(saved[1].endsWith("report total,,,,,7\r\n")) << saved[1].constData();
+    EXPECT_TRUE(saved[2].startsWith("PK"));
     EXPECT_TRUE(part<QWidget>("PanelOptions")->isVisible());
     click(*wizard, "btnOnScreen");
     EXPECT_EQ(previewed().size(), 3);

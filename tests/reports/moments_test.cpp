@@ -64,7 +64,7 @@ struct Moments : testing::TestWithParam<Place>
         kitchen->execute(u"UPDATE IBalance SET QtyOnHand = QtyOnHand + 1"_s);
         moveAll();
         kitchen->execute(u"UPDATE Item SET WgtAvgCost = 7; UPDATE ItemType SET TypeName = 'New'; "
-                         "UPDATE Vendor SET Phone = '555'"_s);
+                         "UPDATE Vendor SET Phone = '555'; INSERT INTO History (Event) VALUES ('Repaired')"_s);
         mark(u"true"_s);
     }
     void mark(const QString &posted)
@@ -94,7 +94,8 @@ TEST_P(Moments, AReportIsOfTheMomentItWasAskedFor)
                                         .itemTypeId = report.parameters.itemType ? 1 : 0,
                                         .itemId = report.parameters.item ? 101 : 0,
                                         .period = 3,
-                                        .year = 2026};
+                                        .year = 2026,
+                                        .alsoInStock = true};
         const auto csv = [this](const Printing::Report &made) {
             return writtenBy(
                 [&](QIODevice &file) { Printing::writeReportCsv(made.layout, *made.rows, file, progress); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/kitchen.h"
+#include "transactions/documententry.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 
@@ -41,6 +42,29 @@ inline void addDocument(Kitchen &kitchen, const Tallymere::DocumentKind &kind, i
             QString::number(id), QString::number(++seq), line.item == 0 ? u"NULL"_s : QString::number(line.item),
             line.quantity, hasCost ? u", "_s + line.cost : QString());
     kitchen.execute(sql);
+}
+
+// A new document of the office with four apples, by the rules of its entry, not saved yet: texts that they want besides
+// are as long as they may be, and everything else is 1.
+inline void beginDocument(Tallymere::DocumentEntry &entry)
+{
+    using namespace Qt::StringLiterals;
+    const Tallymere::DocumentKind &kind = entry.kind();
+    entry.newDocument();
+    entry.header().set(u"WarehouseID", 1);
+    QStringList fields = kind.entry.requiredFields;
+    for (const Tallymere::DocumentKind::NumberFor &number : kind.files.numbers)
+        fields.append(number.field);
+    for (const QString &field : fields) {
+        if (entry.header().value(field).isNull())
+            entry.header().setText(field, QString(std::max(1, entry.header().field(field).size), u'1'));
+    }
+    entry.newLine();
+    entry.lines().set(kind.entry.lineColumns.constFirst().field, 4.0);
+    entry.chooseItem(1);
+    if (entry.lines().fieldIndex(u"UnitCost") >= 0)
+        entry.lines().set(u"UnitCost", 1.0);
+    entry.lines().post();
 }
 
 // Of stocked items. Quantities are quarters, so that sums are exact.

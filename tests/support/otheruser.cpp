@@ -49,14 +49,13 @@ bool OtherUser::finish()
         && m_process.exitCode() == 0;
 }
 
-QStringList OtherUser::output()
-{
-    return QString::fromUtf8(m_process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
-}
+QStringList OtherUser::output() { return QString::fromUtf8(rest()).split(u'\n', Qt::SkipEmptyParts); }
 
 int runTests(int argc, char **argv, const OtherUserTasks &tasks)
 {
-    const QCoreApplication application(argc, argv);
+    std::optional<QCoreApplication> application; // unless there is one that has windows
+    if (!qApp)
+        application.emplace(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) != "--other-user"_L1) {
         testing::InitGoogleTest(&argc, argv);

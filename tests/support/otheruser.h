@@ -29,13 +29,13 @@ public:
     QString ask(const QString &order); // and the line that it says then
 
     void kill(); // at once, as kill -9 does
-    bool saysLine() { return !line().isEmpty(); } // waits for one; false when it has ended without
+    QString line(); // the next one that it says; empty when it has ended without
+    bool saysLine() { return !line().isEmpty(); }
     bool finish(); // waits for a good end
-    QStringList output(); // lines, after finish()
+    QByteArray rest() { return m_process.readAllStandardOutput(); } // that it has said
+    QStringList output(); // in lines, after finish()
 
 private:
-    QString line();
-
     QProcess m_process;
 };
 

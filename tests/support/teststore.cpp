@@ -32,6 +32,8 @@ QString freshName()
 
 } // namespace
 
+QString testServerAddress() { return qEnvironmentVariable("TALLYMERE_TEST_ADDRESS", u"127.0.0.1"_s); }
+
 TestUser::TestUser(const QString &user, const QString &databaseName)
     : session(u"Test"_s, Tallymere::bothStores())
     , database(session, databaseName)
@@ -52,7 +54,7 @@ void TestUser::useTestServer(const QString &remoteName)
 {
     pointToTestServer();
     session.type = Engine::SessionType::Remote;
-    session.remoteAddress = u"127.0.0.1"_s;
+    session.remoteAddress = testServerAddress();
     session.remoteUser = session.remotePassword = u"zorvadin"_s;
     database.remoteName = remoteName;
 }

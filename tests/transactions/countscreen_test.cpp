@@ -1,4 +1,7 @@
 #include "controls/fields/datepicker.h"
+#include "master/barcodes.h"
+#include "phonecount/networkaddresses.h"
+#include "phonecount/screens/phonecountscreen.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/countdifferencesscreen.h"
 #include "transactions/screens/countgrid.h"
@@ -304,6 +307,56 @@ TEST_F(CountScreenTest, RefusesWhatIsNoCount)
     EXPECT_EQ(rows().last(), u"B1 2.5 2.5"_s);
 }
 
+TEST_F(CountScreenTest, WhatAPhoneCountsIsNotTypedOverUnseen)
+{
+    choose(u"Office"_s);
+    if (networkAddresses().isEmpty())
+        GTEST_SKIP() << "this machine is on no network";
+    child<QPushButton>(*screen, "btnPhone")->click();
+    const QPointer<TfrmPhoneCount> phones = screen->findChild<TfrmPhoneCount *>();
+    const QUrl link(child<QLineEdit>(*phones, "edtLink")->text());
+    PhoneRequest request{.method = PhoneRequest::Method::Get,
+                         .path = link.path().toLatin1(),
+                         .host = link.authority().toLatin1(),
+                         .origin = {},
+                         .contentType = "application/json",
+                         .cookies = {},
+                         .body = {},
+                         .from = {}};
+    const PhoneAnswer page = phones->service().answer(request);
+    for (const auto &[name, value] : page.headers)
+        request.cookies += name == "Set-Cookie" ? value : QByteArray();
+    const auto post = [&](const QByteArray &path, const QByteArray &body) {
+        request.method = PhoneRequest::Method::Post;
+        request.path = path;
+        request.body = body;
+        return phones->service().answer(request).body;
+    };
+    post("/name", R"({"name":"Ana"})");
+    request.method = PhoneRequest::Method::Get;
+    request.path = "/list";
+    const QByteArray list = phones->service().answer(request).body;
+    const QByteArray count = list.mid(list.indexOf(R"("count":")") + 9, 36);
+
+    showActive(*screen);
+    search("A10");
+    type("6");
+    const QByteArray taken =
+        post("/row", R"({"id":"1","item":1,"number":"A10","quantity":"8","seen":"","count":")" + count + "\"}");
+    EXPECT_TRUE(taken.contains(R"("is":"taken")")) << taken.constData();
+    prompts.ok = false;
+    press(Qt::Key_Return);
+    EXPECT_TRUE(prompts.last().contains(u"Ana has counted 8 of this item meanwhile."_s))
+        << qPrintable(prompts.last());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(rows().first(), u"A10 10 8 -2"_s);
+    EXPECT_TRUE(grid->model()->index(0, 5).data(Qt::ToolTipRole).toString().startsWith(u"Counted by Ana, "_s));
+    EXPECT_TRUE(status().contains(u"Phones: 1, numbers from them: 1"_s)) << qPrintable(status());
+    prompts.ok = true;
+    choose(u"Freezer"_s);
+    EXPECT_TRUE(isGone(phones)) << "the page ends with the count";
+}
+
 TEST_F(CountScreenTest, AsksBeforeCountsAreLost)
 {
     choose(u"Office"_s);
@@ -388,3 +441,26 @@ TEST_F(CountScreenTest, StaysOpenWhenTheCountCannotBeKept)
 }
 
 } // namespace
+
+TEST_F(CountScreenTest, aScannedCodeGoesToItsItemWhateverCellItIsIn)
+{
+    addBarcode(kitchen.database(), 2, u"4006381333931"_s);
+    choose(u"Office"_s);
+    grid->setFocus();
+    scan(u"4006381333931"_s);
+    EXPECT_EQ(cursor(), u"A11"_s);
+    EXPECT_FALSE(grid->hasEntry());
+    enter("4");
+    EXPECT_EQ(rows()[1], u"A11 5 4 -1"_s);
+    prompts.ok = false;
+    scan(u"9783161484100"_s);
+    EXPECT_EQ(prompts.told(),
+              u"Confirm: No item has the code '9783161484100'. Do you want to look for the item?"_s);
+    EXPECT_EQ(focusName(), u"wwIncrementalSearch1"_s);
+    type("7<Return>");
+    EXPECT_TRUE(child<QLabel>(*screen, "lblNotFound")->text().startsWith(u"7 is not taken"_s));
+    EXPECT_EQ(rows()[2], u"B1 2.5 2.5"_s) << "nor for the item that the cursor was on";
+    prompts.ok = true;
+    search("4006381333931");
+    EXPECT_EQ(cursor(), u"A11"_s) << "typed as well";
+}

@@ -1,8 +1,5 @@
 #include "data/transtypes.h"
-#include "tests/support/kitchen.h"
-#include "transactions/documententry.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "tests/support/documents.h"
 #include "transactions/historyview.h"
 #include "transactions/waitingdocuments.h"
 
@@ -15,27 +12,11 @@ struct DocumentKindsTest : KitchenTest
 {
     DocumentKindsTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
 
-    // Four apples at the office, by the rules of its entry: texts that they want besides are as long as they may be, and
-    // everything else is 1.
     void enter(const DocumentKind &kind)
     {
         const std::unique_ptr<DocumentEntry> entry = kind.entry.make(kitchen.database(), prompts);
         entry->open();
-        entry->newDocument();
-        entry->header().set(u"WarehouseID", 1);
-        QStringList fields = kind.entry.requiredFields;
-        for (const DocumentKind::NumberFor &number : kind.files.numbers)
-            fields.append(number.field);
-        for (const QString &field : fields) {
-            if (entry->header().value(field).isNull())
-                entry->header().setText(field, QString(std::max(1, entry->header().field(field).size), u'1'));
-        }
-        entry->newLine();
-        entry->lines().set(kind.entry.lineColumns.constFirst().field, 4.0);
-        entry->chooseItem(1);
-        if (entry->lines().fieldIndex(u"UnitCost") >= 0)
-            entry->lines().set(u"UnitCost", 1.0);
-        entry->lines().post();
+        beginDocument(*entry);
         entry->save();
     }
 };

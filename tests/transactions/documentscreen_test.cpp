@@ -1,9 +1,16 @@
+#include "base/settingsstore.h"
 #include "controls/grids/linegrid.h"
+#include "data/fields.h"
+#include "master/barcodes.h"
+#include "master/screens/itemsearchinv.h"
 #include "tests/support/documents.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/documentlistscreen.h"
 #include "transactions/screens/documentscreen.h"
 #include "transactions/screens/documentscreens.h"
+#include "transactions/screens/pasterowsscreen.h"
+
+#include <QClipboard>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -100,7 +107,7 @@ TEST_F(DocumentScreenTest, controlZBringsTheLineTakenOutLastBack)
         EXPECT_FALSE(undo->isEnabled());
         grid->setFocus();
         press(Qt::Key_Delete, Qt::ControlModifier);
-        EXPECT_EQ(figures->text(), u"Line 1 (Apples) taken out. Undo: Ctrl+Z");
+        EXPECT_EQ(figures->text(), u"Ctrl+Z puts back: Line 1 (Apples)");
         EXPECT_TRUE(undo->isEnabled());
         EXPECT_EQ(quantities(screens.kind), u"7|5");
         press(Qt::Key_PageDown); // a new line in which nothing stands yet
@@ -110,6 +117,66 @@ TEST_F(DocumentScreenTest, controlZBringsTheLineTakenOutLastBack)
         EXPECT_EQ(figures->text(), QString());
         EXPECT_FALSE(undo->isEnabled());
         screen->btnCancelClick();
+        settle();
+        EXPECT_EQ(prompts.told(), QString());
+    }
+}
+
+TEST_F(DocumentScreenTest, rowsOfASpreadsheetArePastedByKeys)
+{
+    QClipboard &clipboard = *QGuiApplication::clipboard();
+    for (const DocumentScreens &screens : documentScreens()) {
+        SCOPED_TRACE(qPrintable(screens.kind.name));
+        addDocument(kitchen, screens.kind, 7, 1, {{1, u"2"_s, u"3"_s}});
+        open(screens, 7);
+        const auto paste = [&](Qt::KeyboardModifiers modifiers, const std::function<void(TfrmPasteRows &)> &step) {
+            return whileOpen<TfrmPasteRows>([&] { press(Qt::Key_V, modifiers); }, step);
+        };
+        const auto isTakeable = [](const TfrmPasteRows &dialog) {
+            return child<QPushButton>(dialog, "btnOK")->isEnabled();
+        };
+        clipboard.setText(u"A11\t8\t1.50\nA10\t9\t2\nA99\t1\t1\n"_s);
+        grid->setFocus();
+        EXPECT_TRUE(paste(Qt::ControlModifier, [&](TfrmPasteRows &dialog) {
+            EXPECT_FALSE(isTakeable(dialog));
+            EXPECT_EQ(cursorOf(*child<QTableView>(dialog, "grdRows")), u"2,0");
+            EXPECT_EQ(child<QLabel>(dialog, "lblRows")->text(), u"1 of 3 rows cannot be taken, so none can.");
+        }));
+        EXPECT_EQ(quantities(screens.kind), u"7|2");
+
+        clipboard.setText(u"A11\t8\t1.50\nA10\t9\t2\n"_s);
+        typeIn(*screen, "editGLPeriod", "");
+        EXPECT_TRUE(paste(Qt::ControlModifier | Qt::ShiftModifier, [&](TfrmPasteRows &dialog) {
+            EXPECT_TRUE(isTakeable(dialog));
+            auto *quantity = child<QComboBox>(dialog, "cboColumn2");
+            quantity->setCurrentIndex(0);
+            EXPECT_FALSE(isTakeable(dialog));
+            quantity->setCurrentIndex(1);
+            click(dialog, "btnOK");
+        }));
+        EXPECT_EQ(quantities(screens.kind), u"7|2 7|8 7|9");
+        EXPECT_EQ(cursorOf(*grid), u"1,0");
+        EXPECT_EQ(focusName(), u"DBGrid1");
+
+        clipboard.setText(u"4\t4"_s);
+        press(Qt::Key_F2);
+        EXPECT_FALSE(paste(Qt::ControlModifier, [](TfrmPasteRows &) {})) << "into the cell";
+        EXPECT_EQ(child<QLineEdit>(*screen, "editCell")->text(), u"4 4");
+        press(Qt::Key_Escape);
+        clipboard.setText(u"4"_s);
+        EXPECT_FALSE(paste(Qt::ControlModifier, [](TfrmPasteRows &) {})) << "a single one";
+        clipboard.clear();
+        press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_TRUE(has(prompts.told(), u"There are no rows to paste."_s));
+        screen->btnCancelClick();
+        settle();
+        EXPECT_EQ(quantities(screens.kind), u"7|2");
+
+        kitchen.execute(u"UPDATE %1 SET Posted = true"_s.arg(screens.kind.headerTable));
+        open(screens, 7);
+        EXPECT_FALSE(child<QAction>(*screen, "mnuPasteRows")->isEnabled());
+        EXPECT_FALSE(child<QToolButton>(*screen, "btnPasteRows")->isVisible());
+        screen->close();
         settle();
         EXPECT_EQ(prompts.told(), QString());
     }
@@ -131,7 +198,7 @@ TEST_F(DocumentScreenTest, enterTakesTheOfferedCostAndPassesOverWhatIsKnownWhere
               u"Last cost from this vendor: 4.20, on 14 Mar 26. Enter takes it.");
     type("3.5<Return>");
     EXPECT_EQ(cursorOf(*grid), u"1,0");
-    EXPECT_EQ(child<QLabel>(*screen, "lblLinesTotal")->text(), u"Total: 17.50 Home");
+    EXPECT_EQ(child<QLabel>(*screen, "lblLinesTotal")->text(), u"17.50 Home");
     child<QAction>(*screen, "mnuPassesKnown")->trigger();
     type("2<Return>A10<Return><Return>"); // three
     EXPECT_EQ(cursorOf(*grid), u"2,0");
@@ -148,4 +215,119 @@ TEST_F(DocumentScreenTest, enterTakesTheOfferedCostAndPassesOverWhatIsKnownWhere
     open(documentScreens().constLast());
     EXPECT_TRUE(child<QAction>(*screen, "mnuPassesKnown")->isChecked()) << "in all documents";
     screen->btnCancelClick();
+}
+
+// From an empty line to the next one, the search that opens at the item included.
+TEST_F(DocumentScreenTest, aLineTakesAsFewPressesOfEnterAsItsColumnsAllow)
+{
+    context->settings = &settings;
+    const auto pressesFor = [&](const DocumentScreens &screens) {
+        open(screens);
+        press(Qt::Key_PageDown);
+        QTimer search;
+        int presses = 0;
+        bool isSearched = false;
+        const auto enter = [&] {
+            ++presses;
+            press(Qt::Key_Return);
+        };
+        QObject::connect(&search, &QTimer::timeout, &search, [&] {
+            auto *dialog = qobject_cast<TfrmItemSearchInv *>(QApplication::activeModalWidget());
+            if (!dialog || QApplication::activeWindow() != dialog)
+                return;
+            search.stop();
+            type("A10");
+            enter();
+            isSearched = true;
+        });
+        search.start(0);
+        type("5");
+        enter();
+        EXPECT_TRUE(comesTrue([&] { return isSearched && grid->hasFocus(); }));
+        constexpr int tooMany = 20;
+        while (grid->model()->rowCount() == 1 && presses < tooMany)
+            enter();
+        EXPECT_EQ(cursorOf(*grid), u"1,0");
+        EXPECT_EQ(quantities(screens.kind).section(u'|', 1), u"5");
+        screen->btnCancelClick();
+        settle();
+        return presses;
+    };
+    QList<int> presses;
+    for (const bool passesKnown : {false, true}) {
+        settings.setValue(Settings::documentEntry, Settings::PassesKnown, passesKnown);
+        for (const DocumentScreens &screens : documentScreens().mid(1))
+            presses << pressesFor(screens);
+    }
+    EXPECT_EQ(presses, QList<int>({6, 4, 3, 3}));
+}
+
+// Below zero, what is on hand is told as a warning wherever it is told beside something else.
+TEST_F(DocumentScreenTest, whatIsNotOnHandIsTheSameWarningInTheLinesAndInTheSearch)
+{
+    kitchen.setStock(1, 1, -3, 2);
+    const auto noteOf = [](const DataGrid &cells, const QString &field) {
+        return static_cast<CellNote>(cells.model()->index(0, cells.columnOf(field)).data(cellNoteRole).toInt());
+    };
+    addDocument(kitchen, DocumentKinds::adjustment(), 7, 1, {{1, u"-1"_s}});
+    open(documentScreens().constLast(), 7);
+    EXPECT_EQ(noteOf(*grid, DocumentEntry::OnHand.toString()), CellNote::Lacking);
+    EXPECT_EQ(noteOf(*grid, DocumentEntry::Afterwards.toString()), CellNote::Lacking);
+    EXPECT_EQ(noteOf(*grid, Fields::Quantity), CellNote::Negative) << "one of its own";
+    TfrmItemSearchInv search(*context, screen);
+    showActive(search);
+    EXPECT_EQ(noteOf(*child<DataGrid>(search, "DBGrid1"), ItemSearch::OnHand.toString()), CellNote::Lacking);
+}
+
+// Wherever the cursor is: into the line that wants an item, else into a new one.
+TEST_F(DocumentScreenTest, aScannedCodeFindsItsColumn)
+{
+    addBarcode(kitchen.database(), 1, u"4006381333931"_s);
+    addBarcode(kitchen.database(), 3, u"73513537"_s);
+    const QString unknown = u"9783161484100"_s;
+    for (const DocumentScreens &screens : documentScreens()) {
+        SCOPED_TRACE(qPrintable(screens.kind.name));
+        open(screens);
+        grid->setFocus();
+        press(Qt::Key_PageDown);
+        scan(u"4006381333931"_s);
+        EXPECT_EQ(cellOf(*grid, 0, 1), u"A10"_s);
+        EXPECT_EQ(cursorOf(*grid), u"0,0"_s) << "where the quantity is still to be typed";
+        if (const int cost = grid->columnOf(Fields::UnitCost); cost >= 0 && screens.kind.name == u"receipts")
+            grid->enterText(grid->model()->index(0, cost), u"2"_s);
+        grid->setCurrentIndex(grid->model()->index(0, 0));
+        type("3"); // and no Enter
+        scan(u"73513537"_s);
+        EXPECT_EQ(rowOf(*grid, 0).mid(0, 2), (QStringList{u"3"_s, u"A10"_s}));
+        EXPECT_EQ(rowOf(*grid, 1).mid(0, 2), (QStringList{QString(), u"B1"_s}));
+        EXPECT_EQ(cursorOf(*grid), u"1,0"_s);
+        prompts.ok = false;
+        scan(unknown);
+        EXPECT_EQ(prompts.told(),
+                  u"Confirm: No item has the code '9783161484100'. Do you want to look for the item?"_s);
+        EXPECT_EQ(rowOf(*grid, 1).mid(0, 2), (QStringList{QString(), u"B1"_s}));
+        grid->setCurrentIndex(grid->model()->index(1, 1));
+        scan(u"4006381333931"_s);
+        EXPECT_EQ(cellOf(*grid, 1, 1), u"A10"_s) << "in its column it is as if it had been typed";
+        EXPECT_EQ(grid->currentIndex().row(), 1);
+        click(*screen, "btnCancel");
+        settle();
+    }
+
+    prompts.ok = true;
+    open(documentScreens().front());
+    grid->setFocus();
+    press(Qt::Key_PageDown);
+    EXPECT_TRUE(whileOpen<TfrmItemSearchInv>([&] { scan(unknown); },
+                                             [&](TfrmItemSearchInv &search) {
+                                                 EXPECT_EQ(child<QLineEdit>(search, "editFindItemNo")->text(),
+                                                           unknown);
+                                                 typeOver(search, "editFindItemNo", "A11");
+                                                 press(Qt::Key_Return);
+                                             }));
+    EXPECT_EQ(cellOf(*grid, 0, 1), u"A11"_s);
+    EXPECT_EQ(itemOfBarcode(kitchen.database(), unknown), 2) << "it is known from now on";
+    scan(u"0012"_s);
+    EXPECT_EQ(cellOf(*grid, 0, 0), u"12"_s) << "no code, but figures that were typed fast";
+    prompts.told();
 }

@@ -42,9 +42,11 @@ TEST_P(DocumentSearchTest, FindsTheNumberItselfBeforeThoseThatBeginWithIt)
 TEST_P(DocumentSearchTest, FindsByTheKeyWhereThatIsTheNumber)
 {
     kitchen.execute(u"INSERT INTO IAdjust (AdjustmentID, AdjDate, AdjDescription, Posted) VALUES "
-                    "(7, '2026-03-01', 'Spoilt', true), (70, NULL, NULL, NULL)"_s);
+                    "(7, '2026-03-01', 'Spoilt', true), (70, NULL, NULL, NULL), (17, NULL, NULL, NULL), "
+                    "(2147483647, NULL, NULL, NULL)"_s);
     const DocumentKind &adjustment = DocumentKinds::adjustment();
-    EXPECT_EQ(found(adjustment, u"7"_s), u"7=7 2026-03-01 exact"_s);
+    EXPECT_EQ(found(adjustment, u"7"_s), u"7=7 2026-03-01 exact, 70=70  begins"_s);
+    EXPECT_EQ(found(adjustment, u"21"_s), u"2147483647=2147483647  begins"_s);
     for (const QString &number : {u"07"_s, u"7.0"_s, u"99999999999999999999"_s, u"4294967303"_s, u"x"_s, QString()})
         EXPECT_EQ(found(adjustment, number), QString()) << qPrintable(number);
 

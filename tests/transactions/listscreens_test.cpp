@@ -1,3 +1,4 @@
+#include "controls/screens/keptfiltersdialog.h"
 #include "controls/screens/recordopener.h"
 #include "master/screens/itemsfind.h"
 #include "tests/support/documents.h"
@@ -15,7 +16,6 @@
 #include "transactions/screens/invtotals.h"
 #include "transactions/screens/invtotalsfilter.h"
 
-#include <QAccessible>
 #include <QListWidget>
 
 using namespace Qt::StringLiterals;
@@ -80,6 +80,51 @@ TEST_F(ListScreensTest, receiptsAreListedLatestFirstFilteredAndFound)
     EXPECT_EQ(grid->currentIndex().row(), 2);
 }
 
+// Any words, as typing in the list finds them, once no number is found. The refusal stays.
+TEST_F(ListScreensTest, findDialogsFindWordsWhereNothingHasTheNumber)
+{
+    addReceipts();
+    kitchen.execute(u"UPDATE Vendor SET VendorName = 'Crème & Söhne' WHERE VendorID = 1"_s);
+    kitchen.setStock(1, 1, 5, 1);
+    kitchen.setStock(2, 2, 7, 1);
+    auto &receipts = open<TfrmInvReceipts>();
+    EXPECT_TRUE(whileOpen<DocumentFindScreen>(
+        [&] { receipts.btnFindClick(); },
+        [&](DocumentFindScreen &dialog) {
+            const auto *told = child<QLabel>(dialog, "lblFound");
+            type("1002<F3>"); // below the row of the list
+            EXPECT_EQ(grid->currentIndex().row(), 1);
+            typeOver(dialog, "editReceipt", "");
+            type(u"sÖHne creme"_s);
+            press(Qt::Key_Return);
+            EXPECT_EQ(prompts.told(), u"error: Receipt 'sÖHne creme' not found"_s);
+            EXPECT_EQ(grid->currentIndex().row(), 0);
+            EXPECT_TRUE(told->text().startsWith(u"These words are in row 1 of 3: 3/2026, 14 Mar 26, 1003, Crème"_s))
+                << qPrintable(told->text());
+            press(Qt::Key_Return);
+            EXPECT_EQ(grid->currentIndex().row(), 2) << "and the next, which the same key goes to";
+            press(Qt::Key_Return);
+            EXPECT_EQ(grid->currentIndex().row(), 0);
+            EXPECT_EQ(prompts.told(), QString());
+            type("nix<Return>");
+            EXPECT_EQ(prompts.told(), u"error: Receipt 'nix' not found"_s);
+            EXPECT_EQ(told->text(), u"No row of the list has these words."_s);
+            EXPECT_EQ(grid->currentIndex().row(), 0);
+            type("1001<Return>");
+            EXPECT_FALSE(dialog.isVisible());
+        }));
+    EXPECT_EQ(grid->currentIndex().row(), 2);
+
+    auto &totals = open<TfrmInvTotals>();
+    EXPECT_TRUE(whileOpen<TfrmItemsFind>([&] { totals.btnFindClick(); },
+                                         [&](TfrmItemsFind &dialog) {
+                                             type("freez<Return>");
+                                             EXPECT_EQ(prompts.told(), u"error: Item no. 'freez' not found"_s);
+                                             EXPECT_TRUE(dialog.isVisible());
+                                         }));
+    EXPECT_EQ(totals.dataSet().text(u"WarehouseName"), u"Freezer"_s);
+}
+
 TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
 {
     open<TfrmInvReceipts>();
@@ -123,44 +168,6 @@ TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
     EXPECT_EQ(row(grid->currentIndex().row()).at(2), u"1010"_s);
     EXPECT_TRUE(comesTrue([&] { return history->isActiveWindow(); })) << "where work goes on";
     EXPECT_EQ(prompts.said, QStringList());
-}
-
-TEST_F(ListScreensTest, postedDocumentsOfAllKindsLookAsTheyAre)
-{
-    for (const DocumentKind *kind : DocumentKinds::all()) {
-        SCOPED_TRACE(qPrintable(kind->name));
-        addDocument(kitchen, *kind, 1, 1, {{1, u"2"_s, u"3"_s}});
-        const QString refusal = u"inform: "_s + kind->entry.postedRefusal;
-        kitchen.execute(u"UPDATE %1 SET Posted = true"_s, kind->headerTable);
-        const std::unique_ptr<RecordScreen> screen(recordScreens(*kind).make(*context, mainWindow.get()));
-        ASSERT_TRUE(screen->openRecord(1));
-        screen->setAttribute(Qt::WA_DeleteOnClose, false);
-        showActive(*screen);
-        int fields = 0;
-        const QList<QWidget *> widgets = screen->findChildren<QWidget *>();
-        for (QWidget *widget : widgets) {
-            if (!widget->property("dataField").isValid() || qobject_cast<QLabel *>(widget))
-                continue;
-            SCOPED_TRACE(qPrintable(widget->objectName()));
-            ++fields;
-            if (qobject_cast<QCheckBox *>(widget)) {
-                EXPECT_FALSE(widget->isEnabled());
-                continue;
-            }
-            EXPECT_TRUE(QAccessible::queryAccessibleInterface(widget)->state().readOnly);
-            widget->setFocus();
-            for (const char *keys : {"9", "<Del>", "<Backspace>"}) {
-                type(keys);
-                EXPECT_EQ(prompts.told(), refusal) << keys;
-            }
-        }
-        EXPECT_GE(fields, 5);
-        auto *lines = child<QTableView>(*screen, "DBGrid1");
-        EXPECT_FALSE(lines->model()->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
-        typeIn(*screen, "DBGrid1", "9");
-        EXPECT_EQ(prompts.told(), refusal);
-        EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM %1 WHERE WarehouseID = 1"_s, kind->headerTable), 1);
-    }
 }
 
 TEST_F(ListScreensTest, postingIsOfferedOnClosingAndTold)
@@ -284,6 +291,13 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
     auto &totals = open<TfrmInvTotals>();
     EXPECT_EQ(row(0).mid(0, 4), (QStringList{QString(), QString(), QString(), u"5"_s}));
     EXPECT_EQ(row(1).join(u'|'), u"A10|Apples|Freezer|2.5|5.00||"_s);
+    const auto isWorth = [&](const QString &value) {
+        return comesTrue([&] {
+            const auto *sum = totals.findChild<QLabel *>(u"lblSum"_s);
+            return sum && sum->text() == value;
+        });
+    };
+    EXPECT_TRUE(isWorth(u"33.00"_s));
     grid->setCurrentIndex(grid->model()->index(2, 0));
     totals.command(u"mnuSortDescription"_s)->trigger();
     EXPECT_EQ(grid->currentIndex().row(), 0);
@@ -303,9 +317,15 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
         }));
     EXPECT_EQ(totals.dataSet().filter(), u"(ItemID = 1) AND (WarehouseID = 1)"_s);
     EXPECT_EQ(rows(), 1);
+    EXPECT_TRUE(isWorth(u"20.00"_s));
     EXPECT_TRUE(whileOpen<TfrmInvTotalsFilter>([&] { totals.btnFilterClick(); },
-                                               [](TfrmInvTotalsFilter &dialog) {
+                                               [&](TfrmInvTotalsFilter &dialog) {
                                                    child<QPushButton>(dialog, "btnReset")->click();
+                                                   typeIn(dialog, "editNotMovedSince", "13/1/26<Tab>");
+                                                   child<QPushButton>(dialog, "btnOK")->click();
+                                                   EXPECT_TRUE(dialog.isVisible());
+                                                   EXPECT_FALSE(prompts.told().isEmpty());
+                                                   typeOver(dialog, "editNotMovedSince", "");
                                                    typeIn(dialog, "cboStock", "b");
                                                    typeIn(dialog, "editNotMovedSince", "3/1/26<Return>");
                                                }));
@@ -384,7 +404,7 @@ TEST_F(ListScreensTest, whatAListIsNarrowedToStandsAboveItsRows)
     EXPECT_TRUE(whileOpen<DocumentFilterScreen>(narrow, [](DocumentFilterScreen &dialog) {
         typeOver(dialog, "editWords", "");
         child<QCheckBox>(dialog, "chkDayFromAll")->click();
-        typeOver(dialog, "editDayFrom", "010326");
+        typeOver(dialog, "editDayFrom", "3/1/26");
         child<QPushButton>(dialog, "btnOK")->click();
     }));
     EXPECT_EQ(receipts.dataSet().filter(), u"(ReceiptDate >= '2026-03-01')"_s);
@@ -398,6 +418,93 @@ TEST_F(ListScreensTest, whatAListIsNarrowedToStandsAboveItsRows)
     auto &history = open<TfrmInvHistory>();
     history.filterBy({{u"ItemID"_s, 1}, {u"WarehouseID"_s, 1}});
     EXPECT_EQ(child<QAbstractButton>(history, "btnFilterChip")->text(), u"Item: Apples, Location: Office"_s);
+}
+
+// In whatever list, for each user; a name is given to another filter only by who says so.
+TEST_F(ListScreensTest, filtersAreKeptByName)
+{
+    addReceipts();
+    context->settings = &settings;
+    kitchen.execute(u"INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (9, 'Attic')"_s);
+    auto *receipts = &open<TfrmInvReceipts>();
+    const auto narrow = [&](int location, const char *mark) {
+        EXPECT_TRUE(whileOpen<DocumentFilterScreen>([&] { receipts->btnFilterClick(); },
+                                                    [&](DocumentFilterScreen &dialog) {
+                                                        dialog.btnResetClick();
+                                                        dialog.setKey(u"cboWarehouse"_s, location);
+                                                        child<QRadioButton>(dialog, mark)->click();
+                                                        child<QPushButton>(dialog, "btnOK")->click();
+                                                    }));
+    };
+    const auto manage = [&](const std::function<void(KeptFiltersDialog &)> &step) {
+        showActive(*receipts);
+        EXPECT_TRUE(
+            whileOpen<KeptFiltersDialog>([&] { press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier); }, step));
+    };
+    const auto keepAs = [&](const QString &name) {
+        manage([&](KeptFiltersDialog &dialog) {
+            type(name);
+            press(Qt::Key_Return);
+            EXPECT_TRUE(dialog.isVisible());
+        });
+    };
+    const auto names = [&] {
+        auto *menu = receipts->findChild<KeptFilterMenu *>();
+        Q_EMIT menu->aboutToShow();
+        QStringList shown;
+        for (const QAction *entry : menu->actions()) {
+            if (entry->isCheckable())
+                shown << entry->text() + (entry->isChecked() ? u" *"_s : QString());
+        }
+        return shown.join(u'|');
+    };
+    const auto choose = [&](int entry) { receipts->findChild<KeptFilterMenu *>()->actions()[entry]->trigger(); };
+    const auto filter = [&] { return receipts->dataSet().isFiltered() ? receipts->dataSet().filter() : QString(); };
+
+    manage([](KeptFiltersDialog &dialog) {
+        EXPECT_FALSE(child<QPushButton>(dialog, "btnKeep")->isEnabled()) << "every row shows";
+        EXPECT_FALSE(child<QPushButton>(dialog, "btnDelete")->isEnabled());
+    });
+    narrow(2, "optPostedNo");
+    keepAs(u"Ü & \"%1\" 氷/\\"_s);
+    narrow(9, "optPostedAll");
+    keepAs(u"Attic"_s);
+    EXPECT_EQ(names(), u"Attic *|Ü && \"%1\" 氷/\\"_s);
+    choose(1);
+    EXPECT_EQ(filter(), u"(WarehouseID = 2) AND (Posted = false)"_s);
+    EXPECT_EQ(child<QAbstractButton>(*receipts, "btnFilterChip")->text(), u"Location: Freezer, Posted: No"_s);
+
+    prompts.ok = false;
+    keepAs(u"attic"_s);
+    EXPECT_EQ(prompts.told(), u"Confirm: There is a filter 'Attic' already. Replace it?"_s);
+    prompts.ok = true;
+    kitchen.execute(u"DELETE FROM Warehse WHERE WarehouseID = 9"_s);
+    names();
+    choose(0);
+    EXPECT_EQ(prompts.told(),
+              u"error: The filter 'Attic' no longer fits this list: something that it asks for is gone "
+              u"(Location: Attic). You can delete it."_s);
+    EXPECT_EQ(filter(), u"(WarehouseID = 2) AND (Posted = false)"_s) << "and all is as it was";
+    manage([&](KeptFiltersDialog &dialog) {
+        child<QTableView>(dialog, "grdFilters")->selectRow(0);
+        ::click(dialog, "btnDelete");
+        child<QTableView>(dialog, "grdFilters")->selectRow(0);
+        typeOver(dialog, "editName", "Open");
+        ::click(dialog, "btnRename");
+    });
+    EXPECT_EQ(prompts.told(), u"Confirm: Delete the filter 'Attic'?"_s);
+    EXPECT_EQ(names(), u"Open *"_s);
+
+    delete receipts;
+    receipts = &open<TfrmInvReceipts>();
+    EXPECT_EQ(names(), u"Open"_s) << "kept beyond the window";
+    manage([](KeptFiltersDialog &) { press(Qt::Key_Return); });
+    EXPECT_EQ(filter(), u"(WarehouseID = 2) AND (Posted = false)"_s);
+    settings.writable = false;
+    keepAs(u"Other"_s);
+    EXPECT_EQ(prompts.told(), u"error: Your settings cannot be written. The kept filters stay as they were."_s);
+    data->setCurrentUser(u"Somebody else"_s);
+    EXPECT_EQ((KeptFilters(u"frmInvReceipts"_s, *data, &settings).all().size()), 0);
 }
 
 TEST_F(ListScreensTest, historyLeadsFromTotalsToTheDocument)

@@ -1,7 +1,6 @@
+#include "tests/support/documents.h"
 #include "tests/support/otheruser.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
 
 #include <cstdio>
 
@@ -46,6 +45,18 @@ void post(Engine::Database &database, const QStringList &arguments)
     posting.run(prompts, progress);
 }
 
+// Enters a document of a kind, without saving it, until it is killed.
+void begin(Engine::Database &database, const QStringList &arguments)
+{
+    SpokenPrompts prompts;
+    const auto entry = DocumentKinds::find(arguments.value(0))->entry.make(database, prompts);
+    entry->open();
+    beginDocument(*entry);
+    std::puts("here");
+    std::fflush(stdout);
+    std::getchar();
+}
+
 } // namespace
 
-int main(int argc, char **argv) { return runTests(argc, argv, {{u"post"_s, post}}); }
+int main(int argc, char **argv) { return runTests(argc, argv, {{u"post"_s, post}, {u"begin"_s, begin}}); }

@@ -273,7 +273,20 @@ struct EntryOnAServer : testing::Test
         ASSERT_TRUE(entry->openDocument(7));
     }
     void change(double quantity) { changeLine(*entry, 0, u"QtyReceived", quantity); }
-    void cut() { anna->endOtherSessions(); }
+    void admit(bool allowed) // new connections
+    {
+        TestUser outside(u"outside"_s, u"postgres"_s);
+        outside.useTestServer(u"postgres"_s);
+        outside.database.connection().execute(u"ALTER DATABASE %1 ALLOW_CONNECTIONS %2"_s.arg(
+            kitchen.remoteName(), allowed ? u"true"_s : u"false"_s));
+    }
+    // The connection is lost; a new one comes about when somebody has been told of it.
+    void cut()
+    {
+        anna->database.connection();
+        admit(false);
+        anna->endOtherSessions();
+    }
     QStringList stored() { return rowsOf(anna->database, u"SELECT QtyReceived FROM IRecDet ORDER BY Seq"_s); }
     bool isFree()
     {
@@ -299,24 +312,30 @@ TEST_F(EntryOnAServer, WhatOthersDoMeanwhileIsNotOverwrittenAndTold)
         {u"DELETE FROM IReceipt"_s, {u"50"_s, u"6"_s}},
     };
     for (const auto &[meanwhile, stays] : cases) {
-        SCOPED_TRACE(qPrintable(meanwhile));
-        change(50);
-        cut();
-        EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
-        anna->database.connection().execute(meanwhile);
-        QString refusal;
-        EXPECT_TRUE(errorOf([&] { refusal = refusalOf([&] { entry->save(); }); }) || !refusal.isEmpty());
-        entry->cancel();
-        EXPECT_EQ(stored(), stays);
-        EXPECT_TRUE(has(prompts.last(), u"Lines changed: 1."_s));
-        EXPECT_EQ(entry->closing(), DocumentEntry::Closing::Free);
-        anna->database.connection().execute(u"DELETE FROM IRecDet; DELETE FROM IReceipt"_s);
-        kitchen.addReceipt(7, 1, 1, {{1, 5, 1}, {2, 6, 1}});
-        begin();
+        for (const bool isTold : {true, false}) { // or connected again before
+            SCOPED_TRACE(qPrintable(meanwhile));
+            change(50);
+            cut();
+            if (isTold) {
+                EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
+            }
+            admit(true);
+            anna->database.connection().execute(meanwhile);
+            QString refusal;
+            EXPECT_TRUE(errorOf([&] { refusal = refusalOf([&] { entry->save(); }); }) || !refusal.isEmpty());
+            entry->cancel();
+            EXPECT_EQ(stored(), stays);
+            EXPECT_TRUE(has(prompts.last(), u"Lines changed: 1."_s));
+            EXPECT_EQ(entry->closing(), DocumentEntry::Closing::Free);
+            anna->database.connection().execute(u"DELETE FROM IRecDet; DELETE FROM IReceipt"_s);
+            kitchen.addReceipt(7, 1, 1, {{1, 5, 1}, {2, 6, 1}});
+            begin();
+        }
     }
     // Somebody is at it now: what has been entered can be taken back once he is through.
     change(50);
     cut();
+    admit(true);
     Engine::LockManager &locks = anna->database.connection().locks();
     ASSERT_TRUE(locks.tryLockRecord(u"IReceipt"_s, {7}));
     prompts.take();
@@ -342,6 +361,7 @@ TEST_F(EntryOnAServer, ANewReceiptThatWasStoredUnnoticedIsToldAsSaved)
             QString::number(key), entry->header().text(u"ReceiptNo")));
     cut();
     EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
+    admit(true);
     const QString told =
         u"The document had been saved before the connection was lost. Close this screen with Cancel "
         "and open the document anew. -> "_s;
@@ -368,6 +388,7 @@ TEST_F(EntryOnAServer, AReceiptThatWasStoredUnnoticedIsNobodyElsesChange)
             });
         };
         EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
+        admit(true);
         entry->header().rules = checks;
         if (cancelled)
             entry->cancel();

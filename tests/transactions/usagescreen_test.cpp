@@ -80,7 +80,7 @@ TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
     type("9"); // what is calculated takes nothing
     press(Qt::Key_Return);
     EXPECT_EQ(cursor(), u"1,0"_s);
-    EXPECT_EQ(child<QLabel>(*screen, "lblInvoiceAmount")->text(), u"6.00"_s);
+    EXPECT_EQ(child<QLabel>(*screen, "lblLinesTotal")->text(), u"6.00"_s);
     enterLine("2", "A11");
     type("<Tab><Tab>ap"); // completed to "Apples", whose first letter has another case
     press(Qt::Key_Tab);

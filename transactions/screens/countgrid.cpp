@@ -176,19 +176,8 @@ void CountGrid::takeQuantity(int item, const QString &text)
         return;
     }
     if (quantity.toDouble() != m_list->row(item).counted())
-        requireWithinLimits(item, text);
+        m_list->requireWithinRecord(item, quantity.toDouble(), m_blind);
     m_actions.count(item, quantity.toDouble());
-}
-
-void CountGrid::requireWithinLimits(int item, const QString &text) const
-{
-    const LineSteps within = limits(item);
-    if (m_blind && m_quantity.parse(text).toDouble() > within.highest)
-        throw RuleError(
-            tr("This is more than is recorded. Count the item once more. If it is right, write down what is "
-               "there, to enter it as an adjustment when the usage of the count has been posted."),
-            m_quantity.name);
-    requireWithin(within, m_quantity, text);
 }
 
 void CountGrid::entered() { nextItem(); }
@@ -205,7 +194,19 @@ bool CountGrid::editorKey(QKeyEvent *event)
     return EntryGrid::editorKey(event);
 }
 
-void CountGrid::keyPressEvent(QKeyEvent *event)
+bool CountGrid::isCode(const QString &text) const
+{
+    bool isOne = false;
+    guard().run([&] { isOne = m_actions.isCode(text); });
+    return isOne;
+}
+
+void CountGrid::takeScan(const QString &code)
+{
+    guard().run([&] { m_actions.scan(code); });
+}
+
+void CountGrid::gridKey(QKeyEvent *event)
 {
     const int item = currentItem();
     if (isEnter(event))
@@ -216,7 +217,7 @@ void CountGrid::keyPressEvent(QKeyEvent *event)
     }
     if (item >= 0 && typesNumber(event) && currentIndex().column() != CountModel::StandardCost)
         showItem(item);
-    EntryGrid::keyPressEvent(event);
+    EntryGrid::gridKey(event);
 }
 
 } // namespace Tallymere

@@ -16,6 +16,8 @@ struct CountActions
     std::function<void(int item, std::optional<double> quantity)> count; // nothing: it has not been counted
     std::function<void(int item, Engine::Money cost)> setCost;
     std::function<void(CountList::Order order)> sort; // wanted by a click on a title
+    std::function<bool(const QString &text)> isCode; // what a scanner has sent, be it in the list or not
+    std::function<void(const QString &code)> scan;
 };
 
 // The items of a count and their quantities. Enter goes to the next item's quantity; digits typed anywhere in a row go into
@@ -42,7 +44,9 @@ Q_SIGNALS:
     void itemShown(); // the cursor has moved to another row
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    void gridKey(QKeyEvent *event) override;
+    bool isCode(const QString &text) const override;
+    void takeScan(const QString &code) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     bool editorKey(QKeyEvent *event) override;
 
@@ -55,7 +59,6 @@ private:
     void titleClicked(int column);
     void showOrder();
     LineSteps limits(int item) const;
-    void requireWithinLimits(int item, const QString &text) const;
 
     const CountList *m_list = nullptr;
     CountModel *m_model = nullptr;

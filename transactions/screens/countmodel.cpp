@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <QFont>
 #include <QGuiApplication>
+#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -146,12 +147,24 @@ QString CountModel::text(const CountRow &row, int column, int role) const
     }
 }
 
+// Of what somebody else has counted.
+QString CountModel::markText(const CountRow &row) const
+{
+    if (row.mark.by.isEmpty())
+        return {};
+    return tr("Counted by %1, %2").arg(row.mark.by, QLocale::system().toString(row.mark.at, QLocale::ShortFormat));
+}
+
 // What has been counted is bold, and on a ground of its own where it differs; what has not been shows the recorded quantity
 // faintly.
 QVariant CountModel::look(const CountRow &row, int column, int role) const
 {
     if (!isCountColumn(column))
         return {};
+    if (column == Quantity && role == cellMarkRole)
+        return !row.mark.by.isEmpty();
+    if (column == Quantity && (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole))
+        return markText(row);
     if (role == cellQuietRole)
         return !row.typed;
     if (role == Qt::BackgroundRole && row.typed && row.differs() && !m_blind)

@@ -45,6 +45,7 @@ private:
     QVariant headingData(int row, int role) const;
     QString text(const CountRow &row, int column, int role) const;
     QString quantityText(const CountRow &row) const;
+    QString markText(const CountRow &row) const;
     QVariant look(const CountRow &row, int column, int role) const;
 
     const CountList &m_list;

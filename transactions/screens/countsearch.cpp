@@ -13,12 +13,14 @@
 
 namespace Tallymere {
 
-CountSearch::CountSearch(QLineEdit &box, QLabel &notFound, const CountList &list, CountGrid &grid)
+CountSearch::CountSearch(QLineEdit &box, QLabel &notFound, const CountList &list, CountGrid &grid,
+                         ItemOfBarcode itemOfBarcode)
     : QObject(&box)
     , m_box(box)
     , m_notFound(notFound)
     , m_list(list)
     , m_grid(grid)
+    , m_itemOfBarcode(std::move(itemOfBarcode))
 {
     connect(&box, &QLineEdit::textEdited, this, &CountSearch::typed);
 }
@@ -39,7 +41,15 @@ void CountSearch::typed(const QString &text)
     show(m_list.rowStartingWith(text));
 }
 
-// An item number leads to its item whatever the order is.
+void CountSearch::enter(const QString &text)
+{
+    m_box.setText(text);
+    enter();
+    if (!m_unknown.isEmpty())
+        m_box.setFocus();
+}
+
+// An item number or a barcode leads to its item whatever the order is.
 void CountSearch::enter()
 {
     const QString text = m_box.text().trimmed();
@@ -48,7 +58,7 @@ void CountSearch::enter()
         return m_grid.setFocus();
     if (isQuantityOfUnknown(text))
         return refuse(tr("%1 is not taken: '%2' is not in the list").arg(Engine::excerpt(text), m_unknown));
-    const int numbered = m_list.rowOfNumber(text);
+    const int numbered = rowOfCode(text);
     const int row = numbered >= 0 ? numbered : m_list.rowStartingWith(text);
     if (row < 0) {
         m_unknown = Engine::excerpt(text);
@@ -57,6 +67,15 @@ void CountSearch::enter()
     forgetUnknown();
     show(row);
     m_grid.countItem(row);
+}
+
+int CountSearch::rowOfCode(const QString &text) const
+{
+    const int numbered = m_list.rowOfNumber(text);
+    if (numbered >= 0)
+        return numbered;
+    const std::optional<int> item = m_itemOfBarcode(text);
+    return item ? m_list.rowOfItem(*item) : -1;
 }
 
 // Numbers that counters give are not as small as most quantities. Any other number is one of an item or nothing: the
@@ -68,7 +87,7 @@ bool CountSearch::isQuantityOfUnknown(const QString &text) const
     bool isNumber = false;
     const QString number = QString(text).replace(RegionalSettings::system().decimalPoint, u'.').trimmed();
     const double quantity = QLocale::c().toDouble(number, &isNumber);
-    return isNumber && (quantity < firstNumber || m_list.rowOfNumber(text.trimmed()) < 0);
+    return isNumber && (quantity < firstNumber || rowOfCode(text.trimmed()) < 0);
 }
 
 // Where who counts looks, and to be heard by who does not.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <QObject>
 #include <QString>
 
@@ -19,10 +21,14 @@ class CountSearch final : public QObject
 
 public:
     // Belongs to the box. The label says what is not found; the cursor of the grid, which shows the list, goes to what is.
-    CountSearch(QLineEdit &box, QLabel &notFound, const CountList &list, CountGrid &grid);
+    // An item is also known by its barcodes, which tell its key, if there is one.
+    using ItemOfBarcode = std::function<std::optional<int>(const QString &code)>;
+    CountSearch(QLineEdit &box, QLabel &notFound, const CountList &list, CountGrid &grid,
+                ItemOfBarcode itemOfBarcode);
 
     void start(); // the box has the keyboard
     void enter(); // as Enter in the box
+    void enter(const QString &text); // as if it stood there
     void forgetUnknown(); // what was not found is an item of another list, or was no more than a beginning
 
 Q_SIGNALS:
@@ -30,6 +36,7 @@ Q_SIGNALS:
 
 private:
     void typed(const QString &text);
+    int rowOfCode(const QString &text) const; // by its number or a barcode; -1 for none
     bool isQuantityOfUnknown(const QString &text) const;
     void refuse(const QString &said);
     void show(int item);
@@ -38,6 +45,7 @@ private:
     QLabel &m_notFound;
     const CountList &m_list;
     CountGrid &m_grid;
+    ItemOfBarcode m_itemOfBarcode;
     QString m_unknown; // what was searched for last and is no item of the list
 };
 

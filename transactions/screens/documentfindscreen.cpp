@@ -1,13 +1,15 @@
 #include "transactions/screens/documentfindscreen.h"
 
 #include "controls/screens/filternote.h"
+#include "controls/screens/listscreen.h"
+#include "controls/screens/wordsfinding.h"
 #include "transactions/documentlist.h"
 #include "ui_documentfindscreen.h"
 
 namespace Tallymere {
 
-DocumentFindScreen::DocumentFindScreen(ScreenContext &context, DocumentList &list, QWidget *parent)
-    : DialogScreen(context, parent)
+DocumentFindScreen::DocumentFindScreen(ScreenContext &context, DocumentList &list, ListScreen &screen)
+    : DialogScreen(context, &screen)
     , m_ui(std::make_unique<Ui::DocumentFindScreen>())
     , m_list(list)
 {
@@ -18,6 +20,7 @@ DocumentFindScreen::DocumentFindScreen(ScreenContext &context, DocumentList &lis
     m_ui->lblNumber->setText(find.label);
     m_ui->editNumber->setObjectName(find.box);
     addFilterNote(*this, list.table());
+    m_words = new WordsFinding(*this, *m_ui->editNumber, screen);
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &DocumentFindScreen::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -26,7 +29,9 @@ DocumentFindScreen::~DocumentFindScreen() = default;
 
 void DocumentFindScreen::btnOKClick()
 {
-    m_list.find(m_ui->editNumber->text().trimmed());
+    if (m_words->goesOn())
+        return m_words->findNext();
+    m_words->runOrFind([this] { m_list.find(m_ui->editNumber->text().trimmed()); });
     accept();
 }
 

@@ -26,7 +26,7 @@ DocumentListScreen::DocumentListScreen(ScreenContext &context, const DocumentKin
             [&kind](const ListFilter &filter) { return documentFilter(filter, kind.list.filter.notPosted); },
         .makeFind = {}};
     if (kind.list.find)
-        dialogs.makeFind = [this] { return std::make_unique<DocumentFindScreen>(this->context(), m_list, this); };
+        dialogs.makeFind = [this] { return std::make_unique<DocumentFindScreen>(this->context(), m_list, *this); };
     setDialogs(std::move(dialogs));
 }
 
@@ -60,7 +60,7 @@ ListDescription DocumentListScreen::description()
             .caption = kind.list.caption,
             .columns = kind.list.columns,
             .buttons = recordButtons(),
-            .menus = {fileMenu(kind.list.report), records, viewMenu(kind.list.orders, 0, sort),
+            .menus = {fileMenu(kind.list.report, kind.name), records, viewMenu(kind.list.orders, 0, sort),
                       helpMenu(tr("%1 &Help").arg(kind.list.caption))}};
 }
 

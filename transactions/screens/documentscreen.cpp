@@ -8,19 +8,26 @@
 #include "controls/windows/icons.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/statelabel.h"
+#include "controls/windows/sumlabel.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "data/lookupsdatainv.h"
 #include "master/screens/itemsearchinv.h"
+#include "master/screens/scanneditem.h"
+#include "transactions/leftdocuments.h"
 #include "transactions/reversal.h"
 #include "transactions/screens/documentscreens.h"
+#include "transactions/screens/pasterowsscreen.h"
 
 #include <functional>
 #include <QAction>
 #include <QBoxLayout>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -68,20 +75,23 @@ void DocumentScreen::buildDocument(LineOptions options)
     m_posted = findChild<QLabel *>(u"lblPosted"_s);
     addOpenMark();
     binder().bind(m_entry->header());
-    m_grid->setLines(m_entry->lines(), columns,
-                     {.begin = [this] { beginLine(); },
-                      .append = [this] { m_entry->newLine(); },
-                      .remove = [this] { m_entry->removeLine(); },
-                      .enter = [this](const QString &field, const QString &text) { enterCell(field, text); },
-                      .columnSelected = [this](const QString &field) { m_entry->setLineColumn(field); },
-                      .search = [this](const QString &, const QString &typed) { return searchItem(typed); },
-                      .searchColumns = {numberColumn.toString()},
-                      .complete = [this](const QString &field,
-                                         const QString &typed) { return completeDescription(field, typed); }},
-                     guard(), options);
+    m_grid->setLines(
+        m_entry->lines(), columns,
+        {.begin = [this] { beginLine(); },
+         .append = [this] { m_entry->newLine(); },
+         .remove = [this] { m_entry->removeLine(); },
+         .enter = [this](const QString &field, const QString &text) { enterCell(field, text); },
+         .columnSelected = [this](const QString &field) { m_entry->setLineColumn(field); },
+         .search = [this](const QString &, const QString &typed) { return searchItem(typed); },
+         .searchColumns = {numberColumn.toString()},
+         .isCode = [this](const QString &text) { return isItemCode(this->context(), text); },
+         .scan = [this](const QString &field, const QString &code) { takeScan(field == numberColumn, code); },
+         .complete = [this](const QString &field,
+                            const QString &typed) { return completeDescription(field, typed); }},
+        guard(), options);
     addPopupCommands();
     addItemCard();
-    addNewLineButton();
+    addLineButtons();
     addBottomRow();
     connect(&m_entry->header(), &Engine::DataSet::fieldChanged, this, &DocumentScreen::showHeader);
     connect(&m_entry->header(), &Engine::DataSet::currentChanged, this, &DocumentScreen::showHeader);
@@ -96,15 +106,19 @@ QList<GridColumn> DocumentScreen::gridColumns(LineOptions &options) const
     QList<GridColumn> columns = m_entry->kind().entry.lineColumns;
     for (GridColumn &column : columns) {
         column.takesSurplus = column.field == descriptionField;
-        if (!takesText(column.field))
+        if (!m_entry->takesText(column.field))
             options.fixed << column.field;
     }
     QList<GridColumn> behind = m_entry->kind().entry.toldColumns;
     const std::pair<QString, QString> ofStock[] = {{DocumentEntry::OnHand.toString(), tr("On hand")},
                                                    {DocumentEntry::Afterwards.toString(), tr("After")}};
     for (const auto &[field, title] : ofStock)
-        behind.append(
-            {.field = field, .title = title, .width = stockWidth, .alignment = Qt::AlignRight, .setOff = true});
+        behind.append({.field = field,
+                       .title = title,
+                       .width = stockWidth,
+                       .alignment = Qt::AlignRight,
+                       .setOff = true,
+                       .warnsBelowZero = true});
     for (const GridColumn &column : std::as_const(behind))
         options.behind << column.field;
     return columns + behind;
@@ -123,30 +137,34 @@ void DocumentScreen::addOpenMark()
     }
 }
 
-// For the mouse, and for programs that press buttons for the user. It leaves the keys where they are.
-void DocumentScreen::addNewLineButton()
+// For the mouse, and for programs that press buttons for the user. They leave the keys where they are.
+void DocumentScreen::addLineButtons()
 {
-    m_newLine = new QToolButton(this);
-    m_newLine->setObjectName(u"btnNewLine"_s);
-    m_newLine->setText(tr("New Line"));
-    m_newLine->setToolTip(tr("Appends a line (Page Down)"));
-    m_newLine->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_newLine->setFocusPolicy(Qt::NoFocus);
+    m_newLine =
+        addLineButton(u"btnNewLine"_s, tr("New Line"), tr("Appends a line (Page Down)"), m_popup.constFirst());
     setGlyph(*m_newLine, Glyph::New);
-    connect(m_newLine, &QToolButton::clicked, m_popup.constFirst(), &QAction::trigger);
+    m_pasteButton = addLineButton(u"btnPasteRows"_s, tr("Paste Rows..."),
+                                  tr("Takes rows of a spreadsheet from the clipboard (Ctrl+Shift+V)"), m_paste);
+    setGlyph(*m_pasteButton, Glyph::Copy);
+}
+
+QToolButton *DocumentScreen::addLineButton(const QString &name, const QString &text, const QString &toolTip,
+                                           QAction *action)
+{
+    auto *button = new QToolButton(this);
+    button->setObjectName(name);
+    button->setText(text);
+    button->setToolTip(toolTip);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &QToolButton::clicked, action, &QAction::trigger);
     QWidget *figures = findChild<FiguresLine *>();
     const QList<QBoxLayout *> rows = findChildren<QBoxLayout *>();
     for (QBoxLayout *row : rows) {
         if (const int place = row->indexOf(figures); place >= 0)
-            row->insertWidget(place, m_newLine);
+            row->insertWidget(place, button);
     }
-}
-
-// What is looked up or calculated takes a text only where that chooses the item.
-bool DocumentScreen::takesText(const QString &column) const
-{
-    const bool isStored = std::as_const(*m_entry).lines().field(column).kind == Engine::FieldKind::Data;
-    return isStored || column == numberColumn || column == descriptionField;
+    return button;
 }
 
 // The text of a line that its item brings along, or that it may do without.
@@ -178,6 +196,7 @@ void DocumentScreen::addPopupCommands()
                     [this] { m_grid->removeLine(); });
     m_undo = addPopupCommand(u"mnuUndoDelete"_s, tr("Undo Delete"), QKeySequence(Qt::CTRL | Qt::Key_Z),
                              [this] { putLineBack(); });
+    addPasteRows();
     addPassesKnown();
 }
 
@@ -192,6 +211,21 @@ QAction *DocumentScreen::addPopupCommand(const QString &name, const QString &cap
     m_popup.append(action);
     connect(action, &QAction::triggered, this, [this, run] { guard().runWhenFree(run); });
     return action;
+}
+
+// Reached from the fields as well. In the lines, what is copied from a spreadsheet is known by its several cells; a cell
+// being typed into takes the clipboard as any box does.
+void DocumentScreen::addPasteRows()
+{
+    m_paste = addPopupCommand(u"mnuPasteRows"_s, tr("Paste Rows..."),
+                              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), [this] { pasteRows(); });
+    m_paste->setShortcutContext(Qt::WindowShortcut);
+    auto *cells = new QShortcut(QKeySequence::Paste, m_grid);
+    cells->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(cells, &QShortcut::activated, this, [this] {
+        if (m_paste->isEnabled() && PastedRows::isSeveralCells(QGuiApplication::clipboard()->text()))
+            m_paste->trigger();
+    });
 }
 
 // The user's choice, the same in all documents.
@@ -217,10 +251,8 @@ void DocumentScreen::addBottomRow()
         m_figures->follow(*m_grid);
     auto *ok = findChild<QPushButton *>(u"btnOK"_s);
     auto *row = qobject_cast<QBoxLayout *>(ok->parentWidget()->layout());
-    m_total = new QLabel(ok->parentWidget());
-    m_total->setObjectName(u"lblLinesTotal"_s);
-    m_total->setTextFormat(Qt::PlainText);
-    m_reverse = new QPushButton(tr("&Reverse..."), ok->parentWidget());
+    m_total = new SumLabel(u"lblLinesTotal"_s, ok->parentWidget());
+    m_reverse = new QPushButton(tr("Rever&se..."), ok->parentWidget());
     m_reverse->setObjectName(u"btnReverse"_s);
     connectGuarded(m_reverse, &QPushButton::clicked, this, &DocumentScreen::btnReverseClick);
     row->insertWidget(row->indexOf(ok), m_reverse);
@@ -251,16 +283,18 @@ void DocumentScreen::showTold()
 {
     QString total;
     QString said;
+    QString warned;
     const std::exception_ptr failure = Guard::attempt([&] {
         total = m_entry->totalText();
         said = note();
+        warned = said.isEmpty() ? warning() : QString();
     });
     if (failure)
         Guard::trace(failure);
-    m_total->setText(total);
+    m_total->setSum(tr("Total"), total);
     m_undo->setEnabled(!m_grid->isReadOnly() && !m_entry->takenOut().isEmpty());
     if (m_figures)
-        m_figures->setNote(said);
+        m_figures->setNote(said + warned, warned.isEmpty() ? FiguresLine::Note::Plain : FiguresLine::Note::Warning);
 }
 
 QString DocumentScreen::note() const
@@ -270,13 +304,48 @@ QString DocumentScreen::note() const
     if (const std::optional<DocumentEntry::Offer> offer = m_entry->offerFor(column))
         return tr("%1. Enter takes it.").arg(offer->origin);
     const QString taken = m_entry->takenOut();
-    return taken.isEmpty() ? QString() : tr("%1 taken out. Undo: Ctrl+Z").arg(taken);
+    return taken.isEmpty() ? QString() : tr("Ctrl+Z puts back: %1").arg(taken);
+}
+
+// What its column of the stock says in a colour as well.
+QString DocumentScreen::warning() const
+{
+    const Engine::Table &lines = std::as_const(*m_entry).lines();
+    if (m_entry->isPosted() || !m_grid->currentIndex().isValid()
+        || lines.value(DocumentEntry::Afterwards).toDouble() >= 0)
+        return {};
+    return tr("%1 goes below zero at this location").arg(lines.text(Fields::ItemNo));
 }
 
 void DocumentScreen::putLineBack()
 {
     m_grid->commitEntry();
     m_entry->putBack();
+}
+
+// What is being entered comes first.
+void DocumentScreen::pasteRows()
+{
+    binder().commit();
+    m_grid->commitEntry();
+    m_entry->lines().checkBrowseMode();
+    std::optional<PastedRows> rows;
+    {
+        const WaitCursor hourglass;
+        rows.emplace(*m_entry, context().prompts, QGuiApplication::clipboard()->text());
+    }
+    const auto isStored = [this] { return std::as_const(*m_entry).lines().recordCount(); };
+    const int before = isStored();
+    const QString place =
+        context()
+            .lookups.tblWarehse()
+            .lookUp(Fields::WarehouseID, {m_entry->header().value(Fields::WarehouseID)}, Fields::WarehouseName)
+            .toText();
+    TfrmPasteRows dialog(context(), *rows, m_entry->kind(), place, this);
+    if (dialog.exec() != QDialog::Accepted || isStored() == before)
+        return rows->drop();
+    m_entry->lines().moveTo(before);
+    m_grid->setFocus();
 }
 
 void DocumentScreen::btnReverseClick()
@@ -313,7 +382,8 @@ void DocumentScreen::addItemCard()
 
 void DocumentScreen::newRecord()
 {
-    m_entry->newDocument();
+    if (!takeUpLeft(*m_entry, context().prompts))
+        m_entry->newDocument();
     showHeader();
 }
 
@@ -348,6 +418,9 @@ void DocumentScreen::showHeader()
     m_open->setVisible(!posted);
     binder().setReadOnly(posted);
     m_reverse->setVisible(posted);
+    for (const QStringView field : {DocumentEntry::OnHand, DocumentEntry::Afterwards})
+        m_grid->setColumnShown(m_grid->columnOf(field.toString()),
+                               !posted); // what is in the books changes nothing more
     tellLater();
     m_grid->viewport()->update(); // what is on hand follows the location
     showCaption();
@@ -369,6 +442,7 @@ void DocumentScreen::showReadOnly(bool readOnly)
     for (QAction *action : std::as_const(m_popup))
         action->setEnabled(!readOnly);
     m_newLine->setVisible(!readOnly);
+    m_pasteButton->setVisible(!readOnly);
     tellLater();
 }
 
@@ -429,6 +503,13 @@ bool DocumentScreen::searchItem(const QString &typed)
     m_entry->setLineColumn(numberColumn.toString());
     m_entry->chooseItem(itemId);
     return true;
+}
+
+void DocumentScreen::takeScan(bool inItsColumn, const QString &code)
+{
+    const int warehouse = m_entry->header().integer(Fields::WarehouseID);
+    if (const std::optional<int> item = scannedItem(context(), this, code, warehouse))
+        m_entry->chooseScannedItem(*item, inItsColumn);
 }
 
 // --- saving, closing, keys --------------------------------------------------------------------------------------

@@ -17,6 +17,7 @@ namespace Tallymere {
 class FiguresLine;
 class LineGrid;
 class RecordOpener;
+class SumLabel;
 
 // The screen of one document: header fields over a grid of lines. The rules are DocumentEntry's; the screens of the
 // kinds give the form and what is special in their header.
@@ -70,9 +71,11 @@ private:
     QList<GridColumn> gridColumns(LineOptions &options) const;
     void addOpenMark();
     void addItemCard();
-    void addNewLineButton();
+    void addLineButtons();
+    QToolButton *addLineButton(const QString &name, const QString &text, const QString &toolTip, QAction *action);
     void addPopupCommands();
     void addPassesKnown();
+    void addPasteRows();
     void addBottomRow();
     void showReadOnly(bool readOnly);
     QAction *addPopupCommand(const QString &name, const QString &caption, const QKeySequence &shortcut,
@@ -80,21 +83,23 @@ private:
     void tellLater();
     void showTold();
     QString note() const;
-    bool takesText(const QString &column) const;
+    QString warning() const; // of the line with the cursor
     bool followsFromItem(const QString &column) const;
     std::optional<LineOffer> offerFor(const QString &column) const;
     void putLineBack();
+    void pasteRows();
     void btnReverseClick();
     void beginLine();
     void enterCell(const QString &field, const QString &text);
     bool searchItem(const QString &typed); // false: none was chosen
+    void takeScan(bool inItsColumn, const QString &code);
     QString completeDescription(const QString &field, const QString &typed) const;
 
     std::unique_ptr<DocumentEntry> m_entry;
     LineGrid *m_grid = nullptr;
     QLabel *m_posted = nullptr;
     QLabel *m_open = nullptr; // shown in its place
-    QLabel *m_total = nullptr; // of the lines
+    SumLabel *m_total = nullptr; // of the lines
     FiguresLine *m_figures = nullptr; // may be missing
     bool m_tellsLater = false;
     QPushButton *m_reverse = nullptr; // of a posted document
@@ -102,7 +107,9 @@ private:
     QAction *m_undo = nullptr; // of the line taken out last
     QAction *m_passesKnown = nullptr;
     QList<QAction *> m_popup;
+    QAction *m_paste = nullptr;
     QToolButton *m_newLine = nullptr;
+    QToolButton *m_pasteButton = nullptr;
 };
 
 // The screen of a kind of document without anything of its own: the form names the fields.

@@ -10,6 +10,12 @@
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "engine/values/error.h"
+#include "engine/values/userlocale.h"
+#include "master/barcodes.h"
+#include "master/screens/scanneditem.h"
+#include "phonecount/networkaddresses.h"
+#include "phonecount/screens/phonecountscreen.h"
+#include "phonecount/stockcountdesk.h"
 #include "transactions/documentkinds.h"
 #include "transactions/screens/countdifferencesscreen.h"
 #include "transactions/screens/countsearch.h"
@@ -18,6 +24,7 @@
 #include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScopeGuard>
 #include <QShortcut>
 
@@ -58,10 +65,13 @@ TFormEnterInventory::TFormEnterInventory(ScreenContext &context, QWidget *parent
                  m_ui->wwDBGridInventory->itemChanged(item);
                  showStatus();
              },
-         .sort = [this](CountList::Order order) { sortBy(order); }},
+         .sort = [this](CountList::Order order) { sortBy(order); },
+         .isCode = [this](const QString &text) { return isItemCode(this->context(), text); },
+         .scan = [this](const QString &code) { takeScan(code); }},
         guard());
-    m_search =
-        new CountSearch(*m_ui->wwIncrementalSearch1, *m_ui->lblNotFound, m_count.list(), *m_ui->wwDBGridInventory);
+    m_search = new CountSearch(
+        *m_ui->wwIncrementalSearch1, *m_ui->lblNotFound, m_count.list(), *m_ui->wwDBGridInventory,
+        [this](const QString &code) { return itemOfBarcode(this->context().data.databaseTallymere(), code); });
     fillLocations();
     connectControls();
     dateChosen();
@@ -69,7 +79,7 @@ TFormEnterInventory::TFormEnterInventory(ScreenContext &context, QWidget *parent
     showList();
 }
 
-TFormEnterInventory::~TFormEnterInventory() = default;
+TFormEnterInventory::~TFormEnterInventory() { delete m_phones; } // which knows the count
 
 void TFormEnterInventory::connectControls()
 {
@@ -89,10 +99,14 @@ void TFormEnterInventory::connectControls()
     connect(m_ui->cboSearchOrder, &QComboBox::activated, this,
             [this](int order) { sortBy(static_cast<CountList::Order>(order)); });
     connect(m_search, &CountSearch::found, this, [this] { showStatus(); });
-    connect(m_ui->wwDBGridInventory, &CountGrid::itemShown, this, [this] { showStatus(); });
+    connect(m_ui->wwDBGridInventory, &CountGrid::itemShown, this, [this] {
+        m_overtaken.reset();
+        showStatus();
+    });
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_search, &CountSearch::start);
     connectGuarded(m_ui->chkBlind, &QCheckBox::clicked, this, &TFormEnterInventory::blindChosen);
     connectGuarded(m_ui->btnDifferences, &QPushButton::clicked, this, &TFormEnterInventory::btnDifferencesClick);
+    connectGuarded(m_ui->btnPhone, &QPushButton::clicked, this, &TFormEnterInventory::btnPhoneClick);
     connectGuarded(new QShortcut(itemCardKey, this), &QShortcut::activated, this,
                    &TFormEnterInventory::showItemCard);
     connectGuarded(m_ui->BitBtnOK, &QPushButton::clicked, this, &TFormEnterInventory::bitBtnOKClick);
@@ -116,6 +130,16 @@ void TFormEnterInventory::firstShown()
     const int rows = m_ui->wwDBGridInventory->heightForRows(shownRows);
     resize(std::max(m_ui->wwDBGridInventory->fullWidth(), sizeHint().width()),
            sizeHint().height() - m_ui->wwDBGridInventory->sizeHint().height() + rows);
+}
+
+void TFormEnterInventory::takeScan(const QString &code)
+{
+    const std::optional<int> item = scannedItem(context(), this, code, m_count.location());
+    const int row = item ? m_count.list().rowOfItem(*item) : -1;
+    if (row >= 0)
+        m_ui->wwDBGridInventory->countItem(row);
+    else
+        m_search->enter(code); // which says so
 }
 
 // --- the location -----------------------------------------------------------------------------------------------
@@ -142,6 +166,7 @@ bool TFormEnterInventory::mayLoseCounts(const QString &question)
 // The grid must not show rows that go while the user is told something.
 void TFormEnterInventory::closeList()
 {
+    stopPhones();
     m_count.close();
     m_ui->wwDBGridInventory->setHint({});
     m_ui->wwDBGridInventory->listChanged();
@@ -192,7 +217,7 @@ bool TFormEnterInventory::offerDraft()
                   "Do you want to go on with that count? No gives it up."),
                tr("You have counted %n items at this location and not calculated the usage yet (%1).\n"
                   "Do you want to go on with that count? No gives it up."))
-            .arg(QLocale::system().toString(draft->saved, QLocale::ShortFormat));
+            .arg(Engine::userLocale().locale.toString(draft->saved, QLocale::ShortFormat));
     switch (context().prompts.yesNoCancel(question)) {
     case Answer::Yes:
         resume(*draft);
@@ -222,6 +247,8 @@ void TFormEnterInventory::readAgain()
     {
         const WaitCursor hourglass;
         news = m_count.readAgain();
+        if (m_phones)
+            m_phones->listChanged();
     }
     showList();
     if (!news.isEmpty())
@@ -274,6 +301,7 @@ void TFormEnterInventory::showBooks()
 {
     m_ui->wwDBGridInventory->setBlind(hidesBooks());
     m_ui->btnDifferences->setEnabled(m_count.isOpen() && !hidesBooks());
+    m_ui->btnPhone->setEnabled(m_count.isOpen() && m_count.list().size() > 0);
     m_ui->btnDifferences->setToolTip(hidesBooks() ? tr("Not while the count is blind") : QString());
 }
 
@@ -319,9 +347,10 @@ bool TFormEnterInventory::focusColumn(const QString &)
 void TFormEnterInventory::countItem(int item, std::optional<double> quantity)
 {
     if (quantity) {
-        const std::optional<QString> question = m_count.questionOf(item, *quantity);
+        const std::optional<QString> question = m_count.questionOf(item, *quantity, hidesBooks());
         if (question && !context().prompts.confirm(Question::Warning, *question))
             throw SilentAbort(Fields::Quantity);
+        confirmOverPhone(item, *quantity);
         m_count.count(item, *quantity);
     } else {
         m_count.forgetCount(item);
@@ -329,6 +358,72 @@ void TFormEnterInventory::countItem(int item, std::optional<double> quantity)
     m_ui->wwDBGridInventory->itemChanged(item);
     showStatus();
 }
+
+// A number that has come since the cursor came to the item may not have been seen.
+void TFormEnterInventory::confirmOverPhone(int item, double quantity)
+{
+    const CountRow &row = m_count.list().row(item);
+    if (std::exchange(m_overtaken, std::nullopt) != row.itemId || row.typed == quantity)
+        return;
+    const QString question = tr("%1 has counted %2 of this item meanwhile.\nDo you want to put %3 in its place?")
+                                 .arg(row.mark.by, quantityFormat().display(Engine::Value(row.counted())),
+                                      quantityFormat().display(Engine::Value(quantity)));
+    if (!context().prompts.confirm(Question::Warning, question))
+        throw SilentAbort(Fields::Quantity);
+}
+
+// --- phones -----------------------------------------------------------------------------------------------------
+
+void TFormEnterInventory::btnPhoneClick()
+{
+    m_ui->wwDBGridInventory->commitEntry();
+    if (!m_phones) {
+        const QString place = m_ui->RzComboBoxLocation->itemText(m_chosen);
+        auto desk = std::make_unique<StockCountDesk>(
+            context().data.databaseTallymere(), m_count, place.section(u'[', 0, -2).trimmed(),
+            StockCountDesk::Screen{.isBlind = [this] { return hidesBooks(); },
+                                   .isBusy = [this] { return m_calculating; },
+                                   .taken = [this](int item) { countedByPhone(item); }});
+        const QString name = CountDrafts::nameOf(context().data.databaseTallymere()) + u'\n' + place;
+        m_phones = new TfrmPhoneCount(context(), std::move(desk), name, networkAddresses(), this);
+        connect(m_phones, &TfrmPhoneCount::changed, this, [this] { showStatus(); });
+        connect(m_phones, &TfrmPhoneCount::stopped, this, &TFormEnterInventory::stopPhones);
+    }
+    m_phones->show();
+    bringToFront(*m_phones);
+    showStatus();
+}
+
+void TFormEnterInventory::countedByPhone(int item)
+{
+    if (item == m_ui->wwDBGridInventory->currentItem())
+        m_overtaken = m_count.list().row(item).itemId;
+    m_ui->wwDBGridInventory->itemChanged(item);
+}
+
+void TFormEnterInventory::stopPhones()
+{
+    if (!m_phones)
+        return;
+    TfrmPhoneCount *ending = m_phones;
+    m_phones.clear();
+    ending->hide();
+    ending->end();
+    ending->deleteLater();
+    showStatus();
+}
+
+QString TFormEnterInventory::phonesText() const
+{
+    if (!m_phones)
+        return {};
+    const PhoneService &service = m_phones->service();
+    return u"   "_s
+        + tr("Phones: %1, numbers from them: %2")
+              .arg(QString::number(service.phones().size()), QString::number(service.rows()));
+}
+
+// --- the date ---------------------------------------------------------------------------------------------------
 
 void TFormEnterInventory::dateChosen()
 {
@@ -369,7 +464,7 @@ void TFormEnterInventory::showList()
 void TFormEnterInventory::showStatus(const QString &said)
 {
     showBooks();
-    m_ui->lblStatus->setText(said.isEmpty() ? statusText() + cutFiguresText() : said);
+    m_ui->lblStatus->setText(said.isEmpty() ? statusText() + phonesText() + cutFiguresText() : said);
     m_ui->lblStatus->setToolTip(m_count.draftFailure());
 }
 
@@ -423,6 +518,7 @@ void TFormEnterInventory::btnDifferencesClick()
 void TFormEnterInventory::bitBtnOKClick()
 {
     m_ui->wwDBGridInventory->commitEntry();
+    const QScopedValueRollback calculating(m_calculating, true); // of what the question tells
     switch (context().prompts.yesNoCancel(calculationQuestion(), Tallymere::caption(Question::Confirm))) {
     case Answer::Yes:
         return m_ui->ActionCalculateConsumption->trigger();
@@ -438,10 +534,13 @@ QString TFormEnterInventory::calculationQuestion() const
 {
     const QString question =
         tr("Proceed with calculating the item usage based\r\nupon the quantities that have been entered?");
+    const QString phones = m_phones
+        ? u"\n\n"_s + tr("Phones count this location. What has not come from them yet will not be in the usage.")
+        : QString();
     const int left = m_count.list().notCounted();
     if (left == 0)
-        return question;
-    return question + u"\n\n"_s
+        return question + phones;
+    return question + phones + u"\n\n"_s
         + plural(left, tr("%n item has not been counted. It keeps its recorded quantity."),
                  tr("%n items have not been counted. They keep their recorded quantities."));
 }
@@ -452,6 +551,7 @@ void TFormEnterInventory::actionCalculateConsumptionExecute()
     if (!m_count.isOpen())
         return locationChosen(m_ui->RzComboBoxLocation->currentIndex());
     m_ui->BitBtnOK->setEnabled(false);
+    const QScopedValueRollback calculating(m_calculating, true);
     StockCount::Calculation calculation;
     try {
         const WaitCursor hourglass;
@@ -461,13 +561,15 @@ void TFormEnterInventory::actionCalculateConsumptionExecute()
         throw;
     } catch (const Engine::EngineError &error) {
         // Nothing has been written then. Where a connection was lost too late to tell, the next try names the usage.
-        m_ui->BitBtnOK->setEnabled(error.isHeldByOthers() || error.code() == Engine::ErrorCode::ConnectionLost);
+        m_ui->BitBtnOK->setEnabled(error.isHeldByOthers() || error.isConnectionLost());
         throw;
     }
     if (calculation.readsAgain) {
         showReady();
         return readAgain();
     }
+    if (m_count.isCalculated())
+        stopPhones();
     m_ui->wwDBGridInventory->listChanged();
     refreshOpenList(DocumentKinds::usage().list.screen);
     showStatus(calculation.usage

@@ -5,6 +5,7 @@
 #include "transactions/stockcount.h"
 
 #include <memory>
+#include <QPointer>
 
 namespace Ui {
 class TFormEnterInventory;
@@ -13,6 +14,7 @@ class TFormEnterInventory;
 namespace Tallymere {
 
 class CountSearch;
+class TfrmPhoneCount;
 
 // "Enter Inventory": the stock at a location is counted, and what has been used becomes a usage document.
 //
@@ -30,6 +32,7 @@ public:
     void bitBtnOKClick();
     void actionCalculateConsumptionExecute();
     void btnDifferencesClick();
+    void btnPhoneClick(); // the page for phones is begun, or its window shown again
 
 protected:
     Pending pending() const override;
@@ -47,6 +50,7 @@ protected:
 private:
     void connectControls();
     void showItemCard(); // of the item with the cursor
+    void takeScan(const QString &code);
     void fillLocations();
     void closeList();
     void locationChosen(int index);
@@ -65,6 +69,10 @@ private:
     void showBooks(); // or hides them
 
     void countItem(int item, std::optional<double> quantity);
+    void confirmOverPhone(int item, double quantity);
+    void countedByPhone(int item);
+    void stopPhones();
+    QString phonesText() const;
     void dateChosen();
     void askAboutDate(QDate date, QDate before);
     bool hasCountableDate() const;
@@ -81,6 +89,10 @@ private:
     StockCount m_count;
     const LastChoices m_last;
     CountSearch *m_search = nullptr;
+    QPointer<TfrmPhoneCount> m_phones; // while the count is served to phones
+    std::optional<qint64>
+        m_overtaken; // the item under the cursor, if a phone has counted it since the cursor came there
+    bool m_calculating = false;
     int m_chosen = -1; // the location of the list, by its place in the box
 };
 

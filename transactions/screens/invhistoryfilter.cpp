@@ -19,7 +19,7 @@ TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *pare
 {
     addTypes();
     const Period period = defaultPeriod(context.data.databaseTallymere(), context.data.today());
-    m_year = addNumber(tr("&Year:"),
+    m_year = addNumber(u"editYear"_s, tr("&Year:"),
                        new OptionalNumber({.number = u"editYear"_s,
                                            .all = u"chkYearAll"_s,
                                            .name = tr("Year"),
@@ -28,7 +28,7 @@ TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *pare
                                            .highest = 2200,
                                            .start = period.year},
                                           this));
-    m_period = addNumber(tr("&Period:"),
+    m_period = addNumber(u"editPeriod"_s, tr("&Period:"),
                          new OptionalNumber({.number = u"editPeriod"_s,
                                              .all = u"chkPeriodAll"_s,
                                              .name = tr("Period"),
@@ -42,22 +42,24 @@ TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *pare
 void TfrmInvHistoryFilter::addTypes()
 {
     m_type->setObjectName(u"cboTransType"_s);
-    m_type->addItem({});
+    m_type->addItem(QString(), 0);
     for (const TransTypeInfo &type : transTypes()) {
         if (!type.filterText.isEmpty())
             m_type->addItem(type.filterText, static_cast<int>(type.type));
     }
     addRow(tr("&Transaction Type:"), m_type);
-    addChoice({.chosen = [this] { return m_type->currentIndex(); },
-               .choose = [this](const QVariant &index) { m_type->setCurrentIndex(index.toInt()); },
+    addChoice({.name = m_type->objectName(),
+               .chosen = [this] { return m_type->currentData().toInt(); },
+               .choose = [this](const QVariant &type) { m_type->setCurrentIndex(m_type->findData(type.toInt())); },
                .none = 0,
                .words = [this] { return labelled(tr("Type"), m_type->currentText()); }});
 }
 
-OptionalNumber *TfrmInvHistoryFilter::addNumber(const QString &label, OptionalNumber *number)
+OptionalNumber *TfrmInvHistoryFilter::addNumber(const QString &name, const QString &label, OptionalNumber *number)
 {
     addRow(label, number);
-    addChoice({.chosen = [number] { return number->number(); },
+    addChoice({.name = name,
+               .chosen = [number] { return number->number(); },
                .choose = [number](const QVariant &chosen) { number->choose(chosen.toInt()); },
                .none = 0,
                .words = [label, number] { return labelled(label, QString::number(number->number())); },

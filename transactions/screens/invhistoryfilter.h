@@ -25,7 +25,7 @@ public:
 
 private:
     void addTypes();
-    OptionalNumber *addNumber(const QString &label, OptionalNumber *number);
+    OptionalNumber *addNumber(const QString &name, const QString &label, OptionalNumber *number);
 
     QComboBox *m_type;
     OptionalNumber *m_year;

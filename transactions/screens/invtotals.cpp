@@ -21,6 +21,7 @@ TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
 {
     m_view.open();
     build(description(), m_view.query(), [this] { mnuHistoryClick(); });
+    m_sum.emplace(m_view.query(), [this](const QString &value) { showSum(tr("Value"), value); });
 }
 
 TfrmInvTotals::~TfrmInvTotals() = default;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "transactions/screens/stockvaluesum.h"
 #include "transactions/screens/stockviewscreen.h"
 #include "transactions/totalsview.h"
 
@@ -26,6 +27,7 @@ private:
     void sortBy(TotalsView::Sort sort);
 
     TotalsView m_view;
+    std::optional<StockValueSum> m_sum;
 };
 
 } // namespace Tallymere

@@ -23,10 +23,12 @@ TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent
     m_stock->addItem(tr("Below zero"), static_cast<int>(Stock::BelowZero));
     m_stock->addItem(tr("Zero"), static_cast<int>(Stock::Zero));
     addRow(tr("&Quantity On Hand:"), m_stock);
-    addChoice({.chosen = [this] { return m_stock->currentIndex(); },
-               .choose = [this](const QVariant &index) { m_stock->setCurrentIndex(index.toInt()); },
-               .none = 0,
-               .words = [this] { return labelled(tr("Quantity On Hand"), m_stock->currentText()); }});
+    addChoice(
+        {.name = m_stock->objectName(),
+         .chosen = [this] { return m_stock->currentData().toInt(); },
+         .choose = [this](const QVariant &stock) { m_stock->setCurrentIndex(m_stock->findData(stock.toInt())); },
+         .none = static_cast<int>(Stock::Any),
+         .words = [this] { return labelled(tr("Quantity On Hand"), m_stock->currentText()); }});
 
     constexpr int months = 3;
     const QDate today = context.data.today();
@@ -38,7 +40,8 @@ TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent
                                         .start = today.addMonths(-months)},
                                        this);
     addRow(tr("Not &moved since:"), m_notMovedSince);
-    addChoice({.chosen = [this] { return m_notMovedSince->date(); },
+    addChoice({.name = u"editNotMovedSince"_s,
+               .chosen = [this] { return m_notMovedSince->date(); },
                .choose = [this](const QVariant &day) { m_notMovedSince->choose(day.toDate()); },
                .none = QDate(),
                .words = [this] { return labelled(tr("Not moved since"), dateText(m_notMovedSince->date())); }});

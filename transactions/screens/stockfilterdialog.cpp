@@ -29,11 +29,13 @@ StockFilterDialog::StockFilterDialog(ScreenContext &context, const FilterDialogK
     m_item = new RecordPair(number, description, MasterKinds::item(), context.lookups.tblItem(), guard());
     addRow(tr("Item &no.:"), number);
     addRow(tr("&Description:"), description);
-    addChoice({.chosen = [this] { return m_item->key(); },
+    addChoice({.name = number->objectName(),
+               .chosen = [this] { return m_item->key(); },
                .choose = [this](const QVariant &item) { m_item->choose(item.toInt()); },
                .none = 0,
                .words = [this] { return labelled(tr("Item"), m_item->text()); },
-               .settle = [this] { m_item->settle(); }});
+               .settle = [this] { m_item->settle(); },
+               .isThere = [this, &items = context.lookups.tblItem()] { return isThereNow(items, m_item->key()); }});
     addBox({.name = locationBox, .label = tr("&Location:"), .list = u"Warehse"_s});
 }
 

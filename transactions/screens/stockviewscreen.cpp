@@ -19,7 +19,12 @@ ListMenu StockViewScreen::stockRecordsMenu()
 
 ListCommand StockViewScreen::stockFilterCommand()
 {
-    return filterCommand([this] { btnFilterClick(); });
+    return filterCommand({.dialog = [this]() -> FilterDialog & { return filterDialog(); },
+                          .apply =
+                              [this] {
+                                  applyFilter(chosenExpression());
+                                  showStep();
+                              }});
 }
 
 StockFilterDialog &StockViewScreen::filterDialog()
@@ -31,15 +36,7 @@ StockFilterDialog &StockViewScreen::filterDialog()
     return *m_filter;
 }
 
-void StockViewScreen::btnFilterClick()
-{
-    if (filterDialog().exec() != QDialog::Accepted)
-        return;
-    applyFilter(chosenExpression());
-    showStep();
-}
-
-void StockViewScreen::btnFindClick() { TfrmItemsFind(context(), dataSet(), this).exec(); }
+void StockViewScreen::btnFindClick() { TfrmItemsFind(context(), *this).exec(); }
 
 QString StockViewScreen::chosenExpression() const
 {

@@ -13,7 +13,6 @@ class StockViewScreen : public ListScreen
     Q_OBJECT
 
 public:
-    void btnFilterClick();
     void btnFindClick();
 
 protected:

@@ -1,0 +1,65 @@
+#include "care/screens/auditlist.h"
+
+#include "data/datamodule.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+TfrmAudit::TfrmAudit(ScreenContext &context, QWidget *parent)
+    : ListScreen(context, parent)
+    , m_view(context.data.databaseTallymere())
+{
+    m_view.open();
+    build(description(), m_view.query(), [] {});
+}
+
+TfrmAudit::~TfrmAudit() = default;
+
+ListDescription TfrmAudit::description()
+{
+    return {
+        .name = u"frmAudit"_s,
+        .caption = tr("Audit List"),
+        .columns = {{AuditView::Day.toString(), tr("Date"), 90},
+                    {AuditView::Time.toString(), tr("Time"), 60},
+                    {.field = AuditView::What.toString(),
+                     .title = tr("What was done"),
+                     .width = 460,
+                     .takesSurplus = true},
+                    {AuditView::Who.toString(), tr("User"), 120},
+                    {AuditView::Concerned.toString(), tr("Day concerned"), 110}},
+        .buttons = {{u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s}},
+        .menus = {fileMenu(u"TrptAudit"_s),
+                  {tr("&View"),
+                   {filterCommand({.dialog = [this]() -> FilterDialog & { return filterDialog(); },
+                                   .apply = [this] { applyFilter(m_filter->columnsExpression()); }}),
+                    refreshCommand()}},
+                  helpMenu(tr("Audit List &Help"))},
+        .emptyHint =
+            tr("No notes yet. Deletions by date, opened periods, repairs and restored backups leave one each."),
+    };
+}
+
+FilterDialog &TfrmAudit::filterDialog()
+{
+    if (!m_filter) {
+        m_filter =
+            new FilterDialog(context(), {.name = u"frmAuditFilter"_s, .caption = tr("Audit List Filter")}, this);
+        m_filter->addColumns(filterColumns());
+    }
+    return *m_filter;
+}
+
+QString TfrmAudit::filterWords() const
+{
+    return m_filter && m_filter->columnsExpression() == dataSet().filter() ? m_filter->words() : QString();
+}
+
+void TfrmAudit::clearFilterDialog()
+{
+    if (m_filter)
+        m_filter->btnResetClick();
+}
+
+} // namespace Tallymere

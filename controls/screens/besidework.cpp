@@ -1,0 +1,117 @@
+#include "controls/screens/besidework.h"
+
+#include "base/ruleerror.h"
+#include "controls/windows/progressbox.h"
+#include "data/ownconnection.h"
+
+#include <atomic>
+#include <exception>
+#include <memory>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QThread>
+#include <utility>
+
+namespace Tallymere {
+
+namespace {
+
+// Told on the thread of the work, asked on that of the screens.
+class ToldProgress final : public Progress
+{
+public:
+    void start(int steps) override
+    {
+        m_steps = steps;
+        m_done = 0;
+        ++m_started;
+    }
+    void step() override
+    {
+        ++m_done;
+        if (m_cancelled)
+            throw SilentAbort();
+    }
+    void finish() override { }
+
+    int steps() const { return m_steps; }
+    int done() const { return m_done; }
+    int started() const { return m_started; }
+    void cancel() { m_cancelled = true; }
+
+private:
+    std::atomic<int> m_steps = 0;
+    std::atomic<int> m_done = 0;
+    std::atomic<int> m_started = 0;
+    std::atomic<bool> m_cancelled = false;
+};
+
+class BesideWork
+{
+public:
+    explicit BesideWork(const std::function<void(Progress &)> &work)
+        : m_thread(QThread::create([this, &work] {
+            try {
+                work(m_told);
+            } catch (...) {
+                m_failure = std::current_exception();
+            }
+        }))
+    {
+        m_thread->start();
+    }
+    ~BesideWork() { m_thread->wait(); }
+    BesideWork(const BesideWork &) = delete;
+    BesideWork &operator=(const BesideWork &) = delete;
+
+    void showIn(ProgressBox &box)
+    {
+        constexpr unsigned long often = 20; // ms
+        int started = -1;
+        while (!m_thread->wait(often)) {
+            if (m_isCancelled) {
+                QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+                continue;
+            }
+            try {
+                if (std::exchange(started, m_told.started()) != m_told.started())
+                    box.start(m_told.steps());
+                box.at(m_told.done());
+            } catch (const SilentAbort &) {
+                m_isCancelled = true;
+                m_told.cancel();
+            }
+        }
+    }
+
+    void rethrow() const
+    {
+        if (m_failure)
+            std::rethrow_exception(m_failure);
+    }
+
+private:
+    ToldProgress m_told;
+    std::exception_ptr m_failure;
+    const std::unique_ptr<QThread> m_thread;
+    bool m_isCancelled = false;
+};
+
+} // namespace
+
+void workBeside(QWidget *window, const QString &what, const std::function<void(Progress &)> &work)
+{
+    ProgressBox box(window, what);
+    BesideWork beside(work);
+    beside.showIn(box);
+    beside.rethrow();
+}
+
+void workBeside(QWidget *window, const QString &what, Engine::Database &database,
+                const std::function<void(Engine::Database &, Progress &)> &work)
+{
+    OwnConnection own(database);
+    workBeside(window, what, [&own, &work](Progress &progress) { work(own.database(), progress); });
+}
+
+} // namespace Tallymere

@@ -1,0 +1,55 @@
+#include "engine/records/setkeys.h"
+
+#include <limits>
+
+namespace Engine {
+
+void SetKeys::takeAll(KeyList keys)
+{
+    *this = SetKeys();
+    m_all = std::move(keys);
+}
+
+void SetKeys::takeLength(int count, qint64 lastKey)
+{
+    *this = SetKeys();
+    m_isWhole = false;
+    m_count = count;
+    m_lastKey = lastKey;
+}
+
+void SetKeys::takePart(int index, KeyList part)
+{
+    if (m_parts.size() == partsKept)
+        m_parts.clear();
+    const int start = partStart(index);
+    while (part.count() < std::min(partSize, m_count - start))
+        part.append(std::numeric_limits<qint64>::min());
+    m_parts.insert_or_assign(start, std::move(part));
+}
+
+Key SetKeys::at(int index) const
+{
+    const auto numbers = slice(index, 1);
+    return Key(numbers.begin(), numbers.end());
+}
+
+std::span<const qint64> SetKeys::slice(int first, int keys) const
+{
+    if (m_isWhole)
+        return m_all.slice(first, keys);
+    return m_parts.at(partStart(first)).slice(first % partSize, keys);
+}
+
+int SetKeys::find(const Key &key) const
+{
+    if (m_isWhole)
+        return m_all.find(key);
+    for (const auto &[start, part] : m_parts) {
+        if (const int index = part.find(key); index >= 0)
+            return start + index;
+    }
+    return -1;
+}
+
+} // namespace Engine

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "data/readaside.h"
+
+#include <QLabel>
+#include <QTimer>
+
+namespace Tallymere {
+
+// Tells in the status bar when the server is gone, and when it is there again. It looks for the server on a thread of its own
+// and makes the connection anew, so that whoever does nothing meanwhile need not wait for it afterwards.
+class ServerLabel final : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ServerLabel(QWidget *parent);
+    void follow(Engine::Database &database); // which outlives it
+
+private:
+    void tell(bool isThere);
+    void look();
+    void connectAgain();
+
+    Engine::Database *m_database = nullptr;
+    QTimer m_looking;
+    ReadAside m_search;
+};
+
+} // namespace Tallymere

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <exception>
+#include <memory>
+#include <optional>
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+class QIODevice;
+
+namespace Tallymere {
+
+// What ends the reading of a file: no row can be read after it.
+class ImportFault : public std::exception
+{
+public:
+    ImportFault(int line, QString message)
+        : m_line(line)
+        , m_message(std::move(message))
+        , m_what(m_message.toUtf8())
+    {
+    }
+
+    int line() const { return m_line; }
+    const QString &message() const { return m_message; }
+    const char *what() const noexcept override { return m_what.constData(); }
+
+private:
+    int m_line;
+    QString m_message;
+    QByteArray m_what;
+};
+
+// What of a file is brought in.
+struct ImportChoice
+{
+    QString sheet = {}; // of a spreadsheet; empty: the first one
+    int headRow = 0; // holds the names of the columns; 0: the first in which something stands
+    // What each column stands for, in their order, empty for one that is not taken; without them their names tell.
+    std::optional<QStringList> fields = {};
+    QStringList leftOut = {}; // names of columns that are not taken
+};
+
+// The rows of a file that is brought in, one at a time, as texts: numbers with a decimal point, dates YYYY-MM-DD, Booleans
+// true or false. Rows in which nothing stands are passed over. The first one holds the names of the columns.
+class ImportRows
+{
+public:
+    virtual ~ImportRows() = default;
+
+    // The next row; false after the last one. Throws ImportFault.
+    virtual bool next() = 0;
+
+    virtual const QStringList &fields() const = 0;
+    virtual int line() const = 0; // of the file, or row of the sheet, from 1
+    virtual QString fault() const
+    {
+        return {};
+    } // why the row cannot be taken, whatever it is for; empty where it can
+
+    virtual QString sheet() const { return {}; } // its name; empty for files that have no sheets
+    virtual QStringList sheets() { return {}; } // of the whole file
+};
+
+// Opens a file by what is in it, not by its name: a spreadsheet (XLSX, ODS), or else CSV. The device is open, is read from
+// its beginning and outlives what is returned. Throws ImportFault.
+std::unique_ptr<ImportRows> openImportRows(QIODevice &file, const ImportChoice &choice = {});
+// The same with every row as it stands, however wide, for somebody to choose from.
+std::unique_ptr<ImportRows> openAllRows(QIODevice &file, const QString &sheet = {});
+
+} // namespace Tallymere

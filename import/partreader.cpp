@@ -1,0 +1,89 @@
+#include "import/partreader.h"
+
+#include "import/importrows.h"
+#include "import/texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+constexpr int deepest = 100; // far more than spreadsheets nest their elements
+}
+
+PartReader::PartReader(ZipArchive &archive, const QString &name)
+    : m_part(archive.open(name))
+    , m_xml(m_part.get())
+{
+}
+
+bool PartReader::next()
+{
+    m_part->beginPiece();
+    m_xml.readNext();
+    if (!m_part->fault().isEmpty())
+        throw ImportFault(row, m_part->fault());
+    // A document type can only serve to bring in what stands elsewhere, or to make little text long.
+    if (m_xml.isDTD())
+        throw ImportFault(row, ImportTexts::tr("The file is no proper spreadsheet: it declares a document type."));
+    if (m_xml.hasError())
+        throw ImportFault(row, ImportTexts::tr("The file is damaged: %1").arg(m_xml.errorString()));
+    if (m_xml.isStartElement() && ++m_depth > deepest)
+        throw ImportFault(row,
+                          ImportTexts::tr("The file is no proper spreadsheet: its elements are nested too deep."));
+    if (m_xml.isEndElement())
+        --m_depth;
+    return !m_xml.atEnd();
+}
+
+QStringView PartReader::attribute(QLatin1StringView name) const
+{
+    for (const QXmlStreamAttribute &attribute : m_xml.attributes()) {
+        if (attribute.name() == name)
+            return attribute.value();
+    }
+    return {};
+}
+
+bool PartReader::hasAttribute(QLatin1StringView name) const
+{
+    const QXmlStreamAttributes all = m_xml.attributes();
+    return std::any_of(all.begin(), all.end(), [&](const auto &attribute) { return attribute.name() == name; });
+}
+
+int PartReader::number(QLatin1StringView name, int missing) const
+{
+    bool ok = false;
+    const int count = attribute(name).toInt(&ok);
+    return ok && count > 0 ? count : missing;
+}
+
+bool PartReader::says(QLatin1StringView name, QStringView value) const
+{
+    const QXmlStreamAttributes all = m_xml.attributes();
+    return std::any_of(all.begin(), all.end(), [&](const auto &attribute) {
+        return attribute.name() == name && attribute.value() == value;
+    });
+}
+
+void PartReader::skip()
+{
+    for (int depth = 1; depth > 0 && next();) {
+        if (isStart())
+            ++depth;
+        else if (isEnd())
+            --depth;
+    }
+}
+
+QString PartReader::textUpTo(QStringView element)
+{
+    QString all;
+    while (next() && !isEnd(element)) {
+        if (isText())
+            all += text();
+    }
+    return all;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "import/ziparchive.h"
+
+#include <QXmlStreamReader>
+
+namespace Tallymere {
+
+// Goes through a part of a spreadsheet that is XML, element by element; names are told without their namespace. Nothing
+// outside the file is ever read. Throws ImportFault, for the row that has been reached.
+class PartReader
+{
+public:
+    PartReader(ZipArchive &archive, const QString &name);
+
+    bool next(); // to what follows; false at the end
+    bool isStart(QStringView name) const { return m_xml.isStartElement() && m_xml.name() == name; }
+    bool isEnd(QStringView name) const { return m_xml.isEndElement() && m_xml.name() == name; }
+    bool isStart() const { return m_xml.isStartElement(); }
+    bool isEnd() const { return m_xml.isEndElement(); }
+    bool isText() const { return m_xml.isCharacters(); }
+    QStringView name() const { return m_xml.name(); }
+    QStringView text() const { return m_xml.text(); }
+    QStringView attribute(QLatin1StringView name) const; // of the element; empty where there is none
+    bool hasAttribute(QLatin1StringView name) const;
+    bool says(QLatin1StringView name, QStringView value) const; // in whatever namespace the attribute is
+    int number(QLatin1StringView name, int missing) const; // a count from 1 on
+    void skip(); // to the end of the element
+    QString textUpTo(QStringView element); // all text to the end of the element of that name
+
+    int row = 1; // that has been reached, for what is wrong
+
+private:
+    const std::unique_ptr<ZipPart> m_part;
+    QXmlStreamReader m_xml;
+    int m_depth = 0;
+};
+
+} // namespace Tallymere

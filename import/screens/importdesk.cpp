@@ -1,0 +1,103 @@
+#include "import/screens/importdesk.h"
+
+#include "base/plural.h"
+#include "controls/screens/besidework.h"
+#include "controls/windows/filechoice.h"
+#include "data/datamodule.h"
+#include "data/lastchoices.h"
+#include "import/importplan.h"
+#include "import/screens/importscreen.h"
+#include "import/texts.h"
+
+#include <QFileDialog>
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
+
+namespace Tallymere {
+
+namespace {
+
+// What headings stood for, by the kind of file.
+class HeadingMemory
+{
+public:
+    HeadingMemory(ScreenContext &context, const QString &kind)
+        : m_screen("frmImport/"_L1 + kind)
+        , m_choices(m_screen, context.data, context.settings)
+    {
+    }
+
+    ImportPlan::Memory read() const
+    {
+        ImportPlan::Memory memory;
+        const QJsonArray kept = m_choices.read().list(Settings::ImportedHeadings);
+        for (const auto &pair : kept)
+            memory.insert(pair[0].toString(), pair[1].toString());
+        return memory;
+    }
+
+    void keep(const ImportPlan::Memory &memory) const
+    {
+        QJsonArray kept;
+        for (auto pair = memory.cbegin(); pair != memory.cend(); ++pair)
+            kept.append(QJsonArray{pair.key(), pair.value()});
+        Choices choices;
+        choices.setList(Settings::ImportedHeadings, kept);
+        m_choices.keep(choices);
+    }
+
+private:
+    const QString m_screen;
+    const LastChoices m_choices;
+};
+
+} // namespace
+
+QString ImportDesk::chooseFile(QWidget *window) const
+{
+    const QString file = QFileDialog::getOpenFileName(window, ImportTexts::tr("Import"), lastFolder(m_context),
+                                                      ImportTexts::tr("Spreadsheets and CSV files")
+                                                          + u" (*.xlsx *.ods *.csv *.txt);;"_s
+                                                          + ImportTexts::tr("All files") + u" (*)"_s);
+    if (!file.isEmpty())
+        rememberFolder(m_context, file);
+    return file;
+}
+
+bool ImportDesk::import(const QString &kind, QString file, QWidget *window)
+{
+    if (file.isEmpty())
+        file = chooseFile(window);
+    if (file.isEmpty())
+        return false;
+    const HeadingMemory headings(m_context, kind);
+    TfrmImport dialog(m_context, ImportPlan(*findImportKind(kind), file, headings.read()), window);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    headings.keep(dialog.plan().memory());
+    m_imported.insert(kind, dialog.imported());
+    m_context.prompts.inform(plural(dialog.imported().count(), ImportTexts::tr("%n record was imported."),
+                                    ImportTexts::tr("%n records were imported.")));
+    return true;
+}
+
+bool ImportDesk::takeBack(const QString &kind, QWidget *window)
+{
+    const Imported imported = m_imported.value(kind);
+    if (imported.isEmpty()) {
+        m_context.prompts.inform(
+            ImportTexts::tr("Nothing has been imported into this list since the program was started."));
+        return false;
+    }
+    const QString question = plural(imported.count(), ImportTexts::tr("Take back the %n record that was imported?"),
+                                    ImportTexts::tr("Take back the %n records that were imported?"));
+    if (!m_context.prompts.confirm(Question::Confirm, question))
+        return false;
+    workBeside(window, ImportTexts::tr("Taking back the import"), m_context.data.databaseTallymere(),
+               [&](Engine::Database &database, Progress &progress) { imported.takeBack(database, progress); });
+    m_imported.remove(kind);
+    return true;
+}
+
+} // namespace Tallymere

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "controls/windows/screencontext.h"
+#include "import/imported.h"
+
+#include <QHash>
+
+class QWidget;
+
+namespace Tallymere {
+
+class ImportPlan;
+
+// Brings files in from the lists, and takes back what was brought in last, by its kind, as long as the program runs.
+class ImportDesk
+{
+public:
+    explicit ImportDesk(ScreenContext &context)
+        : m_context(context)
+    {
+    }
+
+    // Over a window. Without a file the user names one. True when something was brought in.
+    bool import(const QString &kind, QString file, QWidget *window);
+    bool takeBack(const QString &kind, QWidget *window);
+
+private:
+    QString chooseFile(QWidget *window) const;
+
+    ScreenContext &m_context;
+    QHash<QString, Imported> m_imported; // by kind
+};
+
+} // namespace Tallymere

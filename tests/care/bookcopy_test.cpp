@@ -1,0 +1,203 @@
+#include "care/bookcopy.h"
+
+#include "base/ruleerror.h"
+#include "care/tablecopy.h"
+#include "data/bookplace.h"
+#include "data/datamodule.h"
+#include "data/layouts.h"
+#include "engine/values/error.h"
+#include "tests/support/dataplace.h"
+#include "tests/support/documents.h"
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+struct StoppedAt final : Progress
+{
+    explicit StoppedAt(int last)
+        : left(last)
+    {
+    }
+    void start(int) override { }
+    void step() override
+    {
+        if (left-- == 0)
+            throw SilentAbort();
+    }
+    void finish() override { }
+    int left;
+};
+
+class BookCopyTest : public KitchenTest
+{
+protected:
+    BookCopyTest()
+    {
+        kitchen.makeHost();
+        for (const Engine::TableLayout *layout : Layouts::applied())
+            kitchen.database().createOrUpdateTable(*layout);
+        kitchen.execute(u"UPDATE Vendor SET Notes = 'Ünïcode\\\ttab, ''quoted''\r\nand long' WHERE VendorID = 1; "
+                        "UPDATE Vendor SET Notes = '\\N', VendorName = '' WHERE VendorID = 2"_s);
+        std::mt19937 random(3);
+        for (int id = 1; id <= 6; ++id)
+            addRandomDocument(kitchen, *DocumentKinds::all().at(id % DocumentKinds::all().size()), id, 4, random);
+        for (const DocumentKind *kind : DocumentKinds::all())
+            DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
+    }
+
+    static QStringList contents(Engine::Database &database)
+    {
+        QStringList all;
+        for (const QString &table : tablesOfBooks(database)) {
+            QStringList rows = rowsOf(database, "SELECT * FROM "_L1 + table);
+            rows.sort();
+            all << table << rows;
+        }
+        return all;
+    }
+
+    void copy(TestStore &to, Afterwards afterwards, Progress &told)
+    {
+        lines.clear();
+        copyBooks(kitchen.database(), to.database(), afterwards, told,
+                  [this](const QString &line) { lines << line; });
+    }
+    void copy(TestStore &to, Afterwards afterwards = Afterwards::GoOn) { copy(to, afterwards, progress); }
+
+    // What opening as books, by a window or a command, is refused with.
+    QString refusalToOpen(const TestStore &store)
+    {
+        MemorySettings settings;
+        try {
+            const TDataModuleTallymere data(settings, prompts, placeOf(store));
+        } catch (const Engine::EngineError &error) {
+            return error.text();
+        }
+        return {};
+    }
+
+    template <typename Step> static QString refusal(Step step)
+    {
+        try {
+            step();
+        } catch (const RuleError &error) {
+            return error.message();
+        } catch (const Engine::EngineError &error) {
+            EXPECT_EQ(error.code(), Engine::ErrorCode::MovedAway);
+            return error.text();
+        }
+        return {};
+    }
+
+    QStringList lines;
+};
+
+TEST_P(BookCopyTest, HoldsTheSameInEitherStoreAndNothingIsCopiedOverBooks)
+{
+    const QStringList before = contents(kitchen.database());
+    for (const Store store : {Store::Local, Store::Remote}) {
+        SCOPED_TRACE(storeName(store));
+        TestStore other(store);
+        copy(other);
+        EXPECT_EQ(contents(other.database()), before);
+        EXPECT_TRUE(lines.contains(u"Locations: 2 rows"_s)) << lines.join(u'\n').toStdString();
+        EXPECT_TRUE(lines.contains(u"Check \"Balances\": nothing is wrong on either side."_s));
+        EXPECT_EQ(refusalToOpen(other), QString());
+        const qint64 last = other.found(u"SELECT MAX(IHistID) FROM IHist"_s).toLongLong();
+        other.execute(u"INSERT INTO IHist (ItemID) VALUES (1)"_s);
+        EXPECT_EQ(other.found(u"SELECT MAX(IHistID) FROM IHist"_s).toLongLong(), last + 1);
+        EXPECT_TRUE(refusal([&] { copy(other); }).contains(u"holds books already (Test Kitchen, 4 items, "_s));
+    }
+    EXPECT_EQ(contents(kitchen.database()), before);
+}
+
+TEST_P(BookCopyTest, GoesOnWhereItWasStoppedAndIsNoBooksBefore)
+{
+    StoppedAt end(1'000'000);
+    {
+        TestStore whole(Store::Remote);
+        copy(whole, Afterwards::GoOn, end);
+    }
+    const int steps = 1'000'000 - end.left;
+    for (const Store store : {Store::Local, Store::Remote}) {
+        TestStore other(store);
+        for (int last : {1, steps / 4, steps / 2, steps - 1}) {
+            StoppedAt stopped(last);
+            EXPECT_THROW(copy(other, Afterwards::GoOn, stopped), SilentAbort);
+            EXPECT_TRUE(refusalToOpen(other).contains(u"has not come to its end"_s));
+            // What has been copied is copied once more where somebody has written to it since.
+            kitchen.execute(u"UPDATE Bank SET BankName = '%1'; UPDATE Item SET UnitPrice = %1"_s, last);
+        }
+        Kitchen others(store);
+        others.makeHost();
+        EXPECT_TRUE(refusal([&] {
+                        copyBooks(others.database(), other.database(), Afterwards::GoOn, progress, [](auto &) {});
+                    }).contains(u"Only the same can go on with it"_s));
+        copy(other);
+        EXPECT_EQ(contents(other.database()), contents(kitchen.database()));
+        EXPECT_EQ(refusalToOpen(other), QString());
+    }
+}
+
+TEST_P(BookCopyTest, BooksThatMoveTakeWhatWasWrittenMeanwhileAndNothingAfterwards)
+{
+    TestStore other(GetParam() == Store::Local ? Store::Remote : Store::Local);
+    const auto anna = kitchen.anotherUser();
+    CountedProgress meanwhile;
+    bool isFirst = true;
+    meanwhile.onStart = [&] { // of the second, the moment is over
+        if (!std::exchange(isFirst, false))
+            anna->database.connection().execute(u"UPDATE Item SET UnitPrice = 77 WHERE ItemID = 2"_s);
+    };
+    copy(other, Afterwards::Moved, meanwhile);
+    EXPECT_EQ(other.found(u"SELECT UnitPrice FROM Item WHERE ItemID = 2"_s), u"77"_s);
+    const QStringList moved = contents(kitchen.database());
+    EXPECT_EQ(contents(other.database()), moved);
+    EXPECT_EQ(refusalToOpen(other), QString());
+
+    const QString place = other.database().connection().location();
+    for (const QString &write : {u"UPDATE Item SET UnitPrice = 1"_s, u"DELETE FROM IHist"_s,
+                                 u"INSERT INTO Vendor (VendorID) VALUES (99)"_s}) // of one who had it open before
+        EXPECT_TRUE(refusal([&] { anna->database.connection().execute(write); }).contains(place));
+    EXPECT_EQ(refusalToOpen(kitchen), QString());
+    EXPECT_TRUE(prompts.told().contains(u"These books have moved to %1"_s.arg(place)));
+    EXPECT_EQ(contents(kitchen.database()), moved);
+
+    takeUpAgain(kitchen.database(), u"maria"_s);
+    EXPECT_EQ(kitchen.found(u"SELECT \"user\" FROM History WHERE Event LIKE 'Taken up again%'"_s), u"maria"_s);
+    anna->database.connection().execute(u"UPDATE Item SET UnitPrice = 1"_s);
+    EXPECT_EQ(refusalToOpen(kitchen), QString());
+    EXPECT_EQ(prompts.told(), QString());
+    EXPECT_FALSE(refusal([&] { takeUpAgain(kitchen.database(), u"maria"_s); }).isEmpty());
+}
+
+TEST_P(BookCopyTest, AMoveThatWasCutOffAtItsLastStepComesToItsEnd)
+{
+    TestStore other(Store::Remote);
+    copy(other, Afterwards::Moved);
+    beginCopy(other.database(), kitchen.database());
+    EXPECT_FALSE(refusalToOpen(other).isEmpty());
+    copy(other, Afterwards::Moved);
+    EXPECT_EQ(refusalToOpen(other), QString());
+    TestStore third(Store::Local);
+    EXPECT_TRUE(refusal([&] { copy(third, Afterwards::Moved); }).contains(u"These books have moved"_s));
+}
+
+TEST_P(BookCopyTest, DoesNotMoveWhileSomebodyHasADocumentOpen)
+{
+    TestStore other(Store::Local);
+    {
+        const TheirTable receipts(kitchen, u"IReceipt"_s);
+        EXPECT_THROW(copy(other, Afterwards::Moved), Engine::EngineError);
+    }
+    EXPECT_FALSE(movedBooks(kitchen.database()));
+    EXPECT_FALSE(refusalToOpen(other).isEmpty());
+    copy(other, Afterwards::Moved);
+    EXPECT_TRUE(movedBooks(kitchen.database()));
+}
+
+ON_BOTH_STORES(BookCopyTest);
+
+} // namespace

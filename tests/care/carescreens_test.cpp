@@ -1,0 +1,235 @@
+#include "base/ruleerror.h"
+#include "care/backupschedule.h"
+#include "care/screens/auditlist.h"
+#include "care/screens/backupscreen.h"
+#include "care/screens/checkbooks.h"
+#include "care/screens/copyscreen.h"
+#include "care/screens/dailybackup.h"
+#include "care/screens/restorescreen.h"
+#include "controls/screens/besidework.h"
+#include "controls/screens/keptfiltermenu.h"
+#include "controls/windows/filechoice.h"
+#include "data/audit.h"
+#include "data/bookplace.h"
+#include "tests/support/screentest.h"
+
+#include <QDir>
+#include <QPlainTextEdit>
+#include <QProgressDialog>
+#include <QTemporaryDir>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+struct CareScreensTest : ScreenTest, testing::WithParamInterface<Store>
+{
+    CareScreensTest()
+        : ScreenTest(GetParam())
+    {
+        context->settings = &settings;
+        context->chooseFileToSave = [this](QWidget *, const FileChoice &choice) {
+            return folder.filePath(choice.name);
+        };
+        data->sessionTallymere().applicationUser = u"maria"_s;
+        data->setCurrentUser(u"maria"_s);
+    }
+
+    QStringList filesLeft()
+    {
+        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    const QTemporaryDir folder;
+};
+
+TEST_P(CareScreensTest, FindingsAreShownSavedAndMendedAfterABackupThatIsNamed)
+{
+    kitchen.execute(
+        u"DELETE FROM ItemCtl; INSERT INTO ItemCtl (NextItemID) VALUES (2); UPDATE Item SET ItemTypeID = 99 WHERE ItemID = 2"_s);
+    const QPointer<TfrmCheckBooks> screen = new TfrmCheckBooks(*context, mainWindow.get());
+    QSignalSpy checked(screen, &TfrmCheckBooks::checked);
+    screen->show();
+    ASSERT_TRUE(comesTrue([&] { return checked.size() == 1; }));
+    auto &grid = *child<QTableView>(*screen, "DBGrid1");
+    ASSERT_EQ(grid.model()->rowCount(), 2);
+    EXPECT_EQ(child<QLabel>(*screen, "lblStatus")->text(), u"2 findings, a repair mends: 1"_s);
+    EXPECT_TRUE(has(child<QLabel>(*screen, "lblWhat")->text(), u"NextItemID"_s));
+    EXPECT_TRUE(has(child<QLabel>(*screen, "lblRemedy")->text(), u"repair"_s));
+    grid.setCurrentIndex(grid.model()->index(1, 0));
+    EXPECT_TRUE(has(child<QLabel>(*screen, "lblWhere")->text(), u"ItemID 2"_s));
+
+    child<QPushButton>(*screen, "btnSave")->menu()->actions()[1]->trigger(); // as CSV
+    QFile saved(folder.filePath(u"Check of the Books.csv"_s));
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    const QByteArray csv = saved.readAll();
+    EXPECT_EQ(csv.count("\r\n"), 3);
+    EXPECT_TRUE(csv.contains("NextItemID") && csv.contains("Left to you"));
+
+    // A document that somebody has open keeps the repair off, and nothing is written.
+    prompts.said.clear();
+    {
+        Engine::Table receipts(data->databaseTallymere(), u"IReceipt"_s);
+        receipts.open();
+        click(*screen, "btnRepair");
+        EXPECT_EQ(filesLeft(), QStringList(u"Check of the Books.csv"_s));
+        EXPECT_TRUE(has(prompts.take().value(0), u"error"_s));
+    }
+    click(*screen, "btnRepair");
+    EXPECT_TRUE(has(prompts.last(), folder.filePath(u"before-repair-2026-03-20-000000.sqlite"_s)));
+    EXPECT_EQ(child<QLabel>(*screen, "lblStatus")->text(), u"2 findings, mended: 1, left to you: 1"_s);
+    EXPECT_FALSE(child<QPushButton>(*screen, "btnRepair")->isEnabled());
+    EXPECT_EQ(kitchen.found(u"SELECT Event, \"user\" FROM History"_s).section(u' ', 0, 0), u"Repaired:"_s);
+    showActive(*screen); // again, where a box has told of the progress
+    press(Qt::Key_F5);
+    EXPECT_EQ(grid.model()->rowCount(), 1);
+}
+
+TEST_P(CareScreensTest, ABackupOfTheScreenComesBackIntoAnEmptyFolder)
+{
+    TfrmBackUp backup(*context, mainWindow.get());
+    showActive(backup);
+    EXPECT_EQ(child<QLabel>(backup, "lblLast")->text(), u"No backup of this database is known."_s);
+    click(backup, "btnBackUp");
+    EXPECT_TRUE(has(prompts.take().value(0), u"has been verified"_s));
+    const QString file = folder.filePath(u"backup-2026-03-20-000000.sqlite"_s);
+    EXPECT_EQ(filesLeft(), QStringList(QFileInfo(file).fileName()));
+    EXPECT_TRUE(has(child<QLabel>(backup, "lblLast")->text(), u"by maria"_s));
+
+    showActive(backup); // again, where a box has told of the progress
+    EXPECT_FALSE(child<QCheckBox>(backup, "chkDaily")->isChecked());
+    child<QCheckBox>(backup, "chkDaily")->setChecked(true);
+    click(backup, "btnOK");
+    EXPECT_TRUE(has(prompts.take().value(0), u"Choose a folder"_s));
+    EXPECT_EQ(backup.focusWidget()->objectName(), u"editFolder"_s);
+    type(folder.path());
+    click(backup, "btnOK");
+    EXPECT_FALSE(backup.isVisible());
+    EXPECT_EQ(BackupSchedule::readFrom(settings).folder, folder.path());
+    EXPECT_EQ(TfrmDailyBackup(*context, mainWindow.get()).exec(), QDialog::Accepted);
+    EXPECT_EQ(TfrmDailyBackup(*context, mainWindow.get()).exec(), QDialog::Accepted) << "one is enough";
+    EXPECT_EQ(filesLeft().size(), 2);
+    EXPECT_EQ(prompts.said, QStringList());
+
+    const QTemporaryDir target;
+    TfrmRestore restore(prompts, u"anna"_s, mainWindow.get());
+    showActive(restore);
+    typeOver(restore, "editFolder", "/nowhere");
+    click(restore, "btnRestore");
+    EXPECT_TRUE(has(prompts.take().value(0), u"Choose the backup"_s));
+    EXPECT_EQ(restore.focusWidget()->objectName(), u"editFile"_s);
+    child<QLineEdit>(restore, "editFile")->setText(file);
+    click(restore, "btnRestore");
+    EXPECT_TRUE(has(prompts.take().value(0), u"/nowhere"_s));
+    EXPECT_EQ(restore.focusWidget()->objectName(), u"editFolder"_s);
+    child<QLineEdit>(restore, "editFolder")->setText(target.path());
+    click(restore, "btnRestore");
+    EXPECT_TRUE(has(prompts.take().value(0), u"has been restored into "_s + target.path()));
+    EXPECT_TRUE(QFileInfo::exists(target.filePath(u"Corvane.sqlite"_s)));
+    EXPECT_FALSE(restore.isVisible());
+    TDataModuleTallymere restored(settings, prompts, {.dataFolder = target.path()});
+    EXPECT_EQ(Engine::singleValue(restored.databaseTallymere(), u"SELECT \"user\" FROM History"_s).toText(),
+              u"anna"_s);
+
+    restore.show();
+    click(restore, "btnRestore");
+    EXPECT_TRUE(has(prompts.take().value(0), u"holds a database already"_s));
+    EXPECT_EQ(restore.focusWidget()->objectName(), u"editFolder"_s);
+}
+
+TEST_P(CareScreensTest, BooksAreCopiedIntoAFolderAndMove)
+{
+    if (GetParam() == Store::Remote)
+        GTEST_SKIP() << "on a server books are always called by one name";
+    const QTemporaryDir target;
+    TfrmCopyBooks copy(settings, prompts, u"anna"_s, {.folder = kitchen.directory()}, mainWindow.get());
+    showActive(copy);
+    child<QRadioButton>(copy, "radioFolder")->setChecked(true);
+    click(copy, "btnCopy");
+    EXPECT_TRUE(has(prompts.take().value(0), u"Choose a folder"_s));
+    EXPECT_EQ(copy.focusWidget()->objectName(), u"editFolder"_s);
+    child<QLineEdit>(copy, "editFolder")->setText(target.path());
+    child<QCheckBox>(copy, "chkMove")->setChecked(true);
+    prompts.ok = false;
+    click(copy, "btnCopy");
+    EXPECT_TRUE(has(prompts.take().value(0), u"nobody can change anything"_s));
+    EXPECT_FALSE(QFileInfo::exists(target.filePath(u"Corvane.sqlite"_s)));
+    prompts.ok = true;
+    click(copy, "btnCopy");
+    EXPECT_TRUE(has(prompts.take().value(1), u"The books have moved to "_s + target.path()));
+    EXPECT_TRUE(has(child<QPlainTextEdit>(copy, "memoTold")->toPlainText(), u"Item: 4 rows"_s));
+    EXPECT_EQ(copy.copied().folder, target.path());
+    EXPECT_TRUE(movedBooks(kitchen.database()));
+}
+
+TEST_P(CareScreensTest, TheAuditListIsLatestFirstFilteredAndSaved)
+{
+    leaveNote(data->databaseTallymere(), u"Repaired: something"_s, QDate(2026, 3, 19), u"maria"_s);
+    data->sessionTallymere().clock = [] { return QDateTime(QDate(2026, 3, 21), QTime(17, 5)); };
+    leaveNote(data->databaseTallymere(), u"Restored from the backup x"_s, QDate(2026, 3, 21), u"anna"_s);
+    TfrmAudit list(*context, mainWindow.get());
+    showActive(list);
+    auto &grid = *child<QTableView>(list, "DBGrid1");
+    const auto shown = [&grid](int row) {
+        QStringList texts;
+        for (int column = 0; column < grid.model()->columnCount(); ++column)
+            texts << grid.model()->index(row, column).data().toString();
+        return texts.join(u'|');
+    };
+    EXPECT_EQ(shown(0), u"21 Mar 26|17:05|Restored from the backup x|anna|21 Mar 26"_s);
+    EXPECT_EQ(shown(1), u"20 Mar 26|00:00|Repaired: something|maria|19 Mar 26"_s);
+    EXPECT_TRUE(whileOpen<QDialog>([&] { list.btnFilterClick(); },
+                                   [](QDialog &filter) {
+                                       type("repaired");
+                                       click(filter, "btnOK");
+                                   }));
+    EXPECT_EQ(grid.model()->rowCount(), 1);
+    EXPECT_TRUE(whileOpen<QDialog>([&] { child<QAction>(list, "mnuKeepFilter")->trigger(); },
+                                   [](QDialog &) {
+                                       type("Mended");
+                                       press(Qt::Key_Return);
+                                   }));
+    list.resetFilter();
+    EXPECT_EQ(grid.model()->rowCount(), 2);
+    auto &kept = *list.findChild<KeptFilterMenu *>();
+    Q_EMIT kept.aboutToShow();
+    kept.actions().constFirst()->trigger();
+    EXPECT_EQ(grid.model()->rowCount(), 1) << "as it was kept";
+    list.command(u"mnuSaveCsv"_s)->trigger();
+    QFile saved(folder.filePath(u"Audit List.csv"_s));
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    EXPECT_EQ(saved.readAll().trimmed().split('\n').value(1),
+              "2026-03-20,00:00,Repaired: something,maria,2026-03-19");
+}
+
+TEST_P(CareScreensTest, CancelEndsWhatGoesOnBesideAndScreensLiveMeanwhile)
+{
+    const Qt::HANDLE here = QThread::currentThreadId();
+    int repaints = 0;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&repaints] {
+        auto *box = qobject_cast<QProgressDialog *>(QApplication::activeModalWidget());
+        if (box && box->isVisible() && ++repaints == 3)
+            box->cancel();
+    });
+    look.start(1);
+    int ends = 0;
+    EXPECT_THROW(workBeside(mainWindow.get(), u"Working"_s, data->databaseTallymere(),
+                            [&](Engine::Database &database, Progress &progress) {
+                                EXPECT_NE(QThread::currentThreadId(), here);
+                                EXPECT_NE(&database, &data->databaseTallymere());
+                                EXPECT_TRUE(database.tableExists(u"Item"_s));
+                                const auto end = qScopeGuard([&ends] { ++ends; });
+                                for (;;)
+                                    progress.step();
+                            }),
+                 SilentAbort);
+    EXPECT_EQ(ends, 1);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+} // namespace
+
+ON_BOTH_STORES(CareScreensTest);

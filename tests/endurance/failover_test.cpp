@@ -1,0 +1,383 @@
+// Six users without windows and two with them work on a cluster whose primary is killed, stopped, cut off and made a standby,
+// round after round. Whatever was answered is there, nothing is there twice, and everybody goes on without being started
+// anew. TALLYMERE_TEST_CLUSTER is the folder of the cluster (scripts/cluster), which scripts/endurance brings up.
+
+#include "tests/cli/clirunner.h"
+#include "tests/endurance/people.h"
+#include "tests/support/chance.h"
+#include "tests/support/failures.h"
+#include "tests/support/files.h"
+#include "tests/support/screentest.h"
+#include "tests/support/spokenprompts.h"
+#include "transactions/documententry.h"
+#include "transactions/documentkinds.h"
+#include "transactions/documentposting.h"
+#include "transactions/screens/invreceipt.h"
+
+#include <QDateTime>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+constexpr int enterers = 4;
+constexpr int posters = 2;
+constexpr int sitters = 2;
+constexpr int longest = 180; // seconds until everybody must have had an answer again
+
+QString cluster() { return qEnvironmentVariable("TALLYMERE_TEST_CLUSTER"); }
+
+qint64 now() { return QDateTime::currentMSecsSinceEpoch(); }
+void sayAnswered(const QString &word, qint64 begun) { say({u"answered"_s, word, QString::number(begun)}); }
+
+// Does a step until it is answered; what a user does who is told that the server is gone.
+void insist(const std::function<void()> &step)
+{
+    for (;;) {
+        try {
+            return step();
+        } catch (const Engine::EngineError &error) {
+            say({u"told"_s, QString::number(static_cast<int>(error.code())), error.text()});
+        }
+        QThread::msleep(200);
+    }
+}
+
+// Receipts of two lines each that bear a word of their own. Who is told that it is not known whether it was saved looks.
+void enter(Engine::Database &database, const QStringList &arguments)
+{
+    database.session().applicationUser = u"user"_s + arguments.value(0);
+    SpokenPrompts prompts;
+    const auto first = [&](const char *table) {
+        return rowsOf(database,
+                      u"SELECT min(%1ID) FROM %2"_s.arg(
+                          table == std::string("Warehse") ? u"Warehouse"_s : QString::fromLatin1(table),
+                          QString::fromLatin1(table)))
+            .first()
+            .toInt();
+    };
+    const int item = first("Item");
+    const int vendor = first("Vendor");
+    const int location = first("Warehse");
+    for (int number = 1;; ++number) {
+        const QString word = u"u%1-%2"_s.arg(arguments.value(0)).arg(number);
+        const qint64 begun = now();
+        std::unique_ptr<DocumentEntry> entry;
+        insist([&] {
+            entry = DocumentKinds::receipt().entry.make(database, prompts);
+            entry->open();
+            entry->newDocument();
+            entry->header().set(u"WarehouseID"_s, location);
+            entry->header().set(u"VendorID"_s, vendor);
+            entry->header().set(u"PurchaseOrderNo"_s, word);
+        });
+        for (int line = 0; line < 2; ++line) {
+            insist([&] {
+                if (!entry->lines().isEditing())
+                    entry->newLine();
+                entry->lines().set(u"QtyReceived"_s, 2);
+                entry->chooseItem(item);
+                entry->lines().set(u"UnitCost"_s, 1);
+                entry->lines().post();
+            });
+        }
+        insist([&] {
+            const QString there = u"SELECT ReceiptID FROM IReceipt WHERE PurchaseOrderNo = '%1'"_s.arg(word);
+            if (entry->header().isEditing() && rowsOf(database, there).isEmpty())
+                entry->save();
+        });
+        sayAnswered(word, begun);
+    }
+}
+
+void post(Engine::Database &database, const QStringList &)
+{
+    SpokenPrompts prompts;
+    CountedProgress progress;
+    for (;;) {
+        const qint64 begun = now();
+        insist([&] {
+            DocumentPosting posting(database, DocumentKinds::receipt());
+            posting.run(prompts, progress);
+            sayAnswered(posting.posted() > 0 ? u"posted"_s : u"nothing"_s, begun);
+        });
+        QThread::msleep(100);
+    }
+}
+
+// The same in a window, by keys. Its user presses OK until the window goes, and enters anew what it does not keep.
+class Sitter
+{
+public:
+    Sitter(Engine::Database &books, const QString &user)
+        : m_data(m_settings, m_prompts,
+                 {.server = books.session().remoteAddress, .serverDatabase = books.remoteName, .currentUser = user})
+    {
+        m_prompts.answer = Answer::No;
+    }
+    void enter(const QString &word)
+    {
+        while (!entered(word))
+            say({u"again"_s, word});
+    }
+
+private:
+    // False where the screen does not take what has been typed: some of it was lost.
+    bool entered(const QString &word)
+    {
+        QPointer<TfrmInvReceipt> screen;
+        const auto close = qScopeGuard([&] { // nothing is kept
+            if (screen)
+                screen->close();
+            ScreenTest::settle();
+            delete screen;
+            m_prompts.take();
+        });
+        insist([&] {
+            delete screen;
+            screen = new TfrmInvReceipt(m_context, &m_mainWindow);
+            screen->newRecord();
+        });
+        showActive(*screen);
+        type("V1<Return>o<PgDown>2<Return>A1<Return><Return>3<Return>1<Return>B2<Return><Return>1.25");
+        typeOver(*screen, "editPurchaseOrderNo", word.toUtf8().constData());
+        if (const QString told = m_prompts.told(); !told.isEmpty()) { // some of it has gone elsewhere
+            say({u"told"_s, told});
+            return false;
+        }
+        for (;;) {
+            QTest::keyClick(screen, Qt::Key_O, Qt::AltModifier);
+            const bool isSaid = comesTrue([&] { return !screen || !m_prompts.said.isEmpty(); });
+            const QString told = m_prompts.told();
+            if (!told.isEmpty())
+                say({u"told"_s, told});
+            if (!screen || !isSaid)
+                return !screen;
+            if (!has(told, u"server"_s))
+                return false;
+            QThread::msleep(200);
+        }
+    }
+
+    SpokenPrompts m_prompts;
+    MemorySettings m_settings;
+    TDataModuleTallymere m_data;
+    TdmLookUpsInv m_lookups{m_data.databaseTallymere()};
+    ScreenContext m_context{.data = m_data, .lookups = m_lookups, .prompts = m_prompts};
+    QWidget m_mainWindow;
+};
+
+void sit(Engine::Database &books, const QStringList &arguments)
+{
+    Sitter sitter(books, u"sitter"_s + arguments.value(0)); // another one would take up what he has begun
+    for (int number = 1;; ++number) {
+        const QString word = u"w%1-%2"_s.arg(arguments.value(0)).arg(number);
+        const qint64 begun = now();
+        sitter.enter(word);
+        sayAnswered(word, begun);
+    }
+}
+
+// What a fault does to the node that is the primary, and how it is mended.
+struct Fault
+{
+    const char *name;
+    const char *doing; // %1 the cluster's folder, %2 the node, %3 its server's processes
+    const char *mending;
+};
+const Fault faults[] = {
+    {"server killed", "kill -9 %3", ""},
+    {"node killed", "kill -9 $(cat %1/%2.pid) $(cat %1/%2-etcd.pid) %3", "start"},
+    {"server stopped", "kill -STOP %3", "kill -CONT %3; true"},
+    {"cut off", "kill -STOP $(cat %1/%2.pid) $(cat %1/%2-etcd.pid) %3",
+     "kill -CONT $(cat %1/%2.pid) $(cat %1/%2-etcd.pid) %3; true"},
+    {"switched over", "switch", ""},
+};
+
+QString shell(const QString &command)
+{
+    QProcess process;
+    process.start(u"sh"_s, {u"-c"_s, command});
+    process.waitForFinished(-1);
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+class FailoverTest : public testing::Test
+{
+protected:
+    struct Person
+    {
+        QString task;
+        std::unique_ptr<QProcess> process;
+        qint64 usable = -1; // milliseconds after the fault, with something begun since then; none yet
+    };
+
+    static QString script(const QString &action)
+    {
+        return shell(QStringLiteral(CLUSTER_SCRIPT) + u' ' + action + u' ' + cluster());
+    }
+    static QString leader()
+    {
+        return shell(u"patronictl -c %1/n1.yml list -f tsv 2>/dev/null | awk -F'\\t' '$4 == \"Leader\" {print $2} "
+                     "$3 == \"Leader\" {print $1}' | grep -o 'n[123]' | head -1"_s.arg(cluster()));
+    }
+    static QString serverOf(const QString &node)
+    {
+        return shell(u"p=$(head -1 %1/%2-data/postmaster.pid); echo $p $(pgrep -P $p | tr '\\n' ' ')"_s.arg(
+            cluster(), node));
+    }
+    void start(const QString &task, int number)
+    {
+        Person person{task, std::make_unique<QProcess>()};
+        person.process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        person.process->start(QCoreApplication::applicationFilePath(),
+                              {u"--other-user"_s, u"remote"_s, u"corvane"_s, task, QString::number(number)});
+        people.push_back(std::move(person));
+    }
+    void hear(Person &person, const QString &line)
+    {
+        const QString word = line.section(u' ', 1, 1);
+        if (!line.startsWith("answered"_L1)) {
+            if (!line.contains("is locked by"_L1))
+                ++messages;
+            if (person.task == "sit"_L1 || !line.startsWith("told"_L1))
+                m_told << QString::number(now() - faultAt) + u' ' + person.task + u": "_s + line.left(300);
+            return;
+        }
+        if (person.task != "post"_L1)
+            answered << word;
+        if (person.usable < 0 && word != "nothing"_L1 && line.section(u' ', 2).toLongLong() >= faultAt)
+            person.usable = now() - faultAt;
+    }
+    // Until everybody has had an answer since the clock began.
+    bool listen()
+    {
+        const auto isBack = [](const Person &person) { return person.usable >= 0; };
+        while (!std::all_of(people.begin(), people.end(), isBack)) {
+            for (Person &person : people) {
+                person.process->waitForReadyRead(20);
+                while (person.process->canReadLine())
+                    hear(person, QString::fromUtf8(person.process->readLine()).trimmed());
+                if (person.process->state() == QProcess::NotRunning) {
+                    std::printf("%s is gone\n", qPrintable(person.task));
+                    return false;
+                }
+            }
+            if (now() - faultAt > longest * 1000)
+                return false;
+        }
+        return true;
+    }
+    bool begin()
+    {
+        faultAt = now();
+        messages = 0;
+        for (Person &person : people)
+            person.usable = -1;
+        return listen();
+    }
+    void verify()
+    {
+        const auto other = cli->anotherUser();
+        QHash<QString, int> there;
+        for (const QString &row :
+             rowsOf(other->database,
+                    u"SELECT PurchaseOrderNo, count(*), count(DISTINCT H.ReceiptID) FROM IReceipt H "
+                    "JOIN IRecDet D ON D.ReceiptID = H.ReceiptID GROUP BY PurchaseOrderNo"_s)) {
+            EXPECT_TRUE(row.endsWith("|2|1"_L1)) << "not once: " << qPrintable(row);
+            there.insert(row.section(u'|', 0, 0), 1);
+        }
+        for (const QString &word : std::as_const(answered))
+            EXPECT_TRUE(there.contains(word)) << "answered and lost: " << qPrintable(word);
+        if (HasFailure())
+            std::printf("%s\n", qPrintable(m_told.join(u'\n')));
+        if (HasFailure()) // what there is of it
+            std::printf(
+                "%s\n",
+                qPrintable(
+                    rowsOf(other->database,
+                           u"SELECT ReceiptID, PurchaseOrderNo, Posted, (SELECT count(*) FROM IRecDet D "
+                           "WHERE D.ReceiptID = H.ReceiptID) FROM IReceipt H WHERE PurchaseOrderNo LIKE 'w%' "
+                           "OR coalesce(PurchaseOrderNo, '') = '' ORDER BY ReceiptID"_s)
+                        .join(u'\n')));
+        Findings found;
+        EXPECT_TRUE(comesTrue([&] { return !errorOf([&] { found = checked(other->database); }); }));
+        EXPECT_EQ(found.bad.join(u'\n').toStdString(), "");
+    }
+
+    std::unique_ptr<CliRunner> cli;
+    std::vector<Person> people;
+    QStringList answered;
+    QStringList m_told;
+    int messages = 0; // besides that of a lock
+    qint64 faultAt = 0;
+};
+
+TEST_F(FailoverTest, WhatWasAnsweredIsThereOnceAndEverybodyGoesOn)
+{
+    if (cluster().isEmpty())
+        GTEST_SKIP() << "There is no cluster; scripts/endurance failover brings one up.";
+    cli = std::make_unique<CliRunner>(Store::Remote);
+    makeSmallCompany(*cli);
+    cli->execute(u"UPDATE Item SET Suspended = false WHERE Suspended IS NULL"_s);
+    for (int number = 1; number <= enterers; ++number)
+        start(u"enter"_s, number);
+    for (int number = 1; number <= posters; ++number)
+        start(u"post"_s, number);
+    for (int number = 1; number <= sitters; ++number)
+        start(u"sit"_s, number);
+    ASSERT_TRUE(begin());
+    const int rounds = timesByHand(static_cast<int>(std::size(faults)));
+    std::printf("seconds until usable\n%-16s %s\n", "fault",
+                "each of four who enter, two who post, two in windows; messages to all of them; new primary");
+    for (int round = 0; round < rounds && !HasFailure(); ++round) {
+        const Fault &fault = faults[static_cast<std::size_t>(round) % std::size(faults)];
+        const QString node = leader();
+        const QString server = serverOf(node);
+        SCOPED_TRACE(fault.name + (" of " + node.toStdString()));
+        const auto filled = [&](const char *text) {
+            return QString::fromLatin1(text)
+                .replace("%1"_L1, cluster())
+                .replace("%2"_L1, node)
+                .replace("%3"_L1, server);
+        };
+        QThread::msleep(700);
+        const bool isSwitch = fault.doing == std::string("switch");
+        faultAt = now();
+        messages = 0;
+        for (Person &person : people)
+            person.usable = -1;
+        shell(isSwitch ? u"patronictl -c %1/n1.yml switchover --master %2 --force >/dev/null"_s.arg(cluster(), node)
+                       : filled(fault.doing));
+        EXPECT_TRUE(listen());
+        std::printf("%-16s", fault.name);
+        for (const Person &person : people)
+            std::printf(" %5.1f", double(person.usable) / 1000);
+        std::printf("   %4d   %s\n", messages, qPrintable(leader()));
+        std::fflush(stdout);
+        if (fault.mending == std::string("start"))
+            script(u"start"_s);
+        else
+            shell(filled(fault.mending));
+        QThread::sleep(4); // until the cluster has noticed
+        EXPECT_TRUE(has(script(u"ready"_s), u"is ready"_s));
+        ASSERT_TRUE(begin());
+        verify();
+    }
+    for (Person &person : people)
+        person.process->kill();
+    for (Person &person : people)
+        person.process->waitForFinished();
+    verify();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return runTests(argc, argv, {{u"enter"_s, enter}, {u"post"_s, post}, {u"sit"_s, sit}});
+}

@@ -1,0 +1,306 @@
+#include "tests/frame/windowfacts.h"
+
+#include "tests/support/screendriver.h"
+
+#include <QAbstractEventDispatcher>
+#include <QThreadPool>
+#include <QtWidgets>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Sizes and what follows from fonts, the moment, and what others of these say already.
+const QList<QByteArray> &leftOut()
+{
+    static const QList<QByteArray> names =
+        QByteArray(
+            "objectName x y width height minimumWidth minimumHeight maximumWidth maximumHeight focus "
+            "isActiveWindow fullScreen minimized maximized windowFilePath windowIconText frameWidth lineWidth "
+            "cursorPosition html markdown plainText documentTitle autoFillBackground length offset "
+            "defaultSectionSize minimumSectionSize maximumSectionSize highlighted windowModified default down "
+            "currentText displayText cleanText currentSection date dateTime acceptableInput undoAvailable "
+            "redoAvailable hasSelectedText selectedText modified currentIndex value source iconText")
+            .split(' ');
+    return names;
+}
+
+template <typename... Classes> const QWidget *plainOne(const QWidget &widget)
+{
+    const QWidget *found = nullptr;
+    ((!found && qobject_cast<const Classes *>(&widget) ? (void)[&found] {
+        static const auto *const plain = new Classes; // of the nearest class of the toolkit; outlives the application
+        found = plain;
+    }()
+                                                       : (void)0),
+     ...);
+    return found;
+}
+
+const QWidget &usual(const QWidget &widget)
+{
+    if (const auto *header = qobject_cast<const QHeaderView *>(&widget)) {
+        static const auto *const across = new QHeaderView(Qt::Horizontal);
+        static const auto *const down = new QHeaderView(Qt::Vertical);
+        return header->orientation() == Qt::Horizontal ? *across : *down;
+    }
+    return *plainOne<QDialog, QPushButton, QToolButton, QCheckBox, QRadioButton, QDateEdit, QDoubleSpinBox,
+                     QSpinBox, QFontComboBox, QComboBox, QTableWidget, QTableView, QTreeWidget, QTreeView,
+                     QListWidget, QListView, QTextBrowser, QTextEdit, QPlainTextEdit, QScrollArea, QTabWidget,
+                     QGroupBox, QProgressBar, QStackedWidget, QSplitter, QLineEdit, QLabel, QMenuBar, QMenu,
+                     QStatusBar, QTabBar, QFrame, QWidget>(widget);
+}
+
+QString said(const QMetaProperty &property, const QVariant &value)
+{
+    const QByteArray name = property.name();
+    if (property.isFlagType())
+        return QString::fromLatin1(property.enumerator().valueToKeys(value.toInt()));
+    if (property.isEnumType())
+        return QString::fromLatin1(property.enumerator().valueToKey(value.toInt()));
+    if (value.typeId() == QMetaType::QFont) {
+        const auto font = value.value<QFont>();
+        return u"%1%2"_s.arg(font.bold() ? u"bold"_s : u"plain"_s,
+                             font.pointSizeF() > QApplication::font().pointSizeF() ? u" larger"_s : QString());
+    }
+    if (value.typeId() == QMetaType::QIcon)
+        return value.value<QIcon>().isNull() ? u"none"_s : u"an icon"_s;
+    if (value.typeId() == QMetaType::QSizePolicy) {
+        const auto policy = value.value<QSizePolicy>();
+        return u"%1/%2"_s.arg(policy.horizontalPolicy()).arg(policy.verticalPolicy());
+    }
+    return name == "accessibleName" || value.typeId() != QMetaType::Int ? timeless(value.toString())
+                                                                        : value.toString();
+}
+
+bool tells(const QMetaProperty &property)
+{
+    static const QSet<int> types{QMetaType::Bool,         QMetaType::Int,         QMetaType::QString,
+                                 QMetaType::QKeySequence, QMetaType::QSizePolicy, QMetaType::QFont,
+                                 QMetaType::QIcon};
+    return (types.contains(property.metaType().id()) || property.isEnumType() || property.isFlagType())
+        && !leftOut().contains(property.name());
+}
+
+// What a plain one has, by the properties that tell something.
+const QList<std::pair<QMetaProperty, QString>> &usualOf(const QObject &plain)
+{
+    static QHash<const QObject *, QList<std::pair<QMetaProperty, QString>>> known;
+    QList<std::pair<QMetaProperty, QString>> &usual = known[&plain];
+    const QMetaObject &meta = *plain.metaObject();
+    for (int index = usual.isEmpty() ? 0 : meta.propertyCount(); index < meta.propertyCount(); ++index)
+        if (const QMetaProperty property = meta.property(index); tells(property))
+            usual.emplace_back(property, said(property, property.read(&plain)));
+    return usual;
+}
+
+QString differences(const QObject &object, const QObject &plain)
+{
+    QString result;
+    for (const auto &[property, usual] : usualOf(plain)) {
+        const QString now = said(property, property.read(&object));
+        const bool repeats = property.name() == QByteArray("toolTip")
+            && now == said(property, object.property("iconText")) && plain.inherits("QAction");
+        if (!repeats && now != usual && property.name() != QByteArray("visible"))
+            result += u" %1=%2"_s.arg(QString::fromLatin1(property.name()), now);
+    }
+    return result;
+}
+
+QString layoutOf(const QWidget &widget)
+{
+    const QLayout *layout = widget.layout();
+    if (!layout)
+        return {};
+    const QMargins margins = layout->contentsMargins();
+    return u" {%1 %2: %3 %4 %5 %6, %7}"_s.arg(QString::fromLatin1(layout->metaObject()->className()))
+        .arg(layout->count())
+        .arg(margins.left())
+        .arg(margins.top())
+        .arg(margins.right())
+        .arg(margins.bottom())
+        .arg(layout->spacing());
+}
+
+QString columnsOf(const QHeaderView &header)
+{
+    QString result;
+    for (int column = 0; header.model() && header.orientation() == Qt::Horizontal && column < header.count();
+         ++column) {
+        const QVariant caption = header.model()->headerData(column, Qt::Horizontal);
+        const QVariant alignment = header.model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
+        result += u" |%1%2 %3 %4"_s
+                      .arg(header.isSectionHidden(column) ? u"hidden "_s : QString(), timeless(caption.toString()))
+                      .arg(alignment.toInt())
+                      .arg(header.sectionResizeMode(column));
+    }
+    return result;
+}
+
+void addCommands(QStringList &facts, const QWidget &widget, const QString &indent)
+{
+    static const QAction plain;
+    for (const QAction *action : widget.actions()) {
+        facts << indent + u"> "_s + action->objectName()
+                + (action->isSeparator() ? u"-"_s : differences(*action, plain))
+                + (action->isVisible() ? u""_s : u" hidden"_s);
+        if (action->menu())
+            addCommands(facts, *action->menu(), indent + u"  "_s);
+    }
+}
+
+// Takes down with what a widget paints: which colours and fonts, neither where nor how often, which follow from fonts.
+class Ink final : public QPaintEngine, public QPaintDevice
+{
+public:
+    explicit Ink(const QWidget &widget)
+        : QPaintEngine(AllFeatures)
+        , m_widget(widget)
+    {
+    }
+
+    QStringList used;
+
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &) override { }
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { add(u"picture"_s); }
+    void drawTextItem(const QPointF &, const QTextItem &item) override
+    {
+        const double size = item.font().pointSizeF() - m_widget.font().pointSizeF();
+        add(u"text %1%2%3"_s.arg(painter()->pen().color().name(), item.font().bold() ? u" bold"_s : QString(),
+                                 size > 0       ? u" larger"_s
+                                     : size < 0 ? u" smaller"_s
+                                                : QString()));
+    }
+    void drawPath(const QPainterPath &) override { addShape(); }
+    void drawPolygon(const QPointF *, int, PolygonDrawMode) override { addShape(); }
+    Type type() const override { return User; }
+    QPaintEngine *paintEngine() const override { return const_cast<Ink *>(this); }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        switch (metric) {
+        case PdmWidth:
+            return m_widget.width();
+        case PdmHeight:
+            return m_widget.height();
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return static_cast<int>(devicePixelRatioFScale());
+        default:
+            return m_widget.logicalDpiX();
+        }
+    }
+
+private:
+    void add(const QString &what)
+    {
+        if (!used.contains(what))
+            used << what;
+    }
+    void addShape()
+    {
+        const QPen pen = painter()->pen();
+        const QBrush brush = painter()->brush();
+        add(u"%1/%2"_s.arg(pen.style() == Qt::NoPen ? u"-"_s : pen.color().name(),
+                           brush.style() == Qt::NoBrush ? u"-"_s : brush.color().name()));
+    }
+
+    const QWidget &m_widget;
+};
+
+// Of what paints itself, or is painted by another style than the others.
+QString paintedOf(QWidget &widget)
+{
+    if (widget.isWindow() || !widget.isVisible()
+        || (!qobject_cast<QLineEdit *>(&widget) && !widget.style()->inherits("Tallymere::HostStyle")
+            && !QByteArray(widget.metaObject()->className()).startsWith("Tallymere::")))
+        return {};
+    Ink ink(widget);
+    const bool scrolls = qobject_cast<QAbstractScrollArea *>(&widget);
+    widget.render(&ink, {}, {}, scrolls ? QWidget::DrawChildren : QWidget::RenderFlags());
+    ink.used.sort();
+    return ink.used.isEmpty() ? QString() : u" painted with "_s + ink.used.join(u", "_s);
+}
+
+// How many rows, where the cursor is and what stands there.
+QString rowOf(const QWidget &widget)
+{
+    const auto *table = qobject_cast<const QTableView *>(&widget);
+    if (!table || !table->model())
+        return {};
+    QStringList cells;
+    const QModelIndex at = table->currentIndex();
+    for (int column = 0; at.isValid() && column < table->model()->columnCount(); ++column)
+        cells << at.siblingAtColumn(column).data().toString();
+    return u" %1 rows, at %2,%3: %4"_s.arg(table->model()->rowCount())
+        .arg(at.row())
+        .arg(at.column())
+        .arg(timeless(cells.join(u'|')));
+}
+
+QString limitsOf(const QWidget &widget)
+{
+    const auto *edit = qobject_cast<const QLineEdit *>(&widget);
+    return edit && edit->validator() ? u" refuses what does not fit"_s : QString();
+}
+
+void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
+{
+    const QByteArray name = widget.metaObject()->className();
+    if (name == "QTableCornerButton" || name == "QSizeGrip" || name == "QLineEditIconButton" // which comes slowly
+        || name == "QCalendarWidget")
+        return;
+    const bool isOfToolkit =
+        widget.objectName().startsWith("qt_"_L1); // a part of its widget, as what holds the pages of a book
+    if (!isOfToolkit) {
+        const auto *header = qobject_cast<QHeaderView *>(&widget);
+        facts << indent + QString::fromLatin1(name) + u' ' + widget.objectName()
+                + (widget.isHidden() ? u" hidden"_s : QString()) + differences(widget, usual(widget))
+                + limitsOf(widget) + rowOf(widget) + paintedOf(widget) + layoutOf(widget)
+                + (header ? columnsOf(*header) : QString());
+        if (!qobject_cast<QMenu *>(&widget))
+            addCommands(facts, widget, indent + u"  "_s);
+    }
+    for (QObject *child : widget.children()) {
+        auto *inner = qobject_cast<QWidget *>(child);
+        if (inner && !inner->isWindow())
+            addFacts(facts, *inner, isOfToolkit ? indent : indent + u"  "_s);
+    }
+}
+
+} // namespace
+
+void awaitIdle(const QWidget *window)
+{
+    const QPointer<QLabel> status =
+        window ? window->findChild<QLabel *>(u"lblStatus"_s) : nullptr; // it may go with its window
+    EXPECT_TRUE(comesTrue([status] {
+        QThreadPool::globalInstance()->waitForDone();
+        return !QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)
+            && !(status && status->text().startsWith(u"Reading"_s));
+    }));
+}
+
+QString timeless(QString text)
+{
+    static const QRegularExpression folder(QRegularExpression::escape(QDir::tempPath()) + u"[^\\s\"]*"_s);
+    static const QRegularExpression digits(u"[0-9]+([.,/][0-9]+)*"_s), month(u"(?<=# )\\w+\\.?(?= #)"_s);
+    text.replace(QDir::homePath(), u"HOME"_s)
+        .replace(folder, u"FOLDER"_s)
+        .replace(digits, u"#"_s)
+        .replace(month, u"Month"_s);
+    for (int number = 1; number <= 12; ++number)
+        text.replace(QLocale::c().monthName(number), u"Month"_s);
+    return text.replace(u'\n', u'|').left(90); // of a longer one its beginning tells
+}
+
+QStringList factsOf(QWidget &window)
+{
+    QStringList facts;
+    addFacts(facts, window, QString());
+    return facts;
+}

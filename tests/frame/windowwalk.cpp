@@ -1,0 +1,178 @@
+#include "tests/frame/windowwalk.h"
+
+#include "controls/screens/datedialog.h"
+#include "tests/frame/windowfacts.h"
+#include "tests/support/screendriver.h"
+
+#include <QCalendarWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString nameOf(const QWidget *widget)
+{
+    for (; widget; widget = widget->parentWidget())
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"_L1))
+            return widget->objectName();
+    return u"-"_s;
+}
+
+// That a command or a control is a part of, through the menus.
+const QWidget *windowOf(const QObject *object)
+{
+    for (; object; object = object->parent()) {
+        const auto *widget = qobject_cast<const QWidget *>(object);
+        if (widget && widget->isWindow() && !qobject_cast<const QMenu *>(widget))
+            return widget;
+    }
+    return nullptr;
+}
+
+// The words of a fact that are new, and those that the same thing had before.
+QString changeTo(const QString &fact, const QStringList &before)
+{
+    const QString thing = fact.trimmed().section(u' ', 0, 1);
+    QStringList words = fact.split(u' ', Qt::SkipEmptyParts), gone;
+    for (const QString &old : before) {
+        if (!old.trimmed().startsWith(thing + u' ') && old.trimmed() != thing)
+            continue;
+        for (const QString &word : old.split(u' ', Qt::SkipEmptyParts))
+            if (!words.removeOne(word))
+                gone << word;
+        return u"%1 {%2} -> {%3}"_s.arg(thing, gone.join(u' '), words.join(u' '));
+    }
+    return u"new: "_s + fact.trimmed();
+}
+
+// On the first row of a list, in the middle of anything else.
+void click(QWidget &field, void (*press)(QWidget *, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int))
+{
+    auto *area = qobject_cast<QAbstractScrollArea *>(&field);
+    const auto *list = qobject_cast<QAbstractItemView *>(&field);
+    const QModelIndex first = list && list->model() ? list->model()->index(0, 0) : QModelIndex();
+    QWidget &target = area ? *area->viewport() : field;
+    press(&target, Qt::LeftButton, {}, first.isValid() ? list->visualRect(first).center() : target.rect().center(),
+          -1);
+}
+
+QWidgetList shownWindows()
+{
+    QWidgetList shown = QApplication::topLevelWidgets();
+    shown.removeIf([](const QWidget *window) { return window->isHidden(); });
+    return shown;
+}
+
+QString titleOf(const QWidget &window)
+{
+    return QString::fromLatin1(window.metaObject()->className()) + u' ' + timeless(window.windowTitle());
+}
+
+} // namespace
+
+void WindowWalk::sendAway(QWidget *dialog)
+{
+    QString asked = u"asks "_s + titleOf(*dialog);
+    for (const auto *label : dialog->findChildren<QLabel *>())
+        asked += label->isVisible() && !label->text().isEmpty() ? u" / "_s + timeless(label->text()) : QString();
+    m_became << asked;
+    if (auto *day = qobject_cast<Tallymere::DateDialog *>(dialog))
+        day->accept(); // that it stands on
+    dialog->close();
+    dialog->hide();
+}
+
+void WindowWalk::step(const QString &name, const std::function<void()> &act)
+{
+    if (!m_window)
+        return;
+    const QWidgetList before = shownWindows();
+    QTimer watch;
+    watch.callOnTimeout([&] {
+        QWidget *waiting = QApplication::activePopupWidget();
+        if (!waiting)
+            waiting = QApplication::activeModalWidget();
+        if (waiting && !before.contains(waiting))
+            sendAway(waiting);
+    });
+    watch.start(1); // of nothing, the loop would never be idle
+    act();
+    awaitIdle(m_window);
+    for (QWidget *window : shownWindows())
+        if (!before.contains(window))
+            sendAway(window);
+    watch.stop();
+    for (const QString &said : m_prompts.take())
+        m_became << u"says "_s + timeless(said);
+    if (!m_window)
+        return;
+    if (m_window->isHidden()) {
+        m_became << u"closes"_s;
+        m_window->show();
+    }
+    m_window->activateWindow();
+    awaitIdle(m_window);
+    const QStringList facts = factsOf(*m_window);
+    for (const QString &fact : facts)
+        if (!m_facts.contains(fact))
+            m_became << changeTo(fact, m_facts);
+    m_facts = facts;
+    const QString at = nameOf(m_window->focusWidget());
+    if (at != std::exchange(m_at, at))
+        m_became << u"at "_s + at;
+    if (!m_became.isEmpty()) // the others do nothing
+        m_steps << u"  %1: %2"_s.arg(name, std::exchange(m_became, {}).join(u"; "_s));
+}
+
+template <typename Control, typename Act> void WindowWalk::useEach(Act act)
+{
+    QList<QPointer<Control>> all;
+    for (Control *control : m_window->findChildren<Control *>())
+        if (windowOf(control) == m_window && !control->objectName().isEmpty()
+            && !control->objectName().startsWith("qt_"_L1) && !control->objectName().startsWith("_q_"_L1)
+            && !control->property("menu").template value<QMenu *>())
+            all << control;
+    for (const auto &control : all)
+        if (control && control->isVisible() && control->isEnabled())
+            step(control->objectName(), [&] { act(*control); });
+}
+
+void WindowWalk::typeEverywhere()
+{
+    QList<QPointer<QWidget>> fields;
+    for (QWidget *widget : m_window->findChildren<QWidget *>())
+        if (windowOf(widget) == m_window && widget->focusPolicy() & Qt::TabFocus
+            && !qobject_cast<QAbstractButton *>(widget) && !qobject_cast<QCalendarWidget *>(widget)
+            && !widget->objectName().startsWith("qt_"_L1))
+            fields << widget;
+    for (const auto &field : fields) {
+        const auto go = [&](const QString &what, const std::function<void()> &act) {
+            if (!field || !field->isVisible() || !field->isEnabled())
+                return;
+            field->setFocus();
+            m_at = nameOf(field);
+            step(m_at + u' ' + what, act);
+        };
+        go(u"click"_s, [&] { click(*field, &QTest::mouseClick); });
+        go(u"double click"_s, [&] { click(*field, &QTest::mouseDClick); });
+        for (const char *keys : {"7", "<Up>", "<Down>", "a<Return>", "<Delete>", "<Home>", "<Ctrl+I>", "<F3>",
+                                 "<Ctrl+Return>", "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
+            go(QString::fromLatin1(keys), [&] { type(keys); });
+    }
+}
+
+QStringList WindowWalk::run()
+{
+    m_window->setAttribute(Qt::WA_DeleteOnClose, false);
+    m_window->show();
+    awaitIdle(m_window);
+    m_prompts.take();
+    m_facts = factsOf(*m_window);
+    m_steps = {titleOf(*m_window)};
+    useEach<QToolButton>([](QToolButton &button) { button.click(); }); // beside fields, with what stands in them
+    typeEverywhere();
+    useEach<QAbstractButton>([](QAbstractButton &button) { button.click(); });
+    useEach<QAction>([](QAction &command) { command.trigger(); });
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // of the windows that came
+    return m_steps;
+}

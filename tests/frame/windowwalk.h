@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tests/support/spokenprompts.h"
+
+#include <functional>
+#include <QPointer>
+#include <QWidget>
+
+// Goes through a window as a user who tries everything: each button and command that can be chosen, and keys in each field.
+// Writes down what became of each step: what was said and asked, which windows came, where the keyboard is, what of the window
+// is another. Dialogs that wait for an answer are sent away, windows that came are closed.
+class WindowWalk
+{
+public:
+    WindowWalk(QWidget &window, SpokenPrompts &prompts)
+        : m_window(&window)
+        , m_prompts(prompts)
+    {
+    }
+
+    QStringList run();
+    // Of something that the screens asked of the main window.
+    void note(const QString &what) { m_became << what; }
+
+private:
+    void step(const QString &name, const std::function<void()> &act);
+    template <typename Control, typename Act> void useEach(Act act);
+    void typeEverywhere();
+    void sendAway(QWidget *dialog);
+
+    QPointer<QWidget> m_window;
+    SpokenPrompts &m_prompts;
+    QString m_at; // where the keyboard is
+    QStringList m_facts, m_became, m_steps;
+};

@@ -1,0 +1,68 @@
+// A file brought in by the window, driven by mouse and keyboard.
+#include "import/importkind.h"
+#include "import/screens/importscreen.h"
+#include "tests/support/files.h"
+#include "tests/support/screentest.h"
+
+#include <QComboBox>
+#include <QSpinBox>
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+struct ImportScreen : ScreenTest
+{
+    TfrmImport *open(const QByteArray &csv)
+    {
+        const QString name = folder.filePath(u"a.csv"_s);
+        putContent(name, csv);
+        screen =
+            std::make_unique<TfrmImport>(*context, ImportPlan(*findImportKind(u"items"_s), name), mainWindow.get());
+        screen->show();
+        QCoreApplication::processEvents(); // the rows are checked once the window is there
+        return screen.get();
+    }
+    template <typename Widget> Widget &part(const QString &name) { return *screen->findChild<Widget *>(name); }
+    QString told() { return part<QLabel>(u"lblRows"_s).text(); }
+    bool isReady() { return part<QPushButton>(u"btnOK"_s).isEnabled(); }
+    QString cell(int row, int column)
+    {
+        const QAbstractItemModel &rows = *part<QTableView>(u"grdRows"_s).model();
+        return rows.index(row, column).data().toString();
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<TfrmImport> screen;
+};
+
+TEST_F(ImportScreen, ShowsWhatIsWrongAndTakesAllRowsOnceNothingIs)
+{
+    open("ItemNo,Words,TypeName\nN1,New,Food\nN2,Newer,Foot\n");
+    EXPECT_EQ(told(), u"1 row cannot be imported, so none is."_s);
+    EXPECT_TRUE(cell(0, 1).contains(u"'ItemDescription' is missing"_s)) << qPrintable(cell(0, 1));
+    EXPECT_FALSE(isReady());
+
+    auto &field = part<QComboBox>(u"cboColumn2"_s);
+    field.setCurrentIndex(field.findData(u"ItemDescription"_s));
+    Q_EMIT field.activated(field.currentIndex());
+    EXPECT_EQ(cell(0, 1), QString());
+    EXPECT_EQ(cell(1, 1), u"Item type 'Foot' not found"_s);
+    EXPECT_EQ(cell(1, 0), u"3"_s);
+    EXPECT_FALSE(isReady());
+    screen->reject();
+
+    open("Items\n,,\nItemNo,Item description,TypeName\nN1,New,Food\nN2,Newer,Food\n");
+    auto &head = part<QSpinBox>(u"spinHead"_s);
+    head.setValue(3);
+    Q_EMIT head.editingFinished();
+    EXPECT_EQ(told(), u"2 records can be imported."_s);
+    ASSERT_TRUE(isReady());
+    part<QPushButton>(u"btnOK"_s).click();
+    EXPECT_EQ(screen->result(), QDialog::Accepted);
+    EXPECT_EQ(screen->imported().count(), 2);
+    EXPECT_EQ(kitchen.value(u"SELECT count(*) FROM Item WHERE ItemNo IN ('N1', 'N2')"_s).toInt(), 2);
+}
+
+} // namespace

@@ -1,0 +1,73 @@
+#include "insight/screens/firststeps.h"
+#include "tests/support/screentest.h"
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+struct FirstStepsScreenTest : ScreenTest
+{
+    FirstStepsScreenTest()
+    {
+        kitchen.execute(u"DELETE FROM Vendor; UPDATE ItemType SET Inventory = true"_s);
+        context->settings = &settings;
+        context->hasScreen = [](const QString &) { return true; };
+        context->openScreen = [this](const QString &name) -> QWidget * {
+            asked << name;
+            return nullptr;
+        };
+        context->importFile = [this](const QString &kind, const QString &file, QWidget *) {
+            asked << "import "_L1 + kind + file;
+            kitchen.execute(u"INSERT INTO Vendor (VendorID, VendorNo) VALUES (1, '7')"_s);
+            return true;
+        };
+        context->say = [this](const QString &text) { asked << text; };
+        screen = new TfrmFirstSteps(*context, mainWindow.get());
+        showActive(*screen);
+    }
+    void comeBack() // from another window
+    {
+        showActive(*mainWindow);
+        screen->activateWindow();
+    }
+    bool comes(const QString &text)
+    {
+        return comesTrue([&] { return child<QLabel>(*screen, "lblLeft")->text() == text; });
+    }
+
+    QStringList asked;
+    QPointer<TfrmFirstSteps> screen;
+};
+
+TEST_F(FirstStepsScreenTest, OpenWhatDoesThemAndGoByThemselves)
+{
+    EXPECT_TRUE(comes(u"4 of 6 done"_s));
+    typeIn(*screen, "firstItemsHand", "<Return>");
+    kitchen.addReceipt(1, 1, 1, {{1, 4, 2}});
+    comeBack();
+    EXPECT_TRUE(comesTrue([&] { return has(child<QLabel>(*screen, "firstCount")->text(), u"waiting"_s); }));
+    typeIn(*screen, "firstCountForm", "<Return>");
+    typeIn(*screen, "firstCountReceipt", "<Return>");
+    typeIn(*screen, "firstVendorsFile", "<Return>");
+    EXPECT_EQ(asked,
+              (QStringList{u"frmItemsInv"_s, u"FormBlankInventoryReportSelection"_s, u"frmInvReceiptsPost"_s,
+                           u"import vendors"_s}));
+    EXPECT_TRUE(comes(u"5 of 6 done"_s));
+
+    EXPECT_TRUE(TfrmFirstSteps::isWantedAtStart(*context));
+    click(*screen, "chkHide");
+    EXPECT_FALSE(TfrmFirstSteps::isWantedAtStart(*context));
+    kitchen.execute(u"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, Quantity) "
+                    "VALUES (1, 1, 2026, 3, 5, -4)"_s);
+    comeBack();
+    EXPECT_TRUE(comesTrue([&] { return !screen; }));
+    EXPECT_EQ(asked.last(), u"The first steps are done."_s);
+
+    // Asked for when there is nothing to be done it stays, and says so.
+    screen = new TfrmFirstSteps(*context, mainWindow.get());
+    showActive(*screen);
+    EXPECT_TRUE(comes(u"Everything is done."_s));
+}
+
+} // namespace

@@ -1,0 +1,55 @@
+#include "base/ruleerror.h"
+#include "master/barcodes.h"
+#include "master/masterkinds.h"
+#include "master/masterlist.h"
+#include "tests/support/kitchen.h"
+
+using namespace Qt::StringLiterals;
+using namespace Tallymere;
+
+namespace {
+
+struct BarcodesTest : KitchenTest
+{
+};
+
+} // namespace
+
+TEST_P(BarcodesTest, ACodeStandsForOneItem)
+{
+    Engine::Database &database = kitchen.database();
+    const auto refusalOf = [&](int item, const QString &code) {
+        try {
+            addBarcode(database, item, code);
+        } catch (const RuleError &error) {
+            return error.message();
+        }
+        return QString();
+    };
+    addBarcode(database, 2, u" 4006381333931 "_s);
+    addBarcode(database, 2, u"012345678905"_s);
+    addBarcode(database, 2, u"0012345678905"_s); // the same in 13 digits
+    EXPECT_EQ(barcodesOf(database, 2), QStringList({u"4006381333931"_s, u"012345678905"_s}));
+    EXPECT_EQ(itemOfCode(database, u"0012345678905"_s), 2);
+    EXPECT_EQ(itemOfCode(database, u"a10"_s), 1) << "numbers come first";
+    EXPECT_FALSE(itemOfCode(database, u"12345678905"_s));
+
+    EXPECT_EQ(refusalOf(1, u"4006381333931"_s),
+              u"'4006381333931' is a code of 'Bread'. Take it out there first."_s);
+    EXPECT_EQ(refusalOf(2, u"A10"_s), u"'A10' is the item no. of 'Apples'."_s);
+    EXPECT_EQ(refusalOf(1, u"  "_s), u"Scan or type the code first."_s);
+    EXPECT_EQ(refusalOf(77, u"1"_s), u"The item is not there any more."_s);
+    EXPECT_FALSE(refusalOf(1, QString(barcodeSize + 1, u'1')).isEmpty());
+    removeBarcode(database, 1, u"4006381333931"_s);
+    EXPECT_EQ(itemOfBarcode(database, u"4006381333931"_s), 2) << "it is no code of that one";
+    removeBarcode(database, 2, u"4006381333931"_s);
+    EXPECT_EQ(refusalOf(1, u"4006381333931"_s), QString());
+
+    MasterList items(database, MasterKinds::item());
+    items.open();
+    ASSERT_TRUE(items.table().locate(u"ItemID"_s, {2}));
+    items.remove(prompts);
+    EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM IBarcode WHERE ItemID = 2"_s), u"0"_s) << "nor of one to come";
+}
+
+ON_BOTH_STORES(BarcodesTest);

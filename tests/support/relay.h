@@ -1,0 +1,39 @@
+#pragma once
+
+#include <atomic>
+#include <QByteArray>
+#include <thread>
+#include <vector>
+
+// Stands between the program and a server of this machine, and passes on what they say until a word comes from the program. It
+// counts how often the program's first connection has waited for an answer: a journey there and back, however much has gone
+// with it.
+class Relay
+{
+public:
+    enum class Then { Nothing, LoseTheWord, LoseTheAnswer, LoseTheAnswerAndStop };
+
+    explicit Relay(int serverPort);
+    ~Relay(); // when all connections have ended
+    Relay(const Relay &) = delete;
+    Relay &operator=(const Relay &) = delete;
+
+    int port() const { return m_port; }
+    void when(const QByteArray &word, Then then); // once
+    int trips() const { return m_trips; }
+
+private:
+    void accept();
+    void pass(int client, bool counts);
+    bool passFromClient(int client, int server);
+
+    const int m_serverPort;
+    int m_listener;
+    int m_port = 0;
+    QByteArray m_word;
+    std::atomic<Then> m_then = Then::Nothing;
+    std::atomic<bool> m_isOver = false;
+    std::atomic<int> m_trips = 0;
+    std::vector<std::thread> m_passing;
+    std::thread m_accepting;
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace Tallymere {
+
+class DocumentEntry;
+class Prompts;
+
+// Asks about each document of the entry's kind that its user began and never saved, as its program came to an end:
+// whether to go on with it, to take its lines out, or to be asked again another time. True when the entry holds one then.
+bool takeUpLeft(DocumentEntry &entry, Prompts &prompts);
+
+} // namespace Tallymere

@@ -1,0 +1,49 @@
+#include "transactions/screens/stockvaluesum.h"
+
+#include "base/formats.h"
+#include "controls/windows/guard.h"
+
+namespace Tallymere {
+
+StockValueSum::StockValueSum(Engine::Query &rows, std::function<void(const QString &)> show,
+                             TotalsValue::Quantity quantity)
+    : m_rows(rows)
+    , m_show(std::move(show))
+    , m_quantity(std::move(quantity))
+{
+    m_whenIdle.setInterval(0);
+    connect(&m_whenIdle, &QTimer::timeout, this, &StockValueSum::addUpOn);
+    connect(&m_rows, &Engine::DataSet::listChanged, this, &StockValueSum::addUpAnew);
+    addUpAnew();
+}
+
+StockValueSum::~StockValueSum() = default;
+
+void StockValueSum::addUpAnew()
+{
+    m_value.reset();
+    m_show({});
+    m_whenIdle.start();
+}
+
+// Between two events, and for less time than a key waits unnoticed. Whether it can be told is no concern of the list.
+void StockValueSum::addUpOn()
+{
+    constexpr qint64 moment = 15; // ms
+    bool goesOn = false;
+    const std::exception_ptr failure = Guard::attempt([&] {
+        if (!m_value)
+            m_value.emplace(m_rows.database(), m_rows.isFiltered() ? m_rows.filter() : QString(), m_quantity);
+        goesOn = m_value->readOn(moment);
+        if (!goesOn && m_value->isTold() && m_value->sum())
+            m_show(currencyText(*m_value->sum()));
+    });
+    if (failure)
+        Guard::trace(failure);
+    if (goesOn)
+        return;
+    m_whenIdle.stop();
+    m_value.reset();
+}
+
+} // namespace Tallymere
