@@ -1,9 +1,13 @@
 #include "base/dataversion.h"
+#include "base/settings.h"
+#include "data/datamodule.h"
+#include "data/lastchoices.h"
 #include "host/company.h"
 #include "host/hostwindow.h"
 #include "plgint/classregistry.h"
 #include "tests/support/hostcompany.h"
 #include "tests/support/screendriver.h"
+#include "tests/support/spokenprompts.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -32,6 +36,12 @@ protected:
     {
         makeCompany(m_folder.path(), u"Harvest Table Kitchens"_s);
         useBooks(settings, {.folder = m_folder.path()});
+        // A window that comes by itself takes the focus from another at any moment.
+        SpokenPrompts prompts;
+        TDataModuleTallymere data(settings, prompts, {.dataFolder = m_folder.path(), .currentUser = u"maria"_s});
+        Choices choices;
+        choices.set(Settings::HidesFirstSteps, true);
+        EXPECT_TRUE(LastChoices(Settings::firstStepsScreen, data, &settings).keep(choices));
     }
     static QWidget *mainForm(const HostWindow &window)
     {
@@ -259,7 +269,7 @@ TEST_F(ModuleTest, WhatCannotBeLoadedIsNamedAndNotRun)
 TEST_F(ModuleTest, AboutCopiesAReportWithoutNamesAndPlaces)
 {
     HostWindow window(settings, u"maria"_s, moduleUnderTest);
-    EXPECT_TRUE(whileOpen<QWidget>([&] { window.openModule(); }, [](QWidget &) {})); // brings the data up to date
+    EXPECT_TRUE(whileOpen<QWidget>([&] { window.openModule(); }, [](QWidget &) {}));
     const auto about = [&] { child<QAction>(window, "actionAbout")->trigger(); };
     EXPECT_TRUE(whileOpen<QDialog>(about, [](QDialog &box) {
         EXPECT_TRUE(has(child<QLabel>(box, "labelAbout")->text(), u"SQLite"_s));
