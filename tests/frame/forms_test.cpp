@@ -262,7 +262,6 @@ struct FormsTest : testing::Test
         new WindowRules(mainWindow);
         QApplication::setCursorFlashTime(0);
         over.fill();
-        over.data.sessionTallymere().clock = [] { return QDate(2026, 3, 20).startOfDay(); };
         Engine::Database &database = over.data.databaseTallymere();
         database.connection().execute(uR"(
             UPDATE Warehse SET WarehouseName = '[Cellar]';

@@ -20,7 +20,7 @@ TestCompany::TestCompany()
 }
 
 TestContext::TestContext()
-    : data(company.settings, company.prompts)
+    : data(company.settings, company.prompts, {.clock = [] { return QDate(2026, 3, 20).startOfDay(); }})
     , lookups(data.databaseTallymere())
     , context{.data = data, .lookups = lookups, .prompts = company.prompts}
 {

@@ -26,7 +26,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-// What screens are given, over a company of its own.
+// What screens are given, over a company of its own; today is 20 March 2026, as the approved windows have it.
 class TestContext
 {
 public:

@@ -9,13 +9,14 @@ ScreenTest::ScreenTest(Store store)
     : kitchen(store)
 {
     kitchen.makeHost();
-    data = std::make_unique<TDataModuleTallymere>(settings, prompts, placeOf(kitchen));
+    DataModuleOptions options = placeOf(kitchen);
+    options.clock = [] { return QDate(2026, 3, 20).startOfDay(); };
+    data = std::make_unique<TDataModuleTallymere>(settings, prompts, options);
     lookups = std::make_unique<TdmLookUpsInv>(data->databaseTallymere());
     context.reset(new ScreenContext{.data = *data, .lookups = *lookups, .prompts = prompts});
     mainWindow = std::make_unique<QWidget>();
     new WindowRules(*mainWindow);
     data->sessionTallymere().lockAttempts = 1;
-    data->sessionTallymere().clock = [] { return QDate(2026, 3, 20).startOfDay(); };
 }
 
 ScreenTest::~ScreenTest()
