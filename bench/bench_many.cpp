@@ -1,16 +1,19 @@
-// Many at once: users in processes of their own enter receipts and usage as fast as somebody types, while one posts receipts
-// that were waiting and one makes reports. Prints how long the longest keys took (whatever happens from one field to the
-// next), who was refused what, and the posting against the same posting alone.
-// Usage: bench_many [local|remote] [USERS]
+// Many at once: users in processes of their own enter receipts and usage, with a field about every third of a second, while one
+// posts receipts that were waiting and one makes a report now and then. Prints how long the keys took (whatever happens from
+// one field to the next), which were told of somebody's lock, the posting against the same posting alone, and whether any
+// number was given twice or an answered document is not there. Then the same with raw statements in the place of ours: what is
+// slow there as well is the store's and the machine's.
+// Usage: bench_many [local|remote] [USERS] [DOCUMENTS to be posted, of twenty lines]
 
 #include "bench/benchdata.h"
-#include "data/fields.h"
+#include "bench/rawposting.h"
+#include "bench/typist.h"
 #include "engine/records/query.h"
+#include "engine/store/session.h"
 #include "reports/momentrows.h"
 #include "reports/reportlist.h"
 #include "tests/support/otheruser.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/documententry.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 
@@ -19,17 +22,12 @@
 #include <map>
 #include <QCoreApplication>
 #include <QThread>
-#include <random>
+#include <set>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
-
-constexpr int waiting = 3'000; // documents to be posted, of twenty lines
-constexpr int items = 5'000;
-constexpr int locations = 10;
-constexpr int vendors = 50;
 
 void say(const QString &line)
 {
@@ -37,211 +35,218 @@ void say(const QString &line)
     std::fflush(stdout);
 }
 
-bool isTold(const QString &word)
-{
-    char line[64];
-    return std::fgets(line, sizeof line, stdin) && QString::fromUtf8(line).trimmed() == word;
-}
+// --- the others ---------------------------------------------------------------------------------------------------
 
-// Types documents of three lines until it is told to stop.
-class Typist
-{
-public:
-    Typist(Engine::Database &database, int number)
-        : m_database(database)
-        , m_random(static_cast<unsigned>(number))
-    {
-        database.session().applicationUser = u"user%1"_s.arg(number);
-    }
-
-    void enter(const DocumentKind &kind)
-    {
-        const std::unique_ptr<DocumentEntry> entry = kind.entry.make(m_database, m_prompts);
-        try {
-            key([&] { entry->open(); });
-            key([&] { entry->newDocument(); });
-            key([&] { fillHeader(*entry); });
-            for (int line = 0; line < 3; ++line)
-                addLine(*entry);
-            key([&] { entry->save(); });
-            ++m_documents;
-        } catch (const std::exception &error) {
-            const QString last = m_prompts.last();
-            ++m_refused[QString::fromUtf8(error.what()) + (last.isEmpty() ? QString() : " / "_L1 + last)];
-            entry->cancel();
-        }
-    }
-
-    void tell()
-    {
-        std::sort(m_keys.begin(), m_keys.end());
-        for (const double key : m_keys)
-            say(u"key %1"_s.arg(key));
-        for (const auto &[text, count] : m_refused)
-            say(u"refused %1 %2"_s.arg(count).arg(text.simplified()));
-        say(u"documents %1"_s.arg(m_documents));
-        say(u"end"_s);
-    }
-
-private:
-    int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
-    void key(const std::function<void()> &press)
-    {
-        QThread::msleep(static_cast<unsigned long>(100 + below(400)));
-        m_keys.push_back(seconds(press));
-    }
-    void fillHeader(DocumentEntry &entry)
-    {
-        entry.header().set(u"WarehouseID", 1 + below(locations));
-        for (const DocumentKind::NumberFor &number : entry.kind().files.numbers)
-            entry.header().set(number.field, 1 + below(vendors));
-    }
-    void addLine(DocumentEntry &entry)
-    {
-        key([&] { entry.newLine(); });
-        key([&] { entry.lines().set(entry.kind().entry.lineColumns.constFirst().field, 1.0 + below(20)); });
-        key([&] { entry.chooseItem(1 + below(items)); });
-        key([&] { entry.lines().post(); });
-    }
-
-    Engine::Database &m_database;
-    std::mt19937 m_random;
-    SpokenPrompts m_prompts;
-    std::vector<double> m_keys;
-    std::map<QString, int> m_refused;
-    int m_documents = 0;
-};
-
-void type(Engine::Database &database, const QStringList &arguments)
-{
-    Typist typist(database, arguments.value(0).toInt());
-    say(u"ready"_s);
-    std::atomic<bool> stops = false;
-    const std::unique_ptr<QThread> ear(QThread::create([&] { stops = isTold(u"stop"_s) || true; }));
-    ear->start();
-    for (int turn = arguments.value(0).toInt(); !stops; ++turn)
-        typist.enter(turn % 2 == 0 ? DocumentKinds::receipt() : DocumentKinds::usage());
-    ear->wait();
-    typist.tell();
-}
-
-void post(Engine::Database &database, const QStringList &)
+void post(Engine::Database &database, const QStringList &arguments)
 {
     database.session().applicationUser = u"poster"_s;
+    database.connection();
     say(u"ready"_s);
     if (!isTold(u"go"_s))
         return;
+    const QStringList place{arguments.value(1), arguments.value(2)};
+    if (arguments.value(0) == "raw"_L1) {
+        const auto raw = place[0] == "local"_L1 ? postRawSqlite : postRawPostgres;
+        return say(QString::number(seconds([&] { raw(RawDocuments::Receipts, rawLocation(place)); })));
+    }
     SpokenPrompts prompts;
-    prompts.retries = 100'000; // somebody is at a document just now
+    prompts.retries = 1'000; // somebody is saving a document just now
+    prompts.onRetry = [] { QThread::msleep(100); };
     CountedProgress progress;
     DocumentPosting posting(database, DocumentKinds::receipt());
     const double taken = seconds([&] { posting.run(prompts, progress); });
-    say(u"%1 %2"_s.arg(taken).arg(posting.posted()));
+    say(u"%1\t%2\t%3"_s.arg(taken).arg(posting.posted()).arg(prompts.said.size()));
 }
 
-// The value of the stock, again and again.
+// The value of the stock, looked at for a second each time.
 void report(Engine::Database &database, const QStringList &)
 {
     const ReportDescription &value = *ReportList::find(u"Value by Type /Item /Location"_s);
     say(u"ready"_s);
-    std::atomic<bool> stops = false;
-    const std::unique_ptr<QThread> ear(QThread::create([&] { stops = isTold(u"stop"_s) || true; }));
-    ear->start();
-    int made = 0;
-    for (; !stops; ++made) {
-        auto moment = std::make_unique<Engine::ReadMoment>(database);
-        auto source = value.rows(moment->database(), value, {});
-        Printing::ReportRow row;
-        const Printing::RowReaderPtr rows = momentRows(std::move(moment), std::move(source), nullptr);
-        while (rows->next(row)) { }
-    }
-    ear->wait();
-    say(QString::number(made));
+    std::vector<double> taken;
+    untilStopped([&](int) {
+        taken.push_back(seconds([&] {
+            auto moment = std::make_unique<Engine::ReadMoment>(database);
+            auto source = value.rows(moment->database(), value, {});
+            Printing::ReportRow row;
+            const Printing::RowReaderPtr rows = momentRows(std::move(moment), std::move(source), nullptr);
+            while (rows->next(row)) { }
+        }));
+        QThread::msleep(1'000);
+    });
+    say(u"%1\t%2"_s.arg(taken.size()).arg(*std::max_element(taken.begin(), taken.end())));
 }
+
+// --- what they tell -----------------------------------------------------------------------------------------------
 
 struct Posted
 {
-    double seconds = 0;
+    double time = 0;
     int documents = 0;
+    int retries = 0; // for the locks, before it began
 };
+
+class KeyTimes
+{
+public:
+    void listen(OtherUser &user)
+    {
+        for (QString line = user.line(); !line.isEmpty() && line != "end"_L1; line = user.line())
+            take(line.split(u'\t'));
+    }
+
+    void print()
+    {
+        std::vector<double> all;
+        for (auto &[name, times] : m_keys) {
+            std::sort(times.begin(), times.end());
+            all.insert(all.end(), times.begin(), times.end());
+        }
+        std::sort(all.begin(), all.end());
+        std::sort(m_held.begin(), m_held.end());
+        std::printf("  %zu keys: half within %.1f ms, 99 of 100 within %.0f ms, the longest %.0f ms, longer than a "
+                    "second %zu\n",
+                    all.size(), ms(all, 0.5), ms(all, 0.99), ms(all, 1), above(all, 1.0));
+        for (const auto &[name, times] : m_keys)
+            std::printf("    %-8s half %6.1f ms, 99 of 100 %6.0f ms, longest %6.0f ms\n", qPrintable(name),
+                        ms(times, 0.5), ms(times, 0.99), ms(times, 1));
+        std::printf("  %zu keys told of a lock, after %.0f to %.0f ms\n", m_held.size(), ms(m_held, 0),
+                    ms(m_held, 1));
+        for (const auto &[text, refusal] : m_refusals)
+            std::printf("    %d times, %s: %s\n", refusal.first,
+                        refusal.second ? "each time with whose it is" : "NOT EACH TIME WITH WHOSE IT IS",
+                        qPrintable(text));
+        for (const auto &[text, times] : m_failures)
+            std::printf("    FAILED %d times: %s\n", times, qPrintable(text));
+    }
+    const QStringList &documents() const { return m_documents; }
+
+private:
+    void take(const QStringList &words)
+    {
+        const QString &what = words[0];
+        if (what == "key"_L1) {
+            m_keys[words[1]].push_back(words[2].toDouble());
+        } else if (what == "held"_L1) {
+            m_held.push_back(words[1].toDouble());
+        } else if (what == "refused"_L1) {
+            auto &[times, names] = m_refusals.try_emplace(words[3], 0, true).first->second;
+            times += words[1].toInt();
+            names = names && words[2] == "1"_L1;
+        } else if (what == "failed"_L1) {
+            m_failures[words[2]] += words[1].toInt();
+        } else if (what == "document"_L1) {
+            m_documents.append(words[1]);
+        }
+    }
+    static double ms(const std::vector<double> &sorted, double share)
+    {
+        return sorted.empty() ? 0
+                              : 1000 * sorted[static_cast<size_t>(share * static_cast<double>(sorted.size() - 1))];
+    }
+    static size_t above(const std::vector<double> &sorted, double limit)
+    {
+        return static_cast<size_t>(sorted.end() - std::upper_bound(sorted.begin(), sorted.end(), limit));
+    }
+
+    std::map<QString, std::vector<double>> m_keys;
+    std::vector<double> m_held;
+    std::map<QString, std::pair<int, bool>> m_refusals;
+    std::map<QString, int> m_failures;
+    QStringList m_documents;
+};
+
+// --- the run ------------------------------------------------------------------------------------------------------
 
 Posted postWith(OtherUser &poster)
 {
-    const QStringList words = poster.ask(u"go"_s).split(u' ');
-    return {words.value(0).toDouble(), words.value(1).toInt()};
+    const QStringList words = poster.ask(u"go"_s).split(u'\t');
+    return {words.value(0).toDouble(), words.value(1).toInt(), words.value(2).toInt()};
 }
 
-struct Heard
+// Counters that stand behind what is there and a fiscal year, as in books that have been in use.
+void prepare(Engine::Database &database)
 {
-    std::vector<double> keys;
-    std::map<QString, int> refused;
-    int documents = 0;
-
-    void listen(OtherUser &user)
-    {
-        for (QString line = user.line(); !line.isEmpty() && line != "end"_L1; line = user.line()) {
-            const QString word = line.section(u' ', 0, 0);
-            if (word == "key"_L1)
-                keys.push_back(line.section(u' ', 1).toDouble());
-            else if (word == "refused"_L1)
-                refused[line.section(u' ', 2)] += line.section(u' ', 1, 1).toInt();
-            else if (word == "documents"_L1)
-                documents += line.section(u' ', 1).toInt();
-        }
+    database.connection().execute(
+        u"INSERT INTO Company (CompanyNo, FiscalYear, DefaultPeriodPP, DefaultPeriodYYYY) "
+        "VALUES (1, 2026, 3, 2026)"_s);
+    for (const DocumentKind *kind : {&DocumentKinds::receipt(), &DocumentKinds::usage()}) {
+        const DocumentKind::Counters &counters = kind->entry.counters;
+        const Engine::TableLayout layout = *database.connection().describe(counters.table);
+        if (Engine::singleValue(database, u"SELECT COUNT(*) FROM "_s + counters.table).toInt() == 0)
+            database.connection().execute(
+                u"INSERT INTO %1 (%2) VALUES (1)"_s.arg(counters.table, layout.fields.first().name));
+        database.connection().execute(
+            u"UPDATE %1 SET %2 = 100001, %3 = 100001"_s.arg(counters.table, counters.key, *counters.number));
     }
-    double part(double share) const
-    {
-        return keys[static_cast<size_t>(share * static_cast<double>(keys.size() - 1))];
-    }
-};
-
-int doubled(Engine::Database &database, const DocumentKind &kind)
-{
-    return Engine::singleValue(database,
-                               u"SELECT COUNT(*) FROM (SELECT %1 FROM %2 GROUP BY %1 HAVING COUNT(*) > 1) d"_s.arg(
-                                   kind.shownField(), kind.headerTable))
-        .toInt();
 }
 
-void measure(Store store, int users)
+// Numbers that two documents have, and answered documents that are not there with all their lines.
+std::pair<int, int> faults(Engine::Database &database, const QStringList &documents)
 {
-    const BenchData data(store, {.items = items, .locations = locations, .vendors = vendors, .receipts = waiting});
-    Posted alone;
-    {
-        const auto copy = data.copy();
-        OtherUser poster(copy->place(), {u"post"_s});
-        poster.line();
-        alone = postWith(poster);
+    std::set<QString> seen;
+    int doubled = 0;
+    for (const QString &document : documents)
+        doubled += seen.insert(document).second ? 0 : 1;
+    int missing = 0;
+    for (const DocumentKind *kind : {&DocumentKinds::receipt(), &DocumentKinds::usage()}) {
+        const auto count = [&](const QString &sql) { return Engine::singleValue(database, sql).toInt(); };
+        const QString &number = kind->shownField();
+        doubled += count(u"SELECT COUNT(*) FROM (SELECT %1 FROM %2 GROUP BY %1 HAVING COUNT(*) > 1) d"_s.arg(
+            number, kind->headerTable));
+        const auto answered = std::count_if(seen.begin(), seen.end(), [kind](const QString &document) {
+            return document.startsWith(kind->name + u' ');
+        });
+        missing += std::abs(
+            static_cast<int>(answered)
+            - count(u"SELECT COUNT(*) FROM %1 H WHERE %2 > 100000 AND 3 = (SELECT COUNT(*) FROM %3 L WHERE "
+                    "L.%2 = H.%2)"_s.arg(kind->headerTable, kind->keyField, kind->lineTable)));
     }
+    return {doubled, missing};
+}
+
+Posted postAlone(const BenchData &data, const QString &whose)
+{
     const auto copy = data.copy();
+    OtherUser poster(copy->place(), QStringList{u"post"_s, whose} + copy->place());
+    poster.line();
+    return postWith(poster);
+}
+
+void measureAmong(const BenchData &data, Store store, const QString &whose, int users)
+{
+    const Posted alone = postAlone(data, whose);
+    const auto copy = data.copy();
+    prepare(copy->database());
     std::vector<std::unique_ptr<OtherUser>> typists;
     for (int number = 0; number < users; ++number)
         typists.push_back(
-            std::make_unique<OtherUser>(copy->place(), QStringList{u"type"_s, QString::number(number)}));
+            std::make_unique<OtherUser>(copy->place(), QStringList{u"type"_s, QString::number(number), whose}));
+    OtherUser reader(copy->place(), {u"report"_s});
+    OtherUser poster(copy->place(), QStringList{u"post"_s, whose} + copy->place());
     for (const auto &typist : typists)
         typist->line();
-    OtherUser reader(copy->place(), {u"report"_s});
     reader.line();
-    OtherUser poster(copy->place(), {u"post"_s});
     poster.line();
+    for (const auto &typist : typists)
+        typist->tell(u"go"_s);
+    QThread::sleep(6); // they are at their documents
     const Posted among = postWith(poster);
-    Heard heard;
-    reader.tell(u"stop"_s);
+    QThread::sleep(3); // what has been kept waiting is saved
     for (const auto &typist : typists)
         typist->tell(u"stop"_s);
+    KeyTimes keys;
     for (const auto &typist : typists)
-        heard.listen(*typist);
-    std::sort(heard.keys.begin(), heard.keys.end());
-    std::printf(
-        "%-6s %d users: %zu keys, half of them within %.1f ms, 99 of 100 within %.0f ms, the longest %.0f ms; "
-        "%d documents entered, %d reports made, %d receipts posted in %.1f s, alone %d in %.1f s (%.2f); numbers "
-        "doubled: %d\n",
-        storeName(store), users, heard.keys.size(), 1000 * heard.part(0.5), 1000 * heard.part(0.99),
-        1000 * heard.part(1), heard.documents, reader.line().toInt(), among.documents, among.seconds,
-        alone.documents, alone.seconds, among.seconds / alone.seconds,
-        doubled(copy->database(), DocumentKinds::receipt()) + doubled(copy->database(), DocumentKinds::usage()));
-    for (const auto &[text, count] : heard.refused)
-        std::printf("  refused %d times: %s\n", count, qPrintable(text));
+        keys.listen(*typist);
+    const QStringList reports = reader.ask(u"stop"_s).split(u'\t');
+    const auto [doubled, missing] = faults(copy->database(), keys.documents());
+    std::printf("%-6s %s, %d users: %lld documents entered; numbers doubled %d, answered and missing %d\n"
+                "  posting %.1f s, alone %.1f s (%.2f), locks asked for again %d times; %d reports, the longest "
+                "%.1f s\n",
+                storeName(store), qPrintable(whose), users, static_cast<long long>(keys.documents().size()),
+                doubled, missing, among.time, alone.time, among.time / alone.time, among.retries,
+                reports.value(0).toInt(), reports.value(1).toDouble());
+    keys.print();
     std::fflush(stdout);
 }
 
@@ -252,10 +257,16 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == "--other-user"_L1)
-        return runTests(argc, argv, {{u"type"_s, type}, {u"post"_s, post}, {u"report"_s, report}});
+        return runTests(argc, argv, {{u"type"_s, typeDocuments}, {u"post"_s, post}, {u"report"_s, report}});
+    const int users = std::max(1, arguments.value(2, u"50"_s).toInt());
+    const int wanted = arguments.value(3).toInt();
     for (const Store store : {Store::Local, Store::Remote}) {
-        if (arguments.size() < 2 || arguments[1] == QString::fromLatin1(storeName(store)).toLower())
-            measure(store, std::max(1, arguments.value(2, u"50"_s).toInt()));
+        if (arguments.size() > 1 && arguments[1] != QString::fromLatin1(storeName(store)).toLower())
+            continue;
+        const int waiting = store == Store::Local ? 10'000 : 1'000; // for some seconds
+        const BenchData data(store, {.receipts = wanted > 0 ? wanted : waiting});
+        for (const QString &whose : {u"ours"_s, u"raw"_s})
+            measureAmong(data, store, whose, users);
     }
     return 0;
 }

@@ -53,10 +53,27 @@ BenchData::~BenchData()
         onServer(u"DROP DATABASE "_s + m_source);
 }
 
+QStringList BenchData::place() const { return placeOf(m_store, m_source); }
+
+std::unique_ptr<TestUser> BenchData::open() const { return user(place()); }
+
+namespace {
+
+// Many rows are written sooner without indexes, which are made afterwards.
+Engine::TableLayout withoutIndexes(Engine::TableLayout layout)
+{
+    layout.indexes.removeIf(
+        [](const Engine::IndexDef &index) { return !index.options.testFlag(Engine::IndexOption::Primary); });
+    return layout;
+}
+
+} // namespace
+
 void BenchData::fill(Engine::Database &database, const Size &size)
 {
+    const Engine::TableLayout &history = Tallymere::Layouts::iHist();
     for (const Engine::TableLayout *layout : Tallymere::Layouts::applied())
-        database.createTable(*layout);
+        database.createTable(layout == &history ? withoutIndexes(history) : *layout);
     Engine::Connection &connection = database.connection();
     const auto insert = [&connection](const QString &into, const QString &values, int count) {
         connection.execute(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %3) "
@@ -96,9 +113,12 @@ void BenchData::fill(Engine::Database &database, const Size &size)
            size.adjustments * size.linesEach);
     insert(u"IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity, UnitCost, "
            "TransDescription, ReceiptID)"_s,
-           u"%1, %2, 2025, i % 12 + 1, 3, '2025-03-14', i % 9 + 1, 1 + i % 500 * 0.01, 'Receipt: ' || i, i"_s.arg(
-               item, location),
+           u"%1, %2, %3 + (i - 1) / %4, i % 12 + 1, 3, '2025-03-14', i % 9 + 1, 1 + i % 500 * 0.01, "
+           "'Receipt: ' || i, i"_s.arg(item, location)
+               .arg(2026 - size.years)
+               .arg(std::max(1, size.history / size.years)),
            size.history);
+    database.createOrUpdateTable(history);
     connection.execute(u"INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) "
                        "SELECT ItemID, WarehouseID, sum(Quantity) FROM IHist GROUP BY ItemID, WarehouseID"_s);
     connection.execute(u"UPDATE Item SET WgtAvgCost = 2.5 WHERE ItemID IN (SELECT ItemID FROM IBalance)"_s);

@@ -20,11 +20,15 @@ public:
         int usages = 0; // likewise
         int adjustments = 0; // likewise
         int linesEach = 20;
-        int history = 0; // rows posted earlier
+        int history = 0; // rows posted earlier,
+        int years = 1; // in so many fiscal years up to 2025
     };
 
     BenchData(Store store, const Size &size);
     ~BenchData();
+
+    std::unique_ptr<TestUser> open() const; // itself, for what changes next to nothing
+    QStringList place() const;
 
     // A copy of its own, gone with the object.
     class Copy

@@ -96,6 +96,7 @@ public:
         : m_kind(kind)
     {
         check(sqlite3_open(file.toUtf8().constData(), &m_db));
+        sqlite3_busy_timeout(m_db, 60'000); // many others may be about
         run("PRAGMA cache_size = -262144; PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 64000");
         for (const Step *step : {&m_kind.mark, &m_kind.lines, &m_kind.history, &setCost, &setBalance, &addBalance})
             m_statements.emplace_back(step->text, prepare(step->text));

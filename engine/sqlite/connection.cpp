@@ -14,6 +14,8 @@
 #include <limits>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QScopedValueRollback>
+#include <QScopeGuard>
 #include <sqlite3.h>
 #include <thread>
 
@@ -23,8 +25,8 @@ namespace Engine {
 
 namespace {
 
-constexpr int busyMilliseconds = 5000;
-constexpr int longReadMilliseconds = 60'000;
+constexpr std::chrono::milliseconds busyTime{5000};
+constexpr std::chrono::milliseconds longReadTime{60'000};
 
 QString lockFilePath(const QString &databasePath)
 {
@@ -79,7 +81,29 @@ void SqliteConnection::open(int flags)
     if (resultCode != SQLITE_OK)
         throw sqliteError(handle(), resultCode, m_path);
     sqlite3_extended_result_codes(handle(), 1);
-    sqlite3_busy_timeout(handle(), busyMilliseconds);
+    m_patience = busyTime;
+    sqlite3_busy_handler(handle(), waitForOthers, this);
+}
+
+int SqliteConnection::waitForOthers(void *connection, int times)
+{
+    auto &self = *static_cast<SqliteConnection *>(connection);
+    if (times == 0)
+        self.m_waitingSince = std::chrono::steady_clock::now();
+    return self.waitsOn() ? 1 : 0;
+}
+
+// Short pauses, as a long run lets others in for a moment only (GroupedWrites), and of different lengths, lest those who
+// wait keep step.
+bool SqliteConnection::waitsOn()
+{
+    if (std::chrono::steady_clock::now() - m_waitingSince >= m_patience)
+        return false;
+    if (m_isBeginning && m_locks)
+        m_locks->wait();
+    constexpr int longestPause = 8; // ms
+    std::this_thread::sleep_for(std::chrono::milliseconds(QRandomGenerator::global()->bounded(1, longestPause)));
+    return true;
 }
 
 void SqliteConnection::watch(const QString &user)
@@ -107,7 +131,7 @@ void SqliteConnection::configure()
 // Two programs that do it with a new file at the same moment are in each other's way, and SQLite does not wait then.
 void SqliteConnection::chooseJournal(const QString &journal)
 {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(busyMilliseconds);
+    const auto end = std::chrono::steady_clock::now() + busyTime;
     constexpr int longestPause = 20;
     for (;;) {
         try {
@@ -126,7 +150,7 @@ void SqliteConnection::chooseJournal(const QString &journal)
 // keeps from writing had rather wait for a long report than fail.
 void SqliteConnection::setBulk(bool bulk)
 {
-    sqlite3_busy_timeout(handle(), bulk && isWritingKeptOutByReading() ? longReadMilliseconds : busyMilliseconds);
+    m_patience = bulk && isWritingKeptOutByReading() ? longReadTime : busyTime;
     execute(bulk ? u"PRAGMA cache_size = -262144; PRAGMA wal_autocheckpoint = 64000"_s
                  : u"PRAGMA cache_size = -65536; PRAGMA wal_autocheckpoint = 4000"_s);
 }
@@ -187,9 +211,28 @@ void SqliteConnection::execute(const QString &script)
 
 void SqliteConnection::begin()
 {
-    prepare(u"BEGIN IMMEDIATE"_s)->execute();
+    takeTurn();
     m_locks->transactionBegun();
     m_changesBefore = sqlite3_total_changes64(handle());
+}
+
+// A long wait comes of a long run, whose user the lock file tells.
+void SqliteConnection::takeTurn()
+{
+    const QScopedValueRollback beginning(m_isBeginning, true);
+    const auto waited = qScopeGuard([this] { m_locks->waited(); });
+    try {
+        prepare(u"BEGIN IMMEDIATE"_s)->execute();
+    } catch (const EngineError &error) {
+        const std::optional<LockOwner> owner =
+            error.code() == ErrorCode::Busy ? m_locks->ownerOfRun() : std::nullopt;
+        if (!owner)
+            throw;
+        raise(ErrorCode::Busy,
+              Texts::tr("%1 is being written to by another user (%2). Try again in a moment.")
+                  .arg(QFileInfo(m_path).fileName(), owner->description()),
+              error.driverText());
+    }
 }
 
 void SqliteConnection::commit()
@@ -271,6 +314,8 @@ bool SqliteConnection::isWritingKeptOutByReading()
     const StatementPtr journal = prepare(u"PRAGMA journal_mode"_s);
     return journal->next() && journal->textAt(0) != "wal"_L1;
 }
+
+bool SqliteConnection::isAwaited() { return m_locks->isAwaited(); }
 
 bool SqliteConnection::inTransaction() const { return sqlite3_get_autocommit(handle()) == 0; }
 

@@ -4,6 +4,8 @@
 #include "engine/sqlite/handles.h"
 #include "engine/store/driver.h"
 
+#include <chrono>
+
 namespace Engine {
 
 class Database;
@@ -34,6 +36,7 @@ public:
     bool inTransaction() const override;
     std::unique_ptr<Connection> openMoment(const Database &database) override;
     bool isWritingKeptOutByReading() override;
+    bool isAwaited() override;
     std::optional<TableLayout> describe(const QString &table) override;
     QStringList tables() override;
     qint64 size() override;
@@ -62,6 +65,10 @@ private:
     void giveNumber();
     void giveNumberAtOpening();
     void stamp();
+    static int waitForOthers(void *connection,
+                             int times); // called by SQLite while another connection is in the way
+    bool waitsOn();
+    void takeTurn(); // to write
     bool isCommittedAllTheSame() const;
     void coverFailedCommit() noexcept;
     qint64 salvage(const TableLayout &table, const QString &copy); // the rows lost
@@ -73,6 +80,9 @@ private:
     std::unique_ptr<FileLocks> m_locks;
     std::unique_ptr<SqliteWatch> m_watch; // not of a database in memory
     qint64 m_changesBefore = 0; // the transaction in progress
+    std::chrono::milliseconds m_patience{0}; // with others who are in the way
+    std::chrono::steady_clock::time_point m_waitingSince;
+    bool m_isBeginning = false; // a write transaction
 };
 
 } // namespace Engine

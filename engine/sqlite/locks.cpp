@@ -3,6 +3,7 @@
 #include "engine/values/error.h"
 #include "engine/values/stablenumber.h"
 
+#include <algorithm>
 #include <chrono>
 #include <QCoreApplication>
 #include <QScopeGuard>
@@ -26,6 +27,7 @@ constexpr int noteSize = 512;
 constexpr int notedTimes = 10; // more would not fit
 constexpr qint64 memoPlace = qint64(noteCount) * noteSize;
 constexpr qint64 memoLock = noteLocks + noteCount;
+constexpr qint64 waitingLock = memoLock + 1;
 constexpr int memoAttempts = 500; // a millisecond apart: others hold it for a few reads and writes of the memo
 
 qint64 openByte(const QString &table)
@@ -175,6 +177,25 @@ void FileLocks::changed() noexcept
     m_file->write(qint64(m_note) * noteSize, bytes.leftJustified(noteSize, ' '));
 }
 
+// A system that gives no more locks: nobody is told, and those who wait have to be lucky.
+void FileLocks::wait() noexcept
+{
+    if (m_waits || !m_file)
+        return;
+    try {
+        m_waits = m_file->tryLock(waitingLock, 1, RangeLockFile::Mode::Shared);
+    } catch (const EngineError &) {
+    }
+}
+
+void FileLocks::waited() noexcept
+{
+    if (std::exchange(m_waits, false))
+        m_file->unlock(waitingLock, 1);
+}
+
+bool FileLocks::isAwaited() const { return m_file && m_file->isLockedByOthers(waitingLock, 1); }
+
 QString FileLocks::memo() const
 {
     return m_file ? QString::fromUtf8(m_file->read(memoPlace, noteSize)).trimmed() : QString();
@@ -227,6 +248,19 @@ std::optional<LockOwner> FileLocks::ownerOf(const QString &table)
             return ownerFrom(note, u"@%1:"_s.arg(name));
     }
     return stranger(firstRecordByte(name), stretch - 1);
+}
+
+std::optional<LockOwner> FileLocks::ownerOfRun() const
+{
+    if (!m_file)
+        return std::nullopt;
+    const QList<QStringList> notes = notesOfOthers();
+    for (const QStringList &note : notes) {
+        const auto table = std::ranges::find_if(note, [](const QString &part) { return part.startsWith(u'*'); });
+        if (table != note.end())
+            return ownerFrom(note, timeOf(table->sliced(1)));
+    }
+    return std::nullopt;
 }
 
 // A program that is none of this system's users leaves no note: whoever may read the lock file can lock it for reading.

@@ -27,6 +27,13 @@ public:
     // Called before each lock that is taken; refuses by throwing.
     std::function<void()> beforeLocking;
 
+    // Those who wait for the file's one place to write say so, and whoever has it for long lets them in.
+    void wait() noexcept;
+    void waited() noexcept;
+    bool isAwaited() const; // by somebody else
+
+    std::optional<LockOwner> ownerOfRun() const; // of somebody else who has a table for himself
+
     // What the users of the database remember about its files, a few words that outlive their programs. Empty when
     // nothing was written yet.
     QString memo() const;
@@ -54,6 +61,7 @@ private:
     std::unique_ptr<RangeLockFile> m_file;
     QString m_user;
     int m_note = -1;
+    bool m_waits = false;
 };
 
 } // namespace Engine

@@ -123,6 +123,10 @@ public:
     // Whether nobody can write while such a transaction lasts.
     virtual bool isWritingKeptOutByReading() { return false; }
 
+    // Whether somebody else waits to write while a write transaction of this connection lasts, as far as the store tells: a
+    // file takes one writer at a time.
+    virtual bool isAwaited() { return false; }
+
     // What the store holds. A missing table gives nullopt. Indexes that the engine did not make are left out.
     virtual std::optional<TableLayout> describe(const QString &table) = 0;
 

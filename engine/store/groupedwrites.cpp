@@ -3,6 +3,7 @@
 #include "engine/store/session.h"
 #include "engine/values/error.h"
 
+#include <thread>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -27,9 +28,27 @@ void GroupedWrites::apply(Step step)
         if (m_connection.sendsAhead() && !m_joined)
             m_group.push_back(step);
         step(*this);
-        if (!m_joined && std::chrono::steady_clock::now() - m_begun >= groupTime)
-            commit();
+        if (m_joined || !isGroupOver())
+            return;
+        commit();
+        letOthersWrite();
     });
+}
+
+bool GroupedWrites::isGroupOver() const
+{
+    const auto lasted = std::chrono::steady_clock::now() - m_begun;
+    return lasted >= groupTime || (lasted >= awaitedGroupTime && m_connection.isAwaited());
+}
+
+// A few of them: this run would come to no end otherwise where many write all the time.
+void GroupedWrites::letOthersWrite() const
+{
+    constexpr std::chrono::milliseconds moment{100};
+    constexpr std::chrono::milliseconds step{2};
+    const auto since = std::chrono::steady_clock::now();
+    while (m_connection.isAwaited() && std::chrono::steady_clock::now() - since < moment)
+        std::this_thread::sleep_for(step);
 }
 
 void GroupedWrites::settle()

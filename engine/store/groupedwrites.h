@@ -44,6 +44,8 @@ public:
     // A group must not last much longer than this: each one writes the index pages that it has touched to the log again,
     // so fewer are faster, but what a crash undoes grows with it.
     std::chrono::milliseconds groupTime{2000};
+    // Where others wait to write meanwhile it ends as soon as this, and they get a moment.
+    std::chrono::milliseconds awaitedGroupTime{300};
 
     void apply(Step step);
     void settle(); // everything applied has reached the store; before reading from it
@@ -55,6 +57,8 @@ private:
     void executeGuarded(Statement &statement);
     void begin();
     void commit();
+    bool isGroupOver() const;
+    void letOthersWrite() const;
     void keepApplied() noexcept;
     void guarded(const std::function<void()> &step);
     void replay();

@@ -1,7 +1,9 @@
+#include "engine/store/groupedwrites.h"
 #include "engine/store/lockmanager.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/otheruser.h"
 
+#include <atomic>
 #include <fcntl.h>
 #include <QCoreApplication>
 #include <QFile>
@@ -251,3 +253,31 @@ TEST_P(LocksTest, WhatIsGivenBackInATransactionStaysLockedUntilItsEnd)
 }
 
 ON_BOTH_STORES(LocksTest);
+
+// Without that the one who waits looks for a free moment now and then, and there is none.
+TEST(LocalLocks, ALongRunLetsThoseInWhoWaitToWrite)
+{
+    TestStore store(Store::Local);
+    store.execute(u"CREATE TABLE T (a integer)"_s);
+    std::atomic<bool> hasEnded = false;
+    std::optional<ErrorCode> failure;
+    GroupedWrites writes(store.database());
+    writes.groupTime = std::chrono::hours(1);
+    writes.awaitedGroupTime = std::chrono::milliseconds(0);
+    const StatementPtr insert = store.database().connection().prepare(u"INSERT INTO T VALUES (1)"_s);
+    const auto step = [&] { writes.apply([&](Writes &sink) { sink.send(*insert); }); };
+    step();
+    std::thread other([&] {
+        const auto anna = store.anotherUser();
+        failure = errorOf([&] {
+            anna->database.change([&] { anna->database.connection().execute(u"INSERT INTO T VALUES (2)"_s); });
+        });
+        hasEnded = true;
+    });
+    while (!hasEnded)
+        step();
+    other.join();
+    EXPECT_FALSE(failure) << "the run has kept her out";
+    writes.finish();
+    EXPECT_EQ(store.found(u"SELECT COUNT(*) FROM T WHERE a = 2"_s), u"1");
+}
