@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing: packages.sh build|test|lint|package|trypackage
+# Installs the Debian packages that are missing: packages.sh build|test|lint|package|trypackage|firstday
 # Asks for root rights only when something is missing.
 set -euo pipefail
 
@@ -11,6 +11,7 @@ test=(postgresql-15 libgtest-dev clang-format cups cups-client poppler-utils zba
 lint=(clang-format clang-tidy)
 package=("${build[@]}" dpkg-dev file help2man lintian appstream desktop-file-utils libxml2-utils)
 trypackage=(mmdebstrap imagemagick)
+firstday=("${build[@]}" python3 xvfb openbox chromium chromium-driver)
 
 case "${1:-}" in
 build) wanted=("${build[@]}") ;;
@@ -18,8 +19,9 @@ test) wanted=("${build[@]}" "${test[@]}") ;;
 lint) wanted=("${lint[@]}") ;;
 package) wanted=("${package[@]}") ;;
 trypackage) wanted=("${trypackage[@]}") ;;
+firstday) wanted=("${firstday[@]}") ;;
 *)
-    echo "usage: packages.sh build|test|lint|package|trypackage" >&2
+    echo "usage: packages.sh build|test|lint|package|trypackage|firstday" >&2
     exit 2
     ;;
 esac

@@ -1,5 +1,6 @@
 // Goes through the first day of a company by keyboard, from a program that knows none to a report, and takes its pictures:
 //   tallymere-first-day MODULE WORK-FOLDER PICTURE-FOLDER [light|dark]
+// Where a phone is to count, its link comes into the work folder, and three items of it are waited for.
 // Home and settings are those of the environment; LANGUAGE says what is spoken. Each step waits for its window; where one does not
 // come it says which, and what is there instead. scripts/first-day calls it.
 
@@ -9,6 +10,7 @@
 #include "help/pictures/stage.h"
 #include "host/hostlook.h"
 #include "host/hostwindow.h"
+#include "tests/support/scanner.h"
 
 #include <cstdlib>
 #include <deque>
@@ -21,8 +23,10 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -211,7 +215,27 @@ std::function<bool(QWidget &)> offers(const char *button)
     };
 }
 
-void plan(FirstDay &day, const QString &items)
+// For a phone, which scans it from the screen.
+std::function<void()> showLink(const QString &path)
+{
+    return [path] {
+        const auto *link = qobject_cast<QLineEdit *>(part("edtLink"));
+        QSaveFile file(path);
+        if (!link || !file.open(QIODevice::WriteOnly) || file.write(link->text().toUtf8()) < 0 || !file.commit())
+            std::_Exit(1);
+    };
+}
+
+// The phone has sent so many.
+std::function<bool(QWidget &)> hasCounted(int items)
+{
+    return [items](QWidget &window) {
+        const auto *phones = window.findChild<QListWidget *>(u"lstPhones"_s);
+        return phones && phones->count() > 0 && phones->item(0)->text().contains(QString::number(items));
+    };
+}
+
+void plan(FirstDay &day, const QDir &folder)
 {
     // A company
     day.add({"HostMainWindow", keys("<Return>"), "start"});
@@ -237,7 +261,7 @@ void plan(FirstDay &day, const QString &items)
     day.add({"frmItemTypesInv", leave()});
     // Items of a spreadsheet
     day.add({"frmFirstSteps", keysIn("firstItemsFile", "<Return>"), "halfway"});
-    day.add({"QFileDialog", [items] {
+    day.add({"QFileDialog", [items = folder.absoluteFilePath(u"items.xlsx"_s)] {
                  QApplication::activeWindow()->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(items);
                  type("<Return>");
              }});
@@ -264,8 +288,28 @@ void plan(FirstDay &day, const QString &items)
     day.add({"frmInvReceiptsPost", keys("<Esc>")});
     day.add({"frmFirstSteps", keysIn("firstCountReceipt", "<Return>"), "topost"});
     day.add({"frmInvReceiptsPost", keysIn("btnOK", "<Space>"), "posting"});
+    // A delivery, by scanner, once in the wrong column
+    day.add({"FormTallymereSystem", keysIn("ButtonReceiveGoods", "<Return>"), "afterwards"});
+    day.add({"frmInvReceipts", keysIn("btnNew", "<Space>")});
+    day.add({"frmInvReceipt", keysIn("cboVendor", "Market<Tab>")});
+    day.add({"frmInvReceipt", keysIn("cboWarehouse", "Cold<Tab>")});
+    day.add({"frmInvReceipt", keys("<PgDown>")});
+    day.add({"frmInvReceipt", keys("6<Return>G1002<Return><Return>1.35<Return>")});
+    day.add({"frmInvReceipt", [] { scan(u"G1003"_s); }, "scanning"});
+    day.add({"frmInvReceipt", keys("8<Return><Return><Return>1.40<Return><Esc>"), "scanned"});
+    day.add({"frmInvReceipt", keysIn("btnOK", "<Space>"), "delivery"});
+    day.add({"frmInvReceipts", leave()});
+    day.add({"frmInvReceiptsPost", keysIn("btnOK", "<Space>")});
+    // A count, on a phone
+    day.add({"FormTallymereSystem", keysIn("ButtonEnterInventory", "<Return>")});
+    day.add({"FormEnterInventory", keysIn("RzComboBoxLocation", "Cold<Return>")});
+    day.add({"FormEnterInventory", keysIn("btnPhone", "<Space>"), "count"});
+    day.add({"frmPhoneCount", showLink(folder.absoluteFilePath(u"link"_s)), "link"});
+    day.add({"frmPhoneCount", keysIn("btnStop", "<Space>"), "phone", hasCounted(3)});
+    day.add({"FormEnterInventory", keysIn("BitBtnOK", "<Space>"), "counted"});
+    day.add({"messageBox", keys("<Return>"), "calculate"});
     // A report
-    day.add({"FormTallymereSystem", keysIn("ButtonPrintStatements", "<Return>"), "afterwards"});
+    day.add({"FormTallymereSystem", keysIn("ButtonPrintStatements", "<Return>")});
     day.add({"frmInvReports", keysIn("btnNext", "<Space>")});
     day.add({"frmInvReports", keysIn("btnOnScreen", "<Space>"), "choosing"});
     day.add({"frmPreview", keys(""), "report"});
@@ -285,14 +329,14 @@ int main(int argc, char *argv[])
     takeLook(*look);
     SystemSettings settings;
     const Speaking speaking(languageToSpeak(settings), u":/corvane/translations"_s);
-    const QString items = QDir(QString::fromLocal8Bit(argv[2])).absoluteFilePath(u"items.xlsx"_s);
-    if (!writeItems(items))
+    const QDir folder(QString::fromLocal8Bit(argv[2]));
+    if (!writeItems(folder.absoluteFilePath(u"items.xlsx"_s)))
         return 1;
     HostWindow host(settings, u"maria"_s, QString::fromLocal8Bit(argv[1]));
     host.show();
     host.activateWindow();
     FirstDay day(QString::fromLocal8Bit(argv[3]), *look == HostLook::Dark ? u"-dark"_s : QString());
-    plan(day, items);
+    plan(day, folder);
     day.begin();
     return QApplication::exec();
 }
