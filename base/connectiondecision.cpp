@@ -48,6 +48,7 @@ QString sessionTallymereStartup(Engine::Session &session, const SettingsStore &s
     if (session.type == Engine::SessionType::Remote) {
         session.remoteAddress = settings.value(Settings::ServerAddress);
         session.remoteLink = settings.value(Settings::Connection);
+        session.readsFromStandby = settings.value(Settings::ReadsFromStandby);
         useServerAccount(session);
     }
     return mode;

@@ -23,19 +23,22 @@ void writeList(const Engine::DataSet &rows, const QList<GridColumn> &columns, Ro
             writer.field(rows.valueIn(row, field));
         writer.endRecord();
     };
-    Engine::ReadMoment moment(rows.database());
-    Engine::RowWalk walk(rows, moment);
-    RowSpool aside; // where nobody can write before the moment is over, the output must not be waited for
-    progress.start(walk.count());
-    Engine::Row row;
-    for (; walk.next(row); progress.step()) {
-        if (moment.keepsWritersOut())
-            aside.append(row);
-        else
-            write(row);
-    }
-    moment.end();
-    while (aside.next(row))
+    // Where the moment must not last for long the output is not waited for.
+    const std::unique_ptr<RowSpool> aside =
+        Engine::readAtMoment(rows.database(), [&](const std::unique_ptr<Engine::ReadMoment> &moment) {
+            Engine::RowWalk walk(rows, *moment);
+            auto spool = std::make_unique<RowSpool>();
+            progress.start(walk.count());
+            for (Engine::Row row; walk.next(row); progress.step()) {
+                if (moment->isToBePutAside())
+                    spool->append(row);
+                else
+                    write(row);
+            }
+            moment->end();
+            return spool;
+        });
+    for (Engine::Row row; aside->next(row);)
         write(row);
     writer.flush();
     progress.finish();

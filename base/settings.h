@@ -56,6 +56,8 @@ inline constexpr DatabaseSetting<Engine::SessionType> Mode{u"Mode", Engine::Sess
 inline constexpr DatabaseSetting<QString> Alias{u"Alias"};
 inline constexpr DatabaseSetting<QString> ServerAddress{u"Server IP"};
 inline constexpr DatabaseSetting<Engine::LinkType> Connection{u"Connection", Engine::LinkType::Lan};
+inline constexpr DatabaseSetting<bool> ReadsFromStandby{
+    u"Read From Standby"}; // where what is read may be moments old
 
 // Windows. The widths of a grid's columns are kept as a text under its component name.
 inline constexpr ScreenSetting<QRect> Place{u"Place"};

@@ -34,7 +34,7 @@ void takeSetting(const QString &text, Engine::SessionType &value);
 void takeSetting(const QString &text, Engine::LinkType &value);
 
 // The settings that are kept for the user, those of the database shared with the host: below "\Software\DBIsam\" each
-// of those ("Mode", "Alias", "Server IP", "Connection") is a key of its own, and holds one value for each database by the
+// of those ("Mode", "Alias", "Server IP", "Connection", "Read From Standby") is a key of its own, and holds one value for each database by the
 // database's name. A screen has a key below "Forms". Nothing is cached: what another program wrote is read at the next
 // call. What cannot be read counts as missing; what cannot be written gives false, and nothing is written then.
 class SettingsStore

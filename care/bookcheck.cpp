@@ -49,17 +49,35 @@ const QList<BookCheck> &bookChecks()
     return all;
 }
 
-int checkBooks(Engine::Database &database, Progress &progress, const TellFinding &tell)
+namespace {
+
+void endChecked(Engine::ReadMoment &moment, int found)
 {
-    Engine::ReadMoment moment(database);
-    const int found = checkHeldBooks(moment.database(), progress, tell);
     try {
         moment.end();
     } catch (const Engine::EngineError &error) {
         if (found == 0 || error.code() != Engine::ErrorCode::Corrupt)
             throw; // else it has been told
     }
-    return found;
+}
+
+} // namespace
+
+int checkBooks(Engine::Database &database, Progress &progress, const TellFinding &tell)
+{
+    return Engine::readAtMoment(database, [&](const std::unique_ptr<Engine::ReadMoment> &moment) {
+        QList<std::pair<const BookCheck *, BookFinding>>
+            kept; // until it is sure that the check need not begin anew
+        const auto keep = [&kept](const BookCheck &check, BookFinding finding) {
+            kept.append({&check, std::move(finding)});
+        };
+        const int found =
+            checkHeldBooks(moment->database(), progress, moment->isOnStandby() ? TellFinding(keep) : tell);
+        endChecked(*moment, found);
+        for (auto &[check, finding] : kept)
+            tell(*check, std::move(finding));
+        return found;
+    });
 }
 
 int checkHeldBooks(Engine::Database &database, Progress &progress, const TellFinding &tell)

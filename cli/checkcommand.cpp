@@ -48,6 +48,8 @@ void runRepair(CommandContext &context, Engine::Database &database, const QStrin
 
 void runCheck(CommandContext &context)
 {
+    if (context.arguments.has(u"repair"_s) && context.arguments.has(u"standby"_s))
+        throw UsageError(Texts::tr("--repair and --standby exclude each other"));
     const auto data = context.openData();
     const auto tell = [&context](const BookCheck &check, const BookFinding &finding) {
         context.console.print(u"%1: %2"_s.arg(check.title, finding.text()));
@@ -71,7 +73,8 @@ Command checkCommand()
         "lets in. Each finding says what is wrong and where, what it does to the figures and what mends it.\n"
         "A repair mends what has one right answer, and leaves a note of each in the host's history.");
     command.options = {
-        {u"repair"_s, {}, Texts::tr("mends what can be mended without guessing, after a backup that it names")}};
+        {u"repair"_s, {}, Texts::tr("mends what can be mended without guessing, after a backup that it names")},
+        standbyOption()};
     command.run = runCheck;
     return command;
 }

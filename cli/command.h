@@ -50,6 +50,7 @@ const QList<Command> &commands();
 const Command *findCommand(const QString &name);
 const QList<OptionSpec> &commonOptions();
 OptionSpec retryOption();
+OptionSpec standbyOption(); // openData() heeds it
 
 Command initCommand();
 Command sampleCommand();

@@ -1,4 +1,5 @@
 #include "base/named.h"
+#include "base/origintext.h"
 #include "cli/command.h"
 #include "cli/terminal.h"
 #include "cli/texts.h"
@@ -21,7 +22,14 @@ std::unique_ptr<TDataModuleTallymere> CommandContext::openData(DataModuleOptions
         options.dataFolder = QDir(arguments.value(u"data"_s)).absolutePath();
     options.server = arguments.value(u"server"_s);
     options.currentUser = user();
-    return std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
+    options.readsFromStandby = arguments.has(u"standby"_s);
+    auto data = std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
+    if (arguments.has(u"standby"_s) && data->sessionTallymere().type != Engine::SessionType::Remote)
+        throw UsageError(Texts::tr("--standby belongs to a database on servers"));
+    data->sessionTallymere().readFrom = [&console = console](const Engine::ReadOrigin &origin) {
+        console.error(originText(origin));
+    };
+    return data;
 }
 
 void CommandContext::beginRetrying() const
@@ -38,6 +46,11 @@ void CommandContext::patiently(const std::function<void()> &step) const
 OptionSpec retryOption()
 {
     return {u"retry"_s, Texts::tr("SECONDS"), Texts::tr("keeps trying while another user holds a table")};
+}
+
+OptionSpec standbyOption()
+{
+    return {u"standby"_s, {}, Texts::tr("reads from a standby server that has what was saved, where there is one")};
 }
 
 const QList<OptionSpec> &commonOptions()

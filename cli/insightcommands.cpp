@@ -107,7 +107,7 @@ Command buyCommand()
                        {u"weeks"_s, Texts::tr("N"), Texts::tr("use of the last N weeks (default 8)")},
                        {u"cover"_s, Texts::tr("N"), Texts::tr("the stock is to last N weeks (default 2)")},
                        {u"all"_s, {}, Texts::tr("also items that last long enough")}};
-    command.options += csvOptions();
+    command.options += csvOptions() << standbyOption();
     command.run = runBuy;
     return command;
 }

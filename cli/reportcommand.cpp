@@ -262,6 +262,7 @@ Command reportLikeCommand(const QString &name, const QString &summary, const QLi
     command.options = selectionOptions() + options;
     for (const FormOption &form : formOptions())
         command.options.append(form.option);
+    command.options.append(standbyOption());
     command.paints = true;
     return command;
 }

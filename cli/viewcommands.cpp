@@ -171,6 +171,7 @@ Command totalsCommand()
     command.summary = Texts::tr("the quantity on hand of every item at every location, as CSV");
     command.options = csvOptions();
     command.options += {filterOption(),
+                        standbyOption(),
                         {u"sort"_s, Texts::tr("ORDER"), Texts::tr("item (by number, the default) or description")},
                         {u"as-of"_s, Texts::tr("DATE"), Texts::tr("as it was at the end of a day, YYYY-MM-DD")}};
     command.options += periodOptions(Texts::tr("as it was at the end of a fiscal period"));
@@ -183,7 +184,7 @@ Command historyCommand()
     Command command;
     command.name = u"history"_s;
     command.summary = Texts::tr("every movement of stock, latest period first, as CSV");
-    command.options = csvOptions() << filterOption();
+    command.options = csvOptions() << filterOption() << standbyOption();
     command.run = runHistory;
     return command;
 }
@@ -196,7 +197,7 @@ Command listCommand()
     command.fewestWords = command.mostWords = 1;
     command.summary = Texts::tr("a list of master records or documents as CSV, all fields");
     command.details = Texts::tr("KIND: %1").arg(namesOf(listKinds()));
-    command.options = csvOptions() << filterOption();
+    command.options = csvOptions() << filterOption() << standbyOption();
     command.run = runList;
     return command;
 }

@@ -91,6 +91,19 @@ void TDataModuleTallymere::startSession(Engine::Session &session)
         session.remoteAddress = m_options.server;
         useServerAccount(session);
     }
+    session.readsFromStandby = m_options.readsFromStandby.value_or(session.readsFromStandby)
+        && session.type == Engine::SessionType::Remote;
+}
+
+Engine::Database &TDataModuleTallymere::readingDatabase()
+{
+    if (!m_session.readsFromStandby)
+        return m_database;
+    if (m_reading)
+        m_reading->connection().renewReading();
+    else
+        m_reading = std::make_unique<Engine::Database>(m_database, m_database.connection().openReading(m_database));
+    return *m_reading;
 }
 
 void TDataModuleTallymere::beforeConnect(Engine::Database &database)

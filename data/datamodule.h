@@ -24,6 +24,7 @@ struct DataModuleOptions
     QString dataFolder{}; // this folder in file-server mode
     QString server{}; // this address in client/server mode
     QString serverDatabase{}; // the database's name there; empty: "Corvane"
+    std::optional<bool> readsFromStandby{}; // see readingDatabase()
     bool createDatabase = false; // makes the file, or the database on the server, when it is missing
     QString currentUser{};
     std::function<void(std::chrono::milliseconds)> waitFor{}; // how lock retries pause; see Engine::Session
@@ -53,6 +54,10 @@ public:
 
     Engine::Session &sessionTallymere() { return m_session; }
     Engine::Database &databaseTallymere() { return m_database; }
+    // The same for what only reads and may be moments old, as totals and history on a screen: over a standby server where
+    // the settings want that and the database is on servers. Each call looks for a standby again. It lacks nothing that
+    // this program has written.
+    Engine::Database &readingDatabase();
     // For temporary tables, in the system's temporary folder; connects, and makes its file, at the first use.
     Engine::Session &sessionTempTallymere() { return m_tempSession; }
     Engine::Database &databaseTempTallymere() { return m_tempDatabase; }
@@ -102,6 +107,7 @@ private:
 
     Engine::Session m_session;
     Engine::Database m_database;
+    std::unique_ptr<Engine::Database> m_reading; // once it is needed
     Engine::Session m_tempSession;
     Engine::Database m_tempDatabase;
     std::unique_ptr<Engine::Database> m_memory;

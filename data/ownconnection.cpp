@@ -16,6 +16,8 @@ OwnConnection::OwnConnection(Engine::Database &other)
     m_session.remoteLink = session.remoteLink;
     m_session.remoteUser = session.remoteUser;
     m_session.remotePassword = session.remotePassword;
+    m_session.readsFromStandby = session.readsFromStandby;
+    m_session.standbyWait = session.standbyWait;
     m_session.applicationUser = session.applicationUser;
     m_session.tableTitle = session.tableTitle;
     m_session.clock = session.clock;

@@ -48,8 +48,9 @@ TFormRegistryEditor::TFormRegistryEditor(SettingsStore &settings, Prompts &promp
         m_ui->cboLanguage->addItem(language.name, language.code);
     leadTabToChosen(*this);
     keepComboBoxNames();
-    // Four groups of one to three digits.
-    static const QRegularExpression address(uR"(\d{1,3}\.\d{1,3}\.\d{1,3}\.\d{1,3})"_s);
+    // Four groups of one to three digits, for each of the servers that stand in for each other.
+    static const QRegularExpression address(
+        uR"(\d{1,3}\.\d{1,3}\.\d{1,3}\.\d{1,3}(,\d{1,3}\.\d{1,3}\.\d{1,3}\.\d{1,3})*)"_s);
     m_ui->wwDBEditIPAddress->setValidator(new QRegularExpressionValidator(address, this));
 
     connect(m_ui->radioFileServer, &QRadioButton::toggled, this, &TFormRegistryEditor::actionModeChange);
@@ -75,6 +76,7 @@ void TFormRegistryEditor::formShow()
     m_ui->RzButtonEditDataPath->setText(m_settings.value(Settings::Alias));
     m_ui->wwDBEditIPAddress->setText(m_settings.value(Settings::ServerAddress));
     m_ui->RzComboBoxConnectionType->setCurrentText(settingText(m_settings.value(Settings::Connection)));
+    m_ui->chkReadStandby->setChecked(m_settings.value(Settings::ReadsFromStandby));
     const int language =
         m_ui->cboLanguage->findData(m_settings.value(Settings::languageSection, Settings::ChosenLanguage));
     m_ui->cboLanguage->setCurrentIndex(std::max(language, 0));
@@ -83,6 +85,7 @@ void TFormRegistryEditor::formShow()
 
 void TFormRegistryEditor::actionModeChange()
 {
+    m_ui->chkReadStandby->setEnabled(clientServerChosen());
     m_ui->LabelDataPath->setText(clientServerChosen() ? tr("Shared Ini Directory:") : tr("Data Location:"));
 }
 
@@ -95,6 +98,8 @@ void TFormRegistryEditor::actionOK()
     save(Settings::Alias, m_ui->RzButtonEditDataPath->text());
     save(Settings::ServerAddress, m_ui->wwDBEditIPAddress->text());
     save(Settings::Connection, link);
+    if (const bool reads = m_ui->chkReadStandby->isChecked(); reads != m_settings.value(Settings::ReadsFromStandby))
+        save(Settings::ReadsFromStandby, reads);
     if (const bool defuses = m_ui->chkDefuseFormulas->isChecked();
         defuses != m_settings.value(Settings::savingSection, Settings::DefusesFormulas))
         m_settings.setValue(Settings::savingSection, Settings::DefusesFormulas, defuses);

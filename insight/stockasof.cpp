@@ -40,9 +40,11 @@ QString StockTime::text() const
 
 StockAsOf::StockAsOf(Engine::Database &database, const StockTime &time)
 {
-    Engine::ReadMoment moment(database);
-    read(moment.database().connection(), time);
-    moment.end();
+    Engine::readAtMoment(database, [&](const std::unique_ptr<Engine::ReadMoment> &moment) {
+        m_onHand.clear();
+        read(moment->database().connection(), time);
+        moment->end();
+    });
 }
 
 StockAsOf::StockAsOf(Engine::Connection &moment, const StockTime &time) { read(moment, time); }

@@ -170,10 +170,11 @@ std::vector<ItemToBuy> whatToBuy(Engine::Connection &moment, const BuyingPlan &p
 
 std::vector<ItemToBuy> whatToBuy(Engine::Database &database, const BuyingPlan &plan)
 {
-    Engine::ReadMoment moment(database);
-    std::vector<ItemToBuy> items = whatToBuy(moment.database().connection(), plan);
-    moment.end();
-    return items;
+    return Engine::readAtMoment(database, [&plan](const std::unique_ptr<Engine::ReadMoment> &moment) {
+        std::vector<ItemToBuy> items = whatToBuy(moment->database().connection(), plan);
+        moment->end();
+        return items;
+    });
 }
 
 } // namespace Tallymere

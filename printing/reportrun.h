@@ -12,6 +12,7 @@ struct Report
 {
     ReportLayout layout;
     RowReaderPtr rows;
+    QString origin = {}; // where they come from, for who looks at them; empty: from where everything is
 };
 
 // Makes the pages of a report, a few at a time: the first can be seen before the last is made. Uses the store that the
@@ -28,6 +29,7 @@ public:
     bool hasEnded() const { return m_state != State::Running; } // no further pages come
 
     QString title() const { return m_report.layout.title; }
+    const QString &origin() const { return m_report.origin; }
     const Paper &paper() const { return m_paper; }
     int pageCount() const { return m_spool.count(); } // so far
     int lineCount() const { return m_lines.count(); } // that these pages show, without headings of groups

@@ -1,6 +1,7 @@
 #include "reports/makereport.h"
 
 #include "base/formats.h"
+#include "base/origintext.h"
 #include "base/ruleerror.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
@@ -64,14 +65,11 @@ QString periodHeading(const ReportSelection &selection)
     return ReportsTexts::tr("Period: %1/%2").arg(selection.period, 2, 10, '0'_L1).arg(selection.year);
 }
 
-} // namespace
-
-Printing::Report makeReport(TDataModuleTallymere &data, const ReportDescription &report,
-                            const ReportSelection &selection, Progress *progress)
+Printing::Report reportAt(std::unique_ptr<Engine::ReadMoment> moment, const ReportDescription &report,
+                          const ReportSelection &selection, Progress *progress)
 {
-    auto moment = std::make_unique<Engine::ReadMoment>(data.databaseTallymere());
     Engine::Database &database = moment->database();
-    Printing::Report made{report.layout, nullptr};
+    Printing::Report made{report.layout, nullptr, originText(moment->origin())};
     made.layout.headings = {selectionHeading(database, selection)};
     if (report.parameters.period && !report.parameters.day)
         made.layout.headings.append(periodHeading(selection));
@@ -81,6 +79,16 @@ Printing::Report makeReport(TDataModuleTallymere &data, const ReportDescription 
     rows->fit(made.layout);
     made.rows = momentRows(std::move(moment), std::move(rows), progress);
     return made;
+}
+
+} // namespace
+
+Printing::Report makeReport(TDataModuleTallymere &data, const ReportDescription &report,
+                            const ReportSelection &selection, Progress *progress)
+{
+    return Engine::readAtMoment(data.databaseTallymere(), [&](std::unique_ptr<Engine::ReadMoment> moment) {
+        return reportAt(std::move(moment), report, selection, progress);
+    });
 }
 
 std::unique_ptr<Printing::ReportRun> runReport(TDataModuleTallymere &data, const ReportDescription &report,

@@ -89,7 +89,7 @@ private:
 
 RowReaderPtr momentRows(std::unique_ptr<Engine::ReadMoment> moment, RowReaderPtr rows, Progress *progress)
 {
-    const bool atOnce = moment->keepsWritersOut();
+    const bool atOnce = moment->isToBePutAside();
     RowReaderPtr held = std::make_unique<HeldMoment>(std::move(moment), std::move(rows));
     return atOnce ? std::make_unique<SpooledRows>(*held, progress) : std::move(held);
 }

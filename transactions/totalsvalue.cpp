@@ -38,24 +38,46 @@ qint64 outermostItem(Engine::Database &database, const QString &function)
 } // namespace
 
 TotalsValue::TotalsValue(Engine::Database &database, const QString &filter, Quantity quantity)
-    : m_moment(database)
+    : m_database(database)
+    , m_expression(filter)
     , m_quantity(std::move(quantity))
 {
+    Engine::readAtMoment(database,
+                         [this](std::unique_ptr<Engine::ReadMoment> moment) { begin(std::move(moment)); });
+}
+
+void TotalsValue::begin(std::unique_ptr<Engine::ReadMoment> moment)
+{
+    m_moment = std::move(moment);
+    m_sum = Engine::Money();
     if (!isTold())
         return;
-    TotalsView view(m_moment.database(), filter.isEmpty() ? TotalsView::Figures::Value : TotalsView::Figures::All);
+    const auto figures = m_expression.isEmpty() ? TotalsView::Figures::Value : TotalsView::Figures::All;
+    TotalsView view(m_moment->database(), figures);
     view.open();
-    m_filter = conditionOf(view.query(), filter);
+    m_filter = conditionOf(view.query(), m_expression);
     m_sql =
         u"SELECT t.QtyOnHand, t.CostingMethod, t.WgtAvgCost, t.StandardCost, t.ItemID, t.WarehouseID FROM (%1) t "
         "WHERE t.ItemID > ? AND t.ItemID <= ?"_s.arg(view.query().sql());
     if (!m_filter.isEmpty())
         m_sql += u" AND (%1)"_s.arg(m_filter.text);
-    m_reached = outermostItem(m_moment.database(), u"min"_s) - 1;
-    m_last = outermostItem(m_moment.database(), u"max"_s);
+    m_reached = outermostItem(m_moment->database(), u"min"_s) - 1;
+    m_last = outermostItem(m_moment->database(), u"max"_s);
 }
 
 bool TotalsValue::readOn(qint64 milliseconds)
+{
+    try {
+        return addUpOn(milliseconds);
+    } catch (const Engine::EngineError &) {
+        if (!m_moment->isOnStandby())
+            throw;
+    }
+    begin(Engine::ReadMoment::insteadOfStandby(m_database));
+    return true;
+}
+
+bool TotalsValue::addUpOn(qint64 milliseconds)
 {
     if (!isTold())
         return false;
@@ -74,14 +96,14 @@ bool TotalsValue::readOn(qint64 milliseconds)
         if (m_reached < m_last && all.elapsed() >= milliseconds)
             return true;
     }
-    m_moment.end();
+    m_moment->end();
     m_last = m_reached;
     return false;
 }
 
 void TotalsValue::addItems(qint64 last)
 {
-    const Engine::StatementPtr rows = m_moment.database().connection().prepare(m_sql);
+    const Engine::StatementPtr rows = m_moment->database().connection().prepare(m_sql);
     rows->bind(0, m_reached);
     rows->bind(1, last);
     Engine::bindAll(*rows, m_filter.parameters, 2);

@@ -1,5 +1,6 @@
 #include "care/screens/checkbooks.h"
 
+#include "base/origintext.h"
 #include "base/plural.h"
 #include "base/ruleerror.h"
 #include "care/repair.h"
@@ -78,13 +79,16 @@ void TfrmCheckBooks::keyPressEvent(QKeyEvent *event)
 void TfrmCheckBooks::check()
 {
     FindingsList found;
+    QString origin;
     workBeside(this, tr("Checking the books"), context().data.databaseTallymere(),
-               [&found](Engine::Database &database, Progress &progress) {
+               [&found, &origin](Engine::Database &database, Progress &progress) {
+                   const OriginNote note(database.session());
                    checkBooks(database, progress, [&found](const BookCheck &check, BookFinding finding) {
                        found.add(check, std::move(finding), FindingsList::After::Check);
                    });
+                   origin = note.text();
                });
-    showFindings(std::move(found));
+    showFindings(std::move(found), origin);
     Q_EMIT checked();
 }
 
@@ -113,7 +117,7 @@ void TfrmCheckBooks::btnRepairClick()
 
 void TfrmCheckBooks::btnPrintClick() { showReport(context(), findingsReport(m_findings), {}, this); }
 
-void TfrmCheckBooks::showFindings(FindingsList findings)
+void TfrmCheckBooks::showFindings(FindingsList findings, const QString &origin)
 {
     m_findings = std::move(findings);
     std::vector<QStringList> rows;
@@ -121,7 +125,7 @@ void TfrmCheckBooks::showFindings(FindingsList findings)
         rows.push_back({row.check, row.finding.where, row.finding.what, FindingsList::stateText(row.state)});
     m_ui->DBGrid1->setHint(m_findings.summary());
     m_ui->DBGrid1->setRows(std::move(rows));
-    m_ui->lblStatus->setText(m_findings.summary());
+    m_ui->lblStatus->setText(origin.isEmpty() ? m_findings.summary() : m_findings.summary() + ".  "_L1 + origin);
     m_ui->btnRepair->setEnabled(m_findings.count(FindingsList::State::Mendable) > 0);
     showFinding();
 }

@@ -36,7 +36,7 @@ private:
     void connectControls();
     void btnRepairClick();
     void btnPrintClick();
-    void showFindings(FindingsList findings);
+    void showFindings(FindingsList findings, const QString &origin = {});
     void showFinding();
 
     const std::unique_ptr<::Ui::TfrmCheckBooks> m_ui;

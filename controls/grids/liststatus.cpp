@@ -1,8 +1,10 @@
 #include "controls/grids/liststatus.h"
 
+#include "base/origintext.h"
 #include "controls/grids/figuresline.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/sumlabel.h"
+#include "engine/store/database.h"
 #include "engine/values/userlocale.h"
 
 #include <QItemSelectionModel>
@@ -37,10 +39,12 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     connect(model, &QAbstractItemModel::rowsInserted, this, &ListStatus::showRows);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &ListStatus::showRows);
     connect(&model->dataSet(), &Engine::DataSet::listChanged, this, &ListStatus::showRows);
+    connect(&model->dataSet(), &Engine::DataSet::listChanged, this, &ListStatus::showOrigin);
     connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListStatus::showRows);
     connect(grid.search(), &ListSearch::changed, this, &ListStatus::showSearch);
     showRows();
+    showOrigin();
 }
 
 void ListStatus::say(const QString &text)
@@ -56,6 +60,21 @@ void ListStatus::setSum(const QString &label, const QString &figure)
         m_bar.addPermanentWidget(m_sum);
     }
     m_sum->setSum(label, figure);
+}
+
+void ListStatus::showOrigin()
+{
+    Engine::Database &database = m_grid.tableModel()->dataSet().database();
+    const QString text = database.isOpen() ? originText(database.connection().origin()) : QString();
+    if (!m_origin && text.isEmpty())
+        return;
+    if (!m_origin) {
+        m_origin = new QLabel(&m_bar);
+        m_origin->setObjectName(u"lblOrigin"_s);
+        m_origin->setTextFormat(Qt::PlainText);
+        m_bar.addPermanentWidget(m_origin);
+    }
+    m_origin->setText(text);
 }
 
 void ListStatus::showRows() { m_rows->setText(rowsText()); }

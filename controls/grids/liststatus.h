@@ -10,8 +10,8 @@ namespace Tallymere {
 class SumLabel;
 
 // The status line of a list: on which row of how many the cursor is, how many are selected, what is being searched for,
-// and the figures of the row that its columns are too narrow for. Nothing is said of the rows before the whole list has
-// been read.
+// and the figures of the row that its columns are too narrow for; and of which time the rows are, where they are meant to
+// come from a standby server. Nothing is said of the rows before the whole list has been read.
 class ListStatus : public QObject
 {
     Q_OBJECT
@@ -25,6 +25,7 @@ public:
 private:
     void showRows();
     void showSearch();
+    void showOrigin();
     QString rowsText() const;
 
     ListGrid &m_grid;
@@ -32,6 +33,7 @@ private:
     QLabel *m_rows;
     QLabel *m_search;
     SumLabel *m_sum = nullptr; // of a list that tells one
+    QLabel *m_origin = nullptr; // of a list that a standby server may be read for
 };
 
 } // namespace Tallymere

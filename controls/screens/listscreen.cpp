@@ -13,6 +13,7 @@
 #include "controls/windows/windowplaces.h"
 #include "data/fields.h"
 #include "engine/records/table.h"
+#include "engine/store/database.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -451,6 +452,7 @@ QList<Engine::TableReader *> ListScreen::ownedTables()
 void ListScreen::refreshList()
 {
     const WaitCursor hourglass;
+    m_data->database().connection().renewReading();
     m_data->refresh();
 }
 

@@ -59,7 +59,9 @@ Parameters parametersOf(const PostgresTarget &target, const QList<PostgresServer
     if (!servers.isEmpty())
         parameters.add("port", ports.join(u','));
     parameters.add("dbname", target.database);
-    if (target.hasSeveral() && !isSet("PGTARGETSESSIONATTRS"))
+    if (target.wantsStandby)
+        parameters.add("target_session_attrs", u"standby"_s);
+    else if (target.hasSeveral() && !isSet("PGTARGETSESSIONATTRS"))
         parameters.add("target_session_attrs", u"read-write"_s);
     // A service of the client library's own file (pg_service.conf) stands for an account as well.
     const bool ownAccount = !isSet("PGUSER") && !isSet("PGSERVICE");
@@ -324,7 +326,7 @@ void PostgresLink::connect()
     if (m_handle)
         PQsetnonblocking(handle(), 1); // so that taking leave does not wait for a machine that is gone
     m_handle.reset();
-    m_handle = opened(m_target);
+    m_handle = openedWhereWanted();
     m_lost = false;
     ++m_generation;
     m_stale.clear();
@@ -348,12 +350,24 @@ void PostgresLink::connect()
     tell(true);
 }
 
+PostgresHandle PostgresLink::openedWhereWanted()
+{
+    try {
+        return opened(m_target);
+    } catch (const EngineError &) {
+        if (!std::exchange(m_target.wantsStandby, false))
+            throw;
+    }
+    return opened(m_target);
+}
+
 void PostgresLink::beginSession()
 {
     const ResultPtr begun = run(
         "SET datestyle = ISO; SET standard_conforming_strings = on; SET search_path = public; "
         "SET lock_timeout = "
         + QByteArray::number(static_cast<qint64>(m_target.lockWait.count()))
+        + (m_target.readsOnly ? "; SET default_transaction_read_only = on" : "")
         + "; SELECT pid, backend_start, writes AND to_regclass('tallymere.commits') IS NOT NULL, "
           "writes AND has_database_privilege(current_database(), 'CREATE') "
           "FROM pg_stat_activity, (SELECT NOT pg_is_in_recovery() AS writes) AS w WHERE pid = pg_backend_pid()");

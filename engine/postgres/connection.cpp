@@ -2,6 +2,7 @@
 
 #include "engine/postgres/error.h"
 #include "engine/postgres/locks.h"
+#include "engine/postgres/standbyreading.h"
 #include "engine/postgres/statement.h"
 #include "engine/postgres/store.h"
 #include "engine/store/database.h"
@@ -32,6 +33,7 @@ PostgresTarget targetOf(const Database &database)
     };
     target.serverWait = session.serverWait;
     target.answerWait = session.answerWait;
+    target.standbyWait = session.standbyWait;
     target.told = [&session](bool isThere) {
         if (session.serverChanged)
             session.serverChanged(isThere);
@@ -53,6 +55,8 @@ PostgresConnection::PostgresConnection(const PostgresTarget &target)
 PostgresConnection::~PostgresConnection()
 {
     m_link->mayReconnect = [] { return false; }; // statements that live on do not connect again
+    m_link->beforeReading = {};
+    m_link->readElsewhere = {};
     clearStatementCache();
 }
 
@@ -64,7 +68,7 @@ void PostgresConnection::execute(const QString &script)
         m_link->leavePipeline();
         try {
             m_link->run(script.toUtf8());
-            return;
+            return m_link->noteWriting();
         } catch (const EngineError &error) {
             if (!m_link->mayTryAgain(error, since))
                 throw;
@@ -103,16 +107,50 @@ void PostgresConnection::rollback() noexcept
 }
 
 // A moment cannot be tried again for the sake of one statement, so that one waits for as long as would be tried.
-std::unique_ptr<Connection> PostgresConnection::openMoment(const Database &database)
+std::unique_ptr<Connection> PostgresConnection::openMoment(const Database &database, ReadFrom from)
 {
     PostgresTarget target = targetOf(database);
     target.told = {}; // a moment that is lost is over, and nobody waits for it
     target.lockWait = database.session().lockAttempts * database.session().lockPause;
-    auto reader = std::make_unique<PostgresConnection>(target);
+    const bool mayLag = from == ReadFrom::Standby && database.session().readsFromStandby;
+    auto reader = mayLag ? openReader(target) : std::make_unique<PostgresConnection>(target);
     reader->m_link->begin("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY");
     reader->m_link->run("SELECT 1"); // the moment is that of the first statement
     return reader;
 }
+
+std::unique_ptr<PostgresConnection> PostgresConnection::openReader(PostgresTarget target) const
+{
+    target.readsOnly = true;
+    target.wantsStandby = true;
+    auto reader = std::make_unique<PostgresConnection>(target);
+    reader->m_reading =
+        std::make_unique<StandbyReading>(*reader->m_link, m_reading ? m_reading->primary() : m_link);
+    reader->m_reading->renew();
+    return reader;
+}
+
+std::unique_ptr<Connection> PostgresConnection::openReading(const Database &database)
+{
+    PostgresTarget target = targetOf(database);
+    target.told = {}; // the one that writes tells of it
+    auto reader = openReader(target);
+    StandbyReading &reading = *reader->m_reading;
+    reader->m_link->beforeReading = [&reading] { reading.keepUp(); };
+    reader->m_link->readElsewhere = [&reading] {
+        reading.giveUp();
+        return true;
+    };
+    return reader;
+}
+
+void PostgresConnection::renewReading()
+{
+    if (m_reading)
+        m_reading->renew();
+}
+
+ReadOrigin PostgresConnection::origin() const { return m_reading ? m_reading->origin() : ReadOrigin(); }
 
 qint64 PostgresConnection::lastInsertId()
 {

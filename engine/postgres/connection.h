@@ -8,6 +8,7 @@ namespace Engine {
 
 class Database;
 class PostgresLocks;
+class StandbyReading;
 
 // A database of a server. Record and table locks are advisory locks of the same connection.
 class PostgresConnection final : public Connection
@@ -27,7 +28,10 @@ public:
     void commit() override;
     void rollback() noexcept override;
     bool inTransaction() const override { return m_link->inTransaction(); }
-    std::unique_ptr<Connection> openMoment(const Database &database) override;
+    std::unique_ptr<Connection> openMoment(const Database &database, ReadFrom from) override;
+    std::unique_ptr<Connection> openReading(const Database &database) override;
+    void renewReading() override;
+    ReadOrigin origin() const override;
     std::unique_ptr<BulkInsert> bulkInsert(const TableLayout &layout) override;
     std::optional<TableLayout> describe(const QString &table) override;
     QStringList tables() override;
@@ -46,9 +50,12 @@ protected:
     std::unique_ptr<Statement> createStatement(const QString &sql) override;
 
 private:
+    std::unique_ptr<PostgresConnection> openReader(PostgresTarget target) const;
+
     PostgresDialect m_dialect;
     std::shared_ptr<PostgresLink> m_link; // shared with statements that outlive the connection
     std::unique_ptr<PostgresLocks> m_locks;
+    std::unique_ptr<StandbyReading> m_reading; // of one that reads from a standby
     bool m_isMade = false;
 };
 

@@ -1,6 +1,7 @@
 #include "engine/postgres/link.h"
 
 #include "engine/postgres/error.h"
+#include "engine/postgres/ownwrites.h"
 #include "engine/postgres/watch.h"
 #include "engine/store/platform.h"
 
@@ -55,6 +56,13 @@ PostgresLink::PostgresLink(PostgresTarget target)
 // --- one command at a time ---------------------------------------------------------------------------------------
 
 void PostgresLink::prepareFor(ResultReader *reader)
+{
+    makeReady(reader);
+    if (beforeReading && !m_inTransaction)
+        beforeReading();
+}
+
+void PostgresLink::makeReady(ResultReader *reader)
 {
     if (m_reader && m_reader != reader)
         m_reader->readAhead();
@@ -111,6 +119,32 @@ void PostgresLink::connectPatiently()
     }
 }
 
+void PostgresLink::moveTo(ReadFrom from)
+{
+    if (m_reader && !isLost())
+        m_reader->readAhead();
+    m_target.wantsStandby = from == ReadFrom::Standby;
+    connect();
+    if (reconnected)
+        reconnected();
+}
+
+bool PostgresLink::mayWaitForStandby(std::chrono::steady_clock::time_point since) const
+{
+    return m_target.mayWaitForServer && m_target.mayWaitForServer(since, m_target.standbyWait);
+}
+
+std::optional<qint64> PostgresLink::logEnd()
+{
+    if (m_inTransaction || m_lostInTransaction)
+        return std::nullopt;
+    // What is on its disk, where a commit is answered when it is there: the rest is not sent to standbys either.
+    const ResultPtr end = runReady("SELECT CAST(CASE current_setting('synchronous_commit') WHEN 'off' "
+                                   "THEN pg_current_wal_insert_lsn() ELSE pg_current_wal_flush_lsn() END "
+                                   "- '0/0' AS bigint)");
+    return QByteArray(PQgetvalue(end.get(), 0, 0)).toLongLong();
+}
+
 bool PostgresLink::mayReadAgain(const EngineError &error) const
 {
     return error.code() == ErrorCode::ConnectionLost && m_target.mayWaitForServer && !m_inTransaction
@@ -133,6 +167,13 @@ ResultPtr PostgresLink::run(const QByteArray &script)
     if (PQsendQuery(handle(), script.constData()) != 1)
         fail(nullptr);
     return finishCommand();
+}
+
+ResultPtr PostgresLink::runReady(const QByteArray &script)
+{
+    makeReady(nullptr);
+    leavePipeline();
+    return run(script);
 }
 
 ResultPtr PostgresLink::finishCommand()
@@ -346,6 +387,10 @@ void PostgresLink::commit()
     leavePipeline();
     const bool writes = m_writes && !isTransactionFailed();
     const bool isMarked = writes && m_canMark;
+    const auto noted = qScopeGuard([writes] {
+        if (writes)
+            OwnWrites::note();
+    });
     ResultPtr result;
     try {
         result = run(isMarked ? commitText() : "COMMIT"_ba);
@@ -364,6 +409,12 @@ void PostgresLink::commit()
         raise(ErrorCode::General,
               Texts::tr("An earlier step of the same change has failed; the "
                         "changes were undone."));
+}
+
+void PostgresLink::noteWriting() const
+{
+    if (!m_inTransaction)
+        OwnWrites::note();
 }
 
 void PostgresLink::rollback() noexcept

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/store/lockmanager.h"
+#include "engine/store/readorigin.h"
 #include "engine/values/error.h"
 
 #include <chrono>
@@ -48,6 +49,9 @@ struct PostgresTarget
     std::chrono::milliseconds serverWait{0}; // until another server has taken over; see Session
     std::chrono::milliseconds answerWait{0}; // until a lost answer to a commit has been looked up
     std::function<void(bool isThere)> told; // that the server is gone, and there again
+    bool readsOnly = false;
+    bool wantsStandby = false; // where there is one; else a server that can be written to
+    std::chrono::milliseconds standbyWait{0}; // until it has what was written; see Session
 
     bool hasSeveral() const { return host.contains(u','); } // servers, one of which can be written to
     QString location() const; // for messages: "database corvane on the server 10.0.0.5"
@@ -98,6 +102,18 @@ public:
     std::function<bool()> mayReconnect;
     std::function<void()> reconnected;
 
+    // Of a link that reads from a standby, outside of transactions: before each statement, and whether one that the standby
+    // has refused is to be done again elsewhere.
+    std::function<void()> beforeReading;
+    std::function<bool()> readElsewhere;
+    bool mayReadElsewhere() { return isOnStandby() && !m_inTransaction && readElsewhere && readElsewhere(); }
+    bool isOnStandby() const { return m_target.wantsStandby && !isLost(); }
+    // Connects anew, to the primary where no standby is there.
+    void moveTo(ReadFrom from);
+    bool mayWaitForStandby(std::chrono::steady_clock::time_point since) const;
+    // Where the primary's log ends now, in bytes; nothing while a transaction is open, whose answers are waited for elsewhere.
+    std::optional<qint64> logEnd();
+
     void dropDatabase(); // ends the connection first; refused while somebody else is connected
 
     // Makes the wire free for a command of this reader (or nobody's): others read ahead, a lost connection is made
@@ -108,6 +124,7 @@ public:
 
     // Runs a script to its end, not pipelined; throws its failure.
     ResultPtr run(const QByteArray &script);
+    ResultPtr runReady(const QByteArray &script); // the same wherever the wire is, without beforeReading
     ResultPtr finishCommand(); // the last result of what has been sent, not pipelined; throws its failure
     // As PQgetResult, but a server that is silent for long is found out about: one that cannot be reached any more,
     // or that has lost the session, is a lost connection.
@@ -136,6 +153,7 @@ public:
     void commit();
     void rollback() noexcept;
     bool isTransactionFailed() const;
+    void noteWriting() const; // by a single statement; that of a transaction is noted with its commit
 
 private:
     struct ServerSession
@@ -145,7 +163,9 @@ private:
     };
 
     void connect();
+    PostgresHandle openedWhereWanted();
     void connectAgain();
+    void makeReady(ResultReader *reader);
     void connectPatiently();
     void refuseHandedOnSessions();
     void tell(bool isThere);

@@ -150,7 +150,10 @@ void PostgresStatement::start()
     std::optional<EngineError> loss;
     for (;;) {
         try {
-            return startOnce();
+            startOnce();
+            if (!m_reads)
+                m_link->noteWriting();
+            return;
         } catch (const EngineError &error) {
             if (loss && m_link->isLost())
                 throw EngineError(*loss); // whoever is told of that knows what to do
@@ -158,6 +161,8 @@ void PostgresStatement::start()
                 loss = error; // what it locks, it locks under the new connection
                 continue;
             }
+            if (m_reads && m_link->mayReadElsewhere())
+                continue;
             if (!m_link->mayTryAgain(error, since))
                 throw;
         }
@@ -177,7 +182,9 @@ void PostgresStatement::startOnce()
         m_result = m_link->finishSent();
         return;
     }
-    PQsetSingleRowMode(m_link->handle());
+    if (!m_link->beforeReading
+        || m_link->inTransaction()) // else it can be done again elsewhere as long as no row is given
+        PQsetSingleRowMode(m_link->handle());
     m_link->setReader(this);
     fetch();
 }

@@ -296,7 +296,7 @@ void SqliteConnection::rollback() noexcept
     m_locks->transactionEnded();
 }
 
-std::unique_ptr<Connection> SqliteConnection::openMoment(const Database &database)
+std::unique_ptr<Connection> SqliteConnection::openMoment(const Database &database, ReadFrom)
 {
     if (!m_watch)
         raise(ErrorCode::WrongState, Texts::tr("A database in memory has one connection only."));

@@ -34,7 +34,7 @@ public:
     void commit() override;
     void rollback() noexcept override;
     bool inTransaction() const override;
-    std::unique_ptr<Connection> openMoment(const Database &database) override;
+    std::unique_ptr<Connection> openMoment(const Database &database, ReadFrom from) override;
     bool isWritingKeptOutByReading() override;
     bool isAwaited() override;
     std::optional<TableLayout> describe(const QString &table) override;

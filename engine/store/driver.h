@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/store/readorigin.h"
 #include "engine/values/layout.h"
 #include "engine/values/value.h"
 
@@ -119,13 +120,21 @@ public:
 
     // Another connection to the same store, in a transaction that reads what stands there now and writes nothing; see
     // ReadMoment. Its commit throws when something else has come into the place of what it has read.
-    virtual std::unique_ptr<Connection> openMoment(const Database &database) = 0;
+    virtual std::unique_ptr<Connection> openMoment(const Database &database, ReadFrom from) = 0;
     // Whether nobody can write while such a transaction lasts.
     virtual bool isWritingKeptOutByReading() { return false; }
 
     // Whether somebody else waits to write while a write transaction of this connection lasts, as far as the store tells: a
     // file takes one writer at a time.
     virtual bool isAwaited() { return false; }
+
+    // Another connection for what only reads and stays open, as a list on a screen does: to a standby server where there
+    // is one. What this program has written is there with every statement; where the standby is too late with it, fails
+    // or goes away, the connection goes on with the primary by itself. It takes no writes. Null where there are no servers.
+    virtual std::unique_ptr<Connection> openReading(const Database &) { return nullptr; }
+    // Of such a connection: looks for a standby again, and waits a little for all that there is by now.
+    virtual void renewReading() { }
+    virtual ReadOrigin origin() const { return {}; } // of what it reads
 
     // What the store holds. A missing table gives nullopt. Indexes that the engine did not make are left out.
     virtual std::optional<TableLayout> describe(const QString &table) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/store/readorigin.h"
 #include "engine/store/stores.h"
 
 #include <chrono>
@@ -53,6 +54,11 @@ public:
     // finds the connection lost, where several addresses are given; and so long the answer to a commit is looked for.
     std::chrono::milliseconds serverWait{10'000};
     std::chrono::milliseconds answerWait{60'000};
+    // Whether what may be read from a standby server is (ReadFrom::Standby), how long that may take to get what this
+    // program has written, and who is told where a moment is read.
+    bool readsFromStandby = false;
+    std::chrono::milliseconds standbyWait{2'000};
+    std::function<void(const ReadOrigin &)> readFrom;
     // Told when the server of a database is gone, and when it is there again.
     std::function<void(bool isThere)> serverChanged;
     // Called for each pause instead of sleeping, so that a screen can stay alive. Empty: sleep.

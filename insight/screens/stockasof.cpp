@@ -36,7 +36,7 @@ public:
 
 TfrmStockAsOf::TfrmStockAsOf(ScreenContext &context, QWidget *parent)
     : StockViewScreen(context, parent)
-    , m_view(context.data.databaseTallymere())
+    , m_view(context.data.readingDatabase())
 {
     const Period last = periodBefore(defaultPeriod(context.data.databaseTallymere(), context.data.today()));
     m_view.setTime({.day = {}, .year = last.year, .period = last.number});

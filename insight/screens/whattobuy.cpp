@@ -1,5 +1,6 @@
 #include "insight/screens/whattobuy.h"
 
+#include "base/origintext.h"
 #include "base/plural.h"
 #include "base/settings.h"
 #include "controls/fields/lookuplists.h"
@@ -126,7 +127,10 @@ void TfrmWhatToBuy::read()
     m_aside.start(
         context().data.databaseTallymere(),
         [this, chosen](Engine::Database &database) -> std::function<void()> {
-            return [this, chosen, items = whatToBuy(database, BuyingList::withAll(chosen))] {
+            const OriginNote origin(database.session());
+            std::vector<ItemToBuy> items = whatToBuy(database, BuyingList::withAll(chosen));
+            return [this, chosen, items = std::move(items), from = origin.text()] {
+                m_origin = from;
                 guard().run([&] { take(items, chosen); });
             };
         },
@@ -164,7 +168,8 @@ void TfrmWhatToBuy::showStatus()
         return m_ui->lblStatus->setText(tr("Reading the history..."));
     const QString count = plural(m_list.chosen(), tr("%n item to buy"), tr("%n items to buy"));
     const QString vendor = item < 0 ? QString() : m_list.row(item).item.vendorName;
-    m_ui->lblStatus->setText(vendor.isEmpty() ? count : tr("%1.  Make Receipt: %2").arg(count, vendor));
+    const QString status = vendor.isEmpty() ? count : tr("%1.  Make Receipt: %2").arg(count, vendor);
+    m_ui->lblStatus->setText(m_origin.isEmpty() ? status : status + ".  "_L1 + m_origin);
 }
 
 // --- what comes of it -------------------------------------------------------------------------------------------

@@ -53,6 +53,7 @@ TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::Repor
     scaleForm(this);
     m_found->setObjectName(u"lblFound"_s);
     m_ui->statusBar->addWidget(m_found, 1);
+    showOrigin();
     m_ui->btnSave->setVisible(bool(context.chooseFileToSave));
     m_ui->QRPreview1->setRun(m_run.get());
     connectControls();
@@ -62,6 +63,17 @@ TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::Repor
 }
 
 TfrmPreview::~TfrmPreview() = default;
+
+void TfrmPreview::showOrigin()
+{
+    if (m_run->origin().isEmpty())
+        return;
+    auto *origin = new QLabel(this);
+    origin->setObjectName(u"lblOrigin"_s);
+    origin->setTextFormat(Qt::PlainText);
+    origin->setText(m_run->origin());
+    m_ui->statusBar->addPermanentWidget(origin);
+}
 
 // In two rows where one would be wider than the screen.
 void TfrmPreview::fitCommands()

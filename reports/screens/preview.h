@@ -54,6 +54,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showOrigin();
     void fitCommands();
     void connectControls();
     void makePages();

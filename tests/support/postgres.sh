@@ -3,12 +3,14 @@
 # loopback address. Start leaves the port in DIR/port and does nothing when the server runs already; stop removes
 # everything. The role is the module's own account; the
 # superuser is postgres, with the same password. Unsafe settings make it fast: never keep data in it.
+# postgres.sh standby DIR | standby-stop DIR: a standby server of it, made when it is first started, which ends whatever
+# is in the way of its replay. Its port is in DIR/standby-port.
 set -euo pipefail
 
 action=${1:-}
 dir=${2:-}
-if [[ ! $action =~ ^(start|stop)$ || -z $dir ]]; then
-    echo "usage: $0 start|stop DIR" >&2
+if [[ ! $action =~ ^(start|stop|standby|standby-stop)$ || -z $dir ]]; then
+    echo "usage: $0 start|stop|standby|standby-stop DIR" >&2
     exit 2
 fi
 mkdir -p "$dir"
@@ -37,14 +39,21 @@ if [[ $(id -u) == 0 ]]; then
     fi
 fi
 data=$home/data
+copy=$home/standby
 
 in_home() { (cd "$home" && "${as_server[@]}" "$@"); }
 running() { [[ -d $data ]] && in_home "$bin/pg_ctl" status -D "$data" >/dev/null 2>&1; }
+stop_standby() {
+    if [[ -d $copy ]] && in_home "$bin/pg_ctl" status -D "$copy" >/dev/null 2>&1; then
+        in_home "$bin/pg_ctl" stop -D "$copy" -m immediate -w >/dev/null
+    fi
+}
 
 remove() {
+    stop_standby
     if running; then in_home "$bin/pg_ctl" stop -D "$data" -m immediate -w >/dev/null; fi
-    rm -f "$dir/port" "$dir/home"
-    rm -rf "$data" "$home/log" "$home/password"
+    rm -f "$dir/port" "$dir/standby-port" "$dir/home"
+    rm -rf "$data" "$copy" "$home/log" "$home/standby-log" "$home/password"
     if [[ $home != "$dir" ]]; then rm -rf "$home"; fi
     rmdir "$dir" 2>/dev/null || true
 }
@@ -93,7 +102,21 @@ EOF
     exit 1
 }
 
+start_standby() {
+    if [[ -d $copy ]] && in_home "$bin/pg_ctl" status -D "$copy" >/dev/null 2>&1; then return; fi
+    if [[ ! -e $copy ]]; then
+        in_home env PGPASSWORD=zorvadin "$bin/pg_basebackup" -h 127.0.0.1 -p "$(<"$dir/port")" -U postgres \
+            -D "$copy" -R -X stream -c fast --no-sync
+        echo "max_standby_streaming_delay = 0" >>"$copy/postgresql.conf"
+        free_port >"$dir/standby-port"
+    fi
+    in_home "$bin/pg_ctl" start -D "$copy" -l "$home/standby-log" -w -t 60 -o "-p $(<"$dir/standby-port")" >/dev/null
+    echo "Its standby runs on port $(<"$dir/standby-port")"
+}
+
 case $action in
     start) start ;;
     stop) remove ;;
+    standby) start_standby ;;
+    standby-stop) stop_standby ;;
 esac

@@ -14,7 +14,7 @@ namespace Tallymere {
 
 TfrmInvHistory::TfrmInvHistory(ScreenContext &context, QWidget *parent)
     : StockViewScreen(context, parent)
-    , m_view(context.data.databaseTallymere())
+    , m_view(context.data.readingDatabase())
 {
     m_view.open();
     build(description(), m_view.table(), [this] { mnuSourceClick(); });

@@ -17,7 +17,7 @@ const auto stockAsOfScreen = u"frmStockAsOf"_s;
 
 TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
     : StockViewScreen(context, parent)
-    , m_view(context.data.databaseTallymere(), TotalsView::Figures::All)
+    , m_view(context.data.readingDatabase(), TotalsView::Figures::All)
 {
     m_view.open();
     build(description(), m_view.query(), [this] { mnuHistoryClick(); });
