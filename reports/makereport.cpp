@@ -71,6 +71,8 @@ Printing::Report reportAt(std::unique_ptr<Engine::ReadMoment> moment, const Repo
     Engine::Database &database = moment->database();
     Printing::Report made{report.layout, nullptr, originText(moment->origin())};
     made.layout.headings = {selectionHeading(database, selection)};
+    if (moment->origin().behind >= std::chrono::seconds(1)) // or the time of printing would be taken for that
+        made.layout.headings.append(made.origin);
     if (report.parameters.period && !report.parameters.day)
         made.layout.headings.append(periodHeading(selection));
     if (report.notes)

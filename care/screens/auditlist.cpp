@@ -8,7 +8,7 @@ namespace Tallymere {
 
 TfrmAudit::TfrmAudit(ScreenContext &context, QWidget *parent)
     : ListScreen(context, parent)
-    , m_view(context.data.databaseTallymere())
+    , m_view(context.data.readingDatabase())
 {
     m_view.open();
     build(description(), m_view.query(), [] {});

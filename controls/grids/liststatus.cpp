@@ -39,12 +39,10 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     connect(model, &QAbstractItemModel::rowsInserted, this, &ListStatus::showRows);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &ListStatus::showRows);
     connect(&model->dataSet(), &Engine::DataSet::listChanged, this, &ListStatus::showRows);
-    connect(&model->dataSet(), &Engine::DataSet::listChanged, this, &ListStatus::showOrigin);
     connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListStatus::showRows);
     connect(grid.search(), &ListSearch::changed, this, &ListStatus::showSearch);
     showRows();
-    showOrigin();
 }
 
 void ListStatus::say(const QString &text)
@@ -77,7 +75,11 @@ void ListStatus::showOrigin()
     m_origin->setText(text);
 }
 
-void ListStatus::showRows() { m_rows->setText(rowsText()); }
+void ListStatus::showRows()
+{
+    m_rows->setText(rowsText());
+    showOrigin();
+}
 
 QString ListStatus::rowsText() const
 {

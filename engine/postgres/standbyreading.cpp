@@ -2,6 +2,7 @@
 
 #include "engine/postgres/ownwrites.h"
 
+#include <algorithm>
 #include <libpq-fe.h>
 #include <QScopeGuard>
 #include <thread>
@@ -37,20 +38,15 @@ void StandbyReading::renew()
 
 void StandbyReading::keepUp()
 {
-    if (!m_link.isOnStandby())
+    if (!m_link.isOnStandby()) {
+        if (m_origin.isStandby()) // the link has just been made anew
+            leave(Reason::NoneThere);
         return;
+    }
     if (m_isPausing) // what a screen reads meanwhile does not wait as well
         return leave(Reason::Behind);
     if (m_seenWrites != OwnWrites::count() || m_seenGeneration != m_link.generation())
         reach(Patience::OfAScreen);
-}
-
-ReadOrigin StandbyReading::origin() const
-{
-    ReadOrigin origin = m_origin;
-    if (origin.isStandby() && !m_link.isOnStandby())
-        origin.reason = Reason::NoneThere; // the link has been made anew since
-    return origin;
 }
 
 void StandbyReading::reach(Patience patience)
@@ -118,14 +114,21 @@ StandbyReading::State StandbyReading::state()
     return state;
 }
 
+// What had everything once is not older than that, however long ago the last commit was.
 void StandbyReading::take(const State &state, bool hasAll)
 {
-    m_origin = {
-        .reason = Reason::Standby, .server = serverOf(m_link.handle()).host, .asOf = QDateTime::currentDateTime()};
+    const QDateTime now = QDateTime::currentDateTime();
     if (hasAll)
-        return;
-    m_origin.behind = *state.sinceCommit;
-    m_origin.asOf = m_origin.asOf.addMSecs(-m_origin.behind.count());
+        m_complete = now;
+    else if (m_completeGeneration != m_link.generation())
+        m_complete = {};
+    m_completeGeneration = m_link.generation();
+    m_origin = {.reason = Reason::Standby, .server = serverOf(m_link.handle()).host, .asOf = now};
+    if (!hasAll) {
+        const QDateTime commit = now.addMSecs(-state.sinceCommit->count());
+        m_origin.asOf = m_complete.isValid() ? std::max(commit, m_complete) : commit;
+    }
+    m_origin.behind = std::chrono::milliseconds(m_origin.asOf.msecsTo(now));
 }
 
 void StandbyReading::leave(Reason reason)

@@ -24,7 +24,7 @@ public:
     // The standby has refused a statement ("canceling statement due to conflict with recovery").
     void giveUp() { leave(ReadOrigin::Reason::Failed); }
 
-    ReadOrigin origin() const;
+    const ReadOrigin &origin() const { return m_origin; }
     const std::shared_ptr<PostgresLink> &primary() const { return m_primary; }
 
 private:
@@ -48,6 +48,8 @@ private:
     quint64 m_seenWrites = 0;
     int m_seenGeneration = 0;
     bool m_isPausing = false;
+    QDateTime m_complete; // when the standby of that generation of the link had everything
+    int m_completeGeneration = 0;
     ReadOrigin m_origin;
 };
 

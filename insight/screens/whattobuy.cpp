@@ -41,6 +41,7 @@ TfrmWhatToBuy::TfrmWhatToBuy(ScreenContext &context, QWidget *parent)
     m_ui->setupUi(this);
     setModal(false);
     setLookupLists(*this, context.lookups, guard());
+    m_ui->lblOrigin->hide();
     m_ui->editWeeks->setMaximum(mostWeeks);
     m_ui->editCover->setMaximum(mostWeeks);
     const Choices last = m_last.read();
@@ -130,7 +131,8 @@ void TfrmWhatToBuy::read()
             const OriginNote origin(database.session());
             std::vector<ItemToBuy> items = whatToBuy(database, BuyingList::withAll(chosen));
             return [this, chosen, items = std::move(items), from = origin.text()] {
-                m_origin = from;
+                m_ui->lblOrigin->setText(from);
+                m_ui->lblOrigin->setVisible(!from.isEmpty());
                 guard().run([&] { take(items, chosen); });
             };
         },
@@ -168,8 +170,7 @@ void TfrmWhatToBuy::showStatus()
         return m_ui->lblStatus->setText(tr("Reading the history..."));
     const QString count = plural(m_list.chosen(), tr("%n item to buy"), tr("%n items to buy"));
     const QString vendor = item < 0 ? QString() : m_list.row(item).item.vendorName;
-    const QString status = vendor.isEmpty() ? count : tr("%1.  Make Receipt: %2").arg(count, vendor);
-    m_ui->lblStatus->setText(m_origin.isEmpty() ? status : status + ".  "_L1 + m_origin);
+    m_ui->lblStatus->setText(vendor.isEmpty() ? count : tr("%1.  Make Receipt: %2").arg(count, vendor));
 }
 
 // --- what comes of it -------------------------------------------------------------------------------------------

@@ -52,7 +52,6 @@ private:
     RecordOpener m_receipts;
     std::unique_ptr<ReportWays> m_ways;
     BuyingList m_list;
-    QString m_origin; // of its figures, where a standby server may be read
     ReadAside m_aside;
     bool m_shown = false;
 };

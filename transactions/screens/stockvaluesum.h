@@ -28,6 +28,8 @@ private:
     const std::function<void(const QString &)> m_show;
     const TotalsValue::Quantity m_quantity;
     QTimer m_whenIdle;
+    bool m_isAddingUp = false;
+    bool m_isAnew = false; // what has been added up is worth nothing any more
     std::optional<TotalsValue> m_value; // while it is added up
 };
 
