@@ -230,8 +230,10 @@ QList<PostgresServer> spokenFirst(const PostgresTarget &target)
         return {};
     const QList<PostgresServer> all = serversOf(beginConnecting(target).get());
     QList<PostgresServer> ordered = all;
-    std::stable_partition(ordered.begin(), ordered.end(),
-                          [](const PostgresServer &server) { return !silent().has(server); });
+    const auto silentOnes = std::stable_partition(
+        ordered.begin(), ordered.end(), [](const PostgresServer &server) { return !silent().has(server); });
+    if (target.wantsStandby && silentOnes != ordered.begin())
+        ordered.erase(silentOnes, ordered.end()); // the primary will do before one of them is waited for again
     return ordered == all ? QList<PostgresServer>() : ordered;
 }
 

@@ -126,7 +126,13 @@ std::unique_ptr<PostgresConnection> PostgresConnection::openReader(PostgresTarge
     auto reader = std::make_unique<PostgresConnection>(target);
     reader->m_reading =
         std::make_unique<StandbyReading>(*reader->m_link, m_reading ? m_reading->primary() : m_link);
-    reader->m_reading->renew();
+    StandbyReading &reading = *reader->m_reading;
+    reading.renew();
+    reader->m_link->beforeReading = [&reading] { reading.keepUp(); };
+    reader->m_link->readElsewhere = [&reading] {
+        reading.giveUp();
+        return true;
+    };
     return reader;
 }
 
@@ -134,14 +140,7 @@ std::unique_ptr<Connection> PostgresConnection::openReading(const Database &data
 {
     PostgresTarget target = targetOf(database);
     target.told = {}; // the one that writes tells of it
-    auto reader = openReader(target);
-    StandbyReading &reading = *reader->m_reading;
-    reader->m_link->beforeReading = [&reading] { reading.keepUp(); };
-    reader->m_link->readElsewhere = [&reading] {
-        reading.giveUp();
-        return true;
-    };
-    return reader;
+    return openReader(target);
 }
 
 void PostgresConnection::renewReading()

@@ -107,6 +107,7 @@ public:
     std::function<void()> beforeReading;
     std::function<bool()> readElsewhere;
     bool mayReadElsewhere() { return isOnStandby() && !m_inTransaction && readElsewhere && readElsewhere(); }
+    bool wantsStandby() const { return m_target.wantsStandby; }
     bool isOnStandby() const { return m_target.wantsStandby && !isLost(); }
     // Connects anew, to the primary where no standby is there.
     void moveTo(ReadFrom from);

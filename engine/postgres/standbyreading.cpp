@@ -54,6 +54,7 @@ void StandbyReading::reach(Patience patience)
     if (!m_link.isOnStandby())
         return leave(Reason::NoneThere);
     const quint64 writes = OwnWrites::count();
+    m_asked = QDateTime::currentDateTime();
     try {
         const std::optional<qint64> end = m_primary->logEnd();
         if (!end)
@@ -61,9 +62,8 @@ void StandbyReading::reach(Patience patience)
         await(OwnWrites::position(m_link.location(), writes, *end), *end, patience);
         m_seenWrites = writes;
         m_seenGeneration = m_link.generation();
-    } catch (const EngineError &) {
-        if (!m_link.isOnStandby())
-            throw;
+    } catch (
+        const EngineError &) { // of either server; what the primary suffers from, it tells those who read from it
         leave(Reason::NoneThere);
     }
 }
@@ -117,23 +117,23 @@ StandbyReading::State StandbyReading::state()
 // What had everything once is not older than that, however long ago the last commit was.
 void StandbyReading::take(const State &state, bool hasAll)
 {
-    const QDateTime now = QDateTime::currentDateTime();
     if (hasAll)
-        m_complete = now;
+        m_complete = m_asked;
     else if (m_completeGeneration != m_link.generation())
         m_complete = {};
     m_completeGeneration = m_link.generation();
-    m_origin = {.reason = Reason::Standby, .server = serverOf(m_link.handle()).host, .asOf = now};
-    if (!hasAll) {
-        const QDateTime commit = now.addMSecs(-state.sinceCommit->count());
-        m_origin.asOf = m_complete.isValid() ? std::max(commit, m_complete) : commit;
-    }
+    m_origin = {.reason = Reason::Standby, .server = serverOf(m_link.handle()).host, .asOf = m_asked};
+    if (hasAll)
+        return;
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDateTime commit = now.addMSecs(-state.sinceCommit->count());
+    m_origin.asOf = m_complete.isValid() ? std::max(commit, m_complete) : commit;
     m_origin.behind = std::chrono::milliseconds(m_origin.asOf.msecsTo(now));
 }
 
 void StandbyReading::leave(Reason reason)
 {
-    if (m_link.isOnStandby())
+    if (m_link.wantsStandby()) // also where that has been lost, or the next statement would look for one
         m_link.moveTo(ReadFrom::Primary);
     m_origin = {.reason = reason, .server = {}, .asOf = QDateTime::currentDateTime()};
 }

@@ -18,7 +18,7 @@ public:
     // Looks for a standby where the link is on none, and waits for it: a moment for all that there is by now, longer for
     // what this program has written.
     void renew();
-    // Before each statement that is not of a transaction. Asks nobody unless something has been written or the link was
+    // Before each statement that is not of a transaction, and before each transaction. Asks nobody unless something has been written or the link was
     // made anew, and holds a screen up for 0.4 seconds at most.
     void keepUp();
     // The standby has refused a statement ("canceling statement due to conflict with recovery").
@@ -48,6 +48,7 @@ private:
     quint64 m_seenWrites = 0;
     int m_seenGeneration = 0;
     bool m_isPausing = false;
+    QDateTime m_asked; // when the primary was
     QDateTime m_complete; // when the standby of that generation of the link had everything
     int m_completeGeneration = 0;
     ReadOrigin m_origin;
