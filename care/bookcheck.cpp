@@ -63,21 +63,21 @@ void endChecked(Engine::ReadMoment &moment, int found)
 
 } // namespace
 
-int checkBooks(Engine::Database &database, Progress &progress, const TellFinding &tell)
+// What a standby tells is kept until it is sure that the check need not begin anew.
+int checkBooks(Engine::Database &database, Progress &progress, const TellFinding &tell, Engine::ReadFrom from)
 {
-    return Engine::readAtMoment(database, [&](const std::unique_ptr<Engine::ReadMoment> &moment) {
-        QList<std::pair<const BookCheck *, BookFinding>>
-            kept; // until it is sure that the check need not begin anew
-        const auto keep = [&kept](const BookCheck &check, BookFinding finding) {
+    const auto checkAt = [&](const std::unique_ptr<Engine::ReadMoment> &moment) {
+        QList<std::pair<const BookCheck *, BookFinding>> kept;
+        const TellFinding keep = [&kept](const BookCheck &check, BookFinding finding) {
             kept.append({&check, std::move(finding)});
         };
-        const int found =
-            checkHeldBooks(moment->database(), progress, moment->isOnStandby() ? TellFinding(keep) : tell);
+        const int found = checkHeldBooks(moment->database(), progress, moment->isOnStandby() ? keep : tell);
         endChecked(*moment, found);
         for (auto &[check, finding] : kept)
             tell(*check, std::move(finding));
         return found;
-    });
+    };
+    return Engine::readAtMoment(database, checkAt, from);
 }
 
 int checkHeldBooks(Engine::Database &database, Progress &progress, const TellFinding &tell)

@@ -57,7 +57,7 @@ void runCheck(CommandContext &context)
     if (context.arguments.has(u"repair"_s))
         return runRepair(context, data->databaseTallymere(), data->currentUser(), tell);
     ConsoleProgress progress(context.console, Texts::tr("Checking"));
-    tellLeft(context, checkBooks(data->databaseTallymere(), progress, tell));
+    tellLeft(context, checkBooks(data->databaseTallymere(), progress, tell, Engine::ReadFrom::Standby));
 }
 
 } // namespace

@@ -83,9 +83,10 @@ void TfrmCheckBooks::check()
     workBeside(this, tr("Checking the books"), context().data.databaseTallymere(),
                [&found, &origin](Engine::Database &database, Progress &progress) {
                    const OriginNote note(database.session());
-                   checkBooks(database, progress, [&found](const BookCheck &check, BookFinding finding) {
+                   const TellFinding tell = [&found](const BookCheck &check, BookFinding finding) {
                        found.add(check, std::move(finding), FindingsList::After::Check);
-                   });
+                   };
+                   checkBooks(database, progress, tell, Engine::ReadFrom::Standby);
                    origin = note.text();
                });
     showFindings(std::move(found), origin);

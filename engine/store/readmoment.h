@@ -47,9 +47,9 @@ private:
 // Has something read at a moment, of a standby where the session wants that and there is one. Where the standby fails in the
 // middle of it, it is read once more, from the primary: so the reading begins anew each time, and gives nothing away before
 // its end. Read takes a std::unique_ptr<ReadMoment>.
-template <typename Read> auto readAtMoment(Database &database, Read read)
+template <typename Read> auto readAtMoment(Database &database, Read read, ReadFrom from = ReadFrom::Standby)
 {
-    auto moment = std::make_unique<ReadMoment>(database, ReadFrom::Standby);
+    auto moment = std::make_unique<ReadMoment>(database, from);
     if (!moment->isOnStandby())
         return read(std::move(moment));
     try {
