@@ -195,7 +195,7 @@ TEST_F(DocumentScreenTest, enterTakesTheOfferedCostAndPassesOverWhatIsKnownWhere
     EXPECT_EQ(cellOf(*grid, 0, 3), u"last 4.20");
     press(Qt::Key_Return);
     EXPECT_EQ(child<QLabel>(*screen, "lblFigures")->text(),
-              u"Last cost from this vendor: 4.20, on 14 Mar 26. Enter takes it.");
+              u"Enter takes it. Last cost from this vendor: 4.20, on 14 Mar 26");
     type("3.5<Return>");
     EXPECT_EQ(cursorOf(*grid), u"1,0");
     EXPECT_EQ(child<QLabel>(*screen, "lblLinesTotal")->text(), u"17.50 Home");

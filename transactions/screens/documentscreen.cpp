@@ -190,10 +190,12 @@ std::optional<LineOffer> DocumentScreen::offerFor(const QString &column) const
 void DocumentScreen::addPopupCommands()
 {
     m_grid->setContextMenuPolicy(Qt::ActionsContextMenu);
-    addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert),
-                    [this] { m_grid->appendLine(); });
-    addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete),
-                    [this] { m_grid->removeLine(); });
+    setGlyph(*addPopupCommand(u"mnuNewLine"_s, tr("New"), QKeySequence(Qt::CTRL | Qt::Key_Insert),
+                              [this] { m_grid->appendLine(); }),
+             Glyph::New);
+    setGlyph(*addPopupCommand(u"mnuDeleteLine"_s, tr("Delete"), QKeySequence(Qt::CTRL | Qt::Key_Delete),
+                              [this] { m_grid->removeLine(); }),
+             Glyph::Delete);
     m_undo = addPopupCommand(u"mnuUndoDelete"_s, tr("Undo Delete"), QKeySequence(Qt::CTRL | Qt::Key_Z),
                              [this] { putLineBack(); });
     addPasteRows();
@@ -219,6 +221,7 @@ void DocumentScreen::addPasteRows()
 {
     m_paste = addPopupCommand(u"mnuPasteRows"_s, tr("Paste Rows..."),
                               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), [this] { pasteRows(); });
+    setGlyph(*m_paste, Glyph::Copy);
     m_paste->setShortcutContext(Qt::WindowShortcut);
     auto *cells = new QShortcut(QKeySequence::Paste, m_grid);
     cells->setContext(Qt::WidgetWithChildrenShortcut);
@@ -302,7 +305,7 @@ QString DocumentScreen::note() const
     const QModelIndex cell = m_grid->currentIndex();
     const QString column = cell.isValid() ? m_grid->columns()[cell.column()].field : QString();
     if (const std::optional<DocumentEntry::Offer> offer = m_entry->offerFor(column))
-        return tr("%1. Enter takes it.").arg(offer->origin);
+        return tr("Enter takes it. %1").arg(offer->origin); // what is cut off where there is little room comes last
     const QString taken = m_entry->takenOut();
     return taken.isEmpty() ? QString() : tr("Ctrl+Z puts back: %1").arg(taken);
 }
