@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -37,7 +38,6 @@ FinderBox::FinderBox(QWidget &mainWindow, const Guard &guard)
 {
     setObjectName(u"boxFind"_s);
     setWindowTitle(tr("Find Anything"));
-    setFrameShape(QFrame::StyledPanel);
     m_text->setObjectName(u"editFind"_s);
     m_text->setAccessibleName(tr("Find"));
     m_text->setPlaceholderText(tr("Number or any part of a name"));
@@ -83,6 +83,14 @@ void FinderBox::openOver(const QWidget &window)
     show();
     activateWindow();
     m_text->setFocus();
+}
+
+// It lies over windows of the same ground, without a title bar or a shadow of its own.
+void FinderBox::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setPen(Look(palette()).on(palette().color(QPalette::Window), Look::Role::Accent));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void FinderBox::hideEvent(QHideEvent *event)
