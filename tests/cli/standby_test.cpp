@@ -210,8 +210,11 @@ TEST_F(Standby, TheCommandLineReadsFromItAndSaysSo)
 TEST_F(Standby, OneThatHasBeenPromotedIsNoneAnyMore)
 {
     Database reading(user->database, user->database.connection().openReading(user->database));
+    Database renewed(user->database, user->database.connection().openReading(user->database));
     EXPECT_EQ(rowsOf(reading, recovers), QStringList{u"standby"_s});
-    admin->database.connection().execute(u"SELECT pg_promote()"_s);
+    rowsOf(admin->database, u"SELECT pg_promote()"_s);
+    renewed.connection().renewReading();
+    EXPECT_EQ(renewed.connection().origin().reason, Reason::NoneThere) << "though it has all that the primary has";
     save(u"beans"_s);
     EXPECT_EQ(foundBy(reading), u"apples beans"_s);
     EXPECT_EQ(found(), u"primary apples beans"_s);
