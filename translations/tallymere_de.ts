@@ -149,6 +149,30 @@ Für Vorschau und Druck von Berichten muss ein Drucker festgelegt, aber nicht un
         <source>Row %1: the text in %2 is longer than a cell can hold (%3 characters). Save as CSV instead.</source>
         <translation>Zeile %1: Der Text in %2 ist länger, als eine Zelle aufnehmen kann (%3 Zeichen). Speichern Sie stattdessen als CSV.</translation>
     </message>
+    <message>
+        <source>As of %1, from the primary server: the standby server is too far behind</source>
+        <translation>Stand %1, vom Hauptserver: Der Bereitschaftsserver liegt zu weit zurück</translation>
+    </message>
+    <message>
+        <source>As of %1, from the primary server: the standby server has ended the reading</source>
+        <translation>Stand %1, vom Hauptserver: Der Bereitschaftsserver hat das Lesen beendet</translation>
+    </message>
+    <message>
+        <source>As of %1, from the primary server: there is no standby server to read from</source>
+        <translation>Stand %1, vom Hauptserver: Es gibt keinen Bereitschaftsserver, von dem gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>As of %1, from the standby server %2</source>
+        <translation>Stand %1, vom Bereitschaftsserver %2</translation>
+    </message>
+    <message>
+        <source>As of %1, %n second behind, from the standby server %2</source>
+        <translation>Stand %1, %n Sekunde zurück, vom Bereitschaftsserver %2</translation>
+    </message>
+    <message>
+        <source>As of %1, %n seconds behind, from the standby server %2</source>
+        <translation>Stand %1, %n Sekunden zurück, vom Bereitschaftsserver %2</translation>
+    </message>
 </context>
 <context>
     <name>Books</name>
@@ -1838,6 +1862,10 @@ Lassen Sie alle das Programm schließen, und versuchen Sie es erneut. Wenn das n
     <message>
         <source>The connection was lost while %1 was being saved. Save it again.</source>
         <translation>Die Verbindung ging verloren, während %1 gespeichert wurde. Speichern Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 is being written to by another user (%2). Try again in a moment.</source>
+        <translation>In %1 schreibt gerade ein anderer Benutzer (%2). Versuchen Sie es gleich noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -4593,10 +4621,6 @@ Die Salden des Hauptbuchs usw. wurden vorgetragen, sodass Sie jetzt die Abschlü
         <translation>S&amp;tornieren...</translation>
     </message>
     <message>
-        <source>%1. Enter takes it.</source>
-        <translation>%1. Die Eingabetaste übernimmt den Wert.</translation>
-    </message>
-    <message>
         <source>Item Card</source>
         <translation>Artikelkarte</translation>
     </message>
@@ -4615,6 +4639,10 @@ Die Salden des Hauptbuchs usw. wurden vorgetragen, sodass Sie jetzt die Abschlü
     <message>
         <source>%1 goes below zero at this location</source>
         <translation>%1 fällt an diesem Lagerort unter null</translation>
+    </message>
+    <message>
+        <source>Enter takes it. %1</source>
+        <translation>Die Eingabetaste übernimmt ihn. %1</translation>
     </message>
 </context>
 <context>
@@ -5736,6 +5764,14 @@ Wieder aufgenommen sind sie andere Bücher als die dort: Was in den einen erfass
     <message>
         <source>The books in %1 can be changed again.</source>
         <translation>Die Bücher in %1 lassen sich wieder ändern.</translation>
+    </message>
+    <message>
+        <source>Reports, totals, history, what to buy and the check of the books, from the next start on; what you have saved is always there</source>
+        <translation>Berichte, Bestände, Verlauf, Einkaufsvorschlag und die Prüfung der Bücher, vom nächsten Start an; was Sie gespeichert haben, ist immer dabei</translation>
+    </message>
+    <message>
+        <source>&amp;Read reports from a standby server</source>
+        <translation>&amp;Berichte von einem Bereitschaftsserver lesen</translation>
     </message>
 </context>
 <context>

@@ -149,6 +149,30 @@ Para ver o imprimir informes debe haber una impresora definida, aunque no es nec
         <source>Row %1: the text in %2 is longer than a cell can hold (%3 characters). Save as CSV instead.</source>
         <translation>Guarde como CSV: en la fila %1, el texto de %2 es más largo de lo que admite una celda (%3 caracteres).</translation>
     </message>
+    <message>
+        <source>As of %1, from the primary server: the standby server is too far behind</source>
+        <translation>Datos de %1, del servidor principal: el servidor de reserva va demasiado retrasado</translation>
+    </message>
+    <message>
+        <source>As of %1, from the primary server: the standby server has ended the reading</source>
+        <translation>Datos de %1, del servidor principal: el servidor de reserva ha terminado la lectura</translation>
+    </message>
+    <message>
+        <source>As of %1, from the primary server: there is no standby server to read from</source>
+        <translation>Datos de %1, del servidor principal: no hay ningún servidor de reserva del que leer</translation>
+    </message>
+    <message>
+        <source>As of %1, from the standby server %2</source>
+        <translation>Datos de %1, del servidor de reserva %2</translation>
+    </message>
+    <message>
+        <source>As of %1, %n second behind, from the standby server %2</source>
+        <translation>Datos de %1, con %n segundo de retraso, del servidor de reserva %2</translation>
+    </message>
+    <message>
+        <source>As of %1, %n seconds behind, from the standby server %2</source>
+        <translation>Datos de %1, con %n segundos de retraso, del servidor de reserva %2</translation>
+    </message>
 </context>
 <context>
     <name>Books</name>
@@ -1838,6 +1862,10 @@ Haga que todos cierren el programa e inténtelo de nuevo. Si no da resultado, re
     <message>
         <source>The connection was lost while %1 was being saved. Save it again.</source>
         <translation>La conexión se perdió mientras se guardaba %1. Guárdelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1 is being written to by another user (%2). Try again in a moment.</source>
+        <translation>Otro usuario (%2) está escribiendo en %1. Inténtelo de nuevo en un momento.</translation>
     </message>
 </context>
 <context>
@@ -4593,10 +4621,6 @@ Los saldos contables ya se han traspasado, etc., de modo que ahora puede imprimi
         <translation>Re&amp;vertir...</translation>
     </message>
     <message>
-        <source>%1. Enter takes it.</source>
-        <translation>%1. Intro lo acepta.</translation>
-    </message>
-    <message>
         <source>Item Card</source>
         <translation>Ficha de artículo</translation>
     </message>
@@ -4615,6 +4639,10 @@ Los saldos contables ya se han traspasado, etc., de modo que ahora puede imprimi
     <message>
         <source>%1 goes below zero at this location</source>
         <translation>%1 queda por debajo de cero en esta ubicación</translation>
+    </message>
+    <message>
+        <source>Enter takes it. %1</source>
+        <translation>Intro lo acepta. %1</translation>
     </message>
 </context>
 <context>
@@ -5736,6 +5764,14 @@ Retomados, son otros libros distintos de los de allí: lo que se introduce en un
     <message>
         <source>The books in %1 can be changed again.</source>
         <translation>Los libros de %1 se pueden volver a cambiar.</translation>
+    </message>
+    <message>
+        <source>Reports, totals, history, what to buy and the check of the books, from the next start on; what you have saved is always there</source>
+        <translation>Informes, totales, historial, qué comprar y la revisión de los libros, desde el próximo inicio; lo que ha guardado está siempre</translation>
+    </message>
+    <message>
+        <source>&amp;Read reports from a standby server</source>
+        <translation>&amp;Leer los informes de un servidor de reserva</translation>
     </message>
 </context>
 <context>
