@@ -3,7 +3,10 @@
 #include "controls/windows/look.h"
 #include "controls/windows/screenmetrics.h"
 
+#include <QCoreApplication>
+#include <QFocusEvent>
 #include <QPainter>
+#include <QStatusTipEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +35,8 @@ void FigureButton::setFigure(const QString &figure, Tone tone, const QString &de
     setAccessibleDescription(detail);
     setToolTip(detail);
     setStatusTip(detail);
+    if (hasFocus())
+        tell(detail);
     updateGeometry();
     update();
 }
@@ -68,6 +73,26 @@ void FigureButton::leaveEvent(QEvent *event)
 {
     QAbstractButton::leaveEvent(event);
     update();
+}
+
+// What the mouse shows over it, the keyboard shows as well: by whom, since when.
+void FigureButton::tell(const QString &tip)
+{
+    QStatusTipEvent told(tip);
+    QCoreApplication::sendEvent(this, &told);
+}
+
+void FigureButton::focusInEvent(QFocusEvent *event)
+{
+    QAbstractButton::focusInEvent(event);
+    tell(statusTip());
+}
+
+void FigureButton::focusOutEvent(QFocusEvent *event)
+{
+    QAbstractButton::focusOutEvent(event);
+    if (event->reason() != Qt::ActiveWindowFocusReason)
+        tell({});
 }
 
 void FigureButton::paintEvent(QPaintEvent *)

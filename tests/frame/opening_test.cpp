@@ -8,6 +8,7 @@
 #include "tests/support/screendriver.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QProgressBar>
 #include <QWindow>
 
@@ -317,6 +318,8 @@ TEST_F(OpeningTest, TodayTellsWhatWaitsEachTimeTheWindowComesToTheFrontAndOpensI
         EXPECT_EQ(usage.figure(), u"1"_s);
         EXPECT_EQ(usage.accessibleName(), u"Usage to post: 1"_s);
 
+        backup.setFocus();
+        EXPECT_EQ(form.findChild<QLabel *>(u"RzStatusPane1"_s)->text(), u"No backup of this database is known."_s);
         form.findChild<QPushButton *>(u"ButtonEditUsage"_s)->setFocus(); // the last that is enabled
         QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
         QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
