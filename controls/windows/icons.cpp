@@ -108,10 +108,11 @@ template <typename Shown> void show(Shown &shown, Glyph glyph, Place place)
 const QHash<QString, Glyph> &glyphsOfNames()
 {
     static const QHash<QString, Glyph> glyphs = {
-        {u"btnNew"_s, Glyph::New},         {u"btnEdit"_s, Glyph::Edit}, {u"btnDelete"_s, Glyph::Delete},
-        {u"btnPrint"_s, Glyph::Print},     {u"btnSave"_s, Glyph::Save}, {u"btnHelp"_s, Glyph::Help},
-        {u"btnSetup"_s, Glyph::Settings},  {u"Exit1"_s, Glyph::Close},  {u"HelpTopics1"_s, Glyph::Help},
-        {u"About1"_s, Glyph::Information},
+        {u"btnNew"_s, Glyph::New},         {u"btnEdit"_s, Glyph::Edit},       {u"btnDelete"_s, Glyph::Delete},
+        {u"btnPrint"_s, Glyph::Print},     {u"btnSave"_s, Glyph::Save},       {u"btnHelp"_s, Glyph::Help},
+        {u"btnSetup"_s, Glyph::Settings},  {u"Exit1"_s, Glyph::Close},        {u"HelpTopics1"_s, Glyph::Help},
+        {u"About1"_s, Glyph::Information}, {u"btnHistory"_s, Glyph::History}, {u"btnItems"_s, Glyph::Item},
+        {u"btnReceipt"_s, Glyph::Receive}, {u"btnWhy"_s, Glyph::Report},
     };
     return glyphs;
 }
