@@ -88,6 +88,15 @@ void CurveView::draw()
     paintLook();
 }
 
+int CurveView::roomOfFigures() const { return qRound(chart()->plotArea().left()) - chart()->margins().left(); }
+
+void CurveView::leaveForFigures(int room)
+{
+    const QMargins margins(std::max(0, room - roomOfFigures()), 0, 0, 0);
+    if (margins != chart()->margins())
+        chart()->setMargins(margins);
+}
+
 // Everything in the colours of the palette in force; the library's own themes know none.
 void CurveView::paintLook()
 {

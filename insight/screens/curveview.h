@@ -36,6 +36,10 @@ public:
     // In the order of their dates. The text is what is told of the whole to those who do not see it. The time that is shown
     // holds all of them; what a curve has come to goes on to its end.
     void setPoints(std::vector<CurvePoint> points, CurveTime time, const QString &whole);
+    // What the figures beside the curve take, in pixels, and what they are to leave free at least. Curves of one time below
+    // each other leave the same, or a day is not at the same place in both.
+    int roomOfFigures() const;
+    void leaveForFigures(int room);
     int currentPoint() const { return m_current; } // -1: none
 
 Q_SIGNALS:

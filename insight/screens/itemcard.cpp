@@ -131,6 +131,8 @@ void TfrmItemCard::layOut()
     layout->addLayout(sides, 1);
     layout->addLayout(buttons);
 
+    for (const CurveView *curve : {m_quantity, m_cost})
+        connect(curve->chart(), &QChart::plotAreaChanged, this, &TfrmItemCard::alignCurves);
     connectGuarded(m_why, &QPushButton::clicked, this, &TfrmItemCard::whyThisCost);
     connectGuarded(movements, &QPushButton::clicked, this, &TfrmItemCard::history);
     connectGuarded(items, &QPushButton::clicked, this, &TfrmItemCard::showInItems);
@@ -254,6 +256,13 @@ void TfrmItemCard::showCurves()
     m_quantity->setPoints(std::move(quantities), time, tr("%1 on hand").arg(quantity(m_card.onHand)));
     m_cost->setPoints(std::move(costs), time, m_card.trail.verdict());
     m_why->setEnabled(!m_card.trail.steps.empty());
+}
+
+void TfrmItemCard::alignCurves()
+{
+    const int room = std::max(m_quantity->roomOfFigures(), m_cost->roomOfFigures());
+    for (CurveView *curve : {m_quantity, m_cost})
+        curve->leaveForFigures(room);
 }
 
 void TfrmItemCard::openMovement(const ItemMovement &movement)

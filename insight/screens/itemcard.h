@@ -38,6 +38,7 @@ private:
     void showCard();
     void showFacts();
     void showCurves();
+    void alignCurves();
     std::vector<CurvePoint> quantityPoints();
     std::vector<CurvePoint> costPoints();
     void openMovement(const ItemMovement &movement);
