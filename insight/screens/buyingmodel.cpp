@@ -1,7 +1,6 @@
 #include "insight/screens/buyingmodel.h"
 
 #include "base/formats.h"
-#include "controls/grids/cellnote.h"
 #include "controls/windows/look.h"
 
 #include <algorithm>
@@ -156,14 +155,21 @@ QVariant BuyingModel::data(const QModelIndex &index, int role) const
     case Qt::FontRole:
         return index.column() == Quantity ? bold() : QVariant();
     case Qt::BackgroundRole: // the proposal beside it says the same
-        return index.column() == DaysLeft && m_list.isShort(item)
+        return noteOf(index.column(), item) == CellNote::Lacking
             ? QVariant(Look(QGuiApplication::palette()).colour(Look::Role::NoticeGround))
             : QVariant();
     case cellNoteRole:
-        return static_cast<int>(isNegative(row.item, index.column()) ? CellNote::Negative : CellNote::None);
+        return static_cast<int>(noteOf(index.column(), item));
     default:
         return {};
     }
+}
+
+CellNote BuyingModel::noteOf(int column, int item) const
+{
+    if (isNegative(m_list.row(item).item, column))
+        return CellNote::Negative;
+    return column == DaysLeft && m_list.isShort(item) ? CellNote::Lacking : CellNote::None;
 }
 
 QVariant BuyingModel::headerData(int section, Qt::Orientation orientation, int role) const

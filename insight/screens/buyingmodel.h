@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/gridcolumn.h"
+#include "controls/grids/cellnote.h"
 #include "insight/buyinglist.h"
 
 #include <QAbstractTableModel>
@@ -45,6 +46,7 @@ public:
 
 private:
     QVariant headingData(int row, int role) const;
+    CellNote noteOf(int column, int item) const;
 
     const BuyingList &m_list;
     const QList<GridColumn> m_columns = gridColumns();
