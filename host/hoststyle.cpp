@@ -35,6 +35,14 @@ bool isFilled(const QStyleOption &option)
         && option.state.testFlag(QStyle::State_Enabled);
 }
 
+// A link of a page is flat, and would not show that it has the keyboard.
+bool isFocusedLink(const QStyleOption &option)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    return button && button->features.testFlag(QStyleOptionButton::CommandLinkButton)
+        && option.state.testFlag(QStyle::State_HasFocus);
+}
+
 } // namespace
 
 HostStyle::HostStyle()
@@ -141,6 +149,8 @@ void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
 void HostStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                             const QWidget *widget) const
 {
+    if (element == CE_PushButtonBevel && isFocusedLink(*option))
+        return drawButton(*option, *painter);
     if (element != CE_PushButtonLabel || !isFilled(*option))
         return QProxyStyle::drawControl(element, option, painter, widget);
     QStyleOptionButton label = *qstyleoption_cast<const QStyleOptionButton *>(option);

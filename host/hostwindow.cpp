@@ -3,6 +3,8 @@
 #include "base/ruleerror.h"
 #include "base/settingsstore.h"
 #include "controls/screens/besidework.h"
+#include "controls/windows/icons.h"
+#include "controls/windows/screenmetrics.h"
 #include "host/aboutbox.h"
 #include "host/books/newbooks.h"
 #include "host/company.h"
@@ -18,6 +20,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <QTimer>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -65,6 +68,7 @@ HostWindow::HostWindow(SettingsStore &settings, QString user, QString moduleFile
     connectCompany(m_ui->actionSampleCompany, m_ui->linkSample, &HostWindow::trySampleCompany);
     connectCompany(m_ui->actionRestore, m_ui->linkRestore, &HostWindow::restoreBackup);
 
+    giveSigns();
     reload();
 }
 
@@ -172,10 +176,39 @@ void HostWindow::showLinks()
     m_ui->linkDataOptions->setEnabled(m_loader.isLoaded());
     m_ui->linkRestore->setEnabled(m_loader.isLoaded());
     m_ui->linkReloadModule->setText(m_ui->actionReloadModule->text());
-    for (auto *link : m_ui->centralwidget->findChildren<QCommandLinkButton *>()) {
-        link->setIcon({}); // the style's arrow says nothing
-        link->setMinimumHeight(link->sizeHint().height()); // their own leaves out what they say of themselves
+}
+
+// In place of the style's arrow, which is the same on each of them.
+void HostWindow::giveSigns()
+{
+    constexpr int size = 24; // design pixels
+    const std::tuple<QCommandLinkButton *, QAction *, Glyph> signs[] = {
+        {m_ui->linkNewCompany, m_ui->actionNewCompany, Glyph::New},
+        {m_ui->linkOpenCompany, m_ui->actionOpenCompany, Glyph::Organization},
+        {m_ui->linkSample, m_ui->actionSampleCompany, Glyph::Find},
+        {m_ui->linkRestore, m_ui->actionRestore, Glyph::Synchronize},
+        {m_ui->linkModule, nullptr, Glyph::Item},
+        {m_ui->linkDataOptions, m_ui->actionDataOptions, Glyph::Settings},
+        {m_ui->linkReloadModule, m_ui->actionReloadModule, Glyph::Refresh},
+        {m_ui->linkAbout, m_ui->actionAbout, Glyph::Information}};
+    for (const auto &[link, action, glyph] : signs) {
+        setGlyph(*link, glyph);
+        link->setIconSize({scaled(this, size), scaled(this, size)});
+        if (action)
+            setGlyph(*action, glyph);
     }
+    setGlyph(*m_ui->actionBackUp, Glyph::Save);
+    setGlyph(*m_ui->actionCheckBooks, Glyph::Post);
+    setGlyph(*m_ui->actionExit, Glyph::Close);
+}
+
+// The least heights of their own leave out what the links say of themselves, which takes more lines in a narrow window.
+void HostWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    const QMargins margins = m_ui->layoutPage->contentsMargins();
+    for (QWidget *link : m_ui->centralwidget->findChildren<QCommandLinkButton *>())
+        link->setMinimumHeight(link->heightForWidth(width() - margins.left() - margins.right()));
 }
 
 void HostWindow::editDataOptions()

@@ -43,8 +43,10 @@ public:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void giveSigns();
     bool isHeld() const; // a modal window stands over this one; it comes to the front
     void reload();
     void showCompany();
