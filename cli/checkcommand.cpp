@@ -1,5 +1,6 @@
 #include "base/plural.h"
 #include "base/ruleerror.h"
+#include "care/folderload.h"
 #include "care/repair.h"
 #include "cli/command.h"
 #include "cli/texts.h"
@@ -33,6 +34,13 @@ void tellLeft(CommandContext &context, int left)
     context.console.print(Texts::tr("Nothing is wrong."));
 }
 
+void tellLoad(CommandContext &context, Engine::Database &database)
+{
+    const std::optional<FolderLoad> load = FolderLoad::of(database);
+    if (load && load->isNearItsEnd())
+        context.console.print(load->text());
+}
+
 void runRepair(CommandContext &context, Engine::Database &database, const QString &user, const TellFinding &tell)
 {
     const QString backup = backupName(database);
@@ -57,7 +65,9 @@ void runCheck(CommandContext &context)
     if (context.arguments.has(u"repair"_s))
         return runRepair(context, data->databaseTallymere(), data->currentUser(), tell);
     ConsoleProgress progress(context.console, Texts::tr("Checking"));
-    tellLeft(context, checkBooks(data->databaseTallymere(), progress, tell, Engine::ReadFrom::Standby));
+    const int found = checkBooks(data->databaseTallymere(), progress, tell, Engine::ReadFrom::Standby);
+    tellLoad(context, data->databaseTallymere());
+    tellLeft(context, found);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "base/origintext.h"
 #include "base/plural.h"
 #include "base/ruleerror.h"
+#include "care/folderload.h"
 #include "care/repair.h"
 #include "care/screens/backupfile.h"
 #include "controls/screens/besidework.h"
@@ -80,16 +81,18 @@ void TfrmCheckBooks::check()
 {
     FindingsList found;
     QString origin;
+    std::optional<FolderLoad> load;
     workBeside(this, tr("Checking the books"), context().data.databaseTallymere(),
-               [&found, &origin](Engine::Database &database, Progress &progress) {
+               [&](Engine::Database &database, Progress &progress) {
                    const OriginNote note(database.session());
                    const TellFinding tell = [&found](const BookCheck &check, BookFinding finding) {
                        found.add(check, std::move(finding), FindingsList::After::Check);
                    };
                    checkBooks(database, progress, tell, Engine::ReadFrom::Standby);
                    origin = note.text();
+                   load = FolderLoad::of(database);
                });
-    showFindings(std::move(found), origin);
+    showFindings(std::move(found), load && load->isNearItsEnd() ? load->text() : origin); // a folder has no standby
     Q_EMIT checked();
 }
 

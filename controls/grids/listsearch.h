@@ -35,7 +35,7 @@ public:
     const QString &text() const { return m_text; } // empty: nothing is being searched for
     bool isFound() const { return m_found; }
     bool isLooking() const { return m_rows.isOn() && !m_found; } // through the rows of a long list
-    int percent() const { return m_rows.percent(); } // of them
+    int looked() const { return m_rows.looked(); } // at so many of them
 
 Q_SIGNALS:
     void changed();

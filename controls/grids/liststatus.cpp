@@ -110,13 +110,16 @@ void ListStatus::showSearch()
 {
     m_bar.clearMessage();
     const ListSearch &search = *m_grid.search();
+    const QLocale locale = Engine::userLocale().locale;
     m_search->setVisible(!search.text().isEmpty());
     if (search.text().isEmpty())
         m_search->clear();
     else if (search.isFound())
         m_search->setText(tr("Search: %1").arg(search.text()));
     else if (search.isLooking())
-        m_search->setText(tr("Search: %1 (looking, %2%)").arg(search.text()).arg(search.percent()));
+        m_search->setText(tr("Search: %1 (looking, row %2 of %3; Esc stops)")
+                              .arg(search.text(), locale.toString(search.looked()),
+                                   locale.toString(m_grid.tableModel()->rowCount())));
     else if (m_grid.tableModel()->dataSet().isFiltered())
         m_search->setText(tr("Search: %1 (not found in the filtered rows)").arg(search.text()));
     else

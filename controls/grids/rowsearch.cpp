@@ -29,6 +29,8 @@ int RowSearch::percent() const
     return rows > 0 ? static_cast<int>(100LL * (rows - m_left) / rows) : 100;
 }
 
+int RowSearch::looked() const { return m_model.rowCount() - m_left; }
+
 std::optional<int> RowSearch::step(qint64 milliseconds)
 {
     constexpr int rowsAtOnce = 256;

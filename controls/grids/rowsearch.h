@@ -27,6 +27,7 @@ public:
     void end() { m_left = 0; }
     bool isOn() const { return m_left > 0; }
     int percent() const; // of the rows that have been looked at
+    int looked() const; // at so many rows
     // Looks on for so long, and a little more. The row that has been found; the search is on until there are no more rows.
     std::optional<int> step(qint64 milliseconds);
 

@@ -3,10 +3,12 @@
 #include "base/ruleerror.h"
 #include "controls/windows/progressbox.h"
 #include "data/ownconnection.h"
+#include "engine/store/driver.h"
 
 #include <atomic>
 #include <exception>
 #include <memory>
+#include <mutex>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QThread>
@@ -46,17 +48,40 @@ private:
     std::atomic<bool> m_cancelled = false;
 };
 
+// What ends the statement that a thread waits for, for the thread of the screens.
+class StatementEnd
+{
+public:
+    void set(std::function<void()> end)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_end = std::move(end);
+    }
+    void operator()()
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_end)
+            m_end();
+    }
+
+private:
+    std::mutex m_mutex;
+    std::function<void()> m_end;
+};
+
 class BesideWork
 {
 public:
-    explicit BesideWork(const std::function<void(Progress &)> &work)
-        : m_thread(QThread::create([this, &work] {
+    explicit BesideWork(std::function<void(Progress &)> work, std::function<void()> onCancel = {})
+        : m_work(std::move(work))
+        , m_thread(QThread::create([this] {
             try {
-                work(m_told);
+                m_work(m_told);
             } catch (...) {
                 m_failure = std::current_exception();
             }
         }))
+        , m_onCancel(std::move(onCancel))
     {
         m_thread->start();
     }
@@ -80,10 +105,13 @@ public:
             } catch (const SilentAbort &) {
                 m_isCancelled = true;
                 m_told.cancel();
+                if (m_onCancel)
+                    m_onCancel();
             }
         }
     }
 
+    bool isCancelled() const { return m_isCancelled; }
     void rethrow() const
     {
         if (m_failure)
@@ -91,9 +119,11 @@ public:
     }
 
 private:
+    const std::function<void(Progress &)> m_work;
     ToldProgress m_told;
     std::exception_ptr m_failure;
     const std::unique_ptr<QThread> m_thread;
+    const std::function<void()> m_onCancel;
     bool m_isCancelled = false;
 };
 
@@ -112,6 +142,26 @@ void workBeside(QWidget *window, const QString &what, Engine::Database &database
 {
     OwnConnection own(database);
     workBeside(window, what, [&own, &work](Progress &progress) { work(own.database(), progress); });
+}
+
+void readBeside(QWidget *window, const QString &what, Engine::Database &database,
+                const std::function<void(Engine::Connection &)> &read)
+{
+    OwnConnection own(database);
+    StatementEnd end;
+    ProgressBox box(window, what);
+    BesideWork beside(
+        [&](Progress &told) {
+            Engine::Connection &connection = own.database().connection();
+            end.set(connection.interrupter());
+            told.step(); // it may have been cancelled before there was anything to end
+            read(connection);
+        },
+        [&end] { end(); });
+    beside.showIn(box);
+    if (beside.isCancelled())
+        throw SilentAbort();
+    beside.rethrow();
 }
 
 } // namespace Tallymere

@@ -7,8 +7,9 @@
 class QWidget;
 
 namespace Engine {
+class Connection;
 class Database;
-}
+} // namespace Engine
 
 namespace Tallymere {
 
@@ -20,5 +21,9 @@ void workBeside(QWidget *window, const QString &what, const std::function<void(P
 // The same with a connection of its own to the database.
 void workBeside(QWidget *window, const QString &what, Engine::Database &database,
                 const std::function<void(Engine::Database &, Progress &)> &work);
+
+// Reads only: nobody knows how long it takes, and Cancel ends the statement under way.
+void readBeside(QWidget *window, const QString &what, Engine::Database &database,
+                const std::function<void(Engine::Connection &)> &read);
 
 } // namespace Tallymere

@@ -3,6 +3,7 @@
 #include "controls/grids/listsort.h"
 #include "controls/grids/liststatus.h"
 #include "controls/grids/windowmemory.h"
+#include "controls/screens/besidework.h"
 #include "controls/screens/keptfiltermenu.h"
 #include "controls/screens/listoutput.h"
 #include "controls/windows/filterchip.h"
@@ -62,6 +63,9 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
     layOut();
 
     m_grid->setDataSet(set, description.columns, m_guard);
+    set.onLongRead([this](const Engine::DataSet::ReadOver &read) {
+        readBeside(this, tr("Reading the rows of the list"), m_data->database(), read);
+    });
     m_grid->allowSelection();
     m_status = new ListStatus(*m_grid, *statusBar());
     m_output = new ListOutput(m_context, *this, *m_grid, *m_status);

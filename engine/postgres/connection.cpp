@@ -8,6 +8,8 @@
 #include "engine/store/database.h"
 #include "engine/store/session.h"
 
+#include <libpq-fe.h>
+
 using namespace Qt::StringLiterals;
 
 namespace Engine {
@@ -104,6 +106,16 @@ void PostgresConnection::rollback() noexcept
     m_link->rollback();
     m_locks->releaseDeferred();
     m_locks->transactionEnded();
+}
+
+std::function<void()> PostgresConnection::interrupter()
+{
+    const std::shared_ptr<PGcancel> session(PQgetCancel(m_link->handle()), PQfreeCancel);
+    return [session] {
+        char failure[256]; // which nobody asks for: then the statement ends by itself
+        if (session)
+            PQcancel(session.get(), failure, sizeof failure);
+    };
 }
 
 // A moment cannot be tried again for the sake of one statement, so that one waits for as long as would be tried.

@@ -28,6 +28,7 @@ public:
     void commit() override;
     void rollback() noexcept override;
     bool inTransaction() const override { return m_link->inTransaction(); }
+    std::function<void()> interrupter() override;
     std::unique_ptr<Connection> openMoment(const Database &database, ReadFrom from) override;
     std::unique_ptr<Connection> openReading(const Database &database) override;
     void renewReading() override;

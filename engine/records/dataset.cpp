@@ -266,11 +266,12 @@ void DataSet::setFilter(const QString &expression)
         beforeMove();
         DataSetReader(*this).condition(parsed);
     }
-    m_filter = expression;
-    if (!m_open || !m_filtered)
-        return;
-    invalidate(Place::First);
-    emitListChanged();
+    QScopedValueRollback filter(m_filter, expression);
+    const bool changes = m_open && m_filtered;
+    std::optional<KeyList> keys = changes ? readAhead() : std::nullopt;
+    filter.commit();
+    if (changes)
+        takeAnew(Place::First, std::move(keys));
 }
 
 void DataSet::setFiltered(bool on)
@@ -284,11 +285,11 @@ void DataSet::setFiltered(bool on)
     if (m_open && on)
         DataSetReader(*this).condition(
             FilterExpression(m_filter)); // it may have been set before the fields were known
-    m_filtered = on;
-    if (!m_open)
-        return;
-    invalidate(Place::First);
-    emitListChanged();
+    QScopedValueRollback filtered(m_filtered, on);
+    std::optional<KeyList> keys = m_open ? readAhead() : std::nullopt;
+    filtered.commit();
+    if (m_open)
+        takeAnew(Place::First, std::move(keys));
 }
 
 bool DataSet::canSortBy(int field) const
@@ -318,16 +319,32 @@ void DataSet::setSorting(const Sorting &sorting)
         raise(ErrorCode::WrongState,
               Texts::tr("The rows cannot be sorted by %1.").arg(field(sorting.field).caption()));
     beforeMove();
-    m_sorting = sorting;
-    invalidate(Place::Keep);
-    emitListChanged();
+    QScopedValueRollback sorted(m_sorting, sorting);
+    std::optional<KeyList> keys = readAhead();
+    sorted.commit();
+    takeAnew(Place::Keep, std::move(keys));
 }
 
 void DataSet::refresh()
 {
     requireOpen();
     beforeMove();
-    invalidate(Place::Keep);
+    takeAnew(Place::Keep, readAhead());
+}
+
+void DataSet::onLongRead(std::function<void(const ReadOver &)> aside, int longFrom)
+{
+    d->aside = std::move(aside);
+    d->longFrom = longFrom;
+}
+
+std::optional<KeyList> DataSet::readAhead() const { return DataSetReader(*this).readAhead(); }
+
+void DataSet::takeAnew(Place place, std::optional<KeyList> keys)
+{
+    invalidate(place);
+    if (keys)
+        DataSetReader(*this).take(std::move(*keys));
     emitListChanged();
 }
 

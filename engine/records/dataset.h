@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/store/keylist.h"
 #include "engine/values/field.h"
 #include "engine/values/fieldname.h"
 #include "engine/values/value.h"
@@ -14,6 +15,7 @@
 
 namespace Engine {
 
+class Connection;
 class Database;
 struct SetScope;
 
@@ -150,6 +152,13 @@ public:
     // Called once, when a read finds the store damaged outside a transaction: mends it, and the read is done again.
     void onDamage(std::function<void()> mend);
 
+    // Where a long set is read when its order or filter changes, or anew: the function is given what reads it over another
+    // connection to the database, to be called once on whatever thread while this one does nothing with the set but show it. What
+    // it throws is thrown on, and the set stays as it was. A set is long from so many rows on.
+    using ReadOver = std::function<void(Connection &)>;
+    static constexpr int longSet = 100'000;
+    void onLongRead(std::function<void(const ReadOver &)> aside, int longFrom = longSet);
+
     // Reads the set anew and stays on the current row; when that is gone, on the one that took its place. An edit in
     // progress is ended first.
     virtual void refresh();
@@ -177,6 +186,9 @@ protected:
     // The list is read again when it is needed. The record stays current, or the first becomes current.
     enum class Place { Keep, First };
     void invalidate(Place place);
+    void takeAnew(Place place, std::optional<KeyList> keys); // as readAhead() has them, or to be read when needed
+    std::optional<KeyList>
+    readAhead() const; // of the order and filter that are set; none where it is read when needed
     void emitListChanged(); // with currentChanged, for a set that is new as a whole
     Value lookedUp(const Field &field, const Value &key) const;
     // find() and locate() over the given fields.

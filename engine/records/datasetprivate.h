@@ -22,6 +22,10 @@ struct DataSet::Private
     DataSet &set; // itself, for what reading has to announce
     std::optional<RowSource> source; // of the scope in force
     std::function<void()> mend;
+    std::function<void(const ReadOver &)> aside; // reads a long set; see onLongRead()
+    int longFrom = longSet;
+    int mostRows = 0; // that it has had, with whatever filter
+    bool isReadAside = false;
     SetKeys keys;
     bool keysRead = false;
     WindowCache windows;
@@ -80,6 +84,8 @@ public:
         return std::invoke(method, source(), arguments...);
     }
     void readKeys() const; // all of them, or how many there are
+    std::optional<KeyList> readAhead() const; // aside, where that pays
+    void take(KeyList keys) const; // all of them
     Key keyAt(int index) const; // of an index of the set
     int indexOf(const Key &key) const; // -1 when the set was read without it
     void resolve() const; // makes the current record known, or the set known to be empty
@@ -90,7 +96,10 @@ public:
     const Row &currentRow() const;
 
 private:
-    QList<OrderTerm> sortTerms(const Dialect &dialect) const; // of what comes before the set's own order
+    SetScope scope() const; // with filter and sorting
+    QList<OrderTerm> sortTerms(SetScope &scope) const; // of what comes before the set's own order
+    std::optional<QString> joined(SetScope &scope, const Field &field) const; // a looked-up field as a column
+    void settleKeys() const;
     bool mended(const EngineError &error) const;
     void findInKeys() const;
     void readPart(int index) const; // so that the key of the index is in hand

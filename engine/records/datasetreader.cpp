@@ -3,6 +3,9 @@
 #include "engine/store/dialect.h"
 
 #include <algorithm>
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
 
 namespace Engine {
 
@@ -27,29 +30,56 @@ RowSource &DataSetReader::source() const
 
 RowSource DataSetReader::sourceOn(Connection &connection) const
 {
+    return RowSource(connection, scope(), m_set.m_fields);
+}
+
+SetScope DataSetReader::scope() const
+{
     SetScope scope = m_set.scope();
     if (m_set.m_filtered)
         scope.condition += condition(FilterExpression(m_set.m_filter));
-    const QList<OrderTerm> sorted = sortTerms(connection.dialect());
+    const QList<OrderTerm> sorted = sortTerms(scope);
     scope.order = sorted + scope.order;
     scope.inParts = scope.inParts && sorted.isEmpty() && scope.condition.isEmpty();
-    return RowSource(connection, std::move(scope), m_set.m_fields);
+    return scope;
 }
 
-QList<OrderTerm> DataSetReader::sortTerms(const Dialect &dialect) const
+QList<OrderTerm> DataSetReader::sortTerms(SetScope &scope) const
 {
     const Sorting &sorting = m_set.m_sorting;
     if (sorting.field.isEmpty())
         return {};
     const Field &shown = m_set.field(sorting.field);
     const QString names = shown.kind == FieldKind::Calculated ? shown.sortedBy : shown.name;
+    const Dialect &dialect = m_set.m_database.connection().dialect();
     QList<OrderTerm> terms;
     for (const QString &name : names.split(u';', Qt::SkipEmptyParts)) {
         const Field &field = m_set.field(name);
         const bool folded = isText(field.type) && !m_set.isCaseSorted(field);
-        terms.append({{columnOf(dialect, field), folded}, sorting.descending});
+        const std::optional<QString> column = joined(scope, field);
+        terms.append({{column ? *column : columnOf(dialect, field), folded}, sorting.descending});
     }
     return terms;
+}
+
+// Sorting asks for the field of every row, for which a server has better ways than a look-up for each; a file has not. Only
+// where the join can find no more than one row.
+std::optional<QString> DataSetReader::joined(SetScope &scope, const Field &field) const
+{
+    if (field.kind != FieldKind::Lookup)
+        return std::nullopt;
+    const Lookup &lookup = field.lookup;
+    Connection &connection = m_set.m_database.connection();
+    const Dialect &dialect = connection.dialect();
+    const QString join = dialect.variant(
+        {},
+        u" LEFT OUTER JOIN %1 s ON s.%2 = t.%3"_s.arg(dialect.name(lookup.table), dialect.name(lookup.tableKey),
+                                                      dialect.name(lookup.keyField)));
+    const std::optional<TableLayout> layout = join.isEmpty() ? std::nullopt : connection.layoutOf(lookup.table);
+    if (!layout || layout->primaryFields().join(u';').compare(lookup.tableKey, Qt::CaseInsensitive) != 0)
+        return std::nullopt;
+    scope.source += join;
+    return "s."_L1 + dialect.name(lookup.resultField);
 }
 
 bool DataSetReader::mended(const EngineError &error) const
@@ -58,6 +88,27 @@ bool DataSetReader::mended(const EngineError &error) const
         return false;
     std::exchange(d.mend, {})();
     return true;
+}
+
+std::optional<KeyList> DataSetReader::readAhead() const
+{
+    if (!d.aside || d.isReadAside || d.inMemory || d.mostRows < d.longFrom
+        || m_set.m_database.connection().inTransaction())
+        return std::nullopt;
+    const SetScope wanted = scope();
+    if (wanted.inParts)
+        return std::nullopt;
+    source(); // what is shown meanwhile is read as before
+    const QScopedValueRollback reading(d.isReadAside, true);
+    KeyList keys;
+    d.aside([&](Connection &connection) { keys = RowSource(connection, wanted, m_set.m_fields).keys(); });
+    return keys;
+}
+
+void DataSetReader::take(KeyList keys) const
+{
+    d.keys.takeAll(std::move(keys));
+    settleKeys();
 }
 
 void DataSetReader::readKeys() const
@@ -74,7 +125,13 @@ void DataSetReader::readKeys() const
     } else {
         d.keys.takeAll(read(&RowSource::keys));
     }
+    settleKeys();
+}
+
+void DataSetReader::settleKeys() const
+{
     d.keysRead = true;
+    d.mostRows = std::max(d.mostRows, d.keys.count());
     d.windows.clear();
     if (d.cursor.isEmpty() && d.keys.count() > 0)
         d.cursor.toFirst();

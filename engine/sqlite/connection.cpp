@@ -315,6 +315,13 @@ bool SqliteConnection::isWritingKeptOutByReading()
     return journal->next() && journal->textAt(0) != "wal"_L1;
 }
 
+std::function<void()> SqliteConnection::interrupter()
+{
+    return [db = handle()] { sqlite3_interrupt(db); };
+}
+
+std::optional<int> SqliteConnection::writingPrograms() { return m_locks->programs(); }
+
 bool SqliteConnection::isAwaited() { return m_locks->isAwaited(); }
 
 bool SqliteConnection::inTransaction() const { return sqlite3_get_autocommit(handle()) == 0; }

@@ -37,6 +37,8 @@ public:
     std::unique_ptr<Connection> openMoment(const Database &database, ReadFrom from) override;
     bool isWritingKeptOutByReading() override;
     bool isAwaited() override;
+    std::optional<int> writingPrograms() override;
+    std::function<void()> interrupter() override;
     std::optional<TableLayout> describe(const QString &table) override;
     QStringList tables() override;
     qint64 size() override;

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <QCoreApplication>
 #include <QScopeGuard>
+#include <QSet>
 #include <QStringList>
 #include <QSysInfo>
 #include <thread>
@@ -223,13 +224,14 @@ void FileLocks::holdingMemo(const std::function<void()> &step)
 }
 
 // Of the connections that are there still.
-QList<QStringList> FileLocks::notesOfOthers() const
+QList<QStringList> FileLocks::notesOfOthers(Notes which) const
 {
     QList<QStringList> found;
     const QByteArray notes = m_file->read(0, qint64(noteCount) * noteSize);
     for (qint64 note = 0; note * noteSize < notes.size(); ++note) {
         const QStringList parts = QString::fromUtf8(notes.mid(note * noteSize, noteSize)).trimmed().split(u'\t');
-        if (note != m_note && parts.size() > 3 && m_file->isLockedByOthers(noteLocks + note, 1))
+        const bool isWanted = parts.size() > 3 || (which == Notes::All && parts.size() == 3);
+        if (note != m_note && isWanted && m_file->isLockedByOthers(noteLocks + note, 1))
             found << parts;
     }
     return found;
@@ -248,6 +250,22 @@ std::optional<LockOwner> FileLocks::ownerOf(const QString &table)
             return ownerFrom(note, u"@%1:"_s.arg(name));
     }
     return stranger(firstRecordByte(name), stretch - 1);
+}
+
+int FileLocks::programs() const
+{
+    if (!m_file)
+        return 0;
+    QSet<QString> programs;
+    const auto add = [&programs](const QString &host, const QString &process) {
+        programs.insert(host + u'/' + process);
+    };
+    if (m_note >= 0)
+        add(QSysInfo::machineHostName(), QString::number(QCoreApplication::applicationPid()));
+    const QList<QStringList> notes = notesOfOthers(Notes::All);
+    for (const QStringList &note : notes)
+        add(note[1], note[2]);
+    return static_cast<int>(programs.size());
 }
 
 std::optional<LockOwner> FileLocks::ownerOfRun() const

@@ -32,6 +32,7 @@ public:
     void waited() noexcept;
     bool isAwaited() const; // by somebody else
 
+    int programs() const; // that have left a note and are there still
     std::optional<LockOwner> ownerOfRun() const; // of somebody else who has a table for himself
 
     // What the users of the database remember about its files, a few words that outlive their programs. Empty when
@@ -55,7 +56,8 @@ private:
     bool tryRange(qint64 from, qint64 count, RangeLockFile::Mode mode);
     void freeRange(qint64 from, qint64 count);
     void takeNote() noexcept;
-    QList<QStringList> notesOfOthers() const;
+    enum class Notes { OfHolders, All };
+    QList<QStringList> notesOfOthers(Notes which = Notes::OfHolders) const;
     std::optional<LockOwner> stranger(qint64 from, qint64 count) const;
 
     std::unique_ptr<RangeLockFile> m_file;

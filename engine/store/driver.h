@@ -124,6 +124,12 @@ public:
     // Whether nobody can write while such a transaction lasts.
     virtual bool isWritingKeptOutByReading() { return false; }
 
+    // What ends the statement under way, which fails then; to be called on whatever thread while this connection lives.
+    virtual std::function<void()> interrupter() = 0;
+
+    // How many programs that have the store open have held a lock of a record or table since; nullopt where it does not tell.
+    virtual std::optional<int> writingPrograms() { return std::nullopt; }
+
     // Whether somebody else waits to write while a write transaction of this connection lasts, as far as the store tells: a
     // file takes one writer at a time.
     virtual bool isAwaited() { return false; }

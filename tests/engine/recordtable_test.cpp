@@ -76,6 +76,44 @@ TEST_P(RecordTest, SortsByAnyFieldBeforeItsOwnOrder)
     EXPECT_EQ(names(lines, u"Seq"_s), u"1 2 3 1 2 1"_s) << "by what is looked up";
 }
 
+TEST_P(RecordTest, ALongSetIsReadAsideOrStaysAsItWas)
+{
+    addVendors();
+    vendors.setIndex(u"SINCE"_s);
+    vendors.open();
+    const QString before = names(vendors, u"VendorID"_s);
+    int reads = 0;
+    bool isCancelled = true;
+    const auto user = store.anotherUser();
+    vendors.onLongRead(
+        [&](const DataSet::ReadOver &read) {
+            ++reads;
+            EXPECT_EQ(names(vendors, u"VendorID"_s), before) << "it shows what it did meanwhile";
+            if (isCancelled)
+                raise(ErrorCode::General, u"cancelled"_s);
+            read(user->database.connection());
+        },
+        2);
+    const std::function<void()> changes[] = {
+        [&] { vendors.setSorting({u"Balance"_s}); },
+        [&] { vendors.setFilter(u"VendorID > 2"_s), vendors.setFiltered(true); },
+        [&] { vendors.refresh(); },
+    };
+    for (const auto &change : changes) {
+        EXPECT_EQ(errorOf(change), ErrorCode::General);
+        EXPECT_EQ(names(vendors, u"VendorID"_s), before);
+        EXPECT_FALSE(vendors.isFiltered());
+    }
+    isCancelled = false;
+    reads = 0;
+    vendors.setSorting({u"Balance"_s});
+    EXPECT_EQ(names(vendors, u"VendorID"_s), u"3 2 5 1 4"_s);
+    EXPECT_EQ(reads, 1);
+    vendors.onLongRead([&](const DataSet::ReadOver &) { ADD_FAILURE() << "it is short"; }, 6);
+    vendors.setSorting({});
+    EXPECT_EQ(names(vendors, u"VendorID"_s), before);
+}
+
 TEST_P(RecordTest, LocatesTheFirstMatchInTheOrderOrStays)
 {
     addVendors();
