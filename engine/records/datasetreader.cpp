@@ -137,15 +137,25 @@ void DataSetReader::settleKeys() const
         d.cursor.toFirst();
 }
 
+// Each reading goes over the keys before it, so whoever walks through the set gets many parts at once.
 void DataSetReader::readPart(int index) const
 {
+    constexpr int partsOfAWalk = 16;
     readKeys();
     if (d.keys.hasInHand(index))
         return;
     const int start = SetKeys::partStart(index);
-    const int size = std::min(SetKeys::partSize, d.keys.count() - start);
-    d.keys.takePart(index,
-                    read(&RowSource::keysFrom, start, size, RowSource::Length{d.keys.count(), d.keys.lastKey()}));
+    const bool isWalk = start > 0 && d.keys.hasInHand(start - 1);
+    const int size = std::min((isWalk ? partsOfAWalk : 1) * SetKeys::partSize, d.keys.count() - start);
+    const KeyList found =
+        read(&RowSource::keysFrom, start, size, RowSource::Length{d.keys.count(), d.keys.lastKey()});
+    d.keys.makeRoom(partsOfAWalk);
+    for (int first = 0; first < size; first += SetKeys::partSize) {
+        KeyList part;
+        for (int i = first; i < std::min(first + SetKeys::partSize, found.count()); ++i)
+            part.append(found.at(i).front());
+        d.keys.takePart(start + first, std::move(part));
+    }
 }
 
 Key DataSetReader::keyAt(int index) const

@@ -18,10 +18,14 @@ void SetKeys::takeLength(int count, qint64 lastKey)
     m_lastKey = lastKey;
 }
 
+void SetKeys::makeRoom(size_t parts)
+{
+    if (m_parts.size() + parts > partsKept)
+        m_parts.clear();
+}
+
 void SetKeys::takePart(int index, KeyList part)
 {
-    if (m_parts.size() == partsKept)
-        m_parts.clear();
     const int start = partStart(index);
     while (part.count() < std::min(partSize, m_count - start))
         part.append(std::numeric_limits<qint64>::min());

@@ -17,6 +17,7 @@ public:
     void takeAll(KeyList keys);
     // Only so many rows are known, with keys up to the last; what comes later is not among them.
     void takeLength(int count, qint64 lastKey);
+    void makeRoom(size_t parts); // for so many, which stay in hand together
     void takePart(int index, KeyList part); // that the index lies in; what of it is missing has no row
 
     bool isWhole() const { return m_isWhole; }
