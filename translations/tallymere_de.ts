@@ -739,6 +739,10 @@ Für Vorschau und Druck von Berichten muss ein Drucker festgelegt, aber nicht un
         <source>The folder %1 could not be made: %2</source>
         <translation>Der Ordner %1 konnte nicht angelegt werden: %2</translation>
     </message>
+    <message>
+        <source>These books (movements: %1, programs that write: %2) will soon be too much for a folder. &quot;Copy Books To...&quot; in Data Options takes them to a server.</source>
+        <translation>Diese Bücher (Bewegungen: %1, schreibende Programme: %2) werden bald zu viel für einen Ordner. „Bücher kopieren nach...“ in den Datenoptionen bringt sie auf einen Server.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -5214,6 +5218,10 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
         <source>Save as XLSX...</source>
         <translation>Als XLSX speichern...</translation>
     </message>
+    <message>
+        <source>Reading the rows of the list</source>
+        <translation>Die Zeilen der Liste werden gelesen</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::ListStatus</name>
@@ -5246,16 +5254,16 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
         <translation>Suche: %1</translation>
     </message>
     <message>
-        <source>Search: %1 (looking, %2%)</source>
-        <translation>Suche: %1 (läuft, %2 %)</translation>
-    </message>
-    <message>
         <source>Search: %1 (not found in the filtered rows)</source>
         <translation>Suche: %1 (in den gefilterten Zeilen nicht gefunden)</translation>
     </message>
     <message>
         <source>Search: %1 (not found)</source>
         <translation>Suche: %1 (nicht gefunden)</translation>
+    </message>
+    <message>
+        <source>Search: %1 (looking, row %2 of %3; Esc stops)</source>
+        <translation>Suche: %1 (sucht, Zeile %2 von %3; Esc hält an)</translation>
     </message>
 </context>
 <context>
@@ -5771,7 +5779,7 @@ Wieder aufgenommen sind sie andere Bücher als die dort: Was in den einen erfass
     </message>
     <message>
         <source>&amp;Read reports from a standby server</source>
-        <translation>&amp;Berichte von einem Bereitschaftsserver lesen</translation>
+        <translation>Berichte &amp;vom Bereitschaftsserver lesen</translation>
     </message>
 </context>
 <context>

@@ -739,6 +739,10 @@ Para ver o imprimir informes debe haber una impresora definida, aunque no es nec
         <source>The folder %1 could not be made: %2</source>
         <translation>No se pudo crear la carpeta %1: %2</translation>
     </message>
+    <message>
+        <source>These books (movements: %1, programs that write: %2) will soon be too much for a folder. &quot;Copy Books To...&quot; in Data Options takes them to a server.</source>
+        <translation>Estos libros (movimientos: %1, programas que escriben: %2) serán pronto demasiado para una carpeta. «Copiar libros a...» en las opciones de datos los lleva a un servidor.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -5214,6 +5218,10 @@ Haga clic para volver a mostrar todos los registros.</translation>
         <source>Save as XLSX...</source>
         <translation>Guardar como XLSX...</translation>
     </message>
+    <message>
+        <source>Reading the rows of the list</source>
+        <translation>Leyendo las filas de la lista</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::ListStatus</name>
@@ -5246,16 +5254,16 @@ Haga clic para volver a mostrar todos los registros.</translation>
         <translation>Búsqueda: %1</translation>
     </message>
     <message>
-        <source>Search: %1 (looking, %2%)</source>
-        <translation>Búsqueda: %1 (buscando, %2%)</translation>
-    </message>
-    <message>
         <source>Search: %1 (not found in the filtered rows)</source>
         <translation>Búsqueda: %1 (no encontrado en las filas filtradas)</translation>
     </message>
     <message>
         <source>Search: %1 (not found)</source>
         <translation>Búsqueda: %1 (no encontrado)</translation>
+    </message>
+    <message>
+        <source>Search: %1 (looking, row %2 of %3; Esc stops)</source>
+        <translation>Búsqueda: %1 (buscando, fila %2 de %3; Esc detiene)</translation>
     </message>
 </context>
 <context>
@@ -5771,7 +5779,7 @@ Retomados, son otros libros distintos de los de allí: lo que se introduce en un
     </message>
     <message>
         <source>&amp;Read reports from a standby server</source>
-        <translation>&amp;Leer los informes de un servidor de reserva</translation>
+        <translation>Leer los informes de un servidor de re&amp;serva</translation>
     </message>
 </context>
 <context>
