@@ -45,7 +45,7 @@ bool CsvReader::readLine()
     }
     if (m_text.isEmpty()) {
         if (!m_device.atEnd())
-            throw CsvError(m_line + 1, m_device.errorString());
+            throw ReadFault(m_line + 1, m_device.errorString());
         return false;
     }
     ++m_line;
@@ -58,16 +58,16 @@ bool CsvReader::readLine()
     if (m_line == 1 && m_text.startsWith("\xEF\xBB\xBF"))
         m_text.remove(0, 3);
     if (!m_text.isValidUtf8())
-        throw CsvError(m_line, BaseTexts::tr("The text is not UTF-8. Save the file in UTF-8 and try again."));
+        throw ReadFault(m_line, BaseTexts::tr("The text is not UTF-8. Save the file in UTF-8 and try again."));
     if (m_text.contains('\0'))
-        throw CsvError(m_line, BaseTexts::tr("There is a zero byte in the text. This is no CSV file in UTF-8."));
+        throw ReadFault(m_line, BaseTexts::tr("There is a zero byte in the text. This is no CSV file in UTF-8."));
     return true;
 }
 
 void CsvReader::requireShort(const QByteArray &text, int line)
 {
     if (text.size() >= longestLine)
-        throw CsvError(line, BaseTexts::tr("There is a text here that is larger than any field takes."));
+        throw ReadFault(line, BaseTexts::tr("There is a text here that is larger than any field takes."));
 }
 
 void CsvReader::readRecord()
@@ -90,7 +90,7 @@ void CsvReader::readPlainField()
         end = m_text.size();
     const QByteArray field = m_text.mid(m_position, end - m_position);
     if (field.contains('"'))
-        throw CsvError(m_line, BaseTexts::tr("There is a quote inside a field that does not begin with one."));
+        throw ReadFault(m_line, BaseTexts::tr("There is a quote inside a field that does not begin with one."));
     appendField(field);
     m_position = end;
 }
@@ -107,7 +107,7 @@ void CsvReader::readQuotedField()
             field += '\n';
             requireShort(field, opened);
             if (!m_lineEnded || !readLine())
-                throw CsvError(opened, BaseTexts::tr("The quote that opens on this line never closes."));
+                throw ReadFault(opened, BaseTexts::tr("The quote that opens on this line never closes."));
             continue;
         }
         field += m_text.mid(m_position, quote - m_position);
@@ -115,7 +115,7 @@ void CsvReader::readQuotedField()
         if (m_position >= m_text.size() || m_text[m_position] == ',')
             break;
         if (m_text[m_position] != '"')
-            throw CsvError(m_line, BaseTexts::tr("There is text after a closing quote."));
+            throw ReadFault(m_line, BaseTexts::tr("There is text after a closing quote."));
         field += '"';
         ++m_position;
     }

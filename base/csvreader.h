@@ -1,6 +1,7 @@
 #pragma once
 
-#include <exception>
+#include "base/readfault.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -9,27 +10,6 @@ class QIODevice;
 
 namespace Tallymere {
 
-// What makes a file no CSV: wrong encoding, a quote that never closes. Reading cannot go on after it.
-class CsvError : public std::exception
-{
-public:
-    CsvError(int line, QString message)
-        : m_line(line)
-        , m_message(std::move(message))
-        , m_what(m_message.toUtf8())
-    {
-    }
-
-    int line() const { return m_line; }
-    const QString &message() const { return m_message; }
-    const char *what() const noexcept override { return m_what.constData(); }
-
-private:
-    int m_line;
-    QString m_message;
-    QByteArray m_what;
-};
-
 // Reads comma-separated records (RFC 4180) in UTF-8, with or without byte order mark, one at a time. Lines end with
 // CR LF or LF; lines without any character are passed over.
 class CsvReader
@@ -37,7 +17,7 @@ class CsvReader
 public:
     explicit CsvReader(QIODevice &device); // open for reading; not taken over
 
-    // The next record; false after the last one. Throws CsvError.
+    // The next record; false after the last one. Throws ReadFault.
     bool next();
 
     const QStringList &fields() const { return m_fields; }

@@ -22,6 +22,7 @@ enum class Glyph {
     New,
     Edit,
     Delete,
+    Reverse,
     Copy,
     Find,
     Filter,

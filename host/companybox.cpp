@@ -25,8 +25,7 @@ CompanyBox::CompanyBox(Purpose purpose, Prompts &prompts, QString user, QWidget 
     , m_ui(std::make_unique<Ui::CompanyBox>())
     , m_purpose(purpose)
     , m_user(std::move(user))
-    , m_guard(
-          prompts, [this](const QString &column) { return focusColumn(column); }, this)
+    , m_guard(prompts, Guard::editsOf(*this), this)
 {
     m_ui->setupUi(this);
     fillFormats();
@@ -100,14 +99,6 @@ void CompanyBox::chooseFolder()
         return;
     m_ui->editFolder->setText(QDir::toNativeSeparators(folder));
     m_ui->editFolder->setModified(true);
-}
-
-QWidget *CompanyBox::focusColumn(const QString &column)
-{
-    auto *widget = column.isEmpty() ? nullptr : findChild<QWidget *>(u"edit"_s + column);
-    if (widget)
-        widget->setFocus();
-    return widget;
 }
 
 QString CompanyBox::required(const QLineEdit &field, QStringView column, const QString &refusal) const

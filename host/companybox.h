@@ -43,7 +43,6 @@ private:
     Company lookAt(const BooksPlace &place);
     void openBooks(const Company &found, const BooksPlace &place);
     void makeNew(const Company &found, const BooksPlace &place);
-    QWidget *focusColumn(const QString &column);
 
     const std::unique_ptr<Ui::CompanyBox> m_ui;
     const Purpose m_purpose;

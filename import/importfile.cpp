@@ -189,7 +189,7 @@ std::vector<ImportDocument> readRows(ImportRows &reader, const ImportKind &kind,
             if (progress)
                 progress->step();
         }
-    } catch (const ImportFault &error) {
+    } catch (const ReadFault &error) {
         errors.add(error.line(), error.message());
     }
     return rows.takeDocuments();
@@ -204,7 +204,7 @@ std::vector<ImportDocument> readImportFile(QIODevice &file, const ImportKind &ki
         const std::unique_ptr<ImportRows> rows = openImportRows(file, choice);
         errors.setSheet(rows->sheet());
         return readRows(*rows, kind, errors, progress);
-    } catch (const ImportFault &fault) {
+    } catch (const ReadFault &fault) {
         errors.add(fault.line(), fault.message());
         return {};
     }

@@ -80,7 +80,7 @@ void ImportPlan::readColumns()
             m_sheets = rows->sheets();
         m_sheet = rows->sheet();
         readFirstRows(*rows);
-    } catch (const ImportFault &fault) {
+    } catch (const ReadFault &fault) {
         throw RuleError(ImportTexts::tr("%1, row %2: %3")
                             .arg(QDir::toNativeSeparators(m_fileName))
                             .arg(fault.line())
@@ -258,7 +258,7 @@ std::vector<ImportPlan::Row> ImportPlan::preview(const ImportErrors &errors, Pro
             if (shown.size() >= shownRows && (faults.isEmpty() || faulty >= shownFaults))
                 break;
         }
-    } catch (const ImportFault &) {
+    } catch (const ReadFault &) {
         // Is among the errors, whose row has not been reached.
     }
     // The row with the headings comes first, and is no row of its own unless something is wrong with it.

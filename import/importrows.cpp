@@ -27,15 +27,11 @@ public:
 
     bool next() override
     {
-        try {
-            while (m_reader.next()) {
-                if (m_reader.line() >= m_headRow)
-                    return true;
-            }
-            return false;
-        } catch (const CsvError &error) {
-            throw ImportFault(error.line(), error.message());
+        while (m_reader.next()) {
+            if (m_reader.line() >= m_headRow)
+                return true;
         }
+        return false;
     }
 
     const QStringList &fields() const override { return m_reader.fields(); }
@@ -85,7 +81,7 @@ private:
             m_fields.append(name);
         }
         if (m_fields.isEmpty())
-            throw ImportFault(line(), ImportTexts::tr("No column is taken."));
+            throw ReadFault(line(), ImportTexts::tr("No column is taken."));
     }
 
     // A row of another width than the names keeps it, so that it is refused.
@@ -110,14 +106,14 @@ std::unique_ptr<ImportRows> openPacked(QIODevice &file, const QString &sheet, in
 {
     QByteArray packed = file.read(largestFile + 1);
     if (packed.size() > largestFile)
-        throw ImportFault(
-            1, ImportTexts::tr("The file is larger than %1 MB.").arg(largestFile / (qint64(1024) * 1024)));
+        throw ReadFault(1,
+                        ImportTexts::tr("The file is larger than %1 MB.").arg(largestFile / (qint64(1024) * 1024)));
     auto archive = std::make_unique<ZipArchive>(std::move(packed));
     if (OdsRows::isOds(*archive))
         return std::make_unique<OdsRows>(std::move(archive), sheet, headRow);
     if (XlsxRows::isXlsx(*archive))
         return std::make_unique<XlsxRows>(std::move(archive), sheet, headRow);
-    throw ImportFault(1, ImportTexts::tr("The file is neither a spreadsheet (XLSX, ODS) nor CSV."));
+    throw ReadFault(1, ImportTexts::tr("The file is neither a spreadsheet (XLSX, ODS) nor CSV."));
 }
 
 std::unique_ptr<ImportRows> openRows(QIODevice &file, const QString &sheet, int headRow)
@@ -127,12 +123,11 @@ std::unique_ptr<ImportRows> openRows(QIODevice &file, const QString &sheet, int 
         return openPacked(file, sheet, headRow);
     // A compound file: a spreadsheet of an older format, or an encrypted one.
     if (beginning.startsWith("\xD0\xCF\x11\xE0"))
-        throw ImportFault(
-            1,
-            ImportTexts::tr("The file is a spreadsheet of an older format or protected by a password. "
-                            "Save it as XLSX, ODS or CSV without a password."));
+        throw ReadFault(1,
+                        ImportTexts::tr("The file is a spreadsheet of an older format or protected by a password. "
+                                        "Save it as XLSX, ODS or CSV without a password."));
     if (!sheet.isEmpty())
-        throw ImportFault(1, ImportTexts::tr("There is no sheet '%1' in a CSV file.").arg(Engine::excerpt(sheet)));
+        throw ReadFault(1, ImportTexts::tr("There is no sheet '%1' in a CSV file.").arg(Engine::excerpt(sheet)));
     return std::make_unique<CsvRows>(file, headRow);
 }
 

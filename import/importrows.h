@@ -1,36 +1,15 @@
 #pragma once
 
-#include <exception>
+#include "base/readfault.h"
+
 #include <memory>
 #include <optional>
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 class QIODevice;
 
 namespace Tallymere {
-
-// What ends the reading of a file: no row can be read after it.
-class ImportFault : public std::exception
-{
-public:
-    ImportFault(int line, QString message)
-        : m_line(line)
-        , m_message(std::move(message))
-        , m_what(m_message.toUtf8())
-    {
-    }
-
-    int line() const { return m_line; }
-    const QString &message() const { return m_message; }
-    const char *what() const noexcept override { return m_what.constData(); }
-
-private:
-    int m_line;
-    QString m_message;
-    QByteArray m_what;
-};
 
 // What of a file is brought in.
 struct ImportChoice
@@ -49,7 +28,7 @@ class ImportRows
 public:
     virtual ~ImportRows() = default;
 
-    // The next row; false after the last one. Throws ImportFault.
+    // The next row; false after the last one. Throws ReadFault.
     virtual bool next() = 0;
 
     virtual const QStringList &fields() const = 0;
@@ -64,7 +43,7 @@ public:
 };
 
 // Opens a file by what is in it, not by its name: a spreadsheet (XLSX, ODS), or else CSV. The device is open, is read from
-// its beginning and outlives what is returned. Throws ImportFault.
+// its beginning and outlives what is returned. Throws ReadFault.
 std::unique_ptr<ImportRows> openImportRows(QIODevice &file, const ImportChoice &choice = {});
 // The same with every row as it stands, however wide, for somebody to choose from.
 std::unique_ptr<ImportRows> openAllRows(QIODevice &file, const QString &sheet = {});

@@ -85,7 +85,7 @@ OdsRows::OdsRows(std::unique_ptr<ZipArchive> archive, const QString &sheet, int 
 void OdsRows::requireReadable()
 {
     if (archive().content(u"META-INF/manifest.xml"_s, 1'000'000).contains("encryption-data"))
-        throw ImportFault(1, ImportTexts::tr("The file is protected by a password. Save it without one."));
+        throw ReadFault(1, ImportTexts::tr("The file is protected by a password. Save it without one."));
 }
 
 // The names of all of them take reading the whole content, so that is done only when they are asked for.

@@ -22,15 +22,15 @@ bool PartReader::next()
     m_part->beginPiece();
     m_xml.readNext();
     if (!m_part->fault().isEmpty())
-        throw ImportFault(row, m_part->fault());
+        throw ReadFault(row, m_part->fault());
     // A document type can only serve to bring in what stands elsewhere, or to make little text long.
     if (m_xml.isDTD())
-        throw ImportFault(row, ImportTexts::tr("The file is no proper spreadsheet: it declares a document type."));
+        throw ReadFault(row, ImportTexts::tr("The file is no proper spreadsheet: it declares a document type."));
     if (m_xml.hasError())
-        throw ImportFault(row, ImportTexts::tr("The file is damaged: %1").arg(m_xml.errorString()));
+        throw ReadFault(row, ImportTexts::tr("The file is damaged: %1").arg(m_xml.errorString()));
     if (m_xml.isStartElement() && ++m_depth > deepest)
-        throw ImportFault(row,
-                          ImportTexts::tr("The file is no proper spreadsheet: its elements are nested too deep."));
+        throw ReadFault(row,
+                        ImportTexts::tr("The file is no proper spreadsheet: its elements are nested too deep."));
     if (m_xml.isEndElement())
         --m_depth;
     return !m_xml.atEnd();

@@ -7,7 +7,7 @@
 namespace Tallymere {
 
 // Goes through a part of a spreadsheet that is XML, element by element; names are told without their namespace. Nothing
-// outside the file is ever read. Throws ImportFault, for the row that has been reached.
+// outside the file is ever read. Throws ReadFault, for the row that has been reached.
 class PartReader
 {
 public:

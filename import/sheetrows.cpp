@@ -45,12 +45,12 @@ SheetRows::SheetRows(std::unique_ptr<ZipArchive> archive, int headRow)
 qsizetype SheetRows::choose(const QStringList &sheets, const QString &wanted)
 {
     if (sheets.isEmpty())
-        throw ImportFault(1, ImportTexts::tr("There is no sheet in the file."));
+        throw ReadFault(1, ImportTexts::tr("There is no sheet in the file."));
     const qsizetype found = wanted.isEmpty() ? 0 : sheets.indexOf(wanted);
     if (found < 0) {
-        throw ImportFault(1,
-                          ImportTexts::tr("There is no sheet '%1', but: %2")
-                              .arg(Engine::excerpt(wanted), sheets.mid(0, 20).join(", "_L1)));
+        throw ReadFault(1,
+                        ImportTexts::tr("There is no sheet '%1', but: %2")
+                            .arg(Engine::excerpt(wanted), sheets.mid(0, 20).join(", "_L1)));
     }
     m_sheet = sheets.at(found);
     return found;
@@ -79,10 +79,9 @@ void SheetRows::setCell(int column, const QString &text)
     if (text.isEmpty())
         return;
     if (m_row > mostRows)
-        throw ImportFault(mostRows, ImportTexts::tr("The sheet has more than %1 rows.").arg(inEnglish(mostRows)));
+        throw ReadFault(mostRows, ImportTexts::tr("The sheet has more than %1 rows.").arg(inEnglish(mostRows)));
     if (column >= mostColumns)
-        throw ImportFault(m_row,
-                          ImportTexts::tr("The sheet has more than %1 columns.").arg(inEnglish(mostColumns)));
+        throw ReadFault(m_row, ImportTexts::tr("The sheet has more than %1 columns.").arg(inEnglish(mostColumns)));
     if (m_width > 0 && column >= m_width) {
         if (m_surplus < 0)
             m_surplus = column;

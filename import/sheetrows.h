@@ -27,7 +27,7 @@ protected:
     virtual bool readRow() = 0;
 
     ZipArchive &archive() { return *m_archive; }
-    // The position of the sheet that is wanted, among those that there are. Throws ImportFault.
+    // The position of the sheet that is wanted, among those that there are. Throws ReadFault.
     qsizetype choose(const QStringList &sheets, const QString &wanted);
     void beginRow(int row);
     void setCell(int column, const QString &text); // from 0; an empty text is no cell

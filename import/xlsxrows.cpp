@@ -129,7 +129,7 @@ QString XlsxRows::sheetPart(const QString &wanted)
     const QString workbook =
         partOf(linksOf(archive(), u"_rels/.rels"_s, {}), u"officeDocument"_s, u"xl/workbook.xml"_s);
     if (!archive().has(workbook))
-        throw ImportFault(1, ImportTexts::tr("The file is neither a spreadsheet (XLSX, ODS) nor CSV."));
+        throw ReadFault(1, ImportTexts::tr("The file is neither a spreadsheet (XLSX, ODS) nor CSV."));
     const QHash<QString, Link> links = linksOf(archive(), u"xl/_rels/workbook.xml.rels"_s, rootFolder);
     m_textsPart = partOf(links, u"sharedStrings"_s, rootFolder + "sharedStrings.xml"_L1);
     m_stylesPart = partOf(links, u"styles"_s, rootFolder + "styles.xml"_L1);
@@ -162,9 +162,9 @@ void XlsxRows::readTexts()
         m_texts.push_back(itemText(part, u"si"));
         size += m_texts.back().size() + 8;
         if (size > mostShared)
-            throw ImportFault(1,
-                              ImportTexts::tr("The texts of the file are longer than %1 million characters.")
-                                  .arg(mostShared / 1'000'000));
+            throw ReadFault(1,
+                            ImportTexts::tr("The texts of the file are longer than %1 million characters.")
+                                .arg(mostShared / 1'000'000));
     }
 }
 
@@ -250,7 +250,7 @@ QString XlsxRows::textOf(const Cell &cell) const
     if (cell.type == "s"_L1) {
         const size_t index = cell.value->toULong();
         if (index >= m_texts.size())
-            throw ImportFault(line(), ImportTexts::tr("The file is damaged: a text is missing."));
+            throw ReadFault(line(), ImportTexts::tr("The file is damaged: a text is missing."));
         return m_texts[index];
     }
     if (cell.type == "b"_L1)

@@ -81,7 +81,7 @@ ZipArchive::ZipArchive(QByteArray packed)
     const QString reason = m_archive ? QString() : damaged(zip_error_strerror(&error));
     zip_error_fini(&error);
     if (!m_archive)
-        throw ImportFault(1, reason);
+        throw ReadFault(1, reason);
 }
 
 ZipArchive::~ZipArchive() { zip_discard(m_archive); }
@@ -95,7 +95,7 @@ std::unique_ptr<ZipPart> ZipArchive::open(const QString &name)
 {
     zip_file *file = zip_fopen(m_archive, name.toUtf8().constData(), ZIP_FL_NOCASE);
     if (!file)
-        throw ImportFault(1, damaged(zip_strerror(m_archive)));
+        throw ReadFault(1, damaged(zip_strerror(m_archive)));
     return std::make_unique<ZipPart>(file);
 }
 
@@ -106,7 +106,7 @@ QByteArray ZipArchive::content(const QString &name, qint64 most)
     const std::unique_ptr<ZipPart> part = open(name);
     QByteArray content = part->read(most);
     if (!part->fault().isEmpty())
-        throw ImportFault(1, part->fault());
+        throw ReadFault(1, part->fault());
     return content;
 }
 

@@ -43,7 +43,7 @@ private:
 };
 
 // A packed file in memory, of which no more is ever unpacked than a spreadsheet can be expected to hold, whatever it says
-// of its own size. Throws ImportFault.
+// of its own size. Throws ReadFault.
 class ZipArchive
 {
 public:

@@ -23,8 +23,7 @@ TfrmCopyBooks::TfrmCopyBooks(const SettingsStore &settings, Prompts &prompts, QS
     , m_settings(settings)
     , m_user(std::move(user))
     , m_from(std::move(from))
-    , m_guard(
-          prompts, [this](const QString &column) { return focusColumn(column); }, this)
+    , m_guard(prompts, Guard::editsOf(*this), this)
 {
     m_ui->setupUi(this);
     scaleForm(this);
@@ -62,14 +61,6 @@ void TfrmCopyBooks::chooseFolder()
         QFileDialog::getExistingDirectory(this, tr("Folder to Copy Into"), m_ui->editFolder->text());
     if (!folder.isEmpty())
         m_ui->editFolder->setText(QDir::toNativeSeparators(folder));
-}
-
-QWidget *TfrmCopyBooks::focusColumn(const QString &column)
-{
-    auto *widget = column.isEmpty() ? nullptr : findChild<QWidget *>(u"edit"_s + column);
-    if (widget)
-        widget->setFocus();
-    return widget;
 }
 
 BookAddress TfrmCopyBooks::target() const

@@ -31,7 +31,6 @@ private:
     void chooseFolder();
     void btnCopyClick();
     BookAddress target() const;
-    QWidget *focusColumn(const QString &column);
 
     const std::unique_ptr<::Ui::TfrmCopyBooks> m_ui;
     const SettingsStore &m_settings;

@@ -25,8 +25,7 @@ TfrmRestore::TfrmRestore(Prompts &prompts, QString user, QWidget *parent, Settin
     , m_ui(std::make_unique<Ui::TfrmRestore>())
     , m_user(std::move(user))
     , m_settings(settings)
-    , m_guard(
-          prompts, [this](const QString &column) { return focusColumn(column); }, this)
+    , m_guard(prompts, Guard::editsOf(*this), this)
 {
     m_ui->setupUi(this);
     scaleForm(this);
@@ -67,14 +66,6 @@ void TfrmRestore::chooseFolder()
         QFileDialog::getExistingDirectory(this, tr("Folder to Restore Into"), m_ui->editFolder->text());
     if (!folder.isEmpty())
         m_ui->editFolder->setText(QDir::toNativeSeparators(folder));
-}
-
-QWidget *TfrmRestore::focusColumn(const QString &column)
-{
-    auto *widget = column.isEmpty() ? nullptr : findChild<QWidget *>(u"edit"_s + column);
-    if (widget)
-        widget->setFocus();
-    return widget;
 }
 
 QString TfrmRestore::required(const QLineEdit &field, QStringView column, const QString &refusal) const

@@ -39,7 +39,6 @@ private:
     BooksPlace place() const; // what has been restored into
     QStringList restoreInFolder(const QString &file);
     QStringList restoreOnServer(const QString &file);
-    QWidget *focusColumn(const QString &column);
     QString required(const QLineEdit &field, QStringView column, const QString &refusal) const;
 
     const std::unique_ptr<::Ui::TfrmRestore> m_ui;

@@ -10,6 +10,8 @@
 #include <QLoggingCategory>
 #include <QScopedValueRollback>
 
+using namespace Qt::StringLiterals;
+
 namespace Tallymere {
 
 Q_LOGGING_CATEGORY(screens, "tallymere.screens", QtWarningMsg)
@@ -23,6 +25,16 @@ Guard::Guard(Prompts &prompts, Mover focusColumn, QWidget *window)
     , m_focusColumn(std::move(focusColumn))
     , m_window(window)
 {
+}
+
+Guard::Mover Guard::editsOf(QWidget &window)
+{
+    return [&window](const QString &column) {
+        auto *field = column.isEmpty() ? nullptr : window.findChild<QWidget *>(u"edit"_s + column);
+        if (field)
+            field->setFocus();
+        return field;
+    };
 }
 
 bool Guard::run(const std::function<void()> &handler) const

@@ -21,6 +21,8 @@ public:
     // Moves the focus to what shows a column, and says which widget that is; null where none does.
     using Mover = std::function<QWidget *(const QString &column)>;
 
+    static Mover editsOf(QWidget &window); // of the field of a window that is called "edit" and the column
+
     // Without a mover the focus stays. The window is the one that boxes come over while a handler runs.
     explicit Guard(Prompts &prompts, Mover focusColumn = {}, QWidget *window = nullptr);
 

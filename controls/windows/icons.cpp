@@ -29,11 +29,11 @@ constexpr double stroke = 1.4;
 
 // In the order of the signs.
 constexpr std::array files = {
-    "",         "receive",  "use",         "post",    "count",    "adjust",       "report",      "totals",
-    "history",  "item",     "itemcard",    "vendor",  "location", "organization", "records",     "new",
-    "edit",     "delete",   "copy",        "find",    "filter",   "refresh",      "synchronize", "print",
-    "save",     "settings", "help",        "close",   "first",    "previous",     "next",        "last",
-    "calendar", "monthend", "information", "warning", "error",
+    "",        "receive",  "use",      "post",        "count",    "adjust",       "report",   "totals",
+    "history", "item",     "itemcard", "vendor",      "location", "organization", "records",  "new",
+    "edit",    "delete",   "reverse",  "copy",        "find",     "filter",       "refresh",  "synchronize",
+    "print",   "save",     "settings", "help",        "close",    "first",        "previous", "next",
+    "last",    "calendar", "monthend", "information", "warning",  "error",
 };
 static_assert(files.size() == static_cast<size_t>(Glyph::Error) + 1);
 

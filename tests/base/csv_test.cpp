@@ -2,9 +2,9 @@
 #include "tests/support/files.h"
 
 using namespace Qt::StringLiterals;
-using Tallymere::CsvError;
 using Tallymere::CsvReader;
 using Tallymere::CsvWriter;
+using Tallymere::ReadFault;
 
 namespace {
 
@@ -18,7 +18,7 @@ QStringList read(QByteArray bytes)
     try {
         while (reader.next())
             records.append(QString::number(reader.line()) + ": "_L1 + reader.fields().join(u'|'));
-    } catch (const CsvError &error) {
+    } catch (const ReadFault &error) {
         records.append(u"%1! %2"_s.arg(error.line()).arg(error.message()));
     }
     return records;

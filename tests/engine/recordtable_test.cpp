@@ -1,11 +1,30 @@
 // Reading, finding and restricting a table.
 
+#include "engine/records/setkeys.h"
 #include "tests/engine/recordfixture.h"
 
 using namespace Engine;
 using namespace Qt::StringLiterals;
 
 ON_BOTH_STORES(RecordTest);
+
+// A walk reads some parts at once; one of them that another pushes out before it is looked at has no row.
+TEST(SetKeys, PartsThatAreReadTogetherStayInHandTogether)
+{
+    constexpr int walks = 9;
+    constexpr int partsOfOne = 16;
+    SetKeys keys;
+    keys.takeLength(walks * partsOfOne * SetKeys::partSize, 0);
+    for (int walk = 0; walk < walks; ++walk) {
+        keys.makeRoom(partsOfOne);
+        const int first = walk * partsOfOne * SetKeys::partSize;
+        for (int part = 0; part < partsOfOne; ++part)
+            keys.takePart(first + part * SetKeys::partSize, KeyList());
+        for (int part = 0; part < partsOfOne; ++part)
+            ASSERT_TRUE(keys.hasInHand(first + part * SetKeys::partSize + 1)) << walk << ", " << part;
+    }
+    EXPECT_FALSE(keys.hasInHand(0)) << "and not all that ever was read";
+}
 
 TEST_P(RecordTest, FollowsTheOrderOfAnIndexAndKeepsTheRecordWhenItChanges)
 {

@@ -68,7 +68,7 @@ QStringList rowsOf(QByteArray bytes, const QString &sheet = {}, int most = 20)
                 row += u" ! "_s + rows->fault();
             told.append(row);
         }
-    } catch (const ImportFault &fault) {
+    } catch (const ReadFault &fault) {
         told.append(u"%1 !! %2"_s.arg(fault.line()).arg(fault.message()));
     }
     return told;

@@ -50,6 +50,7 @@ ListDescription DocumentListScreen::description()
     records.commands.append({.name = u"mnuReverse"_s,
                              .caption = tr("&Reverse..."),
                              .run = [this] { mnuReverseClick(); },
+                             .glyph = Glyph::Reverse,
                              .available = [this] { return m_list.table().boolean(Fields::Posted); },
                              .popupCaption = tr("Reverse...")});
     const auto sort = [this](const ListOrder &order) {

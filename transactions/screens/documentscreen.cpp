@@ -198,6 +198,7 @@ void DocumentScreen::addPopupCommands()
              Glyph::Delete);
     m_undo = addPopupCommand(u"mnuUndoDelete"_s, tr("Undo Delete"), QKeySequence(Qt::CTRL | Qt::Key_Z),
                              [this] { putLineBack(); });
+    setGlyph(*m_undo, Glyph::Reverse);
     addPasteRows();
     addPassesKnown();
 }
