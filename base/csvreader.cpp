@@ -4,8 +4,11 @@
 #include "engine/values/storedtext.h"
 #include "engine/values/textsize.h"
 
+#include <algorithm>
 #include <array>
+#include <map>
 #include <QIODevice>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,9 +19,41 @@ namespace {
 constexpr qint64 longestLine = 16 * Engine::longestText;
 } // namespace
 
-CsvReader::CsvReader(QIODevice &device)
+CsvReader::CsvReader(QIODevice &device, char separator)
     : m_device(device)
+    , m_separator(separator)
 {
+}
+
+char CsvReader::separatorOf(QIODevice &device, int fromLine)
+{
+    constexpr QByteArrayView separators = ",;\t";
+    constexpr qint64 lookedAt = 65'536;
+    std::array<int, separators.size()> counts = {}; // on a line
+    std::array<std::map<int, int>, separators.size()> lines; // with so many of them
+    int line = 1;
+    bool quoted = false;
+    for (const char character : device.peek(lookedAt) + '\n') {
+        if (character == '"')
+            quoted = !quoted;
+        const qsizetype found = separators.indexOf(character);
+        if (found >= 0 && !quoted && line >= fromLine)
+            ++counts.at(static_cast<size_t>(found));
+        if (character != '\n')
+            continue;
+        ++line;
+        for (size_t i = 0; i < counts.size() && !quoted; ++i) {
+            if (const int count = std::exchange(counts.at(i), 0); count > 0)
+                ++lines.at(i)[count];
+        }
+    }
+    const auto evenness = [](const std::map<int, int> &found) {
+        int most = 0;
+        for (const auto &[count, times] : found)
+            most = std::max(most, times);
+        return most;
+    };
+    return separators.at(std::ranges::max_element(lines, {}, evenness) - lines.begin());
 }
 
 bool CsvReader::next()
@@ -79,13 +114,13 @@ void CsvReader::readRecord()
             readPlainField();
         if (m_position >= m_text.size())
             return;
-        ++m_position; // the comma
+        ++m_position; // the separator
     }
 }
 
 void CsvReader::readPlainField()
 {
-    qsizetype end = m_text.indexOf(',', m_position);
+    qsizetype end = m_text.indexOf(m_separator, m_position);
     if (end < 0)
         end = m_text.size();
     const QByteArray field = m_text.mid(m_position, end - m_position);
@@ -112,7 +147,7 @@ void CsvReader::readQuotedField()
         }
         field += m_text.mid(m_position, quote - m_position);
         m_position = quote + 1;
-        if (m_position >= m_text.size() || m_text[m_position] == ',')
+        if (m_position >= m_text.size() || m_text[m_position] == m_separator)
             break;
         if (m_text[m_position] != '"')
             throw ReadFault(m_line, BaseTexts::tr("There is text after a closing quote."));

@@ -15,7 +15,12 @@ namespace Tallymere {
 class CsvReader
 {
 public:
-    explicit CsvReader(QIODevice &device); // open for reading; not taken over
+    explicit CsvReader(QIODevice &device, char separator = ','); // open for reading; not taken over
+
+    // What separates the fields of a file that somebody's spreadsheet program has written, where that may be a semicolon or
+    // a tab: what stands as often on one line as on another, looked at from a line on. A comma where nothing tells. The
+    // device stays where it is.
+    static char separatorOf(QIODevice &device, int fromLine = 1);
 
     // The next record; false after the last one. Throws ReadFault.
     bool next();
@@ -32,6 +37,7 @@ private:
     void appendField(const QByteArray &bytes);
 
     QIODevice &m_device;
+    const char m_separator;
     QByteArray m_text; // the line in hand, without its end
     bool m_lineEnded = false; // it had an end
     qsizetype m_position = 0;

@@ -2,8 +2,11 @@
 #include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/csvinput.h"
+#include "cli/optionvalues.h"
 #include "cli/texts.h"
 #include "import/importer.h"
+
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +27,8 @@ void runImport(CommandContext &context)
     const QString fileName = context.arguments.words().at(2);
     const std::unique_ptr<QIODevice> file = openInput(fileName);
 
-    ImportChoice choice{.sheet = context.arguments.value(u"sheet"_s)};
+    ImportChoice choice{.sheet = context.arguments.value(u"sheet"_s),
+                        .headRow = positive(context.arguments, u"head-row"_s, std::numeric_limits<int>::max())};
     for (const QString &name : context.arguments.value(u"except"_s).split(u',', Qt::SkipEmptyParts))
         choice.leftOut.append(name.trimmed());
 
@@ -65,6 +69,8 @@ Command importCommand()
                   "Rows are refused by the rules of the screens, each as FILE:LINE: message.")
             .arg(namesOf(importKinds()));
     command.options = {{u"sheet"_s, Texts::tr("NAME"), Texts::tr("of a spreadsheet (default: the first one)")},
+                       {u"head-row"_s, Texts::tr("NUMBER"),
+                        Texts::tr("that holds the field names (default: the first with a text)")},
                        {u"except"_s, Texts::tr("COLUMNS"), Texts::tr("leaves these columns of the file out: A,B")},
                        {u"yes"_s, {}, Texts::tr("answers yes where a screen would ask")},
                        retryOption()};

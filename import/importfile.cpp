@@ -19,10 +19,12 @@ using Header = std::vector<const ImportColumn *>;
 class HeaderReader
 {
 public:
-    HeaderReader(const ImportKind &kind, ImportErrors &errors, int line)
+    // Whoever has chosen what the columns stand for knows the fields by their titles, others by the names in the file.
+    HeaderReader(const ImportKind &kind, ImportErrors &errors, int line, bool knowsTitles)
         : m_kind(kind)
         , m_errors(errors)
         , m_line(line)
+        , m_knowsTitles(knowsTitles)
     {
     }
 
@@ -91,8 +93,10 @@ private:
     {
         QStringList names;
         for (const ImportColumn &column : m_kind.columns) {
-            if (column.target == target)
-                names.append(u'\'' + column.field + u'\'');
+            const QString title = m_knowsTitles ? plainTitle(m_kind, column.field) : QString();
+            const QString name = u'\'' + (title.isEmpty() ? column.field : title) + u'\'';
+            if (column.target == target && !names.contains(name))
+                names.append(name);
         }
         return names.join(ImportTexts::tr(" or "));
     }
@@ -100,6 +104,7 @@ private:
     const ImportKind &m_kind;
     ImportErrors &m_errors;
     int m_line;
+    bool m_knowsTitles;
     Header m_header;
     bool m_faulty = false;
 };
@@ -107,9 +112,10 @@ private:
 class ImportRowReader
 {
 public:
-    ImportRowReader(const Header &header, bool hasLines, ImportErrors &errors)
+    ImportRowReader(const Header &header, bool hasLines, bool mayHaveDecimalCommas, ImportErrors &errors)
         : m_header(header)
         , m_hasLines(hasLines)
+        , m_mayHaveDecimalCommas(mayHaveDecimalCommas)
         , m_errors(errors)
     {
     }
@@ -144,7 +150,8 @@ private:
         row.line = line;
         for (size_t i = 0; i < m_header.size(); ++i) {
             try {
-                row.cells.push_back({m_header[i], importValue(*m_header[i], fields[static_cast<qsizetype>(i)])});
+                const QString &text = fields[static_cast<qsizetype>(i)];
+                row.cells.push_back({m_header[i], importValue(*m_header[i], text, m_mayHaveDecimalCommas)});
             } catch (const RuleError &error) {
                 m_errors.add(line, error.message());
                 row.isBad = true;
@@ -165,22 +172,23 @@ private:
 
     const Header &m_header;
     const bool m_hasLines;
+    const bool m_mayHaveDecimalCommas;
     ImportErrors &m_errors;
     std::vector<ImportDocument> m_documents;
     QStringList m_documentFields; // of the last row
 };
 
 std::vector<ImportDocument> readRows(ImportRows &reader, const ImportKind &kind, ImportErrors &errors,
-                                     Progress *progress)
+                                     bool knowsTitles, Progress *progress)
 {
     if (!reader.next()) {
         errors.add(1, ImportTexts::tr("The file is empty."));
         return {};
     }
-    const Header header = HeaderReader(kind, errors, reader.line()).read(reader.fields());
+    const Header header = HeaderReader(kind, errors, reader.line(), knowsTitles).read(reader.fields());
     if (header.empty())
         return {};
-    ImportRowReader rows(header, kind.hasLines(), errors);
+    ImportRowReader rows(header, kind.hasLines(), reader.mayHaveDecimalCommas(), errors);
     try {
         if (progress)
             progress->start(0);
@@ -203,7 +211,7 @@ std::vector<ImportDocument> readImportFile(QIODevice &file, const ImportKind &ki
     try {
         const std::unique_ptr<ImportRows> rows = openImportRows(file, choice);
         errors.setSheet(rows->sheet());
-        return readRows(*rows, kind, errors, progress);
+        return readRows(*rows, kind, errors, choice.fields.has_value(), progress);
     } catch (const ReadFault &fault) {
         errors.add(fault.line(), fault.message());
         return {};

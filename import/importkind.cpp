@@ -2,6 +2,7 @@
 
 #include "base/named.h"
 #include "data/fields.h"
+#include "data/fieldtitles.h"
 #include "data/layouts.h"
 #include "import/documentimport.h"
 #include "import/masterimport.h"
@@ -171,6 +172,12 @@ const QList<ImportKind> &importKinds()
         return all;
     }();
     return kinds;
+}
+
+QString plainTitle(const ImportKind &kind, const QString &field)
+{
+    const QString title = kind.titles.value(field);
+    return title.isEmpty() ? fieldTitle(field) : title;
 }
 
 const ImportKind *findImportKind(const QString &name) { return findNamed(importKinds(), name); }

@@ -73,6 +73,9 @@ struct ImportKind
 const QList<ImportKind> &importKinds();
 const ImportKind *findImportKind(const QString &name);
 
+// What users call a field: as a list or its lines show it, else as it is called wherever it stands; empty: they do not know it.
+QString plainTitle(const ImportKind &kind, const QString &field);
+
 // A value of a row with the column that it stands in.
 struct ImportCell
 {

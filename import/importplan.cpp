@@ -1,7 +1,6 @@
 #include "import/importplan.h"
 
 #include "base/ruleerror.h"
-#include "data/fieldtitles.h"
 #include "import/texts.h"
 
 #include <algorithm>
@@ -75,7 +74,7 @@ void ImportPlan::readColumns()
     openForReading(file);
     m_columns.clear();
     try {
-        const std::unique_ptr<ImportRows> rows = openAllRows(file, m_sheet);
+        const std::unique_ptr<ImportRows> rows = openAllRows(file, {.sheet = m_sheet, .headRow = m_headRow});
         if (m_sheets.isEmpty())
             m_sheets = rows->sheets();
         m_sheet = rows->sheet();
@@ -145,7 +144,7 @@ QString ImportPlan::fieldTitled(const std::function<bool(const QString &)> &fits
 {
     const ImportColumn *found = nullptr;
     for (const ImportColumn &column : m_kind.columns) {
-        if (!fits(essence(plainTitle(column.field))))
+        if (!fits(essence(plainTitle(m_kind, column.field))))
             continue;
         if (found && found->target != column.target)
             return {};
@@ -185,21 +184,15 @@ QStringList ImportPlan::fields() const
     return all;
 }
 
-QString ImportPlan::plainTitle(const QString &field) const
-{
-    const QString title = m_kind.titles.value(field);
-    return title.isEmpty() ? fieldTitle(field) : title;
-}
-
 // Two fields may bear one title, as a key and the number that stands for it: then the key's own name tells them apart.
 QString ImportPlan::title(const QString &field) const
 {
-    const QString title = plainTitle(field);
+    const QString title = plainTitle(m_kind, field);
     if (title.isEmpty())
         return field;
     const bool isAlone =
         std::none_of(m_kind.columns.begin(), m_kind.columns.end(), [&](const ImportColumn &column) {
-            return column.field != field && plainTitle(column.field) == title;
+            return column.field != field && plainTitle(m_kind, column.field) == title;
         });
     return isAlone || columnOf(m_kind, field)->lookup ? title : u"%1 (%2)"_s.arg(title, field);
 }
@@ -238,7 +231,9 @@ std::vector<ImportPlan::Row> ImportPlan::preview(const ImportErrors &errors, Pro
     QHash<int, QString> faults;
     for (const ImportErrors::Error &error : errors.inFileOrder()) {
         QString &told = faults[error.line];
-        told += told.isEmpty() ? error.message : u"; "_s + error.message;
+        if (!told.isEmpty())
+            told += told.endsWith(u'.') ? u" "_s : u"; "_s;
+        told += error.message;
     }
     QFile file(m_fileName);
     openForReading(file);

@@ -67,7 +67,6 @@ private:
     void propose();
     QString proposal(const QString &heading) const;
     QString fieldTitled(const std::function<bool(const QString &)> &fits) const;
-    QString plainTitle(const QString &field) const;
     bool isTaken(const QString &field) const; // by a column, or another field with the same meaning is
 
     const ImportKind &m_kind;

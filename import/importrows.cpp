@@ -19,9 +19,10 @@ constexpr qint64 largestFile = qint64(256) * 1024 * 1024; // packed
 class CsvRows final : public ImportRows
 {
 public:
-    CsvRows(QIODevice &file, int headRow)
-        : m_reader(file)
+    CsvRows(QIODevice &file, int headRow, char separator)
+        : m_reader(file, separator)
         , m_headRow(headRow)
+        , m_isSeparatedByCommas(separator == ',')
     {
     }
 
@@ -36,10 +37,13 @@ public:
 
     const QStringList &fields() const override { return m_reader.fields(); }
     int line() const override { return m_reader.line(); }
+    // Spreadsheet programs separate otherwise where commas are taken by the numbers.
+    bool mayHaveDecimalCommas() const override { return !m_isSeparatedByCommas; }
 
 private:
     CsvReader m_reader;
     const int m_headRow;
+    const bool m_isSeparatedByCommas;
 };
 
 // Those columns of a file that are taken, under the names of what they stand for.
@@ -66,6 +70,7 @@ public:
     const QStringList &fields() const override { return m_fields; }
     int line() const override { return m_rows->line(); }
     QString fault() const override { return m_rows->fault(); }
+    bool mayHaveDecimalCommas() const override { return m_rows->mayHaveDecimalCommas(); }
     QString sheet() const override { return m_rows->sheet(); }
     QStringList sheets() override { return m_rows->sheets(); }
 
@@ -116,8 +121,10 @@ std::unique_ptr<ImportRows> openPacked(QIODevice &file, const QString &sheet, in
     throw ReadFault(1, ImportTexts::tr("The file is neither a spreadsheet (XLSX, ODS) nor CSV."));
 }
 
-std::unique_ptr<ImportRows> openRows(QIODevice &file, const QString &sheet, int headRow)
+// From the head row on, which may be that of the choice or every row.
+std::unique_ptr<ImportRows> openRows(QIODevice &file, const ImportChoice &choice, int headRow)
 {
+    const QString &sheet = choice.sheet;
     const QByteArray beginning = file.peek(8);
     if (beginning.startsWith("PK\x03\x04"))
         return openPacked(file, sheet, headRow);
@@ -128,22 +135,22 @@ std::unique_ptr<ImportRows> openRows(QIODevice &file, const QString &sheet, int 
                                         "Save it as XLSX, ODS or CSV without a password."));
     if (!sheet.isEmpty())
         throw ReadFault(1, ImportTexts::tr("There is no sheet '%1' in a CSV file.").arg(Engine::excerpt(sheet)));
-    return std::make_unique<CsvRows>(file, headRow);
+    return std::make_unique<CsvRows>(file, headRow, CsvReader::separatorOf(file, choice.headRow));
 }
 
 } // namespace
 
 std::unique_ptr<ImportRows> openImportRows(QIODevice &file, const ImportChoice &choice)
 {
-    std::unique_ptr<ImportRows> rows = openRows(file, choice.sheet, choice.headRow);
+    std::unique_ptr<ImportRows> rows = openRows(file, choice, choice.headRow);
     if (!choice.fields && choice.leftOut.isEmpty())
         return rows;
     return std::make_unique<ChosenColumns>(std::move(rows), choice);
 }
 
-std::unique_ptr<ImportRows> openAllRows(QIODevice &file, const QString &sheet)
+std::unique_ptr<ImportRows> openAllRows(QIODevice &file, const ImportChoice &choice)
 {
-    return openRows(file, sheet, SheetRows::everyRow);
+    return openRows(file, choice, SheetRows::everyRow);
 }
 
 } // namespace Tallymere

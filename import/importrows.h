@@ -38,6 +38,7 @@ public:
         return {};
     } // why the row cannot be taken, whatever it is for; empty where it can
 
+    virtual bool mayHaveDecimalCommas() const { return false; } // in numbers, in place of points
     virtual QString sheet() const { return {}; } // its name; empty for files that have no sheets
     virtual QStringList sheets() { return {}; } // of the whole file
 };
@@ -46,6 +47,6 @@ public:
 // its beginning and outlives what is returned. Throws ReadFault.
 std::unique_ptr<ImportRows> openImportRows(QIODevice &file, const ImportChoice &choice = {});
 // The same with every row as it stands, however wide, for somebody to choose from.
-std::unique_ptr<ImportRows> openAllRows(QIODevice &file, const QString &sheet = {});
+std::unique_ptr<ImportRows> openAllRows(QIODevice &file, const ImportChoice &choice = {});
 
 } // namespace Tallymere

@@ -119,8 +119,13 @@ Value textValue(const ImportColumn &column, const QString &text)
 
 } // namespace
 
-Value importValue(const ImportColumn &column, const QString &text)
+Value importValue(const ImportColumn &column, const QString &given, bool mayHaveDecimalComma)
 {
+    // Blanks around a number or a date are nobody's meaning; a text is kept as it stands.
+    const bool isText = column.type == FieldType::Text || column.type == FieldType::Memo;
+    QString text = isText ? given : given.trimmed();
+    if (mayHaveDecimalComma && !isText && !text.contains(u'.') && text.count(u',') == 1)
+        text.replace(u',', u'.');
     if (text.isEmpty())
         return {};
     if (column.format == ImportColumn::Format::Year)

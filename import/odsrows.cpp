@@ -25,12 +25,26 @@ void appendCollapsed(QString &paragraph, QStringView text)
     }
 }
 
+// What an element in a paragraph stands for, of those that stand for characters.
+void appendElement(QString &paragraph, PartReader &part)
+{
+    const int blanks = part.name() == u"s" ? std::min(part.number("c"_L1, 1), 100'000) : 0;
+    part.count(std::max(blanks, 1));
+    if (blanks > 0)
+        paragraph += QString(blanks, u' ');
+    else if (part.name() == u"tab")
+        paragraph += u'\t';
+    else if (part.name() == u"line-break")
+        paragraph += u'\n';
+}
+
 // A paragraph to its end, with what stands in its parts.
 QString paragraphText(PartReader &part)
 {
     QString text;
     for (int depth = 1; depth > 0 && part.next();) {
         if (part.isText()) {
+            part.count(part.text().size());
             appendCollapsed(text, part.text());
         } else if (part.isEnd()) {
             --depth;
@@ -38,12 +52,7 @@ QString paragraphText(PartReader &part)
             part.skip();
         } else if (part.isStart()) {
             ++depth;
-            if (part.name() == u"s")
-                text += QString(std::min(part.number("c"_L1, 1), 100'000), u' ');
-            else if (part.name() == u"tab")
-                text += u'\t';
-            else if (part.name() == u"line-break")
-                text += u'\n';
+            appendElement(text, part);
         }
     }
     return text;
@@ -141,7 +150,7 @@ void OdsRows::readCells()
 {
     m_cells.clear();
     m_column = 0;
-    m_content->row = m_row + 1;
+    m_content->beginRow(m_row + 1);
     while (m_content->next() && !m_content->isEnd(u"table-row")) {
         const bool covered = m_content->isStart(u"covered-table-cell"); // by the one that it was merged into
         if (!covered && !m_content->isStart(u"table-cell"))
@@ -163,6 +172,7 @@ void OdsRows::addCell(int count)
     const bool isText = type.isEmpty() || type == u"string" || type == u"error";
     const bool isGiven = isText && m_content->hasAttribute("string-value"_L1);
     const QString stored = isText ? m_content->attribute("string-value"_L1).toString() : storedText();
+    m_content->count(stored.size());
     const bool isError = m_content->says("value-type"_L1, u"error");
     const QString shown = shownText();
     cell.text = isText && !isGiven ? shown : stored;
@@ -196,6 +206,7 @@ QString OdsRows::shownText()
     bool first = true;
     while (m_content->next() && !m_content->isEnd(u"table-cell")) {
         if (m_content->isStart(u"p") || m_content->isStart(u"h")) {
+            m_content->count(1);
             text += (first ? QString() : u"\n"_s) + paragraphText(*m_content);
             first = false;
         } else if (m_content->isStart()) { // a comment, a picture

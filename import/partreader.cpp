@@ -17,20 +17,35 @@ PartReader::PartReader(ZipArchive &archive, const QString &name)
 {
 }
 
+void PartReader::fail(const QString &message) const { throw ReadFault(m_row, message); }
+
+void PartReader::beginRow(int row)
+{
+    m_row = row;
+    m_characters = 0;
+}
+
+// A text may come in any number of small pieces, or be said to be repeated.
+void PartReader::count(qsizetype characters)
+{
+    m_characters += characters;
+    if (m_characters > ZipPart::longestPiece)
+        fail(ZipPart::tooLong());
+}
+
 bool PartReader::next()
 {
     m_part->beginPiece();
     m_xml.readNext();
     if (!m_part->fault().isEmpty())
-        throw ReadFault(row, m_part->fault());
+        fail(m_part->fault());
     // A document type can only serve to bring in what stands elsewhere, or to make little text long.
     if (m_xml.isDTD())
-        throw ReadFault(row, ImportTexts::tr("The file is no proper spreadsheet: it declares a document type."));
+        fail(ImportTexts::tr("The file is no proper spreadsheet: it declares a document type."));
     if (m_xml.hasError())
-        throw ReadFault(row, ImportTexts::tr("The file is damaged: %1").arg(m_xml.errorString()));
+        fail(ImportTexts::tr("The file is damaged: %1").arg(m_xml.errorString()));
     if (m_xml.isStartElement() && ++m_depth > deepest)
-        throw ReadFault(row,
-                        ImportTexts::tr("The file is no proper spreadsheet: its elements are nested too deep."));
+        fail(ImportTexts::tr("The file is no proper spreadsheet: its elements are nested too deep."));
     if (m_xml.isEndElement())
         --m_depth;
     return !m_xml.atEnd();
@@ -80,8 +95,10 @@ QString PartReader::textUpTo(QStringView element)
 {
     QString all;
     while (next() && !isEnd(element)) {
-        if (isText())
-            all += text();
+        if (!isText())
+            continue;
+        count(text().size());
+        all += text();
     }
     return all;
 }

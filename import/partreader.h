@@ -28,12 +28,18 @@ public:
     void skip(); // to the end of the element
     QString textUpTo(QStringView element); // all text to the end of the element of that name
 
-    int row = 1; // that has been reached, for what is wrong
+    // What follows is of the row of that number, whose texts together must not be longer than a line of CSV may be.
+    void beginRow(int row);
+    void count(qsizetype characters); // of a text of the row, before it is kept
 
 private:
+    [[noreturn]] void fail(const QString &message) const;
+
     const std::unique_ptr<ZipPart> m_part;
     QXmlStreamReader m_xml;
     int m_depth = 0;
+    int m_row = 1; // that has been reached, for what is wrong
+    qsizetype m_characters = 0;
 };
 
 } // namespace Tallymere

@@ -159,6 +159,7 @@ void XlsxRows::readTexts()
     while (part.next()) {
         if (!part.isStart(u"si"))
             continue;
+        part.beginRow(1);
         m_texts.push_back(itemText(part, u"si"));
         size += m_texts.back().size() + 8;
         if (size > mostShared)
@@ -195,7 +196,8 @@ bool XlsxRows::readRow()
         if (part.isEnd(u"sheetData"))
             return false;
         if (part.isStart(u"row")) {
-            m_row = part.row = part.number("r"_L1, m_row + 1);
+            m_row = part.number("r"_L1, m_row + 1);
+            part.beginRow(m_row);
             m_column = -1;
             beginRow(m_row);
         } else if (part.isStart(u"c")) {

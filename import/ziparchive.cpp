@@ -42,12 +42,17 @@ qint64 ZipPart::readData(char *data, qint64 size)
             ImportTexts::tr("The file holds more than %1 MB when it is unpacked, and is not read any further.")
                 .arg(mostUnpacked / (1024 * 1024));
     else if (m_piece > longestPiece)
-        m_fault = ImportTexts::tr("The file holds a text that is longer than any cell may hold.");
+        m_fault = tooLong();
     else if (isCrowded(data, count))
         m_fault = ImportTexts::tr("The file is no proper spreadsheet: an element has too many attributes.");
     if (!m_fault.isEmpty())
         return -1;
     return count == 0 ? -1 : count;
+}
+
+QString ZipPart::tooLong()
+{
+    return ImportTexts::tr("The file holds a text that is longer than any cell may hold.");
 }
 
 // Many attributes of one element take the reader of XML a time that grows with their square.

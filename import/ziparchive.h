@@ -26,6 +26,7 @@ public:
 
     static constexpr qint64 mostUnpacked = qint64(2) * 1024 * 1024 * 1024;
     static constexpr qint64 longestPiece = qint64(16) * 1024 * 1024;
+    static QString tooLong(); // what is said of a longer one
 
 protected:
     qint64 readData(char *data, qint64 size) override;

@@ -58,7 +58,7 @@ QString ImportDesk::chooseFile(QWidget *window) const
 {
     const QString file = QFileDialog::getOpenFileName(window, ImportTexts::tr("Import"), lastFolder(m_context),
                                                       ImportTexts::tr("Spreadsheets and CSV files")
-                                                          + u" (*.xlsx *.ods *.csv *.txt);;"_s
+                                                          + u" (*.xlsx *.xlsm *.ods *.csv *.txt);;"_s
                                                           + ImportTexts::tr("All files") + u" (*)"_s);
     if (!file.isEmpty())
         rememberFolder(m_context, file);

@@ -4,6 +4,7 @@
 #include "controls/windows/look.h"
 
 #include <algorithm>
+#include <cmath>
 #include <QFont>
 #include <QGuiApplication>
 
@@ -37,7 +38,7 @@ QString textOf(const BuyingList::Row &row, int column)
     case BuyingModel::Description:
         return item.description;
     case BuyingModel::UsePerWeek:
-        return quantityText(item.usePerWeek);
+        return quantityText(std::round(item.usePerWeek * 10) / 10); // as the days left
     case BuyingModel::OnHand:
         return quantityText(item.onHand);
     case BuyingModel::Unposted:

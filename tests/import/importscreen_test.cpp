@@ -41,7 +41,7 @@ TEST_F(ImportScreen, ShowsWhatIsWrongAndTakesAllRowsOnceNothingIs)
 {
     open("ItemNo,Words,TypeName\nN1,New,Food\nN2,Newer,Foot\n");
     EXPECT_EQ(told(), u"1 row cannot be imported, so none is."_s);
-    EXPECT_TRUE(cell(0, 1).contains(u"'ItemDescription' is missing"_s)) << qPrintable(cell(0, 1));
+    EXPECT_TRUE(cell(0, 1).contains(u"'Description' is missing"_s)) << qPrintable(cell(0, 1));
     EXPECT_FALSE(isReady());
 
     auto &field = part<QComboBox>(u"cboColumn2"_s);
@@ -53,7 +53,9 @@ TEST_F(ImportScreen, ShowsWhatIsWrongAndTakesAllRowsOnceNothingIs)
     EXPECT_FALSE(isReady());
     screen->reject();
 
-    open("Items\n,,\nItemNo,Item description,TypeName\nN1,New,Food\nN2,Newer,Food\n");
+    // As a program with decimal commas writes it.
+    open("Items, new ones\n;;;\nItemNo;Item description;TypeName;StandardCost\nN1;\"New; 1,5\";Food; 1,5 "
+         "\nN2;Newer;Food;\n");
     auto &head = part<QSpinBox>(u"spinHead"_s);
     head.setValue(3);
     Q_EMIT head.editingFinished();
@@ -63,6 +65,7 @@ TEST_F(ImportScreen, ShowsWhatIsWrongAndTakesAllRowsOnceNothingIs)
     EXPECT_EQ(screen->result(), QDialog::Accepted);
     EXPECT_EQ(screen->imported().count(), 2);
     EXPECT_EQ(kitchen.value(u"SELECT count(*) FROM Item WHERE ItemNo IN ('N1', 'N2')"_s).toInt(), 2);
+    EXPECT_EQ(kitchen.value(u"SELECT StandardCost FROM Item WHERE ItemDescription = 'New; 1,5'"_s).toDouble(), 1.5);
 }
 
 } // namespace

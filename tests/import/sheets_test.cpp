@@ -142,6 +142,13 @@ TEST(Sheets, RefuseFilesThatNoProgramMakes)
     EXPECT_EQ(
         only(rowsOf(xlsx("<row><c t='inlineStr'><is><t>" + QByteArray(20'000'000, 'x') + "</t></is></c></row>"))),
         u"1 !! The file holds a text that is longer than any cell may hold."_s);
+    EXPECT_EQ(
+        only(rowsOf(xlsx("<row><c t='inlineStr'><is>"
+                         + ("<r><t>" + QByteArray(1000, 'x') + "</t></r>").repeated(20'000) + "</is></c></row>"))),
+        u"1 !! The file holds a text that is longer than any cell may hold."_s);
+    EXPECT_EQ(only(rowsOf(ods("<t:table-row><t:table-cell><x:p>" + QByteArray("<x:s x:c='100000'/>").repeated(200)
+                              + "</x:p></t:table-cell></t:table-row>"))),
+              u"1 !! The file holds a text that is longer than any cell may hold."_s);
     EXPECT_EQ(only(rowsOf(xlsx(QByteArray("<a>").repeated(1'000'000)))),
               u"1 !! The file is no proper spreadsheet: its elements are nested too deep."_s);
     QByteArray attributes;
