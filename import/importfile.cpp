@@ -16,6 +16,8 @@ namespace {
 
 using Header = std::vector<const ImportColumn *>;
 
+constexpr qsizetype mostText = 250'000'000; // characters of all rows, which are held until all have been judged
+
 class HeaderReader
 {
 public:
@@ -152,11 +154,16 @@ private:
             try {
                 const QString &text = fields[static_cast<qsizetype>(i)];
                 row.cells.push_back({m_header[i], importValue(*m_header[i], text, m_mayHaveDecimalCommas)});
+                m_characters += Engine::isText(m_header[i]->type) ? text.size() : 0;
             } catch (const RuleError &error) {
                 m_errors.add(line, error.message());
                 row.isBad = true;
             }
         }
+        if (m_characters > mostText)
+            throw ReadFault(line,
+                            ImportTexts::tr("The texts of the file are longer than %1 million characters.")
+                                .arg(mostText / 1'000'000));
         return row;
     }
 
@@ -176,6 +183,7 @@ private:
     ImportErrors &m_errors;
     std::vector<ImportDocument> m_documents;
     QStringList m_documentFields; // of the last row
+    qsizetype m_characters = 0;
 };
 
 std::vector<ImportDocument> readRows(ImportRows &reader, const ImportKind &kind, ImportErrors &errors,

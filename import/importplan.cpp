@@ -46,29 +46,29 @@ const ImportColumn *columnOf(const ImportKind &kind, const QString &field)
 
 } // namespace
 
-ImportPlan::ImportPlan(const ImportKind &kind, QString fileName, Memory memory)
-    : m_kind(kind)
+ImportPlan::ImportPlan(const ImportKind &kind, QString fileName, Memory memory, Progress *progress)
+    : m_kind(&kind)
     , m_fileName(std::move(fileName))
     , m_memory(std::move(memory))
 {
     m_headRow = 0;
-    readColumns();
+    readColumns(progress);
 }
 
-void ImportPlan::setSheet(const QString &sheet)
+void ImportPlan::setSheet(const QString &sheet, Progress *progress)
 {
     m_sheet = sheet;
     m_headRow = 0;
-    readColumns();
+    readColumns(progress);
 }
 
-void ImportPlan::setHeadRow(int row)
+void ImportPlan::setHeadRow(int row, Progress *progress)
 {
     m_headRow = row;
-    readColumns();
+    readColumns(progress);
 }
 
-void ImportPlan::readColumns()
+void ImportPlan::readColumns(Progress *progress)
 {
     QFile file(m_fileName);
     openForReading(file);
@@ -76,9 +76,9 @@ void ImportPlan::readColumns()
     try {
         const std::unique_ptr<ImportRows> rows = openAllRows(file, {.sheet = m_sheet, .headRow = m_headRow});
         if (m_sheets.isEmpty())
-            m_sheets = rows->sheets();
+            m_sheets = rows->sheets(progress);
         m_sheet = rows->sheet();
-        readFirstRows(*rows);
+        readFirstRows(*rows, progress);
     } catch (const ReadFault &fault) {
         throw RuleError(ImportTexts::tr("%1, row %2: %3")
                             .arg(QDir::toNativeSeparators(m_fileName))
@@ -88,11 +88,13 @@ void ImportPlan::readColumns()
     propose();
 }
 
-void ImportPlan::readFirstRows(ImportRows &rows)
+void ImportPlan::readFirstRows(ImportRows &rows, Progress *progress)
 {
     int read = 0;
     while (read < rowsLookedAt && rows.next()) {
         const QStringList &fields = rows.fields();
+        if (progress)
+            progress->step();
         if (rows.line() < m_headRow)
             continue;
         if (read++ == 0) {
@@ -126,8 +128,8 @@ QString ImportPlan::proposal(const QString &heading) const
     if (wanted.isEmpty())
         return {};
     if (const auto chosen = m_memory.constFind(wanted); chosen != m_memory.constEnd())
-        return chosen->isEmpty() || columnOf(m_kind, *chosen) ? *chosen : QString();
-    for (const ImportColumn &column : m_kind.columns) {
+        return chosen->isEmpty() || columnOf(*m_kind, *chosen) ? *chosen : QString();
+    for (const ImportColumn &column : m_kind->columns) {
         if (essence(column.field) == wanted)
             return column.field;
     }
@@ -143,8 +145,8 @@ QString ImportPlan::proposal(const QString &heading) const
 QString ImportPlan::fieldTitled(const std::function<bool(const QString &)> &fits) const
 {
     const ImportColumn *found = nullptr;
-    for (const ImportColumn &column : m_kind.columns) {
-        if (!fits(essence(plainTitle(m_kind, column.field))))
+    for (const ImportColumn &column : m_kind->columns) {
+        if (!fits(essence(plainTitle(*m_kind, column.field))))
             continue;
         if (found && found->target != column.target)
             return {};
@@ -156,17 +158,17 @@ QString ImportPlan::fieldTitled(const std::function<bool(const QString &)> &fits
 
 bool ImportPlan::isTaken(const QString &field) const
 {
-    const QString target = columnOf(m_kind, field)->target;
+    const QString target = columnOf(*m_kind, field)->target;
     return std::any_of(m_columns.begin(), m_columns.end(), [&](const Column &column) {
-        return !column.field.isEmpty() && columnOf(m_kind, column.field)->target == target;
+        return !column.field.isEmpty() && columnOf(*m_kind, column.field)->target == target;
     });
 }
 
 void ImportPlan::setField(int column, const QString &field)
 {
-    if (const ImportColumn *wanted = columnOf(m_kind, field)) {
+    if (const ImportColumn *wanted = columnOf(*m_kind, field)) {
         for (Column &other : m_columns) {
-            if (!other.field.isEmpty() && columnOf(m_kind, other.field)->target == wanted->target)
+            if (!other.field.isEmpty() && columnOf(*m_kind, other.field)->target == wanted->target)
                 other.field.clear();
         }
     }
@@ -176,7 +178,7 @@ void ImportPlan::setField(int column, const QString &field)
 QStringList ImportPlan::fields() const
 {
     QStringList all;
-    for (const ImportColumn &column : m_kind.columns)
+    for (const ImportColumn &column : m_kind->columns)
         all.append(column.field);
     std::sort(all.begin(), all.end(), [this](const QString &one, const QString &other) {
         return QString::localeAwareCompare(title(one), title(other)) < 0;
@@ -187,14 +189,14 @@ QStringList ImportPlan::fields() const
 // Two fields may bear one title, as a key and the number that stands for it: then the key's own name tells them apart.
 QString ImportPlan::title(const QString &field) const
 {
-    const QString title = plainTitle(m_kind, field);
+    const QString title = plainTitle(*m_kind, field);
     if (title.isEmpty())
         return field;
     const bool isAlone =
-        std::none_of(m_kind.columns.begin(), m_kind.columns.end(), [&](const ImportColumn &column) {
-            return column.field != field && plainTitle(m_kind, column.field) == title;
+        std::none_of(m_kind->columns.begin(), m_kind->columns.end(), [&](const ImportColumn &column) {
+            return column.field != field && plainTitle(*m_kind, column.field) == title;
         });
-    return isAlone || columnOf(m_kind, field)->lookup ? title : u"%1 (%2)"_s.arg(title, field);
+    return isAlone || columnOf(*m_kind, field)->lookup ? title : u"%1 (%2)"_s.arg(title, field);
 }
 
 ImportChoice ImportPlan::choice() const

@@ -16,15 +16,15 @@ public:
     // What headings stood for when a file of the kind was brought in last, by their words.
     using Memory = QHash<QString, QString>;
 
-    ImportPlan(const ImportKind &kind, QString fileName, Memory memory = {});
+    ImportPlan(const ImportKind &kind, QString fileName, Memory memory = {}, Progress *progress = nullptr);
 
-    const ImportKind &kind() const { return m_kind; }
+    const ImportKind &kind() const { return *m_kind; }
     const QString &fileName() const { return m_fileName; }
     const QStringList &sheets() const { return m_sheets; } // empty for files that have none
     const QString &sheet() const { return m_sheet; }
-    void setSheet(const QString &sheet);
+    void setSheet(const QString &sheet, Progress *progress = nullptr);
     int headRow() const { return m_headRow; }
-    void setHeadRow(int row); // from 1; the first one below in which something stands
+    void setHeadRow(int row, Progress *progress = nullptr); // from 1; the first one below in which something stands
 
     int columnCount() const { return static_cast<int>(m_columns.size()); }
     const QString &heading(int column) const { return m_columns[static_cast<size_t>(column)].heading; }
@@ -62,15 +62,15 @@ private:
         QString field;
     };
 
-    void readColumns();
-    void readFirstRows(ImportRows &rows);
+    void readColumns(Progress *progress);
+    void readFirstRows(ImportRows &rows, Progress *progress);
     void propose();
     QString proposal(const QString &heading) const;
     QString fieldTitled(const std::function<bool(const QString &)> &fits) const;
     bool isTaken(const QString &field) const; // by a column, or another field with the same meaning is
 
-    const ImportKind &m_kind;
-    const QString m_fileName;
+    const ImportKind *m_kind;
+    QString m_fileName;
     Memory m_memory;
     QStringList m_sheets;
     QString m_sheet;

@@ -72,7 +72,7 @@ public:
     QString fault() const override { return m_rows->fault(); }
     bool mayHaveDecimalCommas() const override { return m_rows->mayHaveDecimalCommas(); }
     QString sheet() const override { return m_rows->sheet(); }
-    QStringList sheets() override { return m_rows->sheets(); }
+    QStringList sheets(Progress *progress) override { return m_rows->sheets(progress); }
 
 private:
     void takeNames(const QStringList &names)

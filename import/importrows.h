@@ -11,6 +11,8 @@ class QIODevice;
 
 namespace Tallymere {
 
+class Progress;
+
 // What of a file is brought in.
 struct ImportChoice
 {
@@ -40,7 +42,7 @@ public:
 
     virtual bool mayHaveDecimalCommas() const { return false; } // in numbers, in place of points
     virtual QString sheet() const { return {}; } // its name; empty for files that have no sheets
-    virtual QStringList sheets() { return {}; } // of the whole file
+    virtual QStringList sheets(Progress *) { return {}; } // of the whole file
 };
 
 // Opens a file by what is in it, not by its name: a spreadsheet (XLSX, ODS), or else CSV. The device is open, is read from

@@ -98,13 +98,13 @@ void OdsRows::requireReadable()
 }
 
 // The names of all of them take reading the whole content, so that is done only when they are asked for.
-QStringList OdsRows::sheets()
+QStringList OdsRows::sheets(Progress *progress)
 {
     QStringList names;
     PartReader part(archive(), contentName);
     while (toNextSheet(part)) {
         names.append(part.attribute("name"_L1).toString());
-        part.skip();
+        part.skip(progress);
     }
     return names;
 }

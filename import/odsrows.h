@@ -13,7 +13,7 @@ class OdsRows final : public SheetRows
 public:
     static bool isOds(ZipArchive &archive);
     OdsRows(std::unique_ptr<ZipArchive> archive, const QString &sheet, int headRow);
-    QStringList sheets() override;
+    QStringList sheets(Progress *progress) override;
 
 protected:
     bool readRow() override;

@@ -1,5 +1,6 @@
 #include "import/partreader.h"
 
+#include "base/prompts.h"
 #include "import/importrows.h"
 #include "import/texts.h"
 
@@ -81,13 +82,15 @@ bool PartReader::says(QLatin1StringView name, QStringView value) const
     });
 }
 
-void PartReader::skip()
+void PartReader::skip(Progress *progress)
 {
     for (int depth = 1; depth > 0 && next();) {
         if (isStart())
             ++depth;
         else if (isEnd())
             --depth;
+        if (progress && isStart())
+            progress->step();
     }
 }
 

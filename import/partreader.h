@@ -6,6 +6,8 @@
 
 namespace Tallymere {
 
+class Progress;
+
 // Goes through a part of a spreadsheet that is XML, element by element; names are told without their namespace. Nothing
 // outside the file is ever read. Throws ReadFault, for the row that has been reached.
 class PartReader
@@ -25,7 +27,7 @@ public:
     bool hasAttribute(QLatin1StringView name) const;
     bool says(QLatin1StringView name, QStringView value) const; // in whatever namespace the attribute is
     int number(QLatin1StringView name, int missing) const; // a count from 1 on
-    void skip(); // to the end of the element
+    void skip(Progress *progress = nullptr); // to the end of the element, with a step for each in it
     QString textUpTo(QStringView element); // all text to the end of the element of that name
 
     // What follows is of the row of that number, whose texts together must not be longer than a line of CSV may be.

@@ -14,7 +14,7 @@ class XlsxRows final : public SheetRows
 public:
     static bool isXlsx(const ZipArchive &archive);
     XlsxRows(std::unique_ptr<ZipArchive> archive, const QString &sheet, int headRow);
-    QStringList sheets() override { return m_names; }
+    QStringList sheets(Progress *) override { return m_names; }
 
 protected:
     bool readRow() override;

@@ -9,7 +9,9 @@
 #include "import/screens/importscreen.h"
 #include "import/texts.h"
 
+#include <optional>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QJsonArray>
 
 using namespace Qt::StringLiterals;
@@ -72,7 +74,12 @@ bool ImportDesk::import(const QString &kind, QString file, QWidget *window)
     if (file.isEmpty())
         return false;
     const HeadingMemory headings(m_context, kind);
-    TfrmImport dialog(m_context, ImportPlan(*findImportKind(kind), file, headings.read()), window);
+    std::optional<ImportPlan> plan;
+    workBeside(window, ImportTexts::tr("Reading %1").arg(QFileInfo(file).fileName()),
+               [&, memory = headings.read()](Progress &progress) {
+                   plan.emplace(*findImportKind(kind), file, memory, &progress);
+               });
+    TfrmImport dialog(m_context, std::move(*plan), window);
     if (dialog.exec() != QDialog::Accepted)
         return false;
     headings.keep(dialog.plan().memory());

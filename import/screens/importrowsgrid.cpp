@@ -1,5 +1,7 @@
 #include "import/screens/importrowsgrid.h"
 
+#include "controls/windows/screenmetrics.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,8 @@ ImportRowsGrid::ImportRowsGrid(const ImportPlan &plan, QWidget *parent)
     for (const int column : plan.takenColumns())
         columns.append({.field = {}, .title = plan.title(plan.field(column)), .width = 110});
     setColumns(columns);
+    setWantedWidth(faultColumn,
+                   scaled(this, columns[faultColumn].width)); // the others make room, and then are scrolled
 }
 
 void ImportRowsGrid::showRows(const std::vector<ImportPlan::Row> &rows)

@@ -48,11 +48,16 @@ TfrmImport::TfrmImport(ScreenContext &context, ImportPlan plan, QWidget *parent)
     fillSheets();
     showColumns();
     showUnchecked();
-    connect(m_ui->cboSheet, &QComboBox::activated, this,
-            [this] { change([this] { m_plan.setSheet(m_ui->cboSheet->currentText()); }); });
+    connect(m_ui->cboSheet, &QComboBox::activated, this, [this] {
+        change([sheet = m_ui->cboSheet->currentText()](auto &changed, auto &progress) {
+            changed.setSheet(sheet, &progress);
+        });
+    });
     connect(m_ui->spinHead, &QSpinBox::editingFinished, this, [this] {
         if (m_ui->spinHead->value() != m_plan.headRow())
-            change([this] { m_plan.setHeadRow(m_ui->spinHead->value()); });
+            change([row = m_ui->spinHead->value()](auto &changed, auto &progress) {
+                changed.setHeadRow(row, &progress);
+            });
     });
     connect(m_ui->chkYes, &QCheckBox::toggled, this, [this] { guard().runWhenFree([this] { check(); }); });
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &TfrmImport::btnOKClick);
@@ -133,11 +138,14 @@ void TfrmImport::addGrid()
     setTabOrder(m_grid, m_ui->chkYes);
 }
 
-void TfrmImport::change(const std::function<void()> &step)
+void TfrmImport::change(const std::function<void(ImportPlan &, Progress &)> &step)
 {
     guard().runWhenFree([&] {
         showUnchecked();
-        step();
+        ImportPlan plan = m_plan; // what is shown stays meanwhile
+        workBeside(this, tr("Reading %1").arg(m_ui->lblFile->text()),
+                   [&](Progress &progress) { step(plan, progress); });
+        m_plan = std::move(plan);
         showColumns();
         check();
     });

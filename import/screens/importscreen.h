@@ -42,7 +42,7 @@ private:
     void addGrid();
     void showResult();
     void showUnchecked();
-    void change(const std::function<void()> &step);
+    void change(const std::function<void(ImportPlan &plan, Progress &progress)> &step);
     void chooseField(int column, const QString &field);
     int refusedRows() const;
     void btnOKClick();
