@@ -2477,6 +2477,10 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
         <source>The file is damaged: a text is missing.</source>
         <translation>Die Datei ist beschädigt: Ein Text fehlt.</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>
@@ -6313,6 +6317,10 @@ unter %2</translation>
     <message>
         <source>Importing %1</source>
         <translation>Importieren: %1</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
     </message>
 </context>
 <context>

@@ -2477,6 +2477,10 @@ tabla de ubicaciones de Ledgerwick?</translation>
         <source>The file is damaged: a text is missing.</source>
         <translation>El archivo está dañado: falta un texto.</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Leyendo %1</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>
@@ -6313,6 +6317,10 @@ al %2</translation>
     <message>
         <source>Importing %1</source>
         <translation>Importando %1</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Leyendo %1</translation>
     </message>
 </context>
 <context>

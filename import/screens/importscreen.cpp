@@ -74,13 +74,17 @@ void TfrmImport::fillSheets()
     m_ui->cboSheet->setVisible(!m_plan.sheets().isEmpty());
 }
 
+void TfrmImport::showChoice()
+{
+    const QSignalBlocker quiet(m_ui->spinHead);
+    m_ui->spinHead->setValue(m_plan.headRow());
+    m_ui->cboSheet->setCurrentText(m_plan.sheet());
+}
+
 // The boxes for the columns, anew for each sheet and each row of headings.
 void TfrmImport::showColumns()
 {
-    {
-        const QSignalBlocker quiet(m_ui->spinHead);
-        m_ui->spinHead->setValue(m_plan.headRow());
-    }
+    showChoice();
     // Whoever is on his way into one of them arrives in the new one.
     const qsizetype entered = m_fields.indexOf(qobject_cast<QComboBox *>(focusWidget()));
     m_fields.clear();
@@ -141,11 +145,16 @@ void TfrmImport::addGrid()
 void TfrmImport::change(const std::function<void(ImportPlan &, Progress &)> &step)
 {
     guard().runWhenFree([&] {
-        showUnchecked();
         ImportPlan plan = m_plan; // what is shown stays meanwhile
-        workBeside(this, tr("Reading %1").arg(m_ui->lblFile->text()),
-                   [&](Progress &progress) { step(plan, progress); });
+        try {
+            workBeside(this, tr("Reading %1").arg(m_ui->lblFile->text()),
+                       [&](Progress &progress) { step(plan, progress); });
+        } catch (...) {
+            showChoice(); // which is still that of before
+            throw;
+        }
         m_plan = std::move(plan);
+        showUnchecked();
         showColumns();
         check();
     });

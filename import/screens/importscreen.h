@@ -37,6 +37,7 @@ protected:
 
 private:
     void fillSheets();
+    void showChoice();
     void showColumns();
     void addColumn(int column);
     void addGrid();
