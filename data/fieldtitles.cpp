@@ -81,4 +81,18 @@ QString fieldTitle(const QString &field)
     return titles.value(field);
 }
 
+QStringList fieldWords(const QString &field)
+{
+    static const QString quantity = DataTexts::tr("quantity, qty, number of units, pieces");
+    static const QHash<QString, QString> words{
+        {Fields::ItemDescription, DataTexts::tr("description, item description, item name, name")},
+        {Fields::ItemNo, DataTexts::tr("item, item no, item number, no, number, article, article no, sku, code")},
+        {Fields::QtyReceived, quantity},
+        {Fields::Quantity, quantity},
+        {Fields::StandardCost, DataTexts::tr("standard cost, std cost")},
+        {Fields::UnitCost, DataTexts::tr("unit cost, cost, unit price, price")},
+    };
+    return words.value(field).split(u',');
+}
+
 } // namespace Tallymere

@@ -261,7 +261,7 @@ bool TFormTallymereSystem::fillFinder(Finder &finder, QWidget &window)
         finder.add(std::make_unique<RecordSource>(*m_context, screen, window));
     for (const DocumentScreens &screens : documentScreens())
         finder.add(std::make_unique<DocumentSource>(*m_context, screens.kind, window));
-    finder.add(std::make_unique<CommandSource>(*m_ui->MainMenu1));
+    finder.add(std::make_unique<CommandSource>(*m_ui->MainMenu1, *m_actionList));
     finder.add(std::make_unique<ManualSource>([this](const QUrl &page) { m_help->showPage(page); }));
     return true;
 }

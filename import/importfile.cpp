@@ -114,12 +114,18 @@ private:
 class ImportRowReader
 {
 public:
-    ImportRowReader(const Header &header, bool hasLines, bool mayHaveDecimalCommas, ImportErrors &errors)
+    ImportRowReader(const Header &header, const ImportKind &kind, bool knowsTitles, bool mayHaveDecimalCommas,
+                    ImportErrors &errors)
         : m_header(header)
-        , m_hasLines(hasLines)
-        , m_mayHaveDecimalCommas(mayHaveDecimalCommas)
+        , m_hasLines(kind.hasLines())
+        , m_reading{.mayHaveDecimalComma = mayHaveDecimalCommas, .takesYesAndNo = knowsTitles}
         , m_errors(errors)
     {
+        for (const ImportColumn *column : header) {
+            m_told.push_back(*column);
+            if (const QString title = plainTitle(kind, column->field); knowsTitles && !title.isEmpty())
+                m_told.back().field = title;
+        }
     }
 
     void add(int line, const QStringList &fields, const QString &fault)
@@ -153,7 +159,7 @@ private:
         for (size_t i = 0; i < m_header.size(); ++i) {
             try {
                 const QString &text = fields[static_cast<qsizetype>(i)];
-                row.cells.push_back({m_header[i], importValue(*m_header[i], text, m_mayHaveDecimalCommas)});
+                row.cells.push_back({m_header[i], importValue(m_told[i], text, m_reading)});
                 m_characters += Engine::isText(m_header[i]->type) ? text.size() : 0;
             } catch (const RuleError &error) {
                 m_errors.add(line, error.message());
@@ -178,8 +184,9 @@ private:
     }
 
     const Header &m_header;
+    std::vector<ImportColumn> m_told; // under the names by which the user knows them
     const bool m_hasLines;
-    const bool m_mayHaveDecimalCommas;
+    const ValueReading m_reading;
     ImportErrors &m_errors;
     std::vector<ImportDocument> m_documents;
     QStringList m_documentFields; // of the last row
@@ -196,7 +203,7 @@ std::vector<ImportDocument> readRows(ImportRows &reader, const ImportKind &kind,
     const Header header = HeaderReader(kind, errors, reader.line(), knowsTitles).read(reader.fields());
     if (header.empty())
         return {};
-    ImportRowReader rows(header, kind.hasLines(), reader.mayHaveDecimalCommas(), errors);
+    ImportRowReader rows(header, kind, knowsTitles, reader.mayHaveDecimalCommas(), errors);
     try {
         if (progress)
             progress->start(0);

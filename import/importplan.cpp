@@ -1,6 +1,7 @@
 #include "import/importplan.h"
 
 #include "base/ruleerror.h"
+#include "data/fieldtitles.h"
 #include "import/texts.h"
 
 #include <algorithm>
@@ -133,7 +134,9 @@ QString ImportPlan::proposal(const QString &heading) const
         if (essence(column.field) == wanted)
             return column.field;
     }
-    const QString field = fieldTitled([&](const QString &title) { return title == wanted; });
+    QString field = fieldTitled([&](const QString &title) { return title == wanted; });
+    if (field.isEmpty())
+        field = fieldCalled(wanted);
     if (!field.isEmpty() || wanted.size() < shortestPart)
         return field;
     return fieldTitled([&](const QString &title) {
@@ -154,6 +157,16 @@ QString ImportPlan::fieldTitled(const std::function<bool(const QString &)> &fits
             found = &column;
     }
     return found ? found->field : QString();
+}
+
+QString ImportPlan::fieldCalled(const QString &wanted) const
+{
+    const auto isCalled = [&wanted](const ImportColumn &column) {
+        const QStringList words = fieldWords(column.field);
+        return std::ranges::any_of(words, [&](const QString &word) { return essence(word) == wanted; });
+    };
+    const auto found = std::ranges::find_if(m_kind->columns, isCalled);
+    return found == m_kind->columns.end() ? QString() : found->field;
 }
 
 bool ImportPlan::isTaken(const QString &field) const

@@ -66,6 +66,7 @@ private:
     void readFirstRows(ImportRows &rows, Progress *progress);
     void propose();
     QString proposal(const QString &heading) const;
+    QString fieldCalled(const QString &wanted) const; // by a word that is known for it, in other letters
     QString fieldTitled(const std::function<bool(const QString &)> &fits) const;
     bool isTaken(const QString &field) const; // by a column, or another field with the same meaning is
 

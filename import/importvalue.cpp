@@ -93,11 +93,17 @@ Value date(const ImportColumn &column, const QString &text)
     return date;
 }
 
-Value boolean(const ImportColumn &column, const QString &text)
+Value boolean(const ImportColumn &column, const QString &text, bool takesYesAndNo)
 {
-    if (text.compare("true"_L1, Qt::CaseInsensitive) == 0)
+    QStringList yes{u"true"_s};
+    QStringList no{u"false"_s};
+    if (takesYesAndNo) {
+        yes << u"yes"_s << ImportTexts::tr("true") << ImportTexts::tr("yes");
+        no << u"no"_s << ImportTexts::tr("false") << ImportTexts::tr("no");
+    }
+    if (yes.contains(text, Qt::CaseInsensitive))
         return true;
-    if (text.compare("false"_L1, Qt::CaseInsensitive) == 0)
+    if (no.contains(text, Qt::CaseInsensitive))
         return false;
     refuse(column, text, ImportTexts::tr("is neither true nor false"));
 }
@@ -119,12 +125,12 @@ Value textValue(const ImportColumn &column, const QString &text)
 
 } // namespace
 
-Value importValue(const ImportColumn &column, const QString &given, bool mayHaveDecimalComma)
+Value importValue(const ImportColumn &column, const QString &given, ValueReading reading)
 {
     // Blanks around a number or a date are nobody's meaning; a text is kept as it stands.
     const bool isText = column.type == FieldType::Text || column.type == FieldType::Memo;
     QString text = isText ? given : given.trimmed();
-    if (mayHaveDecimalComma && !isText && !text.contains(u'.') && text.count(u',') == 1)
+    if (reading.mayHaveDecimalComma && !isText && !text.contains(u'.') && text.count(u',') == 1)
         text.replace(u',', u'.');
     if (text.isEmpty())
         return {};
@@ -142,7 +148,7 @@ Value importValue(const ImportColumn &column, const QString &given, bool mayHave
     case FieldType::Money:
         return Engine::Money::fromDouble(realNumber(column, text));
     case FieldType::Boolean:
-        return boolean(column, text);
+        return boolean(column, text, reading.takesYesAndNo);
     case FieldType::Date:
     case FieldType::DateTime:
         return date(column, text);

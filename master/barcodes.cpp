@@ -102,6 +102,12 @@ std::optional<int> itemOfExactCode(Engine::Database &database, const QString &co
     return numbered.isNull() ? itemOfBarcode(database, code) : std::optional(numbered.toInt());
 }
 
+QString nameOfCode(Engine::Database &database, const QString &code)
+{
+    const std::optional<int> item = itemOfCode(database, code);
+    return item ? itemName(database, *item) : QString();
+}
+
 QStringList barcodesOf(Engine::Database &database, int itemId)
 {
     QStringList codes;

@@ -19,6 +19,8 @@ constexpr int barcodeSize = 80; // letters
 std::optional<int> itemOfCode(Engine::Database &database, const QString &code);
 // The same with the number exactly as it stands, by indexes alone.
 std::optional<int> itemOfExactCode(Engine::Database &database, const QString &code);
+// The description of that; empty for none.
+QString nameOfCode(Engine::Database &database, const QString &code);
 // By a barcode alone.
 std::optional<int> itemOfBarcode(Engine::Database &database, const QString &code);
 

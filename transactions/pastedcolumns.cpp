@@ -1,8 +1,8 @@
 #include "transactions/pastedcolumns.h"
 
 #include "data/fields.h"
+#include "data/fieldtitles.h"
 #include "engine/values/foldedtext.h"
-#include "transactions/texts.h"
 
 #include <algorithm>
 #include <QSet>
@@ -57,25 +57,11 @@ private:
 
     bool isTaken(const QString &field) const { return m_found.fields.contains(field); }
 
-    // The words that a column may be called by, besides its title and its field.
-    QString otherTitles(const QString &field) const
-    {
-        if (field == quantityField())
-            return TransactionsTexts::tr("quantity, qty, number of units, pieces");
-        if (field == Fields::ItemNo)
-            return TransactionsTexts::tr("item, item no, item number, no, number, article, article no, sku, code");
-        if (field == Fields::ItemDescription)
-            return TransactionsTexts::tr("description, item description, item name, name");
-        if (field == Fields::UnitCost)
-            return TransactionsTexts::tr("unit cost, cost, unit price, price");
-        return {};
-    }
-
     QString fieldOfTitle(const QString &cell) const
     {
         const QString letters = lettersOf(cell);
         for (const GridColumn &column : m_kind.entry.lineColumns) {
-            QStringList titles = otherTitles(column.field).split(u',');
+            QStringList titles = fieldWords(column.field);
             titles << column.title << column.field;
             const bool isCalled = std::any_of(titles.cbegin(), titles.cend(),
                                               [&](const QString &title) { return lettersOf(title) == letters; });

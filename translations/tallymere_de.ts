@@ -1291,6 +1291,26 @@ Lassen Sie alle das Programm schließen, und versuchen Sie es erneut. Wenn das n
         <source>Zip Code</source>
         <translation>PLZ</translation>
     </message>
+    <message>
+        <source>quantity, qty, number of units, pieces</source>
+        <translation>menge, anzahl, stück, stückzahl, mge, quantity, qty</translation>
+    </message>
+    <message>
+        <source>description, item description, item name, name</source>
+        <translation>beschreibung, artikelbeschreibung, bezeichnung, artikelbezeichnung, artikelname, name, description</translation>
+    </message>
+    <message>
+        <source>item, item no, item number, no, number, article, article no, sku, code</source>
+        <translation>artikel, artikelnr, art nr, artikelnummer, nr, nummer, sachnummer, materialnummer, item, item no, sku, code</translation>
+    </message>
+    <message>
+        <source>standard cost, std cost</source>
+        <translation>standardkosten, standardpreis, standard cost</translation>
+    </message>
+    <message>
+        <source>unit cost, cost, unit price, price</source>
+        <translation>einstandspreis, preis, stückpreis, einzelpreis, kosten, stückkosten, ek, unit cost, unit price</translation>
+    </message>
 </context>
 <context>
     <name>DateDialog</name>
@@ -2480,6 +2500,22 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
     <message>
         <source>Reading %1</source>
         <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>true</source>
+        <translation>wahr</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>false</source>
+        <translation>falsch</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
     </message>
 </context>
 <context>
@@ -4486,6 +4522,10 @@ Die Salden des Hauptbuchs usw. wurden vorgetragen, sodass Sie jetzt die Abschlü
         <source>&apos;%1&apos; is not in the list</source>
         <translation>„%1“ ist nicht in der Liste</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is not in the list: %2</source>
+        <translation>&apos;%1&apos; ist nicht in der Liste: %2</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::DatePicker</name>
@@ -6249,7 +6289,7 @@ unter %2</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation>Öffnen</translation>
+        <translation>Offen</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -6321,6 +6361,14 @@ unter %2</translation>
     <message>
         <source>Reading %1</source>
         <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>Check &amp;Rows</source>
+        <translation>Zeilen &amp;prüfen</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
     </message>
 </context>
 <context>
@@ -9180,22 +9228,6 @@ Make changes or press Esc to undo</source>
     <message>
         <source>Lines changed: %1. Lines added: %2. Lines deleted: %3.</source>
         <translation>Positionen geändert: %1. Positionen hinzugefügt: %2. Positionen gelöscht: %3.</translation>
-    </message>
-    <message>
-        <source>quantity, qty, number of units, pieces</source>
-        <translation>menge, anzahl, stück, stückzahl, mge, quantity, qty</translation>
-    </message>
-    <message>
-        <source>item, item no, item number, no, number, article, article no, sku, code</source>
-        <translation>artikel, artikelnr, art nr, artikelnummer, nr, nummer, sachnummer, materialnummer, item, item no, sku, code</translation>
-    </message>
-    <message>
-        <source>description, item description, item name, name</source>
-        <translation>beschreibung, artikelbeschreibung, bezeichnung, artikelbezeichnung, artikelname, name, description</translation>
-    </message>
-    <message>
-        <source>unit cost, cost, unit price, price</source>
-        <translation>einstandspreis, preis, stückpreis, einzelpreis, kosten, stückkosten, ek, unit cost, unit price</translation>
     </message>
     <message>
         <source>There are no rows to paste. Copy the cells in the spreadsheet first, then paste them here.</source>

@@ -1291,6 +1291,26 @@ Haga que todos cierren el programa e inténtelo de nuevo. Si no da resultado, re
         <source>Zip Code</source>
         <translation>Cód. postal</translation>
     </message>
+    <message>
+        <source>quantity, qty, number of units, pieces</source>
+        <translation>cantidad, cant, número de unidades, unidades, piezas, quantity, qty, number of units, pieces</translation>
+    </message>
+    <message>
+        <source>description, item description, item name, name</source>
+        <translation>descripción, descripción de artículo, nombre de artículo, nombre, description, item description, item name, name</translation>
+    </message>
+    <message>
+        <source>item, item no, item number, no, number, article, article no, sku, code</source>
+        <translation>artículo, n.º artículo, n.º de artículo, número de artículo, n.º, número, código de artículo, código, referencia, ref, item, item no, item number, no, number, article, article no, sku, code</translation>
+    </message>
+    <message>
+        <source>standard cost, std cost</source>
+        <translation>costo estándar, coste estándar, costo std, standard cost</translation>
+    </message>
+    <message>
+        <source>unit cost, cost, unit price, price</source>
+        <translation>costo unitario, coste unitario, costo, coste, costo unit, precio unitario, precio, unit cost, cost, unit price, price</translation>
+    </message>
 </context>
 <context>
     <name>DateDialog</name>
@@ -2480,6 +2500,22 @@ tabla de ubicaciones de Ledgerwick?</translation>
     <message>
         <source>Reading %1</source>
         <translation>Leyendo %1</translation>
+    </message>
+    <message>
+        <source>true</source>
+        <translation>verdadero</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>false</source>
+        <translation>falso</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
     </message>
 </context>
 <context>
@@ -4486,6 +4522,10 @@ Los saldos contables ya se han traspasado, etc., de modo que ahora puede imprimi
         <source>&apos;%1&apos; is not in the list</source>
         <translation>«%1» no está en la lista</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is not in the list: %2</source>
+        <translation>&apos;%1&apos; no está en la lista: %2</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::DatePicker</name>
@@ -6249,7 +6289,7 @@ al %2</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation>Abrir</translation>
+        <translation>Pendiente</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -6321,6 +6361,14 @@ al %2</translation>
     <message>
         <source>Reading %1</source>
         <translation>Leyendo %1</translation>
+    </message>
+    <message>
+        <source>Check &amp;Rows</source>
+        <translation>Comprobar &amp;filas</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
     </message>
 </context>
 <context>
@@ -9180,22 +9228,6 @@ Haga cambios o pulse Esc para deshacer</translation>
     <message>
         <source>Lines changed: %1. Lines added: %2. Lines deleted: %3.</source>
         <translation>Líneas modificadas: %1. Líneas añadidas: %2. Líneas eliminadas: %3.</translation>
-    </message>
-    <message>
-        <source>quantity, qty, number of units, pieces</source>
-        <translation>cantidad, cant, número de unidades, unidades, piezas, quantity, qty, number of units, pieces</translation>
-    </message>
-    <message>
-        <source>item, item no, item number, no, number, article, article no, sku, code</source>
-        <translation>artículo, n.º artículo, número de artículo, n.º, número, código de artículo, código, referencia, ref, item, item no, item number, no, number, article, article no, sku, code</translation>
-    </message>
-    <message>
-        <source>description, item description, item name, name</source>
-        <translation>descripción, descripción de artículo, nombre de artículo, nombre, description, item description, item name, name</translation>
-    </message>
-    <message>
-        <source>unit cost, cost, unit price, price</source>
-        <translation>costo unitario, coste unitario, costo, coste, costo unit, precio unitario, precio, unit cost, cost, unit price, price</translation>
     </message>
     <message>
         <source>There are no rows to paste. Copy the cells in the spreadsheet first, then paste them here.</source>

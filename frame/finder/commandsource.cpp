@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -39,10 +40,26 @@ QList<Entry> entriesOf(const QList<QAction *> &actions, const QStringList &menus
     return entries;
 }
 
+// Those of the menus, and actions that a window has besides, as for its buttons.
+QList<Entry> entriesOf(const QMenuBar &menus, const QObject &actions)
+{
+    QList<Entry> all = entriesOf(menus.actions(), {});
+    QSet<QString> known;
+    for (const Entry &entry : std::as_const(all))
+        known.insert(entry.action->property("action").toString());
+    const auto besides = actions.findChildren<QAction *>();
+    for (QAction *action : besides) {
+        if (action->isEnabled() && !known.contains(action->objectName()))
+            all.append(Entry{action, {}});
+    }
+    return all;
+}
+
 // The command of the main window that an entry stands for, and may be short for.
 const MainCommand *commandOf(const QAction &entry)
 {
-    const QString name = entry.property("action").toString();
+    const QString called = entry.property("action").toString();
+    const QString name = called.isEmpty() ? entry.objectName() : called;
     const auto command = std::find_if(commands().begin(), commands().end(),
                                       [&name](const MainCommand &one) { return one.action == name; });
     return command == commands().end() ? nullptr : &*command;
@@ -84,8 +101,9 @@ Finding finding(const Entry &entry, const QString &title, TextMatch::Rank rank)
 
 } // namespace
 
-CommandSource::CommandSource(const QMenuBar &menus)
+CommandSource::CommandSource(const QMenuBar &menus, const QObject &actions)
     : m_menus(menus)
+    , m_actions(actions)
 {
 }
 
@@ -94,7 +112,7 @@ QString CommandSource::caption() const { return FrameTexts::tr("Commands"); }
 QList<Finding> CommandSource::find(const Wanted &wanted)
 {
     QList<Finding> findings;
-    for (const Entry &entry : entriesOf(m_menus.actions(), {})) {
+    for (const Entry &entry : entriesOf(m_menus, m_actions)) {
         const QString title = titleOf(*entry.action);
         const TextMatch::Rank rank = rankOf(wanted.match, title, entry);
         if (rank == TextMatch::Rank::None)
@@ -108,7 +126,7 @@ QList<Finding> CommandSource::find(const Wanted &wanted)
 
 std::optional<Finding> CommandSource::findById(const QString &id)
 {
-    for (const Entry &entry : entriesOf(m_menus.actions(), {})) {
+    for (const Entry &entry : entriesOf(m_menus, m_actions)) {
         if (idOf(entry) == id)
             return finding(entry, titleOf(*entry.action), TextMatch::Rank::None);
     }

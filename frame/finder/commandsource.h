@@ -4,6 +4,7 @@
 
 class QAction;
 class QMenuBar;
+class QObject;
 
 namespace Tallymere {
 
@@ -11,7 +12,8 @@ namespace Tallymere {
 class CommandSource final : public FindSource
 {
 public:
-    explicit CommandSource(const QMenuBar &menus); // which outlives it
+    // Of the menus, and of actions that stand in none of them; both outlive it.
+    CommandSource(const QMenuBar &menus, const QObject &actions);
 
     QString caption() const override;
     QList<Finding> find(const Wanted &wanted) override;
@@ -19,6 +21,7 @@ public:
 
 private:
     const QMenuBar &m_menus;
+    const QObject &m_actions;
 };
 
 } // namespace Tallymere

@@ -195,7 +195,8 @@ void TfrmImport::showUnchecked()
     m_result = {};
     addGrid();
     m_ui->lblRows->setText(tr("The rows have not been checked."));
-    m_ui->btnOK->setEnabled(false);
+    m_ui->btnOK->setText(tr("Check &Rows"));
+    m_ui->btnOK->setEnabled(true);
 }
 
 int TfrmImport::refusedRows() const
@@ -220,7 +221,8 @@ void TfrmImport::showResult()
             plural(count, tr("%n document can be imported."), tr("%n documents can be imported.")));
     else
         m_ui->lblRows->setText(plural(count, tr("%n record can be imported."), tr("%n records can be imported.")));
-    m_ui->btnOK->setEnabled(m_isChecked && refused == 0 && count > 0);
+    m_ui->btnOK->setText(tr("&Import"));
+    m_ui->btnOK->setEnabled(refused == 0 && count > 0);
 }
 
 void TfrmImport::showStep()
@@ -235,6 +237,8 @@ void TfrmImport::showStep()
 
 void TfrmImport::btnOKClick()
 {
+    if (!m_isChecked) // that has been cancelled
+        return check();
     const bool yes = m_ui->chkYes->isChecked();
     ImportResult result;
     workBeside(this, tr("Importing %1").arg(m_ui->lblFile->text()), context().data.databaseTallymere(),

@@ -39,7 +39,7 @@ struct ImportScreen : ScreenTest
 
 TEST_F(ImportScreen, ShowsWhatIsWrongAndTakesAllRowsOnceNothingIs)
 {
-    open("ItemNo,Words,TypeName\nN1,New,Food\nN2,Newer,Foot\n");
+    open("ItemNo,Words,TypeName,StandardCost\nN1,New,Food,cheap\nN2,Newer,Foot,\n");
     EXPECT_EQ(told(), u"1 row cannot be imported, so none is."_s);
     EXPECT_TRUE(cell(0, 1).contains(u"'Description' is missing"_s)) << qPrintable(cell(0, 1));
     EXPECT_FALSE(isReady());
@@ -47,15 +47,15 @@ TEST_F(ImportScreen, ShowsWhatIsWrongAndTakesAllRowsOnceNothingIs)
     auto &field = part<QComboBox>(u"cboColumn2"_s);
     field.setCurrentIndex(field.findData(u"ItemDescription"_s));
     Q_EMIT field.activated(field.currentIndex());
-    EXPECT_EQ(cell(0, 1), QString());
+    EXPECT_EQ(cell(0, 1), u"Standard Cost 'cheap' is not a number"_s);
     EXPECT_EQ(cell(1, 1), u"Item type 'Foot' not found"_s);
     EXPECT_EQ(cell(1, 0), u"3"_s);
     EXPECT_FALSE(isReady());
     screen->reject();
 
     // As a program with decimal commas writes it.
-    open("Items, new ones\n;;;\nItemNo;Item description;TypeName;StandardCost\nN1;\"New; 1,5\";Food; 1,5 "
-         "\nN2;Newer;Food;\n");
+    open("Items, new ones\n;;;\nItemNo;Item description;TypeName;Std. cost;Suspended\nN1;\"New; 1,5\";Food; 1,5 ;"
+         "no\nN2;Newer;Food;;\n");
     auto &head = part<QSpinBox>(u"spinHead"_s);
     head.setValue(3);
     Q_EMIT head.editingFinished();

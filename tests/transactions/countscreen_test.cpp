@@ -463,4 +463,11 @@ TEST_F(CountScreenTest, aScannedCodeGoesToItsItemWhateverCellItIsIn)
     prompts.ok = true;
     search("4006381333931");
     EXPECT_EQ(cursor(), u"A11"_s) << "typed as well";
+    kitchen.execute(u"INSERT INTO Item (ItemID, ItemNo, ItemDescription) VALUES (50, 'Z1', 'Zest')"_s);
+    search("Z1");
+    EXPECT_EQ(notFound(), u"'Z1' is not in the list: Zest"_s);
+    prompts.take();
+    prompts.ok = false;
+    search("9783161484100");
+    EXPECT_TRUE(prompts.told().startsWith(u"Confirm: No item has the code"_s)) << "in the search box as well";
 }

@@ -6,6 +6,7 @@
 #include "transactions/countlist.h"
 #include "transactions/screens/countgrid.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,14 +14,27 @@
 
 namespace Tallymere {
 
-CountSearch::CountSearch(QLineEdit &box, QLabel &notFound, const CountList &list, CountGrid &grid,
-                         ItemOfBarcode itemOfBarcode)
+namespace {
+
+// What is typed in search of a name has blanks, and an item's own number is shorter.
+bool looksLikeBarcode(const QString &text)
+{
+    constexpr int fewestLetters = 8; // EAN-8
+    const auto isDigit = [](QChar letter) { return letter.isDigit(); };
+    const auto isBlank = [](QChar letter) { return letter.isSpace(); };
+    return text.size() >= fewestLetters && std::ranges::any_of(text, isDigit)
+        && std::ranges::none_of(text, isBlank);
+}
+
+} // namespace
+
+CountSearch::CountSearch(QLineEdit &box, QLabel &notFound, const CountList &list, CountGrid &grid, Items items)
     : QObject(&box)
     , m_box(box)
     , m_notFound(notFound)
     , m_list(list)
     , m_grid(grid)
-    , m_itemOfBarcode(std::move(itemOfBarcode))
+    , m_items(std::move(items))
 {
     connect(&box, &QLineEdit::textEdited, this, &CountSearch::typed);
 }
@@ -41,12 +55,11 @@ void CountSearch::typed(const QString &text)
     show(m_list.rowStartingWith(text));
 }
 
-void CountSearch::enter(const QString &text)
+void CountSearch::refuseCode(const QString &code)
 {
-    m_box.setText(text);
-    enter();
-    if (!m_unknown.isEmpty())
-        m_box.setFocus();
+    m_box.setText(code);
+    start();
+    refuseUnknown(code);
 }
 
 // An item number or a barcode leads to its item whatever the order is.
@@ -61,8 +74,9 @@ void CountSearch::enter()
     const int numbered = rowOfCode(text);
     const int row = numbered >= 0 ? numbered : m_list.rowStartingWith(text);
     if (row < 0) {
-        m_unknown = Engine::excerpt(text);
-        return refuse(tr("'%1' is not in the list").arg(m_unknown));
+        if (refuseUnknown(text) && looksLikeBarcode(text))
+            Q_EMIT unknownCode(text);
+        return;
     }
     forgetUnknown();
     show(row);
@@ -74,7 +88,7 @@ int CountSearch::rowOfCode(const QString &text) const
     const int numbered = m_list.rowOfNumber(text);
     if (numbered >= 0)
         return numbered;
-    const std::optional<int> item = m_itemOfBarcode(text);
+    const std::optional<int> item = m_items.ofBarcode(text);
     return item ? m_list.rowOfItem(*item) : -1;
 }
 
@@ -87,7 +101,18 @@ bool CountSearch::isQuantityOfUnknown(const QString &text) const
     bool isNumber = false;
     const QString number = QString(text).replace(RegionalSettings::system().decimalPoint, u'.').trimmed();
     const double quantity = QLocale::c().toDouble(number, &isNumber);
-    return isNumber && (quantity < firstNumber || rowOfCode(text.trimmed()) < 0);
+    return isNumber && !looksLikeBarcode(text) && (quantity < firstNumber || rowOfCode(text.trimmed()) < 0);
+}
+
+bool CountSearch::refuseUnknown(const QString &text)
+{
+    m_unknown = Engine::excerpt(text);
+    const QString name = m_items.nameOf(text);
+    if (name.isEmpty())
+        refuse(tr("'%1' is not in the list").arg(m_unknown));
+    else
+        refuse(tr("'%1' is not in the list: %2").arg(m_unknown, name));
+    return name.isEmpty();
 }
 
 // Where who counts looks, and to be heard by who does not.

@@ -71,7 +71,10 @@ TFormEnterInventory::TFormEnterInventory(ScreenContext &context, QWidget *parent
         guard());
     m_search = new CountSearch(
         *m_ui->wwIncrementalSearch1, *m_ui->lblNotFound, m_count.list(), *m_ui->wwDBGridInventory,
-        [this](const QString &code) { return itemOfBarcode(this->context().data.databaseTallymere(), code); });
+        {.ofBarcode =
+             [this](const QString &code) { return itemOfBarcode(this->context().data.databaseTallymere(), code); },
+         .nameOf =
+             [this](const QString &code) { return nameOfCode(this->context().data.databaseTallymere(), code); }});
     fillLocations();
     connectControls();
     dateChosen();
@@ -99,6 +102,8 @@ void TFormEnterInventory::connectControls()
     connect(m_ui->cboSearchOrder, &QComboBox::activated, this,
             [this](int order) { sortBy(static_cast<CountList::Order>(order)); });
     connect(m_search, &CountSearch::found, this, [this] { showStatus(); });
+    connect(m_search, &CountSearch::unknownCode, this,
+            [this](const QString &code) { guard().run([&] { takeScan(code); }); });
     connect(m_ui->wwDBGridInventory, &CountGrid::itemShown, this, [this] {
         m_overtaken.reset();
         showStatus();
@@ -136,10 +141,12 @@ void TFormEnterInventory::takeScan(const QString &code)
 {
     const std::optional<int> item = scannedItem(context(), this, code, m_count.location());
     const int row = item ? m_count.list().rowOfItem(*item) : -1;
-    if (row >= 0)
+    if (row >= 0) {
+        m_search->forgetUnknown();
         m_ui->wwDBGridInventory->countItem(row);
-    else
-        m_search->enter(code); // which says so
+    } else {
+        m_search->refuseCode(code);
+    }
 }
 
 // --- the location -----------------------------------------------------------------------------------------------
