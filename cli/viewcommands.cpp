@@ -7,6 +7,7 @@
 #include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/records/table.h"
+#include "import/importablerows.h"
 #include "insight/stockasofview.h"
 #include "master/masterkinds.h"
 #include "transactions/documentkinds.h"
@@ -150,10 +151,30 @@ void writeAudit(CommandContext &context, Engine::Database &database)
     writeRows(context, view.query(), columnsOf(fields));
 }
 
+const ImportKind &requireImportKind(const CommandContext &context, const QString &name)
+{
+    const ImportKind *kind = findImportKind(name);
+    if (!kind)
+        throw UsageError(Texts::tr("'%1' cannot be imported").arg(name));
+    if (context.arguments.has(u"filter"_s))
+        throw UsageError(Texts::tr("--for-import and --filter exclude each other"));
+    return *kind;
+}
+
+void writeForImport(CommandContext &context, Engine::Database &database, const ImportKind &kind)
+{
+    ConsoleProgress progress(context.console, Texts::tr("Writing"));
+    writeTable(context, kind.name, [&](RowWriter &writer) { writeImportable(database, kind, writer, progress); });
+}
+
 void runList(CommandContext &context)
 {
     const ListKind &kind = requireListKind(context.arguments.words().at(1));
+    const ImportKind *importable =
+        context.arguments.has(u"for-import"_s) ? &requireImportKind(context, kind.name) : nullptr;
     const auto data = context.openData();
+    if (importable)
+        return writeForImport(context, data->databaseTallymere(), *importable);
     if (kind.name == auditKind)
         return writeAudit(context, data->databaseTallymere());
     Engine::TableReader table(data->databaseTallymere(), kind.layout->name);
@@ -198,6 +219,11 @@ Command listCommand()
     command.summary = Texts::tr("a list of master records or documents as CSV, all fields");
     command.details = Texts::tr("KIND: %1").arg(namesOf(listKinds()));
     command.options = csvOptions() << filterOption() << standbyOption();
+    command.options +=
+        {u"for-import"_s,
+         {},
+         Texts::tr("the columns that 'import' takes, with numbers and names in place of keys; of documents "
+                   "all lines")};
     command.run = runList;
     return command;
 }

@@ -245,6 +245,8 @@ void TFormTallymereSystem::fillContext()
                              QWidget *window) { return m_imports->import(kind, file, window); },
         .takeBackImport = [this](const QString &kind,
                                  QWidget *window) { return m_imports->takeBack(kind, window); },
+        .saveForImport = [this](const QString &kind, const QString &caption,
+                                QWidget *window) { m_imports->saveForImport(kind, caption, window); },
         .showItem = [this](int item) { showItemCard(*m_context, item, this); },
         .showHelp = [this](const QString &screenName) { m_help->showTopic(screenName); },
     });

@@ -148,6 +148,7 @@ ImportKind documentKind(const DocumentKind &document)
     kind.keyField = document.keyField;
     kind.numberField = document.numberField.value_or(QString());
     kind.keyTables = document.keyTables();
+    kind.lineTable = document.lineTable;
     kind.makeList = makesList<DocumentList>(document);
     kind.makeTarget = [&document](const ImportRun &run) { return std::make_unique<DocumentImport>(run, document); };
     return kind;

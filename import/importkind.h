@@ -65,6 +65,7 @@ struct ImportKind
     QString keyField; // of what is written
     QString numberField; // that users know it by, and that is given once; empty: none
     QStringList keyTables; // in which its key stands, its own first
+    QString lineTable = {}; // of documents
     std::function<std::unique_ptr<RecordList>(Engine::Database &)> makeList; // that deletes what was written; open
 
     bool hasLines() const;

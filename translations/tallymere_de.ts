@@ -2517,6 +2517,18 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
         <source>no</source>
         <translation>nein</translation>
     </message>
+    <message>
+        <source>Save for an Import</source>
+        <translation>Für einen Import speichern</translation>
+    </message>
+    <message>
+        <source>XLSX files</source>
+        <translation>XLSX-Dateien</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>%1 wird gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>
@@ -5265,6 +5277,10 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
     <message>
         <source>Reading the rows of the list</source>
         <translation>Die Zeilen der Liste werden gelesen</translation>
+    </message>
+    <message>
+        <source>Save &amp;for an Import...</source>
+        <translation>Für einen Import spe&amp;ichern...</translation>
     </message>
 </context>
 <context>

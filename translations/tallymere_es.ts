@@ -2517,6 +2517,18 @@ tabla de ubicaciones de Ledgerwick?</translation>
         <source>no</source>
         <translation>no</translation>
     </message>
+    <message>
+        <source>Save for an Import</source>
+        <translation>Guardar para importar</translation>
+    </message>
+    <message>
+        <source>XLSX files</source>
+        <translation>Archivos XLSX</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>Guardando %1</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>
@@ -5265,6 +5277,10 @@ Haga clic para volver a mostrar todos los registros.</translation>
     <message>
         <source>Reading the rows of the list</source>
         <translation>Leyendo las filas de la lista</translation>
+    </message>
+    <message>
+        <source>Save &amp;for an Import...</source>
+        <translation>Guardar para imp&amp;ortar...</translation>
     </message>
 </context>
 <context>

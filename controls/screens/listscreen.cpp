@@ -317,20 +317,22 @@ void ListScreen::print(const QString &report)
 
 QList<ListCommand> ListScreen::importCommands()
 {
-    std::function<void()> import;
+    std::function<void()> bringIn;
     std::function<void()> takeBack;
+    std::function<void()> save;
     if (m_context.importFile)
-        import = [this] { importFile({});
-};
-if (m_context.takeBackImport) {
-    takeBack = [this] {
-        if (m_context.takeBackImport(m_importKind, this))
-            refreshList();
-    };
+        bringIn = [this] { importFile({}); };
+    if (m_context.takeBackImport)
+        takeBack = [this] {
+            if (m_context.takeBackImport(m_importKind, this))
+                refreshList();
+        };
+    if (m_context.saveForImport && m_context.chooseFileToSave)
+        save = [this] { m_context.saveForImport(m_importKind, m_caption, this); };
+    return {{.name = u"mnuImport"_s, .caption = tr("&Import..."), .run = bringIn, .separatorBefore = true},
+            {.name = u"mnuTakeBackImport"_s, .caption = tr("Take &Back Import..."), .run = takeBack},
+            {.name = u"mnuSaveForImport"_s, .caption = tr("Save &for an Import..."), .run = save}};
 }
-return {{.name = u"mnuImport"_s, .caption = tr("&Import..."), .run = import, .separatorBefore = true},
-        {.name = u"mnuTakeBackImport"_s, .caption = tr("Take &Back Import..."), .run = takeBack}};
-} // namespace Tallymere
 
 void ListScreen::importFile(const QString &file)
 {

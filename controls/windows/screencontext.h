@@ -56,6 +56,8 @@ struct ScreenContext
     std::function<bool(const QString &kind, const QString &file, QWidget *window)> importFile = {};
     // Takes back what was brought in last, over a window; true when it has gone.
     std::function<bool(const QString &kind, QWidget *window)> takeBackImport = {};
+    // Saves all records of a kind as a file that can be brought in again, over a window; the list's caption is proposed.
+    std::function<void(const QString &kind, const QString &caption, QWidget *window)> saveForImport = {};
     // Shows the card of an item, by its key. Empty: there is none to show.
     std::function<void(int item)> showItem = {};
     // Opens the help at a screen's topic, named by the screen. Empty: no help, and the command is disabled.

@@ -1,15 +1,19 @@
 #include "import/screens/importdesk.h"
 
 #include "base/plural.h"
+#include "base/savedfile.h"
+#include "base/xlsxwriter.h"
 #include "controls/screens/besidework.h"
 #include "controls/windows/filechoice.h"
 #include "data/datamodule.h"
 #include "data/lastchoices.h"
+#include "import/importablerows.h"
 #include "import/importplan.h"
 #include "import/screens/importscreen.h"
 #include "import/texts.h"
 
 #include <optional>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -87,6 +91,21 @@ bool ImportDesk::import(const QString &kind, QString file, QWidget *window)
     m_context.prompts.inform(plural(dialog.imported().count(), ImportTexts::tr("%n record was imported."),
                                     ImportTexts::tr("%n records were imported.")));
     return true;
+}
+
+void ImportDesk::saveForImport(const QString &kind, const QString &caption, QWidget *window) const
+{
+    const FileChoice choice{ImportTexts::tr("Save for an Import"), caption + ".xlsx"_L1,
+                            ImportTexts::tr("XLSX files"), u"xlsx"_s};
+    saveToChosenFile(m_context, window, choice, [&](const QString &file) {
+        workBeside(window, ImportTexts::tr("Saving %1").arg(QDir::toNativeSeparators(file)),
+                   m_context.data.databaseTallymere(), [&](Engine::Database &database, Progress &progress) {
+                       saveFile(file, [&](QIODevice &device) {
+                           XlsxWriter writer(device, caption);
+                           writeImportable(database, *findImportKind(kind), writer, progress);
+                       });
+                   });
+    });
 }
 
 bool ImportDesk::takeBack(const QString &kind, QWidget *window)

@@ -23,6 +23,9 @@ public:
     // Over a window. Without a file the user names one. True when something was brought in.
     bool import(const QString &kind, QString file, QWidget *window);
     bool takeBack(const QString &kind, QWidget *window);
+    // All records of the kind as a sheet that can be brought in again, under a name that the user chooses; the list's caption
+    // is proposed.
+    void saveForImport(const QString &kind, const QString &caption, QWidget *window) const;
 
 private:
     QString chooseFile(QWidget *window) const;

@@ -1,4 +1,6 @@
 // What is proposed for the columns of a file, and imports that are tried and taken back.
+#include "base/csvwriter.h"
+#include "import/importablerows.h"
 #include "import/importer.h"
 #include "import/importplan.h"
 #include "tests/support/files.h"
@@ -60,6 +62,36 @@ TEST_P(Imports, TellWhatTheStoreRefusesOfItsOwnRow)
     ASSERT_EQ(errors.size(), 1);
     EXPECT_EQ(errors.front().line, 4);
     EXPECT_EQ(count(u"IReceipt"_s) + count(u"IRecDet"_s), 0);
+}
+
+// Into other books, where other keys stand for the same.
+TEST_P(Imports, BringInWhatOtherBooksHaveSavedForThem)
+{
+    kitchen.execute(u"UPDATE ItemType SET Inventory = true, CostingMethod = 2; "
+                    "UPDATE Item SET Suspended = false, StandardCost = 2.5, Notes = 'Two lines' WHERE ItemID < 3; "
+                    "UPDATE Vendor SET CurrencyID = 1, Suspended = false WHERE VendorID IN (2, 5)"_s);
+    import(u"receipts"_s, twoReceipts);
+    const auto saved = [this](Kitchen &from, const ImportKind &kind) {
+        QByteArray bytes;
+        QBuffer file(&bytes);
+        file.open(QIODevice::WriteOnly);
+        CsvWriter writer(file);
+        writeImportable(from.database(), kind, writer, progress);
+        return bytes;
+    };
+    Kitchen other(GetParam());
+    for (const ImportKind &kind : importKinds()) {
+        SCOPED_TRACE(qPrintable(kind.name));
+        QByteArray bytes = saved(kitchen, kind);
+        other.execute(u"DELETE FROM "_s + kind.keyTables.constFirst());
+        QBuffer file(&bytes);
+        file.open(QIODevice::ReadOnly);
+        const ImportResult result = importFile(other.database(), file, kind, true, progress);
+        for (const ImportErrors::Error &error : result.errors.inFileOrder())
+            ADD_FAILURE() << error.line << qPrintable(error.message);
+        EXPECT_EQ(QString::fromUtf8(saved(other, kind)), QString::fromUtf8(bytes));
+    }
+    EXPECT_EQ(other.value(u"SELECT count(*) FROM IRecDet"_s).toInt(), 3);
 }
 
 TEST_P(Imports, AreTakenBackInOneStep)
