@@ -2529,6 +2529,14 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
         <source>Saving %1</source>
         <translation>%1 wird gespeichert</translation>
     </message>
+    <message>
+        <source>%n document was imported.</source>
+        <translation>%n Beleg wurde importiert.</translation>
+    </message>
+    <message>
+        <source>%n documents were imported.</source>
+        <translation>%n Belege wurden importiert.</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>

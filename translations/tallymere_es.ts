@@ -2529,6 +2529,14 @@ tabla de ubicaciones de Ledgerwick?</translation>
         <source>Saving %1</source>
         <translation>Guardando %1</translation>
     </message>
+    <message>
+        <source>%n document was imported.</source>
+        <translation>Se ha importado %n documento.</translation>
+    </message>
+    <message>
+        <source>%n documents were imported.</source>
+        <translation>Se han importado %n documentos.</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>

@@ -88,8 +88,12 @@ bool ImportDesk::import(const QString &kind, QString file, QWidget *window)
         return false;
     headings.keep(dialog.plan().memory());
     m_imported.insert(kind, dialog.imported());
-    m_context.prompts.inform(plural(dialog.imported().count(), ImportTexts::tr("%n record was imported."),
-                                    ImportTexts::tr("%n records were imported.")));
+    const qint64 count = dialog.imported().count();
+    m_context.prompts.inform(dialog.plan().kind().hasLines()
+                                 ? plural(count, ImportTexts::tr("%n document was imported."),
+                                          ImportTexts::tr("%n documents were imported."))
+                                 : plural(count, ImportTexts::tr("%n record was imported."),
+                                          ImportTexts::tr("%n records were imported.")));
     return true;
 }
 
