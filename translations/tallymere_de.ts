@@ -5288,7 +5288,7 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
     </message>
     <message>
         <source>Save &amp;for an Import...</source>
-        <translation>Für einen Import spe&amp;ichern...</translation>
+        <translation>Fü&amp;r einen Import speichern...</translation>
     </message>
 </context>
 <context>
