@@ -3,7 +3,7 @@
 #include "base/ruleerror.h"
 #include "data/fields.h"
 #include "data/texts.h"
-#include "engine/records/tablereader.h"
+#include "engine/store/database.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,11 +47,30 @@ FiscalSettings FiscalSettings::of(const Engine::DataSet &company)
     };
 }
 
-FiscalSettings FiscalSettings::readFrom(Engine::Database &database)
+FiscalSettings FiscalSettings::readFrom(Engine::Database &database) { return from(*ask(database)); }
+
+Engine::StatementPtr FiscalSettings::ask(Engine::Database &database)
 {
-    Engine::TableReader company(database, u"Company"_s);
-    company.open();
-    return of(company);
+    Engine::StatementPtr row = database.connection().prepare(
+        u"SELECT FiscalYear, DefaultPeriodYYYY, DefaultPeriodPP, WPeriodFromYYYY, WPeriodFromPP, WPeriodToYYYY, "
+        "WPeriodToPP, EPeriodFromYYYY, EPeriodFromPP, EPeriodToYYYY, EPeriodToPP FROM Company ORDER BY CompanyNo "
+        "LIMIT 1"_s);
+    row->ask();
+    return row;
+}
+
+FiscalSettings FiscalSettings::from(Engine::Statement &asked)
+{
+    if (!asked.next())
+        return {};
+    const auto number = [&asked](int column) { return static_cast<int>(asked.intAt(column)); };
+    const auto period = [&number](int column) { return Period{number(column), number(column + 1)}; };
+    return {.fiscalYear = number(0),
+            .defaultPeriod = period(1),
+            .warnFrom = period(3),
+            .warnTo = period(5),
+            .errorFrom = period(7),
+            .errorTo = period(9)};
 }
 
 Period defaultPeriod(const FiscalSettings &settings, QDate date)

@@ -2,6 +2,7 @@
 
 #include "base/prompts.h"
 #include "engine/records/dataset.h"
+#include "engine/store/driver.h"
 
 #include <QDate>
 #include <QString>
@@ -33,6 +34,9 @@ struct FiscalSettings
 
     static FiscalSettings of(const Engine::DataSet &company);
     static FiscalSettings readFrom(Engine::Database &database); // as stored by now
+    // The same in two steps, so that it travels with what else is asked.
+    static Engine::StatementPtr ask(Engine::Database &database);
+    static FiscalSettings from(Engine::Statement &asked);
 };
 
 // For a new document, and what filters and reports begin with: each half from the default period when that is above zero,

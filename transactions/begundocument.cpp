@@ -7,6 +7,7 @@
 #include "engine/records/query.h"
 #include "engine/store/database.h"
 #include "engine/store/session.h"
+#include "engine/store/unawaitedchange.h"
 #include "engine/values/error.h"
 #include "engine/values/textsize.h"
 #include "transactions/documentkind.h"
@@ -125,8 +126,8 @@ void BegunDocument::keep(const Header &header)
 {
     if (m_isKept && m_header == header)
         return;
-    m_database.change([&] {
-        const Engine::StatementPtr row = m_database.connection().prepare(
+    m_database.write([&](Engine::Connection &connection) {
+        Engine::StatementPtr row = connection.prepare(
             u"INSERT INTO IBegun (TransType, DocumentID, SavedBy, SavedAt, Notes) VALUES (?, ?, ?, ?, ?) "
             "ON CONFLICT (TransType, DocumentID) DO UPDATE SET SavedBy = excluded.SavedBy, "
             "SavedAt = excluded.SavedAt, Notes = excluded.Notes"_s);
@@ -135,7 +136,7 @@ void BegunDocument::keep(const Header &header)
         row->bindText(2, userOf(m_database));
         row->bind(3, Engine::Value(m_database.session().now()));
         row->bindText(4, written(header));
-        row->execute();
+        return row;
     });
     m_isKept = true;
     m_header = header;
@@ -145,15 +146,28 @@ void BegunDocument::keep(const Header &header)
 void BegunDocument::end() noexcept
 {
     try {
-        if (m_isKept && (isStored() || lineCount() == 0))
-            forget();
+        if (m_isKept)
+            Engine::changeUnawaited(m_database, [this](Engine::Connection &) { return ofUseless(); });
     } catch (const Engine::EngineError &) {
     }
 }
 
+Engine::StatementPtr BegunDocument::ofUseless() const
+{
+    const QString rows = u"EXISTS (SELECT 1 FROM %1 WHERE %2 = ?)"_s;
+    Engine::StatementPtr statement =
+        m_database.connection().prepare(u"DELETE FROM IBegun WHERE TransType = ? AND DocumentID = ? AND ("_s
+                                        + rows.arg(m_kind.headerTable, m_kind.keyField) + u" OR NOT "_s
+                                        + rows.arg(m_kind.lineTable, m_kind.keyField) + u')');
+    statement->bindInt(0, static_cast<int>(m_kind.posting.transType));
+    for (int i = 1; i <= 3; ++i)
+        statement->bindInt(i, m_key);
+    return statement;
+}
+
 void BegunDocument::forget()
 {
-    m_database.change([this] { ofRow(u"DELETE FROM IBegun"_s)->execute(); });
+    m_database.write([this](Engine::Connection &) { return ofRow(u"DELETE FROM IBegun"_s); });
 }
 
 void BegunDocument::takeOut()

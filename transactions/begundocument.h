@@ -50,6 +50,7 @@ public:
 
 private:
     bool isStored() const;
+    Engine::StatementPtr ofUseless() const; // deletes the row where header or no lines are stored
     void forget();
     Engine::StatementPtr ofRow(const QString &sql) const;
 

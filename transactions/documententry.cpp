@@ -228,10 +228,11 @@ void DocumentEntry::HeaderRules::cancelled() { entry.endVisit(); }
 void DocumentEntry::newHeader()
 {
     beginVisit();
+    const Engine::StatementPtr fiscal = FiscalSettings::ask(database()); // it travels with what the numbers take
     assignNumbers();
     m_header.setDefault(m_kind.dateField, today());
     m_header.setDefault(Fields::Posted, false);
-    setFiscalDefaults();
+    setFiscalDefaults(FiscalSettings::from(*fiscal));
     presetHeader();
 }
 
@@ -252,9 +253,9 @@ void DocumentEntry::assignNumbers()
         m_header.setDefault(*m_kind.numberField, m_givenNumber);
 }
 
-void DocumentEntry::setFiscalDefaults()
+void DocumentEntry::setFiscalDefaults(const FiscalSettings &settings)
 {
-    const Period period = defaultPeriod(database(), today());
+    const Period period = defaultPeriod(settings, today());
     m_header.setDefault(Fields::GLPeriod, period.number);
     m_header.setDefault(Fields::GLYear, period.year);
 }
@@ -283,6 +284,7 @@ void DocumentEntry::checkHeader()
         return;
     checkComplete();
     m_lines.checkBrowseMode();
+    askReferences();
     checkPeriod();
     checkReferences();
     for (const QString &field : m_kind.entry.requiredFields)
@@ -319,9 +321,41 @@ void DocumentEntry::checkReferences()
     requireLines();
 }
 
-void DocumentEntry::requireLocation() const
+QList<std::pair<QString, QString>> DocumentEntry::references() const
 {
-    if (!Engine::hasRow(database(), u"Warehse"_s, Fields::WarehouseID, m_header.value(Fields::WarehouseID)))
+    return {{u"Warehse"_s, Fields::WarehouseID}};
+}
+
+void DocumentEntry::askReferences()
+{
+    m_references.clear();
+    const QList<std::pair<QString, QString>> wanted = references();
+    for (const auto &[table, keyField] : wanted) {
+        const Value key = m_header.value(keyField);
+        if (key.isNull())
+            continue;
+        Engine::StatementPtr row =
+            database().connection().prepare(u"SELECT %2 FROM %1 WHERE %2 = ?"_s.arg(table, keyField));
+        row->bind(0, key);
+        row->ask();
+        m_references.emplace_back(table, std::move(row));
+    }
+}
+
+bool DocumentEntry::hasReference(const QString &table, const QString &keyField)
+{
+    const auto asked =
+        std::ranges::find_if(m_references, [&table](const auto &each) { return each.first == table; });
+    if (asked == m_references.end())
+        return Engine::hasRow(database(), table, keyField, m_header.value(keyField));
+    const Engine::StatementPtr row = std::move(asked->second);
+    m_references.erase(asked);
+    return row->next();
+}
+
+void DocumentEntry::requireLocation()
+{
+    if (!hasReference(u"Warehse"_s, Fields::WarehouseID))
         throw RuleError(m_kind.entry.locationGone, Fields::WarehouseID);
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/prompts.h"
 #include "data/fields.h"
+#include "data/fiscalperiod.h"
 #include "data/numbercounter.h"
 #include "engine/records/table.h"
 #include "engine/store/database.h"
@@ -148,6 +149,8 @@ protected:
     virtual void presetHeader() { } // further defaults of a new header
     virtual void takenUp() { } // what the header keeps about all lines is to be made anew
     virtual void checkComplete() { } // before everything else when the header is saved
+    // What checkReferences() looks for, by table and key field; it is asked for together.
+    virtual QList<std::pair<QString, QString>> references() const;
     virtual void checkReferences(); // after the period: what the header names, and that there are lines
     virtual void checkLine(); // before a line gets its number and is written
     virtual double lineCost(); // of a unit, by which the amount of the line is judged
@@ -164,7 +167,8 @@ protected:
 
     // --- pieces for those ------------------------------------------------------------------------------------
     void requireHeaderField(const QString &field, const QString &column) const; // "Field '...' must have a value"
-    void requireLocation() const;
+    bool hasReference(const QString &table, const QString &keyField); // the header names a row of it
+    void requireLocation();
     void requireLines() const;
     const LineCheck &lineCheck() const { return m_check; }
 
@@ -208,9 +212,10 @@ private:
     void assignNumbers();
     void refusePosted() const;
     void headerEdited();
-    void setFiscalDefaults();
+    void setFiscalDefaults(const FiscalSettings &settings);
     void checkHeader();
     void checkPeriod();
+    void askReferences();
 
     void lockLines();
     void beginLineChange(LineChange change);
@@ -242,6 +247,7 @@ private:
     };
     TakenOut currentLine() const;
     std::optional<TakenOut> m_takenOut;
+    std::vector<std::pair<QString, Engine::StatementPtr>> m_references; // asked for, by table
     QString m_givenNumber; // of the new document, from a file that has one; empty: the counter gives it
     std::unique_ptr<BegunDocument> m_begun; // since the first line of a new document
     QDate m_distantDate; // that the user wants all the same

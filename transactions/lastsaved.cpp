@@ -7,6 +7,7 @@
 #include "engine/store/groupedwrites.h"
 #include "engine/store/session.h"
 #include "engine/store/sqlcondition.h"
+#include "engine/store/unawaitedchange.h"
 #include "engine/values/textsize.h"
 
 using namespace Qt::StringLiterals;
@@ -32,7 +33,7 @@ Engine::StatementPtr remembering(Engine::Database &database, TransType type, qin
 
 void rememberSaved(Engine::Database &database, TransType type, qint64 document)
 {
-    database.change([&] { database.connection().write(*remembering(database, type, document)); });
+    Engine::changeUnawaited(database, [&](Engine::Connection &) { return remembering(database, type, document); });
 }
 
 void rememberSaved(Engine::Database &database, TransType type, qint64 document, Engine::Writes &writes)

@@ -43,13 +43,18 @@ std::vector<PostingDocument> readHeaders(Engine::Connection &connection, const D
     return documents;
 }
 
-void readLines(Engine::Connection &connection, const DocumentKind &kind, const QString &keys,
-               std::vector<PostingDocument> &documents)
+Engine::StatementPtr askLines(Engine::Connection &connection, const DocumentKind &kind, const QString &keys)
 {
     const QString key = u"L."_s + kind.keyField;
-    const Engine::StatementPtr rows = connection.prepare(u"SELECT %1, %2 FROM %3 WHERE %4 ORDER BY %1, L.Seq"_s.arg(
+    Engine::StatementPtr rows = connection.prepare(u"SELECT %1, %2 FROM %3 WHERE %4 ORDER BY %1, L.Seq"_s.arg(
         key, kind.posting.lineColumns, kind.posting.lines, connection.dialect().inNumberList(key)));
     rows->bindText(0, keys);
+    rows->ask();
+    return rows;
+}
+
+void readLines(const Engine::StatementPtr &rows, const DocumentKind &kind, std::vector<PostingDocument> &documents)
+{
     // Both come in the order of the key; documents that are left out have lines, too.
     auto document = documents.begin();
     while (rows->next()) {
@@ -82,8 +87,9 @@ std::vector<PostingDocument> unpostedDocuments(Engine::Database &database, const
                                                std::span<const qint64> keys)
 {
     const QString list = Engine::numberList(keys);
+    const Engine::StatementPtr lines = askLines(database.connection(), kind, list); // with the headers
     std::vector<PostingDocument> documents = readHeaders(database.connection(), kind, list);
-    readLines(database.connection(), kind, list, documents);
+    readLines(lines, kind, documents);
     return documents;
 }
 

@@ -87,9 +87,14 @@ void ReceiptEntry::validateVendor(const Value &vendorId) const
 
 void ReceiptEntry::checkComplete() { requireHeaderField(Fields::VendorID, Fields::VendorNo); }
 
+QList<std::pair<QString, QString>> ReceiptEntry::references() const
+{
+    return DocumentEntry::references() << std::pair(u"Vendor"_s, QString(Fields::VendorID));
+}
+
 void ReceiptEntry::checkReferences()
 {
-    if (!Engine::hasRow(database(), u"Vendor"_s, Fields::VendorID, header().value(Fields::VendorID)))
+    if (!hasReference(u"Vendor"_s, Fields::VendorID))
         throw RuleError(TransactionsTexts::tr("Vendor no longer exists"), Fields::VendorNo);
     requireLocation();
     requireLines();

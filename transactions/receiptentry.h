@@ -31,6 +31,7 @@ protected:
     void visitBegins() override;
     void configureFields() override;
     void checkComplete() override;
+    QList<std::pair<QString, QString>> references() const override;
     void checkReferences() override;
     void checkLine() override;
     void lineChanging(LineChange) override { m_total.forget(); }

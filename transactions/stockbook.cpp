@@ -39,8 +39,10 @@ void StockBook::require(const std::vector<qint64> &items)
     if (unknown.empty())
         return;
     const QString list = Engine::numberList(unknown);
+    m_readBalances->bindText(0, list);
+    m_readBalances->ask(); // with the costs
     readCosts(list);
-    readBalances(list);
+    readBalances();
 }
 
 void StockBook::forget() { m_items.clear(); }
@@ -53,9 +55,8 @@ void StockBook::readCosts(const QString &items)
     m_readCosts->reset();
 }
 
-void StockBook::readBalances(const QString &items)
+void StockBook::readBalances()
 {
-    m_readBalances->bindText(0, items);
     while (m_readBalances->next())
         m_items[m_readBalances->intAt(0)].balances.push_back(
             {m_readBalances->intAt(1), m_readBalances->doubleAt(2)});

@@ -61,7 +61,7 @@ private:
     };
 
     void readCosts(const QString &items);
-    void readBalances(const QString &items);
+    void readBalances(); // as asked
 
     std::unordered_map<qint64, Item> m_items;
     Engine::StatementPtr m_readCosts;

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QEvent>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -43,8 +44,11 @@ InUseNotice::InUseNotice(QWidget &screen, FieldBinder &binder)
 
 bool InUseNotice::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate)
+    // A window that is shown becomes active with that.
+    const bool isShown = event->type() == QEvent::Show;
+    if (isShown || (event->type() == QEvent::WindowActivate && !std::exchange(m_isShown, false)))
         look();
+    m_isShown = m_isShown || isShown;
     return StateLabel::eventFilter(watched, event);
 }
 

@@ -32,6 +32,7 @@ private:
 
     const QWidget &m_screen;
     FieldBinder &m_binder;
+    bool m_isShown = false; // and not active since
     QTimer m_again;
 };
 

@@ -332,7 +332,8 @@ void PostgresLink::connect()
     m_lost = false;
     ++m_generation;
     m_stale.clear();
-    m_pending = 0;
+    m_sent.clear();
+    m_missing.clear();
     m_reader = nullptr;
     m_failure.reset();
     const ServerSession former = m_session;

@@ -56,6 +56,7 @@ PostgresConnection::PostgresConnection(const PostgresTarget &target)
 
 PostgresConnection::~PostgresConnection()
 {
+    m_link->awaitUnawaited(); // whoever is told that this is closed finds its locks free
     m_link->mayReconnect = [] { return false; }; // statements that live on do not connect again
     m_link->beforeReading = {};
     m_link->readElsewhere = {};
@@ -67,7 +68,6 @@ void PostgresConnection::execute(const QString &script)
     const auto since = std::chrono::steady_clock::now();
     for (;;) {
         m_link->prepareFor(nullptr);
-        m_link->leavePipeline();
         try {
             m_link->run(script.toUtf8());
             return m_link->noteWriting();
@@ -86,7 +86,9 @@ QString PostgresConnection::identity()
     return statement->next() ? statement->textAt(0) : QString();
 }
 
-void PostgresConnection::drain() { m_link->leavePipeline(); }
+void PostgresConnection::drain() { m_link->finishSent(); }
+
+void PostgresConnection::tell(Statement &statement) { static_cast<PostgresStatement &>(statement).tell(); }
 
 void PostgresConnection::begin()
 {
@@ -126,8 +128,7 @@ std::unique_ptr<Connection> PostgresConnection::openMoment(const Database &datab
     target.lockWait = database.session().lockAttempts * database.session().lockPause;
     const bool mayLag = from == ReadFrom::Standby && database.session().readsFromStandby;
     auto reader = mayLag ? openReader(target) : std::make_unique<PostgresConnection>(target);
-    reader->m_link->begin("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY");
-    reader->m_link->run("SELECT 1"); // the moment is that of the first statement
+    reader->m_link->beginMoment();
     return reader;
 }
 

@@ -4,6 +4,8 @@
 #include "engine/postgres/link.h"
 #include "engine/store/driver.h"
 
+#include <QHash>
+
 namespace Engine {
 
 class Database;
@@ -44,6 +46,12 @@ public:
     LockManager &locks() override;
 
     void setMade() { m_isMade = true; } // the database came about with this connection
+    // Asks what describe() will give next. What was read is known as long as the table stays open: nobody can change
+    // it then.
+    void askLayout(const QString &table);
+    void forgetLayout(const QString &table); // in lower case, as all here
+    void forgetLayouts();
+    void tell(Statement &statement); // one of this connection, outside of a transaction: its answer is of no use
     bool isTransactionFailed() const { return m_link->isTransactionFailed(); }
     bool isLost() const;
 
@@ -57,7 +65,13 @@ private:
     std::shared_ptr<PostgresLink> m_link; // shared with statements that outlive the connection
     std::unique_ptr<PostgresLocks> m_locks;
     std::unique_ptr<StandbyReading> m_reading; // of one that reads from a standby
+    QHash<QString, TableLayout> m_layouts;
+    QString m_askedTable;
+    StatementPtr m_askedLayout;
     bool m_isMade = false;
+
+    StatementPtr describing(const QString &table);
+    std::optional<TableLayout> read(Statement &description) const;
 };
 
 } // namespace Engine

@@ -1,4 +1,5 @@
 #include "engine/postgres/connection.h"
+#include "engine/postgres/locks.h"
 #include "engine/store/indexnames.h"
 
 #include <QRegularExpression>
@@ -39,7 +40,7 @@ QString spelled(const QString &stored, const QString &comment)
 //   part 0: the table's name and its comment
 //   part 1: a column's name, its comment, type and length, whether it counts by itself
 //   part 2: an index's name, its term, whether that descends, whether it is the declared key
-const QString describing =
+const QString description =
     u"SELECT * FROM (WITH t AS (SELECT c.oid, c.relname FROM pg_class c "
     "WHERE c.relname = ? AND c.relkind IN ('r', 'p') AND pg_table_is_visible(c.oid)) "
     "SELECT 0 AS part, CAST(0 AS bigint) AS place, CAST(t.relname AS text), "
@@ -107,10 +108,49 @@ void addTerm(TableLayout &layout, QString &lastName, const Statement &row)
 
 } // namespace
 
+StatementPtr PostgresConnection::describing(const QString &table)
+{
+    StatementPtr statement = prepare(description);
+    statement->bindText(0, table);
+    return statement;
+}
+
+void PostgresConnection::askLayout(const QString &table)
+{
+    StatementPtr asked = describing(table);
+    asked->ask();
+    m_askedTable = table;
+    m_askedLayout = std::move(asked);
+}
+
+void PostgresConnection::forgetLayout(const QString &table)
+{
+    m_layouts.remove(table);
+    m_askedLayout.reset();
+}
+
+void PostgresConnection::forgetLayouts()
+{
+    m_layouts.clear();
+    m_askedLayout.reset();
+}
+
 std::optional<TableLayout> PostgresConnection::describe(const QString &table)
 {
-    const StatementPtr row = prepare(describing);
-    row->bindText(0, table.toLower());
+    const QString name = table.toLower();
+    if (const auto known = m_layouts.constFind(name); known != m_layouts.constEnd() && m_locks->isOpenShared(name))
+        return *known;
+    const StatementPtr asked = std::exchange(m_askedLayout, {});
+    const std::optional<TableLayout> layout =
+        asked && m_askedTable == name ? read(*asked) : read(*describing(name));
+    if (layout && m_locks->isOpenShared(name))
+        m_layouts.insert(name, *layout);
+    return layout;
+}
+
+std::optional<TableLayout> PostgresConnection::read(Statement &statement) const
+{
+    Statement *row = &statement;
     if (!row->next())
         return std::nullopt;
     TableLayout layout;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <libpq-fe.h>
+#include <QScopedValueRollback>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -47,11 +48,37 @@ void ClearResult::operator()(pg_result *result) const { PQclear(result); }
 
 void FinishConnection::operator()(pg_conn *handle) const { PQfinish(handle); }
 
+// Without a state, so threads may share it.
+AnswerTaker *AnswerTaker::nobody()
+{
+    class Nobody final : public AnswerTaker
+    {
+        void takeAnswer(ResultPtr) override { }
+        void endAnswer() override { }
+        void loseAnswer() override { }
+    };
+    static Nobody taker;
+    return &taker;
+}
+
+namespace {
+
+// Those of this thread with something under way that nobody waits for.
+QList<PostgresLink *> &unawaited()
+{
+    thread_local QList<PostgresLink *> links;
+    return links;
+}
+
+} // namespace
+
 PostgresLink::PostgresLink(PostgresTarget target)
     : m_target(std::move(target))
 {
     connect();
 }
+
+PostgresLink::~PostgresLink() { unawaited().removeAll(this); }
 
 // --- one command at a time ---------------------------------------------------------------------------------------
 
@@ -123,6 +150,7 @@ void PostgresLink::moveTo(ReadFrom from)
 {
     if (m_reader && !isLost())
         m_reader->readAhead();
+    abandonPipeline(); // what has been asked is answered; its failures are kept for those who take them
     m_target.wantsStandby = from == ReadFrom::Standby;
     connect();
     if (reconnected)
@@ -151,19 +179,22 @@ bool PostgresLink::mayReadAgain(const EngineError &error) const
         && !m_lostInTransaction && !m_isConnecting && (!mayReconnect || mayReconnect());
 }
 
+// One that does not exist any more fails for itself alone.
 void PostgresLink::dropStaleStatements()
 {
-    if (m_stale.size() < staleLimit || isPipelining() || isTransactionFailed())
+    if (m_stale.size() < staleLimit || m_inTransaction)
         return;
-    QByteArray script;
-    for (const QByteArray &name : std::as_const(m_stale))
-        script += "DEALLOCATE " + name + ';';
-    m_stale.clear();
-    run(script);
+    enterPipeline();
+    for (const QByteArray &name : std::exchange(m_stale, {})) {
+        sendText("DEALLOCATE " + name, AnswerTaker::nobody());
+        synchronize();
+    }
 }
 
 ResultPtr PostgresLink::run(const QByteArray &script)
 {
+    awaitOthers();
+    leavePipeline();
     if (PQsendQuery(handle(), script.constData()) != 1)
         fail(nullptr);
     return finishCommand();
@@ -172,7 +203,6 @@ ResultPtr PostgresLink::run(const QByteArray &script)
 ResultPtr PostgresLink::runReady(const QByteArray &script)
 {
     makeReady(nullptr);
-    leavePipeline();
     return run(script);
 }
 
@@ -269,10 +299,10 @@ void PostgresLink::tell(bool isThere)
 bool PostgresLink::hasEnded()
 {
     constexpr int mostLooks = 3; // its last words, and the end itself
-    for (int look = 0; look < mostLooks && !isLost() && !m_reader && m_pending == 0 && isAnswered({}); ++look) {
+    for (int look = 0; look < mostLooks && !isLost() && !m_reader && isAnswered({}); ++look) {
         if (PQconsumeInput(handle()) != 1)
             break;
-        PQisBusy(handle()); // takes up what has come
+        PQisBusy(handle()); // takes up what has come; answers stay for those who wait for them
     }
     if (isLost())
         noteLoss();
@@ -285,70 +315,163 @@ void PostgresLink::noteLoss()
     tell(false);
     m_lostInTransaction = m_lostInTransaction || m_inTransaction;
     m_inTransaction = false;
-    m_pending = 0;
+    m_isBeginDue = false;
     m_reader = nullptr;
+    for (const Sent &sent : std::exchange(m_sent, {}))
+        if (sent.taker)
+            sent.taker->loseAnswer();
 }
 
 // --- pipeline ---------------------------------------------------------------------------------------------------
 
-bool PostgresLink::isPipelining() const { return !isLost() && PQpipelineStatus(handle()) != PQ_PIPELINE_OFF; }
-
 void PostgresLink::enterPipeline()
 {
-    if (!isPipelining() && PQenterPipelineMode(handle()) != 1)
+    awaitOthers();
+    if (PQpipelineStatus(handle()) == PQ_PIPELINE_OFF && PQenterPipelineMode(handle()) != 1)
         fail(nullptr);
+    if (std::exchange(m_isBeginDue, false))
+        sendText("BEGIN");
 }
 
-void PostgresLink::countSent()
+void PostgresLink::sendText(const QByteArray &statement, AnswerTaker *taker)
 {
-    ++m_pending;
-    if (m_pending % flushEvery == 0 && (PQsendFlushRequest(handle()) != 1 || PQflush(handle()) < 0))
+    if (PQsendQueryParams(handle(), statement.constData(), 0, nullptr, nullptr, nullptr, nullptr, 0) != 1)
         fail(nullptr);
-    if (m_pending < mostPending)
+    countSent(taker);
+}
+
+void PostgresLink::countSent(AnswerTaker *taker)
+{
+    m_sent.push_back({Sent::Command, taker});
+    if (m_sent.size() % flushEvery == 0 && (PQsendFlushRequest(handle()) != 1 || PQflush(handle()) < 0))
+        fail(nullptr);
+    if (m_sent.size() < mostPending)
         return;
-    collect(mostPending / 2, nullptr);
+    collect(mostPending / 2);
     if (m_failure)
-        leavePipeline(); // throws it
+        finishSent(); // throws it
 }
 
-// Reads the answers of the oldest commands, and keeps the first failure.
-void PostgresLink::collect(int commands, ResultPtr *last)
+void PostgresLink::countPrepared(const QByteArray &name) { m_sent.push_back({Sent::Preparation, nullptr, name}); }
+
+void PostgresLink::synchronize()
 {
-    for (; commands > 0 && m_pending > 0; --commands) {
-        while (ResultPtr result = nextResult()) {
-            const ExecStatusType status = PQresultStatus(result.get());
-            const bool failed = status == PGRES_FATAL_ERROR || status == PGRES_PIPELINE_ABORTED;
-            if (failed && !m_failure)
-                m_failure = errorOf(result.get());
-            if (isLost())
-                return;
-            if (last)
-                *last = std::move(result);
-        }
-        --m_pending;
+    if (PQpipelineSync(handle()) != 1)
+        fail(nullptr);
+    m_sent.push_back({Sent::Synchronization});
+}
+
+void PostgresLink::synchronizeUnawaited()
+{
+    synchronize();
+    if (!unawaited().contains(this))
+        unawaited().append(this);
+}
+
+void PostgresLink::awaitUnawaited() noexcept
+{
+    try {
+        if (unawaited().removeAll(this) > 0 && !isLost() && !m_reader) // who reads has had all answers before
+            collect(0);
+    } catch (const EngineError &) { // it is lost, which its next command tells
     }
 }
 
-ResultPtr PostgresLink::finishSent()
+void PostgresLink::awaitOthers()
 {
-    ResultPtr last;
-    if (PQpipelineSync(handle()) != 1)
-        fail(nullptr);
-    collect(m_pending, &last);
-    if (!isLost())
-        nextResult(); // the synchronization itself
-    m_pending = 0;
+    const QList<PostgresLink *> links = unawaited();
+    for (PostgresLink *link : links)
+        if (link != this)
+            link->awaitUnawaited();
+}
+
+// Reads the answers to what was sent first, until only so much is under way.
+void PostgresLink::collect(size_t left)
+{
+    while (m_sent.size() > left)
+        takeResult(nextResult());
+}
+
+// One more of what was sent first; without one, that has been all of it. Keeps the first failure that has no taker.
+void PostgresLink::takeResult(ResultPtr result)
+{
+    const ExecStatusType status = PQresultStatus(result.get());
+    const bool failed = result && (status == PGRES_FATAL_ERROR || status == PGRES_PIPELINE_ABORTED);
+    if (isLost() ? !result || failed : endsSession(result.get())) {
+        const EngineError loss = errorOf(result.get());
+        if (!m_failure)
+            m_failure = loss;
+        return;
+    }
+    const Sent &front = m_sent.front();
+    if (!result || status == PGRES_PIPELINE_SYNC) {
+        AnswerTaker *const taker = front.taker;
+        m_sent.pop_front();
+        if (taker)
+            taker->endAnswer();
+        return;
+    }
+    if (failed && !front.prepares.isEmpty())
+        m_missing.insert(front.prepares);
+    if (failed && !m_failure && (!front.taker || m_isCommitting))
+        m_failure = errorOf(result.get());
+    if (front.taker)
+        front.taker->takeAnswer(std::move(result));
+}
+
+void PostgresLink::throwFailure()
+{
     if (!m_failure)
-        return last;
+        return;
     const EngineError failure = *m_failure;
     m_failure.reset();
-    ++m_generation; // statements prepared behind the failure do not exist
     throw failure;
+}
+
+void PostgresLink::finishSent()
+{
+    if (!m_sent.empty() && m_sent.back().kind != Sent::Synchronization)
+        synchronize();
+    collect(0);
+    throwFailure();
+}
+
+void PostgresLink::beginReading(ResultReader *reader)
+{
+    constexpr size_t command = 1;
+    synchronize();
+    collect(command + 1);
+    if (m_failure)
+        finishSent();
+    if (!beforeReading || m_inTransaction) // else it can be done again elsewhere as long as no row is given
+        PQsetSingleRowMode(handle());
+    m_reader = reader;
+}
+
+void PostgresLink::endReading()
+{
+    m_reader = nullptr;
+    if (!m_sent.empty())
+        m_sent.pop_front();
+    collect(0);
+}
+
+void PostgresLink::forget(AnswerTaker *taker)
+{
+    for (Sent &sent : m_sent)
+        if (sent.taker == taker)
+            sent.taker = m_inTransaction ? nullptr : AnswerTaker::nobody();
+    if (!m_sent.empty() && !unawaited().contains(this))
+        unawaited().append(this);
 }
 
 void PostgresLink::leavePipeline()
 {
-    if (!isPipelining())
+    if (isLost())
+        return;
+    if (m_isBeginDue)
+        enterPipeline();
+    if (PQpipelineStatus(handle()) == PQ_PIPELINE_OFF)
         return;
     try {
         finishSent();
@@ -370,31 +493,68 @@ void PostgresLink::abandonPipeline() noexcept
 
 // --- transaction ------------------------------------------------------------------------------------------------
 
-void PostgresLink::begin(const QByteArray &statement)
+void PostgresLink::begin()
 {
     prepareFor(nullptr);
-    leavePipeline();
-    m_writes = statement == "BEGIN";
-    if (m_writes && m_mayMakeMarks)
+    if (hasEnded()) // so that this is told while nothing is under way yet
+        throw connectionLost(location(), u"ended by the server"_s);
+    m_writes = true;
+    if (m_mayMakeMarks)
         makeMarks();
-    run(statement);
+    m_isBeginDue = true;
     m_inTransaction = true;
 }
 
+// The moment is that of the first statement.
+void PostgresLink::beginMoment()
+{
+    prepareFor(nullptr);
+    m_writes = false;
+    run("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY; SELECT 1");
+    m_inTransaction = true;
+}
+
+namespace {
+
+class CommitAnswer final : public AnswerTaker
+{
+public:
+    void takeAnswer(ResultPtr answer) override
+    {
+        isDone = PQresultStatus(answer.get()) == PGRES_COMMAND_OK;
+        isUndone = isDone && qstrcmp(PQcmdStatus(answer.get()), "ROLLBACK") == 0;
+    }
+    void endAnswer() override { }
+    void loseAnswer() override { }
+
+    bool isDone = false;
+    bool isUndone = false;
+};
+
+} // namespace
+
+// Where something sent before has failed, the server passes over the commit, or undoes everything by it.
 void PostgresLink::commit()
 {
     prepareFor(nullptr);
-    leavePipeline();
+    if (std::exchange(m_isBeginDue, false)) { // nothing has been done in it
+        m_inTransaction = false;
+        return;
+    }
     const bool writes = m_writes && !isTransactionFailed();
     const bool isMarked = writes && m_canMark;
     const auto noted = qScopeGuard([writes] {
         if (writes)
             OwnWrites::note();
     });
-    ResultPtr result;
+    CommitAnswer answer;
     try {
-        result = run(isMarked ? commitText() : "COMMIT"_ba);
+        const QScopedValueRollback committing(m_isCommitting, true);
+        sendCommit(isMarked, answer);
+        finishSent();
     } catch (const EngineError &error) {
+        forget(&answer);
+        m_inTransaction = m_inTransaction && !answer.isDone;
         if (error.code() != ErrorCode::ConnectionLost || !writes)
             throw;
         if (!isMarked)
@@ -405,7 +565,7 @@ void PostgresLink::commit()
         return;
     }
     m_inTransaction = false;
-    if (qstrcmp(PQcmdStatus(result.get()), "ROLLBACK") == 0)
+    if (answer.isUndone)
         raise(ErrorCode::General,
               Texts::tr("An earlier step of the same change has failed; the "
                         "changes were undone."));
@@ -420,7 +580,7 @@ void PostgresLink::noteWriting() const
 void PostgresLink::rollback() noexcept
 {
     m_lostInTransaction = false;
-    if (!m_inTransaction || isLost()) {
+    if (std::exchange(m_isBeginDue, false) || !m_inTransaction || isLost()) {
         m_inTransaction = false;
         return;
     }
@@ -462,17 +622,19 @@ void PostgresLink::makeMarks()
 }
 
 // A transaction that has written nothing leaves no number either. Rows of links that are no more go after a day.
-QByteArray PostgresLink::commitText()
+void PostgresLink::sendCommit(bool isMarked, AnswerTaker &answer)
 {
-    QByteArray text;
-    if (m_commits++ == 0)
-        text = "DELETE FROM tallymere.commits WHERE marker IN (SELECT marker FROM tallymere.commits "
-               "WHERE at < now() - interval '1 day' AND txid_current_if_assigned() IS NOT NULL "
-               "FOR UPDATE SKIP LOCKED); ";
-    return text + "INSERT INTO tallymere.commits (marker, number, at) SELECT '" + m_marker + "', "
-        + QByteArray::number(m_commits)
-        + ", now() WHERE txid_current_if_assigned() IS NOT NULL "
-          "ON CONFLICT (marker) DO UPDATE SET number = excluded.number, at = excluded.at; COMMIT";
+    enterPipeline();
+    if (isMarked && m_commits++ == 0)
+        sendText("DELETE FROM tallymere.commits WHERE marker IN (SELECT marker FROM tallymere.commits "
+                 "WHERE at < now() - interval '1 day' AND txid_current_if_assigned() IS NOT NULL "
+                 "FOR UPDATE SKIP LOCKED)");
+    if (isMarked)
+        sendText("INSERT INTO tallymere.commits (marker, number, at) SELECT '" + m_marker + "', "
+                 + QByteArray::number(m_commits)
+                 + ", now() WHERE txid_current_if_assigned() IS NOT NULL "
+                   "ON CONFLICT (marker) DO UPDATE SET number = excluded.number, at = excluded.at");
+    sendText("COMMIT", &answer);
 }
 
 bool PostgresLink::wasCommitted()

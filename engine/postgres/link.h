@@ -5,11 +5,13 @@
 #include "engine/values/error.h"
 
 #include <chrono>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <QByteArray>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -79,12 +81,26 @@ public:
     virtual void readAhead() = 0;
 };
 
-// The wire: connecting, and what goes over it in which order. Commands are either waited for one by one, or sent
-// one after the other (pipelined) with their answers collected later.
+// Whoever has a use for the answer to one command among those that are under way.
+class AnswerTaker
+{
+public:
+    virtual ~AnswerTaker() = default;
+    virtual void takeAnswer(ResultPtr answer) = 0; // a failure as well
+    virtual void endAnswer() = 0; // that was all of it
+    virtual void loseAnswer() = 0; // it went with the connection
+
+    static AnswerTaker *nobody(); // for answers that are of no use, failures too
+};
+
+// The wire: connecting, and what goes over it in which order. Commands are pipelined: sent one after the other, and
+// whoever needs an answer waits for it, by which those of all before it have come as well. So what needs no answer
+// costs no journey to a server that is far away. Only scripts go by themselves.
 class PostgresLink
 {
 public:
     explicit PostgresLink(PostgresTarget target); // connects
+    ~PostgresLink();
     PostgresLink(const PostgresLink &) = delete;
     PostgresLink &operator=(const PostgresLink &) = delete;
 
@@ -120,13 +136,11 @@ public:
     // Makes the wire free for a command of this reader (or nobody's): others read ahead, a lost connection is made
     // anew outside of transactions.
     void prepareFor(ResultReader *reader);
-    void setReader(ResultReader *reader) { m_reader = reader; }
     ResultReader *reader() const { return m_reader; }
 
-    // Runs a script to its end, not pipelined; throws its failure.
+    // Runs a script to its end, not pipelined; throws its failure, or that of what was sent before.
     ResultPtr run(const QByteArray &script);
     ResultPtr runReady(const QByteArray &script); // the same wherever the wire is, without beforeReading
-    ResultPtr finishCommand(); // the last result of what has been sent, not pipelined; throws its failure
     // As PQgetResult, but a server that is silent for long is found out about: one that cannot be reached any more,
     // or that has lost the session, is a lost connection.
     ResultPtr nextResult();
@@ -141,17 +155,32 @@ public:
     void forgetStatement(const QByteArray &name) { m_stale.append(name); }
 
     // --- pipeline ---
-    void enterPipeline();
-    bool isPipelining() const;
-    void countSent(); // one more command is under way; reads answers when there are many
-    ResultPtr finishSent(); // waits for all of them; the last one's result; throws the first failure
-    void leavePipeline(); // waits, and throws as finishSent
+    void enterPipeline(); // before a command is sent
+    // One more command is under way; its answer goes to the taker, if somebody wants it. Reads answers when there are
+    // many.
+    void countSent(AnswerTaker *taker = nullptr);
+    void countPrepared(const QByteArray &name); // one that prepares a statement
+    // The statement could not be prepared after all. Told once.
+    bool isMissing(const QByteArray &name) { return m_missing.remove(name); }
+    void synchronize(); // what has been sent is one unit of work; what follows does not fail with it
+    // The same for what nobody waits for. The thread's other connections do, before they ask something: so whatever
+    // has been given back over one of them is free for all.
+    void synchronizeUnawaited();
+    void awaitUnawaited() noexcept;
+    void finishSent(); // waits for all of it; throws the first failure that nobody else is told of
+    // Of the command sent last, which this reader takes from the wire. Waits for all before it, and throws as
+    // finishSent.
+    void beginReading(ResultReader *reader);
+    void endReading(); // after its last result
+    void forget(AnswerTaker *taker); // who has no use for it any more
+    void leavePipeline(); // as finishSent; for what cannot be pipelined
     void abandonPipeline() noexcept; // waits and ignores failures
 
     // --- transaction ---
     bool inTransaction() const { return m_inTransaction; }
-    void begin(const QByteArray &statement = "BEGIN");
-    void commit();
+    void begin(); // goes with the first command
+    void beginMoment(); // one that only reads, at once
+    void commit(); // goes with what has been sent before it
     void rollback() noexcept;
     bool isTransactionFailed() const;
     void noteWriting() const; // by a single statement; that of a transaction is noted with its commit
@@ -171,10 +200,15 @@ private:
     void refuseHandedOnSessions();
     void tell(bool isThere);
     void makeMarks();
-    QByteArray commitText();
+    void sendCommit(bool isMarked, AnswerTaker &answer);
+    void sendText(const QByteArray &statement, AnswerTaker *taker = nullptr);
     bool wasCommitted();
     bool isCommitted();
-    void collect(int commands, ResultPtr *last);
+    ResultPtr finishCommand();
+    void collect(size_t left);
+    void takeResult(ResultPtr result);
+    void throwFailure();
+    void awaitOthers();
     void noteLoss();
     void awaitAnswer();
     bool isAnswered(std::chrono::milliseconds time) const;
@@ -196,8 +230,17 @@ private:
     int m_statementCount = 0;
     QList<QByteArray> m_stale;
     ResultReader *m_reader = nullptr;
-    int m_pending = 0;
+    struct Sent
+    {
+        enum Kind { Command, Preparation, Synchronization } kind;
+        AnswerTaker *taker = nullptr;
+        QByteArray prepares{};
+    };
+    std::deque<Sent> m_sent; // what is under way
+    QSet<QByteArray> m_missing;
     std::optional<EngineError> m_failure;
+    bool m_isBeginDue = false;
+    bool m_isCommitting = false; // then all failures are the commit's
     std::optional<LockOwner> m_blocker; // whom the command under way has been waiting for
     bool m_inTransaction = false;
     std::optional<EngineError> m_unanswered; // of the last attempt to connect again, which waited in vain

@@ -27,6 +27,8 @@ const QString lockRecord = u"SELECT CASE WHEN NOT pg_try_advisory_lock_shared(?,
                            "ELSE NOT pg_advisory_unlock_shared(?, 0) END"_s;
 const QString unlockRecordText =
     u"SELECT pg_advisory_unlock(?, ?), pg_advisory_unlock_shared(?, 0), pg_advisory_unlock_shared(?, ?)"_s;
+// A failure where the table is locked, as nothing else keeps what is sent behind it from being done.
+const QString shareTable = u"SELECT 1 / CASE WHEN pg_try_advisory_xact_lock_shared(?, 0) THEN 1 ELSE 0 END"_s;
 const QString lockTable = u"SELECT CASE WHEN pg_try_advisory_lock(?, 0) "
                           "THEN pg_try_advisory_lock_shared(?, ?) IS NOT NULL ELSE false END"_s;
 const QString unlockTableText = u"SELECT pg_advisory_unlock(?, 0), pg_advisory_unlock_shared(?, ?)"_s;
@@ -100,11 +102,22 @@ QString PostgresLocks::applicationName(const QString &user)
         .arg(QCoreApplication::applicationPid());
 }
 
-bool PostgresLocks::ask(const QString &sql, const QList<qint64> &numbers)
+StatementPtr PostgresLocks::bound(const QString &sql, const QList<qint64> &numbers)
 {
-    const StatementPtr statement = m_connection.prepare(sql);
+    StatementPtr statement = m_connection.prepare(sql);
     for (qsizetype i = 0; i < numbers.size(); ++i)
         statement->bindInt(static_cast<int>(i), numbers[i]);
+    return statement;
+}
+
+bool PostgresLocks::ask(const QString &sql, const QList<qint64> &numbers, const Along &along)
+{
+    const StatementPtr statement = bound(sql, numbers);
+    if (along) {
+        statement->ask();
+        if (!m_connection.isLost()) // over a new connection it would be answered before the lock
+            along();
+    }
     return statement->next() && statement->intAt(0) == 1;
 }
 
@@ -117,7 +130,10 @@ void PostgresLocks::release(const QString &sql, const QList<qint64> &numbers) no
         return;
     }
     try {
-        ask(sql, numbers);
+        if (m_connection.inTransaction())
+            ask(sql, numbers);
+        else
+            m_connection.tell(*bound(sql, numbers));
     } catch (const EngineError &) {
         if (!m_connection.isLost())
             m_deferred.append({sql, numbers});
@@ -145,19 +161,33 @@ void PostgresLocks::reconnected()
     ++m_losses;
     loseRecords();
     m_deferred.clear();
+    m_connection.forgetLayouts();
+    m_coveredRecords.clear();
     for (const auto &[table, held] : everything()) {
         if (held.shared > 0)
             ask(lockShared, {openNumber(table), 0});
     }
 }
 
-bool PostgresLocks::changeOpen(const QString &table, OpenMode from, OpenMode to)
+bool PostgresLocks::isOpenShared(const QString &table) const
+{
+    const auto held = everything().find(table);
+    return held != everything().end() && held->second.shared > 0 && held->second.exclusive == 0;
+}
+
+bool PostgresLocks::changeOpen(const QString &table, OpenMode from, OpenMode to, bool isToBeDescribed)
 {
     const QList<qint64> numbers{openNumber(table), 0};
+    m_connection.forgetLayout(table);
+    Along describing;
+    if (isToBeDescribed)
+        describing = [this, &table] { m_connection.askLayout(table); };
     if (from == OpenMode::Exclusive && m_connection.isLost())
         return true; // open tables are taken again with the next connection
-    if (to != OpenMode::None && !ask(to == OpenMode::Shared ? lockShared : lockAlone, numbers))
+    if (to != OpenMode::None && !ask(to == OpenMode::Shared ? lockShared : lockAlone, numbers, describing)) {
+        m_connection.forgetLayout(table);
         return false;
+    }
     if (from != OpenMode::None)
         release(from == OpenMode::Shared ? unlockShared : unlockAlone, numbers);
     return true;
@@ -172,36 +202,48 @@ qint64 PostgresLocks::placeOf(const QString &, const QList<qint64> &key) const
     return lockNumber(stableNumber(key));
 }
 
+// A table that nobody else has open has no records that others edit.
 bool PostgresLocks::acquireRecord(const QString &table, const Place &place)
 {
+    const auto held = everything().find(table);
+    if (held != everything().end() && held->second.exclusive > 0) {
+        m_coveredRecords.insert({table, place.record});
+        return true;
+    }
     return ask(lockRecord,
                {tableNumber(table), recordNumber(table), place.record, recordTime(table, place.record),
-                timeNumber(place.since), tableNumber(table)});
+                timeNumber(place.since), tableNumber(table)},
+               place.along);
 }
 
 void PostgresLocks::releaseRecord(const QString &table, const Place &place) noexcept
 {
+    if (m_coveredRecords.erase({table, place.record}) > 0)
+        return;
     release(unlockRecordText,
             {recordNumber(table), place.record, tableNumber(table), recordTime(table, place.record),
              timeNumber(place.since)});
 }
 
+StatementPtr PostgresLocks::askShare(const QString &table)
+{
+    StatementPtr statement = bound(shareTable, {tableNumber(table.toLower())});
+    statement->ask();
+    return statement;
+}
+
 bool PostgresLocks::acquireTable(const QString &table, qint64 since)
 {
-    if (!ask(lockTable, {tableNumber(table), tableTime(table), timeNumber(since)}))
+    const StatementPtr writers = m_connection.prepare("SELECT EXISTS ("_L1 + foreignWriters + u')');
+    writers->bindText(0, table);
+    if (!ask(lockTable, {tableNumber(table), tableTime(table), timeNumber(since)}, [&] { writers->ask(); }))
         return false;
-    if (!isWrittenElsewhere(table))
+    // Not everybody who writes to the database asks these locks, and a long run must not come to a stop in the middle.
+    const bool isWrittenElsewhere = writers->next() && writers->intAt(0) == 1;
+    if (!isWrittenElsewhere)
         return true;
     release(unlockTableText, {tableNumber(table), tableTime(table), timeNumber(since)});
     return false;
-}
-
-// Not everybody who writes to the database asks these locks, and a long run must not come to a stop in the middle.
-bool PostgresLocks::isWrittenElsewhere(const QString &table)
-{
-    const StatementPtr statement = m_connection.prepare("SELECT EXISTS ("_L1 + foreignWriters + u')');
-    statement->bindText(0, table);
-    return statement->next() && statement->intAt(0) == 1;
 }
 
 void PostgresLocks::releaseTable(const QString &table, const Held &held) noexcept

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "engine/store/driver.h"
 #include "engine/store/lockmanager.h"
 #include "engine/values/value.h"
 
 #include <QByteArray>
 #include <QList>
+#include <set>
+#include <utility>
 
 namespace Engine {
 
@@ -27,6 +30,7 @@ public:
 
     std::optional<LockOwner> ownerOf(const QString &table) override;
     std::optional<LockOwner> ownerOf(const QString &table, const QList<qint64> &key) override;
+    StatementPtr askShare(const QString &table) override;
     bool areLost() const override;
     int losses() const override { return m_losses; }
 
@@ -34,6 +38,8 @@ public:
     // anew, what went with the old one is forgotten, and the shared locks of open tables are taken again.
     bool mayReconnect() const;
     void reconnected();
+    // Whether this connection alone keeps everybody from changing what the table consists of, and does not itself.
+    bool isOpenShared(const QString &table) const;
     // Gives back what could not be given back within a failed transaction.
     void releaseDeferred() noexcept;
 
@@ -41,7 +47,7 @@ public:
     static QString applicationName(const QString &user);
 
 protected:
-    bool changeOpen(const QString &table, OpenMode from, OpenMode to) override;
+    bool changeOpen(const QString &table, OpenMode from, OpenMode to, bool isToBeDescribed) override;
     qint64 placeOf(const QString &table, const QList<qint64> &key) const override;
     bool acquireRecord(const QString &table, const Place &place) override;
     void releaseRecord(const QString &table, const Place &place) noexcept override;
@@ -49,8 +55,8 @@ protected:
     void releaseTable(const QString &table, const Held &held) noexcept override;
 
 private:
-    bool ask(const QString &sql, const QList<qint64> &numbers);
-    bool isWrittenElsewhere(const QString &table);
+    StatementPtr bound(const QString &sql, const QList<qint64> &numbers);
+    bool ask(const QString &sql, const QList<qint64> &numbers, const Along &along = {});
     std::optional<LockOwner> holder(const QString &table, std::optional<qint64> place);
     std::optional<LockOwner> ownerIn(const QString &sql, const QList<Value> &parameters);
     void release(const QString &sql, const QList<qint64> &numbers) noexcept;
@@ -63,6 +69,7 @@ private:
 
     PostgresConnection &m_connection;
     QList<Deferred> m_deferred;
+    std::set<std::pair<QString, qint64>> m_coveredRecords; // by a table that is open for this connection alone
     int m_losses = 0;
 };
 

@@ -1,10 +1,12 @@
 #include "engine/postgres/statement.h"
 
+#include "engine/postgres/error.h"
 #include "engine/store/namedparameters.h"
 #include "engine/values/storedtext.h"
 
 #include <charconv>
 #include <libpq-fe.h>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -68,7 +70,7 @@ PostgresStatement::~PostgresStatement()
     } catch (const EngineError &) {
         // the wire is gone, and the statement with it
     }
-    if (m_generation == m_link->generation())
+    if (isPrepared())
         m_link->forgetStatement(m_name);
 }
 
@@ -76,7 +78,7 @@ PostgresStatement::~PostgresStatement()
 
 void PostgresStatement::bindRaw(int parameter, QByteArray text)
 {
-    if (m_running)
+    if (m_running || m_asked != Asked::No)
         PostgresStatement::reset();
     m_values.at(static_cast<size_t>(parameter)) = std::move(text);
     m_nulls[static_cast<size_t>(parameter)] = 0;
@@ -108,33 +110,32 @@ void PostgresStatement::bindText(int parameter, const QString &value)
 
 // --- executing --------------------------------------------------------------------------------------------------
 
+bool PostgresStatement::isPrepared() const
+{
+    return m_generation == m_link->generation() && !m_link->isMissing(m_name);
+}
+
 void PostgresStatement::prepare()
 {
-    const bool known = m_generation == m_link->generation();
+    const bool known = isPrepared();
     if (known && ++m_executions < m_planAgainAt)
         return;
     if (known) {
         m_planAgainAt *= planAgainFactor;
         m_link->forgetStatement(m_name);
     }
-    m_generation = -1;
     m_shape.reset();
     m_name = m_link->newStatementName();
-    pg_conn *handle = m_link->handle();
-    if (m_link->isPipelining()) {
-        if (PQsendPrepare(handle, m_name.constData(), m_sql.constData(), 0, nullptr) != 1)
-            m_link->fail(nullptr);
-        m_link->countSent();
-    } else {
-        if (PQsendPrepare(handle, m_name.constData(), m_sql.constData(), 0, nullptr) != 1)
-            m_link->fail(nullptr);
-        m_link->finishCommand();
-    }
     m_generation = m_link->generation();
+    if (PQsendPrepare(m_link->handle(), m_name.constData(), m_sql.constData(), 0, nullptr) != 1)
+        m_link->fail(nullptr);
+    m_link->countPrepared(m_name);
 }
 
-void PostgresStatement::dispatch()
+void PostgresStatement::dispatch(AnswerTaker *taker)
 {
+    m_link->enterPipeline();
+    prepare();
     std::vector<const char *> values(m_values.size());
     for (size_t i = 0; i < values.size(); ++i)
         values[i] = m_nulls[i] != 0 ? nullptr : m_values[i].constData();
@@ -142,6 +143,7 @@ void PostgresStatement::dispatch()
                                          values.data(), nullptr, nullptr, 0);
     if (sent != 1)
         m_link->fail(nullptr);
+    m_link->countSent(taker);
 }
 
 void PostgresStatement::start()
@@ -171,22 +173,53 @@ void PostgresStatement::start()
 
 void PostgresStatement::startOnce()
 {
+    if (m_asked != Asked::No)
+        return takeAsked();
     PostgresStatement::reset();
     m_link->prepareFor(this);
-    prepare();
     dispatch();
+    m_link->beginReading(this);
     m_running = true;
     m_row = -1;
-    if (m_link->isPipelining()) {
-        m_link->countSent();
-        m_result = m_link->finishSent();
-        return;
-    }
-    if (!m_link->beforeReading
-        || m_link->inTransaction()) // else it can be done again elsewhere as long as no row is given
-        PQsetSingleRowMode(m_link->handle());
-    m_link->setReader(this);
     fetch();
+}
+
+void PostgresStatement::takeAsked()
+{
+    auto forgotten = qScopeGuard([this] { PostgresStatement::reset(); });
+    if (m_asked == Asked::UnderWay)
+        m_link->finishSent();
+    forgotten.dismiss();
+    const bool isLost = m_asked == Asked::Lost;
+    m_asked = Asked::No;
+    if (isLost)
+        throw connectionLost(m_link->location(), u"lost before the answer came"_s);
+    if (const ResultPtr refusal = std::move(m_refusal)) {
+        m_ahead.clear();
+        planAnew();
+        m_link->fail(refusal.get());
+    }
+    m_running = true;
+    m_row = -1;
+    fetch();
+}
+
+void PostgresStatement::takeAnswer(ResultPtr answer)
+{
+    const ExecStatusType status = PQresultStatus(answer.get());
+    const bool isRefused = status == PGRES_FATAL_ERROR || status == PGRES_PIPELINE_ABORTED;
+    if (!isRefused)
+        m_ahead.push_back(std::move(answer));
+    else if (!m_refusal)
+        m_refusal = std::move(answer);
+}
+
+// Whatever was wrong with it.
+void PostgresStatement::planAnew()
+{
+    if (isPrepared())
+        m_link->forgetStatement(m_name);
+    m_generation = -1;
 }
 
 bool PostgresStatement::fetch()
@@ -200,7 +233,7 @@ bool PostgresStatement::fetch()
         return false;
     ResultPtr result = m_link->nextResult();
     if (!result) {
-        m_link->setReader(nullptr);
+        m_link->endReading();
         return false;
     }
     const ExecStatusType status = PQresultStatus(result.get());
@@ -212,9 +245,9 @@ bool PostgresStatement::fetch()
     const EngineError error = m_link->errorOf(result.get());
     if (m_link->reader() == this) {
         while (m_link->nextResult()) { }
-        m_link->setReader(nullptr);
+        m_link->endReading();
     }
-    m_generation = -1; // whatever was wrong, it is planned anew
+    planAnew();
     PostgresStatement::reset();
     throw error;
 }
@@ -238,7 +271,8 @@ bool PostgresStatement::next()
 
 qint64 PostgresStatement::execute()
 {
-    PostgresStatement::reset();
+    if (m_asked == Asked::No)
+        PostgresStatement::reset();
     while (next()) { }
     return m_shape ? QByteArray(PQcmdTuples(m_shape.get())).toLongLong() : 0;
 }
@@ -247,10 +281,37 @@ void PostgresStatement::send()
 {
     PostgresStatement::reset();
     m_link->prepareFor(this);
-    m_link->enterPipeline();
-    prepare();
     dispatch();
-    m_link->countSent();
+}
+
+// A connection that is lost shows when the answer is taken, which knows what to do.
+void PostgresStatement::ask()
+{
+    PostgresStatement::reset();
+    try {
+        m_link->prepareFor(this);
+        dispatch(this);
+        if (!m_link->inTransaction())
+            m_link->synchronize();
+        m_asked = Asked::UnderWay;
+        if (!m_reads) // whether or not somebody takes the answer
+            m_link->noteWriting();
+    } catch (const EngineError &error) {
+        m_link->forget(this);
+        if (error.code() != ErrorCode::ConnectionLost)
+            throw;
+        m_asked = Asked::Lost;
+    }
+}
+
+void PostgresStatement::tell()
+{
+    PostgresStatement::reset();
+    m_link->prepareFor(this);
+    dispatch(AnswerTaker::nobody());
+    m_link->synchronizeUnawaited();
+    if (!m_reads)
+        m_link->noteWriting();
 }
 
 void PostgresStatement::readAhead()
@@ -269,10 +330,13 @@ void PostgresStatement::reset()
     m_row = -1;
     m_result.reset();
     m_ahead.clear();
+    m_refusal.reset();
+    if (std::exchange(m_asked, Asked::No) == Asked::UnderWay)
+        m_link->forget(this);
     if (m_link->reader() != this)
         return;
     while (m_link->nextResult()) { }
-    m_link->setReader(nullptr);
+    m_link->endReading();
 }
 
 // --- columns ----------------------------------------------------------------------------------------------------
@@ -283,11 +347,15 @@ const pg_result *PostgresStatement::shape()
         return m_result.get();
     if (!m_shape || PQnfields(m_shape.get()) == 0) {
         m_link->prepareFor(nullptr);
-        m_link->leavePipeline();
+        m_link->enterPipeline();
         prepare();
         if (PQsendDescribePrepared(m_link->handle(), m_name.constData()) != 1)
             m_link->fail(nullptr);
-        m_shape = m_link->finishCommand();
+        m_link->countSent(this);
+        m_asked = Asked::UnderWay;
+        takeAsked();
+        m_shape = std::move(m_result);
+        PostgresStatement::reset();
     }
     return m_shape.get();
 }

@@ -11,7 +11,7 @@ namespace Engine {
 
 // A statement that is prepared on the server at its first use, and again from time to time: the server keeps a plan
 // made when a table was empty, and does not notice by itself that the table has grown.
-class PostgresStatement final : public Statement, private ResultReader
+class PostgresStatement final : public Statement, private ResultReader, private AnswerTaker
 {
 public:
     PostgresStatement(std::shared_ptr<PostgresLink> link, const QString &sql);
@@ -28,6 +28,8 @@ public:
     bool next() override;
     qint64 execute() override;
     void send() override;
+    void ask() override;
+    void tell(); // sends it by itself, outside of a transaction; its answer, or that it has failed, is of no use
     void reset() override;
 
     int columnCount() override;
@@ -42,10 +44,18 @@ public:
     static QByteArray numberedParameters(const QString &sql, int *count);
 
 private:
+    enum class Asked { No, UnderWay, Arrived, Lost };
+
+    bool isPrepared() const;
     void prepare();
-    void dispatch(); // hands the execution to libpq
+    void planAnew();
+    void dispatch(AnswerTaker *taker = nullptr); // hands the execution to libpq
     void start(); // and tries again while somebody's lock is in the way
     void startOnce();
+    void takeAsked();
+    void takeAnswer(ResultPtr answer) override;
+    void endAnswer() override { m_asked = Asked::Arrived; }
+    void loseAnswer() override { m_asked = Asked::Lost; }
     bool fetch(); // the next row off the wire
     void readAhead() override;
     void bindRaw(int parameter, QByteArray text);
@@ -66,6 +76,8 @@ private:
     ResultPtr m_result; // holds the current row
     int m_row = -1;
     std::deque<ResultPtr> m_ahead; // results read ahead of the current one
+    Asked m_asked = Asked::No;
+    ResultPtr m_refusal; // of what was asked
     ResultPtr m_shape;
 };
 

@@ -119,6 +119,14 @@ QList<qint64> DataSet::keyAt(int index) const
     return index >= 0 && index < recordCount() ? DataSetReader(*this).keyAt(index) : QList<qint64>();
 }
 
+void DataSet::moveToNone()
+{
+    requireOpen();
+    beforeMove();
+    d->cursor.toNothing();
+    Q_EMIT currentChanged();
+}
+
 bool DataSet::moveToKey(const QList<qint64> &key)
 {
     requireOpen();
@@ -137,7 +145,7 @@ std::vector<Row> DataSet::firstRows(int count) const
     requireOpen();
     const DataSetReader reader(*this);
     if (!d->keysRead && !d->inMemory)
-        return reader.read(&RowSource::firstRows, count);
+        return reader.firstRows(count);
     std::vector<Row> rows;
     for (int i = 0; i < std::min(count, recordCount()); ++i)
         rows.push_back(reader.rowAt(i));

@@ -100,6 +100,7 @@ public:
     void first();
     void next();
     void moveTo(int index); // clamped to the set
+    void moveToNone(); // to no record, until one is found or moved to: nothing is read of the first one
 
     // The row at an index without moving, for lists. Reads the window around it if it is not in hand.
     const Row &rowAt(int index) const;

@@ -28,6 +28,7 @@ struct DataSet::Private
     bool isReadAside = false;
     SetKeys keys;
     bool keysRead = false;
+    std::vector<Row> firstPage; // of a long set whose keys have not been read
     WindowCache windows;
     std::vector<Row> memory; // of a query without key: the whole result; the key of a row is its index
     bool inMemory = false;
@@ -44,6 +45,7 @@ struct DataSet::Private
     {
         keys = SetKeys();
         keysRead = false;
+        firstPage.clear();
         windows.clear();
     }
 
@@ -88,6 +90,9 @@ public:
     void take(KeyList keys) const; // all of them
     Key keyAt(int index) const; // of an index of the set
     int indexOf(const Key &key) const; // -1 when the set was read without it
+    bool
+    readShort() const; // a set that is far away; false when it is too long for that, and its first row is current
+    std::vector<Row> firstRows(int count) const; // before the keys are read
     void resolve() const; // makes the current record known, or the set known to be empty
     bool holds(const Key &key) const;
     bool findCurrent() const; // among the keys; true when another record is current, as that one is gone
@@ -105,6 +110,7 @@ private:
     void readPart(int index) const; // so that the key of the index is in hand
 
     static constexpr int shortSet = 4 * SetKeys::partSize; // no longer one is read as a whole
+    static constexpr int pageSize = 64; // rows: with them a set that is far away begins, or is there
 
     const DataSet &m_set;
     DataSet::Private &d;

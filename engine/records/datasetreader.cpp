@@ -108,7 +108,51 @@ std::optional<KeyList> DataSetReader::readAhead() const
 void DataSetReader::take(KeyList keys) const
 {
     d.keys.takeAll(std::move(keys));
+    d.windows.clear();
     settleKeys();
+}
+
+// Of a set of few rows nothing is left to ask for by one statement.
+bool DataSetReader::readShort() const
+{
+    if (!source().isFar() || !d.firstPage.empty())
+        return false;
+    std::vector<FoundRow> found = read(&RowSource::firstFound, pageSize + 1);
+    const bool isAll = found.size() <= pageSize;
+    KeyList keys(static_cast<int>(found.empty() ? 1 : found.front().key.size()));
+    std::vector<Row> rows;
+    for (FoundRow &each : found) {
+        for (const qint64 number : std::as_const(each.key))
+            keys.append(number);
+        rows.push_back(std::move(each.row));
+    }
+    if (!isAll) {
+        if (d.cursor.isUnread())
+            d.cursor.to(found.front().key, rows.front(), 0);
+        d.firstPage = std::move(rows);
+        return false;
+    }
+    d.keys.takeAll(std::move(keys));
+    d.keysRead = true;
+    d.windows.clear();
+    if (!rows.empty())
+        d.windows.insert(0, std::move(rows));
+    settleKeys();
+    return true;
+}
+
+std::vector<Row> DataSetReader::firstRows(int count) const
+{
+    const auto wanted = static_cast<size_t>(count);
+    if (!source().isFar() || count > pageSize)
+        return read(&RowSource::firstRows, count);
+    if (!d.keysRead)
+        readShort();
+    std::vector<Row> rows = d.firstPage;
+    for (int i = 0; d.keysRead && i < d.keys.count(); ++i)
+        rows.push_back(rowAt(i));
+    rows.resize(std::min(rows.size(), wanted));
+    return rows;
 }
 
 void DataSetReader::readKeys() const
@@ -120,6 +164,8 @@ void DataSetReader::readKeys() const
         for (size_t i = 0; i < d.memory.size(); ++i)
             numbers.append(static_cast<qint64>(i));
         d.keys.takeAll(std::move(numbers));
+    } else if (readShort()) {
+        return; // with its rows
     } else if (const auto length = read(&RowSource::length, shortSet)) {
         d.keys.takeLength(length->count, length->lastKey);
     } else {
@@ -130,9 +176,10 @@ void DataSetReader::readKeys() const
 
 void DataSetReader::settleKeys() const
 {
-    d.keysRead = true;
+    if (!std::exchange(d.keysRead, true))
+        d.windows.clear();
     d.mostRows = std::max(d.mostRows, d.keys.count());
-    d.windows.clear();
+    d.firstPage.clear();
     if (d.cursor.isEmpty() && d.keys.count() > 0)
         d.cursor.toFirst();
 }
@@ -188,6 +235,10 @@ void DataSetReader::resolve() const
     if (d.keysRead || d.inMemory)
         return findInKeys();
     if (d.cursor.isUnread()) {
+        if (readShort())
+            return findInKeys();
+        if (!d.cursor.isUnread()) // its first row has come with the first page
+            return;
         if (auto found = read(&RowSource::first, SqlCondition()))
             d.cursor.to(std::move(found->key), std::move(found->row), 0);
         else

@@ -88,6 +88,8 @@ Row RowSource::readRow(const Statement &statement) const
 KeyList RowSource::keys() const
 {
     KeyList keys(static_cast<int>(m_scope.keyColumns.size()));
+    if (m_scope.isNone)
+        return keys;
     const StatementPtr statement = select(m_keys, m_scope.condition, orderBy());
     while (statement->next()) {
         for (int i = 0; i < keys.width(); ++i)
@@ -174,6 +176,8 @@ int RowSource::indexOf(const Key &key, qint64 lastKey) const
 
 std::optional<FoundRow> RowSource::first(const SqlCondition &condition) const
 {
+    if (m_scope.isNone)
+        return std::nullopt;
     SqlCondition all = m_scope.condition;
     all += condition;
     const StatementPtr statement = select(m_columns + ", "_L1 + m_keys, all, orderBy() + " LIMIT 1"_L1);
@@ -184,11 +188,25 @@ std::optional<FoundRow> RowSource::first(const SqlCondition &condition) const
 
 std::vector<Row> RowSource::firstRows(int count) const
 {
+    if (m_scope.isNone)
+        return {};
     const StatementPtr statement =
         select(m_columns, m_scope.condition, orderBy() + " LIMIT "_L1 + QString::number(count));
     std::vector<Row> rows;
     while (statement->next())
         rows.push_back(readRow(*statement));
+    return rows;
+}
+
+std::vector<FoundRow> RowSource::firstFound(int count) const
+{
+    if (m_scope.isNone)
+        return {};
+    const StatementPtr statement =
+        select(m_columns + ", "_L1 + m_keys, m_scope.condition, orderBy() + " LIMIT "_L1 + QString::number(count));
+    std::vector<FoundRow> rows;
+    while (statement->next())
+        rows.push_back({readKey(*statement, m_columnCount), readRow(*statement)});
     return rows;
 }
 
@@ -203,9 +221,21 @@ SqlCondition RowSource::keyCondition(const Key &key) const
 std::optional<Row> RowSource::row(const Key &key) const
 {
     const StatementPtr statement = select(m_columns, keyCondition(key), {});
-    if (!statement->next())
+    return takeRow(*statement);
+}
+
+StatementPtr RowSource::askRow(const Key &key) const
+{
+    StatementPtr statement = select(m_columns, keyCondition(key), {});
+    statement->ask();
+    return statement;
+}
+
+std::optional<Row> RowSource::takeRow(Statement &asked) const
+{
+    if (!asked.next())
         return std::nullopt;
-    return readRow(*statement);
+    return readRow(asked);
 }
 
 bool RowSource::holds(const Key &key) const
@@ -248,14 +278,25 @@ std::vector<Row> RowSource::rows(std::span<const qint64> keys) const
     return rows;
 }
 
-Value RowSource::lookedUp(const Field &field, const Value &key) const
+Value RowSource::lookedUp(const Field &field, const Value &key) const { return lookedUp({&field}, key).front(); }
+
+std::vector<Value> RowSource::lookedUp(const std::vector<const Field *> &fields, const Value &key) const
 {
+    std::vector<Value> values(fields.size());
     if (key.isNull())
-        return {};
-    const StatementPtr statement =
-        m_connection.prepare("SELECT "_L1 + lookupSelect(m_connection.dialect(), field.lookup, u"?"_s));
-    statement->bind(0, key);
-    return statement->next() ? statement->valueAt(0, field.type) : Value();
+        return values;
+    std::vector<StatementPtr> statements;
+    for (const Field *field : fields) {
+        statements.push_back(
+            m_connection.prepare("SELECT "_L1 + lookupSelect(m_connection.dialect(), field->lookup, u"?"_s)));
+        statements.back()->bind(0, key);
+        if (fields.size() > 1)
+            statements.back()->ask();
+    }
+    for (size_t i = 0; i < fields.size(); ++i)
+        if (statements[i]->next())
+            values[i] = statements[i]->valueAt(0, fields[i]->type);
+    return values;
 }
 
 SqlCondition RowSource::matchOne(const Field &field, const Value &value, bool partial, bool caseInsensitive) const

@@ -28,6 +28,7 @@ struct SetScope
     // Its keys may be read in parts: it is a table as a whole, in the order of an index of it, by a key of one number that new
     // rows have above all others.
     bool inParts = false;
+    bool isNone = false; // no row is in it, and none can come
     // Text fields in the folded form of which an index exists: a search by the exact text goes through that index.
     QStringList foldedFields;
 };
@@ -61,13 +62,19 @@ public:
     // The first row in the set's order that meets the condition as well.
     std::optional<FoundRow> first(const SqlCondition &condition = {}) const;
     std::vector<Row> firstRows(int count) const;
+    std::vector<FoundRow> firstFound(int count) const; // with their keys
+    bool isFar() const { return m_connection.sendsAhead(); } // each statement costs a journey
     // The row of a key, whether the set's condition lets it in or not.
     std::optional<Row> row(const Key &key) const;
+    StatementPtr askRow(const Key &key) const; // for takeRow()
+    std::optional<Row> takeRow(Statement &asked) const;
     bool holds(const Key &key) const; // the set has a row of this key now
     // The rows of the keys, in their order; a missing one is a row of nulls.
     std::vector<Row> rows(std::span<const qint64> keys) const;
     // The value of a lookup field for a given value of its key field.
     Value lookedUp(const Field &field, const Value &key) const;
+    // The same for several lookup fields of one key field.
+    std::vector<Value> lookedUp(const std::vector<const Field *> &fields, const Value &key) const;
 
     // The condition that the fields equal the values. Throws NoSuchField, BadValue.
     SqlCondition match(const QStringList &fields, const QList<Value> &values, LocateOptions options) const;

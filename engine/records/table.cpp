@@ -104,6 +104,8 @@ bool Table::findAgain(const Row &shown)
 {
     if (!m_layout.numberKey().isEmpty())
         return true;
+    if (exclusive)
+        return true;
     if (m_layout.primaryFields().isEmpty()) {
         // Nothing tells such rows apart but their place.
         const DataSetReader reader(*this);
@@ -126,10 +128,11 @@ void Table::edit()
     if (isEditing())
         return;
     requireOpen();
+    const bool isFresh = exclusive && d->cursor.isUnread() && !d->keysRead; // it is read under the table's own lock
     if (isEmpty())
         return insert();
-    rulesInForce().edit([this] {
-        readForEdit();
+    rulesInForce().edit([this, isFresh] {
+        readForEdit(isFresh);
         Q_EMIT stateChanged();
     });
 }
@@ -141,15 +144,24 @@ QString Table::recordText() const
 }
 
 // Locks the current record and reads it afresh, so that nothing another user saved is lost.
-void Table::readForEdit()
+void Table::readForEdit(bool isFresh)
 {
     const DataSetReader reader(*this);
     const Row shown = reader.currentRow(); // NOLINT(performance-unnecessary-copy-initialization): it is read anew
     auto edit = std::make_unique<Edit>(false);
-    edit->lock = lockForEdit(shown);
+    StatementPtr asked;
+    const bool goesAlong = reader.source().isFar() && !m_layout.numberKey().isEmpty();
+    edit->lock =
+        goesAlong ? lockForEdit(shown, [&] { asked = reader.source().askRow(currentKey()); }) : lockForEdit(shown);
     const bool found = findAgain(shown);
     edit->key = currentKey();
-    auto stored = found && !edit->key.isEmpty() ? reader.read(&RowSource::row, edit->key) : std::nullopt;
+    std::optional<Row> stored;
+    if (isFresh)
+        stored = shown;
+    else if (asked)
+        stored = reader.source().takeRow(*asked);
+    else if (found && !edit->key.isEmpty())
+        stored = reader.read(&RowSource::row, edit->key);
     if (!stored)
         raise(ErrorCode::RecordGone, recordGoneText(recordText()));
     edit->values = *stored;
@@ -163,10 +175,10 @@ void Table::readForEdit()
     m_edit = std::move(edit);
 }
 
-std::unique_ptr<RecordLock> Table::lockForEdit(const Row &row) const
+std::unique_ptr<RecordLock> Table::lockForEdit(const Row &row, const std::function<void()> &along) const
 {
     return std::make_unique<RecordLock>(m_database.connection(), m_database.session(), m_name, lockKey(row),
-                                        recordText(), RecordLock::Loss::Noticed);
+                                        recordText(), RecordLock::Loss::Noticed, along);
 }
 
 std::optional<LockOwner> Table::editedBy() const
@@ -311,15 +323,23 @@ void Table::setValue(int fieldNumber, const Value &value)
 {
     m_edit->values[static_cast<size_t>(fieldNumber)] = value;
     QList<int> followers;
+    std::vector<int> lookUps;
+    std::vector<const Field *> lookedFor;
     for (int i = 0; i < fieldCount(); ++i) {
         const Field &other = field(i);
         if (other.kind == FieldKind::Lookup
             && other.lookup.keyField.compare(field(fieldNumber).name, Qt::CaseInsensitive) == 0) {
-            m_edit->values[static_cast<size_t>(i)] = lookedUp(other, value);
+            lookUps.push_back(i);
+            lookedFor.push_back(&other);
             followers << i;
         }
         if (other.kind == FieldKind::Calculated)
             followers << i;
+    }
+    if (!lookUps.empty()) {
+        std::vector<Value> found = DataSetReader(*this).source().lookedUp(lookedFor, value);
+        for (size_t i = 0; i < lookUps.size(); ++i)
+            m_edit->values[static_cast<size_t>(lookUps[i])] = std::move(found[i]);
     }
     Q_EMIT fieldChanged(fieldNumber);
     for (const int follower : std::as_const(followers))

@@ -2,6 +2,7 @@
 
 #include "engine/records/recordrules.h"
 #include "engine/records/tablereader.h"
+#include "engine/store/driver.h"
 
 namespace Engine {
 
@@ -100,10 +101,10 @@ private:
     bool decidesPlace(int field) const; // a new value may move the row in the list, or out of it
 
     QString recordText() const;
-    std::unique_ptr<class RecordLock> lockForEdit(const Row &row) const;
+    std::unique_ptr<class RecordLock> lockForEdit(const Row &row, const std::function<void()> &along = {}) const;
     void requireEditing() const;
     void startRecord();
-    void readForEdit();
+    void readForEdit(bool isFresh);
     void setValue(int field, const Value &value);
     void requirePrimaryKey() const;
     void requireUnique(int field) const;
@@ -112,9 +113,8 @@ private:
     void writeOnce();
     int hold();
     void requireHold(int losses) const;
-    void writeRow();
-    void insertRow();
-    void updateRow();
+    void insertRow(bool joins);
+    StatementPtr updateRow(bool joins);
     void showInserted(Row row);
     void showUpdated(Row row, bool placeMayDiffer);
     void removeCurrent();

@@ -27,6 +27,7 @@ struct TableReader::Restriction
     QPointer<DataSet> master;
     QList<Link> links;
     QList<Value> linkValues; // those that the list was read for
+    bool linksDue = false; // they are taken from the master when something is read: its record may cost a reading
     QList<QMetaObject::Connection> connections;
 };
 

@@ -73,8 +73,8 @@ void TableReader::open()
     Connection &connection = m_database.connection();
     LockManager &locks = connection.locks();
     if (!exclusive) {
-        openShared(locks, m_name, title());
-    } else if (!locks.tryOpenExclusive(m_name)) {
+        openShared(locks, m_name, title(), true);
+    } else if (!locks.tryOpenExclusive(m_name, true)) {
         raise(ErrorCode::TableInUse,
               Texts::tr("Table '%1' is in use by another user%2.").arg(title(), locks.holderOf(m_name)));
     }
@@ -87,7 +87,7 @@ void TableReader::open()
         m_layout = std::move(*stored);
         setDataFields(dataFields(m_layout));
         order();
-        m_restriction->linkValues = linkValues();
+        m_restriction->linksDue = true;
         invalidate(Place::First);
         m_open = true;
         if (m_filtered)
@@ -200,6 +200,8 @@ SetScope TableReader::scope() const
             scope.order.append(OrderTerm{{key}});
     }
     scope.condition = linkCondition();
+    scope.isNone = std::any_of(m_restriction->linkValues.begin(), m_restriction->linkValues.end(),
+                               [](const Value &value) { return value.isNull(); });
     scope.condition += rangeCondition();
     scope.inParts = keys.size() == 1 && scope.condition.isEmpty() && goesInParts();
     scope.foldedFields = foldedFields(m_layout);

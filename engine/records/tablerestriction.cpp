@@ -116,6 +116,7 @@ void TableReader::setMaster(DataSet *master, const QString &fields)
         return;
     beforeMove();
     restriction.linkValues = linkValues();
+    restriction.linksDue = false;
     restrictionChanged();
 }
 
@@ -133,7 +134,7 @@ void TableReader::masterMoved()
     if (!m_open)
         return;
     QList<Value> values = linkValues();
-    if (values == m_restriction->linkValues)
+    if (!std::exchange(m_restriction->linksDue, false) && values == m_restriction->linkValues)
         return;
     dropEdit();
     m_restriction->linkValues = std::move(values);
@@ -144,6 +145,8 @@ SqlCondition TableReader::linkCondition() const
 {
     const Dialect &dialect = m_database.connection().dialect();
     SqlCondition condition;
+    if (std::exchange(m_restriction->linksDue, false))
+        m_restriction->linkValues = linkValues();
     for (qsizetype i = 0; i < m_restriction->links.size(); ++i) {
         const Field &linked = field(m_restriction->links[i].detail);
         const Value &value = m_restriction->linkValues[i];

@@ -52,23 +52,68 @@ void Table::write()
     }
 }
 
+namespace {
+
+bool isRefused(Statement &share)
+{
+    try {
+        return !share.next();
+    } catch (const EngineError &) {
+        return true;
+    }
+}
+
+} // namespace
+
 void Table::writeOnce()
 {
     Connection &connection = m_database.connection();
+    const bool joins = connection.inTransaction();
     std::optional<RecordLock> writing; // a new record has no key yet that others could lock
-    if (m_edit->isNew)
+    const auto lock = [&] {
         writing.emplace(connection, m_database.session(), m_name, RecordLock::anyKey(), recordText());
+    };
+    const bool shares =
+        m_edit->isNew && !joins && connection.sendsAhead() && !connection.locks().holdsTable(m_name);
+    if (m_edit->isNew && !shares)
+        lock();
     const int losses = hold();
     m_edit->written = m_edit->values;
-    m_database.change([this, losses] {
+    StatementPtr share;
+    StatementPtr update;
+    bool isSent = false;
+    const auto writeAll = [&] {
+        isSent = false;
+        share = shares && !writing ? connection.locks().askShare(m_name) : StatementPtr();
         requireHold(losses);
         for (const QString &name : std::as_const(uniqueFields))
             requireUnique(requireField(name));
-        writeRow();
+        isSent = true;
+        if (m_edit->isNew)
+            insertRow(joins);
+        else
+            update = updateRow(joins);
         for (const QString &name : std::as_const(uniqueFields))
             RunValues::written(m_database.connection(), m_name, name,
                                m_edit->values[static_cast<size_t>(requireField(name))].toText());
-    });
+    };
+    try {
+        try {
+            m_database.change(writeAll);
+        } catch (const EngineError &error) {
+            if (!share || error.isConnectionLost() || !isRefused(*share))
+                throw;
+            lock(); // waits for whoever has locked the table, or tells of him
+            m_database.change(writeAll);
+        }
+    } catch (const EngineError &error) {
+        if (!isSent || error.code() != ErrorCode::KeyViolation)
+            throw;
+        raise(error.code(), Texts::tr("Table '%1' already has a record with this key.").arg(title()),
+              error.driverText());
+    }
+    if (update && update->execute() == 0)
+        raise(ErrorCode::RecordGone, recordGoneText(recordText()));
     if (m_edit->number)
         m_edit->values[static_cast<size_t>(m_edit->number->field)] = m_edit->number->value;
 }
@@ -96,18 +141,6 @@ void Table::requireHold(int losses) const
               Texts::tr("The connection was lost while %1 was being saved. Save it again.").arg(recordText()));
 }
 
-void Table::writeRow()
-{
-    try {
-        m_edit->isNew ? insertRow() : updateRow();
-    } catch (const EngineError &error) {
-        if (error.code() != ErrorCode::KeyViolation)
-            throw;
-        raise(error.code(), Texts::tr("Table '%1' already has a record with this key.").arg(title()),
-              error.driverText());
-    }
-}
-
 static void refuse(const Field &field, const Value &value, const QString &title)
 {
     raise(ErrorCode::KeyViolation,
@@ -127,10 +160,11 @@ void Table::requireUnique(int fieldNumber) const
     }
     const Dialect &dialect = connection.dialect();
     const QString lock = dialect.transactionLock();
+    StatementPtr locking;
     if (!lock.isEmpty() && !connection.locks().holdsTable(m_name)) {
-        const StatementPtr statement = connection.prepare(lock);
-        statement->bind(0, static_cast<qint64>(stableNumber((m_name + u'.' + field(fieldNumber).name).toLower())));
-        while (statement->next()) { }
+        locking = connection.prepare(lock);
+        locking->bind(0, static_cast<qint64>(stableNumber((m_name + u'.' + field(fieldNumber).name).toLower())));
+        locking->ask();
     }
     SqlCondition condition = equals(dialect, {"t."_L1 + dialect.name(field(fieldNumber).name), false}, value);
     const QStringList keyColumns = scope().keyColumns;
@@ -142,6 +176,9 @@ void Table::requireUnique(int fieldNumber) const
     const StatementPtr statement = connection.prepare("SELECT 1 FROM "_L1 + dialect.name(m_layout.name)
                                                       + " t WHERE "_L1 + condition.text + " LIMIT 1"_L1);
     bindAll(*statement, condition.parameters);
+    if (locking)
+        statement->ask();
+    while (locking && locking->next()) { }
     if (statement->next())
         refuse(field(fieldNumber), value, title());
 }
@@ -157,7 +194,7 @@ static void passAutoIncrement(Connection &connection, const QString &table, cons
     statement->execute();
 }
 
-void Table::insertRow()
+void Table::insertRow(bool joins)
 {
     Connection &connection = m_database.connection();
     QStringList columns;
@@ -185,8 +222,10 @@ void Table::insertRow()
     bindAll(*statement, values);
     if (counted >= 0)
         statement->execute();
-    else
+    else if (joins)
         connection.write(*statement);
+    else
+        statement->send(); // its commit comes at once
     if (counted >= 0)
         m_edit->number = {counted, connection.lastInsertId()};
     else if (brought >= 0)
@@ -194,7 +233,8 @@ void Table::insertRow()
                           m_edit->values[static_cast<size_t>(brought)]);
 }
 
-void Table::updateRow()
+// Gives the statement where its answer comes with the commit, which is sent at once; otherwise the row is there.
+StatementPtr Table::updateRow(bool joins)
 {
     Connection &connection = m_database.connection();
     QStringList changes;
@@ -207,18 +247,23 @@ void Table::updateRow()
         values << m_edit->values[at];
     }
     if (changes.isEmpty())
-        return;
+        return {};
     QStringList conditions;
     const QStringList keyColumns = scope().keyColumns;
     for (qsizetype i = 0; i < m_edit->key.size(); ++i) {
         conditions << keyColumns[i] + " = ?"_L1;
         values << m_edit->key[i];
     }
-    const StatementPtr statement = connection.prepare(u"UPDATE %1 AS t SET %2 WHERE %3"_s.arg(
+    StatementPtr statement = connection.prepare(u"UPDATE %1 AS t SET %2 WHERE %3"_s.arg(
         connection.dialect().name(m_layout.name), changes.join(", "_L1), conditions.join(" AND "_L1)));
     bindAll(*statement, values);
+    if (!joins && connection.sendsAhead()) {
+        statement->ask();
+        return statement;
+    }
     if (statement->execute() == 0)
         raise(ErrorCode::RecordGone, recordGoneText(recordText()));
+    return {};
 }
 
 // --- deleting --------------------------------------------------------------------------------------------------
@@ -267,12 +312,13 @@ void Table::removeRow(const Key &key)
     QStringList conditions;
     for (const QString &column : scope().keyColumns)
         conditions << column + " = ?"_L1;
-    m_database.change([&] {
-        const StatementPtr statement = m_database.connection().prepare(u"DELETE FROM %1 AS t WHERE %2"_s.arg(
-            connection.dialect().name(m_layout.name), conditions.join(" AND "_L1)));
+    const QString sql = u"DELETE FROM %1 AS t WHERE %2"_s.arg(connection.dialect().name(m_layout.name),
+                                                              conditions.join(" AND "_L1));
+    m_database.write([&](Connection &store) {
+        StatementPtr statement = store.prepare(sql);
         for (qsizetype i = 0; i < key.size(); ++i)
             statement->bind(static_cast<int>(i), key[i]);
-        statement->execute();
+        return statement;
     });
 }
 

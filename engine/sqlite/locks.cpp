@@ -102,7 +102,7 @@ void FileLocks::freeRange(qint64 from, qint64 count)
         m_file->unlock(from, count);
 }
 
-bool FileLocks::changeOpen(const QString &table, OpenMode from, OpenMode to)
+bool FileLocks::changeOpen(const QString &table, OpenMode from, OpenMode to, bool)
 {
     if (to == OpenMode::None) {
         freeRange(openByte(table), 1);

@@ -43,7 +43,7 @@ public:
     void holdingMemo(const std::function<void()> &step);
 
 protected:
-    bool changeOpen(const QString &table, OpenMode from, OpenMode to) override;
+    bool changeOpen(const QString &table, OpenMode from, OpenMode to, bool isToBeDescribed) override;
     qint64 placeOf(const QString &table, const QList<qint64> &key) const override;
     bool acquireRecord(const QString &table, const Place &place) override;
     void releaseRecord(const QString &table, const Place &place) noexcept override;

@@ -65,6 +65,15 @@ void Database::change(const std::function<void()> &step)
     }
 }
 
+void Database::write(const std::function<StatementPtr(Connection &)> &bound)
+{
+    const bool joins = connection().inTransaction();
+    change([&] {
+        const StatementPtr statement = bound(connection());
+        joins ? connection().write(*statement) : statement->send();
+    });
+}
+
 QString Database::identity() { return connection().identity(); }
 
 bool Database::tableExists(const QString &table) { return connection().describe(table).has_value(); }

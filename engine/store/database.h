@@ -47,6 +47,9 @@ public:
     // step waiting too long it is undone and done again, as often as record locks are tried; then Busy.
     void change(const std::function<void()> &step);
 
+    // The same for one statement: its commit travels with it.
+    void write(const std::function<StatementPtr(Connection &)> &bound);
+
     // Tells the database from every other one, a few plain letters that stay the same wherever it is reached from. A
     // file bears them from its creation on, and a copy of it bears the same; on a server they are the server's own, so
     // that a database that is restored there is another one.

@@ -42,6 +42,9 @@ public:
     // a failure, comes at the latest with Connection::drain() or with the next statement that is waited for. A
     // failed statement makes those sent after it fail as well, up to the drain. Inside a transaction only.
     virtual void send() = 0;
+    // Begins to execute, so that what is asked next travels with it; next() or execute() take the answer, and throw
+    // where that is a failure. Where the store is at hand nothing is gained by that, and they do all of it.
+    virtual void ask() { }
     // Ends the execution and frees its locks and rows; bindings stay. Done as well when the pointer is let go.
     virtual void reset() = 0;
 

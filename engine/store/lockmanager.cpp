@@ -54,18 +54,18 @@ void LockManager::settle(const QString &name)
 void LockManager::goDown(const QString &name, OpenMode from, OpenMode to) noexcept
 {
     try {
-        changeOpen(name, from, to);
+        changeOpen(name, from, to, false);
     } catch (const EngineError &) {
         // Whatever is done next tells that the store is gone.
     }
 }
 
-bool LockManager::tryOpenShared(const QString &table)
+bool LockManager::tryOpenShared(const QString &table, bool isToBeDescribed)
 {
     const QString name = table.toLower();
     const Held *held = find(name);
     const bool covered = held && (held->shared > 0 || held->exclusive > 0);
-    if (!covered && !changeOpen(name, OpenMode::None, OpenMode::Shared))
+    if (!covered && !changeOpen(name, OpenMode::None, OpenMode::Shared, isToBeDescribed))
         return false;
     ++m_held[name].shared;
     return true;
@@ -82,13 +82,13 @@ void LockManager::closeShared(const QString &table) noexcept
     settle(name);
 }
 
-bool LockManager::tryOpenExclusive(const QString &table)
+bool LockManager::tryOpenExclusive(const QString &table, bool isToBeDescribed)
 {
     const QString name = table.toLower();
     const Held *held = find(name);
     const OpenMode before = held && held->shared > 0 ? OpenMode::Shared : OpenMode::None;
     const bool covered = held && held->exclusive > 0;
-    if (!covered && !changeOpen(name, before, OpenMode::Exclusive))
+    if (!covered && !changeOpen(name, before, OpenMode::Exclusive, isToBeDescribed))
         return false;
     ++m_held[name].exclusive;
     return true;
@@ -105,7 +105,7 @@ void LockManager::closeExclusive(const QString &table) noexcept
     settle(name);
 }
 
-bool LockManager::tryLockRecord(const QString &table, const QList<qint64> &key)
+bool LockManager::tryLockRecord(const QString &table, const QList<qint64> &key, const Along &along)
 {
     const QString name = table.toLower();
     const qint64 place = placeOf(name, key);
@@ -115,7 +115,7 @@ bool LockManager::tryLockRecord(const QString &table, const QList<qint64> &key)
         return held->dueRecords.erase(place) > 0;
     }
     const qint64 since = QDateTime::currentSecsSinceEpoch();
-    if (!acquireRecord(name, {place, since, held && held->table > 0}))
+    if (!acquireRecord(name, {place, since, held && held->table > 0, along}))
         return false;
     Held &now = m_held[name];
     now.records.emplace(place, since);

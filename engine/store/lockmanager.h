@@ -1,5 +1,8 @@
 #pragma once
 
+#include "engine/store/driver.h"
+
+#include <functional>
 #include <map>
 #include <optional>
 #include <QDateTime>
@@ -39,13 +42,18 @@ class LockManager
 public:
     virtual ~LockManager() = default;
 
-    bool tryOpenShared(const QString &table);
+    // What is asked of the store (Statement::ask) right behind a lock, so that it travels with it and is answered under
+    // it. Called each time the lock is asked for; never where it is held already or the store is at hand.
+    using Along = std::function<void()>;
+
+    // What is to be described next is described along with its lock.
+    bool tryOpenShared(const QString &table, bool isToBeDescribed = false);
     void closeShared(const QString &table) noexcept;
-    bool tryOpenExclusive(const QString &table);
+    bool tryOpenExclusive(const QString &table, bool isToBeDescribed = false);
     void closeExclusive(const QString &table) noexcept;
 
     // Keys are the row's primary key values; a table without primary key has the one key {0}.
-    bool tryLockRecord(const QString &table, const QList<qint64> &key);
+    bool tryLockRecord(const QString &table, const QList<qint64> &key, const Along &along = {});
     void unlockRecord(const QString &table, const QList<qint64> &key) noexcept;
     bool holdsRecord(const QString &table, const QList<qint64> &key) const;
 
@@ -53,6 +61,10 @@ public:
     void mayBeLost(const QString &table, const QList<qint64> &key);
     virtual bool areLost() const { return false; } // all of them, with the connection
     virtual int losses() const { return 0; } // how often a lost connection was made anew
+
+    // Within a transaction: asks that nobody else locks the table up to its end. Where somebody has it, the answer is a
+    // failure, by which the transaction fails. Null where the store is at hand; there a record lock does as well.
+    virtual StatementPtr askShare(const QString &) { return {}; }
 
     bool tryLockTable(const QString &table);
     void unlockTable(const QString &table) noexcept;
@@ -93,13 +105,14 @@ protected:
 
     enum class OpenMode { None, Shared, Exclusive };
     // From one mode to the other; true when that was possible. Going down always is.
-    virtual bool changeOpen(const QString &table, OpenMode from, OpenMode to) = 0;
+    virtual bool changeOpen(const QString &table, OpenMode from, OpenMode to, bool isToBeDescribed) = 0;
     virtual qint64 placeOf(const QString &table, const QList<qint64> &key) const = 0;
     struct Place
     {
         qint64 record;
         qint64 since;
         bool tableHeld;
+        Along along{};
     };
     virtual bool acquireRecord(const QString &table, const Place &place) = 0;
     virtual void releaseRecord(const QString &table, const Place &place) noexcept = 0;

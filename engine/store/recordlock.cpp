@@ -9,7 +9,7 @@
 namespace Engine {
 
 RecordLock::RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key,
-                       const QString &record, Loss loss)
+                       const QString &record, Loss loss, const LockManager::Along &along)
     : m_locks(connection.locks())
     , m_table(std::move(table))
     , m_key(std::move(key))
@@ -22,7 +22,7 @@ RecordLock::RecordLock(Connection &connection, const Session &session, QString t
               Texts::tr("%1 is being edited in another window. Finish there first.").arg(record));
     }
     Attempts attempts(session);
-    while (!m_locks.tryLockRecord(m_table, m_key)) {
+    while (!m_locks.tryLockRecord(m_table, m_key, along)) {
         if (!attempts.again())
             refuse(record, session.titleOf(m_table));
     }

@@ -17,7 +17,7 @@ public:
     enum class Loss { Unnoticed, Noticed };
 
     RecordLock(Connection &connection, const Session &session, QString table, QList<qint64> key,
-               const QString &record, Loss loss = Loss::Unnoticed);
+               const QString &record, Loss loss = Loss::Unnoticed, const LockManager::Along &along = {});
     ~RecordLock();
     RecordLock(const RecordLock &) = delete;
     RecordLock &operator=(const RecordLock &) = delete;

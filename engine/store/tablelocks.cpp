@@ -9,9 +9,9 @@
 
 namespace Engine {
 
-void openShared(LockManager &locks, const QString &table, const QString &title)
+void openShared(LockManager &locks, const QString &table, const QString &title, bool isToBeDescribed)
 {
-    if (locks.tryOpenShared(table))
+    if (locks.tryOpenShared(table, isToBeDescribed))
         return;
     raise(ErrorCode::TableInUse,
           Texts::tr("Another user%2 has table '%1' open in exclusive mode.").arg(title, locks.holderOf(table)));

@@ -33,7 +33,7 @@ private:
 };
 
 // For opening a table beside others: throws TableInUse when somebody holds it alone.
-void openShared(LockManager &locks, const QString &table, const QString &title);
+void openShared(LockManager &locks, const QString &table, const QString &title, bool isToBeDescribed = false);
 
 // Throws TableLocked, with the holder if known.
 [[noreturn]] void refuseTable(LockManager &locks, const QString &table, const QString &title);

@@ -18,6 +18,7 @@ MasterRecordScreen::MasterRecordScreen(ScreenContext &context, const MasterKind 
     , m_record(context.data.databaseTallymere(), kind)
 {
     m_record.open();
+    m_record.table().moveToNone();
 }
 
 MasterRecordScreen::~MasterRecordScreen()

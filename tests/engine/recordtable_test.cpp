@@ -381,9 +381,9 @@ TEST_P(RecordTest, AskingForTheFirstRowOrAKeyDoesNotReadTheList)
     opened();
     EXPECT_EQ(vendors.integer(u"VendorID"), 1);
     ASSERT_TRUE(vendors.findKey({4}));
-    // Had the list been read, a row added now would not be in it.
+    // Had the list been read, a row added now would not be in it. From a server a short one comes with its first row.
     store.execute(u"INSERT INTO Vendor (VendorID) VALUES (6)"_s);
-    EXPECT_EQ(vendors.recordCount(), 6);
+    EXPECT_EQ(vendors.recordCount(), GetParam() == Store::Local ? 6 : 5);
     EXPECT_EQ(vendors.recordIndex(), 3);
 }
 

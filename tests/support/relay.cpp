@@ -5,7 +5,6 @@
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
-#include <utility>
 
 namespace {
 
@@ -68,8 +67,7 @@ void Relay::accept()
         if (!isReady(m_listener, glance))
             continue;
         const int client = ::accept(m_listener, nullptr, nullptr);
-        const bool isFirst = m_passing.empty();
-        m_passing.emplace_back([this, client, isFirst] { pass(client, isFirst); });
+        m_passing.emplace_back([this, client] { pass(client); });
     }
     close(m_listener);
 }
@@ -93,21 +91,17 @@ bool Relay::passFromClient(int client, int server)
     return false;
 }
 
-void Relay::pass(int client, bool counts)
+void Relay::pass(int client)
 {
     const int server = socket(AF_INET, SOCK_STREAM, 0);
     const sockaddr_in place = placeOf(m_serverPort);
-    bool isAnswered = true;
     bool lives = !m_isOver && connect(server, reinterpret_cast<const sockaddr *>(&place), sizeof place) == 0;
     while (lives && !m_isOver) {
         std::array<pollfd, 2> looked{{{client, POLLIN, 0}, {server, POLLIN, 0}}};
         poll(looked.data(), looked.size(), glance);
-        if (looked[0].revents != 0) {
-            m_trips += counts && std::exchange(isAnswered, false) ? 1 : 0;
+        if (looked[0].revents != 0)
             lives = passFromClient(client, server);
-        }
         if (lives && looked[1].revents != 0) {
-            isAnswered = true;
             const QByteArray said = received(server);
             lives = !said.isEmpty()
                 && send(client, said.constData(), static_cast<size_t>(said.size()), MSG_NOSIGNAL) >= 0;

@@ -5,9 +5,8 @@
 #include <thread>
 #include <vector>
 
-// Stands between the program and a server of this machine, and passes on what they say until a word comes from the program. It
-// counts how often the program's first connection has waited for an answer: a journey there and back, however much has gone
-// with it.
+// Stands between the program and a server of this machine, and passes on what they say until a word comes from the
+// program.
 class Relay
 {
 public:
@@ -20,11 +19,10 @@ public:
 
     int port() const { return m_port; }
     void when(const QByteArray &word, Then then); // once
-    int trips() const { return m_trips; }
 
 private:
     void accept();
-    void pass(int client, bool counts);
+    void pass(int client);
     bool passFromClient(int client, int server);
 
     const int m_serverPort;
@@ -33,7 +31,6 @@ private:
     QByteArray m_word;
     std::atomic<Then> m_then = Then::Nothing;
     std::atomic<bool> m_isOver = false;
-    std::atomic<int> m_trips = 0;
     std::vector<std::thread> m_passing;
     std::thread m_accepting;
 };

@@ -49,6 +49,7 @@ DocumentScreen::DocumentScreen(ScreenContext &context, const DocumentKind &kind,
     , m_entry(kind.entry.make(context.data.databaseTallymere(), context.prompts))
 {
     m_entry->open();
+    m_entry->header().moveToNone();
 }
 
 DocumentScreen::~DocumentScreen()
