@@ -332,7 +332,7 @@ void PostgresLink::connect()
     m_lost = false;
     ++m_generation;
     m_stale.clear();
-    m_sent.clear();
+    loseAnswers();
     m_missing.clear();
     m_reader = nullptr;
     m_failure.reset();

@@ -61,6 +61,18 @@ AnswerTaker *AnswerTaker::nobody()
     return &taker;
 }
 
+AnswerTaker *AnswerTaker::writing()
+{
+    class Writing final : public AnswerTaker
+    {
+        void takeAnswer(ResultPtr) override { }
+        void endAnswer() override { OwnWrites::note(); }
+        void loseAnswer() override { OwnWrites::note(); } // it may have been done
+    };
+    static Writing taker;
+    return &taker;
+}
+
 namespace {
 
 // Those of this thread with something under way that nobody waits for.
@@ -150,7 +162,7 @@ void PostgresLink::moveTo(ReadFrom from)
 {
     if (m_reader && !isLost())
         m_reader->readAhead();
-    abandonPipeline(); // what has been asked is answered; its failures are kept for those who take them
+    abandonPipeline(); // what has been asked before is answered there
     m_target.wantsStandby = from == ReadFrom::Standby;
     connect();
     if (reconnected)
@@ -317,6 +329,11 @@ void PostgresLink::noteLoss()
     m_inTransaction = false;
     m_isBeginDue = false;
     m_reader = nullptr;
+    loseAnswers();
+}
+
+void PostgresLink::loseAnswers()
+{
     for (const Sent &sent : std::exchange(m_sent, {}))
         if (sent.taker)
             sent.taker->loseAnswer();
@@ -371,8 +388,12 @@ void PostgresLink::synchronizeUnawaited()
 void PostgresLink::awaitUnawaited() noexcept
 {
     try {
-        if (unawaited().removeAll(this) > 0 && !isLost() && !m_reader) // who reads has had all answers before
-            collect(0);
+        unawaited().removeAll(this);
+        if (m_sent.empty() || isLost() || m_reader) // who reads has had all answers before
+            return;
+        if (m_sent.back().kind != Sent::Synchronization)
+            synchronize(); // else the server keeps its answers
+        collect(0);
     } catch (const EngineError &) { // it is lost, which its next command tells
     }
 }
@@ -456,11 +477,11 @@ void PostgresLink::endReading()
     collect(0);
 }
 
-void PostgresLink::forget(AnswerTaker *taker)
+void PostgresLink::forget(AnswerTaker *taker, AnswerTaker *heir)
 {
     for (Sent &sent : m_sent)
         if (sent.taker == taker)
-            sent.taker = m_inTransaction ? nullptr : AnswerTaker::nobody();
+            sent.taker = m_inTransaction ? nullptr : heir;
     if (!m_sent.empty() && !unawaited().contains(this))
         unawaited().append(this);
 }

@@ -91,6 +91,7 @@ public:
     virtual void loseAnswer() = 0; // it went with the connection
 
     static AnswerTaker *nobody(); // for answers that are of no use, failures too
+    static AnswerTaker *writing(); // the same of what writes, which those have to know who read from a standby
 };
 
 // The wire: connecting, and what goes over it in which order. Commands are pipelined: sent one after the other, and
@@ -172,7 +173,8 @@ public:
     // finishSent.
     void beginReading(ResultReader *reader);
     void endReading(); // after its last result
-    void forget(AnswerTaker *taker); // who has no use for it any more
+    // Who has no use for it any more; outside of a transaction the heir takes the answer.
+    void forget(AnswerTaker *taker, AnswerTaker *heir = AnswerTaker::nobody());
     void leavePipeline(); // as finishSent; for what cannot be pipelined
     void abandonPipeline() noexcept; // waits and ignores failures
 
@@ -210,6 +212,7 @@ private:
     void throwFailure();
     void awaitOthers();
     void noteLoss();
+    void loseAnswers();
     void awaitAnswer();
     bool isAnswered(std::chrono::milliseconds time) const;
     void beginSession();

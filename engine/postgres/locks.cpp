@@ -113,12 +113,24 @@ StatementPtr PostgresLocks::bound(const QString &sql, const QList<qint64> &numbe
 bool PostgresLocks::ask(const QString &sql, const QList<qint64> &numbers, const Along &along)
 {
     const StatementPtr statement = bound(sql, numbers);
-    if (along) {
-        statement->ask();
-        if (!m_connection.isLost()) // over a new connection it would be answered before the lock
-            along();
-    }
+    if (along)
+        askWith(*statement, along);
     return statement->next() && statement->intAt(0) == 1;
+}
+
+// Over a new connection what goes along would be answered before the lock, and the lock would be held by none.
+void PostgresLocks::askWith(Statement &lock, const Along &along)
+{
+    for (;;) {
+        const int losses = m_losses;
+        lock.ask();
+        if (m_connection.isLost())
+            return;
+        along();
+        if (m_losses == losses)
+            return;
+        lock.reset();
+    }
 }
 
 void PostgresLocks::release(const QString &sql, const QList<qint64> &numbers) noexcept

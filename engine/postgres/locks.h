@@ -57,6 +57,7 @@ protected:
 private:
     StatementPtr bound(const QString &sql, const QList<qint64> &numbers);
     bool ask(const QString &sql, const QList<qint64> &numbers, const Along &along = {});
+    void askWith(Statement &lock, const Along &along);
     std::optional<LockOwner> holder(const QString &table, std::optional<qint64> place);
     std::optional<LockOwner> ownerIn(const QString &sql, const QList<Value> &parameters);
     void release(const QString &sql, const QList<qint64> &numbers) noexcept;

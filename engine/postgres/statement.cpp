@@ -157,6 +157,8 @@ void PostgresStatement::start()
                 m_link->noteWriting();
             return;
         } catch (const EngineError &error) {
+            if (!m_reads)
+                m_link->noteWriting(); // it may have been done
             if (loss && m_link->isLost())
                 throw EngineError(*loss); // whoever is told of that knows what to do
             if (m_reads && !loss && m_link->mayReadAgain(error)) {
@@ -233,7 +235,7 @@ bool PostgresStatement::fetch()
         return false;
     ResultPtr result = m_link->nextResult();
     if (!result) {
-        m_link->endReading();
+        endReading();
         return false;
     }
     const ExecStatusType status = PQresultStatus(result.get());
@@ -245,7 +247,7 @@ bool PostgresStatement::fetch()
     const EngineError error = m_link->errorOf(result.get());
     if (m_link->reader() == this) {
         while (m_link->nextResult()) { }
-        m_link->endReading();
+        endReading();
     }
     planAnew();
     PostgresStatement::reset();
@@ -294,8 +296,6 @@ void PostgresStatement::ask()
         if (!m_link->inTransaction())
             m_link->synchronize();
         m_asked = Asked::UnderWay;
-        if (!m_reads) // whether or not somebody takes the answer
-            m_link->noteWriting();
     } catch (const EngineError &error) {
         m_link->forget(this);
         if (error.code() != ErrorCode::ConnectionLost)
@@ -310,8 +310,6 @@ void PostgresStatement::tell()
     m_link->prepareFor(this);
     dispatch(AnswerTaker::nobody());
     m_link->synchronizeUnawaited();
-    if (!m_reads)
-        m_link->noteWriting();
 }
 
 void PostgresStatement::readAhead()
@@ -332,11 +330,27 @@ void PostgresStatement::reset()
     m_ahead.clear();
     m_refusal.reset();
     if (std::exchange(m_asked, Asked::No) == Asked::UnderWay)
-        m_link->forget(this);
+        forgetAnswer();
     if (m_link->reader() != this)
         return;
     while (m_link->nextResult()) { }
+    endReading();
+}
+
+// Whoever reads from a standby knows of it before and after it is done, as that may be whenever.
+void PostgresStatement::forgetAnswer()
+{
+    m_link->forget(this, m_reads ? AnswerTaker::nobody() : AnswerTaker::writing());
+    if (!m_reads)
+        m_link->noteWriting();
+}
+
+// Only by now it is done what is not of a transaction.
+void PostgresStatement::endReading()
+{
     m_link->endReading();
+    if (!m_reads)
+        m_link->noteWriting();
 }
 
 // --- columns ----------------------------------------------------------------------------------------------------

@@ -58,6 +58,8 @@ private:
     void loseAnswer() override { m_asked = Asked::Lost; }
     bool fetch(); // the next row off the wire
     void readAhead() override;
+    void endReading();
+    void forgetAnswer();
     void bindRaw(int parameter, QByteArray text);
     std::string_view cell(int column) const;
     const pg_result *shape(); // a result that knows the columns

@@ -134,10 +134,10 @@ bool DataSetReader::readShort() const
     }
     d.keys.takeAll(std::move(keys));
     d.keysRead = true;
+    d.mostRows = std::max(d.mostRows, d.keys.count());
     d.windows.clear();
     if (!rows.empty())
         d.windows.insert(0, std::move(rows));
-    settleKeys();
     return true;
 }
 
@@ -165,7 +165,7 @@ void DataSetReader::readKeys() const
             numbers.append(static_cast<qint64>(i));
         d.keys.takeAll(std::move(numbers));
     } else if (readShort()) {
-        return; // with its rows
+        // with its rows
     } else if (const auto length = read(&RowSource::length, shortSet)) {
         d.keys.takeLength(length->count, length->lastKey);
     } else {
@@ -178,8 +178,8 @@ void DataSetReader::settleKeys() const
 {
     if (!std::exchange(d.keysRead, true))
         d.windows.clear();
-    d.mostRows = std::max(d.mostRows, d.keys.count());
     d.firstPage.clear();
+    d.mostRows = std::max(d.mostRows, d.keys.count());
     if (d.cursor.isEmpty() && d.keys.count() > 0)
         d.cursor.toFirst();
 }
