@@ -72,11 +72,8 @@ void TodayPanel::refresh()
     // Who cannot be reached for one figure is not asked for the others.
     const auto read = [this, user = from->user, folder = from->draftFolder](Engine::Database &database) {
         const TodaySource own{database, user, folder};
-        std::vector<TodayFigure> figures;
-        const std::exception_ptr failure = Guard::attempt([&] {
-            for (const TodayLine &line : todayLines())
-                figures.push_back(line.read(own));
-        });
+        QList<TodayFigure> figures;
+        const std::exception_ptr failure = Guard::attempt([&] { figures = Engine::answersOf(todayLines(), own); });
         const QTime time = database.session().now().time();
         return [this, figures, failure, time] {
             if (failure)
@@ -90,16 +87,15 @@ void TodayPanel::refresh()
     });
 }
 
-void TodayPanel::take(const std::vector<TodayFigure> &figures, const QTime &time)
+void TodayPanel::take(const QList<TodayFigure> &figures, const QTime &time)
 {
     m_late.stop();
     m_time = figures.empty() ? QTime() : time;
     m_timeShown->clear();
     for (qsizetype line = 0; line < m_shown.size(); ++line) {
-        const bool isRead = line < static_cast<qsizetype>(figures.size());
+        const bool isRead = line < figures.size();
         show(m_shown[line],
-             isRead ? figures[static_cast<size_t>(line)]
-                    : TodayFigure{.text = u"-"_s, .detail = tr("This could not be read.")});
+             isRead ? figures[line] : TodayFigure{.text = u"-"_s, .detail = tr("This could not be read.")});
     }
 }
 

@@ -8,7 +8,6 @@
 #include <QTime>
 #include <QTimer>
 #include <QWidget>
-#include <vector>
 
 class QLabel;
 
@@ -43,7 +42,7 @@ private:
     };
     void addHead();
     void addLine(const TodayLine &line);
-    void take(const std::vector<TodayFigure> &figures, const QTime &time); // those that could be read
+    void take(const QList<TodayFigure> &figures, const QTime &time); // those that could be read
     void showTime(); // of figures that the next ones are long in coming for
     void show(Shown &shown, const TodayFigure &figure);
 

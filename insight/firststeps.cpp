@@ -17,61 +17,78 @@ namespace Tallymere {
 
 namespace {
 
+using State = Engine::Answer<FirstStepState>;
+
 // Stops at the first row.
-bool isAny(Engine::Database &database, const QString &rows)
+Engine::Answer<bool> isAny(Engine::Database &database, const QString &rows)
 {
-    return database.connection().prepare("SELECT 1 FROM "_L1 + rows + " LIMIT 1"_L1)->next();
+    Engine::StatementPtr row = database.connection().prepare("SELECT 1 FROM "_L1 + rows + " LIMIT 1"_L1);
+    return [row = Engine::asked(std::move(row))] { return row->next(); };
 }
 
 // Whoever has posted something works already, with what the books had to begin with if need be.
-bool isAtWork(Engine::Database &database) { return isAny(database, u"IHist"_s); }
+Engine::Answer<bool> isAtWork(Engine::Database &database) { return isAny(database, u"IHist"_s); }
 
 // The year is there from the start; a period that nobody has chosen is the month of the calendar.
-FirstStepState period(Engine::Database &database)
+State period(Engine::Database &database)
 {
-    const FiscalSettings settings = FiscalSettings::readFrom(database);
-    const Period next = defaultPeriod(settings, database.session().today());
-    const PeriodVerdict verdict = judgePeriod(settings, next);
-    const bool isChosen = settings.defaultPeriod.year > 0 && settings.defaultPeriod.number > 0;
-    return {.isDone = verdict == PeriodVerdict::Fine && (isChosen || isAtWork(database)),
-            .screen = {},
-            .detail = periodMessage(verdict)};
+    const QDate today = database.session().today();
+    return [today, row = std::shared_ptr(FiscalSettings::ask(database)), atWork = isAtWork(database)] {
+        const FiscalSettings settings = FiscalSettings::from(*row);
+        const PeriodVerdict verdict = judgePeriod(settings, defaultPeriod(settings, today));
+        const bool isChosen = settings.defaultPeriod.year > 0 && settings.defaultPeriod.number > 0;
+        return FirstStepState{.isDone = verdict == PeriodVerdict::Fine && (isChosen || atWork()),
+                              .screen = {},
+                              .detail = periodMessage(verdict)};
+    };
 }
 
 // Beside the one that new books begin with, or that one under a name of the company's.
-FirstStepState locations(Engine::Database &database)
+State locations(Engine::Database &database)
 {
-    const Engine::StatementPtr rows = database.connection().prepare(
+    Engine::StatementPtr first = database.connection().prepare(
         u"SELECT WarehouseID, WarehouseName FROM Warehse ORDER BY WarehouseID LIMIT 2"_s);
-    const bool isOwn = rows->next() && (rows->intAt(0) != 1 || rows->textAt(1) != "Office"_L1 || rows->next());
-    return {.isDone = isOwn || isAtWork(database)};
+    return [rows = Engine::asked(std::move(first)), atWork = isAtWork(database)] {
+        const bool isOwn = rows->next() && (rows->intAt(0) != 1 || rows->textAt(1) != "Office"_L1 || rows->next());
+        return FirstStepState{.isDone = isOwn || atWork()};
+    };
 }
 
 // Only what is of a type with stock is received and counted.
-FirstStepState types(Engine::Database &database)
+State types(Engine::Database &database)
 {
-    if (isAny(database, u"ItemType WHERE Inventory = true"_s))
-        return {.isDone = true};
-    return {.detail = isAny(database, u"ItemType"_s)
+    return [ofStock = isAny(database, u"ItemType WHERE Inventory = true"_s), any = isAny(database, u"ItemType"_s)] {
+        if (ofStock())
+            return FirstStepState{.isDone = true};
+        return FirstStepState{
+            .detail = any()
                 ? InsightTexts::tr("None of the item types is kept in stock: tick Inventory in one of them.")
                 : QString()};
+    };
 }
 
-FirstStepState items(Engine::Database &database) { return {.isDone = isAny(database, u"Item"_s)}; }
+State isThere(Engine::Database &database, const QString &table)
+{
+    return [any = isAny(database, table)] { return FirstStepState{.isDone = any()}; };
+}
 
-FirstStepState vendors(Engine::Database &database) { return {.isDone = isAny(database, u"Vendor"_s)}; }
+State items(Engine::Database &database) { return isThere(database, u"Item"_s); }
+
+State vendors(Engine::Database &database) { return isThere(database, u"Vendor"_s); }
 
 // A count only finds what is less than recorded, so the first one goes into the books as what has been received. They are the
 // opening stock when it has been posted.
-FirstStepState count(Engine::Database &database)
+State count(Engine::Database &database)
 {
-    if (isAtWork(database))
-        return {.isDone = true};
     const DocumentKind &receipt = DocumentKinds::receipt();
-    if (!isAny(database, receipt.headerTable))
-        return {};
-    return {.screen = receipt.posting.screen,
-            .detail = InsightTexts::tr("The receipt of what is there is waiting to be posted.")};
+    return [&receipt, atWork = isAtWork(database), waits = isAny(database, receipt.headerTable)] {
+        if (atWork())
+            return FirstStepState{.isDone = true};
+        if (!waits())
+            return FirstStepState();
+        return FirstStepState{.screen = receipt.posting.screen,
+                              .detail = InsightTexts::tr("The receipt of what is there is waiting to be posted.")};
+    };
 }
 
 // By hand in the list of a kind, or from a file of it.
@@ -91,28 +108,28 @@ QList<FirstStep> describe()
          .title = InsightTexts::tr("Fiscal year and period"),
          .purpose = InsightTexts::tr("When your year begins, and the period that new documents go into."),
          .ways = {{.name = u"firstPeriodShow"_s, .command = InsightTexts::tr("Show"), .screen = u"frmCompany"_s}},
-         .read = period},
+         .ask = period},
         {.name = u"firstLocations"_s,
          .title = InsightTexts::tr("Locations"),
          .purpose = InsightTexts::tr("The rooms and shelves where stock is kept, each counted by itself."),
          .ways = waysOf(u"firstLocations"_s, MasterKinds::location()),
-         .read = locations},
+         .ask = locations},
         {.name = u"firstTypes"_s,
          .title = InsightTexts::tr("Item types"),
          .purpose =
              InsightTexts::tr("Kinds of goods, such as produce or packing; each says how its items are costed."),
          .ways = waysOf(u"firstTypes"_s, MasterKinds::itemType()),
-         .read = types},
+         .ask = types},
         {.name = u"firstItems"_s,
          .title = InsightTexts::tr("Items"),
          .purpose = InsightTexts::tr("The goods themselves, with their numbers, units and types."),
          .ways = waysOf(u"firstItems"_s, MasterKinds::item()),
-         .read = items},
+         .ask = items},
         {.name = u"firstVendors"_s,
          .title = InsightTexts::tr("Vendors"),
          .purpose = InsightTexts::tr("Whom goods are received from."),
          .ways = waysOf(u"firstVendors"_s, MasterKinds::vendor()),
-         .read = vendors},
+         .ask = vendors},
         {.name = u"firstCount"_s,
          .title = InsightTexts::tr("First count"),
          .purpose = InsightTexts::tr(
@@ -123,7 +140,7 @@ QList<FirstStep> describe()
                   {.name = u"firstCountReceipt"_s,
                    .command = InsightTexts::tr("As a Receipt"),
                    .screen = DocumentKinds::receipt().list.screen}},
-         .read = count},
+         .ask = count},
     };
 }
 
@@ -137,10 +154,7 @@ const QList<FirstStep> &firstSteps()
 
 QList<FirstStepState> readFirstSteps(Engine::Database &database)
 {
-    QList<FirstStepState> states;
-    for (const FirstStep &step : firstSteps())
-        states.append(step.read(database));
-    return states;
+    return Engine::answersOf(firstSteps(), database);
 }
 
 int openSteps(const QList<FirstStepState> &states)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/store/answer.h"
+
 #include <functional>
 #include <QList>
 #include <QString>
@@ -33,7 +35,7 @@ struct FirstStep
     QString title;
     QString purpose; // what it is for, in a sentence
     QList<FirstStepWay> ways;
-    std::function<FirstStepState(Engine::Database &)> read;
+    std::function<Engine::Answer<FirstStepState>(Engine::Database &)> ask;
 };
 
 // Fiscal year and period, locations, item types, items, vendors, the first count: in the order in which one needs the other.

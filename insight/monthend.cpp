@@ -31,16 +31,41 @@ MonthEndLine nothingWaits(const TodayLine &today)
             .command = InsightTexts::tr("Show"),
             .screen = today.screen,
             .report = {},
-            .read = [&today](const MonthEndSource &source) {
-                const TodayFigure figure = today.read(source.books);
-                return MonthEndFigure{figure.text, !figure.waits, figure.detail};
+            .ask = [&today](const MonthEndSource &source) {
+                return [asked = today.ask(source.books)] {
+                    const TodayFigure figure = asked();
+                    return MonthEndFigure{figure.text, !figure.waits, figure.detail};
+                };
             }};
 }
 
 // A location that has been counted may have come to nothing by that, and one without stock has nothing to be counted.
-MonthEndFigure countedLocations(const MonthEndSource &source)
+MonthEndFigure countedOf(Engine::Statement &rows)
 {
-    const Engine::StatementPtr rows = source.books.database.connection().prepare(
+    int locations = 0;
+    QStringList counted;
+    QStringList missing;
+    while (rows.next()) {
+        ++locations;
+        const QString name = rows.isNull(0) ? QString::number(rows.intAt(1)) : rows.textAt(0);
+        if (rows.intAt(3) == 0)
+            missing.append(name);
+        else
+            counted.append(InsightTexts::tr("%1 (%2 of %3 items)")
+                               .arg(name, QString::number(rows.intAt(3)), QString::number(rows.intAt(2))));
+    }
+    QStringList detail;
+    if (!missing.isEmpty())
+        detail.append(InsightTexts::tr("Not counted: %1").arg(missing.join(u", "_s)));
+    if (!counted.isEmpty())
+        detail.append(InsightTexts::tr("Counted: %1").arg(counted.join(u", "_s)));
+    return {InsightTexts::tr("%1 of %2").arg(counted.size()).arg(locations), missing.isEmpty(),
+            detail.join(u"\n"_s)};
+}
+
+Engine::Answer<MonthEndFigure> countedLocations(const MonthEndSource &source)
+{
+    Engine::StatementPtr rows = source.books.database.connection().prepare(
         u"SELECT W.WarehouseName, B.WarehouseID, COUNT(*), SUM(CASE WHEN C.CountDate >= ? THEN 1 ELSE 0 END) "
         "FROM IBalance B JOIN Item I ON I.ItemID = B.ItemID JOIN ItemType T ON T.ItemTypeID = I.ItemTypeID "
         "LEFT OUTER JOIN Warehse W ON W.WarehouseID = B.WarehouseID "
@@ -50,25 +75,7 @@ MonthEndFigure countedLocations(const MonthEndSource &source)
         "OR SUM(CASE WHEN C.CountDate >= ? THEN 1 ELSE 0 END) > 0 ORDER BY W.WarehouseName, B.WarehouseID"_s);
     rows->bind(0, source.countedSince);
     rows->bind(1, source.countedSince);
-    int locations = 0;
-    QStringList counted;
-    QStringList missing;
-    while (rows->next()) {
-        ++locations;
-        const QString name = rows->isNull(0) ? QString::number(rows->intAt(1)) : rows->textAt(0);
-        if (rows->intAt(3) == 0)
-            missing.append(name);
-        else
-            counted.append(InsightTexts::tr("%1 (%2 of %3 items)")
-                               .arg(name, QString::number(rows->intAt(3)), QString::number(rows->intAt(2))));
-    }
-    QStringList detail;
-    if (!missing.isEmpty())
-        detail.append(InsightTexts::tr("Not counted: %1").arg(missing.join(u", "_s)));
-    if (!counted.isEmpty())
-        detail.append(InsightTexts::tr("Counted: %1").arg(counted.join(u", "_s)));
-    return {InsightTexts::tr("%1 of %2").arg(counted.size()).arg(locations), missing.isEmpty(),
-            detail.join(u"\n"_s)};
+    return [rows = Engine::asked(std::move(rows))] { return countedOf(*rows); };
 }
 
 MonthEndFigure printedValue(const MonthEndSource &source)
@@ -124,10 +131,15 @@ void moveOn(Engine::Table &company, const Period &ending)
 
 } // namespace
 
-EndingPeriod EndingPeriod::readFrom(Engine::Database &database, QDate today)
+EndingPeriod EndingPeriod::readFrom(Engine::Database &database, QDate today) { return ask(database, today)(); }
+
+Engine::Answer<EndingPeriod> EndingPeriod::ask(Engine::Database &database, QDate today)
 {
-    const FiscalSettings settings = FiscalSettings::readFrom(database);
-    return {.period = defaultPeriod(settings, today), .followsCalendar = !isSet(settings.defaultPeriod)};
+    return [today, row = std::shared_ptr(FiscalSettings::ask(database))] {
+        const FiscalSettings settings = FiscalSettings::from(*row);
+        return EndingPeriod{.period = defaultPeriod(settings, today),
+                            .followsCalendar = !isSet(settings.defaultPeriod)};
+    };
 }
 
 QString shownPeriod(const Period &period) { return u"%1/%2"_s.arg(period.number, 2, 10, '0'_L1).arg(period.year); }
@@ -153,13 +165,13 @@ const QList<MonthEndLine> &monthEndLines()
                     .command = InsightTexts::tr("Count..."),
                     .screen = u"FormEnterInventory"_s,
                     .report = {},
-                    .read = countedLocations});
+                    .ask = countedLocations});
         all.append({.name = u"monthEndValue"_s,
                     .title = InsightTexts::tr("Value printed"),
                     .command = InsightTexts::tr("Print..."),
                     .screen = {},
                     .report = u"TrptValueByType"_s,
-                    .read = printedValue});
+                    .ask = [](const MonthEndSource &source) { return [source] { return printedValue(source); }; }});
         return all;
     }();
     return lines;

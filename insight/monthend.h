@@ -16,6 +16,7 @@ struct EndingPeriod
     bool followsCalendar = false;
 
     static EndingPeriod readFrom(Engine::Database &database, QDate today);
+    static Engine::Answer<EndingPeriod> ask(Engine::Database &database, QDate today);
     Period next() const { return periodAfter(period); }
 };
 
@@ -50,7 +51,7 @@ struct MonthEndLine
     QString command; // what its button says: "Show"
     QString screen; // component name of what that opens
     QString report; // or a report to print
-    std::function<MonthEndFigure(const MonthEndSource &)> read; // in a short statement or two
+    std::function<Engine::Answer<MonthEndFigure>(const MonthEndSource &)> ask; // a short statement or two
 };
 
 // The documents of each kind that wait to be posted: 0. Balances below zero: 0. The locations that have stock: each counted

@@ -42,26 +42,28 @@ TodayFigure counted(Engine::Statement &rows)
 }
 
 // As many as a posting would take, by who has saved them last.
-TodayFigure unposted(const TodaySource &source, const DocumentKind &kind)
+Engine::Answer<TodayFigure> unposted(const TodaySource &source, const DocumentKind &kind)
 {
-    const Engine::StatementPtr rows = source.database.connection().prepare(
+    Engine::StatementPtr rows = source.database.connection().prepare(
         u"SELECT S.SavedBy, COUNT(*) FROM (SELECT I.%1 AS DocumentID FROM %2) W "
         "LEFT OUTER JOIN IDocSaved S ON S.DocumentID = W.DocumentID AND S.TransType = ? "
         "GROUP BY S.SavedBy ORDER BY S.SavedBy"_s.arg(kind.keyField, kind.posting.unposted));
     rows->bindInt(0, static_cast<int>(kind.posting.transType));
-    TodayFigure figure = counted(*rows);
-    if (!figure.detail.isEmpty())
-        figure.detail = TransactionsTexts::tr("Last saved by: %1").arg(figure.detail);
-    return figure;
+    return [rows = Engine::asked(std::move(rows))] {
+        TodayFigure figure = counted(*rows);
+        if (!figure.detail.isEmpty())
+            figure.detail = TransactionsTexts::tr("Last saved by: %1").arg(figure.detail);
+        return figure;
+    };
 }
 
-TodayFigure belowZero(const TodaySource &source)
+Engine::Answer<TodayFigure> belowZero(const TodaySource &source)
 {
-    const Engine::StatementPtr rows = source.database.connection().prepare(
+    Engine::StatementPtr rows = source.database.connection().prepare(
         u"SELECT W.WarehouseName, COUNT(*) FROM IBalance B LEFT OUTER JOIN Warehse W ON W.WarehouseID = "
         u"B.WarehouseID "
         "WHERE %1 GROUP BY W.WarehouseName ORDER BY W.WarehouseName"_s.arg(TotalsView::belowZero()));
-    return counted(*rows);
+    return [rows = Engine::asked(std::move(rows))] { return counted(*rows); };
 }
 
 // Documents of the user whose program ended before they were saved.
@@ -101,11 +103,15 @@ TodayFigure begunCounts(const TodaySource &source)
     return {QString::number(locations.size()), !locations.isEmpty(), names.join(u", "_s)};
 }
 
-TodayFigure openPeriod(const TodaySource &source)
+Engine::Answer<TodayFigure> openPeriod(const TodaySource &source)
 {
-    const FiscalSettings settings = FiscalSettings::readFrom(source.database);
-    const Period period = defaultPeriod(settings, source.database.session().today());
-    return {u"%1 / %2"_s.arg(period.number).arg(period.year), false, periodMessage(judgePeriod(settings, period))};
+    const QDate today = source.database.session().today();
+    return [today, row = std::shared_ptr(FiscalSettings::ask(source.database))] {
+        const FiscalSettings settings = FiscalSettings::from(*row);
+        const Period period = defaultPeriod(settings, today);
+        return TodayFigure{u"%1 / %2"_s.arg(period.number).arg(period.year), false,
+                           periodMessage(judgePeriod(settings, period))};
+    };
 }
 
 QString dayText(QDate day, QDate today)
@@ -126,6 +132,12 @@ TodayFigure backup(const TodaySource &source)
             last.by.isEmpty() ? made : TransactionsTexts::tr("%1, by %2").arg(made, last.by)};
 }
 
+// What needs more than a statement, and is read when it is taken.
+std::function<Engine::Answer<TodayFigure>(const TodaySource &)> later(TodayFigure (*read)(const TodaySource &))
+{
+    return [read](const TodaySource &source) { return [read, source] { return read(source); }; };
+}
+
 QString lineName(const QString &what) { return u"today"_s + what.left(1).toUpper() + what.mid(1); }
 
 } // namespace
@@ -138,31 +150,31 @@ const QList<TodayLine> &todayLines()
             all.append({.name = lineName(kind->name),
                         .title = kind->posting.waiting,
                         .screen = kind->list.screen,
-                        .read = [kind](const TodaySource &source) { return unposted(source, *kind); },
+                        .ask = [kind](const TodaySource &source) { return unposted(source, *kind); },
                         .isForMonthEnd = true});
         }
         all.append({.name = u"todayBelowZero"_s,
                     .title = TransactionsTexts::tr("Below zero"),
                     .screen = u"frmInvTotals"_s,
-                    .read = belowZero,
+                    .ask = belowZero,
                     .tone = TodayLine::Tone::Alarm,
                     .isForMonthEnd = true});
         all.append({.name = u"todayLeft"_s,
                     .title = TransactionsTexts::tr("Begun, not saved"),
                     .screen = DocumentKinds::all().first()->list.screen,
-                    .read = leftDocuments});
+                    .ask = later(leftDocuments)});
         all.append({.name = u"todayCounts"_s,
                     .title = TransactionsTexts::tr("Counts begun"),
                     .screen = u"FormEnterInventory"_s,
-                    .read = begunCounts});
+                    .ask = later(begunCounts)});
         all.append({.name = u"todayPeriod"_s,
                     .title = TransactionsTexts::tr("Period"),
                     .screen = u"frmCompany"_s,
-                    .read = openPeriod});
+                    .ask = openPeriod});
         all.append({.name = u"todayBackup"_s,
                     .title = TransactionsTexts::tr("Backup"),
                     .screen = u"frmBackUp"_s,
-                    .read = backup});
+                    .ask = later(backup)});
         return all;
     }();
     return lines;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/store/answer.h"
 #include "transactions/countdraft.h"
 
 #include <functional>
@@ -36,7 +37,7 @@ struct TodayLine
     QString name; // of what shows the line: "todayReceipts"
     QString title; // "Receipts to post"
     QString screen; // component name: "frmInvReceipts"
-    std::function<TodayFigure(const TodaySource &)> read; // in one short statement or two
+    std::function<Engine::Answer<TodayFigure>(const TodaySource &)> ask; // one short statement or two
     Tone tone = Tone::Usual;
     bool isForMonthEnd = false; // nothing is to wait when a month ends
 };

@@ -138,11 +138,16 @@ MonthEndSource TfrmMonthEnd::source() const
 void TfrmMonthEnd::read()
 {
     TDataModuleTallymere &books = context().data;
-    if (EndingPeriod::readFrom(books.databaseTallymere(), books.today()).period != m_ending.period)
+    const Engine::Answer<EndingPeriod> ending = EndingPeriod::ask(books.databaseTallymere(), books.today());
+    const MonthEndSource before = source();
+    QList<MonthEndFigure> figures = Engine::answersOf(monthEndLines(), before);
+    if (ending().period != m_ending.period) {
         takePeriod();
-    const MonthEndSource from = source();
-    for (Shown &shown : m_shown)
-        show(shown, shown.line.read(from));
+        const MonthEndSource now = source();
+        figures = Engine::answersOf(monthEndLines(), now);
+    }
+    for (qsizetype line = 0; line < m_shown.size(); ++line)
+        show(m_shown[line], figures[line]);
 }
 
 // By itself: a box about what cannot be read would bring the window to the front again when it is closed.

@@ -1,5 +1,6 @@
 #include "base/origintext.h"
 #include "engine/store/readmoment.h"
+#include "engine/store/unawaitedchange.h"
 #include "tests/cli/clirunner.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/files.h"
@@ -156,6 +157,35 @@ TEST_F(Standby, AConnectionThatStaysOpenGoesToThePrimaryAndBack)
     ReadOrigin origin;
     EXPECT_EQ(found(&origin), u"primary apples beans"_s);
     EXPECT_EQ(origin.reason, Reason::NoneThere);
+}
+
+TEST_F(Standby, WhatNobodyHasWaitedForIsNotMissedAndWhatWasAskedBeforeIsAnswered)
+{
+    const auto adding = [](const QString &name) {
+        return [name](Connection &connection) {
+            StatementPtr statement = connection.prepare(u"INSERT INTO goods VALUES (?)"_s);
+            statement->bindText(0, name);
+            return statement;
+        };
+    };
+    Database reading(user->database, user->database.connection().openReading(user->database));
+    EXPECT_EQ(rowsOf(reading, recovers), QStringList{u"standby"_s});
+    replay(false);
+    const StatementPtr asked = reading.connection().prepare(goods);
+    asked->ask();
+    changeUnawaited(user->database, adding(u"beans"_s));
+    EXPECT_EQ(foundBy(reading), u"apples beans"_s);
+    ASSERT_TRUE(asked->next());
+    EXPECT_EQ(asked->textAt(0), u"apples"_s);
+    EXPECT_FALSE(asked->next()) << "it was asked before";
+
+    replay(true);
+    reading.connection().renewReading();
+    EXPECT_EQ(rowsOf(reading, recovers), QStringList{u"standby"_s});
+    replay(false);
+    user->database.write(adding(u"cocoa"_s)); // its commit travels with it
+    EXPECT_EQ(foundBy(reading), u"apples beans cocoa"_s);
+    replay(true);
 }
 
 TEST_F(Standby, AReadingThatItEndsBeginsAnewAtThePrimary)

@@ -43,7 +43,7 @@ struct DistanceTest : testing::Test
 // The second time: what is prepared once and kept does not count.
 TEST_F(DistanceTest, AScreenOpensAfterFewAnswers)
 {
-    constexpr int ofList = 3, ofOther = 14;
+    constexpr int ofList = 3, ofOther = 9;
     TdmLookUpsInv lookups(data->databaseTallymere());
     ScreenContext context{.data = *data, .lookups = lookups, .prompts = prompts};
     for (const bool counts : {false, true}) {

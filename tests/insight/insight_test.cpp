@@ -379,7 +379,7 @@ TEST_P(InsightTest, TheMonthIsDoneWhenEachOfItsLinesIs)
     const auto figure = [&](const QString &name) {
         for (const MonthEndLine &line : monthEndLines())
             if (line.name == name)
-                return line.read(source);
+                return line.ask(source)();
         ADD_FAILURE() << qPrintable(name);
         return MonthEndFigure();
     };

@@ -20,7 +20,7 @@ protected:
     {
         for (const TodayLine &line : todayLines()) {
             if (line.title == title)
-                return line.read(source);
+                return line.ask(source)();
         }
         ADD_FAILURE() << "no line " << qPrintable(title);
         return {};
