@@ -2537,6 +2537,10 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
         <source>%n documents were imported.</source>
         <translation>%n Belege wurden importiert.</translation>
     </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Gespeichert als %1.</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>

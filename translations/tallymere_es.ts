@@ -2537,6 +2537,10 @@ tabla de ubicaciones de Ledgerwick?</translation>
         <source>%n documents were imported.</source>
         <translation>Se han importado %n documentos.</translation>
     </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Guardado como %1.</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>

@@ -101,7 +101,7 @@ void ImportDesk::saveForImport(const QString &kind, const QString &caption, QWid
 {
     const FileChoice choice{ImportTexts::tr("Save for an Import"), caption + ".xlsx"_L1,
                             ImportTexts::tr("XLSX files"), u"xlsx"_s};
-    saveToChosenFile(m_context, window, choice, [&](const QString &file) {
+    const QString saved = saveToChosenFile(m_context, window, choice, [&](const QString &file) {
         workBeside(window, ImportTexts::tr("Saving %1").arg(QDir::toNativeSeparators(file)),
                    m_context.data.databaseTallymere(), [&](Engine::Database &database, Progress &progress) {
                        saveFile(file, [&](QIODevice &device) {
@@ -110,6 +110,8 @@ void ImportDesk::saveForImport(const QString &kind, const QString &caption, QWid
                        });
                    });
     });
+    if (!saved.isEmpty())
+        m_context.prompts.inform(ImportTexts::tr("Saved as %1.").arg(QDir::toNativeSeparators(saved)));
 }
 
 bool ImportDesk::takeBack(const QString &kind, QWidget *window)
