@@ -21,6 +21,8 @@ struct Lookups : testing::TestWithParam<Store>
 TEST_P(Lookups, HostTablesAreMissedOnlyWhereTheyAreNeeded)
 {
     TdmLookUpsInv lookups(store.database());
+    EXPECT_EQ(std::ranges::count_if(lookups.ownedTables(), &Engine::TableReader::isOpen), 2)
+        << "items and their types";
     EXPECT_TRUE(lookups.tblVendor().isEmpty());
     EXPECT_THROW(lookups.tblCustomer(), Engine::EngineError);
 

@@ -238,8 +238,11 @@ TEST_P(RecordTest, OnlyOneUserEditsARecord)
     vendors.cancel();
     theirs.first();
     change(theirs, u"VendorName", u"Changed"_s);
+    int repainted = -1;
+    QObject::connect(&vendors, &DataSet::rowChanged, &vendors, [&](int row) { repainted = row; });
     vendors.edit();
     EXPECT_EQ(vendors.text(u"VendorName"), u"Changed"_s) << "read afresh under the lock";
+    EXPECT_EQ(repainted, 0) << "lists show it";
     vendors.cancel();
 
     auto whole = std::make_unique<Engine::TableLocks>(theirs.database());

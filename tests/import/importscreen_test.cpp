@@ -1,5 +1,6 @@
 // A file brought in by the window, driven by mouse and keyboard.
 #include "import/importkind.h"
+#include "import/screens/importdesk.h"
 #include "import/screens/importscreen.h"
 #include "tests/support/files.h"
 #include "tests/support/screentest.h"
@@ -66,6 +67,27 @@ TEST_F(ImportScreen, ShowsWhatIsWrongAndTakesAllRowsOnceNothingIs)
     EXPECT_EQ(screen->imported().count(), 2);
     EXPECT_EQ(kitchen.value(u"SELECT count(*) FROM Item WHERE ItemNo IN ('N1', 'N2')"_s).toInt(), 2);
     EXPECT_EQ(kitchen.value(u"SELECT StandardCost FROM Item WHERE ItemDescription = 'New; 1,5'"_s).toDouble(), 1.5);
+}
+
+TEST_F(ImportScreen, BringsInTheFileThatIsNamedAndTakesItBack)
+{
+    const QString file = folder.filePath(u"a.csv"_s);
+    putContent(file, "ItemNo,ItemDescription,TypeName\nN1,New,Food\n");
+    QTimer watch; // the window comes once the file has been read
+    watch.callOnTimeout([] {
+        if (auto *import = qobject_cast<TfrmImport *>(QApplication::activeModalWidget()))
+            click(*import, "btnOK");
+    });
+    watch.start(1);
+    ImportDesk desk(*context);
+    EXPECT_TRUE(desk.import(u"items"_s, file, mainWindow.get()));
+    EXPECT_TRUE(desk.takeBack(u"items"_s, mainWindow.get()));
+    EXPECT_FALSE(desk.takeBack(u"items"_s, mainWindow.get())) << "nothing is left of it";
+    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Item WHERE ItemNo = 'N1'"_s), 0);
+    EXPECT_EQ(
+        prompts.told(),
+        u"inform: 1 record was imported.\nConfirm: Take back the 1 record that was imported?\ninform: Nothing "
+        "has been imported into this list since the program was started."_s);
 }
 
 } // namespace

@@ -100,6 +100,8 @@ TEST_F(BlankFormTest, ListsWhatTheCountLists)
     const auto run = runReport(*data, blankForm({.pagePerCategory = true, .zeroCounts = true}), {.warehouseId = 1});
     run->makePages();
     EXPECT_EQ(run->pageCount(), 2);
+    for (const int page : {0, 1})
+        EXPECT_EQ(std::ranges::count(run->page(page).texts, u"Counted by:"_s, &Printing::TextItem::text), 1);
 }
 
 TEST_F(BlankFormTest, ScannersReadItsBarcodesIntoTheCount)

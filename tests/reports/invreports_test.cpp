@@ -9,6 +9,8 @@
 
 #include <QAccessible>
 #include <QListWidget>
+#include <QPrintDialog>
+#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -210,6 +212,9 @@ TEST_F(InvReportsTest, EnterPressesTheButtonWithTheCursorAndWhatWasSavedIsTold)
     EXPECT_EQ(label->text(), u"Page %1 of %1"_s.arg(last));
     preview->savePdf();
     EXPECT_EQ(preview->statusBar()->currentMessage(), last + " pages saved as "_L1 + file());
+    EXPECT_TRUE(whileOpen<QPrintDialog>([&] { preview->btnPrintClick(); },
+                                        [&](QPrintDialog &dialog) { EXPECT_EQ(dialog.toPage(), last.toInt()); }));
+    showActive(*preview);
     preview->offerCsv(
         [&](Progress &) { return makeReport(*data, *ReportList::find(u"Inventory Receipts"_s), {}); });
     preview->saveCsv(); // which has no pages
@@ -244,7 +249,16 @@ TEST_F(InvReportsTest, PagesAreTurnedOneByOneWhereSeveralAreInSight)
     const auto read = [page] { return page->textInterface()->text(0, page->textInterface()->characterCount()); };
     EXPECT_TRUE(read().startsWith("Inventory Receipts\tTest Kitchen\n"_L1)) << qPrintable(read().left(300));
     EXPECT_TRUE(read().contains(u"\n3/2026\t1300\t14 Mar 26\t"_s)) << qPrintable(read().left(300));
-    child<QSpinBox>(*preview, "SpinEdit1")->setValue(20);
+    auto *zoom = child<QSpinBox>(*preview, "SpinEdit1");
+    zoom->setValue(100);
+    preview->btnNextClick();
+    preview->btnNextClick();
+    zoom->setValue(70);
+    QScrollBar *place = child<PageView>(*preview, "QRPreview1")->verticalScrollBar();
+    place->setValue(place->value() + 1);
+    EXPECT_EQ(label->text().section(u' ', 1, 1), u"3"_s) << "the page stays in sight";
+    preview->btnFirstClick();
+    zoom->setValue(20);
     QStringList pages{label->text().section(u' ', 1, 1)};
     for (const auto turn : {&TfrmPreview::btnNextClick, &TfrmPreview::btnNextClick, &TfrmPreview::btnPrevClick,
                             &TfrmPreview::btnLastClick, &TfrmPreview::btnFirstClick}) {
