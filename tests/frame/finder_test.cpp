@@ -132,6 +132,12 @@ TEST_F(FinderTest, FindsWhateverItIsByNumberOrByAnyWords)
             << "a section of the manual";
         EXPECT_TRUE(found(u"average cost"_s).contains(u"average cost"_s)) << "a word of the manual's index";
         EXPECT_EQ(found(u"no such thing"_s), QStringList());
+
+        openBox();
+        type("101<Down>0");
+        EXPECT_EQ(child<QListWidget>(*box(), "listFound")->currentItem()->text(), u"Receipt 1010"_s)
+            << "the row that was gone to";
+        press(Qt::Key_Escape);
     });
     EXPECT_EQ(company.prompts.said, QStringList());
 }
@@ -190,6 +196,10 @@ TEST_F(FinderTest, OpensOverAnyWindowButNotWhereADialogWaits)
         auto *name = child<QLineEdit>(*record, "editItemDescription");
         name->setFocus();
         name->home(false);
+        QKeyEvent asked(QEvent::ShortcutOverride, Qt::Key_K, Qt::ControlModifier);
+        asked.ignore();
+        QApplication::sendEvent(name, &asked);
+        EXPECT_TRUE(asked.isAccepted()) << "no menu of the host gets the key as well";
         openBox();
         EXPECT_EQ(name->text(), u"Ice cream"_s);
         press(Qt::Key_Escape);

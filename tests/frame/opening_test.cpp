@@ -238,7 +238,10 @@ TEST_F(OpeningTest, AScreenRunsItsCommands)
     const auto question = u"Confirm: Insert any Corvane locations into the \nLedgerwick locations table?"_s;
     EXPECT_TRUE(open([&] {
         openTotals();
-        context->openScreen(u"frmWarehousesInv"_s);
+        const QWidget *first = context->openScreen(u"frmWarehousesInv"_s);
+        const QPointer<QWidget> another = context->openAnotherScreen(u"frmWarehousesInv"_s);
+        EXPECT_TRUE(another && another != first && another->isVisible());
+        delete another;
         context->runAction(u"ActionSynchronizeLocations"_s);
         form.findChild<QAction *>(u"mnuSynchronizeLocations"_s)->trigger();
         context->runAction(u"ActionPrintPayments"_s); // not available

@@ -126,7 +126,14 @@ TEST_F(ItemScreens, SaveOneAndGoOnWithTheNext)
 TEST_F(ItemScreens, UnlockTheAverageCostOnlyOnPurpose)
 {
     kitchen.execute(u"UPDATE Item SET WgtAvgCost = 2.345, ItemTypeID = 1 WHERE ItemID = 1"_s);
+    TheirTable theirs(kitchen, u"Item"_s);
+    ASSERT_TRUE(theirs.findKey({1}));
+    theirs.edit();
     openItem();
+    EXPECT_FALSE(child<QCheckBox>(*item, "chkReadOnly")->isEnabled());
+    theirs.cancel();
+    showActive(*list);
+    showActive(*item); // which sees that it is free, and locks nothing but the cost
     typeIn(*item, "editWgtAvgCost", "9");
     EXPECT_EQ(shown("editWgtAvgCost"), u"2.345");
     const auto colour = [this] {
