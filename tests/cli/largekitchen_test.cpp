@@ -23,6 +23,10 @@ QStringList booksOf(Store store, std::uint64_t seed)
     CountedProgress progress;
     Tallymere::bringInSampleMasters(data, progress);
     Tallymere::LargeKitchen(data.databaseTallymere(), seed, {.items = 700, .historyRows = 20'000}).fill(progress);
+    EXPECT_EQ(
+        place.found(u"SELECT count(*) FROM Item WHERE ItemID IN (SELECT ItemID FROM IBalance WHERE QtyOnHand > 0) "
+                    "AND coalesce(WgtAvgCost, 0) <= 0"_s),
+        u"0"_s);
     return place.rows(u"SELECT ItemID, WarehouseID, GLYear, GLPeriod, TransType, Quantity, UnitCost, "
                       "TransDescription, ReceiptID, UsageID, AdjustmentID FROM IHist ORDER BY IHistID"_s)
         + place.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance ORDER BY ItemID, WarehouseID"_s);

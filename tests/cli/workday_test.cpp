@@ -68,6 +68,10 @@ TEST_P(Workday, FromAnEmptyFolderToTotals)
     EXPECT_EQ(cli.column({u"totals"_s}, u"QtyOnHand"_s), (QStringList{u"3"_s, u"7"_s, u"3.5"_s}));
     EXPECT_EQ(cli.column({u"history"_s, u"--filter"_s, u"(TransType = 5)"_s}, u"UnitCost"_s),
               (QStringList{u"2.33"_s, u"9"_s, u"2.33"_s}));
+    cli.execute(u"INSERT INTO History (Event, \"user\", Tran_Date, Event_Date) VALUES "
+                "('Repaired: a cost', 'anna', '2026-11-03 14:05:00', '2026-11-02')"_s);
+    EXPECT_EQ(cli.run({u"list"_s, u"audit"_s}).rows().value(1).join(u'|'),
+              u"2026-11-03|14:05|Repaired: a cost|anna|2026-11-02"_s);
     const auto buy = cli.list({u"buy"_s, u"--location"_s, u"2"_s, u"--weeks"_s, u"1"_s});
     ASSERT_EQ(buy.size(), 1);
     EXPECT_EQ(buy[0][u"VendorNo"_s] + u' ' + buy[0][u"Proposed"_s] + u' ' + buy[0][u"LastCost"_s], u"V2 1 3"_s);

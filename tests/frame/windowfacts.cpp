@@ -122,6 +122,24 @@ QString layoutOf(const QWidget &widget)
         .arg(layout->spacing());
 }
 
+bool holds(const QLayout &layout, const QWidget &widget)
+{
+    bool held = layout.menuBar() == &widget;
+    for (int i = 0; i < layout.count() && !held; ++i) {
+        QLayoutItem *item = layout.itemAt(i);
+        held = item->widget() == &widget || (item->layout() && holds(*item->layout(), widget));
+    }
+    return held;
+}
+
+// What the layout around it has not got lies somewhere on the others.
+QString placeOf(const QWidget &widget)
+{
+    const QWidget *around = widget.isWindow() ? nullptr : widget.parentWidget();
+    const bool isLeftOut = around && around->layout() && !holds(*around->layout(), widget);
+    return isLeftOut ? u" outside of the layout"_s : QString();
+}
+
 QString columnsOf(const QHeaderView &header)
 {
     QString result;
@@ -260,7 +278,7 @@ void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
         const auto *header = qobject_cast<QHeaderView *>(&widget);
         facts << indent + QString::fromLatin1(name) + u' ' + widget.objectName()
                 + (widget.isHidden() ? u" hidden"_s : QString()) + differences(widget, usual(widget))
-                + limitsOf(widget) + rowOf(widget) + paintedOf(widget) + layoutOf(widget)
+                + limitsOf(widget) + rowOf(widget) + paintedOf(widget) + placeOf(widget) + layoutOf(widget)
                 + (header ? columnsOf(*header) : QString());
         if (!qobject_cast<QMenu *>(&widget))
             addCommands(facts, widget, indent + u"  "_s);

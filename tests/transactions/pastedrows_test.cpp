@@ -86,6 +86,7 @@ TEST_P(PastedRowsTest, ColumnsAreKnownByTheirTitlesOrByWhatTheyHold)
         {"Colour\tThing\tMany\nred\tB1\t5", "titles:  ItemNo QtyReceived"},
         {"A10\tApples\t5\t1.20\t6.00", "ItemNo ItemDescription QtyReceived UnitCost "},
         {"\"A\n10\"\t2", " QtyReceived"},
+        {"\"A10\t2", " QtyReceived"}, // inches, or a quote that nobody closed
     };
     for (const auto &[text, expected] : cases)
         EXPECT_EQ(fields(QString::fromLatin1(text)), QString::fromLatin1(expected)) << text;
