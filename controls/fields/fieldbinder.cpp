@@ -87,7 +87,6 @@ void FieldBinder::bind(Engine::Table &table, const QString &source)
                 Engine::ErrorCode::NoSuchField,
                 tr("%1 cannot show field %2 of table %3.").arg(widget->objectName(), name, table.name()));
         widget->installEventFilter(this);
-        binding->setReadOnly(isReadOnly());
         binding->show();
         m_bindings.push_back(std::move(binding));
     }

@@ -31,7 +31,7 @@ public:
     ~FieldBinder() override;
 
     // Ties all widgets of the form whose table is the source. The table must be open; a field that it does not have
-    // throws NoSuchField, so that a misspelt form shows at once.
+    // throws NoSuchField, so that a misspelt form shows at once. Before the form can become read-only.
     void bind(Engine::Table &table, const QString &source = {});
 
     // What is typed into the line edit of a field goes to the rule instead of the field: for a looked-up number

@@ -192,7 +192,6 @@ void EntryGrid::reportLater(const std::exception_ptr &failure, const std::functi
         [this, failure, then] {
             m_guard->report(failure);
             m_reporting = false;
-            setFocus();
             if (then)
                 then();
         },

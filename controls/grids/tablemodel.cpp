@@ -111,14 +111,11 @@ void TableModel::findFields()
         m_fields.push_back(m_data.fieldIndex(column.field));
 }
 
-bool TableModel::attempt(const std::function<void()> &reading) const
+void TableModel::attempt(const std::function<void()> &reading) const
 {
     const std::exception_ptr failure = Guard::attempt(reading);
-    if (!failure)
-        return true;
-    if (!std::exchange(m_failed, true))
+    if (failure && !std::exchange(m_failed, true))
         QTimer::singleShot(0, this, [this, failure] { tell(failure); });
-    return false;
 }
 
 // A store that failed a handler fails what is painted under that message as well, which need not be told again.

@@ -50,7 +50,7 @@ protected:
     virtual int dataRows() const;
     void takeList(); // the data set's list is new: as many rows as it has now
     void updateRow(int row);
-    bool attempt(const std::function<void()> &reading) const; // false, and a report to come, when it failed
+    void attempt(const std::function<void()> &reading) const; // with a report to come when it failed
 
 private:
     QString cellText(const QModelIndex &index, int role) const;

@@ -171,7 +171,6 @@ void EntryScreen::closeEvent(QCloseEvent *event)
         Q_EMIT closed();
     } else {
         event->ignore();
-        bringToFront(*this);
     }
 }
 
