@@ -1,14 +1,13 @@
 #include "engine/postgres/link.h"
 
 #include "engine/postgres/error.h"
-#include "engine/postgres/ownwrites.h"
 #include "engine/postgres/watch.h"
 #include "engine/store/platform.h"
 
 #include <algorithm>
 #include <libpq-fe.h>
-#include <QScopedValueRollback>
 #include <QScopeGuard>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,10 +15,6 @@ namespace Engine {
 
 namespace {
 
-// Commands under way before the server is asked to answer, and before answers are read. The latter bounds what
-// waits in the buffers, so that neither side ever waits for the other with its own buffer full.
-constexpr int flushEvery = 32;
-constexpr int mostPending = 256;
 constexpr int staleLimit = 50;
 
 // How long a server may be silent before it is asked over another connection, how long that may take, and how long
@@ -33,13 +28,6 @@ constexpr std::chrono::seconds nextWatch{20};
 constexpr std::chrono::seconds longWait{5};
 constexpr std::chrono::seconds pauseAfterVain{3};
 
-// The server's last words to a session that it ends; the connection itself breaks a moment later.
-bool endsSession(const PGresult *result)
-{
-    const QByteArray severity(PQresultErrorField(result, PG_DIAG_SEVERITY_NONLOCALIZED));
-    return severity == "FATAL" || severity == "PANIC";
-}
-
 QString field(const PGresult *result, int code) { return QString::fromUtf8(PQresultErrorField(result, code)); }
 
 } // namespace
@@ -48,49 +36,11 @@ void ClearResult::operator()(pg_result *result) const { PQclear(result); }
 
 void FinishConnection::operator()(pg_conn *handle) const { PQfinish(handle); }
 
-// Without a state, so threads may share it.
-AnswerTaker *AnswerTaker::nobody()
-{
-    class Nobody final : public AnswerTaker
-    {
-        void takeAnswer(ResultPtr) override { }
-        void endAnswer() override { }
-        void loseAnswer() override { }
-    };
-    static Nobody taker;
-    return &taker;
-}
-
-AnswerTaker *AnswerTaker::writing()
-{
-    class Writing final : public AnswerTaker
-    {
-        void takeAnswer(ResultPtr) override { }
-        void endAnswer() override { OwnWrites::note(); }
-        void loseAnswer() override { OwnWrites::note(); } // it may have been done
-    };
-    static Writing taker;
-    return &taker;
-}
-
-namespace {
-
-// Those of this thread with something under way that nobody waits for.
-QList<PostgresLink *> &unawaited()
-{
-    thread_local QList<PostgresLink *> links;
-    return links;
-}
-
-} // namespace
-
 PostgresLink::PostgresLink(PostgresTarget target)
     : m_target(std::move(target))
 {
     connect();
 }
-
-PostgresLink::~PostgresLink() { unawaited().removeAll(this); }
 
 // --- one command at a time ---------------------------------------------------------------------------------------
 
@@ -300,6 +250,12 @@ EngineError PostgresLink::errorOf(const pg_result *result)
     return postgresError(sqlState, words, field(result, PG_DIAG_MESSAGE_DETAIL), location(), holder);
 }
 
+bool PostgresLink::endsSession(const pg_result *result)
+{
+    const QByteArray severity(PQresultErrorField(result, PG_DIAG_SEVERITY_NONLOCALIZED));
+    return severity == "FATAL" || severity == "PANIC";
+}
+
 bool PostgresLink::isLost() const { return m_lost || PQstatus(handle()) == CONNECTION_BAD; }
 
 void PostgresLink::tell(bool isThere)
@@ -338,358 +294,5 @@ void PostgresLink::loseAnswers()
         if (sent.taker)
             sent.taker->loseAnswer();
 }
-
-// --- pipeline ---------------------------------------------------------------------------------------------------
-
-void PostgresLink::enterPipeline()
-{
-    awaitOthers();
-    if (PQpipelineStatus(handle()) == PQ_PIPELINE_OFF && PQenterPipelineMode(handle()) != 1)
-        fail(nullptr);
-    if (std::exchange(m_isBeginDue, false))
-        sendText("BEGIN");
-}
-
-void PostgresLink::sendText(const QByteArray &statement, AnswerTaker *taker)
-{
-    if (PQsendQueryParams(handle(), statement.constData(), 0, nullptr, nullptr, nullptr, nullptr, 0) != 1)
-        fail(nullptr);
-    countSent(taker);
-}
-
-void PostgresLink::countSent(AnswerTaker *taker)
-{
-    m_sent.push_back({Sent::Command, taker});
-    if (m_sent.size() % flushEvery == 0 && (PQsendFlushRequest(handle()) != 1 || PQflush(handle()) < 0))
-        fail(nullptr);
-    if (m_sent.size() < mostPending)
-        return;
-    collect(mostPending / 2);
-    if (m_failure)
-        finishSent(); // throws it
-}
-
-void PostgresLink::countPrepared(const QByteArray &name) { m_sent.push_back({Sent::Preparation, nullptr, name}); }
-
-void PostgresLink::synchronize()
-{
-    if (PQpipelineSync(handle()) != 1)
-        fail(nullptr);
-    m_sent.push_back({Sent::Synchronization});
-}
-
-void PostgresLink::synchronizeUnawaited()
-{
-    synchronize();
-    if (!unawaited().contains(this))
-        unawaited().append(this);
-}
-
-void PostgresLink::awaitUnawaited() noexcept
-{
-    try {
-        unawaited().removeAll(this);
-        if (m_sent.empty() || isLost() || m_reader) // who reads has had all answers before
-            return;
-        if (m_sent.back().kind != Sent::Synchronization)
-            synchronize(); // else the server keeps its answers
-        collect(0);
-    } catch (const EngineError &) { // it is lost, which its next command tells
-    }
-}
-
-void PostgresLink::awaitOthers()
-{
-    const QList<PostgresLink *> links = unawaited();
-    for (PostgresLink *link : links)
-        if (link != this)
-            link->awaitUnawaited();
-}
-
-// Reads the answers to what was sent first, until only so much is under way.
-void PostgresLink::collect(size_t left)
-{
-    while (m_sent.size() > left)
-        takeResult(nextResult());
-}
-
-// One more of what was sent first; without one, that has been all of it. Keeps the first failure that has no taker.
-void PostgresLink::takeResult(ResultPtr result)
-{
-    const ExecStatusType status = PQresultStatus(result.get());
-    const bool failed = result && (status == PGRES_FATAL_ERROR || status == PGRES_PIPELINE_ABORTED);
-    if (isLost() ? !result || failed : endsSession(result.get())) {
-        const EngineError loss = errorOf(result.get());
-        if (!m_failure)
-            m_failure = loss;
-        return;
-    }
-    const Sent &front = m_sent.front();
-    if (!result || status == PGRES_PIPELINE_SYNC) {
-        AnswerTaker *const taker = front.taker;
-        m_sent.pop_front();
-        if (taker)
-            taker->endAnswer();
-        return;
-    }
-    if (failed && !front.prepares.isEmpty())
-        m_missing.insert(front.prepares);
-    if (failed && !m_failure && (!front.taker || m_isCommitting))
-        m_failure = errorOf(result.get());
-    if (front.taker)
-        front.taker->takeAnswer(std::move(result));
-}
-
-void PostgresLink::throwFailure()
-{
-    if (!m_failure)
-        return;
-    const EngineError failure = *m_failure;
-    m_failure.reset();
-    throw failure;
-}
-
-void PostgresLink::finishSent()
-{
-    if (!m_sent.empty() && m_sent.back().kind != Sent::Synchronization)
-        synchronize();
-    collect(0);
-    throwFailure();
-}
-
-void PostgresLink::beginReading(ResultReader *reader)
-{
-    constexpr size_t command = 1;
-    synchronize();
-    collect(command + 1);
-    if (m_failure)
-        finishSent();
-    if (!beforeReading || m_inTransaction) // else it can be done again elsewhere as long as no row is given
-        PQsetSingleRowMode(handle());
-    m_reader = reader;
-}
-
-void PostgresLink::endReading()
-{
-    m_reader = nullptr;
-    if (!m_sent.empty())
-        m_sent.pop_front();
-    collect(0);
-}
-
-void PostgresLink::forget(AnswerTaker *taker, AnswerTaker *heir)
-{
-    for (Sent &sent : m_sent)
-        if (sent.taker == taker)
-            sent.taker = m_inTransaction ? nullptr : heir;
-    if (!m_sent.empty() && !unawaited().contains(this))
-        unawaited().append(this);
-}
-
-void PostgresLink::leavePipeline()
-{
-    if (isLost())
-        return;
-    if (m_isBeginDue)
-        enterPipeline();
-    if (PQpipelineStatus(handle()) == PQ_PIPELINE_OFF)
-        return;
-    try {
-        finishSent();
-    } catch (const EngineError &) {
-        PQexitPipelineMode(handle());
-        throw;
-    }
-    PQexitPipelineMode(handle());
-}
-
-void PostgresLink::abandonPipeline() noexcept
-{
-    try {
-        leavePipeline();
-    } catch (const EngineError &) {
-        // the transaction that these commands belonged to is being given up
-    }
-}
-
-// --- transaction ------------------------------------------------------------------------------------------------
-
-void PostgresLink::begin()
-{
-    prepareFor(nullptr);
-    if (hasEnded()) // so that this is told while nothing is under way yet
-        throw connectionLost(location(), u"ended by the server"_s);
-    m_writes = true;
-    if (m_mayMakeMarks)
-        makeMarks();
-    m_isBeginDue = true;
-    m_inTransaction = true;
-}
-
-// The moment is that of the first statement.
-void PostgresLink::beginMoment()
-{
-    prepareFor(nullptr);
-    m_writes = false;
-    run("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY; SELECT 1");
-    m_inTransaction = true;
-}
-
-namespace {
-
-class CommitAnswer final : public AnswerTaker
-{
-public:
-    void takeAnswer(ResultPtr answer) override
-    {
-        isDone = PQresultStatus(answer.get()) == PGRES_COMMAND_OK;
-        isUndone = isDone && qstrcmp(PQcmdStatus(answer.get()), "ROLLBACK") == 0;
-    }
-    void endAnswer() override { }
-    void loseAnswer() override { }
-
-    bool isDone = false;
-    bool isUndone = false;
-};
-
-} // namespace
-
-// Where something sent before has failed, the server passes over the commit, or undoes everything by it.
-void PostgresLink::commit()
-{
-    prepareFor(nullptr);
-    if (std::exchange(m_isBeginDue, false)) { // nothing has been done in it
-        m_inTransaction = false;
-        return;
-    }
-    const bool writes = m_writes && !isTransactionFailed();
-    const bool isMarked = writes && m_canMark;
-    const auto noted = qScopeGuard([writes] {
-        if (writes)
-            OwnWrites::note();
-    });
-    CommitAnswer answer;
-    try {
-        const QScopedValueRollback committing(m_isCommitting, true);
-        sendCommit(isMarked, answer);
-        finishSent();
-    } catch (const EngineError &error) {
-        forget(&answer);
-        m_inTransaction = m_inTransaction && !answer.isDone;
-        if (error.code() != ErrorCode::ConnectionLost || !writes)
-            throw;
-        if (!isMarked)
-            throw answerLost(location(), error.driverText());
-        if (!wasCommitted())
-            throw;
-        m_lostInTransaction = false;
-        return;
-    }
-    m_inTransaction = false;
-    if (answer.isUndone)
-        raise(ErrorCode::General,
-              Texts::tr("An earlier step of the same change has failed; the "
-                        "changes were undone."));
-}
-
-void PostgresLink::noteWriting() const
-{
-    if (!m_inTransaction)
-        OwnWrites::note();
-}
-
-void PostgresLink::rollback() noexcept
-{
-    m_lostInTransaction = false;
-    if (std::exchange(m_isBeginDue, false) || !m_inTransaction || isLost()) {
-        m_inTransaction = false;
-        return;
-    }
-    try {
-        if (m_reader)
-            m_reader->readAhead();
-    } catch (const EngineError &) {
-        m_reader = nullptr;
-    }
-    abandonPipeline();
-    m_inTransaction = false;
-    try {
-        if (!isLost())
-            run("ROLLBACK");
-    } catch (const EngineError &) {
-        // a connection that is lost has undone it
-    }
-}
-
-// --- commits whose answer is lost -------------------------------------------------------------------------------
-
-// Each link has a row there with the number of its last commit, which is written with it. The server's own numbers of
-// transactions would not do: those that had not reached the standby are given to others by it.
-void PostgresLink::makeMarks()
-{
-    m_mayMakeMarks = false;
-    try {
-        run("CREATE SCHEMA IF NOT EXISTS tallymere; "
-            "CREATE TABLE IF NOT EXISTS tallymere.commits (marker text PRIMARY KEY, number integer NOT NULL, "
-            "at timestamp with time zone NOT NULL); "
-            "GRANT USAGE ON SCHEMA tallymere TO PUBLIC; "
-            "GRANT SELECT, INSERT, UPDATE, DELETE ON tallymere.commits TO PUBLIC");
-    } catch (const EngineError &) {
-        if (isLost())
-            throw; // otherwise somebody else is just making it
-    }
-    const ResultPtr made = run("SELECT to_regclass('tallymere.commits') IS NOT NULL");
-    m_canMark = qstrcmp(PQgetvalue(made.get(), 0, 0), "t") == 0;
-}
-
-// A transaction that has written nothing leaves no number either. Rows of links that are no more go after a day.
-void PostgresLink::sendCommit(bool isMarked, AnswerTaker &answer)
-{
-    enterPipeline();
-    if (isMarked && m_commits++ == 0)
-        sendText("DELETE FROM tallymere.commits WHERE marker IN (SELECT marker FROM tallymere.commits "
-                 "WHERE at < now() - interval '1 day' AND txid_current_if_assigned() IS NOT NULL "
-                 "FOR UPDATE SKIP LOCKED)");
-    if (isMarked)
-        sendText("INSERT INTO tallymere.commits (marker, number, at) SELECT '" + m_marker + "', "
-                 + QByteArray::number(m_commits)
-                 + ", now() WHERE txid_current_if_assigned() IS NOT NULL "
-                   "ON CONFLICT (marker) DO UPDATE SET number = excluded.number, at = excluded.at");
-    sendText("COMMIT", &answer);
-}
-
-bool PostgresLink::wasCommitted()
-{
-    const auto since = std::chrono::steady_clock::now();
-    for (;;) {
-        try {
-            return isCommitted();
-        } catch (const EngineError &error) {
-            if (!m_target.mayWaitForServer || !m_target.mayWaitForServer(since, m_target.answerWait))
-                throw answerLost(location(), error.driverText());
-        }
-    }
-}
-
-// The former session must not come to its commit later. What has been found is written once more, so that the answer is as
-// safe as the commit's own would have been: on this server and where it is copied to.
-bool PostgresLink::isCommitted()
-{
-    PostgresTarget target = m_target;
-    target.told = {};
-    PostgresLink other(target);
-    other.endSession(m_session);
-    const ResultPtr lives =
-        other.run("SELECT 1 FROM pg_stat_activity WHERE pid = " + QByteArray::number(m_session.processId)
-                  + " AND backend_start = '" + m_session.begun + "'");
-    if (PQntuples(lives.get()) > 0)
-        raise(ErrorCode::Busy, Texts::tr("The former connection has not ended yet."));
-    const ResultPtr found =
-        other.run("INSERT INTO tallymere.commits VALUES ('" + m_marker
-                  + "', 0, now()) ON CONFLICT (marker) DO UPDATE SET at = now() RETURNING number");
-    return QByteArray(PQgetvalue(found.get(), 0, 0)).toInt() == m_commits;
-}
-
-bool PostgresLink::isTransactionFailed() const { return PQtransactionStatus(handle()) == PQTRANS_INERROR; }
 
 } // namespace Engine

@@ -151,6 +151,8 @@ public:
     ResultPtr checked(ResultPtr result);
     [[noreturn]] void fail(const pg_result *result); // also when the command could not even be sent
     EngineError errorOf(const pg_result *result);
+    static bool
+    endsSession(const pg_result *result); // the server's last words; the connection breaks a moment later
 
     QByteArray newStatementName() { return "s" + QByteArray::number(++m_statementCount); }
     void forgetStatement(const QByteArray &name) { m_stale.append(name); }
