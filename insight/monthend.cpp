@@ -66,15 +66,15 @@ MonthEndFigure countedOf(Engine::Statement &rows)
 Engine::Answer<MonthEndFigure> countedLocations(const MonthEndSource &source)
 {
     Engine::StatementPtr rows = source.books.database.connection().prepare(
-        u"SELECT W.WarehouseName, B.WarehouseID, COUNT(*), SUM(CASE WHEN C.CountDate >= ? THEN 1 ELSE 0 END) "
+        u"SELECT W.WarehouseName, L.WarehouseID, L.Items, L.Counted FROM ("
+        "SELECT B.WarehouseID, COUNT(*) AS Items, SUM(CASE WHEN C.CountDate >= ? THEN 1 ELSE 0 END) AS Counted, "
+        "SUM(CASE WHEN B.QtyOnHand <> 0 THEN 1 ELSE 0 END) AS InStock "
         "FROM IBalance B JOIN Item I ON I.ItemID = B.ItemID JOIN ItemType T ON T.ItemTypeID = I.ItemTypeID "
-        "LEFT OUTER JOIN Warehse W ON W.WarehouseID = B.WarehouseID "
         "LEFT OUTER JOIN ICounted C ON C.ItemID = B.ItemID AND C.WarehouseID = B.WarehouseID "
-        "WHERE I.Suspended = false AND T.Inventory = true GROUP BY W.WarehouseName, B.WarehouseID "
-        "HAVING SUM(CASE WHEN B.QtyOnHand <> 0 THEN 1 ELSE 0 END) > 0 "
-        "OR SUM(CASE WHEN C.CountDate >= ? THEN 1 ELSE 0 END) > 0 ORDER BY W.WarehouseName, B.WarehouseID"_s);
+        "WHERE I.Suspended = false AND T.Inventory = true GROUP BY B.WarehouseID) L "
+        "LEFT OUTER JOIN Warehse W ON W.WarehouseID = L.WarehouseID "
+        "WHERE L.InStock > 0 OR L.Counted > 0 ORDER BY W.WarehouseName, L.WarehouseID"_s);
     rows->bind(0, source.countedSince);
-    rows->bind(1, source.countedSince);
     return [rows = Engine::asked(std::move(rows))] { return countedOf(*rows); };
 }
 
