@@ -25,27 +25,34 @@ CsvReader::CsvReader(QIODevice &device, char separator)
 {
 }
 
-char CsvReader::separatorOf(QIODevice &device, int fromLine)
+char CsvReader::separatorOf(QIODevice &device, int fromLine, int mostLines)
 {
     constexpr QByteArrayView separators = ",;\t";
     constexpr qint64 lookedAt = 65'536;
     std::array<int, separators.size()> counts = {}; // on a line
     std::array<std::map<int, int>, separators.size()> lines; // with so many of them
     int line = 1;
+    int seen = 0;
     bool quoted = false;
+    bool isBlank = true;
     for (const char character : device.peek(lookedAt) + '\n') {
         if (character == '"')
             quoted = !quoted;
+        isBlank = isBlank && (character == '\r' || character == '\n');
         const qsizetype found = separators.indexOf(character);
         if (found >= 0 && !quoted && line >= fromLine)
             ++counts.at(static_cast<size_t>(found));
         if (character != '\n')
             continue;
+        seen += line >= fromLine && !isBlank && !quoted ? 1 : 0;
         ++line;
+        isBlank = true;
         for (size_t i = 0; i < counts.size() && !quoted; ++i) {
             if (const int count = std::exchange(counts.at(i), 0); count > 0)
                 ++lines.at(i)[count];
         }
+        if (seen >= mostLines)
+            break;
     }
     const auto evenness = [](const std::map<int, int> &found) {
         int most = 0;

@@ -18,9 +18,9 @@ public:
     explicit CsvReader(QIODevice &device, char separator = ','); // open for reading; not taken over
 
     // What separates the fields of a file that somebody's spreadsheet program has written, where that may be a semicolon or
-    // a tab: what stands as often on one line as on another, looked at from a line on. A comma where nothing tells. The
-    // device stays where it is.
-    static char separatorOf(QIODevice &device, int fromLine = 1);
+    // a tab: what stands as often on one line as on another. So many lines are looked at in which something stands, from one
+    // on. A comma where nothing tells. The device stays where it is.
+    static char separatorOf(QIODevice &device, int fromLine, int mostLines);
 
     // The next record; false after the last one. Throws ReadFault.
     bool next();

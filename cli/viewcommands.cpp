@@ -156,8 +156,10 @@ const ImportKind &requireImportKind(const CommandContext &context, const QString
     const ImportKind *kind = findImportKind(name);
     if (!kind)
         throw UsageError(Texts::tr("'%1' cannot be imported").arg(name));
-    if (context.arguments.has(u"filter"_s))
-        throw UsageError(Texts::tr("--for-import and --filter exclude each other"));
+    for (const QString &other : {u"filter"_s, u"standby"_s}) {
+        if (context.arguments.has(other))
+            throw UsageError(Texts::tr("--for-import and --%1 exclude each other").arg(other));
+    }
     return *kind;
 }
 

@@ -6,6 +6,7 @@
 #include "import/texts.h"
 #include "import/xlsxrows.h"
 
+#include <limits>
 #include <QIODevice>
 
 using namespace Qt::StringLiterals;
@@ -135,7 +136,11 @@ std::unique_ptr<ImportRows> openRows(QIODevice &file, const ImportChoice &choice
                                         "Save it as XLSX, ODS or CSV without a password."));
     if (!sheet.isEmpty())
         throw ReadFault(1, ImportTexts::tr("There is no sheet '%1' in a CSV file.").arg(Engine::excerpt(sheet)));
-    return std::make_unique<CsvRows>(file, headRow, CsvReader::separatorOf(file, choice.headRow));
+    // Names that nobody has looked at stand on the first line, alone where there is one column only.
+    const bool isChosen = headRow == SheetRows::everyRow || choice.fields;
+    constexpr int all = std::numeric_limits<int>::max();
+    return std::make_unique<CsvRows>(file, headRow,
+                                     CsvReader::separatorOf(file, choice.headRow, isChosen ? all : 1));
 }
 
 } // namespace

@@ -130,6 +130,12 @@ TEST(Sheets, TellCellsAsTheyAreStored)
         (QStringList{u"1: |one two\nthree ! The cell A1 shows an error: "_s, u"2: |0.5"_s, u"3: |0.5"_s}));
 }
 
+TEST(Sheets, TellWhatSeparatesAFileByItsNames)
+{
+    EXPECT_EQ(rowsOf("TypeName\nFood; fresh\n"), (QStringList{u"1: TypeName"_s, u"2: Food; fresh"_s}));
+    EXPECT_EQ(rowsOf("\n\"A;1\"\tB\nx,y\tz\n"), (QStringList{u"2: A;1|B"_s, u"3: x,y|z"_s}));
+}
+
 // What no program makes: each ends with a word, and holds no more of memory or time than a file that is read.
 TEST(Sheets, RefuseFilesThatNoProgramMakes)
 {
