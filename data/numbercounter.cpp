@@ -9,6 +9,7 @@
 #include "engine/values/error.h"
 
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using Engine::EngineError;
@@ -43,6 +44,26 @@ bool isUsed(Engine::Database &database, qint64 key, const QString &keyField, con
         rows << u"SELECT 1 FROM %1 WHERE %2 = ?"_s.arg(table, keyField);
     const QList<Engine::Value> keys(tables.size(), key);
     return !Engine::singleValue(database, rows.join(" UNION ALL "_L1) + " LIMIT 1"_L1, keys).isNull();
+}
+
+// Whether the key that the counter gives is used, with that key: asked before the row of the counter is read, so that both
+// travel together.
+Engine::StatementPtr askUseOfNext(Table &counters, QStringView field, const QString &keyField,
+                                  const QStringList &tables)
+{
+    QStringList uses;
+    for (const QString &table : tables)
+        uses << u"EXISTS (SELECT 1 FROM %1 WHERE %2 = N.NextKey)"_s.arg(table, keyField);
+    Engine::StatementPtr row = counters.database().connection().prepare(
+        u"SELECT N.NextKey, %1 FROM (SELECT %2 AS NextKey FROM %3 LIMIT 1) N"_s.arg(uses.join(" OR "_L1), field,
+                                                                                    counters.name()));
+    row->ask();
+    return row;
+}
+
+bool tellsFree(Engine::Statement &use, qint64 key)
+{
+    return use.next() && !use.isNull(0) && use.intAt(0) == key && use.intAt(1) == 0;
 }
 
 // The end of the run of keys that a used one stands in. A counter may be a whole table behind: one statement goes along
@@ -118,6 +139,8 @@ void CounterRow::set(Engine::WholeNumberName field, qint64 value)
         Engine::raise(ErrorCode::BadValue,
                       DataTexts::tr("The %1 have come to their end: none can be given from %2 on.")
                           .arg(countedBy(field), QString::number(largest)));
+    if (!m_table.isEditing())
+        m_table.edit();
     m_table.set(field, value);
 }
 
@@ -128,11 +151,29 @@ qint64 CounterRow::take(Engine::WholeNumberName field)
     return number;
 }
 
+qint64 CounterRow::value(Engine::WholeNumberName field) const
+{
+    if (!m_table.isEditing())
+        m_table.edit();
+    return m_table.value(field).toInt64();
+}
+
+void CounterRow::expectKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables)
+{
+    const Engine::Connection &connection = m_table.database().connection();
+    if (!m_use && !m_table.isEditing() && connection.sendsAhead() && !connection.isInRun())
+        m_use = askUseOfNext(m_table, field, keyField, tables);
+}
+
 qint64 CounterRow::takeKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables)
 {
+    expectKey(field, keyField, tables);
+    const Engine::StatementPtr use = std::exchange(m_use, {});
     Engine::Database &database = m_table.database();
+    qint64 key = value(field);
     const auto look = database.connection().isInRun() ? firstFreeInRun : firstFree;
-    const qint64 key = look(database, value(field), keyField, tables);
+    if (!use || !tellsFree(*use, key))
+        key = look(database, key, keyField, tables);
     set(field, key + 1);
     return key;
 }
@@ -153,7 +194,6 @@ void takeNumbers(Engine::Database &database, const QString &table, const Counter
 {
     Table counters(database, table);
     openExclusively(counters, retry);
-    counters.edit();
     CounterRow row(counters);
     try {
         rule(row);
@@ -184,7 +224,6 @@ Engine::Table &HeldCounters::opened(const QString &table)
     }
     auto counters = std::make_unique<Table>(m_database, table);
     openExclusively(*counters, {});
-    counters->edit();
     return *m_tables.emplace_back(std::move(counters));
 }
 

@@ -19,7 +19,7 @@ inline constexpr qint64 firstCountedKey = 10'000;
 inline constexpr qint64 firstNumber = 1001;
 inline constexpr qint64 lastNumber = 10'000'000;
 
-// The row of a control table while numbers are taken from it. An empty counter reads as 0.
+// The row of a control table while numbers are taken from it; put into edit by the first of them. An empty counter reads as 0.
 class CounterRow
 {
 public:
@@ -28,12 +28,14 @@ public:
     {
     }
 
-    qint64 value(Engine::WholeNumberName field) const { return m_table.value(field).toInt64(); }
+    qint64 value(Engine::WholeNumberName field) const;
     void set(Engine::WholeNumberName field,
              qint64 value); // throws BadValue, naming what is counted, at the end of its numbers
 
     // Hands out the field's number and moves the field on by one.
     qint64 take(Engine::WholeNumberName field);
+    // Asks whether takeKey() will find the next key used, along with the row; for a rule that takes something else first.
+    void expectKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables);
     // The same for the key of a new record, passing over every key that a row of the tables has in the key field: a
     // counter may be behind them, as one that was restored or emptied is. The tables have an index that begins with it.
     qint64 takeKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables);
@@ -43,6 +45,7 @@ public:
 
 private:
     Engine::Table &m_table;
+    Engine::StatementPtr m_use; // of the next key, as expected
 };
 
 using CounterRule = std::function<void(CounterRow &)>;

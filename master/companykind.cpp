@@ -85,7 +85,7 @@ MasterKind describe()
                             {Fields::ARInvoiceAustralia, false},
                             {Fields::ARInvoiceCopies, 1},
                             {Fields::ApplicationVersion, u"2.55"_s}};
-    kind.record.preset = preset;
+    kind.record.preset = [](Engine::Table &table) { return [&table] { preset(table); }; };
     kind.record.required = {{Fields::CompanyName, MasterTexts::tr("Field 'Company Name' must have a value")}};
     kind.record.check = requireFiscalYear;
     return kind;

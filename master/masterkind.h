@@ -5,6 +5,7 @@
 #include "base/listfilter.h"
 #include "data/recordlist.h"
 #include "engine/records/table.h"
+#include "engine/store/answer.h"
 #include "engine/values/fieldvalue.h"
 
 #include <functional>
@@ -56,7 +57,8 @@ struct MasterKind
         bool namesCaption = true; // the name takes the caption's place
         bool comesInNumbers = false; // often several are entered one after the other: "Save and New"
         QList<Engine::FieldValue> defaults;
-        std::function<void(Engine::Table &)> preset; // defaults that have to be found out, of these fields:
+        // Defaults that have to be found out, of these fields: asked at once, and set by what that returns.
+        std::function<Engine::Answer<void>(Engine::Table &)> preset;
         QStringList presetFields;
         QStringList copiedFields; // what a copy takes over from its original
         QString copyCaption; // "New (copied) Item"

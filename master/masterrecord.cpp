@@ -48,11 +48,12 @@ void MasterRecord::open()
 void MasterRecord::insert(const Step &begin)
 {
     begin();
+    const auto preset = m_kind.record.preset ? m_kind.record.preset(m_table) : nullptr; // asked with the numbers
     assignIdentity(numbers);
-    for (const Engine::FieldValue &preset : m_kind.record.defaults)
-        m_table.setDefault(preset.field, preset.value);
-    if (m_kind.record.preset)
-        m_kind.record.preset(m_table);
+    for (const Engine::FieldValue &given : m_kind.record.defaults)
+        m_table.setDefault(given.field, given.value);
+    if (preset)
+        preset();
 }
 
 void MasterRecord::post(const Step &save)
@@ -121,6 +122,7 @@ void MasterRecord::assignIdentity(const NumberSource &source)
     if (m_kind.record.counterTable.isEmpty())
         return;
     source(m_kind.record.counterTable, [this](CounterRow &counters) {
+        counters.expectKey(m_kind.record.keyCounter, m_kind.keyField, m_kind.keyTables());
         if (m_givenNumber.isEmpty()) {
             counters.restartOutside(m_kind.record.numberCounter, firstNumber, lastNumber, firstNumber);
             m_table.setDefault(m_kind.numberField, QString::number(counters.take(m_kind.record.numberCounter)));

@@ -4,6 +4,7 @@
 #include "base/ruleerror.h"
 #include "data/fields.h"
 #include "engine/records/query.h"
+#include "engine/store/database.h"
 #include "master/texts.h"
 #include "master/webpage.h"
 
@@ -58,11 +59,14 @@ void formatFields(Engine::Table &table)
 }
 
 // New vendors are paid in the organization's currency.
-void presetCurrency(Engine::Table &vendor)
+Engine::Answer<void> presetCurrency(Engine::Table &vendor)
 {
-    const auto currency = Engine::singleValue(vendor.database(), u"SELECT DefaultCurrencyID FROM Company"_s);
-    if (currency.toInt() > 0)
-        vendor.setDefault(Fields::CurrencyID, currency);
+    return
+        [&vendor,
+         row = Engine::asked(vendor.database().connection().prepare(u"SELECT DefaultCurrencyID FROM Company"_s))] {
+            if (row->next() && row->intAt(0) > 0)
+                vendor.setDefault(Fields::CurrencyID, row->intAt(0));
+        };
 }
 
 MasterKind describe()

@@ -53,18 +53,6 @@ BegunDocument::Header read(const QString &text)
     return header;
 }
 
-QList<qint64> keysOf(Engine::Database &database, const DocumentKind &kind, const QString &user)
-{
-    const Engine::StatementPtr row = database.connection().prepare(
-        u"SELECT DocumentID FROM IBegun WHERE TransType = ? AND SavedBy = ? ORDER BY DocumentID"_s);
-    row->bindInt(0, static_cast<int>(kind.posting.transType));
-    row->bindText(1, user);
-    QList<qint64> keys;
-    while (row->next())
-        keys.append(row->intAt(0));
-    return keys;
-}
-
 } // namespace
 
 BegunDocument::BegunDocument(Engine::Database &database, const DocumentKind &kind, qint64 key)
@@ -76,14 +64,27 @@ BegunDocument::BegunDocument(Engine::Database &database, const DocumentKind &kin
 {
 }
 
+Engine::Answer<QList<qint64>> BegunDocument::askBegun(Engine::Database &database, const DocumentKind &kind)
+{
+    Engine::StatementPtr statement = database.connection().prepare(
+        u"SELECT DocumentID FROM IBegun WHERE TransType = ? AND SavedBy = ? ORDER BY DocumentID"_s);
+    statement->bindInt(0, static_cast<int>(kind.posting.transType));
+    statement->bindText(1, userOf(database));
+    return [row = Engine::asked(std::move(statement))] {
+        QList<qint64> keys;
+        while (row->next())
+            keys.append(row->intAt(0));
+        return keys;
+    };
+}
+
 // What is read counts only once the lock is held: until then whoever entered it may have saved it.
 std::unique_ptr<BegunDocument> BegunDocument::left(Engine::Database &database, const DocumentKind &kind,
-                                                   const QList<qint64> &passedOver)
+                                                   const QList<qint64> &begun)
 {
     Engine::LockManager &locks = database.connection().locks();
-    const QList<qint64> keys = keysOf(database, kind, userOf(database));
-    for (const qint64 key : keys) {
-        if (passedOver.contains(key) || !locks.tryLockRecord(table(), lockKey(kind, key)))
+    for (const qint64 key : begun) {
+        if (!locks.tryLockRecord(table(), lockKey(kind, key)))
             continue;
         locks.unlockRecord(table(), lockKey(kind, key));
         auto found = std::make_unique<BegunDocument>(database, kind, key);
@@ -104,7 +105,7 @@ std::unique_ptr<BegunDocument> BegunDocument::left(Engine::Database &database, c
 int BegunDocument::countLeft(Engine::Database &database, const DocumentKind &kind)
 {
     Engine::LockManager &locks = database.connection().locks();
-    return static_cast<int>(std::ranges::count_if(keysOf(database, kind, userOf(database)), [&](qint64 key) {
+    return static_cast<int>(std::ranges::count_if(askBegun(database, kind)(), [&](qint64 key) {
         const bool isFree = locks.tryLockRecord(table(), lockKey(kind, key));
         if (isFree)
             locks.unlockRecord(table(), lockKey(kind, key));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/store/answer.h"
 #include "engine/store/recordlock.h"
 
 #include <memory>
@@ -28,9 +29,11 @@ public:
 
     BegunDocument(Engine::Database &database, const DocumentKind &kind, qint64 key);
 
-    // One that the session's user has left, locked; nothing where there is none but those passed over.
+    // The keys of what the session's user has begun: being entered, left or saved already.
+    static Engine::Answer<QList<qint64>> askBegun(Engine::Database &database, const DocumentKind &kind);
+    // The first of these that has been left, locked; nothing where none has.
     static std::unique_ptr<BegunDocument> left(Engine::Database &database, const DocumentKind &kind,
-                                               const QList<qint64> &passedOver = {});
+                                               const QList<qint64> &begun);
 
     // How many the session's user has left; changes nothing.
     static int countLeft(Engine::Database &database, const DocumentKind &kind);

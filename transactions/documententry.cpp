@@ -114,6 +114,7 @@ void DocumentEntry::newDocument(const QString &number)
 bool DocumentEntry::openDocument(int key)
 {
     m_wasSaved = false;
+    m_lines.setMasterIsNew(false);
     beginVisit();
     return m_header.findKey({key});
 }
@@ -188,6 +189,7 @@ void DocumentEntry::endVisit()
     m_visit.end();
     m_takenOut.reset();
     m_stock.forget();
+    m_lines.setMasterIsNew(false);
     if (const std::unique_ptr<BegunDocument> begun = std::move(m_begun))
         begun->end();
     visitBegins();
@@ -228,12 +230,14 @@ void DocumentEntry::HeaderRules::cancelled() { entry.endVisit(); }
 void DocumentEntry::newHeader()
 {
     beginVisit();
+    m_lines.setMasterIsNew(!m_begun);
     const Engine::StatementPtr fiscal = FiscalSettings::ask(database()); // it travels with what the numbers take
+    const Engine::Answer<void> preset = presetHeader();
     assignNumbers();
     m_header.setDefault(m_kind.dateField, today());
     m_header.setDefault(Fields::Posted, false);
     setFiscalDefaults(FiscalSettings::from(*fiscal));
-    presetHeader();
+    preset();
 }
 
 void DocumentEntry::assignNumbers()
@@ -450,6 +454,7 @@ void DocumentEntry::lockLines()
     if (!m_header.isEditing())
         m_header.edit();
     m_visit.hold();
+    m_lines.setMasterIsNew(false);
     m_visit.keepLines();
     m_stock.linesChanged();
 }

@@ -24,11 +24,12 @@ QString question(const BegunDocument &left)
 
 } // namespace
 
-bool takeUpLeft(DocumentEntry &entry, Prompts &prompts)
+bool takeUpLeft(DocumentEntry &entry, Prompts &prompts, const Engine::Answer<QList<qint64>> &askedBegun)
 {
-    QList<qint64> passedOver;
-    while (std::unique_ptr<BegunDocument> left =
-               BegunDocument::left(entry.header().database(), entry.kind(), passedOver)) {
+    Engine::Database &database = entry.header().database();
+    QList<qint64> begun = askedBegun ? askedBegun() : BegunDocument::askBegun(database, entry.kind())();
+    while (std::unique_ptr<BegunDocument> left = BegunDocument::left(database, entry.kind(), begun)) {
+        begun.removeAll(left->key());
         switch (
             prompts.choose(question(*left), TransactionsTexts::tr("&Go On"), TransactionsTexts::tr("&Take Out"))) {
         case Answer::Yes:
@@ -38,7 +39,6 @@ bool takeUpLeft(DocumentEntry &entry, Prompts &prompts)
             left->takeOut();
             break;
         case Answer::Cancel:
-            passedOver.append(left->key());
             break;
         }
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/store/answer.h"
+
 namespace Tallymere {
 
 class DocumentEntry;
@@ -7,6 +9,7 @@ class Prompts;
 
 // Asks about each document of the entry's kind that its user began and never saved, as its program came to an end:
 // whether to go on with it, to take its lines out, or to be asked again another time. True when the entry holds one then.
-bool takeUpLeft(DocumentEntry &entry, Prompts &prompts);
+// Which these may be can have been asked before (BegunDocument::askBegun), with what else was.
+bool takeUpLeft(DocumentEntry &entry, Prompts &prompts, const Engine::Answer<QList<qint64>> &askedBegun = {});
 
 } // namespace Tallymere

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +24,7 @@ LineStock::LineStock(const Engine::Table &header, const Engine::Table &lines, co
 void LineStock::forget()
 {
     m_balances.clear();
+    m_location = 0;
     linesChanged();
 }
 
@@ -34,7 +36,7 @@ std::optional<double> LineStock::onHand(const Engine::DataSet &line)
     if (account.first <= 0 || account.second <= 0 || m_header.boolean(Fields::Posted))
         return std::nullopt;
     const auto known = m_balances.constFind(account);
-    return known != m_balances.cend() ? *known : *m_balances.insert(account, balance(account));
+    return known != m_balances.cend() ? *known : balance(account);
 }
 
 std::optional<double> LineStock::afterwards(const Engine::DataSet &line)
@@ -49,22 +51,39 @@ std::optional<double> LineStock::afterwards(const Engine::DataSet &line)
     return withoutNoise(*now + stockChange(m_kind.posting.transType, moved));
 }
 
-std::optional<double> LineStock::balance(Account account) const
+// At another location than before, with all that the lines will be asked for next.
+std::optional<double> LineStock::balance(Account account)
 {
-    const Engine::StatementPtr row = m_lines.database().connection().prepare(
-        u"SELECT B.QtyOnHand, T.Inventory FROM Item I LEFT OUTER JOIN ItemType T ON T.ItemTypeID = I.ItemTypeID "
-        "LEFT OUTER JOIN IBalance B ON B.ItemID = I.ItemID AND B.WarehouseID = ? WHERE I.ItemID = ?"_s);
-    row->bindInt(0, account.second);
-    row->bindInt(1, account.first);
-    if (!row->next() || (row->isNull(0) && !row->valueAt(1, Engine::FieldType::Boolean).toBool()))
-        return std::nullopt;
-    return withoutNoise(row->doubleAt(0));
+    const auto [item, location] = account;
+    const bool isNewLocation = std::exchange(m_location, location) != location;
+    Engine::StatementPtr rows = m_lines.database().connection().prepare(
+        u"SELECT I.ItemID, B.QtyOnHand, T.Inventory FROM Item I "
+        "LEFT OUTER JOIN ItemType T ON T.ItemTypeID = I.ItemTypeID "
+        "LEFT OUTER JOIN IBalance B ON B.ItemID = I.ItemID AND B.WarehouseID = ? WHERE I.ItemID %1"_s.arg(
+            isNewLocation ? u"IN (SELECT CAST(? AS integer) UNION SELECT L.ItemID FROM %1 L WHERE L.%2 = ?)"_s.arg(
+                m_kind.lineTable, m_kind.keyField)
+                          : u"= ?"_s));
+    rows->bindInt(0, location);
+    rows->bindInt(1, item);
+    if (isNewLocation)
+        rows->bind(2, m_header.value(m_kind.keyField));
+    rows->ask();
+    const Engine::StatementPtr lines = isNewLocation && !m_parts ? askLines() : nullptr;
+    m_balances.insert(account, std::nullopt);
+    while (rows->next()) {
+        const bool isNone = rows->isNull(1) && !rows->valueAt(2, Engine::FieldType::Boolean).toBool();
+        m_balances.insert({static_cast<int>(rows->intAt(0)), location},
+                          isNone ? std::nullopt : std::optional(withoutNoise(rows->doubleAt(1))));
+    }
+    if (lines)
+        takeLines(*lines);
+    return m_balances.value(account);
 }
 
 double LineStock::before(int item, int seq)
 {
     if (!m_parts)
-        readLines();
+        takeLines(*askLines());
     const auto found = m_parts->constFind(item);
     if (found == m_parts->cend())
         return 0;
@@ -73,17 +92,23 @@ double LineStock::before(int item, int seq)
     return next == parts.begin() ? 0 : std::prev(next)->sum;
 }
 
-void LineStock::readLines()
+Engine::StatementPtr LineStock::askLines() const
 {
-    m_parts.emplace();
-    const Engine::StatementPtr row =
+    Engine::StatementPtr rows =
         m_lines.database().connection().prepare(u"SELECT ItemID, Seq, %1 FROM %2 WHERE %3 = ? ORDER BY Seq"_s.arg(
             m_kind.entry.lineColumns.constFirst().field, m_kind.lineTable, m_kind.keyField));
-    row->bind(0, m_header.value(m_kind.keyField));
-    while (row->next()) {
-        std::vector<Part> &parts = (*m_parts)[static_cast<int>(row->intAt(0))];
+    rows->bind(0, m_header.value(m_kind.keyField));
+    rows->ask();
+    return rows;
+}
+
+void LineStock::takeLines(Engine::Statement &rows)
+{
+    m_parts.emplace();
+    while (rows.next()) {
+        std::vector<Part> &parts = (*m_parts)[static_cast<int>(rows.intAt(0))];
         parts.push_back(
-            {static_cast<int>(row->intAt(1)), (parts.empty() ? 0 : parts.back().sum) + row->doubleAt(2)});
+            {static_cast<int>(rows.intAt(1)), (parts.empty() ? 0 : parts.back().sum) + rows.doubleAt(2)});
     }
 }
 

@@ -13,7 +13,7 @@ struct DocumentKind;
 
 // What is on hand of the item of a line, at the location of its document, and what will be once the document has been
 // posted up to that line. Nothing for a posted document, a line without an item, and an item that has no balance and by
-// its type needs none. Looked up once; whoever shows it says when it may be another.
+// its type needs none. Looked up once, for all lines together; whoever shows it says when it may be another.
 class LineStock
 {
 public:
@@ -30,14 +30,16 @@ public:
 private:
     using Account = std::pair<int, int>; // item and location
 
-    std::optional<double> balance(Account account) const;
+    std::optional<double> balance(Account account);
     double before(int item, int seq); // what the lines before take or bring
-    void readLines();
+    Engine::StatementPtr askLines() const;
+    void takeLines(Engine::Statement &rows);
 
     const Engine::Table &m_header;
     const Engine::Table &m_lines;
     const DocumentKind &m_kind;
     QHash<Account, std::optional<double>> m_balances;
+    int m_location = 0; // that the items of all stored lines have been looked up for
     struct Part
     {
         int seq;

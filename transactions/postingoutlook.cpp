@@ -28,16 +28,14 @@ bool movesFar(Money before, Money after)
 
 } // namespace
 
-PostingOutlook::PostingOutlook(Engine::Database &database, const DocumentKind &kind)
+PostingOutlook::PostingOutlook(Engine::Database &database, const DocumentKind &kind, std::vector<qint64> keys)
     : m_database(database)
     , m_kind(kind)
-    , m_keys(unpostedKeys(database, kind))
+    , m_keys(std::move(keys))
     , m_stock(database.connection())
+    , m_askedLocations(database.connection().prepare(u"SELECT WarehouseID, WarehouseName FROM Warehse"_s))
 {
-    const Engine::StatementPtr rows =
-        database.connection().prepare(u"SELECT WarehouseID, WarehouseName FROM Warehse"_s);
-    while (rows->next())
-        m_locations[rows->intAt(0)] = rows->textAt(1);
+    m_askedLocations->ask(); // they travel with the first documents
 }
 
 bool PostingOutlook::step()
@@ -47,6 +45,7 @@ bool PostingOutlook::step()
     const size_t count = std::min(postingBatch, m_keys.size() - m_next);
     const std::vector<PostingDocument> documents = unpostedDocuments(m_database, m_kind, {&m_keys[m_next], count});
     m_next += count;
+    takeLocations();
     require(documents);
     for (const PostingDocument &document : documents)
         if (m_notices.empty() || m_notices.back().kind != Notice::Kind::Refused)
@@ -57,19 +56,26 @@ bool PostingOutlook::step()
     return false;
 }
 
+void PostingOutlook::takeLocations()
+{
+    if (!m_askedLocations)
+        return;
+    while (m_askedLocations->next())
+        m_locations[m_askedLocations->intAt(0)] = m_askedLocations->textAt(1);
+    m_askedLocations.reset();
+}
+
 void PostingOutlook::require(std::span<const PostingDocument> documents)
 {
     const std::vector<qint64> items = itemsOf(documents);
-    m_stock.require(items);
     Engine::Connection &store = m_database.connection();
-    const auto read = [&](const QString &sql, const auto &take) {
-        const Engine::StatementPtr rows = store.prepare(sql.arg(store.dialect().inNumberList(u"ItemID"_s)));
-        rows->bindText(0, Engine::numberList(items));
-        while (rows->next())
-            take(*rows);
-    };
-    read(u"SELECT ItemID, ItemNo FROM Item WHERE %1"_s,
-         [this](const Engine::Statement &row) { m_items[row.intAt(0)] = row.textAt(1); });
+    const Engine::StatementPtr names =
+        store.prepare(u"SELECT ItemID, ItemNo FROM Item WHERE %1"_s.arg(store.dialect().inNumberList(u"ItemID"_s)));
+    names->bindText(0, Engine::numberList(items));
+    names->ask(); // they travel with the stock
+    m_stock.require(items);
+    while (names->next())
+        m_items[names->intAt(0)] = names->textAt(1);
 }
 
 void PostingOutlook::take(const PostingDocument &document)

@@ -28,7 +28,8 @@ public:
         QString text; // "Receipt: 1001: BK1050 at Central Kitchen goes from 3 to -1"
     };
 
-    PostingOutlook(Engine::Database &database, const DocumentKind &kind); // both outlive the object
+    // For the documents that a posting will go over. Database and kind outlive the object.
+    PostingOutlook(Engine::Database &database, const DocumentKind &kind, std::vector<qint64> keys);
 
     bool step(); // false when all has been looked at
 
@@ -42,6 +43,7 @@ private:
     void takeEffect(const PostingDocument &document, const PostingLine &line, const LineEffect &effect,
                     std::optional<Engine::Money> formerAverage);
     void require(std::span<const PostingDocument> documents);
+    void takeLocations();
     void addBelowZero();
     void add(Notice::Kind kind, const PostingDocument &document, const QString &text);
     QString itemName(qint64 item) const;
@@ -59,6 +61,7 @@ private:
     const DocumentKind &m_kind;
     const std::vector<qint64> m_keys;
     StockBook m_stock;
+    Engine::StatementPtr m_askedLocations; // until they are taken
     size_t m_next = 0; // key
     int m_documents = 0;
     int m_lines = 0;

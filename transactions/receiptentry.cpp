@@ -140,21 +140,24 @@ QString ReceiptEntry::totalText()
 {
     if (!header().isOpen() || (lines().isEmpty() && !lines().isEditing()))
         return {};
+    const Engine::StatementPtr currency = askCurrency(); // it travels with the lines
     const std::optional<Engine::Money> sum = m_total.sum();
-    return sum ? (currencyText(*sum) + u' ' + currencyName()).trimmed() : QString();
+    if (currency)
+        m_currency = {header().integer(Fields::VendorID), currency->next() ? currency->textAt(0) : QString()};
+    return sum ? (currencyText(*sum) + u' ' + m_currency.second).trimmed() : QString();
 }
 
-QString ReceiptEntry::currencyName()
+Engine::StatementPtr ReceiptEntry::askCurrency()
 {
     const int vendorId = header().integer(Fields::VendorID);
-    if (m_currency.first != vendorId)
-        m_currency = {vendorId,
-                      Engine::singleValue(database(),
-                                          u"SELECT C.CurrencyName FROM Vendor V JOIN Currency C "
-                                          "ON C.CurrencyID = V.CurrencyID WHERE V.VendorID = ?"_s,
-                                          {vendorId})
-                          .toText()};
-    return m_currency.second;
+    if (m_currency.first == vendorId)
+        return nullptr;
+    Engine::StatementPtr row =
+        database().connection().prepare(u"SELECT C.CurrencyName FROM Vendor V JOIN Currency C "
+                                        "ON C.CurrencyID = V.CurrencyID WHERE V.VendorID = ?"_s);
+    row->bindInt(0, vendorId);
+    row->ask();
+    return row;
 }
 
 } // namespace Tallymere

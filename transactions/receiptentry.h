@@ -42,7 +42,7 @@ protected:
 private:
     void validateVendor(const Engine::Value &vendorId) const;
     const std::optional<VendorCost> &lastCost(int vendorId, int itemId);
-    QString currencyName();
+    Engine::StatementPtr askCurrency(); // nothing where it is known
 
     LineTotal m_total;
     QHash<std::pair<int, int>, std::optional<VendorCost>>

@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/rounding.h"
 #include "data/fields.h"
+#include "engine/store/dialect.h"
 #include "engine/values/amounttoolarge.h"
 #include "engine/values/error.h"
 #include "transactions/documentkinds.h"
@@ -42,13 +43,17 @@ void UsageEntry::visitBegins()
     m_total.reset();
 }
 
-void UsageEntry::presetHeader()
+// The first location by name.
+Engine::Answer<void> UsageEntry::presetHeader()
 {
-    header().setDefault(Fields::Printed, false);
-    Engine::TableReader locations(database(), u"Warehse"_s);
-    locations.setIndex(u"WarehouseName1"_s);
-    locations.open();
-    header().setDefault(Fields::WarehouseID, locations.value(Fields::WarehouseID));
+    Engine::Connection &connection = database().connection();
+    const QString byName = connection.dialect().orderTerm(Fields::WarehouseName, true, false);
+    return [this, row = Engine::asked(connection.prepare(
+                      u"SELECT WarehouseID FROM Warehse ORDER BY %1, WarehouseID LIMIT 1"_s.arg(byName)))] {
+        header().setDefault(Fields::Printed, false);
+        if (row->next())
+            header().setDefault(Fields::WarehouseID, row->intAt(0));
+    };
 }
 
 void UsageEntry::checkReferences()

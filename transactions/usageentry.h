@@ -20,7 +20,7 @@ public:
 protected:
     void visitBegins() override;
     void configureFields() override;
-    void presetHeader() override;
+    Engine::Answer<void> presetHeader() override;
     void takenUp() override { setTotal(sumOfLines()); }
     void checkReferences() override;
     void checkLine() override;

@@ -4,7 +4,6 @@
 #include "controls/windows/screenmetrics.h"
 #include "engine/records/table.h"
 #include "engine/store/database.h"
-#include "engine/store/lockmanager.h"
 #include "engine/values/error.h"
 
 #include <chrono>
@@ -56,29 +55,42 @@ void InUseNotice::look()
 {
     if (!m_screen.isVisible())
         return;
-    const QString who = holder();
-    if (!who.isEmpty())
-        setText(tr("In use by %1. You can read it; it can be changed once it is free.").arg(who));
-    setVisible(!who.isEmpty());
-    m_binder.setInUse(!who.isEmpty());
-    if (!who.isEmpty())
-        m_again.start();
+    m_asked = askHolders();
+    QMetaObject::invokeMethod(this, &InUseNotice::tell, Qt::QueuedConnection);
 }
 
-QString InUseNotice::holder() const
+// Nothing is said of a store that cannot be asked: whatever is done next tells.
+InUseNotice::Answers InUseNotice::askHolders() const
 {
+    Answers answers;
     const QList<Engine::Table *> tables = m_binder.tables();
     try {
         for (const Engine::Table *table : tables) {
-            if (table->database().connection().inTransaction())
-                continue; // something is being written, which tells by itself who is in its way
-            if (const auto owner = table->editedBy())
-                return owner->description();
+            if (!table->database().connection().inTransaction()) // else what is written tells who is in its way
+                answers.append(table->askEditedBy());
         }
     } catch (const Engine::EngineError &) {
-        // Nothing is said of a store that cannot be asked: whatever is done next tells.
     }
-    return {};
+    return answers;
+}
+
+void InUseNotice::tell()
+{
+    const std::optional<Answers> asked = std::exchange(m_asked, std::nullopt);
+    if (!asked)
+        return;
+    std::optional<Engine::LockOwner> owner;
+    try {
+        for (const auto &answer : *asked)
+            owner = owner ? owner : answer();
+    } catch (const Engine::EngineError &) {
+    }
+    if (owner)
+        setText(tr("In use by %1. You can read it; it can be changed once it is free.").arg(owner->description()));
+    setVisible(owner.has_value());
+    m_binder.setInUse(owner.has_value());
+    if (owner)
+        m_again.start();
 }
 
 } // namespace Tallymere

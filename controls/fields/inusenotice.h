@@ -1,20 +1,19 @@
 #pragma once
 
 #include "controls/windows/statelabel.h"
+#include "engine/store/lockmanager.h"
 
+#include <optional>
 #include <QTimer>
-
-namespace Engine {
-class Table;
-}
 
 namespace Tallymere {
 
 class FieldBinder;
 
 // Says above the fields of a screen that somebody else has its record in use, from the moment it is opened: who types
-// learns it before the first key, and not from a refusal after it. The fields look as those that can only be read. It looks whenever the window is shown or activated,
-// and goes by itself once the record is free.
+// learns it before the first key, and not from a refusal after it. The fields look as those that can only be read. It asks
+// whenever the window is shown or activated, tells once that is done, so that the question travels with what the window itself
+// still asks, and goes by itself once the record is free.
 class InUseNotice final : public StateLabel
 {
     Q_OBJECT
@@ -27,12 +26,16 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    using Answers = QList<Engine::Answer<std::optional<Engine::LockOwner>>>;
+
     void look();
-    QString holder() const;
+    Answers askHolders() const;
+    void tell();
 
     const QWidget &m_screen;
     FieldBinder &m_binder;
     bool m_isShown = false; // and not active since
+    std::optional<Answers> m_asked; // and not told yet
     QTimer m_again;
 };
 

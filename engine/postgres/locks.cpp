@@ -263,17 +263,19 @@ void PostgresLocks::releaseTable(const QString &table, const Held &held) noexcep
     release(unlockTableText, {tableNumber(table), tableTime(table), timeNumber(held.tableSince)});
 }
 
-std::optional<LockOwner> PostgresLocks::ownerIn(const QString &sql, const QList<Value> &parameters)
+Answer<std::optional<LockOwner>> PostgresLocks::askOwner(const QString &sql, const QList<Value> &parameters)
 {
-    const StatementPtr statement = m_connection.prepare(sql);
+    StatementPtr statement = m_connection.prepare(sql);
     bindAll(*statement, parameters);
-    if (!statement->next())
-        return std::nullopt;
-    return sessionOwner(statement->textAt(0).toUtf8().constData(), statement->textAt(1).toUtf8().constData(),
-                        statement->textAt(2).toUtf8().constData(), statement->textAt(3).toUtf8().constData());
+    return [row = asked(std::move(statement))]() -> std::optional<LockOwner> {
+        if (!row->next())
+            return std::nullopt;
+        return sessionOwner(row->textAt(0).toUtf8().constData(), row->textAt(1).toUtf8().constData(),
+                            row->textAt(2).toUtf8().constData(), row->textAt(3).toUtf8().constData());
+    };
 }
 
-std::optional<LockOwner> PostgresLocks::holder(const QString &table, std::optional<qint64> place)
+Answer<std::optional<LockOwner>> PostgresLocks::askHolder(const QString &table, std::optional<qint64> place)
 {
     const Value whole = shown(tableNumber(table));
     QList<Value> parameters{whole, shown(tableTime(table)), shown(recordTime(table, 0)), whole,
@@ -281,20 +283,27 @@ std::optional<LockOwner> PostgresLocks::holder(const QString &table, std::option
     if (place)
         parameters << shown(*place);
     parameters << whole;
-    if (auto owner =
-            ownerIn(advisoryHolders.arg(place ? u" AND held.number = CAST(? AS bigint)"_s : QString()), parameters))
-        return owner;
-    if (place)
-        return std::nullopt; // other writers hold tables for moments only, but records of them for nobody
-    return ownerIn(foreignWriters + " LIMIT 1"_L1, {table});
+    return askOwner(advisoryHolders.arg(place ? u" AND held.number = CAST(? AS bigint)"_s : QString()), parameters);
 }
 
-std::optional<LockOwner> PostgresLocks::ownerOf(const QString &table) { return holder(table.toLower(), {}); }
+// Other writers hold tables for moments only, but records of them for nobody.
+std::optional<LockOwner> PostgresLocks::ownerOf(const QString &table)
+{
+    const QString name = table.toLower();
+    if (auto owner = askHolder(name, {})())
+        return owner;
+    return askOwner(foreignWriters + " LIMIT 1"_L1, {name})();
+}
 
 std::optional<LockOwner> PostgresLocks::ownerOf(const QString &table, const QList<qint64> &key)
 {
+    return askOwnerOf(table, key)();
+}
+
+Answer<std::optional<LockOwner>> PostgresLocks::askOwnerOf(const QString &table, const QList<qint64> &key)
+{
     const QString name = table.toLower();
-    return holder(name, placeOf(name, key));
+    return askHolder(name, placeOf(name, key));
 }
 
 } // namespace Engine

@@ -30,6 +30,7 @@ public:
 
     std::optional<LockOwner> ownerOf(const QString &table) override;
     std::optional<LockOwner> ownerOf(const QString &table, const QList<qint64> &key) override;
+    Answer<std::optional<LockOwner>> askOwnerOf(const QString &table, const QList<qint64> &key) override;
     StatementPtr askShare(const QString &table) override;
     bool areLost() const override;
     int losses() const override { return m_losses; }
@@ -58,8 +59,8 @@ private:
     StatementPtr bound(const QString &sql, const QList<qint64> &numbers);
     bool ask(const QString &sql, const QList<qint64> &numbers, const Along &along = {});
     void askWith(Statement &lock, const Along &along);
-    std::optional<LockOwner> holder(const QString &table, std::optional<qint64> place);
-    std::optional<LockOwner> ownerIn(const QString &sql, const QList<Value> &parameters);
+    Answer<std::optional<LockOwner>> askHolder(const QString &table, std::optional<qint64> place);
+    Answer<std::optional<LockOwner>> askOwner(const QString &sql, const QList<Value> &parameters);
     void release(const QString &sql, const QList<qint64> &numbers) noexcept;
 
     struct Deferred

@@ -181,11 +181,11 @@ std::unique_ptr<RecordLock> Table::lockForEdit(const Row &row, const std::functi
                                         recordText(), RecordLock::Loss::Noticed, along);
 }
 
-std::optional<LockOwner> Table::editedBy() const
+Answer<std::optional<LockOwner>> Table::askEditedBy() const
 {
     if (isEditing() || isEmpty())
-        return std::nullopt;
-    return m_database.connection().locks().ownerOf(m_name, lockKey(DataSetReader(*this).currentRow()));
+        return [] { return std::nullopt; };
+    return m_database.connection().locks().askOwnerOf(m_name, lockKey(DataSetReader(*this).currentRow()));
 }
 
 bool Table::haveSameData(const Row &a, const Row &b) const

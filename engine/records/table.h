@@ -2,6 +2,7 @@
 
 #include "engine/records/recordrules.h"
 #include "engine/records/tablereader.h"
+#include "engine/store/answer.h"
 #include "engine/store/driver.h"
 
 namespace Engine {
@@ -28,7 +29,7 @@ public:
     bool isEditing() const { return m_edit != nullptr; }
     bool isModified() const; // a field was set by set() since edit or insert
     // Who keeps the current record from being edited by its or the table's lock; nothing while it is in hand here, or new.
-    std::optional<LockOwner> editedBy() const;
+    Answer<std::optional<LockOwner>> askEditedBy() const;
 
     // --- editing ------------------------------------------------------------------------------------------------
     // Locks and re-reads the record. On an empty table this is insert(). Throws RecordLocked, RecordGone.

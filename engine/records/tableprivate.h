@@ -25,6 +25,7 @@ struct TableReader::Restriction
     QList<Value> to;
 
     QPointer<DataSet> master;
+    bool isMasterNew = false;
     QList<Link> links;
     QList<Value> linkValues; // those that the list was read for
     bool linksDue = false; // they are taken from the master when something is read: its record may cost a reading

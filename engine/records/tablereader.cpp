@@ -200,8 +200,9 @@ SetScope TableReader::scope() const
             scope.order.append(OrderTerm{{key}});
     }
     scope.condition = linkCondition();
-    scope.isNone = std::any_of(m_restriction->linkValues.begin(), m_restriction->linkValues.end(),
-                               [](const Value &value) { return value.isNull(); });
+    scope.isNone = m_restriction->isMasterNew
+        || std::any_of(m_restriction->linkValues.begin(), m_restriction->linkValues.end(),
+                       [](const Value &value) { return value.isNull(); });
     scope.condition += rangeCondition();
     scope.inParts = keys.size() == 1 && scope.condition.isEmpty() && goesInParts();
     scope.foldedFields = foldedFields(m_layout);

@@ -30,6 +30,7 @@ public:
     bool exclusive = false; // before open: nobody else may have the table open, else TableInUse at once
     void open() override;
     void close() override;
+    void refresh() override;
     QList<OrderedField> orderedFields() const override; // of the index; known once open
 
     // --- range and link -----------------------------------------------------------------------------------------
@@ -40,6 +41,9 @@ public:
     // Restricts the set to the rows whose field of each name equals the master's field of the same name (or
     // "Detail=Master"); follows the master's record. New rows take the values over.
     void setMaster(DataSet *master, const QString &fields);
+    // Whether the master's record is a new one, to which no row belongs yet, as the caller knows: the set is empty then, and is
+    // not read until refresh().
+    void setMasterIsNew(bool isNew);
 
     // Moves to the row whose leading index fields equal the values, by one key look-up.
     bool findKey(const QList<Value> &values);

@@ -7,6 +7,7 @@
 #include "engine/values/error.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -118,6 +119,19 @@ void TableReader::setMaster(DataSet *master, const QString &fields)
     restriction.linkValues = linkValues();
     restriction.linksDue = false;
     restrictionChanged();
+}
+
+void TableReader::setMasterIsNew(bool isNew)
+{
+    if (std::exchange(m_restriction->isMasterNew, isNew) != isNew)
+        restrictionChanged();
+}
+
+void TableReader::refresh()
+{
+    if (std::exchange(m_restriction->isMasterNew, false))
+        invalidate(Place::First);
+    DataSet::refresh();
 }
 
 QList<Value> TableReader::linkValues() const

@@ -250,6 +250,11 @@ bool LockManager::holdsTable(const QString &table) const
     return found != m_held.end() && found->second.table > 0 && !found->second.tableIsDue;
 }
 
+Answer<std::optional<LockOwner>> LockManager::askOwnerOf(const QString &table, const QList<qint64> &key)
+{
+    return [this, table, key] { return ownerOf(table, key); };
+}
+
 QString LockManager::holderOf(const QString &table) { return inBrackets(ownerOf(table)); }
 
 QString LockManager::holderOf(const QString &table, const QList<qint64> &key)

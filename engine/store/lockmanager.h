@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/store/driver.h"
+#include "engine/store/answer.h"
 
 #include <functional>
 #include <map>
@@ -78,6 +78,8 @@ public:
     virtual std::optional<LockOwner> ownerOf(const QString &table) = 0;
     // Who keeps the record from being locked: whoever has it, or the whole table.
     virtual std::optional<LockOwner> ownerOf(const QString &table, const QList<qint64> &key) = 0;
+    // The same, travelling with what else is asked. Taken while the connection lives.
+    virtual Answer<std::optional<LockOwner>> askOwnerOf(const QString &table, const QList<qint64> &key);
     QString holderOf(const QString &table); // in a message: " (anna on kitchen-2, since 14:05)", or nothing
     QString holderOf(const QString &table, const QList<qint64> &key);
 

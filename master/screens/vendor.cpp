@@ -38,10 +38,19 @@ TfrmVendor::~TfrmVendor()
     m_contacts.table().disconnect(this); // the table closes before the form goes
 }
 
+// A vendor that is still to be saved has no contacts.
+void TfrmVendor::newRecord()
+{
+    m_contacts.table().setMasterIsNew(true);
+    MasterRecordScreen::newRecord();
+}
+
 void TfrmVendor::buildContacts()
 {
     m_contacts.open();
     m_contacts.table().setMaster(&record().table(), Fields::VendorID);
+    connect(&record().table(), &Engine::DataSet::stateChanged, this,
+            [this] { m_contacts.table().setMasterIsNew(isNew()); });
     m_ui->DBGrid1->setDataSet(m_contacts.table(), m_contacts.kind().list.columns, guard());
     m_ui->DBGrid1->setHint(tr("No contacts yet. Press New to add one."));
     connectGuarded(m_ui->DBGrid1, &ListGrid::chosen, this, &TfrmVendor::btnEditClick);

@@ -25,6 +25,8 @@ public:
     TfrmVendor(ScreenContext &context, QWidget *parent);
     ~TfrmVendor() override;
 
+    void newRecord() override;
+
     void btnNewClick(); // a new vendor is saved first, after asking
     void btnEditClick();
     void btnDeleteClick();

@@ -43,7 +43,7 @@ struct DistanceTest : testing::Test
 // The second time: what is prepared once and kept does not count.
 TEST_F(DistanceTest, AScreenOpensAfterFewAnswers)
 {
-    constexpr int ofList = 3, ofOther = 9;
+    constexpr int ofList = 3, ofOther = 5;
     TdmLookUpsInv lookups(data->databaseTallymere());
     ScreenContext context{.data = *data, .lookups = lookups, .prompts = prompts};
     for (const bool counts : {false, true}) {
@@ -100,7 +100,7 @@ TEST_F(DistanceTest, ADocumentAndAPostingWaitForFewAnswers)
         SCOPED_TRACE(qPrintable(kind->name));
         enter(*kind, 1);
         const DocumentJourneys journeys = enter(*kind, 4);
-        EXPECT_LE(journeys.opened, 8);
+        EXPECT_LE(journeys.opened, 5);
         EXPECT_LE(journeys.header, 3);
         EXPECT_LE(journeys.lines, 18);
         EXPECT_LE(journeys.saved, 3);

@@ -1,3 +1,4 @@
+#include "transactions/postingdocuments.h"
 #include "transactions/postingoutlook.h"
 
 #include "tests/support/chance.h"
@@ -16,7 +17,7 @@ protected:
 
     QStringList notices(const DocumentKind &kind)
     {
-        PostingOutlook outlook(kitchen.database(), kind);
+        PostingOutlook outlook(kitchen.database(), kind, unpostedKeys(kitchen.database(), kind));
         while (outlook.step()) { }
         counted = u"%1 %2"_s.arg(outlook.documents()).arg(outlook.lines());
         QStringList texts;

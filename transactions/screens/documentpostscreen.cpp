@@ -72,7 +72,7 @@ void DocumentPostScreen::showStep()
     m_ui->btnOK->setFocus(); // and not in the list that is still to come
     if (m_posting.count() == 0)
         return;
-    m_outlook = std::make_unique<PostingOutlook>(context().data.databaseTallymere(), m_kind);
+    m_outlook = std::make_unique<PostingOutlook>(context().data.databaseTallymere(), m_kind, m_posting.keys());
     QTimer::singleShot(0, this, &DocumentPostScreen::lookAhead);
 }
 

@@ -14,6 +14,7 @@
 #include "data/lookupsdatainv.h"
 #include "master/screens/itemsearchinv.h"
 #include "master/screens/scanneditem.h"
+#include "transactions/begundocument.h"
 #include "transactions/leftdocuments.h"
 #include "transactions/reversal.h"
 #include "transactions/screens/documentscreens.h"
@@ -29,6 +30,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QToolButton>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using Engine::LocateOption;
@@ -46,6 +48,7 @@ constexpr int stockWidth = 80; // but for the two that tell the stock
 
 DocumentScreen::DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
     : RecordScreen(context, parent)
+    , m_askedBegun(BegunDocument::askBegun(context.data.databaseTallymere(), kind))
     , m_entry(kind.entry.make(context.data.databaseTallymere(), context.prompts))
 {
     m_entry->open();
@@ -387,7 +390,7 @@ void DocumentScreen::addItemCard()
 
 void DocumentScreen::newRecord()
 {
-    if (!takeUpLeft(*m_entry, context().prompts))
+    if (!takeUpLeft(*m_entry, context().prompts, std::exchange(m_askedBegun, {})))
         m_entry->newDocument();
     showHeader();
 }
@@ -435,7 +438,8 @@ void DocumentScreen::showHeader()
 void DocumentScreen::changeEvent(QEvent *event)
 {
     RecordScreen::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !m_grid)
+    const bool isActivated = event->type() == QEvent::ActivationChange && isActiveWindow() && m_grid;
+    if (!isActivated || !std::exchange(m_wasActive, true)) // what it opens with is fresh
         return;
     m_entry->refreshStock();
     m_grid->viewport()->update();

@@ -95,6 +95,7 @@ private:
     void takeScan(bool inItsColumn, const QString &code);
     QString completeDescription(const QString &field, const QString &typed) const;
 
+    Engine::Answer<QList<qint64>> m_askedBegun; // for a new document; it travels with the opening of the tables
     std::unique_ptr<DocumentEntry> m_entry;
     LineGrid *m_grid = nullptr;
     QLabel *m_posted = nullptr;
@@ -102,6 +103,7 @@ private:
     SumLabel *m_total = nullptr; // of the lines
     FiguresLine *m_figures = nullptr; // may be missing
     bool m_tellsLater = false;
+    bool m_wasActive = false;
     QPushButton *m_reverse = nullptr; // of a posted document
     RecordOpener *m_opener = nullptr; // of what that leads to, once it is needed
     QAction *m_undo = nullptr; // of the line taken out last
