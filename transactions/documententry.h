@@ -147,7 +147,10 @@ protected:
     virtual void visitBegins() { } // to a document new or opened, or anew once its changes are stored or dropped
     virtual void configureFields(); // labels, formats and checks of fields, once the tables are open
     // Further defaults of a new header: asked with its numbers, and set by what that returns.
-    virtual Engine::Answer<void> presetHeader() { return [] { }; }
+    virtual Engine::Answer<void> presetHeader()
+    {
+        return [] {};
+    }
     virtual void takenUp() { } // what the header keeps about all lines is to be made anew
     virtual void checkComplete() { } // before everything else when the header is saved
     // What checkReferences() looks for, by table and key field; it is asked for together.

@@ -48,8 +48,9 @@ Engine::Answer<void> UsageEntry::presetHeader()
 {
     Engine::Connection &connection = database().connection();
     const QString byName = connection.dialect().orderTerm(Fields::WarehouseName, true, false);
-    return [this, row = Engine::asked(connection.prepare(
-                      u"SELECT WarehouseID FROM Warehse ORDER BY %1, WarehouseID LIMIT 1"_s.arg(byName)))] {
+    return [this,
+            row = Engine::asked(connection.prepare(
+                u"SELECT WarehouseID FROM Warehse ORDER BY %1, WarehouseID LIMIT 1"_s.arg(byName)))] {
         header().setDefault(Fields::Printed, false);
         if (row->next())
             header().setDefault(Fields::WarehouseID, row->intAt(0));
