@@ -47,6 +47,7 @@ TEST_F(FirstStepsScreenTest, OpenWhatDoesThemAndGoByThemselves)
     kitchen.addReceipt(1, 1, 1, {{1, 4, 2}});
     comeBack();
     EXPECT_TRUE(comesTrue([&] { return has(child<QLabel>(*screen, "firstCount")->text(), u"waiting"_s); }));
+    showActive(*screen);
     typeIn(*screen, "firstCountForm", "<Return>");
     typeIn(*screen, "firstCountReceipt", "<Return>");
     typeIn(*screen, "firstVendorsFile", "<Return>");

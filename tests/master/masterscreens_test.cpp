@@ -203,6 +203,7 @@ TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
     EXPECT_EQ(edit->text(), u"Mine"_s) << "free, and not looked at again yet";
     showActive(*list);
     showActive(*record);
+    settle();
     EXPECT_FALSE(notice->isVisible());
     EXPECT_EQ(prompts.told(), QString());
 }
