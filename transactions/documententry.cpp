@@ -454,8 +454,8 @@ void DocumentEntry::lockLines()
     if (!m_header.isEditing())
         m_header.edit();
     m_visit.hold();
-    m_lines.setMasterIsNew(false);
     m_visit.keepLines();
+    m_lines.setMasterIsNew(false);
     m_stock.linesChanged();
 }
 

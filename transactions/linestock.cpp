@@ -55,7 +55,7 @@ std::optional<double> LineStock::afterwards(const Engine::DataSet &line)
 std::optional<double> LineStock::balance(Account account)
 {
     const auto [item, location] = account;
-    const bool isNewLocation = std::exchange(m_location, location) != location;
+    const bool isNewLocation = location != m_location;
     Engine::StatementPtr rows = m_lines.database().connection().prepare(
         u"SELECT I.ItemID, B.QtyOnHand, T.Inventory FROM Item I "
         "LEFT OUTER JOIN ItemType T ON T.ItemTypeID = I.ItemTypeID "
@@ -69,14 +69,16 @@ std::optional<double> LineStock::balance(Account account)
         rows->bind(2, m_header.value(m_kind.keyField));
     rows->ask();
     const Engine::StatementPtr lines = isNewLocation && !m_parts ? askLines() : nullptr;
-    m_balances.insert(account, std::nullopt);
+    QHash<Account, std::optional<double>> found{{account, std::nullopt}};
     while (rows->next()) {
         const bool isNone = rows->isNull(1) && !rows->valueAt(2, Engine::FieldType::Boolean).toBool();
-        m_balances.insert({static_cast<int>(rows->intAt(0)), location},
-                          isNone ? std::nullopt : std::optional(withoutNoise(rows->doubleAt(1))));
+        found.insert({static_cast<int>(rows->intAt(0)), location},
+                     isNone ? std::nullopt : std::optional(withoutNoise(rows->doubleAt(1))));
     }
     if (lines)
         takeLines(*lines);
+    m_balances.insert(found);
+    m_location = location;
     return m_balances.value(account);
 }
 

@@ -42,14 +42,19 @@ TfrmVendor::~TfrmVendor()
 void TfrmVendor::newRecord()
 {
     m_contacts.table().setMasterIsNew(true);
-    MasterRecordScreen::newRecord();
+    try {
+        MasterRecordScreen::newRecord();
+    } catch (...) {
+        m_contacts.table().setMasterIsNew(isNew());
+        throw;
+    }
 }
 
 void TfrmVendor::buildContacts()
 {
     m_contacts.open();
     m_contacts.table().setMaster(&record().table(), Fields::VendorID);
-    connect(&record().table(), &Engine::DataSet::stateChanged, this,
+    connect(&record().table(), &Engine::DataSet::currentChanged, this,
             [this] { m_contacts.table().setMasterIsNew(isNew()); });
     m_ui->DBGrid1->setDataSet(m_contacts.table(), m_contacts.kind().list.columns, guard());
     m_ui->DBGrid1->setHint(tr("No contacts yet. Press New to add one."));

@@ -188,7 +188,8 @@ private:
             const bool isNew = !QDir(m_task.before->filePath(books)).exists();
             if (verdict == noBooks || isSound(verdict) || (isNew && !isDone) || m_task.stage.damages)
                 continue;
-            m_isPostedInPart = !isDone && m_task.stage.name.startsWith("post"_L1) && tellsPostedInPart(verdict);
+            m_isPostedInPart =
+                !isDone && m_kind.ofMemory && m_task.stage.name.startsWith("post"_L1) && tellsPostedInPart(verdict);
             if (!m_isPostedInPart)
                 wrong << verdict;
         }
