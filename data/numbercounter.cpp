@@ -29,6 +29,12 @@ void openExclusively(Table &counters, CounterRetry retry)
         [&](const EngineError &error) { return error.code() == ErrorCode::TableInUse && attempts.again(); });
 }
 
+Table &inEdit(Table &counters)
+{
+    counters.edit(); // nothing where it is already
+    return counters;
+}
+
 void save(Table &counters)
 {
     if (counters.isEditing())
@@ -139,9 +145,7 @@ void CounterRow::set(Engine::WholeNumberName field, qint64 value)
         Engine::raise(ErrorCode::BadValue,
                       DataTexts::tr("The %1 have come to their end: none can be given from %2 on.")
                           .arg(countedBy(field), QString::number(largest)));
-    if (!m_table.isEditing())
-        m_table.edit();
-    m_table.set(field, value);
+    inEdit(m_table).set(field, value);
 }
 
 qint64 CounterRow::take(Engine::WholeNumberName field)
@@ -151,12 +155,7 @@ qint64 CounterRow::take(Engine::WholeNumberName field)
     return number;
 }
 
-qint64 CounterRow::value(Engine::WholeNumberName field) const
-{
-    if (!m_table.isEditing())
-        m_table.edit();
-    return m_table.value(field).toInt64();
-}
+qint64 CounterRow::value(Engine::WholeNumberName field) const { return inEdit(m_table).value(field).toInt64(); }
 
 void CounterRow::expectKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables)
 {

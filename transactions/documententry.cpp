@@ -455,7 +455,7 @@ void DocumentEntry::lockLines()
         m_header.edit();
     m_visit.hold();
     m_visit.keepLines();
-    m_lines.setMasterIsNew(false);
+    m_lines.setMasterIsNew(false); // where they have not been read anew with that
     m_stock.linesChanged();
 }
 
