@@ -1,7 +1,7 @@
 // What grows with the books: entering a line, posting, the totals, one item's history, a period's report, the values and
 // opening the history, over histories of different lengths, a million rows for each fiscal year; each against raw statements
 // in the same run. All times are medians, in milliseconds.
-// Usage: bench_growth [local|remote] [ROUNDS] [MILLIONS...]
+// Usage: bench_growth [local|remote] [ROUNDS] [MILLIONS[:ITEMS:LOCATIONS]...]
 
 #include "bench/benchdata.h"
 #include "bench/rawposting.h"
@@ -146,6 +146,28 @@ double postRaw(Store store, const QStringList &place)
     return seconds([&] { raw(RawDocuments::Receipts, rawLocation(place)); });
 }
 
+// --- the history ---------------------------------------------------------------------------------------------------
+
+// Until its first rows are painted and keys are taken, and what goes on beside that then.
+std::pair<double, double> openHistory(Engine::Database &database)
+{
+    constexpr int page = 64;
+    HistoryView view(database);
+    Engine::DataSet::CountOver count;
+    const double opening = seconds([&] {
+        view.open();
+        sink = sink + static_cast<double>(view.table().firstRows(page).size());
+        count = view.table().countToCome();
+        if (!count)
+            sink = sink + view.table().recordCount();
+    });
+    return {opening, seconds([&] {
+                if (count)
+                    count(database.connection())();
+                sink = sink + view.table().recordCount();
+            })};
+}
+
 // --- the table -----------------------------------------------------------------------------------------------------
 
 std::vector<Compared> comparisons(Store store, Engine::Database &database, const QStringList &place)
@@ -214,24 +236,35 @@ std::vector<Compared> comparisons(Store store, Engine::Database &database, const
                  "IBalance B LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID LEFT OUTER JOIN ItemType T ON "
                  "I.ItemTypeID = T.ItemTypeID ORDER BY T.TypeName, I.ItemNo"_s);
          }},
-        {"the history opened",
+        {"the history opened", [&database](int) { return openHistory(database).first; },
          [&database](int) {
-             auto view = std::make_unique<HistoryView>(database);
-             return readFirst([&view]() -> Engine::DataSet & {
-                 view->open();
-                 return view->table();
-             });
-         },
-         [&database](int) { return readAll(database, u"SELECT COUNT(*), MAX(IHistID) FROM IHist"_s); }},
+             return readAll(database,
+                            u"SELECT * FROM IHist ORDER BY GLYear DESC, GLPeriod DESC, TransDate DESC, "
+                            "IHistID DESC LIMIT 64"_s);
+         }},
+        {"its rows counted beside", [&database](int) { return openHistory(database).second; },
+         [&database](int) { return readAll(database, u"SELECT COUNT(*) FROM IHist"_s); }},
     };
 }
 
-void measure(Store store, int millions, int rounds)
+BenchData::Size sizeOf(const QString &asked)
 {
-    const BenchData data(store, {.history = millions * million, .years = millions});
+    const QStringList numbers = asked.split(u':');
+    const int millions = std::max(1, numbers.first().toInt());
+    BenchData::Size size{.history = millions * million, .years = millions};
+    if (numbers.size() == 3) {
+        size.items = numbers[1].toInt();
+        size.locations = numbers[2].toInt();
+    }
+    return size;
+}
+
+void measure(Store store, const BenchData::Size &size, int rounds)
+{
+    const BenchData data(store, size);
     const std::unique_ptr<TestUser> user = data.open();
-    std::printf("%-6s %d million rows, %.0f MB\n", storeName(store), millions,
-                static_cast<double>(user->database.connection().size()) / 1e6);
+    std::printf("%-6s %d million rows, %d items, %d locations, %.0f MB\n", storeName(store), size.years, size.items,
+                size.locations, static_cast<double>(user->database.connection().size()) / 1e6);
     for (const Compared &compared : comparisons(store, user->database, data.place())) {
         std::vector<double> ours, raw;
         for (int round = 0; round < rounds; ++round) {
@@ -255,8 +288,8 @@ int main(int argc, char **argv)
     if (arguments.isEmpty())
         arguments = {u"1"_s};
     for (const Store store : {Store::Local, Store::Remote})
-        for (const QString &millions : std::as_const(arguments))
+        for (const QString &size : std::as_const(arguments))
             if (only.isEmpty() || only == QString::fromLatin1(storeName(store)).toLower())
-                measure(store, std::max(1, millions.toInt()), rounds);
+                measure(store, sizeOf(size), rounds);
     return 0;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/records/rowstream.h"
 #include "reports/fieldmap.h"
 #include "reports/reportdescription.h"
 
@@ -16,6 +17,7 @@ public:
         : m_view(std::move(view))
         , m_set(set)
         , m_map(layout, set)
+        , m_rows(set)
     {
     }
 
@@ -23,9 +25,9 @@ public:
 
     bool next(Printing::ReportRow &row) override
     {
-        if (m_next >= m_set.recordCount())
+        if (!m_rows.next(m_row))
             return false;
-        m_map.take(m_set, m_set.rowAt(m_next++), row.values);
+        m_map.take(m_set, m_row, row.values);
         return true;
     }
 
@@ -33,7 +35,8 @@ private:
     std::unique_ptr<View> m_view;
     Engine::DataSet &m_set;
     FieldMap m_map;
-    int m_next = 0;
+    Engine::RowStream m_rows;
+    Engine::Row m_row;
 };
 
 } // namespace Tallymere

@@ -4,6 +4,7 @@
 #include "base/ruleerror.h"
 #include "data/fields.h"
 #include "engine/records/query.h"
+#include "engine/records/rowstream.h"
 #include "engine/store/database.h"
 #include "engine/values/amounttoolarge.h"
 #include "master/costing.h"
@@ -46,6 +47,7 @@ public:
         , m_method(m_query.fieldIndex(u"CostingMethod"))
         , m_unitCostAt(m_map.names().indexOf(u"UnitCost"_s))
         , m_valueAt(m_map.indexOf(m_byLocation ? u"ItemWhseValue"_s : u"ItemValue"_s))
+        , m_rows(m_query)
     {
         if (m_method < 0)
             m_methods = readCostingMethods(database);
@@ -55,14 +57,13 @@ public:
 
     bool next(Printing::ReportRow &row) override
     {
-        if (m_next >= m_query.recordCount())
+        if (!m_rows.next(m_balance))
             return false;
-        const Engine::Row &balance = m_query.rowAt(m_next++);
-        m_map.take(m_query, balance, row.values);
-        const Money cost = unitCost(balance);
+        m_map.take(m_query, m_balance, row.values);
+        const Money cost = unitCost(m_balance);
         if (m_unitCostAt >= 0)
             row.values[static_cast<size_t>(m_unitCostAt)] = cost;
-        row.values[m_valueAt] = valueOf(balance, cost);
+        row.values[m_valueAt] = valueOf(m_balance, cost);
         return true;
     }
 
@@ -98,7 +99,8 @@ private:
     qsizetype m_unitCostAt; // -1: not shown
     size_t m_valueAt;
     QHash<int, CostingMethod> m_methods;
-    int m_next = 0;
+    Engine::RowStream m_rows;
+    Engine::Row m_balance; // in hand
 };
 
 } // namespace

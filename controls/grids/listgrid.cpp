@@ -1,5 +1,7 @@
 #include "controls/grids/listgrid.h"
 
+#include "engine/store/database.h"
+
 #include <algorithm>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -181,7 +183,26 @@ void ListGrid::paintEvent(QPaintEvent *event)
 {
     DataGrid::paintEvent(event);
     if (tableModel()->isPartial())
-        QMetaObject::invokeMethod(tableModel(), &TableModel::readRest, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &ListGrid::readRest, Qt::QueuedConnection);
+}
+
+// Where counting the rows takes long, the window does not wait for it, unless the user goes on to them.
+void ListGrid::readRest()
+{
+    if (m_count.isReading() || !tableModel()->isPartial())
+        return;
+    Engine::DataSet::CountOver count;
+    if (Guard::attempt([&] { count = m_data->countToCome(); }) || !count)
+        return tableModel()->readRest();
+    m_count.start(
+        m_data->database(),
+        [count, this](Engine::Database &database) -> std::function<void()> {
+            return [tell = count(database.connection()), this] {
+                tell();
+                tableModel()->readRest();
+            };
+        },
+        [this](const std::exception_ptr &) { tableModel()->readRest(); }); // which tells what is wrong
 }
 
 void ListGrid::showEvent(QShowEvent *event)

@@ -2,6 +2,7 @@
 
 #include "controls/grids/datagrid.h"
 #include "controls/grids/listsearch.h"
+#include "data/readaside.h"
 
 namespace Tallymere {
 
@@ -56,10 +57,12 @@ private:
     void takeCursor(); // the data set has moved
     void giveCursor(const QModelIndex &current); // the user has moved
     void dropSelection(); // but for the row of the cursor
+    void readRest(); // of a list whose first page is painted
 
     Engine::DataSet *m_data = nullptr;
     const Guard *m_guard = nullptr;
     ListSearch *m_search = nullptr;
+    ReadAside m_count; // of the rows
     bool m_moving = false;
 };
 

@@ -346,6 +346,12 @@ void DataSet::onLongRead(std::function<void(const ReadOver &)> aside, int longFr
     d->longFrom = longFrom;
 }
 
+DataSet::CountOver DataSet::countToCome() const
+{
+    requireOpen();
+    return DataSetReader(*this).countToCome();
+}
+
 std::optional<KeyList> DataSet::readAhead() const { return DataSetReader(*this).readAhead(); }
 
 void DataSet::takeAnew(Place place, std::optional<KeyList> keys)

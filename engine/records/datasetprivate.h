@@ -28,6 +28,7 @@ struct DataSet::Private
     bool isReadAside = false;
     SetKeys keys;
     bool keysRead = false;
+    int readings = 0; // ended, each with all that was read
     std::vector<Row> firstPage; // of a long set whose keys have not been read
     WindowCache windows;
     std::vector<Row> memory; // of a query without key: the whole result; the key of a row is its index
@@ -43,6 +44,7 @@ struct DataSet::Private
 
     void forgetRead()
     {
+        ++readings;
         keys = SetKeys();
         keysRead = false;
         firstPage.clear();
@@ -87,6 +89,7 @@ public:
     }
     void readKeys() const; // all of them, or how many there are
     std::optional<KeyList> readAhead() const; // aside, where that pays
+    DataSet::CountOver countToCome() const; // see there
     void take(KeyList keys) const; // all of them
     Key keyAt(int index) const; // of an index of the set
     int indexOf(const Key &key) const; // -1 when the set was read without it
@@ -105,6 +108,7 @@ private:
     QList<OrderTerm> sortTerms(SetScope &scope) const; // of what comes before the set's own order
     std::optional<QString> joined(SetScope &scope, const Field &field) const; // a looked-up field as a column
     void settleKeys() const;
+    void takeLength(const RowSource::Length &length) const;
     bool mended(const EngineError &error) const;
     void findInKeys() const;
     void readPart(int index) const; // so that the key of the index is in hand

@@ -3,6 +3,7 @@
 #include "engine/store/dialect.h"
 
 #include <algorithm>
+#include <QPointer>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
@@ -40,7 +41,8 @@ SetScope DataSetReader::scope() const
         scope.condition += condition(FilterExpression(m_set.m_filter));
     const QList<OrderTerm> sorted = sortTerms(scope);
     scope.order = sorted + scope.order;
-    scope.inParts = scope.inParts && sorted.isEmpty() && scope.condition.isEmpty();
+    scope.byIndex = scope.byIndex && sorted.isEmpty();
+    scope.inParts = scope.inParts && scope.byIndex && scope.condition.isEmpty();
     return scope;
 }
 
@@ -105,6 +107,29 @@ std::optional<KeyList> DataSetReader::readAhead() const
     return keys;
 }
 
+DataSet::CountOver DataSetReader::countToCome() const
+{
+    if (d.keysRead || d.inMemory || !source().isFar() || m_set.m_database.connection().inTransaction())
+        return {};
+    const std::optional<qint64> last = read(&RowSource::lastKey, shortSet);
+    if (!last)
+        return {};
+    return [scope = scope(), last = *last, reading = d.readings,
+            set = QPointer(&d.set)](Connection &connection) -> std::function<void()> {
+        const RowSource::Length length{RowSource::countUpTo(connection, scope, last), last};
+        return [set, length, reading] {
+            if (set && !set->d->keysRead && set->d->readings == reading)
+                DataSetReader(*set).takeLength(length);
+        };
+    };
+}
+
+void DataSetReader::takeLength(const RowSource::Length &length) const
+{
+    d.keys.takeLength(length.count, length.lastKey);
+    settleKeys();
+}
+
 void DataSetReader::take(KeyList keys) const
 {
     d.keys.takeAll(std::move(keys));
@@ -143,15 +168,17 @@ bool DataSetReader::readShort() const
 
 std::vector<Row> DataSetReader::firstRows(int count) const
 {
-    const auto wanted = static_cast<size_t>(count);
-    if (!source().isFar() || count > pageSize)
+    const bool isFar = source().isFar() && count <= pageSize;
+    if (!isFar && source().isByIndex())
         return read(&RowSource::firstRows, count);
-    if (!d.keysRead)
+    if (!isFar)
+        readKeys(); // all rows have to be sorted for the first ones
+    else if (!d.keysRead)
         readShort();
     std::vector<Row> rows = d.firstPage;
-    for (int i = 0; d.keysRead && i < d.keys.count(); ++i)
+    for (int i = 0; d.keysRead && i < std::min(count, d.keys.count()); ++i)
         rows.push_back(rowAt(i));
-    rows.resize(std::min(rows.size(), wanted));
+    rows.resize(std::min(rows.size(), static_cast<size_t>(count)));
     return rows;
 }
 
@@ -167,7 +194,7 @@ void DataSetReader::readKeys() const
     } else if (readShort()) {
         // with its rows
     } else if (const auto length = read(&RowSource::length, shortSet)) {
-        d.keys.takeLength(length->count, length->lastKey);
+        return takeLength(*length);
     } else {
         d.keys.takeAll(read(&RowSource::keys));
     }

@@ -121,6 +121,27 @@ std::optional<RowSource::Length> RowSource::length(int shortOnes) const
     return Length{static_cast<int>(statement->intAt(0)), statement->intAt(1)};
 }
 
+std::optional<qint64> RowSource::lastKey(int shortOnes) const
+{
+    if (!m_scope.inParts)
+        return std::nullopt;
+    const StatementPtr statement =
+        m_connection.prepare(u"SELECT MAX(%2) FROM %1 WHERE EXISTS (SELECT 1 FROM %1 LIMIT 1 OFFSET %3)"_s.arg(
+            m_scope.source, m_keys, QString::number(shortOnes)));
+    if (!statement->next() || statement->isNull(0))
+        return std::nullopt;
+    return statement->intAt(0);
+}
+
+int RowSource::countUpTo(Connection &connection, const SetScope &scope, qint64 lastKey)
+{
+    const StatementPtr count = connection.prepare(
+        u"SELECT COUNT(*) FROM %1 WHERE %2 <= ?"_s.arg(scope.source, scope.keyColumns.constFirst()));
+    count->bindInt(0, lastKey);
+    count->next();
+    return static_cast<int>(count->intAt(0));
+}
+
 SqlCondition RowSource::upTo(qint64 lastKey) const { return {m_keys + " <= ?"_L1, {lastKey}}; }
 
 KeyList RowSource::keysFrom(int first, int count, const Length &length) const
@@ -184,6 +205,11 @@ std::optional<FoundRow> RowSource::first(const SqlCondition &condition) const
     if (!statement->next())
         return std::nullopt;
     return FoundRow{readKey(*statement, m_columnCount), readRow(*statement)};
+}
+
+StatementPtr RowSource::allRows() const
+{
+    return m_scope.isNone ? nullptr : select(m_columns, m_scope.condition, orderBy());
 }
 
 std::vector<Row> RowSource::firstRows(int count) const

@@ -204,6 +204,7 @@ SetScope TableReader::scope() const
         || std::any_of(m_restriction->linkValues.begin(), m_restriction->linkValues.end(),
                        [](const Value &value) { return value.isNull(); });
     scope.condition += rangeCondition();
+    scope.byIndex = true;
     scope.inParts = keys.size() == 1 && scope.condition.isEmpty() && goesInParts();
     scope.foldedFields = foldedFields(m_layout);
     return scope;

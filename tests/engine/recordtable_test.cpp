@@ -133,6 +133,32 @@ TEST_P(RecordTest, ALongSetIsReadAsideOrStaysAsItWas)
     EXPECT_EQ(names(vendors, u"VendorID"_s), before);
 }
 
+TEST_P(RecordTest, ALongListThatIsFarIsCountedBesideItsFirstRows)
+{
+    constexpr int rows = 20'000;
+    TableReader list(database(), u"Vendor"_s);
+    list.open();
+    EXPECT_FALSE(list.countToCome()) << "it is short";
+    store.execute(u"INSERT INTO Vendor (VendorID) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+                  "WHERE i < 20000) SELECT i FROM n"_s);
+    list.refresh();
+    const DataSet::CountOver count = list.countToCome();
+    ASSERT_EQ(bool(count), store.store() == Store::Remote) << "what is near is counted at once";
+    if (!count)
+        return;
+    const auto user = store.anotherUser();
+    const auto add = [this](int id) { store.execute(u"INSERT INTO Vendor (VendorID) VALUES (%1)"_s.arg(id)); };
+    add(rows + 1);
+    const std::function<void()> tell = count(user->database.connection());
+    tell();
+    EXPECT_EQ(list.recordCount(), rows) << "what came after its first rows is not among them";
+    list.refresh();
+    tell();
+    EXPECT_EQ(list.recordCount(), rows + 1) << "it was told of an earlier reading";
+    const DataSet::CountOver late = list.countToCome();
+    EXPECT_FALSE(late) << "it has been counted";
+}
+
 TEST_P(RecordTest, LocatesTheFirstMatchInTheOrderOrStays)
 {
     addVendors();
