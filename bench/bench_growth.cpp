@@ -146,26 +146,38 @@ double postRaw(Store store, const QStringList &place)
     return seconds([&] { raw(RawDocuments::Receipts, rawLocation(place)); });
 }
 
-// --- the history ---------------------------------------------------------------------------------------------------
+// --- lists ---------------------------------------------------------------------------------------------------------
 
 // Until its first rows are painted and keys are taken, and what goes on beside that then.
-std::pair<double, double> openHistory(Engine::Database &database)
+template <typename View>
+std::pair<double, double> openList(Engine::Database &database, View &view, const Engine::DataSet &list)
 {
     constexpr int page = 64;
-    HistoryView view(database);
-    Engine::DataSet::CountOver count;
+    Engine::DataSet::RestOver rest;
     const double opening = seconds([&] {
         view.open();
-        sink = sink + static_cast<double>(view.table().firstRows(page).size());
-        count = view.table().countToCome();
-        if (!count)
-            sink = sink + view.table().recordCount();
+        sink = sink + static_cast<double>(list.firstRows(page).size());
+        rest = list.restToCome();
+        if (!rest)
+            sink = sink + list.recordCount();
     });
     return {opening, seconds([&] {
-                if (count)
-                    count(database.connection())();
-                sink = sink + view.table().recordCount();
+                if (rest)
+                    rest(database.connection())();
+                sink = sink + list.recordCount();
             })};
+}
+
+std::pair<double, double> openHistory(Engine::Database &database)
+{
+    HistoryView view(database);
+    return openList(database, view, view.table());
+}
+
+std::pair<double, double> openTotals(Engine::Database &database)
+{
+    TotalsView view(database, TotalsView::Figures::All);
+    return openList(database, view, view.query());
 }
 
 // --- the table -----------------------------------------------------------------------------------------------------
@@ -191,14 +203,14 @@ std::vector<Compared> comparisons(Store store, Engine::Database &database, const
              more();
              return postRaw(store, place);
          }},
-        {"totals opened",
+        {"totals opened", [&database](int) { return openTotals(database).first; },
          [&database](int) {
-             auto view = std::make_unique<TotalsView>(database, TotalsView::Figures::All);
-             return readFirst([&view]() -> Engine::DataSet & {
-                 view->open();
-                 return view->query();
-             });
-         },
+             return readAll(database,
+                            u"SELECT B.ItemID, B.WarehouseID FROM Item I JOIN IBalance B ON B.ItemID = I.ItemID "
+                            "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID "
+                            "ORDER BY I.ItemNo, W.WarehouseName, B.ItemID, B.WarehouseID LIMIT 64"_s);
+         }},
+        {"their keys beside", [&database](int) { return openTotals(database).second; },
          [&database](int) {
              return readAll(database,
                             u"SELECT B.ItemID, B.WarehouseID FROM IBalance B LEFT OUTER JOIN Item I ON B.ItemID = "

@@ -24,21 +24,25 @@ const QString days =
 const QString balances = u"\nFROM IBalance B\n"
                          "LEFT OUTER JOIN Item I ON B.ItemID = I.ItemID\n"
                          "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID"_s;
+// Without balances of items that are gone; the index of the items gives the order.
+const QString balancesOfItems = u"\nFROM Item I\n"
+                                "JOIN IBalance B ON B.ItemID = I.ItemID\n"
+                                "LEFT OUTER JOIN Warehse W ON B.WarehouseID = W.WarehouseID"_s;
 const QString withTypes = u"\nLEFT OUTER JOIN ItemType T ON I.ItemTypeID = T.ItemTypeID"_s;
 const QString withCounts =
     u"\nLEFT OUTER JOIN ICounted C ON B.ItemID = C.ItemID AND B.WarehouseID = C.WarehouseID"_s;
 
-QString sqlOf(TotalsView::Figures figures)
+QString sqlOf(TotalsView::Figures figures, const QString &from = balances)
 {
     switch (figures) {
     case TotalsView::Figures::OnHand:
         break;
     case TotalsView::Figures::Value:
-        return onHand + costs + balances + withTypes;
+        return onHand + costs + from + withTypes;
     case TotalsView::Figures::All:
-        return onHand + costs + days + balances + withTypes + withCounts;
+        return onHand + costs + days + from + withTypes + withCounts;
     }
-    return onHand + balances;
+    return onHand + from;
 }
 
 } // namespace
@@ -68,6 +72,7 @@ TotalsView::TotalsView(Engine::Database &database, Figures figures)
     : m_query(database, sqlOf(figures))
     , m_figures(figures)
 {
+    m_query.setFirstPageSql(sqlOf(figures, balancesOfItems));
     m_query.setKeyFields(u"ItemID;WarehouseID"_s);
     m_query.setFoldedFields(u"ItemDescription;WarehouseName"_s);
     if (figures != Figures::OnHand)

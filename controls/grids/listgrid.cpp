@@ -186,19 +186,19 @@ void ListGrid::paintEvent(QPaintEvent *event)
         QMetaObject::invokeMethod(this, &ListGrid::readRest, Qt::QueuedConnection);
 }
 
-// Where counting the rows takes long, the window does not wait for it, unless the user goes on to them.
+// Where that takes long the window does not wait for it, unless the user goes on to further rows.
 void ListGrid::readRest()
 {
-    if (m_count.isReading() || !tableModel()->isPartial())
+    if (m_rest.isReading() || !tableModel()->isPartial())
         return;
-    Engine::DataSet::CountOver count;
-    if (Guard::attempt([&] { count = m_data->countToCome(); }) || !count)
+    Engine::DataSet::RestOver rest;
+    if (Guard::attempt([&] { rest = m_data->restToCome(); }) || !rest)
         return tableModel()->readRest();
-    m_count.start(
+    m_rest.start(
         m_data->database(),
-        [count, this](Engine::Database &database) -> std::function<void()> {
-            return [tell = count(database.connection()), this] {
-                tell();
+        [rest, this](Engine::Database &database) -> std::function<void()> {
+            return [hand = rest(database.connection()), this] {
+                hand();
                 tableModel()->readRest();
             };
         },

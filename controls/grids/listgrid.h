@@ -62,7 +62,7 @@ private:
     Engine::DataSet *m_data = nullptr;
     const Guard *m_guard = nullptr;
     ListSearch *m_search = nullptr;
-    ReadAside m_count; // of the rows
+    ReadAside m_rest; // of the keys
     bool m_moving = false;
 };
 

@@ -346,10 +346,10 @@ void DataSet::onLongRead(std::function<void(const ReadOver &)> aside, int longFr
     d->longFrom = longFrom;
 }
 
-DataSet::CountOver DataSet::countToCome() const
+DataSet::RestOver DataSet::restToCome() const
 {
     requireOpen();
-    return DataSetReader(*this).countToCome();
+    return DataSetReader(*this).restToCome();
 }
 
 std::optional<KeyList> DataSet::readAhead() const { return DataSetReader(*this).readAhead(); }

@@ -160,11 +160,11 @@ public:
     static constexpr int longSet = 100'000;
     void onLongRead(std::function<void(const ReadOver &)> aside, int longFrom = longSet);
 
-    // A set that is far away, long and read in parts has its rows counted for a time that grows with them. For whoever shows its
-    // first rows meanwhile: what counts them over another connection, on whatever thread, and gives what tells the set, to be called on the
-    // set's own. The set heeds it unless it has been read or changed since. Null where nothing is to be gained.
-    using CountOver = std::function<std::function<void()>(Connection &)>;
-    CountOver countToCome() const;
+    // What the keys of a long set, or only their number, would be read for a time that grows with it. For whoever shows its first
+    // rows meanwhile: what reads them over another connection, on whatever thread, and gives what hands them over, to be called on the
+    // set's own; they are taken unless the set has been read or changed since. Null where there is little to be gained.
+    using RestOver = std::function<std::function<void()>(Connection &)>;
+    RestOver restToCome() const;
 
     // Reads the set anew and stays on the current row; when that is gone, on the one that took its place. An edit in
     // progress is ended first.

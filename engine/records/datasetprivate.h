@@ -89,7 +89,7 @@ public:
     }
     void readKeys() const; // all of them, or how many there are
     std::optional<KeyList> readAhead() const; // aside, where that pays
-    DataSet::CountOver countToCome() const; // see there
+    DataSet::RestOver restToCome() const; // see there
     void take(KeyList keys) const; // all of them
     Key keyAt(int index) const; // of an index of the set
     int indexOf(const Key &key) const; // -1 when the set was read without it

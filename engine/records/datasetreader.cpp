@@ -42,6 +42,8 @@ SetScope DataSetReader::scope() const
     const QList<OrderTerm> sorted = sortTerms(scope);
     scope.order = sorted + scope.order;
     scope.byIndex = scope.byIndex && sorted.isEmpty();
+    if (!sorted.isEmpty() || !scope.condition.isEmpty())
+        scope.firstSource.clear();
     scope.inParts = scope.inParts && scope.byIndex && scope.condition.isEmpty();
     return scope;
 }
@@ -107,20 +109,35 @@ std::optional<KeyList> DataSetReader::readAhead() const
     return keys;
 }
 
-DataSet::CountOver DataSetReader::countToCome() const
+// What is read aside knows nothing of the set, which may be gone by then.
+DataSet::RestOver DataSetReader::restToCome() const
 {
-    if (d.keysRead || d.inMemory || !source().isFar() || m_set.m_database.connection().inTransaction())
+    if (d.keysRead || d.inMemory || m_set.m_database.connection().inTransaction())
         return {};
-    const std::optional<qint64> last = read(&RowSource::lastKey, shortSet);
-    if (!last)
-        return {};
-    return [scope = scope(), last = *last, reading = d.readings,
-            set = QPointer(&d.set)](Connection &connection) -> std::function<void()> {
-        const RowSource::Length length{RowSource::countUpTo(connection, scope, last), last};
-        return [set, length, reading] {
+    static const std::deque<Field> noFields;
+    const SetScope wanted = scope();
+    const auto unlessReadSince = [set = QPointer(&d.set), reading = d.readings](const auto &take) {
+        return [set, reading, take] {
             if (set && !set->d->keysRead && set->d->readings == reading)
-                DataSetReader(*set).takeLength(length);
+                take(DataSetReader(*set));
         };
+    };
+    if (wanted.inParts && source().isFar()) {
+        const std::optional<qint64> last = read(&RowSource::lastKey, shortSet);
+        if (!last)
+            return {};
+        return [=](Connection &connection) -> std::function<void()> {
+            const RowSource::Length length{RowSource(connection, wanted, noFields).countUpTo(*last), *last};
+            return unlessReadSince([length](const DataSetReader &set) { set.takeLength(length); });
+        };
+    }
+    // A standby may have fewer rows than another connection finds.
+    if (wanted.firstSource.isEmpty() || m_set.m_database.connection().origin().isStandby()
+        || !read(&RowSource::hasMoreThan, d.longFrom))
+        return {};
+    return [=](Connection &connection) -> std::function<void()> {
+        const KeyList keys = RowSource(connection, wanted, noFields).keys();
+        return unlessReadSince([keys](const DataSetReader &set) { set.take(keys); });
     };
 }
 
@@ -169,7 +186,7 @@ bool DataSetReader::readShort() const
 std::vector<Row> DataSetReader::firstRows(int count) const
 {
     const bool isFar = source().isFar() && count <= pageSize;
-    if (!isFar && source().isByIndex())
+    if (!isFar && source().hasFirstRowsSoon())
         return read(&RowSource::firstRows, count);
     if (!isFar)
         readKeys(); // all rows have to be sorted for the first ones
@@ -203,8 +220,11 @@ void DataSetReader::readKeys() const
 
 void DataSetReader::settleKeys() const
 {
-    if (!std::exchange(d.keysRead, true))
+    if (!std::exchange(d.keysRead, true)) {
         d.windows.clear();
+        if (!d.inMemory && source().guessesFirst())
+            d.cursor.listChanged();
+    }
     d.firstPage.clear();
     d.mostRows = std::max(d.mostRows, d.keys.count());
     if (d.cursor.isEmpty() && d.keys.count() > 0)

@@ -34,6 +34,12 @@ void Query::setSql(const QString &localSql, const QString &remoteSql)
     m_remoteSql = remoteSql;
 }
 
+void Query::setFirstPageSql(const QString &sql)
+{
+    close();
+    m_firstPageSql = sql;
+}
+
 void Query::setParameter(QStringView name, const Value &value) { m_parameters[name.toString().toLower()] = value; }
 
 void Query::setKeyFields(const QString &fields)
@@ -222,6 +228,8 @@ SetScope Query::scope() const
     SetScope scope;
     scope.source = u'(' + prepared().positional.sql + ") t"_L1;
     scope.sourceParameters = m_values;
+    if (!m_firstPageSql.isEmpty())
+        scope.firstSource = u'(' + m_firstPageSql + ") t"_L1;
     const auto column = [&](const QString &name) { return "t."_L1 + dialect.name(field(name.trimmed()).name); };
     for (const QString &name : m_keyFields.split(u';', Qt::SkipEmptyParts))
         scope.keyColumns << column(name);

@@ -25,6 +25,10 @@ public:
     // A statement whose dialects differ: the second text is used on a server.
     void setSql(const QString &localSql, const QString &remoteSql);
 
+    // For a list with an order that no index has: a statement with the same columns, nearly the same rows and no parameters, whose first rows
+    // an index gives. They are shown until the keys have been read.
+    void setFirstPageSql(const QString &sql);
+
     void setParameter(QStringView name, const Value &value); // taken at the next open or execute
     // For a list: result columns of whole numbers that tell rows apart, "ItemID;WarehouseID".
     void setKeyFields(const QString &fields);
@@ -56,6 +60,7 @@ private:
     mutable std::unique_ptr<Text> m_text;
     QString m_sql;
     QString m_remoteSql;
+    QString m_firstPageSql;
     QString m_keyFields;
     QString m_orderBy;
     QString m_foldedFields;

@@ -111,8 +111,7 @@ std::optional<RowSource::Length> RowSource::length(int shortOnes) const
 {
     if (!m_scope.inParts)
         return std::nullopt;
-    const auto tail = u" LIMIT 1 OFFSET %1"_s.arg(shortOnes);
-    if (!select(u"1"_s, {}, tail)->next())
+    if (!hasMoreThan(shortOnes))
         return std::nullopt;
     // Both of one moment.
     const StatementPtr statement = m_connection.prepare(
@@ -133,13 +132,16 @@ std::optional<qint64> RowSource::lastKey(int shortOnes) const
     return statement->intAt(0);
 }
 
-int RowSource::countUpTo(Connection &connection, const SetScope &scope, qint64 lastKey)
+int RowSource::countUpTo(qint64 lastKey) const
 {
-    const StatementPtr count = connection.prepare(
-        u"SELECT COUNT(*) FROM %1 WHERE %2 <= ?"_s.arg(scope.source, scope.keyColumns.constFirst()));
-    count->bindInt(0, lastKey);
+    const StatementPtr count = select(u"COUNT(*)"_s, upTo(lastKey), {});
     count->next();
     return static_cast<int>(count->intAt(0));
+}
+
+bool RowSource::hasMoreThan(int rows) const
+{
+    return !m_scope.isNone && select(u"1"_s, m_scope.condition, u" LIMIT 1 OFFSET %1"_s.arg(rows))->next();
 }
 
 SqlCondition RowSource::upTo(qint64 lastKey) const { return {m_keys + " <= ?"_L1, {lastKey}}; }
@@ -199,6 +201,10 @@ std::optional<FoundRow> RowSource::first(const SqlCondition &condition) const
 {
     if (m_scope.isNone)
         return std::nullopt;
+    if (condition.isEmpty() && !m_scope.firstSource.isEmpty()) {
+        std::vector<FoundRow> found = firstFound(1);
+        return found.empty() ? std::nullopt : std::optional(std::move(found.front()));
+    }
     SqlCondition all = m_scope.condition;
     all += condition;
     const StatementPtr statement = select(m_columns + ", "_L1 + m_keys, all, orderBy() + " LIMIT 1"_L1);
@@ -214,20 +220,25 @@ StatementPtr RowSource::allRows() const
 
 std::vector<Row> RowSource::firstRows(int count) const
 {
-    if (m_scope.isNone)
-        return {};
-    const StatementPtr statement =
-        select(m_columns, m_scope.condition, orderBy() + " LIMIT "_L1 + QString::number(count));
     std::vector<Row> rows;
-    while (statement->next())
-        rows.push_back(readRow(*statement));
+    for (FoundRow &found : firstFound(count))
+        rows.push_back(std::move(found.row));
     return rows;
 }
 
+// Where the source for that has too few, the others may be what it leaves out.
 std::vector<FoundRow> RowSource::firstFound(int count) const
 {
     if (m_scope.isNone)
         return {};
+    if (!m_scope.firstSource.isEmpty()) {
+        RowSource sooner = *this;
+        sooner.m_scope.source = std::exchange(sooner.m_scope.firstSource, {});
+        sooner.m_scope.sourceParameters.clear();
+        std::vector<FoundRow> rows = sooner.firstFound(count);
+        if (rows.size() == static_cast<size_t>(count))
+            return rows;
+    }
     const StatementPtr statement =
         select(m_columns + ", "_L1 + m_keys, m_scope.condition, orderBy() + " LIMIT "_L1 + QString::number(count));
     std::vector<FoundRow> rows;

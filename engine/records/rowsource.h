@@ -26,6 +26,7 @@ struct SetScope
     SqlCondition condition;
     QList<OrderTerm> order; // total, by ending with the key
     bool byIndex = false; // the order is that of an index: the first rows are there long before all keys are
+    QString firstSource; // has nearly the same rows, and an index for the order: for the first page
     // Its keys may be read in parts: it is a table as a whole, in the order of an index of it, by a key of one number that new
     // rows have above all others.
     bool inParts = false;
@@ -46,6 +47,7 @@ public:
 
     const SqlCondition &condition() const { return m_scope.condition; }
     KeyList keys() const;
+    bool hasMoreThan(int rows) const;
     // --- of a set that may be read in parts ---
     struct Length
     {
@@ -56,7 +58,7 @@ public:
     std::optional<Length> length(int shortOnes) const;
     // The same without counting, which has to go over all rows: that may be done over another connection.
     std::optional<qint64> lastKey(int shortOnes) const;
-    static int countUpTo(Connection &connection, const SetScope &scope, qint64 lastKey);
+    int countUpTo(qint64 lastKey) const;
     // The keys from an index on of the rows up to the last key, so many of them as the length told. From the end that is
     // nearer, as what lies before them is gone over.
     KeyList keysFrom(int first, int count, const Length &length) const;
@@ -68,7 +70,8 @@ public:
     std::vector<Row> firstRows(int count) const;
     std::vector<FoundRow> firstFound(int count) const; // with their keys
     StatementPtr allRows() const; // in the set's order, for takeRow(); null where there can be none
-    bool isByIndex() const { return m_scope.byIndex; }
+    bool guessesFirst() const { return !m_scope.firstSource.isEmpty(); }
+    bool hasFirstRowsSoon() const { return m_scope.byIndex || guessesFirst(); }
     bool isFar() const { return m_connection.sendsAhead(); } // each statement costs a journey
     // The row of a key, whether the set's condition lets it in or not.
     std::optional<Row> row(const Key &key) const;

@@ -47,6 +47,38 @@ TEST_P(RecordTest, AQueryIsBrowsedLikeATable)
     EXPECT_EQ(names(query, u"Quantity"_s), u"33"_s);
 }
 
+// What the statement of the first page leaves out comes before its rows here.
+TEST_P(RecordTest, AQuickFirstPageIsShownUntilTheKeysAreRead)
+{
+    constexpr int rows = 100;
+    store.execute(u"INSERT INTO Vendor (VendorID) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+                  "WHERE i < 100) SELECT i FROM n"_s);
+    const QString all = u"SELECT VendorID, 0 - VendorID AS Place FROM Vendor"_s;
+    Query query(database(), all);
+    query.setFirstPageSql(all + " WHERE VendorID < 100"_L1);
+    query.setKeyFields(u"VendorID"_s);
+    query.setOrderBy(u"Place"_s);
+    const auto user = store.anotherUser();
+    query.onLongRead([&](const DataSet::ReadOver &read) { read(user->database.connection()); }, rows - 1);
+    query.open();
+    const auto first = [&query](int count) { return query.firstRows(count).front().front().toInt(); };
+    EXPECT_EQ(first(2), 99);
+    EXPECT_EQ(query.integer(u"VendorID"), 99);
+    const DataSet::RestOver rest = query.restToCome();
+    ASSERT_TRUE(rest);
+    rest(user->database.connection())();
+    EXPECT_FALSE(query.restToCome()) << "it has come";
+    EXPECT_EQ(query.integer(u"VendorID"), 99) << "the record that was shown stays";
+    EXPECT_EQ(query.recordIndex(), 1);
+    EXPECT_EQ(query.recordCount(), rows);
+    query.close();
+    query.open();
+    EXPECT_EQ(first(rows), 100) << "it has too few rows to say what these are";
+    query.setFilter(u"VendorID > 3"_s);
+    query.setFiltered(true);
+    EXPECT_EQ(first(2), 100) << "nor does it say what a filter leaves";
+}
+
 TEST_P(RecordTest, AQueryWithoutKeyIsReadAsItIsWhenOpened)
 {
     addVendors();

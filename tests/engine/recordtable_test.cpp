@@ -138,11 +138,11 @@ TEST_P(RecordTest, ALongListThatIsFarIsCountedBesideItsFirstRows)
     constexpr int rows = 20'000;
     TableReader list(database(), u"Vendor"_s);
     list.open();
-    EXPECT_FALSE(list.countToCome()) << "it is short";
+    EXPECT_FALSE(list.restToCome()) << "it is short";
     store.execute(u"INSERT INTO Vendor (VendorID) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
                   "WHERE i < 20000) SELECT i FROM n"_s);
     list.refresh();
-    const DataSet::CountOver count = list.countToCome();
+    const DataSet::RestOver count = list.restToCome();
     ASSERT_EQ(bool(count), store.store() == Store::Remote) << "what is near is counted at once";
     if (!count)
         return;
@@ -155,7 +155,7 @@ TEST_P(RecordTest, ALongListThatIsFarIsCountedBesideItsFirstRows)
     list.refresh();
     tell();
     EXPECT_EQ(list.recordCount(), rows + 1) << "it was told of an earlier reading";
-    const DataSet::CountOver late = list.countToCome();
+    const DataSet::RestOver late = list.restToCome();
     EXPECT_FALSE(late) << "it has been counted";
 }
 
