@@ -8,6 +8,8 @@
 #include "master/masterkinds.h"
 #include "transactions/documentkinds.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
@@ -49,6 +51,35 @@ void checkKey(Inspection &inspection, const Counter &counter)
                       [counter, highest](Engine::Database &database) { moveOn(database, counter, highest + 1); }});
 }
 
+// Of a server, which counts these by itself, apart from the table.
+void checkOwnKeys(Inspection &inspection, const Engine::TableLayout &table)
+{
+    const auto field = std::ranges::find(table.fields, Engine::FieldType::AutoInc, &Engine::FieldDef::type);
+    if (field == table.fields.end())
+        return;
+    const Engine::Dialect &dialect = inspection.store().dialect();
+    const QString given = dialect.lastAutoIncrement(table.name, field->name);
+    if (given.isEmpty())
+        return;
+    const qint64 last = Engine::singleValue(inspection.database(), given).toInt64();
+    const qint64 highest =
+        Engine::singleValue(inspection.database(),
+                            u"SELECT MAX(%1) FROM %2"_s.arg(dialect.name(field->name), dialect.name(table.name)))
+            .toInt64();
+    if (last >= highest)
+        return;
+    const bool isHistory = table.name == Layouts::iHist().name;
+    const QString moveOn = dialect.passAutoIncrement(table.name, field->name);
+    inspection.found(
+        {Layouts::titleOf(table.name),
+         CareTexts::tr("The server has given %1 up to %2, and the table goes up to %3.")
+             .arg(field->name, QString::number(last), QString::number(highest)),
+         isHistory ? CareTexts::tr("A document that is posted now lacks its history.")
+                   : CareTexts::tr("New rows are refused until it has come to that."),
+         CareTexts::tr("A repair lets it go on above."),
+         [moveOn, highest](Engine::Database &database) { Engine::singleValue(database, moveOn, {highest}); }});
+}
+
 } // namespace
 
 void checkCounters(Inspection &inspection)
@@ -60,6 +91,8 @@ void checkCounters(Inspection &inspection)
     for (const DocumentKind *kind : DocumentKinds::all())
         checkKey(inspection,
                  {kind->entry.counters.table, kind->entry.counters.key, kind->keyField, kind->keyTables()});
+    for (const Engine::TableLayout *table : Layouts::applied())
+        checkOwnKeys(inspection, *table);
 }
 
 } // namespace Tallymere

@@ -1,3 +1,4 @@
+#include "base/plural.h"
 #include "base/rounding.h"
 #include "care/checks.h"
 #include "care/inspection.h"
@@ -256,10 +257,12 @@ private:
                 remove->bindInt(0, key);
                 remove->execute();
             };
-            m_inspection.found(
-                {title(row->intAt(0)),
-                 CareTexts::tr("Its header is not there, and %1 lines of it are.").arg(row->intAt(1)),
-                 CareTexts::tr("They count nowhere."), CareTexts::tr("A repair takes them out."), takeOut});
+            m_inspection.found({title(row->intAt(0)),
+                                plural(static_cast<int>(row->intAt(1)),
+                                       CareTexts::tr("Its header is not there, and %n line of it is."),
+                                       CareTexts::tr("Its header is not there, and %n lines of it are.")),
+                                CareTexts::tr("They count nowhere."), CareTexts::tr("A repair takes them out."),
+                                takeOut});
         }
     }
 
@@ -268,7 +271,10 @@ private:
     {
         m_inspection.found(
             {title(row.intAt(0)),
-             CareTexts::tr("%1 has begun it and not saved it, with %2 lines.").arg(row.textAt(2)).arg(row.intAt(1)),
+             plural(static_cast<int>(row.intAt(1)),
+                    CareTexts::tr("%1 has begun it and not saved it, with %n line."),
+                    CareTexts::tr("%1 has begun it and not saved it, with %n lines."))
+                 .arg(row.textAt(2)),
              CareTexts::tr("They count nowhere."),
              CareTexts::tr("If nobody is entering it just now, %1 is asked about it with the next new document.")
                  .arg(row.textAt(2))});

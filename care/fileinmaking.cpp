@@ -27,15 +27,36 @@ void requireRoom(const QString &folder, qint64 bytes)
                             .arg(shown(folder), QString::number(room / mega), QString::number(bytes / mega + 1)));
 }
 
+QString ownerIn(const QString &folder) { return folder + "/owner"_L1; }
+
+// Whose owner is on another computer, or has not signed, stays.
+void takeAwayLeft(const QString &parent)
+{
+    for (const QString &name : QDir(parent).entryList({u".copy-??????"_s}, QDir::Dirs | QDir::Hidden)) {
+        const QString folder = QDir(parent).filePath(name);
+        if (!QFileInfo::exists(ownerIn(folder)))
+            continue;
+        QLockFile owner(ownerIn(folder));
+        owner.setStaleLockTime(0);
+        if (!owner.tryLock())
+            continue;
+        owner.unlock();
+        QDir(folder).removeRecursively();
+    }
+}
+
 } // namespace
 
 FileInMaking::FileInMaking(const QString &parent, qint64 bytes)
-    : m_folder(parent + u"/.copy-XXXXXX"_s)
+    : m_folder((takeAwayLeft(parent), parent + u"/.copy-XXXXXX"_s))
+    , m_owner(ownerIn(m_folder.path()))
 {
     requireRoom(parent, bytes);
     if (!m_folder.isValid())
         throw RuleError(
             CareTexts::tr("Nothing can be written in %1: %2").arg(shown(parent), m_folder.errorString()));
+    m_owner.setStaleLockTime(0);
+    m_owner.tryLock(); // without it the folder is not taken away if this program is killed
     m_session.type = Engine::SessionType::Local;
     m_database.directory = m_folder.path();
 }

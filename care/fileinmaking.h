@@ -5,6 +5,7 @@
 #include "engine/store/database.h"
 #include "engine/store/session.h"
 
+#include <QLockFile>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -15,7 +16,7 @@ class FileInMaking
 {
 public:
     // Below a folder on whose disk the file is to stay, with room for so many bytes. Throws RuleError when nothing can be
-    // written there.
+    // written there. What programs that were killed have left of theirs there is taken away first.
     FileInMaking(const QString &parent, qint64 bytes);
 
     QString path() const { return m_folder.filePath(databaseName + QLatin1StringView(".sqlite")); }
@@ -30,6 +31,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    QLockFile m_owner; // as long as the program lives
     Engine::Session m_session{QStringLiteral("copy"), bothStores()};
     Engine::Database m_database{m_session, databaseName};
 };

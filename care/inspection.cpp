@@ -14,7 +14,7 @@ namespace Tallymere {
 
 namespace {
 
-// How users know the rows of a table: by fields of the row, or of the document that has it.
+// How users know the rows of a table: by stored fields of the row, or of the document that has it.
 struct Naming
 {
     QString table;
@@ -23,6 +23,13 @@ struct Naming
     QString pattern; // "Receipt %1"
 };
 
+QStringList storedOf(const QString &table, QStringList fields)
+{
+    const Engine::TableLayout *layout = Layouts::find(table);
+    fields.removeIf([layout](const QString &field) { return !layout || !layout->field(field); });
+    return fields;
+}
+
 std::optional<Naming> namingOf(const QString &table)
 {
     for (const DocumentKind *kind : DocumentKinds::all())
@@ -30,7 +37,8 @@ std::optional<Naming> namingOf(const QString &table)
             return Naming{kind->headerTable, kind->keyField, {kind->shownField()}, kind->entry.title};
     for (const MasterKind *kind : MasterKinds::all())
         if (kind->table == table)
-            return Naming{kind->table, kind->keyField, kind->nameFields, Layouts::titleOf(table) + u", %1"_s};
+            return Naming{kind->table, kind->keyField, storedOf(kind->table, kind->nameFields),
+                          Layouts::titleOf(table) + u", %1"_s};
     return {};
 }
 
@@ -95,7 +103,8 @@ QString Inspection::rowName(const QString &table, const QStringList &keyFields, 
     for (int part = 0; part < keys.size(); ++part)
         keys[part] += u' ' + key.value(part);
     const std::optional<Naming> naming = namingOf(table);
-    const QString name = naming && !key.isEmpty() ? nameBy(*naming, store(), key.first()) : QString();
+    const bool hasName = naming && !naming->fields.isEmpty() && !key.isEmpty();
+    const QString name = hasName ? nameBy(*naming, store(), key.first()) : QString();
     if (name.isEmpty())
         return (QStringList(Layouts::titleOf(table)) + keys).join(", "_L1);
     keys[0] = u"%1 (%2)"_s.arg(name, keys[0]);

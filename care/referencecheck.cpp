@@ -1,3 +1,4 @@
+#include "base/plural.h"
 #include "care/checks.h"
 #include "care/inspection.h"
 #include "care/texts.h"
@@ -55,6 +56,21 @@ void checkKind(Inspection &inspection, const DocumentKind &kind)
           CareTexts::tr("Posted as it is, it moves the stock of an item that no list shows.")});
 }
 
+// Of a location no list shows any more, as none can be deleted that has a history. One finding for each.
+void findGoneLocations(Inspection &inspection, const QString &table, const QString &effect)
+{
+    const Engine::StatementPtr row = inspection.store().prepare(
+        u"SELECT WarehouseID, COUNT(*) FROM %1 WHERE WarehouseID <> 0 AND WarehouseID NOT IN "
+        "(SELECT WarehouseID FROM Warehse) GROUP BY WarehouseID ORDER BY 1"_s.arg(table));
+    while (inspection.next(*row))
+        inspection.found({Layouts::titleOf(table),
+                          plural(static_cast<int>(row->intAt(1)),
+                                 CareTexts::tr("%n row names the location with the key %1, which is gone."),
+                                 CareTexts::tr("%n rows name the location with the key %1, which is gone."))
+                              .arg(row->textAt(0)),
+                          effect, CareTexts::tr("Restore the location from a backup.")});
+}
+
 } // namespace
 
 void checkReferences(Inspection &inspection)
@@ -70,6 +86,9 @@ void checkReferences(Inspection &inspection)
                   CareTexts::tr("Reports that group or convert by it leave the record out or show it without.")});
     for (const DocumentKind *kind : DocumentKinds::all())
         checkKind(inspection, *kind);
+    findGoneLocations(inspection, u"IHist"_s, CareTexts::tr("Reports by location show it without a name."));
+    findGoneLocations(inspection, u"IBalance"_s,
+                      CareTexts::tr("The stock counts in totals and values, at a location without a name."));
 }
 
 } // namespace Tallymere

@@ -3,6 +3,7 @@
 #include "care/texts.h"
 #include "data/layouts.h"
 #include "engine/store/dialect.h"
+#include "master/masterkinds.h"
 #include "transactions/documentkinds.h"
 
 using namespace Qt::StringLiterals;
@@ -84,6 +85,21 @@ QList<Fault> missing(const QStringList &fields, const QString &effect)
     return faults;
 }
 
+// What no screen saves without. (Numbers may be missing in what the host has brought.)
+QList<Fault> missingTexts(const MasterKind &kind)
+{
+    const Engine::TableLayout *table = Layouts::find(kind.table);
+    QList<Fault> faults;
+    for (const MasterKind::Required &required : kind.record.required) {
+        const Engine::FieldDef *field = table ? table->field(required.field) : nullptr;
+        if (field && field->type == FieldType::Text)
+            faults.append({u"(%1 IS NULL OR %1 = '')"_s.arg(field->name),
+                           CareTexts::tr("%1 is empty.").arg(field->name),
+                           CareTexts::tr("Lists and reports show the record without it."), correctIt()});
+    }
+    return faults;
+}
+
 QString periodFault() { return u"GLPeriod NOT BETWEEN 1 AND 12"_s; }
 
 void find(Inspection &inspection, const Engine::TableLayout &table, const QList<Fault> &faults)
@@ -129,6 +145,8 @@ void checkValues(Inspection &inspection)
             missing({u"ItemID"_s, kind->entry.lineColumns.constFirst().field},
                     CareTexts::tr("The line moves nothing, and its document cannot be posted as it stands."));
     }
+    for (const MasterKind *kind : MasterKinds::all())
+        further[kind->table] += missingTexts(*kind);
     for (const Engine::TableLayout *table : Layouts::applied())
         find(inspection, *table, faultsOf(inspection.store().dialect(), *table) + further.value(table->name));
 }

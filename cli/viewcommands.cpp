@@ -156,7 +156,7 @@ const ImportKind &requireImportKind(const CommandContext &context, const QString
     const ImportKind *kind = findImportKind(name);
     if (!kind)
         throw UsageError(Texts::tr("'%1' cannot be imported").arg(name));
-    for (const QString &other : {u"filter"_s, u"standby"_s}) {
+    for (const QString &other : {u"filter"_s, u"standby"_s, u"defuse"_s}) {
         if (context.arguments.has(other))
             throw UsageError(Texts::tr("--for-import and --%1 exclude each other").arg(other));
     }

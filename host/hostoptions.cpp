@@ -1,10 +1,10 @@
 #include "host/hostoptions.h"
 
+#include "engine/store/platform.h"
 #include "host/texts.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -70,7 +70,7 @@ QString loginName()
         if (!name.isEmpty())
             return name;
     }
-    return QDir::home().dirName();
+    return Engine::systemUserName();
 }
 
 } // namespace Tallymere

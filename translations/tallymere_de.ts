@@ -392,20 +392,12 @@ Für Vorschau und Druck von Berichten muss ein Drucker festgelegt, aber nicht un
         <translation>Eine Reparatur kennzeichnet ihn als gebucht.</translation>
     </message>
     <message>
-        <source>Its header is not there, and %1 lines of it are.</source>
-        <translation>Der Belegkopf fehlt, %1 seiner Positionen sind vorhanden.</translation>
-    </message>
-    <message>
         <source>They count nowhere.</source>
         <translation>Sie zählen nirgends mit.</translation>
     </message>
     <message>
         <source>A repair takes them out.</source>
         <translation>Eine Reparatur entfernt sie.</translation>
-    </message>
-    <message>
-        <source>%1 has begun it and not saved it, with %2 lines.</source>
-        <translation>%1 hat den Beleg angefangen und nicht gespeichert; Positionen: %2.</translation>
     </message>
     <message>
         <source>If nobody is entering it just now, %1 is asked about it with the next new document.</source>
@@ -742,6 +734,58 @@ Für Vorschau und Druck von Berichten muss ein Drucker festgelegt, aber nicht un
     <message>
         <source>These books (movements: %1, programs that write: %2) will soon be too much for a folder. &quot;Copy Books To...&quot; in Data Options takes them to a server.</source>
         <translation>Diese Bücher (Bewegungen: %1, schreibende Programme: %2) werden bald zu viel für einen Ordner. „Bücher kopieren nach...“ in den Datenoptionen bringt sie auf einen Server.</translation>
+    </message>
+    <message>
+        <source>The server has given %1 up to %2, and the table goes up to %3.</source>
+        <translation>Der Server hat %1 bis %2 vergeben, und die Tabelle reicht bis %3.</translation>
+    </message>
+    <message>
+        <source>A document that is posted now lacks its history.</source>
+        <translation>Einem Beleg, der jetzt gebucht wird, fehlt sein Verlauf.</translation>
+    </message>
+    <message>
+        <source>New rows are refused until it has come to that.</source>
+        <translation>Neue Zeilen werden abgelehnt, bis er dort angekommen ist.</translation>
+    </message>
+    <message>
+        <source>Its header is not there, and %n line of it is.</source>
+        <translation>Der Belegkopf fehlt, %n seiner Positionen ist vorhanden.</translation>
+    </message>
+    <message>
+        <source>Its header is not there, and %n lines of it are.</source>
+        <translation>Der Belegkopf fehlt, %n seiner Positionen sind vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 has begun it and not saved it, with %n line.</source>
+        <translation>%1 hat den Beleg angefangen und nicht gespeichert, mit %n Position.</translation>
+    </message>
+    <message>
+        <source>%1 has begun it and not saved it, with %n lines.</source>
+        <translation>%1 hat den Beleg angefangen und nicht gespeichert, mit %n Positionen.</translation>
+    </message>
+    <message>
+        <source>%n row names the location with the key %1, which is gone.</source>
+        <translation>%n Zeile nennt den Lagerort mit dem Schlüssel %1, den es nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>%n rows name the location with the key %1, which is gone.</source>
+        <translation>%n Zeilen nennen den Lagerort mit dem Schlüssel %1, den es nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>Restore the location from a backup.</source>
+        <translation>Den Lagerort aus einer Sicherung zurückholen.</translation>
+    </message>
+    <message>
+        <source>Reports by location show it without a name.</source>
+        <translation>Berichte nach Lagerort zeigen ihn ohne Namen.</translation>
+    </message>
+    <message>
+        <source>The stock counts in totals and values, at a location without a name.</source>
+        <translation>Der Bestand zählt in Summen und Werten mit, an einem Lagerort ohne Namen.</translation>
+    </message>
+    <message>
+        <source>Lists and reports show the record without it.</source>
+        <translation>Listen und Berichte zeigen den Datensatz ohne diese Angabe.</translation>
     </message>
 </context>
 <context>
@@ -5035,10 +5079,6 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
         <translation>Eine Küche mit einem Jahr Wareneingängen, Verbrauch und Zählungen zum Umsehen</translation>
     </message>
     <message>
-        <source>&amp;Restore a Backup</source>
-        <translation>Sicherung &amp;wiederherstellen</translation>
-    </message>
-    <message>
         <source>Back into an empty folder or a server without books</source>
         <translation>Zurück in einen leeren Ordner oder auf einen Server ohne Bücher</translation>
     </message>
@@ -5065,6 +5105,10 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
     <message>
         <source>Making the sample company in %1</source>
         <translation>Die Beispielfirma wird in %1 angelegt</translation>
+    </message>
+    <message>
+        <source>Restore a &amp;Backup</source>
+        <translation>Sicherung &amp;wiederherstellen</translation>
     </message>
 </context>
 <context>

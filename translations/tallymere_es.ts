@@ -392,20 +392,12 @@ Para ver o imprimir informes debe haber una impresora definida, aunque no es nec
         <translation>Una reparación lo marca como contabilizado.</translation>
     </message>
     <message>
-        <source>Its header is not there, and %1 lines of it are.</source>
-        <translation>Falta su cabecera, pero existen %1 líneas suyas.</translation>
-    </message>
-    <message>
         <source>They count nowhere.</source>
         <translation>No cuentan en ninguna parte.</translation>
     </message>
     <message>
         <source>A repair takes them out.</source>
         <translation>Una reparación las quita.</translation>
-    </message>
-    <message>
-        <source>%1 has begun it and not saved it, with %2 lines.</source>
-        <translation>%1 lo ha empezado y no lo ha guardado, con %2 líneas.</translation>
     </message>
     <message>
         <source>If nobody is entering it just now, %1 is asked about it with the next new document.</source>
@@ -742,6 +734,58 @@ Para ver o imprimir informes debe haber una impresora definida, aunque no es nec
     <message>
         <source>These books (movements: %1, programs that write: %2) will soon be too much for a folder. &quot;Copy Books To...&quot; in Data Options takes them to a server.</source>
         <translation>Estos libros (movimientos: %1, programas que escriben: %2) serán pronto demasiado para una carpeta. «Copiar libros a...» en las opciones de datos los lleva a un servidor.</translation>
+    </message>
+    <message>
+        <source>The server has given %1 up to %2, and the table goes up to %3.</source>
+        <translation>El servidor ha asignado %1 hasta %2, y la tabla llega hasta %3.</translation>
+    </message>
+    <message>
+        <source>A document that is posted now lacks its history.</source>
+        <translation>A un documento que se contabilice ahora le faltará su historial.</translation>
+    </message>
+    <message>
+        <source>New rows are refused until it has come to that.</source>
+        <translation>Se rechazan las filas nuevas hasta que llegue ahí.</translation>
+    </message>
+    <message>
+        <source>Its header is not there, and %n line of it is.</source>
+        <translation>Falta su cabecera, pero existe %n línea suya.</translation>
+    </message>
+    <message>
+        <source>Its header is not there, and %n lines of it are.</source>
+        <translation>Falta su cabecera, pero existen %n líneas suyas.</translation>
+    </message>
+    <message>
+        <source>%1 has begun it and not saved it, with %n line.</source>
+        <translation>%1 lo ha empezado y no lo ha guardado, con %n línea.</translation>
+    </message>
+    <message>
+        <source>%1 has begun it and not saved it, with %n lines.</source>
+        <translation>%1 lo ha empezado y no lo ha guardado, con %n líneas.</translation>
+    </message>
+    <message>
+        <source>%n row names the location with the key %1, which is gone.</source>
+        <translation>%n fila nombra la ubicación con la clave %1, que ya no existe.</translation>
+    </message>
+    <message>
+        <source>%n rows name the location with the key %1, which is gone.</source>
+        <translation>%n filas nombran la ubicación con la clave %1, que ya no existe.</translation>
+    </message>
+    <message>
+        <source>Restore the location from a backup.</source>
+        <translation>Recupere la ubicación de una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>Reports by location show it without a name.</source>
+        <translation>Los informes por ubicación la muestran sin nombre.</translation>
+    </message>
+    <message>
+        <source>The stock counts in totals and values, at a location without a name.</source>
+        <translation>Las existencias cuentan en totales y valores, en una ubicación sin nombre.</translation>
+    </message>
+    <message>
+        <source>Lists and reports show the record without it.</source>
+        <translation>Las listas y los informes muestran el registro sin este dato.</translation>
     </message>
 </context>
 <context>
@@ -5035,10 +5079,6 @@ Haga clic para volver a mostrar todos los registros.</translation>
         <translation>Una cocina con un año de recepciones, consumos y recuentos para echar un vistazo</translation>
     </message>
     <message>
-        <source>&amp;Restore a Backup</source>
-        <translation>&amp;Restaurar una copia de seguridad</translation>
-    </message>
-    <message>
         <source>Back into an empty folder or a server without books</source>
         <translation>De vuelta a una carpeta vacía o a un servidor sin libros</translation>
     </message>
@@ -5065,6 +5105,10 @@ Haga clic para volver a mostrar todos los registros.</translation>
     <message>
         <source>Making the sample company in %1</source>
         <translation>Creando la empresa de ejemplo en %1</translation>
+    </message>
+    <message>
+        <source>Restore a &amp;Backup</source>
+        <translation>&amp;Restaurar una copia de seguridad</translation>
     </message>
 </context>
 <context>

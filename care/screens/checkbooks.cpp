@@ -143,6 +143,8 @@ void TfrmCheckBooks::showFinding()
     m_ui->lblWhat->setText(finding.what);
     m_ui->lblEffect->setText(finding.effect);
     m_ui->lblRemedy->setText(finding.remedy);
+    for (QLabel *title : {m_ui->lblEffectTitle, m_ui->lblRemedyTitle})
+        title->setVisible(isOne);
 }
 
 } // namespace Tallymere

@@ -191,18 +191,23 @@ void ListGrid::readRest()
 {
     if (m_rest.isReading() || !tableModel()->isPartial())
         return;
-    Engine::DataSet::RestOver rest;
-    if (Guard::attempt([&] { rest = m_data->restToCome(); }) || !rest)
-        return tableModel()->readRest();
-    m_rest.start(
-        m_data->database(),
-        [rest, this](Engine::Database &database) -> std::function<void()> {
-            return [hand = rest(database.connection()), this] {
+    const auto read = [this] { tableModel()->readRest(); };
+    bool isAside = false;
+    const auto begin = [&] {
+        const Engine::DataSet::RestOver rest = m_data->restToCome();
+        if (!rest)
+            return;
+        const auto readOver = [rest, read](Engine::Database &database) -> std::function<void()> {
+            return [hand = rest(database.connection()), read] {
                 hand();
-                tableModel()->readRest();
+                read();
             };
-        },
-        [this](const std::exception_ptr &) { tableModel()->readRest(); }); // which tells what is wrong
+        };
+        m_rest.start(m_data->database(), readOver, [read](const std::exception_ptr &) { read(); });
+        isAside = true;
+    };
+    if (Guard::attempt(begin) || !isAside)
+        read(); // and tell what is wrong
 }
 
 void ListGrid::showEvent(QShowEvent *event)

@@ -150,6 +150,12 @@ QString PostgresDialect::passAutoIncrement(const QString &table, const QString &
                textLiteral(name(table)), textLiteral(field.toLower()));
 }
 
+QString PostgresDialect::lastAutoIncrement(const QString &table, const QString &field) const
+{
+    return u"SELECT coalesce(pg_sequence_last_value(CAST(pg_get_serial_sequence(%1, %2) AS regclass)), 0)"_s.arg(
+        textLiteral(name(table)), textLiteral(field.toLower()));
+}
+
 QString PostgresDialect::foldCase(const QString &column) const { return u"lower(%1 COLLATE \"C\")"_s.arg(column); }
 
 QString PostgresDialect::orderTerm(const QString &column, bool caseInsensitive, bool descending) const

@@ -17,6 +17,7 @@ public:
     QStringList continueAutoIncrement(const QString &oldTable, const QString &newTable,
                                       const QString &field) const override;
     QString passAutoIncrement(const QString &table, const QString &field) const override;
+    QString lastAutoIncrement(const QString &table, const QString &field) const override;
     QString foldCase(const QString &column) const override;
     QString orderTerm(const QString &column, bool caseInsensitive, bool descending) const override;
     QString rowIdentity() const override;

@@ -33,6 +33,8 @@ public:
     // Statement that lets the auto-increment field go on above the number of its parameter, which a row has brought
     // along. Empty where the store sees to that itself.
     virtual QString passAutoIncrement(const QString &, const QString &) const { return {}; }
+    // Select of the number that the auto-increment field has given last, 0 before the first. Empty as above.
+    virtual QString lastAutoIncrement(const QString &, const QString &) const { return {}; }
 
     // The text column compared without regard to ASCII letter case, usable by a case-insensitive index. Both sides
     // of a comparison are folded: foldCase("Name") + " = " + foldCase("?").

@@ -132,8 +132,8 @@ bool makeFolder(const QString &folder)
     const QString parent = QFileInfo(QDir::cleanPath(folder)).absolutePath();
     if (!makeFolder(parent))
         return false;
-    constexpr mode_t everybody = S_IRWXU | S_IRWXG | S_IRWXO; // but for what the mask takes away
-    if (::mkdir(QFile::encodeName(folder).constData(), everybody) != 0 && errno != EEXIST)
+    constexpr mode_t allowed = S_IRWXU | S_IRWXG | S_IROTH | S_IXOTH; // nobody else replaces what is in it
+    if (::mkdir(QFile::encodeName(folder).constData(), allowed) != 0 && errno != EEXIST)
         return false;
     syncFolder(parent);
     return QFileInfo(folder).isDir();

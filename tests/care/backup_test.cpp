@@ -139,7 +139,18 @@ TEST_P(BackupTest, LeavesNothingOfWhatFails)
     EXPECT_THROW(backUp(kitchen.database(), file, cancelled), SilentAbort);
     EXPECT_EQ(filesLeft(), QStringList());
     EXPECT_FALSE(lastBackup(kitchen.database()).made.isValid());
+    // A program that was killed, and one that lives.
+    const QDir beside = QFileInfo(file).dir();
+    for (const auto &[name, process] : {std::pair(u".copy-killed"_s, 0), {u".copy-living"_s, 1}}) {
+        beside.mkdir(name);
+        QFile owner(beside.filePath(name + "/owner"_L1));
+        ASSERT_TRUE(owner.open(QIODevice::WriteOnly));
+        const qint64 id = process ? QCoreApplication::applicationPid() : 0x7ffffffe;
+        owner.write(u"%1\n%2\n%3\n"_s.arg(id).arg(qAppName(), QSysInfo::machineHostName()).toUtf8());
+    }
     backUp(kitchen.database(), file, progress);
+    EXPECT_FALSE(beside.exists(u".copy-killed"_s));
+    EXPECT_TRUE(beside.exists(u".copy-living"_s));
     EXPECT_EQ(lastBackup(kitchen.database()).made, now);
     EXPECT_TRUE(refusal([&] { backUp(kitchen.database(), file, progress); }).contains(u"exists already"_s));
 

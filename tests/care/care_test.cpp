@@ -142,8 +142,17 @@ TEST_P(CareTest, FindsWhatNoScreenLetsIn)
                   {u"A11: Bread (ItemID 2)"_s, u"ItemTypeID is 55"_s});
     expectFinding(u"counters"_s, u"DELETE FROM ItemCtl; INSERT INTO ItemCtl (NextItemID) VALUES (2)"_s,
                   {u"NextItemID stands at 2"_s});
-    if (GetParam() == Store::Remote)
+    expectFinding(u"references"_s, u"INSERT INTO VContact (VendorID, LastName) VALUES (4711, 'Lee')"_s,
+                  {u"ContactID 1"_s, u"VendorID is 4711"_s});
+    expectFinding(u"references"_s, u"INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (1, 4711, 0)"_s,
+                  {u"1 row names the location with the key 4711"_s});
+    expectFinding(u"values"_s, u"UPDATE Item SET ItemDescription = NULL WHERE ItemID = 2"_s,
+                  {u"A11"_s, u"ItemDescription is empty"_s});
+    if (GetParam() == Store::Remote) {
+        expectFinding(u"counters"_s, u"SELECT setval(pg_get_serial_sequence('ihist', 'ihistid'), 5)"_s,
+                      {u"has given IHistID up to 5"_s});
         return; // keeps types and sizes by itself
+    }
     expectFinding(u"values"_s, u"UPDATE Item SET ItemNo = 'an item number of many letters' WHERE ItemID = 2"_s,
                   {u"ItemID 2"_s, u"longer than 20 characters"_s});
     expectFinding(u"values"_s, u"UPDATE Item SET WgtAvgCost = 'dear' WHERE ItemID = 2"_s,
@@ -237,6 +246,16 @@ TEST_P(CareTest, BuildsDamagedIndexesAnewAndLeavesDamagedRowsToABackup)
         EXPECT_EQ(kitchen.rows(u"SELECT * FROM IHist NOT INDEXED ORDER BY IHistID"_s), history);
         EXPECT_TRUE(QFile::exists(folder.filePath(u"before-%1.sqlite"_s.arg(repairs))));
     }
+    // One that has lost entries, which another index could answer for.
+    const QString schema = u"PRAGMA writable_schema = ON; UPDATE sqlite_schema SET sql = %1 WHERE name = '%2'"_s;
+    kitchen.execute(schema.arg(u"replace(sql, ')', ') WHERE ItemID > 1')"_s, index));
+    kitchen.database().close();
+    kitchen.execute(u"REINDEX"_s);
+    kitchen.execute(schema.arg(u"replace(sql, ' WHERE ItemID > 1', '')"_s, index));
+    kitchen.database().close();
+    EXPECT_TRUE(check().join(u'\n').contains(u"the index %1 has"_s.arg(index)));
+    EXPECT_EQ(repair().mended, 1);
+
     flipByte(kitchen, u"IHist"_s, kindOfPage);
     const QString found = check().join(u'\n');
     EXPECT_TRUE(found.contains(u"restore the last backup. The last one that is known was made on"_s))
