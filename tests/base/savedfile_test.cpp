@@ -5,7 +5,6 @@
 
 #include <fcntl.h>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>

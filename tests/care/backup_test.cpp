@@ -1,52 +1,25 @@
 #include "care/backup.h"
 
-#include "base/ruleerror.h"
 #include "care/bookcheck.h"
 #include "data/lastbackup.h"
 #include "data/layouts.h"
 #include "tests/support/documents.h"
-
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/support/files.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-// Does something with the first step.
-struct Interrupted final : Progress
+struct BackupTest : KitchenTest
 {
-    explicit Interrupted(std::function<void()> once)
-        : action(std::move(once))
-    {
-    }
-    void start(int) override { }
-    void step() override
-    {
-        if (const auto now = std::exchange(action, {}))
-            now();
-    }
-    void finish() override { }
-
-    std::function<void()> action;
-};
-
-class BackupTest : public KitchenTest
-{
-protected:
     BackupTest()
     {
         kitchen.makeHost();
         kitchen.database().createOrUpdateTable(Layouts::iDocSaved());
         kitchen.execute(u"UPDATE Vendor SET Notes = 'Ünïcode, ''quoted''\nand long' WHERE VendorID = 1"_s);
         std::mt19937 random(1);
-        for (int id = 1; id <= 9; ++id)
-            addRandomDocument(kitchen, *DocumentKinds::all().at(id % DocumentKinds::all().size()), id, 4, random);
-        for (const DocumentKind *kind : DocumentKinds::all())
-            DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
+        addPostedDocuments(kitchen, 9, random);
     }
 
     static QStringList contents(Engine::Database &database)
@@ -68,20 +41,7 @@ protected:
         restored.execute(u"DELETE "_s + note);
     }
 
-    QString refusal(const std::function<void()> &step)
-    {
-        try {
-            step();
-        } catch (const RuleError &error) {
-            return error.message();
-        }
-        return {};
-    }
-
-    QStringList filesLeft()
-    {
-        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
+    QStringList filesLeft() const { return entriesOf(folder.path()); }
 
     const QTemporaryDir folder;
     const QString file = folder.filePath(u"kitchen.bak"_s);
@@ -111,9 +71,8 @@ TEST_P(BackupTest, BringsEverythingBackIntoEitherStore)
         highest->reset();
         other.execute(u"INSERT INTO IHist (ItemID) VALUES (1)"_s);
         EXPECT_EQ(other.found(u"SELECT MAX(IHistID) FROM IHist"_s).toLongLong(), last + 1);
-        EXPECT_TRUE(refusal([&] {
-                        restoreInto(other.database(), file, u"maria"_s, progress);
-                    }).endsWith(u"holds a database already."_s));
+        EXPECT_TRUE(has(refusalOf([&] { restoreInto(other.database(), file, u"maria"_s, progress); }),
+                        u"holds a database already."_s));
     }
 }
 
@@ -121,10 +80,11 @@ TEST_P(BackupTest, IsOfOneMomentWhileOthersWrite)
 {
     const QStringList before = contents(kitchen.database());
     const auto anna = kitchen.anotherUser();
-    Interrupted writing(
-        [&anna] { anna->database.connection().execute(u"UPDATE Item SET UnitPrice = 77; DELETE FROM IHist"_s); });
+    CountedProgress writing(0, [&anna] {
+        anna->database.connection().execute(u"UPDATE Item SET UnitPrice = 77; DELETE FROM IHist"_s);
+    });
     backUp(kitchen.database(), file, writing);
-    ASSERT_FALSE(writing.action);
+    ASSERT_GT(writing.steps, 0);
     TestStore other(Store::Local);
     restoreInto(other.database(), file, u"maria"_s, progress);
     takeNote(other);
@@ -135,7 +95,7 @@ TEST_P(BackupTest, LeavesNothingOfWhatFails)
 {
     const QDateTime now(QDate(2026, 3, 20), QTime(17, 5));
     kitchen.database().session().clock = [&now] { return now; };
-    Interrupted cancelled([] { throw SilentAbort(); });
+    CountedProgress cancelled(0, [] { throw SilentAbort(); });
     EXPECT_THROW(backUp(kitchen.database(), file, cancelled), SilentAbort);
     EXPECT_EQ(filesLeft(), QStringList());
     EXPECT_FALSE(lastBackup(kitchen.database()).made.isValid());
@@ -152,14 +112,11 @@ TEST_P(BackupTest, LeavesNothingOfWhatFails)
     EXPECT_FALSE(beside.exists(u".copy-killed"_s));
     EXPECT_TRUE(beside.exists(u".copy-living"_s));
     EXPECT_EQ(lastBackup(kitchen.database()).made, now);
-    EXPECT_TRUE(refusal([&] { backUp(kitchen.database(), file, progress); }).contains(u"exists already"_s));
+    EXPECT_TRUE(has(refusalOf([&] { backUp(kitchen.database(), file, progress); }), u"exists already"_s));
 
     const QTemporaryDir target;
     const auto restore = [&] {
-        return refusal([&] { restoreIntoFolder(file, target.path(), u"maria"_s, progress); });
-    };
-    const auto left = [&] {
-        return QDir(target.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        return refusalOf([&] { restoreIntoFolder(file, target.path(), u"maria"_s, progress); });
     };
     QFile backup(file);
     ASSERT_TRUE(backup.open(QIODevice::ReadWrite));
@@ -170,12 +127,12 @@ TEST_P(BackupTest, LeavesNothingOfWhatFails)
     backup.write("no database at all");
     backup.flush();
     EXPECT_TRUE(restore().contains(u"no backup"_s));
-    EXPECT_EQ(left(), QStringList());
+    EXPECT_EQ(entriesOf(target.path()), QStringList());
     backup.seek(0);
     backup.write(sound);
     backup.close();
     restoreIntoFolder(file, target.path(), u"maria"_s, progress);
-    EXPECT_TRUE(left().contains(u"Corvane.sqlite"_s));
+    EXPECT_TRUE(entriesOf(target.path()).contains(u"Corvane.sqlite"_s));
     EXPECT_TRUE(restore().contains(u"holds a database already"_s));
 }
 
@@ -192,7 +149,7 @@ TEST_P(BackupTest, ARestoreThatEndsEarlyTakesTheNewDatabaseOfTheServerBack)
         user.database.connection();
         restoreInto(user.database, file, u"maria"_s, told);
     };
-    Interrupted cancelled([] { throw SilentAbort(); });
+    CountedProgress cancelled(0, [] { throw SilentAbort(); });
     {
         TestUser anna(QStringList{u"remote"_s, name});
         EXPECT_THROW(restore(anna, cancelled), SilentAbort);
@@ -221,16 +178,14 @@ TEST_P(BackupTest, TellsOlderReleasesAndRefusesNewerOnes)
     const QString newer = file + u"2"_s;
     backUp(kitchen.database(), newer, progress);
     const QTemporaryDir another;
-    EXPECT_TRUE(refusal([&] {
-                    restoreIntoFolder(newer, another.path(), u"maria"_s, progress);
-                }).contains(u"Futurity"_s, Qt::CaseInsensitive));
+    EXPECT_TRUE(has(refusalOf([&] { restoreIntoFolder(newer, another.path(), u"maria"_s, progress); }).toLower(),
+                    u"futurity"_s));
 
     kitchen.execute(u"DELETE FROM IDataVersion; INSERT INTO IDataVersion VALUES (1, 99, '9.8')"_s);
     backUp(kitchen.database(), file + u"3"_s, progress);
-    EXPECT_TRUE(refusal([&] {
-                    restoreIntoFolder(file + u"3"_s, another.path(), u"maria"_s, progress);
-                }).contains(u"newer release, 9.8"_s));
-    EXPECT_TRUE(QDir(another.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    EXPECT_TRUE(has(refusalOf([&] { restoreIntoFolder(file + u"3"_s, another.path(), u"maria"_s, progress); }),
+                    u"newer release, 9.8"_s));
+    EXPECT_EQ(entriesOf(another.path()), QStringList());
 }
 
 } // namespace

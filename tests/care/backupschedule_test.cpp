@@ -1,38 +1,26 @@
 #include "care/backupschedule.h"
 
-#include "base/ruleerror.h"
 #include "base/settingsstore.h"
 #include "data/lastbackup.h"
-#include "engine/values/error.h"
+#include "tests/support/files.h"
 #include "tests/support/kitchen.h"
-
-#include <QDir>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class DailyBackupTest : public KitchenTest
+struct DailyBackupTest : KitchenTest
 {
-protected:
     DailyBackupTest()
     {
         kitchen.makeHost();
         kitchen.database().session().clock = [this] { return today.startOfDay(); };
     }
 
-    QStringList files()
-    {
-        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
+    QStringList files() const { return entriesOf(folder.path()); }
     static QString nameOf(const QString &file) { return QFileInfo(file).fileName(); }
-    void touch(const QString &name)
-    {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+    void touch(const QString &name) const { putContent(folder.filePath(name), {}); }
 
     QDate today{2026, 3, 30};
     const QTemporaryDir folder;
@@ -73,12 +61,7 @@ TEST_P(DailyBackupTest, OneThatFailsRemovesNothing)
     BackupSchedule schedule{.isOn = true, .folder = folder.path(), .kept = 1};
     backUpDaily(kitchen.database(), schedule, progress);
     today = today.addDays(1);
-    struct Stopped final : Progress
-    {
-        void start(int) override { }
-        void step() override { throw SilentAbort(); }
-        void finish() override { }
-    } stopped;
+    CountedProgress stopped(0, [] { throw SilentAbort(); });
     const QStringList before = files();
     EXPECT_THROW(backUpDaily(kitchen.database(), schedule, stopped), SilentAbort);
     EXPECT_EQ(files(), before);

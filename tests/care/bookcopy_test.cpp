@@ -1,11 +1,7 @@
 #include "care/bookcopy.h"
 
-#include "base/ruleerror.h"
 #include "care/tablecopy.h"
-#include "data/bookplace.h"
-#include "data/datamodule.h"
 #include "data/layouts.h"
-#include "engine/values/error.h"
 #include "tests/support/dataplace.h"
 #include "tests/support/documents.h"
 
@@ -14,25 +10,8 @@ using namespace Tallymere;
 
 namespace {
 
-struct StoppedAt final : Progress
+struct BookCopyTest : KitchenTest
 {
-    explicit StoppedAt(int last)
-        : left(last)
-    {
-    }
-    void start(int) override { }
-    void step() override
-    {
-        if (left-- == 0)
-            throw SilentAbort();
-    }
-    void finish() override { }
-    int left;
-};
-
-class BookCopyTest : public KitchenTest
-{
-protected:
     BookCopyTest()
     {
         kitchen.makeHost();
@@ -41,10 +20,7 @@ protected:
         kitchen.execute(u"UPDATE Vendor SET Notes = 'Ünïcode\\\ttab, ''quoted''\r\nand long' WHERE VendorID = 1; "
                         "UPDATE Vendor SET Notes = '\\N', VendorName = '' WHERE VendorID = 2"_s);
         std::mt19937 random(3);
-        for (int id = 1; id <= 6; ++id)
-            addRandomDocument(kitchen, *DocumentKinds::all().at(id % DocumentKinds::all().size()), id, 4, random);
-        for (const DocumentKind *kind : DocumentKinds::all())
-            DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
+        addPostedDocuments(kitchen, 6, random);
     }
 
     static QStringList contents(Engine::Database &database)
@@ -70,25 +46,9 @@ protected:
     QString refusalToOpen(const TestStore &store)
     {
         MemorySettings settings;
-        try {
-            const TDataModuleTallymere data(settings, prompts, placeOf(store));
-        } catch (const Engine::EngineError &error) {
-            return error.text();
-        }
-        return {};
-    }
-
-    template <typename Step> static QString refusal(Step step)
-    {
-        try {
-            step();
-        } catch (const RuleError &error) {
-            return error.message();
-        } catch (const Engine::EngineError &error) {
-            EXPECT_EQ(error.code(), Engine::ErrorCode::MovedAway);
-            return error.text();
-        }
-        return {};
+        QString text;
+        errorOf([&] { const TDataModuleTallymere data(settings, prompts, placeOf(store)); }, &text);
+        return text;
     }
 
     QStringList lines;
@@ -108,23 +68,23 @@ TEST_P(BookCopyTest, HoldsTheSameInEitherStoreAndNothingIsCopiedOverBooks)
         const qint64 last = other.found(u"SELECT MAX(IHistID) FROM IHist"_s).toLongLong();
         other.execute(u"INSERT INTO IHist (ItemID) VALUES (1)"_s);
         EXPECT_EQ(other.found(u"SELECT MAX(IHistID) FROM IHist"_s).toLongLong(), last + 1);
-        EXPECT_TRUE(refusal([&] { copy(other); }).contains(u"holds books already (Test Kitchen, 4 items, "_s));
+        EXPECT_TRUE(has(refusalOf([&] { copy(other); }), u"holds books already (Test Kitchen, 4 items, "_s));
     }
     EXPECT_EQ(contents(kitchen.database()), before);
 }
 
 TEST_P(BookCopyTest, GoesOnWhereItWasStoppedAndIsNoBooksBefore)
 {
-    StoppedAt end(1'000'000);
+    CountedProgress end;
     {
         TestStore whole(Store::Remote);
         copy(whole, Afterwards::GoOn, end);
     }
-    const int steps = 1'000'000 - end.left;
+    const int steps = end.steps;
     for (const Store store : {Store::Local, Store::Remote}) {
         TestStore other(store);
         for (int last : {1, steps / 4, steps / 2, steps - 1}) {
-            StoppedAt stopped(last);
+            CountedProgress stopped(last, [] { throw SilentAbort(); });
             EXPECT_THROW(copy(other, Afterwards::GoOn, stopped), SilentAbort);
             EXPECT_TRUE(refusalToOpen(other).contains(u"has not come to its end"_s));
             // What has been copied is copied once more where somebody has written to it since.
@@ -132,9 +92,10 @@ TEST_P(BookCopyTest, GoesOnWhereItWasStoppedAndIsNoBooksBefore)
         }
         Kitchen others(store);
         others.makeHost();
-        EXPECT_TRUE(refusal([&] {
-                        copyBooks(others.database(), other.database(), Afterwards::GoOn, progress, [](auto &) {});
-                    }).contains(u"Only the same can go on with it"_s));
+        const auto goOn = [&] {
+            copyBooks(others.database(), other.database(), Afterwards::GoOn, progress, [](auto &) {});
+        };
+        EXPECT_TRUE(has(refusalOf(goOn), u"Only the same can go on with it"_s));
         copy(other);
         EXPECT_EQ(contents(other.database()), contents(kitchen.database()));
         EXPECT_EQ(refusalToOpen(other), QString());
@@ -160,7 +121,8 @@ TEST_P(BookCopyTest, BooksThatMoveTakeWhatWasWrittenMeanwhileAndNothingAfterward
     const QString place = other.database().connection().location();
     for (const QString &write : {u"UPDATE Item SET UnitPrice = 1"_s, u"DELETE FROM IHist"_s,
                                  u"INSERT INTO Vendor (VendorID) VALUES (99)"_s}) // of one who had it open before
-        EXPECT_TRUE(refusal([&] { anna->database.connection().execute(write); }).contains(place));
+        EXPECT_TRUE(
+            fails([&] { anna->database.connection().execute(write); }, Engine::ErrorCode::MovedAway, place));
     EXPECT_EQ(refusalToOpen(kitchen), QString());
     EXPECT_TRUE(prompts.told().contains(u"These books have moved to %1"_s.arg(place)));
     EXPECT_EQ(contents(kitchen.database()), moved);
@@ -170,7 +132,7 @@ TEST_P(BookCopyTest, BooksThatMoveTakeWhatWasWrittenMeanwhileAndNothingAfterward
     anna->database.connection().execute(u"UPDATE Item SET UnitPrice = 1"_s);
     EXPECT_EQ(refusalToOpen(kitchen), QString());
     EXPECT_EQ(prompts.told(), QString());
-    EXPECT_FALSE(refusal([&] { takeUpAgain(kitchen.database(), u"maria"_s); }).isEmpty());
+    EXPECT_NE(refusalOf([&] { takeUpAgain(kitchen.database(), u"maria"_s); }), QString());
 }
 
 TEST_P(BookCopyTest, AMoveThatWasCutOffAtItsLastStepComesToItsEnd)
@@ -182,7 +144,7 @@ TEST_P(BookCopyTest, AMoveThatWasCutOffAtItsLastStepComesToItsEnd)
     copy(other, Afterwards::Moved);
     EXPECT_EQ(refusalToOpen(other), QString());
     TestStore third(Store::Local);
-    EXPECT_TRUE(refusal([&] { copy(third, Afterwards::Moved); }).contains(u"These books have moved"_s));
+    EXPECT_TRUE(has(refusalOf([&] { copy(third, Afterwards::Moved); }), u"These books have moved"_s));
 }
 
 TEST_P(BookCopyTest, DoesNotMoveWhileSomebodyHasADocumentOpen)

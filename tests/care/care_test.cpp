@@ -3,12 +3,8 @@
 #include "data/lastbackup.h"
 #include "data/layouts.h"
 #include "engine/store/dialect.h"
-#include "engine/values/error.h"
 #include "tests/support/damage.h"
 #include "tests/support/documents.h"
-
-#include <QFile>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -16,9 +12,8 @@ using namespace Tallymere;
 namespace {
 
 // Books of some posted and some unposted documents of every kind.
-class CareTest : public KitchenTest
+struct CareTest : KitchenTest
 {
-protected:
     CareTest()
     {
         kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s);
@@ -51,9 +46,9 @@ protected:
         kitchen.database().connection().execute(statements);
         const QStringList found = check();
         ASSERT_EQ(found.size(), 1) << found.join(u'\n').toStdString();
-        EXPECT_TRUE(found.first().startsWith(name + u':')) << found.first().toStdString();
+        EXPECT_TRUE(begins(found.first(), name + u':'));
         for (const QString &word : words)
-            EXPECT_TRUE(found.first().contains(word)) << found.first().toStdString();
+            EXPECT_TRUE(has(found.first(), word));
     }
 
     // "ReceiptID = 10001", of the first document.
@@ -258,8 +253,7 @@ TEST_P(CareTest, BuildsDamagedIndexesAnewAndLeavesDamagedRowsToABackup)
 
     flipByte(kitchen, u"IHist"_s, kindOfPage);
     const QString found = check().join(u'\n');
-    EXPECT_TRUE(found.contains(u"restore the last backup. The last one that is known was made on"_s))
-        << found.toStdString();
+    EXPECT_TRUE(has(found, u"restore the last backup. The last one that is known was made on"_s));
     EXPECT_EQ(repair().mended, 0);
     EXPECT_FALSE(QFile::exists(folder.filePath(u"before-%1.sqlite"_s.arg(repairs))));
 }

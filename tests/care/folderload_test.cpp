@@ -3,7 +3,6 @@
 #include "data/layouts.h"
 #include "engine/store/lockmanager.h"
 #include "tests/support/otheruser.h"
-#include "tests/support/teststore.h"
 
 #include <gtest/gtest.h>
 

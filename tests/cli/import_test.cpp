@@ -5,8 +5,6 @@
 #include "tests/support/files.h"
 #include "transactions/documentkinds.h"
 
-#include <QDir>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
@@ -111,19 +109,11 @@ const BadFile badFiles[] = {
       u"12: ReceiptDate '2026-02-30' is not a date (YYYY-MM-DD)"_s, u"12: GLPeriod '13' is not within 1 to 12"_s,
       u"15: Receipt no. already exists"_s}},
     {u"receipts"_s,
-     receiptHeader
-         + "R1,,,,V1,Office,A1,1e20,0\nR2,,,,V1,Office,A1,1000000,0\nR3,,,,V1,Office,A1,10,100000\n"
-           "R4,,,,V1,Office,A1,1e12,1000\nR5,,,,V1,Office,A1,-1000000000001,1\n",
+     receiptHeader + "R1,,,,V1,Office,A1,1e20,0\nR2,,,,V1,Office,A1,10,100000\n",
      {u"2: ItemNo 'A1': A quantity of 100,000,000,000,000,000,000 cannot be meant. It may be 1,000,000,000,000 at "
       "most, or -1,000,000,000,000 at least."_s,
-      u"3: ItemNo 'A1': The quantity is 1,000,000. A number may have been scanned into the wrong column. Do you "
-      "want to keep this quantity?"_s,
-      u"4: ItemNo 'A1': 10 at a cost of 100,000.00 each come to 1,000,000.00. A number may have been scanned into "
-      "the wrong column. Do you want to keep these figures?"_s,
-      u"5: ItemNo 'A1': 1,000,000,000,000 at a cost of 1,000.00 each is more than an amount of money can be... "
-      "Make changes or press Esc to undo"_s,
-      u"6: ItemNo 'A1': A quantity of -1,000,000,000,001 cannot be meant. It may be 1,000,000,000,000 at most, or "
-      "-1,000,000,000,000 at least."_s}},
+      u"3: ItemNo 'A1': 10 at a cost of 100,000.00 each come to 1,000,000.00. A number may have been scanned into "
+      "the wrong column. Do you want to keep these figures?"_s}},
     {u"adjustments"_s,
      "AdjDescription,WarehouseName,ItemNo,Quantity\nBroken,Office,A1,1\nBroken,Office,A1,\n",
      {u"3: ItemNo 'A1': Field 'Quantity' must have a value... Make changes or press Esc to undo"_s}},

@@ -1,7 +1,6 @@
 #include "tests/cli/clirunner.h"
+#include "tests/support/files.h"
 
-#include <QDir>
-#include <QFile>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -27,10 +26,7 @@ struct Output : testing::Test
         process.start(u"/bin/sh"_s, {u"-c"_s, script});
         return CliRunner::finish(process);
     }
-    QStringList written() const
-    {
-        return QDir(work.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    }
+    QStringList written() const { return entriesOf(work.path()); }
 
     CliRunner cli{Store::Local};
     QTemporaryDir work;

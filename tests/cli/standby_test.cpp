@@ -4,7 +4,6 @@
 #include "tests/cli/clirunner.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/files.h"
-#include "tests/support/texts.h"
 
 using namespace Qt::StringLiterals;
 using namespace Engine;

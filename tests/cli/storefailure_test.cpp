@@ -1,8 +1,6 @@
 #include "tests/cli/clirunner.h"
 #include "tests/support/files.h"
 
-#include <QDir>
-
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -1,10 +1,7 @@
 #include "data/readaside.h"
-#include "engine/store/database.h"
 #include "tests/support/bothstores.h"
 
 #include <future>
-#include <memory>
-#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <thread>
 

@@ -5,9 +5,7 @@
 #include "tests/support/files.h"
 
 #include <cstdio>
-#include <functional>
 #include <QCryptographicHash>
-#include <QDir>
 #include <sqlite3.h>
 #include <sys/mman.h>
 #include <unistd.h>

@@ -4,9 +4,7 @@
 
 #include "base/settingsstore.h"
 #include "care/bookcopy.h"
-#include "data/bookplace.h"
 #include "data/layouts.h"
-#include "engine/values/error.h"
 #include "host/sample/samplefiles.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/chance.h"
@@ -24,27 +22,6 @@ using namespace Tallymere;
 
 namespace {
 
-// Does something at a step, which comes again at the same place of the work.
-struct AtStep final : Progress
-{
-    AtStep(int wanted, std::function<void()> action)
-        : left(wanted)
-        , then(std::move(action))
-    {
-    }
-    void start(int) override { }
-    void step() override
-    {
-        if (left-- == 0)
-            then();
-    }
-    void finish() override { }
-    int left;
-    std::function<void()> then;
-};
-
-constexpr int never = 1'000'000'000;
-
 void ignoreLine(const QString &) { }
 
 Afterwards afterwardsOf(const QString &word) { return word == "move"_L1 ? Afterwards::Moved : Afterwards::GoOn; }
@@ -54,7 +31,7 @@ Afterwards afterwardsOf(const QString &word) { return word == "move"_L1 ? Afterw
 void copyAndDie(Engine::Database &books, const QStringList &arguments)
 {
     TestUser target(arguments.mid(0, 2));
-    AtStep progress(arguments.value(3).toInt(), [] { std::raise(SIGKILL); });
+    CountedProgress progress(arguments.value(3).toInt(), [] { std::raise(SIGKILL); });
     copyBooks(books, target.database, afterwardsOf(arguments.value(2)), progress,
               [&progress](const QString &) { progress.step(); });
     std::printf("done\n");
@@ -77,9 +54,8 @@ QStringList contents(Engine::Database &database)
     return all;
 }
 
-class CopyTest : public testing::Test
+struct CopyTest : testing::Test
 {
-protected:
     CopyTest() { qputenv("TALLYMERE_TEST_SEED", QByteArray::number(seed)); }
 
     int below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
@@ -95,8 +71,7 @@ protected:
         for (int id = 1; id <= 30; ++id)
             addRandomDocument(kitchen, *DocumentKinds::all().at(id % DocumentKinds::all().size()), id,
                               1 + below(40), random);
-        for (const DocumentKind *kind : DocumentKinds::all())
-            DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
+        postAll(kitchen);
         for (const QString &table : tablesOfBooks(kitchen.database()))
             addRandomRows(kitchen.database(), kitchen.database().connection().describe(table).value());
     }
@@ -170,10 +145,10 @@ protected:
     static int stepsOf(TestStore &from)
     {
         TestStore to(Store::Remote);
-        AtStep progress(never, [] {});
+        CountedProgress progress;
         copyBooks(from.database(), to.database(), Afterwards::GoOn, progress,
                   [&progress](const QString &) { progress.step(); });
-        return never - progress.left;
+        return progress.steps;
     }
 
     static bool opens(const TestStore &store)
@@ -210,7 +185,7 @@ protected:
                 from.execute(u"UPDATE Item SET UnitPrice = %1 WHERE ItemID = 1; DELETE FROM IBarcode"_s, kill);
             ++(isDone ? survived : killed);
         }
-        AtStep progress(never, [] {});
+        CountedProgress progress;
         if (!isDone)
             copyBooks(from.database(), to.database(), afterwardsOf(what), progress, ignoreLine);
         EXPECT_EQ(contents(to.database()), contents(from.database()));

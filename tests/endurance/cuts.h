@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <QStringList>
-#include <vector>
 
 // A day's work in one folder, recorded, and what is there whenever the power goes in it.
 struct Stage

@@ -9,7 +9,6 @@
 #include "transactions/documentkinds.h"
 #include "transactions/documentlist.h"
 
-#include <QDir>
 #include <QProcess>
 #include <unistd.h>
 

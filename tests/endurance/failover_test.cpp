@@ -5,16 +5,13 @@
 #include "tests/cli/clirunner.h"
 #include "tests/endurance/people.h"
 #include "tests/support/chance.h"
-#include "tests/support/failures.h"
 #include "tests/support/files.h"
 #include "tests/support/screentest.h"
-#include "tests/support/spokenprompts.h"
 #include "transactions/documententry.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 #include "transactions/screens/invreceipt.h"
 
-#include <QDateTime>
 #include <QThread>
 
 using namespace Qt::StringLiterals;
@@ -203,9 +200,8 @@ QString shell(const QString &command)
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
-class FailoverTest : public testing::Test
+struct FailoverTest : testing::Test
 {
-protected:
     struct Person
     {
         QString task;
@@ -269,12 +265,16 @@ protected:
         }
         return true;
     }
-    bool begin()
+    void startClock()
     {
         faultAt = now();
         messages = 0;
         for (Person &person : people)
             person.usable = -1;
+    }
+    bool begin()
+    {
+        startClock();
         return listen();
     }
     void verify()
@@ -341,10 +341,7 @@ TEST_F(FailoverTest, WhatWasAnsweredIsThereOnceAndEverybodyGoesOn)
         };
         QThread::msleep(700);
         const bool isSwitch = fault.doing == std::string("switch");
-        faultAt = now();
-        messages = 0;
-        for (Person &person : people)
-            person.usable = -1;
+        startClock();
         shell(isSwitch ? u"patronictl -c %1/n1.yml switchover --master %2 --force >/dev/null"_s.arg(cluster(), node)
                        : filled(fault.doing));
         EXPECT_TRUE(listen());

@@ -8,9 +8,6 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
-#include <gtest/gtest.h>
-#include <optional>
-#include <QDir>
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QSet>

@@ -7,17 +7,12 @@
 #include "tests/endurance/people.h"
 #include "tests/support/chance.h"
 #include "tests/support/files.h"
-#include "tests/support/otheruser.h"
-#include "tests/support/spokenprompts.h"
 #include "transactions/begundocument.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 
 #include <csignal>
-#include <QDir>
-#include <QElapsedTimer>
 #include <QThread>
-#include <random>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -167,9 +162,8 @@ void sit(Engine::Database &books, const QStringList &arguments)
         sitter.step();
 }
 
-class KillsTest : public testing::TestWithParam<Store>
+struct KillsTest : testing::TestWithParam<Store>
 {
-protected:
     KillsTest()
     {
         makeSmallCompany(cli);

@@ -3,7 +3,6 @@
 #include "base/csvlist.h"
 #include "care/backup.h"
 #include "care/bookcheck.h"
-#include "data/transtypes.h"
 #include "master/itemsync.h"
 #include "master/locationsync.h"
 #include "tests/support/chance.h"

@@ -1,12 +1,10 @@
 // A day of commands, and the power goes at any moment of it.
 
-#include "tests/endurance/cuts.h"
 #include "tests/endurance/day.h"
 #include "tests/support/chance.h"
 #include "tests/support/otheruser.h"
 
 #include <cstdio>
-#include <gtest/gtest.h>
 #include <QElapsedTimer>
 
 using namespace Qt::StringLiterals;

@@ -29,7 +29,7 @@ void judge(std::vector<Stage> stages, const char *stock)
 {
     const unsigned seed = chanceSeed();
     Cuts cuts(std::move(stages));
-    ASSERT_TRUE(cuts.stock().contains(QString::fromLatin1(stock))) << cuts.stock().toStdString();
+    ASSERT_TRUE(has(cuts.stock(), QString::fromLatin1(stock)));
     cuts.judge(timesByHand(40), seed);
     std::printf("%d states, %d distinct of their books, %d runs resumed\n", cuts.states, cuts.distinct,
                 cuts.resumed);

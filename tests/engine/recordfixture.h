@@ -4,7 +4,6 @@
 #include "engine/records/table.h"
 #include "engine/store/dialect.h"
 #include "tests/support/bothstores.h"
-#include "tests/support/failures.h"
 
 // A small store of vendors and documents with lines, fresh for each test, in both stores.
 struct RecordTest : testing::TestWithParam<Store>

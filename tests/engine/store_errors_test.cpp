@@ -6,7 +6,6 @@
 #include "tests/support/files.h"
 #include "tests/support/relay.h"
 
-#include <QDir>
 #include <QScopeGuard>
 #include <sys/stat.h>
 #include <unistd.h>

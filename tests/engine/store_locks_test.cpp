@@ -5,7 +5,6 @@
 
 #include <atomic>
 #include <fcntl.h>
-#include <QCoreApplication>
 #include <QFile>
 #include <QSysInfo>
 #include <thread>
@@ -180,7 +179,7 @@ TEST_P(LocksTest, AStrangerWhoLocksTheFileIsNamed)
     ASSERT_EQ(fcntl(file.handle(), F_OFD_SETLK, &whole), 0);
     EXPECT_FALSE(mine.tryLockTable(u"Item"_s));
     const QString name = u" (process %1) on "_s.arg(QCoreApplication::applicationPid());
-    EXPECT_TRUE(mine.holderOf(u"Item"_s).contains(name)) << mine.holderOf(u"Item"_s).toStdString();
+    EXPECT_TRUE(has(mine.holderOf(u"Item"_s), name));
     EXPECT_TRUE(mine.holderOf(u"Item"_s, {5}).contains(name));
     file.close();
     EXPECT_TRUE(mine.tryLockTable(u"Item"_s));

@@ -1,7 +1,6 @@
 #include "engine/store/lockmanager.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/files.h"
-#include "tests/support/texts.h"
 
 #include <QProcess>
 #include <sys/stat.h>

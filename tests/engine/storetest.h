@@ -2,7 +2,6 @@
 
 #include "engine/store/dialect.h"
 #include "tests/support/bothstores.h"
-#include "tests/support/failures.h"
 
 // A table with a field of each type.
 inline Engine::TableLayout everyType()

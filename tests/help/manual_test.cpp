@@ -2,7 +2,6 @@
 #include "help/topictext.h"
 #include "tests/support/files.h"
 
-#include <QDir>
 #include <QRegularExpression>
 #include <QSet>
 #include <QXmlStreamReader>

@@ -1,5 +1,4 @@
 #include "base/dataversion.h"
-#include "base/settings.h"
 #include "data/datamodule.h"
 #include "data/lastchoices.h"
 #include "host/company.h"
@@ -23,9 +22,8 @@ namespace {
 
 const QString moduleUnderTest = QStringLiteral(MODULE_FILE);
 
-class ModuleTest : public testing::Test
+struct ModuleTest : testing::Test
 {
-protected:
     // Before the first settings object is made, which keeps the path.
     static void SetUpTestSuite()
     {

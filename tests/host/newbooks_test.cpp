@@ -2,20 +2,16 @@
 #include "host/books/newbooks.h"
 #include "host/company.h"
 #include "tests/support/bothstores.h"
+#include "tests/support/files.h"
 #include "tests/support/spokenprompts.h"
-#include "tests/support/teststore.h"
-#include "tests/support/texts.h"
-
-#include <QDir>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class NewBooksTest : public testing::TestWithParam<Store>
+struct NewBooksTest : testing::TestWithParam<Store>
 {
-protected:
     NewBooksTest()
     {
         if (GetParam() == Store::Local) {
@@ -31,10 +27,7 @@ protected:
             dropTestDatabase(u"corvane"_s);
     }
     void make(const QString &name) const { makeBooks({place, name, u"UK"_s, u"anna"_s}); }
-    QStringList files() const
-    {
-        return QDir(place.folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
+    QStringList files() const { return entriesOf(place.folder); }
     QString currency() const
     {
         MemorySettings settings;
@@ -50,22 +43,6 @@ protected:
 
 private:
     QTemporaryDir m_folder;
-};
-
-class EndsEarly final : public Progress
-{
-public:
-    void start(int) override { }
-    void step() override
-    {
-        constexpr int some = 40;
-        if (++m_steps > some)
-            throw SilentAbort();
-    }
-    void finish() override { }
-
-private:
-    int m_steps = 0;
 };
 
 } // namespace
@@ -85,13 +62,9 @@ TEST_P(NewBooksTest, AreMadeWhereNoneAreAndLeaveOthersAsTheyStand)
     EXPECT_EQ(currency(), u"Pounds"_s);
 
     const QStringList before = files();
-    try {
-        make(u"Red Spoon"_s);
-        ADD_FAILURE() << "there were books";
-    } catch (const RuleError &error) {
-        EXPECT_TRUE(has(error.message(), u"books already"_s));
-        EXPECT_EQ(error.column(), place.isOnServer() ? u"Server"_s : u"Folder"_s);
-    }
+    const QString refusal = refusalOf([this] { make(u"Red Spoon"_s); });
+    EXPECT_TRUE(has(refusal, u"books already"_s));
+    EXPECT_TRUE(ends(refusal, place.isOnServer() ? u" -> Server"_s : u" -> Folder"_s));
     EXPECT_EQ(readCompany(place).name, u"Green Spoon"_s);
     EXPECT_EQ(files(), before);
 }
@@ -100,7 +73,7 @@ TEST(SampleBooks, AreWholeOrNotThere)
 {
     const QTemporaryDir documents;
     const QString folder = documents.filePath(u"Sample"_s);
-    EndsEarly early;
+    CountedProgress early(40, [] { throw SilentAbort(); });
     EXPECT_THROW(makeSampleBooks(folder, u"anna"_s, early), SilentAbort);
     EXPECT_FALSE(QDir(folder).exists());
 

@@ -6,21 +6,12 @@
 #include "tests/support/files.h"
 #include "tests/support/kitchen.h"
 
-#include <QTemporaryDir>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class NoProgress final : public Progress
-{
-    void start(int) override { }
-    void step() override { }
-    void finish() override { }
-};
-
-struct Imports : testing::TestWithParam<Store>
+struct Imports : KitchenTest
 {
     Imported import(const QString &kind, QByteArray csv)
     {
@@ -36,9 +27,6 @@ struct Imports : testing::TestWithParam<Store>
         return refusalOf([&] { imported.takeBack(kitchen.database(), progress); });
     }
     int count(const QString &table) { return kitchen.value(u"SELECT count(*) FROM "_s + table).toInt(); }
-
-    Kitchen kitchen{GetParam()};
-    NoProgress progress;
 };
 
 ON_BOTH_STORES(Imports);
@@ -116,7 +104,7 @@ TEST_P(Imports, AreNotTakenBackOnceSomethingWasDoneWithThem)
     EXPECT_EQ(count(u"Item WHERE ItemNo IN ('N1', 'N2')"_s), 2);
 
     const Imported receipts = import(u"receipts"_s, QByteArray(twoReceipts).replace("A11", "N1"));
-    EXPECT_TRUE(refusal(items).startsWith(u"'N1: New' is used by now: "_s)) << qPrintable(refusal(items));
+    EXPECT_TRUE(begins(refusal(items), u"'N1: New' is used by now: "_s));
     EXPECT_EQ(count(u"Item WHERE ItemNo IN ('N1', 'N2')"_s), 2);
     kitchen.execute(u"UPDATE IRecDet SET QtyReceived = 5 WHERE QtyReceived = 3"_s);
     EXPECT_TRUE(refusal(receipts).contains(u"has been changed, used or posted"_s));
@@ -158,7 +146,7 @@ TEST(ImportPlans, KnowColumnsByTheirFieldsTheirTitlesAndWhatTheyStoodForBefore)
     EXPECT_EQ(plan.field(0), u""_s);
     ImportErrors errors;
     errors.add(4, u"wrong"_s);
-    NoProgress progress;
+    CountedProgress progress;
     const std::vector<ImportPlan::Row> rows = plan.preview(errors, progress);
     ASSERT_EQ(rows.size(), 1u);
     EXPECT_EQ(rows[0].texts, (QStringList{u"Apple"_s, u"Food"_s, u"B"_s}));

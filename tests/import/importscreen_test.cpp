@@ -5,9 +5,6 @@
 #include "tests/support/files.h"
 #include "tests/support/screentest.h"
 
-#include <QComboBox>
-#include <QSpinBox>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
@@ -73,14 +70,11 @@ TEST_F(ImportScreen, BringsInTheFileThatIsNamedAndTakesItBack)
 {
     const QString file = folder.filePath(u"a.csv"_s);
     putContent(file, "ItemNo,ItemDescription,TypeName\nN1,New,Food\n");
-    QTimer watch; // the window comes once the file has been read
-    watch.callOnTimeout([] {
-        if (auto *import = qobject_cast<TfrmImport *>(QApplication::activeModalWidget()))
-            click(*import, "btnOK");
-    });
-    watch.start(1);
     ImportDesk desk(*context);
-    EXPECT_TRUE(desk.import(u"items"_s, file, mainWindow.get()));
+    bool isIn = false;
+    EXPECT_TRUE(whileOpen<TfrmImport>([&] { isIn = desk.import(u"items"_s, file, mainWindow.get()); },
+                                      [](TfrmImport &import) { click(import, "btnOK"); }));
+    EXPECT_TRUE(isIn);
     EXPECT_TRUE(desk.takeBack(u"items"_s, mainWindow.get()));
     EXPECT_FALSE(desk.takeBack(u"items"_s, mainWindow.get())) << "nothing is left of it";
     EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM Item WHERE ItemNo = 'N1'"_s), 0);

@@ -239,16 +239,10 @@ TEST_F(PrintTest, APrinterThatRefusesIsTold)
 
 TEST_F(PrintTest, NothingArrivesOfWhatIsGivenUp)
 {
-    class GivenUp final : public Tallymere::Progress
-    {
-        int m_steps = 0;
-        void start(int) override { }
-        void step() override { ++m_steps == 2 ? throw Tallymere::SilentAbort() : void(); }
-        void finish() override { }
-    };
+    const auto giveUp = [] { throw Tallymere::SilentAbort(); };
     const auto run = makeRun(false, QPageSize::Letter);
     QPrinter printer(QPrinter::HighResolution);
-    GivenUp progress;
+    CountedProgress progress(1, giveUp);
     EXPECT_EQ(refusalOf([&] { printReport(*run, printer, progress); }), u"silent -> "_s);
     EXPECT_FALSE(QFile::exists(system.printed()));
 
@@ -257,7 +251,7 @@ TEST_F(PrintTest, NothingArrivesOfWhatIsGivenUp)
     putContent(file, "old");
     QPrinter toFile(QPrinter::HighResolution);
     toFile.setOutputFileName(file);
-    GivenUp again;
+    CountedProgress again(1, giveUp);
     EXPECT_EQ(refusalOf([&] { printReport(*run, toFile, again); }), u"silent -> "_s);
     EXPECT_EQ(contentOf(file), "old");
 }

@@ -44,6 +44,18 @@ inline void addDocument(Kitchen &kitchen, const Tallymere::DocumentKind &kind, i
     kitchen.execute(sql);
 }
 
+// Ready for a document, or with one in hand.
+inline std::unique_ptr<Tallymere::DocumentEntry> openEntry(Engine::Database &database,
+                                                           const Tallymere::DocumentKind &kind,
+                                                           Tallymere::Prompts &prompts,
+                                                           std::optional<int> key = std::nullopt)
+{
+    std::unique_ptr<Tallymere::DocumentEntry> entry = kind.entry.make(database, prompts);
+    entry->open();
+    EXPECT_TRUE(!key || entry->openDocument(*key));
+    return entry;
+}
+
 // A new document of the office with four apples, by the rules of its entry, not saved yet: texts that they want besides
 // are as long as they may be, and everything else is 1.
 inline void beginDocument(Tallymere::DocumentEntry &entry)
@@ -67,6 +79,14 @@ inline void beginDocument(Tallymere::DocumentEntry &entry)
     entry.lines().post();
 }
 
+inline void postAll(Kitchen &kitchen)
+{
+    SpokenPrompts prompts;
+    CountedProgress progress;
+    for (const Tallymere::DocumentKind *kind : Tallymere::DocumentKinds::all())
+        Tallymere::DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
+}
+
 // Of stocked items. Quantities are quarters, so that sums are exact.
 inline void addRandomDocument(Kitchen &kitchen, const Tallymere::DocumentKind &kind, int id, int lineCount,
                               std::mt19937 &random)
@@ -76,4 +96,13 @@ inline void addRandomDocument(Kitchen &kitchen, const Tallymere::DocumentKind &k
     for (int i = 0; i < lineCount; ++i)
         lines.append({upTo(3), QString::number(0.25 * (upTo(80) - 20)), QString::number(0.01 * upTo(500))});
     addDocument(kitchen, kind, id, upTo(2), lines, upTo(2));
+}
+
+// So many of all kinds in turn, with four lines each.
+inline void addPostedDocuments(Kitchen &kitchen, int count, std::mt19937 &random)
+{
+    const QList<const Tallymere::DocumentKind *> &kinds = Tallymere::DocumentKinds::all();
+    for (int id = 1; id <= count; ++id)
+        addRandomDocument(kitchen, *kinds.at(id % kinds.size()), id, 4, random);
+    postAll(kitchen);
 }

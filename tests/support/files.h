@@ -5,8 +5,10 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QStringList>
+#include <QTemporaryDir>
 
 // What stands in a file; nothing when it cannot be read.
 inline QByteArray contentOf(const QString &path)
@@ -19,6 +21,12 @@ inline void putContent(const QString &path, const QByteArray &content)
 {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size()) << qPrintable(path);
+}
+
+// The names of whatever lies in a folder.
+inline QStringList entriesOf(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
 // What is written to a device.

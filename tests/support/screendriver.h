@@ -6,7 +6,6 @@
 #include <cstring>
 #include <functional>
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -152,16 +151,19 @@ template <typename Dialog>
 bool whileOpen(const std::function<void()> &action, const std::function<void(Dialog &)> &step)
 {
     bool came = false;
-    QTimer::singleShot(0, qApp, [&] {
+    QTimer watch;
+    watch.callOnTimeout([&] {
         auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
         if (!dialog)
             return;
+        watch.stop();
         came = true;
         EXPECT_TRUE(comesTrue([dialog] { return QApplication::activeWindow() == dialog; }));
         step(*dialog);
         if (dialog->isVisible())
             dialog->close();
     });
+    watch.start(0);
     action();
     return came;
 }

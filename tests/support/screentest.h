@@ -28,7 +28,10 @@ struct ScreenTest : testing::Test
     // The screen of a record or a document, or of a new one (0).
     template <typename Screen> Screen *openRecord(int key = 0)
     {
-        auto *screen = new Screen(*context, mainWindow.get());
+        return openRecord(new Screen(*context, mainWindow.get()), key);
+    }
+    template <typename Screen> static Screen *openRecord(Screen *screen, int key)
+    {
         if (key == 0)
             screen->newRecord();
         else

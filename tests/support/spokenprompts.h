@@ -60,6 +60,14 @@ private:
 class CountedProgress final : public Tallymere::Progress
 {
 public:
+    CountedProgress() = default;
+    // Something happens at a step, counted from 0.
+    CountedProgress(int when, std::function<void()> then)
+        : m_when(when)
+        , m_then(std::move(then))
+    {
+    }
+
     int steps = 0;
     bool finished = false;
     std::function<void()> onStart;
@@ -69,6 +77,14 @@ public:
         if (onStart)
             onStart();
     }
-    void step() override { ++steps; }
+    void step() override
+    {
+        if (steps++ == m_when)
+            m_then();
+    }
     void finish() override { finished = true; }
+
+private:
+    int m_when = -1;
+    std::function<void()> m_then;
 };

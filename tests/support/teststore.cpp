@@ -134,6 +134,13 @@ QStringList TestStore::tables()
                     : u"SELECT tablename FROM pg_tables WHERE schemaname = current_schema()"_s);
 }
 
+void TestStore::admit(bool allowed)
+{
+    TestUser outside(QStringList{u"remote"_s, u"postgres"_s});
+    outside.database.connection().execute(
+        u"ALTER DATABASE %1 ALLOW_CONNECTIONS %2"_s.arg(m_remoteName, allowed ? u"true"_s : u"false"_s));
+}
+
 QStringList rowsOf(Engine::Database &database, const QString &sql)
 {
     const Engine::StatementPtr statement = database.connection().prepare(sql);

@@ -72,6 +72,7 @@ public:
         return rows(sql, values...).join(u' ');
     }
     QStringList tables(); // their names
+    void admit(bool allowed); // new connections to a remote store
 
 private:
     Store m_store;
