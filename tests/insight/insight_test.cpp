@@ -7,11 +7,9 @@
 #include "reports/reportlist.h"
 #include "tests/support/chance.h"
 #include "tests/support/documents.h"
-#include "transactions/documentposting.h"
 #include "transactions/totalsvalue.h"
 
 #include <cmath>
-#include <map>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -32,9 +30,8 @@ struct Moved
 };
 
 // Books of three months, made document by document, and what they must say counted here.
-class InsightTest : public KitchenTest
+struct InsightTest : KitchenTest
 {
-protected:
     InsightTest()
     {
         kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s);
@@ -346,8 +343,7 @@ TEST_P(InsightTest, WhatIsToBeBoughtBecomesAReceipt)
     EXPECT_EQ(list.row(first).quantity(), 2.5) << "stays with its item";
 
     const PlannedReceipt receipt = list.receiptOf(first);
-    const auto entry = DocumentKinds::receipt().entry.make(kitchen.database(), prompts);
-    entry->open();
+    const auto entry = openEntry(kitchen.database(), DocumentKinds::receipt(), prompts);
     beginPlannedReceipt(*entry, receipt);
     entry->save();
     const int key = entry->key();

@@ -63,9 +63,8 @@ private:
     int m_line = -1;
 };
 
-class DialerTest : public ScreenTest
+struct DialerTest : ScreenTest
 {
-protected:
     void writeFile(const QString &text) { putContent(path(), text.toUtf8()); }
     QString path() const { return m_folder.filePath(u"HX1.ini"_s); }
 

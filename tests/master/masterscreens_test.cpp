@@ -154,18 +154,10 @@ TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
     }
 }
 
-TEST_F(MasterScreens, ChooseACostingMethodForStockedTypesAndKeepThoseOfTheSystem)
+TEST_F(MasterScreens, KeepTheTypesOfTheSystem)
 {
     openList(MasterKinds::itemType());
     ASSERT_TRUE(list->moveToKey(6));
-    openAgain(MasterKinds::itemType());
-    auto *inventory = child<QAbstractButton>(*record, "chkInventory");
-    const auto *method = child<QWidget>(*record, "radioCostingMethod");
-    for (const bool stocked : {false, true, false}) {
-        EXPECT_EQ(inventory->isChecked(), stocked);
-        EXPECT_EQ(method->isEnabled(), stocked);
-        inventory->click();
-    }
     click(*list, "btnDelete");
     EXPECT_EQ(prompts.told(), u"warn: System-defined Item Types can't be deleted!");
     EXPECT_TRUE(list->moveToKey(6));

@@ -111,7 +111,4 @@ TEST_F(VendorScreensTest, buttonsReachWhatHasJustBeenTypedBesideThem)
     typeOver(*card, "editWebPage", "http://new.example/x");
     click(*card, "btnWebPage");
     EXPECT_EQ(opened, QStringList(u"http://new.example/x"_s));
-    context->openObject = {};
-    TfrmVContact without(*context, mainWindow.get());
-    EXPECT_FALSE(child<QToolButton>(without, "btnEmail")->isEnabled()) << "no desktop";
 }

@@ -1,10 +1,9 @@
 #include "printing/pagepainter.h"
-#include "printing/reportcsv.h"
 #include "reports/blankform.h"
 #include "reports/makereport.h"
 #include "reports/screens/blankinventoryreportselection.h"
 #include "reports/screens/preview.h"
-#include "tests/support/files.h"
+#include "tests/reports/reportcsvof.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
@@ -35,10 +34,7 @@ struct BlankFormTest : ScreenTest
 
     QStringList csv(const BlankFormChoices &choices)
     {
-        const Printing::Report form = makeReport(*data, blankForm(choices), {.warehouseId = 1});
-        CountedProgress progress;
-        const QByteArray csv =
-            writtenBy([&](QIODevice &file) { Printing::writeReportCsv(form.layout, *form.rows, file, progress); });
+        const QByteArray csv = csvOf(makeReport(*data, blankForm(choices), {.warehouseId = 1}));
         return QString::fromUtf8(csv).split(u"\r\n"_s, Qt::SkipEmptyParts);
     }
 
@@ -169,5 +165,4 @@ TEST_F(BlankFormTest, IsPreviewedAsChosenLast)
     EXPECT_EQ(child<LookupComboBox>(*dialog, "cboWarehouse")->currentText(), u"Office"_s);
     for (const char *button : {"optItemNo", "chkBarcodes", "chkPriorQuantities"})
         EXPECT_EQ(child<QAbstractButton>(*dialog, button)->isChecked(), button[3] != 'P') << button;
-    EXPECT_FALSE(child<QCheckBox>(*dialog, "chkPagePerCategory")->isEnabled());
 }

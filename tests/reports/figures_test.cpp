@@ -1,12 +1,10 @@
 #include "data/layouts.h"
 #include "data/transtypes.h"
-#include "printing/reportcsv.h"
 #include "printing/reportrun.h"
 #include "reports/reportlist.h"
+#include "tests/reports/reportcsvof.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/chance.h"
-#include "tests/support/files.h"
-#include "tests/support/spokenprompts.h"
 
 #include <map>
 #include <QRegularExpression>
@@ -333,10 +331,7 @@ private:
 QStringList linesOf(Books &books, const Shape &shape, const ReportDescription &report,
                     const ReportSelection &selection)
 {
-    CountedProgress progress;
-    QList<QStringList> rows = csvRows(writtenBy([&](QIODevice &file) {
-        Printing::writeReportCsv(report.layout, *report.rows(books.database(), report, selection), file, progress);
-    }));
+    QList<QStringList> rows = csvRows(csvOf({report.layout, report.rows(books.database(), report, selection)}));
     const QStringList header = rows.takeFirst();
     QStringList lines;
     for (const QStringList &row : rows) {

@@ -81,11 +81,9 @@ TEST_F(InvReportsTest, PreviewsWhatIsChosenAndOffersItAgain)
     EXPECT_TRUE(part<QWidget>("PanelReports")->isVisible());
     EXPECT_EQ(previewed(), QStringList());
     type("<Return>off<Tab>foo");
-    EXPECT_EQ(part<QPushButton>("btnNext")->text(), u"&Preview"_s);
     type("<Return>");
     EXPECT_EQ(previewed(), (QStringList{u"detail,A10,Apples,3,2,6"_s, u"report total,,,,,6"_s}));
     EXPECT_TRUE(part<QWidget>("PanelReports")->isVisible());
-    EXPECT_EQ(part<QPushButton>("btnNext")->text(), u"&Next >"_s);
 
     ask(1); // takes no location, though one is chosen
     type("<Delete><Return>");

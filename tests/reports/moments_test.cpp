@@ -1,11 +1,9 @@
 #include "base/csvlist.h"
-#include "engine/store/session.h"
-#include "printing/reportcsv.h"
 #include "reports/makereport.h"
 #include "reports/reportlist.h"
+#include "tests/reports/reportcsvof.h"
 #include "tests/support/dataplace.h"
 #include "tests/support/documents.h"
-#include "tests/support/files.h"
 #include "transactions/historyview.h"
 
 using namespace Qt::StringLiterals;
@@ -96,15 +94,11 @@ TEST_P(Moments, AReportIsOfTheMomentItWasAskedFor)
                                         .period = 3,
                                         .year = 2026,
                                         .alsoInStock = true};
-        const auto csv = [this](const Printing::Report &made) {
-            return writtenBy(
-                [&](QIODevice &file) { Printing::writeReportCsv(made.layout, *made.rows, file, progress); });
-        };
-        const QByteArray before = csv(makeReport(*data, report, selection));
+        const QByteArray before = csvOf(makeReport(*data, report, selection));
         const Printing::Report made = makeReport(*data, report, selection);
         writeMuch();
-        EXPECT_TRUE(csv(made) == before) << report.name.toStdString();
-        EXPECT_FALSE(csv(makeReport(*data, report, selection)) == before) << report.name.toStdString();
+        EXPECT_TRUE(csvOf(made) == before) << report.name.toStdString();
+        EXPECT_FALSE(csvOf(makeReport(*data, report, selection)) == before) << report.name.toStdString();
         kitchen->execute(u"UPDATE Item SET WgtAvgCost = 2; UPDATE ItemType SET TypeName = 'Old'; "
                          "UPDATE Vendor SET Phone = '444'"_s);
         mark(u"false"_s);

@@ -2,11 +2,10 @@
 // document moves the same quantity, so that what is between two documents shows in every sum.
 
 #include "base/csvlist.h"
-#include "printing/reportcsv.h"
 #include "reports/makereport.h"
 #include "reports/reportlist.h"
+#include "tests/reports/reportcsvof.h"
 #include "tests/support/dataplace.h"
-#include "tests/support/files.h"
 #include "tests/support/kitchen.h"
 #include "tests/support/otheruser.h"
 #include "transactions/documentkinds.h"
@@ -70,9 +69,7 @@ struct Race : testing::TestWithParam<Store>
     }
     QList<QStringList> report(TDataModuleTallymere &data, const QString &name)
     {
-        const Printing::Report made = makeReport(data, *ReportList::find(name), {.period = 1, .year = 2026});
-        return csvRows(
-            writtenBy([&](QIODevice &file) { writeReportCsv(made.layout, *made.rows, file, progress); }));
+        return csvRows(csvOf(makeReport(data, *ReportList::find(name), {.period = 1, .year = 2026})));
     }
 };
 ON_BOTH_STORES(Race);

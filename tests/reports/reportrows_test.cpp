@@ -1,8 +1,7 @@
-#include "printing/reportcsv.h"
 #include "reports/columns.h"
 #include "reports/reportlist.h"
 #include "reports/reportquery.h"
-#include "tests/support/files.h"
+#include "tests/reports/reportcsvof.h"
 #include "tests/support/kitchen.h"
 
 using namespace Qt::StringLiterals;
@@ -12,13 +11,9 @@ namespace {
 
 const ReportDescription &report(const char *name) { return *ReportList::find(QString::fromLatin1(name)); }
 
-QByteArray csvOf(Kitchen &kitchen, const ReportDescription &report, const ReportSelection &selection,
-                 Progress &progress)
+QByteArray csvOf(Kitchen &kitchen, const ReportDescription &report, const ReportSelection &selection)
 {
-    return writtenBy([&](QIODevice &file) {
-        Printing::writeReportCsv(report.layout, *report.rows(kitchen.database(), report, selection), file,
-                                 progress);
-    });
+    return ::csvOf({report.layout, report.rows(kitchen.database(), report, selection)});
 }
 
 using ListReports = KitchenTest;
@@ -66,7 +61,7 @@ TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
     for (const auto &[name, choice, csv] : cases) {
         const ReportSelection selection{.filter = choice.section(u'|', 0, 0), .order = choice.section(u'|', 1)};
         const ReportDescription &list = report(name);
-        EXPECT_EQ(csvOf(kitchen, list, selection, progress), csv) << name;
+        EXPECT_EQ(csvOf(kitchen, list, selection), csv) << name;
         EXPECT_EQ(list.layout.landscape, list.listText == "Inventory History"_L1);
     }
 }
@@ -96,7 +91,7 @@ TEST_P(ListReports, AQueryIsNarrowedByWhatIsChosenAndByNothingElse)
         query.order = {keys.isEmpty() ? u"R.ReceiptID"_s : keys};
         receipts.rows = queryRows(query);
         for (const auto &[selection, shown] : cases)
-            EXPECT_EQ(csvOf(kitchen, receipts, selection, progress)
+            EXPECT_EQ(csvOf(kitchen, receipts, selection)
                           .replace("Band,ReceiptID", "")
                           .replace("detail,", "")
                           .replace("\r\n", ""),
@@ -104,7 +99,7 @@ TEST_P(ListReports, AQueryIsNarrowedByWhatIsChosenAndByNothingElse)
     }
     query.conditions.append(u"R.VendorID = :Vendor"_s);
     receipts.rows = queryRows(query);
-    EXPECT_THROW(csvOf(kitchen, receipts, {}, progress), Engine::EngineError) << "of a choice that there is not";
+    EXPECT_THROW(csvOf(kitchen, receipts, {}), Engine::EngineError) << "of a choice that there is not";
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "tests/support/documents.h"
-#include "transactions/documententry.h"
 #include "transactions/lastsaved.h"
 #include "transactions/stockcount.h"
 
@@ -38,8 +37,7 @@ TEST_P(DocumentKeys, ThatDocumentsOrLinesHaveAreNotGivenAgain)
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
         const QStringList before = storedLines(*kind);
-        const auto entry = kind->entry.make(kitchen.database(), prompts);
-        entry->open();
+        const auto entry = openEntry(kitchen.database(), *kind, prompts);
         entry->newDocument();
         EXPECT_EQ(entry->key(), 6);
         EXPECT_TRUE(entry->lines().isEmpty());
@@ -83,8 +81,7 @@ TEST_P(DocumentKeys, StoredMeanwhileKeepTheirLines)
 {
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
-        const auto entry = kind->entry.make(kitchen.database(), prompts);
-        entry->open();
+        const auto entry = openEntry(kitchen.database(), *kind, prompts);
         entry->newDocument();
         kitchen.execute(u"UPDATE %1 SET %2 = 6 WHERE %2 = 4; UPDATE %3 SET %2 = 6 WHERE %2 = 4"_s,
                         kind->headerTable, kind->keyField, kind->lineTable);

@@ -14,8 +14,7 @@ struct DocumentKindsTest : KitchenTest
 
     void enter(const DocumentKind &kind)
     {
-        const std::unique_ptr<DocumentEntry> entry = kind.entry.make(kitchen.database(), prompts);
-        entry->open();
+        const auto entry = openEntry(kitchen.database(), kind, prompts);
         beginDocument(*entry);
         entry->save();
     }

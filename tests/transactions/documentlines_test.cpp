@@ -1,6 +1,5 @@
 #include "base/ruleerror.h"
 #include "tests/support/documents.h"
-#include "transactions/documententry.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -15,12 +14,7 @@ struct DocumentLinesTest : KitchenTest
             u"UPDATE ItemType SET Inventory = true, CostingMethod = 1; UPDATE Item SET WgtAvgCost = 2"_s);
     }
 
-    void open(const DocumentKind &kind, int key)
-    {
-        entry = kind.entry.make(kitchen.database(), prompts);
-        entry->open();
-        ASSERT_TRUE(entry->openDocument(key));
-    }
+    void open(const DocumentKind &kind, int key) { entry = openEntry(kitchen.database(), kind, prompts, key); }
     // What the lines of a document hold, but for their numbers.
     QStringList held(const DocumentKind &kind)
     {

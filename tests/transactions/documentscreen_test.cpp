@@ -1,6 +1,5 @@
 #include "base/settingsstore.h"
 #include "controls/grids/linegrid.h"
-#include "data/fields.h"
 #include "master/barcodes.h"
 #include "master/screens/itemsearchinv.h"
 #include "tests/support/documents.h"
@@ -22,12 +21,7 @@ struct DocumentScreenTest : ScreenTest
 {
     void open(const DocumentScreens &screens, int key = 0)
     {
-        screen = static_cast<DocumentScreen *>(screens.makeDocument(*context, mainWindow.get()));
-        if (key == 0)
-            screen->newRecord();
-        else
-            EXPECT_TRUE(screen->openRecord(key));
-        showActive(*screen);
+        screen = openRecord(static_cast<DocumentScreen *>(screens.makeDocument(*context, mainWindow.get())), key);
         grid = child<LineGrid>(*screen, "DBGrid1");
     }
     // The document that has come up beside the given windows.
@@ -61,15 +55,9 @@ TEST_F(DocumentScreenTest, aPostedDocumentIsReversedFromItsListAndFromItsOwnScre
         const DocumentKind &kind = screens.kind;
         SCOPED_TRACE(qPrintable(kind.name));
         addDocument(kitchen, kind, 7, 1, {{1, u"2"_s, u"3"_s}, {2, u"-4"_s, u"1.5"_s}});
-        open(screens, 7);
-        EXPECT_FALSE(child<QPushButton>(*screen, "btnReverse")->isVisible()) << "it is not posted";
-        screen->close();
-        settle();
+        kitchen.execute(u"UPDATE %1 SET Posted = true"_s.arg(kind.headerTable));
         QPointer<DocumentListScreen> list = screens.makeList(*context, mainWindow.get());
         showActive(*list);
-        EXPECT_FALSE(list->command(u"mnuReverse"_s)->isEnabled());
-        kitchen.execute(u"UPDATE %1 SET Posted = true"_s.arg(kind.headerTable));
-        list->refreshList();
         EXPECT_TRUE(list->moveToKey(7));
         list->command(u"mnuReverse"_s)->trigger();
         QPointer<DocumentScreen> reversal = shownBeside({});
@@ -104,7 +92,6 @@ TEST_F(DocumentScreenTest, controlZBringsTheLineTakenOutLastBack)
         open(screens, 7);
         auto *figures = child<QLabel>(*screen, "lblFigures");
         auto *undo = child<QAction>(*screen, "mnuUndoDelete");
-        EXPECT_FALSE(undo->isEnabled());
         grid->setFocus();
         press(Qt::Key_Delete, Qt::ControlModifier);
         EXPECT_EQ(figures->text(), u"Ctrl+Z puts back: Line 1 (Apples)");
@@ -171,13 +158,6 @@ TEST_F(DocumentScreenTest, rowsOfASpreadsheetArePastedByKeys)
         screen->btnCancelClick();
         settle();
         EXPECT_EQ(quantities(screens.kind), u"7|2");
-
-        kitchen.execute(u"UPDATE %1 SET Posted = true"_s.arg(screens.kind.headerTable));
-        open(screens, 7);
-        EXPECT_FALSE(child<QAction>(*screen, "mnuPasteRows")->isEnabled());
-        EXPECT_FALSE(child<QToolButton>(*screen, "btnPasteRows")->isVisible());
-        screen->close();
-        settle();
         EXPECT_EQ(prompts.told(), QString());
     }
 }
@@ -224,26 +204,22 @@ TEST_F(DocumentScreenTest, aLineTakesAsFewPressesOfEnterAsItsColumnsAllow)
     const auto pressesFor = [&](const DocumentScreens &screens) {
         open(screens);
         press(Qt::Key_PageDown);
-        QTimer search;
         int presses = 0;
         bool isSearched = false;
         const auto enter = [&] {
             ++presses;
             press(Qt::Key_Return);
         };
-        QObject::connect(&search, &QTimer::timeout, &search, [&] {
-            auto *dialog = qobject_cast<TfrmItemSearchInv *>(QApplication::activeModalWidget());
-            if (!dialog || QApplication::activeWindow() != dialog)
-                return;
-            search.stop();
+        const auto begin = [&] {
+            type("5");
+            enter();
+            EXPECT_TRUE(comesTrue([&] { return isSearched && grid->hasFocus(); }));
+        };
+        EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(begin, [&](TfrmItemSearchInv &) {
             type("A10");
             enter();
             isSearched = true;
-        });
-        search.start(0);
-        type("5");
-        enter();
-        EXPECT_TRUE(comesTrue([&] { return isSearched && grid->hasFocus(); }));
+        }));
         constexpr int tooMany = 20;
         while (grid->model()->rowCount() == 1 && presses < tooMany)
             enter();

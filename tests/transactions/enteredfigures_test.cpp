@@ -1,6 +1,4 @@
 #include "tests/support/documents.h"
-#include "transactions/documententry.h"
-#include "transactions/quantitycheck.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -15,8 +13,7 @@ struct EnteredLine : KitchenTest
     {
         entry.reset();
         prompts.said.clear();
-        entry = kind.entry.make(kitchen.database(), prompts);
-        entry->open();
+        entry = openEntry(kitchen.database(), kind, prompts);
         entry->newDocument();
     }
     QString quantityField() const { return entry->kind().entry.lineColumns.constFirst().field; }

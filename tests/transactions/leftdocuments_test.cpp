@@ -40,8 +40,7 @@ TEST_P(LeftDocuments, AreOfferedToTheirUserOnceTheirProgramIsGone)
 {
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(kind->name.toStdString());
-        const auto entry = kind->entry.make(kitchen.database(), prompts);
-        entry->open();
+        const auto entry = openEntry(kitchen.database(), *kind, prompts);
         {
             OtherUser anna(kitchen, {u"begin"_s, kind->name});
             ASSERT_TRUE(anna.saysLine());
@@ -62,8 +61,7 @@ TEST_P(LeftDocuments, AreOfferedToTheirUserOnceTheirProgramIsGone)
         ASSERT_TRUE(takeUpLeft(*entry, prompts));
         EXPECT_EQ(entry->closing(), DocumentEntry::Closing::Ask);
         {
-            const auto other = kind->entry.make(kitchen.database(), prompts);
-            other->open();
+            const auto other = openEntry(kitchen.database(), *kind, prompts);
             EXPECT_FALSE(takeUpLeft(*other, prompts)) << "it is in hand already";
         }
         entry->newLineWith([&](const QString &field) {
@@ -82,8 +80,7 @@ TEST_P(LeftDocuments, AreOfferedToTheirUserOnceTheirProgramIsGone)
 TEST_P(LeftDocuments, GoWithoutATraceButTheNoteWhenNobodyWantsThem)
 {
     const DocumentKind &kind = DocumentKinds::receipt();
-    const auto entry = kind.entry.make(kitchen.database(), prompts);
-    entry->open();
+    const auto entry = openEntry(kitchen.database(), kind, prompts);
     leaveOne(kind);
     beAnna();
     prompts.answer = Answer::Yes;

@@ -1,14 +1,12 @@
 #include "tests/support/documents.h"
-#include "transactions/documententry.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class LineStockTest : public KitchenTest
+struct LineStockTest : KitchenTest
 {
-protected:
     LineStockTest()
     {
         kitchen.execute(u"UPDATE ItemType SET Inventory = (ItemTypeID = 1); UPDATE Item SET ItemTypeID = ItemID"_s);
@@ -44,9 +42,7 @@ TEST_P(LineStockTest, FollowsTheLinesOfEveryKindOfDocument)
             return u"%1|%2"_s.arg(onHand).arg(onHand + stockChange(kind->posting.transType, moved));
         };
         addDocument(kitchen, *kind, 1, 1, {{1, u"2"_s, u"1"_s}, {2, u"4"_s, u"1"_s}, {1, u"3"_s, u"1"_s}});
-        entry = kind->entry.make(kitchen.database(), prompts);
-        entry->open();
-        ASSERT_TRUE(entry->openDocument(1));
+        entry = openEntry(kitchen.database(), *kind, prompts, 1);
         EXPECT_EQ(told(), (QStringList{line(10, 2), u"|"_s, line(10, 5)}))
             << "the second is of a type without stock";
 

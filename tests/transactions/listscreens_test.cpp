@@ -3,7 +3,6 @@
 #include "master/screens/itemsfind.h"
 #include "tests/support/documents.h"
 #include "tests/support/screentest.h"
-#include "transactions/documententry.h"
 #include "transactions/documentfilter.h"
 #include "transactions/screens/documentfilterscreen.h"
 #include "transactions/screens/documentfindscreen.h"
@@ -99,8 +98,7 @@ TEST_F(ListScreensTest, findDialogsFindWordsWhereNothingHasTheNumber)
             press(Qt::Key_Return);
             EXPECT_EQ(prompts.told(), u"error: Receipt 'sÖHne creme' not found"_s);
             EXPECT_EQ(grid->currentIndex().row(), 0);
-            EXPECT_TRUE(told->text().startsWith(u"These words are in row 1 of 3: 3/2026, 14 Mar 26, 1003, Crème"_s))
-                << qPrintable(told->text());
+            EXPECT_TRUE(begins(told->text(), u"These words are in row 1 of 3: 3/2026, 14 Mar 26, 1003, Crème"_s));
             press(Qt::Key_Return);
             EXPECT_EQ(grid->currentIndex().row(), 2) << "and the next, which the same key goes to";
             press(Qt::Key_Return);
@@ -211,9 +209,7 @@ TEST_F(ListScreensTest, postingTellsOfWhatTheListDoesNotShowAndWhoseItIs)
 
     const auto anna = kitchen.anotherUser();
     SpokenPrompts annas;
-    const std::unique_ptr<DocumentEntry> entry = DocumentKinds::receipt().entry.make(anna->database, annas);
-    entry->open();
-    ASSERT_TRUE(entry->openDocument(1));
+    const auto entry = openEntry(anna->database, DocumentKinds::receipt(), annas, 1);
     entry->header().edit();
     entry->header().set(u"PurchaseOrderNo", u"77"_s);
     entry->save();

@@ -33,18 +33,10 @@ struct LostConnection : ScreenTest
         type("50<Down>"); // the line is stored with that
     }
     void run(const QString &sql) { keeper->database.connection().execute(sql); }
-    // New connections to the database, allowed from without.
-    void admit(bool allowed)
-    {
-        TestUser outside(u"outside"_s, u"postgres"_s);
-        outside.useTestServer(u"postgres"_s);
-        outside.database.connection().execute(u"ALTER DATABASE %1 ALLOW_CONNECTIONS %2"_s.arg(
-            kitchen.remoteName(), allowed ? u"true"_s : u"false"_s));
-    }
     // The session ends; with "forGood" the database takes no new one.
     void cut(bool forGood)
     {
-        admit(!forGood);
+        kitchen.admit(!forGood);
         keeper->endOtherSessions();
     }
     QStringList stored()
@@ -103,7 +95,7 @@ TEST_F(LostConnection, everyWayOutEndsTheScreen)
             prompts.take();
             way();
             ASSERT_TRUE(comesTrue([&] { return !screen; }));
-            admit(true);
+            kitchen.admit(true);
             EXPECT_EQ(stored(), (QStringList{withLines ? u"50"_s : u"5"_s, u"6"_s}));
             EXPECT_EQ(prompts.last().contains(u"Lines changed: 1. Lines added: 0. Lines deleted: 0."_s), withLines)
                 << prompts.last().toStdString();

@@ -1,7 +1,5 @@
 #include "transactions/pastedrows.h"
 
-#include "base/ruleerror.h"
-#include "engine/values/error.h"
 #include "tests/support/brokentable.h"
 #include "tests/support/documents.h"
 
@@ -33,9 +31,7 @@ struct PastedRowsTest : KitchenTest
     {
         entry.reset();
         addDocument(kitchen, kind, 7, 1, {{1, u"2"_s, u"3"_s}});
-        entry = kind.entry.make(kitchen.database(), prompts);
-        entry->open();
-        ASSERT_TRUE(entry->openDocument(7));
+        entry = openEntry(kitchen.database(), kind, prompts, 7);
     }
     PastedRows paste(const QString &text, const RegionalSettings &settings = pointed)
     {

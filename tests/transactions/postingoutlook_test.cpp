@@ -3,16 +3,14 @@
 
 #include "tests/support/chance.h"
 #include "tests/support/documents.h"
-#include "transactions/documentposting.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class OutlookTest : public KitchenTest
+struct OutlookTest : KitchenTest
 {
-protected:
     OutlookTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
 
     QStringList notices(const DocumentKind &kind)
@@ -52,7 +50,7 @@ TEST_P(OutlookTest, SaysWhatOneMayWantToLookAt)
     addDocument(kitchen, DocumentKinds::adjustment(), 3, 9, {{1, u"1"_s}});
     const QStringList told = notices(DocumentKinds::adjustment());
     ASSERT_EQ(told.size(), 1) << "nothing is posted behind what is refused";
-    EXPECT_TRUE(told[0].startsWith(u"2 \"Spoiled\" cannot be posted. Line 3: "_s)) << qPrintable(told[0]);
+    EXPECT_TRUE(begins(told[0], u"2 \"Spoiled\" cannot be posted. Line 3: "_s));
 }
 
 TEST_P(OutlookTest, TellsTheBalancesThatPostingLeaves)

@@ -273,18 +273,11 @@ struct EntryOnAServer : testing::Test
         ASSERT_TRUE(entry->openDocument(7));
     }
     void change(double quantity) { changeLine(*entry, 0, u"QtyReceived", quantity); }
-    void admit(bool allowed) // new connections
-    {
-        TestUser outside(u"outside"_s, u"postgres"_s);
-        outside.useTestServer(u"postgres"_s);
-        outside.database.connection().execute(u"ALTER DATABASE %1 ALLOW_CONNECTIONS %2"_s.arg(
-            kitchen.remoteName(), allowed ? u"true"_s : u"false"_s));
-    }
     // The connection is lost; a new one comes about when somebody has been told of it.
     void cut()
     {
         anna->database.connection();
-        admit(false);
+        kitchen.admit(false);
         anna->endOtherSessions();
     }
     QStringList stored() { return rowsOf(anna->database, u"SELECT QtyReceived FROM IRecDet ORDER BY Seq"_s); }
@@ -319,7 +312,7 @@ TEST_F(EntryOnAServer, WhatOthersDoMeanwhileIsNotOverwrittenAndTold)
             if (isTold) {
                 EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
             }
-            admit(true);
+            kitchen.admit(true);
             anna->database.connection().execute(meanwhile);
             QString refusal;
             EXPECT_TRUE(errorOf([&] { refusal = refusalOf([&] { entry->save(); }); }) || !refusal.isEmpty());
@@ -335,15 +328,14 @@ TEST_F(EntryOnAServer, WhatOthersDoMeanwhileIsNotOverwrittenAndTold)
     // Somebody is at it now: what has been entered can be taken back once he is through.
     change(50);
     cut();
-    admit(true);
+    kitchen.admit(true);
     Engine::LockManager &locks = anna->database.connection().locks();
     ASSERT_TRUE(locks.tryLockRecord(u"IReceipt"_s, {7}));
     prompts.take();
     prompts.retries = 1;
     prompts.onRetry = [&] { locks.unlockRecord(u"IReceipt"_s, {7}); };
     entry->cancel();
-    EXPECT_TRUE(prompts.last().contains(u"'Receipt 1007' is being edited by another user (anna on"_s))
-        << prompts.last().toStdString();
+    EXPECT_TRUE(has(prompts.last(), u"'Receipt 1007' is being edited by another user (anna on"_s));
     EXPECT_EQ(stored(), (QStringList{u"5"_s, u"6"_s}));
 }
 
@@ -361,7 +353,7 @@ TEST_F(EntryOnAServer, ANewReceiptThatWasStoredUnnoticedIsToldAsSaved)
             QString::number(key), entry->header().text(u"ReceiptNo")));
     cut();
     EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
-    admit(true);
+    kitchen.admit(true);
     const QString told =
         u"The document had been saved before the connection was lost. Close this screen with Cancel "
         "and open the document anew. -> "_s;
@@ -388,7 +380,7 @@ TEST_F(EntryOnAServer, AReceiptThatWasStoredUnnoticedIsNobodyElsesChange)
             });
         };
         EXPECT_EQ(errorOf([&] { entry->save(); }), ErrorCode::ConnectionLost);
-        admit(true);
+        kitchen.admit(true);
         entry->header().rules = checks;
         if (cancelled)
             entry->cancel();

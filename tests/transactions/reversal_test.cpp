@@ -1,7 +1,6 @@
 #include "transactions/reversal.h"
 
 #include "tests/support/documents.h"
-#include "transactions/documentposting.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -12,12 +11,6 @@ struct ReversalTest : KitchenTest
 {
     ReversalTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
 
-    std::unique_ptr<DocumentEntry> entryOf(const DocumentKind &kind)
-    {
-        std::unique_ptr<DocumentEntry> entry = kind.entry.make(kitchen.database(), prompts);
-        entry->open();
-        return entry;
-    }
     QStringList balances()
     {
         return kitchen.rows(
@@ -34,7 +27,7 @@ TEST_P(ReversalTest, TakesBackWhatEveryKindOfDocumentHasDone)
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
         addDocument(kitchen, *kind, 7, 1, {{1, u"2.5"_s, u"3"_s}, {2, u"-4"_s, u"1.5"_s}}, 2);
-        const auto entry = entryOf(*kind);
+        const auto entry = openEntry(kitchen.database(), *kind, prompts);
         EXPECT_NE(refusalOf([&] { beginReversal(*entry, 7); }), QString()) << "it is not posted";
         EXPECT_NE(refusalOf([&] { beginReversal(*entry, 99); }), QString());
         if (kind == &DocumentKinds::usage())
@@ -71,14 +64,14 @@ TEST_P(ReversalTest, LeavesNothingWhenItIsDroppedOrALineIsRefused)
         SCOPED_TRACE(qPrintable(kind->name));
         addDocument(kitchen, *kind, 7, 1, {{1, u"2"_s, u"3"_s}, {2, u"4"_s, u"1.5"_s}});
         DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
-        const auto entry = entryOf(*kind);
+        const auto entry = openEntry(kitchen.database(), *kind, prompts);
         beginReversal(*entry, 7);
         entry->cancel();
         EXPECT_EQ(count(kind->lineTable), 2);
 
         kitchen.execute(u"UPDATE Item SET ItemID = 9 WHERE ItemID = 2"_s);
         const QString refused = refusalOf([&] { beginReversal(*entry, 7); });
-        EXPECT_TRUE(refused.startsWith(u"Line 2 cannot be reversed: "_s)) << qPrintable(refused);
+        EXPECT_TRUE(begins(refused, u"Line 2 cannot be reversed: "_s));
         EXPECT_EQ(count(kind->lineTable), 2);
         EXPECT_EQ(count(kind->headerTable), 1);
         kitchen.execute(u"UPDATE Item SET ItemID = 2 WHERE ItemID = 9"_s);

@@ -68,8 +68,7 @@ TEST_P(StockHistory, AddsUpToTheBalancesAfterAnySteps)
         ASSERT_NO_FATAL_FAILURE(step());
         ASSERT_EQ(sums(), balances()) << "step " << i;
     }
-    for (const DocumentKind *kind : DocumentKinds::all())
-        DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
+    postAll(kitchen);
     EXPECT_EQ(sums(), balances());
     EXPECT_FALSE(balances().isEmpty());
 }

@@ -1,19 +1,15 @@
 #include "data/lastbackup.h"
 #include "tests/support/documents.h"
-#include "transactions/documentposting.h"
 #include "transactions/lastsaved.h"
 #include "transactions/today.h"
-
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class TodayTest : public KitchenTest
+struct TodayTest : KitchenTest
 {
-protected:
     TodayTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
 
     TodayFigure figure(const QString &title)

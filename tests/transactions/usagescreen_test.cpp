@@ -35,21 +35,16 @@ struct UsageScreenTest : ScreenTest
     void enterLine(const char *quantity, const char *itemNo)
     {
         bool chosen = false;
-        QTimer answer;
-        QObject::connect(&answer, &QTimer::timeout, &answer, [&] {
-            auto *search = qobject_cast<TfrmItemSearchInv *>(QApplication::activeModalWidget());
-            if (!search || QApplication::activeWindow() != search)
-                return;
-            answer.stop();
+        const auto enter = [&] {
+            type(quantity);
+            press(Qt::Key_Return);
+            EXPECT_TRUE(comesTrue([&] { return chosen && grid->hasFocus(); }));
+        };
+        EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(enter, [&](TfrmItemSearchInv &) {
             type(itemNo);
             press(Qt::Key_Return);
             chosen = true;
-        });
-        answer.start(0);
-        type(quantity);
-        press(Qt::Key_Return);
-        EXPECT_TRUE(comesTrue([&] { return chosen; }));
-        EXPECT_TRUE(comesTrue([&] { return grid->hasFocus(); }));
+        }));
     }
     QString stored()
     {
@@ -150,13 +145,8 @@ TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
     filter([](DocumentFilterScreen &dialog) { child<QAbstractButton>(dialog, "optPostedYes")->click(); });
     EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted = true)"_s);
 
-    EXPECT_FALSE(list->command(u"mnuPrintSelected"_s)->isEnabled());
     list->resetFilter();
-    for (const int key : {1, 2}) {
-        ASSERT_TRUE(list->moveToKey(key));
-        for (const QString &command : {u"mnuDelete"_s, u"mnuDeleteDate"_s})
-            EXPECT_EQ(list->command(command)->isEnabled(), key == 2) << command.toStdString();
-    }
+    ASSERT_TRUE(list->moveToKey(2));
     list->btnEditClick();
     ASSERT_TRUE(list->moveToKey(1));
     findScreen<TfrmUsage>(u"frmUsage"_s)->btnOKClick();
