@@ -1,7 +1,5 @@
 #include "controls/screens/besidework.h"
 
-#include "base/ruleerror.h"
-#include "engine/store/driver.h"
 #include "tests/support/bothstores.h"
 
 #include <QApplication>

@@ -64,6 +64,11 @@ struct FieldBinderTest : testing::Test
         return widget;
     }
 
+    static void paste(const QString &text)
+    {
+        QApplication::clipboard()->setText(text);
+        press(Qt::Key_V, Qt::ControlModifier);
+    }
     QString shown(const char *name) { return child<QLineEdit>(form, name)->text(); }
 
     TestStore store{Store::Local};
@@ -219,11 +224,6 @@ TEST_F(FieldBinderTest, leavingTowardsCancelHandsNothingOver)
 
 TEST_F(FieldBinderTest, whatIsPastedIsOneLineAndWhatIsCutOffIsSaid)
 {
-    const auto paste = [](const QString &text) {
-        QApplication::clipboard()->setText(text);
-        press(Qt::Key_V, Qt::ControlModifier);
-        QCoreApplication::processEvents();
-    };
     const QString limit = u"warn: 'Name' takes no more than 8 characters.\n"_s;
     paste(u"Pea\r\n\tSoup\nhot"_s);
     EXPECT_EQ(shown("editName"), u"Pea Soup"_s);
@@ -251,11 +251,6 @@ TEST_F(FieldBinderTest, aNoteTakesNoMoreThanItsFieldHowEverItComes)
     notes.bind(*table);
     showActive(page);
     memo->setFocus();
-    const auto paste = [](const QString &text) {
-        QApplication::clipboard()->setText(text);
-        press(Qt::Key_V, Qt::ControlModifier);
-        QCoreApplication::processEvents();
-    };
     const QString refusal =
         u"warn: 'Note' takes no more than 1,000,000 characters, in lines of no more than 20,000. What "
         "has been put in was left out."_s;

@@ -101,13 +101,3 @@ TEST(IconsTest, AnEntryWithTheCursorIsDrawnInTheColourOfItsWords)
     }
     QApplication::setStyle(before);
 }
-
-// A mark that comes and goes needs the place of the sign in a menu.
-TEST(IconsTest, AnEntryThatIsCheckedKeepsItsMark)
-{
-    QAction entry;
-    entry.setCheckable(true);
-    setGlyph(entry, Glyph::Filter);
-    EXPECT_TRUE(entry.icon().isNull());
-    EXPECT_EQ(glyphOf(entry), Glyph::Filter) << "for its button";
-}

@@ -81,11 +81,8 @@ TEST_F(ListScreenTest, typedSearchIsShown)
     ItemList &items = open();
     type("b1");
     EXPECT_EQ(status(items, "lblSearch"), u"Search: b1"_s);
-    EXPECT_EQ(status(items), u"3 of 4 rows"_s);
     type(u"<b>"_s);
     EXPECT_EQ(status(items, "lblSearch"), u"Search: b1<b> (not found)"_s);
-    press(Qt::Key_Home);
-    EXPECT_EQ(status(items, "lblSearch"), QString());
     items.applyFilter(u"(ItemID < 3)"_s);
     type("b1");
     EXPECT_EQ(status(items, "lblSearch"), u"Search: b1 (not found in the filtered rows)"_s);
@@ -195,9 +192,6 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
     EXPECT_TRUE(prompts.take().value(0).contains(chosen));
     EXPECT_EQ(proposed, (QStringList{folder.path() + u"|Items.csv"_s, folder.path() + u'|' + chosen}))
         << "what was typed is offered again";
-
-    context->chooseFileToSave = {};
-    EXPECT_FALSE(open().command(u"mnuSaveCsv"_s)->isEnabled());
 }
 
 // A click on a title sorts by its column and, once more, the other way round; the arrow and the menus say so.

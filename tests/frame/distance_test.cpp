@@ -1,7 +1,6 @@
 // How often a user of a far server waits for it: the journeys there and back are counted, and no time is taken.
 
 #include "controls/screens/listscreen.h"
-#include "frame/screenregistry.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/dataplace.h"
 #include "tests/support/journeys.h"

@@ -1,6 +1,5 @@
 #include "controls/screens/recordscreen.h"
 #include "controls/windows/screenmetrics.h"
-#include "data/datamodule.h"
 #include "frame/finder/finderbox.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/helpwindow.h"

@@ -30,6 +30,7 @@
 #include "tests/frame/windowwalk.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenlanguage.h"
+#include "tests/support/teststore.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
 #include "transactions/screens/countdifferencesscreen.h"
@@ -45,7 +46,6 @@
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStyle>
-#include <QTemporaryDir>
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
@@ -263,35 +263,34 @@ struct FormsTest : testing::Test
         QApplication::setCursorFlashTime(0);
         over.fill();
         Engine::Database &database = over.data.databaseTallymere();
-        database.connection().execute(uR"(
-            UPDATE Warehse SET WarehouseName = '[Cellar]';
-            INSERT INTO IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, Posted)
-                VALUES (1, '1001', 2026, 3, '2026-03-14', 1, 7, false);
-            INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (1, 1, 1, 12, 2.5);
-            INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, InventoryDate, GLYear, GLPeriod, Posted)
-                VALUES (1, '500', 7, '2026-03-18', 2026, 3, false);
-            INSERT INTO IUsageDet (UsageID, Seq, ItemID, Quantity) VALUES (1, 1, 2, 3);
-            INSERT INTO IAdjust (AdjustmentID, AdjDescription, AdjDate, WarehouseID, GLYear, GLPeriod, Posted)
-                VALUES (1, '1', '2026-03-18', 7, 2026, 3, false);
-            INSERT INTO IAdjDet (AdjustmentID, Seq, ItemID, Quantity) VALUES (1, 1, 1, -1);
-        )"_s);
+        database.connection().execute(u"UPDATE Warehse SET WarehouseName = '[Cellar]'"_s);
+        addDocuments(1, 14, u"12, 2.5"_s, u"2, 3"_s);
         CountedProgress progress;
         for (const DocumentKind *kind : DocumentKinds::all())
             DocumentPosting(database, *kind).run(over.company.prompts, progress);
+        addDocuments(2, 18, u"4, 3"_s, u"1, 2"_s);
         database.connection().execute(uR"(
-            INSERT INTO IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, Posted)
-                VALUES (2, '1002', 2026, 3, '2026-03-18', 2, 7, false);
-            INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (2, 1, 1, 4, 3);
-            INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, InventoryDate, GLYear, GLPeriod, Posted)
-                VALUES (2, '501', 7, '2026-03-19', 2026, 3, false);
-            INSERT INTO IUsageDet (UsageID, Seq, ItemID, Quantity) VALUES (2, 1, 1, 2);
-            INSERT INTO IAdjust (AdjustmentID, AdjDescription, AdjDate, WarehouseID, GLYear, GLPeriod, Posted)
-                VALUES (2, '2', '2026-03-19', 7, 2026, 3, false);
-            INSERT INTO IAdjDet (AdjustmentID, Seq, ItemID, Quantity) VALUES (2, 1, 1, -1);
             UPDATE Vendor SET Phone = '555-1234', EMail = 'a&b?@first.example', WebPage = 'first.example';
             INSERT INTO VContact (VendorID, ContactID, LastName, BusinessPhone, EMail)
                 VALUES (1, 7, '7', '555-7', '7@first.example'), (2, 8, '8', NULL, NULL);
         )"_s);
+    }
+
+    // An unposted one of each kind: what is received (quantity and cost), and what is used (item and quantity).
+    void addDocuments(int id, int day, const QString &received, const QString &used)
+    {
+        over.data.databaseTallymere().connection().execute(filledIn(uR"(
+            INSERT INTO IReceipt (ReceiptID, ReceiptNo, GLYear, GLPeriod, ReceiptDate, VendorID, WarehouseID, Posted)
+                VALUES (%1, '100%1', 2026, 3, '2026-03-%2', %1, 7, false);
+            INSERT INTO IRecDet (ReceiptID, Seq, ItemID, QtyReceived, UnitCost) VALUES (%1, 1, 1, %3);
+            INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, InventoryDate, GLYear, GLPeriod, Posted)
+                VALUES (%1, '50%1', 7, '2026-03-1%5', 2026, 3, false);
+            INSERT INTO IUsageDet (UsageID, Seq, ItemID, Quantity) VALUES (%1, 1, %4);
+            INSERT INTO IAdjust (AdjustmentID, AdjDescription, AdjDate, WarehouseID, GLYear, GLPeriod, Posted)
+                VALUES (%1, '%1', '2026-03-1%5', 7, 2026, 3, false);
+            INSERT INTO IAdjDet (AdjustmentID, Seq, ItemID, Quantity) VALUES (%1, 1, 1, -1);
+        )"_s,
+                                                                    id, day, received, used, 7 + id));
     }
 
     void expectExists(const Described &widget, const Form &form)

@@ -2,16 +2,13 @@
 #include "frame/hostinifile.h"
 #include "tests/support/files.h"
 
-#include <QTemporaryDir>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 namespace {
 
-class InitFileTest : public testing::Test
+struct InitFileTest : testing::Test
 {
-protected:
     void write(const QByteArray &text) { putContent(path(), text); }
     QByteArray read() const { return contentOf(path()); }
     QString path() const { return m_folder.filePath(u"HX1.ini"_s); }

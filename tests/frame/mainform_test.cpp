@@ -18,9 +18,8 @@ using namespace Tallymere;
 
 namespace {
 
-class MainFormTest : public testing::Test
+struct MainFormTest : testing::Test
 {
-protected:
     TFormTallymereSystem &form()
     {
         if (!m_form)

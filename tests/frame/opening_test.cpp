@@ -1,5 +1,4 @@
 #include "controls/screens/commandscreen.h"
-#include "engine/records/table.h"
 #include "frame/figurebutton.h"
 #include "frame/frmtallymeresystem.h"
 #include "master/screens/dialerinv.h"
@@ -8,7 +7,6 @@
 #include "tests/support/screendriver.h"
 
 #include <QCloseEvent>
-#include <QLabel>
 #include <QProgressBar>
 #include <QWindow>
 

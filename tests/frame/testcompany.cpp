@@ -1,7 +1,6 @@
 #include "tests/frame/testcompany.h"
 
 #include "controls/screens/recordlistscreen.h"
-#include "engine/store/database.h"
 #include "frame/aboutform.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/itemsearchinv.h"

@@ -2,7 +2,6 @@
 
 #include "tests/support/spokenprompts.h"
 
-#include <functional>
 #include <QPointer>
 #include <QWidget>
 
