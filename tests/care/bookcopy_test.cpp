@@ -1,7 +1,6 @@
 #include "care/bookcopy.h"
 
 #include "care/tablecopy.h"
-#include "data/layouts.h"
 #include "tests/support/dataplace.h"
 #include "tests/support/documents.h"
 

@@ -1,7 +1,6 @@
 #include "care/backup.h"
 #include "care/repair.h"
 #include "data/lastbackup.h"
-#include "data/layouts.h"
 #include "engine/store/dialect.h"
 #include "tests/support/damage.h"
 #include "tests/support/documents.h"

@@ -122,8 +122,7 @@ TEST_P(CareScreensTest, ABackupOfTheScreenComesBackIntoAnEmptyFolder)
     EXPECT_TRUE(QFileInfo::exists(target.filePath(u"Corvane.sqlite"_s)));
     EXPECT_FALSE(restore.isVisible());
     TDataModuleTallymere restored(settings, prompts, {.dataFolder = target.path()});
-    EXPECT_EQ(Engine::singleValue(restored.databaseTallymere(), u"SELECT \"user\" FROM History"_s).toText(),
-              u"anna"_s);
+    EXPECT_EQ(rowsOf(restored.databaseTallymere(), u"SELECT \"user\" FROM History"_s), QStringList{u"anna"_s});
 
     restore.show();
     click(restore, "btnRestore");

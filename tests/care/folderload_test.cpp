@@ -1,7 +1,6 @@
 #include "care/folderload.h"
 
 #include "data/layouts.h"
-#include "engine/store/lockmanager.h"
 #include "tests/support/otheruser.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,6 @@
 #include "base/dataversion.h"
 #include "data/layouts.h"
 #include "engine/records/query.h"
-#include "engine/store/lockmanager.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/dataplace.h"

@@ -4,7 +4,6 @@
 
 #include "base/settingsstore.h"
 #include "care/bookcopy.h"
-#include "data/layouts.h"
 #include "host/sample/samplefiles.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/chance.h"

@@ -7,8 +7,6 @@
 
 #include <QDirIterator>
 
-using namespace Qt::StringLiterals;
-
 TEST(Corpus, LeadsNowhereWhereItShouldNot)
 {
     const unsigned seed = chanceSeed();

@@ -9,10 +9,8 @@
 #include "tests/support/screendriver.h"
 
 #include <malloc.h>
-#include <map>
 #include <QMutex>
 
-using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
 // Where Qt tells debuggers of each object that comes and goes.

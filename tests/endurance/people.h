@@ -3,7 +3,6 @@
 #include "tests/support/otheruser.h"
 #include "transactions/documentkind.h"
 
-#include <map>
 #include <QSet>
 
 // Users who do what comes, each in a process of his own, and say what they were answered; and whoever listens to them.

@@ -1,4 +1,3 @@
-// Filter expressions: which rows they let through, and how bad ones are refused.
 
 #include "engine/filter/filterexpression.h"
 #include "tests/engine/recordfixture.h"

@@ -1,4 +1,3 @@
-// Queries: as lists, read as a whole, and executed.
 
 #include "tests/engine/recordfixture.h"
 

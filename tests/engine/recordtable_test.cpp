@@ -1,4 +1,3 @@
-// Reading, finding and restricting a table.
 
 #include "engine/records/setkeys.h"
 #include "tests/engine/recordfixture.h"

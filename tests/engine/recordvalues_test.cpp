@@ -1,4 +1,3 @@
-// Values, money and layouts: what needs no store.
 
 #include "engine/store/namedparameters.h"
 #include "engine/values/amounttoolarge.h"

@@ -1,6 +1,5 @@
 #include "engine/records/table.h"
 #include "engine/store/groupedwrites.h"
-#include "engine/store/lockmanager.h"
 #include "engine/store/platform.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/files.h"

@@ -1,5 +1,4 @@
 #include "engine/store/groupedwrites.h"
-#include "engine/store/lockmanager.h"
 #include "tests/engine/storetest.h"
 #include "tests/support/otheruser.h"
 

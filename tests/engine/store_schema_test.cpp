@@ -1,5 +1,4 @@
 #include "engine/records/table.h"
-#include "engine/store/lockmanager.h"
 #include "tests/engine/storetest.h"
 
 using namespace Qt::StringLiterals;

@@ -8,7 +8,6 @@
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenprompts.h"
 
-#include <QClipboard>
 #include <QDir>
 #include <QFileInfo>
 #include <QLibrary>

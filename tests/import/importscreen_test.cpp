@@ -12,7 +12,7 @@ namespace {
 
 struct ImportScreen : ScreenTest
 {
-    TfrmImport *open(const QByteArray &csv)
+    void open(const QByteArray &csv)
     {
         const QString name = folder.filePath(u"a.csv"_s);
         putContent(name, csv);
@@ -20,16 +20,11 @@ struct ImportScreen : ScreenTest
             std::make_unique<TfrmImport>(*context, ImportPlan(*findImportKind(u"items"_s), name), mainWindow.get());
         screen->show();
         QCoreApplication::processEvents(); // the rows are checked once the window is there
-        return screen.get();
     }
     template <typename Widget> Widget &part(const QString &name) { return *screen->findChild<Widget *>(name); }
     QString told() { return part<QLabel>(u"lblRows"_s).text(); }
     bool isReady() { return part<QPushButton>(u"btnOK"_s).isEnabled(); }
-    QString cell(int row, int column)
-    {
-        const QAbstractItemModel &rows = *part<QTableView>(u"grdRows"_s).model();
-        return rows.index(row, column).data().toString();
-    }
+    QString cell(int row, int column) { return cellOf(part<QTableView>(u"grdRows"_s), row, column); }
 
     QTemporaryDir folder;
     std::unique_ptr<TfrmImport> screen;

@@ -1,12 +1,10 @@
 #include "data/layouts.h"
 #include "data/transtypes.h"
-#include "printing/reportrun.h"
 #include "reports/reportlist.h"
 #include "tests/reports/reportcsvof.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/chance.h"
 
-#include <map>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;

@@ -8,7 +8,6 @@
 #include "tests/support/screentest.h"
 
 #include <QAccessible>
-#include <QListWidget>
 #include <QPrintDialog>
 #include <QScrollBar>
 

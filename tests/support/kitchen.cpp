@@ -1,7 +1,5 @@
 #include "tests/support/kitchen.h"
 
-#include "data/layouts.h"
-#include "engine/store/lockmanager.h"
 #include "host/tables/hosttables.h"
 
 #include <QThread>

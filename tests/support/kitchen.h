@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/layouts.h"
 #include "engine/records/query.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/spokenprompts.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/store/database.h"
+#include "engine/store/lockmanager.h"
 #include "engine/store/session.h"
 
 #include <memory>
