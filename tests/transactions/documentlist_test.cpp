@@ -1,6 +1,5 @@
 #include "transactions/documentlist.h"
 
-#include "engine/store/lockmanager.h"
 #include "tests/support/kitchen.h"
 #include "transactions/documentkinds.h"
 #include "transactions/usagedeletion.h"

@@ -9,8 +9,6 @@
 #include "transactions/screens/documentscreens.h"
 #include "transactions/screens/pasterowsscreen.h"
 
-#include <QClipboard>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
@@ -162,7 +160,6 @@ TEST_F(DocumentScreenTest, rowsOfASpreadsheetArePastedByKeys)
     }
 }
 
-// With the choice on, so many presses of Enter are enough for a line.
 TEST_F(DocumentScreenTest, enterTakesTheOfferedCostAndPassesOverWhatIsKnownWhereThatIsWanted)
 {
     context->settings = &settings;
@@ -238,7 +235,6 @@ TEST_F(DocumentScreenTest, aLineTakesAsFewPressesOfEnterAsItsColumnsAllow)
     EXPECT_EQ(presses, QList<int>({6, 4, 3, 3}));
 }
 
-// Below zero, what is on hand is told as a warning wherever it is told beside something else.
 TEST_F(DocumentScreenTest, whatIsNotOnHandIsTheSameWarningInTheLinesAndInTheSearch)
 {
     kitchen.setStock(1, 1, -3, 2);
@@ -294,13 +290,12 @@ TEST_F(DocumentScreenTest, aScannedCodeFindsItsColumn)
     open(documentScreens().front());
     grid->setFocus();
     press(Qt::Key_PageDown);
-    EXPECT_TRUE(whileOpen<TfrmItemSearchInv>([&] { scan(unknown); },
-                                             [&](TfrmItemSearchInv &search) {
-                                                 EXPECT_EQ(child<QLineEdit>(search, "editFindItemNo")->text(),
-                                                           unknown);
-                                                 typeOver(search, "editFindItemNo", "A11");
-                                                 press(Qt::Key_Return);
-                                             }));
+    const auto scanIt = [&] { scan(unknown); };
+    EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(scanIt, [&](TfrmItemSearchInv &search) {
+        EXPECT_EQ(child<QLineEdit>(search, "editFindItemNo")->text(), unknown);
+        typeOver(search, "editFindItemNo", "A11");
+        press(Qt::Key_Return);
+    }));
     EXPECT_EQ(cellOf(*grid, 0, 1), u"A11"_s);
     EXPECT_EQ(itemOfBarcode(kitchen.database(), unknown), 2) << "it is known from now on";
     scan(u"0012"_s);

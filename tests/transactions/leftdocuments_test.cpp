@@ -2,7 +2,6 @@
 
 #include "tests/support/documents.h"
 #include "tests/support/otheruser.h"
-#include "transactions/begundocument.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

@@ -1,6 +1,5 @@
 #include "transactions/receiptentry.h"
 
-#include "engine/store/lockmanager.h"
 #include "tests/support/givenrules.h"
 #include "tests/support/kitchen.h"
 
