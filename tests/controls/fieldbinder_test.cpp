@@ -8,7 +8,6 @@
 #include "tests/support/spokenprompts.h"
 #include "tests/support/teststore.h"
 
-#include <QClipboard>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 

@@ -3,7 +3,6 @@
 #include "tests/support/files.h"
 #include "tests/support/screentest.h"
 
-#include <QClipboard>
 #include <QFrame>
 
 using namespace Qt::StringLiterals;
@@ -194,7 +193,6 @@ TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)
         << "what was typed is offered again";
 }
 
-// A click on a title sorts by its column and, once more, the other way round; the arrow and the menus say so.
 TEST_F(ListScreenTest, SortsByItsTitles)
 {
     kitchen.execute(u"UPDATE Item SET UnitPrice = 7 WHERE ItemID = 2"_s);

@@ -40,7 +40,6 @@
 
 #include <QAccessible>
 #include <QDirIterator>
-#include <QListWidget>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QScreen>
@@ -331,7 +330,6 @@ struct FormsTest : testing::Test
         ++shown;
     }
 
-    // All windows of the product.
     void visitAll(const std::function<void(QWidget &window)> &visit)
     {
         forEachScreen(over.context, mainWindow, visit);
@@ -382,7 +380,6 @@ struct FormsTest : testing::Test
             visit(*window);
     }
 
-    // Those of the host.
     void visitHost(const std::function<void(QWidget &window)> &visit)
     {
         HostWindow host(over.company.settings, u"maria"_s, u"/nowhere/module.so"_s);

@@ -5,7 +5,6 @@
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
 
-#include <QListWidget>
 #include <QTextBrowser>
 
 using namespace Qt::StringLiterals;

@@ -187,9 +187,6 @@ TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
     EXPECT_EQ(prompts.told(), QString());
     const auto *edit = qobject_cast<QLineEdit *>(QApplication::focusWidget());
     ASSERT_TRUE(edit && edit->isReadOnly());
-    type("M");
-    settle();
-    EXPECT_EQ(prompts.take().size(), 1) << "who types is told who has it";
     theirs.table().cancel();
     type("Mine");
     EXPECT_EQ(edit->text(), u"Mine"_s) << "free, and not looked at again yet";
