@@ -107,10 +107,13 @@ public:
         if (const QString text = newerReleaseText(m_copy.database(), shown(m_file)); !text.isEmpty())
             throw RuleError(text);
         QStringList older;
+        QStringList missing; // which an older release had not got
         for (const Engine::TableLayout *layout : Layouts::applied()) {
             const auto stored = m_copy.database().connection().describe(layout->name);
-            if (!stored)
+            if (!stored) {
+                missing << Layouts::titleOf(layout->name);
                 continue;
+            }
             for (const Engine::FieldDef &field : stored->fields)
                 if (!layout->field(field.name))
                     throw RuleError(
@@ -120,6 +123,9 @@ public:
             if (m_copy.database().differs(*layout))
                 older << Layouts::titleOf(layout->name);
         }
+        const bool isInventory = missing.size() < static_cast<qsizetype>(Layouts::applied().size());
+        if (isInventory && storedDataVersion(m_copy.database()).number < dataVersion)
+            older += missing;
         return older;
     }
 
