@@ -51,7 +51,8 @@ QString nameBy(const Naming &naming, Engine::Connection &store, const QString &k
         return {};
     QStringList names;
     for (int field = 0; field < naming.fields.size(); ++field)
-        names << row->textAt(field);
+        if (!row->textAt(field).isEmpty())
+            names << row->textAt(field);
     return naming.pattern.arg(names.join(": "_L1));
 }
 

@@ -72,7 +72,8 @@ TotalsView::TotalsView(Engine::Database &database, Figures figures)
     : m_query(database, sqlOf(figures))
     , m_figures(figures)
 {
-    m_query.setFirstPageSql(sqlOf(figures, balancesOfItems));
+    if (figures == Figures::All) // those that a list shows
+        m_query.setFirstPageSql(sqlOf(figures, balancesOfItems));
     m_query.setKeyFields(u"ItemID;WarehouseID"_s);
     m_query.setFoldedFields(u"ItemDescription;WarehouseName"_s);
     if (figures != Figures::OnHand)
