@@ -1,6 +1,7 @@
 #include "controls/grids/columnwidths.h"
 #include "controls/grids/listgrid.h"
 #include "controls/windows/screenmetrics.h"
+#include "engine/records/query.h"
 #include "engine/records/table.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/screendriver.h"
@@ -103,6 +104,28 @@ TEST_F(ListGridTest, firstPageIsThereBeforeTheListIsRead)
     QTest::keyClick(&grid, Qt::Key_End);
     EXPECT_EQ(grid.currentIndex().row(), dishes - 1);
     EXPECT_EQ(table->integer(u"DishID"), dishes);
+}
+
+TEST_F(ListGridTest, theRestOfALongListComesByItselfOrWithTheKeyThatNeedsIt)
+{
+    Engine::Query query(store.database(), u"SELECT DishID, Name FROM Dish"_s);
+    query.setFirstPageSql(query.sql());
+    query.setKeyFields(u"DishID"_s);
+    query.setOrderBy(u"Name"_s);
+    query.onLongRead([](const Engine::DataSet::ReadOver &) { ADD_FAILURE() << "nothing to wait for"; }, dishes - 1);
+    for (const bool byKey : {false, true}) {
+        SCOPED_TRACE(byKey);
+        query.open();
+        ListGrid list;
+        list.setDataSet(query, {{u"Name"_s, u"Name"_s, 200}}, guard);
+        EXPECT_TRUE(list.tableModel()->isPartial());
+        showActive(list);
+        if (byKey)
+            QTest::keyClick(&list, Qt::Key_End);
+        EXPECT_TRUE(comesTrue([&list] { return list.model()->rowCount() == dishes; }));
+        EXPECT_EQ(query.recordIndex(), byKey ? dishes - 1 : 0);
+        query.close();
+    }
 }
 
 TEST_F(ListGridTest, manyRowsAreSelectedWhileTheRecordIsOne)
