@@ -92,13 +92,16 @@ struct TableTotals
     }
 };
 
-using Findings = std::map<QString, int>; // by the check's title
+using Findings = std::map<QString, QStringList>; // by the check's title
 
 Findings findingsIn(Engine::Database &database, Progress &progress)
 {
     Findings findings;
-    checkHeldBooks(database, progress,
-                   [&findings](const BookCheck &check, const BookFinding &) { ++findings[check.title]; });
+    checkHeldBooks(database, progress, [&findings](const BookCheck &check, const BookFinding &finding) {
+        findings[check.title] << finding.text();
+    });
+    for (auto &[check, texts] : findings)
+        texts.sort();
     return findings;
 }
 
@@ -287,11 +290,16 @@ private:
         Findings there = findingsIn(from, m_progress);
         Findings copied = findingsIn(m_to, m_progress);
         for (const BookCheck &check : bookChecks()) {
-            const int count = there[check.title];
-            if (copied[check.title] != count)
+            const QStringList &expected = there[check.title];
+            const int count = static_cast<int>(expected.size());
+            if (const QStringList &found = copied[check.title]; found.size() != count)
+                throw RuleError(CareTexts::tr("The check \"%1\" finds %2 in the copy, and %3 where it comes from.")
+                                    .arg(check.title, QString::number(found.size()), QString::number(count)));
+            else if (found != expected)
                 throw RuleError(
-                    CareTexts::tr("The check \"%1\" finds %2 in the copy, and %3 where it comes from.")
-                        .arg(check.title, QString::number(copied[check.title]), QString::number(count)));
+                    CareTexts::tr("The check \"%1\" finds other things in the copy than where it comes "
+                                  "from, as what stands there cannot be kept as it is. Mend this first: %2")
+                        .arg(check.title, expected.join(u'\n')));
             m_tell(count == 0 ? CareTexts::tr("Check \"%1\": nothing is wrong on either side.").arg(check.title)
                               : CareTexts::tr("Check \"%1\": the same on both sides, %2.")
                                     .arg(check.title,

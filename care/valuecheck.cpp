@@ -48,7 +48,7 @@ QList<Fault> faultsOf(const Engine::Dialect &dialect, const Engine::FieldDef &de
                 {u"ABS(%1) > 1e300"_s.arg(field), CareTexts::tr("%1 is infinite or no number.").arg(field),
                  CareTexts::tr("Every sum that it goes into is worth nothing."), correctIt()}};
     case FieldType::Date:
-        return {{dialect.variant(u"%1 NOT GLOB '[0-9][0-9][0-9][0-9]-[0-9][0-9]-[0-9][0-9]'"_s.arg(field), {}),
+        return {{dialect.variant(u"(%1 IS NOT NULL AND %1 IS NOT date(%1, '+0 days'))"_s.arg(field), {}),
                  CareTexts::tr("%1 is no date.").arg(field), CareTexts::tr("It counts as no date."), correctIt()}};
     case FieldType::Text:
         return {{dialect.variant(u"LENGTH(%1) > %2"_s.arg(field).arg(definition.size), {}),

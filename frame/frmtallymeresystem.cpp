@@ -410,6 +410,7 @@ void TFormTallymereSystem::createStatusBar()
     m_ui->RzStatusBar1->addWidget(m_leftPane);
     m_ui->RzStatusBar1->addWidget(m_hintPane, 1);
     m_serverLabel = new ServerLabel(this);
+    connect(m_serverLabel, &ServerLabel::connectedAgain, m_ui->PanelToday, &TodayPanel::refresh);
     m_ui->RzStatusBar1->addPermanentWidget(m_serverLabel);
     m_ui->RzStatusBar1->addPermanentWidget(m_progress);
 }

@@ -49,8 +49,10 @@ void ServerLabel::tell(bool isThere)
                     : tr("No connection to the server since %1. What is typed stays; it will be connected again.")
                           .arg(time));
     setVisible(true);
-    if (isThere)
-        QTimer::singleShot(goodNews, this, [this, text = text()] { setVisible(text != this->text()); });
+    if (!isThere)
+        return;
+    Q_EMIT connectedAgain();
+    QTimer::singleShot(goodNews, this, [this, text = text()] { setVisible(text != this->text()); });
 }
 
 void ServerLabel::look()

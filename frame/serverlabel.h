@@ -17,6 +17,9 @@ public:
     explicit ServerLabel(QWidget *parent);
     void follow(Engine::Database &database); // which outlives it
 
+Q_SIGNALS:
+    void connectedAgain();
+
 private:
     void tell(bool isThere);
     void look();

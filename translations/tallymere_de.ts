@@ -787,6 +787,10 @@ Für Vorschau und Druck von Berichten muss ein Drucker festgelegt, aber nicht un
         <source>Lists and reports show the record without it.</source>
         <translation>Listen und Berichte zeigen den Datensatz ohne diese Angabe.</translation>
     </message>
+    <message>
+        <source>The check &quot;%1&quot; finds other things in the copy than where it comes from, as what stands there cannot be kept as it is. Mend this first: %2</source>
+        <translation>Die Prüfung „%1“ findet in der Kopie anderes als in der Vorlage, weil sich nicht behalten lässt, was dort steht. Bitte bringen Sie zuerst das in Ordnung: %2</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>

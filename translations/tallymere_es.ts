@@ -787,6 +787,10 @@ Para ver o imprimir informes debe haber una impresora definida, aunque no es nec
         <source>Lists and reports show the record without it.</source>
         <translation>Las listas y los informes muestran el registro sin este dato.</translation>
     </message>
+    <message>
+        <source>The check &quot;%1&quot; finds other things in the copy than where it comes from, as what stands there cannot be kept as it is. Mend this first: %2</source>
+        <translation>La comprobación «%1» encuentra en la copia otras cosas que en el origen, porque lo que hay allí no se puede conservar tal cual. Corrija primero esto: %2</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>

@@ -31,8 +31,12 @@ StandbyReading::StandbyReading(PostgresLink &link, std::shared_ptr<PostgresLink>
 void StandbyReading::renew()
 {
     const bool isFirst = m_origin.reason == Reason::NotWanted; // then it has just been looked for
-    if (!isFirst && !m_link.isOnStandby())
-        m_link.moveTo(ReadFrom::Standby);
+    if (!isFirst && !m_link.isOnStandby()) {
+        m_origin.reason = Reason::NoneThere;
+        m_link.moveTo(ReadFrom::Standby); // where locks of open tables are asked for, which finds it behind at once
+        if (m_origin.reason == Reason::Behind)
+            return;
+    }
     reach(Patience::OfARun);
 }
 

@@ -151,10 +151,12 @@ TEST_P(CareTest, FindsWhatNoScreenLetsIn)
                   {u"ItemID 2"_s, u"longer than 20 characters"_s});
     expectFinding(u"values"_s, u"UPDATE Item SET WgtAvgCost = 'dear' WHERE ItemID = 2"_s,
                   {u"ItemID 2"_s, u"WgtAvgCost"_s});
-    expectFinding(
-        u"values"_s,
-        u"UPDATE IReceipt SET ReceiptDate = '3/14/2026' WHERE Posted = false AND ReceiptID = (SELECT MAX(ReceiptID) FROM IReceipt)"_s,
-        {u"ReceiptDate is no date"_s});
+    for (const QString &date : {u"3/14/2026"_s, u"2026-02-31"_s})
+        expectFinding(
+            u"values"_s,
+            u"UPDATE IReceipt SET ReceiptDate = '%1' WHERE Posted = false AND ReceiptID = (SELECT MAX(ReceiptID) FROM IReceipt)"_s
+                .arg(date),
+            {u"ReceiptDate is no date"_s});
 }
 
 TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)

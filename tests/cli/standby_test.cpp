@@ -1,4 +1,5 @@
 #include "base/origintext.h"
+#include "engine/records/tablereader.h"
 #include "engine/store/readmoment.h"
 #include "engine/store/unawaitedchange.h"
 #include "tests/cli/clirunner.h"
@@ -146,6 +147,12 @@ TEST_F(Standby, AConnectionThatStaysOpenGoesToThePrimaryAndBack)
     EXPECT_EQ(rowsOf(reading, recovers), QStringList{u"primary"_s});
     EXPECT_EQ(errorOf([&] { reading.connection().execute(u"INSERT INTO goods VALUES ('x')"_s); }),
               ErrorCode::ReadOnly);
+    {
+        TableReader list(reading, u"goods"_s);
+        list.open();
+        reading.connection().renewReading();
+        EXPECT_EQ(reading.connection().origin().reason, Reason::Behind) << "it is there still";
+    }
     replay(true);
     reading.connection().renewReading();
     EXPECT_EQ(rowsOf(reading, recovers), QStringList{u"standby"_s});
