@@ -127,9 +127,11 @@ void TfrmCheckBooks::showFindings(FindingsList findings, const QString &origin)
     std::vector<QStringList> rows;
     for (const FindingsList::Row &row : m_findings.rows())
         rows.push_back({row.check, row.finding.where, row.finding.what, FindingsList::stateText(row.state)});
-    m_ui->DBGrid1->setHint(m_findings.summary());
+    const QString summary = m_findings.summary();
+    m_ui->DBGrid1->setHint(summary);
     m_ui->DBGrid1->setRows(std::move(rows));
-    m_ui->lblStatus->setText(origin.isEmpty() ? m_findings.summary() : m_findings.summary() + ".  "_L1 + origin);
+    m_ui->lblStatus->setText(origin.isEmpty() ? summary
+                                              : summary + (summary.endsWith(u'.') ? "  "_L1 : ".  "_L1) + origin);
     m_ui->btnRepair->setEnabled(m_findings.count(FindingsList::State::Mendable) > 0);
     showFinding();
 }

@@ -131,6 +131,14 @@ DataSet::RestOver DataSetReader::restToCome() const
             return unlessReadSince([length](const DataSetReader &set) { set.takeLength(length); });
         };
     }
+    if (wanted.inParts && read(&RowSource::hasMoreThan, d.longFrom))
+        return [=](Connection &connection) -> std::function<void()> {
+            const std::optional<RowSource::Length> length = RowSource(connection, wanted, noFields).length(0);
+            return unlessReadSince([length](const DataSetReader &set) {
+                if (length)
+                    set.takeLength(*length);
+            });
+        };
     // A standby may have fewer rows than another connection finds.
     if (wanted.firstSource.isEmpty() || m_set.m_database.connection().origin().isStandby()
         || !read(&RowSource::hasMoreThan, d.longFrom))
