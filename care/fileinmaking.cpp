@@ -45,10 +45,16 @@ void takeAwayLeft(const QString &parent)
     }
 }
 
+QString templateIn(const QString &parent)
+{
+    takeAwayLeft(parent);
+    return parent + "/.copy-XXXXXX"_L1;
+}
+
 } // namespace
 
 FileInMaking::FileInMaking(const QString &parent, qint64 bytes)
-    : m_folder((takeAwayLeft(parent), parent + u"/.copy-XXXXXX"_s))
+    : m_folder(templateIn(parent))
     , m_owner(ownerIn(m_folder.path()))
 {
     requireRoom(parent, bytes);

@@ -160,9 +160,9 @@ public:
     static constexpr int longSet = 100'000;
     void onLongRead(std::function<void(const ReadOver &)> aside, int longFrom = longSet);
 
-    // What the keys of a long set, or only their number, would be read for a time that grows with it. For whoever shows its first
-    // rows meanwhile: what reads them over another connection, on whatever thread, and gives what hands them over, to be called on the
-    // set's own; they are taken unless the set has been read or changed since. Null where there is little to be gained.
+    // For whoever shows the first rows of a long set: what reads its keys, or only their number, over another connection, on
+    // whatever thread, and gives what hands them over, to be called on the set's own. They are taken unless the set has been
+    // read or changed since. Null where there is little to be gained.
     using RestOver = std::function<std::function<void()>(Connection &)>;
     RestOver restToCome() const;
 

@@ -118,8 +118,10 @@ DataSet::RestOver DataSetReader::restToCome() const
     const SetScope wanted = scope();
     const auto unlessReadSince = [set = QPointer(&d.set), reading = d.readings](const auto &take) {
         return [set, reading, take] {
-            if (set && !set->d->keysRead && set->d->readings == reading)
-                take(DataSetReader(*set));
+            if (!set || set->d->keysRead || set->d->readings != reading)
+                return;
+            set->d->cursor.listChanged(); // rows may have come before it since it was read
+            take(DataSetReader(*set));
         };
     };
     if (wanted.inParts && source().isFar()) {

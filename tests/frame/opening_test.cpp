@@ -329,6 +329,11 @@ TEST_F(OpeningTest, TodayTellsWhatWaitsEachTimeTheWindowComesToTheFrontAndOpensI
         EXPECT_EQ(done.join(u", "_s), u"create, what waits"_s);
         EXPECT_TRUE(screen && screen->objectName() == "frmUsages"_L1);
 
+        store.execute(u"INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, Posted) VALUES (2, '2', 1, false)"_s);
+        form.dataModule()->databaseTallymere().session().serverChanged(true); // it is there again
+        EXPECT_TRUE(comesTrue([&] { return usage.figure() == "2"_L1; }));
+        store.execute(u"DELETE FROM IUsage WHERE UsageID = 2"_s);
+
         done.clear();
         form.findChild<FigureButton *>(u"todayBelowZero"_s)->click();
         EXPECT_EQ(done.join(u", "_s), u"create, reset filter"_s) << "nothing waits: all rows";
