@@ -53,23 +53,24 @@ bool isUsed(Engine::Database &database, qint64 key, const QString &keyField, con
 }
 
 // Whether the key that the counter gives is used, with that key: asked before the row of the counter is read, so that both
-// travel together.
+// travel together. There may be no row yet.
 Engine::StatementPtr askUseOfNext(Table &counters, QStringView field, const QString &keyField,
-                                  const QStringList &tables)
+                                  const QStringList &tables, qint64 restartWhenZero)
 {
     QStringList uses;
     for (const QString &table : tables)
         uses << u"EXISTS (SELECT 1 FROM %1 WHERE %2 = N.NextKey)"_s.arg(table, keyField);
     Engine::StatementPtr row = counters.database().connection().prepare(
-        u"SELECT N.NextKey, %1 FROM (SELECT %2 AS NextKey FROM %3 LIMIT 1) N"_s.arg(uses.join(" OR "_L1), field,
-                                                                                    counters.name()));
+        u"SELECT N.NextKey, %1 FROM (SELECT COALESCE(NULLIF((SELECT %2 FROM %3 LIMIT 1), 0), CAST(? AS BIGINT)) "
+        "AS NextKey) N"_s.arg(uses.join(" OR "_L1), field, counters.name()));
+    row->bindInt(0, restartWhenZero);
     row->ask();
     return row;
 }
 
 bool tellsFree(Engine::Statement &use, qint64 key)
 {
-    return use.next() && !use.isNull(0) && use.intAt(0) == key && use.intAt(1) == 0;
+    return use.next() && use.intAt(0) == key && use.intAt(1) == 0;
 }
 
 // The end of the run of keys that a used one stands in. A counter may be a whole table behind: one statement goes along
@@ -157,11 +158,12 @@ qint64 CounterRow::take(Engine::WholeNumberName field)
 
 qint64 CounterRow::value(Engine::WholeNumberName field) const { return inEdit(m_table).value(field).toInt64(); }
 
-void CounterRow::expectKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables)
+void CounterRow::expectKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables,
+                           qint64 restartWhenZero)
 {
     const Engine::Connection &connection = m_table.database().connection();
     if (!m_use && !m_table.isEditing() && connection.sendsAhead() && !connection.isInRun())
-        m_use = askUseOfNext(m_table, field, keyField, tables);
+        m_use = askUseOfNext(m_table, field, keyField, tables, restartWhenZero);
 }
 
 qint64 CounterRow::takeKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables)

@@ -34,8 +34,10 @@ public:
 
     // Hands out the field's number and moves the field on by one.
     qint64 take(Engine::WholeNumberName field);
-    // Asks whether takeKey() will find the next key used, along with the row; for a rule that takes something else first.
-    void expectKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables);
+    // Asks whether takeKey() will find the next key used, along with the row; for a rule that does something else first, as
+    // starting again when the field is zero.
+    void expectKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables,
+                   qint64 restartWhenZero = 0);
     // The same for the key of a new record, passing over every key that a row of the tables has in the key field: a
     // counter may be behind them, as one that was restored or emptied is. The tables have an index that begins with it.
     qint64 takeKey(Engine::WholeNumberName field, const QString &keyField, const QStringList &tables);

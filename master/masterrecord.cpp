@@ -122,7 +122,7 @@ void MasterRecord::assignIdentity(const NumberSource &source)
     if (m_kind.record.counterTable.isEmpty())
         return;
     source(m_kind.record.counterTable, [this](CounterRow &counters) {
-        counters.expectKey(m_kind.record.keyCounter, m_kind.keyField, m_kind.keyTables());
+        counters.expectKey(m_kind.record.keyCounter, m_kind.keyField, m_kind.keyTables(), firstCountedKey);
         if (m_givenNumber.isEmpty()) {
             counters.restartOutside(m_kind.record.numberCounter, firstNumber, lastNumber, firstNumber);
             m_table.setDefault(m_kind.numberField, QString::number(counters.take(m_kind.record.numberCounter)));

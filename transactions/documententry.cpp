@@ -2,6 +2,7 @@
 
 #include "base/formats.h"
 #include "base/ruleerror.h"
+#include "engine/store/tablelocks.h"
 #include "engine/values/error.h"
 #include "transactions/texts.h"
 
@@ -49,6 +50,7 @@ DocumentEntry::~DocumentEntry()
 
 void DocumentEntry::open()
 {
+    const Engine::OpenShares together(database(), m_kind.keyTables());
     m_header.open();
     m_lines.open();
     configureFields();

@@ -4,6 +4,7 @@
 #include "engine/postgres/link.h"
 #include "engine/store/driver.h"
 
+#include <map>
 #include <QHash>
 
 namespace Engine {
@@ -66,8 +67,7 @@ private:
     std::unique_ptr<PostgresLocks> m_locks;
     std::unique_ptr<StandbyReading> m_reading; // of one that reads from a standby
     QHash<QString, TableLayout> m_layouts;
-    QString m_askedTable;
-    StatementPtr m_askedLayout;
+    std::map<QString, StatementPtr> m_askedLayouts;
     bool m_isMade = false;
 
     StatementPtr describing(const QString &table);

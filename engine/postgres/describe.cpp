@@ -119,20 +119,19 @@ void PostgresConnection::askLayout(const QString &table)
 {
     StatementPtr asked = describing(table);
     asked->ask();
-    m_askedTable = table;
-    m_askedLayout = std::move(asked);
+    m_askedLayouts.insert_or_assign(table, std::move(asked));
 }
 
 void PostgresConnection::forgetLayout(const QString &table)
 {
     m_layouts.remove(table);
-    m_askedLayout.reset();
+    m_askedLayouts.erase(table);
 }
 
 void PostgresConnection::forgetLayouts()
 {
     m_layouts.clear();
-    m_askedLayout.reset();
+    m_askedLayouts.clear();
 }
 
 std::optional<TableLayout> PostgresConnection::describe(const QString &table)
@@ -140,9 +139,8 @@ std::optional<TableLayout> PostgresConnection::describe(const QString &table)
     const QString name = table.toLower();
     if (const auto known = m_layouts.constFind(name); known != m_layouts.constEnd() && m_locks->isOpenShared(name))
         return *known;
-    const StatementPtr asked = std::exchange(m_askedLayout, {});
-    const std::optional<TableLayout> layout =
-        asked && m_askedTable == name ? read(*asked) : read(*describing(name));
+    const auto asked = m_askedLayouts.extract(name);
+    const std::optional<TableLayout> layout = read(asked ? *asked.mapped() : *describing(name));
     if (layout && m_locks->isOpenShared(name))
         m_layouts.insert(name, *layout);
     return layout;

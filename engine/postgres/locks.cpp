@@ -205,6 +205,31 @@ bool PostgresLocks::changeOpen(const QString &table, OpenMode from, OpenMode to,
     return true;
 }
 
+QStringList PostgresLocks::acquireShared(const QStringList &tables)
+{
+    std::map<QString, StatementPtr> locks;
+    const auto lockOf = [&](const QString &table) -> Statement & {
+        return *(locks[table] = bound(lockShared, {openNumber(table), 0}));
+    };
+    for (const QString &table : tables)
+        m_connection.forgetLayout(table);
+    askWith(lockOf(tables.constFirst()), [&] {
+        m_connection.askLayout(tables.constFirst());
+        for (const QString &table : tables.mid(1)) {
+            lockOf(table).ask();
+            m_connection.askLayout(table);
+        }
+    });
+    QStringList acquired;
+    for (const auto &[table, lock] : locks) {
+        if (lock->next() && lock->intAt(0) == 1)
+            acquired << table;
+        else
+            m_connection.forgetLayout(table);
+    }
+    return acquired;
+}
+
 qint64 PostgresLocks::placeOf(const QString &, const QList<qint64> &key) const
 {
     constexpr qint64 least = std::numeric_limits<qint32>::min();

@@ -49,6 +49,7 @@ public:
 
 protected:
     bool changeOpen(const QString &table, OpenMode from, OpenMode to, bool isToBeDescribed) override;
+    QStringList acquireShared(const QStringList &tables) override;
     qint64 placeOf(const QString &table, const QList<qint64> &key) const override;
     bool acquireRecord(const QString &table, const Place &place) override;
     void releaseRecord(const QString &table, const Place &place) noexcept override;

@@ -389,10 +389,11 @@ bool Table::decidesPlace(int fieldNumber) const
 
 void Table::showInserted(Row row)
 {
+    const bool isOnlyOne = exclusive && d->cursor.isEmpty();
     invalidate(Place::First);
     if (const auto key = storedKey(row)) {
         d->cursor.to(*key, std::move(row));
-    } else if (const int count = m_layout.primary() ? 0 : recordCount(); count > 0) {
+    } else if (const int count = m_layout.primary() || isOnlyOne ? 0 : recordCount(); count > 0) {
         // Without a primary key the new row is the last in the natural order.
         d->cursor.to(DataSetReader(*this).keyAt(count - 1), std::move(row));
     }

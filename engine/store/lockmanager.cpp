@@ -71,6 +71,21 @@ bool LockManager::tryOpenShared(const QString &table, bool isToBeDescribed)
     return true;
 }
 
+QStringList LockManager::openSharedTogether(const QStringList &tables)
+{
+    QStringList wanted;
+    for (const QString &table : tables) {
+        const QString name = table.toLower();
+        const Held *held = find(name);
+        if (!wanted.contains(name) && (!held || held->shared + held->exclusive == 0))
+            wanted << name;
+    }
+    const QStringList opened = wanted.size() > 1 ? acquireShared(wanted) : QStringList();
+    for (const QString &name : opened)
+        ++m_held[name].shared;
+    return opened;
+}
+
 void LockManager::closeShared(const QString &table) noexcept
 {
     const QString name = table.toLower();

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QtGlobal>
 #include <set>
 
@@ -49,6 +50,9 @@ public:
     // What is to be described next is described along with its lock.
     bool tryOpenShared(const QString &table, bool isToBeDescribed = false);
     void closeShared(const QString &table) noexcept;
+    // Several at once, in one journey; each is to be described. Gives those that are held now and are to be closed; one that is
+    // left out is open already, or tells by itself why it cannot be. None where the store is at hand.
+    QStringList openSharedTogether(const QStringList &tables);
     bool tryOpenExclusive(const QString &table, bool isToBeDescribed = false);
     void closeExclusive(const QString &table) noexcept;
 
@@ -108,6 +112,7 @@ protected:
     enum class OpenMode { None, Shared, Exclusive };
     // From one mode to the other; true when that was possible. Going down always is.
     virtual bool changeOpen(const QString &table, OpenMode from, OpenMode to, bool isToBeDescribed) = 0;
+    virtual QStringList acquireShared(const QStringList &) { return {}; } // those of them that could be had
     virtual qint64 placeOf(const QString &table, const QList<qint64> &key) const = 0;
     struct Place
     {

@@ -24,6 +24,18 @@ void refuseTable(LockManager &locks, const QString &table, const QString &title)
               .arg(title, locks.holderOf(table)));
 }
 
+OpenShares::OpenShares(Database &database, const QStringList &tables)
+    : m_locks(database.connection().locks())
+    , m_opened(m_locks.openSharedTogether(tables))
+{
+}
+
+OpenShares::~OpenShares()
+{
+    for (const QString &table : std::as_const(m_opened))
+        m_locks.closeShared(table);
+}
+
 TableLocks::TableLocks(Database &database)
     : m_locks(database.connection().locks())
     , m_session(database.session())

@@ -32,6 +32,21 @@ private:
     QStringList m_tables;
 };
 
+// Tables that are about to be opened beside others, as those of one screen: where the store is far away, they are asked for
+// together. Held up to the end of the object. One that cannot be had says so when it is opened.
+class OpenShares
+{
+public:
+    OpenShares(Database &database, const QStringList &tables);
+    ~OpenShares();
+    OpenShares(const OpenShares &) = delete;
+    OpenShares &operator=(const OpenShares &) = delete;
+
+private:
+    LockManager &m_locks;
+    QStringList m_opened;
+};
+
 // For opening a table beside others: throws TableInUse when somebody holds it alone.
 void openShared(LockManager &locks, const QString &table, const QString &title, bool isToBeDescribed = false);
 

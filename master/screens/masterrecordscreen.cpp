@@ -13,8 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-MasterRecordScreen::MasterRecordScreen(ScreenContext &context, const MasterKind &kind, QWidget *parent)
+MasterRecordScreen::MasterRecordScreen(ScreenContext &context, const MasterKind &kind, QWidget *parent,
+                                       const QStringList &otherTables)
     : RecordScreen(context, parent)
+    , m_opening(context.data.databaseTallymere(), QStringList(kind.table) + otherTables)
     , m_record(context.data.databaseTallymere(), kind)
 {
     m_record.open();

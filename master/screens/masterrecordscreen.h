@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/screens/recordscreen.h"
+#include "engine/store/tablelocks.h"
 #include "master/masterrecord.h"
 
 namespace Tallymere {
@@ -24,7 +25,9 @@ public:
     bool isNew() const { return m_record.isNew(); }
 
 protected:
-    MasterRecordScreen(ScreenContext &context, const MasterKind &kind, QWidget *parent); // the record is open
+    // The record is open. What else the screen opens is named.
+    MasterRecordScreen(ScreenContext &context, const MasterKind &kind, QWidget *parent,
+                       const QStringList &otherTables = {});
 
     // Called once by the constructor of a screen, after its form has been set up: fills the lookup boxes, binds the
     // fields and connects the buttons.
@@ -50,6 +53,7 @@ private:
     void addSaveAndNew();
     void followName(); // the caption, while the name is typed
 
+    const Engine::OpenShares m_opening; // of its tables
     MasterRecord m_record;
     bool m_saved = false;
 };

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 TfrmVendor::TfrmVendor(ScreenContext &context, QWidget *parent)
-    : MasterRecordScreen(context, MasterKinds::vendor(), parent)
+    : MasterRecordScreen(context, MasterKinds::vendor(), parent, {u"VContact"_s})
     , m_ui(std::make_unique<Ui::TfrmVendor>())
     , m_contacts(context.data.databaseTallymere(), MasterKinds::vendorContact())
     , m_contactCards(new ListRecordOpener(

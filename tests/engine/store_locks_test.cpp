@@ -86,6 +86,17 @@ TEST_P(LocksTest, WhatTwoUsersMayHoldAtTheSameTime)
     }
 }
 
+TEST_P(LocksTest, OfTablesAskedForTogetherThoseAreHeldThatCanBeHad)
+{
+    ASSERT_TRUE(annas.tryOpenExclusive(u"Tax"_s));
+    const QStringList opened = mine.openSharedTogether({u"Item"_s, u"Tax"_s, u"Warehse"_s});
+    EXPECT_EQ(opened, connection.sendsAhead() ? QStringList({u"item"_s, u"warehse"_s}) : QStringList());
+    EXPECT_EQ(annas.tryOpenExclusive(u"Item"_s), opened.isEmpty());
+    for (const QString &table : opened)
+        mine.closeShared(table);
+    EXPECT_TRUE(annas.tryOpenExclusive(u"Item"_s));
+}
+
 TEST_P(LocksTest, RecordsStayLockedWhenTheTableLockAboveThemGoes)
 {
     ASSERT_TRUE(mine.tryLockRecord(u"Item"_s, {1}));

@@ -44,10 +44,20 @@ constexpr QStringView descriptionField = Fields::ItemDescription; // of an item,
 constexpr int rowsAtFirst = 5;
 constexpr int columnsAtFirst = 5; // further ones take the room of the one with surplus,
 constexpr int stockWidth = 80; // but for the two that tell the stock
+
+QStringList neededTables(const DocumentKind &kind)
+{
+    QStringList tables = kind.keyTables();
+    for (const DocumentKind::NumberFor &other : kind.files.numbers)
+        tables << other.table;
+    return tables << u"Warehse"_s;
+}
+
 } // namespace
 
 DocumentScreen::DocumentScreen(ScreenContext &context, const DocumentKind &kind, QWidget *parent)
     : RecordScreen(context, parent)
+    , m_opening(context.data.databaseTallymere(), neededTables(kind))
     , m_askedBegun(BegunDocument::askBegun(context.data.databaseTallymere(), kind))
     , m_entry(kind.entry.make(context.data.databaseTallymere(), context.prompts))
 {

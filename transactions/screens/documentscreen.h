@@ -3,6 +3,7 @@
 #include "controls/grids/lineoptions.h"
 #include "controls/grids/tablemodel.h"
 #include "controls/screens/recordscreen.h"
+#include "engine/store/tablelocks.h"
 #include "transactions/documententry.h"
 
 #include <functional>
@@ -95,6 +96,7 @@ private:
     void takeScan(bool inItsColumn, const QString &code);
     QString completeDescription(const QString &field, const QString &typed) const;
 
+    const Engine::OpenShares m_opening; // of its tables and lists
     Engine::Answer<QList<qint64>> m_askedBegun; // for a new document; it travels with the opening of the tables
     std::unique_ptr<DocumentEntry> m_entry;
     LineGrid *m_grid = nullptr;
