@@ -1,6 +1,7 @@
 #include "frame/frmtallymeresystem.h"
 
 #include "base/ruleerror.h"
+#include "controls/fields/inusenotice.h"
 #include "controls/windows/dialogover.h"
 #include "controls/windows/filechoice.h"
 #include "controls/windows/icons.h"
@@ -411,8 +412,18 @@ void TFormTallymereSystem::createStatusBar()
     m_ui->RzStatusBar1->addWidget(m_hintPane, 1);
     m_serverLabel = new ServerLabel(this);
     connect(m_serverLabel, &ServerLabel::connectedAgain, m_ui->PanelToday, &TodayPanel::refresh);
+    connect(m_serverLabel, &ServerLabel::connectedAgain, this, &TFormTallymereSystem::holdEditsAgain);
     m_ui->RzStatusBar1->addPermanentWidget(m_serverLabel);
     m_ui->RzStatusBar1->addPermanentWidget(m_progress);
+}
+
+// Before somebody else does, and not only when they are saved.
+void TFormTallymereSystem::holdEditsAgain()
+{
+    const QList<QWidget *> windows = screens();
+    for (const QWidget *window : windows)
+        for (InUseNotice *notice : window->findChildren<InUseNotice *>())
+            notice->look();
 }
 
 void TFormTallymereSystem::scaleSizes()

@@ -105,6 +105,7 @@ private:
     void openToday(const QString &screen, bool waits);
     void bindControls();
     void createStatusBar();
+    void holdEditsAgain(); // after the connection was lost
     void scaleSizes();
     void makeRoomForWords();
     void prepareOpening();

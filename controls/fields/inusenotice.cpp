@@ -1,5 +1,6 @@
 #include "controls/fields/inusenotice.h"
 
+#include "base/ruleerror.h"
 #include "controls/fields/fieldbinder.h"
 #include "controls/windows/screenmetrics.h"
 #include "engine/records/table.h"
@@ -74,6 +75,21 @@ InUseNotice::Answers InUseNotice::askHolders() const
     return answers;
 }
 
+// A connection that is lost again is not told of here.
+QString InUseNotice::holdAgain() const
+{
+    const QList<Engine::Table *> tables = m_binder.tables();
+    try {
+        for (Engine::Table *table : tables)
+            table->holdAgain();
+    } catch (const RuleError &error) {
+        return error.message();
+    } catch (const Engine::EngineError &error) {
+        return error.isOfTheStore() ? QString() : error.text();
+    }
+    return {};
+}
+
 void InUseNotice::tell()
 {
     const std::optional<Answers> asked = std::exchange(m_asked, std::nullopt);
@@ -85,9 +101,12 @@ void InUseNotice::tell()
             owner = owner ? owner : answer();
     } catch (const Engine::EngineError &) {
     }
+    const QString refusal = owner ? QString() : holdAgain();
     if (owner)
         setText(tr("In use by %1. You can read it; it can be changed once it is free.").arg(owner->description()));
-    setVisible(owner.has_value());
+    else if (!refusal.isEmpty())
+        setText(refusal);
+    setVisible(owner || !refusal.isEmpty());
     m_binder.setInUse(owner.has_value());
     if (owner)
         m_again.start();

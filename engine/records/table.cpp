@@ -198,6 +198,13 @@ bool Table::haveSameData(const Row &a, const Row &b) const
     return true;
 }
 
+void Table::holdAgain()
+{
+    Connection &connection = m_database.connection();
+    if (m_edit && !connection.inTransaction() && !connection.locks().areLost())
+        hold();
+}
+
 bool Table::isStored() const { return m_edit && m_edit->isStored; }
 
 bool Table::holdRecord()

@@ -70,6 +70,9 @@ public:
     // RecordLocked when somebody else edits the record now, RecordChanged or RecordGone when somebody has changed it
     // meanwhile: the edit can only be dropped then. Saving does this by itself.
     bool holdRecord();
+    // All that the edit relies on, with what is named by holdMore, once there is a connection again; so that nobody else comes
+    // first, and the user learns at once that it cannot be saved. Nothing while there is none. Throws as holdRecord() does.
+    void holdAgain();
     // holdRecord() has found that this edit is stored as it was to be saved last: only the store's answer was lost.
     bool isStored() const;
 

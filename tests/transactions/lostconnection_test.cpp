@@ -1,5 +1,6 @@
 // Windows in edit whose server, or whose hold on a record, is gone.
 
+#include "controls/fields/inusenotice.h"
 #include "controls/grids/linegrid.h"
 #include "master/screens/itemtypeinv.h"
 #include "tests/support/screentest.h"
@@ -69,6 +70,39 @@ TEST_F(LostConnection, whatIsInEditIsSavedOverANewConnection)
     EXPECT_EQ(rowsOf(keeper->database,
                      u"SELECT PurchaseOrderNo, TypeName FROM IReceipt, ItemType WHERE ItemTypeID = 1"_s),
               QStringList{u"P1|Groceries"_s});
+}
+
+TEST_F(LostConnection, whatIsInEditIsHeldAgainOnceThereIsAConnection)
+{
+    const std::pair<const char *, QString> changes[] = {
+        {"SELECT 1", QString()},
+        {"UPDATE IReceipt SET PurchaseOrderNo = 'P2'", u"changed by another user"_s},
+        {"DELETE FROM IReceipt", u"deleted by another user"_s},
+    };
+    Engine::Connection &mine = data->databaseTallymere().connection();
+    Engine::LockManager &theirs = keeper->database.connection().locks();
+    for (const auto &[change, said] : changes) {
+        SCOPED_TRACE(change);
+        open<TfrmInvReceipt>(7);
+        changeHeader();
+        cut(false);
+        ASSERT_TRUE(mine.hasEnded());
+        run(QString::fromLatin1(change));
+        auto *notice = child<InUseNotice>(*screen, "lblInUse");
+        notice->look();
+        settle();
+        EXPECT_TRUE(mine.hasEnded()) << "it is not connected to for that";
+        mine.execute(u"SELECT 1"_s);
+        notice->look();
+        settle();
+        EXPECT_EQ(notice->isVisible(), !said.isEmpty());
+        EXPECT_TRUE(has(notice->text(), said)) << notice->text().toStdString();
+        EXPECT_EQ(theirs.tryLockRecord(u"IReceipt"_s, {7}), !said.isEmpty());
+        theirs.unlockRecord(u"IReceipt"_s, {7});
+        click(*screen, "btnCancel");
+        ASSERT_TRUE(comesTrue([&] { return !screen; }));
+    }
+    EXPECT_EQ(prompts.told().toStdString(), "");
 }
 
 TEST_F(LostConnection, everyWayOutEndsTheScreen)
