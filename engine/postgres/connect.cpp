@@ -19,6 +19,7 @@ namespace {
 // For a server to answer: the only one there is, and each of several.
 constexpr std::chrono::seconds connectTimeout{10};
 constexpr std::chrono::seconds oneOfSeveralTimeout{4};
+constexpr std::chrono::milliseconds betweenSigns{100}; // that it is still waited for
 
 // The words and values of PQconnectStartParams, kept for the time of the call.
 class Parameters
@@ -88,7 +89,9 @@ void ignoreNotice(void *, const PGresult *) { }
 enum class Outcome { Connected, Failed, Silent };
 
 // Waits for the server without trusting every address of it to answer in time. Tells how far it came before a failure.
-Outcome awaitConnection(pg_conn *handle, std::chrono::seconds time, ConnStatusType *stage)
+// Now and then something else may be done meanwhile.
+Outcome awaitConnection(pg_conn *handle, std::chrono::seconds time, ConnStatusType *stage,
+                        const std::function<void()> &meanwhile)
 {
     using Clock = std::chrono::steady_clock;
     auto deadline = Clock::now() + time;
@@ -96,8 +99,13 @@ Outcome awaitConnection(pg_conn *handle, std::chrono::seconds time, ConnStatusTy
     PostgresPollingStatusType state = PGRES_POLLING_WRITING;
     while (state == PGRES_POLLING_READING || state == PGRES_POLLING_WRITING) {
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
-        if (left.count() <= 0 || !waitForSocket(PQsocket(handle), state == PGRES_POLLING_WRITING, left))
+        if (left.count() <= 0)
             return Outcome::Silent;
+        if (!waitForSocket(PQsocket(handle), state == PGRES_POLLING_WRITING, std::min(left, betweenSigns))) {
+            if (meanwhile)
+                meanwhile();
+            continue;
+        }
         *stage = PQstatus(handle);
         state = PQconnectPoll(handle);
         if (server != serverOf(handle)) {
@@ -246,7 +254,8 @@ struct Attempt
 };
 
 // From the first byte of the connection on verbose, so that libpq gives the codes of failures too.
-Attempt attempted(const PostgresTarget &target, const QList<PostgresServer> &servers)
+Attempt attempted(const PostgresTarget &target, const QList<PostgresServer> &servers,
+                  const std::function<void()> &meanwhile)
 {
     Attempt attempt{beginConnecting(target, servers), {}};
     pg_conn *handle = attempt.handle.get();
@@ -255,7 +264,8 @@ Attempt attempted(const PostgresTarget &target, const QList<PostgresServer> &ser
     if (handle)
         PQsetErrorVerbosity(handle, PQERRORS_VERBOSE);
     if (handle && PQstatus(handle) != CONNECTION_BAD)
-        outcome = awaitConnection(handle, target.hasSeveral() ? oneOfSeveralTimeout : connectTimeout, &stage);
+        outcome =
+            awaitConnection(handle, target.hasSeveral() ? oneOfSeveralTimeout : connectTimeout, &stage, meanwhile);
     if (outcome == Outcome::Connected) {
         PQsetErrorVerbosity(handle, PQERRORS_DEFAULT);
         PQsetNoticeReceiver(handle, ignoreNotice, nullptr);
@@ -269,12 +279,12 @@ Attempt attempted(const PostgresTarget &target, const QList<PostgresServer> &ser
 
 // The client library goes on to the next server where one refuses or cannot be written to, but not where one says nothing,
 // or has not heard yet of a new database.
-PostgresHandle opened(const PostgresTarget &target)
+PostgresHandle opened(const PostgresTarget &target, const std::function<void()> &meanwhile)
 {
     requireAddress(target);
     QList<PostgresServer> left = spokenFirst(target); // empty: as the target says
     for (;;) {
-        Attempt attempt = attempted(target, left);
+        Attempt attempt = attempted(target, left, meanwhile);
         if (!attempt.error)
             return std::move(attempt.handle);
         if (!target.hasSeveral() || !attempt.isWorthTheNext || isSet("PGHOSTADDR"))
@@ -355,13 +365,15 @@ void PostgresLink::connect()
 
 PostgresHandle PostgresLink::openedWhereWanted()
 {
+    // Only what is connected again refuses what a screen does meanwhile (makeReady).
+    const std::function<void()> meanwhile = m_isConnecting ? m_target.stayAlive : std::function<void()>();
     try {
-        return opened(m_target);
+        return opened(m_target, meanwhile);
     } catch (const EngineError &) {
         if (!std::exchange(m_target.wantsStandby, false))
             throw;
     }
-    return opened(m_target);
+    return opened(m_target, meanwhile);
 }
 
 void PostgresLink::beginSession()

@@ -33,6 +33,7 @@ PostgresTarget targetOf(const Database &database)
                                          std::chrono::milliseconds time) {
         return session.mayTryAgain(since, time);
     };
+    target.stayAlive = [&session] { session.stayAlive(); };
     target.serverWait = session.serverWait;
     target.answerWait = session.answerWait;
     target.standbyWait = session.standbyWait;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <libpq-fe.h>
+#include <QScopedValueRollback>
 #include <QScopeGuard>
 #include <utility>
 
@@ -23,6 +24,10 @@ constexpr std::chrono::milliseconds silence{150};
 constexpr std::chrono::seconds watchTime{10};
 constexpr std::chrono::seconds answerOnItsWay{10};
 constexpr std::chrono::seconds nextWatch{20};
+
+// Until a screen is told that the server says nothing, and how often it may live then.
+constexpr std::chrono::seconds longSilence{2};
+constexpr std::chrono::milliseconds betweenSigns{100};
 
 // What counts as a long wait for a connection, and how long none is tried after one that was in vain.
 constexpr std::chrono::seconds longWait{5};
@@ -53,6 +58,8 @@ void PostgresLink::prepareFor(ResultReader *reader)
 
 void PostgresLink::makeReady(ResultReader *reader)
 {
+    if (m_isAwaiting) // what a screen does while a silent server is waited for
+        throw connectionLost(location(), u"being waited for"_s);
     if (m_reader && m_reader != reader)
         m_reader->readAhead();
     m_blocker.reset();
@@ -138,7 +145,7 @@ std::optional<qint64> PostgresLink::logEnd()
 bool PostgresLink::mayReadAgain(const EngineError &error) const
 {
     return error.code() == ErrorCode::ConnectionLost && m_target.mayWaitForServer && !m_inTransaction
-        && !m_lostInTransaction && !m_isConnecting && (!mayReconnect || mayReconnect());
+        && !m_lostInTransaction && !m_isConnecting && !m_isAwaiting && (!mayReconnect || mayReconnect());
 }
 
 // One that does not exist any more fails for itself alone.
@@ -186,6 +193,8 @@ bool PostgresLink::mayTryAgain(const EngineError &error, std::chrono::steady_clo
 
 ResultPtr PostgresLink::nextResult()
 {
+    if (m_isAwaiting)
+        throw connectionLost(location(), u"being waited for"_s);
     while (PQisBusy(handle())) {
         if (!isAnswered(silence))
             awaitAnswer();
@@ -206,15 +215,15 @@ void PostgresLink::awaitAnswer()
     using Clock = std::chrono::steady_clock;
     do {
         PostgresWatch watch(m_target, serverOf(handle()), m_session.processId);
-        const auto deadline = Clock::now() + watchTime;
-        while (!watch.isOver() && Clock::now() < deadline) {
-            const Clock::duration left = std::max(deadline - Clock::now(), Clock::duration::zero());
-            waitForEither(PQsocket(handle()), watch.socket(), watch.wantsToWrite(),
-                          std::chrono::duration_cast<std::chrono::milliseconds>(left));
+        const auto begun = Clock::now();
+        while (!watch.isOver() && Clock::now() - begun < watchTime) {
+            waitForEither(PQsocket(handle()), watch.socket(), watch.wantsToWrite(), betweenSigns);
             if (isAnswered({}))
-                return;
+                return tell(true);
             if (waitForSocket(watch.socket(), watch.wantsToWrite(), {}))
                 watch.proceed();
+            else
+                stayAlive(begun);
         }
         m_blocker = watch.blocker();
         const bool gone = !watch.isOver() || (watch.isIdle() && !isAnswered(answerOnItsWay));
@@ -223,6 +232,16 @@ void PostgresLink::awaitAnswer()
             throw connectionLost(location(), u"no answer"_s);
         }
     } while (!isAnswered(nextWatch));
+}
+
+// A window that stood still would look as if it had broken down.
+void PostgresLink::stayAlive(std::chrono::steady_clock::time_point since)
+{
+    if (!m_target.stayAlive || std::chrono::steady_clock::now() - since < longSilence)
+        return;
+    tell(false);
+    QScopedValueRollback awaiting(m_isAwaiting, true);
+    m_target.stayAlive();
 }
 
 ResultPtr PostgresLink::checked(ResultPtr result)
@@ -266,6 +285,8 @@ void PostgresLink::tell(bool isThere)
 
 bool PostgresLink::hasEnded()
 {
+    if (m_isAwaiting)
+        return false; // whoever waits finds out
     constexpr int mostLooks = 3; // its last words, and the end itself
     for (int look = 0; look < mostLooks && !isLost() && !m_reader && isAnswered({}); ++look) {
         if (PQconsumeInput(handle()) != 1)

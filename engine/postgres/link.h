@@ -48,6 +48,7 @@ struct PostgresTarget
     // The same for a server that is gone, for as long as is told.
     std::function<bool(std::chrono::steady_clock::time_point since, std::chrono::milliseconds time)>
         mayWaitForServer;
+    std::function<void()> stayAlive; // called while a server says nothing that has spoken before
     std::chrono::milliseconds serverWait{0}; // until another server has taken over; see Session
     std::chrono::milliseconds answerWait{0}; // until a lost answer to a commit has been looked up
     std::function<void(bool isThere)> told; // that the server is gone, and there again
@@ -216,6 +217,7 @@ private:
     void noteLoss();
     void loseAnswers();
     void awaitAnswer();
+    void stayAlive(std::chrono::steady_clock::time_point since);
     bool isAnswered(std::chrono::milliseconds time) const;
     void beginSession();
     void endSession(const ServerSession &session);
@@ -230,6 +232,7 @@ private:
     bool m_writes = false; // the transaction may
     int m_commits = 0;
     bool m_isConnecting = false;
+    bool m_isAwaiting = false; // and lets a screen live meanwhile
     bool m_isToldLost = false;
     int m_generation = 0;
     int m_statementCount = 0;

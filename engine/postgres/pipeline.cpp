@@ -106,7 +106,7 @@ void PostgresLink::awaitUnawaited() noexcept
 {
     try {
         unawaited().removeAll(this);
-        if (m_sent.empty() || isLost() || m_reader) // who reads has had all answers before
+        if (m_sent.empty() || isLost() || m_reader || m_isAwaiting) // who reads has had all answers before
             return;
         if (m_sent.back().kind != Sent::Synchronization)
             synchronize(); // else the server keeps its answers

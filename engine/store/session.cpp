@@ -24,6 +24,13 @@ void Session::pause(std::chrono::milliseconds time) const
         std::this_thread::sleep_for(time);
 }
 
+void Session::stayAlive() const
+{
+    constexpr std::chrono::milliseconds moment{20};
+    if (waitFor && !m_pausing)
+        pause(moment);
+}
+
 bool Session::mayTryAgain(std::chrono::steady_clock::time_point since) const
 {
     return mayTryAgain(since, lockAttempts * lockPause);

@@ -61,7 +61,8 @@ public:
     std::function<void(const ReadOrigin &)> readFrom;
     // Told when the server of a database is gone, and when it is there again.
     std::function<void(bool isThere)> serverChanged;
-    // Called for each pause instead of sleeping, so that a screen can stay alive. Empty: sleep.
+    // Called for each pause instead of sleeping, so that a screen can stay alive. Empty: sleep. What it lets happen is refused
+    // by a connection that is waiting itself.
     std::function<void(std::chrono::milliseconds)> waitFor;
 
     // The time of all that works with its databases: dates of new documents, periods proposed, notes of what was done.
@@ -77,6 +78,8 @@ public:
     // meanwhile must not wait as well.
     bool mayTryAgain(std::chrono::steady_clock::time_point since) const;
     bool mayTryAgain(std::chrono::steady_clock::time_point since, std::chrono::milliseconds time) const;
+    // While a server says nothing: lets a screen live for a moment, where there is one.
+    void stayAlive() const;
 
 private:
     QString m_name;

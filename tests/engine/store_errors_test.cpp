@@ -349,19 +349,56 @@ TEST_F(ConnectionLostTest, AnEditIsSavedUnlessSomebodyHasBeenAtTheRecord)
     EXPECT_EQ(store.found(u"SELECT ID, B FROM R"_s), u"2|9");
 }
 
-// The answer to a commit is lost on its way, or the commit.
-TEST_F(ConnectionLostTest, ACommitWhoseAnswerIsLostIsLookedUp)
+namespace {
+
+struct BehindARelay : ConnectionLostTest
 {
     const QByteArray port = qgetenv("PGPORT");
-    Relay relay(port.toInt());
-    qputenv("PGPORT", QByteArray::number(relay.port()));
-    qputenv("PGSSLMODE", "disable");
-    const auto back = qScopeGuard([&] {
+    Relay relay{port.toInt()};
+    std::unique_ptr<TestUser> anna = store.anotherUser(u"anna"_s);
+
+    BehindARelay()
+    {
+        qputenv("PGPORT", QByteArray::number(relay.port()));
+        qputenv("PGSSLMODE", "disable");
+    }
+    ~BehindARelay() override
+    {
+        anna.reset();
         qputenv("PGPORT", port);
         qunsetenv("PGSSLMODE");
-    });
-    const auto anna = store.anotherUser(u"anna"_s);
-    qputenv("PGPORT", QByteArray::number(relay.port()));
+    }
+};
+
+} // namespace
+
+// What windows ask of the connection meanwhile is refused, and changes nothing of what is under way.
+TEST_F(BehindARelay, ASilentServerIsWaitedForWithoutStandingStill)
+{
+    Connection &annas = anna->database.connection();
+    QString told;
+    anna->session.serverChanged = [&](bool isThere) { told += isThere ? u" there"_s : u" gone"_s; };
+    const StatementPtr first = annas.prepare(u"SELECT 1"_s);
+    const StatementPtr second = annas.prepare(u"SELECT 2"_s);
+    anna->session.waitFor = [&](std::chrono::milliseconds) {
+        EXPECT_FALSE(annas.hasEnded());
+        EXPECT_EQ(errorOf([&] { annas.execute(u"SELECT 3"_s); }), ErrorCode::ConnectionLost);
+        EXPECT_EQ(errorOf([&] { first->next(); }), ErrorCode::ConnectionLost);
+        relay.speak();
+    };
+    relay.when("SELECT 2", Relay::Then::FallSilent);
+    first->ask();
+    ASSERT_TRUE(second->next());
+    EXPECT_EQ(second->intAt(0), 2);
+    first->reset();
+    ASSERT_TRUE(first->next());
+    EXPECT_EQ(first->intAt(0), 1);
+    EXPECT_EQ(told, u" gone there");
+}
+
+// The answer to a commit is lost on its way, or the commit.
+TEST_F(BehindARelay, ACommitWhoseAnswerIsLostIsLookedUp)
+{
     anna->session.answerWait = std::chrono::seconds(1);
     Connection &annas = anna->database.connection();
     const auto insertion = [&](Relay::Then then, const QString &word) {

@@ -82,13 +82,22 @@ bool Relay::passFromClient(int client, int server)
     const Then then = isIt ? m_then.exchange(Then::Nothing) : Then::Nothing;
     if (then == Then::LoseTheWord)
         return false;
+    if (then == Then::FallSilent)
+        m_isSilent = true;
+    holdWhileSilent();
     send(server, said.constData(), static_cast<size_t>(said.size()), MSG_NOSIGNAL);
-    if (then == Then::Nothing)
+    if (then == Then::Nothing || then == Then::FallSilent)
         return true;
     received(server);
     if (then == Then::LoseTheAnswerAndStop)
         m_isOver = true;
     return false;
+}
+
+void Relay::holdWhileSilent() const
+{
+    while (m_isSilent && !m_isOver)
+        std::this_thread::sleep_for(std::chrono::milliseconds(glance));
 }
 
 void Relay::pass(int client)
@@ -99,6 +108,7 @@ void Relay::pass(int client)
     while (lives && !m_isOver) {
         std::array<pollfd, 2> looked{{{client, POLLIN, 0}, {server, POLLIN, 0}}};
         poll(looked.data(), looked.size(), glance);
+        holdWhileSilent();
         if (looked[0].revents != 0)
             lives = passFromClient(client, server);
         if (lives && looked[1].revents != 0) {
