@@ -197,7 +197,7 @@ TEST_P(Records, DoWithoutCountersUntilTheyAreSaved)
     EXPECT_EQ(pauses, 149);
     EXPECT_EQ(filledFields(item.table()), QStringList{u"Suspended=false"_s});
     EXPECT_EQ(refusal(item), u"Field 'Item no.' must have a value -> ItemNo");
-    item.table().set(u"ItemNo", u"77"_s);
+    item.table().set(u"ItemNo", u" 77 "_s);
     item.table().set(u"ItemDescription", u"Flour"_s);
     item.table().set(u"ItemTypeID", 1);
     EXPECT_EQ(errorOf([&] { item.save(); }), Engine::ErrorCode::TableInUse);

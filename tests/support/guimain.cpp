@@ -1,3 +1,4 @@
+#include "tests/support/complaints.h"
 #include "tests/support/spokenlanguage.h"
 
 #include <gtest/gtest.h>
@@ -20,5 +21,6 @@ int main(int argc, char **argv)
     QApplication::setKeyboardInputInterval(longInterval);
     const SpokenInTests spoken;
     testing::InitGoogleTest(&argc, argv);
+    failOnComplaints();
     return RUN_ALL_TESTS();
 }

@@ -1,4 +1,5 @@
 #include "tests/support/otheruser.h"
+#include "tests/support/complaints.h"
 
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -59,6 +60,7 @@ int runTests(int argc, char **argv, const OtherUserTasks &tasks)
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) != "--other-user"_L1) {
         testing::InitGoogleTest(&argc, argv);
+        failOnComplaints();
         return RUN_ALL_TESTS();
     }
     TestUser user(arguments.mid(2));

@@ -1,3 +1,5 @@
+#include "tests/support/complaints.h"
+
 #include <gtest/gtest.h>
 #include <QCoreApplication>
 
@@ -6,5 +8,6 @@ int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
+    failOnComplaints();
     return RUN_ALL_TESTS();
 }

@@ -405,6 +405,8 @@ TEST_F(ListScreensTest, whatAListIsNarrowedToStandsAboveItsRows)
     auto &history = open<TfrmInvHistory>();
     history.filterBy({{u"ItemID"_s, 1}, {u"WarehouseID"_s, 1}});
     EXPECT_EQ(child<QAbstractButton>(history, "btnFilterChip")->text(), u"Item: Apples, Location: Office"_s);
+    history.filterBy({{u"ItemID"_s, 1}});
+    EXPECT_EQ(child<QAbstractButton>(history, "btnFilterChip")->text(), u"Item: Apples"_s);
 }
 
 TEST_F(ListScreensTest, filtersAreKeptByName)
@@ -484,7 +486,10 @@ TEST_F(ListScreensTest, filtersAreKeptByName)
     delete receipts;
     receipts = &open<TfrmInvReceipts>();
     EXPECT_EQ(names(), u"Open"_s) << "kept beyond the window";
-    manage([](KeptFiltersDialog &) { press(Qt::Key_Return); });
+    manage([](KeptFiltersDialog &dialog) {
+        press(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
     EXPECT_EQ(filter(), u"(WarehouseID = 2) AND (Posted = false)"_s);
     settings.writable = false;
     keepAs(u"Other"_s);

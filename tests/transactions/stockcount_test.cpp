@@ -331,8 +331,8 @@ TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
     enter(u"A10"_s, 0);
     enter(u"A11"_s, 0.1);
     enter(u"B1"_s, 1);
-    count.forgetCount(2);
     count.setStandardCost(2, Engine::Money::fromDouble(1.25));
+    count.forgetCount(2);
     kitchen.execute(u"UPDATE Item SET Suspended = true WHERE ItemID = 2"_s);
     prompts.take();
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <QString>
+#include <QtGlobal>
+
+// What Qt complains of at these is a fault of the program: a painter that is not put back, a signal that is not there, a file
+// without a name. Other complaints come with what a test does to it.
+inline void failOnComplaints()
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+        if (!testing::UnitTest::GetInstance()->current_test_info())
+            return;
+        for (const auto of : {"QPainter::restore", "QPainter::save", "QPainter::end", "QObject::", "QMetaObject::",
+                              "QLayout", "QBoxLayout", "QWidget::", "QFont::", "QFSFileEngine", "Empty filename"}) {
+            if (text.startsWith(QLatin1StringView(of)))
+                ADD_FAILURE() << qPrintable(text);
+        }
+    });
+}
