@@ -30,6 +30,8 @@ QString shown(const QString &path) { return QDir::toNativeSeparators(path); }
 
 QString requireNew(const QString &file) // and its folder
 {
+    if (file.isEmpty())
+        throw RuleError(CareTexts::tr("Name the file that the backup is to be."));
     const QFileInfo target(file);
     if (target.exists() || target.isSymLink())
         throw RuleError(CareTexts::tr("%1 exists already. Choose another name.").arg(shown(file)));
@@ -41,6 +43,15 @@ void requireSound(Engine::Database &copy, const QString &file, const std::functi
     const QStringList damage = copy.connection().damage(step);
     if (!damage.isEmpty())
         throw RuleError(CareTexts::tr("%1 is damaged: %2").arg(shown(file), damage.first()));
+}
+
+// What is said of the copy would name a file that goes again.
+void requireSoundCopy(Engine::Database &copy, const std::function<void()> &step)
+{
+    if (!copy.connection().damage(step).isEmpty())
+        throw RuleError(CareTexts::tr(
+            "The books are damaged, so that no sound backup of them can be made. A check of the books "
+            "tells what is damaged and what mends it."));
 }
 
 qint64 rowsIn(Engine::Connection &store, const QString &table)
@@ -194,7 +205,7 @@ void backUp(Engine::Database &database, const QString &file, Progress &progress)
         copyTables(moment.database(), copy.database(), step);
     }
     progress.start(0);
-    requireSound(copy.database(), file, step);
+    requireSoundCopy(copy.database(), step);
     requireSameRows(source, copy.database().connection(), file);
     moment.end();
     copy.moveTo(file);

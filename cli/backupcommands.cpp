@@ -3,7 +3,9 @@
 #include "cli/databasefolder.h"
 #include "cli/texts.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -24,8 +26,16 @@ void runBackup(CommandContext &context)
 
 QStringList restored(CommandContext &context, const QString &file, Progress &progress)
 {
-    if (const QString folder = requireFolder(context); !folder.isEmpty())
-        return restoreIntoFolder(file, folder, context.user(), progress);
+    const QString set = folderOf(context);
+    auto leftEmpty = qScopeGuard([set, isNew = !set.isEmpty() && !QFileInfo::exists(set)] {
+        if (isNew)
+            QDir().rmdir(set); // refused where something is in it
+    });
+    if (const QString folder = requireFolder(context); !folder.isEmpty()) {
+        const QStringList older = restoreIntoFolder(file, folder, context.user(), progress);
+        leftEmpty.dismiss();
+        return older;
+    }
     QStringList older;
     DataModuleOptions options;
     options.createDatabase = true;

@@ -9,9 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere::Cli {
 
-namespace {
-
-// The folder of a database in files; empty when the database is on a server, or nowhere yet.
 QString folderOf(const CommandContext &context)
 {
     if (context.arguments.has(u"data"_s))
@@ -22,8 +19,6 @@ QString folderOf(const CommandContext &context)
         return {};
     return databaseFolder(context.settings);
 }
-
-} // namespace
 
 QString requireFolder(const CommandContext &context)
 {

@@ -4,9 +4,10 @@
 
 namespace Tallymere::Cli {
 
-// The folder of the options or of the user's settings, made where it is missing; empty when the database is on a server, or
+// The folder of the options or of the user's settings, where the database is one of files; empty when it is on a server, or
 // nowhere yet.
-QString requireFolder(const CommandContext &context);
+QString folderOf(const CommandContext &context);
+QString requireFolder(const CommandContext &context); // the same, made where it is missing
 
 // Opens the database of the options or of the user's settings, making what is missing: the folder, the database,
 // the host's tables with their one configuration row, the inventory tables.

@@ -54,8 +54,8 @@ QString helpText()
 QString helpText(const Command &command)
 {
     QString text =
-        Texts::tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] %1 %2 [OPTIONS]\n\n%3.\n")
-            .arg(command.name, command.words, command.summary);
+        Texts::tr("Usage: tallymere [--data FOLDER | --server ADDRESS] [--user NAME] %1 [OPTIONS]\n\n%2.\n")
+            .arg(synopsis(command), command.summary);
     if (!command.details.isEmpty())
         text += u'\n' + command.details + u'\n';
     text += Texts::tr("\nOptions:\n") + optionLines(command.options + commonOptions());

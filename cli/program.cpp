@@ -128,7 +128,7 @@ ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore 
         return ExitStatus::Refused; // what there is to say has been said
     } catch (const Engine::EngineError &error) {
         console.error(error.text());
-        if (error.code() == Engine::ErrorCode::CannotOpen)
+        if (error.code() == Engine::ErrorCode::NoDatabase)
             console.complain(Texts::tr("'tallymere init' makes a new database."));
         return isRefusal(error.code()) ? ExitStatus::Refused : ExitStatus::EngineFailed;
     } catch (const std::exception &error) {

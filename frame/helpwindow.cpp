@@ -43,7 +43,7 @@ HelpWindow::HelpWindow(std::unique_ptr<ManualCollection> manual, SettingsStore &
     connect(m_ui->btnBack, &QPushButton::clicked, browser, &QTextBrowser::backward);
     connect(m_ui->btnForward, &QPushButton::clicked, browser, &QTextBrowser::forward);
     connect(m_ui->btnFirst, &QPushButton::clicked, this, [this] { showPage(m_manual->firstPage()); });
-    connect(m_ui->btnClose, &QPushButton::clicked, this, &QWidget::close);
+    connect(m_ui->btnClose, &QPushButton::clicked, this, &HelpWindow::leave);
     // The browser knows these keys only while it has the focus.
     connect(new QShortcut(QKeySequence::Back, this), &QShortcut::activated, browser, &QTextBrowser::backward);
     connect(new QShortcut(QKeySequence::Forward, this), &QShortcut::activated, browser, &QTextBrowser::forward);
@@ -137,7 +137,10 @@ void HelpWindow::showPage(const QUrl &page)
 {
     if (!page.isEmpty())
         m_ui->browser->setSource(page);
-    standOver(QApplication::activeModalWidget());
+    QWidget *dialog = QApplication::activeModalWidget();
+    if (dialog && dialog != &m_owner)
+        winId(); // makes it, so that it can be told before it is shown what it stands over; else that would block it
+    standOver(dialog);
     bringToFront(*this);
     m_ui->browser->setFocus();
 }
@@ -212,10 +215,17 @@ bool HelpWindow::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
+// A dialog that has been opened since may block it, and Qt does not close what is blocked.
+void HelpWindow::leave()
+{
+    if (!close())
+        hide();
+}
+
 void HelpWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape) {
-        close();
+        leave();
     } else if (event->matches(QKeySequence::Find)) {
         m_ui->tabs->setCurrentWidget(m_ui->pageSearch);
         focusTab();

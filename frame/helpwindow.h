@@ -47,6 +47,7 @@ private:
     void showFound();
     void openFound(const QListWidgetItem *item);
     void standOver(QWidget *window);
+    void leave();
 
     std::unique_ptr<ManualCollection> m_manual;
     std::unique_ptr<Ui::HelpWindow> m_ui;

@@ -2,6 +2,7 @@
 
 #include "base/ruleerror.h"
 #include "data/fields.h"
+#include "engine/store/session.h"
 #include "engine/values/error.h"
 
 #include <algorithm>
@@ -14,6 +15,7 @@ DocumentImport::DocumentImport(const ImportRun &run, const DocumentKind &kind)
     : m_answers(run.answers)
     , m_entry(kind.entry.make(run.database, run.answers))
     , m_names(run.database)
+    , m_today(run.database.session().today())
 {
     m_entry->numbers = heldNumbers(run.counters);
     m_entry->open();
@@ -89,7 +91,10 @@ void DocumentImport::setHeader(const ImportRow &row)
 {
     for (const ImportCell *cell : cellsOf(m_entry->header(), row)) {
         const bool isTyped = cell->column->lookup.has_value();
-        if (!isTyped || !m_entry->chooseByNumber(cell->column->target, cell->value.toText()))
+        if (cell->column->target == m_entry->kind().dateField && cell->value.toDate() > m_today)
+            m_entry->chooseDate(
+                cell->value.toDate()); // which asks about one far off; files bring in former years as well
+        else if (!isTyped || !m_entry->chooseByNumber(cell->column->target, cell->value.toText()))
             setField(m_entry->header(), *cell);
     }
 }

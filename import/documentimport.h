@@ -31,6 +31,7 @@ private:
     ImportAnswers &m_answers;
     const std::unique_ptr<DocumentEntry> m_entry;
     KeyNames m_names;
+    const QDate m_today;
 };
 
 } // namespace Tallymere

@@ -86,6 +86,9 @@ private:
             m_taken.push_back(i);
             m_fields.append(name);
         }
+        for (const QString &name : m_choice.leftOut)
+            if (!names.contains(name, Qt::CaseInsensitive))
+                throw ReadFault(line(), ImportTexts::tr("There is no column '%1' to leave out.").arg(name));
         if (m_fields.isEmpty())
             throw ReadFault(line(), ImportTexts::tr("No column is taken."));
     }

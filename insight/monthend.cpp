@@ -114,8 +114,12 @@ FiscalSettings movedOn(FiscalSettings settings, const Period &ending)
     }
     const PeriodVerdict verdict = judgePeriod(settings, settings.defaultPeriod);
     if (verdict != PeriodVerdict::Fine)
-        throw RuleError(InsightTexts::tr("Period %1 cannot be opened, as its documents would be refused: %2")
-                            .arg(shownPeriod(settings.defaultPeriod), periodMessage(verdict)));
+        throw RuleError(
+            InsightTexts::tr("Period %1 cannot be opened, as its documents would be refused: %2")
+                .arg(shownPeriod(settings.defaultPeriod), periodMessage(verdict))
+            + u'\n'
+            + InsightTexts::tr("Up to which period documents are taken stands in Edit, Other, Organization "
+                               "Setup."));
     return settings;
 }
 
@@ -146,11 +150,17 @@ QString shownPeriod(const Period &period) { return u"%1/%2"_s.arg(period.number,
 
 QDate beginOf(Engine::Database &database, const Period &period, QDate today)
 {
-    const QDate first =
-        Engine::singleValue(database, u"SELECT MIN(TransDate) FROM IHist WHERE GLYear = ? AND GLPeriod = ?"_s,
-                            {period.year, period.number})
+    const auto dayOf = [&](const QString &which, const Period &of) {
+        return Engine::singleValue(
+                   database, u"SELECT %1(TransDate) FROM IHist WHERE GLYear = ? AND GLPeriod = ?"_s.arg(which),
+                   {of.year, of.number})
             .toDate();
-    return first.isValid() ? first : QDate(today.year(), today.month(), 1);
+    };
+    if (const QDate first = dayOf(u"MIN"_s, period); first.isValid())
+        return first;
+    if (const QDate before = dayOf(u"MAX"_s, periodBefore(period)); before.isValid())
+        return before.addDays(1);
+    return {today.year(), today.month(), 1};
 }
 
 const QList<MonthEndLine> &monthEndLines()

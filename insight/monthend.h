@@ -23,8 +23,8 @@ struct EndingPeriod
 // "03/2026"
 QString shownPeriod(const Period &period);
 
-// Since when a period lasts: the earliest day of what has been posted into it, or else the first of the month of today.
-// Periods need not be months of the calendar.
+// Since when a period lasts: the earliest day of what has been posted into it, or else the day behind the latest of the period
+// before, or else the first of the month of today. Periods need not be months of the calendar.
 QDate beginOf(Engine::Database &database, const Period &period, QDate today);
 
 // What the list is about.

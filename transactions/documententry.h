@@ -53,6 +53,7 @@ public:
     void takeUp(std::unique_ptr<BegunDocument> left);
 
     const DocumentKind &kind() const { return m_kind; }
+    Prompts &prompts() const { return m_prompts; }
     Engine::Table &header() { return m_header; }
     Engine::Table &lines() { return m_lines; }
     const Engine::Table &header() const { return m_header; }
@@ -140,7 +141,6 @@ protected:
     DocumentEntry(Engine::Database &database, Prompts &prompts, const DocumentKind &kind);
 
     Engine::Database &database() const { return m_header.database(); }
-    Prompts &prompts() const { return m_prompts; }
     QDate today() const { return database().session().today(); }
 
     // --- what the kinds of documents do differently ----------------------------------------------------------

@@ -85,6 +85,7 @@ private:
             fields << fieldOfTitle(cell);
         const bool isCalled =
             std::any_of(fields.cbegin(), fields.cend(), [](const QString &field) { return !field.isEmpty(); });
+        m_isCalled = isCalled;
         m_found.hasTitles = isCalled || (m_rows.size() > 1 && std::none_of(first.cbegin(), first.cend(), hasDigit));
         for (qsizetype i = 0; i < std::min(fields.size(), m_found.fields.size()); ++i)
             if (!isTaken(fields[i]))
@@ -160,6 +161,12 @@ private:
         return hasDecimals(first) && !hasDecimals(second);
     }
 
+    // Beside titles that are known, one that is not means something else: "Amount" is no unit cost.
+    bool mayBeCost(qsizetype column) const
+    {
+        return !m_isCalled || m_rows.front().cells.value(column).trimmed().isEmpty();
+    }
+
     void byNumbers()
     {
         QList<qsizetype> numbers;
@@ -173,6 +180,7 @@ private:
             std::swap(numbers[0], numbers[1]);
         if (takesQuantity && !numbers.isEmpty())
             m_found.fields[numbers.takeFirst()] = quantityField();
+        numbers.removeIf([this](qsizetype column) { return !mayBeCost(column); });
         if (takesCost && !numbers.isEmpty())
             m_found.fields[numbers.takeFirst()] = Fields::UnitCost;
     }
@@ -181,6 +189,7 @@ private:
     const std::vector<CellRow> &m_rows;
     const CellJudges &m_judges;
     PastedColumns m_found;
+    bool m_isCalled = false; // the first row has a title that is known
 };
 
 } // namespace

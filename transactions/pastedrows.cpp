@@ -197,10 +197,13 @@ PastedRows::Line PastedRows::judged(size_t line)
         judgement.refusal = reasonOf(message);
         judgement.refusedField = field;
     };
+    QString unread; // the field of which the row's own text was refused, and shows
     for (const auto &step : all) {
         try {
             step();
         } catch (const RuleError &error) {
+            if (judgement.refusal.isEmpty() && &step != &all.back())
+                unread = error.column();
             refuse(error.message(), error.column());
         } catch (const Engine::EngineError &error) {
             if (error.code() != Engine::ErrorCode::BadValue)
@@ -209,7 +212,8 @@ PastedRows::Line PastedRows::judged(size_t line)
         }
     }
     for (const GridColumn &column : m_entry.kind().entry.lineColumns)
-        judgement.shown << shownText(line, column.field);
+        judgement.shown << (column.field == unread ? Engine::excerpt(cell(line, column.field))
+                                                   : shownText(line, column.field));
     return judgement;
 }
 

@@ -1,6 +1,7 @@
 #include "transactions/reversal.h"
 
 #include "base/ruleerror.h"
+#include "engine/records/query.h"
 #include "engine/store/recordlock.h"
 #include "engine/values/textsize.h"
 #include "transactions/texts.h"
@@ -34,6 +35,7 @@ public:
 
     void begin()
     {
+        askAboutFormer();
         m_entry.newDocument();
         try {
             fillHeader();
@@ -63,10 +65,36 @@ private:
             if (field.kind == FieldKind::Data && !isOwn(field.name) && !m_header.value(field.name).isNull())
                 header.set(field.name, m_header.value(field.name));
         }
-        if (const std::optional<QString> &name = m_kind.entry.descriptionField) {
-            const QString text = TransactionsTexts::tr("Reverses %1").arg(m_kind.titleOf(m_header));
-            header.set(*name, Value(Engine::firstCharacters(text, std::as_const(header).field(*name).size)));
-        }
+        if (const std::optional<QString> &name = m_kind.entry.descriptionField)
+            header.set(*name, description(*name));
+    }
+
+    Value description(const QString &field) const
+    {
+        const QString text = TransactionsTexts::tr("Reverses %1").arg(m_kind.titleOf(m_header));
+        return Value(Engine::firstCharacters(text, m_header.field(field).size));
+    }
+
+    // By which one that has been begun before is told, posted or not. It is younger than what it reverses.
+    void askAboutFormer()
+    {
+        const std::optional<QString> &name = m_kind.entry.descriptionField;
+        if (!name)
+            return;
+        const Value former = Engine::singleValue(
+            m_header.database(),
+            u"SELECT MIN(%1) FROM %2 WHERE %1 > ? AND %3 = ?"_s.arg(m_kind.keyField, m_kind.headerTable, *name),
+            {m_header.value(m_kind.keyField), description(*name)});
+        if (former.isNull())
+            return;
+        Engine::TableReader other(m_header.database(), m_kind.headerTable);
+        other.open();
+        if (!other.findKey({former}))
+            return;
+        if (!m_entry.prompts().confirm(Question::Warning,
+                                       TransactionsTexts::tr("%1 reverses %2 already. Reverse it once more?")
+                                           .arg(m_kind.titleOf(other), m_kind.titleOf(m_header))))
+            throw SilentAbort();
     }
 
     void addLine(int number)

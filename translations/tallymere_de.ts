@@ -791,6 +791,14 @@ Für Vorschau und Druck von Berichten muss ein Drucker festgelegt, aber nicht un
         <source>The check &quot;%1&quot; finds other things in the copy than where it comes from, as what stands there cannot be kept as it is. Mend this first: %2</source>
         <translation>Die Prüfung „%1“ findet in der Kopie anderes als in der Vorlage, weil sich nicht behalten lässt, was dort steht. Bitte bringen Sie zuerst das in Ordnung: %2</translation>
     </message>
+    <message>
+        <source>Name the file that the backup is to be.</source>
+        <translation>Nennen Sie die Datei, die die Sicherung werden soll.</translation>
+    </message>
+    <message>
+        <source>The books are damaged, so that no sound backup of them can be made. A check of the books tells what is damaged and what mends it.</source>
+        <translation>Die Bücher sind beschädigt, sodass keine heile Sicherung von ihnen gemacht werden kann. Eine Prüfung der Bücher sagt, was beschädigt ist und was hilft.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1939,6 +1947,10 @@ Lassen Sie alle das Programm schließen, und versuchen Sie es erneut. Wenn das n
         <source>%1 is being written to by another user (%2). Try again in a moment.</source>
         <translation>In %1 schreibt gerade ein anderer Benutzer (%2). Versuchen Sie es gleich noch einmal.</translation>
     </message>
+    <message>
+        <source>%1 is a file. Name the folder that holds the database.</source>
+        <translation>%1 ist eine Datei. Nennen Sie den Ordner, in dem die Datenbank liegt.</translation>
+    </message>
 </context>
 <context>
     <name>FilterDialog</name>
@@ -2589,6 +2601,10 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
         <source>Saved as %1.</source>
         <translation>Gespeichert als %1.</translation>
     </message>
+    <message>
+        <source>There is no column &apos;%1&apos; to leave out.</source>
+        <translation>Es gibt keine Spalte „%1“, die ausgelassen werden könnte.</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>
@@ -2767,6 +2783,10 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
     <message>
         <source>As a Receipt</source>
         <translation>Als Wareneingang</translation>
+    </message>
+    <message>
+        <source>Up to which period documents are taken stands in Edit, Other, Organization Setup.</source>
+        <translation>Bis zu welcher Periode Belege angenommen werden, steht unter Bearbeiten, Sonstiges, Organisation einrichten.</translation>
     </message>
 </context>
 <context>
@@ -5020,19 +5040,15 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
     </message>
     <message>
         <source>&amp;Back Up...</source>
-        <translation>&amp;Sichern...</translation>
+        <translation>Si&amp;chern...</translation>
     </message>
     <message>
         <source>Re&amp;store...</source>
         <translation>&amp;Wiederherstellen...</translation>
     </message>
     <message>
-        <source>&amp;Check Books...</source>
-        <translation>Bücher &amp;prüfen...</translation>
-    </message>
-    <message>
         <source>&amp;Reload Module</source>
-        <translation>Modul &amp;neu laden</translation>
+        <translation>Modul neu &amp;laden</translation>
     </message>
     <message>
         <source>&amp;Unload Module</source>
@@ -5113,6 +5129,10 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
     <message>
         <source>Restore a &amp;Backup</source>
         <translation>Sicherung &amp;wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Check Books</source>
+        <translation>Bücher &amp;prüfen</translation>
     </message>
 </context>
 <context>
@@ -9844,6 +9864,10 @@ Bitte schließen Sie das Fenster „Lagerverbrauch“</translation>
 Do you want to keep this quantity?</source>
         <translation>Das Verzeichnete ist sehr viel mehr oder weniger wert als diese Zählung.
 Möchten Sie diese Menge beibehalten?</translation>
+    </message>
+    <message>
+        <source>%1 reverses %2 already. Reverse it once more?</source>
+        <translation>%1 storniert %2 bereits. Noch einmal stornieren?</translation>
     </message>
 </context>
 </TS>

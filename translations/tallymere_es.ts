@@ -791,6 +791,14 @@ Para ver o imprimir informes debe haber una impresora definida, aunque no es nec
         <source>The check &quot;%1&quot; finds other things in the copy than where it comes from, as what stands there cannot be kept as it is. Mend this first: %2</source>
         <translation>La comprobación «%1» encuentra en la copia otras cosas que en el origen, porque lo que hay allí no se puede conservar tal cual. Corrija primero esto: %2</translation>
     </message>
+    <message>
+        <source>Name the file that the backup is to be.</source>
+        <translation>Indique el archivo que ha de ser la copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>The books are damaged, so that no sound backup of them can be made. A check of the books tells what is damaged and what mends it.</source>
+        <translation>Los libros están dañados, de modo que no se puede hacer una copia de seguridad íntegra de ellos. Una comprobación de los libros dice qué está dañado y qué lo remedia.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1939,6 +1947,10 @@ Haga que todos cierren el programa e inténtelo de nuevo. Si no da resultado, re
         <source>%1 is being written to by another user (%2). Try again in a moment.</source>
         <translation>Otro usuario (%2) está escribiendo en %1. Inténtelo de nuevo en un momento.</translation>
     </message>
+    <message>
+        <source>%1 is a file. Name the folder that holds the database.</source>
+        <translation>%1 es un archivo. Indique la carpeta que contiene la base de datos.</translation>
+    </message>
 </context>
 <context>
     <name>FilterDialog</name>
@@ -2589,6 +2601,10 @@ tabla de ubicaciones de Ledgerwick?</translation>
         <source>Saved as %1.</source>
         <translation>Guardado como %1.</translation>
     </message>
+    <message>
+        <source>There is no column &apos;%1&apos; to leave out.</source>
+        <translation>No hay ninguna columna &apos;%1&apos; que dejar fuera.</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>
@@ -2767,6 +2783,10 @@ tabla de ubicaciones de Ledgerwick?</translation>
     <message>
         <source>As a Receipt</source>
         <translation>Como recepción</translation>
+    </message>
+    <message>
+        <source>Up to which period documents are taken stands in Edit, Other, Organization Setup.</source>
+        <translation>Hasta qué periodo se aceptan documentos está en Editar, Otros, Datos de la organización.</translation>
     </message>
 </context>
 <context>
@@ -5027,10 +5047,6 @@ Haga clic para volver a mostrar todos los registros.</translation>
         <translation>&amp;Restaurar...</translation>
     </message>
     <message>
-        <source>&amp;Check Books...</source>
-        <translation>Com&amp;probar libros...</translation>
-    </message>
-    <message>
         <source>&amp;Reload Module</source>
         <translation>Recar&amp;gar módulo</translation>
     </message>
@@ -5113,6 +5129,10 @@ Haga clic para volver a mostrar todos los registros.</translation>
     <message>
         <source>Restore a &amp;Backup</source>
         <translation>&amp;Restaurar una copia de seguridad</translation>
+    </message>
+    <message>
+        <source>&amp;Check Books</source>
+        <translation>Comprobar &amp;libros</translation>
     </message>
 </context>
 <context>
@@ -9844,6 +9864,10 @@ Cierre el formulario «Registro de consumo»</translation>
 Do you want to keep this quantity?</source>
         <translation>Lo registrado vale mucho más o mucho menos que este recuento.
 ¿Desea conservar esta cantidad?</translation>
+    </message>
+    <message>
+        <source>%1 reverses %2 already. Reverse it once more?</source>
+        <translation>%1 ya revierte %2. ¿Revertirlo otra vez?</translation>
     </message>
 </context>
 </TS>

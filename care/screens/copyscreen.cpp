@@ -40,6 +40,7 @@ TfrmCopyBooks::TfrmCopyBooks(const SettingsStore &settings, Prompts &prompts, QS
     connectGuarded(m_ui->btnCopy, &QPushButton::clicked, this, &TfrmCopyBooks::btnCopyClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
     showTarget();
+    (m_from.folder.isEmpty() ? m_ui->editFolder : m_ui->editServer)->setFocus();
 }
 
 TfrmCopyBooks::~TfrmCopyBooks() = default;
@@ -103,6 +104,7 @@ void TfrmCopyBooks::btnCopyClick()
     m_copied = address;
     m_ui->btnCopy->setEnabled(false);
     m_ui->btnCancel->setText(tr("Close"));
+    m_ui->btnCancel->setDefault(true);
     m_ui->btnCancel->setFocus();
     const QString there = to.database().connection().location();
     guard().prompts().inform(moves ? tr("The books have moved to %1, and have been verified.").arg(there)

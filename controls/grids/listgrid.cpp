@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 namespace Tallymere {
 
@@ -132,9 +133,15 @@ void ListGrid::keyPressEvent(QKeyEvent *event)
     DataGrid::keyPressEvent(event);
 }
 
-// Home and End lead to the first and the last row; the base stays in the row.
+// Home and End lead to the first and the last row; the base stays in the row. A row is current as a whole, so that Left and
+// Right show more of it.
 QModelIndex ListGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
+    if (action == MoveLeft || action == MoveRight) {
+        horizontalScrollBar()->triggerAction(action == MoveLeft ? QScrollBar::SliderSingleStepSub
+                                                                : QScrollBar::SliderSingleStepAdd);
+        return currentIndex();
+    }
     const int rows = tableModel()->rowCount();
     if (rows > 0 && (action == MoveHome || action == MoveEnd))
         return tableModel()->index(action == MoveHome ? 0 : rows - 1, 0);

@@ -515,8 +515,18 @@ void ListScreen::showFilterMark()
         const QString words = filterWords();
         m_filterChip->setText(words.isEmpty() ? tr("Filtered") : words);
         m_filterChip->setVisible(filtered);
+        keepOnScreen();
     }
     m_grid->setHint(hint());
+}
+
+// The chip may have made the window wider.
+void ListScreen::keepOnScreen()
+{
+    if (!isVisible() || isMaximized())
+        return;
+    if (const QSize needed = minimumSizeHint(); needed.width() > width())
+        moveToPlace(*this, QRect(geometry().topLeft(), size().expandedTo(needed)));
 }
 
 void ListScreen::setCaption(const QString &caption)

@@ -163,6 +163,7 @@ private:
     QList<ListMenu> withItemCard(QList<ListMenu> menus);
     void showAvailable();
     void showFilterMark();
+    void keepOnScreen();
     void addFilterChip();
     void addKeptFilters();
     QString hint() const;

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPushButton>
 
 namespace Tallymere {
 
@@ -33,7 +34,10 @@ void SheetWindow::showEvent(QShowEvent *event)
 
 void SheetWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape)
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        button->click();
+    else if (event->key() == Qt::Key_Escape)
         close();
     else if (event->key() == Qt::Key_F5)
         m_guard.run([this] { readAnew(); });

@@ -34,7 +34,7 @@ const Mapping mappings[] = {
     {"42703", ErrorCode::NoSuchField, QT_TRANSLATE_NOOP("Engine", "There is no such field (%2).")},
     {"42501", ErrorCode::AccessDenied, accessText},
     {"28", ErrorCode::AccessDenied, accessText},
-    {"3D000", ErrorCode::CannotOpen,
+    {"3D000", ErrorCode::NoDatabase,
      QT_TRANSLATE_NOOP("Engine", "There is no %1. Check the settings, or make a new company.")},
     {"55P03", ErrorCode::Busy, busyText},
     {"40", ErrorCode::Busy, busyText},
@@ -84,7 +84,7 @@ EngineError postgresError(const QByteArray &sqlState, const QString &words, cons
 bool isMissingDatabase(const EngineError &error)
 {
     const QString &words = error.driverText();
-    return words.startsWith("PostgreSQL 3D000"_L1)
+    return error.code() == ErrorCode::NoDatabase
         || (words.startsWith("PostgreSQL 08P01"_L1) && words.contains("does not exist"_L1));
 }
 

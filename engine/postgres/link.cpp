@@ -216,21 +216,21 @@ void PostgresLink::awaitAnswer()
     do {
         PostgresWatch watch(m_target, serverOf(handle()), m_session.processId);
         const auto begun = Clock::now();
-        while (!watch.isOver() && Clock::now() - begun < watchTime) {
+        while (!isAnswered({}) && !watch.isOver() && Clock::now() - begun < watchTime) {
             waitForEither(PQsocket(handle()), watch.socket(), watch.wantsToWrite(), betweenSigns);
-            if (isAnswered({}))
-                return tell(true);
             if (waitForSocket(watch.socket(), watch.wantsToWrite(), {}))
                 watch.proceed();
             else
                 stayAlive(begun);
         }
-        m_blocker = watch.blocker();
-        const bool gone = !watch.isOver() || (watch.isIdle() && !isAnswered(answerOnItsWay));
-        if (gone) {
+        if (watch.isOver())
+            m_blocker = watch.blocker();
+        const bool saysNothing = !watch.isOver() || (watch.isIdle() && !isAnswered(answerOnItsWay));
+        if (saysNothing && !isAnswered({})) {
             noteLoss();
             throw connectionLost(location(), u"no answer"_s);
         }
+        tell(true);
     } while (!isAnswered(nextWatch));
 }
 

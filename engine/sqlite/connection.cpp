@@ -341,8 +341,11 @@ std::unique_ptr<Connection> openSqlite(const Database &database)
     if (folder.isEmpty())
         raise(ErrorCode::CannotOpen,
               Texts::tr("No database folder has been set. Choose the folder in the settings."));
-    if (!QFileInfo(folder).isDir())
+    if (QFileInfo(folder).isFile())
         raise(ErrorCode::CannotOpen,
+              Texts::tr("%1 is a file. Name the folder that holds the database.").arg(folder));
+    if (!QFileInfo(folder).isDir())
+        raise(ErrorCode::NoDatabase,
               Texts::tr("The database folder %1 does not exist or cannot be reached. Check the settings and the "
                         "network.")
                   .arg(folder));
@@ -353,7 +356,7 @@ std::unique_ptr<Connection> openSqlite(const Database &database)
     const QString fileName = database.name() + ".sqlite"_L1;
     const QString path = folder + u'/' + fileName;
     if (!database.createIfMissing && !QFileInfo::exists(path))
-        raise(ErrorCode::CannotOpen,
+        raise(ErrorCode::NoDatabase,
               Texts::tr("There is no database %1 in %2. Check the folder in the settings, or make a new "
                         "company.")
                   .arg(fileName, folder));

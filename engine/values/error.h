@@ -30,6 +30,7 @@ enum class ErrorCode {
     Busy = 10245, // the store is writing for someone else and did not get free in time
     MovedAway = 10247, // the database has gone to another place and takes no more writes here
     CannotOpen = 11001, // folder, file or server that cannot be reached
+    NoDatabase = 11010, // the folder or server can be reached, or the folder made, and holds none
     NotADatabase = 11002,
     Corrupt = 11003,
     DiskFull = 11004,

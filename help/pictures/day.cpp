@@ -133,7 +133,6 @@ private:
         type("<Alt+I>");
         type("pack");
         type("<Return>");
-        type("<Alt+F><Return>");
         type("2<Return>2<Return>1<Return>2.5<Return>6<Return>1<Return>4<Return>1.5<Return>");
         take("count", 460);
         inDialog("<Alt+E>", [this] {

@@ -2,6 +2,7 @@
 
 #include "controls/windows/look.h"
 #include "controls/windows/screenmetrics.h"
+#include "engine/values/userlocale.h"
 
 #include <algorithm>
 #include <QChart>
@@ -80,7 +81,9 @@ void CurveView::draw()
     values->setRange(low, std::max(greatest->value + (m_tone == Tone::Accent ? 0 : margin), low + margin));
     values->setTickCount(m_tone == Tone::Accent ? 3 : 2); // where there is room for them
     values->applyNiceNumbers();
-    values->setLabelFormat(u"%.6g"_s);
+    values->setLabelFormat(u"%.10g"_s);
+    chart()->setLocale(Engine::userLocale().locale);
+    chart()->setLocalizeNumbers(true);
     chart()->addAxis(times, Qt::AlignBottom);
     chart()->addAxis(values, Qt::AlignLeft);
     line->attachAxis(times);

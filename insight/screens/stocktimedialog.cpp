@@ -25,6 +25,9 @@ StockTimeDialog::StockTimeDialog(ScreenContext &context, const StockTime &preset
     m_ui->editGLPeriod->setText(QString::number(period.number));
     m_ui->editGLYear->setText(QString::number(period.year));
     connect(m_ui->optDay, &QRadioButton::toggled, this, &StockTimeDialog::showWhatCounts);
+    for (const QRadioButton *choice : {m_ui->optDay, m_ui->optPeriod})
+        connect(choice, &QRadioButton::clicked, this,
+                &StockTimeDialog::showStep); // what is typed next is its field's
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &StockTimeDialog::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
     showWhatCounts();

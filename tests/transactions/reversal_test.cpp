@@ -9,7 +9,12 @@ namespace {
 
 struct ReversalTest : KitchenTest
 {
-    ReversalTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
+    ReversalTest()
+    {
+        kitchen.execute(u"UPDATE ItemType SET Inventory = true; DELETE FROM ItemCtl; DELETE FROM ARInvCtl; "
+                        "INSERT INTO ItemCtl (NextInvReceiptID, NextInvAdjustmentID) VALUES (100, 100); "
+                        "INSERT INTO ARInvCtl (NextInvoiceID) VALUES (100)"_s);
+    }
 
     QStringList balances()
     {
@@ -39,6 +44,12 @@ TEST_P(ReversalTest, TakesBackWhatEveryKindOfDocumentHasDone)
         EXPECT_FALSE(entry->isPosted());
         EXPECT_NE(entry->key(), 7);
         entry->save();
+        prompts.ok = false;
+        const auto again = openEntry(kitchen.database(), *kind, prompts);
+        EXPECT_EQ(refusalOf([&] { beginReversal(*again, 7); }).isEmpty(), !kind->entry.descriptionField)
+            << "it has been reversed already, which its description tells";
+        again->cancel();
+        prompts.ok = true;
         const QString lines = u"SELECT * FROM %1 WHERE %2 = %3 ORDER BY Seq"_s;
         const QStringList of =
             kitchen.rows(lines.arg(kind->lineTable, kind->keyField, QString::number(entry->key())));

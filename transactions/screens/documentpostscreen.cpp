@@ -1,10 +1,12 @@
 #include "transactions/screens/documentpostscreen.h"
 
 #include "base/plural.h"
+#include "controls/screens/listscreen.h"
 #include "controls/screens/recordopener.h"
 #include "controls/windows/barprogress.h"
 #include "controls/windows/messageboxes.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/windowplaces.h"
 #include "data/datamodule.h"
 #include "transactions/lastsaved.h"
 #include "transactions/screens/documentscreens.h"
@@ -57,6 +59,13 @@ QString DocumentPostScreen::notListedText(const DocumentList &list) const
     return users.isEmpty() ? count : tr("%1, last saved by %2").arg(count, users.join(u", "_s));
 }
 
+// Those that are open show what posting has changed.
+static void refreshStockLists()
+{
+    for (const QString &list : {u"frmInvTotals"_s, u"frmInvHistory"_s})
+        refreshOpenList(list);
+}
+
 QString DocumentPostScreen::postedText() const { return m_kind.posting.postedText(m_posting.posted()); }
 
 void DocumentPostScreen::sayPosted() const
@@ -106,6 +115,7 @@ void DocumentPostScreen::showOutlook()
     m_ui->lstNotices->setMinimumHeight(scaled(this, 120));
     m_ui->lstNotices->setCurrentRow(0);
     adjustSize();
+    moveToPlace(*this, geometry()); // it has grown
 }
 
 bool DocumentPostScreen::eventFilter(QObject *watched, QEvent *event)
@@ -151,6 +161,8 @@ void DocumentPostScreen::btnOKClick()
     m_failed = failure != nullptr;
     if (failure)
         guard().report(failure);
+    if (m_posting.posted() > 0)
+        guard().run([] { refreshStockLists(); });
     done(bar.hasStarted() ? QDialog::Accepted : QDialog::Rejected);
 }
 

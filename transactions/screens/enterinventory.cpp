@@ -200,6 +200,8 @@ void TFormEnterInventory::locationChosen(int index)
     }
     if (goesOn)
         m_ui->wwDBGridInventory->countItem(m_count.list().behindLastCounted());
+    else if (m_count.isOpen() && m_count.list().size() > 0)
+        m_ui->wwDBGridInventory->setFocus(); // what is typed next are quantities
 }
 
 bool TFormEnterInventory::openLocation(int index)

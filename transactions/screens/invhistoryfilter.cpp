@@ -1,12 +1,11 @@
 #include "transactions/screens/invhistoryfilter.h"
 
+#include "controls/fields/choicecombobox.h"
 #include "controls/fields/optionalnumber.h"
 #include "data/datamodule.h"
 #include "data/fiscalperiod.h"
 #include "data/transtypes.h"
 #include "transactions/historyview.h"
-
-#include <QComboBox>
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +14,7 @@ namespace Tallymere {
 TfrmInvHistoryFilter::TfrmInvHistoryFilter(ScreenContext &context, QWidget *parent)
     : StockFilterDialog(context, {.name = u"frmInvHistoryFilter"_s, .caption = tr("Inventory History Filter")},
                         parent)
-    , m_type(new QComboBox(this))
+    , m_type(new ChoiceComboBox(this))
 {
     addTypes();
     const Period period = defaultPeriod(context.data.databaseTallymere(), context.data.today());

@@ -1,11 +1,10 @@
 #include "transactions/screens/invtotalsfilter.h"
 
 #include "base/formats.h"
+#include "controls/fields/choicecombobox.h"
 #include "controls/fields/optionaldate.h"
 #include "data/datamodule.h"
 #include "transactions/totalsview.h"
-
-#include <QComboBox>
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +15,7 @@ using Stock = TotalsView::Filter::Stock;
 TfrmInvTotalsFilter::TfrmInvTotalsFilter(ScreenContext &context, QWidget *parent)
     : StockFilterDialog(context, {.name = u"frmInvTotalsFilter"_s, .caption = tr("Inventory Totals Filter")},
                         parent)
-    , m_stock(new QComboBox(this))
+    , m_stock(new ChoiceComboBox(this))
 {
     m_stock->setObjectName(u"cboStock"_s);
     m_stock->addItem({}, static_cast<int>(Stock::Any));
