@@ -41,7 +41,6 @@ TfrmImport::TfrmImport(ScreenContext &context, ImportPlan plan, QWidget *parent)
     , m_ui(std::make_unique<Ui::TfrmImport>())
 {
     m_ui->setupUi(this);
-    setTabOrder(m_ui->spinHead, m_ui->areaColumns); // with the boxes for the columns, which come later
     const QString name = QFileInfo(m_plan.fileName()).fileName();
     m_ui->lblFile->setText(fontMetrics().elidedText(name, Qt::ElideMiddle, scaled(this, 300)));
     m_ui->lblFile->setToolTip(QDir::toNativeSeparators(m_plan.fileName()));
@@ -123,7 +122,7 @@ void TfrmImport::addColumn(int column)
     const int row = column / columnsInARow * 2;
     layout->addWidget(title, row, column % columnsInARow);
     layout->addWidget(field, row + 1, column % columnsInARow);
-    setTabOrder(m_fields.isEmpty() ? static_cast<QWidget *>(m_ui->areaColumns) : m_fields.constLast(), field);
+    setTabOrder(lastChoice(), field);
     m_fields << field;
     connect(field, &QComboBox::activated, this,
             [this, column, field] { chooseField(column, field->currentData().toString()); });
@@ -138,8 +137,15 @@ void TfrmImport::addGrid()
     else
         m_ui->layoutRows->addWidget(grid);
     delete std::exchange(m_grid, grid);
-    setTabOrder(m_fields.isEmpty() ? static_cast<QWidget *>(m_ui->areaColumns) : m_fields.constLast(), m_grid);
-    setTabOrder(m_grid, m_ui->chkYes);
+    const QList<QWidget *> behind{lastChoice(), m_grid, m_ui->chkYes, m_ui->btnOK, m_ui->btnCancel};
+    for (qsizetype i = 1; i < behind.size(); ++i)
+        setTabOrder(behind[i - 1], behind[i]);
+}
+
+// Behind it comes with Tab what is made later.
+QWidget *TfrmImport::lastChoice() const
+{
+    return m_fields.isEmpty() ? static_cast<QWidget *>(m_ui->spinHead) : m_fields.constLast();
 }
 
 void TfrmImport::change(const std::function<void(ImportPlan &, Progress &)> &step)

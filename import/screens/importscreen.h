@@ -41,6 +41,7 @@ private:
     void showColumns();
     void addColumn(int column);
     void addGrid();
+    QWidget *lastChoice() const;
     void showResult();
     void showUnchecked();
     void change(const std::function<void(ImportPlan &plan, Progress &progress)> &step);
