@@ -5,7 +5,10 @@
 #include "host/sample/texts.h"
 #include "import/importer.h"
 
+#include <map>
+#include <QBuffer>
 #include <QFile>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -21,10 +24,9 @@ void openSample(QFile &file)
         throw RuleError(SampleTexts::tr("The sample file %1 is missing from the program.").arg(file.fileName()));
 }
 
-void bringIn(TDataModuleTallymere &data, const QString &kind, const QString &name, Progress &progress)
+void bringIn(TDataModuleTallymere &data, const QString &kind, const QString &name, QIODevice &file,
+             Progress &progress)
 {
-    QFile file(samplePath(name));
-    openSample(file);
     // The year's documents lie before the periods that are expected now.
     constexpr bool answerYes = true;
     const ImportResult result =
@@ -35,6 +37,29 @@ void bringIn(TDataModuleTallymere &data, const QString &kind, const QString &nam
     throw RuleError(SampleTexts::tr("The sample kitchen does not fit into this database: %1 (%2.csv, line %3)")
                         .arg(first.message, name)
                         .arg(first.line));
+}
+
+void bringIn(TDataModuleTallymere &data, const QString &kind, const QString &name, Progress &progress)
+{
+    QFile file(samplePath(name));
+    openSample(file);
+    bringIn(data, kind, name, file, progress);
+}
+
+// The file of a kind of documents in pieces, each with the titles, by the period in the second and third column.
+std::map<int, QByteArray> byPeriods(const QString &kind)
+{
+    QFile file(samplePath(kind));
+    openSample(file);
+    const QByteArray titles = file.readLine();
+    std::map<int, QByteArray> pieces;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine();
+        const QByteArrayList fields = line.split(',');
+        QByteArray &piece = pieces[fields.value(2).toInt() * 100 + fields.value(1).toInt()];
+        piece += piece.isEmpty() ? titles + line : line;
+    }
+    return pieces;
 }
 
 // The rows of a sample file as they stand, each into the record that the table has been made ready for.
@@ -83,10 +108,28 @@ void bringInSampleMasters(TDataModuleTallymere &data, Progress &progress)
     fillHostTable(data.databaseTallymere(), u"Items"_s, u"meals"_s);
 }
 
-void bringInSampleDocuments(TDataModuleTallymere &data, const QString &kind, SampleDocuments documents,
-                            Progress &progress)
+QList<int> samplePeriods(const QStringList &kinds)
 {
-    bringIn(data, kind, documents == SampleDocuments::Posted ? kind : kind + "-unposted"_L1, progress);
+    std::set<int> periods;
+    for (const QString &kind : kinds)
+        for (const auto &[period, piece] : byPeriods(kind))
+            periods.insert(period);
+    return {periods.begin(), periods.end()};
+}
+
+void bringInSampleDocuments(TDataModuleTallymere &data, const QString &kind, int period, Progress &progress)
+{
+    std::map<int, QByteArray> pieces = byPeriods(kind);
+    if (!pieces.contains(period))
+        return;
+    QBuffer piece(&pieces[period]);
+    piece.open(QIODevice::ReadOnly);
+    bringIn(data, kind, kind, piece, progress);
+}
+
+void bringInOpenDocuments(TDataModuleTallymere &data, const QString &kind, Progress &progress)
+{
+    bringIn(data, kind, kind + "-unposted"_L1, progress);
 }
 
 } // namespace Tallymere

@@ -49,11 +49,18 @@ void fillSmallKitchen(TDataModuleTallymere &data, Prompts &prompts, Progress &pr
     Engine::Transaction transaction(data.databaseTallymere().connection());
     requireEmpty(data.databaseTallymere());
     bringInSampleMasters(data, progress);
-    for (const DocumentKind *kind : DocumentKinds::all()) {
-        bringInSampleDocuments(data, kind->name, SampleDocuments::Posted, progress);
-        DocumentPosting(data.databaseTallymere(), *kind).run(prompts, progress);
-        bringInSampleDocuments(data, kind->name, SampleDocuments::Unposted, progress);
+    QStringList kinds;
+    for (const DocumentKind *kind : DocumentKinds::all())
+        kinds.append(kind->name);
+    // As they came about, so that the average costs are those of the stock there was.
+    for (const int period : samplePeriods(kinds)) {
+        for (const DocumentKind *kind : DocumentKinds::all()) {
+            bringInSampleDocuments(data, kind->name, period, progress);
+            DocumentPosting(data.databaseTallymere(), *kind).run(prompts, progress);
+        }
     }
+    for (const QString &kind : kinds)
+        bringInOpenDocuments(data, kind, progress);
     transaction.commit();
 }
 

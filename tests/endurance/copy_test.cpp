@@ -135,9 +135,10 @@ struct CopyTest : testing::Test
         TDataModuleTallymere data(settings, prompts, options);
         bringInSampleMasters(data, progress);
         for (const DocumentKind *kind : DocumentKinds::all()) {
-            bringInSampleDocuments(data, kind->name, SampleDocuments::Posted, progress);
+            for (const int period : samplePeriods({kind->name}))
+                bringInSampleDocuments(data, kind->name, period, progress);
             DocumentPosting(data.databaseTallymere(), *kind).run(prompts, progress);
-            bringInSampleDocuments(data, kind->name, SampleDocuments::Unposted, progress);
+            bringInOpenDocuments(data, kind->name, progress);
         }
     }
 
