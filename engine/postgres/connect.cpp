@@ -283,19 +283,23 @@ PostgresHandle opened(const PostgresTarget &target, const std::function<void()> 
 {
     requireAddress(target);
     QList<PostgresServer> left = spokenFirst(target); // empty: as the target says
+    std::optional<EngineError> missing; // which tells more than a standby that still has what was dropped
     for (;;) {
         Attempt attempt = attempted(target, left, meanwhile);
         if (!attempt.error)
             return std::move(attempt.handle);
+        if (isMissingDatabase(*attempt.error))
+            missing = attempt.error;
+        const EngineError error = missing.value_or(*attempt.error);
         if (!target.hasSeveral() || !attempt.isWorthTheNext || isSet("PGHOSTADDR"))
-            throw EngineError(*attempt.error);
+            throw EngineError(error);
         if (left.isEmpty())
             left = serversOf(attempt.handle.get());
         if (attempt.isSilent)
             silent().note(serverOf(attempt.handle.get()));
         left.removeOne(serverOf(attempt.handle.get()));
         if (left.isEmpty())
-            throw EngineError(*attempt.error);
+            throw EngineError(error);
     }
 }
 

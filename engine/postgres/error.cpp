@@ -85,6 +85,7 @@ bool isMissingDatabase(const EngineError &error)
 {
     const QString &words = error.driverText();
     return error.code() == ErrorCode::NoDatabase
+        || words.startsWith("PostgreSQL 55000"_L1) // it is being dropped, or takes nobody in
         || (words.startsWith("PostgreSQL 08P01"_L1) && words.contains("does not exist"_L1));
 }
 
