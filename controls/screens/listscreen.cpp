@@ -514,19 +514,12 @@ void ListScreen::showFilterMark()
     if (m_filterChip) {
         const QString words = filterWords();
         m_filterChip->setText(words.isEmpty() ? tr("Filtered") : words);
+        const int before = width();
         m_filterChip->setVisible(filtered);
-        keepOnScreen();
+        if (isVisible() && width() > before)
+            moveToPlace(*this, geometry()); // the chip has made it wider
     }
     m_grid->setHint(hint());
-}
-
-// The chip may have made the window wider.
-void ListScreen::keepOnScreen()
-{
-    if (!isVisible() || isMaximized())
-        return;
-    if (const QSize needed = minimumSizeHint(); needed.width() > width())
-        moveToPlace(*this, QRect(geometry().topLeft(), size().expandedTo(needed)));
 }
 
 void ListScreen::setCaption(const QString &caption)

@@ -163,7 +163,6 @@ private:
     QList<ListMenu> withItemCard(QList<ListMenu> menus);
     void showAvailable();
     void showFilterMark();
-    void keepOnScreen();
     void addFilterChip();
     void addKeptFilters();
     QString hint() const;

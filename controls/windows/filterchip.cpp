@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace Tallymere {
 
 namespace {
@@ -51,6 +53,17 @@ QSize FilterChip::minimumSizeHint() const
     return {std::min(wanted.width(), scaled(this, leastWords) + marksWidth()), wanted.height()};
 }
 
+// Where there is no room for all of it, what has been chosen without what it is of: "Bakery" of "Item Type: Bakery".
+QString FilterChip::shownWords(int width) const
+{
+    if (fontMetrics().horizontalAdvance(text()) <= width)
+        return text();
+    QStringList chosen;
+    for (const QString &part : text().split(u", "_s))
+        chosen.append(part.contains(u": "_s) ? part.section(u": "_s, 1) : part);
+    return shortened(chosen.join(u", "_s), fontMetrics(), width);
+}
+
 void FilterChip::paintEvent(QPaintEvent *)
 {
     using enum Look::Role;
@@ -69,7 +82,7 @@ void FilterChip::paintEvent(QPaintEvent *)
     const QRect words = rect().adjusted(padding, 0, -2 * padding - sign, 0);
     painter.setPen(accent);
     painter.drawText(words, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine,
-                     shortened(text(), fontMetrics(), words.width()));
+                     shownWords(words.width()));
     paintGlyph(painter, QRectF(width() - padding - sign, (height() - sign) / 2.0, sign, sign), Glyph::Close,
                accent);
 }

@@ -22,6 +22,7 @@ protected:
 
 private:
     int marksWidth() const; // of the sign and the space around the words
+    QString shownWords(int width) const;
 };
 
 } // namespace Tallymere
