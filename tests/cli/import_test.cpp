@@ -213,16 +213,19 @@ TEST_P(Import, TakesTheSheetThatAListHasWritten)
     EXPECT_EQ(withoutKeys(cli.run({u"list"_s, u"items"_s}).output), withoutKeys(written));
 }
 
-TEST_P(Import, APeriodThatIsNotExpectedAndLargeFiguresNeedAYes)
+TEST_P(Import, WhatAWindowWouldAskAboutNeedsAYes)
 {
     cli.execute(u"UPDATE Company SET WPeriodFromPP = 11, WPeriodFromYYYY = 2026"_s);
-    const QByteArray rows = "R1,,2026,3,V1,Office,A1,1,1\nR2,,2026,12,V1,Office,A1,1000000,1\n";
+    const QByteArray rows = "R1,,2026,3,V1,Office,A1,1,1\nR2,,2026,12,V1,Office,A1,1000000,1\n"
+                            "R3,9999-12-31,2026,12,V1,Office,A1,1,1\nR4,2001-03-01,2026,12,V1,Office,A1,1,1\n";
     const CliResult refused = cli.import(u"receipts"_s, receiptHeader + rows);
     EXPECT_EQ(refused.status, 1);
     EXPECT_TRUE(begins(refused.errors, u"in.csv:2: GL Period is not within expected range as defined by "_s));
     EXPECT_TRUE(has(refused.errors, u"\nin.csv:3: ItemNo 'A1': The quantity is 1,000,000. "_s));
+    EXPECT_TRUE(has(refused.errors, u"\nin.csv:4: "_s) && has(refused.errors, u"more than a year away"_s));
+    EXPECT_FALSE(has(refused.errors, u"\nin.csv:5: "_s)) << "a former year";
     EXPECT_EQ(cli.run({u"import"_s, u"receipts"_s, u"in.csv"_s, u"--yes"_s}).status, 0);
-    EXPECT_EQ(cli.column({u"list"_s, u"receipts"_s}, u"ReceiptNo"_s).size(), 2);
+    EXPECT_EQ(cli.column({u"list"_s, u"receipts"_s}, u"ReceiptNo"_s).size(), 4);
 }
 
 TEST_P(Import, PostingSaysWhatItHasPostedBeforeADocumentThatItRefuses)

@@ -86,6 +86,7 @@ TEST_P(PastedRowsTest, ColumnsAreKnownByTheirTitlesOrByWhatTheyHold)
     };
     for (const auto &[text, expected] : cases)
         EXPECT_EQ(fields(QString::fromLatin1(text)), QString::fromLatin1(expected)) << text;
+    EXPECT_EQ(fields(u"Item no.\tQuantity\tAmount\nA10\t3\t12.60"_s), u"titles: ItemNo QtyReceived ");
     open(DocumentKinds::usage());
     EXPECT_EQ(fields(u"A10\t3\t9.99"_s), u"ItemNo Quantity ") << "its cost is the item's, unless a title says so";
     EXPECT_EQ(fields(u"Item\tQuantity\tUnit cost\nA10\t3\t9.99"_s), u"titles: ItemNo Quantity UnitCost");
