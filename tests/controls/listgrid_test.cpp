@@ -274,6 +274,10 @@ TEST_F(ListGridTest, lackOfWidthIsShared)
         EXPECT_GE(least[i], grid.fontMetrics().horizontalAdvance(u"Dish descrip"_s));
     }
     EXPECT_GT(grid.horizontalScrollBar()->maximum(), 0) << "the rest is scrolled";
+    press(Qt::Key_Right);
+    EXPECT_GT(grid.horizontalScrollBar()->value(), 0);
+    press(Qt::Key_Left);
+    EXPECT_EQ(grid.horizontalScrollBar()->value(), 0);
     grid.horizontalHeader()->resizeSection(1, 150); // by the user
     EXPECT_EQ(widths(1), (QList<int>{least[0], 150, least[2]}));
     EXPECT_EQ(columnWidths(grid), u"Name=200.00 Twice=%1"_s.arg(150 / fontFactor(&grid), 0, 'f', 2));

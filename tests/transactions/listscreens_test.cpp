@@ -170,8 +170,11 @@ TEST_F(ListScreensTest, postingIsOfferedOnClosingAndTold)
 {
     addReceipts();
     const auto confirm = [](DocumentPostScreen &) { press(Qt::Key_Return); };
+    const auto history = std::make_unique<TfrmInvHistory>(*context, mainWindow.get());
+    EXPECT_EQ(history->dataSet().recordCount(), 0);
     open<TfrmInvReceipts>();
     EXPECT_TRUE(whileOpen<DocumentPostScreen>(post, confirm));
+    EXPECT_EQ(history->dataSet().recordCount(), 2) << "it has been read anew";
     EXPECT_EQ(list->statusBar()->currentMessage(), u"2 receipts posted"_s);
     EXPECT_EQ(row(0).last(), u"Yes"_s);
     kitchen.addReceipt(4, 1, 1, {{1, 5, 3.0}});
