@@ -174,6 +174,19 @@ std::pair<double, double> openHistory(Engine::Database &database)
     return openList(database, view, view.table());
 }
 
+// The history that is shown, in the order of another title.
+double sortHistory(Engine::Database &database, const QString &field)
+{
+    HistoryView view(database);
+    Engine::TableReader &list = view.table();
+    list.onLongRead([&database](const Engine::DataSet::ReadOver &read) { read(database.connection()); });
+    openList(database, view, list);
+    return seconds([&] {
+        list.setSorting({field});
+        sink = sink + static_cast<double>(list.beginsAnew() ? list.firstRows(64).size() : list.recordCount());
+    });
+}
+
 std::pair<double, double> openTotals(Engine::Database &database)
 {
     TotalsView view(database, TotalsView::Figures::All);
@@ -251,8 +264,22 @@ std::vector<Compared> comparisons(Store store, Engine::Database &database, const
         {"the history opened", [&database](int) { return openHistory(database).first; },
          [&database](int) {
              return readAll(database,
-                            u"SELECT * FROM IHist ORDER BY GLYear DESC, GLPeriod DESC, TransDate DESC, "
-                            "IHistID DESC LIMIT 64"_s);
+                            u"SELECT * FROM IHist ORDER BY GLYear DESC NULLS LAST, GLPeriod DESC NULLS LAST, "
+                            "TransDate DESC NULLS LAST, IHistID DESC NULLS LAST LIMIT 64"_s);
+         }},
+        {"by quantity", [&database](int) { return sortHistory(database, Fields::Quantity); },
+         [&database](int) {
+             return readAll(database,
+                            u"SELECT * FROM IHist ORDER BY Quantity NULLS FIRST, IHistID NULLS FIRST LIMIT 64"_s);
+         }},
+        {"by location", [&database](int) { return sortHistory(database, Fields::WarehouseName); },
+         [&database](int) {
+             return readAll(
+                 database, u"SELECT * FROM IHist ORDER BY WarehouseID NULLS FIRST, IHistID NULLS FIRST LIMIT 64"_s);
+         }},
+        {"by item no.", [&database](int) { return sortHistory(database, Fields::ItemNo); },
+         [&database](int) {
+             return readAll(database, u"SELECT * FROM IHist WHERE ItemID = 1 ORDER BY IHistID LIMIT 64"_s);
          }},
         {"its rows counted beside", [&database](int) { return openHistory(database).second; },
          [&database](int) { return readAll(database, u"SELECT COUNT(*) FROM IHist"_s); }},

@@ -206,6 +206,13 @@ const TableLayout &iHist()
             {u"WAREHOUSEID"_s, Fields::WarehouseID},
             {u"TRANSTYPE"_s, Fields::TransType},
             {u"USAGEID"_s, Fields::UsageID},
+            // A history of any length is shown in the order of these, where each row has its own place.
+            {u"TRANSDATEROW"_s, u"TransDate;IHistID"_s},
+            {u"TRANSTYPEROW"_s, u"TransType;IHistID"_s},
+            {u"WAREHOUSEIDROW"_s, u"WarehouseID;IHistID"_s},
+            {u"QUANTITYROW"_s, u"Quantity;IHistID"_s},
+            {u"UNITCOSTROW"_s, u"UnitCost;IHistID"_s},
+            {u"TRANSDESCRIPTIONROW"_s, u"TransDescription;IHistID"_s, CaseInsensitive},
         },
     };
     return layout;

@@ -173,13 +173,13 @@ void TableModel::takeList()
     m_failed = false;
     m_partial = false;
     m_firstPage.clear();
-    if (m_reading == Reading::FirstPageFirst && m_rows == 0 && m_data.isOpen()) {
-        readFirstPage();
-        return;
-    }
+    bool isFirstPage = m_reading == Reading::FirstPageFirst && m_data.isOpen();
     int rows = 0;
-    attempt([&] { rows = dataRows(); });
-    showRows(rows);
+    attempt([&] {
+        isFirstPage = isFirstPage && (m_rows == 0 || m_data.beginsAnew());
+        rows = isFirstPage ? 0 : dataRows();
+    });
+    isFirstPage ? readFirstPage() : showRows(rows);
 }
 
 void TableModel::readFirstPage()

@@ -314,7 +314,7 @@ QList<OrderedField> DataSet::shownOrder() const
     if (m_sorting.field.isEmpty())
         return order;
     const Field &sorted = field(m_sorting.field);
-    order.prepend({sorted.name, isText(sorted.type) && !isCaseSorted(sorted), m_sorting.descending});
+    order.prepend({sorted.name, isText(sorted.type) && !sortsByCase(sorted), m_sorting.descending});
     return order;
 }
 
@@ -328,9 +328,19 @@ void DataSet::setSorting(const Sorting &sorting)
               Texts::tr("The rows cannot be sorted by %1.").arg(field(sorting.field).caption()));
     beforeMove();
     QScopedValueRollback sorted(m_sorting, sorting);
-    std::optional<KeyList> keys = readAhead();
+    const bool inPages = DataSetReader(*this).comesInPages();
+    std::optional<KeyList> keys = inPages ? std::nullopt : readAhead();
     sorted.commit();
-    takeAnew(Place::Keep, std::move(keys));
+    takeAnew(inPages ? Place::First : Place::Keep, std::move(keys));
+}
+
+// What is looked up sorts as its own table has it.
+bool DataSet::sortsByCase(const Field &field) const
+{
+    if (field.kind != FieldKind::Lookup)
+        return isCaseSorted(field);
+    const std::optional<TableLayout> layout = m_database.connection().layoutOf(field.lookup.table);
+    return layout && layout->isCaseSorted(field.lookup.resultField);
 }
 
 void DataSet::refresh()
@@ -350,6 +360,11 @@ DataSet::RestOver DataSet::restToCome() const
 {
     requireOpen();
     return DataSetReader(*this).restToCome();
+}
+
+bool DataSet::beginsAnew() const
+{
+    return m_open && !d->keysRead && d->cursor.isUnread() && DataSetReader(*this).comesInPages();
 }
 
 std::optional<KeyList> DataSet::readAhead() const { return DataSetReader(*this).readAhead(); }

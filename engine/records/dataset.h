@@ -18,6 +18,7 @@ namespace Engine {
 class Connection;
 class Database;
 struct SetScope;
+struct TableLayout;
 
 using Row = std::vector<Value>; // in the order of the fields; calculated fields hold null here
 
@@ -134,7 +135,8 @@ public:
     virtual QList<OrderedField> orderedFields() const = 0;
 
     // Sorts by a field, a looked-up one too; rows that agree stay in the set's own order. Text sorts as its index has it,
-    // and without regard to letter case where it has none. The record stays current. Another own order ends it.
+    // and without regard to letter case where it has none. The record stays current, but of a long set whose first rows are found
+    // by an index the first becomes it, and rows that agree are in the order of that index. Another own order ends it.
     void setSorting(const Sorting &sorting);
     const Sorting &sorting() const { return m_sorting; }
     QList<OrderedField> shownOrder() const; // with what it is sorted by in front
@@ -165,6 +167,7 @@ public:
     // read or changed since. Null where there is little to be gained.
     using RestOver = std::function<std::function<void()>(Connection &)>;
     RestOver restToCome() const;
+    bool beginsAnew() const; // a long set of which the first rows are to be shown, before its keys are read
 
     // Reads the set anew and stays on the current row; when that is gone, on the one that took its place. An edit in
     // progress is ended first.
@@ -188,6 +191,8 @@ protected:
     int requireField(QStringView name) const; // throws NoSuchField
     void requireOpen() const; // throws WrongState
     virtual bool isCaseSorted(const Field &) const { return false; } // letter case counts in the orders of the text
+    bool sortsByCase(const Field &field) const; // the same, of what is looked up too
+    virtual const TableLayout *storedLayout() const { return nullptr; } // of the table that the set is
     virtual void beforeMove(); // Table: posts or drops an edit in progress
     virtual void settle() { } // Table: the same for a detail whose master is about to move
     // The list is read again when it is needed. The record stays current, or the first becomes current.
@@ -207,6 +212,7 @@ protected:
 
     struct Private;
     friend class DataSetReader;
+    friend class SetSorting;
     std::unique_ptr<Private> d;
 
     Database &m_database;

@@ -89,6 +89,7 @@ public:
     }
     void readKeys() const; // all of them, or how many there are
     std::optional<KeyList> readAhead() const; // aside, where that pays
+    bool comesInPages() const; // a long set that begins with its first rows, of which the rest comes beside these
     DataSet::RestOver restToCome() const; // see there
     void take(KeyList keys) const; // all of them
     Key keyAt(int index) const; // of an index of the set
@@ -105,8 +106,6 @@ public:
 
 private:
     SetScope scope() const; // with filter and sorting
-    QList<OrderTerm> sortTerms(SetScope &scope) const; // of what comes before the set's own order
-    std::optional<QString> joined(SetScope &scope, const Field &field) const; // a looked-up field as a column
     void settleKeys() const;
     void takeLength(const RowSource::Length &length) const;
     bool mended(const EngineError &error) const;

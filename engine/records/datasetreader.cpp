@@ -1,4 +1,5 @@
 #include "engine/records/datasetprivate.h"
+#include "engine/records/setsorting.h"
 #include "engine/store/database.h"
 #include "engine/store/dialect.h"
 
@@ -37,53 +38,14 @@ RowSource DataSetReader::sourceOn(Connection &connection) const
 SetScope DataSetReader::scope() const
 {
     SetScope scope = m_set.scope();
+    SetSorting(m_set).applyTo(scope);
     if (m_set.m_filtered)
         scope.condition += condition(FilterExpression(m_set.m_filter));
-    const QList<OrderTerm> sorted = sortTerms(scope);
-    scope.order = sorted + scope.order;
-    scope.byIndex = scope.byIndex && sorted.isEmpty();
-    if (!sorted.isEmpty() || !scope.condition.isEmpty())
+    if (!scope.condition.isEmpty()) {
+        scope.inParts = false;
         scope.firstSource.clear();
-    scope.inParts = scope.inParts && scope.byIndex && scope.condition.isEmpty();
-    return scope;
-}
-
-QList<OrderTerm> DataSetReader::sortTerms(SetScope &scope) const
-{
-    const Sorting &sorting = m_set.m_sorting;
-    if (sorting.field.isEmpty())
-        return {};
-    const Field &shown = m_set.field(sorting.field);
-    const QString names = shown.kind == FieldKind::Calculated ? shown.sortedBy : shown.name;
-    const Dialect &dialect = m_set.m_database.connection().dialect();
-    QList<OrderTerm> terms;
-    for (const QString &name : names.split(u';', Qt::SkipEmptyParts)) {
-        const Field &field = m_set.field(name);
-        const bool folded = isText(field.type) && !m_set.isCaseSorted(field);
-        const std::optional<QString> column = joined(scope, field);
-        terms.append({{column ? *column : columnOf(dialect, field), folded}, sorting.descending});
     }
-    return terms;
-}
-
-// Sorting asks for the field of every row, for which a server has better ways than a look-up for each; a file has not. Only
-// where the join can find no more than one row.
-std::optional<QString> DataSetReader::joined(SetScope &scope, const Field &field) const
-{
-    if (field.kind != FieldKind::Lookup)
-        return std::nullopt;
-    const Lookup &lookup = field.lookup;
-    Connection &connection = m_set.m_database.connection();
-    const Dialect &dialect = connection.dialect();
-    const QString join = dialect.variant(
-        {},
-        u" LEFT OUTER JOIN %1 s ON s.%2 = t.%3"_s.arg(dialect.name(lookup.table), dialect.name(lookup.tableKey),
-                                                      dialect.name(lookup.keyField)));
-    const std::optional<TableLayout> layout = join.isEmpty() ? std::nullopt : connection.layoutOf(lookup.table);
-    if (!layout || layout->primaryFields().join(u';').compare(lookup.tableKey, Qt::CaseInsensitive) != 0)
-        return std::nullopt;
-    scope.source += join;
-    return "s."_L1 + dialect.name(lookup.resultField);
+    return scope;
 }
 
 bool DataSetReader::mended(const EngineError &error) const
@@ -107,6 +69,20 @@ std::optional<KeyList> DataSetReader::readAhead() const
     KeyList keys;
     d.aside([&](Connection &connection) { keys = RowSource(connection, wanted, m_set.m_fields).keys(); });
     return keys;
+}
+
+bool DataSetReader::comesInPages() const
+{
+    Connection &connection = m_set.m_database.connection();
+    if (!d.aside || d.inMemory || connection.inTransaction())
+        return false;
+    const RowSource wanted = sourceOn(connection); // not yet the one in hand where the order is about to change
+    // On a standby its first rows might be of another moment than the others.
+    if (!wanted.comesInPages() || (wanted.guessesFirst() && connection.origin().isStandby()))
+        return false;
+    if (d.mostRows < d.longFrom && !d.keysRead && wanted.hasMoreThan(d.longFrom))
+        d.mostRows = d.longFrom + 1;
+    return d.mostRows >= d.longFrom;
 }
 
 // What is read aside knows nothing of the set, which may be gone by then.

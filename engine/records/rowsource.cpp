@@ -231,7 +231,7 @@ std::vector<FoundRow> RowSource::firstFound(int count) const
 {
     if (m_scope.isNone)
         return {};
-    if (!m_scope.firstSource.isEmpty()) {
+    if (!m_scope.firstSource.isEmpty() && count <= SetScope::mostFirstRows) {
         RowSource sooner = *this;
         sooner.m_scope.source = std::exchange(sooner.m_scope.firstSource, {});
         sooner.m_scope.sourceParameters.clear();

@@ -27,6 +27,7 @@ struct SetScope
     QList<OrderTerm> order; // total, by ending with the key
     bool byIndex = false; // the order is that of an index: the first rows are there long before all keys are
     QString firstSource; // has nearly the same rows, and an index for the order: for the first page
+    static constexpr int mostFirstRows = 100; // that it is asked for
     // Its keys may be read in parts: it is a table as a whole, in the order of an index of it, by a key of one number that new
     // rows have above all others.
     bool inParts = false;
@@ -72,6 +73,10 @@ public:
     StatementPtr allRows() const; // in the set's order, for takeRow(); null where there can be none
     bool guessesFirst() const { return !m_scope.firstSource.isEmpty(); }
     bool hasFirstRowsSoon() const { return m_scope.byIndex || guessesFirst(); }
+    bool comesInPages() const
+    {
+        return m_scope.inParts || guessesFirst();
+    } // and all that follows them is read later
     bool isFar() const { return m_connection.sendsAhead(); } // each statement costs a journey
     // The row of a key, whether the set's condition lets it in or not.
     std::optional<Row> row(const Key &key) const;

@@ -147,12 +147,7 @@ QList<OrderedField> TableReader::orderedFields() const
     return fields;
 }
 
-bool TableReader::isCaseSorted(const Field &field) const
-{
-    return std::any_of(m_layout.indexes.begin(), m_layout.indexes.end(), [&field](const IndexDef &index) {
-        return !index.options.testFlag(IndexOption::CaseInsensitive) && index.fieldNames().value(0) == field.name;
-    });
-}
+bool TableReader::isCaseSorted(const Field &field) const { return m_layout.isCaseSorted(field.name); }
 
 void TableReader::setIndex(const QString &nameOrFields)
 {

@@ -51,6 +51,7 @@ public:
 protected:
     SetScope scope() const override;
     bool isCaseSorted(const Field &field) const override;
+    const TableLayout *storedLayout() const override { return &m_layout; }
     void shut() noexcept; // closes, for destructors
     const IndexDef *order() const; // of the index in force; nullptr for a table without primary key
     QList<Value> linkValues() const; // of the master's record

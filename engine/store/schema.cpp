@@ -23,13 +23,17 @@ bool sameFields(const TableLayout &a, const TableLayout &b)
                       });
 }
 
+bool hasIndex(const TableLayout &table, const IndexDef &index)
+{
+    const IndexDef *other = table.index(index.name);
+    return other && sameName(other->fields, index.fields) && other->options == index.options;
+}
+
 bool sameIndexes(const TableLayout &a, const TableLayout &b)
 {
     return a.indexes.size() == b.indexes.size()
-        && std::all_of(a.indexes.begin(), a.indexes.end(), [&](const IndexDef &index) {
-               const IndexDef *other = b.index(index.name);
-               return other && sameName(other->fields, index.fields) && other->options == index.options;
-           });
+        && std::all_of(a.indexes.begin(), a.indexes.end(),
+                       [&](const IndexDef &index) { return hasIndex(b, index); });
 }
 
 bool samePrimary(const TableLayout &a, const TableLayout &b)
@@ -82,15 +86,18 @@ TableLayout requireTable(Connection &store, const QString &table, const QString 
     raise(ErrorCode::NoSuchTable, Texts::tr("There is no table '%1' in %2.").arg(title, store.location()));
 }
 
+// Those that stay as they are stay, as building one of a long table takes its time.
 void replaceIndexes(Connection &store, const TableLayout &stored, const TableLayout &layout)
 {
-    for (const IndexDef &index : stored.indexes) {
-        if (!index.options.testFlag(IndexOption::Primary))
-            store.execute(store.dialect().dropIndex(stored.name, index));
-    }
-    TableLayout secondary = layout;
-    secondary.indexes.removeIf([](const IndexDef &index) { return index.options.testFlag(IndexOption::Primary); });
-    runAll(store, store.dialect().createIndexes(secondary));
+    const auto withoutThoseOf = [](TableLayout table, const TableLayout &other) {
+        table.indexes.removeIf([&other](const IndexDef &index) {
+            return index.options.testFlag(IndexOption::Primary) || hasIndex(other, index);
+        });
+        return table;
+    };
+    for (const IndexDef &index : withoutThoseOf(stored, layout).indexes)
+        store.execute(store.dialect().dropIndex(stored.name, index));
+    runAll(store, store.dialect().createIndexes(withoutThoseOf(layout, stored)));
 }
 
 // Copies the rows into a table of the new layout, which then takes the old one's place.

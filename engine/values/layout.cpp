@@ -55,6 +55,14 @@ const IndexDef *TableLayout::index(QStringView indexName) const
     return nullptr;
 }
 
+bool TableLayout::isCaseSorted(QStringView field) const
+{
+    return std::any_of(indexes.begin(), indexes.end(), [field](const IndexDef &index) {
+        return !index.options.testFlag(IndexOption::CaseInsensitive)
+            && field.compare(index.fieldNames().value(0), Qt::CaseInsensitive) == 0;
+    });
+}
+
 const IndexDef *TableLayout::indexOnFields(QStringView fieldList) const
 {
     for (const IndexDef &index : indexes) {

@@ -52,6 +52,7 @@ struct TableLayout
     // The primary fields when all of them are whole numbers, else empty: what rows are told apart by in memory.
     QStringList numberKey() const;
     const IndexDef *index(QStringView indexName) const; // by name, without regard to case; "" is the primary index
+    bool isCaseSorted(QStringView field) const; // an index begins with it in which letter case counts
     const IndexDef *indexOnFields(QStringView fields) const; // by its field list, such as "ReceiptID;Seq"
 };
 

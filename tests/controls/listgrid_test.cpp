@@ -23,7 +23,8 @@ const Engine::TableLayout layout{
     {{u"DishID"_s, FieldType::Integer}, {u"DishNo"_s, FieldType::Text, 10}, {u"Name"_s, FieldType::Text, 20}},
     {{{}, u"DishID"_s, Engine::IndexOption::Primary},
      {u"DISHNO"_s, u"DishNo"_s},
-     {u"NAME1"_s, u"Name"_s, Engine::IndexOption::CaseInsensitive}}};
+     {u"NAME1"_s, u"Name"_s, Engine::IndexOption::CaseInsensitive},
+     {u"NAMEROW"_s, u"Name;DishID"_s, Engine::IndexOption::CaseInsensitive}}};
 
 // Dish 1 to 200, numbered D0001 and so on.
 struct ListGridTest : testing::TestWithParam<Store>
@@ -125,6 +126,27 @@ TEST_F(ListGridTest, theRestOfALongListComesByItselfOrWithTheKeyThatNeedsIt)
         EXPECT_TRUE(comesTrue([&list] { return list.model()->rowCount() == dishes; }));
         EXPECT_EQ(query.recordIndex(), byKey ? dishes - 1 : 0);
         query.close();
+    }
+}
+
+TEST_F(ListGridTest, aLongListInAnotherOrderBeginsWithItsFirstRows)
+{
+    Engine::TableReader dishList(store.database(), u"Dish"_s);
+    dishList.onLongRead([](const Engine::DataSet::ReadOver &) { ADD_FAILURE() << "nothing to wait for"; },
+                        dishes - 1);
+    dishList.open();
+    ListGrid list;
+    list.setDataSet(dishList, {{u"Name"_s, u"Name"_s, 200}}, guard);
+    showActive(list);
+    for (const bool descending : {true, false}) {
+        EXPECT_TRUE(comesTrue([&list] { return list.model()->rowCount() == dishes; }));
+        QTest::keyClick(&list, Qt::Key_End);
+        dishList.setSorting({u"Name"_s, descending});
+        EXPECT_TRUE(list.tableModel()->isPartial());
+        EXPECT_EQ(list.currentIndex().row(), 0);
+        EXPECT_EQ(list.verticalScrollBar()->value(), 0);
+        EXPECT_EQ(cellOf(list, 0, 0), descending ? u"Dish 99"_s : u"Dish 1"_s);
+        EXPECT_EQ(dishList.integer(u"DishID"), descending ? 99 : 1);
     }
 }
 

@@ -1,5 +1,6 @@
 // The power goes while somebody works in windows, by keyboard.
 
+#include "engine/records/query.h"
 #include "tests/endurance/books.h"
 #include "tests/endurance/desk.h"
 #include "tests/support/chance.h"
@@ -41,7 +42,11 @@ TEST(ScreenCuts, LeaveWhatWasSavedPostedAndCounted)
 {
     const Inputs inputs;
     std::vector<Stage> stages = firstStages(inputs);
-    stages.push_back(window(u"enter"_s, [](Desk &desk) { desk.enterReceipt("1", "5"); }));
+    stages.push_back(window(u"enter"_s, [](Desk &desk) {
+        if (!Engine::hasRow(desk.data.databaseTallymere(), u"IReceipt"_s, u"ReceiptNo"_s,
+                            u"1003"_s)) // entered whole
+            desk.enterReceipt("1", "5");
+    }));
     stages.back().damages = true; // its lines are there before its header
     stages.push_back(window(u"post receipts"_s, [](Desk &desk) { desk.post(DocumentKinds::receipt()); }));
     stages.push_back(window(u"count"_s, [](Desk &desk) { desk.count("A1<Return>4<Return> B2<Return>3<Return>"); }));

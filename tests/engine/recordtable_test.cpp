@@ -2,6 +2,8 @@
 #include "engine/records/setkeys.h"
 #include "tests/engine/recordfixture.h"
 
+#include <numeric>
+
 using namespace Engine;
 using namespace Qt::StringLiterals;
 
@@ -158,6 +160,59 @@ TEST_P(RecordTest, ALongListThatIsFarIsCountedBesideItsFirstRows)
     EXPECT_EQ(list.recordCount(), rows + 1) << "it was told of an earlier reading";
     const DataSet::RestOver late = list.restToCome();
     EXPECT_FALSE(late) << "it has been counted";
+}
+
+// Of 20,000 vendors some came on the same day and some on none; every fourth has no document to be looked up.
+TEST_P(RecordTest, ALongListInAnotherOrderBeginsWithItsFirstRowsWithoutReadingTheOthers)
+{
+    constexpr int rows = 20'000;
+    const auto number = [](int id) {
+        return id % 4 == 0 ? 0 : (id % 4) * 7 % 5;
+    }; // 2, 4 and 1 for documents 1, 2 and 3
+    store.execute(u"INSERT INTO Document (VendorID) VALUES (2), (4), (1)"_s);
+    store.execute(
+        u"INSERT INTO Vendor (VendorID, Days) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+        "WHERE i < %1) SELECT i, i % 4 FROM n; "
+        "UPDATE Vendor SET Since = '2023-01-01' WHERE VendorID % 10 NOT IN (0, 7); "
+        "UPDATE Vendor SET Since = '2024-05-01' WHERE VendorID % 10 = 7"_s.arg(rows));
+    const auto day = [](int id) { return id % 10 == 0 ? 0 : id % 10 == 7 ? 2 : 1; };
+    TableReader list(database(), u"Vendor"_s);
+    list.addLookup({u"Number"_s, FieldType::Integer}, {u"Days"_s, u"Document"_s, u"DocumentID"_s, u"VendorID"_s});
+    list.onLongRead([](const DataSet::ReadOver &) { ADD_FAILURE() << "nothing to wait for"; }, rows / 2);
+    list.open();
+    const std::tuple<QString, std::function<int(int)>, bool> orders[] = {{u"Since"_s, day, true},
+                                                                         {u"Number"_s, number, false}};
+    for (const auto &[field, ranked, isWhole] : orders) {
+        for (const bool descending : {false, true}) {
+            SCOPED_TRACE(testing::Message() << field.toStdString() << descending);
+            std::vector<int> expected(rows);
+            std::iota(expected.begin(), expected.end(), 1);
+            std::stable_sort(expected.begin(), expected.end(),
+                             [&ranked](int one, int other) { return ranked(one) < ranked(other); });
+            if (descending)
+                std::reverse(expected.begin(), expected.end());
+            const bool leavesOutNone = isWhole || descending; // those without a document come with the rest
+            ASSERT_TRUE(list.moveToKey({11}));
+            list.setSorting({field, descending});
+            ASSERT_TRUE(list.beginsAnew());
+            const std::vector<Row> first = list.firstRows(3);
+            for (size_t i = 0; i < first.size(); ++i)
+                EXPECT_EQ(first[i][0].toInt(), expected[i + (leavesOutNone ? 0 : rows / 4)]);
+            EXPECT_EQ(list.integer(u"VendorID"), first[0][0].toInt());
+            list.restToCome()(database().connection())();
+            ASSERT_EQ(list.recordCount(), rows);
+            for (const int index : {0, 1, rows / 2, 3000, rows - 1}) {
+                const qint64 id = expected[static_cast<size_t>(index)];
+                EXPECT_EQ(list.rowAt(index)[0].toInt(), id) << index;
+                EXPECT_EQ(list.indexOf({id}), index);
+            }
+        }
+    }
+    list.setFilter(u"Days = 0"_s);
+    list.onLongRead({}, rows);
+    list.setFiltered(true);
+    list.setSorting({u"Since"_s, true});
+    EXPECT_EQ(list.rowAt(0)[0].toInt(), 19'996) << "the last of its day, where it is filtered too";
 }
 
 TEST_P(RecordTest, LocatesTheFirstMatchInTheOrderOrStays)

@@ -1,0 +1,127 @@
+#include "engine/records/setsorting.h"
+
+#include "engine/records/dataset.h"
+#include "engine/records/tableprivate.h"
+#include "engine/store/database.h"
+#include "engine/store/dialect.h"
+#include "engine/values/layout.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Engine {
+
+namespace {
+
+QStringList sortedNames(const DataSet &set)
+{
+    if (set.sorting().field.isEmpty())
+        return {};
+    const Field &shown = set.field(set.sorting().field);
+    const QString names = shown.kind == FieldKind::Calculated ? shown.sortedBy : shown.name;
+    return names.split(u';', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+SetSorting::SetSorting(const DataSet &set)
+    : m_set(set)
+    , m_dialect(set.m_database.connection().dialect())
+    , m_names(sortedNames(set))
+    , m_isDescending(set.m_sorting.descending)
+{
+}
+
+void SetSorting::applyTo(SetScope &scope) const
+{
+    if (m_names.isEmpty())
+        return;
+    scope.firstSource.clear();
+    if (scope.inParts && (sortByIndex(scope) || sortByLookup(scope)))
+        return;
+    scope.byIndex = false;
+    sortAll(scope);
+}
+
+// Rows that agree are in the order of the index as well then, and not in the set's own.
+bool SetSorting::sortByIndex(SetScope &scope) const
+{
+    const TableLayout &layout = *m_set.storedLayout();
+    const QString key = layout.numberKey().join(u';');
+    const auto hasOrder = [&](const IndexDef &index) {
+        const QStringList names = index.fieldNames();
+        return names.mid(0, m_names.size()).join(u';').compare(m_names.join(u';'), Qt::CaseInsensitive) == 0
+            && names.constLast().compare(key, Qt::CaseInsensitive) == 0;
+    };
+    const auto index = std::find_if(layout.indexes.begin(), layout.indexes.end(), hasOrder);
+    if (index == layout.indexes.end())
+        return false;
+    scope.order.clear();
+    for (const SqlColumn &column : indexColumns(layout, *index, m_dialect))
+        scope.order.append({column, m_isDescending});
+    return true;
+}
+
+// The first rows are those of the first rows of the other table. A file stops at so many of each by itself, a server is told.
+bool SetSorting::sortByLookup(SetScope &scope) const
+{
+    const Field &field = m_set.field(m_names.constFirst());
+    const QString join = joinOf(field);
+    if (join.isEmpty())
+        return false;
+    const QString key = scope.keyColumns.constFirst();
+    const OrderTerm byKey{{key}, m_isDescending};
+    const QString oneOfTheirs = m_dialect.name(field.lookup.table) + " s CROSS JOIN "_L1;
+    const QString rowsOfIt = scope.source + " WHERE "_L1 + matchOf(field);
+    const QString firstRowsOfIt = u"LATERAL (SELECT t.* FROM %1 ORDER BY %2 LIMIT %3) t"_s
+                                      .arg(rowsOfIt, m_dialect.orderTerm(key, false, m_isDescending))
+                                      .arg(SetScope::mostFirstRows);
+    scope.firstSource = oneOfTheirs + m_dialect.variant(scope.source + " ON "_L1 + matchOf(field), firstRowsOfIt);
+    scope.source += join;
+    scope.order = {termOf(joinedColumn(field), field), {{theirKey(field)}, m_isDescending}, byKey};
+    scope.inParts = false;
+    return true;
+}
+
+// A server has better ways to find what is looked up than a look-up for each row; a file has not.
+void SetSorting::sortAll(SetScope &scope) const
+{
+    QList<OrderTerm> terms;
+    for (const QString &name : m_names) {
+        const Field &field = m_set.field(name);
+        const QString join = m_names.size() == 1 ? m_dialect.variant({}, joinOf(field)) : QString();
+        scope.source += join;
+        terms.append(termOf(join.isEmpty() ? columnOf(m_dialect, field) : joinedColumn(field), field));
+    }
+    scope.order = terms + scope.order;
+}
+
+OrderTerm SetSorting::termOf(const QString &column, const Field &field) const
+{
+    return {{column, isText(field.type) && !m_set.sortsByCase(field)}, m_isDescending};
+}
+
+QString SetSorting::joinOf(const Field &field) const
+{
+    const Lookup &lookup = field.lookup;
+    const std::optional<TableLayout> layout =
+        field.kind == FieldKind::Lookup ? m_set.m_database.connection().layoutOf(lookup.table) : std::nullopt;
+    if (!layout || layout->primaryFields().join(u';').compare(lookup.tableKey, Qt::CaseInsensitive) != 0)
+        return {};
+    return u" LEFT OUTER JOIN %1 s ON %2"_s.arg(m_dialect.name(lookup.table), matchOf(field));
+}
+
+QString SetSorting::theirKey(const Field &field) const { return "s."_L1 + m_dialect.name(field.lookup.tableKey); }
+
+QString SetSorting::matchOf(const Field &field) const
+{
+    return theirKey(field) + " = t."_L1 + m_dialect.name(field.lookup.keyField);
+}
+
+QString SetSorting::joinedColumn(const Field &field) const
+{
+    return "s."_L1 + m_dialect.name(field.lookup.resultField);
+}
+
+} // namespace Engine
