@@ -93,18 +93,18 @@ bool ListSearch::begins() const
     constexpr int many = 50'000; // rows, in which only what has an index is found at once
     const DataSet &set = m_model.dataSet();
     const std::optional<OrderedField> where = column();
-    const bool isSlow = !set.sorting().field.isEmpty() && set.recordCount() > many;
+    const bool isSlow = !set.isOrderedByIndex() && set.recordCount() > many;
     return where && !isSlow && locate(*where, m_text);
 }
 
 // Rows that have been looked at in vain for less need not be looked at for more.
 void ListSearch::find()
 {
-    m_sinceTyped.start();
     const bool searched = m_guard.run([this] {
         const QScopedValueRollback moving(m_moving, true);
         m_found = begins();
     });
+    m_sinceTyped.start(); // what finding has taken is nobody's pause
     if (!searched)
         return end();
     const TextMatch words(m_text);

@@ -308,6 +308,11 @@ bool DataSet::canSortBy(int field) const
     return of.kind != FieldKind::Calculated || !of.sortedBy.isEmpty();
 }
 
+bool DataSet::isOrderedByIndex() const
+{
+    return m_sorting.field.isEmpty() || DataSetReader(*this).source().hasFirstRowsSoon();
+}
+
 QList<OrderedField> DataSet::shownOrder() const
 {
     QList<OrderedField> order = orderedFields();

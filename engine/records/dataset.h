@@ -141,6 +141,7 @@ public:
     const Sorting &sorting() const { return m_sorting; }
     QList<OrderedField> shownOrder() const; // with what it is sorted by in front
     bool canSortBy(int field) const; // not by a calculated one that nothing else sorts as
+    bool isOrderedByIndex() const; // what its order begins with is found by a key look-up
 
     // A condition over data and looked-up fields, in force while filtered is set:
     //   (WarehouseID = 2) AND (Posted <> true) OR NOT (Name LIKE 'A%') OR (Name CONTAINS 'crème')

@@ -44,7 +44,11 @@ RowSource::RowSource(Connection &connection, SetScope scope, const std::deque<Fi
     m_columnCount = static_cast<int>(columns.size());
 }
 
-QString RowSource::columnOf(const Field &field) const { return Engine::columnOf(m_connection.dialect(), field); }
+QString RowSource::columnOf(const Field &field) const
+{
+    return field.name == m_scope.joinedField ? m_scope.joinedColumn
+                                             : Engine::columnOf(m_connection.dialect(), field);
+}
 
 QString columnOf(const Dialect &dialect, const Field &field)
 {
@@ -98,12 +102,11 @@ KeyList RowSource::keys() const
     return keys;
 }
 
-QString RowSource::orderBy(bool backwards) const
+QString orderBy(const Dialect &dialect, const QList<OrderTerm> &order, bool backwards)
 {
     QStringList terms;
-    for (const OrderTerm &term : m_scope.order)
-        terms << m_connection.dialect().orderTerm(term.column.sql, term.column.caseInsensitive,
-                                                  term.descending != backwards);
+    for (const OrderTerm &term : order)
+        terms << dialect.orderTerm(term.column.sql, term.column.caseInsensitive, term.descending != backwards);
     return " ORDER BY "_L1 + terms.join(", "_L1);
 }
 

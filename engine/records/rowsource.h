@@ -28,6 +28,8 @@ struct SetScope
     bool byIndex = false; // the order is that of an index: the first rows are there long before all keys are
     QString firstSource; // has nearly the same rows, and an index for the order: for the first page
     static constexpr int mostFirstRows = 100; // that it is asked for
+    QString joinedField; // a looked-up one that the source has as a column
+    QString joinedColumn;
     // Its keys may be read in parts: it is a table as a whole, in the order of an index of it, by a key of one number that new
     // rows have above all others.
     bool inParts = false;
@@ -35,6 +37,8 @@ struct SetScope
     // Text fields in the folded form of which an index exists: a search by the exact text goes through that index.
     QStringList foldedFields;
 };
+
+QString orderBy(const Dialect &dialect, const QList<OrderTerm> &order, bool backwards = false);
 
 // The expression of a field of a set, for conditions and orders. Throws NoSuchField for a calculated one.
 QString columnOf(const Dialect &dialect, const Field &field);
@@ -100,7 +104,10 @@ private:
     Row readRow(const Statement &statement) const;
     Row nullRow() const { return Row(m_fields.size()); }
     SqlCondition keyCondition(const Key &key) const;
-    QString orderBy(bool backwards = false) const;
+    QString orderBy(bool backwards = false) const
+    {
+        return Engine::orderBy(m_connection.dialect(), m_scope.order, backwards);
+    }
     SqlCondition upTo(qint64 lastKey) const;
     SqlCondition matchOne(const Field &field, const Value &value, bool partial, bool caseInsensitive) const;
     StatementPtr select(const QString &columns, const SqlCondition &condition, const QString &tail) const;

@@ -67,32 +67,47 @@ bool SetSorting::sortByIndex(SetScope &scope) const
 bool SetSorting::sortByLookup(SetScope &scope) const
 {
     const Field &field = m_set.field(m_names.constFirst());
-    const QString join = joinOf(field);
-    if (join.isEmpty())
+    const QString rows = scope.source;
+    if (!join(scope, field))
         return false;
-    const QString key = scope.keyColumns.constFirst();
-    const OrderTerm byKey{{key}, m_isDescending};
-    const QString oneOfTheirs = m_dialect.name(field.lookup.table) + " s CROSS JOIN "_L1;
-    const QString rowsOfIt = scope.source + " WHERE "_L1 + matchOf(field);
-    const QString firstRowsOfIt = u"LATERAL (SELECT t.* FROM %1 ORDER BY %2 LIMIT %3) t"_s
-                                      .arg(rowsOfIt, m_dialect.orderTerm(key, false, m_isDescending))
-                                      .arg(SetScope::mostFirstRows);
-    scope.firstSource = oneOfTheirs + m_dialect.variant(scope.source + " ON "_L1 + matchOf(field), firstRowsOfIt);
-    scope.source += join;
-    scope.order = {termOf(joinedColumn(field), field), {{theirKey(field)}, m_isDescending}, byKey};
+    const QList<OrderTerm> within = orderOfOne(field.lookup, scope.keyColumns.constFirst());
+    const QString firstRowsOfOne = u"LATERAL (SELECT t.* FROM %1 WHERE %2%3 LIMIT %4) t"_s
+                                       .arg(rows, matchOf(field), orderBy(m_dialect, within))
+                                       .arg(SetScope::mostFirstRows);
+    scope.firstSource = m_dialect.name(field.lookup.table) + " s CROSS JOIN "_L1
+        + m_dialect.variant(rows + " ON "_L1 + matchOf(field), firstRowsOfOne);
+    scope.order = {termOf(scope.joinedColumn, field), {{theirKey(field)}, m_isDescending}};
+    scope.order += within;
     scope.inParts = false;
     return true;
+}
+
+// Rows to which the same is looked up are in the order of the first index that has these together and in some order.
+QList<OrderTerm> SetSorting::orderOfOne(const Lookup &lookup, const QString &key) const
+{
+    QList<OrderTerm> terms;
+    const TableLayout &layout = *m_set.storedLayout();
+    const auto ordersThem = [&lookup](const IndexDef &index) {
+        const QStringList names = index.fieldNames();
+        return names.size() > 1 && names.constFirst().compare(lookup.keyField, Qt::CaseInsensitive) == 0;
+    };
+    if (const auto index = std::ranges::find_if(layout.indexes, ordersThem); index != layout.indexes.end())
+        for (const SqlColumn &column : indexColumns(layout, *index, m_dialect).mid(1))
+            terms.append({column, m_isDescending});
+    if (terms.isEmpty() || terms.constLast().column.sql != key)
+        terms.append({{key}, m_isDescending});
+    return terms;
 }
 
 // A server has better ways to find what is looked up than a look-up for each row; a file has not.
 void SetSorting::sortAll(SetScope &scope) const
 {
+    const bool isOnServer = m_dialect.variant(u"file"_s, u"server"_s) == u"server"_s;
     QList<OrderTerm> terms;
     for (const QString &name : m_names) {
         const Field &field = m_set.field(name);
-        const QString join = m_names.size() == 1 ? m_dialect.variant({}, joinOf(field)) : QString();
-        scope.source += join;
-        terms.append(termOf(join.isEmpty() ? columnOf(m_dialect, field) : joinedColumn(field), field));
+        const bool isJoined = isOnServer && m_names.size() == 1 && join(scope, field);
+        terms.append(termOf(isJoined ? scope.joinedColumn : columnOf(m_dialect, field), field));
     }
     scope.order = terms + scope.order;
 }
@@ -102,14 +117,17 @@ OrderTerm SetSorting::termOf(const QString &column, const Field &field) const
     return {{column, isText(field.type) && !m_set.sortsByCase(field)}, m_isDescending};
 }
 
-QString SetSorting::joinOf(const Field &field) const
+bool SetSorting::join(SetScope &scope, const Field &field) const
 {
     const Lookup &lookup = field.lookup;
     const std::optional<TableLayout> layout =
         field.kind == FieldKind::Lookup ? m_set.m_database.connection().layoutOf(lookup.table) : std::nullopt;
     if (!layout || layout->primaryFields().join(u';').compare(lookup.tableKey, Qt::CaseInsensitive) != 0)
-        return {};
-    return u" LEFT OUTER JOIN %1 s ON %2"_s.arg(m_dialect.name(lookup.table), matchOf(field));
+        return false;
+    scope.source += u" LEFT OUTER JOIN %1 s ON %2"_s.arg(m_dialect.name(lookup.table), matchOf(field));
+    scope.joinedField = field.name;
+    scope.joinedColumn = "s."_L1 + m_dialect.name(lookup.resultField);
+    return true;
 }
 
 QString SetSorting::theirKey(const Field &field) const { return "s."_L1 + m_dialect.name(field.lookup.tableKey); }
@@ -117,11 +135,6 @@ QString SetSorting::theirKey(const Field &field) const { return "s."_L1 + m_dial
 QString SetSorting::matchOf(const Field &field) const
 {
     return theirKey(field) + " = t."_L1 + m_dialect.name(field.lookup.keyField);
-}
-
-QString SetSorting::joinedColumn(const Field &field) const
-{
-    return "s."_L1 + m_dialect.name(field.lookup.resultField);
 }
 
 } // namespace Engine

@@ -22,12 +22,12 @@ private:
     bool sortByIndex(SetScope &scope) const;
     bool sortByLookup(SetScope &scope) const;
     void sortAll(SetScope &scope) const;
+    QList<OrderTerm> orderOfOne(const Lookup &lookup, const QString &key) const;
     OrderTerm termOf(const QString &column, const Field &field) const;
-    // What joins the table of a looked-up field as "s"; empty where that might find more than one row, or none is looked up.
-    QString joinOf(const Field &field) const;
+    // Joins the table of a looked-up field as "s"; false where that might find more than one row, or none is looked up.
+    bool join(SetScope &scope, const Field &field) const;
     QString matchOf(const Field &field) const; // on which it is joined
     QString theirKey(const Field &field) const;
-    QString joinedColumn(const Field &field) const;
 
     const DataSet &m_set;
     const Dialect &m_dialect;

@@ -201,6 +201,9 @@ TEST_P(RecordTest, ALongListInAnotherOrderBeginsWithItsFirstRowsWithoutReadingTh
             EXPECT_EQ(list.integer(u"VendorID"), first[0][0].toInt());
             list.restToCome()(database().connection())();
             ASSERT_EQ(list.recordCount(), rows);
+            EXPECT_TRUE(list.isOrderedByIndex());
+            const auto ofNumber4 = [&number](int id) { return number(id) == 4; };
+            EXPECT_EQ(list.find(u"Number"_s, {4})->key.constFirst(), *std::ranges::find_if(expected, ofNumber4));
             for (const int index : {0, 1, rows / 2, 3000, rows - 1}) {
                 const qint64 id = expected[static_cast<size_t>(index)];
                 EXPECT_EQ(list.rowAt(index)[0].toInt(), id) << index;
