@@ -24,9 +24,7 @@ BookAddress BookAddress::fromText(const QString &text)
         return folder(text.mid(7));
     if (text.startsWith("server:"_L1))
         return {.server = text.mid(7)};
-    if (text.contains(u'/') || QFileInfo(text).isDir())
-        return folder(text);
-    return {.server = text};
+    return folder(text);
 }
 
 BookSite::BookSite(const BookAddress &address, const SettingsStore &settings, const QString &user)

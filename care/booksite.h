@@ -8,8 +8,8 @@
 
 namespace Tallymere {
 
-// Where books are, in the words of whoever names it: a folder, or the address of a server. What has a slash, or is there as a
-// folder, is one; "folder:" and "server:" before it say so where that would go wrong.
+// Where books are, in the words of whoever names it: a folder, or the address of a server with "server:" before it. A folder that
+// is called like that has "folder:" before it.
 struct BookAddress
 {
     QString folder{};

@@ -76,6 +76,10 @@ TableDigest TableCopy::run() const
     for (const Engine::FieldDef &field : m_layout.fields)
         if (field.type == Engine::FieldType::AutoInc)
             passNumbers(field.name);
+    // A server that does not know yet what it holds finds bad ways to it.
+    if (const QString look = m_to.dialect().variant({}, "ANALYZE "_L1 + m_to.dialect().name(m_layout.name));
+        !look.isEmpty())
+        m_to.execute(look);
     if (walk(m_to, {}) != read)
         throw RuleError(CareTexts::tr("The table %1 does not hold the same in the copy.").arg(m_layout.name));
     return read;

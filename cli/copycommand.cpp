@@ -55,18 +55,19 @@ Command copyCommand()
     Command command;
     command.name = u"copy"_s;
     command.summary = Texts::tr("the books of a folder onto a server, or back, while others work");
-    command.details = Texts::tr(
-        "PLACE is a folder or the address of a server; \"folder:\" or \"server:\" before it says which where that\n"
-        "could be mistaken. All tables as they stand at one moment, the host's among them, into a place that holds "
-        "no\n"
-        "books. Each table is verified row by row and by its sums, and both sides are checked. A copy that was "
-        "stopped\n"
-        "is nothing that can be opened; the same command goes on with it. Where the books come from nothing is "
-        "written,\n"
-        "unless they move: then they say where they have gone and take no more changes there.");
+    command.details = Texts::tr("PLACE is a folder, or \"server:\" and the address of a server. All tables as they "
+                                "stand at one moment, the\n"
+                                "host's among them, into a place that holds no books. Each table is verified row "
+                                "by row and by its sums, and\n"
+                                "both sides are checked. A copy that was stopped is nothing that can be opened; "
+                                "the same command goes on with\n"
+                                "it. Where the books come from nothing is written, unless they move: then they say "
+                                "where they have gone and\n"
+                                "take no more changes there.");
     command.options = {
         {u"from"_s, Texts::tr("PLACE"), Texts::tr("where the books are")},
         {u"to"_s, Texts::tr("PLACE"), Texts::tr("where they are copied to")},
+        {u"resume"_s, {}, Texts::tr("goes on with a copy that was stopped, as is done without it too")},
         {u"move"_s, {}, Texts::tr("the books where they were take no more changes from then on")},
         {u"take-up"_s, {}, Texts::tr("lets the books in --from, which have moved away, be changed again")}};
     command.run = runCopy;

@@ -153,9 +153,10 @@ void DocumentEntry::chooseScannedItem(int itemId, bool mayReplace)
 {
     setLineColumn(Fields::ItemNo);
     const int present = m_lines.integer(Fields::ItemID);
-    if (!m_lines.isEmpty() && present == itemId)
+    const bool isLine = !m_lines.isEmpty() || m_lines.isEditing(); // the first one may have been begun
+    if (isLine && present == itemId)
         return;
-    if (m_lines.isEmpty() || (present != 0 && !mayReplace))
+    if (!isLine || (present != 0 && !mayReplace))
         newLine();
     chooseItem(itemId);
 }

@@ -3,8 +3,10 @@
 #include "engine/store/database.h"
 
 #include <algorithm>
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 namespace Tallymere {
@@ -46,9 +48,9 @@ void ListGrid::takeCursor()
 {
     if (m_moving || !m_data->isOpen())
         return;
-    const int row = m_data->recordIndex();
-    if (row >= tableModel()->rowCount())
-        tableModel()->readRest();
+    if (tableModel()->isPartial() && tableModel()->currentRow() < 0)
+        tableModel()->readRest(); // it is further down
+    const int row = tableModel()->currentRow();
     if (row < 0 || row >= tableModel()->rowCount() || row == currentIndex().row())
         return;
     m_moving = true;
@@ -64,7 +66,7 @@ void ListGrid::giveCursor(const QModelIndex &current)
     if (m_moving || !current.isValid())
         return;
     m_moving = true;
-    m_guard->run([&] { m_data->moveTo(current.row()); });
+    m_guard->run([&] { tableModel()->makeCurrent(current.row()); });
     m_moving = false;
 }
 
@@ -122,8 +124,7 @@ void ListGrid::selectionChanged(const QItemSelection &selected, const QItemSelec
 
 void ListGrid::keyPressEvent(QKeyEvent *event)
 {
-    tableModel()->readRest();
-    if (m_search->takeKey(*event))
+    if (waitsForRest(*event) || m_search->takeKey(*event))
         return;
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
     if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
@@ -131,6 +132,49 @@ void ListGrid::keyPressEvent(QKeyEvent *event)
         return;
     }
     DataGrid::keyPressEvent(event);
+}
+
+// A key that goes beyond the first page is held until the rest is there, and all that follow it are.
+bool ListGrid::waitsForRest(const QKeyEvent &key)
+{
+    if (!tableModel()->isPartial() || m_isReleasing || (m_held.empty() && staysOnPage(key)))
+        return false;
+    readRest();
+    if (!tableModel()->isPartial())
+        return false;
+    if (key.key() == Qt::Key_Escape)
+        m_held.clear();
+    else
+        m_held.emplace_back(key.clone());
+    return true;
+}
+
+bool ListGrid::staysOnPage(const QKeyEvent &key) const
+{
+    const int below = tableModel()->rowCount() - 1 - currentIndex().row();
+    switch (key.key()) {
+    case Qt::Key_Down:
+        return below > 0;
+    case Qt::Key_PageDown:
+        return below > viewport()->height() / std::max(1, rowHeight(0));
+    case Qt::Key_Up:
+    case Qt::Key_PageUp:
+    case Qt::Key_Home:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return true;
+    default:
+        return key.text().isEmpty() && key.key() != Qt::Key_End; // modifiers alone, and what is none of the grid's
+    }
+}
+
+void ListGrid::releaseKeys()
+{
+    const QScopedValueRollback releasing(m_isReleasing, true);
+    for (const std::unique_ptr<QKeyEvent> &key : std::exchange(m_held, {}))
+        QApplication::sendEvent(this, key.get());
 }
 
 // Home and End lead to the first and the last row; the base stays in the row. A row is current as a whole, so that Left and
@@ -193,28 +237,42 @@ void ListGrid::paintEvent(QPaintEvent *event)
         QMetaObject::invokeMethod(this, &ListGrid::readRest, Qt::QueuedConnection);
 }
 
-// Where that takes long the window does not wait for it, unless the user goes on to further rows.
+// Where that takes long the window does not wait for it.
 void ListGrid::readRest()
 {
     if (m_rest.isReading() || !tableModel()->isPartial())
         return;
-    const auto read = [this] { tableModel()->readRest(); };
     bool isAside = false;
     const auto begin = [&] {
         const Engine::DataSet::RestOver rest = m_data->restToCome();
         if (!rest)
             return;
-        const auto readOver = [rest, read](Engine::Database &database) -> std::function<void()> {
-            return [hand = rest(database.connection()), read] {
+        const auto readOver = [rest, this](Engine::Database &database) -> std::function<void()> {
+            return [hand = rest(database.connection()), this] {
                 hand();
-                read();
+                takeRest();
             };
         };
-        m_rest.start(m_data->database(), readOver, [read](const std::exception_ptr &) { read(); });
+        m_rest.start(m_data->database(), readOver, [this](const std::exception_ptr &) { showRest(); });
         isAside = true;
     };
     if (Guard::attempt(begin) || !isAside)
-        read(); // and tell what is wrong
+        showRest(); // and tell what is wrong
+}
+
+// What has been read may be of a list that is another by now.
+void ListGrid::takeRest()
+{
+    if (tableModel()->isPartial() && m_data->isOpen() && !m_data->isListRead())
+        readRest();
+    else
+        showRest();
+}
+
+void ListGrid::showRest()
+{
+    tableModel()->readRest();
+    releaseKeys();
 }
 
 void ListGrid::showEvent(QShowEvent *event)

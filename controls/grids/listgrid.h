@@ -58,11 +58,18 @@ private:
     void giveCursor(const QModelIndex &current); // the user has moved
     void dropSelection(); // but for the row of the cursor
     void readRest(); // of a list whose first page is painted
+    void takeRest();
+    void showRest();
+    bool waitsForRest(const QKeyEvent &key);
+    bool staysOnPage(const QKeyEvent &key) const;
+    void releaseKeys();
 
     Engine::DataSet *m_data = nullptr;
     const Guard *m_guard = nullptr;
     ListSearch *m_search = nullptr;
     ReadAside m_rest; // of the keys
+    std::vector<std::unique_ptr<QKeyEvent>> m_held; // until the rest is there
+    bool m_isReleasing = false;
     bool m_moving = false;
 };
 

@@ -1,5 +1,6 @@
 #include "controls/grids/tablemodel.h"
 
+#include <algorithm>
 #include <QTimer>
 
 namespace Tallymere {
@@ -160,7 +161,8 @@ int TableModel::rowStartingWith(const QString &field, const QString &text) const
 
 Engine::Value TableModel::cellValue(int row, int field) const
 {
-    return m_partial ? m_data.valueIn(m_firstPage.at(static_cast<size_t>(row)), field) : m_data.valueAt(row, field);
+    return m_partial ? m_data.valueIn(m_firstPage.at(static_cast<size_t>(row)).row, field)
+                     : m_data.valueAt(row, field);
 }
 
 int TableModel::dataRows() const { return m_data.isOpen() ? m_data.recordCount() : 0; }
@@ -195,6 +197,22 @@ void TableModel::readRest()
 {
     if (m_partial)
         takeList();
+}
+
+int TableModel::currentRow() const
+{
+    if (!m_partial)
+        return m_data.recordIndex();
+    const auto found = std::ranges::find(m_firstPage, m_data.currentKey(), &Engine::FoundRow::key);
+    return found == m_firstPage.end() ? -1 : static_cast<int>(found - m_firstPage.begin());
+}
+
+void TableModel::makeCurrent(int row)
+{
+    if (m_partial)
+        m_data.moveToRow(m_firstPage.at(static_cast<size_t>(row)));
+    else
+        m_data.moveTo(row);
 }
 
 void TableModel::showRows(int rows)

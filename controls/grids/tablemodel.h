@@ -35,6 +35,9 @@ public:
     QString shownText(int row, int column) const;
     QString shownText(const Engine::Row &row, int column) const; // of a row of the set that is in hand
     void readRest(); // nothing to do when all rows are there
+    int
+    currentRow() const; // of the data set's record; -1 where it has none, or one that the first page does not show
+    void makeCurrent(int row); // as it is shown, whatever comes before it in the whole list
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -68,7 +71,7 @@ private:
     QList<GridColumn> m_columns;
     std::vector<int> m_fields; // the numbers of the columns' fields, -1 for one that the set does not have
     const Reading m_reading;
-    std::vector<Engine::Row> m_firstPage; // while it is partial
+    std::vector<Engine::FoundRow> m_firstPage; // while it is partial
     bool m_partial = false;
     int m_rows = 0;
 };

@@ -140,16 +140,20 @@ bool DataSet::moveToKey(const QList<qint64> &key)
     return true;
 }
 
-std::vector<Row> DataSet::firstRows(int count) const
+void DataSet::moveToRow(const FoundRow &row)
 {
     requireOpen();
-    const DataSetReader reader(*this);
-    if (!d->keysRead && !d->inMemory)
-        return reader.firstRows(count);
-    std::vector<Row> rows;
-    for (int i = 0; i < std::min(count, recordCount()); ++i)
-        rows.push_back(reader.rowAt(i));
-    return rows;
+    beforeMove();
+    if (d->cursor.isAt(row.key))
+        return d->cursor.arrive();
+    d->cursor.to(row.key, row.row);
+    Q_EMIT currentChanged();
+}
+
+std::vector<FoundRow> DataSet::firstRows(int count) const
+{
+    requireOpen();
+    return DataSetReader(*this).firstRows(count);
 }
 
 void DataSet::onDamage(std::function<void()> mend) { d->mend = std::move(mend); }
@@ -366,6 +370,8 @@ DataSet::RestOver DataSet::restToCome() const
     requireOpen();
     return DataSetReader(*this).restToCome();
 }
+
+bool DataSet::isListRead() const { return m_open && d->keysRead; }
 
 bool DataSet::beginsAnew() const
 {

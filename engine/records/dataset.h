@@ -112,7 +112,8 @@ public:
     QList<qint64> keyAt(int index) const; // empty beyond the set
     bool moveToKey(const QList<qint64> &key); // false, and no move, when the set does not hold it
     // The first rows of the set before the keys are read, so that a list can paint at once.
-    std::vector<Row> firstRows(int count) const;
+    std::vector<FoundRow> firstRows(int count) const;
+    void moveToRow(const FoundRow &row); // one of these, as it was read: nothing is read for it
 
     // --- looking up: nothing moves, nothing is signalled ----------------------------------------------------------
     // The first row in the set's order whose fields ("ItemNo" or "ItemID;WarehouseID") equal the values; PartialKey
@@ -136,7 +137,8 @@ public:
 
     // Sorts by a field, a looked-up one too; rows that agree stay in the set's own order. Text sorts as its index has it,
     // and without regard to letter case where it has none. The record stays current, but of a long set whose first rows are found
-    // by an index the first becomes it, and rows that agree are in the order of that index. Another own order ends it.
+    // by an index the first becomes it. Where an index has the whole order, rows that agree are as that has them. Another own
+    // order ends it.
     void setSorting(const Sorting &sorting);
     const Sorting &sorting() const { return m_sorting; }
     QList<OrderedField> shownOrder() const; // with what it is sorted by in front
@@ -168,6 +170,7 @@ public:
     // read or changed since. Null where there is little to be gained.
     using RestOver = std::function<std::function<void()>(Connection &)>;
     RestOver restToCome() const;
+    bool isListRead() const; // its keys, or how many there are
     bool beginsAnew() const; // a long set of which the first rows are to be shown, before its keys are read
 
     // Reads the set anew and stays on the current row; when that is gone, on the one that took its place. An edit in

@@ -29,7 +29,7 @@ struct DataSet::Private
     SetKeys keys;
     bool keysRead = false;
     int readings = 0; // ended, each with all that was read
-    std::vector<Row> firstPage; // of a long set whose keys have not been read
+    std::vector<FoundRow> firstPage; // of a long set whose keys have not been read
     WindowCache windows;
     std::vector<Row> memory; // of a query without key: the whole result; the key of a row is its index
     bool inMemory = false;
@@ -96,7 +96,7 @@ public:
     int indexOf(const Key &key) const; // -1 when the set was read without it
     bool
     readShort() const; // a set that is far away; false when it is too long for that, and its first row is current
-    std::vector<Row> firstRows(int count) const; // before the keys are read
+    std::vector<FoundRow> firstRows(int count) const; // without reading the keys where that can be
     void resolve() const; // makes the current record known, or the set known to be empty
     bool holds(const Key &key) const;
     bool findCurrent() const; // among the keys; true when another record is current, as that one is gone

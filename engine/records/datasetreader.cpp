@@ -146,19 +146,18 @@ bool DataSetReader::readShort() const
     if (!source().isFar() || !d.firstPage.empty())
         return false;
     std::vector<FoundRow> found = read(&RowSource::firstFound, pageSize + 1);
-    const bool isAll = found.size() <= pageSize;
+    if (found.size() > pageSize) {
+        if (d.cursor.isUnread())
+            d.cursor.to(found.front().key, found.front().row, 0);
+        d.firstPage = std::move(found);
+        return false;
+    }
     KeyList keys(static_cast<int>(found.empty() ? 1 : found.front().key.size()));
     std::vector<Row> rows;
     for (FoundRow &each : found) {
         for (const qint64 number : std::as_const(each.key))
             keys.append(number);
         rows.push_back(std::move(each.row));
-    }
-    if (!isAll) {
-        if (d.cursor.isUnread())
-            d.cursor.to(found.front().key, rows.front(), 0);
-        d.firstPage = std::move(rows);
-        return false;
     }
     d.keys.takeAll(std::move(keys));
     d.keysRead = true;
@@ -169,18 +168,19 @@ bool DataSetReader::readShort() const
     return true;
 }
 
-std::vector<Row> DataSetReader::firstRows(int count) const
+std::vector<FoundRow> DataSetReader::firstRows(int count) const
 {
-    const bool isFar = source().isFar() && count <= pageSize;
-    if (!isFar && source().hasFirstRowsSoon())
-        return read(&RowSource::firstRows, count);
+    const bool isInHand = d.keysRead || d.inMemory;
+    const bool isFar = !isInHand && source().isFar() && count <= pageSize;
+    if (!isInHand && !isFar && source().hasFirstRowsSoon())
+        return read(&RowSource::firstFound, count);
     if (!isFar)
         readKeys(); // all rows have to be sorted for the first ones
-    else if (!d.keysRead)
+    else
         readShort();
-    std::vector<Row> rows = d.firstPage;
+    std::vector<FoundRow> rows = d.firstPage;
     for (int i = 0; d.keysRead && i < std::min(count, d.keys.count()); ++i)
-        rows.push_back(rowAt(i));
+        rows.push_back({keyAt(i), rowAt(i)});
     rows.resize(std::min(rows.size(), static_cast<size_t>(count)));
     return rows;
 }

@@ -221,14 +221,6 @@ StatementPtr RowSource::allRows() const
     return m_scope.isNone ? nullptr : select(m_columns, m_scope.condition, orderBy());
 }
 
-std::vector<Row> RowSource::firstRows(int count) const
-{
-    std::vector<Row> rows;
-    for (FoundRow &found : firstFound(count))
-        rows.push_back(std::move(found.row));
-    return rows;
-}
-
 // Where the source for that has too few, the others may be what it leaves out.
 std::vector<FoundRow> RowSource::firstFound(int count) const
 {

@@ -72,8 +72,7 @@ public:
     // ---
     // The first row in the set's order that meets the condition as well.
     std::optional<FoundRow> first(const SqlCondition &condition = {}) const;
-    std::vector<Row> firstRows(int count) const;
-    std::vector<FoundRow> firstFound(int count) const; // with their keys
+    std::vector<FoundRow> firstFound(int count) const;
     StatementPtr allRows() const; // in the set's order, for takeRow(); null where there can be none
     bool guessesFirst() const { return !m_scope.firstSource.isEmpty(); }
     bool hasFirstRowsSoon() const { return m_scope.byIndex || guessesFirst(); }

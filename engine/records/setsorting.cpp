@@ -71,9 +71,12 @@ bool SetSorting::sortByLookup(SetScope &scope) const
     if (!join(scope, field))
         return false;
     const QList<OrderTerm> within = orderOfOne(field.lookup, scope.keyColumns.constFirst());
-    const QString firstRowsOfOne = u"LATERAL (SELECT t.* FROM %1 WHERE %2%3 LIMIT %4) t"_s
-                                       .arg(rows, matchOf(field), orderBy(m_dialect, within))
-                                       .arg(SetScope::mostFirstRows);
+    // Bounds in place of an equation: with that a server may walk through the table in the order of its key, to its end where
+    // one of theirs has no rows.
+    const QString firstRowsOfOne =
+        u"LATERAL (SELECT t.* FROM %1 WHERE %2 >= %3 AND %2 <= %3%4 LIMIT %5) t"_s
+            .arg(rows, within.constFirst().column.sql, theirKey(field), orderBy(m_dialect, within))
+            .arg(SetScope::mostFirstRows);
     scope.firstSource = m_dialect.name(field.lookup.table) + " s CROSS JOIN "_L1
         + m_dialect.variant(rows + " ON "_L1 + matchOf(field), firstRowsOfOne);
     scope.order = {termOf(scope.joinedColumn, field), {{theirKey(field)}, m_isDescending}};
@@ -85,17 +88,20 @@ bool SetSorting::sortByLookup(SetScope &scope) const
 // Rows to which the same is looked up are in the order of the first index that has these together and in some order.
 QList<OrderTerm> SetSorting::orderOfOne(const Lookup &lookup, const QString &key) const
 {
-    QList<OrderTerm> terms;
     const TableLayout &layout = *m_set.storedLayout();
     const auto ordersThem = [&lookup](const IndexDef &index) {
         const QStringList names = index.fieldNames();
         return names.size() > 1 && names.constFirst().compare(lookup.keyField, Qt::CaseInsensitive) == 0;
     };
-    if (const auto index = std::ranges::find_if(layout.indexes, ordersThem); index != layout.indexes.end())
-        for (const SqlColumn &column : indexColumns(layout, *index, m_dialect).mid(1))
-            terms.append({column, m_isDescending});
-    if (terms.isEmpty() || terms.constLast().column.sql != key)
-        terms.append({{key}, m_isDescending});
+    const auto index = std::ranges::find_if(layout.indexes, ordersThem);
+    QList<SqlColumn> columns{{"t."_L1 + m_dialect.name(lookup.keyField)}};
+    if (index != layout.indexes.end())
+        columns = indexColumns(layout, *index, m_dialect);
+    if (columns.constLast().sql != key)
+        columns.append({key});
+    QList<OrderTerm> terms;
+    for (const SqlColumn &column : std::as_const(columns))
+        terms.append({column, m_isDescending});
     return terms;
 }
 

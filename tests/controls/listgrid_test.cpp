@@ -129,6 +129,34 @@ TEST_F(ListGridTest, theRestOfALongListComesByItselfOrWithTheKeyThatNeedsIt)
     }
 }
 
+TEST_F(ListGridTest, aRowOfTheFirstPageIsTheOneThatIsShownAndKeysThatLeaveThePageWait)
+{
+    Engine::Query query(store.database(), u"SELECT DishID, Name FROM Dish"_s);
+    query.setFirstPageSql(query.sql() + u" WHERE DishID > 1"_s);
+    query.setKeyFields(u"DishID"_s);
+    query.setOrderBy(u"Name"_s);
+    query.onLongRead({}, dishes - 1);
+    for (const bool goesOn : {false, true}) {
+        SCOPED_TRACE(goesOn);
+        query.open();
+        ListGrid list;
+        list.setDataSet(query, {{u"Name"_s, u"Name"_s, 200}}, guard);
+        QTest::keyClick(&list, Qt::Key_Down);
+        EXPECT_TRUE(list.tableModel()->isPartial());
+        EXPECT_EQ(list.currentIndex().row(), 1);
+        EXPECT_EQ(query.integer(u"DishID"), 100) << "behind 10, where the first one has not come yet";
+        if (goesOn) {
+            QTest::keyClick(&list, Qt::Key_End);
+            QTest::keyClick(&list, Qt::Key_Up);
+        }
+        showActive(list);
+        EXPECT_TRUE(comesTrue([&list] { return list.model()->rowCount() == dishes; }));
+        EXPECT_EQ(list.currentIndex().row(), goesOn ? dishes - 2 : 2);
+        EXPECT_EQ(query.recordIndex(), list.currentIndex().row());
+        query.close();
+    }
+}
+
 TEST_F(ListGridTest, aLongListInAnotherOrderBeginsWithItsFirstRows)
 {
     Engine::TableReader dishList(store.database(), u"Dish"_s);

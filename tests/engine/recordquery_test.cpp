@@ -60,7 +60,7 @@ TEST_P(RecordTest, AQuickFirstPageIsShownUntilTheKeysAreRead)
     const auto user = store.anotherUser();
     query.onLongRead([&](const DataSet::ReadOver &read) { read(user->database.connection()); }, rows - 1);
     query.open();
-    const auto first = [&query](int count) { return query.firstRows(count).front().front().toInt(); };
+    const auto first = [&query](int count) { return query.firstRows(count).front().row.front().toInt(); };
     EXPECT_EQ(first(2), 99);
     EXPECT_EQ(query.integer(u"VendorID"), 99);
     const DataSet::RestOver rest = query.restToCome();

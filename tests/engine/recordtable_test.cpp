@@ -195,10 +195,10 @@ TEST_P(RecordTest, ALongListInAnotherOrderBeginsWithItsFirstRowsWithoutReadingTh
             ASSERT_TRUE(list.moveToKey({11}));
             list.setSorting({field, descending});
             ASSERT_TRUE(list.beginsAnew());
-            const std::vector<Row> first = list.firstRows(3);
+            const std::vector<FoundRow> first = list.firstRows(3);
             for (size_t i = 0; i < first.size(); ++i)
-                EXPECT_EQ(first[i][0].toInt(), expected[i + (leavesOutNone ? 0 : rows / 4)]);
-            EXPECT_EQ(list.integer(u"VendorID"), first[0][0].toInt());
+                EXPECT_EQ(first[i].row[0].toInt(), expected[i + (leavesOutNone ? 0 : rows / 4)]);
+            EXPECT_EQ(list.integer(u"VendorID"), first[0].row[0].toInt());
             list.restToCome()(database().connection())();
             ASSERT_EQ(list.recordCount(), rows);
             EXPECT_TRUE(list.isOrderedByIndex());

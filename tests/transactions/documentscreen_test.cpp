@@ -301,4 +301,13 @@ TEST_F(DocumentScreenTest, aScannedCodeFindsItsColumn)
     scan(u"0012"_s);
     EXPECT_EQ(cellOf(*grid, 0, 0), u"12"_s) << "no code, but figures that were typed fast";
     prompts.told();
+
+    open(documentScreens().front());
+    grid->setFocus();
+    press(Qt::Key_PageDown);
+    type("5<Return>");
+    scan(unknown);
+    EXPECT_EQ(rowOf(*grid, 0).mid(0, 2), (QStringList{u"5"_s, u"A11"_s}))
+        << "into a first line that has been begun";
+    EXPECT_EQ(prompts.told(), QString());
 }
