@@ -84,6 +84,8 @@ int checkHeldBooks(Engine::Database &database, Progress &progress, const TellFin
 {
     int found = 0;
     const BookCheck *current = nullptr;
+    Engine::Connection &store = database.connection();
+    const bool isHeld = store.inTransaction();
     Inspection inspection(
         database,
         [&](BookFinding finding) {
@@ -94,10 +96,14 @@ int checkHeldBooks(Engine::Database &database, Progress &progress, const TellFin
     progress.start(0);
     for (const BookCheck &check : bookChecks()) {
         current = &check;
+        if (isHeld)
+            store.execute(u"SAVEPOINT one_check"_s);
         try {
             check.run(inspection);
         } catch (const Engine::EngineError &error) {
             tellUnreadable(check, error, inspection);
+            if (isHeld) // a server answers nothing else in a transaction in which something has failed
+                store.execute(u"ROLLBACK TO SAVEPOINT one_check"_s);
         }
     }
     progress.finish();

@@ -77,11 +77,7 @@ void MasterRecord::newCopy(const Engine::DataSet &original)
     m_isCopy = true;
 }
 
-bool MasterRecord::openRecord(int key)
-{
-    m_table.setIndex({});
-    return m_table.locate(m_kind.keyField, {key});
-}
+bool MasterRecord::openRecord(int key) { return m_table.locate(m_kind.keyField, {key}); }
 
 QString MasterRecord::caption() const
 {

@@ -34,7 +34,6 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
                           [this, told](const Engine::DataSet &line) { return told(m_stock.onHand(line)); });
     m_lines.addCalculated({Afterwards.toString(), FieldType::Float},
                           [this, told](const Engine::DataSet &line) { return told(m_stock.afterwards(line)); });
-    m_lines.setIndex(m_kind.keyField + ";Seq"_L1);
     m_lines.setMaster(&m_header, m_kind.keyField);
     m_header.rules = &m_headerRules;
     m_lines.rules = &m_lineRules;

@@ -92,7 +92,6 @@ bool DocumentVisit::hasStoredHeader() const
 std::vector<Engine::Row> DocumentVisit::storedLines() const
 {
     Engine::TableReader stored(m_lines.database(), m_lines.name());
-    stored.setIndex(m_keyField + ";Seq"_L1);
     stored.open();
     stored.setRange({key()}, {key()});
     return rowsOf(stored);

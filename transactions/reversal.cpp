@@ -28,7 +28,6 @@ public:
             throw RuleError(Engine::recordGoneText(m_kind.entry.title.arg(key)));
         if (!m_header.boolean(Fields::Posted))
             throw RuleError(TransactionsTexts::tr("Only a posted document can be reversed"));
-        m_lines.setIndex(m_kind.keyField + ";Seq"_L1);
         m_lines.setMaster(&m_header, m_kind.keyField);
         m_lines.open();
     }

@@ -55,7 +55,6 @@ QString TfrmDailyBackup::failure()
         if (!m_context.settings || !isDue())
             return {};
         const BackupSchedule schedule = BackupSchedule::readFrom(*m_context.settings);
-        schedule.require();
         workBeside(parentWidget(), tr("Backup of today, into %1").arg(QDir::toNativeSeparators(schedule.folder)),
                    m_context.data.databaseTallymere(), [&schedule](Engine::Database &database, Progress &progress) {
                        backUpDaily(database, schedule, progress);

@@ -25,8 +25,8 @@ public:
     // A statement whose dialects differ: the second text is used on a server.
     void setSql(const QString &localSql, const QString &remoteSql);
 
-    // For a list with an order that no index has: a statement with the same columns, nearly the same rows and no
-    // parameters, whose first rows an index gives. They are shown until the keys have been read.
+    // For a list without parameters, with an order that no index has: a statement with the same columns and nearly the
+    // same rows, whose first rows an index gives. They are shown until the keys have been read.
     void setFirstPageSql(const QString &sql);
 
     void setParameter(QStringView name, const Value &value); // taken at the next open or execute

@@ -229,7 +229,6 @@ std::vector<FoundRow> RowSource::firstFound(int count) const
     if (!m_scope.firstSource.isEmpty() && count <= SetScope::mostFirstRows) {
         RowSource sooner = *this;
         sooner.m_scope.source = std::exchange(sooner.m_scope.firstSource, {});
-        sooner.m_scope.sourceParameters.clear();
         std::vector<FoundRow> rows = sooner.firstFound(count);
         if (rows.size() == static_cast<size_t>(count))
             return rows;

@@ -107,12 +107,8 @@ bool Table::findAgain(const Row &shown)
     if (exclusive)
         return true;
     if (m_layout.primaryFields().isEmpty()) {
-        // Nothing tells such rows apart but their place.
-        const DataSetReader reader(*this);
-        reader.index();
         invalidate(Place::Keep);
-        reader.index();
-        return true;
+        return !isEmpty(); // a counter's only row
     }
     const auto key = storedKey(shown);
     if (key && !d->cursor.isAt(*key)) {

@@ -159,6 +159,23 @@ TEST_P(CareTest, FindsWhatNoScreenLetsIn)
             {u"ReceiptDate is no date"_s});
 }
 
+TEST_P(CareTest, GoesOnWhereATableIsMissingAndNotWhereTheFileIs)
+{
+    kitchen.execute(u"ALTER TABLE ICounted RENAME TO Gone"_s);
+    QStringList found;
+    const auto tell = [&found](const BookCheck &check, const BookFinding &finding) {
+        found << check.name + ": "_L1 + finding.text();
+    };
+    checkBooks(kitchen.database(), progress, tell);
+    const QString told = found.join(u'\n');
+    EXPECT_TRUE(found.size() > 1 && told.count(u"ICounted"_s, Qt::CaseInsensitive) == found.size())
+        << told.toStdString();
+    if (GetParam() == Store::Remote)
+        return;
+    CountedProgress replaced(0, [this] { QFile::remove(kitchen.directory() + "/Corvane.sqlite"_L1); });
+    EXPECT_EQ(errorOf([&] { checkBooks(kitchen.database(), replaced, tell); }), Engine::ErrorCode::FileReplaced);
+}
+
 TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
 {
     kitchen.makeHost();

@@ -119,7 +119,12 @@ TEST_P(Tables, UniqueNumbersWaitForARowThatIsLocked)
     EXPECT_EQ(refusalOf([&] { getUniqueID(counter, u"NextVendorNo"_s); }),
               u"Cannot get next unique number. (btGetUniqueNumber) -> "_s);
     EXPECT_EQ(pauses, 110);
-    EXPECT_FALSE(counter.isOpen());
+    held.close();
+    held.exclusive = true;
+    held.open();
+    EXPECT_TRUE(fails([&] { openTable(counter); }, ErrorCode::TableInUse, u"VendCtl table. Another user"_s));
+    Engine::TableReader missing(store.database(), u"NoSuch"_s);
+    EXPECT_TRUE(fails([&] { openTable(missing); }, ErrorCode::NoSuchTable, u"NoSuch: Unknown or unexpected"_s));
 }
 
 TEST(DamagedTable, IsMendedWhenItsFirstReadFindsTheDamage)
