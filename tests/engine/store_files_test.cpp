@@ -100,15 +100,19 @@ TEST(LocalFiles, BelongToOwnerAndGroupAloneWhateverTheMask)
     }
 }
 
-TEST(LocalFiles, ADatabaseThatIsNoLongerAtItsPlaceTakesNoMoreWrites)
+TEST(LocalFiles, ADatabaseThatIsNoLongerAtItsPlaceTakesNoMoreWritesAndWhatIsReadOfItCountsForNothing)
 {
     for (const Loss &loss : losses) {
         SCOPED_TRACE(qPrintable(loss.command));
         Kitchen kitchen;
         OtherUser annas({u"local"_s, kitchen.folder}, {u"obey"_s});
         ASSERT_EQ(annas.ask(u"open T"_s), u"yes"_s);
+        auto moment = std::make_unique<ReadMoment>(kitchen.maria.database);
         kitchen.shell(loss.command);
 
+        EXPECT_EQ(errorOf([&] { moment->end(); }), ErrorCode::FileReplaced);
+        EXPECT_EQ(errorOf([&] { ReadMoment(kitchen.maria.database); }), ErrorCode::FileReplaced);
+        moment.reset();
         Connection &store = kitchen.connection();
         QString message;
         EXPECT_EQ(errorOf([&] { kitchen.insert(u"lost"_s); }, &message), ErrorCode::FileReplaced);
@@ -169,19 +173,6 @@ TEST(LocalFiles, AFileOfTwoNamesIsNotOpened)
         }
         kitchen.shell(u"rm -r other"_s);
         EXPECT_EQ(contentOf(kitchen.folder), u"old yesterday today ok"_s);
-    }
-}
-
-TEST(LocalFiles, WhatIsReadOfAFileThatIsReplacedMeanwhileCountsForNothing)
-{
-    for (const Loss &loss : losses) {
-        SCOPED_TRACE(qPrintable(loss.command));
-        Kitchen kitchen;
-        kitchen.connection();
-        ReadMoment moment(kitchen.maria.database);
-        kitchen.shell(loss.command);
-        EXPECT_EQ(errorOf([&] { moment.end(); }), ErrorCode::FileReplaced);
-        EXPECT_EQ(errorOf([&] { ReadMoment(kitchen.maria.database); }), ErrorCode::FileReplaced);
     }
 }
 
