@@ -54,11 +54,8 @@ void Query::setOrderBy(const QString &fields)
         return;
     m_sorting = {};
     m_orderBy = fields;
-    if (!m_open)
-        return;
-    beforeMove();
-    invalidate(Place::Keep);
-    emitListChanged();
+    if (m_open)
+        takeAnew(Place::Keep, {});
 }
 
 void Query::setFoldedFields(const QString &fields)
@@ -139,7 +136,6 @@ void Query::close()
 {
     if (!m_open)
         return;
-    beforeMove();
     m_open = false;
     invalidate(Place::First);
     d->memory.clear();

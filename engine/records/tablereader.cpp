@@ -168,8 +168,7 @@ void TableReader::setIndex(const QString &nameOrFields)
     }
     m_sorting = {};
     m_restriction->ranged = false;
-    invalidate(Place::Keep);
-    emitListChanged();
+    takeAnew(Place::Keep, {});
 }
 
 SetScope TableReader::scope() const

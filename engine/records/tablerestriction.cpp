@@ -77,10 +77,8 @@ void TableReader::setRange(const QList<Value> &from, const QList<Value> &to)
 
 void TableReader::restrictionChanged()
 {
-    if (!m_open)
-        return;
-    invalidate(Place::First);
-    emitListChanged();
+    if (m_open)
+        takeAnew(Place::First, {});
 }
 
 SqlCondition TableReader::rangeCondition() const

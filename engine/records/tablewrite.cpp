@@ -349,8 +349,7 @@ void Table::removeAll()
         bindAll(*statement, condition.parameters);
         statement->execute();
     });
-    invalidate(Place::First);
-    emitListChanged();
+    takeAnew(Place::First, {});
 }
 
 } // namespace Engine
