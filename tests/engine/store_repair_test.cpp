@@ -1,5 +1,6 @@
 #include "tests/engine/storetest.h"
 #include "tests/support/damage.h"
+#include "tests/support/files.h"
 
 using namespace Qt::StringLiterals;
 using namespace Engine;
@@ -69,6 +70,32 @@ TEST(Repair, RowsOfSoundPagesAreKept)
         store.execute(u"DELETE FROM IHist WHERE IHistID = %1; INSERT INTO IHist (ItemID) VALUES (1)"_s, rowCount);
         EXPECT_EQ(store.database().connection().lastInsertId(), rowCount + 1);
     }
+}
+
+TEST(Repair, RowsOfSoundPagesOfAServerAreKept)
+{
+    TestStore store(Store::Remote);
+    TableLayout layout = paired();
+    layout.indexes.clear();
+    fill(store, layout);
+    const int lost =
+        store.found(u"SELECT count(*) FROM IBalance WHERE ctid >= '(3,0)' AND ctid < '(4,0)'"_s).toInt();
+    store.execute(u"VACUUM FULL IBalance"_s); // so that the server holds none of its pages
+    const QString folder = qEnvironmentVariable("TALLYMERE_TEST_POSTGRES");
+    const QString home = QString::fromUtf8(contentOf(folder + "/home"_L1)).trimmed();
+    QFile file((home.isEmpty() ? folder : home) + "/data/"_L1
+               + store.found(u"SELECT pg_relation_filepath('ibalance')"_s));
+    if (!file.open(QIODevice::ReadWrite))
+        GTEST_SKIP() << "the server's files are elsewhere";
+    constexpr int page = 8192;
+    file.seek(3 * page);
+    file.write(QByteArray(page, '\xEE'));
+    file.close();
+
+    EXPECT_EQ(errorOf([&] { count(store, layout); }), ErrorCode::Corrupt);
+    EXPECT_NEAR(static_cast<double>(store.database().repairTable(layout.name)), lost, 2)
+        << "as many as a page holds on the average";
+    EXPECT_EQ(count(store, layout), rowCount - lost);
 }
 
 TEST(Repair, ASoundTableStaysAsItIs)
