@@ -271,17 +271,13 @@ bool TFormTallymereSystem::fillFinder(Finder &finder, QWidget &window)
 
 void TFormTallymereSystem::showModal()
 {
-    if (m_modalLoop) {
-        raise();
-        activateWindow();
-        return;
-    }
+    if (m_modalLoop)
+        return bringToFront(*this);
     setWindowModality(Qt::ApplicationModal);
     QEventLoop loop;
     m_modalLoop = &loop;
     const QPointer<TFormTallymereSystem> alive(this);
-    show();
-    activateWindow();
+    bringToFront(*this);
     loop.exec();
     if (alive)
         m_modalLoop = nullptr;

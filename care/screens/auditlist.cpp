@@ -32,34 +32,18 @@ ListDescription TfrmAudit::description()
         .buttons = {{u"btnFilter"_s, tr("Fil&ter"), u"mnuFilter"_s}},
         .menus = {fileMenu(u"TrptAudit"_s),
                   {tr("&View"),
-                   {filterCommand({.dialog = [this]() -> FilterDialog & { return filterDialog(); },
-                                   .apply = [this] { applyFilter(m_filter->columnsExpression()); }}),
+                   {filterCommand({.makeDialog =
+                                       [this] {
+                                           return new FilterDialog(
+                                               context(),
+                                               {.name = u"frmAuditFilter"_s, .caption = tr("Audit List Filter")},
+                                               this);
+                                       }}),
                     refreshCommand()}},
                   helpMenu(tr("Audit List &Help"))},
         .emptyHint =
             tr("No notes yet. Deletions by date, opened periods, repairs and restored backups leave one each."),
     };
-}
-
-FilterDialog &TfrmAudit::filterDialog()
-{
-    if (!m_filter) {
-        m_filter =
-            new FilterDialog(context(), {.name = u"frmAuditFilter"_s, .caption = tr("Audit List Filter")}, this);
-        m_filter->addColumns(filterColumns());
-    }
-    return *m_filter;
-}
-
-QString TfrmAudit::filterWords() const
-{
-    return m_filter && m_filter->columnsExpression() == dataSet().filter() ? m_filter->words() : QString();
-}
-
-void TfrmAudit::clearFilterDialog()
-{
-    if (m_filter)
-        m_filter->btnResetClick();
 }
 
 } // namespace Tallymere

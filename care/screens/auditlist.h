@@ -14,16 +14,10 @@ public:
     TfrmAudit(ScreenContext &context, QWidget *parent);
     ~TfrmAudit() override;
 
-protected:
-    QString filterWords() const override;
-    void clearFilterDialog() override;
-
 private:
     ListDescription description();
-    FilterDialog &filterDialog();
 
     AuditView m_view;
-    FilterDialog *m_filter = nullptr; // once it has been opened
 };
 
 } // namespace Tallymere

@@ -470,14 +470,13 @@ void refreshOpenList(const QString &name)
 
 void ListScreen::btnFilterClick()
 {
-    if (m_filterChoices.dialog().exec() != QDialog::Accepted)
+    if (filterDialog().exec() != QDialog::Accepted)
         return;
     const auto inForce = [this] { return std::pair(m_data->isFiltered(), m_data->filter()); };
     const auto before = inForce();
-    m_filterChoices.apply();
+    applyFilterChoices();
     if (inForce() == before) // another one reads the list by itself
         refreshList();
-    showFilterMark();
 }
 
 bool ListScreen::moveToKey(int key) { return m_data->moveToKey({key}); }
@@ -528,6 +527,41 @@ void ListScreen::setCaption(const QString &caption)
     showFilterMark();
 }
 
+FilterDialog &ListScreen::filterDialog()
+{
+    if (!m_filter) {
+        m_filter = m_filterChoices.makeDialog();
+        m_filter->addColumns(filterColumns());
+    }
+    return *m_filter;
+}
+
+QString ListScreen::chosenExpression() const
+{
+    const QString ofBoxes = m_filterChoices.expression ? m_filterChoices.expression() : QString();
+    return joinConditions({ofBoxes, m_filter->columnsExpression()});
+}
+
+void ListScreen::applyFilterChoices()
+{
+    if (m_filterChoices.apply)
+        m_filterChoices.apply();
+    else
+        applyFilter(chosenExpression());
+}
+
+// Others may have narrowed the list by something else since.
+QString ListScreen::filterWords() const
+{
+    return m_filter && chosenExpression() == m_data->filter() ? m_filter->words() : QString();
+}
+
+void ListScreen::clearFilterDialog()
+{
+    if (m_filter)
+        m_filter->btnResetClick();
+}
+
 // Those that are set off are dear to look at.
 FilterColumns ListScreen::filterColumns() const
 {
@@ -550,7 +584,7 @@ FilterColumns ListScreen::filterColumns() const
 // Beside the buttons: what the list is narrowed to, taken away with one click.
 void ListScreen::addFilterChip()
 {
-    if (!m_filterChoices.dialog)
+    if (!m_filterChoices.makeDialog)
         return;
     m_filterChip = new FilterChip(m_topPanel);
     m_filterChip->setObjectName(u"btnFilterChip"_s);
@@ -567,19 +601,15 @@ void ListScreen::showSum(const QString &label, const QString &figure) { m_status
 // Behind the command that opens the filter dialog, and behind its button.
 void ListScreen::addKeptFilters()
 {
-    if (!m_filterChoices.dialog || !m_context.settings)
+    if (!m_filterChoices.makeDialog || !m_context.settings)
         return;
     QAction *filter = command(filterName);
     auto *view = static_cast<QMenu *>(filter->parent());
     auto *kept = new KeptFilterMenu(m_context, m_guard,
                                     {.list = objectName(),
-                                     .dialog = m_filterChoices.dialog,
+                                     .dialog = [this]() -> FilterDialog & { return filterDialog(); },
                                      .words = [this] { return m_data->isFiltered() ? filterWords() : QString(); },
-                                     .apply =
-                                         [this] {
-                                             m_filterChoices.apply();
-                                             showFilterMark();
-                                         }},
+                                     .apply = [this] { applyFilterChoices(); }},
                                     this);
     const QList<QAction *> entries = view->actions();
     view->insertMenu(entries.value(entries.indexOf(filter) + 1), kept);

@@ -73,8 +73,9 @@ struct ListDescription
 // How a list is narrowed by its filter dialog.
 struct FilterChoices
 {
-    std::function<FilterDialog &()> dialog; // made when it is first needed
-    std::function<void()> apply; // narrows the list to what is chosen in it
+    std::function<FilterDialog *()> makeDialog; // once, when it is first needed; owned by the list
+    std::function<QString()> expression = {}; // of what is chosen in its boxes; words and days are the list's
+    std::function<void()> apply = {}; // narrows the list to what is chosen; empty: where that is anything
 };
 
 // A window that shows a data set as a list, with commands on its rows. Not modal; it is freed when it is closed.
@@ -134,9 +135,9 @@ protected:
                  const QString &figure); // of the rows, in the status line; an empty figure is none
     void setCaption(const QString &caption); // in place of the description's
     virtual void showStep(); // each time the screen is shown: caption
-    FilterColumns filterColumns() const; // that it shows, for its filter dialog
-    virtual QString filterWords() const { return {}; } // of what the filter dialog has chosen
-    virtual void clearFilterDialog() { } // clears the fields of the filter dialog, if there is one
+    FilterDialog &filterDialog();
+    QString chosenExpression() const; // of all that is chosen in the filter dialog, which has been made
+    void applyFilterChoices();
     virtual void presetFilterDialog(const QList<KeyOfField> &) { } // the dialog has been cleared
 
     void showEvent(QShowEvent *event) override;
@@ -162,6 +163,9 @@ private:
     void watchRecord();
     QList<ListMenu> withItemCard(QList<ListMenu> menus);
     void showAvailable();
+    FilterColumns filterColumns() const;
+    QString filterWords() const;
+    void clearFilterDialog();
     void showFilterMark();
     void addFilterChip();
     void addKeptFilters();
@@ -184,6 +188,7 @@ private:
     QFrame *m_topPanel = nullptr;
     QHBoxLayout *m_buttons = nullptr;
     FilterChoices m_filterChoices; // of a list that has a filter
+    FilterDialog *m_filter = nullptr; // once it has been needed
     FilterChip *m_filterChip = nullptr; // likewise
     QList<std::pair<QAction *, std::function<bool()>>> m_available; // commands that depend on the current record
     QSize m_firstSize;

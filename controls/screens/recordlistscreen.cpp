@@ -53,8 +53,10 @@ ListMenu RecordListScreen::viewMenu(const QList<ListOrder> &orders, int firstOrd
 {
     ListMenu menu{tr("&View"), {}};
     if (m_dialogs.makeFilter)
-        menu.commands.append(filterCommand({.dialog = [this]() -> FilterDialog & { return filterDialog(); },
-                                            .apply = [this] { applyFilterChoices(); }}));
+        menu.commands.append(
+            filterCommand({.makeDialog = m_dialogs.makeFilter,
+                           .expression = [this] { return m_dialogs.filterExpression(filterDialog().filter()); },
+                           .apply = [this] { switchFilter(filterDialog().isOn(), chosenExpression()); }}));
     if (orders.size() > 1) {
         ListCommand sortBy{.name = u"mnuSortBy"_s, .caption = tr("&Sort by"), .firstChoice = firstOrder};
         for (const ListOrder &order : orders) {
@@ -85,22 +87,6 @@ void RecordListScreen::btnEditClick() { m_records->openCurrent(); }
 
 void RecordListScreen::btnDeleteClick() { m_records->removeCurrent(); }
 
-FilterDialog &RecordListScreen::filterDialog()
-{
-    if (!m_filter) {
-        m_filter = m_dialogs.makeFilter();
-        m_filter->addColumns(filterColumns());
-    }
-    return *m_filter;
-}
-
-QString RecordListScreen::chosenExpression() const
-{
-    return joinConditions({m_dialogs.filterExpression(m_filter->filter()), m_filter->columnsExpression()});
-}
-
-void RecordListScreen::applyFilterChoices() { switchFilter(m_filter->isOn(), chosenExpression()); }
-
 void RecordListScreen::filterByMark(ListFilter::Marked marked)
 {
     filterDialog().btnResetClick();
@@ -109,17 +95,5 @@ void RecordListScreen::filterByMark(ListFilter::Marked marked)
 }
 
 void RecordListScreen::btnFindClick() { m_dialogs.makeFind()->exec(); }
-
-// Others may have narrowed the list by something else since.
-QString RecordListScreen::filterWords() const
-{
-    return m_filter && chosenExpression() == dataSet().filter() ? m_filter->words() : QString();
-}
-
-void RecordListScreen::clearFilterDialog()
-{
-    if (m_filter)
-        m_filter->btnResetClick();
-}
 
 } // namespace Tallymere

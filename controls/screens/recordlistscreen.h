@@ -45,17 +45,10 @@ protected:
     static ListMenu &menu(ListDescription &description, const QString &caption);
 
     RecordOpener &records() { return *m_records; }
-    QString filterWords() const override;
-    void clearFilterDialog() override;
 
 private:
-    FilterDialog &filterDialog();
-    void applyFilterChoices();
-    QString chosenExpression() const; // by the filter dialog
-
     ListRecordOpener *m_records = nullptr;
     Dialogs m_dialogs;
-    FilterDialog *m_filter = nullptr; // once it has been opened
 };
 
 } // namespace Tallymere

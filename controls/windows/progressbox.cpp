@@ -1,6 +1,7 @@
 #include "controls/windows/progressbox.h"
 
 #include "base/ruleerror.h"
+#include "controls/texts.h"
 #include "controls/windows/screenmetrics.h"
 
 #include <limits>
@@ -31,6 +32,7 @@ ProgressBox::ProgressBox(QWidget *window, const QString &what, std::chrono::mill
     auto *bar = new QProgressBar(m_box.get());
     bar->setAccessibleName(what);
     m_box->setBar(bar);
+    m_box->setCancelButtonText(ControlsTexts::tr("&Cancel"));
     m_box->setWindowModality(Qt::ApplicationModal);
     m_box->setMinimumDuration(std::numeric_limits<int>::max()); // it is shown from here
     m_box->setAutoClose(false);

@@ -42,7 +42,6 @@ FinderBox::FinderBox(QWidget &mainWindow, const Guard &guard)
     m_text->setAccessibleName(tr("Find"));
     m_text->setPlaceholderText(tr("Number or any part of a name"));
     m_text->setClearButtonEnabled(true);
-    m_text->installEventFilter(this);
     m_list->setObjectName(u"listFound"_s);
     m_list->setAccessibleName(tr("Found"));
     m_list->setItemDelegate(new FindingDelegate(m_list));
@@ -198,34 +197,24 @@ void FinderBox::move(int step)
         m_list->scrollToTop(); // with the heading
 }
 
-bool FinderBox::eventFilter(QObject *watched, QEvent *event)
+// What the text has no use for. Escape closes every popup.
+void FinderBox::keyPressEvent(QKeyEvent *event)
 {
-    if (watched != m_text || event->type() != QEvent::KeyPress)
-        return QFrame::eventFilter(watched, event);
-    const auto *key = static_cast<QKeyEvent *>(event);
-    switch (key->key()) {
+    switch (event->key()) {
     case Qt::Key_Up:
-        move(-1);
-        return true;
+        return move(-1);
     case Qt::Key_Down:
-        move(1);
-        return true;
+        return move(1);
     case Qt::Key_PageUp:
-        move(-pageOfRows);
-        return true;
+        return move(-pageOfRows);
     case Qt::Key_PageDown:
-        move(pageOfRows);
-        return true;
+        return move(pageOfRows);
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        choose(m_list->currentItem(),
-               key->modifiers().testFlag(Qt::ShiftModifier) ? Choice::ShowCard : Choice::Open);
-        return true;
-    case Qt::Key_Escape:
-        close();
-        return true;
+        return choose(m_list->currentItem(),
+                      event->modifiers().testFlag(Qt::ShiftModifier) ? Choice::ShowCard : Choice::Open);
     default:
-        return false;
+        QFrame::keyPressEvent(event);
     }
 }
 

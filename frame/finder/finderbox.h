@@ -30,8 +30,8 @@ public:
     void openOver(const QWidget &window);
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

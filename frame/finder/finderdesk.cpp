@@ -28,9 +28,8 @@ bool FinderDesk::eventFilter(QObject *watched, QEvent *event)
     if (key->key() != Qt::Key_K || key->modifiers() != Qt::ControlModifier
         || !serves(static_cast<QWidget *>(watched)->window()))
         return false;
-    if (asks)
-        event->accept();
-    else if (!key->isAutoRepeat())
+    event->accept();
+    if (!asks && !key->isAutoRepeat())
         open();
     return true;
 }

@@ -122,7 +122,6 @@ void TfrmImport::addColumn(int column)
     const int row = column / columnsInARow * 2;
     layout->addWidget(title, row, column % columnsInARow);
     layout->addWidget(field, row + 1, column % columnsInARow);
-    setTabOrder(lastChoice(), field);
     m_fields << field;
     connect(field, &QComboBox::activated, this,
             [this, column, field] { chooseField(column, field->currentData().toString()); });

@@ -39,6 +39,8 @@ TEST(DatePickerTest, TakesWhatIsTypedUnlessItIsNoDateOrTooLate)
     EXPECT_EQ(picker.date(), QDate(2026, 12, 31));
     press(Qt::Key_Down);
     EXPECT_EQ(picker.date(), QDate(2026, 12, 30));
+    press(Qt::Key_Down, Qt::AltModifier);
+    EXPECT_GE(QApplication::activePopupWidget()->y(), picker.mapToGlobal(QPoint(0, picker.height())).y());
 }
 
 } // namespace

@@ -223,6 +223,9 @@ TEST_F(LineGridTest, linesComeAndGoWhileACellIsTypedInto)
     EXPECT_EQ(store.found(u"SELECT Quantity FROM Line"_s), u"7 2") << "what has been typed is taken first";
     type("<Esc>8<Ctrl+Del>");
     EXPECT_EQ(rows(), 1);
+    type("9");
+    lines.close();
+    EXPECT_EQ(entry(), u"-"_s) << "went with its cell";
 }
 
 TEST_F(LineGridTest, fixedLinesAndColumnsStay)

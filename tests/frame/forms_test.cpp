@@ -3,7 +3,9 @@
 #include "controls/screens/datedialog.h"
 #include "controls/screens/keptfiltersdialog.h"
 #include "controls/windows/filechoice.h"
+#include "controls/windows/messageboxes.h"
 #include "controls/windows/mnemonics.h"
+#include "controls/windows/progressbox.h"
 #include "controls/windows/windowrules.h"
 #include "frame/figurebutton.h"
 #include "frame/frmtallymeresystem.h"
@@ -374,9 +376,21 @@ struct FormsTest : testing::Test
         TfrmImport import(over.context, ImportPlan(*findImportKind(u"items"_s), file.fileName()), &mainWindow);
         showReportOnScreen(over.context, *ReportList::find(u"TrptItems"_s), {}, &mainWindow);
         auto &preview = *mainWindow.findChild<QWidget *>(u"frmPreview"_s);
+        auto &items = static_cast<ListScreen &>(*screens.find(u"frmItemsInv"_s)->create(over.context, &mainWindow));
+        items.applyFilter(u"(ItemID > 0)"_s);
+        EXPECT_TRUE(whileOpen<QDialog>([&] { items.command(u"mnuFind"_s)->trigger(); }, visit));
+        const QString said = u"[Said]"_s;
+        MessageBoxes boxes;
+        for (const std::function<void()> &say : std::initializer_list<std::function<void()>>{
+                 [&] { boxes.inform(said); }, [&] { boxes.warn(said); }, [&] { boxes.retry(said); },
+                 [&] { boxes.confirm(Question::Loss, said); }, [&] { boxes.choose(said, u"[&1]"_s, u"[&2]"_s); }})
+            EXPECT_TRUE(whileOpen<QDialog>(say, visit));
+        const ProgressBox progress(&mainWindow, u"[Saving]"_s);
+        QWidget &saving = *mainWindow.findChild<QWidget *>(u"dlgProgress"_s);
         HelpWindow help(std::make_unique<ManualCollection>(), over.company.settings, mainWindow);
-        for (QWidget *window : QWidgetList{&help, &preview, &import, &settings, &system, &date, &time, &filters,
-                                           &barcodes, &copy, &differences, &phones, &card, &trail, &paste})
+        for (QWidget *window :
+             QWidgetList{&help, &saving, &preview, &import, &settings, &system, &date, &time, &filters, &barcodes,
+                         &copy, &differences, &phones, &card, &trail, &paste})
             visit(*window);
     }
 

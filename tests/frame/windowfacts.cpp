@@ -44,11 +44,11 @@ const QWidget &usual(const QWidget &widget)
         static const auto *const down = new QHeaderView(Qt::Vertical);
         return header->orientation() == Qt::Horizontal ? *across : *down;
     }
-    return *plainOne<QDialog, QPushButton, QToolButton, QCheckBox, QRadioButton, QDateEdit, QDoubleSpinBox,
-                     QSpinBox, QFontComboBox, QComboBox, QTableWidget, QTableView, QTreeWidget, QTreeView,
-                     QListWidget, QListView, QTextBrowser, QTextEdit, QPlainTextEdit, QScrollArea, QTabWidget,
-                     QGroupBox, QProgressBar, QStackedWidget, QSplitter, QLineEdit, QLabel, QMenuBar, QMenu,
-                     QStatusBar, QTabBar, QFrame, QWidget>(widget);
+    return *plainOne<QMessageBox, QDialog, QPushButton, QToolButton, QCheckBox, QRadioButton, QDateEdit,
+                     QDoubleSpinBox, QSpinBox, QFontComboBox, QComboBox, QTableWidget, QTableView, QTreeWidget,
+                     QTreeView, QListWidget, QListView, QTextBrowser, QTextEdit, QPlainTextEdit, QScrollArea,
+                     QTabWidget, QGroupBox, QProgressBar, QStackedWidget, QSplitter, QLineEdit, QLabel, QMenuBar,
+                     QMenu, QStatusBar, QTabBar, QFrame, QWidget>(widget);
 }
 
 QString said(const QMetaProperty &property, const QVariant &value)
@@ -63,8 +63,8 @@ QString said(const QMetaProperty &property, const QVariant &value)
         return u"%1%2"_s.arg(font.bold() ? u"bold"_s : u"plain"_s,
                              font.pointSizeF() > QApplication::font().pointSizeF() ? u" larger"_s : QString());
     }
-    if (value.typeId() == QMetaType::QIcon)
-        return value.value<QIcon>().isNull() ? u"none"_s : u"an icon"_s;
+    if (value.typeId() == QMetaType::QIcon || value.typeId() == QMetaType::QPixmap)
+        return value.value<QIcon>().isNull() && value.value<QPixmap>().isNull() ? u"none"_s : u"an icon"_s;
     if (value.typeId() == QMetaType::QSizePolicy) {
         const auto policy = value.value<QSizePolicy>();
         return u"%1/%2"_s.arg(policy.horizontalPolicy()).arg(policy.verticalPolicy());
@@ -77,7 +77,7 @@ bool tells(const QMetaProperty &property)
 {
     static const QSet<int> types{QMetaType::Bool,         QMetaType::Int,         QMetaType::QString,
                                  QMetaType::QKeySequence, QMetaType::QSizePolicy, QMetaType::QFont,
-                                 QMetaType::QIcon};
+                                 QMetaType::QIcon,        QMetaType::QPixmap};
     return (types.contains(property.metaType().id()) || property.isEnumType() || property.isFlagType())
         && !leftOut().contains(property.name());
 }
@@ -167,7 +167,8 @@ void addCommands(QStringList &facts, const QWidget &widget, const QString &inden
     }
 }
 
-// Takes down with what a widget paints: which colours and fonts, neither where nor how often, which follow from fonts.
+// Takes down with what a widget paints: which colours and fonts, neither where nor how often, which follow from fonts, and
+// whether it is an upright line.
 class Ink final : public QPaintEngine, public QPaintDevice
 {
 public:
@@ -191,8 +192,12 @@ public:
                                      : size < 0 ? u" smaller"_s
                                                 : QString()));
     }
-    void drawPath(const QPainterPath &) override { addShape(); }
-    void drawPolygon(const QPointF *, int, PolygonDrawMode) override { addShape(); }
+    void drawPath(const QPainterPath &path) override
+    {
+        const bool isCursor = qobject_cast<const QLineEdit *>(&m_widget);
+        addShape(path.boundingRect().width() == 1 && !isCursor);
+    }
+    void drawPolygon(const QPointF *, int, PolygonDrawMode) override { addShape(false); }
     Type type() const override { return User; }
     QPaintEngine *paintEngine() const override { return const_cast<Ink *>(this); }
 
@@ -219,12 +224,13 @@ private:
         if (!used.contains(what))
             used << what;
     }
-    void addShape()
+    void addShape(bool isUpright)
     {
         const QPen pen = painter()->pen();
         const QBrush brush = painter()->brush();
-        add(u"%1/%2"_s.arg(pen.style() == Qt::NoPen ? u"-"_s : pen.color().name(),
-                           brush.style() == Qt::NoBrush ? u"-"_s : brush.color().name()));
+        add(u"%1/%2%3"_s.arg(pen.style() == Qt::NoPen ? u"-"_s : pen.color().name(),
+                             brush.style() == Qt::NoBrush ? u"-"_s : brush.color().name(),
+                             isUpright ? u" upright"_s : QString()));
     }
 
     const QWidget &m_widget;
@@ -260,6 +266,14 @@ QString rowOf(const QWidget &widget)
         .arg(timeless(cells.join(u'|')));
 }
 
+// A chart's ticks among them, whether there is room for them or not.
+QString textsOf(const QWidget &widget)
+{
+    const auto *view = qobject_cast<const QGraphicsView *>(&widget);
+    const auto isText = [](const QGraphicsItem *item) { return item->type() == QGraphicsTextItem::Type; };
+    return view ? u" %1 texts"_s.arg(std::ranges::count_if(view->scene()->items(), isText)) : QString();
+}
+
 QString limitsOf(const QWidget &widget)
 {
     const auto *edit = qobject_cast<const QLineEdit *>(&widget);
@@ -278,8 +292,8 @@ void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
         const auto *header = qobject_cast<QHeaderView *>(&widget);
         facts << indent + QString::fromLatin1(name) + u' ' + widget.objectName()
                 + (widget.isHidden() ? u" hidden"_s : QString()) + differences(widget, usual(widget))
-                + limitsOf(widget) + rowOf(widget) + paintedOf(widget) + placeOf(widget) + layoutOf(widget)
-                + (header ? columnsOf(*header) : QString());
+                + limitsOf(widget) + rowOf(widget) + textsOf(widget) + paintedOf(widget) + placeOf(widget)
+                + layoutOf(widget) + (header ? columnsOf(*header) : QString());
         if (!qobject_cast<QMenu *>(&widget))
             addCommands(facts, widget, indent + u"  "_s);
     }
@@ -288,6 +302,16 @@ void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
         if (inner && !inner->isWindow())
             addFacts(facts, *inner, isOfToolkit ? indent : indent + u"  "_s);
     }
+}
+
+QString tabOrderOf(const QWidget &window)
+{
+    QString order = u"  Tab goes through"_s;
+    for (const QWidget *at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain())
+        if (at->focusPolicy() & Qt::TabFocus && at->window() == &window && at->isVisible()
+            && !at->objectName().isEmpty())
+            order += u' ' + at->objectName();
+    return order;
 }
 
 } // namespace
@@ -320,5 +344,5 @@ QStringList factsOf(QWidget &window)
 {
     QStringList facts;
     addFacts(facts, window, QString());
-    return facts;
+    return facts << tabOrderOf(window);
 }

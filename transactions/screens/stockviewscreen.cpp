@@ -19,7 +19,8 @@ ListMenu StockViewScreen::stockRecordsMenu()
 
 ListCommand StockViewScreen::stockFilterCommand()
 {
-    return filterCommand({.dialog = [this]() -> FilterDialog & { return filterDialog(); },
+    return filterCommand({.makeDialog = [this] { return makeFilterDialog(); },
+                          .expression = [this] { return stockFilter().expression(); },
                           .apply =
                               [this] {
                                   applyFilter(chosenExpression());
@@ -27,34 +28,10 @@ ListCommand StockViewScreen::stockFilterCommand()
                               }});
 }
 
-StockFilterDialog &StockViewScreen::filterDialog()
-{
-    if (!m_filter) {
-        m_filter = makeFilterDialog();
-        m_filter->addColumns(filterColumns());
-    }
-    return *m_filter;
-}
+StockFilterDialog &StockViewScreen::stockFilter() { return static_cast<StockFilterDialog &>(filterDialog()); }
 
 void StockViewScreen::btnFindClick() { TfrmItemsFind(context(), *this).exec(); }
 
-QString StockViewScreen::chosenExpression() const
-{
-    return joinConditions({m_filter->expression(), m_filter->columnsExpression()});
-}
-
-// Others may have narrowed the list by something else since.
-QString StockViewScreen::filterWords() const
-{
-    return m_filter && chosenExpression() == dataSet().filter() ? m_filter->words() : QString();
-}
-
-void StockViewScreen::clearFilterDialog()
-{
-    if (m_filter)
-        m_filter->btnResetClick();
-}
-
-void StockViewScreen::presetFilterDialog(const QList<KeyOfField> &keys) { filterDialog().preset(keys); }
+void StockViewScreen::presetFilterDialog(const QList<KeyOfField> &keys) { stockFilter().preset(keys); }
 
 } // namespace Tallymere

@@ -18,23 +18,17 @@ public:
 protected:
     using ListScreen::ListScreen;
 
-    virtual StockFilterDialog *makeFilterDialog() = 0; // once, when it is first needed; owned by the screen
+    virtual StockFilterDialog *makeFilterDialog() = 0;
 
     // The pieces of the description that the views have alike.
     QList<ListButton> stockButtons() const;
     ListMenu stockRecordsMenu();
     ListCommand stockFilterCommand();
 
-    QString filterWords() const override;
-    void clearFilterDialog() override;
     void presetFilterDialog(const QList<KeyOfField> &keys) override;
 
-    StockFilterDialog &filterDialog();
-
 private:
-    QString chosenExpression() const; // by the filter dialog
-
-    StockFilterDialog *m_filter = nullptr;
+    StockFilterDialog &stockFilter();
 };
 
 } // namespace Tallymere
