@@ -293,6 +293,10 @@ TEST_F(InvReportsTest, ASearchGoesOnWithThePagesUntilAKeyStopsIt)
 
     type("x<Return>");
     EXPECT_NE(found->text(), u"Not found"_s) << "further pages are coming";
+    context->chooseFileToSave = [](QWidget *, const FileChoice &) { return QString(); };
+    preview->savePdf();
+    EXPECT_TRUE(begins(found->text(), u"Stopped after "_s)) << "it would turn the pages";
+    type("<Return>");
     ended = true;
     EXPECT_TRUE(comesTrue([&] { return found->text() == "Not found"_L1; }));
     EXPECT_FALSE(page->text().endsWith(u"..."_s));

@@ -170,11 +170,8 @@ void CountGrid::takeEntry(const QModelIndex &cell, const QString &text, Entry en
 void CountGrid::takeQuantity(int item, const QString &text)
 {
     const Engine::Value quantity = m_quantity.parse(text);
-    if (quantity.isNull()) {
-        if (m_list->row(item).typed)
-            m_actions.count(item, std::nullopt);
-        return;
-    }
+    if (quantity.isNull())
+        return m_actions.count(item, std::nullopt);
     if (quantity.toDouble() != m_list->row(item).counted())
         m_list->requireWithinRecord(item, quantity.toDouble(), m_blind);
     m_actions.count(item, quantity.toDouble());
