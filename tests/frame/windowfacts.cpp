@@ -277,7 +277,9 @@ QString textsOf(const QWidget &widget)
 QString limitsOf(const QWidget &widget)
 {
     const auto *edit = qobject_cast<const QLineEdit *>(&widget);
-    return edit && edit->validator() ? u" refuses what does not fit"_s : QString();
+    const bool isTransparent = widget.testAttribute(Qt::WA_TransparentForMouseEvents);
+    return (edit && edit->validator() ? u" refuses what does not fit"_s : QString())
+        + (isTransparent ? u" lets the mouse through"_s : QString());
 }
 
 void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
