@@ -42,7 +42,6 @@ void DatePicker::setDate(QDate date)
 void DatePicker::showDate()
 {
     setText(m_date.isValid() ? RegionalSettings::system().shortDate(m_date, yearDigits) : QString());
-    setModified(false);
 }
 
 void DatePicker::takeText()

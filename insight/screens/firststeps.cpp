@@ -84,8 +84,6 @@ void TfrmFirstSteps::addStep(const FirstStep &step)
     shown.detail->setMinimumWidth(wordsWidth);
     shown.done->setText(tr("Done"));
     shown.open->setText(tr("Open"));
-    shown.done->hide();
-    shown.open->hide();
     auto *ways = new QHBoxLayout;
     ways->setSpacing(scaled(this, Space::cell));
     for (const FirstStepWay &way : step.ways) {
@@ -97,7 +95,6 @@ void TfrmFirstSteps::addStep(const FirstStep &step)
                     button);
         shown.ways.append(button);
     }
-    setTabOrder(shown.ways.constLast(), m_ui->chkHide);
     m_ui->layoutSteps->addWidget(title, row, Words);
     m_ui->layoutSteps->addWidget(shown.detail, row + 1, Words);
     m_ui->layoutSteps->addWidget(shown.done, row, State, 2, 1, Qt::AlignVCenter);

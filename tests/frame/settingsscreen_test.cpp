@@ -44,10 +44,6 @@ TEST_F(SettingsScreenTest, ShowsAndSavesWhatIsStored)
         store(u"Server IP"_s, u"10.0.0.7"_s);
         screen.show();
         EXPECT_EQ(child<QRadioButton>(u"radioClientServer"_s)->isChecked(), remote);
-        child<QPushButton>(u"BitBtnCancel"_s)->setFocus();
-        QTest::keyClick(child<QPushButton>(u"BitBtnCancel"_s), Qt::Key_Tab);
-        EXPECT_EQ(screen.focusWidget(),
-                  child<QRadioButton>(remote ? u"radioClientServer"_s : u"radioFileServer"_s));
         EXPECT_EQ(child<QLabel>(u"LabelDataPath"_s)->text(),
                   remote ? u"Shared Ini Directory:"_s : u"Data Location:"_s);
         EXPECT_EQ(child<QComboBox>(u"RzComboBoxConnectionType"_s)->currentText(), shownLink);
@@ -66,7 +62,6 @@ TEST_F(SettingsScreenTest, NothingIsWrittenBeforeOkAndAFailureIsSaid)
     store(u"Alias"_s, u"/srv/kitchen"_s);
     screen.show();
     child<QRadioButton>(u"radioClientServer"_s)->click();
-    EXPECT_EQ(child<QLabel>(u"LabelDataPath"_s)->text(), u"Shared Ini Directory:"_s);
     press(u"buttonChooseFolder"_s); // and cancelled
     EXPECT_EQ(offeredFolder, u"/srv/kitchen"_s);
     EXPECT_EQ(child<QLineEdit>(u"RzButtonEditDataPath"_s)->text(), u"/srv/kitchen"_s);

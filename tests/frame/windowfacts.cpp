@@ -1,5 +1,6 @@
 #include "tests/frame/windowfacts.h"
 
+#include "controls/windows/icons.h"
 #include "tests/support/screendriver.h"
 
 #include <QAbstractEventDispatcher>
@@ -107,6 +108,13 @@ QString differences(const QObject &object, const QObject &plain)
     return result;
 }
 
+// By its number; some widgets have an icon of their own without one.
+QString signOf(const QObject &object)
+{
+    const int sign = static_cast<int>(Tallymere::glyphOf(object));
+    return sign > 0 ? u" sign %1"_s.arg(sign) : QString();
+}
+
 QString layoutOf(const QWidget &widget)
 {
     const QLayout *layout = widget.layout();
@@ -160,7 +168,7 @@ void addCommands(QStringList &facts, const QWidget &widget, const QString &inden
     static const QAction plain;
     for (const QAction *action : widget.actions()) {
         facts << indent + u"> "_s + action->objectName()
-                + (action->isSeparator() ? u"-"_s : differences(*action, plain))
+                + (action->isSeparator() ? u"-"_s : differences(*action, plain) + signOf(*action))
                 + (action->isVisible() ? u""_s : u" hidden"_s);
         if (action->menu())
             addCommands(facts, *action->menu(), indent + u"  "_s);
@@ -294,8 +302,8 @@ void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
         const auto *header = qobject_cast<QHeaderView *>(&widget);
         facts << indent + QString::fromLatin1(name) + u' ' + widget.objectName()
                 + (widget.isHidden() ? u" hidden"_s : QString()) + differences(widget, usual(widget))
-                + limitsOf(widget) + rowOf(widget) + textsOf(widget) + paintedOf(widget) + placeOf(widget)
-                + layoutOf(widget) + (header ? columnsOf(*header) : QString());
+                + signOf(widget) + limitsOf(widget) + rowOf(widget) + textsOf(widget) + paintedOf(widget)
+                + placeOf(widget) + layoutOf(widget) + (header ? columnsOf(*header) : QString());
         if (!qobject_cast<QMenu *>(&widget))
             addCommands(facts, widget, indent + u"  "_s);
     }

@@ -69,7 +69,6 @@ void CountGrid::setList(const CountList &list, CountActions actions, const Guard
     m_model = new CountModel(list, this);
     m_model->enterText = [this](const QModelIndex &cell, const QString &text) { return enterText(cell, text); };
     showModel(m_model, CountModel::gridColumns());
-    horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setSortIndicatorShown(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &CountGrid::titleClicked);
 }
