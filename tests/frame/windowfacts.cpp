@@ -61,8 +61,9 @@ QString said(const QMetaProperty &property, const QVariant &value)
         return QString::fromLatin1(property.enumerator().valueToKey(value.toInt()));
     if (value.typeId() == QMetaType::QFont) {
         const auto font = value.value<QFont>();
-        return u"%1%2"_s.arg(font.bold() ? u"bold"_s : u"plain"_s,
-                             font.pointSizeF() > QApplication::font().pointSizeF() ? u" larger"_s : QString());
+        return u"%1%2%3"_s.arg(font.bold() ? u"bold"_s : u"plain"_s,
+                               font.pointSizeF() > QApplication::font().pointSizeF() ? u" larger"_s : QString(),
+                               font.capitalization() == QFont::AllUppercase ? u" capitals"_s : QString());
     }
     if (value.typeId() == QMetaType::QIcon || value.typeId() == QMetaType::QPixmap)
         return value.value<QIcon>().isNull() && value.value<QPixmap>().isNull() ? u"none"_s : u"an icon"_s;
