@@ -38,15 +38,6 @@ QString unexpectedError(const EngineError &error)
     throw EngineError(error.code(), table.name() + u": "_s + unexpectedError(error), error.driverText());
 }
 
-void openOrRefuse(Engine::TableReader &table)
-{
-    try {
-        table.open();
-    } catch (const EngineError &error) {
-        refuseOpening(table, error);
-    }
-}
-
 // A table without a row has nothing to lock, and two users would each give it one: the first row is made under the
 // table's lock.
 void lockRow(Engine::Table &counter, std::optional<Engine::TableLocks> &whole)
@@ -117,14 +108,15 @@ bool openTable(Engine::TableReader &table)
 {
     const auto mend = [&table] { repairTable(table.database(), table.name()); };
     table.onDamage(mend);
-    try {
-        table.open();
-    } catch (const EngineError &error) {
-        if (error.code() != ErrorCode::Corrupt)
-            refuseOpening(table, error);
-        table.onDamage({});
-        mend();
-        openOrRefuse(table);
+    for (bool isMended = false; !table.isOpen(); isMended = true) {
+        try {
+            table.open();
+        } catch (const EngineError &error) {
+            if (isMended || error.code() != ErrorCode::Corrupt)
+                refuseOpening(table, error);
+            table.onDamage({});
+            mend();
+        }
     }
     return true;
 }
