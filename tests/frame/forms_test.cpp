@@ -388,6 +388,8 @@ struct FormsTest : testing::Test
         const ProgressBox progress(&mainWindow, u"[Saving]"_s);
         QWidget &saving = *mainWindow.findChild<QWidget *>(u"dlgProgress"_s);
         HelpWindow help(std::make_unique<ManualCollection>(), over.company.settings, mainWindow);
+        for (const char *list : {"contents", "index"}) // which come when they have been read
+            EXPECT_TRUE(comesTrue([&] { return child<QAbstractItemView>(help, list)->model()->rowCount() > 0; }));
         for (QWidget *window :
              QWidgetList{&help, &saving, &preview, &import, &settings, &system, &date, &time, &filters, &barcodes,
                          &copy, &differences, &phones, &card, &trail, &paste})
