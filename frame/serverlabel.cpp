@@ -6,9 +6,11 @@
 #include "engine/values/userlocale.h"
 
 #include <chrono>
+#include <QApplication>
 #include <QPointer>
 #include <QTime>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace Tallymere {
@@ -49,10 +51,25 @@ void ServerLabel::tell(bool isThere)
                     : tr("No connection to the server since %1. What is typed stays; it will be connected again.")
                           .arg(time));
     setVisible(true);
+    markTitles(isThere);
     if (!isThere)
         return;
     Q_EMIT connectedAgain();
     QTimer::singleShot(goodNews, this, [this, text = text()] { setVisible(text != this->text()); });
+}
+
+// Whoever works in another window does not see this one.
+void ServerLabel::markTitles(bool isThere)
+{
+    const QString mark = u" - "_s + tr("No connection to the server");
+    for (QWidget *other : QApplication::topLevelWidgets()) {
+        const QString title = other->windowTitle();
+        const bool isMarked = title.endsWith(mark);
+        if (isThere && isMarked)
+            other->setWindowTitle(title.chopped(mark.size()));
+        else if (!isThere && !isMarked && other->isVisible() && !title.isEmpty())
+            other->setWindowTitle(title + mark);
+    }
 }
 
 void ServerLabel::look()

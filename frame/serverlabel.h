@@ -7,8 +7,9 @@
 
 namespace Tallymere {
 
-// Tells in the status bar when the server is gone, and when it is there again. It looks for the server on a thread of its own
-// and makes the connection anew, so that whoever does nothing meanwhile need not wait for it afterwards.
+// Tells in the status bar, and in the titles of all windows, when the server is gone, and when it is there again. It looks for
+// the server on a thread of its own and makes the connection anew, so that whoever does nothing meanwhile need not wait for it
+// afterwards.
 class ServerLabel final : public QLabel
 {
     Q_OBJECT
@@ -22,6 +23,7 @@ Q_SIGNALS:
 
 private:
     void tell(bool isThere);
+    static void markTitles(bool isThere);
     void look();
     void connectAgain();
 

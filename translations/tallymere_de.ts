@@ -5546,6 +5546,10 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
         <source>No connection to the server since %1. What is typed stays; it will be connected again.</source>
         <translation>Seit %1 keine Verbindung zum Server. Was eingegeben ist, bleibt; die Verbindung wird wiederhergestellt.</translation>
     </message>
+    <message>
+        <source>No connection to the server</source>
+        <translation>Keine Verbindung zum Server</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::StepBox</name>

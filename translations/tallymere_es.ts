@@ -5546,6 +5546,10 @@ Haga clic para volver a mostrar todos los registros.</translation>
         <source>No connection to the server since %1. What is typed stays; it will be connected again.</source>
         <translation>Sin conexión con el servidor desde las %1. Lo escrito se conserva; se volverá a conectar.</translation>
     </message>
+    <message>
+        <source>No connection to the server</source>
+        <translation>Sin conexión con el servidor</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::StepBox</name>

@@ -70,9 +70,14 @@ TEST(ServerLabelTest, TellsThatTheServerIsGoneAndConnectsAgainByItself)
     ServerLabel label(nullptr);
     label.follow(store.database());
     EXPECT_TRUE(label.isHidden());
+    QWidget other;
+    other.setWindowTitle(u"Inventory Receipt"_s);
+    other.show();
     store.anotherUser(u"keeper"_s)->endOtherSessions(u"maria"_s);
     EXPECT_TRUE(comesTrue([&] { return has(label.text(), u"No connection"_s); }));
+    EXPECT_EQ(other.windowTitle(), u"Inventory Receipt - No connection to the server"_s);
     EXPECT_TRUE(comesTrue([&] { return has(label.text(), u"again at"_s); }));
+    EXPECT_EQ(other.windowTitle(), u"Inventory Receipt"_s);
     EXPECT_FALSE(store.database().connection().hasEnded());
     EXPECT_FALSE(label.isHidden());
 }
