@@ -164,6 +164,7 @@ bool ListGrid::staysOnPage(const QKeyEvent &key) const
     case Qt::Key_Right:
     case Qt::Key_Return:
     case Qt::Key_Enter:
+    case Qt::Key_Escape:
         return true;
     default:
         return key.text().isEmpty() && key.key() != Qt::Key_End; // modifiers alone, and what is none of the grid's

@@ -71,8 +71,8 @@ bool SetSorting::sortByLookup(SetScope &scope) const
     if (!join(scope, field))
         return false;
     const QList<OrderTerm> within = orderOfOne(field.lookup, scope.keyColumns.constFirst());
-    // Bounds in place of an equation: with that a server may walk through the table in the order of its key, to its end where
-    // one of theirs has no rows.
+    // Bounds in place of an equation: with an equation a server may choose to walk through the table in the order of its key,
+    // and comes to its end where one of theirs has no rows.
     const QString firstRowsOfOne =
         u"LATERAL (SELECT t.* FROM %1 WHERE %2 >= %3 AND %2 <= %3%4 LIMIT %5) t"_s
             .arg(rows, within.constFirst().column.sql, theirKey(field), orderBy(m_dialect, within))
