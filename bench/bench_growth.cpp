@@ -174,15 +174,17 @@ std::pair<double, double> openHistory(Engine::Database &database)
     return openList(database, view, view.table());
 }
 
-// The history that is shown, in the order of another title.
-double sortHistory(Engine::Database &database, const QString &field)
+// The history that is shown, in the order of another title, and narrowed.
+double sortHistory(Engine::Database &database, const QString &field, const HistoryView::Filter &filter = {})
 {
     HistoryView view(database);
+    view.table().setFilter(HistoryView::filterExpression(filter));
     Engine::TableReader &list = view.table();
     list.onLongRead([&database](const Engine::DataSet::ReadOver &read) { read(database.connection()); });
     openList(database, view, list);
     return seconds([&] {
         list.setSorting({field});
+        list.setFiltered(!list.filter().isEmpty());
         sink = sink + static_cast<double>(list.beginsAnew() ? list.firstRows(64).size() : list.recordCount());
     });
 }
@@ -281,6 +283,30 @@ std::vector<Compared> comparisons(Store store, Engine::Database &database, const
          [&database](int) {
              return readAll(database, u"SELECT * FROM IHist WHERE ItemID = 1 ORDER BY IHistID LIMIT 64"_s);
          }},
+        {"a location by quantity",
+         [&database](int) { return sortHistory(database, Fields::Quantity, {.warehouseId = 2}); },
+         [&database](int) {
+             return readAll(
+                 database,
+                 u"SELECT * FROM IHist WHERE WarehouseID = 2 ORDER BY Quantity NULLS FIRST, IHistID NULLS "
+                 "FIRST LIMIT 64"_s);
+         }},
+        {"a period by item no.",
+         [&database](int) { return sortHistory(database, Fields::ItemNo, {.year = lastYear, .period = 12}); },
+         [&database, latest](int) {
+             return readAll(database, u"SELECT * FROM IHist WHERE %1 AND ItemID = 1 LIMIT 64"_s.arg(latest));
+         }},
+        {"a period by date",
+         [&database](int) { return sortHistory(database, Fields::TransDate, {.year = lastYear, .period = 12}); },
+         [&database](int) {
+             return readAll(
+                 database,
+                 u"SELECT * FROM IHist WHERE GLYear = %1 AND GLPeriod = 12 ORDER BY TransDate NULLS FIRST, "
+                 "IHistID NULLS FIRST LIMIT 64"_s.arg(lastYear));
+         }},
+        {"an item by description",
+         [&database](int) { return sortHistory(database, Fields::TransDescription, {.itemId = 101}); },
+         [&database](int) { return readAll(database, u"SELECT * FROM IHist WHERE ItemID = 101 LIMIT 64"_s); }},
         {"its rows counted beside", [&database](int) { return openHistory(database).second; },
          [&database](int) { return readAll(database, u"SELECT COUNT(*) FROM IHist"_s); }},
     };

@@ -7,6 +7,7 @@
 #include "engine/values/error.h"
 #include "engine/values/linetext.h"
 
+#include <algorithm>
 #include <cmath>
 #include <span>
 
@@ -289,6 +290,21 @@ private:
     const FilterExpression::Columns &m_columns;
 };
 
+bool isConstant(const Node &node) { return node.kind == Node::Kind::Number || node.kind == Node::Kind::Text; }
+
+std::vector<const Node *> fixing(const Node &node)
+{
+    std::vector<const Node *> found;
+    if (node.kind == Node::Kind::And) {
+        for (const auto &part : node.parts)
+            std::ranges::copy(fixing(*part), std::back_inserter(found));
+    } else if (node.kind == Node::Kind::Compare && node.text == "="_L1 && node.parts[0]->kind == Node::Kind::Field
+               && isConstant(*node.parts[1])) {
+        found.push_back(&node);
+    }
+    return found;
+}
+
 } // namespace
 
 FilterExpression::FilterExpression(const QString &expression)
@@ -307,6 +323,14 @@ SqlCondition FilterExpression::condition(const Dialect &dialect, const Columns &
     SqlCondition condition = Translator(m_text, dialect, columns).condition(*m_root);
     condition.text = u'(' + condition.text + u')';
     return condition;
+}
+
+QList<FilterExpression::Fixed> FilterExpression::fixedFields(const Dialect &dialect, const Columns &columns) const
+{
+    QList<Fixed> fixed;
+    for (const Node *node : m_root ? fixing(*m_root) : std::vector<const Node *>())
+        fixed.append({node->parts[0]->text, Translator(m_text, dialect, columns).condition(*node)});
+    return fixed;
 }
 
 } // namespace Engine

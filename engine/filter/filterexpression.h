@@ -34,6 +34,13 @@ public:
     const QString &text() const { return m_text; }
     // Throws BadExpression for a field that there is not and for kinds that do not go together.
     SqlCondition condition(const Dialect &dialect, const Columns &columns) const;
+    // The comparisons that give a field one value in all rows that it lets in: both of "A = 1 AND B = 2".
+    struct Fixed
+    {
+        QString field;
+        SqlCondition condition;
+    };
+    QList<Fixed> fixedFields(const Dialect &dialect, const Columns &columns) const;
 
     struct Node;
 

@@ -280,10 +280,10 @@ void DataSet::setFilter(const QString &expression)
     }
     QScopedValueRollback filter(m_filter, expression);
     const bool changes = m_open && m_filtered;
-    std::optional<KeyList> keys = changes ? readAhead() : std::nullopt;
+    Ahead ahead = changes ? readAhead() : Ahead();
     filter.commit();
     if (changes)
-        takeAnew(Place::First, std::move(keys));
+        takeAnew(Place::First, std::move(ahead));
 }
 
 void DataSet::setFiltered(bool on)
@@ -298,10 +298,10 @@ void DataSet::setFiltered(bool on)
         DataSetReader(*this).condition(
             FilterExpression(m_filter)); // it may have been set before the fields were known
     QScopedValueRollback filtered(m_filtered, on);
-    std::optional<KeyList> keys = m_open ? readAhead() : std::nullopt;
+    Ahead ahead = m_open ? readAhead() : Ahead();
     filtered.commit();
     if (m_open)
-        takeAnew(Place::First, std::move(keys));
+        takeAnew(Place::First, std::move(ahead));
 }
 
 bool DataSet::canSortBy(int field) const
@@ -337,10 +337,9 @@ void DataSet::setSorting(const Sorting &sorting)
               Texts::tr("The rows cannot be sorted by %1.").arg(field(sorting.field).caption()));
     beforeMove();
     QScopedValueRollback sorted(m_sorting, sorting);
-    const bool inPages = DataSetReader(*this).comesInPages();
-    std::optional<KeyList> keys = inPages ? std::nullopt : readAhead();
+    Ahead ahead = readAhead();
     sorted.commit();
-    takeAnew(inPages ? Place::First : Place::Keep, std::move(keys));
+    takeAnew(ahead.page ? Place::First : Place::Keep, std::move(ahead));
 }
 
 // What is looked up sorts as its own table has it.
@@ -356,7 +355,7 @@ void DataSet::refresh()
 {
     requireOpen();
     beforeMove();
-    takeAnew(Place::Keep, readAhead());
+    takeAnew(Place::Keep, {DataSetReader(*this).readAhead(), {}});
 }
 
 void DataSet::onLongRead(std::function<void(const ReadOver &)> aside, int longFrom)
@@ -375,16 +374,25 @@ bool DataSet::isListRead() const { return m_open && d->keysRead; }
 
 bool DataSet::beginsAnew() const
 {
-    return m_open && !d->keysRead && d->cursor.isUnread() && DataSetReader(*this).comesInPages();
+    return m_open && !d->keysRead && d->cursor.isUnread()
+        && (!d->firstPage.empty() || DataSetReader(*this).pageAhead());
 }
 
-std::optional<KeyList> DataSet::readAhead() const { return DataSetReader(*this).readAhead(); }
+DataSet::Ahead DataSet::readAhead() const
+{
+    const DataSetReader reader(*this);
+    if (auto page = reader.pageAhead())
+        return {{}, std::move(page)};
+    return {reader.readAhead(), {}};
+}
 
-void DataSet::takeAnew(Place place, std::optional<KeyList> keys)
+void DataSet::takeAnew(Place place, Ahead ahead)
 {
     invalidate(place);
-    if (keys)
-        DataSetReader(*this).take(std::move(*keys));
+    if (ahead.keys)
+        DataSetReader(*this).take(std::move(*ahead.keys));
+    if (ahead.page)
+        d->firstPage = std::move(*ahead.page);
     emitListChanged();
 }
 

@@ -202,9 +202,13 @@ protected:
     // The list is read again when it is needed. The record stays current, or the first becomes current.
     enum class Place { Keep, First };
     void invalidate(Place place);
-    void takeAnew(Place place, std::optional<KeyList> keys); // as readAhead() has them, or to be read when needed
-    std::optional<KeyList>
-    readAhead() const; // of the order and filter that are set; none where it is read when needed
+    struct Ahead // nothing where it is read when needed
+    {
+        std::optional<KeyList> keys;
+        std::optional<std::vector<FoundRow>> page; // with which a list begins whose keys come later; empty likewise
+    };
+    void takeAnew(Place place, Ahead ahead);
+    Ahead readAhead() const; // of the order and filter that are set
     void emitListChanged(); // with currentChanged, for a set that is new as a whole
     Value lookedUp(const Field &field, const Value &key) const;
     // find() and locate() over the given fields.
@@ -216,6 +220,7 @@ protected:
 
     struct Private;
     friend class DataSetReader;
+    friend class SetFiltering;
     friend class SetSorting;
     std::unique_ptr<Private> d;
 

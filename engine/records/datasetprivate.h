@@ -73,6 +73,7 @@ public:
 
     // The condition of an expression over the data fields. Throws BadExpression when it does not fit them.
     SqlCondition condition(const FilterExpression &filter) const;
+    FilterExpression::Columns columns() const; // for these
     RowSource &source() const;
     RowSource sourceOn(Connection &connection) const; // the same over another connection to the database
     const std::vector<Row> *memory() const { return d.inMemory ? &d.memory : nullptr; }
@@ -89,7 +90,9 @@ public:
     }
     void readKeys() const; // all of them, or how many there are
     std::optional<KeyList> readAhead() const; // aside, where that pays
-    bool comesInPages() const; // a long set that begins with its first rows, of which the rest comes beside these
+    // Of a long set that begins with its first rows, of which the rest comes beside these; none of any other. Empty where these are
+    // there as soon as they are asked for.
+    std::optional<std::vector<FoundRow>> pageAhead() const;
     DataSet::RestOver restToCome() const; // see there
     void take(KeyList keys) const; // all of them
     Key keyAt(int index) const; // of an index of the set
@@ -108,6 +111,8 @@ private:
     SetScope scope() const; // with filter and sorting
     void settleKeys() const;
     void takeLength(const RowSource::Length &length) const;
+    bool isLong() const;
+    bool beginsWithPage(const RowSource &wanted) const;
     bool mended(const EngineError &error) const;
     void findInKeys() const;
     void readPart(int index) const; // so that the key of the index is in hand

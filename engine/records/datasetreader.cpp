@@ -1,4 +1,5 @@
 #include "engine/records/datasetprivate.h"
+#include "engine/records/setfiltering.h"
 #include "engine/records/setsorting.h"
 #include "engine/store/database.h"
 #include "engine/store/dialect.h"
@@ -11,16 +12,20 @@ using namespace Qt::StringLiterals;
 
 namespace Engine {
 
-SqlCondition DataSetReader::condition(const FilterExpression &filter) const
+FilterExpression::Columns DataSetReader::columns() const
 {
-    const Dialect &dialect = m_set.m_database.connection().dialect();
-    return filter.condition(dialect, [&](QStringView name) -> std::optional<FilterExpression::Column> {
+    return [this](QStringView name) -> std::optional<FilterExpression::Column> {
         const int index = m_set.fieldIndex(name);
         if (index < 0 || m_set.field(index).kind == FieldKind::Calculated)
             return std::nullopt;
         const Field &field = m_set.field(index);
-        return FilterExpression::Column{columnOf(dialect, field), field.type};
-    });
+        return FilterExpression::Column{columnOf(m_set.m_database.connection().dialect(), field), field.type};
+    };
+}
+
+SqlCondition DataSetReader::condition(const FilterExpression &filter) const
+{
+    return filter.condition(m_set.m_database.connection().dialect(), columns());
 }
 
 RowSource &DataSetReader::source() const
@@ -38,13 +43,10 @@ RowSource DataSetReader::sourceOn(Connection &connection) const
 SetScope DataSetReader::scope() const
 {
     SetScope scope = m_set.scope();
-    SetSorting(m_set).applyTo(scope);
-    if (m_set.m_filtered)
-        scope.condition += condition(FilterExpression(m_set.m_filter));
-    if (!scope.condition.isEmpty()) {
-        scope.inParts = false;
-        scope.firstSource.clear();
-    }
+    const bool isOfParts = scope.inParts;
+    const SetFiltering filtering(m_set);
+    SetSorting(m_set, filtering).applyTo(scope);
+    filtering.applyTo(scope, isOfParts && scope.byIndex);
     return scope;
 }
 
@@ -71,18 +73,35 @@ std::optional<KeyList> DataSetReader::readAhead() const
     return keys;
 }
 
-bool DataSetReader::comesInPages() const
+bool DataSetReader::isLong() const
+{
+    // Whatever its filter lets in. Of what has been read it is known.
+    if (d.mostRows < d.longFrom && !d.keysRead
+        && RowSource(m_set.m_database.connection(), m_set.scope(), m_set.m_fields).hasMoreThan(d.longFrom))
+        d.mostRows = d.longFrom + 1;
+    return d.mostRows >= d.longFrom;
+}
+
+std::optional<std::vector<FoundRow>> DataSetReader::pageAhead() const
 {
     Connection &connection = m_set.m_database.connection();
     if (!d.aside || d.inMemory || connection.inTransaction())
-        return false;
+        return std::nullopt;
     const RowSource wanted = sourceOn(connection); // not yet the one in hand where the order is about to change
-    // On a standby its first rows might be of another moment than the others.
-    if (!wanted.comesInPages() || (wanted.guessesFirst() && connection.origin().isStandby()))
-        return false;
-    if (d.mostRows < d.longFrom && !d.keysRead && wanted.hasMoreThan(d.longFrom))
-        d.mostRows = d.longFrom + 1;
-    return d.mostRows >= d.longFrom;
+    if (!beginsWithPage(wanted) || !isLong())
+        return std::nullopt;
+    if (!wanted.mayFallShort())
+        return std::vector<FoundRow>();
+    std::vector<FoundRow> rows = wanted.foundSoon(pageSize);
+    return rows.size() == pageSize ? std::optional(std::move(rows)) : std::nullopt;
+}
+
+// A standby may have other rows than the connection over which the keys come. Whether it lacks one of them is known only where
+// what is new has the highest key.
+bool DataSetReader::beginsWithPage(const RowSource &wanted) const
+{
+    const bool isGuessedOfAny = wanted.guessesFirst() && wanted.keyWidth() > 1;
+    return wanted.comesInPages() && !(isGuessedOfAny && m_set.m_database.connection().origin().isStandby());
 }
 
 // What is read aside knows nothing of the set, which may be gone by then.
@@ -117,13 +136,14 @@ DataSet::RestOver DataSetReader::restToCome() const
                     set.takeLength(*length);
             });
         };
-    // A standby may have fewer rows than another connection finds.
-    if (wanted.firstSource.isEmpty() || m_set.m_database.connection().origin().isStandby()
-        || !read(&RowSource::hasMoreThan, d.longFrom))
+    if (wanted.firstSource.isEmpty() || !beginsWithPage(source()) || !isLong())
         return {};
     return [=](Connection &connection) -> std::function<void()> {
         const KeyList keys = RowSource(connection, wanted, noFields).keys();
-        return unlessReadSince([keys](const DataSetReader &set) { set.take(keys); });
+        return unlessReadSince([keys](const DataSetReader &set) {
+            const bool isStandby = set.source().isOnStandby();
+            isStandby && !set.read(&RowSource::hasNewestOf, keys) ? set.readKeys() : set.take(keys);
+        });
     };
 }
 
@@ -171,7 +191,7 @@ bool DataSetReader::readShort() const
 std::vector<FoundRow> DataSetReader::firstRows(int count) const
 {
     const bool isInHand = d.keysRead || d.inMemory;
-    const bool isFar = !isInHand && source().isFar() && count <= pageSize;
+    const bool isFar = !isInHand && (source().isFar() || !d.firstPage.empty()) && count <= pageSize;
     if (!isInHand && !isFar && source().hasFirstRowsSoon())
         return read(&RowSource::firstFound, count);
     if (!isFar)
@@ -267,7 +287,9 @@ void DataSetReader::resolve() const
         return;
     if (d.keysRead || d.inMemory)
         return findInKeys();
-    if (d.cursor.isUnread()) {
+    if (d.cursor.isUnread() && !d.firstPage.empty()) {
+        d.cursor.to(d.firstPage.front().key, d.firstPage.front().row, 0);
+    } else if (d.cursor.isUnread()) {
         if (readShort())
             return findInKeys();
         if (!d.cursor.isUnread()) // its first row has come with the first page

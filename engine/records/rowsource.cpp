@@ -221,15 +221,29 @@ StatementPtr RowSource::allRows() const
     return m_scope.isNone ? nullptr : select(m_columns, m_scope.condition, orderBy());
 }
 
+std::vector<FoundRow> RowSource::foundSoon(int count) const
+{
+    RowSource sooner = *this;
+    sooner.m_scope.source = std::exchange(sooner.m_scope.firstSource, {});
+    sooner.m_scope.sourceParameters = m_scope.firstParameters;
+    return sooner.firstFound(count);
+}
+
+bool RowSource::hasNewestOf(const KeyList &keys) const
+{
+    qint64 newest = 0;
+    for (int i = 0; i < keys.count(); ++i)
+        newest = std::max(newest, keys.at(i).front());
+    return keys.count() == 0 || row({newest}).has_value();
+}
+
 // Where the source for that has too few, the others may be what it leaves out.
 std::vector<FoundRow> RowSource::firstFound(int count) const
 {
     if (m_scope.isNone)
         return {};
     if (!m_scope.firstSource.isEmpty() && count <= SetScope::mostFirstRows) {
-        RowSource sooner = *this;
-        sooner.m_scope.source = std::exchange(sooner.m_scope.firstSource, {});
-        std::vector<FoundRow> rows = sooner.firstFound(count);
+        std::vector<FoundRow> rows = foundSoon(count);
         if (rows.size() == static_cast<size_t>(count))
             return rows;
     }

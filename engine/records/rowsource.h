@@ -27,7 +27,9 @@ struct SetScope
     QList<OrderTerm> order; // total, by ending with the key
     bool byIndex = false; // the order is that of an index: the first rows are there long before all keys are
     QString firstSource; // has nearly the same rows, and an index for the order: for the first page
+    QList<Value> firstParameters;
     static constexpr int mostFirstRows = 100; // that it is asked for
+    bool mayFallShort = false; // it may have fewer than these though there are more
     QString joinedField; // a looked-up one that the source has as a column
     QString joinedColumn;
     // Its keys may be read in parts: it is a table as a whole, in the order of an index of it, by a key of one number that new
@@ -73,13 +75,20 @@ public:
     // The first row in the set's order that meets the condition as well.
     std::optional<FoundRow> first(const SqlCondition &condition = {}) const;
     std::vector<FoundRow> firstFound(int count) const;
+    // As many of these as can be had without going over all rows, where the set guesses them.
+    std::vector<FoundRow> foundSoon(int count) const;
+    bool mayFallShort() const { return m_scope.mayFallShort; }
+    bool
+    hasNewestOf(const KeyList &keys) const; // whether the set's condition lets it in or not; keys of one number
     StatementPtr allRows() const; // in the set's order, for takeRow(); null where there can be none
+    int keyWidth() const { return static_cast<int>(m_scope.keyColumns.size()); }
     bool guessesFirst() const { return !m_scope.firstSource.isEmpty(); }
     bool hasFirstRowsSoon() const { return m_scope.byIndex || guessesFirst(); }
     bool comesInPages() const
     {
         return m_scope.inParts || guessesFirst();
     } // and all that follows them is read later
+    bool isOnStandby() const { return m_connection.origin().isStandby(); }
     bool isFar() const { return m_connection.sendsAhead(); } // each statement costs a journey
     // The row of a key, whether the set's condition lets it in or not.
     std::optional<Row> row(const Key &key) const;

@@ -1,6 +1,7 @@
 #include "engine/records/setsorting.h"
 
 #include "engine/records/dataset.h"
+#include "engine/records/setfiltering.h"
 #include "engine/records/tableprivate.h"
 #include "engine/store/database.h"
 #include "engine/store/dialect.h"
@@ -25,8 +26,9 @@ QStringList sortedNames(const DataSet &set)
 
 } // namespace
 
-SetSorting::SetSorting(const DataSet &set)
+SetSorting::SetSorting(const DataSet &set, const SetFiltering &filtering)
     : m_set(set)
+    , m_filtering(filtering)
     , m_dialect(set.m_database.connection().dialect())
     , m_names(sortedNames(set))
     , m_isDescending(set.m_sorting.descending)
@@ -40,7 +42,7 @@ void SetSorting::applyTo(SetScope &scope) const
     scope.firstSource.clear();
     if (scope.inParts && (sortByIndex(scope) || sortByLookup(scope)))
         return;
-    scope.byIndex = false;
+    scope.byIndex = scope.inParts = false;
     sortAll(scope);
 }
 
@@ -67,16 +69,21 @@ bool SetSorting::sortByIndex(SetScope &scope) const
 bool SetSorting::sortByLookup(SetScope &scope) const
 {
     const Field &field = m_set.field(m_names.constFirst());
+    const QList<OrderTerm> within = orderOfOne(field.lookup, scope.keyColumns.constFirst());
+    if (field.kind == FieldKind::Lookup
+        && m_filtering.fixes(field.lookup.keyField)) { // the same is looked up to all
+        scope.order = within.sliced(1);
+        return true;
+    }
     const QString rows = scope.source;
     if (!join(scope, field))
         return false;
-    const QList<OrderTerm> within = orderOfOne(field.lookup, scope.keyColumns.constFirst());
     // Bounds in place of an equation: with an equation a server may choose to walk through the table in the order of its key,
     // and comes to its end where one of theirs has no rows.
     const QString firstRowsOfOne =
         u"LATERAL (SELECT t.* FROM %1 WHERE %2 >= %3 AND %2 <= %3%4 LIMIT %5) t"_s
             .arg(rows, within.constFirst().column.sql, theirKey(field), orderBy(m_dialect, within))
-            .arg(SetScope::mostFirstRows);
+            .arg(m_filtering.mostGoneOver());
     scope.firstSource = m_dialect.name(field.lookup.table) + " s CROSS JOIN "_L1
         + m_dialect.variant(rows + " ON "_L1 + matchOf(field), firstRowsOfOne);
     scope.order = {termOf(scope.joinedColumn, field), {{theirKey(field)}, m_isDescending}};

@@ -5,6 +5,7 @@
 namespace Engine {
 
 class DataSet;
+class SetFiltering;
 struct TableLayout;
 
 // What a set is sorted by, put before its own order.
@@ -14,7 +15,7 @@ struct TableLayout;
 class SetSorting
 {
 public:
-    explicit SetSorting(const DataSet &set);
+    SetSorting(const DataSet &set, const SetFiltering &filtering);
 
     void applyTo(SetScope &scope) const;
 
@@ -30,6 +31,7 @@ private:
     QString theirKey(const Field &field) const;
 
     const DataSet &m_set;
+    const SetFiltering &m_filtering;
     const Dialect &m_dialect;
     QStringList m_names; // of the fields: a calculated one is sorted by others
     bool m_isDescending;
