@@ -191,10 +191,10 @@ bool DataSetReader::readShort() const
 std::vector<FoundRow> DataSetReader::firstRows(int count) const
 {
     const bool isInHand = d.keysRead || d.inMemory;
-    const bool isFar = !isInHand && (source().isFar() || !d.firstPage.empty()) && count <= pageSize;
-    if (!isInHand && !isFar && source().hasFirstRowsSoon())
+    const bool isPage = !isInHand && (source().isFar() || !d.firstPage.empty()) && count <= pageSize;
+    if (!isInHand && !isPage && source().hasFirstRowsSoon())
         return read(&RowSource::firstFound, count);
-    if (!isFar)
+    if (!isPage)
         readKeys(); // all rows have to be sorted for the first ones
     else
         readShort();

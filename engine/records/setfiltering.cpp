@@ -20,14 +20,6 @@ QString sortedAs(const SqlColumn &column)
     return column.caseInsensitive ? column.sql + " folded"_L1 : column.sql;
 }
 
-bool goesOneWay(const QList<OrderTerm> &order)
-{
-    const auto differs = [&order](const OrderTerm &term) {
-        return term.descending != order.constFirst().descending;
-    };
-    return std::ranges::none_of(order, differs);
-}
-
 } // namespace
 
 SetFiltering::SetFiltering(const DataSet &set)
@@ -41,8 +33,8 @@ SetFiltering::SetFiltering(const DataSet &set)
     m_condition = reader.condition(filter);
     for (const FilterExpression::Fixed &fixed : filter.fixedFields(m_dialect, reader.columns())) {
         const Field &field = set.field(fixed.field);
-        if (field.kind == FieldKind::Data
-            && !isText(field.type)) // texts that are the same may be written differently
+        const bool isSame = !isText(field.type); // texts that agree may be written differently
+        if (field.kind == FieldKind::Data && isSame)
             m_fixed.insert(columnOf(m_dialect, field), fixed.condition);
     }
 }
@@ -103,8 +95,7 @@ QStringList SetFiltering::beginningOf(const IndexDef &index, const SetScope &sco
         if (!beginning.contains(term.column.sql))
             order << sortedAs(term.column);
     }
-    const bool goesOn = goesOneWay(scope.order) && (rest == order || rest + scope.keyColumns == order);
-    return goesOn ? beginning : QStringList();
+    return rest == order || rest + scope.keyColumns == order ? beginning : QStringList();
 }
 
 } // namespace Engine
