@@ -5230,6 +5230,13 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
     </message>
 </context>
 <context>
+    <name>Tallymere::ListCommands</name>
+    <message>
+        <source>Not available in this version</source>
+        <translation>In dieser Version nicht verfügbar</translation>
+    </message>
+</context>
+<context>
     <name>Tallymere::ListOutput</name>
     <message>
         <source>Copying...</source>
@@ -5273,10 +5280,6 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
     <message>
         <source>Item Card</source>
         <translation>Artikelkarte</translation>
-    </message>
-    <message>
-        <source>Not available in this version</source>
-        <translation>In dieser Version nicht verfügbar</translation>
     </message>
     <message>
         <source>Sort by Column</source>

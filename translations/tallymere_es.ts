@@ -5230,6 +5230,13 @@ Haga clic para volver a mostrar todos los registros.</translation>
     </message>
 </context>
 <context>
+    <name>Tallymere::ListCommands</name>
+    <message>
+        <source>Not available in this version</source>
+        <translation>No disponible en esta versión</translation>
+    </message>
+</context>
+<context>
     <name>Tallymere::ListOutput</name>
     <message>
         <source>Copying...</source>
@@ -5273,10 +5280,6 @@ Haga clic para volver a mostrar todos los registros.</translation>
     <message>
         <source>Item Card</source>
         <translation>Ficha de artículo</translation>
-    </message>
-    <message>
-        <source>Not available in this version</source>
-        <translation>No disponible en esta versión</translation>
     </message>
     <message>
         <source>Sort by Column</source>

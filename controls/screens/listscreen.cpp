@@ -70,16 +70,17 @@ void ListScreen::build(const ListDescription &description, Engine::DataSet &set,
     m_status = new ListStatus(*m_grid, *statusBar());
     m_output = new ListOutput(m_context, *this, *m_grid, *m_status);
     m_memory = new WindowMemory(*this, m_context.settings);
+    auto *commands = new ListCommands(
+        *m_grid, [this](const std::function<void()> &command) { runCommand(command); }, this);
     for (const ListMenu &menu : withItemCard(description.menus))
-        addCommands(menuBar()->addMenu(menu.caption), menu.commands);
+        commands->addTo(*menuBar()->addMenu(menu.caption), menu.commands);
     leaveMenuBarWithMenus(*menuBar());
     for (const ListButton &button : description.buttons)
         addButton(button);
     addFilterChip();
     addKeptFilters();
-    finishPopup();
+    commands->finish(command(copyName));
     addSorting();
-    watchRecord();
     connect(m_grid, &ListGrid::chosen, this, [this, defaultCommand] { runCommand(defaultCommand); });
     m_grid->setFocus();
     showFilterMark();
@@ -127,64 +128,6 @@ QList<ListMenu> ListScreen::withItemCard(QList<ListMenu> menus)
 
 // --- commands ---------------------------------------------------------------------------------------------------
 
-void ListScreen::addCommands(QMenu *menu, const QList<ListCommand> &commands)
-{
-    menu->setToolTipsVisible(true);
-    for (const ListCommand &command : commands) {
-        if (command.separatorBefore && !command.hidden)
-            menu->addSeparator();
-        if (!command.choices.isEmpty())
-            addChoices(menu, command);
-        else if (!command.entries.isEmpty())
-            addCommands(addSubMenu(menu, command), command.entries);
-        else
-            addPopup(command, addCommand(menu, command));
-    }
-}
-
-QMenu *ListScreen::addSubMenu(QMenu *menu, const ListCommand &command)
-{
-    QMenu *entries = menu->addMenu(command.caption);
-    entries->menuAction()->setObjectName(command.name);
-    setGlyph(*entries->menuAction(), command.glyph);
-    return entries;
-}
-
-void ListScreen::addChoices(QMenu *menu, const ListCommand &command)
-{
-    QMenu *choices = addSubMenu(menu, command);
-    auto *group = new QActionGroup(this);
-    for (const ListCommand &choice : command.choices) {
-        QAction *action = addCommand(choices, choice);
-        action->setCheckable(true);
-        action->setChecked(group->actions().size() == command.firstChoice);
-        group->addAction(action);
-    }
-    if (command.name == ordersName) {
-        m_orders = group;
-        m_ownOrder = group->checkedAction();
-        connect(group, &QActionGroup::triggered, this, [this](QAction *order) { m_ownOrder = order; });
-    }
-}
-
-QAction *ListScreen::addCommand(QMenu *menu, const ListCommand &command)
-{
-    auto *action = new QAction(command.caption, menu);
-    if (!command.hidden)
-        menu->addAction(action);
-    action->setObjectName(command.name);
-    action->setShortcut(command.shortcut);
-    action->setCheckable(command.checkable);
-    setGlyph(*action, command.glyph);
-    action->setEnabled(command.run != nullptr);
-    if (!command.run)
-        action->setToolTip(tr("Not available in this version"));
-    else if (command.available)
-        m_available.append({action, command.available});
-    connect(action, &QAction::triggered, this, [this, run = command.run] { runCommand(run); });
-    return action;
-}
-
 void ListScreen::addButton(const ListButton &button)
 {
     QAction *action = command(button.command);
@@ -202,33 +145,6 @@ void ListScreen::addButton(const ListButton &button)
     m_buttons->insertWidget(m_buttons->count() - 1, shown);
 }
 
-void ListScreen::addPopup(const ListCommand &command, QAction *action)
-{
-    if (command.popupCaption.isEmpty())
-        return;
-    auto *entry = new QAction(command.popupCaption, m_grid);
-    setGlyph(*entry, command.glyph);
-    entry->setEnabled(action->isEnabled());
-    connect(action, &QAction::enabledChanged, entry, &QAction::setEnabled);
-    connect(entry, &QAction::triggered, action, &QAction::trigger);
-    m_grid->addAction(entry);
-}
-
-// What every list offers comes after the screen's own entries.
-void ListScreen::finishPopup()
-{
-    QAction *copy = command(copyName);
-    if (!copy)
-        return;
-    copy->setShortcuts(QKeySequence::Copy);
-    if (!m_grid->actions().isEmpty()) {
-        auto *separator = new QAction(m_grid);
-        separator->setSeparator(true);
-        m_grid->addAction(separator);
-    }
-    m_grid->addAction(copy);
-}
-
 // By each column, for those who do not use the mouse: at the end of the menu that reads the list anew.
 void ListScreen::addSorting()
 {
@@ -238,7 +154,13 @@ void ListScreen::addSorting()
     auto *view = refresh ? qobject_cast<QMenu *>(refresh->parent()) : nullptr;
     if (!view)
         return;
-    QMenu *columns = addSubMenu(view, {.name = u"mnuSortByColumn"_s, .caption = tr("Sort by Column")});
+    if (const QAction *orders = command(ordersName)) {
+        m_orders = orders->menu()->actions().constFirst()->actionGroup();
+        m_ownOrder = m_orders->checkedAction();
+        connect(m_orders, &QActionGroup::triggered, this, [this](QAction *order) { m_ownOrder = order; });
+    }
+    QMenu *columns =
+        ListCommands::addSubMenu(*view, {.name = u"mnuSortByColumn"_s, .caption = tr("Sort by Column")});
     for (int column = 0; column < m_grid->columns().size(); ++column) {
         if (!m_sort->canSortBy(column))
             continue;
@@ -262,28 +184,6 @@ void ListScreen::showChosenOrder()
     m_orders->setExclusionPolicy(own ? QActionGroup::ExclusionPolicy::Exclusive
                                      : QActionGroup::ExclusionPolicy::ExclusiveOptional);
     m_ownOrder->setChecked(own);
-}
-
-void ListScreen::watchRecord()
-{
-    connect(m_data, &Engine::DataSet::currentChanged, this, &ListScreen::showAvailable);
-    connect(m_data, &Engine::DataSet::listChanged, this, &ListScreen::showAvailable);
-    connect(m_data, &Engine::DataSet::rowChanged, this, &ListScreen::showAvailable);
-    connect(m_grid->tableModel(), &QAbstractItemModel::rowsInserted, this, &ListScreen::showAvailable);
-    showAvailable();
-}
-
-// A long list that has just been opened is not read for this; its first record is asked when the rest is there. A
-// failure of the store is reported by the rows, which fail to show as well.
-void ListScreen::showAvailable()
-{
-    if (m_grid->tableModel()->isPartial() || !m_data->isOpen())
-        return;
-    for (const auto &[action, isAvailable] : std::as_const(m_available)) {
-        bool available = false;
-        const std::exception_ptr failure = Guard::attempt([&, &test = isAvailable] { available = test(); });
-        action->setEnabled(available && !failure);
-    }
 }
 
 void ListScreen::runCommand(const std::function<void()> &run)

@@ -1,16 +1,15 @@
 #pragma once
 
-#include "base/glyph.h"
 #include "base/listfilter.h"
 #include "controls/grids/listgrid.h"
 #include "controls/screens/commandscreen.h"
 #include "controls/screens/filterdialog.h"
+#include "controls/screens/listcommands.h"
 #include "controls/windows/guard.h"
 #include "controls/windows/screencontext.h"
 #include "data/tableowner.h"
 
 #include <functional>
-#include <QKeySequence>
 #include <QMainWindow>
 
 class QAction;
@@ -25,39 +24,6 @@ class ListOutput;
 class ListSort;
 class ListStatus;
 class WindowMemory;
-
-// One command of a list screen: an entry of a menu, and where wanted of the pop-up menu.
-struct ListCommand
-{
-    QString name; // component name of the menu's entry: "mnuFilter"
-    QString caption;
-    std::function<void()> run = {}; // empty: not available, shown disabled
-    Glyph glyph = Glyph::None; // in its menu and on its button
-    // Whether it can be used on the current record; asked whenever that changes. Empty: always.
-    std::function<bool()> available = {};
-    QKeySequence shortcut = {};
-    QString popupCaption = {}; // empty: not in the pop-up menu
-    bool checkable = false;
-    bool separatorBefore = false;
-    bool hidden = false; // not in the menu; its button and the pop-up menu lead to it
-    QList<ListCommand> entries = {}; // a sub-menu of commands; it runs nothing itself
-    QList<ListCommand> choices = {}; // a sub-menu of entries of which one is checked
-    int firstChoice = 0; // which of them is at the start
-};
-
-struct ListMenu
-{
-    QString caption;
-    QList<ListCommand> commands;
-};
-
-// A button that does what a command does.
-struct ListButton
-{
-    QString name;
-    QString caption;
-    QString command;
-};
 
 struct ListDescription
 {
@@ -149,20 +115,12 @@ private:
     QList<ListCommand> importCommands();
     void importFile(const QString &file);
     void layOut();
-    void addCommands(QMenu *menu, const QList<ListCommand> &commands);
-    static QMenu *addSubMenu(QMenu *menu, const ListCommand &command);
-    QAction *addCommand(QMenu *menu, const ListCommand &command);
-    void addChoices(QMenu *menu, const ListCommand &command);
     void addButton(const ListButton &button);
-    void addPopup(const ListCommand &command, QAction *action);
     void print(const QString &report);
     void runCommand(const std::function<void()> &run);
-    void finishPopup();
     void addSorting();
     void showChosenOrder();
-    void watchRecord();
     QList<ListMenu> withItemCard(QList<ListMenu> menus);
-    void showAvailable();
     FilterColumns filterColumns() const;
     QString filterWords() const;
     void clearFilterDialog();
@@ -190,7 +148,6 @@ private:
     FilterChoices m_filterChoices; // of a list that has a filter
     FilterDialog *m_filter = nullptr; // once it has been needed
     FilterChip *m_filterChip = nullptr; // likewise
-    QList<std::pair<QAction *, std::function<bool()>>> m_available; // commands that depend on the current record
     QSize m_firstSize;
 };
 
