@@ -1,9 +1,9 @@
 // Editing, inserting and deleting: what is written, what is refused, and what stays in hand then.
 
-#include "engine/store/lockmanager.h"
 #include "engine/store/tablelocks.h"
 #include "tests/engine/recordfixture.h"
 #include "tests/support/givenrules.h"
+#include "tests/support/madelayout.h"
 #include "tests/support/theirtable.h"
 
 #include <atomic>
@@ -40,7 +40,6 @@ TEST_P(RecordTest, PostsWhatWasSetAndNothingElse)
 TEST_P(RecordTest, ANewRecordTakesDefaultsNumberAndPlace)
 {
     addVendors();
-    Table documents(database(), u"Document"_s);
     documents.setIndex(u"VENDORID"_s);
     documents.open();
     GivenRules unposted;
@@ -69,8 +68,7 @@ TEST_P(RecordTest, ANewRecordTakesDefaultsNumberAndPlace)
     documents.insert();
     documents.next(); // untouched: dropped
     EXPECT_EQ(documents.recordCount(), 3);
-    documents.insert();
-    documents.set(u"VendorID", 9);
+    begin(documents, {{u"VendorID"_s, 9}});
     documents.first(); // touched: saved
     EXPECT_EQ(names(documents, u"VendorID"_s), u"1 2 3 9"_s);
 }
@@ -135,9 +133,7 @@ TEST_P(RecordTest, ARecordThatIsGoneIsToldAndNoOtherTakenInstead)
 // Such rows have no identity that stays: it is their key that finds them again.
 TEST_P(RecordTest, RowsWithAKeyOfTextAreChangedByTheirKey)
 {
-    database().createTable({u"Code"_s,
-                            {{u"Code"_s, FieldType::Text, 10}, {u"Name"_s, FieldType::Text, 20}},
-                            {{{}, u"Code"_s, IndexOption::Primary}}});
+    database().createTable(madeLayout(u"Code"_s, u"Code text 10, Name text 20"_s, u"Code primary"_s));
     store.execute(u"INSERT INTO Code (Code, Name) VALUES ('b', 'B'), ('d', 'D'), ('a', 'A')"_s);
     Table table(database(), u"Code"_s);
     table.open();
@@ -201,9 +197,8 @@ TEST_P(RecordTest, OfTwoThatSaveOneNumberAtOnceOneIsRefused)
                 Table table(me->database, u"Vendor"_s);
                 table.uniqueFields = {u"VendorNo"_s};
                 table.open();
-                table.insert();
-                table.set(u"VendorID", 100 + round * users + user);
-                table.set(u"VendorNo", u"R%1"_s.arg(round));
+                const int id = 100 + round * users + user;
+                begin(table, {{u"VendorID"_s, id}, {u"VendorNo"_s, u"R%1"_s.arg(round)}});
                 start.arrive_and_wait();
                 const auto error = errorOf([&] { table.post(); });
                 saved += error ? 0 : 1;
@@ -248,8 +243,7 @@ TEST_P(RecordTest, OnlyOneUserEditsARecord)
     auto whole = std::make_unique<Engine::TableLocks>(theirs.database());
     whole->take(theirs.name());
     EXPECT_EQ(errorOf([&] { vendors.edit(); }), ErrorCode::TableLocked);
-    vendors.insert();
-    vendors.set(u"VendorID", 50);
+    begin(vendors, {{u"VendorID"_s, 50}});
     EXPECT_EQ(errorOf([&] { vendors.post(); }), ErrorCode::TableLocked);
     vendors.cancel();
     EXPECT_EQ(errorOf([&] { vendors.removeAll(); }), ErrorCode::TableLocked);
@@ -267,7 +261,7 @@ TEST_P(RecordTest, WhatDiesWhileALockIsWaitedForIsToldAndTheRestWorks)
     std::unique_ptr<TestUser> anna;
     const auto hold = [&] {
         anna = store.anotherUser();
-        ASSERT_TRUE(anna->database.connection().locks().tryLockRecord(u"Vendor"_s, {1}));
+        ASSERT_TRUE(anna->locks().tryLockRecord(u"Vendor"_s, {1}));
     };
     const auto pause = [&](const std::function<void()> &death) {
         store.session().waitFor = [death](std::chrono::milliseconds time) {
@@ -309,8 +303,7 @@ TEST_P(RecordTest, OpensAsOthersAllow)
     vendors.close();
     theirs.open();
     EXPECT_EQ(errorOf([&] { vendors.open(); }), ErrorCode::TableInUse);
-    theirs.insert();
-    theirs.set(u"VendorID", 1);
+    begin(theirs, {{u"VendorID"_s, 1}});
     theirs.post();
     theirs.close();
     vendors.open();
@@ -322,7 +315,6 @@ TEST_P(RecordTest, OpensAsOthersAllow)
 TEST_P(RecordTest, DeletesTheRecordOrTheRowsOfTheSet)
 {
     addDocuments();
-    Table lines(database(), u"Line"_s);
     lines.open();
     lines.findKey({3, 2});
     lines.remove();

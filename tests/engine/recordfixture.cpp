@@ -1,44 +1,29 @@
 #include "tests/engine/recordfixture.h"
 
+#include "tests/support/madelayout.h"
+
 using namespace Engine;
 using namespace Qt::StringLiterals;
 
 TableLayout RecordTest::vendor()
 {
-    return {u"Vendor"_s,
-            {{u"VendorID"_s, FieldType::Integer, 0},
-             {u"VendorNo"_s, FieldType::Text, 10},
-             {u"VendorName"_s, FieldType::Text, 20},
-             {u"Balance"_s, FieldType::Money, 0},
-             {u"Discount"_s, FieldType::Float, 0},
-             {u"Suspended"_s, FieldType::Boolean, 0},
-             {u"Since"_s, FieldType::Date, 0},
-             {u"Days"_s, FieldType::SmallInt, 0},
-             {u"Notes"_s, FieldType::Memo, 0}},
-            {{u""_s, u"VendorID"_s, IndexOption::Primary},
-             {u"VENDORNO"_s, u"VendorNo"_s, IndexOption::None},
-             {u"VENDORNAME1"_s, u"VendorName"_s, IndexOption::CaseInsensitive},
-             {u"SINCE"_s, u"Since;VendorID"_s, IndexOption::Descending}}};
+    return madeLayout(u"Vendor"_s,
+                      u"VendorID integer, VendorNo text 10, VendorName text 20, Balance money, Discount float, "
+                      "Suspended boolean, Since date, Days small, Notes memo"_s,
+                      u"VendorID primary, VENDORNO VendorNo, VENDORNAME1 VendorName folded, "
+                      "SINCE Since;VendorID descending"_s);
 }
 
 TableLayout RecordTest::document()
 {
-    return {u"Document"_s,
-            {{u"DocumentID"_s, FieldType::AutoInc, 0},
-             {u"VendorID"_s, FieldType::Integer, 0},
-             {u"Posted"_s, FieldType::Boolean, 0}},
-            {{u""_s, u"DocumentID"_s, IndexOption::Primary}, {u"VENDORID"_s, u"VendorID"_s, IndexOption::None}}};
+    return madeLayout(u"Document"_s, u"DocumentID counted, VendorID integer, Posted boolean"_s,
+                      u"DocumentID primary, VENDORID VendorID"_s);
 }
 
 TableLayout RecordTest::line()
 {
-    return {u"Line"_s,
-            {{u"DocumentID"_s, FieldType::Integer, 0},
-             {u"Seq"_s, FieldType::SmallInt, 0},
-             {u"Quantity"_s, FieldType::Float, 0},
-             {u"Text"_s, FieldType::Text, 10}},
-            {{u""_s, u"DocumentID;Seq"_s, IndexOption::Primary},
-             {u"DOCUMENTID"_s, u"DocumentID"_s, IndexOption::None}}};
+    return madeLayout(u"Line"_s, u"DocumentID integer, Seq small, Quantity float, Text text 10"_s,
+                      u"DocumentID;Seq primary, DOCUMENTID DocumentID"_s);
 }
 
 void RecordTest::addVendors()

@@ -33,6 +33,19 @@ struct RecordTest : testing::TestWithParam<Store>
     // Documents 1 to 3, of 1, 2 and 3 lines; seq from 1, quantity = document * 10 + seq.
     void addDocuments();
     QString names(Engine::DataSet &set, const QString &field); // of all rows, joined by blanks
+    // Where a set stands: "6 at 2 of 9", the key of its record, the place of it, and how many there are.
+    static QString placeIn(const Engine::DataSet &set)
+    {
+        const int index = set.recordIndex(); // asked first: a record that was saved may leave the set by that
+        return QStringLiteral("%1 at %2 of %3").arg(set.value(0).toInt()).arg(index).arg(set.recordCount());
+    }
+    // A new record with these values, to be saved.
+    static void begin(Engine::Table &table, const QList<std::pair<QString, Engine::Value>> &values)
+    {
+        table.insert();
+        for (const auto &[field, value] : values)
+            table.set(field, value);
+    }
     static void change(Engine::Table &table, QStringView field, const Engine::Value &value)
     {
         table.edit();
@@ -41,5 +54,8 @@ struct RecordTest : testing::TestWithParam<Store>
     }
 
     TestStore store{GetParam()};
-    Engine::Table vendors{store.database(), QStringLiteral("Vendor")}; // to be opened
+    // To be opened.
+    Engine::Table vendors{store.database(), QStringLiteral("Vendor")};
+    Engine::Table documents{store.database(), QStringLiteral("Document")};
+    Engine::Table lines{store.database(), QStringLiteral("Line")};
 };

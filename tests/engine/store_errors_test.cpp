@@ -28,7 +28,7 @@ TEST(LocalFailures, WhatCannotBeOpenedIsNamed)
     };
     for (const auto &[directory, code, named] : cases) {
         TestUser user(QStringList{u"local"_s, directory});
-        EXPECT_TRUE(fails([&] { user.database.connection(); }, code, named));
+        EXPECT_TRUE(fails([&] { user.connection(); }, code, named));
         EXPECT_FALSE(user.database.isOpen());
     }
     EXPECT_FALSE(QFile::exists(folder.filePath(u"Corvane.sqlite"_s))) << "asking made no file";
@@ -37,7 +37,7 @@ TEST(LocalFailures, WhatCannotBeOpenedIsNamed)
 TEST(LocalFailures, AFullDiskUndoesTheTransactionAndSaysSo)
 {
     TestStore store(Store::Local);
-    Connection &connection = store.database().connection();
+    Connection &connection = store.connection();
     store.execute(u"CREATE TABLE T (a INTEGER PRIMARY KEY, b TEXT); INSERT INTO T VALUES (1, 'kept'); "
                   "PRAGMA max_page_count = 100; PRAGMA cache_size = 10"_s); // writes before the commit
     const auto fill = [&] {
@@ -66,8 +66,7 @@ TEST(LocalFailures, WhatCannotBeWrittenIsRefused)
     for (const char *name : {"/Corvane.sqlite", "/Corvane.lck"}) {
         chmod((folder + name).constData(), 0444);
         EXPECT_EQ(seteuid(me == 0 ? nobody : me), 0);
-        EXPECT_TRUE(
-            fails([&] { store.anotherUser()->database.connection(); }, ErrorCode::ReadOnly, store.directory()));
+        EXPECT_TRUE(fails([&] { store.anotherUser()->connection(); }, ErrorCode::ReadOnly, store.directory()));
         EXPECT_EQ(seteuid(me), 0);
         chmod((folder + name).constData(), 0666);
     }
@@ -98,7 +97,7 @@ TEST(RemoteFailures, WhatCannotBeReachedIsNamed)
         user.session.remotePassword = password;
         user.session.remoteLink = link;
         QString message;
-        EXPECT_EQ(errorOf([&] { user.database.connection(); }, &message), code) << message.toStdString();
+        EXPECT_EQ(errorOf([&] { user.connection(); }, &message), code) << message.toStdString();
         EXPECT_TRUE(message.contains(named) && !message.contains(u"secret"_s)) << message.toStdString();
     }
 }
@@ -107,16 +106,15 @@ TEST(RemoteFailures, AnotherAccountIsChosenByTheClientLibrarysOwnMeans)
 {
     TestStore store(Store::Remote);
     const QTemporaryDir folder;
-    const auto file = [&folder](const char *name, const QByteArray &text) {
-        QFile made(folder.filePath(QString::fromLatin1(name)));
-        EXPECT_TRUE(made.open(QIODevice::WriteOnly) && made.write(text) == text.size());
-        made.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-        return made.fileName().toUtf8();
+    const auto file = [&folder](const QString &name, const QByteArray &text) {
+        putContent(folder.filePath(name), text);
+        QFile::setPermissions(folder.filePath(name), QFile::ReadOwner | QFile::WriteOwner);
+        return folder.filePath(name).toUtf8();
     };
-    const QByteArray services = file("services",
+    const QByteArray services = file(u"services"_s,
                                      "[right]\nuser=postgres\npassword=zorvadin\n"
                                      "[wrong]\nuser=postgres\npassword=secret\n");
-    const QByteArray passwords = file("passwords", "*:*:*:postgres:zorvadin\n");
+    const QByteArray passwords = file(u"passwords"_s, "*:*:*:postgres:zorvadin\n");
     using Variables = std::vector<std::pair<const char *, QByteArray>>;
     const std::pair<Variables, bool> cases[] = {
         {{{"PGSERVICEFILE", services}, {"PGSERVICE", "right"}}, true},
@@ -130,9 +128,10 @@ TEST(RemoteFailures, AnotherAccountIsChosenByTheClientLibrarysOwnMeans)
             qputenv(name, value);
         const auto other = store.anotherUser();
         QString message;
-        const auto error =
-            errorOf([&] { EXPECT_EQ(rowsOf(other->database, u"SELECT current_user"_s).join(u' '), u"postgres"); },
-                    &message);
+        const auto ask = [&] {
+            EXPECT_EQ(rowsOf(other->database, u"SELECT current_user"_s).join(u' '), u"postgres");
+        };
+        const auto error = errorOf(ask, &message);
         EXPECT_EQ(error, isRight ? std::nullopt : std::optional(ErrorCode::AccessDenied)) << message.toStdString();
         EXPECT_FALSE(message.contains(u"secret"_s)) << message.toStdString();
         for (const auto &[name, value] : variables)
@@ -144,8 +143,7 @@ TEST(RemoteFailures, SomebodysLockIsWaitedForWithinBoundsAndItsHolderNamed)
 {
     TestStore store(Store::Remote);
     store.execute(u"CREATE TABLE T (a integer PRIMARY KEY, b integer); INSERT INTO T VALUES (1, 0)"_s);
-    const auto anna = store.anotherUser(u"anna"_s);
-    Connection &annas = anna->database.connection();
+    const auto anna = store.anotherUser();
     const QString table = u"LOCK TABLE T"_s, row = u"UPDATE T SET b = 1"_s;
     const std::pair<QString, std::function<void()>> cases[] = {
         {table, [&] { store.rows(u"SELECT b FROM T"_s); }},
@@ -154,21 +152,21 @@ TEST(RemoteFailures, SomebodysLockIsWaitedForWithinBoundsAndItsHolderNamed)
         {row,
          [&] {
              GroupedWrites writes(store.database());
-             const StatementPtr update = store.database().connection().prepare(u"UPDATE T SET b = b + 10"_s);
+             const StatementPtr update = store.connection().prepare(u"UPDATE T SET b = b + 10"_s);
              writes.apply([&](Writes &sink) { sink.send(*update); });
              writes.finish();
          }},
     };
     for (const auto &[held, waiting] : cases) {
         SCOPED_TRACE(qPrintable(held));
-        annas.execute(u"BEGIN; "_s + held);
+        anna->execute(u"BEGIN; "_s + held);
         int pauses = 0;
         store.session().waitFor = [&](std::chrono::milliseconds) { ++pauses; };
         EXPECT_TRUE(fails(waiting, ErrorCode::Busy, u"anna on"_s));
         EXPECT_GE(pauses, 1) << "a screen would have stood still";
-        EXPECT_FALSE(store.database().connection().inTransaction());
+        EXPECT_FALSE(store.connection().inTransaction());
 
-        store.session().waitFor = [&](std::chrono::milliseconds) { annas.execute(u"ROLLBACK"_s); };
+        store.session().waitFor = [&](std::chrono::milliseconds) { anna->execute(u"ROLLBACK"_s); };
         const int attempts = std::exchange(store.session().lockAttempts, 1200); // however slow the server is
         EXPECT_FALSE(errorOf(waiting));
         store.session().lockAttempts = attempts;
@@ -184,17 +182,16 @@ TEST(RemoteFailures, AGroupIsCommittedUpToItsStepBeforeSomebodyIsAskedAboutALock
         TestStore store(Store::Remote);
         store.execute(u"CREATE TABLE T (a integer PRIMARY KEY); INSERT INTO T VALUES (1)"_s);
         store.session().lockAttempts = 1;
-        const auto anna = store.anotherUser(u"anna"_s);
-        Connection &annas = anna->database.connection();
-        Connection &connection = store.database().connection();
-        annas.execute(u"BEGIN; UPDATE T SET a = a"_s);
+        const auto anna = store.anotherUser();
+        Connection &connection = store.connection();
+        anna->execute(u"BEGIN; UPDATE T SET a = a"_s);
         int asked = 0;
         GroupedWrites writes(store.database(), {}, [&](const EngineError &) {
             ++asked;
             EXPECT_FALSE(connection.inTransaction()) << "others wait as long as the question stands";
             EXPECT_EQ(store.found(u"SELECT a FROM T ORDER BY a"_s), u"1 10");
             if (goesOn)
-                annas.execute(u"ROLLBACK"_s);
+                anna->execute(u"ROLLBACK"_s);
             return goesOn;
         });
         const auto step = [&](const QString &first, const QString &second) {
@@ -219,14 +216,13 @@ TEST(RemoteFailures, ATableThatAStrangerWritesToIsNotLocked)
 {
     TestStore store(Store::Remote);
     store.execute(u"CREATE TABLE T (a integer)"_s);
-    const auto anna = store.anotherUser(u"anna"_s);
-    Connection &annas = anna->database.connection();
-    LockManager &locks = store.database().connection().locks();
-    annas.execute(u"BEGIN; INSERT INTO T VALUES (1)"_s);
+    const auto anna = store.anotherUser();
+    LockManager &locks = store.locks();
+    anna->execute(u"BEGIN; INSERT INTO T VALUES (1)"_s);
     EXPECT_FALSE(locks.tryLockTable(u"T"_s));
     ASSERT_TRUE(locks.ownerOf(u"T"_s));
     EXPECT_EQ(locks.ownerOf(u"T"_s)->user, u"anna"_s);
-    annas.execute(u"COMMIT; BEGIN; SELECT * FROM T"_s);
+    anna->execute(u"COMMIT; BEGIN; SELECT * FROM T"_s);
     EXPECT_TRUE(locks.tryLockTable(u"T"_s)) << "readers are not in the way";
 }
 
@@ -235,32 +231,27 @@ namespace {
 struct ConnectionLostTest : testing::Test
 {
     TestStore store{Store::Remote};
-    Connection &connection = store.database().connection();
+    Connection &connection = store.connection();
 
     void SetUp() override { store.execute(u"CREATE TABLE T (a integer)"_s); }
     void cut() { store.anotherUser(u"keeper"_s)->endOtherSessions(u"maria"_s); }
-    qint64 count()
-    {
-        const StatementPtr statement = connection.prepare(u"SELECT count(*) FROM T"_s);
-        return statement->next() ? statement->intAt(0) : -1;
-    }
+    QString count() { return store.found(u"SELECT count(*) FROM T"_s); }
 };
 
 } // namespace
 
 TEST_F(ConnectionLostTest, TheNextUseConnectsAgain)
 {
-    EXPECT_EQ(count(), 0);
+    EXPECT_EQ(count(), u"0"_s);
     ASSERT_TRUE(connection.locks().tryOpenShared(u"T"_s));
     cut();
     EXPECT_TRUE(connection.hasEnded());
-    EXPECT_EQ(count(), 0) << "with the statement prepared before";
+    EXPECT_EQ(count(), u"0"_s) << "with the statement prepared before";
     cut();
-    EXPECT_TRUE(
-        fails([&] { store.execute(u"INSERT INTO T VALUES (1)"_s); }, ErrorCode::ConnectionLost, u"127.0.0.1"_s));
-    EXPECT_EQ(count(), 0);
-    const auto other = store.anotherUser();
-    EXPECT_FALSE(other->database.connection().locks().tryOpenExclusive(u"T"_s)) << "the table is open as before";
+    const auto insert = [this] { store.execute(u"INSERT INTO T VALUES (1)"_s); };
+    EXPECT_TRUE(fails(insert, ErrorCode::ConnectionLost, u"127.0.0.1"_s));
+    EXPECT_EQ(count(), u"0"_s);
+    EXPECT_FALSE(store.anotherUser()->locks().tryOpenExclusive(u"T"_s)) << "the table is open as before";
 }
 
 TEST_F(ConnectionLostTest, NothingIsWrittenOutsideTheLostTransaction)
@@ -277,14 +268,14 @@ TEST_F(ConnectionLostTest, NothingIsWrittenOutsideTheLostTransaction)
         }
         errorOf([&] { transaction.commit(); }); // which may say again that it is lost
     }
-    EXPECT_EQ(count(), 0);
+    EXPECT_EQ(count(), u"0"_s);
     {
         GroupedWrites writes(store.database());
         writes.apply([&](Writes &sink) { sink.send(*connection.prepare(u"INSERT INTO T VALUES (4)"_s)); });
         cut();
         EXPECT_EQ(errorOf([&] { writes.finish(); }), ErrorCode::ConnectionLost);
     }
-    EXPECT_EQ(count(), 0);
+    EXPECT_EQ(count(), u"0"_s);
 }
 
 TEST_F(ConnectionLostTest, LostRecordLocksAreNotBelievedIn)
@@ -294,23 +285,20 @@ TEST_F(ConnectionLostTest, LostRecordLocksAreNotBelievedIn)
     for (int i = 0; i < 2; ++i)
         EXPECT_EQ(errorOf([&] { count(); }), ErrorCode::ConnectionLost);
     connection.locks().unlockRecord(u"T"_s, {1});
-    EXPECT_EQ(count(), 0);
+    EXPECT_EQ(count(), u"0"_s);
     EXPECT_TRUE(connection.locks().tryLockRecord(u"T"_s, {1}));
 }
 
 TEST_F(ConnectionLostTest, AnEditIsSavedUnlessSomebodyHasBeenAtTheRecord)
 {
-    store.database().createTable({u"R"_s,
-                                  {{u"ID"_s, FieldType::Integer, 0}, {u"B"_s, FieldType::Integer, 0}},
-                                  {{u""_s, u"ID"_s, IndexOption::Primary}}});
+    store.database().createTable(madeLayout(u"R"_s, u"ID integer, B integer"_s, u"ID primary"_s));
     store.execute(u"INSERT INTO R VALUES (1, 0), (2, 0)"_s);
     store.session().lockAttempts = 1;
-    const auto anna = store.anotherUser(u"anna"_s);
-    const auto annas = [&](const char *sql) { anna->database.connection().execute(QString::fromLatin1(sql)); };
+    const auto anna = store.anotherUser();
     const auto holds = [&](const QList<qint64> &key) {
-        const bool free = anna->database.connection().locks().tryLockRecord(u"R"_s, key);
+        const bool free = anna->locks().tryLockRecord(u"R"_s, key);
         if (free)
-            anna->database.connection().locks().unlockRecord(u"R"_s, key);
+            anna->locks().unlockRecord(u"R"_s, key);
         return !free;
     };
     Table one(store.database(), u"R"_s);
@@ -336,15 +324,15 @@ TEST_F(ConnectionLostTest, AnEditIsSavedUnlessSomebodyHasBeenAtTheRecord)
     EXPECT_EQ(store.found(u"SELECT B FROM R ORDER BY ID"_s), u"1 9");
 
     beginBoth();
-    annas("UPDATE R SET B = 50 WHERE ID = 1");
+    anna->execute(u"UPDATE R SET B = 50 WHERE ID = 1"_s);
     for (int i = 0; i < 2; ++i)
         EXPECT_EQ(errorOf([&] { one.post(); }), ErrorCode::RecordChanged);
     EXPECT_FALSE(holds({1}));
     beginBoth();
-    ASSERT_TRUE(anna->database.connection().locks().tryLockRecord(u"R"_s, {1}));
+    ASSERT_TRUE(anna->locks().tryLockRecord(u"R"_s, {1}));
     EXPECT_EQ(errorOf([&] { one.post(); }), ErrorCode::RecordLocked);
-    anna->database.connection().locks().unlockRecord(u"R"_s, {1});
-    annas("DELETE FROM R WHERE ID = 1");
+    anna->locks().unlockRecord(u"R"_s, {1});
+    anna->execute(u"DELETE FROM R WHERE ID = 1"_s);
     EXPECT_EQ(errorOf([&] { one.post(); }), ErrorCode::RecordGone);
     EXPECT_EQ(store.found(u"SELECT ID, B FROM R"_s), u"2|9");
 }
@@ -355,7 +343,7 @@ struct BehindARelay : ConnectionLostTest
 {
     const QByteArray port = qgetenv("PGPORT");
     Relay relay{port.toInt()};
-    std::unique_ptr<TestUser> anna = store.anotherUser(u"anna"_s);
+    std::unique_ptr<TestUser> anna = store.anotherUser();
 
     BehindARelay()
     {
@@ -375,7 +363,7 @@ struct BehindARelay : ConnectionLostTest
 // What windows ask of the connection meanwhile is refused, and changes nothing of what is under way.
 TEST_F(BehindARelay, ASilentServerIsWaitedForWithoutStandingStill)
 {
-    Connection &annas = anna->database.connection();
+    Connection &annas = anna->connection();
     QString told;
     anna->session.serverChanged = [&](bool isThere) { told += isThere ? u" there"_s : u" gone"_s; };
     const StatementPtr first = annas.prepare(u"SELECT 1"_s);
@@ -400,19 +388,19 @@ TEST_F(BehindARelay, ASilentServerIsWaitedForWithoutStandingStill)
 TEST_F(BehindARelay, ACommitWhoseAnswerIsLostIsLookedUp)
 {
     anna->session.answerWait = std::chrono::seconds(1);
-    Connection &annas = anna->database.connection();
-    const auto insertion = [&](Relay::Then then, const QString &word) {
-        relay.when(word.toUtf8(), then);
-        anna->database.change([&] { annas.execute(u"INSERT INTO T VALUES (7)"_s); });
-    };
-    EXPECT_EQ(errorOf([&] { insertion(Relay::Then::LoseTheAnswer, u"COMMIT"_s); }), std::nullopt);
-    EXPECT_EQ(count(), 1) << "once";
-    EXPECT_EQ(errorOf([&] { insertion(Relay::Then::LoseTheWord, u"COMMIT"_s); }), ErrorCode::ConnectionLost);
-    EXPECT_EQ(errorOf([&] { insertion(Relay::Then::LoseTheAnswer, u"INSERT INTO T"_s); }),
-              ErrorCode::ConnectionLost);
-    EXPECT_EQ(count(), 1);
-    EXPECT_EQ(errorOf([&] { insertion(Relay::Then::LoseTheAnswerAndStop, u"COMMIT"_s); }), ErrorCode::AnswerLost);
-    EXPECT_EQ(count(), 2);
+    anna->connection();
+    const std::tuple<Relay::Then, QByteArray, std::optional<ErrorCode>, QString> cases[] = {
+        // and the rows then
+        {Relay::Then::LoseTheAnswer, "COMMIT", std::nullopt, u"1"_s},
+        {Relay::Then::LoseTheWord, "COMMIT", ErrorCode::ConnectionLost, u"1"_s},
+        {Relay::Then::LoseTheAnswer, "INSERT INTO T", ErrorCode::ConnectionLost, u"1"_s},
+        {Relay::Then::LoseTheAnswerAndStop, "COMMIT", ErrorCode::AnswerLost, u"2"_s}};
+    for (const auto &[then, word, error, rows] : cases) {
+        relay.when(word, then);
+        const auto insert = [this] { anna->execute(u"INSERT INTO T VALUES (7)"_s); };
+        EXPECT_EQ(errorOf([&] { anna->database.change(insert); }), error);
+        EXPECT_EQ(count(), rows);
+    }
 }
 
 TEST_F(ConnectionLostTest, ReadingStopsWithAnError)
@@ -425,5 +413,5 @@ TEST_F(ConnectionLostTest, ReadingStopsWithAnError)
                   while (rows->next()) { }
               }),
               ErrorCode::ConnectionLost);
-    EXPECT_EQ(count(), 300000);
+    EXPECT_EQ(count(), u"300000"_s);
 }

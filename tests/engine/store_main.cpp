@@ -1,4 +1,3 @@
-#include "engine/store/lockmanager.h"
 #include "engine/values/error.h"
 #include "tests/support/otheruser.h"
 

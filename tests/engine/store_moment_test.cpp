@@ -16,14 +16,10 @@ struct Moments : StoreTest
     void SetUp() override
     {
         database.createTable(everyType());
-        QStringList values;
-        for (int id = 1; id <= rows; ++id)
-            values << u"(%1, 1, %2)"_s.arg(id).arg(id % 2 == 0 ? u"true"_s : u"false"_s);
-        store.execute("INSERT INTO Sample (SampleID, Quantity, Posted) VALUES "_L1 + values.join(", "_L1));
+        store.fill(u"Sample (SampleID, Quantity, Posted)"_s, u"i, 1, i % 2 = 0"_s, rows);
     }
 
     std::unique_ptr<TestUser> anna = store.anotherUser();
-    void annaWrites(const QString &script) { anna->database.connection().execute(script); }
 };
 ON_BOTH_STORES(Moments);
 
@@ -34,7 +30,7 @@ TEST_P(Moments, ShowWhatTheStoreHeldThenAndTakeNoWrites)
 {
     ReadMoment moment(database);
     EXPECT_FALSE(moment.keepsWritersOut());
-    annaWrites(change);
+    anna->execute(change);
     database.change([&] { store.execute(u"UPDATE Sample SET Quantity = 3"_s); });
 
     EXPECT_EQ(rowsOf(moment.database(), total), QStringList{u"600|600"_s});
@@ -52,11 +48,11 @@ TEST_P(Moments, AWalkGivesTheSetAsItStandsThen)
                         [](const DataSet &row) { return Value(2 * row.number(u"Quantity")); });
     table.open();
     table.moveTo(table.recordCount() - 1);
-    annaWrites(u"INSERT INTO Sample (SampleID, Quantity, Posted) VALUES (1000, 1, true)"_s);
+    anna->execute(u"INSERT INTO Sample (SampleID, Quantity, Posted) VALUES (1000, 1, true)"_s);
 
     ReadMoment moment(database);
     RowWalk walk(table, moment);
-    annaWrites(change);
+    anna->execute(change);
     EXPECT_EQ(walk.count(), rows / 2 + 1);
     QList<qint64> keys;
     double sum = 0;

@@ -1,6 +1,7 @@
 #include "engine/records/table.h"
 #include "engine/store/readmoment.h"
 #include "tests/support/failures.h"
+#include "tests/support/madelayout.h"
 #include "tests/support/teststore.h"
 
 #include <QFile>
@@ -17,22 +18,18 @@ namespace {
 
 struct NetworkFolder : testing::Test
 {
-    struct Network
-    {
-        Network() { qputenv("TALLYMERE_TEST_NETWORK", "1"); }
-        ~Network() { qunsetenv("TALLYMERE_TEST_NETWORK"); }
-    } network;
+    const bool isFar = qputenv("TALLYMERE_TEST_NETWORK", "1"); // until it has been taken down
     TestStore store{Store::Local}; // a new database
-    Connection &connection = store.database().connection();
+    Connection &connection = store.connection();
     QFile file{store.directory() + u'/' + store.database().name() + ".sqlite"_L1};
 
+    ~NetworkFolder() override { qunsetenv("TALLYMERE_TEST_NETWORK"); }
     void SetUp() override
     {
         ASSERT_EQ(store.rows(u"PRAGMA journal_mode"_s), QStringList{u"delete"_s});
         connection.execute(u"PRAGMA busy_timeout = 0"_s);
-        store.database().createTable({u"Note"_s,
-                                      {{u"Number"_s, FieldType::AutoInc, 0}, {u"Words"_s, FieldType::Text, 20}},
-                                      {{u""_s, u"Number"_s, IndexOption::Primary}}});
+        store.database().createTable(
+            madeLayout(u"Note"_s, u"Number counted, Words text 20"_s, u"Number primary"_s));
         ASSERT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
     }
     QByteArray contentOfFile() { return file.seek(0) ? file.readAll() : QByteArray(); }
@@ -53,8 +50,8 @@ TEST_F(NetworkFolder, WhatAnotherUserTakesBackIsNoReplacement)
     write(u"one"_s);
     const auto reader = store.anotherUser();
     const auto other = store.anotherUser();
-    other->database.connection();
-    reader->database.connection().execute(u"BEGIN; SELECT * FROM Note"_s);
+    other->connection();
+    reader->execute(u"BEGIN; SELECT * FROM Note"_s);
     connection.begin();
     connection.execute(u"INSERT INTO Note (Words) VALUES ('taken back')"_s);
     ASSERT_EQ(errorOf([&] { connection.commit(); }), ErrorCode::Busy);
@@ -62,11 +59,11 @@ TEST_F(NetworkFolder, WhatAnotherUserTakesBackIsNoReplacement)
     QByteArray raised = header;
     qToBigEndian(store.rows(u"PRAGMA user_version"_s).first().toInt(), raised.data() + stampPlace);
     putContent(raised); // as in the middle of the commit
-    other->database.connection().execute(u"SELECT 1"_s); // looks at the file
+    other->execute(u"SELECT 1"_s); // looks at the file
     putContent(header);
     connection.rollback();
-    reader->database.connection().execute(u"COMMIT"_s);
-    other->database.connection().execute(u"INSERT INTO Note (Words) VALUES ('two')"_s);
+    reader->execute(u"COMMIT"_s);
+    other->execute(u"INSERT INTO Note (Words) VALUES ('two')"_s);
     EXPECT_EQ(store.found(u"SELECT Words FROM Note"_s), u"one two");
 }
 
@@ -74,11 +71,11 @@ TEST_F(NetworkFolder, WhatAnotherUserTakesBackIsNoReplacement)
 TEST_F(NetworkFolder, AnEarlierContentIsNoticedByBothUsers)
 {
     const auto anna = store.anotherUser();
-    anna->database.connection();
+    anna->connection();
     const QByteArray earlier = contentOfFile();
     write(u"one"_s);
     putContent(earlier);
-    for (Connection *user : {&connection, &anna->database.connection()})
+    for (Connection *user : {&connection, &anna->connection()})
         EXPECT_EQ(errorOf([&] { user->execute(u"SELECT 1"_s); }), ErrorCode::FileReplaced);
 }
 
@@ -89,9 +86,9 @@ TEST_F(NetworkFolder, ANumberThatSomebodyElseTookMeanwhileIsCountedAnew)
     notes.insert();
     notes.set(u"Words"_s, u"mine"_s);
     const auto anna = store.anotherUser();
-    anna->database.connection().execute(u"BEGIN; SELECT * FROM Note"_s); // a reader keeps the commit waiting
+    anna->execute(u"BEGIN; SELECT * FROM Note"_s); // a reader keeps the commit waiting
     EXPECT_EQ(errorOf([&] { notes.post(); }), ErrorCode::Busy);
-    anna->database.connection().execute(u"INSERT INTO Note (Words) VALUES ('theirs'); COMMIT"_s);
+    anna->execute(u"INSERT INTO Note (Words) VALUES ('theirs'); COMMIT"_s);
     notes.post();
     EXPECT_EQ(notes.integer(u"Number"_s), 2);
     EXPECT_EQ(store.found(u"SELECT Number, Words FROM Note"_s), u"1|theirs 2|mine");

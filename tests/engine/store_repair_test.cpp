@@ -7,20 +7,10 @@ using namespace Engine;
 
 namespace {
 
-TableLayout numbered()
-{
-    return {
-        u"IHist"_s,
-        {{u"IHistID"_s, FieldType::AutoInc}, {u"ItemID"_s, FieldType::Integer}, {u"Text"_s, FieldType::Text, 200}},
-        {{QString(), u"IHistID"_s, IndexOption::Primary}, {u"ITEMID"_s, u"ItemID"_s, IndexOption::None}}};
-}
-
-TableLayout paired()
-{
-    return {u"IBalance"_s,
-            {{u"ItemID"_s, FieldType::Integer}, {u"Text"_s, FieldType::Text, 200}, {u"WhID"_s, FieldType::Integer}},
-            {{QString(), u"ItemID;WhID"_s, IndexOption::Primary}, {u"WHID"_s, u"WhID"_s, IndexOption::None}}};
-}
+const TableLayout numbered = madeLayout(u"IHist"_s, u"IHistID counted, ItemID integer, Text text 200"_s,
+                                        u"IHistID primary, ITEMID ItemID"_s);
+const TableLayout paired = madeLayout(u"IBalance"_s, u"ItemID integer, Text text 200, WhID integer"_s,
+                                      u"ItemID;WhID primary, WHID WhID"_s);
 
 constexpr int rowCount = 3000;
 
@@ -33,28 +23,22 @@ void fill(TestStore &store, const TableLayout &layout)
         columns << (field.type == FieldType::Text ? u"'a row of some length, with the number ' || i"_s
                         : columns.isEmpty()       ? u"i"_s
                                                   : u"i % 7"_s);
-    store.execute(
-        u"INSERT INTO %1 WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %2) SELECT %3 "
-        "FROM n"_s,
-        layout.name, QString::number(rowCount), columns.join(u", "_s));
+    store.fill(layout.name, columns.join(u", "_s), rowCount);
 }
 
 // With a look at every text.
 int count(TestStore &store, const TableLayout &layout)
 {
-    return store.rows("SELECT count(*), sum(length(Text)) FROM "_L1 + layout.name)
-        .value(0)
-        .section(u'|', 0, 0)
-        .toInt();
+    return store.found("SELECT count(*), sum(length(Text)) FROM "_L1 + layout.name).section(u'|', 0, 0).toInt();
 }
 
 } // namespace
 
 TEST(Repair, RowsOfSoundPagesAreKept)
 {
-    TableLayout withoutIndexes = numbered();
+    TableLayout withoutIndexes = numbered;
     withoutIndexes.indexes.removeLast();
-    for (const TableLayout &layout : {numbered(), paired(), withoutIndexes}) {
+    for (const TableLayout &layout : {numbered, paired, withoutIndexes}) {
         SCOPED_TRACE(layout.name.toStdString());
         TestStore store(Store::Local);
         fill(store, layout);
@@ -68,14 +52,14 @@ TEST(Repair, RowsOfSoundPagesAreKept)
         if (layout.fields[0].type != FieldType::AutoInc)
             continue;
         store.execute(u"DELETE FROM IHist WHERE IHistID = %1; INSERT INTO IHist (ItemID) VALUES (1)"_s, rowCount);
-        EXPECT_EQ(store.database().connection().lastInsertId(), rowCount + 1);
+        EXPECT_EQ(store.connection().lastInsertId(), rowCount + 1);
     }
 }
 
 TEST(Repair, RowsOfSoundPagesOfAServerAreKept)
 {
     TestStore store(Store::Remote);
-    TableLayout layout = paired();
+    TableLayout layout = paired;
     layout.indexes.clear();
     fill(store, layout);
     const int lost =
@@ -102,9 +86,9 @@ TEST(Repair, ASoundTableStaysAsItIs)
 {
     for (const Store kind : {Store::Local, Store::Remote}) {
         TestStore store(kind);
-        fill(store, paired());
+        fill(store, paired);
         EXPECT_EQ(store.database().repairTable(u"IBalance"_s), 0);
-        EXPECT_EQ(count(store, paired()), rowCount);
+        EXPECT_EQ(count(store, paired), rowCount);
         EXPECT_EQ(errorOf([&] { store.database().repairTable(u"Missing"_s); }), ErrorCode::NoSuchTable);
     }
 }

@@ -8,47 +8,22 @@ namespace {
 
 using SchemaTest = StoreTest;
 
-const IndexDef primaryOver(const QString &fields, IndexOptions more = IndexOption::None)
-{
-    return {QString(), fields, IndexOption::Primary | more};
-}
-
-QList<TableLayout> layouts()
-{
-    TableLayout sample = everyType();
-    sample.indexes += {{u"NAME1"_s, u"Name"_s, IndexOption::CaseInsensitive},
-                       {u"USER"_s, u"User;Name"_s, IndexOption::CaseInsensitive},
-                       {u"BYDAY"_s, u"Day;SampleID"_s, IndexOption::Descending},
-                       {u"MIXED"_s, u"Small;Name"_s, IndexOption::CaseInsensitive | IndexOption::Descending},
-                       {u"COST"_s, u"Cost"_s, IndexOption::None}};
-    return {
-        sample,
-        {u"VContact"_s,
-         {{u"VendorID"_s, FieldType::Integer},
-          {u"ContactID"_s, FieldType::AutoInc},
-          {u"LastName"_s, FieldType::Text, 30}},
-         {primaryOver(u"VendorID;ContactID"_s),
-          {u"FULLNAME"_s, u"VendorID;LastName"_s, IndexOption::CaseInsensitive}}},
-        {u"Config"_s, {{u"Code"_s, FieldType::Text, 5}, {u"Text"_s, FieldType::Memo}}, {primaryOver(u"Code"_s)}},
-        {u"Latest"_s,
-         {{u"Day"_s, FieldType::Date}, {u"No"_s, FieldType::Integer}},
-         {primaryOver(u"Day;No"_s, IndexOption::Descending)}},
-        {u"ItemCtl"_s, {{u"NextItemNo"_s, FieldType::Integer}}, {}},
-    };
-}
-
-TableLayout items()
-{
-    return {u"Item"_s,
-            {{u"ItemID"_s, FieldType::AutoInc}, {u"Name"_s, FieldType::Text, 10}},
-            {primaryOver(u"ItemID"_s), {u"NAME1"_s, u"Name"_s, IndexOption::CaseInsensitive}}};
-}
+const TableLayout items =
+    madeLayout(u"Item"_s, u"ItemID counted, Name text 10"_s, u"ItemID primary, NAME1 Name folded"_s);
+const TableLayout oneRow = madeLayout(u"ItemCtl"_s, u"NextItemNo integer"_s);
 
 } // namespace
 
 TEST_P(SchemaTest, EveryLayoutIsReadBackAsItWasMade)
 {
-    for (const TableLayout &layout : layouts()) {
+    const TableLayout layouts[] = {
+        everyType(u"SampleID primary, NAME1 Name folded, USER User;Name folded, BYDAY Day;SampleID descending, "
+                  "MIXED Small;Name folded descending, COST Cost"_s),
+        madeLayout(u"VContact"_s, u"VendorID integer, ContactID counted, LastName text 30"_s,
+                   u"VendorID;ContactID primary, FULLNAME VendorID;LastName folded"_s),
+        madeLayout(u"Config"_s, u"Code text 5, Text memo"_s, u"Code primary"_s),
+        madeLayout(u"Latest"_s, u"Day date, No integer"_s, u"Day;No primary descending"_s), oneRow};
+    for (const TableLayout &layout : layouts) {
         SCOPED_TRACE(layout.name.toStdString());
         EXPECT_TRUE(database.differs(layout));
         database.createTable(layout);
@@ -59,7 +34,7 @@ TEST_P(SchemaTest, EveryLayoutIsReadBackAsItWasMade)
         EXPECT_EQ(stored->indexes, layout.indexes);
         EXPECT_FALSE(database.differs(layout));
     }
-    EXPECT_EQ(store.tables().size(), layouts().size());
+    EXPECT_EQ(store.tables().size(), std::size(layouts));
 }
 
 TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
@@ -89,12 +64,12 @@ TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
     int number = 0;
     for (const auto &[from, stored, to, size, expected] : cases) {
         SCOPED_TRACE(++number);
-        TableLayout layout{
-            u"T"_s, {{u"Gone"_s, FieldType::Integer}, {u"ID"_s, FieldType::Integer}, {u"F"_s, from, 20}}, {}};
+        TableLayout layout = madeLayout(u"T"_s, u"Gone integer, ID integer"_s);
+        layout.fields.append({u"F"_s, from, 20});
         database.createTable(layout);
         store.execute(u"INSERT INTO T VALUES (1, 2, %1)"_s, stored);
-        layout.fields = {{u"F"_s, to, size}, {u"ID"_s, FieldType::Integer}, {u"Added"_s, FieldType::Text, 5}};
-        layout.indexes = {primaryOver(u"ID"_s), {u"F"_s, u"F"_s, IndexOption::Descending}};
+        layout = madeLayout(u"T"_s, u"ID integer, Added text 5"_s, u"ID primary, F F descending"_s);
+        layout.fields.prepend({u"F"_s, to, size});
         database.restructureTable(layout);
         EXPECT_FALSE(database.differs(layout));
         EXPECT_EQ(connection.describe(u"T"_s)->name, u"T"_s);
@@ -111,16 +86,14 @@ TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
 
 TEST_P(SchemaTest, AutoIncrementNeverGivesANumberTwice)
 {
-    TableLayout layout = items();
+    TableLayout layout = items;
     database.createTable(layout);
     store.execute(u"INSERT INTO Item (Name) VALUES ('a'), ('b'), ('c')"_s);
     EXPECT_EQ(connection.lastInsertId(), 3);
     store.execute(u"DELETE FROM Item WHERE Name = 'c'"_s);
     layout.fields.append({u"More"_s, FieldType::Integer});
     database.restructureTable(layout);
-    const StatementPtr insert = connection.prepare(u"INSERT INTO Item (Name) VALUES (?)"_s);
-    insert->bindText(0, u"d"_s);
-    insert->execute();
+    store.execute(u"INSERT INTO Item (Name) VALUES ('d')"_s);
     EXPECT_EQ(connection.lastInsertId(), 4);
     EXPECT_EQ(one(u"SELECT ItemID FROM Item WHERE Name = 'd'"_s), u"4"_s);
 
@@ -138,22 +111,19 @@ TEST_P(SchemaTest, AutoIncrementNeverGivesANumberTwice)
 
 TEST_P(SchemaTest, ARestructuringThatFailsChangesNothing)
 {
-    TableLayout layout{u"T"_s, {{u"ID"_s, FieldType::Integer}, {u"Name"_s, FieldType::Text, 10}}, {}};
-    database.createTable(layout);
+    database.createTable(madeLayout(u"T"_s, u"ID integer, Name text 10"_s));
     store.execute(u"INSERT INTO T VALUES (1, 'one'), (1, 'again')"_s);
     const TableLayout before = *connection.describe(u"T"_s);
-    layout.fields[1].size = 3;
-    layout.indexes = {primaryOver(u"ID"_s)};
-    EXPECT_EQ(errorOf([&] { database.restructureTable(layout); }), ErrorCode::KeyViolation);
+    const TableLayout keyed = madeLayout(u"T"_s, u"ID integer, Name text 3"_s, u"ID primary"_s);
+    EXPECT_EQ(errorOf([&] { database.restructureTable(keyed); }), ErrorCode::KeyViolation);
     EXPECT_EQ(connection.describe(u"T"_s)->fields, before.fields);
     EXPECT_EQ(one(u"SELECT count(*) FROM T WHERE Name = 'again'"_s), u"1"_s);
 }
 
 TEST_P(SchemaTest, OneRowIsEnsuredOnce)
 {
-    const TableLayout layout = layouts().last();
     for (int i = 0; i < 2; ++i) {
-        database.createOrUpdateTable(layout, Database::EnsureOneRow::Yes);
+        database.createOrUpdateTable(oneRow, Database::EnsureOneRow::Yes);
         EXPECT_EQ(one(u"SELECT count(*) FROM ItemCtl"_s), u"1"_s);
     }
     EXPECT_EQ(one(u"SELECT NextItemNo FROM ItemCtl"_s), u"-"_s);
@@ -161,14 +131,14 @@ TEST_P(SchemaTest, OneRowIsEnsuredOnce)
 
 TEST_P(SchemaTest, ATableThatOthersHaveOpenIsNotChanged)
 {
-    TableLayout layout = items();
+    TableLayout layout = items;
     database.createTable(layout);
     auto other = store.anotherUser();
-    ASSERT_TRUE(other->database.connection().locks().tryOpenShared(u"Item"_s));
+    ASSERT_TRUE(other->locks().tryOpenShared(u"Item"_s));
     layout.fields[1].size = 20;
     EXPECT_TRUE(fails([&] { database.restructureTable(layout); }, ErrorCode::TableInUse, u"Item"_s));
     EXPECT_EQ(errorOf([&] { database.repairTable(u"Item"_s); }), ErrorCode::TableInUse);
-    other->database.connection().locks().closeShared(u"Item"_s);
+    other->locks().closeShared(u"Item"_s);
     database.restructureTable(layout);
     EXPECT_FALSE(database.differs(layout));
 }

@@ -12,20 +12,15 @@ struct StatementTest : StoreTest
 {
     void SetUp() override { database.createTable(everyType()); }
 
-    void insert(qint64 key, const QString &name)
+    StatementPtr insertion(qint64 key, const QString &name)
     {
-        const StatementPtr statement = connection.prepare(u"INSERT INTO Sample (SampleID, Name) VALUES (?, ?)"_s);
+        StatementPtr statement = connection.prepare(u"INSERT INTO Sample (SampleID, Name) VALUES (?, ?)"_s);
         statement->bindInt(0, key);
         statement->bindText(1, name);
-        statement->execute();
+        return statement;
     }
-    void send(qint64 key)
-    {
-        const StatementPtr statement =
-            connection.prepare(u"INSERT INTO Sample (SampleID, Name) VALUES (?, 'sent')"_s);
-        statement->bindInt(0, key);
-        statement->send();
-    }
+    void insert(qint64 key, const QString &name) { insertion(key, name)->execute(); }
+    void send(qint64 key) { insertion(key, u"sent"_s)->send(); }
 };
 
 } // namespace
@@ -33,7 +28,7 @@ struct StatementTest : StoreTest
 // Read once, whatever others write; but not what the run itself may write to.
 TEST_P(StatementTest, ARunKeepsWhatItHasRead)
 {
-    database.createTable({u"Other"_s, {{u"OtherID"_s, FieldType::Integer}, {u"Name"_s, FieldType::Text, 9}}, {}});
+    database.createTable(madeLayout(u"Other"_s, u"OtherID integer, Name text 9"_s));
     insert(1, u"one"_s);
     connection.execute(u"INSERT INTO Other (OtherID, Name) VALUES (1, 'one')"_s);
     const auto anna = store.anotherUser();
@@ -56,8 +51,7 @@ TEST_P(StatementTest, ARunKeepsWhatItHasRead)
         EXPECT_EQ(read(both, 1), u"one 1"_s);
         EXPECT_EQ(read(list, 1), u"one 1"_s);
         EXPECT_EQ(read(sample, 2), QString());
-        anna->database.connection().execute(u"UPDATE Sample SET Name = 'uno'; UPDATE Other SET OtherID = 7 "
-                                            "WHERE OtherID = 1"_s);
+        anna->execute(u"UPDATE Sample SET Name = 'uno'; UPDATE Other SET OtherID = 7 WHERE OtherID = 1"_s);
         EXPECT_EQ(read(sample, 1), u"one 1"_s);
         EXPECT_EQ(read(both, 1), QString());
         EXPECT_EQ(read(list, 1), QString());
@@ -129,16 +123,14 @@ TEST_P(StatementTest, AStatementInUseIsNotHandedOutTwice)
             break;
     }
     EXPECT_EQ(seen, (QStringList{u"11"_s, u"21"_s, u"31"_s}));
-    StatementPtr again = connection.prepare(sql);
-    const Statement *address = again.get();
-    again.reset();
+    const Statement *address = connection.prepare(sql).get();
     EXPECT_EQ(connection.prepare(sql).get(), address) << "a free statement is used again";
 }
 
 TEST_P(StatementTest, AStatementMayOutliveItsConnection)
 {
     auto other = store.anotherUser();
-    StatementPtr statement = other->database.connection().prepare(u"SELECT count(*) FROM Sample"_s);
+    StatementPtr statement = other->connection().prepare(u"SELECT count(*) FROM Sample"_s);
     ASSERT_TRUE(statement->next());
     other.reset();
     statement.reset();

@@ -2,24 +2,16 @@
 
 #include "engine/store/dialect.h"
 #include "tests/support/bothstores.h"
+#include "tests/support/madelayout.h"
 
 // A table with a field of each type.
-inline Engine::TableLayout everyType()
+inline Engine::TableLayout everyType(const QString &indexes = QStringLiteral("SampleID primary"))
 {
-    using namespace Qt::StringLiterals;
-    using Engine::FieldType;
-    return {u"Sample"_s,
-            {{u"SampleID"_s, FieldType::Integer},
-             {u"Small"_s, FieldType::SmallInt},
-             {u"Quantity"_s, FieldType::Float},
-             {u"Cost"_s, FieldType::Money},
-             {u"Posted"_s, FieldType::Boolean},
-             {u"Day"_s, FieldType::Date},
-             {u"Moment"_s, FieldType::DateTime},
-             {u"Name"_s, FieldType::Text, 20},
-             {u"User"_s, FieldType::Text, 10},
-             {u"Notes"_s, FieldType::Memo}},
-            {{QString(), u"SampleID"_s, Engine::IndexOption::Primary}}};
+    return madeLayout(
+        QStringLiteral("Sample"),
+        QStringLiteral("SampleID integer, Small small, Quantity float, Cost money, Posted boolean, Day date, "
+                       "Moment moment, Name text 20, User text 10, Notes memo"),
+        indexes);
 }
 
 // A case that runs on both stores.

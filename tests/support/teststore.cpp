@@ -127,6 +127,12 @@ QStringList TestStore::place() const
     return {u"remote"_s, remoteName()};
 }
 
+void TestStore::fill(const QString &table, const QString &values, int rows)
+{
+    execute(u"INSERT INTO %1 WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %2) "
+            "SELECT %3 FROM n"_s.arg(table, QString::number(rows), values));
+}
+
 QStringList TestStore::tables()
 {
     return rows(m_store == Store::Local

@@ -21,6 +21,9 @@ struct TestUser
     TestUser(const QString &user, const QString &databaseName);
     explicit TestUser(const QStringList &place); // "anna", at the place() of a store
     void useTestServer(const QString &remoteName);
+    Engine::Connection &connection() { return database.connection(); }
+    Engine::LockManager &locks() { return connection().locks(); }
+    void execute(const QString &script) { connection().execute(script); }
     // Of a user, or of all, on the database of the server: as when their connections are lost.
     void endOtherSessions(const QString &user = QStringLiteral("%"));
 };
@@ -53,6 +56,8 @@ public:
     Store store() const { return m_store; }
     Engine::Session &session() { return m_user->session; }
     Engine::Database &database() { return m_user->database; }
+    Engine::Connection &connection() { return database().connection(); }
+    Engine::LockManager &locks() { return connection().locks(); }
     std::unique_ptr<TestUser> anotherUser(const QString &user = QStringLiteral("anna"));
 
     QStringList place() const; // two words of a command line that lead another program to the database
@@ -61,8 +66,10 @@ public:
     // SQL text as it stands, but for the values that are filled in.
     template <typename... Values> void execute(const QString &script, const Values &...values)
     {
-        database().connection().execute(filledIn(script, values...));
+        connection().execute(filledIn(script, values...));
     }
+    void fill(const QString &table, const QString &values,
+              int rows); // values of i = 1 to rows: "T (A, B)", "i, i % 4"
     template <typename... Values> QStringList rows(const QString &sql, const Values &...values) // as rowsOf()
     {
         return rowsOf(database(), filledIn(sql, values...));
