@@ -1,43 +1,32 @@
 #include "base/formats.h"
 #include "controls/grids/linegrid.h"
-#include "engine/records/query.h"
-#include "engine/records/table.h"
-#include "tests/support/bothstores.h"
+#include "tests/controls/controltest.h"
 #include "tests/support/givenrules.h"
-#include "tests/support/screendriver.h"
-#include "tests/support/spokenprompts.h"
 
 #include <QAbstractSpinBox>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
-using Engine::FieldType;
 
 namespace {
 
-const Engine::TableLayout layout{u"Line"_s,
-                                 {{u"LineID"_s, FieldType::Integer},
-                                  {u"Quantity"_s, FieldType::Float},
-                                  {u"ItemNo"_s, FieldType::Text, 10},
-                                  {u"Cost"_s, FieldType::Float},
-                                  {u"Name"_s, FieldType::Text, 20}},
-                                 {{{}, u"LineID"_s, Engine::IndexOption::Primary}}};
+const Engine::TableLayout layout = madeLayout(
+    u"Line"_s, u"LineID integer, Quantity float, ItemNo text 10, Cost float, Name text 20"_s, u"LineID primary"_s);
 
 // Two lines between a box and a button: 1, "A", cost 10 and 2, "B", cost 20. A line must have an item.
-struct LineGridTest : testing::Test
+struct LineGridTest : ControlTest
 {
     LineGridTest()
+        : ControlTest(layout)
     {
-        store.database().createTable(layout);
         store.execute(
             u"INSERT INTO Line (LineID, Quantity, ItemNo, Cost) VALUES (1, 1, 'A', 10), (2, 2, 'B', 20)"_s);
         lines.open();
         lines.field(u"Quantity").format = quantityFormat();
         rules.aroundInsert = [this](const auto &begin) {
             begin();
-            lines.setDefault(u"LineID",
-                             Engine::singleValue(store.database(), u"SELECT count(*) FROM Line"_s).toInt() + 1);
+            lines.setDefault(u"LineID", store.found(u"SELECT count(*) + 1 FROM Line"_s).toInt());
         };
         rules.aroundPost = [this](const auto &save) {
             lines.text(u"ItemNo").isEmpty() ? throw RuleError(u"No item"_s, u"ItemNo"_s) : save();
@@ -72,14 +61,13 @@ struct LineGridTest : testing::Test
                         .enter = [this](const QString &field, const QString &text) { lines.setText(field, text); },
                         .search = search,
                         .searchColumns = {u"ItemNo"_s}},
-                       guard, options);
+                       toColumns, options);
         showActive(window);
         grid->setFocus();
     }
     void click(int row, int column)
     {
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
-                          grid->visualRect(grid->model()->index(row, column)).center());
+        clickOn(*grid, row, column);
         QCoreApplication::processEvents();
     }
     // At the left edge of a cell and beside its text.
@@ -90,21 +78,25 @@ struct LineGridTest : testing::Test
     }
     // "1,2" in the grid, else the widget that has the focus.
     QString cursor() const { return grid->hasFocus() || grid->hasEntry() ? cursorOf(*grid) : focusName(); }
+    QString cursorAfter(const char *keys) const
+    {
+        type(keys);
+        return cursor();
+    }
     QString entry() const
     {
         return grid->hasEntry() ? QApplication::focusWidget()->property("text").toString() : u"-"_s;
     }
     int rows() const { return grid->model()->rowCount(); }
 
-    SpokenPrompts prompts;
-    TestStore store{Store::Local};
-    Engine::Table lines{store.database(), u"Line"_s};
+    Engine::Table &lines = table;
     GivenRules rules;
     QWidget window;
     QLineEdit *box = new QLineEdit;
     LineGrid *grid = new LineGrid;
     QPushButton *button = new QPushButton;
-    const Guard guard{prompts, [this](const QString &column) { return grid->showColumn(column) ? grid : nullptr; }};
+    const Guard toColumns{prompts,
+                          [this](const QString &column) { return grid->showColumn(column) ? grid : nullptr; }};
     QStringList searched; // the item of the line and what was typed, each time
     QString found; // what the search chooses; empty: nothing
 };
@@ -127,10 +119,8 @@ TEST_F(LineGridTest, keysGoFromCellToCellAndOut)
         {"with text in the cell", "z<Backtab>y<Esc>", u"1,2"_s},
         {"out by the first cell", "<Backtab><Backtab><Up><Backtab>", u"before"_s},
     };
-    for (const auto &[what, keys, expected] : steps) {
-        type(keys);
-        EXPECT_EQ(cursor(), expected) << what;
-    }
+    for (const auto &[what, keys, expected] : steps)
+        EXPECT_EQ(cursorAfter(keys), expected) << what;
     EXPECT_EQ(rows(), 2);
     EXPECT_EQ(store.rows(u"SELECT Name FROM Line ORDER BY LineID"_s), (QStringList{QString(), u"z"_s}));
     EXPECT_EQ(prompts.said, QStringList());
@@ -142,10 +132,8 @@ TEST_F(LineGridTest, gridWithoutLinesSaysHowToBegin)
     lines.refresh();
     show();
     EXPECT_EQ(grid->shownHint(), u"No lines yet. Double-click here or press Page Down to enter the first one."_s);
-    press(Qt::Key_Backtab);
-    EXPECT_EQ(cursor(), u"before"_s);
-    type("<Tab><Tab>");
-    EXPECT_EQ(cursor(), u"after"_s);
+    EXPECT_EQ(cursorAfter("<Backtab>"), u"before"_s);
+    EXPECT_EQ(cursorAfter("<Tab><Tab>"), u"after"_s);
     QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, grid->viewport()->rect().center());
     EXPECT_EQ(rows(), 1);
     EXPECT_EQ(grid->shownHint(), QString());
@@ -218,8 +206,7 @@ TEST_F(LineGridTest, helpTakesNothingOfWhatIsTyped)
 TEST_F(LineGridTest, linesComeAndGoWhileACellIsTypedInto)
 {
     show();
-    type("7<Ctrl+Ins>");
-    EXPECT_EQ(cursor(), u"2,0"_s);
+    EXPECT_EQ(cursorAfter("7<Ctrl+Ins>"), u"2,0"_s);
     EXPECT_EQ(store.found(u"SELECT Quantity FROM Line"_s), u"7 2") << "what has been typed is taken first";
     type("<Esc>8<Ctrl+Del>");
     EXPECT_EQ(rows(), 1);
@@ -233,11 +220,8 @@ TEST_F(LineGridTest, fixedLinesAndColumnsStay)
     show({.fixed = {u"ItemNo"_s}, .fixedLines = true});
     type("<Return>Z<F2>");
     EXPECT_EQ(entry(), u"-"_s);
-    type("<Ctrl+Del><Ctrl+Ins>");
-    type("<PgDown><Right><Right><Return>");
-    EXPECT_EQ(cursor(), u"1,3"_s);
-    press(Qt::Key_Tab);
-    EXPECT_EQ(cursor(), u"after"_s);
+    EXPECT_EQ(cursorAfter("<Ctrl+Del><Ctrl+Ins><PgDown><Right><Right><Return>"), u"1,3"_s);
+    EXPECT_EQ(cursorAfter("<Tab>"), u"after"_s);
     EXPECT_EQ(rows(), 2);
     EXPECT_EQ(store.found(u"SELECT ItemNo FROM Line"_s), u"A B");
 }

@@ -1,50 +1,36 @@
 #include "controls/grids/columnwidths.h"
 #include "controls/grids/listgrid.h"
 #include "controls/windows/screenmetrics.h"
-#include "engine/records/query.h"
-#include "engine/records/table.h"
-#include "tests/support/bothstores.h"
-#include "tests/support/screendriver.h"
-#include "tests/support/spokenprompts.h"
+#include "tests/controls/controltest.h"
 
 #include <numeric>
 #include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
-using Engine::FieldType;
 
 namespace {
 
 constexpr int dishes = 200;
 
-const Engine::TableLayout layout{
-    u"Dish"_s,
-    {{u"DishID"_s, FieldType::Integer}, {u"DishNo"_s, FieldType::Text, 10}, {u"Name"_s, FieldType::Text, 20}},
-    {{{}, u"DishID"_s, Engine::IndexOption::Primary},
-     {u"DISHNO"_s, u"DishNo"_s},
-     {u"NAME1"_s, u"Name"_s, Engine::IndexOption::CaseInsensitive},
-     {u"NAMEROW"_s, u"Name;DishID"_s, Engine::IndexOption::CaseInsensitive}}};
+const Engine::TableLayout layout =
+    madeLayout(u"Dish"_s, u"DishID integer, DishNo text 10, Name text 20"_s,
+               u"DishID primary, DISHNO DishNo, NAME1 Name folded, NAMEROW Name;DishID folded"_s);
 
 // Dish 1 to 200, numbered D0001 and so on.
-struct ListGridTest : testing::TestWithParam<Store>
+struct ListGridTest : ControlTest
 {
     explicit ListGridTest(Store kind = Store::Local)
-        : store(kind)
+        : ControlTest(layout, kind)
     {
-        store.database().createTable(layout);
-        QStringList rows;
-        for (int id = 1; id <= dishes; ++id)
-            rows << u"(%1, 'D%2', 'Dish %1')"_s.arg(id).arg(id, 4, 10, '0'_L1);
-        store.execute(u"INSERT INTO Dish (DishID, DishNo, Name) VALUES "_s + rows.join(u", "_s));
-        table.emplace(store.database(), u"Dish"_s);
-        table->addCalculated({u"Twice"_s, FieldType::Integer}, [](const Engine::DataSet &dish) {
-            return Engine::Value(2 * dish.integer(u"DishID"));
-        });
-        table->open();
+        store.fill(u"Dish (DishID, DishNo, Name)"_s, u"i, 'D' || substr('' || (10000 + i), 2), 'Dish ' || i"_s,
+                   dishes);
+        table.addCalculated({u"Twice"_s, Engine::FieldType::Integer},
+                            [](const Engine::DataSet &dish) { return Engine::Value(2 * dish.integer(u"DishID")); });
+        table.open();
         grid.allowSelection();
         grid.resize(400, 400);
-        grid.setDataSet(*table,
+        grid.setDataSet(table,
                         {{u"Name"_s, u"Name"_s, 200}, {u"Twice"_s, u"Twice"_s, 120}, {u"DishNo"_s, u"No."_s, 120}},
                         guard);
     }
@@ -65,16 +51,8 @@ struct ListGridTest : testing::TestWithParam<Store>
                                           : u"%1-%2"_s.arg(range.first).arg(range.last));
         return ranges.join(u' ') + u": "_s + QString::number(grid.currentIndex().row());
     }
-    void click(int row, Qt::KeyboardModifiers modifiers = {})
-    {
-        const QPoint place = grid.visualRect(grid.model()->index(row, 0)).center();
-        QTest::mouseClick(grid.viewport(), Qt::LeftButton, modifiers, place);
-    }
+    void click(int row, Qt::KeyboardModifiers modifiers = {}) { clickOn(grid, row, 0, modifiers); }
 
-    SpokenPrompts prompts;
-    Guard guard{prompts};
-    TestStore store;
-    std::optional<Engine::Table> table;
     ListGrid grid;
 };
 
@@ -85,7 +63,7 @@ struct ListSearchTest : ListGridTest
     {
     }
 
-    QString name() const { return table->text(u"Name"); }
+    QString name() const { return table.text(u"Name"); }
 };
 
 } // namespace
@@ -98,13 +76,13 @@ TEST_F(ListGridTest, firstPageIsThereBeforeTheListIsRead)
     EXPECT_EQ(cell(30, 0), u"Dish 31"_s);
     EXPECT_EQ(cell(30, 1), u"62"_s) << "what is calculated too";
     EXPECT_EQ(grid.currentIndex().row(), 0);
-    ASSERT_TRUE(table->moveToKey({150}));
+    ASSERT_TRUE(table.moveToKey({150}));
     EXPECT_EQ(grid.currentIndex().row(), 149);
     EXPECT_EQ(rows(), dishes) << "the cursor goes beyond it";
     EXPECT_EQ(cell(dishes - 1, 1), u"400"_s);
     QTest::keyClick(&grid, Qt::Key_End);
     EXPECT_EQ(grid.currentIndex().row(), dishes - 1);
-    EXPECT_EQ(table->integer(u"DishID"), dishes);
+    EXPECT_EQ(table.integer(u"DishID"), dishes);
 }
 
 TEST_F(ListGridTest, theRestOfALongListComesByItselfOrWithTheKeyThatNeedsIt)
@@ -183,7 +161,7 @@ TEST_F(ListGridTest, manyRowsAreSelectedWhileTheRecordIsOne)
     showAll();
     const auto expect = [this](const QString &rows) {
         EXPECT_EQ(selected(), rows);
-        EXPECT_EQ(table->recordIndex(), grid.currentIndex().row()) << rows.toStdString();
+        EXPECT_EQ(table.recordIndex(), grid.currentIndex().row()) << rows.toStdString();
     };
     click(3);
     expect(u"3: 3"_s);
@@ -195,7 +173,7 @@ TEST_F(ListGridTest, manyRowsAreSelectedWhileTheRecordIsOne)
     expect(u"3-5 8: 8"_s);
     type("<Down>");
     expect(u"9: 9"_s);
-    table->moveToKey({101});
+    table.moveToKey({101});
     expect(u"100: 100"_s);
     type("<Shift+Down>");
     expect(u"100-101: 101"_s);
@@ -205,7 +183,7 @@ TEST_F(ListGridTest, manyRowsAreSelectedWhileTheRecordIsOne)
     expect(u"0: 0"_s);
     type("<Ctrl+A>");
     expect(u"0-199: 0"_s);
-    table->refresh();
+    table.refresh();
     expect(u"0: 0"_s);
 }
 
@@ -213,8 +191,8 @@ TEST_P(ListSearchTest, typedBeginningIsFoundInTheOrderedColumn)
 {
     store.execute(u"INSERT INTO Dish (DishID, DishNo, Name) VALUES (900, 'x1', 'Crème brûlée'), "
                   "(901, 'x2', 'crêpe'), (902, 'x3', '50% \"off\" [a]''s'), (903, 'x4', '🍜 soup')"_s);
-    table->setIndex(u"NAME1"_s);
-    table->refresh();
+    table.setIndex(u"NAME1"_s);
+    table.refresh();
     showActive(grid);
     const std::tuple<QString, QString, bool> cases[] = {
         // the row that is come to, and whether it is found
@@ -228,14 +206,14 @@ TEST_P(ListSearchTest, typedBeginningIsFoundInTheOrderedColumn)
     };
     for (const auto &[typed, reached, found] : cases) {
         grid.search()->end();
-        table->first();
+        table.first();
         type(typed);
         EXPECT_EQ(name(), reached) << qPrintable(typed);
         EXPECT_EQ(grid.search()->text(), typed);
         EXPECT_EQ(grid.search()->isFound(), found) << qPrintable(typed);
-        EXPECT_EQ(grid.currentIndex().row(), table->recordIndex());
+        EXPECT_EQ(grid.currentIndex().row(), table.recordIndex());
     }
-    table->setIndex(u"DISHNO"_s);
+    table.setIndex(u"DISHNO"_s);
     EXPECT_EQ(grid.search()->text(), QString()) << "another order, another search";
     type("d015");
     EXPECT_EQ(name(), u"Dish 150"_s) << "numbers are found without the shift key";
@@ -246,27 +224,27 @@ TEST_P(ListSearchTest, wordsAreFoundAnywhereInTheShownColumns)
 {
     store.execute(u"INSERT INTO Dish (DishID, DishNo, Name) VALUES (900, 'x1', 'Zuppa crème brûlée'), "
                   "(901, 'x2', 'Zuppa with 1 BRULEE')"_s);
-    table->setIndex(u"NAME1"_s);
-    table->refresh();
+    table.setIndex(u"NAME1"_s);
+    table.refresh();
     showActive(grid);
     const auto reached = [this](const QString &typed) {
         grid.search()->end();
-        table->first();
+        table.first();
         type(typed);
         EXPECT_TRUE(comesTrue([this] { return !grid.search()->isLooking(); }));
-        EXPECT_EQ(grid.currentIndex().row(), table->recordIndex());
-        return grid.search()->isFound() ? table->integer(u"DishID") : 0;
+        EXPECT_EQ(grid.currentIndex().row(), table.recordIndex());
+        return grid.search()->isFound() ? table.integer(u"DishID") : 0;
     };
     EXPECT_EQ(reached(u"brulee"_s), 900);
     press(Qt::Key_F3);
-    EXPECT_EQ(table->integer(u"DishID"), 901) << "the next one";
+    EXPECT_EQ(table.integer(u"DishID"), 901) << "the next one";
     press(Qt::Key_F3);
-    EXPECT_EQ(table->integer(u"DishID"), 900) << "round again";
+    EXPECT_EQ(table.integer(u"DishID"), 900) << "round again";
     EXPECT_EQ(reached(u"brûlée zup"_s), 900);
     EXPECT_EQ(reached(u"398 dish"_s), 199) << "a figure that is calculated";
     EXPECT_EQ(reached(u"D0150"_s), 150) << "a number in another column";
     EXPECT_EQ(reached(u"nowhere"_s), 0);
-    table->setIndex(QString()); // by key, which is no text and not shown
+    table.setIndex(QString()); // by key, which is no text and not shown
     EXPECT_EQ(reached(u"ish 20"_s), 10) << "Dish 10, twice 10";
 }
 
@@ -274,15 +252,15 @@ ON_BOTH_STORES(ListSearchTest);
 
 TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
 {
-    table->setIndex(u"NAME1"_s);
+    table.setIndex(u"NAME1"_s);
     showAll();
     type("dish 17");
-    EXPECT_EQ(table->integer(u"DishID"), 17);
+    EXPECT_EQ(table.integer(u"DishID"), 17);
     type("9");
-    EXPECT_EQ(table->integer(u"DishID"), 179);
+    EXPECT_EQ(table.integer(u"DishID"), 179);
     type("<Backspace><Backspace>");
     EXPECT_EQ(grid.search()->text(), u"dish 1"_s);
-    EXPECT_EQ(table->integer(u"DishID"), 1);
+    EXPECT_EQ(table.integer(u"DishID"), 1);
     grid.search()->end();
 
     const std::tuple<const char *, std::function<void()>> ends[] = {

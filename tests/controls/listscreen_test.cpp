@@ -92,15 +92,11 @@ TEST_F(ListScreenTest, commandsFollowTheRecord)
     ItemList &items = open();
     const QAction *drop = items.command(u"mnuDropSelected"_s);
     const auto *button = child<QPushButton>(items, "btnDrop");
-    const auto popup = [&] {
-        const QList<QAction *> entries = items.list().actions();
-        const auto found = std::find_if(entries.begin(), entries.end(),
-                                        [](const QAction *entry) { return entry->text() == u"Drop"_s; });
-        return found != entries.end() && (*found)->isEnabled();
-    };
     const auto isOffered = [&] {
+        const QList<QAction *> popup = items.list().actions();
+        const auto entry = std::ranges::find(popup, u"Drop"_s, &QAction::text);
         EXPECT_EQ(button->isEnabled(), drop->isEnabled());
-        EXPECT_EQ(popup(), drop->isEnabled());
+        EXPECT_EQ(entry != popup.end() && (*entry)->isEnabled(), drop->isEnabled());
         return drop->isEnabled();
     };
     EXPECT_TRUE(isOffered());
@@ -123,12 +119,11 @@ TEST_F(ListScreenTest, keyboardComesBackToTheRows)
     QTest::mouseClick(child<QPushButton>(items, "btnNew"), Qt::LeftButton);
     EXPECT_EQ(focusName(), u"DBGrid1"_s) << "a click on a button";
     press(Qt::Key_R, Qt::AltModifier);
-    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Right);
-    QCoreApplication::processEvents();
-    ASSERT_NE(QApplication::activePopupWidget(), nullptr) << "on to the next menu";
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-    QCoreApplication::processEvents();
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Escape}) { // on to the next menu, and out of it
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), key);
+        QCoreApplication::processEvents();
+    }
     EXPECT_EQ(focusName(), u"DBGrid1"_s) << "Escape in a menu";
     type("b");
     EXPECT_EQ(status(items), u"3 of 4 rows"_s);
@@ -139,17 +134,12 @@ TEST_F(ListScreenTest, rowsAreCopiedAsSpreadsheetsPasteThem)
     kitchen.execute(u"UPDATE Item SET ItemDescription = 'tab\there \"quoted\"' WHERE ItemID = 2"_s);
     ItemList &items = open();
     EXPECT_TRUE(items.list().actions().contains(items.command(u"mnuCopyText"_s))) << "in the pop-up menu";
-    const std::tuple<std::function<void()>, QString> cases[] = {
-        {[] {}, u"A10\tApples\t1,234.50\tNo\n"_s},
-        {[] { press(Qt::Key_Down, Qt::ShiftModifier); },
-         u"Item no.\tDescription\tUnit Price\tSuspended\nA10\tApples\t1,234.50\tNo\n"
-         "A11\t\"tab\there \"\"quoted\"\"\"\t\tNo\n"_s},
-    };
-    for (const auto &[select, expected] : cases) {
-        select();
-        press(Qt::Key_C, Qt::ControlModifier);
-        EXPECT_EQ(QGuiApplication::clipboard()->text(), expected);
-    }
+    type("<Ctrl+C>");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"A10\tApples\t1,234.50\tNo\n"_s);
+    type("<Shift+Down><Ctrl+C>");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              u"Item no.\tDescription\tUnit Price\tSuspended\nA10\tApples\t1,234.50\tNo\n"
+              "A11\t\"tab\there \"\"quoted\"\"\"\t\tNo\n"_s);
 }
 
 TEST_F(ListScreenTest, listIsSavedAsItStandsOrNotAtAll)

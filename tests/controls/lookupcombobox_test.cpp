@@ -1,49 +1,41 @@
 #include "controls/fields/lookupcombobox.h"
-#include "engine/records/table.h"
-#include "tests/support/screendriver.h"
-#include "tests/support/spokenprompts.h"
-#include "tests/support/teststore.h"
+#include "tests/controls/controltest.h"
 
 #include <QAccessible>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
-using Engine::FieldType;
 
 namespace {
 
-const Engine::TableLayout places{u"Place"_s,
-                                 {{u"PlaceID"_s, FieldType::Integer}, {u"Name"_s, FieldType::Text, 20}},
-                                 {{{}, u"PlaceID"_s, Engine::IndexOption::Primary},
-                                  {u"NAME1"_s, u"Name"_s, Engine::IndexOption::CaseInsensitive}}};
+const Engine::TableLayout places =
+    madeLayout(u"Place"_s, u"PlaceID integer, Name text 20"_s, u"PlaceID primary, NAME1 Name folded"_s);
 
-struct LookupComboBoxTest : testing::Test
+struct LookupComboBoxTest : ControlTest
 {
     LookupComboBoxTest()
+        : ControlTest(places)
     {
-        store.database().createTable(places);
         store.execute(u"INSERT INTO Place (PlaceID, Name) VALUES (1, 'Freezer'), (2, 'attic'), (3, 'Fridge'), "
                       "(4, 'Cellar')"_s);
-        list.emplace(store.database(), u"Place"_s);
-        list->setIndex(u"NAME1"_s);
+        table.setIndex(u"NAME1"_s);
         auto *layout = new QVBoxLayout(&form);
-        box = new LookupComboBox;
-        other = new QLineEdit;
         layout->addWidget(box);
         layout->addWidget(other);
-        box->setList(*list, {{u"Name"_s, u"Name"_s, 150}}, guard);
+        box->setList(table, {{u"Name"_s, u"Name"_s, 150}}, guard);
         showActive(form);
         box->setFocus();
     }
+    QString shownAfter(const char *keys) const
+    {
+        type(keys);
+        return box->currentText();
+    }
 
-    SpokenPrompts prompts;
-    Guard guard{prompts};
-    TestStore store{Store::Local};
-    std::optional<Engine::Table> list;
     QWidget form;
-    LookupComboBox *box = nullptr;
-    QLineEdit *other = nullptr;
+    LookupComboBox *box = new LookupComboBox;
+    QLineEdit *other = new QLineEdit;
 };
 
 } // namespace
@@ -51,12 +43,9 @@ struct LookupComboBoxTest : testing::Test
 TEST_F(LookupComboBoxTest, typedLettersMoveAndLeavingChooses)
 {
     QSignalSpy chosen(box, &LookupComboBox::chosen);
-    type("fr");
-    EXPECT_EQ(box->currentText(), u"Freezer"_s);
-    type("i");
-    EXPECT_EQ(box->currentText(), u"Fridge"_s);
-    type("x");
-    EXPECT_EQ(box->currentText(), u"Fridge"_s) << "no such row: stays";
+    EXPECT_EQ(shownAfter("fr"), u"Freezer"_s);
+    EXPECT_EQ(shownAfter("i"), u"Fridge"_s);
+    EXPECT_EQ(shownAfter("x"), u"Fridge"_s) << "no such row: stays";
     EXPECT_EQ(chosen.size(), 0);
     other->setFocus();
     ASSERT_EQ(chosen.size(), 1);
@@ -68,19 +57,14 @@ TEST_F(LookupComboBoxTest, escapeGoesBackAndDeleteClears)
 {
     box->setChosenId(1);
     QSignalSpy chosen(box, &LookupComboBox::chosen);
-    press(Qt::Key_Down);
-    EXPECT_EQ(box->currentText(), u"Fridge"_s);
-    press(Qt::Key_Escape);
-    EXPECT_EQ(box->currentText(), u"Freezer"_s);
+    EXPECT_EQ(shownAfter("<Down>"), u"Fridge"_s);
+    EXPECT_EQ(shownAfter("<Esc>"), u"Freezer"_s);
     EXPECT_EQ(chosen.size(), 0);
-    press(Qt::Key_Delete);
+    EXPECT_EQ(shownAfter("<Del>"), QString());
     EXPECT_EQ(box->chosenId(), 0);
-    EXPECT_EQ(box->currentText(), QString());
     ASSERT_EQ(chosen.size(), 1);
-    type("c");
-    EXPECT_EQ(box->currentText(), u"Cellar"_s);
-    press(Qt::Key_Delete);
-    EXPECT_EQ(box->currentText(), QString()) << "not chosen yet";
+    EXPECT_EQ(shownAfter("c"), u"Cellar"_s);
+    EXPECT_EQ(shownAfter("<Del>"), QString()) << "not chosen yet";
     other->setFocus();
     EXPECT_EQ(chosen.size(), 1);
 }
@@ -102,7 +86,7 @@ TEST_F(LookupComboBoxTest, keepsItsNameForAccessibilityToolsWhateverIsChosen)
 // leaves the list's own record where it is.
 TEST_F(LookupComboBoxTest, followsWhatOthersChangeAndMovesNothing)
 {
-    list->moveToKey({2});
+    table.moveToKey({2});
     int key = 8;
     const auto add = [&](const QString &name) {
         store.execute(u"INSERT INTO Place (PlaceID, Name) VALUES (%1, '%2')"_s, ++key, name);
@@ -117,10 +101,9 @@ TEST_F(LookupComboBoxTest, followsWhatOthersChangeAndMovesNothing)
 
     add(u"Boiler room"_s);
     add(u"Cabin"_s);
-    type("cab");
-    EXPECT_EQ(box->currentText(), u"Cabin"_s);
+    EXPECT_EQ(shownAfter("cab"), u"Cabin"_s);
     add(u"Alcove"_s);
-    list->refresh();
+    table.refresh();
     EXPECT_EQ(box->currentText(), u"Cabin"_s);
     other->setFocus();
     EXPECT_EQ(box->chosenId(), 11);
@@ -130,5 +113,5 @@ TEST_F(LookupComboBoxTest, followsWhatOthersChangeAndMovesNothing)
     store.execute(u"UPDATE Place SET Name = 'Loft' WHERE PlaceID = 13"_s);
     box->setFocus();
     EXPECT_EQ(box->currentText(), u"Loft"_s);
-    EXPECT_EQ(list->integer(u"PlaceID"), 2);
+    EXPECT_EQ(table.integer(u"PlaceID"), 2);
 }
