@@ -296,6 +296,13 @@ std::vector<Compared> comparisons(Store store, Engine::Database &database, const
          [&database, latest](int) {
              return readAll(database, u"SELECT * FROM IHist WHERE %1 AND ItemID = 1 LIMIT 64"_s.arg(latest));
          }},
+        {"a period by location",
+         [&database](int) {
+             return sortHistory(database, Fields::WarehouseName, {.year = lastYear, .period = 12});
+         },
+         [&database, latest](int) {
+             return readAll(database, u"SELECT * FROM IHist WHERE %1 AND WarehouseID = 1 LIMIT 64"_s.arg(latest));
+         }},
         {"a period by date",
          [&database](int) { return sortHistory(database, Fields::TransDate, {.year = lastYear, .period = 12}); },
          [&database](int) {

@@ -5408,6 +5408,10 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
         <source>Search: %1 (looking, row %2 of %3; Esc stops)</source>
         <translation>Suche: %1 (sucht, Zeile %2 von %3; Esc hält an)</translation>
     </message>
+    <message>
+        <source>Reading the rows of the list</source>
+        <translation>Die Zeilen der Liste werden gelesen</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::MasterListScreen</name>

@@ -5408,6 +5408,10 @@ Haga clic para volver a mostrar todos los registros.</translation>
         <source>Search: %1 (looking, row %2 of %3; Esc stops)</source>
         <translation>Búsqueda: %1 (buscando, fila %2 de %3; Esc detiene)</translation>
     </message>
+    <message>
+        <source>Reading the rows of the list</source>
+        <translation>Leyendo las filas de la lista</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::MasterListScreen</name>

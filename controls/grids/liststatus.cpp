@@ -35,9 +35,15 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     bar.addWidget(figures, 1);
     m_search->hide();
 
+    constexpr int moment = 400; // ms
+    m_moment.setSingleShot(true);
+    m_moment.setInterval(moment);
+    connect(&m_moment, &QTimer::timeout, this, [this] { m_rows->setText(tr("Reading the rows of the list")); });
+
     const TableModel *model = grid.tableModel();
     connect(model, &QAbstractItemModel::rowsInserted, this, &ListStatus::showRows);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &ListStatus::showRows);
+    connect(model, &QAbstractItemModel::dataChanged, this, &ListStatus::showRows);
     connect(&model->dataSet(), &Engine::DataSet::listChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListStatus::showRows);
@@ -75,16 +81,23 @@ void ListStatus::showOrigin()
     m_origin->setText(text);
 }
 
+// That the rows are being read is said where it takes more than a moment.
 void ListStatus::showRows()
 {
-    m_rows->setText(rowsText());
     showOrigin();
+    if (m_grid.tableModel()->isPartial()) {
+        m_rows->clear();
+        m_moment.start();
+    } else {
+        m_moment.stop();
+        m_rows->setText(rowsText());
+    }
 }
 
 QString ListStatus::rowsText() const
 {
     const TableModel &model = *m_grid.tableModel();
-    if (model.isPartial() || model.hasFailed())
+    if (model.hasFailed())
         return {};
     const QLocale locale = Engine::userLocale().locale;
     const int count = model.rowCount();

@@ -2,6 +2,8 @@
 
 #include "controls/grids/listgrid.h"
 
+#include <QTimer>
+
 class QLabel;
 class QStatusBar;
 
@@ -11,7 +13,7 @@ class SumLabel;
 
 // The status line of a list: on which row of how many the cursor is, how many are selected, what is being searched for,
 // and the figures of the row that its columns are too narrow for; and of which time the rows are, where they are meant to
-// come from a standby server. Nothing is said of the rows before the whole list has been read.
+// come from a standby server. Before the whole list has been read only that is said.
 class ListStatus : public QObject
 {
     Q_OBJECT
@@ -30,6 +32,7 @@ private:
 
     ListGrid &m_grid;
     QStatusBar &m_bar;
+    QTimer m_moment; // for what is still being read
     QLabel *m_rows;
     QLabel *m_search;
     SumLabel *m_sum = nullptr; // of a list that tells one

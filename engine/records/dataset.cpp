@@ -339,7 +339,7 @@ void DataSet::setSorting(const Sorting &sorting)
     QScopedValueRollback sorted(m_sorting, sorting);
     Ahead ahead = readAhead();
     sorted.commit();
-    takeAnew(ahead.page ? Place::First : Place::Keep, std::move(ahead));
+    takeAnew(ahead.beginsAnew ? Place::First : Place::Keep, std::move(ahead));
 }
 
 // What is looked up sorts as its own table has it.
@@ -355,7 +355,7 @@ void DataSet::refresh()
 {
     requireOpen();
     beforeMove();
-    takeAnew(Place::Keep, {DataSetReader(*this).readAhead(), {}});
+    takeAnew(Place::Keep, {.keys = DataSetReader(*this).readAhead()});
 }
 
 void DataSet::onLongRead(std::function<void(const ReadOver &)> aside, int longFrom)
@@ -375,15 +375,18 @@ bool DataSet::isListRead() const { return m_open && d->keysRead; }
 bool DataSet::beginsAnew() const
 {
     return m_open && !d->keysRead && d->cursor.isUnread()
-        && (!d->firstPage.empty() || DataSetReader(*this).pageAhead());
+        && (!d->firstPage.empty() || (DataSetReader(*this).beginsInPages() && DataSetReader(*this).pageAhead()));
 }
 
 DataSet::Ahead DataSet::readAhead() const
 {
     const DataSetReader reader(*this);
-    if (auto page = reader.pageAhead())
-        return {{}, std::move(page)};
-    return {reader.readAhead(), {}};
+    Ahead ahead{.beginsAnew = reader.beginsInPages()};
+    if (ahead.beginsAnew)
+        ahead.page = reader.pageAhead();
+    if (!ahead.page)
+        ahead.keys = reader.readAhead();
+    return ahead;
 }
 
 void DataSet::takeAnew(Place place, Ahead ahead)

@@ -204,8 +204,10 @@ protected:
     void invalidate(Place place);
     struct Ahead // nothing where it is read when needed
     {
-        std::optional<KeyList> keys;
-        std::optional<std::vector<FoundRow>> page; // with which a list begins whose keys come later; empty likewise
+        std::optional<KeyList> keys = {};
+        // With which a list begins whose keys come later; empty likewise.
+        std::optional<std::vector<FoundRow>> page = {};
+        bool beginsAnew = false; // it is long, whether its first rows are there at once or not
     };
     void takeAnew(Place place, Ahead ahead);
     Ahead readAhead() const; // of the order and filter that are set

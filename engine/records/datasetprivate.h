@@ -90,8 +90,9 @@ public:
     }
     void readKeys() const; // all of them, or how many there are
     std::optional<KeyList> readAhead() const; // aside, where that pays
-    // Of a long set that begins with its first rows, of which the rest comes beside these; none of any other. Empty where these are
-    // there as soon as they are asked for.
+    // It is a long set, the first rows of which need not wait for the rest: this comes beside them.
+    bool beginsInPages() const;
+    // These rows, where they are known soon. Empty where they are there as soon as they are asked for.
     std::optional<std::vector<FoundRow>> pageAhead() const;
     DataSet::RestOver restToCome() const; // see there
     void take(KeyList keys) const; // all of them

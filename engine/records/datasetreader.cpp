@@ -82,26 +82,30 @@ bool DataSetReader::isLong() const
     return d.mostRows >= d.longFrom;
 }
 
-std::optional<std::vector<FoundRow>> DataSetReader::pageAhead() const
-{
-    Connection &connection = m_set.m_database.connection();
-    if (!d.aside || d.inMemory || connection.inTransaction())
-        return std::nullopt;
-    const RowSource wanted = sourceOn(connection); // not yet the one in hand where the order is about to change
-    if (!beginsWithPage(wanted) || !isLong())
-        return std::nullopt;
-    if (!wanted.mayFallShort())
-        return std::vector<FoundRow>();
-    std::vector<FoundRow> rows = wanted.foundSoon(pageSize);
-    return rows.size() == pageSize ? std::optional(std::move(rows)) : std::nullopt;
-}
-
 // A standby may have other rows than the connection over which the keys come. Whether it lacks one of them is known only where
 // what is new has the highest key.
 bool DataSetReader::beginsWithPage(const RowSource &wanted) const
 {
     const bool isGuessedOfAny = wanted.guessesFirst() && wanted.keyWidth() > 1;
     return wanted.comesInPages() && !(isGuessedOfAny && m_set.m_database.connection().origin().isStandby());
+}
+
+// By a source of its own, as the order may be about to change.
+bool DataSetReader::beginsInPages() const
+{
+    Connection &connection = m_set.m_database.connection();
+    if (!d.aside || d.inMemory || connection.inTransaction())
+        return false;
+    return beginsWithPage(sourceOn(connection)) && isLong();
+}
+
+std::optional<std::vector<FoundRow>> DataSetReader::pageAhead() const
+{
+    const RowSource wanted = sourceOn(m_set.m_database.connection());
+    if (!wanted.mayFallShort())
+        return std::vector<FoundRow>();
+    std::vector<FoundRow> rows = wanted.foundSoon(pageSize);
+    return rows.size() == pageSize ? std::optional(std::move(rows)) : std::nullopt;
 }
 
 // What is read aside knows nothing of the set, which may be gone by then.

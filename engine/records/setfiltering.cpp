@@ -61,9 +61,10 @@ void SetFiltering::guessFirst(SetScope &scope, const QString &first) const
     SqlCondition within;
     for (const QString &column : beginning)
         within += m_fixed.value(column);
-    QList<OrderTerm> order;
-    std::ranges::copy_if(scope.order, std::back_inserter(order),
-                         [&](const OrderTerm &term) { return !beginning.contains(term.column.sql); });
+    QList<OrderTerm> order = scope.order;
+    order.removeIf([&](const OrderTerm &term) { return beginning.contains(term.column.sql); });
+    if (order.isEmpty())
+        order.append(scope.order.constLast());
     const QString table = m_dialect.name(m_layout->name) + " t"_L1;
     scope.firstSource = u"(SELECT t.* FROM %1%2%3 LIMIT %4) t%5"_s.arg(
         first.isEmpty() ? scope.source : first, within.isEmpty() ? QString() : " WHERE "_L1 + within.text,

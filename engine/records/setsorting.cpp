@@ -79,9 +79,10 @@ bool SetSorting::sortByLookup(SetScope &scope) const
     if (!join(scope, field))
         return false;
     // Bounds in place of an equation: with an equation a server may choose to walk through the table in the order of its key,
-    // and comes to its end where one of theirs has no rows.
+    // and comes to its end where one of theirs has no rows. A limit that it does not know: one that is above the number of rows that
+    // it expects would have it sort them all.
     const QString firstRowsOfOne =
-        u"LATERAL (SELECT t.* FROM %1 WHERE %2 >= %3 AND %2 <= %3%4 LIMIT %5) t"_s
+        u"LATERAL (SELECT t.* FROM %1 WHERE %2 >= %3 AND %2 <= %3%4 LIMIT (SELECT %5)) t"_s
             .arg(rows, within.constFirst().column.sql, theirKey(field), orderBy(m_dialect, within))
             .arg(m_filtering.mostGoneOver());
     scope.firstSource = m_dialect.name(field.lookup.table) + " s CROSS JOIN "_L1

@@ -1,10 +1,14 @@
 #include "controls/grids/columnwidths.h"
 #include "controls/grids/listgrid.h"
+#include "controls/grids/liststatus.h"
 #include "controls/windows/screenmetrics.h"
 #include "tests/controls/controltest.h"
+#include "tests/support/screendriver.h"
 
 #include <numeric>
+#include <QLabel>
 #include <QScrollBar>
+#include <QStatusBar>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -119,8 +123,12 @@ TEST_F(ListGridTest, aRowOfTheFirstPageIsTheOneThatIsShownAndKeysThatLeaveThePag
         query.open();
         ListGrid list;
         list.setDataSet(query, {{u"Name"_s, u"Name"_s, 200}}, guard);
+        QStatusBar bar;
+        new ListStatus(list, bar);
         QTest::keyClick(&list, Qt::Key_Down);
         EXPECT_TRUE(list.tableModel()->isPartial());
+        const auto *status = child<QLabel>(bar, "lblRows");
+        EXPECT_TRUE(comesTrue([status] { return status->text() == "Reading the rows of the list"_L1; }));
         EXPECT_EQ(list.currentIndex().row(), 1);
         EXPECT_EQ(query.integer(u"DishID"), 100) << "behind 10, where the first one has not come yet";
         if (goesOn) {
@@ -131,6 +139,7 @@ TEST_F(ListGridTest, aRowOfTheFirstPageIsTheOneThatIsShownAndKeysThatLeaveThePag
         EXPECT_TRUE(comesTrue([&list] { return list.model()->rowCount() == dishes; }));
         EXPECT_EQ(list.currentIndex().row(), goesOn ? dishes - 2 : 2);
         EXPECT_EQ(query.recordIndex(), list.currentIndex().row());
+        EXPECT_EQ(status->text(), goesOn ? u"199 of 200 rows"_s : u"3 of 200 rows"_s);
         query.close();
     }
 }

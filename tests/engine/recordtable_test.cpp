@@ -192,6 +192,7 @@ TEST_P(RecordTest, ALongListInAnotherOrderBeginsWithItsFirstRowsWithoutReadingTh
         {u"Since"_s, day, u"Since IS NULL"_s, [&day](int id) { return day(id) == 0; }, Ascending},
         {u"Since"_s, day, u"Since = '2024-05-01'"_s, [&day](int id) { return day(id) == 2; }, Always},
         {u"Number"_s, number, u"VendorID = 15"_s, [](int id) { return id == 15; }, Never},
+        {u"Number"_s, number, u"Days = 3 AND VendorID = 15"_s, [](int id) { return id == 15; }, Never},
         {u"Balance"_s, [](int) { return 0; }, {}, all, Never},
     };
     for (const auto &[field, ranked, filter, isIn, begins, leavesOut] : lists) {
@@ -208,10 +209,10 @@ TEST_P(RecordTest, ALongListInAnotherOrderBeginsWithItsFirstRowsWithoutReadingTh
             list.setFiltered(false);
             list.setSorting({});
             list.setFilter(filter);
-            ASSERT_TRUE(list.moveToKey({11}));
+            list.setFiltered(!filter.isEmpty());
+            list.moveTo(list.recordCount() - 1);
             readsOfAll = 0;
             list.setSorting({field, descending});
-            list.setFiltered(!filter.isEmpty());
             const bool beginsAnew = begins == Always || (begins == Ascending && !descending);
             ASSERT_EQ(list.beginsAnew(), beginsAnew);
             EXPECT_EQ(readsOfAll, beginsAnew ? 0 : 1);
@@ -219,10 +220,9 @@ TEST_P(RecordTest, ALongListInAnotherOrderBeginsWithItsFirstRowsWithoutReadingTh
             const auto leftOut = leavesOut && !descending ? std::ranges::count(expected, 0, number) : 0;
             for (size_t i = 0; i < first.size(); ++i)
                 EXPECT_EQ(first[i].row[0].toInt(), expected[i + static_cast<size_t>(leftOut)]);
-            if (beginsAnew) {
-                EXPECT_EQ(list.integer(u"VendorID"), first[0].row[0].toInt());
+            EXPECT_EQ(list.integer(u"VendorID"), field == "Balance"_L1 ? rows : first[0].row[0].toInt());
+            if (beginsAnew)
                 list.restToCome()(database().connection())();
-            }
             ASSERT_EQ(list.recordCount(), count);
             EXPECT_EQ(list.isOrderedByIndex(), field != "Balance"_L1);
             const auto ofNumber4 = std::ranges::find(expected, 4, number);
