@@ -21,15 +21,13 @@ struct BackupTest : KitchenTest
         addPostedDocuments(kitchen, 9, random);
     }
 
-    static QStringList contents(Engine::Database &database)
+    static QStringList contents(TestStore &store)
     {
-        QStringList all;
-        for (const QString &table : database.connection().tables()) {
-            QStringList rows = rowsOf(database, "SELECT * FROM "_L1 + table);
-            rows.sort();
-            all << table << rows;
-        }
-        return all;
+        return contentsOf(store.database(), store.connection().tables());
+    }
+    QString refusalToRestore(const QString &backup, const QTemporaryDir &target)
+    {
+        return refusalOf([&] { restoreIntoFolder(backup, target.path(), u"maria"_s, progress); });
     }
 
     // Of whoever restored it; the rest is as it was.
@@ -48,7 +46,7 @@ struct BackupTest : KitchenTest
 
 TEST_P(BackupTest, BringsEverythingBackIntoEitherStore)
 {
-    const QStringList before = contents(kitchen.database());
+    const QStringList before = contents(kitchen);
     ASSERT_GT(before.size(), 60);
     backUp(kitchen.database(), file, progress);
     EXPECT_EQ(filesLeft(), QStringList(u"kitchen.bak"_s));
@@ -57,12 +55,9 @@ TEST_P(BackupTest, BringsEverythingBackIntoEitherStore)
         TestStore other(store);
         restoreInto(other.database(), file, u"maria"_s, progress);
         takeNote(other);
-        EXPECT_EQ(contents(other.database()), before);
-        EXPECT_EQ(checkBooks(other.database(), progress,
-                             [](const BookCheck &, const BookFinding &finding) {
-                                 ADD_FAILURE() << finding.text().toStdString();
-                             }),
-                  0);
+        EXPECT_EQ(contents(other), before);
+        const auto tell = [](auto &, const BookFinding &finding) { ADD_FAILURE() << finding.text().toStdString(); };
+        EXPECT_EQ(checkBooks(other.database(), progress, tell), 0);
         // Numbers that the engine gives go on above those that have come along.
         const qint64 last = other.found(u"SELECT MAX(IHistID) FROM IHist"_s).toLongLong();
         other.execute(u"INSERT INTO IHist (ItemID) VALUES (1)"_s);
@@ -74,17 +69,15 @@ TEST_P(BackupTest, BringsEverythingBackIntoEitherStore)
 
 TEST_P(BackupTest, IsOfOneMomentWhileOthersWrite)
 {
-    const QStringList before = contents(kitchen.database());
+    const QStringList before = contents(kitchen);
     const auto anna = kitchen.anotherUser();
-    CountedProgress writing(0, [&anna] {
-        anna->database.connection().execute(u"UPDATE Item SET UnitPrice = 77; DELETE FROM IHist"_s);
-    });
+    CountedProgress writing(0, [&anna] { anna->execute(u"UPDATE Item SET UnitPrice = 77; DELETE FROM IHist"_s); });
     backUp(kitchen.database(), file, writing);
     ASSERT_GT(writing.steps, 0);
     TestStore other(Store::Local);
     restoreInto(other.database(), file, u"maria"_s, progress);
     takeNote(other);
-    EXPECT_EQ(contents(other.database()), before);
+    EXPECT_EQ(contents(other), before);
 }
 
 TEST_P(BackupTest, LeavesNothingOfWhatFails)
@@ -111,9 +104,7 @@ TEST_P(BackupTest, LeavesNothingOfWhatFails)
     EXPECT_TRUE(has(refusalOf([&] { backUp(kitchen.database(), file, progress); }), u"exists already"_s));
 
     const QTemporaryDir target;
-    const auto restore = [&] {
-        return refusalOf([&] { restoreIntoFolder(file, target.path(), u"maria"_s, progress); });
-    };
+    const auto restore = [&] { return refusalToRestore(file, target); };
     QFile backup(file);
     ASSERT_TRUE(backup.open(QIODevice::ReadWrite));
     const QByteArray sound = backup.readAll();
@@ -172,16 +163,13 @@ TEST_P(BackupTest, TellsOlderReleasesAndRefusesNewerOnes)
               QStringList({Layouts::titleOf(u"Bank"_s), Layouts::titleOf(u"IBarcode"_s)}));
 
     kitchen.execute(u"ALTER TABLE Bank ADD COLUMN Futurity integer"_s);
-    const QString newer = file + u"2"_s;
-    backUp(kitchen.database(), newer, progress);
+    backUp(kitchen.database(), file + u"2"_s, progress);
     const QTemporaryDir another;
-    EXPECT_TRUE(has(refusalOf([&] { restoreIntoFolder(newer, another.path(), u"maria"_s, progress); }).toLower(),
-                    u"futurity"_s));
+    EXPECT_TRUE(has(refusalToRestore(file + u"2"_s, another).toLower(), u"futurity"_s));
 
     kitchen.execute(u"DELETE FROM IDataVersion; INSERT INTO IDataVersion VALUES (1, 99, '9.8')"_s);
     backUp(kitchen.database(), file + u"3"_s, progress);
-    EXPECT_TRUE(has(refusalOf([&] { restoreIntoFolder(file + u"3"_s, another.path(), u"maria"_s, progress); }),
-                    u"newer release, 9.8"_s));
+    EXPECT_TRUE(has(refusalToRestore(file + u"3"_s, another), u"newer release, 9.8"_s));
     EXPECT_EQ(entriesOf(another.path()), QStringList());
 }
 

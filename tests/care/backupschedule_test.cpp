@@ -2,7 +2,6 @@
 
 #include "base/settingsstore.h"
 #include "data/lastbackup.h"
-#include "tests/support/failures.h"
 #include "tests/support/files.h"
 #include "tests/support/kitchen.h"
 

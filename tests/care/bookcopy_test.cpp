@@ -22,22 +22,16 @@ struct BookCopyTest : KitchenTest
         addPostedDocuments(kitchen, 6, random);
     }
 
-    static QStringList contents(Engine::Database &database)
+    static QStringList contents(TestStore &store)
     {
-        QStringList all;
-        for (const QString &table : tablesOfBooks(database)) {
-            QStringList rows = rowsOf(database, "SELECT * FROM "_L1 + table);
-            rows.sort();
-            all << table << rows;
-        }
-        return all;
+        return contentsOf(store.database(), tablesOfBooks(store.database()));
     }
 
     void copy(TestStore &to, Afterwards afterwards, Progress &told)
     {
         lines.clear();
-        copyBooks(kitchen.database(), to.database(), afterwards, told,
-                  [this](const QString &line) { lines << line; });
+        const auto tell = [this](const QString &line) { lines << line; };
+        copyBooks(kitchen.database(), to.database(), afterwards, told, tell);
     }
     void copy(TestStore &to, Afterwards afterwards = Afterwards::GoOn) { copy(to, afterwards, progress); }
 
@@ -55,12 +49,12 @@ struct BookCopyTest : KitchenTest
 
 TEST_P(BookCopyTest, HoldsTheSameInEitherStoreAndNothingIsCopiedOverBooks)
 {
-    const QStringList before = contents(kitchen.database());
+    const QStringList before = contents(kitchen);
     for (const Store store : {Store::Local, Store::Remote}) {
         SCOPED_TRACE(storeName(store));
         TestStore other(store);
         copy(other);
-        EXPECT_EQ(contents(other.database()), before);
+        EXPECT_EQ(contents(other), before);
         EXPECT_TRUE(lines.contains(u"Locations: 2 rows"_s)) << lines.join(u'\n').toStdString();
         EXPECT_TRUE(lines.contains(u"Check \"Balances\": nothing is wrong on either side."_s));
         EXPECT_EQ(refusalToOpen(other), QString());
@@ -69,7 +63,7 @@ TEST_P(BookCopyTest, HoldsTheSameInEitherStoreAndNothingIsCopiedOverBooks)
         EXPECT_EQ(other.found(u"SELECT MAX(IHistID) FROM IHist"_s).toLongLong(), last + 1);
         EXPECT_TRUE(has(refusalOf([&] { copy(other); }), u"holds books already (Test Kitchen, 4 items, "_s));
     }
-    EXPECT_EQ(contents(kitchen.database()), before);
+    EXPECT_EQ(contents(kitchen), before);
 }
 
 TEST_P(BookCopyTest, GoesOnWhereItWasStoppedAndIsNoBooksBefore)
@@ -96,7 +90,7 @@ TEST_P(BookCopyTest, GoesOnWhereItWasStoppedAndIsNoBooksBefore)
         };
         EXPECT_TRUE(has(refusalOf(goOn), u"Only the same can go on with it"_s));
         copy(other);
-        EXPECT_EQ(contents(other.database()), contents(kitchen.database()));
+        EXPECT_EQ(contents(other), contents(kitchen));
         EXPECT_EQ(refusalToOpen(other), QString());
     }
 }
@@ -109,26 +103,25 @@ TEST_P(BookCopyTest, BooksThatMoveTakeWhatWasWrittenMeanwhileAndNothingAfterward
     bool isFirst = true;
     meanwhile.onStart = [&] { // of the second, the moment is over
         if (!std::exchange(isFirst, false))
-            anna->database.connection().execute(u"UPDATE Item SET UnitPrice = 77 WHERE ItemID = 2"_s);
+            anna->execute(u"UPDATE Item SET UnitPrice = 77 WHERE ItemID = 2"_s);
     };
     copy(other, Afterwards::Moved, meanwhile);
     EXPECT_EQ(other.found(u"SELECT UnitPrice FROM Item WHERE ItemID = 2"_s), u"77"_s);
-    const QStringList moved = contents(kitchen.database());
-    EXPECT_EQ(contents(other.database()), moved);
+    const QStringList moved = contents(kitchen);
+    EXPECT_EQ(contents(other), moved);
     EXPECT_EQ(refusalToOpen(other), QString());
 
     const QString place = other.database().connection().location();
     for (const QString &write : {u"UPDATE Item SET UnitPrice = 1"_s, u"DELETE FROM IHist"_s,
                                  u"INSERT INTO Vendor (VendorID) VALUES (99)"_s}) // of one who had it open before
-        EXPECT_TRUE(
-            fails([&] { anna->database.connection().execute(write); }, Engine::ErrorCode::MovedAway, place));
+        EXPECT_TRUE(fails([&] { anna->execute(write); }, Engine::ErrorCode::MovedAway, place));
     EXPECT_EQ(refusalToOpen(kitchen), QString());
     EXPECT_TRUE(prompts.told().contains(u"These books have moved to %1"_s.arg(place)));
-    EXPECT_EQ(contents(kitchen.database()), moved);
+    EXPECT_EQ(contents(kitchen), moved);
 
     takeUpAgain(kitchen.database(), u"maria"_s);
     EXPECT_EQ(kitchen.found(u"SELECT \"user\" FROM History WHERE Event LIKE 'Taken up again%'"_s), u"maria"_s);
-    anna->database.connection().execute(u"UPDATE Item SET UnitPrice = 1"_s);
+    anna->execute(u"UPDATE Item SET UnitPrice = 1"_s);
     EXPECT_EQ(refusalToOpen(kitchen), QString());
     EXPECT_EQ(prompts.told(), QString());
     EXPECT_NE(refusalOf([&] { takeUpAgain(kitchen.database(), u"maria"_s); }), QString());

@@ -30,11 +30,14 @@ struct CareTest : KitchenTest
 
     QStringList check() // "balances: Apples (A10) at Office: ..."
     {
-        QStringList found;
-        checkHeldBooks(kitchen.database(), progress, [&found](const BookCheck &check, const BookFinding &finding) {
-            found << check.name + ": "_L1 + finding.text();
-        });
+        found.clear();
+        checkHeldBooks(kitchen.database(), progress, tell);
         return found;
+    }
+    RepairResult repair(const QString &backup)
+    {
+        found.clear();
+        return repairBooks(kitchen.database(), backup, u"maria"_s, progress, tell);
     }
 
     // With the statements done exactly one thing is found, by the check and with the words. They are undone again.
@@ -42,9 +45,8 @@ struct CareTest : KitchenTest
     {
         SCOPED_TRACE(statements.toStdString());
         const Engine::Transaction transaction(kitchen.database().connection());
-        kitchen.database().connection().execute(statements);
-        const QStringList found = check();
-        ASSERT_EQ(found.size(), 1) << found.join(u'\n').toStdString();
+        kitchen.execute(statements);
+        ASSERT_EQ(check().size(), 1) << found.join(u'\n').toStdString();
         EXPECT_TRUE(begins(found.first(), name + u':'));
         for (const QString &word : words)
             EXPECT_TRUE(has(found.first(), word));
@@ -57,6 +59,11 @@ struct CareTest : KitchenTest
                                 kitchen.text(u"SELECT MIN(%1) FROM %2 WHERE Posted = %3"_s.arg(
                                     kind.keyField, kind.headerTable, posted ? u"true"_s : u"false"_s)));
     }
+
+    QStringList found; // what has been told last
+    const TellFinding tell = [this](const BookCheck &check, const BookFinding &finding) {
+        found << check.name + ": "_L1 + finding.text();
+    };
 };
 
 TEST_P(CareTest, FindsNothingInBooksThatAreSound) { EXPECT_EQ(check(), QStringList()); }
@@ -85,47 +92,47 @@ TEST_P(CareTest, FindsWhatDocumentsAndHistoryDoNotAgreeAbout)
         const QString postedName = named(posted);
         const QString unpostedName = named(unposted);
         const QString last = kitchen.text(u"SELECT MAX(IHistID) FROM IHist WHERE %1"_s.arg(posted));
+        const int type = static_cast<int>(kind->posting.transType);
         const double moved = stockChange(
             kind->posting.transType, kitchen.number(u"SELECT Quantity FROM IHist WHERE IHistID = %1"_s.arg(last)));
+        const auto expect = [&](const QString &name, QString statements, const QStringList &words) {
+            for (const auto &[word, what] : {std::pair(u"$header"_s, kind->headerTable),
+                                             {u"$lines"_s, kind->lineTable},
+                                             {u"$posted"_s, posted},
+                                             {u"$unposted"_s, unposted}})
+                statements.replace(word, what);
+            expectFinding(name, statements, words);
+        };
         // As after a run that was broken off.
         expectFinding(
             u"documents"_s,
-            u"UPDATE IBalance SET QtyOnHand = QtyOnHand - (%1) WHERE ItemID = (SELECT ItemID FROM IHist WHERE "
-            "IHistID = %2) AND WarehouseID = (SELECT WarehouseID FROM IHist WHERE IHistID = %2); "
-            "DELETE FROM IHist WHERE IHistID = %2"_s.arg(moved)
-                .arg(last),
+            u"UPDATE IBalance SET QtyOnHand = QtyOnHand - (%1) WHERE (ItemID, WarehouseID) = "
+            "(SELECT ItemID, WarehouseID FROM IHist WHERE IHistID = %2); DELETE FROM IHist WHERE IHistID = %2"_s
+                .arg(QString::number(moved), last),
             {postedName, with(posted), u"marked as posted, and not in the history"_s});
-        expectFinding(
-            u"documents"_s,
-            u"DELETE FROM %1 WHERE %3; DELETE FROM %2 WHERE %3"_s.arg(kind->headerTable, kind->lineTable, posted),
-            {title, with(posted), u"It is gone, and its history is there"_s});
-        expectFinding(u"documents"_s, u"UPDATE %1 SET Posted = false WHERE %2"_s.arg(kind->headerTable, posted),
-                      {postedName, with(posted), u"all of it is in the history"_s});
-        expectFinding(u"documents"_s, u"DELETE FROM %1 WHERE %2"_s.arg(kind->headerTable, unposted),
-                      {title, with(unposted), u"4 lines of it"_s});
-        expectFinding(
-            u"documents"_s,
-            u"DELETE FROM %1 WHERE %2; INSERT INTO IBegun (TransType, DocumentID, SavedBy) VALUES (%3, %4, 'anna')"_s
-                .arg(kind->headerTable, unposted)
-                .arg(static_cast<int>(kind->posting.transType))
-                .arg(unposted.section(u' ', -1)),
-            {title, with(unposted), u"anna has begun it"_s, u"with 4 lines"_s});
-        expectFinding(u"references"_s,
-                      u"UPDATE %1 SET WarehouseID = 77 WHERE %2"_s.arg(kind->headerTable, unposted),
-                      {unpostedName, with(unposted), u"WarehouseID is 77"_s});
-        expectFinding(u"references"_s,
-                      u"UPDATE %1 SET ItemID = 77 WHERE %2 AND Seq = 3"_s.arg(kind->lineTable, unposted),
-                      {unpostedName, with(unposted), u"ItemID is 77"_s});
-        expectFinding(u"values"_s,
-                      u"UPDATE %1 SET ItemID = NULL WHERE %2 AND Seq = 2"_s.arg(kind->lineTable, unposted),
-                      {unpostedName, u"Seq 2"_s, u"ItemID is empty"_s});
-        expectFinding(u"values"_s, u"UPDATE %1 SET GLPeriod = 13 WHERE %2"_s.arg(kind->headerTable, unposted),
-                      {unpostedName, u"no period of a year"_s});
+        expect(u"documents"_s, u"DELETE FROM $header WHERE $posted; DELETE FROM $lines WHERE $posted"_s,
+               {title, with(posted), u"It is gone, and its history is there"_s});
+        expect(u"documents"_s, u"UPDATE $header SET Posted = false WHERE $posted"_s,
+               {postedName, with(posted), u"all of it is in the history"_s});
+        expect(u"documents"_s, u"DELETE FROM $header WHERE $unposted"_s,
+               {title, with(unposted), u"4 lines of it"_s});
+        expect(u"documents"_s,
+               u"DELETE FROM $header WHERE $unposted; INSERT INTO IBegun (TransType, DocumentID, SavedBy) "
+               "VALUES (%1, %2, 'anna')"_s.arg(QString::number(type), unposted.section(u' ', -1)),
+               {title, with(unposted), u"anna has begun it"_s, u"with 4 lines"_s});
+        expect(u"references"_s, u"UPDATE $header SET WarehouseID = 77 WHERE $unposted"_s,
+               {unpostedName, with(unposted), u"WarehouseID is 77"_s});
+        expect(u"references"_s, u"UPDATE $lines SET ItemID = 77 WHERE $unposted AND Seq = 3"_s,
+               {unpostedName, with(unposted), u"ItemID is 77"_s});
+        expect(u"values"_s, u"UPDATE $lines SET ItemID = NULL WHERE $unposted AND Seq = 2"_s,
+               {unpostedName, u"Seq 2"_s, u"ItemID is empty"_s});
+        expect(u"values"_s, u"UPDATE $header SET GLPeriod = 13 WHERE $unposted"_s,
+               {unpostedName, u"no period of a year"_s});
         if (kind->numberField)
-            expectFinding(u"numbers"_s,
-                          u"UPDATE %1 SET %2 = (SELECT MAX(%2) FROM %1) WHERE %3"_s.arg(
-                              kind->headerTable, *kind->numberField, unposted),
-                          {title, u"is there 2 times"_s});
+            expect(
+                u"numbers"_s,
+                u"UPDATE $header SET %1 = (SELECT MAX(%1) FROM $header) WHERE $unposted"_s.arg(*kind->numberField),
+                {title, u"is there 2 times"_s});
     }
 }
 
@@ -162,10 +169,6 @@ TEST_P(CareTest, FindsWhatNoScreenLetsIn)
 TEST_P(CareTest, GoesOnWhereATableIsMissingAndNotWhereTheFileIs)
 {
     kitchen.execute(u"ALTER TABLE ICounted RENAME TO Gone"_s);
-    QStringList found;
-    const auto tell = [&found](const BookCheck &check, const BookFinding &finding) {
-        found << check.name + ": "_L1 + finding.text();
-    };
     checkBooks(kitchen.database(), progress, tell);
     const QString told = found.join(u'\n');
     EXPECT_TRUE(found.size() > 1 && told.count(u"ICounted"_s, Qt::CaseInsensitive) == found.size())
@@ -181,13 +184,7 @@ TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
     kitchen.makeHost();
     const QTemporaryDir folder;
     const QString backup = folder.filePath(u"before.sqlite"_s);
-    QStringList told;
-    const auto repair = [&] {
-        told.clear();
-        return repairBooks(kitchen.database(), backup, u"maria"_s, progress,
-                           [&told](const BookCheck &check, const BookFinding &) { told << check.name; });
-    };
-    EXPECT_EQ(repair().mended, 0);
+    EXPECT_EQ(repair(backup).mended, 0);
     EXPECT_FALSE(QFile::exists(backup));
 
     const DocumentKind &kind = *DocumentKinds::all().first();
@@ -207,14 +204,12 @@ TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
     {
         Engine::Table open(anna->database, kind.lineTable);
         open.open();
-        EXPECT_THROW(repair(), Engine::EngineError); // she may be entering a document
+        EXPECT_THROW(repair(backup), Engine::EngineError); // she may be entering a document
     }
     EXPECT_EQ(check(), before);
 
-    const RepairResult result = repair();
-    EXPECT_EQ(result.mended, 3);
-    EXPECT_EQ(result.left, 3);
-    EXPECT_EQ(told.size(), 6);
+    const RepairResult result = repair(backup);
+    EXPECT_EQ(QList({result.mended, result.left, static_cast<int>(found.size())}), QList({3, 3, 6}));
     EXPECT_EQ(check().size(), 3);
     EXPECT_EQ(kitchen.balances(), balances) << "what is there, nobody but a count can tell";
     EXPECT_EQ(kitchen.found(u"SELECT COUNT(*) FROM %1 WHERE %2"_s.arg(kind.lineTable, unposted)), u"0"_s);
@@ -224,7 +219,7 @@ TEST_P(CareTest, MendsWhatHasOneRightAnswerAfterABackup)
     EXPECT_EQ(kitchen.rows(u"SELECT %1 FROM History"_s, user), QStringList(3, u"maria"_s));
     TestStore old(Store::Local);
     restoreInto(old.database(), backup, u"maria"_s, progress);
-    EXPECT_EQ(checkBooks(old.database(), progress, [](const BookCheck &, const BookFinding &) {}), before.size());
+    EXPECT_EQ(checkBooks(old.database(), progress, tell), before.size());
 }
 
 TEST_P(CareTest, BuildsDamagedIndexesAnewAndLeavesDamagedRowsToABackup)
@@ -235,10 +230,7 @@ TEST_P(CareTest, BuildsDamagedIndexesAnewAndLeavesDamagedRowsToABackup)
     rememberBackup(kitchen.database());
     const QTemporaryDir folder;
     int repairs = 0;
-    const auto repair = [&] {
-        return repairBooks(kitchen.database(), folder.filePath(u"before-%1.sqlite"_s.arg(++repairs)), u"maria"_s,
-                           progress, [](const BookCheck &, const BookFinding &) {});
-    };
+    const auto repairAgain = [&] { return repair(folder.filePath(u"before-%1.sqlite"_s.arg(++repairs))); };
     const QStringList history = kitchen.rows(u"SELECT * FROM IHist NOT INDEXED ORDER BY IHistID"_s);
     const QString index =
         kitchen.text(u"SELECT name FROM sqlite_schema WHERE type = 'index' AND tbl_name = 'IHist' "
@@ -251,9 +243,8 @@ TEST_P(CareTest, BuildsDamagedIndexesAnewAndLeavesDamagedRowsToABackup)
         ASSERT_FALSE(isSound(kitchen));
         const bool isToldOf = check().join(u'\n').contains(u"A repair builds the indexes of these tables anew"_s);
         EXPECT_EQ(isToldOf, byte == kindOfPage) << "where entries stand a check does not look";
-        const RepairResult result = repair();
-        EXPECT_EQ(result.mended, 1);
-        EXPECT_EQ(result.left, 0);
+        const RepairResult result = repairAgain();
+        EXPECT_TRUE(result.mended == 1 && result.left == 0);
         EXPECT_TRUE(isSound(kitchen));
         EXPECT_EQ(check(), QStringList());
         EXPECT_EQ(kitchen.rows(u"SELECT * FROM IHist NOT INDEXED ORDER BY IHistID"_s), history);
@@ -267,12 +258,11 @@ TEST_P(CareTest, BuildsDamagedIndexesAnewAndLeavesDamagedRowsToABackup)
     kitchen.execute(schema.arg(u"replace(sql, ' WHERE ItemID > 1', '')"_s, index));
     kitchen.database().close();
     EXPECT_TRUE(check().join(u'\n').contains(u"the index %1 has"_s.arg(index)));
-    EXPECT_EQ(repair().mended, 1);
+    EXPECT_EQ(repairAgain().mended, 1);
 
     flipByte(kitchen, u"IHist"_s, kindOfPage);
-    const QString found = check().join(u'\n');
-    EXPECT_TRUE(has(found, u"restore the last backup. The last one that is known was made on"_s));
-    EXPECT_EQ(repair().mended, 0);
+    EXPECT_TRUE(has(check().join(u'\n'), u"restore the last backup. The last one that is known was made on"_s));
+    EXPECT_EQ(repairAgain().mended, 0);
     EXPECT_FALSE(QFile::exists(folder.filePath(u"before-%1.sqlite"_s.arg(repairs))));
 }
 

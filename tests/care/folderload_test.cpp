@@ -16,10 +16,9 @@ TEST(FolderLoad, CountsThoseWhoWriteAndWhatThereIsAndLeavesAServerAlone)
         store.database().createTable(Layouts::iHist());
         store.execute(u"INSERT INTO IHist (Quantity) VALUES (1), (2), (3)"_s);
         const auto reader = store.anotherUser(u"reader"_s);
-        reader->database.connection();
-        Engine::LockManager &mine = store.database().connection().locks();
-        ASSERT_TRUE(mine.tryLockRecord(u"Item"_s, {1}));
-        mine.unlockRecord(u"Item"_s, {1});
+        reader->connection();
+        ASSERT_TRUE(store.locks().tryLockRecord(u"Item"_s, {1}));
+        store.locks().unlockRecord(u"Item"_s, {1});
         const std::optional<FolderLoad> load = FolderLoad::of(store.database());
         ASSERT_EQ(load.has_value(), where == Store::Local);
         if (!load)

@@ -2,10 +2,10 @@
 
 #include "base/dataversion.h"
 #include "data/layouts.h"
-#include "engine/records/query.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/dataplace.h"
+#include "tests/support/madelayout.h"
 #include "tests/support/spokenprompts.h"
 #include "tests/support/theirtable.h"
 
@@ -16,22 +16,20 @@ using namespace Qt::StringLiterals;
 using namespace Tallymere;
 using Engine::ErrorCode;
 using Engine::Table;
-using Engine::Value;
 
+// A store with the tables of its host.
 struct DataModule : testing::TestWithParam<Store>
 {
-    void makeHost(const QString &postalFormat = u"USA"_s)
-    {
-        HostTables::createHostTables(store.database(), u"Riverside Meals"_s, postalFormat);
-    }
-
+    DataModule() { HostTables::createHostTables(store.database(), u"Riverside Meals"_s, u"USA"_s); }
     std::unique_ptr<TDataModuleTallymere> start(DataModuleOptions options = {})
     {
-        options.clock = [] { return QDate(2026, 11, 24).startOfDay(); };
-        return std::make_unique<TDataModuleTallymere>(settings, prompts, placeOf(store, std::move(options)));
+        return startOn(store, std::move(options));
     }
-
-    Value stored(const QString &sql) { return Engine::singleValue(store.database(), sql); }
+    std::unique_ptr<TDataModuleTallymere> startOn(const TestStore &place, DataModuleOptions options = {})
+    {
+        options.clock = [] { return QDate(2026, 11, 24).startOfDay(); };
+        return std::make_unique<TDataModuleTallymere>(settings, prompts, placeOf(place, std::move(options)));
+    }
 
     TestStore store{GetParam()};
     MemorySettings settings;
@@ -40,7 +38,6 @@ struct DataModule : testing::TestWithParam<Store>
 
 TEST_P(DataModule, FirstStartMakesEveryTableAndItsFirstRows)
 {
-    makeHost();
     const QStringList hostTables = store.tables();
     const auto dataModule = start();
 
@@ -59,12 +56,9 @@ TEST_P(DataModule, FirstStartMakesEveryTableAndItsFirstRows)
     EXPECT_EQ(store.found(u"SELECT WarehouseID, WarehouseName FROM Warehse"_s), u"1|Office");
     EXPECT_EQ(store.found(u"SELECT BankID, BankName, CurrencyID FROM Bank"_s), u"1|Meal Preparation Account|1");
     EXPECT_EQ(store.found(u"SELECT CurrencyID, ExchangeRate FROM Currency"_s), u"1|1");
-    for (const Engine::TableLayout *layout : Layouts::applied()) {
-        const bool seeded =
-            QStringList{u"Company"_s, u"Warehse"_s, u"Bank"_s, u"Currency"_s, u"IDataVersion"_s}.contains(
-                layout->name);
-        EXPECT_EQ(stored(u"SELECT count(*) FROM "_s + layout->name).toInt(), seeded ? 1 : 0);
-    }
+    const QStringList seeded{u"Company"_s, u"Warehse"_s, u"Bank"_s, u"Currency"_s, u"IDataVersion"_s};
+    for (const Engine::TableLayout *layout : Layouts::applied())
+        EXPECT_EQ(store.found(u"SELECT count(*) FROM "_s + layout->name).toInt(), seeded.count(layout->name));
     EXPECT_EQ(dataModule->cMode(), GetParam() == Store::Local ? u"F"_s : u"C"_s);
     EXPECT_TRUE(dataModule->tableIHist().isOpen() && dataModule->tableIBalance().isOpen());
     EXPECT_TRUE(prompts.said.isEmpty());
@@ -78,41 +72,35 @@ TEST_P(DataModule, PostalFormatNamesTheFirstCurrency)
         {u"UK "_s, germany, u"Pounds"_s},   {u"DEU"_s, germany, u"EUR"_s},
         {u"UK"_s, germany, u"EUR"_s},       {u"usa"_s, QLocale(u"en_AU"_s), u"AUD"_s},
         {u""_s, QLocale::c(), u"Local $"_s}};
-    makeHost();
     for (const auto &[format, locale, name] : cases) {
         store.execute(u"UPDATE Config SET Postal_Format = '%1'"_s, format);
         start({.locale = locale});
-        EXPECT_EQ(stored(u"SELECT CurrencyName FROM Currency"_s).toText(), name) << format.toStdString();
+        EXPECT_EQ(store.rows(u"SELECT CurrencyName FROM Currency"_s), QStringList(name)) << format.toStdString();
         store.execute(u"DELETE FROM Currency"_s);
     }
 }
 
 TEST_P(DataModule, LaterStartsFollowTheHostAndKeepTheUsersSettings)
 {
-    makeHost();
     start();
-    store.execute(
-        u"UPDATE Company SET FiscalYear = 2004, DefaultNetDays = 0, InvoiceFormat = 'I', AddressLine1 = 'typed "
-        "here', AddressLine3 = 'back door', DefaultCurrencyID = NULL; UPDATE Warehse SET WarehouseName = "
-        "'Kitchen'; UPDATE Config SET Organizatn = '%1🥕🥕', Org_Addr = '1 Quay', Org_City = 'Leeds', Org_ZIP "
-        "= "
-        "'LS1', Org_Phone = '0113-496-0000 extension 12345'"_s,
-        QString(39, u'n'));
+    store.execute(u"UPDATE Company SET FiscalYear = 2004, DefaultNetDays = 0, InvoiceFormat = 'I', "
+                  "AddressLine1 = 'typed here', AddressLine3 = 'back door', DefaultCurrencyID = NULL; "
+                  "UPDATE Warehse SET WarehouseName = 'Kitchen'; UPDATE Config SET Organizatn = '%1🥕🥕', "
+                  "Org_Addr = '1 Quay', Org_City = 'Leeds', Org_ZIP = 'LS1', "
+                  "Org_Phone = '0113-496-0000 extension 12345'"_s,
+                  QString(39, u'n'));
     start();
     // Cut to the field, by whole characters.
     EXPECT_EQ(store.rows(u"SELECT CompanyName, AddressLine1, AddressLine2, Phone FROM Company"_s),
               QStringList(QString(39, u'n') + u"🥕|1 Quay|Leeds  LS1|0113-496-0000 extens"_s));
-    EXPECT_EQ(
-        store.found(
-            u"SELECT FiscalYear, DefaultNetDays, InvoiceFormat, AddressLine3, DefaultCurrencyID FROM Company"_s),
-        u"2004|0|I|back door|1");
-    EXPECT_EQ(store.found(u"SELECT WarehouseName FROM Warehse"_s), u"Kitchen");
+    EXPECT_EQ(store.found(u"SELECT FiscalYear, DefaultNetDays, InvoiceFormat, AddressLine3, DefaultCurrencyID, "
+                          "WarehouseName FROM Company, Warehse"_s),
+              u"2004|0|I|back door|1|Kitchen");
 }
 
 // Writing nothing shows in that locks of others are not in the way.
 TEST_P(DataModule, StartWithNothingToChangeNeedsNoLock)
 {
-    makeHost();
     start();
     TheirTable company(store, u"Company"_s);
     company.edit();
@@ -127,21 +115,16 @@ TEST_P(DataModule, StartWithNothingToChangeNeedsNoLock)
 
 TEST_P(DataModule, TablesOfAnOlderLayoutAreBroughtUpToDateWithTheirRowsUnlessInUse)
 {
-    makeHost();
-    Engine::TableLayout oldVendor{u"Vendor"_s,
-                                  {{u"VendorID"_s, Engine::FieldType::Integer},
-                                   {u"VendorName"_s, Engine::FieldType::Text, 60},
-                                   {u"Obsolete"_s, Engine::FieldType::Text, 5}},
-                                  {{{}, u"VendorID"_s, Engine::IndexOption::Primary}}};
-    store.database().createTable(oldVendor);
+    store.database().createTable(
+        madeLayout(u"Vendor"_s, u"VendorID integer, VendorName text 60, Obsolete text 5"_s, u"VendorID primary"_s));
     Engine::TableLayout oldHistory = Layouts::iHist();
     oldHistory.indexes.removeLast();
     oldHistory.fields.removeLast();
     oldHistory.indexes.removeIf([](const Engine::IndexDef &index) { return index.fields.contains(u"UsageID"_s); });
     store.database().createTable(oldHistory);
-    store.execute(u"INSERT INTO Vendor (VendorID, VendorName, Obsolete) VALUES (7, '%1', 'x')"_s,
+    store.execute(u"INSERT INTO Vendor (VendorID, VendorName, Obsolete) VALUES (7, '%1', 'x'); "
+                  "INSERT INTO IHist (ItemID, Quantity) VALUES (5, 2.5)"_s,
                   QString(50, u'v'));
-    store.execute(u"INSERT INTO IHist (ItemID, Quantity) VALUES (5, 2.5)"_s);
     TheirTable inUse(store, u"Vendor"_s);
     EXPECT_TRUE(fails([&] { start(); }, ErrorCode::TableInUse, u"Vendor"_s));
     EXPECT_EQ(store.found(u"SELECT Obsolete FROM Vendor"_s), u"x"_s);
@@ -150,22 +133,20 @@ TEST_P(DataModule, TablesOfAnOlderLayoutAreBroughtUpToDateWithTheirRowsUnlessInU
     start();
     for (const Engine::TableLayout *layout : Layouts::applied())
         EXPECT_FALSE(store.database().differs(*layout)) << layout->name.toStdString();
-    EXPECT_EQ(stored(u"SELECT VendorName FROM Vendor WHERE VendorID = 7"_s).toText(), QString(40, u'v'));
-    EXPECT_EQ(stored(u"SELECT Quantity FROM IHist WHERE ItemID = 5 AND UsageID IS NULL"_s).toDouble(), 2.5);
+    EXPECT_EQ(store.found(u"SELECT VendorName FROM Vendor WHERE VendorID = 7"_s), QString(40, u'v'));
+    EXPECT_EQ(store.found(u"SELECT Quantity FROM IHist WHERE ItemID = 5 AND UsageID IS NULL"_s), u"2.5"_s);
 }
 
 TEST_P(DataModule, DataOfANewerReleaseAreLeftAsTheyAre)
 {
-    makeHost();
     start();
     store.execute(u"ALTER TABLE Bank ADD COLUMN Futurity integer; UPDATE Bank SET Futurity = 42; "
                   "UPDATE IDataVersion SET DataVersion = DataVersion + 1, ProgramVersion = '9.8'; "
                   "UPDATE Config SET Organizatn = 'Another'"_s);
     bool prepared = false;
-    DataModuleOptions options;
-    options.createDatabase = true;
-    options.prepareHost = [&](Engine::Database &) { prepared = true; };
-    EXPECT_TRUE(fails([&] { start(std::move(options)); }, ErrorCode::CannotOpen, u"newer release, 9.8"_s));
+    const auto prepare = [&](Engine::Database &) { prepared = true; };
+    const auto begin = [&] { start({.createDatabase = true, .prepareHost = prepare}); };
+    EXPECT_TRUE(fails(begin, ErrorCode::CannotOpen, u"newer release, 9.8"_s));
     EXPECT_FALSE(prepared);
     EXPECT_EQ(store.found(u"SELECT Futurity, CompanyName, ProgramVersion FROM Bank, Company, IDataVersion"_s),
               u"42|Riverside Meals|9.8");
@@ -173,8 +154,8 @@ TEST_P(DataModule, DataOfANewerReleaseAreLeftAsTheyAre)
     // An older one's are taken, and are this one's from then on.
     store.execute(u"UPDATE IDataVersion SET DataVersion = 0"_s);
     start();
-    EXPECT_EQ(stored(u"SELECT DataVersion FROM IDataVersion"_s).toInt(), dataVersion);
-    EXPECT_EQ(stored(u"SELECT ProgramVersion FROM IDataVersion"_s).toText(), QStringLiteral(TALLYMERE_VERSION));
+    EXPECT_EQ(store.found(u"SELECT DataVersion, ProgramVersion FROM IDataVersion"_s),
+              u"%1|"_s.arg(dataVersion) + QStringLiteral(TALLYMERE_VERSION));
 }
 
 // What tells an older release that it must keep its hands off is a number that somebody has to raise.
@@ -196,20 +177,18 @@ TEST(Layouts, areThoseOfTheDataVersion)
 
 TEST_P(DataModule, DatabaseWithoutHostIsLeftAlone)
 {
-    EXPECT_TRUE(fails([&] { start(); }, ErrorCode::NoSuchTable,
+    TestStore bare(GetParam());
+    EXPECT_TRUE(fails([&] { startOn(bare); }, ErrorCode::NoSuchTable,
                       u"The configuration of the host application is missing in "_s));
-    EXPECT_TRUE(store.tables().isEmpty());
-
-    makeHost();
+    EXPECT_TRUE(bare.tables().isEmpty());
     store.execute(u"DELETE FROM Config"_s);
     EXPECT_NO_THROW(start()) << "a host without its row has no name yet";
 }
 
 TEST_P(DataModule, TwoFirstStartsAtTheSameTimeBothSucceed)
 {
-    makeHost();
     const auto other = store.anotherUser();
-    Engine::LockManager &locks = other->database.connection().locks();
+    Engine::LockManager &locks = other->locks();
     ASSERT_TRUE(locks.tryLockTable(u"(start)"_s)) << "as another user's start does";
     int pauses = 0;
     start({.waitFor = [&](std::chrono::milliseconds) {
@@ -223,7 +202,6 @@ TEST_P(DataModule, TwoFirstStartsAtTheSameTimeBothSucceed)
 
 TEST_P(DataModule, ParametersAndTemporaryTablesStayOutOfTheDatabase)
 {
-    makeHost();
     auto dataModule =
         start({.prepareReportPrinting = []() -> std::optional<bool> { throw std::runtime_error("no printer"); }});
     const QStringList tables = store.tables();

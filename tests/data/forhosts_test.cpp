@@ -131,9 +131,7 @@ TEST(DamagedTable, IsMendedWhenItsFirstReadFindsTheDamage)
 {
     TestStore store(Store::Local);
     store.database().createTable(Layouts::tax());
-    store.execute(
-        u"INSERT INTO Tax (TaxID, TaxName) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
-        "WHERE i < 2000) SELECT i, 'Tax number ' || i FROM n"_s);
+    store.fill(u"Tax (TaxID, TaxName)"_s, u"i, 'Tax number ' || i"_s, 2000);
     const int lost = damage(store, u"Tax"_s);
     TheirTable held(store, u"Tax"_s);
     Engine::Table tax(store.database(), u"Tax"_s);

@@ -63,10 +63,7 @@ TEST_P(NameIndexTest, AnswersBestFirstAndByNumber)
 // What has been read answers until the new is there whole; then renamed, added and deleted records are known.
 TEST_P(NameIndexTest, ReadsAnewInStepsWhileItAnswers)
 {
-    QStringList rows;
-    for (int key = 1; key <= 5'000; ++key)
-        rows << u"(%1, 'N%1', 'Item %1')"_s.arg(key);
-    store.execute(u"INSERT INTO Item (ItemID, ItemNo, ItemDescription) VALUES "_s + rows.join(u','));
+    store.fill(u"Item (ItemID, ItemNo, ItemDescription)"_s, u"i, 'N' || i, 'Item ' || i"_s, 5'000);
     index.readAnew();
     EXPECT_TRUE(index.readOn(0));
     EXPECT_TRUE(index.isReading());
@@ -75,8 +72,8 @@ TEST_P(NameIndexTest, ReadsAnewInStepsWhileItAnswers)
     readWhole();
     EXPECT_EQ(found(u"n5000"_s), u"5000=N5000"_s);
 
-    store.execute(u"UPDATE Item SET ItemDescription = 'Renamed' WHERE ItemID = 4999"_s);
-    store.execute(u"DELETE FROM Item WHERE ItemID = 5000"_s);
+    store.execute(u"UPDATE Item SET ItemDescription = 'Renamed' WHERE ItemID = 4999; "
+                  "DELETE FROM Item WHERE ItemID = 5000"_s);
     index.readAnew();
     index.readOn(0);
     EXPECT_EQ(found(u"n5000"_s), u"5000=N5000"_s);

@@ -159,3 +159,14 @@ QStringList rowsOf(Engine::Database &database, const QString &sql)
     }
     return rows;
 }
+
+QStringList contentsOf(Engine::Database &database, const QStringList &tables)
+{
+    QStringList all;
+    for (const QString &table : tables) {
+        QStringList rows = rowsOf(database, "SELECT * FROM "_L1 + table);
+        rows.sort();
+        all << table << rows;
+    }
+    return all;
+}

@@ -38,6 +38,9 @@ template <typename... Values> QString filledIn(QString sql, const Values &...val
 // All rows of a statement, one text each: "1|2.5|abc", nulls empty.
 QStringList rowsOf(Engine::Database &database, const QString &sql);
 
+// All rows of tables, those of each behind its name and in the order of their texts.
+QStringList contentsOf(Engine::Database &database, const QStringList &tables);
+
 QString testServerAddress(); // of a cluster several: TALLYMERE_TEST_ADDRESS
 
 // Drops a database of the test server, if it is there. Throws EngineError when somebody keeps it open for good.
