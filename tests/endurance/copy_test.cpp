@@ -39,18 +39,15 @@ void copyAndDie(Engine::Database &books, const QStringList &arguments)
 // Everything that the tables hold and how their indexes are, in the order of their rows' text.
 QStringList contents(Engine::Database &database)
 {
-    QStringList all;
-    for (const QString &table : tablesOfBooks(database)) {
+    const QStringList tables = tablesOfBooks(database);
+    QStringList indexes;
+    for (const QString &table : tables) {
         const Engine::TableLayout layout = database.connection().describe(table).value();
-        QStringList indexes;
         for (const Engine::IndexDef &index : layout.indexes)
-            indexes << u"%1(%2)%3"_s.arg(index.name, index.fields).arg(index.options.toInt());
-        indexes.sort();
-        QStringList rows = rowsOf(database, "SELECT * FROM "_L1 + table);
-        rows.sort();
-        all << table << indexes << rows;
+            indexes << u"%1.%2(%3)%4"_s.arg(table, index.name, index.fields).arg(index.options.toInt());
     }
-    return all;
+    indexes.sort();
+    return indexes + contentsOf(database, tables);
 }
 
 struct CopyTest : testing::Test

@@ -2,7 +2,6 @@
 // synchronize, list, check and back up, each as it comes. Each says what he was answered. In the end the books must come to
 // exactly that.
 
-#include "engine/store/lockmanager.h"
 #include "master/itemsync.h"
 #include "tests/endurance/people.h"
 #include "tests/support/chance.h"
@@ -45,7 +44,7 @@ struct CrowdTest : testing::TestWithParam<Store>
     {
         QString told;
         for (const QString &table : kitchen.tables()) {
-            if (const QString holder = kitchen.database().connection().locks().holderOf(table); !holder.isEmpty())
+            if (const QString holder = kitchen.locks().holderOf(table); !holder.isEmpty())
                 told += u'\n' + table + holder;
         }
         if (GetParam() == Store::Remote)

@@ -1,11 +1,12 @@
 #include "tests/endurance/cuts.h"
 
 #include "tests/endurance/books.h"
+#include "tests/support/chance.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <gtest/gtest.h>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QSet>
 #include <QTemporaryDir>
 
@@ -132,6 +133,18 @@ void Cuts::judge(int wanted, unsigned seed)
         disk.take(operation);
     }
     distinct = static_cast<int>(m_known.size());
+}
+
+void Cuts::expectNoFaults(int wanted)
+{
+    QElapsedTimer time;
+    time.start();
+    const unsigned seed = chanceSeed();
+    judge(wanted, seed);
+    std::printf("%d states, %d distinct of their books, %d runs resumed, %.1f s\n", states, distinct, resumed,
+                double(time.elapsed()) / 1000);
+    EXPECT_EQ(faults.size(), 0) << "TALLYMERE_TEST_SEED=" << seed << '\n'
+                                << faults.mid(0, 5).join(u'\n').toStdString();
 }
 
 void Cuts::judgeState(const Disk::Files &files, size_t stage, const std::vector<const Verdicts *> &legal)

@@ -22,6 +22,8 @@ public:
     // Cuts the power so often, spread over the day. Each state must hold books that check finds sound, no older than what
     // was answered before the cut and no newer than what was begun; what was under way goes on then, to the same stock.
     void judge(int states, unsigned seed);
+    // The same with a seed that chance gives, and fails at faults. What was looked at is printed.
+    void expectNoFaults(int states);
 
     QString stock() const { return m_stock.last(); } // in the end
 

@@ -47,17 +47,12 @@ void enter(Engine::Database &database, const QStringList &arguments)
 {
     database.session().applicationUser = u"user"_s + arguments.value(0);
     SpokenPrompts prompts;
-    const auto first = [&](const char *table) {
-        return rowsOf(database,
-                      u"SELECT min(%1ID) FROM %2"_s.arg(
-                          table == std::string("Warehse") ? u"Warehouse"_s : QString::fromLatin1(table),
-                          QString::fromLatin1(table)))
-            .first()
-            .toInt();
+    const auto first = [&](const QString &key, const QString &table) {
+        return rowsOf(database, u"SELECT min(%1) FROM %2"_s.arg(key, table)).first().toInt();
     };
-    const int item = first("Item");
-    const int vendor = first("Vendor");
-    const int location = first("Warehse");
+    const int item = first(u"ItemID"_s, u"Item"_s);
+    const int vendor = first(u"VendorID"_s, u"Vendor"_s);
+    const int location = first(u"WarehouseID"_s, u"Warehse"_s);
     for (int number = 1;; ++number) {
         const QString word = u"u%1-%2"_s.arg(arguments.value(0)).arg(number);
         const qint64 begun = now();
@@ -290,17 +285,13 @@ struct FailoverTest : testing::Test
         }
         for (const QString &word : std::as_const(answered))
             EXPECT_TRUE(there.contains(word)) << "answered and lost: " << qPrintable(word);
-        if (HasFailure())
+        if (HasFailure()) { // with what there is of it
+            m_told += rowsOf(other->database,
+                             u"SELECT ReceiptID, PurchaseOrderNo, Posted, (SELECT count(*) FROM IRecDet D "
+                             "WHERE D.ReceiptID = H.ReceiptID) FROM IReceipt H WHERE PurchaseOrderNo LIKE 'w%' "
+                             "OR coalesce(PurchaseOrderNo, '') = '' ORDER BY ReceiptID"_s);
             std::printf("%s\n", qPrintable(m_told.join(u'\n')));
-        if (HasFailure()) // what there is of it
-            std::printf(
-                "%s\n",
-                qPrintable(
-                    rowsOf(other->database,
-                           u"SELECT ReceiptID, PurchaseOrderNo, Posted, (SELECT count(*) FROM IRecDet D "
-                           "WHERE D.ReceiptID = H.ReceiptID) FROM IReceipt H WHERE PurchaseOrderNo LIKE 'w%' "
-                           "OR coalesce(PurchaseOrderNo, '') = '' ORDER BY ReceiptID"_s)
-                        .join(u'\n')));
+        }
         Findings found;
         EXPECT_TRUE(comesTrue([&] { return !errorOf([&] { found = checked(other->database); }); }));
         EXPECT_EQ(found.bad.join(u'\n').toStdString(), "");
@@ -321,12 +312,9 @@ TEST_F(FailoverTest, WhatWasAnsweredIsThereOnceAndEverybodyGoesOn)
     cli = std::make_unique<CliRunner>(Store::Remote);
     makeSmallCompany(*cli);
     cli->execute(u"UPDATE Item SET Suspended = false WHERE Suspended IS NULL"_s);
-    for (int number = 1; number <= enterers; ++number)
-        start(u"enter"_s, number);
-    for (int number = 1; number <= posters; ++number)
-        start(u"post"_s, number);
-    for (int number = 1; number <= sitters; ++number)
-        start(u"sit"_s, number);
+    for (const auto &[task, count] : {std::pair(u"enter"_s, enterers), {u"post"_s, posters}, {u"sit"_s, sitters}})
+        for (int number = 1; number <= count; ++number)
+            start(task, number);
     ASSERT_TRUE(begin());
     const int rounds = timesByHand(static_cast<int>(std::size(faults)));
     std::printf("seconds until usable\n%-16s %s\n", "fault",

@@ -29,23 +29,19 @@ struct Kind
     bool ofMemory = false;
     bool alwaysEach = false; // there are few of them
 };
-const std::vector<Kind> &kinds()
-{
-    static const std::vector<Kind> all = {
-        {"OpenEACCES", {Call::Open, 0, EACCES}},
-        {"OpensEMFILE", {Call::Open, 0, EMFILE, true}},
-        {"WriteEIO", {Call::Write, 0, EIO}},
-        {"WritesENOSPC", {Call::Write, 0, ENOSPC, true}},
-        {"SyncEIO", {Call::Sync, 0, EIO}},
-        {"SyncsEIO", {Call::Sync, 0, EIO, true}, false, true},
-        {"LockEAGAIN", {Call::Lock, 0, EAGAIN}},
-        {"LockEIO", {Call::Lock, 0, EIO}},
-        {"NameEIO", {Call::Name, 0, EIO}},
-        {"Memory", {Call::Open, 0, ENOMEM}, true},
-        {"MemoryForGood", {Call::Open, 0, ENOMEM, true}, true},
-    };
-    return all;
-}
+const Kind kinds[] = {
+    {"OpenEACCES", {Call::Open, 0, EACCES}},
+    {"OpensEMFILE", {Call::Open, 0, EMFILE, true}},
+    {"WriteEIO", {Call::Write, 0, EIO}},
+    {"WritesENOSPC", {Call::Write, 0, ENOSPC, true}},
+    {"SyncEIO", {Call::Sync, 0, EIO}},
+    {"SyncsEIO", {Call::Sync, 0, EIO, true}, false, true},
+    {"LockEAGAIN", {Call::Lock, 0, EAGAIN}},
+    {"LockEIO", {Call::Lock, 0, EIO}},
+    {"NameEIO", {Call::Name, 0, EIO}},
+    {"Memory", {Call::Open, 0, ENOMEM}, true},
+    {"MemoryForGood", {Call::Open, 0, ENOMEM, true}, true},
+};
 void PrintTo(const Kind &kind, std::ostream *out) { *out << kind.name; }
 
 sqlite3_mem_methods realMemory;
@@ -127,11 +123,12 @@ public:
     void run()
     {
         takeSqlitesMemory();
-        const qsizetype handles = QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size();
+        const auto handles = [] { return entriesOf(u"/proc/self/fd"_s).size(); };
+        const qsizetype before = handles();
         const Outcome outcome = attempt(true);
         if (sqlite3_memory_used() != 0)
             wrong << u"SQLite keeps %1 bytes"_s.arg(sqlite3_memory_used());
-        if (QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size() != handles)
+        if (handles() != before)
             wrong << u"files stay open"_s;
         if (outcome.status != 0 && outcome.status != 1 && outcome.status != 3)
             wrong << u"ends with %1"_s.arg(outcome.status);
@@ -284,7 +281,7 @@ struct Faults : testing::TestWithParam<Kind>
     static inline std::vector<Task> all;
     static inline int spread = 0; // so that not every task fails at its first calls
 };
-INSTANTIATE_TEST_SUITE_P(, Faults, testing::ValuesIn(kinds()), [](const auto &kind) { return kind.param.name; });
+INSTANTIATE_TEST_SUITE_P(, Faults, testing::ValuesIn(kinds), [](const auto &kind) { return kind.param.name; });
 
 // So many trials of each kind of fault in each task are spread over its calls; where there are so many as no task has calls,
 // each call of a save, an import, a posting, a backup and a restore fails once.

@@ -1,11 +1,7 @@
 // A day of commands, and the power goes at any moment of it.
 
 #include "tests/endurance/day.h"
-#include "tests/support/chance.h"
 #include "tests/support/otheruser.h"
-
-#include <cstdio>
-#include <QElapsedTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -25,12 +21,6 @@ std::vector<Stage> wholeDay(const Inputs &inputs, bool isLong)
     return stages;
 }
 
-void tell(const Cuts &cuts, qint64 milliseconds)
-{
-    std::printf("%d states, %d distinct of their books, %d runs resumed, %.1f s\n", cuts.states, cuts.distinct,
-                cuts.resumed, double(milliseconds) / 1000);
-}
-
 class PowerCuts : public testing::TestWithParam<const char *>
 {
 protected:
@@ -44,15 +34,8 @@ INSTANTIATE_TEST_SUITE_P(Journals, PowerCuts, testing::Values("Log", "Rollback")
 
 TEST_P(PowerCuts, LeaveTheBooksAsTheyWereAnswered)
 {
-    QElapsedTimer time;
-    time.start();
-    const unsigned seed = chanceSeed();
     const int times = timesByHand(0);
-    Cuts cuts(wholeDay(inputs, times > 0));
-    cuts.judge(times > 0 ? times : 80, seed);
-    tell(cuts, time.elapsed());
-    EXPECT_EQ(cuts.faults.size(), 0) << "TALLYMERE_TEST_SEED=" << seed << '\n'
-                                     << cuts.faults.mid(0, 5).join(u'\n').toStdString();
+    Cuts(wholeDay(inputs, times > 0)).expectNoFaults(times > 0 ? times : 80);
 }
 
 // The test of the test.

@@ -1,13 +1,9 @@
 // The power goes while somebody works in windows, by keyboard.
 
-#include "engine/records/query.h"
 #include "tests/endurance/books.h"
 #include "tests/endurance/desk.h"
-#include "tests/support/chance.h"
 #include "tests/support/otheruser.h"
 #include "transactions/documentkinds.h"
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -28,14 +24,9 @@ Stage window(const QString &name, const std::function<void(Desk &)> &work, const
 
 void judge(std::vector<Stage> stages, const char *stock)
 {
-    const unsigned seed = chanceSeed();
     Cuts cuts(std::move(stages));
     ASSERT_TRUE(has(cuts.stock(), QString::fromLatin1(stock)));
-    cuts.judge(timesByHand(40), seed);
-    std::printf("%d states, %d distinct of their books, %d runs resumed\n", cuts.states, cuts.distinct,
-                cuts.resumed);
-    EXPECT_EQ(cuts.faults.size(), 0) << "TALLYMERE_TEST_SEED=" << seed << '\n'
-                                     << cuts.faults.mid(0, 5).join(u'\n').toStdString();
+    cuts.expectNoFaults(timesByHand(40));
 }
 
 TEST(ScreenCuts, LeaveWhatWasSavedPostedAndCounted)
@@ -43,8 +34,8 @@ TEST(ScreenCuts, LeaveWhatWasSavedPostedAndCounted)
     const Inputs inputs;
     std::vector<Stage> stages = firstStages(inputs);
     stages.push_back(window(u"enter"_s, [](Desk &desk) {
-        if (!Engine::hasRow(desk.data.databaseTallymere(), u"IReceipt"_s, u"ReceiptNo"_s,
-                            u"1003"_s)) // entered whole
+        Engine::Database &books = desk.data.databaseTallymere();
+        if (!Engine::hasRow(books, u"IReceipt"_s, u"ReceiptNo"_s, u"1003"_s)) // entered whole
             desk.enterReceipt("1", "5");
     }));
     stages.back().damages = true; // its lines are there before its header
