@@ -49,7 +49,7 @@ std::unique_ptr<TestUser> CliRunner::anotherUser() const
 
 void CliRunner::execute(const QString &script) { anotherUser()->database.connection().execute(script); }
 
-std::unique_ptr<QProcess> CliRunner::start(const QStringList &words)
+std::unique_ptr<QProcess> CliRunner::start(const Words &words)
 {
     auto process = std::make_unique<QProcess>();
     process->setWorkingDirectory(m_work.path());
@@ -70,9 +70,23 @@ CliResult CliRunner::finish(QProcess &process)
     return result;
 }
 
-CliResult CliRunner::run(const QStringList &words) { return finish(*start(words)); }
+CliResult CliRunner::run(const Words &words) { return finish(*start(words)); }
 
-CliResult CliRunner::runBare(const QStringList &words, const QStringList &environment)
+QString CliRunner::output(const Words &words)
+{
+    const CliResult result = run(words);
+    EXPECT_EQ(result.status, 0) << result;
+    return result.output;
+}
+
+QString CliRunner::errors(const Words &words, int status)
+{
+    const CliResult result = run(words);
+    EXPECT_EQ(result.status, status) << result;
+    return result.errors;
+}
+
+CliResult CliRunner::runBare(const Words &words, const QStringList &environment)
 {
     QProcess process;
     process.setWorkingDirectory(m_work.path());
@@ -95,11 +109,9 @@ CliResult CliRunner::import(const QString &kind, const QByteArray &csv)
     return run({u"import"_s, kind, writeFile(u"in.csv"_s, csv)});
 }
 
-QList<QHash<QString, QString>> CliRunner::list(const QStringList &words)
+QList<QHash<QString, QString>> CliRunner::list(const Words &words)
 {
-    const CliResult result = run(words);
-    EXPECT_EQ(result.status, 0) << result;
-    QList<QStringList> rows = result.rows();
+    QList<QStringList> rows = csvRows(output(words).toUtf8());
     if (rows.isEmpty())
         return {};
     const QStringList names = rows.takeFirst();
@@ -113,7 +125,7 @@ QList<QHash<QString, QString>> CliRunner::list(const QStringList &words)
     return records;
 }
 
-QStringList CliRunner::column(const QStringList &words, const QString &field)
+QStringList CliRunner::column(const Words &words, const QString &field)
 {
     QStringList values;
     for (const auto &record : list(words))
@@ -123,7 +135,7 @@ QStringList CliRunner::column(const QStringList &words, const QString &field)
 
 void makeSmallCompany(CliRunner &cli)
 {
-    ASSERT_EQ(cli.run({u"init"_s}).status, 0);
+    cli.output("init");
     // A new database takes the current year; the tests' documents are of a fixed one.
     cli.execute(u"UPDATE Company SET FiscalYear = 2026"_s);
     const std::pair<QString, QByteArray> files[] = {

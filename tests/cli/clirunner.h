@@ -4,6 +4,20 @@
 
 #include <QProcess>
 
+// The words of a command line, one by one or in a text as it is typed: "list items --filter \"(ItemID = 1)\"".
+struct Words : QStringList
+{
+    using QStringList::QStringList;
+    Words(const QStringList &words)
+        : QStringList(words)
+    {
+    }
+    Words(const char *typed)
+        : QStringList(QProcess::splitCommand(QString::fromUtf8(typed)))
+    {
+    }
+};
+
 // What one run of the program left.
 struct CliResult
 {
@@ -25,9 +39,11 @@ public:
     explicit CliRunner(Store store);
     ~CliRunner();
 
-    CliResult run(const QStringList &words); // with --data or --server in front
-    CliResult runBare(const QStringList &words, const QStringList &environment = {});
-    std::unique_ptr<QProcess> start(const QStringList &words);
+    CliResult run(const Words &words); // with --data or --server in front
+    QString output(const Words &words); // of a run that goes well
+    QString errors(const Words &words, int status = 1); // of a run that ends so
+    CliResult runBare(const Words &words, const QStringList &environment = {});
+    std::unique_ptr<QProcess> start(const Words &words);
     static CliResult finish(QProcess &process);
 
     CliResult import(const QString &kind, const QByteArray &csv); // as file "in.csv"
@@ -38,8 +54,8 @@ public:
     void execute(const QString &script); // SQL text as it stands
 
     // The rows of a list, each a field's value by name.
-    QList<QHash<QString, QString>> list(const QStringList &words);
-    QStringList column(const QStringList &words, const QString &field);
+    QList<QHash<QString, QString>> list(const Words &words);
+    QStringList column(const Words &words, const QString &field);
 
 private:
     Store m_store;
