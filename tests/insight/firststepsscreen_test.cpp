@@ -23,8 +23,7 @@ struct FirstStepsScreenTest : ScreenTest
             return true;
         };
         context->say = [this](const QString &text) { asked << text; };
-        screen = new TfrmFirstSteps(*context, mainWindow.get());
-        showActive(*screen);
+        screen = openScreen<TfrmFirstSteps>();
     }
     void comeBack() // from another window
     {
@@ -66,8 +65,7 @@ TEST_F(FirstStepsScreenTest, OpenWhatDoesThemAndGoByThemselves)
     EXPECT_EQ(asked.last(), u"The first steps are done."_s);
 
     // Asked for when there is nothing to be done it stays, and says so.
-    screen = new TfrmFirstSteps(*context, mainWindow.get());
-    showActive(*screen);
+    screen = openScreen<TfrmFirstSteps>();
     EXPECT_TRUE(comes(u"Everything is done."_s));
 }
 

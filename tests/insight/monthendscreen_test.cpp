@@ -1,5 +1,4 @@
 #include "controls/fields/datepicker.h"
-#include "controls/screens/commandscreen.h"
 #include "insight/screens/monthend.h"
 #include "reports/screens/preview.h"
 #include "tests/support/documents.h"
@@ -23,18 +22,17 @@ struct MonthEndTest : ScreenTest
         context->printerDefined = [] { return true; };
         context->hasScreen = [](const QString &) { return true; };
         context->openScreen = [this](const QString &name) -> QWidget * {
-            opened = name;
+            asked = name;
             list.reset(documentScreens().constFirst().makeList(*context, mainWindow.get()));
             return list.get();
         };
-        screen = new TfrmMonthEnd(*context, mainWindow.get());
-        showActive(*screen);
+        screen = openScreen<TfrmMonthEnd>();
     }
 
     QString figure(const char *line) const { return child<QLabel>(*screen, line)->text(); }
     QString defaultPeriod() { return kitchen.found(u"SELECT DefaultPeriodPP, DefaultPeriodYYYY FROM Company"_s); }
 
-    QString opened;
+    QString asked;
     std::unique_ptr<DocumentListScreen> list;
     QPointer<TfrmMonthEnd> screen;
 };
@@ -45,7 +43,7 @@ TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
     EXPECT_EQ(figure("monthEndReceipts"), u"1"_s);
     EXPECT_EQ(figure("monthEndCounted"), u"0 of 1"_s);
     typeIn(*screen, "monthEndReceiptsMore", "<Return>");
-    EXPECT_EQ(opened, u"frmInvReceipts"_s);
+    EXPECT_EQ(asked, u"frmInvReceipts"_s);
     EXPECT_EQ(list->dataSet().filter(), u"(Posted = false)"_s);
 
     prompts.ok = false;
@@ -64,8 +62,7 @@ TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
     child<DatePicker>(*screen, "editCountedSince")->setDate(QDate(2026, 3, 20));
     EXPECT_EQ(figure("monthEndCounted"), u"1 of 1"_s);
     click(*screen, "monthEndValueMore");
-    QPointer<TfrmPreview> preview = findScreen<TfrmPreview>(u"frmPreview"_s);
-    ASSERT_TRUE(preview);
+    auto *preview = opened<TfrmPreview>(u"frmPreview"_s);
     EXPECT_EQ(figure("monthEndValue"), u"no"_s) << "looking at it is not printing it";
     Q_EMIT preview->given();
     EXPECT_NE(figure("monthEndValue"), u"no"_s);

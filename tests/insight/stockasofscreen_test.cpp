@@ -1,4 +1,3 @@
-#include "controls/fields/datepicker.h"
 #include "insight/screens/stockasof.h"
 #include "insight/screens/stocktimedialog.h"
 #include "tests/support/screentest.h"
@@ -17,9 +16,8 @@ struct StockAsOfTest : ScreenTest
             u"INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, TransType, TransDate, Quantity) VALUES "
             "(1, 1, 2026, 2, 3, '2026-02-20', 12), (1, 1, 2026, 3, 5, '2026-02-28', 4), "
             "(1, 1, 2026, 3, 3, '2026-03-02', 2)"_s);
-        screen = new TfrmStockAsOf(*context, mainWindow.get());
+        screen = openScreen<TfrmStockAsOf>();
         grid = child<QTableView>(*screen, "DBGrid1");
-        showActive(*screen);
     }
 
     // What is shown after a choice in the dialog.

@@ -63,14 +63,11 @@ TEST_F(WhatToBuyTest, QuantitiesAreTypedAndBecomeTheReceiptOfTheirVendor)
     type("<Escape>");
 
     click(*screen, "btnReceipt");
-    auto *receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
-    ASSERT_NE(receipt, nullptr);
+    auto *receipt = opened<TfrmInvReceipt>(u"frmInvReceipt"_s);
     auto *lines = child<QTableView>(*receipt, "DBGrid1");
     EXPECT_EQ(rowOf(*lines, 0).mid(0, 4), (QStringList{u"12"_s, u"B1"_s, u"apricots"_s, u"5.00"_s}));
     EXPECT_EQ(kitchen.text(u"SELECT COUNT(*) FROM IReceipt WHERE Posted = false"_s), u"0"_s) << "to be looked over";
-    showActive(*receipt);
-    child<LookupComboBox>(*receipt, "cboWarehouse")->setFocus();
-    type("off<Tab>");
+    typeIn(*receipt, "cboWarehouse", "off<Tab>");
     click(*receipt, "btnOK");
     awaitFigures();
     EXPECT_EQ(kitchen.text(u"SELECT VendorID FROM IReceipt WHERE Posted = false"_s), u"2"_s);

@@ -1,4 +1,3 @@
-#include "base/ruleerror.h"
 #include "master/barcodes.h"
 #include "master/masterkinds.h"
 #include "master/masterlist.h"

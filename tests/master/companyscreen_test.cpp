@@ -9,11 +9,7 @@ namespace {
 
 struct CompanyScreen : ScreenTest
 {
-    void open()
-    {
-        screen = new TfrmCompany(*context, mainWindow.get());
-        showActive(*screen);
-    }
+    void open() { screen = openScreen<TfrmCompany>(); }
     void focus(const char *field) { focusOn(*screen, field); }
     void enter(const char *field, const char *text)
     {

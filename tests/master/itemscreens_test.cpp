@@ -16,9 +16,8 @@ struct ItemScreens : ScreenTest
 {
     void openList()
     {
-        list = new TfrmItemsInv(*context, mainWindow.get());
+        list = openScreen<TfrmItemsInv>();
         grid = child<QTableView>(*list, "DBGrid1");
-        showActive(*list);
     }
     void openItem(int key = 1)
     {
@@ -29,12 +28,7 @@ struct ItemScreens : ScreenTest
         press(Qt::Key_Return);
         takeItem();
     }
-    void takeItem()
-    {
-        item = findScreen<TfrmItemInv>(u"frmItemInv"_s);
-        ASSERT_TRUE(item);
-        showActive(*item);
-    }
+    void takeItem() { item = opened<TfrmItemInv>(u"frmItemInv"_s); }
     void clickList(const char *button) { click(*list, button); }
     void clickItem(const char *button) { click(*item, button); }
     // Types over what stands in a field of the item, and moves on.
@@ -52,13 +46,15 @@ struct ItemScreens : ScreenTest
                              number);
     }
     // Stands for the main window, which shows the screen that is led to.
-    void offer(QWidget &screen)
+    template <typename Screen> Screen *offer()
     {
-        context->hasScreen = [&screen](const QString &name) { return name == screen.objectName(); };
-        context->openScreen = [&screen](const QString &) {
-            showActive(screen);
-            return &screen;
+        auto *screen = new Screen(*context, mainWindow.get());
+        context->hasScreen = [screen](const QString &name) { return name == screen->objectName(); };
+        context->openScreen = [screen](const QString &) {
+            showActive(*screen);
+            return screen;
         };
+        return screen;
     }
 
     QPointer<TfrmItemsInv> list;
@@ -156,8 +152,7 @@ TEST_F(ItemScreens, UnlockTheAverageCostOnlyOnPurpose)
 
 TEST_F(ItemScreens, LeadToTheTypes)
 {
-    auto *types = new TfrmItemTypesInv(*context, mainWindow.get());
-    offer(*types);
+    auto *types = offer<TfrmItemTypesInv>();
     QString asked;
     bool allowed = false;
     context->securityCheck = [&](const QString &key, const QString &name) {
@@ -315,8 +310,7 @@ TEST_F(ItemScreens, NarrowTheListAndFindInIt)
 
 TEST_F(ItemScreens, LeadToTheStockOfAnItem)
 {
-    auto *totals = new TfrmInvTotals(*context, mainWindow.get());
-    offer(*totals);
+    auto *totals = offer<TfrmInvTotals>();
     kitchen.setStock(1, 1, 10, 2);
     kitchen.setStock(3, 1, 5, 2);
     openList();
@@ -331,39 +325,38 @@ TEST_F(ItemScreens, LeadToTheStockOfAnItem)
 TEST_F(ItemScreens, SearchAnItemByWhatIsTyped)
 {
     TfrmItemSearchInv search(*context, mainWindow.get());
+    const auto itemAfter = [&](const char *field, const char *keys) {
+        typeOver(search, field, keys);
+        return search.GetItemID();
+    };
     search.SetItemID(3);
     showActive(search);
     EXPECT_EQ(search.GetItemID(), 3);
-    type("A11<Backspace>");
-    EXPECT_EQ(search.GetItemID(), 2) << "taking a character away moves nothing";
+    EXPECT_EQ(itemAfter("editFindItemNo", "A11<Backspace>"), 2) << "taking a character away moves nothing";
     type("7<Return>");
     EXPECT_EQ(prompts.last(), u"error: Item not found. F3 looks for the words anywhere."_s);
     EXPECT_EQ(search.GetItemID(), 2);
     EXPECT_TRUE(search.isVisible()) << "no number goes on so: not an item that was not asked for";
-    typeOver(search, "editFindItemNo", "BREAD");
-    EXPECT_EQ(search.GetItemID(), 3) << "B1 is the last that fitted";
-    press(Qt::Key_F3);
-    EXPECT_EQ(search.GetItemID(), 2) << "but there are such words";
-    typeIn(search, "editFindItemDescription", "ap");
-    EXPECT_EQ(search.GetItemID(), 3) << "not Apples";
-    press(Qt::Key_F3);
-    EXPECT_EQ(search.GetItemID(), 1) << "the next one anywhere, of whatever case";
-    typeIn(search, "cboItemType", "food<Return>");
+    EXPECT_EQ(itemAfter("editFindItemNo", "BREAD"), 3) << "B1 is the last that fitted";
+    EXPECT_EQ(itemAfter("editFindItemNo", "<F3>"), 2) << "but there are such words";
+    EXPECT_EQ(itemAfter("editFindItemDescription", "ap"), 3) << "not Apples";
+    EXPECT_EQ(itemAfter("editFindItemDescription", "<F3>"), 1) << "the next one anywhere, of whatever case";
+    EXPECT_EQ(itemAfter("cboItemType", "food<Return>"), 1);
     EXPECT_TRUE(search.isVisible()) << "nobody has seen the items of the type yet";
-    EXPECT_EQ(search.GetItemID(), 1);
     press(Qt::Key_Return);
     EXPECT_EQ(search.result(), QDialog::Accepted);
 
-    kitchen.execute(u"DELETE FROM Item WHERE ItemID = 2"_s);
     kitchen.execute(
-        u"INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (1, 1, 5), (1, 2, -7.5), (3, 2, 4)"_s);
+        u"DELETE FROM Item WHERE ItemID = 2; INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES "
+        "(1, 1, 5), (1, 2, -7.5), (3, 2, 4)"_s);
     search.SetItemID(3);
     search.SetItemID(2); // which is gone
     showActive(search);
     EXPECT_EQ(search.GetItemID(), 1);
-    EXPECT_EQ(child<ListGrid>(search, "DBGrid1")->model()->rowCount(), 3) << "as they are by now";
-    EXPECT_EQ(cellOf(*child<ListGrid>(search, "DBGrid1"), 0, 3), u"-2.5"_s) << "of all locations";
-    EXPECT_EQ(cellOf(*child<ListGrid>(search, "DBGrid1"), 2, 3), QString()) << "never any";
+    const auto &found = *child<ListGrid>(search, "DBGrid1");
+    EXPECT_EQ(found.model()->rowCount(), 3) << "as they are by now";
+    EXPECT_EQ(cellOf(found, 0, 3), u"-2.5"_s) << "of all locations";
+    EXPECT_EQ(cellOf(found, 2, 3), QString()) << "never any";
     EXPECT_EQ(focusName(), u"editFindItemNo");
     EXPECT_EQ(child<QLineEdit>(search, "editFindItemNo")->text(), QString());
     EXPECT_EQ(child<LookupComboBox>(search, "cboItemType")->chosenId(), 0);

@@ -69,14 +69,11 @@ struct MasterScreens : ScreenTest
         EXPECT_TRUE(comesTrue(acted));
     }
     // The record's screen that the list has opened.
-    void takeRecord(const MasterKind &kind)
+    void takeRecord(const MasterKind &kind) { record = opened<MasterRecordScreen>(kind.record.screen); }
+    // The row that the list stands on, or that of a key.
+    void openAgain(const MasterKind &kind, std::optional<int> key = {})
     {
-        record = findScreen<MasterRecordScreen>(kind.record.screen);
-        ASSERT_TRUE(record);
-        showActive(*record);
-    }
-    void openAgain(const MasterKind &kind)
-    {
+        EXPECT_TRUE(!key || list->moveToKey(*key));
         showActive(*list);
         press(Qt::Key_Return);
         takeRecord(kind);
@@ -171,19 +168,16 @@ TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
     ASSERT_TRUE(theirs.openRecord(2));
     theirs.table().edit();
     openList(MasterKinds::currency());
-    ASSERT_TRUE(list->moveToKey(1));
-    openAgain(MasterKinds::currency());
+    openAgain(MasterKinds::currency(), 1);
     const auto *notice = child<QLabel>(*record, "lblInUse");
     EXPECT_FALSE(notice->isVisible()) << "this one is free";
     record->close();
     settle();
 
-    ASSERT_TRUE(list->moveToKey(2));
-    openAgain(MasterKinds::currency());
+    openAgain(MasterKinds::currency(), 2);
     notice = child<QLabel>(*record, "lblInUse");
     EXPECT_TRUE(notice->isVisible());
-    EXPECT_TRUE(notice->text().startsWith("In use by anna on "_L1) && notice->text().contains(", since "_L1))
-        << notice->text().toStdString();
+    EXPECT_TRUE(begins(notice->text(), u"In use by anna on "_s) && has(notice->text(), u", since "_s));
     EXPECT_EQ(prompts.told(), QString());
     const auto *edit = qobject_cast<QLineEdit *>(QApplication::focusWidget());
     ASSERT_TRUE(edit && edit->isReadOnly());
@@ -204,8 +198,7 @@ TEST_F(MasterScreens, TellOfOtherUsers)
     MasterRecord theirs(anna->database, MasterKinds::currency());
     theirs.open();
     openList(MasterKinds::currency());
-    ASSERT_TRUE(list->moveToKey(2));
-    openAgain(MasterKinds::currency());
+    openAgain(MasterKinds::currency(), 2);
 
     ASSERT_TRUE(theirs.openRecord(2));
     theirs.table().edit();

@@ -19,34 +19,20 @@ struct VendorScreensTest : ScreenTest
             INSERT INTO VContact (VendorID, ContactID, FirstName, LastName, BusinessPhone, EMail)
                 VALUES (1, 7, 'Mary', 'Cole', '555-7', 'mary@first.example'), (1, 8, 'Otto', 'Berg', NULL, NULL);
         )"_s);
-        context->openObject = [this](const QString &address) { opened << address; };
-        list = new TfrmVendors(*context, mainWindow.get());
-        showActive(*list);
+        context->openObject = [this](const QString &address) { addresses << address; };
+        list = openScreen<TfrmVendors>();
     }
 
     // The card that the list opens on a vendor; 0 for a new one.
-    TfrmVendor &open(int key = 0)
+    void open(int key = 0)
     {
-        if (key == 0) {
-            list->btnNewClick();
-        } else {
-            EXPECT_TRUE(list->moveToKey(key));
-            list->btnEditClick();
-        }
-        card = findScreen<TfrmVendor>(u"frmVendor"_s);
-        showActive(*card);
-        return *card;
-    }
-    TfrmVContact *contactCard()
-    {
-        auto *contact = findScreen<TfrmVContact>(u"frmVContact"_s);
-        if (contact)
-            showActive(*contact);
-        return contact;
+        EXPECT_TRUE(key == 0 || list->moveToKey(key));
+        key == 0 ? list->btnNewClick() : list->btnEditClick();
+        card = opened<TfrmVendor>(u"frmVendor"_s);
     }
     QString listed(int row) { return cellOf(*child<QTableView>(*card, "DBGrid1"), row, 1); }
 
-    QStringList opened; // by the desktop
+    QStringList addresses; // that the desktop has opened
     QPointer<TfrmVendors> list;
     QPointer<TfrmVendor> card;
 };
@@ -63,7 +49,7 @@ TEST_F(VendorScreensTest, newVendorIsSavedBeforeItsContacts)
     prompts.ok = false;
     click(*card, "btnNew");
     EXPECT_TRUE(prompts.take().value(0).endsWith(u"must be saved before entering contacts...\nSave now?"_s));
-    EXPECT_EQ(contactCard(), nullptr);
+    EXPECT_EQ(findScreen(u"frmVContact"_s), nullptr);
     prompts.ok = true;
     click(*card, "btnNew");
     EXPECT_EQ(prompts.take().last(), u"error: Vendor no. already exists"_s);
@@ -73,13 +59,11 @@ TEST_F(VendorScreensTest, newVendorIsSavedBeforeItsContacts)
     EXPECT_EQ(prompts.take().size(), 1);
     EXPECT_EQ(list->dataSet().text(u"VendorNo"), u"V9"_s) << "in the list at once";
 
-    QPointer<TfrmVContact> contact = contactCard();
-    ASSERT_NE(contact, nullptr);
+    QPointer contact = opened<TfrmVContact>(u"frmVContact"_s);
     EXPECT_EQ(contact->windowTitle(), u"New Contact at Mill"_s);
     typeOver(*contact, "editLastName", "Frey");
     click(*contact, "btnOK");
-    settle();
-    EXPECT_TRUE(contact.isNull());
+    EXPECT_TRUE(isGone(contact));
     EXPECT_EQ(kitchen.found(u"SELECT VendorID, LastName FROM VContact WHERE ContactID > 8"_s), u"10000|Frey");
     EXPECT_EQ(child<QTableView>(*card, "DBGrid1")->model()->rowCount(), 1);
 }
@@ -90,8 +74,7 @@ TEST_F(VendorScreensTest, contactsAreEditedAndDeletedOnTheCard)
     focusOn(*card, "DBGrid1");
     EXPECT_EQ(listed(0) + listed(1), u"OttoMary"_s);
     type("<Down><Return>");
-    QPointer<TfrmVContact> contact = contactCard();
-    ASSERT_NE(contact, nullptr);
+    auto *contact = opened<TfrmVContact>(u"frmVContact"_s);
     child<QAction>(*card, "mnuEdit")->trigger();
     EXPECT_EQ(findScreen(u"frmVContact"_s), contact) << "its card is open already";
     typeOver(*contact, "editLastName", "Ams");
@@ -110,5 +93,5 @@ TEST_F(VendorScreensTest, buttonsReachWhatHasJustBeenTypedBesideThem)
     open(1);
     typeOver(*card, "editWebPage", "http://new.example/x");
     click(*card, "btnWebPage");
-    EXPECT_EQ(opened, QStringList(u"http://new.example/x"_s));
+    EXPECT_EQ(addresses, QStringList(u"http://new.example/x"_s));
 }

@@ -65,13 +65,6 @@ struct BlankFormTest : ScreenTest
         return (next->x - end) / module;
     }
 
-    QPointer<TFormBlankInventoryReportSelection> openDialog()
-    {
-        auto *dialog = new TFormBlankInventoryReportSelection(*context, mainWindow.get());
-        showActive(*dialog);
-        return dialog;
-    }
-
     QTemporaryDir folder;
 };
 
@@ -127,8 +120,7 @@ TEST_F(BlankFormTest, ScannersReadItsBarcodesIntoTheCount)
     read.sort();
     ASSERT_EQ(read, numbers);
 
-    auto *count = new TFormEnterInventory(*context, mainWindow.get());
-    showActive(*count);
+    auto *count = openScreen<TFormEnterInventory>();
     auto *locations = child<QComboBox>(*count, "RzComboBoxLocation");
     locations->setCurrentIndex(locations->findText(u"Office"_s, Qt::MatchStartsWith));
     Q_EMIT locations->activated(locations->currentIndex());
@@ -142,7 +134,7 @@ TEST_F(BlankFormTest, ScannersReadItsBarcodesIntoTheCount)
 
 TEST_F(BlankFormTest, IsPreviewedAsChosenLast)
 {
-    QPointer dialog = openDialog();
+    auto *dialog = openScreen<TFormBlankInventoryReportSelection>();
     context->printerDefined = [] { return false; };
     press(Qt::Key_Return);
     EXPECT_TRUE(begins(prompts.last(), u"error: You do not have a default printer defined."_s));
@@ -157,11 +149,9 @@ TEST_F(BlankFormTest, IsPreviewedAsChosenLast)
     }
     press(Qt::Key_Return);
     EXPECT_FALSE(dialog->isVisible());
-    auto *preview = child<TfrmPreview>(*mainWindow, "frmPreview");
-    ASSERT_NE(preview, nullptr);
-    EXPECT_TRUE(preview->isVisible());
+    opened<TfrmPreview>(u"frmPreview"_s);
 
-    dialog = openDialog();
+    dialog = openScreen<TFormBlankInventoryReportSelection>();
     EXPECT_EQ(child<LookupComboBox>(*dialog, "cboWarehouse")->currentText(), u"Office"_s);
     for (const char *button : {"optItemNo", "chkBarcodes", "chkPriorQuantities"})
         EXPECT_EQ(child<QAbstractButton>(*dialog, button)->isChecked(), button[3] != 'P') << button;

@@ -33,8 +33,7 @@ struct InvReportsTest : ScreenTest
     void open()
     {
         delete wizard;
-        wizard = new TfrmInvReports(*context, mainWindow.get());
-        showActive(*wizard);
+        wizard = openScreen<TfrmInvReports>();
     }
     void ask(int report)
     {
@@ -79,8 +78,7 @@ TEST_F(InvReportsTest, PreviewsWhatIsChosenAndOffersItAgain)
     type("<Shift+Tab><Shift+Tab><Shift+Tab><Return>"); // on Back
     EXPECT_TRUE(part<QWidget>("PanelReports")->isVisible());
     EXPECT_EQ(previewed(), QStringList());
-    type("<Return>off<Tab>foo");
-    type("<Return>");
+    type("<Return>off<Tab>foo<Return>");
     EXPECT_EQ(previewed(), (QStringList{u"detail,A10,Apples,3,2,6"_s, u"report total,,,,,6"_s}));
     EXPECT_TRUE(part<QWidget>("PanelReports")->isVisible());
 

@@ -25,6 +25,23 @@ struct ScreenTest : testing::Test
         return !window;
     }
 
+    // A screen in front, as the main window opens it.
+    template <typename Screen> Screen *openScreen()
+    {
+        auto *screen = new Screen(*context, mainWindow.get());
+        showActive(*screen);
+        return screen;
+    }
+    // The screen of that name that something has opened, brought to the front.
+    template <typename Screen> static Screen *opened(const QString &name)
+    {
+        auto *screen = Tallymere::findScreen<Screen>(name);
+        EXPECT_TRUE(screen && screen->isVisible()) << name.toStdString();
+        if (screen)
+            showActive(*screen);
+        return screen;
+    }
+
     // The screen of a record or a document, or of a new one (0).
     template <typename Screen> Screen *openRecord(int key = 0)
     {

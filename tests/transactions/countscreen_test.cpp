@@ -3,11 +3,8 @@
 #include "phonecount/networkaddresses.h"
 #include "phonecount/screens/phonecountscreen.h"
 #include "tests/support/screentest.h"
-#include "transactions/screens/countdifferencesscreen.h"
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
-
-#include <QAbstractItemView>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -29,11 +26,10 @@ struct CountScreenTest : ScreenTest
 
     void open()
     {
-        screen = new TFormEnterInventory(*context, mainWindow.get());
+        screen = openScreen<TFormEnterInventory>();
         grid = child<CountGrid>(*screen, "wwDBGridInventory");
         locations = child<QComboBox>(*screen, "RzComboBoxLocation");
         ok = child<QPushButton>(*screen, "BitBtnOK");
-        showActive(*screen);
     }
     void choose(const QString &location)
     {
@@ -49,6 +45,11 @@ struct CountScreenTest : ScreenTest
     {
         type(text);
         press(Qt::Key_Return);
+    }
+    static void enter(const char *itemNo, const char *quantity)
+    {
+        search(itemNo);
+        enter(quantity);
     }
     // Rows as "A10 10 8 -2", what is empty left out; headings as they are.
     QStringList rows() const
@@ -145,8 +146,7 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     EXPECT_TRUE(has(status(), u"2 lines"_s));
     EXPECT_FALSE(ok->isEnabled());
     EXPECT_EQ(rows().last(), u"B1 2.5 0.5 -2"_s);
-    search("A10");
-    enter("9");
+    enter("A10", "9");
     EXPECT_FALSE(ok->isEnabled()) << "one calculation of a date and a location";
     auto *date = child<DatePicker>(*screen, "wwDBDateTimePickerInventoryDate");
     date->setDate(data->today().addDays(4));
@@ -172,13 +172,11 @@ TEST_F(CountScreenTest, ABlindCountTellsNothingOfTheBooksUntilItIsCalculated)
     search("A10");
     type("<F2><Return>");
     EXPECT_EQ(status(), u"0 of 3 counted"_s) << "there is nothing to be taken as it stands";
-    search("A10");
-    enter("8");
+    enter("A10", "8");
     prompts.take();
     enter("6"); // of bread there are 5
     EXPECT_TRUE(has(prompts.told(), u"This is more than is recorded."_s));
-    press(Qt::Key_Escape);
-    type("<F2>4<Up><Up><Return>");
+    type("<Esc><F2>4<Up><Up><Return>");
     EXPECT_TRUE(has(prompts.told(), u"This is more than is recorded."_s)) << "the arrows do not stop at it either";
     press(Qt::Key_Escape);
     EXPECT_EQ(rows(), (QStringList{u"A10 8"_s, u"A11"_s, u"B1"_s}));
@@ -273,8 +271,7 @@ TEST_F(CountScreenTest, ReadsAgainUnderTheCountWhereOthersHavePosted)
     choose(u"Office"_s);
     EXPECT_EQ(grid->model()->index(1, 7).data().toString(), u"2.00"_s); // what bread has cost on an average
     EXPECT_EQ(grid->model()->index(2, 7).data().toString(), u"4.00"_s);
-    search("A10");
-    enter("6");
+    enter("A10", "6");
     kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8 WHERE ItemID = 1"_s);
     prompts.take();
     prompts.answer = Answer::Yes; // to calculating, and to reading again
@@ -358,8 +355,7 @@ TEST_F(CountScreenTest, WhatAPhoneCountsIsNotTypedOverUnseen)
 TEST_F(CountScreenTest, AsksBeforeCountsAreLost)
 {
     choose(u"Office"_s);
-    search("A10");
-    enter("8");
+    enter("A10", "8");
     prompts.ok = false;
     choose(u"Freezer"_s);
     EXPECT_EQ(
@@ -390,8 +386,7 @@ TEST_F(CountScreenTest, OffersWhatHasBeenLeft)
 {
     choose(u"Office"_s);
     child<DatePicker>(*screen, "wwDBDateTimePickerInventoryDate")->setDate(data->today().addDays(-2));
-    search("A10");
-    enter("8");
+    enter("A10", "8");
     delete screen; // as a crash leaves it
     open();
     EXPECT_TRUE(grid->shownHint().contains("Office"_L1));
@@ -426,8 +421,7 @@ TEST_F(CountScreenTest, StaysOpenWhenTheCountCannotBeKept)
     qputenv("XDG_DATA_HOME", "/proc/nowhere");
     open();
     choose(u"Annex"_s);
-    search("B1");
-    enter("8");
+    enter("B1", "8");
     EXPECT_EQ(rows(), QStringList(u"B1 9 8 -1"_s));
     prompts.answer = Answer::Yes;
     screen->close();

@@ -293,8 +293,7 @@ TEST_F(DocumentScreenTest, aScannedCodeFindsItsColumn)
     const auto scanIt = [&] { scan(unknown); };
     EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(scanIt, [&](TfrmItemSearchInv &search) {
         EXPECT_EQ(child<QLineEdit>(search, "editFindItemNo")->text(), unknown);
-        typeOver(search, "editFindItemNo", "A11");
-        press(Qt::Key_Return);
+        typeOver(search, "editFindItemNo", "A11<Return>");
     }));
     EXPECT_EQ(cellOf(*grid, 0, 1), u"A11"_s);
     EXPECT_EQ(itemOfBarcode(kitchen.database(), unknown), 2) << "it is known from now on";
@@ -304,8 +303,7 @@ TEST_F(DocumentScreenTest, aScannedCodeFindsItsColumn)
 
     open(documentScreens().front());
     grid->setFocus();
-    press(Qt::Key_PageDown);
-    type("5<Return>");
+    type("<PgDown>5<Return>");
     scan(unknown);
     EXPECT_EQ(rowOf(*grid, 0).mid(0, 2), (QStringList{u"5"_s, u"A11"_s}))
         << "into a first line that has been begun";

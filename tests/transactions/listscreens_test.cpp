@@ -24,11 +24,15 @@ struct ListScreensTest : ScreenTest
 {
     template <typename Screen> Screen &open()
     {
-        auto *screen = new Screen(*context, mainWindow.get());
+        auto *screen = openScreen<Screen>();
         list = screen;
         grid = child<QTableView>(*screen, "DBGrid1");
-        showActive(*screen);
         return *screen;
+    }
+    // Does something in a dialog that a command of the list opens.
+    template <typename Dialog> void inDialog(const QString &command, const std::function<void(Dialog &)> &step)
+    {
+        EXPECT_TRUE(whileOpen<Dialog>([&] { list->command(command)->trigger(); }, step));
     }
 
     void addReceipts()
@@ -41,7 +45,16 @@ struct ListScreensTest : ScreenTest
 
     QStringList row(int number) { return rowOf(*grid, number); }
     int rows() { return grid->model()->rowCount(); }
+    // Its filter and how many rows that leaves.
+    QString narrowed() { return u"%1: %2"_s.arg(list->dataSet().filter()).arg(rows()); }
+    // What says above the rows that they are not all; nothing where they are.
+    QString chip()
+    {
+        const auto *button = child<QAbstractButton>(*list, "btnFilterChip");
+        return button->isVisible() ? button->text() : QString();
+    }
     void click(const char *button) { QTest::mouseClick(child<QPushButton>(*list, button), Qt::LeftButton); }
+    double count(const QString &rows) { return kitchen.number(u"SELECT count(*) FROM "_s + rows); }
 
     const std::function<void()> post = [this] { list->command(u"mnuPost"_s)->trigger(); };
     QPointer<ListScreen> list;
@@ -54,27 +67,23 @@ TEST_F(ListScreensTest, receiptsAreListedLatestFirstFilteredAndFound)
 {
     addReceipts();
     open<TfrmInvReceipts>();
-    ASSERT_EQ(rows(), 3);
     EXPECT_EQ(row(0).join(u'|'), u"3/2026|14 Mar 26|1003||First|Freezer|No"_s);
     EXPECT_EQ(row(1).last(), u"Yes"_s);
-    const auto choose = [this](const QString &command) {
-        return [this, command] { list->command(command)->trigger(); };
-    };
-    EXPECT_TRUE(whileOpen<DocumentFilterScreen>(choose(u"mnuFilter"_s), [](DocumentFilterScreen &dialog) {
+    inDialog<DocumentFilterScreen>(u"mnuFilter"_s, [](DocumentFilterScreen &dialog) {
         type("f"); // in the box of locations
         child<QRadioButton>(dialog, "optPostedNo")->click();
         press(Qt::Key_Return);
-    }));
-    EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted = false)"_s);
-    EXPECT_EQ(rows(), 1);
+    });
+    EXPECT_EQ(narrowed(), u"(WarehouseID = 2) AND (Posted = false): 1"_s);
     EXPECT_EQ(list->windowTitle(), u"Inventory Receipts (Filtered)"_s);
     list->resetFilter();
-    EXPECT_TRUE(whileOpen<DocumentFindScreen>(choose(u"mnuFind"_s), [&](DocumentFindScreen &dialog) {
+    EXPECT_EQ(rows(), 3);
+    inDialog<DocumentFindScreen>(u"mnuFind"_s, [&](DocumentFindScreen &dialog) {
         type("100<Return>");
         EXPECT_EQ(prompts.told(), u"error: Receipt '100' not found");
         type("1001<Return>"); // replaces the selected text
         EXPECT_FALSE(dialog.isVisible());
-    }));
+    });
     EXPECT_EQ(grid->currentIndex().row(), 2);
 }
 
@@ -84,48 +93,43 @@ TEST_F(ListScreensTest, findDialogsFindWordsWhereNothingHasTheNumber)
     kitchen.execute(u"UPDATE Vendor SET VendorName = 'Crème & Söhne' WHERE VendorID = 1"_s);
     kitchen.setStock(1, 1, 5, 1);
     kitchen.setStock(2, 2, 7, 1);
-    auto &receipts = open<TfrmInvReceipts>();
-    EXPECT_TRUE(whileOpen<DocumentFindScreen>(
-        [&] { receipts.btnFindClick(); },
-        [&](DocumentFindScreen &dialog) {
-            const auto *told = child<QLabel>(dialog, "lblFound");
-            type("1002<F3>"); // below the row of the list
-            EXPECT_EQ(grid->currentIndex().row(), 1);
-            typeOver(dialog, "editReceipt", "");
-            type(u"sÖHne creme"_s);
-            press(Qt::Key_Return);
-            EXPECT_EQ(prompts.told(), u"error: Receipt 'sÖHne creme' not found"_s);
-            EXPECT_EQ(grid->currentIndex().row(), 0);
-            EXPECT_TRUE(begins(told->text(), u"These words are in row 1 of 3: 3/2026, 14 Mar 26, 1003, Crème"_s));
-            press(Qt::Key_Return);
-            EXPECT_EQ(grid->currentIndex().row(), 2) << "and the next, which the same key goes to";
-            press(Qt::Key_Return);
-            EXPECT_EQ(grid->currentIndex().row(), 0);
-            EXPECT_EQ(prompts.told(), QString());
-            type("nix<Return>");
-            EXPECT_EQ(prompts.told(), u"error: Receipt 'nix' not found"_s);
-            EXPECT_EQ(told->text(), u"No row of the list has these words."_s);
-            EXPECT_EQ(grid->currentIndex().row(), 0);
-            type("1001<Return>");
-            EXPECT_FALSE(dialog.isVisible());
-        }));
-    EXPECT_EQ(grid->currentIndex().row(), 2);
+    open<TfrmInvReceipts>();
+    inDialog<DocumentFindScreen>(u"mnuFind"_s, [&](DocumentFindScreen &dialog) {
+        const auto *told = child<QLabel>(dialog, "lblFound");
+        const auto rowAfter = [this](const char *keys) {
+            type(keys);
+            return grid->currentIndex().row();
+        };
+        EXPECT_EQ(rowAfter("1002<F3>"), 1) << "below the row of the list";
+        typeOver(dialog, "editReceipt", "");
+        type(u"sÖHne creme"_s);
+        EXPECT_EQ(rowAfter("<Return>"), 0);
+        EXPECT_EQ(prompts.told(), u"error: Receipt 'sÖHne creme' not found"_s);
+        EXPECT_TRUE(begins(told->text(), u"These words are in row 1 of 3: 3/2026, 14 Mar 26, 1003, Crème"_s));
+        EXPECT_EQ(rowAfter("<Return>"), 2) << "and the next, which the same key goes to";
+        EXPECT_EQ(rowAfter("<Return>"), 0);
+        EXPECT_EQ(prompts.told(), QString());
+        EXPECT_EQ(rowAfter("nix<Return>"), 0);
+        EXPECT_EQ(prompts.told(), u"error: Receipt 'nix' not found"_s);
+        EXPECT_EQ(told->text(), u"No row of the list has these words."_s);
+        EXPECT_EQ(rowAfter("1001<Return>"), 2);
+        EXPECT_FALSE(dialog.isVisible());
+    });
 
-    auto &totals = open<TfrmInvTotals>();
-    EXPECT_TRUE(whileOpen<TfrmItemsFind>([&] { totals.btnFindClick(); },
-                                         [&](TfrmItemsFind &dialog) {
-                                             type("freez<Return>");
-                                             EXPECT_EQ(prompts.told(), u"error: Item no. 'freez' not found"_s);
-                                             EXPECT_TRUE(dialog.isVisible());
-                                         }));
-    EXPECT_EQ(totals.dataSet().text(u"WarehouseName"), u"Freezer"_s);
+    open<TfrmInvTotals>();
+    inDialog<TfrmItemsFind>(u"mnuFind"_s, [&](TfrmItemsFind &dialog) {
+        type("freez<Return>");
+        EXPECT_EQ(prompts.told(), u"error: Item no. 'freez' not found"_s);
+        EXPECT_TRUE(dialog.isVisible());
+    });
+    EXPECT_EQ(list->dataSet().text(u"WarehouseName"), u"Freezer"_s);
 }
 
 TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
 {
     open<TfrmInvReceipts>();
     click("btnEdit");
-    QPointer<TfrmInvReceipt> receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+    QPointer receipt = opened<TfrmInvReceipt>(u"frmInvReceipt"_s);
     ASSERT_TRUE(receipt);
     EXPECT_EQ(receipt->windowTitle(), u"New Inventory Receipt"_s) << "nothing to edit";
     delete receipt;
@@ -134,7 +138,7 @@ TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
     list->refreshList();
     ASSERT_TRUE(list->moveToKey(0));
     click("btnEdit");
-    receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
+    receipt = opened<TfrmInvReceipt>(u"frmInvReceipt"_s);
     ASSERT_TRUE(receipt);
     EXPECT_EQ(receipt->windowTitle(), u"Receipt 1000"_s);
     const auto windows = [] {
@@ -157,8 +161,7 @@ TEST_F(ListScreensTest, aDocumentHasOneScreenWhereverItIsOpenedFrom)
     receipt->close(); // so that there is one to be found
     settle();
     jump.open(3, u"Receipt 1003"_s);
-    receipt = findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s);
-    showActive(*receipt);
+    receipt = opened<TfrmInvReceipt>(u"frmInvReceipt"_s);
     typeIn(*receipt, "editReceiptNo", "1010");
     receipt->btnOKClick();
     EXPECT_EQ(row(grid->currentIndex().row()).at(2), u"1010"_s);
@@ -184,12 +187,11 @@ TEST_F(ListScreensTest, postingIsOfferedOnClosingAndTold)
         open<TfrmInvReceipts>();
         const auto close = [&] {
             list->close();
-            QCoreApplication::processEvents();
+            EXPECT_TRUE(isGone(list));
         };
         EXPECT_EQ(whileOpen<DocumentPostScreen>(close, confirm), pending);
-        EXPECT_TRUE(isGone(list));
     }
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s), 4);
+    EXPECT_EQ(count(u"IReceipt WHERE Posted = true"_s), 4);
 }
 
 TEST_F(ListScreensTest, postingTellsOfWhatTheListDoesNotShowAndWhoseItIs)
@@ -236,11 +238,10 @@ TEST_F(ListScreensTest, postingTellsWhatItWillDoAndEnterOpensTheDocument)
         auto *notices = child<QListWidget>(dialog, "lstNotices");
         ASSERT_TRUE(comesTrue([&] { return notices->isVisible(); }));
         EXPECT_TRUE(ends(notices->item(0)->text(), u" has no cost"_s));
-        type("<Tab><Tab>");
-        type("<Return>");
+        type("<Tab><Tab><Return>");
     }));
     EXPECT_TRUE(comesTrue([] { return findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s) != nullptr; }));
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), 0) << "Enter posts nothing";
+    EXPECT_EQ(count(u"IHist"_s), 0) << "Enter posts nothing";
     findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s)->btnCancelClick();
     settle();
 }
@@ -255,7 +256,7 @@ TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
         EXPECT_EQ(dialog.result(), QDialog::Rejected);
     }));
     EXPECT_EQ(prompts.told(), u"error: A conflicting program is running...\nPlease close 'Inventory Receipt' form");
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s), 0);
+    EXPECT_EQ(count(u"IHist"_s), 0);
     findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s)->btnCancelClick();
     settle();
 }
@@ -282,38 +283,34 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
     kitchen.setStock(2, 1, -3, 2);
     kitchen.setStock(3, 2, 7, 2);
     kitchen.setStock(99, 77, 5, 0); // neither is there any more
-    auto &totals = open<TfrmInvTotals>();
-    EXPECT_EQ(row(0).mid(0, 4), (QStringList{QString(), QString(), QString(), u"5"_s}));
+    open<TfrmInvTotals>();
+    EXPECT_EQ(row(0).mid(0, 4).join(u'|'), u"|||5"_s);
     EXPECT_EQ(row(1).join(u'|'), u"A10|Apples|Freezer|2.5|5.00||"_s);
     const auto isWorth = [&](const QString &value) {
         return comesTrue([&] {
-            const auto *sum = totals.findChild<QLabel *>(u"lblSum"_s);
+            const auto *sum = list->findChild<QLabel *>(u"lblSum"_s);
             return sum && sum->text() == value;
         });
     };
     EXPECT_TRUE(isWorth(u"33.00"_s));
     grid->setCurrentIndex(grid->model()->index(2, 0));
-    totals.command(u"mnuSortDescription"_s)->trigger();
+    list->command(u"mnuSortDescription"_s)->trigger();
     EXPECT_EQ(grid->currentIndex().row(), 0);
     EXPECT_EQ(row(4).at(1), u"apricots"_s);
     grid->setFocus();
     type("APR"); // searches where it is sorted, by the case-insensitive index of the items
     EXPECT_EQ(grid->currentIndex().row(), 4);
 
-    const auto filter = [&](const std::function<void(TfrmInvTotalsFilter &)> &choose) {
-        EXPECT_TRUE(whileOpen<TfrmInvTotalsFilter>([&] { totals.btnFilterClick(); }, choose));
-    };
-    filter([&](TfrmInvTotalsFilter &dialog) {
+    inDialog<TfrmInvTotalsFilter>(u"mnuFilter"_s, [&](TfrmInvTotalsFilter &dialog) {
         type("a1<Return>");
         EXPECT_EQ(prompts.told(), u"error: Item no. 'a1' not found");
         type("a10<Tab>");
         EXPECT_EQ(child<LookupComboBox>(dialog, "cboItem")->currentText(), u"Apples"_s);
         typeIn(dialog, "cboWarehouse", "off<Return>");
     });
-    EXPECT_EQ(totals.dataSet().filter(), u"(ItemID = 1) AND (WarehouseID = 1)"_s);
-    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(narrowed(), u"(ItemID = 1) AND (WarehouseID = 1): 1"_s);
     EXPECT_TRUE(isWorth(u"20.00"_s));
-    filter([&](TfrmInvTotalsFilter &dialog) {
+    inDialog<TfrmInvTotalsFilter>(u"mnuFilter"_s, [&](TfrmInvTotalsFilter &dialog) {
         ::click(dialog, "btnReset");
         typeIn(dialog, "editNotMovedSince", "13/1/26<Tab>");
         ::click(dialog, "btnOK");
@@ -323,16 +320,14 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
         typeIn(dialog, "cboStock", "b");
         typeIn(dialog, "editNotMovedSince", "3/1/26<Return>");
     });
-    EXPECT_EQ(totals.dataSet().filter(), u"(QtyOnHand < 0) AND (NOT (LastMoved >= '2026-03-01'))"_s);
-    EXPECT_EQ(rows(), 1);
-    filter([](TfrmInvTotalsFilter &dialog) {
+    EXPECT_EQ(narrowed(), u"(QtyOnHand < 0) AND (NOT (LastMoved >= '2026-03-01')): 1"_s);
+    inDialog<TfrmInvTotalsFilter>(u"mnuFilter"_s, [](TfrmInvTotalsFilter &dialog) {
         EXPECT_FALSE(child<QCheckBox>(dialog, "chkNotMovedAll")->isChecked());
         ::click(dialog, "btnReset");
         typeIn(dialog, "editItem", "A10<Tab>");
         typeIn(dialog, "cboWarehouse", "off<Return>");
     });
-    EXPECT_TRUE(
-        whileOpen<TfrmItemsFind>([&] { totals.btnFindClick(); }, [](TfrmItemsFind &) { type("B1<Return>"); }));
+    inDialog<TfrmItemsFind>(u"mnuFind"_s, [](TfrmItemsFind &) { type("B1<Return>"); });
     EXPECT_EQ(prompts.told(), u"error: 'apricots' not found") << "filtered out";
 }
 
@@ -366,30 +361,28 @@ TEST_F(ListScreensTest, whatAListIsNarrowedToStandsAboveItsRows)
 {
     addReceipts();
     kitchen.setStock(1, 1, -2, 1);
-    auto &receipts = open<TfrmInvReceipts>();
-    auto *chip = child<QAbstractButton>(receipts, "btnFilterChip");
-    EXPECT_FALSE(chip->isVisible());
+    open<TfrmInvReceipts>();
+    EXPECT_EQ(chip(), QString());
     const auto narrow = [&](const std::function<void(DocumentFilterScreen &)> &choose) {
-        EXPECT_TRUE(whileOpen<DocumentFilterScreen>([&] { receipts.btnFilterClick(); },
-                                                    [&](auto &dialog) {
-                                                        choose(dialog);
-                                                        ::click(dialog, "btnOK");
-                                                    }));
+        inDialog<DocumentFilterScreen>(u"mnuFilter"_s, [&](auto &dialog) {
+            choose(dialog);
+            ::click(dialog, "btnOK");
+        });
     };
     narrow([](DocumentFilterScreen &dialog) {
         dialog.setKey(u"cboWarehouse"_s, 2);
         child<QRadioButton>(dialog, "optPostedNo")->click();
     });
-    EXPECT_TRUE(chip->isVisible());
-    EXPECT_EQ(chip->text(), u"Location: Freezer, Posted: No"_s);
-    QTest::mouseClick(chip, Qt::LeftButton);
-    EXPECT_FALSE(chip->isVisible() || receipts.dataSet().isFiltered());
+    EXPECT_EQ(chip(), u"Location: Freezer, Posted: No"_s);
+    QTest::mouseClick(child<QAbstractButton>(*list, "btnFilterChip"), Qt::LeftButton);
+    EXPECT_EQ(chip(), QString());
+    EXPECT_FALSE(list->dataSet().isFiltered());
     kitchen.execute(u"UPDATE IReceipt SET ReceiptDate = '2026-02-28' WHERE ReceiptID = 3"_s);
     narrow([](DocumentFilterScreen &dialog) {
         EXPECT_FALSE(dialog.isOn()) << "the dialog knows of it";
         typeIn(dialog, "editWords", "OFF po-");
     });
-    EXPECT_EQ(chip->text(), u"Words: OFF po-"_s);
+    EXPECT_EQ(chip(), u"Words: OFF po-"_s);
     EXPECT_EQ(rows(), 1);
     EXPECT_EQ(row(0)[2], u"1001"_s) << "one word in the order's number, one in the location";
     narrow([](DocumentFilterScreen &dialog) {
@@ -397,19 +390,17 @@ TEST_F(ListScreensTest, whatAListIsNarrowedToStandsAboveItsRows)
         child<QCheckBox>(dialog, "chkDayFromAll")->click();
         typeOver(dialog, "editDayFrom", "3/1/26");
     });
-    EXPECT_EQ(receipts.dataSet().filter(), u"(ReceiptDate >= '2026-03-01')"_s);
-    EXPECT_EQ(rows(), 2);
-    receipts.applyFilter(u"(ReceiptID = 1)"_s);
-    EXPECT_EQ(chip->text(), u"Filtered"_s) << "by what no dialog has words for";
+    EXPECT_EQ(narrowed(), u"(ReceiptDate >= '2026-03-01'): 2"_s);
+    list->applyFilter(u"(ReceiptID = 1)"_s);
+    EXPECT_EQ(chip(), u"Filtered"_s) << "by what no dialog has words for";
 
-    auto &totals = open<TfrmInvTotals>();
-    totals.showWaiting();
-    EXPECT_EQ(child<QAbstractButton>(totals, "btnFilterChip")->text(), u"Quantity On Hand: Below zero"_s);
+    open<TfrmInvTotals>().showWaiting();
+    EXPECT_EQ(chip(), u"Quantity On Hand: Below zero"_s);
     auto &history = open<TfrmInvHistory>();
     history.filterBy({{u"ItemID"_s, 1}, {u"WarehouseID"_s, 1}});
-    EXPECT_EQ(child<QAbstractButton>(history, "btnFilterChip")->text(), u"Item: Apples, Location: Office"_s);
+    EXPECT_EQ(chip(), u"Item: Apples, Location: Office"_s);
     history.filterBy({{u"ItemID"_s, 1}});
-    EXPECT_EQ(child<QAbstractButton>(history, "btnFilterChip")->text(), u"Item: Apples"_s);
+    EXPECT_EQ(chip(), u"Item: Apples"_s);
 }
 
 TEST_F(ListScreensTest, filtersAreKeptByName)
@@ -417,20 +408,18 @@ TEST_F(ListScreensTest, filtersAreKeptByName)
     addReceipts();
     context->settings = &settings;
     kitchen.execute(u"INSERT INTO Warehse (WarehouseID, WarehouseName) VALUES (9, 'Attic')"_s);
-    auto *receipts = &open<TfrmInvReceipts>();
+    open<TfrmInvReceipts>();
     const auto narrow = [&](int location, const char *mark) {
-        EXPECT_TRUE(whileOpen<DocumentFilterScreen>([&] { receipts->btnFilterClick(); },
-                                                    [&](DocumentFilterScreen &dialog) {
-                                                        dialog.btnResetClick();
-                                                        dialog.setKey(u"cboWarehouse"_s, location);
-                                                        child<QRadioButton>(dialog, mark)->click();
-                                                        child<QPushButton>(dialog, "btnOK")->click();
-                                                    }));
+        inDialog<DocumentFilterScreen>(u"mnuFilter"_s, [&](DocumentFilterScreen &dialog) {
+            dialog.btnResetClick();
+            dialog.setKey(u"cboWarehouse"_s, location);
+            for (const char *button : {mark, "btnOK"})
+                ::click(dialog, button);
+        });
     };
     const auto manage = [&](const std::function<void(KeptFiltersDialog &)> &step) {
-        showActive(*receipts);
-        EXPECT_TRUE(
-            whileOpen<KeptFiltersDialog>([&] { press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier); }, step));
+        showActive(*list);
+        EXPECT_TRUE(whileOpen<KeptFiltersDialog>([] { type("<Ctrl+Shift+F>"); }, step));
     };
     const auto keepAs = [&](const QString &name) {
         manage([&](KeptFiltersDialog &dialog) {
@@ -440,15 +429,15 @@ TEST_F(ListScreensTest, filtersAreKeptByName)
         });
     };
     const auto names = [&] {
-        auto *menu = receipts->findChild<KeptFilterMenu *>();
+        auto *menu = list->findChild<KeptFilterMenu *>();
         Q_EMIT menu->aboutToShow();
         QStringList shown;
         for (const QAction *entry : menu->actions().mid(0, menu->actions().size() - 1)) // the window's is the last
             shown << entry->text() + (entry->isChecked() ? u" *"_s : QString());
         return shown.join(u'|');
     };
-    const auto choose = [&](int entry) { receipts->findChild<KeptFilterMenu *>()->actions()[entry]->trigger(); };
-    const auto filter = [&] { return receipts->dataSet().isFiltered() ? receipts->dataSet().filter() : QString(); };
+    const auto choose = [&](int entry) { list->findChild<KeptFilterMenu *>()->actions()[entry]->trigger(); };
+    const auto filter = [&] { return list->dataSet().isFiltered() ? list->dataSet().filter() : QString(); };
 
     manage([](KeptFiltersDialog &dialog) {
         EXPECT_FALSE(child<QPushButton>(dialog, "btnKeep")->isEnabled()) << "every row shows";
@@ -460,7 +449,7 @@ TEST_F(ListScreensTest, filtersAreKeptByName)
     EXPECT_EQ(names(), u"Attic *|Ü && \"%1\" 氷/\\|"_s) << "and a line";
     choose(1);
     EXPECT_EQ(filter(), u"(WarehouseID = 2) AND (Posted = false)"_s);
-    EXPECT_EQ(child<QAbstractButton>(*receipts, "btnFilterChip")->text(), u"Location: Freezer, Posted: No"_s);
+    EXPECT_EQ(chip(), u"Location: Freezer, Posted: No"_s);
 
     prompts.ok = false;
     keepAs(u"attic"_s);
@@ -483,8 +472,8 @@ TEST_F(ListScreensTest, filtersAreKeptByName)
     EXPECT_EQ(prompts.told(), u"Confirm: Delete the filter 'Attic'?"_s);
     EXPECT_EQ(names(), u"Open *|"_s);
 
-    delete receipts;
-    receipts = &open<TfrmInvReceipts>();
+    delete list;
+    open<TfrmInvReceipts>();
     EXPECT_EQ(names(), u"Open|"_s) << "kept beyond the window";
     manage([](KeptFiltersDialog &dialog) {
         press(Qt::Key_Return);
@@ -511,28 +500,24 @@ TEST_F(ListScreensTest, historyIsNarrowedFromTotalsAndByItsDialog)
     auto &totals = open<TfrmInvTotals>();
     press(Qt::Key_Return);
     ASSERT_NE(list, &totals);
-    auto &history = static_cast<TfrmInvHistory &>(*list);
-    EXPECT_EQ(history.dataSet().filter(), u"(ItemID = 1) AND (WarehouseID = 1)"_s);
-    ASSERT_EQ(rows(), 2);
-    EXPECT_EQ(row(0).mid(0, 5), (QStringList{u"4/2026"_s, u"02 Apr 26"_s, u"A10"_s, u"Apples"_s, u"Usage"_s}));
+    EXPECT_EQ(narrowed(), u"(ItemID = 1) AND (WarehouseID = 1): 2"_s);
+    EXPECT_EQ(row(0).mid(0, 5).join(u'|'), u"4/2026|02 Apr 26|A10|Apples|Usage"_s);
 
-    const auto filter = [&] { history.btnFilterClick(); };
-    EXPECT_TRUE(whileOpen<TfrmInvHistoryFilter>(filter, [](TfrmInvHistoryFilter &dialog) {
+    inDialog<TfrmInvHistoryFilter>(u"mnuFilter"_s, [](TfrmInvHistoryFilter &dialog) {
         EXPECT_EQ(dialog.GetItemID(), 1) << "preset";
         EXPECT_EQ(dialog.GetWarehouseID(), 1);
         dialog.btnResetClick();
         child<QComboBox>(dialog, "cboTransType")->setCurrentIndex(2);
         type("<Alt+Y>26<Return>");
-    }));
-    EXPECT_EQ(history.dataSet().filter(), u"(TransType = 5) AND (GLYear = 2026)"_s);
-    EXPECT_EQ(rows(), 1);
-    EXPECT_TRUE(whileOpen<TfrmInvHistoryFilter>(filter, [](TfrmInvHistoryFilter &dialog) {
+    });
+    EXPECT_EQ(narrowed(), u"(TransType = 5) AND (GLYear = 2026): 1"_s);
+    inDialog<TfrmInvHistoryFilter>(u"mnuFilter"_s, [](TfrmInvHistoryFilter &dialog) {
         EXPECT_FALSE(child<QCheckBox>(dialog, "chkYearAll")->isChecked());
         dialog.btnResetClick();
         EXPECT_EQ(child<QSpinBox>(dialog, "editYear")->text(), u"<All>"_s);
         press(Qt::Key_Return);
-    }));
-    EXPECT_EQ(history.windowTitle(), u"Inventory History"_s);
+    });
+    EXPECT_EQ(list->windowTitle(), u"Inventory History"_s);
     EXPECT_EQ(rows(), 3);
 }
 
@@ -547,24 +532,22 @@ TEST_F(ListScreensTest, historyOpensDocumentsOnTheLineOfTheItem)
         "(1, 2026, 9, 3, 6, 1, NULL, NULL), (3, 2026, 8, 5, 8, NULL, 1, NULL), (2, 2026, 7, 1, -1, NULL, NULL, 1), "
         "(3, 2026, 6, 3, 77, 1, NULL, NULL), (4, 2026, 5, 2, 1, NULL, NULL, NULL)"_s);
     auto &history = open<TfrmInvHistory>();
-    // Which document the row opens, and the item and quantity that the cursor is on there.
-    const std::tuple<int, const DocumentKind *, int, double> cases[] = {{0, &DocumentKinds::receipt(), 1, 6},
-                                                                        {1, &DocumentKinds::usage(), 3, 8},
-                                                                        {2, &DocumentKinds::adjustment(), 2, -1},
-                                                                        {3, &DocumentKinds::receipt(), 3, 1}};
-    for (const auto &[row, kind, item, quantity] : cases) {
+    // Which document the row opens, and the quantity and item that the cursor is on there.
+    const std::tuple<int, const DocumentKind &, QString> cases[] = {{0, DocumentKinds::receipt(), u"6 A10"_s},
+                                                                    {1, DocumentKinds::usage(), u"8 B1"_s},
+                                                                    {2, DocumentKinds::adjustment(), u"-1 A11"_s},
+                                                                    {3, DocumentKinds::receipt(), u"1 B1"_s}};
+    for (const auto &[row, kind, line] : cases) {
         SCOPED_TRACE(row);
         showActive(history);
         grid->setCurrentIndex(grid->model()->index(row, 0));
         EXPECT_TRUE(history.command(u"mnuOpenDocument"_s)->isEnabled());
         EXPECT_EQ(history.command(u"mnuSource"_s)->isEnabled(), row != 1);
         history.command(u"mnuOpenDocument"_s)->trigger();
-        auto *document = findScreen<DocumentScreen>(kind->entry.screen);
+        auto *document = findScreen<DocumentScreen>(kind.entry.screen);
         ASSERT_NE(document, nullptr);
         auto *lines = child<QTableView>(*document, "DBGrid1");
-        const QStringList line = rowOf(*lines, lines->currentIndex().row());
-        EXPECT_EQ(line[0], QString::number(quantity));
-        EXPECT_EQ(line[1], kitchen.text(u"SELECT ItemNo FROM Item WHERE ItemID = %1"_s, item));
+        EXPECT_EQ(rowOf(*lines, lines->currentIndex().row()).mid(0, 2).join(u' '), line);
         EXPECT_EQ(document->focusWidget(), lines);
     }
     grid->setCurrentIndex(grid->model()->index(4, 0));

@@ -25,11 +25,6 @@ struct UsageScreenTest : ScreenTest
         screen = openRecord<TfrmUsage>();
         grid = child<LineGrid>(*screen, "DBGrid1");
     }
-    void openList()
-    {
-        list = new TfrmUsages(*context, mainWindow.get());
-        showActive(*list);
-    }
     QString cursor() { return cursorOf(*grid); }
     // A quantity, which leads to the search when the event is over, and an item by its number there.
     void enterLine(const char *quantity, const char *itemNo)
@@ -37,14 +32,22 @@ struct UsageScreenTest : ScreenTest
         bool chosen = false;
         const auto enter = [&] {
             type(quantity);
-            press(Qt::Key_Return);
             EXPECT_TRUE(comesTrue([&] { return chosen && grid->hasFocus(); }));
         };
         EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(enter, [&](TfrmItemSearchInv &) {
             type(itemNo);
-            press(Qt::Key_Return);
             chosen = true;
         }));
+    }
+    // Each of the filter dialog that the list opens, and the filter and number of rows that come of it.
+    QString filtered(const std::function<void(DocumentFilterScreen &)> &choose)
+    {
+        const auto open = [this] { list->command(u"mnuFilter"_s)->trigger(); };
+        EXPECT_TRUE(whileOpen<DocumentFilterScreen>(open, [&](DocumentFilterScreen &dialog) {
+            choose(dialog);
+            press(Qt::Key_Return);
+        }));
+        return u"%1: %2"_s.arg(list->dataSet().filter()).arg(list->dataSet().recordCount());
     }
     QString stored()
     {
@@ -66,20 +69,19 @@ TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
     EXPECT_EQ(focusName(), u"editUsageNo"_s);
     EXPECT_TRUE(screen->testAttribute(Qt::WA_KeyboardFocusChange)) << "boxes show the cursor that Enter brings";
     press(Qt::Key_PageDown);
-    enterLine("3", "A10");
+    const auto cursorAfter = [this](const char *keys) {
+        type(keys);
+        return cursor();
+    };
+    enterLine("3<Return>", "A10<Return>");
     EXPECT_EQ(cursor(), u"0,1"_s);
-    type("<Return>for pie<Return>");
-    EXPECT_EQ(cursor(), u"0,3"_s);
-    press(Qt::Key_Return);
-    EXPECT_EQ(cursor(), u"0,5"_s) << "past the cost";
-    type("9"); // what is calculated takes nothing
-    press(Qt::Key_Return);
-    EXPECT_EQ(cursor(), u"1,0"_s);
+    EXPECT_EQ(cursorAfter("<Return>for pie<Return>"), u"0,3"_s);
+    EXPECT_EQ(cursorAfter("<Return>"), u"0,5"_s) << "past the cost";
+    EXPECT_EQ(cursorAfter("9<Return>"), u"1,0"_s) << "what is calculated takes nothing";
     EXPECT_EQ(child<QLabel>(*screen, "lblLinesTotal")->text(), u"6.00"_s);
-    enterLine("2", "A11");
+    enterLine("2<Return>", "A11<Return>");
     type("<Tab><Tab>ap"); // completed to "Apples", whose first letter has another case
-    press(Qt::Key_Tab);
-    EXPECT_EQ(cursor(), u"1,4"_s) << "Tab stops at the cost";
+    EXPECT_EQ(cursorAfter("<Tab>"), u"1,4"_s) << "Tab stops at the cost";
     typeIn(*screen, "editDescription", "<PgDown><Backtab>");
     EXPECT_EQ(focusName(), u"cboWarehouse"_s);
     press(Qt::Key_Delete);
@@ -121,28 +123,17 @@ TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
     kitchen.execute(u"INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, InventoryDate, Posted) VALUES "
                     "(1, '11', 1, '2026-03-14', true), (2, '12', 2, '2026-03-15', false), "
                     "(3, '13', 2, '2026-03-15', NULL)"_s);
-    openList();
-    const auto filter = [&](const std::function<void(DocumentFilterScreen &)> &choose) {
-        const auto open = [&] { list->command(u"mnuFilter"_s)->trigger(); };
-        EXPECT_TRUE(whileOpen<DocumentFilterScreen>(open, [&](DocumentFilterScreen &dialog) {
-            choose(dialog);
-            press(Qt::Key_Return);
-        }));
-    };
-    filter([](DocumentFilterScreen &dialog) { dialog.setKey(u"cboCurrency"_s, 2); });
-    EXPECT_EQ(list->dataSet().filter(), QString());
-    EXPECT_EQ(list->dataSet().recordCount(), 3);
+    list = openScreen<TfrmUsages>();
+    EXPECT_EQ(filtered([](DocumentFilterScreen &dialog) { dialog.setKey(u"cboCurrency"_s, 2); }), u": 3"_s);
     kitchen.execute(u"INSERT INTO IUsage (UsageID, UsageNo, WarehouseID, Posted) VALUES (4, '14', 1, true)"_s);
-    filter([](DocumentFilterScreen &) {});
-    EXPECT_EQ(list->dataSet().recordCount(), 4) << "read anew";
-    filter([](DocumentFilterScreen &dialog) {
-        dialog.setKey(u"cboWarehouse"_s, 2);
-        child<QAbstractButton>(dialog, "optPostedNo")->click();
-    });
-    EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted <> true)"_s);
-    EXPECT_EQ(list->dataSet().recordCount(), 2);
-    filter([](DocumentFilterScreen &dialog) { child<QAbstractButton>(dialog, "optPostedYes")->click(); });
-    EXPECT_EQ(list->dataSet().filter(), u"(WarehouseID = 2) AND (Posted = true)"_s);
+    EXPECT_EQ(filtered([](DocumentFilterScreen &) {}), u": 4"_s) << "read anew";
+    EXPECT_EQ(filtered([](DocumentFilterScreen &dialog) {
+                  dialog.setKey(u"cboWarehouse"_s, 2);
+                  click(dialog, "optPostedNo");
+              }),
+              u"(WarehouseID = 2) AND (Posted <> true): 2"_s);
+    EXPECT_EQ(filtered([](DocumentFilterScreen &dialog) { click(dialog, "optPostedYes"); }),
+              u"(WarehouseID = 2) AND (Posted = true): 0"_s);
 
     list->resetFilter();
     ASSERT_TRUE(list->moveToKey(2));
