@@ -114,9 +114,9 @@ TEST_P(InsightTest, ACardHasTheStockAndItsWays)
         const auto everywhere = [&](const std::function<bool(const Moved &)> &counts) {
             return sum(item, 0, counts);
         };
-        EXPECT_EQ(card.onHand, everywhere([](const Moved &one) { return one.posted; }));
+        EXPECT_EQ(card.onHand, everywhere(&Moved::posted));
         for (const StockAtLocation &place : card.stock)
-            EXPECT_EQ(place.onHand, sum(item, place.location, [](const Moved &one) { return one.posted; }));
+            EXPECT_EQ(place.onHand, sum(item, place.location, &Moved::posted));
         double waiting = 0;
         for (const WaitingStock &one : card.waiting) {
             EXPECT_EQ(one.change,
@@ -317,10 +317,7 @@ TEST_P(InsightTest, WhatToBuyFollowsUseAndStock)
 // Currency 2 is worth 0.75; V2 has it.
 TEST_P(InsightTest, WhatIsToBeBoughtBecomesAReceipt)
 {
-    kitchen.execute(uR"(
-        UPDATE Item SET Suspended = false;
-        DELETE FROM IHist WHERE TransType = 3;
-    )"_s);
+    kitchen.execute(u"UPDATE Item SET Suspended = false; DELETE FROM IHist WHERE TransType = 3"_s);
     ::addDocument(kitchen, DocumentKinds::receipt(), 91, 1, {{1, u"1"_s, u"4"_s}, {2, u"1"_s, u"6"_s}}, 2);
     ::addDocument(kitchen, DocumentKinds::usage(), 92, 1, {{1, u"10000"_s}, {2, u"10000"_s}});
     kitchen.execute(u"UPDATE IReceipt SET Posted = true WHERE Posted = false AND ReceiptID < 91"_s);

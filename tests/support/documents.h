@@ -106,3 +106,38 @@ inline void addPostedDocuments(Kitchen &kitchen, int count, std::mt19937 &random
         addRandomDocument(kitchen, *kinds.at(id % kinds.size()), id, 4, random);
     postAll(kitchen);
 }
+
+// A test of documents of any kind, with one in hand. All items are stocked and cost 2 on an average.
+struct DocumentTest : KitchenTest
+{
+    DocumentTest()
+    {
+        kitchen.execute(QStringLiteral("UPDATE ItemType SET Inventory = true, CostingMethod = 1; "
+                                       "UPDATE Item SET WgtAvgCost = 2"));
+    }
+
+    // A new one where there is no key.
+    void open(const Tallymere::DocumentKind &kind, std::optional<int> key = std::nullopt)
+    {
+        entry.reset();
+        entry = openEntry(kitchen.database(), kind, prompts, key);
+        if (!key)
+            entry->newDocument();
+    }
+    QString quantityField() const { return entry->kind().entry.lineColumns.constFirst().field; }
+    bool hasCost() const { return std::as_const(*entry).lines().fieldIndex(u"UnitCost") >= 0; }
+    // What is stored of its lines, as rows() of such fields, with the cost where they have one.
+    QStringList stored(const QString &fields = QStringLiteral("Seq, ItemID, %1"))
+    {
+        const QString cost = hasCost() ? QStringLiteral(", UnitCost") : QString();
+        return kitchen.rows(QStringLiteral("SELECT %1 FROM %2 WHERE %3 = %4 ORDER BY Seq"),
+                            fields.arg(quantityField()) + cost, entry->kind().lineTable, entry->kind().keyField,
+                            entry->key());
+    }
+    bool post(const Tallymere::DocumentKind &kind = Tallymere::DocumentKinds::receipt())
+    {
+        return Tallymere::DocumentPosting(kitchen.database(), kind).run(prompts, progress);
+    }
+
+    std::unique_ptr<Tallymere::DocumentEntry> entry;
+};

@@ -8,13 +8,12 @@ using namespace Tallymere;
 namespace {
 
 // The counters are behind: documents 0, 1, 2 and 4 have been posted, of 3 and 5 there are lines alone.
-struct DocumentKeys : KitchenTest
+struct DocumentKeys : DocumentTest
 {
     void SetUp() override
     {
         kitchen.execute(u"INSERT INTO ItemCtl (NextItemNo) VALUES (1001);"
-                        "INSERT INTO ARInvCtl (NextInvoiceNo) VALUES (1001);"
-                        "UPDATE ItemType SET Inventory = true, CostingMethod = 1"_s);
+                        "INSERT INTO ARInvCtl (NextInvoiceNo) VALUES (1001)"_s);
         for (const DocumentKind *kind : DocumentKinds::all())
             addDocuments(*kind);
     }
@@ -37,8 +36,7 @@ TEST_P(DocumentKeys, ThatDocumentsOrLinesHaveAreNotGivenAgain)
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
         const QStringList before = storedLines(*kind);
-        const auto entry = openEntry(kitchen.database(), *kind, prompts);
-        entry->newDocument();
+        open(*kind);
         EXPECT_EQ(entry->key(), 6);
         EXPECT_TRUE(entry->lines().isEmpty());
         entry->removeLine();
@@ -81,8 +79,7 @@ TEST_P(DocumentKeys, StoredMeanwhileKeepTheirLines)
 {
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
-        const auto entry = openEntry(kitchen.database(), *kind, prompts);
-        entry->newDocument();
+        open(*kind);
         kitchen.execute(u"UPDATE %1 SET %2 = 6 WHERE %2 = 4; UPDATE %3 SET %2 = 6 WHERE %2 = 4"_s,
                         kind->headerTable, kind->keyField, kind->lineTable);
         const QStringList before = storedLines(*kind);

@@ -8,17 +8,7 @@ using namespace Tallymere;
 
 namespace {
 
-struct DocumentKindsTest : KitchenTest
-{
-    DocumentKindsTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
-
-    void enter(const DocumentKind &kind)
-    {
-        const auto entry = openEntry(kitchen.database(), kind, prompts);
-        beginDocument(*entry);
-        entry->save();
-    }
-};
+using DocumentKindsTest = DocumentTest;
 ON_BOTH_STORES(DocumentKindsTest);
 
 TEST_P(DocumentKindsTest, AreKnownWhereverDocumentsAre)
@@ -30,7 +20,9 @@ TEST_P(DocumentKindsTest, AreKnownWhereverDocumentsAre)
         EXPECT_FALSE(type->filterText.isEmpty()) << "the history's filter offers it";
         EXPECT_NE(type->summary, TransTypeInfo::Summary::None) << "reports count it";
 
-        enter(*kind);
+        open(*kind);
+        beginDocument(*entry);
+        entry->save();
         const std::vector<WaitingDocument> waiting = waitingDocuments(kitchen.database(), 1);
         ASSERT_EQ(waiting.size(), 1u) << "a count sees it";
         EXPECT_EQ(waiting.front().kind, kind);

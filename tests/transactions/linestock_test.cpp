@@ -5,7 +5,7 @@ using namespace Tallymere;
 
 namespace {
 
-struct LineStockTest : KitchenTest
+struct LineStockTest : DocumentTest
 {
     LineStockTest()
     {
@@ -28,8 +28,6 @@ struct LineStockTest : KitchenTest
     {
         return entry->lines().text(DocumentEntry::OnHand) + u'|' + entry->lines().text(DocumentEntry::Afterwards);
     }
-
-    std::unique_ptr<DocumentEntry> entry;
 };
 ON_BOTH_STORES(LineStockTest);
 
@@ -37,24 +35,23 @@ TEST_P(LineStockTest, FollowsTheLinesOfEveryKindOfDocument)
 {
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
-        const QString quantity = kind->entry.lineColumns.constFirst().field;
         const auto line = [&](double onHand, double moved) {
             return u"%1|%2"_s.arg(onHand).arg(onHand + stockChange(kind->posting.transType, moved));
         };
         addDocument(kitchen, *kind, 1, 1, {{1, u"2"_s, u"1"_s}, {2, u"4"_s, u"1"_s}, {1, u"3"_s, u"1"_s}});
-        entry = openEntry(kitchen.database(), *kind, prompts, 1);
+        open(*kind, 1);
         EXPECT_EQ(told(), (QStringList{line(10, 2), u"|"_s, line(10, 5)}))
             << "the second is of a type without stock";
 
         entry->lines().moveTo(0);
         entry->lines().edit();
-        entry->lines().set(quantity, 7.0);
+        entry->lines().set(quantityField(), 7.0);
         EXPECT_EQ(toldInHand(), line(10, 7));
         entry->lines().post();
         EXPECT_EQ(told().last(), line(10, 10));
         entry->newLine();
         entry->lines().set(u"ItemID", 1);
-        entry->lines().set(quantity, 1.0);
+        entry->lines().set(quantityField(), 1.0);
         EXPECT_EQ(toldInHand(), line(10, 11));
         entry->lines().cancel();
 
@@ -64,7 +61,6 @@ TEST_P(LineStockTest, FollowsTheLinesOfEveryKindOfDocument)
         kitchen.execute(u"UPDATE %1 SET Posted = true"_s.arg(kind->headerTable));
         ASSERT_TRUE(entry->openDocument(1));
         EXPECT_EQ(told(), QStringList({u"|"_s, u"|"_s, u"|"_s})) << "the books hold what it did";
-        entry.reset();
     }
 }
 

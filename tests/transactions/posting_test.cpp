@@ -8,12 +8,8 @@ using Engine::ErrorCode;
 
 namespace {
 
-struct Posting : KitchenTest
+struct Posting : DocumentTest
 {
-    bool post(const DocumentKind &kind = DocumentKinds::receipt())
-    {
-        return DocumentPosting(kitchen.database(), kind).run(prompts, progress);
-    }
     QStringList posted()
     {
         return kitchen.rows(u"SELECT ReceiptID FROM IReceipt WHERE Posted = true ORDER BY 1"_s);

@@ -9,10 +9,8 @@ using namespace Tallymere;
 
 namespace {
 
-struct OutlookTest : KitchenTest
+struct OutlookTest : DocumentTest
 {
-    OutlookTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
-
     QStringList notices(const DocumentKind &kind)
     {
         PostingOutlook outlook(kitchen.database(), kind, unpostedKeys(kitchen.database(), kind));
@@ -66,7 +64,7 @@ TEST_P(OutlookTest, TellsTheBalancesThatPostingLeaves)
             if (text.contains(u" goes from "_s) && text.contains(u" at "_s))
                 told << text.section(u": "_s, -1).section(u" goes from "_s, 0, 0) + text.section(u" to"_s, -1);
         const QStringList before = kitchen.rows(u"SELECT ItemID, WarehouseID, QtyOnHand FROM IBalance"_s);
-        DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
+        post(*kind);
         QStringList fell;
         for (const QString &row :
              kitchen.rows(u"SELECT I.ItemNo, W.WarehouseName, B.QtyOnHand, B.ItemID, B.WarehouseID FROM IBalance B "

@@ -7,11 +7,11 @@ using namespace Tallymere;
 
 namespace {
 
-struct ReversalTest : KitchenTest
+struct ReversalTest : DocumentTest
 {
     ReversalTest()
     {
-        kitchen.execute(u"UPDATE ItemType SET Inventory = true; DELETE FROM ItemCtl; DELETE FROM ARInvCtl; "
+        kitchen.execute(u"DELETE FROM ItemCtl; DELETE FROM ARInvCtl; "
                         "INSERT INTO ItemCtl (NextInvReceiptID, NextInvAdjustmentID) VALUES (100, 100); "
                         "INSERT INTO ARInvCtl (NextInvoiceID) VALUES (100)"_s);
     }
@@ -32,12 +32,12 @@ TEST_P(ReversalTest, TakesBackWhatEveryKindOfDocumentHasDone)
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
         addDocument(kitchen, *kind, 7, 1, {{1, u"2.5"_s, u"3"_s}, {2, u"-4"_s, u"1.5"_s}}, 2);
-        const auto entry = openEntry(kitchen.database(), *kind, prompts);
+        entry = openEntry(kitchen.database(), *kind, prompts);
         EXPECT_NE(refusalOf([&] { beginReversal(*entry, 7); }), QString()) << "it is not posted";
         EXPECT_NE(refusalOf([&] { beginReversal(*entry, 99); }), QString());
         if (kind == &DocumentKinds::usage())
             kitchen.execute(u"UPDATE IUsage SET Printed = true"_s);
-        DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
+        post(*kind);
         EXPECT_NE(balances(), before);
 
         beginReversal(*entry, 7);
@@ -62,7 +62,7 @@ TEST_P(ReversalTest, TakesBackWhatEveryKindOfDocumentHasDone)
         EXPECT_TRUE(entry->header().fieldIndex(Fields::VendorID) < 0
                     || entry->header().integer(Fields::VendorID) == 2);
         EXPECT_FALSE(entry->header().fieldIndex(Fields::Printed) >= 0 && entry->header().boolean(Fields::Printed));
-        DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
+        post(*kind);
         EXPECT_EQ(balances(), before);
     }
     EXPECT_EQ(kitchen.text(u"SELECT AdjDescription FROM IAdjust WHERE AdjustmentID <> 7"_s),
@@ -74,8 +74,8 @@ TEST_P(ReversalTest, LeavesNothingWhenItIsDroppedOrALineIsRefused)
     for (const DocumentKind *kind : DocumentKinds::all()) {
         SCOPED_TRACE(qPrintable(kind->name));
         addDocument(kitchen, *kind, 7, 1, {{1, u"2"_s, u"3"_s}, {2, u"4"_s, u"1.5"_s}});
-        DocumentPosting(kitchen.database(), *kind).run(prompts, progress);
-        const auto entry = openEntry(kitchen.database(), *kind, prompts);
+        post(*kind);
+        entry = openEntry(kitchen.database(), *kind, prompts);
         beginReversal(*entry, 7);
         entry->cancel();
         EXPECT_EQ(count(kind->lineTable), 2);

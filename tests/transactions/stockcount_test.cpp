@@ -39,6 +39,20 @@ struct CountTest : KitchenTest
         return rows.join(u", "_s);
     }
     void enter(const QString &itemNo, double quantity) { count.count(count.list().rowOfNumber(itemNo), quantity); }
+    // Reads the list of the Office, and counts these.
+    void countOffice(const QList<std::pair<QString, double>> &counted = {})
+    {
+        ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+        for (const auto &[itemNo, quantity] : counted)
+            enter(itemNo, quantity);
+    }
+    // The lines of the usage that comes of it.
+    QString calculated()
+    {
+        EXPECT_TRUE(count.calculate().usage);
+        return usageLines();
+    }
+    void deleteUsages() { kitchen.execute(u"DELETE FROM IUsageDet; DELETE FROM IUsage"_s); }
     QStringList usages()
     {
         return kitchen.rows(
@@ -69,7 +83,7 @@ TEST_P(CountTest, ListsWhatIsCountedInTheChosenOrder)
     )"_s);
     for (int item = 4; item <= 7; ++item)
         kitchen.setStock(item, 1, 1, 0);
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    countOffice();
     EXPECT_EQ(rows(), u"A10 10, A11 5, B1 2.5, Z2 1");
     count.setZeroCounts(ZeroCounts::Included); // Oil has a balance, elsewhere
     EXPECT_EQ(rows(), u"A10 10, A11 5, B1 2.5, Z2 1, Z4 none");
@@ -93,10 +107,7 @@ TEST_P(CountTest, ListsWhatIsCountedInTheChosenOrder)
 TEST_P(CountTest, WritesWhatDiffersAsOneUsage)
 {
     kitchen.execute(u"UPDATE ARInvCtl SET NextInvoiceID = 10000000"_s);
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-    enter(u"A10"_s, 8);
-    enter(u"A11"_s, 6);
-    enter(u"B1"_s, 2.5);
+    countOffice({{u"A10"_s, 8}, {u"A11"_s, 6}, {u"B1"_s, 2.5}});
     EXPECT_EQ(count.list().totals().counted, 3);
     EXPECT_EQ(count.list().totals().differing, 2);
     EXPECT_EQ(count.list().totals().value.toDouble(), -3);
@@ -114,7 +125,7 @@ TEST_P(CountTest, WritesWhatDiffersAsOneUsage)
     const QString unposted = u"warn: There are unposted transactions for this location."_s;
     EXPECT_THROW(count.calculate(), SilentAbort) << "the same usage a second time";
     EXPECT_TRUE(prompts.last().startsWith(unposted));
-    kitchen.execute(u"DELETE FROM IUsageDet; DELETE FROM IUsage"_s);
+    deleteUsages();
     enter(u"A10"_s, 7);
     EXPECT_THROW(count.calculate(), SilentAbort) << "the list does not know what has become of the usage";
     EXPECT_EQ(usages(), QStringList());
@@ -125,8 +136,7 @@ TEST_P(CountTest, WritesWhatDiffersAsOneUsage)
         u"Transactions of this location have been posted since this list was read. [&Read again, keep my count|]"_s);
     EXPECT_EQ(count.readAgain(), QString());
     EXPECT_EQ(rows(), u"A10 10 -> 7, A11 5 -> 6, B1 2.5 -> 2.5");
-    ASSERT_TRUE(count.calculate().usage);
-    EXPECT_EQ(usageLines(), u"10001|1|3|1|1.5 10001|2|-1|2|0");
+    EXPECT_EQ(calculated(), u"10001|1|3|1|1.5 10001|2|-1|2|0");
 }
 
 TEST_P(CountTest, ItIsKnownWhenAnItemHasBeenCountedLast)
@@ -134,25 +144,24 @@ TEST_P(CountTest, ItIsKnownWhenAnItemHasBeenCountedLast)
     const auto counted = [&] {
         return kitchen.found(u"SELECT ItemID, WarehouseID, CountDate FROM ICounted ORDER BY ItemID"_s);
     };
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-    enter(u"A10"_s, 10);
+    countOffice({{u"A10"_s, 10}});
     EXPECT_FALSE(count.calculate().usage);
     EXPECT_EQ(counted(), u"1|1|2026-03-14") << "found as recorded";
     count.setDate(date.addDays(-7)); // a count that is entered late
     enter(u"B1"_s, 2);
-    ASSERT_TRUE(count.calculate().usage);
+    calculated();
     EXPECT_EQ(counted(), u"1|1|2026-03-14 3|1|2026-03-07") << "nobody has counted the third one";
-    kitchen.execute(u"DELETE FROM IUsageDet; DELETE FROM IUsage"_s);
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    deleteUsages();
+    countOffice();
     count.setDate(date.addDays(1));
     enter(u"A10"_s, 9);
-    ASSERT_TRUE(count.calculate().usage);
+    calculated();
     EXPECT_EQ(counted(), u"1|1|2026-03-15 3|1|2026-03-07");
 }
 
 TEST_P(CountTest, WritesNothingWhereNothingHasBeenUsed)
 {
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    countOffice();
     EXPECT_FALSE(count.calculate().usage);
     enter(u"A10"_s, 11);
     EXPECT_FALSE(count.calculate().usage);
@@ -174,8 +183,7 @@ TEST_P(CountTest, TakesNoNoiseOfTheBooksForADifference)
     EXPECT_FALSE(count.calculate().usage);
     enter(u"B1"_s, 16.9);
     EXPECT_EQ(count.list().totals().differing, 1);
-    ASSERT_TRUE(count.calculate().usage);
-    EXPECT_EQ(usageLines(), u"2000|1|0.1|3|4");
+    EXPECT_EQ(calculated(), u"2000|1|0.1|3|4");
 }
 
 TEST_P(CountTest, TakesThePeriodAndCostsFromTheBooks)
@@ -185,13 +193,12 @@ TEST_P(CountTest, TakesThePeriodAndCostsFromTheBooks)
         {2025, 0, 2, u"2025|3|0.25"_s}, {0, 7, 1, u"2026|7|1.5"_s}, {0, 0, 3, u"2026|3|0"_s}};
     kitchen.execute(u"UPDATE Item SET StandardCost = 0.25 WHERE ItemID = 1"_s);
     for (const auto &[year, period, method, written] : cases) {
-        kitchen.execute(u"DELETE FROM IUsage; DELETE FROM IUsageDet; UPDATE Company SET DefaultPeriodYYYY = %1, "
-                        "DefaultPeriodPP = %2; UPDATE ItemType SET CostingMethod = %3"_s.arg(year)
-                            .arg(period)
-                            .arg(method));
-        ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-        enter(u"A10"_s, 0);
-        ASSERT_TRUE(count.calculate().usage);
+        deleteUsages();
+        kitchen.execute(u"UPDATE Company SET DefaultPeriodYYYY = %1, DefaultPeriodPP = %2; "
+                        "UPDATE ItemType SET CostingMethod = %3"_s,
+                        year, period, method);
+        countOffice({{u"A10"_s, 0}});
+        calculated();
         EXPECT_EQ(kitchen.rows(u"SELECT GLYear, GLPeriod, UnitCost FROM IUsage, IUsageDet"_s),
                   QStringList(written));
         EXPECT_EQ(prompts.told(), QString());
@@ -214,9 +221,8 @@ TEST_P(CountTest, OpensNoLocationWithUnpostedDocuments)
 
 TEST_P(CountTest, DeductsUnpostedUsageInWholeNumbers)
 {
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-    enter(u"A10"_s, 8.5);
-    ASSERT_TRUE(count.calculate().usage);
+    countOffice({{u"A10"_s, 8.5}});
+    calculated();
     enter(u"A11"_s, 1);
     count.setZeroCounts(ZeroCounts::Included); // 10 less 1.5, the latter cut to 1
     EXPECT_TRUE(prompts.last().startsWith("warn: There are unposted transactions"_L1));
@@ -242,8 +248,7 @@ TEST_P(CountTest, AsksWhenTheBooksHaveChangedMeanwhile)
     prompts.ok = false;
     for (const QString &change : changes) {
         kitchen.execute(u"UPDATE IReceipt SET Posted = true"_s);
-        ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-        enter(u"A10"_s, 9);
+        countOffice({{u"A10"_s, 9}});
         kitchen.execute(change);
         prompts.take();
         EXPECT_THROW(count.calculate(), SilentAbort);
@@ -254,16 +259,13 @@ TEST_P(CountTest, AsksWhenTheBooksHaveChangedMeanwhile)
     EXPECT_TRUE(has(prompts.last(), u"\n\nReceipt 77, 03/05/2026\n\n"_s));
     prompts.ok = true;
     prompts.answer = Answer::No; // nevertheless
-    EXPECT_TRUE(count.calculate().usage);
-    EXPECT_EQ(usageLines(), u"2000|1|1|1|1.5");
+    EXPECT_EQ(calculated(), u"2000|1|1|1|1.5");
 }
 
 TEST_P(CountTest, ReadsTheListAgainAndKeepsWhatHasBeenCounted)
 {
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
+    countOffice({{u"A10"_s, 9}, {u"B1"_s, 1}});
     count.sortBy(CountList::Order::Item);
-    enter(u"A10"_s, 9);
-    enter(u"B1"_s, 1);
     count.setStandardCost(2, Engine::Money::fromDouble(7));
     kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8 WHERE ItemID = 1; "
                     "INSERT INTO IReceipt (ReceiptID, WarehouseID, Posted) VALUES (1, 1, false)"_s);
@@ -279,8 +281,7 @@ TEST_P(CountTest, ReadsTheListAgainAndKeepsWhatHasBeenCounted)
     EXPECT_EQ(count.list().costs(), (ItemCosts{{2, Engine::Money::fromDouble(7)}}));
     EXPECT_EQ(count.draft()->recorded.value(1), 8);
     prompts.take();
-    ASSERT_TRUE(count.calculate().usage);
-    EXPECT_EQ(usageLines(), u"2000|1|-1|1|1.5 2000|2|1.5|3|4");
+    EXPECT_EQ(calculated(), u"2000|1|-1|1|1.5 2000|2|1.5|3|4");
     EXPECT_EQ(prompts.said, QStringList());
 }
 
@@ -313,8 +314,7 @@ TEST_P(CountTest, ExcludesWhoeverPostsAndPassesOverNumbersGivenByHand)
     const auto anna = kitchen.anotherUser();
     auto posting = std::make_unique<Engine::TableLocks>(anna->database);
     posting->take(u"IBalance"_s);
-    ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-    enter(u"A10"_s, 9);
+    countOffice({{u"A10"_s, 9}});
     EXPECT_THROW(count.calculate(), Engine::EngineError);
     EXPECT_EQ(counters(), u"2000|500"_s);
     EXPECT_TRUE(prompts.last().startsWith("Unable to lock Item Balance table..."_L1));

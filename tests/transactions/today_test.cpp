@@ -8,10 +8,8 @@ using namespace Tallymere;
 
 namespace {
 
-struct TodayTest : KitchenTest
+struct TodayTest : DocumentTest
 {
-    TodayTest() { kitchen.execute(u"UPDATE ItemType SET Inventory = true"_s); }
-
     TodayFigure figure(const QString &title)
     {
         for (const TodayLine &line : todayLines()) {
