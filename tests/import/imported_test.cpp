@@ -13,11 +13,15 @@ namespace {
 
 struct Imports : KitchenTest
 {
-    Imported import(const QString &kind, QByteArray csv)
+    ImportResult read(Kitchen &into, const ImportKind &kind, QByteArray csv, bool answerYes = false)
     {
         QBuffer file(&csv);
         file.open(QIODevice::ReadOnly);
-        ImportResult result = importFile(kitchen.database(), file, *findImportKind(kind), false, progress);
+        return importFile(into.database(), file, kind, answerYes, progress);
+    }
+    Imported import(const QString &kind, const QByteArray &csv)
+    {
+        ImportResult result = read(kitchen, *findImportKind(kind), csv);
         for (const ImportErrors::Error &error : result.errors.inFileOrder())
             ADD_FAILURE() << error.line << qPrintable(error.message);
         return std::move(result.imported);
@@ -42,10 +46,7 @@ TEST_P(Imports, TellWhatTheStoreRefusesOfItsOwnRow)
     QByteArray csv = "PurchaseOrderNo,ReceiptDate,VendorNo,WarehouseName,ItemNo,QtyReceived,UnitCost\n";
     for (const char *order : {"P1", "P2", "P1", "P4", "P5", "P6"})
         csv += QByteArray(order) + ",2026-03-01,V1,Office,A10,2,1\n";
-    QBuffer file(&csv);
-    file.open(QIODevice::ReadOnly);
-    const ImportResult result =
-        importFile(kitchen.database(), file, *findImportKind(u"receipts"_s), false, progress);
+    const ImportResult result = read(kitchen, *findImportKind(u"receipts"_s), csv);
     const auto errors = result.errors.inFileOrder();
     ASSERT_EQ(errors.size(), 1);
     EXPECT_EQ(errors.front().line, 4);
@@ -60,21 +61,17 @@ TEST_P(Imports, BringInWhatOtherBooksHaveSavedForThem)
                     "UPDATE Vendor SET CurrencyID = 1, Suspended = false WHERE VendorID IN (2, 5)"_s);
     import(u"receipts"_s, twoReceipts);
     const auto saved = [this](Kitchen &from, const ImportKind &kind) {
-        QByteArray bytes;
-        QBuffer file(&bytes);
-        file.open(QIODevice::WriteOnly);
-        CsvWriter writer(file);
-        writeImportable(from.database(), kind, writer, progress);
-        return bytes;
+        return writtenBy([&](QIODevice &file) {
+            CsvWriter writer(file);
+            writeImportable(from.database(), kind, writer, progress);
+        });
     };
     Kitchen other(GetParam());
     for (const ImportKind &kind : importKinds()) {
         SCOPED_TRACE(qPrintable(kind.name));
-        QByteArray bytes = saved(kitchen, kind);
+        const QByteArray bytes = saved(kitchen, kind);
         other.execute(u"DELETE FROM "_s + kind.keyTables.constFirst());
-        QBuffer file(&bytes);
-        file.open(QIODevice::ReadOnly);
-        const ImportResult result = importFile(other.database(), file, kind, true, progress);
+        const ImportResult result = read(other, kind, bytes, true);
         for (const ImportErrors::Error &error : result.errors.inFileOrder())
             ADD_FAILURE() << error.line << qPrintable(error.message);
         EXPECT_EQ(QString::fromUtf8(saved(other, kind)), QString::fromUtf8(bytes));
