@@ -3,12 +3,9 @@
 #include "controls/screens/listscreen.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/dataplace.h"
+#include "tests/support/documents.h"
 #include "tests/support/journeys.h"
-#include "tests/support/kitchen.h"
 #include "tests/support/screendriver.h"
-#include "transactions/documententry.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -76,11 +73,7 @@ TEST_F(DistanceTest, ADocumentAndAPostingWaitForFewAnswers)
         }
         expectFew("header", 3);
         for (int i = 0; i < lines; ++i) {
-            entry->newLine();
-            entry->lines().set(kind.entry.lineColumns.constFirst().field, 2.0);
-            entry->chooseItem(1);
-            if (entry->lines().fieldIndex(u"UnitCost") >= 0)
-                entry->lines().set(u"UnitCost", 1.5);
+            enterLine(*entry, 1, 2, 1.5);
             entry->lines().post();
         }
         expectFew("lines", 18);

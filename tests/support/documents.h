@@ -56,6 +56,17 @@ inline std::unique_ptr<Tallymere::DocumentEntry> openEntry(Engine::Database &dat
     return entry;
 }
 
+// What is typed into a new line, which is not saved yet. Without a cost it has the one that it begins with.
+inline void enterLine(Tallymere::DocumentEntry &entry, int item, double quantity,
+                      std::optional<double> cost = std::nullopt)
+{
+    entry.newLine();
+    entry.lines().set(entry.kind().entry.lineColumns.constFirst().field, quantity);
+    entry.chooseItem(item);
+    if (cost && entry.lines().fieldIndex(u"UnitCost") >= 0)
+        entry.lines().set(u"UnitCost", *cost);
+}
+
 // A new document of the office with four apples, by the rules of its entry, not saved yet: texts that they want besides
 // are as long as they may be, and everything else is 1.
 inline void beginDocument(Tallymere::DocumentEntry &entry)
@@ -71,11 +82,7 @@ inline void beginDocument(Tallymere::DocumentEntry &entry)
         if (entry.header().value(field).isNull())
             entry.header().setText(field, QString(std::max(1, entry.header().field(field).size), u'1'));
     }
-    entry.newLine();
-    entry.lines().set(kind.entry.lineColumns.constFirst().field, 4.0);
-    entry.chooseItem(1);
-    if (entry.lines().fieldIndex(u"UnitCost") >= 0)
-        entry.lines().set(u"UnitCost", 1.0);
+    enterLine(entry, 1, 4, 1);
     entry.lines().post();
 }
 

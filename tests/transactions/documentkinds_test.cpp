@@ -57,9 +57,7 @@ TEST_P(DocumentKindsTest, AdjustmentsAreEnteredCheckedAndPostedWithTheirSign)
     entry->header().set(u"WarehouseID", 1);
     EXPECT_EQ(refusalOf([&] { entry->save(); }), u"Quantities have not been entered -> Lines"_s);
     for (const auto &[item, quantity] : {std::pair{1, -2.0}, {3, 5.0}, {1, -4.5}}) {
-        entry->newLine();
-        entry->lines().set(u"Quantity", quantity);
-        entry->chooseItem(item);
+        enterLine(*entry, item, quantity);
         entry->lines().post();
     }
     EXPECT_EQ(refusalOf([&] { entry->save(); }), u"Field 'Description' must have a value -> AdjDescription"_s);

@@ -39,11 +39,7 @@ TEST_P(DocumentLinesTest, TheLineTakenOutLastIsPutBackUnderTheRules)
         entry->lines().first();
         EXPECT_EQ(entry->lines().integer(Fields::ItemID), 3);
         takeOut(0);
-        entry->newLine();
-        entry->chooseItem(1);
-        entry->lines().set(quantityField(), 2.0);
-        if (hasCost())
-            entry->lines().set(QString(Fields::UnitCost), Engine::Money::fromDouble(3));
+        enterLine(*entry, 1, 2, 3);
         entry->lines().post();
         EXPECT_EQ(entry->takenOut(), QString()) << "the work has gone on";
 

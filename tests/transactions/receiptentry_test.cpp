@@ -1,7 +1,7 @@
 #include "transactions/receiptentry.h"
 
+#include "tests/support/documents.h"
 #include "tests/support/givenrules.h"
-#include "tests/support/kitchen.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -10,15 +10,6 @@ using Engine::TableState;
 using Engine::Value;
 
 namespace {
-
-// What is typed into a new line, which is not saved yet.
-void enterLine(ReceiptEntry &entry, int item, double quantity, double cost)
-{
-    entry.newLine();
-    entry.lines().set(u"QtyReceived", quantity);
-    entry.chooseItem(item);
-    entry.lines().set(u"UnitCost", cost);
-}
 
 void changeLine(ReceiptEntry &entry, int line, QStringView field, const Value &value)
 {

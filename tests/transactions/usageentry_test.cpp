@@ -24,9 +24,7 @@ struct UsageDocument : KitchenTest
     }
     void addLine(double quantity, int item)
     {
-        entry.newLine();
-        entry.lines().set(u"Quantity", quantity);
-        entry.chooseItem(item);
+        enterLine(entry, item, quantity);
         entry.lines().post();
     }
     void typeQuantity(const Engine::Value &quantity)
