@@ -21,9 +21,10 @@ struct RecordTest : testing::TestWithParam<Store>
     static Engine::TableLayout vendor();
     static Engine::TableLayout document(); // numbered by the store
     static Engine::TableLayout line();
-    Engine::Table &opened() // the vendors
+    Engine::Table &opened(const QString &index = {}) // the vendors
     {
         addVendors();
+        vendors.setIndex(index);
         vendors.open();
         return vendors;
     }

@@ -57,14 +57,14 @@ TEST_P(RecordTest, AQuickFirstPageIsShownUntilTheKeysAreRead)
     query.setKeyFields(u"VendorID"_s);
     query.setOrderBy(u"Place"_s);
     const auto user = store.anotherUser();
-    query.onLongRead([&](const DataSet::ReadOver &read) { read(user->database.connection()); }, rows - 1);
+    query.onLongRead([&](const DataSet::ReadOver &read) { read(user->connection()); }, rows - 1);
     query.open();
     const auto first = [&query](int count) { return query.firstRows(count).front().row.front().toInt(); };
     EXPECT_EQ(first(2), 99);
     EXPECT_EQ(query.integer(u"VendorID"), 99);
     const DataSet::RestOver rest = query.restToCome();
     ASSERT_TRUE(rest);
-    rest(user->database.connection())();
+    rest(user->connection())();
     EXPECT_FALSE(query.restToCome()) << "it has come";
     EXPECT_EQ(placeIn(query), u"99 at 1 of 100"_s) << "the record that was shown stays";
     query.close();

@@ -95,9 +95,7 @@ TEST_P(RecordTest, SortsByAnyFieldBeforeItsOwnOrder)
 
 TEST_P(RecordTest, ALongSetIsReadAsideOrStaysAsItWas)
 {
-    addVendors();
-    vendors.setIndex(u"SINCE"_s);
-    vendors.open();
+    opened(u"SINCE"_s);
     const QString before = names(vendors, u"VendorID"_s);
     int reads = 0;
     bool isCancelled = true;
@@ -108,7 +106,7 @@ TEST_P(RecordTest, ALongSetIsReadAsideOrStaysAsItWas)
             EXPECT_EQ(names(vendors, u"VendorID"_s), before) << "it shows what it did meanwhile";
             if (isCancelled)
                 raise(ErrorCode::General, u"cancelled"_s);
-            read(user->database.connection());
+            read(user->connection());
         },
         2);
     const std::function<void()> changes[] = {
@@ -239,9 +237,7 @@ TEST_P(RecordTest, ALongListInAnotherOrderBeginsWithItsFirstRowsWithoutReadingTh
 
 TEST_P(RecordTest, LocatesTheFirstMatchInTheOrderOrStays)
 {
-    addVendors();
-    vendors.setIndex(u"VENDORNAME1"_s);
-    vendors.open();
+    opened(u"VENDORNAME1"_s);
     const LocateOptions folded = LocateOption::CaseInsensitive;
     const LocateOptions partial = LocateOption::PartialKey;
     // The ID that is found, or 0.
@@ -276,9 +272,7 @@ TEST_P(RecordTest, LocatesTheFirstMatchInTheOrderOrStays)
 
 TEST_P(RecordTest, FindsWhatHasComeSinceTheListWasRead)
 {
-    addVendors();
-    vendors.setIndex(u"VENDORNAME1"_s);
-    vendors.open();
+    opened(u"VENDORNAME1"_s);
     ASSERT_EQ(vendors.recordCount(), 5);
     int newLists = 0;
     int moves = 0;

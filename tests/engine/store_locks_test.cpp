@@ -212,7 +212,7 @@ TEST_P(LocksTest, AProgramKilledWithinATransactionLeavesNothingBehind)
     EXPECT_TRUE(soon([&] { return mine.tryLockTable(u"T"_s); }));
     EXPECT_TRUE(soon([&] { return mine.tryOpenExclusive(u"Item"_s); }));
     Transaction transaction(connection);
-    EXPECT_EQ(one(u"SELECT count(*) FROM T"_s), u"0"_s);
+    EXPECT_EQ(store.found(u"SELECT count(*) FROM T"_s), u"0"_s);
     store.execute(u"INSERT INTO T VALUES (2)"_s);
     transaction.commit();
 }

@@ -89,7 +89,8 @@ TEST_P(StatementTest, ValuesComeBackAsTheyWere)
     if (GetParam() == Store::Local) {
         // What the sqlite3 shell shows.
         EXPECT_EQ(
-            one(u"SELECT typeof(Cost) || ' ' || Cost || ' ' || typeof(Posted) || ' ' || typeof(Day) || ' ' || "
+            store.found(
+                u"SELECT typeof(Cost) || ' ' || Cost || ' ' || typeof(Posted) || ' ' || typeof(Day) || ' ' || "
                 "Moment FROM Sample WHERE SampleID = 2"_s),
             u"real 5.0 integer text 1999-12-31 00:00:00"_s);
     }
@@ -134,7 +135,7 @@ TEST_P(StatementTest, AStatementMayOutliveItsConnection)
     ASSERT_TRUE(statement->next());
     other.reset();
     statement.reset();
-    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"0"_s);
+    EXPECT_EQ(store.found(u"SELECT count(*) FROM Sample"_s), u"0"_s);
 }
 
 TEST_P(StatementTest, FailuresHaveTheEnginesCodes)
@@ -153,12 +154,12 @@ TEST_P(StatementTest, SentStatementsKeepTheirOrderAndAreSeenByTheNextQuestion)
     Transaction transaction(connection);
     for (int key = 1; key <= 2000; ++key)
         send(key);
-    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"2000"_s);
+    EXPECT_EQ(store.found(u"SELECT count(*) FROM Sample"_s), u"2000"_s);
     connection.prepare(u"UPDATE Sample SET Name = 'changed' WHERE SampleID = 2000"_s)->send();
     EXPECT_EQ(connection.prepare(u"DELETE FROM Sample WHERE Name = 'changed'"_s)->execute(), 1);
     send(2000);
     transaction.commit();
-    EXPECT_EQ(one(u"SELECT max(SampleID) FROM Sample WHERE Name = 'sent'"_s), u"2000"_s);
+    EXPECT_EQ(store.found(u"SELECT max(SampleID) FROM Sample WHERE Name = 'sent'"_s), u"2000"_s);
 }
 
 TEST_P(StatementTest, AFailureAmongSentStatementsIsReportedAndUndoesTheTransaction)
@@ -170,15 +171,15 @@ TEST_P(StatementTest, AFailureAmongSentStatementsIsReportedAndUndoesTheTransacti
             for (int key = 1; key <= 500; ++key)
                 send(key);
             if (byQuestion)
-                one(u"SELECT count(*) FROM Sample"_s);
+                store.found(u"SELECT count(*) FROM Sample"_s);
             else
                 connection.drain();
         });
         EXPECT_EQ(code, ErrorCode::KeyViolation);
     }
-    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"1"_s);
+    EXPECT_EQ(store.found(u"SELECT count(*) FROM Sample"_s), u"1"_s);
     insert(1, u"works again"_s);
-    EXPECT_EQ(one(u"SELECT count(*) FROM Sample"_s), u"2"_s);
+    EXPECT_EQ(store.found(u"SELECT count(*) FROM Sample"_s), u"2"_s);
 }
 
 ON_BOTH_STORES(StatementTest);
