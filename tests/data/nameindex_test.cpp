@@ -15,11 +15,7 @@ struct NameIndexTest : testing::TestWithParam<Store>
         for (const Engine::TableLayout *layout : Layouts::applied())
             store.database().createTable(*layout);
     }
-    void addItem(int key, const QString &number, const QString &name)
-    {
-        store.execute(u"INSERT INTO Item (ItemID, ItemNo, ItemDescription) VALUES (%1, '%2', '%3')"_s.arg(
-            QString::number(key), number, name));
-    }
+
     void readWhole()
     {
         index.readAnew();
@@ -44,12 +40,9 @@ ON_BOTH_STORES(NameIndexTest);
 
 TEST_P(NameIndexTest, AnswersBestFirstAndByNumber)
 {
-    addItem(1, u"B2"_s, u"Crème fraîche"_s);
-    addItem(2, u"B1"_s, u"ICE CRÈME"_s);
-    addItem(3, u"CREME"_s, u"Shoe polish"_s);
-    addItem(-4, u"A9"_s, u"Scremed\ttwice\nover"_s); // a key of old data, and what no text should hold
-    addItem(5, {}, u"creme"_s);
-    store.execute(u"INSERT INTO Item (ItemID) VALUES (6)"_s);
+    store.execute(u"INSERT INTO Item (ItemID, ItemNo, ItemDescription) VALUES (1, 'B2', 'Crème fraîche'), "
+                  "(2, 'B1', 'ICE CRÈME'), (3, 'CREME', 'Shoe polish'), (5, '', 'creme'), (6, NULL, NULL), "
+                  "(-4, 'A9', 'Scremed\ttwice\nover')"_s); // a key of old data, and what no text should hold
     readWhole();
     EXPECT_EQ(found(u"creme"_s), u"3=CREME 5= 1=B2 2=B1 -4=A9"_s);
     EXPECT_EQ(found(u"creme"_s, 2), u"3=CREME 5="_s);
