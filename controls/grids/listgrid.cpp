@@ -238,11 +238,14 @@ void ListGrid::paintEvent(QPaintEvent *event)
         QMetaObject::invokeMethod(this, &ListGrid::readRest, Qt::QueuedConnection);
 }
 
-// Where that takes long the window does not wait for it.
+// Where that takes long the window does not wait for it. What has been read may be of a list that is another by now, which
+// is read anew.
 void ListGrid::readRest()
 {
-    if (m_rest.isReading() || !tableModel()->isPartial())
+    if (m_rest.isReading())
         return;
+    if (!tableModel()->isPartial())
+        return releaseKeys();
     bool isAside = false;
     const auto begin = [&] {
         const Engine::DataSet::RestOver rest = m_data->restToCome();
@@ -251,7 +254,7 @@ void ListGrid::readRest()
         const auto readOver = [rest, this](Engine::Database &database) -> std::function<void()> {
             return [hand = rest(database.connection()), this] {
                 hand();
-                takeRest();
+                readRest();
             };
         };
         m_rest.start(m_data->database(), readOver, [this](const std::exception_ptr &) { showRest(); });
@@ -259,15 +262,6 @@ void ListGrid::readRest()
     };
     if (Guard::attempt(begin) || !isAside)
         showRest(); // and tell what is wrong
-}
-
-// What has been read may be of a list that is another by now.
-void ListGrid::takeRest()
-{
-    if (tableModel()->isPartial() && m_data->isOpen() && !m_data->isListRead())
-        readRest();
-    else
-        showRest();
 }
 
 void ListGrid::showRest()

@@ -58,7 +58,6 @@ private:
     void giveCursor(const QModelIndex &current); // the user has moved
     void dropSelection(); // but for the row of the cursor
     void readRest(); // of a list whose first page is painted
-    void takeRest();
     void showRest();
     bool waitsForRest(const QKeyEvent &key);
     bool staysOnPage(const QKeyEvent &key) const;

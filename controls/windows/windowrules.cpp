@@ -98,12 +98,10 @@ bool WindowRules::eventFilter(QObject *watched, QEvent *event)
     if ((type != QEvent::KeyPress && type != QEvent::Close && type != QEvent::Polish) || !watched->isWidgetType())
         return false;
     auto &widget = *static_cast<QWidget *>(watched);
-    if (!serves(*widget.window()))
+    if (!serves(*widget.window()) || (type != QEvent::KeyPress && !widget.isWindow()))
         return false;
     if (type == QEvent::KeyPress)
         return takeKey(widget, *static_cast<QKeyEvent *>(event));
-    if (!widget.isWindow())
-        return false;
     if (type == QEvent::Close)
         return takeClose(widget, *event);
     if (const auto *menu = qobject_cast<const QMenu *>(&widget)) {

@@ -218,7 +218,6 @@ void CurveView::drawForeground(QPainter *painter, const QRectF &)
     const CurvePoint &point = m_points[static_cast<size_t>(m_current)];
     const QPointF place = chart()->mapToPosition({timeOf(point.date), point.value});
     constexpr qreal radius = 4;
-    painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
     painter->setBrush(look.on(ground, Look::Role::Accent));
     painter->drawEllipse(place, radius, radius);

@@ -542,6 +542,17 @@ TEST_F(FormsTest, EveryStepLeadsWhereItWasApprovedTo)
         current->note(u"asks for a file"_s);
         return QString();
     };
+    over.context.importFile = [&current](const QString &kind, const QString &file, QWidget *) {
+        current->note(u"imports "_s + kind + u' ' + timeless(file));
+        return true;
+    };
+    over.context.takeBackImport = [&current](const QString &kind, QWidget *) {
+        current->note(u"takes back "_s + kind);
+        return true;
+    };
+    over.context.saveForImport = [&current](const QString &kind, const QString &, QWidget *) {
+        current->note(u"saves "_s + kind);
+    };
     over.context.printList = [&current](const QString &report, const QString &filter, const QString &order) {
         current->note(u"prints "_s + report + u' ' + filter + u' ' + order);
     };

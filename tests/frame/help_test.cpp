@@ -108,6 +108,7 @@ TEST_F(HelpTest, SearchesTheWholeText)
     press(Qt::Key_Return);
     EXPECT_TRUE(page(system).source().path().endsWith("adjust.html"_L1));
     EXPECT_EQ(page(system).extraSelections().size(), 3); // one of them in a description to copy
+    EXPECT_EQ(page(system).extraSelections().first().format.foreground(), page(system).palette().highlightedText());
     const QVariant picture = page(system).loadResource(
         QTextDocument::ImageResource, page(system).source().resolved(u"pictures/adjustment.png"_s));
     EXPECT_FALSE(picture.value<QPixmap>().isNull());

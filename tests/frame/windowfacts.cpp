@@ -177,7 +177,7 @@ void addCommands(QStringList &facts, const QWidget &widget, const QString &inden
 }
 
 // Takes down with what a widget paints: which colours and fonts, neither where nor how often, which follow from fonts, and
-// whether it is an upright line.
+// whether it is an upright line, or smooth at its edges (~).
 class Ink final : public QPaintEngine, public QPaintDevice
 {
 public:
@@ -237,9 +237,10 @@ private:
     {
         const QPen pen = painter()->pen();
         const QBrush brush = painter()->brush();
-        add(u"%1/%2%3"_s.arg(pen.style() == Qt::NoPen ? u"-"_s : pen.color().name(),
-                             brush.style() == Qt::NoBrush ? u"-"_s : brush.color().name(),
-                             isUpright ? u" upright"_s : QString()));
+        add(u"%1/%2%3%4"_s.arg(pen.style() == Qt::NoPen ? u"-"_s : pen.color().name(),
+                               brush.style() == Qt::NoBrush ? u"-"_s : brush.color().name(),
+                               isUpright ? u" upright"_s : QString(),
+                               painter()->testRenderHint(QPainter::Antialiasing) ? u"~"_s : QString()));
     }
 
     const QWidget &m_widget;
@@ -269,7 +270,7 @@ QString rowOf(const QWidget &widget)
     const QModelIndex at = table->currentIndex();
     for (int column = 0; at.isValid() && column < table->model()->columnCount(); ++column)
         cells << at.siblingAtColumn(column).data().toString();
-    return u" %1 rows, at %2,%3: %4"_s.arg(table->model()->rowCount())
+    return u" %1 rows, at %2,%3: %4"_s.arg(table->verticalHeader()->count())
         .arg(at.row())
         .arg(at.column())
         .arg(timeless(cells.join(u'|')));

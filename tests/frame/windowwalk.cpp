@@ -5,6 +5,10 @@
 #include "tests/support/screendriver.h"
 
 #include <QCalendarWidget>
+#include <QDir>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QMimeData>
 
 using namespace Qt::StringLiterals;
 
@@ -56,6 +60,16 @@ void click(QWidget &field, void (*press)(QWidget *, Qt::MouseButton, Qt::Keyboar
           -1);
 }
 
+void drop(QWidget &window)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QDir::tempPath() + u"/a.csv"_s)});
+    QDragEnterEvent enter({}, Qt::CopyAction, &data, {}, {});
+    QDropEvent drop({}, Qt::CopyAction, &data, {}, {});
+    if (QApplication::sendEvent(&window, &enter) && enter.isAccepted())
+        QApplication::sendEvent(&window, &drop);
+}
+
 QWidgetList shownWindows()
 {
     QWidgetList shown = QApplication::topLevelWidgets();
@@ -78,6 +92,10 @@ void WindowWalk::sendAway(QWidget *dialog)
     m_became << asked;
     if (auto *day = qobject_cast<Tallymere::DateDialog *>(dialog))
         day->accept(); // that it stands on
+    if (auto *files = qobject_cast<QFileDialog *>(dialog); files && files->fileMode() == QFileDialog::Directory) {
+        files->setDirectory(QDir::tempPath());
+        static_cast<QDialog *>(files)->done(QDialog::Accepted);
+    }
     dialog->close();
     dialog->hide();
 }
@@ -156,7 +174,7 @@ void WindowWalk::typeEverywhere()
         go(u"click"_s, [&] { click(*field, &QTest::mouseClick); });
         go(u"double click"_s, [&] { click(*field, &QTest::mouseDClick); });
         for (const char *keys : {"7", "<Up>", "<Down>", "a<Return>", "<Delete>", "<Home>", "<Ctrl+I>", "<F3>",
-                                 "<Ctrl+Return>", "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
+                                 "<F5>", "<Ctrl+Return>", "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
             go(QString::fromLatin1(keys), [&] { type(keys); });
     }
 }
@@ -173,6 +191,8 @@ QStringList WindowWalk::run()
     typeEverywhere();
     useEach<QAbstractButton>([](QAbstractButton &button) { button.click(); });
     useEach<QAction>([](QAction &command) { command.trigger(); });
+    if (m_window && m_window->acceptDrops())
+        step(u"drop"_s, [this] { drop(*m_window); });
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // of the windows that came
     return m_steps;
 }

@@ -63,7 +63,8 @@ TEST_P(Imports, BringInWhatOtherBooksHaveSavedForThem)
     const auto saved = [this](Kitchen &from, const ImportKind &kind) {
         return writtenBy([&](QIODevice &file) {
             CsvWriter writer(file);
-            writeImportable(from.database(), kind, writer, progress);
+            CountedProgress writing;
+            writeImportable(from.database(), kind, writer, writing);
         });
     };
     Kitchen other(GetParam());

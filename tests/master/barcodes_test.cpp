@@ -1,6 +1,7 @@
 #include "master/barcodes.h"
 #include "master/masterkinds.h"
 #include "master/masterlist.h"
+#include "tests/support/brokentable.h"
 #include "tests/support/kitchen.h"
 
 using namespace Qt::StringLiterals;
@@ -20,6 +21,10 @@ TEST_P(BarcodesTest, ACodeStandsForOneItem)
     const auto refusal = [&](int item, const QString &code) {
         return refusalOf([&] { addBarcode(database, item, code); });
     };
+    {
+        const BrokenTable broken(kitchen, u"INSERT"_s, u"IBarcode"_s, u"NEW.ItemID = 2"_s);
+        EXPECT_THROW(addBarcode(database, 2, u"1"_s), Engine::EngineError) << "as another program's code is none";
+    }
     addBarcode(database, 2, u" 4006381333931 "_s);
     addBarcode(database, 2, u"012345678905"_s);
     addBarcode(database, 2, u"0012345678905"_s); // the same in 13 digits

@@ -229,6 +229,7 @@ TEST_F(InvReportsTest, LocationsStandIndentedBelowTheirItem)
         if (const QString word = item.text.section(u' ', 0, 0); !places.contains(word))
             places.insert(word, item.x / Printing::unitsPerPoint);
     EXPECT_NEAR(places[u"Office"_s] - places[u"A10"_s], 10, 5);
+    EXPECT_EQ(std::ranges::count(run->page(0).texts, u"Apples"_s, &Printing::TextItem::text), 1);
     EXPECT_EQ(places[u"Freezer"_s], places[u"Office"_s]);
     EXPECT_EQ(places[u"Item"_s], places[u"A10"_s]); // the titles stand above what they head
     EXPECT_EQ(places[u"Description"_s], places[u"Apples"_s]);

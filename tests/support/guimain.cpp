@@ -2,12 +2,32 @@
 #include "tests/support/spokenlanguage.h"
 
 #include <gtest/gtest.h>
+#include <QAbstractItemModelTester>
+#include <QAbstractItemView>
 #include <QApplication>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int longInterval = 3'600'000; // milliseconds
+
+// A model of ours that a view shows has to tell its changes in full.
+class ModelWatch final : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const auto *view = event->type() == QEvent::Show ? qobject_cast<QAbstractItemView *>(watched) : nullptr;
+        QAbstractItemModel *model = view ? view->model() : nullptr;
+        if (model && QByteArray(model->metaObject()->className()).startsWith("Tallymere::")
+            && !model->findChild<QAbstractItemModelTester *>() && model->rowCount() < few)
+            new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Warning, model);
+        return false;
+    }
+
+private:
+    static constexpr int few = 1000; // it goes over all of them with each change
+};
 } // namespace
 
 // The main() of tests with windows; under the offscreen platform they need no display.
@@ -22,5 +42,7 @@ int main(int argc, char **argv)
     const SpokenInTests spoken;
     testing::InitGoogleTest(&argc, argv);
     failOnComplaints();
+    ModelWatch watch;
+    application.installEventFilter(&watch);
     return RUN_ALL_TESTS();
 }

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <QStringList>
+#include <stdexcept>
 #include <utility>
 
 // Keeps what was said, with its kind, and answers as told.
@@ -74,11 +75,14 @@ public:
 
     void start(int) override
     {
+        m_isStarted = true;
         if (onStart)
             onStart();
     }
     void step() override
     {
+        if (!m_isStarted)
+            throw std::logic_error("a step of what was not started");
         if (steps++ == m_when)
             m_then();
     }
@@ -86,5 +90,6 @@ public:
 
 private:
     int m_when = -1;
+    bool m_isStarted = false;
     std::function<void()> m_then;
 };

@@ -113,8 +113,9 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     search("B1");
     EXPECT_EQ(notFound(), QString());
     grid->horizontalHeader()->sectionClicked(2);
-    search("ap");
-    EXPECT_EQ(cursor(), u"A10"_s); // Apples
+    type("<Ctrl+F>ap");
+    EXPECT_EQ(cursor(), u"A10"_s); // Apples, shown while it is typed
+    press(Qt::Key_Return);
     type("<F2><Return>"); // taken as it stands
     EXPECT_EQ(rows(), (QStringList{u"A10 10 10 0"_s, u"B1 2.5 2.5"_s, u"A11 5 4 -1"_s}));
     EXPECT_EQ(status(), u"2 of 3 counted, 1 differ, value of the difference (2.00)"_s);
@@ -347,6 +348,7 @@ TEST_F(CountScreenTest, WhatAPhoneCountsIsNotTypedOverUnseen)
     EXPECT_EQ(rows().first(), u"A10 10 8 -2"_s);
     EXPECT_TRUE(grid->model()->index(0, 5).data(Qt::ToolTipRole).toString().startsWith(u"Counted by Ana, "_s));
     EXPECT_TRUE(has(status(), u"Phones: 1, numbers from them: 1"_s));
+    EXPECT_EQ(child<QListWidget>(*phones, "lstPhones")->count(), 1);
     prompts.ok = true;
     choose(u"Freezer"_s);
     EXPECT_TRUE(isGone(phones)) << "the page ends with the count";

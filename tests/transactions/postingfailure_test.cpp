@@ -91,6 +91,10 @@ TEST_P(FailingPosting, ADocumentThatARuleRefusesIsLeftAloneAndNamedAgain)
             EXPECT_EQ(refusalOf([&, &kind = kind] { post(kind); }), text.arg(name, why, before));
             expect(u"1"_s, u"1,2,4"_s, onHand, kind);
         }
+        kitchen.execute(u"UPDATE %1 SET Posted = (%2 <> 2)"_s, kind.headerTable, kind.keyField);
+        EXPECT_EQ(refusalOf([&, &kind = kind] { post(kind); }),
+                  text.arg(name, why, QString()).remove(u"\n1 document behind it waits to be posted."_s));
+        kitchen.execute(u"UPDATE %1 SET Posted = (%2 = 1)"_s, kind.headerTable, kind.keyField);
         kitchen.execute(u"UPDATE %1 SET %2 = 0%3 WHERE %4 = 2"_s, kind.lineTable,
                         kind.entry.lineColumns.constFirst().field,
                         &kind == &adjustment ? QString() : u", UnitCost = 1"_s, kind.keyField);
