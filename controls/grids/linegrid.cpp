@@ -154,7 +154,6 @@ void LineGrid::removeLine()
         return;
     dropEntry();
     guard().run(m_actions.remove);
-    takeCursor();
 }
 
 void LineGrid::nextCell()

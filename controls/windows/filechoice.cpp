@@ -21,7 +21,6 @@ QString chooseFileToSave(QWidget *window, const FileChoice &choice)
         there ? choice.folder : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     QFileDialog dialog(window, choice.title, folder, u"%1 (*.%2)"_s.arg(choice.kind, choice.suffix));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(choice.suffix);
     dialog.selectFile(QFileInfo(choice.name).fileName());
     if (auto *typed = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)) // a desktop's own dialog has none

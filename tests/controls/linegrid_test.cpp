@@ -167,6 +167,8 @@ TEST_F(LineGridTest, enteringAColumnByHandOpensItsSearch)
     EXPECT_EQ(prompts.told(), u"error: No item");
     press(Qt::Key_Escape);
     EXPECT_EQ(rows(), 2) << "undone";
+    type("<Esc>7");
+    EXPECT_GT(child<QToolButton>(*grid, "btnSearch")->x(), 0) << "at the right end of the cell";
 }
 
 TEST_F(LineGridTest, leavingGoesBackToTheFirstLineOnceTheLineIsComplete)

@@ -1,8 +1,12 @@
+#include "controls/windows/filechoice.h"
 #include "controls/windows/openobject.h"
 #include "tests/support/failures.h"
+#include "tests/support/screendriver.h"
 
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileDialog>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTextBrowser>
 
@@ -40,4 +44,24 @@ TEST(OpenObjectTest, handsOverToTheDesktopOrSaysThatItCannot)
     for (const QString &object : {u"file:///etc/passwd"_s, u"unheardof:1"_s})
         EXPECT_EQ(refusalOf([&] { openObject(object); }),
                   u"'%1' is not opened: it is neither a web page nor a mail address. -> "_s.arg(object));
+}
+
+TEST(FileChoiceTest, TheDialogHasTheProposedNameAndAddsWhatIsMissing)
+{
+    const QTemporaryDir folder;
+    QWidget window;
+    QString chosen;
+    const auto choose = [&] {
+        chosen = chooseFileToSave(&window, {u"Save"_s, u"gone/list"_s, u"CSV files"_s, u"csv"_s, folder.path()});
+    };
+    EXPECT_TRUE(whileOpen<QFileDialog>(choose, [](QFileDialog &dialog) {
+        EXPECT_EQ(child<QLineEdit>(dialog, "fileNameEdit")->text(), u"gone/list"_s);
+    }));
+    EXPECT_EQ(chosen, QString());
+    EXPECT_TRUE(whileOpen<QFileDialog>(choose, [](QFileDialog &dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        child<QLineEdit>(dialog, "fileNameEdit")->setText(u"list"_s);
+        static_cast<QDialog &>(dialog).accept();
+    }));
+    EXPECT_EQ(chosen, folder.filePath(u"list.csv"_s));
 }

@@ -587,3 +587,19 @@ TEST_F(FormsTest, EveryStepLeadsWhereItWasApprovedTo)
     });
     expectApproved(std::move(walks), u"steps"_s);
 }
+
+TEST_F(FormsTest, PostingByItselfShowsAnOpenListAnew)
+{
+    for (const DocumentKind *kind : DocumentKinds::all()) {
+        SCOPED_TRACE(qPrintable(kind->name));
+        QWidget &list = *screens.find(kind->list.screen)->create(over.context, &mainWindow);
+        list.show();
+        const QAbstractItemModel &rows = *child<QTableView>(list, "DBGrid1")->model();
+        auto *posting =
+            static_cast<QDialog *>(screens.find(kind->posting.screen)->create(over.context, &mainWindow));
+        over.data.databaseTallymere().connection().execute(
+            u"DELETE FROM %1 WHERE %2 = 2"_s.arg(kind->headerTable, kind->keyField));
+        Q_EMIT posting->accepted();
+        EXPECT_EQ(rows.rowCount(), 1);
+    }
+}

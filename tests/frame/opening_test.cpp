@@ -7,6 +7,7 @@
 #include "tests/support/screendriver.h"
 
 #include <QCloseEvent>
+#include <QLoggingCategory>
 #include <QProgressBar>
 #include <QWindow>
 
@@ -104,6 +105,28 @@ struct OpeningTest : testing::Test
 };
 
 } // namespace
+
+// For support, who asks for it.
+TEST_F(OpeningTest, TellsItsStepsToTheTrace)
+{
+    static QStringList steps;
+    QLoggingCategory::setFilterRules(u"tallymere.trace.debug=true"_s);
+    const QtMessageHandler usual =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &of, const QString &text) {
+            if (QByteArrayView(of.category) == "tallymere.trace")
+                steps << text.section(u'(', 0, 0).left(30);
+        });
+    link(&host);
+    EXPECT_TRUE(open());
+    qInstallMessageHandler(usual);
+    QLoggingCategory::setFilterRules({});
+    EXPECT_EQ(steps.join(u'|'),
+              u"Enter TFormTallymereSystem.Set|Exit TFormTallymereSystem.SetM|Enter TFormTallymereSystem.For|"
+              "Sender QAction|About to create the DataModule|About to set the value for cMo|"
+              "About to test for the value of|Mode is File Server|DataModuleTallymere.QuickRepor|"
+              "About to show FormTallymereSys|Enter TFormTallymereSystem.For|Exit TFormTallymereSystem.Form|"
+              "Exit TFormTallymereSystem.Form"_s);
+}
 
 TEST_F(OpeningTest, HostsMenuItemOpensTheSystemAgainAndAgain)
 {

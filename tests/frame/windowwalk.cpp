@@ -65,9 +65,10 @@ void drop(QWidget &window)
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(QDir::tempPath() + u"/a.csv"_s)});
     QDragEnterEvent enter({}, Qt::CopyAction, &data, {}, {});
-    QDropEvent drop({}, Qt::CopyAction, &data, {}, {});
+    QDropEvent drop({}, Qt::CopyAction | Qt::MoveAction, &data, {}, {});
     if (QApplication::sendEvent(&window, &enter) && enter.isAccepted())
         QApplication::sendEvent(&window, &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "the file stays";
 }
 
 QWidgetList shownWindows()

@@ -187,6 +187,15 @@ TEST_F(ModuleTest, LeadsToACompanyWhereThereIsNoneAndOpensItsInventory)
         EXPECT_TRUE(box.isVisible());
     }));
     EXPECT_EQ(databaseFolder(settings), folder);
+
+    opened = false;
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", documents.path().toUtf8());
+    child<QAction>(window, "actionSampleCompany")->trigger();
+    qputenv("HOME", home);
+    EXPECT_TRUE(comesTrue([&] { return opened; }));
+    EXPECT_TRUE(databaseFolder(settings).endsWith("Sample Company"_L1)) << qPrintable(databaseFolder(settings));
+    EXPECT_TRUE(databaseFolder(settings).startsWith(documents.path()));
 }
 
 TEST_F(ModuleTest, BooksAreCaredForFromTheMenuOfTheHost)
