@@ -65,7 +65,7 @@ void drop(QWidget &window)
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(QDir::tempPath() + u"/a.csv"_s)});
     QDragEnterEvent enter({}, Qt::CopyAction, &data, {}, {});
-    QDropEvent drop({}, Qt::CopyAction | Qt::MoveAction, &data, {}, {});
+    QDropEvent drop({}, Qt::CopyAction | Qt::MoveAction, &data, {}, Qt::ShiftModifier);
     if (QApplication::sendEvent(&window, &enter) && enter.isAccepted())
         QApplication::sendEvent(&window, &drop);
     EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "the file stays";
