@@ -55,6 +55,8 @@ TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
          "detail,,,2025-12-31,12/2025,,,-1,0,\r\n"},
         {"Inventory Totals", u"(WarehouseID = 77)"_s,
          "Band,ItemNo,ItemDescription,WarehouseName,QtyOnHand\r\ndetail,,,,-4\r\n"},
+        {"Inventory Totals", u"|WarehouseID"_s,
+         "Band,ItemNo,ItemDescription,WarehouseName,QtyOnHand\r\ndetail,A10,Apples,Office,1.5\r\ndetail,,,,-4\r\n"},
         {"Items", u"(Suspended <> true)|ItemDescription1"_s,
          "Band,ItemNo,ItemDescription,UnitPrice,TaxCodes,WgtAvgCost,StandardCost\r\n"
          "detail,A10,Apples,,,2.25,\r\ndetail,B1,apricots,,,,\r\ndetail,A11,Bread,,,,\r\n"},
