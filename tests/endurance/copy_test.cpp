@@ -31,6 +31,7 @@ void copyAndDie(Engine::Database &books, const QStringList &arguments)
 {
     TestUser target(arguments.mid(0, 2));
     CountedProgress progress(arguments.value(3).toInt(), [] { std::raise(SIGKILL); });
+    progress.start(0); // what is told before it counts as well
     copyBooks(books, target.database, afterwardsOf(arguments.value(2)), progress,
               [&progress](const QString &) { progress.step(); });
     std::printf("done\n");
