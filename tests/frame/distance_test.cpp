@@ -16,6 +16,7 @@ struct DistanceTest : testing::Test
 {
     DistanceTest()
     {
+        qApp->setProperty("countsJourneys", true);
         kitchen.makeHost();
         for (int receipt = 1; receipt <= 60; ++receipt)
             kitchen.addReceipt(receipt, 1, 1, {{1, 2, 3}, {2, 3, 1.5}});

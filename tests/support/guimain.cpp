@@ -11,13 +11,15 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr int longInterval = 3'600'000; // milliseconds
 
-// A model of ours that a view shows has to tell its changes in full.
+// A model of ours that a view shows has to tell its changes in full. What it reads for that counts where journeys are counted, which
+// says so by a property of the application.
 class ModelWatch final : public QObject
 {
 public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        const auto *view = event->type() == QEvent::Show ? qobject_cast<QAbstractItemView *>(watched) : nullptr;
+        const bool isShown = event->type() == QEvent::Show && !qApp->property("countsJourneys").toBool();
+        const auto *view = isShown ? qobject_cast<QAbstractItemView *>(watched) : nullptr;
         QAbstractItemModel *model = view ? view->model() : nullptr;
         if (model && QByteArray(model->metaObject()->className()).startsWith("Tallymere::")
             && !model->findChild<QAbstractItemModelTester *>() && model->rowCount() < few)
