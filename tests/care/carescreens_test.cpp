@@ -5,7 +5,6 @@
 #include "care/screens/copyscreen.h"
 #include "care/screens/dailybackup.h"
 #include "care/screens/restorescreen.h"
-#include "controls/screens/besidework.h"
 #include "controls/screens/keptfiltermenu.h"
 #include "controls/windows/filechoice.h"
 #include "data/audit.h"
@@ -13,8 +12,6 @@
 #include "tests/support/screentest.h"
 
 #include <QPlainTextEdit>
-#include <QProgressDialog>
-#include <QThread>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -68,14 +65,6 @@ TEST_P(CareScreensTest, FindingsAreShownSavedAndMendedAfterABackupThatIsNamed)
     EXPECT_EQ(csv.count("\r\n"), 3);
     EXPECT_TRUE(csv.contains("NextItemID") && csv.contains("Left to you"));
 
-    // A document that somebody has open keeps the repair off, and nothing is written.
-    prompts.take();
-    {
-        Engine::Table receipts(data->databaseTallymere(), u"IReceipt"_s);
-        receipts.open();
-        EXPECT_TRUE(has(answerTo(*screen, "btnRepair"), u"error"_s));
-        EXPECT_EQ(filesLeft(), QStringList(u"Check of the Books.csv"_s));
-    }
     click(*screen, "btnRepair");
     EXPECT_TRUE(has(prompts.last(), folder.filePath(u"before-repair-2026-03-20-000000.sqlite"_s)));
     EXPECT_EQ(text(*screen, "lblStatus"), u"2 findings, mended: 1, left to you: 1"_s);
@@ -172,32 +161,6 @@ TEST_P(CareScreensTest, TheAuditListIsLatestFirstFilteredAndSaved)
     list.command(u"mnuSaveCsv"_s)->trigger();
     EXPECT_EQ(contentOf(folder.filePath(u"Audit List.csv"_s)).trimmed().split('\n').value(1),
               "2026-03-20,00:00,Repaired: something,maria,2026-03-19");
-}
-
-TEST_P(CareScreensTest, CancelEndsWhatGoesOnBesideAndScreensLiveMeanwhile)
-{
-    const Qt::HANDLE here = QThread::currentThreadId();
-    int repaints = 0;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look, [&repaints] {
-        auto *box = qobject_cast<QProgressDialog *>(QApplication::activeModalWidget());
-        if (box && box->isVisible() && ++repaints == 3)
-            box->cancel();
-    });
-    look.start(1);
-    int ends = 0;
-    EXPECT_THROW(workBeside(mainWindow.get(), u"Working"_s, data->databaseTallymere(),
-                            [&](Engine::Database &database, Progress &progress) {
-                                EXPECT_NE(QThread::currentThreadId(), here);
-                                EXPECT_NE(&database, &data->databaseTallymere());
-                                EXPECT_TRUE(database.tableExists(u"Item"_s));
-                                const auto end = qScopeGuard([&ends] { ++ends; });
-                                for (;;)
-                                    progress.step();
-                            }),
-                 SilentAbort);
-    EXPECT_EQ(ends, 1);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QThread>
 #include <QTimer>
 #include <QWidget>
 
@@ -34,7 +35,7 @@ struct BesideWorkTest : testing::TestWithParam<Store>
 
 ON_BOTH_STORES(BesideWorkTest);
 
-TEST_P(BesideWorkTest, CancelEndsAStatementThatWouldNeverEnd)
+TEST_P(BesideWorkTest, CancelEndsWhatWouldNeverEnd)
 {
     read(u"SELECT 7"_s);
     EXPECT_EQ(answer, 7);
@@ -47,6 +48,13 @@ TEST_P(BesideWorkTest, CancelEndsAStatementThatWouldNeverEnd)
             box->findChild<QPushButton *>()->click();
     });
     clicker.start(50);
+    const auto endless = [this](Engine::Database &database, Progress &progress) {
+        EXPECT_NE(QThread::currentThread(), window.thread());
+        EXPECT_NE(&database, &store.database());
+        for (;;)
+            progress.step();
+    };
+    EXPECT_THROW(workBeside(&window, u"Working"_s, store.database(), endless), SilentAbort);
     EXPECT_THROW(
         read(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i % 1000 + 1 FROM n) SELECT COUNT(*) FROM n"_s),
         SilentAbort);
