@@ -33,7 +33,7 @@ TEST(CsvReading, GivesTheRecordsWithTheirLines)
         {"LineEnds", "a,b\r\nc,d\ne,f", {u"1: a|b"_s, u"2: c|d"_s, u"3: e|f"_s}},
         {"EmptyFields", ",\n,,x,\n", {u"1: |"_s, u"2: ||x|"_s}},
         {"BlanksStay", " a , b\n", {u"1:  a | b"_s}},
-        {"ByteOrderMark", "\xEF\xBB\xBFItemNo,x\n", {u"1: ItemNo|x"_s}},
+        {"ByteOrderMark", "\xEF\xBB\xBFItemNo,\xEF\xBB\xBFx\n", {u"1: ItemNo|\uFEFFx"_s}},
         {"Quotes", "\"a,b\",\"say \"\"no\"\"\",\"\"\n", {u"1: a,b|say \"no\"|"_s}},
         {"LineBreakInQuotes", "\"a\r\nb\",c\nd,e\n", {u"1: a\nb|c"_s, u"3: d|e"_s}},
         {"EmptyLinesBetween", "a\n\nb\n", {u"1: a"_s, u"3: b"_s}},

@@ -146,18 +146,6 @@ TEST_P(Import, NumbersLeftEmptyAreAssignedAndGivenOnesLeaveTheCounterAlone)
     EXPECT_EQ(numbers.join(u' '), u"1001 1002"_s);
 }
 
-TEST_P(Import, TextsOfOneLineHaveNoControlCharactersAndAMarkIsOneAtTheHeadOfTheFileOnly)
-{
-    const QByteArray rest(36, 'x'); // all that fits
-    const QByteArray items = "\xEF\xBB\xBFItemNo,ItemDescription,TypeName,Notes\n\"N\t9\",\"Rye\r\n\r\n" + rest
-        + "\",Produce,\"\xEF\xBB\xBFtwo\nlines\"\n";
-    ASSERT_EQ(cli.import(u"items"_s, items).status, 0);
-    const auto listed = cli.list("list items --filter \"(ItemNo = 'N 9')\"");
-    ASSERT_EQ(listed.size(), 1);
-    EXPECT_EQ(listed[0][u"ItemDescription"_s], u"Rye "_s + QString(36, u'x'));
-    EXPECT_EQ(listed[0][u"Notes"_s], u"\uFEFFtwo\nlines"_s);
-}
-
 // A sheet of every kind of value, written by the list and read into another company; and told as CSV is.
 TEST_P(Import, TakesTheSheetThatAListHasWritten)
 {
