@@ -5,8 +5,6 @@
 #include "reports/screens/preview.h"
 #include "tests/reports/reportcsvof.h"
 #include "tests/support/screentest.h"
-#include "transactions/screens/countgrid.h"
-#include "transactions/screens/enterinventory.h"
 
 #include <QImage>
 #include <QPainter>
@@ -22,7 +20,6 @@ struct BlankFormTest : ScreenTest
 {
     BlankFormTest()
     {
-        qputenv("XDG_DATA_HOME", folder.path().toUtf8());
         kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (3, 'FOOD'); "
                         "UPDATE ItemType SET Inventory = true; UPDATE Item SET Suspended = false; "
                         "UPDATE Item SET ItemTypeID = 3 WHERE ItemID = 4"_s);
@@ -93,7 +90,7 @@ TEST_F(BlankFormTest, ListsWhatTheCountLists)
         EXPECT_EQ(std::ranges::count(run->page(page).texts, u"Counted by:"_s, &Printing::TextItem::text), 1);
 }
 
-TEST_F(BlankFormTest, ScannersReadItsBarcodesIntoTheCount)
+TEST_F(BlankFormTest, ScannersReadItsBarcodes)
 {
     const BlankFormChoices choices{.priorQuantities = true, .barcodes = true};
     const auto makeForm = [&] {
@@ -118,18 +115,7 @@ TEST_F(BlankFormTest, ScannersReadItsBarcodesIntoTheCount)
     reader.waitForFinished(-1);
     QStringList read = QString::fromUtf8(reader.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
     read.sort();
-    ASSERT_EQ(read, numbers);
-
-    auto *count = openScreen<TFormEnterInventory>();
-    auto *locations = child<QComboBox>(*count, "RzComboBoxLocation");
-    locations->setCurrentIndex(locations->findText(u"Office"_s, Qt::MatchStartsWith));
-    Q_EMIT locations->activated(locations->currentIndex());
-    for (const QString &number : std::as_const(read)) {
-        press(Qt::Key_F, Qt::ControlModifier);
-        type(number);
-        type("<Return>1<Return>");
-    }
-    EXPECT_EQ(child<QLabel>(*count, "lblStatus")->text().left(14), u"3 of 4 counted"_s);
+    EXPECT_EQ(read, numbers);
 }
 
 TEST_F(BlankFormTest, IsPreviewedAsChosenLast)
