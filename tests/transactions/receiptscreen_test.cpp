@@ -43,9 +43,9 @@ TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
     type("V1<Return>f<PgDown>5<Return>A10<Return><Return>3<Return>"); // appends the second line
     EXPECT_EQ(cursorOf(*grid), u"1,0"_s);
     type("2<Return><Return>"); // past the number, to the description
-    type("Bro<Backspace>"); // deleting completes nothing
+    type("bro<Backspace>"); // deleting completes nothing
     EXPECT_EQ(qobject_cast<QLineEdit *>(QApplication::focusWidget())->text(), u"Br"_s);
-    type("e"); // completed to "Bread"
+    type("e"); // completed to "Bread", whose first letter has another case
     type("<Return>1.25");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_O, Qt::AltModifier);
     EXPECT_TRUE(comesTrue([&] { return !screen; })) << "closed and freed";

@@ -104,6 +104,7 @@ TEST_P(UsageDocument, KeepsATotalOfItsLinesAndBringsThemBackWithoutCosts)
     addLine(2, 1);
     addLine(4, 2);
     EXPECT_EQ(total(), u"42.5");
+    EXPECT_EQ(entry.totalText(), u"42.50");
     entry.lines().first();
     EXPECT_EQ(totalWith(3.0), u"43.75");
     EXPECT_EQ(totalWith({}), u"40");

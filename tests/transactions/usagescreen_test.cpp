@@ -1,6 +1,5 @@
 #include "controls/grids/linegrid.h"
 #include "controls/screens/datedialog.h"
-#include "master/screens/itemsearchinv.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/documentfilterscreen.h"
 #include "transactions/screens/invusage.h"
@@ -26,19 +25,6 @@ struct UsageScreenTest : ScreenTest
         grid = child<LineGrid>(*screen, "DBGrid1");
     }
     QString cursor() { return cursorOf(*grid); }
-    // A quantity, which leads to the search when the event is over, and an item by its number there.
-    void enterLine(const char *quantity, const char *itemNo)
-    {
-        bool chosen = false;
-        const auto enter = [&] {
-            type(quantity);
-            EXPECT_TRUE(comesTrue([&] { return chosen && grid->hasFocus(); }));
-        };
-        EXPECT_TRUE(whileOpen<TfrmItemSearchInv>(enter, [&](TfrmItemSearchInv &) {
-            type(itemNo);
-            chosen = true;
-        }));
-    }
     // Each of the filter dialog that the list opens, and the filter and number of rows that come of it.
     QString filtered(const std::function<void(DocumentFilterScreen &)> &choose)
     {
@@ -49,12 +35,6 @@ struct UsageScreenTest : ScreenTest
         }));
         return u"%1: %2"_s.arg(list->dataSet().filter()).arg(list->dataSet().recordCount());
     }
-    QString stored()
-    {
-        return kitchen.found(
-            u"SELECT UsageNo, WarehouseID, InvoiceAmount, Seq, Quantity, ItemID, ItemOvDesc, UnitCost "
-            "FROM IUsage JOIN IUsageDet ON IUsageDet.UsageID = IUsage.UsageID ORDER BY Seq"_s);
-    }
 
     QPointer<TfrmUsage> screen;
     QPointer<TfrmUsages> list;
@@ -63,39 +43,10 @@ struct UsageScreenTest : ScreenTest
 
 } // namespace
 
-TEST_F(UsageScreenTest, isEnteredByKeyboardAlone)
-{
-    open();
-    EXPECT_EQ(focusName(), u"editUsageNo"_s);
-    EXPECT_TRUE(screen->testAttribute(Qt::WA_KeyboardFocusChange)) << "boxes show the cursor that Enter brings";
-    press(Qt::Key_PageDown);
-    const auto cursorAfter = [this](const char *keys) {
-        type(keys);
-        return cursor();
-    };
-    enterLine("3<Return>", "A10<Return>");
-    EXPECT_EQ(cursor(), u"0,1"_s);
-    EXPECT_EQ(cursorAfter("<Return>for pie<Return>"), u"0,3"_s);
-    EXPECT_EQ(cursorAfter("<Return>"), u"0,5"_s) << "past the cost";
-    EXPECT_EQ(cursorAfter("9<Return>"), u"1,0"_s) << "what is calculated takes nothing";
-    EXPECT_EQ(child<QLabel>(*screen, "lblLinesTotal")->text(), u"6.00"_s);
-    enterLine("2<Return>", "A11<Return>");
-    type("<Tab><Tab>ap"); // completed to "Apples", whose first letter has another case
-    EXPECT_EQ(cursorAfter("<Tab>"), u"1,4"_s) << "Tab stops at the cost";
-    typeIn(*screen, "editDescription", "<PgDown><Backtab>");
-    EXPECT_EQ(focusName(), u"cboWarehouse"_s);
-    press(Qt::Key_Delete);
-    EXPECT_EQ(child<LookupComboBox>(*screen, "cboWarehouse")->chosenId(), 0);
-    type("O");
-    child<QPushButton>(*screen, "btnOK")->click();
-    EXPECT_TRUE(comesTrue([&] { return !screen; }));
-    EXPECT_EQ(prompts.said, QStringList());
-    EXPECT_EQ(stored(), u"10001|1|10|1|3|1|for pie|2 10001|1|10|2|2|1||2");
-}
-
 TEST_F(UsageScreenTest, leadsBackToTheItemWithoutTheSearchAndAsksInItsOwnWords)
 {
     open();
+    EXPECT_TRUE(screen->testAttribute(Qt::WA_KeyboardFocusChange)) << "boxes show the cursor that Enter brings";
     type("<PgDown>3<PgDown>"); // the line has no item yet
     EXPECT_EQ(prompts.told(), u"error: Field 'Item no.' must have a value...\nMake changes or press Esc to undo");
     QCoreApplication::processEvents();
