@@ -2,8 +2,6 @@
 #include "controls/grids/listgrid.h"
 #include "master/screens/itemsearchinv.h"
 #include "tests/support/screentest.h"
-#include "transactions/documentkinds.h"
-#include "transactions/screens/documentpostscreen.h"
 #include "transactions/screens/invreceipt.h"
 
 using namespace Qt::StringLiterals;
@@ -35,7 +33,7 @@ struct ReceiptScreenTest : ScreenTest
 
 } // namespace
 
-TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
+TEST_F(ReceiptScreenTest, isEnteredByKeyboardAlone)
 {
     open();
     EXPECT_EQ(focusName(), u"editVendorNo"_s);
@@ -55,14 +53,6 @@ TEST_F(ReceiptScreenTest, isEnteredByKeyboardAloneAndPosted)
     EXPECT_EQ(kitchen.found(u"SELECT ReceiptNo, VendorID, WarehouseID, GLYear, GLPeriod FROM IReceipt"_s),
               u"1001|1|2|2026|3");
     EXPECT_EQ(kitchen.lines(key), (QStringList{u"1|1|5|3"_s, u"2|2|2|1.25"_s}));
-
-    DocumentPostScreen dialog(*context, DocumentKinds::receipt(), mainWindow.get());
-    EXPECT_EQ(child<QLabel>(dialog, "lblRecordCount")->text(), u"1 receipt(s) to be posted"_s);
-    showActive(dialog);
-    press(Qt::Key_Return);
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_EQ(kitchen.onHand(1, 2), 5);
-    EXPECT_EQ(kitchen.averageCost(2), 1.25);
 }
 
 TEST_F(ReceiptScreenTest, keyGoesIntoTheLineThatTheCursorIsOnAlsoWhenAnotherUserHasTakenOneBeforeIt)
