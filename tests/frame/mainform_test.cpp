@@ -1,10 +1,14 @@
 #include "base/ruleerror.h"
+#include "frame/commands.h"
 #include "frame/forhosts/reportholder.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/serverlabel.h"
+#include "reports/reportlist.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/teststore.h"
+#include "transactions/documentkinds.h"
+#include "transactions/screens/documentscreens.h"
 
 #include <QTemporaryFile>
 
@@ -75,6 +79,30 @@ TEST(ServerLabelTest, TellsThatTheServerIsGoneAndConnectsAgainByItself)
     EXPECT_EQ(other.windowTitle(), u"Inventory Receipt"_s);
     EXPECT_FALSE(store.database().connection().hasEnded());
     EXPECT_FALSE(label.isHidden());
+}
+
+// What a kind of document has in other rooms, where nothing but a name leads from one to the other.
+TEST_F(MainFormTest, EveryKindOfDocumentHasItsCommandsAndItsReport)
+{
+    EXPECT_EQ(documentScreens().size(), DocumentKinds::all().size());
+    QStringList offered; // by buttons and menus
+    for (const QObject *control : form().findChildren<QObject *>())
+        offered << control->property("action").toString();
+    for (const DocumentKind *kind : DocumentKinds::all()) {
+        SCOPED_TRACE(qPrintable(kind->name));
+        QStringList lists, posts;
+        for (const MainCommand &command : commands()) {
+            if (!offered.contains(command.action))
+                continue;
+            if (command.screen == kind->posting.screen || command.opening == ScreenOpening::Post)
+                posts << command.screen;
+            else
+                lists << command.screen;
+        }
+        EXPECT_TRUE(lists.contains(kind->list.screen));
+        EXPECT_TRUE(posts.contains(kind->list.screen) || posts.contains(kind->posting.screen));
+        EXPECT_TRUE(ReportList::find(kind->list.report)) << "its list can be printed";
+    }
 }
 
 TEST_F(MainFormTest, PrintsTemplatesThatAreThere)
