@@ -48,7 +48,6 @@ QToolButton *KeptFilterMenu::makeButton(QWidget *parent)
     button->setToolTip(tr("Filters that you have kept"));
     button->setArrowType(Qt::DownArrow);
     button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, this,
             [this, button] { popup(button->mapToGlobal(QPoint(0, button->height()))); });
     return button;

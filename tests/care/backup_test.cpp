@@ -1,6 +1,7 @@
 #include "care/backup.h"
 
 #include "care/bookcheck.h"
+#include "care/fileinmaking.h"
 #include "data/lastbackup.h"
 #include "tests/support/documents.h"
 #include "tests/support/files.h"
@@ -166,6 +167,8 @@ TEST_P(BackupTest, TellsOlderReleasesAndRefusesNewerOnes)
     backUp(kitchen.database(), file + u"2"_s, progress);
     const QTemporaryDir another;
     EXPECT_TRUE(has(refusalToRestore(file + u"2"_s, another).toLower(), u"futurity"_s));
+    constexpr qint64 moreThanThereIs = 1LL << 60;
+    EXPECT_TRUE(has(refusalOf([&] { FileInMaking(another.path(), moreThanThereIs); }), u"MB are needed"_s));
 
     kitchen.execute(u"DELETE FROM IDataVersion; INSERT INTO IDataVersion VALUES (1, 99, '9.8')"_s);
     backUp(kitchen.database(), file + u"3"_s, progress);

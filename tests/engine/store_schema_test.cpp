@@ -35,6 +35,7 @@ TEST_P(SchemaTest, EveryLayoutIsReadBackAsItWasMade)
         EXPECT_FALSE(database.differs(layout));
     }
     EXPECT_EQ(store.tables().size(), std::size(layouts));
+    EXPECT_GT(store.connection().size(), 0);
 }
 
 TEST_P(SchemaTest, RestructuringKeepsRowsAndConvertsWhatItCan)
