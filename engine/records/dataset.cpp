@@ -370,8 +370,6 @@ DataSet::RestOver DataSet::restToCome() const
     return DataSetReader(*this).restToCome();
 }
 
-bool DataSet::isListRead() const { return m_open && d->keysRead; }
-
 bool DataSet::beginsAnew() const
 {
     return m_open && !d->keysRead && d->cursor.isUnread()

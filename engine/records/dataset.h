@@ -170,7 +170,6 @@ public:
     // read or changed since. Null where there is little to be gained.
     using RestOver = std::function<std::function<void()>(Connection &)>;
     RestOver restToCome() const;
-    bool isListRead() const; // its keys, or how many there are
     bool beginsAnew() const; // a long set of which the first rows are to be shown, before its keys are read
 
     // Reads the set anew and stays on the current row; when that is gone, on the one that took its place. An edit in
