@@ -17,13 +17,14 @@ namespace Tallymere {
 // before it is worth nothing then.
 class ReadAside final : public QObject
 {
+    Q_OBJECT
 public:
     // Called on that thread with the same database; gives what is to be done with what it has read, on this object's thread.
     // It may use neither widgets nor what others use: it takes what it needs with it.
     using Read = std::function<std::function<void()>(Engine::Database &database)>;
     using Failed = std::function<void(const std::exception_ptr &failure)>; // on this object's thread
 
-    explicit ReadAside(QObject *parent = nullptr);
+    explicit ReadAside(QObject *parent);
     // Nothing is handed over any more. What is being read ends by itself, and is waited for a moment at most.
     ~ReadAside() override;
 

@@ -147,7 +147,7 @@ private:
     QString m_helpFile;
     QEventLoop *m_modalLoop = nullptr;
     bool m_isOpening = false; // until it has the keyboard
-    ReadAside m_aside; // whether there are first steps to be done
+    ReadAside m_aside{this}; // whether there are first steps to be done
 };
 
 } // namespace Tallymere

@@ -29,7 +29,7 @@ private:
 
     Engine::Database *m_database = nullptr;
     QTimer m_looking;
-    ReadAside m_search;
+    ReadAside m_search{this};
 };
 
 } // namespace Tallymere

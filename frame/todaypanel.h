@@ -50,7 +50,7 @@ private:
     QLabel *m_timeShown = nullptr;
     QTime m_time; // of what is shown
     QTimer m_late;
-    ReadAside m_aside;
+    ReadAside m_aside{this};
 };
 
 } // namespace Tallymere

@@ -66,7 +66,7 @@ private:
     Engine::DataSet *m_data = nullptr;
     const Guard *m_guard = nullptr;
     ListSearch *m_search = nullptr;
-    ReadAside m_rest; // of the keys
+    ReadAside m_rest{this}; // of the keys
     std::vector<std::unique_ptr<QKeyEvent>> m_held; // until the rest is there
     bool m_isReleasing = false;
     bool m_moving = false;

@@ -61,7 +61,7 @@ private:
     WindowMemory m_memory;
     QList<Shown> m_shown;
     bool m_wasOpen = false; // something was left to be done
-    ReadAside m_aside;
+    ReadAside m_aside{this};
 };
 
 } // namespace Tallymere

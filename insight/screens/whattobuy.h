@@ -52,7 +52,7 @@ private:
     RecordOpener m_receipts;
     std::unique_ptr<ReportWays> m_ways;
     BuyingList m_list;
-    ReadAside m_aside;
+    ReadAside m_aside{this};
     bool m_shown = false;
 };
 

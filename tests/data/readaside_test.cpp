@@ -43,7 +43,7 @@ struct ReadAsideTest : testing::TestWithParam<Store>
     TestStore store{GetParam()};
     const std::thread::id asking = std::this_thread::get_id();
     QStringList told;
-    std::unique_ptr<ReadAside> aside = std::make_unique<ReadAside>();
+    std::unique_ptr<ReadAside> aside = std::make_unique<ReadAside>(nullptr);
 };
 
 } // namespace

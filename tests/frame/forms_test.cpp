@@ -501,7 +501,7 @@ TEST_F(FormsTest, EveryWindowIsAsItWasApproved)
     QStringList windows;
     const auto write = [&windows](QWidget &window) {
         onEachPage(window, [&] {
-            awaitIdle(&window);
+            awaitIdle();
             windows << factsOf(window).join(u'\n');
         });
     };

@@ -110,6 +110,7 @@ struct OpeningTest : testing::Test
 TEST_F(OpeningTest, TellsItsStepsToTheTrace)
 {
     static QStringList steps;
+    steps.clear();
     QLoggingCategory::setFilterRules(u"tallymere.trace.debug=true"_s);
     const QtMessageHandler usual =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &of, const QString &text) {

@@ -1,10 +1,10 @@
 #include "tests/frame/windowfacts.h"
 
 #include "controls/windows/icons.h"
+#include "data/readaside.h"
 #include "tests/support/screendriver.h"
 
 #include <QAbstractEventDispatcher>
-#include <QThreadPool>
 #include <QtWidgets>
 
 using namespace Qt::StringLiterals;
@@ -328,14 +328,16 @@ QString tabOrderOf(const QWidget &window)
 
 } // namespace
 
-void awaitIdle(const QWidget *window)
+void awaitIdle()
 {
-    const QPointer<QLabel> status =
-        window ? window->findChild<QLabel *>(u"lblStatus"_s) : nullptr; // it may go with its window
-    EXPECT_TRUE(comesTrue([status] {
-        QThreadPool::globalInstance()->waitForDone();
-        return !QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)
-            && !(status && status->text().startsWith(u"Reading"_s));
+    const auto reads = [](const QWidget *window) {
+        const auto asides = window->findChildren<Tallymere::ReadAside *>();
+        return std::any_of(asides.begin(), asides.end(), [](const auto *aside) { return aside->isReading(); });
+    };
+    EXPECT_TRUE(comesTrue([&reads] {
+        const bool wasIdle = !QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        return wasIdle && std::none_of(windows.begin(), windows.end(), reads);
     }));
 }
 

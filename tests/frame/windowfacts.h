@@ -9,8 +9,8 @@ class QWidget;
 // columns and commands. Neither pixels nor the day, so that it is the same on every machine.
 QStringList factsOf(QWidget &window);
 
-// Until nothing of the window is pending any more: neither what is read beside nor what goes on while nobody does anything.
-void awaitIdle(const QWidget *window);
+// Until nothing is pending in any window any more: neither what is read beside nor what goes on while nobody does anything.
+void awaitIdle();
 
 // Without what changes from day to day and from run to run.
 QString timeless(QString text);

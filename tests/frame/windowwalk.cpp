@@ -116,7 +116,7 @@ void WindowWalk::step(const QString &name, const std::function<void()> &act)
     });
     watch.start(1); // of nothing, the loop would never be idle
     act();
-    awaitIdle(m_window);
+    awaitIdle();
     for (QWidget *window : shownWindows())
         if (!before.contains(window))
             sendAway(window);
@@ -130,7 +130,7 @@ void WindowWalk::step(const QString &name, const std::function<void()> &act)
         m_window->show();
     }
     m_window->activateWindow();
-    awaitIdle(m_window);
+    awaitIdle();
     const QStringList facts = factsOf(*m_window);
     for (const QString &fact : facts)
         if (!m_facts.contains(fact))
@@ -184,7 +184,7 @@ QStringList WindowWalk::run()
 {
     m_window->setAttribute(Qt::WA_DeleteOnClose, false);
     m_window->show();
-    awaitIdle(m_window);
+    awaitIdle();
     m_prompts.take();
     m_facts = factsOf(*m_window);
     m_steps = {titleOf(*m_window)};
