@@ -4,6 +4,7 @@
 #include "engine/records/cursor.h"
 #include "engine/records/rowsource.h"
 #include "engine/records/setkeys.h"
+#include "engine/records/setparts.h"
 #include "engine/records/windowcache.h"
 #include "engine/values/error.h"
 
@@ -88,6 +89,11 @@ public:
         }
         return std::invoke(method, source(), arguments...);
     }
+    // The same of its parts.
+    template <typename Asked> auto readParts(const Asked &asked) const
+    {
+        return read([&asked](const RowSource &rows) { return asked(rows.parts()); });
+    }
     void readKeys() const; // all of them, or how many there are
     std::optional<KeyList> readAhead() const; // aside, where that pays
     // It is a long set, the first rows of which need not wait for the rest: this comes beside them.
@@ -111,7 +117,7 @@ public:
 private:
     SetScope scope() const; // with filter and sorting
     void settleKeys() const;
-    void takeLength(const RowSource::Length &length) const;
+    void takeLength(const SetLength &length) const;
     bool isLong() const;
     bool beginsWithPage(const RowSource &wanted) const;
     bool mended(const EngineError &error) const;

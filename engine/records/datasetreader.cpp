@@ -124,17 +124,20 @@ DataSet::RestOver DataSetReader::restToCome() const
         };
     };
     if (wanted.inParts && source().isFar()) {
-        const std::optional<qint64> last = read(&RowSource::lastKey, shortSet);
+        const std::optional<qint64> last = readParts([](const SetParts &parts) { return parts.lastKey(shortSet); });
         if (!last)
             return {};
         return [=](Connection &connection) -> std::function<void()> {
-            const RowSource::Length length{RowSource(connection, wanted, noFields).countUpTo(*last), *last};
-            return unlessReadSince([length](const DataSetReader &set) { set.takeLength(length); });
+            const SetLength length = SetParts(connection, wanted).lengthUpTo(*last);
+            return unlessReadSince([length, last](const DataSetReader &set) {
+                // A standby that is behind has counted too few.
+                length.lastKey < *last ? set.readKeys() : set.takeLength(length);
+            });
         };
     }
     if (wanted.inParts && read(&RowSource::hasMoreThan, d.longFrom))
         return [=](Connection &connection) -> std::function<void()> {
-            const std::optional<RowSource::Length> length = RowSource(connection, wanted, noFields).length(0);
+            const std::optional<SetLength> length = SetParts(connection, wanted).length(0);
             return unlessReadSince([length](const DataSetReader &set) {
                 if (length)
                     set.takeLength(*length);
@@ -151,9 +154,9 @@ DataSet::RestOver DataSetReader::restToCome() const
     };
 }
 
-void DataSetReader::takeLength(const RowSource::Length &length) const
+void DataSetReader::takeLength(const SetLength &length) const
 {
-    d.keys.takeLength(length.count, length.lastKey);
+    d.keys.takeLength(length);
     settleKeys();
 }
 
@@ -220,7 +223,7 @@ void DataSetReader::readKeys() const
         d.keys.takeAll(std::move(numbers));
     } else if (readShort()) {
         // with its rows
-    } else if (const auto length = read(&RowSource::length, shortSet)) {
+    } else if (const auto length = readParts([](const SetParts &parts) { return parts.length(shortSet); })) {
         return takeLength(*length);
     } else {
         d.keys.takeAll(read(&RowSource::keys));
@@ -252,7 +255,7 @@ void DataSetReader::readPart(int index) const
     const bool isWalk = start > 0 && d.keys.hasInHand(start - 1);
     const int size = std::min((isWalk ? partsOfAWalk : 1) * SetKeys::partSize, d.keys.count() - start);
     const KeyList found =
-        read(&RowSource::keysFrom, start, size, RowSource::Length{d.keys.count(), d.keys.lastKey()});
+        readParts([&](const SetParts &parts) { return parts.keysFrom(start, size, d.keys.length()); });
     d.keys.makeRoom(partsOfAWalk);
     for (int first = 0; first < size; first += SetKeys::partSize) {
         KeyList part;
@@ -274,7 +277,8 @@ int DataSetReader::indexOf(const Key &key) const
     if (const int index = d.keys.find(key); index >= 0 || d.keys.isWhole())
         return index;
     // What others have deleted since the length was read moves the rows behind it.
-    return std::min(read(&RowSource::indexOf, key, d.keys.lastKey()), d.keys.count() - 1);
+    const int index = readParts([&](const SetParts &parts) { return parts.indexOf(key, d.keys.length()); });
+    return std::min(index, d.keys.count() - 1);
 }
 
 bool DataSetReader::holds(const Key &key) const

@@ -1,5 +1,6 @@
 #include "engine/records/rowsource.h"
 
+#include "engine/records/setparts.h"
 #include "engine/store/dialect.h"
 #include "engine/values/error.h"
 
@@ -110,94 +111,11 @@ QString orderBy(const Dialect &dialect, const QList<OrderTerm> &order, bool back
     return " ORDER BY "_L1 + terms.join(", "_L1);
 }
 
-std::optional<RowSource::Length> RowSource::length(int shortOnes) const
-{
-    if (!m_scope.inParts)
-        return std::nullopt;
-    if (!hasMoreThan(shortOnes))
-        return std::nullopt;
-    // Both of one moment.
-    const StatementPtr statement = m_connection.prepare(
-        u"SELECT (SELECT COUNT(*) FROM %1), (SELECT MAX(%2) FROM %1)"_s.arg(m_scope.source, m_keys));
-    statement->next();
-    return Length{static_cast<int>(statement->intAt(0)), statement->intAt(1)};
-}
-
-std::optional<qint64> RowSource::lastKey(int shortOnes) const
-{
-    if (!m_scope.inParts)
-        return std::nullopt;
-    const StatementPtr statement =
-        m_connection.prepare(u"SELECT MAX(%2) FROM %1 WHERE EXISTS (SELECT 1 FROM %1 LIMIT 1 OFFSET %3)"_s.arg(
-            m_scope.source, m_keys, QString::number(shortOnes)));
-    if (!statement->next() || statement->isNull(0))
-        return std::nullopt;
-    return statement->intAt(0);
-}
-
-int RowSource::countUpTo(qint64 lastKey) const
-{
-    const StatementPtr count = select(u"COUNT(*)"_s, upTo(lastKey), {});
-    count->next();
-    return static_cast<int>(count->intAt(0));
-}
+SetParts RowSource::parts() const { return {m_connection, m_scope}; }
 
 bool RowSource::hasMoreThan(int rows) const
 {
     return !m_scope.isNone && select(u"1"_s, m_scope.condition, u" LIMIT 1 OFFSET %1"_s.arg(rows))->next();
-}
-
-SqlCondition RowSource::upTo(qint64 lastKey) const { return {m_keys + " <= ?"_L1, {lastKey}}; }
-
-KeyList RowSource::keysFrom(int first, int count, const Length &length) const
-{
-    const int behind = length.count - first - count;
-    const bool backwards = behind < first;
-    const StatementPtr statement =
-        select(m_keys, upTo(length.lastKey),
-               orderBy(backwards) + u" LIMIT %1 OFFSET %2"_s.arg(count).arg(backwards ? behind : first));
-    std::vector<qint64> numbers;
-    while (statement->next())
-        numbers.push_back(statement->intAt(0));
-    if (backwards)
-        std::reverse(numbers.begin(), numbers.end());
-    KeyList keys;
-    for (const qint64 number : numbers)
-        keys.append(number);
-    return keys;
-}
-
-// A row comes before another one when it does so by the first term in which they differ. Nulls come before everything in
-// an ascending order.
-int RowSource::indexOf(const Key &key, qint64 lastKey) const
-{
-    const Dialect &dialect = m_connection.dialect();
-    QStringList columns;
-    for (const OrderTerm &term : m_scope.order)
-        columns << term.column.sql;
-    SqlCondition one = keyCondition(key);
-    one += upTo(lastKey);
-    const StatementPtr row = select(columns.join(", "_L1), one, {});
-    if (!row->next())
-        return -1;
-    // Each of these is a range of the index.
-    SqlCondition same;
-    QStringList counts;
-    QList<Value> values;
-    for (int i = 0; i < m_scope.order.size(); ++i) {
-        const auto &[column, descending] = m_scope.order[i];
-        const Value value = row->isNull(i) ? Value() : row->valueAt(i, row->columnType(i));
-        SqlCondition ahead = same;
-        ahead += before(dialect, column, value, descending);
-        ahead += upTo(lastKey);
-        counts << u"(SELECT COUNT(*) FROM %1 WHERE %2)"_s.arg(m_scope.source, ahead.text);
-        values += ahead.parameters;
-        same += equals(dialect, column, value);
-    }
-    const StatementPtr count = m_connection.prepare("SELECT "_L1 + counts.join(" + "_L1));
-    bindAll(*count, values);
-    count->next();
-    return static_cast<int>(count->intAt(0));
 }
 
 std::optional<FoundRow> RowSource::first(const SqlCondition &condition) const

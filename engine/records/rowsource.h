@@ -33,8 +33,15 @@ struct SetScope
     QString joinedField; // a looked-up one that the source has as a column
     QString joinedColumn;
     // Its keys may be read in parts: it is a table as a whole, in the order of an index of it, by a key of one number that new
-    // rows have above all others.
+    // rows have above all others. Or in that of another table which is joined to it: then those rows are in the order of an index
+    // to which the same is looked up there.
+    struct Groups
+    {
+        QString rows; // the table alone, with which the source begins
+        QList<OrderTerm> order; // of the rows of one, by what is looked up first
+    };
     bool inParts = false;
+    std::optional<Groups> groups;
     bool isNone = false; // no row is in it, and none can come
     // Text fields in the folded form of which an index exists: a search by the exact text goes through that index.
     QStringList foldedFields;
@@ -44,6 +51,8 @@ QString orderBy(const Dialect &dialect, const QList<OrderTerm> &order, bool back
 
 // The expression of a field of a set, for conditions and orders. Throws NoSuchField for a calculated one.
 QString columnOf(const Dialect &dialect, const Field &field);
+
+class SetParts;
 
 // Reads keys and rows of one set. Holds no row itself.
 class RowSource
@@ -55,23 +64,7 @@ public:
     const SqlCondition &condition() const { return m_scope.condition; }
     KeyList keys() const;
     bool hasMoreThan(int rows) const;
-    // --- of a set that may be read in parts ---
-    struct Length
-    {
-        int count;
-        qint64 lastKey; // the highest one
-    };
-    // None where the set is not to be read in parts, or is short.
-    std::optional<Length> length(int shortOnes) const;
-    // The same without counting, which has to go over all rows: that may be done over another connection.
-    std::optional<qint64> lastKey(int shortOnes) const;
-    int countUpTo(qint64 lastKey) const;
-    // The keys from an index on of the rows up to the last key, so many of them as the length told. From the end that is
-    // nearer, as what lies before them is gone over.
-    KeyList keysFrom(int first, int count, const Length &length) const;
-    // How many of those rows come before the one of a key; -1 when there is none.
-    int indexOf(const Key &key, qint64 lastKey) const;
-    // ---
+    SetParts parts() const; // of a set that is read so
     // The first row in the set's order that meets the condition as well.
     std::optional<FoundRow> first(const SqlCondition &condition = {}) const;
     std::vector<FoundRow> firstFound(int count) const;
@@ -112,11 +105,7 @@ private:
     Row readRow(const Statement &statement) const;
     Row nullRow() const { return Row(m_fields.size()); }
     SqlCondition keyCondition(const Key &key) const;
-    QString orderBy(bool backwards = false) const
-    {
-        return Engine::orderBy(m_connection.dialect(), m_scope.order, backwards);
-    }
-    SqlCondition upTo(qint64 lastKey) const;
+    QString orderBy() const { return Engine::orderBy(m_connection.dialect(), m_scope.order); }
     SqlCondition matchOne(const Field &field, const Value &value, bool partial, bool caseInsensitive) const;
     StatementPtr select(const QString &columns, const SqlCondition &condition, const QString &tail) const;
 

@@ -50,6 +50,7 @@ void SetFiltering::applyTo(SetScope &scope, bool isLongInOrder) const
         return;
     const QString first = std::exchange(scope.firstSource, {});
     scope.inParts = false;
+    scope.groups.reset();
     if (isLongInOrder && !m_condition.isEmpty())
         guessFirst(scope, first);
 }

@@ -10,12 +10,11 @@ void SetKeys::takeAll(KeyList keys)
     m_all = std::move(keys);
 }
 
-void SetKeys::takeLength(int count, qint64 lastKey)
+void SetKeys::takeLength(SetLength length)
 {
     *this = SetKeys();
     m_isWhole = false;
-    m_count = count;
-    m_lastKey = lastKey;
+    m_length = std::move(length);
 }
 
 void SetKeys::makeRoom(size_t parts)
@@ -27,7 +26,7 @@ void SetKeys::makeRoom(size_t parts)
 void SetKeys::takePart(int index, KeyList part)
 {
     const int start = partStart(index);
-    while (part.count() < std::min(partSize, m_count - start))
+    while (part.count() < std::min(partSize, m_length.count - start))
         part.append(std::numeric_limits<qint64>::min());
     m_parts.insert_or_assign(start, std::move(part));
 }

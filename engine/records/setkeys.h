@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/records/setlength.h"
 #include "engine/store/keylist.h"
 
 #include <map>
@@ -15,15 +16,15 @@ public:
     static int partStart(int index) { return index / partSize * partSize; }
 
     void takeAll(KeyList keys);
-    // Only so many rows are known, with keys up to the last; what comes later is not among them.
-    void takeLength(int count, qint64 lastKey);
+    // Only so many rows are known; what comes later is not among them.
+    void takeLength(SetLength length);
     void makeRoom(size_t parts); // for so many, which stay in hand together
     void takePart(int index, KeyList part); // that the index lies in; what of it is missing has no row
 
     bool isWhole() const { return m_isWhole; }
     KeyList &all() { return m_all; } // of a whole one
-    int count() const { return m_isWhole ? m_all.count() : m_count; }
-    qint64 lastKey() const { return m_lastKey; }
+    int count() const { return m_isWhole ? m_all.count() : m_length.count; }
+    const SetLength &length() const { return m_length; } // of one that is not whole
     bool hasInHand(int index) const { return m_isWhole || m_parts.contains(partStart(index)); }
     // What follows is asked of keys in hand.
     Key at(int index) const;
@@ -35,8 +36,7 @@ private:
 
     bool m_isWhole = true;
     KeyList m_all;
-    int m_count = 0;
-    qint64 m_lastKey = 0;
+    SetLength m_length;
     std::map<int, KeyList> m_parts; // by their first index
 };
 

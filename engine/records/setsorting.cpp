@@ -89,7 +89,7 @@ bool SetSorting::sortByLookup(SetScope &scope) const
         + m_dialect.variant(rows + " ON "_L1 + matchOf(field), firstRowsOfOne);
     scope.order = {termOf(scope.joinedColumn, field), {{theirKey(field)}, m_isDescending}};
     scope.order += within;
-    scope.inParts = false;
+    scope.groups = {rows, within};
     return true;
 }
 

@@ -15,7 +15,7 @@ TEST(SetKeys, PartsThatAreReadTogetherStayInHandTogether)
     constexpr int walks = 9;
     constexpr int partsOfOne = 16;
     SetKeys keys;
-    keys.takeLength(walks * partsOfOne * SetKeys::partSize, 0);
+    keys.takeLength({.count = walks * partsOfOne * SetKeys::partSize});
     for (int walk = 0; walk < walks; ++walk) {
         keys.makeRoom(partsOfOne);
         const int first = walk * partsOfOne * SetKeys::partSize;
@@ -466,6 +466,37 @@ TEST_P(RecordTest, AskingForTheFirstRowOrAKeyDoesNotReadTheList)
     store.execute(u"INSERT INTO Vendor (VendorID) VALUES (6)"_s);
     EXPECT_EQ(vendors.recordCount(), GetParam() == Store::Local ? 6 : 5);
     EXPECT_EQ(vendors.recordIndex(), 3);
+}
+
+// Some thousand rows to which the same is looked up, few to which others are, and rows to which nothing is.
+TEST_P(RecordTest, ALongListInTheOrderOfAnotherTableIsReadInPartsToo)
+{
+    constexpr int rows = 20'000;
+    store.fill(u"Document (DocumentID, VendorID)"_s, u"i, 1000 - i"_s, 280);
+    store.fill(u"Vendor (VendorID, Days)"_s,
+               u"i, CASE WHEN i % 13 = 0 THEN NULL WHEN i < 9000 THEN 5 ELSE i % 300 END"_s, rows);
+    TableReader list(database(), u"Vendor"_s);
+    list.addLookup({u"Number"_s, FieldType::Integer}, {u"Days"_s, u"Document"_s, u"DocumentID"_s, u"VendorID"_s});
+    list.open();
+    for (const bool descending : {false, true}) {
+        SCOPED_TRACE(descending);
+        const QStringList ordered =
+            store.rows(u"SELECT v.VendorID FROM Vendor v LEFT JOIN Document d ON d.DocumentID = v.Days "
+                       "ORDER BY d.VendorID %1, v.Days %1, v.VendorID %1"_s,
+                       descending ? u"DESC NULLS LAST"_s : u"ASC NULLS FIRST"_s);
+        list.setSorting({u"Number"_s, descending});
+        ASSERT_EQ(list.recordCount(), rows);
+        // What comes later is not in the list, wherever it would stand.
+        store.execute(u"INSERT INTO Vendor (VendorID, Days) VALUES (20001, 5)"_s);
+        for (int index = 0; index < rows; ++index)
+            ASSERT_EQ(list.keyAt(index).front(), ordered[index].toInt()) << index;
+        EXPECT_EQ(list.indexOf({20'001}), -1);
+        store.execute(u"DELETE FROM Vendor WHERE VendorID = 20001"_s);
+        list.refresh(); // no part is in hand
+        for (int index = 0; index < rows; index += 997)
+            EXPECT_EQ(list.indexOf({ordered[index].toInt()}), index);
+        EXPECT_EQ(list.rowAt(12'345)[0].toInt(), ordered[12'345].toInt());
+    }
 }
 
 // Names that repeat in either case, and none; days that many share.

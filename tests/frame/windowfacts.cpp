@@ -296,7 +296,7 @@ void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
 {
     const QByteArray name = widget.metaObject()->className();
     if (name == "QTableCornerButton" || name == "QSizeGrip" || name == "QLineEditIconButton" // which comes slowly
-        || name == "QCalendarWidget")
+        || name == "QScrollBar" || name == "QCalendarWidget")
         return;
     const bool isOfToolkit =
         widget.objectName().startsWith("qt_"_L1); // a part of its widget, as what holds the pages of a book

@@ -16,13 +16,14 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStatusBar>
-#include <QTableView>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -147,8 +148,8 @@ inline QString focusName()
     return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
 }
 
-// Runs the action, which opens a modal dialog, and the step on that dialog once it is there. The dialog is closed
-// afterwards if the step has left it open. False when no dialog came.
+// Runs the action, which opens a modal dialog, and the step on that dialog once it is there and nothing works beside it. The
+// dialog is closed afterwards if the step has left it open. False when no dialog came.
 template <typename Dialog>
 bool whileOpen(const std::function<void()> &action, const std::function<void(Dialog &)> &step)
 {
@@ -156,7 +157,7 @@ bool whileOpen(const std::function<void()> &action, const std::function<void(Dia
     QTimer watch;
     watch.callOnTimeout([&] {
         auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
-        if (!dialog)
+        if (!dialog || dialog->template findChild<QProgressDialog *>())
             return;
         watch.stop();
         came = true;
