@@ -174,19 +174,33 @@ std::pair<double, double> openHistory(Engine::Database &database)
     return openList(database, view, view.table());
 }
 
-// The history that is shown, in the order of another title, and narrowed.
-double sortHistory(Engine::Database &database, const QString &field, const HistoryView::Filter &filter = {})
+// The history that is shown, in the order of another title, and narrowed: until its first rows are there, what goes on beside
+// that then, and until a page in its middle is there.
+struct Sorting
+{
+    double first;
+    double beside;
+    double middle;
+};
+
+Sorting sortHistory(Engine::Database &database, const QString &field, const HistoryView::Filter &filter = {})
 {
     HistoryView view(database);
     view.table().setFilter(HistoryView::filterExpression(filter));
     Engine::TableReader &list = view.table();
     list.onLongRead([&database](const Engine::DataSet::ReadOver &read) { read(database.connection()); });
     openList(database, view, list);
-    return seconds([&] {
+    const double first = seconds([&] {
         list.setSorting({field});
         list.setFiltered(!list.filter().isEmpty());
         sink = sink + static_cast<double>(list.beginsAnew() ? list.firstRows(64).size() : list.recordCount());
     });
+    const double beside = seconds([&] {
+        if (const Engine::DataSet::RestOver rest = list.restToCome())
+            rest(database.connection())();
+        sink = sink + list.recordCount();
+    });
+    return {first, beside, seconds([&] { sink = sink + list.rowAt(list.recordCount() / 2)[0].toDouble(); })};
 }
 
 std::pair<double, double> openTotals(Engine::Database &database)
@@ -269,22 +283,30 @@ std::vector<Compared> comparisons(Store store, Engine::Database &database, const
                             u"SELECT * FROM IHist ORDER BY GLYear DESC NULLS LAST, GLPeriod DESC NULLS LAST, "
                             "TransDate DESC NULLS LAST, IHistID DESC NULLS LAST LIMIT 64"_s);
          }},
-        {"by quantity", [&database](int) { return sortHistory(database, Fields::Quantity); },
+        {"by quantity", [&database](int) { return sortHistory(database, Fields::Quantity).first; },
          [&database](int) {
              return readAll(database,
                             u"SELECT * FROM IHist ORDER BY Quantity NULLS FIRST, IHistID NULLS FIRST LIMIT 64"_s);
          }},
-        {"by location", [&database](int) { return sortHistory(database, Fields::WarehouseName); },
+        {"by location", [&database](int) { return sortHistory(database, Fields::WarehouseName).first; },
          [&database](int) {
              return readAll(
                  database, u"SELECT * FROM IHist ORDER BY WarehouseID NULLS FIRST, IHistID NULLS FIRST LIMIT 64"_s);
          }},
-        {"by item no.", [&database](int) { return sortHistory(database, Fields::ItemNo); },
+        {"by item no.", [&database](int) { return sortHistory(database, Fields::ItemNo).first; },
          [&database](int) {
              return readAll(database, u"SELECT * FROM IHist WHERE ItemID = 1 ORDER BY IHistID LIMIT 64"_s);
          }},
+        {"counted beside", [&database](int) { return sortHistory(database, Fields::ItemNo).beside; },
+         [&database](int) { return readAll(database, u"SELECT ItemID, COUNT(*) FROM IHist GROUP BY ItemID"_s); }},
+        {"its middle", [&database](int) { return sortHistory(database, Fields::ItemNo).middle; },
+         [&database](int) {
+             return readAll(
+                 database,
+                 u"SELECT * FROM IHist JOIN Item ON Item.ItemID = IHist.ItemID ORDER BY ItemNo, IHistID LIMIT 64 OFFSET 500000"_s);
+         }},
         {"a location by quantity",
-         [&database](int) { return sortHistory(database, Fields::Quantity, {.warehouseId = 2}); },
+         [&database](int) { return sortHistory(database, Fields::Quantity, {.warehouseId = 2}).first; },
          [&database](int) {
              return readAll(
                  database,
@@ -292,19 +314,21 @@ std::vector<Compared> comparisons(Store store, Engine::Database &database, const
                  "FIRST LIMIT 64"_s);
          }},
         {"a period by item no.",
-         [&database](int) { return sortHistory(database, Fields::ItemNo, {.year = lastYear, .period = 12}); },
+         [&database](int) { return sortHistory(database, Fields::ItemNo, {.year = lastYear, .period = 12}).first; },
          [&database, latest](int) {
              return readAll(database, u"SELECT * FROM IHist WHERE %1 AND ItemID = 1 LIMIT 64"_s.arg(latest));
          }},
         {"a period by location",
          [&database](int) {
-             return sortHistory(database, Fields::WarehouseName, {.year = lastYear, .period = 12});
+             return sortHistory(database, Fields::WarehouseName, {.year = lastYear, .period = 12}).first;
          },
          [&database, latest](int) {
              return readAll(database, u"SELECT * FROM IHist WHERE %1 AND WarehouseID = 1 LIMIT 64"_s.arg(latest));
          }},
         {"a period by date",
-         [&database](int) { return sortHistory(database, Fields::TransDate, {.year = lastYear, .period = 12}); },
+         [&database](int) {
+             return sortHistory(database, Fields::TransDate, {.year = lastYear, .period = 12}).first;
+         },
          [&database](int) {
              return readAll(
                  database,
@@ -312,7 +336,7 @@ std::vector<Compared> comparisons(Store store, Engine::Database &database, const
                  "IHistID NULLS FIRST LIMIT 64"_s.arg(lastYear));
          }},
         {"an item by description",
-         [&database](int) { return sortHistory(database, Fields::TransDescription, {.itemId = 101}); },
+         [&database](int) { return sortHistory(database, Fields::TransDescription, {.itemId = 101}).first; },
          [&database](int) { return readAll(database, u"SELECT * FROM IHist WHERE ItemID = 101 LIMIT 64"_s); }},
         {"its rows counted beside", [&database](int) { return openHistory(database).second; },
          [&database](int) { return readAll(database, u"SELECT COUNT(*) FROM IHist"_s); }},

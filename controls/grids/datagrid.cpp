@@ -254,7 +254,8 @@ void DataGrid::setHint(const QString &hint)
 
 QString DataGrid::shownHint() const
 {
-    const bool empty = m_table && m_table->dataSet().isOpen() && m_table->rowCount() == 0 && !m_table->hasFailed();
+    const bool empty = m_table && m_table->dataSet().isOpen() && m_table->rowCount() == 0 && !m_table->hasFailed()
+        && !m_table->isPartial();
     return empty ? m_hint : QString();
 }
 

@@ -39,6 +39,7 @@ void ListGrid::setDataSet(Engine::DataSet &set, const QList<GridColumn> &columns
     connect(&set, &Engine::DataSet::listChanged, this, &ListGrid::dropSelection);
     connect(&set, &Engine::DataSet::currentChanged, this, &ListGrid::takeCursor);
     connect(tableModel(), &QAbstractItemModel::dataChanged, this, &ListGrid::takeCursor);
+    connect(tableModel(), &TableModel::completed, viewport(), qOverload<>(&QWidget::update)); // for the hint
     takeCursor();
 }
 
@@ -48,7 +49,8 @@ void ListGrid::takeCursor()
 {
     if (m_moving || !m_data->isOpen())
         return;
-    if (tableModel()->isPartial() && tableModel()->currentRow() < 0)
+    const bool isOfFirst = tableModel()->isPartial() && tableModel()->rowCount() > 0;
+    if (isOfFirst && tableModel()->currentRow() < 0)
         tableModel()->readRest(); // it is further down
     const int row = tableModel()->currentRow();
     if (row < 0 || row >= tableModel()->rowCount() || row == currentIndex().row())
@@ -162,10 +164,11 @@ bool ListGrid::staysOnPage(const QKeyEvent &key) const
     case Qt::Key_Home:
     case Qt::Key_Left:
     case Qt::Key_Right:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
     case Qt::Key_Escape:
         return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return currentIndex().isValid();
     default:
         return key.text().isEmpty() && key.key() != Qt::Key_End; // modifiers alone, and what is none of the grid's
     }

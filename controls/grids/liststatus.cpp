@@ -44,6 +44,7 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     connect(model, &QAbstractItemModel::rowsInserted, this, &ListStatus::showRows);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &ListStatus::showRows);
     connect(model, &QAbstractItemModel::dataChanged, this, &ListStatus::showRows);
+    connect(model, &TableModel::completed, this, &ListStatus::showRows);
     connect(&model->dataSet(), &Engine::DataSet::listChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListStatus::showRows);
     connect(grid.selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListStatus::showRows);

@@ -173,7 +173,7 @@ void TableModel::takeList()
 {
     findFields();
     m_failed = false;
-    m_partial = false;
+    const bool wasPartial = std::exchange(m_partial, false);
     m_firstPage.clear();
     bool isFirstPage = m_reading == Reading::FirstPageFirst && m_data.isOpen();
     int rows = 0;
@@ -182,12 +182,14 @@ void TableModel::takeList()
         rows = isFirstPage ? 0 : dataRows();
     });
     isFirstPage ? readFirstPage() : showRows(rows);
+    if (wasPartial && !m_partial)
+        Q_EMIT completed();
 }
 
 void TableModel::readFirstPage()
 {
     attempt([&] { m_firstPage = m_data.firstRows(firstPage); });
-    m_partial = m_firstPage.size() == firstPage;
+    m_partial = m_firstPage.size() == firstPage || m_data.hasFirstRowsOnly();
     showRows(static_cast<int>(m_firstPage.size()));
     if (!m_partial)
         m_firstPage.clear();

@@ -47,6 +47,9 @@ public:
     QModelIndexList match(const QModelIndex &start, int role, const QVariant &value, int hits,
                           Qt::MatchFlags flags) const override;
 
+Q_SIGNALS:
+    void completed(); // all rows are there, which may be none, where only the first page was
+
 protected:
     // A row beyond the data set's, or the value in hand of a row that is being edited.
     virtual Engine::Value cellValue(int row, int field) const;

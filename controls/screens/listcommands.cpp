@@ -104,7 +104,8 @@ void ListCommands::finish(QAction *copy)
 // failure of the store is reported by the rows, which fail to show as well.
 void ListCommands::showAvailable()
 {
-    if (m_grid.tableModel()->isPartial() || !m_grid.tableModel()->dataSet().isOpen())
+    const TableModel &rows = *m_grid.tableModel();
+    if ((rows.isPartial() && rows.rowCount() > 0) || !rows.dataSet().isOpen())
         return;
     for (const auto &[action, isAvailable] : std::as_const(m_available)) {
         bool available = false;

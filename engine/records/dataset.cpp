@@ -372,9 +372,10 @@ DataSet::RestOver DataSet::restToCome() const
 
 bool DataSet::beginsAnew() const
 {
-    return m_open && !d->keysRead && d->cursor.isUnread()
-        && (!d->firstPage.empty() || (DataSetReader(*this).beginsInPages() && DataSetReader(*this).pageAhead()));
+    return m_open && !d->keysRead && d->cursor.isUnread() && (d->firstPage || DataSetReader(*this).beginsInPages());
 }
+
+bool DataSet::hasFirstRowsOnly() const { return m_open && !d->keysRead && d->firstPage; }
 
 DataSet::Ahead DataSet::readAhead() const
 {
@@ -382,7 +383,7 @@ DataSet::Ahead DataSet::readAhead() const
     Ahead ahead{.beginsAnew = reader.beginsInPages()};
     if (ahead.beginsAnew)
         ahead.page = reader.pageAhead();
-    if (!ahead.page)
+    else
         ahead.keys = reader.readAhead();
     return ahead;
 }

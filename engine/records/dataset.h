@@ -171,6 +171,8 @@ public:
     using RestOver = std::function<std::function<void()>(Connection &)>;
     RestOver restToCome() const;
     bool beginsAnew() const; // a long set of which the first rows are to be shown, before its keys are read
+    // No others are known yet: of one that is narrowed they may be few or none, and the current record is the first of these.
+    bool hasFirstRowsOnly() const;
 
     // Reads the set anew and stays on the current row; when that is gone, on the one that took its place. An edit in
     // progress is ended first.
@@ -204,9 +206,9 @@ protected:
     struct Ahead // nothing where it is read when needed
     {
         std::optional<KeyList> keys = {};
-        // With which a list begins whose keys come later; empty likewise.
+        // With which a list begins whose keys come later.
         std::optional<std::vector<FoundRow>> page = {};
-        bool beginsAnew = false; // it is long, whether its first rows are there at once or not
+        bool beginsAnew = false; // it is long
     };
     void takeAnew(Place place, Ahead ahead);
     Ahead readAhead() const; // of the order and filter that are set

@@ -30,7 +30,8 @@ struct DataSet::Private
     SetKeys keys;
     bool keysRead = false;
     int readings = 0; // ended, each with all that was read
-    std::vector<FoundRow> firstPage; // of a long set whose keys have not been read
+    // Of a long set whose keys have not been read. With fewer rows than a page has, more come with the keys; there may be none yet.
+    std::optional<std::vector<FoundRow>> firstPage;
     WindowCache windows;
     std::vector<Row> memory; // of a query without key: the whole result; the key of a row is its index
     bool inMemory = false;
@@ -48,7 +49,7 @@ struct DataSet::Private
         ++readings;
         keys = SetKeys();
         keysRead = false;
-        firstPage.clear();
+        firstPage.reset();
         windows.clear();
     }
 
@@ -98,7 +99,7 @@ public:
     std::optional<KeyList> readAhead() const; // aside, where that pays
     // It is a long set, the first rows of which need not wait for the rest: this comes beside them.
     bool beginsInPages() const;
-    // These rows, where they are known soon. Empty where they are there as soon as they are asked for.
+    // As many of these rows as are known soon, where that may be too few. Nothing where all are there as soon as they are asked for.
     std::optional<std::vector<FoundRow>> pageAhead() const;
     DataSet::RestOver restToCome() const; // see there
     void take(KeyList keys) const; // all of them
@@ -119,9 +120,11 @@ private:
     void settleKeys() const;
     void takeLength(const SetLength &length) const;
     bool isLong() const;
+    void beginWithPage() const; // where the first rows may be too few
     bool beginsWithPage(const RowSource &wanted) const;
     bool mended(const EngineError &error) const;
     void findInKeys() const;
+    void tellOfAnother() const;
     void readPart(int index) const; // so that the key of the index is in hand
 
     static constexpr int shortSet = 4 * SetKeys::partSize; // no longer one is read as a whole

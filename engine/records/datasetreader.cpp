@@ -102,10 +102,13 @@ bool DataSetReader::beginsInPages() const
 std::optional<std::vector<FoundRow>> DataSetReader::pageAhead() const
 {
     const RowSource wanted = sourceOn(m_set.m_database.connection());
-    if (!wanted.mayFallShort())
-        return std::vector<FoundRow>();
-    std::vector<FoundRow> rows = wanted.foundSoon(pageSize);
-    return rows.size() == pageSize ? std::optional(std::move(rows)) : std::nullopt;
+    return wanted.mayFallShort() ? std::optional(wanted.foundSoon(pageSize)) : std::nullopt;
+}
+
+void DataSetReader::beginWithPage() const
+{
+    if (!d.firstPage && source().mayFallShort() && beginsInPages())
+        d.firstPage = pageAhead();
 }
 
 // What is read aside knows nothing of the set, which may be gone by then.
@@ -170,7 +173,7 @@ void DataSetReader::take(KeyList keys) const
 // Of a set of few rows nothing is left to ask for by one statement.
 bool DataSetReader::readShort() const
 {
-    if (!source().isFar() || !d.firstPage.empty())
+    if (!source().isFar() || d.firstPage)
         return false;
     std::vector<FoundRow> found = read(&RowSource::firstFound, pageSize + 1);
     if (found.size() > pageSize) {
@@ -198,14 +201,16 @@ bool DataSetReader::readShort() const
 std::vector<FoundRow> DataSetReader::firstRows(int count) const
 {
     const bool isInHand = d.keysRead || d.inMemory;
-    const bool isPage = !isInHand && (source().isFar() || !d.firstPage.empty()) && count <= pageSize;
+    if (!isInHand)
+        beginWithPage();
+    const bool isPage = !isInHand && (source().isFar() || d.firstPage) && count <= pageSize;
     if (!isInHand && !isPage && source().hasFirstRowsSoon())
         return read(&RowSource::firstFound, count);
     if (!isPage)
         readKeys(); // all rows have to be sorted for the first ones
     else
         readShort();
-    std::vector<FoundRow> rows = d.firstPage;
+    std::vector<FoundRow> rows = d.firstPage.value_or(std::vector<FoundRow>());
     for (int i = 0; d.keysRead && i < std::min(count, d.keys.count()); ++i)
         rows.push_back({keyAt(i), rowAt(i)});
     rows.resize(std::min(rows.size(), static_cast<size_t>(count)));
@@ -233,15 +238,18 @@ void DataSetReader::readKeys() const
 
 void DataSetReader::settleKeys() const
 {
+    const bool hadNone = d.cursor.isEmpty() || (d.firstPage && d.firstPage->empty());
     if (!std::exchange(d.keysRead, true)) {
         d.windows.clear();
         if (!d.inMemory && source().guessesFirst())
             d.cursor.listChanged();
     }
-    d.firstPage.clear();
+    d.firstPage.reset();
     d.mostRows = std::max(d.mostRows, d.keys.count());
-    if (d.cursor.isEmpty() && d.keys.count() > 0)
-        d.cursor.toFirst();
+    if (!hadNone || d.keys.count() == 0)
+        return;
+    d.cursor.toFirst();
+    tellOfAnother();
 }
 
 // Each reading goes over the keys before it, so whoever walks through the set gets many parts at once.
@@ -295,8 +303,12 @@ void DataSetReader::resolve() const
         return;
     if (d.keysRead || d.inMemory)
         return findInKeys();
-    if (d.cursor.isUnread() && !d.firstPage.empty()) {
-        d.cursor.to(d.firstPage.front().key, d.firstPage.front().row, 0);
+    if (d.cursor.isUnread())
+        beginWithPage();
+    if (d.cursor.isUnread() && d.firstPage) {
+        if (d.firstPage->empty())
+            return d.cursor.toNothing();
+        d.cursor.to(d.firstPage->front().key, d.firstPage->front().row, 0);
     } else if (d.cursor.isUnread()) {
         if (readShort())
             return findInKeys();
@@ -323,9 +335,14 @@ bool DataSetReader::findCurrent() const
 
 void DataSetReader::findInKeys() const
 {
-    // Who shows the record must learn that another one is in its place, but not while it is reading.
     if (findCurrent())
-        QMetaObject::invokeMethod(&d.set, &DataSet::currentChanged, Qt::QueuedConnection);
+        tellOfAnother();
+}
+
+// Who shows the record must learn that another one is in its place, but not while it is reading.
+void DataSetReader::tellOfAnother() const
+{
+    QMetaObject::invokeMethod(&d.set, &DataSet::currentChanged, Qt::QueuedConnection);
 }
 
 int DataSetReader::index() const

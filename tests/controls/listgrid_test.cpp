@@ -165,6 +165,48 @@ TEST_F(ListGridTest, aLongListInAnotherOrderBeginsWithItsFirstRows)
     }
 }
 
+// Rows of a narrowed list that stand far down its order, and none.
+TEST_F(ListGridTest, aListBeginsWithNoRowsWhereTheyAreFarDown)
+{
+    constexpr int more = 12'000;
+    store.fill(u"Dish (DishID, DishNo, Name)"_s, u"i + 1000, 'more', 'E'"_s, more);
+    store.execute(u"INSERT INTO Dish (DishID, DishNo, Name) VALUES (20001, 'last', 'F'), (20002, 'last', 'F')"_s);
+    Engine::TableReader dishList(store.database(), u"Dish"_s);
+    dishList.onLongRead([](const Engine::DataSet::ReadOver &) { ADD_FAILURE() << "nothing to wait for"; }, more);
+    dishList.open();
+    ListGrid list;
+    list.setDataSet(dishList, {{u"Name"_s, u"Name"_s, 200}}, guard);
+    list.setHint(u"None"_s);
+    QStatusBar bar;
+    new ListStatus(list, bar);
+    qApp->setProperty("countsJourneys", true); // what watches models reads all their keys
+    showActive(list);
+    qApp->setProperty("countsJourneys", {});
+    int chosen = 0;
+    QObject::connect(&list, &ListGrid::chosen, &list, [&chosen] { ++chosen; });
+    dishList.setSorting({u"Name"_s});
+    for (const auto &[filter, found] : {std::pair(u"DishNo = 'last'"_s, 2), std::pair(u"DishNo = 'none'"_s, 0)}) {
+        SCOPED_TRACE(qPrintable(filter));
+        dishList.setFilter(filter);
+        dishList.setFiltered(true);
+        EXPECT_EQ(list.model()->rowCount(), 0);
+        EXPECT_TRUE(list.tableModel()->isPartial());
+        EXPECT_EQ(list.shownHint(), QString()) << "who knows";
+        chosen = 0;
+        QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_Return);
+        EXPECT_EQ(chosen, 0) << "there is nothing to be chosen yet";
+        EXPECT_TRUE(comesTrue([&list] { return !list.tableModel()->isPartial(); }));
+        EXPECT_EQ(list.model()->rowCount(), found);
+        EXPECT_EQ(list.shownHint(), found ? QString() : u"None"_s);
+        EXPECT_EQ(chosen, 1);
+        EXPECT_EQ(dishList.integer(u"DishID"), found ? 20'002 : 0);
+        EXPECT_EQ(list.currentIndex().row(), found ? 1 : -1);
+        EXPECT_EQ(child<QLabel>(bar, "lblRows")->text(),
+                  found ? u"2 of 2 rows (filtered)"_s : u"No rows (filtered)"_s);
+    }
+}
+
 TEST_F(ListGridTest, manyRowsAreSelectedWhileTheRecordIsOne)
 {
     showAll();
