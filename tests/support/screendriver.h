@@ -22,8 +22,8 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStatusBar>
-#include <QTabWidget>
 #include <QTableView>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
