@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/store/keylist.h"
+#include "engine/records/setkeys.h"
 #include "engine/values/field.h"
 #include "engine/values/fieldname.h"
 #include "engine/values/value.h"
@@ -205,7 +205,7 @@ protected:
     void invalidate(Place place);
     struct Ahead // nothing where it is read when needed
     {
-        std::optional<KeyList> keys = {};
+        std::optional<SetKeys> keys = {};
         // With which a list begins whose keys come later.
         std::optional<std::vector<FoundRow>> page = {};
         bool beginsAnew = false; // it is long

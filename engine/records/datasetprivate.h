@@ -96,13 +96,13 @@ public:
         return read([&asked](const RowSource &rows) { return asked(rows.parts()); });
     }
     void readKeys() const; // all of them, or how many there are
-    std::optional<KeyList> readAhead() const; // aside, where that pays
+    std::optional<SetKeys> readAhead() const; // aside, where that pays
     // It is a long set, the first rows of which need not wait for the rest: this comes beside them.
     bool beginsInPages() const;
     // As many of these rows as are known soon, where that may be too few. Nothing where all are there as soon as they are asked for.
     std::optional<std::vector<FoundRow>> pageAhead() const;
     DataSet::RestOver restToCome() const; // see there
-    void take(KeyList keys) const; // all of them
+    void take(SetKeys keys) const;
     Key keyAt(int index) const; // of an index of the set
     int indexOf(const Key &key) const; // -1 when the set was read without it
     bool
@@ -118,7 +118,6 @@ public:
 private:
     SetScope scope() const; // with filter and sorting
     void settleKeys() const;
-    void takeLength(const SetLength &length) const;
     bool isLong() const;
     void beginWithPage() const; // where the first rows may be too few
     bool beginsWithPage(const RowSource &wanted) const;

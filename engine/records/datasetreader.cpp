@@ -58,18 +58,21 @@ bool DataSetReader::mended(const EngineError &error) const
     return true;
 }
 
-std::optional<KeyList> DataSetReader::readAhead() const
+std::optional<SetKeys> DataSetReader::readAhead() const
 {
     if (!d.aside || d.isReadAside || d.inMemory || d.mostRows < d.longFrom
         || m_set.m_database.connection().inTransaction())
         return std::nullopt;
     const SetScope wanted = scope();
-    if (wanted.inParts)
+    if (wanted.inParts && !wanted.groups)
         return std::nullopt;
     source(); // what is shown meanwhile is read as before
     const QScopedValueRollback reading(d.isReadAside, true);
-    KeyList keys;
-    d.aside([&](Connection &connection) { keys = RowSource(connection, wanted, m_set.m_fields).keys(); });
+    SetKeys keys;
+    d.aside([&](Connection &connection) {
+        const auto length = SetParts(connection, wanted).length(shortSet);
+        keys = length ? SetKeys(*length) : SetKeys(RowSource(connection, wanted, m_set.m_fields).keys());
+    });
     return keys;
 }
 
@@ -134,7 +137,7 @@ DataSet::RestOver DataSetReader::restToCome() const
             const SetLength length = SetParts(connection, wanted).lengthUpTo(*last);
             return unlessReadSince([length, last](const DataSetReader &set) {
                 // A standby that is behind has counted too few.
-                length.lastKey < *last ? set.readKeys() : set.takeLength(length);
+                length.lastKey < *last ? set.readKeys() : set.take(SetKeys(length));
             });
         };
     }
@@ -143,7 +146,7 @@ DataSet::RestOver DataSetReader::restToCome() const
             const std::optional<SetLength> length = SetParts(connection, wanted).length(0);
             return unlessReadSince([length](const DataSetReader &set) {
                 if (length)
-                    set.takeLength(*length);
+                    set.take(SetKeys(*length));
             });
         };
     if (wanted.firstSource.isEmpty() || !beginsWithPage(source()) || !isLong())
@@ -152,20 +155,14 @@ DataSet::RestOver DataSetReader::restToCome() const
         const KeyList keys = RowSource(connection, wanted, noFields).keys();
         return unlessReadSince([keys](const DataSetReader &set) {
             const bool isStandby = set.source().isOnStandby();
-            isStandby && !set.read(&RowSource::hasNewestOf, keys) ? set.readKeys() : set.take(keys);
+            isStandby && !set.read(&RowSource::hasNewestOf, keys) ? set.readKeys() : set.take(SetKeys(keys));
         });
     };
 }
 
-void DataSetReader::takeLength(const SetLength &length) const
+void DataSetReader::take(SetKeys keys) const
 {
-    d.keys.takeLength(length);
-    settleKeys();
-}
-
-void DataSetReader::take(KeyList keys) const
-{
-    d.keys.takeAll(std::move(keys));
+    d.keys = std::move(keys);
     d.windows.clear();
     settleKeys();
 }
@@ -189,7 +186,7 @@ bool DataSetReader::readShort() const
             keys.append(number);
         rows.push_back(std::move(each.row));
     }
-    d.keys.takeAll(std::move(keys));
+    d.keys = SetKeys(std::move(keys));
     d.keysRead = true;
     d.mostRows = std::max(d.mostRows, d.keys.count());
     d.windows.clear();
@@ -225,13 +222,13 @@ void DataSetReader::readKeys() const
         KeyList numbers;
         for (size_t i = 0; i < d.memory.size(); ++i)
             numbers.append(static_cast<qint64>(i));
-        d.keys.takeAll(std::move(numbers));
+        d.keys = SetKeys(std::move(numbers));
     } else if (readShort()) {
         // with its rows
     } else if (const auto length = readParts([](const SetParts &parts) { return parts.length(shortSet); })) {
-        return takeLength(*length);
+        return take(SetKeys(*length));
     } else {
-        d.keys.takeAll(read(&RowSource::keys));
+        d.keys = SetKeys(read(&RowSource::keys));
     }
     settleKeys();
 }

@@ -4,17 +4,15 @@
 
 namespace Engine {
 
-void SetKeys::takeAll(KeyList keys)
+SetKeys::SetKeys(KeyList all)
+    : m_all(std::move(all))
 {
-    *this = SetKeys();
-    m_all = std::move(keys);
 }
 
-void SetKeys::takeLength(SetLength length)
+SetKeys::SetKeys(SetLength length)
+    : m_isWhole(false)
+    , m_length(std::move(length))
 {
-    *this = SetKeys();
-    m_isWhole = false;
-    m_length = std::move(length);
 }
 
 void SetKeys::makeRoom(size_t parts)

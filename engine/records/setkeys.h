@@ -15,9 +15,9 @@ public:
     static constexpr int partSize = 4096; // whole windows of rows
     static int partStart(int index) { return index / partSize * partSize; }
 
-    void takeAll(KeyList keys);
-    // Only so many rows are known; what comes later is not among them.
-    void takeLength(SetLength length);
+    SetKeys() = default; // none
+    explicit SetKeys(KeyList all);
+    explicit SetKeys(SetLength length); // so many rows, whose keys come in parts
     void makeRoom(size_t parts); // for so many, which stay in hand together
     void takePart(int index, KeyList part); // that the index lies in; what of it is missing has no row
 

@@ -14,8 +14,7 @@ TEST(SetKeys, PartsThatAreReadTogetherStayInHandTogether)
 {
     constexpr int walks = 9;
     constexpr int partsOfOne = 16;
-    SetKeys keys;
-    keys.takeLength({.count = walks * partsOfOne * SetKeys::partSize});
+    SetKeys keys(SetLength{.count = walks * partsOfOne * SetKeys::partSize});
     for (int walk = 0; walk < walks; ++walk) {
         keys.makeRoom(partsOfOne);
         const int first = walk * partsOfOne * SetKeys::partSize;
