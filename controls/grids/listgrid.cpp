@@ -39,7 +39,10 @@ void ListGrid::setDataSet(Engine::DataSet &set, const QList<GridColumn> &columns
     connect(&set, &Engine::DataSet::listChanged, this, &ListGrid::dropSelection);
     connect(&set, &Engine::DataSet::currentChanged, this, &ListGrid::takeCursor);
     connect(tableModel(), &QAbstractItemModel::dataChanged, this, &ListGrid::takeCursor);
-    connect(tableModel(), &TableModel::completed, viewport(), qOverload<>(&QWidget::update)); // for the hint
+    // Painting tells whether there is nothing, and reads on where that is not known.
+    for (const auto changed : {&Engine::DataSet::opened, &Engine::DataSet::listChanged})
+        connect(&set, changed, viewport(), qOverload<>(&QWidget::update));
+    connect(tableModel(), &TableModel::completed, viewport(), qOverload<>(&QWidget::update));
     takeCursor();
 }
 
@@ -81,9 +84,10 @@ void ListGrid::currentChanged(const QModelIndex &current, const QModelIndex &pre
 
 // --- the selection ----------------------------------------------------------------------------------------------
 
-// Rows are selected by their numbers. In a new list these stand for other records.
+// Rows are selected by their numbers. In a new list these stand for other records, and the keys that are held were not for it.
 void ListGrid::dropSelection()
 {
+    m_held.clear();
     selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 

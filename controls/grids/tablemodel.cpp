@@ -169,13 +169,15 @@ int TableModel::dataRows() const { return m_data.isOpen() ? m_data.recordCount()
 
 // Rows come and go at the end and all that stay are repainted: where in the order a change was does not matter to
 // a view that shows row numbers, and the cursor keeps its place until the data set says where it belongs.
-void TableModel::takeList()
+void TableModel::takeList() { readList(m_reading == Reading::FirstPageFirst && m_data.isOpen()); }
+
+void TableModel::readList(bool mayBeginWithPage)
 {
     findFields();
     m_failed = false;
     const bool wasPartial = std::exchange(m_partial, false);
     m_firstPage.clear();
-    bool isFirstPage = m_reading == Reading::FirstPageFirst && m_data.isOpen();
+    bool isFirstPage = mayBeginWithPage;
     int rows = 0;
     attempt([&] {
         isFirstPage = isFirstPage && (m_rows == 0 || m_data.beginsAnew());
@@ -198,7 +200,7 @@ void TableModel::readFirstPage()
 void TableModel::readRest()
 {
     if (m_partial)
-        takeList();
+        readList(false);
 }
 
 int TableModel::currentRow() const

@@ -59,6 +59,7 @@ protected:
     void attempt(const std::function<void()> &reading) const; // with a report to come when it failed
 
 private:
+    void readList(bool mayBeginWithPage);
     QString cellText(const QModelIndex &index, int role) const;
     CellNote cellNote(const QModelIndex &index) const;
     QString shownValue(int field, const Engine::Value &value) const;

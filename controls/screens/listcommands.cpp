@@ -97,6 +97,7 @@ void ListCommands::finish(QAction *copy)
     connect(&rows->dataSet(), &Engine::DataSet::listChanged, this, &ListCommands::showAvailable);
     connect(&rows->dataSet(), &Engine::DataSet::rowChanged, this, &ListCommands::showAvailable);
     connect(rows, &QAbstractItemModel::rowsInserted, this, &ListCommands::showAvailable);
+    connect(rows, &TableModel::completed, this, &ListCommands::showAvailable);
     showAvailable();
 }
 

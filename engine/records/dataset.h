@@ -94,10 +94,10 @@ public:
     QDate date(NameOf<FieldType::Date> name) const { return value(name).toDate(); }
 
     // --- moving -------------------------------------------------------------------------------------------------
-    bool isEmpty() const; // reads no more than the first row
+    bool isEmpty() const; // as far as is known, see hasFirstRowsOnly(); reads no more than the first row
     int recordCount() const; // reads the keys
     int recordIndex() const; // of the current record; -1 when the set is empty. May have to read the keys
-    bool atEnd() const; // next() went past the last record, or the set is empty
+    bool atEnd() const; // next() went past the last record, or the set is empty, as above
     void first();
     void next();
     void moveTo(int index); // clamped to the set

@@ -235,7 +235,7 @@ void DataSetReader::readKeys() const
 
 void DataSetReader::settleKeys() const
 {
-    const bool hadNone = d.cursor.isEmpty() || (d.firstPage && d.firstPage->empty());
+    const bool hadNone = d.cursor.isEmpty() || (d.cursor.isUnread() && d.firstPage && d.firstPage->empty());
     if (!std::exchange(d.keysRead, true)) {
         d.windows.clear();
         if (!d.inMemory && source().guessesFirst())
@@ -376,7 +376,8 @@ const Row &DataSetReader::currentRow() const
         return d.nullRow;
     if (cursor.row())
         return *cursor.row();
-    if (cursor.index() >= 0 && d.keysRead)
+    // What others have deleted since the length was read may have moved it.
+    if (cursor.index() >= 0 && d.keysRead && (d.inMemory || keyAt(cursor.index()) == cursor.key()))
         return rowAt(cursor.index());
     d.cursor.takeRow(read(&RowSource::row, cursor.key()).value_or(d.nullRow));
     return *cursor.row();

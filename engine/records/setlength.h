@@ -6,7 +6,8 @@
 namespace Engine {
 
 // How long a set is that is read in parts: its rows up to the key that was the highest one when they were counted. Where its order
-// is that of another table, the rows to which the same is looked up stand together there.
+// is that of another table, the rows to which the same is looked up stand together there. What others delete or move to another
+// place meanwhile is noticed when the set is read anew.
 struct SetLength
 {
     struct Group

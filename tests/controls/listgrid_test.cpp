@@ -170,7 +170,7 @@ TEST_F(ListGridTest, aListBeginsWithNoRowsWhereTheyAreFarDown)
 {
     constexpr int more = 12'000;
     store.fill(u"Dish (DishID, DishNo, Name)"_s, u"i + 1000, 'more', 'E'"_s, more);
-    store.execute(u"INSERT INTO Dish (DishID, DishNo, Name) VALUES (20001, 'last', 'F'), (20002, 'last', 'F')"_s);
+    store.fill(u"Dish (DishID, DishNo, Name)"_s, u"i + 20000, 'last', 'F' || (1000 + i)"_s, 300);
     Engine::TableReader dishList(store.database(), u"Dish"_s);
     dishList.onLongRead([](const Engine::DataSet::ReadOver &) { ADD_FAILURE() << "nothing to wait for"; }, more);
     dishList.open();
@@ -185,7 +185,27 @@ TEST_F(ListGridTest, aListBeginsWithNoRowsWhereTheyAreFarDown)
     int chosen = 0;
     QObject::connect(&list, &ListGrid::chosen, &list, [&chosen] { ++chosen; });
     dishList.setSorting({u"Name"_s});
-    for (const auto &[filter, found] : {std::pair(u"DishNo = 'last'"_s, 2), std::pair(u"DishNo = 'none'"_s, 0)}) {
+    const auto press = [&list](Qt::Key key) { QTest::keyClick(&list, key); };
+    const struct
+    {
+        QString filter;
+        std::function<void()> meanwhile;
+        int row, key, chosen;
+        QString status, hint = {};
+    } lists[] = {
+        {u"DishNo = 'last'"_s, [&] { press(Qt::Key_Down), press(Qt::Key_Return); }, 1, 20'002, 1,
+         u"2 of 300 rows (filtered)"_s},
+        {u"DishNo = 'none'"_s, [&] { press(Qt::Key_Return); }, -1, 0, 1, u"No rows (filtered)"_s, u"None"_s},
+        {u"DishNo >= 'last' AND Name > 'F'"_s, [&] { press(Qt::Key_End); }, 299, 20'300, 0,
+         u"300 of 300 rows (filtered)"_s},
+        {u"DishNo = 'last' AND DishID > 20100"_s, [&] { EXPECT_TRUE(dishList.moveToKey({20'200})); }, 99, 20'200, 0,
+         u"100 of 200 rows (filtered)"_s},
+        {u"DishNo = 'last' AND DishID > 20200"_s, [&] { list.tableModel()->readRest(); }, 0, 20'201, 0,
+         u"1 of 100 rows (filtered)"_s},
+        {u"DishNo = 'last' AND DishID > 20290"_s,
+         [&] { press(Qt::Key_End), dishList.setFilter(u"DishNo = 'last' AND DishID > 20295"_s); }, 0, 20'296, 0,
+         u"1 of 5 rows (filtered)"_s}};
+    for (const auto &[filter, meanwhile, row, key, timesChosen, status, hint] : lists) {
         SCOPED_TRACE(qPrintable(filter));
         dishList.setFilter(filter);
         dishList.setFiltered(true);
@@ -193,17 +213,14 @@ TEST_F(ListGridTest, aListBeginsWithNoRowsWhereTheyAreFarDown)
         EXPECT_TRUE(list.tableModel()->isPartial());
         EXPECT_EQ(list.shownHint(), QString()) << "who knows";
         chosen = 0;
-        QTest::keyClick(&list, Qt::Key_Down);
-        QTest::keyClick(&list, Qt::Key_Return);
+        meanwhile();
         EXPECT_EQ(chosen, 0) << "there is nothing to be chosen yet";
         EXPECT_TRUE(comesTrue([&list] { return !list.tableModel()->isPartial(); }));
-        EXPECT_EQ(list.model()->rowCount(), found);
-        EXPECT_EQ(list.shownHint(), found ? QString() : u"None"_s);
-        EXPECT_EQ(chosen, 1);
-        EXPECT_EQ(dishList.integer(u"DishID"), found ? 20'002 : 0);
-        EXPECT_EQ(list.currentIndex().row(), found ? 1 : -1);
-        EXPECT_EQ(child<QLabel>(bar, "lblRows")->text(),
-                  found ? u"2 of 2 rows (filtered)"_s : u"No rows (filtered)"_s);
+        EXPECT_TRUE(comesTrue([&] { return list.currentIndex().row() == row; }));
+        EXPECT_EQ(dishList.integer(u"DishID"), key);
+        EXPECT_EQ(chosen, timesChosen);
+        EXPECT_EQ(child<QLabel>(bar, "lblRows")->text(), status);
+        EXPECT_EQ(list.shownHint(), hint);
     }
 }
 

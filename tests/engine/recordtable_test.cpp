@@ -502,6 +502,14 @@ TEST_P(RecordTest, ALongListInTheOrderOfAnotherTableIsReadInPartsToo)
         for (int index = 0; index < rows; index += 997)
             EXPECT_EQ(list.indexOf({ordered[index].toInt()}), index);
         EXPECT_EQ(list.rowAt(12'345)[0].toInt(), ordered[12'345].toInt());
+        if (!descending)
+            continue;
+        list.refresh();
+        EXPECT_EQ(list.keyAt(0).front(), ordered[0].toInt()); // and those that follow it
+        store.execute(u"DELETE FROM Vendor WHERE VendorID IN (%1)"_s.arg(ordered.sliced(0, 10).join(u", "_s)));
+        ASSERT_TRUE(list.moveToKey({ordered[SetKeys::partSize + 3].toInt()}));
+        EXPECT_EQ(list.integer(u"VendorID"), ordered[SetKeys::partSize + 3].toInt())
+            << "where another one was read";
     }
 }
 
