@@ -1,6 +1,7 @@
 #include "controls/grids/columnwidths.h"
 #include "controls/grids/listgrid.h"
 #include "controls/grids/liststatus.h"
+#include "controls/screens/listcommands.h"
 #include "controls/windows/screenmetrics.h"
 #include "tests/controls/controltest.h"
 #include "tests/support/screendriver.h"
@@ -221,6 +222,21 @@ TEST_F(ListGridTest, aListBeginsWithNoRowsWhereTheyAreFarDown)
         EXPECT_EQ(chosen, timesChosen);
         EXPECT_EQ(child<QLabel>(bar, "lblRows")->text(), status);
         EXPECT_EQ(list.shownHint(), hint);
+    }
+
+    ListCommands commands(
+        list, [](const std::function<void()> &run) { run(); }, &list);
+    QMenu menu;
+    commands.addTo(menu,
+                   {{.name = u"mnuCard"_s,
+                     .caption = u"Card"_s,
+                     .run = [] {},
+                     .available = [&dishList] { return !dishList.isEmpty(); }}});
+    commands.finish(nullptr);
+    for (const bool isThere : {false, true}) { // all in the first page
+        dishList.setFilter(isThere ? u"DishID = 1"_s : u"DishID = 0"_s);
+        EXPECT_TRUE(comesTrue([&list] { return !list.tableModel()->isPartial(); }));
+        EXPECT_EQ(menu.actions().constFirst()->isEnabled(), isThere);
     }
 }
 
