@@ -13,8 +13,8 @@ struct TableLayout;
 // What a set is narrowed by, put to its own condition.
 //
 // The first rows of a long table in the order of an index are there at once then too: some thousand rows are gone over in that
-// order, from where an index has the values that the filter gives to fields. Only where these let in too few, the first rows are
-// not known before all have been read.
+// order, from where an index has the values that the filter gives to fields. Where these let in too few, the others are not known
+// before all have been read.
 class SetFiltering
 {
 public:
