@@ -52,8 +52,10 @@ void CurveView::setPoints(std::vector<CurvePoint> points, CurveTime time, const 
 void CurveView::draw()
 {
     chart()->removeAllSeries();
-    for (QAbstractAxis *axis : chart()->axes())
+    for (QAbstractAxis *axis : chart()->axes()) {
         chart()->removeAxis(axis);
+        axis->deleteLater(); // the chart leaves it to us
+    }
     if (m_points.empty())
         return paintLook();
     auto *line = new QLineSeries;
