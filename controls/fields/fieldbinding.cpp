@@ -5,6 +5,7 @@
 #include "controls/fields/maskedentry.h"
 #include "controls/fields/memoedit.h"
 #include "controls/texts.h"
+#include "controls/windows/fieldground.h"
 #include "controls/windows/fieldmark.h"
 #include "controls/windows/lineentry.h"
 #include "engine/values/textsize.h"
@@ -90,10 +91,7 @@ void showReadOnly(QLineEdit &edit, bool readOnly)
     edit.setFrame(!readOnly);
     const int frame = edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
     edit.setTextMargins(readOnly ? QMargins(frame, frame, frame, frame) : QMargins());
-    QPalette colours;
-    if (readOnly)
-        colours.setBrush(QPalette::Base, edit.palette().window());
-    edit.setPalette(colours);
+    FieldGround::of(edit).set(readOnly ? QPalette::Window : QPalette::Base);
 }
 
 // Shows the display text, and the edit text while it has the cursor.
@@ -327,6 +325,7 @@ public:
     MemoBinding(QPlainTextEdit *edit, Engine::Table &table, int number, Reports reports)
         : FieldBinding(edit, table, number, std::move(reports))
         , m_edit(edit)
+        , m_ground(FieldGround::of(*edit))
     {
         QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [this] { entered(); });
         if (auto *memo = qobject_cast<MemoEdit *>(edit))
@@ -336,10 +335,7 @@ public:
     void setReadOnly(bool readOnly) override
     {
         m_edit->setReadOnly(readOnly);
-        QPalette colours;
-        if (readOnly)
-            colours.setBrush(QPalette::Base, m_edit->palette().window());
-        m_edit->setPalette(colours);
+        m_ground.set(readOnly ? QPalette::Window : QPalette::Base);
     }
 
 private:
@@ -364,6 +360,7 @@ private:
     }
 
     QPlainTextEdit *m_edit;
+    FieldGround &m_ground;
 };
 
 class LabelBinding final : public FieldBinding

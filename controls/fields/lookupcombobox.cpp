@@ -49,8 +49,30 @@ LookupComboBox::LookupComboBox(QWidget *parent)
     setMinimumContentsLength(12);
     setMaxVisibleItems(visibleRows);
     setStyleSheet(u"QComboBox { combobox-popup: 0; }"_s); // a list that scrolls, in every style
+    watchParent();
     connect(this, &QComboBox::activated, this,
             [this](int row) { m_guard->runWhenFree([=, this] { choose(idAt(row)); }); });
+}
+
+// Whose colours are not handed on to what has a style sheet.
+void LookupComboBox::watchParent()
+{
+    if (QWidget *around = parentWidget())
+        around->installEventFilter(this);
+}
+
+void LookupComboBox::changeEvent(QEvent *event)
+{
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::ParentChange)
+        watchParent();
+}
+
+bool LookupComboBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::PaletteChange)
+        setStyleSheet(styleSheet());
+    return QComboBox::eventFilter(watched, event);
 }
 
 void LookupComboBox::setList(Engine::DataSet &list, const QList<GridColumn> &columns, const Guard &guard)

@@ -48,6 +48,7 @@ QToolButton *addSearchButton(QLineEdit *edit, int width)
 
 LineGrid::LineGrid(QWidget *parent)
     : EntryGrid(parent)
+    , m_ground(FieldGround::of(*this))
 {
 }
 
@@ -80,10 +81,7 @@ void LineGrid::setReadOnly(bool readOnly)
     if (std::exchange(m_readOnly, readOnly) == readOnly)
         return;
     m_model->setReadOnly(readOnly);
-    QPalette colours;
-    if (readOnly)
-        colours.setBrush(QPalette::Base, palette().window());
-    setPalette(colours);
+    m_ground.set(readOnly ? QPalette::Window : QPalette::Base);
 }
 
 QString LineGrid::shownHint() const { return m_readOnly ? QString() : EntryGrid::shownHint(); }

@@ -2,6 +2,7 @@
 
 #include "controls/grids/entrygrid.h"
 #include "controls/grids/linemodel.h"
+#include "controls/windows/fieldground.h"
 
 namespace Tallymere {
 
@@ -94,6 +95,7 @@ private:
         return m_actions.search && m_actions.searchColumns.contains(field);
     }
 
+    FieldGround &m_ground;
     Engine::Table *m_lines = nullptr;
     LineModel *m_model = nullptr;
     LineActions m_actions;

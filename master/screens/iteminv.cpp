@@ -1,5 +1,6 @@
 #include "master/screens/iteminv.h"
 
+#include "controls/windows/fieldground.h"
 #include "master/masterkinds.h"
 #include "master/screens/itembarcodesdialog.h"
 #include "ui_iteminv.h"
@@ -76,9 +77,7 @@ void TfrmItemInv::chkReadOnlyClick()
 
 void TfrmItemInv::lockCost(bool locked)
 {
-    QPalette colours = palette();
-    colours.setColor(QPalette::Base, colours.color(locked ? QPalette::Button : QPalette::Base));
-    m_ui->editWgtAvgCost->setPalette(colours);
+    FieldGround::of(*m_ui->editWgtAvgCost).set(locked ? QPalette::Button : QPalette::Base);
     m_ui->editWgtAvgCost->setReadOnly(locked);
 }
 

@@ -12,7 +12,7 @@
 #include "frame/helpwindow.h"
 #include "frame/mainoptionsinv.h"
 #include "host/aboutbox.h"
-#include "host/hoststyle.h"
+#include "host/hostlook.h"
 #include "host/hostwindow.h"
 #include "import/screens/importscreen.h"
 #include "insight/screens/costtrailscreen.h"
@@ -404,10 +404,54 @@ struct FormsTest : testing::Test
             visit(*window);
     }
 
+    // What all windows show, when something has been done to each that is undone afterwards.
+    QStringList windowFacts(
+        const std::function<void()> &change = [] {}, const std::function<void()> &undo = [] {})
+    {
+        QStringList windows;
+        const auto write = [&](QWidget &window) {
+            window.show();
+            change();
+            onEachPage(window, [&] {
+                awaitIdle();
+                windows << factsOf(window).join(u'\n');
+            });
+            undo();
+        };
+        visitAll(write);
+        visitHost(write);
+        auto &wizard = *screens.find(u"frmInvReports"_s)->create(over.context, &mainWindow);
+        auto *reports = child<QListWidget>(wizard, "lboReports");
+        for (int report = 0; report < reports->count(); ++report) {
+            reports->setCurrentRow(report);
+            click(wizard, "btnNext");
+            write(wizard);
+            click(wizard, "btnBack");
+        }
+        return windows;
+    }
+
     TestContext over;
     const ScreenRegistry screens = productScreens();
     QWidget mainWindow;
     int shown = 0;
+};
+
+// The application in the look of the host; afterwards as it was.
+class LookInTest
+{
+public:
+    explicit LookInTest(HostLook look) { takeLook(look); }
+    ~LookInTest()
+    {
+        QApplication::setStyle(m_style);
+        QApplication::setPalette(m_colours);
+    }
+    Q_DISABLE_COPY_MOVE(LookInTest)
+
+private:
+    const QString m_style = QApplication::style()->name();
+    const QPalette m_colours = QApplication::palette();
 };
 
 } // namespace
@@ -498,27 +542,39 @@ TEST_F(FormsTest, EveryCommandHasALetterOfItsOwnAndEveryListAName)
 
 TEST_F(FormsTest, EveryWindowIsAsItWasApproved)
 {
-    QStringList windows;
-    const auto write = [&windows](QWidget &window) {
-        onEachPage(window, [&] {
-            awaitIdle();
-            windows << factsOf(window).join(u'\n');
-        });
-    };
-    const QString before = QApplication::style()->name();
-    QApplication::setStyle(new HostStyle);
-    visitAll(write);
-    visitHost(write);
-    auto &wizard = *screens.find(u"frmInvReports"_s)->create(over.context, &mainWindow);
-    auto *reports = child<QListWidget>(wizard, "lboReports");
-    for (int report = 0; report < reports->count(); ++report) {
-        reports->setCurrentRow(report);
-        click(wizard, "btnNext");
-        windows << factsOf(wizard).join(u'\n');
-        click(wizard, "btnBack");
-    }
-    QApplication::setStyle(before);
-    expectApproved(std::move(windows), u"windows"_s);
+    const LookInTest look(HostLook::Light);
+    expectApproved(windowFacts(), u"windows"_s);
+}
+
+TEST_F(FormsTest, WindowsFollowTheDesktopFromDarkToLight)
+{
+    const LookInTest look(HostLook::Light);
+    const QPalette light = QApplication::palette();
+    takeLook(HostLook::Dark);
+    const QPalette dark = QApplication::palette();
+    expectApproved(windowFacts([&] { QApplication::setPalette(light); }, [&] { QApplication::setPalette(dark); }),
+                   u"windows"_s);
+}
+
+TEST_F(FormsTest, WindowsComeAsTheyWereLeft)
+{
+    over.context.settings = &over.company.settings;
+    QHash<QString, QSize> left;
+    visitAll([&left](QWidget &window) {
+        window.show();
+        const QSize came = window.size(), room = window.screen()->availableSize();
+        window.resize(room.width() - came.width() > 50 ? came + QSize(37, 0) : came - QSize(37, 0));
+        if (window.size() != came)
+            left[window.objectName()] = window.size();
+        window.hide();
+    });
+    QStringList come;
+    visitAll([&](QWidget &window) {
+        window.show();
+        if (window.size() == left.value(window.objectName()) && !come.contains(window.objectName()))
+            come << window.objectName();
+    });
+    expectApproved(come, u"remembered"_s);
 }
 
 // Each command of each window leads where it led, each key does what it did.

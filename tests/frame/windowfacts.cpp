@@ -116,18 +116,19 @@ QString signOf(const QObject &object)
     return sign > 0 ? u" sign %1"_s.arg(sign) : QString();
 }
 
+QString said(const QMargins &margins)
+{
+    return u"%1 %2 %3 %4"_s.arg(margins.left()).arg(margins.top()).arg(margins.right()).arg(margins.bottom());
+}
+
 QString layoutOf(const QWidget &widget)
 {
     const QLayout *layout = widget.layout();
     if (!layout)
-        return {};
-    const QMargins margins = layout->contentsMargins();
-    return u" {%1 %2: %3 %4 %5 %6, %7}"_s.arg(QString::fromLatin1(layout->metaObject()->className()))
+        return widget.contentsMargins().isNull() ? QString() : u" margins "_s + said(widget.contentsMargins());
+    return u" {%1 %2: %3, %4}"_s.arg(QString::fromLatin1(layout->metaObject()->className()))
         .arg(layout->count())
-        .arg(margins.left())
-        .arg(margins.top())
-        .arg(margins.right())
-        .arg(margins.bottom())
+        .arg(said(layout->contentsMargins()))
         .arg(layout->spacing());
 }
 
