@@ -272,6 +272,7 @@ struct FormsTest : testing::Test
         addDocuments(2, 18, u"4, 3"_s, u"1, 2"_s);
         database.connection().execute(uR"(
             UPDATE Vendor SET Phone = '555-1234', EMail = 'a&b?@first.example', WebPage = 'first.example';
+            INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (1, 1, 700);
             INSERT INTO VContact (VendorID, ContactID, LastName, BusinessPhone, EMail)
                 VALUES (1, 7, '7', '555-7', '7@first.example'), (2, 8, '8', NULL, NULL);
         )"_s);
@@ -369,6 +370,11 @@ struct FormsTest : testing::Test
             EXPECT_TRUE(posted.openRecord(1));
             visit(posted);
         }
+        QWidget &counting = *screens.find(u"FormEnterInventory"_s)->create(over.context, &mainWindow);
+        auto *places = child<QComboBox>(counting, "RzComboBoxLocation");
+        places->setCurrentIndex(places->findData(1));
+        Q_EMIT places->activated(places->currentIndex());
+        visit(counting);
         const QTemporaryDir folder;
         QFile file(folder.filePath(u"[Items].csv"_s));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write("[Number],[Colour]\n1,red\n") > 0
