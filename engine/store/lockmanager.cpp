@@ -44,13 +44,6 @@ LockManager::Held *LockManager::find(const QString &name)
     return found == m_held.end() ? nullptr : &found->second;
 }
 
-void LockManager::settle(const QString &name)
-{
-    const Held *held = find(name);
-    if (held && held->isFree())
-        m_held.erase(name);
-}
-
 void LockManager::goDown(const QString &name, OpenMode from, OpenMode to) noexcept
 {
     try {
@@ -94,7 +87,6 @@ void LockManager::closeShared(const QString &table) noexcept
         return;
     if (--held->shared == 0 && held->exclusive == 0)
         goDown(name, OpenMode::Shared, OpenMode::None);
-    settle(name);
 }
 
 bool LockManager::tryOpenExclusive(const QString &table, bool isToBeDescribed)
@@ -117,7 +109,6 @@ void LockManager::closeExclusive(const QString &table) noexcept
         return;
     if (--held->exclusive == 0)
         goDown(name, OpenMode::Exclusive, held->shared > 0 ? OpenMode::Shared : OpenMode::None);
-    settle(name);
 }
 
 bool LockManager::tryLockRecord(const QString &table, const QList<qint64> &key, const Along &along)
@@ -160,7 +151,6 @@ void LockManager::giveBackRecord(const QString &name, qint64 place) noexcept
     held.records.erase(place);
     held.losable.erase(place);
     releaseRecord(name, {place, since, tableHeld});
-    settle(name);
     if (!tableHeld)
         changed();
 }
@@ -189,7 +179,6 @@ void LockManager::loseRecords()
             held.dueRecords.erase(place);
         }
     }
-    std::erase_if(m_held, [](const auto &entry) { return entry.second.isFree(); });
 }
 
 bool LockManager::tryLockTable(const QString &table)
@@ -230,7 +219,6 @@ void LockManager::giveBackTable(const QString &name) noexcept
     held.table = 0;
     held.tableIsDue = false;
     releaseTable(name, held);
-    settle(name);
     changed();
 }
 

@@ -101,7 +101,6 @@ protected:
         std::set<qint64> dueRecords; // given back, and kept until the transaction ends
         bool tableIsDue = false; // likewise
 
-        bool isFree() const { return shared == 0 && exclusive == 0 && table == 0 && records.empty(); }
         bool keepsOthersFromWriting() const { return table > 0 || !records.empty(); }
         bool isReliedOn() const { return table > 0 || exclusive > 0 || records.size() > losable.size(); }
     };
@@ -131,12 +130,11 @@ protected:
 
 private:
     Held *find(const QString &name);
-    void settle(const QString &name); // forgets a table that nothing is held of
     void goDown(const QString &name, OpenMode from, OpenMode to) noexcept;
     void giveBackRecord(const QString &name, qint64 place) noexcept;
     void giveBackTable(const QString &name) noexcept;
 
-    std::map<QString, Held> m_held;
+    std::map<QString, Held> m_held; // a table stays in it when nothing of it is held any more
     bool m_inTransaction = false;
 };
 
