@@ -9,7 +9,9 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMimeData>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -59,6 +61,21 @@ void click(QWidget &field, void (*press)(QWidget *, Qt::MouseButton, Qt::Keyboar
     QWidget &target = area ? *area->viewport() : field;
     press(&target, Qt::LeftButton, {}, first.isValid() ? list->visualRect(first).center() : target.rect().center(),
           -1);
+}
+
+void clickTitle(const QHeaderView &titles, int column)
+{
+    const QPoint place(titles.sectionViewportPosition(column) + titles.sectionSize(column) / 2,
+                       titles.height() / 2);
+    QTest::mouseClick(titles.viewport(), Qt::LeftButton, {}, place);
+}
+
+void turnWheel(QWidget &area)
+{
+    const QPointF place = area.rect().center();
+    QWheelEvent turn(place, area.mapToGlobal(place), {}, {0, 120}, {}, Qt::ControlModifier, Qt::NoScrollPhase,
+                     false);
+    QApplication::sendEvent(&area, &turn);
 }
 
 void drop(QWidget &window)
@@ -178,8 +195,12 @@ void WindowWalk::typeEverywhere()
         for (const char *keys : {"7", "<Up>", "<Down>", "a<Return>", "<Delete>", "<Home>", "<Ctrl+I>", "<F3>",
                                  "<F5>", "<Ctrl+Return>", "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
             go(QString::fromLatin1(keys), [&] { type(keys); });
+        if (auto *area = qobject_cast<QAbstractScrollArea *>(field))
+            go(u"Ctrl+wheel"_s, [area] { turnWheel(*area->viewport()); });
         auto *grid = qobject_cast<Tallymere::DataGrid *>(field);
         for (int column = 0; grid && column < grid->model()->columnCount(); ++column) {
+            if (!grid->isColumnHidden(column))
+                go(u"title %1"_s.arg(column), [&] { clickTitle(*grid->horizontalHeader(), column); });
             const QModelIndex cell = grid->model()->index(0, column);
             const QVariant side = grid->model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
             const bool isNumber = side.toInt() & Qt::AlignRight;
