@@ -195,7 +195,7 @@ void onEachPage(QWidget &window, const std::function<void()> &step)
     for (int page = 0; page < (book ? book->count() : 1); ++page) {
         if (book)
             book->setCurrentIndex(page);
-        QCoreApplication::processEvents();
+        awaitIdle();
         step();
     }
 }
@@ -419,7 +419,6 @@ struct FormsTest : testing::Test
             window.show();
             change();
             onEachPage(window, [&] {
-                awaitIdle();
                 windows << factsOf(window).join(u'\n');
             });
             undo();
