@@ -418,9 +418,7 @@ struct FormsTest : testing::Test
         const auto write = [&](QWidget &window) {
             window.show();
             change();
-            onEachPage(window, [&] {
-                windows << factsOf(window).join(u'\n');
-            });
+            onEachPage(window, [&] { windows << factsOf(window).join(u'\n'); });
             undo();
         };
         visitAll(write);
