@@ -1,5 +1,4 @@
 
-#include "engine/records/setkeys.h"
 #include "tests/engine/recordfixture.h"
 
 #include <numeric>
@@ -449,107 +448,69 @@ TEST_P(RecordTest, RefreshStaysOnTheRowOrOnWhatTookItsPlace)
     EXPECT_TRUE(vendors.isEmpty() && vendors.atEnd() && vendors.value(u"VendorID").isNull());
 }
 
-TEST_P(RecordTest, ReadsWindowsOfALongList)
+// Names that repeat in either case, and none; days that many share; some thousand rows to which the same is looked up, few to
+// which others are, and rows to which nothing is.
+TEST_P(RecordTest, ALongListIsReadInPartsAndIsTheSameAsAWhole)
 {
-    store.fill(u"Line (DocumentID, Seq, Quantity)"_s, u"i / 100, i % 100, i"_s, 10'000);
-    lines.open();
-    EXPECT_EQ(lines.firstRows(3).size(), 3U);
-    EXPECT_EQ(lines.recordCount(), 10000);
-    for (const int index : {0, 9999, 255, 256, 5000, 0, 4321})
-        EXPECT_EQ(lines.rowAt(index)[2].toInt(), index + 1);
-    for (int index = 9999; index >= 0; index -= 250) // more windows than are kept
-        EXPECT_EQ(lines.rowAt(index)[2].toInt(), index + 1);
-    lines.moveTo(9999);
-    EXPECT_EQ(lines.number(u"Quantity"), 10000);
-}
-
-TEST_P(RecordTest, AskingForTheFirstRowOrAKeyDoesNotReadTheList)
-{
-    opened();
-    EXPECT_EQ(vendors.integer(u"VendorID"), 1);
-    ASSERT_TRUE(vendors.findKey({4}));
-    // Had the list been read, a row added now would not be in it. From a server a short one comes with its first row.
-    store.execute(u"INSERT INTO Vendor (VendorID) VALUES (6)"_s);
-    EXPECT_EQ(vendors.recordCount(), GetParam() == Store::Local ? 6 : 5);
-    EXPECT_EQ(vendors.recordIndex(), 3);
-}
-
-// Some thousand rows to which the same is looked up, few to which others are, and rows to which nothing is.
-TEST_P(RecordTest, ALongListInTheOrderOfAnotherTableIsReadInPartsToo)
-{
-    constexpr int rows = 20'000;
+    const QString row = u"i, CASE WHEN i % 7 = 0 THEN NULL WHEN i % 2 = 0 THEN 'Name ' || i % 500 "
+                        "ELSE 'nAME ' || i % 500 END, CASE WHEN i % 11 = 0 THEN NULL ELSE %1 END, "
+                        "CASE WHEN i % 13 = 0 THEN NULL WHEN i < 9000 THEN 5 ELSE i % 300 END"_s;
+    const QString day = store.store() == Store::Local ? u"date('2020-01-01', '+' || i % 90 || ' days')"_s
+                                                      : u"date '2020-01-01' + i % 90"_s;
     store.fill(u"Document (DocumentID, VendorID)"_s, u"i, 1000 - i"_s, 280);
-    store.fill(u"Vendor (VendorID, Days)"_s,
-               u"i, CASE WHEN i % 13 = 0 THEN NULL WHEN i < 9000 THEN 5 ELSE i % 300 END"_s, rows);
-    TableReader list(database(), u"Vendor"_s);
-    list.addLookup({u"Number"_s, FieldType::Integer}, {u"Days"_s, u"Document"_s, u"DocumentID"_s, u"VendorID"_s});
-    list.open();
-    for (const bool descending : {false, true}) {
-        SCOPED_TRACE(descending);
-        const QStringList ordered =
-            store.rows(u"SELECT v.VendorID FROM Vendor v LEFT JOIN Document d ON d.DocumentID = v.Days "
-                       "ORDER BY d.VendorID %1, v.Days %1, v.VendorID %1"_s,
-                       descending ? u"DESC NULLS LAST"_s : u"ASC NULLS FIRST"_s);
-        list.setSorting({u"Number"_s, descending});
+    store.fill(u"Vendor (VendorID, VendorName, Since, Days)"_s, row.arg(day), 20'000);
+    const std::pair<QString, Sorting> orders[] = {{u""_s, {}},
+                                                  {u"VENDORNAME1"_s, {}},
+                                                  {u"SINCE"_s, {}},
+                                                  {u""_s, {u"Number"_s}},
+                                                  {u""_s, {u"Number"_s, true}}};
+    for (const auto &[index, sorting] : orders) {
+        SCOPED_TRACE(testing::Message()
+                     << index.toStdString() << sorting.field.toStdString() << sorting.descending);
+        Table whole(database(), u"Vendor"_s);
+        whole.setIndex(index);
+        whole.open();
+        const QStringList ordered = sorting.field.isEmpty()
+            ? names(whole, u"VendorID"_s).split(u' ')
+            : store.rows(u"SELECT v.VendorID FROM Vendor v LEFT JOIN Document d ON d.DocumentID = v.Days "
+                         "ORDER BY d.VendorID %1, v.Days %1, v.VendorID %1"_s,
+                         sorting.descending ? u"DESC NULLS LAST"_s : u"ASC NULLS FIRST"_s);
+        const int rows = static_cast<int>(ordered.size());
+        const auto key = [&ordered](int at) { return ordered[at].toLongLong(); };
+        TableReader list(database(), u"Vendor"_s);
+        list.addLookup({u"Number"_s, FieldType::Integer},
+                       {u"Days"_s, u"Document"_s, u"DocumentID"_s, u"VendorID"_s});
+        list.setIndex(index);
+        list.open();
+        list.setSorting(sorting);
         ASSERT_EQ(list.recordCount(), rows);
         // What comes later is not in the list, wherever it would stand.
-        store.execute(u"INSERT INTO Vendor (VendorID, Days) VALUES (20001, 5)"_s);
-        for (int index = 0; index < rows; ++index)
-            ASSERT_EQ(list.keyAt(index).front(), ordered[index].toInt()) << index;
+        store.execute(u"INSERT INTO Vendor (VendorID, VendorName, Since, Days) "
+                      "VALUES (20001, 'Name 1', '2020-01-02', 5)"_s);
+        for (int at = 0; at < rows; ++at)
+            ASSERT_EQ(list.keyAt(at).front(), key(at)) << at;
+        for (int at = rows - 1; at >= 0; at -= 250) { // more windows than are kept
+            ASSERT_EQ(list.rowAt(at)[0].toInt(), key(at)) << at;
+            ASSERT_EQ(whole.rowAt(at)[0].toInt(), whole.keyAt(at).front()) << at;
+        }
         EXPECT_EQ(list.indexOf({20'001}), -1);
         store.execute(u"DELETE FROM Vendor WHERE VendorID = 20001"_s);
         list.refresh(); // no part is in hand
-        for (int index = 0; index < rows; index += 997)
-            EXPECT_EQ(list.indexOf({ordered[index].toInt()}), index);
-        EXPECT_EQ(list.rowAt(12'345)[0].toInt(), ordered[12'345].toInt());
-        if (!descending)
-            continue;
-        list.refresh();
-        EXPECT_EQ(list.keyAt(0).front(), ordered[0].toInt()); // and those that follow it
-        store.execute(u"DELETE FROM Vendor WHERE VendorID IN (%1)"_s.arg(ordered.sliced(0, 10).join(u", "_s)));
-        ASSERT_TRUE(list.moveToKey({ordered[SetKeys::partSize + 3].toInt()}));
-        EXPECT_EQ(list.integer(u"VendorID"), ordered[SetKeys::partSize + 3].toInt())
-            << "where another one was read";
-    }
-}
+        for (int at = 0; at < rows; at += 997)
+            EXPECT_EQ(list.indexOf({key(at)}), at);
 
-// Names that repeat in either case, and none; days that many share.
-TEST_P(RecordTest, ALongListIsReadInPartsAndIsTheSameAsAWhole)
-{
-    constexpr int rows = 20'000;
-    const QString row = u"i, CASE WHEN i % 7 = 0 THEN NULL WHEN i % 2 = 0 THEN 'Name ' || i % 500 "
-                        "ELSE 'nAME ' || i % 500 END, CASE WHEN i % 11 = 0 THEN NULL ELSE %1 END"_s;
-    const QString day = store.store() == Store::Local ? u"date('2020-01-01', '+' || i % 90 || ' days')"_s
-                                                      : u"date '2020-01-01' + i % 90"_s;
-    store.fill(u"Vendor (VendorID, VendorName, Since)"_s, row.arg(day), rows);
-    for (const auto &order : {u""_s, u"VENDORNAME1"_s, u"SINCE"_s}) {
-        SCOPED_TRACE(qPrintable(order));
-        Table whole(database(), u"Vendor"_s);
-        TableReader list(database(), u"Vendor"_s);
-        for (TableReader *set : {static_cast<TableReader *>(&whole), &list}) {
-            set->setIndex(order);
-            set->open();
-            ASSERT_EQ(set->recordCount(), rows);
-        }
-        // What comes later is not in the list, wherever it would stand.
-        store.execute(u"INSERT INTO Vendor (VendorID, VendorName, Since) VALUES (20001, 'Name 1', '2020-01-02')"_s);
-        for (int index = 0; index < rows; ++index)
-            ASSERT_EQ(list.keyAt(index), whole.keyAt(index)) << index;
-        EXPECT_EQ(list.rowAt(12'345), whole.rowAt(12'345));
-        EXPECT_EQ(list.indexOf({20'001}), -1);
-        list.refresh(); // no part is in hand
-        ASSERT_EQ(list.recordCount(), rows + 1);
-        whole.refresh();
-        for (const qint64 key : {1, 7, 11, 77, 4'321, 19'999, 20'001})
-            EXPECT_EQ(list.indexOf({key}), whole.indexOf({key})) << key;
-
-        ASSERT_TRUE(list.moveToKey({4'321}));
-        const int index = list.recordIndex();
-        store.execute(u"DELETE FROM Vendor WHERE VendorID = 20001 OR VendorID = 4321"_s);
+        constexpr int gone = 4'321;
+        ASSERT_TRUE(list.moveToKey({key(gone)}));
+        store.execute(u"DELETE FROM Vendor WHERE VendorID = %1"_s, key(gone));
         list.refresh();
         EXPECT_EQ(list.recordCount(), rows - 1);
-        EXPECT_EQ(list.recordIndex(), std::min(index, rows - 2)) << "what took its place";
-        store.execute(
-            u"INSERT INTO Vendor (VendorID, VendorName, Since) VALUES (4321, 'nAME 321', '2020-01-02')"_s);
+        EXPECT_EQ(list.recordIndex(), gone) << "what took its place";
+
+        list.refresh();
+        list.keyAt(0); // and those that follow it
+        store.execute(u"DELETE FROM Vendor WHERE VendorID IN (%1)"_s.arg(ordered.sliced(0, 10).join(u", "_s)));
+        constexpr int behind = SetKeys::partSize + 3;
+        ASSERT_TRUE(list.moveToKey({key(behind)}));
+        EXPECT_EQ(list.integer(u"VendorID"), key(behind)) << "where another one was read";
     }
 }
