@@ -1,5 +1,4 @@
 #include "base/formats.h"
-#include "base/ruleerror.h"
 #include "controls/fields/fieldbinder.h"
 #include "controls/fields/memoedit.h"
 #include "controls/windows/fieldmark.h"
@@ -256,18 +255,4 @@ TEST_F(FieldBinderTest, aNoteTakesNoMoreThanItsFieldHowEverItComes)
     memo->setPlainText(u"short"_s);
     notes.commit();
     EXPECT_EQ(table.text(u"Note"), u"short"_s);
-}
-
-TEST_F(FieldBinderTest, whatCanOnlyBeReadHasNoBoxButTheCursor)
-{
-    const QSize size = editName->sizeHint();
-    const auto isMarked = [this] { return editName->findChild<FieldMark *>() != nullptr; };
-    binder.setReadOnly(true);
-    EXPECT_TRUE(!editName->hasFrame() && isMarked());
-    EXPECT_EQ(editName->sizeHint(), size) << "nothing moves";
-    editServed->setFocus();
-    EXPECT_FALSE(isMarked());
-    binder.setReadOnly(false);
-    editName->setFocus();
-    EXPECT_TRUE(editName->hasFrame() && !isMarked());
 }

@@ -7,7 +7,6 @@
 
 #include <QMessageBox>
 #include <QScreen>
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

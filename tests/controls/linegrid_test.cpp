@@ -70,12 +70,6 @@ struct LineGridTest : ControlTest
         clickOn(*grid, row, column);
         QCoreApplication::processEvents();
     }
-    // At the left edge of a cell and beside its text.
-    QColor at(int row, int column, QPoint place = {}) const
-    {
-        const QPoint corner = grid->visualRect(grid->model()->index(row, column)).topLeft();
-        return grid->viewport()->grab().toImage().pixelColor(corner + place);
-    }
     // "1,2" in the grid, else the widget that has the focus.
     QString cursor() const { return grid->hasFocus() || grid->hasEntry() ? cursorOf(*grid) : focusName(); }
     QString cursorAfter(const char *keys) const
@@ -249,30 +243,4 @@ TEST_F(LineGridTest, numbersAreSteppedUpToTheLimitOfTheirRow)
     lines.checkBrowseMode();
     EXPECT_EQ(prompts.told(), u"error: 'Quantity' must not be greater than 10");
     EXPECT_EQ(store.found(u"SELECT Quantity FROM Line ORDER BY LineID"_s), u"4.25 12");
-}
-
-TEST_F(LineGridTest, showsWhereTheCursorIsAndWhetherItTypes)
-{
-    show();
-    const Look &look = grid->look();
-    const QColor field = grid->palette().color(QPalette::Base);
-    const QColor row = look.colour(Look::Role::ChosenRow);
-    const QPoint inside(4, 4);
-    click(1, 2);
-    EXPECT_EQ(at(0, 0), field);
-    EXPECT_EQ(at(1, 0), row);
-    EXPECT_EQ(at(1, 2), look.colour(Look::Role::ChosenCell));
-    type("7");
-    EXPECT_EQ(at(1, 2), look.colour(Look::Role::Accent));
-    EXPECT_EQ(at(1, 2, inside), field);
-    EXPECT_EQ(at(1, 0), row);
-    type("x<Return>"); // no number
-    EXPECT_EQ(at(1, 2), look.colour(Look::Role::Negative));
-    type("7");
-    EXPECT_EQ(at(1, 2), look.colour(Look::Role::Accent)) << "another text";
-    type("<Esc>");
-    button->setFocus();
-    EXPECT_EQ(at(1, 2), row) << "where the keys do not go";
-    grid->setReadOnly(true);
-    EXPECT_EQ(at(0, 0), window.palette().color(QPalette::Window));
 }

@@ -4,12 +4,9 @@
 #include "controls/screens/listcommands.h"
 #include "controls/windows/screenmetrics.h"
 #include "tests/controls/controltest.h"
-#include "tests/support/screendriver.h"
 
 #include <numeric>
-#include <QLabel>
 #include <QScrollBar>
-#include <QStatusBar>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

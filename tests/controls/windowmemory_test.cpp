@@ -1,4 +1,3 @@
-#include "base/settingsstore.h"
 #include "controls/screens/entryscreen.h"
 #include "controls/windows/windowplaces.h"
 #include "tests/controls/itemlist.h"
