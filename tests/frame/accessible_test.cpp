@@ -1,4 +1,3 @@
-#include "engine/store/database.h"
 #include "frame/frmtallymeresystem.h"
 #include "tests/frame/hoststub.h"
 #include "tests/frame/testcompany.h"

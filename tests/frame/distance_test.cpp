@@ -28,7 +28,7 @@ struct DistanceTest : testing::Test
     }
 
     // Of what has been done since this was last asked.
-    void expectFew(const char *what, int most) { EXPECT_LE(counter->take(what), most) << what; }
+    void expectFew(const char *what, int most) { EXPECT_LE(counter->take(), most) << what; }
 
     Kitchen kitchen{Store::Remote};
     MemorySettings settings;
@@ -59,7 +59,7 @@ TEST_F(DistanceTest, ADocumentAndAPostingWaitForFewAnswers)
 {
     int number = 6000;
     const auto enter = [&](const DocumentKind &kind, int lines) {
-        counter->take("before");
+        counter->take();
         const auto entry = kind.entry.make(data->databaseTallymere(), prompts);
         entry->open();
         entry->newDocument();
@@ -88,6 +88,6 @@ TEST_F(DistanceTest, ADocumentAndAPostingWaitForFewAnswers)
         DocumentPosting posting(data->databaseTallymere(), *kind);
         posting.groupTime = std::chrono::hours(1);
         posting.run(prompts, progress);
-        EXPECT_LE(counter->take("posted"), 12);
+        EXPECT_LE(counter->take(), 12);
     }
 }
