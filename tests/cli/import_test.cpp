@@ -1,4 +1,3 @@
-#include "engine/store/lockmanager.h"
 #include "engine/store/tablelocks.h"
 #include "master/masterkinds.h"
 #include "tests/cli/clirunner.h"

@@ -1,10 +1,6 @@
 #include "tests/cli/clirunner.h"
 #include "tests/support/files.h"
 
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
 // What the program writes besides the database: where it goes, and what stays of it.
 
 using namespace Qt::StringLiterals;
@@ -47,48 +43,6 @@ TEST_F(Output, OfPagesGoesThroughAPipeOrIntoAFileOfThatPaper)
         runScript(u"\"$T\" --data \"$DATA\" report 'Value by Item' --paper a4 --pdf 'my pages.pdf'"_s);
     EXPECT_EQ(result.output, u"1 page saved as my pages.pdf\n"_s) << result;
     EXPECT_EQ(written(), (QStringList{u"my pages.pdf"_s, u"piped"_s}));
-}
-
-// A print system that is there but never answers.
-class SilentPrintSystem
-{
-public:
-    explicit SilentPrintSystem(const std::string &name)
-        : m_socket(::socket(AF_UNIX, SOCK_STREAM, 0))
-    {
-        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-        name.copy(address.sun_path, sizeof address.sun_path - 1);
-        if (::bind(m_socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
-            || ::listen(m_socket, 1) != 0)
-            ADD_FAILURE() << "The socket " << name << " could not be made.";
-    }
-    ~SilentPrintSystem() { ::close(m_socket); }
-    Q_DISABLE_COPY(SilentPrintSystem)
-
-    int waitForCaller() const { return ::accept(m_socket, nullptr, nullptr); }
-
-private:
-    int m_socket;
-};
-
-// In a folder for temporary files of its own, at the moment when the printer is asked to take the pages.
-TEST_F(Output, LeavesNothingOfAPrintThatIsKilled)
-{
-    const QTemporaryDir home;
-    const SilentPrintSystem printSystem(home.filePath(u"socket"_s).toStdString());
-    QProcess print;
-    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    variables.insert(u"TMPDIR"_s, work.path());
-    variables.insert(u"CUPS_SERVER"_s, home.filePath(u"socket"_s));
-    variables.remove(u"XDG_RUNTIME_DIR"_s);
-    print.setProcessEnvironment(variables);
-    print.start(QStringLiteral(TALLYMERE_PROGRAM),
-                {u"--data"_s, cli.folder(), u"print"_s, u"Value by Item"_s, u"--paper"_s, u"a4"_s});
-    const int caller = printSystem.waitForCaller();
-    print.kill();
-    ASSERT_TRUE(print.waitForFinished());
-    ::close(caller);
-    EXPECT_EQ(written(), QStringList());
 }
 
 TEST_F(Output, DoesNotMixUpFoldersWhoseNamesAreNotUtf8)

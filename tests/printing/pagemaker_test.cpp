@@ -269,6 +269,19 @@ TEST_F(Pages, ThatAFullDiskDoesNotTakeSaySo)
               u"The pages of the report cannot be kept in '%1'...\nFile too large -> "_s.arg(QDir::tempPath()));
 }
 
+// Nor would one that is killed.
+TEST_F(Pages, LeaveNoFileBehind)
+{
+    const QTemporaryDir folder;
+    const QByteArray temporary = qgetenv("TMPDIR");
+    qputenv("TMPDIR", folder.path().toUtf8());
+    add(u"A"_s, u"a"_s, 1);
+    ReportRun run(report(), QPageSize::Letter, {});
+    run.makePages();
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+    temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+}
+
 TEST_F(Pages, OfAReportThatFailedAreNotGivenAwayAsIfTheyWereAll)
 {
     for (const int rowsBefore : {0, 200}) {

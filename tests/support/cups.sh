@@ -87,37 +87,15 @@ EOF
     # A printer that takes PDF and leaves pages and copies to the print system.
     cat >"$home/pdf.ppd" <<'EOF'
 *PPD-Adobe: "4.3"
-*FormatVersion: "4.3"
-*FileVersion: "1.0"
-*LanguageVersion: English
-*LanguageEncoding: ISOLatin1
-*PCFileName: "PDF.PPD"
-*Manufacturer: "Tallymere"
-*Product: "(PDF)"
-*ModelName: "PDF"
-*ShortNickName: "PDF"
 *NickName: "PDF"
-*PSVersion: "(3010.000) 0"
-*LanguageLevel: "3"
-*ColorDevice: True
-*DefaultColorSpace: RGB
-*FileSystem: False
-*Throughput: "1"
 *LandscapeOrientation: Plus90
 *cupsManualCopies: True
 *cupsFilter2: "application/vnd.cups-pdf application/pdf 0 -"
 *OpenUI *PageSize: PickOne
-*OrderDependency: 10 AnySetup *PageSize
 *DefaultPageSize: Letter
 *PageSize Letter: "<</PageSize[612 792]>>setpagedevice"
 *PageSize A4: "<</PageSize[595 842]>>setpagedevice"
 *CloseUI: *PageSize
-*OpenUI *PageRegion: PickOne
-*OrderDependency: 10 AnySetup *PageRegion
-*DefaultPageRegion: Letter
-*PageRegion Letter: "<</PageSize[612 792]>>setpagedevice"
-*PageRegion A4: "<</PageSize[595 842]>>setpagedevice"
-*CloseUI: *PageRegion
 *DefaultImageableArea: Letter
 *ImageableArea Letter: "18 36 594 756"
 *ImageableArea A4: "18 36 577 806"
