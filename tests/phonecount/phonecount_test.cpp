@@ -1,12 +1,11 @@
 #include "phonecount/phoneserver.h"
 #include "phonecount/stockcountdesk.h"
+#include "tests/support/countingphone.h"
 #include "tests/support/kitchen.h"
 #include "transactions/stockcount.h"
 
 #include <QEventLoop>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QSslSocket>
 #include <QTimer>
 
@@ -89,51 +88,16 @@ struct PhoneCountTest : KitchenTest
             + kitchen.found(u"SELECT count(*) FROM IUsage"_s) + kitchen.found(u"SELECT count(*) FROM IBarcode"_s);
     }
 
-    // A phone by its cookie.
-    QByteArray join(const QString &name)
-    {
-        const PhoneAnswer page = service->answer(request(PhoneRequest::Method::Get, '/' + service->newLink()));
-        for (const auto &[header, value] : page.headers) {
-            if (header == "Set-Cookie") {
-                const QByteArray cookie = value.left(value.indexOf(';'));
-                EXPECT_EQ(post(cookie, "/name", {{u"name"_s, name}}).value(u"name"_s), name.trimmed());
-                return cookie;
-            }
-        }
-        ADD_FAILURE() << "no cookie";
-        return {};
-    }
-    static PhoneRequest request(PhoneRequest::Method method, const QByteArray &path, const QByteArray &cookie = {})
-    {
-        return {.method = method,
-                .path = path,
-                .host = "10.0.0.1:21000",
-                .origin = {},
-                .contentType = "application/json",
-                .cookies = cookie,
-                .body = {},
-                .from = u"10.0.0.7"_s};
-    }
-    QJsonObject get(const QByteArray &cookie, const QByteArray &path)
-    {
-        return QJsonDocument::fromJson(service->answer(request(PhoneRequest::Method::Get, path, cookie)).body)
-            .object();
-    }
-    QJsonObject post(const QByteArray &cookie, const QByteArray &path, const QJsonObject &sent)
-    {
-        PhoneRequest asked = request(PhoneRequest::Method::Post, path, cookie);
-        asked.body = QJsonDocument(sent).toJson();
-        return QJsonDocument::fromJson(service->answer(asked).body).object();
-    }
+    CountingPhone join(const QString &name) { return {*service, "10.0.0.1:21000", '/' + service->newLink(), name}; }
     QJsonObject row(const char *id, int item, const QString &number, const QString &quantity) const
     {
         return {
             {u"id"_s, QString::fromLatin1(id)}, {u"count"_s, count.id()}, {u"item"_s, item}, {u"number"_s, number},
             {u"quantity"_s, quantity},          {u"seen"_s, u""_s}};
     }
-    QString is(const QByteArray &cookie, const QJsonObject &sent) // "refused: why"
+    static QString is(const CountingPhone &phone, const QJsonObject &sent) // "refused: why"
     {
-        const QJsonObject outcome = post(cookie, "/row", sent);
+        const QJsonObject outcome = phone.post("/row", sent);
         const QString text = outcome[u"text"_s].toString();
         return outcome[u"is"_s].toString() + (text.isEmpty() ? text : u": "_s + text);
     }
@@ -240,8 +204,8 @@ TEST_P(PhoneCountTest, OneConnectionTooManyIsRefused)
 
 TEST_P(PhoneCountTest, TwoPhonesCountOneLocation)
 {
-    const QByteArray ana = join(u" Ana "_s), ben = join(u"Ben"_s);
-    const QJsonObject list = get(ana, "/list");
+    const CountingPhone ana = join(u" Ana "_s), ben = join(u"Ben"_s);
+    const QJsonObject list = ana.get("/list");
     EXPECT_EQ(list[u"items"_s][1][u"b"_s][0], u"4006381333931"_s);
     EXPECT_EQ(list[u"items"_s][1][u"r"_s], u"5"_s);
     const QByteArray news = "/news/" + QByteArray::number(list[u"revision"_s].toInt());
@@ -249,7 +213,7 @@ TEST_P(PhoneCountTest, TwoPhonesCountOneLocation)
     const QJsonObject first = row("a1", 1, u"A10"_s, u"8,5"_s);
     EXPECT_EQ(is(ana, first), u"taken"_s);
     EXPECT_EQ(counted(), u"A10 8.5 Ana, A11, B1"_s);
-    const QJsonObject conflict = post(ben, "/row", row("b1", 1, u"A10"_s, u"7"_s));
+    const QJsonObject conflict = ben.post("/row", row("b1", 1, u"A10"_s, u"7"_s));
     EXPECT_EQ(conflict[u"is"_s], u"other"_s);
     EXPECT_EQ(conflict[u"row"_s][u"by"_s], u"Ana"_s);
     EXPECT_EQ(counted(), u"A10 8.5 Ana, A11, B1"_s) << "not before he has seen it";
@@ -264,7 +228,7 @@ TEST_P(PhoneCountTest, TwoPhonesCountOneLocation)
     EXPECT_EQ(is(ana, row("a2", 2, u"A11"_s, u"3"_s)), u"other"_s);
     EXPECT_EQ(is(ana, row("a3", 2, u"A11"_s, u"4"_s)), u"taken"_s) << "both have come to the same";
     EXPECT_EQ(counted(), u"A10 6 Ben, A11 4, B1"_s);
-    const QJsonArray changed = get(ana, news)[u"rows"_s].toArray();
+    const QJsonArray changed = ana.get(news)[u"rows"_s].toArray();
     EXPECT_EQ(changed.size(), 2);
     EXPECT_EQ(changed[1][u"q"_s], u"4"_s);
 
@@ -282,7 +246,7 @@ TEST_P(PhoneCountTest, TheRulesOfTheDeskHold)
 {
     kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 15000000 WHERE ItemID = 1"_s);
     ASSERT_TRUE(count.open(1, ZeroCounts::Excluded));
-    const QByteArray ana = join(u"Ana"_s);
+    const CountingPhone ana = join(u"Ana"_s);
     QJsonObject large = row("1", 1, u"A10"_s, u"1500000"_s);
     EXPECT_TRUE(is(ana, large).startsWith(u"asks: The quantity is 1,500,000."_s));
     large[u"confirmed"_s] = true;
@@ -292,7 +256,7 @@ TEST_P(PhoneCountTest, TheRulesOfTheDeskHold)
     EXPECT_TRUE(is(ana, row("3", 2, u"A11"_s, u"5.5"_s)).startsWith(u"refused: This is more than is recorded."_s));
     const QString amount = is(ana, row("4", 1, u"A10"_s, u"2"_s));
     EXPECT_TRUE(begins(amount, u"asks: What is recorded is worth very much more"_s));
-    EXPECT_FALSE(get(ana, "/list")[u"items"_s][0].toObject().contains(u"r"_s));
+    EXPECT_FALSE(ana.get("/list")[u"items"_s][0].toObject().contains(u"r"_s));
     for (const char *wrong : {"-1", "1.2.3", "1e9", "nan", "", "1 000"})
         EXPECT_TRUE(is(ana, row(wrong[0] ? wrong : "none", 2, u"A11"_s, QString::fromLatin1(wrong)))
                         .startsWith(u"refused"_s))
@@ -310,11 +274,11 @@ TEST_P(PhoneCountTest, TheRulesOfTheDeskHold)
     EXPECT_EQ(counted(), u"A10 1.5e+06 Ana, A11, B1"_s);
 
     int answered = 0;
-    while (service->answer(request(PhoneRequest::Method::Get, "/", ana)).status == 200 && answered < 1000)
+    while (ana.ask(CountingPhone::Method::Get, "/").status == 200 && answered < 1000)
         ++answered;
     EXPECT_LT(answered, 1000) << "so many at once are no phone";
     now += 10'000;
-    EXPECT_EQ(service->answer(request(PhoneRequest::Method::Get, "/", ana)).status, 200);
+    EXPECT_EQ(ana.ask(CountingPhone::Method::Get, "/").status, 200);
 }
 
 } // namespace

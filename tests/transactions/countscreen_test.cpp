@@ -2,6 +2,7 @@
 #include "master/barcodes.h"
 #include "phonecount/networkaddresses.h"
 #include "phonecount/screens/phonecountscreen.h"
+#include "tests/support/countingphone.h"
 #include "tests/support/screentest.h"
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
@@ -312,35 +313,15 @@ TEST_F(CountScreenTest, WhatAPhoneCountsIsNotTypedOverUnseen)
     child<QPushButton>(*screen, "btnPhone")->click();
     const QPointer<TfrmPhoneCount> phones = screen->findChild<TfrmPhoneCount *>();
     const QUrl link(child<QLineEdit>(*phones, "edtLink")->text());
-    PhoneRequest request{.method = PhoneRequest::Method::Get,
-                         .path = link.path().toLatin1(),
-                         .host = link.authority().toLatin1(),
-                         .origin = {},
-                         .contentType = "application/json",
-                         .cookies = {},
-                         .body = {},
-                         .from = {}};
-    const PhoneAnswer page = phones->service().answer(request);
-    for (const auto &[name, value] : page.headers)
-        request.cookies += name == "Set-Cookie" ? value : QByteArray();
-    const auto post = [&](const QByteArray &path, const QByteArray &body) {
-        request.method = PhoneRequest::Method::Post;
-        request.path = path;
-        request.body = body;
-        return phones->service().answer(request).body;
-    };
-    post("/name", R"({"name":"Ana"})");
-    request.method = PhoneRequest::Method::Get;
-    request.path = "/list";
-    const QByteArray list = phones->service().answer(request).body;
-    const QByteArray count = list.mid(list.indexOf(R"("count":")") + 9, 36);
+    const CountingPhone ana(phones->service(), link.authority().toLatin1(), link.path().toLatin1(), u"Ana"_s);
+    const QJsonValue count = ana.get("/list")[u"count"_s];
 
     showActive(*screen);
     search("A10");
     type("6");
-    const QByteArray taken =
-        post("/row", R"({"id":"1","item":1,"number":"A10","quantity":"8","seen":"","count":")" + count + "\"}");
-    EXPECT_TRUE(taken.contains(R"("is":"taken")")) << taken.constData();
+    const QJsonObject row{{u"id"_s, u"1"_s},       {u"item"_s, 1},     {u"number"_s, u"A10"_s},
+                          {u"quantity"_s, u"8"_s}, {u"seen"_s, u""_s}, {u"count"_s, count}};
+    EXPECT_EQ(ana.post("/row", row)[u"is"_s], u"taken"_s);
     prompts.ok = false;
     press(Qt::Key_Return);
     EXPECT_TRUE(has(prompts.last(), u"Ana has counted 8 of this item meanwhile."_s));
