@@ -1,4 +1,3 @@
-#include "data/fields.h"
 #include "insight/buyinglist.h"
 #include "insight/itemcard.h"
 #include "insight/monthend.h"
@@ -163,6 +162,22 @@ TEST_P(InsightTest, ALongHistoryIsThinnedOut)
     EXPECT_EQ(card.movements[1].onHand - card.movements[0].onHand, 2);
 }
 
+// By item, at one location.
+std::map<int, double> reportedStock(Kitchen &kitchen, const ReportSelection &selection)
+{
+    const ReportDescription &report = *ReportList::find(u"Stock as of"_s);
+    const Printing::RowReaderPtr rows = report.rows(kitchen.database(), report, selection);
+    const auto number = static_cast<size_t>(rows->fields().indexOf(u"ItemNo"_s));
+    const auto quantity = static_cast<size_t>(rows->fields().indexOf(u"QtyThen"_s));
+    std::map<int, double> found;
+    Printing::ReportRow row;
+    while (rows->next(row))
+        if (row.kind == Printing::RowKind::Detail)
+            found[kitchen.value(u"SELECT ItemID FROM Item WHERE ItemNo = '%1'"_s, row.values[number].toText())
+                      .toInt()] = row.values[quantity].toDouble();
+    return found;
+}
+
 TEST_P(InsightTest, TheStockIsThatOfItsTime)
 {
     for (int trial = 0; trial < 6; ++trial) {
@@ -179,46 +194,13 @@ TEST_P(InsightTest, TheStockIsThatOfItsTime)
                           }));
             }
         }
+        for (const auto &[item, quantity] : reportedStock(kitchen, {.warehouseId = 1, .day = day}))
+            EXPECT_EQ(quantity, byDay.onHand(item, 1)) << item;
+        const auto reported = reportedStock(kitchen, {.warehouseId = 1, .period = period, .year = 2026});
+        EXPECT_GE(reported.size(), 1U);
+        for (const auto &[item, quantity] : reported)
+            EXPECT_EQ(quantity, byPeriod.onHand(item, 1)) << item;
     }
-}
-
-// By item: what a report of one location shows in a column, in its rows of a kind.
-std::map<QString, double> figures(Engine::Database &database, const char *name, const QString &column,
-                                  const ReportSelection &selection,
-                                  Printing::RowKind kind = Printing::RowKind::Detail)
-{
-    const ReportDescription &report = *ReportList::find(QString::fromLatin1(name));
-    const Printing::RowReaderPtr rows = report.rows(database, report, selection);
-    const auto item = static_cast<size_t>(rows->fields().indexOf(u"ItemNo"_s));
-    const auto figure = static_cast<size_t>(rows->fields().indexOf(column));
-    std::map<QString, double> found;
-    Printing::ReportRow row;
-    while (rows->next(row))
-        if (row.kind == kind)
-            found[row.values[item].toText()] = row.values[figure].toDouble();
-    return found;
-}
-
-TEST_P(InsightTest, TheReportOfATimeIsThatOfThePerpetualOnes)
-{
-    for (int period = 1; period <= 3; ++period) {
-        for (int location = 1; location <= 2; ++location) {
-            const ReportSelection then{.warehouseId = location, .period = period, .year = 2026};
-            const ReportSelection next{.warehouseId = location, .period = period + 1, .year = 2026};
-            const auto stock = figures(kitchen.database(), "Stock as of", u"QtyThen"_s, then);
-            EXPECT_GE(stock.size(), 1U);
-            EXPECT_EQ(stock, figures(kitchen.database(), "Perpetual Summary by Item", u"ClosingBalance"_s, then));
-            EXPECT_EQ(
-                stock,
-                figures(kitchen.database(), "Perpetual by Item", u"Balance"_s, next, Printing::RowKind::Opening));
-        }
-    }
-    const ReportSelection day{.warehouseId = 1, .day = today.addDays(-40)};
-    const StockAsOf byDay(kitchen.database(), {.day = day.day});
-    for (const auto &[item, quantity] : figures(kitchen.database(), "Stock as of", u"QtyThen"_s, day))
-        EXPECT_EQ(
-            quantity,
-            byDay.onHand(kitchen.value(u"SELECT ItemID FROM Item WHERE ItemNo = '%1'"_s.arg(item)).toInt(), 1));
 }
 
 TEST_P(InsightTest, TotalsTellValueAndDays)
