@@ -1,4 +1,3 @@
-#include "data/transtypes.h"
 #include "tests/support/documents.h"
 #include "transactions/adjustmententry.h"
 #include "transactions/historyview.h"

@@ -1,4 +1,3 @@
-#include "base/ruleerror.h"
 #include "tests/support/documents.h"
 
 using namespace Qt::StringLiterals;

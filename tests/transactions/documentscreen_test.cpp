@@ -1,4 +1,3 @@
-#include "base/settingsstore.h"
 #include "controls/grids/linegrid.h"
 #include "master/barcodes.h"
 #include "master/screens/itemsearchinv.h"

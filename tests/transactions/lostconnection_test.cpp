@@ -50,28 +50,6 @@ struct LostConnection : ScreenTest
 
 } // namespace
 
-TEST_F(LostConnection, whatIsInEditIsSavedOverANewConnection)
-{
-    const std::pair<const char *, std::function<void()>> works[] = {
-        {"header", [&] { open<TfrmInvReceipt>(7), changeHeader(); }},
-        {"line", [&] { open<TfrmInvReceipt>(7), changeLine(); }},
-        {"item type", [&] { open<TfrmItemTypeInv>(1), typeOver(*screen, "editTypeName", "Groceries"); }},
-    };
-    for (const auto &[name, work] : works) {
-        SCOPED_TRACE(name);
-        work();
-        cut(false);
-        click(*screen, "btnOK");
-        ASSERT_TRUE(comesTrue([&] { return !screen || !prompts.said.isEmpty(); }));
-        EXPECT_EQ(prompts.told().toStdString(), "");
-        EXPECT_FALSE(screen);
-    }
-    EXPECT_EQ(stored(), (QStringList{u"50"_s, u"6"_s}));
-    EXPECT_EQ(rowsOf(keeper->database,
-                     u"SELECT PurchaseOrderNo, TypeName FROM IReceipt, ItemType WHERE ItemTypeID = 1"_s),
-              QStringList{u"P1|Groceries"_s});
-}
-
 TEST_F(LostConnection, whatIsInEditIsHeldAgainOnceThereIsAConnection)
 {
     const std::pair<const char *, QString> changes[] = {

@@ -1,5 +1,4 @@
 
-#include "engine/store/lockmanager.h"
 #include "tests/support/documents.h"
 
 using namespace Qt::StringLiterals;

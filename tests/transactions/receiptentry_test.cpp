@@ -286,6 +286,17 @@ struct EntryOnAServer : testing::Test
     std::unique_ptr<ReceiptEntry> entry;
 };
 
+TEST_F(EntryOnAServer, WhatIsInEditIsSavedOverANewConnection)
+{
+    entry->header().edit();
+    entry->header().set(u"PurchaseOrderNo", u"P1"_s);
+    change(50);
+    anna->endOtherSessions();
+    entry->save();
+    EXPECT_EQ(stored(), (QStringList{u"50"_s, u"6"_s}));
+    EXPECT_EQ(kitchen.text(u"SELECT PurchaseOrderNo FROM IReceipt"_s), u"P1");
+}
+
 TEST_F(EntryOnAServer, WhatOthersDoMeanwhileIsNotOverwrittenAndTold)
 {
     const std::pair<QString, QStringList> cases[] = {
