@@ -250,15 +250,6 @@ TEST_F(ItemScreens, AskInFrontAndByNameWhenClosedFromElsewhere)
     EXPECT_EQ(prompts.take().value(0), u"Do you want to save changes?"_s) << "in front already";
 }
 
-TEST_F(ItemScreens, CopyTheOneThatTheListIsOn)
-{
-    openList();
-    ASSERT_TRUE(list->moveToKey(2));
-    clickList("btnCopy");
-    takeItem();
-    EXPECT_EQ(shown("editItemNo") + shown("editItemDescription"), u"1001Bread");
-}
-
 TEST_F(ItemScreens, NarrowTheListAndFindInIt)
 {
     openList();
