@@ -1,4 +1,3 @@
-#include "data/datamodule.h"
 
 #include "base/dataversion.h"
 #include "data/layouts.h"

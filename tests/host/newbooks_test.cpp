@@ -1,4 +1,3 @@
-#include "base/ruleerror.h"
 #include "host/books/newbooks.h"
 #include "host/company.h"
 #include "tests/support/bothstores.h"

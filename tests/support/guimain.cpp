@@ -1,7 +1,6 @@
 #include "tests/support/complaints.h"
 #include "tests/support/spokenlanguage.h"
 
-#include <gtest/gtest.h>
 #include <QAbstractItemModelTester>
 #include <QAbstractItemView>
 #include <QApplication>

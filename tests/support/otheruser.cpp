@@ -1,8 +1,6 @@
 #include "tests/support/otheruser.h"
 #include "tests/support/complaints.h"
 
-#include <cstdio>
-#include <gtest/gtest.h>
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;

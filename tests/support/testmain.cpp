@@ -1,6 +1,5 @@
 #include "tests/support/complaints.h"
 
-#include <gtest/gtest.h>
 #include <QCoreApplication>
 
 // The main() of tests without a display; a test program that brings its own leaves this one out.
