@@ -63,8 +63,9 @@ TEST_P(StatementTest, ValuesComeBackAsTheyWere)
 {
     const QList<QList<Value>> rows{
         {1, -32768, 0.1, Money::fromTenThousandths(12345678), true, QDate(2024, 2, 29),
-         QDateTime(QDate(2024, 2, 29), QTime(23, 59, 58)), u"Grüße 'quoted' 😀"_s, u"maria"_s, u"two\nlines"_s},
-        {2, 32767, -1e300, 5.0, false, QDate(1, 1, 1), QDateTime(QDate(1999, 12, 31), QTime(0, 0)), u""_s, u"?"_s,
+         QDateTime(QDate(2024, 2, 29), QTime(23, 59, 58)), u"Grüße 'quoted' 😀"_s, u"maria"_s,
+         u"two\r\nlines\n\ta \\ and \\N"_s},
+        {2, 32767, -1e300, 5.0, false, QDate(1, 1, 1), QDateTime(QDate(1999, 12, 31), QTime(0, 0)), u""_s, u"\\N"_s,
          u""_s},
         {3, 0, std::numeric_limits<double>::denorm_min(), 1e15, Value(), Value(), Value(), Value(), Value(),
          Value()},
@@ -72,19 +73,28 @@ TEST_P(StatementTest, ValuesComeBackAsTheyWere)
          Value(), Value(), Value()},
     };
     const StatementPtr insert = connection.prepare(u"INSERT INTO Sample VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"_s);
-    for (const QList<Value> &row : rows) {
-        for (int i = 0; i < row.size(); ++i)
-            insert->bind(i, row[i]);
-        ASSERT_EQ(insert->execute(), 1);
-    }
     const StatementPtr read = connection.prepare(u"SELECT * FROM Sample WHERE SampleID = ?"_s);
     const QList<FieldDef> fields = everyType().fields;
-    for (const QList<Value> &row : rows) {
-        read->bind(0, row[0]);
-        ASSERT_TRUE(read->next());
-        for (int i = 0; i < row.size(); ++i)
-            EXPECT_EQ(read->valueAt(i, fields[i].type), row[i]) << fields[i].name.toStdString();
-        EXPECT_FALSE(read->next());
+    for (const bool atOnce : {false, true}) {
+        SCOPED_TRACE(atOnce);
+        Transaction transaction(connection);
+        store.execute(u"DELETE FROM Sample"_s);
+        const auto bulk = atOnce ? connection.bulkInsert(everyType()) : nullptr;
+        for (const QList<Value> &row : rows) {
+            for (int i = 0; i < row.size(); ++i)
+                insert->bind(i, row[i]);
+            bulk ? bulk->add(row) : void(insert->execute());
+        }
+        if (bulk)
+            bulk->finish();
+        transaction.commit();
+        for (const QList<Value> &row : rows) {
+            read->bind(0, row[0]);
+            ASSERT_TRUE(read->next());
+            for (int i = 0; i < row.size(); ++i)
+                EXPECT_EQ(read->valueAt(i, fields[i].type), row[i]) << fields[i].name.toStdString();
+            EXPECT_FALSE(read->next());
+        }
     }
     if (GetParam() == Store::Local) {
         // What the sqlite3 shell shows.
