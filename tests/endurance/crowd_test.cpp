@@ -21,15 +21,14 @@ struct CrowdTest : testing::TestWithParam<Store>
     Kitchen kitchen{GetParam()};
     Ledger ledger;
 
-    // Lines of all of them as they come. Whoever has said nothing for so long that he must hang is told of, with who holds
-    // what.
+    // Lines of all of them as they come. Whoever has said nothing for so long that he must hang is told of.
     void listen(std::vector<std::unique_ptr<OtherUser>> &people)
     {
         while (!people.empty()) {
             for (auto person = people.begin(); person != people.end();) {
                 const QString line = (*person)->line();
                 if (line.isEmpty())
-                    FAIL() << "somebody stands still or is gone" << qPrintable(whoWaits());
+                    FAIL() << "somebody stands still or is gone";
                 ledger.take(line);
                 if (line != "end"_L1) {
                     ++person;
@@ -39,20 +38,6 @@ struct CrowdTest : testing::TestWithParam<Store>
                 person = people.erase(person);
             }
         }
-    }
-    QString whoWaits()
-    {
-        QString told;
-        for (const QString &table : kitchen.tables()) {
-            if (const QString holder = kitchen.locks().holderOf(table); !holder.isEmpty())
-                told += u'\n' + table + holder;
-        }
-        if (GetParam() == Store::Remote)
-            told += u'\n'
-                + kitchen.found(u"SELECT pid, application_name, wait_event_type, wait_event, "
-                                "array_to_string(pg_blocking_pids(pid), ','), query FROM pg_stat_activity "
-                                "WHERE state <> 'idle'"_s);
-        return told;
     }
 };
 ON_BOTH_STORES(CrowdTest);

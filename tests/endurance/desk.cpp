@@ -40,13 +40,15 @@ void Desk::require(bool isSo)
         throw Refusal(1, prompts.told());
 }
 
-void Desk::enterReceipt(const QByteArray &vendor, const QByteArray &quantity)
+void Desk::enterReceipt(const QByteArray &vendor, const QByteArray &quantity, const QByteArray &order)
 {
     const QPointer<TfrmInvReceipt> screen(new TfrmInvReceipt(m_context, &m_mainWindow));
     const auto close = qScopeGuard([&] {
         prompts.answer = Answer::No; // nothing is kept
         if (screen)
             screen->close();
+        ScreenTest::settle();
+        delete screen;
     });
     prompts.take();
     screen->newRecord();
@@ -56,8 +58,15 @@ void Desk::enterReceipt(const QByteArray &vendor, const QByteArray &quantity)
     if (prompts.answer != Answer::Yes || offers == 0)
         enter(vendor + "<Return>o<PgDown>" + quantity
               + "<Return>A1<Return><Return>3<Return>1<Return>B2<Return><Return>1.25");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_O, Qt::AltModifier);
-    require(comesTrue([&] { return !screen || !prompts.said.isEmpty(); }) && !screen);
+    if (!order.isEmpty())
+        typeOver(*screen, "editPurchaseOrderNo", order.constData());
+    require(prompts.said.isEmpty()); // or some of it has gone elsewhere
+    do {
+        prompts.take();
+        QTest::keyClick(screen, Qt::Key_O, Qt::AltModifier);
+        require(comesTrue([&] { return !screen || !prompts.said.isEmpty(); }));
+    } while (screen && has(prompts.last(), u"server"_s));
+    require(!screen);
 }
 
 void Desk::post(const DocumentKind &kind)

@@ -13,8 +13,8 @@ public:
     ~Desk();
 
     // Of so many of A1 and one of B2, from the vendor to the office. A document that was begun before and is offered is
-    // answered as the prompts say; when that is Yes it is saved as it stands.
-    void enterReceipt(const QByteArray &vendor, const QByteArray &quantity);
+    // answered as the prompts say; when that is Yes it is saved as it stands. OK is pressed until there is a server.
+    void enterReceipt(const QByteArray &vendor, const QByteArray &quantity, const QByteArray &order = {});
     void post(const Tallymere::DocumentKind &kind);
     void count(const QByteArray &keys); // "A1<Return>4<Return>", at the office
     void checkAndRepair(); // with a backup in the folder

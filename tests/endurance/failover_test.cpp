@@ -3,14 +3,13 @@
 // anew. TALLYMERE_TEST_CLUSTER is the folder of the cluster (scripts/cluster), which scripts/endurance brings up.
 
 #include "tests/cli/clirunner.h"
+#include "tests/endurance/desk.h"
 #include "tests/endurance/people.h"
 #include "tests/support/chance.h"
 #include "tests/support/files.h"
-#include "tests/support/screentest.h"
 #include "transactions/documententry.h"
 #include "transactions/documentkinds.h"
 #include "transactions/documentposting.h"
-#include "transactions/screens/invreceipt.h"
 
 #include <QThread>
 
@@ -99,75 +98,26 @@ void post(Engine::Database &database, const QStringList &)
     }
 }
 
-// The same in a window, by keys. Its user presses OK until the window goes, and enters anew what it does not keep.
-class Sitter
-{
-public:
-    Sitter(Engine::Database &books, const QString &user)
-        : m_data(m_settings, m_prompts,
-                 {.server = books.session().remoteAddress, .serverDatabase = books.remoteName, .currentUser = user})
-    {
-        m_prompts.answer = Answer::No;
-    }
-    void enter(const QString &word)
-    {
-        while (!entered(word))
-            say({u"again"_s, word});
-    }
-
-private:
-    // False where the screen does not take what has been typed: some of it was lost.
-    bool entered(const QString &word)
-    {
-        QPointer<TfrmInvReceipt> screen;
-        const auto close = qScopeGuard([&] { // nothing is kept
-            if (screen)
-                screen->close();
-            ScreenTest::settle();
-            delete screen;
-            m_prompts.take();
-        });
-        insist([&] {
-            delete screen;
-            screen = new TfrmInvReceipt(m_context, &m_mainWindow);
-            screen->newRecord();
-        });
-        showActive(*screen);
-        type("V1<Return>o<PgDown>2<Return>A1<Return><Return>3<Return>1<Return>B2<Return><Return>1.25");
-        typeOver(*screen, "editPurchaseOrderNo", word.toUtf8().constData());
-        if (const QString told = m_prompts.told(); !told.isEmpty()) { // some of it has gone elsewhere
-            say({u"told"_s, told});
-            return false;
-        }
-        for (;;) {
-            QTest::keyClick(screen, Qt::Key_O, Qt::AltModifier);
-            const bool isSaid = comesTrue([&] { return !screen || !m_prompts.said.isEmpty(); });
-            const QString told = m_prompts.told();
-            if (!told.isEmpty())
-                say({u"told"_s, told});
-            if (!screen || !isSaid)
-                return !screen;
-            if (!has(told, u"server"_s))
-                return false;
-            QThread::msleep(200);
-        }
-    }
-
-    SpokenPrompts m_prompts;
-    MemorySettings m_settings;
-    TDataModuleTallymere m_data;
-    TdmLookUpsInv m_lookups{m_data.databaseTallymere()};
-    ScreenContext m_context{.data = m_data, .lookups = m_lookups, .prompts = m_prompts};
-    QWidget m_mainWindow;
-};
-
+// The same in a window, by keys. Its user enters anew what the window does not keep.
 void sit(Engine::Database &books, const QStringList &arguments)
 {
-    Sitter sitter(books, u"sitter"_s + arguments.value(0)); // another one would take up what he has begun
+    Desk desk({.server = books.session().remoteAddress,
+               .serverDatabase = books.remoteName,
+               .currentUser = u"sitter"_s + arguments.value(0)}); // another one would take up what he has begun
     for (int number = 1;; ++number) {
         const QString word = u"w%1-%2"_s.arg(arguments.value(0)).arg(number);
         const qint64 begun = now();
-        sitter.enter(word);
+        for (bool isEntered = false; !isEntered;) {
+            insist([&] {
+                try {
+                    desk.prompts.answer = Answer::No;
+                    desk.enterReceipt("V1", "2", word.toUtf8());
+                    isEntered = true;
+                } catch (const Refusal &refusal) {
+                    say({u"again"_s, word, QString::fromUtf8(refusal.what())});
+                }
+            });
+        }
         sayAnswered(word, begun);
     }
 }
