@@ -63,17 +63,6 @@ TEST_P(Posting, PostsEachKindOfLine)
     }
 }
 
-TEST_P(Posting, LaterLinesSeeWhatEarlierOnesLeft)
-{
-    kitchen.addReceipt(1, 1, 1, {{1, 10, 1.00}, {1, 10, 2.00}, {2, 1, 5.00}});
-    kitchen.addReceipt(2, 1, 2, {{1, 20, 3.00}});
-    post();
-    EXPECT_EQ(kitchen.averageCost(1), 2.25); // 1.00, then 1.50 over 20, then over 40
-    EXPECT_EQ(kitchen.balances(), u"1|1|20 1|2|20 2|1|1");
-    EXPECT_EQ(kitchen.found(u"SELECT ReceiptID, ItemID, Quantity FROM IHist ORDER BY IHistID"_s),
-              u"1|1|10 1|1|10 1|2|1 2|1|20");
-}
-
 TEST_P(Posting, TakesTheUnpostedOnesWhoseVendorExistsUnlessOthersHavePostedOrDeletedThemMeanwhile)
 {
     for (const int id : {1, 2, 3, 4, 6, 7})

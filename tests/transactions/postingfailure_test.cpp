@@ -103,22 +103,4 @@ TEST_P(FailingPosting, ADocumentThatARuleRefusesIsLeftAloneAndNamedAgain)
     }
 }
 
-// The file store undoes a whole transaction by itself when the disk is full: the last group is the state.
-TEST_P(FailingPosting, AFullDiskLeavesWholeDocumentsAndTheRestIsPostedOnceThereIsRoom)
-{
-    if (GetParam() == Store::Remote)
-        return;
-    kitchen.execute(u"DELETE FROM IReceipt; DELETE FROM IRecDet"_s);
-    for (int id = 1; id <= 2; ++id)
-        kitchen.addReceipt(id, 1, 1, QList<Kitchen::Line>(300, {1, 1, 1}));
-    kitchen.execute(u"PRAGMA max_page_count = 1"_s); // no smaller than the file is
-    EXPECT_EQ(errorOf([&] { post(); }), Engine::ErrorCode::DiskFull);
-    EXPECT_EQ(kitchen.number(u"SELECT count(*) FROM IHist"_s),
-              300 * kitchen.number(u"SELECT count(*) FROM IReceipt WHERE Posted = true"_s));
-    kitchen.expectNoLocks();
-    kitchen.execute(u"PRAGMA max_page_count = 1000000"_s);
-    post();
-    EXPECT_EQ(kitchen.onHand(1, 1), 600);
-}
-
 } // namespace

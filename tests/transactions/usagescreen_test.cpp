@@ -94,27 +94,16 @@ TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
     EXPECT_EQ(list->dataSet().integer(u"UsageID"), 2) << "the list follows, though nothing was saved";
     settle();
 
-    data->setCurrentUser(u"anna"_s);
-    const auto removeByDate = [this] {
-        EXPECT_TRUE(whileOpen<DateDialog>(
-            [this] { list->command(u"mnuDeleteDate"_s)->trigger(); },
-            [](DateDialog &dialog) {
-                child<QCalendarWidget>(dialog, "calendar")->setSelectedDate(QDate(2026, 3, 15));
-                child<QPushButton>(dialog, "btnOK")->click();
-            }));
-        EXPECT_EQ(list->dataSet().recordCount(), 3); // one without a mark is neither posted nor not
-    };
     list->btnEditClick();
     const QPointer<TfrmUsage> shown = findScreen<TfrmUsage>(u"frmUsage"_s);
     ASSERT_TRUE(shown);
     kitchen.execute(u"ALTER TABLE History RENAME TO Gone"_s);
-    removeByDate(); // leaves no note
+    const auto removeByDate = [this] { list->command(u"mnuDeleteDate"_s)->trigger(); };
+    EXPECT_TRUE(whileOpen<DateDialog>(removeByDate, [](DateDialog &dialog) { // leaves no note
+        child<QCalendarWidget>(dialog, "calendar")->setSelectedDate(QDate(2026, 3, 15));
+        click(dialog, "btnOK");
+    }));
     EXPECT_TRUE(comesTrue([&] { return !shown; })) << "its document is gone";
     EXPECT_TRUE(prompts.last().startsWith("error: "_L1));
-    kitchen.execute(u"ALTER TABLE Gone RENAME TO History; "
-                    "INSERT INTO IUsage (UsageID, InventoryDate, Posted) VALUES (5, '2026-03-15', false)"_s);
-    list->refreshList();
-    ASSERT_TRUE(list->moveToKey(5));
-    removeByDate();
-    EXPECT_EQ(kitchen.rows(uR"(SELECT "user" FROM History)"_s), QStringList(u"anna"_s));
+    EXPECT_EQ(list->dataSet().recordCount(), 3); // one without a mark is neither posted nor not
 }
