@@ -28,6 +28,16 @@ QRegularExpression numberPattern(const RegionalSettings &settings)
 
 } // namespace
 
+QString decimalSignHint(const QString &text, QChar decimalPoint)
+{
+    static const QRegularExpression figures(u"^[+-]?[.,]*[0-9][0-9.,]*$"_s);
+    const QChar other = decimalPoint == u',' ? u'.' : u',';
+    if (!text.contains(other) || !figures.match(text.trimmed()).hasMatch())
+        return {};
+    return u' '
+        + BaseTexts::tr("(the decimal sign is '%1', as in %2)").arg(decimalPoint, u"1234"_s + decimalPoint + u'5');
+}
+
 int integerFromText(const QString &text, const QString &column)
 {
     bool ok = false;
@@ -45,7 +55,9 @@ double numberFromText(const QString &text, const RegionalSettings &settings, con
     plain.replace(settings.decimalPoint, u'.');
     const double number = ok ? plain.toDouble(&ok) : 0;
     if (!ok)
-        refuse(QT_TRANSLATE_NOOP("Base", "'%1' is not a number"), text, column);
+        throw RuleError(BaseTexts::tr("'%1' is not a number").arg(Engine::excerpt(text))
+                            + decimalSignHint(text, settings.decimalPoint),
+                        column);
     return number + 0.0; // no minus sign at zero
 }
 

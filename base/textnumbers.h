@@ -12,6 +12,10 @@ namespace Tallymere {
 // A whole number of 32 bits: "'12x' is not a whole number".
 int integerFromText(const QString &text, const QString &column = {});
 
+// What to say behind the refusal of a text whose digits have another decimal sign than is expected:
+// " (the decimal sign is '.', as in 1234.5)". Of other texts nothing.
+QString decimalSignHint(const QString &text, QChar decimalPoint);
+
 // A decimal number with the user's decimal point and, in complete groups of three digits, the group separator. No
 // exponents, nothing infinite: "'1,5' is not a number".
 double numberFromText(const QString &text, const RegionalSettings &settings = RegionalSettings::system(),

@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/plural.h"
 #include "base/ruleerror.h"
+#include "base/textnumbers.h"
 #include "engine/values/linetext.h"
 #include "engine/values/textsize.h"
 #include "engine/values/userlocale.h"
@@ -42,7 +43,7 @@ double realNumber(const ImportColumn &column, const QString &text)
     if (infinities.contains(text.mid(text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0), Qt::CaseInsensitive))
         refuse(column, text, ImportTexts::tr("is infinite"));
     if (!looksLikeNumber(text))
-        refuse(column, text, ImportTexts::tr("is not a number"));
+        refuse(column, text, ImportTexts::tr("is not a number") + decimalSignHint(text, u'.'));
     bool ok = false; // false for a number too large or too small for a double
     const double number = QLocale::c().toDouble(text, &ok);
     if (!ok || (column.type == FieldType::Money && std::abs(number) > largestMoney))

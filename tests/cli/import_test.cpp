@@ -68,11 +68,11 @@ const BadFile badFiles[] = {
     // values
     {u"items"_s,
      "ItemDescription,TypeName,StandardCost,Suspended\n"
-     "A,Produce,1x,\nB,Produce,inf,\nC,Produce,1e999,\nD,Produce,1e15,\nE,Produce,,yes\n"
+     "A,Produce,\"1,5\",\nB,Produce,inf,\nC,Produce,1e999,\nD,Produce,1e15,\nE,Produce,,yes\n"
      "12345678901234567890123456789012345678901,Produce,,\nG,Produce,1e-400,\nH,Produce,\x1B[2J,\n",
-     {u"2: StandardCost '1x' is not a number"_s, u"3: StandardCost 'inf' is infinite"_s,
-      u"4: StandardCost '1e999' is out of range"_s, u"5: StandardCost '1e15' is out of range"_s,
-      u"6: Suspended 'yes' is neither true nor false"_s,
+     {u"2: StandardCost '1,5' is not a number (the decimal sign is '.', as in 1234.5)"_s,
+      u"3: StandardCost 'inf' is infinite"_s, u"4: StandardCost '1e999' is out of range"_s,
+      u"5: StandardCost '1e15' is out of range"_s, u"6: Suspended 'yes' is neither true nor false"_s,
       u"7: ItemDescription '12345678901234567890123456789012345678901' is longer than 40 characters"_s,
       u"8: StandardCost '1e-400' is out of range"_s, u"9: StandardCost '\uFFFD[2J' is not a number"_s}},
     {u"items"_s,

@@ -87,27 +87,30 @@ TEST_P(PastedRowsTest, EachRowIsJudgedAsALineThatIsTyped)
               "A11\t\t2000000000000\t1\nA11\t\t900000000000\t900000000000\n\tyeast\t(1)\t1\nbread\t\t1\t1\n"_s);
     EXPECT_EQ(
         told(rows),
-        (QStringList{
-            u"1|1,200|A10|Apples|4.20: "_s, u"2|1|A99||1.00: Item not found"_s,
-            u"3|1|X9||1.00: Item has been suspended"_s, u"4||A11|Bread|1.00: Field 'Quantity' must have a value"_s,
-            u"5|ten|A11|Bread|1.00: 'ten' is not a number"_s, u"6|2,5|A11|Bread|1.00: '2,5' is not a number"_s,
-            u"7|3|||1.00: Field 'Item no.' must have a value"_s,
-            u"8|1|A11|Bread|(2.00): Field 'Unit Cost' must not be less than zero"_s,
-            u"9|1|A11|Bread|free: 'free' is not a number"_s,
-            u"10|1|A11|Bread|: Field 'Unit Cost' must have a value"_s,
-            u"11|2000000000000|A11|Bread|1.00: A quantity of 2,000,000,000,000 cannot be meant. It "
-            "may be 1,000,000,000,000 at most, or -1,000,000,000,000 at least."_s,
-            u"12|900,000,000,000|A11|Bread|900,000,000,000.00: 900,000,000,000 at a cost of "
-            "900,000,000,000.00 each is more than an amount of money can be"_s,
-            u"13|-1||yeast|1.00: Item 'X9: Yeast' has been suspended"_s, u"14|1|A11|Bread|1.00: "_s}));
+        (QStringList{u"1|1,200|A10|Apples|4.20: "_s, u"2|1|A99||1.00: Item not found"_s,
+                     u"3|1|X9||1.00: Item has been suspended"_s,
+                     u"4||A11|Bread|1.00: Field 'Quantity' must have a value"_s,
+                     u"5|ten|A11|Bread|1.00: 'ten' is not a number"_s,
+                     u"6|2,5|A11|Bread|1.00: '2,5' is not a number (the decimal sign is '.', as in 1234.5)"_s,
+                     u"7|3|||1.00: Field 'Item no.' must have a value"_s,
+                     u"8|1|A11|Bread|(2.00): Field 'Unit Cost' must not be less than zero"_s,
+                     u"9|1|A11|Bread|free: 'free' is not a number"_s,
+                     u"10|1|A11|Bread|: Field 'Unit Cost' must have a value"_s,
+                     u"11|2000000000000|A11|Bread|1.00: A quantity of 2,000,000,000,000 cannot be meant. It "
+                     "may be 1,000,000,000,000 at most, or -1,000,000,000,000 at least."_s,
+                     u"12|900,000,000,000|A11|Bread|900,000,000,000.00: 900,000,000,000 at a cost of "
+                     "900,000,000,000.00 each is more than an amount of money can be"_s,
+                     u"13|-1||yeast|1.00: Item 'X9: Yeast' has been suspended"_s, u"14|1|A11|Bread|1.00: "_s}));
     EXPECT_EQ(rows.lines()[3].refusedField, Fields::QtyReceived);
     EXPECT_EQ(rows.refusedLines(), 12);
     EXPECT_FALSE(rows.canBeTaken());
     EXPECT_EQ(refusalOf([&] { rows.take(); }), u"Row 2 cannot be taken: Item not found -> "_s);
     EXPECT_EQ(stored().size(), 1) << "not the good one before it either";
 
-    EXPECT_EQ(told(paste(u"A10\t1\u202f200,5\t4,20 \u20ac\nA10\t\u22123\t1.5"_s, withComma())),
-              (QStringList{u"1|1,200.5|A10|Apples|4.20: "_s, u"2|-3|A10|Apples|1.5: '1.5' is not a number"_s}));
+    EXPECT_EQ(
+        told(paste(u"A10\t1\u202f200,5\t4,20 \u20ac\nA10\t\u22123\t1.5"_s, withComma())),
+        (QStringList{u"1|1,200.5|A10|Apples|4.20: "_s,
+                     u"2|-3|A10|Apples|1.5: '1.5' is not a number (the decimal sign is ',', as in 1234,5)"_s}));
     EXPECT_EQ(refusalOf([&] { paste(u" \t\n\n"_s); }),
               u"There are no rows to paste. Copy the cells in the spreadsheet first, then paste them here. -> "_s);
     rows.drop();
