@@ -51,6 +51,9 @@ void runRepair(CommandContext &context, Engine::Database &database, const QStrin
                                      Texts::tr("%n finding mended; before it the books stood as in %1."),
                                      Texts::tr("%n findings mended; before it the books stood as in %1."))
                                   .arg(backup));
+    else if (result.left > 0)
+        context.console.print(
+            Texts::tr("Nothing of this can be mended by a repair, and nothing has been changed."));
     tellLeft(context, result.left);
 }
 
