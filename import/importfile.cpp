@@ -3,6 +3,7 @@
 #include "base/plural.h"
 #include "base/ruleerror.h"
 #include "engine/values/linetext.h"
+#include "engine/values/userlocale.h"
 #include "import/importvalue.h"
 #include "import/texts.h"
 
@@ -193,13 +194,24 @@ private:
     qsizetype m_characters = 0;
 };
 
+QString noHeaderText(int lastRow, int headRow)
+{
+    if (lastRow == 0 || headRow <= lastRow)
+        return ImportTexts::tr("The file is empty.");
+    return plural(lastRow,
+                  ImportTexts::tr("There is only %n row, so that row %1 cannot hold the names of the columns."),
+                  ImportTexts::tr("There are only %n rows, so that row %1 cannot hold the names of the columns."))
+        .arg(Engine::groupedCount(headRow));
+}
+
 std::vector<ImportDocument> readRows(ImportRows &reader, const ImportKind &kind, ImportErrors &errors,
-                                     bool knowsTitles, Progress *progress)
+                                     const ImportChoice &choice, Progress *progress)
 {
     if (!reader.next()) {
-        errors.add(1, ImportTexts::tr("The file is empty."));
+        errors.add(1, noHeaderText(reader.line(), choice.headRow));
         return {};
     }
+    const bool knowsTitles = choice.fields.has_value();
     const Header header = HeaderReader(kind, errors, reader.line(), knowsTitles).read(reader.fields());
     if (header.empty())
         return {};
@@ -226,7 +238,7 @@ std::vector<ImportDocument> readImportFile(QIODevice &file, const ImportKind &ki
     try {
         const std::unique_ptr<ImportRows> rows = openImportRows(file, choice);
         errors.setSheet(rows->sheet());
-        return readRows(*rows, kind, errors, choice.fields.has_value(), progress);
+        return readRows(*rows, kind, errors, choice, progress);
     } catch (const ReadFault &fault) {
         errors.add(fault.line(), fault.message());
         return {};
