@@ -162,7 +162,12 @@ void tellOfBackup(Engine::Database &database)
 
 void requireFile(const QString &file)
 {
-    if (!QFileInfo(file).isFile())
+    const QFileInfo info(file);
+    if (info.isDir())
+        throw RuleError(CareTexts::tr("%1 is a folder. What is restored is one file, which a backup has made.")
+                            .arg(shown(file)),
+                        RestoreColumn::File.toString());
+    if (!info.isFile())
         throw RuleError(CareTexts::tr("There is no file %1.").arg(shown(file)), RestoreColumn::File.toString());
 }
 
