@@ -39,6 +39,7 @@ struct Command
     QString summary;
     QString details; // more for its own --help
     QList<OptionSpec> options; // besides the ones that all commands take
+    bool namesOwnBooks = false; // by options of its own, in place of --data, --server and the settings
     bool paints = false; // needs the fonts of a QGuiApplication
     int fewestWords = 0;
     int mostWords = 0;

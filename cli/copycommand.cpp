@@ -70,6 +70,7 @@ Command copyCommand()
         {u"resume"_s, {}, Texts::tr("goes on with a copy that was stopped, as is done without it too")},
         {u"move"_s, {}, Texts::tr("the books where they were take no more changes from then on")},
         {u"take-up"_s, {}, Texts::tr("lets the books in --from, which have moved away, be changed again")}};
+    command.namesOwnBooks = true;
     command.run = runCopy;
     return command;
 }

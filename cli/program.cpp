@@ -104,6 +104,13 @@ bool isRefusal(Engine::ErrorCode code)
     }
 }
 
+// New books come into being only where the options and settings of all commands say.
+bool mayLackBooks(const QStringList &words)
+{
+    const Command *command = findCommand(commandName(words));
+    return command && !command->namesOwnBooks;
+}
+
 } // namespace
 
 bool paints(const QStringList &words)
@@ -128,7 +135,7 @@ ExitStatus runProgram(const QStringList &words, Console &console, SettingsStore 
         return ExitStatus::Refused; // what there is to say has been said
     } catch (const Engine::EngineError &error) {
         console.error(error.text());
-        if (error.code() == Engine::ErrorCode::NoDatabase)
+        if (error.code() == Engine::ErrorCode::NoDatabase && mayLackBooks(words))
             console.complain(Texts::tr("'tallymere init' makes a new database."));
         return isRefusal(error.code()) ? ExitStatus::Refused : ExitStatus::EngineFailed;
     } catch (const std::exception &error) {
