@@ -45,8 +45,18 @@ bool DocumentPosting::run(Prompts &prompts, Progress &progress)
         postAll(prompts, progress);
     } catch (const RuleError &error) {
         throw RuleError(error.message() + aroundRefused());
+    } catch (const Engine::EngineError &error) {
+        if (m_inHand.isEmpty() || error.isStoreLost())
+            throw;
+        throw Engine::EngineError(error.code(), error.text() + u'\n' + whereItFailed(), error.driverText());
     }
     return true;
+}
+
+QString DocumentPosting::whereItFailed() const
+{
+    return TransactionsTexts::tr("That was at \"%1\". A check of the books tells what of it has been written.")
+        .arg(m_inHand);
 }
 
 // The documents before the one that is refused stay posted; those behind it wait.
@@ -85,7 +95,9 @@ void DocumentPosting::postAll(Prompts &prompts, Progress &progress)
             m_waiting = static_cast<int>(&documents.back() - &each + m_keys.size() - end);
             const auto document = std::make_shared<const PostingDocument>(std::move(each));
             writes.apply([this, document, &stock, &history, &mark](Engine::Writes &sink) {
+                m_inHand = document->description;
                 postDocument(*document, *mark, {stock, history, sink});
+                m_inHand.clear();
             });
             ++m_posted;
             progress.step();

@@ -21,7 +21,7 @@ namespace Tallymere {
 // is written, it stays unposted, and the documents before it stay posted. The RuleError says how many these are, and how
 // many wait behind it.
 //
-// Failure of the store: an EngineError. Documents before it stay posted; the one in hand stays marked, with what
+// Failure of the store: an EngineError, which names the document where one was in hand. Documents before it stay posted; the one in hand stays marked, with what
 // was written before the failing statement. The end of the process or of the machine leaves whole documents only,
 // at most the last two seconds of them unposted. Use on the thread that opened the database.
 class DocumentPosting final
@@ -51,6 +51,7 @@ private:
 
     void postAll(Prompts &prompts, Progress &progress);
     QString aroundRefused() const;
+    QString whereItFailed() const;
     void postDocument(const PostingDocument &document, Engine::Statement &mark, PostingBooks books) const;
     static void writeLine(const PostingDocument &document, const PostingLine &line, const LineEffect &effect,
                           PostingBooks books);
@@ -58,6 +59,7 @@ private:
     Engine::Database &m_database;
     const DocumentKind &m_kind;
     std::vector<qint64> m_keys;
+    QString m_inHand; // the document of which something is being written; empty between two
     int m_posted = 0;
     int m_waiting = 0; // behind the one in hand
 };
