@@ -1,6 +1,7 @@
 #include "base/named.h"
 #include "base/origintext.h"
 #include "cli/command.h"
+#include "cli/databasefolder.h"
 #include "cli/terminal.h"
 #include "cli/texts.h"
 #include "engine/store/attempts.h"
@@ -14,6 +15,20 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere::Cli {
 
+namespace {
+
+// The main database would say so itself, but as a host does that ends then.
+void requirePlace(const CommandContext &context)
+{
+    const bool isServer =
+        context.arguments.has(u"server"_s) || context.settings.value(Settings::Mode) == Engine::SessionType::Remote;
+    if (!isServer && folderOf(context).isEmpty())
+        Engine::raise(Engine::ErrorCode::CannotOpen,
+                      Texts::tr("No database has been chosen. Name it with --data FOLDER or --server ADDRESS."));
+}
+
+} // namespace
+
 QString CommandContext::user() const { return arguments.value(u"user"_s, Terminal::loginName()); }
 
 std::unique_ptr<TDataModuleTallymere> CommandContext::openData(DataModuleOptions options) const
@@ -23,6 +38,7 @@ std::unique_ptr<TDataModuleTallymere> CommandContext::openData(DataModuleOptions
     options.server = arguments.value(u"server"_s);
     options.currentUser = user();
     options.readsFromStandby = arguments.has(u"standby"_s);
+    requirePlace(*this);
     auto data = std::make_unique<TDataModuleTallymere>(settings, prompts, std::move(options));
     if (arguments.has(u"standby"_s) && data->sessionTallymere().type != Engine::SessionType::Remote)
         throw UsageError(Texts::tr("--standby belongs to a database on servers"));

@@ -72,7 +72,7 @@ TEST(StoreFailure, ADatabaseThatCannotBeOpenedIsNamedAndStaysAsItIs)
         {{u"--data"_s, u"/nowhere/kitchen"_s, u"totals"_s}, {}, u"/nowhere/kitchen"_s},
         {{u"--data"_s, cli.folder(), u"totals"_s}, {}, u"tallymere init"_s},
         {{u"--server"_s, u"127.0.0.1"_s, u"totals"_s}, {u"PGPORT=1"_s}, u"127.0.0.1"_s},
-        {{u"totals"_s}, {u"XDG_CONFIG_HOME=/nowhere"_s}, u"The Corvane database has not been defined."_s},
+        {{u"totals"_s}, {u"XDG_CONFIG_HOME=/nowhere"_s}, u"Name it with --data"_s},
         {{u"--data"_s, letters.path(), u"totals"_s}, {}, u"is not a database"_s},
         {{u"--data"_s, letters.path(), u"init"_s}, {}, u"is not a database"_s},
         {{u"--data"_s, letters.path(), u"sample"_s}, {}, u"is not a database"_s},
