@@ -50,8 +50,9 @@ Engine::UserLocale localeOf(const QString &language, const QLocale &desktop)
 {
     const auto codeOf = [](const QLocale &locale) { return locale.name().section(u'_', 0, 0); };
     const bool isDesktops = codeOf(desktop) == language || (language == english && !isSpoken(codeOf(desktop)));
-    const QLocale own(QLocale(language).language(), desktop.territory());
-    return {.locale = isDesktops ? desktop : own, .spellsMonths = language == english};
+    QLocale locale = isDesktops ? desktop : QLocale(QLocale(language).language(), desktop.territory());
+    locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator); // of "C", while lists group
+    return {.locale = locale, .spellsMonths = language == english, .groupsCounts = true};
 }
 
 Speaking::Speaking(const QString &language, const QString &folder)

@@ -110,15 +110,14 @@ QString contentText(Engine::Database &database)
 {
     const auto countOf = [&database](const QString &table) {
         return database.tableExists(table)
-            ? Engine::singleValue(database, u"SELECT COUNT(*) FROM %1"_s.arg(table)).toInt64()
-            : 0;
+            ? Engine::countText(Engine::singleValue(database, u"SELECT COUNT(*) FROM %1"_s.arg(table)).toInt64())
+            : u"0"_s;
     };
     if (!database.tableExists(u"Config"_s))
         return database.connection().tables().first(1).join(u", ");
     return CareTexts::tr("%1, %2 items, %3 rows of history")
-        .arg(Engine::singleValue(database, u"SELECT Organizatn FROM Config"_s).toText())
-        .arg(countOf(u"Item"_s))
-        .arg(countOf(u"IHist"_s));
+        .arg(Engine::singleValue(database, u"SELECT Organizatn FROM Config"_s).toText(), countOf(u"Item"_s),
+             countOf(u"IHist"_s));
 }
 
 class BookCopy

@@ -52,7 +52,7 @@ MonthEndFigure countedOf(Engine::Statement &rows)
             missing.append(name);
         else
             counted.append(InsightTexts::tr("%1 (%2 of %3 items)")
-                               .arg(name, QString::number(rows.intAt(3)), QString::number(rows.intAt(2))));
+                               .arg(name, Engine::countText(rows.intAt(3)), Engine::countText(rows.intAt(2))));
     }
     QStringList detail;
     if (!missing.isEmpty())

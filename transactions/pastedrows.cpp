@@ -25,9 +25,9 @@ std::vector<CellRow> rowsOf(const QString &text)
         throw RuleError(TransactionsTexts::tr(
             "There are no rows to paste. Copy the cells in the spreadsheet first, then paste them here."));
     if (rows.size() > PastedRows::mostRows)
-        throw RuleError(TransactionsTexts::tr("These are %1 rows. A document takes %2 at a time.")
-                            .arg(rows.size())
-                            .arg(PastedRows::mostRows));
+        throw RuleError(
+            TransactionsTexts::tr("These are %1 rows. A document takes %2 at a time.")
+                .arg(Engine::countText(static_cast<qint64>(rows.size())), Engine::countText(PastedRows::mostRows)));
     if (const qsizetype columns = columnCountOf(rows); columns > PastedRows::mostColumns)
         throw RuleError(
             TransactionsTexts::tr("These are %1 columns. Copy %2 at most, with those that a line needs.")

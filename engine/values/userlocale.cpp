@@ -21,4 +21,9 @@ QString groupedCount(qint64 number)
     return (current().spellsMonths ? QLocale(QLocale::English) : current().locale).toString(number);
 }
 
+QString countText(qint64 count)
+{
+    return current().groupsCounts ? current().locale.toString(count) : QString::number(count);
+}
+
 } // namespace Engine

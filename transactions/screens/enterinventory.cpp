@@ -491,12 +491,12 @@ QString TFormEnterInventory::statusText() const
     if (!hasCountableDate())
         return tr("The date is a year back or more: choose a later one");
     const CountList::Totals totals = m_count.list().totals();
-    const QString counted = QString::number(totals.counted);
-    const QString size = QString::number(m_count.list().size());
+    const QString counted = Engine::countText(totals.counted);
+    const QString size = Engine::countText(m_count.list().size());
     const QString text = hidesBooks()
         ? tr("%1 of %2 counted").arg(counted, size)
         : tr("%1 of %2 counted, %3 differ, value of the difference %4")
-              .arg(counted, size, QString::number(totals.differing), currencyText(totals.value));
+              .arg(counted, size, Engine::countText(totals.differing), currencyText(totals.value));
     return m_count.draftFailure().isEmpty() ? text : text + tr(" - not kept on this machine");
 }
 
