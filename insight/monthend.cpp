@@ -146,7 +146,7 @@ Engine::Answer<EndingPeriod> EndingPeriod::ask(Engine::Database &database, QDate
     };
 }
 
-QString shownPeriod(const Period &period) { return u"%1/%2"_s.arg(period.number, 2, 10, '0'_L1).arg(period.year); }
+QString shownPeriod(const Period &period) { return periodText(period.number, period.year); }
 
 QDate beginOf(Engine::Database &database, const Period &period, QDate today)
 {

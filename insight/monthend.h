@@ -20,7 +20,7 @@ struct EndingPeriod
     Period next() const { return periodAfter(period); }
 };
 
-// "03/2026"
+// "3/2026"
 QString shownPeriod(const Period &period);
 
 // Since when a period lasts: the earliest day of what has been posted into it, or else the day behind the latest of the period

@@ -35,7 +35,7 @@ QString StockTime::text() const
 {
     if (day.isValid())
         return dateText(day);
-    return InsightTexts::tr("the end of period %1/%2").arg(period, 2, 10, '0'_L1).arg(year);
+    return InsightTexts::tr("the end of period %1").arg(periodText(period, year));
 }
 
 StockAsOf::StockAsOf(Engine::Database &database, const StockTime &time)

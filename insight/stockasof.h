@@ -19,7 +19,7 @@ struct StockTime
     int year = 0;
     int period = 0;
 
-    QString text() const; // "31 Mar 26"; "the end of period 03/2026"
+    QString text() const; // "31 Mar 26"; "the end of period 3/2026"
 };
 
 // The quantity on hand as it was: what is on hand now with all that came later taken back, as the perpetual reports

@@ -109,7 +109,7 @@ Engine::Answer<TodayFigure> openPeriod(const TodaySource &source)
     return [today, row = std::shared_ptr(FiscalSettings::ask(source.database))] {
         const FiscalSettings settings = FiscalSettings::from(*row);
         const Period period = defaultPeriod(settings, today);
-        return TodayFigure{u"%1 / %2"_s.arg(period.number).arg(period.year), false,
+        return TodayFigure{periodText(period.number, period.year), false,
                            periodMessage(judgePeriod(settings, period))};
     };
 }

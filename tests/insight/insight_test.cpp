@@ -407,8 +407,8 @@ TEST_P(InsightTest, ThePeriodIsMovedOnOnceAndAsFarAsItIsAllowed)
     openNextPeriod(kitchen.database(), {2026, 3}, u"maria"_s);
     EXPECT_EQ(company(), u"4|2026|4|2026||||12|2026") << "what is not set stays so";
     EXPECT_EQ(kitchen.found(u"SELECT Event, \"user\" FROM History"_s),
-              u"Period 04/2026 opened after 03/2026.|maria"_s);
-    EXPECT_EQ(refusal({2026, 3}), u"The default period is 04/2026 by now: somebody has moved it meanwhile. -> "_s);
+              u"Period 4/2026 opened after 3/2026.|maria"_s);
+    EXPECT_EQ(refusal({2026, 3}), u"The default period is 4/2026 by now: somebody has moved it meanwhile. -> "_s);
     {
         TheirTable theirs(kitchen, u"Company"_s);
         theirs.edit();

@@ -39,7 +39,7 @@ struct MonthEndTest : ScreenTest
 
 TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
 {
-    EXPECT_EQ(child<QLabel>(*screen, "lblPeriod")->text(), u"Period 03/2026"_s);
+    EXPECT_EQ(child<QLabel>(*screen, "lblPeriod")->text(), u"Period 3/2026"_s);
     EXPECT_EQ(figure("monthEndReceipts"), u"1"_s);
     EXPECT_EQ(figure("monthEndCounted"), u"0 of 1"_s);
     typeIn(*screen, "monthEndReceiptsMore", "<Return>");
@@ -50,8 +50,8 @@ TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
     click(*screen, "btnOpenPeriod");
     EXPECT_EQ(
         prompts.last(),
-        u"Warning: Not everything of period 03/2026 is done:\n\nReceipts to post: 1\nLocations counted: 0 of 1\n"
-        "Value printed: no\n\nOpen period 04/2026? New documents take it from now on."_s);
+        u"Warning: Not everything of period 3/2026 is done:\n\nReceipts to post: 1\nLocations counted: 0 of 1\n"
+        "Value printed: no\n\nOpen period 4/2026? New documents take it from now on."_s);
     EXPECT_EQ(defaultPeriod(), u"3|2026");
 
     kitchen.execute(u"DELETE FROM IRecDet; DELETE FROM IReceipt; "
@@ -74,14 +74,14 @@ TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
     EXPECT_NE(figure("monthEndValue"), u"no"_s);
     prompts.ok = true;
     click(*screen, "btnOpenPeriod");
-    EXPECT_EQ(prompts.told().section(u'\n', -1), u"inform: Period 04/2026 is open."_s);
+    EXPECT_EQ(prompts.told().section(u'\n', -1), u"inform: Period 4/2026 is open."_s);
     EXPECT_EQ(defaultPeriod(), u"4|2026");
-    EXPECT_EQ(child<QPushButton>(*screen, "btnOpenPeriod")->text().remove(u'&'), u"Open Period 05/2026"_s);
+    EXPECT_EQ(child<QPushButton>(*screen, "btnOpenPeriod")->text().remove(u'&'), u"Open Period 5/2026"_s);
     EXPECT_EQ(figure("monthEndValue"), u"no"_s) << "of the new period";
 
     kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = 5"_s); // somebody else has moved it on
     click(*screen, "btnOpenPeriod");
-    EXPECT_TRUE(prompts.last().contains(u"Somebody has opened period 05/2026 meanwhile."_s));
+    EXPECT_TRUE(prompts.last().contains(u"Somebody has opened period 5/2026 meanwhile."_s));
     EXPECT_EQ(defaultPeriod(), u"5|2026");
 
     prompts.take();

@@ -33,7 +33,7 @@ struct StockAsOfTest : ScreenTest
 
 TEST_F(StockAsOfTest, ADayOrAPeriodIsChosen)
 {
-    EXPECT_EQ(screen->windowTitle(), u"Stock as of the end of period 02/2026"_s) << "before the current one";
+    EXPECT_EQ(screen->windowTitle(), u"Stock as of the end of period 2/2026"_s) << "before the current one";
     EXPECT_EQ(rowOf(*grid, 0).join(u'|'), u"A10|Apples|Office|12|24.00|10"_s);
     EXPECT_EQ(after([this](StockTimeDialog &dialog) {
                   child<QRadioButton>(dialog, "optDay")->click();
@@ -50,7 +50,7 @@ TEST_F(StockAsOfTest, ADayOrAPeriodIsChosen)
                   EXPECT_FALSE(prompts.told().isEmpty());
                   typeOver(dialog, "editGLPeriod", "3<Return>");
               }),
-              u"Stock as of the end of period 03/2026: A10|Apples|Office|10|20.00|10"_s)
+              u"Stock as of the end of period 3/2026: A10|Apples|Office|10|20.00|10"_s)
         << "of the year that is offered";
     kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 9; INSERT INTO IHist (ItemID, WarehouseID, GLYear, GLPeriod, "
                     "TransType, TransDate, Quantity) VALUES (1, 1, 2026, 4, 5, '2026-04-01', 1)"_s);

@@ -74,11 +74,11 @@ TEST_P(TodayTest, TellsOfBalancesCountsAndThePeriod)
     EXPECT_EQ(figure(u"Counts begun"_s).text, u"1"_s);
     EXPECT_EQ(figure(u"Counts begun"_s).detail, u"Freezer"_s);
 
-    EXPECT_EQ(figure(u"Period"_s).text, u"3 / 2026"_s);
+    EXPECT_EQ(figure(u"Period"_s).text, u"3/2026"_s);
     EXPECT_EQ(figure(u"Period"_s).detail, QString());
     kitchen.execute(u"UPDATE Company SET FiscalYear = 2027, DefaultPeriodPP = 0"_s);
     kitchen.database().session().clock = [] { return QDateTime(QDate(2031, 8, 2), QTime(9, 0)); };
-    EXPECT_EQ(figure(u"Period"_s).text, u"8 / 2026"_s) << "what is not set is that of the date";
+    EXPECT_EQ(figure(u"Period"_s).text, u"8/2026"_s) << "what is not set is that of the date";
     EXPECT_TRUE(figure(u"Period"_s).detail.contains(u"prior to current fiscal year"_s));
 }
 
