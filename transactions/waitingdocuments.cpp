@@ -1,6 +1,6 @@
 #include "transactions/waitingdocuments.h"
 
-#include "base/regionalsettings.h"
+#include "base/formats.h"
 #include "engine/store/database.h"
 #include "transactions/documentkinds.h"
 #include "transactions/texts.h"
@@ -41,7 +41,7 @@ QString WaitingDocument::text() const
 {
     QStringList parts{kind->entry.title.arg(number)};
     if (date.isValid())
-        parts.append(RegionalSettings::system().shortDate(date, 4));
+        parts.append(dateText(date));
     if (!name.isEmpty())
         parts.append(name);
     return parts.join(u", "_s);

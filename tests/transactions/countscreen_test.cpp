@@ -258,7 +258,7 @@ TEST_F(CountScreenTest, TriesARefusedLocationOnceMore)
     choose(u"Office"_s);
     prompts.answer = Answer::Yes;
     ok->click();
-    EXPECT_TRUE(ends(prompts.last(), u"have been posted.\n\nInventory Adjustment 12, 03/05/2026, Spoilt"_s));
+    EXPECT_TRUE(ends(prompts.last(), u"have been posted.\n\nInventory Adjustment 12, 05 Mar 26, Spoilt"_s));
     EXPECT_EQ(status(), QString());
     kitchen.execute(u"UPDATE IAdjust SET Posted = true"_s);
     ok->click();

@@ -256,7 +256,7 @@ TEST_P(CountTest, AsksWhenTheBooksHaveChangedMeanwhile)
         EXPECT_TRUE(count.hasEdits());
         EXPECT_EQ(counters(), u"2000|500"_s);
     }
-    EXPECT_TRUE(has(prompts.last(), u"\n\nReceipt 77, 03/05/2026\n\n"_s));
+    EXPECT_TRUE(has(prompts.last(), u"\n\nReceipt 77, 05 Mar 26\n\n"_s));
     prompts.ok = true;
     prompts.answer = Answer::No; // nevertheless
     EXPECT_EQ(calculated(), u"2000|1|1|1|1.5");
@@ -301,7 +301,7 @@ TEST_P(CountTest, WritesTheUsageOnceWhenAnotherUserCalculatesTheSameMeanwhile)
     EXPECT_THROW(count.calculate(), SilentAbort);
     EXPECT_EQ(prompts.said.size(), 2);
     EXPECT_TRUE(prompts.last().contains("Somebody has saved transactions for this location"_L1));
-    EXPECT_TRUE(prompts.last().contains("\n\nInventory Usage 500, 03/14/2026\n\n"_L1));
+    EXPECT_TRUE(prompts.last().contains("\n\nInventory Usage 500, 14 Mar 26\n\n"_L1));
     EXPECT_EQ(usageLines(), u"2000|1|1|2|0");
     EXPECT_EQ(counters(), u"2001|501"_s);
 }
