@@ -61,6 +61,8 @@ bool FieldMark::eventFilter(QObject *, QEvent *event)
 
 void FieldMark::paintEvent(QPaintEvent *)
 {
+    if (!isEnabled())
+        return; // what a field holds that does not count is not refused
     const double width = scaled(this, frame);
     const double radius = scaled(this, corner);
     QPainter painter(this);
