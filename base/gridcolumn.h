@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <Qt>
 
 namespace Tallymere {
@@ -18,6 +19,8 @@ struct GridColumn
     bool takesSurplus = false; // the width that the others leave over; the last column does where none is named
     // A column of yes and no that shows a tick for yes, and for no this word, as what is still to be done.
     QString openWord = {};
+    int letters = 12; // that a text keeps where the window is narrow
+    QStringList words = {}; // all that it shows, where these are few: it has room for the longest in any language
     bool setOff = false; // tells something about the other columns: behind a line, in quieter letters
     bool warnsBelowZero = false; // a figure below zero wants attention there, and is no figure of the row's own
 

@@ -32,6 +32,14 @@ double stockChange(int code, double quantity)
     return type ? type->change(quantity) : quantity;
 }
 
+QStringList transTypeTexts()
+{
+    QStringList texts;
+    for (const TransTypeInfo &type : transTypes())
+        texts << type.text;
+    return texts;
+}
+
 QString transTypeText(int code)
 {
     const TransTypeInfo *type = transType(code);

@@ -36,6 +36,7 @@ const TransTypeInfo *transType(int code); // null for a code that is none of the
 double stockChange(int code,
                    double quantity); // what a movement adds to the stock; of a code that is none of these, as it is
 inline double stockChange(TransType type, double quantity) { return stockChange(static_cast<int>(type), quantity); }
+QStringList transTypeTexts(); // of all types, as lists show them
 QString transTypeText(int code); // an empty text for such a code
 
 } // namespace Tallymere

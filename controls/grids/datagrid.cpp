@@ -21,7 +21,6 @@ namespace Tallymere {
 namespace {
 constexpr int rowPadding = 7; // design pixels
 constexpr int hintMargin = 16;
-constexpr int leastLetters = 12;
 } // namespace
 
 DataGrid::DataGrid(QWidget *parent)
@@ -82,20 +81,32 @@ void DataGrid::showModel(QAbstractItemModel *model, const QList<GridColumn> &col
 
 // --- widths -----------------------------------------------------------------------------------------------------
 
-// As described, or as wide as its title where that is longer in the language of the user.
+// As described, or as wide as its title or its words where these are longer in the language of the user.
 int DataGrid::wantedWidthOf(int column) const
 {
     const GridColumn &described = m_columns[column];
-    return std::max(scaled(this, described.width), m_titles->widthWithArrow(described.title));
+    return std::max(
+        {scaled(this, described.width), m_titles->widthWithArrow(described.title), wordsWidth(described)});
 }
 
-// Texts keep twelve letters, figures and dates three quarters of their column; nothing less than its title.
+int DataGrid::wordsWidth(const GridColumn &described) const
+{
+    int width = 0;
+    for (const QString &word : described.words)
+        width = std::max(width, fontMetrics().horizontalAdvance(word) + 2 * cellPadding());
+    return width;
+}
+
+// Words keep all of their letters and other texts some, figures and dates three quarters of their column; nothing less than
+// its title.
 int DataGrid::leastWidthOf(int column) const
 {
     const GridColumn &described = m_columns[column];
     const int wanted = wantedWidthOf(column);
     const int margins = 2 * cellPadding();
-    const int letters = fontMetrics().horizontalAdvance(QString(leastLetters, u'n')) + margins;
+    const int letters = described.words.isEmpty()
+        ? fontMetrics().horizontalAdvance(QString(described.letters, u'n')) + margins
+        : wordsWidth(described);
     const int title = m_titles->widthWithArrow(described.title);
     const bool isText = described.alignment.testFlag(Qt::AlignLeft);
     return std::min(wanted, std::max(title, isText ? letters : wanted * 3 / 4));

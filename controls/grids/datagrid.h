@@ -75,6 +75,7 @@ private:
     void paintFocus();
     void updateRow(int row);
     int wantedWidthOf(int column) const;
+    int wordsWidth(const GridColumn &described) const; // 0: it has no words
     int leastWidthOf(int column) const;
     int sumOf(int Width::*part) const;
     void shareWidth();

@@ -55,9 +55,9 @@ bool isSameCategory(const CountRow &one, const CountRow &other)
 
 QList<GridColumn> CountModel::gridColumns()
 {
-    return {{u"ItemNo"_s, tr("Item No"), 90},
-            {u"TypeName"_s, tr("Category"), 130},
-            {.field = u"ItemDescription"_s, .title = tr("Item"), .width = 300, .takesSurplus = true},
+    return {{.field = u"ItemNo"_s, .title = tr("Item No"), .width = 90, .letters = 8},
+            {.field = u"TypeName"_s, .title = tr("Category"), .width = 130, .letters = 9},
+            {.field = u"ItemDescription"_s, .title = tr("Item"), .width = 300, .takesSurplus = true, .letters = 18},
             {u"StandardCost"_s, tr("Standard Cost"), 112, Qt::AlignRight},
             {u"QtyOnhand"_s, tr("Prior Quantity"), 105, Qt::AlignRight},
             {u"Quantity"_s, tr("Current Quantity"), 120, Qt::AlignRight},

@@ -3,6 +3,7 @@
 #include "controls/screens/recordopener.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
+#include "data/transtypes.h"
 #include "transactions/documentkind.h"
 #include "transactions/screens/documentscreen.h"
 #include "transactions/screens/documentscreens.h"
@@ -32,7 +33,7 @@ ListDescription TfrmInvHistory::description()
              {Fields::TransDate, tr("Date"), 85},
              {Fields::ItemNo, tr("Item no."), 90},
              {.field = Fields::ItemDescription, .title = tr("Description"), .width = 250, .takesSurplus = true},
-             {Fields::TransType, tr("Type"), 95},
+             {.field = Fields::TransType, .title = tr("Type"), .width = 95, .words = transTypeTexts()},
              {Fields::Quantity, tr("Quantity"), 80, Qt::AlignRight},
              {Fields::UnitCost, tr("Unit Cost"), 80, Qt::AlignRight},
              {Fields::WarehouseName, tr("Location"), 185},
