@@ -2,7 +2,9 @@
 
 #include "base/ruleerror.h"
 #include "controls/fields/inusenotice.h"
+#include "controls/screens/besidework.h"
 #include "controls/windows/dialogover.h"
+#include "controls/windows/elidedlabel.h"
 #include "controls/windows/filechoice.h"
 #include "controls/windows/icons.h"
 #include "controls/windows/menukeyboard.h"
@@ -386,11 +388,9 @@ void TFormTallymereSystem::createStatusBar()
     m_leftPane = new QLabel(this);
     m_leftPane->setObjectName(u"RzStatusPane2"_s);
     m_leftPane->setAccessibleName(tr("User"));
-    m_hintPane = new QLabel(this);
+    m_hintPane = new ElidedLabel(this);
     m_hintPane->setObjectName(u"RzStatusPane1"_s);
     m_hintPane->setAccessibleName(tr("Hint"));
-    // Long names and hints are cut; they must not widen the window.
-    m_hintPane->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_progress = new QProgressBar(this);
     m_progress->setObjectName(u"RzProgressBar1"_s);
     m_progress->setAccessibleName(tr("Progress"));
@@ -409,7 +409,7 @@ void TFormTallymereSystem::createStatusBar()
     m_serverLabel = new ServerLabel(this);
     connect(m_serverLabel, &ServerLabel::connectedAgain, m_ui->PanelToday, &TodayPanel::refresh);
     connect(m_serverLabel, &ServerLabel::connectedAgain, this, &TFormTallymereSystem::holdEditsAgain);
-    m_ui->RzStatusBar1->addPermanentWidget(m_serverLabel);
+    m_ui->RzStatusBar1->addPermanentWidget(m_serverLabel, 3);
     m_ui->RzStatusBar1->addPermanentWidget(m_progress);
 }
 

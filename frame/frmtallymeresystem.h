@@ -21,6 +21,7 @@ namespace Ui {
 class TFormTallymereSystem;
 }
 
+class ElidedLabel;
 class Finder;
 class FinderDesk;
 class HelpDesk;
@@ -128,7 +129,7 @@ private:
     HelpDesk *m_help;
     FinderDesk *m_finder;
     QLabel *m_leftPane = nullptr;
-    QLabel *m_hintPane = nullptr;
+    ElidedLabel *m_hintPane = nullptr;
     int m_ownWidth = 0; // that nobody but this window has given it
     QProgressBar *m_progress = nullptr;
     ServerLabel *m_serverLabel = nullptr;

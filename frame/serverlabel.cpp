@@ -23,7 +23,7 @@ constexpr auto goodNews = 15s; // stays for so long
 } // namespace
 
 ServerLabel::ServerLabel(QWidget *parent)
-    : QLabel(parent)
+    : ElidedLabel(parent)
 {
     setObjectName(QStringLiteral("serverLabel"));
     setAccessibleName(tr("Server"));

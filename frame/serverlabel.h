@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/windows/elidedlabel.h"
 #include "data/readaside.h"
 
-#include <QLabel>
 #include <QTimer>
 
 namespace Tallymere {
@@ -10,7 +10,7 @@ namespace Tallymere {
 // Tells in the status bar, and in the titles of all windows, when the server is gone, and when it is there again. It looks for
 // the server on a thread of its own and makes the connection anew, so that whoever does nothing meanwhile need not wait for it
 // afterwards.
-class ServerLabel final : public QLabel
+class ServerLabel final : public ElidedLabel
 {
     Q_OBJECT
 

@@ -5,19 +5,16 @@
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QPainter>
 
 using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
 FiguresLine::FiguresLine(QWidget *parent)
-    : QLabel(parent)
+    : ElidedLabel(parent)
 {
     setObjectName(u"lblFigures"_s);
-    setTextFormat(Qt::PlainText);
-    // However long the figures are, they must not widen the window.
-    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    QSizePolicy policy = sizePolicy();
     policy.setHorizontalStretch(1);
     setSizePolicy(policy);
 }
@@ -49,24 +46,12 @@ void FiguresLine::showAll()
 {
     const bool both = !m_note.isEmpty() && !m_figures.isEmpty();
     setText(both ? m_note + u"   "_s + m_figures : m_note + m_figures);
-    setToolTip(seen() == text() ? QString() : text());
 }
 
-QString FiguresLine::seen() const { return shortened(text(), fontMetrics(), contentsRect().width()); }
-
-void FiguresLine::resizeEvent(QResizeEvent *event)
+QColor FiguresLine::ink() const
 {
-    QLabel::resizeEvent(event);
-    showAll();
-}
-
-void FiguresLine::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    const Look look(palette());
-    painter.setPen(m_kind == Note::Warning ? look.on(palette().color(backgroundRole()), Look::Role::NoticeText)
-                                           : palette().color(foregroundRole()));
-    painter.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, seen());
+    return m_kind == Note::Warning ? Look(palette()).on(palette().color(backgroundRole()), Look::Role::NoticeText)
+                                   : ElidedLabel::ink();
 }
 
 } // namespace Tallymere

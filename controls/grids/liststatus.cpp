@@ -2,6 +2,7 @@
 
 #include "base/origintext.h"
 #include "controls/grids/figuresline.h"
+#include "controls/windows/elidedlabel.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/sumlabel.h"
 #include "engine/store/database.h"
@@ -20,19 +21,16 @@ ListStatus::ListStatus(ListGrid &grid, QStatusBar &bar)
     , m_grid(grid)
     , m_bar(bar)
     , m_rows(new QLabel(&bar))
-    , m_search(new QLabel(&bar))
+    , m_search(new ElidedLabel(&bar))
+    , m_figures(new FiguresLine(&bar))
 {
     m_rows->setObjectName(u"lblRows"_s);
     m_rows->setContentsMargins(0, 0, scaled(&bar, 24), 0);
     m_search->setObjectName(u"lblSearch"_s);
-    m_search->setTextFormat(Qt::PlainText);
-    // What is typed may be long; it must not widen the window.
-    m_search->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto *figures = new FiguresLine(&bar);
-    figures->follow(grid);
+    m_figures->follow(grid);
     bar.addWidget(m_rows);
     bar.addWidget(m_search, 1);
-    bar.addWidget(figures, 1);
+    bar.addWidget(m_figures, 1);
     m_search->hide();
 
     constexpr int moment = 400; // ms
@@ -126,6 +124,7 @@ void ListStatus::showSearch()
     const ListSearch &search = *m_grid.search();
     const QLocale locale = Engine::userLocale().locale;
     m_search->setVisible(!search.text().isEmpty());
+    m_figures->setVisible(search.text().isEmpty()); // both are long
     if (search.text().isEmpty())
         m_search->clear();
     else if (search.isFound())

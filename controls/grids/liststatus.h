@@ -9,6 +9,8 @@ class QStatusBar;
 
 namespace Tallymere {
 
+class ElidedLabel;
+class FiguresLine;
 class SumLabel;
 
 // The status line of a list: on which row of how many the cursor is, how many are selected, what is being searched for,
@@ -34,7 +36,8 @@ private:
     QStatusBar &m_bar;
     QTimer m_moment; // for what is still being read
     QLabel *m_rows;
-    QLabel *m_search;
+    ElidedLabel *m_search;
+    FiguresLine *m_figures;
     SumLabel *m_sum = nullptr; // of a list that tells one
     QLabel *m_origin = nullptr; // of a list that a standby server may be read for
 };
