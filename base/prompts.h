@@ -45,6 +45,8 @@ public:
     virtual void start(int steps) = 0; // 0: nobody knows how many
     virtual void step() = 0;
     virtual void finish() = 0;
+    // What is being done meanwhile that takes long without a step; an empty text ends it.
+    virtual void tell(const QString &) { }
 };
 
 } // namespace Tallymere

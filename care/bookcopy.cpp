@@ -245,7 +245,11 @@ private:
     // Where it has been copied already, and as it is now, it stays.
     void copyTable(Engine::Database &from, const QString &table)
     {
-        const TableCopy copy(from.connection(), m_to.connection(), table, step());
+        TableCopy copy(from.connection(), m_to.connection(), table, step());
+        copy.onIndexes = [this, &table](bool begins) {
+            m_progress.tell(begins ? CareTexts::tr("Building the indexes of %1").arg(Layouts::titleOf(table))
+                                   : QString());
+        };
         if (m_to.tableExists(table)) {
             const TableDigest digest = copy.digest();
             if (!copy.isThere(digest))

@@ -71,8 +71,7 @@ TableDigest TableCopy::run() const
         read = walk(m_from, [&insert](const Row &row) { insert->add(row); });
         insert->finish();
     }
-    for (const QString &statement : m_to.dialect().createIndexes(m_layout))
-        m_to.execute(statement);
+    buildIndexes();
     for (const Engine::FieldDef &field : m_layout.fields)
         if (field.type == Engine::FieldType::AutoInc)
             passNumbers(field.name);
@@ -83,6 +82,16 @@ TableDigest TableCopy::run() const
     if (walk(m_to, {}) != read)
         throw RuleError(CareTexts::tr("The table %1 does not hold the same in the copy.").arg(m_layout.name));
     return read;
+}
+
+void TableCopy::buildIndexes() const
+{
+    if (onIndexes)
+        onIndexes(true);
+    for (const QString &statement : m_to.dialect().createIndexes(m_layout))
+        m_to.execute(statement);
+    if (onIndexes)
+        onIndexes(false);
 }
 
 // What the engine numbers goes on above what has come along.

@@ -30,6 +30,9 @@ public:
     // The step is told now and then.
     TableCopy(Engine::Connection &from, Engine::Connection &to, const QString &table, std::function<void()> step);
 
+    std::function<void(bool)> onIndexes =
+        {}; // told at begin and end of building the indexes, which goes without steps
+
     const Engine::TableLayout &layout() const { return m_layout; }
     TableDigest digest() const; // of what stands in the source
     bool isThere(const TableDigest &digest) const; // the other store has it already, and the same in it
@@ -42,6 +45,7 @@ private:
     using Row = QList<Engine::Value>;
 
     TableDigest walk(Engine::Connection &store, const std::function<void(const Row &)> &take) const;
+    void buildIndexes() const;
     void passNumbers(const QString &field) const;
     QString columns(Engine::Connection &store) const;
 

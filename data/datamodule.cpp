@@ -162,6 +162,21 @@ void TDataModuleTallymere::tellMoved()
     m_prompts.warn(text);
 }
 
+// A new index of a long table takes its time.
+void TDataModuleTallymere::applyLayout(const Engine::TableLayout &layout)
+{
+    if (!m_database.tableExists(layout.name))
+        return m_database.createTable(layout);
+    if (!m_database.differs(layout))
+        return;
+    if (!m_options.changeBeside)
+        return m_database.restructureTable(layout);
+    m_options.changeBeside(DataTexts::tr("Bringing the table %1 up to date").arg(Layouts::titleOf(layout.name)),
+                           m_database,
+                           [&layout](Engine::Database &database) { database.restructureTable(layout); });
+    m_database.connection().forgetStatements(); // which were made for the table as it was
+}
+
 void TDataModuleTallymere::prepareTables()
 {
     const QHash<QString, std::function<void()>> seeds{
@@ -171,7 +186,7 @@ void TDataModuleTallymere::prepareTables()
         {u"Currency"_s, [&] { Seeds::firstCurrency(m_database, m_config, m_options.locale); }},
     };
     for (const Engine::TableLayout *layout : Layouts::applied()) {
-        m_database.createOrUpdateTable(*layout);
+        applyLayout(*layout);
         if (const auto seed = seeds.find(layout->name); seed != seeds.end())
             seed.value()();
     }

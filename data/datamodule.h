@@ -30,6 +30,10 @@ struct DataModuleOptions
     std::function<void(std::chrono::milliseconds)> waitFor{}; // how lock retries pause; see Engine::Session
     std::function<QDateTime()> clock{}; // see Engine::Session
     QLocale locale = QLocale::system(); // names the first currency where the host's configuration does not
+    // Brings a table of a former release to its layout, over a connection of its own, where its user can be told so; without
+    // it that is done at once. Given are what is told and the change.
+    std::function<void(const QString &, Engine::Database &, const std::function<void(Engine::Database &)> &)>
+        changeBeside{};
     std::function<void(Engine::Database &)> prepareHost{}; // runs once connected, before any table is looked for
     // The last step: looks the current printer up and says whether its paper is A4; nothing when there is none. Whatever
     // it throws is ignored. Without an answer the locale's system of measurement decides.
@@ -94,6 +98,7 @@ private:
     void openReportParameters();
     void requireHost();
     void prepareTables();
+    void applyLayout(const Engine::TableLayout &layout);
     void tellMoved();
     void prepareReportPrinting();
 

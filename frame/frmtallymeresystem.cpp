@@ -180,6 +180,9 @@ void TFormTallymereSystem::prepareOpening()
                 return {};
             return printer.defaultPageSize().id() == QPageSize::A4;
         };
+        options.changeBeside = [this](const QString &what, Engine::Database &database, const auto &change) {
+            changeBeside(m_parent ? m_parent->window() : this, what, database, change);
+        };
         options.currentUser = hostUser(); // whom the locks of the connection name
         m_dataModule = std::make_unique<TDataModuleTallymere>(m_services.settings, m_services.prompts, options);
         m_serverLabel->follow(m_dataModule->databaseTallymere());

@@ -35,7 +35,17 @@ public:
             throw SilentAbort();
     }
     void finish() override { }
+    void tell(const QString &what) override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_told = what;
+    }
 
+    QString told() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_told;
+    }
     int steps() const { return m_steps; }
     int done() const { return m_done; }
     int started() const { return m_started; }
@@ -46,6 +56,8 @@ private:
     std::atomic<int> m_done = 0;
     std::atomic<int> m_started = 0;
     std::atomic<bool> m_cancelled = false;
+    mutable std::mutex m_mutex;
+    QString m_told;
 };
 
 // What ends the statement that a thread waits for, for the thread of the screens.
@@ -93,6 +105,7 @@ public:
     {
         constexpr unsigned long often = 20; // ms
         int started = -1;
+        QString told;
         while (!m_thread->wait(often)) {
             if (m_isCancelled) {
                 QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -101,6 +114,8 @@ public:
             try {
                 if (std::exchange(started, m_told.started()) != m_told.started())
                     box.start(m_told.steps());
+                if (const QString now = m_told.told(); std::exchange(told, now) != now)
+                    box.tell(now);
                 box.at(m_told.done());
             } catch (const SilentAbort &) {
                 m_isCancelled = true;
@@ -144,8 +159,8 @@ void workBeside(QWidget *window, const QString &what, Engine::Database &database
     workBeside(window, what, [&own, &work](Progress &progress) { work(own.database(), progress); });
 }
 
-void readBeside(QWidget *window, const QString &what, Engine::Database &database,
-                const std::function<void(Engine::Connection &)> &read)
+void changeBeside(QWidget *window, const QString &what, Engine::Database &database,
+                  const std::function<void(Engine::Database &)> &change)
 {
     OwnConnection own(database);
     StatementEnd end;
@@ -155,13 +170,19 @@ void readBeside(QWidget *window, const QString &what, Engine::Database &database
             Engine::Connection &connection = own.database().connection();
             end.set(connection.interrupter());
             told.step(); // it may have been cancelled before there was anything to end
-            read(connection);
+            change(own.database());
         },
         [&end] { end(); });
     beside.showIn(box);
     if (beside.isCancelled())
         throw SilentAbort();
     beside.rethrow();
+}
+
+void readBeside(QWidget *window, const QString &what, Engine::Database &database,
+                const std::function<void(Engine::Connection &)> &read)
+{
+    changeBeside(window, what, database, [&read](Engine::Database &own) { read(own.connection()); });
 }
 
 } // namespace Tallymere

@@ -22,6 +22,11 @@ void workBeside(QWidget *window, const QString &what, const std::function<void(P
 void workBeside(QWidget *window, const QString &what, Engine::Database &database,
                 const std::function<void(Engine::Database &, Progress &)> &work);
 
+// Changes what stays as it was where that is not done whole, as a table's layout: nobody knows how long it takes, and Cancel
+// ends the statement under way, with SilentAbort.
+void changeBeside(QWidget *window, const QString &what, Engine::Database &database,
+                  const std::function<void(Engine::Database &)> &change);
+
 // Reads only: nobody knows how long it takes, and Cancel ends the statement under way.
 void readBeside(QWidget *window, const QString &what, Engine::Database &database,
                 const std::function<void(Engine::Connection &)> &read);

@@ -21,6 +21,7 @@ constexpr int leastWidth = 320;
 
 ProgressBox::ProgressBox(QWidget *window, const QString &what, std::chrono::milliseconds shownAfter)
     : m_box(std::make_unique<QProgressDialog>(window))
+    , m_what(what)
     , m_shownAfter(shownAfter)
 {
     m_box->setObjectName(u"dlgProgress"_s);
@@ -56,6 +57,11 @@ void ProgressBox::showDone(int steps)
     repaint();
     if (m_box->wasCanceled())
         throw SilentAbort();
+}
+
+void ProgressBox::tell(const QString &what)
+{
+    m_box->setLabelText(what.isEmpty() ? m_what : m_what + u'\n' + what); // which makes room for it
 }
 
 void ProgressBox::finish()

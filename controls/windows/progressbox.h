@@ -24,6 +24,7 @@ public:
     ProgressBox &operator=(const ProgressBox &) = delete;
 
     void finish() override;
+    void tell(const QString &what) override; // below what all is about
 
 private:
     void showStart(int steps) override;
@@ -31,6 +32,7 @@ private:
     void repaint();
 
     std::unique_ptr<QProgressDialog> m_box;
+    const QString m_what;
     std::chrono::milliseconds m_shownAfter;
     QElapsedTimer m_sinceStart;
 };

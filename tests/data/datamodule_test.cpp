@@ -1,6 +1,7 @@
 
 #include "base/dataversion.h"
 #include "data/layouts.h"
+#include "data/ownconnection.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/dataplace.h"
@@ -129,7 +130,12 @@ TEST_P(DataModule, TablesOfAnOlderLayoutAreBroughtUpToDateWithTheirRowsUnlessInU
     EXPECT_EQ(store.found(u"SELECT Obsolete FROM Vendor"_s), u"x"_s);
     inUse.close();
 
-    start();
+    QStringList told;
+    start({.changeBeside = [&told](const QString &what, Engine::Database &database, const auto &change) {
+        told << what;
+        change(OwnConnection(database).database());
+    }});
+    EXPECT_EQ(told, QStringList{u"Bringing the table Vendors up to date"_s});
     for (const Engine::TableLayout *layout : Layouts::applied())
         EXPECT_FALSE(store.database().differs(*layout)) << layout->name.toStdString();
     EXPECT_EQ(store.found(u"SELECT VendorName FROM Vendor WHERE VendorID = 7"_s), QString(40, u'v'));
