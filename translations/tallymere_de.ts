@@ -173,6 +173,10 @@ Für Vorschau und Druck von Berichten muss ein Drucker festgelegt, aber nicht un
         <source>As of %1, %n seconds behind, from the standby server %2</source>
         <translation>Stand %1, %n Sekunden zurück, vom Bereitschaftsserver %2</translation>
     </message>
+    <message>
+        <source>(the decimal sign is &apos;%1&apos;, as in %2)</source>
+        <translation>(das Dezimalzeichen ist „%1“, wie in %2)</translation>
+    </message>
 </context>
 <context>
     <name>Books</name>
@@ -799,6 +803,14 @@ Für Vorschau und Druck von Berichten muss ein Drucker festgelegt, aber nicht un
         <source>The books are damaged, so that no sound backup of them can be made. A check of the books tells what is damaged and what mends it.</source>
         <translation>Die Bücher sind beschädigt, sodass keine heile Sicherung von ihnen gemacht werden kann. Eine Prüfung der Bücher sagt, was beschädigt ist und was hilft.</translation>
     </message>
+    <message>
+        <source>%1 is a folder. What is restored is one file, which a backup has made.</source>
+        <translation>%1 ist ein Ordner. Wiederhergestellt wird eine einzelne Datei, die eine Sicherung angelegt hat.</translation>
+    </message>
+    <message>
+        <source>Building the indexes of %1</source>
+        <translation>Die Indizes von %1 werden angelegt</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1366,6 +1378,10 @@ Lassen Sie alle das Programm schließen, und versuchen Sie es erneut. Wenn das n
     <message>
         <source>unit cost, cost, unit price, price</source>
         <translation>einstandspreis, preis, stückpreis, einzelpreis, kosten, stückkosten, ek, unit cost, unit price</translation>
+    </message>
+    <message>
+        <source>Bringing the table %1 up to date</source>
+        <translation>Die Tabelle %1 wird auf den neuesten Stand gebracht</translation>
     </message>
 </context>
 <context>
@@ -2605,6 +2621,14 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
         <source>There is no column &apos;%1&apos; to leave out.</source>
         <translation>Es gibt keine Spalte „%1“, die ausgelassen werden könnte.</translation>
     </message>
+    <message>
+        <source>There is only %n row, so that row %1 cannot hold the names of the columns.</source>
+        <translation>Es gibt nur %n Zeile, sodass Zeile %1 nicht die Namen der Spalten enthalten kann.</translation>
+    </message>
+    <message>
+        <source>There are only %n rows, so that row %1 cannot hold the names of the columns.</source>
+        <translation>Es gibt nur %n Zeilen, sodass Zeile %1 nicht die Namen der Spalten enthalten kann.</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>
@@ -2701,10 +2725,6 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
         <translation>Position %1 kann nicht bestellt werden: %2</translation>
     </message>
     <message>
-        <source>the end of period %1/%2</source>
-        <translation>Ende der Periode %1/%2</translation>
-    </message>
-    <message>
         <source>Use has to be looked at over a week at least</source>
         <translation>Der Verbrauch muss über mindestens eine Woche betrachtet werden</translation>
     </message>
@@ -2787,6 +2807,10 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
     <message>
         <source>Up to which period documents are taken stands in Edit, Other, Organization Setup.</source>
         <translation>Bis zu welcher Periode Belege angenommen werden, steht unter Bearbeiten, Sonstiges, Organisation einrichten.</translation>
+    </message>
+    <message>
+        <source>the end of period %1</source>
+        <translation>Ende der Periode %1</translation>
     </message>
 </context>
 <context>
@@ -9879,6 +9903,10 @@ Möchten Sie diese Menge beibehalten?</translation>
     <message>
         <source>%1 reverses %2 already. Reverse it once more?</source>
         <translation>%1 storniert %2 bereits. Noch einmal stornieren?</translation>
+    </message>
+    <message>
+        <source>That was at &quot;%1&quot;. A check of the books tells what of it has been written.</source>
+        <translation>Das war bei „%1“. Eine Prüfung der Bücher zeigt, was davon geschrieben worden ist.</translation>
     </message>
 </context>
 </TS>

@@ -173,6 +173,10 @@ Para ver o imprimir informes debe haber una impresora definida, aunque no es nec
         <source>As of %1, %n seconds behind, from the standby server %2</source>
         <translation>Datos de %1, con %n segundos de retraso, del servidor de reserva %2</translation>
     </message>
+    <message>
+        <source>(the decimal sign is &apos;%1&apos;, as in %2)</source>
+        <translation>(el signo decimal es «%1», como en %2)</translation>
+    </message>
 </context>
 <context>
     <name>Books</name>
@@ -799,6 +803,14 @@ Para ver o imprimir informes debe haber una impresora definida, aunque no es nec
         <source>The books are damaged, so that no sound backup of them can be made. A check of the books tells what is damaged and what mends it.</source>
         <translation>Los libros están dañados, de modo que no se puede hacer una copia de seguridad íntegra de ellos. Una comprobación de los libros dice qué está dañado y qué lo remedia.</translation>
     </message>
+    <message>
+        <source>%1 is a folder. What is restored is one file, which a backup has made.</source>
+        <translation>%1 es una carpeta. Lo que se restaura es un archivo, el que creó una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>Building the indexes of %1</source>
+        <translation>Creando los índices de %1</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1366,6 +1378,10 @@ Haga que todos cierren el programa e inténtelo de nuevo. Si no da resultado, re
     <message>
         <source>unit cost, cost, unit price, price</source>
         <translation>costo unitario, coste unitario, costo, coste, costo unit, precio unitario, precio, unit cost, cost, unit price, price</translation>
+    </message>
+    <message>
+        <source>Bringing the table %1 up to date</source>
+        <translation>Actualizando la tabla %1</translation>
     </message>
 </context>
 <context>
@@ -2605,6 +2621,14 @@ tabla de ubicaciones de Ledgerwick?</translation>
         <source>There is no column &apos;%1&apos; to leave out.</source>
         <translation>No hay ninguna columna &apos;%1&apos; que dejar fuera.</translation>
     </message>
+    <message>
+        <source>There is only %n row, so that row %1 cannot hold the names of the columns.</source>
+        <translation>Solo hay %n fila, así que la fila %1 no puede contener los nombres de las columnas.</translation>
+    </message>
+    <message>
+        <source>There are only %n rows, so that row %1 cannot hold the names of the columns.</source>
+        <translation>Solo hay %n filas, así que la fila %1 no puede contener los nombres de las columnas.</translation>
+    </message>
 </context>
 <context>
     <name>Insight</name>
@@ -2701,10 +2725,6 @@ tabla de ubicaciones de Ledgerwick?</translation>
         <translation>La línea %1 no se puede comprar: %2</translation>
     </message>
     <message>
-        <source>the end of period %1/%2</source>
-        <translation>final del período %1/%2</translation>
-    </message>
-    <message>
         <source>Use has to be looked at over a week at least</source>
         <translation>El consumo debe observarse durante una semana como mínimo</translation>
     </message>
@@ -2787,6 +2807,10 @@ tabla de ubicaciones de Ledgerwick?</translation>
     <message>
         <source>Up to which period documents are taken stands in Edit, Other, Organization Setup.</source>
         <translation>Hasta qué periodo se aceptan documentos está en Editar, Otros, Datos de la organización.</translation>
+    </message>
+    <message>
+        <source>the end of period %1</source>
+        <translation>final del período %1</translation>
     </message>
 </context>
 <context>
@@ -9879,6 +9903,10 @@ Do you want to keep this quantity?</source>
     <message>
         <source>%1 reverses %2 already. Reverse it once more?</source>
         <translation>%1 ya revierte %2. ¿Revertirlo otra vez?</translation>
+    </message>
+    <message>
+        <source>That was at &quot;%1&quot;. A check of the books tells what of it has been written.</source>
+        <translation>Ocurrió en «%1». Una comprobación de los libros indica qué parte se ha guardado.</translation>
     </message>
 </context>
 </TS>
