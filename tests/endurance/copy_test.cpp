@@ -1,6 +1,6 @@
-// The sample books are copied from a folder onto a server and back, and are the same row by row afterwards. Whoever copies
-// or moves them is killed at any step, while others write; what is there of the copy opens as nothing, the books are as they
-// were, and the same again comes to its end.
+// Books are copied from a folder onto a server and back, the sample ones and random ones, and are the same row by row
+// afterwards. Whoever copies or moves them is killed at any step, while others write; what is there of the copy opens as
+// nothing, the books are as they were, and the same again comes to its end.
 
 #include "base/settingsstore.h"
 #include "care/bookcopy.h"
@@ -8,14 +8,13 @@
 #include "host/tables/hosttables.h"
 #include "tests/support/chance.h"
 #include "tests/support/dataplace.h"
-#include "tests/support/failures.h"
+#include "tests/support/documents.h"
 #include "tests/support/otheruser.h"
-#include "tests/support/spokenprompts.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
 
+#include <cmath>
 #include <csignal>
 #include <cstdio>
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
@@ -57,6 +56,70 @@ struct CopyTest : testing::Test
     CopyTest() { qputenv("TALLYMERE_TEST_SEED", QByteArray::number(seed)); }
 
     int below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
+
+    // Whatever a table may hold, in every table that there is.
+    void makeRandom(Kitchen &kitchen)
+    {
+        kitchen.makeHost();
+        for (const Engine::TableLayout *layout : Layouts::applied())
+            kitchen.database().createOrUpdateTable(*layout);
+        SpokenPrompts prompts;
+        CountedProgress progress;
+        for (int id = 1; id <= 30; ++id)
+            addRandomDocument(kitchen, *DocumentKinds::all().at(id % DocumentKinds::all().size()), id,
+                              1 + below(40), random);
+        postAll(kitchen);
+        for (const QString &table : tablesOfBooks(kitchen.database()))
+            addRandomRows(kitchen.database(), kitchen.database().connection().describe(table).value());
+    }
+
+    void addRandomRows(Engine::Database &database, const Engine::TableLayout &layout)
+    {
+        static const QSet<QString> oneRow{u"Config"_s, u"Company"_s, u"IDataVersion"_s, u"IBackup"_s};
+        if (oneRow.contains(layout.name))
+            return;
+        Engine::Transaction transaction(database.connection());
+        const auto insert = database.connection().bulkInsert(layout);
+        for (int row = 0; row < 40; ++row) {
+            QList<Engine::Value> values;
+            for (const Engine::FieldDef &field : layout.fields) {
+                const bool isKey = layout.primaryFields().contains(field.name, Qt::CaseInsensitive);
+                values << (isKey && Engine::isWholeNumber(field.type) ? Engine::Value(30'000 - row)
+                                                                      : randomValue(field, isKey ? row : -1));
+            }
+            insert->add(values);
+        }
+        insert->finish();
+        transaction.commit();
+    }
+
+    // Of a key, one for each row.
+    Engine::Value randomValue(const Engine::FieldDef &field, int row)
+    {
+        static const QStringList texts{
+            u""_s,     u"\\N"_s,     u"\\"_s,           u"a\tb"_s,       u"line\r\nline\n"_s,
+            u"NULL"_s, u" blank "_s, u"Ünïcödé 日本"_s, u"\"q\", 'r'"_s, u"\U0001F34E"_s};
+        if (row < 0 && random() % 4 == 0)
+            return {};
+        switch (field.type) {
+        case Engine::FieldType::Boolean:
+            return random() % 2 == 0;
+        case Engine::FieldType::Float:
+        case Engine::FieldType::Money:
+            return std::ldexp(static_cast<double>(random()) - 2e9, below(60) - 40);
+        case Engine::FieldType::Date:
+            return QDate(1900, 1, 1).addDays(row < 0 ? below(90'000) : row);
+        case Engine::FieldType::DateTime:
+            return QDateTime(QDate(2026, 1, 1), QTime(0, 0)).addSecs(below(30'000'000));
+        case Engine::FieldType::Text:
+        case Engine::FieldType::Memo: {
+            const QString text = row < 0 ? texts[below(static_cast<int>(texts.size()))] : QString::number(row);
+            return field.type == Engine::FieldType::Text ? text.left(field.size) : text;
+        }
+        default:
+            return row < 0 ? below(60'000) - 30'000 : row;
+        }
+    }
 
     static void fillSample(TestStore &store)
     {
@@ -134,18 +197,23 @@ struct CopyTest : testing::Test
     int survived = 0;
 };
 
-TEST_F(CopyTest, BooksComeBackAsTheyWent)
+TEST_F(CopyTest, TheSampleAndRandomBooksComeBackAsTheyWent)
 {
-    const int kills = timesByHand(3);
+    const int kills = timesByHand(2);
     TestStore sample(Store::Local);
     fillSample(sample);
-    TestStore server(Store::Remote);
-    copyKilled(sample, server, u"copy"_s, kills);
-    EXPECT_GT(contents(server.database()).size(), 1'000);
-    TestStore back(Store::Local);
-    copyKilled(server, back, u"move"_s, kills);
-    takeUpAgain(server.database(), u"maria"_s);
-    EXPECT_TRUE(opens(server));
+    Kitchen kitchen(Store::Local);
+    makeRandom(kitchen);
+    for (TestStore *books : {&sample, static_cast<TestStore *>(&kitchen)}) {
+        TestStore server(Store::Remote);
+        copyKilled(*books, server, u"copy"_s, kills);
+        const QStringList there = contents(server.database());
+        EXPECT_GT(there.size(), 1'000);
+        TestStore back(Store::Local);
+        copyKilled(server, back, u"move"_s, kills);
+        takeUpAgain(server.database(), u"maria"_s);
+        EXPECT_TRUE(opens(server));
+    }
     std::printf("%d killed, %d came to their end first\n", killed, survived);
 }
 

@@ -262,18 +262,61 @@ struct KillsTest : testing::TestWithParam<Store>
         process->waitForFinished();
         return isOver && process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
     }
+    void killImport(int number)
+    {
+        const QByteArray order = "K" + QByteArray::number(number);
+        const QByteArray row = "V1,Office,2026-11-02,26,11," + order + ",A1,4,2\n";
+        cli.writeFile(
+            u"k.csv"_s,
+            "VendorNo,WarehouseName,ReceiptDate,GLYear,GLPeriod,PurchaseOrderNo,ItemNo,QtyReceived,UnitCost\n" + row
+                + row);
+        const bool answered = killCommand({u"import"_s, u"receipts"_s, u"k.csv"_s});
+        const QString lines = rows(u"SELECT count(*) FROM IReceipt I JOIN IRecDet D ON D.ReceiptID = I.ReceiptID "
+                                   "WHERE PurchaseOrderNo = '%1'"_s.arg(QString::fromUtf8(order)))
+                                  .value(0);
+        EXPECT_TRUE(lines == "2"_L1 || (lines == "0"_L1 && !answered)) << qPrintable(lines);
+    }
+    // What is there of a backup is whole; what is there of a restored folder as well.
+    void killBackup(int number)
+    {
+        const QString copy = cli.folder() + u"/copy%1"_s.arg(number);
+        const bool answered = killCommand({u"backup"_s, copy});
+        EXPECT_TRUE(QFile::exists(copy) || !answered);
+        if (!QFile::exists(copy))
+            return;
+        const QString folder = cli.folder() + u"/restored%1"_s.arg(number);
+        for (const bool isKilled : {true, false}) {
+            QProcess restore;
+            restore.start(QStringLiteral(TALLYMERE_PROGRAM), {u"--data"_s, folder, u"restore"_s, copy});
+            restore.waitForStarted();
+            if (isKilled) {
+                QThread::usleep(below(100'000));
+                restore.kill();
+            }
+            const CliResult result = CliRunner::finish(restore);
+            const bool isThere = has(result.errors, u"holds"_s); // it was there in time
+            EXPECT_TRUE(isKilled || result.status == 0 || isThere) << result;
+        }
+        EXPECT_TRUE(QFile::remove(copy));
+        EXPECT_NE(cli.runBare({u"--data"_s, folder, u"totals"_s}).status, 3);
+        requireSound(folder);
+    }
     void killOne(int number)
     {
         static const QStringList others{
             u"sync|items"_s, u"sync|locations"_s,       u"init"_s, u"check|--repair"_s, u"totals"_s,
             u"history"_s,    u"report|Value by Item"_s, u"buy"_s};
         const QStringList post{u"post"_s, DocumentKinds::all()[below(3)]->name};
-        const unsigned what = below(10);
-        if (what <= 1)
+        const unsigned what = below(12);
+        if (what == 0)
+            killImport(number);
+        else if (what == 1)
+            killBackup(number);
+        else if (what <= 3)
             killCommand(others[below(std::size_t(others.size()))].split(u'|'));
-        else if (what == 2)
+        else if (what == 4)
             EXPECT_TRUE(!killCommand(post) || cli.run(post).output.startsWith(u'0'));
-        else if (what <= 4)
+        else if (what <= 6)
             killPerson(number);
         else
             killWindow(number);
@@ -308,7 +351,7 @@ struct KillsTest : testing::TestWithParam<Store>
     std::mt19937 random{chanceSeed()};
     Ledger ledger;
     std::map<QString, int> kills;
-    std::map<QString, qint64> longest{{u"post"_s, 60}};
+    std::map<QString, qint64> longest{{u"backup"_s, 100}, {u"post"_s, 60}, {u"import"_s, 60}};
     int unfinished = 0;
 };
 ON_BOTH_STORES(KillsTest);
