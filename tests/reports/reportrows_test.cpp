@@ -28,7 +28,8 @@ TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
                     "(99, 77, 2025, 12, 0, '2025-12-31', -1, 0, NULL)"_s);
     kitchen.execute(
         u"INSERT INTO IAdjust (AdjustmentID, AdjDescription, GLYear, GLPeriod, AdjDate, WarehouseID, Posted) "
-        "VALUES (1, 'Spoiled', 2026, 3, '2026-03-14', 77, true); UPDATE ItemType SET ItemTypeID = 9 - ItemTypeID; "
+        "VALUES (1, 'Spoiled', 2026, 3, '2026-03-14', 77, true), (2, 'Lost', 2025, 3, '2025-03-14', 77, false); "
+        "UPDATE ItemType SET ItemTypeID = 9 - ItemTypeID; "
         "UPDATE Item SET ItemTypeID = 9 - ItemTypeID"_s);
     kitchen.addReceipt(1, 2, 1, {}, u"PO7"_s);
     const std::tuple<const char *, QString, QByteArray> cases[] = {
@@ -45,7 +46,10 @@ TEST_P(ListReports, ShowWhatTheListDoesAndWhoseItemOrLocationIsGone)
         {"Inventory Adjustments",
          {},
          "Band,Periodppyyyy,AdjDescription,AdjDate,WarehouseName,Posted\r\n"
-         "detail,3/2026,Spoiled,2026-03-14,,true\r\n"},
+         "detail,3/2026,Spoiled,2026-03-14,,true\r\ndetail,3/2025,Lost,2025-03-14,,false\r\n"},
+        {"Inventory Adjustments", u"|POSTED"_s,
+         "Band,Periodppyyyy,AdjDescription,AdjDate,WarehouseName,Posted\r\n"
+         "detail,3/2025,Lost,2025-03-14,,false\r\ndetail,3/2026,Spoiled,2026-03-14,,true\r\n"},
         {"Inventory History",
          {},
          "Band,ItemNo,ItemDescription,TransDate,Periodppyyyy,TransTypeName,TransDescription,Quantity,UnitCost,"
