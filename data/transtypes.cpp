@@ -11,11 +11,11 @@ const QList<TransTypeInfo> &transTypes()
     using enum TransTypeInfo::Direction;
     using enum TransTypeInfo::Summary;
     static const QList<TransTypeInfo> types = {
-        {TransType::Adjust, DataTexts::tr("Adjust"), DataTexts::tr("Adjustments"), PutsIn, Adjustments},
-        {TransType::Usage, DataTexts::tr("Usage"), DataTexts::tr("Usage"), TakesOut, Sales},
-        {TransType::PoReceipt, DataTexts::tr("PO Receipt"), DataTexts::tr("PO Receipts"), PutsIn, Receipts},
-        {TransType::Sale, DataTexts::tr("Sale"), {}, TakesOut, Sales},
-        {TransType::MfgReceipt, DataTexts::tr("Mfg Receipt"), {}, PutsIn, None},
+        {TransType::Adjust, DataTexts::tr("Adjust"), DataTexts::tr("Adjustments"), PutsIn, Adjustments, false},
+        {TransType::Usage, DataTexts::tr("Usage"), DataTexts::tr("Usage"), TakesOut, Sales, false},
+        {TransType::PoReceipt, DataTexts::tr("PO Receipt"), DataTexts::tr("PO Receipts"), PutsIn, Receipts, true},
+        {TransType::Sale, DataTexts::tr("Sale"), {}, TakesOut, Sales, false},
+        {TransType::MfgReceipt, DataTexts::tr("Mfg Receipt"), {}, PutsIn, None, false},
     };
     return types;
 }

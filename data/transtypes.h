@@ -26,6 +26,7 @@ struct TransTypeInfo
     QString filterText; // in the filter of the history: "PO Receipts"; empty: it is not offered there
     Direction direction; // what its quantity does to the stock
     Summary summary;
+    bool setsAverage; // what it puts in moves the item's weighted average cost
 
     double change(double quantity) const { return direction == Direction::TakesOut ? -quantity : quantity; }
 };

@@ -245,7 +245,7 @@ void TFormTallymereSystem::fillContext()
         .chooseFileToSave = chooseFileToSave,
         .printList =
             [this](const QString &report, const QString &filter, const QString &order) {
-                showReport(*m_context, *ReportList::find(report), {.filter = filter, .order = order}, this);
+                showReport(*m_context, ReportList::require(report), {.filter = filter, .order = order}, this);
             },
         .importFile = [this](const QString &kind, const QString &file,
                              QWidget *window) { return m_imports->import(kind, file, window); },

@@ -46,7 +46,8 @@ public:
         while (row->next()) {
             const auto type = static_cast<int>(row->intAt(0));
             const double after = onHand + stockChange(type, row->doubleAt(1));
-            if (type == static_cast<int>(TransType::PoReceipt) && !row->isNull(2)) {
+            const TransTypeInfo *known = transType(type);
+            if (known && known->setsAverage && !row->isNull(2)) {
                 CostStep step = stepOf(*row);
                 step.onHandBefore = withoutNoise(onHand);
                 step.onHandAfter = withoutNoise(after);

@@ -19,6 +19,8 @@ public:
         , m_map(layout, set)
         , m_rows(set)
     {
+        for (const QString &name : m_map.names())
+            m_set.field(name); // or EngineError: nothing else fills these in
     }
 
     const QStringList &fields() const override { return m_map.names(); }

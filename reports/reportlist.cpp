@@ -1,5 +1,6 @@
 #include "reports/reportlist.h"
 
+#include "base/ruleerror.h"
 #include "reports/texts.h"
 
 #include <algorithm>
@@ -36,6 +37,13 @@ const ReportDescription *find(const QString &text)
             || report.name.compare(text, Qt::CaseInsensitive) == 0;
     });
     return found == all().cend() ? nullptr : &*found;
+}
+
+const ReportDescription &require(const QString &text)
+{
+    if (const ReportDescription *report = find(text))
+        return *report;
+    throw RuleError(ReportsTexts::tr("There is no report %1").arg(text));
 }
 
 const QList<const ReportDescription *> &offered()

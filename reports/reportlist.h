@@ -19,6 +19,7 @@ QList<ReportDescription> stockReports(); // as it was, and what to buy
 const QList<ReportDescription> &all(); // that have something to show
 // By its list text or its name, without regard to letter case; nullptr when there is none.
 const ReportDescription *find(const QString &text);
+const ReportDescription &require(const QString &text); // RuleError when there is none
 
 // What the wizard offers, in its order; some have nothing to show yet.
 const QList<const ReportDescription *> &offered();

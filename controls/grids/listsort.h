@@ -18,7 +18,6 @@ public:
     bool canSortBy(int column) const;
     void sortBy(int column);
     int column() const; // -1 where the order shows in no column
-    bool isDescending() const { return m_shown.descending; }
 
 Q_SIGNALS:
     void changed();

@@ -9,7 +9,6 @@
 #include "controls/windows/filterchip.h"
 #include "controls/windows/icons.h"
 #include "controls/windows/menukeyboard.h"
-#include "controls/windows/printerneeded.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/windowplaces.h"
 #include "data/fields.h"
@@ -211,7 +210,6 @@ QString orderOf(const Engine::DataSet &set)
 
 void ListScreen::print(const QString &report)
 {
-    requirePrinter(m_context);
     m_context.printList(report, m_data->isFiltered() ? m_data->filter() : QString(), orderOf(*m_data));
 }
 

@@ -95,13 +95,4 @@ void FactList::addFact(const QString &name, const QString &figure, Tone tone)
     m_layout->addWidget(new Fact(name, figure, tone, this));
 }
 
-void FactList::addNote(const QString &text)
-{
-    auto *note = new QLabel(text, this);
-    note->setFont(secondFont(note->font()));
-    note->setWordWrap(true);
-    note->setContentsMargins(0, scaled(this, 4), 0, 0);
-    m_layout->addWidget(note);
-}
-
 } // namespace Tallymere

@@ -19,7 +19,6 @@ public:
     void clear();
     void addHead(const QString &text);
     void addFact(const QString &name, const QString &figure, Tone tone = Tone::Usual);
-    void addNote(const QString &text); // a sentence in small letters
 
 private:
     QVBoxLayout *m_layout;

@@ -115,7 +115,7 @@ void TfrmCostTrail::openReceipt(int row)
 
 void TfrmCostTrail::print()
 {
-    showReportOnScreen(context(), *ReportList::find(u"TrptCostTrail"_s), {.itemId = m_item}, parentWidget());
+    showReportOnScreen(context(), ReportList::require(u"TrptCostTrail"_s), {.itemId = m_item}, parentWidget());
 }
 
 } // namespace Tallymere

@@ -40,7 +40,6 @@ public:
     // each other leave the same, or a day is not at the same place in both.
     int roomOfFigures() const;
     void leaveForFigures(int room);
-    int currentPoint() const { return m_current; } // -1: none
 
 Q_SIGNALS:
     void told(const QString &text); // of the point under the mouse or the cursor; empty: of none

@@ -195,7 +195,7 @@ void TfrmMonthEnd::showMore(const Shown &shown)
 
 void TfrmMonthEnd::print(const QString &report)
 {
-    TfrmPreview &preview = showReport(context(), *ReportList::find(report), {}, parentWidget());
+    TfrmPreview &preview = showReport(context(), ReportList::require(report), {}, parentWidget());
     connect(&preview, &TfrmPreview::given, this, [this, period = m_ending.period] {
         if (period != m_ending.period)
             return; // what was shown was not this one's

@@ -145,7 +145,7 @@ void TfrmStockAsOf::mnuPrintClick()
     ReportSelection selection{.period = m_view.time().period, .year = m_view.time().year, .day = m_view.time().day};
     selection.filter = dataSet().isFiltered() ? dataSet().filter() : QString();
     selection.order = dataSet().orderedFields().constFirst().name;
-    showReport(context(), *ReportList::find(u"TrptStockAsOf"_s), selection, parentWidget());
+    showReport(context(), ReportList::require(u"TrptStockAsOf"_s), selection, parentWidget());
 }
 
 } // namespace Tallymere

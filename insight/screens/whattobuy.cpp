@@ -26,7 +26,7 @@ namespace {
 
 constexpr int shownRows = 16;
 
-const ReportDescription &report() { return *ReportList::find(u"TrptWhatToBuy"_s); }
+const ReportDescription &report() { return ReportList::require(u"TrptWhatToBuy"_s); }
 
 } // namespace
 

@@ -24,7 +24,6 @@ public:
     QString currentText() const; // of that page, line by line
 
     // In percent of the real size. The place in sight stays.
-    int zoom() const { return m_zoom; }
     void setZoom(int percent);
     int zoomToWidth() const;
     int zoomToPage() const;

@@ -152,9 +152,12 @@ TEST(RemoteFailures, SomebodysLockIsWaitedForWithinBoundsAndItsHolderNamed)
         {row,
          [&] {
              GroupedWrites writes(store.database());
-             const StatementPtr update = store.connection().prepare(u"UPDATE T SET b = b + 10"_s);
-             writes.apply([&](Writes &sink) { sink.send(*update); });
-             writes.finish();
+             for (const char *sql :
+                  {"INSERT INTO T SELECT max(a) + 1, 0 FROM T", "UPDATE T SET b = b + 10 WHERE a = 1"}) {
+                 const StatementPtr statement = store.connection().prepare(QString::fromLatin1(sql));
+                 writes.apply([&](Writes &sink) { sink.send(*statement); });
+                 writes.finish();
+             }
          }},
     };
     for (const auto &[held, waiting] : cases) {
@@ -172,7 +175,8 @@ TEST(RemoteFailures, SomebodysLockIsWaitedForWithinBoundsAndItsHolderNamed)
         store.session().lockAttempts = attempts;
         store.session().waitFor = nullptr;
     }
-    EXPECT_EQ(store.found(u"SELECT b FROM T"_s), u"22") << "each change once";
+    EXPECT_EQ(store.found(u"SELECT b FROM T WHERE a = 1"_s), u"22") << "each change once";
+    EXPECT_EQ(store.found(u"SELECT COUNT(*) FROM T"_s), u"3") << "what a group before has written likewise";
 }
 
 TEST(RemoteFailures, AGroupIsCommittedUpToItsStepBeforeSomebodyIsAskedAboutALock)

@@ -171,6 +171,9 @@ TEST_P(LocksTest, TheHolderIsNamedAndSinceWhen)
     bobs.unlockRecord(u"Item"_s, {-6});
     EXPECT_EQ(named(mine.ownerOf(u"Item"_s)), u"-"_s);
     EXPECT_EQ(named(mine.ownerOf(u"Tax"_s)), u"anna"_s);
+    annas.unlockTable(u"Tax"_s);
+    ASSERT_TRUE(bobs.tryLockTable(u"Tax"_s));
+    EXPECT_EQ(named(mine.ownerOf(u"Tax"_s)), u"bob"_s);
 }
 
 // Whoever may read the lock file can lock it, and no note says so.

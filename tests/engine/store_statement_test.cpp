@@ -34,7 +34,9 @@ TEST_P(StatementTest, ARunKeepsWhatItHasRead)
     const auto anna = store.anotherUser();
     const auto read = [&](const QString &sql, qint64 key) {
         const StatementPtr statement = connection.prepare(sql);
-        statement->bindInt(0, key);
+        statement->bindInt(0, 1);
+        statement->next();
+        statement->bindInt(0, key); // and it is asked anew
         QStringList row;
         while (statement->next())
             row << statement->textAt(0) << QString::number(statement->intAt(1));
