@@ -4161,6 +4161,10 @@ Die Salden des Hauptbuchs usw. wurden vorgetragen, sodass Sie jetzt die Abschlü
         <source>Day concerned</source>
         <translation>Betroffener Tag</translation>
     </message>
+    <message>
+        <source>There is no report %1</source>
+        <translation>Es gibt keinen Bericht %1</translation>
+    </message>
 </context>
 <context>
     <name>Sample</name>

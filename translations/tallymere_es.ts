@@ -4161,6 +4161,10 @@ Los saldos contables ya se han traspasado, etc., de modo que ahora puede imprimi
         <source>Day concerned</source>
         <translation>Día afectado</translation>
     </message>
+    <message>
+        <source>There is no report %1</source>
+        <translation>No hay ningún informe %1</translation>
+    </message>
 </context>
 <context>
     <name>Sample</name>
