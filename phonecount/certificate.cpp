@@ -13,7 +13,7 @@ namespace Tallymere {
 
 namespace {
 
-constexpr long day = 24 * 60 * 60;
+constexpr long day = 24L * 60 * 60;
 constexpr long versionThree = 2;
 constexpr int shownBytes = 8;
 

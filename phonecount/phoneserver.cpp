@@ -21,7 +21,7 @@ namespace Tallymere {
 namespace {
 
 constexpr int mostConnections = 48;
-constexpr qint64 longestRequest = 16 * 1024; // its head with it
+constexpr qint64 longestRequest = qint64(16) * 1024; // its head with it
 constexpr int handshakeTime = 5000; // milliseconds
 constexpr int silence = 20'000; // from the last answer to the end of the next request
 constexpr quint16 firstPort = 21'000;
