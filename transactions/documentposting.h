@@ -21,9 +21,9 @@ namespace Tallymere {
 // is written, it stays unposted, and the documents before it stay posted. The RuleError says how many these are, and how
 // many wait behind it.
 //
-// Failure of the store: an EngineError, which names the document where one was in hand. Documents before it stay posted; the one in hand stays marked, with what
-// was written before the failing statement. The end of the process or of the machine leaves whole documents only,
-// at most the last two seconds of them unposted. Use on the thread that opened the database.
+// Failure of the store: an EngineError, which names the document where one was in hand. Documents before it stay posted; the
+// one in hand stays marked, with what was written before the failing statement. The end of the process or of the machine
+// leaves whole documents only, at most the last two seconds of them unposted. Use on the thread that opened the database.
 class DocumentPosting final
 {
 public:
