@@ -6,7 +6,7 @@
 #include "bench/benchdata.h"
 #include "engine/records/query.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/stockcount.h"
+#include "transactions/counting/stockcount.h"
 
 #include <array>
 #include <cstdio>

@@ -11,11 +11,11 @@
 #include "printing/rowreader.h"
 #include "reports/reportlist.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/documententry.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
-#include "transactions/historyview.h"
-#include "transactions/totalsview.h"
+#include "transactions/books/totalsview.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/documents/historyview.h"
+#include "transactions/entry/documententry.h"
+#include "transactions/posting/documentposting.h"
 
 #include <cstdio>
 #include <QCoreApplication>

@@ -7,7 +7,7 @@
 #include "engine/records/query.h"
 #include "engine/records/table.h"
 #include "engine/store/dialect.h"
-#include "transactions/totalsview.h"
+#include "transactions/books/totalsview.h"
 
 #include <cstdio>
 #include <QCoreApplication>

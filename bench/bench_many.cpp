@@ -14,8 +14,8 @@
 #include "reports/reportlist.h"
 #include "tests/support/otheruser.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/posting/documentposting.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -8,8 +8,8 @@
 #include "engine/store/readmoment.h"
 #include "reports/reportlist.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/posting/documentposting.h"
 
 #include <cstdio>
 #include <QCoreApplication>

@@ -7,8 +7,8 @@
 #include "bench/benchdata.h"
 #include "bench/rawposting.h"
 #include "engine/records/query.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/posting/documentposting.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -8,7 +8,7 @@
 #include "controls/grids/tablemodel.h"
 #include "data/fields.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/historyview.h"
+#include "transactions/documents/historyview.h"
 
 #include <cstdio>
 #include <QApplication>

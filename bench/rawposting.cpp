@@ -1,6 +1,6 @@
 #include "bench/rawposting.h"
 
-#include "transactions/receiptcost.h"
+#include "transactions/kinds/receiptcost.h"
 
 #include <cstdlib>
 #include <libpq-fe.h>

@@ -5,8 +5,8 @@
 #include "engine/store/session.h"
 #include "engine/values/error.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/documententry.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/entry/documententry.h"
 
 #include <atomic>
 #include <cstdio>

@@ -1,6 +1,6 @@
 #include "care/closedbooks.h"
 
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 namespace Tallymere {
 

@@ -6,7 +6,7 @@
 #include "engine/records/query.h"
 #include "engine/store/dialect.h"
 #include "master/masterkinds.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 #include "engine/store/database.h"
 #include "engine/store/dialect.h"
 #include "engine/store/sqlcondition.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 #include <cmath>
 #include <map>

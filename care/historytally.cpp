@@ -1,7 +1,7 @@
 #include "care/historytally.h"
 
 #include "engine/store/driver.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,7 +3,7 @@
 #include "care/texts.h"
 #include "data/layouts.h"
 #include "master/masterkinds.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 

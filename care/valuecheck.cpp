@@ -4,7 +4,7 @@
 #include "data/layouts.h"
 #include "engine/store/dialect.h"
 #include "master/masterkinds.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 using Engine::FieldType;

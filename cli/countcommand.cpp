@@ -5,7 +5,7 @@
 #include "cli/optionvalues.h"
 #include "cli/texts.h"
 #include "import/countfile.h"
-#include "transactions/stockcount.h"
+#include "transactions/counting/stockcount.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "cli/command.h"
 #include "cli/texts.h"
 #include "engine/values/error.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/posting/documentposting.h"
 
 #include <optional>
 

@@ -10,9 +10,9 @@
 #include "import/importablerows.h"
 #include "insight/stockasofview.h"
 #include "master/masterkinds.h"
-#include "transactions/documentkinds.h"
-#include "transactions/historyview.h"
-#include "transactions/totalsview.h"
+#include "transactions/books/totalsview.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/documents/historyview.h"
 
 using namespace Qt::StringLiterals;
 

@@ -42,6 +42,7 @@ set(allowed_cli ${rules} help host/tables host/sample host/books master transact
 # Floors of a large room, from the ground up: a file stands on one of them, and includes from its own and from those below.
 set(floors_engine values store filter records)
 set(floors_controls windows grids fields screens)
+set(floors_transactions books documents posting entry kinds counting)
 
 get_cmake_property(variables VARIABLES)
 set(rooms ${variables})

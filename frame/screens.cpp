@@ -10,7 +10,7 @@
 #include "master/screens/masterscreens.h"
 #include "reports/screens/blankinventoryreportselection.h"
 #include "reports/screens/invreports.h"
-#include "transactions/documentkind.h"
+#include "transactions/documents/documentkind.h"
 #include "transactions/screens/documentlistscreen.h"
 #include "transactions/screens/documentpostscreen.h"
 #include "transactions/screens/documentscreens.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/readaside.h"
-#include "transactions/today.h"
+#include "insight/today.h"
 
 #include <functional>
 #include <optional>

@@ -3,7 +3,7 @@
 #include "base/ruleerror.h"
 #include "import/importfile.h"
 #include "import/texts.h"
-#include "transactions/stockcount.h"
+#include "transactions/counting/stockcount.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,7 +3,7 @@
 #include "import/importanswers.h"
 #include "import/importkind.h"
 #include "import/keynames.h"
-#include "transactions/documententry.h"
+#include "transactions/entry/documententry.h"
 
 #include <memory>
 

@@ -9,8 +9,8 @@
 #include "import/texts.h"
 #include "master/masterkinds.h"
 #include "master/masterlist.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentlist.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/documents/documentlist.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "base/ruleerror.h"
 #include "data/fields.h"
 #include "insight/texts.h"
-#include "transactions/quantitycheck.h"
+#include "transactions/books/quantitycheck.h"
 
 #include <algorithm>
 

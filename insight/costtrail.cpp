@@ -7,7 +7,7 @@
 #include "engine/store/driver.h"
 #include "engine/store/readmoment.h"
 #include "insight/texts.h"
-#include "transactions/receiptcost.h"
+#include "transactions/kinds/receiptcost.h"
 
 using namespace Qt::StringLiterals;
 using Engine::Money;

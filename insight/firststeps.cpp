@@ -6,8 +6,8 @@
 #include "insight/texts.h"
 #include "master/masterkind.h"
 #include "master/masterkinds.h"
-#include "transactions/documentkind.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkind.h"
+#include "transactions/documents/documentkinds.h"
 
 #include <algorithm>
 

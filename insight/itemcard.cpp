@@ -5,7 +5,7 @@
 #include "engine/store/driver.h"
 #include "engine/store/readmoment.h"
 #include "insight/texts.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/fiscalperiod.h"
-#include "transactions/today.h"
+#include "insight/today.h"
 
 #include <functional>
 #include <QDateTime>

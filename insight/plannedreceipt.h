@@ -1,6 +1,6 @@
 #pragma once
 
-#include "transactions/documententry.h"
+#include "transactions/entry/documententry.h"
 
 #include <vector>
 

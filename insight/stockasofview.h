@@ -1,7 +1,7 @@
 #pragma once
 
 #include "insight/stockasof.h"
-#include "transactions/totalsview.h"
+#include "transactions/books/totalsview.h"
 
 #include <optional>
 

@@ -7,7 +7,7 @@
 #include "engine/store/readmoment.h"
 #include "engine/store/sqlcondition.h"
 #include "insight/texts.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 #include <algorithm>
 #include <cmath>

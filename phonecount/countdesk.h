@@ -1,6 +1,6 @@
 #pragma once
 
-#include "transactions/countlist.h"
+#include "transactions/counting/countlist.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #include "phonecount/stockcountdesk.h"
 
 #include "master/barcodes.h"
-#include "transactions/stockcount.h"
+#include "transactions/counting/stockcount.h"
 
 namespace Tallymere {
 

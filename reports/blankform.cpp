@@ -5,7 +5,7 @@
 #include "reports/columns.h"
 #include "reports/reportlist.h"
 #include "reports/texts.h"
-#include "transactions/countsource.h"
+#include "transactions/counting/countsource.h"
 
 #include <algorithm>
 

@@ -6,10 +6,10 @@
 #include "reports/datasetrows.h"
 #include "reports/reportlist.h"
 #include "reports/texts.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentlist.h"
-#include "transactions/historyview.h"
-#include "transactions/totalsview.h"
+#include "transactions/books/totalsview.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/documents/documentlist.h"
+#include "transactions/documents/historyview.h"
 
 #include <utility>
 

@@ -2812,6 +2812,58 @@ Lagerorttabelle von Ledgerwick einfügen?</translation>
         <source>the end of period %1</source>
         <translation>Ende der Periode %1</translation>
     </message>
+    <message>
+        <source>Period</source>
+        <translation>Periode</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Last saved by: %1</source>
+        <translation>Zuletzt gespeichert von: %1</translation>
+    </message>
+    <message>
+        <source>%1. New in the list asks whether to go on.</source>
+        <translation>%1. „Neu“ in der Liste fragt, ob Sie damit fortfahren.</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>heute</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>gestern</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>No backup of this database is known.</source>
+        <translation>Von dieser Datenbank ist keine Sicherung bekannt.</translation>
+    </message>
+    <message>
+        <source>%1, by %2</source>
+        <translation>%1, von %2</translation>
+    </message>
+    <message>
+        <source>Below zero</source>
+        <translation>Unter null</translation>
+    </message>
+    <message>
+        <source>Begun, not saved</source>
+        <translation>Angefangene Belege</translation>
+    </message>
+    <message>
+        <source>Counts begun</source>
+        <translation>Laufende Zählungen</translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation>Sicherung</translation>
+    </message>
 </context>
 <context>
     <name>ItemBarcodesDialog</name>
@@ -9665,54 +9717,6 @@ Vorgänge, die ihn betreffen, gebucht sind.</translation>
     <message>
         <source>Do you want to calculate it nevertheless?</source>
         <translation>Möchten Sie trotzdem berechnen?</translation>
-    </message>
-    <message>
-        <source>not known</source>
-        <translation>nicht bekannt</translation>
-    </message>
-    <message>
-        <source>Last saved by: %1</source>
-        <translation>Zuletzt gespeichert von: %1</translation>
-    </message>
-    <message>
-        <source>%1. New in the list asks whether to go on.</source>
-        <translation>%1. „Neu“ in der Liste fragt, ob Sie damit fortfahren.</translation>
-    </message>
-    <message>
-        <source>today</source>
-        <translation>heute</translation>
-    </message>
-    <message>
-        <source>yesterday</source>
-        <translation>gestern</translation>
-    </message>
-    <message>
-        <source>never</source>
-        <translation>nie</translation>
-    </message>
-    <message>
-        <source>No backup of this database is known.</source>
-        <translation>Von dieser Datenbank ist keine Sicherung bekannt.</translation>
-    </message>
-    <message>
-        <source>%1, by %2</source>
-        <translation>%1, von %2</translation>
-    </message>
-    <message>
-        <source>Below zero</source>
-        <translation>Unter null</translation>
-    </message>
-    <message>
-        <source>Begun, not saved</source>
-        <translation>Angefangene Belege</translation>
-    </message>
-    <message>
-        <source>Counts begun</source>
-        <translation>Laufende Zählungen</translation>
-    </message>
-    <message>
-        <source>Backup</source>
-        <translation>Sicherung</translation>
     </message>
     <message>
         <source>has no Weighted Average Cost.</source>

@@ -2812,6 +2812,58 @@ tabla de ubicaciones de Ledgerwick?</translation>
         <source>the end of period %1</source>
         <translation>final del período %1</translation>
     </message>
+    <message>
+        <source>Period</source>
+        <translation>Período</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>Last saved by: %1</source>
+        <translation>Guardado por última vez por: %1</translation>
+    </message>
+    <message>
+        <source>%1. New in the list asks whether to go on.</source>
+        <translation>%1. Con Nuevo, la lista pregunta si desea continuar.</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>hoy</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>ayer</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nunca</translation>
+    </message>
+    <message>
+        <source>No backup of this database is known.</source>
+        <translation>No se conoce ninguna copia de seguridad de esta base de datos.</translation>
+    </message>
+    <message>
+        <source>%1, by %2</source>
+        <translation>%1, por %2</translation>
+    </message>
+    <message>
+        <source>Below zero</source>
+        <translation>Existencias negativas</translation>
+    </message>
+    <message>
+        <source>Begun, not saved</source>
+        <translation>Empezados sin guardar</translation>
+    </message>
+    <message>
+        <source>Counts begun</source>
+        <translation>Recuentos empezados</translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation>Copia de seguridad</translation>
+    </message>
 </context>
 <context>
     <name>ItemBarcodesDialog</name>
@@ -9665,54 +9717,6 @@ se hayan contabilizado todos los movimientos que la afectan.</translation>
     <message>
         <source>Do you want to calculate it nevertheless?</source>
         <translation>¿Desea calcularlo de todos modos?</translation>
-    </message>
-    <message>
-        <source>not known</source>
-        <translation>desconocido</translation>
-    </message>
-    <message>
-        <source>Last saved by: %1</source>
-        <translation>Guardado por última vez por: %1</translation>
-    </message>
-    <message>
-        <source>%1. New in the list asks whether to go on.</source>
-        <translation>%1. Con Nuevo, la lista pregunta si desea continuar.</translation>
-    </message>
-    <message>
-        <source>today</source>
-        <translation>hoy</translation>
-    </message>
-    <message>
-        <source>yesterday</source>
-        <translation>ayer</translation>
-    </message>
-    <message>
-        <source>never</source>
-        <translation>nunca</translation>
-    </message>
-    <message>
-        <source>No backup of this database is known.</source>
-        <translation>No se conoce ninguna copia de seguridad de esta base de datos.</translation>
-    </message>
-    <message>
-        <source>%1, by %2</source>
-        <translation>%1, por %2</translation>
-    </message>
-    <message>
-        <source>Below zero</source>
-        <translation>Existencias negativas</translation>
-    </message>
-    <message>
-        <source>Begun, not saved</source>
-        <translation>Empezados sin guardar</translation>
-    </message>
-    <message>
-        <source>Counts begun</source>
-        <translation>Recuentos empezados</translation>
-    </message>
-    <message>
-        <source>Backup</source>
-        <translation>Copia de seguridad</translation>
     </message>
     <message>
         <source>has no Weighted Average Cost.</source>

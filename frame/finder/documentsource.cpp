@@ -4,8 +4,8 @@
 #include "data/datamodule.h"
 #include "frame/commands.h"
 #include "frame/texts.h"
-#include "transactions/documentkind.h"
-#include "transactions/documentsearch.h"
+#include "transactions/documents/documentkind.h"
+#include "transactions/documents/documentsearch.h"
 #include "transactions/screens/documentscreens.h"
 
 #include <algorithm>

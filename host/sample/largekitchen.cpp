@@ -3,7 +3,7 @@
 #include "data/fields.h"
 #include "engine/store/groupedwrites.h"
 #include "host/sample/largecatalogue.h"
-#include "transactions/receiptcost.h"
+#include "transactions/kinds/receiptcost.h"
 
 using namespace Qt::StringLiterals;
 using Engine::Money;

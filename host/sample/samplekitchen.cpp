@@ -6,8 +6,8 @@
 #include "host/sample/largekitchen.h"
 #include "host/sample/samplefiles.h"
 #include "host/sample/texts.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/posting/documentposting.h"
 
 using namespace Qt::StringLiterals;
 

@@ -8,7 +8,7 @@
 #include "data/datamodule.h"
 #include "reports/reportlist.h"
 #include "reports/screens/showreport.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 #include "transactions/screens/documentscreens.h"
 
 #include <QHBoxLayout>

@@ -12,7 +12,7 @@
 #include "insight/screens/costtrailscreen.h"
 #include "insight/screens/curveview.h"
 #include "master/masterkinds.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 #include "transactions/screens/documentscreens.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "master/masterkinds.h"
 #include "tests/cli/clirunner.h"
 #include "tests/support/files.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

@@ -6,8 +6,8 @@
 #include "tests/endurance/people.h"
 #include "tests/support/chance.h"
 #include "tests/support/kitchen.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/posting/documentposting.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

@@ -5,9 +5,9 @@
 #include "tests/support/files.h"
 #include "tests/support/spokenprompts.h"
 #include "tests/support/teststore.h"
-#include "transactions/documententry.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentlist.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/documents/documentlist.h"
+#include "transactions/entry/documententry.h"
 
 #include <QProcess>
 #include <unistd.h>

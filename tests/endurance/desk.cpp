@@ -7,7 +7,7 @@
 #include "frame/commandrunner.h"
 #include "frame/screenregistry.h"
 #include "frame/synchronization.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 #include "transactions/screens/documentpostscreen.h"
 #include "transactions/screens/enterinventory.h"
 #include "transactions/screens/invreceipt.h"

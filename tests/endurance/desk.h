@@ -2,7 +2,7 @@
 
 #include "tests/endurance/day.h"
 #include "tests/support/screentest.h"
-#include "transactions/documentkind.h"
+#include "transactions/documents/documentkind.h"
 
 // The module as a host has it open on some books, and what somebody does in its windows by keyboard. A step throws a Refusal
 // where it does not come to what it should.

@@ -7,9 +7,9 @@
 #include "tests/endurance/people.h"
 #include "tests/support/chance.h"
 #include "tests/support/files.h"
-#include "transactions/begundocument.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "transactions/documents/begundocument.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/posting/documentposting.h"
 
 #include <csignal>
 #include <QThread>

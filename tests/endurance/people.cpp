@@ -9,13 +9,13 @@
 #include "tests/support/failures.h"
 #include "tests/support/files.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/documententry.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentlist.h"
-#include "transactions/documentposting.h"
-#include "transactions/historyview.h"
-#include "transactions/stockcount.h"
-#include "transactions/totalsview.h"
+#include "transactions/books/totalsview.h"
+#include "transactions/counting/stockcount.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/documents/documentlist.h"
+#include "transactions/documents/historyview.h"
+#include "transactions/entry/documententry.h"
+#include "transactions/posting/documentposting.h"
 
 #include <cstdio>
 

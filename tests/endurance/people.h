@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/support/otheruser.h"
-#include "transactions/documentkind.h"
+#include "transactions/documents/documentkind.h"
 
 #include <QSet>
 

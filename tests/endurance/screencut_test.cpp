@@ -3,7 +3,7 @@
 #include "tests/endurance/books.h"
 #include "tests/endurance/desk.h"
 #include "tests/support/otheruser.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

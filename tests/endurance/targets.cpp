@@ -14,7 +14,7 @@
 #include "engine/values/error.h"
 #include "import/importfile.h"
 #include "tests/support/spokenprompts.h"
-#include "transactions/countdraft.h"
+#include "transactions/counting/countdraft.h"
 
 #include <cmath>
 #include <QBuffer>

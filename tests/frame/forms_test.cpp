@@ -33,12 +33,12 @@
 #include "tests/support/screendriver.h"
 #include "tests/support/spokenlanguage.h"
 #include "tests/support/teststore.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "transactions/counting/stockcount.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/posting/documentposting.h"
 #include "transactions/screens/countdifferencesscreen.h"
 #include "transactions/screens/documentscreens.h"
 #include "transactions/screens/pasterowsscreen.h"
-#include "transactions/stockcount.h"
 
 #include <QAccessible>
 #include <QMenuBar>

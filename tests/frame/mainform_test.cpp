@@ -7,7 +7,7 @@
 #include "tests/frame/testcompany.h"
 #include "tests/support/screendriver.h"
 #include "tests/support/teststore.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 #include "transactions/screens/documentscreens.h"
 
 #include <QTemporaryFile>

@@ -6,7 +6,7 @@
 #include "reports/reportlist.h"
 #include "tests/support/chance.h"
 #include "tests/support/documents.h"
-#include "transactions/totalsvalue.h"
+#include "transactions/books/totalsvalue.h"
 
 #include <cmath>
 

@@ -2,7 +2,7 @@
 #include "phonecount/stockcountdesk.h"
 #include "tests/support/countingphone.h"
 #include "tests/support/kitchen.h"
-#include "transactions/stockcount.h"
+#include "transactions/counting/stockcount.h"
 
 #include <QEventLoop>
 #include <QJsonArray>

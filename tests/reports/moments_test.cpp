@@ -4,7 +4,7 @@
 #include "tests/reports/reportcsvof.h"
 #include "tests/support/dataplace.h"
 #include "tests/support/documents.h"
-#include "transactions/historyview.h"
+#include "transactions/documents/historyview.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

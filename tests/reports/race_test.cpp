@@ -8,10 +8,10 @@
 #include "tests/support/dataplace.h"
 #include "tests/support/kitchen.h"
 #include "tests/support/otheruser.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
-#include "transactions/historyview.h"
-#include "transactions/totalsview.h"
+#include "transactions/books/totalsview.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/documents/historyview.h"
+#include "transactions/posting/documentposting.h"
 
 #include <cmath>
 #include <cstdio>

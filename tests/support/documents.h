@@ -1,9 +1,9 @@
 #pragma once
 
 #include "tests/support/kitchen.h"
-#include "transactions/documententry.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentposting.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/entry/documententry.h"
+#include "transactions/posting/documentposting.h"
 
 #include <algorithm>
 #include <random>

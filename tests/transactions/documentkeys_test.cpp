@@ -1,6 +1,6 @@
 #include "tests/support/documents.h"
-#include "transactions/lastsaved.h"
-#include "transactions/stockcount.h"
+#include "transactions/books/lastsaved.h"
+#include "transactions/counting/stockcount.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

@@ -1,7 +1,7 @@
 #include "tests/support/documents.h"
-#include "transactions/adjustmententry.h"
-#include "transactions/historyview.h"
-#include "transactions/waitingdocuments.h"
+#include "transactions/documents/historyview.h"
+#include "transactions/documents/waitingdocuments.h"
+#include "transactions/kinds/adjustmententry.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

@@ -1,9 +1,9 @@
-#include "transactions/documentlist.h"
+#include "transactions/documents/documentlist.h"
 
 #include "tests/support/kitchen.h"
-#include "transactions/documentkinds.h"
-#include "transactions/documentsearch.h"
-#include "transactions/usagedeletion.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/documents/documentsearch.h"
+#include "transactions/kinds/usagedeletion.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

@@ -1,4 +1,4 @@
-#include "transactions/leftdocuments.h"
+#include "transactions/entry/leftdocuments.h"
 
 #include "tests/support/documents.h"
 #include "tests/support/otheruser.h"

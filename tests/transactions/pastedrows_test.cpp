@@ -1,4 +1,4 @@
-#include "transactions/pastedrows.h"
+#include "transactions/entry/pastedrows.h"
 
 #include "tests/support/brokentable.h"
 #include "tests/support/documents.h"

@@ -1,5 +1,5 @@
-#include "transactions/postingdocuments.h"
-#include "transactions/postingoutlook.h"
+#include "transactions/posting/postingdocuments.h"
+#include "transactions/posting/postingoutlook.h"
 
 #include "tests/support/chance.h"
 #include "tests/support/documents.h"

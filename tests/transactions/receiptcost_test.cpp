@@ -1,4 +1,4 @@
-#include "transactions/receiptcost.h"
+#include "transactions/kinds/receiptcost.h"
 
 #include "engine/values/amounttoolarge.h"
 

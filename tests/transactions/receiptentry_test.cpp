@@ -1,4 +1,4 @@
-#include "transactions/receiptentry.h"
+#include "transactions/kinds/receiptentry.h"
 
 #include "tests/support/documents.h"
 #include "tests/support/givenrules.h"

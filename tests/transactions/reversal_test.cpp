@@ -1,4 +1,4 @@
-#include "transactions/reversal.h"
+#include "transactions/entry/reversal.h"
 
 #include "tests/support/documents.h"
 

@@ -1,10 +1,10 @@
-#include "transactions/stockcount.h"
+#include "transactions/counting/stockcount.h"
 
 #include "engine/store/tablelocks.h"
 #include "tests/support/files.h"
 #include "tests/support/kitchen.h"
-#include "transactions/countdifferences.h"
-#include "transactions/documentkinds.h"
+#include "transactions/counting/countdifferences.h"
+#include "transactions/documents/documentkinds.h"
 
 using namespace Qt::StringLiterals;
 using namespace Tallymere;

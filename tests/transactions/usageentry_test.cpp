@@ -1,4 +1,4 @@
-#include "transactions/usageentry.h"
+#include "transactions/kinds/usageentry.h"
 
 #include "tests/support/documents.h"
 

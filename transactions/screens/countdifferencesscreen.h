@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/screens/dialogscreen.h"
-#include "transactions/countdifferences.h"
+#include "transactions/counting/countdifferences.h"
 
 #include <memory>
 

@@ -2,7 +2,7 @@
 
 #include "controls/grids/entrygrid.h"
 #include "engine/values/field.h"
-#include "transactions/countlist.h"
+#include "transactions/counting/countlist.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/gridcolumn.h"
-#include "transactions/countlist.h"
+#include "transactions/counting/countlist.h"
 
 #include <functional>
 #include <QAbstractTableModel>

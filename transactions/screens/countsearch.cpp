@@ -3,7 +3,7 @@
 #include "base/regionalsettings.h"
 #include "data/numbercounter.h"
 #include "engine/values/linetext.h"
-#include "transactions/countlist.h"
+#include "transactions/counting/countlist.h"
 #include "transactions/screens/countgrid.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/grids/datagrid.h"
-#include "transactions/countdifferences.h"
+#include "transactions/counting/countdifferences.h"
 
 #include <optional>
 

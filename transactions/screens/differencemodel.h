@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/gridcolumn.h"
-#include "transactions/countdifferences.h"
+#include "transactions/counting/countdifferences.h"
 
 #include <QAbstractTableModel>
 #include <QCoreApplication>

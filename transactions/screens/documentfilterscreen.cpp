@@ -1,7 +1,7 @@
 #include "transactions/screens/documentfilterscreen.h"
 
 #include "data/fields.h"
-#include "transactions/documentkind.h"
+#include "transactions/documents/documentkind.h"
 
 using namespace Qt::StringLiterals;
 

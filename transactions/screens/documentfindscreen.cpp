@@ -3,7 +3,7 @@
 #include "controls/screens/filternote.h"
 #include "controls/screens/listscreen.h"
 #include "controls/screens/wordsfinding.h"
-#include "transactions/documentlist.h"
+#include "transactions/documents/documentlist.h"
 #include "ui_documentfindscreen.h"
 
 namespace Tallymere {

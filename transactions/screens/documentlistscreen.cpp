@@ -3,7 +3,7 @@
 #include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
-#include "transactions/documentfilter.h"
+#include "transactions/documents/documentfilter.h"
 #include "transactions/screens/documentfilterscreen.h"
 #include "transactions/screens/documentfindscreen.h"
 #include "transactions/screens/documentpostscreen.h"

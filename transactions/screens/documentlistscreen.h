@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/screens/recordlistscreen.h"
-#include "transactions/documentlist.h"
+#include "transactions/documents/documentlist.h"
 
 namespace Tallymere {
 

@@ -8,7 +8,7 @@
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/windowplaces.h"
 #include "data/datamodule.h"
-#include "transactions/lastsaved.h"
+#include "transactions/books/lastsaved.h"
 #include "transactions/screens/documentscreens.h"
 #include "ui_documentpostscreen.h"
 

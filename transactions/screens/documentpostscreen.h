@@ -1,9 +1,9 @@
 #pragma once
 
 #include "controls/screens/dialogscreen.h"
-#include "transactions/documentlist.h"
-#include "transactions/documentposting.h"
-#include "transactions/postingoutlook.h"
+#include "transactions/documents/documentlist.h"
+#include "transactions/posting/documentposting.h"
+#include "transactions/posting/postingoutlook.h"
 
 #include <memory>
 

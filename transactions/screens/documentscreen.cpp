@@ -14,9 +14,9 @@
 #include "data/lookupsdatainv.h"
 #include "master/screens/itemsearchinv.h"
 #include "master/screens/scanneditem.h"
-#include "transactions/begundocument.h"
-#include "transactions/leftdocuments.h"
-#include "transactions/reversal.h"
+#include "transactions/documents/begundocument.h"
+#include "transactions/entry/leftdocuments.h"
+#include "transactions/entry/reversal.h"
 #include "transactions/screens/documentscreens.h"
 #include "transactions/screens/pasterowsscreen.h"
 

@@ -4,7 +4,7 @@
 #include "controls/grids/tablemodel.h"
 #include "controls/screens/recordscreen.h"
 #include "engine/store/tablelocks.h"
-#include "transactions/documententry.h"
+#include "transactions/entry/documententry.h"
 
 #include <functional>
 

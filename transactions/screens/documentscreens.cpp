@@ -1,6 +1,6 @@
 #include "transactions/screens/documentscreens.h"
 
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 #include "transactions/screens/invadjustment.h"
 #include "transactions/screens/invreceipt.h"
 #include "transactions/screens/invreceipts.h"

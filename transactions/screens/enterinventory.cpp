@@ -16,7 +16,7 @@
 #include "phonecount/networkaddresses.h"
 #include "phonecount/screens/phonecountscreen.h"
 #include "phonecount/stockcountdesk.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 #include "transactions/screens/countdifferencesscreen.h"
 #include "transactions/screens/countsearch.h"
 #include "ui_enterinventory.h"

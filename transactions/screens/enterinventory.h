@@ -2,7 +2,7 @@
 
 #include "controls/screens/entryscreen.h"
 #include "data/lastchoices.h"
-#include "transactions/stockcount.h"
+#include "transactions/counting/stockcount.h"
 
 #include <memory>
 #include <QPointer>

@@ -1,7 +1,7 @@
 #include "transactions/screens/invadjustment.h"
 
-#include "transactions/adjustmententry.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/kinds/adjustmententry.h"
 #include "ui_invadjustment.h"
 
 #include <QKeyEvent>

@@ -4,7 +4,7 @@
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "data/transtypes.h"
-#include "transactions/documentkind.h"
+#include "transactions/documents/documentkind.h"
 #include "transactions/screens/documentscreen.h"
 #include "transactions/screens/documentscreens.h"
 #include "transactions/screens/invhistoryfilter.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "transactions/historyview.h"
+#include "transactions/documents/historyview.h"
 #include "transactions/screens/stockviewscreen.h"
 
 namespace Tallymere {

@@ -5,7 +5,7 @@
 #include "data/datamodule.h"
 #include "data/fiscalperiod.h"
 #include "data/transtypes.h"
-#include "transactions/historyview.h"
+#include "transactions/documents/historyview.h"
 
 using namespace Qt::StringLiterals;
 

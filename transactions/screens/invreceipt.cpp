@@ -3,8 +3,8 @@
 #include "controls/windows/screenmetrics.h"
 #include "data/fields.h"
 #include "data/lookupsdatainv.h"
-#include "transactions/documentkinds.h"
-#include "transactions/receiptentry.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/kinds/receiptentry.h"
 #include "ui_invreceipt.h"
 
 #include <QKeyEvent>

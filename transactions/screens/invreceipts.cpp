@@ -1,6 +1,6 @@
 #include "transactions/screens/invreceipts.h"
 
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 #include "transactions/screens/documentpostscreen.h"
 
 #include <QCloseEvent>

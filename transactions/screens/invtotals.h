@@ -1,8 +1,8 @@
 #pragma once
 
+#include "transactions/books/totalsview.h"
 #include "transactions/screens/stockvaluesum.h"
 #include "transactions/screens/stockviewscreen.h"
-#include "transactions/totalsview.h"
 
 namespace Tallymere {
 

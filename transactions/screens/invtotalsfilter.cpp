@@ -4,7 +4,7 @@
 #include "controls/fields/choicecombobox.h"
 #include "controls/fields/optionaldate.h"
 #include "data/datamodule.h"
-#include "transactions/totalsview.h"
+#include "transactions/books/totalsview.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,7 +3,7 @@
 #include "controls/screens/datedialog.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
-#include "transactions/documentkinds.h"
+#include "transactions/documents/documentkinds.h"
 #include "ui_invusage.h"
 
 using namespace Qt::StringLiterals;

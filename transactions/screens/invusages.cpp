@@ -3,8 +3,8 @@
 #include "controls/screens/datedialog.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
-#include "transactions/documentkinds.h"
-#include "transactions/usagedeletion.h"
+#include "transactions/documents/documentkinds.h"
+#include "transactions/kinds/usagedeletion.h"
 
 #include <algorithm>
 #include <QScopeGuard>

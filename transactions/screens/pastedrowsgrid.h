@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/grids/rowsgrid.h"
-#include "transactions/pastedrows.h"
+#include "transactions/entry/pastedrows.h"
 
 namespace Tallymere {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/screens/dialogscreen.h"
-#include "transactions/pastedrows.h"
+#include "transactions/entry/pastedrows.h"
 
 #include <memory>
 

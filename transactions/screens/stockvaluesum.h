@@ -1,6 +1,6 @@
 #pragma once
 
-#include "transactions/totalsvalue.h"
+#include "transactions/books/totalsvalue.h"
 
 #include <functional>
 #include <optional>
