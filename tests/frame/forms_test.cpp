@@ -14,6 +14,7 @@
 #include "host/aboutbox.h"
 #include "host/hostlook.h"
 #include "host/hostwindow.h"
+#include "import/importrows.h"
 #include "import/screens/importscreen.h"
 #include "insight/screens/costtrailscreen.h"
 #include "insight/screens/itemcard.h"
@@ -205,6 +206,18 @@ void expectApproved(QStringList blocks, const QString &name)
         ASSERT_EQ(facts.value(line), approved.value(line)) << "in line " << line + 1;
 }
 
+// What has been saved, which is gone then.
+QString rowsOf(const QString &name)
+{
+    QFile file(name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QString told = u"\n  "_s + QFileInfo(name).fileName();
+    for (const auto rows = openAllRows(file); rows->next();)
+        told += u"\n    "_s + rows->fields().join(u'|');
+    file.remove();
+    return told;
+}
+
 struct FormsTest : testing::Test
 {
     FormsTest()
@@ -362,6 +375,77 @@ struct FormsTest : testing::Test
         return windows;
     }
 
+    // Each command of each window leads where it led, each key does what it did; what is asked is agreed to, or not.
+    void expectSteps(bool agrees, const QString &approved)
+    {
+        qputenv("CUPS_SERVER", "/nonexistent"); // no printer of this machine gets anything
+        over.context.printerDefined = [] { return true; };
+        over.company.prompts.ok = agrees;
+        over.company.prompts.refused = u"Delete "_s; // so that each window finds the same records
+        QStringList walks;
+        WindowWalk *current = nullptr;
+        over.context.openScreen = [&current](const QString &name) -> QWidget * {
+            current->note(u"opens "_s + name);
+            return nullptr;
+        };
+        over.context.openAnotherScreen = over.context.openScreen;
+        over.context.hasScreen = [this](const QString &name) { return screens.contains(name); };
+        over.context.runAction = [&current](const QString &action) { current->note(u"runs "_s + action); };
+        over.context.say = [&current](const QString &text) { current->note(u"tells "_s + text); };
+        over.context.openObject = [&current](const QString &what) { current->note(u"opens "_s + what); };
+        QTemporaryDir files;
+        over.context.chooseFileToSave = [&](QWidget *, const FileChoice &choice) {
+            current->note(u"asks for a file"_s);
+            return agrees ? files.filePath(u"saved."_s + choice.suffix) : QString();
+        };
+        over.context.importFile = [&current](const QString &kind, const QString &file, QWidget *) {
+            current->note(u"imports "_s + kind + u' ' + timeless(file));
+            return true;
+        };
+        over.context.takeBackImport = [&current](const QString &kind, QWidget *) {
+            current->note(u"takes back "_s + kind);
+            return true;
+        };
+        over.context.saveForImport = [&current](const QString &kind, const QString &, QWidget *) {
+            current->note(u"saves "_s + kind);
+        };
+        over.context.printList = [&current](const QString &report, const QString &filter, const QString &order) {
+            current->note(u"prints "_s + report + u' ' + filter + u' ' + order);
+        };
+        over.context.showItem = [&current](int item) { current->note(u"shows item %1"_s.arg(item)); };
+        over.context.showHelp = [&current](const QString &name) { current->note(u"helps with "_s + name); };
+        const auto walk = [&](QWidget &window) {
+            WindowWalk way(window, over.company.prompts);
+            current = &way;
+            walks << (agrees ? way.runCommands() : way.run()).join(u'\n');
+            for (const QString &name : QDir(files.path()).entryList({u"*.csv"_s, u"*.xlsx"_s}, QDir::Files))
+                walks.last() += rowsOf(files.filePath(name));
+        };
+        HostStub host;
+        TFormTallymereSystem system({over.company.settings, over.company.prompts, screens});
+        system.init(&host);
+        QTimer::singleShot(0, &system, [&] {
+            const auto *last = system.findChild<FigureButton *>(u"todayBackup"_s);
+            EXPECT_TRUE(comesTrue([last] { return !last->figure().isEmpty(); }));
+            walk(system);
+            system.hide();
+        });
+        system.formTallymereSystemShowModal();
+        ASSERT_EQ(walks.size(), 1);
+        visitHost([&walk](QWidget &window) {
+            if (auto *making = window.findChild<QAction *>(u"actionSampleCompany"_s))
+                making->setEnabled(false); // how much of it is seen, the machine decides
+            walk(window);
+        });
+        visitAll([&walk](QWidget &window) {
+            for (auto *search : window.findChildren<QWidget *>(QRegularExpression(u"^edit(Search|Find)$"_s)))
+                search->setEnabled(false); // what it finds comes later
+            if (!qobject_cast<TFormTallymereSystem *>(&window)) // which needs its host
+                walk(window);
+        });
+        expectApproved(std::move(walks), approved);
+    }
+
     TestContext over;
     const ScreenRegistry screens = productScreens();
     QWidget mainWindow;
@@ -510,72 +594,9 @@ TEST_F(FormsTest, WindowsComeAsTheyWereLeft)
     expectApproved(come, u"remembered"_s);
 }
 
-// Each command of each window leads where it led, each key does what it did.
-TEST_F(FormsTest, EveryStepLeadsWhereItWasApprovedTo)
-{
-    qputenv("CUPS_SERVER", "/nonexistent"); // no printer of this machine gets anything
-    over.context.printerDefined = [] { return true; };
-    over.company.prompts.ok = false; // so that each window finds the same books
-    QStringList walks;
-    WindowWalk *current = nullptr;
-    over.context.openScreen = [&current](const QString &name) -> QWidget * {
-        current->note(u"opens "_s + name);
-        return nullptr;
-    };
-    over.context.openAnotherScreen = over.context.openScreen;
-    over.context.hasScreen = [this](const QString &name) { return screens.contains(name); };
-    over.context.runAction = [&current](const QString &action) { current->note(u"runs "_s + action); };
-    over.context.say = [&current](const QString &text) { current->note(u"tells "_s + text); };
-    over.context.openObject = [&current](const QString &what) { current->note(u"opens "_s + what); };
-    over.context.chooseFileToSave = [&current](QWidget *, const FileChoice &) {
-        current->note(u"asks for a file"_s);
-        return QString();
-    };
-    over.context.importFile = [&current](const QString &kind, const QString &file, QWidget *) {
-        current->note(u"imports "_s + kind + u' ' + timeless(file));
-        return true;
-    };
-    over.context.takeBackImport = [&current](const QString &kind, QWidget *) {
-        current->note(u"takes back "_s + kind);
-        return true;
-    };
-    over.context.saveForImport = [&current](const QString &kind, const QString &, QWidget *) {
-        current->note(u"saves "_s + kind);
-    };
-    over.context.printList = [&current](const QString &report, const QString &filter, const QString &order) {
-        current->note(u"prints "_s + report + u' ' + filter + u' ' + order);
-    };
-    over.context.showItem = [&current](int item) { current->note(u"shows item %1"_s.arg(item)); };
-    over.context.showHelp = [&current](const QString &name) { current->note(u"helps with "_s + name); };
-    const auto walk = [&](QWidget &window) {
-        WindowWalk way(window, over.company.prompts);
-        current = &way;
-        walks << way.run().join(u'\n');
-    };
-    HostStub host;
-    TFormTallymereSystem system({over.company.settings, over.company.prompts, screens});
-    system.init(&host);
-    QTimer::singleShot(0, &system, [&] {
-        const auto *last = system.findChild<FigureButton *>(u"todayBackup"_s);
-        EXPECT_TRUE(comesTrue([last] { return !last->figure().isEmpty(); }));
-        walk(system);
-        system.hide();
-    });
-    system.formTallymereSystemShowModal();
-    ASSERT_EQ(walks.size(), 1);
-    visitHost([&walk](QWidget &window) {
-        if (auto *making = window.findChild<QAction *>(u"actionSampleCompany"_s))
-            making->setEnabled(false); // how much of it is seen, the machine decides
-        walk(window);
-    });
-    visitAll([&walk](QWidget &window) {
-        for (auto *search : window.findChildren<QWidget *>(QRegularExpression(u"^edit(Search|Find)$"_s)))
-            search->setEnabled(false); // what it finds comes later
-        if (!qobject_cast<TFormTallymereSystem *>(&window)) // which needs its host
-            walk(window);
-    });
-    expectApproved(std::move(walks), u"steps"_s);
-}
+TEST_F(FormsTest, EveryStepLeadsWhereItWasApprovedTo) { expectSteps(false, u"steps"_s); }
+
+TEST_F(FormsTest, EveryStepThatIsAgreedToLeadsWhereItWasApprovedTo) { expectSteps(true, u"agreed"_s); }
 
 TEST_F(FormsTest, PostingByItselfShowsAnOpenListAnew)
 {

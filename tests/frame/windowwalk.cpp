@@ -216,7 +216,7 @@ void WindowWalk::typeEverywhere()
     }
 }
 
-QStringList WindowWalk::run()
+void WindowWalk::begin()
 {
     m_window->setAttribute(Qt::WA_DeleteOnClose, false);
     m_window->show();
@@ -224,12 +224,29 @@ QStringList WindowWalk::run()
     m_prompts.take();
     m_facts = factsOf(*m_window);
     m_steps = {titleOf(*m_window)};
-    useEach<QToolButton>([](QToolButton &button) { button.click(); }); // beside fields, with what stands in them
-    typeEverywhere();
+}
+
+void WindowWalk::chooseAll()
+{
     useEach<QAbstractButton>([](QAbstractButton &button) { button.click(); });
     useEach<QAction>([](QAction &command) { command.trigger(); });
     if (m_window && m_window->acceptDrops())
         step(u"drop"_s, [this] { drop(*m_window); });
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // of the windows that came
+}
+
+QStringList WindowWalk::run()
+{
+    begin();
+    useEach<QToolButton>([](QToolButton &button) { button.click(); }); // beside fields, with what stands in them
+    typeEverywhere();
+    chooseAll();
+    return m_steps;
+}
+
+QStringList WindowWalk::runCommands()
+{
+    begin();
+    chooseAll();
     return m_steps;
 }

@@ -18,12 +18,15 @@ public:
     }
 
     QStringList run();
+    QStringList runCommands(); // without the keys
     // Of something that the screens asked of the main window.
     void note(const QString &what) { m_became << what; }
 
 private:
     void step(const QString &name, const std::function<void()> &act);
     template <typename Control, typename Act> void useEach(Act act);
+    void begin();
+    void chooseAll();
     void typeEverywhere();
     void sendAway(QWidget *dialog);
 

@@ -13,6 +13,7 @@ class SpokenPrompts final : public Tallymere::Prompts
 public:
     QStringList said;
     bool ok = true; // to confirm()
+    QString refused; // begins questions that get a no all the same
     Tallymere::Answer answer = Tallymere::Answer::Cancel; // to yesNoCancel() and choose()
     int retries = 0; // how often retry() is answered with Retry
     std::function<void()> onChoose;
@@ -27,7 +28,7 @@ public:
     bool confirm(Tallymere::Question question, const QString &text) override
     {
         said << caption(question) + QStringLiteral(": ") + text;
-        return ok;
+        return ok && (refused.isEmpty() || !text.startsWith(refused));
     }
     Tallymere::Answer yesNoCancel(const QString &text, const QString &title) override
     {
