@@ -89,7 +89,7 @@ void runTotals(CommandContext &context)
         view.setSort(sort);
         view.setTime(*time);
         view.open();
-        return writeTotals(context, view.query(), StockAsOfView::QtyThen.toString());
+        return writeTotals(context, view.query(), StockAsOfView::QtyThen);
     }
     TotalsView view(data->databaseTallymere(), TotalsView::figuresFor(context.arguments.value(u"filter"_s)));
     view.setSort(sort);
@@ -104,8 +104,8 @@ void runHistory(CommandContext &context)
     view.open();
     writeRows(context, view.table(),
               columnsOf(fieldNames(Layouts::iHist())
-                        + QStringList{u"Periodppyyyy"_s, Fields::ItemNo, Fields::ItemDescription,
-                                      Fields::WarehouseName, u"TransTypeName"_s}));
+                        + QStringList{Fields::Periodppyyyy, Fields::ItemNo, Fields::ItemDescription,
+                                      Fields::WarehouseName, Fields::TransTypeName}));
 }
 
 const auto auditKind = u"audit"_s;
@@ -144,11 +144,8 @@ void writeAudit(CommandContext &context, Engine::Database &database)
 {
     AuditView view(database);
     view.open();
-    QStringList fields;
-    for (const QStringView field :
-         {AuditView::Day, AuditView::Time, AuditView::What, AuditView::Who, AuditView::Concerned})
-        fields.append(field.toString());
-    writeRows(context, view.query(), columnsOf(fields));
+    writeRows(context, view.query(),
+              columnsOf({AuditView::Day, AuditView::Time, AuditView::What, AuditView::Who, AuditView::Concerned}));
 }
 
 const ImportKind &requireImportKind(const CommandContext &context, const QString &name)

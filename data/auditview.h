@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/records/query.h"
+#include "engine/values/fieldname.h"
 
 namespace Tallymere {
 
@@ -8,11 +9,12 @@ namespace Tallymere {
 class AuditView
 {
 public:
-    static constexpr QStringView Day{u"DoneOn"};
-    static constexpr QStringView Time{u"DoneAt"};
-    static constexpr QStringView What{u"Event"};
-    static constexpr QStringView Who{u"DoneBy"};
-    static constexpr QStringView Concerned{u"Event_Date"}; // the day of what it was done to
+    static constexpr Engine::FieldName<Engine::FieldType::Date> Day{u"DoneOn"};
+    static constexpr Engine::FieldName<Engine::FieldType::Text> Time{u"DoneAt"};
+    static constexpr Engine::FieldName<Engine::FieldType::Text> What{u"Event"};
+    static constexpr Engine::FieldName<Engine::FieldType::Text> Who{u"DoneBy"};
+    static constexpr Engine::FieldName<Engine::FieldType::Date> Concerned{
+        u"Event_Date"}; // the day of what it was done to
 
     explicit AuditView(Engine::Database &database);
 

@@ -3,7 +3,8 @@
 #include "engine/values/fieldname.h"
 
 // The fields of the inventory tables. The layouts are built from them, and rules and screens name fields by them. A
-// name means one type in every table; it stands under the table that has it first. The names are stored ones.
+// name means one type in every table; it stands under the table that has it first. The names are stored ones,
+// except for the last.
 
 namespace Tallymere::Fields {
 
@@ -225,5 +226,11 @@ inline constexpr Engine::FieldName<Text> ProgramVersion{u"ProgramVersion"};
 inline constexpr Engine::FieldName<Date> Delivery_Date{u"Delivery_Date"};
 inline constexpr Engine::FieldName<Text> Services{u"Services"};
 inline constexpr Engine::FieldName<Text> Routes{u"Routes"};
+
+// Calculated for lists, and stored nowhere
+inline constexpr Engine::FieldName<Text> FullName{u"FullName"}; // of a person
+inline constexpr Engine::FieldName<Text> Periodppyyyy{u"Periodppyyyy"};
+inline constexpr Engine::FieldName<Text> TransTypeName{u"TransTypeName"};
+inline constexpr Engine::FieldName<Money> ExtAmount{u"ExtAmount"}; // of a line
 
 } // namespace Tallymere::Fields

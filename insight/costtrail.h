@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/values/fieldname.h"
 #include "engine/values/money.h"
 
 #include <optional>
@@ -29,6 +30,18 @@ struct CostStep
     double onHandAfter = 0;
     std::optional<Engine::Money> averageAfter;
 };
+
+// How files and reports name what a step knows of the stock and the average.
+namespace TrailFields {
+
+using enum Engine::FieldType;
+
+inline constexpr Engine::FieldName<Float> OnHandBefore{u"OnHandBefore"};
+inline constexpr Engine::FieldName<Money> AverageBefore{u"AverageBefore"};
+inline constexpr Engine::FieldName<Float> OnHandAfter{u"OnHandAfter"};
+inline constexpr Engine::FieldName<Money> AverageAfter{u"AverageAfter"};
+
+} // namespace TrailFields
 
 // How the average cost of an item has come about: its receipts in the order in which they were posted.
 struct CostTrail

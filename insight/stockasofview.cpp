@@ -4,16 +4,13 @@
 #include "data/fields.h"
 #include "engine/store/database.h"
 
-using Engine::FieldType;
-
 namespace Tallymere {
 
 StockAsOfView::StockAsOfView(Engine::Database &database)
     : m_totals(database, TotalsView::Figures::Value)
 {
-    query().addCalculated({QtyThen.toString(), FieldType::Float},
-                          [this](const Engine::DataSet &row) { return Engine::Value(then(row)); });
-    query().addCalculated({ValueThen.toString(), FieldType::Money},
+    query().addCalculated(QtyThen, [this](const Engine::DataSet &row) { return Engine::Value(then(row)); });
+    query().addCalculated(ValueThen,
                           [this](const Engine::DataSet &row) { return TotalsView::valueOf(row, then(row)); });
 }
 

@@ -12,8 +12,8 @@ namespace Tallymere {
 class StockAsOfView
 {
 public:
-    static constexpr QStringView QtyThen = u"QtyThen";
-    static constexpr QStringView ValueThen = u"ValueThen";
+    static constexpr Engine::FieldName<Engine::FieldType::Float> QtyThen{u"QtyThen"};
+    static constexpr Engine::FieldName<Engine::FieldType::Money> ValueThen{u"ValueThen"};
 
     explicit StockAsOfView(Engine::Database &database);
 

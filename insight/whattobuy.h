@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/values/fieldname.h"
 #include "engine/values/money.h"
 
 #include <optional>
@@ -41,6 +42,19 @@ struct ItemToBuy
     double daysLeft = 0; // that onHand and unposted last, to a tenth; 0 where there is nothing
     double proposed = 0; // whole units, 0 where the stock lasts long enough
 };
+
+// How lists, files and reports name what is told of it besides stored fields.
+namespace BuyingFields {
+
+using enum Engine::FieldType;
+
+inline constexpr Engine::FieldName<Float> UsePerWeek{u"UsePerWeek"};
+inline constexpr Engine::FieldName<Float> Unposted{u"Unposted"};
+inline constexpr Engine::FieldName<Float> DaysLeft{u"DaysLeft"};
+inline constexpr Engine::FieldName<Float> Proposed{u"Proposed"};
+inline constexpr Engine::FieldName<Money> LastCost{u"LastCost"};
+
+} // namespace BuyingFields
 
 // What has been used within the weeks, lasts less long than it is to and is not suspended, by vendor (those without one last), most urgent first. Use is
 // what went out by usage or sale; an adjustment is none. All of one moment. Throws RuleError for weeks that are not

@@ -1,8 +1,9 @@
 #include "reports/accountrows.h"
 
-#include <algorithm>
+#include "data/fields.h"
+#include "reports/reportfields.h"
 
-using namespace Qt::StringLiterals;
+#include <algorithm>
 
 namespace Tallymere {
 
@@ -11,9 +12,9 @@ AccountRows::AccountRows(Engine::Database &database, const ReportQuery &balances
     : m_balances(openQuery(database, balances, selection))
     , m_query(*m_balances)
     , m_map(layout, m_query)
-    , m_item(m_query.fieldIndex(u"ItemID"))
-    , m_location(m_query.fieldIndex(u"WarehouseID"))
-    , m_onHand(m_query.fieldIndex(m_location >= 0 ? u"QtyOnHand" : u"ItemQtyOnHand"))
+    , m_item(m_query.fieldIndex(Fields::ItemID))
+    , m_location(m_query.fieldIndex(Fields::WarehouseID))
+    , m_onHand(m_query.fieldIndex(m_location >= 0 ? Fields::QtyOnHand : ReportFields::ItemQtyOnHand))
     , m_movements(database, selection.year, selection.period, selection.warehouseId, m_location >= 0)
 {
 }

@@ -3,6 +3,7 @@
 #include "base/ruleerror.h"
 #include "printing/barcode.h"
 #include "reports/columns.h"
+#include "reports/reportfields.h"
 #include "reports/reportlist.h"
 #include "reports/texts.h"
 #include "transactions/counting/countsource.h"
@@ -42,8 +43,8 @@ public:
 
     const QStringList &fields() const override
     {
-        static const QStringList names{u"Category"_s,        u"TypeName"_s,  u"ItemNo"_s,
-                                       u"ItemDescription"_s, u"QtyOnhand"_s, u"Quantity"_s};
+        static const QStringList names{ReportFields::Category,  Fields::TypeName,     Fields::ItemNo,
+                                       Fields::ItemDescription, CountList::QtyOnhand, Fields::Quantity};
         return names;
     }
 
@@ -100,15 +101,16 @@ QList<Column> columns(const BlankFormChoices &choices)
 {
     QList<Column> columns;
     if (choices.barcodes)
-        columns.append(filled(Columns::cutText(u"ItemNo"_s, ReportsTexts::tr("Item No"), 1), Content::Barcode));
+        columns.append(filled(Columns::cutText(Fields::ItemNo, ReportsTexts::tr("Item No"), 1), Content::Barcode));
     else
-        columns.append(Columns::text(u"ItemNo"_s, ReportsTexts::tr("Item No"), 1.7));
+        columns.append(Columns::text(Fields::ItemNo, ReportsTexts::tr("Item No"), 1.7));
     if (!choices.byCategory && !choices.barcodes) // bars leave no room for it
-        columns.append(Columns::text(u"TypeName"_s, ReportsTexts::tr("Category"), 2));
-    columns.append(Columns::text(u"ItemDescription"_s, ReportsTexts::tr("Item"), 3));
+        columns.append(Columns::text(Fields::TypeName, ReportsTexts::tr("Category"), 2));
+    columns.append(Columns::text(Fields::ItemDescription, ReportsTexts::tr("Item"), 3));
     if (choices.priorQuantities)
-        columns.append(Columns::quantity(u"QtyOnhand"_s, ReportsTexts::tr("Prior Quantity")));
-    Column count = filled(Columns::quantity(u"Quantity"_s, ReportsTexts::tr("Current Quantity")), Content::Blank);
+        columns.append(Columns::quantity(CountList::QtyOnhand, ReportsTexts::tr("Prior Quantity")));
+    Column count =
+        filled(Columns::quantity(Fields::Quantity, ReportsTexts::tr("Current Quantity")), Content::Blank);
     count.width = 1.5;
     columns.append(count);
     return columns;
@@ -145,7 +147,7 @@ BlankFormChoices BlankFormChoices::from(const Choices &kept)
 void requireCountedLocation(int location)
 {
     if (location <= 0)
-        throw RuleError(ReportsTexts::tr("Choose the location that is counted."), u"WarehouseID"_s);
+        throw RuleError(ReportsTexts::tr("Choose the location that is counted."), Fields::WarehouseID);
 }
 
 ReportDescription blankForm(const BlankFormChoices &choices)
@@ -163,8 +165,8 @@ ReportDescription blankForm(const BlankFormChoices &choices)
     form.layout.toFillIn = {ReportsTexts::tr("Counted by:"), ReportsTexts::tr("Date:")};
     form.layout.columns = columns(choices);
     if (choices.byCategory)
-        form.layout.groups = {{.key = u"Category"_s,
-                               .fields = {u"TypeName"_s},
+        form.layout.groups = {{.key = ReportFields::Category,
+                               .fields = {Fields::TypeName},
                                .heading = true,
                                .onNewPage = choices.pagePerCategory}};
     form.layout.rowHeight = choices.barcodes ? 40 : 24;

@@ -14,9 +14,10 @@ namespace Tallymere::Columns {
 namespace {
 
 // A null shows nothing; an amount beyond the range of money as the number that it is.
-Column money(const QString &field, const QString &title, double width, int mostDecimals, const QString &fraction)
+Column money(Engine::NameOf<Money> field, const QString &title, double width, int mostDecimals,
+             const QString &fraction)
 {
-    Column column{field, title, width, Align::Decimal};
+    Column column{field.toString(), title, width, Align::Decimal};
     column.display = [mostDecimals](const Value &value) {
         static const RegionalSettings settings = RegionalSettings::system();
         if (value.isNull())
@@ -33,25 +34,25 @@ Column money(const QString &field, const QString &title, double width, int mostD
 
 } // namespace
 
-Column text(const QString &field, const QString &title, double width)
+Column text(Engine::TextName field, const QString &title, double width)
 {
-    return {.field = field, .title = title, .width = width, .wraps = true};
+    return {.field = field.toString(), .title = title, .width = width, .wraps = true};
 }
 
-Column cutText(const QString &field, const QString &title, double width)
+Column cutText(Engine::TextName field, const QString &title, double width)
 {
-    return {.field = field, .title = title, .width = width};
+    return {.field = field.toString(), .title = title, .width = width};
 }
 
-Column itemNo() { return text(u"ItemNo"_s, ReportsTexts::tr("Item no."), 1.3); }
+Column itemNo() { return text(Fields::ItemNo, ReportsTexts::tr("Item no."), 1.3); }
 
-Column description() { return text(u"ItemDescription"_s, ReportsTexts::tr("Description"), 3.2); }
+Column description() { return text(Fields::ItemDescription, ReportsTexts::tr("Description"), 3.2); }
 
-Column location() { return text(u"WarehouseName"_s, ReportsTexts::tr("Location"), 3); }
+Column location() { return text(Fields::WarehouseName, ReportsTexts::tr("Location"), 3); }
 
-Column date(const QString &field, const QString &title)
+Column date(Engine::NameOf<Date> field, const QString &title)
 {
-    Column column{field, title, 1.1};
+    Column column{field.toString(), title, 1.1};
     column.display = [](const Value &value) {
         static const RegionalSettings settings = RegionalSettings::system();
         return dateText(value.toDate(), settings);
@@ -59,28 +60,28 @@ Column date(const QString &field, const QString &title)
     return column;
 }
 
-Column mark(const QString &field, const QString &title)
+Column mark(Engine::NameOf<Boolean> field, const QString &title)
 {
-    Column column{field, title, 0.7};
+    Column column{field.toString(), title, 0.7};
     column.display = [](const Value &value) { return value.toBool() ? ReportsTexts::tr("Yes") : QString(); };
     return column;
 }
 
-Column quantity(const QString &field, const QString &title)
+Column quantity(Engine::NameOf<Float> field, const QString &title)
 {
-    Column column{field, title.isEmpty() ? ReportsTexts::tr("Quantity") : title, 1.15, Align::Decimal};
+    Column column{field.toString(), title.isEmpty() ? ReportsTexts::tr("Quantity") : title, 1.15, Align::Decimal};
     column.display = quantityFormat().display;
     column.fraction = RegionalSettings::system().decimalPoint + u"000"_s;
     return column;
 }
 
-Column unitCost(const QString &field, const QString &title)
+Column unitCost(Engine::NameOf<Money> field, const QString &title)
 {
     constexpr int mostDecimals = 4; // that money has; the picture "0.00###" would show five
     return money(field, title.isEmpty() ? ReportsTexts::tr("Unit Cost") : title, 1.2, mostDecimals, u"0000"_s);
 }
 
-Column amount(const QString &field, const QString &title)
+Column amount(Engine::NameOf<Money> field, const QString &title)
 {
     constexpr int mostDecimals = 3;
     return money(field, title, 1.35, mostDecimals, u"00)"_s);
@@ -92,8 +93,8 @@ namespace Tallymere {
 
 Printing::Group typeGroup(const QString &totalText, bool heading)
 {
-    return {.key = u"ItemTypeID"_s,
-            .fields = {u"TypeName"_s},
+    return {.key = Fields::ItemTypeID,
+            .fields = {Fields::TypeName},
             .heading = heading,
             .totalText = totalText,
             .unnamed = ReportsTexts::tr("Type %1"),

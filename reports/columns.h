@@ -1,23 +1,27 @@
 #pragma once
 
+#include "data/fields.h"
 #include "printing/reportlayout.h"
 
 namespace Tallymere {
 
-// The columns that reports have alike. Widths are shares of the line.
+// The columns that reports have alike. Widths are shares of the line. A constant of a field that holds something else than
+// the column shows does not compile.
 namespace Columns {
 
-Printing::Column text(const QString &field, const QString &title, double width); // wraps
-Printing::Column cutText(const QString &field, const QString &title, double width); // stays on its line
+using enum Engine::FieldType;
+
+Printing::Column text(Engine::TextName field, const QString &title, double width); // wraps
+Printing::Column cutText(Engine::TextName field, const QString &title, double width); // stays on its line
 Printing::Column itemNo();
 Printing::Column description(); // of the item
 Printing::Column location();
-Printing::Column date(const QString &field, const QString &title);
-Printing::Column mark(const QString &field, const QString &title); // "Yes" or nothing
+Printing::Column date(Engine::NameOf<Date> field, const QString &title);
+Printing::Column mark(Engine::NameOf<Boolean> field, const QString &title); // "Yes" or nothing
 // With as many decimals as they have.
-Printing::Column quantity(const QString &field, const QString &title = {});
-Printing::Column unitCost(const QString &field = QStringLiteral("UnitCost"), const QString &title = {});
-Printing::Column amount(const QString &field, const QString &title);
+Printing::Column quantity(Engine::NameOf<Float> field, const QString &title = {});
+Printing::Column unitCost(Engine::NameOf<Money> field = Fields::UnitCost, const QString &title = {});
+Printing::Column amount(Engine::NameOf<Money> field, const QString &title);
 
 } // namespace Columns
 

@@ -69,15 +69,15 @@ QList<ReportDescription> costReports()
     report.notes = trailHeadings;
     report.layout.title = ReportsTexts::tr("Why This Cost");
     report.layout.landscape = true;
-    report.layout.columns = {Columns::date(u"TransDate"_s, ReportsTexts::tr("Date")),
-                             Columns::text(u"TransDescription"_s, ReportsTexts::tr("Receipt"), 3),
+    report.layout.columns = {Columns::date(Fields::TransDate, ReportsTexts::tr("Date")),
+                             Columns::text(Fields::TransDescription, ReportsTexts::tr("Receipt"), 3),
                              Columns::location(),
-                             Columns::quantity(u"Quantity"_s, ReportsTexts::tr("Received")),
+                             Columns::quantity(Fields::Quantity, ReportsTexts::tr("Received")),
                              Columns::unitCost(),
-                             Columns::quantity(u"OnHandBefore"_s, ReportsTexts::tr("On hand before")),
-                             Columns::unitCost(u"AverageBefore"_s, ReportsTexts::tr("Cost before")),
-                             Columns::quantity(u"OnHandAfter"_s, ReportsTexts::tr("On hand after")),
-                             Columns::unitCost(u"AverageAfter"_s, ReportsTexts::tr("Cost after"))};
+                             Columns::quantity(TrailFields::OnHandBefore, ReportsTexts::tr("On hand before")),
+                             Columns::unitCost(TrailFields::AverageBefore, ReportsTexts::tr("Cost before")),
+                             Columns::quantity(TrailFields::OnHandAfter, ReportsTexts::tr("On hand after")),
+                             Columns::unitCost(TrailFields::AverageAfter, ReportsTexts::tr("Cost after"))};
     return {report};
 }
 

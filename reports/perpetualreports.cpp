@@ -1,6 +1,7 @@
 #include "reports/balancequery.h"
 #include "reports/columns.h"
 #include "reports/perpetualrows.h"
+#include "reports/reportfields.h"
 #include "reports/reportlist.h"
 #include "reports/texts.h"
 
@@ -23,22 +24,22 @@ QList<Column> movementColumns(bool byLocation)
 {
     Column number = Columns::itemNo();
     number.inDetail = false;
-    number.opening.field = byLocation ? u"WarehouseName"_s : number.field;
+    number.opening.field = byLocation ? Fields::WarehouseName : number.field;
     Column description = Columns::description();
     description.width = 2.2;
     description.inDetail = false;
     if (!byLocation)
         description.opening.field = description.field;
-    Column about = Columns::text(u"TransDescription"_s, ReportsTexts::tr("Description"), 2.9);
+    Column about = Columns::text(Fields::TransDescription, ReportsTexts::tr("Description"), 2.9);
     about.opening.text = ReportsTexts::tr("Opening Balance:");
-    Column balance = Columns::quantity(u"Balance"_s, ReportsTexts::tr("Balance"));
+    Column balance = Columns::quantity(ReportFields::Balance, ReportsTexts::tr("Balance"));
     balance.opening.field = balance.field;
     return {number,
             description,
-            Columns::text(u"TransTypeName"_s, ReportsTexts::tr("Type"), 1.2),
-            Columns::date(u"TransDate"_s, ReportsTexts::tr("Date")),
+            Columns::text(Fields::TransTypeName, ReportsTexts::tr("Type"), 1.2),
+            Columns::date(Fields::TransDate, ReportsTexts::tr("Date")),
             about,
-            Columns::quantity(u"Quantity"_s),
+            Columns::quantity(Fields::Quantity),
             balance};
 }
 
@@ -46,11 +47,11 @@ QList<Column> summaryColumns()
 {
     QList<Column> columns{Columns::itemNo(),
                           Columns::description(),
-                          Columns::quantity(u"OpeningBalance"_s, ReportsTexts::tr("Opening Balance")),
-                          Columns::quantity(u"Receipts"_s, ReportsTexts::tr("Receipts")),
-                          Columns::quantity(u"Adjustments"_s, ReportsTexts::tr("Adjustments")),
-                          Columns::quantity(u"Sales"_s, ReportsTexts::tr("Sales")),
-                          Columns::quantity(u"ClosingBalance"_s, ReportsTexts::tr("Closing Balance"))};
+                          Columns::quantity(ReportFields::OpeningBalance, ReportsTexts::tr("Opening Balance")),
+                          Columns::quantity(ReportFields::Receipts, ReportsTexts::tr("Receipts")),
+                          Columns::quantity(ReportFields::Adjustments, ReportsTexts::tr("Adjustments")),
+                          Columns::quantity(ReportFields::Sales, ReportsTexts::tr("Sales")),
+                          Columns::quantity(ReportFields::ClosingBalance, ReportsTexts::tr("Closing Balance"))};
     columns[0].width = 1.2;
     columns[1].width = 3.4;
     for (qsizetype i = 2; i < columns.size(); ++i)
@@ -58,7 +59,7 @@ QList<Column> summaryColumns()
     return columns;
 }
 
-Group itemGroup() { return {u"ItemID"_s, {u"ItemNo"_s, u"ItemDescription"_s}}; }
+Group itemGroup() { return {Fields::ItemID, {Fields::ItemNo, Fields::ItemDescription}}; }
 Group itemGroupWithTotal()
 {
     Group group = itemGroup();
@@ -66,7 +67,7 @@ Group itemGroupWithTotal()
     group.totalText = ReportsTexts::tr("Closing balance %1");
     return group;
 }
-Group locationGroup() { return {u"WarehouseID"_s, {u"WarehouseName"_s}}; }
+Group locationGroup() { return {Fields::WarehouseID, {Fields::WarehouseName}}; }
 
 ReportDescription perpetualReport(const QString &name, const QString &listText, const QString &title)
 {
@@ -101,7 +102,7 @@ ReportDescription byItemWhse()
     report.rows = perpetualRows(BalanceQueries::byLocation(item));
     report.layout.columns = movementColumns(true);
     report.layout.groups = {itemGroupWithTotal(), locationGroup()};
-    report.layout.totals = {{u"Balance"_s, TotalOf::Closing}};
+    report.layout.totals = {{ReportFields::Balance, TotalOf::Closing}};
     return report;
 }
 
@@ -115,7 +116,7 @@ ReportDescription byTypeItem()
         BalanceQueries::byItem(itemAndType, BalanceQueries::withTypes(), {u"T.TypeName"_s, u"I.ItemTypeID"_s}));
     report.layout.columns = movementColumns(false);
     report.layout.groups = {typeGroup(ReportsTexts::tr("Closing balance %1")), itemGroup()};
-    report.layout.totals = {{u"Balance"_s, TotalOf::Closing}};
+    report.layout.totals = {{ReportFields::Balance, TotalOf::Closing}};
     return report;
 }
 
@@ -129,7 +130,7 @@ ReportDescription byTypeItemWhse()
     report.layout.columns = movementColumns(true);
     report.layout.groups = {typeGroup(ReportsTexts::tr("Closing balance %1")), itemGroupWithTotal(),
                             locationGroup()};
-    report.layout.totals = {{u"Balance"_s, TotalOf::Closing}};
+    report.layout.totals = {{ReportFields::Balance, TotalOf::Closing}};
     return report;
 }
 

@@ -1,12 +1,13 @@
 #include "reports/perpetualrows.h"
 
+#include "data/fields.h"
 #include "data/transtypes.h"
 #include "reports/accountrows.h"
+#include "reports/reportfields.h"
 
 #include <map>
 #include <QHash>
 
-using namespace Qt::StringLiterals;
 using Engine::Value;
 using Tallymere::Printing::ReportRow;
 using Tallymere::Printing::RowKind;
@@ -21,11 +22,11 @@ public:
     PerpetualRows(Engine::Database &database, const ReportQuery &balances, const ReportSelection &selection,
                   const Printing::ReportLayout &layout)
         : AccountRows(database, balances, selection, layout)
-        , m_type(indexOf(u"TransTypeName"_s))
-        , m_date(indexOf(u"TransDate"_s))
-        , m_description(indexOf(u"TransDescription"_s))
-        , m_quantity(indexOf(u"Quantity"_s))
-        , m_balance(indexOf(u"Balance"_s))
+        , m_type(indexOf(Fields::TransTypeName))
+        , m_date(indexOf(Fields::TransDate))
+        , m_description(indexOf(Fields::TransDescription))
+        , m_quantity(indexOf(Fields::Quantity))
+        , m_balance(indexOf(ReportFields::Balance))
     {
     }
 
@@ -115,11 +116,11 @@ public:
 
 private:
     const ReportSelection m_selection;
-    const size_t m_opening = indexOf(u"OpeningBalance"_s);
-    const size_t m_receipts = indexOf(u"Receipts"_s);
-    const size_t m_adjustments = indexOf(u"Adjustments"_s);
-    const size_t m_sales = indexOf(u"Sales"_s);
-    const size_t m_closing = indexOf(u"ClosingBalance"_s);
+    const size_t m_opening = indexOf(ReportFields::OpeningBalance);
+    const size_t m_receipts = indexOf(ReportFields::Receipts);
+    const size_t m_adjustments = indexOf(ReportFields::Adjustments);
+    const size_t m_sales = indexOf(ReportFields::Sales);
+    const size_t m_closing = indexOf(ReportFields::ClosingBalance);
 };
 
 template <typename Reader> ReportDescription::Rows rowsOf(const ReportQuery &balances)

@@ -3,10 +3,9 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "base/textnumbers.h"
+#include "data/fields.h"
 #include "engine/values/linetext.h"
 #include "reports/texts.h"
-
-using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
@@ -35,7 +34,7 @@ ReportSelection takenBy(const ReportDescription::Parameters &parameters, const R
 
 int periodFromText(const QString &text)
 {
-    const QString column = u"GLPeriod"_s;
+    const QString column = Fields::GLPeriod;
     const Engine::Value period = periodNumberFormat(ReportsTexts::tr("Period"), column).parse(text);
     if (period.isNull())
         throw RuleError(ReportsTexts::tr("Enter the period that the report begins with, 1 to 12."), column);
@@ -44,7 +43,7 @@ int periodFromText(const QString &text)
 
 int yearFromText(const QString &text)
 {
-    const QString column = u"GLYear"_s;
+    const QString column = Fields::GLYear;
     if (text.trimmed().isEmpty())
         throw RuleError(ReportsTexts::tr("Enter the fiscal year of the period, in two or four digits."), column);
     if (const std::optional<int> year = yearFromNumber(integerFromText(text, column)))

@@ -30,7 +30,7 @@ Printing::RowReaderPtr stockThen(Engine::Database &database, const ReportDescrip
     query.setOrderBy(u"WarehouseName;WarehouseID;"_s
                      + (selection.order.isEmpty() ? u"ItemNo"_s : selection.order.section(u';', 0, 0)));
     view->open();
-    const QString location = keyCondition(u"WarehouseID"_s, selection.warehouseId);
+    const QString location = keyCondition(Fields::WarehouseID, selection.warehouseId);
     if (const QString filter = joinConditions({selection.filter, location}); !filter.isEmpty()) {
         query.setFilter(filter);
         query.setFiltered(true);
@@ -53,17 +53,16 @@ ReportDescription stockAsOf()
     report.rows = stockThen;
     report.notes = timeHeading;
     report.layout.title = ReportsTexts::tr("Stock as of");
-    report.layout.columns = {
-        Columns::itemNo(), Columns::description(),
-        Columns::quantity(StockAsOfView::QtyThen.toString(), ReportsTexts::tr("Quantity then")),
-        Columns::amount(StockAsOfView::ValueThen.toString(), ReportsTexts::tr("At today's cost"))};
-    report.layout.groups = {{.key = u"WarehouseID"_s,
-                             .fields = {u"WarehouseName"_s},
+    report.layout.columns = {Columns::itemNo(), Columns::description(),
+                             Columns::quantity(StockAsOfView::QtyThen, ReportsTexts::tr("Quantity then")),
+                             Columns::amount(StockAsOfView::ValueThen, ReportsTexts::tr("At today's cost"))};
+    report.layout.groups = {{.key = Fields::WarehouseID,
+                             .fields = {Fields::WarehouseName},
                              .heading = true,
                              .totalText = ReportsTexts::tr("Total %1"),
                              .unnamed = ReportsTexts::tr("Location %1"),
                              .keyless = ReportsTexts::tr("No location")}};
-    report.layout.totals = {{StockAsOfView::ValueThen.toString(), Printing::TotalOf::Amounts}};
+    report.layout.totals = {{StockAsOfView::ValueThen, Printing::TotalOf::Amounts}};
     report.layout.reportTotalText = ReportsTexts::tr("Total");
     return report;
 }
@@ -90,9 +89,9 @@ public:
 
     static QStringList names()
     {
-        return {Fields::VendorID,        Fields::VendorNo, Fields::VendorName, Fields::ItemNo,
-                Fields::ItemDescription, u"UsePerWeek"_s,  Fields::QtyOnHand,  u"Unposted"_s,
-                u"DaysLeft"_s,           u"Proposed"_s,    u"LastCost"_s};
+        return {Fields::VendorID,        Fields::VendorNo,         Fields::VendorName,    Fields::ItemNo,
+                Fields::ItemDescription, BuyingFields::UsePerWeek, Fields::QtyOnHand,     BuyingFields::Unposted,
+                BuyingFields::DaysLeft,  BuyingFields::Proposed,   BuyingFields::LastCost};
     }
 
     const QStringList &fields() const override { return m_fields; }
@@ -143,14 +142,14 @@ ReportDescription whatToBuyReport()
     report.layout.title = ReportsTexts::tr("What to buy");
     report.layout.columns = {Columns::itemNo(),
                              Columns::description(),
-                             Columns::quantity(u"UsePerWeek"_s, ReportsTexts::tr("Use a week")),
-                             Columns::quantity(u"QtyOnHand"_s, ReportsTexts::tr("On hand")),
-                             Columns::quantity(u"Unposted"_s, ReportsTexts::tr("Unposted")),
-                             Columns::quantity(u"DaysLeft"_s, ReportsTexts::tr("Days left")),
-                             Columns::quantity(u"Proposed"_s, ReportsTexts::tr("Proposed")),
-                             Columns::unitCost(u"LastCost"_s, ReportsTexts::tr("Last cost"))};
-    report.layout.groups = {{.key = u"VendorID"_s,
-                             .fields = {u"VendorName"_s, u"VendorNo"_s},
+                             Columns::quantity(BuyingFields::UsePerWeek, ReportsTexts::tr("Use a week")),
+                             Columns::quantity(Fields::QtyOnHand, ReportsTexts::tr("On hand")),
+                             Columns::quantity(BuyingFields::Unposted, ReportsTexts::tr("Unposted")),
+                             Columns::quantity(BuyingFields::DaysLeft, ReportsTexts::tr("Days left")),
+                             Columns::quantity(BuyingFields::Proposed, ReportsTexts::tr("Proposed")),
+                             Columns::unitCost(BuyingFields::LastCost, ReportsTexts::tr("Last cost"))};
+    report.layout.groups = {{.key = Fields::VendorID,
+                             .fields = {Fields::VendorName, Fields::VendorNo},
                              .heading = true,
                              .keyless = ReportsTexts::tr("No vendor yet")}};
     report.layout.landscape = true;

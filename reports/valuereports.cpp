@@ -1,6 +1,7 @@
 #include "base/formats.h"
 #include "reports/balancequery.h"
 #include "reports/columns.h"
+#include "reports/reportfields.h"
 #include "reports/reportlist.h"
 #include "reports/texts.h"
 #include "reports/valuerows.h"
@@ -21,17 +22,20 @@ const QString withAccounts = u"LEFT OUTER JOIN GLAccnt G ON I.InventoryGLAccount
 
 QList<Column> itemColumns()
 {
-    return {Columns::itemNo(), Columns::description(), Columns::quantity(u"ItemQtyOnHand"_s), Columns::unitCost(),
-            Columns::amount(u"ItemValue"_s, ReportsTexts::tr("Value"))};
+    return {Columns::itemNo(), Columns::description(), Columns::quantity(ReportFields::ItemQtyOnHand),
+            Columns::unitCost(), Columns::amount(ReportFields::ItemValue, ReportsTexts::tr("Value"))};
 }
 
 QList<Column> balanceColumns()
 {
-    return {Columns::location(), Columns::quantity(u"QtyOnHand"_s), Columns::unitCost(),
-            Columns::amount(u"ItemWhseValue"_s, ReportsTexts::tr("Value"))};
+    return {Columns::location(), Columns::quantity(Fields::QtyOnHand), Columns::unitCost(),
+            Columns::amount(ReportFields::ItemWhseValue, ReportsTexts::tr("Value"))};
 }
 
-Group itemGroup() { return {u"ItemID"_s, {u"ItemNo"_s, u"ItemDescription"_s}, true, ReportsTexts::tr("Total %1")}; }
+Group itemGroup()
+{
+    return {Fields::ItemID, {Fields::ItemNo, Fields::ItemDescription}, true, ReportsTexts::tr("Total %1")};
+}
 
 ReportDescription valueReport(const QString &name, const QString &listText,
                               ReportDescription::Parameters parameters)
@@ -42,7 +46,7 @@ ReportDescription valueReport(const QString &name, const QString &listText,
     report.inWizard = true;
     report.parameters = parameters;
     report.layout.title = ReportsTexts::tr("Inventory %1").arg(listText);
-    report.layout.totals = {{u"ItemValue"_s, TotalOf::Amounts}};
+    report.layout.totals = {{ReportFields::ItemValue, TotalOf::Amounts}};
     report.layout.reportTotalText = ReportsTexts::tr("Total");
     return report;
 }
@@ -65,7 +69,8 @@ ReportDescription byItemWhse()
     report.rows = valueRows(BalanceQueries::byLocation(itemCosts));
     report.layout.columns = balanceColumns();
     report.layout.groups = {itemGroup()};
-    report.layout.totals = {{u"QtyOnHand"_s, TotalOf::Quantities, false}, {u"ItemWhseValue"_s, TotalOf::Amounts}};
+    report.layout.totals = {{Fields::QtyOnHand, TotalOf::Quantities, false},
+                            {ReportFields::ItemWhseValue, TotalOf::Amounts}};
     return report;
 }
 
@@ -87,8 +92,8 @@ ReportDescription byType()
     report.name = u"TrptValueByType"_s;
     report.listText = ReportsTexts::tr("Value by Type");
     report.layout.title = ReportsTexts::tr("Inventory Value by Type");
-    report.layout.columns = {Columns::text(u"TypeName"_s, ReportsTexts::tr("Item Type"), 4),
-                             Columns::amount(u"ItemValue"_s, ReportsTexts::tr("Value"))};
+    report.layout.columns = {Columns::text(Fields::TypeName, ReportsTexts::tr("Item Type"), 4),
+                             Columns::amount(ReportFields::ItemValue, ReportsTexts::tr("Value"))};
     report.layout.groups = {typeGroup(u"%1"_s, false)};
     report.layout.details = false;
     return report;
@@ -102,7 +107,7 @@ ReportDescription byTypeItemWhse()
                                                        {u"TypeName"_s, u"ItemTypeID"_s}));
     report.layout.columns = balanceColumns();
     report.layout.groups = {typeGroup(ReportsTexts::tr("Total %1")), itemGroup()};
-    report.layout.totals = {{u"ItemWhseValue"_s, TotalOf::Amounts}};
+    report.layout.totals = {{ReportFields::ItemWhseValue, TotalOf::Amounts}};
     return report;
 }
 
@@ -115,8 +120,8 @@ ReportDescription byGLAccountItem()
         BalanceQueries::withTypes() + withAccounts, {u"G.GLAccount"_s, u"I.InventoryGLAccountID"_s}));
     report.inWizard = false;
     report.layout.columns = itemColumns();
-    report.layout.groups = {{.key = u"InventoryGLAccountID"_s,
-                             .fields = {u"GLAccount"_s, u"AccountName"_s},
+    report.layout.groups = {{.key = Fields::InventoryGLAccountID,
+                             .fields = {Fields::GLAccount, Fields::AccountName},
                              .heading = true,
                              .totalText = ReportsTexts::tr("Total %1"),
                              .unnamed = ReportsTexts::tr("Account %1"),

@@ -9,6 +9,7 @@
 #include "engine/values/amounttoolarge.h"
 #include "master/costing.h"
 #include "reports/fieldmap.h"
+#include "reports/reportfields.h"
 #include "reports/texts.h"
 
 #include <optional>
@@ -39,14 +40,14 @@ public:
         : m_balances(std::move(balances))
         , m_query(*m_balances)
         , m_map(layout, m_query)
-        , m_byLocation(m_query.fieldIndex(u"QtyOnHand") >= 0)
-        , m_quantity(m_query.fieldIndex(m_byLocation ? u"QtyOnHand" : u"ItemQtyOnHand"))
-        , m_standardCost(m_query.fieldIndex(u"StandardCost"))
-        , m_averageCost(m_query.fieldIndex(u"WgtAvgCost"))
-        , m_itemType(m_query.fieldIndex(u"ItemTypeID"))
-        , m_method(m_query.fieldIndex(u"CostingMethod"))
-        , m_unitCostAt(m_map.names().indexOf(u"UnitCost"_s))
-        , m_valueAt(m_map.indexOf(m_byLocation ? u"ItemWhseValue"_s : u"ItemValue"_s))
+        , m_byLocation(m_query.fieldIndex(Fields::QtyOnHand) >= 0)
+        , m_quantity(m_query.fieldIndex(m_byLocation ? Fields::QtyOnHand : ReportFields::ItemQtyOnHand))
+        , m_standardCost(m_query.fieldIndex(Fields::StandardCost))
+        , m_averageCost(m_query.fieldIndex(Fields::WgtAvgCost))
+        , m_itemType(m_query.fieldIndex(Fields::ItemTypeID))
+        , m_method(m_query.fieldIndex(Fields::CostingMethod))
+        , m_unitCostAt(m_map.names().indexOf(QStringView(Fields::UnitCost)))
+        , m_valueAt(m_map.indexOf(m_byLocation ? ReportFields::ItemWhseValue : ReportFields::ItemValue))
         , m_rows(m_query)
     {
         if (m_method < 0)
@@ -83,7 +84,7 @@ private:
             return toCents(quantity * cost.toLongDouble());
         } catch (const Engine::AmountTooLarge &) {
             throw RuleError(ReportsTexts::tr("The value of item '%1' is beyond what an amount of money can be")
-                                .arg(m_query.valueIn(balance, m_query.fieldIndex(u"ItemNo")).toText()));
+                                .arg(m_query.valueIn(balance, m_query.fieldIndex(Fields::ItemNo)).toText()));
         }
     }
 

@@ -46,6 +46,7 @@ public:
     }
 
     constexpr operator QStringView() const { return m_name; }
+    QString toString() const { return m_name.toString(); }
 
 private:
     QStringView m_name;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/values/fieldname.h"
 #include "engine/values/money.h"
 
 #include <optional>
@@ -52,6 +53,8 @@ class CountList
 {
 public:
     enum class Order { ItemNo, Category, Item, Cost };
+    // What is recorded, as a column; the balance itself is spelt QtyOnHand.
+    static constexpr Engine::FieldName<Engine::FieldType::Float> QtyOnhand{u"QtyOnhand"};
 
     CountList() = default;
     // Rows that are equal in an order keep the one they are given in.
