@@ -62,7 +62,7 @@ QString dateText(QDate date, const RegionalSettings &settings = RegionalSettings
 // Asks about a date that is more than a year away.
 QString distantDateQuestion(QDate date, const RegionalSettings &settings = RegionalSettings::system());
 
-// The calculated field Periodppyyyy: "3/2004".
+// A fiscal period: "3/2004".
 QString periodText(int period, int year);
 
 } // namespace Tallymere

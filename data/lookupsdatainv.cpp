@@ -88,7 +88,7 @@ QList<TableReader *> TdmLookUpsInv::ownedTables()
 
 void TdmLookUpsInv::describeCalculatedFields()
 {
-    m_salesman.addCalculated({u"FullName"_s, FieldType::Text, 60}, fullName);
+    m_salesman.addCalculated(Fields::FullName.sized(60), fullName);
     m_glAccnt.addCalculated({u"AccountName30"_s, FieldType::Text, 50},
                             [](const DataSet &row) { return row.value(Fields::AccountName); });
     m_customer.addCalculated({u"Address"_s, FieldType::Text, addressSize},

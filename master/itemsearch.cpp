@@ -14,7 +14,7 @@ ItemSearch::ItemSearch(Engine::Database &database)
     m_items.setIndex(u"ITEMNO"_s);
     m_items.addLookup(Fields::TypeName.sized(40),
                       {Fields::ItemTypeID, u"ItemType"_s, Fields::ItemTypeID, Fields::TypeName});
-    m_items.addCalculated({OnHand.toString(), Engine::FieldType::Float},
+    m_items.addCalculated(OnHand,
                           [this](const Engine::DataSet &item) { return onHand(item.integer(Fields::ItemID)); });
     m_items.field(OnHand).format = quantityFormat();
 }

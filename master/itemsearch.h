@@ -15,7 +15,7 @@ public:
     explicit ItemSearch(Engine::Database &database);
 
     // What is on hand of an item, at one location or at all: one look-up for each row that is shown.
-    static constexpr QStringView OnHand = u"OnHand";
+    static constexpr Engine::FieldName<Engine::FieldType::Float> OnHand{u"OnHand"};
     void setLocation(int warehouseId); // 0: all
 
     // Items with "TypeName", the name of the item's type, and OnHand.

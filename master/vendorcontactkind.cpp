@@ -13,7 +13,7 @@ namespace {
 
 void requireName(const Engine::Table &contact)
 {
-    if (contact.text(u"FullName").trimmed().isEmpty())
+    if (contact.text(Fields::FullName).trimmed().isEmpty())
         throw RuleError(MasterTexts::tr("Field 'Contact Name' must have a value"), Fields::FirstName);
 }
 
@@ -25,10 +25,8 @@ MasterKind describe()
     kind.table = u"VContact"_s;
     kind.keyField = Fields::ContactID;
     kind.record.keyByEngine = true;
-    kind.nameFields = {u"FullName"_s};
-    kind.addFields = [](Engine::Table &table) {
-        table.addCalculated({u"FullName"_s, Engine::FieldType::Text, 60}, fullName);
-    };
+    kind.nameFields = {Fields::FullName};
+    kind.addFields = [](Engine::Table &table) { table.addCalculated(Fields::FullName.sized(60), fullName); };
 
     kind.record.screen = u"frmVContact"_s;
     kind.record.caption = MasterTexts::tr("Vendor Contact");

@@ -25,7 +25,7 @@ TfrmItemSearchInv::TfrmItemSearchInv(ScreenContext &context, QWidget *parent)
                               {{Fields::ItemNo, tr("Item no."), 110},
                                {Fields::ItemDescription, tr("Description"), 270},
                                {Fields::TypeName, tr("Item Type"), 150},
-                               {.field = ItemSearch::OnHand.toString(),
+                               {.field = ItemSearch::OnHand,
                                 .title = tr("On hand"),
                                 .width = 80,
                                 .alignment = Qt::AlignRight,

@@ -72,7 +72,7 @@ void TfrmVendor::buildContactPopup()
     addToPopup(u"mnuDelete"_s, tr("Delete"), [this] { btnDeleteClick(); });
     const Engine::Table &contact = m_contacts.table();
     QAction *phone = addToPopup(u"mnuPhone"_s, tr("Phone"), [this, &contact] {
-        dialPhone(context(), contact.text(u"FullName"), contact.text(Fields::BusinessPhone), this);
+        dialPhone(context(), contact.text(Fields::FullName), contact.text(Fields::BusinessPhone), this);
     });
     QAction *mail = addToPopup(u"mnuEMail"_s, tr("E-Mail"),
                                [this, &contact] { mailTo(context(), contact.text(Fields::EMail)); });

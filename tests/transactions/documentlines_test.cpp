@@ -138,7 +138,8 @@ struct LineStockTest : DocumentTest
     }
     QString toldInHand()
     {
-        return entry->lines().text(DocumentEntry::OnHand) + u'|' + entry->lines().text(DocumentEntry::Afterwards);
+        const Engine::Table &lines = std::as_const(*entry).lines();
+        return lines.value(DocumentEntry::OnHand).toText() + u'|' + lines.value(DocumentEntry::Afterwards).toText();
     }
 };
 ON_BOTH_STORES(LineStockTest);

@@ -242,12 +242,12 @@ TEST_F(DocumentScreenTest, whatIsNotOnHandIsTheSameWarningInTheLinesAndInTheSear
     };
     addDocument(kitchen, DocumentKinds::adjustment(), 7, 1, {{1, u"-1"_s}});
     open(documentScreens().constLast(), 7);
-    EXPECT_EQ(noteOf(*grid, DocumentEntry::OnHand.toString()), CellNote::Lacking);
-    EXPECT_EQ(noteOf(*grid, DocumentEntry::Afterwards.toString()), CellNote::Lacking);
+    EXPECT_EQ(noteOf(*grid, DocumentEntry::OnHand), CellNote::Lacking);
+    EXPECT_EQ(noteOf(*grid, DocumentEntry::Afterwards), CellNote::Lacking);
     EXPECT_EQ(noteOf(*grid, Fields::Quantity), CellNote::Negative) << "one of its own";
     TfrmItemSearchInv search(*context, screen);
     showActive(search);
-    EXPECT_EQ(noteOf(*child<DataGrid>(search, "DBGrid1"), ItemSearch::OnHand.toString()), CellNote::Lacking);
+    EXPECT_EQ(noteOf(*child<DataGrid>(search, "DBGrid1"), ItemSearch::OnHand), CellNote::Lacking);
 }
 
 // Wherever the cursor is: into the line that wants an item, else into a new one.

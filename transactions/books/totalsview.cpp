@@ -77,9 +77,8 @@ TotalsView::TotalsView(Engine::Database &database, Figures figures)
     m_query.setKeyFields(u"ItemID;WarehouseID"_s);
     m_query.setFoldedFields(u"ItemDescription;WarehouseName"_s);
     if (figures != Figures::OnHand)
-        m_query.addCalculated({Value.toString(), FieldType::Money}, [](const Engine::DataSet &row) {
-            return valueOf(row, row.number(Fields::QtyOnHand));
-        });
+        m_query.addCalculated(
+            Value, [](const Engine::DataSet &row) { return valueOf(row, row.number(Fields::QtyOnHand)); });
     setSort(Sort::ItemNo);
 }
 

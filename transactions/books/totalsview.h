@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/records/query.h"
+#include "engine/values/fieldname.h"
 
 #include <optional>
 #include <QDate>
@@ -23,9 +24,9 @@ public:
     // The further figures: what is on hand at what the item's type values it at, to the cent, as the value reports have it
     // (nothing where that is beyond an amount of money); the day of the latest movement; the day of the latest count, as
     // far as that is known (see rememberCounted).
-    static constexpr QStringView Value = u"Value";
-    static constexpr QStringView LastMoved = u"LastMoved";
-    static constexpr QStringView LastCounted = u"LastCounted";
+    static constexpr Engine::FieldName<Engine::FieldType::Money> Value{u"Value"};
+    static constexpr Engine::FieldName<Engine::FieldType::Date> LastMoved{u"LastMoved"};
+    static constexpr Engine::FieldName<Engine::FieldType::Date> LastCounted{u"LastCounted"};
     // Another quantity of a row at the same cost.
     static Engine::Value valueOf(const Engine::DataSet &row, double quantity);
     // The same of a statement over the query (see TotalsValue). Nothing where it is beyond an amount of money.

@@ -5,11 +5,11 @@
 #include "data/fields.h"
 #include "engine/store/database.h"
 #include "engine/values/linetext.h"
+#include "transactions/books/periodfield.h"
 
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
-using Engine::FieldType;
 
 namespace Tallymere {
 
@@ -19,12 +19,7 @@ DocumentList::DocumentList(Engine::Database &database, const DocumentKind &kind)
 {
     table().recordName = [this] { return m_kind.titleOf(table()); };
     setOrder(m_kind.list.orders.constFirst());
-    table().addCalculated(
-        {u"Periodppyyyy"_s, FieldType::Text, 8},
-        [](const Engine::DataSet &row) {
-            return Engine::Value(row.value(Fields::GLPeriod).toText() + u'/' + row.value(Fields::GLYear).toText());
-        },
-        u"GLYear;GLPeriod"_s);
+    addPeriod(table());
     table().addLookup(Fields::WarehouseName.sized(50),
                       {Fields::WarehouseID, u"Warehse"_s, Fields::WarehouseID, Fields::WarehouseName});
     if (m_kind.list.addFields)

@@ -4,10 +4,10 @@
 #include "base/listfilter.h"
 #include "data/fields.h"
 #include "data/transtypes.h"
+#include "transactions/books/periodfield.h"
 #include "transactions/documents/documentkinds.h"
 
 using namespace Qt::StringLiterals;
-using Engine::FieldType;
 using Engine::Value;
 
 namespace Tallymere {
@@ -16,19 +16,14 @@ HistoryView::HistoryView(Engine::Database &database)
     : m_table(database, u"IHist"_s)
 {
     m_table.setIndex(u"PERIODDATEDESC"_s);
-    m_table.addCalculated(
-        {u"Periodppyyyy"_s, FieldType::Text, 8},
-        [](const Engine::DataSet &row) {
-            return Value(periodText(row.integer(Fields::GLPeriod), row.integer(Fields::GLYear)));
-        },
-        u"GLYear;GLPeriod"_s);
+    addPeriod(m_table);
     m_table.addLookup(Fields::ItemNo.sized(20), {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemNo});
     m_table.addLookup(Fields::ItemDescription.sized(40),
                       {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemDescription});
     m_table.addLookup(Fields::WarehouseName.sized(50),
                       {Fields::WarehouseID, u"Warehse"_s, Fields::WarehouseID, Fields::WarehouseName});
     m_table.addCalculated(
-        {u"TransTypeName"_s, FieldType::Text, 12},
+        Fields::TransTypeName.sized(12),
         [](const Engine::DataSet &row) { return Value(transTypeText(row.integer(Fields::TransType))); },
         Fields::TransType);
 }

@@ -7,7 +7,6 @@
 #include "transactions/texts.h"
 
 using namespace Qt::StringLiterals;
-using Engine::FieldType;
 using Engine::Value;
 
 namespace Tallymere {
@@ -30,9 +29,8 @@ DocumentEntry::DocumentEntry(Engine::Database &database, Prompts &prompts, const
     m_lines.addLookup(Fields::ItemDescription.sized(40),
                       {Fields::ItemID, u"Item"_s, Fields::ItemID, Fields::ItemDescription});
     const auto told = [](std::optional<double> quantity) { return quantity ? Value(*quantity) : Value(); };
-    m_lines.addCalculated({OnHand.toString(), FieldType::Float},
-                          [this, told](const Engine::DataSet &line) { return told(m_stock.onHand(line)); });
-    m_lines.addCalculated({Afterwards.toString(), FieldType::Float},
+    m_lines.addCalculated(OnHand, [this, told](const Engine::DataSet &line) { return told(m_stock.onHand(line)); });
+    m_lines.addCalculated(Afterwards,
                           [this, told](const Engine::DataSet &line) { return told(m_stock.afterwards(line)); });
     m_lines.setMaster(&m_header, m_kind.keyField);
     m_header.rules = &m_headerRules;

@@ -122,8 +122,8 @@ public:
     int itemByDescription(const QString &description) const { return m_check.itemByDescription(description); }
     // Besides what is stored, lines() tells by these fields what is on hand and what will be (see LineStock), as it was
     // when the visit began or refreshStock() was last called.
-    static constexpr QStringView OnHand = u"OnHand";
-    static constexpr QStringView Afterwards = u"Afterwards";
+    static constexpr Engine::FieldName<Engine::FieldType::Float> OnHand{u"OnHand"};
+    static constexpr Engine::FieldName<Engine::FieldType::Float> Afterwards{u"Afterwards"};
     void refreshStock() { m_stock.forget(); }
     // A value that an empty column of the line in hand may be given with one key, and where it comes from.
     struct Offer

@@ -46,7 +46,7 @@ const DocumentKind &DocumentKinds::adjustment()
             {
                 .screen = u"frmInvAdjustments"_s,
                 .caption = TransactionsTexts::tr("Inventory Adjustments"),
-                .columns = {{u"Periodppyyyy"_s, TransactionsTexts::tr("Period"), 80},
+                .columns = {{Fields::Periodppyyyy, TransactionsTexts::tr("Period"), 80},
                             {Fields::AdjDate, TransactionsTexts::tr("Date"), 90},
                             {Fields::AdjDescription, TransactionsTexts::tr("Description"), 260},
                             {Fields::WarehouseName, TransactionsTexts::tr("Location"), 190},

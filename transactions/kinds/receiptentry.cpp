@@ -18,7 +18,7 @@ ReceiptEntry::ReceiptEntry(Engine::Database &database, Prompts &prompts)
     : DocumentEntry(database, prompts, DocumentKinds::receipt())
     , m_total(std::as_const(*this).header(), std::as_const(*this).lines(), kind())
 {
-    lines().addCalculated({Amount.toString(), Engine::FieldType::Money}, [this](const Engine::DataSet &line) {
+    lines().addCalculated(Amount, [this](const Engine::DataSet &line) {
         const std::optional<Engine::Money> amount = m_total.of(line);
         return amount ? Value(*amount) : Value();
     });

@@ -13,7 +13,8 @@ namespace Tallymere {
 class ReceiptEntry final : public DocumentEntry
 {
 public:
-    static constexpr QStringView Amount = u"Amount"; // of a line, in the vendor's currency
+    static constexpr Engine::FieldName<Engine::FieldType::Money> Amount{
+        u"Amount"}; // of a line, in the vendor's currency
 
     ReceiptEntry(Engine::Database &database, Prompts &prompts);
 

@@ -39,7 +39,7 @@ const DocumentKind &DocumentKinds::receipt()
                                  Fields::ItemID},
                                 {Fields::ItemDescription, TransactionsTexts::tr("Description"), 450},
                                 {Fields::UnitCost, TransactionsTexts::tr("Unit Cost"), 110, Qt::AlignRight}},
-                .toldColumns = {{.field = ReceiptEntry::Amount.toString(),
+                .toldColumns = {{.field = ReceiptEntry::Amount,
                                  .title = TransactionsTexts::tr("Amount"),
                                  .width = 100,
                                  .alignment = Qt::AlignRight,
@@ -51,7 +51,7 @@ const DocumentKind &DocumentKinds::receipt()
             {
                 .screen = u"frmInvReceipts"_s,
                 .caption = TransactionsTexts::tr("Inventory Receipts"),
-                .columns = {{u"Periodppyyyy"_s, TransactionsTexts::tr("Period"), 70},
+                .columns = {{Fields::Periodppyyyy, TransactionsTexts::tr("Period"), 70},
                             {Fields::ReceiptDate, TransactionsTexts::tr("Date"), 85},
                             {Fields::ReceiptNo, TransactionsTexts::tr("Receipt no."), 90},
                             {Fields::PurchaseOrderNo, TransactionsTexts::tr("PO"), 80},

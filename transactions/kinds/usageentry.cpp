@@ -12,7 +12,6 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using Engine::FieldType;
 using Engine::Money;
 using Engine::Value;
 
@@ -22,7 +21,7 @@ UsageEntry::UsageEntry(Engine::Database &database, Prompts &prompts)
     : DocumentEntry(database, prompts, DocumentKinds::usage())
     , m_costs(database)
 {
-    lines().addCalculated({u"ExtAmount"_s, FieldType::Money},
+    lines().addCalculated(Fields::ExtAmount,
                           [this](const Engine::DataSet &line) { return Value(extAmount(line)); });
 }
 
@@ -31,7 +30,7 @@ void UsageEntry::configureFields()
     DocumentEntry::configureFields();
     header().field(Fields::UsageNo).label = TransactionsTexts::tr("Usage no.");
     header().field(Fields::InvoiceAmount).format = currencyFormat();
-    lines().field(u"ExtAmount").format = currencyFormat();
+    lines().field(Fields::ExtAmount).format = currencyFormat();
     lines().field(Fields::ItemID).changed = [this] {
         lines().set(Fields::UnitCost, m_costs.chosen(lines().value(Fields::ItemID)));
     };
@@ -108,7 +107,7 @@ Money UsageEntry::extAmount(const Engine::DataSet &line)
 std::optional<Money> UsageEntry::sumOfLines()
 {
     const int item = lines().fieldIndex(Fields::ItemID);
-    const int amount = lines().fieldIndex(u"ExtAmount");
+    const int amount = lines().fieldIndex(Fields::ExtAmount);
     Money sum;
     try {
         for (int i = 0; i < lines().recordCount(); ++i) {
@@ -127,13 +126,13 @@ void UsageEntry::lineChanging(LineChange change)
 {
     if (!m_total)
         m_total = sumOfLines();
-    m_amountBefore = change == LineChange::Insert ? Money() : lines().money(u"ExtAmount");
+    m_amountBefore = change == LineChange::Insert ? Money() : lines().money(Fields::ExtAmount);
 }
 
 Money UsageEntry::totalWithLine()
 {
     m_costs.hold(lines().value(Fields::ItemID));
-    return m_total.value_or(Money()) - m_amountBefore + lines().money(u"ExtAmount");
+    return m_total.value_or(Money()) - m_amountBefore + lines().money(Fields::ExtAmount);
 }
 
 void UsageEntry::lineSaved() { setTotal(m_total ? totalWithLine() : sumOfLines()); }

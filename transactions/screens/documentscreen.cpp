@@ -124,8 +124,8 @@ QList<GridColumn> DocumentScreen::gridColumns(LineOptions &options) const
             options.fixed << column.field;
     }
     QList<GridColumn> behind = m_entry->kind().entry.toldColumns;
-    const std::pair<QString, QString> ofStock[] = {{DocumentEntry::OnHand.toString(), tr("On hand")},
-                                                   {DocumentEntry::Afterwards.toString(), tr("After")}};
+    const std::pair<QString, QString> ofStock[] = {{DocumentEntry::OnHand, tr("On hand")},
+                                                   {DocumentEntry::Afterwards, tr("After")}};
     for (const auto &[field, title] : ofStock)
         behind.append({.field = field,
                        .title = title,

@@ -29,7 +29,7 @@ ListDescription TfrmInvHistory::description()
         .name = u"frmInvHistory"_s,
         .caption = tr("Inventory History"),
         .columns =
-            {{u"Periodppyyyy"_s, tr("Period"), 70},
+            {{Fields::Periodppyyyy, tr("Period"), 70},
              {Fields::TransDate, tr("Date"), 85},
              {Fields::ItemNo, tr("Item no."), 90},
              {.field = Fields::ItemDescription, .title = tr("Description"), .width = 250, .takesSurplus = true},
