@@ -1,6 +1,7 @@
 #include "care/checks.h"
 #include "care/inspection.h"
 #include "care/texts.h"
+#include "data/fields.h"
 #include "data/layouts.h"
 #include "engine/store/dialect.h"
 #include "master/masterkinds.h"
@@ -136,13 +137,13 @@ void checkValues(Inspection &inspection)
     QHash<QString, QList<Fault>> further; // by table
     for (const DocumentKind *kind : DocumentKinds::all()) {
         further[kind->headerTable] =
-            missing(kind->entry.requiredFields + QStringList(u"Posted"_s),
+            missing(kind->entry.requiredFields + QStringList{Fields::Posted},
                     CareTexts::tr("Lists, reports and posting may pass the document over."));
         further[kind->headerTable].append({periodFault(), CareTexts::tr("GLPeriod is no period of a year."),
                                            CareTexts::tr("Reports by period leave the document out."),
                                            correctIt()});
         further[kind->lineTable] =
-            missing({u"ItemID"_s, kind->entry.lineColumns.constFirst().field},
+            missing({Fields::ItemID, kind->entry.lineColumns.constFirst().field},
                     CareTexts::tr("The line moves nothing, and its document cannot be posted as it stands."));
     }
     for (const MasterKind *kind : MasterKinds::all())

@@ -41,7 +41,8 @@ void runCost(CommandContext &context)
     writeTable(context, context.arguments.words().constLast(), [&](RowWriter &writer) {
         writeTitles(writer,
                     {Fields::TransDate, Fields::TransDescription, Fields::WarehouseName, Fields::Quantity,
-                     Fields::UnitCost, u"OnHandBefore"_s, u"AverageBefore"_s, u"OnHandAfter"_s, u"AverageAfter"_s});
+                     Fields::UnitCost, TrailFields::OnHandBefore, TrailFields::AverageBefore,
+                     TrailFields::OnHandAfter, TrailFields::AverageAfter});
         for (const CostStep &step : trail.steps)
             writeRecord(writer,
                         {step.date, step.description, step.location, step.received, number(step.unitCost),
@@ -66,8 +67,9 @@ void runBuy(CommandContext &context)
 
     writeTable(context, context.arguments.words().constLast(), [&](RowWriter &writer) {
         writeTitles(writer,
-                    {Fields::VendorNo, Fields::VendorName, Fields::ItemNo, Fields::ItemDescription, u"UsePerWeek"_s,
-                     Fields::QtyOnHand, u"Unposted"_s, u"DaysLeft"_s, u"Proposed"_s, u"LastCost"_s});
+                    {Fields::VendorNo, Fields::VendorName, Fields::ItemNo, Fields::ItemDescription,
+                     BuyingFields::UsePerWeek, Fields::QtyOnHand, BuyingFields::Unposted, BuyingFields::DaysLeft,
+                     BuyingFields::Proposed, BuyingFields::LastCost});
         for (const ItemToBuy &item : whatToBuy(data->databaseTallymere(), plan))
             writeRecord(writer,
                         {item.vendorNo, item.vendorName, item.itemNo, item.description, item.usePerWeek,

@@ -297,7 +297,7 @@ const TableLayout &iBackup()
             Fields::SavedAt,
         },
         {
-            {{}, u"BackupID"_s, Primary},
+            {{}, Fields::BackupID, Primary},
         },
     };
     return layout;
@@ -313,7 +313,7 @@ const TableLayout &iDataVersion()
             Fields::ProgramVersion.sized(20),
         },
         {
-            {{}, u"VersionID"_s, Primary},
+            {{}, Fields::VersionID, Primary},
         },
     };
     return layout;

@@ -64,9 +64,9 @@ struct CounterRetry
 // users never get the same number. Numbers taken are used up, also when the rule throws.
 //
 //     takeNumbers(database, u"ItemCtl"_s, [&](CounterRow &counters) {
-//         receipt = counters.take(u"NextInvReceiptID");
-//         counters.restartOutside(u"NextInvReceiptNo", 1001, 10'000'000, 1001);
-//         number = counters.take(u"NextInvReceiptNo");
+//         receipt = counters.take(Fields::NextInvReceiptID);
+//         counters.restartOutside(Fields::NextInvReceiptNo, 1001, 10'000'000, 1001);
+//         number = counters.take(Fields::NextInvReceiptNo);
 //     });
 //
 // Throws EngineError with TableInUse when all attempts found the table held by another user, and any other

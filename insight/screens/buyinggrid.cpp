@@ -1,11 +1,10 @@
 #include "insight/screens/buyinggrid.h"
 
 #include "base/formats.h"
+#include "data/fields.h"
 #include "insight/screens/buyingmodel.h"
 
 #include <QKeyEvent>
-
-using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
@@ -24,7 +23,7 @@ bool typesNumber(const QKeyEvent *event)
 BuyingGrid::BuyingGrid(QWidget *parent)
     : EntryGrid(parent)
 {
-    m_quantity.name = u"Quantity"_s;
+    m_quantity.name = Fields::Quantity;
     m_quantity.type = Engine::FieldType::Float;
     m_quantity.format = quantityFormat();
     m_quantity.label = tr("To buy");

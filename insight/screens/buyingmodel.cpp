@@ -2,6 +2,7 @@
 
 #include "base/formats.h"
 #include "controls/windows/look.h"
+#include "data/fields.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,15 +65,15 @@ bool isNegative(const ItemToBuy &item, int column)
 
 QList<GridColumn> BuyingModel::gridColumns()
 {
-    return {{u"ItemNo"_s, tr("Item no."), 90},
-            {.field = u"ItemDescription"_s, .title = tr("Description"), .width = 240, .takesSurplus = true},
-            {u"UsePerWeek"_s, tr("Use a week"), 90, Qt::AlignRight},
-            {u"QtyOnHand"_s, tr("On hand"), 80, Qt::AlignRight},
-            {u"Unposted"_s, tr("Unposted"), 80, Qt::AlignRight},
-            {u"DaysLeft"_s, tr("Days left"), 80, Qt::AlignRight},
-            {u"LastCost"_s, tr("Last cost"), 80, Qt::AlignRight},
-            {u"Proposed"_s, tr("Proposed"), 80, Qt::AlignRight},
-            {u"Quantity"_s, tr("To buy"), 80, Qt::AlignRight}};
+    return {{Fields::ItemNo, tr("Item no."), 90},
+            {.field = Fields::ItemDescription, .title = tr("Description"), .width = 240, .takesSurplus = true},
+            {BuyingFields::UsePerWeek, tr("Use a week"), 90, Qt::AlignRight},
+            {Fields::QtyOnHand, tr("On hand"), 80, Qt::AlignRight},
+            {BuyingFields::Unposted, tr("Unposted"), 80, Qt::AlignRight},
+            {BuyingFields::DaysLeft, tr("Days left"), 80, Qt::AlignRight},
+            {BuyingFields::LastCost, tr("Last cost"), 80, Qt::AlignRight},
+            {BuyingFields::Proposed, tr("Proposed"), 80, Qt::AlignRight},
+            {Fields::Quantity, tr("To buy"), 80, Qt::AlignRight}};
 }
 
 BuyingModel::BuyingModel(const BuyingList &list, QObject *parent)

@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "controls/grids/stepbox.h"
+#include "data/fields.h"
 #include "transactions/screens/countmodel.h"
 
 #include <limits>
@@ -56,8 +57,8 @@ bool typesNumber(const QKeyEvent *event)
 
 CountGrid::CountGrid(QWidget *parent)
     : EntryGrid(parent)
-    , m_quantity(field(u"Quantity"_s, Engine::FieldType::Float, quantityFormat(), tr("Current Quantity")))
-    , m_cost(field(u"StandardCost"_s, Engine::FieldType::Money, currencyFormat(), tr("Standard Cost")))
+    , m_quantity(field(Fields::Quantity, Engine::FieldType::Float, quantityFormat(), tr("Current Quantity")))
+    , m_cost(field(Fields::StandardCost, Engine::FieldType::Money, currencyFormat(), tr("Standard Cost")))
 {
 }
 

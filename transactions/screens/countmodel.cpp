@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "controls/grids/cellnote.h"
 #include "controls/windows/look.h"
+#include "data/fields.h"
 
 #include <algorithm>
 #include <QFont>
@@ -55,14 +56,15 @@ bool isSameCategory(const CountRow &one, const CountRow &other)
 
 QList<GridColumn> CountModel::gridColumns()
 {
-    return {{.field = u"ItemNo"_s, .title = tr("Item No"), .width = 90, .letters = 8},
-            {.field = u"TypeName"_s, .title = tr("Category"), .width = 130, .letters = 9},
-            {.field = u"ItemDescription"_s, .title = tr("Item"), .width = 300, .takesSurplus = true, .letters = 18},
-            {u"StandardCost"_s, tr("Standard Cost"), 112, Qt::AlignRight},
-            {u"QtyOnhand"_s, tr("Prior Quantity"), 105, Qt::AlignRight},
-            {u"Quantity"_s, tr("Current Quantity"), 120, Qt::AlignRight},
-            {u"Difference"_s, tr("Difference"), 90, Qt::AlignRight},
-            {u"UnitCost"_s, tr("Unit Cost"), 90, Qt::AlignRight}};
+    return {
+        {.field = Fields::ItemNo, .title = tr("Item No"), .width = 90, .letters = 8},
+        {.field = Fields::TypeName, .title = tr("Category"), .width = 130, .letters = 9},
+        {.field = Fields::ItemDescription, .title = tr("Item"), .width = 300, .takesSurplus = true, .letters = 18},
+        {Fields::StandardCost, tr("Standard Cost"), 112, Qt::AlignRight},
+        {CountList::QtyOnhand, tr("Prior Quantity"), 105, Qt::AlignRight},
+        {Fields::Quantity, tr("Current Quantity"), 120, Qt::AlignRight},
+        {u"Difference"_s, tr("Difference"), 90, Qt::AlignRight},
+        {Fields::UnitCost, tr("Unit Cost"), 90, Qt::AlignRight}};
 }
 
 CountModel::CountModel(const CountList &list, QObject *parent)

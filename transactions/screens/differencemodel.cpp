@@ -2,6 +2,7 @@
 
 #include "base/formats.h"
 #include "controls/grids/cellnote.h"
+#include "data/fields.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,10 +20,10 @@ QString quantityText(double quantity)
 
 QList<GridColumn> DifferenceModel::gridColumns()
 {
-    return {{u"ItemNo"_s, tr("Item No"), 90},
-            {u"ItemDescription"_s, tr("Item"), 260},
+    return {{Fields::ItemNo, tr("Item No"), 90},
+            {Fields::ItemDescription, tr("Item"), 260},
             {u"Difference"_s, tr("Difference"), 90, Qt::AlignRight},
-            {u"UnitCost"_s, tr("Unit Cost"), 80, Qt::AlignRight},
+            {Fields::UnitCost, tr("Unit Cost"), 80, Qt::AlignRight},
             {u"Value"_s, tr("Value"), 90, Qt::AlignRight},
             {.field = u"Bar"_s, .title = tr("Where the money is"), .width = 240, .takesSurplus = true}};
 }
