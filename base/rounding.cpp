@@ -36,4 +36,13 @@ long double roundIt(long double value) { return nearestWhole(withoutNoise(value)
 
 Money toCents(long double value) { return Money::fromLongDouble(roundIt(value * 100) / 100); }
 
+Money amountOf(double quantity, Money unitCost)
+{
+    return toCents(static_cast<long double>(quantity) * unitCost.toLongDouble());
+}
+
+double toTenth(double value) { return static_cast<double>(roundIt(value * 10.0L) / 10); }
+
+double roundedUp(double value) { return std::ceil(withoutNoise(value)); }
+
 } // namespace Tallymere

@@ -16,7 +16,13 @@ inline double withoutNoise(double value)
     return static_cast<double>(withoutNoise(static_cast<long double>(value)));
 }
 
-// roundIt(value x 100) / 100 as money: an amount to the cent.
+// roundIt(value x 100) / 100 as money: an amount to the cent. Throws AmountTooLarge.
 Engine::Money toCents(long double value);
+// What a quantity comes to at a cost of one.
+Engine::Money amountOf(double quantity, Engine::Money unitCost);
+
+// Of estimates, as what is used in a week: to one decimal by roundIt, and up to a whole number, without noise first.
+double toTenth(double value);
+double roundedUp(double value);
 
 } // namespace Tallymere

@@ -1,4 +1,5 @@
 #include "base/named.h"
+#include "base/plural.h"
 #include "base/ruleerror.h"
 #include "cli/command.h"
 #include "cli/csvinput.h"
@@ -47,8 +48,7 @@ void runImport(CommandContext &context)
         throw RuleError(Texts::tr("Nothing was imported."));
     }
     context.console.print(
-        Texts::tr("%1 %2 imported")
-            .arg(QString::number(result.documents), result.documents == 1 ? kind.oneName : kind.name));
+        Texts::tr("%1 imported").arg(plural(result.documents, u"%n "_s + kind.oneName, u"%n "_s + kind.name)));
 }
 
 } // namespace

@@ -61,7 +61,9 @@ private:
     void readItem()
     {
         const Engine::StatementPtr row =
-            ofItem(u"SELECT I.ItemNo, I.ItemDescription, I.WgtAvgCost, I.Suspended, T.TypeName FROM Item I "
+            ofItem(u"SELECT I.ItemNo, I.ItemDescription, I.WgtAvgCost, I.Suspended, T.TypeName, I.StandardCost, "
+                   u"T.CostingMethod "
+                   "FROM Item I "
                    "LEFT OUTER JOIN ItemType T ON T.ItemTypeID = I.ItemTypeID WHERE I.ItemID = ?"_s);
         if (!row->next())
             throw RuleError(InsightTexts::tr("Item not found"));
@@ -70,6 +72,8 @@ private:
         m_card.averageCost = Engine::Money::fromDouble(row->doubleAt(2));
         m_card.isSuspended = row->valueAt(3, Engine::FieldType::Boolean).toBool();
         m_card.typeName = row->textAt(4);
+        m_card.standardCost = Engine::Money::fromDouble(row->doubleAt(5));
+        m_card.method = costingMethodOf(row->intAt(6));
     }
 
     void readStock()
@@ -84,7 +88,8 @@ private:
             m_card.onHand += row->doubleAt(2);
         }
         m_card.onHand = withoutNoise(m_card.onHand);
-        m_card.value = toCents(static_cast<long double>(m_card.onHand) * m_card.averageCost.toDouble());
+        m_card.value = stockValue(m_card.onHand, m_card.method, Engine::Value(m_card.averageCost),
+                                  Engine::Value(m_card.standardCost));
     }
 
     // From the few documents that wait, and not from all lines that the item has: hence the plus sign.

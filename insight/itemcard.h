@@ -1,6 +1,7 @@
 #pragma once
 
 #include "insight/costtrail.h"
+#include "master/costing.h"
 
 namespace Tallymere {
 
@@ -52,8 +53,10 @@ struct ItemCard
     bool isSuspended = false;
     std::vector<StockAtLocation> stock; // by the names of the locations
     double onHand = 0; // of all of them
+    CostingMethod method = CostingMethod::None;
     Engine::Money averageCost;
-    Engine::Money value; // of what is on hand, at the average cost
+    Engine::Money standardCost;
+    std::optional<Engine::Money> value; // of what is on hand (stockValue)
     std::optional<Engine::Money> lastCost; // of the last receipt that was posted
     QDate lastReceived; // its date
     std::vector<WaitingStock> waiting; // by kind; only those that have some

@@ -10,7 +10,6 @@
 #include "transactions/documents/documentkinds.h"
 
 #include <algorithm>
-#include <cmath>
 #include <QStringList>
 #include <tuple>
 #include <unordered_map>
@@ -149,8 +148,8 @@ private:
     void propose(ItemToBuy &item) const
     {
         const double there = item.onHand + item.unposted;
-        item.daysLeft = there > 0 ? std::round(there / item.usePerWeek * 70) / 10 : 0;
-        item.proposed = std::max(0.0, std::ceil(withoutNoise(m_plan.cover * item.usePerWeek - there)));
+        item.daysLeft = there > 0 ? toTenth(there / item.usePerWeek * 7) : 0;
+        item.proposed = std::max(0.0, roundedUp(m_plan.cover * item.usePerWeek - there));
         item.usePerWeek = withoutNoise(item.usePerWeek);
     }
 

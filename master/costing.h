@@ -3,16 +3,25 @@
 #include "engine/store/driver.h"
 #include "engine/values/money.h"
 
+#include <optional>
+
 namespace Tallymere {
 
 // How a type of items is valued: ItemType.CostingMethod.
 enum class CostingMethod {
-    None = 0, // and whatever else is stored: what leaves stock costs nothing then, while reports take the average
+    None =
+        0, // and whatever else is stored: what leaves stock costs nothing then (ItemCost); what is in it, the average
     Average = 1, // the item's weighted average cost
     Standard = 2, // its standard cost
 };
 
 CostingMethod costingMethodOf(qint64 stored);
+
+// What a unit of an item in stock is worth: its standard cost where the method is that, and its average for any other.
+Engine::Money unitValue(CostingMethod method, const Engine::Value &average, const Engine::Value &standard);
+// What so much of it is worth, to the cent; nothing where that is beyond an amount of money.
+std::optional<Engine::Money> stockValue(double quantity, CostingMethod method, const Engine::Value &average,
+                                        const Engine::Value &standard);
 
 // What a unit of an item costs that leaves stock.
 struct ItemCost

@@ -12,7 +12,6 @@
 #include "reports/reportfields.h"
 #include "reports/texts.h"
 
-#include <optional>
 #include <QHash>
 
 using namespace Qt::StringLiterals;
@@ -73,15 +72,13 @@ private:
     {
         const CostingMethod method = m_method >= 0 ? costingMethodOf(m_query.valueIn(balance, m_method).toInt64())
                                                    : m_methods.value(m_query.valueIn(balance, m_itemType).toInt());
-        return m_query.valueIn(balance, method == CostingMethod::Standard ? m_standardCost : m_averageCost)
-            .toMoney();
+        return unitValue(method, m_query.valueIn(balance, m_averageCost), m_query.valueIn(balance, m_standardCost));
     }
 
     Money valueOf(const Engine::Row &balance, Money cost) const
     {
-        const double quantity = m_query.valueIn(balance, m_quantity).toDouble();
         try {
-            return toCents(quantity * cost.toLongDouble());
+            return amountOf(m_query.valueIn(balance, m_quantity).toDouble(), cost);
         } catch (const Engine::AmountTooLarge &) {
             throw RuleError(ReportsTexts::tr("The value of item '%1' is beyond what an amount of money can be")
                                 .arg(m_query.valueIn(balance, m_query.fieldIndex(Fields::ItemNo)).toText()));

@@ -112,7 +112,7 @@ void KitchenBooks::addUsage(const KitchenDocument &document, const std::vector<K
         if (posted)
             m_history.add({line.item, document.warehouse, period.year, period.number, typeValue(TransType::Usage),
                            document.date, line.quantity, line.cost, description, Value(), Value(), m_usageId});
-        amount = amount + toCents(static_cast<long double>(line.quantity) * line.cost.toLongDouble());
+        amount = amount + amountOf(line.quantity, line.cost);
     }
     m_usages.add({m_usageId++, number, document.warehouse,
                   u"Meals of %1"_s.arg(document.date.toString(Qt::ISODate)), document.date, amount, period.number,

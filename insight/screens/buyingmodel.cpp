@@ -1,11 +1,11 @@
 #include "insight/screens/buyingmodel.h"
 
 #include "base/formats.h"
+#include "base/rounding.h"
 #include "controls/windows/look.h"
 #include "data/fields.h"
 
 #include <algorithm>
-#include <cmath>
 #include <QFont>
 #include <QGuiApplication>
 
@@ -39,7 +39,7 @@ QString textOf(const BuyingList::Row &row, int column)
     case BuyingModel::Description:
         return item.description;
     case BuyingModel::UsePerWeek:
-        return quantityText(std::round(item.usePerWeek * 10) / 10); // as the days left
+        return quantityText(toTenth(item.usePerWeek)); // as the days left
     case BuyingModel::OnHand:
         return quantityText(item.onHand);
     case BuyingModel::Unposted:

@@ -194,11 +194,14 @@ void TfrmItemCard::showFacts()
     m_facts->addFact(tr("All"), quantity(m_card.onHand), toneOf(m_card.onHand, FactList::Tone::Total));
     m_facts->addHead(tr("Cost"));
     m_facts->addFact(tr("Average"), currencyText(m_card.averageCost));
+    if (m_card.method == CostingMethod::Standard)
+        m_facts->addFact(tr("Standard"), currencyText(m_card.standardCost));
     if (m_card.lastCost)
         m_facts->addFact(m_card.lastReceived.isValid() ? tr("Last, %1").arg(dateText(m_card.lastReceived))
                                                        : tr("Last"),
                          currencyText(*m_card.lastCost));
-    m_facts->addFact(tr("Value"), currencyText(m_card.value), FactList::Tone::Total);
+    if (m_card.value)
+        m_facts->addFact(tr("Value"), currencyText(*m_card.value), FactList::Tone::Total);
     if (m_card.waiting.empty())
         return;
     m_facts->addHead(tr("Waiting to be posted"));

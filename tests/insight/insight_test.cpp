@@ -1,3 +1,4 @@
+#include "base/rounding.h"
 #include "insight/buyinglist.h"
 #include "insight/itemcard.h"
 #include "insight/monthend.h"
@@ -141,6 +142,17 @@ TEST_P(InsightTest, ACardHasTheStockAndItsWays)
         }
     }
     EXPECT_EQ(refusalOf([&] { itemCard(kitchen.database(), 99); }), u"Item not found -> ");
+}
+
+TEST_P(InsightTest, ACardValuesTheStockAsTheTotalsDo)
+{
+    kitchen.execute(u"UPDATE Item SET StandardCost = 7.7777"_s);
+    for (const CostingMethod method : {CostingMethod::Standard, CostingMethod::Average, CostingMethod::None}) {
+        kitchen.execute(u"UPDATE ItemType SET CostingMethod = %1"_s.arg(static_cast<int>(method)));
+        const ItemCard card = itemCard(kitchen.database(), 1);
+        const Money cost = method == CostingMethod::Standard ? Money::fromDouble(7.7777) : card.averageCost;
+        EXPECT_EQ(card.value, amountOf(card.onHand, cost)) << static_cast<int>(method);
+    }
 }
 
 TEST_P(InsightTest, ALongHistoryIsThinnedOut)

@@ -23,11 +23,6 @@ constexpr Money largeAmount = Money::fromTenThousandths(1'000'000LL * 10'000);
 QString quantityText(double quantity) { return quantityFormat().display(Engine::Value(quantity)); }
 QString costText(double cost) { return currencyFormat().display(Engine::Value(cost)); }
 
-Money amountOf(const EnteredFigures &figures)
-{
-    return toCents(static_cast<long double>(figures.quantity) * Money::fromDouble(figures.cost).toLongDouble());
-}
-
 bool isLarge(Money amount) { return amount >= largeAmount || amount <= -largeAmount; }
 
 } // namespace
@@ -44,7 +39,7 @@ void requireSensibleQuantity(double quantity, const QString &column)
 void requireAmount(const EnteredFigures &figures, const QString &column)
 {
     try {
-        amountOf(figures);
+        amountOf(figures.quantity, Money::fromDouble(figures.cost));
     } catch (const Engine::AmountTooLarge &) {
         throw RuleError(TransactionsTexts::tr("%1 at a cost of %2 each is more than an amount of money can be")
                             .arg(quantityText(figures.quantity), costText(figures.cost)),
@@ -63,7 +58,7 @@ std::optional<QString> questionOfLargeFigures(const EnteredFigures &figures)
 
 std::optional<QString> questionOfLargeAmount(const EnteredFigures &figures)
 {
-    const Money amount = amountOf(figures);
+    const Money amount = amountOf(figures.quantity, Money::fromDouble(figures.cost));
     if (!isLarge(amount))
         return std::nullopt;
     return TransactionsTexts::tr(

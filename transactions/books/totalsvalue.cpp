@@ -4,6 +4,7 @@
 #include "engine/filter/filterexpression.h"
 #include "engine/records/rowsource.h"
 #include "engine/values/amounttoolarge.h"
+#include "master/costing.h"
 
 #include <algorithm>
 #include <QElapsedTimer>
@@ -112,8 +113,8 @@ void TotalsValue::addItems(qint64 last)
             const double quantity = m_quantity
                 ? m_quantity(static_cast<int>(rows->intAt(4)), static_cast<int>(rows->intAt(5)))
                 : rows->doubleAt(0);
-            const auto value = TotalsView::valueOf(quantity, rows->intAt(1), rows->valueAt(2, FieldType::Money),
-                                                   rows->valueAt(3, FieldType::Money));
+            const auto value = stockValue(quantity, costingMethodOf(rows->intAt(1)),
+                                          rows->valueAt(2, FieldType::Money), rows->valueAt(3, FieldType::Money));
             if (value)
                 m_sum = *m_sum + *value;
         }

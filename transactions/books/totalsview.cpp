@@ -2,9 +2,7 @@
 
 #include "base/formats.h"
 #include "base/listfilter.h"
-#include "base/rounding.h"
 #include "data/fields.h"
-#include "engine/values/amounttoolarge.h"
 #include "master/costing.h"
 
 using namespace Qt::StringLiterals;
@@ -49,23 +47,9 @@ QString sqlOf(TotalsView::Figures figures, const QString &from = balances)
 
 Engine::Value TotalsView::valueOf(const Engine::DataSet &row, double quantity)
 {
-    const std::optional<Engine::Money> value =
-        valueOf(quantity, row.integer(Fields::CostingMethod), row.value(Fields::WgtAvgCost),
-                row.value(Fields::StandardCost));
+    const auto value = stockValue(quantity, costingMethodOf(row.integer(Fields::CostingMethod)),
+                                  row.value(Fields::WgtAvgCost), row.value(Fields::StandardCost));
     return value ? Engine::Value(*value) : Engine::Value();
-}
-
-std::optional<Engine::Money> TotalsView::valueOf(double quantity, qint64 costingMethod,
-                                                 const Engine::Value &averageCost,
-                                                 const Engine::Value &standardCost)
-{
-    const bool atStandard = costingMethodOf(costingMethod) == CostingMethod::Standard;
-    try {
-        const Engine::Money cost = (atStandard ? standardCost : averageCost).toMoney();
-        return toCents(quantity * cost.toLongDouble());
-    } catch (const Engine::AmountTooLarge &) {
-        return std::nullopt;
-    }
 }
 
 TotalsView::TotalsView(Engine::Database &database, Figures figures)

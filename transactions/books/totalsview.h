@@ -3,7 +3,6 @@
 #include "engine/records/query.h"
 #include "engine/values/fieldname.h"
 
-#include <optional>
 #include <QDate>
 #include <QString>
 
@@ -29,10 +28,6 @@ public:
     static constexpr Engine::FieldName<Engine::FieldType::Date> LastCounted{u"LastCounted"};
     // Another quantity of a row at the same cost.
     static Engine::Value valueOf(const Engine::DataSet &row, double quantity);
-    // The same of a statement over the query (see TotalsValue). Nothing where it is beyond an amount of money.
-    static std::optional<Engine::Money> valueOf(double quantity, qint64 costingMethod,
-                                                const Engine::Value &averageCost,
-                                                const Engine::Value &standardCost);
 
     // ItemID, WarehouseID, QtyOnHand, ItemNo, ItemDescription, WarehouseName, and the further figures.
     Engine::Query &query() { return m_query; }

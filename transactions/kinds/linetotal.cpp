@@ -16,7 +16,7 @@ namespace {
 std::optional<Money> amount(double quantity, Money cost)
 {
     try {
-        return toCents(static_cast<long double>(quantity) * cost.toLongDouble());
+        return amountOf(quantity, cost);
     } catch (const Engine::AmountTooLarge &) {
         return std::nullopt;
     }

@@ -94,7 +94,7 @@ Money UsageEntry::extAmount(const Engine::DataSet &line)
     if (line.value(Fields::Quantity).isNull())
         return {};
     try {
-        return toCents(line.number(Fields::Quantity) * m_costs.of(line.value(Fields::ItemID)).toLongDouble());
+        return amountOf(line.number(Fields::Quantity), m_costs.of(line.value(Fields::ItemID)));
     } catch (const Engine::EngineError &error) {
         if (error.isStoreLost())
             throw;
