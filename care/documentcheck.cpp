@@ -18,15 +18,15 @@ namespace Tallymere {
 namespace {
 
 // What moves with one line.
-struct Movement
+struct ItemQuantity
 {
     qint64 item = 0;
     double quantity = 0;
     bool isStocked = true; // as the item stands now
 
-    bool matches(const Movement &other) const { return item == other.item && quantity == other.quantity; }
+    bool matches(const ItemQuantity &other) const { return item == other.item && quantity == other.quantity; }
 };
-using Movements = std::vector<Movement>;
+using ItemQuantities = std::vector<ItemQuantity>;
 
 // The documents of one kind against their lines and their history. Only those whose sums differ are looked at line by
 // line.
@@ -89,7 +89,7 @@ private:
             for (; more && line->intAt(0) <= key; more = m_inspection.next(*line)) {
                 if (line->intAt(0) < key)
                     continue; // of no document
-                const Movement movement = movementOf(*line);
+                const ItemQuantity movement = movementOf(*line);
                 add(movement, all);
                 if (movement.isStocked)
                     add(movement, stocked);
@@ -100,7 +100,7 @@ private:
         }
     }
 
-    Movement movementOf(const Engine::Statement &row) const
+    ItemQuantity movementOf(const Engine::Statement &row) const
     {
         PostingLine line;
         if (m_kind.posting.readLine)
@@ -108,7 +108,7 @@ private:
         return {row.intAt(1), row.doubleAt(2) + 0.0, line.isPosted};
     }
 
-    static void add(const Movement &movement, HistoryTally::Posted &sum)
+    static void add(const ItemQuantity &movement, HistoryTally::Posted &sum)
     {
         ++sum.rows;
         sum.quantity += movement.quantity;
@@ -122,14 +122,14 @@ private:
             <= noise * std::max({1.0, std::abs(one.quantity), std::abs(other.quantity)});
     }
 
-    std::map<qint64, Movements> read(const QString &sql, std::span<const qint64> keys)
+    std::map<qint64, ItemQuantities> read(const QString &sql, std::span<const qint64> keys)
     {
         const Engine::StatementPtr row = m_inspection.store().prepare(sql);
         row->bindText(0, Engine::numberList(keys));
-        std::map<qint64, Movements> found;
+        std::map<qint64, ItemQuantities> found;
         while (m_inspection.next(*row))
             found[row->intAt(0)].push_back(row->columnCount() > 3 ? movementOf(*row)
-                                                                  : Movement{row->intAt(1), row->doubleAt(2)});
+                                                                  : ItemQuantity{row->intAt(1), row->doubleAt(2)});
         return found;
     }
 
@@ -141,12 +141,12 @@ private:
         if (keys.empty())
             return;
         const Engine::Dialect &dialect = m_inspection.store().dialect();
-        std::map<qint64, Movements> lines =
+        std::map<qint64, ItemQuantities> lines =
             read(u"SELECT L.%1, %2 FROM %3 WHERE %4 ORDER BY L.%1, L.Seq"_s.arg(
                      m_kind.keyField, m_kind.posting.lineColumns, m_kind.posting.lines,
                      dialect.inNumberList("L."_L1 + m_kind.keyField)),
                  keys);
-        std::map<qint64, Movements> history =
+        std::map<qint64, ItemQuantities> history =
             read(u"SELECT %1, ItemID, Quantity FROM IHist WHERE %2 AND TransType = %3 ORDER BY IHistID"_s.arg(
                      m_kind.keyField, dialect.inNumberList(m_kind.keyField),
                      QString::number(static_cast<int>(m_kind.posting.transType))),
@@ -155,10 +155,10 @@ private:
             tell(key, suspect, std::move(lines[key]), std::move(history[key]));
     }
 
-    void tell(qint64 key, Suspect suspect, Movements lines, Movements history)
+    void tell(qint64 key, Suspect suspect, ItemQuantities lines, ItemQuantities history)
     {
         takeMatchesOut(lines, history);
-        std::erase_if(lines, [](const Movement &line) { return !line.isStocked; });
+        std::erase_if(lines, [](const ItemQuantity &line) { return !line.isStocked; });
         if (suspect == Suspect::NoDocument) {
             tellSurplus(key, history, CareTexts::tr("It is gone, and its history is there."));
         } else if (suspect == Suspect::Posted) {
@@ -175,11 +175,11 @@ private:
         }
     }
 
-    static void takeMatchesOut(Movements &lines, Movements &history)
+    static void takeMatchesOut(ItemQuantities &lines, ItemQuantities &history)
     {
         for (auto line = lines.begin(); line != lines.end();) {
             const auto match = std::find_if(history.begin(), history.end(),
-                                            [&](const Movement &other) { return line->matches(other); });
+                                            [&](const ItemQuantity &other) { return line->matches(other); });
             if (match == history.end()) {
                 ++line;
                 continue;
@@ -189,23 +189,23 @@ private:
         }
     }
 
-    void doubt(const Movements &movements)
+    void doubt(const ItemQuantities &movements)
     {
-        for (const Movement &movement : movements)
+        for (const ItemQuantity &movement : movements)
             m_inspection.doubt(movement.item);
     }
 
-    QString listOf(const Movements &movements)
+    QString listOf(const ItemQuantities &movements)
     {
         doubt(movements);
         QStringList names;
-        for (const Movement &movement : movements)
+        for (const ItemQuantity &movement : movements)
             names << u"%1 %2"_s.arg(Engine::Value(withoutNoise(movement.quantity)).toText(),
                                     m_inspection.itemName(movement.item));
         return names.join(u", ");
     }
 
-    void tellMissing(qint64 key, const Movements &lines)
+    void tellMissing(qint64 key, const ItemQuantities &lines)
     {
         if (!lines.empty())
             m_inspection.found(
@@ -217,7 +217,7 @@ private:
                      "it was posted, nothing is missing.")});
     }
 
-    void tellSurplus(qint64 key, const Movements &history, const QString &what)
+    void tellSurplus(qint64 key, const ItemQuantities &history, const QString &what)
     {
         if (!history.empty())
             m_inspection.found(

@@ -6898,6 +6898,10 @@ unter %2</translation>
         <source>%1 on hand</source>
         <translation>Bestand %1</translation>
     </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::TfrmItemInv</name>

@@ -6898,6 +6898,10 @@ al %2</translation>
         <source>%1 on hand</source>
         <translation>%1 en existencia</translation>
     </message>
+    <message>
+        <source>Standard</source>
+        <translation>Estándar</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::TfrmItemInv</name>

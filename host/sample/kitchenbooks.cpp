@@ -139,7 +139,7 @@ void KitchenBooks::addAdjustment(const KitchenDocument &document, const std::vec
 
 void KitchenBooks::finish()
 {
-    for (BulkInsert *table :
+    for (MultiRowInsert *table :
          {&m_receipts, &m_receiptLines, &m_usages, &m_usageLines, &m_adjustments, &m_adjustmentLines, &m_history})
         table->finish();
     m_database.connection().drain();

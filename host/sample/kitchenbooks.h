@@ -2,7 +2,7 @@
 
 #include "engine/store/database.h"
 #include "engine/values/money.h"
-#include "host/sample/bulkinsert.h"
+#include "host/sample/multirowinsert.h"
 
 #include <QDate>
 #include <QString>
@@ -42,13 +42,13 @@ private:
     void writeCounters();
 
     Engine::Database &m_database;
-    BulkInsert m_receipts;
-    BulkInsert m_receiptLines;
-    BulkInsert m_usages;
-    BulkInsert m_usageLines;
-    BulkInsert m_adjustments;
-    BulkInsert m_adjustmentLines;
-    BulkInsert m_history;
+    MultiRowInsert m_receipts;
+    MultiRowInsert m_receiptLines;
+    MultiRowInsert m_usages;
+    MultiRowInsert m_usageLines;
+    MultiRowInsert m_adjustments;
+    MultiRowInsert m_adjustmentLines;
+    MultiRowInsert m_history;
     qint64 m_receiptId = 0, m_receiptNo = 0;
     qint64 m_usageId = 0, m_usageNo = 0;
     qint64 m_adjustmentId = 0;

@@ -3,7 +3,7 @@
 #include "data/fields.h"
 #include "data/numbercounter.h"
 #include "engine/records/query.h"
-#include "host/sample/bulkinsert.h"
+#include "host/sample/multirowinsert.h"
 #include "master/masterkinds.h"
 #include "master/masterrecord.h"
 
@@ -137,9 +137,9 @@ void fillCatalogue(Engine::Database &database, int itemCount, Chance &chance)
     Engine::Connection &connection = database.connection();
     const QHash<QString, qint64> types = typeKeys(connection);
     Engine::Transaction transaction(connection);
-    BulkInsert items(connection, u"Item"_s,
-                     {Fields::ItemID, Fields::ItemNo, Fields::ItemDescription, Fields::ItemTypeID,
-                      Fields::StandardCost, Fields::Suspended});
+    MultiRowInsert items(connection, u"Item"_s,
+                         {Fields::ItemID, Fields::ItemNo, Fields::ItemDescription, Fields::ItemTypeID,
+                          Fields::StandardCost, Fields::Suspended});
     Products products;
     for (int i = there; i < itemCount; ++i) {
         const Product product = products.next();

@@ -191,7 +191,7 @@ void LargeKitchen::addUnposted(KitchenBooks &books)
 void LargeKitchen::writeStock()
 {
     Engine::Connection &connection = m_database.connection();
-    BulkInsert balances(connection, u"IBalance"_s, {Fields::ItemID, Fields::WarehouseID, Fields::QtyOnHand});
+    MultiRowInsert balances(connection, u"IBalance"_s, {Fields::ItemID, Fields::WarehouseID, Fields::QtyOnHand});
     for (const Item &item : m_items) {
         for (size_t location = 0; location < item.balances.size(); ++location) {
             if (item.hasBalance[location])

@@ -100,6 +100,32 @@ TEST_P(Workday, TheSampleKitchenGoesIntoANewDatabaseOnly)
 }
 
 // The file as the first release has left it, with a posted receipt and an open one.
+TEST(Moving, BooksGoIntoANewFolderAndAreTakenUpAgain)
+{
+    CliRunner cli(Store::Local);
+    makeSmallCompany(cli);
+    const QTemporaryDir place;
+    const QString there = place.filePath(u"new/books"_s);
+    const auto run = [&cli](const QStringList &words) {
+        const CliResult result = cli.runBare(words);
+        return QString::number(result.status) + u' ' + result.output + result.errors;
+    };
+    const QStringList from{u"copy"_s, u"--from"_s, cli.folder()};
+    const auto with = [&from](const QStringList &more) { return from + more; };
+    EXPECT_TRUE(has(run(from), u"2 tallymere: 'copy' needs a folder or the address of a server after --to"_s));
+    EXPECT_TRUE(has(run(with({u"--data"_s, there})), u"in place of --data"_s));
+    EXPECT_TRUE(has(run(with({u"--take-up"_s, u"--to"_s, there})), u"--take-up goes with --from alone"_s));
+
+    const QString moved = run(with({u"--to"_s, there, u"--move"_s}));
+    EXPECT_TRUE(moved.startsWith(u"0 "_s) && has(moved, u"have moved from"_s)) << qPrintable(moved);
+    const auto items = [&run](const QString &folder) { return run({u"--data"_s, folder, u"list"_s, u"items"_s}); };
+    EXPECT_EQ(items(there), items(cli.folder()));
+    EXPECT_TRUE(has(cli.import(u"locations"_s, "WarehouseName\nHall\n").errors, there));
+    EXPECT_TRUE(has(run(with({u"--take-up"_s})), u"taken up again"_s));
+    EXPECT_EQ(cli.import(u"locations"_s, "WarehouseName\nHall\n").status, 0);
+    EXPECT_TRUE(has(run(with({u"--to"_s, place.filePath(u"copy"_s)})), u"which has been verified"_s));
+}
+
 TEST(FormerRelease, ItsDatabaseOpensAndWorks)
 {
     CliRunner cli(Store::Local);

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QLibrary>
 #include <QMessageBox>
+#include <QRadioButton>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -167,6 +168,9 @@ TEST_F(ModuleTest, LeadsToACompanyWhereThereIsNoneAndOpensItsInventory)
         child<QLineEdit>(box, "editFolder")->setText(folder);
         click(box, "btnTry");
         EXPECT_TRUE(has(child<QLabel>(box, "lblTried")->text(), u"no books yet"_s));
+        for (const char *choice : {"radioServer", "radioFolder"})
+            child<QRadioButton>(box, choice)->click();
+        EXPECT_EQ(child<QLabel>(box, "lblTried")->text(), QString());
         click(box, "btnOK");
     }));
     EXPECT_TRUE(comesTrue([&] { return opened; }));

@@ -7,6 +7,10 @@
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
 
+#include <QSignalSpy>
+
+#include <QSignalSpy>
+
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
@@ -277,7 +281,9 @@ TEST_F(CountScreenTest, ReadsAgainUnderTheCountWhereOthersHavePosted)
     kitchen.execute(u"UPDATE IBalance SET QtyOnHand = 8 WHERE ItemID = 1"_s);
     prompts.take();
     prompts.answer = Answer::Yes; // to calculating, and to reading again
+    const QSignalSpy shownAnew(grid->model(), &QAbstractItemModel::modelReset);
     ok->click();
+    EXPECT_EQ(shownAnew.size(), 1);
     EXPECT_TRUE(
         prompts.said.first().endsWith("2 items have not been counted. They keep their recorded quantities."_L1));
     EXPECT_TRUE(usageLines().isEmpty());

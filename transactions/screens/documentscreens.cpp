@@ -8,6 +8,7 @@
 #include "transactions/screens/invusages.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace Tallymere {
 
@@ -36,7 +37,8 @@ RecordScreens recordScreens(const DocumentKind &kind)
     const QList<DocumentScreens> &all = documentScreens();
     const auto found = std::find_if(all.begin(), all.end(),
                                     [&](const DocumentScreens &screens) { return &screens.kind == &kind; });
-    Q_ASSERT(found != all.end());
+    if (found == all.end()) // of a kind that is there by half
+        throw std::logic_error("There are no screens for " + kind.name.toStdString());
     return {kind.entry.screen, kind.list.screen, found->makeDocument};
 }
 

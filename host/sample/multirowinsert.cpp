@@ -1,4 +1,4 @@
-#include "host/sample/bulkinsert.h"
+#include "host/sample/multirowinsert.h"
 
 #include "engine/store/dialect.h"
 
@@ -12,7 +12,7 @@ constexpr size_t rowsPerStatement = 50;
 
 } // namespace
 
-BulkInsert::BulkInsert(Engine::Connection &connection, QString table, QStringList columns)
+MultiRowInsert::MultiRowInsert(Engine::Connection &connection, QString table, QStringList columns)
     : m_connection(connection)
     , m_table(std::move(table))
     , m_columns(std::move(columns))
@@ -20,7 +20,7 @@ BulkInsert::BulkInsert(Engine::Connection &connection, QString table, QStringLis
     m_values.reserve(rowsPerStatement * static_cast<size_t>(m_columns.size()));
 }
 
-void BulkInsert::add(std::initializer_list<Engine::Value> row)
+void MultiRowInsert::add(std::initializer_list<Engine::Value> row)
 {
     Q_ASSERT(row.size() == static_cast<size_t>(m_columns.size()));
     m_values.insert(m_values.end(), row);
@@ -28,14 +28,14 @@ void BulkInsert::add(std::initializer_list<Engine::Value> row)
         send(rowsPerStatement);
 }
 
-void BulkInsert::finish()
+void MultiRowInsert::finish()
 {
     if (!m_values.empty())
         send(m_values.size() / static_cast<size_t>(m_columns.size()));
     m_full.reset();
 }
 
-void BulkInsert::send(size_t rows)
+void MultiRowInsert::send(size_t rows)
 {
     Engine::StatementPtr last;
     if (rows == rowsPerStatement && !m_full)
@@ -50,7 +50,7 @@ void BulkInsert::send(size_t rows)
     m_values.clear();
 }
 
-QString BulkInsert::statementText(size_t rows) const
+QString MultiRowInsert::statementText(size_t rows) const
 {
     QStringList names;
     for (const QString &column : m_columns)

@@ -11,10 +11,10 @@ namespace Tallymere {
 // Inserts many rows of one table, several with each statement, without waiting for the answers. Within a
 // transaction of the caller; a failure shows at the latest at the caller's Connection::drain(). For rows that are
 // known to be right: nothing is checked.
-class BulkInsert
+class MultiRowInsert
 {
 public:
-    BulkInsert(Engine::Connection &connection, QString table, QStringList columns);
+    MultiRowInsert(Engine::Connection &connection, QString table, QStringList columns);
 
     void add(std::initializer_list<Engine::Value> row); // in the order of the columns
     void finish(); // sends what is left
