@@ -119,7 +119,8 @@ TEST(Moving, BooksGoIntoANewFolderAndAreTakenUpAgain)
     const QString moved = run(with({u"--to"_s, there, u"--move"_s}));
     EXPECT_TRUE(moved.startsWith(u"0 "_s) && has(moved, u"have moved from"_s)) << qPrintable(moved);
     const auto items = [&run](const QString &folder) { return run({u"--data"_s, folder, u"list"_s, u"items"_s}); };
-    EXPECT_EQ(items(there), items(cli.folder()));
+    EXPECT_TRUE(items(cli.folder()).startsWith(items(there)))
+        << "behind the rows it says where the books have gone";
     EXPECT_TRUE(has(cli.import(u"locations"_s, "WarehouseName\nHall\n").errors, there));
     EXPECT_TRUE(has(run(with({u"--take-up"_s})), u"taken up again"_s));
     EXPECT_EQ(cli.import(u"locations"_s, "WarehouseName\nHall\n").status, 0);
