@@ -7,10 +7,10 @@
 
 namespace Tallymere {
 
-// How a type of items is valued: ItemType.CostingMethod.
+// How a type of items is valued: ItemType.CostingMethod. None is whatever else is stored, too: what leaves stock costs
+// nothing then (ItemCost), while what is in stock is worth the average (unitValue).
 enum class CostingMethod {
-    None =
-        0, // and whatever else is stored: what leaves stock costs nothing then (ItemCost); what is in it, the average
+    None = 0,
     Average = 1, // the item's weighted average cost
     Standard = 2, // its standard cost
 };
