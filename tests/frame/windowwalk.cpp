@@ -6,7 +6,6 @@
 #include "tests/support/screendriver.h"
 
 #include <QCalendarWidget>
-#include <QDir>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -78,10 +77,10 @@ void turnWheel(QWidget &area)
     QApplication::sendEvent(&area, &turn);
 }
 
-void drop(QWidget &window)
+void drop(QWidget &window, const QString &file)
 {
     QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QDir::tempPath() + u"/a.csv"_s)});
+    data.setUrls({QUrl::fromLocalFile(file)});
     QDragEnterEvent enter({}, Qt::CopyAction, &data, {}, {});
     QDropEvent drop({}, Qt::CopyAction | Qt::MoveAction, &data, {}, Qt::ShiftModifier);
     if (QApplication::sendEvent(&window, &enter) && enter.isAccepted())
@@ -111,8 +110,10 @@ void WindowWalk::sendAway(QWidget *dialog)
     m_became << asked;
     if (auto *day = qobject_cast<Tallymere::DateDialog *>(dialog))
         day->accept(); // that it stands on
-    if (auto *files = qobject_cast<QFileDialog *>(dialog); files && files->fileMode() == QFileDialog::Directory) {
+    if (auto *files = qobject_cast<QFileDialog *>(dialog)) {
         files->setDirectory(QDir::tempPath());
+        if (files->fileMode() == QFileDialog::ExistingFile)
+            files->selectFile(m_file.fileName());
         static_cast<QDialog *>(files)->done(QDialog::Accepted);
     }
     dialog->close();
@@ -161,7 +162,7 @@ void WindowWalk::step(const QString &name, const std::function<void()> &act)
         m_steps << u"  %1: %2"_s.arg(name, std::exchange(m_became, {}).join(u"; "_s));
 }
 
-template <typename Control, typename Act> void WindowWalk::useEach(Act act)
+template <typename Control> QList<QPointer<Control>> WindowWalk::all() const
 {
     QList<QPointer<Control>> all;
     for (Control *control : m_window->findChildren<Control *>())
@@ -169,9 +170,19 @@ template <typename Control, typename Act> void WindowWalk::useEach(Act act)
             && !control->objectName().startsWith("qt_"_L1) && !control->objectName().startsWith("_q_"_L1)
             && !control->property("menu").template value<QMenu *>())
             all << control;
-    for (const auto &control : all)
-        if (control && control->isVisible() && control->isEnabled())
-            step(control->objectName(), [&] { act(*control); });
+    return all;
+}
+
+template <typename Control, typename Act> void WindowWalk::use(const QPointer<Control> &control, Act act)
+{
+    if (control && control->isVisible() && control->isEnabled())
+        step(control->objectName(), [&] { act(*control); });
+}
+
+template <typename Control, typename Act> void WindowWalk::useEach(Act act)
+{
+    for (const auto &control : all<Control>())
+        use(control, act);
 }
 
 void WindowWalk::typeEverywhere()
@@ -192,8 +203,9 @@ void WindowWalk::typeEverywhere()
         };
         go(u"click"_s, [&] { click(*field, &QTest::mouseClick); });
         go(u"double click"_s, [&] { click(*field, &QTest::mouseDClick); });
-        for (const char *keys : {"7", "<Up>", "<Down>", "a<Return>", "<Delete>", "<Home>", "<Ctrl+I>", "<F3>",
-                                 "<F5>", "<Ctrl+Return>", "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
+        for (const char *keys :
+             {"7", "<Up>", "<Down>", "a<Return>", "<Delete>", "<Ctrl+A><Delete><Up>", "<Home>", "<Ctrl+I>", "<F3>",
+              "<F5>", "<Ctrl+Return>", "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
             go(QString::fromLatin1(keys), [&] { type(keys); });
         if (auto *area = qobject_cast<QAbstractScrollArea *>(field))
             go(u"Ctrl+wheel"_s, [area] { turnWheel(*area->viewport()); });
@@ -218,6 +230,7 @@ void WindowWalk::typeEverywhere()
 
 void WindowWalk::begin()
 {
+    EXPECT_TRUE(m_file.open());
     m_window->setAttribute(Qt::WA_DeleteOnClose, false);
     m_window->show();
     awaitIdle();
@@ -226,12 +239,17 @@ void WindowWalk::begin()
     m_steps = {titleOf(*m_window)};
 }
 
+// What depends on which of several is chosen, with each of them.
 void WindowWalk::chooseAll()
 {
+    for (const auto &choice : all<QRadioButton>()) {
+        use(choice, [](QRadioButton &button) { button.click(); });
+        useEach<QPushButton>([](QPushButton &button) { button.click(); });
+    }
     useEach<QAbstractButton>([](QAbstractButton &button) { button.click(); });
     useEach<QAction>([](QAction &command) { command.trigger(); });
     if (m_window && m_window->acceptDrops())
-        step(u"drop"_s, [this] { drop(*m_window); });
+        step(u"drop"_s, [this] { drop(*m_window, m_file.fileName()); });
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // of the windows that came
 }
 

@@ -2,7 +2,9 @@
 
 #include "tests/support/spokenprompts.h"
 
+#include <QDir>
 #include <QPointer>
+#include <QTemporaryFile>
 #include <QWidget>
 
 // Goes through a window as a user who tries everything: each button and command that can be chosen, and keys in each field.
@@ -24,6 +26,8 @@ public:
 
 private:
     void step(const QString &name, const std::function<void()> &act);
+    template <typename Control> QList<QPointer<Control>> all() const;
+    template <typename Control, typename Act> void use(const QPointer<Control> &control, Act act);
     template <typename Control, typename Act> void useEach(Act act);
     void begin();
     void chooseAll();
@@ -31,6 +35,7 @@ private:
     void sendAway(QWidget *dialog);
 
     QPointer<QWidget> m_window;
+    QTemporaryFile m_file{QDir::tempPath() + QStringLiteral("/rows-XXXXXX.csv")}; // that is chosen, or dropped
     SpokenPrompts &m_prompts;
     QString m_at; // where the keyboard is
     QStringList m_facts, m_became, m_steps;
