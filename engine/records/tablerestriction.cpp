@@ -92,9 +92,8 @@ SqlCondition TableReader::rangeCondition() const
 void TableReader::setMaster(DataSet *master, const QString &fields)
 {
     Restriction &restriction = *m_restriction;
-    for (const QMetaObject::Connection &connection : std::as_const(restriction.connections))
+    for (const QMetaObject::Connection &connection : std::exchange(restriction.connections, {}))
         disconnect(connection);
-    restriction.connections.clear();
     if (restriction.master)
         Private::of(*restriction.master).details.removeAll(this);
     restriction.master = master;

@@ -64,6 +64,12 @@ TEST_P(BookCopyTest, HoldsTheSameInEitherStoreAndNothingIsCopiedOverBooks)
         EXPECT_TRUE(has(refusalOf([&] { copy(other); }), u"holds books already (Test Kitchen, 4 items, "_s));
     }
     EXPECT_EQ(contents(kitchen), before);
+    if (GetParam() == Store::Remote)
+        return;
+    TestStore other(Store::Local);
+    CountedProgress replaced(0, [this] { QFile::remove(kitchen.directory() + "/Corvane.sqlite"_L1); });
+    EXPECT_EQ(errorOf([&] { copy(other, Afterwards::GoOn, replaced); }), Engine::ErrorCode::FileReplaced);
+    EXPECT_TRUE(refusalToOpen(other).contains(u"has not come to its end"_s));
 }
 
 TEST_P(BookCopyTest, GoesOnWhereItWasStoppedAndIsNoBooksBefore)
