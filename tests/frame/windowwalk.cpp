@@ -1,5 +1,6 @@
 #include "tests/frame/windowwalk.h"
 
+#include "controls/fields/datepicker.h"
 #include "controls/grids/datagrid.h"
 #include "controls/screens/datedialog.h"
 #include "tests/frame/windowfacts.h"
@@ -207,6 +208,8 @@ void WindowWalk::typeEverywhere()
              {"7", "<Up>", "<Down>", "a<Return>", "<Delete>", "<Ctrl+A><Delete><Up>", "<Home>", "<Ctrl+I>", "<F3>",
               "<F5>", "<Ctrl+Return>", "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
             go(QString::fromLatin1(keys), [&] { type(keys); });
+        if (qobject_cast<Tallymere::DatePicker *>(field))
+            go(u"day without a year"_s, [] { type("<Ctrl+A>3/7<Return>"); });
         if (auto *area = qobject_cast<QAbstractScrollArea *>(field))
             go(u"Ctrl+wheel"_s, [area] { turnWheel(*area->viewport()); });
         auto *grid = qobject_cast<Tallymere::DataGrid *>(field);
