@@ -437,7 +437,9 @@ struct FormsTest : testing::Test
                 making->setEnabled(false); // how much of it is seen, the machine decides
             walk(window);
         });
-        visitAll([&walk](QWidget &window) {
+        visitAll([&](QWidget &window) {
+            if (auto *asking = window.findChild<QWidget *>(u"btnTakeUp"_s))
+                asking->setEnabled(agrees); // else the network, about a server called 7
             for (auto *search : window.findChildren<QWidget *>(QRegularExpression(u"^edit(Search|Find)$"_s)))
                 search->setEnabled(false); // what it finds comes later
             if (!qobject_cast<TFormTallymereSystem *>(&window)) // which needs its host

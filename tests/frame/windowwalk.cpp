@@ -256,18 +256,26 @@ void WindowWalk::chooseAll()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // of the windows that came
 }
 
+// A dialog that stayed would hold the windows behind it.
+QStringList WindowWalk::end()
+{
+    if (m_window)
+        m_window->hide();
+    return m_steps;
+}
+
 QStringList WindowWalk::run()
 {
     begin();
     useEach<QToolButton>([](QToolButton &button) { button.click(); }); // beside fields, with what stands in them
     typeEverywhere();
     chooseAll();
-    return m_steps;
+    return end();
 }
 
 QStringList WindowWalk::runCommands()
 {
     begin();
     chooseAll();
-    return m_steps;
+    return end();
 }

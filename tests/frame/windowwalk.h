@@ -30,6 +30,7 @@ private:
     template <typename Control, typename Act> void use(const QPointer<Control> &control, Act act);
     template <typename Control, typename Act> void useEach(Act act);
     void begin();
+    QStringList end();
     void chooseAll();
     void typeEverywhere();
     void sendAway(QWidget *dialog);
