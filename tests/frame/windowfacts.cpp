@@ -285,11 +285,23 @@ QString textsOf(const QWidget &widget)
     return view ? u" %1 texts"_s.arg(std::ranges::count_if(view->scene()->items(), isText)) : QString();
 }
 
+// A window has its least size from its layout.
+QString sizeLimitsOf(const QWidget &widget)
+{
+    if (widget.isWindow())
+        return widget.testAttribute(Qt::WA_DeleteOnClose) ? u" goes when closed"_s : QString();
+    const QSize least = widget.minimumSize(), most = widget.maximumSize();
+    return (least.width() > 0 ? u" least width"_s : QString())
+        + (least.height() > 0 ? u" least height"_s : QString())
+        + (most.width() < QWIDGETSIZE_MAX ? u" most width"_s : QString())
+        + (most.height() < QWIDGETSIZE_MAX ? u" most height"_s : QString());
+}
+
 QString limitsOf(const QWidget &widget)
 {
     const auto *edit = qobject_cast<const QLineEdit *>(&widget);
     const bool isTransparent = widget.testAttribute(Qt::WA_TransparentForMouseEvents);
-    return (edit && edit->validator() ? u" refuses what does not fit"_s : QString())
+    return sizeLimitsOf(widget) + (edit && edit->validator() ? u" refuses what does not fit"_s : QString())
         + (isTransparent ? u" lets the mouse through"_s : QString());
 }
 
@@ -309,6 +321,8 @@ void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
                 + placeOf(widget) + layoutOf(widget) + (header ? columnsOf(*header) : QString());
         if (!qobject_cast<QMenu *>(&widget))
             addCommands(facts, widget, indent + u"  "_s);
+        if (auto *box = qobject_cast<QComboBox *>(&widget))
+            facts << indent + u"  list"_s + differences(*box->view(), usual(*box->view()));
     }
     for (QObject *child : widget.children()) {
         auto *inner = qobject_cast<QWidget *>(child);
