@@ -12,6 +12,7 @@
 #include "frame/helpwindow.h"
 #include "frame/mainoptionsinv.h"
 #include "host/aboutbox.h"
+#include "host/companybox.h"
 #include "host/hostlook.h"
 #include "host/hostwindow.h"
 #include "import/importrows.h"
@@ -237,6 +238,7 @@ struct FormsTest : testing::Test
             INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (1, 1, 700);
             INSERT INTO VContact (VendorID, ContactID, LastName, BusinessPhone, EMail)
                 VALUES (1, 7, '7', '555-7', '7@first.example'), (2, 8, '8', NULL, NULL);
+            INSERT INTO IBarcode (BarcodeID, ItemID, Barcode) VALUES (1, 1, '4001');
         )"_s);
     }
 
@@ -284,10 +286,12 @@ struct FormsTest : testing::Test
         DateDialog date(over.context, QDate(2026, 3, 31), &mainWindow);
         StockTimeDialog time(over.context, {.day = QDate(2026, 3, 31)}, &mainWindow);
         TfrmItemsFilter keptFor(over.context, &mainWindow);
-        KeptFiltersDialog filters(
-            over.context,
-            {.list = u"frmItemsInv"_s, .dialog = {}, .words = [] { return u"Suspended: No"_s; }, .apply = [] {}},
-            &mainWindow);
+        KeptFiltersDialog filters(over.context,
+                                  {.list = u"frmItemsInv"_s,
+                                   .dialog = [&keptFor]() -> FilterDialog & { return keptFor; },
+                                   .words = [] { return u"Suspended: No"_s; },
+                                   .apply = [] {}},
+                                  &mainWindow);
         ItemBarcodesDialog barcodes(over.context, 1, u"[Item 'A10: Apples']"_s, &mainWindow);
         TfrmCountDifferences differences(over.context, CountList(), &mainWindow);
         Engine::Database &database = over.context.data.databaseTallymere();
@@ -347,7 +351,9 @@ struct FormsTest : testing::Test
     {
         HostWindow host(over.company.settings, u"maria"_s, u"/nowhere/module.so"_s);
         AboutBox about(over.company.settings, false, &host);
-        for (QWidget *window : QWidgetList{&host, &about})
+        CompanyBox newCompany(CompanyBox::Purpose::New, over.company.prompts, u"maria"_s, &host);
+        CompanyBox company(CompanyBox::Purpose::Open, over.company.prompts, u"maria"_s, &host);
+        for (QWidget *window : QWidgetList{&host, &about, &newCompany, &company})
             visit(*window);
     }
 
@@ -378,6 +384,7 @@ struct FormsTest : testing::Test
     // Each command of each window leads where it led, each key does what it did; what is asked is agreed to, or not.
     void expectSteps(bool agrees, const QString &approved)
     {
+        over.context.settings = &over.company.settings;
         qputenv("CUPS_SERVER", "/nonexistent"); // no printer of this machine gets anything
         over.context.printerDefined = [] { return true; };
         over.company.prompts.ok = agrees;
@@ -435,6 +442,8 @@ struct FormsTest : testing::Test
         visitHost([&walk](QWidget &window) {
             if (auto *making = window.findChild<QAction *>(u"actionSampleCompany"_s))
                 making->setEnabled(false); // how much of it is seen, the machine decides
+            if (window.windowTitle() == u"New Company"_s)
+                child<QPushButton>(window, "btnOK")->setEnabled(false); // books that the next run would find
             walk(window);
         });
         visitAll([&](QWidget &window) {

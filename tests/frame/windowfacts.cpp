@@ -363,7 +363,7 @@ QString timeless(QString text)
     static const QRegularExpression version(u"\\d+\\.\\d+\\.\\d+"_s), time(u"\\b\\d\\d?:\\d\\d\\b"_s),
         port(u"(?<=:)\\d{4,5}\\b"_s);
     static const QDate today = QDate::currentDate();
-    text.replace(QDir::homePath(), u"HOME"_s).replace(folder, u"FOLDER"_s);
+    text.replace(QDir::currentPath(), u"HERE"_s).replace(QDir::homePath(), u"HOME"_s).replace(folder, u"FOLDER"_s);
     for (const char *format : {"yyyy-MM-dd", "MM/dd/yyyy", "M/d/yyyy", "d MMM yy", "d MMM yyyy", "d MMMM yyyy"})
         text.replace(QLocale::c().toString(today, QLatin1StringView(format)), u"DAY"_s);
     for (const QDate &day : {today, today.addMonths(-1)}) // the periods that the calendar has
