@@ -197,13 +197,8 @@ void openNextPeriod(Engine::Database &database, const Period &ending, const QStr
     Engine::Table company(database, u"Company"_s);
     company.open();
     company.edit();
-    try {
-        moveOn(company, ending);
-        company.post();
-    } catch (...) {
-        company.cancel();
-        throw;
-    }
+    moveOn(company, ending);
+    company.post();
     leaveNote(
         database,
         InsightTexts::tr("Period %1 opened after %2.").arg(shownPeriod(periodAfter(ending)), shownPeriod(ending)),

@@ -1,3 +1,4 @@
+#include "care/bookcheck.h"
 #include "host/sample/largekitchen.h"
 #include "host/sample/samplefiles.h"
 #include "host/tables/hosttables.h"
@@ -23,6 +24,9 @@ QStringList booksOf(Store store, std::uint64_t seed)
     CountedProgress progress;
     Tallymere::bringInSampleMasters(data, progress);
     Tallymere::LargeKitchen(data.databaseTallymere(), seed, {.items = 700, .historyRows = 20'000}).fill(progress);
+    Tallymere::checkBooks(data.databaseTallymere(), progress, [](const Tallymere::BookCheck &check, auto &&) {
+        ADD_FAILURE() << check.title.toStdString();
+    });
     EXPECT_EQ(
         place.found(u"SELECT count(*) FROM Item WHERE ItemID IN (SELECT ItemID FROM IBalance WHERE QtyOnHand > 0) "
                     "AND coalesce(WgtAvgCost, 0) <= 0"_s),

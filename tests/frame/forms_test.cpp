@@ -8,6 +8,7 @@
 #include "controls/windows/progressbox.h"
 #include "controls/windows/windowrules.h"
 #include "frame/figurebutton.h"
+#include "frame/finder/finderbox.h"
 #include "frame/frmtallymeresystem.h"
 #include "frame/helpwindow.h"
 #include "frame/mainoptionsinv.h"
@@ -370,6 +371,9 @@ struct FormsTest : testing::Test
         };
         visitAll(write);
         visitHost(write);
+        const Guard guard(over.company.prompts, {}, &mainWindow);
+        FinderBox finder(mainWindow, guard);
+        windows << factsOf(finder).join(u'\n');
         auto &wizard = *screens.find(u"frmInvReports"_s)->create(over.context, &mainWindow);
         auto *reports = child<QListWidget>(wizard, "lboReports");
         for (int report = 0; report < reports->count(); ++report) {

@@ -121,15 +121,25 @@ QString said(const QMargins &margins)
     return u"%1 %2 %3 %4"_s.arg(margins.left()).arg(margins.top()).arg(margins.right()).arg(margins.bottom());
 }
 
+QString layoutOf(const QLayout &layout)
+{
+    QString inner;
+    for (int i = 0; i < layout.count(); ++i)
+        inner += layout.itemAt(i)->spacerItem() ? u" -"_s
+            : layout.itemAt(i)->layout()        ? layoutOf(*layout.itemAt(i)->layout())
+                                                : QString();
+    return u" {%1 %2: %3, %4%5}"_s.arg(QString::fromLatin1(layout.metaObject()->className()))
+        .arg(layout.count())
+        .arg(said(layout.contentsMargins()))
+        .arg(layout.spacing())
+        .arg(inner);
+}
+
 QString layoutOf(const QWidget &widget)
 {
-    const QLayout *layout = widget.layout();
-    if (!layout)
-        return widget.contentsMargins().isNull() ? QString() : u" margins "_s + said(widget.contentsMargins());
-    return u" {%1 %2: %3, %4}"_s.arg(QString::fromLatin1(layout->metaObject()->className()))
-        .arg(layout->count())
-        .arg(said(layout->contentsMargins()))
-        .arg(layout->spacing());
+    if (widget.layout())
+        return layoutOf(*widget.layout());
+    return widget.contentsMargins().isNull() ? QString() : u" margins "_s + said(widget.contentsMargins());
 }
 
 bool holds(const QLayout &layout, const QWidget &widget)
