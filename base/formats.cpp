@@ -153,6 +153,8 @@ FieldFormat quantityFormat(const RegionalSettings &settings, const QString &colu
     return format;
 }
 
+QString quantityText(double quantity) { return quantityFormat().display(Value(quantity)); }
+
 QString dateText(QDate date, const RegionalSettings &settings)
 {
     if (!settings.spellsMonths)

@@ -21,6 +21,8 @@ Engine::FieldFormat currencyFormat(const RegionalSettings &settings = RegionalSe
 // calculations. Edited with the shortest digits that read back the same.
 Engine::FieldFormat quantityFormat(const RegionalSettings &settings = RegionalSettings::system(),
                                    const QString &column = {});
+// As it is shown.
+QString quantityText(double quantity);
 
 // Shown "dd mmm yy" (in other languages than English as it is edited), edited as a short date with a two-digit year, read by date2000. A text without any digit (an
 // empty mask) is a null. Where it is known what day it is, day and month alone will do.

@@ -10,6 +10,7 @@
 #include "controls/windows/menukeyboard.h"
 #include "controls/windows/openobject.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/typing.h"
 #include "controls/windows/windowrules.h"
 #include "data/datamodule.h"
 #include "data/lookupsdatainv.h"
@@ -493,10 +494,7 @@ void TFormTallymereSystem::showEvent(QShowEvent *event)
 
 void TFormTallymereSystem::keyPressEvent(QKeyEvent *event)
 {
-    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
-    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
-        button->click();
-    else
+    if (!pressButton(*this, *event))
         QMainWindow::keyPressEvent(event);
 }
 

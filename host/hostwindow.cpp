@@ -5,6 +5,7 @@
 #include "controls/screens/besidework.h"
 #include "controls/windows/icons.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/typing.h"
 #include "host/aboutbox.h"
 #include "host/books/newbooks.h"
 #include "host/company.h"
@@ -96,10 +97,7 @@ bool HostWindow::makeDailyBackup()
 
 void HostWindow::keyPressEvent(QKeyEvent *event)
 {
-    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
-    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
-        button->click();
-    else
+    if (!pressButton(*this, *event))
         QMainWindow::keyPressEvent(event);
 }
 

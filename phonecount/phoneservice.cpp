@@ -29,8 +29,6 @@ constexpr qsizetype longestId = 64;
 
 enum Status { Ok = 200, BadRequest = 400, NotFound = 404, TooManyRequests = 429 };
 
-QString quantityText(double quantity) { return quantityFormat().display(Engine::Value(quantity)); }
-
 QString timeText(const QDateTime &at)
 {
     const QLocale locale = QLocale::system();

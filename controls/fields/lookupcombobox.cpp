@@ -191,7 +191,7 @@ void LookupComboBox::keyPressEvent(QKeyEvent *event)
 {
     const bool opens = event->key() == Qt::Key_F4
         || (event->modifiers().testFlag(Qt::AltModifier) && event->key() == Qt::Key_Down);
-    const bool ends = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool ends = isEnter(*event);
     if (m_readOnly || !m_list) {
         event->ignore();
     } else if (opens) {

@@ -22,8 +22,6 @@ namespace Tallymere {
 
 namespace {
 
-bool isEnter(const QKeyEvent *event) { return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter; }
-
 bool hasControl(const QKeyEvent *event) { return event->modifiers().testFlag(Qt::ControlModifier); }
 
 // A button at the right end of the editor that leaves the focus where it is.
@@ -361,7 +359,7 @@ void LineGrid::focusOutEvent(QFocusEvent *event)
 bool LineGrid::editorKey(QKeyEvent *event)
 {
     m_deleting = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
-    if (isEnter(event) && hasControl(event)) {
+    if (isEnter(*event) && hasControl(event)) {
         search();
         return true;
     }
@@ -380,7 +378,7 @@ bool LineGrid::editorKey(QKeyEvent *event)
 
 void LineGrid::gridKey(QKeyEvent *event)
 {
-    if (isEnter(event)) {
+    if (isEnter(*event)) {
         if (hasControl(event))
             search();
         else

@@ -1,5 +1,6 @@
 #include "controls/grids/listgrid.h"
 
+#include "controls/windows/typing.h"
 #include "engine/store/database.h"
 
 #include <algorithm>
@@ -133,7 +134,7 @@ void ListGrid::keyPressEvent(QKeyEvent *event)
     if (waitsForRest(*event) || m_search->takeKey(*event))
         return;
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
-    if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    if (plain && isEnter(*event)) {
         Q_EMIT chosen();
         return;
     }

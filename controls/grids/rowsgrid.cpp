@@ -1,18 +1,16 @@
 #include "controls/grids/rowsgrid.h"
 
-#include <QAbstractTableModel>
+#include "controls/grids/columnsmodel.h"
+#include "controls/windows/typing.h"
+
 #include <QKeyEvent>
 
 namespace Tallymere {
 
-class RowsModel final : public QAbstractTableModel
+class RowsModel final : public ColumnsModel
 {
 public:
-    RowsModel(QList<GridColumn> columns, QObject *parent)
-        : QAbstractTableModel(parent)
-        , m_columns(std::move(columns))
-    {
-    }
+    using ColumnsModel::ColumnsModel;
 
     void setRows(std::vector<QStringList> rows)
     {
@@ -25,37 +23,21 @@ public:
     {
         return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
     }
-    int columnCount(const QModelIndex &parent) const override
-    {
-        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
-    }
 
     QVariant data(const QModelIndex &index, int role) const override
     {
         const QString text = m_rows[static_cast<size_t>(index.row())].value(index.column());
-        const Qt::Alignment alignment = m_columns[index.column()].alignment;
         if (role == Qt::DisplayRole)
             return text;
         if (role == Qt::TextAlignmentRole)
-            return int(alignment | Qt::AlignVCenter);
-        if (role == cellNoteRole && alignment.testFlag(Qt::AlignRight)
+            return side(index.column());
+        if (role == cellNoteRole && side(index.column()).toInt() & Qt::AlignRight
             && (text.startsWith(u'-') || text.startsWith(u'(')))
             return int(CellNote::Negative);
         return {};
     }
 
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
-    {
-        if (orientation != Qt::Horizontal)
-            return {};
-        if (role == Qt::DisplayRole)
-            return m_columns[section].title;
-        return role == Qt::TextAlignmentRole ? QVariant(int(m_columns[section].alignment | Qt::AlignVCenter))
-                                             : QVariant();
-    }
-
 private:
-    const QList<GridColumn> m_columns;
     std::vector<QStringList> m_rows;
 };
 
@@ -85,7 +67,7 @@ QString RowsGrid::shownHint() const { return m_model && m_model->rowCount({}) ==
 
 void RowsGrid::keyPressEvent(QKeyEvent *event)
 {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool enter = isEnter(*event);
     if (!enter || currentRow() < 0)
         return DataGrid::keyPressEvent(event);
     Q_EMIT chosen(currentRow());

@@ -7,6 +7,7 @@
 #include "controls/windows/fieldmark.h"
 #include "controls/windows/lineentry.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/typing.h"
 
 #include <algorithm>
 #include <QApplication>
@@ -58,7 +59,7 @@ void DialogScreen::takeOneLines()
 // The button that Enter presses where none is the default one: that with the cursor, as in the main window.
 static QPushButton *buttonForEnter(const QDialog &dialog, const QKeyEvent &key)
 {
-    if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
+    if (!isEnter(key))
         return nullptr;
     const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
     const bool hasDefault = std::any_of(buttons.begin(), buttons.end(), [](const QPushButton *button) {

@@ -5,6 +5,7 @@
 #include "controls/fields/radiochoice.h"
 #include "controls/screens/listbuttons.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/typing.h"
 #include "controls/windows/windowplaces.h"
 #include "controls/windows/wordwrapmenu.h"
 
@@ -191,7 +192,7 @@ void EntryScreen::keyPressEvent(QKeyEvent *event)
 {
     if (takeKey(event))
         return;
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool enter = isEnter(*event);
     if (enter && !(event->modifiers() & ~Qt::KeypadModifier)) {
         if (auto *button = qobject_cast<QPushButton *>(focusWidget()))
             button->click();

@@ -2,6 +2,7 @@
 
 #include "controls/grids/windowmemory.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/typing.h"
 #include "controls/windows/windowplaces.h"
 
 #include <QApplication>
@@ -34,10 +35,9 @@ void SheetWindow::showEvent(QShowEvent *event)
 
 void SheetWindow::keyPressEvent(QKeyEvent *event)
 {
-    auto *button = qobject_cast<QPushButton *>(focusWidget());
-    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
-        button->click();
-    else if (event->key() == Qt::Key_Escape)
+    if (pressButton(*this, *event))
+        return;
+    if (event->key() == Qt::Key_Escape)
         close();
     else if (event->key() == Qt::Key_F5)
         m_guard.run([this] { readAnew(); });

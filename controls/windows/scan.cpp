@@ -1,5 +1,7 @@
 #include "controls/windows/scan.h"
 
+#include "controls/windows/typing.h"
+
 #include <QKeyEvent>
 
 namespace Tallymere {
@@ -17,10 +19,7 @@ bool isLetter(const QKeyEvent &key)
         && !key.modifiers().testFlag(Qt::ControlModifier) && !key.modifiers().testFlag(Qt::AltModifier);
 }
 
-bool endsScan(const QKeyEvent &key)
-{
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Tab;
-}
+bool endsScan(const QKeyEvent &key) { return isEnter(key) || key.key() == Qt::Key_Tab; }
 
 } // namespace
 

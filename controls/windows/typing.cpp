@@ -1,5 +1,6 @@
 #include "controls/windows/typing.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 
 namespace Tallymere {
@@ -16,6 +17,16 @@ bool isTyped(const QKeyEvent &key)
         || key.modifiers().testFlag(Qt::MetaModifier))
         return false;
     return isPrinted(key.text());
+}
+
+bool isEnter(const QKeyEvent &key) { return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter; }
+
+bool pressButton(const QWidget &window, const QKeyEvent &key)
+{
+    auto *button = isEnter(key) ? qobject_cast<QAbstractButton *>(window.focusWidget()) : nullptr;
+    if (button)
+        button->click();
+    return button;
 }
 
 } // namespace Tallymere

@@ -1,6 +1,7 @@
 #include "insight/screens/buyinggrid.h"
 
 #include "base/formats.h"
+#include "controls/windows/typing.h"
 #include "data/fields.h"
 #include "insight/screens/buyingmodel.h"
 
@@ -9,8 +10,6 @@
 namespace Tallymere {
 
 namespace {
-
-bool isEnter(const QKeyEvent *event) { return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter; }
 
 bool typesNumber(const QKeyEvent *event)
 {
@@ -99,7 +98,7 @@ void BuyingGrid::nextItem()
 void BuyingGrid::gridKey(QKeyEvent *event)
 {
     const int item = currentItem();
-    if (isEnter(event))
+    if (isEnter(*event))
         return nextItem();
     if (event->key() == Qt::Key_Delete && item >= 0) {
         guard().run([&] { take(item, 0); });

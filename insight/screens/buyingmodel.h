@@ -1,15 +1,13 @@
 #pragma once
 
-#include "base/gridcolumn.h"
 #include "controls/grids/cellnote.h"
+#include "controls/grids/groupedmodel.h"
 #include "insight/buyinglist.h"
-
-#include <QAbstractTableModel>
 
 namespace Tallymere {
 
 // Shows what to buy to a grid. A heading stands before the items of each vendor; it can be neither chosen nor typed into.
-class BuyingModel final : public QAbstractTableModel
+class BuyingModel final : public GroupedModel
 {
     Q_OBJECT
 
@@ -31,26 +29,14 @@ public:
     static QList<GridColumn> gridColumns();
 
     void listChanged();
-    void rowChanged(int item);
-
-    // Between the rows of the grid and those of the list; -1 for a heading.
-    int itemAt(int row) const { return row < 0 || row >= rowCount() ? -1 : m_items[static_cast<size_t>(row)]; }
-    int rowOf(int item) const;
-    std::vector<int> headings() const; // their rows
-
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 private:
-    QVariant headingData(int row, int role) const;
+    QString headingText(int firstItem) const override;
+    QVariant itemData(int item, int column, int role) const override;
+    bool isEditable(int column) const override { return column == Quantity; }
     CellNote noteOf(int column, int item) const;
 
     const BuyingList &m_list;
-    const QList<GridColumn> m_columns = gridColumns();
-    std::vector<int> m_items; // by row
 };
 
 } // namespace Tallymere

@@ -22,20 +22,19 @@ namespace Tallymere {
 
 namespace {
 
-QString shown(double value) { return quantityFormat().display(Engine::Value(value)); }
-QString shown(const std::optional<Engine::Money> &cost) { return cost ? currencyText(*cost) : QString(); }
+QString costText(const std::optional<Engine::Money> &cost) { return cost ? currencyText(*cost) : QString(); }
 
 QStringList rowOf(const CostStep &step)
 {
     return {dateText(step.date),
             step.description,
             step.location,
-            shown(step.received),
+            quantityText(step.received),
             currencyText(step.unitCost),
-            shown(step.onHandBefore),
-            shown(step.averageBefore),
-            shown(step.onHandAfter),
-            shown(step.averageAfter)};
+            quantityText(step.onHandBefore),
+            costText(step.averageBefore),
+            quantityText(step.onHandAfter),
+            costText(step.averageAfter)};
 }
 
 } // namespace

@@ -31,8 +31,7 @@ namespace Tallymere {
 
 namespace {
 
-QString quantity(double value) { return quantityFormat().display(Engine::Value(value)); }
-QString signedQuantity(double value) { return (value > 0 ? u"+"_s : QString()) + quantity(value); }
+QString signedQuantity(double value) { return (value > 0 ? u"+"_s : QString()) + quantityText(value); }
 
 QLabel *head(const QString &text, QWidget *parent)
 {
@@ -190,8 +189,8 @@ void TfrmItemCard::showFacts()
     m_facts->addHead(tr("On hand"));
     for (const StockAtLocation &place : m_card.stock)
         m_facts->addFact(place.name.isEmpty() ? tr("Location %1").arg(place.location) : place.name,
-                         quantity(place.onHand), toneOf(place.onHand, FactList::Tone::Usual));
-    m_facts->addFact(tr("All"), quantity(m_card.onHand), toneOf(m_card.onHand, FactList::Tone::Total));
+                         quantityText(place.onHand), toneOf(place.onHand, FactList::Tone::Usual));
+    m_facts->addFact(tr("All"), quantityText(m_card.onHand), toneOf(m_card.onHand, FactList::Tone::Total));
     m_facts->addHead(tr("Cost"));
     m_facts->addFact(tr("Average"), currencyText(m_card.averageCost));
     if (m_card.method == CostingMethod::Standard)
@@ -223,7 +222,7 @@ std::vector<CurvePoint> TfrmItemCard::quantityPoints()
         points.push_back({movement.date, movement.onHand,
                           tr("%1, %2: %3, then %4 on hand")
                               .arg(dateText(movement.date), movement.description, signedQuantity(movement.change),
-                                   quantity(movement.onHand))});
+                                   quantityText(movement.onHand))});
     }
     return points;
 }
@@ -256,7 +255,7 @@ void TfrmItemCard::showCurves()
             continue;
         time = {std::min(time.from, points->front().date), std::max(time.to, points->back().date)};
     }
-    m_quantity->setPoints(std::move(quantities), time, tr("%1 on hand").arg(quantity(m_card.onHand)));
+    m_quantity->setPoints(std::move(quantities), time, tr("%1 on hand").arg(quantityText(m_card.onHand)));
     m_cost->setPoints(std::move(costs), time, m_card.trail.verdict());
     m_why->setEnabled(!m_card.trail.steps.empty());
 }

@@ -1,6 +1,7 @@
 #include "master/screens/itemsearchinv.h"
 
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/typing.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "data/lookupsdatainv.h"
@@ -159,8 +160,7 @@ bool TfrmItemSearchInv::eventFilter(QObject *watched, QEvent *event)
 // Enter narrows the list to the type first. Pressing OK with it would choose an item that nobody has seen.
 bool TfrmItemSearchInv::takeTypeKey(const QKeyEvent &key)
 {
-    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-    if (!enter || !m_ui->cboItemType->isPending())
+    if (!isEnter(key) || !m_ui->cboItemType->isPending())
         return false;
     m_ui->cboItemType->settle();
     return true;

@@ -4,6 +4,7 @@
 #include "base/savedfile.h"
 #include "controls/windows/progressbox.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/typing.h"
 #include "data/datamodule.h"
 #include "engine/values/userlocale.h"
 #include "printing/printout.h"
@@ -286,8 +287,9 @@ bool TfrmPreview::eventFilter(QObject *watched, QEvent *event)
     const auto *widget = qobject_cast<QWidget *>(watched);
     if (!m_search || event->type() != QEvent::KeyPress || !widget || widget->window() != this)
         return QMainWindow::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    if (isModifier(key) || (m_ui->editFind->hasFocus() && (key == Qt::Key_Return || key == Qt::Key_Enter)))
+    const auto &pressed = *static_cast<QKeyEvent *>(event);
+    const int key = pressed.key();
+    if (isModifier(key) || (m_ui->editFind->hasFocus() && isEnter(pressed)))
         return QMainWindow::eventFilter(watched, event);
     stopSearch();
     return key == Qt::Key_Escape || QMainWindow::eventFilter(watched, event);

@@ -20,7 +20,6 @@ constexpr double most = 1e12;
 constexpr double large = 1e6;
 constexpr Money largeAmount = Money::fromTenThousandths(1'000'000LL * 10'000);
 
-QString quantityText(double quantity) { return quantityFormat().display(Engine::Value(quantity)); }
 QString costText(double cost) { return currencyFormat().display(Engine::Value(cost)); }
 
 bool isLarge(Money amount) { return amount >= largeAmount || amount <= -largeAmount; }

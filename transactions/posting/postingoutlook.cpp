@@ -17,8 +17,6 @@ namespace Tallymere {
 
 namespace {
 
-QString quantityText(double quantity) { return quantityFormat().display(Engine::Value(quantity)); }
-
 // By more than half of what it was.
 bool movesFar(Money before, Money after)
 {

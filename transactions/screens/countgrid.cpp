@@ -3,6 +3,7 @@
 #include "base/formats.h"
 #include "base/ruleerror.h"
 #include "controls/grids/stepbox.h"
+#include "controls/windows/typing.h"
 #include "data/fields.h"
 #include "transactions/screens/countmodel.h"
 
@@ -44,8 +45,6 @@ std::optional<CountList::Order> orderOf(int column)
         return std::nullopt;
     }
 }
-
-bool isEnter(const QKeyEvent *event) { return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter; }
 
 bool typesNumber(const QKeyEvent *event)
 {
@@ -187,7 +186,7 @@ void CountGrid::nextItem()
 
 bool CountGrid::editorKey(QKeyEvent *event)
 {
-    const QScopedValueRollback confirming(m_confirming, isEnter(event));
+    const QScopedValueRollback confirming(m_confirming, isEnter(*event));
     return EntryGrid::editorKey(event);
 }
 
@@ -206,7 +205,7 @@ void CountGrid::takeScan(const QString &code)
 void CountGrid::gridKey(QKeyEvent *event)
 {
     const int item = currentItem();
-    if (isEnter(event))
+    if (isEnter(*event))
         return nextItem();
     if (event->key() == Qt::Key_Delete && item >= 0) {
         guard().run([&] { m_actions.count(item, std::nullopt); });

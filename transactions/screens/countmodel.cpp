@@ -5,7 +5,6 @@
 #include "controls/windows/look.h"
 #include "data/fields.h"
 
-#include <algorithm>
 #include <QFont>
 #include <QGuiApplication>
 #include <QLocale>
@@ -16,20 +15,7 @@ namespace Tallymere {
 
 namespace {
 
-constexpr int heading = -1;
-
-QString quantityText(const std::optional<double> &quantity)
-{
-    static const Engine::FieldFormat format = quantityFormat();
-    return quantity ? format.display(Engine::Value(*quantity)) : QString();
-}
-
-QFont bold()
-{
-    QFont font;
-    font.setBold(true);
-    return font;
-}
+QString shown(const std::optional<double> &quantity) { return quantity ? quantityText(*quantity) : QString(); }
 
 bool isCountColumn(int column) { return column == CountModel::Quantity || column == CountModel::Difference; }
 
@@ -68,28 +54,17 @@ QList<GridColumn> CountModel::gridColumns()
 }
 
 CountModel::CountModel(const CountList &list, QObject *parent)
-    : QAbstractTableModel(parent)
+    : GroupedModel(gridColumns(), parent)
     , m_list(list)
 {
 }
 
 void CountModel::listChanged()
 {
-    beginResetModel();
-    m_items.clear();
     const bool grouped = m_list.order() == CountList::Order::Category;
-    for (int item = 0; item < m_list.size(); ++item) {
-        if (grouped && (item == 0 || !isSameCategory(m_list.row(item - 1), m_list.row(item))))
-            m_items.push_back(heading);
-        m_items.push_back(item);
-    }
-    endResetModel();
-}
-
-void CountModel::rowChanged(int item)
-{
-    const int row = rowOf(item);
-    Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+    setItems(m_list.size(), [&](int item) {
+        return grouped && (item == 0 || !isSameCategory(m_list.row(item - 1), m_list.row(item)));
+    });
 }
 
 void CountModel::setBlind(bool blind)
@@ -99,32 +74,9 @@ void CountModel::setBlind(bool blind)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
 
-int CountModel::rowOf(int item) const
-{
-    const auto found = std::find(m_items.begin(), m_items.end(), item);
-    return item < 0 || found == m_items.end() ? -1 : static_cast<int>(found - m_items.begin());
-}
-
-std::vector<int> CountModel::headings() const
-{
-    std::vector<int> rows;
-    for (int row = 0; row < rowCount(); ++row) {
-        if (m_items[static_cast<size_t>(row)] == heading)
-            rows.push_back(row);
-    }
-    return rows;
-}
-
-int CountModel::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_items.size());
-}
-
-int CountModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : ColumnCount; }
-
 QString CountModel::quantityText(const CountRow &row) const
 {
-    return Tallymere::quantityText(row.typed || m_blind ? row.typed : row.recorded);
+    return shown(row.typed || m_blind ? row.typed : row.recorded);
 }
 
 QString CountModel::text(const CountRow &row, int column, int role) const
@@ -139,11 +91,11 @@ QString CountModel::text(const CountRow &row, int column, int role) const
     case StandardCost:
         return role == Qt::EditRole ? currencyEditText(row.standardCost) : currencyText(row.standardCost);
     case Prior:
-        return m_blind ? QString() : Tallymere::quantityText(row.recorded);
+        return m_blind ? QString() : shown(row.recorded);
     case Quantity:
         return quantityText(row);
     case Difference:
-        return row.typed && !m_blind ? Tallymere::quantityText(row.difference()) : QString();
+        return row.typed && !m_blind ? shown(row.difference()) : QString();
     default: // what a difference is valued at
         return currencyText(row.unitCost);
     }
@@ -176,53 +128,20 @@ QVariant CountModel::look(const CountRow &row, int column, int role) const
     return {};
 }
 
-QVariant CountModel::headingData(int row, int role) const // over all columns
-{
-    const int first = m_items[static_cast<size_t>(row) + 1];
-    switch (role) {
-    case Qt::DisplayRole:
-        return m_list.row(first).typeName;
-    case Qt::FontRole:
-        return bold();
-    case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-    case Qt::BackgroundRole:
-        return Look(QGuiApplication::palette()).colour(Look::Role::Head);
-    default:
-        return {};
-    }
-}
+QString CountModel::headingText(int firstItem) const { return m_list.row(firstItem).typeName; }
 
-QVariant CountModel::data(const QModelIndex &index, int role) const
+QVariant CountModel::itemData(int item, int column, int role) const
 {
-    if (!index.isValid())
-        return {};
-    const int item = itemAt(index.row());
-    if (item == heading)
-        return index.column() == 0 ? headingData(index.row(), role) : QVariant();
     const CountRow &row = m_list.row(item);
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-        return text(row, index.column(), role);
-    case Qt::TextAlignmentRole:
-        return QVariant(m_columns[index.column()].alignment | Qt::AlignVCenter);
+        return text(row, column, role);
     case cellNoteRole:
-        return static_cast<int>(isNegative(row, index.column()) ? CellNote::Negative : CellNote::None);
+        return static_cast<int>(isNegative(row, column) ? CellNote::Negative : CellNote::None);
     default:
-        return look(row, index.column(), role);
+        return look(row, column, role);
     }
-}
-
-QVariant CountModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || section >= ColumnCount)
-        return {};
-    if (role == Qt::DisplayRole)
-        return m_columns[section].title;
-    if (role == Qt::TextAlignmentRole)
-        return QVariant(m_columns[section].alignment | Qt::AlignVCenter);
-    return {};
 }
 
 bool CountModel::setData(const QModelIndex &index, const QVariant &value, int role)
@@ -231,12 +150,6 @@ bool CountModel::setData(const QModelIndex &index, const QVariant &value, int ro
         && enterText(index, value.toString());
 }
 
-Qt::ItemFlags CountModel::flags(const QModelIndex &index) const
-{
-    if (itemAt(index.row()) == heading)
-        return Qt::NoItemFlags;
-    const bool editable = index.column() == Quantity || index.column() == StandardCost;
-    return QAbstractTableModel::flags(index) | (editable ? Qt::ItemIsEditable : Qt::NoItemFlags);
-}
+bool CountModel::isEditable(int column) const { return column == Quantity || column == StandardCost; }
 
 } // namespace Tallymere

@@ -8,16 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace Tallymere {
 
-namespace {
-
-QString quantityText(double quantity)
-{
-    static const Engine::FieldFormat format = quantityFormat();
-    return format.display(Engine::Value(quantity));
-}
-
-} // namespace
-
 QList<GridColumn> DifferenceModel::gridColumns()
 {
     return {{Fields::ItemNo, tr("Item No"), 90},
@@ -29,7 +19,7 @@ QList<GridColumn> DifferenceModel::gridColumns()
 }
 
 DifferenceModel::DifferenceModel(const CountDifferences &differences, QObject *parent)
-    : QAbstractTableModel(parent)
+    : ColumnsModel(gridColumns(), parent)
     , m_differences(differences)
 {
 }
@@ -38,8 +28,6 @@ int DifferenceModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_differences.items().size());
 }
-
-int DifferenceModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : ColumnCount; }
 
 QString DifferenceModel::text(const CountDifference &item, int column)
 {
@@ -71,23 +59,12 @@ QVariant DifferenceModel::data(const QModelIndex &index, int role) const
     case Qt::AccessibleTextRole: // the picture in words
         return text(item, index.column() == Bar ? Value : index.column());
     case Qt::TextAlignmentRole:
-        return QVariant(m_columns[index.column()].alignment | Qt::AlignVCenter);
+        return side(index.column());
     case cellNoteRole:
         return static_cast<int>(isFigure && item.quantity < 0 ? CellNote::Negative : CellNote::None);
     default:
         return {};
     }
-}
-
-QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || section >= ColumnCount)
-        return {};
-    if (role == Qt::DisplayRole)
-        return m_columns[section].title;
-    if (role == Qt::TextAlignmentRole)
-        return QVariant(m_columns[section].alignment | Qt::AlignVCenter);
-    return {};
 }
 
 } // namespace Tallymere

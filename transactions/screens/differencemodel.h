@@ -1,15 +1,14 @@
 #pragma once
 
-#include "base/gridcolumn.h"
+#include "controls/grids/columnsmodel.h"
 #include "transactions/counting/countdifferences.h"
 
-#include <QAbstractTableModel>
 #include <QCoreApplication>
 
 namespace Tallymere {
 
 // Shows the differences of a count to a grid.
-class DifferenceModel final : public QAbstractTableModel
+class DifferenceModel final : public ColumnsModel
 {
     Q_OBJECT
 
@@ -22,15 +21,12 @@ public:
     const CountDifference &at(int row) const { return m_differences.items()[static_cast<size_t>(row)]; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
     static QString text(const CountDifference &item, int column);
 
     const CountDifferences &m_differences;
-    const QList<GridColumn> m_columns = gridColumns();
 };
 
 } // namespace Tallymere

@@ -6,6 +6,7 @@
 #include "controls/windows/barprogress.h"
 #include "controls/windows/messageboxes.h"
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/typing.h"
 #include "controls/windows/windowplaces.h"
 #include "data/datamodule.h"
 #include "transactions/books/lastsaved.h"
@@ -122,8 +123,7 @@ bool DocumentPostScreen::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_ui->lstNotices || event->type() != QEvent::KeyPress)
         return DialogScreen::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+    if (!isEnter(*static_cast<QKeyEvent *>(event)))
         return false;
     openNoticed(); // and does not press OK
     return true;

@@ -316,7 +316,7 @@ void TFormEnterInventory::showBooks()
 
 bool TFormEnterInventory::takeKey(QKeyEvent *event)
 {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool enter = isEnter(*event);
     if (!enter || focusWidget() != m_ui->wwIncrementalSearch1)
         return false;
     m_search->enter();
@@ -375,8 +375,7 @@ void TFormEnterInventory::confirmOverPhone(int item, double quantity)
     if (std::exchange(m_overtaken, std::nullopt) != row.itemId || row.typed == quantity)
         return;
     const QString question = tr("%1 has counted %2 of this item meanwhile.\nDo you want to put %3 in its place?")
-                                 .arg(row.mark.by, quantityFormat().display(Engine::Value(row.counted())),
-                                      quantityFormat().display(Engine::Value(quantity)));
+                                 .arg(row.mark.by, quantityText(row.counted()), quantityText(quantity));
     if (!context().prompts.confirm(Question::Warning, question))
         throw SilentAbort(Fields::Quantity);
 }

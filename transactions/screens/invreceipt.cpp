@@ -1,6 +1,7 @@
 #include "transactions/screens/invreceipt.h"
 
 #include "controls/windows/screenmetrics.h"
+#include "controls/windows/typing.h"
 #include "data/fields.h"
 #include "data/lookupsdatainv.h"
 #include "transactions/documents/documentkinds.h"
@@ -35,8 +36,7 @@ ReceiptEntry &TfrmInvReceipt::receipt() const { return static_cast<ReceiptEntry 
 // With a vendor number typed, Enter passes over the list of vendors.
 bool TfrmInvReceipt::takeKey(QKeyEvent *event)
 {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || focusWidget() != m_ui->editVendorNo || m_ui->editVendorNo->text().isEmpty())
+    if (!isEnter(*event) || focusWidget() != m_ui->editVendorNo || m_ui->editVendorNo->text().isEmpty())
         return DocumentScreen::takeKey(event);
     m_ui->cboWarehouse->setFocus();
     return true;
