@@ -23,12 +23,6 @@ const Plain plainLists[] = {
      {u"7.5"_s, u"P"_s, u"PST"_s},
      u"SELECT TaxName, TaxID, Rate, TaxCode, TaxDescription FROM Tax"_s,
      u"|1|7.5|P|PST"_s},
-    {MasterKinds::currency(),
-     u"editCurrencyName"_s,
-     {{"editExchangeRate", "0.8125"}},
-     {u"0.8125"_s},
-     u"SELECT CurrencyName, CurrencyID, ExchangeRate FROM Currency"_s,
-     u"|4|0.8125"_s},
     {MasterKinds::bank(),
      u"editBankName"_s,
      {{"cboCurrency", "fa"}},
@@ -41,12 +35,6 @@ const Plain plainLists[] = {
      {},
      u"SELECT TypeName, ItemTypeID, Inventory, CostingMethod FROM ItemType"_s,
      u"|7|true|2"_s},
-    {MasterKinds::location(),
-     u"editWarehouseName"_s,
-     {},
-     {},
-     u"SELECT WarehouseName, WarehouseID FROM Warehse"_s,
-     u"|3"_s},
 };
 
 struct MasterScreens : ScreenTest

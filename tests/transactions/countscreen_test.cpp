@@ -7,10 +7,6 @@
 #include "transactions/screens/countgrid.h"
 #include "transactions/screens/enterinventory.h"
 
-#include <QSignalSpy>
-
-#include <QSignalSpy>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 
