@@ -289,17 +289,10 @@ TEST_F(CountScreenTest, ReadsAgainUnderTheCountWhereOthersHavePosted)
     EXPECT_EQ(usageLines(), QStringList(u"1|2"_s));
 }
 
-TEST_F(CountScreenTest, RefusesWhatIsNoCount)
+TEST_F(CountScreenTest, ArrowsStopAtWhatIsRecordedAndDeleteTakesACountBack)
 {
     choose(u"Office"_s);
     search("B1");
-    for (const char *refused : {"3", "-1", "many"}) {
-        enter(refused);
-        EXPECT_EQ(prompts.take().size(), 1) << refused;
-        EXPECT_TRUE(grid->hasEntry());
-        press(Qt::Key_Escape);
-        EXPECT_EQ(rows().last(), u"B1 2.5 2.5"_s);
-    }
     type("1<Up><Up>"); // to the limit, and no further
     type("<Up><Return>");
     EXPECT_EQ(rows().last(), u"B1 2.5 2.5 0"_s);

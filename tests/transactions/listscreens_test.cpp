@@ -282,12 +282,6 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
         typeIn(dialog, "editNotMovedSince", "3/1/26<Return>");
     });
     EXPECT_EQ(narrowed(), u"(QtyOnHand < 0) AND (NOT (LastMoved >= '2026-03-01')): 1"_s);
-    inDialog<TfrmInvTotalsFilter>(u"mnuFilter"_s, [](TfrmInvTotalsFilter &dialog) {
-        EXPECT_FALSE(child<QCheckBox>(dialog, "chkNotMovedAll")->isChecked());
-        ::click(dialog, "btnReset");
-        typeIn(dialog, "editItem", "A10<Tab>");
-        typeIn(dialog, "cboWarehouse", "off<Return>");
-    });
     inDialog<TfrmItemsFind>(u"mnuFind"_s, [](TfrmItemsFind &) { type("B1<Return>"); });
     EXPECT_EQ(prompts.told(), u"error: 'apricots' not found") << "filtered out";
 }
