@@ -354,10 +354,6 @@ TEST_F(OpeningTest, TodayTellsWhatWaitsEachTimeTheWindowComesToTheFrontAndOpensI
         EXPECT_TRUE(comesTrue([&] { return usage.figure() == "2"_L1; }));
         store.execute(u"DELETE FROM IUsage WHERE UsageID = 2"_s);
 
-        done.clear();
-        form.findChild<FigureButton *>(u"todayBelowZero"_s)->click();
-        EXPECT_EQ(done.join(u", "_s), u"create, reset filter"_s) << "nothing waits: all rows";
-
         store.execute(u"ALTER TABLE IUsage RENAME TO IUsageGone"_s);
         EXPECT_EQ(usageReadAgain(), u"-"_s);
         EXPECT_EQ(period.figure(), u"-"_s);

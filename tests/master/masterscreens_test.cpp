@@ -39,7 +39,11 @@ const Plain plainLists[] = {
 
 struct MasterScreens : ScreenTest
 {
-    MasterScreens() { kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (6, 'Other')"_s); }
+    MasterScreens()
+    {
+        kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (6, 'Other')"_s);
+        theirs.open();
+    }
 
     void openList(const MasterKind &kind)
     {
@@ -68,6 +72,8 @@ struct MasterScreens : ScreenTest
     }
     QStringList currentRow() { return rowOf(*grid, grid->currentIndex().row()); }
 
+    std::unique_ptr<TestUser> anna = kitchen.anotherUser();
+    MasterRecord theirs{anna->database, MasterKinds::currency()};
     QPointer<MasterListScreen> list;
     QPointer<MasterRecordScreen> record;
     QTableView *grid = nullptr;
@@ -150,9 +156,6 @@ TEST_F(MasterScreens, KeepTheTypesOfTheSystem)
 
 TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
 {
-    const auto anna = kitchen.anotherUser();
-    MasterRecord theirs(anna->database, MasterKinds::currency());
-    theirs.open();
     ASSERT_TRUE(theirs.openRecord(2));
     theirs.table().edit();
     openList(MasterKinds::currency());
@@ -182,9 +185,6 @@ TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
 // Whatever somebody else does to a record that is shown, the user is told and nothing of it is lost.
 TEST_F(MasterScreens, TellOfOtherUsers)
 {
-    const auto anna = kitchen.anotherUser();
-    MasterRecord theirs(anna->database, MasterKinds::currency());
-    theirs.open();
     openList(MasterKinds::currency());
     openAgain(MasterKinds::currency(), 2);
 
