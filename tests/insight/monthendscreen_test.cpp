@@ -79,6 +79,9 @@ TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
     EXPECT_EQ(child<QPushButton>(*screen, "btnOpenPeriod")->text().remove(u'&'), u"Open Period 5/2026"_s);
     EXPECT_EQ(figure("monthEndValue"), u"no"_s) << "of the new period";
 
+    kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = 5"_s); // somebody else has moved it on
+    click(*screen, "btnOpenPeriod");
+    EXPECT_TRUE(prompts.last().contains(u"Somebody has opened period 5/2026 meanwhile."_s));
     prompts.take();
     kitchen.execute(u"DROP TABLE ICounted"_s);
     QEvent comesToFront(QEvent::WindowActivate);

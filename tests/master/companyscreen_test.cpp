@@ -44,6 +44,7 @@ TEST_F(CompanyScreen, DefaultsAreChosenFromLists)
     EXPECT_EQ(child<QComboBox>(*screen, "cboCurrency")->currentText(), u"Far"_s);
     press(Qt::Key_Delete);
     enter("DBEditDefaultNetDays", "45");
+    EXPECT_EQ(FiscalSettings::of(data->tblCompany()).fiscalYear, 2026);
     enter("editFiscalYear", "27");
     click("btnOK");
     EXPECT_EQ(FiscalSettings::of(data->tblCompany()).fiscalYear, 2027) << "what all screens read";

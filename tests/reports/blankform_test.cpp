@@ -121,6 +121,10 @@ TEST_F(BlankFormTest, ScannersReadItsBarcodes)
 TEST_F(BlankFormTest, IsPreviewedAsChosenLast)
 {
     auto *dialog = openScreen<TFormBlankInventoryReportSelection>();
+    context->printerDefined = [] { return false; };
+    press(Qt::Key_Return);
+    EXPECT_TRUE(begins(prompts.last(), u"error: You do not have a default printer defined."_s));
+    context->printerDefined = [] { return true; };
     press(Qt::Key_Return);
     EXPECT_EQ(prompts.last(), u"error: Choose the location that is counted."_s);
     EXPECT_EQ(focusName(), u"cboWarehouse"_s);

@@ -427,6 +427,8 @@ TEST_F(CountScreenTest, aScannedCodeGoesToItsItemWhateverCellItIsIn)
     EXPECT_EQ(prompts.told(),
               u"Confirm: No item has the code '9783161484100'. Do you want to look for the item?"_s);
     EXPECT_EQ(focusName(), u"wwIncrementalSearch1"_s);
+    type("7<Return>");
+    EXPECT_EQ(rows()[2], u"B1 2.5 2.5"_s) << "nor for the item that the cursor was on";
     prompts.ok = true;
     search("4006381333931");
     EXPECT_EQ(cursor(), u"A11"_s) << "typed as well";

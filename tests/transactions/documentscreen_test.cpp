@@ -67,19 +67,14 @@ TEST_F(DocumentScreenTest, controlZBringsTheLineTakenOutLastBack)
         SCOPED_TRACE(qPrintable(screens.kind.name));
         addDocument(kitchen, screens.kind, 7, 1, {{1, u"2"_s, u"3"_s}, {2, u"5"_s, u"1.5"_s}});
         open(screens, 7);
-        auto *figures = child<QLabel>(*screen, "lblFigures");
-        auto *undo = child<QAction>(*screen, "mnuUndoDelete");
         grid->setFocus();
         press(Qt::Key_Delete, Qt::ControlModifier);
-        EXPECT_EQ(figures->text(), u"Ctrl+Z puts back: Line 1 (Apples)");
-        EXPECT_TRUE(undo->isEnabled());
         EXPECT_EQ(quantities(screens.kind), u"7|5");
         press(Qt::Key_PageDown); // a new line in which nothing stands yet
         press(Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(quantities(screens.kind), u"7|5 7|2");
         EXPECT_EQ(grid->model()->rowCount(), 2);
-        EXPECT_EQ(figures->text(), QString());
-        EXPECT_FALSE(undo->isEnabled());
+        EXPECT_FALSE(child<QAction>(*screen, "mnuUndoDelete")->isEnabled());
         screen->btnCancelClick();
         settle();
         EXPECT_EQ(prompts.told(), QString());

@@ -282,6 +282,9 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
         typeIn(dialog, "editNotMovedSince", "3/1/26<Return>");
     });
     EXPECT_EQ(narrowed(), u"(QtyOnHand < 0) AND (NOT (LastMoved >= '2026-03-01')): 1"_s);
+    inDialog<TfrmInvTotalsFilter>(u"mnuFilter"_s, [](TfrmInvTotalsFilter &dialog) {
+        EXPECT_FALSE(child<QCheckBox>(dialog, "chkNotMovedAll")->isChecked());
+    });
     inDialog<TfrmItemsFind>(u"mnuFind"_s, [](TfrmItemsFind &) { type("B1<Return>"); });
     EXPECT_EQ(prompts.told(), u"error: 'apricots' not found") << "filtered out";
 }
@@ -465,6 +468,7 @@ TEST_F(ListScreensTest, historyIsNarrowedFromTotalsAndByItsDialog)
     });
     EXPECT_EQ(narrowed(), u"(TransType = 5) AND (GLYear = 2026): 1"_s);
     inDialog<TfrmInvHistoryFilter>(u"mnuFilter"_s, [](TfrmInvHistoryFilter &dialog) {
+        EXPECT_FALSE(child<QCheckBox>(dialog, "chkYearAll")->isChecked());
         dialog.btnResetClick();
         press(Qt::Key_Return);
     });

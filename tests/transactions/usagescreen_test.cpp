@@ -83,6 +83,8 @@ TEST_F(UsageScreenTest, listFiltersByACurrencyWithoutNarrowingAndDeletesByDate)
                   click(dialog, "optPostedNo");
               }),
               u"(WarehouseID = 2) AND (Posted <> true): 2"_s);
+    EXPECT_EQ(filtered([](DocumentFilterScreen &dialog) { click(dialog, "optPostedYes"); }),
+              u"(WarehouseID = 2) AND (Posted = true): 0"_s);
 
     list->resetFilter();
     ASSERT_TRUE(list->moveToKey(2));
