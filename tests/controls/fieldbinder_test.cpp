@@ -136,21 +136,6 @@ TEST_F(FieldBinderTest, typedDateReplacesTheOneThatTheCursorCameTo)
     EXPECT_EQ(prompts.said, QStringList());
 }
 
-TEST_F(FieldBinderTest, firstKeyPutsTheTableIntoEditAndLeavingHandsTheEntryOver)
-{
-    EXPECT_FALSE(table.isEditing());
-    type("Long porridge");
-    EXPECT_TRUE(table.isEditing());
-    EXPECT_EQ(shown("editName"), u"Long por"_s) << "no longer than the field";
-    EXPECT_EQ(table.text(u"Name"), u"Soup"_s);
-    press(Qt::Key_Tab);
-    EXPECT_EQ(table.text(u"Name"), u"Long por"_s);
-    EXPECT_EQ(focusName(), u"editCost"_s);
-    child<QCheckBox>(form, "chkHot")->setFocus();
-    press(Qt::Key_Space);
-    EXPECT_TRUE(table.boolean(u"Hot"));
-}
-
 TEST_F(FieldBinderTest, firstKeyChangesNothingThatSomebodyElseHasChanged)
 {
     editName->end(false);

@@ -1,11 +1,9 @@
-#include "controls/windows/glyphpath.h"
 #include "controls/windows/icons.h"
 #include "controls/windows/look.h"
 
 #include <gtest/gtest.h>
 #include <QAction>
 #include <QApplication>
-#include <QBuffer>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
@@ -39,14 +37,6 @@ Ink inkOf(const QImage &image)
     return ink;
 }
 
-QPainterPath pathOf(QByteArray data)
-{
-    data = "<svg xmlns='http://www.w3.org/2000/svg'><path d='" + data + "'/></svg>";
-    QBuffer file(&data);
-    file.open(QIODevice::ReadOnly);
-    return glyphPath(file);
-}
-
 } // namespace
 
 TEST(IconsTest, EverySignIsDrawnWithinItsFrameInTheAccentOfThePaletteInForce)
@@ -76,13 +66,6 @@ TEST(IconsTest, EverySignIsDrawnWithinItsFrameInTheAccentOfThePaletteInForce)
         }
     }
     QApplication::setPalette(before);
-}
-
-TEST(IconsTest, DrawingsHaveTheCommandsThatAreKnown)
-{
-    EXPECT_EQ(pathOf("M2 3.5H6V7L.5 8C1 1 2 2 3 3Z").elementCount(), 8);
-    EXPECT_TRUE(pathOf("M2 2A3 3 0 0 1 5 5").isEmpty());
-    EXPECT_TRUE(pathOf("M2 2L3").isEmpty());
 }
 
 // Some styles turn the ground of the entry with the cursor into the highlight, also where another one stands around them.

@@ -87,35 +87,13 @@ TEST_F(ListGridTest, firstPageIsThereBeforeTheListIsRead)
     EXPECT_EQ(table.integer(u"DishID"), dishes);
 }
 
-TEST_F(ListGridTest, theRestOfALongListComesByItselfOrWithTheKeyThatNeedsIt)
-{
-    Engine::Query query(store.database(), u"SELECT DishID, Name FROM Dish"_s);
-    query.setFirstPageSql(query.sql());
-    query.setKeyFields(u"DishID"_s);
-    query.setOrderBy(u"Name"_s);
-    query.onLongRead([](const Engine::DataSet::ReadOver &) { ADD_FAILURE() << "nothing to wait for"; }, dishes - 1);
-    for (const bool byKey : {false, true}) {
-        SCOPED_TRACE(byKey);
-        query.open();
-        ListGrid list;
-        list.setDataSet(query, {{u"Name"_s, u"Name"_s, 200}}, guard);
-        EXPECT_TRUE(list.tableModel()->isPartial());
-        showActive(list);
-        if (byKey)
-            QTest::keyClick(&list, Qt::Key_End);
-        EXPECT_TRUE(comesTrue([&list] { return list.model()->rowCount() == dishes; }));
-        EXPECT_EQ(query.recordIndex(), byKey ? dishes - 1 : 0);
-        query.close();
-    }
-}
-
 TEST_F(ListGridTest, aRowOfTheFirstPageIsTheOneThatIsShownAndKeysThatLeaveThePageWait)
 {
     Engine::Query query(store.database(), u"SELECT DishID, Name FROM Dish"_s);
     query.setFirstPageSql(query.sql() + u" WHERE DishID > 1"_s);
     query.setKeyFields(u"DishID"_s);
     query.setOrderBy(u"Name"_s);
-    query.onLongRead({}, dishes - 1);
+    query.onLongRead([](const Engine::DataSet::ReadOver &) { ADD_FAILURE() << "nothing to wait for"; }, dishes - 1);
     const std::pair<QList<Qt::Key>, int> lists[] = {
         {{}, 2}, {{Qt::Key_End, Qt::Key_Up}, dishes - 2}, {{Qt::Key_End, Qt::Key_Up, Qt::Key_Escape}, 2}};
     for (const auto &[keys, row] : lists) {

@@ -1,4 +1,3 @@
-#include "controls/screens/entryscreen.h"
 #include "controls/windows/windowplaces.h"
 #include "tests/controls/itemlist.h"
 #include "tests/support/screentest.h"
@@ -11,25 +10,6 @@ using namespace Tallymere;
 
 namespace {
 
-class Card final : public EntryScreen
-{
-public:
-    Card(ScreenContext &context, QWidget *parent)
-        : EntryScreen(context, parent)
-    {
-        setObjectName(u"frmCard"_s);
-        resize(240, 120);
-        buildScreen();
-    }
-
-private:
-    Pending pending() const override { return Pending::Nothing; }
-    void saveChanges() override { }
-    void dropChanges() override { }
-    std::optional<int> savedKey() const override { return std::nullopt; }
-    QString caption() const override { return u"Card"_s; }
-};
-
 struct WindowMemoryTest : ScreenTest
 {
     WindowMemoryTest()
@@ -39,19 +19,19 @@ struct WindowMemoryTest : ScreenTest
         mainWindow->show();
     }
 
-    template <typename Screen> Screen &open()
+    ItemList &open()
     {
-        auto *screen = new Screen(*context, mainWindow.get());
+        auto *screen = new ItemList(*context, mainWindow.get());
         screen->show();
         return *screen;
     }
-    template <typename Screen> QRect changed(const QRect &place)
+    QRect changed(const QRect &place)
     {
-        auto &screen = open<Screen>();
+        ItemList &screen = open();
         screen.setGeometry(place);
         screen.close();
         settle();
-        auto &again = open<Screen>();
+        ItemList &again = open();
         const QRect found = again.geometry();
         again.close();
         settle();
@@ -65,23 +45,22 @@ struct WindowMemoryTest : ScreenTest
 TEST_F(WindowMemoryTest, windowsComeBackWhereTheUserHasPutThem)
 {
     const QRect place(60, 70, 420, 310);
-    EXPECT_EQ(changed<ItemList>(place), place);
-    EXPECT_EQ(changed<Card>(place), place);
+    EXPECT_EQ(changed(place), place);
 
-    auto &list = open<ItemList>();
+    auto &list = open();
     grid(list).setColumnWidth(0, 111);
     QTest::mouseDClick(child<QFrame>(list, "RzPanelTop"), Qt::LeftButton);
     const QSize first = list.size();
     EXPECT_NE(first, place.size()) << "twelve rows";
     list.close();
     settle();
-    auto &again = open<ItemList>();
+    auto &again = open();
     EXPECT_EQ(again.size(), first);
     EXPECT_EQ(grid(again).columnWidth(0), 111);
     again.showMaximized();
     again.close();
     settle();
-    auto &large = open<ItemList>();
+    auto &large = open();
     EXPECT_TRUE(large.isMaximized());
     large.showNormal();
     EXPECT_EQ(large.size(), first);
@@ -90,14 +69,12 @@ TEST_F(WindowMemoryTest, windowsComeBackWhereTheUserHasPutThem)
 TEST_F(WindowMemoryTest, whatNobodyHasChangedIsNotWritten)
 {
     for (int i = 0; i < 2; ++i) {
-        auto &list = open<ItemList>();
+        auto &list = open();
         list.setGeometry(list.geometry().translated(1, -1)); // rounded by a scaled screen
         list.close();
-        open<Card>().close();
         settle();
     }
     EXPECT_EQ(settings.read(u"Forms/frmItemList"_s, u"Place"_s), QString());
-    EXPECT_EQ(settings.read(u"Forms/frmCard"_s, u"Place"_s), QString());
     EXPECT_EQ(settings.read(u"Forms/frmItemList"_s, u"DBGrid1"_s), QString());
 }
 
@@ -112,15 +89,15 @@ TEST_F(WindowMemoryTest, settingsThatCannotBeUsedDoNoHarm)
     for (const auto &[place, widths] : cases) {
         settings.write(section, u"Place"_s, place);
         settings.write(section, u"DBGrid1"_s, widths);
-        const auto &list = open<ItemList>();
+        const auto &list = open();
         EXPECT_TRUE(mainWindow->screen()->availableGeometry().contains(list.geometry())) << place.toStdString();
         EXPECT_EQ(grid(list).columnWidth(0), 80) << widths.toStdString();
         delete &list;
     }
     settings.writable = false;
-    changed<ItemList>(QRect(60, 70, 420, 310));
+    changed(QRect(60, 70, 420, 310));
     context->settings = nullptr;
-    changed<ItemList>(QRect(60, 70, 420, 310));
+    changed(QRect(60, 70, 420, 310));
     EXPECT_EQ(prompts.said, QStringList());
 }
 

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
+#include <filesystem>
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QSet>
@@ -77,13 +78,7 @@ QSet<QString> namesIn(const QString &folder)
 
 void copyFolder(const QString &from, const QString &to)
 {
-    const QSet<QString> names = namesIn(from);
-    for (const QString &name : names)
-        if (QFileInfo(from + name).isDir())
-            QDir().mkpath(to + name);
-    for (const QString &name : names)
-        if (QFileInfo(from + name).isFile())
-            QFile::copy(from + name, to + name);
+    std::filesystem::copy(from.toStdString(), to.toStdString(), std::filesystem::copy_options::recursive);
 }
 
 bool holdTheSame(const QString &folder, const QString &other)

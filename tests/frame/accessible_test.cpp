@@ -1,6 +1,4 @@
-#include "frame/frmtallymeresystem.h"
 #include "tests/frame/hoststub.h"
-#include "tests/frame/testcompany.h"
 #include "tests/support/accessibledriver.h"
 #include "tests/support/teststore.h"
 

@@ -82,8 +82,6 @@ TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
     kitchen.execute(u"UPDATE Company SET DefaultPeriodPP = 5"_s); // somebody else has moved it on
     click(*screen, "btnOpenPeriod");
     EXPECT_TRUE(prompts.last().contains(u"Somebody has opened period 5/2026 meanwhile."_s));
-    EXPECT_EQ(defaultPeriod(), u"5|2026");
-
     prompts.take();
     kitchen.execute(u"DROP TABLE ICounted"_s);
     QEvent comesToFront(QEvent::WindowActivate);

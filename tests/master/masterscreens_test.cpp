@@ -23,12 +23,6 @@ const Plain plainLists[] = {
      {u"7.5"_s, u"P"_s, u"PST"_s},
      u"SELECT TaxName, TaxID, Rate, TaxCode, TaxDescription FROM Tax"_s,
      u"|1|7.5|P|PST"_s},
-    {MasterKinds::currency(),
-     u"editCurrencyName"_s,
-     {{"editExchangeRate", "0.8125"}},
-     {u"0.8125"_s},
-     u"SELECT CurrencyName, CurrencyID, ExchangeRate FROM Currency"_s,
-     u"|4|0.8125"_s},
     {MasterKinds::bank(),
      u"editBankName"_s,
      {{"cboCurrency", "fa"}},
@@ -41,17 +35,15 @@ const Plain plainLists[] = {
      {},
      u"SELECT TypeName, ItemTypeID, Inventory, CostingMethod FROM ItemType"_s,
      u"|7|true|2"_s},
-    {MasterKinds::location(),
-     u"editWarehouseName"_s,
-     {},
-     {},
-     u"SELECT WarehouseName, WarehouseID FROM Warehse"_s,
-     u"|3"_s},
 };
 
 struct MasterScreens : ScreenTest
 {
-    MasterScreens() { kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (6, 'Other')"_s); }
+    MasterScreens()
+    {
+        kitchen.execute(u"INSERT INTO ItemType (ItemTypeID, TypeName) VALUES (6, 'Other')"_s);
+        theirs.open();
+    }
 
     void openList(const MasterKind &kind)
     {
@@ -80,6 +72,8 @@ struct MasterScreens : ScreenTest
     }
     QStringList currentRow() { return rowOf(*grid, grid->currentIndex().row()); }
 
+    std::unique_ptr<TestUser> anna = kitchen.anotherUser();
+    MasterRecord theirs{anna->database, MasterKinds::currency()};
     QPointer<MasterListScreen> list;
     QPointer<MasterRecordScreen> record;
     QTableView *grid = nullptr;
@@ -162,9 +156,6 @@ TEST_F(MasterScreens, KeepTheTypesOfTheSystem)
 
 TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
 {
-    const auto anna = kitchen.anotherUser();
-    MasterRecord theirs(anna->database, MasterKinds::currency());
-    theirs.open();
     ASSERT_TRUE(theirs.openRecord(2));
     theirs.table().edit();
     openList(MasterKinds::currency());
@@ -194,9 +185,6 @@ TEST_F(MasterScreens, SayAtOnceThatSomebodyElseHasTheRecord)
 // Whatever somebody else does to a record that is shown, the user is told and nothing of it is lost.
 TEST_F(MasterScreens, TellOfOtherUsers)
 {
-    const auto anna = kitchen.anotherUser();
-    MasterRecord theirs(anna->database, MasterKinds::currency());
-    theirs.open();
     openList(MasterKinds::currency());
     openAgain(MasterKinds::currency(), 2);
 

@@ -222,21 +222,6 @@ TEST_F(ListScreensTest, postingTellsWhatItWillDoAndEnterOpensTheDocument)
     settle();
 }
 
-TEST_F(ListScreensTest, postingIsRefusedWhileAReceiptIsBeingEntered)
-{
-    addReceipts();
-    open<TfrmInvReceipts>();
-    click("btnNew");
-    EXPECT_TRUE(whileOpen<DocumentPostScreen>(post, [&](DocumentPostScreen &dialog) {
-        dialog.btnOKClick();
-        EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    }));
-    EXPECT_EQ(prompts.told(), u"error: A conflicting program is running...\nPlease close 'Inventory Receipt' form");
-    EXPECT_EQ(count(u"IHist"_s), 0);
-    findScreen<TfrmInvReceipt>(u"frmInvReceipt"_s)->btnCancelClick();
-    settle();
-}
-
 TEST_F(ListScreensTest, aFigureThatItsColumnIsTooNarrowForShowsInTheStatusLine)
 {
     kitchen.setStock(1, 1, 123'457'000, 0);
@@ -299,9 +284,6 @@ TEST_F(ListScreensTest, totalsAreFilteredSortedAndFound)
     EXPECT_EQ(narrowed(), u"(QtyOnHand < 0) AND (NOT (LastMoved >= '2026-03-01')): 1"_s);
     inDialog<TfrmInvTotalsFilter>(u"mnuFilter"_s, [](TfrmInvTotalsFilter &dialog) {
         EXPECT_FALSE(child<QCheckBox>(dialog, "chkNotMovedAll")->isChecked());
-        ::click(dialog, "btnReset");
-        typeIn(dialog, "editItem", "A10<Tab>");
-        typeIn(dialog, "cboWarehouse", "off<Return>");
     });
     inDialog<TfrmItemsFind>(u"mnuFind"_s, [](TfrmItemsFind &) { type("B1<Return>"); });
     EXPECT_EQ(prompts.told(), u"error: 'apricots' not found") << "filtered out";
@@ -320,6 +302,9 @@ TEST_F(ListScreensTest, listsAreNarrowedToWhatWaits)
         showActive(*documents);
         EXPECT_EQ(documents->dataSet().recordCount(), 2);
         EXPECT_TRUE(child<QRadioButton>(*documents, "optPostedNo")->isChecked()) << "its filter dialog says so";
+        ASSERT_TRUE(documents->moveToKey(1));
+        documents->showAgain();
+        EXPECT_EQ(documents->dataSet().recordIndex() == 0, &kind.kind == &DocumentKinds::adjustment());
     }
 }
 
@@ -485,7 +470,6 @@ TEST_F(ListScreensTest, historyIsNarrowedFromTotalsAndByItsDialog)
     inDialog<TfrmInvHistoryFilter>(u"mnuFilter"_s, [](TfrmInvHistoryFilter &dialog) {
         EXPECT_FALSE(child<QCheckBox>(dialog, "chkYearAll")->isChecked());
         dialog.btnResetClick();
-        EXPECT_EQ(child<QSpinBox>(dialog, "editYear")->text(), u"<All>"_s);
         press(Qt::Key_Return);
     });
     EXPECT_EQ(list->windowTitle(), u"Inventory History"_s);

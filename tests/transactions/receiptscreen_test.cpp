@@ -70,44 +70,15 @@ TEST_F(ReceiptScreenTest, keyGoesIntoTheLineThatTheCursorIsOnAlsoWhenAnotherUser
     EXPECT_EQ(prompts.said, QStringList());
 }
 
-TEST_F(ReceiptScreenTest, refusalOfTheHeaderMovesTheFocusToItsFieldAndCancelBringsTheLinesBack)
+TEST_F(ReceiptScreenTest, aSuspendedVendorCannotBePickedFromTheListEither)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
     open(7);
-    typeIn(*screen, "cboVendor", "<Del>");
-    typeIn(*screen, "DBGrid1", "<Ctrl+Del>");
-    pressOK();
-    EXPECT_EQ(prompts.told(), u"error: Field 'Vendor' must have a value");
-    EXPECT_EQ(focusName(), u"editVendorNo"_s);
-    type("V1");
-    pressOK();
-    EXPECT_EQ(prompts.told(), u"error: Quantities have not been entered");
-    EXPECT_EQ(focusName(), u"DBGrid1"_s);
-    screen->btnCancelClick();
-    settle();
-    EXPECT_EQ(kitchen.lines(7), QStringList(u"1|1|5|3"_s));
-}
-
-TEST_F(ReceiptScreenTest, vendorNumberIsLookedUpOnLeavingAndEscapeRestoresIt)
-{
-    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
-    open(7);
-    auto *vendorNo = child<QLineEdit>(*screen, "editVendorNo");
-    auto *vendor = child<LookupComboBox>(*screen, "cboVendor");
-    type("V77<Tab>");
-    settle();
-    EXPECT_EQ(prompts.told(), u"error: Vendor no. 'V77' not found");
-    EXPECT_EQ(focusName(), u"editVendorNo"_s);
-    press(Qt::Key_Escape);
-    EXPECT_EQ(vendorNo->text(), u"V1"_s);
-    type("V2<Tab>");
-    EXPECT_EQ(vendor->currentText(), u"Second"_s);
-    // A suspended vendor cannot be picked from the list either; the box goes back.
-    type("Fourth<Tab>");
+    typeIn(*screen, "cboVendor", "Fourth<Tab>");
     QCoreApplication::processEvents();
     EXPECT_EQ(prompts.told(), u"error: Vendor 'V4: Fourth' has been suspended");
-    EXPECT_EQ(vendor->currentText(), u"Second"_s);
-    EXPECT_EQ(vendorNo->text(), u"V2"_s);
+    EXPECT_EQ(child<LookupComboBox>(*screen, "cboVendor")->currentText(), u"First"_s) << "the box goes back";
+    EXPECT_EQ(child<QLineEdit>(*screen, "editVendorNo")->text(), u"V1"_s);
 }
 
 TEST_F(ReceiptScreenTest, typedVendorNumberTouchesTheReceiptWhenItIsTakenOver)
@@ -190,30 +161,7 @@ TEST_F(ReceiptScreenTest, postedReceiptIsShownAndNothingInItCanBeChanged)
     EXPECT_EQ(prompts.said, QStringList());
 }
 
-// As an assistive program can ask for it, which reaches windows that keys and mouse do not.
-TEST_F(ReceiptScreenTest, nothingIsDoneInItWhileItsItemSearchStandsOverIt)
-{
-    kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
-    open(7);
-    typeIn(*screen, "DBGrid1", "6<Return>B");
-    search([&](TfrmItemSearchInv &dialog) {
-        child<QAction>(*screen, "mnuDeleteLine")->trigger();
-        for (const char *button : {"btnOK", "btnCancel"})
-            click(*screen, button);
-        EXPECT_FALSE(screen->close());
-        settle();
-        EXPECT_TRUE(dialog.isVisible());
-    });
-    ASSERT_TRUE(screen && screen->isVisible());
-    EXPECT_EQ(child<QLineEdit>(*grid, "editCell")->text(), u"B"_s);
-    press(Qt::Key_Escape);
-    pressOK();
-    EXPECT_FALSE(screen);
-    EXPECT_EQ(kitchen.lines(7), QStringList(u"1|1|6|3"_s));
-    EXPECT_EQ(prompts.said, QStringList());
-}
-
-TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
+TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLineAndKeepsTheReceiptAsItIsMeanwhile)
 {
     kitchen.addReceipt(7, 1, 2, {{1, 5, 3.0}});
     open(7);
@@ -225,13 +173,22 @@ TEST_F(ReceiptScreenTest, itemSearchPutsTheChosenItemIntoTheLine)
     });
     EXPECT_EQ(cellOf(*grid, 0, 2), u"Bread"_s);
     type("B");
-    search([](TfrmItemSearchInv &dialog) {
+    search([this](TfrmItemSearchInv &dialog) {
         EXPECT_EQ(child<QLineEdit>(dialog, "editFindItemNo")->text(), u"B"_s) << "what was typed goes on there";
         EXPECT_EQ(dialog.GetItemID(), 3);
+        // An assistive program reaches windows that keys and mouse do not.
+        child<QAction>(*screen, "mnuDeleteLine")->trigger();
+        for (const char *button : {"btnOK", "btnCancel"})
+            click(*screen, button);
+        EXPECT_FALSE(screen->close());
+        settle();
+        EXPECT_TRUE(dialog.isVisible());
         press(Qt::Key_Escape);
     });
+    ASSERT_TRUE(screen && screen->isVisible());
     EXPECT_EQ(child<QLineEdit>(*grid, "editCell")->text(), u"B"_s) << "nothing chosen: typing goes on here";
     press(Qt::Key_Escape);
     pressOK();
     EXPECT_EQ(kitchen.lines(7), QStringList(u"1|2|5|3"_s));
+    EXPECT_EQ(prompts.said, QStringList());
 }

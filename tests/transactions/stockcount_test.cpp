@@ -387,21 +387,6 @@ TEST(CountDraftFile, IsNotOfAnotherDatabaseInTheSamePlace)
     EXPECT_TRUE(drafts().locations().isEmpty());
 }
 
-TEST(CountDraftFile, ThatCannotBeReadIsNone)
-{
-    const QTemporaryDir folder;
-    const CountDrafts drafts(u"kitchen"_s, u"anna"_s, folder.path());
-    drafts.save(3, {.saved = QDateTime(), .date = QDate(2026, 3, 14), .counts = {{7, 1.5}}});
-    const QString path = folder.path() + u'/' + QDir(folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot)[0];
-    for (const QByteArray &content :
-         {QByteArray("{\"counts\":[[7,"), QByteArray("{\"counts\":[[7,-1],[8,1e999]]}")}) {
-        putContent(path + u"/location-3.json"_s, content);
-        EXPECT_FALSE(drafts.load(3)) << content.toStdString();
-    }
-    const CountDrafts nowhere(u"kitchen"_s, u"bert"_s, u"/proc/nowhere"_s);
-    EXPECT_THROW(nowhere.save(3, {}), RuleError);
-}
-
 } // namespace
 
 TEST(CountDifferencesOf, AListLieWhereTheMoneyIs)
