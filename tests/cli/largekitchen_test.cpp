@@ -27,6 +27,7 @@ QStringList booksOf(Store store, std::uint64_t seed)
     Tallymere::checkBooks(data.databaseTallymere(), progress, [](const Tallymere::BookCheck &check, auto &&) {
         ADD_FAILURE() << check.title.toStdString();
     });
+    EXPECT_EQ(place.found(u"SELECT count(*) FROM Item"_s), u"700"_s);
     EXPECT_EQ(
         place.found(u"SELECT count(*) FROM Item WHERE ItemID IN (SELECT ItemID FROM IBalance WHERE QtyOnHand > 0) "
                     "AND coalesce(WgtAvgCost, 0) <= 0"_s),

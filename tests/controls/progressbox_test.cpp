@@ -19,7 +19,10 @@ TEST(ProgressBoxTest, TellsThePercentAndEndsTheWorkWhenItIsCancelled)
     EXPECT_FALSE(dialog->isVisible());
     while (!dialog->isVisible())
         box.step();
-    EXPECT_EQ(dialog->findChild<QProgressBar *>()->text(), u"0%"_s);
+    const auto *bar = dialog->findChild<QProgressBar *>();
+    EXPECT_EQ(bar->text(), u"0%"_s);
+    box.finish();
+    EXPECT_EQ(bar->text(), u"100%"_s);
     QTest::keyClick(dialog, Qt::Key_Escape);
     EXPECT_THROW(for (;;) box.step(), SilentAbort);
 }

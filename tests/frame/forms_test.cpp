@@ -227,6 +227,7 @@ struct FormsTest : testing::Test
         new WindowRules(mainWindow);
         QApplication::setCursorFlashTime(0);
         over.fill();
+        over.context.settings = &over.company.settings;
         Engine::Database &database = over.data.databaseTallymere();
         database.connection().execute(u"UPDATE Warehse SET WarehouseName = '[Cellar]'"_s);
         addDocuments(1, 14, u"12, 2.5"_s, u"2, 3"_s);
@@ -294,7 +295,14 @@ struct FormsTest : testing::Test
                                    .apply = [] {}},
                                   &mainWindow);
         ItemBarcodesDialog barcodes(over.context, 1, u"[Item 'A10: Apples']"_s, &mainWindow);
-        TfrmCountDifferences differences(over.context, CountList(), &mainWindow);
+        const CountRow counted{.itemNo = u"A10"_s,
+                               .typeName = {},
+                               .description = u"Apples"_s,
+                               .standardCost = {},
+                               .unitCost = Engine::Money::fromTenThousandths(25'000),
+                               .recorded = 7,
+                               .typed = 4};
+        TfrmCountDifferences differences(over.context, CountList({counted}), &mainWindow);
         Engine::Database &database = over.context.data.databaseTallymere();
         StockCount count(database, over.context.prompts);
         TfrmPhoneCount phones(
@@ -388,7 +396,6 @@ struct FormsTest : testing::Test
     // Each command of each window leads where it led, each key does what it did; what is asked is agreed to, or not.
     void expectSteps(bool agrees, const QString &approved)
     {
-        over.context.settings = &over.company.settings;
         qputenv("CUPS_SERVER", "/nonexistent"); // no printer of this machine gets anything
         over.context.printerDefined = [] { return true; };
         over.company.prompts.ok = agrees;
@@ -590,7 +597,6 @@ TEST_F(FormsTest, WindowsFollowTheDesktopFromDarkToLight)
 
 TEST_F(FormsTest, WindowsComeAsTheyWereLeft)
 {
-    over.context.settings = &over.company.settings;
     QHash<QString, QSize> left;
     visitAll([&left](QWidget &window) {
         window.show();
