@@ -1,6 +1,7 @@
 #include "controls/screens/filterdialog.h"
 
 #include "base/formats.h"
+#include "base/foundin.h"
 #include "controls/fields/lookupcombobox.h"
 #include "controls/fields/optionaldate.h"
 #include "controls/windows/mnemonics.h"
@@ -253,10 +254,7 @@ bool FilterDialog::isOn() const
 
 LookupComboBox *FilterDialog::box(const QString &name) const
 {
-    const auto found = std::find_if(m_boxes.begin(), m_boxes.end(),
-                                    [&](const LookupComboBox *shown) { return shown->objectName() == name; });
-    Q_ASSERT(found != m_boxes.end());
-    return *found;
+    return foundIn(m_boxes, name, [&](const LookupComboBox *shown) { return shown->objectName() == name; });
 }
 
 int FilterDialog::key(const QString &name) const { return box(name)->chosenId(); }

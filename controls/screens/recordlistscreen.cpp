@@ -1,8 +1,7 @@
 #include "controls/screens/recordlistscreen.h"
 
+#include "base/foundin.h"
 #include "controls/windows/screenmetrics.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -73,10 +72,7 @@ ListMenu RecordListScreen::viewMenu(const QList<ListOrder> &orders, int firstOrd
 
 ListMenu &RecordListScreen::menu(ListDescription &description, const QString &caption)
 {
-    const auto found = std::find_if(description.menus.begin(), description.menus.end(),
-                                    [&](const ListMenu &menu) { return menu.caption == caption; });
-    Q_ASSERT(found != description.menus.end());
-    return *found;
+    return foundIn(description.menus, caption, [&](const ListMenu &menu) { return menu.caption == caption; });
 }
 
 // --- commands ---------------------------------------------------------------------------------------------------

@@ -1,12 +1,12 @@
 #include "transactions/screens/invusages.h"
 
+#include "base/foundin.h"
 #include "controls/screens/datedialog.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "transactions/documents/documentkinds.h"
 #include "transactions/kinds/usagedeletion.h"
 
-#include <algorithm>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -17,10 +17,7 @@ namespace {
 
 ListCommand &named(QList<ListCommand> &commands, const QString &name)
 {
-    const auto found = std::find_if(commands.begin(), commands.end(),
-                                    [&](const ListCommand &command) { return command.name == name; });
-    Q_ASSERT(found != commands.end());
-    return *found;
+    return foundIn(commands, name, [&](const ListCommand &command) { return command.name == name; });
 }
 
 } // namespace
