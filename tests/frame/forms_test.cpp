@@ -450,6 +450,8 @@ struct FormsTest : testing::Test
         });
         system.formTallymereSystemShowModal();
         ASSERT_EQ(walks.size(), 1);
+        const QByteArray home = qgetenv("HOME");
+        qputenv("HOME", "/home/anna"); // which word of a folder is clicked, its length decides
         visitHost([&walk](QWidget &window) {
             if (auto *making = window.findChild<QAction *>(u"actionSampleCompany"_s))
                 making->setEnabled(false); // how much of it is seen, the machine decides
@@ -457,6 +459,7 @@ struct FormsTest : testing::Test
                 child<QPushButton>(window, "btnOK")->setEnabled(false); // books that the next run would find
             walk(window);
         });
+        qputenv("HOME", home);
         visitAll([&](QWidget &window) {
             if (auto *asking = window.findChild<QWidget *>(u"btnTakeUp"_s))
                 asking->setEnabled(agrees); // else the network, about a server called 7
