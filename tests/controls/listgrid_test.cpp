@@ -324,7 +324,6 @@ TEST_F(ListGridTest, typedTextIsShortenedAndEnds)
 
     const std::tuple<const char *, std::function<void()>> ends[] = {
         {"escape", [] { press(Qt::Key_Escape); }},
-        {"arrow", [] { press(Qt::Key_Down); }},
         {"mouse", [&] { click(4); }},
         {"focus", [&] { grid.clearFocus(); }},
     };

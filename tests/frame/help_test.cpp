@@ -98,7 +98,6 @@ TEST_F(HelpTest, SearchesTheWholeText)
     auto *found = child<QListWidget>(help, "listFound");
     showActive(help);
     press(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::focusWidget(), words);
     type("spoiled heat<Return>"); // while the words are still being read
     ASSERT_TRUE(comesTrue([&] { return found->count() == 1; }));
     EXPECT_EQ(found->item(0)->text(), u"Adjust the stock"_s);

@@ -254,8 +254,6 @@ TEST_F(OpeningTest, AScreenRunsItsCommands)
             EXPECT_TRUE(bar->isVisible());
         };
         EXPECT_EQ(stepsOf(u"ActionSynchronizeLocations"_s), u"refresh"_s) << "of the list of locations";
-        EXPECT_EQ(company.prompts.take(),
-                  (QStringList{question, u"inform: Succesfully completed the synchronization."_s}));
         EXPECT_EQ(bar->value(), 0);
         EXPECT_FALSE(bar->isVisible());
         EXPECT_EQ(context->lookups.tblWarehse().recordCount(), 2) << "drop-down lists show what has come in";

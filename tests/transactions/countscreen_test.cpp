@@ -102,7 +102,6 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     type("o");
     EXPECT_EQ(locations->currentIndex(), -1) << "a letter opens no location yet";
     QTest::keyClick(locations->view(), Qt::Key_Return);
-    EXPECT_TRUE(ok->isEnabled());
     search("a11");
     EXPECT_EQ(cursor(), u"A11"_s);
     enter("4");
@@ -169,7 +168,6 @@ TEST_F(CountScreenTest, ABlindCountTellsNothingOfTheBooksUntilItIsCalculated)
     press(Qt::Key_Escape);
     EXPECT_EQ(rows(), (QStringList{u"A10 8"_s, u"A11"_s, u"B1"_s}));
     EXPECT_EQ(grid->model()->index(0, 5).data(Qt::BackgroundRole), QVariant()) << "nor does the ground";
-    EXPECT_EQ(status(), u"1 of 3 counted"_s);
 
     prompts.answer = Answer::Yes;
     ok->click();
