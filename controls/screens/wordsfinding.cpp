@@ -35,7 +35,7 @@ QString rowText(const TableModel &rows, int row)
 
 } // namespace
 
-WordsFinding::WordsFinding(DialogScreen &dialog, QLineEdit &box, ListScreen &list)
+WordsFinding::WordsFinding(DialogScreen &dialog, QBoxLayout &rows, QLineEdit &box, ListScreen &list)
     : QObject(&dialog)
     , m_dialog(dialog)
     , m_box(box)
@@ -47,9 +47,7 @@ WordsFinding::WordsFinding(DialogScreen &dialog, QLineEdit &box, ListScreen &lis
     m_told->setTextFormat(Qt::PlainText);
     m_told->setWordWrap(true);
     m_told->hide();
-    auto *layout = qobject_cast<QBoxLayout *>(dialog.layout());
-    Q_ASSERT(layout);
-    layout->insertWidget(layout->count() - 1, m_told); // over the buttons
+    rows.insertWidget(rows.count() - 1, m_told); // over the buttons
     connectGuarded(new QShortcut(Qt::Key_F3, &dialog), &QShortcut::activated, &dialog,
                    [this](DialogScreen *) { findNext(); });
 }

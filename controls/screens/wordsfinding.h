@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+class QBoxLayout;
 class QLabel;
 class QLineEdit;
 
@@ -20,8 +21,8 @@ class WordsFinding final : public QObject
     Q_OBJECT
 
 public:
-    // The box is the one in which it is typed.
-    WordsFinding(DialogScreen &dialog, QLineEdit &box, ListScreen &list);
+    // The rows of the dialog end with its buttons; the box is the one in which it is typed.
+    WordsFinding(DialogScreen &dialog, QBoxLayout &rows, QLineEdit &box, ListScreen &list);
 
     // Runs the search by number. Where that refuses, the list goes to the first row with the words, and it refuses all the
     // same.

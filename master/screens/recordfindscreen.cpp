@@ -27,7 +27,7 @@ RecordFindScreen::RecordFindScreen(ScreenContext &context, const FindDialogKind 
     addFilterNote(*this, list.dataSet());
 
     m_record = new RecordPair(m_ui->editNumber, m_ui->cboName, kind, records, guard());
-    m_words = new WordsFinding(*this, *m_ui->editNumber, list);
+    m_words = new WordsFinding(*this, *m_ui->layoutScreen, *m_ui->editNumber, list);
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &RecordFindScreen::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }

@@ -20,7 +20,7 @@ DocumentFindScreen::DocumentFindScreen(ScreenContext &context, DocumentList &lis
     m_ui->lblNumber->setText(find.label);
     m_ui->editNumber->setObjectName(find.box);
     addFilterNote(*this, list.table());
-    m_words = new WordsFinding(*this, *m_ui->editNumber, screen);
+    m_words = new WordsFinding(*this, *m_ui->layoutScreen, *m_ui->editNumber, screen);
     connectGuarded(m_ui->btnOK, &QPushButton::clicked, this, &DocumentFindScreen::btnOKClick);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
