@@ -2,9 +2,9 @@
 #include "base/origintext.h"
 #include "cli/command.h"
 #include "cli/databasefolder.h"
-#include "cli/terminal.h"
 #include "cli/texts.h"
 #include "engine/store/attempts.h"
+#include "engine/store/platform.h"
 #include "engine/values/error.h"
 
 #include <algorithm>
@@ -29,7 +29,7 @@ void requirePlace(const CommandContext &context)
 
 } // namespace
 
-QString CommandContext::user() const { return arguments.value(u"user"_s, Terminal::loginName()); }
+QString CommandContext::user() const { return arguments.value(u"user"_s, Engine::systemUserName()); }
 
 std::unique_ptr<TDataModuleTallymere> CommandContext::openData(DataModuleOptions options) const
 {

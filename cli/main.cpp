@@ -1,6 +1,6 @@
 #include "cli/program.h"
-#include "cli/terminal.h"
 #include "cli/texts.h"
+#include "engine/store/platform.h"
 
 #include <memory>
 #include <QDir>
@@ -19,7 +19,7 @@ public:
     SessionFolder()
     {
         if (qEnvironmentVariableIsEmpty(variable)) {
-            m_path = QDir::tempPath() + "/tallymere-session-"_L1 + Tallymere::Cli::Terminal::loginName();
+            m_path = QDir::tempPath() + "/tallymere-session-"_L1 + Engine::systemUserName();
             qputenv(variable, QFile::encodeName(m_path));
         }
     }

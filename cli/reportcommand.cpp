@@ -221,7 +221,7 @@ void runPrintCommand(CommandContext &context)
     const ReportDescription report = wantedReport(context.arguments);
     const ReportSelection selection = selectionOf(context.arguments, report);
     const std::optional<PaperChoice> paper = wantedPaper(context.arguments);
-    const QString printer = Printing::requirePrinter(context.arguments.value(u"printer"_s)); // before long work
+    const QString printer = Printing::printerNamed(context.arguments.value(u"printer"_s)); // before long work
     const PagedReport pages = makePages(context, report, selection, paper, printer);
     QTemporaryFile file; // without a name: it goes with the program, however that ends
     if (!file.open())

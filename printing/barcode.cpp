@@ -1,9 +1,9 @@
 #include "printing/barcode.h"
 
+#include "printing/zintsymbol.h"
+
 #include <algorithm>
 #include <cmath>
-#include <memory>
-#include <zint.h>
 
 namespace Tallymere::Printing {
 
@@ -19,18 +19,13 @@ constexpr int fewestDots = 4;
 
 bool isReadBack(QChar character) { return character >= u' ' && character <= u'~'; }
 
-struct DeleteSymbol
-{
-    void operator()(zint_symbol *symbol) const { ZBarcode_Delete(symbol); }
-};
-
 } // namespace
 
 Barcode barcodeOf(const QString &text)
 {
     if (text.isEmpty() || !std::ranges::all_of(text, isReadBack))
         return {};
-    const std::unique_ptr<zint_symbol, DeleteSymbol> symbol(ZBarcode_Create());
+    const SymbolPtr symbol(ZBarcode_Create());
     if (!symbol)
         return {};
     symbol->symbology = BARCODE_CODE128;

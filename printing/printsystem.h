@@ -10,7 +10,7 @@ namespace Tallymere::Printing {
 
 // The name of a printer of the system; an empty one stands for the default printer. Throws RuleError when there is no such
 // printer, with what the system says, or none at all.
-QString requirePrinter(const QString &printer);
+QString printerNamed(const QString &printer);
 
 // Hands a PDF document, from its beginning, to a printer of the system under a title, for sheets of its size. Throws
 // RuleError with what the system says when the printer is not there any more, or does not take the job.

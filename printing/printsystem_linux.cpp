@@ -98,7 +98,7 @@ private:
 
 } // namespace
 
-QString requirePrinter(const QString &printer)
+QString printerNamed(const QString &printer)
 {
     const Destination destination(printer);
     if (destination.exists())

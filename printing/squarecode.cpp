@@ -1,7 +1,6 @@
 #include "printing/squarecode.h"
 
-#include <memory>
-#include <zint.h>
+#include "printing/zintsymbol.h"
 
 namespace Tallymere::Printing {
 
@@ -9,16 +8,11 @@ namespace {
 
 constexpr int mediumRepair = 2; // up to 15 % of it may be unreadable
 
-struct DeleteSymbol
-{
-    void operator()(zint_symbol *symbol) const { ZBarcode_Delete(symbol); }
-};
-
 } // namespace
 
 SquareCode squareCodeOf(const QString &text)
 {
-    const std::unique_ptr<zint_symbol, DeleteSymbol> symbol(ZBarcode_Create());
+    const SymbolPtr symbol(ZBarcode_Create());
     if (!symbol)
         return {};
     symbol->symbology = BARCODE_QRCODE;

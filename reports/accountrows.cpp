@@ -9,7 +9,7 @@ namespace Tallymere {
 
 AccountRows::AccountRows(Engine::Database &database, const ReportQuery &balances, const ReportSelection &selection,
                          const Printing::ReportLayout &layout)
-    : m_balances(openQuery(database, balances, selection))
+    : m_balances(openReportQuery(database, balances, selection))
     , m_query(*m_balances)
     , m_map(layout, m_query)
     , m_item(m_query.fieldIndex(Fields::ItemID))

@@ -41,14 +41,14 @@ QString orderLine(const QStringList &order, const Engine::Dialect &dialect)
 ReportDescription::Rows queryRows(const ReportQuery &parts)
 {
     return [parts](Engine::Database &database, const ReportDescription &report, const ReportSelection &selection) {
-        std::unique_ptr<Engine::Query> query = openQuery(database, parts, selection);
+        std::unique_ptr<Engine::Query> query = openReportQuery(database, parts, selection);
         Engine::Query &set = *query;
         return std::make_unique<DataSetRows<Engine::Query>>(std::move(query), set, report.layout);
     };
 }
 
-std::unique_ptr<Engine::Query> openQuery(Engine::Database &database, const ReportQuery &parts,
-                                         const ReportSelection &selection)
+std::unique_ptr<Engine::Query> openReportQuery(Engine::Database &database, const ReportQuery &parts,
+                                               const ReportSelection &selection)
 {
     const Choices choices{{u"Location"_s, selection.warehouseId},
                           {u"ItemType"_s, selection.itemTypeId},

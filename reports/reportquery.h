@@ -30,7 +30,7 @@ struct ReportQuery
 ReportDescription::Rows queryRows(const ReportQuery &parts);
 
 // For sources that add to it: open, narrowed to what is selected.
-std::unique_ptr<Engine::Query> openQuery(Engine::Database &database, const ReportQuery &parts,
-                                         const ReportSelection &selection);
+std::unique_ptr<Engine::Query> openReportQuery(Engine::Database &database, const ReportQuery &parts,
+                                               const ReportSelection &selection);
 
 } // namespace Tallymere

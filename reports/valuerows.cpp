@@ -105,10 +105,10 @@ private:
 
 ReportDescription::Rows valueRows(const ReportQuery &balances)
 {
-    return
-        [balances](Engine::Database &database, const ReportDescription &report, const ReportSelection &selection) {
-            return std::make_unique<ValueRows>(database, openQuery(database, balances, selection), report.layout);
-        };
+    return [balances](Engine::Database &database, const ReportDescription &report,
+                      const ReportSelection &selection) {
+        return std::make_unique<ValueRows>(database, openReportQuery(database, balances, selection), report.layout);
+    };
 }
 
 } // namespace Tallymere

@@ -5690,6 +5690,18 @@ Klicken Sie, um wieder alle Datensätze zu zeigen.</translation>
         <source>&amp;Records</source>
         <translation>Daten&amp;sätze</translation>
     </message>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>S&amp;ortierung</translation>
+    </message>
+    <message>
+        <source>&amp;Item no.</source>
+        <translation>&amp;Artikelnr.</translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation>&amp;Beschreibung</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::TFormAboutTallymereSystem</name>
@@ -6733,18 +6745,6 @@ unter %2</translation>
         <translation>&amp;Ansicht</translation>
     </message>
     <message>
-        <source>&amp;Sort by</source>
-        <translation>S&amp;ortierung</translation>
-    </message>
-    <message>
-        <source>&amp;Item no.</source>
-        <translation>&amp;Artikelnr.</translation>
-    </message>
-    <message>
-        <source>&amp;Description</source>
-        <translation>&amp;Beschreibung</translation>
-    </message>
-    <message>
         <source>&amp;History</source>
         <translation>Be&amp;wegungen</translation>
     </message>
@@ -7296,18 +7296,6 @@ Möchten Sie die Adresse ändern?</translation>
     <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;Sort by</source>
-        <translation>S&amp;ortierung</translation>
-    </message>
-    <message>
-        <source>&amp;Item no.</source>
-        <translation>&amp;Artikelnr.</translation>
-    </message>
-    <message>
-        <source>D&amp;escription</source>
-        <translation>Be&amp;schreibung</translation>
     </message>
     <message>
         <source>Stock As Of &amp;Help</source>

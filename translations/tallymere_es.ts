@@ -5690,6 +5690,18 @@ Haga clic para volver a mostrar todos los registros.</translation>
         <source>&amp;Records</source>
         <translation>&amp;Registros</translation>
     </message>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>&amp;Item no.</source>
+        <translation>&amp;N.º de artículo</translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation>&amp;Descripción</translation>
+    </message>
 </context>
 <context>
     <name>Tallymere::TFormAboutTallymereSystem</name>
@@ -6733,18 +6745,6 @@ al %2</translation>
         <translation>&amp;Ver</translation>
     </message>
     <message>
-        <source>&amp;Sort by</source>
-        <translation>&amp;Ordenar por</translation>
-    </message>
-    <message>
-        <source>&amp;Item no.</source>
-        <translation>&amp;N.º de artículo</translation>
-    </message>
-    <message>
-        <source>&amp;Description</source>
-        <translation>&amp;Descripción</translation>
-    </message>
-    <message>
         <source>&amp;History</source>
         <translation>&amp;Historial</translation>
     </message>
@@ -7296,18 +7296,6 @@ Do you want to change it?</source>
     <message>
         <source>&amp;View</source>
         <translation>&amp;Ver</translation>
-    </message>
-    <message>
-        <source>&amp;Sort by</source>
-        <translation>&amp;Ordenar por</translation>
-    </message>
-    <message>
-        <source>&amp;Item no.</source>
-        <translation>&amp;N.º de artículo</translation>
-    </message>
-    <message>
-        <source>D&amp;escription</source>
-        <translation>D&amp;escripción</translation>
     </message>
     <message>
         <source>Stock As Of &amp;Help</source>

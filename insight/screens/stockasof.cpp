@@ -1,6 +1,5 @@
 #include "insight/screens/stockasof.h"
 
-#include "controls/screens/listbuttons.h"
 #include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
@@ -15,8 +14,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 namespace {
-
-const auto historyScreen = u"frmInvHistory"_s;
 
 class StockAsOfFilter final : public StockFilterDialog
 {
@@ -41,14 +38,7 @@ TfrmStockAsOf::TfrmStockAsOf(ScreenContext &context, QWidget *parent)
     const Period last = periodBefore(defaultPeriod(context.data.databaseTallymere(), context.data.today()));
     m_view.setTime({.day = {}, .year = last.year, .period = last.number});
     m_view.open();
-    const auto history = [this] {
-        const Engine::Query &row = m_view.query();
-        if (!row.isEmpty() && this->context().knows(historyScreen))
-            showListFiltered(this->context(), {historyScreen, u"InvHistory/Inventory History"_s},
-                             {{Fields::ItemID, row.integer(Fields::ItemID)},
-                              {Fields::WarehouseID, row.integer(Fields::WarehouseID)}});
-    };
-    build(description(), m_view.query(), history);
+    build(description(), m_view.query(), showsHistory());
     m_sum.emplace(
         m_view.query(), [this](const QString &value) { showSum(tr("At today's cost"), value); },
         [this](int item, int location) { return m_view.quantityThen(item, location); });
@@ -59,7 +49,6 @@ TfrmStockAsOf::~TfrmStockAsOf() = default;
 
 ListDescription TfrmStockAsOf::description()
 {
-    const auto sorts = [this](TotalsView::Sort sort) { return [this, sort] { sortBy(sort); }; };
     std::function<void()> print;
     if (context().printList)
         print = [this] { mnuPrintClick(); };
@@ -93,25 +82,11 @@ ListDescription TfrmStockAsOf::description()
                      .run = [this] { mnuTimeClick(); },
                      .glyph = Glyph::Calendar},
                     stockFilterCommand(),
-                    {.name = u"mnuSortBy"_s,
-                     .caption = tr("&Sort by"),
-                     .choices = {{.name = u"mnuSortItemNo"_s,
-                                  .caption = tr("&Item no."),
-                                  .run = sorts(TotalsView::Sort::ItemNo)},
-                                 {.name = u"mnuSortDescription"_s,
-                                  .caption = tr("D&escription"),
-                                  .run = sorts(TotalsView::Sort::Description)}}},
+                    stockSortCommand([this](TotalsView::Sort sort) { m_view.setSort(sort); }),
                     refreshCommand()}},
                   helpMenu(tr("Stock As Of &Help"))},
         .emptyHint = tr("No stock yet. What is received shows here when the receipt has been posted."),
     };
-}
-
-void TfrmStockAsOf::sortBy(TotalsView::Sort sort)
-{
-    const WaitCursor hourglass;
-    m_view.setSort(sort);
-    m_view.query().first();
 }
 
 StockFilterDialog *TfrmStockAsOf::makeFilterDialog()

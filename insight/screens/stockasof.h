@@ -25,7 +25,6 @@ protected:
 
 private:
     ListDescription description();
-    void sortBy(TotalsView::Sort sort);
     void showTime(const StockTime &time);
 
     StockAsOfView m_view;

@@ -1,7 +1,5 @@
 #include "transactions/screens/invtotals.h"
 
-#include "controls/screens/listbuttons.h"
-#include "controls/windows/screenmetrics.h"
 #include "data/datamodule.h"
 #include "data/fields.h"
 #include "transactions/screens/invtotalsfilter.h"
@@ -11,7 +9,6 @@ using namespace Qt::StringLiterals;
 namespace Tallymere {
 
 namespace {
-const auto historyScreen = u"frmInvHistory"_s;
 const auto stockAsOfScreen = u"frmStockAsOf"_s;
 } // namespace
 
@@ -20,7 +17,7 @@ TfrmInvTotals::TfrmInvTotals(ScreenContext &context, QWidget *parent)
     , m_view(context.data.readingDatabase(), TotalsView::Figures::All)
 {
     m_view.open();
-    build(description(), m_view.query(), [this] { mnuHistoryClick(); });
+    build(description(), m_view.query(), showsHistory());
     m_sum.emplace(m_view.query(), [this](const QString &value) { showSum(tr("Value"), value); });
 }
 
@@ -28,10 +25,6 @@ TfrmInvTotals::~TfrmInvTotals() = default;
 
 ListDescription TfrmInvTotals::description()
 {
-    const auto sorts = [this](TotalsView::Sort sort) { return [this, sort] { sortBy(sort); }; };
-    std::function<void()> history;
-    if (context().knows(historyScreen))
-        history = [this] { mnuHistoryClick(); };
     std::function<void()> stockAsOf;
     if (context().knows(stockAsOfScreen))
         stockAsOf = [this] { context().openScreen(stockAsOfScreen); };
@@ -50,34 +43,21 @@ ListDescription TfrmInvTotals::description()
                     {.field = TotalsView::LastMoved, .title = tr("Last moved"), .width = 90, .setOff = true},
                     {.field = TotalsView::LastCounted, .title = tr("Last counted"), .width = 100, .setOff = true}},
         .buttons = stockButtons(),
-        .menus = {fileMenu(u"TrptInvTotals"_s),
-                  stockRecordsMenu(),
-                  {tr("&View"),
-                   {stockFilterCommand(),
-                    {.name = u"mnuSortBy"_s,
-                     .caption = tr("&Sort by"),
-                     .choices = {{.name = u"mnuSortItemNo"_s,
-                                  .caption = tr("&Item no."),
-                                  .run = sorts(TotalsView::Sort::ItemNo)},
-                                 {.name = u"mnuSortDescription"_s,
-                                  .caption = tr("&Description"),
-                                  .run = sorts(TotalsView::Sort::Description)}}},
-                    {.name = u"mnuHistory"_s, .caption = tr("&History"), .run = history, .glyph = Glyph::History},
-                    {.name = u"mnuStockAsOf"_s,
-                     .caption = tr("Stock &as of..."),
-                     .run = stockAsOf,
-                     .glyph = Glyph::Calendar},
-                    refreshCommand()}},
-                  helpMenu(tr("Inventory Totals &Help"))},
+        .menus =
+            {fileMenu(u"TrptInvTotals"_s),
+             stockRecordsMenu(),
+             {tr("&View"),
+              {stockFilterCommand(),
+               stockSortCommand([this](TotalsView::Sort sort) { m_view.setSort(sort); }),
+               {.name = u"mnuHistory"_s, .caption = tr("&History"), .run = showsHistory(), .glyph = Glyph::History},
+               {.name = u"mnuStockAsOf"_s,
+                .caption = tr("Stock &as of..."),
+                .run = stockAsOf,
+                .glyph = Glyph::Calendar},
+               refreshCommand()}},
+             helpMenu(tr("Inventory Totals &Help"))},
         .emptyHint = tr("No stock yet. What is received shows here when the receipt has been posted."),
     };
-}
-
-void TfrmInvTotals::sortBy(TotalsView::Sort sort)
-{
-    const WaitCursor hourglass;
-    m_view.setSort(sort);
-    m_view.query().first();
 }
 
 StockFilterDialog *TfrmInvTotals::makeFilterDialog() { return new TfrmInvTotalsFilter(context(), this); }
@@ -86,16 +66,6 @@ void TfrmInvTotals::showWaiting()
 {
     static_cast<TfrmInvTotalsFilter &>(filterDialog()).chooseBelowZero();
     applyFilter(TotalsView::belowZero());
-}
-
-void TfrmInvTotals::mnuHistoryClick()
-{
-    const Engine::Query &row = m_view.query();
-    if (row.isEmpty() || !context().knows(historyScreen))
-        return;
-    showListFiltered(
-        context(), {historyScreen, u"InvHistory/Inventory History"_s},
-        {{Fields::ItemID, row.integer(Fields::ItemID)}, {Fields::WarehouseID, row.integer(Fields::WarehouseID)}});
 }
 
 void TfrmInvTotals::showStep()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "transactions/books/totalsview.h"
 #include "transactions/screens/stockvaluesum.h"
 #include "transactions/screens/stockviewscreen.h"
 
@@ -16,7 +15,6 @@ public:
     ~TfrmInvTotals() override;
 
     void showWaiting() override; // what is below zero
-    void mnuHistoryClick(); // of the current item at its location
 
 protected:
     StockFilterDialog *makeFilterDialog() override;
@@ -24,7 +22,6 @@ protected:
 
 private:
     ListDescription description();
-    void sortBy(TotalsView::Sort sort);
 
     TotalsView m_view;
     std::optional<StockValueSum> m_sum;

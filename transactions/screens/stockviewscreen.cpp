@@ -1,5 +1,8 @@
 #include "transactions/screens/stockviewscreen.h"
 
+#include "controls/screens/listbuttons.h"
+#include "controls/windows/screenmetrics.h"
+#include "data/fields.h"
 #include "master/screens/itemsfind.h"
 #include "transactions/screens/stockfilterdialog.h"
 
@@ -26,6 +29,38 @@ ListCommand StockViewScreen::stockFilterCommand()
                                   applyFilter(chosenExpression());
                                   showStep();
                               }});
+}
+
+ListCommand StockViewScreen::stockSortCommand(const std::function<void(TotalsView::Sort)> &setSort)
+{
+    const auto sorts = [this, setSort](TotalsView::Sort sort) {
+        return [this, setSort, sort] {
+            const WaitCursor hourglass;
+            setSort(sort);
+            dataSet().first();
+        };
+    };
+    return {.name = u"mnuSortBy"_s,
+            .caption = tr("&Sort by"),
+            .choices = {
+                {.name = u"mnuSortItemNo"_s, .caption = tr("&Item no."), .run = sorts(TotalsView::Sort::ItemNo)},
+                {.name = u"mnuSortDescription"_s,
+                 .caption = tr("&Description"),
+                 .run = sorts(TotalsView::Sort::Description)}}};
+}
+
+std::function<void()> StockViewScreen::showsHistory()
+{
+    const ListJump history{u"frmInvHistory"_s, u"InvHistory/Inventory History"_s};
+    if (!context().knows(history.screen))
+        return {};
+    return [this, history] {
+        const Engine::DataSet &row = dataSet();
+        if (!row.isEmpty())
+            showListFiltered(context(), history,
+                             {{Fields::ItemID, row.integer(Fields::ItemID)},
+                              {Fields::WarehouseID, row.integer(Fields::WarehouseID)}});
+    };
 }
 
 StockFilterDialog &StockViewScreen::stockFilter() { return static_cast<StockFilterDialog &>(filterDialog()); }

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "controls/screens/listscreen.h"
+#include "transactions/books/totalsview.h"
+
+#include <functional>
 
 namespace Tallymere {
 
@@ -24,6 +27,9 @@ protected:
     QList<ListButton> stockButtons() const;
     ListMenu stockRecordsMenu();
     ListCommand stockFilterCommand();
+    ListCommand stockSortCommand(const std::function<void(TotalsView::Sort)> &setSort);
+
+    std::function<void()> showsHistory(); // of the current item at its location; empty where there is no such list
 
     void presetFilterDialog(const QList<KeyOfField> &keys) override;
 
