@@ -2,7 +2,6 @@
 
 #include "tests/support/bothstores.h"
 
-#include <QApplication>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QThread>

@@ -3,8 +3,6 @@
 #include "tests/support/files.h"
 #include "tests/support/screentest.h"
 
-#include <QFrame>
-
 using namespace Qt::StringLiterals;
 using namespace Tallymere;
 

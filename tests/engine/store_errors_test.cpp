@@ -5,7 +5,6 @@
 #include "tests/support/files.h"
 #include "tests/support/relay.h"
 
-#include <QScopeGuard>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>

@@ -257,8 +257,9 @@ void WindowWalk::chooseAll()
 }
 
 // A dialog that stayed would hold the windows behind it.
-QStringList WindowWalk::end()
+QStringList WindowWalk::chooseAllAndClose()
 {
+    chooseAll();
     if (m_window)
         m_window->hide();
     return m_steps;
@@ -269,13 +270,11 @@ QStringList WindowWalk::run()
     begin();
     useEach<QToolButton>([](QToolButton &button) { button.click(); }); // beside fields, with what stands in them
     typeEverywhere();
-    chooseAll();
-    return end();
+    return chooseAllAndClose();
 }
 
 QStringList WindowWalk::runCommands()
 {
     begin();
-    chooseAll();
-    return end();
+    return chooseAllAndClose();
 }

@@ -30,8 +30,8 @@ private:
     template <typename Control, typename Act> void use(const QPointer<Control> &control, Act act);
     template <typename Control, typename Act> void useEach(Act act);
     void begin();
-    QStringList end();
     void chooseAll();
+    QStringList chooseAllAndClose();
     void typeEverywhere();
     void sendAway(QWidget *dialog);
 
