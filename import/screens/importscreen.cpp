@@ -63,7 +63,10 @@ TfrmImport::TfrmImport(ScreenContext &context, ImportPlan plan, QWidget *parent)
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-TfrmImport::~TfrmImport() = default;
+TfrmImport::~TfrmImport()
+{
+    m_ui->spinHead->disconnect(this); // destroyed with the keyboard in it, it would still tell of its end
+}
 
 void TfrmImport::fillSheets()
 {

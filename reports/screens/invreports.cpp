@@ -51,7 +51,12 @@ TfrmInvReports::TfrmInvReports(ScreenContext &context, QWidget *parent)
     btnBackClick();
 }
 
-TfrmInvReports::~TfrmInvReports() = default;
+TfrmInvReports::~TfrmInvReports()
+{
+    // Destroyed with the keyboard in one of them, it would still tell of its end.
+    m_ui->editGLPeriod->disconnect(this);
+    m_ui->editGLYear->disconnect(this);
+}
 
 void TfrmInvReports::connectControls()
 {
