@@ -304,8 +304,11 @@ void FieldBinder::leave(FieldBinding &binding)
     QMetaObject::invokeMethod(
         this,
         [this, widget, column, failure, stays] {
-            m_guard.focus(column); // on a page that may be behind others by now
-            widget->setFocus();
+            {
+                const TakingBack takingBack;
+                m_guard.focus(column); // on a page that may be behind others by now
+                widget->setFocus();
+            }
             if (Guard::isRefusal(failure))
                 FieldMark::refuse(*widget);
             m_guard.report(failure);
@@ -342,6 +345,8 @@ bool FieldBinder::eventFilter(QObject *watched, QEvent *event)
         if (handsEntryOver(*static_cast<QFocusEvent *>(event))) {
             m_kept = nullptr;
             leave(*binding);
+            binding->setActive(false);
+        } else if (TakingBack::isOn()) {
             binding->setActive(false);
         } else {
             m_kept = binding;

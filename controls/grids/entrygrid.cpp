@@ -152,7 +152,7 @@ void EntryGrid::editorLeft(Qt::FocusReason reason)
 {
     if (!m_editor || m_reporting || comesBack(reason))
         return;
-    if (dropsEntry(QApplication::focusWidget())) {
+    if (TakingBack::isOn() || dropsEntry(QApplication::focusWidget())) {
         dropEntry();
         return;
     }

@@ -3,6 +3,7 @@
 #include "base/origintext.h"
 #include "controls/grids/figuresline.h"
 #include "controls/windows/elidedlabel.h"
+#include "controls/windows/originlabel.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/sumlabel.h"
 #include "engine/store/database.h"
@@ -68,16 +69,7 @@ void ListStatus::setSum(const QString &label, const QString &figure)
 void ListStatus::showOrigin()
 {
     Engine::Database &database = m_grid.tableModel()->dataSet().database();
-    const QString text = database.isOpen() ? originText(database.connection().origin()) : QString();
-    if (!m_origin && text.isEmpty())
-        return;
-    if (!m_origin) {
-        m_origin = new QLabel(&m_bar);
-        m_origin->setObjectName(u"lblOrigin"_s);
-        m_origin->setTextFormat(Qt::PlainText);
-        m_bar.addPermanentWidget(m_origin);
-    }
-    m_origin->setText(text);
+    tellOrigin(m_bar, database.isOpen() ? originText(database.connection().origin()) : QString());
 }
 
 // That the rows are being read is said where it takes more than a moment.

@@ -39,7 +39,6 @@ private:
     ElidedLabel *m_search;
     FiguresLine *m_figures;
     SumLabel *m_sum = nullptr; // of a list that tells one
-    QLabel *m_origin = nullptr; // of a list that a standby server may be read for
 };
 
 } // namespace Tallymere

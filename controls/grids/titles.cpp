@@ -22,7 +22,6 @@ Titles::Titles(DataGrid *grid)
 {
     setSectionsClickable(true);
     setHighlightSections(false);
-    setSectionsMovable(false);
     takeFont();
 }
 

@@ -3,7 +3,6 @@
 #include "base/ruleerror.h"
 #include "data/layouts.h"
 #include "engine/records/query.h"
-#include "host/sample/largekitchen.h"
 #include "host/sample/samplefiles.h"
 #include "host/sample/texts.h"
 #include "transactions/documents/documentkinds.h"
@@ -64,13 +63,13 @@ void fillSmallKitchen(TDataModuleTallymere &data, Prompts &prompts, Progress &pr
     transaction.commit();
 }
 
-void fillLargeKitchen(TDataModuleTallymere &data, quint64 seed, Progress &progress)
+void fillLargeKitchen(TDataModuleTallymere &data, quint64 seed, Progress &progress, LargeKitchen::Size size)
 {
     requireDollars(data.databaseTallymere());
     Engine::Transaction transaction(data.databaseTallymere().connection());
     requireEmpty(data.databaseTallymere());
     bringInSampleMasters(data, progress);
-    LargeKitchen(data.databaseTallymere(), seed, {}).fill(progress);
+    LargeKitchen(data.databaseTallymere(), seed, size).fill(progress);
     transaction.commit();
 }
 

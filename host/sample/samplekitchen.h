@@ -2,6 +2,7 @@
 
 #include "base/prompts.h"
 #include "data/datamodule.h"
+#include "host/sample/largekitchen.h"
 
 namespace Tallymere {
 
@@ -10,6 +11,6 @@ namespace Tallymere {
 // A year of documents of all kinds, posted but for the last days'.
 void fillSmallKitchen(TDataModuleTallymere &data, Prompts &prompts, Progress &progress);
 // A million rows of history; the same seed gives the same.
-void fillLargeKitchen(TDataModuleTallymere &data, quint64 seed, Progress &progress);
+void fillLargeKitchen(TDataModuleTallymere &data, quint64 seed, Progress &progress, LargeKitchen::Size size = {});
 
 } // namespace Tallymere

@@ -2,6 +2,7 @@
 
 #include "base/plural.h"
 #include "base/savedfile.h"
+#include "controls/windows/originlabel.h"
 #include "controls/windows/progressbox.h"
 #include "controls/windows/screenmetrics.h"
 #include "controls/windows/typing.h"
@@ -54,7 +55,7 @@ TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::Repor
     scaleForm(this);
     m_found->setObjectName(u"lblFound"_s);
     m_ui->statusBar->addWidget(m_found, 1);
-    showOrigin();
+    tellOrigin(*m_ui->statusBar, m_run->origin());
     m_ui->btnSave->setVisible(bool(context.chooseFileToSave));
     m_ui->QRPreview1->setRun(m_run.get());
     connectControls();
@@ -64,17 +65,6 @@ TfrmPreview::TfrmPreview(ScreenContext &context, std::unique_ptr<Printing::Repor
 }
 
 TfrmPreview::~TfrmPreview() = default;
-
-void TfrmPreview::showOrigin()
-{
-    if (m_run->origin().isEmpty())
-        return;
-    auto *origin = new QLabel(this);
-    origin->setObjectName(u"lblOrigin"_s);
-    origin->setTextFormat(Qt::PlainText);
-    origin->setText(m_run->origin());
-    m_ui->statusBar->addPermanentWidget(origin);
-}
 
 // In two rows where one would be wider than the screen.
 void TfrmPreview::fitCommands()

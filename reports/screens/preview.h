@@ -54,7 +54,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void showOrigin();
     void fitCommands();
     void connectControls();
     void makePages();

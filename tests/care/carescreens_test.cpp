@@ -91,7 +91,7 @@ TEST_P(CareScreensTest, ABackupOfTheScreenComesBackIntoAnEmptyFolder)
     EXPECT_EQ(prompts.said, QStringList());
 
     const QTemporaryDir target;
-    TfrmRestore restore(prompts, u"anna"_s, mainWindow.get());
+    TfrmRestore restore(prompts, u"anna"_s, mainWindow.get(), &settings);
     showActive(restore);
     child<QLineEdit>(restore, "editFile")->setText(file);
     typeOver(restore, "editFolder", "/nowhere");
@@ -100,7 +100,7 @@ TEST_P(CareScreensTest, ABackupOfTheScreenComesBackIntoAnEmptyFolder)
     EXPECT_TRUE(has(answerTo(restore, "btnRestore"), u"has been restored into "_s + target.path()));
     EXPECT_TRUE(QFileInfo::exists(target.filePath(u"Corvane.sqlite"_s)));
     EXPECT_FALSE(restore.isVisible());
-    TDataModuleTallymere restored(settings, prompts, {.dataFolder = target.path()});
+    TDataModuleTallymere restored(settings, prompts, {}); // as it was agreed to
     EXPECT_EQ(rowsOf(restored.databaseTallymere(), u"SELECT \"user\" FROM History"_s), QStringList{u"anna"_s});
 }
 

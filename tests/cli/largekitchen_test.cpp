@@ -1,6 +1,5 @@
 #include "care/bookcheck.h"
-#include "host/sample/largekitchen.h"
-#include "host/sample/samplefiles.h"
+#include "host/sample/samplekitchen.h"
 #include "host/tables/hosttables.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/dataplace.h"
@@ -22,8 +21,7 @@ QStringList booksOf(Store store, std::uint64_t seed)
     };
     Tallymere::TDataModuleTallymere data(settings, prompts, options);
     CountedProgress progress;
-    Tallymere::bringInSampleMasters(data, progress);
-    Tallymere::LargeKitchen(data.databaseTallymere(), seed, {.items = 700, .historyRows = 20'000}).fill(progress);
+    Tallymere::fillLargeKitchen(data, seed, progress, {.items = 700, .historyRows = 20'000});
     Tallymere::checkBooks(data.databaseTallymere(), progress, [](const Tallymere::BookCheck &check, auto &&) {
         ADD_FAILURE() << check.title.toStdString();
     });

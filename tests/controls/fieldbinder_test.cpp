@@ -173,6 +173,19 @@ TEST_F(FieldBinderTest, refusedEntryIsShownAndKeepsTheCursor)
     EXPECT_EQ(table.money(u"Cost"), Engine::Money::fromDouble(2.5));
 }
 
+TEST_F(FieldBinderTest, whatIsTypedElsewhereBeforeARefusalIsToldIsJudgedLater)
+{
+    typeIn(form, "editName", "Stone");
+    auto *cost = child<QLineEdit>(form, "editCost");
+    cost->setFocus();
+    QTest::keyClicks(cost, u"two"_s);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(prompts.told(), u"error: Nobody eats that"_s);
+    EXPECT_EQ(focusName() + cost->text(), u"editNametwo"_s);
+    type("Stew");
+    EXPECT_THROW(binder.commit(), RuleError);
+}
+
 TEST_F(FieldBinderTest, anEmptiedNoteIsNone)
 {
     boundAlone<QPlainTextEdit>(u"Name"_s)->clear();

@@ -96,6 +96,11 @@ TEST_P(Tables, UniqueNumbersAreTheLastOneHandedOutPlusOne)
     store.execute(u"UPDATE VendCtl SET NextVendorNo = 2147483647"_s);
     EXPECT_THROW(getUniqueID(counter, u"NextVendorNo"_s), EngineError) << "there is no number after the last";
     EXPECT_FALSE(counter.isOpen());
+    Engine::Query stored(store.database(), u"SELECT 'SELECT ' || :Query_Name AS Query_Lines"_s);
+    for (const QString &name : {u"7"_s, u"8"_s})
+        EXPECT_EQ(getSQLString(stored, name), u"SELECT "_s + name);
+    EXPECT_FALSE(stored.isOpen());
+    EXPECT_TRUE(openQuery(stored) && stored.isOpen());
 }
 
 TEST_P(Tables, UniqueNumbersWaitForARowThatIsLocked)

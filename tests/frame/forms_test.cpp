@@ -5,6 +5,7 @@
 #include "controls/windows/filechoice.h"
 #include "controls/windows/messageboxes.h"
 #include "controls/windows/mnemonics.h"
+#include "controls/windows/originlabel.h"
 #include "controls/windows/progressbox.h"
 #include "controls/windows/windowrules.h"
 #include "frame/figurebutton.h"
@@ -12,11 +13,13 @@
 #include "frame/frmtallymeresystem.h"
 #include "frame/helpwindow.h"
 #include "frame/mainoptionsinv.h"
+#include "frame/messageformtallymere.h"
 #include "host/aboutbox.h"
 #include "host/companybox.h"
 #include "host/hostlook.h"
 #include "host/hostwindow.h"
 #include "import/importrows.h"
+#include "import/screens/importdesk.h"
 #include "import/screens/importscreen.h"
 #include "insight/screens/costtrailscreen.h"
 #include "insight/screens/itemcard.h"
@@ -229,7 +232,8 @@ struct FormsTest : testing::Test
         over.fill();
         over.context.settings = &over.company.settings;
         Engine::Database &database = over.data.databaseTallymere();
-        database.connection().execute(u"UPDATE Warehse SET WarehouseName = '[Cellar]'"_s);
+        database.connection().execute(
+            u"UPDATE Warehse SET WarehouseName = '[Cellar]'; INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (1, 1, 700)"_s);
         addDocuments(1, 14, u"12, 2.5"_s, u"2, 3"_s);
         CountedProgress progress;
         for (const DocumentKind *kind : DocumentKinds::all())
@@ -237,7 +241,6 @@ struct FormsTest : testing::Test
         addDocuments(2, 18, u"4, 3"_s, u"1, 2"_s);
         database.connection().execute(uR"(
             UPDATE Vendor SET Phone = '555-1234', EMail = 'a&b?@first.example', WebPage = 'first.example';
-            INSERT INTO IBalance (ItemID, WarehouseID, QtyOnHand) VALUES (1, 1, 700);
             INSERT INTO VContact (VendorID, ContactID, LastName, BusinessPhone, EMail)
                 VALUES (1, 7, '7', '555-7', '7@first.example'), (2, 8, '8', NULL, NULL);
             INSERT INTO IBarcode (BarcodeID, ItemID, Barcode) VALUES (1, 1, '4001');
@@ -303,7 +306,7 @@ struct FormsTest : testing::Test
         StockCount count(database, over.context.prompts);
         TfrmPhoneCount phones(
             over.context, std::make_unique<StockCountDesk>(database, count, u"Office"_s, StockCountDesk::Screen{}),
-            u"Office"_s, {QHostAddress(QHostAddress::LocalHost)}, &mainWindow);
+            u"Office"_s, {QHostAddress(u"127.0.0.1"_s), QHostAddress(u"127.0.0.2"_s)}, &mainWindow);
         phones.findChild<QLineEdit *>(u"edtLink"_s)->clear(); // another one each time
         const ItemCard known = itemCard(database, 1);
         TfrmItemCard card(over.context, known, &mainWindow);
@@ -332,6 +335,7 @@ struct FormsTest : testing::Test
         TfrmImport import(over.context, ImportPlan(*findImportKind(u"items"_s), file.fileName()), &mainWindow);
         showReportOnScreen(over.context, *ReportList::find(u"TrptItems"_s), {}, &mainWindow);
         auto &preview = *mainWindow.findChild<QWidget *>(u"frmPreview"_s);
+        tellOrigin(*child<QStatusBar>(preview, "statusBar"), u"[As of 12:00:00]"_s);
         auto &items = static_cast<ListScreen &>(*screens.find(u"frmItemsInv"_s)->create(over.context, &mainWindow));
         items.applyFilter(u"(ItemID > 0)"_s);
         EXPECT_TRUE(whileOpen<QDialog>([&] { items.command(u"mnuFind"_s)->trigger(); }, visit));
@@ -344,12 +348,15 @@ struct FormsTest : testing::Test
         const ProgressBox progress(&mainWindow, u"[Saving]"_s);
         QWidget &saving = *mainWindow.findChild<QWidget *>(u"dlgProgress"_s);
         saving.findChild<QTimer *>()->stop(); // which shows it while a slow machine walks
+        TFormMessageInventorySystem message(&mainWindow);
+        message.start(7);
+        message.step();
         HelpWindow help(std::make_unique<ManualCollection>(), over.company.settings, mainWindow);
         for (const char *list : {"contents", "index"}) // which come when they have been read
             EXPECT_TRUE(comesTrue([&] { return child<QAbstractItemView>(help, list)->model()->rowCount() > 0; }));
         for (QWidget *window :
-             QWidgetList{&help, &saving, &preview, &import, &settings, &system, &date, &time, &filters, &barcodes,
-                         &copy, &differences, &phones, &card, &trail, &paste})
+             QWidgetList{&help, &saving, &message, &preview, &import, &settings, &system, &date, &time, &filters,
+                         &barcodes, &copy, &differences, &phones, &card, &trail, &paste})
             visit(*window);
     }
 
@@ -413,17 +420,10 @@ struct FormsTest : testing::Test
             current->note(u"asks for a file"_s);
             return agrees ? files.filePath(u"saved."_s + choice.suffix) : QString();
         };
-        over.context.importFile = [&current](const QString &kind, const QString &file, QWidget *) {
-            current->note(u"imports "_s + kind + u' ' + timeless(file));
-            return true;
-        };
-        over.context.takeBackImport = [&current](const QString &kind, QWidget *) {
-            current->note(u"takes back "_s + kind);
-            return true;
-        };
-        over.context.saveForImport = [&current](const QString &kind, const QString &, QWidget *) {
-            current->note(u"saves "_s + kind);
-        };
+        ImportDesk desk(over.context);
+        over.context.importFile = [&](const auto &...given) { return desk.import(given...); };
+        over.context.takeBackImport = [&](const auto &...given) { return desk.takeBack(given...); };
+        over.context.saveForImport = [&](const auto &...given) { desk.saveForImport(given...); };
         over.context.printList = [&current](const QString &report, const QString &filter, const QString &order) {
             current->note(u"prints "_s + report + u' ' + filter + u' ' + order);
         };

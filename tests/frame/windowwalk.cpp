@@ -204,15 +204,19 @@ void WindowWalk::typeEverywhere()
         };
         go(u"click"_s, [&] { click(*field, &QTest::mouseClick); });
         go(u"double click"_s, [&] { click(*field, &QTest::mouseDClick); });
-        for (const char *keys :
-             {"7", "<Up>", "<Down>", "a<Return>", "<Delete>", "<Ctrl+A><Delete><Up><Down>", "<Home>", "<Ctrl+I>",
-              "<F3>", "<F5>", "<Ctrl+Return>", "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
+        for (const char *keys : {"7", "<Up>", "<Down>", "a<Return>", "<Delete>", "<Ctrl+A><Delete><Up><Down>",
+                                 "<Home>", "<Right>", "<Left>", "<Ctrl+I>", "<F3>", "<F5>", "<Ctrl+Return>",
+                                 "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
             go(QString::fromLatin1(keys), [&] { type(keys); });
         if (qobject_cast<Tallymere::DatePicker *>(field))
             go(u"day without a year"_s, [] { type("<Ctrl+A>3/7<Return>"); });
         if (auto *area = qobject_cast<QAbstractScrollArea *>(field))
             go(u"Ctrl+wheel"_s, [area] { turnWheel(*area->viewport()); });
         auto *grid = qobject_cast<Tallymere::DataGrid *>(field);
+        QInputMethodEvent composed;
+        composed.setCommitString(u"r"_s);
+        if (grid)
+            go(u"composed letter"_s, [&] { QApplication::sendEvent(grid, &composed); });
         for (int column = 0; grid && column < grid->model()->columnCount(); ++column) {
             if (!grid->isColumnHidden(column))
                 go(u"title %1"_s.arg(column), [&] { clickTitle(*grid->horizontalHeader(), column); });

@@ -116,6 +116,7 @@ ON_BOTH_STORES(PhoneCountTest);
 TEST_P(PhoneCountTest, NothingButThePageIsReachable)
 {
     std::optional<PhoneServer> server(std::in_place, *desk, QHostAddress(QHostAddress::LocalHost), u"Office"_s);
+    EXPECT_EQ(server->certificate().subjectAlternativeNames().value(QSsl::IpAddressEntry), u"127.0.0.1"_s);
     const quint16 port = server->port();
     const QByteArray host = "127.0.0.1:" + QByteArray::number(port);
     const QByteArray link = server->newLink().section(u'/', 3).toLatin1();

@@ -353,11 +353,15 @@ TEST_F(CountScreenTest, OffersWhatHasBeenLeft)
     EXPECT_EQ(focusName(), u"wwDBGridInventory"_s) << "at what is counted next";
     EXPECT_EQ(child<DatePicker>(*screen, "wwDBDateTimePickerInventoryDate")->date(), data->today().addDays(-2));
 
-    screen->close(); // and keeps it
-    settle();
-    open();
-    prompts.answer = Answer::No;
-    choose(u"Office"_s);
+    type("3");
+    for (const Answer answer : {Answer::Yes, Answer::No}) {
+        screen->close(); // and keeps it, with what stands in the cell
+        settle();
+        open();
+        prompts.answer = answer;
+        choose(u"Office"_s);
+        EXPECT_EQ(rows()[1], answer == Answer::Yes ? u"A11 5 3 -2"_s : u"A11 5 5"_s);
+    }
     EXPECT_EQ(rows().first(), u"A10 10 10"_s);
     prompts.take();
     choose(u"Office"_s);
