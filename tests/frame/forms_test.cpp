@@ -8,6 +8,7 @@
 #include "controls/windows/originlabel.h"
 #include "controls/windows/progressbox.h"
 #include "controls/windows/windowrules.h"
+#include "data/audit.h"
 #include "frame/figurebutton.h"
 #include "frame/finder/finderbox.h"
 #include "frame/frmtallymeresystem.h"
@@ -244,7 +245,11 @@ struct FormsTest : testing::Test
             INSERT INTO VContact (VendorID, ContactID, LastName, BusinessPhone, EMail)
                 VALUES (1, 7, '7', '555-7', '7@first.example'), (2, 8, '8', NULL, NULL);
             INSERT INTO IBarcode (BarcodeID, ItemID, Barcode) VALUES (1, 1, '4001');
+            INSERT INTO Currency (CurrencyID, CurrencyName, ExchangeRate) VALUES (7, '[Euro]', 1.5);
+            INSERT INTO Tax (TaxID, TaxName, TaxCode, TaxDescription, Rate) VALUES (7, '[VAT]', 'V', '[Value]', 20);
+            INSERT INTO Bank (BankID, BankName, CurrencyID) VALUES (7, '[First]', 7);
         )"_s);
+        leaveNote(database, u"[Repaired]"_s, QDate(2026, 3, 19), u"anna"_s);
     }
 
     // An unposted one of each kind: what is received (quantity and cost), and what is used (item and quantity).

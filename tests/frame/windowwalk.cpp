@@ -204,9 +204,14 @@ void WindowWalk::typeEverywhere()
         };
         go(u"click"_s, [&] { click(*field, &QTest::mouseClick); });
         go(u"double click"_s, [&] { click(*field, &QTest::mouseDClick); });
-        for (const char *keys : {"7", "<Up>", "<Down>", "a<Return>", "<Delete>", "<Ctrl+A><Delete><Up><Down>",
-                                 "<Home>", "<Right>", "<Left>", "<Ctrl+I>", "<F3>", "<F5>", "<Ctrl+Return>",
-                                 "<Ctrl+Delete>", "<Ctrl+Tab>", "<Shift+Tab>", "<Esc>"})
+        for (const char *keys : {"7",          "<Up>",          "<Down>",
+                                 "a<Return>",  "<Delete>",      " ",
+                                 "<F2>",       "<Alt+Down>",    "<Ctrl+A><Delete><Up><Down>",
+                                 "<Home>",     "<Right>",       "<Left>",
+                                 "<End>",      "<Ctrl+PgDown>", "<Ctrl+PgUp>",
+                                 "<Ctrl+C>",   "<Ctrl+I>",      "<F3>",
+                                 "<F5>",       "<Ctrl+Return>", "<Ctrl+Delete>",
+                                 "<Ctrl+Tab>", "<Shift+Tab>",   "<Esc>"})
             go(QString::fromLatin1(keys), [&] { type(keys); });
         if (qobject_cast<Tallymere::DatePicker *>(field))
             go(u"day without a year"_s, [] { type("<Ctrl+A>3/7<Return>"); });
