@@ -9,6 +9,7 @@
 #include "controls/windows/progressbox.h"
 #include "controls/windows/windowrules.h"
 #include "data/audit.h"
+#include "data/layouts.h"
 #include "frame/figurebutton.h"
 #include "frame/finder/finderbox.h"
 #include "frame/frmtallymeresystem.h"
@@ -402,8 +403,41 @@ struct FormsTest : testing::Test
         return windows;
     }
 
-    // Each command of each window leads where it led, each key does what it did; what is asked is agreed to, or not.
-    void expectSteps(bool agrees, const QString &approved)
+    // The main window in a host, and the host's own.
+    void walkHost(const std::function<void(QWidget &)> &walk)
+    {
+        HostStub host;
+        TFormTallymereSystem system({over.company.settings, over.company.prompts, screens});
+        system.init(&host);
+        QTimer::singleShot(0, &system, [&] {
+            const auto *last = system.findChild<FigureButton *>(u"todayBackup"_s);
+            EXPECT_TRUE(comesTrue([last] { return !last->figure().isEmpty(); }));
+            walk(system);
+            system.hide();
+        });
+        system.formTallymereSystemShowModal();
+        const QByteArray home = qgetenv("HOME");
+        qputenv("HOME", "/home/anna"); // which word of a folder is clicked, its length decides
+        visitHost([&walk](QWidget &window) {
+            if (auto *making = window.findChild<QAction *>(u"actionSampleCompany"_s))
+                making->setEnabled(false); // how much of it is seen, the machine decides
+            if (window.windowTitle() == u"New Company"_s)
+                child<QPushButton>(window, "btnOK")->setEnabled(false); // books that the next run would find
+            walk(window);
+        });
+        qputenv("HOME", home);
+    }
+
+    void rename(const QString &from, const QString &to)
+    {
+        for (const Engine::TableLayout *table : Layouts::applied())
+            over.data.databaseTallymere().connection().execute(
+                u"ALTER TABLE %2%1 RENAME TO %3%1"_s.arg(table->name, from, to));
+    }
+
+    // Each command of each window leads where it led, each key does what it did; what is asked is agreed to, or not. Where
+    // it fails, the tables are gone meanwhile.
+    void expectSteps(const QString &approved, bool agrees, bool fails = false)
     {
         qputenv("CUPS_SERVER", "/nonexistent"); // no printer of this machine gets anything
         over.context.printerDefined = [] { return true; };
@@ -441,34 +475,21 @@ struct FormsTest : testing::Test
             for (const QString &name : QDir(files.path()).entryList({u"*.csv"_s, u"*.xlsx"_s}, QDir::Files))
                 walks.last() += rowsOf(files.filePath(name));
         };
-        HostStub host;
-        TFormTallymereSystem system({over.company.settings, over.company.prompts, screens});
-        system.init(&host);
-        QTimer::singleShot(0, &system, [&] {
-            const auto *last = system.findChild<FigureButton *>(u"todayBackup"_s);
-            EXPECT_TRUE(comesTrue([last] { return !last->figure().isEmpty(); }));
-            walk(system);
-            system.hide();
-        });
-        system.formTallymereSystemShowModal();
-        ASSERT_EQ(walks.size(), 1);
-        const QByteArray home = qgetenv("HOME");
-        qputenv("HOME", "/home/anna"); // which word of a folder is clicked, its length decides
-        visitHost([&walk](QWidget &window) {
-            if (auto *making = window.findChild<QAction *>(u"actionSampleCompany"_s))
-                making->setEnabled(false); // how much of it is seen, the machine decides
-            if (window.windowTitle() == u"New Company"_s)
-                child<QPushButton>(window, "btnOK")->setEnabled(false); // books that the next run would find
-            walk(window);
-        });
-        qputenv("HOME", home);
+        if (!fails)
+            walkHost(walk);
         visitAll([&](QWidget &window) {
             if (auto *asking = window.findChild<QWidget *>(u"btnTakeUp"_s))
                 asking->setEnabled(agrees); // else the network, about a server called 7
             for (auto *search : window.findChildren<QWidget *>(QRegularExpression(u"^edit(Search|Find)$"_s)))
                 search->setEnabled(false); // what it finds comes later
+            window.show();
+            awaitIdle();
+            if (fails)
+                rename({}, u"X"_s);
             if (!qobject_cast<TFormTallymereSystem *>(&window)) // which needs its host
                 walk(window);
+            if (fails)
+                rename(u"X"_s, {});
         });
         expectApproved(std::move(walks), approved);
     }
@@ -620,9 +641,11 @@ TEST_F(FormsTest, WindowsComeAsTheyWereLeft)
     expectApproved(come, u"remembered"_s);
 }
 
-TEST_F(FormsTest, EveryStepLeadsWhereItWasApprovedTo) { expectSteps(false, u"steps"_s); }
+TEST_F(FormsTest, EveryStepLeadsWhereItWasApprovedTo) { expectSteps(u"steps"_s, false); }
 
-TEST_F(FormsTest, EveryStepThatIsAgreedToLeadsWhereItWasApprovedTo) { expectSteps(true, u"agreed"_s); }
+TEST_F(FormsTest, EveryStepThatIsAgreedToLeadsWhereItWasApprovedTo) { expectSteps(u"agreed"_s, true); }
+
+TEST_F(FormsTest, EveryStepThatFailsSaysWhatWasApproved) { expectSteps(u"failed"_s, true, true); }
 
 TEST_F(FormsTest, PostingByItselfShowsAnOpenListAnew)
 {

@@ -143,6 +143,7 @@ void WindowWalk::step(const QString &name, const std::function<void()> &act)
     watch.stop();
     for (const QString &said : m_prompts.take())
         m_became << u"says "_s + timeless(said);
+    m_became.removeDuplicates(); // as of several lists that cannot be read
     if (!m_window)
         return;
     if (m_window->isHidden()) {
