@@ -115,6 +115,11 @@ TEST_P(DocumentLinesTest, ALineOfAReceiptIsOfferedTheLastCostFromItsVendor)
     entry->lines().set(QString(Fields::UnitCost), Engine::Money());
     EXPECT_FALSE(entry->offerFor(Fields::UnitCost)) << "nothing is a cost as well";
     entry->cancel();
+    kitchen.execute(u"UPDATE IReceipt SET Posted = true WHERE ReceiptID = 4"_s);
+    entry->openDocument(7);
+    entry->newLine();
+    EXPECT_EQ(offered(1), u"Last cost from this vendor: 8.00, on 14 Mar 26");
+    entry->cancel();
 }
 
 struct LineStockTest : DocumentTest
