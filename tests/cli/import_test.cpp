@@ -154,6 +154,8 @@ TEST_P(Import, TakesTheSheetThatAListHasWritten)
     const QString file = folder.filePath(u"items.xlsx"_s);
     cli.output({u"list"_s, u"items"_s, u"--xlsx"_s, file});
     const QString written = cli.output("list items");
+    EXPECT_TRUE(begins(cli.output("list items --for-import"), u"ItemNo,ItemDescription,"_s));
+    EXPECT_TRUE(has(cli.errors("list items --for-import --defuse", 2), u"exclude each other"_s));
     EXPECT_TRUE(begins(cli.errors({u"import"_s, u"items"_s, file, u"--sheet"_s, u"items"_s}),
                        file
                            + u":1: Sheet 'items': The column 'ItemID' is set by the system and cannot be "

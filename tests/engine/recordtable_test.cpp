@@ -352,6 +352,9 @@ TEST_P(RecordTest, DetailsFollowTheirMaster)
     EXPECT_TRUE(lines.isEmpty()) << "the master is closed";
     documents.open();
     EXPECT_EQ(names(lines, u"Quantity"_s), u"11"_s);
+    lines.setMaster(&documents, u"Seq=DocumentID"_s);
+    EXPECT_EQ(names(lines, u"Quantity"_s), u"11 21 31"_s);
+    lines.setMaster(&documents, u"DocumentID"_s);
     documents.moveTo(2);
     EXPECT_EQ(names(lines, u"Quantity"_s), u"31 32 33"_s);
 
