@@ -435,6 +435,14 @@ struct FormsTest : testing::Test
                 u"ALTER TABLE %2%1 RENAME TO %3%1"_s.arg(table->name, from, to));
     }
 
+    // What all windows show that they did not show before.
+    QStringList shownSince(const QStringList &before = {})
+    {
+        QStringList now = windowFacts().join(u'\n').split(u'\n');
+        now.removeIf([&before](const QString &fact) { return before.contains(fact); });
+        return now;
+    }
+
     // Each command of each window leads where it led, each key does what it did; what is asked is agreed to, or not. Where
     // it fails, the tables have been gone for a while, and came back with something else in them.
     void expectSteps(const QString &approved, bool agrees, bool fails = false)
@@ -477,6 +485,7 @@ struct FormsTest : testing::Test
         };
         if (!fails)
             walkHost(walk);
+        const QStringList unused = agrees ? QStringList() : shownSince();
         visitAll([&](QWidget &window) {
             if (auto *asking = window.findChild<QWidget *>(u"btnTakeUp"_s))
                 asking->setEnabled(agrees); // else the network, about a server called 7
@@ -497,6 +506,8 @@ struct FormsTest : testing::Test
             if (left)
                 walk(window);
         });
+        if (!agrees)
+            walks << u"Afterwards\n"_s + shownSince(unused).join(u'\n');
         expectApproved(std::move(walks), approved);
     }
 

@@ -366,19 +366,19 @@ void awaitIdle()
     }));
 }
 
-// Without what another machine or another day has otherwise: its folders, the day and the time there, versions, ports.
+// Without what another machine or another day has otherwise: its folders, the day and the time there, versions, ports, secrets.
 QString timeless(QString text)
 {
     static const QRegularExpression folder(QRegularExpression::escape(QDir::tempPath()) + u"[^\\s\"]*"_s);
     static const QRegularExpression version(u"\\d+\\.\\d+\\.\\d+"_s), time(u"\\b\\d\\d?:\\d\\d\\b"_s),
-        port(u"(?<=:)\\d{4,5}\\b"_s);
+        port(u"(?<=:)\\d{4,5}\\b"_s), link(u"(?<=PORT/)\\S+"_s);
     static const QDate today = QDate::currentDate();
     text.replace(QDir::currentPath(), u"HERE"_s).replace(QDir::homePath(), u"HOME"_s).replace(folder, u"FOLDER"_s);
     for (const char *format : {"yyyy-MM-dd", "MM/dd/yyyy", "M/d/yyyy", "d MMM yy", "d MMM yyyy", "d MMMM yyyy"})
         text.replace(QLocale::c().toString(today, QLatin1StringView(format)), u"DAY"_s);
     for (const QDate &day : {today, today.addMonths(-1)}) // the periods that the calendar has
         text.replace(day.toString(u"M/yyyy"_s), u"PERIOD"_s);
-    text.replace(version, u"VERSION"_s).replace(time, u"TIME"_s).replace(port, u"PORT"_s);
+    text.replace(version, u"VERSION"_s).replace(time, u"TIME"_s).replace(port, u"PORT"_s).replace(link, u"LINK"_s);
     return text.replace(u'\n', u'|').left(90); // of a longer one its beginning tells
 }
 
