@@ -95,7 +95,6 @@ private:
     {
         socket.setReadBufferSize(2 * longestRequest); // beyond which nothing more would be told of
         auto *patience = new QTimer(&socket);
-        patience->setSingleShot(true);
         connect(patience, &QTimer::timeout, &socket, &QSslSocket::abort);
         patience->start(silence);
         const auto received = std::make_shared<qint64>(0);

@@ -214,6 +214,7 @@ TEST_F(FieldBinderTest, leavingTowardsCancelHandsNothingOver)
 
 TEST_F(FieldBinderTest, whatIsPastedIsOneLineAndWhatIsCutOffIsSaid)
 {
+    editName->setAccessibleName(u"Name:"_s); // as after its label
     const QString limit = u"warn: 'Name' takes no more than 8 characters.\n"_s;
     paste(u"Pea\r\n\tSoup\nhot"_s);
     EXPECT_EQ(shown("editName"), u"Pea Soup"_s);

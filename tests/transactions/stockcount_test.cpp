@@ -331,6 +331,7 @@ TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
     enter(u"A10"_s, 0);
     enter(u"A11"_s, 0.1);
     enter(u"B1"_s, 1);
+    count.sortBy(CountList::Order::Cost);
     count.setStandardCost(2, Engine::Money::fromDouble(1.25));
     count.forgetCount(2);
     kitchen.execute(u"UPDATE Item SET Suspended = true WHERE ItemID = 2"_s);
@@ -345,6 +346,7 @@ TEST_P(CountTest, KeepsADraftUntilItIsCalculatedOrGivenUp)
     EXPECT_EQ(draft->date, date);
     later.resume(*draft);
     EXPECT_EQ(later.zeroCounts(), ZeroCounts::Included);
+    EXPECT_EQ(later.list().order(), CountList::Order::Cost);
     EXPECT_EQ(later.list().counts(), (ItemQuantities{{1, 0.0}}));
     EXPECT_EQ(later.list().costs(), (ItemCosts{{3, Engine::Money::fromDouble(1.25)}}));
     EXPECT_EQ(prompts.last(), u"warn: 1 item that has been counted is no longer in the list."_s);
