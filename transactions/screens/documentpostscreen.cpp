@@ -80,6 +80,7 @@ void DocumentPostScreen::sayPosted() const
 void DocumentPostScreen::showStep()
 {
     m_ui->btnOK->setFocus(); // and not in the list that is still to come
+    m_ui->lstNotices->clear();
     if (m_posting.count() == 0)
         return;
     m_outlook = std::make_unique<PostingOutlook>(context().data.databaseTallymere(), m_kind, m_posting.keys());
@@ -107,6 +108,7 @@ void DocumentPostScreen::showOutlook()
     const auto count = static_cast<int>(m_outlook->notices().size());
     const QString lines = plural(m_outlook->lines(), tr("%n line"), tr("%n lines"));
     m_ui->lblOutlook->setText(count == 0 ? lines : tr("%1. To look at before:").arg(lines));
+    m_ui->lstNotices->clear(); // of an outlook that was begun before
     for (const PostingOutlook::Notice &notice : m_outlook->notices())
         m_ui->lstNotices->addItem(notice.text);
     m_ui->lstNotices->setVisible(count > 0);
