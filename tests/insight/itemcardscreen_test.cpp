@@ -1,5 +1,3 @@
-#include "controls/grids/rowsgrid.h"
-#include "insight/screens/costtrailscreen.h"
 #include "insight/screens/itemcard.h"
 #include "tests/support/documents.h"
 #include "tests/support/screentest.h"
@@ -18,7 +16,6 @@ struct ItemCardTest : ScreenTest
         kitchen.addReceipt(1, 1, 1, {{2, 5, 3.0}, {1, 4, 2.0}});
         kitchen.addReceipt(2, 1, 2, {{1, 8, 4.0}});
         DocumentPosting(kitchen.database(), DocumentKinds::receipt()).run(prompts, progress);
-        kitchen.addReceipt(3, 1, 2, {{1, 3, 4.0}});
     }
 
     CountedProgress progress;
@@ -42,10 +39,6 @@ TEST_F(ItemCardTest, LeadsFromItsCurvesToTheDocuments)
     receipt->close();
     settle();
 
-    context->showItem(1); // comes to the front
-    child<QPushButton>(*card, "btnWhy")->click();
-    auto *trail = opened<TfrmCostTrail>(u"frmCostTrail"_s);
-    auto *grid = child<RowsGrid>(*trail, "DBGrid1");
-    ASSERT_EQ(grid->model()->rowCount(), 2);
-    EXPECT_EQ(rowOf(*grid, 1).last(), u"3.33"_s); // (4 x 2 + 8 x 4) / 12, as it is shown
+    context->showItem(1);
+    EXPECT_TRUE(comesTrue([card] { return card->isActiveWindow(); })) << "comes to the front";
 }
