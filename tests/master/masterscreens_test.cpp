@@ -12,28 +12,6 @@ namespace {
 const QString strangeName = u"O'N \"5%\" [*] 🍮"_s;
 const QString strangeTitle = u"O'N \"5%\" [*][*] 🍮"_s; // no mark of changes
 
-// A list whose records are entered on one page and consist of a name and little else: what else is typed and where,
-// the row that comes of it after its name, and what is stored of it behind a key.
-using Plain = std::tuple<const MasterKind &, std::vector<std::pair<const char *, const char *>>, QStringList,
-                         QString, QString>;
-const Plain plainLists[] = {
-    {MasterKinds::tax(),
-     {{"editRate", "7.5"}, {"editTaxCode", "7PX"}, {"editTaxDescription", "PST"}},
-     {u"7.5"_s, u"P"_s, u"PST"_s},
-     u"SELECT TaxName, TaxID, Rate, TaxCode, TaxDescription FROM Tax"_s,
-     u"|1|7.5|P|PST"_s},
-    {MasterKinds::bank(),
-     {{"cboCurrency", "fa"}},
-     {u"Far"_s},
-     u"SELECT BankName, BankID, CurrencyID FROM Bank"_s,
-     u"|2|2"_s},
-    {MasterKinds::itemType(),
-     {{"chkInventory", " "}, {"radioStandard", " "}},
-     {},
-     u"SELECT TypeName, ItemTypeID, Inventory, CostingMethod FROM ItemType"_s,
-     u"|7|true|2"_s},
-};
-
 struct MasterScreens : ScreenTest
 {
     MasterScreens()
@@ -74,53 +52,49 @@ struct MasterScreens : ScreenTest
 
 TEST_F(MasterScreens, EnterFindChangeAndDeleteRecords)
 {
-    for (const auto &[kind, entries, shown, statement, stored] : plainLists) {
-        SCOPED_TRACE(qPrintable(kind.name));
-        openList(kind);
-        const int rowsBefore = grid->model()->rowCount();
-
-        click(*list, "btnNew");
-        takeRecord(kind);
-        type(strangeName);
-        press(Qt::Key_Return);
-        for (const auto &[field, text] : entries) {
-            typeIn(*record, field, text);
-            press(Qt::Key_Return); // as Tab
-        }
-        click(*record, "btnOK");
-        EXPECT_TRUE(isGone(record));
-        EXPECT_EQ(prompts.told(), QString());
-        EXPECT_EQ(grid->model()->rowCount(), rowsBefore + 1);
-        EXPECT_EQ(currentRow(), QStringList(strangeName) + shown) << "the list stands on it";
-        EXPECT_TRUE(kitchen.rows(statement).contains(strangeName + stored));
-
-        // opened again and changed
-        openAgain(kind);
-        EXPECT_EQ(record->windowTitle(), strangeTitle);
-        type("Zz");
-        const auto closeWith = [this](Answer answer) {
-            prompts.answer = answer;
-            record->close();
-            settle();
-            EXPECT_EQ(prompts.told(), u"Do you want to save changes?");
-        };
-        closeWith(Answer::No);
-        EXPECT_EQ(currentRow(), QStringList(strangeName) + shown);
-        openAgain(kind);
-        type("Zz");
-        closeWith(Answer::Yes);
-        EXPECT_EQ(currentRow(), QStringList(u"Zz"_s) + shown);
-
-        // deleted, with its screen
-        openAgain(kind);
-        showActive(*list);
-        click(*list, "btnDelete");
-        EXPECT_EQ(prompts.told(), u"Confirm: Delete 'Zz'?");
-        EXPECT_EQ(grid->model()->rowCount(), rowsBefore);
-        EXPECT_TRUE(isGone(record));
-        list->close();
-        settle();
+    const MasterKind &kind = MasterKinds::itemType();
+    openList(kind);
+    const int rowsBefore = grid->model()->rowCount();
+    click(*list, "btnNew");
+    takeRecord(kind);
+    type(strangeName);
+    press(Qt::Key_Return);
+    for (const char *field : {"chkInventory", "radioStandard"}) {
+        typeIn(*record, field, " ");
+        press(Qt::Key_Return); // as Tab
     }
+    click(*record, "btnOK");
+    EXPECT_TRUE(isGone(record));
+    EXPECT_EQ(prompts.told(), QString());
+    EXPECT_EQ(grid->model()->rowCount(), rowsBefore + 1);
+    EXPECT_EQ(currentRow(), QStringList(strangeName)) << "the list stands on it";
+    EXPECT_TRUE(kitchen.rows(u"SELECT TypeName, ItemTypeID, Inventory, CostingMethod FROM ItemType"_s)
+                    .contains(strangeName + u"|7|true|2"_s));
+
+    // opened again and changed
+    openAgain(kind);
+    EXPECT_EQ(record->windowTitle(), strangeTitle);
+    type("Zz");
+    const auto closeWith = [this](Answer answer) {
+        prompts.answer = answer;
+        record->close();
+        settle();
+        EXPECT_EQ(prompts.told(), u"Do you want to save changes?");
+    };
+    closeWith(Answer::No);
+    EXPECT_EQ(currentRow(), QStringList(strangeName));
+    openAgain(kind);
+    type("Zz");
+    closeWith(Answer::Yes);
+    EXPECT_EQ(currentRow(), QStringList(u"Zz"_s));
+
+    // deleted, with its screen
+    openAgain(kind);
+    showActive(*list);
+    click(*list, "btnDelete");
+    EXPECT_EQ(prompts.told(), u"Confirm: Delete 'Zz'?");
+    EXPECT_EQ(grid->model()->rowCount(), rowsBefore);
+    EXPECT_TRUE(isGone(record));
 }
 
 TEST_F(MasterScreens, KeepTheTypesOfTheSystem)
