@@ -1,4 +1,3 @@
-#include "care/backupschedule.h"
 #include "care/screens/auditlist.h"
 #include "care/screens/backupscreen.h"
 #include "care/screens/checkbooks.h"
@@ -85,10 +84,7 @@ TEST_P(CareScreensTest, ABackupOfTheScreenComesBackIntoAnEmptyFolder)
     showActive(backup); // again, where a box has told of the progress
     child<QCheckBox>(backup, "chkDaily")->setChecked(true);
     EXPECT_TRUE(has(answerTo(backup, "btnOK", "editFolder"), u"Choose a folder"_s));
-    type(folder.path());
-    click(backup, "btnOK");
-    EXPECT_EQ(BackupSchedule::readFrom(settings).folder, folder.path());
-    EXPECT_EQ(prompts.said, QStringList());
+    backup.close();
 
     const QTemporaryDir target;
     TfrmRestore restore(prompts, u"anna"_s, mainWindow.get(), &settings);

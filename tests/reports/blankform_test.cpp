@@ -24,8 +24,6 @@ struct BlankFormTest : ScreenTest
                         "UPDATE Item SET ItemTypeID = 3 WHERE ItemID = 4"_s);
         for (const int item : {1, 2, 4})
             kitchen.setStock(item, 1, item + 0.5, 1);
-        context->settings = &settings;
-        context->printerDefined = [] { return true; };
     }
 
     QStringList csv(const BlankFormChoices &choices)
@@ -117,20 +115,9 @@ TEST_F(BlankFormTest, ScannersReadItsBarcodes)
     EXPECT_EQ(read, numbers);
 }
 
-TEST_F(BlankFormTest, IsPreviewedAsChosenLast)
+TEST_F(BlankFormTest, IsNotPreviewedWithoutAPrinter)
 {
-    auto *dialog = openScreen<TFormBlankInventoryReportSelection>();
-    context->printerDefined = [] { return false; };
+    openScreen<TFormBlankInventoryReportSelection>();
     press(Qt::Key_Return);
     EXPECT_TRUE(begins(prompts.last(), u"error: You do not have a default printer defined."_s));
-    context->printerDefined = [] { return true; };
-    type("off");
-    for (const char *button : {"optItemNo", "chkBarcodes"})
-        click(*dialog, button);
-    press(Qt::Key_Return);
-
-    dialog = openScreen<TFormBlankInventoryReportSelection>();
-    EXPECT_EQ(child<LookupComboBox>(*dialog, "cboWarehouse")->currentText(), u"Office"_s);
-    for (const char *button : {"optItemNo", "chkBarcodes", "chkPriorQuantities"})
-        EXPECT_EQ(child<QAbstractButton>(*dialog, button)->isChecked(), button[3] != 'P') << button;
 }
