@@ -123,6 +123,9 @@ TEST_F(CountScreenTest, CountsByKeyboardAndCalculates)
     search("A11");
     press(Qt::Key_Return); // past the heading
     EXPECT_EQ(cursor(), u"B1"_s);
+    enter("1<Up><Up><Up>"); // to the limit, and no further
+    EXPECT_EQ(rows().last(), u"B1 2.5 2.5 0"_s);
+    search("B1");
     enter("0.5");
 
     prompts.take();
@@ -270,15 +273,6 @@ TEST_F(CountScreenTest, ReadsAgainUnderTheCountWhereOthersHavePosted)
     EXPECT_TRUE(ok->isEnabled());
     ok->click();
     EXPECT_EQ(usageLines(), QStringList(u"1|2"_s));
-}
-
-TEST_F(CountScreenTest, ArrowsStopAtWhatIsRecorded)
-{
-    choose(u"Office"_s);
-    search("B1");
-    type("1<Up><Up>"); // to the limit, and no further
-    type("<Up><Return>");
-    EXPECT_EQ(rows().last(), u"B1 2.5 2.5 0"_s);
 }
 
 TEST_F(CountScreenTest, WhatAPhoneCountsIsNotTypedOverUnseen)
