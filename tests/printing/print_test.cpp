@@ -3,14 +3,16 @@
 #include "printing/printout.h"
 #include "printing/reportoutput.h"
 #include "tests/cli/clirunner.h"
-#include "tests/printing/printsystem.h"
 #include "tests/support/files.h"
 #include "tests/support/maderows.h"
 #include "tests/support/spokenprompts.h"
 
+#include <cups/cups.h>
+#include <QDeadlineTimer>
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
+#include <QThread>
 
 // Pages on their way through a real print system: what comes out is what the preview shows, and what does not come out
 // is told.
@@ -148,6 +150,56 @@ void expectSamePicture(const QImage &expected, const QImage &arrived)
     // line 40.
     EXPECT_LT(distance(expected, turned ? arrived.transformed(QTransform().rotate(90)) : arrived), 15);
 }
+
+// The print system that cups.sh has started in the folder which TALLYMERE_TEST_CUPS names; where it could not be started
+// there, or was not, isRunning() is false and a test is skipped. While an object lives, this process and those that it
+// starts print with it.
+class PrintSystem
+{
+public:
+    PrintSystem()
+    {
+        QFile file(qEnvironmentVariable("TALLYMERE_TEST_CUPS") + u"/home"_s);
+        if (!file.open(QIODevice::ReadOnly))
+            return;
+        m_home = QString::fromLocal8Bit(file.readAll().trimmed());
+        useServer(m_home + u"/socket"_s);
+        QFile::remove(m_home + u"/printed.pdf"_s);
+    }
+    ~PrintSystem() { useServer({}); }
+    Q_DISABLE_COPY(PrintSystem)
+
+    bool isRunning() const { return !m_home.isEmpty(); }
+    QString printerDescription() const { return m_home + u"/pdf.ppd"_s; }
+
+    // The PDF file with what has arrived at the printer; fails when the jobs do not come to an end.
+    QString printed() const
+    {
+        const QDeadlineTimer patience(120'000);
+        while (jobsInHand() && !patience.hasExpired())
+            QThread::msleep(20);
+        EXPECT_FALSE(jobsInHand()) << "The print system does not end its jobs.";
+        return m_home + u"/printed.pdf"_s;
+    }
+
+    // A socket; with an empty name the machine's own.
+    static void useServer(const QString &socket)
+    {
+        socket.isEmpty() ? qunsetenv("CUPS_SERVER") : qputenv("CUPS_SERVER", socket.toLocal8Bit());
+        cupsSetServer(nullptr); // looks anew
+    }
+
+private:
+    static bool jobsInHand()
+    {
+        cups_job_t *jobs = nullptr;
+        const int count = cupsGetJobs(&jobs, nullptr, 0, CUPS_WHICHJOBS_ACTIVE);
+        cupsFreeJobs(count, jobs);
+        return count > 0;
+    }
+
+    QString m_home;
+};
 
 struct PrintTest : testing::Test
 {
