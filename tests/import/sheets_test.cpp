@@ -48,10 +48,13 @@ QByteArray xlsx(const QByteArray &rows, const QByteArray &workbook = {})
 
 QByteArray ods(const QByteArray &rows)
 {
-    return zipped({{"mimetype", "application/vnd.oasis.opendocument.spreadsheet"},
-                   {"content.xml",
-                    "<o:document xmlns:o='o' xmlns:t='t' xmlns:x='x'><t:table t:name='One'>" + rows
-                        + "</t:table></o:document>"}});
+    return zipped(
+        {{"mimetype", "application/vnd.oasis.opendocument.spreadsheet"},
+         {"content.xml",
+          "<o:document xmlns:o='o' xmlns:t='t' xmlns:x='x'><t:tracked-changes><t:table/></t:tracked-changes>"
+          "<t:table t:name='One'><t:shapes><t:table-row><t:table-cell><x:p>drawn</x:p></t:table-cell>"
+          "</t:table-row></t:shapes>"
+              + rows + "</t:table></o:document>"}});
 }
 
 // Each row as "LINE: a|b", with what is wrong with it behind " ! "; last what ends the reading.
@@ -85,6 +88,9 @@ TEST(Sheets, TellWhatAnotherProgramHasWritten)
         SCOPED_TRACE(name);
         const QByteArray bytes = contentOf(u"" SHEETS "/"_s + QLatin1StringView(name));
         EXPECT_EQ(rowsOf(bytes), QStringList(u"1: nothing here"_s));
+        QFile file(u"" SHEETS "/"_s + QLatin1StringView(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(openImportRows(file)->sheets(nullptr).join(u' '), u"Notes Items"_s);
         QStringList rows = rowsOf(bytes, u"Items"_s);
         ASSERT_EQ(rows.size(), 4);
         // An office counts from 1899-12-30 in both; the other format has no such day before March 1900.
@@ -122,7 +128,7 @@ TEST(Sheets, TellCellsAsTheyAreStored)
     EXPECT_EQ(
         rowsOf(ods("<t:table-row><t:table-cell x:value-type='error' o:value-type='string' o:string-value=''/>"
                    "<t:table-cell o:value-type='string'><x:annotation><x:p>comment</x:p></x:annotation>"
-                   "<x:p>one\n  two</x:p><x:p>three</x:p></t:table-cell></t:table-row>"
+                   "<x:p>one<x:note>foot</x:note>\n  two</x:p><x:p>three</x:p></t:table-cell></t:table-row>"
                    "<t:table-row t:number-rows-repeated='2'><t:covered-table-cell><x:p>under</x:p>"
                    "</t:covered-table-cell><t:table-cell o:value-type='percentage' o:value='0.5'/></t:table-row>"
                    "<t:table-row t:number-rows-repeated='1048570'><t:table-cell t:number-columns-repeated='16384'/>"
