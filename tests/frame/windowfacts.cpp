@@ -188,7 +188,7 @@ void addCommands(QStringList &facts, const QWidget &widget, const QString &inden
 }
 
 // Takes down with what a widget paints: which colours and fonts, neither where nor how often, which follow from fonts, and
-// whether it is an upright line, or smooth at its edges (~).
+// whether one of ours goes across all of it or down all of it, is an upright line, or smooth at its edges (~).
 class Ink final : public QPaintEngine, public QPaintDevice
 {
 public:
@@ -202,7 +202,7 @@ public:
 
     bool begin(QPaintDevice *) override { return true; }
     bool end() override { return true; }
-    void updateState(const QPaintEngineState &) override { }
+    void updateState(const QPaintEngineState &now) override { m_place = now.transform(); }
     void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { add(u"picture"_s); }
     void drawTextItem(const QPointF &, const QTextItem &item) override
     {
@@ -214,10 +214,12 @@ public:
     }
     void drawPath(const QPainterPath &path) override
     {
-        const bool isCursor = qobject_cast<const QLineEdit *>(&m_widget);
-        addShape(path.boundingRect().width() == 1 && !isCursor);
+        addShape(path.boundingRect(), path.boundingRect().width() == 1 && !m_isEdit);
     }
-    void drawPolygon(const QPointF *, int, PolygonDrawMode) override { addShape(false); }
+    void drawPolygon(const QPointF *points, int count, PolygonDrawMode) override
+    {
+        addShape(QPolygonF(QList<QPointF>(points, points + count)).boundingRect(), false);
+    }
     Type type() const override { return User; }
     QPaintEngine *paintEngine() const override { return const_cast<Ink *>(this); }
 
@@ -244,17 +246,24 @@ private:
         if (!used.contains(what))
             used << what;
     }
-    void addShape(bool isUpright)
+    void addShape(const QRectF &shape, bool isUpright)
     {
+        const QRectF covered = m_place.mapRect(shape);
+        const bool goesAcross = m_isOurs && covered.left() <= 1 && covered.right() >= m_widget.width() - 1;
+        const bool goesDown = m_isOurs && covered.top() <= 1 && covered.bottom() >= m_widget.height() - 1;
         const QPen pen = painter()->pen();
         const QBrush brush = painter()->brush();
-        add(u"%1/%2%3%4"_s.arg(pen.style() == Qt::NoPen ? u"-"_s : pen.color().name(),
-                               brush.style() == Qt::NoBrush ? u"-"_s : brush.color().name(),
-                               isUpright ? u" upright"_s : QString(),
-                               painter()->testRenderHint(QPainter::Antialiasing) ? u"~"_s : QString()));
+        add(u"%1/%2%3%4%5%6"_s.arg(pen.style() == Qt::NoPen ? u"-"_s : pen.color().name(),
+                                   brush.style() == Qt::NoBrush ? u"-"_s : brush.color().name(),
+                                   goesAcross ? u" across"_s : QString(), goesDown ? u" down"_s : QString(),
+                                   isUpright ? u" upright"_s : QString(),
+                                   painter()->testRenderHint(QPainter::Antialiasing) ? u"~"_s : QString()));
     }
 
     const QWidget &m_widget;
+    const bool m_isEdit = qobject_cast<const QLineEdit *>(&m_widget); // where upright lines are cursors
+    const bool m_isOurs = !m_isEdit && QByteArray(m_widget.metaObject()->className()).startsWith("Tallymere::");
+    QTransform m_place;
 };
 
 // Of what paints itself, or is painted by another style than the others.

@@ -6,6 +6,7 @@
 #include "tests/frame/windowfacts.h"
 #include "tests/support/screendriver.h"
 
+#include <QAccessible>
 #include <QCalendarWidget>
 #include <QDropEvent>
 #include <QFileDialog>
@@ -78,6 +79,14 @@ void turnWheel(QWidget &area)
     QApplication::sendEvent(&area, &turn);
 }
 
+void moveMouse(QWidget &field, bool isOver)
+{
+    field.setAttribute(Qt::WA_UnderMouse, isOver);
+    QEnterEvent enter({}, {}, {});
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&field, isOver ? &enter : &leave);
+}
+
 void drop(QWidget &window, const QString &file)
 {
     QMimeData data;
@@ -111,6 +120,8 @@ void WindowWalk::sendAway(QWidget *dialog)
     m_became << asked;
     if (auto *day = qobject_cast<Tallymere::DateDialog *>(dialog))
         day->accept(); // that it stands on
+    if (auto *calendar = dialog->findChild<QCalendarWidget *>())
+        Q_EMIT calendar->activated(QDate(2026, 3, 7));
     if (auto *files = qobject_cast<QFileDialog *>(dialog)) {
         files->setDirectory(QDir::tempPath());
         if (files->fileMode() == QFileDialog::ExistingFile)
@@ -214,6 +225,13 @@ void WindowWalk::typeEverywhere()
                                  "<F5>",       "<Ctrl+Return>", "<Ctrl+Delete>",
                                  "<Ctrl+Tab>", "<Shift+Tab>",   "<Esc>"})
             go(QString::fromLatin1(keys), [&] { type(keys); });
+        if (qobject_cast<QComboBox *>(field))
+            go(u"press"_s, [&field] {
+                QAccessible::queryAccessibleInterface(field)->actionInterface()->doAction(
+                    QAccessibleActionInterface::pressAction());
+            });
+        for (const bool isOver : {true, false})
+            go(isOver ? u"mouse over"_s : u"mouse away"_s, [&] { moveMouse(*field, isOver); });
         if (qobject_cast<Tallymere::DatePicker *>(field))
             go(u"day without a year"_s, [] { type("<Ctrl+A>3/7<Return>"); });
         if (auto *area = qobject_cast<QAbstractScrollArea *>(field))
