@@ -369,7 +369,11 @@ void awaitIdle()
         return std::any_of(asides.begin(), asides.end(), [](const auto *aside) { return aside->isReading(); });
     };
     EXPECT_TRUE(comesTrue([&reads] {
-        const bool wasIdle = !QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+        bool wasIdle = false;
+        for (int rounds = 0; rounds < 10 && !wasIdle; ++rounds) { // before it waits
+            wasIdle = !QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
         const QWidgetList windows = QApplication::topLevelWidgets();
         return wasIdle && std::none_of(windows.begin(), windows.end(), reads);
     }));
@@ -378,6 +382,9 @@ void awaitIdle()
 // Without what another machine or another day has otherwise: its folders, the day and the time there, versions, ports, secrets.
 QString timeless(QString text)
 {
+    const auto depends = [](QChar letter) { return letter.isDigit() || letter == u'/'; };
+    if (std::none_of(text.cbegin(), text.cend(), depends))
+        return text.replace(u'\n', u'|').left(90); // most of them, and the rest takes its time
     static const QRegularExpression folder(QRegularExpression::escape(QDir::tempPath()) + u"[^\\s\"]*"_s);
     static const QRegularExpression version(u"\\d+\\.\\d+\\.\\d+"_s), time(u"\\b\\d\\d?:\\d\\d\\b"_s),
         port(u"(?<=:)\\d{4,5}\\b"_s), link(u"(?<=PORT/)\\S+"_s);

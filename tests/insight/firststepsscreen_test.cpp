@@ -1,3 +1,4 @@
+#include "controls/windows/statelabel.h"
 #include "insight/screens/firststeps.h"
 #include "tests/support/screentest.h"
 
@@ -41,6 +42,12 @@ struct FirstStepsScreenTest : ScreenTest
 TEST_F(FirstStepsScreenTest, FollowTheBooksAndGoByThemselves)
 {
     EXPECT_TRUE(comes(u"4 of 6 done"_s));
+    kitchen.execute(u"ALTER TABLE Vendor RENAME TO Gone"_s);
+    comeBack();
+    EXPECT_TRUE(comes(u"This could not be read."_s));
+    for (const QWidget *state : screen->findChildren<StateLabel *>())
+        EXPECT_TRUE(state->isHidden()) << "neither done nor open";
+    kitchen.execute(u"ALTER TABLE Gone RENAME TO Vendor"_s);
     kitchen.addReceipt(1, 1, 1, {{1, 4, 2}});
     comeBack();
     EXPECT_TRUE(comesTrue([&] { return has(child<QLabel>(*screen, "firstCount")->text(), u"waiting"_s); }));
