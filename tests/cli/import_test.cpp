@@ -174,6 +174,15 @@ TEST_P(Import, TakesTheSheetThatAListHasWritten)
     EXPECT_EQ(withoutKeys(cli.output("list items")), withoutKeys(written));
 }
 
+TEST_P(Import, RowsMayComeThroughAPipe)
+{
+    const auto piped = cli.start("import types /dev/stdin");
+    piped->write("TypeName\nFood\n");
+    piped->closeWriteChannel();
+    EXPECT_EQ(CliRunner::finish(*piped).errors, QString());
+    EXPECT_EQ(cli.list("list types").constLast()[u"TypeName"_s], u"Food"_s);
+}
+
 TEST_P(Import, WhatAWindowWouldAskAboutNeedsAYes)
 {
     cli.execute(u"UPDATE Company SET WPeriodFromPP = 11, WPeriodFromYYYY = 2026"_s);

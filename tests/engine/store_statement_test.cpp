@@ -98,6 +98,11 @@ TEST_P(StatementTest, ValuesComeBackAsTheyWere)
             EXPECT_FALSE(read->next());
         }
     }
+    if (GetParam() == Store::Remote) {
+        const auto bulk = connection.bulkInsert(everyType());
+        bulk->add({4, 99'999, 0.0, 1.0, true, Value(), Value(), Value(), Value(), Value()});
+        EXPECT_TRUE(fails([&] { bulk->finish(); }, ErrorCode::BadValue, u"line 1, column"_s));
+    }
     if (GetParam() == Store::Local) {
         // What the sqlite3 shell shows.
         EXPECT_EQ(

@@ -74,9 +74,13 @@ TEST_F(HelpTest, WindowWithoutATopicOpensThatOfTheWindowBehind)
 // Where a dialog waits for an answer the manual can still be turned over, before it and after it.
 TEST_F(HelpTest, IsUsedBesideAModalDialog)
 {
+    system.show();
     system.findChild<QAction *>(u"HelpTopics1"_s)->trigger();
     HelpWindow &help = *helpOf(system);
     EXPECT_EQ(page(system).source(), help.manual().firstPage());
+    const auto standsOver = [&help](const QWidget &window) {
+        return comesTrue([&] { return help.windowHandle()->transientParent() == window.windowHandle(); });
+    };
     const auto turnOver = [&] {
         const QUrl before = page(system).source();
         help.showPage(help.manual().pageOf(u"frmInvTotals"_s));
@@ -86,7 +90,12 @@ TEST_F(HelpTest, IsUsedBesideAModalDialog)
         }));
     };
     QDialog dialog(&system);
-    whileOpen<QDialog>([&] { dialog.exec(); }, [&](QDialog &) { turnOver(); });
+    whileOpen<QDialog>([&] { dialog.exec(); },
+                       [&](QDialog &) {
+                           EXPECT_TRUE(standsOver(dialog));
+                           turnOver();
+                       });
+    EXPECT_TRUE(standsOver(system));
     turnOver();
 }
 

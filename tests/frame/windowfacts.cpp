@@ -62,7 +62,9 @@ QString said(const QMetaProperty &property, const QVariant &value)
     if (value.typeId() == QMetaType::QFont) {
         const auto font = value.value<QFont>();
         return u"%1%2%3"_s.arg(font.bold() ? u"bold"_s : u"plain"_s,
-                               font.pointSizeF() > QApplication::font().pointSizeF() ? u" larger"_s : QString(),
+                               font.pointSizeF() > QApplication::font().pointSizeF()       ? u" larger"_s
+                                   : font.pointSizeF() < QApplication::font().pointSizeF() ? u" smaller"_s
+                                                                                           : QString(),
                                font.capitalization() == QFont::AllUppercase ? u" capitals"_s : QString());
     }
     if (value.typeId() == QMetaType::QIcon || value.typeId() == QMetaType::QPixmap)

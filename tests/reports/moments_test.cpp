@@ -145,6 +145,15 @@ TEST_P(Moments, AListIsOfTheMomentItWasAskedFor)
     EXPECT_FALSE(csv([] {}) == before);
 }
 
+TEST_P(Moments, AReportWhoseFileIsTakenAwayMeanwhileIsRefused)
+{
+    if (GetParam() != Place::Folder)
+        return;
+    const Printing::Report made = makeReport(*data, *ReportList::find(u"Inventory Totals"_s), {});
+    QFile::remove(kitchen->directory() + "/Corvane.sqlite"_L1);
+    EXPECT_EQ(errorOf([&] { csvOf(made); }), Engine::ErrorCode::FileReplaced);
+}
+
 TEST_P(Moments, RowsThatCannotBePutAsideAreRefused)
 {
     if (GetParam() != Place::NetworkFolder)

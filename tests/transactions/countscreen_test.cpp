@@ -300,6 +300,12 @@ TEST_F(CountScreenTest, WhatAPhoneCountsIsNotTypedOverUnseen)
     EXPECT_TRUE(grid->model()->index(0, 5).data(Qt::ToolTipRole).toString().startsWith(u"Counted by Ana, "_s));
     EXPECT_TRUE(has(status(), u"Phones: 1, numbers from them: 1"_s));
     EXPECT_EQ(child<QListWidget>(*phones, "lstPhones")->count(), 1);
+    auto *addresses = child<QComboBox>(*phones, "cboAddress");
+    addresses->addItem(u"127.0.0.1"_s);
+    addresses->setCurrentIndex(addresses->count() - 1);
+    Q_EMIT addresses->activated(addresses->currentIndex());
+    EXPECT_TRUE(has(prompts.last(), u"need a new link"_s));
+    EXPECT_EQ(addresses->currentIndex(), 0);
     prompts.ok = true;
     choose(u"Freezer"_s);
     EXPECT_TRUE(isGone(phones)) << "the page ends with the count";
