@@ -27,7 +27,6 @@ TodayPanel::TodayPanel(QWidget *parent)
         addLine(line);
     layout->addStretch();
 
-    m_late.setSingleShot(true);
     m_late.setInterval(late);
     connect(&m_late, &QTimer::timeout, this, &TodayPanel::showTime);
 }

@@ -54,7 +54,7 @@ void FieldBinding::commit()
     settle();
     if (!m_entered)
         return;
-    if (!m_rule && !m_table.isEditing())
+    if (!m_rule)
         m_table.edit();
     store();
     show();

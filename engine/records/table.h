@@ -32,7 +32,8 @@ public:
     Answer<std::optional<LockOwner>> askEditedBy() const;
 
     // --- editing ------------------------------------------------------------------------------------------------
-    // Locks and re-reads the record. On an empty table this is insert(). Throws RecordLocked, RecordGone.
+    // Locks and re-reads the record, once until it is posted or cancelled. On an empty table this is insert(). Throws
+    // RecordLocked, RecordGone.
     void edit();
     void insert(); // its place is that of the index order once posted
     void set(QStringView field, const Value &value); // validates; throws WrongState when not editing

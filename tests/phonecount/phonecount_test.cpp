@@ -209,6 +209,7 @@ TEST_P(PhoneCountTest, TwoPhonesCountOneLocation)
 {
     const CountingPhone ana = join(u" Ana "_s), ben = join(u"Ben"_s);
     const QJsonObject list = ana.get("/list");
+    EXPECT_EQ(list[u"place"_s], u"Office"_s);
     EXPECT_EQ(list[u"items"_s][1][u"b"_s][0], u"4006381333931"_s);
     EXPECT_EQ(list[u"items"_s][1][u"r"_s], u"5"_s);
     const QByteArray news = "/news/" + QByteArray::number(list[u"revision"_s].toInt());

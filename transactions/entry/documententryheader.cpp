@@ -192,8 +192,7 @@ void DocumentEntry::requireLines() const
 
 void DocumentEntry::chooseInHeader(const QString &field, const Value &value)
 {
-    if (!m_header.isEditing())
-        m_header.edit();
+    m_header.edit();
     m_header.set(field, value);
 }
 

@@ -67,8 +67,7 @@ void DocumentEntry::LineRules::remove(const Step &erase)
 // The lines are locked with their header. Only what is read from then on is sure to be what is stored.
 void DocumentEntry::lockLines()
 {
-    if (!m_header.isEditing())
-        m_header.edit();
+    m_header.edit();
     m_visit.hold();
     m_visit.keepLines();
     m_lines.setMasterIsNew(false); // where they have not been read anew with that
@@ -129,16 +128,14 @@ void DocumentEntry::checkLine() { m_check.requireItem(); }
 
 void DocumentEntry::chooseItem(int itemId)
 {
-    if (!m_lines.isEditing())
-        m_lines.edit();
+    m_lines.edit();
     m_lines.set(Fields::ItemID, itemId);
 }
 
 void DocumentEntry::chooseItemByNumber(const QString &itemNo)
 {
     setLineColumn(Fields::ItemNo);
-    if (!m_lines.isEditing())
-        m_lines.edit();
+    m_lines.edit();
     m_lines.set(Fields::ItemID, itemNo.isEmpty() ? Value() : Value(m_check.itemByNumber(itemNo)));
 }
 

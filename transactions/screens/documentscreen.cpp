@@ -91,7 +91,7 @@ void DocumentScreen::buildDocument(LineOptions options)
     binder().bind(m_entry->header());
     m_grid->setLines(
         m_entry->lines(), columns,
-        {.begin = [this] { beginLine(); },
+        {.begin = [this] { m_entry->lines().edit(); },
          .append = [this] { m_entry->newLine(); },
          .remove = [this] { m_entry->removeLine(); },
          .enter = [this](const QString &field, const QString &text) { enterCell(field, text); },
@@ -481,15 +481,9 @@ void DocumentScreen::sizeForLines()
 
 // --- lines ------------------------------------------------------------------------------------------------------
 
-void DocumentScreen::beginLine()
-{
-    if (!m_entry->lines().isEditing())
-        m_entry->lines().edit();
-}
-
 void DocumentScreen::enterCell(const QString &field, const QString &text)
 {
-    beginLine();
+    m_entry->lines().edit();
     if (field == numberColumn)
         m_entry->chooseItemByNumber(text.trimmed());
     else if (field == descriptionField && !text.trimmed().isEmpty())

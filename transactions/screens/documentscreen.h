@@ -90,7 +90,6 @@ private:
     void putLineBack();
     void pasteRows();
     void btnReverseClick();
-    void beginLine();
     void enterCell(const QString &field, const QString &text);
     bool searchItem(const QString &typed); // false: none was chosen
     void takeScan(bool inItsColumn, const QString &code);
