@@ -294,6 +294,7 @@ TEST_F(EntryOnAServer, WhatOthersDoMeanwhileIsNotOverwrittenAndTold)
     const std::pair<QString, QStringList> cases[] = {
         {u"UPDATE IReceipt SET Posted = true"_s, {u"50"_s, u"6"_s}},
         {u"UPDATE IRecDet SET QtyReceived = 60 WHERE Seq = 2"_s, {u"50"_s, u"60"_s}},
+        {u"UPDATE IRecDet SET QtyReceived = 5 WHERE Seq = 1"_s, {u"5"_s, u"6"_s}}, // as it was
         {u"INSERT INTO IRecDet (ReceiptID, Seq, QtyReceived) VALUES (7, 3, 8)"_s, {u"50"_s, u"6"_s, u"8"_s}},
         {u"DELETE FROM IReceipt"_s, {u"50"_s, u"6"_s}},
     };
