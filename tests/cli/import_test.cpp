@@ -180,7 +180,7 @@ TEST_P(Import, RowsMayComeThroughAPipe)
     piped->write("TypeName\nFood\n");
     piped->closeWriteChannel();
     EXPECT_EQ(CliRunner::finish(*piped).errors, QString());
-    EXPECT_EQ(cli.list("list types").constLast()[u"TypeName"_s], u"Food"_s);
+    EXPECT_EQ(cli.list("list types").constFirst()[u"TypeName"_s], u"Food"_s);
 }
 
 TEST_P(Import, WhatAWindowWouldAskAboutNeedsAYes)
