@@ -387,8 +387,12 @@ struct FormsTest : testing::Test
             onEachPage(window, [&] { windows << factsOf(window).join(u'\n'); });
             undo();
         };
-        visitAll(write);
-        visitHost(write);
+        const auto writeAndHide = [&write](QWidget &window) {
+            write(window);
+            window.hide();
+        };
+        visitAll(writeAndHide);
+        visitHost(writeAndHide);
         const Guard guard(over.company.prompts, {}, &mainWindow);
         FinderBox finder(mainWindow, guard);
         windows << factsOf(finder).join(u'\n');
