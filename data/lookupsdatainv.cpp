@@ -114,8 +114,7 @@ LookupList TdmLookUpsInv::list(QStringView table)
 
 TableReader &TdmLookUpsInv::opened(TableReader &table)
 {
-    if (!table.isOpen())
-        table.open();
+    table.open();
     return table;
 }
 

@@ -77,8 +77,7 @@ bool LookupComboBox::eventFilter(QObject *watched, QEvent *event)
 
 void LookupComboBox::setList(Engine::DataSet &list, const QList<GridColumn> &columns, const Guard &guard)
 {
-    if (!list.isOpen())
-        list.open();
+    list.open();
     m_guard = &guard;
     m_list = new TableModel(list, columns, guard, this);
     setModel(m_list);

@@ -355,24 +355,7 @@ void PostgresStatement::endReading()
 
 // --- columns ----------------------------------------------------------------------------------------------------
 
-const pg_result *PostgresStatement::shape()
-{
-    if (m_result)
-        return m_result.get();
-    if (!m_shape || PQnfields(m_shape.get()) == 0) {
-        m_link->prepareFor(nullptr);
-        m_link->enterPipeline();
-        prepare();
-        if (PQsendDescribePrepared(m_link->handle(), m_name.constData()) != 1)
-            m_link->fail(nullptr);
-        m_link->countSent(this);
-        m_asked = Asked::UnderWay;
-        takeAsked();
-        m_shape = std::move(m_result);
-        PostgresStatement::reset();
-    }
-    return m_shape.get();
-}
+const pg_result *PostgresStatement::shape() const { return m_result ? m_result.get() : m_shape.get(); }
 
 int PostgresStatement::columnCount() { return PQnfields(shape()); }
 

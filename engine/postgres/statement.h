@@ -62,7 +62,7 @@ private:
     void forgetAnswer();
     void bindRaw(int parameter, QByteArray text);
     std::string_view cell(int column) const;
-    const pg_result *shape(); // a result that knows the columns
+    const pg_result *shape() const; // the last result, which knows the columns
 
     std::shared_ptr<PostgresLink> m_link;
     QByteArray m_sql;

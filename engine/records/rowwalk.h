@@ -8,8 +8,8 @@ namespace Engine {
 
 class ReadMoment;
 
-// Rows of an open set, one after the other, as they are at a moment. Neither moves the set nor changes what it has in
-// hand. Memory follows the keys. (A query without key fields stays with what it read when it was opened.)
+// Rows of an open set that has keys, one after the other, as they are at a moment. Neither moves the set nor changes what
+// it has in hand. Memory follows the keys.
 class RowWalk
 {
 public:
@@ -23,8 +23,7 @@ public:
     bool next(Row &row); // false after the last. DataSet::valueIn() gives the calculated fields
 
 private:
-    const std::vector<Row> *m_memory;
-    std::optional<RowSource> m_source;
+    RowSource m_source;
     KeyList m_keys;
     std::vector<Row> m_window;
     int m_next = 0;

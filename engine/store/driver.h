@@ -48,7 +48,7 @@ public:
     // Ends the execution and frees its locks and rows; bindings stay. Done as well when the pointer is let go.
     virtual void reset() = 0;
 
-    // Of a statement that has not been executed, a server has to be asked for these.
+    // Of a statement that has been executed.
     virtual int columnCount() = 0;
     virtual QString columnName(int column) = 0;
     virtual bool isNull(int column) const = 0;

@@ -1,5 +1,4 @@
 #include "host/hostoptions.h"
-#include "host/moduleloader.h"
 
 #include <QApplication>
 #include <QProcess>

@@ -1,4 +1,3 @@
-#include "base/initfile.h"
 #include "master/dialer.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/dialersetupinv.h"

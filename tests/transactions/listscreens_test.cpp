@@ -3,7 +3,6 @@
 #include "master/screens/itemsfind.h"
 #include "tests/support/documents.h"
 #include "tests/support/screentest.h"
-#include "transactions/documents/documentfilter.h"
 #include "transactions/screens/documentfilterscreen.h"
 #include "transactions/screens/documentfindscreen.h"
 #include "transactions/screens/documentpostscreen.h"
