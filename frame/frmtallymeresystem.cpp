@@ -433,7 +433,6 @@ void TFormTallymereSystem::scaleSizes()
         button->setMinimumSize(scaled(this, button->minimumWidth()), scaled(this, button->minimumHeight()));
     resize(scaled(this, width()), scaled(this, height()));
     m_ownWidth = width();
-    makeRoomForWords();
 }
 
 // Some languages, with the figures of the day beside, need more than the form has. A width that its user gave it stays.

@@ -43,11 +43,11 @@ TFormRegistryEditor::TFormRegistryEditor(SettingsStore &settings, Prompts &promp
     , m_ui(std::make_unique<Ui::TFormRegistryEditor>())
 {
     m_ui->setupUi(this);
+    keepComboBoxNames(*this);
     resize(scaled(this, width()), scaled(this, height()));
     for (const Language &language : languages())
         m_ui->cboLanguage->addItem(language.name, language.code);
     leadTabToChosen(*this);
-    keepComboBoxNames();
     // Four groups of one to three digits, for each of the servers that stand in for each other.
     static const QRegularExpression address(
         uR"(\d{1,3}\.\d{1,3}\.\d{1,3}\.\d{1,3}(,\d{1,3}\.\d{1,3}\.\d{1,3}\.\d{1,3})*)"_s);

@@ -28,6 +28,7 @@ CompanyBox::CompanyBox(Purpose purpose, Prompts &prompts, QString user, QWidget 
     , m_guard(prompts, Guard::editsOf(*this), this)
 {
     m_ui->setupUi(this);
+    keepComboBoxNames(*this);
     fillFormats();
     const bool isNew = purpose == Purpose::New;
     m_ui->panelCompany->setVisible(isNew);
@@ -37,7 +38,6 @@ CompanyBox::CompanyBox(Purpose purpose, Prompts &prompts, QString user, QWidget 
     m_ui->btnOK->setText(isNew ? tr("&Make Company") : tr("&Open"));
     scaleForm(this);
     leadTabToChosen(*this);
-    keepComboBoxNames();
     for (const QRadioButton *place : {m_ui->radioFolder, m_ui->radioServer})
         connect(place, &QRadioButton::toggled, this, &CompanyBox::showPlace);
     if (isNew)

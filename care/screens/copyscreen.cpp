@@ -26,9 +26,9 @@ TfrmCopyBooks::TfrmCopyBooks(const SettingsStore &settings, Prompts &prompts, QS
     , m_guard(prompts, Guard::editsOf(*this), this)
 {
     m_ui->setupUi(this);
+    keepComboBoxNames(*this);
     scaleForm(this);
     leadTabToChosen(*this);
-    keepComboBoxNames();
     m_ui->lblSource->setText(m_from.folder.isEmpty() ? tr("the server %1").arg(m_from.server)
                                                      : QDir::toNativeSeparators(m_from.folder));
     // Most go from the one to the other.

@@ -28,9 +28,9 @@ TfrmRestore::TfrmRestore(Prompts &prompts, QString user, QWidget *parent, Settin
     , m_guard(prompts, Guard::editsOf(*this), this)
 {
     m_ui->setupUi(this);
+    keepComboBoxNames(*this);
     scaleForm(this);
     leadTabToChosen(*this);
-    keepComboBoxNames();
     for (const QRadioButton *target : {m_ui->radioFolder, m_ui->radioServer})
         connect(target, &QRadioButton::toggled, this, &TfrmRestore::showTarget);
     connectGuarded(m_ui->btnChooseFile, &QPushButton::clicked, this, &TfrmRestore::chooseFile);

@@ -5,7 +5,6 @@
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
-#include <QVariant>
 
 namespace Tallymere {
 
@@ -71,19 +70,31 @@ private:
     ShownText m_text; // of the closed box
 };
 
+// By the class that it is, or stands in.
+bool isOurs(const QWidget *box)
+{
+    for (; box; box = box->parentWidget())
+        if (QByteArrayView(box->metaObject()->className()).startsWith("Tallymere::"))
+            return true;
+    return false;
+}
+
 QAccessibleInterface *makeNamed(const QString &, QObject *object)
 {
     auto *box = qobject_cast<QComboBox *>(object);
-    const bool ours = qobject_cast<LookupComboBox *>(box)
-        || (box && (box->property("dataField").isValid() || box->property("keepsName").isValid()));
-    return ours ? new NamedComboBox(box) : nullptr;
+    return isOurs(box) ? new NamedComboBox(box) : nullptr;
 }
 
 } // namespace
 
-void keepComboBoxNames()
+void keepComboBoxNames(const QWidget &window)
 {
     QAccessible::installFactory(makeNamed); // Qt takes it once
+    for (QComboBox *box : window.findChildren<QComboBox *>()) {
+        QAccessibleInterface *made = QAccessible::queryAccessibleInterface(box);
+        if (!dynamic_cast<NamedComboBox *>(made))
+            QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(made));
+    }
 }
 
 } // namespace Tallymere

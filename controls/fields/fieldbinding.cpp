@@ -1,6 +1,5 @@
 #include "controls/fields/fieldbinding.h"
 
-#include "controls/fields/comboboxname.h"
 #include "controls/fields/lookupcombobox.h"
 #include "controls/fields/maskedentry.h"
 #include "controls/fields/memoedit.h"
@@ -225,7 +224,6 @@ public:
         , m_box(box)
         , m_values(box->property("values").toStringList())
     {
-        keepComboBoxNames();
         QObject::connect(box, &QComboBox::activated, box, [this] {
             if (chosen() == value())
                 return;

@@ -44,7 +44,7 @@ QTableView *makeListView(QWidget *parent)
 LookupComboBox::LookupComboBox(QWidget *parent)
     : QComboBox(parent)
 {
-    keepComboBoxNames();
+    keepComboBoxNames(*this);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(12);
     setMaxVisibleItems(visibleRows);

@@ -25,7 +25,7 @@ DialogScreen::DialogScreen(ScreenContext &context, QWidget *parent)
           context.prompts, [this](const QString &column) { return focusColumn(column); }, this)
 {
     setModal(true);
-    keepComboBoxNames();
+    keepComboBoxNames(*this);
 }
 
 QWidget *DialogScreen::widgetOfColumn(const QString &) const { return nullptr; }

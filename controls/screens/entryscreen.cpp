@@ -68,7 +68,7 @@ void EntryScreen::buildScreen()
     connectListButtons(*this, m_context, m_guard, [this](const QString &field) { return m_binder.keyIn(field); });
     connectWordWrapMenus(*this);
     leadTabToChosen(*this);
-    keepComboBoxNames();
+    keepComboBoxNames(*this);
     if (auto *panel = findChild<QWidget *>(bottomPanel))
         panel->installEventFilter(this);
     new InUseNotice(*this, m_binder);

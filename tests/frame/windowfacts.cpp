@@ -5,6 +5,7 @@
 #include "tests/support/screendriver.h"
 
 #include <QAbstractEventDispatcher>
+#include <QAccessible>
 #include <QtWidgets>
 
 using namespace Qt::StringLiterals;
@@ -18,7 +19,7 @@ const QList<QByteArray> &leftOut()
         QByteArray(
             "objectName x y width height minimumWidth minimumHeight maximumWidth maximumHeight focus "
             "isActiveWindow fullScreen minimized maximized windowFilePath windowIconText frameWidth lineWidth "
-            "cursorPosition html markdown plainText documentTitle autoFillBackground length offset "
+            "cursorPosition html markdown documentTitle autoFillBackground length offset "
             "defaultSectionSize minimumSectionSize maximumSectionSize highlighted windowModified default down "
             "currentText displayText cleanText currentSection date dateTime acceptableInput undoAvailable "
             "redoAvailable hasSelectedText selectedText modified currentIndex value source iconText")
@@ -326,6 +327,15 @@ QString limitsOf(const QWidget &widget)
         + (isTransparent ? u" lets the mouse through"_s : QString());
 }
 
+// To whoever does not see it.
+QString calledBy(QWidget &widget)
+{
+    if (!(widget.focusPolicy() & Qt::TabFocus) || qobject_cast<QAbstractButton *>(&widget))
+        return {};
+    const QAccessibleInterface *known = QAccessible::queryAccessibleInterface(&widget);
+    return known ? u" called "_s + timeless(known->text(QAccessible::Name)) : QString();
+}
+
 void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
 {
     const QByteArray name = widget.metaObject()->className();
@@ -339,7 +349,7 @@ void addFacts(QStringList &facts, QWidget &widget, const QString &indent)
         facts << indent + QString::fromLatin1(name) + u' ' + widget.objectName()
                 + (widget.isHidden() ? u" hidden"_s : QString()) + differences(widget, usual(widget))
                 + signOf(widget) + limitsOf(widget) + rowOf(widget) + textsOf(widget) + paintedOf(widget)
-                + placeOf(widget) + layoutOf(widget) + (header ? columnsOf(*header) : QString());
+                + calledBy(widget) + placeOf(widget) + layoutOf(widget) + (header ? columnsOf(*header) : QString());
         if (!qobject_cast<QMenu *>(&widget))
             addCommands(facts, widget, indent + u"  "_s);
         if (auto *box = qobject_cast<QComboBox *>(&widget))
