@@ -48,7 +48,6 @@
 #include "transactions/screens/documentscreens.h"
 #include "transactions/screens/pasterowsscreen.h"
 
-#include <QAccessible>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QScreen>
@@ -602,24 +601,6 @@ TEST_F(FormsTest, NothingIsLeftInEnglish)
         });
     });
     EXPECT_TRUE(english.isEmpty()) << qPrintable(QStringList(english.values()).join(u'\n'));
-}
-
-// For programs that tell it to whoever cannot see it.
-TEST_F(FormsTest, WhateverTakesTheKeyboardHasAName)
-{
-    visitAll([](QWidget &window) {
-        SCOPED_TRACE(qPrintable(window.objectName()));
-        onEachPage(window, [&window] {
-            for (QWidget *widget : window.findChildren<QWidget *>()) {
-                const bool takesKeys = widget->isVisible() && widget->focusPolicy() & Qt::TabFocus;
-                const QAccessibleInterface *known =
-                    takesKeys && !widget->focusProxy() ? QAccessible::queryAccessibleInterface(widget) : nullptr;
-                EXPECT_FALSE(known && known->text(QAccessible::Name).isEmpty())
-                    << widget->metaObject()->className() << ' ' << qPrintable(widget->objectName()) << " in "
-                    << qPrintable(widget->parentWidget()->objectName());
-            }
-        });
-    });
 }
 
 TEST_F(FormsTest, EveryCommandHasALetterOfItsOwnAndEveryListAName)

@@ -4,8 +4,6 @@
 #include "data/readaside.h"
 #include "tests/support/screendriver.h"
 
-#include <QAbstractEventDispatcher>
-#include <QAccessible>
 #include <QtWidgets>
 
 using namespace Qt::StringLiterals;

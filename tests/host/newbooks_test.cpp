@@ -84,6 +84,8 @@ TEST(SampleBooks, AreWholeOrNotThere)
     withCompany(settings, [](Engine::Database &database) {
         EXPECT_EQ(rowsOf(database, u"SELECT COUNT(*) > 1000 FROM IHist"_s), QStringList{u"1"_s});
         EXPECT_EQ(rowsOf(database, u"SELECT COUNT(*) > 0 FROM IUsage WHERE Posted = 0"_s), QStringList{u"1"_s});
+        EXPECT_EQ(rowsOf(database, u"SELECT NextInvoiceNo - MAX(CAST(UsageNo AS integer)) FROM ARInvCtl, IUsage"_s),
+                  QStringList{u"1"_s});
         EXPECT_EQ(rowsOf(database, u"SELECT FiscalYear, TaxNo FROM Company"_s), QStringList{u"2026|16-0987453"_s});
     });
 }

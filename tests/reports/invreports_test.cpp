@@ -96,6 +96,8 @@ TEST_F(InvReportsTest, PreviewsWhatIsChosenAndOffersItAgain)
     kitchen.execute(u"DELETE FROM Warehse WHERE WarehouseID = 1"_s);
     open();
     EXPECT_EQ(wizard->GetWarehouseID(), 0);
+    const ReportSelection day{.day = QDate(2026, 3, 1)};
+    EXPECT_EQ(takenBy(ReportList::require(u"TrptStockAsOf"_s).parameters, day).day, day.day);
 }
 
 TEST_F(InvReportsTest, WithoutAPrinterShowsAndSavesWhatThePreviewIsRefusedFor)

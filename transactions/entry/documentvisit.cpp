@@ -229,7 +229,6 @@ void DocumentVisit::restoreLines(const FillLine &fill)
         m_lines.cancel();
         throw;
     }
-    m_lines.flush();
 }
 
 void DocumentVisit::writeKeptLines(const FillLine &fill)
