@@ -138,7 +138,9 @@ void WindowWalk::step(const QString &name, const std::function<void()> &act)
         return;
     const QWidgetList before = shownWindows();
     QTimer watch;
-    watch.callOnTimeout([&] {
+    watch.callOnTimeout([&, level = QThread::currentThread()->loopLevel()] {
+        if (QThread::currentThread()->loopLevel() == level)
+            return; // nothing waits: what has come stays until the step has been done, on machines of any speed
         QWidget *waiting = QApplication::activePopupWidget();
         if (!waiting)
             waiting = QApplication::activeModalWidget();
