@@ -139,12 +139,10 @@ void WindowWalk::step(const QString &name, const std::function<void()> &act)
     const QWidgetList before = shownWindows();
     QTimer watch;
     watch.callOnTimeout([&, level = QThread::currentThread()->loopLevel()] {
-        if (QThread::currentThread()->loopLevel() == level)
-            return; // nothing waits: what has come stays until the step has been done, on machines of any speed
-        QWidget *waiting = QApplication::activePopupWidget();
-        if (!waiting)
-            waiting = QApplication::activeModalWidget();
-        if (waiting && !before.contains(waiting))
+        QWidget *const popup = QApplication::activePopupWidget();
+        QWidget *const waiting = popup ? popup : QApplication::activeModalWidget();
+        // Where nothing waits, what has come stays until the step has been done, on machines of any speed.
+        if (waiting && !before.contains(waiting) && QThread::currentThread()->loopLevel() > level)
             sendAway(waiting);
     });
     watch.start(1); // of nothing, the loop would never be idle
