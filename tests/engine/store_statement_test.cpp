@@ -163,7 +163,7 @@ TEST_P(StatementTest, FailuresHaveTheEnginesCodes)
         {u"SELEC"_s, ErrorCode::General},
     };
     for (const auto &[sql, code] : cases)
-        EXPECT_EQ(errorOf([&] { connection.prepare(sql)->execute(); }), code) << sql.toStdString();
+        EXPECT_EQ(errorOf([&, &sql = sql] { connection.prepare(sql)->execute(); }), code) << sql.toStdString();
 }
 
 TEST_P(StatementTest, SentStatementsKeepTheirOrderAndAreSeenByTheNextQuestion)
