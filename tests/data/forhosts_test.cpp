@@ -2,6 +2,7 @@
 #include "data/forhosts/utilsinv.h"
 
 #include "data/layouts.h"
+#include "data/tableactions.h"
 #include "tests/support/bothstores.h"
 #include "tests/support/damage.h"
 #include "tests/support/theirtable.h"

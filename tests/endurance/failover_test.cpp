@@ -5,6 +5,7 @@
 #include "tests/cli/clirunner.h"
 #include "tests/endurance/desk.h"
 #include "tests/endurance/people.h"
+#include "tests/support/chance.h"
 #include "tests/support/files.h"
 #include "transactions/documents/documentkinds.h"
 #include "transactions/entry/documententry.h"

@@ -3,6 +3,7 @@
 
 #include "controls/windows/windowrules.h"
 #include "frame/frmtallymeresystem.h"
+#include "frame/mainoptionsinv.h"
 #include "tests/frame/testcompany.h"
 #include "tests/support/otheruser.h"
 #include "tests/support/screendriver.h"

@@ -1,5 +1,6 @@
 // The power goes while somebody works in windows, by keyboard.
 
+#include "tests/endurance/books.h"
 #include "tests/endurance/desk.h"
 #include "tests/support/otheruser.h"
 #include "transactions/documents/documentkinds.h"

@@ -2,6 +2,7 @@
 #include "engine/store/namedparameters.h"
 #include "engine/values/amounttoolarge.h"
 #include "engine/values/field.h"
+#include "engine/values/layout.h"
 #include "engine/values/linetext.h"
 #include "engine/values/money.h"
 #include "engine/values/value.h"

@@ -1,4 +1,5 @@
 #include "host/hostoptions.h"
+#include "host/moduleloader.h"
 
 #include <QApplication>
 #include <QProcess>

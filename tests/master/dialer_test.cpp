@@ -1,3 +1,4 @@
+#include "base/initfile.h"
 #include "master/dialer.h"
 #include "master/screens/dialerinv.h"
 #include "master/screens/dialersetupinv.h"

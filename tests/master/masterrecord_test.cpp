@@ -2,6 +2,7 @@
 
 #include "master/masterkinds.h"
 #include "master/masterlist.h"
+#include "master/recordnumber.h"
 #include "tests/support/kitchen.h"
 
 #include <QFile>
